@@ -1,0 +1,33 @@
+# One INTERFACE target carries the language standard, the warnings and the sanitizers of every target of ours.
+add_library(hooptab_flags INTERFACE)
+target_compile_features(hooptab_flags INTERFACE cxx_std_20)
+target_compile_options(
+  hooptab_flags
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Werror
+            -Wshadow
+            -Wconversion
+            -Wsign-conversion
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            -Wold-style-cast
+            -Wimplicit-fallthrough)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND HOOPTAB_SANITIZERS)
+  # The sanitizers' instrumentation makes this one guess wrongly inside the standard library.
+  target_compile_options(hooptab_flags INTERFACE -Wno-maybe-uninitialized)
+endif()
+if(HOOPTAB_SANITIZERS)
+  target_compile_options(hooptab_flags INTERFACE -fsanitize=${HOOPTAB_SANITIZERS} -fno-omit-frame-pointer
+                                                 -fno-sanitize-recover=all)
+  target_link_options(hooptab_flags INTERFACE -fsanitize=${HOOPTAB_SANITIZERS})
+endif()
+
+# What Qt offers to keep its users strict.
+add_library(hooptab_qt_flags INTERFACE)
+target_link_libraries(hooptab_qt_flags INTERFACE hooptab_flags)
+target_compile_definitions(
+  hooptab_qt_flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
+                             QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400
+                             QT_USE_QSTRINGBUILDER)
