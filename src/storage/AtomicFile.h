@@ -1,0 +1,29 @@
+// Reads a whole file, and replaces a whole file so that another process, or the next start after a crash,
+// finds the old bytes or the new ones and never a mixture: temporary file in the same folder, fsync, rename,
+// fsync of the folder.
+#pragma once
+
+#include "storage/FileSystem.h"
+
+#include <string>
+#include <string_view>
+
+namespace hooptab {
+
+enum class ReadOutcome { Read, Absent, TooLarge, Failed };
+
+// Files larger than this are no profile files of ours; they are refused unread.
+inline constexpr std::int64_t kLargestProfileFile = 16 * 1024 * 1024;
+
+// Fills `bytes` and `stamp` (the state that was read). `bytes` is empty unless the outcome is Read.
+[[nodiscard]] ReadOutcome readWholeFile(FileSystem& files, const std::string& path, std::string& bytes,
+                                        FileStamp& stamp);
+
+// True when the new bytes are durably in place; then `stamp` is the state written. On failure the old file
+// stands as it was and `stamp` is left alone; or, when only the folder's own fsync failed, the new file
+// stands and `stamp` is its state. No temporary file is left. Fails for a file without any write permission
+// bit, even for a user whom the system would let write. Keeps mode bits and a symbolic link's target.
+[[nodiscard]] bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_view bytes,
+                                    FileStamp& stamp);
+
+} // namespace hooptab

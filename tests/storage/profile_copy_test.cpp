@@ -1,0 +1,146 @@
+// The parsed copy that the store keeps is never older than the file, and is used as long as it can be.
+#include "storage/cinifile.h"
+#include "support/FaultyFileSystem.h"
+#include "support/TemporaryFolder.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace hooptab {
+namespace {
+
+// A drive whose clock counts in steps of two seconds, as those of USB sticks do, at the worst moment: the
+// step has just begun.
+class CoarseFileSystem : public FileSystem {
+ public:
+  bool stamp(const std::string& path, FileStamp& result) override {
+    return FileSystem::stamp(path, result) && coarsen(result);
+  }
+  bool stamp(int descriptor, FileStamp& result) override {
+    return FileSystem::stamp(descriptor, result) && coarsen(result);
+  }
+  std::int64_t nowNanoseconds() override { return now; }
+  std::int64_t now = 1'000'000'000'000;
+
+ private:
+  static bool coarsen(FileStamp& stamp) {
+    stamp.modifiedNanoseconds = 1'000'000'000'000;
+    return true;
+  }
+};
+
+class ProfileCopy : public testing::Test {
+ protected:
+  // The clock of the file is set back, as if it had not been touched for a while.
+  void age(std::int64_t seconds = 10) {
+    timespec times[2] = {};
+    ::clock_gettime(CLOCK_REALTIME, &times[0]);
+    times[0].tv_sec -= seconds;
+    times[1] = times[0];
+    ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
+  }
+  static std::string value(cinifile& store) {
+    store.Section("A");
+    store.Key("k");
+    return store.Value();
+  }
+  TemporaryFolder folder;
+  std::string path = folder.write("A.GAM", "[A]\nk=1\n");
+};
+
+TEST_F(ProfileCopy, SeesEveryChangeFromOutside) {
+  FaultyFileSystem files;
+  cinifile store(files);
+  store.Path(path);
+  age();
+  EXPECT_EQ(value(store), "1");
+  files.reads = 0;
+  EXPECT_EQ(value(store), "1");
+  EXPECT_EQ(files.reads, 0) << "a file that rests is not read again";
+
+  for (int round = 0; round < 50; ++round) { // faster than any clock of a file system ticks
+    const std::string digit = std::to_string(round % 10);
+    folder.write("A.GAM", "[A]\nk=" + digit + "\n");
+    EXPECT_EQ(value(store), digit) << "same size, written in place";
+    store.Value("own");
+    folder.write("A.GAM", "[A]\nk=not\r\n");
+    EXPECT_EQ(value(store), "not") << "same size, right after a write of our own";
+  }
+  folder.write("B.GAM", "[A]\nk=3\n");
+  std::filesystem::rename(folder.path("B.GAM"), path);
+  EXPECT_EQ(value(store), "3");
+  std::filesystem::remove(path);
+  EXPECT_EQ(value(store), "");
+  EXPECT_EQ(store.readOutcome(), ReadOutcome::Absent);
+  folder.write("A.GAM", "[A]\nk=4\n");
+  EXPECT_EQ(value(store), "4");
+}
+
+TEST_F(ProfileCopy, TrustsACoarseClockOnlyAfterItMustHaveTicked) {
+  CoarseFileSystem files;
+  cinifile store(files);
+  store.Path(path);
+  EXPECT_EQ(value(store), "1");
+  store.Value("6");
+  folder.write("A.GAM", "[A]\nk=7\r\n");
+  EXPECT_EQ(value(store), "7") << "right after a write of our own";
+  files.now += 1'999'999'999;
+  folder.write("A.GAM", "[A]\nk=2\n");
+  EXPECT_EQ(value(store), "2");
+  folder.write("A.GAM", "[A]\nk=3\n");
+  files.now += 1; // from now on a change would show in the stamp
+  EXPECT_EQ(value(store), "3");
+}
+
+TEST_F(ProfileCopy, WritesOnTopOfWhatOthersWrote) {
+  FileSystem files;
+  cinifile store(files);
+  store.Path(path);
+  EXPECT_EQ(value(store), "1");
+  folder.write("A.GAM", "[A]\nj=2\n");
+  store.Value("3");
+  EXPECT_EQ(folder.read("A.GAM"), "[A]\nj=2\nk=3\r\n");
+}
+
+TEST_F(ProfileCopy, AnUnchangedValueTouchesNothing) {
+  FaultyFileSystem files;
+  cinifile store(files);
+  store.Path(path);
+  EXPECT_EQ(value(store), "1");
+  store.Value("1");
+  EXPECT_NE(store.LastReturnCode(), 0);
+  EXPECT_EQ(files.renames, 0);
+  EXPECT_EQ(folder.read("A.GAM"), "[A]\nk=1\n");
+}
+
+TEST_F(ProfileCopy, AFailedWriteIsNotInTheCopy) {
+  FaultyFileSystem files;
+  cinifile store(files);
+  store.Path(path);
+  EXPECT_EQ(value(store), "1");
+  files.failAt = files.calls + 12;
+  files.staysBroken = true;
+  store.Value("2");
+  EXPECT_EQ(store.LastReturnCode(), 0);
+  files.reset();
+  EXPECT_EQ(value(store), "1");
+  EXPECT_EQ(store.LastReturnCode(), 0) << "reading does not change the return code";
+}
+
+TEST_F(ProfileCopy, ManyFilesDoNotDisturbEachOther) {
+  FaultyFileSystem files;
+  cinifile store(files);
+  for (int round = 0; round < 2; ++round) {
+    for (int file = 0; file < 200; ++file) {
+      const std::string name = std::to_string(file) + ".GAM";
+      if (round == 0)
+        folder.write(name, "[A]\nk=" + name + "\n");
+      store.Path(folder.path(name));
+      EXPECT_EQ(value(store), name);
+    }
+  }
+}
+
+} // namespace
+} // namespace hooptab
