@@ -1,0 +1,17 @@
+#include "storage/EventKind.h"
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::array<std::string_view, kCounterCount> kCounterNames = {
+    "FGM", "FGA", "FTM", "FTA", "F3M", "F3A", "LLM", "LLA", "LRM", "LRA", "PBM", "PBA",
+    "DKM", "DKA", "Ast", "BS",  "ST",  "TO",  "OR",  "DR",  "S1",  "S2",  "PF",  "TF"};
+
+} // namespace
+
+std::string_view counterName(Counter counter) {
+  return kCounterNames[static_cast<std::size_t>(counter)];
+}
+
+} // namespace hooptab

@@ -1,0 +1,116 @@
+#include "storage/GameDetails.h"
+
+#include "storage/Module1.h"
+#include "storage/cinifile.h"
+#include "storage/codepage.h"
+
+#include <algorithm>
+#include <array>
+
+namespace hooptab {
+
+namespace {
+
+std::string textOf(std::string_view value) {
+  return codepage::toUtf8(value);
+}
+int numberOf(std::string_view value) {
+  return Module1::leadingNumber(value);
+}
+std::uint32_t colourOf(std::string_view value) {
+  return static_cast<std::uint32_t>(std::clamp(numberOf(value), 0, 0xFFFFFF));
+}
+
+struct Detail {
+  std::string_view key;
+  void (*read)(GameDetails&, std::string_view value);
+  std::string (*write)(const GameDetails&); // null for what a new game does not get
+};
+
+// In the order in which a game is written, so that reading finds each key where the one before ended.
+constexpr std::array kDetails = std::to_array<Detail>({
+    {"VERSION", [](GameDetails& d, std::string_view value) { d.version = textOf(value); },
+     [](const GameDetails& d) { return d.version; }},
+    {"INPUTTYPE", [](GameDetails& d, std::string_view value) { d.inputType = numberOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.inputType); }},
+    {"DATE", [](GameDetails& d, std::string_view value) { d.date = textOf(value); },
+     [](const GameDetails& d) { return d.date; }},
+    {"OKPRINCIPAL", [](GameDetails& d, std::string_view value) { d.mainTeam = numberOf(value) != 0 ? 1 : 0; },
+     [](const GameDetails& d) { return std::to_string(d.mainTeam); }},
+    {"EQUIPE0ID", [](GameDetails& d, std::string_view value) { d.teamId[0] = numberOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.teamId[0]); }},
+    {"EQUIPE1ID", [](GameDetails& d, std::string_view value) { d.teamId[1] = numberOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.teamId[1]); }},
+    {"EQUIPE0COL", [](GameDetails& d, std::string_view value) { d.teamColour[0] = colourOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.teamColour[0]); }},
+    {"EQUIPE1COL", [](GameDetails& d, std::string_view value) { d.teamColour[1] = colourOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.teamColour[1]); }},
+    {"EQUIPE0ABB", [](GameDetails& d, std::string_view value) { d.abbreviation[0] = textOf(value); },
+     [](const GameDetails& d) { return d.abbreviation[0]; }},
+    {"EQUIPE1ABB", [](GameDetails& d, std::string_view value) { d.abbreviation[1] = textOf(value); },
+     [](const GameDetails& d) { return d.abbreviation[1]; }},
+    {"EQUIPE0NOM", [](GameDetails& d, std::string_view value) { d.name[0] = textOf(value); },
+     [](const GameDetails& d) { return d.name[0]; }},
+    {"EQUIPE1NOM", [](GameDetails& d, std::string_view value) { d.name[1] = textOf(value); },
+     [](const GameDetails& d) { return d.name[1]; }},
+    {"EQUIPE0CAT", [](GameDetails& d, std::string_view value) { d.category[0] = textOf(value); },
+     [](const GameDetails& d) { return d.category[0]; }},
+    {"EQUIPE1CAT", [](GameDetails& d, std::string_view value) { d.category[1] = textOf(value); },
+     [](const GameDetails& d) { return d.category[1]; }},
+    {"SUPP0", [](GameDetails& d, std::string_view value) { d.statisticLabel[0] = textOf(value); },
+     [](const GameDetails& d) { return d.statisticLabel[0]; }},
+    {"SUPP1", [](GameDetails& d, std::string_view value) { d.statisticLabel[1] = textOf(value); },
+     [](const GameDetails& d) { return d.statisticLabel[1]; }},
+    {"ENDROIT", [](GameDetails& d, std::string_view value) { d.place = textOf(value); },
+     [](const GameDetails& d) { return d.place; }},
+    {"SAISIEPAR", [](GameDetails& d, std::string_view value) { d.statistician = textOf(value); },
+     [](const GameDetails& d) { return d.statistician; }},
+    {"NBREPERIODE", [](GameDetails& d, std::string_view value) { d.periods = numberOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.periods); }},
+    {"DUREE", [](GameDetails& d, std::string_view value) { d.minutesPerPeriod = numberOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.minutesPerPeriod); }},
+    {"BONUS", [](GameDetails& d, std::string_view value) { d.bonus = numberOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.bonus); }},
+    {"PFMAX", [](GameDetails& d, std::string_view value) { d.personalFoulLimit = numberOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.personalFoulLimit); }},
+    {"TFMAX", [](GameDetails& d, std::string_view value) { d.technicalFoulLimit = numberOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.technicalFoulLimit); }},
+    {"TYPE", [](GameDetails& d, std::string_view value) { d.type = numberOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.type); }},
+    {"NOTES", [](GameDetails& d, std::string_view value) { d.notes = textOf(value); },
+     [](const GameDetails& d) { return d.notes; }},
+    {"EVENUM", [](GameDetails& d, std::string_view value) { d.nextEventNumber = numberOf(value); }, nullptr},
+    {"KEEPBONUS", [](GameDetails& d, std::string_view value) { d.keepsBonus = Module1::flag(value); },
+     nullptr},
+    {"TERMINE", [](GameDetails& d, std::string_view value) { d.isFinished = value == "1"; }, nullptr},
+});
+
+} // namespace
+
+void readDetails(const ProfileText& text, GameDetails& details) {
+  std::uint32_t seen = 0; // the first of two equal keys wins, also one without a value
+  std::size_t next = 0;
+  for (const ProfileText::Line& line : text.section(kDetailsSection)) {
+    if (line.name.empty())
+      continue;
+    for (std::size_t tried = 0; tried < kDetails.size(); ++tried) {
+      const std::size_t place = (next + tried) % kDetails.size();
+      if (!codepage::equalNames(kDetails[place].key, line.name))
+        continue;
+      if ((seen & (1U << place)) == 0 && line.kind == ProfileText::Line::Kind::KeyValue)
+        kDetails[place].read(details, line.value.substr(0, cinifile::kLongestValue));
+      seen |= 1U << place;
+      next = place + 1;
+      break;
+    }
+  }
+}
+
+void writeNewDetails(const GameDetails& details, ProfileBatch& batch) {
+  for (const Detail& detail : kDetails) {
+    if (detail.write != nullptr)
+      batch.set(std::string(kDetailsSection), std::string(detail.key), detail.write(details));
+  }
+}
+
+} // namespace hooptab

@@ -1,0 +1,48 @@
+// The details of one game: teams, date, place, rules. Read from and written to section DETAILS of its file,
+// whose keys are described in docs/formats/game.md.
+#pragma once
+
+#include "storage/ProfileBatch.h"
+#include "storage/ProfileText.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace hooptab {
+
+inline constexpr std::string_view kDetailsSection = "DETAILS";
+
+// Section DETAILS. Numbers are read leniently; texts are as stored (trailing blanks of a category are lost on
+// disk).
+struct GameDetails {
+  std::string version;
+  int inputType = 0; // 0 live, anything else entry of totals
+  std::string date;  // yyyy-mm-dd
+  int mainTeam = 0;  // OKPRINCIPAL
+  int teamId[2] = {};
+  std::uint32_t teamColour[2] = {}; // red + 256 * green + 65536 * blue
+  std::string abbreviation[2];
+  std::string name[2];
+  std::string category[2];
+  std::string statisticLabel[2]; // SUPP0, SUPP1, with their "U1-" / "U2-" prefix
+  std::string place;
+  std::string statistician;
+  int periods = 0;
+  int minutesPerPeriod = 0; // 0: a game without time
+  int bonus = 0;            // 0: no limit, as for the next two
+  int personalFoulLimit = 0;
+  int technicalFoulLimit = 0;
+  int type = 0;
+  std::string notes;
+  int nextEventNumber = 0; // EVENUM; 0 when absent
+  bool keepsBonus = false;
+  bool isFinished = false;
+};
+
+// Sets what the section holds; the rest stays as it is.
+void readDetails(const ProfileText& text, GameDetails& details);
+// The keys that a new game gets, in their order. EVENUM, KEEPBONUS and TERMINE come while it is recorded.
+void writeNewDetails(const GameDetails& details, ProfileBatch& batch);
+
+} // namespace hooptab

@@ -1,0 +1,304 @@
+#include "storage/GameFile.h"
+
+#include "storage/Module1.h"
+#include "storage/codepage.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::string_view kPeriodPrefix = "PERIODE";
+constexpr std::string_view kRosterSections[2] = {"0", "1"};
+
+std::string periodSection(int period) {
+  return std::string(kPeriodPrefix) + std::to_string(period);
+}
+
+// What every reader gets of a value.
+std::string_view readable(std::string_view value) {
+  return value.substr(0, cinifile::kLongestValue);
+}
+bool isAscii(std::string_view text) {
+  unsigned char all = 0; // without an early end the loop runs on many bytes at a time
+  for (const char letter : text)
+    all |= static_cast<unsigned char>(letter);
+  return all < 0x80;
+}
+
+// Which lines of a section are its keys: the first of each name. Numbers that grow, as recording writes them,
+// need no look-up; only from the first one that does not, names are remembered.
+class FirstKeys {
+ public:
+  explicit FirstKeys(ProfileText::SectionView lines) : m_lines(lines) {}
+
+  bool isFirst(const ProfileText::Line& line) {
+    if (line.name.empty())
+      return false;
+    m_number = std::max(Module1::wholeNumber(line.name), 0);
+    if (!m_remembers && m_number > m_highest && line.name.front() != '0') {
+      m_highest = m_number;
+      return true;
+    }
+    if (!m_remembers)
+      rememberAllBefore(line);
+    return m_names.insert(folded(line.name)).second;
+  }
+  int number() const { return m_number; } // of the line asked about last; 0 when its name is no number
+
+ private:
+  static std::string folded(std::string_view name) {
+    std::string text(name);
+    std::ranges::transform(text, text.begin(), [](char letter) {
+      return static_cast<char>(codepage::foldCase(static_cast<unsigned char>(letter)));
+    });
+    return text;
+  }
+  void rememberAllBefore(const ProfileText::Line& line) {
+    m_remembers = true;
+    for (const ProfileText::Line* before = m_lines.begin(); before != &line; ++before)
+      m_names.insert(folded(before->name));
+  }
+
+  ProfileText::SectionView m_lines;
+  int m_number = 0;
+  int m_highest = 0;
+  bool m_remembers = false;
+  std::set<std::string> m_names;
+};
+
+void readRoster(const ProfileText& text, std::string_view section, Roster& roster) {
+  const ProfileText::SectionView lines = text.section(section);
+  FirstKeys keys(lines);
+  for (const ProfileText::Line& line : lines) {
+    if (!keys.isFirst(line) || line.kind != ProfileText::Line::Kind::KeyValue)
+      continue;
+    const std::string_view value = readable(line.value);
+    const std::string_view position = Module1::field(value, 1);
+    // The name is all that follows: a comma in it was written by hand and belongs to it.
+    const std::string_view name = value.substr(std::min(position.size() + 1, value.size()));
+    roster.add({codepage::toUtf8(line.name), Module1::leadingNumber(position), codepage::toUtf8(name)});
+  }
+}
+
+// The periods that have a section, ascending.
+std::vector<int> periodsOf(const ProfileText& text) {
+  std::vector<int> periods;
+  for (const std::string_view name : text.sectionNames()) {
+    if (name.size() <= kPeriodPrefix.size() ||
+        !codepage::equalNames(name.substr(0, kPeriodPrefix.size()), kPeriodPrefix))
+      continue;
+    const std::string_view digits = name.substr(kPeriodPrefix.size());
+    const int period = Module1::wholeNumber(digits);
+    if (digits.front() != '0' && period >= 1 && period <= 255)
+      periods.push_back(period);
+  }
+  std::ranges::sort(periods);
+  return periods;
+}
+
+void readEvents(const ProfileText& text, EventList& events) {
+  events.keep(text.sharedBytes());
+  const bool allAscii = isAscii(text.bytes());
+  std::vector<std::pair<int, ProfileText::SectionView>> periods;
+  std::size_t count = 0;
+  for (const int period : periodsOf(text)) {
+    periods.emplace_back(period, text.section(periodSection(period)));
+    count += static_cast<std::size_t>(periods.back().second.end() - periods.back().second.begin());
+  }
+  events.reserve(count);
+  for (const auto& [period, lines] : periods) {
+    FirstKeys keys(lines);
+    for (const ProfileText::Line& line : lines) {
+      if (!keys.isFirst(line) || line.kind != ProfileText::Line::Kind::KeyValue)
+        continue;
+      const std::string_view value = readable(line.value);
+      const auto number = static_cast<std::uint8_t>(period);
+      if (allAscii || (isAscii(value) && isAscii(line.name)))
+        events.append(number, line.name, keys.number(), value);
+      else
+        events.appendOwned(number, codepage::toUtf8(line.name), codepage::toUtf8(value));
+    }
+  }
+}
+
+int highestNumber(const ProfileText& text) {
+  int highest = 0;
+  for (const int period : periodsOf(text)) {
+    for (const ProfileText::Line& line : text.section(periodSection(period)))
+      highest = std::max(highest, Module1::leadingNumber(line.name));
+  }
+  return highest;
+}
+
+std::string withoutBlanks(std::string text) {
+  std::erase(text, ' ');
+  return text;
+}
+
+std::string eventLine(int clockSeconds, const std::string& eventText) {
+  return Module1::clockText(clockSeconds) + withoutBlanks(eventText);
+}
+
+} // namespace
+
+void readGame(const ProfileText& text, Game& game) {
+  hooptab::readDetails(text, game.details);
+  for (std::size_t team = 0; team < 2; ++team)
+    readRoster(text, kRosterSections[team], game.roster[team]);
+  readEvents(text, game.events);
+}
+
+GameFile::GameFile(cinifile& store, std::string path) : m_store(store), m_path(std::move(path)) {}
+
+GameFileProblem GameFile::open(const ProfileText*& text) {
+  m_store.Path(m_path);
+  text = &m_store.profile();
+  switch (m_store.readOutcome()) {
+  case ReadOutcome::Absent: return GameFileProblem::Absent;
+  case ReadOutcome::TooLarge: return GameFileProblem::TooLarge;
+  case ReadOutcome::Failed: return GameFileProblem::Unreadable;
+  case ReadOutcome::Read: break;
+  }
+  const auto version = text->value(kDetailsSection, "VERSION");
+  return version && *version == kVersion ? GameFileProblem::None : GameFileProblem::InvalidFormat;
+}
+
+GameFileProblem GameFile::write(const ProfileBatch& batch) {
+  m_store.Path(m_path);
+  return m_store.write(batch) ? GameFileProblem::None : GameFileProblem::WriteFailed;
+}
+
+GameFileProblem GameFile::validate() {
+  const ProfileText* text = nullptr;
+  return open(text);
+}
+
+GameFileProblem GameFile::read(Game& game) {
+  const ProfileText* text = nullptr;
+  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
+    return problem;
+  Game fresh;
+  fresh.path = m_path;
+  readGame(*text, fresh);
+  game = std::move(fresh);
+  return GameFileProblem::None;
+}
+
+GameFileProblem GameFile::readDetails(GameDetails& details) {
+  const ProfileText* text = nullptr;
+  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
+    return problem;
+  details = {};
+  hooptab::readDetails(*text, details);
+  return GameFileProblem::None;
+}
+
+GameFileProblem GameFile::create(const GameDetails& details, const std::vector<RosterPlayer>& visitors,
+                                 const std::vector<RosterPlayer>& home) {
+  ProfileBatch batch;
+  m_store.Path(m_path);
+  for (const int period : periodsOf(m_store.profile()))
+    batch.deleteSection(periodSection(period));
+  for (const std::string_view section : {kRosterSections[0], kRosterSections[1], kDetailsSection})
+    batch.deleteSection(std::string(section));
+
+  GameDetails written = details;
+  written.version = kVersion;
+  writeNewDetails(written, batch);
+
+  const std::vector<RosterPlayer>* rosters[2] = {&visitors, &home};
+  for (std::size_t team = 0; team < 2; ++team) {
+    const std::string section(kRosterSections[team]);
+    for (const RosterPlayer& player : *rosters[team])
+      batch.set(section, player.jersey, std::to_string(player.position) + "," + player.name);
+    if (rosters[team]->empty()) // the team itself is the one player
+      batch.set(section, "0", "9," + details.abbreviation[team]);
+  }
+  if (details.inputType == 0)
+    batch.set(periodSection(1), "1", eventLine(details.minutesPerPeriod * 60, stopText("IN-", "IN-")));
+  return write(batch);
+}
+
+int GameFile::nextNumber() {
+  const ProfileText* text = nullptr;
+  return open(text) == GameFileProblem::None ? highestNumber(*text) + 1 : 0;
+}
+
+GameFileProblem GameFile::append(int period, int clockSeconds, int firstNumber,
+                                 const std::vector<std::string>& eventTexts) {
+  if (const GameFileProblem problem = validate(); problem != GameFileProblem::None)
+    return problem;
+  ProfileBatch batch;
+  int number = firstNumber;
+  for (const std::string& eventText : eventTexts)
+    batch.set(periodSection(period), std::to_string(number++), eventLine(clockSeconds, eventText));
+  batch.set(std::string(kDetailsSection), "EVENUM", std::to_string(number));
+  return write(batch);
+}
+
+GameFileProblem GameFile::insertBefore(int period, std::string_view beforeKey, int clockSeconds, int number,
+                                       const std::string& eventText) {
+  const ProfileText* text = nullptr;
+  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
+    return problem;
+  std::pair<std::string, std::string> inserted(std::to_string(number), eventLine(clockSeconds, eventText));
+  std::vector<std::pair<std::string, std::string>> lines;
+  bool isPlaced = false;
+  for (const ProfileText::Line& line : text->section(periodSection(period))) {
+    if (line.kind != ProfileText::Line::Kind::KeyValue)
+      continue;
+    if (!isPlaced && codepage::equalNames(line.name, beforeKey)) {
+      lines.push_back(inserted);
+      isPlaced = true;
+    }
+    lines.emplace_back(line.name, line.value);
+  }
+  if (!isPlaced && !beforeKey.empty())
+    return GameFileProblem::UnknownEvent;
+  if (!isPlaced)
+    lines.push_back(std::move(inserted));
+
+  ProfileBatch batch;
+  batch.setStoredSectionLines(periodSection(period), std::move(lines));
+  batch.set(std::string(kDetailsSection), "EVENUM",
+            std::to_string(std::max(highestNumber(*text), number) + 1));
+  return write(batch);
+}
+
+GameFileProblem GameFile::setDeleted(const std::vector<EventKey>& events, bool deleted) {
+  const ProfileText* text = nullptr;
+  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
+    return problem;
+  ProfileBatch batch;
+  for (const EventKey& event : events) {
+    const std::string section = periodSection(event.period);
+    const auto stored = text->value(section, codepage::fromUtf8(event.key));
+    if (!stored)
+      return GameFileProblem::UnknownEvent;
+    std::string line = codepage::toUtf8(*stored); // whole, however long
+    if (line.starts_with('E') == deleted)
+      continue;
+    batch.set(section, event.key, deleted ? "E" + line : line.substr(1));
+  }
+  return batch.isEmpty() ? GameFileProblem::None : write(batch);
+}
+
+GameFileProblem GameFile::edit(int period, std::string_view key, int clockSeconds,
+                               const std::string& eventText) {
+  const ProfileText* text = nullptr;
+  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
+    return problem;
+  const auto stored = text->value(periodSection(period), codepage::fromUtf8(key));
+  if (!stored)
+    return GameFileProblem::UnknownEvent;
+  ProfileBatch batch;
+  batch.set(periodSection(period), std::string(key),
+            (stored->starts_with('E') ? "E" : "") + eventLine(clockSeconds, eventText));
+  return write(batch);
+}
+
+} // namespace hooptab

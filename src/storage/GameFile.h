@@ -1,0 +1,87 @@
+// One game, one .GAM profile file: its details, rosters and event lines, read and written through the store.
+// The format is described in docs/formats/game.md. Counts nothing (that is the tally's work) and knows no
+// window.
+#pragma once
+
+#include "storage/GameDetails.h"
+#include "storage/GameEvent.h"
+#include "storage/Roster.h"
+#include "storage/cinifile.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace hooptab {
+
+// A whole game as read from its file.
+struct Game {
+  std::string path;
+  GameDetails details;
+  Roster roster[2];
+  EventList events;
+};
+
+enum class GameFileProblem {
+  None,
+  Absent,        // no such file, or it was removed
+  Unreadable,    // rights, a folder, a device
+  TooLarge,      // more than kLargestProfileFile
+  InvalidFormat, // VERSION is not "2.0": text 1059
+  WriteFailed,   // the disk did not take it; nothing was changed
+  UnknownEvent,  // no event of that period and key
+};
+
+class GameFile {
+ public:
+  static constexpr std::string_view kVersion = "2.0";
+
+  GameFile(cinifile& store, std::string path);
+  const std::string& path() const { return m_path; }
+
+  [[nodiscard]] GameFileProblem validate();
+  // Reads everything; on a problem `game` is left untouched.
+  [[nodiscard]] GameFileProblem read(Game& game);
+  [[nodiscard]] GameFileProblem readDetails(GameDetails& details);
+
+  // Writes a new game over whatever stood at the path, as one batch: nothing of an old game remains. A side
+  // without players is its own one player. A live game gets its first event, the full period length with
+  // nobody on court.
+  [[nodiscard]] GameFileProblem create(const GameDetails& details, const std::vector<RosterPlayer>& visitors,
+                                       const std::vector<RosterPlayer>& home);
+
+  // The number that the next event will get: one more than the highest of any period section, deleted events
+  // included.
+  [[nodiscard]] int nextNumber();
+
+  // Appends events (each ",CODE,..." as eventText() makes it, blanks are removed) to a period, at one clock,
+  // under increasing numbers from `firstNumber`, and advances EVENUM; one batch.
+  [[nodiscard]] GameFileProblem append(int period, int clockSeconds, int firstNumber,
+                                       const std::vector<std::string>& eventTexts);
+  // Puts an event before another of the same period (at the end for an empty key); it takes `number`.
+  [[nodiscard]] GameFileProblem insertBefore(int period, std::string_view beforeKey, int clockSeconds,
+                                             int number, const std::string& eventText);
+  // Marks events as deleted ("E" in front of the line) or takes the mark away; the rest of each line is
+  // unchanged. One batch.
+  struct EventKey {
+    int period;
+    std::string key;
+  };
+  [[nodiscard]] GameFileProblem setDeleted(const std::vector<EventKey>& events, bool deleted);
+  // Replaces the line of an event (the mark of a deleted one is kept).
+  [[nodiscard]] GameFileProblem edit(int period, std::string_view key, int clockSeconds,
+                                     const std::string& eventText);
+
+ private:
+  [[nodiscard]] GameFileProblem open(const ProfileText*& text);
+  [[nodiscard]] GameFileProblem write(const ProfileBatch& batch);
+
+  cinifile& m_store;
+  std::string m_path;
+};
+
+// The event part of reading, for callers that have the parsed file already (season scans, benchmarks).
+void readGame(const ProfileText& text, Game& game);
+
+} // namespace hooptab

@@ -1,0 +1,92 @@
+// The counters of one game: players, lines, team fouls and points by period, lead tracker. Filled by Tally,
+// event by event or all at once; owned by whoever shows the game.
+#pragma once
+
+#include "storage/EventKind.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+// Counts are 16 bits wide; Tally checks every sum.
+struct Counters {
+  std::array<std::int16_t, kCounterCount> counts = {};
+
+  std::int16_t operator[](Counter counter) const { return counts[static_cast<std::size_t>(counter)]; }
+  std::int16_t& operator[](Counter counter) { return counts[static_cast<std::size_t>(counter)]; }
+  [[nodiscard]] bool hasAny() const;
+  friend bool operator==(const Counters&, const Counters&) = default;
+};
+
+struct PlayerEntry {
+  Counters counters;
+  std::int32_t seconds = 0; // signed sum: a clock set back cancels out; clamp at 0 where shown
+};
+
+struct LineEntry {
+  Counters counters;
+  std::int32_t seconds = 0;
+  std::string
+      list; // IN-04-05-10-12-15, as on-court lists write it; empty for an unused entry and for entry 0
+};
+
+struct PeriodEntry {
+  std::int16_t fouls = 0;
+  std::int16_t points = 0;
+};
+
+// A two- or three-point field goal, for the shot chart.
+struct Shot {
+  std::uint8_t team = 0;
+  std::uint8_t player = 0; // entry
+  std::uint8_t line = 0;   // entry of the team's line on court
+  bool isThree = false;
+  bool isMade = false;
+  bool hasPlace = false;
+  float x = 0, y = 0;
+  std::uint32_t eventIndex = 0; // place in the event list
+};
+
+enum class LeadState : std::uint8_t { Team0, Team1, Tied };
+
+struct LeadTracker {
+  LeadState state = LeadState::Tied;
+  std::array<std::int32_t, 3> seconds = {}; // signed sums, as above
+  std::array<std::int32_t, 3> times = {};   // how often each state was entered
+  int previousClock = 0;
+  bool isStarted = false;
+};
+
+struct GameState {
+  static constexpr std::size_t kPlayerEntries = 16; // 0 is "others"
+  static constexpr std::size_t kLineEntries = 101;  // 0 is "nobody" and "other lines"
+  static constexpr std::size_t kPeriodRows = 9;     // 1..7, 8 for period 8 and later; 0 is unused
+
+  std::array<std::array<PlayerEntry, kPlayerEntries>, 2> players;
+  std::array<std::array<LineEntry, kLineEntries>, 2> lines;
+  std::array<std::array<PeriodEntry, kPeriodRows>, 2> periods = {};
+  std::array<int, 2> usedLines = {}; // entries 1..usedLines are in use
+  LeadTracker lead;
+  std::vector<Shot> shots;
+  std::uint8_t period = 1;
+  int clockSeconds = 0; // of the last event
+
+  // Who is on court now: player entries (0 for a jersey that is in no roster) and the line's entry.
+  std::array<std::array<std::uint8_t, 5>, 2> onCourt = {};
+  std::array<std::uint8_t, 2> onCourtCount = {};
+  std::array<std::uint8_t, 2> currentLine = {};
+  std::array<int, 2> lineStartClock = {};
+
+  [[nodiscard]] static std::size_t periodRow(int period) {
+    return period > 8 ? 8U : static_cast<std::size_t>(period);
+  }
+  [[nodiscard]] int points(int team) const;
+};
+
+// Points of a made-shot count: 1, 2 or 3 a shot.
+[[nodiscard]] int pointsOf(const Counters& counters);
+
+} // namespace hooptab

@@ -1,0 +1,138 @@
+#include "storage/Module1.h"
+
+#include <algorithm>
+#include <cctype>
+#include <climits>
+#include <cstdio>
+
+namespace hooptab::Module1 {
+
+namespace {
+
+bool isDigit(char letter) {
+  return letter >= '0' && letter <= '9';
+}
+bool isBlank(char letter) {
+  return letter == ' ' || letter == '\t';
+}
+
+std::int64_t numberOf(std::string_view digits) {
+  std::int64_t number = 0;
+  for (const char digit : digits) {
+    if (!isDigit(digit) || number > INT_MAX)
+      break;
+    number = number * 10 + (digit - '0');
+  }
+  return number;
+}
+
+} // namespace
+
+std::string_view field(std::string_view text, std::size_t n, char separator) {
+  while (n > 1) {
+    const auto at = text.find(separator);
+    if (at == std::string_view::npos)
+      return {};
+    text.remove_prefix(at + 1);
+    --n;
+  }
+  return text.substr(0, text.find(separator));
+}
+
+std::string_view trimmed(std::string_view text) {
+  while (!text.empty() && isBlank(text.front()))
+    text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back()))
+    text.remove_suffix(1);
+  return text;
+}
+
+int leadingNumber(std::string_view text) {
+  text = trimmed(text);
+  const bool isNegative = !text.empty() && text.front() == '-';
+  if (!text.empty() && (text.front() == '-' || text.front() == '+'))
+    text.remove_prefix(1);
+  const std::int64_t number = numberOf(text);
+  return static_cast<int>(std::clamp<std::int64_t>(isNegative ? -number : number, INT_MIN, INT_MAX));
+}
+
+bool flag(std::string_view text) {
+  text = trimmed(text);
+  constexpr std::string_view kTrue = "true";
+  const bool saysTrue =
+      std::ranges::equal(text, kTrue, [](char left, char right) { return (left | 0x20) == right; });
+  return saysTrue || leadingNumber(text) != 0;
+}
+
+std::string clockText(int seconds) {
+  seconds = std::max(seconds, 0);
+  char text[24];
+  std::snprintf(text, sizeof text, "%02d:%02d", seconds / 60, seconds % 60);
+  return text;
+}
+
+std::string onCourtList(std::vector<std::string> jerseys) {
+  for (std::string& jersey : jerseys) {
+    if (jersey.size() < 2)
+      jersey.insert(0, 2 - jersey.size(), '0');
+  }
+  const auto sorted = jerseys.begin() + static_cast<std::ptrdiff_t>(std::min<std::size_t>(jerseys.size(), 5));
+  std::stable_sort(jerseys.begin(), sorted, [](const std::string& left, const std::string& right) {
+    const int leftNumber = leadingNumber(left);
+    const int rightNumber = leadingNumber(right);
+    return leftNumber != rightNumber ? leftNumber < rightNumber : left.size() < right.size();
+  });
+  std::string list = "IN";
+  for (const std::string& jersey : jerseys)
+    list += "-" + jersey;
+  return jerseys.empty() ? "IN-" : list;
+}
+
+std::optional<std::vector<std::string_view>> jerseysOfList(std::string_view list) {
+  if (!list.starts_with("IN"))
+    return std::nullopt;
+  std::vector<std::string_view> jerseys;
+  list.remove_prefix(2);
+  while (!list.empty() && jerseys.size() < 5) {
+    list.remove_prefix(1);
+    const std::string_view jersey = list.substr(0, list.find('-'));
+    if (!jersey.empty())
+      jerseys.push_back(jersey);
+    list.remove_prefix(jersey.size());
+  }
+  return jerseys;
+}
+
+std::string percentText(int made, int attempted) {
+  return attempted <= 0 ? "0.0%" : quotientText(std::int64_t{made} * 100, attempted, 1) + "%";
+}
+
+std::string quotientText(std::int64_t numerator, std::int64_t denominator, int decimals) {
+  std::int64_t scale = 1;
+  for (int i = 0; i < decimals; ++i)
+    scale *= 10;
+  const bool isNegative = numerator < 0;
+  const std::int64_t doubled = (isNegative ? -numerator : numerator) * scale * 2;
+  const std::int64_t rounded = (doubled + denominator) / (denominator * 2); // half away from zero
+  std::string fraction = decimals > 0 ? std::to_string(rounded % scale) : std::string();
+  fraction.insert(0, static_cast<std::size_t>(decimals) - fraction.size(), '0');
+  std::string text = std::to_string(rounded / scale);
+  if (decimals > 0)
+    text += "." + fraction;
+  return isNegative && rounded != 0 ? "-" + text : text;
+}
+
+std::string withPlaceholder(std::string_view text, std::string_view replacement,
+                            std::string_view placeholder) {
+  std::string result;
+  for (;;) {
+    const auto at = text.find(placeholder);
+    result += text.substr(0, at);
+    if (at == std::string_view::npos)
+      return result;
+    result += replacement;
+    text.remove_prefix(at + placeholder.size());
+  }
+}
+
+} // namespace hooptab::Module1

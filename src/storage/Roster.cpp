@@ -1,0 +1,98 @@
+#include "storage/Roster.h"
+
+#include "storage/Module1.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+// The number of a jersey of one to three digits, or -1.
+int jerseyNumber(std::string_view jersey) {
+  return jersey.size() > 3 ? -1 : Module1::wholeNumber(jersey);
+}
+
+} // namespace
+
+void Roster::add(RosterPlayer player) {
+  m_players.push_back(std::move(player));
+  const int entry = static_cast<int>(m_players.size());
+  const std::string& jersey = m_players.back().jersey;
+  if (const int number = jerseyNumber(jersey); number >= 0) {
+    NumberEntry& known = m_byNumber[static_cast<std::size_t>(number)];
+    if (known.isTaken)
+      known.isAmbiguous = true;
+    else if (entry <= kLargestEntry)
+      known.entry = static_cast<std::int8_t>(entry);
+    known.isTaken = true;
+  }
+  if (entry > kLargestEntry)
+    return;
+  // By number, "0" before "00": as Module1::onCourtList sorts them.
+  const auto listsBefore = [this](std::int8_t left, std::int8_t right) {
+    const std::string& leftJersey = this->player(left)->jersey;
+    const std::string& rightJersey = this->player(right)->jersey;
+    const int leftNumber = Module1::leadingNumber(leftJersey);
+    const int rightNumber = Module1::leadingNumber(rightJersey);
+    return leftNumber != rightNumber ? leftNumber < rightNumber : leftJersey.size() < rightJersey.size();
+  };
+  const auto place =
+      std::ranges::upper_bound(m_entriesByNumber, static_cast<std::int8_t>(entry), listsBefore);
+  m_entriesByNumber.insert(place, static_cast<std::int8_t>(entry));
+  if (jersey == "0" && m_zeroEntry == 0)
+    m_zeroEntry = entry;
+  if (jersey == "00" && m_doubleZeroEntry == 0)
+    m_doubleZeroEntry = entry;
+}
+
+int Roster::entryOf(std::string_view jersey) const {
+  const int number = jerseyNumber(jersey);
+  const NumberEntry known = number < 0 ? NumberEntry{} : m_byNumber[static_cast<std::size_t>(number)];
+  // A number that one player alone wears is his, however it is written.
+  if (number >= 0 && !known.isAmbiguous)
+    return known.entry;
+  const auto same = std::ranges::find(m_players, jersey, &RosterPlayer::jersey);
+  if (same == m_players.end())
+    return known.entry;
+  const auto entry = static_cast<int>(same - m_players.begin()) + 1;
+  return entry <= kLargestEntry ? entry : 0;
+}
+
+int Roster::entryOfListed(std::string_view jersey) const {
+  if (hasZeroAndDoubleZero()) {
+    if (jersey == "00")
+      return m_zeroEntry;
+    if (jersey == "000")
+      return m_doubleZeroEntry;
+  }
+  return entryOf(jersey);
+}
+
+std::string Roster::listedJersey(std::string_view jersey) const {
+  if (hasZeroAndDoubleZero() && jersey == "00")
+    return "000";
+  return std::string(jersey.size() < 2 ? 2 - jersey.size() : 0, '0').append(jersey);
+}
+
+std::string Roster::listOf(unsigned entries) const {
+  std::string list = "IN";
+  for (const std::int8_t entry : m_entriesByNumber) {
+    if ((entries & (1U << entry)) == 0)
+      continue;
+    const std::string& jersey = player(entry)->jersey;
+    list += jersey.size() < 2 ? "-0" : "-";
+    if (jersey == "00" && hasZeroAndDoubleZero())
+      list += '0';
+    list += jersey;
+  }
+  return list.size() == 2 ? "IN-" : list;
+}
+
+const RosterPlayer* Roster::player(int entry) const {
+  return entry >= 1 && entry <= static_cast<int>(m_players.size())
+             ? &m_players[static_cast<std::size_t>(entry - 1)]
+             : nullptr;
+}
+
+} // namespace hooptab

@@ -1,0 +1,55 @@
+// The players of one side of one game, and the rule by which a jersey named in an event or an on-court list
+// finds its player.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace hooptab {
+
+struct RosterPlayer {
+  std::string jersey; // the key of the roster section, as written
+  int position = 9;   // 0 Center, 1 Forward, 2 Guard, 9 N/A
+  std::string name;
+};
+
+class Roster {
+ public:
+  static constexpr int kLargestEntry = 15;
+
+  void add(RosterPlayer player);
+  const std::vector<RosterPlayer>& players() const {
+    return m_players;
+  } // all of the section, more than fifteen included
+
+  // 1..15 in the order of the section's keys; 0 for everybody else ("others").
+  [[nodiscard]] int
+  entryOf(std::string_view jersey) const; // as events write it: same text first, else equal number
+  [[nodiscard]] int entryOfListed(std::string_view jersey) const; // as on-court lists write it
+  // How an on-court list writes the player: two digits at least; with both 0 and 00 in the roster, 00 and
+  // 000.
+  [[nodiscard]] std::string listedJersey(std::string_view jersey) const;
+  // The on-court list of the players whose entries are set as bits (bit n for entry n), in its order of
+  // numbers.
+  [[nodiscard]] std::string listOf(unsigned entries) const;
+  // The player of an entry, or null (entry 0, or past the end).
+  [[nodiscard]] const RosterPlayer* player(int entry) const;
+  [[nodiscard]] bool hasZeroAndDoubleZero() const { return m_zeroEntry > 0 && m_doubleZeroEntry > 0; }
+
+ private:
+  struct NumberEntry {
+    std::int8_t entry = 0; // the first of that number
+    bool isTaken = false;
+    bool isAmbiguous = false; // several players wear it ("5" and "05"), so the text decides
+  };
+  std::vector<RosterPlayer> m_players;
+  std::array<NumberEntry, 1000> m_byNumber = {}; // jerseys are 1 to 3 digits
+  std::vector<std::int8_t> m_entriesByNumber;    // entries 1..15 in the order in which lists name them
+  int m_zeroEntry = 0;
+  int m_doubleZeroEntry = 0;
+};
+
+} // namespace hooptab

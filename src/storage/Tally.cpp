@@ -1,0 +1,218 @@
+#include "storage/Tally.h"
+
+#include "storage/Module1.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace hooptab {
+
+namespace {
+
+// False when the sum leaves the 16-bit range; the count then stays at its limit.
+bool addChecked(std::int16_t& count, int amount) {
+  const int sum = count + amount;
+  count = static_cast<std::int16_t>(std::clamp<int>(sum, std::numeric_limits<std::int16_t>::min(),
+                                                    std::numeric_limits<std::int16_t>::max()));
+  return count == sum;
+}
+
+} // namespace
+
+Tally::Tally(GameState& state, const Roster& visitors, const Roster& home)
+    : m_state(state), m_rosters{&visitors, &home} {
+  clear();
+}
+
+void Tally::clear() {
+  m_state.players = {};
+  for (std::size_t team = 0; team < 2; ++team) {
+    // Entry 0 counts too; those past the used ones were never touched.
+    const auto used = static_cast<std::size_t>(m_state.usedLines[team]);
+    std::fill_n(m_state.lines[team].begin(), used + 1, LineEntry());
+    m_lastList[team].clear();
+    m_points[team] = 0;
+  }
+  m_state.periods = {};
+  m_state.usedLines = {};
+  m_state.lead = {};
+  m_state.shots.clear();
+  m_state.period = 1;
+  m_state.clockSeconds = 0;
+  m_state.onCourt = {};
+  m_state.onCourtCount = {};
+  m_state.currentLine = {};
+  m_state.lineStartClock = {};
+  m_outOfRange.reset();
+}
+
+void Tally::apply(const GameEvent& event, std::size_t eventIndex) {
+  if (event.isDeleted || !event.isUnderstood)
+    return;
+  trackClock(event);
+  if (event.code == EventCode::ARRET)
+    changeLines(event);
+  else if (event.code != EventCode::DEPART)
+    count(event, eventIndex);
+}
+
+// Time passes only within a period: across a break nothing is added to lines or lead.
+void Tally::trackClock(const GameEvent& event) {
+  LeadTracker& lead = m_state.lead;
+  if (event.period != m_state.period) {
+    m_state.period = event.period;
+    m_state.lineStartClock.fill(event.clockSeconds);
+    lead.previousClock = event.clockSeconds;
+  }
+  if (lead.isStarted)
+    lead.seconds[static_cast<std::size_t>(lead.state)] += lead.previousClock - event.clockSeconds;
+  lead.isStarted = true;
+  lead.previousClock = event.clockSeconds;
+  m_state.clockSeconds = event.clockSeconds;
+}
+
+void Tally::changeLines(const GameEvent& event) {
+  for (std::size_t team = 0; team < 2; ++team) {
+    creditTime(team, event.clockSeconds);
+    setLine(team, event.onCourt(team));
+  }
+}
+
+// The time since the line came on court goes to it and to its players; entry 0, of either, gets none.
+void Tally::creditTime(std::size_t team, int clockSeconds) {
+  const int played = m_state.lineStartClock[team] - clockSeconds;
+  m_state.lineStartClock[team] = clockSeconds;
+  if (const std::size_t line = m_state.currentLine[team]; line > 0)
+    m_state.lines[team][line].seconds += played;
+  for (std::size_t i = 0; i < m_state.onCourtCount[team]; ++i) {
+    if (const std::size_t player = m_state.onCourt[team][i]; player > 0)
+      m_state.players[team][player].seconds += played;
+  }
+}
+
+void Tally::setLine(std::size_t team, std::string_view list) {
+  if (m_lastList[team] == list)
+    return;
+  m_lastList[team] = list;
+
+  const Roster& roster = *m_rosters[team];
+  unsigned members = 0;
+  std::vector<std::string> strangers; // jerseys that are in no roster
+  std::array<std::uint8_t, 5> onCourt = {};
+  std::uint8_t count = 0;
+  // Taken apart in place: a list is met at every stop of every game of a season.
+  std::string_view rest = list.starts_with("IN") ? list.substr(2) : std::string_view();
+  for (int jerseys = 0; !rest.empty() && jerseys < 5;) {
+    rest.remove_prefix(1);
+    const std::string_view jersey = rest.substr(0, rest.find('-'));
+    rest.remove_prefix(jersey.size());
+    if (jersey.empty())
+      continue;
+    ++jerseys;
+    const int entry = roster.entryOfListed(jersey);
+    if (entry > 0 && (members & (1U << entry)) != 0)
+      continue;
+    if (entry == 0) {
+      std::string stranger = roster.listedJersey(jersey);
+      if (std::ranges::find(strangers, stranger) != strangers.end())
+        continue;
+      strangers.push_back(std::move(stranger));
+    }
+    members |= 1U << entry;
+    onCourt[count++] = static_cast<std::uint8_t>(entry);
+  }
+  m_state.onCourt[team] = onCourt;
+  m_state.onCourtCount[team] = count;
+  m_state.currentLine[team] =
+      count == 0 ? std::uint8_t{0} : static_cast<std::uint8_t>(lineEntry(team, members, strangers));
+}
+
+// The entry of this set of players: the one it had before, else the next free one, else entry 0 ("other
+// lines").
+std::size_t Tally::lineEntry(std::size_t team, unsigned members, const std::vector<std::string>& strangers) {
+  auto& lines = m_state.lines[team];
+  auto& known = m_lineMembers[team];
+  const auto used = static_cast<std::size_t>(m_state.usedLines[team]);
+  const auto listText = [&] {
+    if (strangers.empty())
+      return m_rosters[team]->listOf(members);
+    std::vector<std::string> jerseys = strangers;
+    for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
+      if ((members & (1U << entry)) != 0)
+        jerseys.push_back(m_rosters[team]->listedJersey(m_rosters[team]->player(entry)->jersey));
+    }
+    return Module1::onCourtList(std::move(jerseys));
+  };
+  std::string text;
+  if (!strangers.empty())
+    text = listText();
+  for (std::size_t entry = 1; entry <= used; ++entry) {
+    if (known[entry] == members && (strangers.empty() || lines[entry].list == text))
+      return entry;
+  }
+  if (used + 1 >= GameState::kLineEntries)
+    return 0;
+  known[used + 1] = static_cast<std::uint16_t>(members);
+  lines[used + 1].list = strangers.empty() ? listText() : std::move(text);
+  m_state.usedLines[team] = static_cast<int>(used) + 1;
+  return used + 1;
+}
+
+void Tally::count(const GameEvent& event, std::size_t eventIndex) {
+  const EventKind& kind = *event.kind();
+  const auto team = static_cast<std::size_t>(event.player.team);
+  const auto player = static_cast<std::size_t>(m_rosters[team]->entryOf(event.player.jersey));
+  const std::size_t line = m_state.currentLine[team];
+
+  const auto addTo = [&](Counter counter) {
+    const bool playerFits = addChecked(m_state.players[team][player].counters[counter], 1);
+    const bool lineFits = addChecked(m_state.lines[team][line].counters[counter], 1);
+    if (!(playerFits && lineFits) && !m_outOfRange)
+      m_outOfRange = {static_cast<int>(team),
+                      std::string(event.player.jersey) + " " + std::string(counterName(counter))};
+  };
+
+  if (!kind.isShot) {
+    addTo(kind.counter);
+    if (kind.isTeamFoul && !addChecked(m_state.periods[team][GameState::periodRow(event.period)].fouls, 1) &&
+        !m_outOfRange)
+      m_outOfRange = {static_cast<int>(team), "PF + TF"};
+    return;
+  }
+  addTo(kind.attempts);
+  if (event.isMade) {
+    addTo(kind.counter);
+    addPoints(team, kind.points);
+  }
+  if (kind.hasPlace)
+    m_state.shots.push_back({static_cast<std::uint8_t>(team), static_cast<std::uint8_t>(player),
+                             static_cast<std::uint8_t>(line), kind.points == 3, event.isMade, event.hasPlace,
+                             event.x, event.y, static_cast<std::uint32_t>(eventIndex)});
+}
+
+void Tally::addPoints(std::size_t team, int points) {
+  if (!addChecked(m_state.periods[team][GameState::periodRow(m_state.period)].points, points) &&
+      !m_outOfRange)
+    m_outOfRange = {static_cast<int>(team), "PTS"};
+  m_points[team] += points;
+
+  LeadTracker& lead = m_state.lead;
+  const LeadState state = m_points[0] == m_points[1]  ? LeadState::Tied
+                          : m_points[0] > m_points[1] ? LeadState::Team0
+                                                      : LeadState::Team1;
+  if (state != lead.state) {
+    lead.state = state;
+    ++lead.times[static_cast<std::size_t>(state)];
+  }
+}
+
+std::optional<CountOutOfRange> Tally::run(GameState& state, const EventList& events, const Roster& visitors,
+                                          const Roster& home) {
+  Tally tally(state, visitors, home);
+  std::size_t index = 0;
+  for (const GameEvent& event : events.events())
+    tally.apply(event, index++);
+  return tally.outOfRange();
+}
+
+} // namespace hooptab

@@ -1,0 +1,60 @@
+// Turns event lines into counters: one event at a time while a game is recorded, or a whole list. The same
+// function serves both, so that what is shown while recording and what is read back from disk cannot differ.
+#pragma once
+
+#include "storage/GameEvent.h"
+#include "storage/GameState.h"
+#include "storage/Roster.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+// A count that left the 16-bit range. The count stays at its limit and the tally goes on; the caller tells
+// the user.
+struct CountOutOfRange {
+  int team = 0;
+  std::string what; // "12 PF": whose count and which
+};
+
+class Tally {
+ public:
+  // Works on `state`, which it clears; both rosters must outlive it.
+  Tally(GameState& state, const Roster& visitors, const Roster& home);
+
+  void clear();
+  // Counts one event that follows all those before it. Deleted and not understood events count nothing.
+  void apply(const GameEvent& event, std::size_t eventIndex);
+
+  const std::optional<CountOutOfRange>& outOfRange() const { return m_outOfRange; }
+
+  // Clears and counts a whole list.
+  [[nodiscard]] static std::optional<CountOutOfRange> run(GameState& state, const EventList& events,
+                                                          const Roster& visitors, const Roster& home);
+
+ private:
+  void trackClock(const GameEvent& event);
+  void changeLines(const GameEvent& event);
+  void setLine(std::size_t team, std::string_view list);
+  [[nodiscard]] std::size_t lineEntry(std::size_t team, unsigned members,
+                                      const std::vector<std::string>& strangers);
+  void creditTime(std::size_t team, int clockSeconds);
+  void count(const GameEvent& event, std::size_t eventIndex);
+  void addPoints(std::size_t team, int points);
+
+  GameState& m_state;
+  const Roster* m_rosters[2];
+  std::string m_lastList[2]; // as written: an equal list is the same line
+  // Bit n: player entry n is in the line; bit 0: somebody who is in no roster, then the list's text decides
+  // too.
+  std::array<std::array<std::uint16_t, GameState::kLineEntries>, 2> m_lineMembers = {};
+  int m_points[2] = {};
+  std::optional<CountOutOfRange> m_outOfRange;
+};
+
+} // namespace hooptab

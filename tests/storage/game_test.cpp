@@ -1,0 +1,296 @@
+// Game files and their events: what is written, what is understood, and what every counter makes of it.
+#include "storage/GameFile.h"
+#include "storage/Tally.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <numeric>
+
+using namespace hooptab;
+
+namespace {
+
+constexpr const char* kHead = "[DETAILS]\r\nVERSION=2.0\r\nNBREPERIODE=4\r\nDUREE=10\r\n";
+
+class GameFileTest : public testing::Test {
+ protected:
+  // A game file with these rosters and period sections, read back.
+  Game gameWith(const std::string& sections) {
+    m_folder.write("g.GAM", kHead + sections);
+    Game game;
+    EXPECT_EQ(m_file.read(game), GameFileProblem::None);
+    return game;
+  }
+  static GameState tallied(const Game& game) {
+    GameState state;
+    EXPECT_EQ(Tally::run(state, game.events, game.roster[0], game.roster[1]), std::nullopt);
+    return state;
+  }
+
+  TemporaryFolder m_folder;
+  FileSystem m_files;
+  cinifile m_store{m_files};
+  GameFile m_file{m_store, m_folder.path("g.GAM")};
+};
+
+std::string fiveAside(const std::string& events) {
+  return "[0]\r\n4=0,Ana\r\n5=1,Bo\r\n10=2,Cy\r\n12=9,Di\r\n15=9,Ed\r\n16=9,Flo\r\n"
+         "[1]\r\n3=0,Gus\r\n7=1,Hal\r\n8=2,Ian\r\n11=9,Jo\r\n22=9,Kim\r\n[PERIODE1]\r\n" +
+         events;
+}
+
+TEST_F(GameFileTest, NewGameIsWrittenInOrderAndLeavesNothingOfTheOld) {
+  m_folder.write("g.GAM",
+                 std::string(kHead) +
+                     "EVENUM=9\r\nTERMINE=1\r\nKEEPBONUS=1\r\n[0]\r\n99=0,Old\r\n[PERIODE1]\r\n1=x\r\n"
+                     "[PERIODE12]\r\n2=y\r\n");
+  GameDetails details;
+  details.date = "2026-03-01";
+  details.abbreviation[0] = "LYNX";
+  details.abbreviation[1] = "PUMA";
+  details.category[0] = "AAA ";
+  details.periods = 4;
+  details.minutesPerPeriod = 8;
+  details.notes = "Été, œuf";
+  ASSERT_EQ(m_file.create(details, {{"5", 2, "Zoé"}}, {}), GameFileProblem::None);
+  EXPECT_EQ(
+      m_folder.read("g.GAM"),
+      "[DETAILS]\r\nVERSION=2.0\r\nINPUTTYPE=0\r\nDATE=2026-03-01\r\nOKPRINCIPAL=0\r\nEQUIPE0ID="
+      "0\r\nEQUIPE1ID=0\r\n"
+      "EQUIPE0COL=0\r\nEQUIPE1COL=0\r\nEQUIPE0ABB=LYNX\r\nEQUIPE1ABB=PUMA\r\nEQUIPE0NOM=\r\nEQUIPE1NOM=\r\n"
+      "EQUIPE0CAT=AAA "
+      "\r\nEQUIPE1CAT=\r\nSUPP0=\r\nSUPP1=\r\nENDROIT=\r\nSAISIEPAR=\r\nNBREPERIODE=4\r\nDUREE=8\r\n"
+      "BONUS=0\r\nPFMAX=0\r\nTFMAX=0\r\nTYPE=0\r\nNOTES=\xC9t\xE9, \x9Cuf\r\n"
+      "[0]\r\n5=2,Zo\xE9\r\n[1]\r\n0=9,PUMA\r\n[PERIODE1]\r\n1=08:00,ARRET,IN-,IN-\r\n");
+  EXPECT_EQ(m_file.nextNumber(), 2);
+}
+
+TEST_F(GameFileTest, AppendingAdvancesTheCounter) {
+  Game game = gameWith(fiveAside("57=09:00,SPF,0-4\r\n"));
+  ASSERT_EQ(m_file.append(2, 541, 58, {", SA, 0-5", eventText(EventCode::GF3, false, 1, "7", {{100.9, 44}})}),
+            GameFileProblem::None);
+  ASSERT_EQ(m_file.read(game), GameFileProblem::None);
+  EXPECT_EQ(game.details.nextEventNumber, 60);
+  ASSERT_EQ(game.events.size(), 3U);
+  EXPECT_EQ(game.events[1].line, "09:01,SA,0-5");
+  EXPECT_EQ(game.events[2].line, "09:01,GF3A,1-7,100,44");
+  EXPECT_EQ(m_file.nextNumber(), 60);
+}
+
+TEST_F(GameFileTest, DeletingRestoringEditingAndInsertingKeepTheRest) {
+  gameWith(fiveAside("1=10:00,DEPART\r\n2=09:00,SPF,0-4\r\n;note\r\n3=08:00,SA,0-5\r\n"));
+  const std::string before = m_folder.read("g.GAM");
+  const std::vector<GameFile::EventKey> both = {{1, "2"}, {1, "3"}};
+  ASSERT_EQ(m_file.setDeleted(both, true), GameFileProblem::None);
+  EXPECT_NE(m_folder.read("g.GAM").find("\r\n2=E09:00,SPF,0-4\r\n;note\r\n3=E08:00,SA,0-5\r\n"),
+            std::string::npos);
+  ASSERT_EQ(m_file.setDeleted(both, true), GameFileProblem::None); // once more changes nothing
+  ASSERT_EQ(m_file.setDeleted(both, false), GameFileProblem::None);
+  EXPECT_EQ(m_folder.read("g.GAM"), before);
+
+  ASSERT_EQ(m_file.edit(1, "3", 475, ",SA,0-10"), GameFileProblem::None);
+  ASSERT_EQ(m_file.insertBefore(1, "3", 500, 4, ",STO,1-7"), GameFileProblem::None);
+  Game game;
+  ASSERT_EQ(m_file.read(game), GameFileProblem::None);
+  std::vector<std::string> order;
+  for (const GameEvent& event : game.events)
+    order.push_back(std::string(event.key) + "=" + std::string(event.line));
+  EXPECT_EQ(order, (std::vector<std::string>{"1=10:00,DEPART", "2=09:00,SPF,0-4", "4=08:20,STO,1-7",
+                                             "3=07:55,SA,0-10"}));
+  EXPECT_EQ(game.details.nextEventNumber, 5);
+  EXPECT_EQ(m_file.insertBefore(1, "77", 500, 5, ",STO,1-7"), GameFileProblem::UnknownEvent);
+  EXPECT_EQ(m_file.setDeleted({{1, "77"}}, true), GameFileProblem::UnknownEvent);
+}
+
+TEST_F(GameFileTest, ALineLongerThanAnyReaderGetsSurvivesBeingDeletedAndRestored) {
+  gameWith(fiveAside("1=09:00,SPF,0-4," + std::string(70000, 'x') + "\r\n"));
+  const std::string before = m_folder.read("g.GAM");
+  ASSERT_EQ(m_file.setDeleted({{1, "1"}}, true), GameFileProblem::None);
+  EXPECT_EQ(m_folder.read("g.GAM").size(), before.size() + 1);
+  ASSERT_EQ(m_file.setDeleted({{1, "1"}}, false), GameFileProblem::None);
+  EXPECT_EQ(m_folder.read("g.GAM"), before);
+}
+
+TEST_F(GameFileTest, OtherFilesAreRefusedAndNothingIsWrittenToThem) {
+  for (const std::string& bytes :
+       {std::string("[DETAILS]\r\nVERSION=1.0\r\n"), std::string("[DETAILS]\r\nVERSION=2.00\r\n"),
+        std::string("[X]\r\nVERSION=2.0\r\n"), std::string(), std::string("\0\1\xFF\xFE[", 5)}) {
+    m_folder.write("g.GAM", bytes);
+    Game game;
+    EXPECT_EQ(m_file.read(game), GameFileProblem::InvalidFormat);
+    EXPECT_EQ(m_file.append(1, 0, 1, {",DEPART"}), GameFileProblem::InvalidFormat);
+    EXPECT_EQ(m_folder.read("g.GAM"), bytes);
+  }
+  GameFile absent(m_store, m_folder.path("none.GAM"));
+  EXPECT_EQ(absent.validate(), GameFileProblem::Absent);
+  EXPECT_EQ(absent.append(1, 0, 1, {",DEPART"}), GameFileProblem::Absent);
+  EXPECT_FALSE(m_folder.holds("none.GAM"));
+}
+
+TEST_F(GameFileTest, AllPeriodsAreReadAscendingAndEachKeyOnce) {
+  const Game game = gameWith(
+      "[PERIODE10]\r\n5=01:00,SA,0-1\r\n[PERIODE2]\r\n4=02:00,SA,0-1\r\n4=03:00,SA,0-2\r\n3=01:30,SA,0-3\r\n"
+      "3=01:29,SA,0-4\r\n[periode1]\r\n1=09:00,SA,0-5\r\n[PERIODE01]\r\n9=00:00,SA,0-6\r\n[PERIODEX]\r\n1="
+      "1\r\n");
+  std::string order;
+  for (const GameEvent& event : game.events)
+    order += std::to_string(event.period) + ":" + std::string(event.key) + ":" +
+             std::string(event.player.jersey) + " ";
+  EXPECT_EQ(order, "1:1:5 2:4:1 2:3:3 10:5:1 ");
+}
+
+TEST(GameEventTest, WhatCannotBeUnderstoodIsKeptAndCountsNothing) {
+  for (const char* bad : {"", "E", "9:00,SPF,0-4", "09:00", "09:00,", "09:00,SPX,0-4", "09:00,spf,0-4",
+                          "09:00,SPF", "09:00,SPF,2-4", "09:00,SPF,0-", "09:00,SPF,04", "09:00,IN,0-4",
+                          "09:00,ARRET,OUT-04,IN-", "E09:00,GFGAA,0-4", "09:60,SPF,0-4"}) {
+    const GameEvent event = GameEvent::parse(1, "5", bad);
+    EXPECT_FALSE(event.isUnderstood) << bad;
+    EXPECT_EQ(event.line, bad);
+  }
+  EXPECT_FALSE(GameEvent::parse(1, "x", "09:00,SPF,0-4").isUnderstood);
+}
+
+TEST(GameEventTest, ShotsCountWithAndWithoutAPlace) {
+  const GameEvent decimal = GameEvent::parse(1, "1", "09:41,GFG,0-12,42.5,51");
+  EXPECT_TRUE(decimal.isUnderstood && decimal.isMade && decimal.hasPlace);
+  EXPECT_FLOAT_EQ(decimal.x, 42.5F);
+  for (const char* placeless : {"09:41,GF3A,0-12", "09:41,GF3A,0-12,42", "09:41,GF3A,0-12,x,y",
+                                "09:41,GF3A,0-12,,", "09:41,GF3A,0-12,nan,1"}) {
+    const GameEvent event = GameEvent::parse(1, "1", placeless);
+    EXPECT_TRUE(event.isUnderstood) << placeless;
+    EXPECT_FALSE(event.hasPlace || event.isMade) << placeless;
+  }
+  EXPECT_TRUE(GameEvent::parse(1, "1", "09:41,GFG,0-12,1,2,3,more").hasPlace);
+  const GameEvent deleted = GameEvent::parse(1, "1", "E09:20,SPF,1-8");
+  EXPECT_TRUE(deleted.isDeleted && deleted.isUnderstood);
+}
+
+TEST(RosterTest, JerseysFindTheSameTextFirstThenTheEqualNumber) {
+  Roster roster;
+  for (const char* jersey : {"5", "05", "0", "00", "123", "A1"})
+    roster.add({jersey, 0, ""});
+  EXPECT_EQ(roster.entryOf("05"), 2);
+  EXPECT_EQ(roster.entryOf("005"), 1);
+  EXPECT_EQ(roster.entryOf("A1"), 6);
+  EXPECT_EQ(roster.entryOf("77"), 0);
+  EXPECT_EQ(roster.entryOfListed("00"), 3);
+  EXPECT_EQ(roster.entryOfListed("000"), 4);
+  EXPECT_EQ(roster.listedJersey("0"), "00");
+  EXPECT_EQ(roster.listedJersey("00"), "000");
+  for (int i = 7; i <= 16; ++i)
+    roster.add({std::to_string(i + 20), 0, ""});
+  EXPECT_EQ(roster.entryOf("35"), 15);
+  EXPECT_EQ(roster.entryOf("36"), 0) << "the sixteenth player counts among the others";
+}
+
+using TallyTest = GameFileTest;
+
+TEST_F(TallyTest, CountsPlayersLinesFoulsAndPoints) {
+  const Game game = gameWith(fiveAside(
+      "1=10:00,ARRET,IN-,IN-\r\n2=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\r\n3=10:00,DEPART\r\n"
+      "4=09:41,GFG,0-12,42,51\r\n5=09:41,SA,0-5\r\n6=E09:20,SPF,1-8\r\n7=09:00,GFTA,1-8\r\n8=09:00,GFT,1-"
+      "8\r\n"
+      "9=08:30,STF,1-8\r\n10=08:00,ARRET,IN-15-12-10-5-16,IN-03-07-08-11-22\r\n11=08:00,DEPART\r\n"
+      "12=07:00,GLG,0-16\r\n13=06:00,SPF,0-99\r\n14=05:00,ARRET,IN-04-05-10-12-15,IN-22-11-08-07-03\r\n"));
+  const GameState state = tallied(game);
+  const auto count = [&](int team, int entry, Counter counter) {
+    return state.players[static_cast<std::size_t>(team)][static_cast<std::size_t>(entry)].counters[counter];
+  };
+  EXPECT_EQ(count(0, 4, Counter::FGM), 1);
+  EXPECT_EQ(count(0, 2, Counter::Ast), 1);
+  EXPECT_EQ(count(1, 3, Counter::PF), 0) << "a deleted foul";
+  EXPECT_EQ(count(1, 3, Counter::FTA), 2);
+  EXPECT_EQ(count(1, 3, Counter::FTM), 1);
+  EXPECT_EQ(count(1, 3, Counter::TF), 1);
+  EXPECT_EQ(count(0, 6, Counter::LLM), 1);
+  EXPECT_EQ(count(0, 0, Counter::PF), 1) << "nobody of the roster wears 99";
+  EXPECT_EQ(state.periods[0][1].fouls, 1);
+  EXPECT_EQ(state.periods[1][1].fouls, 1) << "a technical is a team foul";
+  EXPECT_EQ(state.points(0), 4);
+  EXPECT_EQ(state.points(1), 1);
+  EXPECT_EQ(state.players[0][1].seconds, 120);
+  EXPECT_EQ(state.players[0][2].seconds, 300);
+  EXPECT_EQ(state.players[0][0].seconds, 0);
+  EXPECT_EQ(state.usedLines[0], 2);
+  EXPECT_EQ(state.usedLines[1], 1);
+  EXPECT_EQ(state.lines[0][2].list, "IN-05-10-12-15-16");
+  EXPECT_EQ(state.lines[0][1].seconds, 120);
+  EXPECT_EQ(state.lines[0][2].seconds, 180);
+  EXPECT_EQ(state.lines[0][2].counters[Counter::LLM], 1);
+  EXPECT_EQ(state.currentLine[0], 1);
+  EXPECT_EQ(state.lead.seconds, (std::array{281, 0, 19}));
+  EXPECT_EQ(state.lead.times, (std::array{1, 0, 0}));
+  ASSERT_EQ(state.shots.size(), 1U);
+  EXPECT_EQ(state.shots[0].eventIndex, 3U);
+}
+
+TEST_F(TallyTest, NothingIsAddedAcrossABreakAndAClockSetBackCancelsOut) {
+  const Game game = gameWith(fiveAside("1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\r\n2=00:00,ARRET,"
+                                       "IN-04-05-10-12-15,IN-\r\n[PERIODE2]\r\n"
+                                       "3=10:00,DEPART\r\n4=09:00,SA,0-4\r\n5=09:30,SA,0-4\r\n6=08:00,ARRET,"
+                                       "IN-,IN-\r\n[PERIODE9]\r\n7=05:00,SPF,0-4\r\n"));
+  const GameState state = tallied(game);
+  EXPECT_EQ(state.players[0][1].seconds, 600 + 120);
+  EXPECT_EQ(state.lead.seconds, (std::array{0, 0, 720}));
+  EXPECT_EQ(state.periods[0][8].fouls, 1);
+  EXPECT_EQ(state.lines[0][0].counters[Counter::PF], 1) << "nobody was on court";
+}
+
+TEST_F(TallyTest, StrangersInAListMakeALineOfTheirOwn) {
+  const Game game = gameWith(
+      fiveAside("1=10:00,ARRET,IN-04-05-10-12-77,IN-\r\n2=09:00,ARRET,IN-04-05-10-12-78,IN-\r\n"
+                "3=08:00,ARRET,IN-77-04-05-10-12,IN-\r\n4=07:00,ARRET,IN-04-04-05,IN-\r\n5=06:00,ARRET\r\n"));
+  const GameState state = tallied(game);
+  EXPECT_EQ(state.usedLines[0], 3);
+  EXPECT_EQ(state.lines[0][1].seconds, 120);
+  EXPECT_EQ(state.lines[0][2].seconds, 60);
+  EXPECT_EQ(state.lines[0][3].list, "IN-04-05");
+  EXPECT_EQ(state.players[0][1].seconds, 240) << "twice in a list is once on court";
+  EXPECT_EQ(state.onCourtCount[0], 0);
+}
+
+TEST_F(TallyTest, TheHundredAndFirstLineGoesToEntryZeroWithoutTime) {
+  std::string events;
+  int number = 1;
+  for (int i = 0; i < 102; ++i)
+    events += std::to_string(number++) + "=10:00,ARRET,IN-04-" + std::to_string(100 + i) + ",IN-\r\n";
+  events += std::to_string(number) + "=09:00,SA,0-4\r\n" + std::to_string(number + 1) +
+            "=08:00,ARRET,IN-04-100,IN-\r\n";
+  const GameState state = tallied(gameWith(fiveAside(events)));
+  EXPECT_EQ(state.usedLines[0], 100);
+  EXPECT_EQ(state.lines[0][0].counters[Counter::Ast], 1);
+  EXPECT_EQ(state.lines[0][0].seconds, 0);
+  EXPECT_EQ(state.currentLine[0], 1) << "the first line finds its entry again";
+  EXPECT_EQ(state.players[0][1].seconds, 120);
+}
+
+TEST_F(TallyTest, ACountOutOfRangeIsNamedAndStaysAtItsLimit) {
+  Roster rosters[2];
+  rosters[0].add({"4", 0, "Ana"});
+  EventList events;
+  for (int i = 1; i <= 32769; ++i)
+    events.appendOwned(1, std::to_string(i), "09:00,SA,0-4");
+  GameState state;
+  const auto outOfRange = Tally::run(state, events, rosters[0], rosters[1]);
+  ASSERT_TRUE(outOfRange);
+  EXPECT_EQ(outOfRange->what, "4 Ast");
+  EXPECT_EQ(state.players[0][1].counters[Counter::Ast], 32767);
+}
+
+TEST_F(TallyTest, ClearingForgetsTheGameBefore) {
+  const Game game = gameWith(fiveAside(
+      "1=10:00,ARRET,IN-04-05-10-12-15,IN-03\r\n2=09:00,GF3,0-4,100,44\r\n3=08:00,ARRET,IN-04,IN-\r\n"));
+  GameState again = tallied(game);
+  const GameState once = again;
+  ASSERT_EQ(Tally::run(again, game.events, game.roster[0], game.roster[1]), std::nullopt);
+  EXPECT_EQ(again.points(0), once.points(0));
+  EXPECT_EQ(again.usedLines, once.usedLines);
+  EXPECT_EQ(again.lines[0][1].seconds, once.lines[0][1].seconds);
+  EXPECT_EQ(again.shots.size(), 1U);
+  EventList none;
+  ASSERT_EQ(Tally::run(again, none, game.roster[0], game.roster[1]), std::nullopt);
+  EXPECT_EQ(again.points(0), 0);
+  EXPECT_TRUE(again.lines[0][1].list.empty());
+}
+
+} // namespace
