@@ -1,0 +1,179 @@
+#include "storage/Settings.h"
+
+#include "storage/AtomicFile.h"
+#include "storage/Module1.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+namespace hooptab {
+
+namespace {
+
+constexpr const char* kSection = "CONFIGURATION";
+// A key list shorter than this is that of no settings file of ours.
+constexpr std::size_t kShortestKeyList = 10;
+
+std::uint32_t colour(std::string_view text) {
+  constexpr std::uint32_t kColourBits = 0xFFFFFF;
+  return static_cast<std::uint32_t>(std::max(0, Module1::leadingNumber(text))) & kColourBits;
+}
+
+// A remembered folder may have been removed, or stand on a drive that is not there today.
+std::string existingFolder(std::string path, const std::string& otherwise) {
+  std::error_code ignored;
+  return std::filesystem::is_directory(path, ignored) ? path : otherwise;
+}
+
+std::optional<std::string> presentText(std::string text) {
+  return text.empty() ? std::nullopt : std::optional(std::move(text));
+}
+
+std::string valueIn(const ProfileBatch& batch, std::string_view key) {
+  for (const ProfileBatch::Operation& operation : batch.operations()) {
+    const auto* set = std::get_if<ProfileBatch::SetValue>(&operation);
+    if (set != nullptr && set->section == kSection && set->key == key)
+      return set->value;
+  }
+  return {};
+}
+
+const char* flagText(bool on) {
+  return on ? "True" : "False";
+}
+
+} // namespace
+
+const std::vector<std::uint32_t>& customColours() {
+  static const std::vector<std::uint32_t> colours = {
+      8438015,  11599792, 13882281, 10329599, 16759671, 7105791, 11140947, 13224393,
+      14068651, 12303223, 4103935,  8453888,  4737279,  8716287, 10197915, 16749608};
+  return colours;
+}
+
+Settings::Settings(cinifile& store, std::string folder) : m_store(store), m_folder(std::move(folder)) {}
+
+std::string Settings::path() const {
+  return (std::filesystem::path(m_folder) / "CONFIG.INI").string();
+}
+
+Settings::Preparation Settings::prepare(const Texts& texts) {
+  if (isComplete()) {
+    read();
+    return Preparation::AlreadyThere;
+  }
+  const ProfileBatch content = firstRunContent(texts, m_folder);
+  if (!m_writes.write([this, content] { return complete(content); })) {
+    take([&content](std::string_view key) { return valueIn(content, key); });
+    return Preparation::WriteFailed;
+  }
+  read();
+  return m_keptAs.empty() ? Preparation::FirstRun : Preparation::FirstRunKeptOld;
+}
+
+bool Settings::isComplete() {
+  m_store.Path(path());
+  m_store.Section(kSection);
+  m_store.Default("");
+  return m_store.INISection().size() >= kShortestKeyList;
+}
+
+bool Settings::complete(const ProfileBatch& content) {
+  if (isComplete())
+    return true;
+  // A file that is there but cannot be read may hold all the user's teams: it is left alone.
+  const std::string found = m_store.profile().bytes();
+  if (m_store.readOutcome() != ReadOutcome::Read && m_store.readOutcome() != ReadOutcome::Absent)
+    return false;
+  if (!found.empty() && !keep(found))
+    return false;
+  return m_store.write(content);
+}
+
+bool Settings::keep(const std::string& bytes) {
+  if (!m_keptAs.empty())
+    return true;
+  FileStamp stamp;
+  std::string copy;
+  int number = 0;
+  do
+    copy = path() + '.' + std::to_string(++number);
+  while (m_store.files().stamp(copy, stamp));
+  if (!replaceWholeFile(m_store.files(), copy, bytes, stamp))
+    return false;
+  m_keptAs = copy;
+  return true;
+}
+
+void Settings::read() {
+  m_store.Path(path());
+  m_store.Section(kSection);
+  m_store.Default("");
+  take([this](std::string_view key) {
+    m_store.Key(std::string(key));
+    return m_store.Value();
+  });
+}
+
+void Settings::take(const std::function<std::string(std::string_view key)>& value) {
+  twoPointColour = colour(value("COULEUR2PTS"));
+  boxColour = colour(value("COULEURBOX"));
+  threePointColour = colour(value("COULEUR3PTS"));
+  buttonColour = colour(value("COULEURBUT"));
+  statisticLabel[0] = value("STATU1");
+  statisticLabel[1] = value("STATU2");
+  language = Texts::languageOfOffset(Module1::leadingNumber(value("LANGUE")));
+  asksRebounds = Module1::flag(value("SAVEREBOUND"));
+  keypadIsActive = Module1::flag(value("KEYPAD"));
+  lastGameFolder = existingFolder(value("LASTPATHGAME"), m_folder);
+  lastScanFolder = existingFolder(value("LASTPATHBMP"), m_folder);
+  webPage[0] = presentText(value("SITEEN"));
+  webPage[1] = presentText(value("SITEFR"));
+}
+
+std::string Settings::shownLabel(std::string_view label) {
+  const bool hasPrefix = label.starts_with("U1-") || label.starts_with("U2-");
+  return std::string(hasPrefix ? label.substr(3) : label);
+}
+
+bool Settings::asksForTextNumbers() const {
+  return statisticLabel[0].starts_with("WW-DEBUG");
+}
+
+bool Settings::saveLanguage(Language chosen) {
+  language = chosen;
+  return save("LANGUE", std::to_string(chosen == Language::French ? Texts::kFrenchOffset : 0));
+}
+
+bool Settings::saveAsksRebounds(bool on) {
+  asksRebounds = on;
+  return save("SAVEREBOUND", flagText(on));
+}
+
+bool Settings::saveKeypadIsActive(bool on) {
+  keypadIsActive = on;
+  return save("KEYPAD", flagText(on));
+}
+
+bool Settings::saveLastFolders() {
+  ProfileBatch batch;
+  batch.set(kSection, "LASTPATHGAME", lastGameFolder);
+  batch.set(kSection, "LASTPATHBMP", lastScanFolder);
+  return save(batch);
+}
+
+bool Settings::save(const char* key, std::string value) {
+  ProfileBatch batch;
+  batch.set(kSection, key, std::move(value));
+  return save(batch);
+}
+
+bool Settings::save(const ProfileBatch& batch) {
+  return m_writes.write([this, batch] {
+    m_store.Path(path());
+    return m_store.write(batch);
+  });
+}
+
+} // namespace hooptab

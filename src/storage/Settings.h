@@ -1,0 +1,85 @@
+// The settings of CONFIG.INI, section CONFIGURATION, read once at start-up and kept in memory; and the
+// content that a first start writes (settings, six teams, 51 made-up players). Teams are edited elsewhere.
+// The file is described in docs/formats/config.md.
+#pragma once
+
+#include "storage/Texts.h"
+#include "storage/WriteQueue.h"
+#include "storage/cinifile.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+// The program's 16 custom colours of the colour chooser, decimal: red + 256 * green + 65536 * blue.
+[[nodiscard]] const std::vector<std::uint32_t>& customColours();
+
+class Settings {
+ public:
+  // `folder` is the program folder; CONFIG.INI stands in it.
+  Settings(cinifile& store, std::string folder);
+  Settings(const Settings&) = delete; // what waits to be written refers to this object
+  Settings& operator=(const Settings&) = delete;
+
+  // What prepare() found.
+  enum class Preparation { AlreadyThere, FirstRun, FirstRunKeptOld, WriteFailed };
+  // Writes the first-run content when the key list of CONFIGURATION is shorter than 10 characters, then reads
+  // the settings. A file that held something else is kept first as CONFIG.INI.1, .2, ...; keptAs() names it.
+  // When the content cannot be written, the program goes on with it in memory.
+  [[nodiscard]] Preparation prepare(const Texts& texts);
+  const std::string& keptAs() const { return m_keptAs; }
+  void read();
+
+  const std::string& folder() const { return m_folder; }
+  std::string path() const;
+
+  // In memory, as read. Colours as above.
+  std::uint32_t twoPointColour = 0;
+  std::uint32_t boxColour = 0;
+  std::uint32_t threePointColour = 0;
+  std::uint32_t buttonColour = 0;
+  std::string statisticLabel[2]; // STATU1, STATU2, with their prefix
+  Language language = Language::English;
+  bool asksRebounds = false;             // SAVEREBOUND
+  bool keypadIsActive = false;           // KEYPAD
+  std::string lastGameFolder;            // LASTPATHGAME; the program folder when it is no folder
+  std::string lastScanFolder;            // LASTPATHBMP
+  std::optional<std::string> webPage[2]; // SITEEN, SITEFR, when there
+
+  // The label of a user-defined statistic without its prefix; the open game's own label first, these
+  // settings' where it is empty.
+  [[nodiscard]] static std::string shownLabel(std::string_view label);
+  // The diagnostic display is asked for by the first label.
+  [[nodiscard]] bool asksForTextNumbers() const;
+
+  // Each writes its keys at once and returns whether they are on disk; the value in memory is changed in any
+  // case. What the disk did not take waits, and goes there in order with the next save or retry().
+  bool saveLanguage(Language language);
+  bool saveAsksRebounds(bool on);
+  bool saveKeypadIsActive(bool on);
+  bool saveLastFolders();
+  bool retry() { return m_writes.retry(); }
+  bool isOnDisk() const { return m_writes.isEmpty(); }
+
+ private:
+  bool isComplete();
+  bool complete(const ProfileBatch& content);
+  bool keep(const std::string& bytes);
+  void take(const std::function<std::string(std::string_view key)>& value);
+  bool save(const char* key, std::string value);
+  bool save(const ProfileBatch& batch);
+
+  cinifile& m_store;
+  std::string m_folder;
+  std::string m_keptAs;
+  WriteQueue m_writes;
+};
+
+// The whole first-run content, in the order in which it is written.
+[[nodiscard]] ProfileBatch firstRunContent(const Texts& texts, const std::string& folder);
+
+} // namespace hooptab

@@ -1,0 +1,224 @@
+#include "storage/Texts.h"
+
+#include "resources/tables.h"
+#include "storage/Module1.h"
+#include "storage/codepage.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+#include <string>
+
+namespace hooptab {
+namespace {
+
+const Texts& carried() {
+  static const Texts texts;
+  return texts;
+}
+
+std::string_view english(int number) {
+  return carried().text(number, Language::English);
+}
+std::string_view french(int number) {
+  return carried().text(number, Language::French);
+}
+
+std::size_t occurrences(std::string_view text, std::string_view part) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(part); at != std::string_view::npos; at = text.find(part, at + part.size()))
+    ++count;
+  return count;
+}
+
+std::size_t leadingBlanks(std::string_view text) {
+  return std::min(text.find_first_not_of(' '), text.size());
+}
+std::size_t trailingBlanks(std::string_view text) {
+  return text.size() - (text.find_last_not_of(' ') + 1);
+}
+
+// The end that a hint for the mouse shares with others of its kind; what stands before it names the action.
+std::string_view mouseHint(std::string_view text) {
+  const std::size_t at = text.find("(MOUSE");
+  return at == std::string_view::npos ? std::string_view() : text.substr(at);
+}
+
+// Runs of letters "XXX", "YYY" and so on, in alphabetical order: a translation may turn them round.
+std::multiset<std::string> placeholders(std::string_view text) {
+  std::multiset<std::string> found;
+  for (const char* name : {"XXX", "YYY", "ZZZ"})
+    for (std::size_t i = occurrences(text, name); i > 0; --i)
+      found.insert(name);
+  return found;
+}
+
+// The numbers that a table's lines carry, as often as they occur.
+std::multiset<int> numbersOf(std::string_view table) {
+  std::multiset<int> numbers;
+  std::size_t begin = 0;
+  while (begin < table.size()) {
+    const std::size_t end = std::min(table.find('\n', begin), table.size());
+    const std::string line(table.substr(begin, end - begin));
+    if (!line.empty() && line[0] >= '0' && line[0] <= '9')
+      numbers.insert(std::stoi(line));
+    begin = end + 1;
+  }
+  return numbers;
+}
+
+TEST(TextTables, HoldEveryNumberOnceInBothLanguagesAndFillNoGap) {
+  const std::set<int> gaps = {1084, 1085, 1152, 1153, 1154, 1178, 1249, 1318,
+                              1319, 1324, 1332, 1378, 1379, 1434, 1437};
+  std::size_t original = 0;
+  for (const int number : carried().numbers()) {
+    EXPECT_FALSE(gaps.contains(number)) << number;
+    EXPECT_TRUE(number <= 1438 || number >= 1501) << number;
+    EXPECT_FALSE(french(number).empty()) << number + Texts::kFrenchOffset;
+    if (number <= 1438)
+      ++original;
+  }
+  EXPECT_EQ(original, 423U);
+
+  std::multiset<int> expected;
+  for (const int number : numbersOf(englishTable()))
+    expected.insert(number + Texts::kFrenchOffset);
+  EXPECT_EQ(numbersOf(frenchTable()), expected);
+  EXPECT_EQ(expected.size(), carried().numbers().size()) << "a number twice, or a line without a text";
+}
+
+TEST(TextTables, KeepThePartsThatProgramsReadEqualInBothLanguages) {
+  for (const int number : carried().numbers()) {
+    SCOPED_TRACE(number);
+    const std::string_view one = english(number);
+    const std::string_view other = french(number);
+    EXPECT_EQ(placeholders(one), placeholders(other));
+    EXPECT_EQ(leadingBlanks(one), leadingBlanks(other));
+    EXPECT_EQ(trailingBlanks(one), trailingBlanks(other));
+    EXPECT_EQ(occurrences(one, "|"), occurrences(other, "|"));
+    EXPECT_TRUE(one == other || !one.starts_with("---")) << other;
+    // Of a file filter, "NAME|PATTERN|NAME|PATTERN", only the names are translated.
+    for (std::size_t field = 2; field <= occurrences(one, "|") + 1; field += 2)
+      EXPECT_EQ(Module1::field(one, field, '|'), Module1::field(other, field, '|'));
+  }
+}
+
+TEST(TextTables, SayTheSameMouseHintInTheSameWords) {
+  std::map<std::string_view, std::string_view> translations;
+  for (const int number : carried().numbers()) {
+    SCOPED_TRACE(number);
+    const std::string_view hint = mouseHint(english(number));
+    if (hint.empty())
+      continue;
+    ASSERT_NE(french(number).rfind('('), std::string_view::npos);
+    const std::string_view translated = french(number).substr(french(number).rfind('('));
+    const auto [known, isNew] = translations.emplace(hint, translated);
+    EXPECT_EQ(known->second, translated);
+    EXPECT_EQ(occurrences(hint, "="), occurrences(translated, "="));
+    EXPECT_EQ(occurrences(hint, "+1"), occurrences(translated, "+1"));
+    EXPECT_EQ(occurrences(hint, "-1"), occurrences(translated, "-1"));
+  }
+  EXPECT_EQ(translations.size(), 3U) << "made or missed, one more, one more or less";
+}
+
+TEST(TextTables, UseOnlyLettersOfTheFilesCodePage) {
+  for (const int number : carried().numbers())
+    for (const Language language : {Language::English, Language::French}) {
+      const std::string_view text = carried().text(number, language);
+      EXPECT_EQ(codepage::storedForm(text), text) << number;
+      EXPECT_TRUE(std::ranges::none_of(text, [](char c) { return static_cast<unsigned char>(c) < ' '; }))
+          << number;
+    }
+}
+
+TEST(TextTables, LeaveNoTextInTheOtherLanguage) {
+  // Codes of statistics, names, and words that both languages share.
+  const std::set<int> shared = {1070, 1313, 1342, 1343, 1344, 1345, 1346, 1347, 1348, 1349,
+                                1350, 1351, 1352, 1353, 1354, 1355, 1356, 1357, 1360, 1361,
+                                1365, 1366, 1371, 1372, 1540, 1550, 1573, 1574};
+  for (const int number : carried().numbers()) {
+    if (english(number).starts_with("---"))
+      continue;
+    EXPECT_EQ(english(number) == french(number), shared.contains(number)) << number << ' ' << french(number);
+  }
+}
+
+TEST(TextTables, HoldTheFixedFrenchTexts) {
+  const std::map<int, std::string_view> fixed = {
+      {1001, "Au jeu - Saisie des statistiques"},
+      {1002, "Tableau d'affichage des parties"},
+      {1003, "(PF) F. personnelle"},
+      {1005, "Efficacité"},
+      {1008, "(TO) Retournement"},
+      {1009, "(ST) Récupération"},
+      {1016, "Endroit"},
+      {1019, "Fautes"},
+      {1022, "PROL."},
+      {1023, "Nom du joueur"},
+      {1024, "Temps"},
+      {1025, "Ren."},
+      {1026, "Ligne"},
+      {1027, "Visiteur"},
+      {1028, "Receveur"},
+      {1044, "Partie terminée"},
+      {1074, "English"},
+      {1075, "DÉPART"},
+      {1080, "ARRÊT"},
+      {1145, "Sauvegarder la note et fermer la partie"},
+      {1194, "P"},
+      {1200, "Receveur"},
+      {1201, "Visiteur"},
+      {1202, "Résultats"},
+      {1245, "Nouveau"},
+      {1260, "Centre"},
+      {1261, "Ailier"},
+      {1262, "Garde"},
+      {1269, "N/D"},
+      {1303, "Saisie"},
+  };
+  for (const auto& [number, text] : fixed)
+    EXPECT_EQ(french(number), text) << number + Texts::kFrenchOffset;
+  EXPECT_EQ(english(1074), "Français");
+  EXPECT_EQ(english(1327), "Close Team Management ") << "a trailing blank is part of the text";
+  EXPECT_EQ(english(1393), " (MOUSE - Left Button= +1 , Right Button= -1)");
+}
+
+TEST(Texts, AreReadFromATableAsItsFormSays) {
+  const Texts texts(
+      "# a comment\n\n1001 \"One\"\n1002 \"Say \"\"two\"\" \"  # the text ends at the last quote\n"
+      "1003\n1004 \"\"\nword \"x\"\n900 \"low\"\n99999999999 \"high\"\n2001 \"beyond\"\n1005 \"last\"",
+      "5001 \"Un\"\r\n5002 \"Deux\"\n1005 \"English number\"");
+  EXPECT_EQ(texts.text(1001), "One");
+  EXPECT_EQ(texts.text(1002), "Say \"\"two\"\" ");
+  EXPECT_EQ(texts.text(1005), "last") << "the last line needs no line end";
+  EXPECT_EQ(texts.numbers(), (std::vector<int>{1001, 1002, 1005}));
+  EXPECT_EQ(texts.text(1001, Language::French), "Un");
+  for (const int number : {-1, 0, 900, 1000, 1003, 1004, 2000, 2001, 5001})
+    EXPECT_EQ(texts.text(number), "") << number;
+  EXPECT_EQ(texts.text(1005, Language::French), "");
+}
+
+TEST(Texts, FollowTheLanguageInUse) {
+  Texts texts;
+  EXPECT_EQ(texts.text(1075), "START");
+  texts.setLanguage(Language::French);
+  EXPECT_EQ(texts.text(1075), "DÉPART");
+  EXPECT_EQ(texts.offset(), 4000);
+  EXPECT_EQ(texts.caption(1075), "DÉPART");
+  texts.showNumbers(true);
+  EXPECT_EQ(texts.caption(1075), "5075 DÉPART");
+  texts.setLanguage(Language::English);
+  EXPECT_EQ(texts.caption(1075), "1075 START");
+  EXPECT_EQ(texts.withPlaceholder(1374, "12"), "Loading the 12 Games Found...");
+}
+
+TEST(Texts, TakeTheOldOffsetForFrench) {
+  EXPECT_EQ(Texts::languageOfOffset(4000), Language::French);
+  EXPECT_EQ(Texts::languageOfOffset(1000), Language::French);
+  for (const int offset : {0, -4000, 1, 3999, 5000})
+    EXPECT_EQ(Texts::languageOfOffset(offset), Language::English) << offset;
+}
+
+} // namespace
+} // namespace hooptab
