@@ -1,0 +1,120 @@
+#include "appearance/CourtGeometry.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
+namespace hooptab::court {
+
+namespace {
+
+constexpr double kHalfLine = 0.5; // a place this near to a line lies on it
+constexpr double kMidRangeCentreDegrees =
+    30; // either side of the axis: the width of the free-throw line, seen from the basket
+constexpr double kTopDegrees = 25;
+
+double distanceFromBasket(Place place) {
+  return std::hypot(place.x - kBasketX, place.y - kBasketY);
+}
+
+bool isBeyondThreePointLine(Place place) {
+  if (place.x <= threePointCornerX())
+    return place.y < kThreePointSideY || place.y > kWidth - kThreePointSideY;
+  return distanceFromBasket(place) > kThreePointRadius;
+}
+
+bool isInBox(Place place) {
+  return place.x <= kBoxLength && std::abs(place.y - kBasketY) <= kBoxWidth / 2;
+}
+
+bool isOnThreePointLine(Place place) {
+  if (place.x <= threePointCornerX()) {
+    const double toNearerSide = std::min(place.y, kWidth - place.y);
+    return std::abs(toNearerSide - kThreePointSideY) <= kHalfLine;
+  }
+  return std::abs(distanceFromBasket(place) - kThreePointRadius) <= kHalfLine;
+}
+
+bool isOnBoxOutline(Place place) {
+  const double fromAxis = std::abs(place.y - kBasketY);
+  const bool isOnSide = std::abs(fromAxis - kBoxWidth / 2) <= kHalfLine && place.x <= kBoxLength + kHalfLine;
+  const bool isOnEnd = std::abs(place.x - kBoxLength) <= kHalfLine && fromAxis <= kBoxWidth / 2 + kHalfLine;
+  return isOnSide || isOnEnd;
+}
+
+// Degrees off the axis through the basket, positive to the shooter's left as he faces it.
+double degreesOffAxis(Place place) {
+  return std::atan2(place.y - kBasketY, place.x - kBasketX) * 180 / std::numbers::pi;
+}
+
+} // namespace
+
+Place atEdge(Place place) {
+  const auto within = [](double value, double largest) {
+    return value >= 0 ? std::min(value, largest) : 0.0;
+  };
+  return {within(place.x, kLength), within(place.y, kWidth)}; // what is no number is at 0
+}
+
+double threePointCornerX() {
+  static const double x = kBasketX + std::sqrt(kThreePointRadius * kThreePointRadius -
+                                               (kBasketY - kThreePointSideY) * (kBasketY - kThreePointSideY));
+  return x;
+}
+
+ColourZone colourZone(Place place) {
+  return isOnThreePointLine(place) || isOnBoxOutline(place) ? ColourZone::Line : zoneBesideLines(place);
+}
+
+ColourZone zoneBesideLines(Place place) {
+  if (isBeyondThreePointLine(place))
+    return ColourZone::ThreePoints;
+  return isInBox(place) ? ColourZone::Box : ColourZone::TwoPoints;
+}
+
+ChartZone chartZone(Place place) {
+  const double degrees = degreesOffAxis(place);
+  const bool isLeft = place.y > kBasketY;
+  if (isBeyondThreePointLine(place)) {
+    if (place.x <= threePointCornerX())
+      return isLeft ? ChartZone::LeftCorner : ChartZone::RightCorner;
+    if (std::abs(degrees) <= kTopDegrees)
+      return ChartZone::Top;
+    return isLeft ? ChartZone::LeftWing : ChartZone::RightWing;
+  }
+  if (distanceFromBasket(place) <= kNoChargeRadius)
+    return ChartZone::UnderBasket;
+  if (isInBox(place))
+    return ChartZone::Paint;
+  if (std::abs(degrees) <= kMidRangeCentreDegrees)
+    return ChartZone::MidRangeCentre;
+  return isLeft ? ChartZone::MidRangeLeft : ChartZone::MidRangeRight;
+}
+
+bool isThreePointZone(ChartZone zone) {
+  return zone >= ChartZone::LeftCorner;
+}
+
+int chartZoneText(ChartZone zone) {
+  constexpr std::array kTexts = {1571, 1567, 1568, 1569, 1570, 1562, 1564, 1566, 1565, 1563};
+  return kTexts[static_cast<std::size_t>(zone)];
+}
+
+Place chartZoneLabel(ChartZone zone) {
+  constexpr std::array<Place, kChartZoneCount> kLabels = {{
+      {kBasketX, kBasketY},
+      {57, kBasketY},
+      {34, 161},
+      {93, kBasketY},
+      {34, 39},
+      {16, 193},
+      {84, 176},
+      {118, kBasketY},
+      {84, 24},
+      {16, 7},
+  }};
+  return kLabels[static_cast<std::size_t>(zone)];
+}
+
+} // namespace hooptab::court

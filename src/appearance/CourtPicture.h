@@ -1,0 +1,58 @@
+// Draws the half court, shots and zone sums with a QPainter, at any scale, on screen and on paper alike.
+#pragma once
+
+#include "appearance/CourtGeometry.h"
+
+#include <QColor>
+#include <QPainter>
+#include <QRectF>
+#include <QString>
+#include <QTransform>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace hooptab {
+
+struct CourtColours {
+  QColor twoPoints, box, threePoints;
+  QColor line = QColor(0x20, 0x20, 0x20);
+};
+
+struct CourtMark {
+  court::Place place;
+  bool isMade = false;
+  bool isHighlighted = false;
+};
+
+struct CourtZoneText {
+  court::ChartZone zone = court::ChartZone::Paint;
+  QString upper;       // "5/12"
+  QString lower;       // "41.7%"
+  double strength = 0; // 0..1, how strongly the zone is tinted
+};
+
+class CourtPicture {
+ public:
+  explicit CourtPicture(const CourtColours& colours) : m_colours(colours) {}
+
+  // The largest rectangle of the court's shape in `area`, centred; and the transform from court units into
+  // it. The picture stands upright as stored (baseline at the left) or turned so that the baseline is at the
+  // top.
+  enum class Turn { BaselineLeft, BaselineTop };
+  static QRectF fitted(const QRectF& area, Turn turn);
+  static QTransform fromCourt(const QRectF& fitted, Turn turn);
+
+  void paintCourt(QPainter& painter, const QRectF& fitted, Turn turn) const;
+  // Made shots are filled circles in green, missed ones crosses in red, both with a contrasting outline.
+  void paintMarks(QPainter& painter, const QRectF& fitted, Turn turn,
+                  const std::vector<CourtMark>& marks) const;
+  void paintZones(QPainter& painter, const QRectF& fitted, Turn turn,
+                  const std::vector<CourtZoneText>& zones) const;
+
+ private:
+  CourtColours m_colours;
+};
+
+} // namespace hooptab

@@ -1,0 +1,30 @@
+// Captions by number: a widget or action keeps the number of its text, and one procedure writes all captions
+// of a window in the language in use, when the window is made and whenever the language changes.
+#pragma once
+
+#include "storage/Texts.h"
+
+#include <QString>
+
+class QAction;
+class QObject;
+class QWidget;
+
+namespace hooptab {
+
+[[nodiscard]] QString toQt(std::string_view utf8);
+[[nodiscard]] std::string fromQt(const QString& text);
+[[nodiscard]] QString caption(const Texts& texts,
+                              int number); // with its number in front in the diagnostic display
+
+// Numbers are kept as dynamic properties; 0 takes one away. Any widget with a "text", "title" or
+// "windowTitle" property, and actions.
+void setTextNumber(QObject& object, int number);
+void setToolTipNumber(QObject& object, int number);
+void setAccessibleNumber(QWidget& widget, int number); // name for screen readers, where there is no caption
+
+// Relabels `root` and all its children, widgets and actions alike. A tool tip of an action names its key,
+// "Open a Game (Ctrl+O)".
+void relabel(QObject& root, const Texts& texts);
+
+} // namespace hooptab
