@@ -1,0 +1,148 @@
+#include "shell/CommandBar.h"
+
+#include "appearance/Icons.h"
+#include "appearance/relabel.h"
+
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kIconSize = 24;
+constexpr double kCaptionScale = 0.9;
+
+// The words under the icons: the whole captions, which menus and tool tips show, would not fit side by side.
+// Printing and closing come three times and are known by their icons alone.
+struct ShortCaption {
+  std::string_view key;
+  int text;
+};
+constexpr int kIconAlone = 0;
+// clang-format off
+constexpr ShortCaption kShortCaptions[] = {
+    {"VIEW", 1601}, {"VwREFRESH", 1602}, {"VwLIGNE", 1603}, {"VwMA", 1605},
+    {"vwPRINT", kIconAlone}, {"VwCLOSE", kIconAlone},
+    {"STATS", 1252}, {"stPRINT", kIconAlone}, {"stCLOSE", kIconAlone},
+    {"LIVE", 1526}, {"LIVEKpad", 1606}, {"LIVEMouse", 1607}, {"SWITCH", 1608}, {"GAMEOVER", 1613},
+    {"livePRINT", kIconAlone}, {"saveMANUAL", 1596}, {"CLOSELIVEMANUAL", kIconAlone}, {"SETTINGS", 1528},
+};
+// clang-format on
+constexpr int kViewByPlayer = 1033;
+constexpr int kByPlayer = 1604;
+
+int shortCaption(const Command& command, const CommandState& state) {
+  if (state.text == kViewByPlayer)
+    return kByPlayer;
+  const auto* found = std::ranges::find(kShortCaptions, command.key, &ShortCaption::key);
+  return found == std::end(kShortCaptions) ? state.text : found->text;
+}
+
+bool hasEntries(const Command& command) {
+  return std::ranges::any_of(commands(), [&](const Command& entry) { return entry.parent == command.key; });
+}
+
+} // namespace
+
+CommandBar::CommandBar(QMainWindow& window) : QObject(&window), m_window(window) {
+  m_toolBar = new QToolBar(&window);
+  m_toolBar->setObjectName(QStringLiteral("Toolbar1"));
+  m_toolBar->setMovable(false);
+  m_toolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it would only offer to hide the tool bar
+  m_toolBar->setIconSize({kIconSize, kIconSize});
+  m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  QFont small = m_toolBar->font(); // so that all commands stand side by side on a screen 1366 wide
+  small.setPointSizeF(small.pointSizeF() * kCaptionScale);
+  m_toolBar->setFont(small);
+  window.addToolBar(m_toolBar);
+
+  // Drop-downs first, since an entry may stand in the table of one that is itself an entry.
+  for (const Command& command : commands()) {
+    if (!hasEntries(command))
+      continue;
+    auto* menu = new QMenu(&window);
+    menu->setToolTipsVisible(true);
+    m_dropDowns.insert(toQt(command.key), menu);
+  }
+  QHash<QString, QActionGroup*> choices;
+  for (const Command& command : commands()) {
+    QAction* action = makeAction(command);
+    m_actions.insert(toQt(command.key), action);
+    if (command.kind == CommandKind::Choice) {
+      QActionGroup*& group = choices[toQt(command.parent)];
+      if (group == nullptr)
+        group = new QActionGroup(this);
+      group->addAction(action);
+    }
+    if (command.parent.empty()) {
+      addButton(command);
+      continue;
+    }
+    QMenu& parent = dropDown(command.parent);
+    if (command.separatorBefore)
+      parent.addSeparator();
+    parent.addAction(action);
+  }
+}
+
+QAction& CommandBar::action(std::string_view key) const {
+  return *m_actions.value(toQt(key));
+}
+
+QMenu& CommandBar::dropDown(std::string_view key) const {
+  return *m_dropDowns.value(toQt(key));
+}
+
+QAction* CommandBar::makeAction(const Command& command) {
+  const QString key = toQt(command.key);
+  QAction* action =
+      command.kind == CommandKind::Menu ? dropDown(command.key).menuAction() : new QAction(&m_window);
+  action->setObjectName(key);
+  action->setCheckable(command.kind == CommandKind::Toggle || command.kind == CommandKind::Choice);
+  action->setShortcut(QKeySequence::fromString(toQt(command.shortcut), QKeySequence::PortableText));
+  if (command.kind != CommandKind::Menu)
+    connect(action, &QAction::triggered, this, [this, key] { emit asked(key); });
+  return action;
+}
+
+void CommandBar::addButton(const Command& command) {
+  if (command.separatorBefore)
+    m_toolBar->addSeparator();
+  QAction& action = this->action(command.key);
+  m_toolBar->addAction(&action);
+  auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(&action));
+  button->setObjectName(QStringLiteral("button_") + toQt(command.key));
+  if (shortCaption(command, stateOf(command, {})) == kIconAlone)
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+  if (command.kind == CommandKind::Menu) {
+    button->setPopupMode(QToolButton::InstantPopup);
+  } else if (hasEntries(command)) {
+    QMenu& menu = dropDown(command.key);
+    menu.addAction(&action);
+    button->setMenu(&menu);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+  }
+}
+
+void CommandBar::show(const Modes& modes, const Texts& texts) {
+  for (const Command& command : commands()) {
+    const CommandState state = stateOf(command, modes);
+    QAction& action = this->action(command.key);
+    action.setEnabled(state.isEnabled);
+    if (action.isCheckable())
+      action.setChecked(state.isChecked);
+    action.setIcon(icon(toQt(state.icon)));
+    setTextNumber(action, state.text);
+    setToolTipNumber(action, state.text);
+    relabel(action, texts);
+    const int shortText = shortCaption(command, state);
+    action.setIconText(caption(texts, shortText == kIconAlone ? state.text : shortText));
+  }
+}
+
+} // namespace hooptab

@@ -1,0 +1,48 @@
+// The commands of the program as actions, and the tool bar that carries them: made from the table of
+// commands, with drop-downs where it says so. Shows what is enabled, pressed and chosen; says which command
+// was asked for, and carries out none.
+#pragma once
+
+#include "shell/CommandState.h"
+#include "storage/Texts.h"
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+
+namespace hooptab {
+
+class CommandBar : public QObject {
+  Q_OBJECT
+
+ public:
+  // Adds the tool bar to the window, which owns it.
+  explicit CommandBar(QMainWindow& window);
+
+  // By command key; the action of a Menu is that of its menu.
+  [[nodiscard]] QAction& action(std::string_view key) const;
+  // The drop-down of a button that has one.
+  [[nodiscard]] QMenu& dropDown(std::string_view key) const;
+
+  // Enables, checks and labels all commands for these modes.
+  void show(const Modes& modes, const Texts& texts);
+
+ signals:
+  void asked(const QString& key);
+
+ private:
+  QAction* makeAction(const Command& command);
+  void addButton(const Command& command);
+
+  QMainWindow& m_window;
+  QToolBar* m_toolBar = nullptr;
+  QHash<QString, QAction*> m_actions;
+  QHash<QString, QMenu*> m_dropDowns;
+};
+
+} // namespace hooptab

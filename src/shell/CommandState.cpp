@@ -1,0 +1,64 @@
+#include "shell/CommandState.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+bool isOn(CommandGroup group, const Modes& modes) {
+  const bool hasLive = modes.live != LiveClock::NoGame;
+  switch (group) {
+  case CommandGroup::Always: return true;
+  case CommandGroup::Scorecard: return modes.hasScorecard;
+  case CommandGroup::Season: return modes.hasSeason;
+  case CommandGroup::StartOfInput: return modes.live != LiveClock::Running;
+  case CommandGroup::Live: return hasLive;
+  case CommandGroup::Manual: return modes.hasManual;
+  case CommandGroup::LiveOrManual: return hasLive || modes.hasManual;
+  }
+  return false;
+}
+
+bool isEnabled(const Command& command, const Modes& modes) {
+  if (command.kind == CommandKind::Menu)
+    return std::ranges::any_of(commands(), [&](const Command& entry) {
+      return entry.parent == command.key && isEnabled(entry, modes);
+    });
+  return command.isBuilt && isOn(command.group, modes);
+}
+
+// Whether what a Toggle, Swap or Choice stands for is so at present.
+bool isSo(std::string_view key, const Modes& modes) {
+  if (key == "VwLIGNE")
+    return modes.scorecardByLine;
+  if (key == "VwMA")
+    return modes.scorecardHidesMadeAttempted;
+  if (key == "LIVEMouse")
+    return modes.asksRebounds;
+  if (key == "LIVEKpad")
+    return modes.keypadIsActive;
+  if (key == "VwREFSEC10")
+    return modes.refreshSeconds == 10;
+  if (key == "VwREFSEC30")
+    return modes.refreshSeconds == 30;
+  if (key == "VwREFSEC60")
+    return modes.refreshSeconds == 60;
+  return key == "VwREFSEC00" && modes.refreshSeconds == 0;
+}
+
+} // namespace
+
+CommandState stateOf(const Command& command, const Modes& modes) {
+  CommandState state{isEnabled(command, modes), false, command.text, command.icon};
+  const bool so = isSo(command.key, modes);
+  if (command.kind == CommandKind::Swap && so) {
+    state.text = command.otherText;
+    state.icon = command.otherIcon;
+  } else if (command.kind == CommandKind::Toggle || command.kind == CommandKind::Choice) {
+    state.isChecked = so;
+  }
+  return state;
+}
+
+} // namespace hooptab

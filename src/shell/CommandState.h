@@ -1,0 +1,36 @@
+// The rule by which a command is enabled, checked and labelled in the modes that are on. Knows no widget: the
+// main window asks for every command again whenever a mode begins or ends.
+#pragma once
+
+#include "shell/Commands.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace hooptab {
+
+enum class LiveClock : std::uint8_t { NoGame, Stopped, Running };
+
+struct Modes {
+  bool hasScorecard = false;
+  bool scorecardByLine = false;
+  bool scorecardHidesMadeAttempted = false;
+  int refreshSeconds = 0; // 0: by hand
+  bool hasSeason = false;
+  LiveClock live = LiveClock::NoGame;
+  bool hasManual = false;
+  bool asksRebounds = false;
+  bool keypadIsActive = false;
+};
+
+struct CommandState {
+  bool isEnabled = false;
+  bool isChecked = false;
+  int text = 0;
+  std::string_view icon;
+};
+
+// A menu is enabled when one of its entries is.
+[[nodiscard]] CommandState stateOf(const Command& command, const Modes& modes);
+
+} // namespace hooptab

@@ -1,0 +1,82 @@
+#include "shell/Commands.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+using enum CommandGroup;
+using enum CommandKind;
+
+constexpr bool kSeparator = true;
+constexpr bool kBuilt = true;
+
+// clang-format off
+constexpr Command kCommands[] = {
+    {"VIEW", "", 1029, "view", Always, Menu},
+      {"VwOPEN", "VIEW", 1030, "vwopen", Always, Action, "Ctrl+O", false, kBuilt},
+    {"VwREFRESH", "", 1031, "vwrefresh", Scorecard, Action, "F5", false, kBuilt},
+      {"VwREFSEC00", "VwREFRESH", 1049, "vwrefsec00", Scorecard, Choice, "", kSeparator, kBuilt},
+      {"VwREFSEC10", "VwREFRESH", 1051, "vwrefsec10", Scorecard, Choice, "", kSeparator, kBuilt},
+      {"VwREFSEC30", "VwREFRESH", 1052, "vwrefsec30", Scorecard, Choice, "", false, kBuilt},
+      {"VwREFSEC60", "VwREFRESH", 1053, "vwrefsec60", Scorecard, Choice, "", false, kBuilt},
+    {"VwLIGNE", "", 1032, "vwligne", Scorecard, Swap, "Ctrl+L", false, kBuilt, 1033, "vwplayer"},
+    {"VwMA", "", 1034, "vwma", Scorecard, Swap, "Ctrl+M", false, kBuilt, 1035, "vwmafull"},
+    {"vwPRINT", "", 1036, "vwprint", Scorecard, Action, "Ctrl+P"},
+    {"VwCLOSE", "", 1335, "vwclose", Scorecard, Action, "Ctrl+W", false, kBuilt},
+
+    {"STATS", "", 1045, "stats", Always, Action, "Ctrl+T", kSeparator},
+      {"StLISTGAMES", "STATS", 1421, "stlistgames", Season, Action, "", kSeparator},
+      {"StLISTGAMESSOMM", "STATS", 1422, "stlistgamessomm", Season},
+      {"stSTATJOUEURS", "STATS", 1423, "ststatjoueurs", Season, Action, "", kSeparator},
+      {"stSTATLIGNES", "STATS", 1424, "ststatlignes", Season},
+      {"stSTATJOUEURSAUTRES", "STATS", 1425, "ststatjoueursautres", Season},
+      {"stSTATLIGNESAUTRES", "STATS", 1426, "ststatlignesautres", Season},
+      {"stMENEURSTOT", "STATS", 1427, "stmeneurstot", Season, Action, "", kSeparator},
+      {"stMENEURSMOY", "STATS", 1428, "stmeneursmoy", Season},
+      {"stMENEURSMIN", "STATS", 1429, "stmeneursmin", Season},
+      {"stRAPJOUEUR", "STATS", 1430, "strapjoueur", Season, Action, "", kSeparator},
+      {"stRAPLIGNE", "STATS", 1431, "strapligne", Season},
+    {"stPRINT", "", 1435, "stprint", Season, Action, "Ctrl+Shift+P"},
+    {"stCLOSE", "", 1338, "stclose", Season, Action, "Ctrl+Shift+T"},
+
+    {"LIVE", "", 1037, "live", Always, Menu, "", kSeparator},
+      {"LIVENew", "LIVE", 1038, "livenew", StartOfInput, Action, "Ctrl+N"},
+      {"LIVEOpen", "LIVE", 1039, "liveopen", StartOfInput, Action, "Ctrl+Shift+O"},
+    {"LIVEKpad", "", 1040, "livekpad", Live, Toggle, "F7"},
+    {"LIVEMouse", "", 1042, "livemouse", Live, Toggle, "F8"},
+    {"SWITCH", "", 1043, "switch", Live, Action, "F9"},
+    {"GAMEOVER", "", 1044, "gameover", Live, Action, "Ctrl+G"},
+    {"livePRINT", "", 1224, "liveprint", Live},
+    {"saveMANUAL", "", 1384, "savemanual", Manual, Action, "Ctrl+S"},
+    {"CLOSELIVEMANUAL", "", 1294, "closelivemanual", LiveOrManual, Action, "Ctrl+Shift+W"},
+
+    {"SETTINGS", "", 1046, "settings", Always, Menu, "", kSeparator},
+      {"gEQUIPE", "SETTINGS", 1048, "gequipe", Always, Action, "Ctrl+E"},
+      {"tbTERRAIN", "SETTINGS", 1146, "tbterrain", Always, Action, "", kSeparator},
+      {"tbKEYPAD", "SETTINGS", 1054, "tbkeypad", Always},
+      {"FORMS", "SETTINGS", 1409, "forms", Always, Menu, "", kSeparator},
+        {"blankPRINT", "FORMS", 1399, "blankprint", Always},
+        {"viergePRINT", "FORMS", 1400, "viergeprint", Always},
+      {"tbLANGUE", "SETTINGS", 1074, "tblangue", Always, Action, "F12", kSeparator, kBuilt},
+
+    {"HELP", "", 1380, "help", Always, Menu, "", kSeparator},
+      {"AidHELP", "HELP", 1537, "aidhelp", Always, Action, "F1", false, kBuilt},
+      {"AidWEB", "HELP", 1381, "aidweb", Always, Action, "", false, kBuilt},
+      {"AidABOUT", "HELP", 1382, "aidabout", Always, Action, "", kSeparator, kBuilt},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> commands() {
+  return kCommands;
+}
+
+const Command* findCommand(std::string_view key) {
+  const Command* found = std::ranges::find(kCommands, key, &Command::key);
+  return found == std::end(kCommands) ? nullptr : found;
+}
+
+} // namespace hooptab

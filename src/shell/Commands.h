@@ -1,0 +1,50 @@
+// The one table of the program's commands, in the order of the tool bar: key, texts, icon, shortcut and the
+// mode that a command belongs to. Tool bar, menus and tool tips are made from it; what a command does is the
+// main window's.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace hooptab {
+
+enum class CommandKind : std::uint8_t {
+  Action,
+  Toggle, // a button that stays pressed
+  Swap,   // shows the other text and icon while its mode is on
+  Choice, // one of the entries of its menu is checked
+  Menu,   // only opens its entries
+};
+
+// The mode that enables a command. Live input is recorded, manual input entered from totals.
+enum class CommandGroup : std::uint8_t {
+  Always,
+  Scorecard,
+  Season,
+  StartOfInput,
+  Live,
+  Manual,
+  LiveOrManual
+};
+
+struct Command {
+  std::string_view key;    // also the object name of its action
+  std::string_view parent; // key of the button whose drop-down shows it; empty for a button of the tool bar
+  int text = 0;
+  std::string_view icon; // file name without ending
+  CommandGroup group = CommandGroup::Always;
+  CommandKind kind = CommandKind::Action;
+  std::string_view shortcut = {}; // portable form, empty for none
+  bool separatorBefore = false;
+  bool isBuilt =
+      false; // what it opens exists; one that is not built stays disabled. A Menu lives by its entries
+  int otherText = 0; // of a Swap
+  std::string_view otherIcon = {};
+};
+
+// A button with entries that is no Menu acts itself; its own action is also the first entry of its drop-down.
+[[nodiscard]] std::span<const Command> commands();
+[[nodiscard]] const Command* findCommand(std::string_view key); // letter for letter; null when there is none
+
+} // namespace hooptab

@@ -1,0 +1,23 @@
+// Puts Qt's own texts (buttons of message boxes, the file dialog) into the language of the program.
+#pragma once
+
+#include "storage/Texts.h"
+
+#include <QTranslator>
+
+namespace hooptab {
+
+class DialogLanguage {
+ public:
+  DialogLanguage() = default;
+  ~DialogLanguage();
+  DialogLanguage(const DialogLanguage&) = delete;
+  DialogLanguage& operator=(const DialogLanguage&) = delete;
+
+  void set(Language language);
+
+ private:
+  QTranslator m_french; // Qt's own language is English
+};
+
+} // namespace hooptab

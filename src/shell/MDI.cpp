@@ -1,0 +1,319 @@
+#include "shell/MDI.h"
+
+#include "appearance/Dialogs.h"
+#include "appearance/Icons.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "scorecard/frmVIEW.h"
+#include "shell/CommandBar.h"
+#include "shell/GameMenu.h"
+#include "shell/MainMenu.h"
+#include "shell/Refusals.h"
+#include "shell/SharedFiles.h"
+#include "shell/WelcomePage.h"
+#include "shell/WindowMemory.h"
+#include "shell/frmABOUT.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMimeData>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kErrorTitle = 1060;
+constexpr int kWarningTitle = 1139;
+constexpr int kNotSaved = 1521;
+constexpr int kOldSettingsKept = 1522;
+constexpr int kRecentGames = 1530;
+constexpr int kSampleGames = 1531;
+
+constexpr auto kRetryInterval = 2s;
+constexpr auto kMessageTime = 8s;
+constexpr QSize kFirstSize(1366, 860);
+constexpr std::string_view kLayoutName = "MDI";
+
+constexpr std::pair<const char*, frmVIEW::RefreshMode> kRefreshModes[] = {
+    {"VwREFSEC00", frmVIEW::RefreshMode::Manual},
+    {"VwREFSEC10", frmVIEW::RefreshMode::Every10},
+    {"VwREFSEC30", frmVIEW::RefreshMode::Every30},
+    {"VwREFSEC60", frmVIEW::RefreshMode::Every60},
+};
+
+QStringList localFiles(const QMimeData& data) {
+  QStringList files;
+  for (const QUrl& url : data.urls()) {
+    if (url.isLocalFile())
+      files << url.toLocalFile();
+  }
+  return files;
+}
+
+} // namespace
+
+MDI::MDI(const Workshop& workshop)
+    : m_workshop(workshop), m_help(workshop.dialogs, workshop.files, workshop.settings, workshop.texts) {
+  setObjectName(QStringLiteral("MDI"));
+  setAcceptDrops(true);
+  setWindowTitle(QStringLiteral("HOOPTAB Basketball"));
+
+  m_area = new QMdiArea(this);
+  m_area->setObjectName(QStringLiteral("area"));
+  auto* recent = new GameMenu([this] { return recentGames(m_workshop.memory); }, m_workshop.texts, this);
+  recent->menuAction()->setObjectName(QStringLiteral("recentGames"));
+  recent->setIcon(icon(QStringLiteral("recent")));
+  setTextNumber(*recent->menuAction(), kRecentGames);
+  auto* samples = new GameMenu([this] { return sampleGames(m_workshop.files, m_workshop.store); },
+                               m_workshop.texts, this);
+  samples->menuAction()->setObjectName(QStringLiteral("sampleGames"));
+  samples->setIcon(icon(QStringLiteral("samples")));
+  setTextNumber(*samples->menuAction(), kSampleGames);
+  m_commands = new CommandBar(*this);
+  m_menu = new MainMenu(*this, *m_area, *m_commands, *recent, *samples);
+  m_menu->showColours(Theme::current());
+
+  m_pages = new QStackedWidget(this);
+  m_pages->addWidget(new WelcomePage(m_commands->action("VwOPEN"), *recent, *samples, this));
+  m_pages->addWidget(m_area);
+  setCentralWidget(m_pages);
+
+  m_unsaved = new QLabel(this);
+  m_unsaved->setObjectName(QStringLiteral("lblUNSAVED"));
+  m_unsaved->hide();
+  statusBar()->addPermanentWidget(m_unsaved);
+  m_retryOfWrites.setInterval(kRetryInterval);
+
+  connect(m_commands, &CommandBar::asked, this, &MDI::carryOut);
+  connect(m_menu, &MainMenu::coloursChosen, this, &MDI::switchColours);
+  connect(recent, &GameMenu::chosen, this, &MDI::openGame);
+  connect(samples, &GameMenu::chosen, this, &MDI::openGame);
+  connect(m_area, &QMdiArea::subWindowActivated, this, &MDI::showCommands);
+  connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
+    m_workshop.settings.retry();
+    showWhatIsUnsaved();
+  });
+
+  relabelEverything();
+  restorePlace();
+}
+
+// The area still activates and deactivates its windows while it goes, when this is no longer there to listen.
+MDI::~MDI() {
+  m_area->disconnect(this);
+}
+
+void MDI::carryOut(const QString& key) {
+  if (key == u"VwOPEN")
+    return chooseGame();
+  if (key == u"tbLANGUE")
+    return switchLanguage();
+  if (key == u"AidHELP")
+    return m_help.openGuide(this);
+  if (key == u"AidWEB")
+    return m_help.openWebPage(this);
+  if (key == u"AidABOUT") {
+    frmABOUT(m_workshop.texts, this).exec();
+    return;
+  }
+
+  frmVIEW* view = scorecard();
+  if (view == nullptr)
+    return;
+  if (key == u"VwREFRESH")
+    view->refresh();
+  else if (key == u"VwLIGNE")
+    view->setByLine(!view->isByLine());
+  else if (key == u"VwMA")
+    view->setHidesMadeAttempted(!view->hidesMadeAttempted());
+  else if (key == u"VwCLOSE")
+    m_area->closeActiveSubWindow();
+  for (const auto& [modeKey, mode] : kRefreshModes) {
+    if (key == QLatin1String(modeKey)) {
+      view->setRefreshMode(mode);
+      m_workshop.memory.rememberRefreshSeconds(static_cast<int>(mode));
+    }
+  }
+  showCommands();
+}
+
+void MDI::chooseGame() {
+  const Texts& texts = m_workshop.texts;
+  const QString path =
+      m_workshop.dialogs.chooseFile(this, toQt(texts.text(1030)), toQt(m_workshop.settings.lastGameFolder),
+                                    fileFilter(toQt(texts.text(1058))));
+  if (path.isEmpty())
+    return;
+  m_workshop.settings.lastGameFolder = fromQt(QFileInfo(path).absolutePath());
+  openGame(path);
+}
+
+void MDI::openGame(const QString& path) {
+  if (frmVIEW* open = scorecardOf(path)) {
+    m_area->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(open->parentWidget()));
+    return;
+  }
+  auto view = std::make_unique<frmVIEW>(m_workshop.store, m_workshop.settings, m_workshop.texts);
+  if (const GameFileProblem problem = view->open(path); problem != GameFileProblem::None)
+    return refuse(problem, path);
+  addScorecard(view.release());
+  m_workshop.memory.rememberFile(fromQt(QFileInfo(path).absoluteFilePath()));
+}
+
+void MDI::addScorecard(frmVIEW* view) {
+  QMdiSubWindow* window = m_area->addSubWindow(view);
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  view->setRefreshMode(static_cast<frmVIEW::RefreshMode>(m_workshop.memory.refreshSeconds()));
+  connect(view, &frmVIEW::commandStateChanged, this, &MDI::showCommands);
+  connect(view, &frmVIEW::reported, this, [this](const QString& message) {
+    statusBar()->showMessage(message, static_cast<int>(std::chrono::milliseconds(kMessageTime).count()));
+  });
+  // Queued: by then the area has forgotten the window.
+  connect(window, &QObject::destroyed, this, &MDI::showCommands, Qt::QueuedConnection);
+  m_pages->setCurrentWidget(m_area);
+  const bool isFirst = m_area->subWindowList().size() == 1;
+  if (isFirst || m_area->currentSubWindow()->isMaximized())
+    window->showMaximized();
+  else
+    window->show();
+  showCommands();
+}
+
+void MDI::refuse(GameFileProblem problem, const QString& path) {
+  const Texts& texts = m_workshop.texts;
+  m_workshop.dialogs.warn(
+      this, toQt(texts.text(kErrorTitle)),
+      toQt(texts.withPlaceholder(refusalText(problem), fromQt(QDir::toNativeSeparators(path)))));
+}
+
+frmVIEW* MDI::scorecard() const {
+  const QMdiSubWindow* window = m_area->currentSubWindow();
+  return window == nullptr ? nullptr : qobject_cast<frmVIEW*>(window->widget());
+}
+
+frmVIEW* MDI::scorecardOf(const QString& path) const {
+  const QFileInfo wanted(path);
+  for (const QMdiSubWindow* window : m_area->subWindowList()) {
+    auto* view = qobject_cast<frmVIEW*>(window->widget());
+    if (view != nullptr && QFileInfo(view->path()) == wanted)
+      return view;
+  }
+  return nullptr;
+}
+
+void MDI::showCommands() {
+  Modes modes;
+  if (const frmVIEW* view = scorecard()) {
+    modes.hasScorecard = true;
+    modes.scorecardByLine = view->isByLine();
+    modes.scorecardHidesMadeAttempted = view->hidesMadeAttempted();
+    modes.refreshSeconds = static_cast<int>(view->refreshMode());
+  }
+  modes.asksRebounds = m_workshop.settings.asksRebounds;
+  modes.keypadIsActive = m_workshop.settings.keypadIsActive;
+  m_commands->show(modes, m_workshop.texts);
+  if (m_area->subWindowList().isEmpty())
+    m_pages->setCurrentIndex(0);
+}
+
+void MDI::switchLanguage() {
+  Texts& texts = m_workshop.texts;
+  texts.setLanguage(texts.language() == Language::French ? Language::English : Language::French);
+  relabelEverything();
+  m_workshop.settings.saveLanguage(texts.language());
+  showWhatIsUnsaved();
+}
+
+void MDI::relabelEverything() {
+  m_dialogLanguage.set(m_workshop.texts.language());
+  relabel(*this, m_workshop.texts);
+  for (const QMdiSubWindow* window : m_area->subWindowList()) {
+    if (auto* view = qobject_cast<frmVIEW*>(window->widget()))
+      view->relabelWindow();
+  }
+  showWhatIsUnsaved();
+  showCommands();
+}
+
+void MDI::switchColours(ColourScheme scheme) {
+  Theme::apply(*qApp, scheme);
+  m_workshop.memory.rememberColourScheme(scheme);
+  for (const QMdiSubWindow* window : m_area->subWindowList()) {
+    if (auto* view = qobject_cast<frmVIEW*>(window->widget()))
+      view->applyColours();
+  }
+}
+
+void MDI::report(Settings::Preparation preparation) {
+  const Texts& texts = m_workshop.texts;
+  if (preparation == Settings::Preparation::FirstRunKeptOld)
+    m_workshop.dialogs.warn(this, toQt(texts.text(kWarningTitle)),
+                            toQt(texts.withPlaceholder(kOldSettingsKept, m_workshop.settings.keptAs())));
+  showWhatIsUnsaved();
+}
+
+void MDI::showWhatIsUnsaved() {
+  const bool isUnsaved = !m_workshop.settings.isOnDisk();
+  m_unsaved->setText(notSaved());
+  m_unsaved->setVisible(isUnsaved);
+  if (!isUnsaved)
+    m_retryOfWrites.stop();
+  else if (!m_retryOfWrites.isActive())
+    m_retryOfWrites.start();
+}
+
+QString MDI::notSaved() const {
+  return toQt(m_workshop.texts.withPlaceholder(kNotSaved, m_workshop.settings.path()));
+}
+
+void MDI::restorePlace() {
+  const std::string layout = m_workshop.memory.layout(kLayoutName);
+  if (restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(layout))))
+    return;
+  resize(kFirstSize.boundedTo(screen()->availableSize()));
+  setWindowState(Qt::WindowMaximized); // a first start takes the whole screen: a table's columns want the room
+}
+
+void MDI::closeEvent(QCloseEvent* event) {
+  m_area->closeAllSubWindows();
+  const QList<QMdiSubWindow*> windows = m_area->subWindowList();
+  if (!std::ranges::all_of(windows, &QWidget::isHidden)) { // one of them wants to stay
+    event->ignore();
+    return;
+  }
+  if (!m_workshop.settings.saveLastFolders())
+    m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(kErrorTitle)), notSaved());
+  m_workshop.memory.rememberLayout(kLayoutName, saveGeometry().toBase64().toStdString());
+  event->accept();
+}
+
+void MDI::dragEnterEvent(QDragEnterEvent* event) {
+  if (!localFiles(*event->mimeData()).isEmpty())
+    event->acceptProposedAction();
+}
+
+void MDI::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  // Later, so that a message does not hold up the program that the files were dragged from.
+  QTimer::singleShot(0, this, [this, files = localFiles(*event->mimeData())] {
+    for (const QString& file : files)
+      openGame(file);
+  });
+}
+
+} // namespace hooptab

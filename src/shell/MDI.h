@@ -1,0 +1,86 @@
+// The main window: the frame in which every child window opens, and the dispatch of the commands. It opens
+// games, hands scorecard commands to the scorecard in front, and switches language and colours. What is
+// enabled, how commands look and where things are remembered is decided by the classes it is made of.
+#pragma once
+
+#include "appearance/ColourScheme.h"
+#include "shell/CommandState.h"
+#include "shell/DialogLanguage.h"
+#include "shell/HelpPages.h"
+#include "storage/GameFile.h"
+#include "storage/Settings.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+class QLabel;
+class QMdiArea;
+class QStackedWidget;
+
+namespace hooptab {
+
+class CommandBar;
+class Dialogs;
+class MainMenu;
+class SharedFiles;
+class WindowMemory;
+class frmVIEW;
+
+// What the main window works with; made by main, which keeps it alive.
+struct Workshop {
+  cinifile& store;
+  Settings& settings;
+  Texts& texts;
+  WindowMemory& memory;
+  Dialogs& dialogs;
+  const SharedFiles& files;
+};
+
+class MDI : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit MDI(const Workshop& workshop);
+  ~MDI() override;
+
+  // Opens a game as a scorecard, or brings the scorecard to the front that shows it already. A game that
+  // cannot be opened is refused with a message, and everything open stays.
+  void openGame(const QString& path);
+  // Tells what the preparation of the settings has to say to the user, if anything.
+  void report(Settings::Preparation preparation);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void carryOut(const QString& key);
+  void chooseGame();
+  void switchLanguage();
+  void switchColours(ColourScheme scheme);
+  void relabelEverything();
+
+  void addScorecard(frmVIEW* view);
+  [[nodiscard]] frmVIEW* scorecard() const; // the one in front, or null
+  [[nodiscard]] frmVIEW* scorecardOf(const QString& path) const;
+  void showCommands();
+  void refuse(GameFileProblem problem, const QString& path);
+
+  void showWhatIsUnsaved();
+  [[nodiscard]] QString notSaved() const;
+  void restorePlace();
+
+  Workshop m_workshop;
+  QTimer m_retryOfWrites;
+  DialogLanguage m_dialogLanguage;
+  HelpPages m_help;
+
+  CommandBar* m_commands = nullptr;
+  MainMenu* m_menu = nullptr;
+  QMdiArea* m_area = nullptr;
+  QStackedWidget* m_pages = nullptr;
+  QLabel* m_unsaved = nullptr;
+};
+
+} // namespace hooptab

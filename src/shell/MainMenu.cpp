@@ -1,0 +1,147 @@
+#include "shell/MainMenu.h"
+
+#include "appearance/Icons.h"
+#include "appearance/relabel.h"
+#include "shell/CommandBar.h"
+#include "shell/GameMenu.h"
+
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <string_view>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kFile = 1524;
+constexpr int kView = 1525;
+constexpr int kInput = 1526;
+constexpr int kTeams = 1527;
+constexpr int kSeason = 1252;
+constexpr int kSettings = 1528;
+constexpr int kWindow = 1529;
+constexpr int kHelp = 1380;
+constexpr int kLeave = 1532;
+constexpr int kColours = 1591;
+constexpr int kLight = 1542;
+constexpr int kDark = 1543;
+constexpr int kNextWindow = 1610;
+constexpr int kPreviousWindow = 1611;
+constexpr int kTile = 1533;
+constexpr int kCascade = 1534;
+constexpr int kCloseAll = 1535;
+
+} // namespace
+
+MainMenu::MainMenu(QMainWindow& window, QMdiArea& area, const CommandBar& commands, GameMenu& recent,
+                   GameMenu& samples)
+    : QObject(&window), m_window(window), m_commands(commands) {
+  constexpr const char* kSeparator = "";
+
+  QMenu& file = addMenu(kFile, {"VwOPEN"});
+  file.addMenu(&recent);
+  file.addSeparator();
+  QAction& leave = addAction(file, "QUIT", kLeave, QStringLiteral("Ctrl+Q"));
+  leave.setIcon(icon(QStringLiteral("quit")));
+  leave.setMenuRole(QAction::QuitRole);
+  connect(&leave, &QAction::triggered, &window, &QWidget::close);
+
+  addMenu(kView, {"VwREFRESH", "VwREFSEC00", "VwREFSEC10", "VwREFSEC30", "VwREFSEC60", kSeparator, "VwLIGNE",
+                  "VwMA", kSeparator, "vwPRINT", "VwCLOSE"});
+  addMenu(kInput, {"LIVENew", "LIVEOpen", kSeparator, "LIVEKpad", "LIVEMouse", "SWITCH", "GAMEOVER",
+                   kSeparator, "saveMANUAL", "livePRINT", "FORMS", "CLOSELIVEMANUAL"});
+  addMenu(kTeams, {"gEQUIPE"});
+  addMenu(kSeason,
+          {"STATS", kSeparator, "StLISTGAMES", "StLISTGAMESSOMM", kSeparator, "stSTATJOUEURS", "stSTATLIGNES",
+           "stSTATJOUEURSAUTRES", "stSTATLIGNESAUTRES", kSeparator, "stMENEURSTOT", "stMENEURSMOY",
+           "stMENEURSMIN", kSeparator, "stRAPJOUEUR", "stRAPLIGNE", kSeparator, "stPRINT", "stCLOSE"});
+  QMenu& settings = addMenu(kSettings, {"tbTERRAIN", "tbKEYPAD", kSeparator, "tbLANGUE"});
+  QMenu& colours = coloursMenu();
+  settings.addMenu(&colours);
+  addWindowMenu(area);
+  QMenu& help = addMenu(kHelp, {"AidHELP", "AidWEB"});
+  help.addMenu(&samples);
+  help.addSeparator();
+  help.addAction(&commands.action("AidABOUT"));
+
+  // The drop-downs of the tool bar offer the same.
+  commands.dropDown("VIEW").addMenu(&recent);
+  commands.dropDown("SETTINGS").addMenu(&colours);
+  commands.dropDown("HELP").insertMenu(&commands.action("AidABOUT"), &samples);
+}
+
+QMenu& MainMenu::addMenu(int text, std::initializer_list<const char*> keys) {
+  QMenu* menu = m_window.menuBar()->addMenu(QString());
+  menu->setToolTipsVisible(true);
+  setTextNumber(*menu->menuAction(), text);
+  for (const std::string_view key : keys) {
+    if (key.empty())
+      menu->addSeparator();
+    else
+      menu->addAction(&m_commands.action(key));
+  }
+  return *menu;
+}
+
+QAction& MainMenu::addAction(QMenu& menu, const char* name, int text, const QString& shortcut) {
+  QAction* action = menu.addAction(QString());
+  action->setObjectName(QLatin1String(name));
+  action->setShortcut(QKeySequence(shortcut));
+  setTextNumber(*action, text);
+  return *action;
+}
+
+QMenu& MainMenu::coloursMenu() {
+  auto* menu = new QMenu(&m_window);
+  menu->setIcon(icon(QStringLiteral("theme")));
+  setTextNumber(*menu->menuAction(), kColours);
+  auto* choice = new QActionGroup(this);
+  m_light = &addAction(*menu, "coloursLight", kLight);
+  m_dark = &addAction(*menu, "coloursDark", kDark);
+  for (QAction* action : {m_light, m_dark}) {
+    action->setCheckable(true);
+    choice->addAction(action);
+  }
+  connect(choice, &QActionGroup::triggered, this, [this](QAction* action) {
+    emit coloursChosen(action == m_dark ? ColourScheme::Dark : ColourScheme::Light);
+  });
+  return *menu;
+}
+
+void MainMenu::showColours(ColourScheme scheme) {
+  (scheme == ColourScheme::Dark ? m_dark : m_light)->setChecked(true);
+}
+
+void MainMenu::addWindowMenu(QMdiArea& area) {
+  QMenu& menu = addMenu(kWindow, {});
+  QAction& next = addAction(menu, "windowNext", kNextWindow, QStringLiteral("Ctrl+F6"));
+  QAction& previous = addAction(menu, "windowPrevious", kPreviousWindow, QStringLiteral("Ctrl+Shift+F6"));
+  menu.addSeparator();
+  QAction& tile = addAction(menu, "windowTile", kTile);
+  QAction& cascade = addAction(menu, "windowCascade", kCascade);
+  QAction& closeAll = addAction(menu, "windowCloseAll", kCloseAll);
+  QAction* beforeWindows = menu.addSeparator();
+  connect(&next, &QAction::triggered, &area, &QMdiArea::activateNextSubWindow);
+  connect(&previous, &QAction::triggered, &area, &QMdiArea::activatePreviousSubWindow);
+  connect(&tile, &QAction::triggered, &area, &QMdiArea::tileSubWindows);
+  connect(&cascade, &QAction::triggered, &area, &QMdiArea::cascadeSubWindows);
+  connect(&closeAll, &QAction::triggered, &area, &QMdiArea::closeAllSubWindows);
+
+  // The open windows by name, made anew each time: titles change with score and language.
+  connect(&menu, &QMenu::aboutToShow, this, [&menu, &area, beforeWindows] {
+    const QList<QAction*> entries = menu.actions();
+    for (qsizetype i = entries.indexOf(beforeWindows) + 1; i < entries.size(); ++i)
+      delete entries[i];
+    for (QMdiSubWindow* window : area.subWindowList()) {
+      QAction* entry = menu.addAction(window->windowTitle().replace(u'&', QStringLiteral("&&")));
+      entry->setCheckable(true);
+      entry->setChecked(window == area.currentSubWindow());
+      connect(entry, &QAction::triggered, window, [window, &area] { area.setActiveSubWindow(window); });
+    }
+  });
+}
+
+} // namespace hooptab

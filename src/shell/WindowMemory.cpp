@@ -1,0 +1,128 @@
+#include "shell/WindowMemory.h"
+
+#include "storage/Module1.h"
+#include "storage/codepage.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+namespace hooptab {
+
+namespace {
+
+constexpr const char* kLayouts = "LAYOUT";
+constexpr const char* kRecentFiles = "RECENT";
+constexpr const char* kChoices = "CHOICES";
+
+// Names of files are bytes, and the profile file knows only the letters of its code page: all but plain
+// printable characters are written as % and two hexadecimal digits.
+std::string escaped(std::string_view path) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string result;
+  for (const char character : path) {
+    const auto byte = static_cast<unsigned char>(character);
+    if (byte > ' ' && byte < 0x7F && byte != '%')
+      result += character;
+    else
+      result.append({'%', kDigits[byte >> 4U], kDigits[byte & 0xFU]});
+  }
+  return result;
+}
+
+int hexDigit(char character) {
+  constexpr std::string_view kDigits = "0123456789ABCDEFabcdef";
+  const std::size_t place = kDigits.find(character);
+  return place == std::string_view::npos ? -1 : static_cast<int>(place < 16 ? place : place - 6);
+}
+
+std::string unescaped(std::string_view text) {
+  std::string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const int high = text[i] == '%' && i + 2 < text.size() ? hexDigit(text[i + 1]) : -1;
+    const int low = high < 0 ? -1 : hexDigit(text[i + 2]);
+    if (low < 0) {
+      result += text[i];
+    } else {
+      result += static_cast<char>(high * 16 + low);
+      i += 2;
+    }
+  }
+  return result;
+}
+
+} // namespace
+
+WindowMemory::WindowMemory(cinifile& store, const std::string& programFolder)
+    : m_store(store), m_path((std::filesystem::path(programFolder) / "WINDOWS.INI").string()) {}
+
+std::string WindowMemory::layout(std::string_view name) {
+  return value(kLayouts, name);
+}
+
+void WindowMemory::rememberLayout(std::string_view name, std::string_view text) {
+  write(kLayouts, name, text);
+}
+
+std::vector<std::string> WindowMemory::recentFiles() {
+  std::vector<std::string> result;
+  for (std::size_t i = 1; i <= kMostRecentFiles; ++i) {
+    std::string path = unescaped(value(kRecentFiles, std::to_string(i)));
+    std::error_code ignored;
+    if (std::filesystem::is_regular_file(path, ignored) && std::ranges::find(result, path) == result.end())
+      result.push_back(std::move(path));
+  }
+  return result;
+}
+
+void WindowMemory::rememberFile(const std::string& path) {
+  std::vector<std::string> paths = recentFiles();
+  std::erase(paths, path);
+  paths.insert(paths.begin(), path);
+  paths.resize(std::min(paths.size(), kMostRecentFiles));
+  std::vector<std::pair<std::string, std::string>> lines;
+  for (std::size_t i = 0; i < paths.size(); ++i)
+    lines.emplace_back(std::to_string(i + 1), escaped(paths[i]));
+  ProfileBatch batch;
+  batch.setSectionLines(kRecentFiles, std::move(lines));
+  m_store.Path(m_path);
+  m_store.write(batch);
+}
+
+std::optional<ColourScheme> WindowMemory::colourScheme() {
+  const std::string name = value(kChoices, "COLOURS");
+  if (name == "light")
+    return ColourScheme::Light;
+  if (name == "dark")
+    return ColourScheme::Dark;
+  return std::nullopt;
+}
+
+void WindowMemory::rememberColourScheme(ColourScheme scheme) {
+  write(kChoices, "COLOURS", scheme == ColourScheme::Dark ? "dark" : "light");
+}
+
+int WindowMemory::refreshSeconds() {
+  const int seconds = Module1::leadingNumber(value(kChoices, "REFRESH"));
+  return seconds == 10 || seconds == 30 || seconds == 60 ? seconds : 0;
+}
+
+void WindowMemory::rememberRefreshSeconds(int seconds) {
+  write(kChoices, "REFRESH", std::to_string(seconds));
+}
+
+// Read whole: the state of a wide table is longer than a value of the store may be.
+std::string WindowMemory::value(std::string_view section, std::string_view key) {
+  m_store.Path(m_path);
+  const std::optional<std::string_view> stored = m_store.profile().value(section, key);
+  return stored ? codepage::toUtf8(*stored) : std::string();
+}
+
+void WindowMemory::write(std::string section, std::string_view key, std::string_view value) {
+  ProfileBatch batch;
+  batch.set(std::move(section), std::string(key), std::string(value));
+  m_store.Path(m_path);
+  m_store.write(batch);
+}
+
+} // namespace hooptab

@@ -1,0 +1,45 @@
+// What the program remembers for comfort, in WINDOWS.INI of the program folder: places and columns of
+// windows, recent files, the last choices. Losing it costs nothing, so it is read leniently and a failed
+// write is no event. The file is described in docs/formats/config.md.
+#pragma once
+
+#include "appearance/ColourScheme.h"
+#include "storage/cinifile.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace hooptab {
+
+class WindowMemory {
+ public:
+  static constexpr std::size_t kMostRecentFiles = 10;
+
+  WindowMemory(cinifile& store, const std::string& programFolder);
+
+  // How a window or a table was left, as a text without line breaks that only its owner understands; empty
+  // when never.
+  [[nodiscard]] std::string layout(std::string_view name);
+  void rememberLayout(std::string_view name, std::string_view text);
+
+  // Newest first, without those that are gone.
+  [[nodiscard]] std::vector<std::string> recentFiles();
+  void rememberFile(const std::string& path);
+
+  [[nodiscard]] std::optional<ColourScheme> colourScheme();
+  void rememberColourScheme(ColourScheme scheme);
+  // Seconds between automatic refreshes of a scorecard: 10, 30, 60, or 0 for none.
+  [[nodiscard]] int refreshSeconds();
+  void rememberRefreshSeconds(int seconds);
+
+ private:
+  std::string value(std::string_view section, std::string_view key);
+  void write(std::string section, std::string_view key, std::string_view value);
+
+  cinifile& m_store;
+  std::string m_path;
+};
+
+} // namespace hooptab

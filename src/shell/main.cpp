@@ -1,0 +1,100 @@
+// Makes the parts of the program, hands them down, and shows the main window.
+#include "appearance/Dialogs.h"
+#include "appearance/Icons.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "shell/Arguments.h"
+#include "shell/InstanceLock.h"
+#include "shell/MDI.h"
+#include "shell/ProgramFolder.h"
+#include "shell/SharedFiles.h"
+#include "shell/WindowMemory.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <filesystem>
+#include <iostream>
+
+using namespace hooptab;
+
+namespace {
+
+constexpr int kWrongUse = 2;
+
+// Answers what needs no window; nothing when the program is to start.
+std::optional<int> answer(const Arguments& arguments) {
+  if (!arguments.error.empty()) {
+    std::cerr << "hooptab: " << arguments.error << '\n';
+    return kWrongUse;
+  }
+  if (arguments.asksForHelp)
+    std::cout << usage();
+  else if (arguments.asksForVersion)
+    std::cout << "hooptab " HOOPTAB_VERSION "\n";
+  else
+    return std::nullopt;
+  return EXIT_SUCCESS;
+}
+
+int run(QApplication& application, const Arguments& arguments, QtDialogs& dialogs) {
+  const std::string executableFolder = fromQt(QCoreApplication::applicationDirPath());
+  const ProgramFolder folder =
+      findProgramFolder(ProgramFolderSources::ofEnvironment(arguments.folder, executableFolder));
+  if (folder.problem != ProgramFolderProblem::None) {
+    dialogs.warn(nullptr, QStringLiteral("HOOPTAB"), toQt(message(folder)));
+    return EXIT_FAILURE;
+  }
+
+  FileSystem files;
+  cinifile store(files);
+  Texts texts;
+  Settings settings(store, folder.path);
+  settings.read();
+  texts.setLanguage(settings.language);
+  InstanceLock lock(toQt(folder.path));
+  if (!lock.acquire()) {
+    dialogs.inform(nullptr, QStringLiteral("HOOPTAB"), toQt(texts.text(1436)));
+    return EXIT_FAILURE;
+  }
+
+  const Settings::Preparation preparation = settings.prepare(texts);
+  texts.setLanguage(settings.language);
+  texts.showNumbers(settings.asksForTextNumbers());
+  const SharedFiles shared(executableFolder);
+  if (preparation == Settings::Preparation::FirstRun || preparation == Settings::Preparation::FirstRunKeptOld)
+    shared.provide("guide.pdf", folder.path);
+  WindowMemory memory(store, folder.path);
+  if (arguments.colourScheme)
+    memory.rememberColourScheme(*arguments.colourScheme);
+  Theme::apply(application, memory.colourScheme().value_or(ColourScheme::Light));
+
+  MDI window({store, settings, texts, memory, dialogs, shared});
+  window.show();
+  // After the window is there: what is said now stands in front of it.
+  QTimer::singleShot(0, &window, [&] {
+    window.report(preparation);
+    for (const std::string& game : arguments.games)
+      window.openGame(toQt(game));
+    if (arguments.leavesWhenReady)
+      QTimer::singleShot(0, &window, &QWidget::close);
+  });
+  return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  std::error_code ignored;
+  const Arguments arguments =
+      parseArguments({argv + 1, argv + argc}, std::filesystem::current_path(ignored).string());
+  if (const std::optional<int> status = answer(arguments))
+    return *status;
+
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("hooptab"));
+  QApplication::setApplicationVersion(QStringLiteral(HOOPTAB_VERSION));
+  QApplication::setDesktopFileName(QStringLiteral("hooptab"));
+  QApplication::setWindowIcon(icon(QStringLiteral("hooptab")));
+  QtDialogs dialogs;
+  return run(application, arguments, dialogs);
+}

@@ -1,0 +1,47 @@
+#include "shell/Arguments.h"
+
+#include <gtest/gtest.h>
+
+namespace hooptab {
+namespace {
+
+Arguments parse(const std::vector<std::string>& words) {
+  return parseArguments(words, "/home/coach/games");
+}
+
+TEST(Arguments, WithoutWordsAskForNothing) {
+  const Arguments none = parse({});
+  EXPECT_EQ(none.folder, std::nullopt);
+  EXPECT_EQ(none.colourScheme, std::nullopt);
+  EXPECT_TRUE(none.games.empty());
+  EXPECT_FALSE(none.asksForHelp);
+  EXPECT_EQ(none.error, "");
+}
+
+TEST(Arguments, OptionsAndGamesComeInAnyOrder) {
+  const Arguments all = parse({"A B.GAM", "--folder", "../program", "--dark", "/tmp/c.gam", "--light"});
+  EXPECT_EQ(all.error, "");
+  EXPECT_EQ(all.folder, "/home/coach/program");
+  EXPECT_EQ(all.colourScheme, ColourScheme::Light) << "the last one counts";
+  EXPECT_EQ(all.games, (std::vector<std::string>{"/home/coach/games/A B.GAM", "/tmp/c.gam"}));
+  EXPECT_EQ(parse({"--folder=/x/./y"}).folder, "/x/y");
+  EXPECT_TRUE(parse({"--version"}).asksForVersion);
+  EXPECT_TRUE(parse({"--help"}).asksForHelp);
+}
+
+TEST(Arguments, BehindTwoDashesEveryWordIsAGame) {
+  const Arguments games = parse({"--", "--dark", "-x.GAM"});
+  EXPECT_EQ(games.colourScheme, std::nullopt);
+  EXPECT_EQ(games.games, (std::vector<std::string>{"/home/coach/games/--dark", "/home/coach/games/-x.GAM"}));
+}
+
+TEST(Arguments, WrongUseIsNamed) {
+  for (const char* unknown : {"--drak", "-d", "--folders", "--dark=1"})
+    EXPECT_EQ(parse({unknown}).error, std::string("unknown option ") + unknown);
+  EXPECT_NE(parse({"--folder"}).error, "");
+  EXPECT_NE(parse({"--folder="}).error, "");
+  EXPECT_NE(parse({"--folder", ""}).error, "");
+}
+
+} // namespace
+} // namespace hooptab

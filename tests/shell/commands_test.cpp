@@ -1,0 +1,193 @@
+#include "shell/Commands.h"
+
+#include "shell/CommandState.h"
+#include "storage/Texts.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+#include <string>
+
+namespace hooptab {
+namespace {
+
+// Every combination of modes that the main window can be in.
+std::vector<Modes> allModes() {
+  std::vector<Modes> all;
+  for (unsigned bits = 0; bits < 128; ++bits)
+    for (const int seconds : {0, 10, 30, 60})
+      for (const LiveClock live : {LiveClock::NoGame, LiveClock::Stopped, LiveClock::Running})
+        all.push_back({(bits & 1U) != 0, (bits & 2U) != 0, (bits & 4U) != 0, seconds, (bits & 8U) != 0, live,
+                       (bits & 16U) != 0, (bits & 32U) != 0, (bits & 64U) != 0});
+  return all;
+}
+
+CommandState state(std::string_view key, const Modes& modes) {
+  const Command* command = findCommand(key);
+  EXPECT_NE(command, nullptr) << key;
+  return command == nullptr ? CommandState{} : stateOf(*command, modes);
+}
+
+// As the command would be once its window exists.
+CommandState stateWhenBuilt(std::string_view key, const Modes& modes) {
+  Command command = *findCommand(key);
+  command.isBuilt = true;
+  return stateOf(command, modes);
+}
+
+TEST(Commands, AreFoundByTheirKeyLetterForLetter) {
+  std::set<std::string_view> keys;
+  for (const Command& command : commands()) {
+    EXPECT_TRUE(keys.insert(command.key).second) << command.key << " twice";
+    EXPECT_EQ(findCommand(command.key), &command);
+  }
+  EXPECT_EQ(findCommand("vwOPEN"), nullptr);
+  EXPECT_EQ(findCommand(""), nullptr);
+  for (const char* key : {"VIEW",
+                          "VwOPEN",
+                          "STATS",
+                          "VwREFRESH",
+                          "VwREFSEC00",
+                          "VwREFSEC10",
+                          "VwREFSEC30",
+                          "VwREFSEC60",
+                          "VwLIGNE",
+                          "VwMA",
+                          "vwPRINT",
+                          "VwCLOSE",
+                          "LIVEOpen",
+                          "LIVENew",
+                          "saveMANUAL",
+                          "SWITCH",
+                          "LIVEMouse",
+                          "LIVEKpad",
+                          "GAMEOVER",
+                          "CLOSELIVEMANUAL",
+                          "livePRINT",
+                          "tbTERRAIN",
+                          "tbKEYPAD",
+                          "gEQUIPE",
+                          "blankPRINT",
+                          "viergePRINT",
+                          "StLISTGAMES",
+                          "stSTATJOUEURS",
+                          "stSTATLIGNES",
+                          "stSTATJOUEURSAUTRES",
+                          "stSTATLIGNESAUTRES",
+                          "StLISTGAMESSOMM",
+                          "stMENEURSTOT",
+                          "stMENEURSMOY",
+                          "stMENEURSMIN",
+                          "stRAPJOUEUR",
+                          "stRAPLIGNE",
+                          "stPRINT",
+                          "stCLOSE",
+                          "tbLANGUE",
+                          "AidHELP",
+                          "AidWEB",
+                          "AidABOUT"})
+    EXPECT_TRUE(keys.contains(key)) << key;
+  EXPECT_FALSE(keys.contains("tbVOICE"));
+}
+
+TEST(Commands, EachHasItsTextsItsIconAndAShortcutOfItsOwn) {
+  const Texts texts;
+  std::set<std::string_view> shortcuts;
+  const auto hasIcon = [](std::string_view icon) {
+    return std::filesystem::exists(std::filesystem::path(HOOPTAB_TESTS) / "../src/resources/icons" /
+                                   (std::string(icon) + ".svg"));
+  };
+  for (const Command& command : commands()) {
+    SCOPED_TRACE(command.key);
+    EXPECT_FALSE(texts.text(command.text).empty());
+    EXPECT_TRUE(hasIcon(command.icon)) << command.icon;
+    EXPECT_EQ(command.kind == CommandKind::Swap, command.otherText != 0);
+    if (command.otherText != 0) {
+      EXPECT_NE(texts.text(command.text), texts.text(command.otherText));
+      EXPECT_TRUE(hasIcon(command.otherIcon));
+    }
+    std::string icon(command.key);
+    std::ranges::transform(icon, icon.begin(),
+                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    EXPECT_EQ(command.icon, icon);
+    EXPECT_TRUE(command.shortcut.empty() || shortcuts.insert(command.shortcut).second) << command.shortcut;
+  }
+}
+
+TEST(Commands, EntriesFollowTheButtonThatHoldsThem) {
+  std::set<std::string_view> before;
+  for (const Command& command : commands()) {
+    EXPECT_TRUE(command.parent.empty() || before.contains(command.parent)) << command.key;
+    before.insert(command.key);
+  }
+  for (const Command& command : commands())
+    EXPECT_TRUE(command.kind != CommandKind::Menu ||
+                std::ranges::count(commands(), command.key, &Command::parent) > 0)
+        << command.key << " has no entries";
+}
+
+TEST(CommandState, ACommandWhoseWindowDoesNotExistIsNeverEnabled) {
+  std::set<std::string_view> enabled;
+  for (const Modes& modes : allModes())
+    for (const Command& command : commands())
+      if (stateOf(command, modes).isEnabled)
+        enabled.insert(command.key);
+  const std::set<std::string_view> built = {
+      "VIEW", "VwOPEN",  "VwREFRESH", "VwREFSEC00", "VwREFSEC10", "VwREFSEC30", "VwREFSEC60", "VwLIGNE",
+      "VwMA", "VwCLOSE", "SETTINGS",  "tbLANGUE",   "HELP",       "AidHELP",    "AidWEB",     "AidABOUT"};
+  EXPECT_EQ(enabled, built);
+}
+
+TEST(CommandState, AGroupIsEnabledAsAWhole) {
+  for (const Modes& modes : allModes()) {
+    std::map<CommandGroup, std::set<bool>> states;
+    for (const Command& command : commands())
+      if (command.kind != CommandKind::Menu)
+        states[command.group].insert(stateWhenBuilt(command.key, modes).isEnabled);
+    for (const auto& [group, values] : states)
+      EXPECT_EQ(values.size(), 1U) << static_cast<int>(group);
+  }
+}
+
+TEST(CommandState, EachModeEnablesItsCommands) {
+  for (const Modes& modes : allModes()) {
+    const bool hasLive = modes.live != LiveClock::NoGame;
+    EXPECT_TRUE(state("VwOPEN", modes).isEnabled);
+    EXPECT_TRUE(state("VIEW", modes).isEnabled);
+    EXPECT_EQ(state("VwCLOSE", modes).isEnabled, modes.hasScorecard);
+    EXPECT_EQ(stateWhenBuilt("stCLOSE", modes).isEnabled, modes.hasSeason);
+    EXPECT_EQ(stateWhenBuilt("SWITCH", modes).isEnabled, hasLive);
+    EXPECT_EQ(stateWhenBuilt("saveMANUAL", modes).isEnabled, modes.hasManual);
+    EXPECT_EQ(stateWhenBuilt("CLOSELIVEMANUAL", modes).isEnabled, hasLive || modes.hasManual);
+    EXPECT_EQ(stateWhenBuilt("LIVEOpen", modes).isEnabled, modes.live != LiveClock::Running);
+    EXPECT_EQ(stateWhenBuilt("LIVENew", modes).isEnabled, modes.live != LiveClock::Running);
+  }
+}
+
+TEST(CommandState, WhatIsOnIsCheckedOrShowsTheWayBack) {
+  for (const Modes& modes : allModes()) {
+    EXPECT_EQ(state("VwLIGNE", modes).text, modes.scorecardByLine ? 1033 : 1032);
+    EXPECT_EQ(state("VwMA", modes).text, modes.scorecardHidesMadeAttempted ? 1035 : 1034);
+    EXPECT_EQ(state("VwLIGNE", modes).icon, modes.scorecardByLine ? "vwplayer" : "vwligne");
+    EXPECT_EQ(state("LIVEMouse", modes).isChecked, modes.asksRebounds);
+    EXPECT_EQ(state("LIVEKpad", modes).isChecked, modes.keypadIsActive);
+    int checkedRefreshModes = 0;
+    for (const Command& command : commands()) {
+      const CommandState now = stateOf(command, modes);
+      if (command.kind == CommandKind::Choice && now.isChecked)
+        ++checkedRefreshModes;
+      EXPECT_FALSE(now.isChecked && command.kind != CommandKind::Choice &&
+                   command.kind != CommandKind::Toggle)
+          << command.key;
+    }
+    EXPECT_EQ(checkedRefreshModes, 1);
+  }
+  EXPECT_TRUE(state("VwREFSEC30", {.refreshSeconds = 30}).isChecked);
+  EXPECT_TRUE(state("VwREFSEC00", {}).isChecked);
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,411 @@
+#include "shell/MDI.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "scorecard/frmVIEW.h"
+#include "shell/Commands.h"
+#include "shell/InstanceLock.h"
+#include "shell/SharedFiles.h"
+#include "shell/WindowMemory.h"
+#include "storage/Settings.h"
+#include "support/ScriptedDialogs.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <set>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace hooptab {
+namespace {
+
+namespace fs = std::filesystem;
+using Kind = ScriptedDialogs::Kind;
+
+// The main window on a program folder of its own, with an answering machine in place of the user's dialogs.
+class MainWindowTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    Theme::apply(*qApp, ColourScheme::Light);
+    start();
+  }
+  void TearDown() override {
+    window.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  void start() {
+    window.reset();
+    settings = std::make_unique<Settings>(store, folder());
+    preparation = settings->prepare(texts);
+    texts.setLanguage(settings->language);
+    texts.showNumbers(settings->asksForTextNumbers());
+    memory = std::make_unique<WindowMemory>(store, folder());
+    window = std::make_unique<MDI>(Workshop{store, *settings, texts, *memory, dialogs, shared});
+    window->resize(1366, 768);
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
+
+  std::string folder() const { return fromQt(programFolder.path()); }
+  QString fileIn(const QTemporaryDir& place, const char* name) const {
+    return place.filePath(QLatin1String(name));
+  }
+
+  // A game with one made shot, 3 : 0.
+  QString makeGame(const char* name, const char* visitors = "LYNX") {
+    const QString path = fileIn(games, name);
+    GameDetails details;
+    details.version = GameFile::kVersion;
+    details.date = "2026-11-05";
+    details.abbreviation[0] = visitors;
+    details.abbreviation[1] = "PUMA";
+    details.name[0] = "Basketball College";
+    details.name[1] = "Very Small School";
+    details.periods = 4;
+    details.minutesPerPeriod = 10;
+    GameFile file(store, fromQt(path));
+    EXPECT_EQ(file.create(details, {{"4", 0, "Ann Able"}}, {{"5", 1, "Bea Baker"}}), GameFileProblem::None);
+    EXPECT_EQ(file.append(1, 500, file.nextNumber(), {",GF3,0-4,60,80"}), GameFileProblem::None);
+    return path;
+  }
+  QString makeWrongFile() {
+    const QString path = fileIn(games, "WRONG.GAM");
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[DETAILS]\r\nVERSION=1.0\r\n");
+    return path;
+  }
+
+  QAction& action(const char* key) {
+    auto* found = window->findChild<QAction*>(QLatin1String(key));
+    EXPECT_NE(found, nullptr) << key;
+    return *found;
+  }
+  void click(const char* key) {
+    auto* button = window->findChild<QToolButton*>(QLatin1String("button_") + QLatin1String(key));
+    ASSERT_NE(button, nullptr) << key;
+    QTest::mouseClick(button, Qt::LeftButton);
+  }
+  QMdiArea& area() { return *window->findChild<QMdiArea*>(); }
+  QList<frmVIEW*> scorecards() { return area().findChildren<frmVIEW*>(); }
+  QString text(int number) { return toQt(texts.text(number)); }
+  std::string setting(const char* key) {
+    store.Path(settings->path());
+    store.Section("CONFIGURATION");
+    store.Key(key);
+    return store.Value();
+  }
+
+  QTemporaryDir programFolder, games, installed;
+  FileSystem files;
+  cinifile store{files};
+  Texts texts;
+  ScriptedDialogs dialogs;
+  SharedFiles shared{fromQt(installed.path())};
+  Settings::Preparation preparation = Settings::Preparation::AlreadyThere;
+  std::unique_ptr<Settings> settings;
+  std::unique_ptr<WindowMemory> memory;
+  std::unique_ptr<MDI> window;
+};
+
+// All actions that the menu bar leads to.
+void collect(const QList<QAction*>& actions, std::set<QString>& names) {
+  for (const QAction* action : actions) {
+    names.insert(action->objectName());
+    if (action->menu() != nullptr)
+      collect(action->menu()->actions(), names);
+  }
+}
+
+TEST_F(MainWindowTest, EveryCommandStandsInTheMenusAndIsDisabledUntilItsWindowExists) {
+  std::set<QString> inMenus;
+  collect(window->menuBar()->actions(), inMenus);
+  std::set<QString> usedKeys;
+  for (const Command& command : commands()) {
+    const QAction& shown = action(std::string(command.key).c_str());
+    if (command.kind != CommandKind::Menu) {
+      EXPECT_TRUE(inMenus.contains(shown.objectName())) << command.key;
+      const bool isUsable = command.isBuilt && command.group == CommandGroup::Always;
+      EXPECT_EQ(shown.isEnabled(), isUsable) << command.key << " in an empty window";
+    }
+    EXPECT_FALSE(shown.icon().isNull()) << command.key;
+    EXPECT_FALSE(shown.text().isEmpty()) << command.key;
+    const QString shortcut = shown.shortcut().toString();
+    if (!shortcut.isEmpty()) {
+      EXPECT_TRUE(usedKeys.insert(shortcut).second) << command.key << " shares a key";
+      EXPECT_TRUE(shown.toolTip().contains(shortcut)) << command.key << ": " << fromQt(shown.toolTip());
+    }
+  }
+}
+
+TEST_F(MainWindowTest, ShowsTheWholeToolBarOnASmallScreenInBothLanguages) {
+  for (int language = 0; language < 2; ++language) {
+    QTest::qWait(1); // one turn of the event loop lays out
+    auto* bar = window->findChild<QToolBar*>(QStringLiteral("Toolbar1"));
+    EXPECT_LE(bar->sizeHint().width(), 1366) << "in language " << language;
+    for (const Command& command : commands()) {
+      if (command.parent.empty()) {
+        const auto* button = window->findChild<QToolButton*>(QStringLiteral("button_") + toQt(command.key));
+        ASSERT_NE(button, nullptr) << command.key;
+        EXPECT_TRUE(button->isVisible()) << command.key << " in language " << language;
+      }
+    }
+    action("tbLANGUE").trigger();
+  }
+}
+
+TEST_F(MainWindowTest, OpensAGameByKeyAndServesItsScorecard) {
+  dialogs.nextFile = makeGame("A.GAM");
+  QTest::keyClick(window.get(), Qt::Key_O, Qt::ControlModifier);
+  ASSERT_EQ(scorecards().size(), 1);
+  EXPECT_TRUE(dialogs.lastFilter.contains(QStringLiteral("*.GAM *.gam"))) << fromQt(dialogs.lastFilter);
+  EXPECT_EQ(fromQt(dialogs.lastFolder), folder()) << "the first games are looked for in the program folder";
+  frmVIEW& view = *scorecards()[0];
+  EXPECT_TRUE(view.isVisible());
+  EXPECT_TRUE(area().currentSubWindow()->isMaximized());
+  EXPECT_EQ(memory->recentFiles(), std::vector{fromQt(dialogs.nextFile)});
+
+  for (const char* key :
+       {"VwREFRESH", "VwREFSEC00", "VwREFSEC10", "VwREFSEC30", "VwREFSEC60", "VwLIGNE", "VwMA", "VwCLOSE"})
+    EXPECT_TRUE(action(key).isEnabled()) << key;
+  EXPECT_FALSE(action("vwPRINT").isEnabled()) << "nothing prints yet";
+  EXPECT_TRUE(action("VwREFSEC00").isChecked());
+
+  click("VwLIGNE");
+  EXPECT_TRUE(view.isByLine());
+  EXPECT_EQ(action("VwLIGNE").text(), text(1033));
+  click("VwMA");
+  EXPECT_TRUE(view.hidesMadeAttempted());
+  EXPECT_EQ(action("VwMA").text(), text(1035));
+  click("VwLIGNE");
+  EXPECT_FALSE(view.isByLine());
+  EXPECT_EQ(action("VwLIGNE").text(), text(1032));
+
+  action("VwREFSEC30").trigger();
+  EXPECT_EQ(view.refreshMode(), frmVIEW::RefreshMode::Every30);
+  EXPECT_TRUE(action("VwREFSEC30").isChecked());
+  EXPECT_FALSE(action("VwREFSEC00").isChecked());
+
+  click("VwCLOSE");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return scorecards().isEmpty() && !action("VwREFRESH").isEnabled(); }));
+  EXPECT_TRUE(window->findChild<QWidget*>(QStringLiteral("welcome"))->isVisible());
+}
+
+TEST_F(MainWindowTest, RefusesAWrongFileAndKeepsTheOpenGame) {
+  window->openGame(makeGame("A.GAM"));
+  dialogs.nextFile = makeWrongFile();
+  action("VwOPEN").trigger();
+  ASSERT_EQ(dialogs.shown.size(), 1u);
+  EXPECT_EQ(dialogs.shown[0],
+            (ScriptedDialogs::Shown{Kind::Warn, QStringLiteral("HOOPTAB - Error"),
+                                    QStringLiteral("Invalid File Format (Not a Valid .GAM File)")}));
+  EXPECT_EQ(scorecards().size(), 1);
+  EXPECT_TRUE(action("VwREFRESH").isEnabled());
+  EXPECT_EQ(memory->recentFiles().size(), 1u);
+
+  window->openGame(fileIn(games, "MISSING.GAM"));
+  ASSERT_EQ(dialogs.shown.size(), 2u);
+  EXPECT_NE(dialogs.shown[1].text, text(1059)) << "a missing file is no wrong file";
+  EXPECT_TRUE(dialogs.shown[1].text.contains(QStringLiteral("MISSING.GAM")));
+
+  dialogs.nextFile.clear();
+  action("VwOPEN").trigger();
+  EXPECT_EQ(dialogs.shown.size(), 2u) << "a cancelled dialog is no event";
+}
+
+TEST_F(MainWindowTest, BringsAGameToTheFrontThatIsOpenAlready) {
+  const QString first = makeGame("A.GAM");
+  const QString second = makeGame("B.GAM", "COUGAR");
+  window->openGame(first);
+  window->openGame(second);
+  ASSERT_EQ(scorecards().size(), 2);
+  window->openGame(fileIn(games, "../") + QFileInfo(games.path()).fileName() + QStringLiteral("/A.GAM"));
+  EXPECT_EQ(scorecards().size(), 2);
+  EXPECT_EQ(qobject_cast<frmVIEW*>(area().currentSubWindow()->widget())->path(), first);
+}
+
+TEST_F(MainWindowTest, SwitchesTheLanguageOfEverythingThatIsOpen) {
+  window->openGame(makeGame("A.GAM"));
+  const QString englishToolTip = action("VwOPEN").toolTip();
+  QTest::keyClick(window.get(), Qt::Key_F12);
+  EXPECT_EQ(texts.language(), Language::French);
+  EXPECT_EQ(setting("LANGUE"), "4000");
+  EXPECT_EQ(action("VwOPEN").text(), toQt(texts.text(1030, Language::French)));
+  EXPECT_NE(action("VwOPEN").toolTip(), englishToolTip);
+  EXPECT_EQ(action("tbLANGUE").text(), QStringLiteral("English"));
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"))
+      << "dialog buttons";
+
+  QTest::keyClick(window.get(), Qt::Key_F12);
+  EXPECT_EQ(setting("LANGUE"), "0");
+  EXPECT_EQ(action("VwOPEN").toolTip(), englishToolTip);
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
+}
+
+TEST_F(MainWindowTest, ShowsTextNumbersWhenTheFirstLabelAsksForThem) {
+  store.Path(settings->path());
+  store.Section("CONFIGURATION");
+  store.Key("STATU1");
+  store.Value("WW-DEBUG");
+  start();
+  EXPECT_EQ(action("VwOPEN").text(), QStringLiteral("1030 Open a Game"));
+  action("tbLANGUE").trigger();
+  EXPECT_TRUE(action("VwOPEN").text().startsWith(QStringLiteral("5030 "))) << fromQt(action("VwOPEN").text());
+}
+
+TEST_F(MainWindowTest, OpensGamesThatAreDroppedOnIt) {
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(makeGame("A.GAM")), QUrl::fromLocalFile(makeWrongFile())});
+  QDragEnterEvent enter({100, 100}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(window.get(), &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  QDropEvent drop({100, 100}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(window.get(), &drop);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return dialogs.shown.size() == 1; }));
+  EXPECT_EQ(scorecards().size(), 1);
+
+  QMimeData noFile;
+  noFile.setText(QStringLiteral("some words"));
+  QDragEnterEvent enterText({100, 100}, Qt::CopyAction, &noFile, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(window.get(), &enterText);
+  EXPECT_FALSE(enterText.isAccepted());
+}
+
+TEST_F(MainWindowTest, RemembersTheLastFolderWhenItCloses) {
+  dialogs.nextFile = makeGame("A.GAM");
+  action("VwOPEN").trigger();
+  EXPECT_EQ(setting("LASTPATHGAME"), folder());
+  EXPECT_TRUE(window->close());
+  EXPECT_EQ(setting("LASTPATHGAME"), fromQt(games.path()));
+
+  start();
+  dialogs.nextFile.clear();
+  action("VwOPEN").trigger();
+  EXPECT_EQ(dialogs.lastFolder, games.path());
+}
+
+TEST_F(MainWindowTest, ListsRecentAndSampleGames) {
+  fs::create_directories(installed.filePath(QStringLiteral("samples")).toStdString());
+  const QString path = makeGame("A.GAM");
+  const QString sample = installed.filePath(QStringLiteral("samples/TIGER-PUMA.GAM"));
+  QFile::copy(makeGame("B.GAM", "TIGER"), sample);
+  QFile::copy(makeWrongFile(), installed.filePath(QStringLiteral("samples/NOTES.GAM")));
+  window->openGame(path);
+
+  QMenu& samples = *action("sampleGames").menu();
+  emit samples.aboutToShow();
+  ASSERT_EQ(samples.actions().size(), 1);
+  EXPECT_EQ(samples.actions()[0]->text(), QStringLiteral("2026-11-05   TIGER - PUMA"));
+  samples.actions()[0]->trigger();
+  ASSERT_EQ(scorecards().size(), 2);
+
+  QMenu& recent = *action("recentGames").menu();
+  emit recent.aboutToShow();
+  ASSERT_EQ(recent.actions().size(), 2);
+  EXPECT_EQ(recent.actions()[1]->text(), QStringLiteral("A.GAM"));
+  recent.actions()[1]->trigger();
+  EXPECT_EQ(qobject_cast<frmVIEW*>(area().currentSubWindow()->widget())->path(), path);
+}
+
+TEST_F(MainWindowTest, SaysWhatIsNotOnDiskAndWritesItWhenItCan) {
+  QLabel& unsaved = *window->findChild<QLabel*>(QStringLiteral("lblUNSAVED"));
+  EXPECT_FALSE(unsaved.isVisible());
+  fs::permissions(settings->path(), fs::perms::owner_read);
+  action("tbLANGUE").trigger();
+  EXPECT_TRUE(unsaved.isVisible());
+  EXPECT_FALSE(unsaved.text().isEmpty());
+  EXPECT_EQ(texts.language(), Language::French) << "the choice counts all the same";
+  EXPECT_EQ(setting("LANGUE"), "0");
+
+  fs::permissions(settings->path(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !unsaved.isVisible(); }, 10000));
+  EXPECT_EQ(setting("LANGUE"), "4000");
+}
+
+TEST_F(MainWindowTest, TellsOfSettingsThatWereKeptAside) {
+  window->report(preparation);
+  EXPECT_EQ(preparation, Settings::Preparation::FirstRun);
+  EXPECT_TRUE(dialogs.shown.empty()) << "an ordinary first start is no event";
+
+  QFile file(toQt(settings->path()));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+  file.write("[SOMETHING]\r\nELSE=1\r\n");
+  file.close();
+  start();
+  window->report(preparation);
+  ASSERT_EQ(dialogs.shown.size(), 1u);
+  EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("CONFIG.INI.1")))
+      << fromQt(dialogs.shown[0].text);
+}
+
+TEST_F(MainWindowTest, OpensGuideAndWebPage) {
+  action("AidHELP").trigger();
+  ASSERT_EQ(dialogs.shown.size(), 1u);
+  EXPECT_EQ(dialogs.shown[0].title, QStringLiteral("Error"));
+  EXPECT_EQ(dialogs.shown[0].text,
+            QStringLiteral("User guide not found, you can download it from the HOOPTAB web site"));
+  const QString guide = programFolder.filePath(QStringLiteral("guide.pdf"));
+  QFile::copy(makeWrongFile(), guide);
+  action("AidHELP").trigger();
+  EXPECT_EQ(dialogs.opened, QList<QUrl>{QUrl::fromLocalFile(guide)});
+
+  fs::create_directories(installed.filePath(QStringLiteral("help")).toStdString());
+  const QString french = installed.filePath(QStringLiteral("help/fr.html"));
+  QFile::copy(guide, french);
+  action("tbLANGUE").trigger();
+  action("AidWEB").trigger();
+  EXPECT_EQ(dialogs.opened.last(), QUrl::fromLocalFile(french));
+  settings->webPage[1] = "https://example.org/fr";
+  action("AidWEB").trigger();
+  EXPECT_EQ(dialogs.opened.last(), QUrl(QStringLiteral("https://example.org/fr")));
+}
+
+TEST_F(MainWindowTest, SwitchesColoursAndRemembersThem) {
+  action("coloursDark").trigger();
+  EXPECT_EQ(memory->colourScheme(), ColourScheme::Dark);
+  EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
+  action("coloursLight").trigger();
+  EXPECT_EQ(memory->colourScheme(), ColourScheme::Light);
+  EXPECT_GT(QApplication::palette().color(QPalette::Window).lightness(), 128);
+}
+
+TEST(InstanceLockTest, AdmitsOneProgramPerFolderAndTakesOverFromTheDead) {
+  QTemporaryDir folder, otherFolder;
+  const pid_t child = fork();
+  if (child == 0)
+    _exit(InstanceLock(folder.path()).acquire() ? 0 : 1);
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  ASSERT_EQ(status, 0);
+
+  InstanceLock first(folder.path());
+  EXPECT_TRUE(first.acquire()) << "the lock's owner is dead";
+  EXPECT_FALSE(InstanceLock(folder.path()).acquire());
+  EXPECT_TRUE(InstanceLock(otherFolder.path()).acquire()) << "two folders are two installations";
+}
+
+TEST(FileFilterTest, OffersBothLetterCasesOfEveryPair) {
+  EXPECT_EQ(fileFilter(QStringLiteral("Game (*.GAM)|*.GAM")), QStringLiteral("Game (*.GAM *.gam)"));
+  EXPECT_EQ(fileFilter(QStringLiteral("Form (*.BMP)|*.BMP|Form (*.TIF)|*.TIF")),
+            QStringLiteral("Form (*.BMP *.bmp);;Form (*.TIF *.tif)"));
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,28 @@
+#include "shell/Refusals.h"
+
+#include "storage/Texts.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+namespace hooptab {
+namespace {
+
+TEST(Refusals, EveryProblemHasATextAndAFileThatWasChosenIsNamed) {
+  using enum GameFileProblem;
+  const Texts texts;
+  for (const GameFileProblem problem :
+       {Absent, Unreadable, TooLarge, InvalidFormat, WriteFailed, UnknownEvent})
+    EXPECT_FALSE(texts.text(refusalText(problem)).empty());
+  for (const GameFileProblem problem : {Absent, Unreadable, TooLarge, WriteFailed})
+    for (const Language language : {Language::English, Language::French})
+      EXPECT_NE(texts.text(refusalText(problem), language).find("XXX"), std::string_view::npos);
+  const std::set<int> different = {refusalText(Unreadable), refusalText(TooLarge), refusalText(InvalidFormat),
+                                   refusalText(WriteFailed)};
+  EXPECT_EQ(different.size(), 4U);
+  EXPECT_EQ(refusalText(InvalidFormat), 1059);
+  EXPECT_EQ(refusalText(None), 0);
+}
+
+} // namespace
+} // namespace hooptab
