@@ -14,6 +14,10 @@ target_compile_options(
             -Woverloaded-virtual
             -Wold-style-cast
             -Wimplicit-fallthrough)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # This compiler sees overlaps in "text" + string that cannot be (GCC bug 105651).
+  target_compile_options(hooptab_flags INTERFACE -Wno-restrict)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND HOOPTAB_SANITIZERS)
   # The sanitizers' instrumentation makes this one guess wrongly inside the standard library.
   target_compile_options(hooptab_flags INTERFACE -Wno-maybe-uninitialized)

@@ -1,0 +1,133 @@
+#!/usr/bin/env bash
+# Uses the program as its user does: a window under Xvfb with a window manager, keys and mouse through xdotool. What it checks
+# is what a user could see from outside: titles of windows, files on disk, and whether the program lives.
+set -u
+program="$1"
+samples="$2"
+for tool in Xvfb openbox xdotool; do
+  command -v "$tool" >/dev/null || { echo "skipped: $tool is missing"; exit 77; }
+done
+
+work=$(mktemp -d)
+unset WAYLAND_DISPLAY QT_QPA_PLATFORM
+failures=0
+started=()
+cleanup() {
+  kill "${started[@]}" 2>/dev/null
+  wait 2>/dev/null
+  rm -rf "$work"
+}
+trap cleanup EXIT
+
+fail() {
+  echo "FAILED: $1"
+  failures=$((failures + 1))
+}
+# Waits up to 20 s until a command succeeds.
+until_true() {
+  local what="$1" i
+  shift
+  for ((i = 0; i < 200; ++i)); do
+    "$@" >/dev/null 2>&1 && return 0
+    sleep 0.1
+  done
+  fail "$what"
+  return 1
+}
+window_named() { xdotool search --onlyvisible --name "$1"; }
+no_window_named() { ! window_named "$1"; }
+says() { grep -aq "$2" "$work/home/$1"; }
+is_gone() { ! kill -0 "$1" 2>/dev/null; }
+
+display=$((200 + RANDOM % 300))
+Xvfb ":$display" -screen 0 1366x768x24 >/dev/null 2>&1 &
+started+=($!)
+export DISPLAY=":$display"
+until_true "the display starts" xdotool getdisplaygeometry || exit 1
+openbox >/dev/null 2>&1 &
+started+=($!)
+until_true "the window manager starts" xprop -root _NET_SUPPORTING_WM_CHECK || exit 1
+
+game=$(find "$samples" -name '*.GAM' | sort | head -n 1)
+other=$(find "$samples" -name '*.GAM' | sort | sed -n 2p)
+abbreviation() { tr -d '\r' <"$1" | sed -n "s/^EQUIPE$2ABB=//p"; }
+[ -n "$game" ] && [ -n "$other" ] || { fail "there are no sample games"; exit 1; }
+
+# A first start makes the settings, teams and players, and opens the game of the command line.
+mkdir "$work/home"
+"$program" --folder "$work/home" "$game" >"$work/log" 2>&1 &
+running=$!
+started+=($running)
+title="$(abbreviation "$game" 0) [0-9]+ - [0-9]+ $(abbreviation "$game" 1)"
+until_true "the scorecard of the sample game opens" window_named "$title" || { cat "$work/log"; exit 1; }
+until_true "a first start writes the settings" says CONFIG.INI 'LANGUE=0'
+until_true "a first start writes the teams" says CONFIG.INI 'LYNX,AAA'
+
+# One instance a folder: the second says so, and ends when that is read.
+"$program" --folder "$work/home" >>"$work/log" 2>&1 &
+second=$!
+started+=($second)
+sleep 1
+xdotool search --sync --onlyvisible --pid "$second" >/dev/null 2>&1
+xdotool key Return
+until_true "a second instance ends" is_gone "$second"
+is_gone "$running" && fail "the first instance lives on"
+
+main_window() { window_named 'HOOPTAB Basketball' | head -n 1; }
+keys() { xdotool windowactivate --sync "$(main_window)" key "$@"; }
+
+# The language switches on the fly and is on disk at once.
+keys F12
+until_true "the language switches to French" says CONFIG.INI 'LANGUE=4000'
+keys F12
+until_true "the language switches back" says CONFIG.INI 'LANGUE=0'
+
+# The scorecard's commands by key: lines, made and attempted, refresh. None may end the program.
+keys ctrl+l; keys ctrl+m; keys F5; keys ctrl+l; keys ctrl+m
+# A file of another format is refused by a message, and the open game stays.
+printf '[DETAILS]\r\nVERSION=1.0\r\n' >"$work/wrong.GAM"
+open_by_dialog() {
+  keys ctrl+o
+  sleep 1
+  xdotool type --delay 5 "$1"
+  xdotool key Return
+}
+open_by_dialog "$work/wrong.GAM"
+until_true "a wrong file is refused" window_named 'HOOPTAB - Error'
+xdotool key Return
+until_true "the refusal closes" no_window_named 'HOOPTAB - Error'
+window_named "$title" >/dev/null || fail "the open game stays"
+open_by_dialog "$other"
+until_true "a second game opens" window_named "$(abbreviation "$other" 0) [0-9]+ - [0-9]+ $(abbreviation "$other" 1)"
+
+# The games were only read.
+tampered=$(find "$samples" -newer "$work/home/CONFIG.INI" -name '*.GAM')
+[ -z "$tampered" ] || fail "reading changed $tampered"
+
+# Leaving keeps the last folder, the recent games and the window's place.
+keys ctrl+q
+until_true "the program leaves" is_gone "$running"
+until_true "the last folder is kept" says CONFIG.INI "LASTPATHGAME=$(dirname "$other")"
+until_true "recent games are kept" says WINDOWS.INI "$(basename "$other" | cut -c1-10)"
+grep -aE 'AddressSanitizer|runtime error|LeakSanitizer' "$work/log" && fail "the sanitizers complain"
+
+# A folder that cannot be written: told, and the program goes on. (For root only a missing write bit of the file counts.)
+chmod 444 "$work/home/CONFIG.INI"
+"$program" --folder "$work/home" >>"$work/log" 2>&1 &
+running=$!
+started+=($running)
+until_true "the program starts once more" main_window
+sleep 1
+keys F12
+sleep 1
+is_gone "$running" && fail "a write that fails ends the program"
+says CONFIG.INI 'LANGUE=0' || fail "a file without write permission is written"
+chmod 644 "$work/home/CONFIG.INI"
+until_true "the change is written as soon as that works again" says CONFIG.INI 'LANGUE=4000'
+kill "$running"
+
+if [ "$failures" -gt 0 ]; then
+  cat "$work/log"
+  exit 1
+fi
+echo "Everything as a user expects it."
