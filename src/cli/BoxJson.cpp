@@ -1,0 +1,108 @@
+#include "cli/JsonWriter.h"
+#include "cli/Reports.h"
+#include "scorecard/BoxScore.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+void writeNumbers(JsonWriter& json, const BoxNumbers& numbers) {
+  constexpr Counter kShots[] = {Counter::FGM, Counter::FGA, Counter::F3M, Counter::F3A, Counter::FTM,
+                                Counter::FTA, Counter::LLM, Counter::LLA, Counter::LRM, Counter::LRA,
+                                Counter::PBM, Counter::PBA, Counter::DKM, Counter::DKA};
+  constexpr Counter kActions[] = {Counter::Ast, Counter::BS, Counter::ST, Counter::TO, Counter::OR,
+                                  Counter::DR,  Counter::S1, Counter::S2, Counter::PF, Counter::TF};
+  json.member("seconds", numbers.seconds);
+  for (const Counter counter : kShots)
+    json.member(counterName(counter), numbers.counters[counter]);
+  json.member("M", numbers.made());
+  json.member("A", numbers.attempted());
+  json.member("PTS", numbers.points());
+  for (const Counter counter : kActions)
+    json.member(counterName(counter), numbers.counters[counter]);
+  json.member("rating", numbers.rating());
+}
+
+void writeRow(JsonWriter& json, const BoxRow& row, std::string_view line) {
+  json.beginObject();
+  json.beginLine();
+  if (row.kind == BoxRowKind::Line || row.kind == BoxRowKind::OtherLines) {
+    json.member("line", line);
+  } else {
+    json.member("number", row.number);
+    json.member("name", row.name);
+    json.member("position", row.position);
+  }
+  writeNumbers(json, row.numbers);
+  json.endObject();
+  json.endLine();
+}
+
+void writeNumberList(JsonWriter& json, std::string_view name, const std::vector<int>& numbers) {
+  json.name(name);
+  json.beginArray();
+  json.beginLine();
+  for (const int number : numbers)
+    json.value(number);
+  json.endArray();
+  json.endLine();
+}
+
+void writeTeam(JsonWriter& json, const Scorecard& card, int team, const Texts& texts) {
+  const Game& game = card.game();
+  const GameState& state = card.state();
+  const auto side = static_cast<std::size_t>(team);
+  std::vector<int> points;
+  std::vector<int> fouls;
+  for (int period = 1; period <= shownPeriods(game); ++period) {
+    const PeriodEntry& entry = state.periods[side][GameState::periodRow(period)];
+    points.push_back(entry.points);
+    fouls.push_back(entry.fouls);
+  }
+  json.beginObject();
+  json.member("abb", game.details.abbreviation[team]);
+  json.member("name", game.details.name[team]);
+  json.member("points", state.points(team));
+  writeNumberList(json, "periods", points);
+  writeNumberList(json, "fouls", fouls);
+  for (const BoxView view : {BoxView::Players, BoxView::Lines}) {
+    json.name(view == BoxView::Players ? "players" : "lines");
+    json.beginArray();
+    for (const BoxRow& row : boxRows(game, state, team, view, texts)) {
+      if (row.kind != BoxRowKind::Total)
+        writeRow(json, row, state.lines[side][static_cast<std::size_t>(row.entry)].list);
+    }
+    json.endArray();
+  }
+  json.endObject();
+}
+
+} // namespace
+
+std::string boxJson(const Scorecard& card) {
+  const Texts english;
+  JsonWriter json;
+  json.beginObject();
+  json.member("file", card.path());
+  json.member("version", card.game().details.version);
+  json.name("teams");
+  json.beginArray();
+  for (int team = 0; team < 2; ++team)
+    writeTeam(json, card, team, english);
+  json.endArray();
+  json.name("lead");
+  json.beginObject();
+  const LeadTracker& lead = card.state().lead;
+  std::vector<int> seconds(lead.seconds.begin(), lead.seconds.end());
+  for (int& time : seconds)
+    time = std::max(time, 0);
+  writeNumberList(json, "seconds", seconds);
+  writeNumberList(json, "times", {lead.times.begin(), lead.times.end()});
+  json.endObject();
+  json.endObject();
+  return json.text();
+}
+
+} // namespace hooptab

@@ -1,0 +1,184 @@
+#include "cli/Reports.h"
+#include "cli/TextTable.h"
+#include "scorecard/BoxScore.h"
+#include "storage/EventWords.h"
+#include "storage/Module1.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+using Align = TextTable::Align;
+using Row = std::vector<std::string>;
+
+constexpr int kFouls = 1019;
+constexpr int kTied = 1021;
+constexpr int kName = 1023;
+constexpr int kTime = 1024;
+constexpr int kRating = 1025;
+constexpr int kTotal = 1070;
+constexpr int kFirstGameType = 1250;
+constexpr int kLastGameType = 1259;
+constexpr int kPointsByPeriod = 1506;
+constexpr int kTimeInLead = 1507;
+constexpr int kTimes = 1508;
+
+class BoxText {
+ public:
+  BoxText(const Scorecard& card, const Texts& texts) : m_card(card), m_game(card.game()), m_texts(texts) {
+    for (int team = 0; team < 2; ++team) {
+      m_rows[team] = boxRows(m_game, card.state(), team, BoxView::Players, texts);
+      m_names[team] = printable(m_game.details.abbreviation[team]);
+    }
+  }
+
+  std::string text() const {
+    std::string text = printable(m_card.title()) + '\n' + description() + '\n';
+    text += periodTable(kPointsByPeriod, &PeriodEntry::points) + '\n';
+    text += periodTable(kFouls, &PeriodEntry::fouls) + '\n';
+    text += leadTable();
+    for (int team = 0; team < 2; ++team) {
+      text += '\n' + m_names[team];
+      if (const std::string& name = m_game.details.name[team]; !name.empty())
+        text += " - " + printable(name);
+      text += '\n' + playerTable(team);
+    }
+    return text;
+  }
+
+ private:
+  std::string word(int number) const { return std::string(m_texts.text(number)); }
+
+  // Date, kind and place of the game, as far as the file tells; a line of its own.
+  std::string description() const {
+    const GameDetails& details = m_game.details;
+    const int type = kFirstGameType + details.type;
+    const std::string kind = type >= kFirstGameType && type <= kLastGameType ? word(type) : std::string();
+    std::string text;
+    for (const std::string& part : {details.date, kind, details.place}) {
+      if (!part.empty() && part != "---")
+        text += (text.empty() ? "" : " - ") + printable(part);
+    }
+    return text.empty() ? text : text + '\n';
+  }
+
+  std::string periodTable(int captionText, std::int16_t PeriodEntry::*count) const {
+    TextTable table;
+    table.addColumn(word(captionText), Align::Left);
+    const EventWords words(m_game, m_texts);
+    const int periods = shownPeriods(m_game);
+    for (int period = 1; period <= periods; ++period)
+      table.addColumn(words.periodText(period), Align::Right);
+    table.addColumn(word(kTotal), Align::Right);
+    for (std::size_t team = 0; team < 2; ++team) {
+      Row row = {m_names[team]};
+      int sum = 0;
+      for (int period = 1; period <= periods; ++period) {
+        const int value = m_card.state().periods[team][GameState::periodRow(period)].*count;
+        row.push_back(std::to_string(value));
+        sum += value;
+      }
+      row.push_back(std::to_string(sum));
+      table.addRow(std::move(row));
+    }
+    return table.text();
+  }
+
+  std::string leadTable() const {
+    const LeadTracker& lead = m_card.state().lead;
+    TextTable table;
+    table.addColumn(word(kTimeInLead), Align::Left);
+    table.addColumn(word(kTime), Align::Right);
+    table.addColumn(word(kTimes), Align::Right);
+    const std::string names[] = {m_names[0], m_names[1], word(kTied)};
+    for (std::size_t state = 0; state < 3; ++state)
+      table.addRow(
+          {names[state], Module1::clockText(lead.seconds[state]), std::to_string(lead.times[state])});
+    return table.text();
+  }
+
+  // Whether anybody in the game has any of these counts.
+  bool occurs(Counter counter) const {
+    return std::ranges::any_of(m_rows, [&](const std::vector<BoxRow>& rows) {
+      return std::ranges::any_of(rows, [&](const BoxRow& row) { return row.numbers.counters[counter] != 0; });
+    });
+  }
+
+  std::string playerTable(int team) const {
+    constexpr EventCode kShots[] = {EventCode::GFG, EventCode::GF3, EventCode::GFT, EventCode::GLG,
+                                    EventCode::GLD, EventCode::GPB, EventCode::GDK};
+    constexpr Counter kCounts[] = {Counter::OR, Counter::DR, Counter::Ast, Counter::BS,
+                                   Counter::ST, Counter::TO, Counter::PF,  Counter::TF};
+    std::vector<const EventKind*> shots;
+    for (const EventCode code : kShots) {
+      if (const EventKind* kind = kindOf(code); occurs(kind->attempts))
+        shots.push_back(kind);
+    }
+    std::vector<Counter> counts(std::begin(kCounts), std::end(kCounts));
+    for (const Counter own : {Counter::S1, Counter::S2}) {
+      if (occurs(own))
+        counts.push_back(own);
+    }
+
+    TextTable table;
+    table.addColumn("No", Align::Right);
+    table.addColumn(word(kName), Align::Left);
+    table.addColumn("Pos", Align::Left);
+    table.addColumn(word(kTime), Align::Right);
+    table.addColumn("PTS", Align::Right);
+    table.addColumn("M/A", Align::Right);
+    table.addColumn("%", Align::Right);
+    for (const EventKind* kind : shots)
+      table.addColumn(std::string(kind->shortName), Align::Right);
+    for (const Counter counter : counts)
+      table.addColumn(std::string(counterName(counter)), Align::Right);
+    table.addColumn(word(kRating), Align::Right);
+
+    for (const BoxRow& row : m_rows[team]) {
+      const bool isTotal = row.kind == BoxRowKind::Total;
+      if (isTotal)
+        table.addRule();
+      const BoxNumbers& numbers = row.numbers;
+      const auto ratio = [](int made, int attempted) {
+        return std::to_string(made) + '/' + std::to_string(attempted);
+      };
+      Row cells = {printable(row.number),
+                   printable(row.name),
+                   isTotal ? std::string() : row.position,
+                   Module1::clockText(numbers.seconds),
+                   std::to_string(numbers.points()),
+                   ratio(numbers.made(), numbers.attempted()),
+                   Module1::percentText(numbers.made(), numbers.attempted())};
+      for (const EventKind* kind : shots)
+        cells.push_back(ratio(numbers.counters[kind->counter], numbers.counters[kind->attempts]));
+      for (const Counter counter : counts)
+        cells.push_back(std::to_string(numbers.counters[counter]));
+      cells.push_back(std::to_string(numbers.rating()));
+      table.addRow(std::move(cells));
+    }
+    return table.text();
+  }
+
+  const Scorecard& m_card;
+  const Game& m_game;
+  const Texts& m_texts;
+  std::vector<BoxRow> m_rows[2];
+  std::string m_names[2];
+};
+
+} // namespace
+
+std::string boxText(const Scorecard& card, const Texts& texts) {
+  return BoxText(card, texts).text();
+}
+
+int shownPeriods(const Game& game) {
+  int highest = 0;
+  for (const GameEvent& event : game.events)
+    highest = std::max<int>(highest, event.period);
+  return std::min(highest, static_cast<int>(GameState::kPeriodRows) - 1);
+}
+
+} // namespace hooptab

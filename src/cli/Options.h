@@ -1,0 +1,32 @@
+// The command line of hooptab-cli. Only takes it apart: what is asked for is done by main.
+#pragma once
+
+#include "storage/Texts.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+enum class CliCommand : std::uint8_t { Box, Events, Verify, Help, Version };
+enum class BoxFormat : std::uint8_t { Text, Json, Csv };
+
+struct Options {
+  CliCommand command = CliCommand::Help;
+  BoxFormat format = BoxFormat::Text;
+  Language language = Language::English;
+  std::vector<std::string> files;
+  std::string error; // one line; empty when the command line is understood
+};
+
+// `words` without the program's name. After "--" every word is a file.
+[[nodiscard]] Options parseOptions(const std::vector<std::string>& words, Language usualLanguage);
+
+// The language that the environment asks for: LC_ALL, LC_MESSAGES or LANG, the first that is set.
+[[nodiscard]] Language environmentLanguage();
+
+// What --help prints.
+[[nodiscard]] std::string cliUsage();
+
+} // namespace hooptab

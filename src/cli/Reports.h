@@ -1,0 +1,32 @@
+// What hooptab-cli prints of a game, each as one text. A game that could be read gives every one of them,
+// however odd it is.
+#pragma once
+
+#include "scorecard/GameCheck.h"
+#include "scorecard/Scorecard.h"
+#include "storage/Texts.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+// Points and fouls by period, time in lead, and a table of each team's players; shots of kinds that nobody
+// took are left out.
+[[nodiscard]] std::string boxText(const Scorecard& card, const Texts& texts);
+// The same in every language: keys, and positions in English.
+[[nodiscard]] std::string boxJson(const Scorecard& card);
+// All columns of the scorecard, after the team's abbreviation (RFC 4180).
+[[nodiscard]] std::string boxCsv(const Scorecard& card, const Texts& texts);
+
+[[nodiscard]] std::string eventsText(const Game& game, const Texts& texts);
+
+// One line a finding and one that sums them up, each behind the file's name.
+[[nodiscard]] std::string verifyText(const Game& game, const std::vector<GameFinding>& findings);
+
+// Periods of the game that have an event; those from the eighth on share their points and fouls, so at most
+// eight.
+[[nodiscard]] int shownPeriods(const Game& game);
+
+} // namespace hooptab

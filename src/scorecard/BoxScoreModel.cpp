@@ -1,0 +1,164 @@
+#include "scorecard/BoxScoreModel.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+
+#include <QBrush>
+#include <QFont>
+#include <QGuiApplication>
+#include <QPalette>
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kNumberColumn = 0;
+constexpr int kNameColumn = 1;
+constexpr int kPointsColumn = 7;   // the total of all kinds, in bold
+constexpr int kFirstShotPlace = 7; // display places of the groups of four: all shots, then seven kinds
+constexpr int kGroupSize = 4;
+constexpr int kGroupCount = 8;
+
+QVariant alignment(int column) {
+  const bool isLeft = boxColumns()[static_cast<std::size_t>(column)].isLeftAligned;
+  return QVariant::fromValue(Qt::Alignment(isLeft ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
+}
+
+// A percentage without attempts sorts below 0; a rating below 0 is no zero.
+bool isZero(const BoxRow& row, int column) {
+  const double value = boxSortValue(row, column);
+  return value == 0 || (value < 0 && boxCell(row, column) == "0.0%");
+}
+
+bool isSameRow(const BoxRow& one, const BoxRow& other) {
+  return one.kind == other.kind && one.entry == other.entry;
+}
+
+bool isEqual(const BoxScoreModel::Row& one, const BoxScoreModel::Row& other) {
+  const BoxRow& a = one.box;
+  const BoxRow& b = other.box;
+  return one.check == other.check && a.number == b.number && a.name == b.name && a.position == b.position &&
+         a.numbers.seconds == b.numbers.seconds && a.numbers.counters == b.numbers.counters;
+}
+
+} // namespace
+
+void BoxScoreModel::showRows(std::vector<Row> rows, bool sameTable) {
+  if (!sameTable) {
+    beginResetModel();
+    m_rows = std::move(rows);
+    endResetModel();
+    return;
+  }
+  // Step by step: a row that is gone is removed, one that is new is inserted, one that stayed is told only
+  // where it changed.
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const auto isWanted = [&](const Row& row) { return isSameRow(row.box, m_rows[i].box); };
+    while (i < m_rows.size() &&
+           std::none_of(rows.begin() + static_cast<std::ptrdiff_t>(i), rows.end(), isWanted)) {
+      beginRemoveRows({}, static_cast<int>(i), static_cast<int>(i));
+      m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(i));
+      endRemoveRows();
+    }
+    if (i == m_rows.size() || !isSameRow(m_rows[i].box, rows[i].box)) {
+      beginInsertRows({}, static_cast<int>(i), static_cast<int>(i));
+      m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(i), std::move(rows[i]));
+      endInsertRows();
+    } else if (!isEqual(m_rows[i], rows[i])) {
+      m_rows[i] = std::move(rows[i]);
+      emit dataChanged(index(static_cast<int>(i), 0), index(static_cast<int>(i), kBoxColumnCount - 1));
+    }
+  }
+  if (m_rows.size() > rows.size()) {
+    beginRemoveRows({}, static_cast<int>(rows.size()), static_cast<int>(m_rows.size()) - 1);
+    m_rows.resize(rows.size());
+    endRemoveRows();
+  }
+}
+
+void BoxScoreModel::showHeaders(const QStringList& headers, const QStringList& toolTips) {
+  m_headers = headers;
+  m_toolTips = toolTips;
+  emit headerDataChanged(Qt::Horizontal, 0, kBoxColumnCount - 1);
+}
+
+int BoxScoreModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int BoxScoreModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kBoxColumnCount;
+}
+
+bool BoxScoreModel::isShaded(int column) {
+  const auto& order = boxDisplayOrder();
+  const auto place = static_cast<int>(std::ranges::find(order, column + 1) - order.begin());
+  return place >= kFirstShotPlace && std::min((place - kFirstShotPlace) / kGroupSize, kGroupCount) % 2 == 0;
+}
+
+QVariant BoxScoreModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid())
+    return {};
+  const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+  const int column = index.column() + 1;
+  const bool isTotal = row.box.kind == BoxRowKind::Total;
+  switch (role) {
+  case Qt::DisplayRole: return toQt(boxCell(row.box, column));
+  case SortRole:
+    return boxColumnIsText(column) ? QVariant(toQt(boxCell(row.box, column))) : boxSortValue(row.box, column);
+  case TotalRole: return isTotal;
+  case Qt::CheckStateRole: return index.column() == kNumberColumn ? QVariant(row.check) : QVariant();
+  case Qt::ToolTipRole: return index.column() == kNameColumn ? toQt(row.box.name) : QVariant();
+  case Qt::TextAlignmentRole: return alignment(index.column());
+  case Qt::FontRole: {
+    if (!isTotal && index.column() != kPointsColumn)
+      return {};
+    QFont bold;
+    bold.setBold(true);
+    return bold;
+  }
+  // Most cells of a box score are 0: muted, they let the others stand out.
+  case Qt::ForegroundRole: {
+    const bool isNumber = !boxColumnIsText(column) && index.column() != kNumberColumn;
+    return isNumber && !isTotal && isZero(row.box, column) ? QVariant(Theme::muted()) : QVariant();
+  }
+  case Qt::BackgroundRole: {
+    const QPalette palette = QGuiApplication::palette();
+    if (isTotal)
+      return palette.brush(QPalette::Button);
+    return isShaded(index.column()) ? palette.brush(QPalette::AlternateBase) : QVariant();
+  }
+  default: return {};
+  }
+}
+
+bool BoxScoreModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  if (role != Qt::CheckStateRole || !index.isValid() || index.column() != kNumberColumn)
+    return false;
+  emit checkAsked(index.row(), value.toInt() != Qt::Unchecked);
+  return true;
+}
+
+QVariant BoxScoreModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || section < 0 || section >= kBoxColumnCount)
+    return {};
+  switch (role) {
+  case Qt::DisplayRole: return m_headers.value(section);
+  case Qt::ToolTipRole: return m_toolTips.value(section);
+  case Qt::TextAlignmentRole: return alignment(section);
+  // Whoever sorts by a number wants the best first.
+  case Qt::InitialSortOrderRole:
+    return boxColumnIsText(section + 1) ? Qt::AscendingOrder : Qt::DescendingOrder;
+  default: return {};
+  }
+}
+
+Qt::ItemFlags BoxScoreModel::flags(const QModelIndex& index) const {
+  if (!index.isValid())
+    return {};
+  const Qt::ItemFlags usual = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
+  return index.column() == kNumberColumn ? usual | Qt::ItemIsUserCheckable : usual;
+}
+
+} // namespace hooptab

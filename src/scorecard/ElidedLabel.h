@@ -1,0 +1,25 @@
+// A label of one line that cuts its text with an ellipsis where there is no room, and then shows the whole of
+// it as tool tip.
+#pragma once
+
+#include <QLabel>
+
+namespace hooptab {
+
+class ElidedLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  using QLabel::QLabel;
+
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  bool isCut() const;
+};
+
+} // namespace hooptab

@@ -1,0 +1,132 @@
+#include "scorecard/EventListModel.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "scorecard/ScorecardTexts.h"
+
+#include <QFont>
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+bool isEqual(const GameEvent& one, const GameEvent& other) {
+  return one.period == other.period && one.key == other.key && one.line == other.line;
+}
+
+QVariant alignment(int column) {
+  return QVariant::fromValue(
+      Qt::Alignment(column == EventListModel::Action ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
+}
+
+} // namespace
+
+EventListModel::EventListModel(const Texts& texts, QObject* parent)
+    : QAbstractTableModel(parent), m_texts(texts), m_words(m_game, texts) {}
+
+void EventListModel::show(const Game& game) {
+  const auto before = m_game.events.events();
+  const auto after = game.events.events();
+  const std::size_t common = std::min(before.size(), after.size());
+  std::size_t head = 0;
+  while (head < common && isEqual(before[head], after[head]))
+    ++head;
+  std::size_t tail = 0;
+  while (tail < common - head && isEqual(before[before.size() - 1 - tail], after[after.size() - 1 - tail]))
+    ++tail;
+
+  // Between the equal head and the equal tail, as many as there are on both sides changed; the rest is new or
+  // gone.
+  const int first = static_cast<int>(common - tail);
+  const int oldCount = static_cast<int>(before.size());
+  const int newCount = static_cast<int>(after.size());
+  const bool hasChanged = head + tail < std::max(before.size(), after.size());
+  if (newCount > oldCount)
+    beginInsertRows({}, first, first + newCount - oldCount - 1);
+  else if (newCount < oldCount)
+    beginRemoveRows({}, first, first + oldCount - newCount - 1);
+  m_game = game;
+  countScore();
+  if (newCount > oldCount)
+    endInsertRows();
+  else if (newCount < oldCount)
+    endRemoveRows();
+  // All that follow show another score, and names may be others.
+  if (hasChanged && newCount > 0)
+    emit dataChanged(index(std::min(static_cast<int>(head), newCount - 1), 0),
+                     index(newCount - 1, ColumnCount - 1));
+}
+
+void EventListModel::relabel() {
+  emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+  if (rowCount() > 0)
+    emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+}
+
+void EventListModel::countScore() {
+  m_score.clear();
+  m_score.reserve(m_game.events.size());
+  std::array<int, 2> score = {};
+  for (const GameEvent& event : m_game.events) {
+    if (event.isUnderstood && !event.isDeleted && event.isMade && event.isShot())
+      score[static_cast<std::size_t>(event.player.team)] += event.kind()->points;
+    m_score.push_back(score);
+  }
+}
+
+int EventListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(m_game.events.size());
+}
+
+int EventListModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : ColumnCount;
+}
+
+QString EventListModel::text(std::size_t event, int column) const {
+  switch (column) {
+  case Clock: return toQt(m_words.clock(event));
+  case Action: return toQt(m_words.words(event));
+  case Period: return toQt(m_words.periodText(m_game.events[event].period));
+  default: break;
+  }
+  const std::array<int, 2>& score = m_score[event];
+  const std::array<int, 2> before = event == 0 ? std::array<int, 2>{} : m_score[event - 1];
+  return score == before ? QString() : QString::number(score[0]) + u'-' + QString::number(score[1]);
+}
+
+QVariant EventListModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid())
+    return {};
+  const auto place = static_cast<std::size_t>(index.row());
+  const GameEvent& event = m_game.events[place];
+  switch (role) {
+  case Qt::DisplayRole: return text(place, index.column());
+  case Qt::ToolTipRole: return index.column() == Action ? text(place, Action) : QVariant();
+  case Qt::TextAlignmentRole: return alignment(index.column());
+  case Qt::DecorationRole:
+    if (index.column() != Action || !event.isUnderstood || event.player.team < 0)
+      return {};
+    return colourOf(m_game.details.teamColour[event.player.team]);
+  case Qt::FontRole: {
+    QFont font;
+    font.setStrikeOut(event.isDeleted);
+    font.setBold(index.column() == Score);
+    return font;
+  }
+  case Qt::ForegroundRole:
+    return event.isDeleted || !event.isUnderstood ? QVariant(Theme::muted()) : QVariant();
+  default: return {};
+  }
+}
+
+QVariant EventListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
+    return {};
+  if (role == Qt::TextAlignmentRole)
+    return alignment(section);
+  constexpr std::array<int, ColumnCount> kTexts = {1024, kAction, 1087, kScore};
+  return role == Qt::DisplayRole ? caption(m_texts, kTexts[static_cast<std::size_t>(section)]) : QVariant();
+}
+
+} // namespace hooptab

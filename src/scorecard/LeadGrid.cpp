@@ -1,0 +1,58 @@
+#include "scorecard/LeadGrid.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "scorecard/ScorecardTexts.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kFigurePoints = 11;
+constexpr int kTied = static_cast<int>(LeadState::Tied);
+constexpr std::array<int, 3> kOrder = {0, kTied, 1}; // the tie between the two teams
+
+} // namespace
+
+LeadGrid::LeadGrid(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("lead"));
+  setToolTipNumber(*this, kTimeInLeadHint);
+  auto* layout = new QGridLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setHorizontalSpacing(10);
+  layout->setVerticalSpacing(0);
+  auto* title = new QLabel(this);
+  title->setForegroundRole(QPalette::PlaceholderText);
+  setTextNumber(*title, kTimeInLead);
+  layout->addWidget(title, 0, 0, 1, -1);
+  for (std::size_t place = 0; place < kOrder.size(); ++place) {
+    const int state = kOrder[place];
+    Row& row = m_rows[static_cast<std::size_t>(state)];
+    row = {new QLabel(this), new QLabel(this), new QLabel(this)};
+    row.time->setObjectName(QStringLiteral("lblLEAD(%1)").arg(state));
+    row.times->setObjectName(QStringLiteral("lblLEADTIMES(%1)").arg(state));
+    row.time->setFont(Theme::figures(kFigurePoints, true));
+    row.times->setFont(Theme::figures(kFigurePoints));
+    row.time->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    row.times->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    int column = 0;
+    for (QLabel* label : {row.name, row.time, row.times})
+      layout->addWidget(label, static_cast<int>(place) + 1, column++);
+  }
+  layout->setRowStretch(4, 1);
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+}
+
+void LeadGrid::showLead(const Scoreboard& board, const Texts& texts) {
+  for (std::size_t state = 0; state < m_rows.size(); ++state) {
+    const bool isTied = state == static_cast<std::size_t>(kTied);
+    m_rows[state].name->setText(isTied ? caption(texts, 1021) : toQt(board.teams[state].abbreviation));
+    m_rows[state].time->setText(board.hasTime ? toQt(board.leads[state].time) : QStringLiteral("--:--"));
+    m_rows[state].times->setText(u'×' + QString::number(board.leads[state].times));
+  }
+}
+
+} // namespace hooptab

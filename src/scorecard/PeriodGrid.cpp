@@ -1,0 +1,97 @@
+#include "scorecard/PeriodGrid.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kFigurePoints = 11;
+constexpr int kColumnWidth = 28;
+constexpr int kTotalWidth = 36;
+constexpr int kHeaderMargin = 3;
+constexpr int kMostPeriods = static_cast<int>(GameState::kPeriodRows) - 1;
+
+} // namespace
+
+PeriodGrid::PeriodGrid(Content content, const QString& name, int title, QWidget* parent)
+    : QWidget(parent), m_content(content) {
+  setObjectName(name);
+  auto* layout = new QGridLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  auto* caption = new QLabel(this);
+  caption->setForegroundRole(QPalette::PlaceholderText);
+  setTextNumber(*caption, title);
+  layout->addWidget(caption, 0, 0, 1, -1);
+  for (std::size_t team = 0; team < 2; ++team) {
+    m_teams[team] = new QLabel(this);
+    m_teams[team]->setContentsMargins(0, 0, 8, 0);
+    QFont bold = font();
+    bold.setBold(true);
+    m_teams[team]->setFont(bold);
+    layout->addWidget(m_teams[team], 2 + static_cast<int>(team), 0);
+  }
+  for (int period = 1; period <= kMostPeriods; ++period)
+    m_periods.push_back(addColumn(*layout, name, period, period));
+  if (m_content == Content::Points) {
+    m_total = addColumn(*layout, name, 0, kMostPeriods + 1);
+    m_total.header->setText(QStringLiteral("T"));
+  }
+  layout->setRowStretch(4, 1);
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+}
+
+PeriodGrid::Column PeriodGrid::addColumn(QGridLayout& layout, const QString& name, int period, int place) {
+  Column column;
+  const auto add = [&](int row, bool isBold) {
+    auto* label = new QLabel(this);
+    label->setAlignment(Qt::AlignCenter);
+    label->setMinimumWidth(period == 0 ? kTotalWidth : kColumnWidth);
+    if (row > 1)
+      label->setFont(Theme::figures(kFigurePoints, isBold));
+    layout.addWidget(label, row, place);
+    return label;
+  };
+  column.header = add(1, false);
+  column.header->setForegroundRole(QPalette::PlaceholderText);
+  column.header->setContentsMargins(kHeaderMargin, 0, kHeaderMargin, 0);
+  for (int team = 0; team < 2; ++team) {
+    QLabel* label = add(2 + team, period == 0);
+    label->setObjectName(QStringLiteral("%1(%2,%3)").arg(name).arg(team).arg(period));
+    column.numbers[static_cast<std::size_t>(team)] = label;
+  }
+  return column;
+}
+
+void PeriodGrid::showPeriods(const Scoreboard& board) {
+  for (std::size_t team = 0; team < 2; ++team)
+    m_teams[team]->setText(toQt(board.teams[team].abbreviation));
+  for (std::size_t i = 0; i < m_periods.size(); ++i) {
+    const Scoreboard::Period* period = i < board.periods.size() ? &board.periods[i] : nullptr;
+    const Column& column = m_periods[i];
+    for (QLabel* label : {column.header, column.numbers[0], column.numbers[1]})
+      label->setVisible(period != nullptr);
+    if (period != nullptr)
+      fill(column, *period);
+  }
+  for (std::size_t team = 0; team < 2 && m_total.header != nullptr; ++team)
+    m_total.numbers[team]->setText(QString::number(board.teams[team].points));
+}
+
+void PeriodGrid::fill(const Column& column, const Scoreboard::Period& period) {
+  column.header->setText(toQt(period.label));
+  for (std::size_t team = 0; team < 2; ++team) {
+    QLabel& label = *column.numbers[team];
+    const int number = m_content == Content::Points ? period.points[team] : period.fouls[team];
+    label.setText(period.isPlayed ? QString::number(number) : QStringLiteral("–"));
+    const bool isInBonus = m_content == Content::Fouls && period.isInBonus[team];
+    label.setFont(Theme::figures(kFigurePoints, isInBonus));
+  }
+}
+
+} // namespace hooptab

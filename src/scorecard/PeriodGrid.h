@@ -1,0 +1,42 @@
+// A number for each team and period, in two rows under the periods' names: points or team fouls. With or
+// without a total.
+#pragma once
+
+#include "scorecard/Scoreboard.h"
+
+#include <QWidget>
+
+#include <array>
+#include <vector>
+
+class QGridLayout;
+class QLabel;
+
+namespace hooptab {
+
+class PeriodGrid : public QWidget {
+  Q_OBJECT
+
+ public:
+  enum class Content { Points, Fouls };
+
+  // Labels are named after `name`: "lblPOINTS(0,1)" is team 0 in period 1; period 0 is the total.
+  PeriodGrid(Content content, const QString& name, int title, QWidget* parent = nullptr);
+
+  void showPeriods(const Scoreboard& board);
+
+ private:
+  struct Column {
+    QLabel* header = nullptr;
+    std::array<QLabel*, 2> numbers = {};
+  };
+  Column addColumn(QGridLayout& layout, const QString& name, int period, int place);
+  void fill(const Column& column, const Scoreboard::Period& period);
+
+  const Content m_content;
+  std::array<QLabel*, 2> m_teams = {};
+  std::vector<Column> m_periods; // as many as a game can show; those not needed are hidden
+  Column m_total;
+};
+
+} // namespace hooptab

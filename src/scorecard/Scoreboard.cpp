@@ -1,0 +1,66 @@
+#include "scorecard/Scoreboard.h"
+
+#include "storage/EventWords.h"
+#include "storage/Module1.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kSharedPeriod = static_cast<int>(GameState::kPeriodRows) - 1; // 8, for period 8 and later
+constexpr std::string_view kNoTime = "--:--";
+
+int lastPeriod(const Game& game) {
+  int last = 0;
+  for (const GameEvent& event : game.events)
+    last = std::max<int>(last, event.period);
+  return last;
+}
+
+std::string periodLabel(const Game& game, const Texts& texts, int period, int lastPeriod) {
+  const int regular = game.details.periods;
+  if (regular > 0 && period == regular + 1 && lastPeriod <= period) // the only overtime needs no number
+    return std::string(texts.text(1022));
+  return EventWords(game, texts).periodText(period);
+}
+
+std::vector<Scoreboard::Period> periods(const Game& game, const GameState& state, const Texts& texts) {
+  const int last = lastPeriod(game);
+  const int count = std::clamp(std::max(last, game.details.periods), 1, kSharedPeriod);
+  std::vector<Scoreboard::Period> result;
+  for (int number = 1; number <= count; ++number) {
+    Scoreboard::Period& period = result.emplace_back();
+    period.isPlayed = number <= last;
+    period.label = periodLabel(game, texts, number, last);
+    if (number == kSharedPeriod && last > kSharedPeriod)
+      period.label += '+';
+    for (std::size_t team = 0; team < 2; ++team) {
+      const PeriodEntry& entry = state.periods[team][static_cast<std::size_t>(number)];
+      period.points[team] = entry.points;
+      period.fouls[team] = entry.fouls;
+      period.isInBonus[team] = game.details.bonus > 0 && entry.fouls >= game.details.bonus;
+    }
+  }
+  return result;
+}
+
+} // namespace
+
+Scoreboard scoreboard(const Game& game, const GameState& state, const Texts& texts) {
+  Scoreboard board;
+  for (std::size_t team = 0; team < 2; ++team)
+    board.teams[team] = {game.details.abbreviation[team], game.details.name[team],
+                         game.details.teamColour[team], state.points(static_cast<int>(team))};
+  board.periods = periods(game, state, texts);
+  for (std::size_t lead = 0; lead < board.leads.size(); ++lead)
+    board.leads[lead] = {Module1::clockText(state.lead.seconds[lead]), state.lead.times[lead]};
+  board.hasTime = game.details.minutesPerPeriod > 0;
+  board.clock = board.hasTime ? Module1::clockText(state.clockSeconds) : std::string(kNoTime);
+  board.period = periodLabel(game, texts, state.period, lastPeriod(game));
+  board.isFinished = game.details.isFinished;
+  return board;
+}
+
+} // namespace hooptab

@@ -1,0 +1,46 @@
+// The head of a scorecard in words and numbers: both teams, score, points and fouls by period, lead, clock
+// and state of the game. Lays out nothing.
+#pragma once
+
+#include "storage/GameFile.h"
+#include "storage/GameState.h"
+#include "storage/Texts.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+struct Scoreboard {
+  struct Team {
+    std::string abbreviation;
+    std::string name;
+    std::uint32_t colour = 0; // red + 256 * green + 65536 * blue
+    int points = 0;
+  };
+  struct Period {
+    std::string label; // "1", "OT", "8+"
+    int points[2] = {};
+    int fouls[2] = {};
+    bool isInBonus[2] = {}; // the other team shoots bonus free throws
+    bool isPlayed = false;  // has events; one that has not shows no numbers
+  };
+  struct Lead {
+    std::string time; // mm:ss
+    int times = 0;    // how often this state came about
+  };
+
+  std::array<Team, 2> teams;
+  std::vector<Period> periods; // at most 8
+  std::array<Lead, 3> leads;   // in the order of LeadState
+  std::string clock;           // of the last event; "--:--" in a game without time
+  std::string period;          // of the last event
+  bool isFinished = false;
+  bool hasTime = true;
+};
+
+[[nodiscard]] Scoreboard scoreboard(const Game& game, const GameState& state, const Texts& texts);
+
+} // namespace hooptab

@@ -1,0 +1,78 @@
+#include "scorecard/ScoreboardStrip.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "scorecard/LeadGrid.h"
+#include "scorecard/PeriodGrid.h"
+#include "scorecard/ScorecardTexts.h"
+#include "scorecard/TeamPlate.h"
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QLabel>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kClockPoints = 22;
+constexpr int kPlateWidth = 190;
+constexpr int kWidestPlate = 440;
+constexpr int kGap = 18;
+
+} // namespace
+
+ScoreboardStrip::ScoreboardStrip(QWidget* parent)
+    : QWidget(parent), m_plates{new TeamPlate(0, 1027, this), new TeamPlate(1, 1028, this)},
+      m_clock(new QLabel(this)), m_period(new QLabel(this)), m_status(new QLabel(this)),
+      m_points(
+          new PeriodGrid(PeriodGrid::Content::Points, QStringLiteral("lblPOINTS"), kPointsByPeriod, this)),
+      m_fouls(new PeriodGrid(PeriodGrid::Content::Fouls, QStringLiteral("lblFOULS"), kTeamFouls, this)),
+      m_lead(new LeadGrid(this)) {
+  m_clock->setObjectName(QStringLiteral("lbltemps"));
+  m_clock->setFont(Theme::figures(kClockPoints, true));
+  m_clock->setText(QStringLiteral("00:00"));
+  setToolTipNumber(*m_clock, kLastClock);
+  setToolTipNumber(*m_fouls, kTeamFoulsHint);
+  m_period->setObjectName(QStringLiteral("lblPERIODE"));
+  m_status->setObjectName(QStringLiteral("lblSTATUS"));
+  m_status->setForegroundRole(QPalette::PlaceholderText);
+
+  auto* middle = new QVBoxLayout;
+  middle->setSpacing(0);
+  middle->addStretch();
+  for (QLabel* label : {m_period, m_clock, m_status}) {
+    label->setAlignment(Qt::AlignCenter);
+    middle->addWidget(label);
+  }
+  middle->addStretch();
+
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap);
+  for (TeamPlate* plate : m_plates) {
+    plate->setMinimumWidth(kPlateWidth);
+    plate->setMaximumWidth(kWidestPlate);
+  }
+  layout->addWidget(m_plates[0], 1);
+  layout->addLayout(middle);
+  layout->addWidget(m_plates[1], 1);
+  layout->addStretch();
+  layout->addWidget(m_points);
+  layout->addWidget(m_fouls);
+  layout->addWidget(m_lead);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void ScoreboardStrip::showBoard(const Scoreboard& board, const Texts& texts) {
+  for (std::size_t team = 0; team < 2; ++team)
+    m_plates[team]->showTeam(board.teams[team]);
+  m_clock->setText(toQt(board.clock));
+  m_period->setText(toQt(texts.withPlaceholder(kPeriodNumber, board.period)));
+  m_status->setText(caption(texts, board.isFinished ? kFinished : kInProgress));
+  m_points->showPeriods(board);
+  m_fouls->showPeriods(board);
+  m_lead->showLead(board, texts);
+}
+
+} // namespace hooptab

@@ -1,0 +1,37 @@
+// The strip at the top of the scorecard: both teams with their score, clock and state of the game between
+// them, points and fouls by period, lead. Only lays out what Scoreboard says.
+#pragma once
+
+#include "scorecard/Scoreboard.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QLabel;
+
+namespace hooptab {
+
+class LeadGrid;
+class PeriodGrid;
+class TeamPlate;
+
+class ScoreboardStrip : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ScoreboardStrip(QWidget* parent = nullptr);
+
+  void showBoard(const Scoreboard& board, const Texts& texts);
+
+ private:
+  std::array<TeamPlate*, 2> m_plates;
+  QLabel* m_clock;
+  QLabel* m_period;
+  QLabel* m_status;
+  PeriodGrid* m_points;
+  PeriodGrid* m_fouls;
+  LeadGrid* m_lead;
+};
+
+} // namespace hooptab

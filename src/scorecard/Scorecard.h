@@ -1,0 +1,39 @@
+// One game as the scorecard shows it: read from its file, counted, and kept while a later reading fails. What the window
+// shows and when it says what is decided here; the window only lays out.
+#pragma once
+
+#include "storage/GameFile.h"
+#include "storage/GameState.h"
+#include "storage/Tally.h"
+
+#include <optional>
+#include <string>
+
+namespace hooptab {
+
+class Scorecard {
+ public:
+  // The store must outlive it.
+  Scorecard(cinifile& store, std::string path);
+
+  // Reads and counts the game anew. On a problem what was read last stays.
+  [[nodiscard]] GameFileProblem load();
+
+  bool hasGame() const { return m_hasGame; }
+  const std::string& path() const { return m_path; }
+  const Game& game() const { return m_game; }
+  const GameState& state() const { return m_state; }
+  const std::optional<CountOutOfRange>& outOfRange() const { return m_outOfRange; }
+  // "LYNX 78 - 81 PUMA": the window's and the recent list's name for the game.
+  [[nodiscard]] std::string title() const;
+
+ private:
+  cinifile& m_store;
+  std::string m_path;
+  bool m_hasGame = false;
+  Game m_game;
+  GameState m_state;
+  std::optional<CountOutOfRange> m_outOfRange;
+};
+
+} // namespace hooptab

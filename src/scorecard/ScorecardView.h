@@ -1,0 +1,76 @@
+// What the scorecard window shows of a game: which team, players or lines, which columns, which rows are
+// checked and what that means for chart and totals. All of it survives a new reading of the file. Draws
+// nothing and reads nothing.
+#pragma once
+
+#include "scorecard/BoxScore.h"
+#include "scorecard/ShotChart.h"
+
+#include <array>
+#include <cstdint>
+#include <set>
+#include <vector>
+
+namespace hooptab {
+
+class ScorecardView {
+ public:
+  // What chart and totals stand for: the checked rows, or the whole team whatever is checked.
+  enum class Scope : std::uint8_t { Checked, All };
+  enum class CheckMark : std::uint8_t { None, Some, All };
+
+  // The texts must outlive it; so must the game and its state, until others are shown.
+  explicit ScorecardView(const Texts& texts) : m_texts(texts) {}
+  void show(const Game& game, const GameState& state);
+  // Another game: every row is checked again.
+  void forgetChecks();
+
+  int team() const { return m_team; }
+  void setTeam(int team);
+  BoxView view() const { return m_view; }
+  void setView(BoxView view);
+  Scope scope() const { return m_scope; }
+  void setScope(Scope scope);
+  bool hidesMadeAttempted() const { return m_hidesMadeAttempted; }
+  void setHidesMadeAttempted(bool hides) { m_hidesMadeAttempted = hides; }
+  [[nodiscard]] bool isShown(const BoxColumn& column) const;
+
+  // The total comes last; with Scope::Checked it is that of the checked rows.
+  const std::vector<BoxRow>& rows() const { return m_rows; }
+  // Of the total: whether all, some or none of the others are checked.
+  [[nodiscard]] CheckMark checkMark(const BoxRow& row) const;
+  // The total checks or unchecks all others.
+  void check(const BoxRow& row, bool isChecked);
+
+  // In the order of the game; those without a place included.
+  [[nodiscard]] std::vector<Shot> shots() const;
+
+ private:
+  std::set<int>& unchecked() {
+    return m_unchecked[static_cast<std::size_t>(m_team)][static_cast<std::size_t>(m_view)];
+  }
+  const std::set<int>& unchecked() const {
+    return m_unchecked[static_cast<std::size_t>(m_team)][static_cast<std::size_t>(m_view)];
+  }
+  void fill();
+
+  const Texts& m_texts;
+  const Game* m_game = nullptr;
+  const GameState* m_state = nullptr;
+  int m_team = 0;
+  BoxView m_view = BoxView::Players;
+  Scope m_scope = Scope::Checked;
+  bool m_hidesMadeAttempted = false;
+  // Entries by team and view. Whoever comes on court later is in none of them, hence checked.
+  std::array<std::array<std::set<int>, 2>, 2> m_unchecked;
+  std::vector<BoxRow> m_rows;
+};
+
+// Made and attempted field goals, for the line under the chart.
+struct ShotSummary {
+  ZoneSum twoPoints;
+  ZoneSum threePoints;
+};
+[[nodiscard]] ShotSummary shotSummary(const std::vector<Shot>& shots);
+
+} // namespace hooptab

@@ -1,0 +1,85 @@
+#include "scorecard/ShotChart.h"
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+
+namespace hooptab {
+
+namespace {
+
+using court::ChartZone;
+using court::Place;
+
+// The whole-unit places of two-point zones that touch a three-point zone, and the other way round. Whatever
+// the shape of the line between the two, the shortest way to the other kind ends at one of them.
+class ZoneBorder {
+ public:
+  ZoneBorder() {
+    for (int x = 0; x <= static_cast<int>(court::kLength); ++x) {
+      for (int y = 0; y <= static_cast<int>(court::kWidth); ++y) {
+        const bool isThree = isThreeAt(x, y);
+        if (isThreeAt(x - 1, y) != isThree || isThreeAt(x + 1, y) != isThree ||
+            isThreeAt(x, y - 1) != isThree || isThreeAt(x, y + 1) != isThree)
+          m_places[isThree ? 1 : 0].push_back(placeAt(x, y));
+      }
+    }
+  }
+  [[nodiscard]] ChartZone nearestZone(Place place, bool isThree) const {
+    Place nearest = place;
+    double shortest = std::numeric_limits<double>::max();
+    for (const Place border : m_places[isThree ? 1 : 0]) {
+      const double dx = border.x - place.x;
+      const double dy = border.y - place.y;
+      if (dx * dx + dy * dy < shortest) {
+        shortest = dx * dx + dy * dy;
+        nearest = border;
+      }
+    }
+    return chartZone(nearest);
+  }
+
+ private:
+  static Place placeAt(int x, int y) {
+    return court::atEdge({static_cast<double>(x), static_cast<double>(y)});
+  }
+  static bool isThreeAt(int x, int y) { return isThreePointZone(chartZone(placeAt(x, y))); }
+
+  std::vector<Place> m_places[2];
+};
+
+// The zone in which a shot is summed: that of its place, or the nearest of its own kind.
+ChartZone zoneOf(const Shot& shot) {
+  const Place place = court::atEdge({shot.x, shot.y});
+  const ChartZone zone = chartZone(place);
+  if (isThreePointZone(zone) == shot.isThree)
+    return zone;
+  static const ZoneBorder kBorder;
+  return kBorder.nearestZone(place, shot.isThree);
+}
+
+void add(ZoneSum& sum, const Shot& shot) {
+  ++sum.attempted;
+  sum.made += shot.isMade ? 1 : 0;
+}
+
+} // namespace
+
+std::vector<Shot> selectedShots(const GameState& state, const ShotSelection& selection) {
+  std::vector<Shot> shots;
+  std::ranges::copy_if(state.shots, std::back_inserter(shots), [&](const Shot& shot) {
+    const int entry = selection.view == BoxView::Players ? shot.player : shot.line;
+    return shot.team == selection.team &&
+           (selection.all || std::ranges::find(selection.entries, entry) != selection.entries.end());
+  });
+  return shots;
+}
+
+ShotSums shotSums(const std::vector<Shot>& shots) {
+  ShotSums sums;
+  for (const Shot& shot : shots)
+    add(shot.hasPlace ? sums.zones[static_cast<std::size_t>(zoneOf(shot))] : sums.withoutPlace, shot);
+  return sums;
+}
+
+} // namespace hooptab

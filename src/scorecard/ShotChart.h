@@ -1,0 +1,35 @@
+// Which shots a chart shows, and their sums by zone of the court. Draws nothing.
+#pragma once
+
+#include "appearance/CourtGeometry.h"
+#include "scorecard/BoxScore.h"
+#include "storage/GameState.h"
+
+#include <array>
+#include <vector>
+
+namespace hooptab {
+
+// The shots of one team, of the chosen rows: player entries in the view by player; line entries in the view by line, where a mark
+// means the team's shots while that line was on court. Includes shots without a place.
+struct ShotSelection {
+  int team = 0;
+  BoxView view = BoxView::Players;
+  bool all = true;            // else only `entries`
+  std::vector<int> entries;
+};
+[[nodiscard]] std::vector<Shot> selectedShots(const GameState& state, const ShotSelection& selection);
+
+struct ZoneSum {
+  int made = 0;
+  int attempted = 0;
+};
+struct ShotSums {
+  std::array<ZoneSum, court::kChartZoneCount> zones = {};
+  ZoneSum withoutPlace;
+};
+// A shot counts in the zone of its place; one recorded as two (or three) points on a place of the other kind counts in the nearest zone
+// of its own kind, so that zone sums agree with the box score.
+[[nodiscard]] ShotSums shotSums(const std::vector<Shot>& shots);
+
+} // namespace hooptab

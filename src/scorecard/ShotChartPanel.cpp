@@ -1,0 +1,203 @@
+#include "scorecard/ShotChartPanel.h"
+
+#include "appearance/CourtView.h"
+#include "appearance/Icons.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "scorecard/ScorecardTexts.h"
+#include "storage/Module1.h"
+#include "storage/Settings.h"
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QEvent>
+#include <QLabel>
+#include <QToolButton>
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+QString fraction(const ZoneSum& sum) {
+  return QString::number(sum.made) + u'/' + QString::number(sum.attempted);
+}
+
+QString coloured(const QString& text, const QColor& colour) {
+  return QStringLiteral("<span style='color:%1'>%2</span>").arg(colour.name(), text);
+}
+
+QString shotToolTip(const Shot& shot, const Game& game, const EventWords& words) {
+  const std::size_t event = shot.eventIndex;
+  return toQt(words.periodText(game.events[event].period)) + QStringLiteral("  ") + toQt(words.clock(event)) +
+         QStringLiteral("  ") + toQt(words.words(event));
+}
+
+double area(const QRectF& rectangle) {
+  return rectangle.width() * rectangle.height();
+}
+
+} // namespace
+
+ShotChartPanel::ShotChartPanel(const Settings& settings, const Texts& texts, QWidget* parent)
+    : QWidget(parent), m_settings(settings), m_texts(texts), m_checked(addChoice("cmdSELECTED", true)),
+      m_all(addChoice("cmdALL", false)), m_byShot(addChoice("cmdBYSHOT", true)),
+      m_byZone(addChoice("cmdBYZONE", false)), m_court(new CourtView(this)), m_numbers(new QLabel(this)),
+      m_withoutPlace(new QLabel(this)) {
+  setTextNumber(*m_checked, 1014);
+  setToolTipNumber(*m_checked, 1333);
+  setTextNumber(*m_all, 1015);
+  setToolTipNumber(*m_all, 1334);
+  setAccessibleNumber(*m_byShot, kByShot);
+  setAccessibleNumber(*m_byZone, kByZone);
+  setToolTipNumber(*m_byShot, 1410);
+  setToolTipNumber(*m_byZone, 1410);
+  auto* scope = new QButtonGroup(this);
+  scope->addButton(m_checked);
+  scope->addButton(m_all);
+  auto* kind = new QButtonGroup(this);
+  kind->addButton(m_byShot);
+  kind->addButton(m_byZone);
+
+  m_court->setObjectName(QStringLiteral("courtstat"));
+  setAccessibleNumber(*m_court, kShotChart);
+  m_court->setMinimumSize(160, 160);
+  m_court->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  m_court->installEventFilter(this);
+  m_numbers->setObjectName(QStringLiteral("lblSHOTS"));
+  m_numbers->setTextFormat(Qt::RichText);
+  m_numbers->setAlignment(Qt::AlignCenter);
+  m_withoutPlace->setObjectName(QStringLiteral("lblWITHOUTPLACE"));
+  m_withoutPlace->setAlignment(Qt::AlignCenter);
+  m_withoutPlace->setForegroundRole(QPalette::PlaceholderText);
+  m_withoutPlace->setWordWrap(true);
+
+  auto* switches = new QHBoxLayout;
+  switches->setSpacing(2);
+  switches->addWidget(m_checked);
+  switches->addWidget(m_all);
+  switches->addStretch();
+  switches->addWidget(m_byShot);
+  switches->addWidget(m_byZone);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(4);
+  layout->addLayout(switches);
+  layout->addWidget(m_court, 1);
+  layout->addWidget(m_numbers);
+  layout->addWidget(m_withoutPlace);
+
+  connect(m_checked, &QToolButton::toggled, this, [this](bool isOn) {
+    emit scopeChosen(isOn ? ScorecardView::Scope::Checked : ScorecardView::Scope::All);
+  });
+  connect(m_byZone, &QToolButton::toggled, this, [this](bool isOn) {
+    if (isOn)
+      m_court->showZones();
+    else
+      m_court->showMarks();
+  });
+  // Of two switches the one that is on must be seen at a glance, in the dark look too.
+  setStyleSheet(QStringLiteral(
+      "QToolButton { border: 1px solid palette(mid); border-radius: 4px; padding: 3px 8px; }"
+      "QToolButton:checked { background: palette(highlight); color: palette(highlighted-text); }"));
+  applyColours();
+  m_court->showMarks();
+}
+
+QToolButton* ShotChartPanel::addChoice(const char* name, bool isChecked) {
+  auto* button = new QToolButton(this);
+  button->setObjectName(QLatin1String(name));
+  button->setCheckable(true);
+  button->setChecked(isChecked);
+  return button;
+}
+
+void ShotChartPanel::showShots(std::vector<Shot> shots, const Game& game, const EventWords& words) {
+  m_shots = std::move(shots);
+  m_placed.clear();
+  m_toolTips.clear();
+  for (const Shot& shot : m_shots) {
+    if (!shot.hasPlace)
+      continue;
+    m_placed.push_back(shot);
+    m_toolTips << shotToolTip(shot, game, words);
+  }
+  showMarks();
+  showZones();
+  showNumbers();
+}
+
+void ShotChartPanel::highlight(std::optional<std::uint32_t> event) {
+  m_highlighted = event;
+  showMarks();
+}
+
+void ShotChartPanel::showMarks() {
+  std::vector<CourtMark> marks;
+  marks.reserve(m_placed.size());
+  for (const Shot& shot : m_placed)
+    marks.push_back({{shot.x, shot.y}, shot.isMade, shot.eventIndex == m_highlighted});
+  m_court->setMarks(std::move(marks), m_toolTips);
+}
+
+void ShotChartPanel::showZones() {
+  const ShotSums sums = shotSums(m_shots);
+  int most = 0;
+  for (const ZoneSum& sum : sums.zones)
+    most = std::max(most, sum.attempted);
+  std::vector<CourtZoneText> zones;
+  for (std::size_t zone = 0; zone < sums.zones.size(); ++zone) {
+    const ZoneSum& sum = sums.zones[zone];
+    if (sum.attempted == 0)
+      continue;
+    const auto which = static_cast<court::ChartZone>(zone);
+    const QString percent = toQt(Module1::percentText(sum.made, sum.attempted));
+    const QString name = caption(m_texts, court::chartZoneText(which));
+    zones.push_back({which, fraction(sum), percent, static_cast<double>(sum.attempted) / most,
+                     name + QStringLiteral("  ") + fraction(sum) + QStringLiteral("  ") + percent});
+  }
+  m_court->setZones(std::move(zones));
+  m_withoutPlace->setVisible(sums.withoutPlace.attempted > 0);
+  m_withoutPlace->setText(fraction(sums.withoutPlace) + u' ' + caption(m_texts, kWithoutPlace));
+}
+
+void ShotChartPanel::showNumbers() {
+  const ShotSummary summary = shotSummary(m_shots);
+  const int made = summary.twoPoints.made + summary.threePoints.made;
+  const int missed = summary.twoPoints.attempted + summary.threePoints.attempted - made;
+  const auto line = [](const QString& name, const ZoneSum& sum) {
+    return QStringLiteral("<b>%1</b> %2 %3")
+        .arg(name, fraction(sum), toQt(Module1::percentText(sum.made, sum.attempted)));
+  };
+  const QString gap = QStringLiteral(" &nbsp; ");
+  m_numbers->setText(coloured(QStringLiteral("●"), Theme::made()) + u' ' + caption(m_texts, kMadeShots) +
+                     u' ' + QString::number(made) + gap + coloured(QStringLiteral("✕"), Theme::missed()) +
+                     u' ' + caption(m_texts, kMissedShots) + u' ' + QString::number(missed) +
+                     QStringLiteral("<br>") + line(QStringLiteral("FG"), summary.twoPoints) + gap +
+                     line(QStringLiteral("F3"), summary.threePoints));
+}
+
+void ShotChartPanel::applyColours() {
+  m_court->setColours({colourOf(m_settings.twoPointColour), colourOf(m_settings.boxColour),
+                       colourOf(m_settings.threePointColour)});
+  m_byShot->setIcon(icon(QStringLiteral("byshot")));
+  m_byZone->setIcon(icon(QStringLiteral("byzone")));
+  showNumbers();
+}
+
+bool ShotChartPanel::eventFilter(QObject* object, QEvent* event) {
+  if (object == m_court && event->type() == QEvent::Resize)
+    turnToFit();
+  return QWidget::eventFilter(object, event);
+}
+
+// Upright or turned, whichever makes the picture larger.
+void ShotChartPanel::turnToFit() {
+  using Turn = CourtPicture::Turn;
+  const QRectF room = m_court->rect();
+  const bool isWide = area(CourtPicture::fitted(room, Turn::BaselineTop)) >
+                      area(CourtPicture::fitted(room, Turn::BaselineLeft));
+  m_court->setTurn(isWide ? Turn::BaselineTop : Turn::BaselineLeft);
+}
+
+} // namespace hooptab

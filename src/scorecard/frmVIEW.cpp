@@ -1,0 +1,327 @@
+#include "scorecard/frmVIEW.h"
+
+#include "appearance/Icons.h"
+#include "appearance/relabel.h"
+#include "scorecard/BoxTable.h"
+#include "scorecard/ColumnWords.h"
+#include "scorecard/EventPanel.h"
+#include "scorecard/GameDetailsPanel.h"
+#include "scorecard/Scoreboard.h"
+#include "scorecard/ScoreboardStrip.h"
+#include "scorecard/ScorecardTexts.h"
+#include "scorecard/ShotChartPanel.h"
+#include "scorecard/TableText.h"
+#include "storage/Module1.h"
+#include "storage/Settings.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTime>
+#include <QToolButton>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kMargin = 8;
+constexpr int kMillisecondsPerSecond = 1000;
+// Shares of the window that its parts begin with.
+constexpr int kLeftShare = 1040;
+constexpr int kChartShare = 320;
+constexpr int kTableShare = 65;
+constexpr int kEventShare = 35;
+constexpr int kTeamWidth = 280;
+constexpr int kByPlayer = 1071;
+constexpr int kByLine = 1072;
+
+} // namespace
+
+frmVIEW::frmVIEW(cinifile& store, const Settings& settings, const Texts& texts, QWidget* parent)
+    : QWidget(parent), m_store(store), m_settings(settings), m_texts(texts), m_view(texts),
+      m_notice(new QLabel(this)), m_strip(new ScoreboardStrip(this)) {
+  setObjectName(QStringLiteral("frmVIEW"));
+  m_timer.setObjectName(QStringLiteral("TimerCoach"));
+  m_timer.setParent(this);
+  m_timer.setTimerType(Qt::PreciseTimer);
+  m_notice->setObjectName(QStringLiteral("lblNOTICE"));
+  m_notice->setAutoFillBackground(true);
+  m_notice->setBackgroundRole(QPalette::Highlight);
+  m_notice->setForegroundRole(QPalette::HighlightedText);
+  m_notice->setContentsMargins(kMargin, kMargin / 2, kMargin, kMargin / 2);
+  m_notice->setWordWrap(true);
+  m_notice->hide();
+  m_chart = new ShotChartPanel(settings, texts, this);
+
+  auto* left = new QSplitter(Qt::Vertical, this);
+  left->addWidget(makeTables());
+  left->addWidget(makeEventsAndDetails());
+  left->setStretchFactor(0, kTableShare);
+  left->setStretchFactor(1, kEventShare);
+  left->setSizes({kTableShare * 10, kEventShare * 10});
+  auto* parts = new QSplitter(Qt::Horizontal, this);
+  parts->addWidget(left);
+  parts->addWidget(m_chart);
+  parts->setStretchFactor(0, 2);
+  parts->setStretchFactor(1, 1);
+  parts->setSizes({kLeftShare, kChartShare});
+  for (QSplitter* splitter : {left, parts})
+    splitter->setChildrenCollapsible(false);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setSpacing(kMargin);
+  layout->addWidget(m_notice);
+  layout->addWidget(m_strip);
+  layout->addWidget(parts, 1);
+
+  connect(&m_timer, &QTimer::timeout, this, &frmVIEW::refreshOnTimer);
+  connect(m_chart, &ShotChartPanel::scopeChosen, this, [this](ScorecardView::Scope scope) {
+    m_view.setScope(scope);
+    showTable();
+    showChart();
+  });
+  connect(m_events, &EventPanel::eventChosen, m_chart, &ShotChartPanel::highlight);
+  connect(m_events, &EventPanel::copied, this, [this] { emit reported(caption(m_texts, kTableCopied)); });
+  relabelWindow();
+}
+
+frmVIEW::~frmVIEW() = default;
+
+QWidget* frmVIEW::makeTables() {
+  auto* panel = new QWidget(this);
+  m_team = new QComboBox(panel);
+  m_team->setObjectName(QStringLiteral("cmbTEAM"));
+  m_team->setMinimumWidth(kTeamWidth);
+  setAccessibleNumber(*m_team, kShownTeam);
+  setToolTipNumber(*m_team, kShownTeam);
+  auto* copy = new QToolButton(panel);
+  copy->setObjectName(QStringLiteral("cmdCOPY"));
+  copy->setIcon(icon(QStringLiteral("copy")));
+  setToolTipNumber(*copy, kCopyTable);
+  setAccessibleNumber(*copy, kCopyTable);
+  m_kind = new QLabel(panel);
+  m_kind->setObjectName(QStringLiteral("lblVIEW"));
+  m_kind->setForegroundRole(QPalette::PlaceholderText);
+  setTextNumber(*m_kind, kByPlayer);
+  m_stack = new QStackedWidget(panel);
+  for (std::size_t i = 0; i < m_tables.size(); ++i) {
+    m_tables[i] = new BoxTable(QStringLiteral("lvwSTAT(%1)").arg(i), m_stack);
+    m_stack->addWidget(m_tables[i]);
+    connect(m_tables[i], &BoxTable::checkAsked, this, [this](const BoxRow& row, bool isChecked) {
+      m_view.check(row, isChecked);
+      showTable();
+      showChart();
+    });
+    connect(m_tables[i], &BoxTable::copied, this, [this] { emit reported(caption(m_texts, kTableCopied)); });
+  }
+  setAccessibleNumber(*m_tables[0], kByPlayer);
+  setAccessibleNumber(*m_tables[1], kByLine);
+
+  auto* head = new QHBoxLayout;
+  head->addWidget(m_team);
+  head->addWidget(m_kind);
+  head->addStretch();
+  head->addWidget(copy);
+  auto* layout = new QVBoxLayout(panel);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(4);
+  layout->addLayout(head);
+  layout->addWidget(m_stack, 1);
+
+  connect(m_team, &QComboBox::currentIndexChanged, this, [this](int team) {
+    m_view.setTeam(team);
+    showTable();
+    showChart();
+  });
+  connect(copy, &QToolButton::clicked, this, [this] {
+    copyTable(table());
+    emit reported(caption(m_texts, kTableCopied));
+  });
+  return panel;
+}
+
+QWidget* frmVIEW::makeEventsAndDetails() {
+  m_tabs = new QTabWidget(this);
+  m_tabs->setObjectName(QStringLiteral("tabs"));
+  m_events = new EventPanel(m_texts, m_tabs);
+  m_details = new GameDetailsPanel(m_tabs);
+  m_tabs->addTab(m_events, QString());
+  m_tabs->addTab(m_details, QString());
+  auto* corner = new QWidget(m_tabs);
+  auto* room = new QHBoxLayout(corner);
+  room->setContentsMargins(0, 0, 0, 2);
+  QLineEdit* search = &m_events->searchField();
+  room->addWidget(search);
+  m_tabs->setCornerWidget(corner);
+  connect(m_tabs, &QTabWidget::currentChanged, search, [search](int tab) { search->setVisible(tab == 0); });
+  return m_tabs;
+}
+
+GameFileProblem frmVIEW::open(const QString& path) {
+  const std::string file = fromQt(QFileInfo(path).absoluteFilePath());
+  FileChange change(m_store.files(), file);
+  change.remember();
+  auto card = std::make_unique<Scorecard>(m_store, file);
+  if (const GameFileProblem problem = card->load(); problem != GameFileProblem::None)
+    return problem;
+  m_card = std::move(card);
+  m_change.emplace(std::move(change));
+  m_problem = GameFileProblem::None;
+  m_shownTeam = {-1, -1};
+  m_view.show(m_card->game(), m_card->state());
+  m_view.forgetChecks();
+  showGame(true);
+  return GameFileProblem::None;
+}
+
+QString frmVIEW::path() const {
+  return m_card == nullptr ? QString() : toQt(m_card->path());
+}
+
+void frmVIEW::refresh() {
+  if (m_card == nullptr)
+    return;
+  readAgain();
+  if (m_problem == GameFileProblem::None)
+    emit reported(toQt(m_texts.withPlaceholder(
+        kLastRefresh, fromQt(QTime::currentTime().toString(QStringLiteral("hh:mm:ss"))))));
+}
+
+void frmVIEW::refreshOnTimer() {
+  if (m_card != nullptr && m_change->mayHaveChanged())
+    readAgain();
+}
+
+void frmVIEW::readAgain() {
+  m_change->remember();
+  m_problem = m_card->load();
+  if (m_problem == GameFileProblem::None)
+    showGame(false);
+  else
+    showNotice();
+}
+
+void frmVIEW::setRefreshMode(RefreshMode mode) {
+  m_refreshMode = mode;
+  m_timer.stop();
+  if (mode != RefreshMode::Manual) {
+    m_timer.setInterval(static_cast<int>(mode) * kMillisecondsPerSecond);
+    m_timer.start();
+  }
+  emit commandStateChanged();
+}
+
+void frmVIEW::setByLine(bool byLine) {
+  if (byLine == isByLine())
+    return;
+  m_view.setView(byLine ? BoxView::Lines : BoxView::Players);
+  m_stack->setCurrentWidget(&table());
+  setTextNumber(*m_kind, byLine ? kByLine : kByPlayer);
+  relabel(*m_kind, m_texts);
+  showTable();
+  showChart();
+  emit commandStateChanged();
+}
+
+void frmVIEW::setHidesMadeAttempted(bool hides) {
+  if (hides == hidesMadeAttempted())
+    return;
+  m_view.setHidesMadeAttempted(hides);
+  showTable();
+  emit commandStateChanged();
+}
+
+void frmVIEW::relabelWindow() {
+  relabel(*this, m_texts);
+  m_tabs->setTabText(0, caption(m_texts, kEvents));
+  m_tabs->setTabText(1, caption(m_texts, kGameDetails));
+  m_events->searchField().setPlaceholderText(caption(m_texts, kSearchEvents));
+  m_events->relabel();
+  showHeaders();
+  if (m_card != nullptr)
+    showGame(false);
+  else
+    setWindowTitle(caption(m_texts, 1029));
+}
+
+void frmVIEW::applyColours() {
+  findChild<QToolButton*>(QStringLiteral("cmdCOPY"))->setIcon(icon(QStringLiteral("copy")));
+  m_chart->applyColours();
+  for (QWidget* view : findChildren<QAbstractItemView*>())
+    view->findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"))->update();
+}
+
+void frmVIEW::showGame(bool isNew) {
+  const Game& game = m_card->game();
+  m_view.show(game, m_card->state());
+  setWindowTitle(toQt(m_card->title()));
+  m_strip->showBoard(scoreboard(game, m_card->state(), m_texts), m_texts);
+  m_details->showDetails(game.details, m_texts);
+  m_events->showGame(game, isNew);
+  showTeams();
+  if (isNew)
+    showHeaders();
+  showTable();
+  showChart();
+  showNotice();
+}
+
+void frmVIEW::showTeams() {
+  const QSignalBlocker noChoice(m_team);
+  const GameDetails& details = m_card->game().details;
+  for (int team = 0; team < 2; ++team) {
+    const QString text = toQt(details.abbreviation[team]) + QStringLiteral(" – ") + toQt(details.name[team]);
+    if (m_team->count() <= team)
+      m_team->addItem(text);
+    else
+      m_team->setItemText(team, text);
+  }
+  m_team->setCurrentIndex(m_view.team());
+}
+
+void frmVIEW::showTable() {
+  int& shownTeam = m_shownTeam[static_cast<std::size_t>(m_view.view())];
+  table().showRows(m_view, shownTeam == m_view.team());
+  shownTeam = m_view.team();
+}
+
+void frmVIEW::showChart() {
+  if (m_card != nullptr)
+    m_chart->showShots(m_view.shots(), m_card->game(), m_events->model().words());
+}
+
+void frmVIEW::showHeaders() {
+  QStringList headers;
+  QStringList toolTips;
+  static const std::string kNoLabels[2];
+  const auto& labels = m_card == nullptr ? kNoLabels : m_card->game().details.statisticLabel;
+  for (const BoxColumn& column : boxColumns()) {
+    headers << (column.headerText > 0 ? caption(m_texts, column.headerText) : toQt(column.header));
+    toolTips << toQt(columnWords(column.index, labels, m_settings, m_texts));
+  }
+  toolTips.first() += u'\n' + caption(m_texts, kCheckHint);
+  for (BoxTable* each : m_tables)
+    each->relabel(headers, toolTips);
+}
+
+void frmVIEW::showNotice() {
+  QString notice;
+  const std::string file = fromQt(QFileInfo(path()).fileName());
+  if (m_problem != GameFileProblem::None)
+    notice = toQt(m_texts.withPlaceholder(
+        m_problem == GameFileProblem::Absent ? kFileIsGone : kFileCannotBeRead, file));
+  else if (m_card != nullptr && m_card->outOfRange())
+    notice = toQt(Module1::withPlaceholder(m_texts.withPlaceholder(kCountOutOfRange, file),
+                                           m_card->outOfRange()->what, "YYY"));
+  m_notice->setText(notice);
+  m_notice->setVisible(!notice.isEmpty());
+}
+
+} // namespace hooptab

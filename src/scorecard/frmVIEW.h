@@ -1,0 +1,98 @@
+// The scorecard window: one game with its head, box score, events, details and shot chart, read again on
+// request or on a timer. Lays out and forwards; what is shown is decided by ScorecardView, Scoreboard and
+// BoxScore.
+#pragma once
+
+#include "scorecard/FileChange.h"
+#include "scorecard/Scorecard.h"
+#include "scorecard/ScorecardView.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <array>
+#include <memory>
+#include <optional>
+
+class QComboBox;
+class QLabel;
+class QStackedWidget;
+class QTabWidget;
+
+namespace hooptab {
+
+class BoxTable;
+class EventPanel;
+class GameDetailsPanel;
+class ScoreboardStrip;
+class Settings;
+class ShotChartPanel;
+
+class frmVIEW : public QWidget {
+  Q_OBJECT
+
+ public:
+  enum class RefreshMode { Manual = 0, Every10 = 10, Every30 = 30, Every60 = 60 }; // seconds
+
+  // Store, settings and texts must outlive it.
+  frmVIEW(cinifile& store, const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
+  ~frmVIEW() override;
+
+  // Reads and shows a game; on a problem what was shown stays.
+  [[nodiscard]] GameFileProblem open(const QString& path);
+  QString path() const;
+  // Reads the game anew. While that fails, what was read last stays and a notice says so.
+  void refresh();
+  // A timed mode begins a new period whenever it is set.
+  void setRefreshMode(RefreshMode mode);
+  RefreshMode refreshMode() const { return m_refreshMode; }
+
+  bool isByLine() const { return m_view.view() == BoxView::Lines; }
+  void setByLine(bool byLine);
+  bool hidesMadeAttempted() const { return m_view.hidesMadeAttempted(); }
+  void setHidesMadeAttempted(bool hides);
+
+  void relabelWindow();
+  void applyColours();
+
+ signals:
+  void commandStateChanged();
+  void reported(const QString& message);
+
+ private:
+  QWidget* makeTables();
+  QWidget* makeEventsAndDetails();
+  BoxTable& table() const { return *m_tables[static_cast<std::size_t>(m_view.view())]; }
+  void refreshOnTimer();
+  void readAgain();
+  void showGame(bool isNew);
+  void showTeams();
+  void showTable();
+  void showChart();
+  void showHeaders();
+  void showNotice();
+
+  cinifile& m_store;
+  const Settings& m_settings;
+  const Texts& m_texts;
+  std::unique_ptr<Scorecard> m_card;
+  std::optional<FileChange> m_change;
+  GameFileProblem m_problem = GameFileProblem::None; // of the last reading
+  ScorecardView m_view;
+  RefreshMode m_refreshMode = RefreshMode::Manual;
+  QTimer m_timer;
+
+  QLabel* m_notice;
+  ScoreboardStrip* m_strip;
+  QComboBox* m_team;
+  QLabel* m_kind; // by player or by line
+  QStackedWidget* m_stack;
+  std::array<BoxTable*, 2> m_tables; // by BoxView
+  std::array<int, 2> m_shownTeam = {-1, -1};
+  QTabWidget* m_tabs;
+  EventPanel* m_events;
+  GameDetailsPanel* m_details;
+  ShotChartPanel* m_chart;
+};
+
+} // namespace hooptab

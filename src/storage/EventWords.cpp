@@ -1,0 +1,141 @@
+#include "storage/EventWords.h"
+
+#include "storage/Module1.h"
+#include "storage/PlayerLookup.h"
+#include "storage/Settings.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kOvertime = 1022;
+constexpr int kSideNames[2] = {1027, 1028};
+constexpr int kStart = 1075;
+constexpr int kStop = 1080;
+constexpr int kMade = 1514;
+constexpr int kMissed = 1515;
+constexpr int kIn = 1516;
+constexpr int kOut = 1517;
+constexpr int kSubstitution = 1561;
+constexpr int kUnknownPlayer = 1588;
+constexpr int kSubjectAndWords = 1801; // "XXX: YYY", each language with its own blanks
+
+std::string sentence(const Texts& texts, std::string_view subject, std::string_view words) {
+  return Module1::withPlaceholder(Module1::withPlaceholder(texts.text(kSubjectAndWords), words, "YYY"),
+                                  subject);
+}
+
+std::string shownPlayer(const RosterPlayer* player, std::string_view jersey, bool isTeam,
+                        const Texts& texts) {
+  if (player == nullptr)
+    return std::string(jersey) + ' ' + std::string(texts.text(kUnknownPlayer));
+  if (isTeam)
+    return player->name;
+  return player->name.empty() ? player->jersey : player->jersey + ' ' + player->name;
+}
+
+// "in 4 Ann Able, 5 Bea Baker": those of the one list who are not in the other; nothing when there are none.
+std::string missingIn(const std::vector<ListedPlayer>& other, const std::vector<ListedPlayer>& list,
+                      int directionText, bool isTeam, const Texts& texts) {
+  std::string words;
+  for (const ListedPlayer& listed : list) {
+    if (std::ranges::find(other, listed) != other.end())
+      continue;
+    words += words.empty() ? std::string(texts.text(directionText)) + ' ' : ", ";
+    words += shownPlayer(listed.player, listed.jersey, isTeam, texts);
+  }
+  return words;
+}
+
+// The last stop before an event that counts, or null.
+const GameEvent* stopBefore(const EventList& events, std::size_t index) {
+  while (index > 0) {
+    const GameEvent& event = events[--index];
+    if (event.isUnderstood && !event.isDeleted && event.code == EventCode::ARRET)
+      return &event;
+  }
+  return nullptr;
+}
+
+} // namespace
+
+EventWords::EventWords(const Game& game, const Texts& texts) : m_game(game), m_texts(texts) {}
+
+std::string EventWords::words(std::size_t eventIndex) const {
+  const GameEvent& event = m_game.events[eventIndex];
+  if (!event.isUnderstood)
+    return std::string(event.line);
+  switch (event.code) {
+  case EventCode::DEPART: return std::string(m_texts.text(kStart));
+  case EventCode::ARRET: {
+    const std::string changes = substitution(eventIndex);
+    return changes.empty() ? std::string(m_texts.text(kStop)) : changes;
+  }
+  default: break;
+  }
+  std::string who(team(event.player.team));
+  if (std::string name = player(event.player); name != who)
+    who += ' ' + name;
+  return sentence(m_texts, who, action(event));
+}
+
+std::string EventWords::periodText(int period) const {
+  const int regular = m_game.details.periods;
+  if (regular < 1 || period <= regular)
+    return std::to_string(period);
+  return std::string(m_texts.text(kOvertime)) + std::to_string(period - regular);
+}
+
+std::string EventWords::clock(std::size_t eventIndex) const {
+  const GameEvent& event = m_game.events[eventIndex];
+  if (!event.isUnderstood)
+    return {};
+  return m_game.details.minutesPerPeriod == 0 ? "--:--" : Module1::clockText(event.clockSeconds);
+}
+
+std::string EventWords::player(const PlayerReference& reference) const {
+  const Roster& roster = m_game.roster[reference.team];
+  return shownPlayer(findPlayer(roster, reference.jersey), reference.jersey, isTeamItself(roster), m_texts);
+}
+
+std::string EventWords::action(const GameEvent& event) const {
+  const EventKind& kind = *event.kind();
+  std::string words(m_texts.text(kind.wordsText));
+  if (kind.isShot)
+    return words + ' ' + std::string(m_texts.text(event.isMade ? kMade : kMissed));
+  // The user's own statistics carry the game's labels; "---" stands for none.
+  if (kind.code == EventCode::SU1 || kind.code == EventCode::SU2) {
+    std::string label =
+        Settings::shownLabel(m_game.details.statisticLabel[kind.code == EventCode::SU1 ? 0 : 1]);
+    if (label.find_first_not_of("- ") != std::string::npos)
+      return label;
+  }
+  return words;
+}
+
+std::string EventWords::substitution(std::size_t eventIndex) const {
+  const GameEvent& event = m_game.events[eventIndex];
+  const GameEvent* const stop = stopBefore(m_game.events, eventIndex);
+  std::string words;
+  for (std::size_t side = 0; side < 2; ++side) {
+    const Roster& roster = m_game.roster[side];
+    const bool isTeam = isTeamItself(roster);
+    const auto before = playersOfList(stop != nullptr ? stop->onCourt(side) : std::string_view(), roster);
+    const auto after = playersOfList(event.onCourt(side), roster);
+    std::string changes = missingIn(before, after, kIn, isTeam, m_texts);
+    if (const std::string out = missingIn(after, before, kOut, isTeam, m_texts); !out.empty())
+      changes += (changes.empty() ? "" : "; ") + out;
+    if (!changes.empty())
+      words += " - " + sentence(m_texts, team(static_cast<int>(side)), changes);
+  }
+  return words.empty() ? words : std::string(m_texts.text(kSubstitution)) + words;
+}
+
+std::string_view EventWords::team(int team) const {
+  const std::string& abbreviation = m_game.details.abbreviation[team];
+  return abbreviation.empty() ? m_texts.text(kSideNames[team]) : std::string_view(abbreviation);
+}
+
+} // namespace hooptab

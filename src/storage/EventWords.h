@@ -1,0 +1,36 @@
+// Says an event in words, in the language in use: "LYNX 12 Ann Able: 2 points made", and for a stop who went
+// in and out. Used by every list of events, on screen, on paper and in the terminal.
+#pragma once
+
+#include "storage/GameFile.h"
+#include "storage/Texts.h"
+
+#include <string>
+
+namespace hooptab {
+
+class EventWords {
+ public:
+  // Both must outlive it.
+  EventWords(const Game& game, const Texts& texts);
+
+  // Words of the event at that place of the game's list. Lines that cannot be understood are given as they
+  // stand.
+  [[nodiscard]] std::string words(std::size_t eventIndex) const;
+  // "1", "OT1": the period as it is shown.
+  [[nodiscard]] std::string periodText(int period) const;
+  // The clock as shown: "--:--" in a game without time, empty for a line that cannot be understood.
+  [[nodiscard]] std::string clock(std::size_t eventIndex) const;
+  // "12 Name", or the jersey and "unknown player" for one who is in no roster.
+  [[nodiscard]] std::string player(const PlayerReference& reference) const;
+
+ private:
+  [[nodiscard]] std::string substitution(std::size_t eventIndex) const; // empty when nobody went in or out
+  [[nodiscard]] std::string action(const GameEvent& event) const;
+  [[nodiscard]] std::string_view team(int team) const;
+
+  const Game& m_game;
+  const Texts& m_texts;
+};
+
+} // namespace hooptab

@@ -1,0 +1,56 @@
+#include "storage/PlayerLookup.h"
+
+#include "storage/Module1.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+// Among those after the fifteenth, whom no entry counts: the same text first, else the first of equal number.
+const RosterPlayer* findUncounted(const Roster& roster, std::string_view jersey) {
+  const std::vector<RosterPlayer>& players = roster.players();
+  if (players.size() <= Roster::kLargestEntry)
+    return nullptr;
+  const auto first = players.begin() + Roster::kLargestEntry;
+  auto found =
+      std::find_if(first, players.end(), [&](const RosterPlayer& player) { return player.jersey == jersey; });
+  if (const int number = Module1::wholeNumber(jersey); found == players.end() && number >= 0)
+    found = std::find_if(first, players.end(), [&](const RosterPlayer& player) {
+      return Module1::wholeNumber(player.jersey) == number;
+    });
+  return found == players.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+const RosterPlayer* findPlayer(const Roster& roster, std::string_view jersey) {
+  const int entry = roster.entryOf(jersey);
+  return entry > 0 ? roster.player(entry) : findUncounted(roster, jersey);
+}
+
+std::vector<ListedPlayer> playersOfList(std::string_view list, const Roster& roster) {
+  std::vector<ListedPlayer> players;
+  if (!list.starts_with("IN"))
+    return players;
+  list.remove_prefix(2);
+  while (!list.empty()) {
+    list.remove_prefix(1); // the "-" before each jersey
+    const std::string_view jersey = list.substr(0, list.find('-'));
+    list.remove_prefix(jersey.size());
+    if (jersey.empty())
+      continue;
+    const int entry = roster.entryOfListed(jersey);
+    const RosterPlayer* player = entry > 0 ? roster.player(entry) : findUncounted(roster, jersey);
+    players.push_back({player, player != nullptr ? player->jersey : roster.listedJersey(jersey)});
+  }
+  return players;
+}
+
+bool isTeamItself(const Roster& roster) {
+  const std::vector<RosterPlayer>& players = roster.players();
+  return players.size() == 1 && players[0].jersey == "0" && players[0].position == 9;
+}
+
+} // namespace hooptab

@@ -1,0 +1,354 @@
+// The built hooptab-cli, run as a script runs it: what it prints, what it complains of, and with which status
+// it ends.
+#include "support/Json.h"
+#include "support/SharedGames.h"
+#include "support/TemporaryFolder.h"
+#include "support/TextGame.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+using namespace hooptab;
+
+namespace {
+
+struct Outcome {
+  int status = -1; // 128 and more: ended by a signal
+  std::string output;
+  std::string complaint;
+};
+
+std::string quoted(const std::string& text) {
+  std::string result = "'";
+  for (const char letter : text)
+    result += letter == '\'' ? std::string("'\\''") : std::string(1, letter);
+  return result + "'";
+}
+
+class Cli : public testing::Test {
+ protected:
+  // `arguments` as a shell takes them, redirections included.
+  Outcome run(const std::string& arguments, const std::string& environment = "LC_ALL=C") {
+    const std::string command = "exec 2>" + quoted(m_folder.path("stderr")) + "; " + environment + " " +
+                                quoted(HOOPTAB_CLI) + " " + arguments;
+    std::FILE* pipe = ::popen(command.c_str(), "r");
+    Outcome outcome;
+    char buffer[4096];
+    while (const std::size_t count = std::fread(buffer, 1, sizeof buffer, pipe))
+      outcome.output.append(buffer, count);
+    const int ended = ::pclose(pipe);
+    outcome.status = WIFEXITED(ended) ? WEXITSTATUS(ended) : 128 + WTERMSIG(ended);
+    outcome.complaint = m_folder.read("stderr");
+    return outcome;
+  }
+  std::string game(const std::string& text, const std::string& name = "g.GAM") {
+    return quoted(m_folder.write(name, text));
+  }
+
+  TemporaryFolder m_folder;
+};
+
+std::ptrdiff_t linesOf(const std::string& text) {
+  return std::ranges::count(text, '\n');
+}
+bool holds(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+// Bytes of the code page: \xE9 is é, \x9C is œ.
+std::string smallGame() {
+  return "[DETAILS]\nVERSION=2.0\nDATE=2026-03-01\nTYPE=2\nENDROIT=Gymnase "
+         "C\xF4t\xE9\nEQUIPE0ABB=PAN\nEQUIPE1ABB=OLY\n"
+         "EQUIPE0NOM=Panth\xE8res\nNBREPERIODE=2\nDUREE=10\n"
+         "[0]\n4=0,Zo\xE9 C\x9Cur\n5=1,Bea \"B\" Baker\n[1]\n7=2,Ida\n"
+         "[PERIODE1]\n1=10:00,ARRET,IN-04-05,IN-07\n2=10:00,DEPART\n3=09:00,GFG,0-4,30,100\n4=08:00,GF3,1-7,"
+         "115,100\n"
+         "5=E07:00,SPF,0-4\n6=06:00,GFTA,0-5\n7=what\x1B[31m\n8=00:00,ARRET,IN-04-05,IN-07\n"
+         "[PERIODE2]\n9=10:00,DEPART\n10=09:00,GFG,0-4,30,100\n11=08:30,STF,1-7\n12=00:00,ARRET,IN-04-05,IN-"
+         "07\n"
+         "[PERIODE3]\n13=05:00,DEPART\n14=04:00,GFT,1-7\n15=00:00,ARRET,IN-04-05,IN-07\n";
+}
+
+TEST_F(Cli, WrongUseIsStatus2AndOneClearLine) {
+  for (const char* arguments :
+       {"", "--nope", "play g.GAM", "box", "verify", "events", "box a b", "box --json --csv a",
+        "verify --json a", "--lang de box a", "box a --lang", "box --lang= a", "--"}) {
+    const Outcome outcome = run(arguments);
+    EXPECT_EQ(outcome.status, 2) << arguments;
+    EXPECT_EQ(outcome.output, "") << arguments;
+    EXPECT_EQ(linesOf(outcome.complaint), 1) << arguments;
+    EXPECT_TRUE(outcome.complaint.starts_with("hooptab-cli: ")) << outcome.complaint;
+  }
+}
+
+TEST_F(Cli, TellsItsUseAndVersion) {
+  const Outcome help = run("box --help");
+  EXPECT_EQ(help.status, 0);
+  for (const char* word : {"box", "events", "verify", "--json", "--csv", "--lang", "--version"})
+    EXPECT_TRUE(holds(help.output, word)) << word;
+  EXPECT_EQ(run("--version").output, "hooptab-cli " HOOPTAB_VERSION "\n");
+}
+
+TEST_F(Cli, SaysOfAFileThatIsNoGameWhatAndWhere) {
+  m_folder.write("empty.GAM", "");
+  m_folder.write("other.GAM", "[DETAILS]\nVERSION=1.0\n");
+  m_folder.write("binary.GAM", std::string("\0\xFF[\x01=\xFE\n\0", 8));
+  std::filesystem::create_directory(m_folder.path("folder.GAM"));
+  m_folder.write("huge.GAM", "");
+  std::filesystem::resize_file(m_folder.path("huge.GAM"), 100'000'000);
+  const std::pair<const char*, const char*> cases[] = {
+      {"empty.GAM", "Not a Valid .GAM File"},
+      {"other.GAM", "Not a Valid .GAM File"},
+      {"binary.GAM", "Not a Valid .GAM File"},
+      {"folder.GAM", "cannot be read"},
+      {"huge.GAM", "too large"},
+      {"none.GAM", "no such file"},
+      {"g.GAM/in", "no such file"},
+  };
+  game(smallGame());
+  for (const auto& [name, reason] : cases) {
+    for (const char* command : {"box --json ", "events ", "verify "}) {
+      const Outcome outcome = run(command + quoted(m_folder.path(name)));
+      EXPECT_EQ(outcome.status, 1) << command << name;
+      EXPECT_EQ(outcome.output, "") << command << name;
+      EXPECT_EQ(linesOf(outcome.complaint), 1) << outcome.complaint;
+      EXPECT_TRUE(holds(outcome.complaint, name)) << outcome.complaint;
+      EXPECT_TRUE(holds(outcome.complaint, reason)) << outcome.complaint;
+    }
+  }
+}
+
+TEST_F(Cli, BoxIsATableAlignedByCharacters) {
+  const Outcome english = run("box " + game(smallGame()));
+  EXPECT_EQ(english.status, 0) << english.complaint;
+  EXPECT_EQ(english.output, R"(PAN 4 - 4 OLY
+2026-03-01 - Season - Gymnase Côté
+
+Points by Period  1  2  OT1  TOTAL
+PAN               2  2    0      4
+OLY               3  0    1      4
+
+Fouls  1  2  OT1  TOTAL
+PAN    0  0    0      0
+OLY    0  1    0      1
+
+Time in Lead   Time  times
+PAN           11:00      2
+OLY           09:00      1
+Tied          05:00      1
+
+PAN - Panthères
+No  Player Name    Pos       Time  PTS  M/A       %   FG   F3   FT  OR  DR  Ast  BS  ST  TO  PF  TF  Rat.
+ 4  Zoé Cœur       Center   25:00    4  2/2  100.0%  2/2  0/0  0/0   0   0    0   0   0   0   0   0     4
+ 5  Bea "B" Baker  Forward  25:00    0  0/1    0.0%  0/0  0/0  0/1   0   0    0   0   0   0   0   0    -1
+---------------------------------------------------------------------------------------------------------
+    TOTAL                   50:00    4  2/3   66.7%  2/2  0/0  0/1   0   0    0   0   0   0   0   0     3
+
+OLY
+No  Player Name  Pos     Time  PTS  M/A       %   FG   F3   FT  OR  DR  Ast  BS  ST  TO  PF  TF  Rat.
+ 7  Ida          Guard  25:00    4  2/2  100.0%  0/0  1/1  1/1   0   0    0   0   0   0   0   1     4
+-----------------------------------------------------------------------------------------------------
+    TOTAL               25:00    4  2/2  100.0%  0/0  1/1  1/1   0   0    0   0   0   0   0   1     4
+)");
+  const std::string file = quoted(m_folder.path("g.GAM"));
+  const Outcome french = run("box --lang fr " + file);
+  for (const char* word : {"Saison", "PROL.1", "Fautes", "À égalité", "Nom du joueur", "Ailier", "Ren."})
+    EXPECT_TRUE(holds(french.output, word)) << word << '\n' << french.output;
+  EXPECT_EQ(run("box " + file, "LC_ALL= LANG=fr_CA.UTF-8").output, french.output);
+  EXPECT_EQ(run("box --lang=en " + file, "LC_ALL=fr_CA").output, english.output);
+}
+
+TEST_F(Cli, JsonHasItsKeysInOrderAndTheSameInEveryLanguage) {
+  const std::string file = game(smallGame(), "od\xFF\"d\x01.GAM");
+  const Outcome outcome = run("box --json " + file);
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, run("--lang fr box " + file + " --json").output);
+  std::size_t at = 0;
+  for (const char* key :
+       {"file",   "version", "teams",    "abb",     "name",   "points",  "periods", "fouls",   "players",
+        "number", "name",    "position", "seconds", "FGM",    "FGA",     "F3M",     "F3A",     "FTM",
+        "FTA",    "LLM",     "LLA",      "LRM",     "LRA",    "PBM",     "PBA",     "DKM",     "DKA",
+        "M",      "A",       "PTS",      "Ast",     "BS",     "ST",      "TO",      "OR",      "DR",
+        "S1",     "S2",      "PF",       "TF",      "rating", "lines",   "line",    "seconds", "FGM",
+        "M",      "rating",  "abb",      "lines",   "lead",   "seconds", "times"}) {
+    at = outcome.output.find('"' + std::string(key) + "\": ", at);
+    ASSERT_NE(at, std::string::npos) << key;
+  }
+
+  const Json json = Json::parse(outcome.output);
+  EXPECT_TRUE(json["file"].text().ends_with("/od\xEF\xBF\xBD\"d\x01.GAM")) << json["file"].text();
+  EXPECT_EQ(json["version"].text(), "2.0");
+  EXPECT_EQ(json["teams"].array().size(), 2U);
+  const Json& team = json["teams"][0];
+  EXPECT_EQ(team["name"].text(), "Panthères");
+  EXPECT_EQ(team["periods"].array().size(), 3U);
+  EXPECT_EQ(team["periods"][1].integer(), 2);
+  EXPECT_EQ(team["players"].array().size(), 2U) << "the total is no player";
+  EXPECT_EQ(team["players"][0]["name"].text(), "Zoé Cœur");
+  EXPECT_EQ(team["players"][0]["position"].text(), "Center");
+  EXPECT_EQ(team["players"][1]["rating"].integer(), -1);
+  EXPECT_EQ(team["lines"][0]["line"].text(), "IN-04-05");
+  EXPECT_EQ(team["lines"][0]["seconds"].integer(), 1500);
+  EXPECT_EQ(json["teams"][1]["fouls"][1].integer(), 1);
+  EXPECT_EQ(json["lead"]["seconds"][0].integer() + json["lead"]["seconds"][1].integer() +
+                json["lead"]["seconds"][2].integer(),
+            1500);
+  EXPECT_EQ(json["lead"]["times"][2].integer(), 1);
+}
+
+TEST_F(Cli, JsonOfRealGamesAgreesWithTheOfficialBox) {
+  if (sharedGames().empty())
+    GTEST_SKIP() << "the folder of real games is missing: " << sharedFolder();
+  for (const auto& path : sharedGames()) {
+    SCOPED_TRACE(path.filename().string());
+    const Json ours = Json::parse(run("box --json " + quoted(path.string())).output);
+    const Json official = Json::ofFile(std::filesystem::path(path).replace_extension(".json").string());
+    for (std::size_t side = 0; side < 2; ++side) {
+      const Json& team = ours["teams"][side];
+      EXPECT_EQ(team["points"].integer(), official["teams"][side]["points"].integer());
+      int byPeriod = 0;
+      for (const Json& points : team["periods"].array())
+        byPeriod += points.integer();
+      int byPlayer = 0;
+      for (const Json& player : team["players"].array())
+        byPlayer += player["PTS"].integer();
+      int byLine = 0;
+      for (const Json& line : team["lines"].array())
+        byLine += line["PTS"].integer();
+      EXPECT_EQ(byPeriod, team["points"].integer());
+      EXPECT_EQ(byPlayer, team["points"].integer());
+      EXPECT_EQ(byLine, team["points"].integer());
+    }
+  }
+}
+
+TEST_F(Cli, CsvHasARowForEachPlayerAndTotalWithQuotedFields) {
+  std::string text = smallGame();
+  text.replace(text.find("EQUIPE0ABB=PAN"), 14, "EQUIPE0ABB=P,N");
+  const Outcome outcome = run("box --csv " + game(text));
+  EXPECT_EQ(outcome.status, 0);
+  std::vector<std::string> lines;
+  for (std::size_t begin = 0; begin < outcome.output.size();) {
+    const std::size_t end = outcome.output.find("\r\n", begin);
+    ASSERT_NE(end, std::string::npos) << "every line ends in CR LF";
+    lines.push_back(outcome.output.substr(begin, end - begin));
+    begin = end + 2;
+  }
+  ASSERT_EQ(lines.size(), 6U);
+  EXPECT_TRUE(lines[0].starts_with("team,No,Name,Pos,Time,PF,TF,rating,M,A,%,PTS,FGM,")) << lines[0];
+  EXPECT_TRUE(lines[1].starts_with("\"P,N\",4,Zoé Cœur,Center,25:00,0,0,4,2,2,100.0%,4,2,2,100.0%,4,"))
+      << lines[1];
+  EXPECT_TRUE(lines[2].starts_with("\"P,N\",5,\"Bea \"\"B\"\" Baker\",Forward,")) << lines[2];
+  EXPECT_TRUE(lines[3].starts_with("\"P,N\",,TOTAL,na,50:00,")) << lines[3];
+  EXPECT_TRUE(lines[5].starts_with("OLY,,TOTAL,")) << lines[5];
+  for (const std::size_t line : {std::size_t{0}, std::size_t{4}, std::size_t{5}})
+    EXPECT_EQ(std::ranges::count(lines[line], ','), 48) << lines[line];
+}
+
+TEST_F(Cli, EventsAreToldInWordsAndNeverCommandTheTerminal) {
+  const Outcome outcome = run("events " + game(smallGame()));
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(linesOf(outcome.output), 16);
+  for (const char* line : {" 3       1  09:00  PAN 4 Zoé Cœur: 2 points made\n",
+                           " 5       1  07:00  [deleted] PAN 4 Zoé Cœur: personal foul\n",
+                           " 7       1         [Cannot be understood] what?[31m\n",
+                           " 8       1  00:00  STOP\n", "14     OT1  04:00  OLY 7 Ida: free throw made\n"})
+    EXPECT_TRUE(holds(outcome.output, line)) << line << outcome.output;
+  EXPECT_TRUE(holds(run("events --lang fr " + quoted(m_folder.path("g.GAM"))).output,
+                    "[supprimé] PAN 4 Zoé Cœur : faute personnelle"));
+}
+
+TEST_F(Cli, VerifyNamesEachFaultWithItsFilePeriodAndEvent) {
+  const std::string good =
+      game(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=10:00,DEPART\n"
+                      "3=09:00,GFG,0-4,120,100\n"),
+           "good.GAM");
+  const std::string bad =
+      game(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=10:00,DEPART\n"
+                      "[PERIODE2]\n3=09:00,SPF,0-99\n"),
+           "bad.GAM");
+  const Outcome warned = run("verify " + good);
+  EXPECT_EQ(warned.status, 0) << "a warning alone leaves a game good";
+  EXPECT_TRUE(holds(warned.output, "good.GAM: warning: period 1, event 3 (09:00,GFG,0-4,120,100): "));
+  EXPECT_TRUE(holds(warned.output, "good.GAM: good, 1 warning\n"));
+
+  const Outcome mixed = run("verify -- " + bad + " " + quoted(m_folder.path("none.GAM")) + " " + good);
+  EXPECT_EQ(mixed.status, 1);
+  EXPECT_TRUE(holds(mixed.output,
+                    "bad.GAM: period 2, event 3 (09:00,SPF,0-99): player 99 of PAN is not in the roster\n"));
+  EXPECT_TRUE(holds(mixed.output, "bad.GAM: 1 finding\n"));
+  EXPECT_TRUE(holds(mixed.output, "good.GAM: good, 1 warning\n"))
+      << "one file's fault keeps no other from being looked at";
+  EXPECT_TRUE(holds(mixed.complaint, "none.GAM"));
+
+  const Outcome overflow = run("verify " + game(
+                                               textOfGame("[PERIODE1]\n") +
+                                                   [] {
+                                                     std::string events;
+                                                     for (int number = 1; number <= 32768; ++number)
+                                                       events += std::to_string(number) + "=00:00,STF,0-4\n";
+                                                     return events;
+                                                   }(),
+                                               "many.GAM"));
+  EXPECT_EQ(overflow.status, 1);
+  EXPECT_TRUE(holds(overflow.output, "many.GAM: a count is out of range and stays at its limit: PAN 4 TF\n"))
+      << overflow.output;
+}
+
+TEST_F(Cli, VerifyPassesRealGamesAndNamesFaultyOnes) {
+  if (sharedGames().empty())
+    GTEST_SKIP() << "the folder of real games is missing: " << sharedFolder();
+  for (const auto& path : sharedGames()) {
+    const Outcome outcome = run("verify " + quoted(path.string()));
+    EXPECT_EQ(outcome.status, 0) << outcome.output;
+  }
+  for (const auto& path : sharedGames("faulty")) {
+    const Outcome outcome = run("verify " + quoted(path.string()));
+    EXPECT_GT(linesOf(outcome.output), 1) << "nothing is named: " << outcome.output;
+    // Played in two halves of 20 minutes, as its details say: nothing but places is wrong with it.
+    const bool agreesWithItself = path.stem() == "WNBA-1020100043";
+    EXPECT_EQ(outcome.status, agreesWithItself ? 0 : 1) << outcome.output;
+  }
+}
+
+TEST_F(Cli, ReaderThatGoesAwayIsNoErrorButAnUnwritableOutputIs) {
+  std::string events = "[PERIODE1]\n";
+  for (int number = 1; number <= 10000; ++number)
+    events += std::to_string(number) + "=09:00,STF,0-4\n";
+  const std::string file = game(textOfGame(events));
+  const std::string left = quoted(m_folder.path("left"));
+  // More than a pipe holds, so that writing goes on after the reader left.
+  const Outcome piped = run("events " + file + " >&1 | head -n 1");
+  EXPECT_EQ(linesOf(piped.output), 1);
+  EXPECT_EQ(piped.complaint, "");
+  run("events " + file + "; echo $? >" + left + "; } | head -n 1", "{ LC_ALL=C");
+  EXPECT_EQ(m_folder.read("left"), "0\n");
+
+  const Outcome closed = run("box " + file + " >&-");
+  EXPECT_EQ(closed.status, 1);
+  EXPECT_TRUE(holds(closed.complaint, "output cannot be written")) << closed.complaint;
+  EXPECT_EQ(run("box " + file + " >/dev/full").status, 1);
+}
+
+TEST_F(Cli, OddGamesDoNoHarmAndAreNotChanged) {
+  std::string odd =
+      smallGame() + "16=" + std::string(70000, 'x') + "\n=\n[PERIODE255]\n17=00:00,GFG,0-4,1e9,-5\n";
+  odd += "[PERIODE300]\n18=00:00,SA,0-4\n";
+  for (int number = 100; number < 400; ++number)
+    odd += std::to_string(number) + "=00:00,ARRET,IN-" + std::to_string(number) + ",IN-1-2-3-4-5-6-7-8\n";
+  for (std::size_t length = odd.size(); length > 0; length = length * 9 / 10) {
+    const std::string file = game(odd.substr(0, length));
+    for (const char* command : {"box --json ", "box --csv ", "box ", "events ", "verify "}) {
+      const Outcome outcome = run(command + file);
+      EXPECT_LE(outcome.status, 1) << command << length << outcome.complaint;
+      if (std::string_view(command) == "box --json " && outcome.status == 0) {
+        EXPECT_NO_THROW((void)Json::parse(outcome.output)) << length;
+      }
+    }
+    EXPECT_EQ(m_folder.read("g.GAM"), odd.substr(0, length));
+  }
+}
+
+} // namespace

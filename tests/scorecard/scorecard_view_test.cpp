@@ -1,0 +1,195 @@
+#include "scorecard/ColumnWords.h"
+#include "scorecard/FileChange.h"
+#include "scorecard/Scoreboard.h"
+#include "scorecard/Scorecard.h"
+#include "scorecard/ScorecardView.h"
+
+#include <gtest/gtest.h>
+
+#include "ViewedGame.h"
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+namespace hooptab {
+namespace {
+
+class ScorecardViewTest : public testing::Test {
+ protected:
+  void SetUp() override { readAgain(); }
+  void readAgain() {
+    ASSERT_EQ(card.load(), GameFileProblem::None);
+    view.show(card.game(), card.state());
+  }
+  const BoxRow& rowOf(std::string_view number) const {
+    return *std::ranges::find(view.rows(), number, &BoxRow::number);
+  }
+  const BoxRow& total() const { return view.rows().back(); }
+
+  ViewedGame game;
+  Texts texts;
+  Scorecard card{game.store, game.file.path()};
+  ScorecardView view{texts};
+};
+
+using CheckMark = ScorecardView::CheckMark;
+using Scope = ScorecardView::Scope;
+
+TEST_F(ScorecardViewTest, EverybodyIsCheckedAtFirstAndAMarkDecidesOverChartAndTotal) {
+  EXPECT_EQ(view.checkMark(total()), CheckMark::All);
+  EXPECT_EQ(view.shots().size(), 3U);
+  EXPECT_EQ(total().numbers.points(), 4);
+
+  view.check(rowOf("12"), false);
+  EXPECT_EQ(view.checkMark(rowOf("12")), CheckMark::None);
+  EXPECT_EQ(view.checkMark(rowOf("4")), CheckMark::All);
+  EXPECT_EQ(view.checkMark(total()), CheckMark::Some);
+  EXPECT_EQ(view.shots().size(), 2U);
+  EXPECT_EQ(total().numbers.points(), 2);
+  EXPECT_EQ(total().numbers.counters[Counter::PF], 0) << "both fouls were number 12's";
+
+  view.setScope(Scope::All);
+  EXPECT_EQ(view.shots().size(), 3U);
+  EXPECT_EQ(total().numbers.points(), 4);
+  EXPECT_EQ(view.checkMark(rowOf("12")), CheckMark::None) << "the mark itself stays";
+}
+
+TEST_F(ScorecardViewTest, TheTotalsMarkIsEverybodys) {
+  view.check(total(), false);
+  EXPECT_EQ(view.checkMark(total()), CheckMark::None);
+  EXPECT_TRUE(view.shots().empty());
+  EXPECT_EQ(total().numbers.points(), 0);
+  view.check(total(), true);
+  EXPECT_EQ(view.shots().size(), 3U);
+}
+
+TEST_F(ScorecardViewTest, MarksAreKeptByTeamAndViewAndThroughANewReading) {
+  view.check(rowOf("4"), false);
+  view.setTeam(1);
+  EXPECT_EQ(view.checkMark(total()), CheckMark::All);
+  EXPECT_EQ(view.shots().size(), 1U);
+  view.setTeam(0);
+  view.setView(BoxView::Lines);
+  ASSERT_EQ(view.rows().size(), 3U) << "two lines and the total";
+  view.check(rowOf("1"), false);
+  EXPECT_EQ(view.shots().size(), 1U) << "the team's shots while the second line was on court";
+
+  game.add(1, 500, {stopText("IN-05-23", "IN-07-08"), startText()});
+  game.add(1, 490, {",GF3A,0-5,110,90"});
+  readAgain();
+  ASSERT_EQ(view.rows().size(), 4U);
+  EXPECT_EQ(view.checkMark(rowOf("1")), CheckMark::None);
+  EXPECT_EQ(view.checkMark(rowOf("3")), CheckMark::All) << "a new line is checked";
+  view.setView(BoxView::Players);
+  EXPECT_EQ(view.checkMark(rowOf("4")), CheckMark::None);
+
+  view.forgetChecks();
+  EXPECT_EQ(view.checkMark(total()), CheckMark::All);
+}
+
+TEST_F(ScorecardViewTest, HidesMadeAndAttemptedOfAllKindsAndNothingElse) {
+  const auto shown = [&] {
+    return std::ranges::count_if(boxColumns(), [&](const BoxColumn& column) { return view.isShown(column); });
+  };
+  EXPECT_EQ(shown(), 47) << "the sort key of the time is never shown";
+  view.setHidesMadeAttempted(true);
+  EXPECT_EQ(shown(), 47 - 16) << "seven kinds and their sum";
+  EXPECT_TRUE(view.isShown(boxColumns()[7])) << "points";
+}
+
+TEST_F(ScorecardViewTest, SumsTheFieldGoalsOfTheChart) {
+  const ShotSummary summary = shotSummary(view.shots());
+  EXPECT_EQ(summary.twoPoints.made, 2);
+  EXPECT_EQ(summary.twoPoints.attempted, 2);
+  EXPECT_EQ(summary.threePoints.made, 0);
+  EXPECT_EQ(summary.threePoints.attempted, 1);
+}
+
+TEST_F(ScorecardViewTest, TheBoardShowsScorePeriodsFoulsAndLead) {
+  Scoreboard board = scoreboard(card.game(), card.state(), texts);
+  EXPECT_EQ(board.teams[0].points, 4);
+  EXPECT_EQ(board.teams[1].points, 3);
+  ASSERT_EQ(board.periods.size(), 4U);
+  EXPECT_EQ(board.periods[0].points[0], 4);
+  EXPECT_EQ(board.periods[0].fouls[0], 2);
+  EXPECT_TRUE(board.periods[0].isInBonus[0]);
+  EXPECT_FALSE(board.periods[0].isInBonus[1]);
+  EXPECT_TRUE(board.periods[0].isPlayed);
+  EXPECT_FALSE(board.periods[1].isPlayed);
+  EXPECT_EQ(board.clock, "09:00");
+  EXPECT_EQ(board.period, "1");
+  EXPECT_FALSE(board.isFinished);
+  // Tied 10 s, team 0 ahead 20 s, then team 1 for 30 s until the last basket.
+  EXPECT_EQ(board.leads[0].time, "00:20");
+  EXPECT_EQ(board.leads[1].time, "00:30");
+  EXPECT_EQ(board.leads[2].time, "00:10");
+  EXPECT_EQ(board.leads[0].times, 2);
+  EXPECT_EQ(board.leads[1].times, 1);
+
+  game.add(5, 300, {",GFT,1-7"});
+  readAgain();
+  board = scoreboard(card.game(), card.state(), texts);
+  ASSERT_EQ(board.periods.size(), 5U);
+  EXPECT_EQ(board.periods[4].label, texts.text(1022)) << "the only overtime has no number";
+  EXPECT_EQ(board.period, texts.text(1022));
+  game.add(6, 300, {",GFT,1-7"});
+  game.add(10, 300, {",GFT,1-7"});
+  readAgain();
+  board = scoreboard(card.game(), card.state(), texts);
+  ASSERT_EQ(board.periods.size(), 8U);
+  EXPECT_NE(board.periods[4].label, board.periods[5].label);
+  EXPECT_TRUE(board.periods[7].label.ends_with('+')) << "periods from 8 on share a column";
+  EXPECT_EQ(board.periods[7].points[1], 1);
+}
+
+TEST_F(ScorecardViewTest, EveryColumnHasItsOwnWords) {
+  Settings settings(game.store, game.folder.path());
+  settings.statisticLabel[1] = "U2-Deflections";
+  const auto& labels = card.game().details.statisticLabel;
+  for (const Language language : {Language::English, Language::French}) {
+    texts.setLanguage(language);
+    std::set<std::string> words;
+    for (const BoxColumn& column : boxColumns()) {
+      if (column.widthTwips > 0)
+        words.insert(columnWords(column.index, labels, settings, texts));
+    }
+    EXPECT_EQ(words.size(), 47U);
+    EXPECT_FALSE(words.contains("PTS"));
+  }
+  EXPECT_NE(columnWords(31, labels, settings, texts).find("Charges"), std::string::npos)
+      << "the game's label";
+  EXPECT_EQ(columnWords(31, labels, settings, texts).find("U1-"), std::string::npos) << "without its prefix";
+  EXPECT_NE(columnWords(32, labels, settings, texts).find("Deflections"), std::string::npos)
+      << "the settings' label";
+}
+
+TEST(FileChangeTest, SeesWritingRemovalAndReturn) {
+  using namespace std::chrono_literals;
+  namespace fs = std::filesystem;
+  TemporaryFolder folder;
+  FileSystem files;
+  const std::string path = folder.write("a.GAM", "one");
+  FileChange change(files, path);
+  EXPECT_TRUE(change.mayHaveChanged()) << "never read";
+  change.remember();
+  EXPECT_TRUE(change.mayHaveChanged()) << "written a moment ago: an equal stamp proves nothing yet";
+
+  fs::last_write_time(path, fs::file_time_type::clock::now() - 10s);
+  change.remember();
+  EXPECT_FALSE(change.mayHaveChanged());
+  folder.write("a.GAM", "two");
+  EXPECT_TRUE(change.mayHaveChanged());
+  fs::last_write_time(path, fs::file_time_type::clock::now() - 10s);
+  change.remember();
+  fs::remove(path);
+  EXPECT_TRUE(change.mayHaveChanged());
+  change.remember();
+  folder.write("a.GAM", "two");
+  EXPECT_TRUE(change.mayHaveChanged()) << "it is back";
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,488 @@
+#include "appearance/CourtView.h"
+#include "appearance/relabel.h"
+#include "scorecard/BoxTable.h"
+#include "scorecard/EventListModel.h"
+#include "scorecard/FrozenTableView.h"
+#include "scorecard/TableText.h"
+#include "scorecard/frmVIEW.h"
+#include "storage/Settings.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "ViewedGame.h"
+
+namespace hooptab {
+namespace {
+
+namespace fs = std::filesystem;
+using Mode = frmVIEW::RefreshMode;
+using Fatal = QAbstractItemModelTester::FailureReportingMode;
+
+constexpr int kPoints = 7; // columns of the table, from 0
+constexpr int kFieldGoalsMade = 8;
+
+// The window on a small game that grows; its models are watched the whole time.
+class ScorecardWindowTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    QApplication::clipboard()->clear();
+    show(game.file.path());
+    watchModels();
+  }
+  void show(const std::string& path) {
+    window = std::make_unique<frmVIEW>(game.store, settings, texts);
+    ASSERT_EQ(window->open(toQt(path)), GameFileProblem::None);
+    window->resize(1350, 640);
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+  }
+  void watchModels() {
+    for (QTableView* view :
+         {static_cast<QTableView*>(&table(0)), static_cast<QTableView*>(&table(1)), &events()}) {
+      auto* proxy = qobject_cast<QAbstractProxyModel*>(view->model());
+      new QAbstractItemModelTester(proxy, Fatal::Fatal, proxy);
+      new QAbstractItemModelTester(proxy->sourceModel(), Fatal::Fatal, proxy);
+    }
+  }
+  template <class Widget>
+  Widget& find(const char* name) const {
+    auto* found = window->findChild<Widget*>(QLatin1String(name));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  FrozenTableView& table(int view) const {
+    return find<FrozenTableView>(view == 0 ? "lvwSTAT(0)" : "lvwSTAT(1)");
+  }
+  QTableView& events() const { return find<QTableView>("lvwEVENT"); }
+  QTimer& timer() const { return find<QTimer>("TimerCoach"); }
+  QLabel& notice() const { return find<QLabel>("lblNOTICE"); }
+  std::size_t marks() const { return find<CourtView>("courtstat").marks().size(); }
+
+  static QString cell(const QTableView& view, int row, int column) {
+    return view.model()->index(row, column).data().toString();
+  }
+  static int rowOf(const QTableView& view, const char* number) {
+    for (int row = 0; row < view.model()->rowCount(); ++row) {
+      if (cell(view, row, 0) == QLatin1String(number))
+        return row;
+    }
+    return -1;
+  }
+  static Qt::CheckState check(const QTableView& view, int row) {
+    return static_cast<Qt::CheckState>(view.model()->index(row, 0).data(Qt::CheckStateRole).toInt());
+  }
+  static void setCheck(const QTableView& view, int row, Qt::CheckState state) {
+    view.model()->setData(view.model()->index(row, 0), state, Qt::CheckStateRole);
+  }
+  // The store trusts a file's stamp only some time after its last change; so does the refresh.
+  void settleFile() const {
+    fs::last_write_time(game.file.path(), fs::file_time_type::clock::now() - std::chrono::seconds(10));
+  }
+  void tick() const { emit timer().timeout({}); }
+
+  ViewedGame game;
+  Texts texts;
+  Settings settings{game.store, game.folder.path()};
+  std::unique_ptr<frmVIEW> window;
+};
+
+TEST_F(ScorecardWindowTest, ShowsTheGameAsItIs) {
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("LYNX 4 - 3 PUMA"));
+  EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("4"));
+  EXPECT_EQ(find<QLabel>("lblPOINTS(1,1)").text(), QStringLiteral("3"));
+  EXPECT_EQ(find<QLabel>("lblFOULS(0,1)").text(), QStringLiteral("2"));
+  EXPECT_EQ(find<QLabel>("lblLEAD(0)").text(), QStringLiteral("00:20"));
+  EXPECT_EQ(find<QLabel>("lbltemps").text(), QStringLiteral("09:00"));
+  EXPECT_EQ(find<QLineEdit>("txtENDROIT").text(), QStringLiteral("Main gym"));
+  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(1252)));
+  EXPECT_EQ(find<QLineEdit>("txtBONUSAPRES").text(), QStringLiteral("2"));
+  EXPECT_EQ(find<QComboBox>("cmbTEAM").count(), 2);
+
+  ASSERT_EQ(table(0).model()->rowCount(), 5);
+  EXPECT_EQ(cell(table(0), 0, 0), QStringLiteral("4")) << "the roster's order, not a sort";
+  EXPECT_EQ(cell(table(0), 4, kPoints), QStringLiteral("4"));
+  EXPECT_TRUE(table(0).isVisible());
+  EXPECT_FALSE(table(1).isVisible());
+  EXPECT_EQ(marks(), 3U);
+  find<QComboBox>("cmbTEAM").setCurrentIndex(1);
+  EXPECT_EQ(table(0).model()->rowCount(), 3);
+  EXPECT_EQ(marks(), 1U);
+}
+
+TEST_F(ScorecardWindowTest, TheColumnsStandInTheirDisplayOrder) {
+  const QHeaderView& header = *table(0).horizontalHeader();
+  for (int place = 0; place < kBoxColumnCount; ++place)
+    EXPECT_EQ(header.logicalIndex(place), boxDisplayOrder()[static_cast<std::size_t>(place)] - 1) << place;
+  EXPECT_TRUE(table(0).isColumnHidden(kTimeSortColumn - 1));
+  EXPECT_FALSE(table(0).isColumnHidden(kFieldGoalsMade));
+  window->setHidesMadeAttempted(true);
+  EXPECT_TRUE(table(0).isColumnHidden(kFieldGoalsMade));
+  EXPECT_FALSE(table(0).isColumnHidden(kPoints));
+  window->setByLine(true);
+  EXPECT_TRUE(table(1).isVisible());
+  EXPECT_TRUE(table(1).isColumnHidden(kFieldGoalsMade)) << "both tables";
+  window->setHidesMadeAttempted(false);
+  EXPECT_FALSE(table(1).isColumnHidden(kFieldGoalsMade));
+}
+
+TEST_F(ScorecardWindowTest, TheTotalStaysLastWhateverTheSort) {
+  for (const int view : {0, 1}) {
+    window->setByLine(view == 1);
+    const QAbstractItemModel& rows = *table(view).model();
+    const int last = rows.rowCount() - 1;
+    for (int column = 0; column < kBoxColumnCount; ++column) {
+      for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+        table(view).sortByColumn(column, order);
+        EXPECT_TRUE(rows.index(last, 0).data(BoxScoreModel::TotalRole).toBool())
+            << view << ' ' << column << ' ' << order;
+        for (int row = 1; row < last && !boxColumnIsText(column + 1); ++row) {
+          const double before = rows.index(row - 1, column).data(BoxScoreModel::SortRole).toDouble();
+          const double after = rows.index(row, column).data(BoxScoreModel::SortRole).toDouble();
+          EXPECT_TRUE(order == Qt::AscendingOrder ? before <= after : before >= after)
+              << view << ' ' << column;
+        }
+      }
+    }
+    table(view).clearSort();
+    EXPECT_EQ(cell(table(view), 0, 0), view == 0 ? QStringLiteral("4") : QStringLiteral("1"));
+  }
+}
+
+TEST_F(ScorecardWindowTest, AClickOnTheFrozenHeaderSorts) {
+  auto* frozen = table(0).findChild<QTableView*>(QStringLiteral("frozen"));
+  const QHeaderView& header = *frozen->horizontalHeader();
+  const QPoint name(header.sectionViewportPosition(1) + 20, header.height() / 2);
+  QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, name);
+  EXPECT_EQ(table(0).horizontalHeader()->sortIndicatorSection(), 1);
+  EXPECT_EQ(cell(table(0), 0, 1), QStringLiteral("Ann Able"));
+  QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, name);
+  EXPECT_EQ(cell(table(0), 0, 1), QStringLiteral("Dana Dunn"));
+}
+
+TEST_F(ScorecardWindowTest, NumberAndNameStayInSightWhileTheRestScrolls) {
+  window->resize(900, 640);
+  auto* frozen = table(0).findChild<QTableView*>(QStringLiteral("frozen"));
+  table(0).horizontalScrollBar()->setValue(table(0).horizontalScrollBar()->maximum());
+  ASSERT_GT(table(0).horizontalScrollBar()->value(), 0);
+  EXPECT_LT(table(0).columnViewportPosition(1), 0);
+  EXPECT_EQ(frozen->columnViewportPosition(0), 0);
+  EXPECT_TRUE(frozen->isColumnHidden(2));
+  EXPECT_TRUE(frozen->isAncestorOf(table(0).childAt(20, 10))) << "its header lies over the scrolled one";
+  EXPECT_EQ(frozen->rowViewportPosition(2), table(0).rowViewportPosition(2));
+  // Going left by key brings a column to the right of the frozen ones.
+  table(0).setFocus();
+  table(0).setCurrentIndex(table(0).model()->index(0, 42));
+  table(0).setCurrentIndex(table(0).model()->index(0, 2));
+  QTest::keyClick(&table(0), Qt::Key_Right);
+  EXPECT_GE(table(0).visualRect(table(0).currentIndex()).left(), frozen->width());
+}
+
+TEST_F(ScorecardWindowTest, CheckMarksChangeTheChart) {
+  setCheck(table(0), rowOf(table(0), "12"), Qt::Unchecked);
+  EXPECT_EQ(marks(), 2U);
+  EXPECT_EQ(cell(table(0), 4, kPoints), QStringLiteral("2"));
+  EXPECT_EQ(check(table(0), 4), Qt::PartiallyChecked);
+  find<QToolButton>("cmdALL").click();
+  EXPECT_EQ(marks(), 3U);
+  EXPECT_EQ(cell(table(0), 4, kPoints), QStringLiteral("4"));
+  find<QToolButton>("cmdSELECTED").click();
+  EXPECT_EQ(marks(), 2U);
+  setCheck(table(0), 4, Qt::Checked);
+  EXPECT_EQ(check(table(0), rowOf(table(0), "12")), Qt::Checked);
+  EXPECT_EQ(marks(), 3U);
+
+  // By key: the rows that are selected.
+  table(0).setFocus();
+  table(0).setCurrentIndex(table(0).model()->index(0, kPoints));
+  QTest::keyClick(&table(0), Qt::Key_Down, Qt::ShiftModifier);
+  QTest::keyClick(&table(0), Qt::Key_Space);
+  EXPECT_EQ(check(table(0), 0), Qt::Unchecked);
+  EXPECT_EQ(check(table(0), 1), Qt::Unchecked);
+  EXPECT_EQ(marks(), 1U);
+
+  window->setByLine(true);
+  EXPECT_EQ(marks(), 3U) << "lines have marks of their own";
+  setCheck(table(1), 0, Qt::Unchecked);
+  EXPECT_EQ(marks(), 1U);
+}
+
+TEST_F(ScorecardWindowTest, AMouseClickOnAFrozenCheckBoxTurnsTheMark) {
+  auto* frozen = table(0).findChild<QTableView*>(QStringLiteral("frozen"));
+  const QRect first = frozen->visualRect(frozen->model()->index(0, 0));
+  QTest::mouseClick(frozen->viewport(), Qt::LeftButton, {}, {first.left() + 10, first.center().y()});
+  EXPECT_EQ(check(table(0), 0), Qt::Unchecked);
+  EXPECT_EQ(marks(), 2U);
+}
+
+TEST_F(ScorecardWindowTest, ARefreshKeepsSelectionSortScrollAndChecks) {
+  for (int clock = 539; clock > 480; --clock)
+    game.add(1, clock, {",STO,0-4"});
+  window->refresh();
+  window->resize(900, 560);
+  table(0).sortByColumn(kPoints, Qt::DescendingOrder);
+  setCheck(table(0), rowOf(table(0), "5"), Qt::Unchecked);
+  table(0).selectRow(rowOf(table(0), "12"));
+  table(0).horizontalScrollBar()->setValue(200);
+  events().selectRow(5);
+  events().verticalScrollBar()->setValue(40);
+  QSignalSpy resets(table(0).model(), &QAbstractItemModel::modelReset);
+  QSignalSpy eventResets(events().model(), &QAbstractItemModel::modelReset);
+  const QString chosen = cell(events(), 5, EventListModel::Action);
+
+  game.add(1, 470, {",GF3,0-12,110,90", ",GF3,0-99,110,90"});
+  window->refresh();
+  EXPECT_EQ(table(0).model()->rowCount(), 6) << "the jersey of nobody is among the others";
+  EXPECT_EQ(resets.count() + eventResets.count(), 0);
+  EXPECT_EQ(cell(table(0), 0, 0), QStringLiteral("12"));
+  EXPECT_EQ(cell(table(0), 0, kPoints), QStringLiteral("5"));
+  ASSERT_EQ(table(0).selectionModel()->selectedRows().size(), 1);
+  EXPECT_EQ(table(0).selectionModel()->selectedRows()[0].row(), 0);
+  EXPECT_EQ(check(table(0), rowOf(table(0), "5")), Qt::Unchecked);
+  EXPECT_EQ(table(0).horizontalScrollBar()->value(), 200);
+  EXPECT_EQ(events().verticalScrollBar()->value(), 40);
+  EXPECT_EQ(events().currentIndex().row(), 5);
+  EXPECT_EQ(cell(events(), 5, EventListModel::Action), chosen);
+
+  // Whoever looks at the end goes on looking at the end.
+  events().scrollToBottom();
+  game.add(1, 460, {",STO,0-4", ",STO,0-4", ",STO,0-4"});
+  window->refresh();
+  EXPECT_EQ(events().verticalScrollBar()->value(), events().verticalScrollBar()->maximum());
+}
+
+TEST_F(ScorecardWindowTest, TheEventListFollowsEveryKindOfChange) {
+  const int count = events().model()->rowCount();
+  EXPECT_EQ(cell(events(), 3, EventListModel::Score), QStringLiteral("2-0"));
+  EXPECT_EQ(cell(events(), 4, EventListModel::Score), QString()) << "a miss changes no score";
+  EXPECT_EQ(cell(events(), 3, EventListModel::Clock), QStringLiteral("09:50"));
+  events().setCurrentIndex(events().model()->index(6, 0)); // the assist
+  const QString chosen = cell(events(), 6, EventListModel::Action);
+
+  ASSERT_EQ(game.file.setDeleted({{1, "4"}}, true), GameFileProblem::None);
+  window->refresh();
+  EXPECT_EQ(events().model()->rowCount(), count);
+  EXPECT_TRUE(
+      events().model()->index(3, EventListModel::Action).data(Qt::FontRole).value<QFont>().strikeOut());
+  EXPECT_EQ(cell(events(), 5, EventListModel::Score), QStringLiteral("0-3"));
+  EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("2"));
+
+  ASSERT_EQ(game.file.insertBefore(1, "5", 585, game.file.nextNumber(), ",STO,0-4"), GameFileProblem::None);
+  window->refresh();
+  EXPECT_EQ(events().model()->rowCount(), count + 1);
+  EXPECT_EQ(events().currentIndex().row(), 7) << "moved on with its event";
+  EXPECT_EQ(cell(events(), 7, EventListModel::Action), chosen);
+
+  find<QLineEdit>("txtSEARCH").setText(QStringLiteral("cleo"));
+  EXPECT_GT(events().model()->rowCount(), 0);
+  EXPECT_LT(events().model()->rowCount(), count);
+  for (int row = 0; row < events().model()->rowCount(); ++row)
+    EXPECT_TRUE(cell(events(), row, EventListModel::Action).contains(QStringLiteral("Cleo")));
+}
+
+TEST_F(ScorecardWindowTest, AChosenShotStandsOutInTheChart) {
+  events().setCurrentIndex(events().model()->index(4, 0));
+  const auto& drawn = find<CourtView>("courtstat").marks();
+  ASSERT_EQ(drawn.size(), 3U);
+  EXPECT_FALSE(drawn[0].isHighlighted);
+  EXPECT_TRUE(drawn[1].isHighlighted);
+}
+
+TEST_F(ScorecardWindowTest, TimedModesReadAgainAndRestartTheirPeriod) {
+  QSignalSpy states(window.get(), &frmVIEW::commandStateChanged);
+  for (const Mode mode : {Mode::Every10, Mode::Every30, Mode::Every60}) {
+    window->setRefreshMode(mode);
+    EXPECT_TRUE(timer().isActive());
+    EXPECT_EQ(timer().interval(), static_cast<int>(mode) * 1000);
+  }
+  EXPECT_EQ(states.count(), 3);
+  window->setRefreshMode(Mode::Every30);
+  QTest::qWait(40);
+  window->setRefreshMode(Mode::Every30);
+  EXPECT_GT(timer().remainingTime(), 29'980) << "the same mode again starts its period anew";
+
+  game.add(1, 530, {",GFT,1-8"});
+  EXPECT_EQ(find<QLabel>("lblSCORE(1)").text(), QStringLiteral("3"));
+  tick();
+  EXPECT_EQ(find<QLabel>("lblSCORE(1)").text(), QStringLiteral("4"));
+
+  window->setRefreshMode(Mode::Manual);
+  EXPECT_FALSE(timer().isActive());
+  game.add(1, 520, {",GFT,1-8"});
+  EXPECT_EQ(find<QLabel>("lblSCORE(1)").text(), QStringLiteral("4"));
+  window->refresh();
+  EXPECT_EQ(find<QLabel>("lblSCORE(1)").text(), QStringLiteral("5"));
+}
+
+TEST_F(ScorecardWindowTest, ATickOnAnUnchangedFileDoesNothing) {
+  settleFile();
+  window->refresh();
+  QLabel& score = find<QLabel>("lblSCORE(0)");
+  score.setText(QStringLiteral("untouched"));
+  tick();
+  EXPECT_EQ(score.text(), QStringLiteral("untouched"));
+  game.add(1, 500, {",GFT,0-4"});
+  tick();
+  EXPECT_EQ(score.text(), QStringLiteral("5"));
+}
+
+TEST_F(ScorecardWindowTest, AFileThatIsGoneOrBrokenKeepsWhatWasShownAndSaysSo) {
+  const std::string path = game.file.path();
+  const std::string whole = game.folder.read("seen.GAM");
+  fs::remove(path);
+  tick();
+  EXPECT_TRUE(notice().isVisible());
+  EXPECT_EQ(notice().text(), toQt(texts.withPlaceholder(1520, "seen.GAM")));
+  EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("4"));
+  EXPECT_EQ(table(0).model()->rowCount(), 5);
+  EXPECT_EQ(marks(), 3U);
+
+  game.folder.write("seen.GAM", "not a game");
+  tick();
+  EXPECT_TRUE(notice().isVisible());
+  EXPECT_NE(notice().text(), toQt(texts.withPlaceholder(1520, "seen.GAM")));
+  EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("4"));
+  window->relabelWindow();
+  EXPECT_TRUE(notice().isVisible()) << "a language switch is no recovery";
+
+  game.folder.write("seen.GAM", whole);
+  game.add(1, 500, {",GFT,0-4"});
+  tick();
+  EXPECT_FALSE(notice().isVisible());
+  EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("5"));
+}
+
+TEST_F(ScorecardWindowTest, NothingIsShownOfAFileThatIsRefused) {
+  frmVIEW other(game.store, settings, texts);
+  EXPECT_EQ(other.open(toQt(game.folder.path("missing.GAM"))), GameFileProblem::Absent);
+  EXPECT_EQ(other.open(toQt(game.folder.write("bad.GAM", "[DETAILS]\r\nVERSION=1.0\r\n"))),
+            GameFileProblem::InvalidFormat);
+  EXPECT_TRUE(other.path().isEmpty());
+  other.refresh();
+  other.setByLine(true);
+  other.relabelWindow();
+  EXPECT_EQ(other.findChild<QTableView*>(QStringLiteral("lvwSTAT(0)"))->model()->rowCount(), 0);
+}
+
+TEST_F(ScorecardWindowTest, AnotherLanguageChangesThreeHeadersAndTheWords) {
+  const QAbstractItemModel& rows = *table(0).model();
+  const auto headers = [&] {
+    QStringList result;
+    for (int column = 0; column < kBoxColumnCount; ++column)
+      result << rows.headerData(column, Qt::Horizontal).toString();
+    return result;
+  };
+  const QStringList english = headers();
+  const QString foul = cell(events(), 7, EventListModel::Action);
+  const QString hint = rows.headerData(kFieldGoalsMade, Qt::Horizontal, Qt::ToolTipRole).toString();
+  EXPECT_TRUE(
+      rows.headerData(30, Qt::Horizontal, Qt::ToolTipRole).toString().contains(QStringLiteral("Charges")));
+  texts.setLanguage(Language::French);
+  window->relabelWindow();
+  const QStringList french = headers();
+  QList<int> changed;
+  for (int column = 0; column < kBoxColumnCount; ++column) {
+    if (english[column] != french[column])
+      changed << column + 1;
+  }
+  EXPECT_EQ(changed, (QList<int>{2, 3, 34}));
+  EXPECT_NE(cell(events(), 7, EventListModel::Action), foul);
+  EXPECT_NE(rows.headerData(kFieldGoalsMade, Qt::Horizontal, Qt::ToolTipRole).toString(), hint);
+  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(1252)));
+}
+
+TEST_F(ScorecardWindowTest, CopiesTheColumnsThatAreShownInTheirOrder) {
+  QSignalSpy reports(window.get(), &frmVIEW::reported);
+  window->setHidesMadeAttempted(true);
+  table(0).setFocus();
+  QTest::keyClick(&table(0), Qt::Key_C, Qt::ControlModifier);
+  const QStringList lines = QApplication::clipboard()->text().split(u'\n');
+  ASSERT_EQ(lines.size(), 7) << "headers, five rows, the end of the last line";
+  const QStringList header = lines[0].split(u'\t');
+  EXPECT_EQ(header.size(), 31);
+  EXPECT_EQ(header[0], QStringLiteral("No"));
+  EXPECT_EQ(header[2], QStringLiteral("Pos"));
+  EXPECT_FALSE(header.contains(QStringLiteral("FGM")));
+  EXPECT_EQ(lines[1].split(u'\t')[1], QStringLiteral("Ann Able"));
+  EXPECT_EQ(reports.count(), 1);
+
+  table(0).selectAll();
+  table(0).selectionModel()->select(table(0).model()->index(0, 0),
+                                    QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+  EXPECT_EQ(tableText(table(0)).count(u'\n'), 5) << "headers and the four selected rows";
+}
+
+// What no program of ours writes, but what a file may hold.
+class OddGameTest : public ScorecardWindowTest {
+ protected:
+  void SetUp() override {}
+  static std::string details() {
+    return "[DETAILS]\r\nVERSION=2.0\r\nNBREPERIODE=4\r\nDUREE=10\r\nEQUIPE0ABB=A\r\nEQUIPE1ABB=B\r\nTYPE="
+           "77\r\n";
+  }
+};
+
+TEST_F(OddGameTest, TenThousandEventsHundredLinesAndTwentyPlayersOpen) {
+  std::string text = details() + "[0]\r\n";
+  for (int jersey = 10; jersey < 30; ++jersey)
+    text += std::to_string(jersey) + "=0,Player " + std::to_string(jersey) + "\r\n";
+  text += "[1]\r\n7=1,Somebody\r\n[PERIODE1]\r\n";
+  for (int event = 1; event <= 10'000; ++event) {
+    text += std::to_string(event) + "=";
+    const std::string jersey = std::to_string(10 + event % 20);
+    const std::string clock = "0" + std::to_string(9 - event / 1'200) + ":" + std::to_string(10 + event % 50);
+    switch (event % 5) {
+    case 0: text += clock + ",ARRET,IN-10-11-12-13-" + std::to_string(14 + event / 5 % 110) + ",IN-07"; break;
+    case 1: text += clock + ",GFG,0-" + jersey + ",900,-4"; break;
+    case 2: text += clock + ",XYZ,0-" + jersey; break;
+    case 3: text += "E" + clock + ",SPF,0-" + jersey; break;
+    default: text += "what is this?"; break;
+    }
+    text += "\r\n";
+  }
+  show(game.folder.write("odd.GAM", text));
+  EXPECT_EQ(events().model()->rowCount(), 10'000);
+  EXPECT_EQ(table(0).model()->rowCount(), 17) << "fifteen, the others, the total";
+  window->setByLine(true);
+  EXPECT_EQ(table(1).model()->rowCount(), 102) << "a hundred lines, the others, the total";
+  EXPECT_TRUE(cell(events(), 3, EventListModel::Action).contains(QStringLiteral("what is this?")));
+  find<QLineEdit>("txtSEARCH").setText(QStringLiteral("what is"));
+  EXPECT_EQ(events().model()->rowCount(), 2'000);
+  window->grab();
+}
+
+TEST_F(OddGameTest, AGameWithoutAnythingOpens) {
+  show(game.folder.write("empty.GAM", details()));
+  watchModels();
+  EXPECT_EQ(events().model()->rowCount(), 0);
+  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(1269)));
+  window->setByLine(true);
+  EXPECT_EQ(table(1).model()->rowCount(), 1);
+  window->grab();
+}
+
+TEST_F(OddGameTest, ACountThatLeftItsRangeIsNamed) {
+  std::string text = details() + "[0]\r\n4=0,Ann Able\r\n[1]\r\n7=1,Somebody\r\n[PERIODE1]\r\n";
+  for (int event = 1; event <= 33'000; ++event)
+    text += std::to_string(event) + "=09:00,STO,0-4\r\n";
+  show(game.folder.write("long.GAM", text));
+  EXPECT_TRUE(notice().isVisible());
+  EXPECT_TRUE(notice().text().contains(QStringLiteral("long.GAM")));
+  EXPECT_TRUE(notice().text().contains(QStringLiteral("TO")));
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,113 @@
+// Which shots a chart shows, and that the sums by zone agree with the box score.
+#include "scorecard/ShotChart.h"
+
+#include "scorecard/Scorecard.h"
+#include "support/SharedGames.h"
+#include "support/TextGame.h"
+
+#include <gtest/gtest.h>
+
+using namespace hooptab;
+using court::ChartZone;
+
+namespace {
+
+Shot shotAt(float x, float y, bool isThree) {
+  Shot shot;
+  shot.isThree = isThree;
+  shot.isMade = true;
+  shot.hasPlace = true;
+  shot.x = x;
+  shot.y = y;
+  return shot;
+}
+
+ZoneSum sumOf(const ShotSums& sums, bool three) {
+  ZoneSum sum;
+  for (std::size_t zone = 0; zone < sums.zones.size(); ++zone) {
+    if (isThreePointZone(static_cast<ChartZone>(zone)) != three)
+      continue;
+    sum.made += sums.zones[zone].made;
+    sum.attempted += sums.zones[zone].attempted;
+  }
+  return sum;
+}
+
+TEST(ShotSelection, TakesTheTeamsShotsOfTheChosenPlayersOrLines) {
+  const Game game =
+      gameOfText(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n"
+                            "2=09:00,GFG,0-4,30,100\n3=08:50,GFGA,0-5,40,90\n4=08:40,GF3,1-7,115,100\n"
+                            "5=08:00,ARRET,IN-00-04-05-10-12,IN-03-07-08-11-22\n6=07:00,GF3A,0-4\n"
+                            "7=06:50,GFT,0-4\nE8=x\n9=E06:40,GFG,0-4,30,100\n"));
+  const GameState state = tallied(game);
+  const auto eventsOf = [&](const ShotSelection& selection) {
+    std::vector<std::uint32_t> events;
+    for (const Shot& shot : selectedShots(state, selection))
+      events.push_back(shot.eventIndex);
+    return events;
+  };
+  using Events = std::vector<std::uint32_t>;
+  EXPECT_EQ(eventsOf({0, BoxView::Players, true, {}}), (Events{1, 2, 5}));
+  EXPECT_EQ(eventsOf({1, BoxView::Players, true, {}}), (Events{3}));
+  EXPECT_EQ(eventsOf({0, BoxView::Players, false, {1}}), (Events{1, 5}));
+  EXPECT_EQ(eventsOf({0, BoxView::Players, false, {}}), Events{});
+  EXPECT_EQ(eventsOf({0, BoxView::Lines, false, {1}}), (Events{1, 2}));
+  EXPECT_EQ(eventsOf({0, BoxView::Lines, false, {2}}), (Events{5}));
+}
+
+TEST(ShotSums, CountAShotOfTheOtherKindInTheNearestZoneOfItsOwn) {
+  const auto y = static_cast<float>(court::kBasketY);
+  struct Case {
+    Shot shot;
+    ChartZone zone;
+  };
+  const Case cases[] = {
+      {shotAt(21, y, false), ChartZone::UnderBasket},
+      {shotAt(118, y, true), ChartZone::Top},
+      {shotAt(118, y, false), ChartZone::MidRangeCentre}, // just outside the line, said to be two
+      {shotAt(104, y, true), ChartZone::Top},             // just inside, said to be three
+      {shotAt(500, -50, true), court::chartZone(court::atEdge({500, -50}))},
+  };
+  for (const Case& each : cases) {
+    const ShotSums sums = shotSums({each.shot});
+    EXPECT_EQ(sums.zones[static_cast<std::size_t>(each.zone)].made, 1) << each.shot.x << ',' << each.shot.y;
+    EXPECT_EQ(sumOf(sums, each.shot.isThree).attempted, 1);
+  }
+  // Both corners: a three from just inside the straight line belongs to the corner on its side, not to the
+  // top.
+  const ShotSums low = shotSums({shotAt(10, 14, true)});
+  const ShotSums high = shotSums({shotAt(10, static_cast<float>(court::kWidth) - 14, true)});
+  EXPECT_EQ(low.zones[static_cast<std::size_t>(court::chartZone({10, 5}))].made, 1);
+  EXPECT_EQ(high.zones[static_cast<std::size_t>(court::chartZone({10, court::kWidth - 5}))].made, 1);
+  EXPECT_NE(court::chartZone({10, 5}), court::chartZone({10, court::kWidth - 5}));
+
+  Shot keypad = shotAt(0, 0, true);
+  keypad.hasPlace = false;
+  EXPECT_EQ(shotSums({keypad}).withoutPlace.attempted, 1);
+  EXPECT_EQ(sumOf(shotSums({keypad}), true).attempted, 0);
+}
+
+TEST(ShotSums, AgreeWithTheBoxScoreOfRealGames) {
+  if (sharedGames().empty())
+    GTEST_SKIP() << "the folder of real games is missing: " << sharedFolder();
+  FileSystem files;
+  cinifile store(files);
+  for (const auto& path : sharedGames()) {
+    Scorecard card(store, path.string());
+    ASSERT_EQ(card.load(), GameFileProblem::None) << path;
+    for (int team = 0; team < 2; ++team) {
+      SCOPED_TRACE(path.filename().string() + " team " + std::to_string(team));
+      const BoxNumbers total =
+          boxRows(card.game(), card.state(), team, BoxView::Players, Texts()).back().numbers;
+      const ShotSums sums = shotSums(selectedShots(card.state(), {team, BoxView::Players, true, {}}));
+      EXPECT_EQ(sums.withoutPlace.attempted, 0);
+      EXPECT_EQ(sumOf(sums, false).made, total.counters[Counter::FGM]);
+      EXPECT_EQ(sumOf(sums, false).attempted, total.counters[Counter::FGA]);
+      EXPECT_EQ(sumOf(sums, true).made, total.counters[Counter::F3M]);
+      EXPECT_EQ(sumOf(sums, true).attempted, total.counters[Counter::F3A]);
+      EXPECT_EQ(total.points(), card.state().points(team));
+    }
+  }
+}
+
+} // namespace

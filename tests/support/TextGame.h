@@ -1,0 +1,32 @@
+// A game from the text of its file, without a file: for tests of what is made of a game.
+#pragma once
+
+#include "storage/GameFile.h"
+#include "storage/Tally.h"
+
+#include <string>
+
+namespace hooptab {
+
+// Two teams, PAN with seven players and OLY with five, and the periods given ("[PERIODE1]\n1=...").
+inline std::string textOfGame(const std::string& periods, const std::string& details = {}) {
+  return "[DETAILS]\nVERSION=2.0\nEQUIPE0ABB=PAN\nEQUIPE1ABB=OLY\nNBREPERIODE=4\nDUREE=10\n" + details +
+         "[0]\n4=0,Ann Able\n5=1,Bea Baker\n10=2,Cleo Carter\n12=9,Dana Dunn\n15=0,Eve Ellis\n0=1,Fay "
+         "Ford\n00=2,Gia Grant\n"
+         "[1]\n3=0,Hana Hart\n7=1,Ida Ivers\n8=2,Jo Jones\n11=9,Kim Knox\n22=0,Lea Lang\n" +
+         periods;
+}
+
+inline Game gameOfText(const std::string& text) {
+  Game game;
+  readGame(ProfileText(text), game);
+  return game;
+}
+
+inline GameState tallied(const Game& game) {
+  GameState state;
+  (void)Tally::run(state, game.events, game.roster[0], game.roster[1]);
+  return state;
+}
+
+} // namespace hooptab
