@@ -10,9 +10,6 @@ namespace hooptab::court {
 namespace {
 
 constexpr double kHalfLine = 0.5; // a place this near to a line lies on it
-constexpr double kMidRangeCentreDegrees =
-    30; // either side of the axis: the width of the free-throw line, seen from the basket
-constexpr double kTopDegrees = 25;
 
 double distanceFromBasket(Place place) {
   return std::hypot(place.x - kBasketX, place.y - kBasketY);
@@ -73,7 +70,8 @@ ColourZone zoneBesideLines(Place place) {
   return isInBox(place) ? ColourZone::Box : ColourZone::TwoPoints;
 }
 
-ChartZone chartZone(Place place) {
+ChartZone chartZone(Place anyPlace) {
+  const Place place = atEdge(anyPlace);
   const double degrees = degreesOffAxis(place);
   const bool isLeft = place.y > kBasketY;
   if (isBeyondThreePointLine(place)) {
@@ -106,12 +104,12 @@ Place chartZoneLabel(ChartZone zone) {
       {kBasketX, kBasketY},
       {57, kBasketY},
       {34, 161},
-      {93, kBasketY},
+      {91, kBasketY},
       {34, 39},
       {16, 193},
-      {84, 176},
-      {118, kBasketY},
-      {84, 24},
+      {98, 177},
+      {117.5, kBasketY},
+      {98, 23},
       {16, 7},
   }};
   return kLabels[static_cast<std::size_t>(zone)];

@@ -62,6 +62,11 @@ enum class ChartZone : std::uint8_t {
   RightCorner,
 };
 inline constexpr int kChartZoneCount = 10;
+// Half the angle, seen from the basket, of the zones in the middle: the first that of the box's end, so that
+// its corners point at the borders.
+inline constexpr double kMidRangeCentreDegrees = 30;
+inline constexpr double kTopDegrees = 25;
+// A place outside the picture counts where it is drawn, at the edge.
 [[nodiscard]] ChartZone chartZone(Place place);
 [[nodiscard]] bool isThreePointZone(ChartZone zone);
 [[nodiscard]] int chartZoneText(ChartZone zone);    // number of its name

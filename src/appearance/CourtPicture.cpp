@@ -1,6 +1,9 @@
 #include "appearance/CourtPicture.h"
 
+#include "appearance/Theme.h"
+
 #include <QFontMetricsF>
+#include <QPaintDevice>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -14,10 +17,17 @@ namespace {
 
 using namespace court;
 
-// On paper and on every court colour alike; the shapes differ too, so that no colour is needed to read them.
-constexpr QColor kMadeColour(0x0B, 0x72, 0x38);
-constexpr QColor kMissedColour(0xC4, 0x16, 0x10);
+// On paper and on every court colour alike. Green is much darker than red, for whoever cannot tell the two
+// apart; the shapes differ too, so that no colour is needed to read them.
+constexpr QColor kMadeColour(0x07, 0x54, 0x2A);
+constexpr QColor kMissedColour(0xDB, 0x2B, 0x1F);
+constexpr QColor kOutlineColour(0xFF, 0xFF, 0xFF);
+constexpr QColor kRimColour(0xC2, 0x41, 0x0C);
 constexpr QColor kTintColour(0xC2, 0x41, 0x0C);
+constexpr QColor kPlateColour(0xFF, 0xFF, 0xFF, 0xE8);
+constexpr QColor kPlateTextColour(0x1D, 0x1B, 0x18);
+constexpr QColor kDarkLine(0x24, 0x22, 0x20);
+constexpr QColor kLightLine(0xF4, 0xF2, 0xEE);
 
 QRectF courtRect() {
   return {0, 0, kLength, kWidth};
@@ -27,6 +37,10 @@ QRectF boxRect() {
 }
 QRectF aroundBasket(double radius) {
   return {kBasketX - radius, kBasketY - radius, radius * 2, radius * 2};
+}
+QPointF fromBasket(double distance, double degrees) {
+  const double angle = degrees * std::numbers::pi / 180;
+  return {kBasketX + distance * std::cos(angle), kBasketY + distance * std::sin(angle)};
 }
 
 QPainterPath pathOf(const QRectF& rect) {
@@ -49,16 +63,14 @@ QPainterPath insideThreePointLine() {
 
 // What lies within so many degrees of the axis through the basket.
 QPainterPath wedge(double degrees) {
-  const double reach = kLength * 2;
-  const double across = reach * std::tan(degrees * std::numbers::pi / 180);
   QPainterPath path(QPointF(kBasketX, kBasketY));
-  path.lineTo(kBasketX + reach, kBasketY - across);
-  path.lineTo(kBasketX + reach, kBasketY + across);
+  path.lineTo(fromBasket(kLength * 2, -degrees));
+  path.lineTo(fromBasket(kLength * 2, degrees));
   path.closeSubpath();
   return path;
 }
 
-// The outlines of the chart's zones, by the same borders as court::chartZone.
+// The areas of the chart's zones, by the same borders as court::chartZone.
 const std::array<QPainterPath, kChartZoneCount>& zonePaths() {
   static const auto paths = [] {
     const QPainterPath two = insideThreePointLine();
@@ -66,13 +78,15 @@ const std::array<QPainterPath, kChartZoneCount>& zonePaths() {
     const QPainterPath box = pathOf(boxRect());
     const QPainterPath left = pathOf({0, kBasketY, kLength, kWidth - kBasketY});
     const QPainterPath right = pathOf({0, 0, kLength, kBasketY});
-    const QPainterPath corners = pathOf({0, 0, threePointCornerX(), kWidth});
+    const QPainterPath leftCorner =
+        pathOf({0, kWidth - kThreePointSideY, threePointCornerX(), kThreePointSideY});
+    const QPainterPath rightCorner = pathOf({0, 0, threePointCornerX(), kThreePointSideY});
     QPainterPath underBasket;
     underBasket.addEllipse(aroundBasket(kNoChargeRadius));
     const QPainterPath middle = two.subtracted(box);
-    const QPainterPath middleSides = middle.subtracted(wedge(30));
-    const QPainterPath outside = three.subtracted(corners);
-    const QPainterPath wings = outside.subtracted(wedge(25));
+    const QPainterPath middleSides = middle.subtracted(wedge(kMidRangeCentreDegrees));
+    const QPainterPath outside = three.subtracted(leftCorner).subtracted(rightCorner);
+    const QPainterPath wings = outside.subtracted(wedge(kTopDegrees));
 
     std::array<QPainterPath, kChartZoneCount> zones;
     const auto zone = [&](ChartZone which) -> QPainterPath& {
@@ -81,20 +95,116 @@ const std::array<QPainterPath, kChartZoneCount>& zonePaths() {
     zone(ChartZone::UnderBasket) = underBasket;
     zone(ChartZone::Paint) = box.subtracted(underBasket);
     zone(ChartZone::MidRangeLeft) = middleSides.intersected(left);
-    zone(ChartZone::MidRangeCentre) = middle.intersected(wedge(30));
+    zone(ChartZone::MidRangeCentre) = middle.intersected(wedge(kMidRangeCentreDegrees));
     zone(ChartZone::MidRangeRight) = middleSides.intersected(right);
-    zone(ChartZone::LeftCorner) = three.intersected(corners).intersected(left);
+    zone(ChartZone::LeftCorner) = leftCorner;
     zone(ChartZone::LeftWing) = wings.intersected(left);
-    zone(ChartZone::Top) = outside.intersected(wedge(25));
+    zone(ChartZone::Top) = outside.intersected(wedge(kTopDegrees));
     zone(ChartZone::RightWing) = wings.intersected(right);
-    zone(ChartZone::RightCorner) = three.intersected(corners).intersected(right);
+    zone(ChartZone::RightCorner) = rightCorner;
     return zones;
   }();
   return paths;
 }
 
+// The borders of zones where the court has no line of its own.
+void drawZoneBorders(QPainter& painter) {
+  painter.drawEllipse(aroundBasket(kNoChargeRadius));
+  const double corner = threePointCornerX();
+  painter.drawLine(QPointF(corner, 0), QPointF(corner, kThreePointSideY));
+  painter.drawLine(QPointF(corner, kWidth - kThreePointSideY), QPointF(corner, kWidth));
+  for (const double side : {-1.0, 1.0}) {
+    const double toBoxEnd =
+        (kBoxLength - kBasketX) / std::cos(kMidRangeCentreDegrees * std::numbers::pi / 180);
+    painter.drawLine(fromBasket(toBoxEnd, side * kMidRangeCentreDegrees),
+                     fromBasket(kThreePointRadius, side * kMidRangeCentreDegrees));
+    painter.drawLine(fromBasket(kThreePointRadius, side * kTopDegrees),
+                     fromBasket(kLength * 2, side * kTopDegrees));
+  }
+}
+
+// Device units of one court unit.
 double scaleOf(const QRectF& fitted, CourtPicture::Turn turn) {
   return fitted.width() / (turn == CourtPicture::Turn::BaselineLeft ? kLength : kWidth);
+}
+
+// Device units of one pixel of a common screen: sizes that the eye asks for are the same on paper.
+double pixelOf(const QPainter& painter) {
+  constexpr double kScreenDpi = 96;
+  return painter.device() == nullptr ? 1 : std::max(1.0, painter.device()->logicalDpiX() / kScreenDpi);
+}
+
+void paintMark(QPainter& painter, const QPointF& centre, double radius, const CourtMark& mark) {
+  const double line = radius * 0.55;
+  if (mark.isHighlighted) { // a ring that no other mark has
+    painter.setBrush(kOutlineColour);
+    painter.setPen(QPen(kDarkLine, line * 0.6));
+    painter.drawEllipse(centre, radius * 1.75, radius * 1.75);
+  }
+  if (mark.isMade) {
+    painter.setPen(QPen(kOutlineColour, line * 0.6));
+    painter.setBrush(kMadeColour);
+    painter.drawEllipse(centre, radius, radius);
+    return;
+  }
+  const double arm = radius * 0.9;
+  for (const QPen& pen : {QPen(kOutlineColour, line * 2.1, Qt::SolidLine, Qt::RoundCap),
+                          QPen(kMissedColour, line, Qt::SolidLine, Qt::RoundCap)}) {
+    painter.setPen(pen);
+    painter.drawLine(centre - QPointF(arm, arm), centre + QPointF(arm, arm));
+    painter.drawLine(centre - QPointF(arm, -arm), centre + QPointF(arm, -arm));
+  }
+}
+
+// Where the texts of the zones stand, each on a plate of its own inside the picture.
+struct Plates {
+  QFont upperFont, lowerFont;
+  double upperHeight = 0;
+  std::vector<QRectF> plates;
+
+  [[nodiscard]] bool overlap() const {
+    for (std::size_t i = 0; i < plates.size(); ++i) {
+      for (std::size_t other = 0; other < i; ++other) {
+        if (plates[i].intersects(plates[other]))
+          return true;
+      }
+    }
+    return false;
+  }
+};
+
+Plates layOut(const QPainter& painter, const QRectF& fitted, CourtPicture::Turn turn,
+              const std::vector<CourtZoneText>& zones, bool withLower) {
+  const double pixel = pixelOf(painter);
+  const double scale = scaleOf(fitted, turn);
+  const QTransform transform = CourtPicture::fromCourt(fitted, turn);
+  constexpr double kFontUnits = 5;
+  Plates result;
+  result.lowerFont = painter.font();
+  result.lowerFont.setPixelSize(
+      static_cast<int>(std::lround(std::clamp(scale * kFontUnits, 8 * pixel, 22 * pixel))));
+  result.upperFont = result.lowerFont;
+  result.upperFont.setBold(true);
+  const QFontMetricsF upper(result.upperFont, painter.device());
+  const QFontMetricsF lower(result.lowerFont, painter.device());
+  result.upperHeight = upper.height();
+  for (const CourtZoneText& zone : zones) {
+    const bool hasLower = withLower && !zone.lower.isEmpty();
+    const double margin = upper.height() * 0.2;
+    const double width =
+        std::max(upper.horizontalAdvance(zone.upper), hasLower ? lower.horizontalAdvance(zone.lower) : 0) +
+        2 * margin;
+    const double height = upper.height() + (hasLower ? lower.height() : 0);
+    const Place label = chartZoneLabel(zone.zone);
+    QRectF plate(0, 0, width, height);
+    plate.moveCenter(transform.map(QPointF(label.x, label.y)));
+    // A zone at the side line can be narrower than its texts.
+    const QRectF room = fitted.adjusted(pixel, pixel, -pixel, -pixel);
+    plate.moveLeft(std::clamp(plate.left(), room.left(), std::max(room.left(), room.right() - width)));
+    plate.moveTop(std::clamp(plate.top(), room.top(), std::max(room.top(), room.bottom() - height)));
+    result.plates.push_back(plate);
+  }
+  return result;
 }
 
 } // namespace
@@ -113,19 +223,35 @@ QTransform CourtPicture::fromCourt(const QRectF& fitted, Turn turn) {
   return {0, scale, -scale, 0, fitted.left() + kWidth * scale, fitted.top()};
 }
 
+QColor CourtPicture::lineColour() const {
+  if (m_colours.line.isValid())
+    return m_colours.line;
+  const auto mean = [this](int (QColor::*channel)() const) {
+    return ((m_colours.twoPoints.*channel)() + (m_colours.box.*channel)() +
+            (m_colours.threePoints.*channel)()) /
+           3;
+  };
+  const QColor usual(mean(&QColor::red), mean(&QColor::green), mean(&QColor::blue));
+  return textOn(usual) == QColor(Qt::black) ? kDarkLine : kLightLine;
+}
+
 void CourtPicture::paintCourt(QPainter& painter, const QRectF& fitted, Turn turn) const {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setClipRect(fitted);
   painter.setTransform(fromCourt(fitted, turn), true);
-
   painter.fillRect(courtRect(), m_colours.threePoints);
   painter.fillPath(insideThreePointLine(), m_colours.twoPoints);
   painter.fillRect(boxRect(), m_colours.box);
+  paintLines(painter, scaleOf(fitted, turn));
+  painter.restore();
+}
 
+// Expects the painter in court units.
+void CourtPicture::paintLines(QPainter& painter, double scale) const {
   constexpr double kLineWidth = units(0.05);
-  const double width = std::max(kLineWidth, 1 / scaleOf(fitted, turn));
-  QPen pen(m_colours.line, width);
+  const double width = std::max(kLineWidth, 1 / scale);
+  QPen pen(lineColour(), width);
   pen.setCapStyle(Qt::FlatCap);
   pen.setJoinStyle(Qt::MiterJoin);
   painter.setPen(pen);
@@ -147,9 +273,9 @@ void CourtPicture::paintCourt(QPainter& painter, const QRectF& fitted, Turn turn
   painter.setPen(pen);
   painter.drawLine(QPointF(kBackboardX, kBasketY - kBackboardWidth / 2),
                    QPointF(kBackboardX, kBasketY + kBackboardWidth / 2));
-  painter.setPen(QPen(kTintColour, width * 1.4));
-  painter.drawEllipse(aroundBasket(std::max(kRimRadius, 2.0)));
-  painter.restore();
+  constexpr double kSmallestRim = 2; // pixels; the true one would be a dot in a small picture
+  painter.setPen(QPen(kRimColour, width * 1.4));
+  painter.drawEllipse(aroundBasket(std::max(kRimRadius, kSmallestRim / scale)));
 }
 
 void CourtPicture::paintMarks(QPainter& painter, const QRectF& fitted, Turn turn,
@@ -157,26 +283,14 @@ void CourtPicture::paintMarks(QPainter& painter, const QRectF& fitted, Turn turn
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   const QTransform transform = fromCourt(fitted, turn);
-  constexpr double kRadiusUnits = 2.0;
-  const double usual = std::clamp(kRadiusUnits * scaleOf(fitted, turn), 2.5, 8.0);
-  for (const CourtMark& mark : marks) {
-    const Place place = atEdge(mark.place);
-    const QPointF centre = transform.map(QPointF(place.x, place.y));
-    const double radius = mark.isHighlighted ? usual * 1.6 : usual;
-    const double line = std::max(radius * 0.5, 1.2);
-    if (mark.isMade) {
-      painter.setPen(QPen(Qt::white, line * 0.8));
-      painter.setBrush(kMadeColour);
-      painter.drawEllipse(centre, radius, radius);
-      continue;
-    }
-    const QPointF down(radius, radius);
-    const QPointF up(radius, -radius);
-    for (const QPen& pen : {QPen(Qt::white, line * 2, Qt::SolidLine, Qt::RoundCap),
-                            QPen(kMissedColour, line, Qt::SolidLine, Qt::RoundCap)}) {
-      painter.setPen(pen);
-      painter.drawLine(centre - down, centre + down);
-      painter.drawLine(centre - up, centre + up);
+  const double pixel = pixelOf(painter);
+  constexpr double kRadiusUnits = 2;
+  const double radius = std::clamp(kRadiusUnits * scaleOf(fitted, turn), 2.5 * pixel, 8 * pixel);
+  for (const bool isHighlighted : {false, true}) { // highlighted ones lie above all others
+    for (const CourtMark& mark : marks) {
+      const Place place = atEdge(mark.place);
+      if (mark.isHighlighted == isHighlighted)
+        paintMark(painter, transform.map(QPointF(place.x, place.y)), radius, mark);
     }
   }
   painter.restore();
@@ -187,47 +301,42 @@ void CourtPicture::paintZones(QPainter& painter, const QRectF& fitted, Turn turn
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setClipRect(fitted);
-  const QTransform transform = fromCourt(fitted, turn);
   const double scale = scaleOf(fitted, turn);
+
+  painter.save();
+  painter.setTransform(fromCourt(fitted, turn), true);
+  constexpr double kStrongestTint = 0.6;
   for (const CourtZoneText& zone : zones) {
     QColor tint = kTintColour;
-    tint.setAlphaF(static_cast<float>(0.55 * std::clamp(zone.strength, 0.0, 1.0)));
-    painter.setBrush(tint);
-    painter.setPen(QPen(QColor(0xFF, 0xFF, 0xFF, 0xB0), 1.2));
-    painter.drawPath(transform.map(zonePaths()[static_cast<std::size_t>(zone.zone)]));
+    tint.setAlphaF(static_cast<float>(kStrongestTint * std::clamp(zone.strength, 0.0, 1.0)));
+    painter.fillPath(zonePaths()[static_cast<std::size_t>(zone.zone)], tint);
   }
+  QColor border = lineColour();
+  border.setAlphaF(0.55F);
+  painter.setPen(QPen(border, std::max(units(0.03), 0.8 / scale), Qt::DashLine));
+  painter.setBrush(Qt::NoBrush);
+  drawZoneBorders(painter);
+  paintLines(painter, scale);
+  painter.restore();
 
-  QFont font = painter.font();
-  font.setPixelSize(std::clamp(static_cast<int>(std::lround(scale * 6)), 8, 20));
-  QFont bold = font;
-  bold.setBold(true);
-  const QFontMetricsF lowerMetrics(font);
-  const QFontMetricsF upperMetrics(bold);
-  for (const CourtZoneText& zone : zones) {
-    const Place label = chartZoneLabel(zone.zone);
-    const double height = upperMetrics.height() + (zone.lower.isEmpty() ? 0 : lowerMetrics.height());
-    const double width =
-        std::max(upperMetrics.horizontalAdvance(zone.upper), lowerMetrics.horizontalAdvance(zone.lower)) + 8;
-    QRectF plate(0, 0, width, height + 2);
-    plate.moveCenter(transform.map(QPointF(label.x, label.y)));
-    // A zone at the side line is narrower than its numbers: the plate stays inside the picture.
-    plate.moveLeft(
-        std::clamp(plate.left(), fitted.left() + 2, std::max(fitted.left() + 2, fitted.right() - width - 2)));
-    plate.moveTop(std::clamp(plate.top(), fitted.top() + 2,
-                             std::max(fitted.top() + 2, fitted.bottom() - plate.height() - 2)));
+  bool showsLower = true;
+  Plates layout = layOut(painter, fitted, turn, zones, showsLower);
+  if (layout.overlap()) {
+    showsLower = false;
+    layout = layOut(painter, fitted, turn, zones, showsLower);
+  }
+  for (std::size_t i = 0; i < zones.size(); ++i) {
+    const QRectF& plate = layout.plates[i];
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0xFF, 0xFF, 0xFF, 0xE6));
-    painter.drawRoundedRect(plate, 3, 3);
-    painter.setPen(QColor(0x1D, 0x1B, 0x18));
-    QRectF upper = plate;
-    if (!zone.lower.isEmpty())
-      upper.setHeight(upperMetrics.height() + 1);
-    painter.setFont(bold);
-    painter.drawText(upper, Qt::AlignCenter, zone.upper);
-    painter.setFont(font);
-    if (!zone.lower.isEmpty())
-      painter.drawText(QRectF(plate.left(), upper.bottom(), plate.width(), plate.bottom() - upper.bottom()),
-                       Qt::AlignCenter, zone.lower);
+    painter.setBrush(kPlateColour);
+    painter.drawRoundedRect(plate, layout.upperHeight * 0.2, layout.upperHeight * 0.2);
+    painter.setPen(kPlateTextColour);
+    painter.setFont(layout.upperFont);
+    painter.drawText(QRectF(plate.left(), plate.top(), plate.width(), layout.upperHeight), Qt::AlignCenter,
+                     zones[i].upper);
+    painter.setFont(layout.lowerFont);
+    if (showsLower)
+      painter.drawText(plate.adjusted(0, layout.upperHeight, 0, 0), Qt::AlignCenter, zones[i].lower);
   }
   painter.restore();
 }

@@ -10,20 +10,21 @@
 #include <QTransform>
 
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 namespace hooptab {
 
 struct CourtColours {
   QColor twoPoints, box, threePoints;
-  QColor line = QColor(0x20, 0x20, 0x20);
+  QColor line = {}; // not valid: dark or light, whichever stands out from the zones
+  friend bool operator==(const CourtColours&, const CourtColours&) = default;
 };
 
 struct CourtMark {
   court::Place place;
   bool isMade = false;
   bool isHighlighted = false;
+  friend bool operator==(const CourtMark&, const CourtMark&) = default;
 };
 
 struct CourtZoneText {
@@ -31,6 +32,8 @@ struct CourtZoneText {
   QString upper;       // "5/12"
   QString lower;       // "41.7%"
   double strength = 0; // 0..1, how strongly the zone is tinted
+  QString toolTip = {};
+  friend bool operator==(const CourtZoneText&, const CourtZoneText&) = default;
 };
 
 class CourtPicture {
@@ -48,10 +51,14 @@ class CourtPicture {
   // Made shots are filled circles in green, missed ones crosses in red, both with a contrasting outline.
   void paintMarks(QPainter& painter, const QRectF& fitted, Turn turn,
                   const std::vector<CourtMark>& marks) const;
+  // Each zone tinted, with its texts on a plate. Where there is no room for both texts, the upper ones alone.
   void paintZones(QPainter& painter, const QRectF& fitted, Turn turn,
                   const std::vector<CourtZoneText>& zones) const;
 
  private:
+  void paintLines(QPainter& painter, double scale) const;
+  [[nodiscard]] QColor lineColour() const;
+
   CourtColours m_colours;
 };
 

@@ -1,5 +1,6 @@
 // The half court as a widget: shot marks or zone sums, whatever its owner gives it. Decides nothing but which
-// mark the pointer is at.
+// mark the pointer is at, or which one the arrow keys have reached, and shows the tool tip that belongs to
+// it.
 #pragma once
 
 #include "appearance/CourtPicture.h"
@@ -24,7 +25,7 @@ class CourtView : public QWidget {
   void showZones();
   void setTurn(CourtPicture::Turn turn);
 
-  // The mark at a place of the widget, the nearest within reach; -1 for none.
+  // The mark at a position in the widget, the nearest within reach; -1 for none.
   [[nodiscard]] int markAt(const QPointF& position) const;
 
   QSize sizeHint() const override;
@@ -37,11 +38,15 @@ class CourtView : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void leaveEvent(QEvent* event) override;
   bool event(QEvent* event) override;
 
  private:
   [[nodiscard]] QRectF pictureRect() const;
+  [[nodiscard]] QPointF positionOf(const CourtMark& mark) const;
+  [[nodiscard]] QString toolTipAt(const QPointF& position) const;
   void setHovered(int index);
 
   CourtColours m_colours;

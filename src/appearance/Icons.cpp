@@ -55,6 +55,7 @@ class PaletteIconEngine : public QIconEngine {
     pixmap.fill(Qt::transparent);
     QSvgRenderer renderer(coloured(text, accent));
     if (renderer.isValid()) {
+      renderer.setAspectRatioMode(Qt::KeepAspectRatio);
       QPainter painter(&pixmap);
       renderer.render(&painter);
     }

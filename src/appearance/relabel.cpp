@@ -2,8 +2,10 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
+#include <QTabWidget>
 #include <QVariant>
 #include <QWidget>
 
@@ -14,6 +16,7 @@ namespace {
 constexpr const char* kTextNumber = "hooptabText";
 constexpr const char* kToolTipNumber = "hooptabToolTip";
 constexpr const char* kAccessibleNumber = "hooptabAccessible";
+constexpr const char* kTabTextNumber = "hooptabTabText";
 
 void setNumber(QObject& object, const char* name, int number) {
   object.setProperty(name, number > 0 ? QVariant(number) : QVariant());
@@ -27,38 +30,55 @@ QString withoutMnemonic(QString text) {
   return text.replace(u'&', QLatin1String("&&"));
 }
 
+QString withKey(const QString& toolTip, const QKeySequence& key) {
+  return key.isEmpty() ? toolTip
+                       : QStringLiteral("%1 (%2)").arg(toolTip, key.toString(QKeySequence::NativeText));
+}
+
 void relabelAction(QAction& action, const Texts& texts) {
   if (const int number = numberOf(action, kTextNumber))
     action.setText(withoutMnemonic(caption(texts, number)));
   if (const int number = numberOf(action, kToolTipNumber)) {
-    QString toolTip = caption(texts, number);
-    if (const QKeySequence key = action.shortcut(); !key.isEmpty())
-      toolTip += QStringLiteral(" (%1)").arg(key.toString(QKeySequence::NativeText));
-    action.setToolTip(toolTip);
-    action.setStatusTip(toolTip);
+    action.setToolTip(withKey(caption(texts, number), action.shortcut()));
+    action.setStatusTip(action.toolTip());
   }
 }
 
 void setCaption(QWidget& widget, const QString& text) {
-  if (auto* const label = qobject_cast<QLabel*>(&widget))
+  if (auto* const label = qobject_cast<QLabel*>(&widget)) {
     label->setText(label->buddy() == nullptr ? text : withoutMnemonic(text));
-  else if (auto* const button = qobject_cast<QAbstractButton*>(&widget))
+  } else if (auto* const button = qobject_cast<QAbstractButton*>(&widget)) {
+    const QKeySequence key = button->shortcut(); // which a new text would take away
     button->setText(withoutMnemonic(text));
-  else if (auto* const menu = qobject_cast<QMenu*>(&widget))
+    button->setShortcut(key);
+  } else if (auto* const menu = qobject_cast<QMenu*>(&widget)) {
     menu->setTitle(withoutMnemonic(text));
-  else if (widget.metaObject()->indexOfProperty("title") >= 0)
-    widget.setProperty("title", text);
-  else
+  } else if (auto* const group = qobject_cast<QGroupBox*>(&widget)) {
+    group->setTitle(withoutMnemonic(text));
+  } else {
     widget.setWindowTitle(text);
+  }
+}
+
+void relabelTabs(QTabWidget& tabs, const Texts& texts) {
+  for (int index = 0; index < tabs.count(); ++index) {
+    if (const int number = numberOf(*tabs.widget(index), kTabTextNumber))
+      tabs.setTabText(index, withoutMnemonic(caption(texts, number)));
+  }
 }
 
 void relabelWidget(QWidget& widget, const Texts& texts) {
   if (const int number = numberOf(widget, kTextNumber))
     setCaption(widget, caption(texts, number));
-  if (const int number = numberOf(widget, kToolTipNumber))
-    widget.setToolTip(caption(texts, number));
+  if (const int number = numberOf(widget, kToolTipNumber)) {
+    auto* const button = qobject_cast<QAbstractButton*>(&widget);
+    widget.setToolTip(withKey(caption(texts, number), button ? button->shortcut() : QKeySequence()));
+    widget.setStatusTip(widget.toolTip());
+  }
   if (const int number = numberOf(widget, kAccessibleNumber))
     widget.setAccessibleName(caption(texts, number));
+  if (auto* const tabs = qobject_cast<QTabWidget*>(&widget))
+    relabelTabs(*tabs, texts);
 }
 
 void relabelOne(QObject& object, const Texts& texts) {
@@ -88,6 +108,10 @@ void setToolTipNumber(QObject& object, int number) {
 }
 void setAccessibleNumber(QWidget& widget, int number) {
   setNumber(widget, kAccessibleNumber, number);
+}
+
+void setTabTextNumber(QWidget& page, int number) {
+  setNumber(page, kTabTextNumber, number);
 }
 
 void relabel(QObject& root, const Texts& texts) {

@@ -22,9 +22,10 @@ namespace hooptab {
 void setTextNumber(QObject& object, int number);
 void setToolTipNumber(QObject& object, int number);
 void setAccessibleNumber(QWidget& widget, int number); // name for screen readers, where there is no caption
+void setTabTextNumber(QWidget& page, int number);      // the tab of a page of a QTabWidget
 
-// Relabels `root` and all its children, widgets and actions alike. A tool tip of an action names its key,
-// "Open a Game (Ctrl+O)".
+// Relabels `root` and all its children, widgets and actions alike. The tool tip of an action or a button
+// names its key, "Open a Game (Ctrl+O)".
 void relabel(QObject& root, const Texts& texts);
 
 } // namespace hooptab

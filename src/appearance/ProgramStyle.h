@@ -1,0 +1,25 @@
+// Fusion with what it draws too faintly done anew: frames of check boxes, whose shade it takes from the
+// window's colour, so that they are lost on dark tables; and titles of active windows, which it writes in
+// white on the colour of selections, however light that is.
+#pragma once
+
+#include <QColor>
+#include <QProxyStyle>
+
+namespace hooptab {
+
+class ProgramStyle : public QProxyStyle {
+ public:
+  // `title` goes under the white title of the active window; all else is the palette's.
+  explicit ProgramStyle(const QColor& title) : QProxyStyle(QStringLiteral("Fusion")), m_title(title) {}
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override;
+
+ private:
+  QColor m_title;
+};
+
+} // namespace hooptab
