@@ -3,10 +3,18 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include <cstdio>
+
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QMainWindow window;
   window.show();
-  QTimer::singleShot(0, &window, [&window] { QTimer::singleShot(0, &window, &QWidget::close); });
+  QTimer::singleShot(0, &window, [&window] {
+    QTimer::singleShot(0, &window, [&window] {
+      std::puts("ready");
+      std::fflush(stdout);
+      window.close();
+    });
+  });
   return QApplication::exec();
 }

@@ -5,22 +5,34 @@ set -euo pipefail
 build="${1:-$(dirname "$0")/../build/bench}"
 rounds="${2:-21}"
 folder=$(mktemp -d)
+cleanup() {
+  [ -z "${server:-}" ] || kill "$server" 2>/dev/null
+  rm -rf "$folder"
+}
+trap cleanup EXIT
 if [ -z "${DISPLAY:-}" ]; then
-  Xvfb :97 -screen 0 1366x768x24 >/dev/null 2>&1 &
+  export DISPLAY=":$((200 + RANDOM % 300))"
+  Xvfb "$DISPLAY" -screen 0 1366x768x24 >/dev/null 2>&1 &
   server=$!
-  trap 'kill $server 2>/dev/null; rm -rf "$folder"' EXIT
-  export DISPLAY=:97
-  sleep 1
-else
-  trap 'rm -rf "$folder"' EXIT
+  for ((i = 0; i < 100; ++i)); do
+    xdotool getdisplaygeometry >/dev/null 2>&1 && break
+    sleep 0.1
+  done
 fi
 
 now() { date +%s%N; }
-measure() { # prints microseconds
-  local begin
+measure() { # prints the microseconds until the program says that its window stands
+  local begin end
   begin=$(now)
-  "$@" >/dev/null 2>&1
-  echo $((($(now) - begin) / 1000))
+  exec {output}< <("$@" 2>/dev/null)
+  if ! read -r -u "$output" || [ "$REPLY" != ready ]; then
+    echo "$1 did not start" >&2
+    exit 1
+  fi
+  end=$(now)
+  cat <&"$output" >/dev/null # until it has left
+  exec {output}<&-
+  echo $(((end - begin) / 1000))
 }
 median() { sort -n "$1" | sed -n "$((rounds / 2 + 1))p"; }
 

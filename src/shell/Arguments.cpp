@@ -59,7 +59,7 @@ std::string usage() {
          "  --light        light colours\n"
          "  --dark         dark colours\n"
          "  --leave-when-ready\n"
-         "                 leave as soon as the window stands; checks an installation and measures the start\n"
+         "                 print \"ready\" as soon as the window stands, and leave; checks an installation\n"
          "  --help         print this text\n"
          "  --version      print the version\n";
 }

@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <cstdio>
 #include <filesystem>
 #include <iostream>
 
@@ -75,8 +76,13 @@ int run(QApplication& application, const Arguments& arguments, QtDialogs& dialog
     window.report(preparation);
     for (const std::string& game : arguments.games)
       window.openGame(toQt(game));
-    if (arguments.leavesWhenReady)
-      QTimer::singleShot(0, &window, &QWidget::close);
+    if (arguments.leavesWhenReady) {
+      QTimer::singleShot(0, &window, [&window] {
+        std::puts("ready");
+        std::fflush(stdout);
+        window.close();
+      });
+    }
   });
   return QApplication::exec();
 }

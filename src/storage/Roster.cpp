@@ -1,19 +1,8 @@
 #include "storage/Roster.h"
 
-#include "storage/Module1.h"
-
 #include <algorithm>
 
 namespace hooptab {
-
-namespace {
-
-// The number of a jersey of one to three digits, or -1.
-int jerseyNumber(std::string_view jersey) {
-  return jersey.size() > 3 ? -1 : Module1::wholeNumber(jersey);
-}
-
-} // namespace
 
 void Roster::add(RosterPlayer player) {
   m_players.push_back(std::move(player));
@@ -46,27 +35,12 @@ void Roster::add(RosterPlayer player) {
     m_doubleZeroEntry = entry;
 }
 
-int Roster::entryOf(std::string_view jersey) const {
-  const int number = jerseyNumber(jersey);
-  const NumberEntry known = number < 0 ? NumberEntry{} : m_byNumber[static_cast<std::size_t>(number)];
-  // A number that one player alone wears is his, however it is written.
-  if (number >= 0 && !known.isAmbiguous)
-    return known.entry;
+int Roster::entryByText(std::string_view jersey, int number) const {
   const auto same = std::ranges::find(m_players, jersey, &RosterPlayer::jersey);
   if (same == m_players.end())
-    return known.entry;
+    return number < 0 ? 0 : m_byNumber[static_cast<std::size_t>(number)].entry;
   const auto entry = static_cast<int>(same - m_players.begin()) + 1;
   return entry <= kLargestEntry ? entry : 0;
-}
-
-int Roster::entryOfListed(std::string_view jersey) const {
-  if (hasZeroAndDoubleZero()) {
-    if (jersey == "00")
-      return m_zeroEntry;
-    if (jersey == "000")
-      return m_doubleZeroEntry;
-  }
-  return entryOf(jersey);
 }
 
 std::string Roster::listedJersey(std::string_view jersey) const {

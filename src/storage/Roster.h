@@ -2,6 +2,8 @@
 // finds its player.
 #pragma once
 
+#include "storage/Module1.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
@@ -26,9 +28,23 @@ class Roster {
   } // all of the section, more than fifteen included
 
   // 1..15 in the order of the section's keys; 0 for everybody else ("others").
-  [[nodiscard]] int
-  entryOf(std::string_view jersey) const; // as events write it: same text first, else equal number
-  [[nodiscard]] int entryOfListed(std::string_view jersey) const; // as on-court lists write it
+  // As events write it: same text first, else equal number. Inline: it is asked for every event and for every
+  // player of every list of a season.
+  [[nodiscard]] int entryOf(std::string_view jersey) const {
+    const int number = jerseyNumber(jersey);
+    // A number that one player alone wears is his, however it is written.
+    if (number >= 0 && !m_byNumber[static_cast<std::size_t>(number)].isAmbiguous)
+      return m_byNumber[static_cast<std::size_t>(number)].entry;
+    return entryByText(jersey, number);
+  }
+  // As on-court lists write it.
+  [[nodiscard]] int entryOfListed(std::string_view jersey) const {
+    if (hasZeroAndDoubleZero() && jersey == "00")
+      return m_zeroEntry;
+    if (hasZeroAndDoubleZero() && jersey == "000")
+      return m_doubleZeroEntry;
+    return entryOf(jersey);
+  }
   // How an on-court list writes the player: two digits at least; with both 0 and 00 in the roster, 00 and
   // 000.
   [[nodiscard]] std::string listedJersey(std::string_view jersey) const;
@@ -40,6 +56,12 @@ class Roster {
   [[nodiscard]] bool hasZeroAndDoubleZero() const { return m_zeroEntry > 0 && m_doubleZeroEntry > 0; }
 
  private:
+  // The number of a jersey of one to three digits, or -1.
+  [[nodiscard]] static int jerseyNumber(std::string_view jersey) {
+    return jersey.size() > 3 ? -1 : Module1::wholeNumber(jersey);
+  }
+  [[nodiscard]] int entryByText(std::string_view jersey, int number) const;
+
   struct NumberEntry {
     std::int8_t entry = 0; // the first of that number
     bool isTaken = false;

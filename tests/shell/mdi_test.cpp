@@ -57,6 +57,7 @@ class MainWindowTest : public testing::Test {
     texts.showNumbers(settings->asksForTextNumbers());
     memory = std::make_unique<WindowMemory>(store, folder());
     window = std::make_unique<MDI>(Workshop{store, *settings, texts, *memory, dialogs, shared});
+    window->setWindowState(Qt::WindowNoState); // the display of these tests is smaller than the screen meant
     window->resize(1366, 768);
     window->show();
     window->activateWindow();
