@@ -1,4 +1,5 @@
-// Refresh of an open scorecard after its game grew by one event: reading, counting, updating the tables, drawing the window.
+// Refresh of an open scorecard after its game grew by one event: reading, counting, updating the tables,
+// drawing the window.
 #include "game_to_measure.h"
 #include "scorecard/frmVIEW.h"
 #include "storage/GameFile.h"

@@ -1,5 +1,7 @@
 #include "appearance/ProgramStyle.h"
 
+#include "appearance/Icons.h"
+
 #include <QPainter>
 #include <QStyleOption>
 
@@ -56,6 +58,13 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
   QStyleOptionTitleBar readable = *titleBar;
   readable.palette.setColor(QPalette::Highlight, m_title);
   QProxyStyle::drawComplexControl(control, &readable, painter, widget);
+}
+
+QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                 const QWidget* widget) const {
+  if (which == SP_ToolBarHorizontalExtensionButton || which == SP_ToolBarVerticalExtensionButton)
+    return icon(QStringLiteral("more"));
+  return QProxyStyle::standardIcon(which, option, widget);
 }
 
 } // namespace hooptab

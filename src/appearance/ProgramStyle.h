@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QColor>
+#include <QIcon>
 #include <QProxyStyle>
 
 namespace hooptab {
@@ -17,6 +18,9 @@ class ProgramStyle : public QProxyStyle {
                      const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
+  // The sign of a tool-bar with more to show is one of our icons: the style's own is a picture file, for
+  // which every start would load all plug-ins for pictures.
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override;
 
  private:
   QColor m_title;

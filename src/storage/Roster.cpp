@@ -50,7 +50,9 @@ std::string Roster::listedJersey(std::string_view jersey) const {
 }
 
 std::string Roster::listOf(unsigned entries) const {
-  std::string list = "IN";
+  std::string list;
+  list.reserve(24); // five players of up to three letters
+  list = "IN";
   for (const std::int8_t entry : m_entriesByNumber) {
     if ((entries & (1U << entry)) == 0)
       continue;

@@ -11,10 +11,11 @@ namespace {
 
 // False when the sum leaves the 16-bit range; the count then stays at its limit.
 bool addChecked(std::int16_t& count, int amount) {
+  constexpr int kLimit = std::numeric_limits<std::int16_t>::max();
   const int sum = count + amount;
-  count = static_cast<std::int16_t>(std::clamp<int>(sum, std::numeric_limits<std::int16_t>::min(),
-                                                    std::numeric_limits<std::int16_t>::max()));
-  return count == sum;
+  const bool fits = sum <= kLimit;
+  count = static_cast<std::int16_t>(fits ? sum : kLimit);
+  return fits;
 }
 
 } // namespace
