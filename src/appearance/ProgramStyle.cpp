@@ -62,9 +62,14 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
 QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                  const QWidget* widget) const {
-  if (which == SP_ToolBarHorizontalExtensionButton || which == SP_ToolBarVerticalExtensionButton)
-    return icon(QStringLiteral("more"));
-  return QProxyStyle::standardIcon(which, option, widget);
+  switch (which) {
+  case SP_ToolBarHorizontalExtensionButton:
+  case SP_ToolBarVerticalExtensionButton: return icon(QStringLiteral("more"));
+  case SP_TitleBarMinButton: return icon(QStringLiteral("windowminimize"));
+  case SP_TitleBarNormalButton: return icon(QStringLiteral("windowrestore"));
+  case SP_TitleBarCloseButton: return icon(QStringLiteral("windowclose"));
+  default: return QProxyStyle::standardIcon(which, option, widget);
+  }
 }
 
 } // namespace hooptab

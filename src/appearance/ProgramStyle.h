@@ -18,8 +18,9 @@ class ProgramStyle : public QProxyStyle {
                      const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
-  // The sign of a tool-bar with more to show is one of our icons: the style's own is a picture file, for
-  // which every start would load all plug-ins for pictures.
+  // Our own icons for the sign of a tool-bar with more to show, which is a picture file in the style, for
+  // which every start would load all plug-ins for pictures; and for the controls of a maximised child window,
+  // which are black in every theme.
   QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override;
 
  private:
