@@ -11,13 +11,14 @@ cleanup() {
 }
 trap cleanup EXIT
 if [ -z "${DISPLAY:-}" ]; then
-  export DISPLAY=":$((200 + RANDOM % 300))"
-  Xvfb "$DISPLAY" -screen 0 1366x768x24 >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -screen 0 1366x768x24 3>"$folder/display" >/dev/null 2>&1 &
   server=$!
   for ((i = 0; i < 100; ++i)); do
-    xdotool getdisplaygeometry >/dev/null 2>&1 && break
+    [ -s "$folder/display" ] && break
     sleep 0.1
   done
+  DISPLAY=":$(cat "$folder/display")"
+  export DISPLAY
 fi
 
 now() { date +%s%N; }

@@ -39,14 +39,17 @@ no_window_named() { ! window_named "$1"; }
 says() { grep -aq "$2" "$work/home/$1"; }
 is_gone() { ! kill -0 "$1" 2>/dev/null; }
 
-display=$((200 + RANDOM % 300))
-Xvfb ":$display" -screen 0 1366x768x24 >/dev/null 2>&1 &
+# The server picks a free display and tells its number.
+Xvfb -displayfd 3 -screen 0 1366x768x24 3>"$work/display" >/dev/null 2>&1 &
 started+=($!)
-export DISPLAY=":$display"
-until_true "the display starts" xdotool getdisplaygeometry || exit 1
+until_true "the display starts" test -s "$work/display" || exit 1
+DISPLAY=":$(cat "$work/display")"
+export DISPLAY
 openbox >/dev/null 2>&1 &
 started+=($!)
-until_true "the window manager starts" xprop -root _NET_SUPPORTING_WM_CHECK || exit 1
+# A window that asks to be shown before there is a manager would wait for ever.
+window_manager_runs() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
+until_true "the window manager starts" window_manager_runs || exit 1
 
 game=$(find "$samples" -name '*.GAM' | sort | head -n 1)
 other=$(find "$samples" -name '*.GAM' | sort | sed -n 2p)
