@@ -95,10 +95,6 @@ void add(ProfileBatch& batch, const std::string& section, std::span<const Line> 
 
 ProfileBatch firstRunContent(const Texts& texts, const std::string& folder) {
   // A keypad key is the number of the key and, for display, its label.
-  const Line colours[] = {{"COULEUR2PTS", "9092558"},
-                          {"COULEURBOX", "10132122"},
-                          {"COULEUR3PTS", "8454143"},
-                          {"COULEURBUT", "8421504"}};
   const Line choices[] = {
       {"LANGUE", "0"},          {"SAVEREBOUND", "False"}, {"CLOCK", "13-ENTER"}, {"OK0", "8-BACK"},
       {"CLR", "107-PLUS"},      {"PF", "105-9-PAGEUP"},   {"TF", "102-6-RIGHT"}, {"BS", "103-7-HOME"},
@@ -107,7 +103,10 @@ ProfileBatch firstRunContent(const Texts& texts, const std::string& folder) {
       {"OK1", "109-MINUS"},     {"KEYPAD", "True"},       {"U1", "100-4-LEFT"},  {"U2", "101-5-CLEAR"},
       {"LASTPATHGAME", folder}, {"LASTPATHBMP", folder}};
   ProfileBatch batch;
-  add(batch, "CONFIGURATION", colours);
+  batch.set("CONFIGURATION", "COULEUR2PTS", std::to_string(kFirstColours.twoPoints));
+  batch.set("CONFIGURATION", "COULEURBOX", std::to_string(kFirstColours.box));
+  batch.set("CONFIGURATION", "COULEUR3PTS", std::to_string(kFirstColours.threePoints));
+  batch.set("CONFIGURATION", "COULEURBUT", std::to_string(kFirstColours.buttons));
   batch.set("CONFIGURATION", "STATU1", std::string("U1-").append(texts.text(1292)));
   batch.set("CONFIGURATION", "STATU2", std::string("U2-").append(texts.text(1293)));
   add(batch, "CONFIGURATION", choices);

@@ -20,6 +20,9 @@ int numberOf(std::string_view value) {
 std::uint32_t colourOf(std::string_view value) {
   return static_cast<std::uint32_t>(std::clamp(numberOf(value), 0, 0xFFFFFF));
 }
+std::string typedOr(const GameDetails& details, std::string TypedRules::*rule, int number) {
+  return details.typedRules ? (*details.typedRules).*rule : std::to_string(number);
+}
 
 struct Detail {
   std::string_view key;
@@ -66,15 +69,15 @@ constexpr std::array kDetails = std::to_array<Detail>({
     {"SAISIEPAR", [](GameDetails& d, std::string_view value) { d.statistician = textOf(value); },
      [](const GameDetails& d) { return d.statistician; }},
     {"NBREPERIODE", [](GameDetails& d, std::string_view value) { d.periods = numberOf(value); },
-     [](const GameDetails& d) { return std::to_string(d.periods); }},
+     [](const GameDetails& d) { return typedOr(d, &TypedRules::periods, d.periods); }},
     {"DUREE", [](GameDetails& d, std::string_view value) { d.minutesPerPeriod = numberOf(value); },
-     [](const GameDetails& d) { return std::to_string(d.minutesPerPeriod); }},
+     [](const GameDetails& d) { return typedOr(d, &TypedRules::minutesPerPeriod, d.minutesPerPeriod); }},
     {"BONUS", [](GameDetails& d, std::string_view value) { d.bonus = numberOf(value); },
-     [](const GameDetails& d) { return std::to_string(d.bonus); }},
+     [](const GameDetails& d) { return typedOr(d, &TypedRules::bonus, d.bonus); }},
     {"PFMAX", [](GameDetails& d, std::string_view value) { d.personalFoulLimit = numberOf(value); },
-     [](const GameDetails& d) { return std::to_string(d.personalFoulLimit); }},
+     [](const GameDetails& d) { return typedOr(d, &TypedRules::personalFoulLimit, d.personalFoulLimit); }},
     {"TFMAX", [](GameDetails& d, std::string_view value) { d.technicalFoulLimit = numberOf(value); },
-     [](const GameDetails& d) { return std::to_string(d.technicalFoulLimit); }},
+     [](const GameDetails& d) { return typedOr(d, &TypedRules::technicalFoulLimit, d.technicalFoulLimit); }},
     {"TYPE", [](GameDetails& d, std::string_view value) { d.type = numberOf(value); },
      [](const GameDetails& d) { return std::to_string(d.type); }},
     {"NOTES", [](GameDetails& d, std::string_view value) { d.notes = textOf(value); },

@@ -6,12 +6,22 @@
 #include "storage/ProfileText.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace hooptab {
 
 inline constexpr std::string_view kDetailsSection = "DETAILS";
+
+// The rules of a game as somebody typed them: a new game keeps the texts, readers take their numbers.
+struct TypedRules {
+  std::string periods;
+  std::string minutesPerPeriod;
+  std::string bonus;
+  std::string personalFoulLimit;
+  std::string technicalFoulLimit;
+};
 
 // Section DETAILS. Numbers are read leniently; texts are as stored (trailing blanks of a category are lost on
 // disk).
@@ -38,6 +48,7 @@ struct GameDetails {
   int nextEventNumber = 0; // EVENUM; 0 when absent
   bool keepsBonus = false;
   bool isFinished = false;
+  std::optional<TypedRules> typedRules; // written in place of the five numbers where given; never read
 };
 
 // Sets what the section holds; the rest stays as it is.

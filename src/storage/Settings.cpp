@@ -163,6 +163,30 @@ bool Settings::saveLastFolders() {
   return save(batch);
 }
 
+bool Settings::saveAppearance(const ChosenColours& colours, const std::string (&labels)[2]) {
+  twoPointColour = colours.twoPoints;
+  boxColour = colours.box;
+  threePointColour = colours.threePoints;
+  buttonColour = colours.buttons;
+  statisticLabel[0] = labels[0];
+  statisticLabel[1] = labels[1];
+  ProfileBatch batch;
+  batch.set(kSection, "COULEUR2PTS", std::to_string(twoPointColour));
+  batch.set(kSection, "COULEURBOX", std::to_string(boxColour));
+  batch.set(kSection, "COULEUR3PTS", std::to_string(threePointColour));
+  batch.set(kSection, "COULEURBUT", std::to_string(buttonColour));
+  batch.set(kSection, "STATU1", statisticLabel[0]);
+  batch.set(kSection, "STATU2", statisticLabel[1]);
+  return save(batch);
+}
+
+bool Settings::writeNow(const ProfileBatch& batch) {
+  if (!m_writes.retry())
+    return false;
+  m_store.Path(path());
+  return m_store.write(batch);
+}
+
 bool Settings::save(const char* key, std::string value) {
   ProfileBatch batch;
   batch.set(kSection, key, std::move(value));

@@ -18,6 +18,16 @@ namespace hooptab {
 // The program's 16 custom colours of the colour chooser, decimal: red + 256 * green + 65536 * blue.
 [[nodiscard]] const std::vector<std::uint32_t>& customColours();
 
+// The colours that the user chooses, in the same form.
+struct ChosenColours {
+  std::uint32_t twoPoints = 0;
+  std::uint32_t box = 0;
+  std::uint32_t threePoints = 0;
+  std::uint32_t buttons = 0; // of the live window
+  friend bool operator==(const ChosenColours&, const ChosenColours&) = default;
+};
+inline constexpr ChosenColours kFirstColours = {9092558, 10132122, 8454143, 8421504}; // of a first start
+
 class Settings {
  public:
   // `folder` is the program folder; CONFIG.INI stands in it.
@@ -62,6 +72,10 @@ class Settings {
   bool saveAsksRebounds(bool on);
   bool saveKeypadIsActive(bool on);
   bool saveLastFolders();
+  // Colours and the labels of the user's statistics, with their prefix: all in one write.
+  bool saveAppearance(const ChosenColours& colours, const std::string (&labels)[2]);
+  // For what others keep in the same file (teams): goes there now or not at all, and never before what waits.
+  [[nodiscard]] bool writeNow(const ProfileBatch& batch);
   bool retry() { return m_writes.retry(); }
   bool isOnDisk() const { return m_writes.isEmpty(); }
 

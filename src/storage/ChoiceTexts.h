@@ -1,0 +1,24 @@
+// Lists of choices whose names are ten texts in a row of the string table: positions and game types. What is
+// stored is the index, 0 to 9; an index whose text is "---" is not offered.
+#pragma once
+
+#include "storage/Texts.h"
+
+#include <string_view>
+#include <vector>
+
+namespace hooptab {
+
+inline constexpr int kChoiceCount = 10;
+inline constexpr int kFirstGameTypeText = 1250;
+inline constexpr int kFirstPositionText = 1260;
+inline constexpr int kNoPosition = 9;
+
+// Ascending.
+[[nodiscard]] std::vector<int> offeredChoices(int firstText, const Texts& texts);
+// The name of an index in the language in use; empty for one that is not offered or out of range.
+[[nodiscard]] std::string_view choiceName(int firstText, int index, const Texts& texts);
+// The next one offered, from 9 back to 0. Out of range counts as 9.
+[[nodiscard]] int nextChoice(int firstText, int index, const Texts& texts);
+
+} // namespace hooptab
