@@ -1,7 +1,12 @@
 #include "appearance/Dialogs.h"
 
+#include "appearance/Theme.h"
+#include "storage/Settings.h"
+
+#include <QColorDialog>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QUrl>
 
@@ -12,6 +17,26 @@ QString QtDialogs::chooseFile(QWidget* parent, const QString& title, const QStri
   return QFileDialog::getOpenFileName(parent, title, folder, filter);
 }
 
+QString QtDialogs::chooseFileToSave(QWidget* parent, const QString& title, const QString& proposed,
+                                    const QString& filter, const QString& ending) {
+  QFileDialog dialog(parent, title, QFileInfo(proposed).path(), filter);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.setDefaultSuffix(ending);
+  dialog.selectFile(QFileInfo(proposed).fileName());
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QColor QtDialogs::chooseColour(QWidget* parent, const QString& title, const QColor& current) {
+  if (!m_hasCustomColours) {
+    int place = 0;
+    for (const std::uint32_t colour : customColours())
+      QColorDialog::setCustomColor(place++, colourOf(colour));
+    m_hasCustomColours = true;
+  }
+  return QColorDialog::getColor(current, parent, title);
+}
+
 void QtDialogs::inform(QWidget* parent, const QString& title, const QString& text) {
   QMessageBox::information(parent, title, text);
 }
@@ -20,8 +45,22 @@ void QtDialogs::warn(QWidget* parent, const QString& title, const QString& text)
   QMessageBox::warning(parent, title, text);
 }
 
+void QtDialogs::complain(QWidget* parent, const QString& title, const QString& text) {
+  QMessageBox::critical(parent, title, text);
+}
+
 bool QtDialogs::ask(QWidget* parent, const QString& title, const QString& text) {
   return QMessageBox::question(parent, title, text) == QMessageBox::Yes;
+}
+
+SaveChoice QtDialogs::askToSave(QWidget* parent, const QString& title, const QString& text) {
+  switch (QMessageBox::question(parent, title, text,
+                                QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                                QMessageBox::Save)) {
+  case QMessageBox::Save: return SaveChoice::Save;
+  case QMessageBox::Discard: return SaveChoice::Discard;
+  default: return SaveChoice::Stay;
+  }
 }
 
 bool QtDialogs::openDocument(const QUrl& document) {

@@ -2,6 +2,7 @@
 // test can answer in the user's place. Knows no texts: callers bring them in the language in use.
 #pragma once
 
+#include <QColor>
 #include <QString>
 #include <QStringList>
 
@@ -10,6 +11,9 @@ class QWidget;
 
 namespace hooptab {
 
+// What to do with work that is not saved yet.
+enum class SaveChoice { Save, Discard, Stay };
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
@@ -17,9 +21,17 @@ class Dialogs {
   // The chosen file, empty when cancelled. `filter` as Qt's file dialog takes it.
   virtual QString chooseFile(QWidget* parent, const QString& title, const QString& folder,
                              const QString& filter) = 0;
+  // A file to write, `proposed` (a whole path) preselected; empty when cancelled. Without an ending the path
+  // gets `ending` ("GAM"). Does not ask about a file that is there: the caller knows what would be lost.
+  virtual QString chooseFileToSave(QWidget* parent, const QString& title, const QString& proposed,
+                                   const QString& filter, const QString& ending) = 0;
+  // Not valid when cancelled. Offers the program's 16 custom colours.
+  virtual QColor chooseColour(QWidget* parent, const QString& title, const QColor& current) = 0;
   virtual void inform(QWidget* parent, const QString& title, const QString& text) = 0;
-  virtual void warn(QWidget* parent, const QString& title, const QString& text) = 0; // exclamation mark
-  virtual bool ask(QWidget* parent, const QString& title, const QString& text) = 0;  // true for "Yes"
+  virtual void warn(QWidget* parent, const QString& title, const QString& text) = 0;     // exclamation mark
+  virtual void complain(QWidget* parent, const QString& title, const QString& text) = 0; // sign of an error
+  virtual bool ask(QWidget* parent, const QString& title, const QString& text) = 0;      // true for "Yes"
+  virtual SaveChoice askToSave(QWidget* parent, const QString& title, const QString& text) = 0;
   // With the system's program for such a document; false when there is none.
   virtual bool openDocument(const QUrl& document) = 0;
 };
@@ -28,10 +40,18 @@ class QtDialogs : public Dialogs {
  public:
   QString chooseFile(QWidget* parent, const QString& title, const QString& folder,
                      const QString& filter) override;
+  QString chooseFileToSave(QWidget* parent, const QString& title, const QString& proposed,
+                           const QString& filter, const QString& ending) override;
+  QColor chooseColour(QWidget* parent, const QString& title, const QColor& current) override;
   void inform(QWidget* parent, const QString& title, const QString& text) override;
   void warn(QWidget* parent, const QString& title, const QString& text) override;
+  void complain(QWidget* parent, const QString& title, const QString& text) override;
   bool ask(QWidget* parent, const QString& title, const QString& text) override;
+  SaveChoice askToSave(QWidget* parent, const QString& title, const QString& text) override;
   bool openDocument(const QUrl& document) override;
+
+ private:
+  bool m_hasCustomColours = false; // what the user adds to them stays while the program runs
 };
 
 // A filter text of the string table, "NAME (*.GAM)|*.GAM", pair after pair, in the form of Qt's dialog. File

@@ -37,6 +37,8 @@ class PaletteIconEngine : public QIconEngine {
 
  private:
   QPixmap rendered(const QSize& size, QIcon::Mode mode) const {
+    if (size.isEmpty()) // a button squeezed to nothing
+      return {};
     const QPalette palette = QApplication::palette();
     const bool isDisabled = mode == QIcon::Disabled;
     const QColor text =

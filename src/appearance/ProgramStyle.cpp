@@ -11,7 +11,11 @@ namespace hooptab {
 
 namespace {
 
-void drawCheckBox(QPainter& painter, const QStyleOption& option) {
+constexpr double kDotShare = 0.22; // of a chosen radio button, its radius
+
+enum class Box { Square, Round };
+
+void drawBox(QPainter& painter, const QStyleOption& option, Box shape) {
   const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
   const QPalette::ColorGroup group = isEnabled ? QPalette::Active : QPalette::Disabled;
   const QColor sign = option.palette.color(group, QPalette::Text);
@@ -26,6 +30,15 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
   box.moveCenter(QRectF(option.rect).center());
   painter.setPen(frame);
   painter.setBrush(option.palette.color(group, QPalette::Base));
+  if (shape == Box::Round) {
+    painter.drawEllipse(box);
+    painter.setBrush(sign);
+    painter.setPen(Qt::NoPen);
+    if (option.state.testFlag(QStyle::State_On))
+      painter.drawEllipse(box.center(), side * kDotShare, side * kDotShare);
+    painter.restore();
+    return;
+  }
   painter.drawRoundedRect(box, 2, 2);
   painter.setPen(QPen(sign, side * 0.15, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   const auto inBox = [&box](double x, double y) {
@@ -43,7 +56,9 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {
   if (element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck)
-    drawCheckBox(*painter, *option);
+    drawBox(*painter, *option, Box::Square);
+  else if (element == PE_IndicatorRadioButton)
+    drawBox(*painter, *option, Box::Round);
   else
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }

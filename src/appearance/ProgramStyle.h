@@ -1,6 +1,6 @@
-// Fusion with what it draws too faintly done anew: frames of check boxes, whose shade it takes from the
-// window's colour, so that they are lost on dark tables; and titles of active windows, which it writes in
-// white on the colour of selections, however light that is.
+// Fusion with what it draws too faintly done anew: frames of check boxes and radio buttons, whose shade it
+// takes from the window's colour, so that they are lost on dark tables; and titles of active windows, which
+// it writes in white on the colour of selections, however light that is.
 #pragma once
 
 #include <QColor>

@@ -16,6 +16,7 @@ namespace {
 constexpr const char* kTextNumber = "hooptabText";
 constexpr const char* kToolTipNumber = "hooptabToolTip";
 constexpr const char* kAccessibleNumber = "hooptabAccessible";
+constexpr const char* kPlaceholderNumber = "hooptabPlaceholder";
 constexpr const char* kTabTextNumber = "hooptabTabText";
 
 void setNumber(QObject& object, const char* name, int number) {
@@ -48,9 +49,11 @@ void setCaption(QWidget& widget, const QString& text) {
   if (auto* const label = qobject_cast<QLabel*>(&widget)) {
     label->setText(label->buddy() == nullptr ? text : withoutMnemonic(text));
   } else if (auto* const button = qobject_cast<QAbstractButton*>(&widget)) {
-    const QKeySequence key = button->shortcut(); // which a new text would take away
+    // A new text would take the key away; one that the old text gave goes with it.
+    const QKeySequence key = button->shortcut();
+    const bool isOfText = key == QKeySequence::mnemonic(button->text());
     button->setText(withoutMnemonic(text));
-    button->setShortcut(key);
+    button->setShortcut(isOfText ? QKeySequence() : key);
   } else if (auto* const menu = qobject_cast<QMenu*>(&widget)) {
     menu->setTitle(withoutMnemonic(text));
   } else if (auto* const group = qobject_cast<QGroupBox*>(&widget)) {
@@ -77,6 +80,8 @@ void relabelWidget(QWidget& widget, const Texts& texts) {
   }
   if (const int number = numberOf(widget, kAccessibleNumber))
     widget.setAccessibleName(caption(texts, number));
+  if (const int number = numberOf(widget, kPlaceholderNumber))
+    widget.setProperty("placeholderText", caption(texts, number));
   if (auto* const tabs = qobject_cast<QTabWidget*>(&widget))
     relabelTabs(*tabs, texts);
 }
@@ -103,11 +108,18 @@ QString caption(const Texts& texts, int number) {
 void setTextNumber(QObject& object, int number) {
   setNumber(object, kTextNumber, number);
 }
+bool hasTextNumber(const QObject& object) {
+  return numberOf(object, kTextNumber) > 0;
+}
 void setToolTipNumber(QObject& object, int number) {
   setNumber(object, kToolTipNumber, number);
 }
 void setAccessibleNumber(QWidget& widget, int number) {
   setNumber(widget, kAccessibleNumber, number);
+}
+
+void setPlaceholderNumber(QWidget& field, int number) {
+  setNumber(field, kPlaceholderNumber, number);
 }
 
 void setTabTextNumber(QWidget& page, int number) {

@@ -20,8 +20,10 @@ namespace hooptab {
 // Numbers are kept as dynamic properties; 0 takes one away. Any widget with a "text", "title" or
 // "windowTitle" property, and actions.
 void setTextNumber(QObject& object, int number);
+[[nodiscard]] bool hasTextNumber(const QObject& object);
 void setToolTipNumber(QObject& object, int number);
 void setAccessibleNumber(QWidget& widget, int number); // name for screen readers, where there is no caption
+void setPlaceholderNumber(QWidget& field, int number); // what an empty line edit shows
 void setTabTextNumber(QWidget& page, int number);      // the tab of a page of a QTabWidget
 
 // Relabels `root` and all its children, widgets and actions alike. The tool tip of an action or a button

@@ -8,7 +8,8 @@ cd "$(dirname "$0")/../../src" || exit 1
 floors=(
   "resources"
   "storage"
-  "appearance teams"
+  "appearance"
+  "teams"
   "setup live scorecard manual"
   "season printing"
   "shell"

@@ -10,7 +10,7 @@ namespace hooptab {
 
 class ScriptedDialogs : public Dialogs {
  public:
-  enum class Kind { Inform, Warn, Ask };
+  enum class Kind { Inform, Warn, Complain, Ask, AskToSave };
   struct Shown {
     Kind kind;
     QString title;
@@ -19,12 +19,17 @@ class ScriptedDialogs : public Dialogs {
   };
 
   QString nextFile; // empty: the user cancels
+  QString nextFileToSave;
+  QColor nextColour; // not valid: the user cancels
   bool nextAnswer = false;
+  SaveChoice nextSaveChoice = SaveChoice::Stay;
   bool opensDocuments = true;
 
   std::vector<Shown> shown;
   QString lastFilter;
   QString lastFolder;
+  QString lastProposed;
+  QColor lastColour;
   QList<QUrl> opened;
 
   QString chooseFile(QWidget*, const QString&, const QString& folder, const QString& filter) override {
@@ -32,11 +37,28 @@ class ScriptedDialogs : public Dialogs {
     lastFilter = filter;
     return nextFile;
   }
+  QString chooseFileToSave(QWidget*, const QString&, const QString& proposed, const QString& filter,
+                           const QString&) override {
+    lastProposed = proposed;
+    lastFilter = filter;
+    return nextFileToSave;
+  }
+  QColor chooseColour(QWidget*, const QString&, const QColor& current) override {
+    lastColour = current;
+    return nextColour;
+  }
   void inform(QWidget*, const QString& title, const QString& text) override {
     shown.push_back({Kind::Inform, title, text});
   }
   void warn(QWidget*, const QString& title, const QString& text) override {
     shown.push_back({Kind::Warn, title, text});
+  }
+  void complain(QWidget*, const QString& title, const QString& text) override {
+    shown.push_back({Kind::Complain, title, text});
+  }
+  SaveChoice askToSave(QWidget*, const QString& title, const QString& text) override {
+    shown.push_back({Kind::AskToSave, title, text});
+    return nextSaveChoice;
   }
   bool ask(QWidget*, const QString& title, const QString& text) override {
     shown.push_back({Kind::Ask, title, text});

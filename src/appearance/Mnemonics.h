@@ -1,0 +1,21 @@
+// Alt keys for the controls of a window: each caption gets a letter of its own in the language in use, so
+// that every field and button is reached without the mouse. The texts themselves carry none.
+#pragma once
+
+#include <QStringList>
+
+#include <vector>
+
+class QWidget;
+
+namespace hooptab {
+
+// For each caption the place of its letter, -1 where no letter is left: the first letters of words before
+// others, earlier captions before later ones, no letter twice.
+[[nodiscard]] std::vector<qsizetype> mnemonicPlaces(const QStringList& captions);
+
+// Gives the buttons of `window` and the labels with a buddy that have a text by number their Alt keys,
+// buttons first. To be called behind relabel(), which takes them away.
+void giveMnemonics(QWidget& window);
+
+} // namespace hooptab

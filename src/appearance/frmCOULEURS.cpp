@@ -1,0 +1,256 @@
+#include "appearance/frmCOULEURS.h"
+
+#include "appearance/CourtView.h"
+#include "appearance/Dialogs.h"
+#include "appearance/Fields.h"
+#include "appearance/Mnemonics.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTitle = 1146;
+constexpr int kChooserTitle = 1176;
+constexpr int kWarningTitle = 1139;
+constexpr int kNotOnDisk = 1521;
+constexpr int kMadeShots = 1514;
+constexpr int kMissedShots = 1515;
+constexpr int kSampleButton = 1006;
+constexpr int kAskToSave = 1900;
+constexpr int kColours = 1901;
+constexpr int kFirstLabel = 1902;
+constexpr int kSecondLabel = 1903;
+constexpr int kPreview = 1904;
+constexpr int kDefaultsToolTip = 1905;
+constexpr int kLabelToolTip = 1906;
+constexpr int kSampleToolTip = 1907;
+constexpr int kCourtName = 1908;
+
+// Made and missed shots in every zone, so that one sees whether marks stand out from it.
+const std::vector<CourtMark> kSampleMarks = {
+    {{30, 92}, true},  {{62, 110}, false},  {{50, 48}, true}, {{84, 128}, false},
+    {{118, 92}, true}, {{106, 164}, false}, {{20, 6}, true},  {{98, 34}, false},
+};
+
+// The whole button in its colour, flat: what is chosen is what is seen.
+void showColour(QPushButton& button, std::uint32_t stored) {
+  const QColor colour = colourOf(stored);
+  button.setStyleSheet(
+      QStringLiteral(
+          "QPushButton { background: %1; color: %2; border: 1px solid palette(dark); border-radius: 4px;"
+          " padding: 6px 14px; }"
+          "QPushButton:hover { border-color: palette(text); }"
+          "QPushButton:focus { border: 3px solid palette(link); padding: 4px 12px; outline: none; }")
+          .arg(colour.name(), textOn(colour).name()));
+}
+
+} // namespace
+
+frmCOULEURS::frmCOULEURS(Settings& settings, const Texts& texts, Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent), m_settings(settings), m_texts(texts), m_dialogs(dialogs),
+      m_choice(CourtColourChoice::of(settings)) {
+  setObjectName(QStringLiteral("frmCOULEURS"));
+  setModal(true);
+  setTextNumber(*this, kTitle);
+
+  auto* choices = new QVBoxLayout;
+  choices->setSpacing(12);
+  choices->addWidget(makeColours());
+  choices->addWidget(makeLabels());
+  choices->addStretch();
+  auto* parts = new QHBoxLayout;
+  parts->setSpacing(16);
+  parts->addLayout(choices);
+  parts->addWidget(makePreview(), 1);
+
+  QPushButton* defaults = makeButton("cmdDEFAUT", 1151, kDefaultsToolTip);
+  QPushButton* applies = makeButton("cmdAPPLIQUER", 1155, 1330);
+  QPushButton* closes = makeButton("cmdFERMER", 1294, 1331);
+  applies->setDefault(true);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(defaults);
+  buttons->addStretch();
+  buttons->addWidget(applies);
+  buttons->addWidget(closes);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(16, 16, 16, 16);
+  layout->setSpacing(14);
+  layout->addLayout(parts, 1);
+  layout->addLayout(buttons);
+
+  connect(defaults, &QPushButton::clicked, this, [this] {
+    m_choice.colours = kFirstColours;
+    showColours();
+  });
+  connect(applies, &QPushButton::clicked, this, &frmCOULEURS::apply);
+  connect(closes, &QPushButton::clicked, this, &frmCOULEURS::reject);
+  auto* language = new QShortcut(QKeySequence(Qt::Key_F12), this);
+  connect(language, &QShortcut::activated, this, &frmCOULEURS::languageAsked);
+  selectOnFocus(*this);
+  showLabels();
+  relabelWindow();
+  m_colours.front().button->setFocus();
+}
+
+QWidget* frmCOULEURS::makeColours() {
+  auto* group = new QGroupBox(this);
+  setTextNumber(*group, kColours);
+  auto* rows = new QGridLayout(group);
+  rows->setColumnStretch(0, 1);
+  rows->setHorizontalSpacing(16);
+  addColour(*rows, "cmdCOULEUR2PTS", 1148, &ChosenColours::twoPoints);
+  addColour(*rows, "cmdCOULEUR3PTS", 1149, &ChosenColours::threePoints);
+  addColour(*rows, "cmdCOULEURBOX", 1150, &ChosenColours::box);
+  addColour(*rows, "cmdCOULEURBUT", 1341, &ChosenColours::buttons);
+  return group;
+}
+
+void frmCOULEURS::addColour(QGridLayout& rows, const char* name, int text,
+                            std::uint32_t ChosenColours::*colour) {
+  auto* label = new QLabel(this);
+  auto* button = new QPushButton(this);
+  button->setObjectName(QLatin1String(name));
+  button->setMinimumWidth(120);
+  setTextNumber(*label, text);
+  setAccessibleNumber(*button, text);
+  setToolTipNumber(*button, kChooserTitle);
+  label->setBuddy(button);
+  const int row = rows.rowCount();
+  rows.addWidget(label, row, 0);
+  rows.addWidget(button, row, 1);
+  connect(button, &QPushButton::clicked, this, [this, colour] { chooseColour(colour); });
+  m_colours.push_back({button, colour});
+}
+
+QWidget* frmCOULEURS::makeLabels() {
+  auto* group = new QGroupBox(this);
+  setTextNumber(*group, 1057);
+  auto* rows = new QGridLayout(group);
+  rows->setColumnStretch(2, 1);
+  addLabel(*rows, 0, "txtSTATU1", kFirstLabel);
+  addLabel(*rows, 1, "txtSTATU2", kSecondLabel);
+  return group;
+}
+
+void frmCOULEURS::addLabel(QGridLayout& rows, std::size_t which, const char* name, int text) {
+  auto* label = new QLabel(this);
+  auto* prefix = new QLabel(toQt(CourtColourChoice::prefix(which)), this);
+  auto* field = new QLineEdit(this);
+  field->setObjectName(QLatin1String(name));
+  field->setMinimumWidth(180);
+  setTextNumber(*label, text);
+  setAccessibleNumber(*field, text);
+  setToolTipNumber(*field, kLabelToolTip);
+  label->setBuddy(field);
+  limitField(*field, m_texts, CourtColourChoice::kLongestLabel);
+  const auto row = static_cast<int>(which);
+  rows.addWidget(label, row, 0);
+  rows.addWidget(prefix, row, 1);
+  rows.addWidget(field, row, 2);
+  connect(field, &QLineEdit::textEdited, this,
+          [this, which](const QString& typed) { m_choice.label[which] = fromQt(typed); });
+  m_labels[which] = field;
+}
+
+QWidget* frmCOULEURS::makePreview() {
+  auto* group = new QGroupBox(this);
+  setTextNumber(*group, kPreview);
+  m_court = new CourtView(this);
+  m_court->setObjectName(QStringLiteral("court"));
+  m_court->setMinimumSize(230, 365);
+  setAccessibleNumber(*m_court, kCourtName);
+  m_sample = new QPushButton(this);
+  m_sample->setObjectName(QStringLiteral("cmdEXEMPLE"));
+  // To be looked at only.
+  m_sample->setFocusPolicy(Qt::NoFocus);
+  m_sample->setAutoDefault(false);
+  setAccessibleNumber(*m_sample, kSampleToolTip);
+  setToolTipNumber(*m_sample, kSampleToolTip);
+  auto* layout = new QVBoxLayout(group);
+  layout->addWidget(m_court, 1);
+  layout->addWidget(m_sample, 0, Qt::AlignHCenter);
+  return group;
+}
+
+QPushButton* frmCOULEURS::makeButton(const char* name, int text, int toolTip) {
+  auto* button = new QPushButton(this);
+  button->setObjectName(QLatin1String(name));
+  setTextNumber(*button, text);
+  setToolTipNumber(*button, toolTip);
+  return button;
+}
+
+void frmCOULEURS::relabelWindow() {
+  // Colours and the sample are no captions: an Alt key would be a letter in a number.
+  for (const ColourButton& colour : m_colours)
+    colour.button->setText({});
+  m_sample->setText({});
+  relabel(*this, m_texts);
+  giveMnemonics(*this);
+  m_sample->setText(caption(m_texts, kSampleButton));
+  QStringList toolTips;
+  for (const CourtMark& mark : kSampleMarks)
+    toolTips << caption(m_texts, mark.isMade ? kMadeShots : kMissedShots);
+  m_court->setMarks(kSampleMarks, toolTips);
+  showColours();
+}
+
+void frmCOULEURS::chooseColour(std::uint32_t ChosenColours::*colour) {
+  const QColor chosen =
+      m_dialogs.chooseColour(this, caption(m_texts, kChooserTitle), colourOf(m_choice.colours.*colour));
+  if (!chosen.isValid())
+    return;
+  m_choice.colours.*colour = storedColour(chosen);
+  showColours();
+}
+
+void frmCOULEURS::showLabels() {
+  for (const std::size_t which : {0U, 1U})
+    m_labels[which]->setText(toQt(m_choice.label[which]));
+}
+
+void frmCOULEURS::showColours() {
+  const ChosenColours& colours = m_choice.colours;
+  for (const ColourButton& shown : m_colours) {
+    showColour(*shown.button, colours.*shown.colour);
+    shown.button->setText(colourOf(colours.*shown.colour).name().toUpper());
+  }
+  showColour(*m_sample, colours.buttons);
+  m_court->setColours({colourOf(colours.twoPoints), colourOf(colours.box), colourOf(colours.threePoints)});
+}
+
+bool frmCOULEURS::apply() {
+  if (const int problem = m_choice.problem()) {
+    m_dialogs.warn(this, caption(m_texts, kWarningTitle), caption(m_texts, problem));
+    return false;
+  }
+  const bool isOnDisk = m_choice.save(m_settings);
+  m_choice = CourtColourChoice::of(m_settings);
+  showLabels();
+  emit applied();
+  if (!isOnDisk)
+    m_dialogs.warn(this, caption(m_texts, kWarningTitle),
+                   toQt(m_texts.withPlaceholder(kNotOnDisk, m_settings.path())));
+  return true;
+}
+
+void frmCOULEURS::reject() {
+  if (m_choice != CourtColourChoice::of(m_settings)) {
+    const SaveChoice answer = m_dialogs.askToSave(this, windowTitle(), caption(m_texts, kAskToSave));
+    if (answer == SaveChoice::Stay || (answer == SaveChoice::Save && !apply()))
+      return;
+  }
+  QDialog::reject();
+}
+
+} // namespace hooptab

@@ -1,0 +1,60 @@
+// The colour settings: colours of the court and of the live window's buttons, labels of the user's two
+// statistics, and a picture of what they will look like. What is applied goes to the settings at once; that
+// open windows follow is the main window's affair.
+#pragma once
+
+#include "appearance/CourtColourChoice.h"
+
+#include <QDialog>
+
+#include <vector>
+
+class QGridLayout;
+class QLineEdit;
+class QPushButton;
+
+namespace hooptab {
+
+class CourtView;
+class Dialogs;
+
+class frmCOULEURS : public QDialog {
+  Q_OBJECT
+
+ public:
+  frmCOULEURS(Settings& settings, const Texts& texts, Dialogs& dialogs, QWidget* parent = nullptr);
+
+  void relabelWindow();   // the language has changed
+  void reject() override; // asks when there are changes that are not applied
+
+ signals:
+  void applied();
+  void languageAsked(); // F12
+
+ private:
+  struct ColourButton {
+    QPushButton* button;
+    std::uint32_t ChosenColours::*colour;
+  };
+  QWidget* makeColours();
+  QWidget* makeLabels();
+  QWidget* makePreview();
+  void addColour(QGridLayout& rows, const char* name, int text, std::uint32_t ChosenColours::*colour);
+  void addLabel(QGridLayout& rows, std::size_t which, const char* name, int text);
+  QPushButton* makeButton(const char* name, int text, int toolTip);
+  void chooseColour(std::uint32_t ChosenColours::*colour);
+  void showLabels();
+  void showColours();
+  bool apply();
+
+  Settings& m_settings;
+  const Texts& m_texts;
+  Dialogs& m_dialogs;
+  CourtColourChoice m_choice;
+  std::vector<ColourButton> m_colours;
+  QLineEdit* m_labels[2] = {};
+  CourtView* m_court = nullptr;
+  QPushButton* m_sample = nullptr;
+};
+
+} // namespace hooptab
