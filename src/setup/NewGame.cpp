@@ -1,0 +1,236 @@
+#include "setup/NewGame.h"
+
+#include "storage/Module1.h"
+#include "storage/codepage.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <limits>
+#include <set>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::string_view kEnding = ".GAM";
+
+constexpr int kInvalidMinutes = 1130;
+constexpr int kInvalidPeriods = 1131;
+constexpr int kInvalidBonus = 1132;
+constexpr int kInvalidPersonalFouls = 1133;
+constexpr int kInvalidTechnicalFouls = 1134;
+constexpr int kChooseTeams = 1135;
+constexpr int kChooseInputType = 1205;
+constexpr int kTooManyPlayers[2] = {1274, 1275};
+constexpr int kSameTeam = 1406;
+constexpr int kFinishedGameIsLost = 1860;
+constexpr int kUnfinishedGameIsLost = 1861;
+constexpr int kOtherFileIsLost = 1862;
+constexpr int kEnterDate = 1869;
+constexpr int kChooseGameType = 1870;
+constexpr int kChooseMainTeam = 1871;
+
+// What no common file system takes in a name.
+std::string asFileName(std::string text) {
+  std::ranges::replace_if(
+      text,
+      [](char letter) {
+        return static_cast<unsigned char>(letter) < ' ' || letter == '\x7F' ||
+               std::string_view("/\\:*?\"<>|").find(letter) != std::string_view::npos;
+      },
+      '-');
+  return text;
+}
+
+std::vector<NewGame::Player> playersOf(const std::vector<TeamPlayer>& stored) {
+  using enum NewGame::Eligibility;
+  std::vector<NewGame::Player> players;
+  std::set<std::string> numbers;
+  for (const TeamPlayer& player : stored) {
+    std::string number(Module1::trimmed(player.number));
+    const bool isFirst = numbers.insert(number).second;
+    const auto eligibility = !isJersey(number) ? NoJersey : isFirst ? CanPlay : NumberTaken;
+    players.push_back(
+        {std::move(number), player.record.position, player.record.name, eligibility, eligibility == CanPlay});
+  }
+  return players;
+}
+
+} // namespace
+
+int NewGame::Side::checkedPlayers() const {
+  return static_cast<int>(std::ranges::count_if(players, &Player::isChecked));
+}
+
+NewGame::NewGame(TeamStore& store, Settings& settings, const Texts& texts, std::string today,
+                 const LastChoices& last)
+    : date(today), place(last.place), statistician(last.statistician), m_store(store), m_settings(settings),
+      m_texts(texts), m_today(std::move(today)), m_teams(store.list()) {
+  const std::vector<int> types = offeredChoices(kFirstGameTypeText, texts);
+  gameType = std::ranges::find(types, last.gameType) != types.end() ? last.gameType : kNone;
+  const bool isInputType = last.inputType >= 0 && last.inputType < static_cast<int>(kInputTypes.size());
+  inputType = isInputType ? last.inputType : kNone;
+  for (int side = 0; side < 2; ++side) {
+    const auto found = std::ranges::find(m_teams, last.teamId[side], &TeamEntry::id);
+    if (last.teamId[side] > 0 && found != m_teams.end())
+      chooseTeam(side, static_cast<int>(found - m_teams.begin()));
+  }
+}
+
+void NewGame::chooseTeam(int side, int team) {
+  const TeamEntry& chosen = m_teams.at(static_cast<std::size_t>(team));
+  const TeamRecord record = m_store.read(chosen.key);
+  sides[side] = {team, record.name, record.category, record.storedColour,
+                 playersOf(m_store.players(chosen.key))};
+  if (record.isMain)
+    mainTeam = side;
+  else if (mainTeam == side)
+    mainTeam = kNone;
+  if (side == 1 || mainTeam == side) {
+    rules = {record.periods, record.minutesPerPeriod, record.bonus, record.personalFoulLimit,
+             record.technicalFoulLimit};
+    date = m_today;
+  }
+}
+
+void NewGame::setChecked(int side, std::size_t player, bool isChecked) {
+  Player& chosen = sides[side].players.at(player);
+  chosen.isChecked = isChecked && chosen.eligibility == Eligibility::CanPlay;
+}
+
+void NewGame::stepPosition(int side, std::size_t player) {
+  int& position = sides[side].players.at(player).position;
+  position = nextChoice(kFirstPositionText, position, m_texts);
+}
+
+int NewGame::missing() const {
+  if (sides[0].team == kNone || sides[1].team == kNone)
+    return kChooseTeams;
+  if (date.empty())
+    return kEnterDate;
+  if (gameType == kNone)
+    return kChooseGameType;
+  if (inputType == kNone)
+    return kChooseInputType;
+  if (kInputTypes.at(static_cast<std::size_t>(inputType)).usesKeypad && mainTeam == kNone)
+    return kChooseMainTeam;
+  return 0;
+}
+
+int NewGame::problem() const {
+  // No minutes at all are a game without time.
+  if (Module1::leadingNumber(rules.minutesPerPeriod) < 0)
+    return kInvalidMinutes;
+  if (Module1::leadingNumber(rules.periods) <= 0)
+    return kInvalidPeriods;
+  if (sides[0].team == sides[1].team)
+    return kSameTeam;
+  if (Module1::leadingNumber(rules.bonus) <= 0)
+    return kInvalidBonus;
+  if (inputType == kNone)
+    return kChooseInputType;
+  if (Module1::leadingNumber(rules.personalFoulLimit) <= 0)
+    return kInvalidPersonalFouls;
+  if (Module1::leadingNumber(rules.technicalFoulLimit) <= 0)
+    return kInvalidTechnicalFouls;
+  if (sides[0].team == kNone || sides[1].team == kNone)
+    return kChooseTeams;
+  for (int side = 0; side < 2; ++side) {
+    if (sides[side].checkedPlayers() > kMostPlayers)
+      return kTooManyPlayers[side];
+  }
+  return 0;
+}
+
+const TeamEntry* NewGame::entry(int side) const {
+  const int team = sides[side].team;
+  return team == kNone ? nullptr : &m_teams.at(static_cast<std::size_t>(team));
+}
+
+std::string NewGame::listText(int side) const {
+  const TeamEntry* team = entry(side);
+  return team == nullptr ? std::string() : team->abbreviation + '-' + team->category;
+}
+
+std::string NewGame::abbreviation(int side) const {
+  return std::string(Module1::trimmed(Module1::field(listText(side), 1, '-')));
+}
+
+std::string NewGame::proposedFileName() const {
+  const std::string_view type = choiceName(kFirstGameTypeText, gameType, m_texts);
+  return asFileName(date + ' ' + std::string(type) + ' ' + listText(0) + ' ' + listText(1)) +
+         std::string(kEnding);
+}
+
+std::string NewGame::overwriteQuestion(const std::string& path) const {
+  GameDetails lost;
+  const GameFileProblem problem = GameFile(m_store.store(), path).readDetails(lost);
+  if (problem == GameFileProblem::Absent)
+    return {};
+  if (problem != GameFileProblem::None)
+    return m_texts.withPlaceholder(kOtherFileIsLost, path);
+  const std::string question =
+      m_texts.withPlaceholder(lost.isFinished ? kFinishedGameIsLost : kUnfinishedGameIsLost, path);
+  const std::string game = lost.abbreviation[0] + " - " + lost.abbreviation[1] + " (" + lost.date + ')';
+  return Module1::withPlaceholder(question, game, "YYY");
+}
+
+GameDetails NewGame::details() const {
+  GameDetails details;
+  details.inputType = kInputTypes.at(static_cast<std::size_t>(inputType)).stored;
+  details.date = date;
+  details.mainTeam = mainTeam == 1 ? 1 : 0;
+  for (int side = 0; side < 2; ++side) {
+    details.teamId[side] = entry(side) == nullptr ? 0 : entry(side)->id;
+    details.teamColour[side] = sides[side].colour;
+    details.abbreviation[side] = abbreviation(side);
+    details.name[side] = sides[side].name;
+    details.category[side] = sides[side].category;
+    details.statisticLabel[side] = m_settings.statisticLabel[side];
+  }
+  details.place = place;
+  details.statistician = statistician;
+  // Its seconds have to be a number, too.
+  details.minutesPerPeriod =
+      std::min(Module1::leadingNumber(rules.minutesPerPeriod), std::numeric_limits<int>::max() / 60);
+  details.typedRules = rules;
+  details.type = gameType;
+  details.notes = notes;
+  return details;
+}
+
+GameFileProblem NewGame::create(const std::string& path) {
+  std::vector<RosterPlayer> rosters[2];
+  for (int side = 0; side < 2; ++side) {
+    for (const Player& player : sides[side].players) {
+      if (player.isChecked)
+        rosters[side].push_back({player.number, player.position, player.name});
+    }
+  }
+  const GameFileProblem problem = GameFile(m_store.store(), path).create(details(), rosters[0], rosters[1]);
+  if (problem != GameFileProblem::None)
+    return problem;
+  if (mainTeam == kNone)
+    mainTeam = 0;
+  m_settings.lastGameFolder = std::filesystem::path(path).parent_path().string();
+  m_settings.saveKeypadIsActive(kInputTypes.at(static_cast<std::size_t>(inputType)).usesKeypad);
+  return GameFileProblem::None;
+}
+
+LastChoices NewGame::choices() const {
+  LastChoices choices;
+  for (int side = 0; side < 2; ++side)
+    choices.teamId[side] = entry(side) == nullptr ? 0 : entry(side)->id;
+  choices.place = place;
+  choices.statistician = statistician;
+  choices.gameType = gameType;
+  choices.inputType = inputType;
+  return choices;
+}
+
+std::string withGameEnding(const std::string& path) {
+  const std::size_t begin = path.size() - std::min(path.size(), kEnding.size());
+  return codepage::equalNames(path.substr(begin), kEnding) ? path : path + std::string(kEnding);
+}
+
+} // namespace hooptab

@@ -1,0 +1,113 @@
+// A game that is being set up: the whole form of the new-game window as plain data, and its rules. Which team
+// sets the parameters, what still misses, what is wrong, under which name the game is proposed, and the file
+// that it becomes. Knows no window and no calendar: today's date is given to it.
+#pragma once
+
+#include "storage/ChoiceTexts.h"
+#include "storage/GameFile.h"
+#include "storage/Texts.h"
+#include "teams/TeamStore.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace hooptab {
+
+// An input type by its position in the list. Live input with and without the keypad is the same in the file.
+struct InputType {
+  int text;
+  int stored;
+  bool usesKeypad;
+};
+inline constexpr std::array<InputType, 3> kInputTypes = {
+    {{1272, 0, false}, {1273, 0, true}, {1271, 1, false}}};
+
+// What the next game begins with.
+struct LastChoices {
+  int teamId[2] = {}; // visitors, home; 0 for none
+  std::string place;
+  std::string statistician;
+  int gameType = 2;  // Season
+  int inputType = 0; // position; Live
+  friend bool operator==(const LastChoices&, const LastChoices&) = default;
+};
+
+class NewGame {
+ public:
+  static constexpr int kNone = -1;
+  static constexpr int kMostPlayers = 15; // of a side
+
+  enum class Eligibility : std::uint8_t { CanPlay, NoJersey, NumberTaken };
+  struct Player {
+    std::string number;
+    int position = kNoPosition;
+    std::string name;
+    Eligibility eligibility = Eligibility::CanPlay;
+    bool isChecked = false; // never for one who cannot play
+  };
+  struct Side {
+    int team = kNone; // position in teams()
+    std::string name;
+    std::string category;
+    std::uint32_t colour = 0; // as stored; 0 when missing
+    std::vector<Player> players;
+    [[nodiscard]] int checkedPlayers() const;
+  };
+
+  // `today` is yyyy-mm-dd. The teams of the last game are chosen where they are still there.
+  NewGame(TeamStore& store, Settings& settings, const Texts& texts, std::string today,
+          const LastChoices& last);
+
+  // Fields that take whatever is typed. Numbers are read leniently and written as they are.
+  Side sides[2]; // visitors, home
+  int mainTeam = kNone;
+  TypedRules rules;
+  std::string date;
+  int gameType = kNone;  // index, as stored
+  int inputType = kNone; // position in kInputTypes
+  std::string place;
+  std::string statistician;
+  std::string notes;
+
+  const std::vector<TeamEntry>& teams() const { return m_teams; }
+  // Takes over name, category, colour, main team and players. The home team and the main team also set the
+  // rules, and the date to today.
+  void chooseTeam(int side, int team);
+  void setChecked(int side, std::size_t player, bool isChecked); // nothing for one who cannot play
+  void stepPosition(int side, std::size_t player);
+
+  // The text that names what has to be chosen before the game can be accepted; 0 for nothing.
+  [[nodiscard]] int missing() const;
+  [[nodiscard]] bool canAccept() const { return missing() == 0; }
+  // The text of the first thing that is wrong; 0 for nothing.
+  [[nodiscard]] int problem() const;
+
+  [[nodiscard]] std::string proposedFileName() const; // bare, fit for a file name
+  // What has to be asked before a file is written over: names the game that would be lost. Empty where
+  // nothing stands.
+  [[nodiscard]] std::string overwriteQuestion(const std::string& path) const;
+  // Writes the game, and sets the folder of the last game and the keypad switch. A form without a main team
+  // gets the visitors. Unless None is returned nothing is changed.
+  [[nodiscard]] GameFileProblem create(const std::string& path);
+  [[nodiscard]] LastChoices choices() const;
+
+ private:
+  [[nodiscard]] const TeamEntry* entry(int side) const;
+  [[nodiscard]] std::string listText(int side) const;
+  [[nodiscard]] std::string abbreviation(int side) const;
+  [[nodiscard]] GameDetails details() const;
+
+  TeamStore& m_store;
+  Settings& m_settings;
+  const Texts& m_texts;
+  std::string m_today;
+  std::vector<TeamEntry> m_teams;
+};
+
+// The path, with the ending of game files where it has none (in any letter case).
+[[nodiscard]] std::string withGameEnding(const std::string& path);
+
+} // namespace hooptab

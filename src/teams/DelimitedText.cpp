@@ -1,0 +1,149 @@
+#include "teams/DelimitedText.h"
+
+#include "storage/Module1.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view kLineEnds = "\r\n";
+
+char separatorOf(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kLineEnds);
+  if (first == std::string_view::npos)
+    return ',';
+  text.remove_prefix(first);
+  bool hasTab = false;
+  bool hasSemicolon = false;
+  bool isQuoted = false;
+  for (const char letter : text) {
+    if (letter == '"')
+      isQuoted = !isQuoted;
+    else if (!isQuoted && kLineEnds.find(letter) != std::string_view::npos)
+      break;
+    hasTab = hasTab || (!isQuoted && letter == '\t');
+    hasSemicolon = hasSemicolon || (!isQuoted && letter == ';');
+  }
+  return hasTab ? '\t' : hasSemicolon ? ';' : ',';
+}
+
+std::string cleaned(std::string field) {
+  constexpr unsigned char kFirstPrintable = 0x20;
+  std::ranges::replace_if(
+      field, [](char letter) { return static_cast<unsigned char>(letter) < kFirstPrintable; }, ' ');
+  return std::string(Module1::trimmed(field));
+}
+
+class Reader {
+ public:
+  explicit Reader(std::string_view text) : m_text(text), m_separator(separatorOf(text)) {}
+
+  std::vector<DelimitedRow> rows() {
+    std::vector<DelimitedRow> rows;
+    while (m_at < m_text.size()) {
+      DelimitedRow row = nextRow();
+      if (row.hasOpenQuote ||
+          std::ranges::any_of(row.fields, [](const std::string& field) { return !field.empty(); }))
+        rows.push_back(std::move(row));
+    }
+    return rows;
+  }
+
+ private:
+  DelimitedRow nextRow() {
+    DelimitedRow row;
+    row.line = m_line;
+    do
+      row.fields.push_back(nextField(row.hasOpenQuote));
+    while (take(m_separator));
+    if (take('\r'))
+      take('\n');
+    else
+      take('\n');
+    ++m_line;
+    return row;
+  }
+
+  std::string nextField(bool& hasOpenQuote) {
+    while (m_at < m_text.size() && m_text[m_at] == ' ')
+      ++m_at;
+    std::string field;
+    if (m_at < m_text.size() && m_text[m_at] == '"')
+      field = quoted(hasOpenQuote);
+    const std::size_t end = std::min(m_text.find_first_of(m_ends, m_at), m_text.size());
+    field.append(m_text.substr(m_at, end - m_at));
+    m_at = end;
+    return cleaned(std::move(field));
+  }
+
+  std::string quoted(bool& hasOpenQuote) {
+    std::string field;
+    int lines = 0;
+    for (std::size_t at = m_at + 1; at < m_text.size(); ++at) {
+      if (m_text[at] == '"' && at + 1 < m_text.size() && m_text[at + 1] == '"') {
+        ++at;
+      } else if (m_text[at] == '"') {
+        if (!endsField(at + 1))
+          break;
+        m_at = at + 1;
+        m_line += lines;
+        return field;
+      }
+      const bool isLineFeedOfPair = m_text[at] == '\n' && m_text[at - 1] == '\r';
+      if (!isLineFeedOfPair && kLineEnds.find(m_text[at]) != std::string_view::npos)
+        ++lines;
+      if (!isLineFeedOfPair)
+        field.push_back(m_text[at]);
+    }
+    hasOpenQuote = true; // the quote is taken for a letter, and reading goes on at the next line
+    return {};
+  }
+
+  bool endsField(std::size_t at) const {
+    const std::size_t next = std::min(m_text.find_first_not_of(' ', at), m_text.size());
+    return next == m_text.size() || m_ends.find(m_text[next]) != std::string::npos;
+  }
+
+  bool take(char letter) {
+    if (m_at >= m_text.size() || m_text[m_at] != letter)
+      return false;
+    ++m_at;
+    return true;
+  }
+
+  std::string_view m_text;
+  char m_separator;
+  const std::string m_ends{m_separator, '\r', '\n'};
+  std::size_t m_at = 0;
+  int m_line = 1;
+};
+
+} // namespace
+
+std::vector<DelimitedRow> parseDelimited(std::string_view text) {
+  if (text.starts_with(kByteOrderMark))
+    text.remove_prefix(kByteOrderMark.size());
+  return Reader(text).rows();
+}
+
+std::string delimitedRow(const std::vector<std::string>& fields) {
+  std::string row;
+  for (const std::string& field : fields) {
+    if (!row.empty() || &field != &fields.front())
+      row.push_back(',');
+    if (field.find_first_of(",;\t\"\r\n") == std::string::npos) {
+      row.append(field);
+      continue;
+    }
+    row.push_back('"');
+    for (const char letter : field)
+      row.append(letter == '"' ? 2 : 1, letter);
+    row.push_back('"');
+  }
+  return row + "\r\n";
+}
+
+} // namespace hooptab

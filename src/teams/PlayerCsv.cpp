@@ -1,0 +1,188 @@
+#include "teams/PlayerCsv.h"
+
+#include "storage/ChoiceTexts.h"
+#include "storage/Module1.h"
+#include "storage/codepage.h"
+#include "teams/DelimitedText.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kInvalidNumber = 1171;
+constexpr int kNoName = 1173;
+constexpr int kTooLong = 1817;
+constexpr int kLine = 1840;
+constexpr int kUnknownPosition = 1841;
+constexpr int kNumberAgain = 1842;
+constexpr int kOpenQuote = 1843;
+constexpr int kIncompleteHeader = 1844;
+constexpr int kTooManyRows = 1845;
+constexpr std::size_t kMostPlayers = 1000;
+constexpr std::size_t kLongestDetail = 40;
+
+enum Column : std::size_t { kNumber, kPosition, kName, kHeight, kWeight, kAge, kGrade, kColumns };
+// The header's name of each column; others by which people call it.
+constexpr std::array<int, kColumns> kHeaders = {1838, 1839, 1023, 1320, 1321, 1322, 1323};
+constexpr std::pair<std::string_view, Column> kOtherNames[] = {
+    {"no", kNumber},     {"no.", kNumber},      {"n°", kNumber},    {"nº", kNumber},     {"#", kNumber},
+    {"jersey", kNumber}, {"chandail", kNumber}, {"pos", kPosition}, {"pos.", kPosition}, {"name", kName},
+    {"player", kName},   {"nom", kName},        {"joueur", kName}};
+
+constexpr std::pair<std::string_view, int> kAbbreviations[] = {{"c", 0}, {"f", 1},  {"sf", 1}, {"pf", 1},
+                                                               {"g", 2}, {"pg", 2}, {"sg", 2}};
+
+bool isSame(std::string_view left, std::string_view right) {
+  return codepage::equalNames(codepage::fromUtf8(left), codepage::fromUtf8(right));
+}
+
+std::optional<Column> columnOf(std::string_view cell, const Texts& texts) {
+  for (std::size_t column = 0; column < kColumns; ++column) {
+    for (const Language language : {Language::English, Language::French}) {
+      if (isSame(cell, texts.text(kHeaders[column], language)))
+        return static_cast<Column>(column);
+    }
+  }
+  for (const auto& [name, column] : kOtherNames) {
+    if (isSame(cell, name))
+      return column;
+  }
+  return std::nullopt;
+}
+
+std::optional<int> positionOf(std::string_view cell, const Texts& texts) {
+  if (cell.empty())
+    return kNoPosition;
+  for (int index = 0; index < kChoiceCount; ++index) {
+    if (choiceName(kFirstPositionText, index, texts).empty())
+      continue;
+    if (cell == std::to_string(index))
+      return index;
+    for (const Language language : {Language::English, Language::French}) {
+      const std::string_view name = texts.text(kFirstPositionText + index, language);
+      if (isSame(cell, name) || (index != kNoPosition && cell.size() == 1 && isSame(cell, name.substr(0, 1))))
+        return index;
+    }
+  }
+  for (const auto& [name, index] : kAbbreviations) {
+    if (isSame(cell, name))
+      return index;
+  }
+  return std::nullopt;
+}
+
+// Where each column stands in the rows; nothing for one that is missing.
+using Places = std::array<std::optional<std::size_t>, kColumns>;
+
+std::optional<Places> headerIn(const DelimitedRow& row, const Texts& texts) {
+  Places places;
+  std::size_t named = 0;
+  for (std::size_t place = 0; place < row.fields.size(); ++place) {
+    const std::optional<Column> column = columnOf(row.fields[place], texts);
+    if (!column || places[*column])
+      continue;
+    places[*column] = place;
+    ++named;
+  }
+  return named < 2 ? std::nullopt : std::optional(places);
+}
+
+Places placesInOrder() {
+  Places places;
+  for (std::size_t column = 0; column < kColumns; ++column)
+    places[column] = column;
+  return places;
+}
+
+class RowReader {
+ public:
+  RowReader(const Texts& texts, const Places& places) : m_texts(texts), m_places(places) {}
+
+  void read(const DelimitedRow& row, CsvPlayers& into) const {
+    const auto refuse = [&](int text, const std::string& detail) {
+      into.problems.push_back({row.line, text, codepage::storedForm(detail.substr(0, kLongestDetail))});
+    };
+    if (row.hasOpenQuote)
+      return refuse(kOpenQuote, {});
+    const std::string number = cell(row, kNumber);
+    if (!isJersey(number))
+      return refuse(kInvalidNumber, number);
+    const std::optional<int> position = positionOf(cell(row, kPosition), m_texts);
+    if (!position)
+      return refuse(kUnknownPosition, cell(row, kPosition));
+    TeamPlayer player{number,
+                      {*position, cell(row, kName), cell(row, kHeight), cell(row, kWeight), cell(row, kAge),
+                       cell(row, kGrade)},
+                      {}};
+    if (player.record.name.empty())
+      return refuse(kNoName, {});
+    if (std::ranges::find(into.players, number, &TeamPlayer::number) != into.players.end())
+      return refuse(kNumberAgain, number);
+    if (!fitsInValue(playerValue(player.record)))
+      return refuse(kTooLong, {});
+    into.players.push_back(std::move(player));
+  }
+
+ private:
+  std::string cell(const DelimitedRow& row, Column column) const {
+    const std::optional<std::size_t> place = m_places[column];
+    return place && *place < row.fields.size() ? withoutCommas(row.fields[*place]) : std::string();
+  }
+
+  const Texts& m_texts;
+  const Places& m_places;
+};
+
+} // namespace
+
+CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts) {
+  CsvPlayers result;
+  const std::vector<DelimitedRow> rows = parseDelimited(text);
+  if (rows.empty())
+    return result;
+  const std::optional<Places> header = headerIn(rows.front(), texts);
+  if (header && (!(*header)[kNumber] || !(*header)[kName])) {
+    result.problems.push_back({rows.front().line, kIncompleteHeader, {}});
+    return result;
+  }
+  const Places places = header.value_or(placesInOrder());
+  const RowReader reader(texts, places);
+  for (std::size_t row = header ? 1 : 0; row < rows.size(); ++row) {
+    if (result.players.size() == kMostPlayers) {
+      result.problems.push_back({rows[row].line, kTooManyRows, std::to_string(kMostPlayers)});
+      break;
+    }
+    reader.read(rows[row], result);
+  }
+  return result;
+}
+
+std::string problemText(const CsvProblem& problem, const Texts& texts) {
+  std::string words = texts.withPlaceholder(problem.text, problem.detail);
+  if (problem.text == kInvalidNumber && !problem.detail.empty())
+    words += " (" + problem.detail + ")";
+  return Module1::withPlaceholder(texts.withPlaceholder(kLine, std::to_string(problem.line)), words, "YYY");
+}
+
+std::string playersCsv(const std::vector<TeamPlayer>& players, const Texts& texts) {
+  std::vector<std::string> fields;
+  for (const int header : kHeaders)
+    fields.emplace_back(texts.text(header));
+  std::string csv = delimitedRow(fields);
+  for (const TeamPlayer& player : players) {
+    const PlayerRecord& record = player.record;
+    std::string position(choiceName(kFirstPositionText, record.position, texts));
+    if (position.empty())
+      position = std::to_string(record.position);
+    csv += delimitedRow({player.number, std::move(position), record.name, record.height, record.weight,
+                         record.age, record.grade});
+  }
+  return csv;
+}
+
+} // namespace hooptab

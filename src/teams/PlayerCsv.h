@@ -1,0 +1,38 @@
+// Players as a table of text, for spreadsheets: number, position, name, height, weight, age, grade. Reads
+// what people have (comma, semicolon or tab; quoted fields; with or without a header row in either language)
+// and names each row that it leaves out. Works on UTF-8 text; knows no file and no window.
+#pragma once
+
+#include "storage/Texts.h"
+#include "teams/TeamStore.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace hooptab {
+
+struct CsvProblem {
+  int line = 0;       // of the text, from 1, where the row begins
+  int text = 0;       // number of the text that says what is wrong
+  std::string detail; // the value meant, for "XXX" in it
+};
+
+struct CsvPlayers {
+  std::vector<TeamPlayer> players; // the good rows, in their order
+  std::vector<CsvProblem> problems;
+};
+
+// A row is left out when its number is no jersey (1171), its position is unknown, its name is empty (1173),
+// its number stands in an earlier good row, or its record would not fit. An empty position is N/A. Positions
+// are names or first letters in either language, the usual abbreviations (C, F, G, PF, SF, PG, SG) or the
+// index, whatever the letter case. Empty rows are passed over.
+[[nodiscard]] CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts);
+
+// "Line 12: ...", in the language in use.
+[[nodiscard]] std::string problemText(const CsvProblem& problem, const Texts& texts);
+
+// With a header row and positions in the language in use; commas, CR LF, fields quoted where needed.
+[[nodiscard]] std::string playersCsv(const std::vector<TeamPlayer>& players, const Texts& texts);
+
+} // namespace hooptab

@@ -1,0 +1,118 @@
+#include "teams/PlayerExchange.h"
+
+#include "appearance/Dialogs.h"
+#include "appearance/relabel.h"
+#include "storage/AtomicFile.h"
+#include "storage/Module1.h"
+#include "storage/codepage.h"
+#include "teams/PlayerCsv.h"
+#include "teams/TeamSheet.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QStringDecoder>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kErrorTitle = 1060;
+constexpr int kWarningTitle = 1139;
+constexpr int kCannotBeRead = 1519;
+constexpr int kNotWritten = 1820;
+constexpr int kImportTip = 1826;
+constexpr int kExportTip = 1830;
+constexpr int kTableFilter = 1831;
+constexpr int kTaken = 1832;
+constexpr int kLeftOut = 1833;
+constexpr int kAndMore = 1834;
+constexpr int kReplaceFile = 1836;
+constexpr int kNoPlayers = 1802;
+constexpr qsizetype kMostProblemsShown = 12;
+
+} // namespace
+
+QString decodedText(const QByteArray& bytes) {
+  if (const auto encoding = QStringConverter::encodingForData(bytes))
+    return QStringDecoder(*encoding)(bytes);
+  QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+  const QString text = utf8(bytes);
+  return utf8.hasError() ? toQt(codepage::toUtf8(bytes.toStdString())) : text;
+}
+
+PlayerExchange::PlayerExchange(FileSystem& files, const Texts& texts, Dialogs& dialogs)
+    : m_files(files), m_texts(texts), m_dialogs(dialogs) {}
+
+bool PlayerExchange::importFile(QWidget* parent, TeamSheet& sheet, const QString& folder) {
+  const QString path = m_dialogs.chooseFile(parent, toQt(m_texts.text(kImportTip)), folder,
+                                            fileFilter(toQt(m_texts.text(kTableFilter))));
+  if (path.isEmpty())
+    return false;
+  std::string bytes;
+  FileStamp stamp;
+  if (readWholeFile(m_files, fromQt(path), bytes, stamp) != ReadOutcome::Read) {
+    m_dialogs.warn(parent, toQt(m_texts.text(kErrorTitle)),
+                   toQt(m_texts.withPlaceholder(kCannotBeRead, fromQt(QDir::toNativeSeparators(path)))));
+    return false;
+  }
+  return take(parent, sheet, decodedText(QByteArray::fromStdString(bytes)));
+}
+
+bool PlayerExchange::paste(QWidget* parent, TeamSheet& sheet) {
+  return take(parent, sheet, QGuiApplication::clipboard()->text());
+}
+
+bool PlayerExchange::take(QWidget* parent, TeamSheet& sheet, const QString& text) {
+  const CsvPlayers read = parsePlayersCsv(fromQt(text), m_texts);
+  QStringList problems;
+  for (const CsvProblem& problem : read.problems)
+    problems << toQt(problemText(problem, m_texts));
+  int taken = 0;
+  for (const TeamPlayer& player : read.players) {
+    const PlayerFields fields = fieldsOf(player);
+    if (sheet.put(fields) >= 0)
+      ++taken;
+    else
+      problems << toQt(sheet.announcement(fields, m_texts));
+  }
+
+  QString message = taken == 0 && problems.isEmpty()
+                        ? toQt(m_texts.text(kNoPlayers))
+                        : toQt(m_texts.withPlaceholder(kTaken, std::to_string(taken)));
+  if (!problems.isEmpty())
+    message += QStringLiteral("\n\n") + toQt(m_texts.text(kLeftOut));
+  for (const QString& problem : problems.mid(0, kMostProblemsShown))
+    message += QStringLiteral("\n• ") + problem;
+  if (problems.size() > kMostProblemsShown)
+    message += QStringLiteral("\n• ") +
+               toQt(m_texts.withPlaceholder(kAndMore, std::to_string(problems.size() - kMostProblemsShown)));
+  if (problems.isEmpty() && taken > 0)
+    m_dialogs.inform(parent, toQt(m_texts.text(kImportTip)), message);
+  else
+    m_dialogs.warn(parent, toQt(m_texts.text(kWarningTitle)), message);
+  return taken > 0;
+}
+
+void PlayerExchange::exportFile(QWidget* parent, const TeamSheet& sheet, const QString& folder,
+                                const QString& name) {
+  QString path = m_dialogs.chooseFileToSave(
+      parent, toQt(m_texts.text(kExportTip)), folder + u'/' + name + QStringLiteral(".csv"),
+      fileFilter(toQt(m_texts.text(kTableFilter))), QStringLiteral("csv"));
+  if (path.isEmpty())
+    return;
+  const std::string shown = fromQt(QDir::toNativeSeparators(path));
+  FileStamp stamp;
+  if (m_files.stamp(fromQt(path), stamp) &&
+      !m_dialogs.ask(parent, toQt(m_texts.text(kWarningTitle)),
+                     toQt(m_texts.withPlaceholder(kReplaceFile, shown))))
+    return;
+  // With a byte order mark, by which spreadsheets know that it is UTF-8.
+  if (!replaceWholeFile(m_files, fromQt(path), "\xEF\xBB\xBF" + playersCsv(sheet.players(), m_texts), stamp))
+    m_dialogs.warn(parent, toQt(m_texts.text(kErrorTitle)),
+                   toQt(m_texts.withPlaceholder(kNotWritten, shown)));
+}
+
+} // namespace hooptab

@@ -1,0 +1,67 @@
+#include "teams/PlayerTableModel.h"
+
+#include "appearance/relabel.h"
+
+#include <QCollator>
+#include <QLocale>
+
+namespace hooptab {
+
+namespace {
+
+// By PlayerColumn.
+constexpr int kHeaders[kPlayerColumns] = {1838, 1023, 1839, 1839, 1320, 1321, 1322, 1323};
+
+} // namespace
+
+PlayerTableModel::PlayerTableModel(TeamSheet& sheet, const Texts& texts, QObject* parent)
+    : QAbstractTableModel(parent), m_sheet(sheet), m_texts(texts) {}
+
+void PlayerTableModel::changed() {
+  beginResetModel();
+  endResetModel();
+  emit headerDataChanged(Qt::Horizontal, 0, kPlayerColumns - 1);
+}
+
+int PlayerTableModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(m_sheet.players().size());
+}
+
+int PlayerTableModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kPlayerColumns;
+}
+
+QVariant PlayerTableModel::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    return {};
+  const auto column = static_cast<PlayerColumn>(index.column());
+  if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
+    return toQt(m_sheet.text(index.row(), column, m_texts));
+  if (role == Qt::TextAlignmentRole && column == PlayerColumn::Number)
+    return int(Qt::AlignRight | Qt::AlignVCenter);
+  return {};
+}
+
+QVariant PlayerTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= kPlayerColumns)
+    return {};
+  return caption(m_texts, kHeaders[section]);
+}
+
+void PlayerTableModel::sort(int column, Qt::SortOrder order) {
+  if (column < 0 || column >= kPlayerColumns)
+    return;
+  // Of a language, whatever the system's is: without one there are no numbers in texts.
+  QCollator collator{QLocale(m_texts.language() == Language::French ? QLocale::French : QLocale::English)};
+  collator.setNumericMode(true);
+  collator.setCaseSensitivity(Qt::CaseInsensitive);
+  emit layoutAboutToBeChanged();
+  m_sheet.sort(static_cast<PlayerColumn>(column), m_texts,
+               [&](const std::string& left, const std::string& right) {
+                 const int difference = collator.compare(toQt(left), toQt(right));
+                 return order == Qt::AscendingOrder ? difference < 0 : difference > 0;
+               });
+  emit layoutChanged();
+}
+
+} // namespace hooptab

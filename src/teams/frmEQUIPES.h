@@ -1,0 +1,110 @@
+// The team editor: the list of teams, the fields of the one chosen, and its players. Lays out and forwards;
+// what Add/Save does to the players is TeamSheet's to decide, and TeamStore writes. Asks before anything
+// typed is lost.
+#pragma once
+
+#include "appearance/ChildWindow.h"
+#include "teams/PlayerExchange.h"
+#include "teams/TeamSheet.h"
+
+#include <array>
+#include <cstdint>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTableView;
+
+namespace hooptab {
+
+class PlayerTableModel;
+class TeamList;
+
+class frmEQUIPES : public ChildWindow {
+  Q_OBJECT
+ public:
+  // All must outlive it.
+  frmEQUIPES(TeamStore& teams, const Texts& texts, Dialogs& dialogs, QWidget* parent = nullptr);
+
+  void relabelWindow() override;
+  void applyColours() override;
+  QByteArray arrangement() const override;
+  void restoreArrangement(const QByteArray& state) override;
+  bool mayClose() override { return mayLeaveTeam(); }
+
+ private:
+  QWidget* makeTeams();
+  QWidget* makeTeamFields();
+  QWidget* makePlayers();
+  QWidget* makePlayerFields();
+  QLineEdit* addField(QGridLayout& layout, int row, int column, int span, const char* name, int text);
+  QPushButton* addButton(const char* name, int text, int toolTip, const char* iconName);
+  void connectEverything();
+
+  void listTeams();
+  void changeTeam(int position); // asked for by the user
+  void showTeam(int position);
+  void showPlayers();
+  void showAnnouncement();
+  void showPositions();
+  void showPlayer(const PlayerFields& fields);
+  void showColour();
+
+  void addTeam();
+  bool saveTeam();
+  void deleteTeam();
+  bool addPlayer();
+  void deletePlayer();
+  void chooseColour();
+  void clearPlayer();
+  void selectPlayer(const QModelIndex& index);
+  void showRow(const TeamPlayer& player);
+  void takePlayers(bool (frmEQUIPES::*from)());
+  bool importPlayers();
+  bool pastePlayers();
+  void exportPlayers();
+
+  // Saves, discards or stays, as the user wants, where something would be lost. False: stay.
+  bool mayLeaveTeam();
+  bool mayLeavePlayer();
+  bool askAndSave(const QString& question, bool (frmEQUIPES::*save)());
+  [[nodiscard]] bool isTeamChanged() const;
+  [[nodiscard]] bool isPlayerChanged() const;
+  [[nodiscard]] const TeamEntry* team() const; // the one chosen, or null
+  [[nodiscard]] bool isReadOnly() const;
+  [[nodiscard]] TeamRecord teamFields() const;
+  [[nodiscard]] PlayerFields playerFields() const;
+  void warn(const QString& text, QWidget* fieldAtFault = nullptr);
+  void tellNotWritten();
+
+  TeamStore& m_teams;
+  const Texts& m_texts;
+  Dialogs& m_dialogs;
+  PlayerExchange m_exchange;
+  std::vector<TeamEntry> m_entries;
+  int m_position = -1; // of the team chosen
+  TeamSheet m_sheet;
+  TeamRecord m_loadedTeam;
+  PlayerFields m_loadedPlayer;
+  std::uint32_t m_colour = kDefaultTeamColour;
+
+  TeamList* m_list;
+  PlayerTableModel* m_model;
+  QLabel* m_notice;
+  QLineEdit* m_abbreviation = nullptr;
+  QLineEdit* m_category = nullptr;
+  QLineEdit* m_name = nullptr;
+  std::array<QLineEdit*, 5> m_rules = {}; // minutes, periods, bonus, personal and technical fouls
+  QCheckBox* m_isMain = nullptr;
+  QTableView* m_table = nullptr;
+  QLabel* m_count = nullptr;
+  QLineEdit* m_number = nullptr;
+  QComboBox* m_playerPosition = nullptr;
+  std::array<QLineEdit*, 5> m_playerTexts = {}; // name, height, weight, age, grade
+  QLabel* m_announcement = nullptr;
+};
+
+} // namespace hooptab

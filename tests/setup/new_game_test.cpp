@@ -1,0 +1,301 @@
+#include "setup/NewGame.h"
+
+#include "storage/codepage.h"
+#include "support/FaultyFileSystem.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+namespace {
+
+constexpr const char* kToday = "2026-11-21";
+
+// 16 players of a team, numbers 1 to 16.
+std::string sixteenPlayers(const std::string& section) {
+  std::string text = "[" + section + "]\r\n";
+  for (int number = 1; number <= 16; ++number)
+    text += std::to_string(number) + "=9,Player " + std::to_string(number) + ",,,,,\r\n";
+  return text;
+}
+
+// Team 1 is nobody's main team, 2 and 4 are; 3 has a "-" in its abbreviation and no players; the last one's
+// key is no number. Rules differ in every team.
+std::string teams() {
+  return "[CONFIGURATION]\r\nLANGUE=0\r\nSTATU1=U1-Charges\r\nSTATU2=U2-Écrans\r\n[TEAM]\r\n"
+         "1=LYNX,AAA ,Basketball College ,U1,U2,2,4,5,6,3,8438015,0\r\n"
+         "2=COUGAR,AA ,State College,U1,U2,8,2,7,5,2,12303223,1\r\n"
+         "3= A-B,C/D,Aigles,U1,U2,10x, 4 quarters,5,5,2\r\n"
+         "4=PUMA,CCC ,Very Small School,U1,U2,0,1,1,1,1,5,1\r\n"
+         "5=0\r\n"
+         "x=ODD,B,Odd Key,U1,U2,7,4,5,5,2,1,0\r\n"
+         "[1]\r\n4=0,Ann Able,,,,,\r\n00=2,Bea Baker,,,,,\r\n1234=1,Cleo Carter,,,,,\r\nAB=1,Dana "
+         "Dunn,,,,,\r\n"
+         "4=1,Eve Ellis,,,,,\r\n" +
+         sixteenPlayers("2") + sixteenPlayers("4");
+}
+
+class NewGameTest : public testing::Test {
+ protected:
+  NewGameTest() {
+    folder.write("CONFIG.INI", codepage::fromUtf8(teams()));
+    settings.read();
+  }
+  NewGame made(const LastChoices& last = {}) { return {store, settings, texts, kToday, last}; }
+  // Lynx against Cougar with 15 players; nothing is wrong.
+  NewGame ready() {
+    NewGame game = made();
+    game.chooseTeam(0, 0);
+    game.chooseTeam(1, 1);
+    game.setChecked(1, 15, false);
+    return game;
+  }
+
+  TemporaryFolder folder;
+  FaultyFileSystem files;
+  cinifile profile{files};
+  Texts texts;
+  Settings settings{profile, folder.path()};
+  TeamStore store{profile, settings};
+};
+
+TEST_F(NewGameTest, BeginsWithTheLastChoicesThatAreStillThere) {
+  const NewGame game = made({{1, 3}, "Main gym", "Camille", 4, 2});
+  EXPECT_EQ(game.sides[0].team, 0);
+  EXPECT_EQ(game.sides[1].name, "Aigles");
+  EXPECT_EQ(game.rules.minutesPerPeriod, "10x");
+  EXPECT_EQ(game.place, "Main gym");
+  EXPECT_EQ(game.choices(), (LastChoices{{1, 3}, "Main gym", "Camille", 4, 2}));
+
+  const NewGame fresh = made({{0, 77}, "", "", 7, 9});
+  EXPECT_EQ(fresh.sides[0].team, NewGame::kNone) << "a key without a number is not team 0";
+  EXPECT_EQ(fresh.sides[1].team, NewGame::kNone);
+  EXPECT_EQ(fresh.gameType, NewGame::kNone);
+  EXPECT_EQ(fresh.inputType, NewGame::kNone);
+  EXPECT_EQ(fresh.teams().size(), 5U);
+}
+
+TEST_F(NewGameTest, HomeTeamAndMainTeamSetRulesAndDate) {
+  NewGame game = made();
+  game.date = "typed";
+  game.chooseTeam(0, 0);
+  EXPECT_EQ(game.rules.periods, "") << "visitors who are not the main team";
+  EXPECT_EQ(game.date, "typed");
+  EXPECT_EQ(game.sides[0].name, "Basketball College ");
+  EXPECT_EQ(game.sides[0].colour, 8438015U);
+
+  game.chooseTeam(1, 2);
+  EXPECT_EQ(game.rules.minutesPerPeriod, "10x");
+  EXPECT_EQ(game.date, kToday);
+  EXPECT_EQ(game.sides[1].colour, 0U) << "no default here";
+  EXPECT_EQ(game.mainTeam, NewGame::kNone);
+
+  game.date = "typed";
+  game.chooseTeam(0, 3);
+  EXPECT_EQ(game.mainTeam, 0);
+  EXPECT_EQ(game.rules.minutesPerPeriod, "0") << "visitors who are";
+  EXPECT_EQ(game.date, kToday);
+  game.chooseTeam(1, 1);
+  EXPECT_EQ(game.mainTeam, 1) << "one at most";
+  game.chooseTeam(1, 0);
+  EXPECT_EQ(game.mainTeam, NewGame::kNone);
+}
+
+TEST_F(NewGameTest, OnlyAJerseyThatNobodyAboveWearsCanPlay) {
+  NewGame game = made();
+  game.chooseTeam(0, 0);
+  using enum NewGame::Eligibility;
+  const NewGame::Eligibility expected[] = {CanPlay, CanPlay, NoJersey, NoJersey, NumberTaken};
+  auto& players = game.sides[0].players;
+  ASSERT_EQ(players.size(), std::size(expected));
+  for (std::size_t i = 0; i < players.size(); ++i) {
+    EXPECT_EQ(players[i].eligibility, expected[i]) << i;
+    EXPECT_EQ(players[i].isChecked, expected[i] == CanPlay) << i;
+    game.setChecked(0, i, true);
+  }
+  EXPECT_EQ(game.sides[0].checkedPlayers(), 2);
+  std::vector<int> steps;
+  for (int step = 0; step < 4; ++step) {
+    game.stepPosition(0, 0);
+    steps.push_back(players[0].position);
+  }
+  EXPECT_EQ(steps, (std::vector{1, 2, 9, 0}));
+}
+
+TEST_F(NewGameTest, IsAcceptedOnceEverythingIsChosen) {
+  const struct {
+    void (*spoil)(NewGame&);
+    int missing;
+  } cases[] = {
+      {[](NewGame&) {}, 0},
+      {[](NewGame& g) { g.sides[0].team = NewGame::kNone; }, 1135},
+      {[](NewGame& g) { g.sides[1].team = NewGame::kNone; }, 1135},
+      {[](NewGame& g) { g.date.clear(); }, 1869},
+      {[](NewGame& g) { g.gameType = NewGame::kNone; }, 1870},
+      {[](NewGame& g) { g.inputType = NewGame::kNone; }, 1205},
+      {[](NewGame& g) { g.inputType = 1, g.mainTeam = NewGame::kNone; }, 1871},
+      {[](NewGame& g) { g.inputType = 1, g.mainTeam = 0; }, 0},
+      {[](NewGame& g) { g.inputType = 2, g.mainTeam = NewGame::kNone; }, 0},
+  };
+  for (const auto& c : cases) {
+    NewGame game = ready();
+    c.spoil(game);
+    EXPECT_EQ(game.missing(), c.missing) << &c - cases;
+    EXPECT_EQ(game.canAccept(), c.missing == 0);
+  }
+}
+
+// Everything is wrong at first; each case mends the first thing, and the next one comes to light.
+TEST_F(NewGameTest, TellsTheFirstThingThatIsWrong) {
+  NewGame game = made();
+  game.rules = {"0", "-1", "-5", "none", ""};
+  game.inputType = NewGame::kNone;
+  const struct {
+    int problem;
+    void (*mend)(NewGame&);
+  } cases[] = {
+      {1130, [](NewGame& g) { g.rules.minutesPerPeriod = "abc"; }},
+      {1131, [](NewGame& g) { g.rules.periods = "4 quarters"; }},
+      {1406, [](NewGame& g) { g.chooseTeam(0, 3), g.rules.bonus = "0"; }},
+      {1132, [](NewGame& g) { g.rules.bonus = "1"; }},
+      {1205, [](NewGame& g) { g.inputType = 0, g.rules.personalFoulLimit = "0"; }},
+      {1133, [](NewGame& g) { g.rules.personalFoulLimit = "5", g.rules.technicalFoulLimit = "0"; }},
+      {1134, [](NewGame& g) { g.rules.technicalFoulLimit = "2"; }},
+      {1135, [](NewGame& g) { g.chooseTeam(1, 3), g.chooseTeam(0, 3); }},
+      {1406, [](NewGame& g) { g.chooseTeam(1, 1); }},
+      {1274, [](NewGame& g) { g.setChecked(0, 3, false); }},
+      {1275, [](NewGame& g) { g.setChecked(1, 0, false); }},
+      {0, [](NewGame&) {}},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(game.problem(), c.problem) << &c - cases;
+    c.mend(game);
+  }
+  game.rules.minutesPerPeriod = "0";
+  EXPECT_EQ(game.problem(), 0) << "a game without time";
+}
+
+TEST_F(NewGameTest, ProposesANameThatEveryFileSystemTakes) {
+  NewGame game = ready();
+  game.chooseTeam(1, 3);
+  game.date = "2024-03-01";
+  EXPECT_EQ(game.proposedFileName(), "2024-03-01 Season LYNX-AAA  PUMA-CCC .GAM");
+  texts.setLanguage(Language::French);
+  game.chooseTeam(1, 2);
+  game.date = "1/3:\"*?<>|\\\t\x7F";
+  EXPECT_EQ(game.proposedFileName(),
+            "1-3---------- " + std::string(texts.text(1252)) + " LYNX-AAA  A-B-C-D.GAM");
+
+  EXPECT_EQ(withGameEnding("/a/b"), "/a/b.GAM");
+  EXPECT_EQ(withGameEnding("/a/b.gAm"), "/a/b.gAm");
+  EXPECT_EQ(withGameEnding("/a/3.5"), "/a/3.5.GAM");
+  EXPECT_EQ(withGameEnding("AM"), "AM.GAM");
+}
+
+// The whole file for each input type, byte for byte. The first side has players, the other none.
+TEST_F(NewGameTest, WritesTheWholeGame) {
+  const struct {
+    int input, mainTeam;
+    const char* stored;
+    const char* period;
+    const char* keypad;
+  } cases[] = {
+      {0, NewGame::kNone, "0", "[PERIODE1]\r\n1=10:00,ARRET,IN-,IN-\r\n", "False"},
+      {1, 1, "0", "[PERIODE1]\r\n1=10:00,ARRET,IN-,IN-\r\n", "True"},
+      {2, 0, "1", "", "False"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.input);
+    NewGame game = made();
+    game.chooseTeam(0, 0);
+    game.chooseTeam(1, 2);
+    game.inputType = c.input;
+    game.mainTeam = c.mainTeam;
+    game.sides[1].name = "Élans";
+    game.place = "Gym, \"B\"";
+    game.statistician = "Zoë";
+    game.notes = "one\ntwo";
+    game.stepPosition(0, 1);
+    const std::string name = std::to_string(c.input) + ".GAM";
+    ASSERT_EQ(game.create(folder.path(name)), GameFileProblem::None);
+    EXPECT_EQ(codepage::toUtf8(folder.read(name)),
+              std::string("[DETAILS]\r\nVERSION=2.0\r\nINPUTTYPE=") + c.stored +
+                  "\r\nDATE=2026-11-21\r\nOKPRINCIPAL=" + (c.mainTeam == 1 ? "1" : "0") +
+                  "\r\nEQUIPE0ID=1\r\nEQUIPE1ID=3\r\nEQUIPE0COL=8438015\r\nEQUIPE1COL=0\r\n"
+                  "EQUIPE0ABB=LYNX\r\nEQUIPE1ABB=A\r\nEQUIPE0NOM=Basketball College \r\nEQUIPE1NOM=Élans\r\n"
+                  "EQUIPE0CAT=AAA \r\nEQUIPE1CAT=C/D\r\nSUPP0=U1-Charges\r\nSUPP1=U2-Écrans\r\n"
+                  "ENDROIT=Gym, \"B\"\r\nSAISIEPAR=Zoë\r\n"
+                  "NBREPERIODE= 4 quarters\r\nDUREE=10x\r\nBONUS=5\r\n"
+                  "PFMAX=5\r\nTFMAX=2\r\nTYPE=2\r\nNOTES=one two\r\n"
+                  "[0]\r\n4=0,Ann Able\r\n00=9,Bea Baker\r\n[1]\r\n0=9,A\r\n" +
+                  c.period);
+    EXPECT_EQ(game.mainTeam, c.mainTeam == 1 ? 1 : 0) << "the visitors where none was chosen";
+    EXPECT_EQ(settings.lastGameFolder, folder.path());
+    EXPECT_NE(folder.read("CONFIG.INI").find(std::string("KEYPAD=") + c.keypad), std::string::npos);
+  }
+  EXPECT_NE(folder.read("CONFIG.INI").find("1=LYNX,AAA ,Basketball College ,U1,U2,2"), std::string::npos);
+}
+
+TEST_F(NewGameTest, AHugePeriodAndAnOddKeyAreWrittenAllTheSame) {
+  NewGame game = ready();
+  game.chooseTeam(0, 4);
+  game.rules.minutesPerPeriod = "99999999999";
+  ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
+  const std::string file = folder.read("a.GAM");
+  EXPECT_NE(file.find("EQUIPE0ID=0\r\n"), std::string::npos);
+  EXPECT_NE(file.find("DUREE=99999999999\r\n"), std::string::npos);
+  EXPECT_NE(file.find(":00,ARRET,IN-,IN-"), std::string::npos);
+}
+
+TEST_F(NewGameTest, NamesTheGameThatWouldBeLostAndLeavesNothingOfIt) {
+  const std::string path = folder.path("old.GAM");
+  NewGame game = ready();
+  EXPECT_EQ(game.overwriteQuestion(path), "");
+  std::string old = "[DETAILS]\r\nVERSION=2.0\r\nDATE=2024-03-01\r\nEQUIPE0ABB=OWL\r\nEQUIPE1ABB=FOX\r\n"
+                    "EVENUM=9\r\nKEEPBONUS=1\r\nTERMINE=1\r\n[0]\r\n77=0,Old\r\n[PERIODE1]\r\n"
+                    "5=09:00,SA,0-77\r\n[PERIODE12]\r\n8=01:00,SA,0-77\r\n";
+  folder.write("old.GAM", old);
+  EXPECT_EQ(game.overwriteQuestion(path), path + " holds the game OWL - FOX (2024-03-01), which is finished "
+                                                 "and would be lost. Replace it?");
+  folder.write("old.GAM", old.replace(old.find("TERMINE=1"), 9, "TERMINE=0"));
+  EXPECT_NE(game.overwriteQuestion(path).find("not finished"), std::string::npos);
+  folder.write("note.GAM", "a shopping list");
+  EXPECT_EQ(game.overwriteQuestion(folder.path("note.GAM")),
+            texts.withPlaceholder(1862, folder.path("note.GAM")));
+
+  ASSERT_EQ(game.create(path), GameFileProblem::None);
+  ASSERT_EQ(game.create(folder.path("new.GAM")), GameFileProblem::None);
+  EXPECT_EQ(folder.read("old.GAM"), folder.read("new.GAM"));
+}
+
+TEST_F(NewGameTest, AWriteThatFailsLeavesTheOldFileAndTheSettings) {
+  const std::string old = "[DETAILS]\r\nVERSION=2.0\r\n[PERIODE1]\r\n1=10:00,ARRET,IN-,IN-\r\n";
+  const std::string settingsBefore = folder.read("CONFIG.INI");
+  const std::string folderBefore = settings.lastGameFolder;
+  for (int call = 0;; ++call) {
+    folder.write("a.GAM", old);
+    NewGame game = ready();
+    game.inputType = 1;
+    files.reset();
+    files.failAt = call;
+    files.staysBroken = true;
+    const GameFileProblem problem = game.create(folder.path("a.GAM"));
+    files.reset();
+    if (problem == GameFileProblem::None) {
+      EXPECT_GT(call, 3);
+      break;
+    }
+    EXPECT_EQ(problem, GameFileProblem::WriteFailed);
+    EXPECT_EQ(folder.read("CONFIG.INI"), settingsBefore);
+    EXPECT_EQ(settings.lastGameFolder, folderBefore);
+    if (folder.read("a.GAM") == old)
+      continue;
+    EXPECT_NE(folder.read("a.GAM").find("EQUIPE1ABB=COUGAR"), std::string::npos)
+        << "old or new, never a third";
+  }
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,303 @@
+#include "setup/frmNEWGAME.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "setup/SidePlayersTable.h"
+#include "storage/codepage.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TemporaryFolder.h"
+
+#include <QAbstractItemModelTester>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace hooptab {
+namespace {
+
+using Column = SidePlayersModel::Column;
+using Kind = ScriptedDialogs::Kind;
+
+constexpr int kLynx = 0; // positions in the lists
+constexpr int kOwl = 1;
+constexpr int kFox = 2;
+
+// Lynx has twenty players, Owl is a main team with two, and one more who cannot play.
+std::string teams() {
+  std::string text =
+      "[CONFIGURATION]\r\nLANGUE=0\r\n[TEAM]\r\n"
+      "1=LYNX,AAA ,Basketball College,U1,U2,2,4,5,5,2,8438015,0\r\n"
+      "2=OWL,AA,Owls,U1,U2,10,4,5,5,2,255,1\r\n3=FOX,B,Foxes,U1,U2,8,2,6,4,1,65280,0\r\n[1]\r\n";
+  for (int number = 1; number <= 20; ++number)
+    text += std::to_string(number) + "=0,Player " + std::to_string(number) + ",,,,,\r\n";
+  return text + "[2]\r\n4=0,Ann Able,,,,,\r\n5=2,Bea Baker,,,,,\r\nAB=1,Cleo Carter,,,,,\r\n";
+}
+
+class NewGameWindowTest : public testing::Test {
+ protected:
+  NewGameWindowTest() {
+    folder.write("CONFIG.INI", teams());
+    settings.read();
+    open({});
+  }
+  void open(const LastChoices& last) {
+    window = std::make_unique<frmNEWGAME>(store, settings, texts, dialogs, last);
+    window->resize(1340, 700);
+    window->show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
+  template <class Widget>
+  Widget& find(const char* name) const {
+    auto* found = window->findChild<Widget*>(QLatin1String(name));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  void choose(int side, int team) const {
+    auto& list = find<QListWidget>(side == 0 ? "lstequipes(0)" : "lstequipes(1)");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(team)).center());
+  }
+  SidePlayersTable& players(int side) const {
+    return find<SidePlayersTable>(side == 0 ? "lvwJOUEURS(0)" : "lvwJOUEURS(1)");
+  }
+  QVariant cell(int side, int row, int column, int role = Qt::DisplayRole) const {
+    return players(side).model()->index(row, column).data(role);
+  }
+  QString text(int number) const { return toQt(texts.text(number)); }
+  QPushButton& ok() const { return find<QPushButton>("OKButton"); }
+  bool isOpen() const { return window->isVisible(); }
+
+  TemporaryFolder folder;
+  FileSystem files;
+  cinifile profile{files};
+  Texts texts;
+  Settings settings{profile, folder.path()};
+  TeamStore store{profile, settings};
+  ScriptedDialogs dialogs;
+  std::unique_ptr<frmNEWGAME> window;
+};
+
+TEST_F(NewGameWindowTest, OkWaitsForEverythingAndTheWindowSaysForWhat) {
+  EXPECT_EQ(window->windowTitle(), text(1140));
+  const auto& missing = find<QLabel>("lblMISSING");
+  EXPECT_FALSE(ok().isEnabled());
+  EXPECT_EQ(missing.text(), text(1135));
+  for (const char* list : {"lstequipes(1)", "lstequipes(0)"}) {
+    find<QListWidget>(list).setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(find<QListWidget>(list).selectedItems().isEmpty()) << "passing through chooses nothing";
+  }
+  EXPECT_EQ(find<QLineEdit>("txtNBREPERIODE").text(), QString());
+  choose(0, kLynx);
+  EXPECT_EQ(find<QLineEdit>("txtNOMEQUIPE(0)").text(), QStringLiteral("Basketball College"));
+  EXPECT_FALSE(ok().isEnabled());
+  choose(1, kFox);
+  EXPECT_TRUE(ok().isEnabled());
+  EXPECT_EQ(missing.text(), QString());
+
+  find<QComboBox>("typeinput").setCurrentIndex(1);
+  EXPECT_FALSE(ok().isEnabled());
+  EXPECT_EQ(missing.text(), text(1871));
+  find<QRadioButton>("Option1(0)").click();
+  EXPECT_TRUE(ok().isEnabled());
+  choose(1, kOwl);
+  EXPECT_TRUE(find<QRadioButton>("Option1(1)").isChecked()) << "the team says so";
+  EXPECT_FALSE(find<QRadioButton>("Option1(0)").isChecked());
+  choose(1, kFox);
+  EXPECT_FALSE(ok().isEnabled()) << "and takes it back";
+
+  find<QComboBox>("typeinput").setCurrentIndex(2);
+  find<QLineEdit>("txtDATE").clear();
+  EXPECT_FALSE(ok().isEnabled());
+  find<QComboBox>("lstTYPEPARTIE").setCurrentIndex(-1);
+  find<QDateEdit>("DTPicker1").setDate(QDate(2024, 3, 1));
+  EXPECT_FALSE(ok().isEnabled());
+  find<QComboBox>("lstTYPEPARTIE").setCurrentIndex(6);
+  EXPECT_TRUE(ok().isEnabled());
+}
+
+TEST_F(NewGameWindowTest, TheDateAndItsPickerKeepInStep) {
+  auto& date = find<QLineEdit>("txtDATE");
+  auto& picker = find<QDateEdit>("DTPicker1");
+  EXPECT_EQ(date.text(), picker.text());
+  picker.setDate(QDate(2024, 3, 1));
+  EXPECT_EQ(date.text(), QStringLiteral("2024-03-01"));
+  date.setText(QStringLiteral("2023-12-31"));
+  EXPECT_EQ(picker.date(), QDate(2023, 12, 31));
+  date.setText(QStringLiteral("tomorrow"));
+  EXPECT_EQ(picker.date(), QDate(2023, 12, 31));
+  EXPECT_EQ(date.text(), QStringLiteral("tomorrow"));
+  emit picker.calendarWidget()->clicked(picker.date());
+  EXPECT_EQ(date.text(), QStringLiteral("2023-12-31")) << "the same day again";
+  choose(1, kFox);
+  EXPECT_EQ(date.text(), picker.text());
+  EXPECT_EQ(picker.date(), QDate::currentDate());
+}
+
+TEST_F(NewGameWindowTest, PlayersAreCheckedAndTheirPositionsStepByMouseAndKey) {
+  choose(0, kOwl);
+  SidePlayersTable& table = players(0);
+  new QAbstractItemModelTester(table.model(), QAbstractItemModelTester::FailureReportingMode::Fatal, &table);
+  ASSERT_EQ(table.model()->rowCount(), 3);
+  EXPECT_TRUE(table.isColumnHidden(Column::PositionIndex));
+  EXPECT_EQ(table.palette().color(QPalette::Base), colourOf(255));
+  EXPECT_FALSE(cell(0, 2, Column::Number, Qt::CheckStateRole).isValid()) << "AB is no jersey";
+  EXPECT_TRUE(cell(0, 2, Column::Name, Qt::ToolTipRole).toString().contains(text(1867)));
+
+  const QPoint name = table.visualRect(table.model()->index(1, Column::Name)).center();
+  QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, name);
+  QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, name);
+  EXPECT_EQ(cell(0, 1, Column::Position).toString(), text(1269)) << "after the guard";
+  EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 9);
+  QTest::keyClick(&table, Qt::Key_F2);
+  EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 0);
+
+  QTest::keyClick(&table, Qt::Key_Space);
+  EXPECT_EQ(cell(0, 1, Column::Number, Qt::CheckStateRole).toInt(), Qt::Unchecked);
+  EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("1 of 15"));
+  const QRect row = table.visualRect(table.model()->index(1, Column::Number));
+  const QPoint mark(row.left() + row.height() / 2, row.center().y());
+  QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, mark);
+  EXPECT_EQ(cell(0, 1, Column::Number, Qt::CheckStateRole).toInt(), Qt::Checked);
+  QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, mark);
+  EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 0) << "two quick clicks on a check mark";
+  find<QPushButton>("cmdNONE(0)").click();
+  EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("0 of 15"));
+  find<QPushButton>("cmdALL(0)").click();
+  EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("2 of 15"));
+}
+
+TEST_F(NewGameWindowTest, TheCountWarnsBeforeOkDoes) {
+  open({{1, 2}, "", "", 2, 0});
+  const auto& count = find<QLabel>("lblCOUNT(0)");
+  EXPECT_TRUE(count.text().contains(QStringLiteral("20 of 15")));
+  EXPECT_TRUE(count.text().startsWith(QChar(0x26A0)));
+  EXPECT_TRUE(count.font().bold());
+  EXPECT_GE(players(0).rowAt(players(0).viewport()->height() - 1), 14)
+      << "fifteen are seen without scrolling";
+  ok().click();
+  ASSERT_EQ(dialogs.shown.size(), 1U);
+  EXPECT_EQ(dialogs.shown[0], (ScriptedDialogs::Shown{Kind::Warn, text(1139), text(1274)}));
+  EXPECT_TRUE(isOpen());
+  EXPECT_TRUE(players(0).hasFocus()) << "where the fault is";
+  EXPECT_EQ(dialogs.lastProposed, QString()) << "no file was asked for";
+  for (int row = 0; row < 5; ++row)
+    players(0).model()->setData(players(0).model()->index(row, 0), Qt::Unchecked, Qt::CheckStateRole);
+  EXPECT_EQ(count.text(), QStringLiteral("15 of 15"));
+  EXPECT_FALSE(count.font().bold());
+}
+
+TEST_F(NewGameWindowTest, EnterPressesOkOnlyWhereItIsMeant) {
+  open({{3, 2}, "Gym", "Zoë", 2, 0});
+  EXPECT_EQ(find<QLineEdit>("txtENDROIT").text(), QStringLiteral("Gym"));
+  for (const char* name : {"lvwJOUEURS(1)", "lstequipes(0)", "txtSEARCHequipes(0)", "txtNOTES"}) {
+    auto& widget = find<QWidget>(name);
+    widget.setFocus();
+    QTest::keyClick(&widget, Qt::Key_Return);
+    EXPECT_EQ(dialogs.lastProposed, QString()) << name;
+  }
+  auto& place = find<QLineEdit>("txtENDROIT");
+  place.setFocus();
+  QTest::keyClick(&place, Qt::Key_Return);
+  EXPECT_EQ(dialogs.lastFilter, fileFilter(text(1058)));
+  EXPECT_TRUE(dialogs.lastProposed.endsWith(QStringLiteral(" Season FOX-B OWL-AA.GAM")));
+  EXPECT_TRUE(dialogs.lastProposed.startsWith(toQt(folder.path()) + QStringLiteral("/20")));
+  EXPECT_TRUE(isOpen()) << "the file dialog was cancelled";
+  QTest::keyClick(window.get(), Qt::Key_Escape);
+  EXPECT_FALSE(isOpen());
+}
+
+TEST_F(NewGameWindowTest, MinutesAreNoMoreThanAClockShows) {
+  choose(1, kFox);
+  auto& minutes = find<QLineEdit>("txtDUREE");
+  EXPECT_EQ(minutes.text(), QStringLiteral("8"));
+  minutes.setFocus();
+  minutes.clear();
+  QTest::keyClicks(&minutes, QStringLiteral("100"));
+  EXPECT_EQ(minutes.text(), QStringLiteral("10"));
+}
+
+TEST_F(NewGameWindowTest, TheLanguageFollowsAtOnceAndTheChoicesStay) {
+  open({{1, 2}, "", "", 9, 1});
+  QSignalSpy asked(window.get(), &frmNEWGAME::languageAsked);
+  QTest::keyClick(window.get(), Qt::Key_F12);
+  EXPECT_EQ(asked.count(), 1);
+  texts.setLanguage(Language::French);
+  window->relabelWindow();
+  EXPECT_EQ(window->windowTitle(), text(1140));
+  EXPECT_EQ(find<QComboBox>("lstTYPEPARTIE").currentText(), text(1259));
+  EXPECT_EQ(find<QComboBox>("lstTYPEPARTIE").count(), 7);
+  EXPECT_EQ(find<QComboBox>("typeinput").currentText(), text(1273));
+  EXPECT_EQ(cell(0, 0, Column::Position).toString(), QStringLiteral("Centre"));
+  EXPECT_TRUE(find<QLabel>("lblCOUNT(0)").text().contains(QStringLiteral("20 sur 15")));
+  EXPECT_EQ(window->choices(), (LastChoices{{1, 2}, "", "", 9, 1}));
+}
+
+TEST_F(NewGameWindowTest, MakesAGameOfEachInputType) {
+  for (const int input : {0, 1, 2}) {
+    SCOPED_TRACE(input);
+    open({{3, 2}, "", "", 2, 0});
+    find<QComboBox>("typeinput").setCurrentIndex(input);
+    find<QLineEdit>("txtNOMEQUIPE(0)").setText(QStringLiteral("Renards"));
+    find<QLineEdit>("txtNOTES").setText(QStringLiteral("Final"));
+    find<QLineEdit>("txtPF").setText(QStringLiteral("04"));
+    QTest::keyClick(&players(1), Qt::Key_F2);
+    dialogs.nextFileToSave = toQt(folder.path("game" + std::to_string(input)));
+    ok().click();
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(window->result(), QDialog::Accepted);
+    EXPECT_EQ(window->path(), dialogs.nextFileToSave + QStringLiteral(".GAM"));
+    Game game;
+    ASSERT_EQ(GameFile(profile, fromQt(window->path())).read(game), GameFileProblem::None);
+    EXPECT_EQ(game.details.inputType, input == 2 ? 1 : 0);
+    EXPECT_EQ(game.details.mainTeam, 1);
+    EXPECT_EQ(game.details.name[0], "Renards");
+    EXPECT_EQ(game.details.notes, "Final");
+    EXPECT_EQ(game.roster[1].players().size(), 2U);
+    EXPECT_EQ(game.events.size(), input == 2 ? 0U : 1U);
+    EXPECT_NE(folder.read("game" + std::to_string(input) + ".GAM").find("PFMAX=04\r\n"), std::string::npos);
+    EXPECT_EQ(settings.keypadIsActive, input == 1);
+  }
+  EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(NewGameWindowTest, AsksBeforeAGameIsLostAndSaysWhatCouldNotBeWritten) {
+  open({{3, 2}, "Gym", "", 2, 0});
+  const std::string old =
+      "[DETAILS]\r\nVERSION=2.0\r\nDATE=2024-03-01\r\nEQUIPE0ABB=CAT\r\nEQUIPE1ABB=DOG\r\n";
+  folder.write("old.GAM", old);
+  dialogs.nextFileToSave = toQt(folder.path("old.GAM"));
+  ok().click();
+  ASSERT_EQ(dialogs.shown.size(), 1U);
+  EXPECT_EQ(dialogs.shown[0].kind, Kind::Ask);
+  EXPECT_EQ(dialogs.shown[0].title, text(1139));
+  EXPECT_TRUE(
+      dialogs.shown[0].text.contains(QStringLiteral("CAT - DOG (2024-03-01), which is not finished")));
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(folder.read("old.GAM"), old);
+
+  dialogs.nextFileToSave = toQt(folder.path("missing/new.GAM"));
+  ok().click();
+  ASSERT_EQ(dialogs.shown.size(), 2U);
+  EXPECT_EQ(dialogs.shown[1].kind, Kind::Complain);
+  EXPECT_EQ(dialogs.shown[1].title, text(1060));
+  EXPECT_TRUE(dialogs.shown[1].text.contains(dialogs.nextFileToSave));
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(find<QLineEdit>("txtENDROIT").text(), QStringLiteral("Gym"));
+
+  dialogs.nextFileToSave = toQt(folder.path("old.GAM"));
+  dialogs.nextAnswer = true;
+  ok().click();
+  EXPECT_FALSE(isOpen());
+  EXPECT_NE(folder.read("old.GAM").find("EQUIPE0ABB=FOX"), std::string::npos);
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,104 @@
+#include "teams/PlayerCsv.h"
+
+#include "teams/DelimitedText.h"
+
+#include <gtest/gtest.h>
+
+namespace hooptab {
+namespace {
+
+std::string players(const CsvPlayers& read) {
+  std::string text;
+  for (const TeamPlayer& player : read.players)
+    text += player.number + '=' + playerValue(player.record) + ' ';
+  return text;
+}
+std::string problems(const CsvPlayers& read) {
+  std::string text;
+  for (const CsvProblem& problem : read.problems)
+    text += std::to_string(problem.line) + ':' + std::to_string(problem.text) + ' ';
+  return text;
+}
+
+TEST(PlayerCsv, ReadsWhatSpreadsheetsWrite) {
+  const struct {
+    std::string text;
+    std::string players;
+    std::string problems;
+  } cases[] = {
+      {"", "", ""},
+      {"5,G,Ann,6ft,170,18,Senior\n", "5=2,Ann,6ft,170,18,Senior, ", ""},
+      {"\xEF\xBB\xBF"
+       "5;g;Ann\r\n\r\n;;\r\n10;;Bo",
+       "5=2,Ann,,,,, 10=9,Bo,,,,, ", ""},
+      {"5\t0\tAnn\r6\tAilier\tBo\r", "5=0,Ann,,,,, 6=1,Bo,,,,, ", ""},
+      {"name, NUMBER ,shoe,Grade\nAnn,5,44,Senior\n", "5=9,Ann,,,,Senior, ", ""},
+      {"Numéro;Position;Nom du joueur;Taille;Poids;Âge;Scolarité\n5;Garde;Zoé;1,80 m;60;18;CÉGEP\n",
+       "5=2,Zoé,1 80 m,60,18,CÉGEP, ", ""},
+      {"5,\"F\",\"Long, \"\"Ann\"\"\r\nMary\"\n6,c,Bo\n7,x,Cy", "5=1,Long  \"Ann\" Mary,,,,, 6=0,Bo,,,,, ",
+       "4:1841 "},
+      {"5,,\"Ann\n6,,\"Bo\"\n7,,\"Cy\n", "6=9,Bo,,,,, ", "1:1843 3:1843 "},
+      {"No,Age\n5,18\n", "", "1:1844 "},
+      {"12.0,,Ann\nA1,,Bo\n1234,,Cy\n,,Dee\n5,,\n5,,Eve\n5,,Fay\n05,,Gil\n8,SF/C,Hal\n",
+       "5=9,Eve,,,,, 05=9,Gil,,,,, ", "1:1171 2:1171 3:1171 4:1171 5:1173 7:1842 9:1841 "},
+      {"5,,Ann," + std::string(250, 'h') + "\n6,,Bo\x01\n", "6=9,Bo,,,,, ", "1:1817 "},
+  };
+  const Texts texts;
+  for (const auto& each : cases) {
+    const CsvPlayers read = parsePlayersCsv(each.text, texts);
+    EXPECT_EQ(players(read), each.players) << each.text;
+    EXPECT_EQ(problems(read), each.problems) << each.text;
+  }
+}
+
+TEST(PlayerCsv, NamesAProblemByLineInTheLanguageInUse) {
+  Texts texts;
+  texts.setLanguage(Language::French);
+  const CsvPlayers read = parsePlayersCsv("1,x,Ann", texts);
+  ASSERT_EQ(read.problems.size(), 1U);
+  EXPECT_EQ(problemText(read.problems[0], texts), "Ligne 1 : Position inconnue : x");
+}
+
+TEST(PlayerCsv, StopsAtTooManyPlayers) {
+  std::string text;
+  for (int number = 0; number < 1200; ++number)
+    text +=
+        std::to_string(number) + ",,P" + std::to_string(number) + "\n0" + std::to_string(number) + ",,Q\n";
+  const CsvPlayers read = parsePlayersCsv(text, Texts());
+  EXPECT_EQ(read.players.size(), 1000U);
+  ASSERT_FALSE(read.problems.empty());
+  EXPECT_EQ(read.problems.back().text, 1845);
+}
+
+TEST(PlayerCsv, WhatWasExportedIsReadInEitherLanguage) {
+  const std::vector<TeamPlayer> exported = {
+      {"00", {2, "Ann \"Ace\" Long", "6ft 1in", "170", "18", "Sr; x"}, ""},
+      {"5", {9, "Zoé", "", "", "", ""}, ""}};
+  Texts texts;
+  const std::string english = playersCsv(exported, texts);
+  EXPECT_TRUE(english.starts_with(
+      "Number,Position,Player Name,Height,Weight,Age,Grade\r\n00,Guard,\"Ann \"\"Ace\"\" Long\","))
+      << english;
+  for (const Language language : {Language::French, Language::English}) {
+    texts.setLanguage(language);
+    EXPECT_EQ(parsePlayersCsv(english, texts).players, exported);
+    EXPECT_EQ(parsePlayersCsv(playersCsv(exported, texts), texts).players, exported);
+  }
+}
+
+TEST(DelimitedText, EndsWhateverTheBytes) {
+  for (int seed = 1; seed < 2000; ++seed) {
+    std::string text;
+    unsigned state = static_cast<unsigned>(seed);
+    for (int length = seed % 40; length > 0; --length) {
+      state = state * 1664525U + 1013904223U;
+      text.push_back("\",;\t\r\n a\xC3"[(state >> 16U) % 9U]);
+    }
+    const std::vector<DelimitedRow> rows = parseDelimited(text);
+    for (std::size_t row = 1; row < rows.size(); ++row)
+      EXPECT_GT(rows[row].line, rows[row - 1].line) << text;
+  }
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,302 @@
+#include "appearance/relabel.h"
+#include "storage/Settings.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TemporaryFolder.h"
+#include "teams/PlayerTableModel.h"
+#include "teams/frmEQUIPES.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace hooptab {
+namespace {
+
+using Kind = ScriptedDialogs::Kind;
+
+class TeamWindowTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    folder.write("CONFIG.INI",
+                 "[CONFIGURATION]\r\nLANGUE=0\r\nSTATU1=U1-One\r\nSTATU2=U2-Two\r\n"
+                 "[TEAM]\r\n1=BEES,A,Bees,,,8,4,5,5,2,255,0\r\n2=ANTS,B,Ants,,,10,4,5,5,2\r\nx=ODD,C,\r\n"
+                 "[1]\r\n5=2,Ann,6ft,,,,\r\n10=0,Bo,,,,,\r\n");
+    open();
+  }
+  void open() {
+    settings.read();
+    window = std::make_unique<frmEQUIPES>(teams, texts, dialogs);
+    window->resize(1350, 650);
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    auto* model = window->findChild<PlayerTableModel*>();
+    new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::Fatal, model);
+  }
+  template <class Widget>
+  Widget& find(const char* name) const {
+    auto* found = window->findChild<Widget*>(QLatin1String(name));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  QLineEdit& field(const char* name) const { return find<QLineEdit>(name); }
+  QListWidget& list() const { return find<QListWidget>("lstequipes"); }
+  QTableView& table() const { return find<QTableView>("lvwJOUEURS"); }
+  void click(const char* button) const { QTest::mouseClick(&find<QPushButton>(button), Qt::LeftButton); }
+  void choose(int team) const {
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
+                      list().visualItemRect(list().item(team)).center());
+  }
+  void clickPlayer(int row) const {
+    QTest::mouseClick(table().viewport(), Qt::LeftButton, {},
+                      table().visualRect(table().model()->index(row, 1)).center());
+  }
+  // As a user types: over what the focus has selected.
+  void type(const char* name, const char* text) const {
+    QTest::mouseClick(&field(name), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    QTest::keyClicks(&field(name), QString::fromUtf8(text));
+  }
+  void choosePosition(int index) const {
+    auto& box = find<QComboBox>("cmbPOSITION");
+    box.setCurrentIndex(box.findData(index));
+  }
+  QString players() const {
+    QStringList rows;
+    for (int row = 0; row < table().model()->rowCount(); ++row)
+      rows << table().model()->index(row, 0).data().toString() + u' ' +
+                  table().model()->index(row, 1).data().toString();
+    return rows.join(QStringLiteral(", "));
+  }
+  bool holds(const std::string& line) const {
+    return folder.read("CONFIG.INI").find("\r\n" + line + "\r\n") != std::string::npos;
+  }
+  QString said() {
+    const QString text = dialogs.shown.empty() ? QString() : dialogs.shown.back().text;
+    dialogs.shown.clear();
+    return text;
+  }
+  QString text(int number) const { return toQt(texts.text(number)); }
+
+  TemporaryFolder folder;
+  FileSystem disk;
+  cinifile store{disk};
+  Texts texts;
+  Settings settings{store, folder.path()};
+  TeamStore teams{store, settings};
+  ScriptedDialogs dialogs;
+  std::unique_ptr<frmEQUIPES> window;
+};
+
+TEST_F(TeamWindowTest, ShowsTheTeamThatIsChosen) {
+  EXPECT_EQ(list().count(), 3);
+  EXPECT_EQ(list().item(0)->text(), QStringLiteral("BEES - A"));
+  EXPECT_EQ(players(), QString());
+  choose(0);
+  EXPECT_EQ(field("txtNOMEQUIPE").text(), QStringLiteral("Bees"));
+  EXPECT_EQ(field("txtDUREE").text(), QStringLiteral("8"));
+  EXPECT_EQ(field("txtTF").text(), QStringLiteral("2"));
+  EXPECT_EQ(players(), QStringLiteral("5 Ann, 10 Bo"));
+  EXPECT_EQ(table().palette().color(QPalette::Base), QColor(255, 0, 0));
+  clickPlayer(0);
+  EXPECT_EQ(field("txtJOUEURNO").text(), QStringLiteral("5"));
+  EXPECT_EQ(field("txtGRANDEUR").text(), QStringLiteral("6ft"));
+  EXPECT_EQ(find<QComboBox>("cmbPOSITION").currentText(), QStringLiteral("Guard"));
+  texts.setLanguage(Language::French);
+  window->relabelWindow();
+  EXPECT_EQ(find<QComboBox>("cmbPOSITION").currentText(), QStringLiteral("Garde"));
+  EXPECT_EQ(table().model()->index(0, 2).data().toString(), QStringLiteral("Garde"));
+  EXPECT_EQ(find<QLabel>("lblANNOUNCE").text(), QString());
+  // A list of many teams is searched by what they contain.
+  field("txtSEARCHequipes").setText(QStringLiteral("ant"));
+  EXPECT_TRUE(list().item(0)->isHidden());
+  EXPECT_FALSE(list().item(1)->isHidden());
+  EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(TeamWindowTest, MessagesComeInTheirOrder) {
+  click("cmdAJOUTERJOUEUR");
+  ASSERT_EQ(dialogs.shown.size(), 1U);
+  EXPECT_EQ(dialogs.shown[0], (ScriptedDialogs::Shown{Kind::Complain, text(1060), text(1174)}));
+  dialogs.shown.clear();
+  click("cmdEFFACEREQUIPE");
+  EXPECT_EQ(said(), text(1174));
+  click("cmdSAVEEQUIPE");
+  EXPECT_EQ(said(), QString()) << "nothing happens";
+  choose(0);
+  click("cmdAJOUTERJOUEUR");
+  EXPECT_EQ(dialogs.shown[0], (ScriptedDialogs::Shown{Kind::Warn, text(1139), text(1171)}));
+  type("txtJOUEURNO", "7");
+  click("cmdAJOUTERJOUEUR");
+  EXPECT_EQ(said(), text(1172));
+  choosePosition(1);
+  click("cmdAJOUTERJOUEUR");
+  EXPECT_EQ(said(), text(1173));
+  EXPECT_FALSE(holds("7=1,,,,,,"));
+}
+
+TEST_F(TeamWindowTest, PlayersAreAddedRenumberedRenamedAndRemoved) {
+  choose(0);
+  type("txtJOUEURNO", "7");
+  choosePosition(1);
+  type("txtJOUEURNOM", "Cy, Jr.");
+  EXPECT_EQ(find<QLabel>("lblANNOUNCE").text(), QStringLiteral("Adds a player: 7 Cy  Jr."));
+  QTest::keyClick(&field("txtJOUEURNOM"), Qt::Key_Return);
+  EXPECT_TRUE(holds("7=1,Cy  Jr.,,,,,")) << folder.read("CONFIG.INI");
+  EXPECT_EQ(field("txtJOUEURNOM").text(), QString()) << "ready for the next one";
+  EXPECT_TRUE(field("txtJOUEURNO").hasFocus());
+
+  clickPlayer(1);
+  type("txtJOUEURNO", "11");
+  EXPECT_EQ(find<QLabel>("lblANNOUNCE").text(), QStringLiteral("Gives Bo number 11 in place of 10"));
+  click("cmdAJOUTERJOUEUR");
+  EXPECT_TRUE(holds("11=0,Bo,,,,,"));
+  EXPECT_FALSE(holds("10=0,Bo,,,,,"));
+  type("txtJOUEURNO", "5"); // Ann's
+  click("cmdAJOUTERJOUEUR");
+  EXPECT_TRUE(said().contains(QStringLiteral("belongs to Ann")));
+  EXPECT_EQ(players(), QStringLiteral("5 Ann, 11 Bo, 7 Cy  Jr."));
+
+  // A removal waits for the save; it comes back when the window is left without.
+  dialogs.nextSaveChoice = SaveChoice::Discard;
+  clickPlayer(0);
+  EXPECT_EQ(said(), QStringLiteral("Player 5 Bo is typed in, but not saved. Save?"));
+  QTest::keyClick(&table(), Qt::Key_Delete);
+  EXPECT_EQ(players(), QStringLiteral("11 Bo, 7 Cy  Jr."));
+  EXPECT_TRUE(holds("5=2,Ann,6ft,,,,"));
+  choose(1);
+  EXPECT_EQ(said(), QStringLiteral("The changes to BEES are not saved. Save them?"));
+  choose(0);
+  EXPECT_EQ(players(), QStringLiteral("5 Ann, 11 Bo, 7 Cy  Jr."));
+
+  // What is seen in order is written in that order.
+  QHeaderView& header = *table().horizontalHeader();
+  QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, QPoint(header.sectionViewportPosition(0) + 20, 8));
+  EXPECT_EQ(players(), QStringLiteral("5 Ann, 7 Cy  Jr., 11 Bo"));
+  click("cmdSAVEEQUIPE");
+  EXPECT_TRUE(holds("[1]\r\n5=2,Ann,6ft,,,,\r\n7=1,Cy  Jr.,,,,,\r\n11=0,Bo,,,,,"))
+      << folder.read("CONFIG.INI");
+}
+
+TEST_F(TeamWindowTest, ATeamIsMadeSavedAndDeletedAndItsIdReused) {
+  choose(1);
+  dialogs.nextAnswer = false;
+  click("cmdEFFACEREQUIPE");
+  EXPECT_EQ(said(), text(1175));
+  EXPECT_EQ(list().count(), 3);
+  dialogs.nextAnswer = true;
+  click("cmdEFFACEREQUIPE");
+  EXPECT_EQ(list().count(), 2);
+  EXPECT_TRUE(holds("2=0"));
+  click("cmdAJOUTEREQUIPE");
+  EXPECT_TRUE(holds("2=Newteam, , ,U1-One,U2-Two,8,4,5,5,2"));
+  EXPECT_EQ(field("txtABB").text(), QStringLiteral("Newteam"));
+  type("txtABB", "LONGEST1");
+  EXPECT_EQ(field("txtABB").text(), QStringLiteral("LONGEST")) << "seven fit";
+  type("txtCATEGORIE", "A,B "); // behind the one blank of a new team, which the focus does not select
+  field("txtCATEGORIE").insert(QStringLiteral("č"));
+  field("txtDUREE").clear();
+  type("txtDUREE", "12x");
+  dialogs.nextColour = QColor(1, 2, 3);
+  click("cmdCOUL");
+  EXPECT_EQ(dialogs.lastColour, QColor(255, 192, 128)) << "the default";
+  QTest::keyClick(&field("txtDUREE"), Qt::Key_Return);
+  EXPECT_TRUE(holds("2=LONGEST, A B c, ,U1-One,U2-Two,12,4,5,5,2,197121,0")) << folder.read("CONFIG.INI");
+  EXPECT_EQ(list().item(1)->text(), QStringLiteral("LONGEST -  A B c"));
+  EXPECT_EQ(field("txtCATEGORIE").text(), QStringLiteral(" A B c"));
+  EXPECT_TRUE(window->close()) << "nothing is unsaved";
+}
+
+TEST_F(TeamWindowTest, NothingTypedIsLostWithoutAWord) {
+  choose(0);
+  type("txtNOMEQUIPE", "Wasps");
+  dialogs.nextSaveChoice = SaveChoice::Stay;
+  choose(1);
+  EXPECT_EQ(field("txtNOMEQUIPE").text(), QStringLiteral("Wasps"));
+  EXPECT_TRUE(list().item(0)->isSelected());
+  EXPECT_FALSE(window->close());
+  dialogs.nextSaveChoice = SaveChoice::Save;
+  choose(1);
+  EXPECT_TRUE(holds("1=BEES,A,Wasps,U1-One,U2-Two,8,4,5,5,2,255,0"));
+  EXPECT_EQ(field("txtNOMEQUIPE").text(), QStringLiteral("Ants"));
+  EXPECT_EQ(dialogs.shown.size(), 3U);
+  // A player that cannot be saved keeps the window open.
+  type("txtJOUEURNO", "4");
+  EXPECT_FALSE(window->close());
+  QTest::keyClick(&field("txtJOUEURNO"), Qt::Key_Escape);
+  EXPECT_EQ(field("txtJOUEURNO").text(), QString());
+  EXPECT_TRUE(window->close());
+}
+
+TEST_F(TeamWindowTest, AWriteThatFailsIsToldAndTheFieldsStay) {
+  choose(0);
+  type("txtNOMEQUIPE", "Wasps");
+  std::filesystem::permissions(folder.path("CONFIG.INI"), std::filesystem::perms::owner_read);
+  click("cmdSAVEEQUIPE");
+  EXPECT_TRUE(said().contains(toQt(folder.path("CONFIG.INI"))));
+  EXPECT_EQ(field("txtNOMEQUIPE").text(), QStringLiteral("Wasps"));
+  dialogs.nextSaveChoice = SaveChoice::Save;
+  EXPECT_FALSE(window->close());
+  dialogs.nextSaveChoice = SaveChoice::Discard;
+  click("cmdAJOUTEREQUIPE");
+  EXPECT_EQ(list().count(), 3);
+  std::filesystem::permissions(folder.path("CONFIG.INI"), std::filesystem::perms::owner_all);
+  click("cmdSAVEEQUIPE");
+  EXPECT_TRUE(holds("1=BEES,A,Wasps,U1-One,U2-Two,8,4,5,5,2,255,0"));
+}
+
+TEST_F(TeamWindowTest, ATeamWithoutNumberIsShownAndCannotBeChanged) {
+  const std::string before = folder.read("CONFIG.INI");
+  choose(2);
+  EXPECT_TRUE(find<QLabel>("lblNOTICE").isVisible());
+  QTest::keyClick(&field("txtABB"), Qt::Key_Return);
+  click("cmdSAVEEQUIPE");
+  click("cmdEFFACEREQUIPE");
+  EXPECT_EQ(folder.read("CONFIG.INI"), before);
+}
+
+TEST_F(TeamWindowTest, PlayersArePastedImportedAndExported) {
+  choose(0);
+  QApplication::clipboard()->setText(
+      QStringLiteral("11\tG\tBo\n5\tC\tBo\nxx\tG\tCy\n8\tForward\tDee\t6ft\n"));
+  click("cmdPASTE");
+  EXPECT_EQ(players(), QStringLiteral("5 Ann, 11 Bo, 8 Dee"));
+  const QString report = said();
+  EXPECT_TRUE(report.contains(QStringLiteral("taken over: 2"))) << fromQt(report);
+  EXPECT_TRUE(report.contains(QStringLiteral("3"))) << "the bad line is named: " << fromQt(report);
+  EXPECT_TRUE(report.contains(QStringLiteral("belongs to Ann")));
+  EXPECT_FALSE(holds("8=1,Dee,6ft,,,,")) << "not before the save";
+  click("cmdSAVEEQUIPE");
+  EXPECT_TRUE(holds("8=1,Dee,6ft,,,,"));
+
+  dialogs.nextFileToSave = toQt(folder.path("out.csv"));
+  click("cmdEXPORT");
+  EXPECT_TRUE(dialogs.lastProposed.endsWith(QStringLiteral("BEES-A.csv"))) << fromQt(dialogs.lastProposed);
+  ASSERT_TRUE(folder.holds("out.csv"));
+  choose(1);
+  dialogs.nextFile = dialogs.nextFileToSave;
+  click("cmdIMPORT");
+  EXPECT_EQ(players(), QStringLiteral("5 Ann, 11 Bo, 8 Dee"));
+  dialogs.nextFile = toQt(folder.path("gone.csv"));
+  click("cmdIMPORT");
+  EXPECT_TRUE(said().contains(QStringLiteral("gone.csv")));
+  EXPECT_EQ(decodedText(QByteArray("\xFF\xFE"
+                                   "1\0;\0",
+                                   6)),
+            QStringLiteral("1;"))
+      << "as spreadsheets write Unicode text";
+  EXPECT_EQ(decodedText(QByteArray("\xC9mile")), QStringLiteral("Émile"));
+}
+
+} // namespace
+} // namespace hooptab
