@@ -16,6 +16,7 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QDataStream>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -44,7 +45,7 @@ constexpr int kByLine = 1072;
 } // namespace
 
 frmVIEW::frmVIEW(cinifile& store, const Settings& settings, const Texts& texts, QWidget* parent)
-    : QWidget(parent), m_store(store), m_settings(settings), m_texts(texts), m_view(texts),
+    : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_view(texts),
       m_notice(new QLabel(this)), m_strip(new ScoreboardStrip(this)) {
   setObjectName(QStringLiteral("frmVIEW"));
   m_timer.setObjectName(QStringLiteral("TimerCoach"));
@@ -254,8 +255,26 @@ void frmVIEW::relabelWindow() {
 void frmVIEW::applyColours() {
   findChild<QToolButton*>(QStringLiteral("cmdCOPY"))->setIcon(icon(QStringLiteral("copy")));
   m_chart->applyColours();
+  showHeaders(); // whose tool tips name the user's statistics
   for (QWidget* view : findChildren<QAbstractItemView*>())
     view->findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"))->update();
+}
+
+QByteArray frmVIEW::arrangement() const {
+  QByteArray state;
+  QDataStream stream(&state, QIODevice::WriteOnly);
+  for (const QSplitter* splitter : findChildren<QSplitter*>())
+    stream << splitter->saveState();
+  return state;
+}
+
+void frmVIEW::restoreArrangement(const QByteArray& state) {
+  QDataStream stream(state);
+  for (QSplitter* splitter : findChildren<QSplitter*>()) {
+    QByteArray part;
+    stream >> part;
+    splitter->restoreState(part);
+  }
 }
 
 void frmVIEW::showGame(bool isNew) {

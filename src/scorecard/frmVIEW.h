@@ -3,12 +3,12 @@
 // BoxScore.
 #pragma once
 
+#include "appearance/ChildWindow.h"
 #include "scorecard/FileChange.h"
 #include "scorecard/Scorecard.h"
 #include "scorecard/ScorecardView.h"
 
 #include <QTimer>
-#include <QWidget>
 
 #include <array>
 #include <memory>
@@ -28,7 +28,7 @@ class ScoreboardStrip;
 class Settings;
 class ShotChartPanel;
 
-class frmVIEW : public QWidget {
+class frmVIEW : public ChildWindow {
   Q_OBJECT
 
  public:
@@ -52,12 +52,13 @@ class frmVIEW : public QWidget {
   bool hidesMadeAttempted() const { return m_view.hidesMadeAttempted(); }
   void setHidesMadeAttempted(bool hides);
 
-  void relabelWindow();
-  void applyColours();
+  void relabelWindow() override;
+  void applyColours() override;
+  QByteArray arrangement() const override; // of the splitters
+  void restoreArrangement(const QByteArray& state) override;
 
  signals:
   void commandStateChanged();
-  void reported(const QString& message);
 
  private:
   QWidget* makeTables();

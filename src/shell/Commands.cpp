@@ -42,7 +42,7 @@ constexpr Command kCommands[] = {
     {"stCLOSE", "", 1338, "stclose", Season, Action, "Ctrl+Shift+T"},
 
     {"LIVE", "", 1037, "live", Always, Menu, "", kSeparator},
-      {"LIVENew", "LIVE", 1038, "livenew", StartOfInput, Action, "Ctrl+N"},
+      {"LIVENew", "LIVE", 1038, "livenew", StartOfInput, Action, "Ctrl+N", false, kBuilt},
       {"LIVEOpen", "LIVE", 1039, "liveopen", StartOfInput, Action, "Ctrl+Shift+O"},
     {"LIVEKpad", "", 1040, "livekpad", Live, Toggle, "F7"},
     {"LIVEMouse", "", 1042, "livemouse", Live, Toggle, "F8"},
@@ -53,8 +53,8 @@ constexpr Command kCommands[] = {
     {"CLOSELIVEMANUAL", "", 1294, "closelivemanual", LiveOrManual, Action, "Ctrl+Shift+W"},
 
     {"SETTINGS", "", 1046, "settings", Always, Menu, "", kSeparator},
-      {"gEQUIPE", "SETTINGS", 1048, "gequipe", Always, Action, "Ctrl+E"},
-      {"tbTERRAIN", "SETTINGS", 1146, "tbterrain", Always, Action, "", kSeparator},
+      {"gEQUIPE", "SETTINGS", 1048, "gequipe", Always, Action, "Ctrl+E", false, kBuilt},
+      {"tbTERRAIN", "SETTINGS", 1146, "tbterrain", Always, Action, "", kSeparator, kBuilt},
       {"tbKEYPAD", "SETTINGS", 1054, "tbkeypad", Always},
       {"FORMS", "SETTINGS", 1409, "forms", Always, Menu, "", kSeparator},
         {"blankPRINT", "FORMS", 1399, "blankprint", Always},

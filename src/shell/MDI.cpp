@@ -1,10 +1,13 @@
 #include "shell/MDI.h"
 
+#include "appearance/ChildWindow.h"
 #include "appearance/Dialogs.h"
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
+#include "appearance/frmCOULEURS.h"
 #include "appearance/relabel.h"
 #include "scorecard/frmVIEW.h"
+#include "setup/frmNEWGAME.h"
 #include "shell/CommandBar.h"
 #include "shell/GameMenu.h"
 #include "shell/MainMenu.h"
@@ -13,6 +16,7 @@
 #include "shell/WelcomePage.h"
 #include "shell/WindowMemory.h"
 #include "shell/frmABOUT.h"
+#include "teams/frmEQUIPES.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -68,7 +72,8 @@ QStringList localFiles(const QMimeData& data) {
 } // namespace
 
 MDI::MDI(const Workshop& workshop)
-    : m_workshop(workshop), m_help(workshop.dialogs, workshop.files, workshop.settings, workshop.texts) {
+    : m_workshop(workshop), m_teams(workshop.store, workshop.settings),
+      m_help(workshop.dialogs, workshop.files, workshop.settings, workshop.texts) {
   setObjectName(QStringLiteral("MDI"));
   setAcceptDrops(true);
   setWindowTitle(QStringLiteral("HOOPTAB Basketball"));
@@ -121,6 +126,12 @@ MDI::~MDI() {
 void MDI::carryOut(const QString& key) {
   if (key == u"VwOPEN")
     return chooseGame();
+  if (key == u"LIVENew")
+    return makeGame();
+  if (key == u"gEQUIPE")
+    return openTeams();
+  if (key == u"tbTERRAIN")
+    return openColours();
   if (key == u"tbLANGUE")
     return switchLanguage();
   if (key == u"AidHELP")
@@ -175,12 +186,65 @@ void MDI::openGame(const QString& path) {
   m_workshop.memory.rememberFile(fromQt(QFileInfo(path).absoluteFilePath()));
 }
 
+void MDI::makeGame() {
+  frmNEWGAME window(m_teams, m_workshop.settings, m_workshop.texts, m_workshop.dialogs,
+                    m_workshop.memory.lastGame(), this);
+  connect(&window, &frmNEWGAME::languageAsked, this, [this, &window] {
+    switchLanguage();
+    window.relabelWindow();
+  });
+  const bool isMade = window.exec() == QDialog::Accepted;
+  showWhatIsUnsaved();
+  if (!isMade)
+    return;
+  m_workshop.memory.rememberLastGame(window.choices());
+  if (frmVIEW* old = scorecardOf(window.path())) // of the game that was written over
+    old->refresh();
+  openGame(window.path());
+}
+
+void MDI::openTeams() {
+  const QList<ChildWindow*> windows = children();
+  const auto open = std::ranges::find_if(
+      windows, [](const ChildWindow* child) { return qobject_cast<const frmEQUIPES*>(child) != nullptr; });
+  if (open != windows.end())
+    m_area->setActiveSubWindow(qobject_cast<QMdiSubWindow*>((*open)->parentWidget()));
+  else
+    addChild(new frmEQUIPES(m_teams, m_workshop.texts, m_workshop.dialogs));
+}
+
+void MDI::openColours() {
+  frmCOULEURS window(m_workshop.settings, m_workshop.texts, m_workshop.dialogs, this);
+  connect(&window, &frmCOULEURS::languageAsked, this, [this, &window] {
+    switchLanguage();
+    window.relabelWindow();
+  });
+  connect(&window, &frmCOULEURS::applied, this, [this] {
+    for (ChildWindow* child : children())
+      child->applyColours();
+    m_workshop.texts.showNumbers(m_workshop.settings.asksForTextNumbers());
+    relabelEverything();
+  });
+  window.exec();
+}
+
 void MDI::addScorecard(frmVIEW* view) {
-  QMdiSubWindow* window = m_area->addSubWindow(view);
-  window->setAttribute(Qt::WA_DeleteOnClose);
   view->setRefreshMode(static_cast<frmVIEW::RefreshMode>(m_workshop.memory.refreshSeconds()));
   connect(view, &frmVIEW::commandStateChanged, this, &MDI::showCommands);
-  connect(view, &frmVIEW::reported, this, [this](const QString& message) {
+  addChild(view);
+}
+
+void MDI::addChild(ChildWindow* child) {
+  QMdiSubWindow* window = m_area->addSubWindow(child);
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  const std::string name = fromQt(child->objectName());
+  child->restoreArrangement(
+      QByteArray::fromBase64(QByteArray::fromStdString(m_workshop.memory.layout(name))));
+  connect(child, &ChildWindow::closing, this, [this, child, name] {
+    if (const QByteArray arrangement = child->arrangement(); !arrangement.isEmpty())
+      m_workshop.memory.rememberLayout(name, arrangement.toBase64().toStdString());
+  });
+  connect(child, &ChildWindow::reported, this, [this](const QString& message) {
     statusBar()->showMessage(message, static_cast<int>(std::chrono::milliseconds(kMessageTime).count()));
   });
   // Queued: by then the area has forgotten the window.
@@ -199,6 +263,15 @@ void MDI::refuse(GameFileProblem problem, const QString& path) {
   m_workshop.dialogs.warn(
       this, toQt(texts.text(kErrorTitle)),
       toQt(texts.withPlaceholder(refusalText(problem), fromQt(QDir::toNativeSeparators(path)))));
+}
+
+QList<ChildWindow*> MDI::children() const {
+  QList<ChildWindow*> windows;
+  for (const QMdiSubWindow* window : m_area->subWindowList()) {
+    if (auto* child = qobject_cast<ChildWindow*>(window->widget()))
+      windows << child;
+  }
+  return windows;
 }
 
 frmVIEW* MDI::scorecard() const {
@@ -242,10 +315,8 @@ void MDI::switchLanguage() {
 void MDI::relabelEverything() {
   m_dialogLanguage.set(m_workshop.texts.language());
   relabel(*this, m_workshop.texts);
-  for (const QMdiSubWindow* window : m_area->subWindowList()) {
-    if (auto* view = qobject_cast<frmVIEW*>(window->widget()))
-      view->relabelWindow();
-  }
+  for (ChildWindow* child : children())
+    child->relabelWindow();
   showWhatIsUnsaved();
   showCommands();
 }
@@ -253,10 +324,8 @@ void MDI::relabelEverything() {
 void MDI::switchColours(ColourScheme scheme) {
   Theme::apply(*qApp, scheme);
   m_workshop.memory.rememberColourScheme(scheme);
-  for (const QMdiSubWindow* window : m_area->subWindowList()) {
-    if (auto* view = qobject_cast<frmVIEW*>(window->widget()))
-      view->applyColours();
-  }
+  for (ChildWindow* child : children())
+    child->applyColours();
 }
 
 void MDI::report(Settings::Preparation preparation) {
@@ -286,7 +355,8 @@ void MDI::restorePlace() {
   if (restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(layout))))
     return;
   resize(kFirstSize.boundedTo(screen()->availableSize()));
-  setWindowState(Qt::WindowMaximized); // a first start takes the whole screen: a table's columns want the room
+  setWindowState(
+      Qt::WindowMaximized); // a first start takes the whole screen: a table's columns want the room
 }
 
 void MDI::closeEvent(QCloseEvent* event) {

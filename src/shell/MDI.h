@@ -9,6 +9,7 @@
 #include "shell/HelpPages.h"
 #include "storage/GameFile.h"
 #include "storage/Settings.h"
+#include "teams/TeamStore.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -19,6 +20,7 @@ class QStackedWidget;
 
 namespace hooptab {
 
+class ChildWindow;
 class CommandBar;
 class Dialogs;
 class MainMenu;
@@ -57,12 +59,17 @@ class MDI : public QMainWindow {
  private:
   void carryOut(const QString& key);
   void chooseGame();
+  void makeGame();
+  void openTeams();
+  void openColours();
   void switchLanguage();
   void switchColours(ColourScheme scheme);
   void relabelEverything();
 
   void addScorecard(frmVIEW* view);
-  [[nodiscard]] frmVIEW* scorecard() const; // the one in front, or null
+  void addChild(ChildWindow* child);
+  [[nodiscard]] QList<ChildWindow*> children() const; // the open windows
+  [[nodiscard]] frmVIEW* scorecard() const;           // the one in front, or null
   [[nodiscard]] frmVIEW* scorecardOf(const QString& path) const;
   void showCommands();
   void refuse(GameFileProblem problem, const QString& path);
@@ -72,6 +79,7 @@ class MDI : public QMainWindow {
   void restorePlace();
 
   Workshop m_workshop;
+  TeamStore m_teams;
   QTimer m_retryOfWrites;
   DialogLanguage m_dialogLanguage;
   HelpPages m_help;

@@ -14,6 +14,7 @@ namespace {
 constexpr const char* kLayouts = "LAYOUT";
 constexpr const char* kRecentFiles = "RECENT";
 constexpr const char* kChoices = "CHOICES";
+constexpr const char* kLastGame = "LASTGAME";
 
 // Names of files are bytes, and the profile file knows only the letters of its code page: all but plain
 // printable characters are written as % and two hexadecimal digits.
@@ -109,6 +110,32 @@ int WindowMemory::refreshSeconds() {
 
 void WindowMemory::rememberRefreshSeconds(int seconds) {
   write(kChoices, "REFRESH", std::to_string(seconds));
+}
+
+LastChoices WindowMemory::lastGame() {
+  LastChoices choices;
+  if (value(kLastGame, "TYPE").empty())
+    return choices;
+  const auto number = [this](std::string_view key) { return Module1::leadingNumber(value(kLastGame, key)); };
+  choices.teamId[0] = number("VISITORS");
+  choices.teamId[1] = number("HOME");
+  choices.place = value(kLastGame, "PLACE");
+  choices.statistician = value(kLastGame, "STATISTICIAN");
+  choices.gameType = number("TYPE");
+  choices.inputType = number("INPUT");
+  return choices;
+}
+
+void WindowMemory::rememberLastGame(const LastChoices& choices) {
+  ProfileBatch batch;
+  batch.set(kLastGame, "VISITORS", std::to_string(choices.teamId[0]));
+  batch.set(kLastGame, "HOME", std::to_string(choices.teamId[1]));
+  batch.set(kLastGame, "PLACE", choices.place);
+  batch.set(kLastGame, "STATISTICIAN", choices.statistician);
+  batch.set(kLastGame, "TYPE", std::to_string(choices.gameType));
+  batch.set(kLastGame, "INPUT", std::to_string(choices.inputType));
+  m_store.Path(m_path);
+  m_store.write(batch);
 }
 
 // Read whole: the state of a wide table is longer than a value of the store may be.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "appearance/ColourScheme.h"
+#include "setup/NewGame.h"
 #include "storage/cinifile.h"
 
 #include <optional>
@@ -33,6 +34,9 @@ class WindowMemory {
   // Seconds between automatic refreshes of a scorecard: 10, 30, 60, or 0 for none.
   [[nodiscard]] int refreshSeconds();
   void rememberRefreshSeconds(int seconds);
+  // What the next new game begins with.
+  [[nodiscard]] LastChoices lastGame();
+  void rememberLastGame(const LastChoices& choices);
 
  private:
   std::string value(std::string_view section, std::string_view key);

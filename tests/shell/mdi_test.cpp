@@ -1,14 +1,18 @@
 #include "shell/MDI.h"
 
+#include "appearance/CourtView.h"
 #include "appearance/Theme.h"
+#include "appearance/frmCOULEURS.h"
 #include "appearance/relabel.h"
 #include "scorecard/frmVIEW.h"
+#include "setup/frmNEWGAME.h"
 #include "shell/Commands.h"
 #include "shell/InstanceLock.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
 #include "storage/Settings.h"
 #include "support/ScriptedDialogs.h"
+#include "teams/frmEQUIPES.h"
 
 #include <QAction>
 #include <QApplication>
@@ -16,10 +20,13 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
@@ -143,7 +150,8 @@ TEST_F(MainWindowTest, EveryCommandStandsInTheMenusAndIsDisabledUntilItsWindowEx
     const QAction& shown = action(std::string(command.key).c_str());
     if (command.kind != CommandKind::Menu) {
       EXPECT_TRUE(inMenus.contains(shown.objectName())) << command.key;
-      const bool isUsable = command.isBuilt && command.group == CommandGroup::Always;
+      const bool isUsable = command.isBuilt && (command.group == CommandGroup::Always ||
+                                                command.group == CommandGroup::StartOfInput);
       EXPECT_EQ(shown.isEnabled(), isUsable) << command.key << " in an empty window";
     }
     EXPECT_FALSE(shown.icon().isNull()) << command.key;
@@ -287,6 +295,76 @@ TEST_F(MainWindowTest, OpensGamesThatAreDroppedOnIt) {
   QDragEnterEvent enterText({100, 100}, Qt::CopyAction, &noFile, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(window.get(), &enterText);
   EXPECT_FALSE(enterText.isAccepted());
+}
+
+TEST_F(MainWindowTest, OpensOneTeamEditorThatAsksBeforeTheProgramEnds) {
+  QTest::keyClick(window.get(), Qt::Key_E, Qt::ControlModifier);
+  QTest::keyClick(window.get(), Qt::Key_E, Qt::ControlModifier);
+  ASSERT_EQ(area().subWindowList().size(), 1);
+  auto* editor = area().findChild<frmEQUIPES*>();
+  ASSERT_NE(editor, nullptr);
+  editor->findChild<QListWidget*>(QStringLiteral("lstequipes"))->setCurrentRow(0);
+  editor->findChild<QLineEdit*>(QStringLiteral("txtNOMEQUIPE"))->setText(QStringLiteral("Bees"));
+  action("tbLANGUE").trigger();
+  EXPECT_EQ(editor->windowTitle(), toQt(texts.text(1048, Language::French)));
+  dialogs.nextSaveChoice = SaveChoice::Stay;
+  EXPECT_FALSE(window->close());
+  dialogs.nextSaveChoice = SaveChoice::Save;
+  EXPECT_TRUE(window->close());
+  EXPECT_EQ(TeamStore(store, *settings).read("1").name, "Bees");
+}
+
+TEST_F(MainWindowTest, MakesAGameAndOpensItAndBeginsTheNextOneWithItsChoices) {
+  const QString path = fileIn(games, "NEW.GAM");
+  dialogs.nextFileToSave = path;
+  const auto useWindow = [this](auto&& act) {
+    QTimer::singleShot(0, window.get(), [act] {
+      auto* form = qobject_cast<frmNEWGAME*>(QApplication::activeModalWidget());
+      ASSERT_NE(form, nullptr);
+      act(*form);
+    });
+    action("LIVENew").trigger();
+  };
+  useWindow([](frmNEWGAME& form) {
+    form.findChild<QListWidget*>(QStringLiteral("lstequipes(0)"))->setCurrentRow(3);
+    form.findChild<QListWidget*>(QStringLiteral("lstequipes(1)"))->setCurrentRow(2);
+    form.findChild<QLineEdit*>(QStringLiteral("txtENDROIT"))->setText(QStringLiteral("Main gym"));
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&form] { return QApplication::activeWindow() == &form; }));
+    QTest::keyClick(&form, Qt::Key_F12);
+    EXPECT_EQ(form.windowTitle(), QStringLiteral("Nouvelle partie"));
+    QTest::mouseClick(form.findChild<QPushButton*>(QStringLiteral("OKButton")), Qt::LeftButton);
+  });
+  ASSERT_EQ(scorecards().size(), 1) << (dialogs.shown.empty() ? "" : fromQt(dialogs.shown.back().text));
+  EXPECT_EQ(scorecards()[0]->path(), path);
+  EXPECT_EQ(scorecards()[0]->windowTitle(), QStringLiteral("LION 0 - 0 JAGUAR"));
+  EXPECT_EQ(settings->lastGameFolder, fromQt(games.path()));
+  useWindow([](frmNEWGAME& form) {
+    EXPECT_EQ(form.findChild<QLineEdit*>(QStringLiteral("txtNOMEQUIPE(0)"))->text(),
+              QStringLiteral("Somewhere College "));
+    EXPECT_EQ(form.findChild<QLineEdit*>(QStringLiteral("txtENDROIT"))->text(), QStringLiteral("Main gym"));
+    form.reject();
+  });
+  EXPECT_EQ(scorecards().size(), 1);
+}
+
+TEST_F(MainWindowTest, CourtColoursReachOpenWindowsAtOnce) {
+  window->openGame(makeGame("ONE.GAM"));
+  dialogs.nextColour = QColor(1, 2, 3);
+  QTimer::singleShot(0, window.get(), [] {
+    auto* form = qobject_cast<frmCOULEURS*>(QApplication::activeModalWidget());
+    ASSERT_NE(form, nullptr);
+    QTest::mouseClick(form->findChild<QPushButton*>(QStringLiteral("cmdCOULEUR2PTS")), Qt::LeftButton);
+    QTest::mouseClick(form->findChild<QPushButton*>(QStringLiteral("cmdAPPLIQUER")), Qt::LeftButton);
+    form->reject();
+  });
+  action("tbTERRAIN").trigger();
+  EXPECT_EQ(setting("COULEUR2PTS"), "197121");
+  const QImage chart = scorecards()[0]->findChild<CourtView*>()->grab().toImage();
+  bool isThere = false;
+  for (int x = 0; x < chart.width() && !isThere; ++x)
+    isThere = chart.pixelColor(x, chart.height() / 2) == QColor(1, 2, 3);
+  EXPECT_TRUE(isThere);
 }
 
 TEST_F(MainWindowTest, RemembersTheLastFolderWhenItCloses) {

@@ -32,6 +32,10 @@ TEST_F(WindowMemoryTest, LayoutsAndChoicesAreThereAtTheNextStart) {
   memory.rememberLayout("frmVIEW.columns", long_);
   memory.rememberColourScheme(ColourScheme::Dark);
   memory.rememberRefreshSeconds(30);
+  const LastChoices choices{{12, 3}, "Main gym, É", "A. Scorer", 9, 2};
+  EXPECT_EQ(memory.lastGame(), LastChoices());
+  memory.rememberLastGame(choices);
+  EXPECT_EQ(next().lastGame(), choices);
   EXPECT_EQ(next().layout("MDI"), "AdnQywADAAA=");
   EXPECT_EQ(next().layout("frmVIEW.columns"), long_) << "longer than a setting may be";
   EXPECT_EQ(next().colourScheme(), ColourScheme::Dark);
