@@ -109,6 +109,12 @@ void readDetails(const ProfileText& text, GameDetails& details) {
   }
 }
 
+void setDetail(GameDetails& details, std::string_view key, std::string_view value) {
+  const auto detail = std::ranges::find(kDetails, key, &Detail::key);
+  if (detail != kDetails.end())
+    detail->read(details, codepage::fromUtf8(value));
+}
+
 void writeNewDetails(const GameDetails& details, ProfileBatch& batch) {
   for (const Detail& detail : kDetails) {
     if (detail.write != nullptr)

@@ -53,6 +53,8 @@ struct GameDetails {
 
 // Sets what the section holds; the rest stays as it is.
 void readDetails(const ProfileText& text, GameDetails& details);
+// Sets what one key holds, as reading it would; nothing for a key that is none of the section's.
+void setDetail(GameDetails& details, std::string_view key, std::string_view value);
 // The keys that a new game gets, in their order. EVENUM, KEEPBONUS and TERMINE come while it is recorded.
 void writeNewDetails(const GameDetails& details, ProfileBatch& batch);
 

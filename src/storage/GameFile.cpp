@@ -142,6 +142,17 @@ int highestNumber(const ProfileText& text) {
   return highest;
 }
 
+PeriodLines storedLines(const ProfileText& text, int period) {
+  const ProfileText::SectionView section = text.section(periodSection(period));
+  PeriodLines lines;
+  FirstKeys keys(section);
+  for (const ProfileText::Line& line : section) {
+    if (keys.isFirst(line) && line.kind == ProfileText::Line::Kind::KeyValue)
+      lines.emplace_back(line.name, line.value);
+  }
+  return lines;
+}
+
 std::string withoutBlanks(std::string text) {
   std::erase(text, ' ');
   return text;
@@ -205,6 +216,18 @@ GameFileProblem GameFile::readDetails(GameDetails& details) {
   return GameFileProblem::None;
 }
 
+GameFileProblem GameFile::readLines(EventLines& lines) {
+  const ProfileText* text = nullptr;
+  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
+    return problem;
+  lines.clear();
+  for (const int period : periodsOf(*text)) {
+    for (const auto& [key, line] : storedLines(*text, period))
+      lines[period].emplace_back(codepage::toUtf8(key), codepage::toUtf8(line));
+  }
+  return GameFileProblem::None;
+}
+
 GameFileProblem GameFile::create(const GameDetails& details, const std::vector<RosterPlayer>& visitors,
                                  const std::vector<RosterPlayer>& home) {
   ProfileBatch batch;
@@ -248,32 +271,48 @@ GameFileProblem GameFile::append(int period, int clockSeconds, int firstNumber,
   return write(batch);
 }
 
-GameFileProblem GameFile::insertBefore(int period, std::string_view beforeKey, int clockSeconds, int number,
-                                       const std::string& eventText) {
+GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
   const ProfileText* text = nullptr;
   if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
     return problem;
-  std::pair<std::string, std::string> inserted(std::to_string(number), eventLine(clockSeconds, eventText));
-  std::vector<std::pair<std::string, std::string>> lines;
-  bool isPlaced = false;
-  for (const ProfileText::Line& line : text->section(periodSection(period))) {
-    if (line.kind != ProfileText::Line::Kind::KeyValue)
-      continue;
-    if (!isPlaced && codepage::equalNames(line.name, beforeKey)) {
-      lines.push_back(inserted);
-      isPlaced = true;
-    }
-    lines.emplace_back(line.name, line.value);
+  EventLines lines; // in bytes of the file, so that what is not changed stays as it is
+  std::set<int> reordered;
+  int highest = 0;
+  for (const EventChange& step : steps) {
+    if (!lines.contains(step.period))
+      lines[step.period] = storedLines(*text, step.period);
+    const bool isAtEnd = step.kind == EventChange::Kind::Add && step.before.empty();
+    if (!isAtEnd && step.kind != EventChange::Kind::Replace)
+      reordered.insert(step.period);
+    if (step.kind == EventChange::Kind::Add)
+      highest = std::max(highest, Module1::leadingNumber(step.key));
+    EventChange stored = step;
+    stored.line = codepage::fromUtf8(step.line);
+    stored.key = codepage::fromUtf8(step.key);
+    stored.before = codepage::fromUtf8(step.before);
+    if (!applyChange(stored, lines))
+      return GameFileProblem::UnknownEvent;
   }
-  if (!isPlaced && !beforeKey.empty())
-    return GameFileProblem::UnknownEvent;
-  if (!isPlaced)
-    lines.push_back(std::move(inserted));
 
   ProfileBatch batch;
-  batch.setStoredSectionLines(periodSection(period), std::move(lines));
-  batch.set(std::string(kDetailsSection), "EVENUM",
-            std::to_string(std::max(highestNumber(*text), number) + 1));
+  for (const int period : reordered)
+    batch.setStoredSectionLines(periodSection(period), lines[period]);
+  for (const EventChange& step : steps) {
+    if (!reordered.contains(step.period))
+      batch.set(periodSection(step.period), step.key, step.line);
+  }
+  if (highest > 0)
+    batch.set(std::string(kDetailsSection), "EVENUM",
+              std::to_string(std::max(highestNumber(*text), highest) + 1));
+  return write(batch);
+}
+
+GameFileProblem GameFile::setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues) {
+  if (const GameFileProblem problem = validate(); problem != GameFileProblem::None)
+    return problem;
+  ProfileBatch batch;
+  for (const auto& [key, value] : keysAndValues)
+    batch.set(std::string(kDetailsSection), key, value);
   return write(batch);
 }
 
@@ -293,20 +332,6 @@ GameFileProblem GameFile::setDeleted(const std::vector<EventKey>& events, bool d
     batch.set(section, event.key, deleted ? "E" + line : line.substr(1));
   }
   return batch.isEmpty() ? GameFileProblem::None : write(batch);
-}
-
-GameFileProblem GameFile::edit(int period, std::string_view key, int clockSeconds,
-                               const std::string& eventText) {
-  const ProfileText* text = nullptr;
-  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
-    return problem;
-  const auto stored = text->value(periodSection(period), codepage::fromUtf8(key));
-  if (!stored)
-    return GameFileProblem::UnknownEvent;
-  ProfileBatch batch;
-  batch.set(periodSection(period), std::string(key),
-            (stored->starts_with('E') ? "E" : "") + eventLine(clockSeconds, eventText));
-  return write(batch);
 }
 
 } // namespace hooptab

@@ -3,6 +3,7 @@
 // window.
 #pragma once
 
+#include "storage/EventChange.h"
 #include "storage/GameDetails.h"
 #include "storage/GameEvent.h"
 #include "storage/Roster.h"
@@ -44,6 +45,8 @@ class GameFile {
   // Reads everything; on a problem `game` is left untouched.
   [[nodiscard]] GameFileProblem read(Game& game);
   [[nodiscard]] GameFileProblem readDetails(GameDetails& details);
+  // The event lines of all periods, whole.
+  [[nodiscard]] GameFileProblem readLines(EventLines& lines);
 
   // Writes a new game over whatever stood at the path, as one batch: nothing of an old game remains. A side
   // without players is its own one player. A live game gets its first event, the full period length with
@@ -59,9 +62,9 @@ class GameFile {
   // under increasing numbers from `firstNumber`, and advances EVENUM; one batch.
   [[nodiscard]] GameFileProblem append(int period, int clockSeconds, int firstNumber,
                                        const std::vector<std::string>& eventTexts);
-  // Puts an event before another of the same period (at the end for an empty key); it takes `number`.
-  [[nodiscard]] GameFileProblem insertBefore(int period, std::string_view beforeKey, int clockSeconds,
-                                             int number, const std::string& eventText);
+  // Takes the steps in their order, as one batch; EVENUM follows new events. Nothing is changed when one of
+  // them cannot be taken.
+  [[nodiscard]] GameFileProblem change(const std::vector<EventChange>& steps);
   // Marks events as deleted ("E" in front of the line) or takes the mark away; the rest of each line is
   // unchanged. One batch.
   struct EventKey {
@@ -69,9 +72,9 @@ class GameFile {
     std::string key;
   };
   [[nodiscard]] GameFileProblem setDeleted(const std::vector<EventKey>& events, bool deleted);
-  // Replaces the line of an event (the mark of a deleted one is kept).
-  [[nodiscard]] GameFileProblem edit(int period, std::string_view key, int clockSeconds,
-                                     const std::string& eventText);
+  // Sets keys of DETAILS, as one batch.
+  [[nodiscard]] GameFileProblem
+  setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
 
  private:
   [[nodiscard]] GameFileProblem open(const ProfileText*& text);

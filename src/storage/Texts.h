@@ -1,5 +1,6 @@
-// The string table: every caption and message by number, English from 1001, French 4000 higher. Holds the language in
-// use; a number without text gives the empty text. The tables themselves are src/resources/texts_en.txt and texts_fr.txt.
+// The string table: every caption and message by number, English from 1001, French 4000 higher. Holds the
+// language in use; a number without text gives the empty text. The tables themselves are
+// src/resources/texts_en.txt and texts_fr.txt.
 #pragma once
 
 #include <cstdint>

@@ -280,7 +280,7 @@ TEST_F(ScorecardWindowTest, TheEventListFollowsEveryKindOfChange) {
   EXPECT_EQ(cell(events(), 5, EventListModel::Score), QStringLiteral("0-3"));
   EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("2"));
 
-  ASSERT_EQ(game.file.insertBefore(1, "5", 585, game.file.nextNumber(), ",STO,0-4"), GameFileProblem::None);
+  ASSERT_EQ(game.file.change({{EventChange::Kind::Add, 1, std::to_string(game.file.nextNumber()), "09:45,STO,0-4", "5"}}), GameFileProblem::None);
   window->refresh();
   EXPECT_EQ(events().model()->rowCount(), count + 1);
   EXPECT_EQ(events().currentIndex().row(), 7) << "moved on with its event";

@@ -88,8 +88,9 @@ TEST_F(GameFileTest, DeletingRestoringEditingAndInsertingKeepTheRest) {
   ASSERT_EQ(m_file.setDeleted(both, false), GameFileProblem::None);
   EXPECT_EQ(m_folder.read("g.GAM"), before);
 
-  ASSERT_EQ(m_file.edit(1, "3", 475, ",SA,0-10"), GameFileProblem::None);
-  ASSERT_EQ(m_file.insertBefore(1, "3", 500, 4, ",STO,1-7"), GameFileProblem::None);
+  using enum EventChange::Kind;
+  ASSERT_EQ(m_file.change({{Replace, 1, "3", "07:55,SA,0-10"}, {Add, 1, "4", "08:20,STO,1-7", "3"}}),
+            GameFileProblem::None);
   Game game;
   ASSERT_EQ(m_file.read(game), GameFileProblem::None);
   std::vector<std::string> order;
@@ -98,7 +99,19 @@ TEST_F(GameFileTest, DeletingRestoringEditingAndInsertingKeepTheRest) {
   EXPECT_EQ(order, (std::vector<std::string>{"1=10:00,DEPART", "2=09:00,SPF,0-4", "4=08:20,STO,1-7",
                                              "3=07:55,SA,0-10"}));
   EXPECT_EQ(game.details.nextEventNumber, 5);
-  EXPECT_EQ(m_file.insertBefore(1, "77", 500, 5, ",STO,1-7"), GameFileProblem::UnknownEvent);
+  const std::string changed = m_folder.read("g.GAM");
+  for (const EventChange& wrong :
+       {EventChange{Add, 1, "5", "08:20,STO,1-7", "77"}, EventChange{Add, 1, "4", "x"},
+        EventChange{Replace, 2, "3", "x"}, EventChange{Move, 1, "9"}})
+    EXPECT_EQ(m_file.change({{Replace, 1, "2", "lost"}, wrong}), GameFileProblem::UnknownEvent);
+  EXPECT_EQ(m_folder.read("g.GAM"), changed) << "one step that cannot be taken, and none is";
+  ASSERT_EQ(m_file.change({{Move, 1, "3", {}, "2"}, {Add, 2, "5", "10:00,DEPART"}}), GameFileProblem::None);
+  EXPECT_NE(
+      m_folder.read("g.GAM").find("1=10:00,DEPART\r\n3=07:55,SA,0-10\r\n2=09:00,SPF,0-4\r\n4=08:20,STO,1-7"),
+      std::string::npos)
+      << m_folder.read("g.GAM");
+  ASSERT_EQ(m_file.read(game), GameFileProblem::None);
+  EXPECT_EQ(game.details.nextEventNumber, 6);
   EXPECT_EQ(m_file.setDeleted({{1, "77"}}, true), GameFileProblem::UnknownEvent);
 }
 
