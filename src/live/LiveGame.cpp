@@ -1,0 +1,560 @@
+#include "live/LiveGame.h"
+
+#include "storage/Module1.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kSecondsPerMinute = 60;
+constexpr int kMostOvertimeMinutes = 99;
+constexpr int kMostPeriods = 255;
+constexpr int kSubstitution = 1561;
+constexpr int kDeletion = 1910;
+constexpr int kRestoring = 1911;
+constexpr int kEditing = 1912;
+
+EventChange replacement(int period, const std::string& key, std::string line) {
+  return {EventChange::Kind::Replace, period, key, std::move(line)};
+}
+
+std::string withDeletion(const std::string& line, bool isDeleted) {
+  if (line.starts_with('E') == isDeleted)
+    return line;
+  return isDeleted ? 'E' + line : line.substr(1);
+}
+
+// The new events of these steps, marked as deleted.
+std::vector<EventChange> deletionOf(const std::vector<EventChange>& steps) {
+  std::vector<EventChange> deletion;
+  for (const EventChange& step : steps)
+    deletion.push_back(replacement(step.period, step.key, withDeletion(step.line, true)));
+  return deletion;
+}
+
+bool isStop(const std::string& line) {
+  const GameEvent event = GameEvent::parse(1, "1", line);
+  return event.isUnderstood && event.code == EventCode::ARRET;
+}
+
+} // namespace
+
+LiveGame::LiveGame(cinifile& store, TimeSource& time) : m_log(store), m_time(time) {}
+
+GameFileProblem LiveGame::open(const std::string& path) {
+  if (const GameFileProblem problem = m_log.open(path); problem != GameFileProblem::None)
+    return problem;
+  m_history.clear();
+  m_slots = {};
+  m_endedPeriod = 0;
+  showAsLeft();
+  return GameFileProblem::None;
+}
+
+// The lists of the last stop, the clock of the last event; after a stop at 00:00 as after the close of the
+// period.
+void LiveGame::showAsLeft() {
+  const GameState& counted = state();
+  m_period = std::max<int>(counted.period, 1);
+  m_lengthOfPeriod = game().details.minutesPerPeriod * kSecondsPerMinute;
+  m_clock = {};
+  m_phase = Phase::Stopped;
+  putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, m_log.rosters()));
+
+  const GameEvent* last = nullptr;
+  for (const GameEvent& event : game().events) {
+    if (event.isUnderstood && !event.isDeleted)
+      last = &event;
+  }
+  m_clock.set(last == nullptr ? fullLength() : last->clockSeconds);
+  if (last != nullptr && last->code == EventCode::ARRET && last->clockSeconds == 0 && hasTime())
+    closePeriod();
+  if (game().details.isFinished) {
+    m_phase = Phase::Finished;
+    return;
+  }
+  // A team that is its own one player stands on court from the beginning.
+  const OnCourt before = onCourt();
+  OnCourt whole = before;
+  for (std::size_t team = 0; team < 2; ++team) {
+    const auto& players = game().roster[team].players();
+    if (players.size() == 1 && players[0].jersey == "0" && players[0].position == 9)
+      whole[team] = 1U << 1U;
+  }
+  if (whole != before) {
+    putOnCourt(whole);
+    recordOnCourt();
+    m_history.clear();
+  }
+}
+
+int LiveGame::fullLength() const {
+  return hasTime() ? m_lengthOfPeriod : 0;
+}
+
+int LiveGame::clockSeconds() const {
+  return hasTime() ? m_clock.remaining(m_time.seconds()) : 0;
+}
+
+std::string LiveGame::lineOf(const std::string& eventText) const {
+  return Module1::clockText(clockSeconds()) + eventText;
+}
+
+EventChange LiveGame::added(const std::string& line) {
+  return {EventChange::Kind::Add, m_period, m_log.takeKey(), line};
+}
+
+// --- Clock and periods
+
+void LiveGame::toggleClock() {
+  if (m_phase == Phase::Running)
+    stop();
+  else
+    start();
+}
+
+void LiveGame::start() {
+  if (!hasTime() || m_phase != Phase::Stopped)
+    return;
+  if (clockSeconds() == 0)
+    return closePeriod();
+  m_endedPeriod = 0;
+  m_log.change({added(lineOf(startText()))});
+  m_clock.start(m_time.seconds());
+  m_phase = Phase::Running;
+}
+
+void LiveGame::stop() {
+  if (m_phase != Phase::Running)
+    return;
+  m_clock.stop(m_time.seconds());
+  m_phase = Phase::Stopped;
+  recordStop();
+  if (clockSeconds() == 0)
+    closePeriod();
+}
+
+void LiveGame::recordStop() {
+  m_log.change({added(lineOf(stopText(onCourt())))});
+}
+
+void LiveGame::tick() {
+  if (m_phase == Phase::Running && clockSeconds() == 0)
+    stop();
+}
+
+bool LiveGame::setClock(int seconds) {
+  if (!hasTime() || m_phase != Phase::Stopped || seconds < 0 || seconds > fullLength())
+    return false;
+  m_clock.set(seconds);
+  return true;
+}
+
+bool LiveGame::setPeriod(int period) {
+  if (m_phase == Phase::Running || m_phase == Phase::Finished || period < 1 || period > kMostPeriods)
+    return false;
+  if (period == m_period)
+    return true;
+  leavePeriod();
+  m_period = period;
+  m_phase = Phase::Stopped;
+  m_endedPeriod = 0;
+  m_lengthOfPeriod = game().details.minutesPerPeriod * kSecondsPerMinute;
+  int clock = fullLength();
+  for (const GameEvent& event : game().events) {
+    if (event.period == period && event.isUnderstood && !event.isDeleted)
+      clock = event.clockSeconds;
+  }
+  m_clock.set(clock);
+  return true;
+}
+
+// A period is left with a stop at the clock shown, when its last event is none; one without events needs
+// none.
+void LiveGame::leavePeriod() {
+  const auto events = m_log.lines().find(m_period);
+  if (hasTime() && events != m_log.lines().end() && !events->second.empty() &&
+      !isStop(events->second.back().second))
+    recordStop();
+}
+
+void LiveGame::closePeriod() {
+  const int points[2] = {state().points(0), state().points(1)};
+  m_endedPeriod = m_period;
+  if (m_period >= game().details.periods) {
+    m_phase = points[0] == points[1] ? Phase::OvertimeAsked : Phase::Decided;
+    return;
+  }
+  m_phase = Phase::Stopped;
+  ++m_period;
+  m_lengthOfPeriod = game().details.minutesPerPeriod * kSecondsPerMinute;
+  m_clock.set(fullLength());
+}
+
+bool LiveGame::returnToEndedPeriod() {
+  if (!canReturnToEndedPeriod() || m_phase == Phase::Running || m_phase == Phase::Finished)
+    return false;
+  m_period = m_endedPeriod;
+  m_endedPeriod = 0;
+  m_phase = Phase::Stopped;
+  m_clock.set(0);
+  return true;
+}
+
+bool LiveGame::beginOvertime(int minutes, bool keepsFouls) {
+  if (m_phase != Phase::OvertimeAsked || minutes < 1 || minutes > kMostOvertimeMinutes ||
+      m_period >= kMostPeriods)
+    return false;
+  m_log.setDetails({{"KEEPBONUS", keepsFouls ? "1" : "0"}});
+  ++m_period;
+  m_lengthOfPeriod = minutes * kSecondsPerMinute;
+  m_clock.set(m_lengthOfPeriod);
+  m_phase = Phase::Stopped;
+  return true;
+}
+
+void LiveGame::finish(const std::string& notes) {
+  stop();
+  m_log.setDetails({{"TERMINE", "1"}, {"NOTES", notes}});
+  m_phase = Phase::Finished;
+}
+
+void LiveGame::saveNotes(const std::string& notes) {
+  m_log.setDetails({{"NOTES", notes}});
+}
+
+void LiveGame::reopen() {
+  if (m_phase != Phase::Finished)
+    return;
+  m_log.setDetails({{"TERMINE", "0"}});
+  showAsLeft();
+}
+
+// --- Players
+
+std::optional<int> LiveGame::slotOf(int team, int player) const {
+  for (int slot = team * kSlotsOfTeam; slot < (team + 1) * kSlotsOfTeam; ++slot) {
+    if (player > 0 && playerIn(slot) == player)
+      return slot;
+  }
+  return std::nullopt;
+}
+
+OnCourt LiveGame::onCourt() const {
+  OnCourt entries = {};
+  for (int slot = 0; slot < kSlots; ++slot) {
+    if (playerIn(slot) > 0)
+      entries[static_cast<std::size_t>(teamOf(slot))] |= 1U << static_cast<unsigned>(playerIn(slot));
+  }
+  return entries;
+}
+
+// The slots keep those who stay; those who come take the first free ones and stand in order afterwards.
+void LiveGame::putOnCourt(const OnCourt& lists) {
+  for (int team = 0; team < 2; ++team) {
+    const auto first = m_slots.begin() + team * kSlotsOfTeam;
+    const auto last = first + kSlotsOfTeam;
+    unsigned coming = lists[static_cast<std::size_t>(team)];
+    for (auto slot = first; slot != last; ++slot) {
+      const unsigned bit = *slot > 0 ? 1U << static_cast<unsigned>(*slot) : 0;
+      if ((coming & bit) == 0)
+        *slot = 0;
+      coming &= ~bit;
+    }
+    if (coming == 0)
+      continue;
+    auto free = first;
+    for (int player = 1; player <= Roster::kLargestEntry; ++player) {
+      if ((coming & (1U << static_cast<unsigned>(player))) == 0)
+        continue;
+      free = std::find(free, last, 0);
+      if (free == last)
+        break;
+      *free = player;
+    }
+    std::sort(first, last,
+              [](int left, int right) { return (left == 0 ? 99 : left) < (right == 0 ? 99 : right); });
+  }
+}
+
+bool LiveGame::toggleOnCourt(int team, int player) {
+  if (game().roster[static_cast<std::size_t>(team)].player(player) == nullptr)
+    return false;
+  OnCourt wanted = onCourt();
+  wanted[static_cast<std::size_t>(team)] ^= 1U << static_cast<unsigned>(player);
+  return setOnCourt(wanted);
+}
+
+bool LiveGame::takeAllOut(int team) {
+  OnCourt wanted = onCourt();
+  wanted[static_cast<std::size_t>(team)] = 0;
+  return setOnCourt(wanted);
+}
+
+bool LiveGame::setOnCourt(const OnCourt& wanted) {
+  if (!canRecord() || std::popcount(wanted[0]) > kMostOnCourt || std::popcount(wanted[1]) > kMostOnCourt)
+    return false;
+  const OnCourt before = onCourt();
+  if (wanted == before)
+    return true;
+  const auto slots = m_slots;
+  putOnCourt(wanted);
+  if (recordOnCourt())
+    return true;
+  m_slots = slots;
+  return false;
+}
+
+// A substitution at the same clock, with nothing recorded since but the start of the clock that belongs to
+// it: what follows at once is part of it. A stop is none (its lists equal those before), nor is the game's
+// first event.
+const std::pair<std::string, std::string>* LiveGame::openSubstitution() const {
+  const auto found = m_log.lines().find(m_period);
+  if (found == m_log.lines().end() || found->second.empty())
+    return nullptr;
+  const PeriodLines& lines = found->second;
+  const std::string clock = Module1::clockText(clockSeconds());
+  std::size_t last = lines.size() - 1;
+  if (m_phase == Phase::Running) {
+    if (lines[last].second != clock + startText() || last == 0)
+      return nullptr;
+    --last;
+  }
+  const auto& [key, line] = lines[last];
+  const auto lists = onCourtOf(m_period, line, m_log.rosters());
+  if (!lists || key == "1" || !line.starts_with(clock) ||
+      *lists == inForceBefore(m_log.lines(), m_period, key, m_log.rosters()))
+    return nullptr;
+  return &lines[last];
+}
+
+bool LiveGame::recordOnCourt() {
+  const std::string line = lineOf(stopText(onCourt()));
+  if (const auto* open = openSubstitution()) {
+    const std::pair<std::string, std::string> old = *open;
+    return done(kSubstitution, {replacement(m_period, old.first, line)},
+                {replacement(m_period, old.first, old.second)});
+  }
+  std::vector<EventChange> steps = {added(line)};
+  if (m_phase == Phase::Running)
+    steps.push_back(added(lineOf(startText())));
+  return done(kSubstitution, steps, deletionOf(steps));
+}
+
+// One action of the user, done by these steps and taken back by those.
+bool LiveGame::done(int text, const std::vector<EventChange>& steps, std::vector<EventChange> back) {
+  if (!m_log.change(steps))
+    return false;
+  m_history.add({text, {steps[0].period, steps[0].key}, std::move(back), m_log.nextNumber()});
+  return true;
+}
+
+std::string LiveGame::stopText(const OnCourt& lists) const {
+  const Rosters rosters = m_log.rosters();
+  return hooptab::stopText(rosters[0].listOf(lists[0]), rosters[1].listOf(lists[1]));
+}
+
+// --- What is counted
+
+bool LiveGame::record(const std::string& eventText, int text) {
+  if (!canRecord())
+    return false;
+  const std::vector<EventChange> steps = {added(lineOf(eventText))};
+  return done(text, steps, deletionOf(steps));
+}
+
+bool LiveGame::recordShot(int team, int player, EventCode kind, bool isMade,
+                          std::optional<std::pair<double, double>> place) {
+  const EventKind* shot = kindOf(kind);
+  const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
+  if (shot == nullptr || !shot->isShot || who == nullptr)
+    return false;
+  return record(eventText(kind, isMade, team, who->jersey, place), shot->wordsText);
+}
+
+bool LiveGame::recordAction(int team, int player, EventCode kind) {
+  const EventKind* action = kindOf(kind);
+  const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
+  if (action == nullptr || action->isShot || who == nullptr)
+    return false;
+  return record(eventText(kind, false, team, who->jersey), action->wordsText);
+}
+
+LiveGame::FollowUps LiveGame::followUps(int team, int player, EventCode kind, bool isMade,
+                                        bool asksRebounds) const {
+  FollowUps result;
+  const EventKind* shot = kindOf(kind);
+  if (shot == nullptr || !shot->isShot)
+    return result;
+  const bool asksAssist = isMade && shot->followUpWhenMade == FollowUp::Assist;
+  for (int other = 0; other < kSlots; ++other) {
+    if (playerIn(other) == 0)
+      continue;
+    const bool isOwn = teamOf(other) == team;
+    if (asksAssist && isOwn && playerIn(other) != player)
+      result.assist.push_back(other);
+    if (!isMade && asksRebounds)
+      (isOwn ? result.offensiveRebound : result.defensiveRebound).push_back(other);
+  }
+  return result;
+}
+
+// --- What is shown
+
+// What the tally has credited, and what has passed since the player's line came on court.
+int LiveGame::secondsOnCourt(int team, int player) const {
+  const auto side = static_cast<std::size_t>(team);
+  const GameState& counted = state();
+  int seconds = counted.players[side][static_cast<std::size_t>(player)].seconds;
+  const bool isOn = std::ranges::find(counted.onCourt[side].begin(),
+                                      counted.onCourt[side].begin() + counted.onCourtCount[side],
+                                      static_cast<std::uint8_t>(player)) !=
+                    counted.onCourt[side].begin() + counted.onCourtCount[side];
+  if (m_phase == Phase::Running && isOn)
+    seconds += counted.lineStartClock[side] - clockSeconds();
+  return std::max(seconds, 0);
+}
+
+int LiveGame::secondsInLead(LeadState which) const {
+  const LeadTracker& lead = state().lead;
+  int seconds = lead.seconds[static_cast<std::size_t>(which)];
+  if (m_phase == Phase::Running && lead.state == which)
+    seconds += lead.previousClock - clockSeconds();
+  return std::max(seconds, 0);
+}
+
+int LiveGame::teamFouls(int team) const {
+  const auto& periods = state().periods[static_cast<std::size_t>(team)];
+  const int regular = game().details.periods;
+  if (!isOvertime() || !game().details.keepsBonus)
+    return periods[GameState::periodRow(m_period)].fouls;
+  int fouls = 0;
+  for (std::size_t row = GameState::periodRow(regular); row <= GameState::periodRow(m_period); ++row)
+    fouls += periods[row].fouls;
+  return fouls;
+}
+
+bool LiveGame::isInBonus(int team) const {
+  const int limit = game().details.bonus;
+  return limit > 0 && teamFouls(team) >= limit;
+}
+
+bool LiveGame::isFouledOut(int team, int player) const {
+  const Counters& counters =
+      state().players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)].counters;
+  const GameDetails& rules = game().details;
+  const auto reached = [](int count, int limit) { return limit > 0 && count >= limit; };
+  return reached(counters[Counter::PF], rules.personalFoulLimit) ||
+         reached(counters[Counter::TF], rules.technicalFoulLimit);
+}
+
+// --- Taking back
+
+bool LiveGame::take(int text, const std::vector<EventChange>& asked) {
+  if (m_phase == Phase::Finished || asked.empty())
+    return false;
+  const Rosters rosters = m_log.rosters();
+  EventLines lines = m_log.lines();
+  std::vector<EventChange> steps;
+  std::vector<EventChange> back;
+  const auto takeStep = [&](const EventChange& step) {
+    const std::string* old = findLine(lines, step.period, step.key);
+    if (old == nullptr)
+      return false;
+    back.insert(back.begin(), replacement(step.period, step.key, *old));
+    steps.push_back(step);
+    return applyChange(step, lines);
+  };
+  for (const EventChange& step : asked) {
+    const OnCourt before = inForce(lines, step.period, step.key, rosters);
+    if (!takeStep(step))
+      return false;
+    const OnCourt after = inForce(lines, step.period, step.key, rosters);
+    const auto behind = eventBehind(lines, {step.period, step.key});
+    if (before == after || !behind)
+      continue;
+    const Carried carried = carryOn(lines, *behind, before, after, rosters);
+    if (carried.conflict || !std::ranges::all_of(carried.steps, takeStep))
+      return false;
+  }
+  if (!done(text, steps, std::move(back)))
+    return false;
+  putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, rosters));
+  return true;
+}
+
+// Takes an action's steps to the letter; only stops that came after it, which no action of the user made, are
+// taken on by what has changed before them.
+bool LiveGame::turn(const LiveAction& action, std::vector<EventChange>& inverse) {
+  if (m_phase == Phase::Finished)
+    return false;
+  const Rosters rosters = m_log.rosters();
+  EventLines lines = m_log.lines();
+  std::vector<EventChange> steps;
+  const auto takeStep = [&](const EventChange& step) {
+    const std::string* old = findLine(lines, step.period, step.key);
+    if (old == nullptr)
+      return false;
+    inverse.insert(inverse.begin(), replacement(step.period, step.key, *old));
+    steps.push_back(step);
+    return applyChange(step, lines);
+  };
+  if (!std::ranges::all_of(action.steps, takeStep))
+    return false;
+  for (const GameEvent& event : game().events) {
+    if (event.number < action.nextNumber)
+      continue;
+    const EventPlace first{event.period, std::string(event.key)};
+    const OnCourt before = inForceBefore(m_log.lines(), first.period, first.key, rosters);
+    const OnCourt after = inForceBefore(lines, first.period, first.key, rosters);
+    const Carried carried = carryOn(lines, first, before, after, rosters);
+    if (carried.conflict || !std::ranges::all_of(carried.steps, takeStep))
+      return false;
+    break;
+  }
+  if (!m_log.change(steps))
+    return false;
+  putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, rosters));
+  return true;
+}
+
+bool LiveGame::undo() {
+  std::vector<EventChange> inverse;
+  if (m_history.toUndo() == nullptr || !turn(*m_history.toUndo(), inverse))
+    return false;
+  m_history.undone(std::move(inverse), m_log.nextNumber());
+  return true;
+}
+
+bool LiveGame::redo() {
+  std::vector<EventChange> inverse;
+  if (m_history.toRedo() == nullptr || !turn(*m_history.toRedo(), inverse))
+    return false;
+  m_history.redone(std::move(inverse), m_log.nextNumber());
+  return true;
+}
+
+bool LiveGame::setDeleted(std::span<const EventPlace> events, bool isDeleted) {
+  std::vector<EventChange> steps;
+  for (const auto& [period, key] : events) {
+    const std::string* line = findLine(m_log.lines(), period, key);
+    if (line == nullptr)
+      return false;
+    steps.push_back(replacement(period, key, withDeletion(*line, isDeleted)));
+  }
+  return take(isDeleted ? kDeletion : kRestoring, steps);
+}
+
+bool LiveGame::replaceEvent(const EventPlace& event, int clock, const std::string& eventText) {
+  const std::string* line = findLine(m_log.lines(), event.period, event.key);
+  if (line == nullptr)
+    return false;
+  return take(kEditing,
+              {replacement(event.period, event.key,
+                           withDeletion(Module1::clockText(clock) + eventText, line->starts_with('E')))});
+}
+
+} // namespace hooptab

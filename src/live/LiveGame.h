@@ -1,0 +1,142 @@
+// A game as it is recorded: clock, periods and overtime, who is on court, shots and actions, what follows
+// them, and taking back. Every count comes from the tally of its log; every change is on disk, or waits to
+// be, when the call returns. Decides for the live window and knows none.
+#pragma once
+
+#include "live/GameClock.h"
+#include "live/LiveHistory.h"
+#include "live/LiveLog.h"
+#include "live/TimeSource.h"
+
+#include <array>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+class LiveGame {
+ public:
+  static constexpr int kSlots = 10; // 0..4 of team 0, 5..9 of team 1
+  static constexpr int kSlotsOfTeam = 5;
+
+  // Both must outlive it.
+  LiveGame(cinifile& store, TimeSource& time);
+
+  // Shows the game as it was left. On a problem the game that was open stays.
+  [[nodiscard]] GameFileProblem open(const std::string& path);
+
+  const Game& game() const { return m_log.game(); }
+  const GameState& state() const { return m_log.state(); }
+  const LiveLog& log() const { return m_log; }
+  bool retryWrites() { return m_log.retry(); }
+
+  // --- Clock and periods
+  enum class Phase {
+    Stopped,
+    Running,
+    OvertimeAsked, // the last period ended with equal scores: beginOvertime() or nothing
+    Decided,       // the last period ended with different scores: "---"
+    Finished,      // closed by the user: nothing can be recorded until it is reopened
+  };
+  Phase phase() const { return m_phase; }
+  bool hasTime() const { return m_log.game().details.minutesPerPeriod > 0; }
+  int period() const { return m_period; }
+  bool isOvertime() const { return m_period > m_log.game().details.periods; }
+  int clockSeconds() const; // that remain
+  // START or STOP. At 00:00 it decides once more how the period ended.
+  void toggleClock();
+  void start();
+  void stop();
+  // To be called once a second or more often while the clock runs; stops at 00:00.
+  void tick();
+  // While the clock stands, in a game with time: sets what remains, at most the length of a period.
+  bool setClock(int seconds);
+  // By hand, while the clock stands; 1 and up.
+  bool setPeriod(int period);
+  // After the buzzer, until START: back into the period that has ended, with its clock at 00:00.
+  bool canReturnToEndedPeriod() const { return m_endedPeriod > 0; }
+  bool returnToEndedPeriod();
+  // From OvertimeAsked; 1 to 99 minutes.
+  bool beginOvertime(int minutes, bool keepsFouls);
+  void finish(const std::string& notes);
+  void saveNotes(const std::string& notes);
+  void reopen();
+
+  // --- Players
+  static int teamOf(int slot) { return slot >= kSlotsOfTeam ? 1 : 0; }
+  int playerIn(int slot) const { return m_slots[static_cast<std::size_t>(slot)]; } // 0: nobody
+  std::optional<int> slotOf(int team, int player) const;
+  // IN or OUT by one click. False: no such player, five are on court, or nothing can be recorded.
+  bool toggleOnCourt(int team, int player);
+  // Several at once, both teams as they shall stand; one event. More than five of a team is refused.
+  bool setOnCourt(const OnCourt& onCourt);
+  bool takeAllOut(int team);
+  OnCourt onCourt() const;
+
+  // --- What is counted
+  // Of a player on court or on the bench, who can be given a technical foul. The place in left-hand
+  // orientation; none for kinds without one. False: no such player (an empty slot), or nothing can be
+  // recorded.
+  bool recordShot(int team, int player, EventCode kind, bool isMade,
+                  std::optional<std::pair<double, double>> place = std::nullopt);
+  bool recordAction(int team, int player, EventCode kind);
+  // What such a shot asks for; the players who can be chosen, as slots.
+  struct FollowUps {
+    std::vector<int> assist;           // of the shooter's team, without him
+    std::vector<int> offensiveRebound; // of the shooter's team
+    std::vector<int> defensiveRebound; // of the other
+    bool isEmpty() const { return assist.empty() && offensiveRebound.empty() && defensiveRebound.empty(); }
+  };
+  FollowUps followUps(int team, int player, EventCode kind, bool isMade, bool asksRebounds) const;
+
+  // --- What is shown
+  int secondsOnCourt(int team, int player) const;
+  int secondsInLead(LeadState state) const;
+  int teamFouls(int team) const;  // of the period; of all overtimes with the last regular period where kept
+  bool isInBonus(int team) const; // the team whose fouls have reached the limit
+  bool isFouledOut(int team, int player) const;
+
+  // --- Taking back
+  const LiveAction* toUndo() const { return m_history.toUndo(); }
+  const LiveAction* toRedo() const { return m_history.toRedo(); }
+  bool undo();
+  bool redo();
+  // Marks events as deleted or restores them; substitutions are carried on. One action.
+  bool setDeleted(std::span<const EventPlace> events, bool isDeleted);
+  // A line in place of another, its mark of deletion apart.
+  bool replaceEvent(const EventPlace& event, int clockSeconds, const std::string& eventText);
+
+ private:
+  bool canRecord() const { return m_phase != Phase::Finished; }
+  int fullLength() const;
+  std::string lineOf(const std::string& eventText) const; // at the present clock
+  EventChange added(const std::string& line);
+  bool record(const std::string& eventText, int text);
+  void recordStop();
+  void leavePeriod();
+  void closePeriod();
+  void showAsLeft();
+  void putOnCourt(const OnCourt& onCourt);
+  bool recordOnCourt();
+  [[nodiscard]] std::string stopText(const OnCourt& lists) const;
+  bool done(int text, const std::vector<EventChange>& steps, std::vector<EventChange> back);
+  [[nodiscard]] const std::pair<std::string, std::string>* openSubstitution() const;
+  // Takes steps that change events, with the lists of all stops behind them carried on; one action. False:
+  // nothing was changed.
+  bool take(int text, const std::vector<EventChange>& steps);
+  bool turn(const LiveAction& action, std::vector<EventChange>& inverse);
+
+  LiveLog m_log;
+  TimeSource& m_time;
+  GameClock m_clock;
+  LiveHistory m_history;
+  std::array<int, kSlots> m_slots = {};
+  Phase m_phase = Phase::Stopped;
+  int m_period = 1;
+  int m_endedPeriod = 0;
+  int m_lengthOfPeriod = 0; // seconds; of an overtime its own
+};
+
+} // namespace hooptab

@@ -1,0 +1,55 @@
+// What the user has done, for taking it back and doing it again: actions, each with the steps that do and
+// undo it. As deep as the session; a new action ends what could be done again.
+#pragma once
+
+#include "live/OnCourt.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace hooptab {
+
+struct LiveAction {
+  int text = 0; // number of the text that names the kind of action in words
+  EventPlace event = {};
+  std::vector<EventChange> steps = {}; // that take it back; of one that was taken back, that do it again
+  int nextNumber = 0; // of events when it was done: what has this number or a higher one came later
+};
+
+class LiveHistory {
+ public:
+  void add(LiveAction action) {
+    m_done.push_back(std::move(action));
+    m_undone.clear();
+  }
+  void clear() {
+    m_done.clear();
+    m_undone.clear();
+  }
+  // The next to be taken back, or done again; null when there is none.
+  const LiveAction* toUndo() const { return m_done.empty() ? nullptr : &m_done.back(); }
+  const LiveAction* toRedo() const { return m_undone.empty() ? nullptr : &m_undone.back(); }
+  // The last action was taken back, and done again; `steps` and `nextNumber` are those for the way back.
+  void undone(std::vector<EventChange> steps, int nextNumber) {
+    turn(m_done, m_undone, std::move(steps), nextNumber);
+  }
+  void redone(std::vector<EventChange> steps, int nextNumber) {
+    turn(m_undone, m_done, std::move(steps), nextNumber);
+  }
+
+ private:
+  using Actions = std::vector<LiveAction>;
+  static void turn(Actions& from, Actions& to, std::vector<EventChange> steps, int nextNumber) {
+    LiveAction action = std::move(from.back());
+    from.pop_back();
+    action.steps = std::move(steps);
+    action.nextNumber = nextNumber;
+    to.push_back(std::move(action));
+  }
+
+  Actions m_done;
+  Actions m_undone;
+};
+
+} // namespace hooptab

@@ -1,0 +1,102 @@
+#include "live/LiveLog.h"
+
+#include "storage/Module1.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+// What every reader gets of a line.
+std::string_view readable(const std::string& line) {
+  return std::string_view(line).substr(0, cinifile::kLongestValue);
+}
+
+bool isAddedAtTheEnd(const EventChange& step, const EventLines& lines) {
+  return step.kind == EventChange::Kind::Add && step.before.empty() &&
+         (lines.empty() || lines.rbegin()->first <= step.period);
+}
+
+} // namespace
+
+GameFileProblem LiveLog::open(const std::string& path) {
+  GameFile file(m_store, path);
+  Game game;
+  if (const GameFileProblem problem = file.read(game); problem != GameFileProblem::None)
+    return problem;
+  EventLines lines;
+  if (const GameFileProblem problem = file.readLines(lines); problem != GameFileProblem::None)
+    return problem;
+  m_nextNumber = file.nextNumber();
+  m_game = std::move(game);
+  m_lines = std::move(lines);
+  m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
+  countAll();
+  return GameFileProblem::None;
+}
+
+bool LiveLog::change(const std::vector<EventChange>& steps) {
+  EventLines changed = m_lines;
+  bool isAppended = true;
+  for (const EventChange& step : steps) {
+    isAppended = isAppended && isAddedAtTheEnd(step, changed);
+    if (!applyChange(step, changed))
+      return false;
+  }
+  m_lines = std::move(changed);
+  m_writes.write([this, path = m_game.path, steps] {
+    return GameFile(m_store, path).change(steps) == GameFileProblem::None;
+  });
+  if (!isAppended) {
+    readEvents();
+    countAll();
+    return true;
+  }
+  for (const EventChange& step : steps) {
+    m_game.events.appendOwned(static_cast<std::uint8_t>(step.period), step.key, readable(step.line));
+    m_tally->apply(m_game.events[m_game.events.size() - 1], m_game.events.size() - 1);
+  }
+  return true;
+}
+
+void LiveLog::setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues) {
+  for (const auto& [key, value] : keysAndValues)
+    setDetail(m_game.details, key, value);
+  m_writes.write([this, path = m_game.path, keysAndValues] {
+    return GameFile(m_store, path).setDetails(keysAndValues) == GameFileProblem::None;
+  });
+}
+
+void LiveLog::readEvents() {
+  EventList events;
+  for (const auto& [period, lines] : m_lines) {
+    for (const auto& [key, line] : lines)
+      events.appendOwned(static_cast<std::uint8_t>(period), key, readable(line));
+  }
+  m_game.events = std::move(events);
+}
+
+void LiveLog::countAll() {
+  m_tally->clear();
+  std::size_t index = 0;
+  for (const GameEvent& event : m_game.events)
+    m_tally->apply(event, index++);
+}
+
+bool LiveLog::countsAgree() const {
+  GameState fresh;
+  (void)Tally::run(fresh, m_game.events, m_game.roster[0], m_game.roster[1]);
+  const auto isEqual = [](const auto& left, const auto& right) {
+    return left.counters == right.counters && left.seconds == right.seconds;
+  };
+  for (std::size_t team = 0; team < 2; ++team) {
+    if (!std::ranges::equal(fresh.players[team], m_state.players[team], isEqual) ||
+        !std::ranges::equal(fresh.lines[team], m_state.lines[team], isEqual) ||
+        fresh.points(static_cast<int>(team)) != m_state.points(static_cast<int>(team)))
+      return false;
+  }
+  return fresh.lead.seconds == m_state.lead.seconds && fresh.lead.times == m_state.lead.times;
+}
+
+} // namespace hooptab

@@ -1,0 +1,61 @@
+// The events of the game that is being recorded: in memory, counted by the tally, and on disk. A change is
+// counted at once and written at once; what the disk does not take waits and is written, in order, as soon as
+// it does. Knows no clock and no rules of the game.
+#pragma once
+
+#include "live/OnCourt.h"
+#include "storage/GameFile.h"
+#include "storage/Tally.h"
+#include "storage/WriteQueue.h"
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace hooptab {
+
+class LiveLog {
+ public:
+  explicit LiveLog(cinifile& store) : m_store(store) {}
+  LiveLog(const LiveLog&) = delete; // the tally refers to the counters of this object
+  LiveLog& operator=(const LiveLog&) = delete;
+
+  // On a problem nothing is changed.
+  [[nodiscard]] GameFileProblem open(const std::string& path);
+
+  const Game& game() const { return m_game; }
+  const GameState& state() const { return m_state; }
+  const EventLines& lines() const { return m_lines; }
+  Rosters rosters() const { return {m_game.roster[0], m_game.roster[1]}; }
+  const std::optional<CountOutOfRange>& outOfRange() const { return m_tally->outOfRange(); }
+
+  // The number of the next new event; each is given out once.
+  int nextNumber() const { return m_nextNumber; }
+  [[nodiscard]] std::string takeKey() { return std::to_string(m_nextNumber++); }
+  // False, and nothing changed, when one of the steps cannot be taken.
+  bool change(const std::vector<EventChange>& steps);
+  // Keys of DETAILS and their values; the details in memory follow.
+  void setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
+
+  bool isOnDisk() const { return m_writes.isEmpty(); }
+  std::size_t waiting() const { return m_writes.size(); }
+  bool retry() { return m_writes.retry(); } // whether everything is on disk now
+
+  // Whether counting all events anew finds what counting them one by one has found.
+  [[nodiscard]] bool countsAgree() const;
+
+ private:
+  void readEvents();
+  void countAll();
+
+  cinifile& m_store;
+  Game m_game;
+  GameState m_state;
+  std::optional<Tally> m_tally;
+  EventLines m_lines;
+  int m_nextNumber = 1;
+  WriteQueue m_writes;
+};
+
+} // namespace hooptab

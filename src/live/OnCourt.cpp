@@ -1,0 +1,131 @@
+#include "live/OnCourt.h"
+
+#include "storage/GameEvent.h"
+#include "storage/Module1.h"
+
+#include <bit>
+
+namespace hooptab {
+
+namespace {
+
+unsigned entriesOf(std::string_view list, const Roster& roster) {
+  unsigned entries = 0;
+  const auto jerseys = Module1::jerseysOfList(list);
+  if (!jerseys)
+    return 0;
+  for (const std::string_view jersey : *jerseys) {
+    if (const int entry = roster.entryOfListed(jersey); entry > 0)
+      entries |= 1U << entry;
+  }
+  return entries;
+}
+
+// Calls `visit(period, key, line)` for every event in the order of the game until it returns false.
+template <class Visit>
+void visitAll(const EventLines& lines, Visit visit) {
+  for (const auto& [period, events] : lines) {
+    for (const auto& [key, line] : events) {
+      if (!visit(period, key, line))
+        return;
+    }
+  }
+}
+
+struct Stop {
+  OnCourt lists = {};
+  bool isDeleted = false;
+};
+
+std::optional<Stop> stopOf(int period, const std::string& line, const Rosters& rosters) {
+  const GameEvent event = GameEvent::parse(static_cast<std::uint8_t>(period), "1", line);
+  if (!event.isUnderstood || event.code != EventCode::ARRET)
+    return std::nullopt;
+  return Stop{{entriesOf(event.onCourt(0), rosters[0]), entriesOf(event.onCourt(1), rosters[1])},
+              event.isDeleted};
+}
+
+// A stop's line with other lists; clock, code and the mark of a deleted one stay.
+std::string withLists(const std::string& line, const OnCourt& lists, const Rosters& rosters) {
+  constexpr std::string_view kCode = ",ARRET,";
+  return line.substr(0, line.find(kCode) + kCode.size()) + listsText(lists, rosters);
+}
+
+} // namespace
+
+std::optional<OnCourt> onCourtOf(int period, const std::string& line, const Rosters& rosters) {
+  const auto stop = stopOf(period, line, rosters);
+  return stop && !stop->isDeleted ? std::optional(stop->lists) : std::nullopt;
+}
+
+OnCourt inForce(const EventLines& lines, int period, const std::string& key, const Rosters& rosters) {
+  OnCourt onCourt = {};
+  visitAll(lines, [&](int eventPeriod, const std::string& eventKey, const std::string& line) {
+    if (eventPeriod > period)
+      return false;
+    onCourt = onCourtOf(eventPeriod, line, rosters).value_or(onCourt);
+    return eventPeriod != period || key.empty() || eventKey != key;
+  });
+  return onCourt;
+}
+
+OnCourt inForceBefore(const EventLines& lines, int period, const std::string& key, const Rosters& rosters) {
+  OnCourt onCourt = {};
+  visitAll(lines, [&](int eventPeriod, const std::string& eventKey, const std::string& line) {
+    if (eventPeriod > period || (eventPeriod == period && eventKey == key))
+      return false;
+    onCourt = onCourtOf(eventPeriod, line, rosters).value_or(onCourt);
+    return true;
+  });
+  return onCourt;
+}
+
+std::string listsText(const OnCourt& onCourt, const Rosters& rosters) {
+  return rosters[0].listOf(onCourt[0]) + ',' + rosters[1].listOf(onCourt[1]);
+}
+
+std::optional<EventPlace> eventBehind(const EventLines& lines, const EventPlace& event) {
+  std::optional<EventPlace> behind;
+  bool isFound = false;
+  visitAll(lines, [&](int period, const std::string& key, const std::string&) {
+    if (isFound)
+      behind = {period, key};
+    isFound = isFound || (period == event.period && key == event.key);
+    return !behind;
+  });
+  return behind;
+}
+
+Carried carryOn(const EventLines& lines, const EventPlace& from, const OnCourt& before, const OnCourt& after,
+                const Rosters& rosters) {
+  OnCourt added = {after[0] & ~before[0], after[1] & ~before[1]};
+  OnCourt removed = {before[0] & ~after[0], before[1] & ~after[1]};
+  OnCourt previous = before; // as it was, before anything was carried on
+  bool isReached = false;
+  Carried carried;
+  visitAll(lines, [&](int period, const std::string& key, const std::string& line) {
+    isReached = isReached || (period == from.period && key == from.key);
+    const auto stop = isReached ? stopOf(period, line, rosters) : std::nullopt;
+    if (!stop)
+      return true;
+    OnCourt changed = stop->lists;
+    for (std::size_t team = 0; team < 2; ++team) {
+      const unsigned changedAnyway = stop->lists[team] ^ previous[team];
+      changed[team] = (changed[team] | (added[team] & ~changedAnyway)) & ~(removed[team] & ~changedAnyway);
+      if (stop->isDeleted)
+        continue;
+      added[team] &= ~changedAnyway;
+      removed[team] &= ~changedAnyway;
+      if (std::popcount(changed[team]) > kMostOnCourt && !carried.conflict)
+        carried.conflict = {period, key};
+    }
+    if (!stop->isDeleted)
+      previous = stop->lists;
+    if (changed != stop->lists)
+      carried.steps.push_back({EventChange::Kind::Replace, period, key, withLists(line, changed, rosters)});
+    return (added[0] | added[1] | removed[0] | removed[1]) != 0;
+  });
+  return carried;
+}
+
+} // namespace hooptab

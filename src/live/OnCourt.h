@@ -1,0 +1,58 @@
+// Who stands on court according to the lists of a game's stops, and what a change to one of them does to all
+// that follow: every stop carries the lists of both teams, so a substitution that is put in or taken out
+// later has to be carried on. Knows no clock and no file.
+#pragma once
+
+#include "storage/EventChange.h"
+#include "storage/Roster.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+// Roster entries as bits (bit n for entry n) of both teams.
+using OnCourt = std::array<unsigned, 2>;
+
+inline constexpr int kMostOnCourt = 5;
+
+struct Rosters {
+  const Roster& visitors;
+  const Roster& home;
+  const Roster& operator[](std::size_t team) const { return team == 0 ? visitors : home; }
+};
+
+// The lists of a stop's line; nothing for a line that is no stop, is deleted, or cannot be understood.
+[[nodiscard]] std::optional<OnCourt> onCourtOf(int period, const std::string& line, const Rosters& rosters);
+// The lists in force behind an event: those of the last stop up to it. Nobody before the first. With `key`
+// empty behind the last event of the period and all before it.
+[[nodiscard]] OnCourt inForce(const EventLines& lines, int period, const std::string& key,
+                              const Rosters& rosters);
+// The same before that event.
+[[nodiscard]] OnCourt inForceBefore(const EventLines& lines, int period, const std::string& key,
+                                    const Rosters& rosters);
+// "IN-04-05,IN-": both lists, as a stop's line has them behind its code.
+[[nodiscard]] std::string listsText(const OnCourt& onCourt, const Rosters& rosters);
+
+struct EventPlace {
+  int period = 0;
+  std::string key = {};
+  friend bool operator==(const EventPlace&, const EventPlace&) = default;
+};
+// The event that follows one in the order of the game; nothing behind the last.
+[[nodiscard]] std::optional<EventPlace> eventBehind(const EventLines& lines, const EventPlace& event);
+
+struct Carried {
+  std::vector<EventChange> steps;
+  // The first stop that would get more than five players, which is for the user to decide.
+  std::optional<EventPlace> conflict;
+};
+// The lists in force before the event `from` were `before` and are `after` now: that event and all behind it,
+// each stop taken on by the same change, player by player, until one changes that player anyway. Deleted
+// stops follow too, so that they fit when they are restored.
+[[nodiscard]] Carried carryOn(const EventLines& lines, const EventPlace& from, const OnCourt& before,
+                              const OnCourt& after, const Rosters& rosters);
+
+} // namespace hooptab
