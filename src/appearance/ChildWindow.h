@@ -17,18 +17,27 @@ class ChildWindow : public QWidget {
   // How the user has arranged its parts (splitters, columns), remembered under its object name.
   virtual QByteArray arrangement() const { return {}; }
   virtual void restoreArrangement(const QByteArray&) {}
-  virtual bool mayClose() { return true; } // asks first, where something would be lost
+  // For closing several windows: each is asked once, and closes only when all of them agree.
+  bool agreesToClose() {
+    m_agrees = mayClose();
+    return m_agrees;
+  }
+  void stay() { m_agrees = false; }
 
  signals:
   void closing();
   void reported(const QString& message); // for the status bar
 
  protected:
+  virtual bool mayClose() { return true; } // asks first, where something would be lost
   void closeEvent(QCloseEvent* event) override {
-    event->setAccepted(mayClose());
+    event->setAccepted(m_agrees || mayClose());
     if (event->isAccepted())
       emit closing();
   }
+
+ private:
+  bool m_agrees = false;
 };
 
 } // namespace hooptab

@@ -50,7 +50,8 @@ void QtDialogs::complain(QWidget* parent, const QString& title, const QString& t
 }
 
 bool QtDialogs::ask(QWidget* parent, const QString& title, const QString& text) {
-  return QMessageBox::question(parent, title, text) == QMessageBox::Yes;
+  return QMessageBox::question(parent, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+         QMessageBox::Yes;
 }
 
 SaveChoice QtDialogs::askToSave(QWidget* parent, const QString& title, const QString& text) {

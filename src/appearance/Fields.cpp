@@ -1,10 +1,17 @@
 #include "appearance/Fields.h"
 
+#include "appearance/Icons.h"
 #include "appearance/relabel.h"
 #include "storage/codepage.h"
 
-#include <QEvent>
+#include <QAbstractItemView>
+#include <QFocusEvent>
+#include <QGuiApplication>
+#include <QItemSelectionModel>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
 #include <QTimer>
 #include <QToolTip>
 #include <QValidator>
@@ -23,11 +30,29 @@ class SelectOnFocus : public QObject {
       auto* field = qobject_cast<QLineEdit*>(watched);
       // Later: the press of the mouse that brought the focus is still to come, and would take the selection
       // away.
-      if (field != nullptr && field->text().size() > 1)
+      if (field == nullptr || field->text().size() <= 1)
+        return false;
+      // By mouse later: the press that brought the focus is still to come, and would take the selection away.
+      if (static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
         QTimer::singleShot(0, field, &QLineEdit::selectAll);
+      else
+        field->selectAll();
     }
     return QObject::eventFilter(watched, event);
   }
+};
+
+class CallOnRelease : public QObject {
+ public:
+  CallOnRelease(QAbstractItemView& view, std::function<void()> act) : QObject(&view), m_act(std::move(act)) {}
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonRelease)
+      m_act(); // the row was selected when the button was pressed, or while it was moved
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  std::function<void()> m_act;
 };
 
 class FieldLimit : public QValidator {
@@ -41,6 +66,52 @@ class FieldLimit : public QValidator {
 };
 
 } // namespace
+
+QLabel* captionFor(QWidget& field, int text) {
+  setAccessibleNumber(field, text);
+  setToolTipNumber(field, text);
+  auto* label = new QLabel(field.parentWidget());
+  label->setBuddy(&field);
+  setTextNumber(*label, text);
+  return label;
+}
+
+QPushButton* iconButton(const char* name, int text, int toolTip, const char* iconName, QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  button->setObjectName(QLatin1String(name));
+  button->setIcon(icon(QLatin1String(iconName)));
+  button->setAutoDefault(false);
+  setTextNumber(*button, text);
+  setToolTipNumber(*button, toolTip);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* press = new QShortcut(QKeySequence(key), button);
+    press->setContext(Qt::WidgetShortcut);
+    QObject::connect(press, &QShortcut::activated, button, &QPushButton::click);
+  }
+  return button;
+}
+
+QLabel* noticeLabel(QWidget* parent) {
+  constexpr int kMargin = 8;
+  auto* notice = new QLabel(parent);
+  notice->setObjectName(QStringLiteral("lblNOTICE"));
+  notice->setAutoFillBackground(true);
+  notice->setBackgroundRole(QPalette::Highlight);
+  notice->setForegroundRole(QPalette::HighlightedText);
+  notice->setContentsMargins(kMargin, kMargin / 2, kMargin, kMargin / 2);
+  notice->setWordWrap(true);
+  notice->hide();
+  return notice;
+}
+
+void whenSelected(QAbstractItemView& view, std::function<void()> act) {
+  view.viewport()->installEventFilter(new CallOnRelease(view, act));
+  QObject::connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, &view,
+                   [act = std::move(act)] {
+                     if (QGuiApplication::mouseButtons() == Qt::NoButton)
+                       act();
+                   });
+}
 
 void selectOnFocus(QWidget& window) {
   auto* filter = new SelectOnFocus(&window);

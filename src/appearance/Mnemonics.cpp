@@ -3,6 +3,7 @@
 #include "appearance/relabel.h"
 
 #include <QAbstractButton>
+#include <QHash>
 #include <QKeySequence>
 #include <QLabel>
 #include <QSet>
@@ -20,28 +21,63 @@ bool beginsWord(const QString& caption, qsizetype place) {
   return place == 0 || !caption[place - 1].isLetter();
 }
 
-qsizetype findPlace(const QString& caption, const QSet<QChar>& taken) {
+// The places of a caption that can be its letter, the better ones first.
+QList<qsizetype> placesIn(const QString& caption) {
+  QList<qsizetype> found;
   for (const bool atWords : {true, false}) {
     for (qsizetype place = 0; place < caption.size(); ++place) {
-      if (isPlain(caption[place]) && beginsWord(caption, place) == atWords &&
-          !taken.contains(caption[place].toLower()))
-        return place;
+      if (isPlain(caption[place]) && beginsWord(caption, place) == atWords)
+        found << place;
     }
   }
-  return -1;
+  return found;
 }
+
+// Gives captions letters so that as many as can be have one: a caption whose letters are all taken moves
+// another one on to a letter that is free (augmenting paths of a bipartite matching).
+class Matching {
+ public:
+  explicit Matching(const QStringList& captions) : m_captions(captions) {
+    m_places.assign(static_cast<std::size_t>(captions.size()), -1);
+    for (int caption = 0; caption < captions.size(); ++caption) {
+      m_tried.clear();
+      place(caption);
+    }
+  }
+  std::vector<qsizetype> places() const { return m_places; }
+
+ private:
+  bool place(int caption) {
+    const QString& text = m_captions[caption];
+    const QList<qsizetype> candidates = placesIn(text);
+    for (const bool moves : {false, true}) {
+      for (const qsizetype candidate : candidates) {
+        const QChar letter = text[candidate].toLower();
+        const auto owner = m_owners.constFind(letter);
+        const bool isFree = owner == m_owners.constEnd();
+        if (!isFree && (!moves || m_tried.contains(letter)))
+          continue;
+        m_tried.insert(letter);
+        if (!isFree && !place(*owner))
+          continue;
+        m_owners[letter] = caption;
+        m_places[static_cast<std::size_t>(caption)] = candidate;
+        return true;
+      }
+    }
+    return false;
+  }
+
+  const QStringList& m_captions;
+  std::vector<qsizetype> m_places;
+  QHash<QChar, int> m_owners;
+  QSet<QChar> m_tried;
+};
 
 } // namespace
 
 std::vector<qsizetype> mnemonicPlaces(const QStringList& captions) {
-  QSet<QChar> taken;
-  std::vector<qsizetype> places;
-  for (const QString& caption : captions) {
-    places.push_back(findPlace(caption, taken));
-    if (places.back() >= 0)
-      taken.insert(caption[places.back()].toLower());
-  }
-  return places;
+  return Matching(captions).places();
 }
 
 void giveMnemonics(QWidget& window) {

@@ -10,8 +10,8 @@ class QWidget;
 
 namespace hooptab {
 
-// For each caption the place of its letter, -1 where no letter is left: the first letters of words before
-// others, earlier captions before later ones, no letter twice.
+// For each caption the place of its letter, -1 where none can be found: no letter twice, as many captions
+// with one as can be, the first letters of words before others.
 [[nodiscard]] std::vector<qsizetype> mnemonicPlaces(const QStringList& captions);
 
 // Gives the buttons of `window` and the labels with a buddy that have a text by number their Alt keys,

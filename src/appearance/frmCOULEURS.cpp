@@ -117,16 +117,12 @@ QWidget* frmCOULEURS::makeColours() {
 
 void frmCOULEURS::addColour(QGridLayout& rows, const char* name, int text,
                             std::uint32_t ChosenColours::*colour) {
-  auto* label = new QLabel(this);
   auto* button = new QPushButton(this);
   button->setObjectName(QLatin1String(name));
   button->setMinimumWidth(120);
-  setTextNumber(*label, text);
-  setAccessibleNumber(*button, text);
-  setToolTipNumber(*button, kChooserTitle);
-  label->setBuddy(button);
   const int row = rows.rowCount();
-  rows.addWidget(label, row, 0);
+  rows.addWidget(captionFor(*button, text), row, 0);
+  setToolTipNumber(*button, kChooserTitle);
   rows.addWidget(button, row, 1);
   connect(button, &QPushButton::clicked, this, [this, colour] { chooseColour(colour); });
   m_colours.push_back({button, colour});
@@ -143,18 +139,14 @@ QWidget* frmCOULEURS::makeLabels() {
 }
 
 void frmCOULEURS::addLabel(QGridLayout& rows, std::size_t which, const char* name, int text) {
-  auto* label = new QLabel(this);
   auto* prefix = new QLabel(toQt(CourtColourChoice::prefix(which)), this);
   auto* field = new QLineEdit(this);
   field->setObjectName(QLatin1String(name));
   field->setMinimumWidth(180);
-  setTextNumber(*label, text);
-  setAccessibleNumber(*field, text);
-  setToolTipNumber(*field, kLabelToolTip);
-  label->setBuddy(field);
   limitField(*field, m_texts, CourtColourChoice::kLongestLabel);
   const auto row = static_cast<int>(which);
-  rows.addWidget(label, row, 0);
+  rows.addWidget(captionFor(*field, text), row, 0);
+  setToolTipNumber(*field, kLabelToolTip);
   rows.addWidget(prefix, row, 1);
   rows.addWidget(field, row, 2);
   connect(field, &QLineEdit::textEdited, this,
@@ -238,6 +230,7 @@ bool frmCOULEURS::apply() {
   m_choice = CourtColourChoice::of(m_settings);
   showLabels();
   emit applied();
+  relabelWindow(); // what is applied may relabel the whole program, which takes the Alt keys away
   if (!isOnDisk)
     m_dialogs.warn(this, caption(m_texts, kWarningTitle),
                    toQt(m_texts.withPlaceholder(kNotOnDisk, m_settings.path())));

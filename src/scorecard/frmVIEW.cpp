@@ -1,5 +1,6 @@
 #include "scorecard/frmVIEW.h"
 
+#include "appearance/Fields.h"
 #include "appearance/Icons.h"
 #include "appearance/relabel.h"
 #include "scorecard/BoxTable.h"
@@ -46,18 +47,11 @@ constexpr int kByLine = 1072;
 
 frmVIEW::frmVIEW(cinifile& store, const Settings& settings, const Texts& texts, QWidget* parent)
     : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_view(texts),
-      m_notice(new QLabel(this)), m_strip(new ScoreboardStrip(this)) {
+      m_notice(noticeLabel(this)), m_strip(new ScoreboardStrip(this)) {
   setObjectName(QStringLiteral("frmVIEW"));
   m_timer.setObjectName(QStringLiteral("TimerCoach"));
   m_timer.setParent(this);
   m_timer.setTimerType(Qt::PreciseTimer);
-  m_notice->setObjectName(QStringLiteral("lblNOTICE"));
-  m_notice->setAutoFillBackground(true);
-  m_notice->setBackgroundRole(QPalette::Highlight);
-  m_notice->setForegroundRole(QPalette::HighlightedText);
-  m_notice->setContentsMargins(kMargin, kMargin / 2, kMargin, kMargin / 2);
-  m_notice->setWordWrap(true);
-  m_notice->hide();
   m_chart = new ShotChartPanel(settings, texts, this);
 
   auto* left = new QSplitter(Qt::Vertical, this);

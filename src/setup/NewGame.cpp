@@ -31,17 +31,6 @@ constexpr int kChooseGameType = 1870;
 constexpr int kChooseMainTeam = 1871;
 
 // What no common file system takes in a name.
-std::string asFileName(std::string text) {
-  std::ranges::replace_if(
-      text,
-      [](char letter) {
-        return static_cast<unsigned char>(letter) < ' ' || letter == '\x7F' ||
-               std::string_view("/\\:*?\"<>|").find(letter) != std::string_view::npos;
-      },
-      '-');
-  return text;
-}
-
 std::vector<NewGame::Player> playersOf(const std::vector<TeamPlayer>& stored) {
   using enum NewGame::Eligibility;
   std::vector<NewGame::Player> players;
@@ -106,7 +95,7 @@ void NewGame::stepPosition(int side, std::size_t player) {
 int NewGame::missing() const {
   if (sides[0].team == kNone || sides[1].team == kNone)
     return kChooseTeams;
-  if (date.empty())
+  if (Module1::trimmed(date).empty())
     return kEnterDate;
   if (gameType == kNone)
     return kChooseGameType;
@@ -119,7 +108,8 @@ int NewGame::missing() const {
 
 int NewGame::problem() const {
   // No minutes at all are a game without time.
-  if (Module1::leadingNumber(rules.minutesPerPeriod) < 0)
+  const int minutes = Module1::leadingNumber(rules.minutesPerPeriod);
+  if (minutes < 0 || minutes > NewGame::kMostMinutes)
     return kInvalidMinutes;
   if (Module1::leadingNumber(rules.periods) <= 0)
     return kInvalidPeriods;
@@ -158,7 +148,7 @@ std::string NewGame::abbreviation(int side) const {
 
 std::string NewGame::proposedFileName() const {
   const std::string_view type = choiceName(kFirstGameTypeText, gameType, m_texts);
-  return asFileName(date + ' ' + std::string(type) + ' ' + listText(0) + ' ' + listText(1)) +
+  return Module1::asFileName(date + ' ' + std::string(type) + ' ' + listText(0) + ' ' + listText(1)) +
          std::string(kEnding);
 }
 

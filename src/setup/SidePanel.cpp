@@ -74,12 +74,7 @@ QLayout* SidePanel::makeFields() {
   layout->setVerticalSpacing(kGap);
   const auto addField = [&](QLineEdit* field, const char* name, int text, int column, std::string& target) {
     field->setObjectName(named(name));
-    setAccessibleNumber(*field, text);
-    setToolTipNumber(*field, text);
-    auto* label = new QLabel(this);
-    label->setBuddy(field);
-    setTextNumber(*label, text);
-    layout->addWidget(label, 0, column);
+    layout->addWidget(captionFor(*field, text), 0, column);
     layout->addWidget(field, 1, column);
     connect(field, &QLineEdit::textChanged, this,
             [&target](const QString& typed) { target = fromQt(typed); });

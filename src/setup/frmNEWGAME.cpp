@@ -18,6 +18,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
@@ -44,7 +45,6 @@ constexpr int kGap = 5;
 constexpr int kColumnWidth = 270;
 constexpr int kRuleWidth = 64;
 constexpr int kPickerWidth = 20; // its button alone: the date stands beside it as text
-constexpr int kMostMinutes = 99; // of a clock that shows mm:ss
 
 QString dateFormat() {
   return QStringLiteral("yyyy-MM-dd");
@@ -90,7 +90,7 @@ frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts,
   relabelWindow();
   showRules();
   showMainTeam();
-  m_sides[0]->teams().setFocus();
+  m_sides[0]->teams().list().setFocus();
   resize(kRoomyWindow.boundedTo(screen()->availableSize() - kAroundWindow));
 }
 
@@ -98,15 +98,10 @@ QLineEdit* frmNEWGAME::addField(QGridLayout& layout, const char* name, int text,
                                 const std::function<bool(const std::string&)>& fits) {
   auto* field = new QLineEdit(this);
   field->setObjectName(QLatin1String(name));
-  setAccessibleNumber(*field, text);
-  setToolTipNumber(*field, text);
   limitField(*field, fits, m_texts);
   field->setText(toQt(target));
   connect(field, &QLineEdit::textChanged, this, [&target](const QString& typed) { target = fromQt(typed); });
-  auto* label = new QLabel(this);
-  setTextNumber(*label, text);
-  label->setBuddy(field);
-  layout.addWidget(label, layout.rowCount(), 0, 1, 2);
+  layout.addWidget(captionFor(*field, text), layout.rowCount(), 0, 1, 2);
   return field;
 }
 
@@ -191,10 +186,7 @@ QWidget* frmNEWGAME::makeRuleFields() {
     return field;
   };
   const auto anyText = [](const std::string& typed) { return fitsInValue(typed); };
-  const auto clockMinutes = [](const std::string& typed) {
-    return Module1::leadingNumber(typed) <= kMostMinutes && fitsInValue(typed);
-  };
-  m_minutes = addRule("txtDUREE", 1124, m_game.rules.minutesPerPeriod, clockMinutes);
+  m_minutes = addRule("txtDUREE", 1124, m_game.rules.minutesPerPeriod, anyText);
   m_periods = addRule("txtNBREPERIODE", 1123, m_game.rules.periods, anyText);
   m_bonus = addRule("txtBONUS", 1125, m_game.rules.bonus, anyText);
   m_personalFouls = addRule("txtPF", 1126, m_game.rules.personalFoulLimit, anyText);
@@ -290,10 +282,10 @@ void frmNEWGAME::focusOn(int problem) {
                 {1133, m_personalFouls},
                 {1134, m_technicalFouls},
                 {1205, m_input},
-                {1135, &m_sides[m_game.sides[0].team == NewGame::kNone ? 0 : 1]->teams()},
+                {1135, &m_sides[m_game.sides[0].team == NewGame::kNone ? 0 : 1]->teams().list()},
                 {1274, &m_sides[0]->players()},
                 {1275, &m_sides[1]->players()},
-                {1406, &m_sides[1]->teams()}};
+                {1406, &m_sides[1]->teams().list()}};
   for (const auto& place : places) {
     if (place.problem == problem)
       place.widget->setFocus(Qt::OtherFocusReason);

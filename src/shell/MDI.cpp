@@ -175,10 +175,8 @@ void MDI::chooseGame() {
 }
 
 void MDI::openGame(const QString& path) {
-  if (frmVIEW* open = scorecardOf(path)) {
-    m_area->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(open->parentWidget()));
-    return;
-  }
+  if (frmVIEW* open = scorecardOf(path))
+    return bringToFront(*open);
   auto view = std::make_unique<frmVIEW>(m_workshop.store, m_workshop.settings, m_workshop.texts);
   if (const GameFileProblem problem = view->open(path); problem != GameFileProblem::None)
     return refuse(problem, path);
@@ -204,13 +202,18 @@ void MDI::makeGame() {
 }
 
 void MDI::openTeams() {
-  const QList<ChildWindow*> windows = children();
-  const auto open = std::ranges::find_if(
-      windows, [](const ChildWindow* child) { return qobject_cast<const frmEQUIPES*>(child) != nullptr; });
-  if (open != windows.end())
-    m_area->setActiveSubWindow(qobject_cast<QMdiSubWindow*>((*open)->parentWidget()));
-  else
-    addChild(new frmEQUIPES(m_teams, m_workshop.texts, m_workshop.dialogs));
+  for (ChildWindow* child : children()) {
+    if (qobject_cast<frmEQUIPES*>(child) != nullptr)
+      return bringToFront(*child);
+  }
+  addChild(new frmEQUIPES(m_teams, m_workshop.texts, m_workshop.dialogs));
+}
+
+void MDI::bringToFront(ChildWindow& child) {
+  auto* window = qobject_cast<QMdiSubWindow*>(child.parentWidget());
+  if (window->isMinimized())
+    window->showNormal();
+  m_area->setActiveSubWindow(window);
 }
 
 void MDI::openColours() {
@@ -360,12 +363,15 @@ void MDI::restorePlace() {
 }
 
 void MDI::closeEvent(QCloseEvent* event) {
-  m_area->closeAllSubWindows();
-  const QList<QMdiSubWindow*> windows = m_area->subWindowList();
-  if (!std::ranges::all_of(windows, &QWidget::isHidden)) { // one of them wants to stay
+  // All are asked before the first one closes.
+  const QList<ChildWindow*> windows = children();
+  if (!std::ranges::all_of(windows, &ChildWindow::agreesToClose)) {
+    for (ChildWindow* child : windows)
+      child->stay();
     event->ignore();
     return;
   }
+  m_area->closeAllSubWindows();
   if (!m_workshop.settings.saveLastFolders())
     m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(kErrorTitle)), notSaved());
   m_workshop.memory.rememberLayout(kLayoutName, saveGeometry().toBase64().toStdString());

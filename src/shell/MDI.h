@@ -68,6 +68,7 @@ class MDI : public QMainWindow {
 
   void addScorecard(frmVIEW* view);
   void addChild(ChildWindow* child);
+  void bringToFront(ChildWindow& child);
   [[nodiscard]] QList<ChildWindow*> children() const; // the open windows
   [[nodiscard]] frmVIEW* scorecard() const;           // the one in front, or null
   [[nodiscard]] frmVIEW* scorecardOf(const QString& path) const;

@@ -122,6 +122,17 @@ std::string quotientText(std::int64_t numerator, std::int64_t denominator, int d
   return isNegative && rounded != 0 ? "-" + text : text;
 }
 
+std::string asFileName(std::string text) {
+  std::ranges::replace_if(
+      text,
+      [](char letter) {
+        return static_cast<unsigned char>(letter) < ' ' || letter == '\x7F' ||
+               std::string_view("/\\:*?\"<>|").find(letter) != std::string_view::npos;
+      },
+      '-');
+  return text;
+}
+
 std::string withPlaceholder(std::string_view text, std::string_view replacement,
                             std::string_view placeholder) {
   std::string result;

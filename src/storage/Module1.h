@@ -60,6 +60,9 @@ namespace hooptab::Module1 {
 // Denominator above 0.
 [[nodiscard]] std::string quotientText(std::int64_t numerator, std::int64_t denominator, int decimals);
 
+// A text as part of a file's name: control characters and / \ : * ? " < > | become "-", all else stays.
+[[nodiscard]] std::string asFileName(std::string text);
+
 // All "XXX" of a text replaced.
 [[nodiscard]] std::string withPlaceholder(std::string_view text, std::string_view replacement,
                                           std::string_view placeholder = "XXX");

@@ -92,10 +92,13 @@ std::optional<Places> headerIn(const DelimitedRow& row, const Texts& texts) {
   return named < 2 ? std::nullopt : std::optional(places);
 }
 
-Places placesInOrder() {
+// The fixed order, as far as the longest row goes.
+Places placesInOrder(const std::vector<DelimitedRow>& rows) {
   Places places;
-  for (std::size_t column = 0; column < kColumns; ++column)
-    places[column] = column;
+  for (const DelimitedRow& row : rows) {
+    for (std::size_t column = 0; column < std::min<std::size_t>(kColumns, row.fields.size()); ++column)
+      places[column] = column;
+  }
   return places;
 }
 
@@ -105,7 +108,8 @@ class RowReader {
 
   void read(const DelimitedRow& row, CsvPlayers& into) const {
     const auto refuse = [&](int text, const std::string& detail) {
-      into.problems.push_back({row.line, text, codepage::storedForm(detail.substr(0, kLongestDetail))});
+      into.problems.push_back(
+          {row.line, text, codepage::toUtf8(codepage::fromUtf8(detail).substr(0, kLongestDetail))});
     };
     if (row.hasOpenQuote)
       return refuse(kOpenQuote, {});
@@ -150,7 +154,12 @@ CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts) {
     result.problems.push_back({rows.front().line, kIncompleteHeader, {}});
     return result;
   }
-  const Places places = header.value_or(placesInOrder());
+  const Places places = header ? *header : placesInOrder(rows);
+  result.hasPosition = places[kPosition].has_value();
+  result.hasHeight = places[kHeight].has_value();
+  result.hasWeight = places[kWeight].has_value();
+  result.hasAge = places[kAge].has_value();
+  result.hasGrade = places[kGrade].has_value();
   const RowReader reader(texts, places);
   for (std::size_t row = header ? 1 : 0; row < rows.size(); ++row) {
     if (result.players.size() == kMostPlayers) {

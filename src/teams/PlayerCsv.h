@@ -19,6 +19,8 @@ struct CsvProblem {
 };
 
 struct CsvPlayers {
+  // Which columns the table has; what it lacks, a player who is there already keeps.
+  bool hasPosition = false, hasHeight = false, hasWeight = false, hasAge = false, hasGrade = false;
   std::vector<TeamPlayer> players; // the good rows, in their order
   std::vector<CsvProblem> problems;
 };

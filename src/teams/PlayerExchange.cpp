@@ -14,6 +14,7 @@
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QStringDecoder>
+#include <utility>
 
 namespace hooptab {
 
@@ -32,6 +33,25 @@ constexpr int kAndMore = 1834;
 constexpr int kReplaceFile = 1836;
 constexpr int kNoPlayers = 1802;
 constexpr qsizetype kMostProblemsShown = 12;
+
+// What the table does not say of a player stays as it is.
+PlayerFields withKept(PlayerFields fields, const CsvPlayers& read, const TeamSheet& sheet) {
+  const TeamSheet::Target target = sheet.target(fields);
+  if (target.row < 0 || target.effect == TeamSheet::Effect::Conflicts)
+    return fields;
+  const PlayerFields old = fieldsOf(sheet.players()[static_cast<std::size_t>(target.row)]);
+  if (!read.hasPosition)
+    fields.position = old.position;
+  const std::pair<bool, std::string PlayerFields::*> texts[] = {{read.hasHeight, &PlayerFields::height},
+                                                                {read.hasWeight, &PlayerFields::weight},
+                                                                {read.hasAge, &PlayerFields::age},
+                                                                {read.hasGrade, &PlayerFields::grade}};
+  for (const auto& [isThere, text] : texts) {
+    if (!isThere)
+      fields.*text = old.*text;
+  }
+  return fields;
+}
 
 } // namespace
 
@@ -54,8 +74,8 @@ bool PlayerExchange::importFile(QWidget* parent, TeamSheet& sheet, const QString
   std::string bytes;
   FileStamp stamp;
   if (readWholeFile(m_files, fromQt(path), bytes, stamp) != ReadOutcome::Read) {
-    m_dialogs.warn(parent, toQt(m_texts.text(kErrorTitle)),
-                   toQt(m_texts.withPlaceholder(kCannotBeRead, fromQt(QDir::toNativeSeparators(path)))));
+    m_dialogs.complain(parent, toQt(m_texts.text(kErrorTitle)),
+                       toQt(m_texts.withPlaceholder(kCannotBeRead, fromQt(QDir::toNativeSeparators(path)))));
     return false;
   }
   return take(parent, sheet, decodedText(QByteArray::fromStdString(bytes)));
@@ -72,7 +92,7 @@ bool PlayerExchange::take(QWidget* parent, TeamSheet& sheet, const QString& text
     problems << toQt(problemText(problem, m_texts));
   int taken = 0;
   for (const TeamPlayer& player : read.players) {
-    const PlayerFields fields = fieldsOf(player);
+    const PlayerFields fields = withKept(fieldsOf(player), read, sheet);
     if (sheet.put(fields) >= 0)
       ++taken;
     else
@@ -98,8 +118,9 @@ bool PlayerExchange::take(QWidget* parent, TeamSheet& sheet, const QString& text
 
 void PlayerExchange::exportFile(QWidget* parent, const TeamSheet& sheet, const QString& folder,
                                 const QString& name) {
-  QString path = m_dialogs.chooseFileToSave(
-      parent, toQt(m_texts.text(kExportTip)), folder + u'/' + name + QStringLiteral(".csv"),
+  const QString path = m_dialogs.chooseFileToSave(
+      parent, toQt(m_texts.text(kExportTip)),
+      folder + u'/' + toQt(Module1::asFileName(fromQt(name))) + QStringLiteral(".csv"),
       fileFilter(toQt(m_texts.text(kTableFilter))), QStringLiteral("csv"));
   if (path.isEmpty())
     return;
@@ -111,8 +132,8 @@ void PlayerExchange::exportFile(QWidget* parent, const TeamSheet& sheet, const Q
     return;
   // With a byte order mark, by which spreadsheets know that it is UTF-8.
   if (!replaceWholeFile(m_files, fromQt(path), "\xEF\xBB\xBF" + playersCsv(sheet.players(), m_texts), stamp))
-    m_dialogs.warn(parent, toQt(m_texts.text(kErrorTitle)),
-                   toQt(m_texts.withPlaceholder(kNotWritten, shown)));
+    m_dialogs.complain(parent, toQt(m_texts.text(kErrorTitle)),
+                       toQt(m_texts.withPlaceholder(kNotWritten, shown)));
 }
 
 } // namespace hooptab

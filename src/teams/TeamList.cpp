@@ -1,5 +1,6 @@
 #include "teams/TeamList.h"
 
+#include "appearance/Fields.h"
 #include "appearance/relabel.h"
 
 #include <QBoxLayout>
@@ -27,7 +28,6 @@ TeamList::TeamList(const QString& listName, const QString& separator, QWidget* p
   setAccessibleNumber(*m_search, kSearchTeams);
   setToolTipNumber(*m_search, kSearchTeams);
   setPlaceholderNumber(*m_search, kSearchTeams);
-  setFocusProxy(m_list);
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -37,14 +37,18 @@ TeamList::TeamList(const QString& listName, const QString& separator, QWidget* p
 
   connect(m_search, &QLineEdit::textChanged, this, &TeamList::search);
   connect(m_search, &QLineEdit::returnPressed, m_list, [this] { m_list->setFocus(Qt::OtherFocusReason); });
-  // By selection: the mere focus makes the first row the current one.
-  connect(m_list, &QListWidget::itemSelectionChanged, this, [this] {
-    const QModelIndexList selected = m_list->selectionModel()->selectedIndexes();
-    if (selected.isEmpty()) // Ctrl and a click; a team that was chosen stays so
-      return setPosition(m_position);
-    m_position = selected.first().row();
-    emit chosen(m_position);
-  });
+  whenSelected(*m_list, [this] { takeSelection(); });
+}
+
+// By selection: the mere focus makes the first row the current one.
+void TeamList::takeSelection() {
+  const QModelIndexList selected = m_list->selectionModel()->selectedIndexes();
+  if (selected.isEmpty()) // Ctrl and a click; a team that was chosen stays so
+    return setPosition(m_position);
+  if (selected.first().row() == m_position)
+    return;
+  m_position = selected.first().row();
+  emit chosen(m_position);
 }
 
 QString TeamList::entryText(const TeamEntry& team) const {
@@ -70,7 +74,7 @@ int TeamList::position() const {
 }
 
 void TeamList::setPosition(int position) {
-  const QSignalBlocker quiet(m_list);
+  const QSignalBlocker quiet(m_list->selectionModel());
   m_position = position;
   m_list->clearSelection();
   m_list->setCurrentRow(position);
@@ -80,10 +84,6 @@ void TeamList::setPosition(int position) {
   if (item->isHidden())
     m_search->clear();
   m_list->scrollToItem(item);
-}
-
-int TeamList::count() const {
-  return m_list->count();
 }
 
 void TeamList::search(const QString& text) {

@@ -24,13 +24,13 @@ class TeamList : public QWidget {
   int position() const; // of the team chosen; -1 for none
   // Chooses without emitting; -1 for none. A team that the search hides is shown again.
   void setPosition(int position);
-  int count() const;
   QListWidget& list() const { return *m_list; }
 
  signals:
   void chosen(int position); // by the user; -1 never
 
  private:
+  void takeSelection();
   void search(const QString& text);
   QString entryText(const TeamEntry& team) const;
 

@@ -173,7 +173,8 @@ std::string TeamSheet::text(int row, PlayerColumn column, const Texts& texts) co
 std::string TeamSheet::repeatedNumber() const {
   for (std::size_t row = 0; row < m_players.size(); ++row) {
     for (std::size_t before = 0; before < row; ++before) {
-      if (m_players[before].number == m_players[row].number)
+      if (codepage::equalNames(codepage::fromUtf8(m_players[before].number),
+                               codepage::fromUtf8(m_players[row].number)))
         return m_players[row].number;
     }
   }

@@ -63,6 +63,7 @@ class TeamSheet {
 
   [[nodiscard]] std::string text(int row, PlayerColumn column, const Texts& texts) const;
   // A number that two rows have, as only a file changed by hand can bring it; empty when there is none.
+  // Without regard to letter case, which the file does not keep apart.
   [[nodiscard]] std::string repeatedNumber() const;
 
  private:

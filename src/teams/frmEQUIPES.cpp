@@ -6,18 +6,16 @@
 #include "appearance/Mnemonics.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "storage/ChoiceTexts.h"
 #include "storage/codepage.h"
+#include "teams/PlayerEditor.h"
 #include "teams/PlayerTableModel.h"
 #include "teams/TeamColours.h"
 #include "teams/TeamList.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -37,8 +35,6 @@ constexpr int kErrorTitle = 1060;
 constexpr int kWarningTitle = 1139;
 constexpr int kSelectTeamFirst = 1174;
 constexpr int kReallyDelete = 1175;
-constexpr int kInvalidNumber = 1171;
-constexpr int kNoPositionChosen = 1172;
 constexpr int kTeamSaved = 1803;
 constexpr int kUnsavedTeam = 1818;
 constexpr int kUnsavedPlayer = 1819;
@@ -52,7 +48,6 @@ constexpr int kMargin = 8;
 constexpr int kListWidth = 270;
 constexpr int kRowAir = 4; // so that 15 players are in sight on the smallest screen
 constexpr int kSwatch = 16;
-constexpr int kMostDigits = 3;
 constexpr int kRuleWidth = 64;
 
 // Fields of the rules, by their order in the record.
@@ -60,23 +55,13 @@ constexpr struct {
   const char* name;
   int text;
   std::string TeamRecord::*rule;
+  int digits; // minutes are those of a clock that shows mm:ss
 } kRules[] = {
-    {"txtDUREE", 1124, &TeamRecord::minutesPerPeriod},
-    {"txtNBREPERIODE", 1123, &TeamRecord::periods},
-    {"txtBONUS", 1125, &TeamRecord::bonus},
-    {"txtPF", 1126, &TeamRecord::personalFoulLimit},
-    {"txtTF", 1127, &TeamRecord::technicalFoulLimit},
-};
-
-constexpr struct {
-  const char* name;
-  int text;
-  std::string PlayerFields::*part;
-  int stretch;
-} kPlayerTexts[] = {
-    {"txtJOUEURNOM", 1023, &PlayerFields::name, 5}, {"txtGRANDEUR", 1320, &PlayerFields::height, 2},
-    {"txtPOIDS", 1321, &PlayerFields::weight, 2},   {"txtAGE", 1322, &PlayerFields::age, 1},
-    {"txtGRADE", 1323, &PlayerFields::grade, 2},
+    {"txtDUREE", 1124, &TeamRecord::minutesPerPeriod, 2},
+    {"txtNBREPERIODE", 1123, &TeamRecord::periods, 3},
+    {"txtBONUS", 1125, &TeamRecord::bonus, 3},
+    {"txtPF", 1126, &TeamRecord::personalFoulLimit, 3},
+    {"txtTF", 1127, &TeamRecord::technicalFoulLimit, 3},
 };
 
 } // namespace
@@ -85,15 +70,10 @@ frmEQUIPES::frmEQUIPES(TeamStore& teams, const Texts& texts, Dialogs& dialogs, Q
     : ChildWindow(parent), m_teams(teams), m_texts(texts), m_dialogs(dialogs),
       m_exchange(teams.store().files(), texts, dialogs),
       m_list(new TeamList(QStringLiteral("lstequipes"), QStringLiteral(" - "), this)),
-      m_model(new PlayerTableModel(m_sheet, texts, this)), m_notice(new QLabel(this)) {
+      m_model(new PlayerTableModel(m_sheet, texts, this)), m_notice(noticeLabel(this)),
+      m_player(new PlayerEditor(m_sheet, texts, this)) {
   setObjectName(QStringLiteral("frmEQUIPES"));
   setTextNumber(*this, 1048);
-  m_notice->setObjectName(QStringLiteral("lblNOTICE"));
-  m_notice->setAutoFillBackground(true);
-  m_notice->setBackgroundRole(QPalette::Highlight);
-  m_notice->setForegroundRole(QPalette::HighlightedText);
-  m_notice->setContentsMargins(kMargin, kMargin / 2, kMargin, kMargin / 2);
-  m_notice->setWordWrap(true);
 
   auto* editor = new QVBoxLayout;
   editor->setSpacing(kMargin);
@@ -118,8 +98,8 @@ QWidget* frmEQUIPES::makeTeams() {
   group->setFixedWidth(kListWidth);
   auto* layout = new QVBoxLayout(group);
   layout->addWidget(m_list, 1);
-  layout->addWidget(addButton("cmdAJOUTEREQUIPE", 1163, 1163, "add"));
-  layout->addWidget(addButton("cmdEFFACEREQUIPE", 1161, 1161, "delete"));
+  layout->addWidget(iconButton("cmdAJOUTEREQUIPE", 1163, 1163, "add", this));
+  layout->addWidget(iconButton("cmdEFFACEREQUIPE", 1161, 1161, "delete", this));
   return group;
 }
 
@@ -127,24 +107,10 @@ QLineEdit* frmEQUIPES::addField(QGridLayout& layout, int row, int column, int sp
                                 int text) {
   auto* field = new QLineEdit(this);
   field->setObjectName(QLatin1String(name));
-  setAccessibleNumber(*field, text);
-  setToolTipNumber(*field, text);
-  auto* label = new QLabel(this);
-  label->setBuddy(field);
-  setTextNumber(*label, text);
-  layout.addWidget(label, row, column, 1, span);
+  layout.addWidget(captionFor(*field, text), row, column, 1, span);
   layout.addWidget(field, row + 1, column, 1, span);
+  connect(field, &QLineEdit::returnPressed, this, &frmEQUIPES::saveTeam);
   return field;
-}
-
-QPushButton* frmEQUIPES::addButton(const char* name, int text, int toolTip, const char* iconName) {
-  auto* button = new QPushButton(this);
-  button->setObjectName(QLatin1String(name));
-  button->setIcon(icon(QLatin1String(iconName)));
-  button->setAutoDefault(false);
-  setTextNumber(*button, text);
-  setToolTipNumber(*button, toolTip);
-  return button;
 }
 
 QWidget* frmEQUIPES::makeTeamFields() {
@@ -169,7 +135,7 @@ QWidget* frmEQUIPES::makeTeamFields() {
   for (std::size_t i = 0; i < m_rules.size(); ++i) {
     m_rules[i] = addField(*layout, 2, static_cast<int>(i), 1, kRules[i].name, kRules[i].text);
     m_rules[i]->setValidator(new QRegularExpressionValidator(
-        QRegularExpression(QStringLiteral("\\d{0,%1}").arg(kMostDigits)), m_rules[i]));
+        QRegularExpression(QStringLiteral("\\d{0,%1}").arg(kRules[i].digits)), m_rules[i]));
     m_rules[i]->setMinimumWidth(kRuleWidth);
   }
   layout->setColumnStretch(5, 1);
@@ -181,8 +147,8 @@ QWidget* frmEQUIPES::makeTeamFields() {
   auto* last = new QHBoxLayout;
   last->addWidget(m_isMain);
   last->addStretch();
-  last->addWidget(addButton("cmdCOUL", 1248, 1168, "theme"));
-  last->addWidget(addButton("cmdSAVEEQUIPE", 1164, 1326, "savemanual"));
+  last->addWidget(iconButton("cmdCOUL", 1248, 1168, "theme", this));
+  last->addWidget(iconButton("cmdSAVEEQUIPE", 1164, 1326, "savemanual", this));
   layout->addLayout(last, 4, 0, 1, 6);
   layout->setRowMinimumHeight(4, 34);
   return group;
@@ -219,59 +185,14 @@ QWidget* frmEQUIPES::makePlayers() {
   auto* head = new QHBoxLayout;
   head->addWidget(m_count);
   head->addStretch();
-  head->addWidget(addButton("cmdIMPORT", 1825, 1826, "import"));
-  head->addWidget(addButton("cmdPASTE", 1827, 1828, "copy"));
-  head->addWidget(addButton("cmdEXPORT", 1829, 1830, "export"));
+  head->addWidget(iconButton("cmdIMPORT", 1825, 1826, "import", this));
+  head->addWidget(iconButton("cmdPASTE", 1827, 1828, "copy", this));
+  head->addWidget(iconButton("cmdEXPORT", 1829, 1830, "export", this));
   auto* layout = new QVBoxLayout(group);
   layout->addLayout(head);
   layout->addWidget(m_table, 1);
-  layout->addWidget(makePlayerFields());
+  layout->addWidget(m_player);
   return group;
-}
-
-QWidget* frmEQUIPES::makePlayerFields() {
-  auto* panel = new QWidget(this);
-  auto* layout = new QGridLayout(panel);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setHorizontalSpacing(kMargin);
-  layout->setVerticalSpacing(2);
-  m_number = addField(*layout, 0, 0, 1, "txtJOUEURNO", 1838);
-  m_number->setMaxLength(kMostDigits);
-  m_playerPosition = new QComboBox(panel);
-  m_playerPosition->setObjectName(QStringLiteral("cmbPOSITION"));
-  setAccessibleNumber(*m_playerPosition, 1839);
-  setToolTipNumber(*m_playerPosition, 1172);
-  auto* label = new QLabel(panel);
-  label->setBuddy(m_playerPosition);
-  setTextNumber(*label, 1839);
-  layout->addWidget(label, 0, 1);
-  layout->addWidget(m_playerPosition, 1, 1);
-  layout->setColumnStretch(0, 1);
-  layout->setColumnStretch(1, 1);
-  for (std::size_t i = 0; i < m_playerTexts.size(); ++i) {
-    const auto& [name, text, part, stretch] = kPlayerTexts[i];
-    const int column = static_cast<int>(i) + 2;
-    m_playerTexts[i] = addField(*layout, 0, column, 1, name, text);
-    layout->setColumnStretch(column, stretch);
-    const auto fits = [this, part = part](const std::string& typed) {
-      PlayerFields fields = playerFields();
-      fields.*part = typed;
-      return TeamSheet::fits(fields);
-    };
-    limitField(*m_playerTexts[i], fits, m_texts);
-  }
-
-  m_announcement = new QLabel(panel);
-  m_announcement->setObjectName(QStringLiteral("lblANNOUNCE"));
-  m_announcement->setWordWrap(true);
-  auto* last = new QHBoxLayout;
-  last->addWidget(addButton("cmdAJOUTERJOUEUR", 1165, 1166, "add"));
-  last->addWidget(m_announcement, 1);
-  last->addWidget(addButton("cmdCLEAR", 1188, 1837, "clear"));
-  last->addWidget(addButton("cmdEFFACER", 1167, 1167, "delete"));
-  layout->setRowMinimumHeight(2, 36);
-  layout->addLayout(last, 2, 0, 1, 7);
-  return panel;
 }
 
 void frmEQUIPES::connectEverything() {
@@ -282,41 +203,22 @@ void frmEQUIPES::connectEverything() {
   onClick("cmdEFFACEREQUIPE", &frmEQUIPES::deleteTeam);
   onClick("cmdSAVEEQUIPE", &frmEQUIPES::saveTeam);
   onClick("cmdCOUL", &frmEQUIPES::chooseColour);
-  onClick("cmdAJOUTERJOUEUR", &frmEQUIPES::addPlayer);
-  onClick("cmdEFFACER", &frmEQUIPES::deletePlayer);
-  onClick("cmdCLEAR", &frmEQUIPES::clearPlayer);
   onClick("cmdIMPORT", [this] { takePlayers(&frmEQUIPES::importPlayers); });
   onClick("cmdPASTE", [this] { takePlayers(&frmEQUIPES::pastePlayers); });
   onClick("cmdEXPORT", &frmEQUIPES::exportPlayers);
+  connect(m_player, &PlayerEditor::addAsked, this, &frmEQUIPES::addPlayer);
+  connect(m_player, &PlayerEditor::deleteAsked, this, &frmEQUIPES::deletePlayer);
+  connect(m_player, &PlayerEditor::clearAsked, this, &frmEQUIPES::clearPlayer);
   connect(m_list, &TeamList::chosen, this, &frmEQUIPES::changeTeam);
-  // A click counts when the button is let go: what it asks must not come while it is held down.
-  connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-          [this](const QModelIndex& row) {
-            if (QGuiApplication::mouseButtons() == Qt::NoButton && m_table->selectionModel()->isSelected(row))
-              selectPlayer(row);
-          });
-  connect(m_table, &QTableView::clicked, this, &frmEQUIPES::selectPlayer);
-  QHeaderView* header = m_table->horizontalHeader();
-  connect(header, &QHeaderView::sectionClicked, this,
-          [this, header](int column) { m_model->sort(column, header->sortIndicatorOrder()); });
+  whenSelected(*m_table, [this] { selectPlayer(); });
+  connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this, &frmEQUIPES::sortPlayers);
 
-  for (QLineEdit* field :
-       {m_abbreviation, m_category, m_name, m_rules[0], m_rules[1], m_rules[2], m_rules[3], m_rules[4]})
-    connect(field, &QLineEdit::returnPressed, this, &frmEQUIPES::saveTeam);
-  for (QLineEdit* field :
-       {m_number, m_playerTexts[0], m_playerTexts[1], m_playerTexts[2], m_playerTexts[3], m_playerTexts[4]}) {
-    connect(field, &QLineEdit::returnPressed, this, &frmEQUIPES::addPlayer);
-    connect(field, &QLineEdit::textChanged, this, &frmEQUIPES::showAnnouncement);
-  }
   auto* remove = new QShortcut(QKeySequence::Delete, m_table);
   remove->setContext(Qt::WidgetShortcut);
   connect(remove, &QShortcut::activated, this, &frmEQUIPES::deletePlayer);
   auto* pasteKey = new QShortcut(QKeySequence::Paste, m_table);
   pasteKey->setContext(Qt::WidgetShortcut);
   connect(pasteKey, &QShortcut::activated, this, [this] { takePlayers(&frmEQUIPES::pastePlayers); });
-  auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-  escape->setContext(Qt::WidgetWithChildrenShortcut);
-  connect(escape, &QShortcut::activated, this, &frmEQUIPES::clearPlayer);
 }
 
 const TeamEntry* frmEQUIPES::team() const {
@@ -336,10 +238,17 @@ void frmEQUIPES::listTeams() {
 void frmEQUIPES::changeTeam(int position) {
   if (position == m_position)
     return;
-  if (mayLeaveTeam())
+  // A player who was typed before any team was chosen is for the first one.
+  const PlayerFields typed = m_player->fields();
+  if (team() == nullptr) {
     showTeam(position);
-  else
+    m_player->show({});
+    m_player->type(typed);
+  } else if (mayLeaveTeam()) {
+    showTeam(position);
+  } else {
     m_list->setPosition(m_position);
+  }
 }
 
 void frmEQUIPES::showTeam(int position) {
@@ -352,55 +261,35 @@ void frmEQUIPES::showTeam(int position) {
   m_abbreviation->setText(toQt(record.abbreviation));
   m_category->setText(toQt(record.category));
   m_name->setText(toQt(record.name));
+  for (QLineEdit* field : {m_category, m_name})
+    field->setCursorPosition(0); // the beginning of a long one is in sight
   for (std::size_t i = 0; i < m_rules.size(); ++i)
     m_rules[i]->setText(toQt(record.*kRules[i].rule));
   m_isMain->setChecked(record.isMain);
   m_colour = record.colour();
   m_loadedTeam = teamFields();
-  showPlayer({});
+  m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder); // the file's order
+  m_player->setHasTeam(entry != nullptr);
+  m_player->show({});
   showPlayers();
   showColour();
 
   const bool canChange = !isReadOnly();
-  for (const char* name : {"cmdEFFACEREQUIPE", "cmdSAVEEQUIPE", "cmdCOUL", "cmdAJOUTERJOUEUR", "cmdEFFACER",
-                           "cmdIMPORT", "cmdPASTE"})
+  for (const char* name : {"cmdEFFACEREQUIPE", "cmdSAVEEQUIPE", "cmdCOUL", "cmdIMPORT", "cmdPASTE"})
     findChild<QPushButton*>(QLatin1String(name))->setEnabled(canChange);
-  m_notice->setVisible(!canChange);
-  if (!canChange)
-    m_notice->setText(toQt(m_texts.withPlaceholder(kReadOnly, entry->key)));
+  m_player->setEditable(canChange);
+  showNotice();
+}
+
+void frmEQUIPES::showNotice() {
+  m_notice->setVisible(isReadOnly());
+  if (isReadOnly())
+    m_notice->setText(toQt(m_texts.withPlaceholder(kReadOnly, team()->key)));
 }
 
 void frmEQUIPES::showPlayers() {
-  const QSignalBlocker quiet(m_table->selectionModel());
   m_model->changed();
   m_count->setText(toQt(m_texts.withPlaceholder(kPlayerCount, std::to_string(m_sheet.players().size()))));
-}
-
-void frmEQUIPES::showAnnouncement() {
-  const PlayerFields fields = playerFields();
-  const bool conflicts = m_sheet.target(fields).effect == TeamSheet::Effect::Conflicts;
-  const bool says = team() != nullptr && fields != m_loadedPlayer;
-  const QString words = says ? toQt(m_sheet.announcement(fields, m_texts)) : QString();
-  m_announcement->setText(conflicts && says ? QStringLiteral("⚠ ") + words : words);
-  m_announcement->setForegroundRole(conflicts ? QPalette::BrightText : QPalette::WindowText);
-}
-
-void frmEQUIPES::showPositions() {
-  const QSignalBlocker quiet(m_playerPosition);
-  const QVariant chosen = m_playerPosition->currentData();
-  m_playerPosition->clear();
-  for (const int index : offeredChoices(kFirstPositionText, m_texts))
-    m_playerPosition->addItem(toQt(choiceName(kFirstPositionText, index, m_texts)), index);
-  m_playerPosition->setCurrentIndex(chosen.isValid() ? m_playerPosition->findData(chosen) : -1);
-}
-
-void frmEQUIPES::showPlayer(const PlayerFields& fields) {
-  m_number->setText(toQt(fields.number));
-  m_playerPosition->setCurrentIndex(fields.position ? m_playerPosition->findData(*fields.position) : -1);
-  for (std::size_t i = 0; i < m_playerTexts.size(); ++i)
-    m_playerTexts[i]->setText(toQt(fields.*kPlayerTexts[i].part));
-  m_loadedPlayer = playerFields();
-  showAnnouncement();
 }
 
 void frmEQUIPES::showColour() {
@@ -420,17 +309,6 @@ TeamRecord frmEQUIPES::teamFields() const {
   record.isMain = m_isMain->isChecked();
   record.storedColour = m_colour;
   return record;
-}
-
-PlayerFields frmEQUIPES::playerFields() const {
-  PlayerFields fields;
-  fields.number = fromQt(m_number->text());
-  if (m_playerPosition->currentIndex() >= 0)
-    fields.position = m_playerPosition->currentData().toInt();
-  for (std::size_t i = 0; i < m_playerTexts.size(); ++i)
-    fields.*kPlayerTexts[i].part =
-        m_playerTexts[i] == nullptr ? std::string() : fromQt(m_playerTexts[i]->text());
-  return fields;
 }
 
 void frmEQUIPES::addTeam() {
@@ -454,11 +332,13 @@ bool frmEQUIPES::saveTeam() {
     field->setText(toQt(codepage::storedForm(withoutCommas(fromQt(field->text())))));
   TeamRecord record = teamFields();
   if (!fitsInValue(teamValue(record, m_teams.settings().statisticLabel))) {
-    warn(caption(m_texts, kTeamTooLong), m_name);
+    warn(caption(m_texts, kTeamTooLong));
+    m_name->setFocus(Qt::OtherFocusReason);
     return false;
   }
   if (const std::string number = m_sheet.repeatedNumber(); !number.empty()) {
-    warn(toQt(m_texts.withPlaceholder(kRepeatedNumber, number)), m_number);
+    warn(toQt(m_texts.withPlaceholder(kRepeatedNumber, number)));
+    m_player->focusNumber();
     return false;
   }
   TeamEntry& entry = m_entries[static_cast<std::size_t>(m_position)];
@@ -494,23 +374,23 @@ bool frmEQUIPES::addPlayer() {
   }
   if (isReadOnly())
     return false;
-  const PlayerFields fields = playerFields();
+  const PlayerFields fields = m_player->fields();
   if (const int problem = TeamSheet::problem(fields)) {
-    QWidget* const atFault = problem == kInvalidNumber      ? static_cast<QWidget*>(m_number)
-                             : problem == kNoPositionChosen ? static_cast<QWidget*>(m_playerPosition)
-                                                            : m_playerTexts[0];
-    warn(toQt(m_texts.text(problem)), atFault);
+    warn(toQt(m_texts.text(problem)));
+    m_player->focusOn(problem);
     return false;
   }
   const std::size_t before = m_sheet.players().size();
   TeamSheet changed = m_sheet;
   const int row = changed.put(fields);
   if (row < 0) {
-    warn(toQt(m_sheet.announcement(fields, m_texts)), m_number);
+    warn(toQt(m_sheet.announcement(fields, m_texts)));
+    m_player->focusNumber();
     return false;
   }
   if (const std::string number = changed.repeatedNumber(); !number.empty()) {
-    warn(toQt(m_texts.withPlaceholder(kRepeatedNumber, number)), m_number);
+    warn(toQt(m_texts.withPlaceholder(kRepeatedNumber, number)));
+    m_player->focusNumber();
     return false;
   }
   if (!m_teams.savePlayers(team()->id, changed.players())) {
@@ -522,17 +402,16 @@ bool frmEQUIPES::addPlayer() {
   showPlayers();
   showRow(written);
   // Empty for the next new player: his number over the name of the one before would renumber that one.
-  showPlayer(m_sheet.players().size() > before ? PlayerFields() : fieldsOf(written));
-  m_number->setFocus(Qt::OtherFocusReason);
-  m_number->selectAll();
+  m_player->show(m_sheet.players().size() > before ? PlayerFields() : fieldsOf(written));
+  m_player->focusNumber();
   return true;
 }
 
 void frmEQUIPES::deletePlayer() {
-  if (isReadOnly() || !m_sheet.remove(fromQt(m_number->text())))
+  if (isReadOnly() || !m_sheet.remove(m_player->fields().number))
     return;
   showPlayers();
-  showPlayer({});
+  m_player->show({});
 }
 
 void frmEQUIPES::chooseColour() {
@@ -544,20 +423,31 @@ void frmEQUIPES::chooseColour() {
 }
 
 void frmEQUIPES::clearPlayer() {
+  if (!mayLeavePlayer())
+    return;
   m_table->clearSelection();
   m_table->selectionModel()->clearCurrentIndex();
-  showPlayer({});
-  m_number->setFocus(Qt::OtherFocusReason);
+  m_player->show({});
+  m_player->focusNumber();
 }
 
-void frmEQUIPES::selectPlayer(const QModelIndex& index) {
-  if (!index.isValid())
+void frmEQUIPES::sortPlayers(int column) {
+  const QModelIndexList selected = m_table->selectionModel()->selectedRows();
+  const TeamPlayer player =
+      selected.isEmpty() ? TeamPlayer() : m_sheet.players()[static_cast<std::size_t>(selected.first().row())];
+  m_model->sort(column, m_table->horizontalHeader()->sortIndicatorOrder());
+  showRow(player); // the row moves with the player who was selected
+}
+
+void frmEQUIPES::selectPlayer() {
+  const QModelIndexList selected = m_table->selectionModel()->selectedRows();
+  if (selected.isEmpty())
     return;
-  const TeamPlayer chosen = m_sheet.players()[static_cast<std::size_t>(index.row())];
-  if (fieldsOf(chosen) == playerFields())
+  const TeamPlayer chosen = m_sheet.players()[static_cast<std::size_t>(selected.first().row())];
+  if (fieldsOf(chosen) == m_player->fields())
     return;
   if (mayLeavePlayer()) {
-    showPlayer(fieldsOf(chosen));
+    m_player->show(fieldsOf(chosen));
     showRow(chosen);
   } else {
     m_table->clearSelection();
@@ -578,7 +468,7 @@ void frmEQUIPES::takePlayers(bool (frmEQUIPES::*from)()) {
     return m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), toQt(m_texts.text(kSelectTeamFirst)));
   if (!isReadOnly() && mayLeavePlayer() && (this->*from)()) {
     showPlayers();
-    showPlayer({});
+    m_player->show({});
   }
 }
 
@@ -602,7 +492,7 @@ bool frmEQUIPES::isTeamChanged() const {
 }
 
 bool frmEQUIPES::isPlayerChanged() const {
-  return !isReadOnly() && playerFields() != m_loadedPlayer && playerFields() != PlayerFields();
+  return !isReadOnly() && m_player->isChanged();
 }
 
 bool frmEQUIPES::askAndSave(const QString& question, bool (frmEQUIPES::*save)()) {
@@ -617,8 +507,9 @@ bool frmEQUIPES::askAndSave(const QString& question, bool (frmEQUIPES::*save)())
 bool frmEQUIPES::mayLeavePlayer() {
   if (!isPlayerChanged())
     return true;
-  const QString name = m_number->text() + u' ' + m_playerTexts[0]->text();
-  return askAndSave(toQt(m_texts.withPlaceholder(kUnsavedPlayer, fromQt(name))), &frmEQUIPES::addPlayer);
+  const PlayerFields fields = m_player->fields();
+  return askAndSave(toQt(m_texts.withPlaceholder(kUnsavedPlayer, fields.number + ' ' + fields.name)),
+                    &frmEQUIPES::addPlayer);
 }
 
 bool frmEQUIPES::mayLeaveTeam() {
@@ -629,10 +520,8 @@ bool frmEQUIPES::mayLeaveTeam() {
                     &frmEQUIPES::saveTeam);
 }
 
-void frmEQUIPES::warn(const QString& text, QWidget* fieldAtFault) {
+void frmEQUIPES::warn(const QString& text) {
   m_dialogs.warn(this, toQt(m_texts.text(kWarningTitle)), text);
-  if (fieldAtFault != nullptr)
-    fieldAtFault->setFocus(Qt::OtherFocusReason);
 }
 
 void frmEQUIPES::tellNotWritten() {
@@ -643,10 +532,9 @@ void frmEQUIPES::tellNotWritten() {
 void frmEQUIPES::relabelWindow() {
   relabel(*this, m_texts);
   giveMnemonics(*this);
-  showPositions();
-  m_model->changed();
+  m_player->relabelPanel();
   showPlayers();
-  showAnnouncement();
+  showNotice();
 }
 
 void frmEQUIPES::applyColours() {
@@ -660,6 +548,7 @@ QByteArray frmEQUIPES::arrangement() const {
 void frmEQUIPES::restoreArrangement(const QByteArray& state) {
   m_table->horizontalHeader()->restoreState(state);
   m_table->setColumnHidden(static_cast<int>(PlayerColumn::PositionIndex), true);
+  m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
 }
 
 } // namespace hooptab

@@ -11,15 +11,14 @@
 #include <cstdint>
 
 class QCheckBox;
-class QComboBox;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
-class QPushButton;
 class QTableView;
 
 namespace hooptab {
 
+class PlayerEditor;
 class PlayerTableModel;
 class TeamList;
 
@@ -33,24 +32,22 @@ class frmEQUIPES : public ChildWindow {
   void applyColours() override;
   QByteArray arrangement() const override;
   void restoreArrangement(const QByteArray& state) override;
+
+ protected:
   bool mayClose() override { return mayLeaveTeam(); }
 
  private:
   QWidget* makeTeams();
   QWidget* makeTeamFields();
   QWidget* makePlayers();
-  QWidget* makePlayerFields();
   QLineEdit* addField(QGridLayout& layout, int row, int column, int span, const char* name, int text);
-  QPushButton* addButton(const char* name, int text, int toolTip, const char* iconName);
   void connectEverything();
 
   void listTeams();
   void changeTeam(int position); // asked for by the user
   void showTeam(int position);
   void showPlayers();
-  void showAnnouncement();
-  void showPositions();
-  void showPlayer(const PlayerFields& fields);
+  void showNotice();
   void showColour();
 
   void addTeam();
@@ -60,7 +57,8 @@ class frmEQUIPES : public ChildWindow {
   void deletePlayer();
   void chooseColour();
   void clearPlayer();
-  void selectPlayer(const QModelIndex& index);
+  void selectPlayer();
+  void sortPlayers(int column);
   void showRow(const TeamPlayer& player);
   void takePlayers(bool (frmEQUIPES::*from)());
   bool importPlayers();
@@ -76,8 +74,7 @@ class frmEQUIPES : public ChildWindow {
   [[nodiscard]] const TeamEntry* team() const; // the one chosen, or null
   [[nodiscard]] bool isReadOnly() const;
   [[nodiscard]] TeamRecord teamFields() const;
-  [[nodiscard]] PlayerFields playerFields() const;
-  void warn(const QString& text, QWidget* fieldAtFault = nullptr);
+  void warn(const QString& text);
   void tellNotWritten();
 
   TeamStore& m_teams;
@@ -88,12 +85,12 @@ class frmEQUIPES : public ChildWindow {
   int m_position = -1; // of the team chosen
   TeamSheet m_sheet;
   TeamRecord m_loadedTeam;
-  PlayerFields m_loadedPlayer;
   std::uint32_t m_colour = kDefaultTeamColour;
 
   TeamList* m_list;
   PlayerTableModel* m_model;
   QLabel* m_notice;
+  PlayerEditor* m_player;
   QLineEdit* m_abbreviation = nullptr;
   QLineEdit* m_category = nullptr;
   QLineEdit* m_name = nullptr;
@@ -101,10 +98,6 @@ class frmEQUIPES : public ChildWindow {
   QCheckBox* m_isMain = nullptr;
   QTableView* m_table = nullptr;
   QLabel* m_count = nullptr;
-  QLineEdit* m_number = nullptr;
-  QComboBox* m_playerPosition = nullptr;
-  std::array<QLineEdit*, 5> m_playerTexts = {}; // name, height, weight, age, grade
-  QLabel* m_announcement = nullptr;
 };
 
 } // namespace hooptab

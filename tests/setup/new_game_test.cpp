@@ -150,12 +150,13 @@ TEST_F(NewGameTest, IsAcceptedOnceEverythingIsChosen) {
 // Everything is wrong at first; each case mends the first thing, and the next one comes to light.
 TEST_F(NewGameTest, TellsTheFirstThingThatIsWrong) {
   NewGame game = made();
-  game.rules = {"0", "-1", "-5", "none", ""};
+  game.rules = {"0", "100", "-5", "none", ""}; // minutes that no clock of mm:ss shows
   game.inputType = NewGame::kNone;
   const struct {
     int problem;
     void (*mend)(NewGame&);
   } cases[] = {
+      {1130, [](NewGame& g) { g.rules.minutesPerPeriod = "-1"; }},
       {1130, [](NewGame& g) { g.rules.minutesPerPeriod = "abc"; }},
       {1131, [](NewGame& g) { g.rules.periods = "4 quarters"; }},
       {1406, [](NewGame& g) { g.chooseTeam(0, 3), g.rules.bonus = "0"; }},

@@ -123,6 +123,18 @@ TEST_F(NewGameWindowTest, OkWaitsForEverythingAndTheWindowSaysForWhat) {
   EXPECT_TRUE(ok().isEnabled());
 }
 
+TEST_F(NewGameWindowTest, TheTabKeyLeavesNoSearchFieldOut) {
+  EXPECT_EQ(window->focusWidget()->objectName(), QStringLiteral("lstequipes(0)"));
+  QStringList passed;
+  for (int i = 0; i < 30 && !passed.contains(QStringLiteral("txtNOMEQUIPE(1)")); ++i) {
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    passed << window->focusWidget()->objectName();
+  }
+  EXPECT_EQ(passed.mid(passed.size() - 3),
+            QStringList({QStringLiteral("txtSEARCHequipes(1)"), QStringLiteral("lstequipes(1)"),
+                         QStringLiteral("txtNOMEQUIPE(1)")}));
+}
+
 TEST_F(NewGameWindowTest, TheDateAndItsPickerKeepInStep) {
   auto& date = find<QLineEdit>("txtDATE");
   auto& picker = find<QDateEdit>("DTPicker1");
@@ -212,16 +224,6 @@ TEST_F(NewGameWindowTest, EnterPressesOkOnlyWhereItIsMeant) {
   EXPECT_TRUE(isOpen()) << "the file dialog was cancelled";
   QTest::keyClick(window.get(), Qt::Key_Escape);
   EXPECT_FALSE(isOpen());
-}
-
-TEST_F(NewGameWindowTest, MinutesAreNoMoreThanAClockShows) {
-  choose(1, kFox);
-  auto& minutes = find<QLineEdit>("txtDUREE");
-  EXPECT_EQ(minutes.text(), QStringLiteral("8"));
-  minutes.setFocus();
-  minutes.clear();
-  QTest::keyClicks(&minutes, QStringLiteral("100"));
-  EXPECT_EQ(minutes.text(), QStringLiteral("10"));
 }
 
 TEST_F(NewGameWindowTest, TheLanguageFollowsAtOnceAndTheChoicesStay) {

@@ -307,8 +307,10 @@ TEST_F(MainWindowTest, OpensOneTeamEditorThatAsksBeforeTheProgramEnds) {
   editor->findChild<QLineEdit*>(QStringLiteral("txtNOMEQUIPE"))->setText(QStringLiteral("Bees"));
   action("tbLANGUE").trigger();
   EXPECT_EQ(editor->windowTitle(), toQt(texts.text(1048, Language::French)));
+  window->openGame(makeGame("ONE.GAM"));
   dialogs.nextSaveChoice = SaveChoice::Stay;
   EXPECT_FALSE(window->close());
+  EXPECT_EQ(scorecards().size(), 1) << "nothing closes when one window stays";
   dialogs.nextSaveChoice = SaveChoice::Save;
   EXPECT_TRUE(window->close());
   EXPECT_EQ(TeamStore(store, *settings).read("1").name, "Bees");
@@ -355,7 +357,9 @@ TEST_F(MainWindowTest, CourtColoursReachOpenWindowsAtOnce) {
     auto* form = qobject_cast<frmCOULEURS*>(QApplication::activeModalWidget());
     ASSERT_NE(form, nullptr);
     QTest::mouseClick(form->findChild<QPushButton*>(QStringLiteral("cmdCOULEUR2PTS")), Qt::LeftButton);
-    QTest::mouseClick(form->findChild<QPushButton*>(QStringLiteral("cmdAPPLIQUER")), Qt::LeftButton);
+    auto* apply = form->findChild<QPushButton*>(QStringLiteral("cmdAPPLIQUER"));
+    QTest::mouseClick(apply, Qt::LeftButton);
+    EXPECT_TRUE(apply->text().contains(u'&')) << "its Alt key is there still";
     form->reject();
   });
   action("tbTERRAIN").trigger();

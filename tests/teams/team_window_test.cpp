@@ -56,14 +56,17 @@ class TeamWindowTest : public testing::Test {
   void choose(int team) const {
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
                       list().visualItemRect(list().item(team)).center());
+    QCoreApplication::processEvents();
   }
   void clickPlayer(int row) const {
     QTest::mouseClick(table().viewport(), Qt::LeftButton, {},
                       table().visualRect(table().model()->index(row, 1)).center());
+    QCoreApplication::processEvents();
   }
   // As a user types: over what the focus has selected.
   void type(const char* name, const char* text) const {
-    QTest::mouseClick(&field(name), Qt::LeftButton);
+    if (!field(name).hasFocus())
+      QTest::mouseClick(&field(name), Qt::LeftButton);
     QCoreApplication::processEvents();
     QTest::keyClicks(&field(name), QString::fromUtf8(text));
   }
@@ -210,6 +213,7 @@ TEST_F(TeamWindowTest, ATeamIsMadeSavedAndDeletedAndItsIdReused) {
   dialogs.nextColour = QColor(1, 2, 3);
   click("cmdCOUL");
   EXPECT_EQ(dialogs.lastColour, QColor(255, 192, 128)) << "the default";
+  field("txtDUREE").setFocus();
   QTest::keyClick(&field("txtDUREE"), Qt::Key_Return);
   EXPECT_TRUE(holds("2=LONGEST, A B c, ,U1-One,U2-Two,12,4,5,5,2,197121,0")) << folder.read("CONFIG.INI");
   EXPECT_EQ(list().item(1)->text(), QStringLiteral("LONGEST -  A B c"));
@@ -233,9 +237,65 @@ TEST_F(TeamWindowTest, NothingTypedIsLostWithoutAWord) {
   // A player that cannot be saved keeps the window open.
   type("txtJOUEURNO", "4");
   EXPECT_FALSE(window->close());
+  dialogs.nextSaveChoice = SaveChoice::Discard;
+  EXPECT_TRUE(window->close());
+}
+
+TEST_F(TeamWindowTest, WhatWasTypedForAPlayerIsAskedAboutOrKept) {
+  // Typed before any team was chosen: it is for the first one.
+  type("txtJOUEURNO", "7");
+  choose(0);
+  EXPECT_TRUE(dialogs.shown.empty());
+  EXPECT_EQ(field("txtJOUEURNO").text(), QStringLiteral("7"));
+  dialogs.nextSaveChoice = SaveChoice::Stay;
+  field("txtJOUEURNO").setFocus();
+  QTest::keyClick(&field("txtJOUEURNO"), Qt::Key_Escape);
+  click("cmdCLEAR");
+  EXPECT_EQ(dialogs.shown.size(), 2U);
+  clickPlayer(0);
+  EXPECT_EQ(field("txtJOUEURNO").text(), QStringLiteral("7"));
+  dialogs.nextSaveChoice = SaveChoice::Discard;
+  field("txtJOUEURNO").setFocus();
   QTest::keyClick(&field("txtJOUEURNO"), Qt::Key_Escape);
   EXPECT_EQ(field("txtJOUEURNO").text(), QString());
   EXPECT_TRUE(window->close());
+}
+
+TEST_F(TeamWindowTest, TheSelectionStaysWithItsPlayerWhenTheListIsSorted) {
+  choose(0);
+  clickPlayer(0);
+  QHeaderView& header = *table().horizontalHeader();
+  const QPoint name(header.sectionViewportPosition(1) + 20, 8);
+  QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, name);
+  QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, name);
+  ASSERT_EQ(players(), QStringLiteral("10 Bo, 5 Ann"));
+  EXPECT_EQ(table().selectionModel()->selectedRows().value(0).row(), 1);
+  QTest::keyClick(&table(), Qt::Key_Delete);
+  EXPECT_EQ(players(), QStringLiteral("10 Bo"));
+  // From one row to another with the button held down: the one where it was let go.
+  dialogs.nextSaveChoice = SaveChoice::Discard;
+  choose(1);
+  choose(0);
+  const auto at = [this](int row) { return table().visualRect(table().model()->index(row, 1)).center(); };
+  QTest::mousePress(table().viewport(), Qt::LeftButton, {}, at(0));
+  QTest::mouseMove(table().viewport(), at(1));
+  QTest::mouseRelease(table().viewport(), Qt::LeftButton, {}, at(1));
+  QCoreApplication::processEvents();
+  const int selected = table().selectionModel()->selectedRows().value(0).row();
+  EXPECT_EQ(field("txtJOUEURNO").text(), table().model()->index(selected, 0).data().toString());
+}
+
+TEST_F(TeamWindowTest, NumbersThatTheEditorWouldNotTakeAreShownWhole) {
+  folder.write("CONFIG.INI", folder.read("CONFIG.INI") +
+                                 "100=1,Cy,,,,,\r\n1001=1,Dee,,,,,\r\na=1,Eve,,,,,\r\nA=1,Fay,,,,,\r\n");
+  choose(0);
+  clickPlayer(3);
+  EXPECT_EQ(field("txtJOUEURNO").text(), QStringLiteral("1001"));
+  QTest::keyClick(&table(), Qt::Key_Delete);
+  EXPECT_EQ(players(), QStringLiteral("5 Ann, 10 Bo, 100 Cy, a Eve, A Fay"));
+  click("cmdSAVEEQUIPE"); // which would lose one of two keys that differ in letter case alone
+  EXPECT_TRUE(said().contains(QStringLiteral("Two players have the number A")));
+  EXPECT_TRUE(holds("a=1,Eve,,,,,"));
 }
 
 TEST_F(TeamWindowTest, AWriteThatFailsIsToldAndTheFieldsStay) {
@@ -290,6 +350,13 @@ TEST_F(TeamWindowTest, PlayersArePastedImportedAndExported) {
   dialogs.nextFile = toQt(folder.path("gone.csv"));
   click("cmdIMPORT");
   EXPECT_TRUE(said().contains(QStringLiteral("gone.csv")));
+  // A table without a column leaves what stands in it.
+  dialogs.nextSaveChoice = SaveChoice::Discard;
+  choose(0);
+  QApplication::clipboard()->setText(QStringLiteral("Name,Number\nAnn,6\n"));
+  click("cmdPASTE");
+  click("cmdSAVEEQUIPE");
+  EXPECT_TRUE(holds("6=2,Ann,6ft,,,,")) << folder.read("CONFIG.INI");
   EXPECT_EQ(decodedText(QByteArray("\xFF\xFE"
                                    "1\0;\0",
                                    6)),
