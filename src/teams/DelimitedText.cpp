@@ -12,28 +12,36 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kLineEnds = "\r\n";
 
 char separatorOf(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kLineEnds);
+  const std::size_t first = text.find_first_not_of(" \r\n");
   if (first == std::string_view::npos)
     return ',';
   text.remove_prefix(first);
+  // A quote opens only where a field can begin, or as the second of a doubled one: in 6'2" it is a letter.
+  constexpr std::string_view kBeforeQuote = ",;\t\"";
   bool hasTab = false;
   bool hasSemicolon = false;
   bool isQuoted = false;
+  char before = ','; // the last letter that is not a blank
   for (const char letter : text) {
     if (letter == '"')
-      isQuoted = !isQuoted;
+      isQuoted = !isQuoted && kBeforeQuote.find(before) != std::string_view::npos;
     else if (!isQuoted && kLineEnds.find(letter) != std::string_view::npos)
       break;
     hasTab = hasTab || (!isQuoted && letter == '\t');
     hasSemicolon = hasSemicolon || (!isQuoted && letter == ';');
+    if (letter != ' ')
+      before = letter;
   }
   return hasTab ? '\t' : hasSemicolon ? ';' : ',';
 }
 
 std::string cleaned(std::string field) {
   constexpr unsigned char kFirstPrintable = 0x20;
+  constexpr char kDelete = 0x7F;
   std::ranges::replace_if(
-      field, [](char letter) { return static_cast<unsigned char>(letter) < kFirstPrintable; }, ' ');
+      field,
+      [](char letter) { return static_cast<unsigned char>(letter) < kFirstPrintable || letter == kDelete; },
+      ' ');
   return std::string(Module1::trimmed(field));
 }
 
@@ -59,10 +67,8 @@ class Reader {
     do
       row.fields.push_back(nextField(row.hasOpenQuote));
     while (take(m_separator));
-    if (take('\r'))
-      take('\n');
-    else
-      take('\n');
+    take('\r');
+    take('\n');
     ++m_line;
     return row;
   }

@@ -27,8 +27,9 @@ constexpr std::size_t kMostPlayers = 1000;
 constexpr std::size_t kLongestDetail = 40;
 
 enum Column : std::size_t { kNumber, kPosition, kName, kHeight, kWeight, kAge, kGrade, kColumns };
-// The header's name of each column; others by which people call it.
+// The header's name of each column; others by which people call it, and the number's caption elsewhere.
 constexpr std::array<int, kColumns> kHeaders = {1838, 1839, 1023, 1320, 1321, 1322, 1323};
+constexpr int kJerseyNumber = 1705;
 constexpr std::pair<std::string_view, Column> kOtherNames[] = {
     {"no", kNumber},     {"no.", kNumber},      {"n°", kNumber},    {"nº", kNumber},     {"#", kNumber},
     {"jersey", kNumber}, {"chandail", kNumber}, {"pos", kPosition}, {"pos.", kPosition}, {"name", kName},
@@ -47,6 +48,10 @@ std::optional<Column> columnOf(std::string_view cell, const Texts& texts) {
       if (isSame(cell, texts.text(kHeaders[column], language)))
         return static_cast<Column>(column);
     }
+  }
+  for (const Language language : {Language::English, Language::French}) {
+    if (isSame(cell, texts.text(kJerseyNumber, language)))
+      return kNumber;
   }
   for (const auto& [name, column] : kOtherNames) {
     if (isSame(cell, name))
@@ -135,7 +140,9 @@ class RowReader {
  private:
   std::string cell(const DelimitedRow& row, Column column) const {
     const std::optional<std::size_t> place = m_places[column];
-    return place && *place < row.fields.size() ? withoutCommas(row.fields[*place]) : std::string();
+    if (!place || *place >= row.fields.size())
+      return {};
+    return std::string(Module1::trimmed(withoutCommas(row.fields[*place])));
   }
 
   const Texts& m_texts;

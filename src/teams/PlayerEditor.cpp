@@ -38,7 +38,7 @@ constexpr struct {
 } // namespace
 
 PlayerEditor::PlayerEditor(const TeamSheet& sheet, const Texts& texts, QWidget* parent)
-    : QWidget(parent), m_sheet(sheet), m_texts(texts), m_number(nullptr), m_position(new QComboBox(this)),
+    : QWidget(parent), m_sheet(sheet), m_texts(texts), m_number(nullptr), m_position(nullptr),
       m_announcement(new QLabel(this)) {
   auto* layout = new QGridLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -48,6 +48,7 @@ PlayerEditor::PlayerEditor(const TeamSheet& sheet, const Texts& texts, QWidget* 
   // A validator, which lets a longer number from a file changed by hand be shown whole.
   m_number->setValidator(
       new QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,3}")), m_number));
+  m_position = new QComboBox(this); // behind the number: the tab key goes in the order of making
   m_position->setObjectName(QStringLiteral("cmbPOSITION"));
   layout->addWidget(captionFor(*m_position, kPositionText), 0, 1);
   setToolTipNumber(*m_position, kNoPositionChosen);

@@ -70,8 +70,7 @@ frmEQUIPES::frmEQUIPES(TeamStore& teams, const Texts& texts, Dialogs& dialogs, Q
     : ChildWindow(parent), m_teams(teams), m_texts(texts), m_dialogs(dialogs),
       m_exchange(teams.store().files(), texts, dialogs),
       m_list(new TeamList(QStringLiteral("lstequipes"), QStringLiteral(" - "), this)),
-      m_model(new PlayerTableModel(m_sheet, texts, this)), m_notice(noticeLabel(this)),
-      m_player(new PlayerEditor(m_sheet, texts, this)) {
+      m_model(new PlayerTableModel(m_sheet, texts, this)), m_notice(noticeLabel(this)) {
   setObjectName(QStringLiteral("frmEQUIPES"));
   setTextNumber(*this, 1048);
 
@@ -191,6 +190,7 @@ QWidget* frmEQUIPES::makePlayers() {
   auto* layout = new QVBoxLayout(group);
   layout->addLayout(head);
   layout->addWidget(m_table, 1);
+  m_player = new PlayerEditor(m_sheet, m_texts, group); // the last of the tab order
   layout->addWidget(m_player);
   return group;
 }

@@ -90,7 +90,7 @@ class frmEQUIPES : public ChildWindow {
   TeamList* m_list;
   PlayerTableModel* m_model;
   QLabel* m_notice;
-  PlayerEditor* m_player;
+  PlayerEditor* m_player = nullptr;
   QLineEdit* m_abbreviation = nullptr;
   QLineEdit* m_category = nullptr;
   QLineEdit* m_name = nullptr;

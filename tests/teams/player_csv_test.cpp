@@ -35,13 +35,17 @@ TEST(PlayerCsv, ReadsWhatSpreadsheetsWrite) {
       {"name, NUMBER ,shoe,Grade\nAnn,5,44,Senior\n", "5=9,Ann,,,,Senior, ", ""},
       {"Numéro;Position;Nom du joueur;Taille;Poids;Âge;Scolarité\n5;Garde;Zoé;1,80 m;60;18;CÉGEP\n",
        "5=2,Zoé,1 80 m,60,18,CÉGEP, ", ""},
+      {"NUMÉRO DE CHANDAIL;nom;ÂGE\n5;Ann;18\n", "5=9,Ann,,,18,, ", ""},
+      {"Jersey number,Name\n5,Ann\n", "5=9,Ann,,,,, ", ""},
+      {"  \n5;G;\"Ann\"\" ,\"\n6;G;,\n", "5=2,Ann\",,,,, ", "3:1173 "},
+      {"5,G,Ann,6'2\"\n6,G,Bo,6'3\",180,18,Sr; x\n", "5=2,Ann,6'2\",,,, 6=2,Bo,6'3\",180,18,Sr; x, ", ""},
       {"5,\"F\",\"Long, \"\"Ann\"\"\r\nMary\"\n6,c,Bo\n7,x,Cy", "5=1,Long  \"Ann\" Mary,,,,, 6=0,Bo,,,,, ",
        "4:1841 "},
       {"5,,\"Ann\n6,,\"Bo\"\n7,,\"Cy\n", "6=9,Bo,,,,, ", "1:1843 3:1843 "},
       {"No,Age\n5,18\n", "", "1:1844 "},
       {"12.0,,Ann\nA1,,Bo\n1234,,Cy\n,,Dee\n5,,\n5,,Eve\n5,,Fay\n05,,Gil\n8,SF/C,Hal\n",
        "5=9,Eve,,,,, 05=9,Gil,,,,, ", "1:1171 2:1171 3:1171 4:1171 5:1173 7:1842 9:1841 "},
-      {"5,,Ann," + std::string(250, 'h') + "\n6,,Bo\x01\n", "6=9,Bo,,,,, ", "1:1817 "},
+      {"5,,Ann," + std::string(250, 'h') + "\n6,,Bo\x01\x7F\n", "6=9,Bo,,,,, ", "1:1817 "},
   };
   const Texts texts;
   for (const auto& each : cases) {

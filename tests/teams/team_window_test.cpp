@@ -127,6 +127,20 @@ TEST_F(TeamWindowTest, ShowsTheTeamThatIsChosen) {
   EXPECT_TRUE(dialogs.shown.empty());
 }
 
+TEST_F(TeamWindowTest, TheTabKeyGoesFromTheTeamToThePlayer) {
+  field("txtABB").setFocus();
+  QStringList fields;
+  for (int i = 0; i < 20; ++i) {
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    const QString name = window->focusWidget()->objectName();
+    if (name.startsWith(u"txt") || name == u"cmbPOSITION")
+      fields << name;
+  }
+  EXPECT_EQ(fields.join(u' ').toStdString(),
+            "txtCATEGORIE txtNOMEQUIPE txtDUREE txtNBREPERIODE txtBONUS txtPF txtTF txtJOUEURNO cmbPOSITION "
+            "txtJOUEURNOM txtGRANDEUR txtPOIDS txtAGE");
+}
+
 TEST_F(TeamWindowTest, MessagesComeInTheirOrder) {
   click("cmdAJOUTERJOUEUR");
   ASSERT_EQ(dialogs.shown.size(), 1U);
