@@ -28,8 +28,6 @@ class SelectOnFocus : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::FocusIn) {
       auto* field = qobject_cast<QLineEdit*>(watched);
-      // Later: the press of the mouse that brought the focus is still to come, and would take the selection
-      // away.
       if (field == nullptr || field->text().size() <= 1)
         return false;
       // By mouse later: the press that brought the focus is still to come, and would take the selection away.
@@ -122,6 +120,8 @@ void selectOnFocus(QWidget& window) {
 void limitField(QLineEdit& field, std::function<bool(const std::string& text)> fits, const Texts& texts) {
   field.setValidator(new FieldLimit(&field, std::move(fits)));
   QObject::connect(&field, &QLineEdit::inputRejected, &field, [&field, &texts] {
+    if (!field.hasFocus()) // a longer text from a file is shown, not typed
+      return;
     QToolTip::showText(field.mapToGlobal(QPoint(0, field.height() / 2)), caption(texts, kNoMoreFits), &field);
   });
 }

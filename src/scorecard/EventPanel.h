@@ -2,7 +2,7 @@
 // and stays at the end when the user was there.
 #pragma once
 
-#include "scorecard/EventListModel.h"
+#include "appearance/EventListModel.h"
 
 #include <QSortFilterProxyModel>
 #include <QWidget>

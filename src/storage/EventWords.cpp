@@ -38,13 +38,13 @@ std::string shownPlayer(const RosterPlayer* player, std::string_view jersey, boo
 
 // "in 4 Ann Able, 5 Bea Baker": those of the one list who are not in the other; nothing when there are none.
 std::string missingIn(const std::vector<ListedPlayer>& other, const std::vector<ListedPlayer>& list,
-                      int directionText, bool isTeam, const Texts& texts) {
+                      int directionText, const Texts& texts, const auto& shown) {
   std::string words;
   for (const ListedPlayer& listed : list) {
     if (std::ranges::find(other, listed) != other.end())
       continue;
     words += words.empty() ? std::string(texts.text(directionText)) + ' ' : ", ";
-    words += shownPlayer(listed.player, listed.jersey, isTeam, texts);
+    words += shown(listed);
   }
   return words;
 }
@@ -64,20 +64,33 @@ const GameEvent* stopBefore(const EventList& events, std::size_t index) {
 EventWords::EventWords(const Game& game, const Texts& texts) : m_game(game), m_texts(texts) {}
 
 std::string EventWords::words(std::size_t eventIndex) const {
+  return words(eventIndex, Length::Whole);
+}
+
+std::string EventWords::shortWords(std::size_t eventIndex) const {
+  return words(eventIndex, Length::Short);
+}
+
+std::string EventWords::words(std::size_t eventIndex, Length length) const {
   const GameEvent& event = m_game.events[eventIndex];
   if (!event.isUnderstood)
     return std::string(event.line);
   switch (event.code) {
   case EventCode::DEPART: return std::string(m_texts.text(kStart));
   case EventCode::ARRET: {
-    const std::string changes = substitution(eventIndex);
+    const std::string changes = substitution(eventIndex, length);
     return changes.empty() ? std::string(m_texts.text(kStop)) : changes;
   }
   default: break;
   }
   std::string who(team(event.player.team));
-  if (std::string name = player(event.player); name != who)
+  const bool isTeam = isTeamItself(m_game.roster[event.player.team]);
+  const std::string name =
+      length == Length::Short && !isTeam ? std::string(event.player.jersey) : player(event.player);
+  if (name != who)
     who += ' ' + name;
+  if (length == Length::Short && event.isShot())
+    return who + (event.isMade ? " ● " : " ✕ ") + std::string(m_texts.text(event.kind()->wordsText));
   return sentence(m_texts, who, action(event));
 }
 
@@ -115,7 +128,7 @@ std::string EventWords::action(const GameEvent& event) const {
   return words;
 }
 
-std::string EventWords::substitution(std::size_t eventIndex) const {
+std::string EventWords::substitution(std::size_t eventIndex, Length length) const {
   const GameEvent& event = m_game.events[eventIndex];
   const GameEvent* const stop = stopBefore(m_game.events, eventIndex);
   std::string words;
@@ -124,13 +137,19 @@ std::string EventWords::substitution(std::size_t eventIndex) const {
     const bool isTeam = isTeamItself(roster);
     const auto before = playersOfList(stop != nullptr ? stop->onCourt(side) : std::string_view(), roster);
     const auto after = playersOfList(event.onCourt(side), roster);
-    std::string changes = missingIn(before, after, kIn, isTeam, m_texts);
-    if (const std::string out = missingIn(after, before, kOut, isTeam, m_texts); !out.empty())
+    const auto shown = [&](const ListedPlayer& listed) {
+      return length == Length::Short && !isTeam ? listed.jersey
+                                                : shownPlayer(listed.player, listed.jersey, isTeam, m_texts);
+    };
+    std::string changes = missingIn(before, after, kIn, m_texts, shown);
+    if (const std::string out = missingIn(after, before, kOut, m_texts, shown); !out.empty())
       changes += (changes.empty() ? "" : "; ") + out;
     if (!changes.empty())
       words += " - " + sentence(m_texts, team(static_cast<int>(side)), changes);
   }
-  return words.empty() ? words : std::string(m_texts.text(kSubstitution)) + words;
+  if (words.empty() || length == Length::Short)
+    return words.substr(std::min(words.size(), std::string_view(" - ").size()));
+  return std::string(m_texts.text(kSubstitution)) + words;
 }
 
 std::string_view EventWords::team(int team) const {

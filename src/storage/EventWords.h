@@ -17,6 +17,11 @@ class EventWords {
   // Words of the event at that place of the game's list. Lines that cannot be understood are given as they
   // stand.
   [[nodiscard]] std::string words(std::size_t eventIndex) const;
+  // The same where room is short: "LYNX 12 ● 2 points" for a made shot, a cross for a missed one, and no
+  // names but that of a side that is its own player.
+  [[nodiscard]] std::string shortWords(std::size_t eventIndex) const;
+  // The abbreviation, or the side in words.
+  [[nodiscard]] std::string_view team(int team) const;
   // "1", "OT1": the period as it is shown.
   [[nodiscard]] std::string periodText(int period) const;
   // The clock as shown: "--:--" in a game without time, empty for a line that cannot be understood.
@@ -25,9 +30,11 @@ class EventWords {
   [[nodiscard]] std::string player(const PlayerReference& reference) const;
 
  private:
-  [[nodiscard]] std::string substitution(std::size_t eventIndex) const; // empty when nobody went in or out
+  enum class Length { Whole, Short };
+  [[nodiscard]] std::string words(std::size_t eventIndex, Length length) const;
+  // Empty when nobody went in or out.
+  [[nodiscard]] std::string substitution(std::size_t eventIndex, Length length) const;
   [[nodiscard]] std::string action(const GameEvent& event) const;
-  [[nodiscard]] std::string_view team(int team) const;
 
   const Game& m_game;
   const Texts& m_texts;

@@ -24,6 +24,7 @@ TEST(Fields, SelectTheirContentOnFocusByMouseToo) {
   window.show();
   window.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  other->setFocus();
   QTest::mouseClick(one, Qt::LeftButton);
   QCoreApplication::processEvents();
   EXPECT_EQ(one->selectedText(), QStringLiteral("Long"));
@@ -54,7 +55,7 @@ TEST(Mnemonics, GiveEachCaptionALetterOfItsOwn) {
                                 QStringLiteral("Sac"),          QStringLiteral("Éa"),
                                 QStringLiteral("Live&&Keypad"), QString()};
   const std::vector<qsizetype> places = mnemonicPlaces(captions);
-  EXPECT_EQ(places, (std::vector<qsizetype>{0, 7, 2, 1, 0, -1}));
+  EXPECT_EQ(places, (std::vector<qsizetype>{0, 1, 2, 1, 0, -1}));
 }
 
 TEST(Mnemonics, ReachButtonsAndFieldsInBothLanguages) {

@@ -1,7 +1,7 @@
 #include "appearance/CourtView.h"
 #include "appearance/relabel.h"
 #include "scorecard/BoxTable.h"
-#include "scorecard/EventListModel.h"
+#include "appearance/EventListModel.h"
 #include "scorecard/FrozenTableView.h"
 #include "scorecard/TableText.h"
 #include "scorecard/frmVIEW.h"

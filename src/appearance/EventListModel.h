@@ -19,8 +19,10 @@ class EventListModel : public QAbstractTableModel {
  public:
   enum Column { Clock, Action, Period, Score, ColumnCount };
 
+  enum class Words { Whole, Short }; // the whole ones are in the tool tip too
+
   // The texts must outlive it.
-  explicit EventListModel(const Texts& texts, QObject* parent = nullptr);
+  explicit EventListModel(const Texts& texts, Words words = Words::Whole, QObject* parent = nullptr);
 
   // Keeps a copy (the text of the events is shared).
   void show(const Game& game);
@@ -39,6 +41,7 @@ class EventListModel : public QAbstractTableModel {
   void countScore();
 
   const Texts& m_texts;
+  Words m_length;
   Game m_game;
   EventWords m_words;
   std::vector<std::array<int, 2>> m_score; // after each event

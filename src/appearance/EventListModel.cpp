@@ -1,8 +1,7 @@
-#include "scorecard/EventListModel.h"
+#include "appearance/EventListModel.h"
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "scorecard/ScorecardTexts.h"
 
 #include <QFont>
 #include <algorithm>
@@ -10,6 +9,11 @@
 namespace hooptab {
 
 namespace {
+
+constexpr int kClock = 1024;
+constexpr int kPeriod = 1087;
+constexpr int kAction = 1501;
+constexpr int kScore = 1718;
 
 bool isEqual(const GameEvent& one, const GameEvent& other) {
   return one.period == other.period && one.key == other.key && one.line == other.line;
@@ -22,8 +26,8 @@ QVariant alignment(int column) {
 
 } // namespace
 
-EventListModel::EventListModel(const Texts& texts, QObject* parent)
-    : QAbstractTableModel(parent), m_texts(texts), m_words(m_game, texts) {}
+EventListModel::EventListModel(const Texts& texts, Words words, QObject* parent)
+    : QAbstractTableModel(parent), m_texts(texts), m_length(words), m_words(m_game, texts) {}
 
 void EventListModel::show(const Game& game) {
   const auto before = m_game.events.events();
@@ -86,7 +90,7 @@ int EventListModel::columnCount(const QModelIndex& parent) const {
 QString EventListModel::text(std::size_t event, int column) const {
   switch (column) {
   case Clock: return toQt(m_words.clock(event));
-  case Action: return toQt(m_words.words(event));
+  case Action: return toQt(m_length == Words::Short ? m_words.shortWords(event) : m_words.words(event));
   case Period: return toQt(m_words.periodText(m_game.events[event].period));
   default: break;
   }
@@ -102,7 +106,8 @@ QVariant EventListModel::data(const QModelIndex& index, int role) const {
   const GameEvent& event = m_game.events[place];
   switch (role) {
   case Qt::DisplayRole: return text(place, index.column());
-  case Qt::ToolTipRole: return index.column() == Action ? text(place, Action) : QVariant();
+  case Qt::AccessibleTextRole:
+  case Qt::ToolTipRole: return index.column() == Action ? toQt(m_words.words(place)) : QVariant();
   case Qt::TextAlignmentRole: return alignment(index.column());
   case Qt::DecorationRole:
     if (index.column() != Action || !event.isUnderstood || event.player.team < 0)
@@ -125,7 +130,7 @@ QVariant EventListModel::headerData(int section, Qt::Orientation orientation, in
     return {};
   if (role == Qt::TextAlignmentRole)
     return alignment(section);
-  constexpr std::array<int, ColumnCount> kTexts = {1024, kAction, 1087, kScore};
+  constexpr std::array<int, ColumnCount> kTexts = {kClock, kAction, kPeriod, kScore};
   return role == Qt::DisplayRole ? caption(m_texts, kTexts[static_cast<std::size_t>(section)]) : QVariant();
 }
 
