@@ -16,15 +16,10 @@ constexpr int kSubstitution = 1561;
 constexpr int kDeletion = 1910;
 constexpr int kRestoring = 1911;
 constexpr int kEditing = 1912;
+constexpr int kInsertion = 1965;
 
 EventChange replacement(int period, const std::string& key, std::string line) {
   return {EventChange::Kind::Replace, period, key, std::move(line)};
-}
-
-std::string withDeletion(const std::string& line, bool isDeleted) {
-  if (line.starts_with('E') == isDeleted)
-    return line;
-  return isDeleted ? 'E' + line : line.substr(1);
 }
 
 // The new events of these steps, marked as deleted.
@@ -231,6 +226,10 @@ void LiveGame::reopen() {
     return;
   m_log.setDetails({{"TERMINE", "0"}});
   showAsLeft();
+}
+
+void LiveGame::setTeamColour(int team, std::uint32_t colour) {
+  m_log.setDetails({{"EQUIPE" + std::to_string(team) + "COL", std::to_string(colour)}});
 }
 
 // --- Players
@@ -453,37 +452,20 @@ bool LiveGame::isFouledOut(int team, int player) const {
 
 // --- Taking back
 
-bool LiveGame::take(int text, const std::vector<EventChange>& asked) {
-  if (m_phase == Phase::Finished || asked.empty())
+bool LiveGame::take(int text, const EventEdit& edit, bool isWhole) {
+  m_conflict = edit.conflict();
+  if (m_phase == Phase::Finished || !isWhole || edit.steps().empty() ||
+      !done(text, edit.steps(), edit.back()))
     return false;
-  const Rosters rosters = m_log.rosters();
-  EventLines lines = m_log.lines();
-  std::vector<EventChange> steps;
-  std::vector<EventChange> back;
-  const auto takeStep = [&](const EventChange& step) {
-    const std::string* old = findLine(lines, step.period, step.key);
-    if (old == nullptr)
-      return false;
-    back.insert(back.begin(), replacement(step.period, step.key, *old));
-    steps.push_back(step);
-    return applyChange(step, lines);
-  };
-  for (const EventChange& step : asked) {
-    const OnCourt before = inForce(lines, step.period, step.key, rosters);
-    if (!takeStep(step))
-      return false;
-    const OnCourt after = inForce(lines, step.period, step.key, rosters);
-    const auto behind = eventBehind(lines, {step.period, step.key});
-    if (before == after || !behind)
-      continue;
-    const Carried carried = carryOn(lines, *behind, before, after, rosters);
-    if (carried.conflict || !std::ranges::all_of(carried.steps, takeStep))
-      return false;
-  }
-  if (!done(text, steps, std::move(back)))
-    return false;
-  putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, rosters));
+  putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, m_log.rosters()));
+  decideAgain();
   return true;
+}
+
+// The score with which the game ended may be another now.
+void LiveGame::decideAgain() {
+  if (m_phase == Phase::OvertimeAsked || m_phase == Phase::Decided)
+    m_phase = state().points(0) == state().points(1) ? Phase::OvertimeAsked : Phase::Decided;
 }
 
 // Takes an action's steps to the letter; only stops that came after it, which no action of the user made, are
@@ -492,32 +474,24 @@ bool LiveGame::turn(const LiveAction& action, std::vector<EventChange>& inverse)
   if (m_phase == Phase::Finished)
     return false;
   const Rosters rosters = m_log.rosters();
-  EventLines lines = m_log.lines();
-  std::vector<EventChange> steps;
-  const auto takeStep = [&](const EventChange& step) {
-    const std::string* old = findLine(lines, step.period, step.key);
-    if (old == nullptr)
-      return false;
-    inverse.insert(inverse.begin(), replacement(step.period, step.key, *old));
-    steps.push_back(step);
-    return applyChange(step, lines);
+  EventEdit edit(m_log.lines(), rosters);
+  if (!std::ranges::all_of(action.steps, [&](const EventChange& step) { return edit.take(step); }))
+    return false;
+  const auto cameLater = [&](const GameEvent& event) {
+    return event.number >= action.nextNumber && event.isUnderstood && !event.isDeleted &&
+           event.code == EventCode::ARRET;
   };
-  if (!std::ranges::all_of(action.steps, takeStep))
-    return false;
-  for (const GameEvent& event : game().events) {
-    if (event.number < action.nextNumber)
-      continue;
-    const EventPlace first{event.period, std::string(event.key)};
-    const OnCourt before = inForceBefore(m_log.lines(), first.period, first.key, rosters);
-    const OnCourt after = inForceBefore(lines, first.period, first.key, rosters);
-    const Carried carried = carryOn(lines, first, before, after, rosters);
-    if (carried.conflict || !std::ranges::all_of(carried.steps, takeStep))
+  const auto later = std::ranges::find_if(game().events, cameLater);
+  if (later != game().events.end()) {
+    const EventPlace first{later->period, std::string(later->key)};
+    if (!edit.carryOn(first, inForceBefore(m_log.lines(), first.period, first.key, rosters)))
       return false;
-    break;
   }
-  if (!m_log.change(steps))
+  if (!m_log.change(edit.steps()))
     return false;
+  inverse = edit.back();
   putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, rosters));
+  decideAgain();
   return true;
 }
 
@@ -537,24 +511,107 @@ bool LiveGame::redo() {
   return true;
 }
 
+// --- Editing
+
 bool LiveGame::setDeleted(std::span<const EventPlace> events, bool isDeleted) {
-  std::vector<EventChange> steps;
-  for (const auto& [period, key] : events) {
-    const std::string* line = findLine(m_log.lines(), period, key);
-    if (line == nullptr)
-      return false;
-    steps.push_back(replacement(period, key, withDeletion(*line, isDeleted)));
-  }
-  return take(isDeleted ? kDeletion : kRestoring, steps);
+  EventEdit edit(m_log.lines(), m_log.rosters());
+  const auto mark = [&](const EventPlace& event) {
+    const std::string* line = findLine(edit.lines(), event.period, event.key);
+    return line != nullptr && !(isDeleted && closesPeriod(edit.lines(), event)) &&
+           edit.takeCarryingOn(replacement(event.period, event.key, withDeletion(*line, isDeleted)));
+  };
+  const bool isWhole = std::ranges::all_of(events, mark);
+  return take(isDeleted ? kDeletion : kRestoring, edit, isWhole);
+}
+
+// A time of the period, as far as its length is known: that of an overtime is in no file.
+bool LiveGame::isClock(int period, int clock) const {
+  if (!hasTime() || clock < 0)
+    return clock == 0;
+  const bool isRegular = period <= game().details.periods;
+  return clock <= (isRegular ? game().details.minutesPerPeriod : kMostOvertimeMinutes) * kSecondsPerMinute;
+}
+
+std::string LiveGame::textOf(const Counted& counted) const {
+  const RosterPlayer* who = game().roster[static_cast<std::size_t>(counted.team)].player(counted.player);
+  const EventKind* kind = kindOf(counted.kind);
+  if (who == nullptr || kind == nullptr)
+    return {};
+  return eventText(counted.kind, counted.isMade, counted.team, who->jersey,
+                   kind->hasPlace ? counted.place : std::nullopt);
 }
 
 bool LiveGame::replaceEvent(const EventPlace& event, int clock, const std::string& eventText) {
+  m_conflict.reset();
   const std::string* line = findLine(m_log.lines(), event.period, event.key);
-  if (line == nullptr)
+  if (line == nullptr || !isClock(event.period, clock))
     return false;
-  return take(kEditing,
-              {replacement(event.period, event.key,
-                           withDeletion(Module1::clockText(clock) + eventText, line->starts_with('E')))});
+  EventEdit edit(m_log.lines(), m_log.rosters());
+  bool isWhole = edit.takeCarryingOn(replacement(
+      event.period, event.key, withDeletion(Module1::clockText(clock) + eventText, line->starts_with('E'))));
+  const std::string behind = keyBehind(m_log.lines(), event);
+  const std::string before = placeForClock(m_log.lines(), event.period, event.key, clock, behind);
+  if (isWhole && before != behind)
+    isWhole = edit.moveCarryingOn(event, before);
+  return take(kEditing, edit, isWhole);
+}
+
+bool LiveGame::setTime(const EventPlace& event, int clock) {
+  const std::string* line = findLine(m_log.lines(), event.period, event.key);
+  const std::size_t comma = line == nullptr ? std::string::npos : line->find(',');
+  return comma != std::string::npos && replaceEvent(event, clock, line->substr(comma));
+}
+
+bool LiveGame::editEvent(const EventPlace& event, int clock, const Counted& counted) {
+  const std::string text = textOf(counted);
+  return !text.empty() && replaceEvent(event, clock, text);
+}
+
+bool LiveGame::insertEvent(const EventPlace& at, Where where, int clock, const Counted& counted) {
+  m_conflict.reset();
+  const std::string text = textOf(counted);
+  if (!canRecord() || text.empty() || !isClock(at.period, clock) ||
+      findLine(m_log.lines(), at.period, at.key) == nullptr)
+    return false;
+  const std::string wanted = where == Where::Before ? at.key : keyBehind(m_log.lines(), at);
+  const std::string before = placeForClock(m_log.lines(), at.period, {}, clock, wanted);
+  EventEdit edit(m_log.lines(), m_log.rosters());
+  const bool isWhole = edit.take(
+      {EventChange::Kind::Add, at.period, m_log.takeKey(), Module1::clockText(clock) + text, before});
+  return take(kInsertion, edit, isWhole);
+}
+
+// Where the clock runs it is started again at the same time, as by a substitution that is recorded.
+bool LiveGame::insertSubstitution(const EventPlace& at, Where where, const OnCourt& out, const OnCourt& in) {
+  m_conflict.reset();
+  const std::string* line = findLine(m_log.lines(), at.period, at.key);
+  if (!canRecord() || line == nullptr || (out == OnCourt{} && in == OnCourt{}))
+    return false;
+  const GameEvent event = GameEvent::parse(static_cast<std::uint8_t>(at.period), at.key, *line);
+  if (!event.isUnderstood)
+    return false;
+  const Rosters rosters = m_log.rosters();
+  OnCourt lists = where == Where::Before ? inForceBefore(m_log.lines(), at.period, at.key, rosters)
+                                         : inForce(m_log.lines(), at.period, at.key, rosters);
+  for (std::size_t team = 0; team < 2; ++team) {
+    const bool isPossible = (out[team] & ~lists[team]) == 0 && (in[team] & lists[team]) == 0;
+    lists[team] = (lists[team] & ~out[team]) | in[team];
+    if (!isPossible || std::popcount(lists[team]) > kMostOnCourt) {
+      m_conflict = at;
+      return false;
+    }
+  }
+  const std::string before = where == Where::Before ? at.key : keyBehind(m_log.lines(), at);
+  const std::string clock = Module1::clockText(event.clockSeconds);
+  const auto insertion = [&](const std::string& text) {
+    return EventChange{EventChange::Kind::Add, at.period, m_log.takeKey(), clock + text, before};
+  };
+  const bool isRunning = isRunningBefore(m_log.lines(), at.period, before);
+  EventEdit edit(m_log.lines(), rosters);
+  bool isWhole = edit.takeCarryingOn(insertion(stopText(lists)));
+  if (isWhole && isRunning)
+    isWhole = edit.take(insertion(startText()));
+  return take(kInsertion, edit, isWhole);
 }
 
 } // namespace hooptab

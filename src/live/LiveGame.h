@@ -3,6 +3,7 @@
 // be, when the call returns. Decides for the live window and knows none.
 #pragma once
 
+#include "live/EventEdit.h"
 #include "live/GameClock.h"
 #include "live/LiveHistory.h"
 #include "live/LiveLog.h"
@@ -45,6 +46,7 @@ class LiveGame {
   int period() const { return m_period; }
   bool isOvertime() const { return m_period > m_log.game().details.periods; }
   int clockSeconds() const; // that remain
+  int fullLength() const;   // of this period, in seconds; 0 in a game without time
   // START or STOP. At 00:00 it decides once more how the period ended.
   void toggleClock();
   void start();
@@ -63,6 +65,7 @@ class LiveGame {
   void finish(const std::string& notes);
   void saveNotes(const std::string& notes);
   void reopen();
+  void setTeamColour(int team, std::uint32_t colour); // as files keep colours
 
   // --- Players
   static int teamOf(int slot) { return slot >= kSlotsOfTeam ? 1 : 0; }
@@ -103,14 +106,33 @@ class LiveGame {
   const LiveAction* toRedo() const { return m_history.toRedo(); }
   bool undo();
   bool redo();
-  // Marks events as deleted or restores them; substitutions are carried on. One action.
+
+  // --- Editing; each is one action, and substitutions are carried on. False: nothing was changed.
+  // Marks events as deleted or restores them. The stop that ends a period cannot be deleted.
   bool setDeleted(std::span<const EventPlace> events, bool isDeleted);
-  // A line in place of another, its mark of deletion apart.
+  bool canDelete(const EventPlace& event) const { return !closesPeriod(m_log.lines(), event); }
+  // A line in place of another, its mark of deletion apart. With a clock past those of its neighbours the
+  // event moves, within its period, behind the last of equal clock.
   bool replaceEvent(const EventPlace& event, int clockSeconds, const std::string& eventText);
+  bool setTime(const EventPlace& event, int clockSeconds);
+  struct Counted {
+    EventCode kind = EventCode::Unknown;
+    bool isMade = false; // shots
+    int team = 0;
+    int player = 0; // entry
+    std::optional<std::pair<double, double>> place = std::nullopt;
+  };
+  bool editEvent(const EventPlace& event, int clockSeconds, const Counted& counted);
+  enum class Where { Before, Behind };
+  // A clock that does not fit there puts the event where it does.
+  bool insertEvent(const EventPlace& at, Where where, int clockSeconds, const Counted& counted);
+  // A forgotten substitution, at the clock of the event `at`.
+  bool insertSubstitution(const EventPlace& at, Where where, const OnCourt& out, const OnCourt& in);
+  // Where the last of these, refused, did not fit: six would be on court, or one of them twice.
+  const std::optional<EventPlace>& conflict() const { return m_conflict; }
 
  private:
   bool canRecord() const { return m_phase != Phase::Finished; }
-  int fullLength() const;
   std::string lineOf(const std::string& eventText) const; // at the present clock
   EventChange added(const std::string& line);
   bool record(const std::string& eventText, int text);
@@ -123,15 +145,17 @@ class LiveGame {
   [[nodiscard]] std::string stopText(const OnCourt& lists) const;
   bool done(int text, const std::vector<EventChange>& steps, std::vector<EventChange> back);
   [[nodiscard]] const std::pair<std::string, std::string>* openSubstitution() const;
-  // Takes steps that change events, with the lists of all stops behind them carried on; one action. False:
-  // nothing was changed.
-  bool take(int text, const std::vector<EventChange>& steps);
+  bool take(int text, const EventEdit& edit, bool isWhole);
+  void decideAgain();
+  bool isClock(int period, int clockSeconds) const;
+  std::string textOf(const Counted& counted) const; // empty when there is no such player or kind
   bool turn(const LiveAction& action, std::vector<EventChange>& inverse);
 
   LiveLog m_log;
   TimeSource& m_time;
   GameClock m_clock;
   LiveHistory m_history;
+  std::optional<EventPlace> m_conflict;
   std::array<int, kSlots> m_slots = {};
   Phase m_phase = Phase::Stopped;
   int m_period = 1;

@@ -45,12 +45,6 @@ std::optional<Stop> stopOf(int period, const std::string& line, const Rosters& r
               event.isDeleted};
 }
 
-// A stop's line with other lists; clock, code and the mark of a deleted one stay.
-std::string withLists(const std::string& line, const OnCourt& lists, const Rosters& rosters) {
-  constexpr std::string_view kCode = ",ARRET,";
-  return line.substr(0, line.find(kCode) + kCode.size()) + listsText(lists, rosters);
-}
-
 } // namespace
 
 std::optional<OnCourt> onCourtOf(int period, const std::string& line, const Rosters& rosters) {
@@ -82,6 +76,11 @@ OnCourt inForceBefore(const EventLines& lines, int period, const std::string& ke
 
 std::string listsText(const OnCourt& onCourt, const Rosters& rosters) {
   return rosters[0].listOf(onCourt[0]) + ',' + rosters[1].listOf(onCourt[1]);
+}
+
+std::string withLists(const std::string& line, const OnCourt& lists, const Rosters& rosters) {
+  constexpr std::string_view kCode = ",ARRET,";
+  return line.substr(0, line.find(kCode) + kCode.size()) + listsText(lists, rosters);
 }
 
 std::optional<EventPlace> eventBehind(const EventLines& lines, const EventPlace& event) {

@@ -6,6 +6,7 @@
 #include "appearance/Theme.h"
 #include "appearance/frmCOULEURS.h"
 #include "appearance/relabel.h"
+#include "live/frmLIVE.h"
 #include "scorecard/frmVIEW.h"
 #include "setup/frmNEWGAME.h"
 #include "shell/CommandBar.h"
@@ -128,6 +129,23 @@ void MDI::carryOut(const QString& key) {
     return chooseGame();
   if (key == u"LIVENew")
     return makeGame();
+  if (key == u"LIVEOpen")
+    return chooseGameForInput();
+  if (key == u"LIVEMouse") {
+    m_workshop.settings.saveAsksRebounds(!m_workshop.settings.asksRebounds);
+    showWhatIsUnsaved();
+    return showCommands();
+  }
+  if (frmLIVE* window = live()) {
+    if (key == u"SWITCH")
+      return window->switchSides();
+    if (key == u"GAMEOVER")
+      return window->gameOver();
+    if (key == u"CLOSELIVEMANUAL") {
+      window->parentWidget()->close();
+      return;
+    }
+  }
   if (key == u"gEQUIPE")
     return openTeams();
   if (key == u"tbTERRAIN")
@@ -163,15 +181,49 @@ void MDI::carryOut(const QString& key) {
   showCommands();
 }
 
-void MDI::chooseGame() {
+QString MDI::askForGame(int title) {
   const Texts& texts = m_workshop.texts;
   const QString path =
-      m_workshop.dialogs.chooseFile(this, toQt(texts.text(1030)), toQt(m_workshop.settings.lastGameFolder),
+      m_workshop.dialogs.chooseFile(this, toQt(texts.text(title)), toQt(m_workshop.settings.lastGameFolder),
                                     fileFilter(toQt(texts.text(1058))));
-  if (path.isEmpty())
-    return;
-  m_workshop.settings.lastGameFolder = fromQt(QFileInfo(path).absolutePath());
-  openGame(path);
+  if (!path.isEmpty())
+    m_workshop.settings.lastGameFolder = fromQt(QFileInfo(path).absolutePath());
+  return path;
+}
+
+void MDI::chooseGame() {
+  if (const QString path = askForGame(1030); !path.isEmpty())
+    openGame(path);
+}
+
+void MDI::chooseGameForInput() {
+  if (const QString path = askForGame(1039); !path.isEmpty())
+    openForInput(path);
+}
+
+void MDI::openForInput(const QString& path) {
+  GameDetails details;
+  if (const GameFileProblem problem = GameFile(m_workshop.store, fromQt(path)).readDetails(details);
+      problem != GameFileProblem::None)
+    return refuse(problem, path);
+  if (details.inputType != 0)
+    return openGame(path);
+  frmLIVE* open = live();
+  std::unique_ptr<frmLIVE> fresh;
+  if (open == nullptr)
+    fresh = std::make_unique<frmLIVE>(m_workshop.store, m_workshop.settings, m_workshop.texts,
+                                      m_workshop.dialogs, m_workshop.time);
+  frmLIVE& window = open == nullptr ? *fresh : *open;
+  switch (window.open(path)) {
+  case frmLIVE::Opening::Opened: break;
+  case frmLIVE::Opening::Refused: return;
+  case frmLIVE::Opening::Problem: return refuse(window.problem(), path);
+  }
+  m_workshop.memory.rememberFile(fromQt(QFileInfo(path).absoluteFilePath()));
+  if (open != nullptr)
+    return bringToFront(*open);
+  connect(fresh.get(), &frmLIVE::commandStateChanged, this, &MDI::showCommands);
+  addChild(fresh.release());
 }
 
 void MDI::openGame(const QString& path) {
@@ -198,7 +250,7 @@ void MDI::makeGame() {
   m_workshop.memory.rememberLastGame(window.choices());
   if (frmVIEW* old = scorecardOf(window.path())) // of the game that was written over
     old->refresh();
-  openGame(window.path());
+  openForInput(window.path());
 }
 
 void MDI::openTeams() {
@@ -277,6 +329,14 @@ QList<ChildWindow*> MDI::children() const {
   return windows;
 }
 
+frmLIVE* MDI::live() const {
+  for (ChildWindow* child : children()) {
+    if (auto* window = qobject_cast<frmLIVE*>(child))
+      return window;
+  }
+  return nullptr;
+}
+
 frmVIEW* MDI::scorecard() const {
   const QMdiSubWindow* window = m_area->currentSubWindow();
   return window == nullptr ? nullptr : qobject_cast<frmVIEW*>(window->widget());
@@ -300,6 +360,8 @@ void MDI::showCommands() {
     modes.scorecardHidesMadeAttempted = view->hidesMadeAttempted();
     modes.refreshSeconds = static_cast<int>(view->refreshMode());
   }
+  if (const frmLIVE* window = live())
+    modes.live = window->isRunning() ? LiveClock::Running : LiveClock::Stopped;
   modes.asksRebounds = m_workshop.settings.asksRebounds;
   modes.keypadIsActive = m_workshop.settings.keypadIsActive;
   m_commands->show(modes, m_workshop.texts);

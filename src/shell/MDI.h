@@ -25,7 +25,9 @@ class CommandBar;
 class Dialogs;
 class MainMenu;
 class SharedFiles;
+class TimeSource;
 class WindowMemory;
+class frmLIVE;
 class frmVIEW;
 
 // What the main window works with; made by main, which keeps it alive.
@@ -36,6 +38,7 @@ struct Workshop {
   WindowMemory& memory;
   Dialogs& dialogs;
   const SharedFiles& files;
+  TimeSource& time;
 };
 
 class MDI : public QMainWindow {
@@ -58,7 +61,11 @@ class MDI : public QMainWindow {
 
  private:
   void carryOut(const QString& key);
+  [[nodiscard]] QString askForGame(int title); // empty when cancelled
   void chooseGame();
+  void chooseGameForInput();
+  // In the live window, or in the scorecard for a game of totals. One live window at a time: it takes the next game.
+  void openForInput(const QString& path);
   void makeGame();
   void openTeams();
   void openColours();
@@ -70,6 +77,7 @@ class MDI : public QMainWindow {
   void addChild(ChildWindow* child);
   void bringToFront(ChildWindow& child);
   [[nodiscard]] QList<ChildWindow*> children() const; // the open windows
+  [[nodiscard]] frmLIVE* live() const;      // the one that is open, or null
   [[nodiscard]] frmVIEW* scorecard() const;           // the one in front, or null
   [[nodiscard]] frmVIEW* scorecardOf(const QString& path) const;
   void showCommands();

@@ -3,6 +3,7 @@
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "live/TimeSource.h"
 #include "shell/Arguments.h"
 #include "shell/InstanceLock.h"
 #include "shell/MDI.h"
@@ -71,7 +72,8 @@ int run(QApplication& application, const Arguments& arguments, QtDialogs& dialog
     memory.rememberColourScheme(*arguments.colourScheme);
   Theme::apply(application, memory.colourScheme().value_or(ColourScheme::Light));
 
-  MDI window({store, settings, texts, memory, dialogs, shared});
+  SystemTime time;
+  MDI window({store, settings, texts, memory, dialogs, shared, time});
   window.show();
   // After the window is there: what is said now stands in front of it.
   QTimer::singleShot(0, &window, [&] {

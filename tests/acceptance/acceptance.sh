@@ -76,8 +76,14 @@ xdotool key Return
 until_true "a second instance ends" is_gone "$second"
 is_gone "$running" && fail "the first instance lives on"
 
-main_window() { window_named 'HOOPTAB Basketball' | head -n 1; }
-keys() { xdotool windowactivate --sync "$(main_window)" key "$@"; }
+# Of the running program alone: the window of one that ends just now has the same title.
+main_window() { xdotool search --all --onlyvisible --pid "$running" --name 'HOOPTAB Basketball' | head -n 1 | grep .; }
+# The search itself fails when a window goes while it looks.
+keys() {
+  local window
+  until window=$(main_window) || is_gone "$running"; do sleep 0.1; done
+  xdotool windowactivate --sync "$window" key "$@"
+}
 
 # The language switches on the fly and is on disk at once.
 keys F12
@@ -100,6 +106,45 @@ until_true "a wrong file is refused" window_named 'HOOPTAB - Error'
 xdotool key Return
 until_true "the refusal closes" no_window_named 'HOOPTAB - Error'
 window_named "$title" >/dev/null || fail "the open game stays"
+
+# A team with one player by keyboard: what is typed is on disk, in the record that the new team was given.
+typed() { xdotool type --delay 5 "$1"; }
+has_focus() { [ "$(xdotool getwindowfocus getwindowname)" = "$1" ]; }
+keys ctrl+e
+until_true "the teams open" window_named 'Team Management'
+tabs() { for ((i = 0; i < $1; ++i)); do xdotool key "${2:-Tab}"; done; }
+until_true "the teams have the focus" has_focus 'HOOPTAB Basketball - [Team Management]'
+tabs 2 shift+Tab # back from the search to the button of a new team
+xdotool key space
+until_true "a new team is on disk" says CONFIG.INI '^7=Newteam, , ,'
+sleep 1
+xdotool key ctrl+a
+typed 'HERONS'
+xdotool key Tab
+typed 'B, men'
+xdotool key Return
+until_true "the team is saved" says CONFIG.INI '^7=HERONS,.*B  men, ,'
+tabs 14 # from the level to the number of the player
+typed '23'
+xdotool key Tab End Tab
+typed 'Ann Able'
+xdotool key Return
+until_true "its player is saved" says CONFIG.INI '^23=9,Ann Able,,,,,'
+keys ctrl+w
+until_true "the teams close without a question" no_window_named 'Team Management'
+
+# A game by keyboard: each team by its first letters, the file in Qt's own dialog.
+keys ctrl+n
+until_true "the window of a new game opens" has_focus 'New Game'
+typed 'PU'
+tabs 8 # to the other list
+typed 'HE'
+xdotool key Tab Return
+until_true "the file is asked for" has_focus 'Save Game as...'
+typed "$work/new.GAM"
+xdotool key Return
+until_true "the new game opens" window_named 'PUMA 0 - 0 HERONS'
+grep -aq '^23=9,Ann Able' "$work/new.GAM" || fail "the new game has its players"
 open_by_dialog "$other"
 until_true "a second game opens" window_named "$(abbreviation "$other" 0) [0-9]+ - [0-9]+ $(abbreviation "$other" 1)"
 

@@ -4,6 +4,8 @@
 #include "appearance/Theme.h"
 #include "appearance/frmCOULEURS.h"
 #include "appearance/relabel.h"
+#include "live/TimeSource.h"
+#include "live/frmLIVE.h"
 #include "scorecard/frmVIEW.h"
 #include "setup/frmNEWGAME.h"
 #include "shell/Commands.h"
@@ -19,6 +21,7 @@
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -63,7 +66,7 @@ class MainWindowTest : public testing::Test {
     texts.setLanguage(settings->language);
     texts.showNumbers(settings->asksForTextNumbers());
     memory = std::make_unique<WindowMemory>(store, folder());
-    window = std::make_unique<MDI>(Workshop{store, *settings, texts, *memory, dialogs, shared});
+    window = std::make_unique<MDI>(Workshop{store, *settings, texts, *memory, dialogs, shared, time});
     window->setWindowState(Qt::WindowNoState); // the display of these tests is smaller than the screen meant
     window->resize(1366, 768);
     window->show();
@@ -126,6 +129,7 @@ class MainWindowTest : public testing::Test {
   cinifile store{files};
   Texts texts;
   ScriptedDialogs dialogs;
+  SystemTime time;
   SharedFiles shared{fromQt(installed.path())};
   Settings::Preparation preparation = Settings::Preparation::AlreadyThere;
   std::unique_ptr<Settings> settings;
@@ -337,9 +341,10 @@ TEST_F(MainWindowTest, MakesAGameAndOpensItAndBeginsTheNextOneWithItsChoices) {
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Nouvelle partie"));
     QTest::mouseClick(form.findChild<QPushButton*>(QStringLiteral("OKButton")), Qt::LeftButton);
   });
-  ASSERT_EQ(scorecards().size(), 1) << (dialogs.shown.empty() ? "" : fromQt(dialogs.shown.back().text));
-  EXPECT_EQ(scorecards()[0]->path(), path);
-  EXPECT_EQ(scorecards()[0]->windowTitle(), QStringLiteral("LION 0 - 0 JAGUAR"));
+  auto* live = area().findChild<frmLIVE*>();
+  ASSERT_NE(live, nullptr) << (dialogs.shown.empty() ? "" : fromQt(dialogs.shown.back().text));
+  EXPECT_EQ(live->path(), path);
+  EXPECT_TRUE(live->windowTitle().endsWith(QStringLiteral("LION 0 - 0 JAGUAR"))) << fromQt(live->windowTitle());
   EXPECT_EQ(settings->lastGameFolder, fromQt(games.path()));
   useWindow([](frmNEWGAME& form) {
     EXPECT_EQ(form.findChild<QLineEdit*>(QStringLiteral("txtNOMEQUIPE(0)"))->text(),
@@ -347,7 +352,32 @@ TEST_F(MainWindowTest, MakesAGameAndOpensItAndBeginsTheNextOneWithItsChoices) {
     EXPECT_EQ(form.findChild<QLineEdit*>(QStringLiteral("txtENDROIT"))->text(), QStringLiteral("Main gym"));
     form.reject();
   });
-  EXPECT_EQ(scorecards().size(), 1);
+  EXPECT_EQ(area().subWindowList().size(), 1);
+}
+
+TEST_F(MainWindowTest, RecordsAGameAndStopsTheClockBeforeItCloses) {
+  const QString path = makeGame("LIVE.GAM");
+  dialogs.nextFile = path;
+  action("LIVEOpen").trigger();
+  auto* live = area().findChild<frmLIVE*>();
+  ASSERT_NE(live, nullptr);
+  EXPECT_TRUE(QFileInfo::exists(path + QStringLiteral(".lock")));
+  EXPECT_TRUE(action("SWITCH").isEnabled() && action("GAMEOVER").isEnabled());
+  live->setFocus();
+  QTest::keyClick(live, Qt::Key_Space);
+  EXPECT_TRUE(live->isRunning());
+  EXPECT_FALSE(action("LIVEOpen").isEnabled() || action("LIVENew").isEnabled()) << "not while the clock runs";
+  action("LIVEMouse").trigger();
+  EXPECT_EQ(setting("SAVEREBOUND"), "True");
+  action("CLOSELIVEMANUAL").trigger();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(area().findChild<frmLIVE*>(), nullptr);
+  EXPECT_FALSE(QFileInfo::exists(path + QStringLiteral(".lock")));
+  EXPECT_TRUE(action("LIVEOpen").isEnabled());
+  Game game;
+  ASSERT_EQ(GameFile(store, fromQt(path)).read(game), GameFileProblem::None);
+  EXPECT_EQ(game.events[game.events.size() - 1].code, EventCode::ARRET);
 }
 
 TEST_F(MainWindowTest, CourtColoursReachOpenWindowsAtOnce) {

@@ -1,0 +1,271 @@
+#include "live/BenchPanel.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/JerseyButton.h"
+#include "live/LiveGame.h"
+#include "live/PlayerWords.h"
+#include "live/frmSUBST.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kSubstitution = 1561;
+constexpr int kSubstitutionTip = 1945;
+constexpr int kSeveral = 1946;
+constexpr int kSeveralTip = 1947;
+constexpr int kAllOut = 1948;
+constexpr int kAllOutTip = 1949;
+constexpr int kSelectedTip = 1952;
+constexpr int kNobodySelected = 1953;
+
+constexpr int kWidth = 250;
+constexpr int kColumns = 5;
+constexpr QSize kButton(48, 28);
+constexpr int kGap = 2;
+constexpr int kNumberWidth = 40;
+constexpr int kRowHeight = 24;
+
+QToolButton* buttonFor(QAction& action, const char* name, QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setObjectName(QLatin1String(name));
+  button->setDefaultAction(&action);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  button->setFixedHeight(kRowHeight);
+  return button;
+}
+
+} // namespace
+
+BenchPanel::BenchPanel(const Texts& texts, QWidget* parent) : QWidget(parent), m_texts(texts) {
+  setObjectName(QStringLiteral("picBENCH"));
+  setFixedWidth(kWidth);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap);
+  layout->addWidget(makeCommands());
+  for (int team = 0; team < 2; ++team)
+    layout->addWidget(makeTeam(team));
+  layout->addWidget(makeSelection());
+  relabel(*this, texts);
+  showSelection();
+}
+
+QWidget* BenchPanel::makeCommands() {
+  auto* row = new QWidget(this);
+  m_commands = row;
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap * 2);
+  const auto addCommand = [&](const char* name, int text, int toolTip, Qt::Key key) {
+    auto* action = new QAction(this);
+    setTextNumber(*action, text);
+    setToolTipNumber(*action, toolTip);
+    action->setShortcut(key);
+    action->setAutoRepeat(false);
+    addAction(action);
+    layout->addWidget(buttonFor(*action, name, row));
+    return action;
+  };
+  m_substitute = addCommand("cmdSUBST", kSubstitution, kSubstitutionTip, Qt::Key_F6);
+  m_substitute->setCheckable(true);
+  m_several = addCommand("cmdSEVERAL", kSeveral, kSeveralTip, Qt::Key_F4);
+  connect(m_substitute, &QAction::toggled, this, [this] {
+    if (m_game != nullptr)
+      showGame(*m_game); // who can be dragged
+    showMode();
+  });
+  connect(m_several, &QAction::triggered, this, &BenchPanel::askSeveral);
+  return row;
+}
+
+QWidget* BenchPanel::makeTeam(int team) {
+  const auto t = static_cast<std::size_t>(team);
+  auto* roster = new QWidget(this);
+  m_rosters[t] = roster;
+  auto* grid = new QGridLayout(roster);
+  grid->setContentsMargins(kGap, kGap, kGap, kGap);
+  grid->setSpacing(0);
+
+  m_names[t] = new QLabel(roster);
+  m_names[t]->setObjectName(QStringLiteral("lblBENCH(%1)").arg(team));
+  m_allOut[t] = new QPushButton(roster);
+  m_allOut[t]->setObjectName(QStringLiteral("cmdOUTALL(%1)").arg(team));
+  m_allOut[t]->setFocusPolicy(Qt::TabFocus);
+  m_allOut[t]->setFixedHeight(kRowHeight - 2);
+  setTextNumber(*m_allOut[t], kAllOut);
+  connect(m_allOut[t], &QPushButton::clicked, this, [this, team] { emit allOutAsked(team); });
+  auto* head = new QHBoxLayout;
+  head->addWidget(m_names[t], 1);
+  head->addWidget(m_allOut[t]);
+  grid->addLayout(head, 0, 0, 1, kColumns);
+
+  for (int place = 0; place < kPlaces; ++place) {
+    auto* button = new JerseyButton(jerseyButtonName(team * kPlaces + place), kButton, roster);
+    connect(button, &JerseyButton::pressed, this, [this, team, place] { press(team, place + 1); });
+    grid->addWidget(button, 1 + place / kColumns, place % kColumns);
+    m_players[t][static_cast<std::size_t>(place)] = button;
+  }
+  return roster;
+}
+
+QWidget* BenchPanel::makeSelection() {
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  m_number = new QLabel(row);
+  m_number->setObjectName(QStringLiteral("lblNO"));
+  m_number->setFixedSize(kNumberWidth, kRowHeight);
+  m_number->setAlignment(Qt::AlignCenter);
+  m_number->setFont(Theme::figures(10, true));
+  m_number->setAutoFillBackground(true);
+  m_name = new QLabel(row);
+  m_name->setObjectName(QStringLiteral("lblNom"));
+  // As wide as there is room, whoever's name it is.
+  m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  for (QLabel* label : {m_number, m_name})
+    setToolTipNumber(*label, kSelectedTip);
+  layout->addWidget(m_number);
+  layout->addWidget(m_name, 1);
+  return row;
+}
+
+bool BenchPanel::isSubstituting() const {
+  return m_substitute->isChecked();
+}
+
+void BenchPanel::press(int team, int player) {
+  if (isSubstituting()) {
+    emit toggled(team, player);
+    return;
+  }
+  select(team, player);
+  emit selected(team, player);
+}
+
+void BenchPanel::askSeveral() {
+  if (m_game == nullptr)
+    return;
+  auto* several = new frmSUBST(*m_game, m_texts, this);
+  several->setAttribute(Qt::WA_DeleteOnClose);
+  connect(several, &QDialog::accepted, this, [this, several] { emit onCourtAsked(several->onCourt()); });
+  several->openBeside(*this);
+}
+
+void BenchPanel::select(int team, int player) {
+  m_selectedTeam = team;
+  m_selectedPlayer = player;
+  if (m_game != nullptr)
+    showGame(*m_game);
+  showSelection();
+}
+
+void BenchPanel::showPlace(const LiveGame& game, int team, int player) {
+  JerseyButton& button = *m_players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player - 1)];
+  const RosterPlayer* entry = game.game().roster[team].player(player);
+  if (entry == nullptr) {
+    button.setLook({});
+    return;
+  }
+  const bool isOnCourt = game.slotOf(team, player).has_value();
+  button.setLook({.jersey = toQt(entry->jersey),
+                  .colour = colourOf(game.game().details.teamColour[team]),
+                  .isFilled = isOnCourt,
+                  .isFouledOut = game.isFouledOut(team, player),
+                  .isSelected = team == m_selectedTeam && player == m_selectedPlayer});
+  // In substitution mode the press itself puts a player in, so that nothing is left to drag.
+  const bool canBeDragged = !isOnCourt && !isSubstituting();
+  button.setDragText(canBeDragged ? QStringLiteral("%1-%2").arg(team).arg(player) : QString());
+  showPlayerWords(button, game, team, player, m_texts);
+}
+
+void BenchPanel::showGame(const LiveGame& game) {
+  m_game = &game;
+  const bool canRecord = game.phase() != LiveGame::Phase::Finished;
+  m_substitute->setEnabled(canRecord);
+  m_several->setEnabled(canRecord);
+  for (int team = 0; team < 2; ++team) {
+    const auto t = static_cast<std::size_t>(team);
+    const GameDetails& details = game.game().details;
+    m_names[t]->setText(toQt(details.abbreviation[team]));
+    m_names[t]->setToolTip(toQt(details.name[team]));
+    m_allOut[t]->setEnabled(canRecord && game.onCourt()[t] != 0);
+    m_allOut[t]->setToolTip(toQt(m_texts.withPlaceholder(kAllOutTip, details.name[team])));
+    m_allOut[t]->setAccessibleName(m_allOut[t]->toolTip());
+    for (int player = 1; player <= kPlaces; ++player)
+      showPlace(game, team, player);
+  }
+}
+
+void BenchPanel::showTime(const LiveGame& game) {
+  for (int team = 0; team < 2; ++team) {
+    for (int player = 1; player <= kPlaces; ++player) {
+      if (game.slotOf(team, player))
+        showPlayerWords(*m_players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player - 1)],
+                        game, team, player, m_texts);
+    }
+  }
+}
+
+void BenchPanel::showSelection() {
+  const RosterPlayer* entry =
+      m_game == nullptr ? nullptr : m_game->game().roster[m_selectedTeam].player(m_selectedPlayer);
+  m_number->setText(entry == nullptr ? QString() : toQt(entry->jersey));
+  m_name->setText(entry == nullptr ? caption(m_texts, kNobodySelected) : toQt(entry->name));
+  m_name->setForegroundRole(entry == nullptr ? QPalette::PlaceholderText : QPalette::WindowText);
+  QPalette colours = palette();
+  if (entry != nullptr) {
+    const QColor colour = colourOf(m_game->game().details.teamColour[m_selectedTeam]);
+    colours.setColor(QPalette::Window, colour);
+    colours.setColor(QPalette::WindowText, textOn(colour));
+  }
+  m_number->setPalette(colours);
+}
+
+void BenchPanel::showMode() {
+  QPalette colours = palette();
+  if (isSubstituting()) {
+    colours.setColor(QPalette::Button, Theme::accent());
+    colours.setColor(QPalette::ButtonText, textOn(Theme::accent()));
+  }
+  m_commands->findChild<QToolButton*>(QStringLiteral("cmdSUBST"))->setPalette(colours);
+  update(); // the frame
+}
+
+void BenchPanel::relabelPanel() {
+  if (m_game != nullptr)
+    showGame(*m_game);
+  showSelection();
+}
+
+void BenchPanel::applyColours() {
+  relabelPanel();
+  showMode();
+  const QList<JerseyButton*> buttons = findChildren<JerseyButton*>();
+  for (JerseyButton* button : buttons)
+    button->update();
+}
+
+// A frame around the rosters says that a click substitutes.
+void BenchPanel::paintEvent(QPaintEvent* event) {
+  QWidget::paintEvent(event);
+  if (!isSubstituting())
+    return;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(Theme::accent(), 2));
+  const QRect rosters = m_rosters[0]->geometry().united(m_rosters[1]->geometry());
+  painter.drawRoundedRect(QRectF(rosters).adjusted(1, 1, -1, -1), 4, 4);
+}
+
+} // namespace hooptab

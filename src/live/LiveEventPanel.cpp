@@ -1,0 +1,475 @@
+#include "live/LiveEventPanel.h"
+
+#include "appearance/Icons.h"
+#include "appearance/relabel.h"
+#include "live/LiveEventDelegate.h"
+#include "live/LiveGame.h"
+#include "live/ShotFollowUp.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTableView>
+#include <QToolButton>
+#include <algorithm>
+#include <array>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kRowHeight = 20;
+constexpr int kColourWidth = 5; // the stripe of the team's colour before the words
+constexpr int kMarkSize = 13;
+constexpr int kPadding = 8;
+constexpr int kButtonSize = 26;
+
+constexpr int kDelete = 1081;
+constexpr int kUndelete = 1086;
+constexpr int kPeriod = 1087;
+constexpr int kEvents = 1547;
+constexpr int kSubstitution = 1561;
+constexpr int kPlayer = 1593;
+constexpr int kTeam = 1594;
+constexpr int kKind = 1595;
+constexpr int kDeletion = 1910;
+constexpr int kRestoring = 1911;
+constexpr int kEdit = 1912;
+constexpr int kInsertion = 1965;
+constexpr int kToCheck = 1972;
+constexpr int kNothingToCheck = 1973;
+constexpr int kCheckHint = 1974;
+constexpr int kUndo = 1975;
+constexpr int kRedo = 1976;
+constexpr int kNothingToUndo = 1977;
+constexpr int kNothingToRedo = 1978;
+constexpr int kInsertBefore = 1979;
+constexpr int kInsertAfter = 1980;
+constexpr int kFilter = 1981;
+constexpr int kDeleteWith = 1982;
+constexpr int kDeleteAlone = 1983;
+
+QString withPlaceholder(const Texts& texts, int number, const QString& replacement) {
+  return caption(texts, number).replace(QLatin1String("XXX"), replacement);
+}
+
+} // namespace
+
+LiveEventPanel::LiveEventPanel(const Texts& texts, QWidget* parent)
+    : QWidget(parent), m_texts(texts), m_rows(texts) {
+  makeList();
+  m_checks = new QPushButton(this);
+  m_checks->setObjectName(QStringLiteral("lblCHECKS"));
+  m_checks->setFlat(true);
+  m_checks->setFocusPolicy(Qt::TabFocus);
+  m_checks->setIconSize({kMarkSize, kMarkSize});
+  setToolTipNumber(*m_checks, kCheckHint);
+  connect(m_checks, &QPushButton::clicked, this, &LiveEventPanel::leadToFinding);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(2);
+  layout->addWidget(makeButtons());
+  layout->addWidget(makeFilters());
+  layout->addWidget(m_checks, 0, Qt::AlignLeft);
+  layout->addWidget(m_list, 1);
+  hooptab::relabel(*this, texts);
+  relabelPanel();
+}
+
+void LiveEventPanel::makeList() {
+  m_list = new QTableView(this);
+  m_list->setObjectName(QStringLiteral("lvwEVENT"));
+  setAccessibleNumber(*m_list, kEvents);
+  m_list->setModel(&m_rows);
+  m_list->setItemDelegateForColumn(EventListModel::Action, new LiveEventDelegate(m_list));
+  m_list->hideColumn(EventListModel::Period);
+  m_list->hideColumn(EventListModel::Score);
+  m_list->horizontalHeader()->hide();
+  m_list->horizontalHeader()->setSectionResizeMode(EventListModel::Action, QHeaderView::Stretch);
+  m_list->verticalHeader()->hide();
+  m_list->verticalHeader()->setMinimumSectionSize(kRowHeight);
+  m_list->verticalHeader()->setDefaultSectionSize(kRowHeight);
+  m_list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  m_list->setIconSize({kColourWidth, kRowHeight - 4});
+  m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
+  m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // words keep their width when the list grows
+  m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  m_list->setShowGrid(false);
+  m_list->setWordWrap(false);
+  m_list->setTabKeyNavigation(false);
+  m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+  connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &LiveEventPanel::showCommands);
+  connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          [this](const QModelIndex& index) {
+            if (index.isValid())
+              emit chosen(placeOf(m_rows.eventAt(index)));
+          });
+  connect(m_list, &QTableView::activated, this, [this] { m_edit->trigger(); });
+}
+
+QAction* LiveEventPanel::makeAction(const char* name, int text, const char* iconName) {
+  auto* action = new QAction(icon(QLatin1String(iconName)), {}, this);
+  action->setObjectName(QLatin1String(name));
+  if (text > 0) {
+    setTextNumber(*action, text);
+    setToolTipNumber(*action, text);
+  }
+  return action;
+}
+
+QWidget* LiveEventPanel::makeButtons() {
+  m_delete = makeAction("cmdDELETE", kDelete, "delete");
+  m_undelete = makeAction("cmdUNDELETE", kUndelete, "undelete");
+  m_edit = makeAction("cmdEDIT", kEdit, "edit");
+  m_insertBefore = makeAction("cmdINSERTBEFORE", kInsertBefore, "insertbefore");
+  m_insertAfter = makeAction("cmdINSERTAFTER", kInsertAfter, "insertafter");
+  m_undo = makeAction("cmdUNDO", 0, "undo");
+  m_redo = makeAction("cmdREDO", 0, "redo");
+  m_filter = makeAction("cmdFILTER", kFilter, "filter");
+  m_filter->setCheckable(true);
+  m_delete->setShortcut(QKeySequence::Delete);
+  m_undo->setShortcut(Qt::CTRL | Qt::Key_Z);
+  m_redo->setShortcut(Qt::CTRL | Qt::Key_Y);
+
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(2);
+  for (QAction* action :
+       {m_undo, m_redo, m_delete, m_undelete, m_edit, m_insertBefore, m_insertAfter, m_filter}) {
+    auto* button = new QToolButton(row);
+    button->setDefaultAction(action);
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    button->setAutoRaise(true);
+    button->setFixedSize(kButtonSize, kButtonSize);
+    button->setFocusPolicy(Qt::TabFocus);
+    if (action == m_delete || action == m_filter)
+      layout->addStretch();
+    layout->addWidget(button);
+    if (action != m_filter)
+      m_list->addAction(action);
+  }
+
+  connect(m_delete, &QAction::triggered, this, &LiveEventPanel::askDeletion);
+  connect(m_undelete, &QAction::triggered, this, [this] {
+    std::vector<EventPlace> events;
+    for (const std::size_t event : selected()) {
+      if (m_rows.game().events[event].isDeleted)
+        events.push_back(placeOf(event));
+    }
+    if (!events.empty())
+      emit deleteAsked(events, false);
+  });
+  const auto ask = [this](QAction* action, auto signal) {
+    connect(action, &QAction::triggered, this, [this, signal] {
+      if (const auto event = current())
+        signal(*event);
+    });
+  };
+  ask(m_edit, [this](const EventPlace& event) { emit editAsked(event); });
+  ask(m_insertBefore, [this](const EventPlace& event) { emit insertAsked(event, true); });
+  ask(m_insertAfter, [this](const EventPlace& event) { emit insertAsked(event, false); });
+  connect(m_undo, &QAction::triggered, this, &LiveEventPanel::undoAsked);
+  connect(m_redo, &QAction::triggered, this, &LiveEventPanel::redoAsked);
+  connect(m_filter, &QAction::toggled, this, [this](bool isOpen) {
+    m_filters->setVisible(isOpen);
+    if (!isOpen) // nothing stays hidden that one could wait for
+      clearFilter();
+  });
+  return row;
+}
+
+QWidget* LiveEventPanel::makeFilters() {
+  m_filters = new QWidget(this);
+  auto* layout = new QGridLayout(m_filters);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(2);
+  int place = 0;
+  const auto make = [&](const char* name, int text) {
+    auto* box = new QComboBox(m_filters);
+    box->setObjectName(QLatin1String(name));
+    setAccessibleNumber(*box, text);
+    setToolTipNumber(*box, text);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(6);
+    layout->addWidget(box, place / 2, place % 2);
+    ++place;
+    connect(box, &QComboBox::currentIndexChanged, this, &LiveEventPanel::takeFilter);
+    return box;
+  };
+  m_team = make("cmbTEAM", kTeam);
+  m_period = make("cmbPERIOD", kPeriod);
+  m_player = make("cmbPLAYER", kPlayer);
+  m_kind = make("cmbKIND", kKind);
+  m_filters->hide();
+  return m_filters;
+}
+
+// --- What is shown
+
+void LiveEventPanel::showGame(const LiveGame& game) {
+  m_game = &game;
+  const QString path = toQt(game.game().path);
+  const bool isNew = path != m_path;
+  m_path = path;
+  if (isNew) {
+    m_list->clearSelection();
+    m_list->setCurrentIndex({});
+    m_filter->setChecked(false);
+  }
+  // Who looks at an older event keeps it in view; at the top the newest comes in.
+  const QPersistentModelIndex top = m_list->indexAt({0, 0});
+  const bool isAtTop = isNew || !top.isValid() || top.row() == 0;
+  m_rows.show(game.game());
+  if (isAtTop)
+    m_list->scrollToTop();
+  else if (top.isValid())
+    m_list->scrollTo(top, QAbstractItemView::PositionAtTop);
+  if (isNew)
+    fitColumns();
+  fillFilters();
+  showChecks();
+  showCommands();
+}
+
+void LiveEventPanel::relabelPanel() {
+  m_rows.relabel();
+  for (QComboBox* box : {m_team, m_period, m_player, m_kind})
+    box->setProperty("shown", {}); // their items are words
+  fillFilters();
+  fitColumns();
+  showChecks();
+  showCommands();
+}
+
+void LiveEventPanel::applyColours() {
+  m_list->viewport()->update();
+  showChecks();
+}
+
+void LiveEventPanel::fitColumns() {
+  const int clock = QFontMetrics(m_list->font()).horizontalAdvance(QStringLiteral("00:00"));
+  m_list->setColumnWidth(EventListModel::Clock, clock + kPadding);
+}
+
+// Filled anew only when another choice is to be had: a period more, another language, another game.
+void LiveEventPanel::fillFilters() {
+  const Game& game = m_rows.game();
+  const int periods =
+      std::max(game.details.periods, game.events.size() == 0 ? 0 : int{game.events.events().back().period});
+  const auto fill = [this](QComboBox& box, int text, const QString& key, auto addItems) {
+    if (box.property("shown").toString() == key)
+      return;
+    box.setProperty("shown", key);
+    const QVariant chosen = box.currentData();
+    const QSignalBlocker quiet(box);
+    box.clear();
+    box.addItem(caption(m_texts, text), QVariant());
+    addItems(box);
+    const int kept = chosen.isValid() ? box.findData(chosen) : 0;
+    box.setCurrentIndex(std::max(kept, 0));
+  };
+  const QString whole = QStringLiteral("%1|%2").arg(m_path).arg(game.roster[0].players().size());
+  fill(*m_team, kTeam, whole, [&](QComboBox& box) {
+    for (int team = 0; team < 2; ++team)
+      box.addItem(toQt(m_rows.words().team(team)), team);
+  });
+  fill(*m_period, kPeriod, whole + QString::number(periods), [&](QComboBox& box) {
+    for (int period = 1; period <= periods; ++period)
+      box.addItem(toQt(m_rows.words().periodText(period)), period);
+  });
+  const QVariant team = m_team->currentData();
+  fill(*m_player, kPlayer, whole + u'|' + team.toString(), [&](QComboBox& box) {
+    for (int side = 0; side < 2; ++side) {
+      if (team.isValid() && team.toInt() != side)
+        continue;
+      for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
+        const RosterPlayer* player = game.roster[side].player(entry);
+        if (player != nullptr)
+          box.addItem(toQt(m_rows.words().team(side)) + u' ' +
+                          toQt(m_rows.words().player({side, player->jersey})),
+                      side * (Roster::kLargestEntry + 1) + entry);
+      }
+    }
+  });
+  fill(*m_kind, kKind, QStringLiteral("kinds"), [&](QComboBox& box) {
+    for (const EventKind& kind : eventKinds())
+      box.addItem(caption(m_texts, kind.wordsText), static_cast<int>(kind.code));
+    box.addItem(caption(m_texts, kSubstitution), static_cast<int>(EventCode::ARRET));
+  });
+  for (QComboBox* box : {m_player, m_kind})
+    box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + 3 * kPadding);
+}
+
+void LiveEventPanel::takeFilter() {
+  fillFilters(); // another team has other players
+  EventFilter filter;
+  if (m_team->currentData().isValid())
+    filter.team = m_team->currentData().toInt();
+  filter.period = m_period->currentData().toInt();
+  if (const QVariant player = m_player->currentData(); player.isValid()) {
+    filter.team = player.toInt() / (Roster::kLargestEntry + 1);
+    filter.player = player.toInt() % (Roster::kLargestEntry + 1);
+  }
+  filter.kind = static_cast<EventCode>(m_kind->currentData().toInt());
+  m_rows.setFilter(filter);
+}
+
+void LiveEventPanel::clearFilter() {
+  for (QComboBox* box : {m_team, m_period, m_player, m_kind}) {
+    const QSignalBlocker quiet(box);
+    box->setCurrentIndex(0);
+  }
+  takeFilter();
+}
+
+void LiveEventPanel::showChecks() {
+  const std::size_t count = m_rows.findings().size();
+  m_checks->setEnabled(count > 0);
+  m_checks->setIcon(count > 0 ? icon(QStringLiteral("tocheck")) : QIcon());
+  m_checks->setText(count > 0 ? withPlaceholder(m_texts, kToCheck, QString::number(count))
+                              : caption(m_texts, kNothingToCheck));
+}
+
+void LiveEventPanel::showCommands() {
+  const bool canEdit = m_game != nullptr && m_game->phase() != LiveGame::Phase::Finished;
+  bool canDelete = false;
+  bool canRestore = false;
+  for (const std::size_t event : selected()) {
+    const bool isDeleted = m_rows.game().events[event].isDeleted;
+    canRestore = canRestore || isDeleted;
+    canDelete = canDelete || (!isDeleted && m_game != nullptr && m_game->canDelete(placeOf(event)));
+  }
+  m_delete->setEnabled(canEdit && canDelete);
+  m_undelete->setEnabled(canEdit && canRestore);
+  for (QAction* action : {m_edit, m_insertBefore, m_insertAfter})
+    action->setEnabled(canEdit && current());
+  const auto turned = [&](auto which) { return canEdit ? (m_game->*which)() : nullptr; };
+  showTurn(*m_undo, turned(&LiveGame::toUndo), kUndo, kNothingToUndo);
+  showTurn(*m_redo, turned(&LiveGame::toRedo), kRedo, kNothingToRedo);
+}
+
+// "Undo: Deletion (LYNX 12 ● 2 points)"; what was recorded is named by its event alone.
+void LiveEventPanel::showTurn(QAction& action, const LiveAction* turned, int text, int nothing) const {
+  action.setEnabled(turned != nullptr);
+  QString words;
+  if (turned != nullptr) {
+    const auto events = m_rows.game().events.events();
+    const auto found = std::ranges::find_if(events, [&](const GameEvent& event) {
+      return event.period == turned->event.period && event.key == turned->event.key;
+    });
+    if (found != events.end())
+      words = toQt(m_rows.words().shortWords(static_cast<std::size_t>(found - events.begin())));
+    constexpr std::array kNamed = {kDeletion, kRestoring, kEdit, kInsertion};
+    if (words.isEmpty() || std::ranges::find(kNamed, turned->text) != kNamed.end())
+      words = caption(m_texts, turned->text) + (words.isEmpty() ? words : QStringLiteral(" (%1)").arg(words));
+  }
+  const QString whole = turned == nullptr ? caption(m_texts, nothing) : withPlaceholder(m_texts, text, words);
+  action.setText(QString(whole).replace(u'&', QLatin1String("&&")));
+  action.setToolTip(
+      QStringLiteral("%1 (%2)").arg(whole, action.shortcut().toString(QKeySequence::NativeText)));
+}
+
+// --- What is asked
+
+EventPlace LiveEventPanel::placeOf(std::size_t event) const {
+  const GameEvent& found = m_rows.game().events[event];
+  return {found.period, std::string(found.key)};
+}
+
+std::vector<std::size_t> LiveEventPanel::selected() const {
+  std::vector<std::size_t> events;
+  for (const QModelIndex& row : m_list->selectionModel()->selectedRows())
+    events.push_back(m_rows.eventAt(row));
+  std::ranges::sort(events);
+  return events;
+}
+
+std::optional<EventPlace> LiveEventPanel::current() const {
+  const QModelIndex index = m_list->currentIndex();
+  if (!index.isValid() || !m_list->selectionModel()->isRowSelected(index.row()))
+    return std::nullopt;
+  return placeOf(m_rows.eventAt(index));
+}
+
+void LiveEventPanel::choose(const EventPlace& event) {
+  for (std::size_t place = 0; place < m_rows.game().events.size(); ++place) {
+    if (placeOf(place) == event)
+      return choose(place);
+  }
+}
+
+void LiveEventPanel::choose(std::size_t event) {
+  if (!m_rows.rowOf(event).isValid())
+    clearFilter();
+  const QModelIndex row = m_rows.rowOf(event);
+  m_list->selectRow(row.row());
+  m_list->scrollTo(row);
+}
+
+// The first, and from one of them the next.
+void LiveEventPanel::leadToFinding() {
+  const auto& findings = m_rows.findings();
+  if (findings.empty())
+    return;
+  const auto chosenNow = selected();
+  auto next = findings.begin();
+  const auto now = std::ranges::find_if(findings, [&](const LiveFinding& finding) {
+    return chosenNow.size() == 1 && finding.event == chosenNow[0];
+  });
+  if (now != findings.end())
+    next = std::find_if(now, findings.end(),
+                        [&](const LiveFinding& finding) { return finding.event != now->event; });
+  choose((next == findings.end() ? findings.begin() : next)->event);
+}
+
+// A shot takes its assist or rebound along where that is wanted.
+void LiveEventPanel::askDeletion() {
+  std::vector<EventPlace> events;
+  std::vector<EventPlace> followUps;
+  QStringList words;
+  const std::vector<std::size_t> chosenEvents = selected();
+  for (const std::size_t event : chosenEvents) {
+    if (m_rows.game().events[event].isDeleted || !m_game->canDelete(placeOf(event)))
+      continue;
+    events.push_back(placeOf(event));
+    const auto followUp = followUpOf(m_rows.game().events, event);
+    if (!followUp || std::ranges::binary_search(chosenEvents, *followUp))
+      continue;
+    followUps.push_back(placeOf(*followUp));
+    words.push_back(toQt(m_rows.words().shortWords(*followUp)));
+  }
+  if (events.empty())
+    return;
+  if (followUps.empty()) {
+    emit deleteAsked(events, true);
+    return;
+  }
+  auto* menu = new QMenu(this);
+  menu->setObjectName(QStringLiteral("mnuDELETE"));
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  std::vector<EventPlace> together = events;
+  together.insert(together.end(), followUps.begin(), followUps.end());
+  const auto offer = [&](QString text, const std::vector<EventPlace>& places) {
+    connect(menu->addAction(text.replace(u'&', QLatin1String("&&"))), &QAction::triggered, this,
+            [this, places] { emit deleteAsked(places, true); });
+  };
+  offer(withPlaceholder(m_texts, kDeleteWith, words.join(QStringLiteral(", "))), together);
+  offer(caption(m_texts, kDeleteAlone), events);
+  const QModelIndex row = m_rows.rowOf(chosenEvents.front());
+  menu->popup(m_list->viewport()->mapToGlobal(m_list->visualRect(row).bottomLeft()));
+  menu->setActiveAction(menu->actions().constFirst());
+}
+
+} // namespace hooptab

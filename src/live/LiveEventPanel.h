@@ -1,0 +1,84 @@
+// The events of the game that is recorded, the newest on top, with everything that can be done to them:
+// delete and restore, edit, insert, undo and redo; which of them are shown; and where one should look again.
+// Shows, and says what was asked; changes no game.
+#pragma once
+
+#include "live/LiveEventRows.h"
+
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+class QAction;
+class QComboBox;
+class QPushButton;
+class QTableView;
+
+namespace hooptab {
+
+class LiveGame;
+struct LiveAction;
+
+class LiveEventPanel : public QWidget {
+  Q_OBJECT
+ public:
+  // `texts` must outlive it.
+  explicit LiveEventPanel(const Texts& texts, QWidget* parent = nullptr);
+
+  // The game must live as long as the panel, or until another is shown.
+  void showGame(const LiveGame& game);
+  void relabelPanel(); // behind relabel()
+  void applyColours();
+  // An event that is filtered out is shown again.
+  void choose(const EventPlace& event);
+
+ signals:
+  void deleteAsked(const std::vector<hooptab::EventPlace>& events, bool isDeleted);
+  void editAsked(const hooptab::EventPlace& event);
+  void insertAsked(const hooptab::EventPlace& event, bool isBefore);
+  void undoAsked();
+  void redoAsked();
+  void chosen(const hooptab::EventPlace& event);
+
+ private:
+  QAction* makeAction(const char* name, int text, const char* iconName);
+  QWidget* makeButtons();
+  QWidget* makeFilters();
+  void makeList();
+  void fillFilters();
+  void takeFilter();
+  void clearFilter();
+  void showChecks();
+  void showCommands();
+  void showTurn(QAction& action, const LiveAction* turned, int text, int nothing) const;
+  void fitColumns();
+  void leadToFinding();
+  void askDeletion();
+  void choose(std::size_t event);
+  EventPlace placeOf(std::size_t event) const;
+  std::vector<std::size_t> selected() const; // in the order of the game
+  std::optional<EventPlace> current() const;
+
+  const Texts& m_texts;
+  const LiveGame* m_game = nullptr;
+  QString m_path; // of the game shown
+  LiveEventRows m_rows;
+  QTableView* m_list = nullptr;
+  QPushButton* m_checks = nullptr;
+  QWidget* m_filters = nullptr;
+  QComboBox* m_team = nullptr;
+  QComboBox* m_period = nullptr;
+  QComboBox* m_player = nullptr;
+  QComboBox* m_kind = nullptr;
+  QAction* m_delete = nullptr;
+  QAction* m_undelete = nullptr;
+  QAction* m_edit = nullptr;
+  QAction* m_insertBefore = nullptr;
+  QAction* m_insertAfter = nullptr;
+  QAction* m_undo = nullptr;
+  QAction* m_redo = nullptr;
+  QAction* m_filter = nullptr;
+};
+
+} // namespace hooptab

@@ -1,0 +1,122 @@
+#include "live/LiveEventRows.h"
+
+#include "appearance/relabel.h"
+#include "live/ShotFollowUp.h"
+
+namespace hooptab {
+
+LiveEventRows::LiveEventRows(const Texts& texts, QObject* parent)
+    : QSortFilterProxyModel(parent), m_texts(texts), m_events(texts, EventListModel::Words::Short) {
+  setSourceModel(&m_events);
+  sort(0, Qt::DescendingOrder);
+}
+
+// What a row shows of others is known before the rows come, for the filter asks for it.
+void LiveEventRows::show(const Game& game) {
+  m_findings = checkRecorded(game);
+  std::vector<Row> rows = rowsOf(game);
+  const std::size_t before = m_ofEvents.size();
+  m_ofEvents.swap(rows);
+  m_events.show(game);
+  // Findings may have come or gone with an event far behind.
+  for (std::size_t event = 0; event < std::min(before, m_ofEvents.size()); ++event) {
+    if (rows[event] == m_ofEvents[event])
+      continue;
+    const QModelIndex row = rowOf(event);
+    if (row.isValid())
+      emit dataChanged(row, row.siblingAtColumn(EventListModel::ColumnCount - 1));
+  }
+}
+
+std::vector<LiveEventRows::Row> LiveEventRows::rowsOf(const Game& game) const {
+  std::vector<Row> rows(game.events.size());
+  const Rosters rosters{game.roster[0], game.roster[1]};
+  OnCourt onCourt = {};
+  std::string_view lists; // of the last stop that counts, as written
+  for (std::size_t place = 0; place < rows.size(); ++place) {
+    const GameEvent& event = game.events[place];
+    if (!event.isUnderstood)
+      continue;
+    rows[place].isFollowUp = shotOf(game.events, place).has_value();
+    if (event.code != EventCode::ARRET)
+      continue;
+    const std::string_view code = ",ARRET,";
+    const std::string_view written = event.line.substr(std::min(event.line.find(code), event.line.size()));
+    if (written == lists) // most stops change nobody
+      continue;
+    const std::string live(event.line.substr(event.isDeleted ? 1 : 0));
+    const OnCourt now = onCourtOf(event.period, live, rosters).value_or(onCourt);
+    rows[place].changed = {onCourt[0] ^ now[0], onCourt[1] ^ now[1]};
+    if (event.isDeleted)
+      continue;
+    onCourt = now;
+    lists = written;
+  }
+  for (const LiveFinding& finding : m_findings) {
+    QString& words = rows[finding.event].findings;
+    words += (words.isEmpty() ? QString() : QStringLiteral("\n")) + toQt(wordsOf(finding, game, m_texts));
+  }
+  return rows;
+}
+
+void LiveEventRows::relabel() {
+  m_ofEvents = rowsOf(game());
+  m_events.relabel();
+}
+
+void LiveEventRows::setFilter(const EventFilter& filter) {
+  if (filter == m_filter)
+    return;
+  m_filter = filter;
+  invalidateFilter();
+}
+
+std::size_t LiveEventRows::eventAt(const QModelIndex& row) const {
+  return static_cast<std::size_t>(mapToSource(row).row());
+}
+
+QModelIndex LiveEventRows::rowOf(std::size_t event) const {
+  return mapFromSource(m_events.index(static_cast<int>(event), 0));
+}
+
+QVariant LiveEventRows::data(const QModelIndex& index, int role) const {
+  const QVariant value = QSortFilterProxyModel::data(index, role);
+  if (!index.isValid())
+    return value;
+  const Row& row = m_ofEvents[eventAt(index)];
+  if (role == Qt::DisplayRole && index.column() == EventListModel::Action && row.isFollowUp)
+    return QString(QStringLiteral("  ") + value.toString());
+  if (role == HasFinding)
+    return !row.findings.isEmpty();
+  if (row.findings.isEmpty())
+    return value;
+  if (role == Qt::ToolTipRole)
+    return value.isNull() ? row.findings : QString(row.findings + u'\n' + value.toString());
+  return value;
+}
+
+bool LiveEventRows::filterAcceptsRow(int row, const QModelIndex&) const {
+  if (m_filter == EventFilter())
+    return true;
+  const auto place = static_cast<std::size_t>(row);
+  const GameEvent& event = game().events[place];
+  if (m_filter.period > 0 && event.period != m_filter.period)
+    return false;
+  if (m_filter.kind != EventCode::Unknown && event.code != m_filter.kind)
+    return false;
+  const OnCourt& changed = m_ofEvents[place].changed;
+  if (m_filter.team < 0)
+    return m_filter.kind != EventCode::ARRET || changed != OnCourt{};
+  const auto team = static_cast<std::size_t>(m_filter.team);
+  if (event.code == EventCode::ARRET)
+    return m_filter.player > 0 ? (changed[team] & (1U << static_cast<unsigned>(m_filter.player))) != 0
+                               : changed[team] != 0;
+  return event.player.team == m_filter.team &&
+         (m_filter.player == 0 || game().roster[team].entryOf(event.player.jersey) == m_filter.player);
+}
+
+bool LiveEventRows::lessThan(const QModelIndex& left, const QModelIndex& right) const {
+  return left.row() < right.row();
+}
+
+} // namespace hooptab

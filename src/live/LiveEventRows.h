@@ -1,0 +1,63 @@
+// The events of a live game as its list shows them: the newest first, only those that were asked for, an
+// assist or rebound under its shot, and a mark where something looks wrong.
+#pragma once
+
+#include "appearance/EventListModel.h"
+#include "live/LiveChecks.h"
+#include "live/OnCourt.h"
+
+#include <QSortFilterProxyModel>
+
+#include <vector>
+
+namespace hooptab {
+
+struct EventFilter {
+  int team = -1;                       // any
+  int period = 0;                      // any
+  int player = 0;                      // entry, of `team`; 0: any
+  EventCode kind = EventCode::Unknown; // any; ARRET: who went in and out
+  friend bool operator==(const EventFilter&, const EventFilter&) = default;
+};
+
+class LiveEventRows : public QSortFilterProxyModel {
+  Q_OBJECT
+ public:
+  enum Role { HasFinding = Qt::UserRole };
+
+  // `texts` must outlive it.
+  explicit LiveEventRows(const Texts& texts, QObject* parent = nullptr);
+
+  void show(const Game& game);
+  void relabel();
+  void setFilter(const EventFilter& filter);
+  const EventFilter& filter() const { return m_filter; }
+  const std::vector<LiveFinding>& findings() const { return m_findings; }
+  const Game& game() const { return m_events.game(); }
+  const EventWords& words() const { return m_events.words(); }
+  std::size_t eventAt(const QModelIndex& row) const; // place in the game
+  QModelIndex rowOf(std::size_t event) const;        // invalid where it is filtered out
+
+  QVariant data(const QModelIndex& index, int role) const override;
+
+ protected:
+  bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
+  bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+
+ private:
+  struct Row {
+    bool isFollowUp = false;
+    OnCourt changed = {};  // by a stop: who went in or out
+    QString findings = {}; // a line each
+    friend bool operator==(const Row&, const Row&) = default;
+  };
+  std::vector<Row> rowsOf(const Game& game) const;
+
+  const Texts& m_texts;
+  EventListModel m_events;
+  EventFilter m_filter;
+  std::vector<Row> m_ofEvents;
+  std::vector<LiveFinding> m_findings;
+};
+
+} // namespace hooptab

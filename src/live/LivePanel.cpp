@@ -1,0 +1,65 @@
+#include "live/LivePanel.h"
+
+#include "live/LiveGame.h"
+
+namespace hooptab {
+
+namespace {
+
+LivePanel::FoulMark foulMark(int count, int limit) {
+  if (limit <= 0)
+    return LivePanel::FoulMark::None;
+  if (count >= limit)
+    return LivePanel::FoulMark::Reached;
+  // A first foul has to be made before anybody is warned of the next.
+  return count > 0 && count == limit - 1 ? LivePanel::FoulMark::OneLeft : LivePanel::FoulMark::None;
+}
+
+int sumOfShots(const Counters& counters, Counter EventKind::*which) {
+  int sum = 0;
+  for (const EventKind& kind : eventKinds()) {
+    if (kind.isShot)
+      sum += counters[kind.*which];
+  }
+  return sum;
+}
+
+} // namespace
+
+LivePanel LivePanel::of(const LiveGame& game, int slot) {
+  LivePanel panel;
+  panel.team = LiveGame::teamOf(slot);
+  const auto side = static_cast<std::size_t>(panel.team);
+  const RosterPlayer* const player = game.game().roster[side].player(game.playerIn(slot));
+  if (player == nullptr)
+    return panel;
+  panel.player = game.playerIn(slot);
+  panel.jersey = player->jersey;
+  panel.name = player->name;
+  panel.counters = game.state().players[side][static_cast<std::size_t>(panel.player)].counters;
+  const GameDetails& rules = game.game().details;
+  panel.personalFouls = foulMark(panel.counters[Counter::PF], rules.personalFoulLimit);
+  panel.technicalFouls = foulMark(panel.counters[Counter::TF], rules.technicalFoulLimit);
+  panel.timeOnCourt = timeOf(game, slot);
+  for (const Shot& shot : game.state().shots) {
+    if (shot.team == panel.team && shot.player == panel.player && shot.hasPlace)
+      panel.shots.push_back({{shot.x, shot.y}, shot.isMade});
+  }
+  return panel;
+}
+
+std::string LivePanel::timeOf(const LiveGame& game, int slot) {
+  const int player = game.playerIn(slot);
+  return player == 0 ? std::string()
+                     : Module1::clockText(game.secondsOnCourt(LiveGame::teamOf(slot), player));
+}
+
+int LivePanel::made() const {
+  return sumOfShots(counters, &EventKind::counter);
+}
+
+int LivePanel::attempts() const {
+  return sumOfShots(counters, &EventKind::attempts);
+}
+
+} // namespace hooptab

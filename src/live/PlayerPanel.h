@@ -1,0 +1,84 @@
+// The panel of one of the ten places on court: who stands there, his court and buttons for shots and actions,
+// and his counts. Shows, and says what was pressed; records nothing.
+#pragma once
+
+#include "live/LivePanel.h"
+#include "storage/EventKind.h"
+
+#include <QPointF>
+#include <QWidget>
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <string>
+
+class QLabel;
+
+namespace hooptab {
+
+class CountBox;
+class LiveGame;
+class MiniCourt;
+class Settings;
+class StatButton;
+class Texts;
+
+class PlayerPanel : public QWidget {
+  Q_OBJECT
+ public:
+  // Slot 0..9; settings and texts must outlive it.
+  PlayerPanel(int slot, const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
+
+  void showGame(const LiveGame& game); // everything
+  void showTime(const LiveGame& game); // the time on court alone
+  void setPlaysRight(bool playsRight); // on the right-hand side of the court: the picture is turned round
+  void relabelPanel();
+  void applyColours();
+  QSize sizeHint() const override;
+
+ signals:
+  // `place` is in units of the court as it is shown, not yet turned into left-hand orientation.
+  void courtPressed(int slot, QPointF place, bool isMade);
+  void shotPressed(int slot, hooptab::EventCode kind, bool isMade); // the five buttons
+  void actionPressed(int slot, hooptab::EventCode kind);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void makeHead();
+  void makeShots();
+  void makeActions();
+  QLabel* headLabel(const char* name, int toolTip);
+  [[nodiscard]] QString named(const char* name) const; // "lblFG(3)"
+  void showPanel();
+  void showFouls();
+  void showName();
+  void showOwnLabels();
+  void layOut();
+  void layOutHead(const QRect& area, double scale);
+
+  int m_slot;
+  const Settings& m_settings;
+  const Texts& m_texts;
+  LivePanel m_shown;
+  std::uint32_t m_teamColour = 0;         // as files keep it
+  std::array<std::string, 2> m_ownLabels; // of the user's two statistics, as the game has them
+
+  QWidget* m_content; // everything but the frame; hidden in an empty panel
+  QLabel* m_entry = nullptr;
+  QLabel* m_jersey = nullptr;
+  QLabel* m_name = nullptr;
+  QLabel* m_points = nullptr;
+  QLabel* m_personalFouls = nullptr;
+  QLabel* m_technicalFouls = nullptr;
+  QLabel* m_time = nullptr;
+  MiniCourt* m_court = nullptr;
+  std::map<EventCode, StatButton*> m_buttons;
+  std::map<EventCode, CountBox*> m_counts; // of the buttons, and of the two kinds that the court records
+  CountBox* m_total = nullptr;
+};
+
+} // namespace hooptab

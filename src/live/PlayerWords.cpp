@@ -1,0 +1,46 @@
+#include "live/PlayerWords.h"
+
+#include "appearance/relabel.h"
+#include "live/LiveGame.h"
+#include "storage/ChoiceTexts.h"
+#include "storage/Module1.h"
+
+#include <QWidget>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kBench = 1554;
+constexpr int kOnCourt = 1950;
+constexpr int kFouledOut = 1951;
+
+} // namespace
+
+void showPlayerWords(QWidget& widget, const LiveGame& game, int team, int player, const Texts& texts) {
+  const RosterPlayer* const entry = game.game().roster[team].player(player);
+  if (entry == nullptr)
+    return;
+  const Counters& counters =
+      game.state().players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)].counters;
+  QString name = toQt(entry->jersey + " " + entry->name);
+  name += QStringLiteral(", ") + toQt(texts.text(game.slotOf(team, player) ? kOnCourt : kBench));
+  if (game.isFouledOut(team, player))
+    name += QStringLiteral(", ") + toQt(texts.text(kFouledOut));
+
+  QString counts = toQt(choiceName(kFirstPositionText, entry->position, texts));
+  if (!counts.isEmpty())
+    counts += QStringLiteral(" \u00b7 ");
+  counts += QStringLiteral("PF %1 \u00b7 TF %2").arg(counters[Counter::PF]).arg(counters[Counter::TF]);
+  if (game.hasTime())
+    counts += QStringLiteral(" \u00b7 ") + toQt(Module1::clockText(game.secondsOnCourt(team, player)));
+
+  const QString toolTip = name + QLatin1Char('\n') + counts;
+  if (widget.toolTip() == toolTip)
+    return;
+  widget.setToolTip(toolTip);
+  widget.setAccessibleName(name);
+  widget.setAccessibleDescription(counts);
+}
+
+} // namespace hooptab

@@ -1,0 +1,14 @@
+// A player of the live game in words, for whoever points at his button or has it read aloud.
+#pragma once
+
+class QWidget;
+
+namespace hooptab {
+
+class LiveGame;
+class Texts;
+
+// Tool tip and accessible name: number, name, position, fouls, time on court, on court or not, fouled out.
+void showPlayerWords(QWidget& widget, const LiveGame& game, int team, int player, const Texts& texts);
+
+} // namespace hooptab

@@ -1,0 +1,496 @@
+#include "live/ScorePanel.h"
+
+#include "appearance/Icons.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/ScoreText.h"
+#include "storage/Module1.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QToolButton>
+#include <QToolTip>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kSelectColour = 1835;
+constexpr int kFouls = 1019;
+constexpr int kTeamFouls = 1712;
+constexpr int kPointsByPeriod = 1506;
+constexpr int kAhead = 1020;
+constexpr int kTied = 1021;
+constexpr int kTimeInLeadHint = 1714;
+constexpr int kNoTime = 1383;
+constexpr int kPeriod = 1087;
+constexpr int kSwitchSides = 1043;
+constexpr int kStartHint = 1930;
+constexpr int kClockHint = 1931;
+constexpr int kSecondMore = 1932;
+constexpr int kSecondLess = 1933;
+constexpr int kClockForm = 1934;
+constexpr int kBack = 1935;
+constexpr int kBackHint = 1936;
+constexpr int kOnDisk = 1937;
+constexpr int kNotOnDisk = 1938;
+constexpr int kNotOnDiskHint = 1939;
+constexpr int kPlaysLeft = 1940;
+constexpr int kInBonus = 1943;
+constexpr int kPeriodByHand = 1944;
+
+constexpr int kWidth = 250;
+constexpr int kGap = 3;
+constexpr int kPlateWidth = (kWidth - kGap) / 2;
+constexpr int kPlateMargin = 4;
+constexpr int kPlateHeight = 52;
+constexpr int kClockWidth = 172;
+constexpr int kClockHeight = 50;
+constexpr int kPeriodHeight = 24;
+constexpr int kStartHeight = 36;
+constexpr int kSecondWidth = 36;
+constexpr int kSmallHeight = 24;
+constexpr int kSwitchWidth = 92;
+
+constexpr int kNamePoints = 10;
+constexpr int kScorePoints = 22;
+constexpr int kFoulPoints = 12;
+constexpr int kClockPoints = 36;
+constexpr int kLongClockPoints = 28; // for 100 minutes and more
+constexpr int kPeriodPoints = 13;
+constexpr int kStartPoints = 15;
+constexpr int kLeadPoints = 9;
+constexpr int kDiskPoints = 8;
+constexpr int kHundredMinutes = 6000;
+constexpr int kTiedPlace = static_cast<int>(LeadState::Tied);
+
+void colour(QWidget& widget, const QColor& background) {
+  QPalette own = widget.palette();
+  for (const QPalette::ColorRole role : {QPalette::Window, QPalette::Button})
+    own.setColor(role, background);
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+    own.setColor(role, textOn(background));
+  widget.setPalette(own);
+}
+
+void colourText(QLabel& label, const QColor& text) {
+  QPalette own;
+  own.setColor(QPalette::WindowText, text);
+  label.setPalette(own);
+}
+
+QBoxLayout* rowIn(QWidget& widget) {
+  auto* row = new QHBoxLayout(&widget);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(kGap);
+  return row;
+}
+
+QFont bold(QFont font, int points) {
+  font.setPointSize(points);
+  font.setBold(true);
+  return font;
+}
+
+} // namespace
+
+ScorePanel::ScorePanel(const Texts& texts, QWidget* parent) : QWidget(parent), m_texts(texts) {
+  setObjectName(QStringLiteral("ScorePanel"));
+  setFixedWidth(kWidth);
+  auto* plates = new QWidget(this);
+  QBoxLayout* teams = rowIn(*plates);
+  teams->addWidget(makePlate(0));
+  teams->addWidget(makePlate(1));
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap);
+  for (QWidget* part : {plates, makeFouls(), makeClock(), makeButtons(), makeLeads(), makeFoot()})
+    layout->addWidget(part);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  relabel(*this, texts);
+  relabelPanel();
+}
+
+QLabel* ScorePanel::label(const QString& name, const QFont& font) {
+  auto* made = new QLabel(this);
+  made->setObjectName(name);
+  made->setFont(font);
+  made->setAlignment(Qt::AlignCenter);
+  return made;
+}
+
+// Reached by the Tab key alone, so that a click never takes the keys away from the clock.
+QToolButton* ScorePanel::smallButton(const QString& name, const QString& text, int toolTip) {
+  auto* button = new QToolButton(this);
+  button->setObjectName(name);
+  button->setText(text);
+  button->setFixedHeight(kSmallHeight);
+  button->setFocusPolicy(Qt::TabFocus);
+  setToolTipNumber(*button, toolTip);
+  setAccessibleNumber(*button, toolTip);
+  return button;
+}
+
+QWidget* ScorePanel::makePlate(int team) {
+  Side& side = m_sides[static_cast<std::size_t>(team)];
+  side.plate = new QWidget(this);
+  side.plate->setObjectName(QStringLiteral("pictTEAM(%1)").arg(team));
+  side.plate->setAutoFillBackground(true);
+  side.plate->setFixedSize(kPlateWidth, kPlateHeight);
+  side.plate->installEventFilter(this);
+  setToolTipNumber(*side.plate, kSelectColour);
+  side.name = smallButton(QStringLiteral("cmdCOUL(%1)").arg(team), {}, kSelectColour);
+  side.name->setAutoRaise(true);
+  side.name->setFont(bold(font(), kNamePoints));
+  side.name->setFixedHeight(kSmallHeight - kPlateMargin);
+  side.name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  connect(side.name, &QToolButton::clicked, this, [this, team] { emit colourAsked(team); });
+  side.points = label(QStringLiteral("lblPTS%1").arg(team), Theme::figures(kScorePoints, true));
+
+  auto* layout = new QVBoxLayout(side.plate);
+  layout->setContentsMargins(kPlateMargin, 0, kPlateMargin, 0);
+  layout->setSpacing(0);
+  layout->addWidget(side.name);
+  layout->addWidget(side.points);
+  return side.plate;
+}
+
+QWidget* ScorePanel::makeFouls() {
+  auto* fouls = new QWidget(this);
+  QBoxLayout* row = rowIn(*fouls);
+  for (std::size_t team = 0; team < 2; ++team) {
+    m_sides[team].fouls = label(QStringLiteral("lblFTE%1").arg(team), Theme::figures(kFoulPoints));
+    row->addWidget(m_sides[team].fouls, 1);
+  }
+  QLabel* title = label(QStringLiteral("lblFTE"), font());
+  title->setForegroundRole(QPalette::PlaceholderText);
+  setTextNumber(*title, kFouls);
+  row->insertWidget(1, title);
+  return fouls;
+}
+
+QWidget* ScorePanel::makeClock() {
+  auto* time = new QWidget(this);
+  time->setFixedHeight(kClockHeight);
+  m_clock = label(QStringLiteral("lblTEMPS"), Theme::figures(kClockPoints, true));
+  m_clock->setFixedSize(kClockWidth, kClockHeight);
+  m_clock->installEventFilter(this);
+  m_clockEdit = new QLineEdit(m_clock);
+  m_clockEdit->setObjectName(QStringLiteral("txtTEMPS"));
+  m_clockEdit->setFont(Theme::figures(kLongClockPoints, true));
+  m_clockEdit->setAlignment(Qt::AlignCenter);
+  m_clockEdit->setGeometry(m_clock->rect());
+  m_clockEdit->installEventFilter(this);
+  m_clockEdit->hide();
+
+  m_period = label(QStringLiteral("lblPERIOD"), bold(font(), kPeriodPoints));
+  setToolTipNumber(*m_period, kPeriod);
+  m_previousPeriod = smallButton(QStringLiteral("UpDoPERIOD(1)"), {}, kPeriodByHand);
+  m_nextPeriod = smallButton(QStringLiteral("UpDoPERIOD(0)"), {}, kPeriodByHand);
+  m_previousPeriod->setArrowType(Qt::DownArrow);
+  m_nextPeriod->setArrowType(Qt::UpArrow);
+  connect(m_previousPeriod, &QToolButton::pressed, this, [this] { emit periodAsked(m_game->period() - 1); });
+  connect(m_nextPeriod, &QToolButton::pressed, this, [this] { emit periodAsked(m_game->period() + 1); });
+  auto* period = new QGridLayout;
+  period->setSpacing(1);
+  m_period->setFixedHeight(kPeriodHeight);
+  period->addWidget(m_period, 0, 0, 1, 2);
+  int column = 0;
+  for (QToolButton* button : {m_previousPeriod, m_nextPeriod}) {
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    button->setEnabled(false);
+    period->addWidget(button, 1, column++);
+  }
+  QBoxLayout* row = rowIn(*time);
+  row->addWidget(m_clock);
+  row->addLayout(period, 1);
+  return time;
+}
+
+QWidget* ScorePanel::makeButtons() {
+  auto* buttons = new QWidget(this);
+  m_start = new QPushButton(buttons);
+  m_start->setObjectName(QStringLiteral("cmdSTART"));
+  m_start->setFont(bold(font(), kStartPoints));
+  m_start->setFixedHeight(kStartHeight);
+  m_start->setFocusPolicy(Qt::TabFocus);
+  m_start->setAutoDefault(false);
+  connect(m_start, &QPushButton::pressed, this, [this] {
+    m_start->setDown(false); // what it asks for may open a window that keeps the release from it
+    emit startAsked();
+  });
+  m_earlier = smallButton(QStringLiteral("cmdTEMPS(1)"), QStringLiteral("−1"), kSecondLess);
+  m_later = smallButton(QStringLiteral("cmdTEMPS(0)"), QStringLiteral("+1"), kSecondMore);
+  connect(m_earlier, &QToolButton::pressed, this, [this] { emit clockAsked(m_game->clockSeconds() - 1); });
+  connect(m_later, &QToolButton::pressed, this, [this] { emit clockAsked(m_game->clockSeconds() + 1); });
+
+  QBoxLayout* row = rowIn(*buttons);
+  row->addWidget(m_start, 1);
+  for (QToolButton* button : {m_earlier, m_later}) {
+    button->setFixedSize(kSecondWidth, kStartHeight);
+    button->setFont(Theme::figures(kFoulPoints));
+    row->addWidget(button);
+  }
+  for (QWidget* button :
+       {static_cast<QWidget*>(m_start), static_cast<QWidget*>(m_earlier), static_cast<QWidget*>(m_later)})
+    button->setEnabled(false);
+  return buttons;
+}
+
+QWidget* ScorePanel::makeLeads() {
+  auto* leads = new QWidget(this);
+  auto* layout = new QGridLayout(leads);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->setHorizontalSpacing(kGap);
+  int place = 0;
+  for (const int state : {0, kTiedPlace, 1}) { // below the teams; the tie between them
+    QLabel* title = label(QStringLiteral("lblPOS(%1)").arg(state), font());
+    title->setForegroundRole(QPalette::PlaceholderText);
+    setTextNumber(*title, state == kTiedPlace ? kTied : kAhead);
+    Lead& lead = m_leads[static_cast<std::size_t>(state)];
+    lead.time = label(QStringLiteral("txtPOSTemps(%1)").arg(state), Theme::figures(kLeadPoints, true));
+    lead.times = label(QStringLiteral("txtPOSNb(%1)").arg(state), Theme::figures(kLeadPoints));
+    lead.time->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lead.times->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    layout->addWidget(title, 0, place, 1, 2);
+    layout->addWidget(lead.time, 1, place);
+    layout->addWidget(lead.times, 1, place + 1);
+    layout->setColumnStretch(place, 3);
+    layout->setColumnStretch(place + 1, 2);
+    layout->setColumnMinimumWidth(place, kWidth / 6);
+    layout->setColumnMinimumWidth(place + 1, kWidth / 8);
+    place += 2;
+    for (QWidget* part : {title, lead.time, lead.times})
+      setToolTipNumber(*part, kTimeInLeadHint);
+  }
+  return leads;
+}
+
+QWidget* ScorePanel::makeFoot() {
+  auto* foot = new QWidget(this);
+  m_switch = smallButton(QStringLiteral("cmdSWITCH"), {}, kSwitchSides);
+  m_switch->setIcon(icon(QStringLiteral("switch")));
+  m_switch->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  m_switch->setFixedWidth(kSwitchWidth);
+  connect(m_switch, &QToolButton::clicked, this, &ScorePanel::switchAsked);
+  m_return = smallButton(QStringLiteral("cmdRETURN"), {}, kBackHint);
+  setTextNumber(*m_return, kBack);
+  connect(m_return, &QToolButton::clicked, this, &ScorePanel::returnAsked);
+  QSizePolicy keepsPlace = m_return->sizePolicy(); // so that nothing moves when it comes and goes
+  keepsPlace.setRetainSizeWhenHidden(true);
+  m_return->setSizePolicy(keepsPlace);
+  m_return->hide();
+  m_disk = label(QStringLiteral("lblDISK"), bold(font(), kDiskPoints));
+  m_disk->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  m_disk->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+
+  QBoxLayout* row = rowIn(*foot);
+  row->addWidget(m_switch);
+  row->addWidget(m_return);
+  row->addWidget(m_disk, 1);
+  return foot;
+}
+
+QString ScorePanel::abbreviation(std::size_t team) const {
+  return m_game == nullptr ? QString() : toQt(m_game->game().details.abbreviation[team]);
+}
+
+void ScorePanel::tip(QWidget& widget, int number) {
+  setToolTipNumber(widget, number);
+  widget.setToolTip(caption(m_texts, number).trimmed());
+}
+
+void ScorePanel::showGame(const LiveGame& game) {
+  m_game = &game;
+  for (std::size_t team = 0; team < 2; ++team)
+    showTeam(team);
+  m_period->setText(toQt(periodShown(game, m_texts)));
+  m_clock->setFont(
+      Theme::figures(game.fullLength() < kHundredMinutes ? kClockPoints : kLongClockPoints, true));
+  for (std::size_t state = 0; state < m_leads.size(); ++state) {
+    m_leads[state].time->setText(toQt(leadTimeShown(game, static_cast<LeadState>(state))));
+    m_leads[state].times->setText(u'×' + QString::number(game.state().lead.times[state]));
+  }
+  showClockButtons();
+  showSides();
+  showTime(game);
+}
+
+void ScorePanel::showTime(const LiveGame& game) {
+  m_clock->setText(toQt(clockShown(game)));
+  const LeadState now = game.state().lead.state;
+  m_leads[static_cast<std::size_t>(now)].time->setText(toQt(leadTimeShown(game, now)));
+}
+
+void ScorePanel::showTeam(std::size_t team) {
+  const int number = static_cast<int>(team);
+  const GameDetails& details = m_game->game().details;
+  Side& side = m_sides[team];
+  const QColor own = colourOf(details.teamColour[team]);
+  if (side.plate->palette().color(QPalette::Window) != own) {
+    for (QWidget* part : {side.plate, static_cast<QWidget*>(side.name), static_cast<QWidget*>(side.points)})
+      colour(*part, own);
+  }
+  const QString name =
+      side.name->fontMetrics().elidedText(abbreviation(team), Qt::ElideRight, kPlateWidth - 4 * kPlateMargin);
+  side.name->setText(QString(name).replace(u'&', QLatin1String("&&")));
+  side.points->setText(QString::number(m_game->state().points(number)));
+  side.points->setToolTip(caption(m_texts, kPointsByPeriod) + u'\n' +
+                          toQt(shownByPeriod(*m_game, number, ByPeriod::Points, m_texts)));
+
+  const bool isInBonus = m_game->isInBonus(number);
+  const QString fouls = QString::number(m_game->teamFouls(number));
+  side.fouls->setText(isInBonus ? QStringLiteral("◆ ") + fouls : fouls);
+  side.fouls->setFont(Theme::figures(kFoulPoints, isInBonus));
+  colourText(*side.fouls, isInBonus ? Theme::missed() : palette().color(QPalette::WindowText));
+  QString hint =
+      caption(m_texts, kTeamFouls) + u'\n' + toQt(shownByPeriod(*m_game, number, ByPeriod::Fouls, m_texts));
+  if (isInBonus)
+    hint += u'\n' + caption(m_texts, kInBonus);
+  side.fouls->setToolTip(hint);
+}
+
+void ScorePanel::showClockButtons() {
+  using Phase = LiveGame::Phase;
+  const Phase phase = m_game->phase();
+  const bool isRunning = phase == Phase::Running;
+  const bool canSet = phase == Phase::Stopped && m_game->hasTime();
+  const bool canStart = m_game->hasTime() && phase != Phase::Decided && phase != Phase::Finished;
+  m_start->setText(toQt(startShown(*m_game, m_texts)));
+  m_start->setEnabled(canStart);
+  if (canStart)
+    colour(*m_start, isRunning ? Theme::missed() : Theme::made());
+  else
+    m_start->setPalette(QPalette());
+  m_later->setEnabled(canSet && m_game->clockSeconds() < m_game->fullLength());
+  m_earlier->setEnabled(canSet && m_game->clockSeconds() > 0);
+  if (!canSet)
+    leaveClock();
+  const bool hasTime = m_game->hasTime();
+  tip(*m_start, hasTime ? kStartHint : kNoTime);
+  tip(*m_clock, hasTime ? kClockHint : kNoTime);
+  tip(*m_later, hasTime ? kSecondMore : kNoTime);
+  tip(*m_earlier, hasTime ? kSecondLess : kNoTime);
+
+  const bool canChangePeriod = !isRunning && phase != Phase::Finished;
+  m_nextPeriod->setEnabled(canChangePeriod);
+  m_previousPeriod->setEnabled(canChangePeriod && m_game->period() > 1);
+  m_return->setVisible(canChangePeriod && m_game->canReturnToEndedPeriod());
+}
+
+void ScorePanel::setSides(bool team0PlaysRight) {
+  m_team0PlaysRight = team0PlaysRight;
+  showSides();
+}
+
+void ScorePanel::showSides() {
+  const std::size_t left = m_team0PlaysRight ? 1 : 0;
+  const QString text =
+      m_switch->fontMetrics().elidedText(QStringLiteral("◂ ") + abbreviation(left), Qt::ElideRight,
+                                         kSwitchWidth - m_switch->iconSize().width() - 4 * kPlateMargin);
+  m_switch->setText(QString(text).replace(u'&', QLatin1String("&&")));
+  m_switch->setToolTip(caption(m_texts, kSwitchSides) + u'\n' +
+                       toQt(m_texts.withPlaceholder(kPlaysLeft, fromQt(abbreviation(left)))));
+}
+
+void ScorePanel::showDisk(bool isOnDisk, std::size_t waiting) {
+  m_isOnDisk = isOnDisk;
+  m_waiting = waiting;
+  const std::string count = std::to_string(waiting);
+  m_disk->setText(isOnDisk ? QStringLiteral("✓") : toQt(m_texts.withPlaceholder(kNotOnDisk, count)));
+  m_disk->setToolTip(isOnDisk ? caption(m_texts, kOnDisk)
+                              : toQt(m_texts.withPlaceholder(kNotOnDiskHint, count)));
+  m_disk->setAccessibleName(m_disk->toolTip());
+  colourText(*m_disk, isOnDisk ? Theme::made() : Theme::missed());
+}
+
+void ScorePanel::relabelPanel() {
+  leaveClock();
+  showDisk(m_isOnDisk, m_waiting);
+  if (m_game != nullptr)
+    showGame(*m_game);
+}
+
+void ScorePanel::applyColours() {
+  relabelPanel();
+}
+
+// --- The clock by hand
+
+bool ScorePanel::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == m_clock && event->type() == QEvent::MouseButtonDblClick) {
+    editClock();
+    return true;
+  }
+  if (watched == m_clockEdit) {
+    if (event->type() == QEvent::FocusOut &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) // its own menu
+      leaveClock();
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
+      const int key = static_cast<QKeyEvent*>(event)->key();
+      const bool isTaken = key == Qt::Key_Return || key == Qt::Key_Enter;
+      if (!isTaken && key != Qt::Key_Escape)
+        return false;
+      if (event->type() == QEvent::ShortcutOverride) // no shortcut of the window while one types here
+        event->accept();
+      else if (isTaken)
+        takeClock();
+      else
+        leaveClock();
+      return true;
+    }
+  }
+  if (event->type() == QEvent::MouseButtonPress && m_game != nullptr &&
+      static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+    for (int team = 0; team < 2; ++team) {
+      if (watched == m_sides[static_cast<std::size_t>(team)].plate)
+        emit colourAsked(team);
+    }
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void ScorePanel::editClock() {
+  if (m_game == nullptr || !m_game->hasTime() || m_game->phase() != LiveGame::Phase::Stopped)
+    return;
+  const QString form = toQt(m_texts.withPlaceholder(kClockForm, Module1::clockText(m_game->fullLength())));
+  m_clockEdit->setToolTip(form);
+  m_clockEdit->setAccessibleName(form);
+  m_clockEdit->setText(m_clock->text());
+  m_clockEdit->selectAll();
+  m_focusBefore = QApplication::focusWidget();
+  m_clockEdit->show();
+  m_clockEdit->setFocus();
+}
+
+void ScorePanel::takeClock() {
+  const std::optional<int> seconds = typedClock(fromQt(m_clockEdit->text()), m_game->fullLength());
+  if (!seconds) {
+    m_clockEdit->selectAll();
+    QToolTip::showText(m_clockEdit->mapToGlobal(m_clockEdit->rect().bottomLeft()), m_clockEdit->toolTip(),
+                       m_clockEdit);
+    return;
+  }
+  leaveClock();
+  emit clockAsked(*seconds);
+}
+
+// The focus goes back to where it was, not on to the next button; its loss comes here once more.
+void ScorePanel::leaveClock() {
+  if (m_clockEdit->isHidden())
+    return;
+  QWidget* back = m_focusBefore != nullptr ? m_focusBefore.data() : parentWidget();
+  if (m_clockEdit->hasFocus() && back != nullptr)
+    back->setFocus();
+  m_clockEdit->hide();
+}
+
+} // namespace hooptab

@@ -1,0 +1,99 @@
+// The scoreboard of the live window: both teams with score and fouls, clock and period with their buttons,
+// times in lead, sides, and whether the last event is on disk. Shows, and says what was asked; changes
+// nothing.
+#pragma once
+
+#include "storage/GameState.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <array>
+#include <cstddef>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QToolButton;
+
+namespace hooptab {
+
+class LiveGame;
+class Texts;
+
+class ScorePanel : public QWidget {
+  Q_OBJECT
+ public:
+  explicit ScorePanel(const Texts& texts, QWidget* parent = nullptr);
+
+  // The game last shown must live as long as the panel is used.
+  void showGame(const LiveGame& game);
+  void showTime(const LiveGame& game); // what the running clock changes
+  void setSides(bool team0PlaysRight);
+  void showDisk(bool isOnDisk, std::size_t waiting);
+  void relabelPanel(); // behind relabel()
+  void applyColours();
+
+ signals:
+  void startAsked();
+  void returnAsked();
+  void switchAsked();
+  void periodAsked(int period);
+  void clockAsked(int seconds);
+  void colourAsked(int team);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  struct Side {
+    QWidget* plate = nullptr;
+    QToolButton* name = nullptr;
+    QLabel* points = nullptr;
+    QLabel* fouls = nullptr;
+  };
+  struct Lead {
+    QLabel* time = nullptr;
+    QLabel* times = nullptr;
+  };
+
+  QLabel* label(const QString& name, const QFont& font);
+  QToolButton* smallButton(const QString& name, const QString& text, int toolTip);
+  QWidget* makePlate(int team);
+  QWidget* makeFouls();
+  QWidget* makeClock();
+  QWidget* makeButtons();
+  QWidget* makeLeads();
+  QWidget* makeFoot();
+  void showTeam(std::size_t team);
+  void showClockButtons();
+  void showSides();
+  void editClock();
+  void takeClock();
+  void leaveClock();
+  void tip(QWidget& widget, int number);
+  QString abbreviation(std::size_t team) const;
+
+  const Texts& m_texts;
+  const LiveGame* m_game = nullptr; // shown last
+  bool m_team0PlaysRight = false;
+  bool m_isOnDisk = true;
+  std::size_t m_waiting = 0;
+
+  std::array<Side, 2> m_sides;
+  std::array<Lead, 3> m_leads; // in the order of LeadState
+  QLabel* m_clock = nullptr;
+  QLineEdit* m_clockEdit = nullptr;
+  QPointer<QWidget> m_focusBefore; // the clock was edited
+  QLabel* m_period = nullptr;
+  QToolButton* m_nextPeriod = nullptr;
+  QToolButton* m_previousPeriod = nullptr;
+  QPushButton* m_start = nullptr;
+  QToolButton* m_later = nullptr;
+  QToolButton* m_earlier = nullptr;
+  QToolButton* m_switch = nullptr;
+  QToolButton* m_return = nullptr;
+  QLabel* m_disk = nullptr;
+};
+
+} // namespace hooptab

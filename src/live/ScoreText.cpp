@@ -1,0 +1,70 @@
+#include "live/ScoreText.h"
+
+#include "storage/EventWords.h"
+#include "storage/Module1.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::string_view kNoTime = "--:--";
+constexpr std::string_view kOver = "---";
+constexpr int kStart = 1075;
+constexpr int kStop = 1080;
+constexpr std::size_t kLengthOfClock = 5; // mm:ss
+
+std::string timeShown(const LiveGame& game, int seconds) {
+  return game.hasTime() ? Module1::clockText(seconds) : std::string(kNoTime);
+}
+
+} // namespace
+
+std::string clockShown(const LiveGame& game) {
+  return timeShown(game, game.clockSeconds());
+}
+
+std::string leadTimeShown(const LiveGame& game, LeadState state) {
+  return timeShown(game, game.secondsInLead(state));
+}
+
+std::string periodShown(const LiveGame& game, const Texts& texts) {
+  return EventWords(game.game(), texts).periodText(game.period());
+}
+
+std::string startShown(const LiveGame& game, const Texts& texts) {
+  switch (game.phase()) {
+  case LiveGame::Phase::Running: return texts.caption(kStop);
+  case LiveGame::Phase::Decided:
+  case LiveGame::Phase::Finished: return std::string(kOver);
+  case LiveGame::Phase::Stopped:
+  case LiveGame::Phase::OvertimeAsked: break;
+  }
+  return texts.caption(kStart);
+}
+
+std::string shownByPeriod(const LiveGame& game, int team, ByPeriod what, const Texts& texts) {
+  constexpr int kLastRow = static_cast<int>(GameState::kPeriodRows) - 1;
+  const auto& rows = game.state().periods[static_cast<std::size_t>(team)];
+  std::string result;
+  for (int period = 1; period <= std::min(std::max<int>(game.state().period, game.period()), kLastRow);
+       ++period) {
+    const PeriodEntry& row = rows[static_cast<std::size_t>(period)];
+    result += result.empty() ? "" : "   ";
+    result += EventWords(game.game(), texts).periodText(period);
+    result += period == kLastRow ? "+: " : ": "; // the last row is shared by all later periods
+    result += std::to_string(what == ByPeriod::Points ? row.points : row.fouls);
+  }
+  return result;
+}
+
+std::optional<int> typedClock(std::string_view text, int longest) {
+  std::string whole(Module1::trimmed(text));
+  if (whole.size() + 1 == kLengthOfClock)
+    whole.insert(0, 1, '0');
+  const std::optional<int> seconds = Module1::clockSeconds(whole);
+  return seconds && *seconds <= longest ? seconds : std::nullopt;
+}
+
+} // namespace hooptab

@@ -1,0 +1,43 @@
+// A button that records when it is pressed, not when it is let go: an action with the left button, a shot
+// made with the left and missed with any other. Two fast presses are two. Shows its counts on itself.
+#pragma once
+
+#include <QAbstractButton>
+#include <QTimer>
+
+namespace hooptab {
+
+class CountBox;
+
+class StatButton : public QAbstractButton {
+  Q_OBJECT
+ public:
+  enum class Records { Shot, Action };
+  StatButton(Records records, const QString& caption, const QStringList& countNames,
+             QWidget* parent = nullptr);
+
+  CountBox& counts() { return *m_counts; }
+  void setColour(const QColor& colour); // the text on it is black or white
+
+ signals:
+  void recorded(bool isMade); // actions: always true
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  void record(bool isMade);
+
+  Records m_records;
+  CountBox* m_counts;
+  QColor m_colour;
+  QTimer m_feedback; // active for a moment behind a press
+  bool m_wasMade = true;
+};
+
+} // namespace hooptab

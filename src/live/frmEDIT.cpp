@@ -1,0 +1,199 @@
+#include "live/frmEDIT.h"
+
+#include "appearance/Fields.h"
+#include "appearance/Mnemonics.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/CourtClick.h"
+#include "live/MiniCourt.h"
+#include "storage/EventWords.h"
+#include "storage/Module1.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTime = 1024;
+constexpr int kClose = 1088;
+constexpr int kAccept = 1089;
+constexpr int kPlayer = 1593;
+constexpr int kKind = 1595;
+constexpr int kEdit = 1912;
+constexpr int kInsertion = 1965;
+constexpr int kMade = 1514;
+constexpr int kMissed = 1515;
+constexpr int kCourtHint = 1095;
+constexpr int kMargin = 12;
+constexpr int kGap = 8;
+constexpr int kEntries = Roster::kLargestEntry + 1;
+
+} // namespace
+
+frmEDIT::frmEDIT(const LiveGame& game, const EventPlace& place, Purpose purpose, const Settings& settings,
+                 const Texts& texts, QWidget* parent)
+    : QDialog(parent), m_game(game.game()), m_settings(settings), m_texts(texts) {
+  setObjectName(QStringLiteral("frmEDIT"));
+  setTextNumber(*this, purpose == Purpose::Change ? kEdit : kInsertion);
+  setModal(true);
+  makeFields();
+  makeLayout();
+  for (const GameEvent& event : m_game.events) {
+    if (event.period != place.period || event.key != place.key || !event.isUnderstood)
+      continue;
+    m_time->setText(toQt(Module1::clockText(event.clockSeconds)));
+    if (purpose == Purpose::Change)
+      fill(event);
+  }
+  m_time->setEnabled(game.hasTime());
+  relabel(*this, texts);
+  giveMnemonics(*this);
+  showShot();
+  m_time->setFocus();
+  m_time->selectAll();
+}
+
+void frmEDIT::makeFields() {
+  m_time = new QLineEdit(this);
+  m_time->setObjectName(QStringLiteral("txtTEMPS"));
+  m_time->setFont(Theme::figures(font().pointSize()));
+  static const QRegularExpression kClock(QStringLiteral("[0-9]{2}:[0-5][0-9]"));
+  m_time->setValidator(new QRegularExpressionValidator(kClock, m_time));
+  m_player = new QComboBox(this);
+  m_player->setObjectName(QStringLiteral("cmbPLAYER"));
+  const EventWords words(m_game, m_texts);
+  for (int team = 0; team < 2; ++team) {
+    for (int entry = 1; entry < kEntries; ++entry) {
+      const RosterPlayer* player = m_game.roster[team].player(entry);
+      if (player != nullptr)
+        m_player->addItem(toQt(words.team(team)) + u' ' + toQt(words.player({team, player->jersey})),
+                          team * kEntries + entry);
+    }
+  }
+  m_kind = new QComboBox(this);
+  m_kind->setObjectName(QStringLiteral("cmbKIND"));
+  for (const EventKind& kind : eventKinds())
+    m_kind->addItem(caption(m_texts, kind.wordsText), static_cast<int>(kind.code));
+  m_made = new QCheckBox(this);
+  m_made->setObjectName(QStringLiteral("chkMADE"));
+  m_made->setChecked(true);
+  setTextNumber(*m_made, kMade);
+  m_court = new MiniCourt(m_settings, this);
+  m_court->setObjectName(QStringLiteral("CourtJ(10)"));
+  m_court->setFixedSize(m_court->sizeHint());
+  setToolTipNumber(*m_court, kCourtHint);
+  setAccessibleNumber(*m_court, kCourtHint);
+  m_shot = new QLabel(this);
+  m_shot->setObjectName(QStringLiteral("lbleditshot"));
+  m_xy = new QLabel(this);
+  m_xy->setObjectName(QStringLiteral("lblxy"));
+  m_accept = new QPushButton(this);
+  m_accept->setObjectName(QStringLiteral("cmdOK"));
+  m_accept->setDefault(true);
+  setTextNumber(*m_accept, kAccept);
+
+  connect(m_court, &MiniCourt::pressed, this, &frmEDIT::pressCourt);
+  connect(m_kind, &QComboBox::currentIndexChanged, this, &frmEDIT::showShot);
+  connect(m_made, &QCheckBox::toggled, this, &frmEDIT::showShot);
+  connect(m_accept, &QPushButton::clicked, this, &QDialog::accept);
+  connect(m_time, &QLineEdit::textChanged, this,
+          [this] { m_accept->setEnabled(m_time->hasAcceptableInput()); });
+}
+
+void frmEDIT::makeLayout() {
+  auto* close = new QPushButton(this);
+  close->setObjectName(QStringLiteral("cmdCLOSE"));
+  setTextNumber(*close, kClose);
+  connect(close, &QPushButton::clicked, this, &QDialog::reject);
+
+  auto* fields = new QGridLayout;
+  fields->setSpacing(kGap);
+  int row = 0;
+  for (const auto& [field, text] :
+       {std::pair<QWidget*, int>(m_time, kTime), {m_player, kPlayer}, {m_kind, kKind}}) {
+    fields->addWidget(captionFor(*field, text), row, 0);
+    fields->addWidget(field, row++, 1);
+  }
+  fields->addWidget(m_made, row++, 1);
+  fields->addWidget(m_shot, row++, 0, 1, 2);
+  fields->addWidget(m_xy, row++, 0, 1, 2);
+  fields->setRowStretch(row++, 1);
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(m_accept);
+  buttons->addWidget(close);
+  fields->addLayout(buttons, row, 0, 1, 2);
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setSpacing(kMargin);
+  layout->addWidget(m_court, 0, Qt::AlignTop);
+  layout->addLayout(fields);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmEDIT::fill(const GameEvent& event) {
+  m_isCounted = event.kind() != nullptr;
+  for (QWidget* field : {static_cast<QWidget*>(m_player), static_cast<QWidget*>(m_kind),
+                         static_cast<QWidget*>(m_made), static_cast<QWidget*>(m_court)})
+    field->setEnabled(m_isCounted);
+  if (!m_isCounted)
+    return;
+  const int entry = m_game.roster[event.player.team].entryOf(event.player.jersey);
+  m_player->setCurrentIndex(m_player->findData(event.player.team * kEntries + entry));
+  m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(event.code)));
+  m_made->setChecked(event.isMade || !event.isShot());
+  if (event.hasPlace)
+    m_place = {event.x, event.y};
+}
+
+// The place decides between two and three points.
+void frmEDIT::pressCourt(QPointF place, bool isMade) {
+  const auto click = CourtClick::of({place.x(), place.y()}, false, zoneMapOf(m_settings));
+  if (!click)
+    return;
+  m_place = {click->place.x, click->place.y};
+  m_made->setChecked(isMade);
+  m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(click->kind)));
+  showShot();
+}
+
+void frmEDIT::showShot() {
+  const auto now = counted();
+  const EventKind* kind = now ? kindOf(now->kind) : nullptr;
+  const bool hasPlace = kind != nullptr && kind->hasPlace && m_place;
+  m_made->setEnabled(kind != nullptr && kind->isShot);
+  m_shot->setText(kind == nullptr || !kind->isShot
+                      ? QString()
+                      : caption(m_texts, now->isMade ? kMade : kMissed) +
+                            QStringLiteral(" (%1)").arg(caption(m_texts, kind->wordsText)));
+  m_xy->setText(hasPlace ? QStringLiteral("%1, %2").arg(int(m_place->first)).arg(int(m_place->second))
+                         : QString());
+  std::vector<LivePanel::ShotMark> marks;
+  if (hasPlace)
+    marks.push_back({{m_place->first, m_place->second}, now->isMade});
+  m_court->setMarks(marks);
+}
+
+int frmEDIT::clockSeconds() const {
+  return Module1::clockSeconds(fromQt(m_time->text())).value_or(0);
+}
+
+// A player who is in no roster has to be named before the event can be changed.
+std::optional<LiveGame::Counted> frmEDIT::counted() const {
+  if (!m_isCounted || !m_player->currentData().isValid())
+    return std::nullopt;
+  const int player = m_player->currentData().toInt();
+  const auto code = static_cast<EventCode>(m_kind->currentData().toInt());
+  return LiveGame::Counted{code, kindOf(code)->isShot && m_made->isChecked(), player / kEntries,
+                           player % kEntries, kindOf(code)->hasPlace ? m_place : std::nullopt};
+}
+
+} // namespace hooptab

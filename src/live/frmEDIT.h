@@ -1,0 +1,55 @@
+// Asks for an event of a live game: its time, and for what is counted the player, the kind, made or missed,
+// and the place. Serves the change of an event as well as a new one; changes nothing itself.
+#pragma once
+
+#include "live/LiveGame.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace hooptab {
+
+class MiniCourt;
+class Settings;
+class Texts;
+
+class frmEDIT : public QDialog {
+  Q_OBJECT
+ public:
+  // All must outlive it. With the event as it stands; a new one begins with the clock of `event` alone.
+  enum class Purpose { Change, Insert };
+  frmEDIT(const LiveGame& game, const EventPlace& event, Purpose purpose, const Settings& settings,
+          const Texts& texts, QWidget* parent = nullptr);
+
+  int clockSeconds() const;
+  // Nothing for the clock's own events, of which the time alone can be changed.
+  std::optional<LiveGame::Counted> counted() const;
+
+ private:
+  void makeFields();
+  void makeLayout();
+  void fill(const GameEvent& event);
+  void pressCourt(QPointF place, bool isMade);
+  void showShot();
+
+  const Game& m_game;
+  const Settings& m_settings;
+  const Texts& m_texts;
+  bool m_isCounted = true;
+  std::optional<std::pair<double, double>> m_place;
+  QLineEdit* m_time = nullptr;
+  QComboBox* m_player = nullptr;
+  QComboBox* m_kind = nullptr;
+  QCheckBox* m_made = nullptr;
+  MiniCourt* m_court = nullptr;
+  QLabel* m_shot = nullptr;
+  QLabel* m_xy = nullptr;
+  QPushButton* m_accept = nullptr;
+};
+
+} // namespace hooptab

@@ -1,0 +1,424 @@
+#include "live/frmLIVE.h"
+
+#include "appearance/Dialogs.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/BenchPanel.h"
+#include "live/CourtClick.h"
+#include "live/FollowUpBar.h"
+#include "live/JerseyButton.h"
+#include "live/LiveEventPanel.h"
+#include "live/PlayerPanel.h"
+#include "live/ScorePanel.h"
+#include "live/frmGAMEOVER.h"
+#include "live/frmOVERTIME.h"
+#include "storage/Module1.h"
+#include "storage/Settings.h"
+
+#include <QBoxLayout>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMimeData>
+#include <QShortcut>
+#include <chrono>
+
+namespace hooptab {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kErrorTitle = 1060;
+constexpr int kWarningTitle = 1139;
+constexpr int kDoesNotFit = 1917;
+constexpr int kWindowTitle = 1001;
+constexpr int kColourTitle = 1835;
+constexpr int kRecordedElsewhere = 1913;
+constexpr int kCannotBeLocked = 1914;
+constexpr int kNotOnDisk = 1915;
+constexpr int kLeaveUnwritten = 1916;
+
+constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
+constexpr auto kRetryInterval = 2s;
+constexpr int kGap = 4;
+constexpr int kSideWidth = 256;
+
+} // namespace
+
+frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs, TimeSource& time,
+                 QWidget* parent)
+    : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_dialogs(dialogs),
+      m_game(store, time) {
+  setObjectName(QStringLiteral("frmLIVE"));
+  setAcceptDrops(true);
+  setFocusPolicy(Qt::StrongFocus); // so that the clock's key is ours from the start
+  m_timer.setObjectName(QStringLiteral("Timer1"));
+  m_timer.setInterval(kTick);
+  m_retryOfWrites.setInterval(kRetryInterval);
+  m_banner = new QLabel(this);
+  m_banner->setObjectName(QStringLiteral("lblNOTONDISK"));
+  m_banner->setAutoFillBackground(true);
+  m_banner->setAlignment(Qt::AlignCenter);
+  m_banner->hide();
+
+  auto* parts = new QHBoxLayout;
+  parts->setSpacing(kGap);
+  parts->addWidget(makePanels(), 1);
+  parts->addWidget(makeSide());
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kGap, kGap, kGap, kGap);
+  layout->setSpacing(kGap);
+  layout->addWidget(m_banner);
+  layout->addLayout(parts, 1);
+  m_followUp = new FollowUpBar(m_texts, this);
+  connectEverything();
+}
+
+frmLIVE::~frmLIVE() = default;
+
+// The visitors' five above the home team's.
+QWidget* frmLIVE::makePanels() {
+  auto* panels = new QWidget(this);
+  auto* grid = new QGridLayout(panels);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setSpacing(kGap);
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
+    auto* panel = new PlayerPanel(slot, m_settings, m_texts, panels);
+    grid->addWidget(panel, LiveGame::teamOf(slot), slot % LiveGame::kSlotsOfTeam);
+    m_panels[static_cast<std::size_t>(slot)] = panel;
+  }
+  for (int column = 0; column < LiveGame::kSlotsOfTeam; ++column)
+    grid->setColumnStretch(column, 1);
+  return panels;
+}
+
+QWidget* frmLIVE::makeSide() {
+  auto* side = new QWidget(this);
+  side->setFixedWidth(kSideWidth);
+  m_score = new ScorePanel(m_texts, side);
+  m_bench = new BenchPanel(m_texts, side);
+  m_events = new LiveEventPanel(m_texts, side);
+  auto* layout = new QVBoxLayout(side);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap);
+  layout->addWidget(m_score);
+  layout->addWidget(m_bench);
+  layout->addWidget(m_events, 1);
+  return side;
+}
+
+void frmLIVE::connectEverything() {
+  connect(&m_timer, &QTimer::timeout, this, &frmLIVE::tick);
+  connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
+    m_game.retryWrites();
+    showDisk();
+  });
+  for (PlayerPanel* panel : m_panels) {
+    connect(panel, &PlayerPanel::courtPressed, this, &frmLIVE::pressCourt);
+    connect(panel, &PlayerPanel::shotPressed, this,
+            [this](int slot, EventCode kind, bool isMade) { shoot(slot, kind, isMade); });
+    connect(panel, &PlayerPanel::actionPressed, this, &frmLIVE::act);
+  }
+  connect(m_score, &ScorePanel::startAsked, this, &frmLIVE::toggleClock);
+  connect(m_score, &ScorePanel::returnAsked, this, [this] { edit(&LiveGame::returnToEndedPeriod); });
+  connect(m_score, &ScorePanel::switchAsked, this, &frmLIVE::switchSides);
+  connect(m_score, &ScorePanel::periodAsked, this, [this](int period) {
+    m_game.setPeriod(period);
+    showGame();
+  });
+  connect(m_score, &ScorePanel::clockAsked, this, [this](int seconds) {
+    m_game.setClock(seconds);
+    showGame();
+  });
+  connect(m_score, &ScorePanel::colourAsked, this, &frmLIVE::chooseColour);
+  connect(m_bench, &BenchPanel::toggled, this, [this](int team, int player) {
+    m_game.toggleOnCourt(team, player);
+    showGame();
+  });
+  connect(m_bench, &BenchPanel::allOutAsked, this, [this](int team) {
+    m_game.takeAllOut(team);
+    showGame();
+  });
+  connect(m_bench, &BenchPanel::onCourtAsked, this, &frmLIVE::setOnCourt);
+  connect(m_followUp, &FollowUpBar::assistChosen, this, [this](int slot) { act(slot, EventCode::SA); });
+  connect(m_followUp, &FollowUpBar::reboundChosen, this,
+          [this](int slot, bool isOffensive) { act(slot, isOffensive ? EventCode::SOR : EventCode::SDR); });
+  connect(m_events, &LiveEventPanel::undoAsked, this, [this] { edit(&LiveGame::undo); });
+  connect(m_events, &LiveEventPanel::redoAsked, this, [this] { edit(&LiveGame::redo); });
+  connect(m_events, &LiveEventPanel::deleteAsked, this,
+          [this](const std::vector<EventPlace>& events, bool isDeleted) {
+            m_game.setDeleted(events, isDeleted);
+            showGame();
+          });
+
+  connect(m_events, &LiveEventPanel::editAsked, this, [this](const EventPlace& event) {
+    editEvent(event, frmEDIT::Purpose::Change, LiveGame::Where::Behind);
+  });
+  connect(m_events, &LiveEventPanel::insertAsked, this, [this](const EventPlace& event, bool isBefore) {
+    editEvent(event, frmEDIT::Purpose::Insert, isBefore ? LiveGame::Where::Before : LiveGame::Where::Behind);
+  });
+
+  // Ahead of any focused button, which Ctrl+Space presses.
+  const auto onKey = [this](const QKeySequence& key, auto handler) {
+    auto* shortcut = new QShortcut(key, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    shortcut->setAutoRepeat(false);
+    connect(shortcut, &QShortcut::activated, this, handler);
+  };
+  onKey(Qt::Key_Space, &frmLIVE::toggleClock);
+  onKey(QKeySequence::Undo, [this] { edit(&LiveGame::undo); });
+  onKey(QKeySequence::Redo, [this] { edit(&LiveGame::redo); });
+}
+
+frmLIVE::Opening frmLIVE::open(const QString& path) {
+  GameLock lock;
+  const GameLock::Outcome outcome = lock.acquire(path);
+  if (outcome != GameLock::Outcome::Held && QFileInfo(path) != QFileInfo(this->path())) {
+    const bool isElsewhere = outcome == GameLock::Outcome::HeldElsewhere;
+    m_dialogs.warn(this, toQt(m_texts.text(kErrorTitle)),
+                   toQt(m_texts.withPlaceholder(isElsewhere ? kRecordedElsewhere : kCannotBeLocked,
+                                                fromQt(isElsewhere ? lock.owner() : path))));
+    return Opening::Refused;
+  }
+  m_problem = m_game.open(fromQt(QFileInfo(path).absoluteFilePath()));
+  if (m_problem != GameFileProblem::None)
+    return Opening::Problem;
+  if (outcome == GameLock::Outcome::Held)
+    m_lock = std::move(lock);
+  relabelWindow();
+  emit commandStateChanged();
+  return Opening::Opened;
+}
+
+QString frmLIVE::path() const {
+  return toQt(m_game.game().path);
+}
+
+void frmLIVE::showGame() {
+  for (PlayerPanel* panel : m_panels)
+    panel->showGame(m_game);
+  m_score->showGame(m_game);
+  m_bench->showGame(m_game);
+  m_events->showGame(m_game);
+  showDisk();
+  const auto& details = m_game.game().details;
+  setWindowTitle(QStringLiteral("%1 - %2 %3 - %4 %5")
+                     .arg(toQt(m_texts.text(kWindowTitle)), toQt(details.abbreviation[0]),
+                          QString::number(m_game.state().points(0)),
+                          QString::number(m_game.state().points(1)), toQt(details.abbreviation[1])));
+}
+
+void frmLIVE::showTime() {
+  for (PlayerPanel* panel : m_panels)
+    panel->showTime(m_game);
+  m_score->showTime(m_game);
+  m_bench->showTime(m_game);
+}
+
+void frmLIVE::showDisk() {
+  const bool isOnDisk = m_game.log().isOnDisk();
+  m_score->showDisk(isOnDisk, m_game.log().waiting());
+  m_banner->setVisible(!isOnDisk);
+  if (!isOnDisk) {
+    m_banner->setText(toQt(m_texts.withPlaceholder(kNotOnDisk, std::to_string(m_game.log().waiting()))));
+    if (!m_retryOfWrites.isActive())
+      m_retryOfWrites.start();
+  } else {
+    m_retryOfWrites.stop();
+  }
+}
+
+// --- Clock
+
+void frmLIVE::toggleClock() {
+  const LiveGame::Phase before = m_game.phase();
+  if (before == LiveGame::Phase::OvertimeAsked)
+    return askOvertime();
+  m_game.toggleClock();
+  afterClock(before);
+}
+
+void frmLIVE::tick() {
+  const LiveGame::Phase before = m_game.phase();
+  m_game.tick();
+  if (m_game.phase() == before)
+    showTime();
+  else
+    afterClock(before);
+}
+
+void frmLIVE::afterClock(LiveGame::Phase before) {
+  if (isRunning())
+    m_timer.start();
+  else
+    m_timer.stop();
+  showGame();
+  emit commandStateChanged();
+  if (before != LiveGame::Phase::OvertimeAsked && m_game.phase() == LiveGame::Phase::OvertimeAsked)
+    askOvertime();
+}
+
+void frmLIVE::askOvertime() {
+  frmOVERTIME window(m_game.game().details, m_texts, this);
+  if (window.exec() != QDialog::Accepted)
+    return;
+  m_game.beginOvertime(window.minutes(), window.keepsFouls());
+  showGame();
+}
+
+void frmLIVE::gameOver() {
+  const LiveGame::Phase before = m_game.phase();
+  m_game.stop();
+  if (before == LiveGame::Phase::Running)
+    afterClock(before);
+  frmGAMEOVER window(m_game.game().details, m_texts, m_dialogs, this);
+  window.exec();
+  switch (window.choice()) {
+  case frmGAMEOVER::Choice::None: break;
+  case frmGAMEOVER::Choice::Close: m_game.finish(window.notes()); break;
+  case frmGAMEOVER::Choice::Continue: m_game.saveNotes(window.notes()); break;
+  case frmGAMEOVER::Choice::Reopen: m_game.reopen(); break;
+  }
+  showGame();
+}
+
+// --- What is recorded
+
+void frmLIVE::pressCourt(int slot, const QPointF& place, bool isMade) {
+  const auto click = CourtClick::of({place.x(), place.y()}, playsRight(slot), zoneMapOf(m_settings));
+  if (click)
+    shoot(slot, click->kind, isMade, std::pair(click->place.x, click->place.y));
+}
+
+void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
+  if (!m_game.recordShot(LiveGame::teamOf(slot), m_game.playerIn(slot), kind, isMade, place))
+    return;
+  showGame();
+  afterShot(slot, kind, isMade);
+}
+
+void frmLIVE::afterShot(int slot, EventCode kind, bool isMade) {
+  const int team = LiveGame::teamOf(slot);
+  const auto followUps = m_game.followUps(team, m_game.playerIn(slot), kind, isMade, m_settings.asksRebounds);
+  PlayerPanel* panel = m_panels[static_cast<std::size_t>(slot)];
+  m_followUp->ask(m_game, followUps, team, panel->mapToGlobal(QPoint(0, panel->height() / 2)));
+}
+
+void frmLIVE::act(int slot, EventCode kind) {
+  m_game.recordAction(LiveGame::teamOf(slot), m_game.playerIn(slot), kind);
+  showGame();
+}
+
+void frmLIVE::setOnCourt(const OnCourt& onCourt) {
+  m_game.setOnCourt(onCourt);
+  showGame();
+}
+
+void frmLIVE::edit(bool (LiveGame::*step)()) {
+  (m_game.*step)();
+  showGame();
+}
+
+void frmLIVE::editEvent(const EventPlace& event, frmEDIT::Purpose purpose, LiveGame::Where where) {
+  frmEDIT window(m_game, event, purpose, m_settings, m_texts, this);
+  if (window.exec() != QDialog::Accepted)
+    return;
+  const auto counted = window.counted();
+  bool isDone = false;
+  if (!counted)
+    isDone = m_game.setTime(event, window.clockSeconds());
+  else if (purpose == frmEDIT::Purpose::Change)
+    isDone = m_game.editEvent(event, window.clockSeconds(), *counted);
+  else
+    isDone = m_game.insertEvent(event, where, window.clockSeconds(), *counted);
+  if (!isDone)
+    m_dialogs.warn(this, toQt(m_texts.text(kWarningTitle)), toQt(m_texts.text(kDoesNotFit)));
+  showGame();
+}
+
+void frmLIVE::switchSides() {
+  m_isSwitched = !m_isSwitched;
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot)
+    m_panels[static_cast<std::size_t>(slot)]->setPlaysRight(playsRight(slot));
+  m_score->setSides(m_isSwitched);
+}
+
+void frmLIVE::chooseColour(int team) {
+  const std::uint32_t colour = m_game.game().details.teamColour[team];
+  const QColor chosen = m_dialogs.chooseColour(this, toQt(m_texts.text(kColourTitle)), colourOf(colour));
+  if (!chosen.isValid())
+    return;
+  m_game.setTeamColour(team, storedColour(chosen));
+  applyColours();
+  showGame();
+}
+
+// --- The window
+
+void frmLIVE::relabelWindow() {
+  relabel(*this, m_texts);
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
+    PlayerPanel* panel = m_panels[static_cast<std::size_t>(slot)];
+    panel->relabelPanel();
+    panel->setPlaysRight(playsRight(slot));
+  }
+  m_score->relabelPanel();
+  m_score->setSides(m_isSwitched);
+  m_bench->relabelPanel();
+  m_events->relabelPanel();
+  applyColours();
+  showGame();
+}
+
+void frmLIVE::applyColours() {
+  QPalette palette = m_banner->palette();
+  palette.setColor(QPalette::Window, Theme::missed());
+  palette.setColor(QPalette::WindowText, textOn(Theme::missed()));
+  m_banner->setPalette(palette);
+  for (PlayerPanel* panel : m_panels)
+    panel->applyColours();
+  m_score->applyColours();
+  m_bench->applyColours();
+  m_events->applyColours();
+}
+
+void frmLIVE::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasFormat(QLatin1String(kPlayerMimeType)))
+    event->acceptProposedAction();
+}
+
+void frmLIVE::dropEvent(QDropEvent* event) {
+  const std::string dropped = event->mimeData()->data(QLatin1String(kPlayerMimeType)).toStdString();
+  const int team = Module1::leadingNumber(Module1::field(dropped, 1, '-'));
+  const int player = Module1::leadingNumber(Module1::field(dropped, 2, '-'));
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
+    const PlayerPanel* panel = m_panels[static_cast<std::size_t>(slot)];
+    const QPoint place = panel->mapFrom(this, event->position().toPoint());
+    if (LiveGame::teamOf(slot) != team || !panel->rect().contains(place) || player < 1 ||
+        player > Roster::kLargestEntry)
+      continue;
+    OnCourt wanted = m_game.onCourt();
+    unsigned& entries = wanted[static_cast<std::size_t>(team)];
+    if (const int leaving = m_game.playerIn(slot); leaving > 0)
+      entries &= ~(1U << static_cast<unsigned>(leaving));
+    entries |= 1U << static_cast<unsigned>(player);
+    event->acceptProposedAction();
+    return setOnCourt(wanted);
+  }
+}
+
+bool frmLIVE::mayClose() {
+  if (isRunning())
+    toggleClock();
+  if (m_game.retryWrites())
+    return true;
+  showDisk();
+  return m_dialogs.ask(
+      this, toQt(m_texts.text(kErrorTitle)),
+      toQt(m_texts.withPlaceholder(kLeaveUnwritten, std::to_string(m_game.log().waiting()))));
+}
+
+} // namespace hooptab

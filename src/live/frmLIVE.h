@@ -1,0 +1,100 @@
+// The live window: ten player panels, score and clock, the benches and the list of events. Lays out, hands
+// what is pressed to the live game, and shows it again; what happens is the game's to decide.
+#pragma once
+
+#include "appearance/ChildWindow.h"
+#include "appearance/ZoneMap.h"
+#include "live/GameLock.h"
+#include "live/LiveGame.h"
+#include "live/frmEDIT.h"
+
+#include <QTimer>
+
+#include <array>
+
+class QLabel;
+
+namespace hooptab {
+
+class BenchPanel;
+class Dialogs;
+class FollowUpBar;
+class LiveEventPanel;
+class PlayerPanel;
+class ScorePanel;
+class Settings;
+class Texts;
+
+class frmLIVE : public ChildWindow {
+  Q_OBJECT
+ public:
+  // All must outlive it.
+  frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs, TimeSource& time,
+          QWidget* parent = nullptr);
+  ~frmLIVE() override;
+
+  // A game that is recorded elsewhere, or cannot be written, is refused with a message of its own. On every
+  // problem what was open stays.
+  enum class Opening { Opened, Refused, Problem };
+  [[nodiscard]] Opening open(const QString& path);
+  GameFileProblem problem() const { return m_problem; } // after Problem
+  QString path() const;
+  bool isRunning() const { return m_game.phase() == LiveGame::Phase::Running; }
+
+  void switchSides();
+  void gameOver();
+
+  void relabelWindow() override;
+  void applyColours() override;
+  bool mayClose() override; // stops the clock first; asks when something is not on disk
+
+ protected:
+  // A player of the bench, dropped on a panel of his team: he comes for the one who stands there.
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ signals:
+  void commandStateChanged(); // the clock was started or stopped
+
+ private:
+  QWidget* makePanels();
+  QWidget* makeSide();
+  void connectEverything();
+  void showGame();
+  void showTime();
+  void showDisk();
+  void tick();
+  void toggleClock();
+  void setOnCourt(const OnCourt& onCourt);
+  void afterClock(LiveGame::Phase before);
+  void afterShot(int slot, EventCode kind, bool isMade);
+  void edit(bool (LiveGame::*step)());
+  void editEvent(const EventPlace& event, frmEDIT::Purpose purpose, LiveGame::Where where);
+  void askOvertime();
+  void shoot(int slot, EventCode kind, bool isMade,
+             std::optional<std::pair<double, double>> place = std::nullopt);
+  void pressCourt(int slot, const QPointF& place, bool isMade);
+  void act(int slot, EventCode kind);
+  bool playsRight(int slot) const { return (LiveGame::teamOf(slot) == 1) != m_isSwitched; }
+  void chooseColour(int team);
+
+  cinifile& m_store;
+  Settings& m_settings;
+  const Texts& m_texts;
+  Dialogs& m_dialogs;
+  LiveGame m_game;
+  GameFileProblem m_problem = GameFileProblem::None;
+  GameLock m_lock;
+  bool m_isSwitched = false;
+  QTimer m_timer; // Timer1
+  QTimer m_retryOfWrites;
+
+  QLabel* m_banner = nullptr;
+  std::array<PlayerPanel*, LiveGame::kSlots> m_panels = {};
+  ScorePanel* m_score = nullptr;
+  BenchPanel* m_bench = nullptr;
+  LiveEventPanel* m_events = nullptr;
+  FollowUpBar* m_followUp = nullptr;
+};
+
+} // namespace hooptab

@@ -1,0 +1,86 @@
+#include "live/frmOVERTIME.h"
+
+#include "appearance/Fields.h"
+#include "appearance/Mnemonics.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "storage/GameDetails.h"
+#include "storage/Module1.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTitle = 1141;
+constexpr int kKeepFouls = 1142;
+constexpr int kAccept = 1089;
+constexpr int kMinutesOfOvertime = 1942;
+constexpr int kMostMinutes = 99; // of a clock that shows mm:ss
+constexpr int kSecondsPerMinute = 60;
+constexpr int kClockPoints = 32;
+constexpr int kMargin = 16;
+constexpr int kGap = 10;
+
+} // namespace
+
+frmOVERTIME::frmOVERTIME(const GameDetails& details, const Texts& texts, QWidget* parent)
+    : QDialog(parent), m_minutes(new QSpinBox(this)), m_keepsFouls(new QCheckBox(this)) {
+  setObjectName(QStringLiteral("frmOVERTIME"));
+  setTextNumber(*this, kTitle);
+  setModal(true);
+  m_minutes->setObjectName(QStringLiteral("UpDown1"));
+  m_minutes->setRange(1, kMostMinutes);
+  m_minutes->setFont(Theme::figures(font().pointSize()));
+  m_keepsFouls->setObjectName(QStringLiteral("Check1"));
+  m_keepsFouls->setChecked(details.keepsBonus); // as in the overtime before
+  setTextNumber(*m_keepsFouls, kKeepFouls);
+  setToolTipNumber(*m_keepsFouls, kKeepFouls);
+  auto* clock = new QLabel(this);
+  clock->setObjectName(QStringLiteral("lblTEMPS"));
+  clock->setFont(Theme::figures(kClockPoints, true));
+  clock->setAlignment(Qt::AlignCenter);
+  auto* accept = new QPushButton(this);
+  accept->setObjectName(QStringLiteral("cmdOK"));
+  accept->setDefault(true);
+  setTextNumber(*accept, kAccept);
+  setToolTipNumber(*accept, kAccept);
+
+  auto* layout = new QGridLayout(this);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setSpacing(kGap);
+  layout->addWidget(captionFor(*m_minutes, kMinutesOfOvertime), 0, 0);
+  layout->addWidget(m_minutes, 0, 1);
+  layout->addWidget(clock, 1, 0, 1, 2);
+  layout->addWidget(m_keepsFouls, 2, 0, 1, 2);
+  layout->addWidget(accept, 3, 1);
+  layout->setColumnStretch(0, 1);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+
+  const auto showClock = [clock](int minutes) {
+    clock->setText(toQt(Module1::clockText(minutes * kSecondsPerMinute)));
+  };
+  m_minutes->setValue(details.minutesPerPeriod);
+  showClock(m_minutes->value());
+  connect(m_minutes, &QSpinBox::valueChanged, clock, showClock);
+  connect(accept, &QPushButton::clicked, this, &QDialog::accept);
+  relabel(*this, texts);
+  giveMnemonics(*this);
+  m_minutes->setFocus();
+  m_minutes->selectAll();
+}
+
+int frmOVERTIME::minutes() const {
+  return m_minutes->value();
+}
+
+bool frmOVERTIME::keepsFouls() const {
+  return m_keepsFouls->isChecked();
+}
+
+} // namespace hooptab

@@ -1,0 +1,218 @@
+#include "live/frmSUBST.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/JerseyButton.h"
+#include "live/PlayerWords.h"
+#include "storage/Module1.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTitle = 1947;
+constexpr int kCancel = 1128;
+constexpr int kLines = 1954;
+constexpr int kLineTip = 1955;
+constexpr int kHint = 1956;
+constexpr int kCountName = 1957;
+constexpr int kLeavesWord = 1959;
+constexpr int kComesWord = 1960;
+constexpr int kAcceptTip = 1961;
+constexpr int kCancelTip = 1962;
+constexpr int kAccept = 1963;
+
+constexpr int kColumns = 5;
+constexpr QSize kButton(98, 48);
+constexpr int kCountWidth = 52;
+constexpr int kLineWidth = 170;
+constexpr int kLineHeight = 24;
+constexpr int kMargin = 10;
+constexpr int kGap = 2;
+
+// A team's name on its colour.
+QLabel* bandOf(const LiveGame& game, int team, QWidget* parent) {
+  const GameDetails& details = game.game().details;
+  auto* band = new QLabel(toQt(details.name[team]), parent);
+  const QColor colour = colourOf(details.teamColour[team]);
+  QPalette colours = band->palette();
+  colours.setColor(QPalette::Window, colour);
+  colours.setColor(QPalette::WindowText, textOn(colour));
+  band->setPalette(colours);
+  band->setAutoFillBackground(true);
+  band->setMargin(kGap * 2);
+  return band;
+}
+
+} // namespace
+
+frmSUBST::frmSUBST(const LiveGame& game, const Texts& texts, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_game(game), m_texts(texts), m_choice(game) {
+  setObjectName(QStringLiteral("frmSUBST"));
+  setTextNumber(*this, kTitle);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  auto* teams = new QGridLayout;
+  teams->setHorizontalSpacing(kMargin);
+  teams->setColumnStretch(1, 1);
+  for (int team = 0; team < 2; ++team)
+    addTeam(*teams, team);
+  layout->addLayout(teams);
+  layout->addWidget(makeAnswers());
+  relabel(*this, texts);
+  showChoice();
+}
+
+void frmSUBST::addTeam(QGridLayout& layout, int team) {
+  const auto t = static_cast<std::size_t>(team);
+  const int row = layout.rowCount();
+  m_counts[t] = new QLabel(this);
+  m_counts[t]->setObjectName(QStringLiteral("lblCOUNT(%1)").arg(team));
+  m_counts[t]->setFont(Theme::figures(12, true));
+  setToolTipNumber(*m_counts[t], kCountName);
+  m_counts[t]->setFixedWidth(kCountWidth); // 5/5 and 10/5 alike
+  m_counts[t]->setAlignment(Qt::AlignCenter);
+  auto* head = new QHBoxLayout;
+  head->addWidget(bandOf(m_game, team, this), 1);
+  head->addWidget(m_counts[t]);
+  layout.addLayout(head, row, 0);
+  auto* title = new QLabel(this);
+  setTextNumber(*title, kLines);
+  layout.addWidget(title, row, 1);
+
+  auto* roster = new QWidget(this);
+  auto* grid = new QGridLayout(roster);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setSpacing(kGap);
+  for (int place = 0; place < kPlaces; ++place) {
+    auto* button = new JerseyButton(jerseyButtonName(team * kPlaces + place), kButton, roster);
+    button->setCheckable(true);
+    connect(button, &JerseyButton::pressed, this, [this, team, place] {
+      m_choice.toggle(team, place + 1);
+      showChoice();
+    });
+    showPlayerWords(*button, m_game, team, place + 1, m_texts);
+    grid->addWidget(button, place / kColumns, place % kColumns);
+    m_players[t][static_cast<std::size_t>(place)] = button;
+  }
+  layout.addWidget(roster, row + 1, 0);
+  layout.addWidget(makeLines(team), row + 1, 1);
+}
+
+QWidget* frmSUBST::makeLines(int team) {
+  auto* column = new QWidget(this);
+  column->setMinimumWidth(kLineWidth);
+  auto* layout = new QVBoxLayout(column);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap);
+  const std::vector<Substitution::Line>& lines = m_choice.lines(team);
+  for (std::size_t line = 0; line < lines.size(); ++line) {
+    auto* button = new QPushButton(toQt(lines[line].jerseys), column);
+    button->setObjectName(
+        QStringLiteral("cmdLINE(%1)").arg(static_cast<std::size_t>(team) * Substitution::kMostLines + line));
+    button->setAutoDefault(false);
+    button->setFixedHeight(kLineHeight);
+    button->setFont(Theme::figures(font().pointSize()));
+    button->setToolTip(
+        toQt(m_texts.withPlaceholder(kLineTip, Module1::clockText(std::max(lines[line].seconds, 0)))));
+    connect(button, &QPushButton::pressed, this, [this, team, line] {
+      m_choice.takeLine(team, line);
+      showChoice();
+    });
+    layout->addWidget(button);
+  }
+  layout->addStretch();
+  return column;
+}
+
+QWidget* frmSUBST::makeAnswers() {
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, kGap, 0, 0);
+  auto* hint = new QLabel(row);
+  hint->setForegroundRole(QPalette::PlaceholderText);
+  setTextNumber(*hint, kHint);
+  layout->addWidget(hint, 1);
+  const auto addAnswer = [&](const char* name, int text, int toolTip) {
+    auto* button = new QPushButton(row);
+    button->setObjectName(QLatin1String(name));
+    setTextNumber(*button, text);
+    setToolTipNumber(*button, toolTip);
+    layout->addWidget(button);
+    return button;
+  };
+  m_accept = addAnswer("cmdOK", kAccept, kAcceptTip);
+  m_accept->setDefault(true);
+  QPushButton* cancel = addAnswer("cmdCANCEL", kCancel, kCancelTip);
+  cancel->setAutoDefault(false);
+  connect(m_accept, &QPushButton::clicked, this, &QDialog::accept);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  return row;
+}
+
+void frmSUBST::showChoice() {
+  for (int team = 0; team < 2; ++team) {
+    const auto t = static_cast<std::size_t>(team);
+    const Roster& roster = m_game.game().roster[team];
+    for (int player = 1; player <= kPlaces; ++player) {
+      const RosterPlayer* entry = roster.player(player);
+      if (entry == nullptr)
+        continue;
+      const bool stays = m_choice.isChosen(team, player);
+      const bool wasThere = m_choice.wasOnCourt(team, player);
+      using enum JerseyButton::Move;
+      JerseyButton& button = *m_players[t][static_cast<std::size_t>(player - 1)];
+      button.setLook({.jersey = toQt(entry->jersey),
+                      .name = toQt(entry->name),
+                      .colour = colourOf(m_game.game().details.teamColour[team]),
+                      .isFilled = stays,
+                      .isFouledOut = m_game.isFouledOut(team, player),
+                      .move = stays == wasThere ? None
+                              : stays           ? Comes
+                                                : Leaves});
+      button.setChecked(stays);
+      button.setAccessibleDescription(stays == wasThere ? QString()
+                                                        : caption(m_texts, stays ? kComesWord : kLeavesWord));
+    }
+    const int count = m_choice.count(team);
+    m_counts[t]->setText(QStringLiteral("%1/%2").arg(count).arg(kMostOnCourt));
+    QPalette colours = palette();
+    if (count != kMostOnCourt)
+      colours.setColor(QPalette::WindowText, Theme::missed());
+    m_counts[t]->setPalette(colours);
+  }
+  m_accept->setEnabled(m_choice.canAccept());
+}
+
+void frmSUBST::openBeside(const QWidget& panel) {
+  adjustSize();
+  const QRect room = panel.screen()->availableGeometry();
+  const QRect place(panel.mapToGlobal(QPoint(0, 0)), panel.size());
+  // Over the panel, grown to the side that has more room.
+  QPoint corner = place.topLeft();
+  if (place.center().x() > room.center().x())
+    corner.setX(place.right() + 1 - width());
+  corner.setX(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() + 1 - width())));
+  corner.setY(std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
+  move(corner);
+  open();
+}
+
+// Without a title bar: an edge of its own.
+void frmSUBST::paintEvent(QPaintEvent* event) {
+  QDialog::paintEvent(event);
+  QPainter painter(this);
+  painter.setPen(QPen(Theme::accent(), 2));
+  painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
+} // namespace hooptab

@@ -1,0 +1,269 @@
+#include "live/BenchPanel.h"
+#include "live/FollowUpBar.h"
+#include "live/JerseyButton.h"
+#include "live/ManualTime.h"
+#include "live/frmSUBST.h"
+#include "storage/Texts.h"
+#include "support/TemporaryFolder.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace hooptab {
+namespace {
+
+using Players = std::vector<std::pair<int, int>>; // team, player
+
+class BenchTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    GameDetails details;
+    details.periods = 4;
+    details.minutesPerPeriod = 10;
+    details.personalFoulLimit = 2;
+    details.abbreviation[0] = "PAN";
+    details.name[0] = "Pandas";
+    details.name[1] = "Olives";
+    details.teamColour[0] = 255; // red
+    const std::vector<RosterPlayer> players = {{"1", 0, "Ann Able"},     {"12", 1, "Bea Baker"},
+                                               {"30", 2, "Cleo Carter"}, {"31", 2, "Dana Dunn"},
+                                               {"45", 1, "Eve Ellis"},   {"6", 1, "Fay Ford"}};
+    const std::string path = folder.path("bench.GAM");
+    ASSERT_EQ(GameFile(store, path).create(details, players, players), GameFileProblem::None);
+    ASSERT_EQ(live.open(path), GameFileProblem::None);
+    ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
+  }
+  static JerseyButton& jersey(const QWidget& form, int index) {
+    auto* found = form.findChild<JerseyButton*>(jerseyButtonName(index));
+    EXPECT_NE(found, nullptr) << index;
+    return *found;
+  }
+  template <class Widget>
+  static Widget& find(const QWidget& form, const char* name) {
+    auto* found = form.findChild<Widget*>(QLatin1String(name));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  static std::string textOf(const QWidget& form, const char* label) {
+    return find<QLabel>(form, label).text().toStdString();
+  }
+  // The answer comes with the press; the release is for the next press to be one.
+  static void press(QWidget& widget, Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mousePress(&widget, button);
+    QTest::mouseRelease(&widget, button);
+  }
+  static constexpr unsigned kFive = 0b111110;
+
+  TemporaryFolder folder;
+  FileSystem disk;
+  cinifile store{disk};
+  ManualTime time;
+  LiveGame live{store, time};
+  Texts texts;
+};
+
+class BenchPanelTest : public BenchTest {
+ protected:
+  void SetUp() override {
+    BenchTest::SetUp();
+    panel.showGame(live);
+    panel.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    QObject::connect(&panel, &BenchPanel::toggled,
+                     [this](int team, int player) { toggled.emplace_back(team, player); });
+    QObject::connect(&panel, &BenchPanel::selected,
+                     [this](int team, int player) { selected.emplace_back(team, player); });
+  }
+  BenchPanel panel{texts};
+  Players toggled;
+  Players selected;
+};
+
+TEST_F(BenchPanelTest, ShowsWhoIsOnCourtSelectedAndFouledOut) {
+  EXPECT_TRUE(jersey(panel, 0).look().isFilled);
+  EXPECT_EQ(jersey(panel, 0).look().colour, QColor(255, 0, 0));
+  EXPECT_FALSE(jersey(panel, 5).look().isFilled) << "on the bench";
+  EXPECT_EQ(jersey(panel, 20).text().toStdString(), "6") << "of the home team";
+  const QPoint place = jersey(panel, 15).mapTo(&panel, QPoint());
+  EXPECT_TRUE(jersey(panel, 6).isHidden()) << "no such player";
+  EXPECT_EQ(jersey(panel, 0).toolTip().toStdString(), "1 Ann Able, on court\nCenter · PF 0 · TF 0 · 00:00");
+
+  live.start();
+  time.now += 65;
+  panel.showTime(live);
+  EXPECT_TRUE(jersey(panel, 0).toolTip().endsWith(QLatin1String("01:05")))
+      << jersey(panel, 0).toolTip().toStdString();
+  live.recordAction(0, 6, EventCode::SPF);
+  live.recordAction(0, 6, EventCode::SPF);
+  texts.setLanguage(Language::French);
+  panel.relabelPanel();
+  EXPECT_TRUE(jersey(panel, 5).look().isFouledOut);
+  EXPECT_TRUE(jersey(panel, 5).accessibleName().contains(QLatin1String("exclu pour fautes")));
+  EXPECT_EQ(jersey(panel, 15).mapTo(&panel, QPoint()), place) << "nothing moves";
+}
+
+TEST_F(BenchPanelTest, APressSelectsAndInSubstitutionModePutsInOrOut) {
+  press(jersey(panel, 16));
+  EXPECT_EQ(selected, (Players{{1, 2}}));
+  EXPECT_EQ(textOf(panel, "lblNO"), "12");
+  EXPECT_EQ(textOf(panel, "lblNom"), "Bea Baker");
+  EXPECT_TRUE(jersey(panel, 16).look().isSelected);
+  panel.clearSelection();
+  EXPECT_FALSE(jersey(panel, 16).look().isSelected);
+
+  QTest::keyClick(&panel, Qt::Key_F6);
+  ASSERT_TRUE(panel.isSubstituting());
+  QTest::mousePress(&jersey(panel, 5), Qt::LeftButton);
+  EXPECT_EQ(toggled, (Players{{0, 6}})) << "before the release";
+  QTest::mouseRelease(&jersey(panel, 5), Qt::LeftButton);
+  press(jersey(panel, 0));
+  QTest::mouseDClick(&jersey(panel, 0), Qt::LeftButton); // the second press of a double click
+  EXPECT_EQ(toggled, (Players{{0, 6}, {0, 1}, {0, 1}}));
+  press(jersey(panel, 1), Qt::RightButton);
+  EXPECT_EQ(toggled.size(), 3U);
+  EXPECT_EQ(selected.size(), 1U);
+
+  QSignalSpy allOut(&panel, &BenchPanel::allOutAsked);
+  find<QPushButton>(panel, "cmdOUTALL(1)").click();
+  ASSERT_EQ(allOut.size(), 1);
+  EXPECT_EQ(allOut[0][0], 1);
+}
+
+TEST_F(BenchPanelTest, SeveralAtOnceAsksOnceAndEscapeNever) {
+  std::vector<OnCourt> asked;
+  QObject::connect(&panel, &BenchPanel::onCourtAsked, [&](OnCourt onCourt) { asked.push_back(onCourt); });
+  for (const bool confirms : {false, true}) {
+    QTest::keyClick(&panel, Qt::Key_F4);
+    auto* form = dynamic_cast<frmSUBST*>(QApplication::activeModalWidget());
+    ASSERT_NE(form, nullptr);
+    const auto& accept = find<QPushButton>(*form, "cmdOK");
+    EXPECT_FALSE(accept.isEnabled());
+    press(jersey(*form, 20)); // comes first: six for a moment
+    EXPECT_EQ(textOf(*form, "lblCOUNT(1)"), "6/5");
+    EXPECT_FALSE(accept.isEnabled());
+    press(jersey(*form, 15));
+    EXPECT_EQ(jersey(*form, 15).look().move, JerseyButton::Move::Leaves);
+    EXPECT_EQ(jersey(*form, 20).look().move, JerseyButton::Move::Comes);
+    QTest::keyClick(form, confirms ? Qt::Key_Return : Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  }
+  EXPECT_EQ(asked, std::vector{(OnCourt{kFive, 0b1111100U})});
+}
+
+// Elsewhere in the window: a button with a key, and a shortcut.
+class FollowUpTest : public BenchTest {
+ protected:
+  void SetUp() override {
+    BenchTest::SetUp();
+    window.resize(700, 500);
+    elsewhere.setGeometry(600, 460, 80, 30);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    elsewhere.setFocus();
+    QObject::connect(&bar, &FollowUpBar::assistChosen,
+                     [this](int slot) { answers += "A" + std::to_string(slot); });
+    QObject::connect(&bar, &FollowUpBar::reboundChosen, [this](int slot, bool isOffensive) {
+      answers += (isOffensive ? "O" : "D") + std::to_string(slot);
+    });
+    QObject::connect(&bar, &FollowUpBar::closed, [this] { answers += "."; });
+    QObject::connect(&elsewhere, &QPushButton::pressed, [this] { answers += bar.isOpen() ? "!" : "b"; });
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Escape, Qt::Key_4}) {
+      auto* shortcut = new QShortcut(key, &window);
+      QObject::connect(shortcut, &QShortcut::activated, [this] { answers += bar.isOpen() ? "!" : "s"; });
+    }
+  }
+  void askAssist() { bar.ask(live, live.followUps(0, 1, EventCode::GFG, true, true), 0, {}); }
+  void askRebound() { bar.ask(live, live.followUps(1, 1, EventCode::GFG, false, true), 1, {}); }
+  void type(std::initializer_list<Qt::Key> keys) {
+    for (const Qt::Key key : keys)
+      QTest::keyClick(&elsewhere, key);
+  }
+  std::string taken() { return std::exchange(answers, {}); }
+
+  QWidget window;
+  QPushButton elsewhere{&window};
+  FollowUpBar bar{texts, &window};
+  std::string answers; // closed '.', A, O, D with the slot, then what happened elsewhere
+};
+
+TEST_F(FollowUpTest, IsAnsweredByAClick) {
+  askAssist();
+  const auto& assist = find<QWidget>(bar, "Assist");
+  ASSERT_TRUE(assist.isVisible());
+  EXPECT_EQ(jersey(assist, 0).text().toStdString(), "12") << "without the shooter";
+  press(jersey(assist, 3));
+  EXPECT_EQ(taken(), ".A4");
+  EXPECT_FALSE(bar.isVisible());
+
+  askRebound();
+  const auto& rebound = find<QWidget>(bar, "frmRebound");
+  EXPECT_TRUE(rebound.isVisible() && !assist.isVisible());
+  EXPECT_EQ(textOf(bar, "lblTYPEREBOND(0)"), "Off. Rebound Olives");
+  press(jersey(rebound, 1));
+  askRebound();
+  press(jersey(rebound, 5));
+  EXPECT_EQ(taken(), ".O6.D0");
+  askAssist();
+  press(find<QPushButton>(bar, "cmdNOASS"));
+  EXPECT_EQ(taken(), ".");
+  bar.ask(live, {}, 0, {});
+  EXPECT_FALSE(bar.isOpen()) << "nobody to choose";
+}
+
+TEST_F(FollowUpTest, IsAnsweredByTheJerseysNumber) {
+  askAssist();
+  type({Qt::Key_4}); // 45 alone begins with it; the shortcut of the window stays quiet
+  EXPECT_EQ(taken(), ".A4");
+  askAssist();
+  type({Qt::Key_3, Qt::Key_9, Qt::Key_Backspace});
+  EXPECT_EQ(taken(), "") << "30 or 31; 39 is nobody's, so that Backspace took the 3";
+  type({Qt::Key_1});
+  EXPECT_EQ(taken(), ".A1") << "12: the 1 is the shooter's own";
+  askRebound();
+  type({Qt::Key_1});
+  EXPECT_EQ(taken(), "") << "1 and 12 of both teams";
+  type({Qt::Key_2, Qt::Key_Enter});
+  EXPECT_EQ(taken(), ".D1") << "of two equal ones the defender";
+  askRebound();
+  type({Qt::Key_1, Qt::Key_2, Qt::Key_Right, Qt::Key_Return});
+  EXPECT_EQ(taken(), ".O6");
+  askRebound();
+  type({Qt::Key_Escape});
+  askRebound();
+  type({Qt::Key_Return});
+  EXPECT_EQ(taken(), "..");
+}
+
+TEST_F(FollowUpTest, AnythingElsewhereClosesItAndHappens) {
+  askAssist();
+  press(elsewhere);
+  EXPECT_EQ(taken(), ".b");
+  askAssist();
+  type({Qt::Key_Shift});
+  EXPECT_EQ(taken(), "");
+  type({Qt::Key_Space});
+  EXPECT_EQ(taken(), ".s");
+  type({Qt::Key_4, Qt::Key_Escape});
+  EXPECT_EQ(taken(), "ss") << "its keys are free again";
+  askAssist();
+  press(*bar.findChild<QLabel*>());
+  EXPECT_TRUE(bar.isOpen()) << "a click between its buttons";
+  askRebound(); // the next shot
+  EXPECT_EQ(taken(), ".");
+  window.hide();
+  EXPECT_EQ(taken(), ".");
+}
+
+TEST_F(FollowUpTest, StaysInsideTheWindow) {
+  bar.ask(live, live.followUps(0, 1, EventCode::GFG, false, true), 0, window.mapToGlobal(QPoint(690, 490)));
+  EXPECT_TRUE(window.rect().contains(bar.geometry()));
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,272 @@
+#include "live/PlayerPanel.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/LiveGame.h"
+#include "live/ManualTime.h"
+#include "live/MiniCourt.h"
+#include "live/StatButton.h"
+#include "storage/FileSystem.h"
+#include "storage/Settings.h"
+#include "support/TemporaryFolder.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace hooptab {
+namespace {
+
+// Slot 3 of team 0 as it is recorded; slot 4 stays empty.
+class PlayerPanelTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    settings.twoPointColour = kFirstColours.twoPoints;
+    settings.boxColour = kFirstColours.box;
+    settings.threePointColour = kFirstColours.threePoints;
+    settings.buttonColour = kFirstColours.buttons;
+    settings.statisticLabel[1] = "U2-Deflection";
+    GameDetails details;
+    details.periods = 4;
+    details.minutesPerPeriod = 10;
+    details.personalFoulLimit = 2;
+    details.statisticLabel[0] = "U1-Charge";
+    const std::vector<RosterPlayer> players = {
+        {"4", 0, "A"}, {"5", 1, "B"}, {"6", 1, "C"}, {"7", 1, "Deborah Dunn-Dickinson of the Long Names"}};
+    ASSERT_EQ(GameFile(store, path).create(details, players, players), GameFileProblem::None);
+    ASSERT_EQ(live.open(path), GameFileProblem::None);
+    ASSERT_TRUE(live.setOnCourt({0b11110, 0}));
+    for (PlayerPanel* panel : {&full, &empty}) {
+      panel->applyColours();
+      panel->showGame(live);
+      relabel(*panel, texts);
+      panel->resize(panel->sizeHint());
+      panel->show();
+      ASSERT_TRUE(QTest::qWaitForWindowExposed(panel));
+    }
+  }
+  template <class Widget = QWidget>
+  static Widget& find(const PlayerPanel& panel, const char* name) {
+    auto* found = panel.findChild<Widget*>(QLatin1String(name));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  QString text(const char* name) const { return find<QLabel>(full, name).text(); }
+  // Where units of the shown court lie in its widget.
+  static QPoint onCourt(const QWidget& court, double x, double y) {
+    return {static_cast<int>((x + 0.5) * court.width() / court::kLength),
+            static_cast<int>((y + 0.5) * court.height() / court::kWidth)};
+  }
+
+  TemporaryFolder folder;
+  FileSystem files;
+  cinifile store{files};
+  ManualTime time;
+  Texts texts;
+  Settings settings{store, folder.path()};
+  std::string path = folder.path("panel.GAM");
+  LiveGame live{store, time};
+  PlayerPanel full{3, settings, texts};
+  PlayerPanel empty{4, settings, texts};
+};
+
+TEST_F(PlayerPanelTest, ShowsThePlayerAndEveryCount) {
+  EXPECT_EQ(text("lblID(3)"), QStringLiteral("4"));
+  EXPECT_EQ(text("lblNO(3)"), QStringLiteral("7"));
+  EXPECT_TRUE(text("lblNom(3)").endsWith(QChar(0x2026))) << "cut";
+  EXPECT_TRUE(find<QLabel>(full, "lblNom(3)").toolTip().endsWith(QStringLiteral("Long Names")));
+  EXPECT_EQ(text("lblTOTpct(3)"), QStringLiteral("0.0%"));
+  ASSERT_TRUE(live.recordShot(0, 4, EventCode::GFG, true, {{20, 90}}));
+  ASSERT_TRUE(live.recordShot(0, 4, EventCode::GF3, true, {{110, 90}}));
+  ASSERT_TRUE(live.recordShot(0, 4, EventCode::GDK, false));
+  for (const EventKind& kind : eventKinds()) {
+    if (!kind.isShot) {
+      ASSERT_TRUE(live.recordAction(0, 4, kind.code));
+    }
+  }
+  full.showGame(live);
+  const std::pair<const char*, const char*> expected[] = {
+      {"lblFG(3)", "1"},         {"lblFGA(3)", "1"},   {"lblFGpts(3)", "2"}, {"lblF3(3)", "1"},
+      {"lblF3a(3)", "1"},        {"lblF3pts(3)", "3"}, {"lblDK(3)", "0"},    {"lblDKA(3)", "1"},
+      {"lblDKpts(3)", "0"},      {"lblFTa(3)", "0"},   {"lblTOT(3)", "2"},   {"lblTOTa(3)", "3"},
+      {"lblTOTpct(3)", "66.7%"}, {"lblPTS(3)", "5"},   {"lblA(3)", "1"},     {"lblBS(3)", "1"},
+      {"lblDRB(3)", "1"},        {"lblORB(3)", "1"},   {"lblFAUTE(3)", "1"}, {"lblTFAUTE(3)", "1"},
+      {"lblST(3)", "1"},         {"lblTO(3)", "1"},    {"lblAUTRE(3)", "1"}, {"lblAUTRE2(3)", "1"}};
+  for (const auto& [name, count] : expected)
+    EXPECT_EQ(text(name), QLatin1String(count)) << name;
+
+  live.start();
+  time.now += 61;
+  live.tick();
+  full.showTime(live);
+  EXPECT_EQ(text("lblTIME(3)"), QStringLiteral("01:01"));
+  EXPECT_EQ(find(full, "cmdBUTU1(3)").toolTip(), QStringLiteral("Charge"));
+  EXPECT_EQ(find(full, "cmdBUTU2(3)").toolTip(), QStringLiteral("Deflection")) << "the game has none";
+}
+
+TEST_F(PlayerPanelTest, FoulsAreMarkedBySignAndColour) {
+  const auto fillOfButton = [&] {
+    return find(full, "cmdBUTF(3)").grab().toImage().pixelColor(4, find(full, "cmdBUTF(3)").height() - 5);
+  };
+  const QString usual = text("lblPF(3)");
+  ASSERT_TRUE(live.recordAction(0, 4, EventCode::SPF));
+  full.showGame(live);
+  EXPECT_EQ(text("lblPF(3)"), QStringLiteral("PF 1!"));
+  EXPECT_EQ(fillOfButton(), Theme::accent());
+  ASSERT_TRUE(live.recordAction(0, 4, EventCode::SPF));
+  full.showGame(live);
+  EXPECT_EQ(text("lblPF(3)"), QStringLiteral("PF 2\u2298"));
+  EXPECT_TRUE(find<QLabel>(full, "lblPF(3)").font().bold());
+  EXPECT_EQ(fillOfButton(), Theme::missed());
+  ASSERT_TRUE(live.undo());
+  ASSERT_TRUE(live.undo());
+  full.showGame(live);
+  EXPECT_EQ(text("lblPF(3)"), usual);
+  EXPECT_EQ(fillOfButton(), colourOf(settings.buttonColour));
+}
+
+TEST_F(PlayerPanelTest, TextOnButtonsStandsOutFromTheirColour) {
+  for (const QColor& colour : {QColor(Qt::black), QColor(Qt::white)}) {
+    settings.buttonColour = storedColour(colour);
+    full.applyColours();
+    const QLabel& count = find<QLabel>(full, "lblST(3)");
+    EXPECT_EQ(count.palette().color(count.foregroundRole()), textOn(colour));
+    const QImage button = find(full, "cmdBUTST(3)").grab().toImage();
+    int contrasting = 0; // pixels of caption and count
+    for (int x = 3; x < button.width() - 3; ++x) {
+      for (int y = 3; y < button.height() - 3; ++y)
+        contrasting += button.pixelColor(x, y) == textOn(colour) ? 1 : 0;
+    }
+    EXPECT_GT(contrasting, 10);
+  }
+}
+
+TEST_F(PlayerPanelTest, ButtonsSayWhatTheyRecordWhenTheyArePressed) {
+  QSignalSpy shots(&full, &PlayerPanel::shotPressed);
+  QSignalSpy actions(&full, &PlayerPanel::actionPressed);
+  const auto lastKind = [](QSignalSpy& spy) { return spy.last().at(1).value<EventCode>(); };
+  const std::pair<const char*, EventCode> shotButtons[] = {{"cmdBUTFT(3)", EventCode::GFT},
+                                                           {"cmdBUTLUG(3)", EventCode::GLG},
+                                                           {"cmdBUTLUD(3)", EventCode::GLD},
+                                                           {"cmdBUTPB(3)", EventCode::GPB},
+                                                           {"cmdBUTDK(3)", EventCode::GDK}};
+  for (const auto& [name, code] : shotButtons) {
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+      const qsizetype before = shots.count();
+      QTest::mousePress(&find(full, name), button);
+      ASSERT_EQ(shots.count(), before + 1) << name;
+      QTest::mouseRelease(&find(full, name), button);
+      EXPECT_EQ(shots.count(), before + 1) << name;
+      EXPECT_EQ(shots.last().at(0).toInt(), 3);
+      EXPECT_EQ(lastKind(shots), code) << name;
+      EXPECT_EQ(shots.last().at(2).toBool(), button == Qt::LeftButton);
+    }
+  }
+  const std::pair<const char*, EventCode> actionButtons[] = {
+      {"cmdBUTA(3)", EventCode::SA},    {"cmdBUTBS(3)", EventCode::SBS}, {"cmdBUTDRB(3)", EventCode::SDR},
+      {"cmdBUTORB(3)", EventCode::SOR}, {"cmdBUTF(3)", EventCode::SPF},  {"cmdBUTTF(3)", EventCode::STF},
+      {"cmdBUTST(3)", EventCode::SST},  {"cmdBUTTO(3)", EventCode::STO}, {"cmdBUTU1(3)", EventCode::SU1},
+      {"cmdBUTU2(3)", EventCode::SU2}};
+  for (const auto& [name, code] : actionButtons) {
+    const qsizetype before = actions.count();
+    QTest::mouseClick(&find(full, name), Qt::RightButton);
+    EXPECT_EQ(actions.count(), before) << name;
+    QTest::mousePress(&find(full, name), Qt::LeftButton);
+    ASSERT_EQ(actions.count(), before + 1) << name;
+    QTest::mouseRelease(&find(full, name), Qt::LeftButton);
+    EXPECT_EQ(lastKind(actions), code) << name;
+  }
+  const qsizetype before = actions.count();
+  QTest::mouseClick(&find(full, "cmdBUTST(3)"), Qt::LeftButton);
+  QTest::mouseDClick(&find(full, "cmdBUTST(3)"), Qt::LeftButton);
+  EXPECT_EQ(actions.count(), before + 2) << "two fast presses";
+  QTest::keyClick(&find(full, "cmdBUTST(3)"), Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_EQ(actions.count(), before + 3);
+}
+
+TEST_F(PlayerPanelTest, ASecondButtonWhileOneIsHeldIsIgnored) {
+  QSignalSpy shots(&full, &PlayerPanel::shotPressed);
+  QSignalSpy places(&full, &PlayerPanel::courtPressed);
+  QWidget& court = find(full, "CourtJ(3)");
+  for (QWidget* widget : {&find(full, "cmdBUTFT(3)"), &court}) {
+    const QPoint position = onCourt(*widget, 30, 100);
+    QMouseEvent both(QEvent::MouseButtonPress, position, widget->mapToGlobal(position), Qt::RightButton,
+                     Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &both);
+  }
+  EXPECT_EQ(shots.count() + places.count(), 0);
+}
+
+TEST_F(PlayerPanelTest, TheCourtSaysWhereItWasPressedAndRefusesLines) {
+  QSignalSpy places(&full, &PlayerPanel::courtPressed);
+  QWidget& court = find(full, "CourtJ(3)");
+  const auto press = [&](double x, double y, Qt::MouseButton button) {
+    const qsizetype before = places.count();
+    QTest::mousePress(&court, button, {}, onCourt(court, x, y));
+    EXPECT_EQ(places.count(), before + 1);
+    QTest::mouseRelease(&court, button, {}, onCourt(court, x, y));
+  };
+  const auto isNear = [&](double x, double y) {
+    const QPointF place = places.last().at(1).toPointF();
+    return std::abs(place.x() - x) <= 3 && std::abs(place.y() - y) <= 3 &&
+           place.x() == std::floor(place.x()) && place.y() == std::floor(place.y());
+  };
+  press(30, 100, Qt::LeftButton);
+  ASSERT_EQ(places.count(), 1);
+  EXPECT_TRUE(isNear(30, 100));
+  EXPECT_TRUE(places.last().at(2).toBool());
+  press(110, 180, Qt::RightButton);
+  ASSERT_EQ(places.count(), 2);
+  EXPECT_TRUE(isNear(110, 180));
+  EXPECT_FALSE(places.last().at(2).toBool());
+  press(60, 60, Qt::LeftButton);
+  QTest::mouseDClick(&court, Qt::LeftButton, {}, onCourt(court, 60, 60));
+  EXPECT_EQ(places.count(), 4);
+
+  // Along a straight way out of the box, some pixels are line, and there the pointer forbids.
+  const auto refusedOnTheWay = [&] {
+    int refused = 0;
+    for (int x = court.width() / 2; x < court.width() - 3; ++x) {
+      const qsizetype before = places.count();
+      const QPoint position(x, court.height() / 2);
+      QTest::mouseMove(&court, position);
+      QTest::mouseClick(&court, Qt::LeftButton, {}, position);
+      const bool isRefused = places.count() == before;
+      EXPECT_EQ(court.cursor().shape() == Qt::ForbiddenCursor, isRefused) << x;
+      refused += isRefused ? 1 : 0;
+    }
+    return refused;
+  };
+  const int refused = refusedOnTheWay();
+  EXPECT_GE(refused, 1);
+  EXPECT_LE(refused, 6);
+  full.setPlaysRight(true);
+  EXPECT_EQ(refusedOnTheWay(), 0) << "the box lies at the other end now";
+  press(30, 100, Qt::LeftButton);
+  EXPECT_TRUE(isNear(30, 100)) << "as shown, whichever side it is";
+}
+
+TEST_F(PlayerPanelTest, AnEmptyPanelIsAFrameAndSaysNothing) {
+  QSignalSpy shots(&empty, &PlayerPanel::shotPressed);
+  QSignalSpy actions(&empty, &PlayerPanel::actionPressed);
+  QSignalSpy places(&empty, &PlayerPanel::courtPressed);
+  for (const auto* widget : full.findChildren<QWidget*>()) {
+    const QPoint place = widget->mapTo(&full, widget->rect().center());
+    QTest::mouseClick(empty.windowHandle(), Qt::LeftButton, {}, place);
+  }
+  EXPECT_EQ(shots.count() + actions.count() + places.count(), 0);
+  EXPECT_FALSE(find(empty, "CourtJ(4)").isVisible());
+  EXPECT_EQ(empty.accessibleName(), toQt(texts.text(1117)));
+
+  ASSERT_TRUE(live.toggleOnCourt(0, 4));
+  full.showGame(live);
+  EXPECT_FALSE(find(full, "CourtJ(3)").isVisible());
+  ASSERT_TRUE(live.toggleOnCourt(0, 4));
+  full.showGame(live);
+  EXPECT_TRUE(find(full, "CourtJ(3)").isVisible());
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,304 @@
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/LiveGame.h"
+#include "live/ManualTime.h"
+#include "live/ScorePanel.h"
+#include "live/frmGAMEOVER.h"
+#include "live/frmOVERTIME.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TemporaryFolder.h"
+#include "support/TextGame.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTest>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace hooptab {
+namespace {
+
+class ScorePanelTest : public testing::Test {
+ protected:
+  void open(const std::string& periods, const std::string& details = {}, bool hasTime = true) {
+    const std::string path = folder.path("panel.GAM");
+    std::string game = textOfGame(periods, "BONUS=2\n" + details);
+    if (!hasTime)
+      game.replace(game.find("DUREE=10"), 8, "DUREE=0");
+    std::ofstream(path) << game;
+    ASSERT_EQ(live.open(path), GameFileProblem::None);
+    panel.showGame(live);
+    around.show();
+    around.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&around));
+  }
+  template <typename T = QLabel>
+  T* find(const char* name) {
+    return panel.findChild<T*>(QLatin1String(name));
+  }
+  QAbstractButton* button(const char* name) { return find<QAbstractButton>(name); }
+  QString text(const char* name) { return find(name)->text(); }
+  void press(const char* name) { QTest::mouseClick(find<QWidget>(name), Qt::LeftButton); }
+
+  TemporaryFolder folder;
+  FileSystem disk;
+  cinifile store{disk};
+  ManualTime time;
+  Texts texts;
+  LiveGame live{store, time};
+  QWidget around;
+  ScorePanel& panel = *new ScorePanel(texts, &around);
+};
+
+TEST_F(ScorePanelTest, ShowsScoreFoulsAndLead) {
+  open("[PERIODE1]\n1=10:00,DEPART\n2=09:00,GFG,0-4,1,1\n3=08:00,SPF,1-3\n4=08:00,STF,1-3\n"
+       "5=07:30,ARRET,IN-,IN-\n",
+       "EQUIPE0COL=255\n");
+  EXPECT_EQ(text("lblPTS0"), QStringLiteral("2"));
+  EXPECT_EQ(text("lblFTE0"), QStringLiteral("0"));
+  EXPECT_EQ(text("lblFTE1"), QStringLiteral("◆ 2"));
+  EXPECT_TRUE(find("lblFTE1")->font().bold());
+  EXPECT_FALSE(find("lblFTE0")->font().bold());
+  EXPECT_EQ(find("lblFTE1")->palette().color(QPalette::WindowText), Theme::missed());
+  EXPECT_NE(find("lblFTE0")->palette().color(QPalette::WindowText), Theme::missed());
+  EXPECT_TRUE(find("lblFTE1")->toolTip().contains(toQt(texts.text(1943))));
+  EXPECT_EQ(text("txtPOSTemps(0)") + text("txtPOSNb(0)"), QStringLiteral("01:30×1"));
+  EXPECT_EQ(text("txtPOSTemps(2)"), QStringLiteral("01:00"));
+  EXPECT_EQ(find<QWidget>("pictTEAM(0)")->palette().color(QPalette::Window), QColor(255, 0, 0));
+  EXPECT_EQ(button("cmdCOUL(0)")->text(), QStringLiteral("PAN"));
+
+  // Only what the clock changes.
+  live.start();
+  panel.showGame(live);
+  EXPECT_EQ(button("cmdSTART")->text(), QStringLiteral("STOP"));
+  EXPECT_FALSE(button("cmdTEMPS(0)")->isEnabled());
+  EXPECT_FALSE(button("UpDoPERIOD(0)")->isEnabled());
+  time.now += 20;
+  panel.showTime(live);
+  EXPECT_EQ(text("lblTEMPS"), QStringLiteral("07:10"));
+  EXPECT_EQ(text("txtPOSTemps(0)"), QStringLiteral("01:50"));
+  live.recordShot(1, 1, EventCode::GF3, true);
+  panel.showGame(live);
+  time.now += 5;
+  panel.showTime(live);
+  EXPECT_EQ(text("txtPOSTemps(0)"), QStringLiteral("01:50")) << "the lead has changed";
+  EXPECT_EQ(text("txtPOSTemps(1)"), QStringLiteral("00:05"));
+}
+
+TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
+  open("[PERIODE2]\n1=05:00,SPF,0-4\n");
+  QSignalSpy start(&panel, &ScorePanel::startAsked);
+  QSignalSpy period(&panel, &ScorePanel::periodAsked);
+  QSignalSpy clock(&panel, &ScorePanel::clockAsked);
+  QSignalSpy colour(&panel, &ScorePanel::colourAsked);
+  QSignalSpy sides(&panel, &ScorePanel::switchAsked);
+  QSignalSpy back(&panel, &ScorePanel::returnAsked);
+  QTest::mousePress(button("cmdSTART"), Qt::LeftButton);
+  EXPECT_EQ(start.size(), 1) << "on the press already";
+  QTest::mouseRelease(button("cmdSTART"), Qt::LeftButton);
+  EXPECT_EQ(start.size(), 1);
+  press("UpDoPERIOD(0)");
+  press("UpDoPERIOD(1)");
+  EXPECT_EQ(period.takeFirst().at(0), 3);
+  EXPECT_EQ(period.takeFirst().at(0), 1);
+  press("cmdTEMPS(0)");
+  press("cmdTEMPS(1)");
+  EXPECT_EQ(clock.takeFirst().at(0), 301);
+  EXPECT_EQ(clock.takeFirst().at(0), 299);
+  press("cmdCOUL(1)");
+  press("lblPTS0");
+  QTest::mouseClick(find<QWidget>("pictTEAM(1)"), Qt::RightButton);
+  ASSERT_EQ(colour.size(), 2);
+  EXPECT_EQ(colour[0].at(0), 1);
+  EXPECT_EQ(colour[1].at(0), 0);
+
+  EXPECT_TRUE(button("cmdSWITCH")->text().endsWith(QStringLiteral("PAN")));
+  press("cmdSWITCH");
+  EXPECT_EQ(sides.size(), 1);
+  panel.setSides(true);
+  EXPECT_TRUE(button("cmdSWITCH")->text().endsWith(QStringLiteral("OLY")));
+
+  EXPECT_FALSE(button("cmdRETURN")->isVisible());
+  live.start();
+  time.now += 300;
+  live.tick();
+  panel.showGame(live);
+  EXPECT_EQ(text("lblPERIOD"), QStringLiteral("3"));
+  EXPECT_FALSE(button("cmdTEMPS(0)")->isEnabled()) << "the clock is full";
+  ASSERT_TRUE(button("cmdRETURN")->isVisible());
+  press("cmdRETURN");
+  EXPECT_EQ(back.size(), 1);
+}
+
+TEST_F(ScorePanelTest, TakesAClockTypedAndLeavesItAlone) {
+  open("[PERIODE1]\n1=05:00,SPF,0-4\n");
+  QSignalSpy clock(&panel, &ScorePanel::clockAsked);
+  auto* field = find<QLineEdit>("txtTEMPS");
+  around.setFocus();
+  const auto type = [&](const char* typed, Qt::Key end) {
+    QTest::mouseDClick(find("lblTEMPS"), Qt::LeftButton);
+    EXPECT_TRUE(field->hasFocus());
+    QTest::keyClicks(field, QLatin1String(typed));
+    QTest::keyClick(field, end);
+    return field->isVisible();
+  };
+  EXPECT_FALSE(type("7:05", Qt::Key_Return));
+  ASSERT_EQ(clock.size(), 1);
+  EXPECT_EQ(clock.takeFirst().at(0), 425);
+  EXPECT_EQ(QApplication::focusWidget(), &around) << "and not a button, which Space would press";
+  EXPECT_TRUE(type("10:01", Qt::Key_Return)) << "more than the period";
+  EXPECT_TRUE(type("425", Qt::Key_Return));
+  EXPECT_FALSE(type("3:00", Qt::Key_Escape));
+  EXPECT_FALSE(type("3:00", Qt::Key_Tab));
+  EXPECT_EQ(clock.size(), 0);
+  live.start();
+  panel.showGame(live);
+  QTest::mouseDClick(find("lblTEMPS"), Qt::LeftButton);
+  EXPECT_FALSE(field->isVisible()) << "the clock runs";
+}
+
+TEST_F(ScorePanelTest, WithoutTimeOffersNoClock) {
+  open("[PERIODE1]\n1=00:00,SPF,0-4\n", {}, false);
+  EXPECT_EQ(text("lblTEMPS"), QStringLiteral("--:--"));
+  EXPECT_EQ(text("txtPOSTemps(2)"), QStringLiteral("--:--"));
+  for (const char* name : {"cmdSTART", "cmdTEMPS(0)", "cmdTEMPS(1)"}) {
+    EXPECT_FALSE(button(name)->isEnabled()) << name;
+    EXPECT_EQ(button(name)->toolTip(), toQt(texts.text(1383)).trimmed()) << name;
+  }
+  EXPECT_TRUE(button("UpDoPERIOD(0)")->isEnabled());
+}
+
+TEST_F(ScorePanelTest, SaysInWordsWhatIsNotOnDiskInTheLanguageInUse) {
+  open("[PERIODE1]\n1=05:00,SPF,0-4\n");
+  panel.showDisk(false, 3);
+  EXPECT_EQ(text("lblDISK"), QStringLiteral("Not saved: 3"));
+  EXPECT_EQ(find("lblDISK")->palette().color(QPalette::WindowText), Theme::missed());
+  texts.setLanguage(Language::French);
+  relabel(panel, texts);
+  panel.relabelPanel();
+  EXPECT_EQ(text("lblDISK"), QStringLiteral("Non sauvé : 3"));
+  EXPECT_EQ(button("cmdSTART")->text(), QStringLiteral("DÉPART"));
+  panel.showDisk(true, 0);
+  EXPECT_EQ(text("lblDISK"), QStringLiteral("✓"));
+}
+
+template <typename T>
+T* child(QDialog& dialog, const char* name) {
+  return dialog.findChild<T*>(QLatin1String(name));
+}
+QString captionOf(QDialog& dialog, const char* name) {
+  return child<QAbstractButton>(dialog, name)->text().remove(u'&');
+}
+
+TEST(Overtime, TakesMinutesAndFouls) {
+  const Texts texts;
+  GameDetails details;
+  details.minutesPerPeriod = 10;
+  frmOVERTIME dialog(details, texts);
+  EXPECT_EQ(child<QLabel>(dialog, "lblTEMPS")->text(), QStringLiteral("10:00"));
+  child<QSpinBox>(dialog, "UpDown1")->setValue(5);
+  EXPECT_EQ(child<QLabel>(dialog, "lblTEMPS")->text(), QStringLiteral("05:00"));
+  EXPECT_FALSE(dialog.keepsFouls());
+  child<QCheckBox>(dialog, "Check1")->click();
+  child<QAbstractButton>(dialog, "cmdOK")->click();
+  EXPECT_EQ(dialog.result(), QDialog::Accepted);
+  EXPECT_EQ(dialog.minutes(), 5);
+  EXPECT_TRUE(dialog.keepsFouls());
+  frmOVERTIME left(details, texts);
+  left.show();
+  QTest::keyClick(&left, Qt::Key_Escape);
+  EXPECT_FALSE(left.isVisible());
+  EXPECT_EQ(left.result(), QDialog::Rejected);
+  details.minutesPerPeriod = 120;
+  EXPECT_EQ(frmOVERTIME(details, texts).minutes(), 99);
+}
+
+class GameOver : public testing::Test {
+ protected:
+  using Choice = frmGAMEOVER::Choice;
+  GameOver() { details.notes = "Before"; }
+  Texts texts;
+  ScriptedDialogs dialogs;
+  GameDetails details;
+};
+
+TEST_F(GameOver, ClosesOrContinuesWithTheNotesOnOneLine) {
+  frmGAMEOVER closing(details, texts, dialogs);
+  EXPECT_EQ(captionOf(closing, "cmd1"), toQt(texts.text(1145)));
+  EXPECT_EQ(captionOf(closing, "cmd2"), toQt(texts.text(1144)));
+  auto* notes = child<QPlainTextEdit>(closing, "txtNOTES");
+  EXPECT_EQ(notes->toPlainText(), QStringLiteral("Before"));
+  notes->setPlainText(QStringLiteral("One\ntwo"));
+  child<QAbstractButton>(closing, "cmd1")->click();
+  EXPECT_EQ(closing.choice(), Choice::Close);
+  EXPECT_EQ(closing.notes(), "One two");
+  frmGAMEOVER going(details, texts, dialogs);
+  child<QAbstractButton>(going, "cmd2")->click();
+  EXPECT_EQ(going.choice(), Choice::Continue);
+  EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(GameOver, ReopensAFinishedGame) {
+  details.isFinished = true;
+  texts.setLanguage(Language::French);
+  frmGAMEOVER reopening(details, texts, dialogs);
+  EXPECT_EQ(captionOf(reopening, "cmd1"), QStringLiteral("Ouvrir la partie"));
+  EXPECT_EQ(captionOf(reopening, "cmd2"), QStringLiteral("Fermer"));
+  QTest::keyClicks(child<QPlainTextEdit>(reopening, "txtNOTES"), QStringLiteral("x"));
+  EXPECT_EQ(reopening.notes(), "Before");
+  child<QAbstractButton>(reopening, "cmd1")->click();
+  EXPECT_EQ(reopening.choice(), Choice::Reopen);
+  frmGAMEOVER closing(details, texts, dialogs);
+  child<QAbstractButton>(closing, "cmd2")->click();
+  EXPECT_EQ(closing.choice(), Choice::None);
+}
+
+TEST_F(GameOver, LosesNoNotesWithoutAWord) {
+  struct Case {
+    bool isChanged;
+    SaveChoice answer;
+    Choice expected;
+    bool stays;
+  };
+  for (const Case& one : {Case{false, SaveChoice::Stay, Choice::None, false},
+                          Case{true, SaveChoice::Save, Choice::Continue, false},
+                          Case{true, SaveChoice::Discard, Choice::None, false},
+                          Case{true, SaveChoice::Stay, Choice::None, true}}) {
+    dialogs.shown.clear();
+    dialogs.nextSaveChoice = one.answer;
+    frmGAMEOVER dialog(details, texts, dialogs);
+    dialog.show();
+    if (one.isChanged)
+      QTest::keyClicks(child<QPlainTextEdit>(dialog, "txtNOTES"), QStringLiteral("!"));
+    if (one.answer == SaveChoice::Discard)
+      dialog.close(); // the box of the window
+    else
+      QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_EQ(dialogs.shown.size(), one.isChanged ? 1U : 0U);
+    EXPECT_EQ(dialog.choice(), one.expected);
+    EXPECT_EQ(dialog.isVisible(), one.stays);
+    EXPECT_EQ(dialog.notes(), one.isChanged ? "Before!" : "Before");
+  }
+}
+
+TEST_F(GameOver, TakesNoMoreNotesThanTheFileGivesBack) {
+  frmGAMEOVER dialog(details, texts, dialogs);
+  auto* notes = child<QPlainTextEdit>(dialog, "txtNOTES");
+  notes->setPlainText(QString(253, u'é'));
+  notes->moveCursor(QTextCursor::End);
+  QTest::keyClicks(notes, QStringLiteral("ab"));
+  EXPECT_EQ(notes->toPlainText(), QString(253, u'é') + u'a');
+  EXPECT_EQ(child<QLabel>(dialog, "lblLENGTH")->text(), QStringLiteral("254 of 254"));
+  QTest::keyClick(notes, Qt::Key_Backspace);
+  EXPECT_EQ(notes->toPlainText().size(), 253) << "the cursor stays where it was";
+  notes->insertPlainText(QStringLiteral("much too long"));
+  EXPECT_EQ(notes->toPlainText(), QString(253, u'é'));
+}
+
+} // namespace
+} // namespace hooptab
