@@ -39,7 +39,6 @@ constexpr int kClockForm = 1934;
 constexpr int kBack = 1935;
 constexpr int kBackHint = 1936;
 constexpr int kOnDisk = 1937;
-constexpr int kNotOnDisk = 1938;
 constexpr int kNotOnDiskHint = 1939;
 constexpr int kPlaysLeft = 1940;
 constexpr int kInBonus = 1943;
@@ -47,8 +46,10 @@ constexpr int kPeriodByHand = 1944;
 
 constexpr int kWidth = 250;
 constexpr int kGap = 3;
-constexpr int kPlateWidth = (kWidth - kGap) / 2;
+constexpr int kSwitchWidth = 26;
+constexpr int kPlateWidth = (kWidth - kSwitchWidth) / 2 - kGap;
 constexpr int kPlateMargin = 4;
+constexpr int kArrowRoom = 30;
 constexpr int kPlateHeight = 52;
 constexpr int kClockWidth = 172;
 constexpr int kClockHeight = 50;
@@ -56,7 +57,7 @@ constexpr int kPeriodHeight = 24;
 constexpr int kStartHeight = 36;
 constexpr int kSecondWidth = 36;
 constexpr int kSmallHeight = 24;
-constexpr int kSwitchWidth = 92;
+constexpr int kDiskWidth = 16;
 
 constexpr int kNamePoints = 10;
 constexpr int kScorePoints = 22;
@@ -66,7 +67,7 @@ constexpr int kLongClockPoints = 28; // for 100 minutes and more
 constexpr int kPeriodPoints = 13;
 constexpr int kStartPoints = 15;
 constexpr int kLeadPoints = 9;
-constexpr int kDiskPoints = 8;
+constexpr int kDiskPoints = 10;
 constexpr int kHundredMinutes = 6000;
 constexpr int kTiedPlace = static_cast<int>(LeadState::Tied);
 
@@ -106,12 +107,13 @@ ScorePanel::ScorePanel(const Texts& texts, QWidget* parent) : QWidget(parent), m
   auto* plates = new QWidget(this);
   QBoxLayout* teams = rowIn(*plates);
   teams->addWidget(makePlate(0));
+  teams->addWidget(makeSwitch());
   teams->addWidget(makePlate(1));
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
-  for (QWidget* part : {plates, makeFouls(), makeClock(), makeButtons(), makeLeads(), makeFoot()})
+  for (QWidget* part : {plates, makeFouls(), makeClock(), makeButtons(), makeLeads()})
     layout->addWidget(part);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   relabel(*this, texts);
@@ -160,6 +162,15 @@ QWidget* ScorePanel::makePlate(int team) {
   layout->addWidget(side.name);
   layout->addWidget(side.points);
   return side.plate;
+}
+
+// Between the teams, as high as they are.
+QWidget* ScorePanel::makeSwitch() {
+  m_switch = smallButton(QStringLiteral("cmdSWITCH"), {}, kSwitchSides);
+  m_switch->setIcon(icon(QStringLiteral("switch")));
+  m_switch->setFixedSize(kSwitchWidth, kPlateHeight);
+  connect(m_switch, &QToolButton::clicked, this, &ScorePanel::switchAsked);
+  return m_switch;
 }
 
 QWidget* ScorePanel::makeFouls() {
@@ -231,6 +242,14 @@ QWidget* ScorePanel::makeButtons() {
   connect(m_earlier, &QToolButton::pressed, this, [this] { emit clockAsked(m_game->clockSeconds() - 1); });
   connect(m_later, &QToolButton::pressed, this, [this] { emit clockAsked(m_game->clockSeconds() + 1); });
 
+  m_return = smallButton(QStringLiteral("cmdRETURN"), {}, kBackHint);
+  setTextNumber(*m_return, kBack);
+  m_return->setFixedSize(2 * kSecondWidth + kGap, kStartHeight); // it takes the place of the two
+  connect(m_return, &QToolButton::clicked, this, &ScorePanel::returnAsked);
+  m_return->hide();
+  m_disk = label(QStringLiteral("lblDISK"), bold(font(), kDiskPoints));
+  m_disk->setFixedWidth(kDiskWidth);
+
   QBoxLayout* row = rowIn(*buttons);
   row->addWidget(m_start, 1);
   for (QToolButton* button : {m_earlier, m_later}) {
@@ -238,6 +257,8 @@ QWidget* ScorePanel::makeButtons() {
     button->setFont(Theme::figures(kFoulPoints));
     row->addWidget(button);
   }
+  row->addWidget(m_return);
+  row->addWidget(m_disk);
   for (QWidget* button :
        {static_cast<QWidget*>(m_start), static_cast<QWidget*>(m_earlier), static_cast<QWidget*>(m_later)})
     button->setEnabled(false);
@@ -272,31 +293,6 @@ QWidget* ScorePanel::makeLeads() {
       setToolTipNumber(*part, kTimeInLeadHint);
   }
   return leads;
-}
-
-QWidget* ScorePanel::makeFoot() {
-  auto* foot = new QWidget(this);
-  m_switch = smallButton(QStringLiteral("cmdSWITCH"), {}, kSwitchSides);
-  m_switch->setIcon(icon(QStringLiteral("switch")));
-  m_switch->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  m_switch->setFixedWidth(kSwitchWidth);
-  connect(m_switch, &QToolButton::clicked, this, &ScorePanel::switchAsked);
-  m_return = smallButton(QStringLiteral("cmdRETURN"), {}, kBackHint);
-  setTextNumber(*m_return, kBack);
-  connect(m_return, &QToolButton::clicked, this, &ScorePanel::returnAsked);
-  QSizePolicy keepsPlace = m_return->sizePolicy(); // so that nothing moves when it comes and goes
-  keepsPlace.setRetainSizeWhenHidden(true);
-  m_return->setSizePolicy(keepsPlace);
-  m_return->hide();
-  m_disk = label(QStringLiteral("lblDISK"), bold(font(), kDiskPoints));
-  m_disk->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  m_disk->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-
-  QBoxLayout* row = rowIn(*foot);
-  row->addWidget(m_switch);
-  row->addWidget(m_return);
-  row->addWidget(m_disk, 1);
-  return foot;
 }
 
 QString ScorePanel::abbreviation(std::size_t team) const {
@@ -339,9 +335,6 @@ void ScorePanel::showTeam(std::size_t team) {
     for (QWidget* part : {side.plate, static_cast<QWidget*>(side.name), static_cast<QWidget*>(side.points)})
       colour(*part, own);
   }
-  const QString name =
-      side.name->fontMetrics().elidedText(abbreviation(team), Qt::ElideRight, kPlateWidth - 4 * kPlateMargin);
-  side.name->setText(QString(name).replace(u'&', QLatin1String("&&")));
   side.points->setText(QString::number(m_game->state().points(number)));
   side.points->setToolTip(caption(m_texts, kPointsByPeriod) + u'\n' +
                           toQt(shownByPeriod(*m_game, number, ByPeriod::Points, m_texts)));
@@ -383,7 +376,10 @@ void ScorePanel::showClockButtons() {
   const bool canChangePeriod = !isRunning && phase != Phase::Finished;
   m_nextPeriod->setEnabled(canChangePeriod);
   m_previousPeriod->setEnabled(canChangePeriod && m_game->period() > 1);
-  m_return->setVisible(canChangePeriod && m_game->canReturnToEndedPeriod());
+  const bool canReturn = canChangePeriod && m_game->canReturnToEndedPeriod();
+  m_return->setVisible(canReturn);
+  m_earlier->setVisible(!canReturn);
+  m_later->setVisible(!canReturn);
 }
 
 void ScorePanel::setSides(bool team0PlaysRight) {
@@ -391,23 +387,26 @@ void ScorePanel::setSides(bool team0PlaysRight) {
   showSides();
 }
 
+// The arrow at a team's name points to its side of the court.
 void ScorePanel::showSides() {
-  const std::size_t left = m_team0PlaysRight ? 1 : 0;
-  const QString text =
-      m_switch->fontMetrics().elidedText(QStringLiteral("◂ ") + abbreviation(left), Qt::ElideRight,
-                                         kSwitchWidth - m_switch->iconSize().width() - 4 * kPlateMargin);
-  m_switch->setText(QString(text).replace(u'&', QLatin1String("&&")));
-  m_switch->setToolTip(caption(m_texts, kSwitchSides) + u'\n' +
-                       toQt(m_texts.withPlaceholder(kPlaysLeft, fromQt(abbreviation(left)))));
+  for (std::size_t team = 0; team < 2; ++team) {
+    QToolButton& plate = *m_sides[team].name;
+    const bool playsRight = (team == 1) != m_team0PlaysRight;
+    QString name = plate.fontMetrics().elidedText(abbreviation(team), Qt::ElideRight, kPlateWidth - kArrowRoom);
+    name.replace(u'&', QLatin1String("&&"));
+    plate.setText(playsRight ? name + QStringLiteral(" ▸") : QStringLiteral("◂ ") + name);
+  }
+  m_switch->setToolTip(
+      caption(m_texts, kSwitchSides) + u'\n' +
+      toQt(m_texts.withPlaceholder(kPlaysLeft, fromQt(abbreviation(m_team0PlaysRight ? 1 : 0)))));
 }
 
 void ScorePanel::showDisk(bool isOnDisk, std::size_t waiting) {
   m_isOnDisk = isOnDisk;
   m_waiting = waiting;
-  const std::string count = std::to_string(waiting);
-  m_disk->setText(isOnDisk ? QStringLiteral("✓") : toQt(m_texts.withPlaceholder(kNotOnDisk, count)));
+  m_disk->setText(isOnDisk ? QStringLiteral("✓") : QStringLiteral("✕"));
   m_disk->setToolTip(isOnDisk ? caption(m_texts, kOnDisk)
-                              : toQt(m_texts.withPlaceholder(kNotOnDiskHint, count)));
+                              : toQt(m_texts.withPlaceholder(kNotOnDiskHint, std::to_string(waiting))));
   m_disk->setAccessibleName(m_disk->toolTip());
   colourText(*m_disk, isOnDisk ? Theme::made() : Theme::missed());
 }

@@ -60,11 +60,11 @@ class ScorePanel : public QWidget {
   QLabel* label(const QString& name, const QFont& font);
   QToolButton* smallButton(const QString& name, const QString& text, int toolTip);
   QWidget* makePlate(int team);
+  QWidget* makeSwitch();
   QWidget* makeFouls();
   QWidget* makeClock();
   QWidget* makeButtons();
   QWidget* makeLeads();
-  QWidget* makeFoot();
   void showTeam(std::size_t team);
   void showClockButtons();
   void showSides();

@@ -70,7 +70,7 @@ TEST_F(ScorePanelTest, ShowsScoreFoulsAndLead) {
   EXPECT_EQ(text("txtPOSTemps(0)") + text("txtPOSNb(0)"), QStringLiteral("01:30×1"));
   EXPECT_EQ(text("txtPOSTemps(2)"), QStringLiteral("01:00"));
   EXPECT_EQ(find<QWidget>("pictTEAM(0)")->palette().color(QPalette::Window), QColor(255, 0, 0));
-  EXPECT_EQ(button("cmdCOUL(0)")->text(), QStringLiteral("PAN"));
+  EXPECT_EQ(button("cmdCOUL(0)")->text(), QStringLiteral("◂ PAN"));
 
   // Only what the clock changes.
   live.start();
@@ -117,11 +117,13 @@ TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
   EXPECT_EQ(colour[0].at(0), 1);
   EXPECT_EQ(colour[1].at(0), 0);
 
-  EXPECT_TRUE(button("cmdSWITCH")->text().endsWith(QStringLiteral("PAN")));
+  const QString right = QStringLiteral("▸");
+  EXPECT_TRUE(button("cmdCOUL(1)")->text().endsWith(right));
   press("cmdSWITCH");
   EXPECT_EQ(sides.size(), 1);
   panel.setSides(true);
-  EXPECT_TRUE(button("cmdSWITCH")->text().endsWith(QStringLiteral("OLY")));
+  EXPECT_TRUE(button("cmdCOUL(0)")->text().endsWith(right));
+  EXPECT_FALSE(button("cmdCOUL(1)")->text().endsWith(right));
 
   EXPECT_FALSE(button("cmdRETURN")->isVisible());
   live.start();
@@ -176,12 +178,12 @@ TEST_F(ScorePanelTest, WithoutTimeOffersNoClock) {
 TEST_F(ScorePanelTest, SaysInWordsWhatIsNotOnDiskInTheLanguageInUse) {
   open("[PERIODE1]\n1=05:00,SPF,0-4\n");
   panel.showDisk(false, 3);
-  EXPECT_EQ(text("lblDISK"), QStringLiteral("Not saved: 3"));
+  EXPECT_EQ(text("lblDISK"), QStringLiteral("✕"));
   EXPECT_EQ(find("lblDISK")->palette().color(QPalette::WindowText), Theme::missed());
   texts.setLanguage(Language::French);
   relabel(panel, texts);
   panel.relabelPanel();
-  EXPECT_EQ(text("lblDISK"), QStringLiteral("Non sauvé : 3"));
+  EXPECT_TRUE(find("lblDISK")->toolTip().contains(QStringLiteral("disque : 3")));
   EXPECT_EQ(button("cmdSTART")->text(), QStringLiteral("DÉPART"));
   panel.showDisk(true, 0);
   EXPECT_EQ(text("lblDISK"), QStringLiteral("✓"));
