@@ -13,9 +13,19 @@ std::string_view readable(const std::string& line) {
   return std::string_view(line).substr(0, cinifile::kLongestValue);
 }
 
-bool isAddedAtTheEnd(const EventChange& step, const EventLines& lines) {
-  return step.kind == EventChange::Kind::Add && step.before.empty() &&
-         (lines.empty() || lines.rbegin()->first <= step.period);
+// New events of the last period, or of one behind it. What recording does, hundreds of times a game, so it
+// takes no copy of all lines.
+bool isAppending(const std::vector<EventChange>& steps, const EventLines& lines) {
+  int period = lines.empty() ? 0 : lines.rbegin()->first;
+  std::vector<std::string_view> keys;
+  for (const EventChange& step : steps) {
+    if (step.kind != EventChange::Kind::Add || !step.before.empty() || step.period < period ||
+        findLine(lines, step.period, step.key) != nullptr || std::ranges::find(keys, step.key) != keys.end())
+      return false;
+    period = step.period;
+    keys.push_back(step.key);
+  }
+  return true;
 }
 
 } // namespace
@@ -37,27 +47,34 @@ GameFileProblem LiveLog::open(const std::string& path) {
 }
 
 bool LiveLog::change(const std::vector<EventChange>& steps) {
-  EventLines changed = m_lines;
-  bool isAppended = true;
+  return isAppending(steps, m_lines) ? append(steps) : rewrite(steps);
+}
+
+bool LiveLog::append(const std::vector<EventChange>& steps) {
   for (const EventChange& step : steps) {
-    isAppended = isAppended && isAddedAtTheEnd(step, changed);
-    if (!applyChange(step, changed))
-      return false;
-  }
-  m_lines = std::move(changed);
-  m_writes.write([this, path = m_game.path, steps] {
-    return GameFile(m_store, path).change(steps) == GameFileProblem::None;
-  });
-  if (!isAppended) {
-    readEvents();
-    countAll();
-    return true;
-  }
-  for (const EventChange& step : steps) {
+    m_lines[step.period].emplace_back(step.key, step.line);
     m_game.events.appendOwned(static_cast<std::uint8_t>(step.period), step.key, readable(step.line));
     m_tally->apply(m_game.events[m_game.events.size() - 1], m_game.events.size() - 1);
   }
+  write(steps);
   return true;
+}
+
+bool LiveLog::rewrite(const std::vector<EventChange>& steps) {
+  EventLines changed = m_lines;
+  if (!std::ranges::all_of(steps, [&](const EventChange& step) { return applyChange(step, changed); }))
+    return false;
+  m_lines = std::move(changed);
+  write(steps);
+  readEvents();
+  countAll();
+  return true;
+}
+
+void LiveLog::write(const std::vector<EventChange>& steps) {
+  m_writes.write([this, path = m_game.path, steps] {
+    return GameFile(m_store, path).change(steps) == GameFileProblem::None;
+  });
 }
 
 void LiveLog::setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues) {

@@ -46,6 +46,9 @@ class LiveLog {
   [[nodiscard]] bool countsAgree() const;
 
  private:
+  bool append(const std::vector<EventChange>& steps);
+  bool rewrite(const std::vector<EventChange>& steps);
+  void write(const std::vector<EventChange>& steps);
   void readEvents();
   void countAll();
 

@@ -392,7 +392,8 @@ void ScorePanel::showSides() {
   for (std::size_t team = 0; team < 2; ++team) {
     QToolButton& plate = *m_sides[team].name;
     const bool playsRight = (team == 1) != m_team0PlaysRight;
-    QString name = plate.fontMetrics().elidedText(abbreviation(team), Qt::ElideRight, kPlateWidth - kArrowRoom);
+    QString name =
+        plate.fontMetrics().elidedText(abbreviation(team), Qt::ElideRight, kPlateWidth - kArrowRoom);
     name.replace(u'&', QLatin1String("&&"));
     plate.setText(playsRight ? name + QStringLiteral(" ▸") : QStringLiteral("◂ ") + name);
   }
