@@ -285,7 +285,7 @@ void CourtPicture::paintMarks(QPainter& painter, const QRectF& fitted, Turn turn
   const QTransform transform = fromCourt(fitted, turn);
   const double pixel = pixelOf(painter);
   constexpr double kRadiusUnits = 2;
-  const double radius = std::clamp(kRadiusUnits * scaleOf(fitted, turn), 2.5 * pixel, 8 * pixel);
+  const double radius = std::clamp(kRadiusUnits * scaleOf(fitted, turn), 3.2 * pixel, 8 * pixel);
   for (const bool isHighlighted : {false, true}) { // highlighted ones lie above all others
     for (const CourtMark& mark : marks) {
       const Place place = atEdge(mark.place);
