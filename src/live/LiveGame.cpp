@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstdio>
+#include <cstdlib>
 
 namespace hooptab {
 
@@ -39,9 +41,10 @@ bool isStop(const std::string& line) {
 
 LiveGame::LiveGame(cinifile& store, TimeSource& time) : m_log(store), m_time(time) {}
 
-GameFileProblem LiveGame::open(const std::string& path) {
+GameFileProblem LiveGame::open(const std::string& path, Access access) {
   if (const GameFileProblem problem = m_log.open(path); problem != GameFileProblem::None)
     return problem;
+  m_access = access;
   m_history.clear();
   m_slots = {};
   m_endedPeriod = 0;
@@ -67,8 +70,8 @@ void LiveGame::showAsLeft() {
   m_clock.set(last == nullptr ? fullLength() : last->clockSeconds);
   if (last != nullptr && last->code == EventCode::ARRET && last->clockSeconds == 0 && hasTime())
     closePeriod();
-  if (game().details.isFinished) {
-    m_phase = Phase::Finished;
+  if (m_access == Access::Reading || game().details.isFinished) {
+    m_phase = m_access == Access::Reading ? Phase::ReadOnly : Phase::Finished;
     return;
   }
   // A team that is its own one player stands on court from the beginning.
@@ -114,6 +117,8 @@ void LiveGame::toggleClock() {
 void LiveGame::start() {
   if (!hasTime() || m_phase != Phase::Stopped)
     return;
+  if (isStopLost())
+    recordStop();
   if (clockSeconds() == 0)
     return closePeriod();
   m_endedPeriod = 0;
@@ -132,8 +137,34 @@ void LiveGame::stop() {
     closePeriod();
 }
 
+bool LiveGame::isStopLost() const {
+  return hasTime() && m_phase == Phase::Stopped && isRunningBefore(m_log.lines(), m_period, {});
+}
+
+bool LiveGame::settleStop(int clockSeconds) {
+  if (!isStopLost() || clockSeconds < 0)
+    return false;
+  m_clock.set(clockSeconds); // of an overtime, too, whose length is in no file
+  recordStop();
+  if (clockSeconds == 0)
+    closePeriod();
+  return true;
+}
+
+// Counts that differ from those of all events counted anew would be wrong ones on the screen, and nobody would
+// see it: a build for development stops there. The events are on disk.
+void LiveGame::checkCounts() const {
+#ifndef NDEBUG
+  if (const std::string difference = m_log.difference(); !difference.empty()) {
+    std::fprintf(stderr, "counts of %s differ from its events: %s\n", game().path.c_str(), difference.c_str());
+    std::abort();
+  }
+#endif
+}
+
 void LiveGame::recordStop() {
   m_log.change({added(lineOf(stopText(onCourt())))});
+  checkCounts();
 }
 
 void LiveGame::tick() {
@@ -149,7 +180,7 @@ bool LiveGame::setClock(int seconds) {
 }
 
 bool LiveGame::setPeriod(int period) {
-  if (m_phase == Phase::Running || m_phase == Phase::Finished || period < 1 || period > kMostPeriods)
+  if (m_phase == Phase::Running || !canRecord() || period < 1 || period > kMostPeriods)
     return false;
   if (period == m_period)
     return true;
@@ -190,7 +221,7 @@ void LiveGame::closePeriod() {
 }
 
 bool LiveGame::returnToEndedPeriod() {
-  if (!canReturnToEndedPeriod() || m_phase == Phase::Running || m_phase == Phase::Finished)
+  if (!canReturnToEndedPeriod() || m_phase == Phase::Running || !canRecord())
     return false;
   m_period = m_endedPeriod;
   m_endedPeriod = 0;
@@ -212,13 +243,16 @@ bool LiveGame::beginOvertime(int minutes, bool keepsFouls) {
 }
 
 void LiveGame::finish(const std::string& notes) {
+  if (m_phase == Phase::ReadOnly)
+    return;
   stop();
   m_log.setDetails({{"TERMINE", "1"}, {"NOTES", notes}});
   m_phase = Phase::Finished;
 }
 
 void LiveGame::saveNotes(const std::string& notes) {
-  m_log.setDetails({{"NOTES", notes}});
+  if (m_phase != Phase::ReadOnly)
+    m_log.setDetails({{"NOTES", notes}});
 }
 
 void LiveGame::reopen() {
@@ -229,7 +263,8 @@ void LiveGame::reopen() {
 }
 
 void LiveGame::setTeamColour(int team, std::uint32_t colour) {
-  m_log.setDetails({{"EQUIPE" + std::to_string(team) + "COL", std::to_string(colour)}});
+  if (m_phase != Phase::ReadOnly)
+    m_log.setDetails({{"EQUIPE" + std::to_string(team) + "COL", std::to_string(colour)}});
 }
 
 // --- Players
@@ -454,7 +489,7 @@ bool LiveGame::isFouledOut(int team, int player) const {
 
 bool LiveGame::take(int text, const EventEdit& edit, bool isWhole) {
   m_conflict = edit.conflict();
-  if (m_phase == Phase::Finished || !isWhole || edit.steps().empty() ||
+  if (!canRecord() || !isWhole || edit.steps().empty() ||
       !done(text, edit.steps(), edit.back()))
     return false;
   putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, m_log.rosters()));
@@ -471,7 +506,7 @@ void LiveGame::decideAgain() {
 // Takes an action's steps to the letter; only stops that came after it, which no action of the user made, are
 // taken on by what has changed before them.
 bool LiveGame::turn(const LiveAction& action, std::vector<EventChange>& inverse) {
-  if (m_phase == Phase::Finished)
+  if (!canRecord())
     return false;
   const Rosters rosters = m_log.rosters();
   EventEdit edit(m_log.lines(), rosters);

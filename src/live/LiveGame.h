@@ -26,7 +26,8 @@ class LiveGame {
   LiveGame(cinifile& store, TimeSource& time);
 
   // Shows the game as it was left. On a problem the game that was open stays.
-  [[nodiscard]] GameFileProblem open(const std::string& path);
+  enum class Access { Recording, Reading };
+  [[nodiscard]] GameFileProblem open(const std::string& path, Access access = Access::Recording);
 
   const Game& game() const { return m_log.game(); }
   const GameState& state() const { return m_log.state(); }
@@ -40,8 +41,10 @@ class LiveGame {
     OvertimeAsked, // the last period ended with equal scores: beginOvertime() or nothing
     Decided,       // the last period ended with different scores: "---"
     Finished,      // closed by the user: nothing can be recorded until it is reopened
+    ReadOnly,      // opened for reading: nothing can be recorded or reopened
   };
   Phase phase() const { return m_phase; }
+  bool canRecord() const { return m_phase != Phase::Finished && m_phase != Phase::ReadOnly; }
   bool hasTime() const { return m_log.game().details.minutesPerPeriod > 0; }
   int period() const { return m_period; }
   bool isOvertime() const { return m_period > m_log.game().details.periods; }
@@ -53,6 +56,10 @@ class LiveGame {
   void stop();
   // To be called once a second or more often while the clock runs; stops at 00:00.
   void tick();
+  // The clock stands, but the events say that it runs: the game was left without a stop. The next start puts it
+  // in, at the clock shown; so does settleStop(), at that clock.
+  bool isStopLost() const;
+  bool settleStop(int clockSeconds);
   // While the clock stands, in a game with time: sets what remains, at most the length of a period.
   bool setClock(int seconds);
   // By hand, while the clock stands; 1 and up.
@@ -132,11 +139,11 @@ class LiveGame {
   const std::optional<EventPlace>& conflict() const { return m_conflict; }
 
  private:
-  bool canRecord() const { return m_phase != Phase::Finished; }
   std::string lineOf(const std::string& eventText) const; // at the present clock
   EventChange added(const std::string& line);
   bool record(const std::string& eventText, int text);
   void recordStop();
+  void checkCounts() const;
   void leavePeriod();
   void closePeriod();
   void showAsLeft();
@@ -152,6 +159,7 @@ class LiveGame {
   bool turn(const LiveAction& action, std::vector<EventChange>& inverse);
 
   LiveLog m_log;
+  Access m_access = Access::Recording;
   TimeSource& m_time;
   GameClock m_clock;
   LiveHistory m_history;

@@ -41,6 +41,7 @@ GameFileProblem LiveLog::open(const std::string& path) {
   m_nextNumber = file.nextNumber();
   m_game = std::move(game);
   m_lines = std::move(lines);
+  m_writes = {}; // what another game still had to write is its own affair, and was asked about
   m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
   countAll();
   return GameFileProblem::None;
@@ -101,19 +102,33 @@ void LiveLog::countAll() {
     m_tally->apply(event, index++);
 }
 
-bool LiveLog::countsAgree() const {
+std::string LiveLog::difference() const {
   GameState fresh;
   (void)Tally::run(fresh, m_game.events, m_game.roster[0], m_game.roster[1]);
-  const auto isEqual = [](const auto& left, const auto& right) {
-    return left.counters == right.counters && left.seconds == right.seconds;
+  std::string found;
+  const auto compare = [&found](const std::string& what, const auto& left, const auto& right) {
+    if (!(left == right))
+      found += (found.empty() ? "" : ", ") + what;
   };
   for (std::size_t team = 0; team < 2; ++team) {
-    if (!std::ranges::equal(fresh.players[team], m_state.players[team], isEqual) ||
-        !std::ranges::equal(fresh.lines[team], m_state.lines[team], isEqual) ||
-        fresh.points(static_cast<int>(team)) != m_state.points(static_cast<int>(team)))
-      return false;
+    const std::string side = "team " + std::to_string(team) + " ";
+    const auto compareEntries = [&](const std::string& what, const auto& left, const auto& right) {
+      for (std::size_t entry = 0; entry < left.size(); ++entry) {
+        const std::string name = side + what + std::to_string(entry);
+        compare(name + " counts", left[entry].counters, right[entry].counters);
+        compare(name + " seconds", left[entry].seconds, right[entry].seconds);
+      }
+    };
+    compareEntries("player ", fresh.players[team], m_state.players[team]);
+    compareEntries("line ", fresh.lines[team], m_state.lines[team]);
+    compare(side + "points", fresh.points(static_cast<int>(team)), m_state.points(static_cast<int>(team)));
+    for (std::size_t period = 0; period < fresh.periods[team].size(); ++period)
+      compare(side + "fouls of period " + std::to_string(period), fresh.periods[team][period].fouls,
+              m_state.periods[team][period].fouls);
   }
-  return fresh.lead.seconds == m_state.lead.seconds && fresh.lead.times == m_state.lead.times;
+  compare("seconds in lead", fresh.lead.seconds, m_state.lead.seconds);
+  compare("changes of lead", fresh.lead.times, m_state.lead.times);
+  return found;
 }
 
 } // namespace hooptab

@@ -42,8 +42,10 @@ class LiveLog {
   std::size_t waiting() const { return m_writes.size(); }
   bool retry() { return m_writes.retry(); } // whether everything is on disk now
 
-  // Whether counting all events anew finds what counting them one by one has found.
-  [[nodiscard]] bool countsAgree() const;
+  // In which counts all events, counted anew, differ from what counting them one by one has found; empty when
+  // both agree, as they must.
+  [[nodiscard]] std::string difference() const;
+  [[nodiscard]] bool countsAgree() const { return difference().empty(); }
 
  private:
   bool append(const std::vector<EventChange>& steps);

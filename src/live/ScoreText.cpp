@@ -37,7 +37,8 @@ std::string startShown(const LiveGame& game, const Texts& texts) {
   switch (game.phase()) {
   case LiveGame::Phase::Running: return texts.caption(kStop);
   case LiveGame::Phase::Decided:
-  case LiveGame::Phase::Finished: return std::string(kOver);
+  case LiveGame::Phase::Finished:
+  case LiveGame::Phase::ReadOnly: return std::string(kOver);
   case LiveGame::Phase::Stopped:
   case LiveGame::Phase::OvertimeAsked: break;
   }
