@@ -5,6 +5,7 @@
 #include "live/JerseyButton.h"
 #include "live/LiveGame.h"
 #include "live/PlayerWords.h"
+#include "live/SelectedPlayer.h"
 #include "live/frmSUBST.h"
 
 #include <QAction>
@@ -25,14 +26,11 @@ constexpr int kSeveral = 1946;
 constexpr int kSeveralTip = 1947;
 constexpr int kAllOut = 1948;
 constexpr int kAllOutTip = 1949;
-constexpr int kSelectedTip = 1952;
-constexpr int kNobodySelected = 1953;
 
 constexpr int kWidth = 250;
 constexpr int kColumns = 5;
 constexpr QSize kButton(48, 28);
 constexpr int kGap = 2;
-constexpr int kNumberWidth = 40;
 constexpr int kRowHeight = 24;
 
 QToolButton* buttonFor(QAction& action, const char* name, QWidget* parent) {
@@ -56,7 +54,10 @@ BenchPanel::BenchPanel(const Texts& texts, QWidget* parent) : QWidget(parent), m
   layout->addWidget(makeCommands());
   for (int team = 0; team < 2; ++team)
     layout->addWidget(makeTeam(team));
-  layout->addWidget(makeSelection());
+  m_selection = new SelectedPlayer(texts, this);
+  connect(m_selection, &SelectedPlayer::actionAsked, this,
+          [this](EventCode kind) { emit actionAsked(m_selectedTeam, m_selectedPlayer, kind); });
+  layout->addWidget(m_selection);
   relabel(*this, texts);
   showSelection();
 }
@@ -119,27 +120,6 @@ QWidget* BenchPanel::makeTeam(int team) {
   return roster;
 }
 
-QWidget* BenchPanel::makeSelection() {
-  auto* row = new QWidget(this);
-  auto* layout = new QHBoxLayout(row);
-  layout->setContentsMargins(0, 0, 0, 0);
-  m_number = new QLabel(row);
-  m_number->setObjectName(QStringLiteral("lblNO"));
-  m_number->setFixedSize(kNumberWidth, kRowHeight);
-  m_number->setAlignment(Qt::AlignCenter);
-  m_number->setFont(Theme::figures(10, true));
-  m_number->setAutoFillBackground(true);
-  m_name = new QLabel(row);
-  m_name->setObjectName(QStringLiteral("lblNom"));
-  // As wide as there is room, whoever's name it is.
-  m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  for (QLabel* label : {m_number, m_name})
-    setToolTipNumber(*label, kSelectedTip);
-  layout->addWidget(m_number);
-  layout->addWidget(m_name, 1);
-  return row;
-}
-
 bool BenchPanel::isSubstituting() const {
   return m_substitute->isChecked();
 }
@@ -150,7 +130,6 @@ void BenchPanel::press(int team, int player) {
     return;
   }
   select(team, player);
-  emit selected(team, player);
 }
 
 void BenchPanel::askSeveral() {
@@ -167,7 +146,7 @@ void BenchPanel::select(int team, int player) {
   m_selectedPlayer = player;
   if (m_game != nullptr)
     showGame(*m_game);
-  showSelection();
+  emit selected(team, player);
 }
 
 void BenchPanel::showPlace(const LiveGame& game, int team, int player) {
@@ -182,7 +161,7 @@ void BenchPanel::showPlace(const LiveGame& game, int team, int player) {
                   .colour = colourOf(game.game().details.teamColour[team]),
                   .isFilled = isOnCourt,
                   .isFouledOut = game.isFouledOut(team, player),
-                  .isSelected = team == m_selectedTeam && player == m_selectedPlayer});
+                  .isSelected = isSelected(team, player)});
   // In substitution mode the press itself puts a player in, so that nothing is left to drag.
   const bool canBeDragged = !isOnCourt && !isSubstituting();
   button.setDragText(canBeDragged ? QStringLiteral("%1-%2").arg(team).arg(player) : QString());
@@ -191,7 +170,7 @@ void BenchPanel::showPlace(const LiveGame& game, int team, int player) {
 
 void BenchPanel::showGame(const LiveGame& game) {
   m_game = &game;
-  const bool canRecord = game.phase() != LiveGame::Phase::Finished;
+  const bool canRecord = game.canRecord();
   m_substitute->setEnabled(canRecord);
   m_several->setEnabled(canRecord);
   for (int team = 0; team < 2; ++team) {
@@ -205,6 +184,7 @@ void BenchPanel::showGame(const LiveGame& game) {
     for (int player = 1; player <= kPlaces; ++player)
       showPlace(game, team, player);
   }
+  showSelection();
 }
 
 void BenchPanel::showTime(const LiveGame& game) {
@@ -218,18 +198,10 @@ void BenchPanel::showTime(const LiveGame& game) {
 }
 
 void BenchPanel::showSelection() {
-  const RosterPlayer* entry =
-      m_game == nullptr ? nullptr : m_game->game().roster[m_selectedTeam].player(m_selectedPlayer);
-  m_number->setText(entry == nullptr ? QString() : toQt(entry->jersey));
-  m_name->setText(entry == nullptr ? caption(m_texts, kNobodySelected) : toQt(entry->name));
-  m_name->setForegroundRole(entry == nullptr ? QPalette::PlaceholderText : QPalette::WindowText);
-  QPalette colours = palette();
-  if (entry != nullptr) {
-    const QColor colour = colourOf(m_game->game().details.teamColour[m_selectedTeam]);
-    colours.setColor(QPalette::Window, colour);
-    colours.setColor(QPalette::WindowText, textOn(colour));
-  }
-  m_number->setPalette(colours);
+  if (m_game != nullptr)
+    m_selection->showPlayer(*m_game, m_selectedTeam, m_selectedPlayer);
+  else
+    m_selection->showNobody();
 }
 
 void BenchPanel::showMode() {
@@ -245,7 +217,8 @@ void BenchPanel::showMode() {
 void BenchPanel::relabelPanel() {
   if (m_game != nullptr)
     showGame(*m_game);
-  showSelection();
+  else
+    showSelection();
 }
 
 void BenchPanel::applyColours() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "live/OnCourt.h"
+#include "storage/EventKind.h"
 
 #include <QWidget>
 
@@ -16,6 +17,7 @@ namespace hooptab {
 
 class JerseyButton;
 class LiveGame;
+class SelectedPlayer;
 class Texts;
 
 class BenchPanel : public QWidget {
@@ -27,16 +29,20 @@ class BenchPanel : public QWidget {
   // The game must live as long as the panel, or until another is shown.
   void showGame(const LiveGame& game);
   void showTime(const LiveGame& game); // the time on court in the tool tips
-  // The player of the next action, with lblNO and lblNom; a place without a player clears the selection.
+  // The player of the next action; a place without a player clears the selection.
   void select(int team, int player);
   void clearSelection() { select(0, 0); }
+  bool isSelected(int team, int player) const {
+    return player > 0 && team == m_selectedTeam && player == m_selectedPlayer;
+  }
   bool isSubstituting() const;
   void relabelPanel();
   void applyColours();
 
  signals:
   void toggled(int team, int player);  // in substitution mode
-  void selected(int team, int player); // outside of it; select() has been called
+  void selected(int team, int player); // another one, or nobody (player 0)
+  void actionAsked(int team, int player, hooptab::EventCode kind); // for a player of the bench
   void allOutAsked(int team);
   void onCourtAsked(hooptab::OnCourt onCourt); // from "several at once"
 
@@ -47,7 +53,6 @@ class BenchPanel : public QWidget {
   static constexpr int kPlaces = 15; // of a team
   QWidget* makeTeam(int team);
   QWidget* makeCommands();
-  QWidget* makeSelection();
   void press(int team, int player);
   void askSeveral();
   void showPlace(const LiveGame& game, int team, int player);
@@ -65,8 +70,7 @@ class BenchPanel : public QWidget {
   QAction* m_substitute = nullptr;
   QAction* m_several = nullptr;
   QWidget* m_commands = nullptr;
-  QLabel* m_number = nullptr;
-  QLabel* m_name = nullptr;
+  SelectedPlayer* m_selection = nullptr;
 };
 
 } // namespace hooptab

@@ -12,7 +12,7 @@ namespace hooptab {
 class GameLock {
  public:
   enum class Outcome { Held, HeldElsewhere, CannotBeMade };
-  // Gives up the game that was locked before, but only when the new one is Held.
+  // CannotBeMade also for a file that nobody may write. Gives up the game that was locked before, but only when the new one is Held.
   [[nodiscard]] Outcome acquire(const QString& game);
   // Who records the game elsewhere: "program, process 123 on HOST"; after HeldElsewhere.
   const QString& owner() const { return m_owner; }

@@ -343,7 +343,7 @@ void LiveEventPanel::showChecks() {
 }
 
 void LiveEventPanel::showCommands() {
-  const bool canEdit = m_game != nullptr && m_game->phase() != LiveGame::Phase::Finished;
+  const bool canEdit = m_game != nullptr && m_game->canRecord();
   bool canDelete = false;
   bool canRestore = false;
   for (const std::size_t event : selected()) {

@@ -205,6 +205,9 @@ void PlayerPanel::showGame(const LiveGame& game) {
     m_teamColour = colour;
     applyColours();
   }
+  m_court->setEnabled(game.canRecord());
+  for (const auto& [code, button] : m_buttons)
+    button->setEnabled(game.canRecord());
   for (std::size_t i = 0; i < m_ownLabels.size(); ++i)
     m_ownLabels[i] = details.statisticLabel[i];
   showOwnLabels();
@@ -275,6 +278,13 @@ void PlayerPanel::showFouls() {
 
 void PlayerPanel::setPlaysRight(bool playsRight) {
   m_court->setPlaysRight(playsRight);
+}
+
+void PlayerPanel::setSelected(bool isSelected) {
+  if (isSelected == m_isSelected)
+    return;
+  m_isSelected = isSelected;
+  update();
 }
 
 void PlayerPanel::relabelPanel() {
@@ -405,6 +415,11 @@ void PlayerPanel::paintEvent(QPaintEvent*) {
   painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
   constexpr int kStripe = 3;
   painter.fillRect(QRect(1, 1, width() - 2, kStripe), colourOf(m_teamColour));
+  if (m_isSelected) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Theme::accent(), kStripe, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(QRectF(rect()).adjusted(kStripe / 2.0, kStripe / 2.0, -kStripe / 2.0, -kStripe / 2.0));
+  }
   if (m_shown.player == 0) {
     painter.setPen(Theme::muted());
     painter.setFont(fontOf(height() * 0.045, false));

@@ -33,6 +33,7 @@ class PlayerPanel : public QWidget {
   void showGame(const LiveGame& game); // everything
   void showTime(const LiveGame& game); // the time on court alone
   void setPlaysRight(bool playsRight); // on the right-hand side of the court: the picture is turned round
+  void setSelected(bool isSelected); // for the next action: framed
   void relabelPanel();
   void applyColours();
   QSize sizeHint() const override;
@@ -61,6 +62,7 @@ class PlayerPanel : public QWidget {
   void layOutHead(const QRect& area, double scale);
 
   int m_slot;
+  bool m_isSelected = false;
   const Settings& m_settings;
   const Texts& m_texts;
   LivePanel m_shown;

@@ -356,7 +356,7 @@ void ScorePanel::showClockButtons() {
   const Phase phase = m_game->phase();
   const bool isRunning = phase == Phase::Running;
   const bool canSet = phase == Phase::Stopped && m_game->hasTime();
-  const bool canStart = m_game->hasTime() && phase != Phase::Decided && phase != Phase::Finished;
+  const bool canStart = m_game->hasTime() && phase != Phase::Decided && m_game->canRecord();
   m_start->setText(toQt(startShown(*m_game, m_texts)));
   m_start->setEnabled(canStart);
   if (canStart)
@@ -373,7 +373,7 @@ void ScorePanel::showClockButtons() {
   tip(*m_later, hasTime ? kSecondMore : kNoTime);
   tip(*m_earlier, hasTime ? kSecondLess : kNoTime);
 
-  const bool canChangePeriod = !isRunning && phase != Phase::Finished;
+  const bool canChangePeriod = !isRunning && m_game->canRecord();
   m_nextPeriod->setEnabled(canChangePeriod);
   m_previousPeriod->setEnabled(canChangePeriod && m_game->period() > 1);
   const bool canReturn = canChangePeriod && m_game->canReturnToEndedPeriod();

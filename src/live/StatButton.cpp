@@ -77,7 +77,9 @@ void StatButton::paintEvent(QPaintEvent*) {
   const QColor text = textOn(m_colour);
   const bool becomesDarker = text == QColor(Qt::white); // away from the text, so that it stays readable
   QColor fill = m_colour;
-  if (isPressed || underMouse())
+  if (!isEnabled())
+    painter.setOpacity(0.5);
+  else if (isPressed || underMouse())
     fill = becomesDarker ? fill.darker(isPressed ? 130 : 112) : fill.lighter(isPressed ? 130 : 112);
   painter.setBrush(fill);
   painter.setPen(palette().color(QPalette::Mid));

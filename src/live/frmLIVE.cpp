@@ -8,6 +8,7 @@
 #include "live/FollowUpBar.h"
 #include "live/JerseyButton.h"
 #include "live/LiveEventPanel.h"
+#include "live/LostStopStrip.h"
 #include "live/PlayerPanel.h"
 #include "live/ScorePanel.h"
 #include "live/frmGAMEOVER.h"
@@ -16,6 +17,7 @@
 #include "storage/Settings.h"
 
 #include <QBoxLayout>
+#include <QDateTime>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -37,7 +39,7 @@ constexpr int kDoesNotFit = 1917;
 constexpr int kWindowTitle = 1001;
 constexpr int kColourTitle = 1835;
 constexpr int kRecordedElsewhere = 1913;
-constexpr int kCannotBeLocked = 1914;
+constexpr int kForReadingOnly = 1914;
 constexpr int kNotOnDisk = 1915;
 constexpr int kLeaveUnwritten = 1916;
 
@@ -58,11 +60,10 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   m_timer.setObjectName(QStringLiteral("Timer1"));
   m_timer.setInterval(kTick);
   m_retryOfWrites.setInterval(kRetryInterval);
-  m_banner = new QLabel(this);
-  m_banner->setObjectName(QStringLiteral("lblNOTONDISK"));
-  m_banner->setAutoFillBackground(true);
-  m_banner->setAlignment(Qt::AlignCenter);
-  m_banner->hide();
+  m_banner = makeBanner("lblNOTONDISK");
+  m_readOnly = makeBanner("lblREADONLY");
+  m_lostStop = new LostStopStrip(m_texts, this);
+  m_lostStop->hide();
 
   auto* parts = new QHBoxLayout;
   parts->setSpacing(kGap);
@@ -71,13 +72,25 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kGap, kGap, kGap, kGap);
   layout->setSpacing(kGap);
-  layout->addWidget(m_banner);
+  for (QWidget* strip : {static_cast<QWidget*>(m_banner), static_cast<QWidget*>(m_readOnly),
+                         static_cast<QWidget*>(m_lostStop)})
+    layout->addWidget(strip);
   layout->addLayout(parts, 1);
   m_followUp = new FollowUpBar(m_texts, this);
   connectEverything();
 }
 
 frmLIVE::~frmLIVE() = default;
+
+QLabel* frmLIVE::makeBanner(const char* name) {
+  auto* banner = new QLabel(this);
+  banner->setObjectName(QLatin1String(name));
+  banner->setAutoFillBackground(true);
+  banner->setAlignment(Qt::AlignCenter);
+  banner->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // no wider than the window, whoever's path
+  banner->hide();
+  return banner;
+}
 
 // The visitors' five above the home team's.
 QWidget* frmLIVE::makePanels() {
@@ -133,6 +146,11 @@ void frmLIVE::connectEverything() {
     m_game.setClock(seconds);
     showGame();
   });
+  connect(m_lostStop, &LostStopStrip::clockChosen, this, [this](int seconds) {
+    const LiveGame::Phase before = m_game.phase();
+    m_game.settleStop(seconds);
+    afterClock(before);
+  });
   connect(m_score, &ScorePanel::colourAsked, this, &frmLIVE::chooseColour);
   connect(m_bench, &BenchPanel::toggled, this, [this](int team, int player) {
     m_game.toggleOnCourt(team, player);
@@ -143,6 +161,8 @@ void frmLIVE::connectEverything() {
     showGame();
   });
   connect(m_bench, &BenchPanel::onCourtAsked, this, &frmLIVE::setOnCourt);
+  connect(m_bench, &BenchPanel::selected, this, &frmLIVE::showSelected);
+  connect(m_bench, &BenchPanel::actionAsked, this, &frmLIVE::record);
   connect(m_followUp, &FollowUpBar::assistChosen, this, [this](int slot) { act(slot, EventCode::SA); });
   connect(m_followUp, &FollowUpBar::reboundChosen, this,
           [this](int slot, bool isOffensive) { act(slot, isOffensive ? EventCode::SOR : EventCode::SDR); });
@@ -169,6 +189,7 @@ void frmLIVE::connectEverything() {
     connect(shortcut, &QShortcut::activated, this, handler);
   };
   onKey(Qt::Key_Space, &frmLIVE::toggleClock);
+  onKey(Qt::Key_Escape, [this] { m_bench->clearSelection(); });
   onKey(QKeySequence::Undo, [this] { edit(&LiveGame::undo); });
   onKey(QKeySequence::Redo, [this] { edit(&LiveGame::redo); });
 }
@@ -176,18 +197,25 @@ void frmLIVE::connectEverything() {
 frmLIVE::Opening frmLIVE::open(const QString& path) {
   GameLock lock;
   const GameLock::Outcome outcome = lock.acquire(path);
-  if (outcome != GameLock::Outcome::Held && QFileInfo(path) != QFileInfo(this->path())) {
-    const bool isElsewhere = outcome == GameLock::Outcome::HeldElsewhere;
+  const bool isOpenHere = QFileInfo(path) == QFileInfo(this->path());
+  if (outcome == GameLock::Outcome::HeldElsewhere && !isOpenHere) {
     m_dialogs.warn(this, toQt(m_texts.text(kErrorTitle)),
-                   toQt(m_texts.withPlaceholder(isElsewhere ? kRecordedElsewhere : kCannotBeLocked,
-                                                fromQt(isElsewhere ? lock.owner() : path))));
+                   toQt(m_texts.withPlaceholder(kRecordedElsewhere, fromQt(lock.owner()))));
     return Opening::Refused;
   }
-  m_problem = m_game.open(fromQt(QFileInfo(path).absoluteFilePath()));
+  if (!mayClose()) // what is open now
+    return Opening::Refused;
+  const qint64 fileTime = QFileInfo(path).lastModified().toSecsSinceEpoch();
+  m_problem = m_game.open(fromQt(QFileInfo(path).absoluteFilePath()),
+                          outcome == GameLock::Outcome::CannotBeMade ? LiveGame::Access::Reading
+                                                                     : LiveGame::Access::Recording);
   if (m_problem != GameFileProblem::None)
     return Opening::Problem;
-  if (outcome == GameLock::Outcome::Held)
+  if (outcome != GameLock::Outcome::HeldElsewhere) // by this window, that is
     m_lock = std::move(lock);
+  m_followUp->dismiss();
+  m_bench->clearSelection();
+  m_lostStop->offer(LostStop::of(m_game.clockSeconds(), fileTime, QDateTime::currentSecsSinceEpoch()));
   relabelWindow();
   emit commandStateChanged();
   return Opening::Opened;
@@ -202,13 +230,21 @@ void frmLIVE::showGame() {
     panel->showGame(m_game);
   m_score->showGame(m_game);
   m_bench->showGame(m_game);
+  showSelected();
   m_events->showGame(m_game);
   showDisk();
+  m_lostStop->setVisible(m_game.isStopLost());
   const auto& details = m_game.game().details;
   setWindowTitle(QStringLiteral("%1 - %2 %3 - %4 %5")
                      .arg(toQt(m_texts.text(kWindowTitle)), toQt(details.abbreviation[0]),
                           QString::number(m_game.state().points(0)),
                           QString::number(m_game.state().points(1)), toQt(details.abbreviation[1])));
+}
+
+void frmLIVE::showSelected() {
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot)
+    m_panels[static_cast<std::size_t>(slot)]->setSelected(
+        m_bench->isSelected(LiveGame::teamOf(slot), m_game.playerIn(slot)));
 }
 
 void frmLIVE::showTime() {
@@ -221,6 +257,7 @@ void frmLIVE::showTime() {
 void frmLIVE::showDisk() {
   const bool isOnDisk = m_game.log().isOnDisk();
   m_score->showDisk(isOnDisk, m_game.log().waiting());
+  m_readOnly->setVisible(m_game.phase() == LiveGame::Phase::ReadOnly);
   m_banner->setVisible(!isOnDisk);
   if (!isOnDisk) {
     m_banner->setText(toQt(m_texts.withPlaceholder(kNotOnDisk, std::to_string(m_game.log().waiting()))));
@@ -270,6 +307,8 @@ void frmLIVE::askOvertime() {
 }
 
 void frmLIVE::gameOver() {
+  if (m_game.phase() == LiveGame::Phase::ReadOnly)
+    return m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)), m_readOnly->text());
   const LiveGame::Phase before = m_game.phase();
   m_game.stop();
   if (before == LiveGame::Phase::Running)
@@ -294,8 +333,11 @@ void frmLIVE::pressCourt(int slot, const QPointF& place, bool isMade) {
 }
 
 void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
-  if (!m_game.recordShot(LiveGame::teamOf(slot), m_game.playerIn(slot), kind, isMade, place))
+  const int team = LiveGame::teamOf(slot);
+  if (!m_game.recordShot(team, m_game.playerIn(slot), kind, isMade, place))
     return;
+  if (m_bench->isSelected(team, m_game.playerIn(slot)))
+    m_bench->clearSelection();
   showGame();
   afterShot(slot, kind, isMade);
 }
@@ -308,7 +350,14 @@ void frmLIVE::afterShot(int slot, EventCode kind, bool isMade) {
 }
 
 void frmLIVE::act(int slot, EventCode kind) {
-  m_game.recordAction(LiveGame::teamOf(slot), m_game.playerIn(slot), kind);
+  record(LiveGame::teamOf(slot), m_game.playerIn(slot), kind);
+}
+
+// A player is selected for one action: a finger that slips onto the button twice gives no second foul.
+void frmLIVE::record(int team, int player, EventCode kind) {
+  m_game.recordAction(team, player, kind);
+  if (m_bench->isSelected(team, player))
+    m_bench->clearSelection();
   showGame();
 }
 
@@ -347,6 +396,8 @@ void frmLIVE::switchSides() {
 }
 
 void frmLIVE::chooseColour(int team) {
+  if (m_game.phase() == LiveGame::Phase::ReadOnly)
+    return;
   const std::uint32_t colour = m_game.game().details.teamColour[team];
   const QColor chosen = m_dialogs.chooseColour(this, toQt(m_texts.text(kColourTitle)), colourOf(colour));
   if (!chosen.isValid())
@@ -365,6 +416,8 @@ void frmLIVE::relabelWindow() {
     panel->relabelPanel();
     panel->setPlaysRight(playsRight(slot));
   }
+  m_readOnly->setText(toQt(m_texts.withPlaceholder(kForReadingOnly, m_game.game().path)));
+  m_lostStop->relabelPanel();
   m_score->relabelPanel();
   m_score->setSides(m_isSwitched);
   m_bench->relabelPanel();
@@ -378,6 +431,7 @@ void frmLIVE::applyColours() {
   palette.setColor(QPalette::Window, Theme::missed());
   palette.setColor(QPalette::WindowText, textOn(Theme::missed()));
   m_banner->setPalette(palette);
+  m_lostStop->applyColours();
   for (PlayerPanel* panel : m_panels)
     panel->applyColours();
   m_score->applyColours();

@@ -20,6 +20,7 @@ class BenchPanel;
 class Dialogs;
 class FollowUpBar;
 class LiveEventPanel;
+class LostStopStrip;
 class PlayerPanel;
 class ScorePanel;
 class Settings;
@@ -33,8 +34,8 @@ class frmLIVE : public ChildWindow {
           QWidget* parent = nullptr);
   ~frmLIVE() override;
 
-  // A game that is recorded elsewhere, or cannot be written, is refused with a message of its own. On every
-  // problem what was open stays.
+  // A game that is recorded elsewhere is refused with a message of its own; one that cannot be written opens
+  // for reading. On every problem what was open stays.
   enum class Opening { Opened, Refused, Problem };
   [[nodiscard]] Opening open(const QString& path);
   GameFileProblem problem() const { return m_problem; } // after Problem
@@ -57,10 +58,12 @@ class frmLIVE : public ChildWindow {
   void commandStateChanged(); // the clock was started or stopped
 
  private:
+  QLabel* makeBanner(const char* name);
   QWidget* makePanels();
   QWidget* makeSide();
   void connectEverything();
   void showGame();
+  void showSelected();
   void showTime();
   void showDisk();
   void tick();
@@ -75,6 +78,7 @@ class frmLIVE : public ChildWindow {
              std::optional<std::pair<double, double>> place = std::nullopt);
   void pressCourt(int slot, const QPointF& place, bool isMade);
   void act(int slot, EventCode kind);
+  void record(int team, int player, EventCode kind);
   bool playsRight(int slot) const { return (LiveGame::teamOf(slot) == 1) != m_isSwitched; }
   void chooseColour(int team);
 
@@ -90,6 +94,8 @@ class frmLIVE : public ChildWindow {
   QTimer m_retryOfWrites;
 
   QLabel* m_banner = nullptr;
+  QLabel* m_readOnly = nullptr;
+  LostStopStrip* m_lostStop = nullptr;
   std::array<PlayerPanel*, LiveGame::kSlots> m_panels = {};
   ScorePanel* m_score = nullptr;
   BenchPanel* m_bench = nullptr;

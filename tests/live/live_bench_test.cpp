@@ -8,10 +8,12 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 #include <gtest/gtest.h>
 
 namespace hooptab {
@@ -126,12 +128,39 @@ TEST_F(BenchPanelTest, APressSelectsAndInSubstitutionModePutsInOrOut) {
   EXPECT_EQ(toggled, (Players{{0, 6}, {0, 1}, {0, 1}}));
   press(jersey(panel, 1), Qt::RightButton);
   EXPECT_EQ(toggled.size(), 3U);
-  EXPECT_EQ(selected.size(), 1U);
+  EXPECT_EQ(selected.size(), 2U) << "one and nobody: nothing was selected in substitution mode";
 
   QSignalSpy allOut(&panel, &BenchPanel::allOutAsked);
   find<QPushButton>(panel, "cmdOUTALL(1)").click();
   ASSERT_EQ(allOut.size(), 1);
   EXPECT_EQ(allOut[0][0], 1);
+}
+
+TEST_F(BenchPanelTest, APlayerOfTheBenchIsGivenHisFoulsHere) {
+  std::vector<std::string> asked;
+  QObject::connect(&panel, &BenchPanel::actionAsked, [&](int team, int player, EventCode kind) {
+    asked.push_back(std::to_string(team) + "-" + std::to_string(player) + " " +
+                    std::string(kindOf(kind)->text));
+  });
+  const auto& strip = find<QWidget>(panel, "picSELECTED");
+  const int height = panel.height();
+  press(jersey(panel, 16));
+  EXPECT_FALSE(strip.isVisible()) << "who is on court has his panel";
+  press(jersey(panel, 20));
+  EXPECT_TRUE(strip.isVisible());
+  EXPECT_EQ(panel.sizeHint().height(), height) << "nothing moves";
+  press(find<QToolButton>(panel, "cmdSELTF"));
+  press(find<QToolButton>(panel, "cmdSELPF"));
+  auto& more = find<QToolButton>(panel, "cmdSELMORE");
+  const QList<QAction*> actions = more.menu()->actions();
+  ASSERT_EQ(actions.size(), 8) << "all actions but the fouls";
+  actions[0]->trigger();
+  EXPECT_EQ(asked, (std::vector<std::string>{"1-6 STF", "1-6 SPF", "1-6 SA"}));
+  ASSERT_TRUE(live.setOnCourt({kFive, 0b1111100U}));
+  panel.showGame(live);
+  EXPECT_FALSE(strip.isVisible()) << "he came on court";
+  panel.clearSelection();
+  EXPECT_EQ(textOf(panel, "lblNO"), "");
 }
 
 TEST_F(BenchPanelTest, SeveralAtOnceAsksOnceAndEscapeNever) {

@@ -1,0 +1,72 @@
+#include "live/LostStopStrip.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "storage/Module1.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kClockRan = 1847;
+constexpr int kPeriodOver = 1848;
+constexpr int kLastClock = 1849;
+constexpr int kRunOnClock = 1850;
+
+constexpr int kGap = 6;
+
+} // namespace
+
+LostStopStrip::LostStopStrip(const Texts& texts, QWidget* parent)
+    : QWidget(parent), m_texts(texts), m_text(new QLabel(this)), m_last(makeButton("cmdLASTCLOCK")),
+      m_runOn(makeButton("cmdRUNONCLOCK")) {
+  setObjectName(QStringLiteral("picLOSTSTOP"));
+  setAutoFillBackground(true);
+  m_text->setObjectName(QStringLiteral("lblLOSTSTOP"));
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(kGap, 0, kGap, 0);
+  layout->setSpacing(kGap);
+  layout->addStretch(1);
+  for (QWidget* part : {static_cast<QWidget*>(m_text), static_cast<QWidget*>(m_last),
+                        static_cast<QWidget*>(m_runOn)})
+    layout->addWidget(part);
+  layout->addStretch(1);
+  connect(m_last, &QPushButton::clicked, this, [this] { emit clockChosen(m_lost.lastClock); });
+  connect(m_runOn, &QPushButton::clicked, this, [this] { emit clockChosen(*m_lost.runOnClock); });
+}
+
+QPushButton* LostStopStrip::makeButton(const char* name) {
+  auto* button = new QPushButton(this);
+  button->setObjectName(QLatin1String(name));
+  button->setFocusPolicy(Qt::TabFocus);
+  return button;
+}
+
+void LostStopStrip::offer(const LostStop& lost) {
+  m_lost = lost;
+  m_runOn->setVisible(lost.runOnClock.has_value());
+  relabelPanel();
+}
+
+void LostStopStrip::relabelPanel() {
+  const auto clock = [this](int text, int seconds) {
+    return toQt(m_texts.withPlaceholder(text, Module1::clockText(seconds)));
+  };
+  m_text->setText(caption(m_texts, m_lost.isPeriodOver ? kPeriodOver : kClockRan));
+  m_last->setText(clock(kLastClock, m_lost.lastClock));
+  m_runOn->setText(clock(kRunOnClock, m_lost.runOnClock.value_or(0)));
+}
+
+void LostStopStrip::applyColours() {
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, Theme::accent());
+  m_text->setForegroundRole(QPalette::WindowText);
+  colours.setColor(QPalette::WindowText, textOn(Theme::accent()));
+  setPalette(colours);
+}
+
+} // namespace hooptab

@@ -1,0 +1,128 @@
+#include "live/SelectedPlayer.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/LiveGame.h"
+#include "storage/Settings.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QToolButton>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kSelectedTip = 1952;
+constexpr int kNobodySelected = 1953;
+constexpr int kMoreTip = 1846;
+
+constexpr int kGap = 2;
+constexpr int kNumberWidth = 40;
+constexpr int kRowHeight = 24;
+constexpr int kButtonWidth = 30;
+
+} // namespace
+
+SelectedPlayer::SelectedPlayer(const Texts& texts, QWidget* parent)
+    : QWidget(parent), m_texts(texts), m_number(new QLabel(this)), m_name(new QLabel(this)),
+      m_actions(new QWidget(this)) {
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  m_number->setObjectName(QStringLiteral("lblNO"));
+  m_number->setFixedSize(kNumberWidth, kRowHeight);
+  m_number->setAlignment(Qt::AlignCenter);
+  m_number->setFont(Theme::figures(10, true));
+  m_number->setAutoFillBackground(true);
+  m_name->setObjectName(QStringLiteral("lblNom"));
+  // As wide as there is room, whoever's name it is.
+  m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  for (QLabel* label : {m_number, m_name})
+    setToolTipNumber(*label, kSelectedTip);
+  layout->addWidget(m_number);
+  layout->addWidget(m_name, 1);
+
+  m_actions->setObjectName(QStringLiteral("picSELECTED"));
+  auto* actions = new QHBoxLayout(m_actions);
+  actions->setContentsMargins(0, 0, 0, 0);
+  actions->setSpacing(kGap);
+  actions->addWidget(makeFoul("cmdSELPF", EventCode::SPF));
+  actions->addWidget(makeFoul("cmdSELTF", EventCode::STF));
+  m_menu = makeMenu();
+  actions->addWidget(m_menu);
+  layout->addWidget(m_actions);
+  showNobody();
+}
+
+QToolButton* SelectedPlayer::makeButton(const char* name) {
+  auto* button = new QToolButton(m_actions);
+  button->setObjectName(QLatin1String(name));
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setFixedSize(kButtonWidth, kRowHeight);
+  return button;
+}
+
+QToolButton* SelectedPlayer::makeFoul(const char* name, EventCode kind) {
+  QToolButton* button = makeButton(name);
+  button->setText(toQt(kindOf(kind)->shortName));
+  setToolTipNumber(*button, kindOf(kind)->wordsText);
+  setAccessibleNumber(*button, kindOf(kind)->wordsText);
+  // On the press, like every button that records.
+  connect(button, &QToolButton::pressed, this, [this, kind] { emit actionAsked(kind); });
+  return button;
+}
+
+// What else a player has done before he went to the bench.
+QToolButton* SelectedPlayer::makeMenu() {
+  QToolButton* button = makeButton("cmdSELMORE");
+  button->setText(QStringLiteral("\u2026"));
+  button->setPopupMode(QToolButton::InstantPopup);
+  button->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
+  setToolTipNumber(*button, kMoreTip);
+  setAccessibleNumber(*button, kMoreTip);
+  auto* menu = new QMenu(button);
+  for (const EventKind& kind : eventKinds()) {
+    if (kind.isShot || kind.isTeamFoul)
+      continue;
+    QAction* action = menu->addAction(QString());
+    action->setData(static_cast<int>(kind.code));
+    connect(action, &QAction::triggered, this, [this, code = kind.code] { emit actionAsked(code); });
+  }
+  button->setMenu(menu);
+  return button;
+}
+
+void SelectedPlayer::showPlayer(const LiveGame& game, int team, int player) {
+  const RosterPlayer* entry = game.game().roster[team].player(player);
+  if (entry == nullptr)
+    return showNobody();
+  const QColor colour = colourOf(game.game().details.teamColour[team]);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, colour);
+  colours.setColor(QPalette::WindowText, textOn(colour));
+  m_number->setPalette(colours);
+  m_number->setText(toQt(entry->jersey));
+  m_name->setText(toQt(entry->name));
+  m_name->setForegroundRole(QPalette::WindowText);
+  for (QAction* action : m_menu->menu()->actions()) {
+    const auto code = static_cast<EventCode>(action->data().toInt());
+    std::string label;
+    if (code == EventCode::SU1 || code == EventCode::SU2)
+      label = Settings::shownLabel(game.game().details.statisticLabel[code == EventCode::SU1 ? 0 : 1]);
+    action->setText(label.empty() ? caption(m_texts, kindOf(code)->wordsText)
+                                  : toQt(label).replace(u'&', QLatin1String("&&")));
+  }
+  m_actions->setVisible(game.canRecord() && !game.slotOf(team, player));
+}
+
+void SelectedPlayer::showNobody() {
+  m_number->setPalette(palette());
+  m_number->setText({});
+  m_name->setText(caption(m_texts, kNobodySelected));
+  m_name->setForegroundRole(QPalette::PlaceholderText);
+  m_actions->hide();
+}
+
+} // namespace hooptab
