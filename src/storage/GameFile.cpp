@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <map>
 #include <set>
 
 namespace hooptab {
@@ -153,6 +154,20 @@ PeriodLines storedLines(const ProfileText& text, int period) {
   return lines;
 }
 
+// A change that failed can stand in the file all the same, when only its folder could not be synced. Written
+// again, it must end as it did: a file has all of a change or nothing of it.
+bool isWrittenAlready(const ProfileText& text, const std::vector<EventChange>& steps) {
+  std::map<std::pair<int, std::string>, std::string> last;
+  for (const EventChange& step : steps) {
+    if (step.kind != EventChange::Kind::Move)
+      last[{step.period, step.key}] = step.line;
+  }
+  return !last.empty() && std::ranges::all_of(last, [&](const auto& entry) {
+    const auto value = text.value(periodSection(entry.first.first), entry.first.second);
+    return value && *value == codepage::fromUtf8(entry.second);
+  });
+}
+
 std::string withoutBlanks(std::string text) {
   std::erase(text, ' ');
   return text;
@@ -290,8 +305,11 @@ GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
     stored.line = codepage::fromUtf8(step.line);
     stored.key = codepage::fromUtf8(step.key);
     stored.before = codepage::fromUtf8(step.before);
-    if (!applyChange(stored, lines))
+    if (applyChange(stored, lines))
+      continue;
+    if (!isWrittenAlready(*text, steps))
       return GameFileProblem::UnknownEvent;
+    lines[step.period] = storedLines(*text, step.period);
   }
 
   ProfileBatch batch;
