@@ -1,0 +1,378 @@
+// The live window as a whole, under hands that slip, disks that fail and games that come and go.
+#include "live/frmLIVE.h"
+
+#include "appearance/relabel.h"
+#include "live/BenchPanel.h"
+#include "live/JerseyButton.h"
+#include "live/ManualTime.h"
+#include "storage/Settings.h"
+#include "support/FaultyFileSystem.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TemporaryFolder.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+namespace hooptab {
+namespace {
+
+namespace fs = std::filesystem;
+
+class LiveWindowTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    settings.twoPointColour = kFirstColours.twoPoints;
+    settings.boxColour = kFirstColours.box;
+    settings.threePointColour = kFirstColours.threePoints;
+    settings.buttonColour = kFirstColours.buttons;
+    settings.asksRebounds = false;
+    fs::create_directory(folder.path("stick"));
+    makeGame(path);
+    ASSERT_EQ(window->open(toQt(path)), frmLIVE::Opening::Opened);
+    show();
+    for (const int index : {0, 1, 2, 3, 4, 15, 16, 17, 18, 19})
+      putOn(index);
+  }
+  void makeGame(const std::string& where) {
+    GameDetails details;
+    details.periods = 4;
+    details.minutesPerPeriod = 10;
+    const std::vector<RosterPlayer> players = {{"4", 0, "Ann"},  {"5", 1, "Bea"},  {"10", 2, "Cleo"},
+                                               {"12", 2, "Dot"}, {"15", 1, "Eve"}, {"20", 1, "Fay"}};
+    cinifile own{plain};
+    ASSERT_EQ(GameFile(own, where).create(details, players, players), GameFileProblem::None);
+  }
+  void show() {
+    window->resize(1366, 700);
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
+  void putOn(int index) {
+    if (!find<BenchPanel>("picBENCH").isSubstituting())
+      QTest::keyClick(window.get(), Qt::Key_F6);
+    press(jerseyButtonName(index));
+    QTest::keyClick(window.get(), Qt::Key_F6);
+  }
+  template <class Widget = QWidget>
+  Widget& find(const QString& name) {
+    auto* found = window->findChild<Widget*>(name);
+    EXPECT_NE(found, nullptr) << name.toStdString();
+    return *found;
+  }
+  template <class Widget = QWidget>
+  Widget& find(const char* name) {
+    return find<Widget>(QString::fromLatin1(name));
+  }
+  void press(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mouseClick(&find(name), button);
+  }
+  void press(const char* name, Qt::MouseButton button = Qt::LeftButton) {
+    press(QString::fromLatin1(name), button);
+  }
+  // Presses the court where it counts, or on a line, as its pointer says.
+  void pressCourt(const char* name, bool onLine) {
+    QWidget& picture = find(name);
+    for (int x = 8; x < picture.width() - 8; ++x) {
+      const QPoint place(x, picture.height() / 2);
+      QMouseEvent move(QEvent::MouseMove, place, picture.mapToGlobal(place), Qt::NoButton, {}, {});
+      QApplication::sendEvent(&picture, &move);
+      if ((picture.cursor().shape() == Qt::ForbiddenCursor) == onLine)
+        return QTest::mouseClick(&picture, Qt::LeftButton, {}, place);
+    }
+    FAIL() << "no such place";
+  }
+  std::string label(const char* name) { return find<QLabel>(name).text().toStdString(); }
+  // The events of a period on disk behind those that put the fives on court: clock and code.
+  std::string events(int period = 1) { return eventsOf(path, period); }
+  std::string eventsOf(const std::string& where, int period = 1) {
+    cinifile own{plain};
+    EventLines found;
+    EXPECT_EQ(GameFile(own, where).readLines(found), GameFileProblem::None);
+    std::string text;
+    int number = 0;
+    for (const auto& [key, line] : found[period]) {
+      if (period == 1 && ++number <= 2)
+        continue;
+      text += (text.empty() ? "" : " ") + line.substr(0, line.find(",IN"));
+    }
+    return text;
+  }
+
+  TemporaryFolder folder;
+  FileSystem plain;
+  FaultyFileSystem disk;
+  cinifile store{disk};
+  ManualTime time;
+  Texts texts;
+  Settings settings{store, folder.path()};
+  ScriptedDialogs dialogs;
+  std::string path = folder.path("stick/A.GAM");
+  std::unique_ptr<frmLIVE> window = std::make_unique<frmLIVE>(store, settings, texts, dialogs, time);
+};
+
+TEST_F(LiveWindowTest, EveryPressCountsAndNoSlipDoes) {
+  press("cmdBUTF(0)");
+  QTest::mouseDClick(&find("cmdBUTF(0)"), Qt::LeftButton); // the second press of a double click
+  QTest::mouseRelease(&find("cmdBUTF(0)"), Qt::LeftButton);
+  EXPECT_EQ(events(), "10:00,SPF,0-4 10:00,SPF,0-4");
+  press("cmdBUTFT(1)", Qt::RightButton);
+  EXPECT_EQ(events(), "10:00,SPF,0-4 10:00,SPF,0-4 10:00,GFTA,0-5");
+  const std::string before = events();
+  press("cmdBUTF(0)", Qt::RightButton);
+  for (const char* name : {"cmdBUTFT(0)", "CourtJ(0)", "cmdJERSEY(0)"}) { // both buttons at once
+    QWidget& widget = find(name);
+    const QPointF place = QPointF(widget.rect().center()) + QPointF(0, 10);
+    QMouseEvent both(QEvent::MouseButtonPress, place, widget.mapToGlobal(place), Qt::RightButton,
+                     Qt::LeftButton | Qt::RightButton, {});
+    QApplication::sendEvent(&widget, &both);
+  }
+  pressCourt("CourtJ(0)", true);
+  EXPECT_EQ(events(), before);
+  pressCourt("CourtJ(0)", false);
+  EXPECT_TRUE(events().starts_with(before + " 10:00,GF")) << events();
+}
+
+TEST_F(LiveWindowTest, GoingOnClosesAFollowUpAsNobodyAndHappens) {
+  pressCourt("CourtJ(5)", false);
+  ASSERT_TRUE(find("Assist").isVisible());
+  press("cmdBUTST(1)");
+  EXPECT_FALSE(find("Assist").isVisible());
+  pressCourt("CourtJ(6)", false);
+  QTest::keyClick(window.get(), Qt::Key_Space);
+  EXPECT_TRUE(window->isRunning());
+  pressCourt("CourtJ(7)", false);
+  pressCourt("CourtJ(8)", false); // the next shot, whose question is a new one
+  EXPECT_TRUE(find("Assist").isVisible());
+  QTest::keyClick(window.get(), Qt::Key_Escape);
+  EXPECT_FALSE(find("Assist").isVisible());
+  const std::string found = events();
+  EXPECT_EQ(found.find(",SA"), std::string::npos) << found;
+  for (const char* event : {",SST,0-5 ", "1-5,", "10:00,DEPART ", "1-10,", "1-12,"})
+    EXPECT_NE(found.find(event), std::string::npos) << event << " in " << found;
+}
+
+TEST_F(LiveWindowTest, SpaceIsTheClocksOnceAPress) {
+  auto& allOut = find<QPushButton>("cmdOUTALL(0)");
+  allOut.setFocus();
+  ASSERT_TRUE(allOut.hasFocus());
+  QTest::keyClick(&allOut, Qt::Key_Space);
+  EXPECT_TRUE(window->isRunning());
+  for (int repeat = 0; repeat < 3; ++repeat)
+    QTest::simulateEvent(&allOut, true, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+  EXPECT_TRUE(window->isRunning());
+  EXPECT_EQ(events(), "10:00,DEPART") << "and nobody has left the court";
+  time.now += 7;
+  QTest::keyClick(&allOut, Qt::Key_Space);
+  EXPECT_EQ(events(), "10:00,DEPART 09:53,ARRET");
+}
+
+TEST_F(LiveWindowTest, ClosingWhileTheClockRunsStopsItFirst) {
+  press("cmdSTART");
+  time.now += 75;
+  EXPECT_TRUE(window->close());
+  EXPECT_EQ(events(), "10:00,DEPART 08:45,ARRET");
+}
+
+TEST_F(LiveWindowTest, AFolderThatIsGoneForAWhileLosesNothing) {
+  press("cmdSTART");
+  fs::rename(folder.path("stick"), folder.path("pulled"));
+  for (const char* name : {"cmdBUTF(0)", "cmdBUTDRB(5)", "cmdBUTTO(2)"}) {
+    ++time.now;
+    press(name);
+  }
+  EXPECT_TRUE(find("lblNOTONDISK").isVisible());
+  EXPECT_EQ(label("lblPF(0)"), "PF 1") << "input goes on";
+  dialogs.nextAnswer = false;
+  EXPECT_FALSE(window->mayClose()) << "not without a question";
+  EXPECT_EQ(dialogs.shown.back().kind, ScriptedDialogs::Kind::Ask);
+  fs::rename(folder.path("pulled"), folder.path("stick"));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !find("lblNOTONDISK").isVisible(); }));
+  EXPECT_EQ(events(), "10:00,DEPART 09:59,SPF,0-4 09:58,SDR,1-4 09:57,STO,0-10 09:57,ARRET");
+}
+
+TEST_F(LiveWindowTest, AWriteThatFailsAnywhereInABurstLeavesTheOrder) {
+  std::string expected;
+  bool hasFailed = true;
+  for (int call = 0; hasFailed; ++call) {
+    SCOPED_TRACE(call);
+    disk.hasFailed = false;
+    disk.failAt = disk.calls + call;
+    for (const char* name : {"cmdBUTF(0)", "cmdBUTST(5)", "cmdBUTTO(2)"})
+      press(name);
+    hasFailed = disk.hasFailed;
+    disk.failAt = -1;
+    ASSERT_TRUE(window->mayClose());
+    expected += (expected.empty() ? "" : " ") + std::string("10:00,SPF,0-4 10:00,SST,1-4 10:00,STO,0-10");
+    ASSERT_EQ(events(), expected);
+    ASSERT_LT(call, 200);
+  }
+  EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(LiveWindowTest, TheLanguageChangesWhileTheClockRuns) {
+  press("cmdSTART");
+  press(jerseyButtonName(5));
+  texts.setLanguage(Language::French);
+  window->relabelWindow();
+  EXPECT_TRUE(window->isRunning());
+  EXPECT_EQ(find<QAbstractButton>("cmdSTART").text(), QStringLiteral("ARRÊT"));
+  EXPECT_EQ(label("lblNom"), "Fay");
+  time.now += 3;
+  press("cmdSELTF");
+  QTest::keyClick(window.get(), Qt::Key_Space);
+  EXPECT_EQ(events(), "10:00,DEPART 09:57,STF,0-20 09:57,ARRET");
+  EXPECT_EQ(label("lblNO"), "") << "a player is selected for one action";
+}
+
+TEST_F(LiveWindowTest, AnotherGameWaitsForTheFirst) {
+  const std::string other = folder.path("B.GAM");
+  makeGame(other);
+  press("cmdSTART");
+  time.now += 20;
+  fs::rename(folder.path("stick"), folder.path("pulled"));
+  press(jerseyButtonName(5));
+  EXPECT_EQ(window->open(toQt(other)), frmLIVE::Opening::Refused) << "the user has not given the rest up";
+  EXPECT_EQ(window->path(), toQt(path));
+  fs::rename(folder.path("pulled"), folder.path("stick"));
+  ASSERT_EQ(window->open(toQt(other)), frmLIVE::Opening::Opened);
+  EXPECT_EQ(events(), "10:00,DEPART 09:40,ARRET");
+  EXPECT_FALSE(folder.holds("stick/A.GAM.lock"));
+  EXPECT_TRUE(folder.holds("B.GAM.lock"));
+  EXPECT_EQ(label("lblNO"), "");
+  EXPECT_EQ(label("lblTEMPS"), "10:00");
+  GameLock elsewhere;
+  ASSERT_EQ(elsewhere.acquire(toQt(path)), GameLock::Outcome::Held);
+  EXPECT_EQ(window->open(toQt(path)), frmLIVE::Opening::Refused);
+  EXPECT_TRUE(dialogs.shown.back().text.contains(QString::number(QCoreApplication::applicationPid())))
+      << dialogs.shown.back().text.toStdString();
+  EXPECT_EQ(window->path(), toQt(other));
+  press("cmdBUTTF(0)"); // nobody there
+  EXPECT_EQ(eventsOf(other), "");
+}
+
+// Where no lock file can be made (its name would be too long), and where the file is protected.
+TEST_F(LiveWindowTest, WhatCannotBeWrittenOpensForReading) {
+  press("cmdBUTFT(0)");
+  const std::string longName = std::string(250, 'x') + ".GAM";
+  fs::copy_file(path, folder.path(longName));
+  fs::copy_file(path, folder.path("protected.GAM"));
+  fs::permissions(folder.path("protected.GAM"), fs::perms::owner_read | fs::perms::others_read);
+  for (const std::string& name : {longName, std::string("protected.GAM")}) {
+    SCOPED_TRACE(name.size());
+    const std::string before = folder.read(name);
+    ASSERT_EQ(window->open(toQt(folder.path(name))), frmLIVE::Opening::Opened);
+    EXPECT_FALSE(folder.holds("stick/A.GAM.lock"));
+    EXPECT_TRUE(find("lblREADONLY").isVisible());
+    EXPECT_EQ(label("lblPTS0"), "1");
+    EXPECT_EQ(label("lblNom(0)"), "Ann");
+    EXPECT_FALSE(find("cmdSTART").isEnabled() || find("cmdBUTF(0)").isEnabled() ||
+                 find("CourtJ(0)").isEnabled() || find("cmdSUBST").isEnabled() ||
+                 find("cmdOUTALL(0)").isEnabled() || find("UpDoPERIOD(0)").isEnabled());
+    press("cmdBUTF(0)");
+    press("CourtJ(0)");
+    QTest::keyClick(window.get(), Qt::Key_Space);
+    press(jerseyButtonName(5));
+    EXPECT_FALSE(find("picSELECTED").isVisible());
+    window->gameOver();
+    EXPECT_TRUE(dialogs.shown.back().text.contains(toQt(name)));
+    EXPECT_EQ(folder.read(name), before);
+  }
+  ASSERT_EQ(window->open(toQt(path)), frmLIVE::Opening::Opened);
+  EXPECT_FALSE(find("lblREADONLY").isVisible());
+  press("cmdBUTF(0)");
+  EXPECT_EQ(events(), "10:00,GFT,0-4 10:00,SPF,0-4");
+}
+
+TEST_F(LiveWindowTest, AfterACrashOneClickTakesEitherClock) {
+  press("cmdSTART");
+  time.now += 90;
+  press("cmdBUTF(0)");
+  const std::string copy = folder.path("crashed.GAM");
+  const auto findCrashed = [&](std::chrono::seconds ago) {
+    fs::copy_file(path, copy, fs::copy_options::overwrite_existing);
+    fs::last_write_time(copy, fs::file_time_type::clock::now() - ago);
+    window = std::make_unique<frmLIVE>(store, settings, texts, dialogs, time);
+    EXPECT_EQ(window->open(toQt(copy)), frmLIVE::Opening::Opened);
+    show();
+    EXPECT_FALSE(window->isRunning());
+    EXPECT_EQ(label("lblTEMPS"), "08:30");
+    EXPECT_EQ(label("lblNom(0)"), "Ann") << "everyone is on court";
+    EXPECT_TRUE(find("picLOSTSTOP").isVisible());
+  };
+  using std::chrono::seconds;
+  findCrashed(seconds(32));
+  EXPECT_TRUE(find<QPushButton>("cmdLASTCLOCK").text().endsWith(QStringLiteral("08:30")));
+  press("cmdRUNONCLOCK");
+  EXPECT_FALSE(find("picLOSTSTOP").isVisible());
+  const std::string clock = label("lblTEMPS");
+  EXPECT_TRUE(clock == "07:58" || clock == "07:57") << clock;
+  EXPECT_EQ(eventsOf(copy), "10:00,DEPART 08:30,SPF,0-4 " + clock + ",ARRET");
+
+  findCrashed(seconds(32));
+  press("cmdLASTCLOCK");
+  EXPECT_FALSE(find("picLOSTSTOP").isVisible());
+  EXPECT_EQ(eventsOf(copy), "10:00,DEPART 08:30,SPF,0-4 08:30,ARRET");
+
+  for (const seconds ago : {seconds(7'200), seconds(-7'200)}) { // the period is over; the file is of tomorrow
+    findCrashed(ago);
+    EXPECT_FALSE(find("cmdRUNONCLOCK").isVisible());
+    press("cmdSTART");
+    EXPECT_FALSE(find("picLOSTSTOP").isVisible());
+    EXPECT_EQ(eventsOf(copy), "10:00,DEPART 08:30,SPF,0-4 08:30,ARRET 08:30,DEPART");
+  }
+}
+
+TEST_F(LiveWindowTest, TheBenchActsByClickAndDropAndAllAtOnce) {
+  press(jerseyButtonName(5));
+  QTest::mouseClick(&find("cmdSELTF"), Qt::LeftButton);
+  EXPECT_EQ(events(), "10:00,STF,0-20");
+  press(jerseyButtonName(5));
+  QTest::keyClick(window.get(), Qt::Key_Escape);
+  EXPECT_EQ(label("lblNO"), "");
+
+  const auto drop = [this](const char* player, const char* panel) {
+    QMimeData data;
+    data.setData(QLatin1String(kPlayerMimeType), player);
+    const QWidget& target = find(panel);
+    const QPoint place = target.mapTo(window.get(), target.rect().center());
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(window.get(), &event);
+  };
+  for (const char* wrong : {"1-6", "0-99", "", "0-", "-1-1", "2-3", "nonsense"})
+    drop(wrong, "fraPLAYER(0)");
+  EXPECT_EQ(events(), "10:00,STF,0-20");
+  drop("0-6", "fraPLAYER(0)");
+  EXPECT_EQ(events(), "10:00,STF,0-20 10:00,ARRET");
+  EXPECT_EQ(label("lblNom(4)"), "Fay");
+  EXPECT_EQ(label("lblNom(0)"), "Bea");
+  press("cmdOUTALL(1)");
+  EXPECT_EQ(label("lblID(5)"), "0");
+  EXPECT_FALSE(find("cmdOUTALL(1)").isEnabled());
+}
+
+TEST_F(LiveWindowTest, FreeThrowsAfterTheBuzzerGoToTheEndedPeriod) {
+  press("cmdSTART");
+  time.now += 600;
+  ASSERT_TRUE(QTest::qWaitFor([this] { return label("lblPERIOD") == "2"; }));
+  press("cmdRETURN");
+  EXPECT_EQ(label("lblTEMPS"), "00:00");
+  press("cmdBUTFT(0)");
+  press("cmdSTART");
+  EXPECT_EQ(label("lblTEMPS"), "10:00");
+  press("cmdSTART");
+  EXPECT_EQ(events(), "10:00,DEPART 00:00,ARRET 00:00,GFT,0-4");
+  EXPECT_EQ(events(2), "10:00,DEPART");
+}
+
+} // namespace
+} // namespace hooptab
