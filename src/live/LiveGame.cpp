@@ -46,6 +46,7 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
     return problem;
   m_access = access;
   m_history.clear();
+  m_wasLeftRunning = false;
   m_slots = {};
   m_endedPeriod = 0;
   showAsLeft();
@@ -74,6 +75,7 @@ void LiveGame::showAsLeft() {
     m_phase = m_access == Access::Reading ? Phase::ReadOnly : Phase::Finished;
     return;
   }
+  m_wasLeftRunning = hasTime() && isRunningBefore(m_log.lines(), m_period, {});
   // A team that is its own one player stands on court from the beginning.
   const OnCourt before = onCourt();
   OnCourt whole = before;
@@ -119,6 +121,7 @@ void LiveGame::start() {
     return;
   if (isStopLost())
     recordStop();
+  m_wasLeftRunning = false;
   if (clockSeconds() == 0)
     return closePeriod();
   m_endedPeriod = 0;
@@ -138,12 +141,13 @@ void LiveGame::stop() {
 }
 
 bool LiveGame::isStopLost() const {
-  return hasTime() && m_phase == Phase::Stopped && isRunningBefore(m_log.lines(), m_period, {});
+  return m_wasLeftRunning && m_phase == Phase::Stopped && isRunningBefore(m_log.lines(), m_period, {});
 }
 
 bool LiveGame::settleStop(int clockSeconds) {
   if (!isStopLost() || clockSeconds < 0)
     return false;
+  m_wasLeftRunning = false;
   m_clock.set(clockSeconds); // of an overtime, too, whose length is in no file
   recordStop();
   if (clockSeconds == 0)
@@ -185,6 +189,7 @@ bool LiveGame::setPeriod(int period) {
   if (period == m_period)
     return true;
   leavePeriod();
+  m_wasLeftRunning = false;
   m_period = period;
   m_phase = Phase::Stopped;
   m_endedPeriod = 0;
@@ -447,7 +452,7 @@ int LiveGame::secondsOnCourt(int team, int player) const {
                                       counted.onCourt[side].begin() + counted.onCourtCount[side],
                                       static_cast<std::uint8_t>(player)) !=
                     counted.onCourt[side].begin() + counted.onCourtCount[side];
-  if (m_phase == Phase::Running && isOn)
+  if (isOn && (m_phase == Phase::Running || isStopLost()))
     seconds += counted.lineStartClock[side] - clockSeconds();
   return std::max(seconds, 0);
 }

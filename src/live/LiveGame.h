@@ -167,6 +167,7 @@ class LiveGame {
   std::array<int, kSlots> m_slots = {};
   Phase m_phase = Phase::Stopped;
   int m_period = 1;
+  bool m_wasLeftRunning = false; // when it was opened; until the clock is started or the stop put in
   int m_endedPeriod = 0;
   int m_lengthOfPeriod = 0; // seconds; of an overtime its own
 };

@@ -100,6 +100,7 @@ TEST_F(LeftGameTest, StandsAtTheLastEventUntilAClockIsChosen) {
     EXPECT_EQ(live->clockSeconds(), 540);
     EXPECT_EQ(live->onCourt(), (OnCourt{kFive, kFive}));
     ASSERT_TRUE(live->isStopLost());
+    EXPECT_EQ(live->secondsOnCourt(0, 1), 60) << "though no stop has credited it";
     if (c.chosen) {
       EXPECT_TRUE(live->settleStop(*c.chosen));
       EXPECT_EQ(live->clockSeconds(), *c.chosen);
