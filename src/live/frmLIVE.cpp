@@ -460,6 +460,7 @@ void frmLIVE::dropEvent(QDropEvent* event) {
       entries &= ~(1U << static_cast<unsigned>(leaving));
     entries |= 1U << static_cast<unsigned>(player);
     event->acceptProposedAction();
+    m_bench->clearSelection(); // which the press that began the drag has made
     return setOnCourt(wanted);
   }
 }

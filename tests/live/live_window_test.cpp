@@ -351,8 +351,10 @@ TEST_F(LiveWindowTest, TheBenchActsByClickAndDropAndAllAtOnce) {
   for (const char* wrong : {"1-6", "0-99", "", "0-", "-1-1", "2-3", "nonsense"})
     drop(wrong, "fraPLAYER(0)");
   EXPECT_EQ(events(), "10:00,STF,0-20");
+  press(jerseyButtonName(5)); // as a drag begins
   drop("0-6", "fraPLAYER(0)");
   EXPECT_EQ(events(), "10:00,STF,0-20 10:00,ARRET");
+  EXPECT_EQ(label("lblNO"), "");
   EXPECT_EQ(label("lblNom(4)"), "Fay");
   EXPECT_EQ(label("lblNom(0)"), "Bea");
   press("cmdOUTALL(1)");
