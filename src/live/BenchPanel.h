@@ -40,8 +40,8 @@ class BenchPanel : public QWidget {
   void applyColours();
 
  signals:
-  void toggled(int team, int player);  // in substitution mode
-  void selected(int team, int player); // another one, or nobody (player 0)
+  void toggled(int team, int player);                              // in substitution mode
+  void selected(int team, int player);                             // another one, or nobody (player 0)
   void actionAsked(int team, int player, hooptab::EventCode kind); // for a player of the bench
   void allOutAsked(int team);
   void onCourtAsked(hooptab::OnCourt onCourt); // from "several at once"

@@ -155,12 +155,13 @@ bool LiveGame::settleStop(int clockSeconds) {
   return true;
 }
 
-// Counts that differ from those of all events counted anew would be wrong ones on the screen, and nobody would
-// see it: a build for development stops there. The events are on disk.
+// Counts that differ from those of all events counted anew would be wrong ones on the screen, and nobody
+// would see it: a build for development stops there. The events are on disk.
 void LiveGame::checkCounts() const {
 #ifndef NDEBUG
   if (const std::string difference = m_log.difference(); !difference.empty()) {
-    std::fprintf(stderr, "counts of %s differ from its events: %s\n", game().path.c_str(), difference.c_str());
+    std::fprintf(stderr, "counts of %s differ from its events: %s\n", game().path.c_str(),
+                 difference.c_str());
     std::abort();
   }
 #endif
@@ -494,8 +495,7 @@ bool LiveGame::isFouledOut(int team, int player) const {
 
 bool LiveGame::take(int text, const EventEdit& edit, bool isWhole) {
   m_conflict = edit.conflict();
-  if (!canRecord() || !isWhole || edit.steps().empty() ||
-      !done(text, edit.steps(), edit.back()))
+  if (!canRecord() || !isWhole || edit.steps().empty() || !done(text, edit.steps(), edit.back()))
     return false;
   putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, m_log.rosters()));
   decideAgain();

@@ -56,8 +56,8 @@ class LiveGame {
   void stop();
   // To be called once a second or more often while the clock runs; stops at 00:00.
   void tick();
-  // The clock stands, but the events say that it runs: the game was left without a stop. The next start puts it
-  // in, at the clock shown; so does settleStop(), at that clock.
+  // The clock stands, but the events say that it runs: the game was left without a stop. The next start puts
+  // it in, at the clock shown; so does settleStop(), at that clock.
   bool isStopLost() const;
   bool settleStop(int clockSeconds);
   // While the clock stands, in a game with time: sets what remains, at most the length of a period.

@@ -31,8 +31,8 @@ LostStopStrip::LostStopStrip(const Texts& texts, QWidget* parent)
   layout->setContentsMargins(kGap, 0, kGap, 0);
   layout->setSpacing(kGap);
   layout->addStretch(1);
-  for (QWidget* part : {static_cast<QWidget*>(m_text), static_cast<QWidget*>(m_last),
-                        static_cast<QWidget*>(m_runOn)})
+  for (QWidget* part :
+       {static_cast<QWidget*>(m_text), static_cast<QWidget*>(m_last), static_cast<QWidget*>(m_runOn)})
     layout->addWidget(part);
   layout->addStretch(1);
   connect(m_last, &QPushButton::clicked, this, [this] { emit clockChosen(m_lost.lastClock); });

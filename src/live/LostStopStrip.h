@@ -1,5 +1,5 @@
-// After a game was left while its clock ran: two clocks to go on from, a click each, and never in the way. Shows,
-// and says which was chosen.
+// After a game was left while its clock ran: two clocks to go on from, a click each, and never in the way.
+// Shows, and says which was chosen.
 #pragma once
 
 #include "live/LostStop.h"

@@ -33,7 +33,7 @@ class PlayerPanel : public QWidget {
   void showGame(const LiveGame& game); // everything
   void showTime(const LiveGame& game); // the time on court alone
   void setPlaysRight(bool playsRight); // on the right-hand side of the court: the picture is turned round
-  void setSelected(bool isSelected); // for the next action: framed
+  void setSelected(bool isSelected);   // for the next action: framed
   void relabelPanel();
   void applyColours();
   QSize sizeHint() const override;

@@ -1,6 +1,6 @@
 // The player who is selected for the next action, by number and name, and what can be recorded for him here:
-// for one on the bench his fouls by a click each, all other actions by a menu. One on court has his own panel.
-// Shows, and says what was asked for; records nothing.
+// for one on the bench his fouls by a click each, all other actions by a menu. One on court has his own
+// panel. Shows, and says what was asked for; records nothing.
 #pragma once
 
 #include "storage/EventKind.h"

@@ -26,10 +26,10 @@ TEST(LostStopTest, TellsTheClocksToGoOnFrom) {
     std::optional<int> runOn;
     bool isOver;
   };
-  const Case cases[] = {
-      {312, 1000, 1032, 280, false}, {312, 1000, 1311, 1, false},        {312, 1000, 1312, {}, true},
-      {312, 1000, 90'000, {}, true}, {312, 1000, 1000, {}, false},       {312, 1000, 999, {}, false},
-      {0, 1000, 1032, {}, false},    {1, 0, 5'000'000'000'000, {}, true}};
+  const Case cases[] = {{312, 1000, 1032, 280, false}, {312, 1000, 1311, 1, false},
+                        {312, 1000, 1312, {}, true},   {312, 1000, 90'000, {}, true},
+                        {312, 1000, 1000, {}, false},  {312, 1000, 999, {}, false},
+                        {0, 1000, 1032, {}, false},    {1, 0, 5'000'000'000'000, {}, true}};
   for (const Case& c : cases) {
     const LostStop lost = LostStop::of(c.lastClock, c.fileTime, c.now);
     EXPECT_EQ(lost.runOnClock, c.runOn) << c.lastClock << ' ' << c.now;
@@ -208,8 +208,8 @@ TEST_F(LeftGameTest, AStopWithWrongCountsIsLoud) {
 }
 #endif
 
-// Plays substitutions and shots as fast as it can; each is acknowledged, by the number of the next event, once
-// the call has returned.
+// Plays substitutions and shots as fast as it can; each is acknowledged, by the number of the next event,
+// once the call has returned.
 [[noreturn]] void recordUntilKilled(const std::string& path, int acknowledgements) {
   FileSystem disk;
   cinifile store(disk);
