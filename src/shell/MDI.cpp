@@ -42,6 +42,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr int kStatusMargin = 8;
 constexpr int kErrorTitle = 1060;
 constexpr int kWarningTitle = 1139;
 constexpr int kNotSaved = 1521;
@@ -103,6 +104,8 @@ MDI::MDI(const Workshop& workshop)
   m_unsaved->setObjectName(QStringLiteral("lblUNSAVED"));
   m_unsaved->hide();
   statusBar()->addPermanentWidget(m_unsaved);
+  // Its room is always taken: a hint that comes and goes must not move what is being pressed.
+  statusBar()->setMinimumHeight(statusBar()->fontMetrics().height() + kStatusMargin);
   m_retryOfWrites.setInterval(kRetryInterval);
 
   connect(m_commands, &CommandBar::asked, this, &MDI::carryOut);
