@@ -32,6 +32,8 @@ Arguments parseArguments(const std::vector<std::string>& words, const std::strin
       result.asksForVersion = true;
     } else if (*word == "--leave-when-ready") {
       result.leavesWhenReady = true;
+    } else if (*word == "--rehearsal") {
+      result.isRehearsal = true;
     } else if (*word == "--folder" || word->starts_with(kFolderWithValue)) {
       std::string folder;
       if (word->starts_with(kFolderWithValue))
@@ -60,6 +62,7 @@ std::string usage() {
          "  --dark         dark colours\n"
          "  --leave-when-ready\n"
          "                 print \"ready\" as soon as the window stands, and leave; checks an installation\n"
+         "  --rehearsal    take the game clock's time from standard input, for tests; CONTRIBUTING.md tells how\n"
          "  --help         print this text\n"
          "  --version      print the version\n";
 }

@@ -15,6 +15,7 @@ struct Arguments {
   bool asksForHelp = false;
   bool asksForVersion = false;
   bool leavesWhenReady = false;
+  bool isRehearsal = false;
   std::vector<std::string> games; // absolute
   std::string error;              // one line; empty when the command line is understood
 };

@@ -8,6 +8,7 @@
 #include "shell/InstanceLock.h"
 #include "shell/MDI.h"
 #include "shell/ProgramFolder.h"
+#include "shell/Rehearsal.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
 
@@ -18,6 +19,7 @@
 #include <fontconfig/fontconfig.h>
 #include <iostream>
 #include <thread>
+#include <unistd.h>
 
 using namespace hooptab;
 
@@ -72,7 +74,12 @@ int run(QApplication& application, const Arguments& arguments, QtDialogs& dialog
     memory.rememberColourScheme(*arguments.colourScheme);
   Theme::apply(application, memory.colourScheme().value_or(ColourScheme::Light));
 
-  SystemTime time;
+  SystemTime machineTime;
+  RehearsalTime rehearsalTime;
+  std::optional<Rehearsal> rehearsal;
+  if (arguments.isRehearsal)
+    rehearsal.emplace(rehearsalTime, STDIN_FILENO, STDOUT_FILENO);
+  TimeSource& time = arguments.isRehearsal ? static_cast<TimeSource&>(rehearsalTime) : machineTime;
   MDI window({store, settings, texts, memory, dialogs, shared, time});
   window.show();
   // After the window is there: what is said now stands in front of it.

@@ -27,6 +27,7 @@ TEST(Arguments, OptionsAndGamesComeInAnyOrder) {
   EXPECT_EQ(parse({"--folder=/x/./y"}).folder, "/x/y");
   EXPECT_TRUE(parse({"--version"}).asksForVersion);
   EXPECT_TRUE(parse({"--help"}).asksForHelp);
+  EXPECT_TRUE(parse({"--rehearsal"}).isRehearsal);
 }
 
 TEST(Arguments, BehindTwoDashesEveryWordIsAGame) {
