@@ -71,6 +71,7 @@ FollowUpBar::~FollowUpBar() {
 
 QLabel* FollowUpBar::makeTitle(QWidget* form) {
   auto* title = new QLabel(form);
+  title->setObjectName(QStringLiteral("lblQUESTION"));
   QFont bold = title->font();
   bold.setBold(true);
   title->setFont(bold);

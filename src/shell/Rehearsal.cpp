@@ -35,16 +35,18 @@ QWidget* controlNamed(const QString& path) {
   return hidden;
 }
 
-// "X Y WIDTH HEIGHT shown|hidden enabled|disabled", in pixels of the screen.
+// "X Y WIDTH HEIGHT shown|hidden enabled|disabled active|inactive", in pixels of the screen; active where its
+// window has the keys.
 QString placeOf(const QWidget& widget) {
   const QPoint corner = widget.mapToGlobal(QPoint(0, 0));
-  return QStringLiteral("%1 %2 %3 %4 %5 %6")
+  return QStringLiteral("%1 %2 %3 %4 %5 %6 %7")
       .arg(corner.x())
       .arg(corner.y())
       .arg(widget.width())
       .arg(widget.height())
       .arg(widget.isVisible() ? QLatin1String("shown") : QLatin1String("hidden"),
-           widget.isEnabled() ? QLatin1String("enabled") : QLatin1String("disabled"));
+           widget.isEnabled() ? QLatin1String("enabled") : QLatin1String("disabled"),
+           widget.isActiveWindow() ? QLatin1String("active") : QLatin1String("inactive"));
 }
 
 QString textOf(const QWidget& widget) {

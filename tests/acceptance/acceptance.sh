@@ -4,52 +4,20 @@
 set -u
 program="$1"
 samples="$2"
-for tool in Xvfb openbox xdotool; do
-  command -v "$tool" >/dev/null || { echo "skipped: $tool is missing"; exit 77; }
-done
-
-work=$(mktemp -d)
-unset WAYLAND_DISPLAY QT_QPA_PLATFORM
+. "$(dirname "$0")/display.sh"
+needs Xvfb openbox xdotool xprop
 failures=0
-started=()
-cleanup() {
-  kill "${started[@]}" 2>/dev/null
-  wait 2>/dev/null
-  rm -rf "$work"
-}
-trap cleanup EXIT
 
 fail() {
   echo "FAILED: $1"
   failures=$((failures + 1))
-}
-# Waits up to 20 s until a command succeeds.
-until_true() {
-  local what="$1" i
-  shift
-  for ((i = 0; i < 200; ++i)); do
-    "$@" >/dev/null 2>&1 && return 0
-    sleep 0.1
-  done
-  fail "$what"
-  return 1
 }
 window_named() { xdotool search --onlyvisible --name "$1"; }
 no_window_named() { ! window_named "$1"; }
 says() { grep -aq "$2" "$work/home/$1"; }
 is_gone() { ! kill -0 "$1" 2>/dev/null; }
 
-# The server picks a free display and tells its number.
-Xvfb -displayfd 3 -screen 0 1366x768x24 3>"$work/display" >/dev/null 2>&1 &
-started+=($!)
-until_true "the display starts" test -s "$work/display" || exit 1
-DISPLAY=":$(cat "$work/display")"
-export DISPLAY
-openbox >/dev/null 2>&1 &
-started+=($!)
-# A window that asks to be shown before there is a manager would wait for ever.
-window_manager_runs() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
-until_true "the window manager starts" window_manager_runs || exit 1
+start_display 1366x768
 
 game=$(find "$samples" -name '*.GAM' | sort | head -n 1)
 other=$(find "$samples" -name '*.GAM' | sort | sed -n 2p)

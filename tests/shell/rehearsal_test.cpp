@@ -84,10 +84,11 @@ TEST_F(RehearsalTest, TellsWhereControlsStandAndWhatTheyShow) {
   groups[0]->hide();
   add("cmdOFF", &window)->setEnabled(false);
   window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   const auto place = [&](int x, int y, const char* state) {
     const QPoint corner = window.mapToGlobal(QPoint(x, y));
-    return QStringLiteral("%1 %2 50 20 %3\n")
+    return QStringLiteral("%1 %2 50 20 %3 active\n")
         .arg(corner.x())
         .arg(corner.y())
         .arg(QLatin1String(state))

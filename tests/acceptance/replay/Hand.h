@@ -1,0 +1,35 @@
+// How what happens in a game is entered: by mouse, or by other means. Knows nothing of the game's course; the
+// Replay says what comes next, and checks what has come of it.
+#pragma once
+
+#include "Camera.h"
+#include "Person.h"
+#include "Recorded.h"
+#include "live/OnCourt.h"
+
+#include <string>
+
+namespace hooptab {
+
+// What a hand works at.
+struct Table {
+  Program& program;
+  Person& person;
+  Recorded& recorded;
+  Camera& camera;
+};
+
+class Hand {
+ public:
+  virtual ~Hand() = default;
+
+  virtual void prepare() = 0; // the window has just opened
+  virtual void toggleClock() = 0;
+  virtual void switchSides() = 0;
+  // Both return in a few words how it was entered; the report counts by them.
+  virtual std::string record(const GameEvent& event) = 0; // a shot or an action
+  // Returns when these stand on court on disk.
+  virtual std::string substitute(const OnCourt& wanted) = 0;
+};
+
+} // namespace hooptab

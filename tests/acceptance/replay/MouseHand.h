@@ -1,0 +1,44 @@
+// Enters by mouse, as one does at the table: a click on the court or a button of the panel; the questions
+// after a shot in turn by jersey and by click; one or two who come by substitution mode, more in the panel
+// for several, with a line that has played before where there is one. Space turns the clock.
+#pragma once
+
+#include "CourtPixel.h"
+#include "Hand.h"
+
+#include <optional>
+
+namespace hooptab {
+
+class MouseHand : public Hand {
+ public:
+  explicit MouseHand(const Table& table);
+
+  void prepare() override;
+  void toggleClock() override;
+  void switchSides() override;
+  std::string record(const GameEvent& event) override;
+  std::string substitute(const OnCourt& wanted) override;
+
+  int questionsInTheWay() const { return m_questionsInTheWay; }
+
+ private:
+  // A question that lies over the place is closed first.
+  void click(const std::string& control, Person::Button button = Person::Button::Left);
+  void clickAt(int x, int y, Person::Button button);
+  [[nodiscard]] int slotOf(const GameEvent& event);
+  std::string shoot(const GameEvent& event, int slot);
+  std::optional<std::string> answerQuestion(const GameEvent& event);
+  void substituteOneByOne(const OnCourt& wanted);
+  bool substituteSeveral(const OnCourt& wanted); // whether a known line was of use
+  void waitForCount(std::size_t team, int count);
+  bool takeKnownLine(std::size_t team, unsigned wanted);
+
+  Table m_table;
+  ZoneMap m_zones;
+  bool m_isSwitched = false;
+  bool m_typesNext = true;
+  int m_questionsInTheWay = 0;
+};
+
+} // namespace hooptab

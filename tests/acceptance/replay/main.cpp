@@ -1,0 +1,161 @@
+// replay PROGRAM GAME.GAM [--french] [--pictures FOLDER]: records a game once more in the program's own
+// window, on the display of the environment, and reports what it took and whether the same came out. Exit
+// status 0 when it did, 1 when not, 77 when the game is missing.
+#include "Comparison.h"
+#include "MouseHand.h"
+#include "Replay.h"
+#include "support/OfficialBox.h"
+#include "support/TemporaryFolder.h"
+
+#include <algorithm>
+#include <chrono>
+#include <iomanip>
+#include <iostream>
+#include <numeric>
+
+using namespace hooptab;
+
+namespace {
+
+constexpr int kSkipped = 77;
+
+struct Options {
+  std::string program;
+  std::filesystem::path game;
+  std::string pictures;
+  bool isFrench = false;
+};
+
+Options parse(const std::vector<std::string>& words) {
+  Options options;
+  std::vector<std::string> names;
+  for (auto word = words.begin(); word != words.end(); ++word) {
+    if (*word == "--french")
+      options.isFrench = true;
+    else if (*word == "--pictures" && std::next(word) != words.end())
+      options.pictures = *++word;
+    else
+      names.push_back(*word);
+  }
+  if (names.size() != 2)
+    throw ReplayFailure("usage: replay PROGRAM GAME.GAM [--french] [--pictures FOLDER]");
+  options.program = names[0];
+  options.game = names[1];
+  return options;
+}
+
+double share(std::vector<double> values, double part) {
+  if (values.empty())
+    return 0;
+  std::ranges::sort(values);
+  return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
+}
+
+void print(const ReplayReport& report, const MouseHand& hand) {
+  std::cout << std::left << std::setw(34) << "entered as" << std::right;
+  for (const char* column : {"number", "clicks", "keys", "each", "pixels"})
+    std::cout << std::setw(8) << column;
+  std::cout << std::fixed << '\n';
+  ReplayReport::Entry all;
+  const auto row = [](const std::string& name, const ReplayReport::Entry& entry) {
+    const double number = entry.number;
+    std::cout << std::left << std::setw(34) << name << std::right << std::setw(8) << entry.number
+              << std::setw(8) << entry.effort.clicks << std::setw(8) << entry.effort.keys
+              << std::setprecision(2) << std::setw(8) << (entry.effort.clicks + entry.effort.keys) / number
+              << std::setprecision(0) << std::setw(8) << entry.effort.travel / number << '\n';
+  };
+  for (const auto& [how, entry] : report.entered) {
+    row(how, entry);
+    all.number += entry.number;
+    all.effort.clicks += entry.effort.clicks;
+    all.effort.keys += entry.effort.keys;
+    all.effort.travel += entry.effort.travel;
+  }
+  row("all", all);
+  const std::vector<double>& moved = report.displacements;
+  const double sum = std::accumulate(moved.begin(), moved.end(), 0.0);
+  std::cout << std::setprecision(2) << "Shots with a place: " << moved.size()
+            << ", of them on a line or in the other zone " << report.shotsInWrongZone << "; stored "
+            << sum / static_cast<double>(std::max<std::size_t>(moved.size(), 1))
+            << " units from the original on average, " << share(moved, 1) << " at most.\n"
+            << std::setprecision(0)
+            << "From one click to its event on disk: " << share(report.millisecondsToDisk, 0.5)
+            << " ms median, " << share(report.millisecondsToDisk, 0.99) << " ms for 99 of 100, "
+            << share(report.millisecondsToDisk, 1) << " ms at most.\n"
+            << "Questions that lay over the next click: " << hand.questionsInTheWay()
+            << "; returns to an ended period: " << report.returns
+            << "; clock set by hand: " << report.clockCorrections << ".\n";
+}
+
+void openForInput(const Table& table) {
+  table.program.waitUntilActive("MDI");
+  table.person.press("ctrl+shift+o");
+  table.program.waitUntilActive("fileNameEdit");
+  table.person.type(table.recorded.path());
+  table.person.press("Return");
+  table.program.waitUntilActive("frmLIVE");
+}
+
+int run(const Options& options) {
+  FileSystem files;
+  cinifile store(files);
+  Game original;
+  if (GameFile(store, options.game.string()).read(original) != GameFileProblem::None) {
+    std::cout << "skipped: there is no game " << options.game << '\n';
+    return kSkipped;
+  }
+  const TemporaryFolder folder;
+  const std::string path = folder.path("replay.GAM");
+  GameDetails details = original.details;
+  details.isFinished = false;
+  if (GameFile(store, path).create(details, original.roster[0].players(), original.roster[1].players()) !=
+      GameFileProblem::None)
+    throw ReplayFailure("the game cannot be made: " + path);
+
+  const auto start = std::chrono::steady_clock::now();
+  Program program({options.program, "--rehearsal", "--folder", folder.path()});
+  Person person;
+  Recorded recorded(path);
+  Camera camera(options.pictures);
+  const Table table{program, person, recorded, camera};
+  openForInput(table);
+  if (options.isFrench)
+    person.press("F12");
+  MouseHand hand(table);
+  Replay replay(original, table, hand);
+  replay.play();
+  replay.declareOver();
+  person.press("ctrl+q");
+  const int status = program.waitForEnd();
+  const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+
+  recorded.read();
+  GameState state;
+  (void)Tally::run(state, recorded.game().events, recorded.game().roster[0], recorded.game().roster[1]);
+  std::vector<std::string> wrong = differences(recorded.game(), original);
+  for (const std::string& line : OfficialBox(options.game).differences(recorded.game(), state))
+    wrong.push_back("official box: " + line);
+  if (status != 0)
+    wrong.push_back("the program ended with status " + std::to_string(status));
+
+  std::cout << options.game.stem().string() << (options.isFrench ? ", in French" : "") << ": "
+            << original.events.size() << " events in " << std::fixed << std::setprecision(1) << took.count()
+            << " s\n";
+  print(replay.report(), hand);
+  for (const std::string& line : wrong)
+    std::cout << line << '\n';
+  std::cout << (wrong.empty() ? "The same game, to the second, and the official box score.\n"
+                              : "NOT the same game.\n");
+  return wrong.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return run(parse({argv + 1, argv + argc}));
+  } catch (const std::exception& failure) {
+    std::cout << "FAILED: " << failure.what() << '\n';
+    return EXIT_FAILURE;
+  }
+}
