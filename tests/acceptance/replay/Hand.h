@@ -26,6 +26,7 @@ class Hand {
   virtual void prepare() = 0; // the window has just opened
   virtual void toggleClock() = 0;
   virtual void switchSides() = 0;
+  virtual void returnToEndedPeriod() = 0;
   // Both return in a few words how it was entered; the report counts by them.
   virtual std::string record(const GameEvent& event) = 0; // a shot or an action
   // Returns when these stand on court on disk.

@@ -63,47 +63,68 @@ void MouseHand::switchSides() {
   m_isSwitched = !m_isSwitched;
 }
 
+void MouseHand::returnToEndedPeriod() {
+  click("cmdRETURN");
+}
+
 void MouseHand::click(const std::string& control, Person::Button button) {
   const Program::Place place = m_table.program.where(control);
   if (!place.isShown || !place.isEnabled)
     throw ReplayFailure(control + " cannot be clicked");
-  clickAt(place.x + place.width / 2, place.y + place.height / 2, button);
+  clearAway(place.middleX(), place.middleY());
+  m_table.person.clickAt(place, button);
 }
 
-void MouseHand::clickAt(int x, int y, Person::Button button) {
+void MouseHand::clearAway(int x, int y) {
   const Program::Place question = m_table.program.where("FollowUp");
-  if (question.isShown && question.holds(x, y)) {
-    m_table.person.press("Escape");
-    m_table.program.waitUntilGone("FollowUp");
-    ++m_questionsInTheWay;
-  }
-  m_table.person.click(x, y, button);
+  if (!question.isShown || !question.holds(x, y))
+    return;
+  m_table.person.press("Escape");
+  m_table.program.waitUntilGone("FollowUp");
+  ++m_questionsInTheWay;
 }
 
-int MouseHand::slotOf(const GameEvent& event) {
-  const auto team = static_cast<std::size_t>(event.player.team);
-  const std::string entry = std::to_string(m_table.recorded.game().roster[team].entryOf(event.player.jersey));
+// Nothing for a player on the bench.
+std::optional<int> MouseHand::slotOf(const GameEvent& event) {
+  const std::string entry = std::to_string(entryOf(event));
   for (int place = 0; place < kSlotsOfTeam; ++place) {
     const int slot = event.player.team * kSlotsOfTeam + place;
     if (m_table.program.text(element("lblID", slot)) == entry)
       return slot;
   }
-  throw ReplayFailure("nobody on court for " + std::string(event.line));
+  return std::nullopt;
+}
+
+int MouseHand::entryOf(const GameEvent& event) const {
+  return m_table.recorded.game().roster[event.player.team].entryOf(event.player.jersey);
 }
 
 std::string MouseHand::record(const GameEvent& event) {
   if (const auto how = answerQuestion(event))
     return *how;
-  const int slot = slotOf(event);
+  const auto slot = slotOf(event);
+  if (!slot)
+    return recordOnBench(event);
   if (event.isShot())
-    return shoot(event, slot);
+    return shoot(event, *slot);
   for (const Control& button : kButtons) {
     if (button.code == event.code)
-      click(element(button.name, slot));
+      click(element(button.name, *slot));
   }
   const bool isFollowUp =
       event.code == EventCode::SA || event.code == EventCode::SOR || event.code == EventCode::SDR;
   return isFollowUp ? "assist or rebound by its button" : "action";
+}
+
+// Fouls alone are his: his number, then the foul.
+std::string MouseHand::recordOnBench(const GameEvent& event) {
+  const bool isTechnical = event.code == EventCode::STF;
+  if (!isTechnical && event.code != EventCode::SPF)
+    throw ReplayFailure("he is not on court");
+  click("picBENCH/" + element("cmdJERSEY", event.player.team * kPlaces + entryOf(event) - 1));
+  m_table.program.waitUntilShown("picSELECTED");
+  click(isTechnical ? "cmdSELTF" : "cmdSELPF");
+  return "foul of the bench";
 }
 
 std::string MouseHand::shoot(const GameEvent& event, int slot) {
@@ -118,7 +139,8 @@ std::string MouseHand::shoot(const GameEvent& event, int slot) {
   const bool playsRight = (event.player.team == 1) != m_isSwitched;
   const Pixel pixel =
       courtPixel(court.width, court.height, {event.x, event.y}, event.code, playsRight, m_zones);
-  clickAt(court.x + pixel.x, court.y + pixel.y, button);
+  clearAway(court.x + pixel.x, court.y + pixel.y);
+  m_table.person.click(court.x + pixel.x, court.y + pixel.y, button);
   return "shot on the court";
 }
 
@@ -149,8 +171,7 @@ std::optional<std::string> MouseHand::answerQuestion(const GameEvent& event) {
     return std::nullopt;
   m_typesNext = !m_typesNext;
   if (m_typesNext || sameNumber > 1) {
-    const Program::Place place = program.where(form + element("cmdJERSEY", offered));
-    m_table.person.click(place.x + place.width / 2, place.y + place.height / 2);
+    m_table.person.clickAt(program.where(form + element("cmdJERSEY", offered)));
     return isAssist ? "assist asked for, clicked" : "rebound asked for, clicked";
   }
   std::string typed;

@@ -17,16 +17,19 @@ class MouseHand : public Hand {
   void prepare() override;
   void toggleClock() override;
   void switchSides() override;
+  void returnToEndedPeriod() override;
   std::string record(const GameEvent& event) override;
   std::string substitute(const OnCourt& wanted) override;
 
   int questionsInTheWay() const { return m_questionsInTheWay; }
 
  private:
-  // A question that lies over the place is closed first.
   void click(const std::string& control, Person::Button button = Person::Button::Left);
-  void clickAt(int x, int y, Person::Button button);
-  [[nodiscard]] int slotOf(const GameEvent& event);
+  // Closes the question that lies over the place.
+  void clearAway(int x, int y);
+  [[nodiscard]] std::optional<int> slotOf(const GameEvent& event);
+  [[nodiscard]] int entryOf(const GameEvent& event) const;
+  std::string recordOnBench(const GameEvent& event);
   std::string shoot(const GameEvent& event, int slot);
   std::optional<std::string> answerQuestion(const GameEvent& event);
   void substituteOneByOne(const OnCourt& wanted);

@@ -1,7 +1,5 @@
 #include "Person.h"
 
-#include "Program.h"
-
 #include <X11/XKBlib.h>
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
@@ -36,6 +34,10 @@ void Person::click(int x, int y, Button button) {
   m_effort.travel += std::hypot(x - m_x, y - m_y);
   m_x = x;
   m_y = y;
+}
+
+void Person::clickAt(const Program::Place& place, Button button) {
+  click(place.middleX(), place.middleY(), button);
 }
 
 // Nobody lets go in the moment he presses; and events of one moment do not always all arrive.

@@ -1,7 +1,8 @@
 // Presses keys and buttons of the mouse on the display, as a person does, and counts them.
 #pragma once
 
-#include <memory>
+#include "Program.h"
+
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,7 @@ class Person {
 
   enum class Button { Left = 1, Right = 3 };
   void click(int x, int y, Button button = Button::Left);
+  void clickAt(const Program::Place& place, Button button = Button::Left); // its middle
   // A key by its X name, with what is held meanwhile: "ctrl+shift+o", "space".
   void press(const std::string& key);
   void type(std::string_view text);

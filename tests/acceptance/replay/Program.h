@@ -26,6 +26,8 @@ class Program {
   struct Place {
     int x = 0, y = 0, width = 0, height = 0;
     bool isShown = false, isEnabled = false, isActive = false; // active: its window has the keys
+    int middleX() const { return x + width / 2; }
+    int middleY() const { return y + height / 2; }
     bool holds(int atX, int atY) const { return atX >= x && atX < x + width && atY >= y && atY < y + height; }
   };
   [[nodiscard]] Place where(const std::string& control);

@@ -125,15 +125,14 @@ void Replay::beginNextPeriod(const GameEvent& first) {
 
 void Replay::returnToEndedPeriod() {
   const Effort before = m_table.person.effort();
-  if (isLastRegular() && m_table.program.isShown("frmOVERTIME")) {
+  if (isLastRegular() && m_counted.points(0) == m_counted.points(1)) {
+    m_table.program.waitUntilActive("frmOVERTIME");
     m_table.person.press("Escape");
     m_table.program.waitUntilActive("frmLIVE");
   }
   m_table.program.waitUntilShown("cmdRETURN");
-  const Program::Place button = m_table.program.where("cmdRETURN");
-  m_table.person.click(button.x + button.width / 2, button.y + button.height / 2);
-  waitUntil("the clock of the ended period is shown",
-            [&] { return m_table.program.text("lblTEMPS") == "00:00"; });
+  m_hand.returnToEndedPeriod();
+  m_table.program.waitUntilGone("cmdRETURN");
   m_isClosed = false;
   ++m_report.returns;
   noteEffort("return to an ended period", before);
@@ -144,9 +143,8 @@ void Replay::correctClock(int clockSeconds) {
   const bool wasRunning = m_isRunning;
   if (wasRunning)
     toggleClock();
-  const Program::Place clock = m_table.program.where("lblTEMPS");
   for (int press = 0; press < 2; ++press)
-    m_table.person.click(clock.x + clock.width / 2, clock.y + clock.height / 2);
+    m_table.person.clickAt(m_table.program.where("lblTEMPS"));
   m_table.program.waitUntilShown("txtTEMPS");
   m_clock = clockSeconds;
   m_table.person.type(Module1::clockText(m_clock));
@@ -206,7 +204,8 @@ void Replay::record(const GameEvent& event) {
   const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
   const GameEvent& found = m_table.recorded.game().events[m_table.recorded.game().events.size() - 1];
   if (m_table.recorded.game().events.size() != known + 1 || !isSame(found, event))
-    throw ReplayFailure("recorded was " + inWords(found));
+    throw ReplayFailure("recorded was " + inWords(found) + ", " +
+                        std::to_string(m_table.recorded.game().events.size() - known) + " more than before");
   const Effort& now = m_table.person.effort();
   if (now.clicks == before.clicks + 1 && now.keys == before.keys)
     m_report.millisecondsToDisk.push_back(took.count());
@@ -241,8 +240,7 @@ void Replay::declareOver() {
   m_table.person.press("ctrl+g");
   m_table.program.waitUntilActive("frmGAMEOVER/cmd1");
   m_table.camera.take("game-over");
-  const Program::Place button = m_table.program.where("frmGAMEOVER/cmd1");
-  m_table.person.click(button.x + button.width / 2, button.y + button.height / 2);
+  m_table.person.clickAt(m_table.program.where("frmGAMEOVER/cmd1"));
   m_table.recorded.waitUntil("the end of the game", [](const Game& game) { return game.details.isFinished; });
   m_table.program.waitUntilActive("frmLIVE");
   m_table.camera.take("end");
