@@ -59,7 +59,9 @@ void MouseHand::toggleClock() {
 }
 
 void MouseHand::switchSides() {
+  const std::string before = m_table.program.text("cmdCOUL(0)");
   click("cmdSWITCH");
+  waitUntil("the sides are shown as switched", [&] { return m_table.program.text("cmdCOUL(0)") != before; });
   m_isSwitched = !m_isSwitched;
 }
 
