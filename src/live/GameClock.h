@@ -7,6 +7,8 @@
 
 namespace hooptab {
 
+inline constexpr int kMostOvertimeMinutes = 99; // of a clock that shows mm:ss
+
 class GameClock {
  public:
   void set(int seconds) { m_atStart = std::max(seconds, 0); } // only while it stands

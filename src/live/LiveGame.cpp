@@ -12,13 +12,8 @@ namespace hooptab {
 namespace {
 
 constexpr int kSecondsPerMinute = 60;
-constexpr int kMostOvertimeMinutes = 99;
 constexpr int kMostPeriods = 255;
 constexpr int kSubstitution = 1561;
-constexpr int kDeletion = 1910;
-constexpr int kRestoring = 1911;
-constexpr int kEditing = 1912;
-constexpr int kInsertion = 1965;
 
 EventChange replacement(int period, const std::string& key, std::string line) {
   return {EventChange::Kind::Replace, period, key, std::move(line)};
@@ -168,7 +163,7 @@ void LiveGame::checkCounts() const {
 }
 
 void LiveGame::recordStop() {
-  m_log.change({added(lineOf(stopText(onCourt())))});
+  m_log.change({added(lineOf(stopText(onCourt(), m_log.rosters())))});
   checkCounts();
 }
 
@@ -372,7 +367,7 @@ const std::pair<std::string, std::string>* LiveGame::openSubstitution() const {
 }
 
 bool LiveGame::recordOnCourt() {
-  const std::string line = lineOf(stopText(onCourt()));
+  const std::string line = lineOf(stopText(onCourt(), m_log.rosters()));
   if (const auto* open = openSubstitution()) {
     const std::pair<std::string, std::string> old = *open;
     return done(kSubstitution, {replacement(m_period, old.first, line)},
@@ -390,11 +385,6 @@ bool LiveGame::done(int text, const std::vector<EventChange>& steps, std::vector
     return false;
   m_history.add({text, {steps[0].period, steps[0].key}, std::move(back), m_log.nextNumber()});
   return true;
-}
-
-std::string LiveGame::stopText(const OnCourt& lists) const {
-  const Rosters rosters = m_log.rosters();
-  return hooptab::stopText(rosters[0].listOf(lists[0]), rosters[1].listOf(lists[1]));
 }
 
 // --- What is counted
@@ -491,11 +481,17 @@ bool LiveGame::isFouledOut(int team, int player) const {
          reached(counters[Counter::TF], rules.technicalFoulLimit);
 }
 
-// --- Taking back
+// --- Editing and taking back
 
-bool LiveGame::take(int text, const EventEdit& edit, bool isWhole) {
-  m_conflict = edit.conflict();
-  if (!canRecord() || !isWhole || edit.steps().empty() || !done(text, edit.steps(), edit.back()))
+bool LiveGame::take(const EditPlan& plan) {
+  m_conflict = plan.conflict;
+  if (!canRecord() || !plan.isPossible)
+    return false;
+  for (const EventChange& step : plan.steps) {
+    if (step.kind == EventChange::Kind::Add)
+      (void)m_log.takeKey(); // which the plan has named
+  }
+  if (!done(plan.text, plan.steps, plan.back))
     return false;
   putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, m_log.rosters()));
   decideAgain();
@@ -549,109 +545,6 @@ bool LiveGame::redo() {
     return false;
   m_history.redone(std::move(inverse), m_log.nextNumber());
   return true;
-}
-
-// --- Editing
-
-bool LiveGame::setDeleted(std::span<const EventPlace> events, bool isDeleted) {
-  EventEdit edit(m_log.lines(), m_log.rosters());
-  const auto mark = [&](const EventPlace& event) {
-    const std::string* line = findLine(edit.lines(), event.period, event.key);
-    return line != nullptr && !(isDeleted && closesPeriod(edit.lines(), event)) &&
-           edit.takeCarryingOn(replacement(event.period, event.key, withDeletion(*line, isDeleted)));
-  };
-  const bool isWhole = std::ranges::all_of(events, mark);
-  return take(isDeleted ? kDeletion : kRestoring, edit, isWhole);
-}
-
-// A time of the period, as far as its length is known: that of an overtime is in no file.
-bool LiveGame::isClock(int period, int clock) const {
-  if (!hasTime() || clock < 0)
-    return clock == 0;
-  const bool isRegular = period <= game().details.periods;
-  return clock <= (isRegular ? game().details.minutesPerPeriod : kMostOvertimeMinutes) * kSecondsPerMinute;
-}
-
-std::string LiveGame::textOf(const Counted& counted) const {
-  const RosterPlayer* who = game().roster[static_cast<std::size_t>(counted.team)].player(counted.player);
-  const EventKind* kind = kindOf(counted.kind);
-  if (who == nullptr || kind == nullptr)
-    return {};
-  return eventText(counted.kind, counted.isMade, counted.team, who->jersey,
-                   kind->hasPlace ? counted.place : std::nullopt);
-}
-
-bool LiveGame::replaceEvent(const EventPlace& event, int clock, const std::string& eventText) {
-  m_conflict.reset();
-  const std::string* line = findLine(m_log.lines(), event.period, event.key);
-  if (line == nullptr || !isClock(event.period, clock))
-    return false;
-  EventEdit edit(m_log.lines(), m_log.rosters());
-  bool isWhole = edit.takeCarryingOn(replacement(
-      event.period, event.key, withDeletion(Module1::clockText(clock) + eventText, line->starts_with('E'))));
-  const std::string behind = keyBehind(m_log.lines(), event);
-  const std::string before = placeForClock(m_log.lines(), event.period, event.key, clock, behind);
-  if (isWhole && before != behind)
-    isWhole = edit.moveCarryingOn(event, before);
-  return take(kEditing, edit, isWhole);
-}
-
-bool LiveGame::setTime(const EventPlace& event, int clock) {
-  const std::string* line = findLine(m_log.lines(), event.period, event.key);
-  const std::size_t comma = line == nullptr ? std::string::npos : line->find(',');
-  return comma != std::string::npos && replaceEvent(event, clock, line->substr(comma));
-}
-
-bool LiveGame::editEvent(const EventPlace& event, int clock, const Counted& counted) {
-  const std::string text = textOf(counted);
-  return !text.empty() && replaceEvent(event, clock, text);
-}
-
-bool LiveGame::insertEvent(const EventPlace& at, Where where, int clock, const Counted& counted) {
-  m_conflict.reset();
-  const std::string text = textOf(counted);
-  if (!canRecord() || text.empty() || !isClock(at.period, clock) ||
-      findLine(m_log.lines(), at.period, at.key) == nullptr)
-    return false;
-  const std::string wanted = where == Where::Before ? at.key : keyBehind(m_log.lines(), at);
-  const std::string before = placeForClock(m_log.lines(), at.period, {}, clock, wanted);
-  EventEdit edit(m_log.lines(), m_log.rosters());
-  const bool isWhole = edit.take(
-      {EventChange::Kind::Add, at.period, m_log.takeKey(), Module1::clockText(clock) + text, before});
-  return take(kInsertion, edit, isWhole);
-}
-
-// Where the clock runs it is started again at the same time, as by a substitution that is recorded.
-bool LiveGame::insertSubstitution(const EventPlace& at, Where where, const OnCourt& out, const OnCourt& in) {
-  m_conflict.reset();
-  const std::string* line = findLine(m_log.lines(), at.period, at.key);
-  if (!canRecord() || line == nullptr || (out == OnCourt{} && in == OnCourt{}))
-    return false;
-  const GameEvent event = GameEvent::parse(static_cast<std::uint8_t>(at.period), at.key, *line);
-  if (!event.isUnderstood)
-    return false;
-  const Rosters rosters = m_log.rosters();
-  OnCourt lists = where == Where::Before ? inForceBefore(m_log.lines(), at.period, at.key, rosters)
-                                         : inForce(m_log.lines(), at.period, at.key, rosters);
-  for (std::size_t team = 0; team < 2; ++team) {
-    const bool isPossible = (out[team] & ~lists[team]) == 0 && (in[team] & lists[team]) == 0;
-    lists[team] = (lists[team] & ~out[team]) | in[team];
-    if (!isPossible || std::popcount(lists[team]) > kMostOnCourt) {
-      m_conflict = at;
-      return false;
-    }
-  }
-  const std::string before = where == Where::Before ? at.key : keyBehind(m_log.lines(), at);
-  const std::string clock = Module1::clockText(event.clockSeconds);
-  const auto insertion = [&](const std::string& text) {
-    return EventChange{EventChange::Kind::Add, at.period, m_log.takeKey(), clock + text, before};
-  };
-  const bool isRunning = isRunningBefore(m_log.lines(), at.period, before);
-  EventEdit edit(m_log.lines(), rosters);
-  bool isWhole = edit.takeCarryingOn(insertion(stopText(lists)));
-  if (isWhole && isRunning)
-    isWhole = edit.take(insertion(startText()));
-  return take(kInsertion, edit, isWhole);
 }
 
 } // namespace hooptab

@@ -3,8 +3,8 @@
 // be, when the call returns. Decides for the live window and knows none.
 #pragma once
 
-#include "live/EventEdit.h"
 #include "live/GameClock.h"
+#include "live/GameEditing.h"
 #include "live/LiveHistory.h"
 #include "live/LiveLog.h"
 #include "live/TimeSource.h"
@@ -114,28 +114,32 @@ class LiveGame {
   bool undo();
   bool redo();
 
-  // --- Editing; each is one action, and substitutions are carried on. False: nothing was changed.
-  // Marks events as deleted or restores them. The stop that ends a period cannot be deleted.
-  bool setDeleted(std::span<const EventPlace> events, bool isDeleted);
-  bool canDelete(const EventPlace& event) const { return !closesPeriod(m_log.lines(), event); }
-  // A line in place of another, its mark of deletion apart. With a clock past those of its neighbours the
-  // event moves, within its period, behind the last of equal clock.
-  bool replaceEvent(const EventPlace& event, int clockSeconds, const std::string& eventText);
-  bool setTime(const EventPlace& event, int clockSeconds);
-  struct Counted {
-    EventCode kind = EventCode::Unknown;
-    bool isMade = false; // shots
-    int team = 0;
-    int player = 0; // entry
-    std::optional<std::pair<double, double>> place = std::nullopt;
-  };
-  bool editEvent(const EventPlace& event, int clockSeconds, const Counted& counted);
-  enum class Where { Before, Behind };
-  // A clock that does not fit there puts the event where it does.
-  bool insertEvent(const EventPlace& at, Where where, int clockSeconds, const Counted& counted);
-  // A forgotten substitution, at the clock of the event `at`.
-  bool insertSubstitution(const EventPlace& at, Where where, const OnCourt& out, const OnCourt& in);
-  // Where the last of these, refused, did not fit: six would be on court, or one of them twice.
+  // --- Editing; each is one action, as GameEditing plans it. False: nothing was changed.
+  using Where = GameEditing::Where;
+  using Counted = GameEditing::Counted;
+  [[nodiscard]] GameEditing editing() const { return GameEditing(m_log); }
+  // A plan for the game as it stands.
+  bool take(const EditPlan& plan);
+  bool setDeleted(std::span<const EventPlace> events, bool isDeleted) {
+    return take(editing().deletion(events, isDeleted));
+  }
+  bool canDelete(const EventPlace& event) const { return editing().canDelete(event); }
+  bool replaceEvent(const EventPlace& event, int clockSeconds, const std::string& eventText) {
+    return take(editing().replacement(event, clockSeconds, eventText));
+  }
+  bool setTime(const EventPlace& event, int clockSeconds) {
+    return take(editing().newTime(event, clockSeconds));
+  }
+  bool editEvent(const EventPlace& event, int clockSeconds, const Counted& counted) {
+    return take(editing().change(event, clockSeconds, counted));
+  }
+  bool insertEvent(const EventPlace& at, Where where, int clockSeconds, const Counted& counted) {
+    return take(editing().insertion(at, where, clockSeconds, counted));
+  }
+  bool insertSubstitution(const EventPlace& at, Where where, const OnCourt& out, const OnCourt& in) {
+    return take(editing().substitution(at, where, out, in));
+  }
+  // Of the last plan that was refused.
   const std::optional<EventPlace>& conflict() const { return m_conflict; }
 
  private:
@@ -149,13 +153,9 @@ class LiveGame {
   void showAsLeft();
   void putOnCourt(const OnCourt& onCourt);
   bool recordOnCourt();
-  [[nodiscard]] std::string stopText(const OnCourt& lists) const;
   bool done(int text, const std::vector<EventChange>& steps, std::vector<EventChange> back);
   [[nodiscard]] const std::pair<std::string, std::string>* openSubstitution() const;
-  bool take(int text, const EventEdit& edit, bool isWhole);
   void decideAgain();
-  bool isClock(int period, int clockSeconds) const;
-  std::string textOf(const Counted& counted) const; // empty when there is no such player or kind
   bool turn(const LiveAction& action, std::vector<EventChange>& inverse);
 
   LiveLog m_log;

@@ -78,6 +78,10 @@ std::string listsText(const OnCourt& onCourt, const Rosters& rosters) {
   return rosters[0].listOf(onCourt[0]) + ',' + rosters[1].listOf(onCourt[1]);
 }
 
+std::string stopText(const OnCourt& onCourt, const Rosters& rosters) {
+  return hooptab::stopText(rosters[0].listOf(onCourt[0]), rosters[1].listOf(onCourt[1]));
+}
+
 std::string withLists(const std::string& line, const OnCourt& lists, const Rosters& rosters) {
   constexpr std::string_view kCode = ",ARRET,";
   return line.substr(0, line.find(kCode) + kCode.size()) + listsText(lists, rosters);

@@ -36,6 +36,9 @@ struct Rosters {
 // "IN-04-05,IN-": both lists, as a stop's line has them behind its code.
 [[nodiscard]] std::string listsText(const OnCourt& onCourt, const Rosters& rosters);
 
+// Code and lists of a stop.
+[[nodiscard]] std::string stopText(const OnCourt& onCourt, const Rosters& rosters);
+
 // A stop's line with other lists; clock, code and the mark of a deleted one stay.
 [[nodiscard]] std::string withLists(const std::string& line, const OnCourt& lists, const Rosters& rosters);
 

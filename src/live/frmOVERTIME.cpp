@@ -4,6 +4,7 @@
 #include "appearance/Mnemonics.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "live/GameClock.h"
 #include "storage/GameDetails.h"
 #include "storage/Module1.h"
 
@@ -21,7 +22,6 @@ constexpr int kTitle = 1141;
 constexpr int kKeepFouls = 1142;
 constexpr int kAccept = 1089;
 constexpr int kMinutesOfOvertime = 1942;
-constexpr int kMostMinutes = 99; // of a clock that shows mm:ss
 constexpr int kSecondsPerMinute = 60;
 constexpr int kClockPoints = 32;
 constexpr int kMargin = 16;
@@ -35,7 +35,7 @@ frmOVERTIME::frmOVERTIME(const GameDetails& details, const Texts& texts, QWidget
   setTextNumber(*this, kTitle);
   setModal(true);
   m_minutes->setObjectName(QStringLiteral("UpDown1"));
-  m_minutes->setRange(1, kMostMinutes);
+  m_minutes->setRange(1, kMostOvertimeMinutes);
   m_minutes->setFont(Theme::figures(font().pointSize()));
   m_keepsFouls->setObjectName(QStringLiteral("Check1"));
   m_keepsFouls->setChecked(details.keepsBonus); // as in the overtime before
