@@ -2,6 +2,7 @@
 
 #include "appearance/Icons.h"
 #include "appearance/relabel.h"
+#include "live/EventFilterRow.h"
 #include "live/LiveEventDelegate.h"
 #include "live/LiveGame.h"
 #include "live/ShotFollowUp.h"
@@ -9,12 +10,9 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QBoxLayout>
-#include <QComboBox>
-#include <QGridLayout>
 #include <QHeaderView>
 #include <QMenu>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QTableView>
 #include <QToolButton>
 #include <algorithm>
@@ -32,12 +30,7 @@ constexpr int kButtonSize = 26;
 
 constexpr int kDelete = 1081;
 constexpr int kUndelete = 1086;
-constexpr int kPeriod = 1087;
 constexpr int kEvents = 1547;
-constexpr int kSubstitution = 1561;
-constexpr int kPlayer = 1593;
-constexpr int kTeam = 1594;
-constexpr int kKind = 1595;
 constexpr int kDeletion = 1910;
 constexpr int kRestoring = 1911;
 constexpr int kEdit = 1912;
@@ -64,6 +57,9 @@ QString withPlaceholder(const Texts& texts, int number, const QString& replaceme
 LiveEventPanel::LiveEventPanel(const Texts& texts, QWidget* parent)
     : QWidget(parent), m_texts(texts), m_rows(texts) {
   makeList();
+  m_filters = new EventFilterRow(texts, this);
+  m_filters->hide();
+  connect(m_filters, &EventFilterRow::changed, this, [this] { m_rows.setFilter(m_filters->filter()); });
   m_checks = new QPushButton(this);
   m_checks->setObjectName(QStringLiteral("lblCHECKS"));
   m_checks->setFlat(true);
@@ -76,7 +72,7 @@ LiveEventPanel::LiveEventPanel(const Texts& texts, QWidget* parent)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(2);
   layout->addWidget(makeButtons());
-  layout->addWidget(makeFilters());
+  layout->addWidget(m_filters);
   layout->addWidget(m_checks, 0, Qt::AlignLeft);
   layout->addWidget(m_list, 1);
   hooptab::relabel(*this, texts);
@@ -185,35 +181,9 @@ QWidget* LiveEventPanel::makeButtons() {
   connect(m_filter, &QAction::toggled, this, [this](bool isOpen) {
     m_filters->setVisible(isOpen);
     if (!isOpen) // nothing stays hidden that one could wait for
-      clearFilter();
+      m_filters->clear();
   });
   return row;
-}
-
-QWidget* LiveEventPanel::makeFilters() {
-  m_filters = new QWidget(this);
-  auto* layout = new QGridLayout(m_filters);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(2);
-  int place = 0;
-  const auto make = [&](const char* name, int text) {
-    auto* box = new QComboBox(m_filters);
-    box->setObjectName(QLatin1String(name));
-    setAccessibleNumber(*box, text);
-    setToolTipNumber(*box, text);
-    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(6);
-    layout->addWidget(box, place / 2, place % 2);
-    ++place;
-    connect(box, &QComboBox::currentIndexChanged, this, &LiveEventPanel::takeFilter);
-    return box;
-  };
-  m_team = make("cmbTEAM", kTeam);
-  m_period = make("cmbPERIOD", kPeriod);
-  m_player = make("cmbPLAYER", kPlayer);
-  m_kind = make("cmbKIND", kKind);
-  m_filters->hide();
-  return m_filters;
 }
 
 // --- What is shown
@@ -238,16 +208,14 @@ void LiveEventPanel::showGame(const LiveGame& game) {
     m_list->scrollTo(top, QAbstractItemView::PositionAtTop);
   if (isNew)
     fitColumns();
-  fillFilters();
+  m_filters->showGame(m_rows.game(), m_rows.words());
   showChecks();
   showCommands();
 }
 
 void LiveEventPanel::relabelPanel() {
   m_rows.relabel();
-  for (QComboBox* box : {m_team, m_period, m_player, m_kind})
-    box->setProperty("shown", {}); // their items are words
-  fillFilters();
+  m_filters->relabelRow(m_rows.game(), m_rows.words());
   fitColumns();
   showChecks();
   showCommands();
@@ -261,77 +229,6 @@ void LiveEventPanel::applyColours() {
 void LiveEventPanel::fitColumns() {
   const int clock = QFontMetrics(m_list->font()).horizontalAdvance(QStringLiteral("00:00"));
   m_list->setColumnWidth(EventListModel::Clock, clock + kPadding);
-}
-
-// Filled anew only when another choice is to be had: a period more, another language, another game.
-void LiveEventPanel::fillFilters() {
-  const Game& game = m_rows.game();
-  const int periods =
-      std::max(game.details.periods, game.events.size() == 0 ? 0 : int{game.events.events().back().period});
-  const auto fill = [this](QComboBox& box, int text, const QString& key, auto addItems) {
-    if (box.property("shown").toString() == key)
-      return;
-    box.setProperty("shown", key);
-    const QVariant chosen = box.currentData();
-    const QSignalBlocker quiet(box);
-    box.clear();
-    box.addItem(caption(m_texts, text), QVariant());
-    addItems(box);
-    const int kept = chosen.isValid() ? box.findData(chosen) : 0;
-    box.setCurrentIndex(std::max(kept, 0));
-  };
-  const QString whole = QStringLiteral("%1|%2").arg(m_path).arg(game.roster[0].players().size());
-  fill(*m_team, kTeam, whole, [&](QComboBox& box) {
-    for (int team = 0; team < 2; ++team)
-      box.addItem(toQt(m_rows.words().team(team)), team);
-  });
-  fill(*m_period, kPeriod, whole + QString::number(periods), [&](QComboBox& box) {
-    for (int period = 1; period <= periods; ++period)
-      box.addItem(toQt(m_rows.words().periodText(period)), period);
-  });
-  const QVariant team = m_team->currentData();
-  fill(*m_player, kPlayer, whole + u'|' + team.toString(), [&](QComboBox& box) {
-    for (int side = 0; side < 2; ++side) {
-      if (team.isValid() && team.toInt() != side)
-        continue;
-      for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
-        const RosterPlayer* player = game.roster[side].player(entry);
-        if (player != nullptr)
-          box.addItem(toQt(m_rows.words().team(side)) + u' ' +
-                          toQt(m_rows.words().player({side, player->jersey})),
-                      side * (Roster::kLargestEntry + 1) + entry);
-      }
-    }
-  });
-  fill(*m_kind, kKind, QStringLiteral("kinds"), [&](QComboBox& box) {
-    for (const EventKind& kind : eventKinds())
-      box.addItem(caption(m_texts, kind.wordsText), static_cast<int>(kind.code));
-    box.addItem(caption(m_texts, kSubstitution), static_cast<int>(EventCode::ARRET));
-  });
-  for (QComboBox* box : {m_player, m_kind})
-    box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + 3 * kPadding);
-}
-
-void LiveEventPanel::takeFilter() {
-  fillFilters(); // another team has other players
-  EventFilter filter;
-  if (m_team->currentData().isValid())
-    filter.team = m_team->currentData().toInt();
-  filter.period = m_period->currentData().toInt();
-  if (const QVariant player = m_player->currentData(); player.isValid()) {
-    filter.team = player.toInt() / (Roster::kLargestEntry + 1);
-    filter.player = player.toInt() % (Roster::kLargestEntry + 1);
-  }
-  filter.kind = static_cast<EventCode>(m_kind->currentData().toInt());
-  m_rows.setFilter(filter);
-}
-
-void LiveEventPanel::clearFilter() {
-  for (QComboBox* box : {m_team, m_period, m_player, m_kind}) {
-    const QSignalBlocker quiet(box);
-    box->setCurrentIndex(0);
-  }
-  takeFilter();
 }
 
 void LiveEventPanel::showChecks() {
@@ -412,7 +309,7 @@ void LiveEventPanel::choose(const EventPlace& event) {
 
 void LiveEventPanel::choose(std::size_t event) {
   if (!m_rows.rowOf(event).isValid())
-    clearFilter();
+    m_filters->clear();
   const QModelIndex row = m_rows.rowOf(event);
   m_list->selectRow(row.row());
   m_list->scrollTo(row);

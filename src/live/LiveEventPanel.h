@@ -11,12 +11,12 @@
 #include <vector>
 
 class QAction;
-class QComboBox;
 class QPushButton;
 class QTableView;
 
 namespace hooptab {
 
+class EventFilterRow;
 class LiveGame;
 struct LiveAction;
 
@@ -44,11 +44,7 @@ class LiveEventPanel : public QWidget {
  private:
   QAction* makeAction(const char* name, int text, const char* iconName);
   QWidget* makeButtons();
-  QWidget* makeFilters();
   void makeList();
-  void fillFilters();
-  void takeFilter();
-  void clearFilter();
   void showChecks();
   void showCommands();
   void showTurn(QAction& action, const LiveAction* turned, int text, int nothing) const;
@@ -66,11 +62,7 @@ class LiveEventPanel : public QWidget {
   LiveEventRows m_rows;
   QTableView* m_list = nullptr;
   QPushButton* m_checks = nullptr;
-  QWidget* m_filters = nullptr;
-  QComboBox* m_team = nullptr;
-  QComboBox* m_period = nullptr;
-  QComboBox* m_player = nullptr;
-  QComboBox* m_kind = nullptr;
+  EventFilterRow* m_filters = nullptr;
   QAction* m_delete = nullptr;
   QAction* m_undelete = nullptr;
   QAction* m_edit = nullptr;

@@ -1,0 +1,144 @@
+#include "live/EventFilterRow.h"
+
+#include "appearance/relabel.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QSignalBlocker>
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kPeriod = 1087;
+constexpr int kSubstitution = 1561;
+constexpr int kPlayer = 1593;
+constexpr int kTeam = 1594;
+constexpr int kKind = 1595;
+
+constexpr int kPadding = 8;
+constexpr int kFewestLetters = 6;
+constexpr int kEntries = Roster::kLargestEntry + 1; // a player is chosen as team * kEntries + entry
+
+} // namespace
+
+EventFilterRow::EventFilterRow(const Texts& texts, QWidget* parent) : QWidget(parent), m_texts(texts) {
+  auto* layout = new QGridLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(2);
+  m_team = makeBox("cmbTEAM", kTeam);
+  m_period = makeBox("cmbPERIOD", kPeriod);
+  m_player = makeBox("cmbPLAYER", kPlayer);
+  m_kind = makeBox("cmbKIND", kKind);
+  layout->addWidget(m_team, 0, 0);
+  layout->addWidget(m_period, 0, 1);
+  layout->addWidget(m_player, 1, 0);
+  layout->addWidget(m_kind, 1, 1);
+}
+
+QComboBox* EventFilterRow::makeBox(const char* name, int text) {
+  auto* box = new QComboBox(this);
+  box->setObjectName(QLatin1String(name));
+  setAccessibleNumber(*box, text);
+  setToolTipNumber(*box, text);
+  box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  box->setMinimumContentsLength(kFewestLetters);
+  connect(box, &QComboBox::currentIndexChanged, this, [this, box] {
+    if (box == m_team)
+      fillPlayers();
+    emit changed();
+  });
+  return box;
+}
+
+// Filled anew only when another choice is to be had: a period more, another language, another game.
+void EventFilterRow::fill(QComboBox& box, int text, const QString& key,
+                          const std::vector<std::pair<QString, int>>& items) {
+  if (box.property("shown").toString() == key)
+    return;
+  box.setProperty("shown", key);
+  const QVariant chosen = box.currentData();
+  const QSignalBlocker quiet(box);
+  box.clear();
+  box.addItem(caption(m_texts, text), QVariant());
+  for (const auto& [words, choice] : items)
+    box.addItem(words, choice);
+  box.setCurrentIndex(std::max(chosen.isValid() ? box.findData(chosen) : 0, 0));
+  box.view()->setMinimumWidth(box.view()->sizeHintForColumn(0) + 3 * kPadding);
+}
+
+void EventFilterRow::showGame(const Game& game, const EventWords& words) {
+  const int periods =
+      std::max(game.details.periods, game.events.size() == 0 ? 0 : int{game.events.events().back().period});
+  const QString whole = toQt(game.path) + u'|' + QString::number(game.roster[0].players().size());
+  const bool isSame = whole == m_game && m_kind->count() > 0;
+  m_game = whole;
+  std::vector<std::pair<QString, int>> items;
+  for (int period = 1; period <= periods; ++period)
+    items.emplace_back(toQt(words.periodText(period)), period);
+  fill(*m_period, kPeriod, whole + u'|' + QString::number(periods), items);
+  if (isSame)
+    return;
+
+  fill(*m_team, kTeam, whole, {{toQt(words.team(0)), 0}, {toQt(words.team(1)), 1}});
+  for (int team = 0; team < 2; ++team) {
+    auto& players = m_players[static_cast<std::size_t>(team)];
+    players.clear();
+    for (int entry = 1; entry < kEntries; ++entry) {
+      if (const RosterPlayer* player = game.roster[team].player(entry))
+        players.emplace_back(toQt(words.team(team)) + u' ' + toQt(words.player({team, player->jersey})),
+                             team * kEntries + entry);
+    }
+  }
+  fillPlayers();
+  items.clear();
+  for (const EventKind& kind : eventKinds())
+    items.emplace_back(caption(m_texts, kind.wordsText), static_cast<int>(kind.code));
+  items.emplace_back(caption(m_texts, kSubstitution), static_cast<int>(EventCode::ARRET));
+  fill(*m_kind, kKind, QStringLiteral("kinds"), items);
+}
+
+void EventFilterRow::relabelRow(const Game& game, const EventWords& words) {
+  for (QComboBox* box : {m_team, m_period, m_player, m_kind})
+    box->setProperty("shown", {}); // their items are words
+  m_game.clear();
+  showGame(game, words);
+}
+
+// Of the chosen team, or of both.
+void EventFilterRow::fillPlayers() {
+  const QVariant team = m_team->currentData();
+  std::vector<std::pair<QString, int>> items;
+  for (int side = 0; side < 2; ++side) {
+    const auto& players = m_players[static_cast<std::size_t>(side)];
+    if (!team.isValid() || team.toInt() == side)
+      items.insert(items.end(), players.begin(), players.end());
+  }
+  fill(*m_player, kPlayer, m_game + u'|' + team.toString(), items);
+}
+
+EventFilter EventFilterRow::filter() const {
+  EventFilter filter;
+  if (m_team->currentData().isValid())
+    filter.team = m_team->currentData().toInt();
+  filter.period = m_period->currentData().toInt();
+  if (const QVariant player = m_player->currentData(); player.isValid()) {
+    filter.team = player.toInt() / kEntries;
+    filter.player = player.toInt() % kEntries;
+  }
+  filter.kind = static_cast<EventCode>(m_kind->currentData().toInt());
+  return filter;
+}
+
+void EventFilterRow::clear() {
+  for (QComboBox* box : {m_team, m_period, m_player, m_kind}) {
+    const QSignalBlocker quiet(box);
+    box->setCurrentIndex(0);
+  }
+  fillPlayers();
+  emit changed();
+}
+
+} // namespace hooptab
