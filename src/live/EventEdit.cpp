@@ -70,20 +70,22 @@ bool EventEdit::takeCarryingOn(const EventChange& step) {
                                                 : inForce(m_lines, step.period, step.key, m_rosters);
   if (!take(step))
     return false;
-  if (hasTooMany(step)) {
-    m_conflict = {step.period, step.key};
+  m_conflict = tooMany(step);
+  if (m_conflict)
     return false;
-  }
   const auto behind = eventBehind(m_lines, {step.period, step.key});
   return !behind || carryOn(*behind, before);
 }
 
 // A deleted stop may have been carried on to six, and is restored.
-bool EventEdit::hasTooMany(const EventChange& step) const {
-  const GameEvent event = parsed(step.period, step.line);
-  return isStop(event) && !event.isDeleted &&
-         (playersOfList(event.onCourt(0), m_rosters[0]).size() > kMostOnCourt ||
-          playersOfList(event.onCourt(1), m_rosters[1]).size() > kMostOnCourt);
+std::optional<CourtConflict> EventEdit::tooMany(const EventChange& step) const {
+  const auto lists = onCourtOf(step.period, step.line, m_rosters);
+  for (std::size_t team = 0; lists && team < 2; ++team) {
+    const GameEvent event = parsed(step.period, step.line);
+    if (playersOfList(event.onCourt(team), m_rosters[team]).size() > kMostOnCourt)
+      return CourtConflict{{step.period, step.key}, team, (*lists)[team]};
+  }
+  return std::nullopt;
 }
 
 bool EventEdit::carryOn(const EventPlace& from, const OnCourt& before) {
@@ -170,6 +172,19 @@ bool isRunningBefore(const EventLines& lines, int period, const std::string& bef
       isRunning = event.code == EventCode::DEPART;
   }
   return isRunning;
+}
+
+std::optional<EventPlace> startOfSubstitution(const EventLines& lines, const EventPlace& stop,
+                                              const Rosters& rosters) {
+  const std::string* line = findLine(lines, stop.period, stop.key);
+  const std::string next = keyBehind(lines, stop);
+  const std::string* start = next.empty() ? nullptr : findLine(lines, stop.period, next);
+  if (line == nullptr || start == nullptr ||
+      *start != line->substr(0, std::min(line->find(','), line->size())) + startText() ||
+      !isRunningBefore(lines, stop.period, stop.key) ||
+      !isSubstitution(lines, stop.period, stop.key, rosters))
+    return std::nullopt;
+  return EventPlace{stop.period, next};
 }
 
 // Behind the last start: a stop there closes the time alone, unless one before it stands at the same clock.

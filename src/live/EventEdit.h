@@ -28,17 +28,17 @@ class EventEdit {
   const EventLines& lines() const { return m_lines; }
   const std::vector<EventChange>& steps() const { return m_steps; }
   const std::vector<EventChange>& back() const { return m_back; } // in the order in which they are taken
-  // Where six would be on court.
-  const std::optional<EventPlace>& conflict() const { return m_conflict; }
+  // Where six would be on court, or one of them twice.
+  const std::optional<CourtConflict>& conflict() const { return m_conflict; }
 
  private:
-  [[nodiscard]] bool hasTooMany(const EventChange& step) const;
+  [[nodiscard]] std::optional<CourtConflict> tooMany(const EventChange& step) const;
 
   EventLines m_lines;
   Rosters m_rosters;
   std::vector<EventChange> m_steps;
   std::vector<EventChange> m_back;
-  std::optional<EventPlace> m_conflict;
+  std::optional<CourtConflict> m_conflict;
 };
 
 // A line with the mark of deletion, or without it.
@@ -52,6 +52,10 @@ class EventEdit {
                                         int clockSeconds, const std::string& before);
 // Whether the clock runs at the place before that event (empty: at the end of the period).
 [[nodiscard]] bool isRunningBefore(const EventLines& lines, int period, const std::string& before);
+// The start at the same clock with which a substitution goes on while the clock runs: it belongs to the stop
+// before it, deleted or not like that.
+[[nodiscard]] std::optional<EventPlace> startOfSubstitution(const EventLines& lines, const EventPlace& stop,
+                                                            const Rosters& rosters);
 // A stop that its period needs: without it, nobody would be credited with the time up to its last stop.
 [[nodiscard]] bool closesPeriod(const EventLines& lines, const EventPlace& event);
 

@@ -23,12 +23,20 @@ EditPlan planOf(int text, const EventEdit& edit, bool isWhole) {
 } // namespace
 
 EditPlan GameEditing::deletion(std::span<const EventPlace> events, bool isDeleted) const {
-  EventEdit edit(m_log.lines(), m_log.rosters());
+  const Rosters rosters = m_log.rosters();
+  EventEdit edit(m_log.lines(), rosters);
   const auto mark = [&](const EventPlace& event) {
     const std::string* line = findLine(edit.lines(), event.period, event.key);
-    return line != nullptr && !(isDeleted && closesPeriod(edit.lines(), event)) &&
-           edit.takeCarryingOn(
-               {EventChange::Kind::Replace, event.period, event.key, withDeletion(*line, isDeleted)});
+    if (line == nullptr || (isDeleted && closesPeriod(edit.lines(), event)))
+      return false;
+    const std::string marked = withDeletion(*line, isDeleted);
+    if (marked == *line) // with another event
+      return true;
+    const auto start = startOfSubstitution(edit.lines(), event, rosters);
+    return edit.takeCarryingOn({EventChange::Kind::Replace, event.period, event.key, marked}) &&
+           (!start ||
+            edit.take({EventChange::Kind::Replace, start->period, start->key,
+                       withDeletion(*findLine(edit.lines(), start->period, start->key), isDeleted)}));
   };
   const bool isWhole = std::ranges::all_of(events, mark);
   return planOf(isDeleted ? kDeletion : kRestoring, edit, isWhole);
@@ -61,14 +69,25 @@ EditPlan GameEditing::replacement(const EventPlace& event, int clock, const std:
   const std::string* line = findLine(m_log.lines(), event.period, event.key);
   if (line == nullptr || !isClock(event.period, clock))
     return {};
-  EventEdit edit(m_log.lines(), m_log.rosters());
+  const Rosters rosters = m_log.rosters();
+  const auto start = startOfSubstitution(m_log.lines(), event, rosters);
+  EventEdit edit(m_log.lines(), rosters);
   bool isWhole =
       edit.takeCarryingOn({EventChange::Kind::Replace, event.period, event.key,
                            withDeletion(Module1::clockText(clock) + eventText, line->starts_with('E'))});
-  const std::string behind = keyBehind(m_log.lines(), event);
-  const std::string before = placeForClock(m_log.lines(), event.period, event.key, clock, behind);
+  EventLines others = edit.lines();
+  if (start)
+    std::erase_if(others[event.period], [&](const auto& other) { return other.first == start->key; });
+  const std::string behind = keyBehind(others, event);
+  const std::string before = placeForClock(others, event.period, event.key, clock, behind);
   if (isWhole && before != behind)
     isWhole = edit.moveCarryingOn(event, before);
+  if (!isWhole || !start)
+    return planOf(kEditing, edit, isWhole);
+  const std::string startLine = withDeletion(Module1::clockText(clock) + startText(), line->starts_with('E'));
+  isWhole = edit.take({EventChange::Kind::Replace, start->period, start->key, startLine});
+  if (isWhole && before != behind)
+    isWhole = edit.take({EventChange::Kind::Move, start->period, start->key, {}, before});
   return planOf(kEditing, edit, isWhole);
 }
 
@@ -108,10 +127,12 @@ EditPlan GameEditing::substitution(const EventPlace& at, Where where, const OnCo
   OnCourt lists = where == Where::Before ? inForceBefore(m_log.lines(), at.period, at.key, rosters)
                                          : inForce(m_log.lines(), at.period, at.key, rosters);
   for (std::size_t team = 0; team < 2; ++team) {
-    const bool isPossible = (out[team] & ~lists[team]) == 0 && (in[team] & lists[team]) == 0;
+    const unsigned twice = (out[team] & ~lists[team]) | (in[team] & lists[team]);
     lists[team] = (lists[team] & ~out[team]) | in[team];
-    if (!isPossible || std::popcount(lists[team]) > kMostOnCourt)
-      return {.text = kInsertion, .conflict = at};
+    if (twice != 0)
+      return {.text = kInsertion, .conflict = CourtConflict{at, team, twice, true}};
+    if (std::popcount(lists[team]) > kMostOnCourt)
+      return {.text = kInsertion, .conflict = CourtConflict{at, team, lists[team]}};
   }
   const std::string before = where == Where::Before ? at.key : keyBehind(m_log.lines(), at);
   const std::string clock = Module1::clockText(event.clockSeconds);
@@ -124,6 +145,17 @@ EditPlan GameEditing::substitution(const EventPlace& at, Where where, const OnCo
   if (isWhole && isRunning)
     isWhole = edit.take(added(1, startText()));
   return planOf(kInsertion, edit, isWhole);
+}
+
+EditPlan GameEditing::newLists(const EventPlace& stop, const OnCourt& onCourt) const {
+  const std::string* line = findLine(m_log.lines(), stop.period, stop.key);
+  if (line == nullptr || !onCourtOf(stop.period, withDeletion(*line, false), m_log.rosters()))
+    return {};
+  const std::string lists = stopText(onCourt, m_log.rosters());
+  if (line->ends_with(lists))
+    return {};
+  const GameEvent event = GameEvent::parse(static_cast<std::uint8_t>(stop.period), stop.key, *line);
+  return replacement(stop, event.clockSeconds, lists);
 }
 
 } // namespace hooptab

@@ -20,7 +20,7 @@ struct EditPlan {
   std::vector<EventChange> steps = {};
   std::vector<EventChange> back = {}; // that take it back
   // Of one that is not possible: where six would be on court, or one of them twice.
-  std::optional<EventPlace> conflict = std::nullopt;
+  std::optional<CourtConflict> conflict = std::nullopt;
 };
 
 class GameEditing {
@@ -37,13 +37,15 @@ class GameEditing {
   // For one edit: after a change to the log, ask a new one.
   explicit GameEditing(const LiveLog& log) : m_log(log) {}
 
-  // Marks events as deleted or restores them. The stop that ends a period cannot be deleted.
+  // Marks events as deleted or restores them. The stop that ends a period cannot be deleted. A substitution
+  // while the clock runs takes its start of the clock along.
   [[nodiscard]] EditPlan deletion(std::span<const EventPlace> events, bool isDeleted) const;
   [[nodiscard]] bool canDelete(const EventPlace& event) const { return !closesPeriod(m_log.lines(), event); }
   // A line in place of another, its mark of deletion apart. With a clock past those of its neighbours the
   // event moves, within its period, behind the last of equal clock.
   [[nodiscard]] EditPlan replacement(const EventPlace& event, int clockSeconds,
                                      const std::string& eventText) const;
+  // A substitution while the clock runs takes its start of the clock along.
   [[nodiscard]] EditPlan newTime(const EventPlace& event, int clockSeconds) const;
   [[nodiscard]] EditPlan change(const EventPlace& event, int clockSeconds, const Counted& counted) const;
   // A clock that does not fit there puts the event where it does.
@@ -52,6 +54,8 @@ class GameEditing {
   // A forgotten substitution, at the clock of the event `at`.
   [[nodiscard]] EditPlan substitution(const EventPlace& at, Where where, const OnCourt& out,
                                       const OnCourt& in) const;
+  // Others are on court from a stop on. Not possible where it says so already.
+  [[nodiscard]] EditPlan newLists(const EventPlace& stop, const OnCourt& onCourt) const;
 
  private:
   [[nodiscard]] bool isClock(int period, int clockSeconds) const;

@@ -140,7 +140,7 @@ class LiveGame {
     return take(editing().substitution(at, where, out, in));
   }
   // Of the last plan that was refused.
-  const std::optional<EventPlace>& conflict() const { return m_conflict; }
+  const std::optional<CourtConflict>& conflict() const { return m_conflict; }
 
  private:
   std::string lineOf(const std::string& eventText) const; // at the present clock
@@ -163,7 +163,7 @@ class LiveGame {
   TimeSource& m_time;
   GameClock m_clock;
   LiveHistory m_history;
-  std::optional<EventPlace> m_conflict;
+  std::optional<CourtConflict> m_conflict;
   std::array<int, kSlots> m_slots = {};
   Phase m_phase = Phase::Stopped;
   int m_period = 1;

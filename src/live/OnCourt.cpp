@@ -3,6 +3,7 @@
 #include "storage/GameEvent.h"
 #include "storage/Module1.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace hooptab {
@@ -74,6 +75,12 @@ OnCourt inForceBefore(const EventLines& lines, int period, const std::string& ke
   return onCourt;
 }
 
+bool isSubstitution(const EventLines& lines, int period, const std::string& key, const Rosters& rosters) {
+  const std::string* line = findLine(lines, period, key);
+  const auto stop = line == nullptr ? std::nullopt : stopOf(period, *line, rosters);
+  return stop && stop->lists != inForceBefore(lines, period, key, rosters);
+}
+
 std::string listsText(const OnCourt& onCourt, const Rosters& rosters) {
   return rosters[0].listOf(onCourt[0]) + ',' + rosters[1].listOf(onCourt[1]);
 }
@@ -104,6 +111,10 @@ Carried carryOn(const EventLines& lines, const EventPlace& from, const OnCourt& 
   OnCourt added = {after[0] & ~before[0], after[1] & ~before[1]};
   OnCourt removed = {before[0] & ~after[0], before[1] & ~after[1]};
   OnCourt previous = before; // as it was, before anything was carried on
+  // Fewer than it makes are on court where one who has come already comes a second time.
+  const auto difference = [&](std::size_t team) {
+    return std::min(std::popcount(after[team]) - std::popcount(before[team]), 0);
+  };
   bool isReached = false;
   Carried carried;
   visitAll(lines, [&](int period, const std::string& key, const std::string& line) {
@@ -117,10 +128,16 @@ Carried carryOn(const EventLines& lines, const EventPlace& from, const OnCourt& 
       changed[team] = (changed[team] | (added[team] & ~changedAnyway)) & ~(removed[team] & ~changedAnyway);
       if (stop->isDeleted)
         continue;
+      const unsigned comesTwice = added[team] & changedAnyway;
       added[team] &= ~changedAnyway;
       removed[team] &= ~changedAnyway;
-      if (std::popcount(changed[team]) > kMostOnCourt && !carried.conflict)
-        carried.conflict = {period, key};
+      if (carried.conflict)
+        continue;
+      if (std::popcount(changed[team]) > kMostOnCourt)
+        carried.conflict = {{period, key}, team, changed[team]};
+      else if (comesTwice != 0 &&
+               std::popcount(changed[team]) < std::popcount(stop->lists[team]) + difference(team))
+        carried.conflict = {{period, key}, team, comesTwice, true};
     }
     if (!stop->isDeleted)
       previous = stop->lists;

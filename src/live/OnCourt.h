@@ -33,6 +33,9 @@ struct Rosters {
 // The same before that event.
 [[nodiscard]] OnCourt inForceBefore(const EventLines& lines, int period, const std::string& key,
                                     const Rosters& rosters);
+// Whether a stop, deleted or not, changes who is on court; any other stop is a pause alone.
+[[nodiscard]] bool isSubstitution(const EventLines& lines, int period, const std::string& key,
+                                  const Rosters& rosters);
 // "IN-04-05,IN-": both lists, as a stop's line has them behind its code.
 [[nodiscard]] std::string listsText(const OnCourt& onCourt, const Rosters& rosters);
 
@@ -50,10 +53,17 @@ struct EventPlace {
 // The event that follows one in the order of the game; nothing behind the last.
 [[nodiscard]] std::optional<EventPlace> eventBehind(const EventLines& lines, const EventPlace& event);
 
+// A stop whose lists cannot be carried on, which is for the user to decide.
+struct CourtConflict {
+  EventPlace event = {};
+  std::size_t team = 0;
+  unsigned players = 0; // six or more who would be on court, or who would come in or leave a second time
+  bool isTwice = false;
+  friend bool operator==(const CourtConflict&, const CourtConflict&) = default;
+};
 struct Carried {
   std::vector<EventChange> steps;
-  // The first stop that would get more than five players, which is for the user to decide.
-  std::optional<EventPlace> conflict;
+  std::optional<CourtConflict> conflict; // the first
 };
 // The lists in force before the event `from` were `before` and are `after` now: that event and all behind it,
 // each stop taken on by the same change, player by player, until one changes that player anyway. Deleted

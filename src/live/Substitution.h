@@ -1,6 +1,6 @@
-// Several players in and out at once: who shall stand on court, picked click by click in any order and
-// written as one event, and the lines that can be taken with one click. Changes no game; whoever shows it
-// hands the choice on.
+// Several players in and out at once, now or at an event of the past: who shall stand on court, picked click
+// by click in any order and written as one event, and the lines that can be taken with one click. Changes no
+// game; whoever shows it hands the choice on.
 #pragma once
 
 #include "live/LiveGame.h"
@@ -10,6 +10,13 @@
 #include <vector>
 
 namespace hooptab {
+
+// A substitution that is put in later at an event, or a stop of which others shall be on court.
+struct PastSubstitution {
+  enum class What { InsertBefore, InsertBehind, Change };
+  What what = What::InsertBefore;
+  EventPlace event = {};
+};
 
 class Substitution {
  public:
@@ -24,6 +31,8 @@ class Substitution {
 
   // Begins with who stands on court.
   explicit Substitution(const LiveGame& game);
+  // With who stood on court there. The game must outlive it.
+  Substitution(const LiveGame& game, const PastSubstitution& past);
 
   // Who was to stay leaves, who was to leave or sat on the bench comes. More than five may be chosen on the
   // way, so that it does not matter who is clicked first.
@@ -34,8 +43,13 @@ class Substitution {
   const OnCourt& onCourt() const { return m_onCourt; }
   bool isChosen(int team, int player) const { return holds(m_onCourt, team, player); }
   bool wasOnCourt(int team, int player) const { return holds(m_before, team, player); }
+  // At the time of the substitution.
+  bool isFouledOut(int team, int player) const { return holds(m_fouledOut, team, player); }
   int count(int team) const;
-  // Something is changed, and nowhere more than five: fewer can be right, when nobody else can play.
+  // What the choice comes to in the past; its conflict is a later stop that would not fit.
+  [[nodiscard]] EditPlan plan() const;
+  // Something is changed, and nowhere more than five, nor later in the game: fewer can be right, when nobody
+  // else can play.
   [[nodiscard]] bool canAccept() const;
 
   // Five that have played before, most played first: not those who stand on court already, and none with a
@@ -47,8 +61,13 @@ class Substitution {
     return (onCourt[static_cast<std::size_t>(team)] >> player & 1U) != 0;
   }
 
-  OnCourt m_before;
-  OnCourt m_onCourt;
+  void fill();
+
+  const LiveGame& m_game;
+  std::optional<PastSubstitution> m_past;
+  OnCourt m_before;  // the lists that the choice changes
+  OnCourt m_onCourt; // the choice
+  OnCourt m_fouledOut = {};
   OnCourt m_rosters = {}; // who can be chosen at all
   std::array<std::vector<Line>, 2> m_lines;
 };

@@ -2,6 +2,7 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "live/ConflictWords.h"
 #include "live/JerseyButton.h"
 #include "live/PlayerWords.h"
 #include "storage/Module1.h"
@@ -19,6 +20,7 @@ namespace hooptab {
 
 namespace {
 
+constexpr int kPlace = 1876;
 constexpr int kTitle = 1947;
 constexpr int kCancel = 1128;
 constexpr int kLines = 1954;
@@ -57,18 +59,55 @@ QLabel* bandOf(const LiveGame& game, int team, QWidget* parent) {
 
 frmSUBST::frmSUBST(const LiveGame& game, const Texts& texts, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_game(game), m_texts(texts), m_choice(game) {
+  makeContents();
+}
+
+frmSUBST::frmSUBST(const LiveGame& game, const PastSubstitution& past, const Texts& texts, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_game(game), m_texts(texts), m_past(past),
+      m_choice(game, past) {
+  makeContents();
+}
+
+void frmSUBST::makeContents() {
   setObjectName(QStringLiteral("frmSUBST"));
   setTextNumber(*this, kTitle);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  if (m_past)
+    addPlace(*layout);
   auto* teams = new QGridLayout;
   teams->setHorizontalSpacing(kMargin);
   teams->setColumnStretch(1, 1);
   for (int team = 0; team < 2; ++team)
     addTeam(*teams, team);
   layout->addLayout(teams);
+  if (m_past) {
+    m_conflict = new QLabel(this);
+    m_conflict->setObjectName(QStringLiteral("lblCONFLICT"));
+    m_conflict->setMinimumHeight(m_conflict->fontMetrics().height()); // nothing moves when it speaks
+    layout->addWidget(m_conflict);
+  }
   layout->addWidget(makeAnswers());
-  relabel(*this, texts);
+  relabel(*this, m_texts);
+  showChoice();
+}
+
+// Without a title bar: of which moment this is.
+void frmSUBST::addPlace(QBoxLayout& layout) {
+  auto* place = new QLabel(this);
+  place->setObjectName(QStringLiteral("lblPLACE"));
+  QFont bold = place->font();
+  bold.setBold(true);
+  place->setFont(bold);
+  const std::string words =
+      m_texts.withPlaceholder(kPlace, placeWords(m_past->event, m_game.game(), m_texts));
+  place->setText(toQt(words));
+  setWindowTitle(place->text());
+  layout.addWidget(place);
+}
+
+void frmSUBST::toggle(int team, int player) {
+  m_choice.toggle(team, player);
   showChoice();
 }
 
@@ -96,10 +135,7 @@ void frmSUBST::addTeam(QGridLayout& layout, int team) {
   for (int place = 0; place < kPlaces; ++place) {
     auto* button = new JerseyButton(jerseyButtonName(team * kPlaces + place), kButton, roster);
     button->setCheckable(true);
-    connect(button, &JerseyButton::pressed, this, [this, team, place] {
-      m_choice.toggle(team, place + 1);
-      showChoice();
-    });
+    connect(button, &JerseyButton::pressed, this, [this, team, place] { toggle(team, place + 1); });
     showPlayerWords(*button, m_game, team, place + 1, m_texts);
     grid->addWidget(button, place / kColumns, place % kColumns);
     m_players[t][static_cast<std::size_t>(place)] = button;
@@ -175,7 +211,7 @@ void frmSUBST::showChoice() {
                       .name = toQt(entry->name),
                       .colour = colourOf(m_game.game().details.teamColour[team]),
                       .isFilled = stays,
-                      .isFouledOut = m_game.isFouledOut(team, player),
+                      .isFouledOut = m_choice.isFouledOut(team, player),
                       .move = stays == wasThere ? None
                               : stays           ? Comes
                                                 : Leaves});
@@ -189,6 +225,13 @@ void frmSUBST::showChoice() {
     if (count != kMostOnCourt)
       colours.setColor(QPalette::WindowText, Theme::missed());
     m_counts[t]->setPalette(colours);
+  }
+  if (m_conflict != nullptr) {
+    const auto conflict = m_choice.plan().conflict;
+    m_conflict->setText(conflict ? toQt(wordsOf(*conflict, m_game.game(), m_texts)) : QString());
+    QPalette colours = palette();
+    colours.setColor(QPalette::WindowText, Theme::missed());
+    m_conflict->setPalette(colours);
   }
   m_accept->setEnabled(m_choice.canAccept());
 }

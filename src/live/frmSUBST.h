@@ -1,5 +1,6 @@
-// "Several at once": both rosters to pick who leaves and who comes in any order, and the lines that have
-// played before. One confirmation; what was chosen is for the caller to write as one event.
+// "Several at once", now or at an event of the past: both rosters to pick who leaves and who comes in any
+// order, and the lines that have played before. One confirmation; what was chosen is for the caller to write
+// as one event. What would not fit later in the game is said before.
 #pragma once
 
 #include "live/Substitution.h"
@@ -7,7 +8,9 @@
 #include <QDialog>
 
 #include <array>
+#include <optional>
 
+class QBoxLayout;
 class QGridLayout;
 class QLabel;
 class QPushButton;
@@ -22,6 +25,11 @@ class frmSUBST : public QDialog {
   // Both must outlive it. The game may run on meanwhile, but nobody else may substitute.
   frmSUBST(const LiveGame& game, const Texts& texts, QWidget* parent = nullptr);
 
+  // A forgotten substitution, or another choice for one that is recorded.
+  frmSUBST(const LiveGame& game, const PastSubstitution& past, const Texts& texts, QWidget* parent = nullptr);
+
+  void toggle(int team, int player);
+  EditPlan plan() const { return m_choice.plan(); } // in the past
   const OnCourt& onCourt() const { return m_choice.onCourt(); }
   // Modal, over the panel it was called from, without waiting for the answer.
   void openBeside(const QWidget& panel);
@@ -31,6 +39,8 @@ class frmSUBST : public QDialog {
 
  private:
   static constexpr int kPlaces = 15; // of a team
+  void makeContents();
+  void addPlace(QBoxLayout& layout);
   void addTeam(QGridLayout& layout, int team);
   QWidget* makeLines(int team);
   QWidget* makeAnswers();
@@ -38,9 +48,11 @@ class frmSUBST : public QDialog {
 
   const LiveGame& m_game;
   const Texts& m_texts;
+  std::optional<PastSubstitution> m_past;
   Substitution m_choice;
   std::array<std::array<JerseyButton*, kPlaces>, 2> m_players = {};
   std::array<QLabel*, 2> m_counts = {};
+  QLabel* m_conflict = nullptr; // in the past
   QPushButton* m_accept = nullptr;
 };
 

@@ -1,4 +1,5 @@
 // Editing a recorded game: events put in, changed, moved and deleted, with all that depends on them.
+#include "live/ConflictWords.h"
 #include "live/LiveGame.h"
 #include "live/ShotFollowUp.h"
 
@@ -107,8 +108,10 @@ TEST_F(LiveEditTest, AForgottenSubstitutionIsCarriedOn) {
   EXPECT_EQ(live.onCourt()[0], 0b1111100U);
   // Out a second time, or in twice.
   EXPECT_FALSE(live.insertSubstitution({1, "6"}, Where::Behind, {1U << 1U, 0}, {1U << 7U, 0}));
-  EXPECT_EQ(live.conflict(), (EventPlace{1, "6"}));
+  EXPECT_EQ(live.conflict(), (CourtConflict{{1, "6"}, 0, 1U << 1U, true}));
   EXPECT_FALSE(live.insertSubstitution({1, "6"}, Where::Behind, {}, {1U << 7U, 0})) << "a sixth";
+  EXPECT_EQ(wordsOf(*live.conflict(), live.game(), Texts()),
+            "1 09:30: too many players of Visitor would be on court (5, 10, 12, 15, 7, 8)");
 
   // Earlier by its time: the players go with it.
   EXPECT_TRUE(live.setTime({1, "10"}, 595));
@@ -118,6 +121,57 @@ TEST_F(LiveEditTest, AForgottenSubstitutionIsCarriedOn) {
   EXPECT_TRUE(live.undo());
   EXPECT_EQ(seconds(0, 1), 60);
   EXPECT_EQ(live.onCourt()[0], kFive);
+}
+
+TEST_F(LiveEditTest, AStartOfTheClockGoesWithItsSubstitution) {
+  play();
+  ASSERT_TRUE(live.insertSubstitution({1, "5"}, Where::Behind, {1U << 1U, 0}, {1U << 6U, 0}));
+  const auto running = lines();
+  EXPECT_EQ(seconds(0, 6), 50);
+  ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "10"}}, true));
+  EXPECT_EQ(lines()[5], "10=E09:50,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15");
+  EXPECT_EQ(lines()[6], "11=E09:50,DEPART");
+  EXPECT_EQ(seconds(0, 1), 60);
+  ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "10"}, {1, "11"}}, false));
+  EXPECT_EQ(lines(), running);
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(lines()[6], "11=E09:50,DEPART") << "one step";
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(lines(), running);
+
+  ASSERT_TRUE(live.setTime({1, "10"}, 575)) << "and to another time";
+  EXPECT_EQ(lines()[5], "10=09:35,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15");
+  EXPECT_EQ(lines()[6], "11=09:35,DEPART");
+  EXPECT_EQ(seconds(0, 6), 35);
+  ASSERT_TRUE(live.setTime({1, "10"}, 560)) << "past others";
+  EXPECT_EQ(lines()[8], "10=09:20,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15") << "behind the start at 9:30";
+  EXPECT_EQ(lines()[9], "11=09:20,DEPART");
+  EXPECT_TRUE(live.undo());
+  // A substitution while the clock stands leaves the start to whom started it.
+  ASSERT_TRUE(live.insertSubstitution({1, "7"}, Where::Behind, {0, 1U << 1U}, {0, 1U << 6U}));
+  ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "12"}}, true));
+  EXPECT_FALSE(findLine(live.log().lines(), 1, "8")->starts_with('E'));
+  EXPECT_TRUE(live.log().countsAgree());
+}
+
+TEST_F(LiveEditTest, AnotherPlayerWentIn) {
+  play();
+  ASSERT_TRUE(live.insertSubstitution({1, "6"}, Where::Before, {1U << 1U, 0}, {1U << 6U, 0}));
+  ASSERT_TRUE(live.setOnCourt({0b11111000, kFive})) << "8 for 5 at 9:00";
+  const EventPlace stop{1, "10"};
+  // 8 instead of 7: at 9:00 he would come a second time, for one who is not there.
+  EXPECT_FALSE(live.take(live.editing().newLists(stop, {0b10111100, kFive})));
+  EXPECT_EQ(wordsOf(*live.conflict(), live.game(), Texts()),
+            "1 09:00: 8 of Visitor would come in or leave twice");
+  ASSERT_TRUE(live.take(live.editing().newLists(stop, {0b1110110, kFive}))) << "for 10";
+  EXPECT_EQ(lines()[5], "10=09:30,ARRET,IN-04-05-07-12-15,IN-04-05-10-12-15");
+  EXPECT_EQ(live.onCourt()[0], 0b11110010U) << "and later 8 for 5";
+  EXPECT_EQ(seconds(0, 1), 60);
+  EXPECT_EQ(seconds(0, 3), 30);
+  EXPECT_EQ(seconds(0, 6), 30);
+  EXPECT_TRUE(live.log().countsAgree());
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(seconds(0, 1), 30);
 }
 
 TEST_F(LiveEditTest, ASubstitutionThatStopsHaveFollowedIsTakenBackThroughThem) {

@@ -1,0 +1,38 @@
+#include "live/ConflictWords.h"
+
+#include "storage/EventWords.h"
+#include "storage/Module1.h"
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kSix = 1874;
+constexpr int kTwice = 1875;
+
+} // namespace
+
+std::string placeWords(const EventPlace& place, const Game& game, const Texts& texts) {
+  const EventWords words(game, texts);
+  for (std::size_t event = 0; event < game.events.size(); ++event) {
+    if (game.events[event].period == place.period && game.events[event].key == place.key)
+      return words.periodText(place.period) + ' ' + words.clock(event);
+  }
+  return {};
+}
+
+std::string wordsOf(const CourtConflict& conflict, const Game& game, const Texts& texts) {
+  const EventWords words(game, texts);
+  std::string players;
+  for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
+    const RosterPlayer* player = game.roster[conflict.team].player(entry);
+    if (player != nullptr && (conflict.players >> entry & 1U) != 0)
+      players += (players.empty() ? "" : ", ") + player->jersey;
+  }
+  std::string text = Module1::withPlaceholder(texts.text(conflict.isTwice ? kTwice : kSix),
+                                              words.team(static_cast<int>(conflict.team)), "YYY");
+  text = Module1::withPlaceholder(text, players, "ZZZ");
+  return Module1::withPlaceholder(text, placeWords(conflict.event, game, texts));
+}
+
+} // namespace hooptab

@@ -1,0 +1,16 @@
+// Says in words what does not fit when a substitution is put in, changed or taken out later.
+#pragma once
+
+#include "live/OnCourt.h"
+#include "storage/GameFile.h"
+#include "storage/Texts.h"
+
+#include <string>
+
+namespace hooptab {
+
+// "1 05:32": period and clock of an event; empty for one that is not there.
+[[nodiscard]] std::string placeWords(const EventPlace& place, const Game& game, const Texts& texts);
+[[nodiscard]] std::string wordsOf(const CourtConflict& conflict, const Game& game, const Texts& texts);
+
+} // namespace hooptab
