@@ -14,12 +14,8 @@ namespace hooptab {
 namespace {
 
 constexpr std::size_t kFive = 5;
-constexpr int kNotOnCourt = 1966;
-constexpr int kNotFive = 1967;
-constexpr int kOtherTime = 1968;
-constexpr int kFouledOutBefore = 1969;
-constexpr int kAssistWithoutBasket = 1970;
-constexpr int kTwice = 1971;
+
+using Kind = LiveFinding::Kind;
 
 class RecordedCheck {
  public:
@@ -68,8 +64,8 @@ class RecordedCheck {
   bool followsCourt(std::size_t team) const {
     return m_game.details.inputType == 0 && !isTeamItself(m_game.roster[team]);
   }
-  void name(int text, std::size_t team, std::string jersey = {}) {
-    m_findings.push_back({m_place, text, static_cast<int>(team), std::move(jersey)});
+  void name(Kind kind, std::size_t team, std::string jersey = {}) {
+    m_findings.push_back({m_place, kind, static_cast<int>(team), std::move(jersey)});
   }
 
   const Game& m_game;
@@ -115,7 +111,7 @@ void RecordedCheck::checkStop(const GameEvent& event) {
     court.players.clear();
     for (const ListedPlayer& listed : playersOfList(list, m_game.roster[team])) {
       if (std::ranges::find(court.players, listed) != court.players.end())
-        name(kTwice, team, listed.jersey);
+        name(Kind::Twice, team, listed.jersey);
       else
         court.players.push_back(listed);
     }
@@ -127,7 +123,7 @@ void RecordedCheck::checkStart() {
     const std::size_t count = m_court[team].players.size();
     if (!followsCourt(team) || count == kFive)
       continue;
-    name(kNotFive, team);
+    name(Kind::NotFive, team);
     m_findings.back().found = std::to_string(count);
   }
 }
@@ -141,7 +137,7 @@ void RecordedCheck::checkAction(const GameEvent& event) {
   // The bench is given technical fouls too.
   if (followsCourt(team) && event.code != EventCode::STF &&
       std::ranges::none_of(m_court[team].players, isPlayer))
-    name(kNotOnCourt, team, std::string(event.player.jersey));
+    name(Kind::NotOnCourt, team, std::string(event.player.jersey));
   if (event.code == EventCode::SPF || event.code == EventCode::STF)
     checkFoul(event);
   if (event.code == EventCode::SA)
@@ -157,13 +153,14 @@ void RecordedCheck::checkFoul(const GameEvent& event) {
   Fouls& fouls = m_fouls[team][static_cast<std::size_t>(entry)];
   if (reached(fouls.personal, m_game.details.personalFoulLimit) ||
       reached(fouls.technical, m_game.details.technicalFoulLimit))
-    name(kFouledOutBefore, team, std::string(event.player.jersey));
+    name(Kind::FouledOutBefore, team, std::string(event.player.jersey));
   ++(event.code == EventCode::SPF ? fouls.personal : fouls.technical);
 }
 
 void RecordedCheck::checkAssist(const GameEvent& event) {
   if (!hasBasketBefore(event))
-    name(kAssistWithoutBasket, static_cast<std::size_t>(event.player.team), std::string(event.player.jersey));
+    name(Kind::AssistWithoutBasket, static_cast<std::size_t>(event.player.team),
+         std::string(event.player.jersey));
 }
 
 // A basket that no other assist has taken. One may also be given to a player who is fouled in the act and
@@ -190,7 +187,7 @@ void RecordedCheck::checkTimes() {
     if (!court.lastChecked || !followsCourt(team) || court.playersSeconds == wanted)
       continue;
     m_findings.push_back({*court.lastChecked,
-                          kOtherTime,
+                          Kind::OtherTime,
                           static_cast<int>(team),
                           {},
                           Module1::clockText(court.playersSeconds),
@@ -211,7 +208,8 @@ std::string wordsOf(const LiveFinding& finding, const Game& game, const Texts& t
     const std::string player = words.player({finding.team, finding.jersey});
     who = player == who ? who : who + ' ' + player;
   }
-  std::string text = Module1::withPlaceholder(texts.text(finding.text), finding.found, "YYY");
+  std::string text =
+      Module1::withPlaceholder(texts.text(static_cast<int>(finding.kind)), finding.found, "YYY");
   text = Module1::withPlaceholder(text, finding.wanted, "ZZZ");
   return Module1::withPlaceholder(text, who);
 }

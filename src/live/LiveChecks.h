@@ -12,8 +12,18 @@
 namespace hooptab {
 
 struct LiveFinding {
-  std::size_t event = 0;   // place in the list of events
-  int text = 0;            // number; its placeholders are:
+  // What was found, as the number of its text.
+  enum class Kind {
+    NotOnCourt = 1966,
+    NotFive = 1967,
+    OtherTime = 1968,
+    FouledOutBefore = 1969,
+    AssistWithoutBasket = 1970,
+    Twice = 1971,
+  };
+  std::size_t event = 0; // place in the list of events
+  Kind kind = Kind::NotOnCourt;
+  // The text's placeholders:
   int team = 0;            // XXX is this team and, if there is one, this player
   std::string jersey = {}; // empty for the team as a whole
   std::string found = {};  // YYY

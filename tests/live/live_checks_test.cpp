@@ -1,5 +1,6 @@
 // What the quiet checks find in a recorded game, and what they leave alone.
 #include "live/LiveChecks.h"
+#include "live/LiveRepairs.h"
 
 #include "storage/EventWords.h"
 #include "support/SharedGames.h"
@@ -35,6 +36,18 @@ class LiveChecksTest : public testing::Test {
       words.push_back(std::to_string(finding.event) + ": " + wordsOf(finding, game, texts));
     return words;
   }
+  // "Words > key of the event" of what mends each finding.
+  std::vector<std::string> repairs() const {
+    std::vector<std::string> words;
+    for (const LiveFinding& finding : checkRecorded(game)) {
+      for (const LiveRepair& repair : repairsOf(finding, game)) {
+        const bool isSubstitution = repair.kind == LiveRepair::Kind::Substitution;
+        words.push_back(wordsOf(repair, game, texts) + " > " +
+                        (isSubstitution ? repair.past.event.key : repair.event.key));
+      }
+    }
+    return words;
+  }
   using Words = std::vector<std::string>;
 
   Game game;
@@ -64,6 +77,13 @@ TEST_F(LiveChecksTest, PlayersAndAssists) {
                             "9: Assist by PUMA 5 N5 without a basket just before",
                             "14: Assist by PUMA 4 N4 without a basket just before",
                             "18: Foul by PUMA 8 N8, already fouled out"}));
+  const Words mended = repairs();
+  ASSERT_EQ(mended.size(), 10U);
+  EXPECT_EQ(mended[0], "Edit > 5");
+  EXPECT_EQ(mended[1], "Delete > 5");
+  EXPECT_EQ(mended[2], "Substitution Before: 9 N9 Comes In > 6");
+  EXPECT_EQ(mended[3], "Change Player > 6");
+  EXPECT_EQ(mended[8], "Change Player > 19");
 }
 
 TEST_F(LiveChecksTest, FiveOnCourtAndTheirTimes) {
@@ -77,6 +97,9 @@ TEST_F(LiveChecksTest, FiveOnCourtAndTheirTimes) {
   EXPECT_EQ(found(),
             (Words{"2: PUMA 4 N4 is twice on court", "3: The clock starts with players of LYNX on court: 4",
                    "6: LYNX: players' time in this period 49:00 instead of 50:00"}));
+  EXPECT_EQ(repairs(), (Words{"Change Players In and Out > 3", "Change Players In and Out > 3",
+                              "Change Players In and Out > 3"}))
+      << "one stop is to blame for all";
   game.details.inputType = 1;
   EXPECT_EQ(found(), Words{"2: PUMA 4 N4 is twice on court"}) << "totals have no court";
 }
