@@ -9,7 +9,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kMarkSize = 13;
 constexpr int kPadding = 8;
 
 } // namespace

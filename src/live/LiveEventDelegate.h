@@ -8,6 +8,8 @@ namespace hooptab {
 
 class LiveEventDelegate : public QStyledItemDelegate {
  public:
+  static constexpr int kMarkSize = 13; // of a finding, at the left of the words
+
   using QStyledItemDelegate::QStyledItemDelegate;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& given, const QModelIndex& index) const override;

@@ -5,13 +5,14 @@
 #include "live/EventFilterRow.h"
 #include "live/LiveEventDelegate.h"
 #include "live/LiveGame.h"
+#include "live/PassingMenu.h"
 #include "live/ShotFollowUp.h"
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QBoxLayout>
 #include <QHeaderView>
-#include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTableView>
 #include <QToolButton>
@@ -24,13 +25,16 @@ namespace {
 
 constexpr int kRowHeight = 20;
 constexpr int kColourWidth = 5; // the stripe of the team's colour before the words
-constexpr int kMarkSize = 13;
 constexpr int kPadding = 8;
 constexpr int kButtonSize = 26;
 
 constexpr int kDelete = 1081;
 constexpr int kUndelete = 1086;
 constexpr int kEvents = 1547;
+constexpr int kChangeTime = 1879;
+constexpr int kSubstituteBefore = 1877;
+constexpr int kSubstituteAfter = 1878;
+constexpr int kNextToCheck = 1884;
 constexpr int kDeletion = 1910;
 constexpr int kRestoring = 1911;
 constexpr int kEdit = 1912;
@@ -64,7 +68,7 @@ LiveEventPanel::LiveEventPanel(const Texts& texts, QWidget* parent)
   m_checks->setObjectName(QStringLiteral("lblCHECKS"));
   m_checks->setFlat(true);
   m_checks->setFocusPolicy(Qt::TabFocus);
-  m_checks->setIconSize({kMarkSize, kMarkSize});
+  m_checks->setIconSize({LiveEventDelegate::kMarkSize, LiveEventDelegate::kMarkSize});
   setToolTipNumber(*m_checks, kCheckHint);
   connect(m_checks, &QPushButton::clicked, this, &LiveEventPanel::leadToFinding);
 
@@ -103,6 +107,7 @@ void LiveEventPanel::makeList() {
   m_list->setShowGrid(false);
   m_list->setWordWrap(false);
   m_list->setTabKeyNavigation(false);
+  m_list->viewport()->installEventFilter(this);
   m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
   connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &LiveEventPanel::showCommands);
@@ -130,6 +135,9 @@ QWidget* LiveEventPanel::makeButtons() {
   m_edit = makeAction("cmdEDIT", kEdit, "edit");
   m_insertBefore = makeAction("cmdINSERTBEFORE", kInsertBefore, "insertbefore");
   m_insertAfter = makeAction("cmdINSERTAFTER", kInsertAfter, "insertafter");
+  m_time = makeAction("cmdTIME", kChangeTime, "edit");
+  m_substituteBefore = makeAction("cmdSUBSTBEFORE", kSubstituteBefore, "insertbefore");
+  m_substituteAfter = makeAction("cmdSUBSTAFTER", kSubstituteAfter, "insertafter");
   m_undo = makeAction("cmdUNDO", 0, "undo");
   m_redo = makeAction("cmdREDO", 0, "redo");
   m_filter = makeAction("cmdFILTER", kFilter, "filter");
@@ -155,6 +163,10 @@ QWidget* LiveEventPanel::makeButtons() {
     layout->addWidget(button);
     if (action != m_filter)
       m_list->addAction(action);
+    if (action == m_edit)
+      m_list->addAction(m_time);
+    if (action == m_insertAfter)
+      m_list->addActions({m_substituteBefore, m_substituteAfter});
   }
 
   connect(m_delete, &QAction::triggered, this, &LiveEventPanel::askDeletion);
@@ -176,6 +188,14 @@ QWidget* LiveEventPanel::makeButtons() {
   ask(m_edit, [this](const EventPlace& event) { emit editAsked(event); });
   ask(m_insertBefore, [this](const EventPlace& event) { emit insertAsked(event, true); });
   ask(m_insertAfter, [this](const EventPlace& event) { emit insertAsked(event, false); });
+  ask(m_time, [this](const EventPlace& event) { emit timeAsked(event); });
+  using enum PastSubstitution::What;
+  ask(m_substituteBefore, [this](const EventPlace& event) {
+    emit substitutionAsked({InsertBefore, event}, 0, 0);
+  });
+  ask(m_substituteAfter, [this](const EventPlace& event) {
+    emit substitutionAsked({InsertBehind, event}, 0, 0);
+  });
   connect(m_undo, &QAction::triggered, this, &LiveEventPanel::undoAsked);
   connect(m_redo, &QAction::triggered, this, &LiveEventPanel::redoAsked);
   connect(m_filter, &QAction::toggled, this, [this](bool isOpen) {
@@ -250,7 +270,8 @@ void LiveEventPanel::showCommands() {
   }
   m_delete->setEnabled(canEdit && canDelete);
   m_undelete->setEnabled(canEdit && canRestore);
-  for (QAction* action : {m_edit, m_insertBefore, m_insertAfter})
+  for (QAction* action :
+       {m_edit, m_time, m_insertBefore, m_insertAfter, m_substituteBefore, m_substituteAfter})
     action->setEnabled(canEdit && current());
   const auto turned = [&](auto which) { return canEdit ? (m_game->*which)() : nullptr; };
   showTurn(*m_undo, turned(&LiveGame::toUndo), kUndo, kNothingToUndo);
@@ -315,7 +336,7 @@ void LiveEventPanel::choose(std::size_t event) {
   m_list->scrollTo(row);
 }
 
-// The first, and from one of them the next.
+// The first, and from one of them the next; with what mends it.
 void LiveEventPanel::leadToFinding() {
   const auto& findings = m_rows.findings();
   if (findings.empty())
@@ -328,7 +349,60 @@ void LiveEventPanel::leadToFinding() {
   if (now != findings.end())
     next = std::find_if(now, findings.end(),
                         [&](const LiveFinding& finding) { return finding.event != now->event; });
-  choose((next == findings.end() ? findings.begin() : next)->event);
+  const std::size_t event = (next == findings.end() ? findings.begin() : next)->event;
+  choose(event);
+  offerRepairs(event);
+}
+
+void LiveEventPanel::offerRepairs(std::size_t event) {
+  if (m_game == nullptr || m_game->phase() == LiveGame::Phase::Finished)
+    return;
+  auto* menu = new PassingMenu(this);
+  menu->setObjectName(QStringLiteral("mnuREPAIR"));
+  const auto add = [menu](std::string_view words) {
+    return menu->addAction(toQt(words).replace(u'&', QLatin1String("&&")));
+  };
+  bool isLast = true;
+  for (const LiveFinding& finding : m_rows.findings()) {
+    isLast = isLast && finding.event == event;
+    if (finding.event != event)
+      continue;
+    QAction* title = add(wordsOf(finding, m_rows.game(), m_texts));
+    title->setEnabled(false);
+    for (const LiveRepair& offered : repairsOf(finding, m_rows.game()))
+      connect(add(wordsOf(offered, m_rows.game(), m_texts)), &QAction::triggered, this,
+              [this, offered] { repair(offered); });
+    menu->addSeparator();
+  }
+  if (!isLast)
+    connect(add(m_texts.text(kNextToCheck)), &QAction::triggered, this, &LiveEventPanel::leadToFinding,
+            Qt::QueuedConnection); // when this menu has closed
+  menu->popup(cornerUnder(event));
+}
+
+void LiveEventPanel::repair(const LiveRepair& repair) {
+  switch (repair.kind) {
+  case LiveRepair::Kind::Substitution: return emit substitutionAsked(repair.past, repair.team, repair.player);
+  case LiveRepair::Kind::Change: return emit editAsked(repair.event);
+  case LiveRepair::Kind::Deletion: return emit deleteAsked({repair.event}, true);
+  }
+}
+
+QPoint LiveEventPanel::cornerUnder(std::size_t event) const {
+  return m_list->viewport()->mapToGlobal(m_list->visualRect(m_rows.rowOf(event)).bottomLeft());
+}
+
+bool LiveEventPanel::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease) {
+    const auto& mouse = static_cast<const QMouseEvent&>(*event);
+    const QModelIndex index = m_list->indexAt(mouse.position().toPoint());
+    const int left = m_list->visualRect(index).left();
+    if (mouse.button() == Qt::LeftButton && index.column() == EventListModel::Action &&
+        index.data(LiveEventRows::HasFinding).toBool() &&
+        mouse.position().x() < left + LiveEventDelegate::kMarkSize)
+      offerRepairs(m_rows.eventAt(index));
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 // A shot takes its assist or rebound along where that is wanted.
@@ -353,9 +427,8 @@ void LiveEventPanel::askDeletion() {
     emit deleteAsked(events, true);
     return;
   }
-  auto* menu = new QMenu(this);
+  auto* menu = new PassingMenu(this);
   menu->setObjectName(QStringLiteral("mnuDELETE"));
-  menu->setAttribute(Qt::WA_DeleteOnClose);
   std::vector<EventPlace> together = events;
   together.insert(together.end(), followUps.begin(), followUps.end());
   const auto offer = [&](QString text, const std::vector<EventPlace>& places) {
@@ -364,8 +437,7 @@ void LiveEventPanel::askDeletion() {
   };
   offer(withPlaceholder(m_texts, kDeleteWith, words.join(QStringLiteral(", "))), together);
   offer(caption(m_texts, kDeleteAlone), events);
-  const QModelIndex row = m_rows.rowOf(chosenEvents.front());
-  menu->popup(m_list->viewport()->mapToGlobal(m_list->visualRect(row).bottomLeft()));
+  menu->popup(cornerUnder(chosenEvents.front()));
   menu->setActiveAction(menu->actions().constFirst());
 }
 

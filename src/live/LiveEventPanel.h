@@ -4,6 +4,7 @@
 #pragma once
 
 #include "live/LiveEventRows.h"
+#include "live/LiveRepairs.h"
 
 #include <QWidget>
 
@@ -37,9 +38,15 @@ class LiveEventPanel : public QWidget {
   void deleteAsked(const std::vector<hooptab::EventPlace>& events, bool isDeleted);
   void editAsked(const hooptab::EventPlace& event);
   void insertAsked(const hooptab::EventPlace& event, bool isBefore);
+  void timeAsked(const hooptab::EventPlace& event);
+  // Put in at an event, or another choice for one that is recorded; `player` (0: nobody) is to come in.
+  void substitutionAsked(const hooptab::PastSubstitution& past, int team, int player);
   void undoAsked();
   void redoAsked();
   void chosen(const hooptab::EventPlace& event);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override; // a click on a mark
 
  private:
   QAction* makeAction(const char* name, int text, const char* iconName);
@@ -50,6 +57,9 @@ class LiveEventPanel : public QWidget {
   void showTurn(QAction& action, const LiveAction* turned, int text, int nothing) const;
   void fitColumns();
   void leadToFinding();
+  void offerRepairs(std::size_t event);
+  void repair(const LiveRepair& repair);
+  QPoint cornerUnder(std::size_t event) const;
   void askDeletion();
   void choose(std::size_t event);
   EventPlace placeOf(std::size_t event) const;
@@ -68,6 +78,9 @@ class LiveEventPanel : public QWidget {
   QAction* m_edit = nullptr;
   QAction* m_insertBefore = nullptr;
   QAction* m_insertAfter = nullptr;
+  QAction* m_time = nullptr;
+  QAction* m_substituteBefore = nullptr;
+  QAction* m_substituteAfter = nullptr;
   QAction* m_undo = nullptr;
   QAction* m_redo = nullptr;
   QAction* m_filter = nullptr;

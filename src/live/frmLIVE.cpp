@@ -5,6 +5,7 @@
 #include "appearance/relabel.h"
 #include "live/BenchPanel.h"
 #include "live/CourtClick.h"
+#include "live/EventRequests.h"
 #include "live/FollowUpBar.h"
 #include "live/JerseyButton.h"
 #include "live/LiveEventPanel.h"
@@ -34,8 +35,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int kErrorTitle = 1060;
-constexpr int kWarningTitle = 1139;
-constexpr int kDoesNotFit = 1917;
 constexpr int kWindowTitle = 1001;
 constexpr int kColourTitle = 1835;
 constexpr int kRecordedElsewhere = 1913;
@@ -166,20 +165,8 @@ void frmLIVE::connectEverything() {
   connect(m_followUp, &FollowUpBar::assistChosen, this, [this](int slot) { act(slot, EventCode::SA); });
   connect(m_followUp, &FollowUpBar::reboundChosen, this,
           [this](int slot, bool isOffensive) { act(slot, isOffensive ? EventCode::SOR : EventCode::SDR); });
-  connect(m_events, &LiveEventPanel::undoAsked, this, [this] { edit(&LiveGame::undo); });
-  connect(m_events, &LiveEventPanel::redoAsked, this, [this] { edit(&LiveGame::redo); });
-  connect(m_events, &LiveEventPanel::deleteAsked, this,
-          [this](const std::vector<EventPlace>& events, bool isDeleted) {
-            m_game.setDeleted(events, isDeleted);
-            showGame();
-          });
-
-  connect(m_events, &LiveEventPanel::editAsked, this, [this](const EventPlace& event) {
-    editEvent(event, frmEDIT::Purpose::Change, LiveGame::Where::Behind);
-  });
-  connect(m_events, &LiveEventPanel::insertAsked, this, [this](const EventPlace& event, bool isBefore) {
-    editEvent(event, frmEDIT::Purpose::Insert, isBefore ? LiveGame::Where::Before : LiveGame::Where::Behind);
-  });
+  auto* requests = new EventRequests(m_game, *m_events, m_settings, m_texts, m_dialogs, *this);
+  connect(requests, &EventRequests::gameChanged, this, &frmLIVE::showGame);
 
   // Ahead of any focused button, which Ctrl+Space presses.
   const auto onKey = [this](const QKeySequence& key, auto handler) {
@@ -368,23 +355,6 @@ void frmLIVE::setOnCourt(const OnCourt& onCourt) {
 
 void frmLIVE::edit(bool (LiveGame::*step)()) {
   (m_game.*step)();
-  showGame();
-}
-
-void frmLIVE::editEvent(const EventPlace& event, frmEDIT::Purpose purpose, LiveGame::Where where) {
-  frmEDIT window(m_game, event, purpose, m_settings, m_texts, this);
-  if (window.exec() != QDialog::Accepted)
-    return;
-  const auto counted = window.counted();
-  bool isDone = false;
-  if (!counted)
-    isDone = m_game.setTime(event, window.clockSeconds());
-  else if (purpose == frmEDIT::Purpose::Change)
-    isDone = m_game.editEvent(event, window.clockSeconds(), *counted);
-  else
-    isDone = m_game.insertEvent(event, where, window.clockSeconds(), *counted);
-  if (!isDone)
-    m_dialogs.warn(this, toQt(m_texts.text(kWarningTitle)), toQt(m_texts.text(kDoesNotFit)));
   showGame();
 }
 

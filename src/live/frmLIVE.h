@@ -6,7 +6,6 @@
 #include "appearance/ZoneMap.h"
 #include "live/GameLock.h"
 #include "live/LiveGame.h"
-#include "live/frmEDIT.h"
 
 #include <QTimer>
 
@@ -72,7 +71,6 @@ class frmLIVE : public ChildWindow {
   void afterClock(LiveGame::Phase before);
   void afterShot(int slot, EventCode kind, bool isMade);
   void edit(bool (LiveGame::*step)());
-  void editEvent(const EventPlace& event, frmEDIT::Purpose purpose, LiveGame::Where where);
   void askOvertime();
   void shoot(int slot, EventCode kind, bool isMade,
              std::optional<std::pair<double, double>> place = std::nullopt);

@@ -2,10 +2,13 @@
 #include "live/LiveEventPanel.h"
 
 #include "appearance/relabel.h"
+#include "live/EventRequests.h"
 #include "live/LiveGame.h"
 #include "live/ManualTime.h"
 #include "live/frmEDIT.h"
+#include "live/frmSUBST.h"
 #include "storage/Settings.h"
+#include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 
 #include <QAbstractItemModelTester>
@@ -13,10 +16,12 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
@@ -146,6 +151,86 @@ TEST_F(LiveEventPanelTest, AsksForWhatIsToBeDone) {
   panel.showGame(live);
   for (const char* name : {"cmdDELETE", "cmdEDIT", "cmdINSERTAFTER", "cmdUNDO"})
     EXPECT_FALSE(action(name).isEnabled()) << name;
+}
+
+TEST_F(LiveEventPanelTest, LeadsToWhatMendsAFinding) {
+  live.recordAction(1, 6, EventCode::SBS); // from the bench
+  live.recordAction(0, 3, EventCode::SA);
+  panel.showGame(live);
+  QSignalSpy edits(&panel, &LiveEventPanel::editAsked);
+  std::vector<std::pair<PastSubstitution, int>> asked;
+  QObject::connect(&panel, &LiveEventPanel::substitutionAsked, &panel,
+                   [&](const PastSubstitution& past, int, int player) { asked.emplace_back(past, player); });
+  auto& checks = find<QPushButton>("lblCHECKS");
+  checks.click();
+  auto* menu = &find<QMenu>("mnuREPAIR");
+  EXPECT_EQ(list().currentIndex().row(), 1);
+  EXPECT_FALSE(menu->actions()[0]->isEnabled()) << "says what is wrong";
+  EXPECT_EQ(menu->actions()[1]->text(), QStringLiteral("Substitution Before: 7 Fay Comes In"));
+  menu->actions()[1]->trigger();
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0].first.event, (EventPlace{1, "7"}));
+  EXPECT_EQ(asked[0].second, 6);
+  menu->actions()[2]->trigger();
+  EXPECT_EQ(edits.count(), 1);
+  EXPECT_EQ(menu->actions().back()->text(), QStringLiteral("Next to Check"));
+
+  // Any other key closes it and does what it does without a menu.
+  int pressed = 0;
+  auto* shortcut = new QShortcut(Qt::Key_Space, &panel);
+  QObject::connect(shortcut, &QShortcut::activated, &panel, [&pressed] { ++pressed; });
+  QTest::keyClick(menu, Qt::Key_Space);
+  EXPECT_EQ(pressed, 1);
+  EXPECT_FALSE(menu->isVisible());
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(asked.size() + static_cast<std::size_t>(edits.count()), 2U);
+
+  const QRect row = list().visualRect(cell(0, EventListModel::Action));
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, {row.left() + 60, row.center().y()});
+  EXPECT_EQ(panel.findChild<QMenu*>(QStringLiteral("mnuREPAIR")), nullptr) << "beside the mark";
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, {row.left() + 5, row.center().y()});
+  menu = &find<QMenu>("mnuREPAIR");
+  EXPECT_EQ(menu->actions()[1]->text(), QStringLiteral("Edit"));
+  menu->close();
+}
+
+TEST_F(LiveEventPanelTest, AForgottenSubstitutionIsChosenAtItsPlace) {
+  QWidget window;
+  const Settings settings(store, folder.path(""));
+  ScriptedDialogs dialogs;
+  const EventRequests requests(live, panel, settings, texts, dialogs, window);
+  const auto dialog = [&window]() -> frmSUBST& { return *window.findChild<frmSUBST*>(); };
+  const auto press = [](QWidget& in, const char* name) {
+    QTest::mouseClick(in.findChild<QAbstractButton*>(QLatin1String(name)), Qt::LeftButton);
+  };
+  live.setOnCourt({kFive, 0b1111100}); // PUMA 7 for 4 at 9:50
+  panel.showGame(live);
+  emit panel.substitutionAsked({PastSubstitution::What::InsertBefore, {1, "4"}}, 1, 6);
+  auto* conflict = dialog().findChild<QLabel*>(QStringLiteral("lblCONFLICT"));
+  auto* accept = dialog().findChild<QPushButton*>(QStringLiteral("cmdOK"));
+  EXPECT_EQ(dialog().findChild<QLabel*>(QStringLiteral("lblPLACE"))->text(),
+            QStringLiteral("Substitution at 1 09:50"));
+  EXPECT_FALSE(accept->isEnabled()) << "six";
+  press(dialog(), "cmdJERSEY(16)"); // PUMA 5 leaves: 7 would come twice
+  EXPECT_EQ(conflict->text(), QStringLiteral("1 09:50: 7 of PUMA would come in or leave twice"));
+  EXPECT_FALSE(accept->isEnabled());
+  press(dialog(), "cmdJERSEY(16)");
+  press(dialog(), "cmdJERSEY(15)"); // for 4, as it was to be
+  EXPECT_TRUE(conflict->text().isEmpty());
+  press(dialog(), "cmdOK");
+  EXPECT_EQ(*findLine(live.log().lines(), 1, "9"), "09:50,ARRET,IN-04-05-10-12-15,IN-05-07-10-12-15");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+  emit panel.editAsked({1, "9"}); // others
+  EXPECT_FALSE(dialog().findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled()) << "as it stands";
+  press(dialog(), "cmdJERSEY(0)");
+  press(dialog(), "cmdJERSEY(5)"); // LYNX 7 for 4
+  press(dialog(), "cmdOK");
+  EXPECT_EQ(live.onCourt(), (OnCourt{0b1111100, 0b1111100}));
+  EXPECT_TRUE(dialogs.shown.empty());
+  EXPECT_TRUE(live.undo());
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(live.onCourt(), (OnCourt{kFive, 0b1111100}));
 }
 
 TEST_F(LiveEventPanelTest, FiltersAndKeepsItsPlace) {

@@ -1,0 +1,86 @@
+#include "live/EventRequests.h"
+
+#include "appearance/Dialogs.h"
+#include "appearance/relabel.h"
+#include "live/ConflictWords.h"
+#include "live/LiveEventPanel.h"
+#include "live/frmSUBST.h"
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kWarningTitle = 1139;
+constexpr int kDoesNotFit = 1917;
+
+} // namespace
+
+EventRequests::EventRequests(LiveGame& game, LiveEventPanel& panel, const Settings& settings,
+                             const Texts& texts, Dialogs& dialogs, QWidget& window)
+    : QObject(&window), m_game(game), m_panel(panel), m_settings(settings), m_texts(texts),
+      m_dialogs(dialogs), m_window(window) {
+  connect(&panel, &LiveEventPanel::undoAsked, this, [this] { takeBack(&LiveGame::undo); });
+  connect(&panel, &LiveEventPanel::redoAsked, this, [this] { takeBack(&LiveGame::redo); });
+  connect(&panel, &LiveEventPanel::deleteAsked, this,
+          [this](const std::vector<EventPlace>& events, bool isDeleted) {
+            take(m_game.editing().deletion(events, isDeleted));
+          });
+  connect(&panel, &LiveEventPanel::editAsked, this, &EventRequests::change);
+  connect(&panel, &LiveEventPanel::timeAsked, this,
+          [this](const EventPlace& event) { ask(event, frmEDIT::Purpose::Change, LiveGame::Where::Behind); });
+  connect(&panel, &LiveEventPanel::insertAsked, this, [this](const EventPlace& event, bool isBefore) {
+    ask(event, frmEDIT::Purpose::Insert, isBefore ? LiveGame::Where::Before : LiveGame::Where::Behind);
+  });
+  connect(&panel, &LiveEventPanel::substitutionAsked, this, &EventRequests::askWho);
+}
+
+void EventRequests::take(const EditPlan& plan) {
+  const bool isTaken = m_game.take(plan);
+  emit gameChanged();
+  if (isTaken)
+    return;
+  QString words = caption(m_texts, kDoesNotFit);
+  if (plan.conflict)
+    words += QStringLiteral("\n\n") + toQt(wordsOf(*plan.conflict, m_game.game(), m_texts));
+  m_dialogs.warn(&m_window, caption(m_texts, kWarningTitle), words);
+}
+
+void EventRequests::takeBack(bool (LiveGame::*step)()) {
+  (m_game.*step)();
+  emit gameChanged();
+}
+
+// Of a substitution who goes in and out, of anything else what frmEDIT can change.
+void EventRequests::change(const EventPlace& event) {
+  const LiveLog& log = m_game.log();
+  if (isSubstitution(log.lines(), event.period, event.key, log.rosters()))
+    askWho({PastSubstitution::What::Change, event}, 0, 0);
+  else
+    ask(event, frmEDIT::Purpose::Change, LiveGame::Where::Behind);
+}
+
+void EventRequests::ask(const EventPlace& event, frmEDIT::Purpose purpose, LiveGame::Where where) {
+  frmEDIT window(m_game, event, purpose, m_settings, m_texts, &m_window);
+  if (window.exec() != QDialog::Accepted)
+    return;
+  const auto counted = window.counted();
+  const int clock = window.clockSeconds();
+  const GameEditing editing = m_game.editing();
+  if (!counted)
+    take(editing.newTime(event, clock));
+  else if (purpose == frmEDIT::Purpose::Change)
+    take(editing.change(event, clock, *counted));
+  else
+    take(editing.insertion(event, where, clock, *counted));
+}
+
+void EventRequests::askWho(const PastSubstitution& past, int team, int player) {
+  auto* window = new frmSUBST(m_game, past, m_texts, &m_window);
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  if (player > 0)
+    window->toggle(team, player);
+  connect(window, &QDialog::accepted, this, [this, window] { take(window->plan()); });
+  window->openBeside(m_panel);
+}
+
+} // namespace hooptab

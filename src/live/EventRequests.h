@@ -1,0 +1,44 @@
+// Answers what is asked for in the list of events of the live window: opens the dialogs for editing and for
+// substitutions, hands the answers to the game, and says what does not fit. Lays nothing out.
+#pragma once
+
+#include "live/Substitution.h"
+#include "live/frmEDIT.h"
+
+#include <QObject>
+
+#include <span>
+
+namespace hooptab {
+
+class Dialogs;
+class LiveEventPanel;
+class Settings;
+class Texts;
+
+class EventRequests : public QObject {
+  Q_OBJECT
+ public:
+  // All must outlive it.
+  EventRequests(LiveGame& game, LiveEventPanel& panel, const Settings& settings, const Texts& texts,
+                Dialogs& dialogs, QWidget& window);
+
+ signals:
+  void gameChanged();
+
+ private:
+  void take(const EditPlan& plan);
+  void takeBack(bool (LiveGame::*step)());
+  void change(const EventPlace& event);
+  void ask(const EventPlace& event, frmEDIT::Purpose purpose, LiveGame::Where where);
+  void askWho(const PastSubstitution& past, int team, int player);
+
+  LiveGame& m_game;
+  LiveEventPanel& m_panel;
+  const Settings& m_settings;
+  const Texts& m_texts;
+  Dialogs& m_dialogs;
+  QWidget& m_window;
+};
+
+} // namespace hooptab
