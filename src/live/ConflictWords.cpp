@@ -7,6 +7,7 @@ namespace hooptab {
 
 namespace {
 
+constexpr int kPeriod = 1087;
 constexpr int kSix = 1874;
 constexpr int kTwice = 1875;
 
@@ -16,7 +17,8 @@ std::string placeWords(const EventPlace& place, const Game& game, const Texts& t
   const EventWords words(game, texts);
   for (std::size_t event = 0; event < game.events.size(); ++event) {
     if (game.events[event].period == place.period && game.events[event].key == place.key)
-      return words.periodText(place.period) + ' ' + words.clock(event);
+      return words.clock(event) + " (" + std::string(texts.text(kPeriod)) + ' ' +
+             words.periodText(place.period) + ')';
   }
   return {};
 }

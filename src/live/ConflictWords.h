@@ -9,7 +9,7 @@
 
 namespace hooptab {
 
-// "1 05:32": period and clock of an event; empty for one that is not there.
+// "05:32 (Period 1)": period and clock of an event; empty for one that is not there.
 [[nodiscard]] std::string placeWords(const EventPlace& place, const Game& game, const Texts& texts);
 [[nodiscard]] std::string wordsOf(const CourtConflict& conflict, const Game& game, const Texts& texts);
 

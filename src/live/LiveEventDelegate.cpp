@@ -11,6 +11,18 @@ namespace {
 
 constexpr int kPadding = 8;
 
+// "ANA 41 ● free throw" beside a score: rather than what happened, the team goes, which the stripe of its
+// colour names too.
+void shorten(QStyleOptionViewItem& option) {
+  const QRect room =
+      option.widget->style()->subElementRect(QStyle::SE_ItemViewItemText, &option, option.widget);
+  constexpr int kMargins = 2 * 3; // of the words in their rectangle
+  if (option.fontMetrics.horizontalAdvance(option.text) <= room.width() - kMargins)
+    return;
+  option.text = option.text.mid(option.text.indexOf(u' ') + 1);
+  option.textElideMode = Qt::ElideLeft;
+}
+
 } // namespace
 
 void LiveEventDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
@@ -43,6 +55,8 @@ void LiveEventDelegate::paint(QPainter* painter, const QStyleOptionViewItem& giv
     icon(QStringLiteral("tocheck")).paint(painter, option.rect.left(), top, kMarkSize, kMarkSize);
     option.rect.setLeft(option.rect.left() + kMarkSize);
   }
+  if (!score.isEmpty())
+    shorten(option);
   style.drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
 }
 

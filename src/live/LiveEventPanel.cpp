@@ -270,9 +270,12 @@ void LiveEventPanel::showCommands() {
   }
   m_delete->setEnabled(canEdit && canDelete);
   m_undelete->setEnabled(canEdit && canRestore);
+  // What cannot be understood stays as it is, and has no time at which anything could be put in.
+  const QModelIndex now = m_list->currentIndex();
+  const bool isUnderstood = now.isValid() && m_rows.game().events[m_rows.eventAt(now)].isUnderstood;
   for (QAction* action :
        {m_edit, m_time, m_insertBefore, m_insertAfter, m_substituteBefore, m_substituteAfter})
-    action->setEnabled(canEdit && current());
+    action->setEnabled(canEdit && isUnderstood && current());
   const auto turned = [&](auto which) { return canEdit ? (m_game->*which)() : nullptr; };
   showTurn(*m_undo, turned(&LiveGame::toUndo), kUndo, kNothingToUndo);
   showTurn(*m_redo, turned(&LiveGame::toRedo), kRedo, kNothingToRedo);

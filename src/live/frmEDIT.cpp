@@ -6,8 +6,11 @@
 #include "appearance/relabel.h"
 #include "live/CourtClick.h"
 #include "live/MiniCourt.h"
+#include "live/StatButton.h"
+#include "live/StatControls.h"
 #include "storage/EventWords.h"
 #include "storage/Module1.h"
+#include "storage/Settings.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -27,6 +30,7 @@ constexpr int kClose = 1088;
 constexpr int kAccept = 1089;
 constexpr int kPlayer = 1593;
 constexpr int kKind = 1595;
+constexpr int kOtherZone = 1885;
 constexpr int kEdit = 1912;
 constexpr int kInsertion = 1965;
 constexpr int kMade = 1514;
@@ -53,6 +57,7 @@ frmEDIT::frmEDIT(const LiveGame& game, const EventPlace& place, Purpose purpose,
     if (purpose == Purpose::Change)
       fill(event);
   }
+  m_accept->setEnabled(m_time->hasAcceptableInput());
   m_time->setEnabled(game.hasTime());
   relabel(*this, texts);
   giveMnemonics(*this);
@@ -108,6 +113,41 @@ void frmEDIT::makeFields() {
           [this] { m_accept->setEnabled(m_time->hasAcceptableInput()); });
 }
 
+StatButton* frmEDIT::makeButton(EventCode code, const char* name, int toolTip) {
+  constexpr QSize kSize(40, 24);
+  const EventKind& kind = *kindOf(code);
+  auto* button = new StatButton(kind.isShot ? StatButton::Records::Shot : StatButton::Records::Action,
+                                toQt(kind.shortName), {QString()}, this);
+  button->setObjectName(QStringLiteral("%1(10)").arg(QLatin1String(name)));
+  button->setFixedSize(kSize);
+  button->setColour(colourOf(m_settings.buttonColour));
+  setToolTipNumber(*button, toolTip > 0 ? toolTip : kind.wordsText);
+  setAccessibleNumber(*button, kind.wordsText);
+  connect(button, &StatButton::recorded, this, [this, code](bool isMade) { take(code, isMade); });
+  m_buttons.push_back(button);
+  return button;
+}
+
+// The same as in a player's panel: here they say what the event is.
+QLayout* frmEDIT::makeButtons() {
+  constexpr int kColumns = 5;
+  auto* grid = new QGridLayout;
+  grid->setSpacing(2);
+  int place = 0;
+  for (const ShotControls& controls : kShotControls) {
+    if (controls.button == nullptr)
+      continue;
+    grid->addWidget(makeButton(controls.code, controls.button, controls.toolTip), 0, place++);
+  }
+  for (const ActionControls& controls : kActionControls) {
+    grid->addWidget(makeButton(controls.code, controls.button, controls.toolTip), place / kColumns,
+                    place % kColumns);
+    ++place;
+  }
+  grid->setColumnStretch(kColumns, 1);
+  return grid;
+}
+
 void frmEDIT::makeLayout() {
   auto* close = new QPushButton(this);
   close->setObjectName(QStringLiteral("cmdCLOSE"));
@@ -122,6 +162,7 @@ void frmEDIT::makeLayout() {
     fields->addWidget(captionFor(*field, text), row, 0);
     fields->addWidget(field, row++, 1);
   }
+  fields->addLayout(makeButtons(), row++, 1);
   fields->addWidget(m_made, row++, 1);
   fields->addWidget(m_shot, row++, 0, 1, 2);
   fields->addWidget(m_xy, row++, 0, 1, 2);
@@ -144,6 +185,8 @@ void frmEDIT::fill(const GameEvent& event) {
   for (QWidget* field : {static_cast<QWidget*>(m_player), static_cast<QWidget*>(m_kind),
                          static_cast<QWidget*>(m_made), static_cast<QWidget*>(m_court)})
     field->setEnabled(m_isCounted);
+  for (StatButton* button : m_buttons)
+    button->setEnabled(m_isCounted);
   if (!m_isCounted)
     return;
   const int entry = m_game.roster[event.player.team].entryOf(event.player.jersey);
@@ -160,9 +203,20 @@ void frmEDIT::pressCourt(QPointF place, bool isMade) {
   if (!click)
     return;
   m_place = {click->place.x, click->place.y};
+  take(click->kind, isMade);
+}
+
+void frmEDIT::take(EventCode kind, bool isMade) {
   m_made->setChecked(isMade);
-  m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(click->kind)));
+  m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(kind)));
   showShot();
+}
+
+// A shot keeps the place that it had when its kind is changed: said, not refused, for the zones of the one
+// who recorded it may have been others.
+bool frmEDIT::fitsZone(EventCode kind) const {
+  const auto click = CourtClick::of({m_place->first, m_place->second}, false, zoneMapOf(m_settings));
+  return click && click->kind == kind;
 }
 
 void frmEDIT::showShot() {
@@ -176,6 +230,8 @@ void frmEDIT::showShot() {
                             QStringLiteral(" (%1)").arg(caption(m_texts, kind->wordsText)));
   m_xy->setText(hasPlace ? QStringLiteral("%1, %2").arg(int(m_place->first)).arg(int(m_place->second))
                          : QString());
+  if (hasPlace && !fitsZone(now->kind))
+    m_xy->setText(m_xy->text() + QStringLiteral(" \u2013 ") + caption(m_texts, kOtherZone));
   std::vector<LivePanel::ShotMark> marks;
   if (hasPlace)
     marks.push_back({{m_place->first, m_place->second}, now->isMade});

@@ -9,6 +9,7 @@
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 
@@ -16,6 +17,7 @@ namespace hooptab {
 
 class MiniCourt;
 class Settings;
+class StatButton;
 class Texts;
 
 class frmEDIT : public QDialog {
@@ -32,10 +34,14 @@ class frmEDIT : public QDialog {
 
  private:
   void makeFields();
+  QLayout* makeButtons();
+  StatButton* makeButton(EventCode code, const char* name, int toolTip);
   void makeLayout();
   void fill(const GameEvent& event);
   void pressCourt(QPointF place, bool isMade);
+  void take(EventCode kind, bool isMade);
   void showShot();
+  bool fitsZone(EventCode kind) const;
 
   const Game& m_game;
   const Settings& m_settings;
@@ -49,6 +55,7 @@ class frmEDIT : public QDialog {
   MiniCourt* m_court = nullptr;
   QLabel* m_shot = nullptr;
   QLabel* m_xy = nullptr;
+  std::vector<StatButton*> m_buttons;
   QPushButton* m_accept = nullptr;
 };
 

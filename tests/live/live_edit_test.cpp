@@ -111,7 +111,7 @@ TEST_F(LiveEditTest, AForgottenSubstitutionIsCarriedOn) {
   EXPECT_EQ(live.conflict(), (CourtConflict{{1, "6"}, 0, 1U << 1U, true}));
   EXPECT_FALSE(live.insertSubstitution({1, "6"}, Where::Behind, {}, {1U << 7U, 0})) << "a sixth";
   EXPECT_EQ(wordsOf(*live.conflict(), live.game(), Texts()),
-            "1 09:30: too many players of Visitor would be on court (5, 10, 12, 15, 7, 8)");
+            "09:30 (Period 1): too many players of Visitor would be on court (5, 10, 12, 15, 7, 8)");
 
   // Earlier by its time: the players go with it.
   EXPECT_TRUE(live.setTime({1, "10"}, 595));
@@ -162,7 +162,7 @@ TEST_F(LiveEditTest, AnotherPlayerWentIn) {
   // 8 instead of 7: at 9:00 he would come a second time, for one who is not there.
   EXPECT_FALSE(live.take(live.editing().newLists(stop, {0b10111100, kFive})));
   EXPECT_EQ(wordsOf(*live.conflict(), live.game(), Texts()),
-            "1 09:00: 8 of Visitor would come in or leave twice");
+            "09:00 (Period 1): 8 of Visitor would come in or leave twice");
   ASSERT_TRUE(live.take(live.editing().newLists(stop, {0b1110110, kFive}))) << "for 10";
   EXPECT_EQ(lines()[5], "10=09:30,ARRET,IN-04-05-07-12-15,IN-04-05-10-12-15");
   EXPECT_EQ(live.onCourt()[0], 0b11110010U) << "and later 8 for 5";

@@ -209,10 +209,10 @@ TEST_F(LiveEventPanelTest, AForgottenSubstitutionIsChosenAtItsPlace) {
   auto* conflict = dialog().findChild<QLabel*>(QStringLiteral("lblCONFLICT"));
   auto* accept = dialog().findChild<QPushButton*>(QStringLiteral("cmdOK"));
   EXPECT_EQ(dialog().findChild<QLabel*>(QStringLiteral("lblPLACE"))->text(),
-            QStringLiteral("Substitution at 1 09:50"));
+            QStringLiteral("Substitution at 09:50 (Period 1)"));
   EXPECT_FALSE(accept->isEnabled()) << "six";
   press(dialog(), "cmdJERSEY(16)"); // PUMA 5 leaves: 7 would come twice
-  EXPECT_EQ(conflict->text(), QStringLiteral("1 09:50: 7 of PUMA would come in or leave twice"));
+  EXPECT_EQ(conflict->text(), QStringLiteral("09:50 (Period 1): 7 of PUMA would come in or leave twice"));
   EXPECT_FALSE(accept->isEnabled());
   press(dialog(), "cmdJERSEY(16)");
   press(dialog(), "cmdJERSEY(15)"); // for 4, as it was to be
@@ -267,7 +267,10 @@ TEST_F(LiveEventPanelTest, FiltersAndKeepsItsPlace) {
 
 TEST_F(LiveEventPanelTest, TheEditingPanelChangesWhatItShows) {
   live.recordShot(1, 2, EventCode::GF3, false, {{10, 20}});
-  const Settings settings(store, folder.path(""));
+  Settings settings(store, folder.path(""));
+  settings.twoPointColour = kFirstColours.twoPoints;
+  settings.boxColour = kFirstColours.box;
+  settings.threePointColour = kFirstColours.threePoints;
   frmEDIT shot(live, {1, "7"}, frmEDIT::Purpose::Change, settings, texts);
   EXPECT_EQ(shot.clockSeconds(), 590);
   auto& made = *shot.findChild<QCheckBox*>(QStringLiteral("chkMADE"));
@@ -280,8 +283,36 @@ TEST_F(LiveEventPanelTest, TheEditingPanelChangesWhatItShows) {
   ASSERT_TRUE(shot.counted());
   ASSERT_TRUE(live.editEvent({1, "7"}, shot.clockSeconds(), *shot.counted()));
   EXPECT_EQ(*findLine(live.log().lines(), 1, "7"), "09:51,GF3,1-5,10,20");
+  const auto press = [&shot](const char* name, Qt::MouseButton button) {
+    QTest::mouseClick(shot.findChild<QWidget*>(QLatin1String(name)), button);
+  };
+  const auto* xy = shot.findChild<QLabel*>(QStringLiteral("lblxy"));
+  auto* kinds = shot.findChild<QComboBox*>(QStringLiteral("cmbKIND"));
+  EXPECT_TRUE(xy->text().contains(QLatin1String("other zone")));
+  kinds->setCurrentIndex(kinds->findData(static_cast<int>(EventCode::GFG)));
+  EXPECT_EQ(xy->text(), QStringLiteral("10, 20"));
+  press("cmdBUTFT(10)", Qt::RightButton);
+  EXPECT_EQ(shot.counted()->kind, EventCode::GFT);
+  EXPECT_FALSE(shot.counted()->isMade);
+  EXPECT_TRUE(xy->text().isEmpty());
+  press("cmdBUTORB(10)", Qt::LeftButton);
+  EXPECT_EQ(shot.counted()->kind, EventCode::SOR);
+  EXPECT_EQ(live.game().events.size(), 7U) << "nothing is recorded";
   frmEDIT stop(live, {1, "2"}, frmEDIT::Purpose::Change, settings, texts);
   EXPECT_FALSE(stop.counted()) << "its time alone";
+}
+
+TEST_F(LiveEventPanelTest, KeepsWhatCannotBeUnderstood) {
+  ASSERT_EQ(GameFile(store, path).change({{EventChange::Kind::Add, 1, "7", "what is this?"}}),
+            GameFileProblem::None);
+  ASSERT_EQ(live.open(path), GameFileProblem::None);
+  panel.showGame(live);
+  select(0);
+  EXPECT_EQ(words(0), "what is this?");
+  for (const char* name : {"cmdEDIT", "cmdTIME", "cmdINSERTBEFORE", "cmdSUBSTAFTER"})
+    EXPECT_FALSE(action(name).isEnabled()) << name;
+  select(1);
+  EXPECT_TRUE(action("cmdEDIT").isEnabled());
 }
 
 TEST_F(LiveEventPanelTest, StaysFastInALongGame) {
