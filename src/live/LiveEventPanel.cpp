@@ -145,6 +145,8 @@ QWidget* LiveEventPanel::makeButtons() {
   m_delete->setShortcut(QKeySequence::Delete);
   m_undo->setShortcut(Qt::CTRL | Qt::Key_Z);
   m_redo->setShortcut(Qt::CTRL | Qt::Key_Y);
+  for (QAction* action : {m_undo, m_redo}) // in the whole live window; no window may have the keys once more
+    action->setAutoRepeat(false);
 
   auto* row = new QWidget(this);
   auto* layout = new QHBoxLayout(row);
@@ -358,7 +360,7 @@ void LiveEventPanel::leadToFinding() {
 }
 
 void LiveEventPanel::offerRepairs(std::size_t event) {
-  if (m_game == nullptr || m_game->phase() == LiveGame::Phase::Finished)
+  if (m_game == nullptr || !m_game->canRecord())
     return;
   auto* menu = new PassingMenu(this);
   menu->setObjectName(QStringLiteral("mnuREPAIR"));

@@ -48,6 +48,10 @@ void PassingMenu::keyPressEvent(QKeyEvent* event) {
         return;
       }
     }
+    for (QAction* action : widget->findChildren<QAction*>(Qt::FindDirectChildrenOnly)) {
+      if (action->isEnabled() && action->shortcut() == key)
+        return action->trigger();
+    }
   }
   QKeyEvent again(QEvent::KeyPress, event->key(), event->modifiers(), event->text());
   QCoreApplication::sendEvent(QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : below,

@@ -35,6 +35,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int kErrorTitle = 1060;
+constexpr int kWarningTitle = 1139;
 constexpr int kWindowTitle = 1001;
 constexpr int kColourTitle = 1835;
 constexpr int kRecordedElsewhere = 1913;
@@ -177,8 +178,6 @@ void frmLIVE::connectEverything() {
   };
   onKey(Qt::Key_Space, &frmLIVE::toggleClock);
   onKey(Qt::Key_Escape, [this] { m_bench->clearSelection(); });
-  onKey(QKeySequence::Undo, [this] { edit(&LiveGame::undo); });
-  onKey(QKeySequence::Redo, [this] { edit(&LiveGame::redo); });
 }
 
 frmLIVE::Opening frmLIVE::open(const QString& path) {

@@ -6,6 +6,7 @@
 #include "live/LiveGame.h"
 #include "live/ManualTime.h"
 #include "live/frmEDIT.h"
+#include "live/frmLIVE.h"
 #include "live/frmSUBST.h"
 #include "storage/Settings.h"
 #include "support/ScriptedDialogs.h"
@@ -313,6 +314,30 @@ TEST_F(LiveEventPanelTest, KeepsWhatCannotBeUnderstood) {
     EXPECT_FALSE(action(name).isEnabled()) << name;
   select(1);
   EXPECT_TRUE(action("cmdEDIT").isEnabled());
+}
+
+TEST_F(LiveEventPanelTest, IsUndoneByKeyInTheWindow) {
+  Settings settings(store, folder.path(""));
+  ScriptedDialogs dialogs;
+  frmLIVE window(store, settings, texts, dialogs, time);
+  ASSERT_EQ(window.open(toQt(path)), frmLIVE::Opening::Opened);
+  window.show();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  const auto event = [&] {
+    Game game;
+    EXPECT_EQ(GameFile(store, path).read(game), GameFileProblem::None);
+    return std::string(game.events[5].line);
+  };
+  auto* events = window.findChild<QTableView*>(QStringLiteral("lvwEVENT"));
+  events->setFocus();
+  events->selectRow(0);
+  QTest::keyClick(events, Qt::Key_Delete);
+  EXPECT_TRUE(event().starts_with('E'));
+  QTest::keyClick(events, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_FALSE(event().starts_with('E'));
+  QTest::keyClick(&window, Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_TRUE(event().starts_with('E'));
 }
 
 TEST_F(LiveEventPanelTest, StaysFastInALongGame) {
