@@ -69,6 +69,10 @@ struct GameState {
   std::array<std::array<LineEntry, kLineEntries>, 2> lines;
   std::array<std::array<PeriodEntry, kPeriodRows>, 2> periods = {};
   std::array<int, 2> usedLines = {}; // entries 1..usedLines are in use
+  // Who belongs to each line in use, as bits: bit n for player entry n; bit 0 for somebody who is in no
+  // roster, then the line's list tells who.
+  std::array<std::array<std::uint16_t, kLineEntries>, 2> lineMembers = {};
+  std::array<std::uint16_t, 2> wereOnCourt = {}; // bit n: player entry n was on court at some time
   LeadTracker lead;
   std::vector<Shot> shots;
   std::uint8_t period = 1;

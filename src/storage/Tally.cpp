@@ -36,6 +36,7 @@ void Tally::clear() {
   }
   m_state.periods = {};
   m_state.usedLines = {};
+  m_state.wereOnCourt = {};
   m_state.lead = {};
   m_state.shots.clear();
   m_state.period = 1;
@@ -122,6 +123,7 @@ void Tally::setLine(std::size_t team, std::string_view list) {
     members |= 1U << entry;
     onCourt[count++] = static_cast<std::uint8_t>(entry);
   }
+  m_state.wereOnCourt[team] |= static_cast<std::uint16_t>(members);
   m_state.onCourt[team] = onCourt;
   m_state.onCourtCount[team] = count;
   m_state.currentLine[team] =
@@ -132,7 +134,7 @@ void Tally::setLine(std::size_t team, std::string_view list) {
 // lines").
 std::size_t Tally::lineEntry(std::size_t team, unsigned members, const std::vector<std::string>& strangers) {
   auto& lines = m_state.lines[team];
-  auto& known = m_lineMembers[team];
+  auto& known = m_state.lineMembers[team];
   const auto used = static_cast<std::size_t>(m_state.usedLines[team]);
   const auto listText = [&] {
     if (strangers.empty())

@@ -6,8 +6,6 @@
 #include "storage/GameState.h"
 #include "storage/Roster.h"
 
-#include <array>
-#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -50,9 +48,6 @@ class Tally {
   GameState& m_state;
   const Roster* m_rosters[2];
   std::string m_lastList[2]; // as written: an equal list is the same line
-  // Bit n: player entry n is in the line; bit 0: somebody who is in no roster, then the list's text decides
-  // too.
-  std::array<std::array<std::uint16_t, GameState::kLineEntries>, 2> m_lineMembers = {};
   int m_points[2] = {};
   std::optional<CountOutOfRange> m_outOfRange;
 };
