@@ -194,29 +194,14 @@ const Content& contentOf(int column) {
   return kContents[static_cast<std::size_t>(column - 1)];
 }
 
-template <class Which>
-int sumOfShots(const BoxCounters& counters, Which which) {
+template <class Number>
+int sumOfShots(ShotKinds kinds, Number number) {
   int sum = 0;
-  for (const EventKind& kind : kEventKinds) {
-    if (kind.isShot)
-      sum += which(kind, counters[kind.counter], counters[kind.attempts]);
+  for (std::size_t i = 0; i < kEventKinds.size(); ++i) {
+    if ((kinds & (1U << i)) != 0)
+      sum += number(kEventKinds[i]);
   }
   return sum;
-}
-
-// Jerseys by number, "0" before "00"; behind them those that are no numbers, by their letters; last, rows
-// without any.
-double jerseySortValue(std::string_view jersey) {
-  constexpr double kBehindNumbers = 1e10;
-  constexpr double kBehindAll = 1e15;
-  if (jersey.empty())
-    return kBehindAll;
-  if (const int number = Module1::wholeNumber(jersey); number >= 0)
-    return number + static_cast<double>(jersey.size()) / 16; // at most nine digits, so below the next number
-  double letters = 0;
-  for (std::size_t i = 0; i < 4; ++i)
-    letters = letters * 256 + (i < jersey.size() ? static_cast<unsigned char>(jersey[i]) : 0);
-  return kBehindNumbers + letters;
 }
 
 // "4-5-10-12-15": the jerseys of an on-court list as the roster writes them.
@@ -256,25 +241,41 @@ class Rows {
 
 } // namespace
 
+double jerseySortValue(std::string_view jersey) {
+  constexpr double kBehindNumbers = 1e10;
+  constexpr double kBehindAll = 1e15;
+  if (jersey.empty())
+    return kBehindAll;
+  if (const int number = Module1::wholeNumber(jersey); number >= 0)
+    return number + static_cast<double>(jersey.size()) / 16; // at most nine digits, so below the next number
+  double letters = 0;
+  for (std::size_t i = 0; i < 4; ++i)
+    letters = letters * 256 + (i < jersey.size() ? static_cast<unsigned char>(jersey[i]) : 0);
+  return kBehindNumbers + letters;
+}
+
 BoxCounters& BoxCounters::operator+=(const Counters& added) {
   for (std::size_t i = 0; i < kCounterCount; ++i)
     counts[i] += added.counts[i];
   return *this;
 }
 
-int BoxNumbers::made() const {
-  return sumOfShots(counters, [](const EventKind&, int made, int) { return made; });
+int BoxNumbers::made(ShotKinds kinds) const {
+  return sumOfShots(kinds, [this](const EventKind& kind) { return counters[kind.counter]; });
 }
-int BoxNumbers::attempted() const {
-  return sumOfShots(counters, [](const EventKind&, int, int attempted) { return attempted; });
+int BoxNumbers::attempted(ShotKinds kinds) const {
+  return sumOfShots(kinds, [this](const EventKind& kind) { return counters[kind.attempts]; });
 }
-int BoxNumbers::points() const {
-  return sumOfShots(counters, [](const EventKind& kind, int made, int) { return made * kind.points; });
+int BoxNumbers::points(ShotKinds kinds) const {
+  return sumOfShots(kinds, [this](const EventKind& kind) { return counters[kind.counter] * kind.points; });
+}
+int BoxNumbers::rebounds() const {
+  return counters[Counter::OR] + counters[Counter::DR];
 }
 
 int BoxNumbers::rating() const {
-  const int good = points() + counters[Counter::OR] + counters[Counter::DR] + counters[Counter::Ast] +
-                   counters[Counter::ST] + counters[Counter::BS];
+  const int good =
+      points() + rebounds() + counters[Counter::Ast] + counters[Counter::ST] + counters[Counter::BS];
   return good - ((attempted() - made()) + counters[Counter::TO]);
 }
 

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -25,15 +26,30 @@ struct BoxCounters {
   friend bool operator==(const BoxCounters&, const BoxCounters&) = default;
 };
 
+// Some of the shot kinds, as bits: bit n for the kind at place n of the table of kinds.
+using ShotKinds = unsigned;
+[[nodiscard]] constexpr ShotKinds shotKinds(std::initializer_list<EventCode> codes) {
+  ShotKinds kinds = 0;
+  for (std::size_t i = 0; i < kEventKinds.size(); ++i) {
+    for (const EventCode code : codes)
+      kinds |= kEventKinds[i].isShot && kEventKinds[i].code == code ? 1U << i : 0U;
+  }
+  return kinds;
+}
+inline constexpr ShotKinds kAllShotKinds =
+    shotKinds({EventCode::GFG, EventCode::GF3, EventCode::GFT, EventCode::GLG, EventCode::GLD, EventCode::GPB,
+               EventCode::GDK});
+
 // Numbers of a row, whatever it stands for.
 struct BoxNumbers {
   BoxCounters counters;
   std::int32_t seconds = 0; // not below 0
 
-  [[nodiscard]] int made() const; // all seven kinds
-  [[nodiscard]] int attempted() const;
-  [[nodiscard]] int points() const;
-  [[nodiscard]] int rating() const; // PTS + OR + DR + Ast + ST + BS - ((A - M) + TO)
+  [[nodiscard]] int made(ShotKinds kinds = kAllShotKinds) const;
+  [[nodiscard]] int attempted(ShotKinds kinds = kAllShotKinds) const;
+  [[nodiscard]] int points(ShotKinds kinds = kAllShotKinds) const;
+  [[nodiscard]] int rebounds() const; // OR + DR
+  [[nodiscard]] int rating() const;   // PTS + OR + DR + Ast + ST + BS - ((A - M) + TO)
 };
 
 enum class BoxRowKind : std::uint8_t { Player, OtherPlayers, Line, OtherLines, Total };
@@ -78,6 +94,10 @@ boxDisplayOrder(); // creation indexes from left to right
 [[nodiscard]] std::string boxCell(const BoxRow& row, int column);
 [[nodiscard]] double boxSortValue(const BoxRow& row, int column);
 [[nodiscard]] bool boxColumnIsText(int column);
+
+// Jerseys by number, "0" before "00"; behind them those that are no numbers, by their letters; last, rows
+// without any.
+[[nodiscard]] double jerseySortValue(std::string_view jersey);
 
 // Position name of an index (texts 1260 to 1269); "na" for an index without name.
 [[nodiscard]] std::string positionText(int position, const Texts& texts);

@@ -107,19 +107,23 @@ std::string percentText(int made, int attempted) {
   return attempted <= 0 ? "0.0%" : quotientText(std::int64_t{made} * 100, attempted, 1) + "%";
 }
 
+std::int64_t roundedQuotient(std::int64_t numerator, std::int64_t denominator) {
+  const std::int64_t magnitude = numerator < 0 ? -numerator : numerator;
+  const std::int64_t rounded = (magnitude * 2 + denominator) / (denominator * 2);
+  return numerator < 0 ? -rounded : rounded;
+}
+
 std::string quotientText(std::int64_t numerator, std::int64_t denominator, int decimals) {
   std::int64_t scale = 1;
   for (int i = 0; i < decimals; ++i)
     scale *= 10;
-  const bool isNegative = numerator < 0;
-  const std::int64_t doubled = (isNegative ? -numerator : numerator) * scale * 2;
-  const std::int64_t rounded = (doubled + denominator) / (denominator * 2); // half away from zero
+  const std::int64_t rounded = roundedQuotient((numerator < 0 ? -numerator : numerator) * scale, denominator);
   std::string fraction = decimals > 0 ? std::to_string(rounded % scale) : std::string();
   fraction.insert(0, static_cast<std::size_t>(decimals) - fraction.size(), '0');
   std::string text = std::to_string(rounded / scale);
   if (decimals > 0)
     text += "." + fraction;
-  return isNegative && rounded != 0 ? "-" + text : text;
+  return numerator < 0 && rounded != 0 ? "-" + text : text;
 }
 
 std::string asFileName(std::string text) {

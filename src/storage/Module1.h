@@ -56,6 +56,8 @@ namespace hooptab::Module1 {
 // made / attempted as "0.0%": one decimal, half away from zero, computed from the integers; "0.0%" without
 // attempts.
 [[nodiscard]] std::string percentText(int made, int attempted);
+// numerator / denominator as a whole number, half away from zero. Denominator above 0.
+[[nodiscard]] std::int64_t roundedQuotient(std::int64_t numerator, std::int64_t denominator);
 // numerator / denominator with that many decimals, half away from zero, computed from the integers.
 // Denominator above 0.
 [[nodiscard]] std::string quotientText(std::int64_t numerator, std::int64_t denominator, int decimals);
