@@ -1,0 +1,41 @@
+// Joins what the readers of a scan found into one catalogue, in an order that depends on the games alone: the
+// teams, players and lines of all readers become the season's.
+#pragma once
+
+#include "season/GameCatalogue.h"
+#include "season/NameTable.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+class CatalogueMerger {
+ public:
+  explicit CatalogueMerger(const std::vector<const NameTable*>& readers);
+
+  // The next game in order of date; `reader` is whose numbers it carries.
+  void add(ListedGame game, std::size_t reader);
+  // Fills in what is known only after the last game, and hands over all.
+  [[nodiscard]] GameCatalogue::Content finish() &&;
+
+ private:
+  // The season's number of each of a reader's; kNobody while it was not met.
+  struct Known {
+    const NameTable* names;
+    std::vector<SeasonId> teams, players, lines;
+  };
+  SeasonId team(Known& reader, SeasonId id);
+  SeasonId player(Known& reader, SeasonId id);
+  SeasonId line(Known& reader, SeasonId id);
+  void noteCopy(ListedGame& game);
+
+  std::vector<Known> m_readers;
+  GameCatalogue::Content m_content;
+  std::vector<std::vector<std::string>> m_lineJerseys;
+  std::map<std::string, SeasonId> m_teamIds, m_playerIds, m_lineIds;
+  std::map<std::string, std::size_t> m_firstCopies; // by date, teams and events
+};
+
+} // namespace hooptab

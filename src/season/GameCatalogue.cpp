@@ -1,0 +1,172 @@
+#include "season/GameCatalogue.h"
+
+#include "season/CatalogueMerger.h"
+#include "season/GameFinder.h"
+#include "season/SummaryReader.h"
+
+#include <algorithm>
+#include <exception>
+#include <limits>
+#include <numeric>
+#include <system_error>
+#include <thread>
+#include <tuple>
+
+namespace hooptab {
+
+namespace {
+
+// What became of one file.
+struct ReadFile {
+  ListedGame game;
+  std::optional<SkipReason> skipped;
+  std::size_t reader = 0;
+};
+
+// Reads the files on several threads, each with a reader of its own. Which thread takes which file is left to
+// chance; what is made of the results is not.
+class ParallelReading {
+ public:
+  ParallelReading(FileSystem& files, unsigned threads, const std::vector<std::string>& paths,
+                  ScanWatch& watch)
+      : m_paths(paths), m_watch(watch), m_results(paths.size()), m_readers(threads, SummaryReader(files)) {}
+
+  void run() {
+    std::vector<std::thread> helpers;
+    for (std::size_t i = 1; i < m_readers.size(); ++i) {
+      try {
+        helpers.emplace_back(&ParallelReading::work, this, i);
+      } catch (const std::system_error&) {
+        break; // the system has no more threads; those there are do the work
+      }
+    }
+    work(0);
+    for (std::thread& helper : helpers)
+      helper.join();
+  }
+  std::vector<ReadFile>& results() { return m_results; }
+  std::vector<const NameTable*> names() const {
+    std::vector<const NameTable*> tables;
+    for (const SummaryReader& reader : m_readers)
+      tables.push_back(&reader.names());
+    return tables;
+  }
+
+ private:
+  void work(std::size_t reader) {
+    SummaryReader& own = m_readers[reader];
+    for (std::size_t next = m_next++; next < m_paths.size() && !m_watch.isCancelled; next = m_next++) {
+      ReadFile& result = m_results[next];
+      result.reader = reader;
+      try {
+        result.skipped = own.read(m_paths[next], result.game);
+      } catch (const std::exception&) { // no memory for one monstrous file
+        result.skipped = SkipReason::Unreadable;
+      }
+      ++m_watch.filesRead;
+    }
+  }
+
+  const std::vector<std::string>& m_paths;
+  ScanWatch& m_watch;
+  std::vector<ReadFile> m_results;
+  std::vector<SummaryReader> m_readers;
+  std::atomic<std::size_t> m_next = 0;
+};
+
+std::string_view fileName(std::string_view path) {
+  return path.substr(path.rfind('/') + 1);
+}
+
+// Places of the files that hold listed games, in the season's order.
+std::vector<std::size_t> seasonOrder(const std::vector<ReadFile>& files) {
+  std::vector<std::size_t> order;
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    if (!files[i].skipped)
+      order.push_back(i);
+  }
+  const auto key = [&files](std::size_t i) {
+    const ListedGame& game = files[i].game;
+    return std::tuple(game.day.value_or(std::numeric_limits<int>::max()), fileName(game.path),
+                      std::string_view(game.path));
+  };
+  std::ranges::sort(order, std::less(), key);
+  return order;
+}
+
+} // namespace
+
+ScanOutcome GameCatalogue::scan(const ScanRequest& request, ScanWatch& watch) {
+  FoundGames found = findGames(m_files, request, watch);
+  if (found.outcome != ScanOutcome::Done)
+    return found.outcome;
+
+  constexpr unsigned kMostThreads = 16;
+  ParallelReading reading(m_files, std::clamp(request.threads, 1U, kMostThreads), found.paths, watch);
+  reading.run();
+  if (watch.isCancelled)
+    return ScanOutcome::Cancelled;
+
+  std::vector<ReadFile>& files = reading.results();
+  CatalogueMerger merger(reading.names());
+  for (const std::size_t i : seasonOrder(files))
+    merger.add(std::move(files[i].game), files[i].reader);
+  Content content = std::move(merger).finish();
+  content.folder = request.folder;
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    if (files[i].skipped)
+      content.skipped.push_back({found.paths[i], *files[i].skipped});
+  }
+  for (std::string& path : found.unreadablePaths)
+    content.skipped.push_back({std::move(path), SkipReason::Unreadable});
+  std::ranges::sort(content.skipped, std::less(), &SkippedFile::path);
+  m_content = std::move(content);
+  return ScanOutcome::Done;
+}
+
+std::optional<SeasonId> GameCatalogue::teamOf(std::string_view key) const {
+  const auto found = std::ranges::find(m_content.teams, key, &SeasonTeam::key);
+  if (found == m_content.teams.end())
+    return std::nullopt;
+  return static_cast<SeasonId>(found - m_content.teams.begin());
+}
+
+std::size_t GameCatalogue::copies() const {
+  return static_cast<std::size_t>(
+      std::ranges::count_if(m_content.games, [](const ListedGame& game) { return game.copyOf.has_value(); }));
+}
+
+std::vector<std::size_t> GameCatalogue::select(const GameCriteria& criteria) const {
+  const std::optional<SeasonId> team = teamOf(criteria.team);
+  const auto accepts = [&](const ListedGame& game) {
+    if (!criteria.team.empty()) {
+      const bool isAway = game.team[0] == team;
+      const bool isHome = game.team[1] == team;
+      const bool isWanted = criteria.where == GameCriteria::Where::Away   ? isAway
+                            : criteria.where == GameCriteria::Where::Home ? isHome
+                                                                          : isAway || isHome;
+      if (!isWanted)
+        return false;
+    }
+    if (criteria.fromDay || criteria.toDay) {
+      if (!game.day || (criteria.fromDay && *game.day < *criteria.fromDay) ||
+          (criteria.toDay && *game.day > *criteria.toDay))
+        return false;
+    }
+    return (!criteria.type || game.type == *criteria.type) &&
+           (!criteria.input || game.input == *criteria.input);
+  };
+  std::vector<bool> isCounted(m_content.games.size()); // the game, whichever of its files it was
+  std::vector<std::size_t> selected;
+  for (std::size_t i = 0; i < m_content.games.size(); ++i) {
+    const ListedGame& game = m_content.games[i];
+    const std::size_t first = game.copyOf.value_or(i);
+    if (!accepts(game) || (criteria.countsCopiesOnce && isCounted[first]))
+      continue;
+    isCounted[first] = true;
+    selected.push_back(i);
+  }
+  return selected;
+}
+
+} // namespace hooptab

@@ -1,0 +1,114 @@
+// The finished games of a folder, and who played in them: scanned once, then narrowed by criteria as often as
+// the user likes. A scan may run on another thread than the one that watches it; the catalogue itself belongs
+// to one thread at a time. Sums nothing (SeasonStatistics does) and shows nothing.
+#pragma once
+
+#include "season/ListedGame.h"
+#include "storage/FileSystem.h"
+
+#include <atomic>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace hooptab {
+
+// A team is its abbreviation and category.
+struct SeasonTeam {
+  std::string key;          // "LYNX-AAA"
+  std::string abbreviation; // "LYNX"
+  std::string name;         // full name in the earliest game that has one, else the key
+};
+// A player is his team, jersey and name, without regard to case; 5 and 05 are one jersey, 0 and 00 two.
+struct SeasonPlayer {
+  SeasonId team = kNobody;
+  std::string number; // jersey as in his earliest game
+  std::string name;
+};
+// A line is its team and its set of jerseys.
+struct SeasonLine {
+  SeasonId team = kNobody;
+  std::string list; // IN-04-05-10-12-15, as on-court lists write it
+  std::string name; // "4-5-10-12-15"
+};
+
+enum class SkipReason : std::uint8_t {
+  NotFinished,  // being recorded, or left before its end
+  OtherVersion, // no game of ours
+  Unreadable,   // rights, a damaged disk
+  TooLarge,
+  Vanished, // removed while the folder was scanned
+};
+struct SkippedFile {
+  std::string path;
+  SkipReason reason = SkipReason::Unreadable;
+};
+
+struct ScanRequest {
+  std::string folder;
+  bool withSubfolders = false; // each folder once, wherever links lead
+  unsigned threads = 2;        // the result does not depend on it
+};
+// Seen by both threads while a scan runs: how far it is, and whether it should stop.
+struct ScanWatch {
+  std::atomic<std::size_t> filesFound = 0;
+  std::atomic<std::size_t> filesRead = 0;
+  std::atomic<bool> isCancelled = false;
+};
+enum class ScanOutcome : std::uint8_t { Done, Cancelled, FolderMissing, FolderUnreadable };
+
+// What is left empty accepts every game.
+struct GameCriteria {
+  enum class Where : std::uint8_t { Anywhere, Home, Away };
+
+  std::string team; // its key: games of either side
+  // Inclusive. With either of them, games without a valid date are left out.
+  std::optional<int> fromDay, toDay;
+  std::optional<int> type;
+  Where where = Where::Anywhere; // of the team; without a team it accepts all
+  std::optional<InputKind> input;
+  bool countsCopiesOnce = false; // of several files of one game only the first
+};
+
+class GameCatalogue {
+ public:
+  explicit GameCatalogue(FileSystem& files) : m_files(files) {}
+
+  // Reads the finished games of a folder (*.GAM in any letter case). Whatever it held before is replaced,
+  // unless the scan was cancelled or the folder could not be listed.
+  [[nodiscard]] ScanOutcome scan(const ScanRequest& request, ScanWatch& watch);
+
+  const std::string& folder() const { return m_content.folder; }
+  // In order of date, then file name; games without a valid date last.
+  std::span<const ListedGame> games() const { return m_content.games; }
+  // Files that could not be listed, and games that are not finished; in order of path.
+  std::span<const SkippedFile> skipped() const { return m_content.skipped; }
+  // In order of first appearance in games().
+  std::span<const SeasonTeam> teams() const { return m_content.teams; }
+  std::span<const SeasonPlayer> players() const { return m_content.players; }
+  std::span<const SeasonLine> lines() const { return m_content.lines; }
+
+  [[nodiscard]] std::optional<SeasonId> teamOf(std::string_view key) const;
+  // How many listed files are copies of another listed one.
+  [[nodiscard]] std::size_t copies() const;
+  // Places in games(), ascending.
+  [[nodiscard]] std::vector<std::size_t> select(const GameCriteria& criteria) const;
+
+  struct Content {
+    std::string folder;
+    std::vector<ListedGame> games;
+    std::vector<SkippedFile> skipped;
+    std::vector<SeasonTeam> teams;
+    std::vector<SeasonPlayer> players;
+    std::vector<SeasonLine> lines;
+  };
+
+ private:
+  FileSystem& m_files;
+  Content m_content;
+};
+
+} // namespace hooptab

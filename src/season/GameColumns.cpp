@@ -1,0 +1,198 @@
+#include "season/GameColumns.h"
+
+#include "storage/ChoiceTexts.h"
+
+#include <array>
+#include <limits>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTextLocation = 1016;
+constexpr int kTextWin = 1195;
+constexpr int kTextLoss = 1196;
+constexpr int kTextTie = 1197;
+constexpr int kTextOpponent = 1198;
+constexpr int kTextWhere = 1199;
+constexpr int kTextHome = 1200;
+constexpr int kTextAway = 1201;
+constexpr int kTextResults = 1202;
+constexpr int kTextManual = 1271;
+constexpr int kTextLive = 1272;
+constexpr int kTextLiveWithoutTime = 1302;
+constexpr int kTextInput = 1303;
+
+enum Column {
+  Date = 1,
+  Type,
+  Result,
+  Visitor,
+  VisitorPoints,
+  Home,
+  HomePoints,
+  Input,
+  Location,
+  File,
+  TeamIds,
+  VisitorWin,
+  VisitorLead,
+  Tie,
+  TiedTime,
+  HomeWin,
+  HomeLead,
+};
+
+constexpr std::array<GameColumn, kGameColumnCount> kColumns = {{
+    {Date, "Date", 0, 2558, true},
+    {Type, "Type", 0, 2205, false},
+    {Result, {}, kTextResults, 1764, false},
+    {Visitor, {}, kTextAway, 3881, true},
+    {VisitorPoints, "PTS", 0, 1058, false},
+    {Home, {}, kTextHome, 3881, true},
+    {HomePoints, "PTS", 0, 1058, false},
+    {Input, {}, kTextInput, 1764, false},
+    {Location, {}, kTextLocation, 6174, true},
+    {File, "GAMEFILE", 0, 0, true},
+    {TeamIds, "TEAMID", 0, 0, true},
+    {VisitorWin, "Vis", 0, 0, false},
+    {VisitorLead, "Temps", 0, 0, false},
+    {Tie, "Tie", 0, 0, false},
+    {TiedTime, "Temps", 0, 0, false},
+    {HomeWin, "Rec", 0, 0, false},
+    {HomeLead, "Temps", 0, 0, false},
+}};
+
+std::string_view inputText(InputKind input, const Texts& texts) {
+  switch (input) {
+  case InputKind::Live: return texts.text(kTextLive);
+  case InputKind::LiveWithoutTime: return texts.text(kTextLiveWithoutTime);
+  case InputKind::Manual: return texts.text(kTextManual);
+  case InputKind::Other: break;
+  }
+  return {};
+}
+
+std::string resultFor(const GameCatalogue& catalogue, const ListedGame& game,
+                      std::optional<SeasonId> chosenTeam, const Texts& texts) {
+  if (chosenTeam) {
+    for (const int side : {0, 1}) {
+      if (game.team[side] == *chosenTeam)
+        return resultText(game, side, texts);
+    }
+    return {};
+  }
+  const std::optional<int> winner = game.winner();
+  return winner ? catalogue.teams()[game.team[*winner]].abbreviation : std::string(texts.text(kTextTie));
+}
+
+// The number of a column that has one.
+int numberOf(const ListedGame& game, int column) {
+  switch (column) {
+  case VisitorPoints: return game.points[0];
+  case HomePoints: return game.points[1];
+  case VisitorWin: return game.winner() == 0 ? 1 : 0;
+  case VisitorLead: return game.leadSeconds[0];
+  case Tie: return game.winner() ? 0 : 1;
+  case TiedTime: return game.leadSeconds[2];
+  case HomeWin: return game.winner() == 1 ? 1 : 0;
+  case HomeLead: return game.leadSeconds[1];
+  default: return 0;
+  }
+}
+
+double daySortValue(const ListedGame& game) {
+  return game.day ? *game.day : std::numeric_limits<int>::max();
+}
+
+} // namespace
+
+std::span<const GameColumn, kGameColumnCount> gameColumns() {
+  return kColumns;
+}
+
+std::string gameCell(const GameCatalogue& catalogue, const ListedGame& game, int column,
+                     std::optional<SeasonId> chosenTeam, const Texts& texts) {
+  switch (column) {
+  case Date: return game.date;
+  case Type: return std::string(choiceName(kFirstGameTypeText, game.type, texts));
+  case Result: return resultFor(catalogue, game, chosenTeam, texts);
+  case Visitor: return catalogue.teams()[game.team[0]].name;
+  case Home: return catalogue.teams()[game.team[1]].name;
+  case Input: return std::string(inputText(game.input, texts));
+  case Location: return game.place;
+  case File: return game.path;
+  case TeamIds: return std::to_string(game.teamNumber[0]) + "-" + std::to_string(game.teamNumber[1]);
+  default: return std::to_string(numberOf(game, column));
+  }
+}
+
+double gameSortValue(const ListedGame& game, int column) {
+  return column == Date ? daySortValue(game) : numberOf(game, column);
+}
+
+bool gameColumnIsText(int column) {
+  switch (column) {
+  case Type:
+  case Result:
+  case Visitor:
+  case Home:
+  case Input:
+  case Location:
+  case File:
+  case TeamIds: return true;
+  default: return false;
+  }
+}
+
+std::string resultText(const ListedGame& game, int side, const Texts& texts) {
+  const std::optional<int> winner = game.winner();
+  const int text = !winner ? kTextTie : *winner == side ? kTextWin : kTextLoss;
+  return std::string(texts.text(text)) + " " + std::to_string(game.points[side]) + "-" +
+         std::to_string(game.points[1 - side]);
+}
+
+SeasonRow rowOfResult(const GameResult& result) {
+  SeasonRow row;
+  row.games = 1;
+  row.numbers = result.numbers;
+  return row;
+}
+
+int seasonColumnOfResult(int column) {
+  if (column <= kResultOpponentColumn)
+    return 0;
+  return column == kResultOpponentColumn + 1 ? kTimeColumn : column - 1;
+}
+
+std::string resultHeader(int column, const Texts& texts) {
+  switch (column) {
+  case 1: return "Date";
+  case 2: return std::string(texts.text(kTextWhere));
+  case 3: return std::string(texts.text(kTextResults));
+  case kResultOpponentColumn: return std::string(texts.text(kTextOpponent));
+  default: break;
+  }
+  const SeasonColumn& shared = seasonColumn(seasonColumnOfResult(column));
+  return std::string(shared.headerText != 0 ? texts.text(shared.headerText) : shared.header);
+}
+
+std::string resultCell(const GameCatalogue& catalogue, const GameResult& result, int column,
+                       const Texts& texts) {
+  const ListedGame& game = catalogue.games()[result.game];
+  switch (column) {
+  case 1: return game.date;
+  case 2: return std::string(texts.text(result.side == 0 ? kTextAway : kTextHome));
+  case 3: return resultText(game, result.side, texts);
+  case kResultOpponentColumn: return catalogue.teams()[game.team[1 - result.side]].name;
+  default: return seasonCell(rowOfResult(result), seasonColumnOfResult(column), SeasonView::Totals, texts);
+  }
+}
+
+double resultSortValue(const GameCatalogue& catalogue, const GameResult& result, int column) {
+  if (column <= kResultOpponentColumn)
+    return daySortValue(catalogue.games()[result.game]);
+  return seasonSortValue(rowOfResult(result), seasonColumnOfResult(column), SeasonView::Totals);
+}
+
+} // namespace hooptab

@@ -1,0 +1,38 @@
+// The leaders of a season: the first ten of each statistic, in totals, per game or per minute. Compares exact
+// averages, not the rounded ones that are shown.
+#pragma once
+
+#include "season/SeasonColumns.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+struct Leader {
+  int rank = 0; // equal values share one: 1, 1, 3
+  const SeasonRow* row = nullptr;
+  std::string value; // as the table shows it
+};
+struct StatisticLeaders {
+  int column = 0; // of the season tables
+  std::vector<Leader> leaders;
+};
+
+class Leaders {
+ public:
+  static constexpr std::size_t kShown = 10; // more when the tenth is tied
+
+  // `rows` must outlive the leaders. Only values above 0 lead; rows without time lead nothing per minute.
+  // Equal values are ordered by fewer games, then by name.
+  Leaders(std::span<const SeasonRow> rows, SeasonView view, const Texts& texts);
+
+  // One entry for each statistic, in the order of the columns, those that nobody leads included.
+  std::span<const StatisticLeaders> statistics() const { return m_statistics; }
+
+ private:
+  std::vector<StatisticLeaders> m_statistics;
+};
+
+} // namespace hooptab

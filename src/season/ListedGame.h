@@ -1,0 +1,68 @@
+// What a season keeps of a game: its details, its result, and the counters of each player and line. Events
+// are not kept; thousands of games fit in memory so. Plain values, filled by SummaryReader.
+#pragma once
+
+#include "storage/GameState.h"
+
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+// Place in one of the catalogue's tables: teams, players or lines.
+using SeasonId = std::uint32_t;
+inline constexpr SeasonId kNobody = std::numeric_limits<SeasonId>::max();
+
+// A player or a line in one game. Players who have no row of their own in a game ("others") are one row with
+// the id kNobody, so that the rows of a side add up to the team.
+struct GameRow {
+  SeasonId id = kNobody;
+  std::int32_t seconds = 0; // not below 0
+  Counters counters;
+  std::uint8_t side = 0;     // 0 visiting, 1 home
+  std::uint8_t position = 9; // players: index of the position, 9 none
+};
+
+// A two- or three-point field goal for the season's shot chart. Places are whole court units, those outside
+// the court at its edge.
+struct SeasonShot {
+  std::uint8_t x = 0, y = 0;
+  std::uint8_t player = 0; // place in the game's `players`
+  bool isThree : 1 = false;
+  bool isMade : 1 = false;
+  bool hasPlace : 1 = false;
+};
+
+enum class InputKind : std::uint8_t { Live, LiveWithoutTime, Manual, Other };
+
+struct ListedGame {
+  std::string path;
+  std::string date;       // as the file has it
+  std::optional<int> day; // of a valid date, see calendarDay()
+  std::string place;
+  int type = 0; // index of the game type
+  InputKind input = InputKind::Live;
+  SeasonId team[2] = {kNobody, kNobody};
+  int teamNumber[2] = {}; // the teams' identifiers in the settings of whoever recorded the game
+  int points[2] = {};
+  std::array<std::int32_t, 3> leadSeconds = {}; // team 0 ahead, team 1 ahead, tied; not below 0
+  std::uint64_t fingerprint = 0;                // of its events; 0 without any
+  std::optional<std::size_t> copyOf; // the first listed game of the same date, teams and events, if not this
+  std::string outOfRange;            // "PAN 12 PF": the count that stays at its limit; usually empty
+  std::vector<GameRow> players;      // those who were on court or have any count
+  std::vector<GameRow> lines;        // those that played a second or have any count
+  std::vector<SeasonShot> shots;
+
+  // The side that won, nothing for a tie.
+  [[nodiscard]] std::optional<int> winner() const {
+    if (points[0] == points[1])
+      return std::nullopt;
+    return points[0] > points[1] ? 0 : 1;
+  }
+};
+
+} // namespace hooptab

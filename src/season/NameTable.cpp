@@ -1,0 +1,73 @@
+#include "season/NameTable.h"
+
+#include "season/Jersey.h"
+#include "storage/Module1.h"
+
+namespace hooptab {
+
+namespace {
+
+// Codes below are numbers of jerseys themselves.
+constexpr NameTable::JerseyCode kFirstOtherCode = 1000;
+
+template <class Ids, class Value>
+SeasonId idOf(Ids& ids, std::string_view key, std::vector<Value>& values, auto&& makeValue) {
+  const auto found = ids.find(key);
+  if (found != ids.end())
+    return found->second;
+  const auto id = static_cast<SeasonId>(values.size());
+  values.push_back(makeValue());
+  ids.emplace(std::string(key), id);
+  return id;
+}
+
+} // namespace
+
+std::size_t NameTable::LineHash::operator()(const LineKey& key) const {
+  constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15U;
+  std::uint64_t hash = key.team + key.count;
+  for (const JerseyCode jersey : key.jerseys)
+    hash = (hash ^ jersey) * kFactor;
+  return static_cast<std::size_t>(hash ^ (hash >> 32U));
+}
+
+SeasonId NameTable::team(const GameDetails& details, std::size_t side) {
+  const std::string& abbreviation = details.abbreviation[side];
+  const std::string& category = details.category[side];
+  const std::string& name = details.name[side];
+  // No text of a file holds a line break.
+  m_key.assign(abbreviation).append("\n").append(category).append("\n").append(name);
+  return idOf(m_teamIds, m_key, m_teams, [&] { return Team{abbreviation, category, name}; });
+}
+
+SeasonId NameTable::player(SeasonId team, std::string_view jersey, std::string_view name) {
+  m_key.assign(reinterpret_cast<const char*>(&team), sizeof team);
+  m_key.append(jersey).append("\n").append(name);
+  return idOf(m_playerIds, m_key, m_players, [&] {
+    return Player{team, std::string(jersey), std::string(name)};
+  });
+}
+
+NameTable::JerseyCode NameTable::jerseyCode(std::string_view jersey) {
+  const int number = Module1::wholeNumber(jersey);
+  if (number > 0 ? number < static_cast<int>(kFirstOtherCode) : jersey == "0")
+    return static_cast<JerseyCode>(number);
+  const std::string canonical = canonicalJersey(jersey);
+  return kFirstOtherCode + idOf(m_jerseyCodes, canonical, m_jerseys, [&] { return canonical; });
+}
+
+SeasonId NameTable::line(const LineKey& key) {
+  const auto [place, isNew] = m_lineIds.try_emplace(key, static_cast<SeasonId>(m_lines.size()));
+  if (isNew) {
+    Line line{key.team, {}};
+    for (std::uint32_t i = 0; i < key.count; ++i) {
+      const JerseyCode code = key.jerseys[i];
+      line.jerseys.push_back(code < kFirstOtherCode ? std::to_string(code)
+                                                    : m_jerseys[code - kFirstOtherCode]);
+    }
+    m_lines.push_back(std::move(line));
+  }
+  return place->second;
+}
+
+} // namespace hooptab

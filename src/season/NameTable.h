@@ -1,0 +1,70 @@
+// Gives each team, player and line that a reader of games meets a small number, so that a game's counters
+// carry numbers instead of names. Compares texts exactly: which of them are the same team, player or line
+// over a season is decided once for each distinct text, by the catalogue, and not once for each game.
+#pragma once
+
+#include "season/ListedGame.h"
+#include "storage/GameDetails.h"
+
+#include <array>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace hooptab {
+
+class NameTable {
+ public:
+  struct Team {
+    std::string abbreviation, category, name;
+  };
+  struct Player {
+    SeasonId team;
+    std::string jersey, name; // as the roster has them
+  };
+  struct Line {
+    SeasonId team;
+    std::vector<std::string> jerseys; // canonical, in no order
+  };
+
+  SeasonId team(const GameDetails& details, std::size_t side);
+  SeasonId player(SeasonId team, std::string_view jersey, std::string_view name);
+
+  // A jersey as a number: equal for jerseys that are the same one.
+  using JerseyCode = std::uint32_t;
+  JerseyCode jerseyCode(std::string_view jersey);
+  // Of at most five, ascending.
+  struct LineKey {
+    SeasonId team = kNobody;
+    std::array<JerseyCode, 5> jerseys = {};
+    std::uint32_t count = 0;
+    friend bool operator==(const LineKey&, const LineKey&) = default;
+  };
+  SeasonId line(const LineKey& key);
+
+  const std::vector<Team>& teams() const { return m_teams; }
+  const std::vector<Player>& players() const { return m_players; }
+  const std::vector<Line>& lines() const { return m_lines; }
+
+ private:
+  struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+  };
+  struct LineHash {
+    std::size_t operator()(const LineKey& key) const;
+  };
+  using TextIds = std::unordered_map<std::string, SeasonId, TextHash, std::equal_to<>>;
+
+  std::vector<Team> m_teams;
+  std::vector<Player> m_players;
+  std::vector<Line> m_lines;
+  std::vector<std::string> m_jerseys; // canonical; by code less kFirstOtherCode
+  TextIds m_teamIds, m_playerIds, m_jerseyCodes;
+  std::unordered_map<LineKey, SeasonId, LineHash> m_lineIds;
+  std::string m_key; // kept for its memory
+};
+
+} // namespace hooptab

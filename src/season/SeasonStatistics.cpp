@@ -1,0 +1,133 @@
+#include "season/SeasonStatistics.h"
+
+#include <algorithm>
+#include <limits>
+#include <tuple>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::size_t kNoGame = std::numeric_limits<std::size_t>::max();
+
+void addTo(BoxNumbers& sum, const GameRow& row) {
+  sum.counters += row.counters;
+  sum.seconds += row.seconds;
+}
+
+// Unequal for any two rows, so that the order is one.
+auto rankKey(const SeasonRow& row) {
+  return std::tuple(-row.numbers.points(), -row.numbers.rating(), std::string_view(row.name), row.id);
+}
+
+} // namespace
+
+SeasonStatistics::SeasonStatistics(const GameCatalogue& catalogue, std::vector<std::size_t> games,
+                                   const Shown& shown)
+    : m_catalogue(&catalogue), m_games(std::move(games)) {
+  const std::optional<SeasonId> team = catalogue.teamOf(shown.team);
+  if (!shown.team.empty() && !team)
+    return; // nobody's rows
+  sumTeams(team);
+  m_players = sumRows(&ListedGame::players, catalogue.players().size(), team);
+  m_lines = sumRows(&ListedGame::lines, catalogue.lines().size(), team);
+  for (SeasonRow& row : m_players) {
+    const SeasonPlayer& player = catalogue.players()[row.id];
+    row.team = player.team;
+    row.number = player.number;
+    row.name = player.name;
+  }
+  if (shown.position)
+    std::erase_if(m_players, [&](const SeasonRow& row) { return row.positions.back() != *shown.position; });
+  std::vector<int> linesOfTeam(catalogue.teams().size());
+  for (SeasonRow& row : m_lines) {
+    const SeasonLine& line = catalogue.lines()[row.id];
+    row.team = line.team;
+    row.number = std::to_string(++linesOfTeam[line.team]);
+    row.name = line.name;
+  }
+  for (std::vector<SeasonRow>* rows : {&m_players, &m_lines}) {
+    std::ranges::sort(*rows, std::less(), rankKey);
+    int rank = 0;
+    for (SeasonRow& row : *rows)
+      row.rank = ++rank;
+  }
+}
+
+void SeasonStatistics::sumTeams(std::optional<SeasonId> shownTeam) {
+  std::vector<SeasonTeamRow> sums(m_catalogue->teams().size());
+  std::vector<std::size_t> lastGame(sums.size(), kNoGame);
+  for (const std::size_t index : m_games) {
+    const ListedGame& game = m_catalogue->games()[index];
+    for (const int side : {0, 1}) {
+      SeasonTeamRow& sum = sums[game.team[side]];
+      sum.games += lastGame[game.team[side]] == index ? 0 : 1; // a team that plays itself plays one game
+      lastGame[game.team[side]] = index;
+      sum.pointsFor += game.points[side];
+      sum.pointsAgainst += game.points[1 - side];
+      const std::optional<int> winner = game.winner();
+      ++(!winner ? sum.ties : *winner == side ? sum.wins : sum.losses);
+    }
+    for (const GameRow& row : game.players)
+      addTo(sums[game.team[row.side]].numbers, row);
+  }
+  for (std::size_t i = 0; i < sums.size(); ++i) {
+    sums[i].team = static_cast<SeasonId>(i);
+    if (sums[i].games > 0 && (!shownTeam || *shownTeam == i))
+      m_teams.push_back(std::move(sums[i]));
+  }
+}
+
+// In order of first appearance; names are the caller's.
+std::vector<SeasonRow> SeasonStatistics::sumRows(Rows rows, std::size_t ids,
+                                                 std::optional<SeasonId> shownTeam) const {
+  constexpr std::size_t kNoRow = std::numeric_limits<std::size_t>::max();
+  std::vector<std::size_t> place(ids, kNoRow);
+  std::vector<std::size_t> lastGame;
+  std::vector<SeasonRow> sums;
+  for (const std::size_t index : m_games) {
+    const ListedGame& game = m_catalogue->games()[index];
+    for (const GameRow& row : game.*rows) {
+      if (row.id == kNobody || (shownTeam && game.team[row.side] != *shownTeam))
+        continue;
+      if (place[row.id] == kNoRow) {
+        place[row.id] = sums.size();
+        sums.emplace_back().id = row.id;
+        lastGame.push_back(kNoGame);
+      }
+      const std::size_t at = place[row.id];
+      SeasonRow& sum = sums[at];
+      addTo(sum.numbers, row);
+      if (lastGame[at] != index) // 5 and 05 of one name are one player, also in one game
+        ++sum.games;
+      lastGame[at] = index;
+      if (sum.positions.empty() || sum.positions.back() != row.position)
+        sum.positions.push_back(row.position);
+    }
+  }
+  return sums;
+}
+
+std::vector<GameResult> SeasonStatistics::resultsOfPlayer(SeasonId player) const {
+  return resultsOf(&ListedGame::players, player);
+}
+
+std::vector<GameResult> SeasonStatistics::resultsOfLine(SeasonId line) const {
+  return resultsOf(&ListedGame::lines, line);
+}
+
+std::vector<GameResult> SeasonStatistics::resultsOf(Rows rows, SeasonId id) const {
+  std::vector<GameResult> results;
+  for (const std::size_t index : m_games) {
+    for (const GameRow& row : m_catalogue->games()[index].*rows) {
+      if (row.id != id)
+        continue;
+      if (results.empty() || results.back().game != index)
+        results.push_back({index, row.side, {}});
+      addTo(results.back().numbers, row);
+    }
+  }
+  return results;
+}
+
+} // namespace hooptab

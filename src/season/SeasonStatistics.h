@@ -1,0 +1,82 @@
+// The statistics of a season: what each player, line and team did in the selected games. Sums only; what a
+// cell shows is SeasonColumns' work. Holds numbers of its own but names through the catalogue, which must
+// outlive it and not be scanned anew meanwhile.
+#pragma once
+
+#include "scorecard/BoxScore.h"
+#include "season/GameCatalogue.h"
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+// A player or line of the season tables.
+struct SeasonRow {
+  SeasonId id = kNobody; // in the catalogue's players or lines
+  SeasonId team = kNobody;
+  std::string number; // jersey; a line's number within the table
+  std::string name;   // player's name; a line's jerseys
+  int games = 0;      // at least 1
+  BoxNumbers numbers;
+  int rank = 0;               // by points, then rating, then name; from 1
+  std::vector<int> positions; // players: one after another by date, each change once; the last is today's
+
+  // Averages of so short a time say little; they are marked where they are shown.
+  static constexpr int kShortSeconds = 10 * 60;
+  [[nodiscard]] bool isShort() const { return numbers.seconds < kShortSeconds; }
+};
+
+struct SeasonTeamRow {
+  SeasonId team = kNobody;
+  int games = 0, wins = 0, losses = 0, ties = 0;
+  int pointsFor = 0, pointsAgainst = 0;
+  BoxNumbers numbers; // all players, those without a row of their own included; seconds are theirs together
+};
+
+// What one player or line did in one game.
+struct GameResult {
+  std::size_t game = 0; // in the catalogue
+  int side = 0;
+  BoxNumbers numbers;
+};
+
+class SeasonStatistics {
+ public:
+  // Which rows are shown; what is left empty shows all.
+  struct Shown {
+    std::string team;            // its key
+    std::optional<int> position; // of players: the one in their latest selected game
+  };
+  // `games` are places in the catalogue's games, as its select() gives them.
+  SeasonStatistics(const GameCatalogue& catalogue, std::vector<std::size_t> games, const Shown& shown);
+
+  const GameCatalogue& catalogue() const { return *m_catalogue; }
+  std::span<const std::size_t> games() const { return m_games; }
+  // In order of rank.
+  std::span<const SeasonRow> players() const { return m_players; }
+  std::span<const SeasonRow> lines() const { return m_lines; }
+  // In order of first appearance.
+  std::span<const SeasonTeamRow> teams() const { return m_teams; }
+
+  // The selected games of a player or of a line, in order of date.
+  [[nodiscard]] std::vector<GameResult> resultsOfPlayer(SeasonId player) const;
+  [[nodiscard]] std::vector<GameResult> resultsOfLine(SeasonId line) const;
+
+ private:
+  using Rows = std::vector<GameRow> ListedGame::*;
+  void sumTeams(std::optional<SeasonId> shownTeam);
+  [[nodiscard]] std::vector<SeasonRow> sumRows(Rows rows, std::size_t ids,
+                                               std::optional<SeasonId> shownTeam) const;
+  [[nodiscard]] std::vector<GameResult> resultsOf(Rows rows, SeasonId id) const;
+
+  const GameCatalogue* m_catalogue;
+  std::vector<std::size_t> m_games;
+  std::vector<SeasonRow> m_players;
+  std::vector<SeasonRow> m_lines;
+  std::vector<SeasonTeamRow> m_teams;
+};
+
+} // namespace hooptab

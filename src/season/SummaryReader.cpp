@@ -1,0 +1,169 @@
+#include "season/SummaryReader.h"
+
+#include "appearance/CourtGeometry.h"
+#include "season/CalendarDay.h"
+#include "storage/AtomicFile.h"
+#include "storage/ChoiceTexts.h"
+#include "storage/Tally.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace hooptab {
+
+namespace {
+
+std::uint8_t wholePlace(float place, double limit) {
+  return static_cast<std::uint8_t>(std::clamp(static_cast<double>(place), 0.0, limit));
+}
+
+// Of the events as they stand in the file, deleted ones included: two files with equal ones are one game.
+// Eight bytes at a time, for all text of a season goes through it.
+std::uint64_t fingerprintOf(const EventList& events) {
+  constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15U;
+  std::uint64_t print = 0;
+  const auto mix = [&print](std::uint64_t word) {
+    print = (print ^ word) * kFactor;
+    print ^= print >> 29U;
+  };
+  for (const GameEvent& event : events) {
+    std::string_view rest = event.line;
+    mix((std::uint64_t{event.period} << 32U) + rest.size());
+    for (; !rest.empty(); rest.remove_prefix(std::min(rest.size(), sizeof(std::uint64_t)))) {
+      std::uint64_t word = 0;
+      std::memcpy(&word, rest.data(), std::min(rest.size(), sizeof word));
+      mix(word);
+    }
+  }
+  return print;
+}
+
+InputKind inputOf(const GameDetails& details) {
+  switch (details.inputType) {
+  case 0: return details.minutesPerPeriod > 0 ? InputKind::Live : InputKind::LiveWithoutTime;
+  case 1: return InputKind::Manual;
+  default: return InputKind::Other;
+  }
+}
+
+} // namespace
+
+std::optional<SkipReason> SummaryReader::read(const std::string& path, ListedGame& game) {
+  std::string bytes;
+  FileStamp stamp;
+  switch (readWholeFile(m_files, path, bytes, stamp)) {
+  case ReadOutcome::Absent: return SkipReason::Vanished;
+  case ReadOutcome::TooLarge: return SkipReason::TooLarge;
+  case ReadOutcome::Failed: return SkipReason::Unreadable;
+  case ReadOutcome::Read: break;
+  }
+  const ProfileText text(std::move(bytes));
+  if (text.value(kDetailsSection, "VERSION") != GameFile::kVersion)
+    return SkipReason::OtherVersion;
+  if (text.value(kDetailsSection, "TERMINE") != "1")
+    return SkipReason::NotFinished;
+
+  Game source;
+  readGame(text, source);
+  game.path = path;
+  summarise(source, game);
+  return std::nullopt;
+}
+
+void SummaryReader::summarise(const Game& source, ListedGame& game) {
+  const GameDetails& details = source.details;
+  const auto outOfRange = Tally::run(m_state, source.events, source.roster[0], source.roster[1]);
+  if (outOfRange)
+    game.outOfRange = details.abbreviation[outOfRange->team] + " " + outOfRange->what;
+  game.date = details.date;
+  game.day = calendarDay(details.date);
+  game.place = details.place;
+  game.type = details.type;
+  game.input = inputOf(details);
+  game.fingerprint = fingerprintOf(source.events);
+  for (std::size_t i = 0; i < game.leadSeconds.size(); ++i)
+    game.leadSeconds[i] = std::max(m_state.lead.seconds[i], 0);
+  const auto usedLines = static_cast<std::size_t>(m_state.usedLines[0] + m_state.usedLines[1]);
+  game.players.reserve(2 * GameState::kPlayerEntries);
+  game.lines.reserve(usedLines);
+  for (std::size_t side = 0; side < 2; ++side) {
+    game.team[side] = m_names.team(details, side);
+    game.teamNumber[side] = details.teamId[side];
+    game.points[side] = m_state.points(static_cast<int>(side));
+    addPlayers(source.roster[side], side, game);
+    addLines(source.roster[side], side, game);
+  }
+  addShots(game);
+}
+
+void SummaryReader::addPlayers(const Roster& roster, std::size_t side, ListedGame& game) {
+  for (std::size_t entry = 0; entry < GameState::kPlayerEntries; ++entry) {
+    const RosterPlayer* player = roster.player(static_cast<int>(entry));
+    const PlayerEntry& counted = m_state.players[side][entry];
+    m_codes[side][entry] = player != nullptr ? m_names.jerseyCode(player->jersey) : 0;
+    const bool wasOnCourt = player != nullptr && (m_state.wereOnCourt[side] & (1U << entry)) != 0;
+    if (!wasOnCourt && !counted.counters.hasAny())
+      continue;
+    m_rows[side][entry] = static_cast<std::uint8_t>(game.players.size());
+    GameRow& row = game.players.emplace_back();
+    row.seconds = std::max(counted.seconds, 0);
+    row.counters = counted.counters;
+    row.side = static_cast<std::uint8_t>(side);
+    if (player != nullptr) {
+      row.id = m_names.player(game.team[side], player->jersey, player->name);
+      const bool isKnown = player->position >= 0 && player->position < kChoiceCount;
+      row.position = static_cast<std::uint8_t>(isKnown ? player->position : kNoPosition);
+    }
+  }
+}
+
+void SummaryReader::addLines(const Roster& roster, std::size_t side, ListedGame& game) {
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(m_state.usedLines[side]); ++i) {
+    const LineEntry& line = m_state.lines[side][i];
+    if (line.seconds <= 0 && !line.counters.hasAny())
+      continue;
+    GameRow& row = game.lines.emplace_back();
+    row.id = m_names.line(lineKey(roster, side, i, game.team[side]));
+    row.seconds = std::max(line.seconds, 0);
+    row.counters = line.counters;
+    row.side = static_cast<std::uint8_t>(side);
+  }
+}
+
+NameTable::LineKey SummaryReader::lineKey(const Roster& roster, std::size_t side, std::size_t line,
+                                          SeasonId team) {
+  NameTable::LineKey key;
+  key.team = team;
+  const auto add = [&](NameTable::JerseyCode code) {
+    const auto end = key.jerseys.begin() + key.count;
+    if (key.count < key.jerseys.size() && std::find(key.jerseys.begin(), end, code) == end)
+      key.jerseys[key.count++] = code;
+  };
+  unsigned members = m_state.lineMembers[side][line];
+  if ((members & 1U) != 0) { // somebody is in no roster: the list tells who
+    for (const std::string_view jersey :
+         Module1::jerseysOfList(m_state.lines[side][line].list).value_or(std::vector<std::string_view>())) {
+      const int entry = roster.entryOfListed(jersey);
+      const int number = Module1::wholeNumber(jersey);
+      add(entry > 0     ? m_codes[side][static_cast<std::size_t>(entry)]
+          : number >= 0 ? m_names.jerseyCode(std::to_string(number)) // a list adds zeros in front
+                        : m_names.jerseyCode(jersey));
+    }
+  } else {
+    for (std::size_t entry = 1; entry < GameState::kPlayerEntries; ++entry) {
+      if ((members & (1U << entry)) != 0)
+        add(m_codes[side][entry]);
+    }
+  }
+  std::sort(key.jerseys.begin(), key.jerseys.begin() + key.count);
+  return key;
+}
+
+void SummaryReader::addShots(ListedGame& game) const {
+  game.shots.reserve(m_state.shots.size());
+  for (const Shot& shot : m_state.shots)
+    game.shots.push_back({wholePlace(shot.x, court::kLength), wholePlace(shot.y, court::kWidth),
+                          m_rows[shot.team][shot.player], shot.isThree, shot.isMade, shot.hasPlace});
+}
+
+} // namespace hooptab

@@ -1,0 +1,38 @@
+// Reads one game file after another into what a season keeps of it. Each thread of a scan has a reader of its
+// own; the numbers that its games carry are those of the reader's own names().
+#pragma once
+
+#include "season/GameCatalogue.h"
+#include "season/NameTable.h"
+#include "storage/GameFile.h"
+
+#include <optional>
+#include <string>
+
+namespace hooptab {
+
+class SummaryReader {
+ public:
+  explicit SummaryReader(FileSystem& files) : m_files(files) {}
+
+  // Nothing when `game` was read, else why the file is left out.
+  [[nodiscard]] std::optional<SkipReason> read(const std::string& path, ListedGame& game);
+  const NameTable& names() const { return m_names; }
+
+ private:
+  void summarise(const Game& source, ListedGame& game);
+  void addPlayers(const Roster& roster, std::size_t side, ListedGame& game);
+  void addLines(const Roster& roster, std::size_t side, ListedGame& game);
+  void addShots(ListedGame& game) const;
+  [[nodiscard]] NameTable::LineKey lineKey(const Roster& roster, std::size_t side, std::size_t line,
+                                           SeasonId team);
+
+  FileSystem& m_files;
+  NameTable m_names;
+  GameState m_state; // kept for its memory
+  // Of the game being read: each entry's jersey, and where its row stands.
+  std::array<std::array<NameTable::JerseyCode, GameState::kPlayerEntries>, 2> m_codes = {};
+  std::array<std::array<std::uint8_t, GameState::kPlayerEntries>, 2> m_rows = {};
+};
+
+} // namespace hooptab
