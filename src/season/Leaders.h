@@ -29,7 +29,8 @@ class Leaders {
   Leaders(std::span<const SeasonRow> rows, SeasonView view, const Texts& texts);
 
   // One entry for each statistic, in the order of the columns, those that nobody leads included.
-  std::span<const StatisticLeaders> statistics() const { return m_statistics; }
+  std::span<const StatisticLeaders> statistics() const& { return m_statistics; }
+  void statistics() const&& = delete; // they would be gone
 
  private:
   std::vector<StatisticLeaders> m_statistics;

@@ -134,12 +134,18 @@ NameTable::LineKey SummaryReader::lineKey(const Roster& roster, std::size_t side
                                           SeasonId team) {
   NameTable::LineKey key;
   key.team = team;
-  const auto add = [&](NameTable::JerseyCode code) {
-    const auto end = key.jerseys.begin() + key.count;
-    if (key.count < key.jerseys.size() && std::find(key.jerseys.begin(), end, code) == end)
-      key.jerseys[key.count++] = code;
+  // At its place in ascending order, once.
+  const auto add = [&key](NameTable::JerseyCode code) {
+    std::uint32_t place = 0;
+    while (place < key.count && key.jerseys[place] < code)
+      ++place;
+    if (key.count == key.jerseys.size() || (place < key.count && key.jerseys[place] == code))
+      return;
+    for (std::uint32_t i = key.count++; i > place; --i)
+      key.jerseys[i] = key.jerseys[i - 1];
+    key.jerseys[place] = code;
   };
-  unsigned members = m_state.lineMembers[side][line];
+  const unsigned members = m_state.lineMembers[side][line];
   if ((members & 1U) != 0) { // somebody is in no roster: the list tells who
     for (const std::string_view jersey :
          Module1::jerseysOfList(m_state.lines[side][line].list).value_or(std::vector<std::string_view>())) {
@@ -155,7 +161,6 @@ NameTable::LineKey SummaryReader::lineKey(const Roster& roster, std::size_t side
         add(m_codes[side][entry]);
     }
   }
-  std::sort(key.jerseys.begin(), key.jerseys.begin() + key.count);
   return key;
 }
 
