@@ -1,5 +1,9 @@
 #include "cli/Options.h"
 
+#include "season/CalendarDay.h"
+#include "storage/ChoiceTexts.h"
+#include "storage/Module1.h"
+
 #include <cstdlib>
 #include <optional>
 #include <string_view>
@@ -15,6 +19,8 @@ std::optional<CliCommand> commandOf(std::string_view word) {
     return CliCommand::Events;
   if (word == "verify")
     return CliCommand::Verify;
+  if (word == "season")
+    return CliCommand::Season;
   return std::nullopt;
 }
 
@@ -54,23 +60,57 @@ class Parser {
 
  private:
   void takeOption(std::string_view word) {
-    constexpr std::string_view kLanguage = "--lang";
     if (word == "--help" || word == "-h") {
       answer(CliCommand::Help);
     } else if (word == "--version") {
       answer(CliCommand::Version);
     } else if (word == "--json" || word == "--csv") {
-      const BoxFormat format = word == "--json" ? BoxFormat::Json : BoxFormat::Csv;
-      if (m_options.format != BoxFormat::Text && m_options.format != format)
+      const OutputFormat format = word == "--json" ? OutputFormat::Json : OutputFormat::Csv;
+      if (m_options.format != OutputFormat::Text && m_options.format != format)
         m_options.error = "--json and --csv do not go together";
       m_options.format = format;
-    } else if (word == kLanguage) {
-      setLanguage(m_next < m_words.size() ? std::string_view(m_words[m_next++]) : std::string_view());
-    } else if (word.starts_with("--lang=")) {
-      setLanguage(word.substr(kLanguage.size() + 1));
+    } else if (const auto language = valueOf(word, "--lang")) {
+      setLanguage(*language);
+    } else {
+      takeSeasonOption(word);
+    }
+  }
+  void takeSeasonOption(std::string_view word) {
+    SeasonOptions& season = m_options.season;
+    m_seasonOption = word;
+    if (word == "--subfolders") {
+      season.withSubfolders = true;
+    } else if (word == "--once") {
+      season.countsCopiesOnce = true;
+    } else if (const auto team = valueOf(word, "--team")) {
+      season.team = *team;
+      if (team->empty())
+        m_options.error = "--team needs a team, as its abbreviation and category: LYNX-AAA";
+    } else if (const auto from = valueOf(word, "--from")) {
+      setDay(season.fromDay, "--from", *from);
+    } else if (const auto to = valueOf(word, "--to")) {
+      setDay(season.toDay, "--to", *to);
+    } else if (const auto type = valueOf(word, "--type")) {
+      const int number = Module1::wholeNumber(*type);
+      if (number < 0 || number >= kChoiceCount)
+        m_options.error = "--type needs a number from 0 to 9";
+      season.type = number;
     } else {
       m_options.error = "there is no option " + std::string(word);
     }
+  }
+  void setDay(std::optional<int>& day, const std::string& option, std::string_view text) {
+    day = calendarDay(text);
+    if (!day)
+      m_options.error = option + " needs a date, yyyy-mm-dd";
+  }
+  // The value of "--option value" or "--option=value"; empty where it is missing, nothing for another option.
+  std::optional<std::string> valueOf(std::string_view word, std::string_view option) {
+    if (word == option)
+      return m_next < m_words.size() ? m_words[m_next++] : std::string();
+    if (word.starts_with(option) && word.substr(option.size()).starts_with('='))
+      return std::string(word.substr(option.size() + 1));
+    return std::nullopt;
   }
   // Help and version are given whatever else was asked for.
   void answer(CliCommand command) {
@@ -93,10 +133,13 @@ class Parser {
   void checkWhole() {
     if (!m_command)
       m_options.error = "a command is missing";
-    else if (m_options.format != BoxFormat::Text && *m_command != CliCommand::Box)
-      m_options.error = "--json and --csv go with box only";
+    else if (m_options.format != OutputFormat::Text && *m_command != CliCommand::Box &&
+             *m_command != CliCommand::Season)
+      m_options.error = "--json and --csv go with box and season only";
+    else if (!m_seasonOption.empty() && *m_command != CliCommand::Season)
+      m_options.error = m_seasonOption + " goes with season only";
     else if (m_options.files.empty())
-      m_options.error = "a file is missing";
+      m_options.error = *m_command == CliCommand::Season ? "a folder is missing" : "a file is missing";
     else if (m_options.files.size() > 1 && *m_command != CliCommand::Verify)
       m_options.error = "only verify takes more than one file";
   }
@@ -104,6 +147,7 @@ class Parser {
   const std::vector<std::string>& m_words;
   std::size_t m_next = 0;
   std::optional<CliCommand> m_command;
+  std::string m_seasonOption; // the last one met
   bool m_isAnswered = false;
   Options m_options;
 };
@@ -132,6 +176,15 @@ Commands:
     --csv            as CSV, one row a player and one a team's total
   events FILE      the events of a game in words
   verify FILE...   names what is wrong in games; a warning alone leaves a game good
+  season FOLDER    the statistics of all finished games of a folder; as tables of text, or:
+    --json           as JSON, with lines of players and leaders; the same in every language
+    --csv            as CSV, players and lines in totals, per game and per minute
+    --team ABB-CAT   only games of this team, and its own players: LYNX-AAA
+    --from, --to D   only games from and up to a date, yyyy-mm-dd
+    --type N         only games of a type: 0 practice, 1 pre-season, 2 season, 3 play-off,
+                     4 tournament, 5 exhibition, 9 other
+    --subfolders     also the games of its sub-folders
+    --once           counts a game once whose file is there twice
 
 Options:
   --lang en|fr     the language of tables and words (usually that of LANG)

@@ -4,20 +4,31 @@
 #include "storage/Texts.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace hooptab {
 
-enum class CliCommand : std::uint8_t { Box, Events, Verify, Help, Version };
-enum class BoxFormat : std::uint8_t { Text, Json, Csv };
+enum class CliCommand : std::uint8_t { Box, Events, Verify, Season, Help, Version };
+enum class OutputFormat : std::uint8_t { Text, Json, Csv };
+
+// What a season is narrowed to; empty means all.
+struct SeasonOptions {
+  std::string team; // ABB-CAT
+  std::optional<int> fromDay, toDay;
+  std::optional<int> type;
+  bool withSubfolders = false;
+  bool countsCopiesOnce = false;
+};
 
 struct Options {
   CliCommand command = CliCommand::Help;
-  BoxFormat format = BoxFormat::Text;
+  OutputFormat format = OutputFormat::Text;
   Language language = Language::English;
-  std::vector<std::string> files;
-  std::string error; // one line; empty when the command line is understood
+  SeasonOptions season;
+  std::vector<std::string> files; // for a season its folder
+  std::string error;              // one line; empty when the command line is understood
 };
 
 // `words` without the program's name. After "--" every word is a file.

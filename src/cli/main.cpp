@@ -2,6 +2,7 @@
 #include "cli/Options.h"
 #include "cli/Output.h"
 #include "cli/Reports.h"
+#include "cli/SeasonReports.h"
 #include "cli/TextTable.h"
 
 #include <algorithm>
@@ -12,6 +13,8 @@
 namespace hooptab {
 
 namespace {
+
+const std::string kOutOfRange = "a count is out of range and stays at its limit: ";
 
 enum ExitStatus { kGood = 0, kFound = 1, kWrongUse = 2 };
 
@@ -36,6 +39,7 @@ class Program {
   int run() {
     switch (m_options.command) {
     case CliCommand::Help: m_output.write(cliUsage()); break;
+    case CliCommand::Season: season(m_options.files.front()); break;
     case CliCommand::Version: m_output.write("hooptab-cli " HOOPTAB_VERSION "\n"); break;
     default:
       for (const std::string& file : m_options.files)
@@ -49,30 +53,84 @@ class Program {
   }
 
  private:
+  void fault(const std::string& text) {
+    complain(text);
+    m_status = kFound;
+  }
+  void season(const std::string& folder) {
+    const SeasonOptions& wanted = m_options.season;
+    GameCatalogue catalogue(m_files);
+    ScanWatch watch;
+    switch (catalogue.scan({folder, wanted.withSubfolders}, watch)) {
+    case ScanOutcome::FolderMissing: fault(folder + ": there is no such folder"); return;
+    case ScanOutcome::FolderUnreadable: fault(folder + ": the folder cannot be read"); return;
+    default: break;
+    }
+    if (!wanted.team.empty() && !catalogue.teamOf(wanted.team)) {
+      fault("no game of team " + wanted.team + teamsMet(catalogue));
+      return;
+    }
+    GameCriteria criteria;
+    criteria.team = wanted.team;
+    criteria.fromDay = wanted.fromDay;
+    criteria.toDay = wanted.toDay;
+    criteria.type = wanted.type;
+    criteria.countsCopiesOnce = wanted.countsCopiesOnce;
+    const SeasonStatistics statistics(catalogue, catalogue.select(criteria), {wanted.team, std::nullopt});
+    tellFaults(catalogue, statistics);
+    m_output.write(seasonReport(statistics));
+  }
+  std::string seasonReport(const SeasonStatistics& statistics) const {
+    const std::optional<SeasonId> team = statistics.catalogue().teamOf(m_options.season.team);
+    switch (m_options.format) {
+    case OutputFormat::Json: return seasonJson(statistics, team);
+    case OutputFormat::Csv: return seasonCsv(statistics, m_texts);
+    case OutputFormat::Text: break;
+    }
+    return seasonText(statistics, team, m_texts);
+  }
+  static std::string teamsMet(const GameCatalogue& catalogue) {
+    std::string text;
+    for (const SeasonTeam& team : catalogue.teams())
+      text += (text.empty() ? "; there are " : ", ") + team.key;
+    return text;
+  }
+  // A broken file never stops the rest, but it is told.
+  void tellFaults(const GameCatalogue& catalogue, const SeasonStatistics& statistics) {
+    for (const SkippedFile& skipped : catalogue.skipped()) {
+      if (skipped.reason == SkipReason::Unreadable || skipped.reason == SkipReason::TooLarge)
+        fault(skipped.path + ": " + skipReasonText(skipped.reason));
+    }
+    for (const std::size_t index : statistics.games()) {
+      const ListedGame& game = catalogue.games()[index];
+      if (!game.outOfRange.empty())
+        fault(game.path + ": " + kOutOfRange + game.outOfRange);
+      if (game.copyOf && !m_options.season.countsCopiesOnce)
+        complain(game.path + ": the same game as " + catalogue.games()[*game.copyOf].path +
+                 ", and counted again; --once counts it once");
+    }
+  }
   void show(const std::string& file) {
     Scorecard card(m_store, file);
     if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None) {
-      complain(file + ": " + explained(problem));
-      m_status = kFound;
+      fault(file + ": " + explained(problem));
       return;
     }
     if (m_options.command == CliCommand::Verify) {
       verify(card);
       return;
     }
-    if (card.outOfRange()) {
-      complain(file + ": " + tooMany(card));
-      m_status = kFound;
-    }
+    if (card.outOfRange())
+      fault(file + ": " + tooMany(card));
     m_output.write(report(card));
   }
   std::string report(const Scorecard& card) const {
     if (m_options.command == CliCommand::Events)
       return eventsText(card.game(), m_texts);
     switch (m_options.format) {
-    case BoxFormat::Json: return boxJson(card);
-    case BoxFormat::Csv: return boxCsv(card, m_texts);
-    case BoxFormat::Text: break;
+    case OutputFormat::Json: return boxJson(card);
+    case OutputFormat::Csv: return boxCsv(card, m_texts);
+    case OutputFormat::Text: break;
     }
     return boxText(card, m_texts);
   }
@@ -86,8 +144,7 @@ class Program {
   }
   static std::string tooMany(const Scorecard& card) {
     const CountOutOfRange& count = *card.outOfRange();
-    return "a count is out of range and stays at its limit: " + card.game().details.abbreviation[count.team] +
-           ' ' + count.what;
+    return kOutOfRange + card.game().details.abbreviation[count.team] + ' ' + count.what;
   }
 
   const Options& m_options;

@@ -173,8 +173,7 @@ std::string resultHeader(int column, const Texts& texts) {
   case kResultOpponentColumn: return std::string(texts.text(kTextOpponent));
   default: break;
   }
-  const SeasonColumn& shared = seasonColumn(seasonColumnOfResult(column));
-  return std::string(shared.headerText != 0 ? texts.text(shared.headerText) : shared.header);
+  return seasonHeader(seasonColumnOfResult(column), SeasonTable::Players, texts);
 }
 
 std::string resultCell(const GameCatalogue& catalogue, const GameResult& result, int column,

@@ -13,6 +13,7 @@ namespace {
 constexpr int kTextName = 1023;
 constexpr int kTextTime = 1024;
 constexpr int kTextRating = 1025;
+constexpr int kTextLine = 1026;
 constexpr int kTextGames = 1194;
 // What divides the counts of a row without time, so that its averages show as zero.
 constexpr std::int64_t kDivisorWithoutTime = 9'999'999;
@@ -168,6 +169,23 @@ std::string positionsText(const std::vector<int>& positions, const Texts& texts)
 
 std::span<const SeasonColumn, kSeasonColumnCount> seasonColumns() {
   return kShownColumns;
+}
+
+std::string seasonHeader(int column, SeasonTable table, const Texts& texts) {
+  const SeasonColumn& shown = seasonColumn(column);
+  if (column == kNameColumn && table == SeasonTable::Lines)
+    return std::string(texts.text(kTextLine));
+  return std::string(shown.headerText != 0 ? texts.text(shown.headerText) : shown.header);
+}
+
+int seasonWidthTwips(int column, SeasonTable table) {
+  constexpr int kLineNumberWidth = 750;
+  constexpr int kLineNameWidth = 3087;
+  if (table == SeasonTable::Lines && column == kNumberColumn)
+    return kLineNumberWidth;
+  if (table == SeasonTable::Lines && column == kNameColumn)
+    return kLineNameWidth;
+  return seasonColumn(column).widthTwips;
 }
 
 const SeasonColumn& seasonColumn(int index) {

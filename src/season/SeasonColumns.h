@@ -21,7 +21,7 @@ struct SeasonColumn {
   int index;
   std::string_view header; // short, the same in both languages, where headerText is 0
   int headerText;
-  int widthTwips; // of the table of players; 0: hidden
+  int widthTwips; // of the players' table; 0: hidden
   bool isLeftAligned;
   std::string_view name; // unique, for command line and export: "No", "TGM", "F2PTS", "rating"
 };
@@ -34,6 +34,10 @@ inline constexpr int kGamesColumn = 4;
 inline constexpr int kFirstCountColumn = 5; // 5 to 52 hold what was counted
 inline constexpr int kLastCountColumn = 52;
 [[nodiscard]] std::span<const SeasonColumn, kSeasonColumnCount> seasonColumns();
+enum class SeasonTable : std::uint8_t { Players, Lines };
+// Header and width differ between the two tables in the first two columns.
+[[nodiscard]] std::string seasonHeader(int column, SeasonTable table, const Texts& texts);
+[[nodiscard]] int seasonWidthTwips(int column, SeasonTable table);
 [[nodiscard]] const SeasonColumn& seasonColumn(int index);
 [[nodiscard]] const SeasonColumn& seasonColumn(std::string_view name); // a name of the table
 

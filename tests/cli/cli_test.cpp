@@ -297,6 +297,75 @@ TEST_F(Cli, VerifyNamesEachFaultWithItsFilePeriodAndEvent) {
       << overflow.output;
 }
 
+TEST_F(Cli, SeasonTellsTheSameNumbersAsTextJsonAndCsv) {
+  const std::string details = "TERMINE=1\nEQUIPE0CAT=A\nEQUIPE1CAT=A\nTYPE=2\n";
+  const std::string start = "[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=10:00,DEPART\n";
+  const std::string stop = "9=05:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n";
+  (void)game(textOfGame(start + "3=09:00,GF3,0-4\n" + stop, details + "DATE=2026-01-01\n"), "1.GAM");
+  (void)game(textOfGame(start + "3=09:00,GFG,0-4\n4=08:00,GF3,1-7\n" + stop, details + "DATE=2026-01-02\n"),
+             "2.GAM");
+  (void)game(textOfGame(start), "live.GAM");
+  const std::string folder = quoted(m_folder.path());
+
+  const Outcome text = run("season " + folder);
+  EXPECT_EQ(text.status, 0);
+  EXPECT_EQ(text.complaint, "");
+  EXPECT_TRUE(holds(text.output, "PLAYER STATISTICS FOR SELECTED GAMES")) << text.output;
+  EXPECT_TRUE(holds(text.output, "live.GAM: not finished"));
+  EXPECT_TRUE(holds(run("season --lang fr " + folder).output, "live.GAM: pas terminée"));
+
+  const Json all = Json::parse(run("season --json " + folder).output);
+  ASSERT_EQ(all["games"].array().size(), 2U);
+  EXPECT_EQ(all["games"][0]["result"].text(), "PAN");
+  EXPECT_EQ(all["games"][1]["homePoints"].integer(), 3);
+  EXPECT_EQ(all["skipped"][0]["reason"].text(), "not finished");
+  const Json& ann = all["players"][0];
+  EXPECT_EQ(ann["name"].text(), "Ann Able");
+  EXPECT_EQ(ann["games"].integer(), 2);
+  EXPECT_EQ(ann["seconds"].integer(), 600);
+  EXPECT_EQ(ann["FGM"].integer(), 1) << "counters are those of the box score";
+  EXPECT_EQ(ann["perGame"]["FGM"].text(), "1.0") << "columns are those of the season, two and three together";
+  EXPECT_EQ(ann["perGame"]["PTS"].text(), "2.5");
+  EXPECT_EQ(ann["perMinute"]["PTS"].text(), "0.50");
+  EXPECT_EQ(all["lines"][0]["line"].text(), "IN-04-05-10-12-15");
+  EXPECT_EQ(all["leaders"]["total"]["PTS"][1]["name"].text(), "Ida Ivers");
+  EXPECT_EQ(all["leaders"]["perGame"]["PTS"][1]["value"].text(), "1.5");
+  EXPECT_TRUE(all["leaders"]["perMinute"]["DKM"].array().empty());
+
+  const Json ofTeam =
+      Json::parse(run("season --json --team OLY-A --from=2026-01-02 --type 2 " + folder).output);
+  ASSERT_EQ(ofTeam["games"].array().size(), 1U);
+  EXPECT_EQ(ofTeam["games"][0]["result"].text(), "W 3-2");
+  EXPECT_EQ(ofTeam["players"].array().size(), 5U);
+
+  const std::string csv = run("season --csv " + folder).output;
+  EXPECT_EQ(linesOf(csv), 1 + 3 * (10 + 2));
+  EXPECT_TRUE(holds(csv, "\r\nplayers,perGame,PAN-A,4,Ann Able,05:00,2,0.0,0.0,2.5,1.0,1.0,100.0%,2.5,"))
+      << csv;
+}
+
+TEST_F(Cli, SeasonNamesWhatItCannotTake) {
+  const std::string folder = quoted(m_folder.path());
+  const std::string text = textOfGame("[PERIODE1]\n1=10:00,SA,0-4\n", "TERMINE=1\nEQUIPE0CAT=A\n");
+  (void)game(text, "a.GAM");
+  (void)game(text, "b.GAM");
+  const Outcome twice = run("season --json " + folder);
+  EXPECT_EQ(twice.status, 0);
+  EXPECT_TRUE(holds(twice.complaint, "b.GAM: the same game as ")) << twice.complaint;
+  const Outcome once = run("season --json --once " + folder);
+  EXPECT_EQ(once.complaint, "");
+  EXPECT_EQ(Json::parse(once.output)["games"].array().size(), 1U);
+
+  const Outcome stranger = run("season --team PAN-B " + folder);
+  EXPECT_EQ(stranger.status, 1);
+  EXPECT_TRUE(holds(stranger.complaint, "no game of team PAN-B; there are PAN-A, OLY-"))
+      << stranger.complaint;
+  EXPECT_EQ(run("season " + quoted(m_folder.path("missing"))).status, 1);
+  for (const char* wrong : {"season", "season --from yesterday .", "season --to=2026-02-30 .",
+                            "season --type x .", "season --team", "season . .", "box --once g.GAM"})
+    EXPECT_EQ(run(wrong).status, 2) << wrong;
+}
+
 TEST_F(Cli, VerifyPassesRealGamesAndNamesFaultyOnes) {
   if (sharedGames().empty())
     GTEST_SKIP() << "the folder of real games is missing: " << sharedFolder();

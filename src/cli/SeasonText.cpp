@@ -1,0 +1,152 @@
+#include "cli/SeasonReports.h"
+#include "cli/TextTable.h"
+#include "season/GameColumns.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+using Align = TextTable::Align;
+using Row = std::vector<std::string>;
+
+constexpr int kAverageGame = 1177;
+constexpr int kAverageMinute = 1179;
+constexpr int kPlayersTitle = 1180;
+constexpr int kLinesTitle = 1193;
+constexpr int kGames = 1194;
+constexpr int kWon = 1195;
+constexpr int kLost = 1196;
+constexpr int kTied = 1197;
+constexpr int kTeam = 1305;
+constexpr int kGamesTitle = 1307;
+constexpr int kTeamTitle = 1363;
+constexpr int kNotRead = 2050;
+constexpr int kFirstReason = 2051;
+constexpr int kSameGame = 2056;
+constexpr int kShortTime = 2057;
+constexpr std::string_view kShortMark = " *";
+
+// The columns that a terminal has room for.
+constexpr std::string_view kColumns[] = {"No", "Name", "Pos", "G",   "Time", "PTS",   "TGM", "TGA",
+                                         "%",  "F2M",  "F3M", "FTM", "OR",   "DR",    "TR",  "Ast",
+                                         "BS", "ST",   "TO",  "PF",  "TF",   "rating"};
+
+class SeasonText {
+ public:
+  SeasonText(const SeasonStatistics& statistics, std::optional<SeasonId> team, const Texts& texts)
+      : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_team(team), m_texts(texts) {}
+
+  std::string text() const {
+    std::string text =
+        word(kGamesTitle) + ": " + std::to_string(m_statistics.games().size()) + "\n" + gameTable();
+    if (!m_statistics.teams().empty())
+      text += "\n" + word(kTeamTitle) + "\n" + teamTable();
+    if (!m_statistics.players().empty()) {
+      text += "\n" + word(kPlayersTitle) + "\n" + table(SeasonTable::Players, SeasonView::Totals);
+      text += "\n" + word(kAverageGame) + "\n" + table(SeasonTable::Players, SeasonView::PerGame);
+      text += "\n" + word(kAverageMinute) + "\n" + table(SeasonTable::Players, SeasonView::PerMinute);
+      if (std::ranges::any_of(m_statistics.players(), &SeasonRow::isShort))
+        text += word(kShortTime) + "\n";
+    }
+    if (!m_statistics.lines().empty())
+      text += "\n" + word(kLinesTitle) + "\n" + table(SeasonTable::Lines, SeasonView::Totals);
+    return text + notRead();
+  }
+
+ private:
+  std::string word(int number) const { return std::string(m_texts.text(number)); }
+
+  std::string gameTable() const {
+    constexpr int kShown[] = {1, 2, 3, 4, 5, 6, 7};
+    TextTable table;
+    for (const int index : kShown) {
+      const GameColumn& column = gameColumns()[static_cast<std::size_t>(index - 1)];
+      const bool isNumber = !gameColumnIsText(index) && index != kShown[0];
+      table.addColumn(column.headerText != 0 ? word(column.headerText) : std::string(column.header),
+                      isNumber ? Align::Right : Align::Left);
+    }
+    table.addColumn({}, Align::Left);
+    for (const std::size_t place : m_statistics.games()) {
+      const ListedGame& game = m_catalogue.games()[place];
+      Row cells;
+      for (const int index : kShown)
+        cells.push_back(printable(gameCell(m_catalogue, game, index, m_team, m_texts)));
+      cells.push_back(
+          game.copyOf ? printable(m_texts.withPlaceholder(kSameGame, m_catalogue.games()[*game.copyOf].path))
+                      : std::string());
+      table.addRow(std::move(cells));
+    }
+    return table.text();
+  }
+
+  std::string teamTable() const {
+    TextTable table;
+    table.addColumn(word(kTeam), Align::Left);
+    for (const int text : {kGames, kWon, kLost, kTied})
+      table.addColumn(word(text), Align::Right);
+    table.addColumn("PTS", Align::Right);
+    for (const SeasonTeamRow& row : m_statistics.teams())
+      table.addRow({printable(m_catalogue.teams()[row.team].key), std::to_string(row.games),
+                    std::to_string(row.wins), std::to_string(row.losses), std::to_string(row.ties),
+                    std::to_string(row.pointsFor) + "-" + std::to_string(row.pointsAgainst)});
+    return table.text();
+  }
+
+  std::string table(SeasonTable kind, SeasonView view) const {
+    std::vector<int> columns;
+    for (const std::string_view name : kColumns) {
+      if (const int column = seasonColumn(name).index;
+          kind == SeasonTable::Players || column <= kSeasonLineColumnCount)
+        columns.push_back(column);
+    }
+    TextTable table;
+    table.addColumn(word(kTeam), Align::Left);
+    for (const int column : columns)
+      table.addColumn(seasonHeader(column, kind, m_texts),
+                      seasonColumnIsText(column) ? Align::Left : Align::Right);
+    for (const SeasonRow& row :
+         kind == SeasonTable::Players ? m_statistics.players() : m_statistics.lines()) {
+      Row cells = {printable(m_catalogue.teams()[row.team].key)};
+      for (const int column : columns) {
+        cells.push_back(printable(seasonCell(row, column, view, m_texts)));
+        if (column == kNameColumn && view == SeasonView::PerMinute && row.isShort())
+          cells.back() += kShortMark;
+      }
+      table.addRow(std::move(cells));
+    }
+    return table.text();
+  }
+
+  std::string notRead() const {
+    const std::span<const SkippedFile> files = m_catalogue.skipped();
+    if (files.empty())
+      return {};
+    std::string text = "\n" + m_texts.withPlaceholder(kNotRead, std::to_string(files.size())) + "\n";
+    for (const SkippedFile& file : files)
+      text += "  " + printable(file.path) + ": " + word(skipReasonTextNumber(file.reason)) + "\n";
+    return text;
+  }
+
+  const SeasonStatistics& m_statistics;
+  const GameCatalogue& m_catalogue;
+  std::optional<SeasonId> m_team;
+  const Texts& m_texts;
+};
+
+} // namespace
+
+std::string seasonText(const SeasonStatistics& statistics, std::optional<SeasonId> team, const Texts& texts) {
+  return SeasonText(statistics, team, texts).text();
+}
+
+int skipReasonTextNumber(SkipReason reason) {
+  return kFirstReason + static_cast<int>(reason);
+}
+
+std::string skipReasonText(SkipReason reason) {
+  return std::string(Texts().text(skipReasonTextNumber(reason), Language::English));
+}
+
+} // namespace hooptab

@@ -1,0 +1,118 @@
+// Leaders with their ties, and the records of one player over a season.
+#include "season/Leaders.h"
+#include "season/Records.h"
+#include "season/SeasonFolder.h"
+
+#include <gtest/gtest.h>
+
+using namespace hooptab;
+
+namespace {
+
+SeasonRow player(const std::string& name, int assists, int games, int seconds = 600) {
+  SeasonRow row;
+  row.name = name;
+  row.games = games;
+  row.numbers.seconds = seconds;
+  row.numbers.counters.counts[static_cast<std::size_t>(Counter::Ast)] = assists;
+  return row;
+}
+
+std::string leadersIn(std::string_view statistic, const std::vector<SeasonRow>& rows, SeasonView view) {
+  const Leaders leaders(rows, view, Texts());
+  const int column = seasonColumn(statistic).index;
+  const auto found = std::ranges::find(leaders.statistics(), column, &StatisticLeaders::column);
+  if (found == leaders.statistics().end())
+    return "no such statistic";
+  std::string text;
+  for (const Leader& leader : found->leaders)
+    text += std::to_string(leader.rank) + leader.row->name + "=" + leader.value + " ";
+  return text;
+}
+
+TEST(Leaders, EqualValuesShareARankOrderedByFewerGamesThenName) {
+  const std::vector<SeasonRow> rows = {player("Dee", 4, 2), player("Ann", 9, 3), player("Bea", 9, 2),
+                                       player("Cyd", 9, 3), player("Eve", 0, 1)};
+  EXPECT_EQ(leadersIn("Ast", rows, SeasonView::Totals), "1Bea=9 1Ann=9 1Cyd=9 4Dee=4 ");
+  EXPECT_EQ(leadersIn("Ast", rows, SeasonView::PerGame), "1Bea=4.5 2Ann=3.0 2Cyd=3.0 4Dee=2.0 ");
+}
+
+TEST(Leaders, CompareExactAveragesNotTheRoundedOnes) {
+  const std::vector<SeasonRow> rows = {player("Ann", 33, 100), player("Bea", 1, 3), player("Cyd", 2, 6)};
+  EXPECT_EQ(leadersIn("Ast", rows, SeasonView::PerGame), "1Bea=0.3 1Cyd=0.3 3Ann=0.3 ");
+}
+
+TEST(Leaders, TheFirstTenAndThoseTiedWithTheTenth) {
+  std::vector<SeasonRow> rows;
+  for (int i = 0; i < 9; ++i)
+    rows.push_back(player(std::string(1, static_cast<char>('A' + i)), 20 - i, 1));
+  for (const char* name : {"x", "y", "z"})
+    rows.push_back(player(name, 5, 1));
+  rows.push_back(player("last", 4, 1));
+  const std::string leaders = leadersIn("Ast", rows, SeasonView::Totals);
+  EXPECT_TRUE(leaders.ends_with("10x=5 10y=5 10z=5 ")) << leaders;
+}
+
+TEST(Leaders, PerMinuteNeedTimeAndNobodyLeadsInTimeThere) {
+  const std::vector<SeasonRow> rows = {player("Ann", 3, 1, 60), player("Bea", 50, 1, 0)};
+  EXPECT_EQ(leadersIn("Ast", rows, SeasonView::PerMinute), "1Ann=3.00 ");
+  EXPECT_EQ(leadersIn("Time", rows, SeasonView::PerMinute), "no such statistic");
+  EXPECT_EQ(leadersIn("Time", rows, SeasonView::Totals), "1Ann=01:00 ");
+  // A negative rating leads nothing.
+  std::vector<SeasonRow> bad = {player("Ann", 0, 1)};
+  bad[0].numbers.counters.counts[static_cast<std::size_t>(Counter::TO)] = 2;
+  EXPECT_EQ(leadersIn("rating", bad, SeasonView::Totals), "");
+}
+
+TEST(Records, KeepTheBestAndSayWhereItWasReachedLast) {
+  const std::string start = "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=10:00,DEPART\n";
+  const auto stop = [](const std::string& clock) {
+    return "99=" + clock + ",ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n";
+  };
+  SeasonFolder season;
+  season.addGame("1.GAM", "2026-01-01", start + "3=09:00,GF3,0-4\n4=09:00,STO,0-4\n" + stop("08:30"),
+                 "EQUIPE1NOM=Olympians\n");
+  season.addGame("2.GAM", "2026-01-02", start + "3=09:00,GFG,0-4\n4=09:00,GFT,0-4\n" + stop("08:30"));
+  season.addGame("3.GAM", "2026-01-03", start + "3=09:00,GFT,0-4\n" + stop("08:29"));
+  season.addGame("4.GAM", "2026-01-04", start + "3=09:00,GFG,0-5\n"); // four is on court and does nothing
+  const SeasonStatistics statistics = season.statistics();
+  const SeasonRow& ann = *rowOf(statistics.players(), "Ann Able");
+  const std::vector<GameResult> results = statistics.resultsOfPlayer(ann.id);
+  ASSERT_EQ(results.size(), 4U);
+  const Texts texts;
+  Records records;
+  std::map<std::string_view, std::string> before;
+  for (const Record& record : records.records())
+    EXPECT_EQ(record.text() + record.where, "");
+  for (const GameResult& result : results)
+    records.add(statistics.catalogue(), result, texts);
+  const auto text = [&](std::string_view what) {
+    const auto found = std::ranges::find(records.records(), what, &Record::what);
+    return std::string(found->key) + " " + found->text() + " " + found->where;
+  };
+  EXPECT_EQ(text("PT"), "R0 3 +2026-01-02 Olympians");
+  EXPECT_EQ(text("RAT"), "R1 3 2026-01-02 Olympians") << "the first had a turnover: 2";
+  EXPECT_EQ(text("TIME"), "R2 01:31 2026-01-03 Olympians");
+  EXPECT_EQ(text("Made"), "R3 2 2026-01-02 Olympians");
+  EXPECT_EQ(text("3PT"), "R6 1 2026-01-01 Olympians");
+  EXPECT_EQ(text("FT"), "R7 1 +2026-01-03 Olympians");
+  EXPECT_EQ(text("FG"), "R8 1 +2026-01-02 Olympians");
+  EXPECT_EQ(text("DK"), "R12  ");
+  EXPECT_EQ(records.records().back().key, "R21");
+
+  // The rows from which WHERE is taken.
+  std::string row;
+  for (int column = 1; column <= 8; ++column)
+    row += resultHeader(column, texts) + "=" + resultCell(statistics.catalogue(), results[1], column, texts) +
+           "|";
+  EXPECT_EQ(row, "Date=2026-01-02|Where=Away|Results=W 3-0|Opponent=Olympians|Time=01:30|PF=0|TF=0|Rat.=3|");
+  EXPECT_EQ(seasonColumnOfResult(kResultColumnCount), kLastCountColumn);
+
+  // A line's games one by one.
+  const SeasonRow& line = *rowOf(statistics.lines(), "4-5-10-12-15");
+  const std::vector<GameResult> ofLine = statistics.resultsOfLine(line.id);
+  ASSERT_EQ(ofLine.size(), 4U);
+  EXPECT_EQ(ofLine[3].numbers.points(), 2);
+}
+
+} // namespace
