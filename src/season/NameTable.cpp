@@ -3,6 +3,8 @@
 #include "season/Jersey.h"
 #include "storage/Module1.h"
 
+#include <algorithm>
+
 namespace hooptab {
 
 namespace {
@@ -23,12 +25,23 @@ SeasonId idOf(Ids& ids, std::string_view key, std::vector<Value>& values, auto&&
 
 } // namespace
 
-std::size_t NameTable::LineHash::operator()(const LineKey& key) const {
+std::size_t NameTable::slotOf(const LineKey& key) const {
   constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15U;
   std::uint64_t hash = key.team + key.count;
   for (const JerseyCode jersey : key.jerseys)
     hash = (hash ^ jersey) * kFactor;
-  return static_cast<std::size_t>(hash ^ (hash >> 32U));
+  const std::size_t mask = m_lineSlots.size() - 1;
+  std::size_t slot = static_cast<std::size_t>(hash >> 32U) & mask;
+  while (m_lineSlots[slot] != kNobody && m_lineKeys[m_lineSlots[slot]] != key)
+    slot = (slot + 1) & mask;
+  return slot;
+}
+
+void NameTable::growLineSlots() {
+  constexpr std::size_t kFirstSize = 1024; // a power of two, as every later size
+  m_lineSlots.assign(std::max(kFirstSize, m_lineSlots.size() * 2), kNobody);
+  for (std::size_t id = 0; id < m_lineKeys.size(); ++id)
+    m_lineSlots[slotOf(m_lineKeys[id])] = static_cast<SeasonId>(id);
 }
 
 SeasonId NameTable::team(const GameDetails& details, std::size_t side) {
@@ -57,8 +70,12 @@ NameTable::JerseyCode NameTable::jerseyCode(std::string_view jersey) {
 }
 
 SeasonId NameTable::line(const LineKey& key) {
-  const auto [place, isNew] = m_lineIds.try_emplace(key, static_cast<SeasonId>(m_lines.size()));
-  if (isNew) {
+  if (m_lineKeys.size() * 2 >= m_lineSlots.size())
+    growLineSlots();
+  SeasonId& id = m_lineSlots[slotOf(key)];
+  if (id == kNobody) {
+    id = static_cast<SeasonId>(m_lines.size());
+    m_lineKeys.push_back(key);
     Line line{key.team, {}};
     for (std::uint32_t i = 0; i < key.count; ++i) {
       const JerseyCode code = key.jerseys[i];
@@ -67,7 +84,7 @@ SeasonId NameTable::line(const LineKey& key) {
     }
     m_lines.push_back(std::move(line));
   }
-  return place->second;
+  return id;
 }
 
 } // namespace hooptab

@@ -53,9 +53,10 @@ class NameTable {
     using is_transparent = void;
     std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
   };
-  struct LineHash {
-    std::size_t operator()(const LineKey& key) const;
-  };
+  // Where a line's number stands in m_lineSlots, or the free place where it belongs.
+  [[nodiscard]] std::size_t slotOf(const LineKey& key) const;
+  void growLineSlots();
+
   using TextIds = std::unordered_map<std::string, SeasonId, TextHash, std::equal_to<>>;
 
   std::vector<Team> m_teams;
@@ -63,7 +64,10 @@ class NameTable {
   std::vector<Line> m_lines;
   std::vector<std::string> m_jerseys; // canonical; by code less kFirstOtherCode
   TextIds m_teamIds, m_playerIds, m_jerseyCodes;
-  std::unordered_map<LineKey, SeasonId, LineHash> m_lineIds;
+  std::vector<LineKey> m_lineKeys;
+  // Numbers of lines by hash, kNobody where free; never more than half full. A season asks for a million
+  // lines, and a table in one piece answers several times faster than a map of nodes.
+  std::vector<SeasonId> m_lineSlots;
   std::string m_key; // kept for its memory
 };
 
