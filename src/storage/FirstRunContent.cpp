@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace hooptab {
 
@@ -93,15 +94,31 @@ void add(ProfileBatch& batch, const std::string& section, std::span<const Line> 
 
 } // namespace
 
+const KeypadKeyTexts& firstKeypadKeyTexts() {
+  static const KeypadKeyTexts texts = {
+      "13-ENTER",   "8-BACK",   "109-MINUS", "107-PLUS",   "105-9-PAGEUP", "102-6-RIGHT",
+      "103-7-HOME", "104-8-UP", "98-2-DOWN", "97-1-END",   "99-3-HOME",    "110-.-DELETE",
+      "111-DIVISE", "106-MULT", "96-0-INS",  "100-4-LEFT", "101-5-CLEAR"};
+  return texts;
+}
+
 ProfileBatch firstRunContent(const Texts& texts, const std::string& folder) {
-  // A keypad key is the number of the key and, for display, its label.
-  const Line choices[] = {
-      {"LANGUE", "0"},          {"SAVEREBOUND", "False"}, {"CLOCK", "13-ENTER"}, {"OK0", "8-BACK"},
-      {"CLR", "107-PLUS"},      {"PF", "105-9-PAGEUP"},   {"TF", "102-6-RIGHT"}, {"BS", "103-7-HOME"},
-      {"ST", "104-8-UP"},       {"DR", "98-2-DOWN"},      {"OR", "97-1-END"},    {"TO", "99-3-HOME"},
-      {"A", "110-.-DELETE"},    {"IN", "111-DIVISE"},     {"OUT", "106-MULT"},   {"All", "96-0-INS"},
-      {"OK1", "109-MINUS"},     {"KEYPAD", "True"},       {"U1", "100-4-LEFT"},  {"U2", "101-5-CLEAR"},
-      {"LASTPATHGAME", folder}, {"LASTPATHBMP", folder}};
+  const auto keypadLine = [](std::size_t place) {
+    return Line{kKeypadKeys[place], firstKeypadKeyTexts()[place]};
+  };
+  constexpr std::size_t kSecondTeam = 2; // stands behind the others, as do the user's statistics
+  constexpr std::size_t kFirstOfUser = 15;
+  std::vector<Line> choices = {{"LANGUE", "0"}, {"SAVEREBOUND", "False"}};
+  for (std::size_t place = 0; place < kFirstOfUser; ++place) {
+    if (place != kSecondTeam)
+      choices.push_back(keypadLine(place));
+  }
+  choices.insert(choices.end(), {keypadLine(kSecondTeam),
+                                 {"KEYPAD", "True"},
+                                 keypadLine(kFirstOfUser),
+                                 keypadLine(kFirstOfUser + 1),
+                                 {"LASTPATHGAME", folder},
+                                 {"LASTPATHBMP", folder}});
   ProfileBatch batch;
   batch.set("CONFIGURATION", "COULEUR2PTS", std::to_string(kFirstColours.twoPoints));
   batch.set("CONFIGURATION", "COULEURBOX", std::to_string(kFirstColours.box));

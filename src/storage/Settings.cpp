@@ -126,6 +126,8 @@ void Settings::take(const std::function<std::string(std::string_view key)>& valu
   language = Texts::languageOfOffset(Module1::leadingNumber(value("LANGUE")));
   asksRebounds = Module1::flag(value("SAVEREBOUND"));
   keypadIsActive = Module1::flag(value("KEYPAD"));
+  for (std::size_t place = 0; place < kKeypadKeys.size(); ++place)
+    keypadKeyTexts[place] = value(kKeypadKeys[place]);
   lastGameFolder = existingFolder(value("LASTPATHGAME"), m_folder);
   lastScanFolder = existingFolder(value("LASTPATHBMP"), m_folder);
   webPage[0] = presentText(value("SITEEN"));
@@ -154,6 +156,16 @@ bool Settings::saveAsksRebounds(bool on) {
 bool Settings::saveKeypadIsActive(bool on) {
   keypadIsActive = on;
   return save("KEYPAD", flagText(on));
+}
+
+bool Settings::saveKeypadKeyTexts(const KeypadKeyTexts& texts) {
+  ProfileBatch batch;
+  for (std::size_t place = 0; place < kKeypadKeys.size(); ++place) {
+    if (texts[place] != keypadKeyTexts[place])
+      batch.set(kSection, kKeypadKeys[place], texts[place]);
+  }
+  keypadKeyTexts = texts;
+  return batch.operations().empty() ? retry() : save(batch);
 }
 
 bool Settings::saveLastFolders() {

@@ -7,6 +7,7 @@
 #include "storage/WriteQueue.h"
 #include "storage/cinifile.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -27,6 +28,14 @@ struct ChosenColours {
   friend bool operator==(const ChosenColours&, const ChosenColours&) = default;
 };
 inline constexpr ChosenColours kFirstColours = {9092558, 10132122, 8454143, 8421504}; // of a first start
+
+// The external keypad's keys of CONFIGURATION, in the order in which the window that binds them shows them,
+// and their values as stored: number of the key, "-", a label.
+inline constexpr std::array<const char*, 17> kKeypadKeys = {"CLOCK", "OK0", "OK1", "CLR", "PF", "TF",
+                                                            "BS",    "ST",  "DR",  "OR",  "TO", "A",
+                                                            "IN",    "OUT", "All", "U1",  "U2"};
+using KeypadKeyTexts = std::array<std::string, kKeypadKeys.size()>;
+[[nodiscard]] const KeypadKeyTexts& firstKeypadKeyTexts(); // of a first start
 
 class Settings {
  public:
@@ -56,6 +65,7 @@ class Settings {
   Language language = Language::English;
   bool asksRebounds = false;             // SAVEREBOUND
   bool keypadIsActive = false;           // KEYPAD
+  KeypadKeyTexts keypadKeyTexts;         // as stored
   std::string lastGameFolder;            // LASTPATHGAME; the program folder when it is no folder
   std::string lastScanFolder;            // LASTPATHBMP
   std::optional<std::string> webPage[2]; // SITEEN, SITEFR, when there
@@ -71,6 +81,7 @@ class Settings {
   bool saveLanguage(Language language);
   bool saveAsksRebounds(bool on);
   bool saveKeypadIsActive(bool on);
+  bool saveKeypadKeyTexts(const KeypadKeyTexts& texts); // those that differ, in one write
   bool saveLastFolders();
   // Colours and the labels of the user's statistics, with their prefix: all in one write.
   bool saveAppearance(const ChosenColours& colours, const std::string (&labels)[2]);

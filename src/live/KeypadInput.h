@@ -1,0 +1,106 @@
+// Recording by keys: what is typed on the external keypad or as a line on the main keyboard, what it will do,
+// and why nothing was recorded. Position decides: at the confirm key the last key is the action and all
+// before it the jersey. Reads the game; what it orders is carried out by whoever feeds it with keys.
+#pragma once
+
+#include "live/KeypadAssignment.h"
+#include "live/LiveGame.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+struct KeyPress {
+  int code = 0; // virtual-key code
+  bool isKeypad = true;
+  bool hasShift = false;
+};
+
+// What a confirmed input asks for.
+struct KeypadOrder {
+  enum class Kind { Shot, Action, In, Out, AllOut };
+  Kind kind = Kind::Action;
+  int team = 0;
+  int player = 0; // entry; 0 for AllOut
+  EventCode code = EventCode::Unknown;
+  bool isMade = false; // shots
+  friend bool operator==(const KeypadOrder&, const KeypadOrder&) = default;
+};
+// False when the game took none of it.
+bool carryOut(LiveGame& game, const KeypadOrder& order);
+
+// A text of the table with what stands for XXX, YYY and ZZZ.
+struct KeypadReason {
+  int text = 0;
+  std::array<std::string, 3> parts = {};
+  [[nodiscard]] std::string words(const Texts& texts) const;
+  friend bool operator==(const KeypadReason&, const KeypadReason&) = default;
+};
+
+class KeypadInput {
+ public:
+  static constexpr std::size_t kMostKeys = 8;
+
+  explicit KeypadInput(KeypadSetup setup = {}) : m_setup(std::move(setup)) {}
+  const KeypadSetup& setup() const { return m_setup; }
+  void setSetup(const KeypadSetup& setup); // what is typed is forgotten
+
+  // What a key means where a player is asked for: the same keys, but nothing is typed here.
+  enum class Meaning { None, Digit, Confirm, Clear, Clock, Other };
+  [[nodiscard]] Meaning meaningOf(const KeyPress& key) const;
+  [[nodiscard]] std::optional<int> digitOf(const KeyPress& key) const;
+  // The team of a confirm key.
+  [[nodiscard]] std::optional<int> teamOf(const KeyPress& key, const Game& game) const;
+
+  enum class Outcome {
+    NotMine, // no key of ours: whoever else may have it
+    Typed,   // or taken back
+    Cleared,
+    Clock,     // the clock is to be started or stopped; what is typed stays
+    Confirmed, // order() is to be carried out
+    Refused,   // reason() tells why nothing was recorded
+  };
+  Outcome press(const KeyPress& key, const LiveGame& game);
+  const KeypadOrder& order() const { return m_order; }
+  const std::optional<KeypadReason>& reason() const {
+    return m_reason;
+  } // of the last refusal, until the next key
+  void clear();
+
+  bool isEmpty() const { return m_typed.empty(); }
+  [[nodiscard]] std::string typed() const;
+  // What the confirm keys would do now, a line for each team that has the player; or what is missing.
+  [[nodiscard]] std::string preview(const Game& game, const Texts& texts) const;
+  // An order in words, for the message that it was recorded.
+  [[nodiscard]] static std::string words(const KeypadOrder& order, const Game& game, const Texts& texts);
+
+ private:
+  struct Key {
+    std::optional<int> digit;
+    std::optional<KeypadAction> action;
+    bool isMiss = false;
+    bool isKeypad = false;
+  };
+  struct Reading {
+    int problem = 0; // number of a text; 0 when the input makes sense
+    KeypadOrder order = {};
+    std::string jersey = {};
+  };
+  [[nodiscard]] Key keyOf(const KeyPress& press) const;
+  [[nodiscard]] bool isLine() const; // typed on the main keyboard alone
+  [[nodiscard]] Reading read(bool isLine) const;
+  [[nodiscard]] Reading readShot(std::size_t begin, std::size_t end, bool isMade) const;
+  [[nodiscard]] std::optional<std::string> digits(std::size_t begin, std::size_t end) const;
+  Outcome confirm(int team, bool isLine, const LiveGame& game);
+  Outcome refuse(KeypadReason reason);
+
+  KeypadSetup m_setup;
+  std::vector<Key> m_typed;
+  KeypadOrder m_order;
+  std::optional<KeypadReason> m_reason;
+};
+
+} // namespace hooptab
