@@ -286,40 +286,72 @@ void FollowUpBar::moveMark(int step) {
   }
 }
 
-bool FollowUpBar::ownsKey(const QKeyEvent& event) const {
+// The keys that are bound come first, but for an Enter that takes what is marked.
+FollowUpKey FollowUpBar::meaningOf(const QKeyEvent& event) const {
+  using Kind = FollowUpKey::Kind;
+  const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  if (m_readKey && !(isEnter && m_marked)) {
+    if (const auto bound = m_readKey(event))
+      return *bound;
+  }
   if ((event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != Qt::NoModifier)
+    return {};
+  if (isEnter)
+    return {Kind::Take};
+  if (event.key() == Qt::Key_Escape)
+    return {Kind::Clear};
+  return isDigit(event) ? FollowUpKey{Kind::Digit, event.key() - Qt::Key_0} : FollowUpKey{};
+}
+
+// Enter with nothing chosen is going on, as every other key is.
+bool FollowUpBar::ownsKey(const QKeyEvent& event) const {
+  const FollowUpKey meaning = meaningOf(event);
+  switch (meaning.kind) {
+  case FollowUpKey::Kind::Digit:
+  case FollowUpKey::Kind::Clear: return true;
+  case FollowUpKey::Kind::Take: return m_marked || !m_typed.empty() || meaning.team;
+  case FollowUpKey::Kind::GoOn: break;
+  }
+  if (m_readKey && m_readKey(event))
     return false;
   switch (event.key()) {
-  case Qt::Key_Escape:
-  case Qt::Key_Return:
-  case Qt::Key_Enter:
   case Qt::Key_Left:
-  case Qt::Key_Right: return true;
+  case Qt::Key_Right: return event.modifiers() == Qt::NoModifier;
   case Qt::Key_Backspace: return !m_typed.empty();
-  default: return isDigit(event);
+  default: return false;
   }
 }
 
 void FollowUpBar::takeKey(const QKeyEvent& event) {
-  switch (event.key()) {
-  case Qt::Key_Escape: dismiss(); return;
-  case Qt::Key_Return:
-  case Qt::Key_Enter:
-    if (m_marked)
-      choose(m_fitting[*m_marked].place);
-    else if (m_typed.empty())
-      dismiss();
-    return;
-  case Qt::Key_Left: moveMark(-1); return;
-  case Qt::Key_Right: moveMark(1); return;
-  case Qt::Key_Backspace:
-    if (!m_typed.empty())
-      m_typed.pop_back();
-    narrow();
-    return;
-  default: break;
+  const FollowUpKey meaning = meaningOf(event);
+  switch (meaning.kind) {
+  case FollowUpKey::Kind::Digit: return takeDigit(meaning.digit);
+  case FollowUpKey::Kind::Take: return take(meaning.team);
+  case FollowUpKey::Kind::Clear: return dismiss();
+  case FollowUpKey::Kind::GoOn: break;
   }
-  m_typed += static_cast<char>('0' + (event.key() - Qt::Key_0));
+  if (event.key() == Qt::Key_Left || event.key() == Qt::Key_Right)
+    return moveMark(event.key() == Qt::Key_Left ? -1 : 1);
+  m_typed.pop_back(); // Backspace, which is ours only where something is typed
+  narrow();
+}
+
+// What is marked, or the player of that team with the number typed; with nothing typed nobody.
+void FollowUpBar::take(std::optional<int> team) {
+  const auto isMeant = [&](const FittingJersey& fitting) {
+    return fitting.isWhole && LiveGame::teamOf(m_choices[fitting.place].slot) == team;
+  };
+  const auto found = team && !m_typed.empty() ? std::ranges::find_if(m_fitting, isMeant) : m_fitting.end();
+  if (found != m_fitting.end())
+    choose(found->place);
+  else if (m_marked)
+    choose(m_fitting[*m_marked].place);
+  else if (m_typed.empty())
+    dismiss();
+}
+
+void FollowUpBar::takeDigit(int digit) {
+  m_typed += static_cast<char>('0' + digit);
   narrow();
   if (m_fitting.size() == 1) {
     choose(m_fitting[0].place);

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +22,14 @@ namespace hooptab {
 class JerseyButton;
 class Texts;
 
+// What a key that is bound elsewhere means to the question.
+struct FollowUpKey {
+  enum class Kind { Digit, Take, Clear, GoOn };
+  Kind kind = Kind::GoOn;
+  int digit = 0;
+  std::optional<int> team = std::nullopt; // of two equal numbers Take takes the one of this team
+};
+
 class FollowUpBar : public QWidget {
   Q_OBJECT
  public:
@@ -32,6 +41,9 @@ class FollowUpBar : public QWidget {
   // "Nobody". With nobody to choose, nothing opens.
   void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int shooterTeam,
            const QPoint& globalPosition);
+  // Asked first for every key; nothing for one that means here what it always does.
+  using KeyReader = std::function<std::optional<FollowUpKey>(const QKeyEvent& event)>;
+  void setKeyReader(KeyReader reader) { m_readKey = std::move(reader); }
   bool isOpen() const { return m_isOpen; }
   void dismiss(); // as "Nobody"
 
@@ -63,13 +75,17 @@ class FollowUpBar : public QWidget {
   JerseyButton* makeButton(QWidget* form, int index);
   void offer(const LiveGame& game, JerseyButton& button, int slot);
   void nameTeam(const LiveGame& game, QLabel& band, int text, int team);
+  [[nodiscard]] FollowUpKey meaningOf(const QKeyEvent& event) const;
   bool ownsKey(const QKeyEvent& event) const;
   void takeKey(const QKeyEvent& event);
+  void takeDigit(int digit);
+  void take(std::optional<int> team);
   void narrow();
   void moveMark(int step);
   void choose(std::size_t choice);
 
   const Texts& m_texts;
+  KeyReader m_readKey;
   QWidget* m_assist = nullptr;
   QWidget* m_rebound = nullptr;
   std::array<JerseyButton*, kMates> m_mates = {};

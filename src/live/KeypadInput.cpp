@@ -179,34 +179,40 @@ KeypadInput::Outcome KeypadInput::refuse(KeypadReason reason) {
   return Outcome::Refused;
 }
 
-KeypadInput::Outcome KeypadInput::press(const KeyPress& press, const LiveGame& game) {
+// Shift makes no difference to a letter, and no key of ours of any other but the line's Enter.
+bool KeypadInput::owns(const KeyPress& press) const {
+  if (isLine() && !press.isKeypad && (press.code == keys::kEnter || press.code == keys::kBackspace))
+    return true;
+  if (press.hasShift && !keys::isLetter(press.code))
+    return false;
   const Key key = keyOf(press);
+  if (press.code == keys::kEscape && !key.action)
+    return !isEmpty() || m_reason;
+  return key.digit || key.action || key.isMiss;
+}
+
+KeypadInput::Outcome KeypadInput::press(const KeyPress& press, const LiveGame& game) {
+  if (!owns(press))
+    return Outcome::NotMine;
   if (isLine() && !press.isKeypad) {
+    const int mainTeam = game.game().details.mainTeam;
     if (press.code == keys::kEnter)
-      return confirm(press.hasShift ? 1 - game.game().details.mainTeam : game.game().details.mainTeam, true,
-                     game);
+      return confirm(press.hasShift ? 1 - mainTeam : mainTeam, true, game);
     if (press.code == keys::kBackspace) {
       m_typed.pop_back();
       m_reason.reset();
       return Outcome::Typed;
     }
   }
-  if (press.code == keys::kEscape && !key.action) {
-    if (isEmpty() && !m_reason)
-      return Outcome::NotMine;
-    clear();
-    return Outcome::Cleared;
-  }
+  const Key key = keyOf(press);
   if (key.action == KeypadAction::CLOCK)
     return Outcome::Clock;
-  if (key.action == KeypadAction::CLR) {
+  if (key.action == KeypadAction::CLR || (press.code == keys::kEscape && !key.action)) {
     clear();
     return Outcome::Cleared;
   }
   if (const auto team = teamOf(press, game.game()))
     return confirm(*team, false, game);
-  if (!key.digit && !key.action && !key.isMiss)
-    return Outcome::NotMine;
   if (m_reason) // what was refused is not gone on with: a confirm key tries again, another key begins anew
     clear();
   if (m_typed.size() == kMostKeys)
@@ -267,7 +273,7 @@ KeypadInput::Outcome KeypadInput::confirm(int team, bool isLine, const LiveGame&
   const Reading reading = read(isLine);
   if (reading.problem != 0)
     return refuse({reading.problem});
-  if (game.phase() == LiveGame::Phase::Finished)
+  if (!game.canRecord())
     return refuse({kGameIsClosed});
   const Game& shown = game.game();
   KeypadOrder order = reading.order;

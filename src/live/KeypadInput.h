@@ -48,6 +48,8 @@ class KeypadInput {
   const KeypadSetup& setup() const { return m_setup; }
   void setSetup(const KeypadSetup& setup); // what is typed is forgotten
 
+  // Whether press() has a use for it now.
+  [[nodiscard]] bool owns(const KeyPress& key) const;
   // What a key means where a player is asked for: the same keys, but nothing is typed here.
   enum class Meaning { None, Digit, Confirm, Clear, Clock, Other };
   [[nodiscard]] Meaning meaningOf(const KeyPress& key) const;

@@ -9,6 +9,7 @@
 #include "live/FollowUpBar.h"
 #include "live/JerseyButton.h"
 #include "live/LiveEventPanel.h"
+#include "live/LiveKeys.h"
 #include "live/LostStopStrip.h"
 #include "live/PlayerPanel.h"
 #include "live/ScorePanel.h"
@@ -77,6 +78,7 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
     layout->addWidget(strip);
   layout->addLayout(parts, 1);
   m_followUp = new FollowUpBar(m_texts, this);
+  m_keys = new LiveKeys(m_game, m_settings, m_texts, *m_followUp, *m_bench, *this);
   connectEverything();
 }
 
@@ -168,6 +170,12 @@ void frmLIVE::connectEverything() {
           [this](int slot, bool isOffensive) { act(slot, isOffensive ? EventCode::SOR : EventCode::SDR); });
   auto* requests = new EventRequests(m_game, *m_events, m_settings, m_texts, m_dialogs, *this);
   connect(requests, &EventRequests::gameChanged, this, &frmLIVE::showGame);
+  connect(m_keys, &LiveKeys::clockPressed, this, &frmLIVE::toggleClock);
+  connect(m_keys, &LiveKeys::recorded, this, [this](const KeypadOrder& order) {
+    showGame();
+    if (order.kind == KeypadOrder::Kind::Shot)
+      afterShot(order.team, order.player, order.code, order.isMade);
+  });
 
   // Ahead of any focused button, which Ctrl+Space presses.
   const auto onKey = [this](const QKeySequence& key, auto handler) {
@@ -202,6 +210,7 @@ frmLIVE::Opening frmLIVE::open(const QString& path) {
   m_followUp->dismiss();
   m_bench->clearSelection();
   m_lostStop->offer(LostStop::of(m_game.clockSeconds(), fileTime, QDateTime::currentSecsSinceEpoch()));
+  m_keys->forget();
   relabelWindow();
   emit commandStateChanged();
   return Opening::Opened;
@@ -325,12 +334,13 @@ void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pa
   if (m_bench->isSelected(team, m_game.playerIn(slot)))
     m_bench->clearSelection();
   showGame();
-  afterShot(slot, kind, isMade);
+  afterShot(team, m_game.playerIn(slot), kind, isMade);
 }
 
-void frmLIVE::afterShot(int slot, EventCode kind, bool isMade) {
-  const int team = LiveGame::teamOf(slot);
-  const auto followUps = m_game.followUps(team, m_game.playerIn(slot), kind, isMade, m_settings.asksRebounds);
+// Beside the shooter's panel, or the first of his team for one who is not on court.
+void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
+  const auto followUps = m_game.followUps(team, player, kind, isMade, m_settings.asksRebounds);
+  const int slot = m_game.slotOf(team, player).value_or(team * LiveGame::kSlotsOfTeam);
   PlayerPanel* panel = m_panels[static_cast<std::size_t>(slot)];
   m_followUp->ask(m_game, followUps, team, panel->mapToGlobal(QPoint(0, panel->height() / 2)));
 }
@@ -355,6 +365,15 @@ void frmLIVE::setOnCourt(const OnCourt& onCourt) {
 void frmLIVE::edit(bool (LiveGame::*step)()) {
   (m_game.*step)();
   showGame();
+}
+
+void frmLIVE::setKeypad(const KeypadSetup& setup) {
+  m_keys->setSetup(setup);
+}
+
+void frmLIVE::keypadSwitched() {
+  m_keys->forget();
+  m_keys->relabelKeys();
 }
 
 void frmLIVE::switchSides() {
@@ -391,6 +410,7 @@ void frmLIVE::relabelWindow() {
   m_score->setSides(m_isSwitched);
   m_bench->relabelPanel();
   m_events->relabelPanel();
+  m_keys->relabelKeys();
   applyColours();
   showGame();
 }

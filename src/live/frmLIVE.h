@@ -19,11 +19,13 @@ class BenchPanel;
 class Dialogs;
 class FollowUpBar;
 class LiveEventPanel;
+class LiveKeys;
 class LostStopStrip;
 class PlayerPanel;
 class ScorePanel;
 class Settings;
 class Texts;
+struct KeypadSetup;
 
 class frmLIVE : public ChildWindow {
   Q_OBJECT
@@ -40,6 +42,9 @@ class frmLIVE : public ChildWindow {
   GameFileProblem problem() const { return m_problem; } // after Problem
   QString path() const;
   bool isRunning() const { return m_game.phase() == LiveGame::Phase::Running; }
+
+  void setKeypad(const KeypadSetup& setup);
+  void keypadSwitched(); // the setting was changed
 
   void switchSides();
   void gameOver();
@@ -69,7 +74,7 @@ class frmLIVE : public ChildWindow {
   void toggleClock();
   void setOnCourt(const OnCourt& onCourt);
   void afterClock(LiveGame::Phase before);
-  void afterShot(int slot, EventCode kind, bool isMade);
+  void afterShot(int team, int player, EventCode kind, bool isMade);
   void edit(bool (LiveGame::*step)());
   void askOvertime();
   void shoot(int slot, EventCode kind, bool isMade,
@@ -99,6 +104,7 @@ class frmLIVE : public ChildWindow {
   BenchPanel* m_bench = nullptr;
   LiveEventPanel* m_events = nullptr;
   FollowUpBar* m_followUp = nullptr;
+  LiveKeys* m_keys = nullptr;
 };
 
 } // namespace hooptab

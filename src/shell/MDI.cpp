@@ -6,6 +6,7 @@
 #include "appearance/Theme.h"
 #include "appearance/frmCOULEURS.h"
 #include "appearance/relabel.h"
+#include "live/frmConfiguration.h"
 #include "live/frmLIVE.h"
 #include "scorecard/frmVIEW.h"
 #include "setup/frmNEWGAME.h"
@@ -118,6 +119,8 @@ MDI::MDI(const Workshop& workshop)
     showWhatIsUnsaved();
   });
 
+  m_keypad.keys = KeypadAssignment(m_workshop.settings.keypadKeyTexts);
+  m_keypad.take(m_workshop.memory.keyChoices());
   relabelEverything();
   restorePlace();
 }
@@ -139,6 +142,8 @@ void MDI::carryOut(const QString& key) {
     showWhatIsUnsaved();
     return showCommands();
   }
+  if (key == u"LIVEKpad")
+    return switchKeypad();
   if (frmLIVE* window = live()) {
     if (key == u"SWITCH")
       return window->switchSides();
@@ -153,6 +158,8 @@ void MDI::carryOut(const QString& key) {
     return openTeams();
   if (key == u"tbTERRAIN")
     return openColours();
+  if (key == u"tbKEYPAD")
+    return openKeys();
   if (key == u"tbLANGUE")
     return switchLanguage();
   if (key == u"AidHELP")
@@ -225,6 +232,7 @@ void MDI::openForInput(const QString& path) {
   m_workshop.memory.rememberFile(fromQt(QFileInfo(path).absoluteFilePath()));
   if (open != nullptr)
     return bringToFront(*open);
+  fresh->setKeypad(m_keypad);
   connect(fresh.get(), &frmLIVE::commandStateChanged, this, &MDI::showCommands);
   addChild(fresh.release());
 }
@@ -284,6 +292,30 @@ void MDI::openColours() {
     relabelEverything();
   });
   window.exec();
+}
+
+void MDI::openKeys() {
+  frmConfiguration window(m_keypad, m_workshop.settings, m_workshop.texts, m_workshop.dialogs, this);
+  connect(&window, &frmConfiguration::languageAsked, this, [this, &window] {
+    switchLanguage();
+    window.relabelWindow();
+  });
+  connect(&window, &frmConfiguration::applied, this, [this, &window] {
+    m_keypad = window.saved();
+    m_workshop.memory.rememberKeyChoices(m_keypad.choices());
+    if (frmLIVE* recording = live())
+      recording->setKeypad(m_keypad);
+    showWhatIsUnsaved();
+  });
+  window.exec();
+}
+
+void MDI::switchKeypad() {
+  m_workshop.settings.saveKeypadIsActive(!m_workshop.settings.keypadIsActive);
+  if (frmLIVE* recording = live())
+    recording->keypadSwitched();
+  showWhatIsUnsaved();
+  showCommands();
 }
 
 void MDI::addScorecard(frmVIEW* view) {

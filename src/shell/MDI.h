@@ -4,6 +4,7 @@
 #pragma once
 
 #include "appearance/ColourScheme.h"
+#include "live/KeypadAssignment.h"
 #include "shell/CommandState.h"
 #include "shell/DialogLanguage.h"
 #include "shell/HelpPages.h"
@@ -69,6 +70,8 @@ class MDI : public QMainWindow {
   void makeGame();
   void openTeams();
   void openColours();
+  void openKeys();
+  void switchKeypad();
   void switchLanguage();
   void switchColours(ColourScheme scheme);
   void relabelEverything();
@@ -89,6 +92,7 @@ class MDI : public QMainWindow {
 
   Workshop m_workshop;
   TeamStore m_teams;
+  KeypadSetup m_keypad; // for the live window
   QTimer m_retryOfWrites;
   DialogLanguage m_dialogLanguage;
   HelpPages m_help;

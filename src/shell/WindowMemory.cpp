@@ -112,6 +112,14 @@ void WindowMemory::rememberRefreshSeconds(int seconds) {
   write(kChoices, "REFRESH", std::to_string(seconds));
 }
 
+std::string WindowMemory::keyChoices() {
+  return value(kChoices, "KEYS");
+}
+
+void WindowMemory::rememberKeyChoices(std::string_view choices) {
+  write(kChoices, "KEYS", choices);
+}
+
 LastChoices WindowMemory::lastGame() {
   LastChoices choices;
   if (value(kLastGame, "TYPE").empty())

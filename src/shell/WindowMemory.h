@@ -34,6 +34,9 @@ class WindowMemory {
   // Seconds between automatic refreshes of a scorecard: 10, 30, 60, or 0 for none.
   [[nodiscard]] int refreshSeconds();
   void rememberRefreshSeconds(int seconds);
+  // The letters of the live window and how it tells what was recorded; empty when never chosen.
+  [[nodiscard]] std::string keyChoices();
+  void rememberKeyChoices(std::string_view choices);
   // What the next new game begins with.
   [[nodiscard]] LastChoices lastGame();
   void rememberLastGame(const LastChoices& choices);

@@ -1,0 +1,137 @@
+#include "live/KeySheet.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/KeypadPicture.h"
+#include "live/QtKeys.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTitle = 2013;
+constexpr int kOnKeypad = 2014;
+constexpr int kOnMainKeyboard = 2015;
+constexpr int kShots = 2016;
+constexpr int kKeypadForm = 2017;
+constexpr int kKeypadShot = 2018;
+constexpr int kLineForm = 2019;
+constexpr int kLineShot = 2020;
+constexpr int kShotKinds = 2021;
+constexpr int kLineKeys = 2022;
+constexpr int kFollowUps = 2023;
+constexpr int kKeypadIsOff = 2024;
+constexpr int kHowToClose = 2029;
+constexpr int kMiss = 2010;
+
+constexpr int kTitlePoints = 14;
+constexpr int kWidth = 860;
+
+QString row(const QString& left, const QString& right) {
+  return QStringLiteral("<tr><td><b>%1</b>&nbsp;&nbsp;</td><td>%2</td></tr>")
+      .arg(left.toHtmlEscaped(), right.toHtmlEscaped());
+}
+
+} // namespace
+
+std::string wordsOfAction(KeypadAction action, const Texts& texts) {
+  constexpr int kWords[kKeypadActions] = {1185, 1186, 1187, 1188, 1584, 1585, 1581, 1586, 1582,
+                                          1583, 1587, 1580, 1960, 1959, 1948, 1012, 1013};
+  return std::string(texts.text(kWords[static_cast<std::size_t>(action)]));
+}
+
+KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_texts(texts) {
+  setObjectName(QStringLiteral("KeySheet"));
+  setFrameShape(QFrame::Box);
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::Base);
+  const auto text = [this](int number) {
+    auto* label = new QLabel(this);
+    label->setWordWrap(true);
+    setTextNumber(*label, number);
+    return label;
+  };
+  auto* title = text(kTitle);
+  QFont large = title->font();
+  large.setPointSize(kTitlePoints);
+  large.setBold(true);
+  title->setFont(large);
+  m_off = text(kKeypadIsOff);
+  QFont bold = m_off->font();
+  bold.setBold(true);
+  m_picture = new KeypadPicture(this);
+  m_picture->setAttribute(Qt::WA_TransparentForMouseEvents);
+  m_letters = new QLabel(this);
+  m_letters->setObjectName(QStringLiteral("lblLETTERS"));
+  m_letters->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  m_letters->setWordWrap(true);
+
+  auto* grid = new QGridLayout(this);
+  grid->setHorizontalSpacing(24);
+  grid->addWidget(title, 0, 0);
+  grid->addWidget(text(kHowToClose), 0, 1, Qt::AlignRight);
+  grid->addWidget(m_off, 1, 0, 1, 2);
+  int place = 0;
+  for (const int head : {kOnKeypad, kOnMainKeyboard}) {
+    auto* label = text(head);
+    label->setFont(bold);
+    grid->addWidget(label, 2, place++);
+  }
+  grid->addWidget(m_picture, 3, 0, Qt::AlignTop | Qt::AlignHCenter);
+  grid->addWidget(m_letters, 3, 1);
+  grid->addWidget(text(kFollowUps), 4, 0, 1, 2);
+  m_off->setFont(bold);
+  hide();
+}
+
+void KeySheet::showSetup(const KeypadSetup& setup, bool keypadIsActive) {
+  relabel(*this, m_texts);
+  m_off->setVisible(!keypadIsActive);
+  QPalette red = palette();
+  red.setColor(QPalette::WindowText, Theme::missed());
+  m_off->setPalette(red);
+  m_picture->showKeys(setup, m_texts);
+  const auto sentence = [this](int number, const QString& part) {
+    return toQt(m_texts.withPlaceholder(number, fromQt(part)));
+  };
+  const auto letter = [&setup](std::size_t what) { return QString(QLatin1Char(setup.letters.letter(what))); };
+  QStringList rows;
+  for (std::size_t what = LetterAssignment::kFirst; what < LetterAssignment::kMiss; ++what)
+    rows << row(letter(what), toQt(wordsOfAction(static_cast<KeypadAction>(what), m_texts)));
+  rows << row(letter(LetterAssignment::kMiss), caption(m_texts, kMiss));
+  const QString shots = caption(m_texts, kShots) + QLatin1String(": ");
+  const QString lineShot = shots + sentence(kLineShot, letter(LetterAssignment::kMiss));
+  const QString keypadShot = shots + sentence(kKeypadShot, keyName(setup.keys.code(KeypadAction::A)));
+  // Two columns of letters side by side.
+  QString table = QStringLiteral("<p>%1<br>%2</p><table><tr><td><table>")
+                      .arg(caption(m_texts, kLineForm).toHtmlEscaped(), lineShot.toHtmlEscaped());
+  const qsizetype half = (rows.size() + 1) / 2;
+  table += rows.mid(0, half).join(QString()) + QLatin1String("</table></td><td width=24></td><td><table>") +
+           rows.mid(half).join(QString()) + QLatin1String("</table></td></tr></table>");
+  table +=
+      QStringLiteral("<p>%1</p><p>%2</p>")
+          .arg(caption(m_texts, kLineKeys).toHtmlEscaped(), caption(m_texts, kShotKinds).toHtmlEscaped());
+  table += QStringLiteral("<p><b>%1</b><br>%2<br>%3</p>")
+               .arg(caption(m_texts, kOnKeypad).toHtmlEscaped(),
+                    caption(m_texts, kKeypadForm).toHtmlEscaped(), keypadShot.toHtmlEscaped());
+  m_letters->setText(table);
+
+  const int width = std::min(kWidth, parentWidget()->width());
+  resize(width, std::min(layout()->totalHeightForWidth(width), parentWidget()->height()));
+  move((parentWidget()->width() - this->width()) / 2, (parentWidget()->height() - height()) / 2);
+  raise();
+  show();
+}
+
+void KeySheet::mousePressEvent(QMouseEvent* event) {
+  event->accept();
+  hide();
+}
+
+} // namespace hooptab

@@ -1,0 +1,158 @@
+#include "live/LiveKeys.h"
+
+#include "appearance/relabel.h"
+#include "live/KeySheet.h"
+#include "live/KeypadDisplay.h"
+#include "live/QtKeys.h"
+#include "storage/Settings.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kNotOnCourt = 1998;
+constexpr int kNothingRecorded = 1999;
+
+bool isTextField(const QWidget* widget) {
+  return qobject_cast<const QLineEdit*>(widget) != nullptr ||
+         qobject_cast<const QAbstractSpinBox*>(widget) != nullptr ||
+         qobject_cast<const QTextEdit*>(widget) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
+}
+
+} // namespace
+
+LiveKeys::LiveKeys(LiveGame& game, const Settings& settings, const Texts& texts, FollowUpBar& followUp,
+                   QWidget& displayPlace, QWidget& window)
+    : QObject(&window), m_game(game), m_settings(settings), m_texts(texts), m_window(window) {
+  m_display = new KeypadDisplay(&displayPlace);
+  m_sheet = new KeySheet(texts, &window);
+  followUp.setKeyReader([this](const QKeyEvent& event) { return followUpKey(event); });
+  qApp->installEventFilter(this);
+}
+
+LiveKeys::~LiveKeys() {
+  qApp->removeEventFilter(this);
+}
+
+void LiveKeys::setSetup(const KeypadSetup& setup) {
+  m_input.setSetup(setup);
+  m_display->clear();
+  relabelKeys();
+}
+
+void LiveKeys::forget() {
+  m_input.clear();
+  m_display->clear();
+}
+
+void LiveKeys::relabelKeys() {
+  m_display->clear();
+  if (!m_sheet->isHidden())
+    m_sheet->showSetup(m_input.setup(), m_settings.keypadIsActive);
+}
+
+// The focus may stand on the frame around the window, but nowhere else in the program.
+bool LiveKeys::isInFront() const {
+  if (!m_window.isVisible() || !m_window.window()->isActiveWindow() ||
+      QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)
+    return false;
+  const QWidget* focus = QApplication::focusWidget();
+  return focus != nullptr &&
+         (focus == &m_window || focus == m_window.parentWidget() || m_window.isAncestorOf(focus)) &&
+         !isTextField(focus);
+}
+
+std::optional<FollowUpKey> LiveKeys::followUpKey(const QKeyEvent& event) const {
+  const KeyPress press = keyPressOf(event);
+  if (!m_settings.keypadIsActive || press.code == 0 || !m_input.owns(press))
+    return std::nullopt;
+  switch (m_input.meaningOf(press)) {
+  case KeypadInput::Meaning::Digit: return FollowUpKey{FollowUpKey::Kind::Digit, *m_input.digitOf(press)};
+  case KeypadInput::Meaning::Confirm:
+    return FollowUpKey{FollowUpKey::Kind::Take, 0, m_input.teamOf(press, m_game.game())};
+  case KeypadInput::Meaning::Clear: return FollowUpKey{FollowUpKey::Kind::Clear};
+  case KeypadInput::Meaning::Clock:
+  case KeypadInput::Meaning::Other: return FollowUpKey{FollowUpKey::Kind::GoOn};
+  case KeypadInput::Meaning::None: break;
+  }
+  return std::nullopt;
+}
+
+// Sees every event of the program. A shortcut of the same key would come before the press: it is overridden.
+bool LiveKeys::eventFilter(QObject* watched, QEvent* event) {
+  const QEvent::Type type = event->type();
+  if ((type != QEvent::KeyPress && type != QEvent::ShortcutOverride) || !watched->isWidgetType() ||
+      !isInFront())
+    return false;
+  auto& key = static_cast<QKeyEvent&>(*event);
+  const bool isPress = type == QEvent::KeyPress;
+  if (takeSheetKey(key, isPress)) {
+    key.accept();
+    return true;
+  }
+  const KeyPress press = keyPressOf(key);
+  if (!m_settings.keypadIsActive || press.code == 0 || !m_input.owns(press))
+    return false;
+  key.accept();
+  if (isPress && !key.isAutoRepeat())
+    take(press);
+  return true;
+}
+
+bool LiveKeys::takeSheetKey(const QKeyEvent& event, bool isPress) {
+  const bool isSheetKey = event.key() == Qt::Key_F1 && event.modifiers() == Qt::NoModifier;
+  if (!isSheetKey && (event.key() != Qt::Key_Escape || m_sheet->isHidden()))
+    return false;
+  if (!isPress || event.isAutoRepeat())
+    return true;
+  if (m_sheet->isHidden())
+    m_sheet->showSetup(m_input.setup(), m_settings.keypadIsActive);
+  else
+    m_sheet->hide();
+  return true;
+}
+
+void LiveKeys::take(const KeyPress& press) {
+  switch (m_input.press(press, m_game)) {
+  case KeypadInput::Outcome::NotMine: return;
+  case KeypadInput::Outcome::Clock: emit clockPressed(); return;
+  case KeypadInput::Outcome::Confirmed: carryOutOrder(); return;
+  case KeypadInput::Outcome::Refused: refuse(m_input.reason()->words(m_texts)); return;
+  case KeypadInput::Outcome::Typed:
+  case KeypadInput::Outcome::Cleared: break;
+  }
+  if (m_input.isEmpty())
+    m_display->clear();
+  else
+    m_display->show(toQt(m_input.typed()), toQt(m_input.preview(m_game.game(), m_texts)),
+                    KeypadDisplay::Tone::Plain, false);
+}
+
+void LiveKeys::carryOutOrder() {
+  const KeypadOrder order = m_input.order();
+  const bool isOnCourt = order.player == 0 || m_game.slotOf(order.team, order.player).has_value();
+  const bool comesOrGoes = order.kind != KeypadOrder::Kind::Shot && order.kind != KeypadOrder::Kind::Action;
+  if (!carryOut(m_game, order))
+    return refuse(std::string(m_texts.text(kNothingRecorded)));
+  std::string words = "✓ " + KeypadInput::words(order, m_game.game(), m_texts);
+  if (!isOnCourt && !comesOrGoes)
+    words.append(" (").append(m_texts.text(kNotOnCourt)).append(")");
+  m_display->show({}, toQt(words), KeypadDisplay::Tone::Recorded, m_input.setup().flashes);
+  emit recorded(order);
+}
+
+void LiveKeys::refuse(const std::string& why) {
+  m_display->show(toQt(m_input.typed()), toQt(why), KeypadDisplay::Tone::Refused, m_input.setup().flashes);
+  if (m_input.setup().sounds)
+    QApplication::beep();
+}
+
+} // namespace hooptab

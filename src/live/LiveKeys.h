@@ -1,0 +1,53 @@
+// The keys of the live window: hands every key that is bound to the recorder before any button sees it, while
+// the window is in front and no text field has the focus, and carries out what the recorder orders. Shows the
+// cheat sheet. What follows an order on screen is the window's.
+#pragma once
+
+#include "live/FollowUpBar.h"
+#include "live/KeypadInput.h"
+
+#include <QObject>
+
+namespace hooptab {
+
+class KeypadDisplay;
+class KeySheet;
+class Settings;
+
+class LiveKeys : public QObject {
+  Q_OBJECT
+ public:
+  // All must outlive it. The display lies over `displayPlace`.
+  LiveKeys(LiveGame& game, const Settings& settings, const Texts& texts, FollowUpBar& followUp,
+           QWidget& displayPlace, QWidget& window);
+  ~LiveKeys() override;
+
+  void setSetup(const KeypadSetup& setup);
+  void forget();      // another game, or the keypad was switched off
+  void relabelKeys(); // the language has changed
+
+ signals:
+  void clockPressed();
+  void recorded(const hooptab::KeypadOrder& order);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  [[nodiscard]] bool isInFront() const;
+  [[nodiscard]] std::optional<FollowUpKey> followUpKey(const QKeyEvent& event) const;
+  bool takeSheetKey(const QKeyEvent& event, bool isPress);
+  void take(const KeyPress& press);
+  void carryOutOrder();
+  void refuse(const std::string& why);
+
+  LiveGame& m_game;
+  const Settings& m_settings;
+  const Texts& m_texts;
+  QWidget& m_window;
+  KeypadInput m_input;
+  KeypadDisplay* m_display = nullptr;
+  KeySheet* m_sheet = nullptr;
+};
+
+} // namespace hooptab

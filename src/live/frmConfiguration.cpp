@@ -1,0 +1,273 @@
+#include "live/frmConfiguration.h"
+
+#include "appearance/Dialogs.h"
+#include "appearance/Fields.h"
+#include "appearance/Mnemonics.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/KeyCodes.h"
+#include "live/KeyField.h"
+#include "live/KeySheet.h"
+#include "live/KeypadPicture.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTabWidget>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTitle = 1054;
+constexpr int kInstruction = 1192;
+constexpr int kWarningTitle = 1139;
+constexpr int kNotOnDisk = 1521;
+constexpr int kSave = 1164;
+constexpr int kSaveHint = 1328;
+constexpr int kClose = 1294;
+constexpr int kCloseHint = 1329;
+constexpr int kKeysPage = 2000;
+constexpr int kLettersPage = 2001;
+constexpr int kFieldHint = 2002;
+constexpr int kTwice = 2003;
+constexpr int kDefaults = 2004;
+constexpr int kDefaultsHint = 2005;
+constexpr int kFlash = 2006;
+constexpr int kSound = 2007;
+constexpr int kAskToSave = 2008;
+constexpr int kLetterInstruction = 2009;
+constexpr int kMiss = 2010;
+constexpr int kLetterFor = 2011;
+constexpr int kNoShots = 2012;
+
+constexpr int kKeyWidth = 130;
+constexpr int kLetterWidth = 48;
+constexpr int kLetterColumns = 2;
+constexpr int kGap = 4;
+constexpr int kMargin = 14;
+
+} // namespace
+
+frmConfiguration::frmConfiguration(const KeypadSetup& setup, Settings& settings, const Texts& texts,
+                                   Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent), m_settings(settings), m_texts(texts), m_dialogs(dialogs), m_saved(setup),
+      m_setup(setup) {
+  setObjectName(QStringLiteral("frmConfiguration"));
+  setModal(true);
+  setTextNumber(*this, kTitle);
+  auto* pages = new QTabWidget(this);
+  pages->addTab(makeKeys(), {});
+  pages->addTab(makeLetters(), {});
+  m_notice = noticeLabel(this);
+  m_notice->setObjectName(QStringLiteral("lblNOTICE"));
+  m_notice->setWordWrap(true);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->addWidget(pages, 1);
+  layout->addWidget(makeOptions());
+  layout->addWidget(m_notice);
+  layout->addLayout(makeButtons());
+  auto* language = new QShortcut(QKeySequence(Qt::Key_F12), this);
+  connect(language, &QShortcut::activated, this, &frmConfiguration::languageAsked);
+  relabelWindow();
+  m_keys.front()->setFocus();
+}
+
+QWidget* frmConfiguration::makeKeys() {
+  auto* page = new QWidget(this);
+  setTabTextNumber(*page, kKeysPage);
+  auto* instruction = new QLabel(page);
+  instruction->setWordWrap(true);
+  setTextNumber(*instruction, kInstruction);
+  auto* boxes = new QGridLayout;
+  boxes->setVerticalSpacing(kGap);
+  boxes->setColumnStretch(0, 1);
+  for (std::size_t place = 0; place < kKeypadActions; ++place) {
+    const auto action = static_cast<KeypadAction>(place);
+    auto* field = new KeyField(QStringLiteral("txtTOUCHE(%1)").arg(place), page);
+    field->setFixedWidth(kKeyWidth);
+    const int row = static_cast<int>(place);
+    boxes->addWidget(captionFor(*field, wordsOf(action).hint), row, 0);
+    setToolTipNumber(*field, kFieldHint);
+    boxes->addWidget(field, row, 1);
+    connect(field, &KeyField::keyPressed, this, [this, action](int code) { bind(action, code); });
+    connect(field, &KeyField::focused, this, [this, action] {
+      m_current = action;
+      m_picture->showKeys(m_setup, m_texts, m_current);
+    });
+    m_keys[place] = field;
+  }
+  m_picture = new KeypadPicture(page);
+  connect(m_picture, &KeypadPicture::keyClicked, this, [this](int code) {
+    if (m_current)
+      bind(*m_current, code);
+  });
+  auto* parts = new QHBoxLayout;
+  parts->setSpacing(2 * kMargin);
+  parts->addLayout(boxes, 1);
+  parts->addWidget(m_picture, 0, Qt::AlignCenter);
+  auto* layout = new QVBoxLayout(page);
+  layout->addWidget(instruction);
+  layout->addLayout(parts);
+  layout->addStretch();
+  return page;
+}
+
+QWidget* frmConfiguration::makeLetters() {
+  auto* page = new QWidget(this);
+  setTabTextNumber(*page, kLettersPage);
+  auto* instruction = new QLabel(page);
+  instruction->setWordWrap(true);
+  setTextNumber(*instruction, kLetterInstruction);
+  auto* boxes = new QGridLayout;
+  boxes->setHorizontalSpacing(kMargin);
+  boxes->setColumnStretch(2 * kLetterColumns, 1);
+  constexpr int kRows = static_cast<int>(LetterAssignment::kCount + 1) / kLetterColumns;
+  for (std::size_t place = 0; place < LetterAssignment::kCount; ++place) {
+    const std::size_t what = place + LetterAssignment::kFirst;
+    auto* field = new KeyField(QStringLiteral("txtLETTRE(%1)").arg(what), page);
+    field->setFixedWidth(kLetterWidth);
+    field->setAlignment(Qt::AlignCenter);
+    auto* words = new QLabel(page);
+    words->setBuddy(field);
+    const int row = static_cast<int>(place) % kRows;
+    const int column = 2 * (static_cast<int>(place) / kRows);
+    boxes->addWidget(words, row, column);
+    boxes->addWidget(field, row, column + 1);
+    connect(field, &KeyField::keyPressed, this, [this, what](int code) {
+      if (keys::isLetter(code))
+        m_setup.letters.bind(what, static_cast<char>(code));
+      showSetup();
+    });
+    m_letters[place] = field;
+    m_letterCaptions[place] = words;
+  }
+  auto* layout = new QVBoxLayout(page);
+  layout->addWidget(instruction);
+  layout->addLayout(boxes);
+  layout->addStretch();
+  return page;
+}
+
+QWidget* frmConfiguration::makeOptions() {
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  const auto addOption = [&](const char* name, int text, bool KeypadSetup::*option) {
+    auto* box = new QCheckBox(row);
+    box->setObjectName(QLatin1String(name));
+    setTextNumber(*box, text);
+    connect(box, &QCheckBox::toggled, this, [this, option](bool on) {
+      m_setup.*option = on;
+      showSetup();
+    });
+    layout->addWidget(box);
+    return box;
+  };
+  m_flashes = addOption("chkECLAIR", kFlash, &KeypadSetup::flashes);
+  m_sounds = addOption("chkSON", kSound, &KeypadSetup::sounds);
+  layout->addStretch();
+  return row;
+}
+
+QLayout* frmConfiguration::makeButtons() {
+  const auto button = [this](const char* name, int text, int hint) {
+    auto* made = new QPushButton(this);
+    made->setObjectName(QLatin1String(name));
+    made->setAutoDefault(false); // Enter is a key that is bound here
+    setTextNumber(*made, text);
+    setToolTipNumber(*made, hint);
+    return made;
+  };
+  QPushButton* defaults = button("cmdDEFAUT", kDefaults, kDefaultsHint);
+  m_save = button("Command1", kSave, kSaveHint);
+  QPushButton* close = button("Command2", kClose, kCloseHint);
+  connect(defaults, &QPushButton::clicked, this, [this] {
+    m_setup = KeypadSetup();
+    showSetup();
+  });
+  connect(m_save, &QPushButton::clicked, this, &frmConfiguration::save);
+  connect(close, &QPushButton::clicked, this, &frmConfiguration::reject);
+  auto* row = new QHBoxLayout;
+  row->addWidget(defaults);
+  row->addStretch();
+  row->addWidget(m_save);
+  row->addWidget(close);
+  return row;
+}
+
+QString frmConfiguration::wordsOfLetter(std::size_t what) const {
+  return what == LetterAssignment::kMiss ? caption(m_texts, kMiss)
+                                         : toQt(wordsOfAction(static_cast<KeypadAction>(what), m_texts));
+}
+
+void frmConfiguration::relabelWindow() {
+  relabel(*this, m_texts);
+  giveMnemonics(*this);
+  for (std::size_t place = 0; place < LetterAssignment::kCount; ++place) {
+    const QString words = wordsOfLetter(place + LetterAssignment::kFirst);
+    m_letterCaptions[place]->setText(words);
+    const QString hint = toQt(m_texts.withPlaceholder(kLetterFor, fromQt(words)));
+    m_letters[place]->setToolTip(hint);
+    m_letters[place]->setAccessibleName(hint);
+  }
+  showSetup();
+}
+
+void frmConfiguration::bind(KeypadAction action, int code) {
+  m_setup.keys.bind(action, code);
+  showSetup();
+}
+
+void frmConfiguration::showSetup() {
+  for (std::size_t place = 0; place < kKeypadActions; ++place) {
+    const auto action = static_cast<KeypadAction>(place);
+    m_keys[place]->showKey(toQt(m_setup.keys.text(action)), m_setup.isTwice(action));
+  }
+  for (std::size_t place = 0; place < LetterAssignment::kCount; ++place) {
+    const std::size_t what = place + LetterAssignment::kFirst;
+    m_letters[place]->showKey(QString(QLatin1Char(m_setup.letters.letter(what))),
+                              m_setup.isLetterTwice(what));
+  }
+  m_flashes->setChecked(m_setup.flashes);
+  m_sounds->setChecked(m_setup.sounds);
+  m_picture->showKeys(m_setup, m_texts, m_current);
+  const bool canBeSaved = m_setup.canBeSaved();
+  m_save->setEnabled(canBeSaved);
+  showNotice(canBeSaved);
+}
+
+void frmConfiguration::showNotice(bool canBeSaved) {
+  const bool losesShots = keys::digit(m_setup.keys.code(KeypadAction::A), true).has_value();
+  m_notice->setText(!canBeSaved  ? caption(m_texts, kTwice)
+                    : losesShots ? caption(m_texts, kNoShots)
+                                 : QString());
+  m_notice->setVisible(!canBeSaved || losesShots);
+}
+
+bool frmConfiguration::save() {
+  if (!m_setup.canBeSaved())
+    return false;
+  const bool isOnDisk = m_settings.saveKeypadKeyTexts(m_setup.keys.texts());
+  m_saved = m_setup;
+  emit applied();
+  if (!isOnDisk)
+    m_dialogs.warn(this, caption(m_texts, kWarningTitle),
+                   toQt(m_texts.withPlaceholder(kNotOnDisk, m_settings.path())));
+  return true;
+}
+
+void frmConfiguration::reject() {
+  if (m_setup != m_saved) {
+    const SaveChoice answer = m_dialogs.askToSave(this, windowTitle(), caption(m_texts, kAskToSave));
+    if (answer == SaveChoice::Stay || (answer == SaveChoice::Save && !save()))
+      return;
+  }
+  QDialog::reject();
+}
+
+} // namespace hooptab
