@@ -325,7 +325,7 @@ bool FollowUpBar::ownsKey(const QKeyEvent& event) const {
 void FollowUpBar::takeKey(const QKeyEvent& event) {
   const FollowUpKey meaning = meaningOf(event);
   switch (meaning.kind) {
-  case FollowUpKey::Kind::Digit: return takeDigit(meaning.digit);
+  case FollowUpKey::Kind::Digit: return takeDigit(meaning);
   case FollowUpKey::Kind::Take: return take(meaning.team);
   case FollowUpKey::Kind::Clear: return dismiss();
   case FollowUpKey::Kind::GoOn: break;
@@ -344,20 +344,20 @@ void FollowUpBar::take(std::optional<int> team) {
   const auto found = team && !m_typed.empty() ? std::ranges::find_if(m_fitting, isMeant) : m_fitting.end();
   if (found != m_fitting.end())
     choose(found->place);
-  else if (m_marked)
-    choose(m_fitting[*m_marked].place);
+  else if (m_marked || (!m_typed.empty() && m_fitting.size() == 1))
+    choose(m_fitting[m_marked.value_or(0)].place);
   else if (m_typed.empty())
     dismiss();
 }
 
-void FollowUpBar::takeDigit(int digit) {
-  m_typed += static_cast<char>('0' + digit);
+void FollowUpBar::takeDigit(const FollowUpKey& key) {
+  m_typed += static_cast<char>('0' + key.digit);
   narrow();
-  if (m_fitting.size() == 1) {
-    choose(m_fitting[0].place);
-  } else if (m_fitting.empty()) { // nobody's number
+  if (m_fitting.empty()) { // nobody's number
     m_typed.pop_back();
     narrow();
+  } else if (m_fitting.size() == 1 && (m_fitting[0].isWhole || !key.isWholeNumber)) {
+    choose(m_fitting[0].place);
   }
 }
 

@@ -28,6 +28,7 @@ struct FollowUpKey {
   Kind kind = Kind::GoOn;
   int digit = 0;
   std::optional<int> team = std::nullopt; // of two equal numbers Take takes the one of this team
+  bool isWholeNumber = false; // the number will be typed to its end, though its beginning may fit one alone
 };
 
 class FollowUpBar : public QWidget {
@@ -78,7 +79,7 @@ class FollowUpBar : public QWidget {
   [[nodiscard]] FollowUpKey meaningOf(const QKeyEvent& event) const;
   bool ownsKey(const QKeyEvent& event) const;
   void takeKey(const QKeyEvent& event);
-  void takeDigit(int digit);
+  void takeDigit(const FollowUpKey& key);
   void take(std::optional<int> team);
   void narrow();
   void moveMark(int step);

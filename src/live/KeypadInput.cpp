@@ -312,6 +312,7 @@ std::string KeypadInput::preview(const Game& game, const Texts& texts) const {
   if (isEmpty() || reading.problem != 0)
     return isEmpty() ? std::string() : std::string(texts.text(reading.problem));
   std::string lines = actionWords(reading.order, texts);
+  bool isAnybody = reading.order.kind == KeypadOrder::Kind::AllOut;
   for (const int team : {game.details.mainTeam, 1 - game.details.mainTeam}) {
     KeypadOrder order = reading.order;
     order.team = team;
@@ -320,8 +321,11 @@ std::string KeypadInput::preview(const Game& game, const Texts& texts) const {
       lines += (lines.empty() ? "" : "\n") + words(order, game, texts);
     else if (order.player != 0)
       lines += '\n' + playerWords(game, team, order.player);
+    isAnybody = isAnybody || order.player != 0;
   }
-  return lines;
+  const auto& names = game.details.abbreviation;
+  return isAnybody ? lines
+                   : KeypadReason{kNoSuchPlayer, {reading.jersey, names[0] + ", " + names[1]}}.words(texts);
 }
 
 std::string KeypadInput::words(const KeypadOrder& order, const Game& game, const Texts& texts) {

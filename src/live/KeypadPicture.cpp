@@ -23,7 +23,7 @@ constexpr Place kPlaces[] = {
     {104, 2, 1},     {105, 2, 2}, {107, 2, 3, 2, 1}, {100, 3, 0},      {101, 3, 1},      {102, 3, 2},
     {97, 4, 0},      {98, 4, 1},  {99, 4, 2},        {13, 4, 3, 2, 1}, {96, 5, 0, 1, 2}, {110, 5, 2},
 };
-constexpr int kKeyWidth = 72;
+constexpr int kKeyWidth = 84;
 constexpr int kKeyHeight = 52;
 constexpr int kGap = 4;
 
@@ -59,10 +59,9 @@ void KeypadPicture::showKeys(const KeypadSetup& setup, const Texts& texts,
     QStringList names;
     for (const KeypadAction action : actions)
       names << shortNameOf(action, texts);
-    // Two long names do not fit beside each other.
-    QString shown = key.button->fontMetrics().elidedText(names.join(u'/'), Qt::ElideRight,
-                                                         key.button->width() - 3 * kGap);
-    key.button->setText(keyName(key.code) + u'\n' + shown.replace(u'&', QLatin1String("&&")));
+    // A line for each word, as "SECONDARY Team" is wider than a key.
+    QString shown = names.join(u'/').replace(u' ', u'\n').replace(u'&', QLatin1String("&&"));
+    key.button->setText(keyName(key.code) + u'\n' + shown);
     key.button->setToolTip(names.join(u'\n'));
     key.button->setAccessibleName(keyName(key.code) + QLatin1String(": ") + names.join(QLatin1String(", ")));
     QPalette colours;

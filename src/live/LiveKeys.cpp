@@ -75,7 +75,9 @@ std::optional<FollowUpKey> LiveKeys::followUpKey(const QKeyEvent& event) const {
   if (!m_settings.keypadIsActive || press.code == 0 || !m_input.owns(press))
     return std::nullopt;
   switch (m_input.meaningOf(press)) {
-  case KeypadInput::Meaning::Digit: return FollowUpKey{FollowUpKey::Kind::Digit, *m_input.digitOf(press)};
+  // Who types on goes on with the number: its last digit must not begin the next input.
+  case KeypadInput::Meaning::Digit:
+    return FollowUpKey{FollowUpKey::Kind::Digit, *m_input.digitOf(press), std::nullopt, true};
   case KeypadInput::Meaning::Confirm:
     return FollowUpKey{FollowUpKey::Kind::Take, 0, m_input.teamOf(press, m_game.game())};
   case KeypadInput::Meaning::Clear: return FollowUpKey{FollowUpKey::Kind::Clear};

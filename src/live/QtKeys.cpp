@@ -24,8 +24,8 @@ constexpr KeyRow kRows[] = {
     {Qt::Key_Period, 110, Where::Keypad},
     {Qt::Key_Comma, 110, Where::Keypad}, // keyboards with a decimal comma
     {Qt::Key_Equal, 146, Where::Keypad},
-    {Qt::Key_Return, 13, Where::Main},
     {Qt::Key_Enter, 13, Where::Anywhere},
+    {Qt::Key_Return, 13, Where::Anywhere},
     {Qt::Key_Backspace, 8, Where::Anywhere},
     {Qt::Key_Tab, 9, Where::Anywhere},
     {Qt::Key_Backtab, 9, Where::Anywhere},
