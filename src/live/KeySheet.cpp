@@ -4,6 +4,7 @@
 #include "appearance/relabel.h"
 #include "live/KeypadPicture.h"
 #include "live/QtKeys.h"
+#include "storage/Module1.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -15,6 +16,7 @@ namespace hooptab {
 
 namespace {
 
+constexpr int kSubjectAndWords = 1801;
 constexpr int kTitle = 2013;
 constexpr int kOnKeypad = 2014;
 constexpr int kOnMainKeyboard = 2015;
@@ -27,7 +29,7 @@ constexpr int kShotKinds = 2021;
 constexpr int kLineKeys = 2022;
 constexpr int kFollowUps = 2023;
 constexpr int kKeypadIsOff = 2024;
-constexpr int kHowToClose = 2029;
+constexpr int kHowToClose = 2026;
 constexpr int kMiss = 2010;
 
 constexpr int kTitlePoints = 14;
@@ -75,7 +77,9 @@ KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_text
   auto* grid = new QGridLayout(this);
   grid->setHorizontalSpacing(24);
   grid->addWidget(title, 0, 0);
-  grid->addWidget(text(kHowToClose), 0, 1, Qt::AlignRight);
+  auto* howToClose = text(kHowToClose);
+  howToClose->setWordWrap(false);
+  grid->addWidget(howToClose, 0, 1, Qt::AlignRight);
   grid->addWidget(m_off, 1, 0, 1, 2);
   int place = 0;
   for (const int head : {kOnKeypad, kOnMainKeyboard}) {
@@ -105,9 +109,13 @@ void KeySheet::showSetup(const KeypadSetup& setup, bool keypadIsActive) {
   for (std::size_t what = LetterAssignment::kFirst; what < LetterAssignment::kMiss; ++what)
     rows << row(letter(what), toQt(wordsOfAction(static_cast<KeypadAction>(what), m_texts)));
   rows << row(letter(LetterAssignment::kMiss), caption(m_texts, kMiss));
-  const QString shots = caption(m_texts, kShots) + QLatin1String(": ");
-  const QString lineShot = shots + sentence(kLineShot, letter(LetterAssignment::kMiss));
-  const QString keypadShot = shots + sentence(kKeypadShot, keyName(setup.keys.code(KeypadAction::A)));
+  const auto ofShots = [this](const QString& words) {
+    const std::string named = m_texts.withPlaceholder(kSubjectAndWords, m_texts.text(kShots));
+    return toQt(Module1::withPlaceholder(named, fromQt(words), "YYY"));
+  };
+  const QString lineShot = ofShots(sentence(kLineShot, letter(LetterAssignment::kMiss)));
+  const QString keypadShot =
+      ofShots(sentence(kKeypadShot, keyName(setup.keys.code(KeypadAction::A), m_texts)));
   // Two columns of letters side by side.
   QString table = QStringLiteral("<p>%1<br>%2</p><table><tr><td><table>")
                       .arg(caption(m_texts, kLineForm).toHtmlEscaped(), lineShot.toHtmlEscaped());

@@ -61,9 +61,10 @@ void KeypadPicture::showKeys(const KeypadSetup& setup, const Texts& texts,
       names << shortNameOf(action, texts);
     // A line for each word, as "SECONDARY Team" is wider than a key.
     QString shown = names.join(u'/').replace(u' ', u'\n').replace(u'&', QLatin1String("&&"));
-    key.button->setText(keyName(key.code) + u'\n' + shown);
+    key.button->setText(keyName(key.code, texts) + u'\n' + shown);
     key.button->setToolTip(names.join(u'\n'));
-    key.button->setAccessibleName(keyName(key.code) + QLatin1String(": ") + names.join(QLatin1String(", ")));
+    key.button->setAccessibleName(keyName(key.code, texts) + QLatin1String(": ") +
+                                  names.join(QLatin1String(", ")));
     QPalette colours;
     const bool isMarked = marked && std::ranges::find(actions, *marked) != actions.end();
     if (actions.size() > 1 || isMarked) {

@@ -1,5 +1,8 @@
 #include "live/QtKeys.h"
 
+#include "appearance/relabel.h"
+#include "live/KeyCodes.h"
+
 #include <QKeyEvent>
 #include <QKeySequence>
 
@@ -53,6 +56,7 @@ constexpr KeyRow kRows[] = {
     {Qt::Key_Period, 190, Where::Main},
     {Qt::Key_Slash, 191, Where::Main},
 };
+constexpr int kBackspaceName = 2025;
 constexpr int kFirstKeypadDigit = 96;
 constexpr int kFirstFunctionKey = 112;
 
@@ -91,7 +95,9 @@ QtKey qtKeyOf(int code) {
   return row == std::end(kRows) ? QtKey() : QtKey{row->key, row->where == Where::Keypad};
 }
 
-QString keyName(int code) {
+QString keyName(int code, const Texts& texts) {
+  if (code == keys::kBackspace) // which the toolkit names in French as if it cleared all
+    return toQt(texts.text(kBackspaceName));
   const QtKey key = qtKeyOf(code);
   if (key.key == Qt::Key_unknown)
     return code == 0 ? QString() : QString::number(code);

@@ -20,7 +20,7 @@ struct QtKey {
   friend bool operator==(const QtKey&, const QtKey&) = default;
 };
 [[nodiscard]] QtKey qtKeyOf(int code);
-// What is printed on the key, in the language in use: "7", "+", "Return". Empty for no key.
-[[nodiscard]] QString keyName(int code);
+// What is printed on the key, in the language in use: "7", "+", "Enter". Empty for no key.
+[[nodiscard]] QString keyName(int code, const Texts& texts);
 
 } // namespace hooptab
