@@ -5,6 +5,7 @@
 #include "appearance/frmCOULEURS.h"
 #include "appearance/relabel.h"
 #include "live/TimeSource.h"
+#include "live/frmConfiguration.h"
 #include "live/frmLIVE.h"
 #include "scorecard/frmVIEW.h"
 #include "setup/frmNEWGAME.h"
@@ -344,7 +345,8 @@ TEST_F(MainWindowTest, MakesAGameAndOpensItAndBeginsTheNextOneWithItsChoices) {
   auto* live = area().findChild<frmLIVE*>();
   ASSERT_NE(live, nullptr) << (dialogs.shown.empty() ? "" : fromQt(dialogs.shown.back().text));
   EXPECT_EQ(live->path(), path);
-  EXPECT_TRUE(live->windowTitle().endsWith(QStringLiteral("LION 0 - 0 JAGUAR"))) << fromQt(live->windowTitle());
+  EXPECT_TRUE(live->windowTitle().endsWith(QStringLiteral("LION 0 - 0 JAGUAR")))
+      << fromQt(live->windowTitle());
   EXPECT_EQ(settings->lastGameFolder, fromQt(games.path()));
   useWindow([](frmNEWGAME& form) {
     EXPECT_EQ(form.findChild<QLineEdit*>(QStringLiteral("txtNOMEQUIPE(0)"))->text(),
@@ -399,6 +401,43 @@ TEST_F(MainWindowTest, CourtColoursReachOpenWindowsAtOnce) {
   for (int x = 0; x < chart.width() && !isThere; ++x)
     isThere = chart.pixelColor(x, chart.height() / 2) == QColor(1, 2, 3);
   EXPECT_TRUE(isThere);
+}
+
+TEST_F(MainWindowTest, KeysThatAreBoundAnewActAtOnceAndAfterTheNextStart) {
+  dialogs.nextFile = makeGame("KEYS.GAM");
+  action("LIVEOpen").trigger();
+  auto* live = area().findChild<frmLIVE*>();
+  ASSERT_NE(live, nullptr);
+  ASSERT_TRUE(action("LIVEKpad").isChecked()) << "as on a first start";
+  const auto bind = [this](const char* box, Qt::Key key) {
+    QTimer::singleShot(0, window.get(), [box, key] {
+      auto* form = qobject_cast<frmConfiguration*>(QApplication::activeModalWidget());
+      ASSERT_NE(form, nullptr);
+      QTest::keyClick(form->findChild<QWidget*>(QLatin1String(box)), key);
+      QTest::mouseClick(form->findChild<QPushButton*>(QStringLiteral("Command1")), Qt::LeftButton);
+      form->reject();
+    });
+    action("tbKEYPAD").trigger();
+  };
+  bind("txtTOUCHE(0)", Qt::Key_G);
+  EXPECT_EQ(setting("CLOCK"), "71-");
+  bind("txtLETTRE(17)", Qt::Key_Q);
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  live->setFocus();
+  QTest::keyClick(live, Qt::Key_G);
+  EXPECT_TRUE(live->isRunning());
+  action("LIVEKpad").trigger();
+  EXPECT_EQ(setting("KEYPAD"), "False");
+  EXPECT_FALSE(action("LIVEKpad").isChecked());
+  QTest::keyClick(live, Qt::Key_G);
+  EXPECT_TRUE(live->isRunning()) << "the keypad is off";
+  QTest::keyClick(live, Qt::Key_Space);
+  start();
+  KeypadSetup kept;
+  kept.take(memory->keyChoices());
+  EXPECT_EQ(kept.letters.letter(LetterAssignment::kMiss), 'Q');
+  EXPECT_EQ(settings->keypadKeyTexts[0], "71-");
 }
 
 TEST_F(MainWindowTest, RemembersTheLastFolderWhenItCloses) {
