@@ -27,7 +27,7 @@ constexpr int kSeveralTip = 1947;
 constexpr int kAllOut = 1948;
 constexpr int kAllOutTip = 1949;
 
-constexpr int kWidth = 250;
+constexpr int kLeastWidth = 250;
 constexpr int kColumns = 5;
 constexpr QSize kButton(48, 28);
 constexpr int kGap = 2;
@@ -47,7 +47,7 @@ QToolButton* buttonFor(QAction& action, const char* name, QWidget* parent) {
 
 BenchPanel::BenchPanel(const Texts& texts, QWidget* parent) : QWidget(parent), m_texts(texts) {
   setObjectName(QStringLiteral("picBENCH"));
-  setFixedWidth(kWidth);
+  setMinimumWidth(kLeastWidth);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
@@ -111,6 +111,8 @@ QWidget* BenchPanel::makeTeam(int team) {
   head->addWidget(m_allOut[t]);
   grid->addLayout(head, 0, 0, 1, kColumns);
 
+  for (int column = 0; column < kColumns; ++column)
+    grid->setColumnStretch(column, 1);
   for (int place = 0; place < kPlaces; ++place) {
     auto* button = new JerseyButton(jerseyButtonName(team * kPlaces + place), kButton, roster);
     connect(button, &JerseyButton::pressed, this, [this, team, place] { press(team, place + 1); });

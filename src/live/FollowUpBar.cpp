@@ -26,9 +26,12 @@ constexpr int kOffensive = 1119;
 constexpr int kDefensive = 1120;
 constexpr int kHint = 1958;
 
-constexpr QSize kButton(92, 44);
-constexpr int kMargin = 8;
-constexpr int kGap = 2;
+// Together as wide as a panel of the live window is at least: what lies beside it stays in reach.
+constexpr QSize kButton(40, 40);
+constexpr int kMargin = 5;
+constexpr int kGap = 1;
+constexpr int kBandMargin = 2;
+constexpr int kInnerWidth = 5 * kButton.width() + 4 * kGap;
 
 bool isDigit(const QKeyEvent& event) {
   return event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
@@ -82,7 +85,8 @@ QLabel* FollowUpBar::makeBand(QWidget* form, const QString& name) {
   auto* band = new QLabel(form);
   band->setObjectName(name);
   band->setAutoFillBackground(true);
-  band->setMargin(kGap);
+  band->setMargin(kBandMargin);
+  band->setFixedWidth(kInnerWidth);
   return band;
 }
 
@@ -103,6 +107,7 @@ QWidget* FollowUpBar::makeEnd(QWidget* form, const char* nobodyName) {
   layout->setContentsMargins(0, kGap, 0, 0);
   auto* hint = new QLabel(row);
   hint->setForegroundRole(QPalette::PlaceholderText);
+  hint->setWordWrap(true);
   setTextNumber(*hint, kHint);
   layout->addWidget(hint, 1);
   auto* nobody = new QPushButton(row);
@@ -167,7 +172,6 @@ void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, int slot) {
   if (entry == nullptr)
     return;
   button.setLook({.jersey = toQt(entry->jersey),
-                  .name = toQt(entry->name),
                   .colour = colourOf(game.game().details.teamColour[team]),
                   .isFilled = true,
                   .isFouledOut = game.isFouledOut(team, player)});
@@ -180,7 +184,9 @@ void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, int slot) {
 void FollowUpBar::nameTeam(const LiveGame& game, QLabel& band, int text, int team) {
   const GameDetails& details = game.game().details;
   const QString name = toQt(details.name[team]);
-  band.setText(text == 0 ? name : toQt(m_texts.text(text)) + QLatin1Char(' ') + name);
+  const QString words = text == 0 ? name : toQt(m_texts.text(text)) + QLatin1Char(' ') + name;
+  band.setText(band.fontMetrics().elidedText(words, Qt::ElideRight, kInnerWidth - 2 * kBandMargin));
+  band.setToolTip(words);
   const QColor colour = colourOf(details.teamColour[team]);
   QPalette colours = palette();
   colours.setColor(QPalette::Window, colour);
@@ -189,7 +195,7 @@ void FollowUpBar::nameTeam(const LiveGame& game, QLabel& band, int text, int tea
 }
 
 void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int shooterTeam,
-                      const QPoint& globalPosition) {
+                      const QRect& shooterPanel) {
   dismiss();
   if (followUps.isEmpty())
     return;
@@ -220,7 +226,7 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
   narrow();
 
   adjustSize();
-  const QPoint wished = parentWidget()->mapFromGlobal(globalPosition);
+  const QPoint wished = parentWidget()->mapFromGlobal(shooterPanel.center()) - rect().center();
   const QSize room = parentWidget()->size() - size();
   move(std::clamp(wished.x(), 0, std::max(room.width(), 0)),
        std::clamp(wished.y(), 0, std::max(room.height(), 0)));

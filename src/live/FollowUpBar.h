@@ -38,10 +38,10 @@ class FollowUpBar : public QWidget {
   FollowUpBar(const Texts& texts, QWidget* parent);
   ~FollowUpBar() override;
 
-  // Opens with its corner at that place, or as near as it fits into the parent. One that was open closes as
-  // "Nobody". With nobody to choose, nothing opens.
+  // Opens in the middle of what it may hide: the shooter's panel, in global coordinates; or as near as it
+  // fits into the parent. One that was open closes as "Nobody". With nobody to choose, nothing opens.
   void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int shooterTeam,
-           const QPoint& globalPosition);
+           const QRect& shooterPanel);
   // Asked first for every key; nothing for one that means here what it always does.
   using KeyReader = std::function<std::optional<FollowUpKey>(const QKeyEvent& event)>;
   void setKeyReader(KeyReader reader) { m_readKey = std::move(reader); }

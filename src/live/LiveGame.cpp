@@ -41,6 +41,7 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
     return problem;
   m_access = access;
   m_history.clear();
+  m_lastShot = {};
   m_wasLeftRunning = false;
   m_slots = {};
   m_endedPeriod = 0;
@@ -83,6 +84,7 @@ void LiveGame::showAsLeft() {
     putOnCourt(whole);
     recordOnCourt();
     m_history.clear();
+    m_lastShot = {};
   }
 }
 
@@ -402,7 +404,10 @@ bool LiveGame::recordShot(int team, int player, EventCode kind, bool isMade,
   const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
   if (shot == nullptr || !shot->isShot || who == nullptr)
     return false;
-  return record(eventText(kind, isMade, team, who->jersey, place), shot->wordsText);
+  if (!record(eventText(kind, isMade, team, who->jersey, place), shot->wordsText))
+    return false;
+  m_lastShot = {m_period, m_log.lines().at(m_period).back().first};
+  return true;
 }
 
 bool LiveGame::recordAction(int team, int player, EventCode kind) {
@@ -411,6 +416,17 @@ bool LiveGame::recordAction(int team, int player, EventCode kind) {
   if (action == nullptr || action->isShot || who == nullptr)
     return false;
   return record(eventText(kind, false, team, who->jersey), action->wordsText);
+}
+
+bool LiveGame::recordFollowUp(int team, int player, EventCode kind) {
+  if (m_lastShot.period == m_period)
+    return recordAction(team, player, kind);
+  const std::string* shot = findLine(m_log.lines(), m_lastShot.period, m_lastShot.key);
+  if (shot == nullptr)
+    return false;
+  const auto period = static_cast<std::uint8_t>(m_lastShot.period);
+  const int clock = GameEvent::parse(period, m_lastShot.key, *shot).clockSeconds;
+  return insertEvent(m_lastShot, Where::Behind, clock, {.kind = kind, .team = team, .player = player});
 }
 
 LiveGame::FollowUps LiveGame::followUps(int team, int player, EventCode kind, bool isMade,

@@ -92,6 +92,8 @@ class LiveGame {
   bool recordShot(int team, int player, EventCode kind, bool isMade,
                   std::optional<std::pair<double, double>> place = std::nullopt);
   bool recordAction(int team, int player, EventCode kind);
+  // The assist or rebound of the shot that was recorded last: behind it when its period has ended since.
+  bool recordFollowUp(int team, int player, EventCode kind);
   // What such a shot asks for; the players who can be chosen, as slots.
   struct FollowUps {
     std::vector<int> assist;           // of the shooter's team, without him
@@ -169,6 +171,7 @@ class LiveGame {
   int m_period = 1;
   bool m_wasLeftRunning = false; // when it was opened; until the clock is started or the stop put in
   int m_endedPeriod = 0;
+  EventPlace m_lastShot;    // of this session
   int m_lengthOfPeriod = 0; // seconds; of an overtime its own
 };
 

@@ -44,10 +44,10 @@ constexpr int kPlaysLeft = 1940;
 constexpr int kInBonus = 1943;
 constexpr int kPeriodByHand = 1944;
 
-constexpr int kWidth = 250;
+constexpr int kLeastWidth = 250;
 constexpr int kGap = 3;
 constexpr int kSwitchWidth = 26;
-constexpr int kPlateWidth = (kWidth - kSwitchWidth) / 2 - kGap;
+constexpr int kPlateWidth = (kLeastWidth - kSwitchWidth) / 2 - kGap;
 constexpr int kPlateMargin = 4;
 constexpr int kArrowRoom = 30;
 constexpr int kPlateHeight = 52;
@@ -103,7 +103,7 @@ QFont bold(QFont font, int points) {
 
 ScorePanel::ScorePanel(const Texts& texts, QWidget* parent) : QWidget(parent), m_texts(texts) {
   setObjectName(QStringLiteral("ScorePanel"));
-  setFixedWidth(kWidth);
+  setMinimumWidth(kLeastWidth);
   auto* plates = new QWidget(this);
   QBoxLayout* teams = rowIn(*plates);
   teams->addWidget(makePlate(0));
@@ -115,7 +115,7 @@ ScorePanel::ScorePanel(const Texts& texts, QWidget* parent) : QWidget(parent), m
   layout->setSpacing(kGap);
   for (QWidget* part : {plates, makeFouls(), makeClock(), makeButtons(), makeLeads()})
     layout->addWidget(part);
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   relabel(*this, texts);
   relabelPanel();
 }
@@ -145,7 +145,8 @@ QWidget* ScorePanel::makePlate(int team) {
   side.plate = new QWidget(this);
   side.plate->setObjectName(QStringLiteral("pictTEAM(%1)").arg(team));
   side.plate->setAutoFillBackground(true);
-  side.plate->setFixedSize(kPlateWidth, kPlateHeight);
+  side.plate->setMinimumWidth(kPlateWidth);
+  side.plate->setFixedHeight(kPlateHeight);
   side.plate->installEventFilter(this);
   setToolTipNumber(*side.plate, kSelectColour);
   side.name = smallButton(QStringLiteral("cmdCOUL(%1)").arg(team), {}, kSelectColour);
@@ -286,8 +287,8 @@ QWidget* ScorePanel::makeLeads() {
     layout->addWidget(lead.times, 1, place + 1);
     layout->setColumnStretch(place, 3);
     layout->setColumnStretch(place + 1, 2);
-    layout->setColumnMinimumWidth(place, kWidth / 6);
-    layout->setColumnMinimumWidth(place + 1, kWidth / 8);
+    layout->setColumnMinimumWidth(place, kLeastWidth / 6);
+    layout->setColumnMinimumWidth(place + 1, kLeastWidth / 8);
     place += 2;
     for (QWidget* part : {title, lead.time, lead.times})
       setToolTipNumber(*part, kTimeInLeadHint);

@@ -47,7 +47,10 @@ constexpr int kLeaveUnwritten = 1916;
 constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
 constexpr auto kRetryInterval = 2s;
 constexpr int kGap = 4;
-constexpr int kSideWidth = 256;
+// The side column takes a share of a wide window, so that names and words are not cut there.
+constexpr int kLeastSide = 256;
+constexpr int kMostSide = 340;
+constexpr double kSideShare = 0.187;
 
 } // namespace
 
@@ -112,7 +115,7 @@ QWidget* frmLIVE::makePanels() {
 
 QWidget* frmLIVE::makeSide() {
   auto* side = new QWidget(this);
-  side->setFixedWidth(kSideWidth);
+  m_side = side;
   m_score = new ScorePanel(m_texts, side);
   m_bench = new BenchPanel(m_texts, side);
   m_events = new LiveEventPanel(m_texts, side);
@@ -165,9 +168,10 @@ void frmLIVE::connectEverything() {
   connect(m_bench, &BenchPanel::onCourtAsked, this, &frmLIVE::setOnCourt);
   connect(m_bench, &BenchPanel::selected, this, &frmLIVE::showSelected);
   connect(m_bench, &BenchPanel::actionAsked, this, &frmLIVE::record);
-  connect(m_followUp, &FollowUpBar::assistChosen, this, [this](int slot) { act(slot, EventCode::SA); });
-  connect(m_followUp, &FollowUpBar::reboundChosen, this,
-          [this](int slot, bool isOffensive) { act(slot, isOffensive ? EventCode::SOR : EventCode::SDR); });
+  connect(m_followUp, &FollowUpBar::assistChosen, this, [this](int slot) { followUp(slot, EventCode::SA); });
+  connect(m_followUp, &FollowUpBar::reboundChosen, this, [this](int slot, bool isOffensive) {
+    followUp(slot, isOffensive ? EventCode::SOR : EventCode::SDR);
+  });
   auto* requests = new EventRequests(m_game, *m_events, m_settings, m_texts, m_dialogs, *this);
   connect(requests, &EventRequests::gameChanged, this, &frmLIVE::showGame);
   connect(m_keys, &LiveKeys::clockPressed, this, &frmLIVE::toggleClock);
@@ -186,6 +190,10 @@ void frmLIVE::connectEverything() {
   };
   onKey(Qt::Key_Space, &frmLIVE::toggleClock);
   onKey(Qt::Key_Escape, [this] { m_bench->clearSelection(); });
+}
+
+void frmLIVE::resizeEvent(QResizeEvent*) {
+  m_side->setFixedWidth(std::clamp(static_cast<int>(width() * kSideShare), kLeastSide, kMostSide));
 }
 
 frmLIVE::Opening frmLIVE::open(const QString& path) {
@@ -337,12 +345,17 @@ void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pa
   afterShot(team, m_game.playerIn(slot), kind, isMade);
 }
 
-// Beside the shooter's panel, or the first of his team for one who is not on court.
+// Over the shooter's panel, or the first of his team for one who is not on court.
 void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
   const auto followUps = m_game.followUps(team, player, kind, isMade, m_settings.asksRebounds);
   const int slot = m_game.slotOf(team, player).value_or(team * LiveGame::kSlotsOfTeam);
   PlayerPanel* panel = m_panels[static_cast<std::size_t>(slot)];
-  m_followUp->ask(m_game, followUps, team, panel->mapToGlobal(QPoint(0, panel->height() / 2)));
+  m_followUp->ask(m_game, followUps, team, QRect(panel->mapToGlobal(QPoint(0, 0)), panel->size()));
+}
+
+void frmLIVE::followUp(int slot, EventCode kind) {
+  m_game.recordFollowUp(LiveGame::teamOf(slot), m_game.playerIn(slot), kind);
+  showGame();
 }
 
 void frmLIVE::act(int slot, EventCode kind) {

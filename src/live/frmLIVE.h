@@ -57,6 +57,7 @@ class frmLIVE : public ChildWindow {
   // A player of the bench, dropped on a panel of his team: he comes for the one who stands there.
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  signals:
   void commandStateChanged(); // the clock was started or stopped
@@ -81,6 +82,7 @@ class frmLIVE : public ChildWindow {
              std::optional<std::pair<double, double>> place = std::nullopt);
   void pressCourt(int slot, const QPointF& place, bool isMade);
   void act(int slot, EventCode kind);
+  void followUp(int slot, EventCode kind);
   void record(int team, int player, EventCode kind);
   bool playsRight(int slot) const { return (LiveGame::teamOf(slot) == 1) != m_isSwitched; }
   void chooseColour(int team);
@@ -104,6 +106,7 @@ class frmLIVE : public ChildWindow {
   BenchPanel* m_bench = nullptr;
   LiveEventPanel* m_events = nullptr;
   FollowUpBar* m_followUp = nullptr;
+  QWidget* m_side = nullptr; // the column beside the panels
   LiveKeys* m_keys = nullptr;
 };
 

@@ -290,7 +290,8 @@ TEST_F(FollowUpTest, AnythingElsewhereClosesItAndHappens) {
 }
 
 TEST_F(FollowUpTest, StaysInsideTheWindow) {
-  bar.ask(live, live.followUps(0, 1, EventCode::GFG, false, true), 0, window.mapToGlobal(QPoint(690, 490)));
+  bar.ask(live, live.followUps(0, 1, EventCode::GFG, false, true), 0,
+          QRect(window.mapToGlobal(QPoint(690, 490)), QSize(200, 300)));
   EXPECT_TRUE(window.rect().contains(bar.geometry()));
 }
 

@@ -54,6 +54,24 @@ class LiveGameTest : public testing::Test {
   LiveGame live{store, time};
 };
 
+TEST_F(LiveGameTest, AnAnswerThatComesBehindTheBuzzerBelongsToItsShot) {
+  bothOnCourt();
+  live.start();
+  pass(597);
+  ASSERT_TRUE(live.recordShot(0, 1, EventCode::GF3, false, {{110, 20}}));
+  pass(5);
+  ASSERT_EQ(live.period(), 2);
+  EXPECT_TRUE(live.recordFollowUp(1, 2, EventCode::SDR));
+  EXPECT_TRUE(lines().ends_with(
+      "00:03,GF3A,0-4,110,20 00:03,SDR,1-5 00:00,ARRET,IN-04-05-10-12-15,IN-04-05-10-12-15"))
+      << lines();
+  EXPECT_EQ(lines(2), "");
+  EXPECT_TRUE(live.log().countsAgree());
+  EXPECT_TRUE(live.recordShot(1, 1, EventCode::GFT, false));
+  EXPECT_TRUE(live.recordFollowUp(0, 2, EventCode::SOR));
+  EXPECT_EQ(lines(2), " 10:00,GFTA,1-4 10:00,SOR,0-5");
+}
+
 TEST_F(LiveGameTest, RecordsClockSubstitutionsAndShotsAsTheFileKeepsThem) {
   for (int player = 5; player >= 1; --player)
     EXPECT_TRUE(live.toggleOnCourt(0, player));
