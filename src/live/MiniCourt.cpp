@@ -1,7 +1,7 @@
 #include "live/MiniCourt.h"
 
+#include "appearance/CourtClick.h"
 #include "appearance/Theme.h"
-#include "live/CourtClick.h"
 #include "storage/Settings.h"
 
 #include <QMouseEvent>

@@ -1,10 +1,10 @@
 #include "live/frmEDIT.h"
 
+#include "appearance/CourtClick.h"
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/CourtClick.h"
 #include "live/MiniCourt.h"
 #include "live/StatButton.h"
 #include "live/StatControls.h"

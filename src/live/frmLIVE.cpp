@@ -1,10 +1,10 @@
 #include "live/frmLIVE.h"
 
+#include "appearance/CourtClick.h"
 #include "appearance/Dialogs.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/BenchPanel.h"
-#include "live/CourtClick.h"
 #include "live/EventRequests.h"
 #include "live/FollowUpBar.h"
 #include "live/JerseyButton.h"

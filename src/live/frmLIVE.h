@@ -3,8 +3,8 @@
 #pragma once
 
 #include "appearance/ChildWindow.h"
+#include "appearance/GameLock.h"
 #include "appearance/ZoneMap.h"
-#include "live/GameLock.h"
 #include "live/LiveGame.h"
 
 #include <QTimer>

@@ -1,8 +1,8 @@
 #include "scorecard/TeamPlate.h"
 
+#include "appearance/ElidedLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "scorecard/ElidedLabel.h"
 
 #include <QGridLayout>
 

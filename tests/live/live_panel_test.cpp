@@ -1,6 +1,6 @@
 #include "live/LivePanel.h"
 
-#include "live/CourtClick.h"
+#include "appearance/CourtClick.h"
 #include "live/LiveGame.h"
 #include "live/ManualTime.h"
 #include "storage/FileSystem.h"

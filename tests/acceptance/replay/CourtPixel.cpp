@@ -1,7 +1,7 @@
 #include "CourtPixel.h"
 
 #include "Program.h"
-#include "live/CourtClick.h"
+#include "appearance/CourtClick.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "live/CourtClick.h"
+#include "appearance/CourtClick.h"
 
 namespace hooptab {
 

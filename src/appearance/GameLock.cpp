@@ -1,4 +1,4 @@
-#include "live/GameLock.h"
+#include "appearance/GameLock.h"
 
 #include <QFileInfo>
 

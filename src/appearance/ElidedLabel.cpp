@@ -1,4 +1,4 @@
-#include "scorecard/ElidedLabel.h"
+#include "appearance/ElidedLabel.h"
 
 #include <QHelpEvent>
 #include <QPainter>

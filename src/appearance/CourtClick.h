@@ -1,4 +1,4 @@
-// What a click on a panel's court means: which field goal, and where it is kept. Knows the zones and the side
+// What a click on a court means: which field goal, and where it is kept. Knows the zones and the side
 // that the team plays on; whoever was clicked and made or missed are the caller's.
 #pragma once
 
