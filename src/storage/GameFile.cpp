@@ -325,6 +325,19 @@ GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
   return write(batch);
 }
 
+GameFileProblem GameFile::writeLines(int period, const std::vector<std::string>& lines) {
+  if (const GameFileProblem problem = validate(); problem != GameFileProblem::None)
+    return problem;
+  PeriodLines numbered;
+  numbered.reserve(lines.size());
+  for (const std::string& line : lines)
+    numbered.emplace_back(std::to_string(numbered.size() + 1), line);
+  ProfileBatch batch;
+  batch.setSectionLines(periodSection(period), std::move(numbered));
+  batch.set(std::string(kDetailsSection), "TERMINE", lines.empty() ? "0" : "1");
+  return write(batch);
+}
+
 GameFileProblem GameFile::setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues) {
   if (const GameFileProblem problem = validate(); problem != GameFileProblem::None)
     return problem;

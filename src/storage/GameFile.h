@@ -65,6 +65,9 @@ class GameFile {
   // Takes the steps in their order, as one batch; EVENUM follows new events. Nothing is changed when one of
   // them cannot be taken.
   [[nodiscard]] GameFileProblem change(const std::vector<EventChange>& steps);
+  // The event lines of a period become these, numbered from 1, and the game is finished when there are any;
+  // one batch. For games of totals, which are written whole.
+  [[nodiscard]] GameFileProblem writeLines(int period, const std::vector<std::string>& lines);
   // Marks events as deleted ("E" in front of the line) or takes the mark away; the rest of each line is
   // unchanged. One batch.
   struct EventKey {
