@@ -92,14 +92,21 @@ int CourtView::markAt(const QPointF& position) const {
   return nearest;
 }
 
+std::optional<court::Place> CourtView::placeAt(const QPointF& position) const {
+  const QRectF picture = pictureRect();
+  if (!picture.contains(position))
+    return std::nullopt;
+  const QPointF place = CourtPicture::fromCourt(picture, m_turn).inverted().map(position);
+  return court::Place{place.x(), place.y()};
+}
+
 QString CourtView::toolTipAt(const QPointF& position) const {
   if (!m_showsZones)
     return m_toolTips.value(markAt(position));
-  const QRectF picture = pictureRect();
-  if (!picture.contains(position))
+  const auto place = placeAt(position);
+  if (!place)
     return {};
-  const QPointF place = CourtPicture::fromCourt(picture, m_turn).inverted().map(position);
-  const court::ChartZone zone = court::chartZone({place.x(), place.y()});
+  const court::ChartZone zone = court::chartZone(*place);
   const auto found = std::ranges::find(m_zones, zone, &CourtZoneText::zone);
   return found == m_zones.end() ? QString() : found->toolTip;
 }

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 namespace hooptab {
@@ -27,6 +28,8 @@ class CourtView : public QWidget {
 
   // The mark at a position in the widget, the nearest within reach; -1 for none.
   [[nodiscard]] int markAt(const QPointF& position) const;
+  // The place under a position; nothing beside the court.
+  [[nodiscard]] std::optional<court::Place> placeAt(const QPointF& position) const;
 
   QSize sizeHint() const override;
   bool hasHeightForWidth() const override { return true; }

@@ -1,0 +1,304 @@
+#include "manual/frmMANUAL.h"
+
+#include "appearance/Dialogs.h"
+#include "appearance/ElidedLabel.h"
+#include "appearance/Fields.h"
+#include "appearance/Mnemonics.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "manual/ScoreCheck.h"
+#include "manual/ShotPanel.h"
+#include "manual/TotalsTable.h"
+#include "storage/Settings.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include <chrono>
+
+namespace hooptab {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kErrorTitle = 1060;
+constexpr int kWarningTitle = 1139;
+constexpr int kWindowTitle = 1243;
+constexpr int kRecordedElsewhere = 1913;
+constexpr int kCannotBeLocked = 1914;
+constexpr int kSaveFirst = 2280;
+constexpr int kClearTeam = 2281;
+constexpr int kLinesBeside = 2282;
+constexpr int kNotOnDisk = 2283;
+constexpr int kLeaveUnwritten = 2284;
+constexpr int kSaved = 2285;
+constexpr int kChoosePlayer = 2291;
+constexpr int kUnderMade = 2292;
+constexpr int kUnderPlaced = 2293;
+constexpr int kOutOfRange = 2294;
+constexpr int kTeamEntered = 2299;
+
+constexpr auto kRetryInterval = 2s;
+constexpr int kMargin = 8;
+constexpr int kTeamWidth = 240;
+constexpr int kTableShare = 5; // of the window's width, and the shots' share
+constexpr int kShotShare = 3;
+
+} // namespace
+
+frmMANUAL::frmMANUAL(cinifile& store, const Settings& settings, const Texts& texts, Dialogs& dialogs,
+                     QWidget* parent)
+    : ChildWindow(parent), m_texts(texts), m_dialogs(dialogs), m_game(store), m_notice(noticeLabel(this)),
+      m_banner(noticeLabel(this)) {
+  setObjectName(QStringLiteral("frmMANUAL"));
+  m_banner->setObjectName(QStringLiteral("lblNOTONDISK"));
+  m_retryOfWrites.setInterval(kRetryInterval);
+  m_table = new TotalsTable(m_game, settings, m_texts, this);
+  m_shots = new ShotPanel(m_game, settings, m_texts, this);
+
+  auto* parts = new QHBoxLayout;
+  parts->setSpacing(2 * kMargin);
+  parts->addWidget(m_table, kTableShare);
+  parts->addWidget(m_shots, kShotShare);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setSpacing(kMargin);
+  layout->addWidget(m_banner);
+  layout->addWidget(m_notice);
+  layout->addWidget(makeHead());
+  layout->addWidget(makePlayerBar());
+  layout->addLayout(parts, 1);
+  connectEverything();
+  setFocusProxy(m_table);
+}
+
+// The parts still look at the game when they lose the focus, so they go before it does.
+frmMANUAL::~frmMANUAL() {
+  qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
+QWidget* frmMANUAL::makeHead() {
+  auto* head = new QWidget(this);
+  m_teams = new QComboBox(head);
+  m_teams->setObjectName(QStringLiteral("cmbTEAM"));
+  m_teams->setFixedWidth(kTeamWidth);
+  setAccessibleNumber(*m_teams, kTeamEntered);
+  setToolTipNumber(*m_teams, kTeamEntered);
+  m_score = new ScoreCheck(m_game, m_texts, head);
+  auto* layout = new QHBoxLayout(head);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kMargin);
+  layout->addWidget(m_teams);
+  layout->addWidget(m_score);
+  layout->addStretch();
+  layout->addWidget(iconButton("cmdZERO", 1239, 1240, "clear", head));
+  return head;
+}
+
+QWidget* frmMANUAL::makePlayerBar() {
+  auto* bar = new QWidget(this);
+  m_entry = new QLabel(bar); // never shown: which slot is worked on
+  m_entry->setObjectName(QStringLiteral("lblID"));
+  m_entry->hide();
+  m_player = new ElidedLabel(bar);
+  m_player->setObjectName(QStringLiteral("lblNom"));
+  m_player->setFont(Theme::figures(font().pointSize() + 2, true));
+  m_hint = new ElidedLabel(bar);
+  m_hint->setObjectName(QStringLiteral("lblHINT"));
+  m_hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  auto* layout = new QHBoxLayout(bar);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kMargin);
+  layout->addWidget(iconButton("cmdNEXT", 1222, 1223, "switch", bar));
+  layout->addWidget(m_player, 1);
+  layout->addWidget(m_hint, 2);
+  return bar;
+}
+
+void frmMANUAL::connectEverything() {
+  connect(m_teams, &QComboBox::currentIndexChanged, this, &frmMANUAL::chooseTeam);
+  const auto onClick = [this](const char* name, auto act) {
+    connect(findChild<QPushButton*>(QLatin1String(name)), &QPushButton::clicked, this, act);
+  };
+  onClick("cmdNEXT", [this] { m_table->nextPage(); });
+  onClick("cmdZERO", [this] { clearTeam(); });
+  connect(m_table, &TotalsTable::pageAsked, this, [this] { m_table->nextPage(); });
+  connect(m_table, &TotalsTable::playerChanged, this, &frmMANUAL::showPlayer);
+  connect(m_table, &TotalsTable::totalsChanged, this, &frmMANUAL::showTotals);
+  connect(m_table, &TotalsTable::typedRefused, this, &frmMANUAL::showRefusal);
+  connect(m_shots, &ShotPanel::totalsChanged, this, &frmMANUAL::showTotals);
+  connect(m_shots, &ShotPanel::playerMissing, this, [this] { showHint(caption(m_texts, kChoosePlayer)); });
+  connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
+    if (m_game.retry())
+      emit saved();
+    showDisk();
+  });
+}
+
+frmMANUAL::Opening frmMANUAL::open(const QString& path) {
+  GameLock lock;
+  const GameLock::Outcome outcome = lock.acquire(path);
+  if (outcome != GameLock::Outcome::Held && QFileInfo(path) != QFileInfo(this->path())) {
+    const bool isElsewhere = outcome == GameLock::Outcome::HeldElsewhere;
+    m_dialogs.warn(this, toQt(m_texts.text(kErrorTitle)),
+                   toQt(m_texts.withPlaceholder(isElsewhere ? kRecordedElsewhere : kCannotBeLocked,
+                                                fromQt(isElsewhere ? lock.owner() : path))));
+    return Opening::Refused;
+  }
+  m_problem = m_game.open(fromQt(QFileInfo(path).absoluteFilePath()));
+  if (m_problem != GameFileProblem::None)
+    return Opening::Problem;
+  if (outcome == GameLock::Outcome::Held)
+    m_lock = std::move(lock);
+  m_score->beginGame();
+  relabelWindow();
+  chooseTeam(0);
+  return Opening::Opened;
+}
+
+QString frmMANUAL::path() const {
+  return toQt(m_game.path());
+}
+
+// --- What the user does
+
+void frmMANUAL::chooseTeam(int team) {
+  m_team = team;
+  const QSignalBlocker quiet(m_teams);
+  m_teams->setCurrentIndex(team);
+  m_table->setTeam(team);
+  showTotals();
+}
+
+void frmMANUAL::clearTeam() {
+  m_table->takeTyped();
+  if (!m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)),
+                     toQt(m_texts.withPlaceholder(kClearTeam, fromQt(m_teams->currentText())))))
+    return;
+  m_game.totals.clear(m_team);
+  showTotals();
+}
+
+void frmMANUAL::save() {
+  if (!m_table->takeTyped())
+    return;
+  if (m_game.save()) {
+    emit saved();
+    emit reported(toQt(m_texts.withPlaceholder(kSaved, fromQt(QFileInfo(path()).fileName()))));
+  }
+  showTotals();
+}
+
+bool frmMANUAL::mayClose() {
+  if (!m_table->takeTyped())
+    return false;
+  if (!m_game.isSaved()) {
+    const QString question = toQt(m_texts.withPlaceholder(kSaveFirst, fromQt(QFileInfo(path()).fileName())));
+    switch (m_dialogs.askToSave(this, toQt(m_texts.text(kWarningTitle)), question)) {
+    case SaveChoice::Stay: return false;
+    case SaveChoice::Save: save(); break;
+    case SaveChoice::Discard: break;
+    }
+  }
+  if (m_game.retry())
+    return true;
+  showDisk();
+  return m_dialogs.ask(this, toQt(m_texts.text(kErrorTitle)), caption(m_texts, kLeaveUnwritten));
+}
+
+// --- What is shown
+
+void frmMANUAL::showTotals() {
+  m_table->showTotals();
+  m_score->showPoints();
+  showPlayer();
+  showDisk();
+}
+
+void frmMANUAL::showPlayer() {
+  const int slot = m_table->player();
+  const RosterPlayer* player = m_game.roster(m_team).player(slot);
+  m_entry->setText(QString::number(slot));
+  m_player->setText(
+      player == nullptr ? QString() : QStringLiteral("%1  %2").arg(toQt(player->jersey), toQt(player->name)));
+  m_shots->showShots(m_team, slot);
+  if (player == nullptr)
+    return showHint(caption(m_texts, kChoosePlayer));
+  showHint({});
+}
+
+void frmMANUAL::showRefusal(ManualTotals::Typed reason, const ManualColumn& column) {
+  const ManualSlot& slot = m_game.totals.slot(m_team, m_table->player());
+  const int made = slot.counts()[kindOf(column.code)->counter];
+  switch (reason) {
+  case ManualTotals::Typed::UnderMade:
+    return showHint(toQt(m_texts.withPlaceholder(kUnderMade, std::to_string(made))));
+  case ManualTotals::Typed::UnderPlaced: return showHint(caption(m_texts, kUnderPlaced));
+  case ManualTotals::Typed::OutOfRange:
+    return showHint(toQt(m_texts.withPlaceholder(kOutOfRange, std::to_string(ManualTotals::kLargestCount))));
+  case ManualTotals::Typed::Taken: break;
+  }
+}
+
+void frmMANUAL::showHint(const QString& text) {
+  m_hint->setText(text);
+  QPalette colours;
+  colours.setColor(QPalette::WindowText, Theme::missed());
+  m_hint->setPalette(colours);
+}
+
+void frmMANUAL::showTeams() {
+  const QSignalBlocker quiet(m_teams);
+  m_teams->clear();
+  for (int team = 0; team < 2; ++team) {
+    const GameDetails& details = m_game.details();
+    m_teams->addItem(
+        QStringLiteral("%1 - %2").arg(toQt(details.abbreviation[team]), toQt(details.name[team])));
+  }
+  m_teams->setCurrentIndex(m_team);
+}
+
+void frmMANUAL::showDisk() {
+  m_banner->setText(caption(m_texts, kNotOnDisk));
+  m_banner->setVisible(!m_game.isOnDisk());
+  if (m_game.isOnDisk())
+    m_retryOfWrites.stop();
+  else if (!m_retryOfWrites.isActive())
+    m_retryOfWrites.start();
+  const GameDetails& details = m_game.details();
+  const auto points = [this](int team) { return QString::number(pointsOf(m_game.totals.teamCounts(team))); };
+  setWindowTitle(QStringLiteral("%1 - %2 %3 - %4 %5[*]")
+                     .arg(toQt(m_texts.text(kWindowTitle)), toQt(details.abbreviation[0]), points(0),
+                          points(1), toQt(details.abbreviation[1])));
+  setWindowModified(!m_game.isSaved());
+}
+
+void frmMANUAL::relabelWindow() {
+  relabel(*this, m_texts);
+  showTeams();
+  const std::size_t beside = m_game.totals.linesBeside();
+  m_notice->setText(toQt(m_texts.withPlaceholder(kLinesBeside, std::to_string(beside))));
+  m_notice->setVisible(beside > 0);
+  m_table->relabelTable();
+  m_shots->relabelPanel();
+  giveMnemonics(*this);
+  applyColours();
+  showTotals();
+}
+
+void frmMANUAL::applyColours() {
+  QPalette colours = m_banner->palette();
+  colours.setColor(QPalette::Highlight, Theme::missed());
+  colours.setColor(QPalette::HighlightedText, textOn(Theme::missed()));
+  m_banner->setPalette(colours);
+  m_table->applyColours();
+  m_shots->applyColours();
+  m_score->showPoints();
+}
+
+} // namespace hooptab

@@ -1,0 +1,82 @@
+// The window in which a game's totals are entered from a paper sheet: a table of one team's players, the
+// court with the chosen player's field goals, and the score beside the official one. Lays out and forwards;
+// what counts is decided by the totals, and nothing is on disk before they are saved.
+#pragma once
+
+#include "appearance/ChildWindow.h"
+#include "appearance/GameLock.h"
+#include "manual/ManualColumns.h"
+#include "manual/ManualGame.h"
+
+#include <QTimer>
+
+class QComboBox;
+class QLabel;
+
+namespace hooptab {
+
+class Dialogs;
+class ElidedLabel;
+class ScoreCheck;
+class Settings;
+class ShotPanel;
+class Texts;
+class TotalsTable;
+
+class frmMANUAL : public ChildWindow {
+  Q_OBJECT
+ public:
+  // All must outlive it.
+  frmMANUAL(cinifile& store, const Settings& settings, const Texts& texts, Dialogs& dialogs,
+            QWidget* parent = nullptr);
+  ~frmMANUAL() override;
+
+  // A game that is recorded elsewhere, or cannot be written, is refused with a message of its own. On every
+  // problem what was open stays; else its unsaved totals are gone: ask first whether it agrees to close.
+  enum class Opening { Opened, Refused, Problem };
+  [[nodiscard]] Opening open(const QString& path);
+  GameFileProblem problem() const { return m_problem; } // after Problem
+  QString path() const;
+
+  void save();
+
+  void relabelWindow() override;
+  void applyColours() override;
+  bool mayClose() override;
+
+ signals:
+  void saved(); // and on disk
+
+ private:
+  QWidget* makeHead();
+  QWidget* makePlayerBar();
+  void connectEverything();
+  void chooseTeam(int team);
+  void clearTeam();
+  void showTotals();
+  void showPlayer();
+  void showTeams();
+  void showDisk();
+  void showRefusal(ManualTotals::Typed reason, const ManualColumn& column);
+  void showHint(const QString& text);
+
+  const Texts& m_texts;
+  Dialogs& m_dialogs;
+  ManualGame m_game;
+  GameFileProblem m_problem = GameFileProblem::None;
+  GameLock m_lock;
+  int m_team = 0;
+  QTimer m_retryOfWrites;
+
+  QLabel* m_notice = nullptr; // lines that the table does not show
+  QLabel* m_banner = nullptr; // not on disk
+  QComboBox* m_teams = nullptr;
+  ScoreCheck* m_score = nullptr;
+  QLabel* m_entry = nullptr; // lblID
+  ElidedLabel* m_player = nullptr;
+  ElidedLabel* m_hint = nullptr;
+  TotalsTable* m_table = nullptr;
+  ShotPanel* m_shots = nullptr;
+};
+
+} // namespace hooptab
