@@ -49,7 +49,7 @@ constexpr Command kCommands[] = {
     {"SWITCH", "", 1043, "switch", Live, Action, "F9", false, kBuilt},
     {"GAMEOVER", "", 1044, "gameover", Live, Action, "Ctrl+G", false, kBuilt},
     {"livePRINT", "", 1224, "liveprint", Live},
-    {"saveMANUAL", "", 1384, "savemanual", Manual, Action, "Ctrl+S"},
+    {"saveMANUAL", "", 1384, "savemanual", Manual, Action, "Ctrl+S", false, kBuilt},
     {"CLOSELIVEMANUAL", "", 1294, "closelivemanual", LiveOrManual, Action, "Ctrl+Shift+W", false, kBuilt},
 
     {"SETTINGS", "", 1046, "settings", Always, Menu, "", kSeparator},

@@ -8,6 +8,7 @@
 #include "appearance/relabel.h"
 #include "live/frmConfiguration.h"
 #include "live/frmLIVE.h"
+#include "manual/frmMANUAL.h"
 #include "scorecard/frmVIEW.h"
 #include "setup/frmNEWGAME.h"
 #include "shell/CommandBar.h"
@@ -154,6 +155,14 @@ void MDI::carryOut(const QString& key) {
       return;
     }
   }
+  if (frmMANUAL* window = manual()) {
+    if (key == u"saveMANUAL")
+      return window->save();
+    if (key == u"CLOSELIVEMANUAL") {
+      window->parentWidget()->close();
+      return;
+    }
+  }
   if (key == u"gEQUIPE")
     return openTeams();
   if (key == u"tbTERRAIN")
@@ -212,28 +221,92 @@ void MDI::chooseGameForInput() {
 }
 
 void MDI::openForInput(const QString& path) {
+  if (manualAgreesToClose())
+    replaceInput(path);
+}
+
+// What is not saved of the totals that are open is asked for before another game takes their place.
+bool MDI::manualAgreesToClose() {
+  frmMANUAL* window = manual();
+  if (window == nullptr)
+    return true;
+  const bool agrees = window->agreesToClose();
+  window->stay(); // should it not come to that, closing it asks again
+  return agrees;
+}
+
+void MDI::replaceInput(const QString& path) {
   GameDetails details;
   if (const GameFileProblem problem = GameFile(m_workshop.store, fromQt(path)).readDetails(details);
       problem != GameFileProblem::None)
     return refuse(problem, path);
-  if (details.inputType != 0)
-    return openGame(path);
+  if (details.inputType == 0)
+    openLive(path);
+  else
+    openManual(path);
+}
+
+// The window for the other kind of input makes room; at once, so that it gives up the lock on its game.
+void MDI::closeInput(ChildWindow* window) {
+  if (window != nullptr)
+    delete window->parentWidget();
+}
+
+void MDI::openLive(const QString& path) {
+  if (manual() != nullptr && QFileInfo(manual()->path()) == QFileInfo(path)) // it was made anew
+    closeInput(manual());
   frmLIVE* open = live();
   std::unique_ptr<frmLIVE> fresh;
-  if (open == nullptr)
+  if (open == nullptr) {
     fresh = std::make_unique<frmLIVE>(m_workshop.store, m_workshop.settings, m_workshop.texts,
                                       m_workshop.dialogs, m_workshop.time);
+    fresh->setKeypad(m_keypad);
+    connect(fresh.get(), &frmLIVE::commandStateChanged, this, &MDI::showCommands);
+  }
   frmLIVE& window = open == nullptr ? *fresh : *open;
   switch (window.open(path)) {
   case frmLIVE::Opening::Opened: break;
   case frmLIVE::Opening::Refused: return;
   case frmLIVE::Opening::Problem: return refuse(window.problem(), path);
   }
+  closeInput(manual());
+  showInput(path, window, std::move(fresh));
+}
+
+void MDI::openManual(const QString& path) {
+  if (frmLIVE* other = live()) {
+    const bool agrees = other->agreesToClose();
+    other->stay();
+    if (!agrees)
+      return;
+    if (QFileInfo(other->path()) == QFileInfo(path)) // it was made anew
+      closeInput(other);
+  }
+  frmMANUAL* open = manual();
+  std::unique_ptr<frmMANUAL> fresh;
+  if (open == nullptr) {
+    fresh = std::make_unique<frmMANUAL>(m_workshop.store, m_workshop.settings, m_workshop.texts,
+                                        m_workshop.dialogs);
+    connect(fresh.get(), &frmMANUAL::saved, this, [this, window = fresh.get()] {
+      if (frmVIEW* view = scorecardOf(window->path()))
+        view->refresh();
+    });
+  }
+  frmMANUAL& window = open == nullptr ? *fresh : *open;
+  switch (window.open(path)) {
+  case frmMANUAL::Opening::Opened: break;
+  case frmMANUAL::Opening::Refused: return;
+  case frmMANUAL::Opening::Problem: return refuse(window.problem(), path);
+  }
+  closeInput(live());
+  showInput(path, window, std::move(fresh));
+}
+
+// `fresh` owns the window where it is not in the area yet.
+void MDI::showInput(const QString& path, ChildWindow& window, std::unique_ptr<ChildWindow> fresh) {
   m_workshop.memory.rememberFile(fromQt(QFileInfo(path).absoluteFilePath()));
-  if (open != nullptr)
-    return bringToFront(*open);
-  fresh->setKeypad(m_keypad);
-  connect(fresh.get(), &frmLIVE::commandStateChanged, this, &MDI::showCommands);
+  if (fresh == nullptr)
+    return bringToFront(window);
   addChild(fresh.release());
 }
 
@@ -248,6 +321,8 @@ void MDI::openGame(const QString& path) {
 }
 
 void MDI::makeGame() {
+  if (!manualAgreesToClose())
+    return;
   frmNEWGAME window(m_teams, m_workshop.settings, m_workshop.texts, m_workshop.dialogs,
                     m_workshop.memory.lastGame(), this);
   connect(&window, &frmNEWGAME::languageAsked, this, [this, &window] {
@@ -261,7 +336,7 @@ void MDI::makeGame() {
   m_workshop.memory.rememberLastGame(window.choices());
   if (frmVIEW* old = scorecardOf(window.path())) // of the game that was written over
     old->refresh();
-  openForInput(window.path());
+  replaceInput(window.path());
 }
 
 void MDI::openTeams() {
@@ -372,6 +447,14 @@ frmLIVE* MDI::live() const {
   return nullptr;
 }
 
+frmMANUAL* MDI::manual() const {
+  for (ChildWindow* child : children()) {
+    if (auto* window = qobject_cast<frmMANUAL*>(child))
+      return window;
+  }
+  return nullptr;
+}
+
 frmVIEW* MDI::scorecard() const {
   const QMdiSubWindow* window = m_area->currentSubWindow();
   return window == nullptr ? nullptr : qobject_cast<frmVIEW*>(window->widget());
@@ -397,6 +480,7 @@ void MDI::showCommands() {
   }
   if (const frmLIVE* window = live())
     modes.live = window->isRunning() ? LiveClock::Running : LiveClock::Stopped;
+  modes.hasManual = manual() != nullptr;
   modes.asksRebounds = m_workshop.settings.asksRebounds;
   modes.keypadIsActive = m_workshop.settings.keypadIsActive;
   m_commands->show(modes, m_workshop.texts);

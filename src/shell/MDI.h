@@ -15,6 +15,8 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include <memory>
+
 class QLabel;
 class QMdiArea;
 class QStackedWidget;
@@ -29,6 +31,7 @@ class SharedFiles;
 class TimeSource;
 class WindowMemory;
 class frmLIVE;
+class frmMANUAL;
 class frmVIEW;
 
 // What the main window works with; made by main, which keeps it alive.
@@ -65,8 +68,15 @@ class MDI : public QMainWindow {
   [[nodiscard]] QString askForGame(int title); // empty when cancelled
   void chooseGame();
   void chooseGameForInput();
-  // In the live window, or in the scorecard for a game of totals. One live window at a time: it takes the next game.
+  // In the live window, or in manual entry for a game of totals. One window for input at a time: it takes the
+  // next game, or makes room for the other.
   void openForInput(const QString& path);
+  void openLive(const QString& path);
+  void openManual(const QString& path);
+  void replaceInput(const QString& path);
+  void closeInput(ChildWindow* window);
+  void showInput(const QString& path, ChildWindow& window, std::unique_ptr<ChildWindow> fresh);
+  [[nodiscard]] bool manualAgreesToClose();
   void makeGame();
   void openTeams();
   void openColours();
@@ -81,6 +91,7 @@ class MDI : public QMainWindow {
   void bringToFront(ChildWindow& child);
   [[nodiscard]] QList<ChildWindow*> children() const; // the open windows
   [[nodiscard]] frmLIVE* live() const;      // the one that is open, or null
+  [[nodiscard]] frmMANUAL* manual() const; // the same
   [[nodiscard]] frmVIEW* scorecard() const;           // the one in front, or null
   [[nodiscard]] frmVIEW* scorecardOf(const QString& path) const;
   void showCommands();

@@ -7,6 +7,7 @@
 #include "live/TimeSource.h"
 #include "live/frmConfiguration.h"
 #include "live/frmLIVE.h"
+#include "manual/frmMANUAL.h"
 #include "scorecard/frmVIEW.h"
 #include "setup/frmNEWGAME.h"
 #include "shell/Commands.h"
@@ -380,6 +381,74 @@ TEST_F(MainWindowTest, RecordsAGameAndStopsTheClockBeforeItCloses) {
   Game game;
   ASSERT_EQ(GameFile(store, fromQt(path)).read(game), GameFileProblem::None);
   EXPECT_EQ(game.events[game.events.size() - 1].code, EventCode::ARRET);
+}
+
+TEST_F(MainWindowTest, EntersTotalsInTheirOwnWindowWhichMakesRoomForALiveGame) {
+  const QString path = makeGame("TOTALS.GAM");
+  const QString second = makeGame("SECOND.GAM", "COUGAR");
+  for (const QString& manual : {path, second}) {
+    store.Path(fromQt(manual));
+    store.Section("DETAILS");
+    store.Key("INPUTTYPE");
+    store.Value("1");
+  }
+  const QString live = makeGame("LIVE.GAM");
+  const auto open = [this](const QString& game) {
+    dialogs.nextFile = game;
+    action("LIVEOpen").trigger();
+  };
+  const auto pathOfManual = [this] {
+    const auto* manual = area().findChild<frmMANUAL*>();
+    return manual == nullptr ? QString() : manual->path();
+  };
+  const auto count = [this] {
+    auto* table = area().findChild<frmMANUAL*>()->findChild<QWidget*>(QStringLiteral("tblTOTALS"));
+    table->setFocus();
+    QTest::keyClicks(table, QStringLiteral("+"));
+  };
+  EXPECT_FALSE(action("saveMANUAL").isEnabled());
+  open(path);
+  EXPECT_EQ(pathOfManual(), path);
+  EXPECT_TRUE(action("saveMANUAL").isEnabled() && action("CLOSELIVEMANUAL").isEnabled());
+  EXPECT_FALSE(action("GAMEOVER").isEnabled() || action("SWITCH").isEnabled());
+  window->openGame(path);
+  count();
+  QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+  Game game;
+  ASSERT_EQ(GameFile(store, fromQt(path)).read(game), GameFileProblem::None);
+  EXPECT_EQ(game.events.size(), 3u) << "two with a time, which stay, and one more";
+  EXPECT_EQ(scorecards()[0]->findChild<QLabel*>(QStringLiteral("lblSCORE(0)"))->text(), QStringLiteral("5"))
+      << "the scorecard follows";
+
+  count();
+  for (const QString& other : {second, live}) {
+    open(other);
+    EXPECT_EQ(pathOfManual(), path) << "stays while the totals are not saved";
+    EXPECT_EQ(dialogs.shown.back().kind, Kind::AskToSave);
+  }
+  action("LIVENew").trigger();
+  EXPECT_EQ(dialogs.shown.size(), 3u) << "asked before a new game is even begun";
+  dialogs.nextSaveChoice = SaveChoice::Save;
+  open(second);
+  EXPECT_EQ(pathOfManual(), second);
+  ASSERT_EQ(GameFile(store, fromQt(path)).read(game), GameFileProblem::None);
+  EXPECT_EQ(game.events.size(), 4u);
+  open(live);
+  EXPECT_EQ(pathOfManual(), QString()) << "makes room";
+  EXPECT_FALSE(QFileInfo::exists(second + QStringLiteral(".lock")));
+  EXPECT_FALSE(action("saveMANUAL").isEnabled());
+  ASSERT_NE(area().findChild<frmLIVE*>(), nullptr);
+  open(makeWrongFile());
+  EXPECT_NE(area().findChild<frmLIVE*>(), nullptr) << "a file that is no game closes nothing";
+  open(path);
+  EXPECT_EQ(area().findChild<frmLIVE*>(), nullptr);
+
+  action("CLOSELIVEMANUAL").trigger();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(pathOfManual(), QString());
+  EXPECT_FALSE(action("CLOSELIVEMANUAL").isEnabled());
+  EXPECT_FALSE(QFileInfo::exists(path + QStringLiteral(".lock")));
 }
 
 TEST_F(MainWindowTest, CourtColoursReachOpenWindowsAtOnce) {
