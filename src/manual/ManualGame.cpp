@@ -2,7 +2,7 @@
 
 namespace hooptab {
 
-GameFileProblem ManualGame::open(const std::string& path) {
+GameFileProblem ManualGame::open(const std::string& path, Access access) {
   GameFile file(m_store, path);
   Game game;
   if (const GameFileProblem problem = file.read(game); problem != GameFileProblem::None)
@@ -11,6 +11,7 @@ GameFileProblem ManualGame::open(const std::string& path) {
   if (const GameFileProblem problem = file.readLines(lines); problem != GameFileProblem::None)
     return problem;
   m_path = path;
+  m_access = access;
   m_details = std::move(game.details);
   for (std::size_t team = 0; team < 2; ++team)
     m_rosters[team] = std::move(game.roster[team]);
@@ -21,6 +22,8 @@ GameFileProblem ManualGame::open(const std::string& path) {
 }
 
 bool ManualGame::save() {
+  if (isForReading())
+    return false;
   m_saved = totals;
   if (!m_writes.isEmpty()) // the write that waits takes what was saved last
     return m_writes.retry();

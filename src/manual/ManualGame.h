@@ -16,8 +16,10 @@ class ManualGame {
   ManualGame(const ManualGame&) = delete; // what waits to be written refers to this object
   ManualGame& operator=(const ManualGame&) = delete;
 
+  enum class Access { Entering, Reading }; // reading: whoever changes the totals cannot save them
   // On a problem nothing is changed.
-  [[nodiscard]] GameFileProblem open(const std::string& path);
+  [[nodiscard]] GameFileProblem open(const std::string& path, Access access = Access::Entering);
+  bool isForReading() const { return m_access == Access::Reading; }
   const std::string& path() const { return m_path; }
   const GameDetails& details() const { return m_details; }
   const Roster& roster(int team) const { return m_rosters[team]; }
@@ -34,6 +36,7 @@ class ManualGame {
  private:
   cinifile& m_store;
   std::string m_path;
+  Access m_access = Access::Entering;
   GameDetails m_details;
   Roster m_rosters[2];
   ManualTotals m_saved;

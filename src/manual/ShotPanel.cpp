@@ -77,6 +77,8 @@ ShotPanel::ShotPanel(ManualGame& game, const Settings& settings, const Texts& te
 void ShotPanel::place(EventCode kind, int x, int y, bool isMade) {
   if (m_player == 0)
     return emit playerMissing();
+  if (m_game.isForReading())
+    return;
   m_game.totals.addShot(m_team, m_player, kind, isMade, x, y);
   emit totalsChanged();
   const auto added = std::ranges::find_if(m_entries, [&](const Entry& entry) {
@@ -87,7 +89,7 @@ void ShotPanel::place(EventCode kind, int x, int y, bool isMade) {
 
 void ShotPanel::deleteChosen() {
   const int row = m_list->currentRow();
-  if (row < 0)
+  if (row < 0 || m_game.isForReading())
     return;
   const Entry entry = m_entries[static_cast<std::size_t>(row)];
   m_game.totals.deleteShot(m_team, m_player, entry.kind, entry.index);
@@ -143,7 +145,7 @@ void ShotPanel::showMarks() {
     }
   }
   const int row = m_list->currentRow();
-  m_delete->setEnabled(row >= 0);
+  m_delete->setEnabled(row >= 0 && !m_game.isForReading());
   if (row >= 0) {
     const Entry& entry = m_entries[static_cast<std::size_t>(row)];
     const ManualShot& shot = m_game.totals.slot(m_team, m_player).shots(entry.kind)[entry.index];

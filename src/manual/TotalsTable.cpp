@@ -202,7 +202,7 @@ void TotalsTable::showTotals() {
     showRow(slot);
   for (CountButton* button : m_buttons) {
     if (button != nullptr)
-      button->setEnabled(m_player > 0);
+      button->setEnabled(m_player > 0 && !m_game.isForReading());
   }
   setAccessibleDescription(m_player == 0 ? QString()
                                          : QStringLiteral("%1 %2: %3")
@@ -392,7 +392,7 @@ bool TotalsTable::setCount(const ManualColumn& column, int count) {
 }
 
 void TotalsTable::press(const ManualColumn& column, ManualTotals::Step step) {
-  if (!takeTyped() || m_player == 0)
+  if (!takeTyped() || m_player == 0 || m_game.isForReading())
     return;
   if (kindOf(column.code)->hasPlace) { // has no button: a key in its cell
     const int count = m_game.totals.slot(m_team, m_player).counts()[column.counter];
@@ -407,6 +407,8 @@ void TotalsTable::press(const ManualColumn& column, ManualTotals::Step step) {
 
 // Digits, and what changes them; false for every other key.
 bool TotalsTable::typeInto(const QKeyEvent& event) {
+  if (m_game.isForReading())
+    return false;
   const QString text = event.text();
   if (text.size() == 1 && text[0] >= u'0' && text[0] <= u'9') {
     if (!m_isTyping)

@@ -30,7 +30,7 @@ constexpr int kErrorTitle = 1060;
 constexpr int kWarningTitle = 1139;
 constexpr int kWindowTitle = 1243;
 constexpr int kRecordedElsewhere = 1913;
-constexpr int kCannotBeLocked = 1914;
+constexpr int kForReadingOnly = 1914;
 constexpr int kSaveFirst = 2280;
 constexpr int kClearTeam = 2281;
 constexpr int kLinesBeside = 2282;
@@ -58,6 +58,8 @@ frmMANUAL::frmMANUAL(cinifile& store, const Settings& settings, const Texts& tex
   setObjectName(QStringLiteral("frmMANUAL"));
   m_banner->setObjectName(QStringLiteral("lblNOTONDISK"));
   m_retryOfWrites.setInterval(kRetryInterval);
+  QWidget* head = makeHead(); // made in the order of the Tab key
+  QWidget* bar = makePlayerBar();
   m_table = new TotalsTable(m_game, settings, m_texts, this);
   m_shots = new ShotPanel(m_game, settings, m_texts, this);
 
@@ -70,8 +72,8 @@ frmMANUAL::frmMANUAL(cinifile& store, const Settings& settings, const Texts& tex
   layout->setSpacing(kMargin);
   layout->addWidget(m_banner);
   layout->addWidget(m_notice);
-  layout->addWidget(makeHead());
-  layout->addWidget(makePlayerBar());
+  layout->addWidget(head);
+  layout->addWidget(bar);
   layout->addLayout(parts, 1);
   connectEverything();
   setFocusProxy(m_table);
@@ -143,17 +145,17 @@ void frmMANUAL::connectEverything() {
 frmMANUAL::Opening frmMANUAL::open(const QString& path) {
   GameLock lock;
   const GameLock::Outcome outcome = lock.acquire(path);
-  if (outcome != GameLock::Outcome::Held && QFileInfo(path) != QFileInfo(this->path())) {
-    const bool isElsewhere = outcome == GameLock::Outcome::HeldElsewhere;
+  if (outcome == GameLock::Outcome::HeldElsewhere && QFileInfo(path) != QFileInfo(this->path())) {
     m_dialogs.warn(this, toQt(m_texts.text(kErrorTitle)),
-                   toQt(m_texts.withPlaceholder(isElsewhere ? kRecordedElsewhere : kCannotBeLocked,
-                                                fromQt(isElsewhere ? lock.owner() : path))));
+                   toQt(m_texts.withPlaceholder(kRecordedElsewhere, fromQt(lock.owner()))));
     return Opening::Refused;
   }
-  m_problem = m_game.open(fromQt(QFileInfo(path).absoluteFilePath()));
+  m_problem = m_game.open(fromQt(QFileInfo(path).absoluteFilePath()),
+                          outcome == GameLock::Outcome::CannotBeMade ? ManualGame::Access::Reading
+                                                                     : ManualGame::Access::Entering);
   if (m_problem != GameFileProblem::None)
     return Opening::Problem;
-  if (outcome == GameLock::Outcome::Held)
+  if (outcome != GameLock::Outcome::HeldElsewhere) // by this window, that is
     m_lock = std::move(lock);
   m_score->beginGame();
   relabelWindow();
@@ -177,7 +179,8 @@ void frmMANUAL::chooseTeam(int team) {
 
 void frmMANUAL::clearTeam() {
   m_table->takeTyped();
-  if (!m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)),
+  if (m_game.isForReading() ||
+      !m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)),
                      toQt(m_texts.withPlaceholder(kClearTeam, fromQt(m_teams->currentText())))))
     return;
   m_game.totals.clear(m_team);
@@ -264,8 +267,9 @@ void frmMANUAL::showTeams() {
 }
 
 void frmMANUAL::showDisk() {
-  m_banner->setText(caption(m_texts, kNotOnDisk));
-  m_banner->setVisible(!m_game.isOnDisk());
+  m_banner->setText(m_game.isForReading() ? toQt(m_texts.withPlaceholder(kForReadingOnly, m_game.path()))
+                                          : caption(m_texts, kNotOnDisk));
+  m_banner->setVisible(m_game.isForReading() || !m_game.isOnDisk());
   if (m_game.isOnDisk())
     m_retryOfWrites.stop();
   else if (!m_retryOfWrites.isActive())

@@ -31,8 +31,9 @@ class frmMANUAL : public ChildWindow {
             QWidget* parent = nullptr);
   ~frmMANUAL() override;
 
-  // A game that is recorded elsewhere, or cannot be written, is refused with a message of its own. On every
-  // problem what was open stays; else its unsaved totals are gone: ask first whether it agrees to close.
+  // A game that is recorded elsewhere is refused with a message of its own; one that cannot be written is
+  // shown for reading. On every problem what was open stays; else its unsaved totals are gone: ask first
+  // whether it agrees to close.
   enum class Opening { Opened, Refused, Problem };
   [[nodiscard]] Opening open(const QString& path);
   GameFileProblem problem() const { return m_problem; } // after Problem
@@ -69,7 +70,7 @@ class frmMANUAL : public ChildWindow {
   QTimer m_retryOfWrites;
 
   QLabel* m_notice = nullptr; // lines that the table does not show
-  QLabel* m_banner = nullptr; // not on disk
+  QLabel* m_banner = nullptr; // not on disk, or for reading only
   QComboBox* m_teams = nullptr;
   ScoreCheck* m_score = nullptr;
   QLabel* m_entry = nullptr; // lblID

@@ -303,6 +303,18 @@ TEST_F(ManualWindowTest, KeepsStrangeLinesWithANoticeAndRefusesAGameThatIsOpenEl
   EXPECT_EQ(window->problem(), GameFileProblem::Absent);
   EXPECT_EQ(fromQt(window->path()), strange);
 
+  fs::permissions(path, fs::perms::owner_read);
+  ASSERT_EQ(window->open(toQt(path)), frmMANUAL::Opening::Opened);
+  EXPECT_EQ(shown("lblNOTONDISK"), texts.withPlaceholder(1914, path)) << "for reading";
+  clickRow(1);
+  keys(QStringLiteral("5+"));
+  placeShot(20, 100, Qt::LeftButton);
+  EXPECT_FALSE(find<QPushButton>("cmdBUTFT(0)").isEnabled());
+  EXPECT_EQ(shown("lblSCORE(0)"), "0");
+  fs::permissions(path, fs::perms::owner_all);
+  ASSERT_EQ(window->open(toQt(strange)), frmMANUAL::Opening::Opened);
+  EXPECT_FALSE(find<QLabel>("lblNOTONDISK").isVisible());
+
   texts.setLanguage(Language::French);
   window->relabelWindow();
   EXPECT_EQ(shown("lblNOTICE"), texts.withPlaceholder(2282, "1"));

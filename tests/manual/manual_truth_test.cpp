@@ -1,0 +1,156 @@
+// Real games, entered as totals through the window with clicks and keys as from a paper sheet, must give the
+// official box score to every reader of the file.
+#include "manual/frmMANUAL.h"
+
+#include "appearance/CourtClick.h"
+#include "appearance/CourtView.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "manual/TotalsTable.h"
+#include "storage/Settings.h"
+#include "support/OfficialBox.h"
+#include "support/ScriptedDialogs.h"
+#include "support/SharedGames.h"
+#include "support/TemporaryFolder.h"
+#include "support/TextGame.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace hooptab {
+namespace {
+
+class ManualTruth : public testing::TestWithParam<std::filesystem::path> {
+ protected:
+  void SetUp() override {
+    Theme::apply(*qApp, ColourScheme::Light);
+    (void)settings.prepare(texts);
+    ASSERT_EQ(GameFile(store, GetParam().string()).read(played), GameFileProblem::None);
+    counted = tallied(played);
+    GameDetails details = played.details;
+    details.inputType = 1;
+    path = folder.path("entered.GAM");
+    ASSERT_EQ(GameFile(store, path).create(details, played.roster[0].players(), played.roster[1].players()),
+              GameFileProblem::None);
+    window.resize(1350, 640);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_EQ(window.open(toQt(path)), frmMANUAL::Opening::Opened);
+  }
+
+  template <class Widget>
+  Widget& find(const std::string& name) const {
+    return *window.findChild<Widget*>(toQt(name));
+  }
+  TotalsTable& table() const { return find<TotalsTable>("tblTOTALS"); }
+
+  // Whatever the zones of the court take for what it was: the rest is typed.
+  void placeShots(std::uint8_t team, int player) {
+    auto& view = find<CourtView>("Court");
+    const ZoneMap zones = zoneMapOf(settings);
+    for (const Shot& shot : counted.shots) {
+      const court::Place place{std::floor(shot.x), std::floor(shot.y)};
+      const auto click = CourtClick::of(place, false, zones);
+      const bool isInPicture = place.x < court::kLength && place.y < court::kWidth;
+      if (shot.team != team || shot.player != player || !shot.hasPlace || !click || !isInPicture ||
+          (click->kind == EventCode::GF3) != shot.isThree)
+        continue;
+      const QPoint spot = pixelOf(view, place);
+      QTest::mouseClick(&view, shot.isMade ? Qt::LeftButton : Qt::RightButton, {}, spot);
+      ++placed;
+    }
+  }
+  static QPoint pixelOf(const CourtView& court, court::Place place) {
+    const auto unitAt = [&](int x, int y) { return court.placeAt(QPointF(x, y)); };
+    QPoint spot = court.rect().center();
+    while (unitAt(spot.x(), spot.y())->x < place.x)
+      spot.rx() += 1;
+    while (unitAt(spot.x(), spot.y())->x >= place.x + 1)
+      spot.rx() -= 1;
+    while (unitAt(spot.x(), spot.y())->y < place.y)
+      spot.ry() += 1;
+    while (unitAt(spot.x(), spot.y())->y >= place.y + 1)
+      spot.ry() -= 1;
+    return spot;
+  }
+
+  void enter(std::size_t team, int player) {
+    const Counters& counts = counted.players[team][static_cast<std::size_t>(player)].counters;
+    const auto& name = find<QLabel>("lblNom(" + std::to_string(player) + ")");
+    const auto& first =
+        find<QLabel>((table().page() == 1 ? "lblFG(" : "lblA(") + std::to_string(player) + ")");
+    QTest::mouseClick(&table(), Qt::LeftButton, {},
+                      QPoint(first.geometry().center().x(), name.geometry().center().y()));
+    for (const ManualColumn& column : kManualColumns) {
+      if (column.page != table().page())
+        continue;
+      if (counts[column.counter] > 0)
+        QTest::keyClicks(&table(), QString::number(counts[column.counter]));
+      QTest::keyClick(&table(), Qt::Key_Right);
+    }
+  }
+
+  TemporaryFolder folder;
+  FileSystem files;
+  cinifile store{files};
+  Texts texts;
+  Settings settings{store, folder.path()};
+  ScriptedDialogs dialogs;
+  frmMANUAL window{store, settings, texts, dialogs};
+  Game played;
+  GameState counted;
+  std::string path;
+  int placed = 0;
+};
+
+TEST_P(ManualTruth, EnteredByHandGivesTheOfficialBox) {
+  for (std::size_t team = 0; team < 2; ++team) {
+    find<QComboBox>("cmbTEAM").setCurrentIndex(static_cast<int>(team));
+    const int players =
+        std::min<int>(static_cast<int>(played.roster[team].players().size()), Roster::kLargestEntry);
+    for (int page = 1; page <= kManualPages; ++page) {
+      for (int player = 1; player <= players; ++player) {
+        const auto& name = find<QLabel>("lblNom(" + std::to_string(player) + ")");
+        QTest::mouseClick(&table(), Qt::LeftButton, {}, name.geometry().center());
+        if (page == 1)
+          placeShots(static_cast<std::uint8_t>(team), player);
+        enter(team, player);
+      }
+      QTest::keyClick(&table(), Qt::Key_PageDown);
+    }
+  }
+  EXPECT_GT(placed, 50);
+  window.save();
+  EXPECT_TRUE(dialogs.shown.empty());
+
+  Game entered;
+  ASSERT_EQ(GameFile(store, path).read(entered), GameFileProblem::None);
+  EXPECT_TRUE(entered.details.isFinished);
+  GameState again = tallied(entered);
+  EXPECT_EQ(again.shots.size(), counted.shots.size());
+  // Totals know no time: that of the recorded game stands in for it.
+  for (std::size_t team = 0; team < 2; ++team) {
+    for (std::size_t player = 0; player < GameState::kPlayerEntries; ++player) {
+      EXPECT_EQ(again.players[team][player].counters, counted.players[team][player].counters)
+          << "team " << team << " player " << player;
+      again.players[team][player].seconds = counted.players[team][player].seconds;
+    }
+  }
+  again.lines = counted.lines;
+  for (const std::string& difference : OfficialBox(GetParam()).differences(entered, again))
+    ADD_FAILURE() << difference;
+}
+
+INSTANTIATE_TEST_SUITE_P(Games, ManualTruth, testing::ValuesIn(sharedGames()), [](const auto& game) {
+  std::string name = game.param.stem().string();
+  std::ranges::replace(name, '-', '_');
+  return name;
+});
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(ManualTruth);
+
+} // namespace
+} // namespace hooptab
