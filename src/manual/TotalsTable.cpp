@@ -31,6 +31,7 @@ constexpr int kHeaderRows = 3; // group, made or attempted, button
 constexpr int kCountsFrom = 2; // column of the first counts in the layout
 constexpr int kNumberWidth = 34;
 constexpr int kNameWidth = 110;
+constexpr int kNameStretch = 6; // of the width that is left, and 1 for each count
 constexpr int kButtonHeight = 26;
 constexpr int kDigits = 3;
 
@@ -64,9 +65,10 @@ TotalsTable::TotalsTable(ManualGame& game, const Settings& settings, const Texts
   grid->setRowMinimumHeight(1, fontMetrics().height()); // where a page has nothing to say there
   grid->setColumnMinimumWidth(0, kNumberWidth);
   grid->setColumnMinimumWidth(1, kNameWidth);
-  grid->setColumnStretch(1, 1);
-  for (int row = 0; row <= ManualTotals::kSlots + 1; ++row)
-    grid->setRowStretch(kHeaderRows + row, 1); // up to their largest height, the rest stays below
+  grid->setColumnStretch(1, kNameStretch);
+  // Rows grow up to their largest height; the rest stays below.
+  grid->setRowStretch(kHeaderRows + ManualTotals::kSlots, 1);
+  grid->setRowStretch(kHeaderRows + ManualTotals::kSlots + 1, 1);
   showPage();
 }
 
@@ -187,6 +189,7 @@ void TotalsTable::showPage() {
   for (int column = 0; column < kColumns; ++column) {
     const auto at = static_cast<std::size_t>(column);
     const bool isShown = isOnPage(column);
+    qobject_cast<QGridLayout*>(layout())->setColumnStretch(kCountsFrom + column, isShown ? 1 : 0);
     for (QWidget* widget : {static_cast<QWidget*>(m_groups[at]), static_cast<QWidget*>(m_captions[at]),
                             static_cast<QWidget*>(m_buttons[at])}) {
       if (widget != nullptr)
@@ -214,6 +217,8 @@ void TotalsTable::showRow(int slot) {
   const Row& row = m_rows[static_cast<std::size_t>(slot)];
   const bool isTotal = slot == 0;
   const bool isShown = isTotal || slot <= players();
+  if (!isTotal)
+    qobject_cast<QGridLayout*>(layout())->setRowStretch(kHeaderRows + slot - 1, isShown ? 1 : 0);
   row.number->setVisible(isShown);
   row.name->setVisible(isShown);
   row.points->setVisible(isShown);
@@ -340,8 +345,9 @@ void TotalsTable::mousePressEvent(QMouseEvent* event) {
   }
 }
 
-void TotalsTable::focusInEvent(QFocusEvent*) {
-  if (m_player == 0 && players() > 0)
+void TotalsTable::focusInEvent(QFocusEvent* event) {
+  const bool isByKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  if (isByKey && m_player == 0 && players() > 0)
     choose(1, m_column);
   else
     showTotals();
@@ -445,8 +451,21 @@ bool TotalsTable::typeInto(const QKeyEvent& event) {
 
 void TotalsTable::keyPressEvent(QKeyEvent* event) {
   const bool isPlain = (event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) == Qt::NoModifier;
-  if (!isPlain || m_player == 0)
+  if (!isPlain || players() == 0)
     return QWidget::keyPressEvent(event);
+  if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
+    if (takeTyped())
+      emit pageAsked();
+    return;
+  }
+  if (m_player == 0) {
+    const bool isArrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
+    if (!isArrow && (event->text().isEmpty() || !QStringLiteral("0123456789+-").contains(event->text())))
+      return QWidget::keyPressEvent(event);
+    choose(1, m_column);
+    if (isArrow) // it has chosen the first player; a count is his
+      return;
+  }
   if (typeInto(*event))
     return showTotals();
   const bool isUp = event->text() == u"+";
@@ -463,8 +482,6 @@ void TotalsTable::keyPressEvent(QKeyEvent* event) {
   case Qt::Key_Down:
   case Qt::Key_Return:
   case Qt::Key_Enter: return go([this] { choose(std::min(m_player + 1, players()), m_column); });
-  case Qt::Key_PageUp:
-  case Qt::Key_PageDown: return go([this] { emit pageAsked(); });
   default: QWidget::keyPressEvent(event);
   }
 }

@@ -76,7 +76,6 @@ frmMANUAL::frmMANUAL(cinifile& store, const Settings& settings, const Texts& tex
   layout->addWidget(bar);
   layout->addLayout(parts, 1);
   connectEverything();
-  setFocusProxy(m_table);
 }
 
 // The parts still look at the game when they lose the focus, so they go before it does.
@@ -134,7 +133,8 @@ void frmMANUAL::connectEverything() {
   connect(m_table, &TotalsTable::totalsChanged, this, &frmMANUAL::showTotals);
   connect(m_table, &TotalsTable::typedRefused, this, &frmMANUAL::showRefusal);
   connect(m_shots, &ShotPanel::totalsChanged, this, &frmMANUAL::showTotals);
-  connect(m_shots, &ShotPanel::playerMissing, this, [this] { showHint(caption(m_texts, kChoosePlayer)); });
+  connect(m_shots, &ShotPanel::playerMissing, this,
+          [this] { showHint(caption(m_texts, kChoosePlayer), Theme::missed()); });
   connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
     if (m_game.retry())
       emit saved();
@@ -160,6 +160,7 @@ frmMANUAL::Opening frmMANUAL::open(const QString& path) {
   m_score->beginGame();
   relabelWindow();
   chooseTeam(0);
+  m_table->setFocus();
   return Opening::Opened;
 }
 
@@ -231,27 +232,27 @@ void frmMANUAL::showPlayer() {
       player == nullptr ? QString() : QStringLiteral("%1  %2").arg(toQt(player->jersey), toQt(player->name)));
   m_shots->showShots(m_team, slot);
   if (player == nullptr)
-    return showHint(caption(m_texts, kChoosePlayer));
-  showHint({});
+    return showHint(caption(m_texts, kChoosePlayer), Theme::muted());
+  showHint({}, Theme::muted());
 }
 
 void frmMANUAL::showRefusal(ManualTotals::Typed reason, const ManualColumn& column) {
   const ManualSlot& slot = m_game.totals.slot(m_team, m_table->player());
   const int made = slot.counts()[kindOf(column.code)->counter];
-  switch (reason) {
-  case ManualTotals::Typed::UnderMade:
-    return showHint(toQt(m_texts.withPlaceholder(kUnderMade, std::to_string(made))));
-  case ManualTotals::Typed::UnderPlaced: return showHint(caption(m_texts, kUnderPlaced));
-  case ManualTotals::Typed::OutOfRange:
-    return showHint(toQt(m_texts.withPlaceholder(kOutOfRange, std::to_string(ManualTotals::kLargestCount))));
-  case ManualTotals::Typed::Taken: break;
-  }
+  QString text;
+  if (reason == ManualTotals::Typed::UnderMade)
+    text = toQt(m_texts.withPlaceholder(kUnderMade, std::to_string(made)));
+  else if (reason == ManualTotals::Typed::UnderPlaced)
+    text = caption(m_texts, kUnderPlaced);
+  else
+    text = toQt(m_texts.withPlaceholder(kOutOfRange, std::to_string(ManualTotals::kLargestCount)));
+  showHint(text, Theme::missed());
 }
 
-void frmMANUAL::showHint(const QString& text) {
+void frmMANUAL::showHint(const QString& text, const QColor& colour) {
   m_hint->setText(text);
   QPalette colours;
-  colours.setColor(QPalette::WindowText, Theme::missed());
+  colours.setColor(QPalette::WindowText, colour);
   m_hint->setPalette(colours);
 }
 

@@ -59,7 +59,7 @@ class frmMANUAL : public ChildWindow {
   void showTeams();
   void showDisk();
   void showRefusal(ManualTotals::Typed reason, const ManualColumn& column);
-  void showHint(const QString& text);
+  void showHint(const QString& text, const QColor& colour);
 
   const Texts& m_texts;
   Dialogs& m_dialogs;

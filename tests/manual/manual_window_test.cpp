@@ -138,8 +138,9 @@ TEST_F(ManualWindowTest, CountsWithBothMouseButtonsForThePlayerThatWasChosen) {
 }
 
 TEST_F(ManualWindowTest, IsFilledInByKeyboardLikeASpreadsheet) {
-  find<QComboBox>("cmbTEAM").setFocus();
-  table().setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(table().hasFocus());
+  EXPECT_EQ(shown("lblID"), "0");
+  key(Qt::Key_Down);
   EXPECT_EQ(shown("lblID"), "1") << "the first player, on his first cell";
   keys(QStringLiteral("12"));
   key(Qt::Key_Tab);
