@@ -61,7 +61,7 @@ class SeasonJson {
       m_json.beginObject();
       m_json.beginLine();
       m_json.member("file", skipped.path);
-      m_json.member("reason", skipReasonText(skipped.reason));
+      m_json.member("reason", skipReasonInEnglish(skipped.reason));
       m_json.endObject();
       m_json.endLine();
     }

@@ -17,7 +17,6 @@ namespace hooptab {
 // Players and lines in each of the three views, all columns (RFC 4180).
 [[nodiscard]] std::string seasonCsv(const SeasonStatistics& statistics, const Texts& texts);
 
-[[nodiscard]] int skipReasonTextNumber(SkipReason reason);
-[[nodiscard]] std::string skipReasonText(SkipReason reason); // in English
+[[nodiscard]] std::string skipReasonInEnglish(SkipReason reason);
 
 } // namespace hooptab

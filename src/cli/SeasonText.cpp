@@ -23,7 +23,6 @@ constexpr int kTeam = 1305;
 constexpr int kGamesTitle = 1307;
 constexpr int kTeamTitle = 1363;
 constexpr int kNotRead = 2050;
-constexpr int kFirstReason = 2051;
 constexpr int kSameGame = 2056;
 constexpr int kShortTime = 2057;
 constexpr std::string_view kShortMark = " *";
@@ -125,7 +124,7 @@ class SeasonText {
       return {};
     std::string text = "\n" + m_texts.withPlaceholder(kNotRead, std::to_string(files.size())) + "\n";
     for (const SkippedFile& file : files)
-      text += "  " + printable(file.path) + ": " + word(skipReasonTextNumber(file.reason)) + "\n";
+      text += "  " + printable(file.path) + ": " + word(skipReasonText(file.reason)) + "\n";
     return text;
   }
 
@@ -141,12 +140,8 @@ std::string seasonText(const SeasonStatistics& statistics, std::optional<SeasonI
   return SeasonText(statistics, team, texts).text();
 }
 
-int skipReasonTextNumber(SkipReason reason) {
-  return kFirstReason + static_cast<int>(reason);
-}
-
-std::string skipReasonText(SkipReason reason) {
-  return std::string(Texts().text(skipReasonTextNumber(reason), Language::English));
+std::string skipReasonInEnglish(SkipReason reason) {
+  return std::string(Texts().text(skipReasonText(reason), Language::English));
 }
 
 } // namespace hooptab

@@ -99,7 +99,7 @@ class Program {
   void tellFaults(const GameCatalogue& catalogue, const SeasonStatistics& statistics) {
     for (const SkippedFile& skipped : catalogue.skipped()) {
       if (skipped.reason == SkipReason::Unreadable || skipped.reason == SkipReason::TooLarge)
-        fault(skipped.path + ": " + skipReasonText(skipped.reason));
+        fault(skipped.path + ": " + skipReasonInEnglish(skipped.reason));
     }
     for (const std::size_t index : statistics.games()) {
       const ListedGame& game = catalogue.games()[index];

@@ -48,16 +48,6 @@ class ZoneBorder {
   std::vector<Place> m_places[2];
 };
 
-// The zone in which a shot is summed: that of its place, or the nearest of its own kind.
-ChartZone zoneOf(const Shot& shot) {
-  const Place place = court::atEdge({shot.x, shot.y});
-  const ChartZone zone = chartZone(place);
-  if (isThreePointZone(zone) == shot.isThree)
-    return zone;
-  static const ZoneBorder kBorder;
-  return kBorder.nearestZone(place, shot.isThree);
-}
-
 void add(ZoneSum& sum, const Shot& shot) {
   ++sum.attempted;
   sum.made += shot.isMade ? 1 : 0;
@@ -75,10 +65,21 @@ std::vector<Shot> selectedShots(const GameState& state, const ShotSelection& sel
   return shots;
 }
 
+ChartZone shotZone(Place place, bool isThree) {
+  const Place drawn = court::atEdge(place);
+  const ChartZone zone = chartZone(drawn);
+  if (isThreePointZone(zone) == isThree)
+    return zone;
+  static const ZoneBorder kBorder;
+  return kBorder.nearestZone(drawn, isThree);
+}
+
 ShotSums shotSums(const std::vector<Shot>& shots) {
   ShotSums sums;
   for (const Shot& shot : shots)
-    add(shot.hasPlace ? sums.zones[static_cast<std::size_t>(zoneOf(shot))] : sums.withoutPlace, shot);
+    add(shot.hasPlace ? sums.zones[static_cast<std::size_t>(shotZone({shot.x, shot.y}, shot.isThree))]
+                      : sums.withoutPlace,
+        shot);
   return sums;
 }
 

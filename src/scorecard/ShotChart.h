@@ -28,8 +28,10 @@ struct ShotSums {
   std::array<ZoneSum, court::kChartZoneCount> zones = {};
   ZoneSum withoutPlace;
 };
-// A shot counts in the zone of its place; one recorded as two (or three) points on a place of the other kind counts in the nearest zone
-// of its own kind, so that zone sums agree with the box score.
+// The zone in which a shot with a place counts: that of its place; one recorded as two (or three) points on a
+// place of the other kind counts in the nearest zone of its own kind, so that zone sums agree with the box
+// score.
+[[nodiscard]] court::ChartZone shotZone(court::Place place, bool isThree);
 [[nodiscard]] ShotSums shotSums(const std::vector<Shot>& shots);
 
 } // namespace hooptab

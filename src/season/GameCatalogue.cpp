@@ -96,6 +96,11 @@ std::vector<std::size_t> seasonOrder(const std::vector<ReadFile>& files) {
 
 } // namespace
 
+int skipReasonText(SkipReason reason) {
+  constexpr int kFirstReason = 2051;
+  return kFirstReason + static_cast<int>(reason);
+}
+
 ScanOutcome GameCatalogue::scan(const ScanRequest& request, ScanWatch& watch) {
   FoundGames found = findGames(m_files, request, watch);
   if (found.outcome != ScanOutcome::Done)

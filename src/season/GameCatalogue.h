@@ -42,6 +42,8 @@ enum class SkipReason : std::uint8_t {
   TooLarge,
   Vanished, // removed while the folder was scanned
 };
+// The number of its text.
+[[nodiscard]] int skipReasonText(SkipReason reason);
 struct SkippedFile {
   std::string path;
   SkipReason reason = SkipReason::Unreadable;
@@ -71,6 +73,8 @@ struct GameCriteria {
   Where where = Where::Anywhere; // of the team; without a team it accepts all
   std::optional<InputKind> input;
   bool countsCopiesOnce = false; // of several files of one game only the first
+
+  friend bool operator==(const GameCriteria&, const GameCriteria&) = default;
 };
 
 class GameCatalogue {

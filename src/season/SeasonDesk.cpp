@@ -1,0 +1,40 @@
+#include "season/SeasonDesk.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace hooptab {
+
+void SeasonDesk::takeCatalogue(std::shared_ptr<const GameCatalogue> catalogue) {
+  m_catalogue = std::move(catalogue);
+  m_season.reset();
+  if (!chosenTeam())
+    m_choice.games.team.clear();
+  apply(m_choice);
+}
+
+void SeasonDesk::apply(const SeasonChoice& choice) {
+  m_choice = choice;
+  m_listed = m_catalogue->select(m_choice.games);
+}
+
+std::optional<SeasonId> SeasonDesk::chosenTeam() const {
+  return m_catalogue->teamOf(m_choice.games.team);
+}
+
+bool SeasonDesk::isOutdated() const {
+  return m_season != nullptr &&
+         (m_shown.team != m_choice.games.team || m_shown.position != m_choice.position ||
+          !std::ranges::equal(m_season->statistics().games(), m_listed));
+}
+
+std::shared_ptr<const Season> SeasonDesk::Order::carryOut(const Texts& texts) const {
+  return std::make_shared<const Season>(catalogue, games, shown, texts);
+}
+
+void SeasonDesk::takeSeason(std::shared_ptr<const Season> season, const Order& order) {
+  m_season = std::move(season);
+  m_shown = order.shown;
+}
+
+} // namespace hooptab
