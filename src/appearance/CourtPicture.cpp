@@ -215,6 +215,12 @@ QRectF CourtPicture::fitted(const QRectF& area, Turn turn) {
   return {area.center() - QPointF(size.width() / 2, size.height() / 2), size};
 }
 
+CourtPicture::Turn CourtPicture::largerTurn(const QRectF& area) {
+  return fitted(area, Turn::BaselineTop).width() * kLength > fitted(area, Turn::BaselineLeft).width() * kWidth
+             ? Turn::BaselineTop
+             : Turn::BaselineLeft;
+}
+
 QTransform CourtPicture::fromCourt(const QRectF& fitted, Turn turn) {
   const double scale = scaleOf(fitted, turn);
   if (turn == Turn::BaselineLeft)
@@ -307,7 +313,7 @@ void CourtPicture::paintZones(QPainter& painter, const QRectF& fitted, Turn turn
   painter.setTransform(fromCourt(fitted, turn), true);
   constexpr double kStrongestTint = 0.6;
   for (const CourtZoneText& zone : zones) {
-    QColor tint = kTintColour;
+    QColor tint = zone.tint.isValid() ? zone.tint : kTintColour;
     tint.setAlphaF(static_cast<float>(kStrongestTint * std::clamp(zone.strength, 0.0, 1.0)));
     painter.fillPath(zonePaths()[static_cast<std::size_t>(zone.zone)], tint);
   }

@@ -33,6 +33,7 @@ struct CourtZoneText {
   QString lower;       // "41.7%"
   double strength = 0; // 0..1, how strongly the zone is tinted
   QString toolTip = {};
+  QColor tint = {}; // not valid: the usual one
   friend bool operator==(const CourtZoneText&, const CourtZoneText&) = default;
 };
 
@@ -46,6 +47,8 @@ class CourtPicture {
   enum class Turn { BaselineLeft, BaselineTop };
   static QRectF fitted(const QRectF& area, Turn turn);
   static QTransform fromCourt(const QRectF& fitted, Turn turn);
+  // Upright or turned, whichever makes the picture in `area` larger.
+  static Turn largerTurn(const QRectF& area);
 
   void paintCourt(QPainter& painter, const QRectF& fitted, Turn turn) const;
   // Made shots are filled circles in green, missed ones crosses in red, both with a contrasting outline.

@@ -17,6 +17,10 @@ QString QtDialogs::chooseFile(QWidget* parent, const QString& title, const QStri
   return QFileDialog::getOpenFileName(parent, title, folder, filter);
 }
 
+QString QtDialogs::chooseFolder(QWidget* parent, const QString& title, const QString& folder) {
+  return QFileDialog::getExistingDirectory(parent, title, folder);
+}
+
 QString QtDialogs::chooseFileToSave(QWidget* parent, const QString& title, const QString& proposed,
                                     const QString& filter, const QString& ending) {
   QFileDialog dialog(parent, title, QFileInfo(proposed).path(), filter);

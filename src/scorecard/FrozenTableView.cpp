@@ -57,6 +57,7 @@ FrozenTableView::FrozenTableView(int frozenColumns, QWidget* parent)
             if (column < m_frozenColumns)
               setColumnWidth(column, width);
           });
+  connect(m_frozen, &QTableView::doubleClicked, this, &QTableView::doubleClicked);
   // One sort for both headers: the hidden part of this view's header holds it.
   connect(m_frozen->horizontalHeader(), &QHeaderView::sortIndicatorChanged, horizontalHeader(),
           &QHeaderView::setSortIndicator);

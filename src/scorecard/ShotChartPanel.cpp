@@ -33,10 +33,6 @@ QString shotToolTip(const Shot& shot, const Game& game, const EventWords& words)
          QStringLiteral("  ") + toQt(words.words(event));
 }
 
-double area(const QRectF& rectangle) {
-  return rectangle.width() * rectangle.height();
-}
-
 } // namespace
 
 ShotChartPanel::ShotChartPanel(const Settings& settings, const Texts& texts, QWidget* parent)
@@ -187,17 +183,8 @@ void ShotChartPanel::applyColours() {
 
 bool ShotChartPanel::eventFilter(QObject* object, QEvent* event) {
   if (object == m_court && event->type() == QEvent::Resize)
-    turnToFit();
+    m_court->setTurn(CourtPicture::largerTurn(m_court->rect()));
   return QWidget::eventFilter(object, event);
-}
-
-// Upright or turned, whichever makes the picture larger.
-void ShotChartPanel::turnToFit() {
-  using Turn = CourtPicture::Turn;
-  const QRectF room = m_court->rect();
-  const bool isWide = area(CourtPicture::fitted(room, Turn::BaselineTop)) >
-                      area(CourtPicture::fitted(room, Turn::BaselineLeft));
-  m_court->setTurn(isWide ? Turn::BaselineTop : Turn::BaselineLeft);
 }
 
 } // namespace hooptab

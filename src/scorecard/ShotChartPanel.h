@@ -39,7 +39,6 @@ class ShotChartPanel : public QWidget {
 
  private:
   QToolButton* addChoice(const char* name, bool isChecked);
-  void turnToFit();
   void showMarks();
   void showZones();
   void showNumbers();

@@ -20,6 +20,7 @@ class ScriptedDialogs : public Dialogs {
 
   QString nextFile; // empty: the user cancels
   QString nextFileToSave;
+  QString nextFolder;
   QColor nextColour; // not valid: the user cancels
   bool nextAnswer = false;
   SaveChoice nextSaveChoice = SaveChoice::Stay;
@@ -36,6 +37,10 @@ class ScriptedDialogs : public Dialogs {
     lastFolder = folder;
     lastFilter = filter;
     return nextFile;
+  }
+  QString chooseFolder(QWidget*, const QString&, const QString& folder) override {
+    lastFolder = folder;
+    return nextFolder;
   }
   QString chooseFileToSave(QWidget*, const QString&, const QString& proposed, const QString& filter,
                            const QString&) override {

@@ -1,0 +1,89 @@
+#include "season/AveragesPanel.h"
+
+#include "appearance/relabel.h"
+#include "season/SeasonTables.h"
+#include "season/SeasonTexts.h"
+#include "season/ViewSwitch.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QStackedWidget>
+
+namespace hooptab {
+
+AveragesPanel::AveragesPanel(SeasonTable kind, const Settings& settings, const Texts& texts, QWidget* parent)
+    : QWidget(parent), m_kind(kind), m_settings(settings), m_texts(texts), m_switch(new ViewSwitch(this)),
+      m_scope(new QLabel(this)), m_warning(new QLabel(this)), m_stack(new QStackedWidget(this)) {
+  constexpr int kFrozen = 2; // number and name
+  auto* title = new QLabel(this);
+  setTextNumber(*title, kind == SeasonTable::Lines ? kLineTitle : kPlayerTitle);
+  QFont bold = title->font();
+  bold.setBold(true);
+  title->setFont(bold);
+  m_scope->setObjectName(QStringLiteral("lblSCOPE"));
+  m_scope->setForegroundRole(QPalette::PlaceholderText);
+  m_warning->setObjectName(QStringLiteral("lblMINWarning"));
+  setTextNumber(*m_warning, kShortTimeWarning);
+  m_warning->hide();
+  for (std::size_t i = 0; i < m_tables.size(); ++i) {
+    const QString name = kind == SeasonTable::Lines ? QStringLiteral("lvwSTATlignes(%1)")
+                                                    : QStringLiteral("lvwSTATjoueurs(%1)");
+    m_tables[i] = new SeasonTableView(name.arg(i), kFrozen, m_stack);
+    setAccessibleNumber(*m_tables[i], kind == SeasonTable::Lines ? kLineTitle : kPlayerTitle);
+    m_stack->addWidget(m_tables[i]);
+    connect(m_tables[i], &SeasonTableView::rowAsked, this, [this](int row) {
+      const SeasonStatistics& statistics = m_season->statistics();
+      emit personAsked((m_kind == SeasonTable::Lines ? statistics.lines()
+                                                     : statistics.players())[static_cast<std::size_t>(row)]);
+    });
+  }
+  auto* head = new QHBoxLayout;
+  head->addWidget(title);
+  head->addWidget(m_scope);
+  head->addStretch();
+  head->addWidget(m_warning);
+  head->addWidget(m_switch);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(4, 4, 4, 4);
+  layout->setSpacing(4);
+  layout->addLayout(head);
+  layout->addWidget(m_stack, 1);
+  connect(m_switch, &ViewSwitch::viewChosen, this, &AveragesPanel::showView);
+}
+
+SeasonTableView& AveragesPanel::table() const {
+  return *m_tables[static_cast<std::size_t>(m_switch->view())];
+}
+
+void AveragesPanel::showSeason(std::shared_ptr<const Season> season) {
+  m_season = std::move(season);
+  for (const SeasonView view : kSeasonViews)
+    m_tables[static_cast<std::size_t>(view)]->showRows(
+        m_season == nullptr ? TableRows() : seasonTableRows(m_season, m_kind, view, m_texts));
+  showTexts();
+}
+
+void AveragesPanel::relabelPanel() {
+  for (const SeasonView view : kSeasonViews)
+    m_tables[static_cast<std::size_t>(view)]->showColumns(
+        seasonTableColumns(m_kind, view, m_settings, m_texts));
+  showTexts();
+}
+
+void AveragesPanel::showView(SeasonView view) {
+  const int row = static_cast<SeasonTableView*>(m_stack->currentWidget())->currentRow();
+  m_stack->setCurrentIndex(static_cast<int>(view));
+  if (row >= 0)
+    table().setCurrentIndex(table().content().index(table().content().shownRow(row), 0));
+  showTexts();
+}
+
+void AveragesPanel::showTexts() {
+  m_scope->setText(
+      m_season == nullptr
+          ? caption(m_texts, kNotGenerated)
+          : toQt(m_texts.withPlaceholder(kOfGames, std::to_string(m_season->statistics().games().size()))));
+  m_warning->setVisible(m_season != nullptr && m_switch->view() == SeasonView::PerMinute);
+}
+
+} // namespace hooptab

@@ -1,0 +1,47 @@
+// The season table of the players, or of the lines, in its three instances: totals, per game, per minute. One
+// is shown at a time; the row that is chosen in one is chosen in the others.
+#pragma once
+
+#include "season/Season.h"
+#include "season/SeasonTableView.h"
+#include "storage/Settings.h"
+
+#include <array>
+
+class QLabel;
+class QStackedWidget;
+
+namespace hooptab {
+
+class ViewSwitch;
+
+class AveragesPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  AveragesPanel(SeasonTable kind, const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
+
+  void showSeason(std::shared_ptr<const Season> season); // null: none yet
+  void relabelPanel();
+  const std::array<SeasonTableView*, 3>& tables() const { return m_tables; }
+  SeasonTableView& table() const;
+
+ signals:
+  void personAsked(const SeasonRow& row);
+
+ private:
+  void showView(SeasonView view);
+  void showTexts();
+
+  const SeasonTable m_kind;
+  const Settings& m_settings;
+  const Texts& m_texts;
+  std::shared_ptr<const Season> m_season;
+  ViewSwitch* m_switch;
+  QLabel* m_scope;
+  QLabel* m_warning;
+  QStackedWidget* m_stack;
+  std::array<SeasonTableView*, 3> m_tables;
+};
+
+} // namespace hooptab

@@ -1,0 +1,23 @@
+// The pictures of the season in the words of the language in use: what SeriesView shows of a statistic, or of
+// a team's margins, with a tool tip for each game.
+#pragma once
+
+#include "season/GameSeries.h"
+#include "season/Season.h"
+#include "season/SeriesPicture.h"
+#include "storage/Settings.h"
+
+namespace hooptab {
+
+struct SeriesWithToolTips {
+  SeriesDrawing drawing;
+  QStringList toolTips;
+};
+
+// `column` is one of the season tables', 3 or 5 to 52.
+[[nodiscard]] SeriesWithToolTips pictureOfStatistic(const SeasonPerson& person, int column,
+                                                    const Settings& settings, const Texts& texts);
+[[nodiscard]] SeriesWithToolTips pictureOfMargins(const GameSeries& margins, SeasonId team,
+                                                  const Season& season, const Texts& texts);
+
+} // namespace hooptab

@@ -1,0 +1,96 @@
+#include "season/LeadersPanel.h"
+
+#include "appearance/relabel.h"
+#include "season/SeasonTables.h"
+#include "season/SeasonTexts.h"
+#include "season/ViewSwitch.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QSplitter>
+
+namespace hooptab {
+
+LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget* parent)
+    : QWidget(parent), m_settings(settings), m_texts(texts), m_switch(new ViewSwitch(this)),
+      m_title(new QLabel(this)), m_first(new SeasonTableView(QStringLiteral("lvwFIRST"), 0, this)),
+      m_leaders(new SeasonTableView(QStringLiteral("lvwLEADERS"), 0, this)) {
+  QFont bold = m_title->font();
+  bold.setBold(true);
+  m_title->setFont(bold);
+  setAccessibleNumber(*m_first, kLeadersTab);
+  setAccessibleNumber(*m_leaders, kLeadersTab);
+  auto* head = new QHBoxLayout;
+  head->addWidget(m_title);
+  head->addStretch();
+  head->addWidget(m_switch);
+  auto* parts = new QSplitter(Qt::Horizontal, this);
+  parts->setObjectName(QStringLiteral("leaderParts"));
+  parts->addWidget(m_first);
+  parts->addWidget(m_leaders);
+  parts->setChildrenCollapsible(false);
+  parts->setSizes({560, 640});
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(4, 4, 4, 4);
+  layout->setSpacing(4);
+  layout->addLayout(head);
+  layout->addWidget(parts, 1);
+
+  connect(m_switch, &ViewSwitch::viewChosen, this, [this] {
+    showFirst();
+    showLeaders();
+  });
+  connect(m_first, &SeasonTableView::currentRowChanged, this, [this](int row) {
+    if (row < 0)
+      return;
+    m_statistic = static_cast<std::size_t>(row);
+    showLeaders();
+  });
+  connect(m_leaders, &SeasonTableView::rowAsked, this, [this](int row) {
+    const auto& leaders = m_season->leaders(m_switch->view()).statistics()[m_statistic].leaders;
+    emit personAsked(*leaders[static_cast<std::size_t>(row)].row);
+  });
+}
+
+void LeadersPanel::showSeason(std::shared_ptr<const Season> season) {
+  m_season = std::move(season);
+  // Points are what most look for first.
+  m_statistic = 0;
+  if (m_season != nullptr) {
+    const auto statistics = m_season->leaders(m_switch->view()).statistics();
+    const auto points = std::ranges::find(statistics, seasonColumn("PTS").index, &StatisticLeaders::column);
+    m_statistic = static_cast<std::size_t>(points - statistics.begin());
+  }
+  showFirst();
+  showLeaders();
+}
+
+void LeadersPanel::relabelPanel() {
+  m_first->showColumns(firstLeaderColumns(m_texts));
+  m_leaders->showColumns(leaderColumns(m_texts));
+  showTitle();
+}
+
+void LeadersPanel::showFirst() {
+  m_first->showRows(m_season == nullptr ? TableRows()
+                                        : firstLeaderRows(m_season, m_switch->view(), m_settings, m_texts));
+  if (m_season != nullptr) {
+    const auto chosen = static_cast<int>(m_statistic);
+    m_first->setCurrentIndex(m_first->content().index(m_first->content().shownRow(chosen), 0));
+  }
+}
+
+void LeadersPanel::showLeaders() {
+  m_leaders->showRows(m_season == nullptr ? TableRows()
+                                          : leaderRows(m_season, m_switch->view(), m_statistic, m_texts));
+  showTitle();
+}
+
+void LeadersPanel::showTitle() {
+  if (m_season == nullptr)
+    return m_title->setText(caption(m_texts, kNotGenerated));
+  const int column = m_season->leaders(m_switch->view()).statistics()[m_statistic].column;
+  m_title->setText(statisticName(column, m_settings, m_texts));
+}
+
+} // namespace hooptab

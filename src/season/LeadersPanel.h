@@ -1,0 +1,43 @@
+// The leaders: at the left the first of every statistic, at the right the ten of the one that is chosen.
+#pragma once
+
+#include "season/Season.h"
+#include "season/SeasonTableView.h"
+#include "storage/Settings.h"
+
+class QLabel;
+
+namespace hooptab {
+
+class ViewSwitch;
+
+class LeadersPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  LeadersPanel(const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
+
+  void showSeason(std::shared_ptr<const Season> season); // null: none yet
+  void relabelPanel();
+  SeasonTableView& firstLeaders() const { return *m_first; }
+  SeasonTableView& leaders() const { return *m_leaders; }
+
+ signals:
+  void personAsked(const SeasonRow& row);
+
+ private:
+  void showFirst();
+  void showLeaders();
+  void showTitle();
+
+  const Settings& m_settings;
+  const Texts& m_texts;
+  std::shared_ptr<const Season> m_season;
+  ViewSwitch* m_switch;
+  QLabel* m_title;
+  SeasonTableView* m_first;
+  SeasonTableView* m_leaders;
+  std::size_t m_statistic = 0; // the one that is chosen
+};
+
+} // namespace hooptab

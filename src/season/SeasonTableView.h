@@ -1,0 +1,43 @@
+// A table of the season's window: model and view in one, with columns that fit what they hold, kept in width
+// once the user has changed them.
+#pragma once
+
+#include "scorecard/FrozenTableView.h"
+#include "season/SnapshotModel.h"
+
+namespace hooptab {
+
+class SeasonTableView : public FrozenTableView {
+  Q_OBJECT
+
+ public:
+  SeasonTableView(const QString& name, int frozenColumns, QWidget* parent = nullptr);
+
+  SnapshotModel& content() { return m_model; }
+  void showColumns(std::vector<TableColumn> columns);
+  void showRows(TableRows rows);
+  // The place of the current row in the rows given; -1 for none.
+  int currentRow() const;
+
+  // Column widths that the user has chosen, as text for the next time.
+  QByteArray widths() const;
+  void restoreWidths(const QByteArray& widths);
+
+ signals:
+  // Double click or Enter on a row.
+  void rowAsked(int row);
+  void currentRowChanged(int row);
+  void focused(); // it has received the focus
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  void fitColumns();
+
+  SnapshotModel m_model;
+  bool m_isFitting = false;
+  bool m_hasOwnWidths = false;
+};
+
+} // namespace hooptab

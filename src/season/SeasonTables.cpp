@@ -1,0 +1,299 @@
+#include "season/SeasonTables.h"
+
+#include "appearance/relabel.h"
+#include "season/SeasonDesk.h"
+#include "season/SeasonTexts.h"
+#include "season/SeasonWords.h"
+#include "storage/Module1.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+const SeasonRow& rowOf(const Season& season, SeasonTable kind, int row) {
+  const auto rows = kind == SeasonTable::Lines ? season.statistics().lines() : season.statistics().players();
+  return rows[static_cast<std::size_t>(row)];
+}
+
+// The longest text that a column of numbers is likely to hold.
+QString longestText(const SeasonColumn& column, SeasonView view) {
+  if (column.index == kTimeColumn)
+    return QStringLiteral("0000:00");
+  if (column.name.ends_with('%'))
+    return QStringLiteral("100.0%");
+  if (column.index < kFirstCountColumn || column.index > kLastCountColumn)
+    return QStringLiteral("000");
+  return view == SeasonView::Totals ? QStringLiteral("0000") : QStringLiteral("00.00");
+}
+
+// Groups of four, so that their equal "PTS" headers stay apart: every other one is tinted.
+bool isShaded(int column) {
+  constexpr int kFirst = 8;
+  constexpr int kLast = 43;
+  return column >= kFirst && column <= kLast && (column - kFirst) / 4 % 2 == 0;
+}
+
+TableColumn columnOf(int index, SeasonTable kind, SeasonView view, const Settings& settings,
+                     const Texts& texts) {
+  const SeasonColumn& column = seasonColumn(index);
+  TableColumn shown;
+  shown.header = toQt(seasonHeader(index, kind, texts));
+  shown.toolTip = index == kNameColumn ? shown.header : toQt(seasonColumnWords(index, settings, texts));
+  shown.isText = seasonColumnIsText(index);
+  shown.isLeftAligned = column.isLeftAligned;
+  if (!shown.isText && !shown.isLeftAligned)
+    shown.longest = longestText(column, view);
+  shown.isHidden = column.widthTwips == 0;
+  shown.isShaded = isShaded(index);
+  shown.isBold = column.name == "PTS";
+  return shown;
+}
+
+TableColumn textColumn(const QString& header, bool isLeftAligned = true) {
+  TableColumn column;
+  column.header = header;
+  column.isText = true;
+  column.isLeftAligned = isLeftAligned;
+  return column;
+}
+
+TableColumn numberColumn(const QString& header, const QString& longest = QStringLiteral("0000")) {
+  TableColumn column;
+  column.header = header;
+  column.longest = longest;
+  return column;
+}
+
+const StatisticLeaders& leadersAt(const Season& season, SeasonView view, std::size_t statistic) {
+  return season.leaders(view).statistics()[statistic];
+}
+
+} // namespace
+
+QString statisticName(int column, const Settings& settings, const Texts& texts) {
+  if (column == seasonColumn("rating").index) // its words are the whole formula
+    return caption(texts, kRating);
+  QString words = toQt(seasonColumnWords(column, settings, texts));
+  words.front() = words.front().toUpper();
+  return words;
+}
+
+std::vector<TableColumn> gameListColumns(const Texts& texts) {
+  std::vector<TableColumn> columns;
+  for (const GameColumn& column : gameColumns()) {
+    TableColumn& shown = columns.emplace_back();
+    shown.header = column.headerText != 0 ? caption(texts, column.headerText) : toQt(column.header);
+    shown.isText = gameColumnIsText(column.index);
+    shown.isLeftAligned = column.isLeftAligned;
+    shown.isHidden = column.widthTwips == 0;
+    if (column.index == 1)
+      shown.longest = QStringLiteral("0000-00-000");
+    else if (!shown.isText)
+      shown.longest = QStringLiteral("0000");
+  }
+  return columns;
+}
+
+TableRows gameListRows(std::shared_ptr<const GameCatalogue> catalogue, std::vector<std::size_t> places,
+                       std::optional<SeasonId> chosenTeam, const Texts& texts) {
+  TableRows rows;
+  rows.count = static_cast<int>(places.size());
+  const auto shared = std::make_shared<const std::vector<std::size_t>>(std::move(places));
+  const auto game = [catalogue, shared](int row) -> const ListedGame& {
+    return catalogue->games()[(*shared)[static_cast<std::size_t>(row)]];
+  };
+  rows.text = [catalogue, game, chosenTeam, &texts](int row, int column) {
+    return toQt(gameCell(*catalogue, game(row), column + 1, chosenTeam, texts));
+  };
+  rows.sortValue = [game](int row, int column) { return gameSortValue(game(row), column + 1); };
+  rows.isMuted = [game](int row) { return game(row).copyOf.has_value(); };
+  rows.toolTip = [catalogue, game, &texts](int row) -> QString {
+    const ListedGame& shown = game(row);
+    QString words = toQt(shown.path);
+    if (shown.copyOf)
+      words += u'\n' + toQt(texts.withPlaceholder(kSameGameAs, catalogue->games()[*shown.copyOf].path));
+    if (!shown.outOfRange.empty())
+      words += u'\n' + toQt(shown.outOfRange);
+    return words + u'\n' + caption(texts, kOpensGame);
+  };
+  return rows;
+}
+
+std::vector<TableColumn> skippedColumns(const Texts& texts) {
+  return {textColumn(caption(texts, kFileColumn)), textColumn(caption(texts, kReasonColumn))};
+}
+
+TableRows skippedRows(std::shared_ptr<const GameCatalogue> catalogue, const Texts& texts) {
+  TableRows rows;
+  rows.count = static_cast<int>(catalogue->skipped().size());
+  rows.text = [catalogue, &texts](int row, int column) {
+    const SkippedFile& file = catalogue->skipped()[static_cast<std::size_t>(row)];
+    return column == 0 ? toQt(file.path) : caption(texts, skipReasonText(file.reason));
+  };
+  return rows;
+}
+
+std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view, const Settings& settings,
+                                            const Texts& texts) {
+  std::vector<TableColumn> columns;
+  for (int index = 1; index <= (kind == SeasonTable::Lines ? kSeasonLineColumnCount : kSeasonColumnCount);
+       ++index)
+    columns.push_back(columnOf(index, kind, view, settings, texts));
+  return columns;
+}
+
+TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind, SeasonView view,
+                          const Texts& texts) {
+  const SeasonStatistics& statistics = season->statistics();
+  TableRows rows;
+  rows.count =
+      static_cast<int>(kind == SeasonTable::Lines ? statistics.lines().size() : statistics.players().size());
+  rows.isMuted = [season, kind, view](int row) {
+    return view == SeasonView::PerMinute && rowOf(*season, kind, row).isShort();
+  };
+  rows.text = [season, kind, view, isMarked = rows.isMuted, &texts](int row, int column) -> QString {
+    QString text = toQt(seasonCell(rowOf(*season, kind, row), column + 1, view, texts));
+    return column + 1 == kNameColumn && isMarked(row) ? text + QStringLiteral(" *") : text;
+  };
+  rows.sortValue = [season, kind, view](int row, int column) {
+    return seasonSortValue(rowOf(*season, kind, row), column + 1, view);
+  };
+  rows.toolTip = [season, kind, &texts](int row) -> QString {
+    const SeasonRow& shown = rowOf(*season, kind, row);
+    return toQt(season->catalogue().teams()[shown.team].key) + QStringLiteral("  ") + toQt(shown.number) +
+           u' ' + toQt(shown.name) + u'\n' + caption(texts, kOpensPerson);
+  };
+  return rows;
+}
+
+std::vector<TableColumn> firstLeaderColumns(const Texts& texts) {
+  return {textColumn(caption(texts, kStatisticColumn)), textColumn(caption(texts, kLeaderColumn)),
+          numberColumn(caption(texts, kValueColumn), QStringLiteral("0000:00"))};
+}
+
+TableRows firstLeaderRows(std::shared_ptr<const Season> season, SeasonView view, const Settings& settings,
+                          const Texts& texts) {
+  TableRows rows;
+  rows.count = static_cast<int>(season->leaders(view).statistics().size());
+  const auto first = [season, view](int row) -> const Leader* {
+    const StatisticLeaders& statistic = leadersAt(*season, view, static_cast<std::size_t>(row));
+    return statistic.leaders.empty() ? nullptr : &statistic.leaders.front();
+  };
+  rows.text = [season, view, first, &settings, &texts](int row, int column) {
+    if (column == 0)
+      return statisticName(leadersAt(*season, view, static_cast<std::size_t>(row)).column, settings, texts);
+    const Leader* leader = first(row);
+    if (leader == nullptr)
+      return QString();
+    return toQt(column == 1 ? leader->row->name : leader->value);
+  };
+  rows.sortValue = [season, view, first](int row, int) {
+    const Leader* leader = first(row);
+    return leader == nullptr
+               ? -1.0
+               : seasonSortValue(*leader->row, leadersAt(*season, view, static_cast<std::size_t>(row)).column,
+                                 view);
+  };
+  return rows;
+}
+
+std::vector<TableColumn> leaderColumns(const Texts& texts) {
+  constexpr int kNameText = 1023;
+  constexpr int kGamesText = 1194;
+  TableColumn jersey = numberColumn(QStringLiteral("No"), QStringLiteral("000"));
+  jersey.isLeftAligned = true;
+  TableColumn value = numberColumn(caption(texts, kValueColumn), QStringLiteral("0000:00"));
+  value.isBold = true;
+  return {numberColumn(QStringLiteral("#"), QStringLiteral("000")),
+          textColumn(caption(texts, kTeamTab)),
+          jersey,
+          textColumn(caption(texts, kNameText)),
+          numberColumn(caption(texts, kGamesText)),
+          value};
+}
+
+TableRows leaderRows(std::shared_ptr<const Season> season, SeasonView view, std::size_t statistic,
+                     const Texts& texts) {
+  TableRows rows;
+  rows.count = static_cast<int>(leadersAt(*season, view, statistic).leaders.size());
+  const auto leader = [season, view, statistic](int row) -> const Leader& {
+    return leadersAt(*season, view, statistic).leaders[static_cast<std::size_t>(row)];
+  };
+  rows.text = [season, leader](int row, int column) {
+    const Leader& shown = leader(row);
+    switch (column) {
+    case 0: return QString::number(shown.rank);
+    case 1: return toQt(season->catalogue().teams()[shown.row->team].key);
+    case 2: return toQt(shown.row->number);
+    case 3: return toQt(shown.row->name);
+    case 4: return QString::number(shown.row->games);
+    default: return toQt(shown.value);
+    }
+  };
+  rows.sortValue = [season, view, statistic, leader](int row, int column) -> double {
+    const Leader& shown = leader(row);
+    switch (column) {
+    case 0: return shown.rank;
+    case 2: return seasonSortValue(*shown.row, kNumberColumn, view);
+    case 4: return shown.row->games;
+    default: return seasonSortValue(*shown.row, leadersAt(*season, view, statistic).column, view);
+    }
+  };
+  rows.toolTip = [&texts](int) { return caption(texts, kOpensPerson); };
+  return rows;
+}
+
+// The same words in both languages.
+std::vector<TableColumn> recordColumns() {
+  return {textColumn(QStringLiteral("WHAT")),
+          numberColumn(QStringLiteral("RECORD"), QStringLiteral("000:00")),
+          textColumn(QStringLiteral("WHERE"))};
+}
+
+TableRows recordRows(std::shared_ptr<const SeasonPerson> person) {
+  TableRows rows;
+  rows.count = static_cast<int>(Records::kCount);
+  const auto record = [person](int row) -> const Record& {
+    return person->records.records()[static_cast<std::size_t>(row)];
+  };
+  rows.text = [record](int row, int column) {
+    const Record& shown = record(row);
+    return column == 0 ? toQt(shown.what) : column == 1 ? toQt(shown.text()) : toQt(shown.where);
+  };
+  rows.sortValue = [record](int row, int) -> double { return record(row).value; };
+  return rows;
+}
+
+std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& texts) {
+  std::vector<TableColumn> columns;
+  for (int index = 1; index <= kResultColumnCount; ++index) {
+    const int shared = seasonColumnOfResult(index);
+    if (shared != 0) {
+      columns.push_back(columnOf(shared, SeasonTable::Players, SeasonView::Totals, settings, texts));
+      continue;
+    }
+    TableColumn& own = columns.emplace_back(textColumn(toQt(resultHeader(index, texts))));
+    own.isText = index != 1; // the date sorts by its day
+  }
+  return columns;
+}
+
+TableRows resultRows(std::shared_ptr<const SeasonPerson> person, const Texts& texts) {
+  TableRows rows;
+  rows.count = static_cast<int>(person->results.size());
+  const auto result = [person](int row) -> const GameResult& {
+    return person->results[static_cast<std::size_t>(row)];
+  };
+  rows.text = [person, result, &texts](int row, int column) {
+    return toQt(resultCell(person->season->catalogue(), result(row), column + 1, texts));
+  };
+  rows.sortValue = [person, result](int row, int column) {
+    return resultSortValue(person->season->catalogue(), result(row), column + 1);
+  };
+  rows.toolTip = [&texts](int) { return caption(texts, kOpensGame); };
+  return rows;
+}
+
+} // namespace hooptab

@@ -1,0 +1,68 @@
+// A table over values that never change: columns and cells come from outside as functions, so that tables of
+// games, players, leaders and records are one class. Sorts by keys that are made once for each sort, because
+// a season has thousands of rows. Knows nothing of basketball.
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include <functional>
+#include <vector>
+
+namespace hooptab {
+
+struct TableColumn {
+  QString header;
+  QString toolTip = {};
+  QString longest = {}; // the widest text of a column of numbers
+  bool isLeftAligned = false;
+  bool isText = false; // sorts by its text
+  bool isHidden = false;
+  bool isShaded = false; // tinted, to tell groups of columns apart
+  bool isBold = false;
+};
+
+// Rows and columns count from 0. What a function refers to must live as long as the model shows it.
+struct TableRows {
+  int count = 0;
+  std::function<QString(int row, int column)> text;
+  std::function<double(int row, int column)> sortValue = {}; // of columns that are no text
+  std::function<bool(int row)> isMuted = {};
+  std::function<QString(int row)> toolTip = {}; // where the cell's own text is not enough
+};
+
+class SnapshotModel : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  static constexpr int kSortRole = Qt::UserRole; // number or text
+
+  using QAbstractTableModel::QAbstractTableModel;
+
+  // The number of columns stays the same once there are any: in another language, with other tool tips.
+  void showColumns(std::vector<TableColumn> columns);
+  const std::vector<TableColumn>& columns() const { return m_columns; }
+  // Other rows, in the order of the sort in force.
+  void showRows(TableRows rows);
+  // The place, in the rows given, of a row shown; and the other way round, -1 for none.
+  int sourceRow(int row) const { return m_order[static_cast<std::size_t>(row)]; }
+  int shownRow(int sourceRow) const;
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  // Column -1 is the order in which the rows came. Equal ones keep it in both orders.
+  void sort(int column, Qt::SortOrder order) override;
+
+ private:
+  const TableColumn& column(int column) const { return m_columns[static_cast<std::size_t>(column)]; }
+  std::vector<int> sortedOrder() const;
+
+  std::vector<TableColumn> m_columns;
+  TableRows m_rows;
+  std::vector<int> m_order;
+  int m_sortColumn = -1;
+  Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+};
+
+} // namespace hooptab

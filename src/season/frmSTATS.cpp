@@ -1,0 +1,353 @@
+#include "season/frmSTATS.h"
+
+#include "appearance/Dialogs.h"
+#include "appearance/Fields.h"
+#include "appearance/Icons.h"
+#include "appearance/relabel.h"
+#include "scorecard/TableText.h"
+#include "season/AveragesPanel.h"
+#include "season/CriteriaPanel.h"
+#include "season/FolderPanel.h"
+#include "season/LeadersPanel.h"
+#include "season/PersonPanel.h"
+#include "season/SeasonTables.h"
+#include "season/SeasonTexts.h"
+#include "season/TeamPanel.h"
+#include "storage/Module1.h"
+
+#include <QBoxLayout>
+#include <QDataStream>
+#include <QDir>
+#include <QLabel>
+#include <QMap>
+#include <QShortcut>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QToolButton>
+#include <chrono>
+
+namespace hooptab {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kMargin = 8;
+constexpr auto kPollInterval = 50ms;
+constexpr int kCopyTable = 1559;
+constexpr int kTableCopied = 1720;
+
+} // namespace
+
+frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& texts, Dialogs& dialogs,
+                   QWidget* parent)
+    : ChildWindow(parent), m_files(files), m_settings(settings), m_texts(texts), m_dialogs(dialogs),
+      m_folder(new FolderPanel(texts, this)), m_notice(noticeLabel(this)), m_tabs(new QTabWidget(this)),
+      m_notRead(new SeasonTableView(QStringLiteral("lvwNOTREAD"), 0, m_tabs)),
+      m_players(new AveragesPanel(SeasonTable::Players, settings, texts, m_tabs)),
+      m_lines(new AveragesPanel(SeasonTable::Lines, settings, texts, m_tabs)),
+      m_leaders(new LeadersPanel(settings, texts, m_tabs)),
+      m_person(new PersonPanel(settings, texts, m_tabs)), m_team(new TeamPanel(texts, m_tabs)) {
+  setObjectName(QStringLiteral("frmSTATS"));
+  m_tabs->setObjectName(QStringLiteral("tabs"));
+  m_folder->showFolder(toQt(settings.lastGameFolder), false);
+  const std::pair<QWidget*, int> pages[] = {
+      {makeGames(), kGamesTab}, {m_players, kPlayersTab}, {m_lines, kLinesTab},    {m_leaders, kLeadersTab},
+      {m_person, kPersonTab},   {m_team, kTeamTab},       {m_notRead, kNotReadTab}};
+  for (const auto& [page, text] : pages) {
+    m_tabs->addTab(page, QString());
+    setTabTextNumber(*page, text);
+  }
+  setAccessibleNumber(*m_notRead, kNotReadTab);
+  m_tabs->setTabVisible(m_tabs->indexOf(m_notRead), false);
+  auto* copy = new QToolButton(m_tabs);
+  copy->setObjectName(QStringLiteral("cmdCOPY"));
+  copy->setAutoRaise(true);
+  copy->setIcon(icon(QStringLiteral("copy")));
+  setToolTipNumber(*copy, kCopyTable);
+  setAccessibleNumber(*copy, kCopyTable);
+  m_tabs->setCornerWidget(copy);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setSpacing(6);
+  layout->addWidget(m_folder);
+  layout->addWidget(m_notice);
+  layout->addWidget(m_tabs, 1);
+
+  m_poll.setInterval(kPollInterval);
+  connect(&m_poll, &QTimer::timeout, this, &frmSTATS::showProgress);
+  connect(&m_work, &BackgroundWork::failed, this, [this] { m_problem = kNoMemory; });
+  connect(&m_work, &BackgroundWork::finished, this, &frmSTATS::endWork);
+  connect(m_folder, &FolderPanel::browseAsked, this, &frmSTATS::browse);
+  connect(m_folder, &FolderPanel::readAsked, this, qOverload<>(&frmSTATS::readFolder));
+  const auto cancel = [this] {
+    if (m_watch != nullptr)
+      m_watch->isCancelled = true;
+  };
+  connect(m_folder, &FolderPanel::cancelAsked, this, cancel);
+  auto* escape =
+      new QShortcut(QKeySequence(Qt::Key_Escape), this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+  connect(escape, &QShortcut::activated, this, cancel);
+  connect(m_folder, &FolderPanel::notReadAsked, this, [this] { m_tabs->setCurrentWidget(m_notRead); });
+  connect(m_players, &AveragesPanel::personAsked, this,
+          [this](const SeasonRow& row) { showPerson(row, false); });
+  connect(m_leaders, &LeadersPanel::personAsked, this,
+          [this](const SeasonRow& row) { showPerson(row, false); });
+  connect(m_lines, &AveragesPanel::personAsked, this,
+          [this](const SeasonRow& row) { showPerson(row, true); });
+  connect(m_person, &PersonPanel::gameAsked, this, &frmSTATS::openGame);
+  connect(m_team, &TeamPanel::gameAsked, this, &frmSTATS::openGame);
+  connect(copy, &QToolButton::clicked, this, &frmSTATS::copyShownTable);
+  for (SeasonTableView* table : findChildren<SeasonTableView*>()) {
+    connect(table, &SeasonTableView::copied, this, [this] { emit reported(caption(m_texts, kTableCopied)); });
+    connect(table, &SeasonTableView::focused, this, [this, table] { m_lastTable = table; });
+  }
+  relabelWindow();
+}
+
+// Work under way is told to stop and waited for.
+frmSTATS::~frmSTATS() {
+  if (m_watch != nullptr)
+    m_watch->isCancelled = true;
+}
+
+QWidget* frmSTATS::makeGames() {
+  auto* page = new QWidget(m_tabs);
+  m_criteria = new CriteriaPanel(m_texts, page);
+  m_games = new SeasonTableView(QStringLiteral("lvwGAMES"), 0, page);
+  setAccessibleNumber(*m_games, kGamesTab);
+  auto* layout = new QVBoxLayout(page);
+  layout->setContentsMargins(4, 4, 4, 4);
+  layout->setSpacing(6);
+  layout->addWidget(m_criteria);
+  layout->addWidget(m_games, 1);
+  connect(m_criteria, &CriteriaPanel::changed, this,
+          [this] { m_criteria->showWhatIsOffered(m_desk, isBusy()); });
+  connect(m_criteria, &CriteriaPanel::applyAsked, this, &frmSTATS::apply);
+  connect(m_criteria, &CriteriaPanel::generateAsked, this, &frmSTATS::generate);
+  connect(m_games, &SeasonTableView::rowAsked, this,
+          [this](int row) { openGame(m_desk.listed()[static_cast<std::size_t>(row)]); });
+  return page;
+}
+
+void frmSTATS::browse() {
+  const QString folder = m_dialogs.chooseFolder(this, caption(m_texts, kBrowseFolders), m_folder->folder());
+  if (!folder.isEmpty())
+    readFolder(folder, m_folder->withSubfolders());
+}
+
+void frmSTATS::readFolder(const QString& folder, bool withSubfolders) {
+  m_folder->showFolder(folder, withSubfolders);
+  readFolder();
+}
+
+void frmSTATS::readFolder() {
+  if (isBusy())
+    return;
+  ScanRequest request;
+  request.folder = fromQt(QDir::cleanPath(m_folder->folder()));
+  request.withSubfolders = m_folder->withSubfolders();
+  startWork(kLoadingGames,
+            [this, &files = m_files, request, watch = m_watch = std::make_shared<ScanWatch>()] {
+              auto catalogue = std::make_shared<GameCatalogue>(files);
+              const ScanOutcome outcome = catalogue->scan(request, *watch);
+              return [this, outcome, catalogue] { takeScan(outcome, catalogue); };
+            });
+}
+
+void frmSTATS::takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue> catalogue) {
+  switch (outcome) {
+  case ScanOutcome::Done: break;
+  case ScanOutcome::Cancelled: m_problem = kReadingCancelled; return;
+  case ScanOutcome::FolderMissing: m_problem = kFolderMissing; return;
+  case ScanOutcome::FolderUnreadable: m_problem = kFolderUnreadable; return;
+  }
+  if (catalogue->games().empty())
+    m_problem = kNoGames;
+  m_desk.takeCatalogue(std::move(catalogue));
+  showCatalogue();
+  showSeason();
+}
+
+void frmSTATS::apply() {
+  m_desk.apply(m_criteria->choice());
+  showList();
+}
+
+void frmSTATS::generate() {
+  if (isBusy())
+    return;
+  m_progressCount = m_desk.listed().size();
+  startWork(kGeneratingStatistics,
+            [this, order = m_desk.order(), &texts = m_texts,
+             watch = m_watch = std::make_shared<ScanWatch>()]() -> BackgroundWork::Delivery {
+              auto season = order.carryOut(texts);
+              return [this, order, season, watch] {
+                if (watch->isCancelled) {
+                  m_problem = kReadingCancelled;
+                  return;
+                }
+                m_desk.takeSeason(season, order);
+                showSeason();
+                m_tabs->setCurrentWidget(m_players);
+              };
+            });
+}
+
+void frmSTATS::showPerson(const SeasonRow& row, bool isLine) {
+  if (isBusy())
+    return;
+  m_progressCount = static_cast<std::size_t>(row.games);
+  startWork(kLoadingPerson,
+            [this, season = m_desk.season(), row, isLine, &texts = m_texts,
+             watch = m_watch = std::make_shared<ScanWatch>()]() -> BackgroundWork::Delivery {
+              auto person = std::make_shared<const SeasonPerson>(season, row, isLine, texts);
+              return [this, person, watch] {
+                if (watch->isCancelled)
+                  return;
+                m_person->showPerson(person);
+                m_tabs->setCurrentWidget(m_person);
+              };
+            });
+}
+
+void frmSTATS::openGame(std::size_t game) {
+  emit gameAsked(toQt(m_desk.catalogue()->games()[game].path));
+}
+
+void frmSTATS::startWork(int text, std::function<BackgroundWork::Delivery()> work) {
+  m_problem = 0;
+  m_progressText = text;
+  m_work.start(std::move(work));
+  showProgress();
+  showNotice();
+  m_criteria->showWhatIsOffered(m_desk, isBusy());
+  m_poll.start();
+}
+
+void frmSTATS::showProgress() {
+  const bool isScan = m_progressText == kLoadingGames;
+  const std::size_t found = isScan ? m_watch->filesFound.load() : m_progressCount;
+  m_folder->showProgress(toQt(m_texts.withPlaceholder(m_progressText, std::to_string(found))),
+                         isScan ? static_cast<int>(m_watch->filesRead) : 0,
+                         isScan ? static_cast<int>(found) : 0);
+}
+
+void frmSTATS::endWork() {
+  m_poll.stop();
+  showProgress(); // its last number, for whoever asks later
+  m_folder->endProgress();
+  m_criteria->showWhatIsOffered(m_desk, isBusy());
+  showNotice();
+}
+
+void frmSTATS::showCatalogue() {
+  m_criteria->showDesk(m_desk);
+  m_notRead->showRows(skippedRows(m_desk.catalogue(), m_texts));
+  m_tabs->setTabVisible(m_tabs->indexOf(m_notRead), !m_desk.catalogue()->skipped().empty());
+  showList();
+}
+
+void frmSTATS::showList() {
+  m_games->showRows(gameListRows(m_desk.catalogue(), m_desk.listed(), m_desk.chosenTeam(), m_texts));
+  const GameCatalogue& catalogue = *m_desk.catalogue();
+  const std::string listed =
+      Module1::withPlaceholder(m_texts.withPlaceholder(kListedGames, std::to_string(m_desk.listed().size())),
+                               std::to_string(catalogue.games().size()), "YYY");
+  const std::size_t skipped = catalogue.skipped().size();
+  m_folder->showCounts(
+      toQt(listed), skipped == 0   ? QString()
+                    : skipped == 1 ? caption(m_texts, kOneFileNotRead)
+                                   : toQt(m_texts.withPlaceholder(kFilesNotRead, std::to_string(skipped))));
+  m_criteria->showWhatIsOffered(m_desk, isBusy());
+  showNotice();
+}
+
+void frmSTATS::showSeason() {
+  m_players->showSeason(m_desk.season());
+  m_lines->showSeason(m_desk.season());
+  m_leaders->showSeason(m_desk.season());
+  m_team->showSeason(m_desk.season());
+  m_person->showPerson(nullptr);
+}
+
+void frmSTATS::showNotice() {
+  QString notice;
+  if (m_problem != 0)
+    notice = toQt(m_texts.withPlaceholder(m_problem, fromQt(m_folder->folder())));
+  else if (m_desk.hasCatalogue() && m_desk.isOutdated())
+    notice = toQt(
+        m_texts.withPlaceholder(kOutdated, std::to_string(m_desk.season()->statistics().games().size())));
+  m_notice->setText(notice);
+  m_notice->setVisible(!notice.isEmpty());
+}
+
+// The one that the user was in, else the first of the page.
+void frmSTATS::copyShownTable() {
+  const SeasonTableView* shown = nullptr;
+  for (const SeasonTableView* table : findChildren<SeasonTableView*>()) {
+    if (table->isVisibleTo(this) && (shown == nullptr || table == m_lastTable))
+      shown = table;
+  }
+  if (shown == nullptr)
+    return;
+  copyTable(*shown);
+  emit reported(caption(m_texts, kTableCopied));
+}
+
+void frmSTATS::relabelWindow() {
+  relabel(*this, m_texts);
+  setWindowTitle(caption(m_texts, kSeasonTitle));
+  m_criteria->relabelPanel();
+  m_games->showColumns(gameListColumns(m_texts));
+  m_notRead->showColumns(skippedColumns(m_texts));
+  m_players->relabelPanel();
+  m_lines->relabelPanel();
+  m_leaders->relabelPanel();
+  m_person->relabelPanel();
+  m_team->relabelPanel();
+  if (m_desk.hasCatalogue()) {
+    m_criteria->showDesk(m_desk);
+    showList();
+  }
+  if (isBusy())
+    showProgress();
+}
+
+void frmSTATS::applyColours() {
+  findChild<QToolButton*>(QStringLiteral("cmdCOPY"))->setIcon(icon(QStringLiteral("copy")));
+  m_person->applyColours();
+  m_team->applyColours();
+  relabelWindow(); // tool tips name the user's statistics
+}
+
+// Parts by name: their order among the children changes as pages come to the front.
+QByteArray frmSTATS::arrangement() const {
+  QMap<QString, QByteArray> parts;
+  for (const QSplitter* splitter : findChildren<QSplitter*>())
+    parts[splitter->objectName()] = splitter->saveState();
+  for (const SeasonTableView* table : findChildren<SeasonTableView*>())
+    parts[table->objectName()] = table->widths();
+  QByteArray state;
+  QDataStream stream(&state, QIODevice::WriteOnly);
+  stream << m_folder->folder() << m_folder->withSubfolders() << parts;
+  return state;
+}
+
+void frmSTATS::restoreArrangement(const QByteArray& state) {
+  QDataStream stream(state);
+  QString folder;
+  bool withSubfolders = false;
+  QMap<QString, QByteArray> parts;
+  stream >> folder >> withSubfolders >> parts;
+  if (stream.status() != QDataStream::Ok)
+    return; // the first time, or of another version
+  m_folder->showFolder(folder, withSubfolders);
+  for (QSplitter* splitter : findChildren<QSplitter*>())
+    splitter->restoreState(parts[splitter->objectName()]);
+  for (SeasonTableView* table : findChildren<SeasonTableView*>())
+    table->restoreWidths(parts[table->objectName()]);
+}
+
+} // namespace hooptab

@@ -1,0 +1,93 @@
+// The season's window: a folder of games with its list and criteria, the statistics of the games selected,
+// leaders, one player or line game by game, and a team. Lays out and forwards; what is worked on is decided
+// by SeasonDesk, and all that takes its time is done on a thread of its own, which can be cancelled.
+#pragma once
+
+#include "appearance/ChildWindow.h"
+#include "season/BackgroundWork.h"
+#include "season/SeasonDesk.h"
+
+#include <QTimer>
+
+class QLabel;
+class QTabWidget;
+
+namespace hooptab {
+
+class AveragesPanel;
+class CriteriaPanel;
+class Dialogs;
+class FolderPanel;
+class LeadersPanel;
+class PersonPanel;
+class SeasonTableView;
+class Settings;
+class TeamPanel;
+
+class frmSTATS : public ChildWindow {
+  Q_OBJECT
+
+ public:
+  // All must outlive it.
+  frmSTATS(FileSystem& files, const Settings& settings, const Texts& texts, Dialogs& dialogs,
+           QWidget* parent = nullptr);
+  ~frmSTATS() override;
+
+  // Reads the folder that is shown. Nothing while other work is under way.
+  void readFolder();
+  void readFolder(const QString& folder, bool withSubfolders);
+  bool isBusy() const { return m_work.isRunning(); }
+
+  void relabelWindow() override;
+  void applyColours() override;
+  QByteArray arrangement() const override; // folder, splitters, column widths
+  void restoreArrangement(const QByteArray& state) override;
+
+ signals:
+  void gameAsked(const QString& path); // to be opened as a scorecard
+
+ private:
+  QWidget* makeGames();
+  void browse();
+  void apply();
+  void generate();
+  void showPerson(const SeasonRow& row, bool isLine);
+  void openGame(std::size_t game);
+  void takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue> catalogue);
+
+  void startWork(int text, std::function<BackgroundWork::Delivery()> work);
+  void showProgress();
+  void endWork();
+  void showCatalogue();
+  void showList();
+  void showSeason();
+  void showNotice();
+  void copyShownTable();
+
+  FileSystem& m_files;
+  const Settings& m_settings;
+  const Texts& m_texts;
+  Dialogs& m_dialogs;
+  SeasonDesk m_desk;
+  std::shared_ptr<ScanWatch> m_watch; // of the scan under way
+  int m_progressText = 0;             // of the work under way
+  std::size_t m_progressCount = 0;    // of games in it, where it is no scan
+  int m_problem = 0;                  // text of what went wrong last; 0: nothing
+  QTimer m_poll;
+
+  FolderPanel* m_folder;
+  QLabel* m_notice;
+  QTabWidget* m_tabs;
+  CriteriaPanel* m_criteria = nullptr;
+  SeasonTableView* m_games = nullptr;
+  SeasonTableView* m_notRead;
+  AveragesPanel* m_players;
+  AveragesPanel* m_lines;
+  LeadersPanel* m_leaders;
+  PersonPanel* m_person;
+  TeamPanel* m_team;
+  const SeasonTableView* m_lastTable = nullptr; // that the user was in
+  BackgroundWork m_work;                        // goes first, before what its work refers to
+};
+
+} // namespace hooptab
