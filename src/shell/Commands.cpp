@@ -26,7 +26,7 @@ constexpr Command kCommands[] = {
     {"vwPRINT", "", 1036, "vwprint", Scorecard, Action, "Ctrl+P"},
     {"VwCLOSE", "", 1335, "vwclose", Scorecard, Action, "Ctrl+W", false, kBuilt},
 
-    {"STATS", "", 1045, "stats", Always, Action, "Ctrl+T", kSeparator},
+    {"STATS", "", 1045, "stats", Always, Action, "Ctrl+T", kSeparator, kBuilt},
       {"StLISTGAMES", "STATS", 1421, "stlistgames", Season, Action, "", kSeparator},
       {"StLISTGAMESSOMM", "STATS", 1422, "stlistgamessomm", Season},
       {"stSTATJOUEURS", "STATS", 1423, "ststatjoueurs", Season, Action, "", kSeparator},
@@ -39,7 +39,7 @@ constexpr Command kCommands[] = {
       {"stRAPJOUEUR", "STATS", 1430, "strapjoueur", Season, Action, "", kSeparator},
       {"stRAPLIGNE", "STATS", 1431, "strapligne", Season},
     {"stPRINT", "", 1435, "stprint", Season, Action, "Ctrl+Shift+P"},
-    {"stCLOSE", "", 1338, "stclose", Season, Action, "Ctrl+Shift+T"},
+    {"stCLOSE", "", 1338, "stclose", Season, Action, "Ctrl+Shift+T", false, kBuilt},
 
     {"LIVE", "", 1037, "live", Always, Menu, "", kSeparator},
       {"LIVENew", "LIVE", 1038, "livenew", StartOfInput, Action, "Ctrl+N", false, kBuilt},

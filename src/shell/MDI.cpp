@@ -10,6 +10,7 @@
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
 #include "scorecard/frmVIEW.h"
+#include "season/frmSTATS.h"
 #include "setup/frmNEWGAME.h"
 #include "shell/CommandBar.h"
 #include "shell/GameMenu.h"
@@ -71,6 +72,15 @@ QStringList localFiles(const QMimeData& data) {
       files << url.toLocalFile();
   }
   return files;
+}
+
+// The window of a kind of which one is open at a time, or null.
+template <class Window> Window* firstOf(const QList<ChildWindow*>& windows) {
+  for (ChildWindow* child : windows) {
+    if (auto* window = qobject_cast<Window*>(child))
+      return window;
+  }
+  return nullptr;
 }
 
 } // namespace
@@ -165,6 +175,12 @@ void MDI::carryOut(const QString& key) {
   }
   if (key == u"gEQUIPE")
     return openTeams();
+  if (key == u"STATS")
+    return openSeason();
+  if (frmSTATS* window = season(); window != nullptr && key == u"stCLOSE") {
+    window->parentWidget()->close();
+    return;
+  }
   if (key == u"tbTERRAIN")
     return openColours();
   if (key == u"tbKEYPAD")
@@ -347,6 +363,15 @@ void MDI::openTeams() {
   addChild(new frmEQUIPES(m_teams, m_workshop.texts, m_workshop.dialogs));
 }
 
+void MDI::openSeason() {
+  if (frmSTATS* open = season())
+    return bringToFront(*open);
+  auto* window = new frmSTATS(m_workshop.store.files(), m_workshop.settings, m_workshop.texts, m_workshop.dialogs);
+  connect(window, &frmSTATS::gameAsked, this, &MDI::openGame);
+  addChild(window);
+  window->readFolder();
+}
+
 void MDI::bringToFront(ChildWindow& child) {
   auto* window = qobject_cast<QMdiSubWindow*>(child.parentWidget());
   if (window->isMinimized())
@@ -440,19 +465,15 @@ QList<ChildWindow*> MDI::children() const {
 }
 
 frmLIVE* MDI::live() const {
-  for (ChildWindow* child : children()) {
-    if (auto* window = qobject_cast<frmLIVE*>(child))
-      return window;
-  }
-  return nullptr;
+  return firstOf<frmLIVE>(children());
 }
 
 frmMANUAL* MDI::manual() const {
-  for (ChildWindow* child : children()) {
-    if (auto* window = qobject_cast<frmMANUAL*>(child))
-      return window;
-  }
-  return nullptr;
+  return firstOf<frmMANUAL>(children());
+}
+
+frmSTATS* MDI::season() const {
+  return firstOf<frmSTATS>(children());
 }
 
 frmVIEW* MDI::scorecard() const {
@@ -481,6 +502,7 @@ void MDI::showCommands() {
   if (const frmLIVE* window = live())
     modes.live = window->isRunning() ? LiveClock::Running : LiveClock::Stopped;
   modes.hasManual = manual() != nullptr;
+  modes.hasSeason = season() != nullptr;
   modes.asksRebounds = m_workshop.settings.asksRebounds;
   modes.keypadIsActive = m_workshop.settings.keypadIsActive;
   m_commands->show(modes, m_workshop.texts);

@@ -32,6 +32,7 @@ class TimeSource;
 class WindowMemory;
 class frmLIVE;
 class frmMANUAL;
+class frmSTATS;
 class frmVIEW;
 
 // What the main window works with; made by main, which keeps it alive.
@@ -79,6 +80,7 @@ class MDI : public QMainWindow {
   [[nodiscard]] bool manualAgreesToClose();
   void makeGame();
   void openTeams();
+  void openSeason(); // one at a time
   void openColours();
   void openKeys();
   void switchKeypad();
@@ -92,6 +94,7 @@ class MDI : public QMainWindow {
   [[nodiscard]] QList<ChildWindow*> children() const; // the open windows
   [[nodiscard]] frmLIVE* live() const;      // the one that is open, or null
   [[nodiscard]] frmMANUAL* manual() const; // the same
+  [[nodiscard]] frmSTATS* season() const;             // the one that is open, or null
   [[nodiscard]] frmVIEW* scorecard() const;           // the one in front, or null
   [[nodiscard]] frmVIEW* scorecardOf(const QString& path) const;
   void showCommands();
