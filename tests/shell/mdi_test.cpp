@@ -9,6 +9,7 @@
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
 #include "scorecard/frmVIEW.h"
+#include "season/frmSTATS.h"
 #include "setup/frmNEWGAME.h"
 #include "shell/Commands.h"
 #include "shell/InstanceLock.h"
@@ -18,6 +19,7 @@
 #include "support/ScriptedDialogs.h"
 #include "teams/frmEQUIPES.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
@@ -449,6 +451,42 @@ TEST_F(MainWindowTest, EntersTotalsInTheirOwnWindowWhichMakesRoomForALiveGame) {
   EXPECT_EQ(pathOfManual(), QString());
   EXPECT_FALSE(action("CLOSELIVEMANUAL").isEnabled());
   EXPECT_FALSE(QFileInfo::exists(path + QStringLiteral(".lock")));
+}
+
+TEST_F(MainWindowTest, OpensOneSeasonWindowWhoseGamesBecomeScorecards) {
+  const QString path = makeGame("a.GAM");
+  store.Path(fromQt(path));
+  ProfileBatch end;
+  end.set("DETAILS", "TERMINE", "1");
+  ASSERT_TRUE(store.write(end));
+  settings->lastGameFolder = fromQt(games.path());
+  const auto seasons = [this] { return area().findChildren<frmSTATS*>(); };
+  EXPECT_FALSE(action("stCLOSE").isEnabled());
+  action("STATS").trigger();
+  action("STATS").trigger();
+  ASSERT_EQ(seasons().size(), 1);
+  EXPECT_TRUE(action("stCLOSE").isEnabled());
+  EXPECT_FALSE(action("stPRINT").isEnabled()) << "nothing prints yet";
+  frmSTATS& season = *seasons()[0];
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !season.isBusy(); }));
+  const auto* list = season.findChild<QAbstractItemView*>(QStringLiteral("lvwGAMES"));
+  EXPECT_EQ(list->model()->rowCount(), 1);
+
+  emit season.gameAsked(path);
+  ASSERT_EQ(scorecards().size(), 1);
+  EXPECT_EQ(scorecards()[0]->path(), path);
+  EXPECT_TRUE(action("stCLOSE").isEnabled()) << "behind the scorecard it is still there";
+  action("tbLANGUE").trigger();
+  EXPECT_EQ(season.windowTitle(), text(1045));
+  action("stCLOSE").trigger();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return seasons().isEmpty() && !action("stCLOSE").isEnabled(); }));
+  EXPECT_EQ(scorecards().size(), 1);
+
+  settings->lastGameFolder = "/";
+  action("STATS").trigger();
+  ASSERT_EQ(seasons().size(), 1);
+  EXPECT_EQ(seasons()[0]->findChild<QLineEdit*>(QStringLiteral("txtDIR"))->text(), games.path())
+      << "its own last folder";
 }
 
 TEST_F(MainWindowTest, CourtColoursReachOpenWindowsAtOnce) {

@@ -1,0 +1,457 @@
+#include "season/frmSTATS.h"
+
+#include "appearance/CourtView.h"
+#include "appearance/relabel.h"
+#include "season/SeasonTableView.h"
+#include "season/SeriesView.h"
+#include "simulator/SampleSeason.h"
+#include "storage/Settings.h"
+#include "storage/cinifile.h"
+#include "support/ScriptedDialogs.h"
+#include "support/SharedGames.h"
+#include "support/TemporaryFolder.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace hooptab {
+namespace {
+
+namespace fs = std::filesystem;
+using Fatal = QAbstractItemModelTester::FailureReportingMode;
+
+constexpr int kGames = 24;
+constexpr int kPoints = 10; // columns of the season tables, from 0
+constexpr int kTime = 2;
+
+// The window on a folder of simulated games, one of them twice, with a file that is no game.
+class SeasonWindowTest : public testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    s_season = std::make_unique<TemporaryFolder>();
+    FileSystem files;
+    cinifile store{files};
+    const SampleSeason season(kGames, 11);
+    for (int i = 0; i < kGames; ++i) {
+      store.Path(s_season->path(std::to_string(i) + ".GAM"));
+      ASSERT_TRUE(store.write(season.game(i).batch()));
+    }
+    fs::copy_file(s_season->path("3.GAM"), s_season->path("copy.GAM"));
+    (void)s_season->write("broken.GAM", "no game");
+    fs::create_directory(s_season->path("more"));
+    fs::copy_file(s_season->path("5.GAM"), s_season->path("more/5.GAM"));
+  }
+  static void TearDownTestSuite() { s_season.reset(); }
+
+  void SetUp() override {
+    settings.lastGameFolder = s_season->path();
+    makeWindow();
+  }
+  void makeWindow() {
+    window = std::make_unique<frmSTATS>(files, settings, texts, dialogs);
+    for (SeasonTableView* table : window->findChildren<SeasonTableView*>())
+      new QAbstractItemModelTester(&table->content(), Fatal::Fatal, &table->content());
+    window->resize(1350, 640);
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+  }
+  void wait() {
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !window->isBusy(); }, 60000));
+  }
+  void read() {
+    window->readFolder();
+    EXPECT_TRUE(window->isBusy());
+    wait();
+  }
+  void generate() {
+    click("cmdGENERATE");
+    wait();
+  }
+  void readAndGenerate() {
+    read();
+    generate();
+  }
+  void click(const char* name) {
+    auto& button = find<QPushButton>(name);
+    ASSERT_TRUE(button.isEnabled()) << name;
+    button.click();
+  }
+  void choose(const char* name, const QString& entry) {
+    auto& choice = find<QComboBox>(name);
+    ASSERT_GE(choice.findText(entry), 0) << name << fromQt(entry);
+    choice.setCurrentIndex(choice.findText(entry));
+  }
+  template <class Widget>
+  Widget& find(const char* name) const {
+    auto* found = window->findChild<Widget*>(QLatin1String(name));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  SeasonTableView& table(const char* name) const { return find<SeasonTableView>(name); }
+  int rows(const char* name) const { return table(name).model()->rowCount(); }
+  QString cell(const char* name, int row, int column) const {
+    return table(name).model()->index(row, column).data().toString();
+  }
+  QString currentPage() const {
+    const auto& tabs = find<QTabWidget>("tabs");
+    return tabs.tabText(tabs.currentIndex());
+  }
+
+  static inline std::unique_ptr<TemporaryFolder> s_season;
+  TemporaryFolder programFolder;
+  FileSystem files;
+  cinifile store{files};
+  Settings settings{store, programFolder.path()};
+  Texts texts;
+  ScriptedDialogs dialogs;
+  std::unique_ptr<frmSTATS> window;
+};
+
+TEST_F(SeasonWindowTest, ListsTheGamesOfAFolder) {
+  read();
+  EXPECT_EQ(rows("lvwGAMES"), kGames + 1);
+  EXPECT_EQ(find<QLabel>("lblGAMES").text(), QStringLiteral("25 of 25 games"));
+  EXPECT_TRUE(find<QLabel>("lblPROGRESS").text().contains(QStringLiteral("26"))) << "files found";
+  EXPECT_EQ(find<QComboBox>("lstequipes").count(), 5) << "all, and four teams";
+  EXPECT_EQ(find<QToolButton>("cmdNOTREAD").text(), QStringLiteral("1 file was not read"));
+  find<QToolButton>("cmdNOTREAD").click();
+  ASSERT_EQ(rows("lvwNOTREAD"), 1);
+  EXPECT_TRUE(table("lvwNOTREAD").isVisible());
+  EXPECT_TRUE(cell("lvwNOTREAD", 0, 0).endsWith(QStringLiteral("broken.GAM")));
+  EXPECT_EQ(cell("lvwNOTREAD", 0, 1), caption(texts, 2052));
+
+  find<QCheckBox>("chkSUBFOLDERS").click();
+  wait();
+  EXPECT_EQ(rows("lvwGAMES"), kGames + 2);
+}
+
+TEST_F(SeasonWindowTest, HiddenColumnsOfTheListSortLikeTheOthers) {
+  read();
+  SeasonTableView& games = table("lvwGAMES");
+  ASSERT_EQ(games.model()->columnCount(), 17);
+  for (int column = 9; column < 17; ++column)
+    EXPECT_TRUE(games.isColumnHidden(column)) << column;
+  EXPECT_TRUE(cell("lvwGAMES", 0, 9).endsWith(QStringLiteral(".GAM")));
+  for (int column = 0; column < 17; ++column) {
+    games.model()->sort(column, Qt::DescendingOrder);
+    const QVariant first = games.model()->index(0, column).data(SnapshotModel::kSortRole);
+    const QVariant last = games.model()->index(kGames, column).data(SnapshotModel::kSortRole);
+    if (first.userType() == QMetaType::Double)
+      EXPECT_GE(first.toDouble(), last.toDouble()) << column;
+    else
+      EXPECT_GE(QString::localeAwareCompare(first.toString(), last.toString()), 0) << column;
+  }
+  games.model()->sort(-1, Qt::AscendingOrder);
+  EXPECT_LE(cell("lvwGAMES", 0, 0), cell("lvwGAMES", kGames, 0)) << "unsorted: by date";
+}
+
+TEST_F(SeasonWindowTest, CriteriaNarrowTheListWhenTheyAreApplied) {
+  read();
+  EXPECT_FALSE(find<QPushButton>("cmdFILTER").isEnabled()) << "nothing was changed";
+  const QString team = find<QComboBox>("lstequipes").itemText(1);
+  choose("lstequipes", team);
+  EXPECT_EQ(rows("lvwGAMES"), kGames + 1) << "not yet";
+  click("cmdFILTER");
+  const int ofTeam = rows("lvwGAMES");
+  EXPECT_GT(ofTeam, 0);
+  EXPECT_LT(ofTeam, kGames);
+  for (int row = 0; row < ofTeam; ++row)
+    EXPECT_TRUE(cell("lvwGAMES", row, 2).contains(u'-')) << "the team's own result: W 87-80";
+
+  choose("lstOU", caption(texts, 1200));
+  click("cmdFILTER");
+  const int atHome = rows("lvwGAMES");
+  choose("lstOU", caption(texts, 1201));
+  click("cmdFILTER");
+  EXPECT_EQ(atHome + rows("lvwGAMES"), ofTeam);
+  choose("lstOU", caption(texts, 1015));
+  choose("lstequipes", caption(texts, 1015));
+
+  find<QCheckBox>("chkCOPIES").click();
+  click("cmdFILTER");
+  EXPECT_EQ(rows("lvwGAMES"), kGames);
+
+  auto& from = find<QDateEdit>("DTdu(0)");
+  EXPECT_FALSE(from.isEnabled());
+  find<QCheckBox>("chkdate").click();
+  EXPECT_TRUE(from.isEnabled());
+  EXPECT_EQ(from.text(), cell("lvwGAMES", 0, 0)) << "the season's first day";
+  from.setDate(QDate::fromString(cell("lvwGAMES", 10, 0), Qt::ISODate));
+  click("cmdFILTER");
+  EXPECT_LE(rows("lvwGAMES"), kGames - 9);
+  EXPECT_GT(rows("lvwGAMES"), 0);
+  from.setDate(QDate(2040, 1, 1));
+  click("cmdFILTER");
+  EXPECT_EQ(rows("lvwGAMES"), 0);
+  EXPECT_FALSE(find<QPushButton>("cmdGENERATE").isEnabled());
+}
+
+TEST_F(SeasonWindowTest, GeneratesTheTablesInThreeInstances) {
+  readAndGenerate();
+  EXPECT_EQ(currentPage(), QStringLiteral("Players"));
+  EXPECT_TRUE(find<QLabel>("lblPROGRESS").text().contains(QStringLiteral("25 Games Selected")));
+  for (const char* name : {"lvwSTATjoueurs(0)", "lvwSTATjoueurs(1)", "lvwSTATjoueurs(2)"}) {
+    EXPECT_EQ(table(name).model()->columnCount(), 55) << name;
+    EXPECT_TRUE(table(name).isColumnHidden(54)) << name;
+    EXPECT_EQ(rows(name), rows("lvwSTATjoueurs(0)")) << name;
+  }
+  EXPECT_EQ(table("lvwSTATlignes(0)").model()->columnCount(), 53);
+  EXPECT_GT(rows("lvwSTATlignes(2)"), rows("lvwSTATjoueurs(0)"));
+
+  // By rank: the most points first; and each instance the same row divided.
+  const double total = cell("lvwSTATjoueurs(0)", 0, kPoints).toDouble();
+  const double games = cell("lvwSTATjoueurs(0)", 0, 3).toDouble();
+  EXPECT_GE(total, cell("lvwSTATjoueurs(0)", 1, kPoints).toDouble());
+  EXPECT_NEAR(cell("lvwSTATjoueurs(1)", 0, kPoints).toDouble(), total / games, 0.051);
+  EXPECT_EQ(cell("lvwSTATjoueurs(2)", 0, kTime), QStringLiteral("--"));
+  EXPECT_EQ(cell("lvwSTATjoueurs(0)", 0, 52), QStringLiteral("1"));
+
+  QWidget& page = *find<QTabWidget>("tabs").currentWidget();
+  auto& warning = *page.findChild<QLabel*>(QStringLiteral("lblMINWarning"));
+  EXPECT_FALSE(warning.isVisible());
+  table("lvwSTATjoueurs(0)").setCurrentIndex(table("lvwSTATjoueurs(0)").model()->index(2, 0));
+  page.findChild<QToolButton*>(QStringLiteral("cmdPERMINUTE"))->click();
+  EXPECT_TRUE(warning.isVisible());
+  EXPECT_EQ(table("lvwSTATjoueurs(2)").currentRow(), 2) << "the player stays chosen";
+
+  // Short rows bear a star, and only they.
+  bool hasStar = false;
+  for (int row = 0; row < rows("lvwSTATlignes(2)"); ++row) {
+    const QStringList clock = cell("lvwSTATlignes(0)", row, kTime).split(u':');
+    const bool isShort = clock.first().toInt() < 10;
+    hasStar = hasStar || isShort;
+    EXPECT_EQ(cell("lvwSTATlignes(2)", row, 1).endsWith(u'*'), isShort) << row;
+    EXPECT_FALSE(cell("lvwSTATlignes(0)", row, 1).endsWith(u'*'));
+  }
+  EXPECT_TRUE(hasStar);
+}
+
+TEST_F(SeasonWindowTest, TellsWhenStatisticsAreOfAnotherSelection) {
+  readAndGenerate();
+  auto& notice = find<QLabel>("lblNOTICE");
+  EXPECT_FALSE(notice.isVisible());
+  choose("lstequipes", find<QComboBox>("lstequipes").itemText(2));
+  click("cmdFILTER");
+  EXPECT_TRUE(notice.isVisible());
+  EXPECT_TRUE(notice.text().contains(QStringLiteral("25")));
+  const int all = rows("lvwSTATjoueurs(0)");
+  generate();
+  EXPECT_FALSE(notice.isVisible());
+  EXPECT_LT(rows("lvwSTATjoueurs(0)"), all) << "the team's own players";
+}
+
+TEST_F(SeasonWindowTest, ShowsAPlayerGameByGame) {
+  readAndGenerate();
+  const QString name = cell("lvwSTATjoueurs(0)", 0, 1);
+  const int games = cell("lvwSTATjoueurs(0)", 0, 3).toInt();
+  emit table("lvwSTATjoueurs(0)").rowAsked(0);
+  wait();
+  EXPECT_EQ(currentPage(), QStringLiteral("Player or Line"));
+  EXPECT_EQ(find<QLabel>("lblNom").text(), name);
+  EXPECT_TRUE(find<QLabel>("jGAME").text().contains(QString::number(games)));
+  EXPECT_EQ(rows("lvwRESULTS"), games);
+  ASSERT_EQ(rows("lvwRECORD"), 22);
+  EXPECT_EQ(cell("lvwRECORD", 0, 0), QStringLiteral("PT"));
+
+  // The record is the most of the games, and says where.
+  int most = 0;
+  QString where;
+  for (int row = 0; row < games; ++row) {
+    const int points = cell("lvwRESULTS", row, 11).toInt();
+    if (points >= most) {
+      where = (points == most ? QStringLiteral("+") : QString()) + cell("lvwRESULTS", row, 0) + u' ' +
+              cell("lvwRESULTS", row, 3);
+      most = points;
+    }
+  }
+  EXPECT_EQ(cell("lvwRECORD", 0, 1), QString::number(most));
+  EXPECT_EQ(cell("lvwRECORD", 0, 2), where);
+
+  auto& picture = find<SeriesView>("picGAMES");
+  ASSERT_EQ(static_cast<int>(picture.drawing().values.size()), games);
+  EXPECT_EQ(*std::ranges::max_element(picture.drawing().values), most);
+  EXPECT_TRUE(picture.drawing().title.contains(QStringLiteral("Points")));
+
+  QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
+  emit table("lvwRESULTS").rowAsked(0);
+  QTest::keyClick(&picture, Qt::Key_Right);
+  QTest::keyClick(&picture, Qt::Key_Return);
+  ASSERT_EQ(opened.size(), 2);
+  EXPECT_EQ(opened[0][0], opened[1][0]) << "both are the first game";
+  EXPECT_TRUE(fs::exists(fromQt(opened[0][0].toString())));
+
+  emit table("lvwSTATlignes(0)").rowAsked(0);
+  wait();
+  EXPECT_EQ(find<QLabel>("lblRECORDS").text(), caption(texts, 1412));
+  EXPECT_FALSE(find<QWidget>("picSHOTS").findChild<CourtView*>()->isVisible()) << "no shots are kept by line";
+}
+
+TEST_F(SeasonWindowTest, OpensAGameByDoubleClickAndByEnter) {
+  read();
+  QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
+  SeasonTableView& games = table("lvwGAMES");
+  games.model()->sort(0, Qt::DescendingOrder);
+  const QPoint place = games.visualRect(games.model()->index(1, 1)).center();
+  QTest::mouseClick(games.viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseDClick(games.viewport(), Qt::LeftButton, {}, place);
+  ASSERT_EQ(opened.size(), 1);
+  EXPECT_EQ(opened[0][0].toString(), cell("lvwGAMES", 1, 9)) << "of the order shown";
+  games.setFocus();
+  QTest::keyClick(&games, Qt::Key_Return);
+  EXPECT_EQ(opened.size(), 2);
+}
+
+TEST_F(SeasonWindowTest, ShowsLeadersAndATeam) {
+  readAndGenerate();
+  ASSERT_GE(rows("lvwLEADERS"), 10);
+  EXPECT_EQ(cell("lvwLEADERS", 0, 3), cell("lvwSTATjoueurs(0)", 0, 1)) << "points are shown first";
+  EXPECT_EQ(cell("lvwLEADERS", 0, 5), cell("lvwSTATjoueurs(0)", 0, kPoints));
+  table("lvwFIRST").setCurrentIndex(table("lvwFIRST").model()->index(0, 0));
+  EXPECT_TRUE(cell("lvwLEADERS", 0, 5).contains(u':')) << "the time played";
+  EXPECT_EQ(cell("lvwFIRST", 0, 1), cell("lvwLEADERS", 0, 3));
+
+  auto& teams = find<QComboBox>("lstTEAM");
+  EXPECT_EQ(teams.count(), 4);
+  const auto& margins = find<SeriesView>("picMARGINS").drawing();
+  int wins = 0;
+  for (const auto& margin : margins.values)
+    wins += *margin > 0 ? 1 : 0;
+  EXPECT_TRUE(find<QLabel>("lblBALANCE").text().startsWith(QString::number(wins) + QStringLiteral(" wins")));
+  const QString title = margins.title;
+  teams.setCurrentIndex(1);
+  EXPECT_NE(find<SeriesView>("picMARGINS").drawing().title, title);
+}
+
+TEST_F(SeasonWindowTest, EveryTableCanBeCopied) {
+  readAndGenerate();
+  QSignalSpy reports(window.get(), &ChildWindow::reported);
+  find<QToolButton>("cmdCOPY").click();
+  const QStringList lines = QApplication::clipboard()->text().split(u'\n');
+  EXPECT_EQ(lines.size(), rows("lvwSTATjoueurs(0)") + 2) << "headers, rows, and the last line's end";
+  EXPECT_EQ(lines[0].split(u'\t').size(), 54) << "all but the hidden one";
+  EXPECT_TRUE(lines[1].contains(cell("lvwSTATjoueurs(0)", 0, 1)));
+  EXPECT_EQ(reports.size(), 1);
+}
+
+TEST_F(SeasonWindowTest, ReadingCanBeCancelled) {
+  read();
+  window->readFolder();
+  click("cmdCANCEL");
+  wait();
+  EXPECT_EQ(rows("lvwGAMES"), kGames + 1) << "what was read before stays";
+  EXPECT_TRUE(find<QPushButton>("cmdGENERATE").isEnabled());
+  window->readFolder();
+  window.reset(); // while it reads: nothing is left behind
+}
+
+TEST_F(SeasonWindowTest, SaysWhatIsWrongWithAFolder) {
+  const TemporaryFolder empty;
+  dialogs.nextFolder = toQt(empty.path());
+  click("cmdDIR");
+  wait();
+  EXPECT_EQ(find<QLineEdit>("txtDIR").text(), toQt(empty.path()));
+  EXPECT_EQ(find<QLabel>("lblPROGRESS").text(), toQt(texts.withPlaceholder(1374, "0")));
+  EXPECT_TRUE(find<QLabel>("lblNOTICE").text().contains(toQt(empty.path())));
+  EXPECT_FALSE(find<QPushButton>("cmdGENERATE").isEnabled());
+
+  window->readFolder(toQt(empty.path("gone")), false);
+  wait();
+  EXPECT_TRUE(find<QLabel>("lblNOTICE").text().contains(QStringLiteral("does not exist")));
+  EXPECT_EQ(rows("lvwGAMES"), 0);
+  dialogs.nextFolder.clear(); // the user cancels
+  click("cmdDIR");
+  EXPECT_FALSE(window->isBusy());
+}
+
+TEST_F(SeasonWindowTest, SpeaksTheOtherLanguageAtOnce) {
+  readAndGenerate();
+  table("lvwSTATjoueurs(0)").model()->sort(1, Qt::AscendingOrder);
+  const QString first = cell("lvwSTATjoueurs(0)", 0, 1);
+  texts.setLanguage(Language::French);
+  window->relabelWindow();
+  EXPECT_EQ(currentPage(), QStringLiteral("Joueurs"));
+  EXPECT_EQ(table("lvwSTATjoueurs(0)").model()->headerData(1, Qt::Horizontal).toString(),
+            caption(texts, 1023));
+  EXPECT_EQ(cell("lvwSTATjoueurs(0)", 0, 1), first) << "sorted as before";
+  EXPECT_EQ(find<QLabel>("lblGAMES").text(), QStringLiteral("25 des 25 parties"));
+  EXPECT_EQ(find<QComboBox>("lstequipes").itemText(0), caption(texts, 1015));
+  EXPECT_EQ(find<QComboBox>("lstequipes").count(), 5);
+  window->applyColours();
+}
+
+TEST_F(SeasonWindowTest, FolderAndColumnWidthsAreRemembered) {
+  const TemporaryFolder other;
+  read();
+  table("lvwGAMES").setColumnWidth(8, 333);
+  window->readFolder(toQt(other.path()), true);
+  wait();
+  const QByteArray left = window->arrangement();
+  makeWindow();
+  window->restoreArrangement(left);
+  EXPECT_EQ(find<QLineEdit>("txtDIR").text(), toQt(other.path()));
+  EXPECT_TRUE(find<QCheckBox>("chkSUBFOLDERS").isChecked());
+  EXPECT_EQ(table("lvwGAMES").columnWidth(8), 333);
+  window->restoreArrangement("of an older program"); // is no harm
+}
+
+TEST_F(SeasonWindowTest, ReadsRealGames) {
+  if (sharedGames().empty())
+    GTEST_SKIP() << "no shared games";
+  window->readFolder(toQt((sharedFolder() / "games").string()), true);
+  wait();
+  EXPECT_GE(rows("lvwGAMES"), 1);
+  generate();
+  int points = 0;
+  for (int row = 0; row < rows("lvwGAMES"); ++row)
+    points += cell("lvwGAMES", row, 4).toInt() + cell("lvwGAMES", row, 6).toInt();
+  int ofPlayers = 0;
+  for (int row = 0; row < rows("lvwSTATjoueurs(0)"); ++row)
+    ofPlayers += cell("lvwSTATjoueurs(0)", row, kPoints).toInt();
+  EXPECT_EQ(ofPlayers, points) << "every point is some player's";
+}
+
+// A whole league: the window stays live while it works, and sorts at once.
+TEST(SeasonTableViewTest, SortsThousandsOfRowsAtOnce) {
+  constexpr int kRows = 10000;
+  SeasonTableView table(QStringLiteral("large"), 1);
+  table.showColumns({{.header = QStringLiteral("Name"), .isLeftAligned = true, .isText = true},
+                     {.header = QStringLiteral("Points"), .longest = QStringLiteral("0000")}});
+  TableRows rows;
+  rows.count = kRows;
+  rows.text = [](int row, int column) {
+    return column == 0 ? QStringLiteral("Player %1").arg(row * 7919 % kRows) : QString::number(row % 100);
+  };
+  rows.sortValue = [](int row, int) -> double { return row % 100; };
+  table.showRows(rows);
+  table.resize(600, 400);
+  table.show();
+  table.setCurrentIndex(table.model()->index(5, 0));
+  for (const int column : {0, 1}) {
+    QElapsedTimer time;
+    time.start();
+    table.sortByColumn(column, Qt::DescendingOrder);
+    RecordProperty(column == 0 ? "text_ms" : "number_ms", static_cast<int>(time.elapsed()));
+    EXPECT_LT(time.elapsed(), 2000); // far above what it takes, so that a busy machine does not fail it
+  }
+  EXPECT_EQ(table.currentRow(), 5) << "the row stays chosen wherever it goes";
+  EXPECT_EQ(table.model()->index(0, 1).data().toString(), QStringLiteral("99"));
+  EXPECT_EQ(table.content().sourceRow(0), 99) << "equal ones in the order in which they came";
+}
+
+} // namespace
+} // namespace hooptab
