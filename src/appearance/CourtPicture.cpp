@@ -128,12 +128,6 @@ double scaleOf(const QRectF& fitted, CourtPicture::Turn turn) {
   return fitted.width() / (turn == CourtPicture::Turn::BaselineLeft ? kLength : kWidth);
 }
 
-// Device units of one pixel of a common screen: sizes that the eye asks for are the same on paper.
-double pixelOf(const QPainter& painter) {
-  constexpr double kScreenDpi = 96;
-  return painter.device() == nullptr ? 1 : std::max(1.0, painter.device()->logicalDpiX() / kScreenDpi);
-}
-
 void paintMark(QPainter& painter, const QPointF& centre, double radius, const CourtMark& mark) {
   const double line = radius * 0.55;
   if (mark.isHighlighted) { // a ring that no other mark has
@@ -173,9 +167,8 @@ struct Plates {
   }
 };
 
-Plates layOut(const QPainter& painter, const QRectF& fitted, CourtPicture::Turn turn,
+Plates layOut(const QPainter& painter, double pixel, const QRectF& fitted, CourtPicture::Turn turn,
               const std::vector<CourtZoneText>& zones, bool withLower) {
-  const double pixel = pixelOf(painter);
   const double scale = scaleOf(fitted, turn);
   const QTransform transform = CourtPicture::fromCourt(fitted, turn);
   constexpr double kFontUnits = 5;
@@ -227,6 +220,14 @@ QTransform CourtPicture::fromCourt(const QRectF& fitted, Turn turn) {
     return {scale, 0, 0, scale, fitted.left(), fitted.top()};
   // A quarter turn clockwise: the baseline at the top, the shooter's left at the left.
   return {0, scale, -scale, 0, fitted.left() + kWidth * scale, fitted.top()};
+}
+
+// Device units of one pixel of a common screen: sizes that the eye asks for are the same on paper.
+double CourtPicture::pixelOf(const QPainter& painter) const {
+  constexpr double kScreenDpi = 96;
+  if (m_pixel > 0)
+    return m_pixel;
+  return painter.device() == nullptr ? 1 : std::max(1.0, painter.device()->logicalDpiX() / kScreenDpi);
 }
 
 QColor CourtPicture::lineColour() const {
@@ -326,10 +327,10 @@ void CourtPicture::paintZones(QPainter& painter, const QRectF& fitted, Turn turn
   painter.restore();
 
   bool showsLower = true;
-  Plates layout = layOut(painter, fitted, turn, zones, showsLower);
+  Plates layout = layOut(painter, pixelOf(painter), fitted, turn, zones, showsLower);
   if (layout.overlap()) {
     showsLower = false;
-    layout = layOut(painter, fitted, turn, zones, showsLower);
+    layout = layOut(painter, pixelOf(painter), fitted, turn, zones, showsLower);
   }
   for (std::size_t i = 0; i < zones.size(); ++i) {
     const QRectF& plate = layout.plates[i];

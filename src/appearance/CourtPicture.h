@@ -39,7 +39,8 @@ struct CourtZoneText {
 
 class CourtPicture {
  public:
-  explicit CourtPicture(const CourtColours& colours) : m_colours(colours) {}
+  // `pixel` is the size of a common screen's pixel where the painter's own units are others, as on a page that is scaled.
+  explicit CourtPicture(const CourtColours& colours, double pixel = 0) : m_colours(colours), m_pixel(pixel) {}
 
   // The largest rectangle of the court's shape in `area`, centred; and the transform from court units into
   // it. The picture stands upright as stored (baseline at the left) or turned so that the baseline is at the
@@ -62,7 +63,10 @@ class CourtPicture {
   void paintLines(QPainter& painter, double scale) const;
   [[nodiscard]] QColor lineColour() const;
 
+  [[nodiscard]] double pixelOf(const QPainter& painter) const;
+
   CourtColours m_colours;
+  double m_pixel;
 };
 
 } // namespace hooptab

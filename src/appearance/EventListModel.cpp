@@ -2,6 +2,7 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "storage/RunningScore.h"
 
 #include <QFont>
 #include <algorithm>
@@ -51,7 +52,7 @@ void EventListModel::show(const Game& game) {
   else if (newCount < oldCount)
     beginRemoveRows({}, first, first + oldCount - newCount - 1);
   m_game = game;
-  countScore();
+  m_score = runningScore(m_game.events);
   if (newCount > oldCount)
     endInsertRows();
   else if (newCount < oldCount)
@@ -66,17 +67,6 @@ void EventListModel::relabel() {
   emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
   if (rowCount() > 0)
     emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
-}
-
-void EventListModel::countScore() {
-  m_score.clear();
-  m_score.reserve(m_game.events.size());
-  std::array<int, 2> score = {};
-  for (const GameEvent& event : m_game.events) {
-    if (event.isUnderstood && !event.isDeleted && event.isMade && event.isShot())
-      score[static_cast<std::size_t>(event.player.team)] += event.kind()->points;
-    m_score.push_back(score);
-  }
 }
 
 int EventListModel::rowCount(const QModelIndex& parent) const {

@@ -38,7 +38,6 @@ class EventListModel : public QAbstractTableModel {
 
  private:
   QString text(std::size_t event, int column) const;
-  void countScore();
 
   const Texts& m_texts;
   Words m_length;

@@ -1,5 +1,7 @@
 #include "scorecard/ShotChart.h"
 
+#include "storage/Module1.h"
+
 #include <algorithm>
 #include <iterator>
 #include <limits>
@@ -81,6 +83,25 @@ ShotSums shotSums(const std::vector<Shot>& shots) {
                       : sums.withoutPlace,
         shot);
   return sums;
+}
+
+std::string fractionText(const ZoneSum& sum) {
+  return std::to_string(sum.made) + '/' + std::to_string(sum.attempted);
+}
+
+std::vector<ZoneWords> zoneWords(const ShotSums& sums) {
+  int most = 0;
+  for (const ZoneSum& sum : sums.zones)
+    most = std::max(most, sum.attempted);
+  std::vector<ZoneWords> words;
+  for (std::size_t zone = 0; zone < sums.zones.size(); ++zone) {
+    const ZoneSum& sum = sums.zones[zone];
+    if (sum.attempted > 0)
+      words.push_back({static_cast<ChartZone>(zone), fractionText(sum),
+                       Module1::percentText(sum.made, sum.attempted),
+                       static_cast<double>(sum.attempted) / most});
+  }
+  return words;
 }
 
 } // namespace hooptab

@@ -6,6 +6,7 @@
 #include "storage/GameState.h"
 
 #include <array>
+#include <string>
 #include <vector>
 
 namespace hooptab {
@@ -33,5 +34,15 @@ struct ShotSums {
 // score.
 [[nodiscard]] court::ChartZone shotZone(court::Place place, bool isThree);
 [[nodiscard]] ShotSums shotSums(const std::vector<Shot>& shots);
+
+// What a chart writes into a zone, and how strongly it is tinted: 1 where most shots were taken. Zones without shots are left out.
+struct ZoneWords {
+  court::ChartZone zone = court::ChartZone::Paint;
+  std::string fraction; // "5/12"
+  std::string percent;  // "41.7%"
+  double strength = 0;
+};
+[[nodiscard]] std::vector<ZoneWords> zoneWords(const ShotSums& sums);
+[[nodiscard]] std::string fractionText(const ZoneSum& sum);
 
 } // namespace hooptab

@@ -20,7 +20,7 @@ namespace hooptab {
 namespace {
 
 QString fraction(const ZoneSum& sum) {
-  return QString::number(sum.made) + u'/' + QString::number(sum.attempted);
+  return toQt(fractionText(sum));
 }
 
 QString coloured(const QString& text, const QColor& colour) {
@@ -138,19 +138,13 @@ void ShotChartPanel::showMarks() {
 
 void ShotChartPanel::showZones() {
   const ShotSums sums = shotSums(m_shots);
-  int most = 0;
-  for (const ZoneSum& sum : sums.zones)
-    most = std::max(most, sum.attempted);
   std::vector<CourtZoneText> zones;
-  for (std::size_t zone = 0; zone < sums.zones.size(); ++zone) {
-    const ZoneSum& sum = sums.zones[zone];
-    if (sum.attempted == 0)
-      continue;
-    const auto which = static_cast<court::ChartZone>(zone);
-    const QString percent = toQt(Module1::percentText(sum.made, sum.attempted));
-    const QString name = caption(m_texts, court::chartZoneText(which));
-    zones.push_back({which, fraction(sum), percent, static_cast<double>(sum.attempted) / most,
-                     name + QStringLiteral("  ") + fraction(sum) + QStringLiteral("  ") + percent});
+  for (const ZoneWords& words : zoneWords(sums)) {
+    const QString share = toQt(words.fraction);
+    const QString percent = toQt(words.percent);
+    const QString name = caption(m_texts, court::chartZoneText(words.zone));
+    zones.push_back({words.zone, share, percent, words.strength,
+                     name + QStringLiteral("  ") + share + QStringLiteral("  ") + percent});
   }
   m_court->setZones(std::move(zones));
   m_withoutPlace->setVisible(sums.withoutPlace.attempted > 0);
