@@ -1,0 +1,84 @@
+#include "printing/BoxReport.h"
+
+#include "printing/PrintTexts.h"
+#include "scorecard/ColumnWords.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::pair<std::string_view, int> kGroupTitles[] = {
+    {"FG", 1082}, {"F3", 1083}, {"FT", 1076}, {"LL", 1078}, {"LR", 1077}, {"PB", 1079}, {"DK", kDunk},
+};
+constexpr std::string_view kRepeatedColumns[] = {"No", "Name"};
+
+bool isShotPart(std::string_view name) {
+  return name == "M" || name == "A" || name == "%" || name == "PTS";
+}
+
+// The title of the group to which a column belongs; 0 for none.
+int groupTitle(std::string_view column) {
+  if (isShotPart(column))
+    return kEveryShot;
+  for (const auto& [kind, title] : kGroupTitles) {
+    if (column.starts_with(kind) && isShotPart(column.substr(kind.size())))
+      return title;
+  }
+  return 0;
+}
+
+ReportCell cellOf(const BoxRow& row, const BoxColumn& column) {
+  ReportCell cell = textCell(boxCell(row, column.index));
+  // Jerseys are texts: "00" is not 0.
+  if (boxColumnIsText(column.index) || column.name == "No")
+    return cell;
+  cell.value = std::max(0.0, boxSortValue(row, column.index));
+  if (column.name == "Time")
+    cell.kind = ReportCell::Kind::Time;
+  else if (column.name.ends_with('%'))
+    cell.kind = ReportCell::Kind::Percent;
+  else {
+    cell.kind = ReportCell::Kind::Number;
+    cell.value = boxSortValue(row, column.index); // a rating may be below 0
+  }
+  return cell;
+}
+
+} // namespace
+
+ReportTable boxTable(const Game& game, const GameState& state, int team, const ScorecardView& choice,
+                     const Settings& settings, const Texts& texts) {
+  ReportTable table;
+  table.title = game.details.abbreviation[team] + " – " + game.details.name[team];
+  std::vector<const BoxColumn*> shown;
+  int openGroup = -1;
+  for (const int index : boxDisplayOrder()) {
+    const BoxColumn& column = boxColumns()[static_cast<std::size_t>(index - 1)];
+    if (!choice.isShown(column))
+      continue;
+    shown.push_back(&column);
+    const std::string header(column.headerText > 0 ? texts.text(column.headerText) : column.header);
+    const bool isRepeated = std::ranges::find(kRepeatedColumns, column.name) != std::end(kRepeatedColumns);
+    table.columns.push_back({header, std::string(column.name),
+                             columnWords(index, game.details.statisticLabel, settings, texts),
+                             column.isLeftAligned || boxColumnIsText(index), isRepeated});
+    const int title = groupTitle(column.name);
+    if (title != openGroup)
+      table.groups.push_back({title == 0 ? std::string() : std::string(texts.text(title)), 0});
+    ++table.groups.back().columns;
+    openGroup = title;
+  }
+  for (const BoxRow& row : boxRows(game, state, team, choice.view(), texts)) {
+    ReportRow& line = table.rows.emplace_back();
+    if (row.kind == BoxRowKind::Total)
+      line.emphasis = ReportRow::Emphasis::Total;
+    for (const BoxColumn* column : shown)
+      line.cells.push_back(cellOf(row, *column));
+  }
+  return table;
+}
+
+} // namespace hooptab

@@ -1,0 +1,14 @@
+// The box score of one team as a table of a report.
+#pragma once
+
+#include "printing/Report.h"
+#include "scorecard/ScorecardView.h"
+#include "storage/Settings.h"
+
+namespace hooptab {
+
+// In the columns and the order of the scorecard's table; `choice` says which columns are shown.
+[[nodiscard]] ReportTable boxTable(const Game& game, const GameState& state, int team,
+                                   const ScorecardView& choice, const Settings& settings, const Texts& texts);
+
+} // namespace hooptab

@@ -1,0 +1,303 @@
+#include "printing/GameReports.h"
+
+#include "printing/BoxReport.h"
+#include "printing/PrintTexts.h"
+#include "scorecard/ColumnWords.h"
+#include "scorecard/Scoreboard.h"
+#include "scorecard/ScorecardTexts.h"
+#include "storage/ChoiceTexts.h"
+#include "storage/EventWords.h"
+#include "storage/Module1.h"
+#include "storage/RunningScore.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kRating = 1005;
+constexpr int kPlace = 1016;
+constexpr int kGameType = 1122;
+constexpr int kStatistician = 1069;
+constexpr int kTotal = 1070;
+constexpr int kTeam = 1305;
+constexpr int kTied = 1021;
+constexpr int kTime = 1024;
+constexpr int kTimes = 1508;
+constexpr int kPeriod = 1087;
+constexpr int kSecondsPerMinute = 60;
+
+// The columns whose best players are named.
+constexpr std::string_view kLeaderColumns[] = {"PTS", "F3M", "FTM", "Ast", "DR", "OR", "ST", "BS", "rating"};
+constexpr std::size_t kMostNamed = 3;
+
+std::string text(const Texts& texts, int number) {
+  return std::string(texts.text(number));
+}
+
+Report reportOf(const Game& game, const GameState& state, int title, const Texts& texts) {
+  const GameDetails& details = game.details;
+  Report report;
+  report.title = text(texts, title);
+  report.subject = details.abbreviation[0] + ' ' + std::to_string(state.points(0)) + " – " +
+                   std::to_string(state.points(1)) + ' ' + details.abbreviation[1];
+  if (!details.date.empty())
+    report.subject += ", " + details.date;
+  report.pageWords = text(texts, kPageOf);
+  const std::size_t slash = game.path.rfind('/');
+  const std::string file = game.path.substr(slash == std::string::npos ? 0 : slash + 1);
+  report.fileName = Module1::asFileName(file.substr(0, file.rfind('.')) + ' ' + report.title);
+  return report;
+}
+
+ReportParagraph detailsOf(const Game& game, const Texts& texts) {
+  const GameDetails& details = game.details;
+  std::string words = details.name[0] + " – " + details.name[1];
+  const auto add = [&](int label, std::string_view value) {
+    if (!value.empty())
+      words += ".  " + text(texts, label) + ": " + std::string(value);
+  };
+  add(kGameDate, details.date);
+  add(kPlace, details.place);
+  add(kGameType, choiceName(kFirstGameTypeText, details.type, texts));
+  add(kStatistician, details.statistician);
+  return {ReportParagraph::Style::Body, words + ".  " + text(texts, details.isFinished ? kFinished : kInProgress)};
+}
+
+// Points or fouls of both teams, a column for each period.
+enum class ByPeriod { Points, Fouls };
+ReportTable periodTable(const Scoreboard& board, ByPeriod content, const Texts& texts) {
+  ReportTable table;
+  table.title = text(texts, content == ByPeriod::Points ? kPointsByPeriod : kTeamFouls);
+  table.isSummary = true;
+  table.standsBeside = content == ByPeriod::Fouls;
+  table.columns.push_back({text(texts, kTeam), "Team", {}, true, true});
+  for (const Scoreboard::Period& period : board.periods)
+    table.columns.push_back({period.label, period.label});
+  if (content == ByPeriod::Points)
+    table.columns.push_back({text(texts, kTotal), "Total"});
+  for (std::size_t team = 0; team < 2; ++team) {
+    ReportRow& row = table.rows.emplace_back();
+    row.cells.push_back(textCell(board.teams[team].abbreviation));
+    for (const Scoreboard::Period& period : board.periods) {
+      const int number = content == ByPeriod::Points ? period.points[team] : period.fouls[team];
+      row.cells.push_back(period.isPlayed ? numberCell(number) : textCell({}));
+    }
+    if (content == ByPeriod::Points)
+      row.cells.push_back(numberCell(board.teams[team].points));
+  }
+  return table;
+}
+
+ReportTable leadTable(const Scoreboard& board, const GameState& state, const Texts& texts) {
+  ReportTable table;
+  table.title = text(texts, kTimeInLead);
+  table.isSummary = true;
+  table.standsBeside = true;
+  table.columns = {{text(texts, kTeam), "Team", {}, true, true},
+                   {text(texts, kTime), "Time"},
+                   {text(texts, kTimes), "Times"}};
+  const std::string names[] = {board.teams[0].abbreviation, board.teams[1].abbreviation, text(texts, kTied)};
+  for (const std::size_t lead : {0U, 2U, 1U}) {
+    ReportCell time = {board.leads[lead].time, ReportCell::Kind::Time,
+                       static_cast<double>(std::max(0, state.lead.seconds[lead]))};
+    table.rows.push_back({{textCell(names[lead]), std::move(time), numberCell(board.leads[lead].times)}});
+  }
+  return table;
+}
+
+// Who has most of a column, by name; "5 players" where too many share it.
+std::string leaders(const std::vector<BoxRow>& rows, int column, double best, const Texts& texts) {
+  std::string names;
+  std::size_t count = 0;
+  for (const BoxRow& row : rows) {
+    if (row.kind != BoxRowKind::Player || boxSortValue(row, column) != best)
+      continue;
+    names += (count > 0 ? ", " : "") + row.number + ' ' + row.name;
+    ++count;
+  }
+  return count > kMostNamed ? texts.withPlaceholder(kManyPlayers, std::to_string(count)) : names;
+}
+
+ReportTable leaderTable(const Game& game, const GameState& state, const Settings& settings,
+                        const Texts& texts) {
+  ReportTable table;
+  table.title = text(texts, kGameLeaders);
+  table.isSummary = true;
+  table.columns.push_back({text(texts, kStatistic), "Statistic", {}, true, true});
+  std::vector<BoxRow> rows[2];
+  for (int team = 0; team < 2; ++team) {
+    rows[team] = boxRows(game, state, team, BoxView::Players, texts);
+    const std::string side = std::to_string(team);
+    table.columns.push_back({game.details.abbreviation[team], "Name" + side, {}, true});
+    table.columns.push_back({"", "Value" + side});
+  }
+  for (const std::string_view name : kLeaderColumns) {
+    const auto found = std::ranges::find(boxColumns(), name, &BoxColumn::name);
+    ReportRow& line = table.rows.emplace_back();
+    // The words of the rating are its formula.
+    line.cells.push_back(textCell(
+        name == "rating" ? text(texts, kRating)
+                         : columnWords(found->index, game.details.statisticLabel, settings, texts)));
+    for (const std::vector<BoxRow>& players : rows) {
+      double best = 0;
+      for (const BoxRow& row : players) {
+        if (row.kind == BoxRowKind::Player)
+          best = std::max(best, boxSortValue(row, found->index));
+      }
+      line.cells.push_back(textCell(best > 0 ? leaders(players, found->index, best, texts) : std::string()));
+      line.cells.push_back(best > 0 ? numberCell(static_cast<int>(best)) : textCell({}));
+    }
+  }
+  return table;
+}
+
+// Points of both teams over the time played; nothing for a game without time or without points.
+class ScoreDiagram {
+ public:
+  ScoreDiagram(const Game& game, const Texts& texts) : m_game(game), m_words(game, texts) {}
+
+  LineDrawing drawing() {
+    for (std::size_t team = 0; team < 2; ++team)
+      m_drawing.lines.push_back({m_game.details.abbreviation[team], {{0, 0}}});
+    const std::vector<std::array<int, 2>> scores = runningScore(m_game.events);
+    for (std::size_t i = 0; i < m_game.events.size(); ++i) {
+      if (m_game.events[i].isUnderstood && !m_game.events[i].isDeleted)
+        add(m_game.events[i], scores[i]);
+    }
+    m_drawing.ticks.push_back({m_now, {}});
+    for (LineDrawing::Line& line : m_drawing.lines)
+      line.points.push_back({m_now, line.points.back()[1]});
+    return std::move(m_drawing);
+  }
+
+ private:
+  void add(const GameEvent& event, const std::array<int, 2>& score) {
+    if (event.period != m_period) {
+      m_period = event.period;
+      // A regular period takes its full length, also where its last minutes hold no event.
+      if (!m_drawing.ticks.empty())
+        m_begin += m_length;
+      m_length = m_period <= m_game.details.periods ? m_game.details.minutesPerPeriod * kSecondsPerMinute
+                                                    : event.clockSeconds;
+      m_drawing.ticks.push_back({m_begin, m_words.periodText(m_period)});
+      m_now = std::max(m_now, m_begin);
+    }
+    // A clock that was set back does not turn the line round.
+    m_now = std::max(m_now, m_begin + std::max(0.0, m_length - event.clockSeconds));
+    for (std::size_t team = 0; team < 2; ++team) {
+      auto& points = m_drawing.lines[team].points;
+      if (points.back()[1] == score[team])
+        continue;
+      points.push_back({m_now, points.back()[1]}); // a step: the score stands until it changes
+      points.push_back({m_now, static_cast<double>(score[team])});
+    }
+  }
+
+  const Game& m_game;
+  const EventWords m_words;
+  LineDrawing m_drawing;
+  int m_period = 0;
+  double m_begin = 0;
+  double m_length = 0;
+  double m_now = 0;
+};
+
+std::string shotCaption(const std::vector<Shot>& shots, const Texts& texts) {
+  const ShotSummary summary = shotSummary(shots);
+  const auto part = [](const char* name, const ZoneSum& sum) {
+    return name + fractionText(sum) + ' ' + Module1::percentText(sum.made, sum.attempted);
+  };
+  std::string words = part("FG ", summary.twoPoints) + "   " + part("F3 ", summary.threePoints);
+  if (const ZoneSum sum = shotSums(shots).withoutPlace; sum.attempted > 0)
+    words += "   " + fractionText(sum) + ' ' + text(texts, kWithoutPlace);
+  return words;
+}
+
+// Whose shots the chart shows where some rows are not checked.
+std::string chosenRows(const ScorecardView& choice, const Texts& texts) {
+  std::string names;
+  bool isAll = choice.scope() == ScorecardView::Scope::All;
+  for (const BoxRow& row : choice.rows()) {
+    if (row.kind == BoxRowKind::Total)
+      isAll = isAll || choice.checkMark(row) == ScorecardView::CheckMark::All;
+    else if (choice.checkMark(row) == ScorecardView::CheckMark::All)
+      names += (names.empty() ? "" : ", ") + (row.number.empty() ? row.name : row.number);
+  }
+  return isAll ? std::string() : "\n" + texts.withPlaceholder(kShotsOf, names.empty() ? "–" : names);
+}
+
+void addShotCharts(Report& report, const Game& game, ScorecardView choice, const Texts& texts) {
+  for (int team = 0; team < 2; ++team) {
+    choice.setTeam(team);
+    const std::vector<Shot> shots = choice.shots();
+    ShotDrawing byShot;
+    for (const Shot& shot : shots) {
+      if (shot.hasPlace)
+        byShot.marks.push_back({{shot.x, shot.y}, shot.isMade});
+    }
+    const std::string title = game.details.abbreviation[team] + " – " + text(texts, kShotChart);
+    const std::string caption = shotCaption(shots, texts) + chosenRows(choice, texts);
+    report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByShot), std::move(byShot), caption, team == 1});
+    report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByZone),
+                                          ShotDrawing{{}, zoneWords(shotSums(shots))}, caption, true});
+  }
+}
+
+} // namespace
+
+Report scorecardReport(const Game& game, const GameState& state, ScorecardView choice,
+                       const Settings& settings, const Texts& texts) {
+  choice.show(game, state);
+  const Scoreboard board = scoreboard(game, state, texts);
+  Report report = reportOf(game, state, kScorecard, texts);
+  report.blocks.push_back(detailsOf(game, texts));
+  report.blocks.push_back(periodTable(board, ByPeriod::Points, texts));
+  report.blocks.push_back(periodTable(board, ByPeriod::Fouls, texts));
+  report.blocks.push_back(leadTable(board, state, texts));
+  for (int team = 0; team < 2; ++team)
+    report.blocks.push_back(boxTable(game, state, team, choice, settings, texts));
+  report.blocks.push_back(leaderTable(game, state, settings, texts));
+  if (board.hasTime && state.points(0) + state.points(1) > 0)
+    report.blocks.push_back(ReportPicture{text(texts, kScoreDiagram), ScoreDiagram(game, texts).drawing()});
+  addShotCharts(report, game, choice, texts);
+  if (!game.details.notes.empty()) {
+    report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading, text(texts, kGameNotes)});
+    report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, game.details.notes});
+  }
+  return report;
+}
+
+Report playByPlayReport(const Game& game, const GameState& state, const Texts& texts) {
+  Report report = reportOf(game, state, kPlayByPlay, texts);
+  ReportTable table;
+  table.title = text(texts, kEvents);
+  table.columns = {{text(texts, kPeriod), "Period", {}, true},
+                   {text(texts, kTime), "Time"},
+                   {text(texts, kScore), "Score"},
+                   {text(texts, kAction), "Event", {}, true}};
+  const EventWords words(game, texts);
+  const std::vector<std::array<int, 2>> scores = runningScore(game.events);
+  int period = 0;
+  std::array<int, 2> before = {};
+  for (std::size_t i = 0; i < game.events.size(); ++i) {
+    const GameEvent& event = game.events[i];
+    if (event.isDeleted)
+      continue;
+    ReportRow& row = table.rows.emplace_back();
+    const std::string score =
+        scores[i] == before ? std::string() : std::to_string(scores[i][0]) + '-' + std::to_string(scores[i][1]);
+    row.cells = {textCell(words.periodText(event.period)), textCell(words.clock(i)), textCell(score),
+                 textCell(words.words(i))};
+    row.beginsSection = period != 0 && event.period != period;
+    period = event.period;
+    before = scores[i];
+  }
+  report.blocks.push_back(detailsOf(game, texts));
+  report.blocks.push_back(std::move(table));
+  return report;
+}
+
+} // namespace hooptab

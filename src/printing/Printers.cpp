@@ -1,0 +1,42 @@
+#include "printing/Printers.h"
+
+#include "printing/ReportPainter.h"
+
+#include <QPrintDialog>
+#include <QPrinter>
+
+#include <algorithm>
+
+namespace hooptab {
+
+std::unique_ptr<QPrinter> QtPrinters::choose(QWidget* parent, const QPageLayout& layout, int pages) {
+  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  printer->setPageLayout(layout);
+  QPrintDialog dialog(printer.get(), parent);
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+  dialog.setMinMax(1, pages);
+  return dialog.exec() == QDialog::Accepted ? std::move(printer) : nullptr;
+}
+
+bool printReport(QPrinter& printer, const ReportLayout& layout) {
+  // The pages are laid out for this paper, whatever was chosen in the printer's own dialog.
+  printer.setPageLayout(layout.pageLayout());
+  QPainter painter;
+  if (!painter.begin(&printer))
+    return false;
+  const double scale = printer.resolution() / kUnitsPerInch;
+  painter.scale(scale, scale);
+  const int count = static_cast<int>(layout.pages().size());
+  const int first = std::clamp(printer.fromPage(), 1, count);
+  const int last = printer.toPage() == 0 ? count : std::clamp(printer.toPage(), first, count);
+  for (int page = first; page <= last; ++page) {
+    if (page > first && !printer.newPage()) {
+      printer.abort();
+      return false;
+    }
+    paintPage(painter, layout, static_cast<std::size_t>(page - 1));
+  }
+  return painter.end() && printer.printerState() != QPrinter::Error;
+}
+
+} // namespace hooptab

@@ -1,0 +1,120 @@
+// A report as it is meant: a title and a sequence of paragraphs, tables, pictures and page breaks. The screen, the
+// printer, PDF files and the exports are all made from it. Knows no page, no font and no file format.
+#pragma once
+
+#include "appearance/CourtGeometry.h"
+#include "appearance/FormLayout.h"
+#include "scorecard/ShotChart.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace hooptab {
+
+struct ReportCell {
+  enum class Kind : std::uint8_t { Text, Number, Percent, Time };
+
+  std::string text; // as it is shown
+  Kind kind = Kind::Text;
+  double value = 0; // of a number; of a percentage 0.5 for 50 %; of a time its seconds
+};
+[[nodiscard]] ReportCell textCell(std::string text);
+[[nodiscard]] ReportCell numberCell(int number);
+
+struct ReportColumn {
+  std::string header;         // short, as on screen
+  std::string name;           // unique in its table, for files
+  std::string words = {};     // what it holds, where the header is a code
+  bool isLeftAligned = false;
+  bool isRepeated = false;    // stands on every part of a table that is too wide for the page
+};
+
+// Columns that belong together, under a title of their own; they stay on one part of a wide table.
+struct ReportColumnGroup {
+  std::string title; // may be empty
+  std::size_t columns = 0;
+};
+
+struct ReportRow {
+  enum class Emphasis : std::uint8_t { None, Highlighted, Total };
+
+  std::vector<ReportCell> cells; // as many as the table has columns
+  Emphasis emphasis = Emphasis::None;
+  bool beginsSection = false; // a line above it
+};
+
+struct ReportTable {
+  std::string title;
+  std::vector<ReportColumn> columns;
+  std::vector<ReportColumnGroup> groups; // of all columns, in their order; or none
+  std::vector<ReportRow> rows;
+  bool standsBeside = false; // to the right of the block before it, where there is room
+  bool isSummary = false;    // one of the small tables beside what the report is about
+};
+
+struct ReportParagraph {
+  enum class Style : std::uint8_t { Heading, Body };
+  Style style = Style::Body;
+  std::string text;
+};
+
+// The half court with shots, or with sums by zone; one of the two lists is empty.
+struct ShotDrawing {
+  struct Mark {
+    court::Place place;
+    bool isMade = false;
+  };
+  std::vector<Mark> marks;
+  std::vector<ZoneWords> zones;
+};
+
+// Values over an axis, each line from left to right.
+struct LineDrawing {
+  struct Line {
+    std::string name;
+    std::vector<std::array<double, 2>> points;
+  };
+  struct Tick {
+    double at = 0;
+    std::string text;
+  };
+  std::vector<Line> lines;
+  std::vector<Tick> ticks; // of the horizontal axis, the first one at its begin, the last one at its end
+};
+
+struct ReportPicture {
+  std::string title;
+  std::variant<ShotDrawing, LineDrawing> drawing;
+  std::string caption = {};
+  bool standsBeside = false;
+};
+
+struct ReportPageBreak {};
+
+// A paper input form: a page of its own.
+struct FormSheet {
+  FormIdentifier identifier;
+  std::string title;
+  std::string hint;
+  std::string sheet; // "Sheet 1 of 4"
+  std::string made;  // heads of the cells for shots
+  std::string missed;
+  std::array<std::string, FormLayout::kPlayers> names;   // empty: to be written by hand
+  std::array<std::string, FormLayout::kPlayers> jerseys; // whose digits are filled in
+};
+
+using ReportBlock = std::variant<ReportParagraph, ReportTable, ReportPicture, ReportPageBreak, FormSheet>;
+
+struct Report {
+  std::string title;
+  std::string subject;   // which game or team it is about, for the head of each page
+  std::string pageWords; // "Page XXX of YYY"
+  std::string fileName;  // proposed for files made of it, without ending
+  std::vector<ReportBlock> blocks;
+};
+
+} // namespace hooptab

@@ -1,0 +1,220 @@
+#include "printing/ReportLayout.h"
+
+#include "appearance/relabel.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr double kMargin = 12 * kUnitsPerMillimetre;
+constexpr double kHeadHeight = 185;
+constexpr double kFootHeight = 130;
+constexpr double kGap = 130; // between blocks
+constexpr double kSideGap = 6 * kUnitsPerMillimetre;
+constexpr double kParagraphGap = 60;
+constexpr double kAcrossPage = 230 * kUnitsPerMillimetre; // wider pages have four shot charts side by side, others two
+constexpr double kDiagramHeight = 58 * kUnitsPerMillimetre;
+constexpr std::size_t kFewestRows = 3; // of a table at the foot of a page
+
+double pictureHeight(const ReportPicture& picture, double width) {
+  return std::holds_alternative<ShotDrawing>(picture.drawing) ? width * court::kLength / court::kWidth
+                                                               : kDiagramHeight;
+}
+
+QRectF bodyOf(QSizeF size) {
+  return QRectF(QPointF(), size)
+      .adjusted(kMargin, kMargin + kHeadHeight, -kMargin, -kMargin - kFootHeight);
+}
+
+} // namespace
+
+ReportLayout::ReportLayout(const Report& report, const PageFormat& format) : m_report(report) {
+  for (const ReportBlock& block : report.blocks) {
+    if (const auto* table = std::get_if<ReportTable>(&block))
+      m_tables.try_emplace(table, *table, m_fonts);
+  }
+  m_layout = hooptab::pageLayout(format.paper, orientation(format));
+  m_size = pageSize(m_layout);
+  m_body = bodyOf(m_size);
+  m_pages.emplace_back();
+  m_y = m_body.top();
+  m_row = {m_y, m_body.right(), m_y};
+  const bool isForm = !report.blocks.empty() && std::holds_alternative<FormSheet>(report.blocks.front());
+  if (!isForm)
+    placeLines(m_fonts.wrapped(PageFont::Title, toQt(report.title), m_body.width()), PageFont::Title);
+}
+
+// Upright, unless a table is split into fewer parts across.
+QPageLayout::Orientation ReportLayout::orientation(const PageFormat& format) {
+  std::size_t parts[2] = {};
+  for (const auto turn : {QPageLayout::Portrait, QPageLayout::Landscape}) {
+    const double room = bodyOf(pageSize(hooptab::pageLayout(format.paper, turn))).width();
+    for (auto& [table, layout] : m_tables)
+      parts[turn] += layout.partsIn(room);
+  }
+  const auto fitting = parts[1] < parts[0] ? QPageLayout::Landscape : QPageLayout::Portrait;
+  const auto chosen = format.turn == PageTurn::AsItFits   ? fitting
+                      : format.turn == PageTurn::Portrait ? QPageLayout::Portrait
+                                                          : QPageLayout::Landscape;
+  const double room = bodyOf(pageSize(hooptab::pageLayout(format.paper, chosen))).width();
+  for (auto& [table, layout] : m_tables)
+    layout.fit(room);
+  return chosen;
+}
+
+void ReportLayout::finish() {
+  while (!m_isDone)
+    step();
+}
+
+void ReportLayout::step() {
+  if (m_table != nullptr)
+    placeTablePart();
+  else if (m_block < m_report.blocks.size())
+    std::visit([this](const auto& block) { place(block); }, m_report.blocks[m_block++]);
+  m_isDone = m_table == nullptr && m_block == m_report.blocks.size();
+}
+
+void ReportLayout::newPage() {
+  m_pages.emplace_back();
+  m_y = m_body.top();
+  m_row = {m_y, m_body.right(), m_y};
+}
+
+bool ReportLayout::hasRoomBeside(double width, double height) const {
+  return m_row.right + kSideGap + width <= m_body.right() + 1 && m_row.top + height <= m_body.bottom();
+}
+
+void ReportLayout::took(const QRectF& box) {
+  const bool isBeside = box.left() > m_body.left();
+  m_row = {box.top(), box.right(), isBeside ? std::max(m_row.bottom, box.bottom()) : box.bottom()};
+  m_y = m_row.bottom + kGap;
+}
+
+void ReportLayout::placeLines(const QStringList& lines, PageFont font) {
+  const double height = m_fonts.lineHeight(font);
+  for (const QString& line : lines) {
+    if (height > left())
+      newPage();
+    if (!line.isEmpty())
+      page().texts.push_back({QRectF(m_body.left(), m_y, m_fonts.width(font, line), height), line, font});
+    m_y += height;
+  }
+  m_row = {m_y, m_body.right(), m_y};
+  m_y += kParagraphGap;
+}
+
+void ReportLayout::place(const ReportParagraph& paragraph) {
+  const bool isHeading = paragraph.style == ReportParagraph::Style::Heading;
+  const PageFont font = isHeading ? PageFont::Heading : PageFont::Body;
+  constexpr int kLinesBelow = 3; // a heading does not stand alone at the foot of a page
+  if (isHeading && left() < m_fonts.lineHeight(font) + kLinesBelow * m_fonts.lineHeight(PageFont::Body) &&
+      !page().isEmpty())
+    newPage();
+  placeLines(m_fonts.wrapped(font, toQt(paragraph.text), m_body.width()), font);
+}
+
+void ReportLayout::place(const ReportPageBreak& /*pageBreak*/) {
+  if (!page().isEmpty())
+    newPage();
+}
+
+void ReportLayout::place(const FormSheet& form) {
+  if (!page().isEmpty())
+    newPage();
+  page().form = &form;
+}
+
+void ReportLayout::place(const ReportPicture& picture) {
+  const bool isShotChart = std::holds_alternative<ShotDrawing>(picture.drawing);
+  const int across = !isShotChart ? 1 : m_body.width() > kAcrossPage ? 4 : 2;
+  const double width = (m_body.width() - (across - 1) * kSideGap) / across;
+  const QStringList title = m_fonts.wrapped(PageFont::BoldCell, toQt(picture.title), width);
+  const QStringList caption = picture.caption.empty()
+                                  ? QStringList()
+                                  : m_fonts.wrapped(PageFont::Cell, toQt(picture.caption), width);
+  const double line = m_fonts.lineHeight(PageFont::Cell);
+  const double drawing = pictureHeight(picture, width);
+  const double height = drawing + static_cast<double>(title.size() + caption.size() + 1) * line;
+  const bool isBeside = picture.standsBeside && hasRoomBeside(width, height);
+  if (!isBeside && height > left() && !page().isEmpty())
+    newPage();
+  const QPointF at = isBeside ? QPointF(m_row.right + kSideGap, m_row.top) : QPointF(m_body.left(), m_y);
+  double y = at.y();
+  const auto addLines = [&](const QStringList& lines, PageFont font) {
+    for (const QString& text : lines) {
+      page().texts.push_back({QRectF(at.x(), y, m_fonts.width(font, text), line), text, font});
+      y += line;
+    }
+  };
+  addLines(title, PageFont::BoldCell);
+  y += line / 2;
+  page().pictures.push_back({QRectF(at.x(), y, width, drawing), &picture});
+  y += drawing + line / 2;
+  addLines(caption, PageFont::Cell);
+  took(QRectF(at, QSizeF(width, height)));
+}
+
+void ReportLayout::place(const ReportTable& table) {
+  m_table = &m_tables.at(&table);
+  m_part = 0;
+  m_tableRow = 0;
+  placeTablePart();
+}
+
+// As many rows as the page takes, under title and head.
+void ReportLayout::placeTablePart() {
+  const TableLayout& table = *m_table;
+  const TableLayout::Part& part = table.parts()[m_part];
+  const std::size_t count = table.table().rows.size();
+  const double head = table.titleHeight(part) + table.headHeight(part);
+  double whole = head;
+  for (std::size_t row = m_tableRow; row < count && whole <= m_body.height(); ++row)
+    whole += table.rowHeight(part, row);
+
+  const bool isBeside =
+      table.table().standsBeside && table.parts().size() == 1 && hasRoomBeside(table.width(part), whole);
+  if (!isBeside && whole > left() && !page().isEmpty()) {
+    double fewest = head;
+    for (std::size_t row = m_tableRow; row < std::min(count, m_tableRow + kFewestRows); ++row)
+      fewest += table.rowHeight(part, row);
+    if (whole <= m_body.height() || fewest > left())
+      newPage();
+  }
+  const QPointF at = isBeside ? QPointF(m_row.right + kSideGap, m_row.top) : QPointF(m_body.left(), m_y);
+  double room = m_body.bottom() - at.y() - head;
+  std::size_t last = m_tableRow;
+  while (last < count && (room >= table.rowHeight(part, last) || last == m_tableRow))
+    room -= table.rowHeight(part, last++);
+  const auto isTotal = [&](std::size_t row) {
+    return table.table().rows[row].emphasis == ReportRow::Emphasis::Total;
+  };
+  if (last + 1 == count && isTotal(last) && last > m_tableRow + 1) // a total does not stand alone
+    --last;
+
+  const double bottom = placeRows(m_tableRow, last, at);
+  took(QRectF(at, QPointF(at.x() + table.width(part), bottom)));
+  m_tableRow = last;
+  if (m_tableRow < count)
+    return newPage();
+  m_tableRow = 0;
+  if (++m_part == table.parts().size())
+    m_table = nullptr;
+}
+
+double ReportLayout::placeRows(std::size_t first, std::size_t last, QPointF at) {
+  const TableLayout::Part& part = m_table->parts()[m_part];
+  m_table->placeTitle(page(), part, at);
+  at.ry() += m_table->titleHeight(part);
+  m_table->placeHead(page(), part, at);
+  at.ry() += m_table->headHeight(part);
+  for (std::size_t row = first; row < last; ++row) {
+    m_table->placeRow(page(), part, row, at);
+    at.ry() += m_table->rowHeight(part, row);
+  }
+  return at.y();
+}
+
+} // namespace hooptab

@@ -1,0 +1,53 @@
+#include "appearance/relabel.h"
+#include "printing/ReportFiles.h"
+#include "printing/ReportPainter.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPdfWriter>
+
+#include <cmath>
+
+namespace hooptab {
+
+std::string reportPdf(const Report& report, const PageFormat& format) {
+  ReportLayout layout(report, format);
+  layout.finish(); // the foot of every page names their number
+  QBuffer buffer;
+  QPdfWriter writer(&buffer);
+  buffer.open(QIODevice::WriteOnly);
+  writer.setResolution(static_cast<int>(kUnitsPerInch)); // units of the layout as they are
+  writer.setPageLayout(layout.pageLayout());
+  writer.setTitle(toQt(report.subject.empty() ? report.title : report.subject + " – " + report.title));
+  writer.setCreator(QStringLiteral("HOOPTAB Basketball"));
+  QPainter painter(&writer);
+  for (std::size_t page = 0; page < layout.pages().size(); ++page) {
+    if (page > 0)
+      writer.newPage();
+    paintPage(painter, layout, page);
+  }
+  painter.end();
+  return buffer.data().toStdString();
+}
+
+std::string picturePng(const ReportPicture& picture) {
+  constexpr double kScale = 0.32; // 230 dots per inch: sharp on paper too
+  const bool isShotChart = std::holds_alternative<ShotDrawing>(picture.drawing);
+  constexpr double kWidth = 120 * kUnitsPerMillimetre;
+  const double height = isShotChart ? kWidth * court::kLength / court::kWidth : kWidth * 0.45;
+  const PageFonts fonts;
+  QImage image(static_cast<int>(std::ceil(kWidth * kScale)), static_cast<int>(std::ceil(height * kScale)),
+               QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.scale(kScale, kScale);
+  paintDrawing(painter, picture, QRectF(0, 0, kWidth, height), fonts);
+  painter.end();
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, "PNG");
+  return bytes.toStdString();
+}
+
+} // namespace hooptab

@@ -1,0 +1,277 @@
+#include "printing/TableLayout.h"
+
+#include "appearance/relabel.h"
+#include "printing/PageFormat.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace hooptab {
+
+namespace {
+
+constexpr double kPadding = 22; // at either side of a cell
+constexpr double kRowAir = 9;   // above and below its text
+constexpr double kTitleAir = 25;
+constexpr double kThinLine = 3;
+constexpr double kGroupGap = 14; // between the titles of groups and the heads of columns
+constexpr double kThickLine = 8;
+constexpr double kStripe = 0.95;
+constexpr double kHighlight = 0.85;
+// A name of sixty letters takes two lines rather than half of the page.
+constexpr double kLongestRepeated = 58 * kUnitsPerMillimetre;
+constexpr double kLongestText = 150 * kUnitsPerMillimetre;
+constexpr double kShortestText = 38 * kUnitsPerMillimetre; // when a table has to shrink
+
+} // namespace
+
+TableLayout::TableLayout(const ReportTable& table, const PageFonts& fonts) : m_table(table), m_fonts(fonts) {
+  measure();
+  widenForTitles();
+}
+
+void TableLayout::measure() {
+  m_natural.assign(m_table.columns.size(), 0);
+  for (std::size_t i = 0; i < m_table.columns.size(); ++i) {
+    for (const QString& word : toQt(m_table.columns[i].header).split(u' '))
+      m_natural[i] = std::max(m_natural[i], m_fonts.width(PageFont::BoldCell, word));
+  }
+  for (const ReportRow& row : m_table.rows) {
+    for (std::size_t i = 0; i < m_natural.size(); ++i)
+      m_natural[i] = std::max(m_natural[i], m_fonts.width(fontOf(row), toQt(row.cells[i].text)));
+  }
+  for (std::size_t i = 0; i < m_natural.size(); ++i)
+    m_natural[i] =
+        std::min(m_natural[i], m_table.columns[i].isRepeated ? kLongestRepeated : kLongestText) + 2 * kPadding;
+}
+
+// A group is at least as wide as its title.
+void TableLayout::widenForTitles() {
+  m_beginsGroup.assign(m_natural.size(), false);
+  std::size_t first = 0;
+  for (const ReportColumnGroup& group : m_table.groups) {
+    m_beginsGroup[first] = first > 0;
+    const auto begin = m_natural.begin() + static_cast<std::ptrdiff_t>(first);
+    const double width = std::accumulate(begin, begin + static_cast<std::ptrdiff_t>(group.columns), 0.0);
+    const double wanted = m_fonts.width(PageFont::BoldCell, toQt(group.title)) + 2 * kPadding;
+    for (std::size_t i = 0; i < group.columns && wanted > width; ++i)
+      m_natural[first + i] += (wanted - width) / static_cast<double>(group.columns);
+    first += group.columns;
+  }
+}
+
+std::vector<TableLayout::Unit> TableLayout::units() const {
+  std::vector<Unit> units;
+  std::size_t column = 0;
+  for (const ReportColumnGroup& group : m_table.groups) {
+    if (!group.title.empty())
+      units.push_back({column, group.columns});
+    for (std::size_t i = 0; group.title.empty() && i < group.columns; ++i)
+      units.push_back({column + i, 1});
+    column += group.columns;
+  }
+  for (; column < m_table.columns.size(); ++column)
+    units.push_back({column, 1});
+  return units;
+}
+
+// Long texts take more lines where that spares splitting the table.
+bool TableLayout::shrinkInto(double room) {
+  double excess = std::accumulate(m_widths.begin(), m_widths.end(), 0.0) - room;
+  double spare = 0;
+  for (std::size_t i = 0; i < m_widths.size(); ++i) {
+    if (m_table.columns[i].isLeftAligned)
+      spare += std::max(0.0, m_widths[i] - kShortestText);
+  }
+  if (excess <= 0)
+    return true;
+  if (spare < excess)
+    return false;
+  for (std::size_t i = 0; i < m_widths.size(); ++i) {
+    if (m_table.columns[i].isLeftAligned && m_widths[i] > kShortestText)
+      m_widths[i] -= (m_widths[i] - kShortestText) * excess / spare;
+  }
+  return true;
+}
+
+std::size_t TableLayout::partsIn(double room) {
+  split(room);
+  return m_parts.size();
+}
+
+void TableLayout::fit(double room) {
+  split(room);
+  measureParts(room);
+}
+
+void TableLayout::split(double room) {
+  m_widths = m_natural;
+  m_parts.clear();
+  if (shrinkInto(room)) {
+    Part& whole = m_parts.emplace_back();
+    whole.columns.resize(m_widths.size());
+    std::iota(whole.columns.begin(), whole.columns.end(), 0U);
+    whole.width = std::accumulate(m_widths.begin(), m_widths.end(), 0.0);
+    return;
+  }
+  Part repeated;
+  for (std::size_t i = 0; i < m_widths.size(); ++i) {
+    if (m_table.columns[i].isRepeated) {
+      repeated.columns.push_back(i);
+      repeated.width += m_widths[i];
+    }
+  }
+  const auto isFresh = [&] { return m_parts.back().columns.size() == repeated.columns.size(); };
+  m_parts.push_back(repeated);
+  for (Unit unit : units()) {
+    const auto widthOf = [&](const Unit& which) {
+      return std::accumulate(m_widths.begin() + static_cast<std::ptrdiff_t>(which.first),
+                             m_widths.begin() + static_cast<std::ptrdiff_t>(which.first + which.count), 0.0);
+    };
+    if (m_table.columns[unit.first].isRepeated)
+      continue;
+    if (m_parts.back().width + widthOf(unit) > room && !isFresh())
+      m_parts.push_back(repeated);
+    // A group that has no room on a part of its own is torn after all; a column takes what there is.
+    for (std::size_t column = unit.first; column < unit.first + unit.count; ++column) {
+      m_widths[column] = std::min(m_widths[column], room - repeated.width);
+      if (m_parts.back().width + m_widths[column] > room && !isFresh())
+        m_parts.push_back(repeated);
+      m_parts.back().columns.push_back(column);
+      m_parts.back().width += m_widths[column];
+    }
+  }
+}
+
+PageFont TableLayout::fontOf(const ReportRow& row) const {
+  return row.emphasis == ReportRow::Emphasis::None ? PageFont::Cell : PageFont::BoldCell;
+}
+
+std::size_t TableLayout::linesOf(PageFont font, const QString& text, std::size_t column) const {
+  const double room = m_widths[column] - 2 * kPadding + 0.5;
+  if (m_fonts.width(font, text) <= room)
+    return 1;
+  return static_cast<std::size_t>(m_fonts.wrapped(font, text, room).size());
+}
+
+bool TableLayout::hasGroupTitles() const {
+  return std::ranges::any_of(m_table.groups,
+                             [](const ReportColumnGroup& group) { return !group.title.empty(); });
+}
+
+void TableLayout::measureParts(double room) {
+  for (std::size_t i = 0; i < m_parts.size(); ++i) {
+    Part& part = m_parts[i];
+    QString title = toQt(m_table.title);
+    if (m_parts.size() > 1)
+      title += QStringLiteral("  (%1/%2)").arg(i + 1).arg(m_parts.size());
+    if (!title.isEmpty())
+      part.title = m_fonts.wrapped(PageFont::Heading, title, room);
+    part.rowHeights.reserve(m_table.rows.size());
+    for (const ReportRow& row : m_table.rows) {
+      std::size_t lines = 1;
+      for (const std::size_t column : part.columns)
+        lines = std::max(lines, linesOf(fontOf(row), toQt(row.cells[column].text), column));
+      part.rowHeights.push_back(static_cast<double>(lines) * m_fonts.lineHeight(PageFont::Cell) + 2 * kRowAir);
+    }
+  }
+}
+
+double TableLayout::titleHeight(const Part& part) const {
+  return part.title.isEmpty()
+             ? 0
+             : static_cast<double>(part.title.size()) * m_fonts.lineHeight(PageFont::Heading) + kTitleAir;
+}
+
+double TableLayout::width(const Part& part) const {
+  double widest = part.width;
+  for (const QString& line : part.title)
+    widest = std::max(widest, m_fonts.width(PageFont::Heading, line));
+  return widest;
+}
+
+double TableLayout::headHeight(const Part& part) const {
+  std::size_t lines = 1;
+  for (const std::size_t column : part.columns)
+    lines = std::max(lines, linesOf(PageFont::BoldCell, toQt(m_table.columns[column].header), column));
+  const double titles = hasGroupTitles() ? m_fonts.lineHeight(PageFont::BoldCell) + kGroupGap : 0;
+  return titles + static_cast<double>(lines) * m_fonts.lineHeight(PageFont::BoldCell) + 2 * kRowAir;
+}
+
+void TableLayout::placeTitle(ReportPage& page, const Part& part, QPointF at) const {
+  const double height = m_fonts.lineHeight(PageFont::Heading);
+  for (const QString& line : part.title) {
+    page.texts.push_back({QRectF(at, QSizeF(m_fonts.width(PageFont::Heading, line), height)), line,
+                          PageFont::Heading});
+    at.ry() += height;
+  }
+}
+
+void TableLayout::placeCell(ReportPage& page, PageFont font, const QString& text, std::size_t column,
+                            QPointF at) const {
+  if (text.isEmpty())
+    return;
+  const double room = m_widths[column] - 2 * kPadding;
+  const bool isOneLine = m_fonts.width(font, text) <= room + 0.5;
+  double y = at.y();
+  for (const QString& line : isOneLine ? QStringList{text} : m_fonts.wrapped(font, text, room)) {
+    const double width = m_fonts.width(font, line);
+    const double x =
+        m_table.columns[column].isLeftAligned ? at.x() + kPadding : at.x() + m_widths[column] - kPadding - width;
+    page.texts.push_back({QRectF(x, y, width, m_fonts.lineHeight(font)), line, font});
+    y += m_fonts.lineHeight(font);
+  }
+}
+
+void TableLayout::placeHead(ReportPage& page, const Part& part, QPointF at) const {
+  const double height = headHeight(part);
+  const double line = m_fonts.lineHeight(PageFont::BoldCell);
+  double y = at.y() + kRowAir;
+  if (hasGroupTitles()) {
+    double x = at.x();
+    std::size_t place = 0;
+    std::size_t end = 0; // of the group's columns
+    for (const ReportColumnGroup& group : m_table.groups) {
+      end += group.columns;
+      const double left = x;
+      for (; place < part.columns.size() && part.columns[place] < end; ++place)
+        x += m_widths[part.columns[place]];
+      if (group.title.empty() || x == left)
+        continue;
+      const QString title = toQt(group.title);
+      const double width = m_fonts.width(PageFont::BoldCell, title);
+      page.texts.push_back(
+          {QRectF(left + (x - left - width) / 2, y, width, line), title, PageFont::BoldCell});
+      const double under = y + line + kGroupGap / 3;
+      page.lines.push_back({{left + kPadding / 2, under}, {x - kPadding / 2, under}, kThinLine});
+    }
+    y += line + kGroupGap;
+  }
+  double x = at.x();
+  for (const std::size_t column : part.columns) {
+    placeCell(page, PageFont::BoldCell, toQt(m_table.columns[column].header), column, {x, y});
+    x += m_widths[column];
+  }
+  page.lines.push_back({{at.x(), at.y() + height}, {at.x() + part.width, at.y() + height}, kThickLine});
+}
+
+void TableLayout::placeRow(ReportPage& page, const Part& part, std::size_t row, QPointF at) const {
+  const ReportRow& cells = m_table.rows[row];
+  const QRectF box(at, QSizeF(part.width, rowHeight(part, row)));
+  const bool isTotal = cells.emphasis == ReportRow::Emphasis::Total;
+  if (cells.emphasis == ReportRow::Emphasis::Highlighted)
+    page.fills.push_back({box, kHighlight});
+  else if (row % 2 == 1 && !isTotal)
+    page.fills.push_back({box, kStripe});
+  if (isTotal || cells.beginsSection)
+    page.lines.push_back({box.topLeft(), box.topRight(), isTotal ? kThickLine : kThinLine * 2});
+  double x = at.x();
+  for (const std::size_t column : part.columns) {
+    if (m_beginsGroup[column])
+      page.lines.push_back({{x, box.top()}, {x, box.bottom()}, kThinLine / 2});
+    placeCell(page, fontOf(cells), toQt(cells.cells[column].text), column, {x, at.y() + kRowAir});
+    x += m_widths[column];
+  }
+}
+
+} // namespace hooptab

@@ -1,0 +1,64 @@
+// How a table stands on a page: the widths of its columns, the parts into which a table is split that is too wide (each with the
+// repeated columns, and no group of columns torn apart), and the places of its cells.
+#pragma once
+
+#include "printing/ReportPage.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace hooptab {
+
+class TableLayout {
+ public:
+  struct Part {
+    std::vector<std::size_t> columns;
+    double width = 0;
+    std::vector<double> rowHeights = {};
+    QStringList title = {}; // in lines
+  };
+
+  // Measures the texts; both must outlive it.
+  TableLayout(const ReportTable& table, const PageFonts& fonts);
+  // Into how many parts that room would split the table.
+  std::size_t partsIn(double room);
+  // Splits the table for that room.
+  void fit(double room);
+
+  const ReportTable& table() const { return m_table; }
+  const std::vector<Part>& parts() const { return m_parts; }
+  double titleHeight(const Part& part) const;
+  double headHeight(const Part& part) const;
+  double rowHeight(const Part& part, std::size_t row) const { return part.rowHeights[row]; }
+  double width(const Part& part) const; // that of the title, where it is longer
+
+  // `at` is the upper left corner; the height is that of the functions above.
+  void placeTitle(ReportPage& page, const Part& part, QPointF at) const;
+  void placeHead(ReportPage& page, const Part& part, QPointF at) const;
+  void placeRow(ReportPage& page, const Part& part, std::size_t row, QPointF at) const;
+
+ private:
+  struct Unit { // columns that stay together
+    std::size_t first = 0;
+    std::size_t count = 0;
+  };
+  void measure();
+  void widenForTitles();
+  bool shrinkInto(double room);
+  void split(double room);
+  void measureParts(double room);
+  [[nodiscard]] std::vector<Unit> units() const;
+  [[nodiscard]] PageFont fontOf(const ReportRow& row) const;
+  void placeCell(ReportPage& page, PageFont font, const QString& text, std::size_t column, QPointF at) const;
+  [[nodiscard]] std::size_t linesOf(PageFont font, const QString& text, std::size_t column) const;
+  [[nodiscard]] bool hasGroupTitles() const;
+
+  const ReportTable& m_table;
+  const PageFonts& m_fonts;
+  std::vector<double> m_natural; // widths that the texts ask for
+  std::vector<double> m_widths;
+  std::vector<bool> m_beginsGroup; // which columns have a line at their left
+  std::vector<Part> m_parts;
+};
+
+} // namespace hooptab

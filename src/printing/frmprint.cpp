@@ -1,0 +1,398 @@
+#include "printing/frmprint.h"
+
+#include "appearance/Dialogs.h"
+#include "appearance/Fields.h"
+#include "appearance/Icons.h"
+#include "appearance/relabel.h"
+#include "printing/PageView.h"
+#include "printing/PrintTexts.h"
+#include "printing/Printers.h"
+#include "printing/ReportLayout.h"
+#include "storage/Module1.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QDataStream>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPrinter>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QToolButton>
+
+#include <algorithm>
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kPreview = 1310;
+constexpr int kPrint = 1311;
+constexpr int kTitle = 1438;
+constexpr int kPrinterError = 1402;
+constexpr int kErrorTitle = 1060;
+constexpr int kWarningTitle = 1139;
+constexpr int kReplaceFile = 1836;
+
+constexpr int kMargin = 8;
+constexpr int kTitleWidth = 260;
+constexpr int kStepMilliseconds = 20; // of laying out, before the window is served again
+constexpr qsizetype kLongestTitle = 120;
+
+// The entries of the zoom's list: two that fit, then sizes in percent.
+constexpr int kZooms[] = {50, 75, 100, 125, 150, 200, 300, 400};
+constexpr int kFitPageEntry = 0;
+constexpr int kFitWidthEntry = 1;
+constexpr int kFirstZoomEntry = 2;
+
+struct Export {
+  ReportForm form;
+  const char* name;
+  int text;
+  int filter;
+};
+constexpr Export kExports[] = {
+    {ReportForm::Pdf, "cmdPDF", kSavePdf, kPdfFilter},
+    {ReportForm::Xlsx, "mnuXLSX", kSaveXlsx, kXlsxFilter},
+    {ReportForm::Csv, "mnuCSV", kSaveCsv, kCsvFilter},
+    {ReportForm::Html, "mnuHTML", kSaveHtml, kHtmlFilter},
+    {ReportForm::Png, "mnuPNG", kSavePictures, kPngFilter},
+};
+
+} // namespace
+
+frmprint::frmprint(const Texts& texts, Dialogs& dialogs, Printers& printers, FileSystem& files, QString folder,
+                   QWidget* parent)
+    : ChildWindow(parent), m_texts(texts), m_dialogs(dialogs), m_printers(printers), m_files(files),
+      m_folder(std::move(folder)), m_view(new PageView(this)) {
+  setObjectName(QStringLiteral("frmprint"));
+  setTextNumber(*this, kPreview);
+  m_view->setObjectName(QStringLiteral("pages"));
+  setAccessibleNumber(*m_view, kPreview);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setSpacing(kMargin);
+  layout->addWidget(makeReportRow());
+  layout->addWidget(makePageRow());
+  layout->addWidget(m_view, 1);
+  m_steps.setInterval(0);
+  fillChoices();
+  m_paper->setCurrentIndex(static_cast<int>(usualPaper()));
+  connectEverything();
+  relabelWindow();
+}
+
+frmprint::~frmprint() = default;
+
+QComboBox* frmprint::addChoice(const char* name, int label, QWidget* parent) {
+  auto* choice = new QComboBox(parent);
+  choice->setObjectName(QLatin1String(name));
+  choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  setToolTipNumber(*choice, label);
+  setAccessibleNumber(*choice, label);
+  return choice;
+}
+
+QToolButton* frmprint::addButton(const char* name, int text, const char* iconName, QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setObjectName(QLatin1String(name));
+  if (iconName != nullptr)
+    button->setIcon(icon(QLatin1String(iconName)));
+  setToolTipNumber(*button, text);
+  setAccessibleNumber(*button, text);
+  return button;
+}
+
+QWidget* frmprint::makeReportRow() {
+  auto* row = new QWidget(this);
+  m_choice = addChoice("cmbREPORT", kWhichReport, row);
+  m_title = new QLineEdit(row);
+  m_title->setObjectName(QStringLiteral("txtTITLE"));
+  m_title->setMaxLength(kLongestTitle);
+  m_title->setMinimumWidth(kTitleWidth);
+  auto* exports = new QPushButton(icon(QStringLiteral("export")), QString(), row);
+  exports->setObjectName(QStringLiteral("cmdEXPORT"));
+  setTextNumber(*exports, kExport);
+  setToolTipNumber(*exports, kExport);
+  auto* menu = new QMenu(exports);
+  for (const Export& each : kExports) {
+    if (each.form == ReportForm::Pdf)
+      continue;
+    auto* action = menu->addAction(QString());
+    action->setObjectName(QLatin1String(each.name));
+    setTextNumber(*action, each.text);
+    connect(action, &QAction::triggered, this, [this, form = each.form] { save(form); });
+  }
+  exports->setMenu(menu);
+
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(captionFor(*m_choice, kWhichReport));
+  layout->addWidget(m_choice);
+  layout->addSpacing(kMargin);
+  layout->addWidget(captionFor(*m_title, kTitle));
+  layout->addWidget(m_title, 1);
+  layout->addSpacing(kMargin);
+  layout->addWidget(iconButton("cmdPRINT", kPrint, kPrint, "vwprint", row));
+  layout->addWidget(iconButton("cmdPDF", kSavePdf, kSavePdf, "savemanual", row));
+  layout->addWidget(exports);
+  layout->addWidget(iconButton("cmdCLOSE", 1294, kClosePreview, "vwclose", row));
+  return row;
+}
+
+QWidget* frmprint::makePageRow() {
+  auto* row = new QWidget(this);
+  m_paper = addChoice("cmbPAPER", kPaper, row);
+  m_turn = addChoice("cmbTURN", kOrientation, row);
+  m_zoom = addChoice("cmbZOOM", kZoom, row);
+  m_facing = addButton("cmdFACING", kFacingPages, nullptr, row);
+  m_facing->setCheckable(true);
+  setTextNumber(*m_facing, kFacingPages);
+  m_page = new QSpinBox(row);
+  m_page->setObjectName(QStringLiteral("txtPAGE"));
+  m_page->setMinimum(1);
+  setToolTipNumber(*m_page, kShownPage);
+  setAccessibleNumber(*m_page, kShownPage);
+  m_pageCount = new QLabel(row);
+  m_pageCount->setObjectName(QStringLiteral("lblPAGES"));
+
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  for (auto [choice, label] : {std::pair(m_paper, kPaper), {m_turn, kOrientation}, {m_zoom, kZoom}}) {
+    layout->addWidget(captionFor(*choice, label));
+    layout->addWidget(choice);
+    layout->addSpacing(kMargin);
+  }
+  layout->addWidget(m_facing);
+  layout->addStretch();
+  const auto addStep = [&](const char* name, int text, const QString& sign, auto target) {
+    QToolButton* button = addButton(name, text, nullptr, row);
+    button->setText(sign);
+    connect(button, &QToolButton::clicked, this, [this, target] { m_view->goTo(target(m_view->page())); });
+    layout->addWidget(button);
+  };
+  const auto across = [this] { return m_view->isFacing() ? 2 : 1; };
+  addStep("cmdFIRST", kFirstPage, QStringLiteral("⏮"), [](int) { return 1; });
+  addStep("cmdPREVIOUS", kPreviousPage, QStringLiteral("◀"),
+          [across](int page) { return std::max(1, page - across()); });
+  layout->addWidget(m_page);
+  layout->addWidget(m_pageCount);
+  addStep("cmdNEXT", kNextPage, QStringLiteral("▶"),
+          [this, across](int page) { return std::min(m_page->maximum(), page + across()); });
+  addStep("cmdLAST", kLastPage, QStringLiteral("⏭"), [this](int) { return m_page->maximum(); });
+  return row;
+}
+
+void frmprint::connectEverything() {
+  connect(m_choice, &QComboBox::currentIndexChanged, this, [this] {
+    m_isTitleTyped = false;
+    makeReport();
+  });
+  connect(m_title, &QLineEdit::textEdited, this, [this](const QString& title) {
+    m_isTitleTyped = true;
+    m_report.title = fromQt(title);
+    layOut();
+  });
+  for (QComboBox* choice : {m_paper, m_turn})
+    connect(choice, &QComboBox::currentIndexChanged, this, &frmprint::layOut);
+  connect(m_zoom, &QComboBox::activated, this, &frmprint::chooseZoom);
+  connect(m_facing, &QToolButton::toggled, m_view, &PageView::setFacing);
+  connect(m_page, &QSpinBox::valueChanged, m_view, &PageView::goTo);
+  connect(m_view, &PageView::pageChanged, this, &frmprint::showPage);
+  connect(m_view, &PageView::zoomChanged, this, &frmprint::showZoom);
+  connect(&m_steps, &QTimer::timeout, this, &frmprint::layOutMore);
+  connect(findChild<QPushButton*>(QStringLiteral("cmdPRINT")), &QPushButton::clicked, this, &frmprint::print);
+  connect(findChild<QPushButton*>(QStringLiteral("cmdPDF")), &QPushButton::clicked, this,
+          [this] { save(ReportForm::Pdf); });
+  connect(findChild<QPushButton*>(QStringLiteral("cmdCLOSE")), &QPushButton::clicked, this, [this] {
+    if (parentWidget() != nullptr)
+      parentWidget()->close(); // the frame's window around this one
+  });
+}
+
+void frmprint::fillChoices() {
+  m_paper->addItems({QStringLiteral("A4"), QString()});
+  m_turn->addItems({QString(), QString(), QString()});
+  m_zoom->addItems({QString(), QString()});
+  for (const int zoom : kZooms)
+    m_zoom->addItem(QStringLiteral("%1%").arg(zoom));
+}
+
+void frmprint::relabelWindow() {
+  relabel(*this, m_texts);
+  m_paper->setItemText(static_cast<int>(Paper::Letter), caption(m_texts, kPaperLetter));
+  m_turn->setItemText(0, caption(m_texts, kAsItFits));
+  m_turn->setItemText(1, caption(m_texts, kUpright));
+  m_turn->setItemText(2, caption(m_texts, kAcross));
+  m_zoom->setItemText(kFitPageEntry, caption(m_texts, kFitPage));
+  m_zoom->setItemText(kFitWidthEntry, caption(m_texts, kFitWidth));
+  for (std::size_t i = 0; i < m_offers.size(); ++i)
+    m_choice->setItemText(static_cast<int>(i), toQt(m_offers[i].name()));
+  if (!m_offers.empty())
+    makeReport();
+}
+
+void frmprint::offer(std::vector<ReportOffer> offers) {
+  {
+    const QSignalBlocker noChoice(m_choice);
+    m_offers = std::move(offers);
+    m_choice->clear();
+    for (const ReportOffer& each : m_offers)
+      m_choice->addItem(toQt(each.name()));
+  }
+  m_isTitleTyped = false;
+  makeReport();
+}
+
+void frmprint::makeReport() {
+  m_view->showLayout(nullptr);
+  m_layout.reset(); // it refers to the old report
+  m_report = m_offers[static_cast<std::size_t>(m_choice->currentIndex())].make();
+  if (m_isTitleTyped)
+    m_report.title = fromQt(m_title->text());
+  else
+    m_title->setText(toQt(m_report.title));
+  for (const Export& each : kExports) {
+    if (auto* action = findChild<QAction*>(QLatin1String(each.name)))
+      action->setEnabled(canBe(m_report, each.form));
+  }
+  layOut();
+  m_view->goTo(1);
+}
+
+PageFormat frmprint::format() const {
+  return {static_cast<Paper>(m_paper->currentIndex()), static_cast<PageTurn>(m_turn->currentIndex())};
+}
+
+void frmprint::layOut() {
+  m_view->showLayout(nullptr);
+  m_layout = std::make_unique<ReportLayout>(m_report, format());
+  m_steps.start();
+  layOutMore(); // the first page at once
+  m_view->showLayout(m_layout.get());
+}
+
+void frmprint::layOutMore() {
+  QElapsedTimer time;
+  time.start();
+  while (!m_layout->isDone() && time.elapsed() < kStepMilliseconds)
+    m_layout->step();
+  if (m_layout->isDone())
+    m_steps.stop();
+  m_view->showMorePages();
+  showPage();
+}
+
+void frmprint::finishLayout() {
+  m_layout->finish();
+  layOutMore();
+}
+
+void frmprint::showPage() {
+  const QSignalBlocker noJump(m_page);
+  const int pages = static_cast<int>(m_layout->pages().size());
+  m_page->setMaximum(pages);
+  m_page->setValue(m_view->page());
+  m_pageCount->setText(toQt(m_texts.withPlaceholder(kPagesInAll, std::to_string(pages))));
+}
+
+void frmprint::showZoom() {
+  const QSignalBlocker noChoice(m_zoom);
+  if (m_view->fit() != PageView::Fit::None) {
+    m_zoom->setCurrentIndex(m_view->fit() == PageView::Fit::Page ? kFitPageEntry : kFitWidthEntry);
+    return;
+  }
+  const QString percent = QStringLiteral("%1%").arg(qRound(m_view->zoom() * 100));
+  m_zoom->setCurrentIndex(m_zoom->findText(percent)); // none of them after the wheel
+  m_zoom->setPlaceholderText(percent);
+}
+
+void frmprint::chooseZoom(int choice) {
+  if (choice >= kFirstZoomEntry)
+    m_view->setZoom(kZooms[choice - kFirstZoomEntry] / 100.0);
+  else
+    m_view->setFit(choice == kFitPageEntry ? PageView::Fit::Page : PageView::Fit::Width);
+}
+
+void frmprint::complain(int text, const QString& path) {
+  m_dialogs.complain(
+      this, caption(m_texts, text == kNotPrinted ? kPrinterError : kErrorTitle),
+      toQt(m_texts.withPlaceholder(text, fromQt(QDir::toNativeSeparators(path)))));
+}
+
+void frmprint::print() {
+  finishLayout();
+  const auto printer =
+      m_printers.choose(this, m_layout->pageLayout(), static_cast<int>(m_layout->pages().size()));
+  if (printer == nullptr)
+    return;
+  printer->setDocName(toQt(m_report.fileName));
+  if (printReport(*printer, *m_layout))
+    emit reported(toQt(m_texts.withPlaceholder(kSentToPrinter, m_report.fileName)));
+  else
+    complain(kNotPrinted);
+}
+
+bool frmprint::mayReplace(const QString& path, const std::vector<ReportFile>& files) {
+  for (const ReportFile& file : files) {
+    const QString target = toQt(pathOf(fromQt(path), file));
+    if (QFileInfo::exists(target) &&
+        !m_dialogs.ask(this, caption(m_texts, kWarningTitle),
+                       toQt(m_texts.withPlaceholder(kReplaceFile, fromQt(QDir::toNativeSeparators(target))))))
+      return false;
+  }
+  return true;
+}
+
+void frmprint::save(ReportForm form) {
+  const auto* each = std::ranges::find(kExports, form, &Export::form);
+  const QString ending = toQt(endingOf(form));
+  const QString proposed = QDir(m_folder).filePath(toQt(m_report.fileName) + u'.' + ending);
+  const QString path = m_dialogs.chooseFileToSave(this, caption(m_texts, each->text), proposed,
+                                                  fileFilter(toQt(m_texts.text(each->filter))), ending);
+  if (path.isEmpty())
+    return;
+  const char* language = m_texts.language() == Language::French ? "fr" : "en";
+  const auto files = filesOf(m_report, form, format(), language);
+  if (!files)
+    return complain(kReportNotWritten, path);
+  if (!mayReplace(path, *files))
+    return;
+  m_folder = QFileInfo(path).absolutePath();
+  if (const std::string failed = writeFiles(m_files, fromQt(path), *files); !failed.empty())
+    return complain(kReportNotWritten, toQt(failed));
+  emit reported(toQt(m_texts.withPlaceholder(kReportSaved, fromQt(QDir::toNativeSeparators(path)))));
+}
+
+QByteArray frmprint::arrangement() const {
+  QByteArray state;
+  QDataStream stream(&state, QIODevice::WriteOnly);
+  stream << static_cast<qint32>(m_paper->currentIndex()) << static_cast<qint32>(m_view->fit()) << m_view->zoom()
+         << m_view->isFacing();
+  return state;
+}
+
+void frmprint::restoreArrangement(const QByteArray& state) {
+  QDataStream stream(state);
+  qint32 paper = 0;
+  qint32 fit = 0;
+  double zoom = 1;
+  bool isFacing = false;
+  stream >> paper >> fit >> zoom >> isFacing;
+  if (stream.status() != QDataStream::Ok || paper < 0 || paper > 1 || fit < 0 || fit > 2)
+    return;
+  m_paper->setCurrentIndex(paper);
+  m_facing->setChecked(isFacing);
+  if (fit == static_cast<qint32>(PageView::Fit::None))
+    m_view->setZoom(zoom);
+  else
+    m_view->setFit(static_cast<PageView::Fit>(fit));
+}
+
+} // namespace hooptab

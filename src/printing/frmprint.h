@@ -1,0 +1,98 @@
+// The print preview: a report's pages as they will be printed, with its title, paper and zoom to choose, and every way out of it:
+// printer, PDF, workbook, text, web page, pictures. Lays out and forwards; how a report is made is its offer's to know.
+#pragma once
+
+#include "appearance/ChildWindow.h"
+#include "printing/PageFormat.h"
+#include "printing/Report.h"
+#include "printing/ReportFiles.h"
+#include "storage/Texts.h"
+
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QSpinBox;
+class QToolButton;
+
+namespace hooptab {
+
+class Dialogs;
+class PageView;
+class Printers;
+class ReportLayout;
+
+// A report that the preview can show. Both are asked again when the language changes.
+struct ReportOffer {
+  std::function<std::string()> name;
+  std::function<Report()> make;
+};
+
+class frmprint : public ChildWindow {
+  Q_OBJECT
+
+ public:
+  // All must outlive it. Exports are proposed in `folder`.
+  frmprint(const Texts& texts, Dialogs& dialogs, Printers& printers, FileSystem& files, QString folder,
+           QWidget* parent = nullptr);
+  ~frmprint() override;
+
+  // Shows the first of them; the others can be chosen.
+  void offer(std::vector<ReportOffer> offers);
+
+  void relabelWindow() override;
+  void applyColours() override {} // paper has its own
+  QByteArray arrangement() const override; // paper, zoom and pages side by side
+  void restoreArrangement(const QByteArray& state) override;
+
+ private:
+  QWidget* makeReportRow();
+  QWidget* makePageRow();
+  QComboBox* addChoice(const char* name, int label, QWidget* parent);
+  QToolButton* addButton(const char* name, int text, const char* iconName, QWidget* parent);
+  void connectEverything();
+  void fillChoices();
+
+  void makeReport(); // of the chosen offer
+  void layOut();
+  void layOutMore();
+  void finishLayout();
+  void showPage();
+  void showZoom();
+  void chooseZoom(int choice);
+  [[nodiscard]] PageFormat format() const;
+
+  void print();
+  void save(ReportForm form);
+  [[nodiscard]] bool mayReplace(const QString& path, const std::vector<ReportFile>& files);
+  void complain(int text, const QString& path = {});
+
+  const Texts& m_texts;
+  Dialogs& m_dialogs;
+  Printers& m_printers;
+  FileSystem& m_files;
+  QString m_folder;
+  std::vector<ReportOffer> m_offers;
+  Report m_report;
+  bool m_isTitleTyped = false;
+  std::unique_ptr<ReportLayout> m_layout;
+  QTimer m_steps;
+
+  QComboBox* m_choice = nullptr;
+  QLineEdit* m_title = nullptr;
+  QComboBox* m_paper = nullptr;
+  QComboBox* m_turn = nullptr;
+  QComboBox* m_zoom = nullptr;
+  QToolButton* m_facing = nullptr;
+  QSpinBox* m_page = nullptr;
+  QLabel* m_pageCount = nullptr;
+  PageView* m_view = nullptr;
+};
+
+} // namespace hooptab

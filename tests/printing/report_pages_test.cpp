@@ -1,0 +1,434 @@
+// Pages, files and the preview, on games as they are and on one whose every text is as long as it can be.
+#include "printing/GameReports.h"
+#include "printing/PrintTexts.h"
+#include "printing/Printers.h"
+#include "printing/ReportFiles.h"
+#include "printing/ReportLayout.h"
+#include "printing/ReportPainter.h"
+#include "printing/TeamReports.h"
+#include "printing/frmprint.h"
+
+#include "ReportGame.h"
+#include "appearance/relabel.h"
+#include "support/FaultyFileSystem.h"
+#include "support/ScriptedDialogs.h"
+#include "support/SharedGames.h"
+#include "support/TemporaryFolder.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QProcess>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QStandardPaths>
+#include <QTest>
+#include <QToolButton>
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <map>
+#include <regex>
+
+namespace hooptab {
+namespace {
+
+constexpr PageFormat kA4 = {Paper::A4, PageTurn::AsItFits};
+
+std::string output(const char* program, const QStringList& arguments) {
+  QProcess process;
+  process.start(QLatin1String(program), arguments);
+  return process.waitForFinished(20000) ? process.readAllStandardOutput().toStdString() : std::string();
+}
+bool isMissing(const char* program) {
+  return QStandardPaths::findExecutable(QLatin1String(program)).isEmpty();
+}
+
+class ReportPagesTest : public testing::Test {
+ protected:
+  Report scorecard(const Game& game) {
+    return scorecardReport(game, tallied(game), ScorecardView(texts), settings, texts);
+  }
+  Game realGame() {
+    Game game;
+    if (const auto games = sharedGames(); !games.empty()) {
+      EXPECT_EQ(GameFile(store, games.front().string()).read(game), GameFileProblem::None);
+    }
+    return game;
+  }
+  std::vector<Report> everyReport() {
+    const Game shorter = crowdedGame(1); // a list of events needs no counters of three digits
+    ScorecardView byLine(texts);
+    byLine.setView(BoxView::Lines);
+    const Game game = crowdedGame();
+    TeamRecord team;
+    team.abbreviation = team.category = std::string(100, 'W');
+    std::vector<TeamPlayer> players(40);
+    for (TeamPlayer& player : players) {
+      player.number = "888";
+      player.record.name = player.record.height = player.record.grade = std::string(60, 'W');
+    }
+    return {scorecard(game), scorecardReport(game, tallied(game), byLine, settings, texts),
+            playByPlayReport(shorter, tallied(shorter), texts), rosterReport(team, players, texts),
+            rosterReport(team, {}, texts)};
+  }
+
+  TemporaryFolder folder;
+  FileSystem files;
+  cinifile store{files};
+  Texts texts;
+  Settings settings{store, folder.path()};
+};
+
+// Whatever the paper: all texts on the page, none on another one, and each row once in each part of its table.
+TEST_F(ReportPagesTest, NothingLeavesThePageAndNothingOverlaps) {
+  for (const Report& report : everyReport()) {
+    for (const Paper paper : {Paper::A4, Paper::Letter}) {
+      for (const PageTurn turn : {PageTurn::AsItFits, PageTurn::Portrait, PageTurn::Landscape}) {
+        ReportLayout layout(report, {paper, turn});
+        layout.finish();
+        const QRectF body = layout.body().adjusted(-1, -1, 1, 1);
+        for (const ReportPage& page : layout.pages()) {
+          EXPECT_FALSE(page.isEmpty());
+          for (const PageText& text : page.texts)
+            EXPECT_TRUE(body.contains(text.box)) << text.text.toStdString();
+          for (const PagePicture& picture : page.pictures)
+            EXPECT_TRUE(body.contains(picture.box));
+          for (const PageLine& line : page.lines)
+            EXPECT_TRUE(body.contains(line.from) && body.contains(line.to));
+          for (std::size_t i = 0; i < page.texts.size(); ++i) {
+            const QRectF box = page.texts[i].box.adjusted(1, 1, -1, -1);
+            for (std::size_t other = 0; other < i; ++other)
+              ASSERT_FALSE(box.intersects(page.texts[other].box))
+                  << page.texts[i].text.toStdString() << " on " << page.texts[other].text.toStdString();
+            for (const PagePicture& picture : page.pictures)
+              ASSERT_FALSE(box.intersects(picture.box));
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST_F(ReportPagesTest, EveryRowStandsOnceInEachPartOfAWideTable) {
+  // 300 rows of 60 columns in groups, with the name repeated.
+  Report report;
+  ReportTable table;
+  table.title = "T";
+  table.columns.push_back({"Name", "Name", {}, true, true});
+  table.groups.push_back({"", 1});
+  for (int group = 0; group < 12; ++group) {
+    table.groups.push_back({"G" + std::to_string(group), 5});
+    for (int column = 0; column < 5; ++column)
+      table.columns.push_back({"C" + std::to_string(group * 5 + column), "C" + std::to_string(group * 5 + column)});
+  }
+  for (int row = 0; row < 300; ++row) {
+    ReportRow& line = table.rows.emplace_back();
+    line.cells.push_back(textCell("R" + std::to_string(row)));
+    for (int column = 0; column < 60; ++column)
+      line.cells.push_back(numberCell(row * 100 + column));
+  }
+  table.rows.back().emphasis = ReportRow::Emphasis::Total;
+  report.blocks.push_back(std::move(table));
+  ReportLayout layout(report, kA4);
+  layout.step();
+  EXPECT_FALSE(layout.isDone()) << "the first page does not wait for the others";
+  layout.finish();
+  std::map<QString, int> found;
+  std::size_t parts = 0;
+  for (const ReportPage& page : layout.pages()) {
+    std::size_t numbers = 0;
+    for (const PageText& text : page.texts) {
+      ++found[text.text];
+      numbers += text.text[0].isDigit() ? 1U : 0U;
+    }
+    parts += found[QStringLiteral("R0")] > static_cast<int>(parts) ? 1U : 0U;
+    EXPECT_GE(numbers, 2U) << "a total does not stand alone";
+  }
+  EXPECT_GE(parts, 2U);
+  for (int row = 0; row < 300; ++row) {
+    EXPECT_EQ(found[QStringLiteral("R%1").arg(row)], static_cast<int>(parts)) << row;
+    for (int column = 0; column < 60; ++column)
+      ASSERT_EQ(found[QString::number(row * 100 + column)], 1) << row << ' ' << column;
+  }
+}
+
+// What pdftotext reads of the page is what the box score says, in both languages.
+TEST_F(ReportPagesTest, ThePdfSaysWhatTheBoxScoreSays) {
+  const Game game = realGame();
+  if (game.path.empty() || isMissing("pdftotext"))
+    GTEST_SKIP() << "no real game, or no pdftotext";
+  const GameState state = tallied(game);
+  for (const Language language : {Language::English, Language::French}) {
+    texts.setLanguage(language);
+    const std::string path = folder.write("box.pdf", reportPdf(scorecard(game), kA4));
+    const std::string text = output("pdftotext", {QStringLiteral("-layout"), toQt(path), QStringLiteral("-")});
+    EXPECT_NE(text.find(texts.text(kScorecard)), std::string::npos);
+    for (int team = 0; team < 2; ++team) {
+      for (const BoxRow& row : boxRows(game, state, team, BoxView::Players, texts)) {
+        // The row stands in two parts; the numbers of both follow each other in the order of the columns.
+        std::string cells;
+        for (const int column : boxDisplayOrder()) {
+          const std::string_view name = boxColumns()[static_cast<std::size_t>(column - 1)].name;
+          if (column != kTimeSortColumn && name != "No" && name != "Name")
+            cells += (cells.empty() ? "" : " ") + boxCell(row, column);
+        }
+        std::string printed;
+        for (std::size_t at = text.find(row.name); at != std::string::npos; at = text.find(row.name, at + 1)) {
+          const std::string line = text.substr(at + row.name.size(), text.find('\n', at) - at - row.name.size());
+          std::string words = std::regex_replace(line, std::regex(" +"), " ");
+          if (std::count(words.begin(), words.end(), ' ') >= 10) // a row of a box, no leader
+            printed += words;
+        }
+        EXPECT_NE(printed.find(cells), std::string::npos) << cells << "\n" << printed;
+      }
+    }
+  }
+}
+
+TEST_F(ReportPagesTest, AScorecardIsAPdfInLessThanThreeTenthsOfASecond) {
+  const Report report = scorecard(crowdedGame());
+  (void)reportPdf(report, kA4); // fonts are found once
+  QElapsedTimer time;
+  time.start();
+  EXPECT_EQ(reportPdf(report, kA4).substr(0, 5), "%PDF-");
+  RecordProperty("milliseconds", static_cast<int>(time.elapsed()));
+  EXPECT_LT(time.elapsed(), 1500) << "asked for are 300 ms; this machine may be busy";
+}
+
+TEST_F(ReportPagesTest, AWorkbookHoldsNumbersAsNumbersAndNamesAsText) {
+  if (isMissing("unzip"))
+    GTEST_SKIP() << "no unzip";
+  const auto bytes = reportXlsx(scorecard(crowdedGame()));
+  ASSERT_TRUE(bytes);
+  const QString path = toQt(folder.write("box.xlsx", *bytes));
+  const auto part = [&](const char* name) {
+    return output("unzip", {QStringLiteral("-p"), path, QLatin1String(name)});
+  };
+  std::string box;
+  for (int sheet = 1; sheet <= 6; ++sheet) {
+    const std::string xml = part(("xl/worksheets/sheet" + std::to_string(sheet) + ".xml").c_str());
+    ASSERT_FALSE(xml.empty()) << "a sheet for each of the six tables";
+    EXPECT_EQ(xml.find("<f>"), std::string::npos) << "no formula anywhere";
+    EXPECT_NE(xml.find("state=\"frozen\""), std::string::npos);
+    if (sheet == 5)
+      box = xml;
+  }
+  const std::string strings = part("xl/sharedStrings.xml");
+  for (const char* name : {"=SUM(A1)", "&lt;script&gt;", "+Plus", "-Minus", "@At"})
+    EXPECT_NE(strings.find(name), std::string::npos) << name;
+  // The second team's fifth player made one three of one: F3% stands as 1 in the format of percentages.
+  EXPECT_TRUE(std::regex_search(box, std::regex("<c r=\"[A-Z]+7\" s=\"\\d+\"><v>1</v></c>"))) << box.substr(0, 2000);
+  EXPECT_NE(part("xl/styles.xml").find("0.0%"), std::string::npos);
+}
+
+// The disk fails at the n-th call: the old file stands whole, or the new one.
+TEST_F(ReportPagesTest, AFailedWriteLeavesTheOldFileWhole) {
+  const std::vector<ReportFile> contents = {{"", "new bytes"}};
+  const std::string path = folder.path("report.pdf");
+  int failures = 0;
+  for (int call = 0;; ++call) {
+    (void)folder.write("report.pdf", "old");
+    FaultyFileSystem faulty;
+    faulty.failAt = call;
+    faulty.error = ENOSPC;
+    const std::string failed = writeFiles(faulty, path, contents);
+    const std::string now = folder.read("report.pdf");
+    EXPECT_TRUE(now == "old" || now == "new bytes") << call << now;
+    if (!faulty.hasFailed)
+      break;
+    if (now == "old") {
+      EXPECT_EQ(failed, path) << call;
+      ++failures;
+    }
+    for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
+      EXPECT_EQ(entry.path().filename(), "report.pdf") << "nothing half written is left";
+  }
+  EXPECT_GE(failures, 4);
+  EXPECT_EQ(writeFiles(files, folder.path("missing/x.pdf"), contents), folder.path("missing/x.pdf"));
+  EXPECT_EQ(pathOf("/a.b/box.csv", {" Points", ""}), "/a.b/box Points.csv");
+  EXPECT_EQ(pathOf("/a.b/box", {" Points", ""}), "/a.b/box Points");
+}
+
+// Forms printed and looked at as a scanner does: marks and filled digits are black, cells are empty.
+TEST_F(ReportPagesTest, APrintedFormHasItsMarksAndDigitsWhereTheLayoutSays) {
+  TeamRecord team;
+  team.abbreviation = "LYNX";
+  std::vector<TeamPlayer> players(2);
+  players[0].number = "00";
+  players[1].number = "47";
+  players[1].record.name = std::string(60, 'W');
+  const Report report = preparedForms(team, players, texts);
+  for (const Paper paper : {Paper::A4, Paper::Letter}) {
+    ReportLayout layout(report, {paper, PageTurn::AsItFits});
+    layout.finish();
+    ASSERT_EQ(layout.pages().size(), 1U);
+    constexpr double kDotsPerMillimetre = 300 / 25.4;
+    const double scale = 300 / kUnitsPerInch;
+    QImage image((layout.size() * scale).toSize(), QImage::Format_Grayscale8);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(scale, scale);
+    paintPage(painter, layout, 0);
+    painter.end();
+    const QPointF origin((image.width() / kDotsPerMillimetre - FormLayout::kWidth) / 2,
+                         (image.height() / kDotsPerMillimetre - FormLayout::kHeight) / 2);
+    EXPECT_GE(origin.x(), 5);
+    EXPECT_GE(origin.y(), 5);
+    const auto isBlack = [&](const FormRect& rect) {
+      const QPointF centre = (origin + QPointF(rect.x + rect.width / 2, rect.y + rect.height / 2)) * kDotsPerMillimetre;
+      return qGray(image.pixel(centre.toPoint())) < 128;
+    };
+    const FormLayout form;
+    EXPECT_FALSE(isBlack(form.marks()[0])) << "the upper left mark is hollow";
+    for (const std::size_t mark : {1U, 2U, 3U})
+      EXPECT_TRUE(isBlack(form.marks()[mark]));
+    std::array<bool, FormIdentifier::kBits> bits = {};
+    std::ranges::transform(form.identifier(), bits.begin(), isBlack);
+    const auto identifier = FormIdentifier::ofBits(bits);
+    ASSERT_TRUE(identifier);
+    EXPECT_EQ(identifier->team, FormIdentifier::teamNumber("LYNX", ""));
+    for (const FormCell& cell : form.cells()) {
+      const char* const jersey = cell.player == 0 ? "00" : cell.player == 1 ? "47" : "";
+      EXPECT_EQ(isBlack(cell.rect), FormLayout::isDigitOf(cell, jersey));
+    }
+  }
+}
+
+class ScriptedPrinters : public Printers {
+ public:
+  QString file; // the printer prints into it; empty: the user cancels
+  int from = 0;
+  int to = 0;
+  int asked = 0;
+  std::unique_ptr<QPrinter> choose(QWidget*, const QPageLayout&, int pages) override {
+    asked = pages;
+    if (file.isEmpty())
+      return nullptr;
+    auto printer = std::make_unique<QPrinter>();
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(file);
+    if (from > 0)
+      printer->setFromTo(from, to);
+    return printer;
+  }
+};
+
+class PreviewTest : public ReportPagesTest {
+ protected:
+  void SetUp() override {
+    window = std::make_unique<frmprint>(texts, dialogs, printers, files, toQt(folder.path()));
+    window->resize(1000, 700);
+    window->offer({{[this] { return std::string(texts.text(kScorecard)); }, [this] { return scorecard(game); }},
+                   {[] { return std::string("events"); },
+                    [this] { return playByPlayReport(shorter, tallied(shorter), texts); }},
+                   {[] { return std::string("forms"); }, [this] { return blankForms(texts); }}});
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+  }
+  template <class Widget>
+  Widget& find(const char* name) {
+    auto* found = window->findChild<Widget*>(QLatin1String(name));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  int pages() { return find<QSpinBox>("txtPAGE").maximum(); }
+  void waitForPages() {
+    int before = 0;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return std::exchange(before, pages()) == pages() && pages() > 1; }, 20000));
+  }
+
+  const Game game = crowdedGame();
+  const Game shorter = crowdedGame(1);
+  ScriptedDialogs dialogs;
+  ScriptedPrinters printers;
+  std::unique_ptr<frmprint> window;
+};
+
+TEST_F(PreviewTest, ShowsPagesAndGoesThroughThem) {
+  waitForPages();
+  find<QToolButton>("cmdLAST").click();
+  EXPECT_EQ(find<QSpinBox>("txtPAGE").value(), pages());
+  find<QToolButton>("cmdFIRST").click();
+  EXPECT_EQ(find<QSpinBox>("txtPAGE").value(), 1);
+  find<QSpinBox>("txtPAGE").setValue(2);
+  find<QToolButton>("cmdNEXT").click();
+  EXPECT_EQ(find<QSpinBox>("txtPAGE").value(), 3);
+  find<QToolButton>("cmdFACING").setChecked(true);
+  find<QComboBox>("cmbZOOM").setCurrentIndex(4);
+  emit find<QComboBox>("cmbZOOM").activated(4);
+  EXPECT_EQ(find<QComboBox>("cmbZOOM").currentText(), QStringLiteral("100%"));
+  const QByteArray arrangement = window->arrangement();
+  frmprint other(texts, dialogs, printers, files, {});
+  other.restoreArrangement(arrangement);
+  EXPECT_EQ(other.arrangement(), arrangement);
+  other.restoreArrangement("nonsense");
+  EXPECT_EQ(other.arrangement(), arrangement);
+}
+
+TEST_F(PreviewTest, TheTitleIsTheUsersAndTheRestFollowsTheLanguage) {
+  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(kScorecard)));
+  texts.setLanguage(Language::French);
+  window->relabelWindow();
+  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(kScorecard)));
+  find<QLineEdit>("txtTITLE").setFocus();
+  find<QLineEdit>("txtTITLE").selectAll();
+  QTest::keyClicks(&find<QLineEdit>("txtTITLE"), QStringLiteral("Final of the cup"));
+  texts.setLanguage(Language::English);
+  window->relabelWindow();
+  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), QStringLiteral("Final of the cup"));
+  dialogs.nextFileToSave = toQt(folder.path("x.html"));
+  find<QAction>("mnuHTML").trigger();
+  EXPECT_NE(folder.read("x.html").find("<h1>Final of the cup</h1>"), std::string::npos);
+  find<QComboBox>("cmbREPORT").setCurrentIndex(1);
+  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(kPlayByPlay))) << "another report, another title";
+}
+
+TEST_F(PreviewTest, SavesEveryFormAndAsksBeforeItReplaces) {
+  QSignalSpy reported(window.get(), &frmprint::reported);
+  for (const char* ending : {"XLSX", "CSV", "HTML", "PNG"}) {
+    dialogs.nextFileToSave = toQt(folder.path(std::string("box.") + ending));
+    find<QAction>((std::string("mnu") + ending).c_str()).trigger();
+    EXPECT_TRUE(folder.holds(std::string("box.") + ending)) << ending;
+  }
+  EXPECT_EQ(reported.size(), 4);
+  (void)folder.write("box.pdf", "mine");
+  dialogs.nextFileToSave = toQt(folder.path("box.pdf"));
+  find<QPushButton>("cmdPDF").click();
+  EXPECT_EQ(folder.read("box.pdf"), "mine") << "asked, and answered with No";
+  EXPECT_EQ(dialogs.shown.back().kind, ScriptedDialogs::Kind::Ask);
+  dialogs.nextAnswer = true;
+  find<QPushButton>("cmdPDF").click();
+  EXPECT_EQ(folder.read("box.pdf").substr(0, 5), "%PDF-");
+
+  dialogs.nextFileToSave = toQt(folder.path("missing/box.pdf"));
+  find<QPushButton>("cmdPDF").click();
+  EXPECT_EQ(dialogs.shown.back().kind, ScriptedDialogs::Kind::Complain);
+  find<QComboBox>("cmbREPORT").setCurrentIndex(2);
+  EXPECT_FALSE(find<QAction>("mnuCSV").isEnabled()) << "a form has no table";
+  EXPECT_TRUE(find<QPushButton>("cmdPDF").isEnabled());
+}
+
+TEST_F(PreviewTest, PrintsTheChosenPagesAndTellsWhenThePrinterRefuses) {
+  find<QPushButton>("cmdPRINT").click();
+  EXPECT_GT(printers.asked, 1) << "all pages are counted before the printer is chosen";
+  EXPECT_TRUE(dialogs.shown.empty()) << "cancelled";
+  printers.file = toQt(folder.path("printed.pdf"));
+  printers.from = 2;
+  printers.to = 3;
+  find<QPushButton>("cmdPRINT").click();
+  EXPECT_TRUE(dialogs.shown.empty());
+  const std::string pdf = folder.read("printed.pdf");
+  const std::regex page("/Type\\s*/Page[^s]");
+  EXPECT_EQ(std::distance(std::sregex_iterator(pdf.begin(), pdf.end(), page), {}), 2);
+  printers.file = toQt(folder.path("missing/printed.pdf"));
+  find<QPushButton>("cmdPRINT").click();
+  ASSERT_EQ(dialogs.shown.size(), 1U);
+  EXPECT_EQ(dialogs.shown[0].title, toQt(texts.text(1402)));
+}
+
+} // namespace
+} // namespace hooptab
