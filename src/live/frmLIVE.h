@@ -41,6 +41,8 @@ class frmLIVE : public ChildWindow {
   [[nodiscard]] Opening open(const QString& path);
   GameFileProblem problem() const { return m_problem; } // after Problem
   QString path() const;
+  const Game& game() const { return m_game.game(); } // as recorded so far
+  const GameState& state() const { return m_game.state(); }
   bool isRunning() const { return m_game.phase() == LiveGame::Phase::Running; }
 
   void setKeypad(const KeypadSetup& setup);

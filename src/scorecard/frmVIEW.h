@@ -41,6 +41,9 @@ class frmVIEW : public ChildWindow {
   // Reads and shows a game; on a problem what was shown stays.
   [[nodiscard]] GameFileProblem open(const QString& path);
   QString path() const;
+  // What is shown, for a report of it; only after open().
+  const Scorecard& card() const { return *m_card; }
+  const ScorecardView& choice() const { return m_view; }
   // Reads the game anew. While that fails, what was read last stays and a notice says so.
   void refresh();
   // A timed mode begins a new period whenever it is set.

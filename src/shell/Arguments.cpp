@@ -1,6 +1,9 @@
 #include "shell/Arguments.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <string_view>
+#include <utility>
 
 namespace hooptab {
 
@@ -10,46 +13,119 @@ std::string absolutePath(const std::string& path, const std::string& currentFold
   return (std::filesystem::path(currentFolder) / path).lexically_normal().string();
 }
 
+// What belongs to a report and takes a value.
+constexpr std::string_view kReportOptions[] = {"--report", "--format", "--output", "--team", "--title", "--lang", "--paper"};
+
+class Parser {
+ public:
+  Parser(const std::vector<std::string>& words, const std::string& currentFolder)
+      : m_word(words.begin()), m_end(words.end()), m_currentFolder(currentFolder) {}
+
+  Arguments parse() {
+    bool onlyGamesFollow = false;
+    for (; m_word != m_end && m_result.error.empty(); ++m_word) {
+      if (onlyGamesFollow || !m_word->starts_with('-') || *m_word == "-") {
+        if (!m_word->empty())
+          m_result.games.push_back(absolutePath(*m_word, m_currentFolder));
+      } else if (*m_word == "--") {
+        onlyGamesFollow = true;
+      } else if (!takeFlag(*m_word)) {
+        takeValue();
+      }
+    }
+    return std::move(m_result);
+  }
+
+ private:
+  bool takeFlag(const std::string& word) {
+    if (word == "--light")
+      m_result.colourScheme = ColourScheme::Light;
+    else if (word == "--dark")
+      m_result.colourScheme = ColourScheme::Dark;
+    else if (word == "--help" || word == "-h")
+      m_result.asksForHelp = true;
+    else if (word == "--version")
+      m_result.asksForVersion = true;
+    else if (word == "--leave-when-ready")
+      m_result.leavesWhenReady = true;
+    else if (word == "--rehearsal")
+      m_result.isRehearsal = true;
+    else
+      return false;
+    return true;
+  }
+  // "--folder DIR" or "--folder=DIR".
+  void takeValue() {
+    const std::size_t equal = m_word->starts_with("--") ? m_word->find('=') : std::string::npos;
+    std::string option = m_word->substr(0, equal);
+    if (option == "-o")
+      option = "--output";
+    const bool isOfReport = std::ranges::find(kReportOptions, option) != std::end(kReportOptions);
+    if (option != "--folder" && !isOfReport) {
+      m_result.error = "unknown option " + *m_word;
+      return;
+    }
+    std::string value;
+    if (equal != std::string::npos)
+      value = m_word->substr(equal + 1);
+    else if (std::next(m_word) != m_end)
+      value = *++m_word;
+    if (value.empty())
+      m_result.error = option == "--folder" ? "--folder needs the name of a folder" : option + " needs a value";
+    else if (isOfReport)
+      takeOfReport(option, value);
+    else
+      m_result.folder = absolutePath(value, m_currentFolder);
+  }
+  void takeOfReport(const std::string& option, const std::string& value) {
+    if (!m_result.report)
+      m_result.report.emplace();
+    ReportRequest& report = *m_result.report;
+    if (option == "--report")
+      report.kind = value;
+    else if (option == "--format")
+      report.format = value;
+    else if (option == "--output")
+      report.output = absolutePath(value, m_currentFolder);
+    else if (option == "--team")
+      report.team = value;
+    else if (option == "--title")
+      report.title = value;
+    else if (option == "--lang" && (value == "en" || value == "fr"))
+      report.language = value == "fr" ? Language::French : Language::English;
+    else if (option == "--paper" && (value == "a4" || value == "letter"))
+      report.isLetter = value == "letter";
+    else
+      m_result.error = option + " cannot be " + value;
+  }
+
+  std::vector<std::string>::const_iterator m_word;
+  const std::vector<std::string>::const_iterator m_end;
+  const std::string& m_currentFolder;
+  Arguments m_result;
+};
+
+// Options of a report without the report, or a report without a place, are a mistake.
+void completeReport(Arguments& arguments) {
+  ReportRequest& report = *arguments.report;
+  if (report.kind.empty())
+    arguments.error = "--report is missing";
+  else if (report.output.empty())
+    arguments.error = "--report needs -o FILE";
+  else if (arguments.games.size() > 1)
+    arguments.error = "--report takes one game";
+  else if (!arguments.games.empty())
+    report.source = arguments.games.front();
+  if (report.format.empty())
+    report.format = std::filesystem::path(report.output).extension().string().erase(0, 1);
+}
+
 } // namespace
 
 Arguments parseArguments(const std::vector<std::string>& words, const std::string& currentFolder) {
-  constexpr std::string_view kFolderWithValue = "--folder=";
-  Arguments result;
-  bool onlyGamesFollow = false;
-  for (auto word = words.begin(); word != words.end(); ++word) {
-    if (onlyGamesFollow || !word->starts_with('-') || *word == "-") {
-      if (!word->empty())
-        result.games.push_back(absolutePath(*word, currentFolder));
-    } else if (*word == "--") {
-      onlyGamesFollow = true;
-    } else if (*word == "--light") {
-      result.colourScheme = ColourScheme::Light;
-    } else if (*word == "--dark") {
-      result.colourScheme = ColourScheme::Dark;
-    } else if (*word == "--help" || *word == "-h") {
-      result.asksForHelp = true;
-    } else if (*word == "--version") {
-      result.asksForVersion = true;
-    } else if (*word == "--leave-when-ready") {
-      result.leavesWhenReady = true;
-    } else if (*word == "--rehearsal") {
-      result.isRehearsal = true;
-    } else if (*word == "--folder" || word->starts_with(kFolderWithValue)) {
-      std::string folder;
-      if (word->starts_with(kFolderWithValue))
-        folder = word->substr(kFolderWithValue.size());
-      else if (std::next(word) != words.end())
-        folder = *++word;
-      if (folder.empty()) {
-        result.error = "--folder needs the name of a folder";
-        return result;
-      }
-      result.folder = absolutePath(folder, currentFolder);
-    } else {
-      result.error = "unknown option " + *word;
-      return result;
-    }
-  }
+  Arguments result = Parser(words, currentFolder).parse();
+  if (result.error.empty() && result.report)
+    completeReport(result);
   return result;
 }
 
@@ -64,7 +140,17 @@ std::string usage() {
          "                 print \"ready\" as soon as the window stands, and leave; checks an installation\n"
          "  --rehearsal    take the game clock's time from standard input, for tests; CONTRIBUTING.md tells how\n"
          "  --help         print this text\n"
-         "  --version      print the version\n";
+         "  --version      print the version\n"
+         "\n"
+         "Without a window: hooptab --report KIND [--format F] -o FILE [GAME.GAM]\n"
+         "  --report KIND  scorecard or play-by-play of a game; roster or forms of a team; blank-forms\n"
+         "  --format F     pdf, xlsx, csv, html or png; without it, the ending of FILE decides\n"
+         "  -o FILE        the file to write; it is replaced as a whole\n"
+         "  --team T       the team, ABBREVIATION-LEVEL\n"
+         "  --title TEXT   in place of the report's own title\n"
+         "  --lang en|fr   the language; without it, that of the settings\n"
+         "  --paper a4|letter\n"
+         "                 the paper, A4 without it\n";
 }
 
 } // namespace hooptab

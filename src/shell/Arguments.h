@@ -2,12 +2,25 @@
 #pragma once
 
 #include "appearance/ColourScheme.h"
+#include "storage/Texts.h"
 
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace hooptab {
+
+// A report to be written without a window.
+struct ReportRequest {
+  std::string kind;   // "scorecard", "play-by-play", "roster", "forms", "blank-forms"
+  std::string format; // "pdf", "xlsx", "csv", "html", "png"; where none is given, the ending of the output
+  std::string output; // absolute
+  std::string source; // absolute; the game, empty for a team's report
+  std::string team;   // "ABBREVIATION-LEVEL"
+  std::string title;  // in place of the report's own, where not empty
+  std::optional<Language> language;
+  bool isLetter = false;
+};
 
 struct Arguments {
   std::optional<std::string> folder; // absolute
@@ -16,6 +29,7 @@ struct Arguments {
   bool asksForVersion = false;
   bool leavesWhenReady = false;
   bool isRehearsal = false;
+  std::optional<ReportRequest> report;
   std::vector<std::string> games; // absolute
   std::string error;              // one line; empty when the command line is understood
 };

@@ -23,7 +23,7 @@ constexpr Command kCommands[] = {
       {"VwREFSEC60", "VwREFRESH", 1053, "vwrefsec60", Scorecard, Choice, "", false, kBuilt},
     {"VwLIGNE", "", 1032, "vwligne", Scorecard, Swap, "Ctrl+L", false, kBuilt, 1033, "vwplayer"},
     {"VwMA", "", 1034, "vwma", Scorecard, Swap, "Ctrl+M", false, kBuilt, 1035, "vwmafull"},
-    {"vwPRINT", "", 1036, "vwprint", Scorecard, Action, "Ctrl+P"},
+    {"vwPRINT", "", 1036, "vwprint", Scorecard, Action, "Ctrl+P", false, kBuilt},
     {"VwCLOSE", "", 1335, "vwclose", Scorecard, Action, "Ctrl+W", false, kBuilt},
 
     {"STATS", "", 1045, "stats", Always, Action, "Ctrl+T", kSeparator, kBuilt},
@@ -48,7 +48,7 @@ constexpr Command kCommands[] = {
     {"LIVEMouse", "", 1042, "livemouse", Live, Toggle, "F8", false, kBuilt},
     {"SWITCH", "", 1043, "switch", Live, Action, "F9", false, kBuilt},
     {"GAMEOVER", "", 1044, "gameover", Live, Action, "Ctrl+G", false, kBuilt},
-    {"livePRINT", "", 1224, "liveprint", Live},
+    {"livePRINT", "", 1224, "liveprint", Live, Action, "", false, kBuilt},
     {"saveMANUAL", "", 1384, "savemanual", Manual, Action, "Ctrl+S", false, kBuilt},
     {"CLOSELIVEMANUAL", "", 1294, "closelivemanual", LiveOrManual, Action, "Ctrl+Shift+W", false, kBuilt},
 
@@ -57,8 +57,8 @@ constexpr Command kCommands[] = {
       {"tbTERRAIN", "SETTINGS", 1146, "tbterrain", Always, Action, "", kSeparator, kBuilt},
       {"tbKEYPAD", "SETTINGS", 1054, "tbkeypad", Always, Action, "", false, kBuilt},
       {"FORMS", "SETTINGS", 1409, "forms", Always, Menu, "", kSeparator},
-        {"blankPRINT", "FORMS", 1399, "blankprint", Always},
-        {"viergePRINT", "FORMS", 1400, "viergeprint", Always},
+        {"blankPRINT", "FORMS", 1399, "blankprint", Always, Action, "", false, kBuilt},
+        {"viergePRINT", "FORMS", 1400, "viergeprint", Always, Action, "", false, kBuilt},
       {"tbLANGUE", "SETTINGS", 1074, "tblangue", Always, Action, "F12", kSeparator, kBuilt},
 
     {"HELP", "", 1380, "help", Always, Menu, "", kSeparator},

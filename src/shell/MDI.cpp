@@ -9,12 +9,14 @@
 #include "live/frmConfiguration.h"
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
+#include "printing/frmprint.h"
 #include "scorecard/frmVIEW.h"
 #include "season/frmSTATS.h"
 #include "setup/frmNEWGAME.h"
 #include "shell/CommandBar.h"
 #include "shell/GameMenu.h"
 #include "shell/MainMenu.h"
+#include "shell/PrintOffers.h"
 #include "shell/Refusals.h"
 #include "shell/SharedFiles.h"
 #include "shell/WelcomePage.h"
@@ -48,6 +50,7 @@ using namespace std::chrono_literals;
 constexpr int kStatusMargin = 8;
 constexpr int kErrorTitle = 1060;
 constexpr int kWarningTitle = 1139;
+constexpr int kNoTeam = 1174;
 constexpr int kNotSaved = 1521;
 constexpr int kOldSettingsKept = 1522;
 constexpr int kRecentGames = 1530;
@@ -160,6 +163,9 @@ void MDI::carryOut(const QString& key) {
       return window->switchSides();
     if (key == u"GAMEOVER")
       return window->gameOver();
+    if (key == u"livePRINT")
+      return preview(gameReports(window->game(), window->state(), ScorecardView(m_workshop.texts),
+                                 m_workshop.settings, m_workshop.texts));
     if (key == u"CLOSELIVEMANUAL") {
       window->parentWidget()->close();
       return;
@@ -181,6 +187,10 @@ void MDI::carryOut(const QString& key) {
     window->parentWidget()->close();
     return;
   }
+  if (key == u"blankPRINT")
+    return preview(teamForms(m_teams, m_workshop.texts));
+  if (key == u"viergePRINT")
+    return preview(emptyForms(m_workshop.texts));
   if (key == u"tbTERRAIN")
     return openColours();
   if (key == u"tbKEYPAD")
@@ -205,6 +215,9 @@ void MDI::carryOut(const QString& key) {
     view->setByLine(!view->isByLine());
   else if (key == u"VwMA")
     view->setHidesMadeAttempted(!view->hidesMadeAttempted());
+  else if (key == u"vwPRINT")
+    preview(gameReports(view->card().game(), view->card().state(), view->choice(), m_workshop.settings,
+                        m_workshop.texts));
   else if (key == u"VwCLOSE")
     m_area->closeActiveSubWindow();
   for (const auto& [modeKey, mode] : kRefreshModes) {
@@ -360,7 +373,27 @@ void MDI::openTeams() {
     if (qobject_cast<frmEQUIPES*>(child) != nullptr)
       return bringToFront(*child);
   }
-  addChild(new frmEQUIPES(m_teams, m_workshop.texts, m_workshop.dialogs));
+  auto* window = new frmEQUIPES(m_teams, m_workshop.texts, m_workshop.dialogs);
+  connect(window, &frmEQUIPES::printAsked, this, [this](const TeamRecord& team, const std::vector<TeamPlayer>& players) {
+    preview(teamReports(team, players, m_workshop.texts));
+  });
+  addChild(window);
+}
+
+void MDI::preview(std::vector<ReportOffer> offers) {
+  if (offers.empty())
+    return m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(kWarningTitle)),
+                                   toQt(m_workshop.texts.text(kNoTeam)));
+  for (ChildWindow* child : children()) {
+    if (auto* open = qobject_cast<frmprint*>(child)) {
+      open->offer(std::move(offers));
+      return bringToFront(*open);
+    }
+  }
+  auto* window = new frmprint(m_workshop.texts, m_workshop.dialogs, m_workshop.printers, m_workshop.store.files(),
+                              toQt(m_workshop.settings.lastGameFolder));
+  window->offer(std::move(offers));
+  addChild(window);
 }
 
 void MDI::openSeason() {

@@ -27,6 +27,7 @@ class ChildWindow;
 class CommandBar;
 class Dialogs;
 class MainMenu;
+class Printers;
 class SharedFiles;
 class TimeSource;
 class WindowMemory;
@@ -34,6 +35,7 @@ class frmLIVE;
 class frmMANUAL;
 class frmSTATS;
 class frmVIEW;
+struct ReportOffer;
 
 // What the main window works with; made by main, which keeps it alive.
 struct Workshop {
@@ -44,6 +46,7 @@ struct Workshop {
   Dialogs& dialogs;
   const SharedFiles& files;
   TimeSource& time;
+  Printers& printers;
 };
 
 class MDI : public QMainWindow {
@@ -81,6 +84,7 @@ class MDI : public QMainWindow {
   void makeGame();
   void openTeams();
   void openSeason(); // one at a time
+  void preview(std::vector<ReportOffer> offers); // in the print preview that is open, or a new one
   void openColours();
   void openKeys();
   void switchKeypad();

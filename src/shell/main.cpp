@@ -4,11 +4,13 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/TimeSource.h"
+#include "printing/Printers.h"
 #include "shell/Arguments.h"
 #include "shell/InstanceLock.h"
 #include "shell/MDI.h"
 #include "shell/ProgramFolder.h"
 #include "shell/Rehearsal.h"
+#include "shell/ReportRun.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
 
@@ -40,6 +42,21 @@ std::optional<int> answer(const Arguments& arguments) {
   else
     return std::nullopt;
   return EXIT_SUCCESS;
+}
+
+// Fonts and painting need Qt, but no display.
+int report(int argc, char** argv, const Arguments& arguments) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication application(argc, argv);
+  const std::string executableFolder = fromQt(QCoreApplication::applicationDirPath());
+  const ProgramFolder folder =
+      findProgramFolder(ProgramFolderSources::ofEnvironment(arguments.folder, executableFolder));
+  if (folder.problem != ProgramFolderProblem::None) {
+    std::cerr << "hooptab: " << message(folder) << '\n';
+    return EXIT_FAILURE;
+  }
+  return makeReport(*arguments.report, folder.path);
 }
 
 int run(QApplication& application, const Arguments& arguments, QtDialogs& dialogs) {
@@ -80,7 +97,8 @@ int run(QApplication& application, const Arguments& arguments, QtDialogs& dialog
   if (arguments.isRehearsal)
     rehearsal.emplace(rehearsalTime, STDIN_FILENO, STDOUT_FILENO);
   TimeSource& time = arguments.isRehearsal ? static_cast<TimeSource&>(rehearsalTime) : machineTime;
-  MDI window({store, settings, texts, memory, dialogs, shared, time});
+  QtPrinters printers;
+  MDI window({store, settings, texts, memory, dialogs, shared, time, printers});
   window.show();
   // After the window is there: what is said now stands in front of it.
   QTimer::singleShot(0, &window, [&] {
@@ -106,6 +124,8 @@ int main(int argc, char** argv) {
       parseArguments({argv + 1, argv + argc}, std::filesystem::current_path(ignored).string());
   if (const std::optional<int> status = answer(arguments))
     return *status;
+  if (arguments.report)
+    return report(argc, argv, arguments);
 
   // Finding the fonts takes as long as reaching the display: both at once make the start a good deal shorter.
   std::thread fonts([] { FcInit(); });

@@ -43,6 +43,7 @@ constexpr int kRepeatedNumber = 1821;
 constexpr int kReadOnly = 1822;
 constexpr int kTeamTooLong = 1823;
 constexpr int kPlayerCount = 1824;
+constexpr int kPrintTip = 2253;
 
 constexpr int kMargin = 8;
 constexpr int kListWidth = 270;
@@ -187,6 +188,7 @@ QWidget* frmEQUIPES::makePlayers() {
   head->addWidget(iconButton("cmdIMPORT", 1825, 1826, "import", this));
   head->addWidget(iconButton("cmdPASTE", 1827, 1828, "copy", this));
   head->addWidget(iconButton("cmdEXPORT", 1829, 1830, "export", this));
+  head->addWidget(iconButton("cmdPRINT", 1311, kPrintTip, "vwprint", this));
   auto* layout = new QVBoxLayout(group);
   layout->addLayout(head);
   layout->addWidget(m_table, 1);
@@ -206,6 +208,11 @@ void frmEQUIPES::connectEverything() {
   onClick("cmdIMPORT", [this] { takePlayers(&frmEQUIPES::importPlayers); });
   onClick("cmdPASTE", [this] { takePlayers(&frmEQUIPES::pastePlayers); });
   onClick("cmdEXPORT", &frmEQUIPES::exportPlayers);
+  onClick("cmdPRINT", [this] {
+    if (team() == nullptr)
+      return m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), toQt(m_texts.text(kSelectTeamFirst)));
+    emit printAsked(teamFields(), m_sheet.players());
+  });
   connect(m_player, &PlayerEditor::addAsked, this, &frmEQUIPES::addPlayer);
   connect(m_player, &PlayerEditor::deleteAsked, this, &frmEQUIPES::deletePlayer);
   connect(m_player, &PlayerEditor::clearAsked, this, &frmEQUIPES::clearPlayer);

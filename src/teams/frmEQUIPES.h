@@ -33,6 +33,10 @@ class frmEQUIPES : public ChildWindow {
   QByteArray arrangement() const override;
   void restoreArrangement(const QByteArray& state) override;
 
+ signals:
+  // Roster and input forms of the team as it is shown, saved or not.
+  void printAsked(const TeamRecord& team, const std::vector<TeamPlayer>& players);
+
  protected:
   bool mayClose() override { return mayLeaveTeam(); }
 

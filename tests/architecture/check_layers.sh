@@ -11,7 +11,8 @@ floors=(
   "appearance"
   "teams"
   "setup live scorecard manual"
-  "season printing"
+  "season"
+  "printing"
   "shell"
 )
 floor_of() {

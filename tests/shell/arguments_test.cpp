@@ -36,6 +36,24 @@ TEST(Arguments, BehindTwoDashesEveryWordIsAGame) {
   EXPECT_EQ(games.games, (std::vector<std::string>{"/home/coach/games/--dark", "/home/coach/games/-x.GAM"}));
 }
 
+TEST(Arguments, AReportIsTakenWithItsOptions) {
+  const Arguments all = parse({"--report", "scorecard", "-o", "x/box.pdf", "--lang=fr", "--paper", "letter", "A.GAM"});
+  EXPECT_EQ(all.error, "");
+  ASSERT_TRUE(all.report);
+  EXPECT_EQ(all.report->kind, "scorecard");
+  EXPECT_EQ(all.report->format, "pdf") << "the ending of the file";
+  EXPECT_EQ(all.report->output, "/home/coach/games/x/box.pdf");
+  EXPECT_EQ(all.report->source, "/home/coach/games/A.GAM");
+  EXPECT_EQ(all.report->language, Language::French);
+  EXPECT_TRUE(all.report->isLetter);
+  EXPECT_EQ(parse({"--report=roster", "--team=LYNX-AAA", "-o", "a", "--format", "csv"}).report->format, "csv");
+  EXPECT_FALSE(parse({"A.GAM"}).report);
+  for (const std::vector<std::string>& wrong : std::vector<std::vector<std::string>>{
+           {"--report", "scorecard"}, {"-o", "x.pdf"}, {"--report"}, {"--report", "a", "-o", "b", "1.GAM", "2.GAM"},
+           {"--report", "a", "-o", "b", "--lang", "de"}, {"--report", "a", "-o", "b", "--paper=a5"}})
+    EXPECT_NE(parse(wrong).error, "") << wrong.size();
+}
+
 TEST(Arguments, WrongUseIsNamed) {
   for (const char* unknown : {"--drak", "-d", "--folders", "--dark=1"})
     EXPECT_EQ(parse({unknown}).error, std::string("unknown option ") + unknown);

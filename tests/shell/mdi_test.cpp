@@ -8,6 +8,8 @@
 #include "live/frmConfiguration.h"
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
+#include "printing/Printers.h"
+#include "printing/frmprint.h"
 #include "scorecard/frmVIEW.h"
 #include "season/frmSTATS.h"
 #include "setup/frmNEWGAME.h"
@@ -21,6 +23,7 @@
 
 #include <QAbstractItemView>
 #include <QAction>
+#include <QComboBox>
 #include <QApplication>
 #include <QDir>
 #include <QDragEnterEvent>
@@ -70,7 +73,7 @@ class MainWindowTest : public testing::Test {
     texts.setLanguage(settings->language);
     texts.showNumbers(settings->asksForTextNumbers());
     memory = std::make_unique<WindowMemory>(store, folder());
-    window = std::make_unique<MDI>(Workshop{store, *settings, texts, *memory, dialogs, shared, time});
+    window = std::make_unique<MDI>(Workshop{store, *settings, texts, *memory, dialogs, shared, time, printers});
     window->setWindowState(Qt::WindowNoState); // the display of these tests is smaller than the screen meant
     window->resize(1366, 768);
     window->show();
@@ -134,6 +137,7 @@ class MainWindowTest : public testing::Test {
   Texts texts;
   ScriptedDialogs dialogs;
   SystemTime time;
+  QtPrinters printers;
   SharedFiles shared{fromQt(installed.path())};
   Settings::Preparation preparation = Settings::Preparation::AlreadyThere;
   std::unique_ptr<Settings> settings;
@@ -148,6 +152,32 @@ void collect(const QList<QAction*>& actions, std::set<QString>& names) {
     if (action->menu() != nullptr)
       collect(action->menu()->actions(), names);
   }
+}
+
+// Each print command leads to the one preview, with what it was asked from.
+TEST_F(MainWindowTest, EveryPrintCommandLeadsToOnePreview) {
+  const auto title = [&] {
+    const QList<frmprint*> previews = area().findChildren<frmprint*>();
+    EXPECT_EQ(previews.size(), 1);
+    return previews.isEmpty() ? QString() : previews.first()->findChild<QLineEdit*>(QStringLiteral("txtTITLE"))->text();
+  };
+  window->openGame(makeGame("one.GAM"));
+  action("vwPRINT").trigger();
+  EXPECT_EQ(title(), text(2200));
+  action("viergePRINT").trigger();
+  EXPECT_EQ(title(), text(1400));
+  action("blankPRINT").trigger();
+  EXPECT_EQ(title(), text(1399));
+  EXPECT_EQ(area().findChild<frmprint*>()->findChild<QComboBox*>(QStringLiteral("cmbREPORT"))->count(), 6)
+      << "the six teams of the first start";
+  action("gEQUIPE").trigger();
+  auto* teams = area().findChild<frmEQUIPES*>();
+  auto* print = teams->findChild<QPushButton*>(QStringLiteral("cmdPRINT"));
+  print->click();
+  EXPECT_EQ(dialogs.shown.back().text, text(1174)) << "no team is chosen";
+  teams->findChild<QListWidget*>(QStringLiteral("lstequipes"))->setCurrentRow(0);
+  print->click();
+  EXPECT_EQ(title(), text(2204));
 }
 
 TEST_F(MainWindowTest, EveryCommandStandsInTheMenusAndIsDisabledUntilItsWindowExists) {
@@ -202,7 +232,7 @@ TEST_F(MainWindowTest, OpensAGameByKeyAndServesItsScorecard) {
   for (const char* key :
        {"VwREFRESH", "VwREFSEC00", "VwREFSEC10", "VwREFSEC30", "VwREFSEC60", "VwLIGNE", "VwMA", "VwCLOSE"})
     EXPECT_TRUE(action(key).isEnabled()) << key;
-  EXPECT_FALSE(action("vwPRINT").isEnabled()) << "nothing prints yet";
+  EXPECT_TRUE(action("vwPRINT").isEnabled());
   EXPECT_TRUE(action("VwREFSEC00").isChecked());
 
   click("VwLIGNE");

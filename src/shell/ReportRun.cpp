@@ -1,0 +1,113 @@
+#include "shell/ReportRun.h"
+
+#include "printing/GameReports.h"
+#include "printing/ReportFiles.h"
+#include "printing/TeamReports.h"
+#include "scorecard/Scorecard.h"
+#include "storage/Module1.h"
+
+#include <iostream>
+#include <optional>
+
+namespace hooptab {
+
+namespace {
+
+enum ExitStatus { kGood = 0, kFailed = 1, kWrongUse = 2 };
+
+int complain(ExitStatus status, const std::string& text) {
+  std::cerr << "hooptab: " << text << '\n';
+  return status;
+}
+
+std::string explained(GameFileProblem problem) {
+  switch (problem) {
+  case GameFileProblem::Absent: return "there is no such file";
+  case GameFileProblem::InvalidFormat: return "Invalid File Format (Not a Valid .GAM File)";
+  default: return "cannot be read";
+  }
+}
+
+class ReportRun {
+ public:
+  ReportRun(const ReportRequest& request, const std::string& folder)
+      : m_request(request), m_settings(m_store, folder) {
+    m_settings.read();
+    m_texts.setLanguage(request.language.value_or(m_settings.language));
+  }
+
+  int run() {
+    const std::optional<ReportForm> form = reportFormOf(m_request.format);
+    if (!form)
+      return complain(kWrongUse, "unknown format " + m_request.format + "; use pdf, xlsx, csv, html or png");
+    Report report;
+    if (const int status = make(report); status != kGood)
+      return status;
+    if (!m_request.title.empty())
+      report.title = m_request.title;
+    if (!canBe(report, *form))
+      return complain(kWrongUse, "a report of this kind cannot be written as " + m_request.format);
+    PageFormat format;
+    format.paper = m_request.isLetter ? Paper::Letter : Paper::A4;
+    const char* language = m_texts.language() == Language::French ? "fr" : "en";
+    const auto contents = filesOf(report, *form, format, language);
+    if (!contents)
+      return complain(kFailed, "the report could not be made; is there room for temporary files?");
+    const std::string failed = writeFiles(m_files, m_request.output, *contents);
+    return failed.empty() ? kGood : complain(kFailed, failed + ": cannot be written; nothing was changed there");
+  }
+
+ private:
+  int make(Report& report) {
+    const std::string& kind = m_request.kind;
+    if (kind == "scorecard" || kind == "play-by-play")
+      return makeOfGame(report);
+    if (kind == "blank-forms") {
+      report = blankForms(m_texts);
+      return kGood;
+    }
+    if (kind == "roster" || kind == "forms")
+      return makeOfTeam(report);
+    return complain(kWrongUse, "unknown report " + kind + "; see hooptab --help");
+  }
+  int makeOfGame(Report& report) {
+    if (m_request.source.empty())
+      return complain(kWrongUse, "--report " + m_request.kind + " needs a game");
+    Scorecard card(m_store, m_request.source);
+    if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None)
+      return complain(kFailed, m_request.source + ": " + explained(problem));
+    report = m_request.kind == "scorecard"
+                 ? scorecardReport(card.game(), card.state(), ScorecardView(m_texts), m_settings, m_texts)
+                 : playByPlayReport(card.game(), card.state(), m_texts);
+    return kGood;
+  }
+  int makeOfTeam(Report& report) {
+    TeamStore teams(m_store, m_settings);
+    for (const TeamEntry& entry : teams.list()) {
+      if (entry.abbreviation + '-' + std::string(Module1::trimmed(entry.category)) != m_request.team)
+        continue;
+      const TeamRecord team = teams.read(entry.key);
+      const std::vector<TeamPlayer> players = teams.players(entry.key);
+      report = m_request.kind == "roster" ? rosterReport(team, players, m_texts)
+                                          : preparedForms(team, players, m_texts);
+      return kGood;
+    }
+    return complain(kWrongUse, m_request.team.empty()
+                                   ? "--report " + m_request.kind + " needs --team ABBREVIATION-LEVEL"
+                                   : "there is no team " + m_request.team + " in " + m_settings.path());
+  }
+
+  const ReportRequest& m_request;
+  FileSystem m_files;
+  cinifile m_store{m_files};
+  Settings m_settings;
+  Texts m_texts;
+};
+
+} // namespace
+
+int makeReport(const ReportRequest& request, const std::string& programFolder) {
+  return ReportRun(request, programFolder).run();
+}
+
+} // namespace hooptab
