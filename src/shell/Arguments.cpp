@@ -14,7 +14,8 @@ std::string absolutePath(const std::string& path, const std::string& currentFold
 }
 
 // What belongs to a report and takes a value.
-constexpr std::string_view kReportOptions[] = {"--report", "--format", "--output", "--team", "--title", "--lang", "--paper"};
+constexpr std::string_view kReportOptions[] = {"--report", "--format", "--output", "--team", "--player",
+                                               "--line",   "--title",  "--lang",   "--paper"};
 
 class Parser {
  public:
@@ -89,6 +90,8 @@ class Parser {
       report.output = absolutePath(value, m_currentFolder);
     else if (option == "--team")
       report.team = value;
+    else if (option == "--player" || option == "--line")
+      report.player = value;
     else if (option == "--title")
       report.title = value;
     else if (option == "--lang" && (value == "en" || value == "fr"))
@@ -142,11 +145,15 @@ std::string usage() {
          "  --help         print this text\n"
          "  --version      print the version\n"
          "\n"
-         "Without a window: hooptab --report KIND [--format F] -o FILE [GAME.GAM]\n"
-         "  --report KIND  scorecard or play-by-play of a game; roster or forms of a team; blank-forms\n"
+         "Without a window: hooptab --report KIND [--format F] -o FILE [GAME.GAM|FOLDER]\n"
+         "  --report KIND  scorecard or play-by-play of a game; roster or forms of a team; blank-forms;\n"
+         "                 of a folder of games: team-summary, team-detail, player-shots, line-shots, player-other,\n"
+         "                 line-other, leaders, leaders-per-game, leaders-per-minute, player, line\n"
          "  --format F     pdf, xlsx, csv, html or png; without it, the ending of FILE decides\n"
          "  -o FILE        the file to write; it is replaced as a whole\n"
          "  --team T       the team, ABBREVIATION-LEVEL\n"
+         "  --player N, --line N-N-N-N-N\n"
+         "                 whose performance is reported, or who is highlighted\n"
          "  --title TEXT   in place of the report's own title\n"
          "  --lang en|fr   the language; without it, that of the settings\n"
          "  --paper a4|letter\n"

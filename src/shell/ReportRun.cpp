@@ -2,10 +2,12 @@
 
 #include "printing/GameReports.h"
 #include "printing/ReportFiles.h"
+#include "printing/SeasonReports.h"
 #include "printing/TeamReports.h"
 #include "scorecard/Scorecard.h"
 #include "storage/Module1.h"
 
+#include <algorithm>
 #include <iostream>
 #include <optional>
 
@@ -68,7 +70,36 @@ class ReportRun {
     }
     if (kind == "roster" || kind == "forms")
       return makeOfTeam(report);
+    for (const SeasonReportName& name : seasonReports()) {
+      if (name.word == kind)
+        return makeOfSeason(name.report, report);
+    }
     return complain(kWrongUse, "unknown report " + kind + "; see hooptab --help");
+  }
+  int makeOfSeason(SeasonReport which, Report& report) {
+    if (m_request.source.empty())
+      return complain(kWrongUse, "--report " + m_request.kind + " needs a folder of games");
+    GameCatalogue catalogue(m_files);
+    ScanWatch watch;
+    if (catalogue.scan({m_request.source}, watch) != ScanOutcome::Done)
+      return complain(kFailed, m_request.source + ": there is no such folder, or it cannot be read");
+    GameCriteria criteria;
+    criteria.team = m_request.team;
+    SeasonChoice choice;
+    choice.team = catalogue.teamOf(m_request.team);
+    if (!m_request.team.empty() && !choice.team)
+      return complain(kWrongUse, "there is no team " + m_request.team + " in the games of " + m_request.source);
+    const SeasonStatistics statistics(catalogue, catalogue.select(criteria), {m_request.team, std::nullopt});
+    const bool isOfLines = which == SeasonReport::LineShots || which == SeasonReport::LineOther || which == SeasonReport::Line;
+    const auto rows = isOfLines ? statistics.lines() : statistics.players();
+    const auto chosen = std::ranges::find(rows, m_request.player, isOfLines ? &SeasonRow::name : &SeasonRow::number);
+    if (chosen != rows.end())
+      choice.chosen = chosen->id;
+    else if (!m_request.player.empty() || which == SeasonReport::Player || which == SeasonReport::Line)
+      return complain(kWrongUse, m_request.player.empty() ? "--report " + m_request.kind + " needs --player or --line"
+                                                          : "nobody has the number " + m_request.player);
+    report = seasonReport(which, statistics, choice, m_texts);
+    return kGood;
   }
   int makeOfGame(Report& report) {
     if (m_request.source.empty())

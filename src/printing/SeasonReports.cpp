@@ -1,0 +1,375 @@
+#include "printing/SeasonReports.h"
+
+#include "printing/PrintTexts.h"
+#include "season/GameColumns.h"
+#include "season/Leaders.h"
+#include "season/Records.h"
+#include "season/SeasonColumns.h"
+#include "storage/Module1.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTeam = 1305;
+constexpr int kGames = 1181;
+constexpr int kTeamStatistics = 1363;
+constexpr int kPersonalRecords = 1405;
+constexpr int kLineRecords = 1412;
+constexpr int kPlayerPerformance = 1413;
+constexpr int kLinePerformance = 1414;
+constexpr int kResultsByGame = 1415;
+constexpr int kPlayerName = 1023;
+constexpr int kWinLossTie[] = {1195, 1196, 1197};
+constexpr int kShortTime = 2057;
+
+constexpr SeasonReportName kReports[] = {
+    {SeasonReport::TeamSummary, "StLISTGAMES", 1421, "team-summary"},
+    {SeasonReport::TeamDetail, "StLISTGAMESSOMM", 1422, "team-detail"},
+    {SeasonReport::PlayerShots, "stSTATJOUEURS", 1423, "player-shots"},
+    {SeasonReport::LineShots, "stSTATLIGNES", 1424, "line-shots"},
+    {SeasonReport::PlayerOther, "stSTATJOUEURSAUTRES", 1425, "player-other"},
+    {SeasonReport::LineOther, "stSTATLIGNESAUTRES", 1426, "line-other"},
+    {SeasonReport::LeadersTotal, "stMENEURSTOT", 1427, "leaders"},
+    {SeasonReport::LeadersPerGame, "stMENEURSMOY", 1428, "leaders-per-game"},
+    {SeasonReport::LeadersPerMinute, "stMENEURSMIN", 1429, "leaders-per-minute"},
+    {SeasonReport::Player, "stRAPJOUEUR", 1430, "player"},
+    {SeasonReport::Line, "stRAPLIGNE", 1431, "line"},
+};
+
+constexpr std::pair<std::string_view, int> kShotGroups[] = {
+    {"TG", kEveryShot}, {"F2", 1082}, {"F3", 1083}, {"FT", 1076}, {"LL", 1078},
+    {"LR", 1077},       {"PB", 1079}, {"DK", kDunk}};
+
+std::string text(const Texts& texts, int number) {
+  return std::string(texts.text(number));
+}
+
+// Of the counted columns, those of shots; the others are fouls, rating and what was counted beside shots.
+bool isOfShots(int column) {
+  const std::string_view name = seasonColumn(column).name;
+  return name.ends_with('M') || name.ends_with("PTS") || name.ends_with('%') ||
+         (name.size() == 3 && name.ends_with('A'));
+}
+
+// The group of a column of shots: its kind. The bare "%" and "PTS" are those of all shots.
+std::string groupOf(int column, const Texts& texts) {
+  if (column > kLastCountColumn || column < kFirstCountColumn || !isOfShots(column))
+    return {};
+  const std::string_view name = seasonColumn(column).name;
+  const std::string_view kind = name == "%" || name == "PTS" ? "TG" : name.substr(0, 2);
+  for (const auto& [prefix, title] : kShotGroups) {
+    if (prefix == kind)
+      return text(texts, title);
+  }
+  return std::string(kind);
+}
+
+// A cell that is shown as the season's table shows it, with the exact number behind it.
+ReportCell cellOf(const SeasonRow& row, int column, SeasonView view, const Texts& texts) {
+  ReportCell cell = textCell(seasonCell(row, column, view, texts));
+  if (column == kNumberColumn || seasonColumnIsText(column))
+    return cell;
+  cell.kind = ReportCell::Kind::Number;
+  cell.value = seasonSortValue(row, column, view);
+  const std::string_view name = seasonColumn(column).name;
+  if (column == kTimeColumn || name.ends_with('%')) {
+    const SeasonValue value = seasonValue(row, column, view);
+    cell.kind = column == kTimeColumn ? ReportCell::Kind::Time : ReportCell::Kind::Percent;
+    cell.value = value.denominator == 0
+                     ? 0
+                     : static_cast<double>(value.numerator) / static_cast<double>(value.denominator);
+  }
+  return cell;
+}
+
+class SeasonReportMaker {
+ public:
+  SeasonReportMaker(const SeasonStatistics& statistics, const SeasonChoice& choice, const Texts& texts)
+      : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_choice(choice), m_texts(texts) {}
+
+  Report make(SeasonReport which) {
+    const auto* name = std::ranges::find(kReports, which, &SeasonReportName::report);
+    m_report.title = text(m_texts, name->text);
+    m_report.subject = subject();
+    m_report.pageWords = text(m_texts, kPageOf);
+    switch (which) {
+    case SeasonReport::TeamSummary: addGames(); break;
+    case SeasonReport::TeamDetail:
+      addGames();
+      addTeams();
+      break;
+    case SeasonReport::PlayerShots: addRows(SeasonTable::Players, true); break;
+    case SeasonReport::LineShots: addRows(SeasonTable::Lines, true); break;
+    case SeasonReport::PlayerOther: addRows(SeasonTable::Players, false); break;
+    case SeasonReport::LineOther: addRows(SeasonTable::Lines, false); break;
+    case SeasonReport::LeadersTotal: addLeaders(SeasonView::Totals); break;
+    case SeasonReport::LeadersPerGame: addLeaders(SeasonView::PerGame); break;
+    case SeasonReport::LeadersPerMinute: addLeaders(SeasonView::PerMinute); break;
+    case SeasonReport::Player: addPerformance(SeasonTable::Players); break;
+    case SeasonReport::Line: addPerformance(SeasonTable::Lines); break;
+    }
+    m_report.fileName =
+        Module1::asFileName(m_report.subject.substr(0, m_report.subject.find(',')) + ' ' + m_report.title);
+    return std::move(m_report);
+  }
+
+ private:
+  // "LYNX-AAA, 34 Games, 2026-10-02 – 2027-03-14".
+  std::string subject() const {
+    std::string words = m_choice.team ? m_catalogue.teams()[*m_choice.team].key : text(m_texts, 1045);
+    words += ", " + text(m_texts, kGames) + ": " + std::to_string(m_statistics.games().size());
+    std::string first;
+    std::string last;
+    for (const std::size_t place : m_statistics.games()) {
+      const ListedGame& game = m_catalogue.games()[place];
+      if (!game.day)
+        continue;
+      first = first.empty() ? game.date : first;
+      last = game.date;
+    }
+    return first.empty() ? words : words + ", " + first + (first == last ? "" : " – " + last);
+  }
+
+  void addGames() {
+    ReportTable table;
+    table.title = text(m_texts, kGames);
+    for (const GameColumn& column : gameColumns()) {
+      if (column.widthTwips > 0)
+        table.columns.push_back({std::string(column.headerText > 0 ? m_texts.text(column.headerText) : column.header),
+                                 std::string(column.header) + std::to_string(column.index), {},
+                                 column.isLeftAligned || gameColumnIsText(column.index), column.index == 1});
+    }
+    for (const std::size_t place : m_statistics.games()) {
+      const ListedGame& game = m_catalogue.games()[place];
+      ReportRow& row = table.rows.emplace_back();
+      for (const GameColumn& column : gameColumns()) {
+        if (column.widthTwips == 0)
+          continue;
+        ReportCell cell = textCell(gameCell(m_catalogue, game, column.index, m_choice.team, m_texts));
+        if (!gameColumnIsText(column.index) && Module1::wholeNumber(cell.text) >= 0) {
+          cell.kind = ReportCell::Kind::Number;
+          cell.value = Module1::wholeNumber(cell.text);
+        }
+        row.cells.push_back(std::move(cell));
+      }
+    }
+    m_report.blocks.push_back(std::move(table));
+  }
+
+  // The columns of the season tables; `begin` are those that a table has before them.
+  ReportTable tableOf(std::vector<ReportColumn> begin, const std::vector<int>& columns) const {
+    ReportTable table;
+    table.columns = std::move(begin);
+    for (std::size_t i = 0; i < table.columns.size(); ++i)
+      table.groups.push_back({"", 1});
+    std::string open;
+    for (const int index : columns) {
+      const SeasonColumn& column = seasonColumn(index);
+      table.columns.push_back({seasonHeader(index, SeasonTable::Players, m_texts), std::string(column.name), {},
+                               seasonColumnIsText(index)});
+      const std::string group = groupOf(index, m_texts);
+      if (group != open || group.empty())
+        table.groups.push_back({group, 0});
+      ++table.groups.back().columns;
+      open = group;
+    }
+    return table;
+  }
+  static std::vector<int> columnsOf(bool ofShots) {
+    std::vector<int> columns = {kTimeColumn, kGamesColumn};
+    for (int column = kFirstCountColumn; column <= kLastCountColumn; ++column) {
+      if (isOfShots(column) == ofShots)
+        columns.push_back(column);
+    }
+    return columns;
+  }
+  ReportColumn repeated(const std::string& header, const char* name) const { return {header, name, {}, true, true}; }
+
+  void addTeams() {
+    std::vector<ReportColumn> begin = {repeated(text(m_texts, kTeam), "Team")};
+    for (std::size_t i = 0; i < 3; ++i)
+      begin.push_back({text(m_texts, kWinLossTie[i]), std::string(1, "WLT"[i])});
+    begin.push_back({"+", "PointsFor"});
+    begin.push_back({"-", "PointsAgainst"});
+    std::vector<int> columns = {kGamesColumn};
+    for (int column = kFirstCountColumn; column <= kLastCountColumn; ++column)
+      columns.push_back(column);
+    for (const SeasonView view : {SeasonView::Totals, SeasonView::PerGame}) {
+      ReportTable table = tableOf(begin, columns);
+      table.title = titleOf(text(m_texts, kTeamStatistics), view);
+      for (const SeasonTeamRow& team : m_statistics.teams()) {
+        SeasonRow sums; // a team's sums, as a row of the season tables
+        sums.games = team.games;
+        sums.numbers = team.numbers;
+        ReportRow& row = table.rows.emplace_back();
+        row.cells = {textCell(m_catalogue.teams()[team.team].key), numberCell(team.wins), numberCell(team.losses),
+                     numberCell(team.ties), numberCell(team.pointsFor), numberCell(team.pointsAgainst)};
+        for (const int column : columns)
+          row.cells.push_back(cellOf(sums, column, view, m_texts));
+      }
+      m_report.blocks.push_back(std::move(table));
+    }
+  }
+
+  std::string titleOf(const std::string& title, SeasonView view) const {
+    constexpr int kViews[] = {0, 1177, 1179};
+    const int number = kViews[static_cast<std::size_t>(view)];
+    return number == 0 ? title : title + " – " + text(m_texts, number);
+  }
+
+  void addRows(SeasonTable which, bool ofShots) {
+    const auto rows = which == SeasonTable::Players ? m_statistics.players() : m_statistics.lines();
+    for (const SeasonView view : kSeasonViews) {
+      ReportTable table = rowTable(which, ofShots);
+      table.title = titleOf(m_report.title, view);
+      for (const SeasonRow& row : rows)
+        table.rows.push_back(reportRow(row, ofShots, view));
+      m_report.blocks.push_back(std::move(table));
+    }
+    m_report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, text(m_texts, kShortTime)});
+  }
+  ReportTable rowTable(SeasonTable which, bool ofShots) const {
+    std::vector<ReportColumn> begin = {repeated("No", "No"),
+                                       repeated(seasonHeader(kNameColumn, which, m_texts), "Name")};
+    if (!m_choice.team)
+      begin.insert(begin.begin(), repeated(text(m_texts, kTeam), "Team"));
+    return tableOf(std::move(begin), columnsOf(ofShots));
+  }
+  ReportRow reportRow(const SeasonRow& row, bool ofShots, SeasonView view) const {
+    ReportRow line;
+    if (m_choice.chosen == row.id)
+      line.emphasis = ReportRow::Emphasis::Highlighted;
+    if (!m_choice.team)
+      line.cells.push_back(textCell(m_catalogue.teams()[row.team].key));
+    line.cells.push_back(textCell(row.number));
+    const bool isMarked = view == SeasonView::PerMinute && row.isShort();
+    line.cells.push_back(textCell(row.name + (isMarked ? " *" : "")));
+    for (const int column : columnsOf(ofShots))
+      line.cells.push_back(cellOf(row, column, view, m_texts));
+    return line;
+  }
+
+  // A small table for each statistic, side by side.
+  void addLeaders(SeasonView view) {
+    const Leaders leaders(m_statistics.players(), view, m_texts);
+    for (const StatisticLeaders& statistic : leaders.statistics()) {
+      if (statistic.leaders.empty())
+        continue;
+      ReportTable table;
+      const SeasonColumn& column = seasonColumn(statistic.column);
+      const std::string group = groupOf(statistic.column, m_texts);
+      const std::string header = seasonHeader(statistic.column, SeasonTable::Players, m_texts);
+      table.title = group.empty() ? header : group + " – " + header;
+      table.standsBeside = !m_report.blocks.empty();
+      table.columns = {{"#", "Rank"},
+                       repeated(text(m_texts, kPlayerName), "Name"),
+                       {text(m_texts, kTeam), "Team", {}, true},
+                       {header, std::string(column.name)}};
+      for (const Leader& leader : statistic.leaders) {
+        ReportRow& row = table.rows.emplace_back();
+        if (m_choice.chosen == leader.row->id)
+          row.emphasis = ReportRow::Emphasis::Highlighted;
+        row.cells = {numberCell(leader.rank), textCell(leader.row->number + ' ' + leader.row->name),
+                     textCell(m_catalogue.teams()[leader.row->team].key),
+                     cellOf(*leader.row, statistic.column, view, m_texts)};
+      }
+      m_report.blocks.push_back(std::move(table));
+    }
+  }
+
+  void addPerformance(SeasonTable which) {
+    const bool isPlayer = which == SeasonTable::Players;
+    m_report.title = text(m_texts, isPlayer ? kPlayerPerformance : kLinePerformance);
+    const auto rows = isPlayer ? m_statistics.players() : m_statistics.lines();
+    const auto row = std::ranges::find_if(rows, [&](const SeasonRow& each) { return m_choice.chosen == each.id; });
+    if (row == rows.end())
+      return;
+    m_report.subject = m_catalogue.teams()[row->team].key + ' ' + row->number + ' ' + row->name + ", " + subject();
+    const std::vector<GameResult> results =
+        isPlayer ? m_statistics.resultsOfPlayer(row->id) : m_statistics.resultsOfLine(row->id);
+    addSums(*row, isPlayer);
+    addRecords(results, isPlayer);
+    addResults(results);
+  }
+
+  void addSums(const SeasonRow& row, bool isPlayer) {
+    for (const bool ofShots : {true, false}) {
+      ReportTable table = tableOf({repeated("", "View")}, columnsOf(ofShots));
+      table.title = text(m_texts, isPlayer ? (ofShots ? 1423 : 1425) : (ofShots ? 1424 : 1426));
+      for (const SeasonView view : kSeasonViews) {
+        constexpr int kViews[] = {1070, 1177, 1179};
+        ReportRow& line = table.rows.emplace_back();
+        line.cells.push_back(textCell(text(m_texts, kViews[static_cast<std::size_t>(view)])));
+        for (const int column : columnsOf(ofShots))
+          line.cells.push_back(cellOf(row, column, view, m_texts));
+      }
+      m_report.blocks.push_back(std::move(table));
+    }
+  }
+
+  void addRecords(const std::vector<GameResult>& results, bool isPlayer) {
+    Records records;
+    for (const GameResult& result : results)
+      records.add(m_catalogue, result, m_texts);
+    ReportTable table;
+    table.title = text(m_texts, isPlayer ? kPersonalRecords : kLineRecords);
+    table.columns = {repeated(text(m_texts, kStatistic), "Statistic"), {"#", "Value"},
+                     {text(m_texts, 1304), "Where", {}, true}};
+    for (const Record& record : records.records()) {
+      const bool isTime = record.column == kTimeColumn;
+      ReportCell value = record.value == 0 ? textCell({})
+                         : isTime          ? ReportCell{record.text(), ReportCell::Kind::Time,
+                                               static_cast<double>(record.value)}
+                                           : ReportCell{record.text(), ReportCell::Kind::Number,
+                                                        static_cast<double>(record.value)};
+      table.rows.push_back({{textCell(std::string(record.what)), std::move(value), textCell(record.where)}});
+    }
+    m_report.blocks.push_back(std::move(table));
+  }
+
+  void addResults(const std::vector<GameResult>& results) {
+    std::vector<int> columns;
+    std::vector<ReportColumn> begin;
+    for (int column = 1; column <= kResultOpponentColumn; ++column)
+      begin.push_back(repeated(resultHeader(column, m_texts), ""));
+    constexpr const char* kNames[] = {"Date", "Where", "Result", "Opponent"};
+    for (std::size_t i = 0; i < begin.size(); ++i)
+      begin[i].name = kNames[i];
+    for (int column = kResultOpponentColumn + 1; column <= kResultColumnCount; ++column)
+      columns.push_back(seasonColumnOfResult(column));
+    ReportTable table = tableOf(std::move(begin), columns);
+    table.title = text(m_texts, kResultsByGame);
+    for (const GameResult& result : results) {
+      const SeasonRow row = rowOfResult(result);
+      ReportRow& line = table.rows.emplace_back();
+      for (int column = 1; column <= kResultOpponentColumn; ++column)
+        line.cells.push_back(textCell(resultCell(m_catalogue, result, column, m_texts)));
+      for (const int column : columns)
+        line.cells.push_back(cellOf(row, column, SeasonView::Totals, m_texts));
+    }
+    m_report.blocks.push_back(std::move(table));
+  }
+
+  const SeasonStatistics& m_statistics;
+  const GameCatalogue& m_catalogue;
+  const SeasonChoice& m_choice;
+  const Texts& m_texts;
+  Report m_report;
+};
+
+} // namespace
+
+std::span<const SeasonReportName> seasonReports() {
+  return kReports;
+}
+
+Report seasonReport(SeasonReport which, const SeasonStatistics& statistics, const SeasonChoice& choice,
+                    const Texts& texts) {
+  return SeasonReportMaker(statistics, choice, texts).make(which);
+}
+
+} // namespace hooptab

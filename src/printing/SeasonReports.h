@@ -1,0 +1,48 @@
+// The eleven reports of a season: games, tables of players and lines, leaders, and the performance of one player or line. All cells
+// are those of the season's own tables; nothing is summed here.
+#pragma once
+
+#include "printing/Report.h"
+#include "season/SeasonStatistics.h"
+#include "storage/Texts.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace hooptab {
+
+enum class SeasonReport : std::uint8_t {
+  TeamSummary,
+  TeamDetail,
+  PlayerShots,
+  LineShots,
+  PlayerOther,
+  LineOther,
+  LeadersTotal,
+  LeadersPerGame,
+  LeadersPerMinute,
+  Player,
+  Line,
+};
+
+// How a report is asked for.
+struct SeasonReportName {
+  SeasonReport report;
+  std::string_view command; // key of the menu entry: "StLISTGAMES"
+  int text;                 // of the menu entry
+  std::string_view word;    // on the command line: "team-summary"
+};
+[[nodiscard]] std::span<const SeasonReportName> seasonReports();
+
+struct SeasonChoice {
+  std::optional<SeasonId> team;   // whose results are shown
+  std::optional<SeasonId> chosen; // the player or line of a performance report; one that is highlighted in the others
+};
+
+// A performance report without a chosen row that played is one of nobody: it holds no tables.
+[[nodiscard]] Report seasonReport(SeasonReport which, const SeasonStatistics& statistics,
+                                  const SeasonChoice& choice, const Texts& texts);
+
+} // namespace hooptab

@@ -1,0 +1,121 @@
+#include "printing/SeasonReports.h"
+
+#include "printing/ReportText.h"
+#include "season/Leaders.h"
+#include "season/SeasonColumns.h"
+#include "season/SeasonFolder.h"
+#include "teams/DelimitedText.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <set>
+#include <tuple>
+
+namespace hooptab {
+namespace {
+
+class SeasonReportTest : public testing::Test {
+ protected:
+  SeasonReportTest() {
+    folder.addGame("a.GAM", "2026-10-02", "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40,50\n"
+                                          "3=08:00,GF3,0-5,100,90\n4=07:00,SPF,1-3\n5=00:00,ARRET,IN-,IN-\n");
+    folder.addGame("b.GAM", "2026-10-09", "1=10:00,ARRET,IN-04-05-10-12-00,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40,50\n"
+                                          "3=08:30,GFGA,0-4,40,50\n4=08:00,GFT,1-7\n5=04:00,ARRET,IN-,IN-\n");
+  }
+  static std::vector<const ReportTable*> tables(const Report& report) {
+    std::vector<const ReportTable*> found;
+    for (const ReportBlock& block : report.blocks) {
+      if (const auto* table = std::get_if<ReportTable>(&block))
+        found.push_back(table);
+    }
+    return found;
+  }
+  static const ReportCell& cell(const ReportTable& table, const ReportRow& row, std::string_view column) {
+    const auto found = std::ranges::find(table.columns, column, &ReportColumn::name);
+    EXPECT_NE(found, table.columns.end()) << column;
+    return row.cells.at(static_cast<std::size_t>(found - table.columns.begin()));
+  }
+
+  SeasonFolder folder;
+  Texts texts;
+};
+
+// Between the two reports of players every counted column stands once, each cell as the season's table shows it.
+TEST_F(SeasonReportTest, TheRowsOfPlayersAndLinesAreThoseOfTheSeason) {
+  const SeasonStatistics season = folder.statistics();
+  for (const auto& [shots, other, rows] : {std::tuple(SeasonReport::PlayerShots, SeasonReport::PlayerOther, season.players()),
+                                          std::tuple(SeasonReport::LineShots, SeasonReport::LineOther, season.lines())}) {
+    std::set<std::string> counted;
+    for (const SeasonReport which : {shots, other}) {
+      const Report report = seasonReport(which, season, {}, texts);
+      ASSERT_EQ(tables(report).size(), 3U);
+      for (const SeasonView view : kSeasonViews) {
+        const ReportTable& table = *tables(report)[static_cast<std::size_t>(view)];
+        ASSERT_EQ(table.rows.size(), rows.size());
+        for (const ReportColumn& column : table.columns) {
+          if (column.isRepeated)
+            continue;
+          const int index = seasonColumn(column.name).index;
+          if (index >= kFirstCountColumn && view == SeasonView::Totals) {
+            EXPECT_TRUE(counted.insert(column.name).second) << column.name;
+          }
+          for (std::size_t row = 0; row < rows.size(); ++row)
+            EXPECT_EQ(cell(table, table.rows[row], column.name).text, seasonCell(rows[row], index, view, texts));
+        }
+        for (const ReportRow& row : table.rows)
+          ASSERT_EQ(row.cells.size(), table.columns.size());
+      }
+    }
+    EXPECT_EQ(counted.size(), static_cast<std::size_t>(kLastCountColumn - kFirstCountColumn + 1));
+  }
+}
+
+TEST_F(SeasonReportTest, EveryReportHasItsRowsInBothLanguages) {
+  const SeasonStatistics season = folder.statistics();
+  SeasonChoice choice;
+  choice.team = folder.scan().teamOf("PAN-A");
+  for (const Language language : {Language::English, Language::French}) {
+    texts.setLanguage(language);
+    for (const SeasonReportName& name : seasonReports()) {
+      const bool isOfLine = name.report == SeasonReport::Line;
+      const bool isPerformance = isOfLine || name.report == SeasonReport::Player;
+      choice.chosen = isOfLine ? season.lines().front().id : season.players().front().id;
+      const Report report = seasonReport(name.report, season, choice, texts);
+      EXPECT_FALSE(tables(report).empty()) << name.word;
+      EXPECT_NE(report.subject.find("2026-10-02 – 2026-10-09"), std::string::npos) << report.subject;
+      for (const ReportTable* table : tables(report)) {
+        EXPECT_FALSE(table->rows.empty()) << table->title;
+        for (const ReportRow& row : table->rows)
+          ASSERT_EQ(row.cells.size(), table->columns.size()) << table->title;
+      }
+      EXPECT_TRUE(tables(seasonReport(name.report, season, {}, texts)).empty() == isPerformance)
+          << "a performance of nobody";
+      for (const ReportFile& file : reportCsv(report))
+        EXPECT_GE(parseDelimited(file.bytes).size(), 2U);
+    }
+  }
+}
+
+TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
+  const SeasonStatistics season = folder.statistics();
+  const SeasonRow* ann = rowOf(season.players(), "Ann Able");
+  ASSERT_NE(ann, nullptr);
+  const Report report = seasonReport(SeasonReport::Player, season, {std::nullopt, ann->id}, texts);
+  EXPECT_EQ(report.title, texts.text(1413));
+  const ReportTable& results = *tables(report).back();
+  ASSERT_EQ(results.rows.size(), 2U);
+  EXPECT_EQ(cell(results, results.rows[0], "Date").text, "2026-10-02");
+  EXPECT_EQ(cell(results, results.rows[1], "F2A").text, "2");
+  EXPECT_DOUBLE_EQ(cell(results, results.rows[1], "F2%").value, 0.5);
+  const Report leaders = seasonReport(SeasonReport::LeadersTotal, season, {std::nullopt, ann->id}, texts);
+  const auto all = tables(leaders);
+  const auto of = std::ranges::find(all, "PTS", [](const ReportTable* table) { return table->columns.back().name; });
+  ASSERT_NE(of, all.end());
+  const ReportTable& points = **of;
+  EXPECT_EQ(points.rows[0].cells[1].text, "4 Ann Able");
+  EXPECT_EQ(points.rows[0].emphasis, ReportRow::Emphasis::Highlighted);
+  EXPECT_EQ(points.rows[1].emphasis, ReportRow::Emphasis::None);
+}
+
+} // namespace
+} // namespace hooptab
