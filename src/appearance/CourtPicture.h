@@ -39,7 +39,8 @@ struct CourtZoneText {
 
 class CourtPicture {
  public:
-  // `pixel` is the size of a common screen's pixel where the painter's own units are others, as on a page that is scaled.
+  // `pixel` is the size of a common screen's pixel where the painter's own units are others, as on a page
+  // that is scaled.
   explicit CourtPicture(const CourtColours& colours, double pixel = 0) : m_colours(colours), m_pixel(pixel) {}
 
   // The largest rectangle of the court's shape in `area`, centred; and the transform from court units into

@@ -145,7 +145,10 @@ void FormLayout::addPlayer(int player) {
   const double digits = all.y + kDigitsTop;
   for (int place = 0; place < 3; ++place)
     m_labels.push_back({{left + 10 * kCellPitch, digits + place * kDigitRows, kLabelWidth - 1, kCell},
-                        FormLabel::Kind::Place, player, Counter::FGM, place});
+                        FormLabel::Kind::Place,
+                        player,
+                        Counter::FGM,
+                        place});
   for (int digit = 0; digit <= 9; ++digit) {
     const double x = left + digit * kCellPitch;
     m_labels.push_back({{x, digits - 4, kCell, 3.4}, FormLabel::Kind::Digit, player, Counter::FGM, digit});

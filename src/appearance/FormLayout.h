@@ -1,6 +1,6 @@
-// The paper input form, in millimetres: where its mark points, identifier and cells stand and what a ticked cell
-// means. The page that is printed and the reader of its scan both follow this one description. Draws nothing and
-// reads nothing.
+// The paper input form, in millimetres: where its mark points, identifier and cells stand and what a ticked
+// cell means. The page that is printed and the reader of its scan both follow this one description. Draws
+// nothing and reads nothing.
 #pragma once
 
 #include "storage/EventKind.h"
@@ -23,7 +23,8 @@ struct FormRect {
 
 // Which form a sheet is: printed as a row of black and white squares.
 struct FormIdentifier {
-  static constexpr int kBits = 30; // the first one black, the last one white: a sheet upside down never checks
+  static constexpr int kBits =
+      30; // the first one black, the last one white: a sheet upside down never checks
   static constexpr int kVersion = 1;
 
   int sheet = 0; // from 0
@@ -64,15 +65,15 @@ class FormLayout {
   static constexpr int kPlayers = 4; // on one sheet
   static constexpr int kSheets = 4;  // of a team of fifteen
   static constexpr int kCellsInRow = 14;
-  // All positions count from the upper left corner of this area, which stands in the middle of the page: it fits on
-  // A4 and on Letter paper.
+  // All positions count from the upper left corner of this area, which stands in the middle of the page: it
+  // fits on A4 and on Letter paper.
   static constexpr double kWidth = 192;
   static constexpr double kHeight = 258;
 
   FormLayout();
 
-  // Black squares in the corners: upper left, upper right, lower left, lower right. The first one is hollow: so a
-  // reader knows which side is up.
+  // Black squares in the corners: upper left, upper right, lower left, lower right. The first one is hollow:
+  // so a reader knows which side is up.
   static constexpr double kMark = 7;
   static constexpr double kMarkHole = 3;
   [[nodiscard]] const std::array<FormRect, 4>& marks() const { return m_marks; }

@@ -46,8 +46,9 @@ class FormPicture {
       y += (box.height() - line * static_cast<double>(lines.size())) / 2;
     for (const QString& each : lines) {
       const double spare = box.width() - m_fonts.width(font, each);
-      const double x =
-          box.left() + (alignment & Qt::AlignHCenter ? spare / 2 : alignment & Qt::AlignRight ? spare : 0);
+      const double x = box.left() + (alignment & Qt::AlignHCenter ? spare / 2
+                                     : alignment & Qt::AlignRight ? spare
+                                                                  : 0);
       m_painter.drawText(QPointF(x, y + m_fonts.ascent(font)), each);
       y += line;
     }
@@ -97,7 +98,8 @@ class FormPicture {
       return text(label.rect, PageFont::Cell, QString::number(label.number), Qt::AlignCenter);
     case FormLabel::Kind::Place: {
       constexpr const char* kPlaces[] = {"100", "10", "1"};
-      return text(label.rect, PageFont::Cell, QLatin1String(kPlaces[label.number]), Qt::AlignLeft | Qt::AlignVCenter);
+      return text(label.rect, PageFont::Cell, QLatin1String(kPlaces[label.number]),
+                  Qt::AlignLeft | Qt::AlignVCenter);
     }
     case FormLabel::Kind::Made:
       return text(label.rect, PageFont::BoldCell, toQt(m_sheet.made), Qt::AlignCenter);

@@ -63,7 +63,8 @@ ReportParagraph detailsOf(const Game& game, const Texts& texts) {
   add(kPlace, details.place);
   add(kGameType, choiceName(kFirstGameTypeText, details.type, texts));
   add(kStatistician, details.statistician);
-  return {ReportParagraph::Style::Body, words + ".  " + text(texts, details.isFinished ? kFinished : kInProgress)};
+  return {ReportParagraph::Style::Body,
+          words + ".  " + text(texts, details.isFinished ? kFinished : kInProgress)};
 }
 
 // Points or fouls of both teams, a column for each period.
@@ -138,9 +139,9 @@ ReportTable leaderTable(const Game& game, const GameState& state, const Settings
     const auto found = std::ranges::find(boxColumns(), name, &BoxColumn::name);
     ReportRow& line = table.rows.emplace_back();
     // The words of the rating are its formula.
-    line.cells.push_back(textCell(
-        name == "rating" ? text(texts, kRating)
-                         : columnWords(found->index, game.details.statisticLabel, settings, texts)));
+    line.cells.push_back(
+        textCell(name == "rating" ? text(texts, kRating)
+                                  : columnWords(found->index, game.details.statisticLabel, settings, texts)));
     for (const std::vector<BoxRow>& players : rows) {
       double best = 0;
       for (const BoxRow& row : players) {
@@ -240,7 +241,8 @@ void addShotCharts(Report& report, const Game& game, ScorecardView choice, const
     }
     const std::string title = game.details.abbreviation[team] + " – " + text(texts, kShotChart);
     const std::string caption = shotCaption(shots, texts) + chosenRows(choice, texts);
-    report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByShot), std::move(byShot), caption, team == 1});
+    report.blocks.push_back(
+        ReportPicture{title + ", " + text(texts, kByShot), std::move(byShot), caption, team == 1});
     report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByZone),
                                           ShotDrawing{{}, zoneWords(shotSums(shots))}, caption, true});
   }
@@ -287,8 +289,9 @@ Report playByPlayReport(const Game& game, const GameState& state, const Texts& t
     if (event.isDeleted)
       continue;
     ReportRow& row = table.rows.emplace_back();
-    const std::string score =
-        scores[i] == before ? std::string() : std::to_string(scores[i][0]) + '-' + std::to_string(scores[i][1]);
+    const std::string score = scores[i] == before
+                                  ? std::string()
+                                  : std::to_string(scores[i][0]) + '-' + std::to_string(scores[i][1]);
     row.cells = {textCell(words.periodText(event.period)), textCell(words.clock(i)), textCell(score),
                  textCell(words.words(i))};
     row.beginsSection = period != 0 && event.period != period;

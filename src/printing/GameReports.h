@@ -1,5 +1,5 @@
-// The reports of one game: scorecard and play-by-play. Every number is taken from the classes that the scorecard shows; nothing is
-// counted here.
+// The reports of one game: scorecard and play-by-play. Every number is taken from the classes that the
+// scorecard shows; nothing is counted here.
 #pragma once
 
 #include "printing/Report.h"
@@ -10,9 +10,9 @@
 
 namespace hooptab {
 
-// Both teams' box scores by player or by line, points and fouls by period, leads, leaders of the game, score diagram, shot charts
-// and notes. `choice` is what the scorecard shows: its view, its columns, and by its check marks the shots of the charts. The tables
-// hold all players whatever is checked.
+// Both teams' box scores by player or by line, points and fouls by period, leads, leaders of the game, score
+// diagram, shot charts and notes. `choice` is what the scorecard shows: its view, its columns, and by its
+// check marks the shots of the charts. The tables hold all players whatever is checked.
 [[nodiscard]] Report scorecardReport(const Game& game, const GameState& state, ScorecardView choice,
                                      const Settings& settings, const Texts& texts);
 

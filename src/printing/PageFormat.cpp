@@ -15,7 +15,8 @@ Paper usualPaper() {
 }
 
 QPageLayout pageLayout(Paper paper, QPageLayout::Orientation orientation) {
-  QPageLayout layout(QPageSize(paper == Paper::A4 ? QPageSize::A4 : QPageSize::Letter), orientation, QMarginsF());
+  QPageLayout layout(QPageSize(paper == Paper::A4 ? QPageSize::A4 : QPageSize::Letter), orientation,
+                     QMarginsF());
   layout.setMode(QPageLayout::FullPageMode);
   return layout;
 }

@@ -1,5 +1,5 @@
-// The paper of a report, and the unit in which its pages are laid out: a tenth of a point, so that fonts of whole units have every
-// size that is wanted and a page is the same on every device.
+// The paper of a report, and the unit in which its pages are laid out: a tenth of a point, so that fonts of
+// whole units have every size that is wanted and a page is the same on every device.
 #pragma once
 
 #include <QPageLayout>

@@ -135,8 +135,8 @@ void PageView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(viewport());
   painter.setRenderHint(QPainter::TextAntialiasing);
   painter.translate(-horizontalScrollBar()->value(), -verticalScrollBar()->value());
-  const QRectF seen = QRectF(viewport()->rect())
-                          .translated(horizontalScrollBar()->value(), verticalScrollBar()->value());
+  const QRectF seen =
+      QRectF(viewport()->rect()).translated(horizontalScrollBar()->value(), verticalScrollBar()->value());
   for (int i = 0; i < static_cast<int>(m_layout->pages().size()); ++i) {
     const QRectF rect = pageRect(i);
     if (!rect.intersects(seen))

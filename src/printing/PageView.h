@@ -1,5 +1,5 @@
-// The pages of a report on screen: zoomed or fitted, one below the other or side by side. Paints only what is in sight, so that a
-// long report scrolls as a short one does.
+// The pages of a report on screen: zoomed or fitted, one below the other or side by side. Paints only what is
+// in sight, so that a long report scrolls as a short one does.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -42,7 +42,7 @@ class PageView : public QAbstractScrollArea {
 
  private:
   [[nodiscard]] double pixelsPerUnit() const;
-  [[nodiscard]] QSizeF pageSize() const; // in pixels
+  [[nodiscard]] QSizeF pageSize() const;         // in pixels
   [[nodiscard]] QRectF pageRect(int page) const; // from 0; in the whole of all pages
   [[nodiscard]] int columns() const { return m_isFacing ? 2 : 1; }
   void arrange();

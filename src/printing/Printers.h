@@ -24,7 +24,8 @@ class QtPrinters : public Printers {
   std::unique_ptr<QPrinter> choose(QWidget* parent, const QPageLayout& layout, int pages) override;
 };
 
-// Prints the chosen pages of a report that is laid out. False when the printer refuses; then nothing more is sent to it.
+// Prints the chosen pages of a report that is laid out. False when the printer refuses; then nothing more is
+// sent to it.
 [[nodiscard]] bool printReport(QPrinter& printer, const ReportLayout& layout);
 
 } // namespace hooptab

@@ -1,5 +1,6 @@
-// A report as it is meant: a title and a sequence of paragraphs, tables, pictures and page breaks. The screen, the
-// printer, PDF files and the exports are all made from it. Knows no page, no font and no file format.
+// A report as it is meant: a title and a sequence of paragraphs, tables, pictures and page breaks. The
+// screen, the printer, PDF files and the exports are all made from it. Knows no page, no font and no file
+// format.
 #pragma once
 
 #include "appearance/CourtGeometry.h"
@@ -26,11 +27,11 @@ struct ReportCell {
 [[nodiscard]] ReportCell numberCell(int number);
 
 struct ReportColumn {
-  std::string header;         // short, as on screen
-  std::string name;           // unique in its table, for files
-  std::string words = {};     // what it holds, where the header is a code
+  std::string header;     // short, as on screen
+  std::string name;       // unique in its table, for files
+  std::string words = {}; // what it holds, where the header is a code
   bool isLeftAligned = false;
-  bool isRepeated = false;    // stands on every part of a table that is too wide for the page
+  bool isRepeated = false; // stands on every part of a table that is too wide for the page
 };
 
 // Columns that belong together, under a title of their own; they stay on one part of a wide table.

@@ -53,8 +53,8 @@ std::vector<ReportFile> reportCsv(const Report& report) {
     const auto* table = std::get_if<ReportTable>(&block);
     if (table == nullptr)
       continue;
-    const auto group =
-        std::ranges::find_if(groups, [&](const auto& tables) { return haveEqualColumns(*tables.front(), *table); });
+    const auto group = std::ranges::find_if(
+        groups, [&](const auto& tables) { return haveEqualColumns(*tables.front(), *table); });
     if (group == groups.end())
       groups.push_back({table});
     else
@@ -63,8 +63,8 @@ std::vector<ReportFile> reportCsv(const Report& report) {
   std::ranges::stable_partition(groups, [](const auto& tables) { return !tables.front()->isSummary; });
   std::vector<ReportFile> files;
   for (const auto& tables : groups)
-    files.push_back({files.empty() ? std::string() : Module1::asFileName(" " + tables.front()->title),
-                     bytesOf(tables)});
+    files.push_back(
+        {files.empty() ? std::string() : Module1::asFileName(" " + tables.front()->title), bytesOf(tables)});
   return files;
 }
 

@@ -26,7 +26,8 @@ std::vector<ReportFile> pictures(const Report& report) {
   std::vector<ReportFile> files;
   for (const ReportBlock& block : report.blocks) {
     if (const auto* picture = std::get_if<ReportPicture>(&block))
-      files.push_back({files.empty() ? std::string() : "-" + std::to_string(files.size() + 1), picturePng(*picture)});
+      files.push_back(
+          {files.empty() ? std::string() : "-" + std::to_string(files.size() + 1), picturePng(*picture)});
   }
   return files;
 }
@@ -53,8 +54,8 @@ bool canBe(const Report& report, ReportForm form) {
   return true;
 }
 
-std::optional<std::vector<ReportFile>> filesOf(const Report& report, ReportForm form, const PageFormat& format,
-                                               std::string_view language) {
+std::optional<std::vector<ReportFile>> filesOf(const Report& report, ReportForm form,
+                                               const PageFormat& format, std::string_view language) {
   const auto one = [](std::string bytes) { return std::vector<ReportFile>{{{}, std::move(bytes)}}; };
   switch (form) {
   case ReportForm::Pdf: return one(reportPdf(report, format));

@@ -15,15 +15,15 @@ namespace hooptab {
 
 enum class ReportForm { Pdf, Xlsx, Csv, Html, Png };
 
-[[nodiscard]] std::string_view endingOf(ReportForm form); // "pdf"
+[[nodiscard]] std::string_view endingOf(ReportForm form);                      // "pdf"
 [[nodiscard]] std::optional<ReportForm> reportFormOf(std::string_view ending); // small letters
 // Forms and pictures are for paper alone: they have no tables to export.
 [[nodiscard]] bool canBe(const Report& report, ReportForm form);
 
-// The files of an export: a PDF, a workbook and a web page are one, tables as text and pictures may be several. Nothing when it could
-// not be made, for want of room for temporary files.
-[[nodiscard]] std::optional<std::vector<ReportFile>> filesOf(const Report& report, ReportForm form,
-                                                             const PageFormat& format, std::string_view language);
+// The files of an export: a PDF, a workbook and a web page are one, tables as text and pictures may be
+// several. Nothing when it could not be made, for want of room for temporary files.
+[[nodiscard]] std::optional<std::vector<ReportFile>>
+filesOf(const Report& report, ReportForm form, const PageFormat& format, std::string_view language);
 // Where a file of the export stands: "/games/box.csv" with the suffix before the ending.
 [[nodiscard]] std::string pathOf(const std::string& path, const ReportFile& file);
 // The path of the first file that could not be written; those before it stand. Empty when all is well.
@@ -32,7 +32,8 @@ enum class ReportForm { Pdf, Xlsx, Csv, Html, Png };
 
 // Vector graphics with text that can be searched.
 [[nodiscard]] std::string reportPdf(const Report& report, const PageFormat& format);
-// A sheet for each table, its head frozen; numbers, percentages and times as such. Nothing when temporary files could not be written.
+// A sheet for each table, its head frozen; numbers, percentages and times as such. Nothing when temporary
+// files could not be written.
 [[nodiscard]] std::optional<std::string> reportXlsx(const Report& report);
 [[nodiscard]] std::string picturePng(const ReportPicture& picture);
 

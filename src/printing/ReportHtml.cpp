@@ -77,8 +77,8 @@ class Page {
   void operator()(const ReportPicture& picture) {
     m_html += "<figure>";
     element("h2", picture.title);
-    m_html += "<img alt=\"" + escaped(picture.title) + "\" src=\"data:image/png;base64," + base64(m_png(picture)) +
-              "\">";
+    m_html += "<img alt=\"" + escaped(picture.title) + "\" src=\"data:image/png;base64," +
+              base64(m_png(picture)) + "\">";
     if (!picture.caption.empty())
       element("figcaption", picture.caption);
     m_html += "</figure>\n";

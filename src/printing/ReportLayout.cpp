@@ -14,18 +14,18 @@ constexpr double kFootHeight = 130;
 constexpr double kGap = 130; // between blocks
 constexpr double kSideGap = 6 * kUnitsPerMillimetre;
 constexpr double kParagraphGap = 60;
-constexpr double kAcrossPage = 230 * kUnitsPerMillimetre; // wider pages have four shot charts side by side, others two
+constexpr double kAcrossPage =
+    230 * kUnitsPerMillimetre; // wider pages have four shot charts side by side, others two
 constexpr double kDiagramHeight = 58 * kUnitsPerMillimetre;
 constexpr std::size_t kFewestRows = 3; // of a table at the foot of a page
 
 double pictureHeight(const ReportPicture& picture, double width) {
   return std::holds_alternative<ShotDrawing>(picture.drawing) ? width * court::kLength / court::kWidth
-                                                               : kDiagramHeight;
+                                                              : kDiagramHeight;
 }
 
 QRectF bodyOf(QSizeF size) {
-  return QRectF(QPointF(), size)
-      .adjusted(kMargin, kMargin + kHeadHeight, -kMargin, -kMargin - kFootHeight);
+  return QRectF(QPointF(), size).adjusted(kMargin, kMargin + kHeadHeight, -kMargin, -kMargin - kFootHeight);
 }
 
 } // namespace
@@ -132,9 +132,8 @@ void ReportLayout::place(const ReportPicture& picture) {
   const int across = !isShotChart ? 1 : m_body.width() > kAcrossPage ? 4 : 2;
   const double width = (m_body.width() - (across - 1) * kSideGap) / across;
   const QStringList title = m_fonts.wrapped(PageFont::BoldCell, toQt(picture.title), width);
-  const QStringList caption = picture.caption.empty()
-                                  ? QStringList()
-                                  : m_fonts.wrapped(PageFont::Cell, toQt(picture.caption), width);
+  const QStringList caption =
+      picture.caption.empty() ? QStringList() : m_fonts.wrapped(PageFont::Cell, toQt(picture.caption), width);
   const double line = m_fonts.lineHeight(PageFont::Cell);
   const double drawing = pictureHeight(picture, width);
   const double height = drawing + static_cast<double>(title.size() + caption.size() + 1) * line;

@@ -1,5 +1,5 @@
-// Lays a report out in pages, step by step: the first page can be shown while the others are still to come. Decides paper turn,
-// page breaks and what stands beside what. Paints nothing.
+// Lays a report out in pages, step by step: the first page can be shown while the others are still to come.
+// Decides paper turn, page breaks and what stands beside what. Paints nothing.
 #pragma once
 
 #include "printing/PageFormat.h"

@@ -1,4 +1,5 @@
-// One page of a report, laid out: what stands where, in units of PageFormat. Whoever paints it decides nothing any more.
+// One page of a report, laid out: what stands where, in units of PageFormat. Whoever paints it decides
+// nothing any more.
 #pragma once
 
 #include "printing/Report.h"

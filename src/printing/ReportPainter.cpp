@@ -94,8 +94,8 @@ void paintLines(QPainter& painter, const LineDrawing& drawing, const QRectF& box
     painter.setPen(Qt::black);
     const QString name = toQt(tick.text);
     const double middle = (at(tick.at, 0).x() + at(drawing.ticks[i + 1].at, 0).x()) / 2;
-    painter.drawText(QPointF(middle - fonts.width(PageFont::Cell, name) / 2, plot.bottom() + ascent + text / 4),
-                     name);
+    painter.drawText(
+        QPointF(middle - fonts.width(PageFont::Cell, name) / 2, plot.bottom() + ascent + text / 4), name);
   }
 
   // The first line solid, the second one dashed: without any colour.
@@ -139,16 +139,16 @@ void paintHeadAndFoot(QPainter& painter, const ReportLayout& layout, std::size_t
   painter.setPen(Qt::black);
   const double headTop = body.top() - kHeadGap - line;
   const QString title = fonts.elided(PageFont::Cell, toQt(report.title), body.width() / 2 - line);
-  draw(PageFont::BoldCell, fonts.elided(PageFont::BoldCell, toQt(report.subject), body.width() / 2), body.left(),
-       headTop);
+  draw(PageFont::BoldCell, fonts.elided(PageFont::BoldCell, toQt(report.subject), body.width() / 2),
+       body.left(), headTop);
   drawAtRight(PageFont::Cell, title, headTop);
   const double footTop = body.bottom() + kFootGap;
   draw(PageFont::Cell, QStringLiteral("HOOPTAB Basketball"), body.left(), footTop);
   const std::string pages =
       layout.isDone() ? std::to_string(layout.pages().size()) : std::string("…"); // more are to come
   drawAtRight(PageFont::Cell,
-              toQt(Module1::withPlaceholder(Module1::withPlaceholder(report.pageWords, std::to_string(page + 1)),
-                                            pages, "YYY")),
+              toQt(Module1::withPlaceholder(
+                  Module1::withPlaceholder(report.pageWords, std::to_string(page + 1)), pages, "YYY")),
               footTop);
   painter.setPen(QPen(Qt::black, kThinLine));
   painter.drawLine(QPointF(body.left(), headTop + line + kHeadGap / 5),
@@ -157,7 +157,8 @@ void paintHeadAndFoot(QPainter& painter, const ReportLayout& layout, std::size_t
 
 } // namespace
 
-void paintDrawing(QPainter& painter, const ReportPicture& picture, const QRectF& box, const PageFonts& fonts) {
+void paintDrawing(QPainter& painter, const ReportPicture& picture, const QRectF& box,
+                  const PageFonts& fonts) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   if (const auto* shots = std::get_if<ShotDrawing>(&picture.drawing))

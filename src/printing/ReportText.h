@@ -1,5 +1,5 @@
-// Reports as files of text: tables for spreadsheets, and one web page. Works in memory; what is written where is ReportFiles' to
-// decide.
+// Reports as files of text: tables for spreadsheets, and one web page. Works in memory; what is written where
+// is ReportFiles' to decide.
 #pragma once
 
 #include "printing/Report.h"
@@ -11,15 +11,16 @@
 
 namespace hooptab {
 
-// One of the files that an export consists of. The first one stands under the name that the user chose, the others beside it, their
-// suffix before the ending.
+// One of the files that an export consists of. The first one stands under the name that the user chose, the
+// others beside it, their suffix before the ending.
 struct ReportFile {
   std::string suffix; // empty for the first
   std::string bytes;
 };
 
-// RFC 4180 with a header line. Tables of equal columns share a file, each row behind the title of its table; the summaries have files
-// of their own. A text that a spreadsheet would take for a formula gets an apostrophe in front. Nothing for a report without tables.
+// RFC 4180 with a header line. Tables of equal columns share a file, each row behind the title of its table;
+// the summaries have files of their own. A text that a spreadsheet would take for a formula gets an
+// apostrophe in front. Nothing for a report without tables.
 [[nodiscard]] std::vector<ReportFile> reportCsv(const Report& report);
 
 // A self-contained page. `png` draws a picture; its bytes stand in the page.

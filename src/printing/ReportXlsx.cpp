@@ -61,7 +61,8 @@ class SheetNames {
  public:
   std::string next(std::string name) {
     for (char& letter : name) {
-      if (std::string_view("[]:*?/\\'").find(letter) != std::string_view::npos || static_cast<unsigned char>(letter) < ' ')
+      if (std::string_view("[]:*?/\\'").find(letter) != std::string_view::npos ||
+          static_cast<unsigned char>(letter) < ' ')
         letter = '-';
     }
     name = shortened(std::move(name), kLongestSheetName);
@@ -77,7 +78,8 @@ class SheetNames {
 
  private:
   static std::string inSmallLetters(std::string text) {
-    std::ranges::transform(text, text.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    std::ranges::transform(text, text.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
     return text;
   }
   std::set<std::string> m_taken;
@@ -154,7 +156,8 @@ class Workbook {
     m_isGood = m_isGood && error == LXW_NO_ERROR;
   }
   void addNumber(lxw_row_t row, std::size_t column, double number, lxw_format* format) {
-    const lxw_error error = worksheet_write_number(m_sheet, row, static_cast<lxw_col_t>(column), number, format);
+    const lxw_error error =
+        worksheet_write_number(m_sheet, row, static_cast<lxw_col_t>(column), number, format);
     m_isGood = m_isGood && error == LXW_NO_ERROR;
   }
   void addGroups(const ReportTable& table) {
@@ -187,8 +190,8 @@ class Workbook {
       for (const ReportRow& row : table.rows)
         longest = std::max(longest, lengthOf(row.cells[i].text));
       const auto column = static_cast<lxw_col_t>(i);
-      worksheet_set_column(m_sheet, column, column, std::min(static_cast<double>(longest) + 1.5, kWidestColumn),
-                           nullptr);
+      worksheet_set_column(m_sheet, column, column,
+                           std::min(static_cast<double>(longest) + 1.5, kWidestColumn), nullptr);
     }
   }
 

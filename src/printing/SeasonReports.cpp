@@ -40,9 +40,9 @@ constexpr SeasonReportName kReports[] = {
     {SeasonReport::Line, "stRAPLIGNE", 1431, "line"},
 };
 
-constexpr std::pair<std::string_view, int> kShotGroups[] = {
-    {"TG", kEveryShot}, {"F2", 1082}, {"F3", 1083}, {"FT", 1076}, {"LL", 1078},
-    {"LR", 1077},       {"PB", 1079}, {"DK", kDunk}};
+constexpr std::pair<std::string_view, int> kShotGroups[] = {{"TG", kEveryShot}, {"F2", 1082}, {"F3", 1083},
+                                                            {"FT", 1076},       {"LL", 1078}, {"LR", 1077},
+                                                            {"PB", 1079},       {"DK", kDunk}};
 
 std::string text(const Texts& texts, int number) {
   return std::string(texts.text(number));
@@ -139,9 +139,12 @@ class SeasonReportMaker {
     table.title = text(m_texts, kGames);
     for (const GameColumn& column : gameColumns()) {
       if (column.widthTwips > 0)
-        table.columns.push_back({std::string(column.headerText > 0 ? m_texts.text(column.headerText) : column.header),
-                                 std::string(column.header) + std::to_string(column.index), {},
-                                 column.isLeftAligned || gameColumnIsText(column.index), column.index == 1});
+        table.columns.push_back(
+            {std::string(column.headerText > 0 ? m_texts.text(column.headerText) : column.header),
+             std::string(column.header) + std::to_string(column.index),
+             {},
+             column.isLeftAligned || gameColumnIsText(column.index),
+             column.index == 1});
     }
     for (const std::size_t place : m_statistics.games()) {
       const ListedGame& game = m_catalogue.games()[place];
@@ -164,15 +167,16 @@ class SeasonReportMaker {
   ReportTable tableOf(std::vector<ReportColumn> begin, const std::vector<int>& columns) const {
     ReportTable table;
     table.columns = std::move(begin);
-    for (std::size_t i = 0; i < table.columns.size(); ++i)
-      table.groups.push_back({"", 1});
+    table.groups.push_back({"", table.columns.size()});
     std::string open;
     for (const int index : columns) {
       const SeasonColumn& column = seasonColumn(index);
-      table.columns.push_back({seasonHeader(index, SeasonTable::Players, m_texts), std::string(column.name), {},
+      table.columns.push_back({seasonHeader(index, SeasonTable::Players, m_texts),
+                               std::string(column.name),
+                               {},
                                seasonColumnIsText(index)});
       const std::string group = groupOf(index, m_texts);
-      if (group != open || group.empty())
+      if (group != open)
         table.groups.push_back({group, 0});
       ++table.groups.back().columns;
       open = group;
@@ -187,7 +191,9 @@ class SeasonReportMaker {
     }
     return columns;
   }
-  ReportColumn repeated(const std::string& header, const char* name) const { return {header, name, {}, true, true}; }
+  ReportColumn repeated(const std::string& header, const char* name) const {
+    return {header, name, {}, true, true};
+  }
 
   void addTeams() {
     std::vector<ReportColumn> begin = {repeated(text(m_texts, kTeam), "Team")};
@@ -206,8 +212,12 @@ class SeasonReportMaker {
         sums.games = team.games;
         sums.numbers = team.numbers;
         ReportRow& row = table.rows.emplace_back();
-        row.cells = {textCell(m_catalogue.teams()[team.team].key), numberCell(team.wins), numberCell(team.losses),
-                     numberCell(team.ties), numberCell(team.pointsFor), numberCell(team.pointsAgainst)};
+        row.cells = {textCell(m_catalogue.teams()[team.team].key),
+                     numberCell(team.wins),
+                     numberCell(team.losses),
+                     numberCell(team.ties),
+                     numberCell(team.pointsFor),
+                     numberCell(team.pointsAgainst)};
         for (const int column : columns)
           row.cells.push_back(cellOf(sums, column, view, m_texts));
       }
@@ -230,7 +240,8 @@ class SeasonReportMaker {
         table.rows.push_back(reportRow(row, ofShots, view));
       m_report.blocks.push_back(std::move(table));
     }
-    m_report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, text(m_texts, kShortTime)});
+    if (std::ranges::any_of(rows, &SeasonRow::isShort))
+      m_report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, text(m_texts, kShortTime)});
   }
   ReportTable rowTable(SeasonTable which, bool ofShots) const {
     std::vector<ReportColumn> begin = {repeated("No", "No"),
@@ -265,17 +276,18 @@ class SeasonReportMaker {
       const std::string header = seasonHeader(statistic.column, SeasonTable::Players, m_texts);
       table.title = group.empty() ? header : group + " – " + header;
       table.standsBeside = !m_report.blocks.empty();
-      table.columns = {{"#", "Rank"},
-                       repeated(text(m_texts, kPlayerName), "Name"),
-                       {text(m_texts, kTeam), "Team", {}, true},
-                       {header, std::string(column.name)}};
+      table.columns = {
+          {"#", "Rank"}, repeated(text(m_texts, kPlayerName), "Name"), {header, std::string(column.name)}};
+      if (!m_choice.team)
+        table.columns.insert(table.columns.begin() + 2, {text(m_texts, kTeam), "Team", {}, true});
       for (const Leader& leader : statistic.leaders) {
         ReportRow& row = table.rows.emplace_back();
         if (m_choice.chosen == leader.row->id)
           row.emphasis = ReportRow::Emphasis::Highlighted;
-        row.cells = {numberCell(leader.rank), textCell(leader.row->number + ' ' + leader.row->name),
-                     textCell(m_catalogue.teams()[leader.row->team].key),
-                     cellOf(*leader.row, statistic.column, view, m_texts)};
+        row.cells = {numberCell(leader.rank), textCell(leader.row->number + ' ' + leader.row->name)};
+        if (!m_choice.team)
+          row.cells.push_back(textCell(m_catalogue.teams()[leader.row->team].key));
+        row.cells.push_back(cellOf(*leader.row, statistic.column, view, m_texts));
       }
       m_report.blocks.push_back(std::move(table));
     }
@@ -285,10 +297,12 @@ class SeasonReportMaker {
     const bool isPlayer = which == SeasonTable::Players;
     m_report.title = text(m_texts, isPlayer ? kPlayerPerformance : kLinePerformance);
     const auto rows = isPlayer ? m_statistics.players() : m_statistics.lines();
-    const auto row = std::ranges::find_if(rows, [&](const SeasonRow& each) { return m_choice.chosen == each.id; });
+    const auto row =
+        std::ranges::find_if(rows, [&](const SeasonRow& each) { return m_choice.chosen == each.id; });
     if (row == rows.end())
       return;
-    m_report.subject = m_catalogue.teams()[row->team].key + ' ' + row->number + ' ' + row->name + ", " + subject();
+    m_report.subject =
+        m_catalogue.teams()[row->team].key + ' ' + row->number + ' ' + row->name + ", " + subject();
     const std::vector<GameResult> results =
         isPlayer ? m_statistics.resultsOfPlayer(row->id) : m_statistics.resultsOfLine(row->id);
     addSums(*row, isPlayer);
@@ -317,15 +331,15 @@ class SeasonReportMaker {
       records.add(m_catalogue, result, m_texts);
     ReportTable table;
     table.title = text(m_texts, isPlayer ? kPersonalRecords : kLineRecords);
-    table.columns = {repeated(text(m_texts, kStatistic), "Statistic"), {"#", "Value"},
+    table.columns = {repeated(text(m_texts, kStatistic), "Statistic"),
+                     {"#", "Value"},
                      {text(m_texts, 1304), "Where", {}, true}};
     for (const Record& record : records.records()) {
       const bool isTime = record.column == kTimeColumn;
-      ReportCell value = record.value == 0 ? textCell({})
-                         : isTime          ? ReportCell{record.text(), ReportCell::Kind::Time,
-                                               static_cast<double>(record.value)}
-                                           : ReportCell{record.text(), ReportCell::Kind::Number,
-                                                        static_cast<double>(record.value)};
+      ReportCell value =
+          record.value == 0 ? textCell({})
+          : isTime ? ReportCell{record.text(), ReportCell::Kind::Time, static_cast<double>(record.value)}
+                   : ReportCell{record.text(), ReportCell::Kind::Number, static_cast<double>(record.value)};
       table.rows.push_back({{textCell(std::string(record.what)), std::move(value), textCell(record.where)}});
     }
     m_report.blocks.push_back(std::move(table));

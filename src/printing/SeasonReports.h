@@ -1,5 +1,5 @@
-// The eleven reports of a season: games, tables of players and lines, leaders, and the performance of one player or line. All cells
-// are those of the season's own tables; nothing is summed here.
+// The eleven reports of a season: games, tables of players and lines, leaders, and the performance of one
+// player or line. All cells are those of the season's own tables; nothing is summed here.
 #pragma once
 
 #include "printing/Report.h"
@@ -37,8 +37,9 @@ struct SeasonReportName {
 [[nodiscard]] std::span<const SeasonReportName> seasonReports();
 
 struct SeasonChoice {
-  std::optional<SeasonId> team;   // whose results are shown
-  std::optional<SeasonId> chosen; // the player or line of a performance report; one that is highlighted in the others
+  std::optional<SeasonId> team; // whose results are shown
+  std::optional<SeasonId>
+      chosen; // the player or line of a performance report; one that is highlighted in the others
 };
 
 // A performance report without a chosen row that played is one of nobody: it holds no tables.

@@ -41,8 +41,8 @@ void TableLayout::measure() {
       m_natural[i] = std::max(m_natural[i], m_fonts.width(fontOf(row), toQt(row.cells[i].text)));
   }
   for (std::size_t i = 0; i < m_natural.size(); ++i)
-    m_natural[i] =
-        std::min(m_natural[i], m_table.columns[i].isRepeated ? kLongestRepeated : kLongestText) + 2 * kPadding;
+    m_natural[i] = std::min(m_natural[i], m_table.columns[i].isRepeated ? kLongestRepeated : kLongestText) +
+                   2 * kPadding;
 }
 
 // A group is at least as wide as its title.
@@ -172,7 +172,8 @@ void TableLayout::measureParts(double room) {
       std::size_t lines = 1;
       for (const std::size_t column : part.columns)
         lines = std::max(lines, linesOf(fontOf(row), toQt(row.cells[column].text), column));
-      part.rowHeights.push_back(static_cast<double>(lines) * m_fonts.lineHeight(PageFont::Cell) + 2 * kRowAir);
+      part.rowHeights.push_back(static_cast<double>(lines) * m_fonts.lineHeight(PageFont::Cell) +
+                                2 * kRowAir);
     }
   }
 }
@@ -201,8 +202,8 @@ double TableLayout::headHeight(const Part& part) const {
 void TableLayout::placeTitle(ReportPage& page, const Part& part, QPointF at) const {
   const double height = m_fonts.lineHeight(PageFont::Heading);
   for (const QString& line : part.title) {
-    page.texts.push_back({QRectF(at, QSizeF(m_fonts.width(PageFont::Heading, line), height)), line,
-                          PageFont::Heading});
+    page.texts.push_back(
+        {QRectF(at, QSizeF(m_fonts.width(PageFont::Heading, line), height)), line, PageFont::Heading});
     at.ry() += height;
   }
 }
@@ -216,8 +217,8 @@ void TableLayout::placeCell(ReportPage& page, PageFont font, const QString& text
   double y = at.y();
   for (const QString& line : isOneLine ? QStringList{text} : m_fonts.wrapped(font, text, room)) {
     const double width = m_fonts.width(font, line);
-    const double x =
-        m_table.columns[column].isLeftAligned ? at.x() + kPadding : at.x() + m_widths[column] - kPadding - width;
+    const double x = m_table.columns[column].isLeftAligned ? at.x() + kPadding
+                                                           : at.x() + m_widths[column] - kPadding - width;
     page.texts.push_back({QRectF(x, y, width, m_fonts.lineHeight(font)), line, font});
     y += m_fonts.lineHeight(font);
   }

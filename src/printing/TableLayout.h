@@ -1,5 +1,5 @@
-// How a table stands on a page: the widths of its columns, the parts into which a table is split that is too wide (each with the
-// repeated columns, and no group of columns torn apart), and the places of its cells.
+// How a table stands on a page: the widths of its columns, the parts into which a table is split that is too
+// wide (each with the repeated columns, and no group of columns torn apart), and the places of its cells.
 #pragma once
 
 #include "printing/ReportPage.h"

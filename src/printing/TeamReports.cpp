@@ -26,8 +26,11 @@ constexpr int kBlankForms = 1400;
 
 // Rules of the team, as the team editor names them.
 constexpr std::pair<int, std::string TeamRecord::*> kRules[] = {
-    {1123, &TeamRecord::periods},           {1124, &TeamRecord::minutesPerPeriod}, {1125, &TeamRecord::bonus},
-    {1126, &TeamRecord::personalFoulLimit}, {1127, &TeamRecord::technicalFoulLimit},
+    {1123, &TeamRecord::periods},
+    {1124, &TeamRecord::minutesPerPeriod},
+    {1125, &TeamRecord::bonus},
+    {1126, &TeamRecord::personalFoulLimit},
+    {1127, &TeamRecord::technicalFoulLimit},
 };
 
 std::string text(const Texts& texts, int number) {
@@ -56,8 +59,8 @@ FormSheet sheetOf(FormIdentifier identifier, int sheets, const std::string& titl
   sheet.hint = text(texts, kFormHint);
   sheet.made = text(texts, kMade);
   sheet.missed = text(texts, kMissed);
-  sheet.sheet = Module1::withPlaceholder(texts.withPlaceholder(kFormSheet, std::to_string(identifier.sheet + 1)),
-                                         std::to_string(sheets), "YYY");
+  sheet.sheet = Module1::withPlaceholder(
+      texts.withPlaceholder(kFormSheet, std::to_string(identifier.sheet + 1)), std::to_string(sheets), "YYY");
   return sheet;
 }
 
@@ -81,10 +84,10 @@ Report rosterReport(const TeamRecord& team, const std::vector<TeamPlayer>& playe
                    {text(texts, kGrade), "Grade", {}, true}};
   for (const TeamPlayer& player : players) {
     const PlayerRecord& record = player.record;
-    table.rows.push_back({{textCell(player.number), textCell(record.name),
-                           textCell(std::string(choiceName(kFirstPositionText, record.position, texts))),
-                           textCell(record.height), textCell(record.weight), textCell(record.age),
-                           textCell(record.grade)}});
+    table.rows.push_back(
+        {{textCell(player.number), textCell(record.name),
+          textCell(std::string(choiceName(kFirstPositionText, record.position, texts))),
+          textCell(record.height), textCell(record.weight), textCell(record.age), textCell(record.grade)}});
   }
   report.blocks.push_back(std::move(table));
   return report;
@@ -97,7 +100,8 @@ Report preparedForms(const TeamRecord& team, const std::vector<TeamPlayer>& play
     if (isJersey(player.number) && able.size() < FormLayout::kPlayers * FormLayout::kSheets)
       able.push_back(&player);
   }
-  const int sheets = std::max(1, (static_cast<int>(able.size()) + FormLayout::kPlayers - 1) / FormLayout::kPlayers);
+  const int sheets =
+      std::max(1, (static_cast<int>(able.size()) + FormLayout::kPlayers - 1) / FormLayout::kPlayers);
   const int number = FormIdentifier::teamNumber(team.abbreviation, Module1::trimmed(team.category));
   const std::string title = text(texts, kInputForm) + "  " + nameOf(team);
   for (int sheet = 0; sheet < sheets; ++sheet) {
@@ -117,8 +121,7 @@ Report preparedForms(const TeamRecord& team, const std::vector<TeamPlayer>& play
 Report blankForms(const Texts& texts) {
   Report report = reportOf(text(texts, kBlankForms), {}, texts);
   for (int sheet = 0; sheet < FormLayout::kSheets; ++sheet)
-    report.blocks.push_back(
-        sheetOf({sheet, false, 0}, FormLayout::kSheets, text(texts, kInputForm), texts));
+    report.blocks.push_back(sheetOf({sheet, false, 0}, FormLayout::kSheets, text(texts, kInputForm), texts));
   return report;
 }
 

@@ -67,8 +67,8 @@ constexpr Export kExports[] = {
 
 } // namespace
 
-frmprint::frmprint(const Texts& texts, Dialogs& dialogs, Printers& printers, FileSystem& files, QString folder,
-                   QWidget* parent)
+frmprint::frmprint(const Texts& texts, Dialogs& dialogs, Printers& printers, FileSystem& files,
+                   QString folder, QWidget* parent)
     : ChildWindow(parent), m_texts(texts), m_dialogs(dialogs), m_printers(printers), m_files(files),
       m_folder(std::move(folder)), m_view(new PageView(this)) {
   setObjectName(QStringLiteral("frmprint"));
@@ -178,14 +178,14 @@ QWidget* frmprint::makePageRow() {
     layout->addWidget(button);
   };
   const auto across = [this] { return m_view->isFacing() ? 2 : 1; };
-  addStep("cmdFIRST", kFirstPage, QStringLiteral("⏮"), [](int) { return 1; });
+  addStep("cmdFIRST", kFirstPage, QStringLiteral("|◀"), [](int) { return 1; });
   addStep("cmdPREVIOUS", kPreviousPage, QStringLiteral("◀"),
           [across](int page) { return std::max(1, page - across()); });
   layout->addWidget(m_page);
   layout->addWidget(m_pageCount);
   addStep("cmdNEXT", kNextPage, QStringLiteral("▶"),
           [this, across](int page) { return std::min(m_page->maximum(), page + across()); });
-  addStep("cmdLAST", kLastPage, QStringLiteral("⏭"), [this](int) { return m_page->maximum(); });
+  addStep("cmdLAST", kLastPage, QStringLiteral("▶|"), [this](int) { return m_page->maximum(); });
   return row;
 }
 
@@ -321,9 +321,8 @@ void frmprint::chooseZoom(int choice) {
 }
 
 void frmprint::complain(int text, const QString& path) {
-  m_dialogs.complain(
-      this, caption(m_texts, text == kNotPrinted ? kPrinterError : kErrorTitle),
-      toQt(m_texts.withPlaceholder(text, fromQt(QDir::toNativeSeparators(path)))));
+  m_dialogs.complain(this, caption(m_texts, text == kNotPrinted ? kPrinterError : kErrorTitle),
+                     toQt(m_texts.withPlaceholder(text, fromQt(QDir::toNativeSeparators(path)))));
 }
 
 void frmprint::print() {
@@ -373,8 +372,8 @@ void frmprint::save(ReportForm form) {
 QByteArray frmprint::arrangement() const {
   QByteArray state;
   QDataStream stream(&state, QIODevice::WriteOnly);
-  stream << static_cast<qint32>(m_paper->currentIndex()) << static_cast<qint32>(m_view->fit()) << m_view->zoom()
-         << m_view->isFacing();
+  stream << static_cast<qint32>(m_paper->currentIndex()) << static_cast<qint32>(m_view->fit())
+         << m_view->zoom() << m_view->isFacing();
   return state;
 }
 

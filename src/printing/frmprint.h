@@ -1,5 +1,6 @@
-// The print preview: a report's pages as they will be printed, with its title, paper and zoom to choose, and every way out of it:
-// printer, PDF, workbook, text, web page, pictures. Lays out and forwards; how a report is made is its offer's to know.
+// The print preview: a report's pages as they will be printed, with its title, paper and zoom to choose, and
+// every way out of it: printer, PDF, workbook, text, web page, pictures. Lays out and forwards; how a report
+// is made is its offer's to know.
 #pragma once
 
 #include "appearance/ChildWindow.h"
@@ -47,7 +48,7 @@ class frmprint : public ChildWindow {
   void offer(std::vector<ReportOffer> offers);
 
   void relabelWindow() override;
-  void applyColours() override {} // paper has its own
+  void applyColours() override {}          // paper has its own
   QByteArray arrangement() const override; // paper, zoom and pages side by side
   void restoreArrangement(const QByteArray& state) override;
 

@@ -35,7 +35,8 @@ struct ShotSums {
 [[nodiscard]] court::ChartZone shotZone(court::Place place, bool isThree);
 [[nodiscard]] ShotSums shotSums(const std::vector<Shot>& shots);
 
-// What a chart writes into a zone, and how strongly it is tinted: 1 where most shots were taken. Zones without shots are left out.
+// What a chart writes into a zone, and how strongly it is tinted: 1 where most shots were taken. Zones
+// without shots are left out.
 struct ZoneWords {
   court::ChartZone zone = court::ChartZone::Paint;
   std::string fraction; // "5/12"

@@ -72,7 +72,8 @@ class Parser {
     else if (std::next(m_word) != m_end)
       value = *++m_word;
     if (value.empty())
-      m_result.error = option == "--folder" ? "--folder needs the name of a folder" : option + " needs a value";
+      m_result.error =
+          option == "--folder" ? "--folder needs the name of a folder" : option + " needs a value";
     else if (isOfReport)
       takeOfReport(option, value);
     else
@@ -141,13 +142,15 @@ std::string usage() {
          "  --dark         dark colours\n"
          "  --leave-when-ready\n"
          "                 print \"ready\" as soon as the window stands, and leave; checks an installation\n"
-         "  --rehearsal    take the game clock's time from standard input, for tests; CONTRIBUTING.md tells how\n"
+         "  --rehearsal    take the game clock's time from standard input, for tests; CONTRIBUTING.md tells "
+         "how\n"
          "  --help         print this text\n"
          "  --version      print the version\n"
          "\n"
          "Without a window: hooptab --report KIND [--format F] -o FILE [GAME.GAM|FOLDER]\n"
          "  --report KIND  scorecard or play-by-play of a game; roster or forms of a team; blank-forms;\n"
-         "                 of a folder of games: team-summary, team-detail, player-shots, line-shots, player-other,\n"
+         "                 of a folder of games: team-summary, team-detail, player-shots, line-shots, "
+         "player-other,\n"
          "                 line-other, leaders, leaders-per-game, leaders-per-minute, player, line\n"
          "  --format F     pdf, xlsx, csv, html or png; without it, the ending of FILE decides\n"
          "  -o FILE        the file to write; it is replaced as a whole\n"

@@ -374,9 +374,10 @@ void MDI::openTeams() {
       return bringToFront(*child);
   }
   auto* window = new frmEQUIPES(m_teams, m_workshop.texts, m_workshop.dialogs);
-  connect(window, &frmEQUIPES::printAsked, this, [this](const TeamRecord& team, const std::vector<TeamPlayer>& players) {
-    preview(teamReports(team, players, m_workshop.texts));
-  });
+  connect(window, &frmEQUIPES::printAsked, this,
+          [this](const TeamRecord& team, const std::vector<TeamPlayer>& players) {
+            preview(teamReports(team, players, m_workshop.texts));
+          });
   addChild(window);
 }
 
@@ -390,8 +391,8 @@ void MDI::preview(std::vector<ReportOffer> offers) {
       return bringToFront(*open);
     }
   }
-  auto* window = new frmprint(m_workshop.texts, m_workshop.dialogs, m_workshop.printers, m_workshop.store.files(),
-                              toQt(m_workshop.settings.lastGameFolder));
+  auto* window = new frmprint(m_workshop.texts, m_workshop.dialogs, m_workshop.printers,
+                              m_workshop.store.files(), toQt(m_workshop.settings.lastGameFolder));
   window->offer(std::move(offers));
   addChild(window);
 }

@@ -28,12 +28,12 @@ struct Team {
 std::vector<ReportOffer> gameReports(const Game& game, const GameState& state, const ScorecardView& choice,
                                      const Settings& settings, const Texts& texts) {
   const auto kept = std::make_shared<const std::pair<Game, GameState>>(game, state);
-  return {named(kScorecard, texts,
-                [=, &settings, &texts] {
-                  return scorecardReport(kept->first, kept->second, choice, settings, texts);
-                }),
-          named(kPlayByPlay, texts,
-                [=, &texts] { return playByPlayReport(kept->first, kept->second, texts); })};
+  return {
+      named(kScorecard, texts,
+            [=, &settings, &texts] {
+              return scorecardReport(kept->first, kept->second, choice, settings, texts);
+            }),
+      named(kPlayByPlay, texts, [=, &texts] { return playByPlayReport(kept->first, kept->second, texts); })};
 }
 
 std::vector<ReportOffer> teamReports(const TeamRecord& team, const std::vector<TeamPlayer>& players,
@@ -41,7 +41,8 @@ std::vector<ReportOffer> teamReports(const TeamRecord& team, const std::vector<T
   const auto kept = std::make_shared<const Team>(Team{team, players});
   std::vector<ReportOffer> offers = {
       named(kTeamRoster, texts, [=, &texts] { return rosterReport(kept->record, kept->players, texts); }),
-      named(kPreparedForms, texts, [=, &texts] { return preparedForms(kept->record, kept->players, texts); })};
+      named(kPreparedForms, texts,
+            [=, &texts] { return preparedForms(kept->record, kept->players, texts); })};
   offers.push_back(emptyForms(texts).front());
   return offers;
 }

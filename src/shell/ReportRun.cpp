@@ -56,7 +56,8 @@ class ReportRun {
     if (!contents)
       return complain(kFailed, "the report could not be made; is there room for temporary files?");
     const std::string failed = writeFiles(m_files, m_request.output, *contents);
-    return failed.empty() ? kGood : complain(kFailed, failed + ": cannot be written; nothing was changed there");
+    return failed.empty() ? kGood
+                          : complain(kFailed, failed + ": cannot be written; nothing was changed there");
   }
 
  private:
@@ -88,16 +89,20 @@ class ReportRun {
     SeasonChoice choice;
     choice.team = catalogue.teamOf(m_request.team);
     if (!m_request.team.empty() && !choice.team)
-      return complain(kWrongUse, "there is no team " + m_request.team + " in the games of " + m_request.source);
+      return complain(kWrongUse,
+                      "there is no team " + m_request.team + " in the games of " + m_request.source);
     const SeasonStatistics statistics(catalogue, catalogue.select(criteria), {m_request.team, std::nullopt});
-    const bool isOfLines = which == SeasonReport::LineShots || which == SeasonReport::LineOther || which == SeasonReport::Line;
+    const bool isOfLines =
+        which == SeasonReport::LineShots || which == SeasonReport::LineOther || which == SeasonReport::Line;
     const auto rows = isOfLines ? statistics.lines() : statistics.players();
-    const auto chosen = std::ranges::find(rows, m_request.player, isOfLines ? &SeasonRow::name : &SeasonRow::number);
+    const auto chosen =
+        std::ranges::find(rows, m_request.player, isOfLines ? &SeasonRow::name : &SeasonRow::number);
     if (chosen != rows.end())
       choice.chosen = chosen->id;
     else if (!m_request.player.empty() || which == SeasonReport::Player || which == SeasonReport::Line)
-      return complain(kWrongUse, m_request.player.empty() ? "--report " + m_request.kind + " needs --player or --line"
-                                                          : "nobody has the number " + m_request.player);
+      return complain(kWrongUse, m_request.player.empty()
+                                     ? "--report " + m_request.kind + " needs --player or --line"
+                                     : "nobody has the number " + m_request.player);
     report = seasonReport(which, statistics, choice, m_texts);
     return kGood;
   }

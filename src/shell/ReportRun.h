@@ -1,5 +1,5 @@
-// Makes a report without any window, as the command line asks for it: `hooptab --report KIND ... -o FILE GAME`. Says on the standard error
-// what went wrong.
+// Makes a report without any window, as the command line asks for it: `hooptab --report KIND ... -o FILE
+// GAME`. Says on the standard error what went wrong.
 #pragma once
 
 #include "shell/Arguments.h"

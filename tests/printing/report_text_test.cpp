@@ -77,7 +77,8 @@ TEST_F(ReportTextTest, NamesStayTextInATableAndInAPage) {
       EXPECT_EQ(row.fields.size(), parseDelimited(file.bytes).front().fields.size());
       for (const std::string& field : row.fields) {
         const bool isNumber = field.find_first_not_of("-0123456789.:%") == std::string::npos;
-        EXPECT_TRUE(isNumber || field.empty() || std::string_view("=+-@").find(field[0]) == std::string_view::npos)
+        EXPECT_TRUE(isNumber || field.empty() ||
+                    std::string_view("=+-@").find(field[0]) == std::string_view::npos)
             << field;
       }
     }
@@ -89,14 +90,16 @@ TEST_F(ReportTextTest, NamesStayTextInATableAndInAPage) {
   EXPECT_EQ(html.find("<script"), std::string::npos);
   EXPECT_NE(html.find("<td class=\"left\">&lt;script&gt;</td>"), std::string::npos);
   EXPECT_NE(html.find("Side &lt;b&gt;&amp;"), std::string::npos);
-  EXPECT_NE(html.find("base64,iVBORw==") == std::string::npos ? html.find("base64,iVBORw") : 0, std::string::npos);
+  EXPECT_NE(html.find("base64,iVBORw==") == std::string::npos ? html.find("base64,iVBORw") : 0,
+            std::string::npos);
   for (const char* outside : {"http:", "https:", "<link", "url("})
     EXPECT_EQ(html.find(outside), std::string::npos) << "the page needs nothing beside it";
 }
 
 TEST_F(ReportTextTest, PercentagesAndTimesAreNumbersBehindTheirText) {
-  const Game game = gameOfText(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05,IN-03-07\n2=09:00,GFG,0-4,40,50\n"
-                                          "3=08:00,GFGA,0-4,40,50\n4=07:00,STO,0-5\n5=05:00,ARRET,IN-04,IN-03\n"));
+  const Game game =
+      gameOfText(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05,IN-03-07\n2=09:00,GFG,0-4,40,50\n"
+                            "3=08:00,GFGA,0-4,40,50\n4=07:00,STO,0-5\n5=05:00,ARRET,IN-04,IN-03\n"));
   const Report report = scorecard(game);
   const ReportTable* box = nullptr;
   for (const ReportTable* table : tables(report)) {
@@ -124,8 +127,8 @@ TEST_F(ReportTextTest, PercentagesAndTimesAreNumbersBehindTheirText) {
 
 // The chart follows the check marks, the tables hold everybody.
 TEST_F(ReportTextTest, TheChartShowsTheCheckedPlayersOnly) {
-  const Game game = gameOfText(textOfGame(
-      "[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=08:00,GFGA,0-5,60,50\n3=07:00,GF3,1-3,100,90\n4=E06:30,GFG,0-4,1,1\n"));
+  const Game game = gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=08:00,GFGA,0-5,60,50\n3=07:"
+                                          "00,GF3,1-3,100,90\n4=E06:30,GFG,0-4,1,1\n"));
   const GameState state = tallied(game);
   ScorecardView view(texts);
   view.show(game, state);
@@ -145,7 +148,8 @@ TEST_F(ReportTextTest, TheChartShowsTheCheckedPlayersOnly) {
   }
   EXPECT_EQ(marks, (std::vector<std::size_t>{1, 1}));
   for (const ReportTable* table : tables(report)) {
-    EXPECT_TRUE(std::ranges::none_of(table->columns, [](const auto& column) { return column.name == "FGM"; }));
+    EXPECT_TRUE(
+        std::ranges::none_of(table->columns, [](const auto& column) { return column.name == "FGM"; }));
     if (table->title.starts_with("PAN")) {
       EXPECT_EQ(table->rows.size(), 8U);
       EXPECT_EQ(table->rows.back().emphasis, ReportRow::Emphasis::Total);

@@ -17,10 +17,12 @@ namespace {
 class SeasonReportTest : public testing::Test {
  protected:
   SeasonReportTest() {
-    folder.addGame("a.GAM", "2026-10-02", "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40,50\n"
-                                          "3=08:00,GF3,0-5,100,90\n4=07:00,SPF,1-3\n5=00:00,ARRET,IN-,IN-\n");
-    folder.addGame("b.GAM", "2026-10-09", "1=10:00,ARRET,IN-04-05-10-12-00,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40,50\n"
-                                          "3=08:30,GFGA,0-4,40,50\n4=08:00,GFT,1-7\n5=04:00,ARRET,IN-,IN-\n");
+    folder.addGame("a.GAM", "2026-10-02",
+                   "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40,50\n"
+                   "3=08:00,GF3,0-5,100,90\n4=07:00,SPF,1-3\n5=00:00,ARRET,IN-,IN-\n");
+    folder.addGame("b.GAM", "2026-10-09",
+                   "1=10:00,ARRET,IN-04-05-10-12-00,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40,50\n"
+                   "3=08:30,GFGA,0-4,40,50\n4=08:00,GFT,1-7\n5=04:00,ARRET,IN-,IN-\n");
   }
   static std::vector<const ReportTable*> tables(const Report& report) {
     std::vector<const ReportTable*> found;
@@ -40,11 +42,13 @@ class SeasonReportTest : public testing::Test {
   Texts texts;
 };
 
-// Between the two reports of players every counted column stands once, each cell as the season's table shows it.
+// Between the two reports of players every counted column stands once, each cell as the season's table shows
+// it.
 TEST_F(SeasonReportTest, TheRowsOfPlayersAndLinesAreThoseOfTheSeason) {
   const SeasonStatistics season = folder.statistics();
-  for (const auto& [shots, other, rows] : {std::tuple(SeasonReport::PlayerShots, SeasonReport::PlayerOther, season.players()),
-                                          std::tuple(SeasonReport::LineShots, SeasonReport::LineOther, season.lines())}) {
+  for (const auto& [shots, other, rows] :
+       {std::tuple(SeasonReport::PlayerShots, SeasonReport::PlayerOther, season.players()),
+        std::tuple(SeasonReport::LineShots, SeasonReport::LineOther, season.lines())}) {
     std::set<std::string> counted;
     for (const SeasonReport which : {shots, other}) {
       const Report report = seasonReport(which, season, {}, texts);
@@ -60,7 +64,8 @@ TEST_F(SeasonReportTest, TheRowsOfPlayersAndLinesAreThoseOfTheSeason) {
             EXPECT_TRUE(counted.insert(column.name).second) << column.name;
           }
           for (std::size_t row = 0; row < rows.size(); ++row)
-            EXPECT_EQ(cell(table, table.rows[row], column.name).text, seasonCell(rows[row], index, view, texts));
+            EXPECT_EQ(cell(table, table.rows[row], column.name).text,
+                      seasonCell(rows[row], index, view, texts));
         }
         for (const ReportRow& row : table.rows)
           ASSERT_EQ(row.cells.size(), table.columns.size());
@@ -109,7 +114,8 @@ TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
   EXPECT_DOUBLE_EQ(cell(results, results.rows[1], "F2%").value, 0.5);
   const Report leaders = seasonReport(SeasonReport::LeadersTotal, season, {std::nullopt, ann->id}, texts);
   const auto all = tables(leaders);
-  const auto of = std::ranges::find(all, "PTS", [](const ReportTable* table) { return table->columns.back().name; });
+  const auto of =
+      std::ranges::find(all, "PTS", [](const ReportTable* table) { return table->columns.back().name; });
   ASSERT_NE(of, all.end());
   const ReportTable& points = **of;
   EXPECT_EQ(points.rows[0].cells[1].text, "4 Ann Able");

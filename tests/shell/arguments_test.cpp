@@ -37,7 +37,8 @@ TEST(Arguments, BehindTwoDashesEveryWordIsAGame) {
 }
 
 TEST(Arguments, AReportIsTakenWithItsOptions) {
-  const Arguments all = parse({"--report", "scorecard", "-o", "x/box.pdf", "--lang=fr", "--paper", "letter", "A.GAM"});
+  const Arguments all =
+      parse({"--report", "scorecard", "-o", "x/box.pdf", "--lang=fr", "--paper", "letter", "A.GAM"});
   EXPECT_EQ(all.error, "");
   ASSERT_TRUE(all.report);
   EXPECT_EQ(all.report->kind, "scorecard");
@@ -46,11 +47,16 @@ TEST(Arguments, AReportIsTakenWithItsOptions) {
   EXPECT_EQ(all.report->source, "/home/coach/games/A.GAM");
   EXPECT_EQ(all.report->language, Language::French);
   EXPECT_TRUE(all.report->isLetter);
-  EXPECT_EQ(parse({"--report=roster", "--team=LYNX-AAA", "-o", "a", "--format", "csv"}).report->format, "csv");
+  EXPECT_EQ(parse({"--report=roster", "--team=LYNX-AAA", "-o", "a", "--format", "csv"}).report->format,
+            "csv");
   EXPECT_FALSE(parse({"A.GAM"}).report);
-  for (const std::vector<std::string>& wrong : std::vector<std::vector<std::string>>{
-           {"--report", "scorecard"}, {"-o", "x.pdf"}, {"--report"}, {"--report", "a", "-o", "b", "1.GAM", "2.GAM"},
-           {"--report", "a", "-o", "b", "--lang", "de"}, {"--report", "a", "-o", "b", "--paper=a5"}})
+  for (const std::vector<std::string>& wrong :
+       std::vector<std::vector<std::string>>{{"--report", "scorecard"},
+                                             {"-o", "x.pdf"},
+                                             {"--report"},
+                                             {"--report", "a", "-o", "b", "1.GAM", "2.GAM"},
+                                             {"--report", "a", "-o", "b", "--lang", "de"},
+                                             {"--report", "a", "-o", "b", "--paper=a5"}})
     EXPECT_NE(parse(wrong).error, "") << wrong.size();
 }
 

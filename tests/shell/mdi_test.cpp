@@ -23,8 +23,8 @@
 
 #include <QAbstractItemView>
 #include <QAction>
-#include <QComboBox>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -73,7 +73,8 @@ class MainWindowTest : public testing::Test {
     texts.setLanguage(settings->language);
     texts.showNumbers(settings->asksForTextNumbers());
     memory = std::make_unique<WindowMemory>(store, folder());
-    window = std::make_unique<MDI>(Workshop{store, *settings, texts, *memory, dialogs, shared, time, printers});
+    window =
+        std::make_unique<MDI>(Workshop{store, *settings, texts, *memory, dialogs, shared, time, printers});
     window->setWindowState(Qt::WindowNoState); // the display of these tests is smaller than the screen meant
     window->resize(1366, 768);
     window->show();
@@ -159,7 +160,8 @@ TEST_F(MainWindowTest, EveryPrintCommandLeadsToOnePreview) {
   const auto title = [&] {
     const QList<frmprint*> previews = area().findChildren<frmprint*>();
     EXPECT_EQ(previews.size(), 1);
-    return previews.isEmpty() ? QString() : previews.first()->findChild<QLineEdit*>(QStringLiteral("txtTITLE"))->text();
+    return previews.isEmpty() ? QString()
+                              : previews.first()->findChild<QLineEdit*>(QStringLiteral("txtTITLE"))->text();
   };
   window->openGame(makeGame("one.GAM"));
   action("vwPRINT").trigger();
@@ -178,6 +180,10 @@ TEST_F(MainWindowTest, EveryPrintCommandLeadsToOnePreview) {
   teams->findChild<QListWidget*>(QStringLiteral("lstequipes"))->setCurrentRow(0);
   print->click();
   EXPECT_EQ(title(), text(2204));
+  dialogs.nextFile = makeGame("two.GAM");
+  action("LIVEOpen").trigger();
+  action("livePRINT").trigger();
+  EXPECT_EQ(title(), text(2200));
 }
 
 TEST_F(MainWindowTest, EveryCommandStandsInTheMenusAndIsDisabledUntilItsWindowExists) {
