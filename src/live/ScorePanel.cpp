@@ -246,7 +246,8 @@ QWidget* ScorePanel::makeButtons() {
   m_return = smallButton(QStringLiteral("cmdRETURN"), {}, kBackHint);
   setTextNumber(*m_return, kBack);
   m_return->setFixedSize(2 * kSecondWidth + kGap, kStartHeight); // it takes the place of the two
-  connect(m_return, &QToolButton::clicked, this, &ScorePanel::returnAsked);
+  m_return->setShortcut(Qt::Key_F3); // whoever records by keys has no other way back
+  connect(m_return, &QToolButton::pressed, this, &ScorePanel::returnAsked); // what is typed next comes after
   m_return->hide();
   m_disk = label(QStringLiteral("lblDISK"), bold(font(), kDiskPoints));
   m_disk->setFixedWidth(kDiskWidth);
