@@ -356,13 +356,19 @@ void FollowUpBar::take(std::optional<int> team) {
     dismiss();
 }
 
+// "0" of a 00 may go on, "9" of a 09 may not.
+bool FollowUpBar::isTypedToItsEnd(const FittingJersey& fitting) const {
+  const std::string& jersey = m_choices[fitting.place].jersey;
+  return fitting.isWhole && (jersey.size() == m_typed.size() || !jersey.starts_with(m_typed));
+}
+
 void FollowUpBar::takeDigit(const FollowUpKey& key) {
   m_typed += static_cast<char>('0' + key.digit);
   narrow();
   if (m_fitting.empty()) { // nobody's number
     m_typed.pop_back();
     narrow();
-  } else if (m_fitting.size() == 1 && (m_fitting[0].isWhole || !key.isWholeNumber)) {
+  } else if (m_fitting.size() == 1 && (!key.isWholeNumber || isTypedToItsEnd(m_fitting[0]))) {
     choose(m_fitting[0].place);
   }
 }

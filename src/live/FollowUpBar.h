@@ -80,6 +80,7 @@ class FollowUpBar : public QWidget {
   bool ownsKey(const QKeyEvent& event) const;
   void takeKey(const QKeyEvent& event);
   void takeDigit(const FollowUpKey& key);
+  [[nodiscard]] bool isTypedToItsEnd(const FittingJersey& fitting) const;
   void take(std::optional<int> team);
   void narrow();
   void moveMark(int step);

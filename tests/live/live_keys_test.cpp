@@ -242,6 +242,16 @@ TEST_F(LiveKeysTest, FollowUpsAreAnsweredByTheWholeNumberAndSkippedByGoingOn) {
   EXPECT_TRUE(window.isRunning());
 }
 
+TEST_F(LiveKeysTest, BothZerosOfADoubleZeroBelongToTheAnswer) {
+  pad("4*<00/<");
+  pad(".52<00");
+  EXPECT_FALSE(followUp().isOpen());
+  EXPECT_FALSE(label("txtACTION").isVisible()) << "0 and a team key would take everybody out";
+  EXPECT_TRUE(lines().ends_with("4=10:00,SA,0-00|")) << lines();
+  pad(".52<0<");
+  EXPECT_TRUE(lines().ends_with("6=10:00,SA,0-00|")) << lines();
+}
+
 TEST_F(LiveKeysTest, EnterIsGoingOnWithTheKeypadSwitchedOffToo) {
   pad(".42<");
   ASSERT_TRUE(followUp().isOpen());
