@@ -31,6 +31,11 @@ class Hand {
   virtual std::string record(const GameEvent& event) = 0; // a shot or an action
   // Returns when these stand on court on disk.
   virtual std::string substitute(const OnCourt& wanted) = 0;
+
+  int questionsInTheWay() const { return m_questionsInTheWay; }
+
+ protected:
+  int m_questionsInTheWay = 0; // that had to be closed before one could go on
 };
 
 } // namespace hooptab

@@ -21,8 +21,6 @@ class MouseHand : public Hand {
   std::string record(const GameEvent& event) override;
   std::string substitute(const OnCourt& wanted) override;
 
-  int questionsInTheWay() const { return m_questionsInTheWay; }
-
  private:
   void click(const std::string& control, Person::Button button = Person::Button::Left);
   // Closes the question that lies over the place.
@@ -41,7 +39,6 @@ class MouseHand : public Hand {
   ZoneMap m_zones;
   bool m_isSwitched = false;
   bool m_typesNext = true;
-  int m_questionsInTheWay = 0;
 };
 
 } // namespace hooptab

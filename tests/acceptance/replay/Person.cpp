@@ -51,7 +51,8 @@ void Person::strike(unsigned long symbol) {
   if (code == 0)
     throw ReplayFailure("the keyboard has no such key");
   const KeyCode shift = XKeysymToKeycode(m_display, XK_Shift_L);
-  const bool isShifted = XkbKeycodeToKeysym(m_display, code, 0, 0) != symbol;
+  const bool isOfKeypad = symbol >= XK_KP_Space && symbol <= XK_KP_Equal; // which needs Num Lock instead
+  const bool isShifted = !isOfKeypad && XkbKeycodeToKeysym(m_display, code, 0, 0) != symbol;
   if (isShifted)
     XTestFakeKeyEvent(m_display, shift, True, CurrentTime);
   XTestFakeKeyEvent(m_display, code, True, CurrentTime);
@@ -59,7 +60,7 @@ void Person::strike(unsigned long symbol) {
   XTestFakeKeyEvent(m_display, code, False, CurrentTime);
   if (isShifted)
     XTestFakeKeyEvent(m_display, shift, False, CurrentTime);
-  XSync(m_display, False);
+  hold(); // a key that is down again in the same moment passes for one held down
   ++m_effort.keys;
 }
 
@@ -76,6 +77,13 @@ void Person::press(const std::string& key) {
   strike(XStringToKeysym(std::string(rest).c_str()));
   for (const KeyCode code : held)
     XTestFakeKeyEvent(m_display, code, False, CurrentTime);
+  XSync(m_display, False);
+}
+
+void Person::lockNumbers() {
+  const unsigned numbers = XkbKeysymToModifiers(m_display, XK_Num_Lock);
+  if (numbers == 0 || XkbLockModifiers(m_display, XkbUseCoreKbd, numbers, numbers) == False)
+    throw ReplayFailure("the keyboard has no Num Lock");
   XSync(m_display, False);
 }
 

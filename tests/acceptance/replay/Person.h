@@ -27,6 +27,7 @@ class Person {
   // A key by its X name, with what is held meanwhile: "ctrl+shift+o", "space".
   void press(const std::string& key);
   void type(std::string_view text);
+  void lockNumbers(); // so that the keypad types digits
 
   const Effort& effort() const { return m_effort; }
 

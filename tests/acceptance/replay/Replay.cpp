@@ -103,6 +103,7 @@ void Replay::passTime(int untilClock) {
 void Replay::beginNextPeriod(const GameEvent& first) {
   if (m_clock > 0)
     throw ReplayFailure("the original leaves a period before its end");
+  const Effort before = m_table.person.effort();
   if (!m_isClosed)
     m_hand.toggleClock(); // leaves the period that was returned to
   m_clock = m_original.details.minutesPerPeriod * kSecondsPerMinute;
@@ -121,6 +122,7 @@ void Replay::beginNextPeriod(const GameEvent& first) {
             [&] { return m_table.program.text("lblTEMPS") == clock; });
   if (m_period == m_original.details.periods / 2 + 1)
     m_hand.switchSides();
+  noteEffort("next period", before);
 }
 
 void Replay::returnToEndedPeriod() {
@@ -210,7 +212,7 @@ void Replay::record(const GameEvent& event) {
   if (now.clicks == before.clicks + 1 && now.keys == before.keys)
     m_report.millisecondsToDisk.push_back(took.count());
   noteEffort(how, before);
-  if (event.hasPlace)
+  if (event.hasPlace && found.hasPlace)
     noteShot(event, found);
 }
 
@@ -232,6 +234,7 @@ void Replay::noteEffort(const std::string& how, const Effort& before) {
 }
 
 void Replay::declareOver() {
+  const Effort before = m_table.person.effort();
   if (!m_isClosed) {
     m_hand.toggleClock();
     m_isClosed = true;
@@ -240,9 +243,11 @@ void Replay::declareOver() {
   m_table.person.press("ctrl+g");
   m_table.program.waitUntilActive("frmGAMEOVER/cmd1");
   m_table.camera.take("game-over");
-  m_table.person.clickAt(m_table.program.where("frmGAMEOVER/cmd1"));
+  m_table.person.press("Tab"); // from the notes to the button that closes
+  m_table.person.press("space");
   m_table.recorded.waitUntil("the end of the game", [](const Game& game) { return game.details.isFinished; });
   m_table.program.waitUntilActive("frmLIVE");
+  noteEffort("end of the game", before);
   m_table.camera.take("end");
 }
 

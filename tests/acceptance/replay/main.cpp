@@ -1,7 +1,8 @@
-// replay PROGRAM GAME.GAM [--french] [--pictures FOLDER]: records a game once more in the program's own
-// window, on the display of the environment, and reports what it took and whether the same came out. Exit
-// status 0 when it did, 1 when not, 77 when the game is missing.
+// replay PROGRAM GAME.GAM [--keys] [--french] [--pictures FOLDER]: records a game once more in the program's
+// own window, by mouse or by keys alone, on the display of the environment, and reports what it took and
+// whether the same came out. Exit status 0 when it did, 1 when not, 77 when the game is missing.
 #include "Comparison.h"
+#include "KeypadHand.h"
 #include "MouseHand.h"
 #include "Replay.h"
 #include "support/OfficialBox.h"
@@ -11,6 +12,7 @@
 #include <chrono>
 #include <iomanip>
 #include <iostream>
+#include <memory>
 #include <numeric>
 
 using namespace hooptab;
@@ -24,6 +26,7 @@ struct Options {
   std::filesystem::path game;
   std::string pictures;
   bool isFrench = false;
+  bool isByKeys = false;
 };
 
 Options parse(const std::vector<std::string>& words) {
@@ -32,13 +35,15 @@ Options parse(const std::vector<std::string>& words) {
   for (auto word = words.begin(); word != words.end(); ++word) {
     if (*word == "--french")
       options.isFrench = true;
+    else if (*word == "--keys")
+      options.isByKeys = true;
     else if (*word == "--pictures" && std::next(word) != words.end())
       options.pictures = *++word;
     else
       names.push_back(*word);
   }
   if (names.size() != 2)
-    throw ReplayFailure("usage: replay PROGRAM GAME.GAM [--french] [--pictures FOLDER]");
+    throw ReplayFailure("usage: replay PROGRAM GAME.GAM [--keys] [--french] [--pictures FOLDER]");
   options.program = names[0];
   options.game = names[1];
   return options;
@@ -51,7 +56,19 @@ double share(std::vector<double> values, double part) {
   return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
 }
 
-void print(const ReplayReport& report, const MouseHand& hand) {
+// Nothing of a game without places, as the keypad records it.
+void print(const std::vector<double>& displacements, int inWrongZone) {
+  if (displacements.empty())
+    return;
+  const double sum = std::accumulate(displacements.begin(), displacements.end(), 0.0);
+  std::cout << std::setprecision(2) << "Shots with a place: " << displacements.size()
+            << ", of them on a line or in the other zone " << inWrongZone << "; stored "
+            << sum / static_cast<double>(displacements.size()) << " units from the original on average, "
+            << share(displacements, 1) << " at most.\n"
+            << std::setprecision(0);
+}
+
+void print(const ReplayReport& report, const Hand& hand, std::size_t events) {
   std::cout << std::left << std::setw(34) << "entered as" << std::right;
   for (const char* column : {"number", "clicks", "keys", "each", "pixels"})
     std::cout << std::setw(8) << column;
@@ -72,17 +89,16 @@ void print(const ReplayReport& report, const MouseHand& hand) {
     all.effort.travel += entry.effort.travel;
   }
   row("all", all);
-  const std::vector<double>& moved = report.displacements;
-  const double sum = std::accumulate(moved.begin(), moved.end(), 0.0);
-  std::cout << std::setprecision(2) << "Shots with a place: " << moved.size()
-            << ", of them on a line or in the other zone " << report.shotsInWrongZone << "; stored "
-            << sum / static_cast<double>(std::max<std::size_t>(moved.size(), 1))
-            << " units from the original on average, " << share(moved, 1) << " at most.\n"
-            << std::setprecision(0)
-            << "From one click to its event on disk: " << share(report.millisecondsToDisk, 0.5)
-            << " ms median, " << share(report.millisecondsToDisk, 0.99) << " ms for 99 of 100, "
-            << share(report.millisecondsToDisk, 1) << " ms at most.\n"
-            << "Questions that lay over the next click: " << hand.questionsInTheWay()
+  std::cout << std::setprecision(2) << "Clicks and keys for each of the " << events
+            << " events of the game: " << (all.effort.clicks + all.effort.keys) / static_cast<double>(events)
+            << ".\n"
+            << std::setprecision(0);
+  print(report.displacements, report.shotsInWrongZone);
+  if (!report.millisecondsToDisk.empty())
+    std::cout << "From one click to its event on disk: " << share(report.millisecondsToDisk, 0.5)
+              << " ms median, " << share(report.millisecondsToDisk, 0.99) << " ms for 99 of 100, "
+              << share(report.millisecondsToDisk, 1) << " ms at most.\n";
+  std::cout << "Questions that had to be closed first: " << hand.questionsInTheWay()
             << "; returns to an ended period: " << report.returns
             << "; clock set by hand: " << report.clockCorrections << ".\n";
 }
@@ -121,8 +137,12 @@ int run(const Options& options) {
   openForInput(table);
   if (options.isFrench)
     person.press("F12");
-  MouseHand hand(table);
-  Replay replay(original, table, hand);
+  std::unique_ptr<Hand> hand;
+  if (options.isByKeys)
+    hand = std::make_unique<KeypadHand>(table);
+  else
+    hand = std::make_unique<MouseHand>(table);
+  Replay replay(original, table, *hand);
   replay.play();
   replay.declareOver();
   person.press("ctrl+q");
@@ -135,13 +155,15 @@ int run(const Options& options) {
   std::vector<std::string> wrong = differences(recorded.game(), original);
   for (const std::string& line : OfficialBox(options.game).differences(recorded.game(), state))
     wrong.push_back("official box: " + line);
+  if (options.isByKeys && person.effort().clicks > 0)
+    wrong.push_back("not by keys alone: " + std::to_string(person.effort().clicks) + " clicks");
   if (status != 0)
     wrong.push_back("the program ended with status " + std::to_string(status));
 
   std::cout << options.game.stem().string() << (options.isFrench ? ", in French" : "") << ": "
             << original.events.size() << " events in " << std::fixed << std::setprecision(1) << took.count()
             << " s\n";
-  print(replay.report(), hand);
+  print(replay.report(), *hand, original.events.size());
   for (const std::string& line : wrong)
     std::cout << line << '\n';
   std::cout << (wrong.empty() ? "The same game, to the second, and the official box score.\n"

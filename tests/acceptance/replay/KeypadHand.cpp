@@ -1,0 +1,206 @@
+#include "KeypadHand.h"
+
+#include "live/KeyCodes.h"
+
+#include <algorithm>
+#include <array>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kSlotsOfTeam = 5;
+
+struct KeyName {
+  int code;
+  const char* name; // as the display has it
+};
+constexpr std::array kNames = {KeyName{13, "KP_Enter"},     KeyName{8, "BackSpace"},
+                               KeyName{109, "KP_Subtract"}, KeyName{107, "KP_Add"},
+                               KeyName{110, "KP_Decimal"},  KeyName{111, "KP_Divide"},
+                               KeyName{106, "KP_Multiply"}};
+
+struct ActionKey {
+  EventCode code;
+  KeypadAction action;
+};
+constexpr std::array kActions = {
+    ActionKey{EventCode::SPF, KeypadAction::PF}, ActionKey{EventCode::STF, KeypadAction::TF},
+    ActionKey{EventCode::SBS, KeypadAction::BS}, ActionKey{EventCode::SST, KeypadAction::ST},
+    ActionKey{EventCode::SDR, KeypadAction::DR}, ActionKey{EventCode::SOR, KeypadAction::OR},
+    ActionKey{EventCode::STO, KeypadAction::TO}, ActionKey{EventCode::SA, KeypadAction::A},
+    ActionKey{EventCode::SU1, KeypadAction::U1}, ActionKey{EventCode::SU2, KeypadAction::U2}};
+
+// By their digit, from 1.
+constexpr std::array kShots = {EventCode::GFT, EventCode::GFG, EventCode::GF3, EventCode::GLG,
+                               EventCode::GLD, EventCode::GPB, EventCode::GDK};
+
+bool isFollowUp(EventCode code) {
+  return code == EventCode::SA || code == EventCode::SOR || code == EventCode::SDR;
+}
+
+// Of those who come or go.
+std::size_t keysFor(const std::vector<std::string>& numbers) {
+  std::size_t keys = 0;
+  for (const std::string& number : numbers)
+    keys += number.size() + 2;
+  return keys;
+}
+
+} // namespace
+
+// A first start has the keypad on, and does not ask for rebounds.
+void KeypadHand::prepare() {
+  m_table.person.lockNumbers();
+  m_table.person.press("F8");
+}
+
+void KeypadHand::toggleClock() {
+  press(KeypadAction::CLOCK);
+}
+
+void KeypadHand::switchSides() {
+  m_table.person.press("F9");
+}
+
+void KeypadHand::returnToEndedPeriod() {
+  m_table.person.press("F3");
+}
+
+void KeypadHand::press(KeypadAction action) {
+  const int code = m_keys.code(action);
+  if (const auto digit = keys::digit(code, true))
+    return type(std::to_string(*digit));
+  const auto* const key = std::ranges::find(kNames, code, &KeyName::code);
+  if (key == kNames.end())
+    throw ReplayFailure("a key that no keypad has: " + m_keys.text(action));
+  m_table.person.press(key->name);
+}
+
+void KeypadHand::confirm(int team) {
+  press(team == m_table.recorded.game().details.mainTeam ? KeypadAction::OK0 : KeypadAction::OK1);
+}
+
+void KeypadHand::type(const std::string& digits) {
+  for (const char digit : digits)
+    m_table.person.press(std::string("KP_") + digit);
+}
+
+void KeypadHand::clearQuestion() {
+  if (!m_table.program.isShown("FollowUp"))
+    return;
+  press(KeypadAction::CLR);
+  m_table.program.waitUntilGone("FollowUp");
+  ++m_questionsInTheWay;
+}
+
+// "9" for 09, where no other player has it.
+std::string KeypadHand::numberOf(int team, std::string_view jersey) const {
+  const Roster& roster = m_table.recorded.game().roster[team];
+  const std::size_t first = std::min(jersey.find_first_not_of('0'), jersey.size() - 1);
+  const std::string_view number = jersey.substr(first);
+  return std::string(roster.entryOf(number) == roster.entryOf(jersey) ? number : jersey);
+}
+
+std::vector<std::string> KeypadHand::numbersOf(int team, unsigned entries) const {
+  std::vector<std::string> numbers;
+  for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
+    if ((entries >> entry & 1U) != 0)
+      numbers.push_back(numberOf(team, m_table.recorded.game().roster[team].player(entry)->jersey));
+  }
+  return numbers;
+}
+
+std::string KeypadHand::record(const GameEvent& event) {
+  if (event.isShot())
+    return shoot(event);
+  const bool isAssist = event.code == EventCode::SA;
+  const std::string form = isAssist ? "Assist" : "frmRebound";
+  if (isFollowUp(event.code) && m_table.program.isShown(form) && isOffered(event, form))
+    return answer(event, form);
+  clearQuestion();
+  type(numberOf(event.player.team, event.player.jersey));
+  press(std::ranges::find(kActions, event.code, &ActionKey::code)->action);
+  m_table.camera.take("typed");
+  confirm(event.player.team);
+  if (!isFollowUp(event.code))
+    return "action";
+  return isAssist ? "assist, not asked for" : "rebound, not asked for";
+}
+
+// Begins with no digit: a question needs no clearing.
+std::string KeypadHand::shoot(const GameEvent& event) {
+  const auto* const kind = std::ranges::find(kShots, event.code);
+  press(KeypadAction::A);
+  if (!event.isMade)
+    press(KeypadAction::A);
+  type(numberOf(event.player.team, event.player.jersey) + std::to_string(kind - kShots.begin() + 1));
+  m_table.camera.take(event.isMade ? "typed-made" : "typed-missed");
+  confirm(event.player.team);
+  return event.isMade ? "shot made" : "shot missed";
+}
+
+bool KeypadHand::isOffered(const GameEvent& event, const std::string& form) {
+  const int first = event.code == EventCode::SDR ? kSlotsOfTeam : 0;
+  const int count = event.code == EventCode::SA ? kSlotsOfTeam - 1 : kSlotsOfTeam;
+  for (int index = first; index < first + count; ++index) {
+    const std::string button = form + "/cmdJERSEY(" + std::to_string(index) + ")";
+    if (m_table.program.isShown(button) && m_table.program.text(button) == event.player.jersey)
+      return true;
+  }
+  return false;
+}
+
+// The team's key as well where a player of the other team has the number, or another number begins so.
+std::string KeypadHand::answer(const GameEvent& event, const std::string& form) {
+  const std::string number = numberOf(event.player.team, event.player.jersey);
+  type(number);
+  Program& program = m_table.program;
+  const auto isOpen = [&] { return program.isShown(form); };
+  waitUntil("the number is taken, or shown",
+            [&] { return !isOpen() || program.text(form + "/lblQUESTION").ends_with(' ' + number + '_'); });
+  const bool isClear = !isOpen();
+  if (!isClear) {
+    m_table.camera.take("equal-numbers");
+    confirm(event.player.team);
+  }
+  const std::string asked = event.code == EventCode::SA ? "assist asked for" : "rebound asked for";
+  return isClear ? asked : asked + ", with team";
+}
+
+// --- Substitutions
+
+std::string KeypadHand::substitute(const OnCourt& wanted) {
+  clearQuestion();
+  const OnCourt before = m_table.recorded.onCourt();
+  int coming = 0;
+  for (int team = 0; team < 2; ++team) {
+    const auto place = static_cast<std::size_t>(team);
+    const auto all = numbersOf(team, wanted[place]);
+    const auto leaving = numbersOf(team, before[place] & ~wanted[place]);
+    const auto arriving = numbersOf(team, wanted[place] & ~before[place]);
+    coming += static_cast<int>(arriving.size());
+    if (!leaving.empty() && 2 + keysFor(all) < keysFor(leaving) + keysFor(arriving)) {
+      press(KeypadAction::All);
+      confirm(team);
+      move(team, all, KeypadAction::IN);
+    } else {
+      move(team, leaving, KeypadAction::OUT);
+      move(team, arriving, KeypadAction::IN);
+    }
+  }
+  m_table.recorded.waitUntil("who stands on court",
+                             [&](const Game&) { return m_table.recorded.onCourt() == wanted; });
+  return "substitution of " + std::to_string(coming);
+}
+
+void KeypadHand::move(int team, const std::vector<std::string>& numbers, KeypadAction action) {
+  for (const std::string& number : numbers) {
+    type(number);
+    press(action);
+    m_table.camera.take("substitution");
+    confirm(team);
+  }
+}
+
+} // namespace hooptab
