@@ -6,6 +6,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/MiniCourt.h"
+#include "live/ScoreText.h"
 #include "live/StatButton.h"
 #include "live/StatControls.h"
 #include "storage/EventWords.h"
@@ -38,6 +39,7 @@ constexpr int kMissed = 1515;
 constexpr int kCourtHint = 1095;
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
+constexpr int kMostSeconds = 99 * 60 + 59; // that can be typed; the game knows its periods
 constexpr int kEntries = Roster::kLargestEntry + 1;
 
 } // namespace
@@ -70,7 +72,7 @@ void frmEDIT::makeFields() {
   m_time = new QLineEdit(this);
   m_time->setObjectName(QStringLiteral("txtTEMPS"));
   m_time->setFont(Theme::figures(font().pointSize()));
-  static const QRegularExpression kClock(QStringLiteral("[0-9]{2}:[0-5][0-9]"));
+  static const QRegularExpression kClock(QStringLiteral("[0-9]{1,2}:[0-5][0-9]"));
   m_time->setValidator(new QRegularExpressionValidator(kClock, m_time));
   m_player = new QComboBox(this);
   m_player->setObjectName(QStringLiteral("cmbPLAYER"));
@@ -239,7 +241,7 @@ void frmEDIT::showShot() {
 }
 
 int frmEDIT::clockSeconds() const {
-  return Module1::clockSeconds(fromQt(m_time->text())).value_or(0);
+  return typedClock(fromQt(m_time->text()), kMostSeconds).value_or(0);
 }
 
 // A player who is in no roster has to be named before the event can be changed.
