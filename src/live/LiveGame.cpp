@@ -395,7 +395,10 @@ bool LiveGame::record(const std::string& eventText, int text) {
   if (!canRecord())
     return false;
   const std::vector<EventChange> steps = {added(lineOf(eventText))};
-  return done(text, steps, deletionOf(steps));
+  if (!done(text, steps, deletionOf(steps)))
+    return false;
+  decideAgain();
+  return true;
 }
 
 bool LiveGame::recordShot(int team, int player, EventCode kind, bool isMade,

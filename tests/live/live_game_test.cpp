@@ -193,6 +193,21 @@ TEST_F(LiveGameTest, IsOpenedAsItWasLeft) {
   EXPECT_EQ(again.period(), 2) << "what was open stays";
 }
 
+TEST_F(LiveGameTest, AScoreThatChangesAfterTheBuzzerDecidesAtOnce) {
+  bothOnCourt();
+  live.setPeriod(4);
+  live.start();
+  live.recordShot(0, 1, EventCode::GFG, true, {{1, 1}});
+  pass(600);
+  ASSERT_EQ(live.phase(), Phase::Decided);
+  live.recordShot(1, 1, EventCode::GFT, true);
+  EXPECT_EQ(live.phase(), Phase::Decided);
+  live.recordShot(1, 1, EventCode::GFT, true);
+  EXPECT_EQ(live.phase(), Phase::OvertimeAsked) << "the game would stand at a tie that nothing resolves";
+  live.recordShot(1, 1, EventCode::GFT, true);
+  EXPECT_EQ(live.phase(), Phase::Decided);
+}
+
 TEST_F(LiveGameTest, ClockAndPeriodByHand) {
   bothOnCourt();
   live.start();
