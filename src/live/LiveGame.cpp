@@ -45,6 +45,7 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
   m_wasLeftRunning = false;
   m_slots = {};
   m_endedPeriod = 0;
+  offerEarlier();
   showAsLeft();
   return GameFileProblem::None;
 }
@@ -82,9 +83,7 @@ void LiveGame::showAsLeft() {
   }
   if (whole != before) {
     putOnCourt(whole);
-    recordOnCourt();
-    m_history.clear();
-    m_lastShot = {};
+    recordStop(); // nobody's action
   }
 }
 
@@ -550,11 +549,34 @@ bool LiveGame::turn(const LiveAction& action, std::vector<EventChange>& inverse)
   return true;
 }
 
+// Where nothing of this session is left to be taken back: the last action that is not deleted. A stop that
+// nobody can delete is passed over; behind a substitution that others build upon everything else stays.
+void LiveGame::offerEarlier() {
+  if (m_access == Access::Reading || m_history.toUndo() != nullptr)
+    return;
+  const auto events = game().events.events();
+  for (auto event = events.rbegin(); event != events.rend(); ++event) {
+    if (!event->isUnderstood || event->isDeleted)
+      continue;
+    const EventPlace place{event->period, std::string(event->key)};
+    const EventKind* kind = event->kind();
+    if (kind == nullptr && !isSubstitution(m_log.lines(), place.period, place.key, m_log.rosters()))
+      continue;
+    EditPlan plan = editing().deletion(std::span(&place, 1), true);
+    if (plan.isPossible)
+      m_history.addEarlier({kind == nullptr ? kSubstitution : kind->wordsText, place, std::move(plan.steps),
+                            m_log.nextNumber()});
+    if (plan.isPossible || plan.conflict)
+      return;
+  }
+}
+
 bool LiveGame::undo() {
   std::vector<EventChange> inverse;
   if (m_history.toUndo() == nullptr || !turn(*m_history.toUndo(), inverse))
     return false;
   m_history.undone(std::move(inverse), m_log.nextNumber());
+  offerEarlier();
   return true;
 }
 

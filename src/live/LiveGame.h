@@ -158,6 +158,7 @@ class LiveGame {
   bool done(int text, const std::vector<EventChange>& steps, std::vector<EventChange> back);
   [[nodiscard]] const std::pair<std::string, std::string>* openSubstitution() const;
   void decideAgain();
+  void offerEarlier();
   bool turn(const LiveAction& action, std::vector<EventChange>& inverse);
 
   LiveLog m_log;

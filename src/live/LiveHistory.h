@@ -1,5 +1,6 @@
 // What the user has done, for taking it back and doing it again: actions, each with the steps that do and
-// undo it. As deep as the session; a new action ends what could be done again.
+// undo it. What earlier sessions have left comes behind this one's; a new action ends what could be done
+// again.
 #pragma once
 
 #include "live/OnCourt.h"
@@ -23,6 +24,8 @@ class LiveHistory {
     m_done.push_back(std::move(action));
     m_undone.clear();
   }
+  // Of an earlier session, when nothing of this one is left to be taken back.
+  void addEarlier(LiveAction action) { m_done.insert(m_done.begin(), std::move(action)); }
   void clear() {
     m_done.clear();
     m_undone.clear();

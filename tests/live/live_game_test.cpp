@@ -182,7 +182,6 @@ TEST_F(LiveGameTest, IsOpenedAsItWasLeft) {
   EXPECT_EQ(again.period(), 1);
   EXPECT_EQ(again.onCourt(), live.onCourt());
   EXPECT_EQ(again.phase(), Phase::Stopped);
-  EXPECT_EQ(again.toUndo(), nullptr);
   EXPECT_EQ(again.log().nextNumber(), live.log().nextNumber());
   live.start();
   pass(475);
@@ -191,6 +190,38 @@ TEST_F(LiveGameTest, IsOpenedAsItWasLeft) {
   EXPECT_EQ(again.clockSeconds(), 600);
   EXPECT_EQ(again.open(folder.path("none.GAM")), GameFileProblem::Absent);
   EXPECT_EQ(again.period(), 2) << "what was open stays";
+}
+
+TEST_F(LiveGameTest, WhatAnEarlierSessionHasDoneIsTakenBackToo) {
+  bothOnCourt();
+  live.start();
+  pass(10);
+  live.toggleOnCourt(0, 1);
+  live.toggleOnCourt(0, 6);
+  pass(10);
+  live.recordShot(0, 2, EventCode::GDK, true);
+  live.recordAction(0, 3, EventCode::SA);
+  live.undo();
+  live.stop();
+  const std::string left = lines();
+
+  LiveGame again(store, time);
+  ASSERT_EQ(again.open(path), GameFileProblem::None);
+  ASSERT_NE(again.toUndo(), nullptr);
+  EXPECT_TRUE(again.recordAction(1, 3, EventCode::SPF));
+  EXPECT_TRUE(again.undo());
+  EXPECT_TRUE(again.undo());
+  EXPECT_EQ(again.state().points(0), 0);
+  EXPECT_TRUE(again.undo()); // the substitution, and its start of the clock
+  EXPECT_EQ(again.onCourt(), (OnCourt{kFive, kFive}));
+  EXPECT_TRUE(lines().ends_with(" 09:40,ARRET,IN-04-05-10-12-15,IN-04-05-10-12-15 E09:40,SPF,1-10"))
+      << lines();
+  EXPECT_TRUE(again.redo() && again.redo());
+  EXPECT_EQ(again.state().points(0), 2);
+  EXPECT_EQ(lines(), left + " E09:40,SPF,1-10");
+  EXPECT_TRUE(again.undo() && again.undo() && again.undo());
+  EXPECT_EQ(again.onCourt(), (OnCourt{0, 0}));
+  EXPECT_FALSE(again.undo()) << "neither START nor STOP";
 }
 
 TEST_F(LiveGameTest, AScoreThatChangesAfterTheBuzzerDecidesAtOnce) {
