@@ -215,6 +215,7 @@ frmLIVE::Opening frmLIVE::open(const QString& path) {
     return Opening::Problem;
   if (outcome != GameLock::Outcome::HeldElsewhere) // by this window, that is
     m_lock = std::move(lock);
+  m_isSwitched = false;
   m_followUp->dismiss();
   m_bench->clearSelection();
   m_lostStop->offer(LostStop::of(m_game.clockSeconds(), fileTime, QDateTime::currentSecsSinceEpoch()));

@@ -241,12 +241,16 @@ TEST_F(LiveWindowTest, AnotherGameWaitsForTheFirst) {
   EXPECT_EQ(window->open(toQt(other)), frmLIVE::Opening::Refused) << "the user has not given the rest up";
   EXPECT_EQ(window->path(), toQt(path));
   fs::rename(folder.path("pulled"), folder.path("stick"));
+  const QString sides = find<QToolButton>("cmdCOUL(0)").text();
+  press("cmdSWITCH");
+  ASSERT_NE(find<QToolButton>("cmdCOUL(0)").text(), sides);
   ASSERT_EQ(window->open(toQt(other)), frmLIVE::Opening::Opened);
   EXPECT_EQ(events(), "10:00,DEPART 09:40,ARRET");
   EXPECT_FALSE(folder.holds("stick/A.GAM.lock"));
   EXPECT_TRUE(folder.holds("B.GAM.lock"));
   EXPECT_EQ(label("lblNO"), "");
   EXPECT_EQ(label("lblTEMPS"), "10:00");
+  EXPECT_EQ(find<QToolButton>("cmdCOUL(0)").text(), sides) << "a game begins with its own sides";
   GameLock elsewhere;
   ASSERT_EQ(elsewhere.acquire(toQt(path)), GameLock::Outcome::Held);
   EXPECT_EQ(window->open(toQt(path)), frmLIVE::Opening::Refused);
