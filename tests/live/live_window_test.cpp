@@ -10,6 +10,7 @@
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDropEvent>
 #include <QLabel>
@@ -309,6 +310,8 @@ TEST_F(LiveWindowTest, AfterACrashOneClickTakesEitherClock) {
     EXPECT_EQ(label("lblTEMPS"), "08:30");
     EXPECT_EQ(label("lblNom(0)"), "Ann") << "everyone is on court";
     EXPECT_TRUE(find("picLOSTSTOP").isVisible());
+    window->findChild<QAction*>(QStringLiteral("cmdFILTER"))->trigger();
+    EXPECT_LE(window->minimumSizeHint().height(), 645) << "768 lines would cut off what is below";
   };
   using std::chrono::seconds;
   findCrashed(seconds(32));
