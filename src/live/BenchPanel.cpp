@@ -139,6 +139,7 @@ void BenchPanel::askSeveral() {
     return;
   auto* several = new frmSUBST(*m_game, m_texts, this);
   several->setAttribute(Qt::WA_DeleteOnClose);
+  connect(several, &frmSUBST::clockAsked, this, &BenchPanel::clockAsked);
   connect(several, &QDialog::accepted, this, [this, several] { emit onCourtAsked(several->onCourt()); });
   several->openBeside(*this);
 }

@@ -45,6 +45,7 @@ class BenchPanel : public QWidget {
   void actionAsked(int team, int player, hooptab::EventCode kind); // for a player of the bench
   void allOutAsked(int team);
   void onCourtAsked(hooptab::OnCourt onCourt); // from "several at once"
+  void clockAsked();                           // there, too, by its key
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -166,6 +166,7 @@ void frmLIVE::connectEverything() {
     showGame();
   });
   connect(m_bench, &BenchPanel::onCourtAsked, this, &frmLIVE::setOnCourt);
+  connect(m_bench, &BenchPanel::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_bench, &BenchPanel::selected, this, &frmLIVE::showSelected);
   connect(m_bench, &BenchPanel::actionAsked, this, &frmLIVE::record);
   connect(m_followUp, &FollowUpBar::assistChosen, this, [this](int slot) { followUp(slot, EventCode::SA); });

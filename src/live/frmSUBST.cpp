@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -60,6 +61,10 @@ QLabel* bandOf(const LiveGame& game, int team, QWidget* parent) {
 frmSUBST::frmSUBST(const LiveGame& game, const Texts& texts, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_game(game), m_texts(texts), m_choice(game) {
   makeContents();
+  // The game goes on meanwhile: the clock's key is the clock's, and presses no player.
+  auto* clock = new QShortcut(Qt::Key_Space, this);
+  clock->setAutoRepeat(false);
+  connect(clock, &QShortcut::activated, this, &frmSUBST::clockAsked);
 }
 
 frmSUBST::frmSUBST(const LiveGame& game, const PastSubstitution& past, const Texts& texts, QWidget* parent)

@@ -21,6 +21,7 @@ class JerseyButton;
 class Texts;
 
 class frmSUBST : public QDialog {
+  Q_OBJECT
  public:
   // Both must outlive it. The game may run on meanwhile, but nobody else may substitute.
   frmSUBST(const LiveGame& game, const Texts& texts, QWidget* parent = nullptr);
@@ -33,6 +34,9 @@ class frmSUBST : public QDialog {
   const OnCourt& onCourt() const { return m_choice.onCourt(); }
   // Modal, over the panel it was called from, without waiting for the answer.
   void openBeside(const QWidget& panel);
+
+ signals:
+  void clockAsked(); // by its key; never in the past
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -369,6 +369,25 @@ TEST_F(LiveWindowTest, TheBenchActsByClickAndDropAndAllAtOnce) {
   EXPECT_FALSE(find("cmdOUTALL(1)").isEnabled());
 }
 
+TEST_F(LiveWindowTest, TheClocksKeyIsTheClocksWhileSeveralAreChosen) {
+  press("cmdSEVERAL");
+  QWidget& several = find("frmSUBST");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&several));
+  const auto chosen = [&several](int player) {
+    return several.findChild<JerseyButton*>(jerseyButtonName(player))->isChecked();
+  };
+  QTest::mouseClick(several.findChild<QWidget*>(jerseyButtonName(0)), Qt::LeftButton);
+  QTest::mouseClick(several.findChild<QWidget*>(jerseyButtonName(5)), Qt::LeftButton);
+  several.findChild<QWidget*>(jerseyButtonName(1))->setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  EXPECT_TRUE(window->isRunning());
+  EXPECT_TRUE(chosen(1)) << "the key presses nobody";
+  time.now += 3;
+  QTest::keyClick(&several, Qt::Key_Return);
+  EXPECT_EQ(events(), "10:00,DEPART 09:57,ARRET 09:57,DEPART");
+  EXPECT_EQ(label("lblNom(4)"), "Fay");
+}
+
 TEST_F(LiveWindowTest, FreeThrowsAfterTheBuzzerGoToTheEndedPeriod) {
   press("cmdSTART");
   time.now += 600;
