@@ -51,6 +51,7 @@ constexpr int kGap = 4;
 constexpr int kLeastSide = 256;
 constexpr int kMostSide = 340;
 constexpr double kSideShare = 0.187;
+constexpr int kPathWidth = 380; // so that what can be done about it stands beside it on a small screen
 
 } // namespace
 
@@ -313,7 +314,7 @@ void frmLIVE::askOvertime() {
 
 void frmLIVE::gameOver() {
   if (m_game.phase() == LiveGame::Phase::ReadOnly)
-    return m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)), m_readOnly->text());
+    return m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)), m_readOnly->toolTip());
   const LiveGame::Phase before = m_game.phase();
   m_game.stop();
   if (before == LiveGame::Phase::Running)
@@ -419,7 +420,9 @@ void frmLIVE::relabelWindow() {
     panel->relabelPanel();
     panel->setPlaysRight(playsRight(slot));
   }
-  m_readOnly->setText(toQt(m_texts.withPlaceholder(kForReadingOnly, m_game.game().path)));
+  const QString path = m_readOnly->fontMetrics().elidedText(this->path(), Qt::ElideMiddle, kPathWidth);
+  m_readOnly->setText(toQt(m_texts.withPlaceholder(kForReadingOnly, fromQt(path))));
+  m_readOnly->setToolTip(toQt(m_texts.withPlaceholder(kForReadingOnly, m_game.game().path)));
   m_lostStop->relabelPanel();
   m_score->relabelPanel();
   m_score->setSides(m_isSwitched);

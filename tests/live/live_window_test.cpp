@@ -274,7 +274,9 @@ TEST_F(LiveWindowTest, WhatCannotBeWrittenOpensForReading) {
     const std::string before = folder.read(name);
     ASSERT_EQ(window->open(toQt(folder.path(name))), frmLIVE::Opening::Opened);
     EXPECT_FALSE(folder.holds("stick/A.GAM.lock"));
-    EXPECT_TRUE(find("lblREADONLY").isVisible());
+    const auto& reading = find<QLabel>("lblREADONLY");
+    EXPECT_TRUE(reading.isVisible());
+    EXPECT_LE(reading.fontMetrics().horizontalAdvance(reading.text()), reading.width());
     EXPECT_EQ(label("lblPTS0"), "1");
     EXPECT_EQ(label("lblNom(0)"), "Ann");
     EXPECT_FALSE(find("cmdSTART").isEnabled() || find("cmdBUTF(0)").isEnabled() ||
