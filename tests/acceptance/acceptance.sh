@@ -92,7 +92,7 @@ xdotool key Tab
 typed 'B, men'
 xdotool key Return
 until_true "the team is saved" says CONFIG.INI '^7=HERONS,.*B  men, ,'
-tabs 14 # from the level to the number of the player
+tabs 15 # from the level to the number of the player
 typed '23'
 xdotool key Tab End Tab
 typed 'Ann Able'

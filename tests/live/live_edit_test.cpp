@@ -236,7 +236,7 @@ TEST_F(LiveEditTest, RandomEditsCanAllBeTakenBack) {
         live.toggleOnCourt(roll(2), 1 + roll(7));
     }
     live.stop();
-    ASSERT_EQ(live.open(path), GameFileProblem::None); // nothing before can be taken back
+    ASSERT_EQ(live.open(path), GameFileProblem::None);
     const EventLines before = live.log().lines();
     const GameState counted = live.state();
     const OnCourt onCourt = live.onCourt();
@@ -264,7 +264,10 @@ TEST_F(LiveEditTest, RandomEditsCanAllBeTakenBack) {
           changes += live.editEvent(place, roll(601), shot) ? 1 : 0;
         break;
       case 3: changes += live.setTime(place, roll(601)) ? 1 : 0; break;
-      case 4: changes -= live.undo() ? 1 : 0; break;
+      case 4:
+        if (changes > 0) // else it would take back what the earlier session has recorded
+          changes -= live.undo() ? 1 : 0;
+        break;
       case 5: changes += live.redo() ? 1 : 0; break;
       default: changes += live.setDeleted(std::vector{place}, !event.isDeleted) ? 1 : 0;
       }
@@ -275,9 +278,8 @@ TEST_F(LiveEditTest, RandomEditsCanAllBeTakenBack) {
     ASSERT_EQ(again.open(path), GameFileProblem::None);
     EXPECT_EQ(again.log().lines(), live.log().lines()) << seed;
 
-    while (live.undo())
-      --changes;
-    EXPECT_EQ(changes, 0) << seed;
+    for (; changes > 0; --changes)
+      ASSERT_TRUE(live.undo()) << seed;
     EventLines left = live.log().lines();
     for (auto& [period, events] : left)
       std::erase_if(events, [&before](const auto& event) {

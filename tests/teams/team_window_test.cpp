@@ -130,7 +130,7 @@ TEST_F(TeamWindowTest, ShowsTheTeamThatIsChosen) {
 TEST_F(TeamWindowTest, TheTabKeyGoesFromTheTeamToThePlayer) {
   field("txtABB").setFocus();
   QStringList fields;
-  for (int i = 0; i < 20; ++i) {
+  for (int i = 0; i < 21; ++i) {
     QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
     const QString name = window->focusWidget()->objectName();
     if (name.startsWith(u"txt") || name == u"cmbPOSITION")
