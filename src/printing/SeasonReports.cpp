@@ -88,7 +88,7 @@ ReportCell cellOf(const SeasonRow& row, int column, SeasonView view, const Texts
 
 class SeasonReportMaker {
  public:
-  SeasonReportMaker(const SeasonStatistics& statistics, const SeasonChoice& choice, const Texts& texts)
+  SeasonReportMaker(const SeasonStatistics& statistics, const SeasonReportChoice& choice, const Texts& texts)
       : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_choice(choice), m_texts(texts) {}
 
   Report make(SeasonReport which) {
@@ -370,7 +370,7 @@ class SeasonReportMaker {
 
   const SeasonStatistics& m_statistics;
   const GameCatalogue& m_catalogue;
-  const SeasonChoice& m_choice;
+  const SeasonReportChoice& m_choice;
   const Texts& m_texts;
   Report m_report;
 };
@@ -381,7 +381,7 @@ std::span<const SeasonReportName> seasonReports() {
   return kReports;
 }
 
-Report seasonReport(SeasonReport which, const SeasonStatistics& statistics, const SeasonChoice& choice,
+Report seasonReport(SeasonReport which, const SeasonStatistics& statistics, const SeasonReportChoice& choice,
                     const Texts& texts) {
   return SeasonReportMaker(statistics, choice, texts).make(which);
 }

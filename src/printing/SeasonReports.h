@@ -36,7 +36,7 @@ struct SeasonReportName {
 };
 [[nodiscard]] std::span<const SeasonReportName> seasonReports();
 
-struct SeasonChoice {
+struct SeasonReportChoice {
   std::optional<SeasonId> team; // whose results are shown
   std::optional<SeasonId>
       chosen; // the player or line of a performance report; one that is highlighted in the others
@@ -44,6 +44,6 @@ struct SeasonChoice {
 
 // A performance report without a chosen row that played is one of nobody: it holds no tables.
 [[nodiscard]] Report seasonReport(SeasonReport which, const SeasonStatistics& statistics,
-                                  const SeasonChoice& choice, const Texts& texts);
+                                  const SeasonReportChoice& choice, const Texts& texts);
 
 } // namespace hooptab

@@ -212,6 +212,10 @@ void frmSTATS::showPerson(const SeasonRow& row, bool isLine) {
             });
 }
 
+std::shared_ptr<const SeasonPerson> frmSTATS::chosenPerson() const {
+  return m_person->person();
+}
+
 void frmSTATS::openGame(std::size_t game) {
   emit gameAsked(toQt(m_desk.catalogue()->games()[game].path));
 }

@@ -37,6 +37,10 @@ class frmSTATS : public ChildWindow {
   void readFolder();
   void readFolder(const QString& folder, bool withSubfolders);
   bool isBusy() const { return m_work.isRunning(); }
+  // What reports are made of; null before statistics were generated.
+  const std::shared_ptr<const Season>& statistics() const { return m_desk.season(); }
+  std::optional<SeasonId> chosenTeam() const { return m_desk.chosenTeam(); }
+  std::shared_ptr<const SeasonPerson> chosenPerson() const; // player or line; null: nobody
 
   void relabelWindow() override;
   void applyColours() override;

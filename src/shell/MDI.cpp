@@ -48,6 +48,10 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int kStatusMargin = 8;
+constexpr int kHighlight = 1416;
+constexpr int kReportOption = 1417;
+constexpr int kChoosePerson = 2135;
+constexpr int kGenerateFirst = 2146;
 constexpr int kErrorTitle = 1060;
 constexpr int kWarningTitle = 1139;
 constexpr int kNoTeam = 1174;
@@ -78,7 +82,8 @@ QStringList localFiles(const QMimeData& data) {
 }
 
 // The window of a kind of which one is open at a time, or null.
-template <class Window> Window* firstOf(const QList<ChildWindow*>& windows) {
+template <class Window>
+Window* firstOf(const QList<ChildWindow*>& windows) {
   for (ChildWindow* child : windows) {
     if (auto* window = qobject_cast<Window*>(child))
       return window;
@@ -183,9 +188,16 @@ void MDI::carryOut(const QString& key) {
     return openTeams();
   if (key == u"STATS")
     return openSeason();
-  if (frmSTATS* window = season(); window != nullptr && key == u"stCLOSE") {
-    window->parentWidget()->close();
-    return;
+  if (frmSTATS* window = season()) {
+    if (key == u"stCLOSE") {
+      window->parentWidget()->close();
+      return;
+    }
+    const auto report = std::ranges::find(seasonReports(), fromQt(key), &SeasonReportName::command);
+    if (report != seasonReports().end())
+      m_seasonReport = report->report;
+    if (report != seasonReports().end() || key == u"stPRINT")
+      return printSeason(*window);
   }
   if (key == u"blankPRINT")
     return preview(teamForms(m_teams, m_workshop.texts));
@@ -400,10 +412,28 @@ void MDI::preview(std::vector<ReportOffer> offers) {
 void MDI::openSeason() {
   if (frmSTATS* open = season())
     return bringToFront(*open);
-  auto* window = new frmSTATS(m_workshop.store.files(), m_workshop.settings, m_workshop.texts, m_workshop.dialogs);
+  auto* window =
+      new frmSTATS(m_workshop.store.files(), m_workshop.settings, m_workshop.texts, m_workshop.dialogs);
   connect(window, &frmSTATS::gameAsked, this, &MDI::openGame);
   addChild(window);
   window->readFolder();
+}
+
+void MDI::printSeason(frmSTATS& window) {
+  const auto say = [this](int text) {
+    m_workshop.dialogs.inform(this, toQt(m_workshop.texts.text(kReportOption)),
+                              toQt(m_workshop.texts.text(text)));
+  };
+  if (!window.statistics())
+    return say(kGenerateFirst);
+  SeasonOffer offer{window.statistics(), window.chosenTeam(), window.chosenPerson()};
+  const bool isOfPerson = m_seasonReport == SeasonReport::Player || m_seasonReport == SeasonReport::Line;
+  if (isOfPerson && (!offer.person || offer.person->isLine != (m_seasonReport == SeasonReport::Line)))
+    return say(kChoosePerson);
+  if (offer.person && canHighlight(m_seasonReport, *offer.person))
+    offer.highlightsPerson = m_workshop.dialogs.ask(this, toQt(m_workshop.texts.text(kReportOption)),
+                                                    toQt(m_workshop.texts.text(kHighlight)));
+  preview(seasonOffers(offer, m_seasonReport, m_workshop.texts));
 }
 
 void MDI::bringToFront(ChildWindow& child) {

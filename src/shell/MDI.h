@@ -5,6 +5,7 @@
 
 #include "appearance/ColourScheme.h"
 #include "live/KeypadAssignment.h"
+#include "printing/SeasonReports.h"
 #include "shell/CommandState.h"
 #include "shell/DialogLanguage.h"
 #include "shell/HelpPages.h"
@@ -84,6 +85,7 @@ class MDI : public QMainWindow {
   void makeGame();
   void openTeams();
   void openSeason(); // one at a time
+  void printSeason(frmSTATS& window);
   void preview(std::vector<ReportOffer> offers); // in the print preview that is open, or a new one
   void openColours();
   void openKeys();
@@ -96,8 +98,8 @@ class MDI : public QMainWindow {
   void addChild(ChildWindow* child);
   void bringToFront(ChildWindow& child);
   [[nodiscard]] QList<ChildWindow*> children() const; // the open windows
-  [[nodiscard]] frmLIVE* live() const;      // the one that is open, or null
-  [[nodiscard]] frmMANUAL* manual() const; // the same
+  [[nodiscard]] frmLIVE* live() const;                // the one that is open, or null
+  [[nodiscard]] frmMANUAL* manual() const;            // the same
   [[nodiscard]] frmSTATS* season() const;             // the one that is open, or null
   [[nodiscard]] frmVIEW* scorecard() const;           // the one in front, or null
   [[nodiscard]] frmVIEW* scorecardOf(const QString& path) const;
@@ -112,6 +114,7 @@ class MDI : public QMainWindow {
   TeamStore m_teams;
   KeypadSetup m_keypad; // for the live window
   QTimer m_retryOfWrites;
+  SeasonReport m_seasonReport = SeasonReport::TeamSummary; // chosen last
   DialogLanguage m_dialogLanguage;
   HelpPages m_help;
 

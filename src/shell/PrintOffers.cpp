@@ -57,6 +57,40 @@ std::vector<ReportOffer> teamForms(TeamStore& teams, const Texts& texts) {
   return offers;
 }
 
+bool canHighlight(SeasonReport report, const SeasonPerson& person) {
+  switch (report) {
+  case SeasonReport::LineShots:
+  case SeasonReport::LineOther: return person.isLine;
+  case SeasonReport::PlayerShots:
+  case SeasonReport::PlayerOther:
+  case SeasonReport::LeadersTotal:
+  case SeasonReport::LeadersPerGame:
+  case SeasonReport::LeadersPerMinute: return !person.isLine;
+  case SeasonReport::TeamSummary:
+  case SeasonReport::TeamDetail:
+  case SeasonReport::Player:
+  case SeasonReport::Line: break;
+  }
+  return false;
+}
+
+std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first, const Texts& texts) {
+  std::vector<ReportOffer> offers;
+  for (const SeasonReportName& name : seasonReports()) {
+    const bool isOfPerson = name.report == SeasonReport::Player || name.report == SeasonReport::Line;
+    if (isOfPerson && (!offer.person || offer.person->isLine != (name.report == SeasonReport::Line)))
+      continue;
+    SeasonReportChoice choice{offer.team, std::nullopt};
+    if (isOfPerson || (offer.highlightsPerson && offer.person && canHighlight(name.report, *offer.person)))
+      choice.chosen = offer.person->row.id;
+    ReportOffer made = named(name.text, texts, [=, season = offer.season, report = name.report, &texts] {
+      return seasonReport(report, season->statistics(), choice, texts);
+    });
+    offers.insert(name.report == first ? offers.begin() : offers.end(), std::move(made));
+  }
+  return offers;
+}
+
 std::vector<ReportOffer> emptyForms(const Texts& texts) {
   return {named(kBlankForms, texts, [&texts] { return blankForms(texts); })};
 }

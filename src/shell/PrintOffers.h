@@ -2,12 +2,16 @@
 // window it was asked from may close, and a game goes on.
 #pragma once
 
+#include "printing/SeasonReports.h"
 #include "printing/frmprint.h"
 #include "scorecard/ScorecardView.h"
+#include "season/Season.h"
 #include "storage/GameFile.h"
 #include "storage/GameState.h"
 #include "teams/TeamStore.h"
 
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace hooptab {
@@ -21,6 +25,17 @@ namespace hooptab {
 teamReports(const TeamRecord& team, const std::vector<TeamPlayer>& players, const Texts& texts);
 // Prepared forms, an offer for each team; none without teams.
 [[nodiscard]] std::vector<ReportOffer> teamForms(TeamStore& teams, const Texts& texts);
+// The eleven reports of a season, that one first; those of one player or line only for the chosen one.
+struct SeasonOffer {
+  std::shared_ptr<const Season> season; // not null
+  std::optional<SeasonId> team;
+  std::shared_ptr<const SeasonPerson> person; // null: nobody is chosen
+  bool highlightsPerson = false;
+};
+[[nodiscard]] std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first,
+                                                    const Texts& texts);
+// Whether a report is about players or lines, so that a chosen one can be told from the others there.
+[[nodiscard]] bool canHighlight(SeasonReport report, const SeasonPerson& person);
 [[nodiscard]] std::vector<ReportOffer> emptyForms(const Texts& texts);
 
 } // namespace hooptab

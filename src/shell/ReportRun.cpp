@@ -86,7 +86,7 @@ class ReportRun {
       return complain(kFailed, m_request.source + ": there is no such folder, or it cannot be read");
     GameCriteria criteria;
     criteria.team = m_request.team;
-    SeasonChoice choice;
+    SeasonReportChoice choice;
     choice.team = catalogue.teamOf(m_request.team);
     if (!m_request.team.empty() && !choice.team)
       return complain(kWrongUse,

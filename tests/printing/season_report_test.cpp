@@ -77,7 +77,7 @@ TEST_F(SeasonReportTest, TheRowsOfPlayersAndLinesAreThoseOfTheSeason) {
 
 TEST_F(SeasonReportTest, EveryReportHasItsRowsInBothLanguages) {
   const SeasonStatistics season = folder.statistics();
-  SeasonChoice choice;
+  SeasonReportChoice choice;
   choice.team = folder.scan().teamOf("PAN-A");
   for (const Language language : {Language::English, Language::French}) {
     texts.setLanguage(language);

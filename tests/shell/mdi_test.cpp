@@ -502,11 +502,23 @@ TEST_F(MainWindowTest, OpensOneSeasonWindowWhoseGamesBecomeScorecards) {
   action("STATS").trigger();
   ASSERT_EQ(seasons().size(), 1);
   EXPECT_TRUE(action("stCLOSE").isEnabled());
-  EXPECT_FALSE(action("stPRINT").isEnabled()) << "nothing prints yet";
   frmSTATS& season = *seasons()[0];
   ASSERT_TRUE(QTest::qWaitFor([&] { return !season.isBusy(); }));
   const auto* list = season.findChild<QAbstractItemView*>(QStringLiteral("lvwGAMES"));
   EXPECT_EQ(list->model()->rowCount(), 1);
+
+  dialogs.shown.clear();
+  action("stPRINT").trigger();
+  ASSERT_EQ(dialogs.shown.size(), 1U);
+  EXPECT_EQ(dialogs.shown[0].text, text(2146));
+  season.findChild<QAbstractButton*>(QStringLiteral("cmdGENERATE"))->click();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !season.isBusy() && season.statistics(); }));
+  action("stRAPLIGNE").trigger();
+  ASSERT_EQ(dialogs.shown.size(), 2U);
+  EXPECT_EQ(dialogs.shown[1].text, text(2135)) << "no line is chosen";
+  EXPECT_EQ(area().findChildren<frmprint*>().size(), 0);
+  action("stSTATJOUEURS").trigger();
+  EXPECT_EQ(area().findChildren<frmprint*>().size(), 1);
 
   emit season.gameAsked(path);
   ASSERT_EQ(scorecards().size(), 1);
