@@ -5,9 +5,12 @@
 #include <QCollator>
 #include <QFont>
 #include <QGuiApplication>
+#include <QHash>
 #include <QPalette>
 #include <algorithm>
+#include <cstdint>
 #include <numeric>
+#include <optional>
 
 namespace hooptab {
 
@@ -24,6 +27,57 @@ void sortBy(std::vector<int>& order, const Keys& keys, Qt::SortOrder direction) 
       std::swap(left, right);
     return keys[static_cast<std::size_t>(left)] < keys[static_cast<std::size_t>(right)];
   });
+}
+
+// The jerseys of a line ("04-07-12-23-45 *") as a number of the same order; nothing for other texts.
+std::optional<std::uint64_t> jerseysAsNumber(const QString& text) {
+  constexpr QLatin1String kLetters(" -*0123456789"); // in the collator's order
+  constexpr qsizetype kLongest = 16;                 // four bits a letter
+  if (text.size() > kLongest)
+    return std::nullopt;
+  std::uint64_t number = 0;
+  for (qsizetype i = 0; i < kLongest; ++i) {
+    const qsizetype place = i < text.size() ? kLetters.indexOf(text[i]) : -1;
+    if (place < 0 && i < text.size())
+      return std::nullopt;
+    number = number << 4 | static_cast<std::uint64_t>(place + 1);
+  }
+  return number;
+}
+
+// A number for each text, in their order. A season has tens of thousands of lines: the collator looks at each
+// different text once, and not at all where all are lines, so that the window does not stand still.
+std::vector<std::uint64_t> sortNumbers(const std::vector<QString>& texts) {
+  std::vector<std::uint64_t> numbers;
+  numbers.reserve(texts.size());
+  for (const QString& text : texts) {
+    const auto number = jerseysAsNumber(text);
+    if (!number)
+      break;
+    numbers.push_back(*number);
+  }
+  if (numbers.size() == texts.size())
+    return numbers;
+
+  QHash<QString, std::uint64_t> ranks;
+  for (const QString& text : texts)
+    ranks.emplace(text, 0);
+  const QCollator collator{QLocale(QLocale::English)}; // the machine's own may sort É behind Z; French agrees
+  std::vector<std::pair<QCollatorSortKey, QString>> different;
+  different.reserve(static_cast<std::size_t>(ranks.size()));
+  for (auto each = ranks.keyBegin(); each != ranks.keyEnd(); ++each)
+    different.emplace_back(collator.sortKey(*each), *each);
+  std::ranges::sort(different, [](const auto& left, const auto& right) { return left.first < right.first; });
+  std::uint64_t rank = 0;
+  for (std::size_t i = 0; i < different.size(); ++i) {
+    if (i > 0 && different[i - 1].first < different[i].first)
+      ++rank;
+    ranks[different[i].second] = rank;
+  }
+  numbers.clear();
+  for (const QString& text : texts)
+    numbers.push_back(ranks.value(text));
+  return numbers;
 }
 
 } // namespace
@@ -126,12 +180,11 @@ std::vector<int> SnapshotModel::sortedOrder() const {
     sortBy(order, keys, m_sortOrder);
     return order;
   }
-  const QCollator collator;
-  std::vector<QCollatorSortKey> keys;
-  keys.reserve(order.size());
+  std::vector<QString> texts;
+  texts.reserve(order.size());
   for (const int row : order)
-    keys.push_back(collator.sortKey(m_rows.text(row, m_sortColumn)));
-  sortBy(order, keys, m_sortOrder);
+    texts.push_back(m_rows.text(row, m_sortColumn));
+  sortBy(order, sortNumbers(texts), m_sortOrder);
   return order;
 }
 
