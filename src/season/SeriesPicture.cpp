@@ -54,7 +54,8 @@ Layout layOut(const QFontMetricsF& metrics, const QRectF& area, const SeriesDraw
   }
   const double lineHeight = metrics.height();
   const double top = area.top() + 2.2 * lineHeight;
-  const double bottom = area.bottom() - 1.8 * lineHeight;
+  const bool hasNumbersBelow = drawing.style == Style::Margins && low < 0; // under the lowest bar
+  const double bottom = area.bottom() - (hasNumbersBelow ? 2.7 : 1.8) * lineHeight;
   const int mostSteps = std::clamp(static_cast<int>((bottom - top) / (1.6 * lineHeight)), 1, 8);
   layout.step =
       stepOf(std::max(high - low, drawing.unit == Unit::Percent ? 0.1 : 1.0), mostSteps, drawing.unit);
@@ -93,8 +94,7 @@ void paintAxes(QPainter& painter, const SeriesColours& colours, const Layout& la
     const double left = layout.x(i) - width / 2;
     if (left < free || left + width > area.right())
       continue;
-    painter.drawText(QRectF(left, layout.plot.bottom() + half * 0.6, width + 1, 2 * half), Qt::AlignCenter,
-                     label);
+    painter.drawText(QRectF(left, area.bottom() - 3 * half, width + 1, 2 * half), Qt::AlignCenter, label);
     free = left + width + half * 2;
   }
 }
