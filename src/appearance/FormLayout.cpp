@@ -15,6 +15,7 @@ constexpr double kMargin = 2; // inside a block
 constexpr double kCell = 3.2;
 constexpr double kCellPitch = 4;
 constexpr double kRowPitch = 4;
+constexpr double kGapOfFive = 1; // behind every fifth cell of a row, so that ticks are counted at a glance
 constexpr double kGapBeforeActions = 0.8;
 
 constexpr double kNameWidth = 47;
@@ -162,7 +163,7 @@ void FormLayout::addPlayer(int player) {
   }
 
   double y = all.y + kMargin;
-  constexpr double kRowWidth = kCellsInRow * kCellPitch;
+  constexpr double kRowWidth = kCellsInRow * kCellPitch + (kCellsInRow / 5) * kGapOfFive;
   m_labels.push_back(
       {{kFirstHalf + kLabelWidth, y, kRowWidth, kCell}, FormLabel::Kind::Made, player, Counter::FGM, 0});
   m_labels.push_back(
@@ -186,7 +187,12 @@ void FormLayout::addRow(int player, FormCell::Kind kind, Counter counter, double
   m_labels.push_back({{x, y, kLabelWidth - 1, kCell}, FormLabel::Kind::Counter, player, counter, 0});
   for (int number = 0; number < kCellsInRow; ++number)
     m_cells.push_back(
-        {{x + kLabelWidth + number * kCellPitch, y, kCell, kCell}, kind, player, counter, 0, number});
+        {{x + kLabelWidth + number * kCellPitch + number / 5 * kGapOfFive, y, kCell, kCell}, // whole fives
+         kind,
+         player,
+         counter,
+         0,
+         number});
 }
 
 bool FormLayout::isDigitOf(const FormCell& cell, std::string_view jersey) {
