@@ -7,6 +7,8 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QSet>
+#include <QTabWidget>
+#include <functional>
 
 namespace hooptab {
 
@@ -82,24 +84,32 @@ std::vector<qsizetype> mnemonicPlaces(const QStringList& captions) {
 
 void giveMnemonics(QWidget& window) {
   QStringList captions;
-  QList<QWidget*> owners;
-  for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
-    if (hasTextNumber(*button) && !button->text().isEmpty() && button->shortcut().isEmpty()) {
-      captions << button->text();
-      owners << button;
+  std::vector<std::function<void(const QString&)>> show;
+  for (QTabWidget* tabs : window.findChildren<QTabWidget*>()) {
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+      if (!hasTabTextNumber(*tabs->widget(tab)))
+        continue;
+      captions << tabs->tabText(tab);
+      show.emplace_back([tabs, tab](const QString& text) { tabs->setTabText(tab, text); });
     }
+  }
+  for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+    if (!hasTextNumber(*button) || button->text().isEmpty() || !button->shortcut().isEmpty())
+      continue;
+    captions << button->text();
+    show.emplace_back([button](const QString& text) { button->setText(text); });
   }
   for (QLabel* label : window.findChildren<QLabel*>()) {
-    if (hasTextNumber(*label) && label->buddy() != nullptr && !label->text().isEmpty()) {
-      captions << label->text();
-      owners << label;
-    }
+    if (!hasTextNumber(*label) || label->buddy() == nullptr || label->text().isEmpty())
+      continue;
+    captions << label->text();
+    show.emplace_back([label](const QString& text) { label->setText(text); });
   }
   const std::vector<qsizetype> places = mnemonicPlaces(captions);
-  for (qsizetype i = 0; i < owners.size(); ++i) {
-    const qsizetype place = places[static_cast<std::size_t>(i)];
-    if (place >= 0)
-      owners[i]->setProperty("text", captions[i].insert(place, u'&'));
+  for (std::size_t i = 0; i < show.size(); ++i) {
+    QString& caption = captions[static_cast<qsizetype>(i)];
+    if (places[i] >= 0)
+      show[i](caption.insert(places[i], u'&'));
   }
 }
 

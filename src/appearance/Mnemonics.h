@@ -14,8 +14,8 @@ namespace hooptab {
 // with one as can be, the first letters of words before others.
 [[nodiscard]] std::vector<qsizetype> mnemonicPlaces(const QStringList& captions);
 
-// Gives the buttons of `window` and the labels with a buddy that have a text by number their Alt keys,
-// buttons first. To be called behind relabel(), which takes them away.
+// Gives the tabs of `window`, its buttons and its labels with a buddy that have a text by number their
+// Alt keys, in this order. To be called behind relabel(), which takes them away.
 void giveMnemonics(QWidget& window);
 
 } // namespace hooptab

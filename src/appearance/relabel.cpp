@@ -108,8 +108,13 @@ QString caption(const Texts& texts, int number) {
 void setTextNumber(QObject& object, int number) {
   setNumber(object, kTextNumber, number);
 }
+
 bool hasTextNumber(const QObject& object) {
   return numberOf(object, kTextNumber) > 0;
+}
+
+bool hasTabTextNumber(const QObject& page) {
+  return numberOf(page, kTabTextNumber) > 0;
 }
 void setToolTipNumber(QObject& object, int number) {
   setNumber(object, kToolTipNumber, number);

@@ -21,6 +21,7 @@ namespace hooptab {
 // "windowTitle" property, and actions.
 void setTextNumber(QObject& object, int number);
 [[nodiscard]] bool hasTextNumber(const QObject& object);
+[[nodiscard]] bool hasTabTextNumber(const QObject& page);
 void setToolTipNumber(QObject& object, int number);
 void setAccessibleNumber(QWidget& widget, int number); // name for screen readers, where there is no caption
 void setPlaceholderNumber(QWidget& field, int number); // what an empty line edit shows

@@ -3,6 +3,7 @@
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
 #include "appearance/Icons.h"
+#include "appearance/Mnemonics.h"
 #include "appearance/relabel.h"
 #include "scorecard/TableText.h"
 #include "season/AveragesPanel.h"
@@ -317,6 +318,7 @@ void frmSTATS::relabelWindow() {
   }
   if (isBusy())
     showProgress();
+  giveMnemonics(*this);
 }
 
 void frmSTATS::applyColours() {

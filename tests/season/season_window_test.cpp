@@ -108,7 +108,7 @@ class SeasonWindowTest : public testing::Test {
   }
   QString currentPage() const {
     const auto& tabs = find<QTabWidget>("tabs");
-    return tabs.tabText(tabs.currentIndex());
+    return tabs.tabText(tabs.currentIndex()).remove(u'&');
   }
 
   static inline std::unique_ptr<TemporaryFolder> s_season;
