@@ -64,10 +64,10 @@ std::optional<int> positionOf(std::string_view cell, const Texts& texts) {
   if (cell.empty())
     return kNoPosition;
   for (int index = 0; index < kChoiceCount; ++index) {
+    if (cell == std::to_string(index)) // also one without a name, as it is exported
+      return index;
     if (choiceName(kFirstPositionText, index, texts).empty())
       continue;
-    if (cell == std::to_string(index))
-      return index;
     for (const Language language : {Language::English, Language::French}) {
       const std::string_view name = texts.text(kFirstPositionText + index, language);
       if (isSame(cell, name) || (index != kNoPosition && cell.size() == 1 && isSame(cell, name.substr(0, 1))))

@@ -77,7 +77,8 @@ TEST(PlayerCsv, StopsAtTooManyPlayers) {
 TEST(PlayerCsv, WhatWasExportedIsReadInEitherLanguage) {
   const std::vector<TeamPlayer> exported = {
       {"00", {2, "Ann \"Ace\" Long", "6ft 1in", "170", "18", "Sr; x"}, ""},
-      {"5", {9, "Zoé", "", "", "", ""}, ""}};
+      {"5", {9, "Zoé", "", "", "", ""}, ""},
+      {"6", {4, "A position without a name", "", "", "", ""}, ""}};
   Texts texts;
   const std::string english = playersCsv(exported, texts);
   EXPECT_TRUE(english.starts_with(
