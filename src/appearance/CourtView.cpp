@@ -123,6 +123,17 @@ int CourtView::heightForWidth(int width) const {
   return width * shape.height() / shape.width();
 }
 
+void CourtView::paintOn(QPainter& painter, const QRectF& area) const {
+  constexpr auto kTurn = CourtPicture::Turn::BaselineTop;
+  const QRectF fitted = CourtPicture::fitted(area, kTurn);
+  const CourtPicture picture(m_colours);
+  picture.paintCourt(painter, fitted, kTurn);
+  if (m_showsZones)
+    picture.paintZones(painter, fitted, kTurn, m_zones);
+  else
+    picture.paintMarks(painter, fitted, kTurn, m_marks);
+}
+
 void CourtView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRectF fitted = pictureRect();

@@ -25,6 +25,8 @@ class CourtView : public QWidget {
   void showMarks();
   void showZones();
   void setTurn(CourtPicture::Turn turn);
+  // What is shown, without what the pointer is at, baseline at the top.
+  void paintOn(QPainter& painter, const QRectF& area) const;
 
   // The mark at a position in the widget, the nearest within reach; -1 for none.
   [[nodiscard]] int markAt(const QPointF& position) const;

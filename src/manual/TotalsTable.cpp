@@ -279,6 +279,36 @@ QString TotalsTable::words(int column) const {
   return toQt(m_texts.withPlaceholder(counted.isMade ? kMadeOf : kAttemptsOf, m_texts.text(kind.wordsText)));
 }
 
+TableContent TotalsTable::tableContent() const {
+  TableContent content;
+  const GameDetails& details = m_game.details();
+  content.title = toQt(details.abbreviation[m_team]) + QStringLiteral(" – ") + toQt(details.name[m_team]);
+  content.columns = {{QStringLiteral("No"), QStringLiteral("No"), {}, true},
+                     {caption(m_texts, kPlayerName), QStringLiteral("Name"), {}, true}};
+  for (int column = 0; column < kColumns; ++column) {
+    const ManualColumn& counted = columnAt(column);
+    const QString name = toQt(kindOf(counted.code)->shortName);
+    const QString header =
+        isShot(counted) ? name + caption(m_texts, counted.isMade ? kMadeShort : kAttemptedShort) : name;
+    content.columns.push_back({header, header, words(column)});
+  }
+  content.columns.push_back({QStringLiteral("PTS"), QStringLiteral("PTS"), caption(m_texts, kPointsScored)});
+  const auto add = [&](const QString& number, const QString& name, const Counters& counts) -> auto& {
+    TableContent::Row& row = content.rows.emplace_back();
+    row.cells = {{number}, {name}};
+    for (const ManualColumn& column : kManualColumns)
+      row.cells.push_back({QString::number(counts[column.counter])});
+    row.cells.push_back({QString::number(pointsOf(counts))});
+    return row;
+  };
+  for (int slot = 1; slot <= players(); ++slot) {
+    const RosterPlayer& player = *m_game.roster(m_team).player(slot);
+    add(toQt(player.jersey), toQt(player.name), m_game.totals.slot(m_team, slot).counts());
+  }
+  add({}, caption(m_texts, kTotal), m_game.totals.teamCounts(m_team)).isTotal = true;
+  return content;
+}
+
 void TotalsTable::relabelTable() {
   for (int column = 0; column < kColumns; ++column) {
     const auto at = static_cast<std::size_t>(column);

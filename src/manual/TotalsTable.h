@@ -3,6 +3,7 @@
 // in a spreadsheet. What can be counted is decided by the totals.
 #pragma once
 
+#include "appearance/TableContent.h"
 #include "manual/ManualColumns.h"
 #include "manual/ManualTotals.h"
 
@@ -21,7 +22,7 @@ class ManualGame;
 class Settings;
 class Texts;
 
-class TotalsTable : public QWidget {
+class TotalsTable : public QWidget, public ShownTable {
   Q_OBJECT
  public:
   // All must outlive it.
@@ -34,6 +35,7 @@ class TotalsTable : public QWidget {
   void showTotals();
   void relabelTable();
   void applyColours();
+  [[nodiscard]] TableContent tableContent() const override; // of all pages
 
   // Ends typing in a cell as if it had been left. False when what was typed cannot be; it is given up then.
   bool takeTyped();

@@ -2,6 +2,7 @@
 
 #include "printing/ReportPainter.h"
 
+#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -16,7 +17,7 @@ namespace {
 constexpr double kGap = 14; // pixels around pages
 constexpr double kSmallest = 0.1;
 constexpr double kLargest = 8;
-constexpr double kWheelStep = 1.15;
+constexpr double kZoomStep = 1.15;
 constexpr int kLinePixels = 40;
 
 } // namespace
@@ -34,10 +35,23 @@ void PageView::showLayout(const ReportLayout* layout) {
   m_layout = layout;
   applyFit();
   arrange();
+  viewport()->update();
 }
 
+// Repaints only where something in sight has changed: the last page that was known may have grown, and every
+// foot names the number of pages once all are there.
 void PageView::showMorePages() {
+  const bool hasChanged =
+      m_layout->isDone() || pageRect(m_knownPages - 1)
+                                .translated(-horizontalScrollBar()->value(), -verticalScrollBar()->value())
+                                .intersects(viewport()->rect());
   arrange();
+  if (hasChanged)
+    viewport()->update();
+}
+
+int PageView::pageCount() const {
+  return m_layout == nullptr ? 0 : static_cast<int>(m_layout->pages().size());
 }
 
 double PageView::pixelsPerUnit() const {
@@ -58,9 +72,9 @@ QRectF PageView::pageRect(int page) const {
 }
 
 void PageView::arrange() {
-  const int pages = m_layout == nullptr ? 0 : static_cast<int>(m_layout->pages().size());
+  m_knownPages = pageCount();
   const QSizeF size = pageSize();
-  const int rows = (pages + columns() - 1) / columns();
+  const int rows = (m_knownPages + columns() - 1) / columns();
   const double width = columns() * (size.width() + kGap) + kGap;
   const double height = rows * (size.height() + kGap) + kGap;
   const auto setRange = [](QScrollBar& bar, double content, int room) {
@@ -69,7 +83,6 @@ void PageView::arrange() {
   };
   setRange(*horizontalScrollBar(), width, viewport()->width());
   setRange(*verticalScrollBar(), height, viewport()->height());
-  viewport()->update();
 }
 
 void PageView::applyFit() {
@@ -86,11 +99,27 @@ void PageView::applyFit() {
 }
 
 void PageView::setZoom(double zoom) {
-  const int shown = page();
+  zoomAbout(QRectF(viewport()->rect()).center(), zoom);
+}
+
+void PageView::zoomIn() {
+  setZoom(m_zoom * kZoomStep);
+}
+
+void PageView::zoomOut() {
+  setZoom(m_zoom / kZoomStep);
+}
+
+void PageView::zoomAbout(const QPointF& fixed, double zoom) {
+  const double before = m_zoom;
+  const QPointF place = fixed + QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value());
   m_fit = Fit::None;
   m_zoom = std::clamp(zoom, kSmallest, kLargest);
   arrange();
-  goTo(shown);
+  const QPointF scroll = place * (m_zoom / before) - fixed;
+  horizontalScrollBar()->setValue(qRound(scroll.x()));
+  verticalScrollBar()->setValue(qRound(scroll.y()));
+  viewport()->update();
   emit zoomChanged();
 }
 
@@ -100,6 +129,7 @@ void PageView::setFit(Fit fit) {
   applyFit();
   arrange();
   goTo(shown);
+  viewport()->update();
 }
 
 void PageView::setFacing(bool isFacing) {
@@ -108,12 +138,13 @@ void PageView::setFacing(bool isFacing) {
   applyFit();
   arrange();
   goTo(shown);
+  viewport()->update();
 }
 
 int PageView::page() const {
   if (m_layout == nullptr)
     return 0;
-  const int pages = static_cast<int>(m_layout->pages().size());
+  const int pages = pageCount();
   // At the end, the last page is the one meant, though an earlier one may still be at the top.
   const QScrollBar& bar = *verticalScrollBar();
   if (bar.value() == bar.maximum() && bar.maximum() > 0)
@@ -137,7 +168,7 @@ void PageView::paintEvent(QPaintEvent* /*event*/) {
   painter.translate(-horizontalScrollBar()->value(), -verticalScrollBar()->value());
   const QRectF seen =
       QRectF(viewport()->rect()).translated(horizontalScrollBar()->value(), verticalScrollBar()->value());
-  for (int i = 0; i < static_cast<int>(m_layout->pages().size()); ++i) {
+  for (int i = 0; i < pageCount(); ++i) {
     const QRectF rect = pageRect(i);
     if (!rect.intersects(seen))
       continue;
@@ -174,8 +205,30 @@ void PageView::scrollContentsBy(int /*dx*/, int /*dy*/) {
 void PageView::wheelEvent(QWheelEvent* event) {
   if (!(event->modifiers() & Qt::ControlModifier))
     return QAbstractScrollArea::wheelEvent(event);
-  setZoom(m_zoom * (event->angleDelta().y() > 0 ? kWheelStep : 1 / kWheelStep));
+  zoomAbout(event->position(), m_zoom * (event->angleDelta().y() > 0 ? kZoomStep : 1 / kZoomStep));
   event->accept();
+}
+
+void PageView::keyPressEvent(QKeyEvent* event) {
+  const int step = columns();
+  const bool isWholePage = m_fit == Fit::Page;
+  switch (event->key()) {
+  case Qt::Key_Home: return goTo(1);
+  case Qt::Key_End: return goTo(pageCount());
+  case Qt::Key_Plus: return zoomIn();
+  case Qt::Key_Minus: return zoomOut();
+  case Qt::Key_Space:
+  case Qt::Key_PageDown:
+    if (isWholePage)
+      return goTo(std::min(page() + step, pageCount()));
+    return verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
+  case Qt::Key_Backspace:
+  case Qt::Key_PageUp:
+    if (isWholePage)
+      return goTo(std::max(page() - step, 1));
+    return verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepSub);
+  default: QAbstractScrollArea::keyPressEvent(event);
+  }
 }
 
 } // namespace hooptab

@@ -21,7 +21,9 @@ class PageView : public QAbstractScrollArea {
   void showMorePages(); // the layout has gone on
 
   double zoom() const { return m_zoom; } // 1 is the size on paper
-  void setZoom(double zoom);
+  void setZoom(double zoom);             // about the middle of what is seen
+  void zoomIn();
+  void zoomOut();
   void setFit(Fit fit);
   Fit fit() const { return m_fit; }
   void setFacing(bool isFacing);
@@ -39,8 +41,12 @@ class PageView : public QAbstractScrollArea {
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void wheelEvent(QWheelEvent* event) override;
+  // Home, End and the page keys go by pages where a whole page is in sight; + and - zoom.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void zoomAbout(const QPointF& fixed, double zoom); // a place of the viewport
+  [[nodiscard]] int pageCount() const;
   [[nodiscard]] double pixelsPerUnit() const;
   [[nodiscard]] QSizeF pageSize() const;         // in pixels
   [[nodiscard]] QRectF pageRect(int page) const; // from 0; in the whole of all pages
@@ -53,6 +59,7 @@ class PageView : public QAbstractScrollArea {
   Fit m_fit = Fit::Width;
   bool m_isFacing = false;
   int m_shownPage = 0; // what was told last
+  int m_knownPages = 0;
 };
 
 } // namespace hooptab

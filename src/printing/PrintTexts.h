@@ -51,6 +51,23 @@ inline constexpr int kHtmlFilter = 2250;
 inline constexpr int kPngFilter = 2251;
 inline constexpr int kSentToPrinter = 2252;
 
+// Exports of tables and pictures, and what can come of writing a file.
+inline constexpr int kExportTable = 2350;
+inline constexpr int kCopyPicture = 2351;
+inline constexpr int kSavePicture = 2352;
+inline constexpr int kPictureCopied = 2353;
+inline constexpr int kCancelReport = 2354;
+inline constexpr int kWritingReport = 2355;
+inline constexpr int kPrintingReport = 2356;
+inline constexpr int kReportCancelled = 2357;
+inline constexpr int kPathIsFolder = 2358;
+inline constexpr int kFolderIsMissing = 2359;
+inline constexpr int kNoRightToWrite = 2360;
+inline constexpr int kNoRoomOnDisk = 2361;
+inline constexpr int kNoRoomForTemporary = 2362;
+inline constexpr int kNoMemoryForReport = 2363;
+inline constexpr int kNoPrinter = 2364;
+
 // The input forms.
 inline constexpr int kInputForm = 2260;
 inline constexpr int kFormHint = 2261;

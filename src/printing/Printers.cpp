@@ -1,13 +1,19 @@
 #include "printing/Printers.h"
 
 #include "printing/ReportPainter.h"
+#include "printing/ReportWatch.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 
 #include <algorithm>
 
 namespace hooptab {
+
+bool QtPrinters::hasAny() {
+  return !QPrinterInfo::availablePrinterNames().isEmpty();
+}
 
 std::unique_ptr<QPrinter> QtPrinters::choose(QWidget* parent, const QPageLayout& layout, int pages) {
   auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
@@ -18,7 +24,12 @@ std::unique_ptr<QPrinter> QtPrinters::choose(QWidget* parent, const QPageLayout&
   return dialog.exec() == QDialog::Accepted ? std::move(printer) : nullptr;
 }
 
-bool printReport(QPrinter& printer, const ReportLayout& layout) {
+bool printReport(QPrinter& printer, const Report& report, const PageFormat& format, ReportWatch* watch) {
+  ReportLayout layout(report, format);
+  while (!layout.isDone() && !isCancelled(watch)) // the foot of every page names their number
+    layout.step();
+  if (isCancelled(watch))
+    return false;
   // The pages are laid out for this paper, whatever was chosen in the printer's own dialog.
   printer.setPageLayout(layout.pageLayout());
   QPainter painter;
@@ -29,12 +40,14 @@ bool printReport(QPrinter& printer, const ReportLayout& layout) {
   const int count = static_cast<int>(layout.pages().size());
   const int first = std::clamp(printer.fromPage(), 1, count);
   const int last = printer.toPage() == 0 ? count : std::clamp(printer.toPage(), first, count);
+  expect(watch, last - first + 1);
   for (int page = first; page <= last; ++page) {
-    if (page > first && !printer.newPage()) {
+    if (isCancelled(watch) || (page > first && !printer.newPage())) {
       printer.abort();
       return false;
     }
     paintPage(painter, layout, static_cast<std::size_t>(page - 1));
+    advance(watch);
   }
   return painter.end() && printer.printerState() != QPrinter::Error;
 }

@@ -10,22 +10,26 @@ class QWidget;
 
 namespace hooptab {
 
-class ReportLayout;
+struct PageFormat;
+struct Report;
+struct ReportWatch;
 
 class Printers {
  public:
   virtual ~Printers() = default;
+  [[nodiscard]] virtual bool hasAny() = 0; // a printer is installed
   // The printer, with the pages and copies that the user wants; null when cancelled.
   virtual std::unique_ptr<QPrinter> choose(QWidget* parent, const QPageLayout& layout, int pages) = 0;
 };
 
 class QtPrinters : public Printers {
  public:
+  bool hasAny() override;
   std::unique_ptr<QPrinter> choose(QWidget* parent, const QPageLayout& layout, int pages) override;
 };
 
-// Prints the chosen pages of a report that is laid out. False when the printer refuses; then nothing more is
-// sent to it.
-[[nodiscard]] bool printReport(QPrinter& printer, const ReportLayout& layout);
+// Prints the chosen pages. False when the printer refuses or when cancelled; then nothing more is sent to it.
+[[nodiscard]] bool printReport(QPrinter& printer, const Report& report, const PageFormat& format,
+                               ReportWatch* watch = nullptr);
 
 } // namespace hooptab

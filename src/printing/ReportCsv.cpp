@@ -10,10 +10,16 @@ namespace {
 
 constexpr std::string_view kTitleColumn = "Table";
 
-// Spreadsheets run what begins with one of these; a name never is a formula.
+// Spreadsheets run what begins with one of these; a name never is a formula. A number with its sign, as in a
+// list of margins, is none either.
 std::string asText(const std::string& text) {
   constexpr std::string_view kBeginsFormula = "=+-@\t\r";
-  return !text.empty() && kBeginsFormula.find(text.front()) != std::string_view::npos ? "'" + text : text;
+  constexpr std::string_view kOfNumbers = "0123456789.%";
+  const bool isNumber = text.size() > 1 && text.find_first_not_of(kOfNumbers, 1) == std::string::npos &&
+                        (text[0] == '+' || text[0] == '-');
+  return !isNumber && !text.empty() && kBeginsFormula.find(text.front()) != std::string_view::npos
+             ? "'" + text
+             : text;
 }
 
 std::string rowOf(const ReportTable& table, const ReportRow& row, bool hasTitle) {
@@ -45,9 +51,8 @@ std::string bytesOf(const std::vector<const ReportTable*>& tables) {
   return bytes;
 }
 
-} // namespace
-
-std::vector<ReportFile> reportCsv(const Report& report) {
+// Tables of equal columns together; the summaries last.
+std::vector<std::vector<const ReportTable*>> groupsOf(const Report& report) {
   std::vector<std::vector<const ReportTable*>> groups;
   for (const ReportBlock& block : report.blocks) {
     const auto* table = std::get_if<ReportTable>(&block);
@@ -61,11 +66,27 @@ std::vector<ReportFile> reportCsv(const Report& report) {
       group->push_back(table);
   }
   std::ranges::stable_partition(groups, [](const auto& tables) { return !tables.front()->isSummary; });
+  return groups;
+}
+
+std::string suffixOf(const std::vector<const ReportTable*>& group, bool isFirst) {
+  return isFirst ? std::string() : Module1::asFileName(" " + group.front()->title);
+}
+
+} // namespace
+
+std::vector<ReportFile> reportCsv(const Report& report) {
   std::vector<ReportFile> files;
-  for (const auto& tables : groups)
-    files.push_back(
-        {files.empty() ? std::string() : Module1::asFileName(" " + tables.front()->title), bytesOf(tables)});
+  for (const auto& group : groupsOf(report))
+    files.push_back({suffixOf(group, files.empty()), bytesOf(group)});
   return files;
+}
+
+std::vector<std::string> csvSuffixes(const Report& report) {
+  std::vector<std::string> suffixes;
+  for (const auto& group : groupsOf(report))
+    suffixes.push_back(suffixOf(group, suffixes.empty()));
+  return suffixes;
 }
 
 } // namespace hooptab

@@ -4,6 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
+#include <system_error>
+#include <unistd.h>
 #include <utility>
 
 namespace hooptab {
@@ -22,12 +25,15 @@ bool has(const Report& report) {
                              [](const ReportBlock& block) { return std::holds_alternative<Block>(block); });
 }
 
-std::vector<ReportFile> pictures(const Report& report) {
+std::string pictureSuffix(std::size_t place) {
+  return place == 0 ? std::string() : "-" + std::to_string(place + 1);
+}
+
+std::vector<ReportFile> pictures(const Report& report, ReportWatch* watch) {
   std::vector<ReportFile> files;
   for (const ReportBlock& block : report.blocks) {
-    if (const auto* picture = std::get_if<ReportPicture>(&block))
-      files.push_back(
-          {files.empty() ? std::string() : "-" + std::to_string(files.size() + 1), picturePng(*picture)});
+    if (const auto* picture = std::get_if<ReportPicture>(&block); picture != nullptr && !isCancelled(watch))
+      files.push_back({pictureSuffix(files.size()), picturePng(*picture)});
   }
   return files;
 }
@@ -55,36 +61,76 @@ bool canBe(const Report& report, ReportForm form) {
 }
 
 std::optional<std::vector<ReportFile>> filesOf(const Report& report, ReportForm form,
-                                               const PageFormat& format, std::string_view language) {
+                                               const PageFormat& format, std::string_view language,
+                                               ReportWatch* watch) {
   const auto one = [](std::string bytes) { return std::vector<ReportFile>{{{}, std::move(bytes)}}; };
+  std::optional<std::vector<ReportFile>> files;
   switch (form) {
-  case ReportForm::Pdf: return one(reportPdf(report, format));
-  case ReportForm::Xlsx: {
-    std::optional<std::string> bytes = reportXlsx(report);
-    return bytes ? std::optional(one(std::move(*bytes))) : std::nullopt;
+  case ReportForm::Pdf: files = one(reportPdf(report, format, watch)); break;
+  case ReportForm::Xlsx:
+    if (std::optional<std::string> bytes = reportXlsx(report, watch))
+      files = one(std::move(*bytes));
+    break;
+  case ReportForm::Csv: files = reportCsv(report); break;
+  case ReportForm::Html: files = one(reportHtml(report, language, picturePng, watch)); break;
+  case ReportForm::Png: files = pictures(report, watch); break;
   }
-  case ReportForm::Csv: return reportCsv(report);
-  case ReportForm::Html: return one(reportHtml(report, language, picturePng));
-  case ReportForm::Png: return pictures(report);
-  }
-  return std::nullopt;
+  return isCancelled(watch) ? std::nullopt : std::move(files);
 }
 
-std::string pathOf(const std::string& path, const ReportFile& file) {
+std::vector<std::string> suffixesOf(const Report& report, ReportForm form) {
+  if (form == ReportForm::Csv)
+    return csvSuffixes(report);
+  std::vector<std::string> suffixes = {{}};
+  if (form == ReportForm::Png) {
+    const auto count =
+        static_cast<std::size_t>(std::ranges::count_if(report.blocks, [](const ReportBlock& block) {
+          return std::holds_alternative<ReportPicture>(block);
+        }));
+    for (std::size_t place = 1; place < count; ++place)
+      suffixes.push_back(pictureSuffix(place));
+  }
+  return suffixes;
+}
+
+std::string pathOf(const std::string& path, const std::string& suffix) {
   const std::size_t slash = path.rfind('/');
   const std::size_t dot = path.rfind('.');
   const bool hasEnding = dot != std::string::npos && (slash == std::string::npos || dot > slash);
-  return hasEnding ? path.substr(0, dot) + file.suffix + path.substr(dot) : path + file.suffix;
+  return hasEnding ? path.substr(0, dot) + suffix + path.substr(dot) : path + suffix;
 }
 
 std::string writeFiles(FileSystem& files, const std::string& path, const std::vector<ReportFile>& contents) {
   for (const ReportFile& content : contents) {
     FileStamp stamp;
-    const std::string target = pathOf(path, content);
+    const std::string target = pathOf(path, content.suffix);
     if (!replaceWholeFile(files, target, content.bytes, stamp))
       return target;
   }
   return {};
+}
+
+WriteProblem writeProblem(const std::string& path, std::size_t bytes) {
+  namespace fs = std::filesystem;
+  std::error_code ignored;
+  if (fs::is_directory(path, ignored))
+    return WriteProblem::IsFolder;
+  const fs::path parent = fs::path(path).parent_path();
+  const fs::path folder = parent.empty() ? fs::path(".") : parent;
+  if (!fs::is_directory(folder, ignored))
+    return WriteProblem::NoFolder;
+  // No permission bit at all is a no for the administrator too.
+  const auto mayWrite = [&ignored](const fs::path& place) {
+    constexpr auto kAnyWriteBit = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    return ::access(place.c_str(), W_OK) == 0 &&
+           (fs::status(place, ignored).permissions() & kAnyWriteBit) != fs::perms::none;
+  };
+  if (!mayWrite(folder) || (fs::exists(path, ignored) && !mayWrite(path)))
+    return WriteProblem::NoRight;
+  const fs::space_info space = fs::space(folder, ignored);
+  if (!ignored && space.available < bytes)
+    return WriteProblem::NoRoom;
+  return WriteProblem::Unknown;
 }
 
 } // namespace hooptab

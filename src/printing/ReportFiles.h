@@ -3,6 +3,7 @@
 
 #include "printing/PageFormat.h"
 #include "printing/ReportText.h"
+#include "printing/ReportWatch.h"
 #include "storage/FileSystem.h"
 
 #include <functional>
@@ -21,20 +22,29 @@ enum class ReportForm { Pdf, Xlsx, Csv, Html, Png };
 [[nodiscard]] bool canBe(const Report& report, ReportForm form);
 
 // The files of an export: a PDF, a workbook and a web page are one, tables as text and pictures may be
-// several. Nothing when it could not be made, for want of room for temporary files.
-[[nodiscard]] std::optional<std::vector<ReportFile>>
-filesOf(const Report& report, ReportForm form, const PageFormat& format, std::string_view language);
+// several. Nothing when it could not be made: cancelled, or without room for temporary files.
+[[nodiscard]] std::optional<std::vector<ReportFile>> filesOf(const Report& report, ReportForm form,
+                                                             const PageFormat& format,
+                                                             std::string_view language,
+                                                             ReportWatch* watch = nullptr);
+// Their suffixes, before they are made.
+[[nodiscard]] std::vector<std::string> suffixesOf(const Report& report, ReportForm form);
 // Where a file of the export stands: "/games/box.csv" with the suffix before the ending.
-[[nodiscard]] std::string pathOf(const std::string& path, const ReportFile& file);
+[[nodiscard]] std::string pathOf(const std::string& path, const std::string& suffix);
 // The path of the first file that could not be written; those before it stand. Empty when all is well.
 [[nodiscard]] std::string writeFiles(FileSystem& files, const std::string& path,
                                      const std::vector<ReportFile>& contents);
 
-// Vector graphics with text that can be searched.
-[[nodiscard]] std::string reportPdf(const Report& report, const PageFormat& format);
-// A sheet for each table, its head frozen; numbers, percentages and times as such. Nothing when temporary
-// files could not be written.
-[[nodiscard]] std::optional<std::string> reportXlsx(const Report& report);
+// Why a file of so many bytes could not be written there, as far as looking at the place tells.
+enum class WriteProblem { IsFolder, NoFolder, NoRight, NoRoom, Unknown };
+[[nodiscard]] WriteProblem writeProblem(const std::string& path, std::size_t bytes);
+
+// Vector graphics with text that can be searched. Empty when cancelled.
+[[nodiscard]] std::string reportPdf(const Report& report, const PageFormat& format,
+                                    ReportWatch* watch = nullptr);
+// A sheet for each table, its head frozen; numbers, percentages and times as such. Nothing when cancelled, or
+// when temporary files could not be written.
+[[nodiscard]] std::optional<std::string> reportXlsx(const Report& report, ReportWatch* watch = nullptr);
 [[nodiscard]] std::string picturePng(const ReportPicture& picture);
 
 } // namespace hooptab

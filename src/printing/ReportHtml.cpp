@@ -118,15 +118,21 @@ class Page {
 
 } // namespace
 
-std::string reportHtml(const Report& report, std::string_view language, const DrawPng& png) {
+std::string reportHtml(const Report& report, std::string_view language, const DrawPng& png,
+                       ReportWatch* watch) {
   std::string html = "<!DOCTYPE html>\n<html lang=\"" + std::string(language) +
                      "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
                      escaped(report.subject.empty() ? report.title : report.subject + " – " + report.title) +
                      "</title>\n<style>" + std::string(kStyle) + "</style>\n</head>\n<body>\n<h1>" +
                      escaped(report.title) + "</h1>\n<p>" + escaped(report.subject) + "</p>\n";
   Page page(html, png);
-  for (const ReportBlock& block : report.blocks)
+  expect(watch, static_cast<int>(report.blocks.size()));
+  for (const ReportBlock& block : report.blocks) {
+    if (isCancelled(watch))
+      return {};
     std::visit(page, block);
+    advance(watch);
+  }
   return html + "</body>\n</html>\n";
 }
 

@@ -10,9 +10,11 @@
 
 namespace hooptab {
 
-std::string reportPdf(const Report& report, const PageFormat& format) {
+std::string reportPdf(const Report& report, const PageFormat& format, ReportWatch* watch) {
   ReportLayout layout(report, format);
-  layout.finish(); // the foot of every page names their number
+  while (!layout.isDone() && !isCancelled(watch)) // the foot of every page names their number
+    layout.step();
+  expect(watch, static_cast<int>(layout.pages().size()));
   QBuffer buffer;
   QPdfWriter writer(&buffer);
   buffer.open(QIODevice::WriteOnly);
@@ -21,12 +23,15 @@ std::string reportPdf(const Report& report, const PageFormat& format) {
   writer.setTitle(toQt(report.subject.empty() ? report.title : report.subject + " – " + report.title));
   writer.setCreator(QStringLiteral("HOOPTAB Basketball"));
   QPainter painter(&writer);
-  for (std::size_t page = 0; page < layout.pages().size(); ++page) {
+  for (std::size_t page = 0; page < layout.pages().size() && !isCancelled(watch); ++page) {
     if (page > 0)
       writer.newPage();
     paintPage(painter, layout, page);
+    advance(watch);
   }
   painter.end();
+  if (isCancelled(watch))
+    return {};
   return buffer.data().toStdString();
 }
 

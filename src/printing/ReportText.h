@@ -3,6 +3,7 @@
 #pragma once
 
 #include "printing/Report.h"
+#include "printing/ReportWatch.h"
 
 #include <functional>
 #include <string>
@@ -22,9 +23,11 @@ struct ReportFile {
 // the summaries have files of their own. A text that a spreadsheet would take for a formula gets an
 // apostrophe in front. Nothing for a report without tables.
 [[nodiscard]] std::vector<ReportFile> reportCsv(const Report& report);
+[[nodiscard]] std::vector<std::string> csvSuffixes(const Report& report); // of those files
 
 // A self-contained page. `png` draws a picture; its bytes stand in the page.
 using DrawPng = std::function<std::string(const ReportPicture& picture)>;
-[[nodiscard]] std::string reportHtml(const Report& report, std::string_view language, const DrawPng& png);
+[[nodiscard]] std::string reportHtml(const Report& report, std::string_view language, const DrawPng& png,
+                                     ReportWatch* watch = nullptr);
 
 } // namespace hooptab

@@ -1,9 +1,10 @@
 #include "printing/ReportFiles.h"
-#include "storage/AtomicFile.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <set>
 #include <system_error>
 #include <xlsxwriter.h>
@@ -96,6 +97,8 @@ class Workbook {
     for (const bool isStrong : {false, true}) {
       Formats& formats = m_formats[isStrong ? 1 : 0];
       formats.plain = format(isStrong, nullptr);
+      formats.oneDecimal = format(isStrong, "0.0");
+      formats.twoDecimals = format(isStrong, "0.00");
       formats.percent = format(isStrong, "0.0%");
       formats.time = format(isStrong, "[mm]:ss");
     }
@@ -107,7 +110,8 @@ class Workbook {
   Workbook(const Workbook&) = delete;
   Workbook& operator=(const Workbook&) = delete;
 
-  void add(const ReportTable& table) {
+  // Cancelled, it stops in the middle: the workbook must not be used then.
+  void add(const ReportTable& table, ReportWatch* watch) {
     if (m_book == nullptr)
       return;
     m_sheet = workbook_add_worksheet(m_book, m_names.next(table.title).c_str());
@@ -121,8 +125,10 @@ class Workbook {
     const lxw_row_t head = hasGroups ? 1 : 0;
     for (std::size_t i = 0; i < table.columns.size(); ++i)
       addText(head, i, table.columns[i].header, m_head);
-    for (std::size_t row = 0; row < table.rows.size(); ++row)
+    for (std::size_t row = 0; row < table.rows.size() && !isCancelled(watch); ++row) {
       addRow(head + 1 + static_cast<lxw_row_t>(row), table.rows[row]);
+      advance(watch);
+    }
     setWidths(table);
     std::size_t repeated = 0;
     while (repeated < table.columns.size() && table.columns[repeated].isRepeated)
@@ -138,6 +144,8 @@ class Workbook {
  private:
   struct Formats {
     lxw_format* plain = nullptr;
+    lxw_format* oneDecimal = nullptr;
+    lxw_format* twoDecimals = nullptr;
     lxw_format* percent = nullptr;
     lxw_format* time = nullptr;
   };
@@ -148,6 +156,12 @@ class Workbook {
     if (number != nullptr)
       format_set_num_format(result, number);
     return result;
+  }
+  // As many decimals as are shown everywhere else; the exact number stays behind them.
+  static lxw_format* numberFormat(const Formats& formats, const std::string& text) {
+    const std::size_t point = text.find('.');
+    const std::size_t decimals = point == std::string::npos ? 0 : text.size() - point - 1;
+    return decimals == 0 ? formats.plain : decimals == 1 ? formats.oneDecimal : formats.twoDecimals;
   }
   // Always as text: a name that begins with "=" is no formula.
   void addText(lxw_row_t row, std::size_t column, const std::string& text, lxw_format* format) {
@@ -178,7 +192,7 @@ class Workbook {
       const ReportCell& cell = cells.cells[i];
       switch (cell.kind) {
       case ReportCell::Kind::Text: addText(row, i, cell.text, formats.plain); break;
-      case ReportCell::Kind::Number: addNumber(row, i, cell.value, formats.plain); break;
+      case ReportCell::Kind::Number: addNumber(row, i, cell.value, numberFormat(formats, cell.text)); break;
       case ReportCell::Kind::Percent: addNumber(row, i, cell.value, formats.percent); break;
       case ReportCell::Kind::Time: addNumber(row, i, cell.value / kSecondsPerDay, formats.time); break;
       }
@@ -207,24 +221,27 @@ class Workbook {
 
 } // namespace
 
-std::optional<std::string> reportXlsx(const Report& report) {
+std::optional<std::string> reportXlsx(const Report& report, ReportWatch* watch) {
   const ScratchFolder scratch;
   if (scratch.path().empty())
     return std::nullopt;
+  std::size_t rows = 0;
+  for (const ReportBlock& block : report.blocks) {
+    if (const auto* table = std::get_if<ReportTable>(&block))
+      rows += table->rows.size();
+  }
+  expect(watch, static_cast<int>(rows));
   const std::string path = scratch.path() + "/report.xlsx";
   Workbook book(path, scratch.path());
   for (const ReportBlock& block : report.blocks) {
-    if (const auto* table = std::get_if<ReportTable>(&block))
-      book.add(*table);
+    if (const auto* table = std::get_if<ReportTable>(&block); table != nullptr && !isCancelled(watch))
+      book.add(*table, watch);
   }
-  if (!book.close())
+  if (!book.close() || isCancelled(watch)) // closing frees it in any case
     return std::nullopt;
-  FileSystem files;
-  FileStamp stamp;
-  std::string bytes;
-  if (readWholeFile(files, path, bytes, stamp) != ReadOutcome::Read)
-    return std::nullopt;
-  return bytes;
+  std::ifstream file(path, std::ios::binary);
+  std::string bytes{std::istreambuf_iterator<char>(file), {}};
+  return file.bad() || bytes.empty() ? std::nullopt : std::optional(std::move(bytes));
 }
 
 } // namespace hooptab

@@ -8,19 +8,18 @@
 #include "printing/PrintTexts.h"
 #include "printing/Printers.h"
 #include "printing/ReportLayout.h"
-#include "storage/Module1.h"
+#include "printing/ReportOutput.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QDataStream>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPrinter>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QToolButton>
@@ -36,9 +35,6 @@ constexpr int kPreview = 1310;
 constexpr int kPrint = 1311;
 constexpr int kTitle = 1438;
 constexpr int kPrinterError = 1402;
-constexpr int kErrorTitle = 1060;
-constexpr int kWarningTitle = 1139;
-constexpr int kReplaceFile = 1836;
 
 constexpr int kMargin = 8;
 constexpr int kTitleWidth = 260;
@@ -54,23 +50,20 @@ constexpr int kFirstZoomEntry = 2;
 struct Export {
   ReportForm form;
   const char* name;
-  int text;
-  int filter;
 };
 constexpr Export kExports[] = {
-    {ReportForm::Pdf, "cmdPDF", kSavePdf, kPdfFilter},
-    {ReportForm::Xlsx, "mnuXLSX", kSaveXlsx, kXlsxFilter},
-    {ReportForm::Csv, "mnuCSV", kSaveCsv, kCsvFilter},
-    {ReportForm::Html, "mnuHTML", kSaveHtml, kHtmlFilter},
-    {ReportForm::Png, "mnuPNG", kSavePictures, kPngFilter},
+    {ReportForm::Xlsx, "mnuXLSX"},
+    {ReportForm::Csv, "mnuCSV"},
+    {ReportForm::Html, "mnuHTML"},
+    {ReportForm::Png, "mnuPNG"},
 };
 
 } // namespace
 
-frmprint::frmprint(const Texts& texts, Dialogs& dialogs, Printers& printers, FileSystem& files,
-                   QString folder, QWidget* parent)
-    : ChildWindow(parent), m_texts(texts), m_dialogs(dialogs), m_printers(printers), m_files(files),
-      m_folder(std::move(folder)), m_view(new PageView(this)) {
+frmprint::frmprint(const Texts& texts, Dialogs& dialogs, Printers& printers, ReportOutput& output,
+                   QWidget* parent)
+    : ChildWindow(parent), m_texts(texts), m_dialogs(dialogs), m_printers(printers), m_output(output),
+      m_view(new PageView(this)) {
   setObjectName(QStringLiteral("frmprint"));
   setTextNumber(*this, kPreview);
   m_view->setObjectName(QStringLiteral("pages"));
@@ -122,11 +115,9 @@ QWidget* frmprint::makeReportRow() {
   setToolTipNumber(*exports, kExport);
   auto* menu = new QMenu(exports);
   for (const Export& each : kExports) {
-    if (each.form == ReportForm::Pdf)
-      continue;
     auto* action = menu->addAction(QString());
     action->setObjectName(QLatin1String(each.name));
-    setTextNumber(*action, each.text);
+    setTextNumber(*action, ReportOutput::textOf(each.form));
     connect(action, &QAction::triggered, this, [this, form = each.form] { save(form); });
   }
   exports->setMenu(menu);
@@ -207,6 +198,15 @@ void frmprint::connectEverything() {
   connect(m_view, &PageView::pageChanged, this, &frmprint::showPage);
   connect(m_view, &PageView::zoomChanged, this, &frmprint::showZoom);
   connect(&m_steps, &QTimer::timeout, this, &frmprint::layOutMore);
+  connect(&m_output, &ReportOutput::busyChanged, this, &frmprint::showOutputs);
+  const auto key = [this](const QKeySequence& keys, auto act) {
+    auto* shortcut = new QShortcut(keys, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this, act);
+  };
+  key(QKeySequence::ZoomIn, [this] { m_view->zoomIn(); });
+  key(Qt::CTRL | Qt::Key_Equal, [this] { m_view->zoomIn(); }); // the same key without Shift
+  key(QKeySequence::ZoomOut, [this] { m_view->zoomOut(); });
+  key(Qt::CTRL | Qt::Key_0, [this] { m_view->setFit(PageView::Fit::Page); });
   connect(findChild<QPushButton*>(QStringLiteral("cmdPRINT")), &QPushButton::clicked, this, &frmprint::print);
   connect(findChild<QPushButton*>(QStringLiteral("cmdPDF")), &QPushButton::clicked, this,
           [this] { save(ReportForm::Pdf); });
@@ -258,12 +258,16 @@ void frmprint::makeReport() {
     m_report.title = fromQt(m_title->text());
   else
     m_title->setText(toQt(m_report.title));
-  for (const Export& each : kExports) {
-    if (auto* action = findChild<QAction*>(QLatin1String(each.name)))
-      action->setEnabled(canBe(m_report, each.form));
-  }
+  showOutputs();
   layOut();
   m_view->goTo(1);
+}
+
+void frmprint::showOutputs() {
+  for (const char* name : {"cmdPRINT", "cmdPDF", "cmdEXPORT"})
+    findChild<QPushButton*>(QLatin1String(name))->setEnabled(!m_output.isBusy());
+  for (const Export& each : kExports)
+    findChild<QAction*>(QLatin1String(each.name))->setEnabled(canBe(m_report, each.form));
 }
 
 PageFormat frmprint::format() const {
@@ -299,7 +303,8 @@ void frmprint::showPage() {
   const int pages = static_cast<int>(m_layout->pages().size());
   m_page->setMaximum(pages);
   m_page->setValue(m_view->page());
-  m_pageCount->setText(toQt(m_texts.withPlaceholder(kPagesInAll, std::to_string(pages))));
+  m_pageCount->setText(
+      toQt(m_texts.withPlaceholder(kPagesInAll, m_layout->isDone() ? std::to_string(pages) : "…")));
 }
 
 void frmprint::showZoom() {
@@ -320,53 +325,18 @@ void frmprint::chooseZoom(int choice) {
     m_view->setFit(choice == kFitPageEntry ? PageView::Fit::Page : PageView::Fit::Width);
 }
 
-void frmprint::complain(int text, const QString& path) {
-  m_dialogs.complain(this, caption(m_texts, text == kNotPrinted ? kPrinterError : kErrorTitle),
-                     toQt(m_texts.withPlaceholder(text, fromQt(QDir::toNativeSeparators(path)))));
-}
-
 void frmprint::print() {
+  if (!m_printers.hasAny())
+    return m_dialogs.complain(this, caption(m_texts, kPrinterError), caption(m_texts, kNoPrinter));
   finishLayout();
-  const auto printer =
+  std::shared_ptr<QPrinter> printer =
       m_printers.choose(this, m_layout->pageLayout(), static_cast<int>(m_layout->pages().size()));
-  if (printer == nullptr)
-    return;
-  printer->setDocName(toQt(m_report.fileName));
-  if (printReport(*printer, *m_layout))
-    emit reported(toQt(m_texts.withPlaceholder(kSentToPrinter, m_report.fileName)));
-  else
-    complain(kNotPrinted);
-}
-
-bool frmprint::mayReplace(const QString& path, const std::vector<ReportFile>& files) {
-  for (const ReportFile& file : files) {
-    const QString target = toQt(pathOf(fromQt(path), file));
-    if (QFileInfo::exists(target) &&
-        !m_dialogs.ask(this, caption(m_texts, kWarningTitle),
-                       toQt(m_texts.withPlaceholder(kReplaceFile, fromQt(QDir::toNativeSeparators(target))))))
-      return false;
-  }
-  return true;
+  if (printer != nullptr)
+    m_output.print(m_report, format(), std::move(printer), this);
 }
 
 void frmprint::save(ReportForm form) {
-  const auto* each = std::ranges::find(kExports, form, &Export::form);
-  const QString ending = toQt(endingOf(form));
-  const QString proposed = QDir(m_folder).filePath(toQt(m_report.fileName) + u'.' + ending);
-  const QString path = m_dialogs.chooseFileToSave(this, caption(m_texts, each->text), proposed,
-                                                  fileFilter(toQt(m_texts.text(each->filter))), ending);
-  if (path.isEmpty())
-    return;
-  const char* language = m_texts.language() == Language::French ? "fr" : "en";
-  const auto files = filesOf(m_report, form, format(), language);
-  if (!files)
-    return complain(kReportNotWritten, path);
-  if (!mayReplace(path, *files))
-    return;
-  m_folder = QFileInfo(path).absolutePath();
-  if (const std::string failed = writeFiles(m_files, fromQt(path), *files); !failed.empty())
-    return complain(kReportNotWritten, toQt(failed));
-  emit reported(toQt(m_texts.withPlaceholder(kReportSaved, fromQt(QDir::toNativeSeparators(path)))));
+  m_output.save(m_report, form, format(), this);
 }
 
 QByteArray frmprint::arrangement() const {

@@ -1,12 +1,11 @@
 // The print preview: a report's pages as they will be printed, with its title, paper and zoom to choose, and
 // every way out of it: printer, PDF, workbook, text, web page, pictures. Lays out and forwards; how a report
-// is made is its offer's to know.
+// is made is its offer's to know, how it leaves the program that of ReportOutput.
 #pragma once
 
 #include "appearance/ChildWindow.h"
 #include "printing/PageFormat.h"
 #include "printing/Report.h"
-#include "printing/ReportFiles.h"
 #include "storage/Texts.h"
 
 #include <QTimer>
@@ -28,6 +27,8 @@ class Dialogs;
 class PageView;
 class Printers;
 class ReportLayout;
+class ReportOutput;
+enum class ReportForm;
 
 // A report that the preview can show. Both are asked again when the language changes.
 struct ReportOffer {
@@ -39,8 +40,8 @@ class frmprint : public ChildWindow {
   Q_OBJECT
 
  public:
-  // All must outlive it. Exports are proposed in `folder`.
-  frmprint(const Texts& texts, Dialogs& dialogs, Printers& printers, FileSystem& files, QString folder,
+  // All must outlive it.
+  frmprint(const Texts& texts, Dialogs& dialogs, Printers& printers, ReportOutput& output,
            QWidget* parent = nullptr);
   ~frmprint() override;
 
@@ -71,14 +72,12 @@ class frmprint : public ChildWindow {
 
   void print();
   void save(ReportForm form);
-  [[nodiscard]] bool mayReplace(const QString& path, const std::vector<ReportFile>& files);
-  void complain(int text, const QString& path = {});
+  void showOutputs();
 
   const Texts& m_texts;
   Dialogs& m_dialogs;
   Printers& m_printers;
-  FileSystem& m_files;
-  QString m_folder;
+  ReportOutput& m_output;
   std::vector<ReportOffer> m_offers;
   Report m_report;
   bool m_isTitleTyped = false;

@@ -146,6 +146,7 @@ QVariant BoxScoreModel::headerData(int section, Qt::Orientation orientation, int
   switch (role) {
   case Qt::DisplayRole: return m_headers.value(section);
   case Qt::ToolTipRole: return m_toolTips.value(section);
+  case kTableNameRole: return toQt(boxColumns()[static_cast<std::size_t>(section)].name);
   case Qt::TextAlignmentRole: return alignment(section);
   // Whoever sorts by a number wants the best first.
   case Qt::InitialSortOrderRole:

@@ -3,6 +3,7 @@
 // Computes nothing: rows and marks come from outside, cells' texts from BoxScore.
 #pragma once
 
+#include "appearance/TableContent.h"
 #include "scorecard/BoxScore.h"
 #include "scorecard/ScorecardView.h"
 
@@ -17,8 +18,8 @@ class BoxScoreModel : public QAbstractTableModel {
 
  public:
   enum Role {
-    SortRole = Qt::UserRole, // number or text
-    TotalRole,               // true for the team's total
+    SortRole = kTableSortRole, // number or text
+    TotalRole = kTableTotalRole,
   };
 
   explicit BoxScoreModel(QObject* parent = nullptr) : QAbstractTableModel(parent) {}

@@ -1,9 +1,9 @@
 #include "scorecard/EventPanel.h"
 
+#include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "scorecard/BoxHeader.h"
 #include "scorecard/ScorecardTexts.h"
-#include "scorecard/TableText.h"
 
 #include <QBoxLayout>
 #include <QIcon>

@@ -1,7 +1,7 @@
 #include "scorecard/FrozenTableView.h"
 
+#include "appearance/TableContent.h"
 #include "scorecard/BoxHeader.h"
-#include "scorecard/TableText.h"
 
 #include <QKeyEvent>
 #include <QScrollBar>

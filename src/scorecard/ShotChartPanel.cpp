@@ -12,6 +12,7 @@
 #include <QButtonGroup>
 #include <QEvent>
 #include <QLabel>
+#include <QTextDocumentFragment>
 #include <QToolButton>
 #include <algorithm>
 
@@ -126,6 +127,14 @@ void ShotChartPanel::showShots(std::vector<Shot> shots, const Game& game, const 
 void ShotChartPanel::highlight(std::optional<std::uint32_t> event) {
   m_highlighted = event;
   showMarks();
+}
+
+void ShotChartPanel::paintPicture(QPainter& painter, const QRectF& area) const {
+  const double line = QFontMetricsF(painter.font(), painter.device()).height() * 1.3;
+  m_court->paintOn(painter, area.adjusted(0, 0, 0, -line));
+  painter.setPen(Qt::black);
+  painter.drawText(QRectF(area.left(), area.bottom() - line, area.width(), line), Qt::AlignCenter,
+                   QTextDocumentFragment::fromHtml(m_numbers->text()).toPlainText());
 }
 
 void ShotChartPanel::showMarks() {

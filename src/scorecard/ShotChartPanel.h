@@ -2,6 +2,7 @@
 // in numbers. Which shots these are is decided elsewhere.
 #pragma once
 
+#include "appearance/ShownPicture.h"
 #include "scorecard/ScorecardView.h"
 #include "storage/EventWords.h"
 
@@ -20,7 +21,7 @@ namespace hooptab {
 class CourtView;
 class Settings;
 
-class ShotChartPanel : public QWidget {
+class ShotChartPanel : public QWidget, public ShownPicture {
   Q_OBJECT
 
  public:
@@ -30,6 +31,10 @@ class ShotChartPanel : public QWidget {
   // The shot of an event that is chosen elsewhere stands out.
   void highlight(std::optional<std::uint32_t> event);
   void applyColours();
+
+  bool hasPicture() const override { return true; } // the court
+  QSize pictureSize() const override { return {640, 430}; }
+  void paintPicture(QPainter& painter, const QRectF& area) const override;
 
  signals:
   void scopeChosen(ScorecardView::Scope scope);

@@ -2,6 +2,7 @@
 
 #include "appearance/Fields.h"
 #include "appearance/Icons.h"
+#include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "scorecard/BoxTable.h"
 #include "scorecard/ColumnWords.h"
@@ -11,7 +12,6 @@
 #include "scorecard/ScoreboardStrip.h"
 #include "scorecard/ScorecardTexts.h"
 #include "scorecard/ShotChartPanel.h"
-#include "scorecard/TableText.h"
 #include "storage/Module1.h"
 #include "storage/Settings.h"
 
@@ -302,12 +302,15 @@ void frmVIEW::showTeams() {
 void frmVIEW::showTable() {
   int& shownTeam = m_shownTeam[static_cast<std::size_t>(m_view.view())];
   table().showRows(m_view, shownTeam == m_view.team());
+  setExportTitle(table(), m_team->currentText());
   shownTeam = m_view.team();
 }
 
 void frmVIEW::showChart() {
-  if (m_card != nullptr)
-    m_chart->showShots(m_view.shots(), m_card->game(), m_events->model().words());
+  if (m_card == nullptr)
+    return;
+  m_chart->showShots(m_view.shots(), m_card->game(), m_events->model().words());
+  setExportTitle(*m_chart, m_team->currentText());
 }
 
 void frmVIEW::showHeaders() {

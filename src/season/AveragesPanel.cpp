@@ -67,6 +67,10 @@ void AveragesPanel::relabelPanel() {
   for (const SeasonView view : kSeasonViews)
     m_tables[static_cast<std::size_t>(view)]->showColumns(
         seasonTableColumns(m_kind, view, m_settings, m_texts));
+  constexpr int kViews[] = {kTotals, kPerGame, kPerMinute};
+  for (std::size_t i = 0; i < m_tables.size(); ++i)
+    setExportTitle(*m_tables[i], caption(m_texts, m_kind == SeasonTable::Lines ? kLineTitle : kPlayerTitle) +
+                                     QStringLiteral(" – ") + caption(m_texts, kViews[i]));
   showTexts();
 }
 

@@ -91,6 +91,7 @@ void LeadersPanel::showTitle() {
     return m_title->setText(caption(m_texts, kNotGenerated));
   const int column = m_season->leaders(m_switch->view()).statistics()[m_statistic].column;
   m_title->setText(statisticName(column, m_settings, m_texts));
+  setExportTitle(*m_leaders, m_title->text());
 }
 
 } // namespace hooptab

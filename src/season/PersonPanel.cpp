@@ -157,6 +157,12 @@ void PersonPanel::showTexts() {
   const SeasonTeam& team = m_person->season->catalogue().teams()[m_person->row.team];
   m_games->setText(toQt(team.key) + QStringLiteral("  ·  ") +
                    toQt(m_texts.withPlaceholder(kPersonGames, std::to_string(m_person->results.size()))));
+  const QString who = m_number->text() + u' ' + m_name->text();
+  for (const auto& [widget, title] : {std::pair<QWidget*, QString>(m_records, m_recordTitle->text()),
+                                      {m_results, caption(m_texts, kResultsByGame)},
+                                      {m_picture, {}},
+                                      {m_shots, {}}})
+    setExportTitle(*widget, title.isEmpty() ? who : title + QStringLiteral(" – ") + who);
 }
 
 void PersonPanel::showPicture() {

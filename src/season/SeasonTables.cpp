@@ -48,6 +48,7 @@ TableColumn columnOf(int index, SeasonTable kind, SeasonView view, const Setting
   shown.isHidden = column.widthTwips == 0;
   shown.isShaded = isShaded(index);
   shown.isBold = column.name == "PTS";
+  shown.name = toQt(column.name);
   return shown;
 }
 

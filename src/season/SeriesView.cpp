@@ -46,6 +46,10 @@ void SeriesView::paintEvent(QPaintEvent*) {
   }
 }
 
+void SeriesView::paintPicture(QPainter& painter, const QRectF& area) const {
+  SeriesPicture(SeriesColours::ofPaper()).paint(painter, area, m_drawing);
+}
+
 void SeriesView::mouseMoveEvent(QMouseEvent* event) {
   highlight(valueAt(event->position()));
   QToolTip::showText(event->globalPosition().toPoint(),

@@ -2,13 +2,14 @@
 // have reached, stands out with its tool tip; double click or Enter asks for it.
 #pragma once
 
+#include "appearance/ShownPicture.h"
 #include "season/SeriesPicture.h"
 
 #include <QWidget>
 
 namespace hooptab {
 
-class SeriesView : public QWidget {
+class SeriesView : public QWidget, public ShownPicture {
   Q_OBJECT
 
  public:
@@ -16,6 +17,10 @@ class SeriesView : public QWidget {
 
   void show(SeriesDrawing drawing, QStringList toolTips); // a tool tip for each value
   const SeriesDrawing& drawing() const { return m_drawing; }
+
+  bool hasPicture() const override { return !m_drawing.values.empty(); }
+  QSize pictureSize() const override { return {760, 340}; }
+  void paintPicture(QPainter& painter, const QRectF& area) const override;
 
   QSize sizeHint() const override { return {420, 200}; }
   QSize minimumSizeHint() const override { return {200, 110}; }

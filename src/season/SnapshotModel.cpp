@@ -159,6 +159,7 @@ QVariant SnapshotModel::headerData(int section, Qt::Orientation orientation, int
   switch (role) {
   case Qt::DisplayRole: return shown.header;
   case Qt::ToolTipRole: return shown.toolTip;
+  case kTableNameRole: return shown.name;
   case Qt::TextAlignmentRole: return QVariant::fromValue(alignmentOf(shown));
   // Whoever sorts by a number wants the best first.
   case Qt::InitialSortOrderRole:

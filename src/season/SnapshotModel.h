@@ -3,6 +3,8 @@
 // a season has thousands of rows. Knows nothing of basketball.
 #pragma once
 
+#include "appearance/TableContent.h"
+
 #include <QAbstractTableModel>
 
 #include <functional>
@@ -19,6 +21,7 @@ struct TableColumn {
   bool isHidden = false;
   bool isShaded = false; // tinted, to tell groups of columns apart
   bool isBold = false;
+  QString name = {}; // unique in its table, for files; empty: the header
 };
 
 // Rows and columns count from 0. What a function refers to must live as long as the model shows it.
@@ -34,7 +37,7 @@ class SnapshotModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  static constexpr int kSortRole = Qt::UserRole; // number or text
+  static constexpr int kSortRole = kTableSortRole; // number or text
 
   using QAbstractTableModel::QAbstractTableModel;
 

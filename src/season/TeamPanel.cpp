@@ -1,5 +1,6 @@
 #include "season/TeamPanel.h"
 
+#include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "season/GamePictures.h"
 #include "season/SeasonTexts.h"
@@ -94,6 +95,8 @@ void TeamPanel::showTeam() {
   const SeasonStatistics& statistics = m_season->statistics();
   const SeasonTeamRow& team = statistics.teams()[static_cast<std::size_t>(m_team->currentIndex())];
   m_balance->setText(balanceText(team, m_texts));
+  for (QWidget* each : {static_cast<QWidget*>(m_picture), static_cast<QWidget*>(m_shots)})
+    setExportTitle(*each, m_team->currentText());
   m_margins = seriesOfMargins(statistics, team.team);
   SeriesWithToolTips picture = pictureOfMargins(m_margins, team.team, *m_season, m_texts);
   m_picture->show(std::move(picture.drawing), std::move(picture.toolTips));

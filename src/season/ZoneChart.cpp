@@ -150,6 +150,8 @@ ZoneChart::ZoneChart(const QString& name, const Texts& texts, QWidget* parent)
 
 void ZoneChart::showShots(const ShotSums& shots, const ShotSums& average) {
   showReason({});
+  m_sums = shots;
+  m_average = average;
   m_court->setZones(zoneTexts(shots, average, m_texts));
   ZoneSum all;
   for (const ZoneSum& zone : shots.zones) {
@@ -170,6 +172,15 @@ void ZoneChart::showReason(const QString& reason) {
   for (QWidget* part : {static_cast<QWidget*>(m_court), m_legend, static_cast<QWidget*>(m_caption),
                         static_cast<QWidget*>(m_numbers)})
     part->setVisible(reason.isEmpty());
+}
+
+bool ZoneChart::hasPicture() const {
+  return m_reason->text().isEmpty() &&
+         std::ranges::any_of(m_sums.zones, [](const ZoneSum& zone) { return zone.attempted > 0; });
+}
+
+void ZoneChart::paintPicture(QPainter& painter, const QRectF& area) const {
+  paintZoneChart(painter, area, m_sums, m_average, m_texts);
 }
 
 void ZoneChart::applyColours() {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "appearance/CourtPicture.h"
+#include "appearance/ShownPicture.h"
 #include "season/SeasonShots.h"
 #include "storage/Texts.h"
 
@@ -28,7 +29,7 @@ void paintDifferenceLegend(QPainter& painter, const QRectF& area, const QColor& 
 void paintZoneChart(QPainter& painter, const QRectF& area, const ShotSums& shots, const ShotSums& average,
                     const Texts& texts);
 
-class ZoneChart : public QWidget {
+class ZoneChart : public QWidget, public ShownPicture {
   Q_OBJECT
 
  public:
@@ -38,11 +39,17 @@ class ZoneChart : public QWidget {
   void showReason(const QString& reason); // why there is no chart
   void applyColours();
 
+  bool hasPicture() const override;
+  QSize pictureSize() const override { return {640, 480}; }
+  void paintPicture(QPainter& painter, const QRectF& area) const override;
+
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   const Texts& m_texts;
+  ShotSums m_sums;
+  ShotSums m_average;
   CourtView* m_court;
   QWidget* m_legend;
   QLabel* m_caption;

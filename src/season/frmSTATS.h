@@ -3,8 +3,8 @@
 // by SeasonDesk, and all that takes its time is done on a thread of its own, which can be cancelled.
 #pragma once
 
+#include "appearance/BackgroundWork.h"
 #include "appearance/ChildWindow.h"
-#include "season/BackgroundWork.h"
 #include "season/SeasonDesk.h"
 
 #include <QTimer>

@@ -9,6 +9,8 @@
 #include "live/frmConfiguration.h"
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
+#include "printing/ReportOutput.h"
+#include "printing/WindowExports.h"
 #include "printing/frmprint.h"
 #include "scorecard/frmVIEW.h"
 #include "season/frmSTATS.h"
@@ -112,7 +114,11 @@ MDI::MDI(const Workshop& workshop)
   samples->setIcon(icon(QStringLiteral("samples")));
   setTextNumber(*samples->menuAction(), kSampleGames);
   m_commands = new CommandBar(*this);
-  m_menu = new MainMenu(*this, *m_area, *m_commands, *recent, *samples);
+  m_output = new ReportOutput(m_workshop.texts, m_workshop.dialogs, m_workshop.store.files(),
+                              m_workshop.settings, this);
+  m_exports = new WindowExports(*m_output, m_workshop.texts, this);
+  auto* tables = new QMenu(this);
+  m_menu = new MainMenu(*this, *m_area, *m_commands, *recent, *samples, *tables);
   m_menu->showColours(Theme::current());
 
   m_pages = new QStackedWidget(this);
@@ -123,6 +129,7 @@ MDI::MDI(const Workshop& workshop)
   m_unsaved = new QLabel(this);
   m_unsaved->setObjectName(QStringLiteral("lblUNSAVED"));
   m_unsaved->hide();
+  statusBar()->addPermanentWidget(m_output);
   statusBar()->addPermanentWidget(m_unsaved);
   // Its room is always taken: a hint that comes and goes must not move what is being pressed.
   statusBar()->setMinimumHeight(statusBar()->fontMetrics().height() + kStatusMargin);
@@ -132,6 +139,12 @@ MDI::MDI(const Workshop& workshop)
   connect(m_menu, &MainMenu::coloursChosen, this, &MDI::switchColours);
   connect(recent, &GameMenu::chosen, this, &MDI::openGame);
   connect(samples, &GameMenu::chosen, this, &MDI::openGame);
+  connect(m_menu, &MainMenu::fileMenuShown, this, [this, tables] {
+    m_exports->fill(*tables, frontWindow());
+    tables->setEnabled(!tables->isEmpty());
+  });
+  connect(m_output, &ReportOutput::reported, this, &MDI::showMessage);
+  connect(m_exports, &WindowExports::reported, this, &MDI::showMessage);
   connect(m_area, &QMdiArea::subWindowActivated, this, &MDI::showCommands);
   connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
     m_workshop.settings.retry();
@@ -403,8 +416,7 @@ void MDI::preview(std::vector<ReportOffer> offers) {
       return bringToFront(*open);
     }
   }
-  auto* window = new frmprint(m_workshop.texts, m_workshop.dialogs, m_workshop.printers,
-                              m_workshop.store.files(), toQt(m_workshop.settings.lastGameFolder));
+  auto* window = new frmprint(m_workshop.texts, m_workshop.dialogs, m_workshop.printers, *m_output);
   window->offer(std::move(offers));
   addChild(window);
 }
@@ -498,9 +510,8 @@ void MDI::addChild(ChildWindow* child) {
     if (const QByteArray arrangement = child->arrangement(); !arrangement.isEmpty())
       m_workshop.memory.rememberLayout(name, arrangement.toBase64().toStdString());
   });
-  connect(child, &ChildWindow::reported, this, [this](const QString& message) {
-    statusBar()->showMessage(message, static_cast<int>(std::chrono::milliseconds(kMessageTime).count()));
-  });
+  connect(child, &ChildWindow::reported, this, &MDI::showMessage);
+  m_exports->serve(*child);
   // Queued: by then the area has forgotten the window.
   connect(window, &QObject::destroyed, this, &MDI::showCommands, Qt::QueuedConnection);
   m_pages->setCurrentWidget(m_area);
@@ -528,6 +539,15 @@ QList<ChildWindow*> MDI::children() const {
   return windows;
 }
 
+ChildWindow* MDI::frontWindow() const {
+  const QMdiSubWindow* window = m_area->currentSubWindow();
+  return window == nullptr ? nullptr : qobject_cast<ChildWindow*>(window->widget());
+}
+
+void MDI::showMessage(const QString& message) {
+  statusBar()->showMessage(message, static_cast<int>(std::chrono::milliseconds(kMessageTime).count()));
+}
+
 frmLIVE* MDI::live() const {
   return firstOf<frmLIVE>(children());
 }
@@ -541,8 +561,7 @@ frmSTATS* MDI::season() const {
 }
 
 frmVIEW* MDI::scorecard() const {
-  const QMdiSubWindow* window = m_area->currentSubWindow();
-  return window == nullptr ? nullptr : qobject_cast<frmVIEW*>(window->widget());
+  return qobject_cast<frmVIEW*>(frontWindow());
 }
 
 frmVIEW* MDI::scorecardOf(const QString& path) const {

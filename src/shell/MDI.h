@@ -29,8 +29,10 @@ class CommandBar;
 class Dialogs;
 class MainMenu;
 class Printers;
+class ReportOutput;
 class SharedFiles;
 class TimeSource;
+class WindowExports;
 class WindowMemory;
 class frmLIVE;
 class frmMANUAL;
@@ -98,6 +100,8 @@ class MDI : public QMainWindow {
   void addChild(ChildWindow* child);
   void bringToFront(ChildWindow& child);
   [[nodiscard]] QList<ChildWindow*> children() const; // the open windows
+  [[nodiscard]] ChildWindow* frontWindow() const;     // or null
+  void showMessage(const QString& message);           // in the status bar, for a while
   [[nodiscard]] frmLIVE* live() const;                // the one that is open, or null
   [[nodiscard]] frmMANUAL* manual() const;            // the same
   [[nodiscard]] frmSTATS* season() const;             // the one that is open, or null
@@ -123,6 +127,8 @@ class MDI : public QMainWindow {
   QMdiArea* m_area = nullptr;
   QStackedWidget* m_pages = nullptr;
   QLabel* m_unsaved = nullptr;
+  ReportOutput* m_output = nullptr; // in the status bar while it is at work
+  WindowExports* m_exports = nullptr;
 };
 
 } // namespace hooptab

@@ -24,6 +24,7 @@ constexpr int kSeason = 1252;
 constexpr int kSettings = 1528;
 constexpr int kWindow = 1529;
 constexpr int kHelp = 1380;
+constexpr int kExportTable = 2350;
 constexpr int kLeave = 1532;
 constexpr int kColours = 1591;
 constexpr int kLight = 1542;
@@ -37,12 +38,18 @@ constexpr int kCloseAll = 1535;
 } // namespace
 
 MainMenu::MainMenu(QMainWindow& window, QMdiArea& area, const CommandBar& commands, GameMenu& recent,
-                   GameMenu& samples)
+                   GameMenu& samples, QMenu& tables)
     : QObject(&window), m_window(window), m_commands(commands) {
   constexpr const char* kSeparator = "";
 
   QMenu& file = addMenu(kFile, {"VwOPEN"});
   file.addMenu(&recent);
+  file.addSeparator();
+  tables.menuAction()->setObjectName(QStringLiteral("exportTable"));
+  tables.setIcon(icon(QStringLiteral("export")));
+  setTextNumber(*tables.menuAction(), kExportTable);
+  file.addMenu(&tables);
+  connect(&file, &QMenu::aboutToShow, this, &MainMenu::fileMenuShown);
   file.addSeparator();
   QAction& leave = addAction(file, "QUIT", kLeave, QStringLiteral("Ctrl+Q"));
   leave.setIcon(icon(QStringLiteral("quit")));

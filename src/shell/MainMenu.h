@@ -22,12 +22,13 @@ class MainMenu : public QObject {
 
  public:
   MainMenu(QMainWindow& window, QMdiArea& area, const CommandBar& commands, GameMenu& recent,
-           GameMenu& samples);
+           GameMenu& samples, QMenu& tables);
 
   void showColours(ColourScheme scheme);
 
  signals:
   void coloursChosen(ColourScheme scheme);
+  void fileMenuShown(); // about to be, so that `tables` can be filled
 
  private:
   QMenu& addMenu(int text, std::initializer_list<const char*> keys);

@@ -4,6 +4,7 @@
 #include "printing/Printers.h"
 #include "printing/ReportFiles.h"
 #include "printing/ReportLayout.h"
+#include "printing/ReportOutput.h"
 #include "printing/ReportPainter.h"
 #include "printing/TeamReports.h"
 #include "printing/frmprint.h"
@@ -32,6 +33,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <regex>
+#include <type_traits>
 
 namespace hooptab {
 namespace {
@@ -259,8 +261,8 @@ TEST_F(ReportPagesTest, AFailedWriteLeavesTheOldFileWhole) {
   }
   EXPECT_GE(failures, 4);
   EXPECT_EQ(writeFiles(files, folder.path("missing/x.pdf"), contents), folder.path("missing/x.pdf"));
-  EXPECT_EQ(pathOf("/a.b/box.csv", {" Points", ""}), "/a.b/box Points.csv");
-  EXPECT_EQ(pathOf("/a.b/box", {" Points", ""}), "/a.b/box Points");
+  EXPECT_EQ(pathOf("/a.b/box.csv", " Points"), "/a.b/box Points.csv");
+  EXPECT_EQ(pathOf("/a.b/box", " Points"), "/a.b/box Points");
 }
 
 // Forms printed and looked at as a scanner does: marks and filled digits are black, cells are empty.
@@ -315,6 +317,8 @@ class ScriptedPrinters : public Printers {
   int from = 0;
   int to = 0;
   int asked = 0;
+  bool isInstalled = true;
+  bool hasAny() override { return isInstalled; }
   std::unique_ptr<QPrinter> choose(QWidget*, const QPageLayout&, int pages) override {
     asked = pages;
     if (file.isEmpty())
@@ -331,7 +335,7 @@ class ScriptedPrinters : public Printers {
 class PreviewTest : public ReportPagesTest {
  protected:
   void SetUp() override {
-    window = std::make_unique<frmprint>(texts, dialogs, printers, files, toQt(folder.path()));
+    window = std::make_unique<frmprint>(texts, dialogs, printers, output);
     window->resize(1000, 700);
     window->offer(
         {{[this] { return std::string(texts.text(kScorecard)); }, [this] { return scorecard(game); }},
@@ -354,10 +358,24 @@ class PreviewTest : public ReportPagesTest {
         QTest::qWaitFor([&] { return std::exchange(before, pages()) == pages() && pages() > 1; }, 20000));
   }
 
+  // Files and printers are served on another thread.
+  void waitForOutput() {
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !output.isBusy(); }, 30000));
+  }
+  template <class Widget>
+  void clickAndWait(const char* name) {
+    if constexpr (std::is_same_v<Widget, QAction>)
+      find<QAction>(name).trigger();
+    else
+      find<Widget>(name).click();
+    waitForOutput();
+  }
+
   const Game game = crowdedGame();
   const Game shorter = crowdedGame(1);
   ScriptedDialogs dialogs;
   ScriptedPrinters printers;
+  ReportOutput output{texts, dialogs, files, settings};
   std::unique_ptr<frmprint> window;
 };
 
@@ -375,7 +393,7 @@ TEST_F(PreviewTest, ShowsPagesAndGoesThroughThem) {
   emit find<QComboBox>("cmbZOOM").activated(4);
   EXPECT_EQ(find<QComboBox>("cmbZOOM").currentText(), QStringLiteral("100%"));
   const QByteArray arrangement = window->arrangement();
-  frmprint other(texts, dialogs, printers, files, {});
+  frmprint other(texts, dialogs, printers, output);
   other.restoreArrangement(arrangement);
   EXPECT_EQ(other.arrangement(), arrangement);
   other.restoreArrangement("nonsense");
@@ -394,7 +412,7 @@ TEST_F(PreviewTest, TheTitleIsTheUsersAndTheRestFollowsTheLanguage) {
   window->relabelWindow();
   EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), QStringLiteral("Final of the cup"));
   dialogs.nextFileToSave = toQt(folder.path("x.html"));
-  find<QAction>("mnuHTML").trigger();
+  clickAndWait<QAction>("mnuHTML");
   EXPECT_NE(folder.read("x.html").find("<h1>Final of the cup</h1>"), std::string::npos);
   find<QComboBox>("cmbREPORT").setCurrentIndex(1);
   EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(kPlayByPlay)))
@@ -402,24 +420,24 @@ TEST_F(PreviewTest, TheTitleIsTheUsersAndTheRestFollowsTheLanguage) {
 }
 
 TEST_F(PreviewTest, SavesEveryFormAndAsksBeforeItReplaces) {
-  QSignalSpy reported(window.get(), &frmprint::reported);
+  QSignalSpy reported(&output, &ReportOutput::reported);
   for (const char* ending : {"XLSX", "CSV", "HTML", "PNG"}) {
     dialogs.nextFileToSave = toQt(folder.path(std::string("box.") + ending));
-    find<QAction>((std::string("mnu") + ending).c_str()).trigger();
+    clickAndWait<QAction>((std::string("mnu") + ending).c_str());
     EXPECT_TRUE(folder.holds(std::string("box.") + ending)) << ending;
   }
   EXPECT_EQ(reported.size(), 4);
   (void)folder.write("box.pdf", "mine");
   dialogs.nextFileToSave = toQt(folder.path("box.pdf"));
-  find<QPushButton>("cmdPDF").click();
+  clickAndWait<QPushButton>("cmdPDF");
   EXPECT_EQ(folder.read("box.pdf"), "mine") << "asked, and answered with No";
   EXPECT_EQ(dialogs.shown.back().kind, ScriptedDialogs::Kind::Ask);
   dialogs.nextAnswer = true;
-  find<QPushButton>("cmdPDF").click();
+  clickAndWait<QPushButton>("cmdPDF");
   EXPECT_EQ(folder.read("box.pdf").substr(0, 5), "%PDF-");
 
   dialogs.nextFileToSave = toQt(folder.path("missing/box.pdf"));
-  find<QPushButton>("cmdPDF").click();
+  clickAndWait<QPushButton>("cmdPDF");
   EXPECT_EQ(dialogs.shown.back().kind, ScriptedDialogs::Kind::Complain);
   find<QComboBox>("cmbREPORT").setCurrentIndex(2);
   EXPECT_FALSE(find<QAction>("mnuCSV").isEnabled()) << "a form has no table";
@@ -427,21 +445,27 @@ TEST_F(PreviewTest, SavesEveryFormAndAsksBeforeItReplaces) {
 }
 
 TEST_F(PreviewTest, PrintsTheChosenPagesAndTellsWhenThePrinterRefuses) {
-  find<QPushButton>("cmdPRINT").click();
+  clickAndWait<QPushButton>("cmdPRINT");
   EXPECT_GT(printers.asked, 1) << "all pages are counted before the printer is chosen";
   EXPECT_TRUE(dialogs.shown.empty()) << "cancelled";
   printers.file = toQt(folder.path("printed.pdf"));
   printers.from = 2;
   printers.to = 3;
-  find<QPushButton>("cmdPRINT").click();
+  clickAndWait<QPushButton>("cmdPRINT");
   EXPECT_TRUE(dialogs.shown.empty());
   const std::string pdf = folder.read("printed.pdf");
   const std::regex page("/Type\\s*/Page[^s]");
   EXPECT_EQ(std::distance(std::sregex_iterator(pdf.begin(), pdf.end(), page), {}), 2);
   printers.file = toQt(folder.path("missing/printed.pdf"));
-  find<QPushButton>("cmdPRINT").click();
+  clickAndWait<QPushButton>("cmdPRINT");
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_EQ(dialogs.shown[0].title, toQt(texts.text(1402)));
+  EXPECT_EQ(dialogs.shown[0].text, toQt(texts.text(kNotPrinted)));
+  printers.isInstalled = false;
+  printers.asked = 0;
+  clickAndWait<QPushButton>("cmdPRINT");
+  EXPECT_EQ(dialogs.shown.back().text, toQt(texts.text(kNoPrinter)));
+  EXPECT_EQ(printers.asked, 0);
 }
 
 } // namespace

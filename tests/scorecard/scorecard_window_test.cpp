@@ -1,9 +1,9 @@
 #include "appearance/CourtView.h"
+#include "appearance/EventListModel.h"
+#include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "scorecard/BoxTable.h"
-#include "appearance/EventListModel.h"
 #include "scorecard/FrozenTableView.h"
-#include "scorecard/TableText.h"
 #include "scorecard/frmVIEW.h"
 #include "storage/Settings.h"
 
@@ -280,7 +280,9 @@ TEST_F(ScorecardWindowTest, TheEventListFollowsEveryKindOfChange) {
   EXPECT_EQ(cell(events(), 5, EventListModel::Score), QStringLiteral("0-3"));
   EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("2"));
 
-  ASSERT_EQ(game.file.change({{EventChange::Kind::Add, 1, std::to_string(game.file.nextNumber()), "09:45,STO,0-4", "5"}}), GameFileProblem::None);
+  ASSERT_EQ(game.file.change(
+                {{EventChange::Kind::Add, 1, std::to_string(game.file.nextNumber()), "09:45,STO,0-4", "5"}}),
+            GameFileProblem::None);
   window->refresh();
   EXPECT_EQ(events().model()->rowCount(), count + 1);
   EXPECT_EQ(events().currentIndex().row(), 7) << "moved on with its event";
@@ -422,7 +424,8 @@ TEST_F(ScorecardWindowTest, CopiesTheColumnsThatAreShownInTheirOrder) {
   table(0).selectAll();
   table(0).selectionModel()->select(table(0).model()->index(0, 0),
                                     QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
-  EXPECT_EQ(tableText(table(0)).count(u'\n'), 5) << "headers and the four selected rows";
+  EXPECT_EQ(tableText(tableContent(table(0), TableExtent::Selected)).count(u'\n'), 5)
+      << "headers and the four selected rows";
 }
 
 // What no program of ours writes, but what a file may hold.

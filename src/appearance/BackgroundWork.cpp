@@ -1,4 +1,4 @@
-#include "season/BackgroundWork.h"
+#include "appearance/BackgroundWork.h"
 
 #include <exception>
 #include <system_error>

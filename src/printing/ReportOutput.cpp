@@ -1,0 +1,242 @@
+#include "printing/ReportOutput.h"
+
+#include "appearance/Dialogs.h"
+#include "appearance/Fields.h"
+#include "appearance/relabel.h"
+#include "printing/PrintTexts.h"
+#include "printing/Printers.h"
+#include "storage/Settings.h"
+
+#include <QBoxLayout>
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPointer>
+#include <QPrinter>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kErrorTitle = 1060;
+constexpr int kWarningTitle = 1139;
+constexpr int kPrinterError = 1402;
+constexpr int kReplaceFile = 1836;
+
+constexpr auto kPollInterval = 50ms;
+constexpr auto kShownAfter = 300ms;
+constexpr int kBarWidth = 160;
+constexpr qsizetype kLongestName =
+    100; // of a file, in letters: names of teams may be as long as a folder takes
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+struct Form {
+  ReportForm form;
+  int text;
+  int filter;
+};
+constexpr Form kForms[] = {{ReportForm::Pdf, kSavePdf, kPdfFilter},
+                           {ReportForm::Xlsx, kSaveXlsx, kXlsxFilter},
+                           {ReportForm::Csv, kSaveCsv, kCsvFilter},
+                           {ReportForm::Html, kSaveHtml, kHtmlFilter},
+                           {ReportForm::Png, kSavePictures, kPngFilter}};
+
+const Form& formOf(ReportForm form) {
+  return *std::ranges::find(kForms, form, &Form::form);
+}
+
+int textOfProblem(WriteProblem problem) {
+  switch (problem) {
+  case WriteProblem::IsFolder: return kPathIsFolder;
+  case WriteProblem::NoFolder: return kFolderIsMissing;
+  case WriteProblem::NoRight: return kNoRightToWrite;
+  case WriteProblem::NoRoom: return kNoRoomOnDisk;
+  case WriteProblem::Unknown: break;
+  }
+  return kReportNotWritten;
+}
+
+} // namespace
+
+ReportOutput::ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& files, const Settings& settings,
+                           QWidget* parent)
+    : QWidget(parent), m_texts(texts), m_dialogs(dialogs), m_files(files), m_settings(settings),
+      m_what(new QLabel(this)), m_progress(new QProgressBar(this)),
+      m_cancel(iconButton("cmdCANCELREPORT", kCancelReport, kCancelReport, "clear", this)) {
+  setObjectName(QStringLiteral("reportOutput"));
+  m_what->setObjectName(QStringLiteral("lblREPORT"));
+  m_progress->setObjectName(QStringLiteral("reportProgress"));
+  m_progress->setFixedWidth(kBarWidth);
+  m_progress->setTextVisible(false);
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(m_what);
+  layout->addWidget(m_progress);
+  layout->addWidget(m_cancel);
+  hide();
+  m_poll.setInterval(kPollInterval);
+  m_delay.setInterval(kShownAfter);
+  m_delay.setSingleShot(true);
+  connect(&m_poll, &QTimer::timeout, this, &ReportOutput::showProgress);
+  connect(&m_delay, &QTimer::timeout, this, &QWidget::show);
+  connect(m_cancel, &QPushButton::clicked, this, &ReportOutput::cancel);
+  connect(&m_work, &BackgroundWork::failed, this, [this] { complain(kNoMemoryForReport, {}, window()); });
+  connect(&m_work, &BackgroundWork::finished, this, &ReportOutput::end);
+  hooptab::relabel(*this, texts);
+}
+
+// What is under way is finished first: the user has asked for it.
+ReportOutput::~ReportOutput() = default;
+
+int ReportOutput::textOf(ReportForm form) {
+  return formOf(form).text;
+}
+
+void ReportOutput::cancel() {
+  if (m_watch != nullptr)
+    m_watch->isCancelled = true;
+}
+
+QString ReportOutput::choosePath(const QString& fileName, ReportForm form, QWidget* asker) {
+  const QString ending = toQt(endingOf(form));
+  const QString folder = m_folder.isEmpty() ? toQt(m_settings.lastGameFolder) : m_folder;
+  const QString path =
+      m_dialogs.chooseFileToSave(asker, caption(m_texts, formOf(form).text),
+                                 QDir(folder).filePath(fileName.left(kLongestName).trimmed() + u'.' + ending),
+                                 fileFilter(toQt(m_texts.text(formOf(form).filter))), ending);
+  if (!path.isEmpty())
+    m_folder = QFileInfo(path).absolutePath();
+  return path;
+}
+
+bool ReportOutput::mayReplace(const QString& path, const std::vector<std::string>& suffixes, QWidget* asker) {
+  return std::ranges::all_of(suffixes, [&](const std::string& suffix) {
+    const QFileInfo target(toQt(pathOf(fromQt(path), suffix)));
+    return !target.exists() || target.isDir() || // a folder is refused with its own words
+           m_dialogs.ask(asker, caption(m_texts, kWarningTitle),
+                         toQt(m_texts.withPlaceholder(kReplaceFile,
+                                                      fromQt(QDir::toNativeSeparators(target.filePath())))));
+  });
+}
+
+void ReportOutput::save(Report report, ReportForm form, const PageFormat& format, QWidget* asker) {
+  if (isBusy())
+    return;
+  const QString path = choosePath(toQt(report.fileName), form, asker);
+  if (path.isEmpty() || !mayReplace(path, suffixesOf(report, form), asker))
+    return;
+  const char* language = m_texts.language() == Language::French ? "fr" : "en";
+  write(
+      path,
+      [report = std::make_shared<const Report>(std::move(report)), form, format,
+       language](ReportWatch* watch) {
+        auto files = filesOf(*report, form, format, language, watch);
+        // Without the mark a spreadsheet would read the letters of another code page.
+        if (files && form == ReportForm::Csv) {
+          for (ReportFile& file : *files)
+            file.bytes.insert(0, kByteOrderMark);
+        }
+        return files;
+      },
+      asker);
+}
+
+void ReportOutput::savePicture(const QString& fileName, std::string png, QWidget* asker) {
+  if (isBusy())
+    return;
+  const QString path = choosePath(fileName, ReportForm::Png, asker);
+  if (path.isEmpty() || !mayReplace(path, {{}}, asker))
+    return;
+  write(
+      path,
+      [png = std::move(png)](ReportWatch*) {
+        return std::optional(std::vector<ReportFile>{{{}, png}});
+      },
+      asker);
+}
+
+void ReportOutput::write(const QString& path, Make make, QWidget* asker) {
+  start(toQt(m_texts.withPlaceholder(kWritingReport, fromQt(QFileInfo(path).fileName()))),
+        [this, path, make = std::move(make), &files = m_files,
+         watch = m_watch = std::make_shared<ReportWatch>(),
+         asker = QPointer(asker)]() -> BackgroundWork::Delivery {
+          Outcome outcome;
+          if (const auto contents = make(watch.get())) {
+            outcome.isMade = true;
+            outcome.failed = writeFiles(files, fromQt(path), *contents);
+            std::size_t bytes = 0;
+            for (const ReportFile& file : *contents)
+              bytes += file.bytes.size();
+            if (!outcome.failed.empty())
+              outcome.problem = writeProblem(outcome.failed, bytes);
+          }
+          return [this, outcome, path, asker] { tell(outcome, path, asker); };
+        });
+}
+
+void ReportOutput::tell(const Outcome& outcome, const QString& path, QWidget* asker) {
+  if (!outcome.failed.empty())
+    return complain(textOfProblem(outcome.problem), toQt(outcome.failed), asker);
+  if (!outcome.isMade && !m_watch->isCancelled)
+    return complain(kNoRoomForTemporary, QDir::tempPath(), asker);
+  emit reported(toQt(m_texts.withPlaceholder(outcome.isMade ? kReportSaved : kReportCancelled,
+                                             fromQt(QDir::toNativeSeparators(path)))));
+}
+
+void ReportOutput::print(Report report, const PageFormat& format, std::shared_ptr<QPrinter> printer,
+                         QWidget* asker) {
+  if (isBusy())
+    return;
+  printer->setDocName(toQt(report.fileName));
+  start(toQt(m_texts.withPlaceholder(kPrintingReport, report.fileName)),
+        [this, report = std::make_shared<const Report>(std::move(report)), format,
+         printer = std::move(printer), watch = m_watch = std::make_shared<ReportWatch>(),
+         asker = QPointer(asker)]() -> BackgroundWork::Delivery {
+          const bool isPrinted = printReport(*printer, *report, format, watch.get());
+          return [this, report, isPrinted, watch, asker] {
+            if (!isPrinted && !watch->isCancelled)
+              return complain(kNotPrinted, {}, asker);
+            emit reported(toQt(
+                m_texts.withPlaceholder(isPrinted ? kSentToPrinter : kReportCancelled, report->fileName)));
+          };
+        });
+}
+
+void ReportOutput::start(const QString& what, std::function<BackgroundWork::Delivery()> work) {
+  m_what->setText(what);
+  m_cancel->setEnabled(true);
+  m_work.start(std::move(work));
+  showProgress();
+  m_poll.start();
+  m_delay.start();
+  emit busyChanged();
+}
+
+void ReportOutput::showProgress() {
+  m_progress->setRange(0, m_watch->most);
+  m_progress->setValue(m_watch->done);
+  m_cancel->setEnabled(!m_watch->isCancelled);
+}
+
+void ReportOutput::end() {
+  m_poll.stop();
+  m_delay.stop();
+  hide();
+  emit busyChanged();
+}
+
+void ReportOutput::complain(int text, const QString& path, QWidget* asker) {
+  m_dialogs.complain(asker == nullptr ? window() : asker,
+                     caption(m_texts, text == kNotPrinted ? kPrinterError : kErrorTitle),
+                     toQt(m_texts.withPlaceholder(text, fromQt(QDir::toNativeSeparators(path)))));
+}
+
+} // namespace hooptab

@@ -1,0 +1,83 @@
+// The way of a report out of the program: asks where to, makes the file or prints on a thread of its own, and
+// shows meanwhile how far that is, with a button that cancels it. One piece of work at a time. What is
+// written stands whole or not at all.
+#pragma once
+
+#include "appearance/BackgroundWork.h"
+#include "printing/PageFormat.h"
+#include "printing/ReportFiles.h"
+#include "storage/Texts.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+class QLabel;
+class QPrinter;
+class QProgressBar;
+class QPushButton;
+
+namespace hooptab {
+
+class Dialogs;
+class Settings;
+
+class ReportOutput : public QWidget {
+  Q_OBJECT
+
+ public:
+  // All must outlive it. The first file is proposed in the folder of the games.
+  ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& files, const Settings& settings,
+               QWidget* parent = nullptr);
+  ~ReportOutput() override;
+
+  // `asker` is the window over which questions and complaints stand.
+  void save(Report report, ReportForm form, const PageFormat& format, QWidget* asker);
+  void savePicture(const QString& fileName, std::string png, QWidget* asker);
+  void print(Report report, const PageFormat& format, std::shared_ptr<QPrinter> printer, QWidget* asker);
+  bool isBusy() const { return m_work.isRunning(); }
+  void cancel();
+
+  // Of the menu entry that saves in that form.
+  static int textOf(ReportForm form);
+
+ signals:
+  void reported(const QString& message);
+  void busyChanged();
+
+ private:
+  // What a thread made and wrote.
+  struct Outcome {
+    bool isMade = false;
+    std::string failed; // the path that could not be written
+    WriteProblem problem = WriteProblem::Unknown;
+  };
+  using Make = std::function<std::optional<std::vector<ReportFile>>(ReportWatch* watch)>;
+  [[nodiscard]] QString choosePath(const QString& fileName, ReportForm form, QWidget* asker);
+  [[nodiscard]] bool mayReplace(const QString& path, const std::vector<std::string>& suffixes,
+                                QWidget* asker);
+  void write(const QString& path, Make make, QWidget* asker);
+  void tell(const Outcome& outcome, const QString& path, QWidget* asker);
+  void start(const QString& what, std::function<BackgroundWork::Delivery()> work);
+  void showProgress();
+  void end();
+  void complain(int text, const QString& path, QWidget* asker);
+
+  const Texts& m_texts;
+  Dialogs& m_dialogs;
+  FileSystem& m_files;
+  const Settings& m_settings;
+  QString m_folder; // chosen last
+  std::shared_ptr<ReportWatch> m_watch;
+  QTimer m_poll;
+  QTimer m_delay; // work that is done at once shows nothing
+
+  QLabel* m_what = nullptr;
+  QProgressBar* m_progress = nullptr;
+  QPushButton* m_cancel = nullptr;
+  BackgroundWork m_work; // goes first, before what its work refers to
+};
+
+} // namespace hooptab

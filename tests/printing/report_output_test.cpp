@@ -1,0 +1,436 @@
+// The ways out of the program that can go wrong: disks, folders and names, cancelling, and what tables turn
+// into.
+#include "printing/PrintTexts.h"
+#include "printing/ReportOutput.h"
+#include "printing/TableReport.h"
+#include "printing/WindowExports.h"
+
+#include "appearance/ChildWindow.h"
+#include "appearance/relabel.h"
+#include "season/SeasonTableView.h"
+#include "storage/Settings.h"
+#include "support/FaultyFileSystem.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TemporaryFolder.h"
+#include "teams/DelimitedText.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QImage>
+#include <QProcess>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QStandardPaths>
+#include <QTest>
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <regex>
+
+namespace hooptab {
+namespace {
+
+namespace fs = std::filesystem;
+using Kind = ReportCell::Kind;
+
+// A table that takes long enough to be cancelled.
+Report longReport(int rows, int columns = 60) {
+  Report report;
+  report.title = report.fileName = "Long";
+  ReportTable table;
+  table.columns.push_back({"Name", "Name", {}, true, true});
+  for (int column = 0; column < columns; ++column)
+    table.columns.push_back({"C" + std::to_string(column), "C" + std::to_string(column)});
+  for (int row = 0; row < rows; ++row) {
+    ReportRow& line = table.rows.emplace_back();
+    line.cells.push_back(textCell("Row " + std::to_string(row)));
+    for (int column = 0; column < columns; ++column)
+      line.cells.push_back(numberCell(row * column));
+  }
+  report.blocks.emplace_back(std::move(table));
+  return report;
+}
+
+class ReportOutputTest : public testing::Test {
+ protected:
+  void save(const std::string& path, ReportForm form = ReportForm::Html) {
+    dialogs.nextFileToSave = toQt(path);
+    output.save(longReport(3, 3), form, {}, nullptr);
+    wait();
+  }
+  void wait() {
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !output.isBusy(); }, 60000));
+  }
+  std::string complaint() {
+    if (dialogs.shown.empty() || dialogs.shown.back().kind != ScriptedDialogs::Kind::Complain)
+      return {};
+    const std::string text = fromQt(dialogs.shown.back().text);
+    dialogs.shown.clear();
+    return text;
+  }
+  std::vector<std::string> entries() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder.path()))
+      names.push_back(entry.path().filename().string());
+    std::ranges::sort(names);
+    return names;
+  }
+
+  TemporaryFolder folder;
+  FaultyFileSystem files;
+  cinifile store{files};
+  Texts texts;
+  Settings settings{store, folder.path()};
+  ScriptedDialogs dialogs;
+  ReportOutput output{texts, dialogs, files, settings};
+};
+
+TEST_F(ReportOutputTest, EveryPlaceThatTakesNoFileIsNamedWithItsReason) {
+  dialogs.nextAnswer = true; // to replace
+  fs::create_directory(folder.path("folder.html"));
+  save(folder.path("folder.html"));
+  EXPECT_EQ(complaint(), texts.withPlaceholder(kPathIsFolder, folder.path("folder.html")));
+  save(folder.path("missing/x.html"));
+  EXPECT_EQ(complaint(), texts.withPlaceholder(kFolderIsMissing, folder.path("missing/x.html")));
+
+  (void)folder.write("locked.html", "mine");
+  fs::permissions(folder.path("locked.html"), fs::perms::owner_read);
+  save(folder.path("locked.html"));
+  EXPECT_EQ(complaint(), texts.withPlaceholder(kNoRightToWrite, folder.path("locked.html")));
+  EXPECT_EQ(folder.read("locked.html"), "mine");
+
+  save(folder.path(std::string(300, 'n') + ".html"));
+  EXPECT_EQ(complaint(),
+            texts.withPlaceholder(kReportNotWritten, folder.path(std::string(300, 'n') + ".html")));
+  for (const char* odd : {"é ü – ‘x’.html", "a\nb\tc.html", "-o ; rm $HOME.html", "%s%n.html"}) {
+    save(folder.path(odd));
+    EXPECT_EQ(complaint(), "") << odd;
+    EXPECT_TRUE(folder.holds(odd)) << odd;
+  }
+}
+
+// A real small disk where the system lets us have one.
+TEST_F(ReportOutputTest, AFullDiskKeepsTheOldFileAndLeavesNothingHalfWritten) {
+  dialogs.nextAnswer = true;
+  const std::string disk = folder.path("disk");
+  fs::create_directory(disk);
+  const bool isMounted =
+      QProcess::execute(QStringLiteral("mount"),
+                        {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
+                         QStringLiteral("size=64k"), QStringLiteral("tmpfs"), toQt(disk)}) == 0;
+  if (isMounted) {
+    (void)folder.write("disk/long.html", "old");
+    dialogs.nextFileToSave = toQt(disk + "/long.html");
+    output.save(longReport(2000), ReportForm::Html, {}, nullptr);
+    wait();
+    const std::string old = folder.read("disk/long.html");
+    const auto count = std::distance(fs::directory_iterator(disk), fs::directory_iterator());
+    QProcess::execute(QStringLiteral("umount"), {toQt(disk)});
+    EXPECT_EQ(complaint(), texts.withPlaceholder(kNoRoomOnDisk, disk + "/long.html"));
+    EXPECT_EQ(old, "old");
+    EXPECT_EQ(count, 1) << "nothing half written";
+  }
+  (void)folder.write("long.html", "old");
+  files.reset();
+  files.failAt = 8; // the write
+  files.staysBroken = true;
+  files.error = ENOSPC;
+  save(folder.path("long.html"));
+  EXPECT_TRUE(files.hasFailed);
+  EXPECT_NE(complaint().find("long.html"), std::string::npos);
+  EXPECT_EQ(folder.read("long.html"), "old");
+}
+
+TEST_F(ReportOutputTest, CancellingLeavesNothingAndTheWindowAnswersMeanwhile) {
+  (void)folder.write("long.pdf", "old");
+  dialogs.nextAnswer = true;
+  for (const ReportForm form : {ReportForm::Pdf, ReportForm::Xlsx}) {
+    const std::string name = "long." + std::string(endingOf(form));
+    dialogs.nextFileToSave = toQt(folder.path(name));
+    QSignalSpy reported(&output, &ReportOutput::reported);
+    output.save(longReport(8000), form, {}, nullptr);
+    ASSERT_TRUE(output.isBusy());
+    output.save(longReport(1), form, {}, nullptr); // one at a time
+    const auto& bar = *output.findChild<QProgressBar*>();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return output.isVisible() || !output.isBusy(); }, 20000));
+    ASSERT_TRUE(output.isBusy()) << "long enough to be seen";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() > 0; }, 60000)) << "it goes on";
+    QTest::mouseClick(output.findChild<QPushButton*>(), Qt::LeftButton);
+    wait();
+    EXPECT_FALSE(output.isVisible());
+    ASSERT_EQ(reported.size(), 1);
+    EXPECT_EQ(reported[0][0].toString(), toQt(texts.withPlaceholder(kReportCancelled, folder.path(name))));
+  }
+  EXPECT_TRUE(dialogs.shown.size() == 1) << "the question whether to replace, and no complaint";
+  EXPECT_EQ(entries(), std::vector<std::string>{"long.pdf"});
+  EXPECT_EQ(folder.read("long.pdf"), "old");
+}
+
+TEST_F(ReportOutputTest, AProposedNameIsOneThatAFolderTakes) {
+  Report report = longReport(1, 1);
+  report.fileName = std::string(400, 'W');
+  output.save(report, ReportForm::Csv, {}, nullptr);
+  EXPECT_LT(fs::path(fromQt(dialogs.lastProposed)).filename().string().size(), 255U);
+  EXPECT_TRUE(dialogs.lastProposed.endsWith(u".csv"));
+}
+
+// --- Tables
+
+TableContent::Column column(const char* header, bool isLeft = false, const char* name = "") {
+  return {QString::fromUtf8(header), QString::fromUtf8(*name != '\0' ? name : header), {}, isLeft};
+}
+
+TEST(TableReportTest, NumbersAreToldFromNames) {
+  TableContent content;
+  content.columns = {column("No", true), column("Name", true), column("M"),   column("%"),   column("Time"),
+                     column("M"),        column("Jersey"),     column("Avg"), column("Date")};
+  const auto row = [](std::vector<TableContent::Cell> cells) { return TableContent::Row{std::move(cells)}; };
+  const QString dash = QStringLiteral("-");
+  content.rows.push_back(row({{QStringLiteral("4")},
+                              {QStringLiteral("12")},
+                              {QStringLiteral("-3"), -3.0},
+                              {QStringLiteral("6.3%"), 0.0625},
+                              {QStringLiteral("120:05"), 7205.0},
+                              {QStringLiteral("0"), 0.0},
+                              {QStringLiteral("5"), 5.0625},
+                              {QStringLiteral("2.3"), 2.25},
+                              {QStringLiteral("2026-11-05")}}));
+  content.rows.push_back(row({{QStringLiteral("00")},
+                              {QStringLiteral("=A1")},
+                              {dash},
+                              {QStringLiteral("0.0%"), -1.0},
+                              {QStringLiteral("00:30"), 30.4},
+                              {QStringLiteral("7")},
+                              {QStringLiteral("05"), 5.125},
+                              {QStringLiteral("0.0"), 0.0},
+                              {QString()}}));
+  const ReportTable table = tableOf(content);
+  const auto& first = table.rows[0].cells;
+  const auto& second = table.rows[1].cells;
+  const Kind kinds[] = {Kind::Text,   Kind::Text, Kind::Number, Kind::Percent, Kind::Time,
+                        Kind::Number, Kind::Text, Kind::Number, Kind::Text};
+  for (std::size_t i = 0; i < std::size(kinds); ++i)
+    EXPECT_EQ(first[i].kind, kinds[i]) << i;
+  EXPECT_DOUBLE_EQ(first[2].value, -3);
+  EXPECT_DOUBLE_EQ(first[3].value, 0.0625) << "the exact one, not what is shown";
+  EXPECT_DOUBLE_EQ(second[3].value, 0) << "what is shown, where the table sorts by something else";
+  EXPECT_DOUBLE_EQ(first[4].value, 7205);
+  EXPECT_DOUBLE_EQ(first[7].value, 2.25);
+  EXPECT_EQ(second[2].kind, Kind::Text);
+  EXPECT_EQ(table.columns[2].name, "M");
+  EXPECT_EQ(table.columns[5].name, "M 2");
+  EXPECT_EQ(table.columns[5].header, "M 2") << "two columns of one name cannot be told apart";
+
+  // Through the file and back.
+  const auto csv = reportCsv(tableReport(content, QStringLiteral("About")));
+  ASSERT_EQ(csv.size(), 1U);
+  const auto lines = parseDelimited(csv[0].bytes);
+  ASSERT_EQ(lines.size(), 3U);
+  EXPECT_EQ(lines[1].fields[2], "-3") << "a negative number is one";
+  EXPECT_EQ(lines[2].fields[1], "'=A1") << "a name is no formula";
+  EXPECT_EQ(lines[2].fields[0], "00");
+}
+
+TEST(TableReportTest, WhatACellHoldsComesBackFromTheFile) {
+  const std::string texts[] = {"a,b",  "a \"quoted\" b", "two\r\nlines", "semi;colon",
+                               "é’“”", "plain",          "x\ty"};
+  Report report;
+  ReportTable table;
+  table.columns = {{"Text", "Text, \"with\" all"}, {"Number", "Number"}};
+  for (const std::string& text : texts)
+    table.rows.push_back({{textCell(text), numberCell(-7)}});
+  report.blocks.emplace_back(table);
+  const std::string bytes = reportCsv(report).front().bytes;
+  // A reader of its own: every quote closes, CR LF outside quotes ends a row.
+  std::vector<std::vector<std::string>> rows(1, {""});
+  bool isQuoted = false;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    std::string& field = rows.back().back();
+    if (isQuoted) {
+      if (bytes[i] != '"')
+        field += bytes[i];
+      else if (i + 1 < bytes.size() && bytes[i + 1] == '"')
+        field += bytes[i++];
+      else
+        isQuoted = false;
+    } else if (bytes[i] == '"') {
+      EXPECT_TRUE(field.empty());
+      isQuoted = true;
+    } else if (bytes[i] == ',') {
+      rows.back().emplace_back();
+    } else if (bytes.compare(i, 2, "\r\n") == 0) {
+      ++i;
+      rows.push_back({""});
+    } else {
+      field += bytes[i];
+    }
+  }
+  ASSERT_EQ(rows.size(), std::size(texts) + 2) << "header, rows, and nothing behind the last line end";
+  EXPECT_EQ(rows[0], (std::vector<std::string>{"Text, \"with\" all", "Number"}));
+  for (std::size_t i = 0; i < std::size(texts); ++i)
+    EXPECT_EQ(rows[i + 1], (std::vector<std::string>{texts[i], "-7"}));
+}
+
+TEST(TableReportTest, AWorkbookTellsNumbersPercentagesTimesAndTextsApart) {
+  if (QStandardPaths::findExecutable(QStringLiteral("unzip")).isEmpty())
+    GTEST_SKIP() << "no unzip";
+  const TemporaryFolder folder;
+  Report report;
+  ReportTable table;
+  table.title = "T";
+  table.columns = {{"Name", "Name", {}, true, true}, {"N", "N"}, {"P", "P"}, {"T", "T"}, {"A", "A"}};
+  table.rows.push_back({{textCell("=1+1"),
+                         {"-3", Kind::Number, -3},
+                         {"6.3%", Kind::Percent, 0.0625},
+                         {"90:00", Kind::Time, 5400},
+                         {"2.33", Kind::Number, 7.0 / 3}}});
+  report.blocks.emplace_back(table);
+  const auto bytes = reportXlsx(report);
+  ASSERT_TRUE(bytes);
+  const QString path = toQt(folder.write("t.xlsx", *bytes));
+  const auto part = [&](const char* name) {
+    QProcess process;
+    process.start(QStringLiteral("unzip"), {QStringLiteral("-p"), path, QLatin1String(name)});
+    return process.waitForFinished(20000) ? process.readAllStandardOutput().toStdString() : std::string();
+  };
+  const std::string sheet = part("xl/worksheets/sheet1.xml");
+  const std::string styles = part("xl/styles.xml");
+  EXPECT_EQ(sheet.find("<f>"), std::string::npos);
+  EXPECT_NE(sheet.find("xSplit=\"1\" ySplit=\"1\" topLeftCell=\"B2\""), std::string::npos) << sheet;
+  EXPECT_TRUE(std::regex_search(sheet, std::regex("<c r=\"A2\" s=\"\\d+\" t=\"s\">")));
+  EXPECT_TRUE(std::regex_search(sheet, std::regex("<c r=\"B2\" s=\"\\d+\"><v>-3</v>")));
+  EXPECT_TRUE(std::regex_search(sheet, std::regex("<c r=\"D2\" s=\"\\d+\"><v>0.0625</v>")))
+      << "90 of 1440 minutes";
+  // The style of a cell leads to its format of numbers.
+  const auto formatOf = [&](const char* cell) -> std::string {
+    std::smatch found;
+    if (!std::regex_search(sheet, found, std::regex("<c r=\"" + std::string(cell) + "\" s=\"(\\d+)\"")))
+      return "no cell";
+    const std::size_t style = std::stoul(found[1]);
+    const std::string cells = styles.substr(styles.find("<cellXfs"));
+    const std::regex xf("<xf numFmtId=\"(\\d+)\"");
+    auto each = std::sregex_iterator(cells.begin(), cells.end(), xf);
+    std::advance(each, static_cast<std::ptrdiff_t>(style));
+    const std::string number = (*each)[1];
+    if (number == "2") // built in
+      return "0.00";
+    const std::regex code("numFmtId=\"" + number + "\" formatCode=\"([^\"]*)\"");
+    return std::regex_search(styles, found, code) ? std::string(found[1]) : number;
+  };
+  EXPECT_EQ(formatOf("B2"), "0");
+  EXPECT_EQ(formatOf("C2"), "0.0%");
+  EXPECT_EQ(formatOf("D2"), "[mm]:ss");
+  EXPECT_EQ(formatOf("E2"), "0.00") << "as many decimals as on screen";
+}
+
+// --- Menus of windows
+
+class SomePicture : public QWidget, public ShownPicture {
+ public:
+  using QWidget::QWidget;
+  bool isThere = true;
+  bool hasPicture() const override { return isThere; }
+  QSize pictureSize() const override { return {200, 100}; }
+  void paintPicture(QPainter& painter, const QRectF& area) const override {
+    painter.fillRect(area, Qt::blue);
+  }
+};
+
+class SomeWindow : public ChildWindow {
+ public:
+  SomeWindow() {
+    setWindowTitle(QStringLiteral("LYNX – PUMA"));
+    table->resize(300, 100);
+    list->move(0, 120);
+    list->horizontalHeader()->hide();
+    for (QStandardItemModel* model : {&listModel}) {
+      model->setHorizontalHeaderLabels({QStringLiteral("Clock"), QStringLiteral("Words")});
+      model->appendRow(
+          {new QStandardItem(QStringLiteral("09:00")), new QStandardItem(QStringLiteral("Basket"))});
+    }
+    list->setModel(&listModel);
+    list->hideColumn(0);
+    table->showColumns({{QStringLiteral("Name"), {}, {}, true, true},
+                        {QStringLiteral("PTS")},
+                        {QStringLiteral("Hidden"), {}, {}, false, false, true}});
+    TableRows rows;
+    rows.count = 2;
+    rows.text = [](int row, int column) {
+      return column == 0 ? QStringLiteral("Name %1").arg(row) : QString::number(row * 10);
+    };
+    rows.sortValue = [](int row, int) { return row * 10.0; };
+    table->showRows(rows);
+    table->setAccessibleName(QStringLiteral("Players"));
+    table->sortByColumn(1, Qt::DescendingOrder);
+    picture->move(0, 250);
+  }
+  void relabelWindow() override {}
+  void applyColours() override {}
+
+  SeasonTableView* table = new SeasonTableView(QStringLiteral("lvwTABLE"), 1, this);
+  QTableView* list = new QTableView(this);
+  SomePicture* picture = new SomePicture(this);
+  QStandardItemModel listModel;
+};
+
+class WindowExportsTest : public ReportOutputTest {
+ protected:
+  void SetUp() override {
+    exports.serve(window);
+    window.resize(400, 400);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  }
+  void trigger(QWidget& widget, const char* name) {
+    auto* action = widget.findChild<QAction*>(QLatin1String(name));
+    ASSERT_NE(action, nullptr) << name;
+    EXPECT_FALSE(action->text().isEmpty());
+    action->trigger();
+    wait();
+  }
+
+  WindowExports exports{output, texts};
+  SomeWindow window;
+};
+
+TEST_F(WindowExportsTest, ATableIsExportedAsItIsShown) {
+  dialogs.nextFileToSave = toQt(folder.path("t.csv"));
+  trigger(*window.table, "tableCSV");
+  EXPECT_EQ(folder.read("t.csv"), "\xEF\xBB\xBF"
+                                  "Name,PTS\r\nName 1,10\r\nName 0,0\r\n");
+  EXPECT_TRUE(dialogs.lastProposed.endsWith(QStringLiteral("LYNX – PUMA Players.csv")))
+      << fromQt(dialogs.lastProposed);
+  dialogs.nextFileToSave = toQt(folder.path("list.csv"));
+  trigger(*window.list, "tableCSV");
+  EXPECT_EQ(folder.read("list.csv").substr(3), "Clock,Words\r\n09:00,Basket\r\n")
+      << "a list without a header has left columns out";
+  for (const char* form : {"XLSX", "HTML"}) {
+    dialogs.nextFileToSave = toQt(folder.path(std::string("t.") + form));
+    trigger(*window.table, (std::string("table") + form).c_str());
+    EXPECT_TRUE(folder.holds(std::string("t.") + form));
+  }
+  QSignalSpy reported(&exports, &WindowExports::reported);
+  trigger(*window.list, "tableCOPY");
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Clock\tWords\n09:00\tBasket\n"));
+  EXPECT_EQ(reported.size(), 1);
+}
+
+TEST_F(WindowExportsTest, APictureIsSavedOnWhiteAndNothingWhereThereIsNone) {
+  dialogs.nextFileToSave = toQt(folder.path("p.png"));
+  trigger(*window.picture, "picturePNG");
+  const QImage image(toQt(folder.path("p.png")));
+  ASSERT_EQ(image.size(), QSize(400, 200));
+  EXPECT_EQ(image.pixelColor(200, 150), QColor(Qt::blue));
+  EXPECT_EQ(image.pixelColor(1, 1), QColor(Qt::white));
+  window.picture->isThere = false;
+  dialogs.nextFileToSave = toQt(folder.path("none.png"));
+  trigger(*window.picture, "picturePNG");
+  EXPECT_FALSE(folder.holds("none.png"));
+}
+
+} // namespace
+} // namespace hooptab
