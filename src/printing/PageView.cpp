@@ -79,7 +79,7 @@ void PageView::arrange() {
   const double height = rows * (size.height() + kGap) + kGap;
   const auto setRange = [](QScrollBar& bar, double content, int room) {
     bar.setPageStep(room);
-    bar.setRange(0, std::max(0, static_cast<int>(std::ceil(content)) - room));
+    bar.setRange(0, std::max(0, qRound(content) - room)); // a page that fits leaves nothing to scroll
   };
   setRange(*horizontalScrollBar(), width, viewport()->width());
   setRange(*verticalScrollBar(), height, viewport()->height());

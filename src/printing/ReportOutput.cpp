@@ -129,7 +129,7 @@ bool ReportOutput::mayReplace(const QString& path, const std::vector<std::string
 
 void ReportOutput::save(Report report, ReportForm form, const PageFormat& format, QWidget* asker) {
   if (isBusy())
-    return;
+    return emit reported(m_what->text());
   const QString path = choosePath(toQt(report.fileName), form, asker);
   if (path.isEmpty() || !mayReplace(path, suffixesOf(report, form), asker))
     return;
@@ -151,7 +151,7 @@ void ReportOutput::save(Report report, ReportForm form, const PageFormat& format
 
 void ReportOutput::savePicture(const QString& fileName, std::string png, QWidget* asker) {
   if (isBusy())
-    return;
+    return emit reported(m_what->text());
   const QString path = choosePath(fileName, ReportForm::Png, asker);
   if (path.isEmpty() || !mayReplace(path, {{}}, asker))
     return;
@@ -194,7 +194,7 @@ void ReportOutput::tell(const Outcome& outcome, const QString& path, QWidget* as
 void ReportOutput::print(Report report, const PageFormat& format, std::shared_ptr<QPrinter> printer,
                          QWidget* asker) {
   if (isBusy())
-    return;
+    return emit reported(m_what->text());
   printer->setDocName(toQt(report.fileName));
   start(toQt(m_texts.withPlaceholder(kPrintingReport, report.fileName)),
         [this, report = std::make_shared<const Report>(std::move(report)), format,

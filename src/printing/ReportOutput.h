@@ -1,6 +1,6 @@
 // The way of a report out of the program: asks where to, makes the file or prints on a thread of its own, and
-// shows meanwhile how far that is, with a button that cancels it. One piece of work at a time. What is
-// written stands whole or not at all.
+// shows meanwhile how far that is, with a button that cancels it. One piece of work at a time: asked for
+// another one, it says what it is at. What is written stands whole or not at all.
 #pragma once
 
 #include "appearance/BackgroundWork.h"

@@ -35,14 +35,14 @@ constexpr Entry kEntries[] = {
     {ReportForm::Xlsx, "tableXLSX"}, {ReportForm::Csv, "tableCSV"}, {ReportForm::Html, "tableHTML"}};
 
 // The tables of a window, whichever way it shows them; not the part of one that stays in sight while the rest
-// scrolls.
+// scrolls, nor one within a control of Qt's own, as a calendar.
 QList<QWidget*> tablesOf(QWidget& window) {
   QList<QWidget*> tables;
   for (QWidget* widget : window.findChildren<QWidget*>()) {
     const bool isPart = qobject_cast<FrozenTableView*>(widget->parentWidget()) != nullptr;
     const bool isTable =
         qobject_cast<QTableView*>(widget) != nullptr || dynamic_cast<ShownTable*>(widget) != nullptr;
-    if (isTable && !isPart)
+    if (isTable && !isPart && !widget->objectName().startsWith(u"qt_"))
       tables << widget;
   }
   return tables;

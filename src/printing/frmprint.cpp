@@ -206,6 +206,8 @@ void frmprint::connectEverything() {
   key(QKeySequence::ZoomIn, [this] { m_view->zoomIn(); });
   key(Qt::CTRL | Qt::Key_Equal, [this] { m_view->zoomIn(); }); // the same key without Shift
   key(QKeySequence::ZoomOut, [this] { m_view->zoomOut(); });
+  findChild<QPushButton*>(QStringLiteral("cmdPRINT"))->setShortcut(QKeySequence::Print);
+  key(Qt::Key_Escape, [this] { findChild<QPushButton*>(QStringLiteral("cmdCLOSE"))->click(); });
   key(Qt::CTRL | Qt::Key_0, [this] { m_view->setFit(PageView::Fit::Page); });
   connect(findChild<QPushButton*>(QStringLiteral("cmdPRINT")), &QPushButton::clicked, this, &frmprint::print);
   connect(findChild<QPushButton*>(QStringLiteral("cmdPDF")), &QPushButton::clicked, this,
@@ -248,6 +250,7 @@ void frmprint::offer(std::vector<ReportOffer> offers) {
   }
   m_isTitleTyped = false;
   makeReport();
+  m_view->setFocus(); // its keys go through the pages
 }
 
 void frmprint::makeReport() {
@@ -277,9 +280,9 @@ PageFormat frmprint::format() const {
 void frmprint::layOut() {
   m_view->showLayout(nullptr);
   m_layout = std::make_unique<ReportLayout>(m_report, format());
+  m_view->showLayout(m_layout.get());
   m_steps.start();
   layOutMore(); // the first page at once
-  m_view->showLayout(m_layout.get());
 }
 
 void frmprint::layOutMore() {

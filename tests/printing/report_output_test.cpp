@@ -152,18 +152,17 @@ TEST_F(ReportOutputTest, CancellingLeavesNothingAndTheWindowAnswersMeanwhile) {
     const std::string name = "long." + std::string(endingOf(form));
     dialogs.nextFileToSave = toQt(folder.path(name));
     QSignalSpy reported(&output, &ReportOutput::reported);
-    output.save(longReport(8000), form, {}, nullptr);
+    output.save(longReport(4000), form, {}, nullptr);
     ASSERT_TRUE(output.isBusy());
     output.save(longReport(1), form, {}, nullptr); // one at a time
     const auto& bar = *output.findChild<QProgressBar*>();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return output.isVisible() || !output.isBusy(); }, 20000));
-    ASSERT_TRUE(output.isBusy()) << "long enough to be seen";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() > 0; }, 60000)) << "it goes on";
-    QTest::mouseClick(output.findChild<QPushButton*>(), Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.value() > 0 || !output.isBusy(); }, 60000));
+    ASSERT_TRUE(output.isBusy()) << "it goes on, and the window answers";
+    output.findChild<QPushButton*>()->click();
     wait();
     EXPECT_FALSE(output.isVisible());
-    ASSERT_EQ(reported.size(), 1);
-    EXPECT_EQ(reported[0][0].toString(), toQt(texts.withPlaceholder(kReportCancelled, folder.path(name))));
+    ASSERT_EQ(reported.size(), 2) << "what it was at, and what came of it";
+    EXPECT_EQ(reported[1][0].toString(), toQt(texts.withPlaceholder(kReportCancelled, folder.path(name))));
   }
   EXPECT_TRUE(dialogs.shown.size() == 1) << "the question whether to replace, and no complaint";
   EXPECT_EQ(entries(), std::vector<std::string>{"long.pdf"});
@@ -301,15 +300,15 @@ TEST(TableReportTest, AWorkbookTellsNumbersPercentagesTimesAndTextsApart) {
   const std::string styles = part("xl/styles.xml");
   EXPECT_EQ(sheet.find("<f>"), std::string::npos);
   EXPECT_NE(sheet.find("xSplit=\"1\" ySplit=\"1\" topLeftCell=\"B2\""), std::string::npos) << sheet;
-  EXPECT_TRUE(std::regex_search(sheet, std::regex("<c r=\"A2\" s=\"\\d+\" t=\"s\">")));
-  EXPECT_TRUE(std::regex_search(sheet, std::regex("<c r=\"B2\" s=\"\\d+\"><v>-3</v>")));
+  EXPECT_TRUE(std::regex_search(sheet, std::regex("<c r=\"A2\"( s=\"\\d+\")? t=\"s\">")));
+  EXPECT_TRUE(std::regex_search(sheet, std::regex("<c r=\"B2\"( s=\"\\d+\")?><v>-3</v>")));
   EXPECT_TRUE(std::regex_search(sheet, std::regex("<c r=\"D2\" s=\"\\d+\"><v>0.0625</v>")))
       << "90 of 1440 minutes";
   // The style of a cell leads to its format of numbers.
   const auto formatOf = [&](const char* cell) -> std::string {
     std::smatch found;
     if (!std::regex_search(sheet, found, std::regex("<c r=\"" + std::string(cell) + "\" s=\"(\\d+)\"")))
-      return "no cell";
+      return "0"; // the usual one
     const std::size_t style = std::stoul(found[1]);
     const std::string cells = styles.substr(styles.find("<cellXfs"));
     const std::regex xf("<xf numFmtId=\"(\\d+)\"");
@@ -321,7 +320,7 @@ TEST(TableReportTest, AWorkbookTellsNumbersPercentagesTimesAndTextsApart) {
     const std::regex code("numFmtId=\"" + number + "\" formatCode=\"([^\"]*)\"");
     return std::regex_search(styles, found, code) ? std::string(found[1]) : number;
   };
-  EXPECT_EQ(formatOf("B2"), "0");
+  EXPECT_EQ(formatOf("B2"), "0") << "none of its own";
   EXPECT_EQ(formatOf("C2"), "0.0%");
   EXPECT_EQ(formatOf("D2"), "[mm]:ss");
   EXPECT_EQ(formatOf("E2"), "0.00") << "as many decimals as on screen";

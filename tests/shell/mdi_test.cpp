@@ -9,6 +9,7 @@
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
 #include "printing/Printers.h"
+#include "printing/ReportOutput.h"
 #include "printing/frmprint.h"
 #include "scorecard/frmVIEW.h"
 #include "season/frmSTATS.h"
@@ -24,6 +25,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QDragEnterEvent>
@@ -37,6 +39,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
@@ -153,6 +156,74 @@ void collect(const QList<QAction*>& actions, std::set<QString>& names) {
     if (action->menu() != nullptr)
       collect(action->menu()->actions(), names);
   }
+}
+
+// The menu stands on the table itself; the same table is what the File menu exports.
+TEST_F(MainWindowTest, EveryTableOfEveryWindowIsExportedFromItsOwnPlace) {
+  const auto exported = [&](QWidget& table) {
+    dialogs.nextFileToSave = fileIn(programFolder, "table.csv");
+    QFile::remove(dialogs.nextFileToSave);
+    auto* csv = table.findChild<QAction*>(QStringLiteral("tableCSV"));
+    EXPECT_NE(csv, nullptr) << fromQt(table.objectName());
+    if (csv == nullptr)
+      return QString();
+    csv->trigger();
+    QFile file(dialogs.nextFileToSave);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->findChild<ReportOutput*>()->isBusy(); }));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return QString::fromUtf8(file.readAll());
+  };
+  const auto everyTable = [&](QWidget& child, std::set<QString> names) {
+    for (auto* table : child.findChildren<QTableView*>()) {
+      if (table->objectName() == u"frozen" || table->objectName().startsWith(u"qt_"))
+        continue;
+      names.erase(table->objectName());
+      EXPECT_GT(exported(*table).indexOf(u'\n'), 0) << fromQt(table->objectName());
+    }
+    EXPECT_TRUE(names.empty()) << fromQt(*names.begin());
+  };
+  const QString game = makeGame("A.GAM");
+  window->openGame(game);
+  frmVIEW& view = *scorecards().first();
+  everyTable(view, {QStringLiteral("lvwSTAT(0)"), QStringLiteral("lvwSTAT(1)"), QStringLiteral("lvwEVENT")});
+  const QString box = exported(*view.findChild<QTableView*>(QStringLiteral("lvwSTAT(0)")));
+  EXPECT_TRUE(box.contains(QStringLiteral("FGM,FGA,FG%,FGPTS"))) << fromQt(box);
+  EXPECT_TRUE(box.contains(QStringLiteral("Ann Able")));
+  for (const char* picture : {"pictureCOPY", "picturePNG"})
+    EXPECT_NE(view.findChild<QAction*>(QLatin1String(picture)), nullptr);
+
+  auto* menu = action("exportTable").menu();
+  emit qobject_cast<QMenu*>(action("QUIT").parent())->aboutToShow();
+  ASSERT_TRUE(menu->isEnabled());
+  menu->actions().first()->trigger();
+  EXPECT_TRUE(QApplication::clipboard()->text().contains(QStringLiteral("Ann Able")));
+
+  action("STATS").trigger();
+  everyTable(*window->findChild<frmSTATS*>(),
+             {QStringLiteral("lvwGAMES"), QStringLiteral("lvwSTATjoueurs(0)"),
+              QStringLiteral("lvwSTATjoueurs(1)"), QStringLiteral("lvwSTATjoueurs(2)"),
+              QStringLiteral("lvwSTATlignes(0)"), QStringLiteral("lvwLEADERS"), QStringLiteral("lvwFIRST"),
+              QStringLiteral("lvwRECORD"), QStringLiteral("lvwRESULTS")});
+  action("gEQUIPE").trigger();
+  everyTable(*window->findChild<frmEQUIPES*>(), {QStringLiteral("lvwJOUEURS")});
+  dialogs.nextFile = game;
+  action("LIVEOpen").trigger();
+  EXPECT_TRUE(exported(*window->findChild<frmLIVE*>()->findChild<QTableView*>(QStringLiteral("lvwEVENT")))
+                  .contains(QStringLiteral("3-0")))
+      << "the score is in the file, though the list has no room for it";
+
+  GameDetails totals;
+  totals.version = GameFile::kVersion;
+  totals.inputType = 1;
+  totals.abbreviation[0] = "LYNX";
+  dialogs.nextFile = fileIn(games, "M.GAM");
+  ASSERT_EQ(GameFile(store, fromQt(dialogs.nextFile)).create(totals, {{"00", 0, "=Ann"}}, {}),
+            GameFileProblem::None);
+  action("LIVEOpen").trigger();
+  const QString manual = exported(*window->findChild<QWidget*>(QStringLiteral("tblTOTALS")));
+  EXPECT_TRUE(manual.contains(QStringLiteral("\r\n00,'=Ann,0,"))) << fromQt(manual);
+  emit qobject_cast<QMenu*>(action("QUIT").parent())->aboutToShow();
+  EXPECT_TRUE(menu->isEnabled());
 }
 
 // Each print command leads to the one preview, with what it was asked from.
