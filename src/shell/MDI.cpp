@@ -410,6 +410,8 @@ void MDI::preview(std::vector<ReportOffer> offers) {
   if (offers.empty())
     return m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(kWarningTitle)),
                                    toQt(m_workshop.texts.text(kNoTeam)));
+  if (qobject_cast<frmprint*>(frontWindow()) == nullptr)
+    m_previewedFrom = m_area->currentSubWindow();
   for (ChildWindow* child : children()) {
     if (auto* open = qobject_cast<frmprint*>(child)) {
       open->offer(std::move(offers));
@@ -419,6 +421,14 @@ void MDI::preview(std::vector<ReportOffer> offers) {
   auto* window = new frmprint(m_workshop.texts, m_workshop.dialogs, m_workshop.printers, *m_output);
   window->offer(std::move(offers));
   addChild(window);
+  // Later: closing, the area chooses a window of its own.
+  connect(
+      window, &QObject::destroyed, this,
+      [this] {
+        if (m_previewedFrom != nullptr)
+          m_area->setActiveSubWindow(m_previewedFrom);
+      },
+      Qt::QueuedConnection);
 }
 
 void MDI::openSeason() {

@@ -14,12 +14,14 @@
 #include "teams/TeamStore.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 
 #include <memory>
 
 class QLabel;
 class QMdiArea;
+class QMdiSubWindow;
 class QStackedWidget;
 
 namespace hooptab {
@@ -127,7 +129,8 @@ class MDI : public QMainWindow {
   QMdiArea* m_area = nullptr;
   QStackedWidget* m_pages = nullptr;
   QLabel* m_unsaved = nullptr;
-  ReportOutput* m_output = nullptr; // in the status bar while it is at work
+  QPointer<QMdiSubWindow> m_previewedFrom; // comes back to the front when the preview closes
+  ReportOutput* m_output = nullptr;        // in the status bar while it is at work
   WindowExports* m_exports = nullptr;
 };
 
