@@ -212,7 +212,7 @@ int main(int argc, char** argv) {
   const char* const chosen = std::getenv("HOOPTAB_BENCH_FOLDER");
   const std::filesystem::path folder = std::filesystem::path(chosen != nullptr ? chosen : ".") / "bench-live";
   std::filesystem::create_directories(folder);
-  for (const int events : {500, 1500, 5000})
+  for (const int events : {500, 1500, 5000, 20000})
     measureCore(events, folder);
   return measureWindow(1500, folder);
 }

@@ -110,8 +110,6 @@ std::vector<int> periodsOf(const ProfileText& text) {
 }
 
 void readEvents(const ProfileText& text, EventList& events) {
-  events.keep(text.sharedBytes());
-  const bool allAscii = isAscii(text.bytes());
   std::vector<std::pair<int, ProfileText::SectionView>> periods;
   std::size_t count = 0;
   for (const int period : periodsOf(text)) {
@@ -120,6 +118,8 @@ void readEvents(const ProfileText& text, EventList& events) {
   }
   events.reserve(count);
   for (const auto& [period, lines] : periods) {
+    events.keep(text.sharedBytes(periodSection(period)));
+    const bool allAscii = isAscii(lines.bytes);
     FirstKeys keys(lines);
     for (const ProfileText::Line& line : lines) {
       if (!keys.isFirst(line) || line.kind != ProfileText::Line::Kind::KeyValue)
@@ -201,9 +201,9 @@ GameFileProblem GameFile::open(const ProfileText*& text) {
   return version && *version == kVersion ? GameFileProblem::None : GameFileProblem::InvalidFormat;
 }
 
+// Every batch is decided upon what the file holds, which has been read just before.
 GameFileProblem GameFile::write(const ProfileBatch& batch) {
-  m_store.Path(m_path);
-  return m_store.write(batch) ? GameFileProblem::None : GameFileProblem::WriteFailed;
+  return m_store.writeBehindReading(batch) ? GameFileProblem::None : GameFileProblem::WriteFailed;
 }
 
 GameFileProblem GameFile::validate() {

@@ -89,52 +89,101 @@ void appendKeyLine(std::string& bytes, std::string_view name, std::string_view v
   bytes.append(name).append("=").append(value).append(kLineEnd);
 }
 
-void appendHeader(std::string& bytes, std::string_view section) {
-  bytes.append("[").append(section).append("]").append(kLineEnd);
+// Where a new key goes: before the comments and blank lines at the end.
+const ProfileText::Line* behindLastKey(const ProfileText::SectionView& section) {
+  const ProfileText::Line* behind = section.last;
+  while (behind != section.first && !isKeyLine(behind[-1]))
+    --behind;
+  return behind;
 }
 
 } // namespace
 
-ProfileText::ProfileText() : m_bytes(std::make_shared<const std::string>()) {}
+struct ProfileText::Section {
+  std::string_view name = {};
+  std::uint32_t begin = 0; // first byte of its header
+  std::uint32_t headerEnd = 0;
+  std::uint32_t end = 0;
+  std::uint32_t firstLine = 0; // index into the lines
+  std::uint32_t lastLine = 0;  // one past
+};
 
-ProfileText::ProfileText(std::string bytes) : m_bytes(std::make_shared<const std::string>(std::move(bytes))) {
-  parse();
+// Bytes that were parsed together: a file as it was read, or a section as it was changed since. The first
+// section stands for what comes before the first header and has neither name nor lines.
+struct ProfileText::Parsed {
+  explicit Parsed(std::string text) : bytes(std::move(text)) { parse(); }
+
+  const std::string bytes;
+  std::vector<Line> lines;
+  std::vector<Section> sections;
+
+ private:
+  void parse();
+  void endSection(std::size_t end) {
+    sections.back().end = static_cast<std::uint32_t>(end);
+    sections.back().lastLine = static_cast<std::uint32_t>(lines.size());
+  }
+};
+
+const ProfileText::Section& ProfileText::Piece::operator*() const {
+  return parsed->sections[section];
 }
 
-void ProfileText::parse() {
-  const char* const start = m_bytes->data();
-  const char* const end = start + m_bytes->size();
-  const bool holdsNul = m_bytes->find('\0') != std::string::npos;
+ProfileText::SectionView ProfileText::Piece::view() const {
+  const Section& own = **this;
+  const Line* const lines = parsed->lines.data();
+  return {lines + own.firstLine, lines + own.lastLine,
+          std::string_view(parsed->bytes).substr(own.begin, own.end - own.begin)};
+}
+
+std::string_view ProfileText::Piece::bytesOf(const Line& line) const {
+  return std::string_view(parsed->bytes).substr(line.begin, line.end - line.begin);
+}
+
+ProfileText::ProfileText() : ProfileText(std::string()) {}
+
+ProfileText::ProfileText(std::string bytes) {
+  const auto parsed = std::make_shared<const Parsed>(std::move(bytes));
+  m_pieces.reserve(parsed->sections.size());
+  for (std::uint32_t section = 0; section < parsed->sections.size(); ++section)
+    m_pieces.push_back({parsed, section});
+}
+
+void ProfileText::Parsed::parse() {
+  const char* const start = bytes.data();
+  const char* const end = start + bytes.size();
+  const bool holdsNul = bytes.find('\0') != std::string::npos;
   const auto offset = [start](const char* place) { return static_cast<std::uint32_t>(place - start); };
 
   // A game's lines are some 20 bytes long. A large file is not known to hold that many lines.
   constexpr std::size_t kTypicalLine = 16;
   constexpr std::size_t kMostReserved = 1U << 16U;
-  m_lines.reserve(std::min(m_bytes->size() / kTypicalLine + 1, kMostReserved));
-  m_sections.reserve(16);
+  lines.reserve(std::min(bytes.size() / kTypicalLine + 1, kMostReserved));
+  sections.reserve(16);
 
-  LineCutter lines(start, end);
+  sections.emplace_back();
+  LineCutter cutter(start, end);
   for (const char* begin = start; begin != end;) {
-    const auto [contentEnd, next] = lines.cut(begin);
+    const auto [contentEnd, next] = cutter.cut(begin);
     const char* first = begin;
     while (first != contentEnd && isBlank(*first))
       ++first;
     if (first != contentEnd && *first == '[') {
-      if (!m_sections.empty())
-        m_sections.back().lastLine = static_cast<std::uint32_t>(m_lines.size());
+      endSection(offset(begin));
       const char* const bracket = std::find(first + 1, contentEnd, ']');
-      m_sections.push_back({.name = trimmedText(first + 1, bracket, holdsNul),
-                            .headerBegin = offset(begin),
+      sections.push_back({.name = trimmedText(first + 1, bracket, holdsNul),
+                            .begin = offset(begin),
                             .headerEnd = offset(next),
-                            .firstLine = static_cast<std::uint32_t>(m_lines.size()),
+                            .end = 0,
+                            .firstLine = static_cast<std::uint32_t>(lines.size()),
                             .lastLine = 0});
-    } else if (!m_sections.empty()) { // lines before the first header belong to no section
+    } else if (sections.size() > 1) { // lines before the first header belong to no section
       const bool isEmpty = first == contentEnd;
       const bool joinsBlank =
-          isEmpty && m_lines.size() > m_sections.back().firstLine && m_lines.back().kind == Line::Kind::Blank;
+          isEmpty && lines.size() > sections.back().firstLine && lines.back().kind == Line::Kind::Blank;
       // Filled in place: this is the inner loop of reading a file, and building a line elsewhere and copying
       // it took longer than all the rest.
-      Line& line = joinsBlank ? m_lines.back() : m_lines.emplace_back();
+      Line& line = joinsBlank ? lines.back() : lines.emplace_back();
       if (!joinsBlank)
         line.begin = offset(begin);
       line.end = offset(next);
@@ -154,53 +203,78 @@ void ProfileText::parse() {
     }
     begin = next;
   }
-  if (!m_sections.empty())
-    m_sections.back().lastLine = static_cast<std::uint32_t>(m_lines.size());
+  endSection(bytes.size());
 }
 
-const ProfileText::Section* ProfileText::find(std::string_view section) const {
-  const auto found = std::ranges::find_if(m_sections, [section](const Section& candidate) {
-    return codepage::equalNames(candidate.name, section);
-  });
-  return found == m_sections.end() ? nullptr : &*found;
+// 0 is what comes before the first header.
+std::size_t ProfileText::find(std::string_view section) const {
+  for (std::size_t place = 1; place < m_pieces.size(); ++place)
+    if (codepage::equalNames((*m_pieces[place]).name, section))
+      return place;
+  return 0;
 }
 
-ProfileText::SectionView ProfileText::lines(const Section& section) const {
-  return {m_lines.data() + section.firstLine, m_lines.data() + section.lastLine};
-}
-
-const ProfileText::Line* ProfileText::findKey(const Section& section, std::string_view key) const {
-  for (const Line& line : lines(section))
+const ProfileText::Line* ProfileText::findKey(const SectionView& section, std::string_view key) {
+  for (const Line& line : section)
     if (line.name.size() == key.size() && isKeyLine(line) && codepage::equalNames(line.name, key))
       return &line;
   return nullptr;
 }
 
+std::string ProfileText::bytes() const {
+  std::size_t size = 0;
+  for (const Piece& piece : m_pieces)
+    size += piece.view().bytes.size();
+  std::string all;
+  all.reserve(size);
+  for (const Piece& piece : m_pieces)
+    all += piece.view().bytes;
+  return all;
+}
+
+bool ProfileText::hasBytes(std::string_view bytes) const {
+  for (const Piece& piece : m_pieces) {
+    const std::string_view own = piece.view().bytes;
+    if (!bytes.starts_with(own))
+      return false;
+    bytes.remove_prefix(own.size());
+  }
+  return bytes.empty();
+}
+
 bool ProfileText::hasSection(std::string_view section) const {
-  return find(section) != nullptr;
+  return find(section) > 0;
 }
 
 ProfileText::SectionView ProfileText::section(std::string_view section) const {
-  const Section* const found = find(section);
-  return found ? lines(*found) : SectionView{};
+  const std::size_t place = find(section);
+  return place > 0 ? m_pieces[place].view() : SectionView{};
+}
+
+std::shared_ptr<const std::string> ProfileText::sharedBytes(std::string_view section) const {
+  const std::size_t place = find(section);
+  if (place == 0)
+    return nullptr;
+  const auto& parsed = m_pieces[place].parsed;
+  return {parsed, &parsed->bytes};
 }
 
 std::vector<std::string_view> ProfileText::sectionNames() const {
   std::vector<std::string_view> names;
   std::unordered_set<std::string> seen;
-  for (const Section& section : m_sections) {
-    std::string folded(section.name);
+  for (std::size_t place = 1; place < m_pieces.size(); ++place) {
+    const std::string_view name = (*m_pieces[place]).name;
+    std::string folded(name);
     for (char& character : folded)
       character = static_cast<char>(codepage::foldCase(static_cast<unsigned char>(character)));
     if (seen.insert(std::move(folded)).second)
-      names.push_back(section.name);
+      names.push_back(name);
   }
   return names;
 }
 
 std::optional<std::string_view> ProfileText::value(std::string_view section, std::string_view key) const {
-  const Section* const place = find(section);
-  const Line* const line = place ? findKey(*place, key) : nullptr;
+  const Line* const line = findKey(this->section(section), key);
   if (!line || line->kind == Line::Kind::NameOnly)
     return std::nullopt;
   return line->value;
@@ -214,77 +288,82 @@ std::string ProfileText::keyList(std::string_view section) const {
   return list;
 }
 
+// The text with these bytes in the place of so many pieces.
+ProfileText ProfileText::withPieces(std::size_t first, std::size_t count, std::string bytes) const {
+  ProfileText inserted(std::move(bytes));
+  if (first > 0) // the bytes begin with a header
+    inserted.m_pieces.erase(inserted.m_pieces.begin());
+  const auto place = m_pieces.begin() + static_cast<std::ptrdiff_t>(first);
+  inserted.m_pieces.insert(inserted.m_pieces.begin(), m_pieces.begin(), place);
+  inserted.m_pieces.insert(inserted.m_pieces.end(), place + static_cast<std::ptrdiff_t>(count),
+                           m_pieces.end());
+  return inserted;
+}
+
+ProfileText ProfileText::withNewSection(std::string_view section, const KeyValues& lines) const {
+  std::string bytes(m_pieces.back().view().bytes);
+  endLine(bytes);
+  bytes.append("[").append(section).append("]").append(kLineEnd);
+  for (const auto& [name, value] : lines)
+    appendKeyLine(bytes, name, value);
+  return withPieces(m_pieces.size() - 1, 1, std::move(bytes));
+}
+
 ProfileText ProfileText::withValue(std::string_view section, std::string_view key,
                                    std::string_view value) const {
-  const std::string_view old = *m_bytes;
-  std::string bytes;
-  bytes.reserve(old.size() + section.size() + key.size() + value.size() + 16);
+  const std::size_t place = find(section);
+  if (place == 0)
+    return withNewSection(section, {{std::string(key), std::string(value)}});
 
-  const Section* const place = find(section);
-  if (!place) {
-    bytes = old;
-    endLine(bytes);
-    appendHeader(bytes, section);
-    appendKeyLine(bytes, key, value);
-  } else if (const Line* const line = findKey(*place, key)) {
+  const SectionView lines = m_pieces[place].view();
+  const std::uint32_t begin = (*m_pieces[place]).begin;
+  std::uint32_t from = (*m_pieces[place]).headerEnd; // what gives way to the line
+  std::uint32_t to = from;
+  std::string_view name = key;
+  if (const Line* const line = findKey(lines, key)) {
     if (line->kind == Line::Kind::KeyValue && line->value == value)
       return *this;
-    bytes = old.substr(0, line->begin);
-    appendKeyLine(bytes, line->name, value);
-    bytes += old.substr(line->end);
+    name = line->name;
+    from = line->begin;
+    to = line->end;
   } else {
-    const SectionView view = lines(*place);
-    const Line* last = view.last;
-    while (last != view.first && !isKeyLine(last[-1]))
-      --last;
-    const std::uint32_t end = last == view.first ? place->headerEnd : last[-1].end;
-    bytes = old.substr(0, end);
-    endLine(bytes);
-    appendKeyLine(bytes, key, value);
-    bytes += old.substr(end);
+    const Line* const behindKeys = behindLastKey(lines);
+    if (behindKeys != lines.first)
+      from = to = behindKeys[-1].end;
   }
-  return bytes == old ? *this : ProfileText(std::move(bytes));
+  std::string bytes;
+  bytes.reserve(lines.bytes.size() + name.size() + value.size() + 2 * kLineEnd.size() + 1);
+  bytes = lines.bytes.substr(0, from - begin);
+  endLine(bytes);
+  appendKeyLine(bytes, name, value);
+  bytes += lines.bytes.substr(to - begin);
+  return bytes == lines.bytes ? *this : withPieces(place, 1, std::move(bytes));
 }
 
 ProfileText ProfileText::withoutSection(std::string_view section) const {
-  const Section* const place = find(section);
-  if (!place)
+  const std::size_t place = find(section);
+  if (place == 0)
     return *this;
-  const std::string_view old = *m_bytes;
-  std::string bytes(old.substr(0, place->headerBegin));
-  std::uint32_t end = place->headerEnd;
-  for (const Line& line : lines(*place)) {
+  std::string bytes(m_pieces[place - 1].view().bytes);
+  for (const Line& line : m_pieces[place].view())
     if (line.kind == Line::Kind::Comment)
-      bytes += old.substr(line.begin, line.end - line.begin);
-    end = line.end;
-  }
-  bytes += old.substr(end);
-  return ProfileText(std::move(bytes));
+      bytes += m_pieces[place].bytesOf(line);
+  return withPieces(place - 1, 2, std::move(bytes));
 }
 
 ProfileText ProfileText::withSectionLines(std::string_view section, const KeyValues& newLines) const {
-  const std::string_view old = *m_bytes;
-  std::string bytes;
-  const Section* const place = find(section);
-  if (!place) {
-    bytes = old;
-    endLine(bytes);
-    appendHeader(bytes, section);
-    for (const auto& [name, value] : newLines)
-      appendKeyLine(bytes, name, value);
-    return ProfileText(std::move(bytes));
-  }
+  const std::size_t place = find(section);
+  if (place == 0)
+    return withNewSection(section, newLines);
 
-  const SectionView view = lines(*place);
+  const Piece& piece = m_pieces[place];
+  const SectionView view = piece.view();
+  const Line* const behindKeys = behindLastKey(view);
+  std::string bytes(view.bytes.substr(0, (*piece).headerEnd - (*piece).begin));
   const auto append = [&](const Line& line) {
     endLine(bytes);
-    bytes += old.substr(line.begin, line.end - line.begin);
+    bytes += piece.bytesOf(line);
   };
-  const Line* behindKeys = view.last;
-  while (behindKeys != view.first && !isKeyLine(behindKeys[-1]))
-    --behindKeys;
-
-  bytes = old.substr(0, place->headerEnd);
   std::unordered_map<std::string_view, const Line*> known;
   for (const Line* line = view.first; line != behindKeys; ++line) {
     if (line->kind == Line::Kind::KeyValue)
@@ -303,12 +382,7 @@ ProfileText ProfileText::withSectionLines(std::string_view section, const KeyVal
   }
   for (const Line* line = behindKeys; line != view.last; ++line)
     append(*line);
-  const std::uint32_t end = view.first == view.last ? place->headerEnd : view.last[-1].end;
-  if (end < old.size()) {
-    endLine(bytes);
-    bytes += old.substr(end);
-  }
-  return bytes == old ? *this : ProfileText(std::move(bytes));
+  return bytes == view.bytes ? *this : withPieces(place, 1, std::move(bytes));
 }
 
 } // namespace hooptab

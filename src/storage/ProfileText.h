@@ -1,6 +1,7 @@
 // The bytes of one profile file, parsed into sections and lines, and the edits that keep every other byte as
-// it is. Works on bytes of the code page and knows no file: cinifile reads and writes it. The behaviour is
-// described in docs/formats/profile.md.
+// it is. An edit parses the section that it changes and shares all others with the text that it comes from, so
+// that it costs the same in a long file. Works on bytes of the code page and knows no file: cinifile reads and
+// writes it. The behaviour is described in docs/formats/profile.md.
 #pragma once
 
 #include <cstdint>
@@ -25,7 +26,7 @@ class ProfileText {
     };
     std::string_view name;   // blanks around it dropped; empty for Blank and Comment
     std::string_view value;  // not cut; blanks around it dropped
-    std::uint32_t begin = 0; // first byte of the line
+    std::uint32_t begin = 0; // first byte of the line, in what was parsed with it
     std::uint32_t end = 0;   // one past its line end
     Kind kind = Kind::Blank;
   };
@@ -34,18 +35,21 @@ class ProfileText {
   explicit ProfileText(std::string bytes);
   // Movable and cheaply copyable: the bytes are shared and never change.
 
-  const std::string& bytes() const { return *m_bytes; }
-  std::shared_ptr<const std::string> sharedBytes() const { return m_bytes; }
+  [[nodiscard]] std::string bytes() const; // of the whole file
+  [[nodiscard]] bool hasBytes(std::string_view bytes) const;
 
   // The lines of the first section of that name, headers excluded; empty when there is none.
   struct SectionView {
     const Line* first = nullptr;
     const Line* last = nullptr;
+    std::string_view bytes = {}; // header included
     const Line* begin() const { return first; }
     const Line* end() const { return last; }
   };
   [[nodiscard]] bool hasSection(std::string_view section) const;
   [[nodiscard]] SectionView section(std::string_view section) const;
+  // What keeps that section's bytes in place without this text; null when there is none.
+  [[nodiscard]] std::shared_ptr<const std::string> sharedBytes(std::string_view section) const;
   [[nodiscard]] std::vector<std::string_view> sectionNames() const; // in file order, each name once
 
   // Whole value of the first key of that name, or nothing.
@@ -64,21 +68,21 @@ class ProfileText {
   [[nodiscard]] ProfileText withSectionLines(std::string_view section, const KeyValues& lines) const;
 
  private:
-  struct Section {
-    std::string_view name;
-    std::uint32_t headerBegin = 0;
-    std::uint32_t headerEnd = 0;
-    std::uint32_t firstLine = 0; // index into m_lines
-    std::uint32_t lastLine = 0;  // one past
+  struct Section;
+  struct Parsed;
+  struct Piece {
+    std::shared_ptr<const Parsed> parsed;
+    std::uint32_t section = 0; // place in it
+    const Section& operator*() const;
+    SectionView view() const;
+    std::string_view bytesOf(const Line& line) const;
   };
-  void parse();
-  const Section* find(std::string_view section) const;
-  SectionView lines(const Section& section) const;
-  const Line* findKey(const Section& section, std::string_view key) const;
+  std::size_t find(std::string_view section) const; // place of its piece; 0 when there is none
+  static const Line* findKey(const SectionView& section, std::string_view key);
+  ProfileText withPieces(std::size_t first, std::size_t count, std::string bytes) const;
+  ProfileText withNewSection(std::string_view section, const KeyValues& lines) const;
 
-  std::shared_ptr<const std::string> m_bytes;
-  std::vector<Line> m_lines;
-  std::vector<Section> m_sections;
+  std::vector<Piece> m_pieces; // the file from its first byte to its last
 };
 
 } // namespace hooptab

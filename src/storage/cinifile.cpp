@@ -108,22 +108,29 @@ void cinifile::INISection(std::string_view) {
 }
 
 bool cinifile::write(const ProfileBatch& batch) {
+  profile();
+  return writeBehindReading(batch);
+}
+
+bool cinifile::writeBehindReading(const ProfileBatch& batch) {
   m_lastReturnCode = 0;
-  const ProfileText& before = profile();
   // What cannot be read must not be replaced by the little that is written now.
   if (m_readOutcome != ReadOutcome::Read && m_readOutcome != ReadOutcome::Absent)
     return false;
 
+  const auto known = m_copies.find(m_path);
+  const ProfileText& before = known != m_copies.end() ? known->second.text : m_nothing;
   ProfileText after = before;
   for (const ProfileBatch::Operation& operation : batch.operations())
     after = std::visit(Applier{after}, operation);
 
-  const bool isOnDisk = after.bytes() == before.bytes() && !m_undurable.contains(m_path);
+  const std::string bytes = after.bytes();
+  const bool isOnDisk = before.hasBytes(bytes) && !m_undurable.contains(m_path);
   if (!isOnDisk) {
-    if (after.bytes().size() > static_cast<std::size_t>(kLargestProfileFile))
+    if (bytes.size() > static_cast<std::size_t>(kLargestProfileFile))
       return false; // could never be read again
     FileStamp stamp;
-    if (!replaceWholeFile(m_files, m_path, after.bytes(), stamp)) {
+    if (!replaceWholeFile(m_files, m_path, bytes, stamp)) {
       if (stamp != FileStamp{})
         m_undurable.insert(m_path);
       return false;
@@ -157,7 +164,7 @@ const ProfileText& cinifile::profile() {
     return m_nothing;
   }
   Copy& copy = copyOfPath();
-  if (copy.text.bytes() != bytes)
+  if (!copy.text.hasBytes(bytes))
     copy.text = ProfileText(std::move(bytes));
   copy.stamp = stamp;
   copy.isSettled = now - stamp.modifiedNanoseconds >= kCoarsestClockNanoseconds;

@@ -54,6 +54,9 @@ class cinifile {
   // Applies all operations to Path as one replacement, or none of them. Sets LastReturnCode and returns
   // whether it is non-zero.
   bool write(const ProfileBatch& batch);
+  // The same for operations that were decided upon what profile() has just returned: the file is not read
+  // once more between reading and writing.
+  bool writeBehindReading(const ProfileBatch& batch);
 
   // The file as it is now, for readers that go through many keys (events, rosters). Empty where Path cannot
   // be read; `readOutcome` says why. The reference holds until the next call on this store.

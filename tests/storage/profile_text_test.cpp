@@ -5,6 +5,7 @@
 #include <ctime>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <random>
 #include <sstream>
 
 namespace hooptab {
@@ -58,6 +59,46 @@ TEST(ProfileText, SurvivesCutsAndFlippedBits) {
       flipped[place] = static_cast<char>(static_cast<unsigned char>(flipped[place]) ^ 1U << bit);
       expectTakesAValue(flipped);
     }
+  }
+}
+
+// What a text has found in its bytes, readable in a message.
+std::string described(const ProfileText& text) {
+  std::ostringstream all;
+  for (const std::string_view section : text.sectionNames()) {
+    all << '[' << section << "] " << text.section(section).bytes.size() << '\n';
+    for (const ProfileText::Line& line : text.section(section))
+      all << static_cast<int>(line.kind) << ' ' << line.end - line.begin << ' ' << line.name << '='
+          << line.value << '\n';
+  }
+  return all.str();
+}
+
+// An edit parses only what it changes: whatever the edits, and whatever was wrong with the file, the text
+// must be the one that a reader of its bytes has.
+TEST(ProfileText, EditedTextsAreThoseOfTheirBytes) {
+  const std::string kNames[] = {"DETAILS", "0", "periode1", "new", "[odd", "]", ""};
+  const std::string kKeys[] = {"VERSION", "1", "alone", "e", "[x", ";y", "n", ""};
+  const std::string kValues[] = {"", "7", "[DETAILS]", "; no comment", "a=b"};
+  std::mt19937 dice(5);
+  const auto oneOf = [&dice](const auto& texts) { return texts[dice() % std::size(texts)]; };
+  for (int round = 0; round < 400; ++round) {
+    std::string bytes = kSample.substr(0, dice() % (kSample.size() + 1));
+    for (int flip = 0; flip < round % 4 && !bytes.empty(); ++flip)
+      bytes[dice() % bytes.size()] = "[]=;\r\n \0"[dice() % 8];
+    ProfileText text(bytes);
+    for (int step = 0; step < 12; ++step) {
+      const std::string section = oneOf(kNames);
+      switch (dice() % 4) {
+      case 0: text = text.withoutSection(section); break;
+      case 1: text = text.withSectionLines(section, {{oneOf(kKeys), oneOf(kValues)}, {"2", "x"}}); break;
+      default: text = text.withValue(section, oneOf(kKeys), oneOf(kValues)); break;
+      }
+      const ProfileText read(text.bytes());
+      ASSERT_TRUE(text.hasBytes(read.bytes()));
+      ASSERT_EQ(described(text), described(read)) << "round " << round << " step " << step;
+    }
+    EXPECT_FALSE(text.hasBytes(text.bytes() + "x"));
   }
 }
 
