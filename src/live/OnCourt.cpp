@@ -53,26 +53,31 @@ std::optional<OnCourt> onCourtOf(int period, const std::string& line, const Rost
   return stop && !stop->isDeleted ? std::optional(stop->lists) : std::nullopt;
 }
 
+// Those of the last stop before an event and so many from it on; of the whole period where it has no such
+// event. Looked for from there back: the stop is near, the beginning of the game is not.
+static OnCourt lastLists(const EventLines& lines, int period, const std::string& key, std::ptrdiff_t count,
+                         const Rosters& rosters) {
+  for (auto entry = std::make_reverse_iterator(lines.upper_bound(period)); entry != lines.rend(); ++entry) {
+    const PeriodLines& events = entry->second;
+    auto end = events.end();
+    if (entry->first == period) {
+      const auto event = std::ranges::find(events, key, &PeriodLines::value_type::first);
+      end = event == events.end() ? event : event + count;
+    }
+    for (auto event = std::make_reverse_iterator(end); event != events.rend(); ++event) {
+      if (const auto lists = onCourtOf(entry->first, event->second, rosters))
+        return *lists;
+    }
+  }
+  return {};
+}
+
 OnCourt inForce(const EventLines& lines, int period, const std::string& key, const Rosters& rosters) {
-  OnCourt onCourt = {};
-  visitAll(lines, [&](int eventPeriod, const std::string& eventKey, const std::string& line) {
-    if (eventPeriod > period)
-      return false;
-    onCourt = onCourtOf(eventPeriod, line, rosters).value_or(onCourt);
-    return eventPeriod != period || key.empty() || eventKey != key;
-  });
-  return onCourt;
+  return lastLists(lines, period, key, 1, rosters);
 }
 
 OnCourt inForceBefore(const EventLines& lines, int period, const std::string& key, const Rosters& rosters) {
-  OnCourt onCourt = {};
-  visitAll(lines, [&](int eventPeriod, const std::string& eventKey, const std::string& line) {
-    if (eventPeriod > period || (eventPeriod == period && eventKey == key))
-      return false;
-    onCourt = onCourtOf(eventPeriod, line, rosters).value_or(onCourt);
-    return true;
-  });
-  return onCourt;
+  return lastLists(lines, period, key, 0, rosters);
 }
 
 bool isSubstitution(const EventLines& lines, int period, const std::string& key, const Rosters& rosters) {

@@ -292,6 +292,7 @@ GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
     return problem;
   EventLines lines; // in bytes of the file, so that what is not changed stays as it is
   std::set<int> reordered;
+  int lowest = 0; // of the new events, as is
   int highest = 0;
   for (const EventChange& step : steps) {
     if (!lines.contains(step.period))
@@ -299,8 +300,11 @@ GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
     const bool isAtEnd = step.kind == EventChange::Kind::Add && step.before.empty();
     if (!isAtEnd && step.kind != EventChange::Kind::Replace)
       reordered.insert(step.period);
-    if (step.kind == EventChange::Kind::Add)
-      highest = std::max(highest, Module1::leadingNumber(step.key));
+    if (step.kind == EventChange::Kind::Add) {
+      const int number = Module1::leadingNumber(step.key);
+      lowest = highest == 0 ? number : std::min(lowest, number);
+      highest = std::max(highest, number);
+    }
     EventChange stored = step;
     stored.line = codepage::fromUtf8(step.line);
     stored.key = codepage::fromUtf8(step.key);
@@ -319,9 +323,12 @@ GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
     if (!reordered.contains(step.period))
       batch.set(periodSection(step.period), step.key, step.line);
   }
+  // New events take the number that EVENUM promises, and those behind it; only where they do not, what others
+  // there are is looked at.
+  if (highest > 0 && Module1::leadingNumber(text->value(kDetailsSection, "EVENUM").value_or("")) != lowest)
+    highest = std::max(highestNumber(*text), highest);
   if (highest > 0)
-    batch.set(std::string(kDetailsSection), "EVENUM",
-              std::to_string(std::max(highestNumber(*text), highest) + 1));
+    batch.set(std::string(kDetailsSection), "EVENUM", std::to_string(highest + 1));
   return write(batch);
 }
 

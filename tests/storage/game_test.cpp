@@ -75,6 +75,13 @@ TEST_F(GameFileTest, AppendingAdvancesTheCounter) {
   EXPECT_EQ(game.events[1].line, "09:01,SA,0-5");
   EXPECT_EQ(game.events[2].line, "09:01,GF3A,1-7,100,44");
   EXPECT_EQ(m_file.nextNumber(), 60);
+  for (const std::string wrong : {"3", "", "-1", "x"}) { // another program's mistake
+    ASSERT_EQ(m_file.setDetails({{"EVENUM", wrong}}), GameFileProblem::None);
+    const std::string key = std::to_string(m_file.nextNumber());
+    ASSERT_EQ(m_file.change({{EventChange::Kind::Add, 2, key, "08:00,SA,0-5"}}), GameFileProblem::None);
+    ASSERT_EQ(m_file.readDetails(game.details), GameFileProblem::None);
+    EXPECT_EQ(game.details.nextEventNumber, m_file.nextNumber()) << wrong;
+  }
 }
 
 TEST_F(GameFileTest, DeletingRestoringEditingAndInsertingKeepTheRest) {

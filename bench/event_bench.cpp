@@ -1,0 +1,41 @@
+// The core's own work for one event, in games of several lengths: counted, written, kept for being taken back.
+// The disk takes every write at once (HOOPTAB_BENCH_FOLDER chooses it), and its share is taken out.
+#include "live_measure.h"
+
+#include <cstdlib>
+
+using namespace hooptab;
+
+namespace {
+
+void measureCore(int events, const std::filesystem::path& folder) {
+  UnsyncedFileSystem files;
+  cinifile store(files);
+  StandingTime time;
+  LiveGame live(store, time);
+  if (live.open(liveGameOf(events, folder)) != GameFileProblem::None || !putFiveOnCourt(live))
+    std::exit(EXIT_FAILURE);
+  std::vector<double> whole;
+  std::vector<double> own; // without the calls of the system
+  for (int i = 0; i < kSamples; ++i) {
+    files.spent = {};
+    const BenchClock::time_point start = BenchClock::now();
+    const bool isRecorded = live.recordAction(i % 2, 1 + i % 5, EventCode::SPF);
+    const BenchClock::duration spent = BenchClock::now() - start;
+    whole.push_back(milliseconds(spent));
+    own.push_back(milliseconds(spent - files.spent));
+    if (!isRecorded)
+      std::exit(EXIT_FAILURE);
+  }
+  printFigures(("core, behind event " + std::to_string(events)).c_str(), std::move(whole));
+  printFigures("  of this its own work", std::move(own));
+}
+
+} // namespace
+
+int main() {
+  const std::filesystem::path folder = liveBenchFolder();
+  for (const int events : {500, 1500, 5000, 20000})
+    measureCore(events, folder);
+  return EXIT_SUCCESS;
+}
