@@ -46,7 +46,7 @@ constexpr int kEntries = Roster::kLargestEntry + 1;
 
 frmEDIT::frmEDIT(const LiveGame& game, const EventPlace& place, Purpose purpose, const Settings& settings,
                  const Texts& texts, QWidget* parent)
-    : QDialog(parent), m_game(game.game()), m_settings(settings), m_texts(texts) {
+    : QDialog(parent), m_purpose(purpose), m_game(game.game()), m_settings(settings), m_texts(texts) {
   setObjectName(QStringLiteral("frmEDIT"));
   setTextNumber(*this, purpose == Purpose::Change ? kEdit : kInsertion);
   setModal(true);
@@ -59,11 +59,13 @@ frmEDIT::frmEDIT(const LiveGame& game, const EventPlace& place, Purpose purpose,
     if (purpose == Purpose::Change)
       fill(event);
   }
-  m_accept->setEnabled(m_time->hasAcceptableInput());
+  if (purpose == Purpose::Insert)
+    m_player->setCurrentIndex(-1); // a guess would be accepted unseen
   m_time->setEnabled(game.hasTime());
   relabel(*this, texts);
   giveMnemonics(*this);
   showShot();
+  showAccept();
   m_time->setFocus();
   m_time->selectAll();
 }
@@ -108,11 +110,16 @@ void frmEDIT::makeFields() {
   setTextNumber(*m_accept, kAccept);
 
   connect(m_court, &MiniCourt::pressed, this, &frmEDIT::pressCourt);
+  connect(m_player, &QComboBox::currentIndexChanged, this, &frmEDIT::showAccept);
   connect(m_kind, &QComboBox::currentIndexChanged, this, &frmEDIT::showShot);
   connect(m_made, &QCheckBox::toggled, this, &frmEDIT::showShot);
   connect(m_accept, &QPushButton::clicked, this, &QDialog::accept);
-  connect(m_time, &QLineEdit::textChanged, this,
-          [this] { m_accept->setEnabled(m_time->hasAcceptableInput()); });
+  connect(m_time, &QLineEdit::textChanged, this, &frmEDIT::showAccept);
+}
+
+void frmEDIT::showAccept() {
+  const bool isNamed = m_purpose == Purpose::Change || m_player->currentIndex() >= 0;
+  m_accept->setEnabled(m_time->hasAcceptableInput() && isNamed);
 }
 
 StatButton* frmEDIT::makeButton(EventCode code, const char* name, int toolTip) {
@@ -222,21 +229,22 @@ bool frmEDIT::fitsZone(EventCode kind) const {
 }
 
 void frmEDIT::showShot() {
-  const auto now = counted();
-  const EventKind* kind = now ? kindOf(now->kind) : nullptr;
+  const EventKind* kind =
+      m_isCounted ? kindOf(static_cast<EventCode>(m_kind->currentData().toInt())) : nullptr;
+  const bool isMade = m_made->isChecked();
   const bool hasPlace = kind != nullptr && kind->hasPlace && m_place;
   m_made->setEnabled(kind != nullptr && kind->isShot);
   m_shot->setText(kind == nullptr || !kind->isShot
                       ? QString()
-                      : caption(m_texts, now->isMade ? kMade : kMissed) +
+                      : caption(m_texts, isMade ? kMade : kMissed) +
                             QStringLiteral(" (%1)").arg(caption(m_texts, kind->wordsText)));
   m_xy->setText(hasPlace ? QStringLiteral("%1, %2").arg(int(m_place->first)).arg(int(m_place->second))
                          : QString());
-  if (hasPlace && !fitsZone(now->kind))
+  if (hasPlace && !fitsZone(kind->code))
     m_xy->setText(m_xy->text() + QStringLiteral(" \u2013 ") + caption(m_texts, kOtherZone));
   std::vector<LivePanel::ShotMark> marks;
   if (hasPlace)
-    marks.push_back({{m_place->first, m_place->second}, now->isMade});
+    marks.push_back({{m_place->first, m_place->second}, isMade});
   m_court->setMarks(marks);
 }
 

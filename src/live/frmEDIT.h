@@ -41,8 +41,10 @@ class frmEDIT : public QDialog {
   void pressCourt(QPointF place, bool isMade);
   void take(EventCode kind, bool isMade);
   void showShot();
+  void showAccept();
   bool fitsZone(EventCode kind) const;
 
+  const Purpose m_purpose;
   const Game& m_game;
   const Settings& m_settings;
   const Texts& m_texts;

@@ -302,6 +302,17 @@ TEST_F(LiveEventPanelTest, TheEditingPanelChangesWhatItShows) {
   EXPECT_EQ(live.game().events.size(), 7U) << "nothing is recorded";
   frmEDIT stop(live, {1, "2"}, frmEDIT::Purpose::Change, settings, texts);
   EXPECT_FALSE(stop.counted()) << "its time alone";
+
+  // Nobody is put in unseen, and what is pressed is shown before somebody is named.
+  frmEDIT fresh(live, {1, "7"}, frmEDIT::Purpose::Insert, settings, texts);
+  const auto* accept = fresh.findChild<QPushButton*>(QStringLiteral("cmdOK"));
+  EXPECT_FALSE(accept->isEnabled());
+  QTest::mouseClick(fresh.findChild<QWidget*>(QStringLiteral("cmdBUTDK(10)")), Qt::LeftButton);
+  EXPECT_FALSE(fresh.findChild<QLabel*>(QStringLiteral("lbleditshot"))->text().isEmpty());
+  EXPECT_FALSE(accept->isEnabled());
+  fresh.findChild<QComboBox*>(QStringLiteral("cmbPLAYER"))->setCurrentIndex(0);
+  EXPECT_TRUE(accept->isEnabled());
+  EXPECT_EQ(fresh.counted()->kind, EventCode::GDK);
 }
 
 TEST_F(LiveEventPanelTest, KeepsWhatCannotBeUnderstood) {
