@@ -331,7 +331,11 @@ bool FollowUpBar::ownsKey(const QKeyEvent& event) const {
 void FollowUpBar::takeKey(const QKeyEvent& event) {
   const FollowUpKey meaning = meaningOf(event);
   switch (meaning.kind) {
-  case FollowUpKey::Kind::Digit: return takeDigit(meaning);
+  case FollowUpKey::Kind::Digit:
+    takeDigit(meaning);
+    if (!m_isOpen)
+      emit numberTyped(event.modifiers().testFlag(Qt::KeypadModifier));
+    return;
   case FollowUpKey::Kind::Take: return take(meaning.team);
   case FollowUpKey::Kind::Clear: return dismiss();
   case FollowUpKey::Kind::GoOn: break;

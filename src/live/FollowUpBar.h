@@ -53,6 +53,7 @@ class FollowUpBar : public QWidget {
   void assistChosen(int slot);
   void reboundChosen(int slot, bool isOffensive);
   void closed(); // in any case
+  void numberTyped(bool onKeypad); // its last digit has chosen a player
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,6 +1,7 @@
 #include "live/LiveKeys.h"
 
 #include "appearance/relabel.h"
+#include "live/KeyCodes.h"
 #include "live/KeySheet.h"
 #include "live/KeypadDisplay.h"
 #include "live/QtKeys.h"
@@ -35,6 +36,10 @@ LiveKeys::LiveKeys(LiveGame& game, const Settings& settings, const Texts& texts,
   m_display = new KeypadDisplay(&displayPlace);
   m_sheet = new KeySheet(texts, &window);
   followUp.setKeyReader([this](const QKeyEvent& event) { return followUpKey(event); });
+  connect(&followUp, &FollowUpBar::numberTyped, this, [this](bool onKeypad) {
+    if (!onKeypad)
+      m_sinceAnswer.start();
+  });
   qApp->installEventFilter(this);
 }
 
@@ -104,9 +109,20 @@ bool LiveKeys::eventFilter(QObject* watched, QEvent* event) {
   if (!m_settings.keypadIsActive || press.code == 0 || !m_input.owns(press))
     return false;
   key.accept();
-  if (isPress && !key.isAutoRepeat())
+  if (!endsAnswer(press, isPress) && isPress && !key.isAutoRepeat())
     take(press);
   return true;
+}
+
+// On the main keyboard a line ends with Enter. Behind a number that was taken with its last digit already, it
+// comes by habit, and is not meant for the clock.
+bool LiveKeys::endsAnswer(const KeyPress& press, bool isPress) {
+  constexpr qint64 kHabit = 1000; // ms
+  const bool isEnd = m_sinceAnswer.isValid() && !m_sinceAnswer.hasExpired(kHabit) &&
+                     press.code == keys::kEnter && !press.isKeypad;
+  if (isPress)
+    m_sinceAnswer.invalidate();
+  return isEnd;
 }
 
 bool LiveKeys::takeSheetKey(const QKeyEvent& event, bool isPress) {

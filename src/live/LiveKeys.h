@@ -6,6 +6,7 @@
 #include "live/FollowUpBar.h"
 #include "live/KeypadInput.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 
 namespace hooptab {
@@ -37,6 +38,7 @@ class LiveKeys : public QObject {
   [[nodiscard]] bool isInFront() const;
   [[nodiscard]] std::optional<FollowUpKey> followUpKey(const QKeyEvent& event) const;
   bool takeSheetKey(const QKeyEvent& event, bool isPress);
+  bool endsAnswer(const KeyPress& press, bool isPress);
   void take(const KeyPress& press);
   void carryOutOrder();
   void refuse(const std::string& why);
@@ -46,6 +48,7 @@ class LiveKeys : public QObject {
   const Texts& m_texts;
   QWidget& m_window;
   KeypadInput m_input;
+  QElapsedTimer m_sinceAnswer; // typed on the main keyboard; until the next key
   KeypadDisplay* m_display = nullptr;
   KeySheet* m_sheet = nullptr;
 };

@@ -270,13 +270,33 @@ TEST_F(LiveKeysTest, ALineOfTheMainKeyboardRecordsForBothTeams) {
   press(Qt::Key_F);
   press(Qt::Key_Return, Qt::ShiftModifier);
   EXPECT_EQ(lines(), "2=10:00,GFTA,0-12|3=10:00,SPF,1-7|");
+  // The number of the rebound is taken with its last digit; an Enter behind it ends the line.
+  const auto rebound = [this] {
+    for (const Qt::Key key : {Qt::Key_4, Qt::Key_1, Qt::Key_X, Qt::Key_Return, Qt::Key_1, Qt::Key_2})
+      press(key);
+    EXPECT_FALSE(followUp().isOpen());
+  };
+  rebound();
+  EXPECT_TRUE(lines().ends_with("5=10:00,SOR,0-12|")) << lines();
+  press(Qt::Key_Return);
+  EXPECT_FALSE(window.isRunning());
+  press(Qt::Key_Return);
+  EXPECT_TRUE(window.isRunning()) << "the next one is the clock's";
+  rebound();
+  pad("E");
+  EXPECT_FALSE(window.isRunning()) << "that of the keypad ends no line";
+  rebound();
+  QTest::qWait(1100);
+  press(Qt::Key_Return);
+  EXPECT_TRUE(window.isRunning()) << "too late for a habit";
+  press(Qt::Key_Return);
   KeypadSetup french;
   french.letters.bind(static_cast<std::size_t>(KeypadAction::PF), 'P');
   window.setKeypad(french);
   press(Qt::Key_7);
   press(Qt::Key_P);
   press(Qt::Key_Return, Qt::ShiftModifier);
-  EXPECT_TRUE(lines().ends_with("4=10:00,SPF,1-7|")) << "another letter acts at once";
+  EXPECT_TRUE(lines().ends_with(",SPF,1-7|")) << "another letter acts at once";
 }
 
 TEST_F(LiveKeysTest, TheCheatSheetShowsTheKeysInUseAndTakesNone) {
