@@ -13,7 +13,9 @@ struct LostStop {
   bool isPeriodOver = false;     // it would have reached 00:00: nobody goes on from there by one click
 
   // Both times by the wall clock, in seconds. Every event is written at once, so that the time of the file is
-  // that of the last one. A file from the future, or of this very second, tells nothing.
+  // that of the last one, unless a colour, a note or an earlier event was changed behind it: then the clock
+  // is too high by that time, for the file has no second one. A file from the future, or of this very second,
+  // tells nothing.
   [[nodiscard]] static LostStop of(int lastClock, std::int64_t fileTime, std::int64_t now) {
     const std::int64_t passed = now - fileTime;
     if (passed <= 0 || lastClock <= 0)
