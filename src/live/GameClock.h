@@ -7,7 +7,7 @@
 
 namespace hooptab {
 
-inline constexpr int kMostOvertimeMinutes = 99; // of a clock that shows mm:ss
+inline constexpr int kMostMinutes = 99; // of a clock that shows mm:ss
 
 class GameClock {
  public:

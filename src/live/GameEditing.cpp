@@ -48,7 +48,7 @@ bool GameEditing::isClock(int period, int clock) const {
   if (details.minutesPerPeriod <= 0 || clock < 0)
     return clock == 0;
   const bool isRegular = period <= details.periods;
-  return clock <= (isRegular ? details.minutesPerPeriod : kMostOvertimeMinutes) * kSecondsPerMinute;
+  return clock <= (isRegular ? details.minutesPerPeriod : kMostMinutes) * kSecondsPerMinute;
 }
 
 std::string GameEditing::textOf(const Counted& counted) const {

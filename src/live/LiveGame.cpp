@@ -55,7 +55,7 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
 void LiveGame::showAsLeft() {
   const GameState& counted = state();
   m_period = std::max<int>(counted.period, 1);
-  m_lengthOfPeriod = game().details.minutesPerPeriod * kSecondsPerMinute;
+  m_lengthOfPeriod = lengthOf(m_period);
   m_clock = {};
   m_phase = Phase::Stopped;
   putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, m_log.rosters()));
@@ -89,6 +89,24 @@ void LiveGame::showAsLeft() {
 
 int LiveGame::fullLength() const {
   return hasTime() ? m_lengthOfPeriod : 0;
+}
+
+bool LiveGame::isHalfTime() const {
+  const int periods = game().details.periods;
+  return m_phase == Phase::Stopped && periods % 2 == 0 && m_period == periods / 2 + 1 &&
+         !m_log.lines().contains(m_period);
+}
+
+// The length of an overtime is in no file: of one that has begun it is the highest clock seen in it.
+int LiveGame::lengthOf(int period) const {
+  int longest = 0;
+  if (period > game().details.periods) {
+    for (const GameEvent& event : game().events) {
+      if (event.period == period && event.isUnderstood)
+        longest = std::max(longest, event.clockSeconds);
+    }
+  }
+  return longest > 0 ? longest : game().details.minutesPerPeriod * kSecondsPerMinute;
 }
 
 int LiveGame::clockSeconds() const {
@@ -190,7 +208,7 @@ bool LiveGame::setPeriod(int period) {
   m_period = period;
   m_phase = Phase::Stopped;
   m_endedPeriod = 0;
-  m_lengthOfPeriod = game().details.minutesPerPeriod * kSecondsPerMinute;
+  m_lengthOfPeriod = lengthOf(m_period);
   int clock = fullLength();
   for (const GameEvent& event : game().events) {
     if (event.period == period && event.isUnderstood && !event.isDeleted)
@@ -218,7 +236,7 @@ void LiveGame::closePeriod() {
   }
   m_phase = Phase::Stopped;
   ++m_period;
-  m_lengthOfPeriod = game().details.minutesPerPeriod * kSecondsPerMinute;
+  m_lengthOfPeriod = lengthOf(m_period);
   m_clock.set(fullLength());
 }
 
@@ -226,6 +244,7 @@ bool LiveGame::returnToEndedPeriod() {
   if (!canReturnToEndedPeriod() || m_phase == Phase::Running || !canRecord())
     return false;
   m_period = m_endedPeriod;
+  m_lengthOfPeriod = lengthOf(m_period);
   m_endedPeriod = 0;
   m_phase = Phase::Stopped;
   m_clock.set(0);
@@ -233,7 +252,7 @@ bool LiveGame::returnToEndedPeriod() {
 }
 
 bool LiveGame::beginOvertime(int minutes, bool keepsFouls) {
-  if (m_phase != Phase::OvertimeAsked || minutes < 1 || minutes > kMostOvertimeMinutes ||
+  if (m_phase != Phase::OvertimeAsked || minutes < 1 || minutes > kMostMinutes ||
       m_period >= kMostPeriods)
     return false;
   m_log.setDetails({{"KEEPBONUS", keepsFouls ? "1" : "0"}});

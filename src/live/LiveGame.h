@@ -50,6 +50,7 @@ class LiveGame {
   bool isOvertime() const { return m_period > m_log.game().details.periods; }
   int clockSeconds() const; // that remain
   int fullLength() const;   // of this period, in seconds; 0 in a game without time
+  bool isHalfTime() const; // the second half is next, and nothing has happened in it yet
   // START or STOP. At 00:00 it decides once more how the period ended.
   void toggleClock();
   void start();
@@ -145,6 +146,7 @@ class LiveGame {
   const std::optional<CourtConflict>& conflict() const { return m_conflict; }
 
  private:
+  [[nodiscard]] int lengthOf(int period) const;
   std::string lineOf(const std::string& eventText) const; // at the present clock
   EventChange added(const std::string& line);
   bool record(const std::string& eventText, int text);

@@ -35,7 +35,7 @@ frmOVERTIME::frmOVERTIME(const GameDetails& details, const Texts& texts, QWidget
   setTextNumber(*this, kTitle);
   setModal(true);
   m_minutes->setObjectName(QStringLiteral("UpDown1"));
-  m_minutes->setRange(1, kMostOvertimeMinutes);
+  m_minutes->setRange(1, kMostMinutes);
   m_minutes->setFont(Theme::figures(font().pointSize()));
   m_keepsFouls->setObjectName(QStringLiteral("Check1"));
   m_keepsFouls->setChecked(details.keepsBonus); // as in the overtime before

@@ -168,6 +168,33 @@ TEST_F(LeftGameTest, AtZeroThePeriodIsClosed) {
   EXPECT_FALSE(live->isStopLost()) << "no time, no stop";
 }
 
+// As long as the highest clock in it says, not as long as a regular period.
+TEST_F(LeftGameTest, AnOvertimeKeepsItsLength) {
+  for (const int minutes : {3, 15}) {
+    make();
+    ASSERT_EQ(live->open(path), GameFileProblem::None);
+    ASSERT_TRUE(live->setPeriod(4));
+    live->start();
+    time.now += 600;
+    live->tick();
+    ASSERT_TRUE(live->beginOvertime(minutes, false));
+    live->start();
+    time.now += 60;
+    live->stop();
+    findAgain();
+    EXPECT_EQ(live->period(), 5);
+    EXPECT_EQ(live->fullLength(), minutes * 60);
+    EXPECT_FALSE(live->setClock(minutes * 60 + 1));
+    EXPECT_TRUE(live->setClock(minutes * 60));
+    EXPECT_TRUE(live->setPeriod(4));
+    EXPECT_EQ(live->fullLength(), 600);
+    EXPECT_TRUE(live->setPeriod(5));
+    EXPECT_EQ(live->fullLength(), minutes * 60);
+    EXPECT_TRUE(live->setPeriod(6));
+    EXPECT_EQ(live->fullLength(), 600) << "before its first event nobody knows";
+  }
+}
+
 TEST_F(LeftGameTest, ForReadingEverythingIsShownAndNothingWritten) {
   leaveRunning();
   const std::string before = folder.read("left.GAM");
