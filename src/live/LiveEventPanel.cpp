@@ -107,7 +107,7 @@ void LiveEventPanel::makeList() {
   m_list->setShowGrid(false);
   m_list->setWordWrap(false);
   m_list->setTabKeyNavigation(false);
-  m_list->setMinimumHeight(kRowHeight); // all that strips above the window leave of it on a small screen
+  m_list->setMinimumHeight(kRowHeight / 2); // all that two strips and the filters leave on a small screen
   m_list->viewport()->installEventFilter(this);
   m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
   connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,

@@ -43,6 +43,7 @@ constexpr int kRecordedElsewhere = 1913;
 constexpr int kForReadingOnly = 1914;
 constexpr int kNotOnDisk = 1915;
 constexpr int kLeaveUnwritten = 1916;
+constexpr int kPeriodTooLong = 2380;
 
 constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
 constexpr auto kRetryInterval = 2s;
@@ -205,6 +206,14 @@ frmLIVE::Opening frmLIVE::open(const QString& path) {
   if (outcome == GameLock::Outcome::HeldElsewhere && !isOpenHere) {
     m_dialogs.warn(this, toQt(m_texts.text(kErrorTitle)),
                    toQt(m_texts.withPlaceholder(kRecordedElsewhere, fromQt(lock.owner()))));
+    return Opening::Refused;
+  }
+  GameDetails details; // a file that cannot be read is told about below
+  if (GameFile(m_store, fromQt(path)).readDetails(details) == GameFileProblem::None &&
+      details.minutesPerPeriod > kMostMinutes) {
+    m_dialogs.warn(
+        this, toQt(m_texts.text(kErrorTitle)),
+        toQt(m_texts.withPlaceholder(kPeriodTooLong, std::to_string(details.minutesPerPeriod))));
     return Opening::Refused;
   }
   if (!mayClose()) // what is open now

@@ -262,6 +262,21 @@ TEST_F(LiveWindowTest, AnotherGameWaitsForTheFirst) {
   EXPECT_EQ(eventsOf(other), "");
 }
 
+// A clock of three-digit minutes would be written into lines that nobody understands.
+TEST_F(LiveWindowTest, PeriodsThatNoClockShowsAreRefused) {
+  const std::string longest = folder.path("long.GAM");
+  makeGame(longest);
+  for (const auto& [minutes, opening] : {std::pair("100", frmLIVE::Opening::Refused),
+                                         std::pair("99999999", frmLIVE::Opening::Refused),
+                                         std::pair("99", frmLIVE::Opening::Opened)}) {
+    ASSERT_EQ(GameFile(store, longest).setDetails({{"DUREE", minutes}}), GameFileProblem::None);
+    EXPECT_EQ(window->open(toQt(longest)), opening) << minutes;
+    EXPECT_EQ(window->path() == toQt(longest), opening == frmLIVE::Opening::Opened);
+  }
+  ASSERT_EQ(dialogs.shown.size(), 2U);
+  EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("100")));
+}
+
 // Where no lock file can be made (its name would be too long), and where the file is protected.
 TEST_F(LiveWindowTest, WhatCannotBeWrittenOpensForReading) {
   press("cmdBUTFT(0)");
@@ -313,7 +328,10 @@ TEST_F(LiveWindowTest, AfterACrashOneClickTakesEitherClock) {
     EXPECT_EQ(label("lblNom(0)"), "Ann") << "everyone is on court";
     EXPECT_TRUE(find("picLOSTSTOP").isVisible());
     window->findChild<QAction*>(QStringLiteral("cmdFILTER"))->trigger();
+    QLabel& notOnDisk = find<QLabel>("lblNOTONDISK");
+    notOnDisk.show();
     EXPECT_LE(window->minimumSizeHint().height(), 645) << "768 lines would cut off what is below";
+    notOnDisk.hide();
   };
   using std::chrono::seconds;
   findCrashed(seconds(32));
