@@ -1,9 +1,9 @@
 #include "live/ScorePanel.h"
 
-#include "appearance/Icons.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/ScoreText.h"
+#include "live/SideSwitch.h"
 #include "storage/Module1.h"
 
 #include <QApplication>
@@ -31,6 +31,7 @@ constexpr int kTimeInLeadHint = 1714;
 constexpr int kNoTime = 1383;
 constexpr int kPeriod = 1087;
 constexpr int kSwitchSides = 1043;
+constexpr int kHalfTime = 2381;
 constexpr int kStartHint = 1930;
 constexpr int kClockHint = 1931;
 constexpr int kSecondMore = 1932;
@@ -46,7 +47,7 @@ constexpr int kPeriodByHand = 1944;
 
 constexpr int kLeastWidth = 250;
 constexpr int kGap = 3;
-constexpr int kSwitchWidth = 26;
+constexpr int kSwitchWidth = 32;
 constexpr int kPlateWidth = (kLeastWidth - kSwitchWidth) / 2 - kGap;
 constexpr int kPlateMargin = 4;
 constexpr int kArrowRoom = 30;
@@ -63,12 +64,11 @@ constexpr int kNamePoints = 10;
 constexpr int kScorePoints = 22;
 constexpr int kFoulPoints = 12;
 constexpr int kClockPoints = 36;
-constexpr int kLongClockPoints = 28; // for 100 minutes and more
+constexpr int kTypedClockPoints = 28;
 constexpr int kPeriodPoints = 13;
 constexpr int kStartPoints = 15;
 constexpr int kLeadPoints = 9;
 constexpr int kDiskPoints = 10;
-constexpr int kHundredMinutes = 6000;
 constexpr int kTiedPlace = static_cast<int>(LeadState::Tied);
 
 void colour(QWidget& widget, const QColor& background) {
@@ -106,8 +106,10 @@ ScorePanel::ScorePanel(const Texts& texts, QWidget* parent) : QWidget(parent), m
   setMinimumWidth(kLeastWidth);
   auto* plates = new QWidget(this);
   QBoxLayout* teams = rowIn(*plates);
+  m_switch = new SideSwitch(smallButton(QStringLiteral("cmdSWITCH"), {}, kSwitchSides), this);
+  connect(m_switch, &SideSwitch::asked, this, &ScorePanel::switchAsked);
   teams->addWidget(makePlate(0));
-  teams->addWidget(makeSwitch());
+  teams->addWidget(m_switch);
   teams->addWidget(makePlate(1));
 
   auto* layout = new QVBoxLayout(this);
@@ -165,15 +167,6 @@ QWidget* ScorePanel::makePlate(int team) {
   return side.plate;
 }
 
-// Between the teams, as high as they are.
-QWidget* ScorePanel::makeSwitch() {
-  m_switch = smallButton(QStringLiteral("cmdSWITCH"), {}, kSwitchSides);
-  m_switch->setIcon(icon(QStringLiteral("switch")));
-  m_switch->setFixedSize(kSwitchWidth, kPlateHeight);
-  connect(m_switch, &QToolButton::clicked, this, &ScorePanel::switchAsked);
-  return m_switch;
-}
-
 QWidget* ScorePanel::makeFouls() {
   auto* fouls = new QWidget(this);
   QBoxLayout* row = rowIn(*fouls);
@@ -196,7 +189,7 @@ QWidget* ScorePanel::makeClock() {
   m_clock->installEventFilter(this);
   m_clockEdit = new QLineEdit(m_clock);
   m_clockEdit->setObjectName(QStringLiteral("txtTEMPS"));
-  m_clockEdit->setFont(Theme::figures(kLongClockPoints, true));
+  m_clockEdit->setFont(Theme::figures(kTypedClockPoints, true));
   m_clockEdit->setAlignment(Qt::AlignCenter);
   m_clockEdit->setGeometry(m_clock->rect());
   m_clockEdit->installEventFilter(this);
@@ -301,6 +294,10 @@ QString ScorePanel::abbreviation(std::size_t team) const {
   return m_game == nullptr ? QString() : toQt(m_game->game().details.abbreviation[team]);
 }
 
+QColor ScorePanel::teamColour(std::size_t team) const {
+  return m_game == nullptr ? QColor() : colourOf(m_game->game().details.teamColour[team]);
+}
+
 void ScorePanel::tip(QWidget& widget, int number) {
   setToolTipNumber(widget, number);
   widget.setToolTip(caption(m_texts, number).trimmed());
@@ -311,8 +308,6 @@ void ScorePanel::showGame(const LiveGame& game) {
   for (std::size_t team = 0; team < 2; ++team)
     showTeam(team);
   m_period->setText(toQt(periodShown(game, m_texts)));
-  m_clock->setFont(
-      Theme::figures(game.fullLength() < kHundredMinutes ? kClockPoints : kLongClockPoints, true));
   for (std::size_t state = 0; state < m_leads.size(); ++state) {
     m_leads[state].time->setText(toQt(leadTimeShown(game, static_cast<LeadState>(state))));
     m_leads[state].times->setText(u'×' + QString::number(game.state().lead.times[state]));
@@ -330,9 +325,8 @@ void ScorePanel::showTime(const LiveGame& game) {
 
 void ScorePanel::showTeam(std::size_t team) {
   const int number = static_cast<int>(team);
-  const GameDetails& details = m_game->game().details;
   Side& side = m_sides[team];
-  const QColor own = colourOf(details.teamColour[team]);
+  const QColor own = teamColour(team);
   if (side.plate->palette().color(QPalette::Window) != own) {
     for (QWidget* part : {side.plate, static_cast<QWidget*>(side.name), static_cast<QWidget*>(side.points)})
       colour(*part, own);
@@ -385,6 +379,7 @@ void ScorePanel::showClockButtons() {
 }
 
 void ScorePanel::setSides(bool team0PlaysRight) {
+  m_isHalfTimeOver = m_isHalfTimeOver || team0PlaysRight != m_team0PlaysRight;
   m_team0PlaysRight = team0PlaysRight;
   showSides();
 }
@@ -399,9 +394,14 @@ void ScorePanel::showSides() {
     name.replace(u'&', QLatin1String("&&"));
     plate.setText(playsRight ? name + QStringLiteral(" ▸") : QStringLiteral("◂ ") + name);
   }
-  m_switch->setToolTip(
-      caption(m_texts, kSwitchSides) + u'\n' +
-      toQt(m_texts.withPlaceholder(kPlaysLeft, fromQt(abbreviation(m_team0PlaysRight ? 1 : 0)))));
+  const std::size_t left = m_team0PlaysRight ? 1 : 0;
+  const bool isHalfTime = m_game != nullptr && m_game->isHalfTime();
+  m_isHalfTimeOver = m_isHalfTimeOver && isHalfTime;
+  const bool isOffered = isHalfTime && !m_isHalfTimeOver;
+  m_switch->setOffered(isOffered);
+  m_switch->showSides(abbreviation(left), {teamColour(left), teamColour(1 - left)},
+                      caption(m_texts, isOffered ? kHalfTime : kSwitchSides) + u'\n' +
+                          toQt(m_texts.withPlaceholder(kPlaysLeft, fromQt(abbreviation(left)))));
 }
 
 void ScorePanel::showDisk(bool isOnDisk, std::size_t waiting) {

@@ -19,6 +19,7 @@ class QToolButton;
 namespace hooptab {
 
 class LiveGame;
+class SideSwitch;
 class Texts;
 
 class ScorePanel : public QWidget {
@@ -60,7 +61,6 @@ class ScorePanel : public QWidget {
   QLabel* label(const QString& name, const QFont& font);
   QToolButton* smallButton(const QString& name, const QString& text, int toolTip);
   QWidget* makePlate(int team);
-  QWidget* makeSwitch();
   QWidget* makeFouls();
   QWidget* makeClock();
   QWidget* makeButtons();
@@ -73,10 +73,12 @@ class ScorePanel : public QWidget {
   void leaveClock();
   void tip(QWidget& widget, int number);
   QString abbreviation(std::size_t team) const;
+  QColor teamColour(std::size_t team) const;
 
   const Texts& m_texts;
   const LiveGame* m_game = nullptr; // shown last
   bool m_team0PlaysRight = false;
+  bool m_isHalfTimeOver = false; // for the sides: they have been switched in it
   bool m_isOnDisk = true;
   std::size_t m_waiting = 0;
 
@@ -91,7 +93,7 @@ class ScorePanel : public QWidget {
   QPushButton* m_start = nullptr;
   QToolButton* m_later = nullptr;
   QToolButton* m_earlier = nullptr;
-  QToolButton* m_switch = nullptr;
+  SideSwitch* m_switch = nullptr;
   QToolButton* m_return = nullptr;
   QLabel* m_disk = nullptr;
 };

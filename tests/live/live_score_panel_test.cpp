@@ -91,7 +91,7 @@ TEST_F(ScorePanelTest, ShowsScoreFoulsAndLead) {
 }
 
 TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
-  open("[PERIODE2]\n1=05:00,SPF,0-4\n");
+  open("[PERIODE2]\n1=05:00,SPF,0-4\n", "EQUIPE0COL=255\nEQUIPE1COL=65280\n");
   QSignalSpy start(&panel, &ScorePanel::startAsked);
   QSignalSpy period(&panel, &ScorePanel::periodAsked);
   QSignalSpy clock(&panel, &ScorePanel::clockAsked);
@@ -119,9 +119,22 @@ TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
 
   const QString right = QStringLiteral("▸");
   EXPECT_TRUE(button("cmdCOUL(1)")->text().endsWith(right));
-  press("cmdSWITCH");
-  EXPECT_EQ(sides.size(), 1);
+  EXPECT_EQ(text("lblSWITCH"), QStringLiteral("◂PAN"));
+  const auto colourAt = [&](double share) { // of the little court's width
+    const QImage court = find<QWidget>("picSWITCH")->grab().toImage();
+    return court.pixelColor(static_cast<int>(court.width() * share), court.height() / 4);
+  };
+  const QColor visitors = find<QWidget>("pictTEAM(0)")->palette().color(QPalette::Window);
+  EXPECT_EQ(colourAt(0.25), visitors);
+  EXPECT_NE(colourAt(0.75), visitors);
+  for (const char* name : {"cmdSWITCH", "picSWITCH", "lblSWITCH"})
+    QTest::mouseClick(find<QWidget>(name), Qt::LeftButton);
+  EXPECT_EQ(sides.size(), 3);
+  QTest::mouseClick(find<QWidget>("picSWITCH"), Qt::RightButton);
+  EXPECT_EQ(sides.size(), 3);
   panel.setSides(true);
+  EXPECT_EQ(text("lblSWITCH"), QStringLiteral("◂OLY"));
+  EXPECT_EQ(colourAt(0.75), visitors);
   EXPECT_TRUE(button("cmdCOUL(0)")->text().endsWith(right));
   EXPECT_FALSE(button("cmdCOUL(1)")->text().endsWith(right));
 
@@ -135,6 +148,31 @@ TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
   ASSERT_TRUE(button("cmdRETURN")->isVisible());
   press("cmdRETURN");
   EXPECT_EQ(back.size(), 1);
+}
+
+// Offered between the halves, until it is done or the game goes on; never in another break.
+TEST_F(ScorePanelTest, OffersTheSidesAtHalfTime) {
+  const auto offers = [this] {
+    return button("cmdSWITCH")->palette().color(QPalette::Button) == Theme::accent() &&
+           button("cmdSWITCH")->toolTip().startsWith(toQt(texts.text(2381)));
+  };
+  open("[PERIODE1]\n1=00:00,ARRET,IN-,IN-\n");
+  EXPECT_FALSE(offers()) << "after one of four";
+  open("[PERIODE2]\n1=05:00,SPF,0-4\n2=00:00,ARRET,IN-,IN-\n");
+  EXPECT_TRUE(offers());
+  panel.setSides(true);
+  EXPECT_FALSE(offers());
+  panel.showGame(live);
+  EXPECT_FALSE(offers()) << "once";
+  ASSERT_TRUE(live.returnToEndedPeriod());
+  panel.showGame(live);
+  EXPECT_FALSE(offers());
+  live.start(); // the close once more
+  panel.showGame(live);
+  EXPECT_TRUE(offers());
+  live.start();
+  panel.showGame(live);
+  EXPECT_FALSE(offers()) << "the second half has begun";
 }
 
 TEST_F(ScorePanelTest, TakesAClockTypedAndLeavesItAlone) {
