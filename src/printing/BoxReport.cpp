@@ -19,15 +19,22 @@ bool isShotPart(std::string_view name) {
   return name == "M" || name == "A" || name == "%" || name == "PTS";
 }
 
-// The title of the group to which a column belongs; 0 for none.
-int groupTitle(std::string_view column) {
+struct Group {
+  std::string_view kind; // of shots; empty for all of them together
+  int title = 0;         // 0 for none
+};
+Group groupOf(std::string_view column) {
   if (isShotPart(column))
-    return kEveryShot;
+    return {{}, kEveryShot};
   for (const auto& [kind, title] : kGroupTitles) {
     if (column.starts_with(kind) && isShotPart(column.substr(kind.size())))
-      return title;
+      return {kind, title};
   }
-  return 0;
+  return {};
+}
+
+int indexOf(const std::string& column) {
+  return std::ranges::find(boxColumns(), column, &BoxColumn::name)->index;
 }
 
 ReportCell cellOf(const BoxRow& row, const BoxColumn& column) {
@@ -53,6 +60,14 @@ ReportTable boxTable(const Game& game, const GameState& state, int team, const S
                      const Settings& settings, const Texts& texts) {
   ReportTable table;
   table.title = game.details.abbreviation[team] + " – " + game.details.name[team];
+  // Of both teams, so that their tables have the same columns.
+  const BoxRow totals[2] = {boxRows(game, state, 0, BoxView::Players, texts).back(),
+                            boxRows(game, state, 1, BoxView::Players, texts).back()};
+  const auto isUntried = [&](const Group& group) {
+    return !group.kind.empty() && std::ranges::all_of(totals, [&](const BoxRow& total) {
+      return boxSortValue(total, indexOf(std::string(group.kind) + 'A')) == 0;
+    });
+  };
   std::vector<const BoxColumn*> shown;
   int openGroup = -1;
   for (const int index : boxDisplayOrder()) {
@@ -65,11 +80,12 @@ ReportTable boxTable(const Game& game, const GameState& state, int team, const S
     table.columns.push_back({header, std::string(column.name),
                              columnWords(index, game.details.statisticLabel, settings, texts),
                              column.isLeftAligned || boxColumnIsText(index), isRepeated});
-    const int title = groupTitle(column.name);
-    if (title != openGroup)
-      table.groups.push_back({title == 0 ? std::string() : std::string(texts.text(title)), 0});
+    const Group group = groupOf(column.name);
+    if (group.title != openGroup)
+      table.groups.push_back({group.title == 0 ? std::string() : std::string(texts.text(group.title)), 0,
+                              isUntried(group)});
     ++table.groups.back().columns;
-    openGroup = title;
+    openGroup = group.title;
   }
   for (const BoxRow& row : boxRows(game, state, team, choice.view(), texts)) {
     ReportRow& line = table.rows.emplace_back();

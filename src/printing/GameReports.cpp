@@ -2,6 +2,7 @@
 
 #include "printing/BoxReport.h"
 #include "printing/PrintTexts.h"
+#include "printing/ReportWords.h"
 #include "scorecard/ColumnWords.h"
 #include "scorecard/Scoreboard.h"
 #include "scorecard/ScorecardTexts.h"
@@ -24,14 +25,25 @@ constexpr int kStatistician = 1069;
 constexpr int kTotal = 1070;
 constexpr int kTeam = 1305;
 constexpr int kTied = 1021;
+constexpr int kTotalRebounds = 2131;
 constexpr int kTime = 1024;
 constexpr int kTimes = 1508;
 constexpr int kPeriod = 1087;
 constexpr int kSecondsPerMinute = 60;
 
-// The columns whose best players are named.
-constexpr std::string_view kLeaderColumns[] = {"PTS", "F3M", "FTM", "Ast", "DR", "OR", "ST", "BS", "rating"};
+// The columns whose best players are named; rebounds are those of both kinds.
+constexpr std::string_view kLeaderColumns[] = {"PTS", "F3M", "FTM", "Ast", "TR", "OR", "ST", "BS", "rating"};
 constexpr std::size_t kMostNamed = 3;
+constexpr const char* kDash = "\u00A0–\u00A0"; // no line ends within a score
+
+// Rules of the game, in the words of the window that shows them.
+constexpr std::pair<int, int GameDetails::*> kRules[] = {
+    {1123, &GameDetails::periods},
+    {1124, &GameDetails::minutesPerPeriod},
+    {1125, &GameDetails::bonus},
+    {1126, &GameDetails::personalFoulLimit},
+    {1127, &GameDetails::technicalFoulLimit},
+};
 
 std::string text(const Texts& texts, int number) {
   return std::string(texts.text(number));
@@ -52,19 +64,27 @@ Report reportOf(const Game& game, const GameState& state, int title, const Texts
   return report;
 }
 
-ReportParagraph detailsOf(const Game& game, const Texts& texts) {
+// Who played, with the score; and where, when and by which rules.
+void addHead(Report& report, const Game& game, const GameState& state, const Texts& texts) {
   const GameDetails& details = game.details;
-  std::string words = details.name[0] + " – " + details.name[1];
+  const auto team = [&](int side) {
+    return details.name[side].empty() ? details.abbreviation[side] : details.name[side];
+  };
+  report.blocks.push_back(
+      ReportParagraph{ReportParagraph::Style::Heading, team(0) + "  " + std::to_string(state.points(0)) + kDash +
+                                                           std::to_string(state.points(1)) + "  " + team(1)});
+  std::string words = text(texts, details.isFinished ? kFinished : kInProgress);
   const auto add = [&](int label, std::string_view value) {
     if (!value.empty())
-      words += ".  " + text(texts, label) + ": " + std::string(value);
+      words += ".  " + labelled(label, value, texts);
   };
   add(kGameDate, details.date);
   add(kPlace, details.place);
   add(kGameType, choiceName(kFirstGameTypeText, details.type, texts));
   add(kStatistician, details.statistician);
-  return {ReportParagraph::Style::Body,
-          words + ".  " + text(texts, details.isFinished ? kFinished : kInProgress)};
+  for (const auto& [label, rule] : kRules)
+    add(label, details.*rule > 0 ? std::to_string(details.*rule) : std::string());
+  report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, std::move(words)});
 }
 
 // Points or fouls of both teams, a column for each period.
@@ -99,7 +119,7 @@ ReportTable leadTable(const Scoreboard& board, const GameState& state, const Tex
   table.standsBeside = true;
   table.columns = {{text(texts, kTeam), "Team", {}, true, true},
                    {text(texts, kTime), "Time"},
-                   {text(texts, kTimes), "Times"}};
+                   {capitalised(text(texts, kTimes)), "Times"}};
   const std::string names[] = {board.teams[0].abbreviation, board.teams[1].abbreviation, text(texts, kTied)};
   for (const std::size_t lead : {0U, 2U, 1U}) {
     ReportCell time = {board.leads[lead].time, ReportCell::Kind::Time,
@@ -109,12 +129,29 @@ ReportTable leadTable(const Scoreboard& board, const GameState& state, const Tex
   return table;
 }
 
+// What a player has of a leader column.
+int valueOf(const BoxRow& row, std::string_view column) {
+  if (column == "TR")
+    return row.numbers.rebounds();
+  return static_cast<int>(boxSortValue(row, std::ranges::find(boxColumns(), column, &BoxColumn::name)->index));
+}
+
+std::string leaderWords(std::string_view column, const Game& game, const Settings& settings,
+                        const Texts& texts) {
+  if (column == "TR")
+    return text(texts, kTotalRebounds);
+  if (column == "rating") // whose words are its formula
+    return text(texts, kRating);
+  return capitalised(columnWords(std::ranges::find(boxColumns(), column, &BoxColumn::name)->index,
+                                 game.details.statisticLabel, settings, texts));
+}
+
 // Who has most of a column, by name; "5 players" where too many share it.
-std::string leaders(const std::vector<BoxRow>& rows, int column, double best, const Texts& texts) {
+std::string leaders(const std::vector<BoxRow>& rows, std::string_view column, int best, const Texts& texts) {
   std::string names;
   std::size_t count = 0;
   for (const BoxRow& row : rows) {
-    if (row.kind != BoxRowKind::Player || boxSortValue(row, column) != best)
+    if (row.kind != BoxRowKind::Player || valueOf(row, column) != best)
       continue;
     names += (count > 0 ? ", " : "") + row.number + ' ' + row.name;
     ++count;
@@ -128,29 +165,31 @@ ReportTable leaderTable(const Game& game, const GameState& state, const Settings
   table.title = text(texts, kGameLeaders);
   table.isSummary = true;
   table.columns.push_back({text(texts, kStatistic), "Statistic", {}, true, true});
+  table.groups.push_back({"", 1});
   std::vector<BoxRow> rows[2];
   for (int team = 0; team < 2; ++team) {
     rows[team] = boxRows(game, state, team, BoxView::Players, texts);
     const std::string side = std::to_string(team);
-    table.columns.push_back({game.details.abbreviation[team], "Name" + side, {}, true});
-    table.columns.push_back({"", "Value" + side});
+    table.columns.push_back({text(texts, kPlayerName), "Name" + side, {}, true});
+    table.columns.push_back({text(texts, kValue), "Value" + side});
+    table.groups.push_back({game.details.abbreviation[team], 2});
   }
   for (const std::string_view name : kLeaderColumns) {
-    const auto found = std::ranges::find(boxColumns(), name, &BoxColumn::name);
-    ReportRow& line = table.rows.emplace_back();
-    // The words of the rating are its formula.
-    line.cells.push_back(
-        textCell(name == "rating" ? text(texts, kRating)
-                                  : columnWords(found->index, game.details.statisticLabel, settings, texts)));
+    ReportRow line;
+    bool isLed = false;
+    line.cells.push_back(textCell(leaderWords(name, game, settings, texts)));
     for (const std::vector<BoxRow>& players : rows) {
-      double best = 0;
+      int best = 0;
       for (const BoxRow& row : players) {
         if (row.kind == BoxRowKind::Player)
-          best = std::max(best, boxSortValue(row, found->index));
+          best = std::max(best, valueOf(row, name));
       }
-      line.cells.push_back(textCell(best > 0 ? leaders(players, found->index, best, texts) : std::string()));
-      line.cells.push_back(best > 0 ? numberCell(static_cast<int>(best)) : textCell({}));
+      line.cells.push_back(textCell(best > 0 ? leaders(players, name, best, texts) : std::string()));
+      line.cells.push_back(best > 0 ? numberCell(best) : textCell({}));
+      isLed = isLed || best > 0;
     }
+    if (isLed)
+      table.rows.push_back(std::move(line));
   }
   return table;
 }
@@ -231,9 +270,12 @@ std::string chosenRows(const ScorecardView& choice, const Texts& texts) {
 }
 
 void addShotCharts(Report& report, const Game& game, ScorecardView choice, const Texts& texts) {
+  bool hasPicture = false;
   for (int team = 0; team < 2; ++team) {
     choice.setTeam(team);
     const std::vector<Shot> shots = choice.shots();
+    if (shots.empty())
+      continue; // an empty court tells nothing
     ShotDrawing byShot;
     for (const Shot& shot : shots) {
       if (shot.hasPlace)
@@ -241,10 +283,11 @@ void addShotCharts(Report& report, const Game& game, ScorecardView choice, const
     }
     const std::string title = game.details.abbreviation[team] + " – " + text(texts, kShotChart);
     const std::string caption = shotCaption(shots, texts) + chosenRows(choice, texts);
-    report.blocks.push_back(
-        ReportPicture{title + ", " + text(texts, kByShot), std::move(byShot), caption, team == 1});
-    report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByZone),
-                                          ShotDrawing{{}, zoneWords(shotSums(shots))}, caption, true});
+    report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByShot), std::move(byShot), caption,
+                                          std::exchange(hasPicture, true)});
+    if (auto zones = zoneWords(shotSums(shots)); !zones.empty())
+      report.blocks.push_back(
+          ReportPicture{title + ", " + text(texts, kByZone), ShotDrawing{{}, std::move(zones)}, caption, true});
   }
 }
 
@@ -255,13 +298,17 @@ Report scorecardReport(const Game& game, const GameState& state, ScorecardView c
   choice.show(game, state);
   const Scoreboard board = scoreboard(game, state, texts);
   Report report = reportOf(game, state, kScorecard, texts);
-  report.blocks.push_back(detailsOf(game, texts));
+  addHead(report, game, state, texts);
   report.blocks.push_back(periodTable(board, ByPeriod::Points, texts));
   report.blocks.push_back(periodTable(board, ByPeriod::Fouls, texts));
-  report.blocks.push_back(leadTable(board, state, texts));
-  for (int team = 0; team < 2; ++team)
-    report.blocks.push_back(boxTable(game, state, team, choice, settings, texts));
-  report.blocks.push_back(leaderTable(game, state, settings, texts));
+  if (board.hasTime)
+    report.blocks.push_back(leadTable(board, state, texts));
+  const ReportTable boxes[] = {boxTable(game, state, 0, choice, settings, texts),
+                               boxTable(game, state, 1, choice, settings, texts)};
+  report.blocks.insert(report.blocks.end(), std::begin(boxes), std::end(boxes));
+  addNotes(report, boxes[0], texts);
+  if (ReportTable leaders = leaderTable(game, state, settings, texts); !leaders.rows.empty())
+    report.blocks.push_back(std::move(leaders));
   if (board.hasTime && state.points(0) + state.points(1) > 0)
     report.blocks.push_back(ReportPicture{text(texts, kScoreDiagram), ScoreDiagram(game, texts).drawing()});
   addShotCharts(report, game, choice, texts);
@@ -276,29 +323,32 @@ Report playByPlayReport(const Game& game, const GameState& state, const Texts& t
   Report report = reportOf(game, state, kPlayByPlay, texts);
   ReportTable table;
   table.title = text(texts, kEvents);
+  const EventWords words(game, texts);
   table.columns = {{text(texts, kPeriod), "Period", {}, true},
                    {text(texts, kTime), "Time"},
-                   {text(texts, kScore), "Score"},
-                   {text(texts, kAction), "Event", {}, true}};
-  const EventWords words(game, texts);
+                   {std::string(words.team(0)), "Team0", {}, true},
+                   {text(texts, kScore), "Score", {}, false, false, true},
+                   {std::string(words.team(1)), "Team1", {}, true}};
   const std::vector<std::array<int, 2>> scores = runningScore(game.events);
   int period = 0;
   std::array<int, 2> before = {};
   for (std::size_t i = 0; i < game.events.size(); ++i) {
     const GameEvent& event = game.events[i];
-    if (event.isDeleted)
+    const std::string sides[] = {event.isUnderstood ? words.wordsOfSide(i, 0) : words.words(i),
+                                 words.wordsOfSide(i, 1)};
+    if (event.isDeleted || (sides[0].empty() && sides[1].empty()))
       continue;
     ReportRow& row = table.rows.emplace_back();
     const std::string score = scores[i] == before
                                   ? std::string()
                                   : std::to_string(scores[i][0]) + '-' + std::to_string(scores[i][1]);
-    row.cells = {textCell(words.periodText(event.period)), textCell(words.clock(i)), textCell(score),
-                 textCell(words.words(i))};
+    row.cells = {textCell(words.periodText(event.period)), textCell(words.clock(i)), textCell(sides[0]),
+                 textCell(score), textCell(sides[1])};
     row.beginsSection = period != 0 && event.period != period;
     period = event.period;
     before = scores[i];
   }
-  report.blocks.push_back(detailsOf(game, texts));
+  addHead(report, game, state, texts);
   report.blocks.push_back(std::move(table));
   return report;
 }

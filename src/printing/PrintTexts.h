@@ -15,6 +15,14 @@ inline constexpr int kScoreDiagram = 2207;
 inline constexpr int kShotsOf = 2208;
 inline constexpr int kManyPlayers = 2209;
 inline constexpr int kStatistic = 2210;
+inline constexpr int kNobodyTried = 2263;
+inline constexpr int kPointsFor = 2264;
+inline constexpr int kPointsAgainst = 2265;
+
+// Shown elsewhere too.
+inline constexpr int kLabelAndValue = 1801; // "XXX: YYY", each language with its own blanks
+inline constexpr int kPlayerName = 1023;
+inline constexpr int kValue = 2127;
 
 // The preview.
 inline constexpr int kZoom = 2220;

@@ -30,14 +30,16 @@ struct ReportColumn {
   std::string header;     // short, as on screen
   std::string name;       // unique in its table, for files
   std::string words = {}; // what it holds, where the header is a code
-  bool isLeftAligned = false;
+  bool isLeftAligned = false; // else at the right, as numbers
   bool isRepeated = false; // stands on every part of a table that is too wide for the page
+  bool isCentred = false;  // on paper, whatever isLeftAligned says
 };
 
 // Columns that belong together, under a title of their own; they stay on one part of a wide table.
 struct ReportColumnGroup {
   std::string title; // may be empty
   std::size_t columns = 0;
+  bool isUnused = false; // all of it 0: left out on paper, where room is dear
 };
 
 struct ReportRow {
@@ -54,11 +56,12 @@ struct ReportTable {
   std::vector<ReportColumnGroup> groups; // of all columns, in their order; or none
   std::vector<ReportRow> rows;
   bool standsBeside = false; // to the right of the block before it, where there is room
+  bool isInGrid = false;     // one of many of a kind, that stand beside each other in equal widths
   bool isSummary = false;    // one of the small tables beside what the report is about
 };
 
 struct ReportParagraph {
-  enum class Style : std::uint8_t { Heading, Body };
+  enum class Style : std::uint8_t { Heading, Body, Note };
   Style style = Style::Body;
   std::string text;
 };
@@ -102,7 +105,8 @@ struct FormSheet {
   std::string title;
   std::string hint;
   std::string sheet; // "Sheet 1 of 4"
-  std::string made;  // heads of the cells for shots
+  std::string blanks; // what is to be written by hand, behind the title
+  std::string made;   // heads of the cells for shots
   std::string missed;
   std::array<std::string, FormLayout::kPlayers> names;   // empty: to be written by hand
   std::array<std::string, FormLayout::kPlayers> jerseys; // whose digits are filled in

@@ -3,6 +3,7 @@
 #include "appearance/relabel.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace hooptab {
 
@@ -16,12 +17,16 @@ constexpr double kSideGap = 6 * kUnitsPerMillimetre;
 constexpr double kParagraphGap = 60;
 constexpr double kAcrossPage =
     230 * kUnitsPerMillimetre; // wider pages have four shot charts side by side, others two
-constexpr double kDiagramHeight = 58 * kUnitsPerMillimetre;
+constexpr double kDiagramHeight = 46 * kUnitsPerMillimetre;
 constexpr std::size_t kFewestRows = 3; // of a table at the foot of a page
 
 double pictureHeight(const ReportPicture& picture, double width) {
   return std::holds_alternative<ShotDrawing>(picture.drawing) ? width * court::kLength / court::kWidth
                                                               : kDiagramHeight;
+}
+
+double widthInGrid(double room, double across) {
+  return (room - (across - 1) * kSideGap) / across;
 }
 
 QRectF bodyOf(QSizeF size) {
@@ -46,22 +51,53 @@ ReportLayout::ReportLayout(const Report& report, const PageFormat& format) : m_r
     placeLines(m_fonts.wrapped(PageFont::Title, toQt(report.title), m_body.width()), PageFont::Title);
 }
 
-// Upright, unless a table is split into fewer parts across.
+// Upright, unless a table is split into fewer parts across, or more tables of a grid have room there.
 QPageLayout::Orientation ReportLayout::orientation(const PageFormat& format) {
   std::size_t parts[2] = {};
+  double inGrid[2] = {};
   for (const auto turn : {QPageLayout::Portrait, QPageLayout::Landscape}) {
-    const double room = bodyOf(pageSize(hooptab::pageLayout(format.paper, turn))).width();
+    const QRectF body = bodyOf(pageSize(hooptab::pageLayout(format.paper, turn)));
     for (auto& [table, layout] : m_tables)
-      parts[turn] += layout.partsIn(room);
+      parts[turn] += layout.partsIn(body.width());
+    inGrid[turn] = tablesAcross(body.width()) * body.height();
   }
-  const auto fitting = parts[1] < parts[0] ? QPageLayout::Landscape : QPageLayout::Portrait;
+  constexpr double kWorthTurning = 1.1;
+  const bool isBetterTurned =
+      parts[1] < parts[0] || (parts[1] == parts[0] && inGrid[1] > kWorthTurning * inGrid[0]);
+  const auto fitting = isBetterTurned ? QPageLayout::Landscape : QPageLayout::Portrait;
   const auto chosen = format.turn == PageTurn::AsItFits   ? fitting
                       : format.turn == PageTurn::Portrait ? QPageLayout::Portrait
                                                           : QPageLayout::Landscape;
   const double room = bodyOf(pageSize(hooptab::pageLayout(format.paper, chosen))).width();
+  const double gridWidth = std::min(widestInGrid(), widthInGrid(room, tablesAcross(room)));
   for (auto& [table, layout] : m_tables)
-    layout.fit(room);
+    table->isInGrid ? layout.fill(gridWidth) : layout.fit(room);
   return chosen;
+}
+
+double ReportLayout::widestInGrid() const {
+  double widest = 0;
+  for (const auto& [table, layout] : m_tables) {
+    if (table->isInGrid)
+      widest = std::max(widest, layout.naturalWidth());
+  }
+  return widest;
+}
+
+// As many as the widest of them allows, or one more where that takes only some width from their texts. 0
+// without any.
+double ReportLayout::tablesAcross(double room) const {
+  constexpr double kNarrower = 0.85;
+  const double widest = widestInGrid();
+  if (widest == 0)
+    return 0;
+  double least = kNarrower * widest;
+  for (const auto& [table, layout] : m_tables) {
+    if (table->isInGrid)
+      least = std::max(least, layout.leastWidth());
+  }
+  const double across = std::max(1.0, std::floor((room + kSideGap) / (widest + kSideGap)));
+  return widthInGrid(room, across + 1) >= least ? across + 1 : across;
 }
 
 void ReportLayout::finish() {
@@ -108,7 +144,9 @@ void ReportLayout::placeLines(const QStringList& lines, PageFont font) {
 
 void ReportLayout::place(const ReportParagraph& paragraph) {
   const bool isHeading = paragraph.style == ReportParagraph::Style::Heading;
-  const PageFont font = isHeading ? PageFont::Heading : PageFont::Body;
+  const PageFont font = isHeading                                           ? PageFont::Heading
+                        : paragraph.style == ReportParagraph::Style::Note ? PageFont::Cell
+                                                                          : PageFont::Body;
   constexpr int kLinesBelow = 3; // a heading does not stand alone at the foot of a page
   if (isHeading && left() < m_fonts.lineHeight(font) + kLinesBelow * m_fonts.lineHeight(PageFont::Body) &&
       !page().isEmpty())

@@ -43,6 +43,8 @@ class ReportLayout {
   };
 
   [[nodiscard]] QPageLayout::Orientation orientation(const PageFormat& format);
+  [[nodiscard]] double widestInGrid() const;
+  [[nodiscard]] double tablesAcross(double room) const; // of those in a grid
   void place(const ReportParagraph& paragraph);
   void place(const ReportTable& table);
   void place(const ReportPicture& picture);

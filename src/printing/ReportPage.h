@@ -16,7 +16,7 @@
 
 namespace hooptab {
 
-enum class PageFont { Title, Heading, Body, Cell, BoldCell };
+enum class PageFont { Title, Heading, Body, BoldBody, Cell, BoldCell };
 
 // The fonts of a page, their sizes in units, and the widths of texts in them.
 class PageFonts {

@@ -188,7 +188,8 @@ void paintPage(QPainter& painter, const ReportLayout& layout, std::size_t page) 
     paintDrawing(painter, *picture.picture, picture.box, fonts);
   painter.setPen(Qt::black);
   for (const PageFont font :
-       {PageFont::Title, PageFont::Heading, PageFont::Body, PageFont::Cell, PageFont::BoldCell}) {
+       {PageFont::Title, PageFont::Heading, PageFont::Body, PageFont::BoldBody, PageFont::Cell,
+        PageFont::BoldCell}) {
     painter.setFont(fonts.font(font)); // once each: changing it is dear
     for (const PageText& text : content.texts) {
       if (text.font == font)

@@ -1,10 +1,14 @@
 #include "printing/SeasonReports.h"
 
 #include "printing/PrintTexts.h"
+#include "printing/ReportWords.h"
+#include "scorecard/ScorecardTexts.h"
 #include "season/GameColumns.h"
 #include "season/Leaders.h"
 #include "season/Records.h"
 #include "season/SeasonColumns.h"
+#include "season/SeasonShots.h"
+#include "season/SeasonWords.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -15,6 +19,7 @@ namespace hooptab {
 namespace {
 
 constexpr int kTeam = 1305;
+constexpr int kRating = 2145;
 constexpr int kGames = 1181;
 constexpr int kTeamStatistics = 1363;
 constexpr int kPersonalRecords = 1405;
@@ -22,9 +27,11 @@ constexpr int kLineRecords = 1412;
 constexpr int kPlayerPerformance = 1413;
 constexpr int kLinePerformance = 1414;
 constexpr int kResultsByGame = 1415;
-constexpr int kPlayerName = 1023;
 constexpr int kWinLossTie[] = {1195, 1196, 1197};
 constexpr int kShortTime = 2057;
+constexpr int kSeasonShots = 2138;
+constexpr int kGamesPlayed = 2144;
+constexpr int kViewTitles[] = {1070, 1177, 1179}; // by SeasonView
 
 constexpr SeasonReportName kReports[] = {
     {SeasonReport::TeamSummary, "StLISTGAMES", 1421, "team-summary"},
@@ -55,12 +62,16 @@ bool isOfShots(int column) {
          (name.size() == 3 && name.ends_with('A'));
 }
 
-// The group of a column of shots: its kind. The bare "%" and "PTS" are those of all shots.
-std::string groupOf(int column, const Texts& texts) {
+// The kind of a column of shots, empty for any other. The bare "%" and "PTS" are those of all shots.
+std::string_view kindOf(int column) {
   if (column > kLastCountColumn || column < kFirstCountColumn || !isOfShots(column))
     return {};
   const std::string_view name = seasonColumn(column).name;
-  const std::string_view kind = name == "%" || name == "PTS" ? "TG" : name.substr(0, 2);
+  return name == "%" || name == "PTS" ? "TG" : name.substr(0, 2);
+}
+
+// The title over the columns of a kind.
+std::string titleOfKind(std::string_view kind, const Texts& texts) {
   for (const auto& [prefix, title] : kShotGroups) {
     if (prefix == kind)
       return text(texts, title);
@@ -88,8 +99,10 @@ ReportCell cellOf(const SeasonRow& row, int column, SeasonView view, const Texts
 
 class SeasonReportMaker {
  public:
-  SeasonReportMaker(const SeasonStatistics& statistics, const SeasonReportChoice& choice, const Texts& texts)
-      : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_choice(choice), m_texts(texts) {}
+  SeasonReportMaker(const SeasonStatistics& statistics, const SeasonReportChoice& choice,
+                    const Settings& settings, const Texts& texts)
+      : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_choice(choice), m_settings(settings),
+        m_texts(texts) {}
 
   Report make(SeasonReport which) {
     const auto* name = std::ranges::find(kReports, which, &SeasonReportName::report);
@@ -120,8 +133,11 @@ class SeasonReportMaker {
  private:
   // "LYNX-AAA, 34 Games, 2026-10-02 – 2027-03-14".
   std::string subject() const {
-    std::string words = m_choice.team ? m_catalogue.teams()[*m_choice.team].key : text(m_texts, 1045);
-    words += ", " + text(m_texts, kGames) + ": " + std::to_string(m_statistics.games().size());
+    const std::string whose = m_choice.team ? m_catalogue.teams()[*m_choice.team].key : text(m_texts, 1045);
+    return whose + ", " + selection();
+  }
+  std::string selection() const {
+    std::string words = labelled(kGames, std::to_string(m_statistics.games().size()), m_texts);
     std::string first;
     std::string last;
     for (const std::size_t place : m_statistics.games()) {
@@ -168,20 +184,28 @@ class SeasonReportMaker {
     ReportTable table;
     table.columns = std::move(begin);
     table.groups.push_back({"", table.columns.size()});
-    std::string open;
+    std::string_view open;
     for (const int index : columns) {
       const SeasonColumn& column = seasonColumn(index);
       table.columns.push_back({seasonHeader(index, SeasonTable::Players, m_texts),
-                               std::string(column.name),
-                               {},
+                               std::string(column.name), seasonColumnWords(index, m_settings, m_texts),
                                seasonColumnIsText(index)});
-      const std::string group = groupOf(index, m_texts);
-      if (group != open)
-        table.groups.push_back({group, 0});
+      const std::string_view kind = kindOf(index);
+      if (kind != open || table.groups.size() == 1)
+        table.groups.push_back({titleOfKind(kind, m_texts), 0, !isTried(kind)});
       ++table.groups.back().columns;
-      open = group;
+      open = kind;
     }
     return table;
+  }
+  // Whether anybody of the season tried such a shot, so that all its tables have the same columns.
+  bool isTried(std::string_view kind) const {
+    return kind.empty() || std::ranges::any_of(m_statistics.teams(), [&](const SeasonTeamRow& team) {
+             SeasonRow sums;
+             sums.numbers = team.numbers;
+             return seasonValue(sums, seasonColumn(std::string(kind) + 'A').index, SeasonView::Totals)
+                        .numerator > 0;
+           });
   }
   static std::vector<int> columnsOf(bool ofShots) {
     std::vector<int> columns = {kTimeColumn, kGamesColumn};
@@ -199,14 +223,15 @@ class SeasonReportMaker {
     std::vector<ReportColumn> begin = {repeated(text(m_texts, kTeam), "Team")};
     for (std::size_t i = 0; i < 3; ++i)
       begin.push_back({text(m_texts, kWinLossTie[i]), std::string(1, "WLT"[i])});
-    begin.push_back({"+", "PointsFor"});
-    begin.push_back({"-", "PointsAgainst"});
+    begin.push_back({"+", "PointsFor", text(m_texts, kPointsFor)});
+    begin.push_back({"-", "PointsAgainst", text(m_texts, kPointsAgainst)});
     std::vector<int> columns = {kGamesColumn};
     for (int column = kFirstCountColumn; column <= kLastCountColumn; ++column)
       columns.push_back(column);
+    const ReportTable empty = tableOf(begin, columns);
     for (const SeasonView view : {SeasonView::Totals, SeasonView::PerGame}) {
-      ReportTable table = tableOf(begin, columns);
-      table.title = titleOf(text(m_texts, kTeamStatistics), view);
+      ReportTable table = empty;
+      table.title = text(m_texts, kTeamStatistics) + " – " + titleOf(view);
       for (const SeasonTeamRow& team : m_statistics.teams()) {
         SeasonRow sums; // a team's sums, as a row of the season tables
         sums.games = team.games;
@@ -223,25 +248,26 @@ class SeasonReportMaker {
       }
       m_report.blocks.push_back(std::move(table));
     }
+    addNotes(m_report, empty, m_texts);
   }
 
-  std::string titleOf(const std::string& title, SeasonView view) const {
-    constexpr int kViews[] = {0, 1177, 1179};
-    const int number = kViews[static_cast<std::size_t>(view)];
-    return number == 0 ? title : title + " – " + text(m_texts, number);
+  std::string titleOf(SeasonView view) const {
+    return text(m_texts, kViewTitles[static_cast<std::size_t>(view)]);
   }
 
   void addRows(SeasonTable which, bool ofShots) {
     const auto rows = which == SeasonTable::Players ? m_statistics.players() : m_statistics.lines();
+    const ReportTable empty = rowTable(which, ofShots);
     for (const SeasonView view : kSeasonViews) {
-      ReportTable table = rowTable(which, ofShots);
-      table.title = titleOf(m_report.title, view);
+      ReportTable table = empty;
+      table.title = titleOf(view);
       for (const SeasonRow& row : rows)
         table.rows.push_back(reportRow(row, ofShots, view));
       m_report.blocks.push_back(std::move(table));
     }
     if (std::ranges::any_of(rows, &SeasonRow::isShort))
-      m_report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, text(m_texts, kShortTime)});
+      m_report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Note, text(m_texts, kShortTime)});
+    addNotes(m_report, empty, m_texts);
   }
   ReportTable rowTable(SeasonTable which, bool ofShots) const {
     std::vector<ReportColumn> begin = {repeated("No", "No"),
@@ -272,10 +298,10 @@ class SeasonReportMaker {
         continue;
       ReportTable table;
       const SeasonColumn& column = seasonColumn(statistic.column);
-      const std::string group = groupOf(statistic.column, m_texts);
       const std::string header = seasonHeader(statistic.column, SeasonTable::Players, m_texts);
-      table.title = group.empty() ? header : group + " – " + header;
+      table.title = wordsOf(statistic.column);
       table.standsBeside = !m_report.blocks.empty();
+      table.isInGrid = true;
       table.columns = {
           {"#", "Rank"}, repeated(text(m_texts, kPlayerName), "Name"), {header, std::string(column.name)}};
       if (!m_choice.team)
@@ -301,23 +327,29 @@ class SeasonReportMaker {
         std::ranges::find_if(rows, [&](const SeasonRow& each) { return m_choice.chosen == each.id; });
     if (row == rows.end())
       return;
-    m_report.subject =
-        m_catalogue.teams()[row->team].key + ' ' + row->number + ' ' + row->name + ", " + subject();
+    const std::string name = isPlayer ? row->number + ' ' + row->name : row->name;
+    m_report.subject = m_catalogue.teams()[row->team].key + ' ' + name + ", " + selection();
+    m_report.blocks.push_back(ReportParagraph{
+        ReportParagraph::Style::Heading,
+        name + " – " + m_catalogue.teams()[row->team].key + ", " +
+            Module1::withPlaceholder(text(m_texts, kGamesPlayed), std::to_string(row->games))});
     const std::vector<GameResult> results =
         isPlayer ? m_statistics.resultsOfPlayer(row->id) : m_statistics.resultsOfLine(row->id);
     addSums(*row, isPlayer);
     addRecords(results, isPlayer);
+    if (isPlayer)
+      addShots(shotsOfPlayer(m_catalogue, results, row->id));
     addResults(results);
   }
 
   void addSums(const SeasonRow& row, bool isPlayer) {
     for (const bool ofShots : {true, false}) {
       ReportTable table = tableOf({repeated("", "View")}, columnsOf(ofShots));
+      table.standsBeside = !ofShots;
       table.title = text(m_texts, isPlayer ? (ofShots ? 1423 : 1425) : (ofShots ? 1424 : 1426));
       for (const SeasonView view : kSeasonViews) {
-        constexpr int kViews[] = {1070, 1177, 1179};
         ReportRow& line = table.rows.emplace_back();
-        line.cells.push_back(textCell(text(m_texts, kViews[static_cast<std::size_t>(view)])));
+        line.cells.push_back(textCell(titleOf(view)));
         for (const int column : columnsOf(ofShots))
           line.cells.push_back(cellOf(row, column, view, m_texts));
       }
@@ -331,8 +363,9 @@ class SeasonReportMaker {
       records.add(m_catalogue, result, m_texts);
     ReportTable table;
     table.title = text(m_texts, isPlayer ? kPersonalRecords : kLineRecords);
-    table.columns = {repeated(text(m_texts, kStatistic), "Statistic"),
-                     {"#", "Value"},
+    table.columns = {repeated("", "Code"),
+                     {text(m_texts, kStatistic), "Statistic", {}, true},
+                     {text(m_texts, kValue), "Value"},
                      {text(m_texts, 1304), "Where", {}, true}};
     for (const Record& record : records.records()) {
       const bool isTime = record.column == kTimeColumn;
@@ -340,9 +373,28 @@ class SeasonReportMaker {
           record.value == 0 ? textCell({})
           : isTime ? ReportCell{record.text(), ReportCell::Kind::Time, static_cast<double>(record.value)}
                    : ReportCell{record.text(), ReportCell::Kind::Number, static_cast<double>(record.value)};
-      table.rows.push_back({{textCell(std::string(record.what)), std::move(value), textCell(record.where)}});
+      table.rows.push_back({{textCell(std::string(record.what)), textCell(wordsOf(record.column)),
+                             std::move(value), textCell(record.where)}});
     }
     m_report.blocks.push_back(std::move(table));
+  }
+  // A column in words, short enough for a title.
+  std::string wordsOf(int column) const {
+    if (seasonColumn(column).name == "rating") // whose words are its formula
+      return text(m_texts, kRating);
+    const std::string_view name = seasonColumn(column).name;
+    if (!kindOf(column).empty() && (name.ends_with('M') || name.ends_with('A')))
+      return m_texts.withPlaceholder(name.ends_with('M') ? kMadeOf : kAttemptsOf,
+                                     titleOfKind(kindOf(column), m_texts));
+    return capitalised(seasonColumnWords(column, m_settings, m_texts));
+  }
+
+  // Beside the records, where there is room.
+  void addShots(const ShotSums& shots) {
+    std::vector<ZoneWords> zones = zoneWords(shots);
+    if (!zones.empty())
+      m_report.blocks.push_back(
+          ReportPicture{text(m_texts, kSeasonShots), ShotDrawing{{}, std::move(zones)}, {}, true});
   }
 
   void addResults(const std::vector<GameResult>& results) {
@@ -365,12 +417,14 @@ class SeasonReportMaker {
       for (const int column : columns)
         line.cells.push_back(cellOf(row, column, SeasonView::Totals, m_texts));
     }
-    m_report.blocks.push_back(std::move(table));
+    const ReportTable& placed = std::get<ReportTable>(m_report.blocks.emplace_back(std::move(table)));
+    addNotes(m_report, ReportTable(placed), m_texts);
   }
 
   const SeasonStatistics& m_statistics;
   const GameCatalogue& m_catalogue;
   const SeasonReportChoice& m_choice;
+  const Settings& m_settings;
   const Texts& m_texts;
   Report m_report;
 };
@@ -382,8 +436,8 @@ std::span<const SeasonReportName> seasonReports() {
 }
 
 Report seasonReport(SeasonReport which, const SeasonStatistics& statistics, const SeasonReportChoice& choice,
-                    const Texts& texts) {
-  return SeasonReportMaker(statistics, choice, texts).make(which);
+                    const Settings& settings, const Texts& texts) {
+  return SeasonReportMaker(statistics, choice, settings, texts).make(which);
 }
 
 } // namespace hooptab

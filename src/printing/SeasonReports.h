@@ -4,6 +4,7 @@
 
 #include "printing/Report.h"
 #include "season/SeasonStatistics.h"
+#include "storage/Settings.h"
 #include "storage/Texts.h"
 
 #include <cstdint>
@@ -44,6 +45,7 @@ struct SeasonReportChoice {
 
 // A performance report without a chosen row that played is one of nobody: it holds no tables.
 [[nodiscard]] Report seasonReport(SeasonReport which, const SeasonStatistics& statistics,
-                                  const SeasonReportChoice& choice, const Texts& texts);
+                                  const SeasonReportChoice& choice, const Settings& settings,
+                                  const Texts& texts);
 
 } // namespace hooptab

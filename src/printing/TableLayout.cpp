@@ -21,7 +21,7 @@ constexpr double kHighlight = 0.85;
 // A name of sixty letters takes two lines rather than half of the page.
 constexpr double kLongestRepeated = 58 * kUnitsPerMillimetre;
 constexpr double kLongestText = 150 * kUnitsPerMillimetre;
-constexpr double kShortestText = 38 * kUnitsPerMillimetre; // when a table has to shrink
+constexpr double kShortestText = 28 * kUnitsPerMillimetre; // when a table has to shrink
 
 } // namespace
 
@@ -33,7 +33,14 @@ TableLayout::TableLayout(const ReportTable& table, const PageFonts& fonts) : m_t
 void TableLayout::measure() {
   m_natural.assign(m_table.columns.size(), 0);
   for (std::size_t i = 0; i < m_table.columns.size(); ++i) {
-    for (const QString& word : toQt(m_table.columns[i].header).split(u' '))
+    const QString header = toQt(m_table.columns[i].header);
+    const double whole = m_fonts.width(PageFont::BoldCell, header);
+    // Over texts a head stands in one line, as they do; over numbers it would take room for nothing.
+    if (m_table.columns[i].isLeftAligned && whole <= kShortestText) {
+      m_natural[i] = whole;
+      continue;
+    }
+    for (const QString& word : header.split(u' '))
       m_natural[i] = std::max(m_natural[i], m_fonts.width(PageFont::BoldCell, word));
   }
   for (const ReportRow& row : m_table.rows) {
@@ -43,6 +50,15 @@ void TableLayout::measure() {
   for (std::size_t i = 0; i < m_natural.size(); ++i)
     m_natural[i] = std::min(m_natural[i], m_table.columns[i].isRepeated ? kLongestRepeated : kLongestText) +
                    2 * kPadding;
+  m_isShown.assign(m_natural.size(), true);
+  std::size_t column = 0;
+  for (const ReportColumnGroup& group : m_table.groups) {
+    for (std::size_t i = 0; i < group.columns; ++i, ++column) {
+      m_isShown[column] = !group.isUnused;
+      if (group.isUnused)
+        m_natural[column] = 0;
+    }
+  }
 }
 
 // A group is at least as wide as its title.
@@ -54,7 +70,7 @@ void TableLayout::widenForTitles() {
     const auto begin = m_natural.begin() + static_cast<std::ptrdiff_t>(first);
     const double width = std::accumulate(begin, begin + static_cast<std::ptrdiff_t>(group.columns), 0.0);
     const double wanted = m_fonts.width(PageFont::BoldCell, toQt(group.title)) + 2 * kPadding;
-    for (std::size_t i = 0; i < group.columns && wanted > width; ++i)
+    for (std::size_t i = 0; i < group.columns && wanted > width && !group.isUnused; ++i)
       m_natural[first + i] += (wanted - width) / static_cast<double>(group.columns);
     first += group.columns;
   }
@@ -64,7 +80,7 @@ std::vector<TableLayout::Unit> TableLayout::units() const {
   std::vector<Unit> units;
   std::size_t column = 0;
   for (const ReportColumnGroup& group : m_table.groups) {
-    if (!group.title.empty())
+    if (!group.title.empty() && !group.isUnused)
       units.push_back({column, group.columns});
     for (std::size_t i = 0; group.title.empty() && i < group.columns; ++i)
       units.push_back({column + i, 1});
@@ -75,23 +91,16 @@ std::vector<TableLayout::Unit> TableLayout::units() const {
   return units;
 }
 
-// Long texts take more lines where that spares splitting the table.
-bool TableLayout::shrinkInto(double room) {
-  double excess = std::accumulate(m_widths.begin(), m_widths.end(), 0.0) - room;
-  double spare = 0;
-  for (std::size_t i = 0; i < m_widths.size(); ++i) {
-    if (m_table.columns[i].isLeftAligned)
-      spare += std::max(0.0, m_widths[i] - kShortestText);
-  }
-  if (excess <= 0)
-    return true;
-  if (spare < excess)
-    return false;
-  for (std::size_t i = 0; i < m_widths.size(); ++i) {
-    if (m_table.columns[i].isLeftAligned && m_widths[i] > kShortestText)
-      m_widths[i] -= (m_widths[i] - kShortestText) * excess / spare;
-  }
-  return true;
+// How much narrower columns of texts can become.
+double TableLayout::spareOf(std::size_t column) const {
+  return m_table.columns[column].isLeftAligned ? std::max(0.0, m_natural[column] - kShortestText) : 0;
+}
+
+// Texts give that part of what they can: 0 none, 1 all.
+void TableLayout::shrink(double part) {
+  m_widths = m_natural;
+  for (std::size_t i = 0; i < m_widths.size(); ++i)
+    m_widths[i] -= part * spareOf(i);
 }
 
 std::size_t TableLayout::partsIn(double room) {
@@ -104,16 +113,54 @@ void TableLayout::fit(double room) {
   measureParts(room);
 }
 
+void TableLayout::fill(double room) {
+  split(room);
+  const auto name = std::ranges::find(m_table.columns, true, &ReportColumn::isRepeated);
+  if (m_parts.size() == 1 && m_parts[0].width < room && name != m_table.columns.end()) {
+    m_widths[static_cast<std::size_t>(name - m_table.columns.begin())] += room - m_parts[0].width;
+    m_parts[0].width = room;
+  }
+  measureParts(room);
+}
+
+double TableLayout::naturalWidth() const {
+  return std::accumulate(m_natural.begin(), m_natural.end(), 0.0);
+}
+
+double TableLayout::leastWidth() const {
+  double width = naturalWidth();
+  for (std::size_t i = 0; i < m_natural.size(); ++i)
+    width -= spareOf(i);
+  return width;
+}
+
+// Long texts take more lines where that spares a part of the table, and no more than that takes.
 void TableLayout::split(double room) {
-  m_widths = m_natural;
-  m_parts.clear();
-  if (shrinkInto(room)) {
-    Part& whole = m_parts.emplace_back();
-    whole.columns.resize(m_widths.size());
-    std::iota(whole.columns.begin(), whole.columns.end(), 0U);
-    whole.width = std::accumulate(m_widths.begin(), m_widths.end(), 0.0);
+  const double natural = naturalWidth();
+  if (const double least = leastWidth(); least <= room) {
+    shrink(natural > room ? (natural - room) / (natural - least) : 0);
+    m_parts.assign(1, {});
+    for (std::size_t i = 0; i < m_widths.size(); ++i) {
+      if (m_isShown[i])
+        m_parts[0].columns.push_back(i);
+    }
+    m_parts[0].width = std::min(natural, room);
     return;
   }
+  constexpr int kSteps = 8;
+  splitShrunk(room, 1);
+  const std::size_t fewest = m_parts.size();
+  for (int step = 0; step < kSteps; ++step) {
+    splitShrunk(room, static_cast<double>(step) / kSteps);
+    if (m_parts.size() == fewest)
+      return;
+  }
+  splitShrunk(room, 1);
+}
+
+void TableLayout::splitShrunk(double room, double shrunk) {
+  shrink(shrunk);
+  m_parts.clear();
   Part repeated;
   for (std::size_t i = 0; i < m_widths.size(); ++i) {
     if (m_table.columns[i].isRepeated) {
@@ -154,9 +201,15 @@ std::size_t TableLayout::linesOf(PageFont font, const QString& text, std::size_t
   return static_cast<std::size_t>(m_fonts.wrapped(font, text, room).size());
 }
 
-bool TableLayout::hasGroupTitles() const {
-  return std::ranges::any_of(m_table.groups,
-                             [](const ReportColumnGroup& group) { return !group.title.empty(); });
+bool TableLayout::hasGroupTitles(const Part& part) const {
+  std::size_t end = 0; // of the group's columns
+  for (const ReportColumnGroup& group : m_table.groups) {
+    end += group.columns;
+    const auto isIn = [&](std::size_t column) { return column >= end - group.columns && column < end; };
+    if (!group.title.empty() && std::ranges::any_of(part.columns, isIn))
+      return true;
+  }
+  return false;
 }
 
 void TableLayout::measureParts(double room) {
@@ -166,7 +219,7 @@ void TableLayout::measureParts(double room) {
     if (m_parts.size() > 1)
       title += QStringLiteral("  (%1/%2)").arg(i + 1).arg(m_parts.size());
     if (!title.isEmpty())
-      part.title = m_fonts.wrapped(PageFont::Heading, title, room);
+      part.title = m_fonts.wrapped(titleFont(), title, room);
     part.rowHeights.reserve(m_table.rows.size());
     for (const ReportRow& row : m_table.rows) {
       std::size_t lines = 1;
@@ -178,16 +231,21 @@ void TableLayout::measureParts(double room) {
   }
 }
 
+// Small tables have small titles.
+PageFont TableLayout::titleFont() const {
+  return m_table.isInGrid ? PageFont::BoldBody : PageFont::Heading;
+}
+
 double TableLayout::titleHeight(const Part& part) const {
   return part.title.isEmpty()
              ? 0
-             : static_cast<double>(part.title.size()) * m_fonts.lineHeight(PageFont::Heading) + kTitleAir;
+             : static_cast<double>(part.title.size()) * m_fonts.lineHeight(titleFont()) + kTitleAir;
 }
 
 double TableLayout::width(const Part& part) const {
   double widest = part.width;
   for (const QString& line : part.title)
-    widest = std::max(widest, m_fonts.width(PageFont::Heading, line));
+    widest = std::max(widest, m_fonts.width(titleFont(), line));
   return widest;
 }
 
@@ -195,15 +253,14 @@ double TableLayout::headHeight(const Part& part) const {
   std::size_t lines = 1;
   for (const std::size_t column : part.columns)
     lines = std::max(lines, linesOf(PageFont::BoldCell, toQt(m_table.columns[column].header), column));
-  const double titles = hasGroupTitles() ? m_fonts.lineHeight(PageFont::BoldCell) + kGroupGap : 0;
+  const double titles = hasGroupTitles(part) ? m_fonts.lineHeight(PageFont::BoldCell) + kGroupGap : 0;
   return titles + static_cast<double>(lines) * m_fonts.lineHeight(PageFont::BoldCell) + 2 * kRowAir;
 }
 
 void TableLayout::placeTitle(ReportPage& page, const Part& part, QPointF at) const {
-  const double height = m_fonts.lineHeight(PageFont::Heading);
+  const double height = m_fonts.lineHeight(titleFont());
   for (const QString& line : part.title) {
-    page.texts.push_back(
-        {QRectF(at, QSizeF(m_fonts.width(PageFont::Heading, line), height)), line, PageFont::Heading});
+    page.texts.push_back({QRectF(at, QSizeF(m_fonts.width(titleFont(), line), height)), line, titleFont()});
     at.ry() += height;
   }
 }
@@ -217,8 +274,9 @@ void TableLayout::placeCell(ReportPage& page, PageFont font, const QString& text
   double y = at.y();
   for (const QString& line : isOneLine ? QStringList{text} : m_fonts.wrapped(font, text, room)) {
     const double width = m_fonts.width(font, line);
-    const double x = m_table.columns[column].isLeftAligned ? at.x() + kPadding
-                                                           : at.x() + m_widths[column] - kPadding - width;
+    const ReportColumn& each = m_table.columns[column];
+    const double spare = room - width;
+    const double x = at.x() + kPadding + (each.isCentred ? spare / 2 : each.isLeftAligned ? 0 : spare);
     page.texts.push_back({QRectF(x, y, width, m_fonts.lineHeight(font)), line, font});
     y += m_fonts.lineHeight(font);
   }
@@ -228,7 +286,7 @@ void TableLayout::placeHead(ReportPage& page, const Part& part, QPointF at) cons
   const double height = headHeight(part);
   const double line = m_fonts.lineHeight(PageFont::BoldCell);
   double y = at.y() + kRowAir;
-  if (hasGroupTitles()) {
+  if (hasGroupTitles(part)) {
     double x = at.x();
     std::size_t place = 0;
     std::size_t end = 0; // of the group's columns

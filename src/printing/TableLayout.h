@@ -24,6 +24,10 @@ class TableLayout {
   std::size_t partsIn(double room);
   // Splits the table for that room.
   void fit(double room);
+  // The same, the repeated columns widened where there is room left.
+  void fill(double room);
+  [[nodiscard]] double naturalWidth() const;
+  [[nodiscard]] double leastWidth() const; // in one part, with its texts in several lines
 
   const ReportTable& table() const { return m_table; }
   const std::vector<Part>& parts() const { return m_parts; }
@@ -44,19 +48,23 @@ class TableLayout {
   };
   void measure();
   void widenForTitles();
-  bool shrinkInto(double room);
+  [[nodiscard]] double spareOf(std::size_t column) const;
+  void shrink(double part);
   void split(double room);
+  void splitShrunk(double room, double shrunk);
   void measureParts(double room);
   [[nodiscard]] std::vector<Unit> units() const;
+  [[nodiscard]] PageFont titleFont() const;
   [[nodiscard]] PageFont fontOf(const ReportRow& row) const;
   void placeCell(ReportPage& page, PageFont font, const QString& text, std::size_t column, QPointF at) const;
   [[nodiscard]] std::size_t linesOf(PageFont font, const QString& text, std::size_t column) const;
-  [[nodiscard]] bool hasGroupTitles() const;
+  [[nodiscard]] bool hasGroupTitles(const Part& part) const;
 
   const ReportTable& m_table;
   const PageFonts& m_fonts;
   std::vector<double> m_natural; // widths that the texts ask for
   std::vector<double> m_widths;
+  std::vector<bool> m_isShown; // which columns stand on paper at all
   std::vector<bool> m_beginsGroup; // which columns have a line at their left
   std::vector<Part> m_parts;
 };

@@ -1,6 +1,7 @@
 #include "printing/TeamReports.h"
 
 #include "printing/PrintTexts.h"
+#include "printing/ReportWords.h"
 #include "storage/ChoiceTexts.h"
 #include "storage/Module1.h"
 
@@ -11,9 +12,8 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kPlayerNumber = 1065;
-constexpr int kPlayerName = 1023;
-constexpr int kPosition = 1707;
+constexpr int kTeam = 1305;
+constexpr int kDate = 1550;
 constexpr int kHeight = 1320;
 constexpr int kWeight = 1321;
 constexpr int kAge = 1322;
@@ -32,6 +32,8 @@ constexpr std::pair<int, std::string TeamRecord::*> kRules[] = {
     {1126, &TeamRecord::personalFoulLimit},
     {1127, &TeamRecord::technicalFoulLimit},
 };
+
+constexpr std::string_view kToWrite = "________________"; // a line for a pen
 
 std::string text(const Texts& texts, int number) {
   return std::string(texts.text(number));
@@ -68,16 +70,18 @@ FormSheet sheetOf(FormIdentifier identifier, int sheets, const std::string& titl
 
 Report rosterReport(const TeamRecord& team, const std::vector<TeamPlayer>& players, const Texts& texts) {
   Report report = reportOf(text(texts, kTeamRoster), nameOf(team), texts);
-  std::string words = std::string(Module1::trimmed(team.name));
+  if (const std::string_view name = Module1::trimmed(team.name); !name.empty())
+    report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading, std::string(name)});
+  std::string words;
   for (const auto& [label, rule] : kRules)
-    words += (words.empty() ? "" : ".  ") + text(texts, label) + ": " + team.*rule;
+    words += (words.empty() ? "" : ".  ") + labelled(label, team.*rule, texts);
   report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, std::move(words)});
 
   ReportTable table;
   table.title = texts.withPlaceholder(kPlayers, std::to_string(players.size()));
-  table.columns = {{text(texts, kPlayerNumber), "No", {}, true, true},
+  table.columns = {{"No", "No", {}, true, true},
                    {text(texts, kPlayerName), "Name", {}, true, true},
-                   {text(texts, kPosition), "Position", {}, true},
+                   {"Pos", "Position", {}, true},
                    {text(texts, kHeight), "Height", {}, true},
                    {text(texts, kWeight), "Weight", {}, true},
                    {text(texts, kAge), "Age", {}, true},
@@ -104,8 +108,10 @@ Report preparedForms(const TeamRecord& team, const std::vector<TeamPlayer>& play
       std::max(1, (static_cast<int>(able.size()) + FormLayout::kPlayers - 1) / FormLayout::kPlayers);
   const int number = FormIdentifier::teamNumber(team.abbreviation, Module1::trimmed(team.category));
   const std::string title = text(texts, kInputForm) + "  " + nameOf(team);
+  const std::string blanks = labelled(kDate, kToWrite, texts);
   for (int sheet = 0; sheet < sheets; ++sheet) {
     FormSheet page = sheetOf({sheet, true, number}, sheets, title, texts);
+    page.blanks = blanks;
     for (std::size_t place = 0; place < FormLayout::kPlayers; ++place) {
       const std::size_t player = static_cast<std::size_t>(sheet) * FormLayout::kPlayers + place;
       if (player >= able.size())
@@ -120,8 +126,13 @@ Report preparedForms(const TeamRecord& team, const std::vector<TeamPlayer>& play
 
 Report blankForms(const Texts& texts) {
   Report report = reportOf(text(texts, kBlankForms), {}, texts);
-  for (int sheet = 0; sheet < FormLayout::kSheets; ++sheet)
-    report.blocks.push_back(sheetOf({sheet, false, 0}, FormLayout::kSheets, text(texts, kInputForm), texts));
+  const std::string blanks =
+      labelled(kTeam, kToWrite, texts) + "  " + labelled(kDate, kToWrite, texts);
+  for (int sheet = 0; sheet < FormLayout::kSheets; ++sheet) {
+    FormSheet page = sheetOf({sheet, false, 0}, FormLayout::kSheets, text(texts, kInputForm), texts);
+    page.blanks = blanks;
+    report.blocks.push_back(std::move(page));
+  }
   return report;
 }
 

@@ -455,7 +455,7 @@ void MDI::printSeason(frmSTATS& window) {
   if (offer.person && canHighlight(m_seasonReport, *offer.person))
     offer.highlightsPerson = m_workshop.dialogs.ask(this, toQt(m_workshop.texts.text(kReportOption)),
                                                     toQt(m_workshop.texts.text(kHighlight)));
-  preview(seasonOffers(offer, m_seasonReport, m_workshop.texts));
+  preview(seasonOffers(offer, m_seasonReport, m_workshop.settings, m_workshop.texts));
 }
 
 void MDI::bringToFront(ChildWindow& child) {

@@ -74,7 +74,8 @@ bool canHighlight(SeasonReport report, const SeasonPerson& person) {
   return false;
 }
 
-std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first, const Texts& texts) {
+std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first, const Settings& settings,
+                                      const Texts& texts) {
   std::vector<ReportOffer> offers;
   for (const SeasonReportName& name : seasonReports()) {
     const bool isOfPerson = name.report == SeasonReport::Player || name.report == SeasonReport::Line;
@@ -83,8 +84,8 @@ std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport fir
     SeasonReportChoice choice{offer.team, std::nullopt};
     if (isOfPerson || (offer.highlightsPerson && offer.person && canHighlight(name.report, *offer.person)))
       choice.chosen = offer.person->row.id;
-    ReportOffer made = named(name.text, texts, [=, season = offer.season, report = name.report, &texts] {
-      return seasonReport(report, season->statistics(), choice, texts);
+    ReportOffer made = named(name.text, texts, [=, season = offer.season, report = name.report, &settings, &texts] {
+      return seasonReport(report, season->statistics(), choice, settings, texts);
     });
     offers.insert(name.report == first ? offers.begin() : offers.end(), std::move(made));
   }

@@ -33,7 +33,7 @@ struct SeasonOffer {
   bool highlightsPerson = false;
 };
 [[nodiscard]] std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first,
-                                                    const Texts& texts);
+                                                    const Settings& settings, const Texts& texts);
 // Whether a report is about players or lines, so that a chosen one can be told from the others there.
 [[nodiscard]] bool canHighlight(SeasonReport report, const SeasonPerson& person);
 [[nodiscard]] std::vector<ReportOffer> emptyForms(const Texts& texts);

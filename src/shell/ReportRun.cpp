@@ -103,7 +103,7 @@ class ReportRun {
       return complain(kWrongUse, m_request.player.empty()
                                      ? "--report " + m_request.kind + " needs --player or --line"
                                      : "nobody has the number " + m_request.player);
-    report = seasonReport(which, statistics, choice, m_texts);
+    report = seasonReport(which, statistics, choice, m_settings, m_texts);
     return kGood;
   }
   int makeOfGame(Report& report) {

@@ -128,23 +128,35 @@ std::string EventWords::action(const GameEvent& event) const {
   return words;
 }
 
-std::string EventWords::substitution(std::size_t eventIndex, Length length) const {
+std::string EventWords::wordsOfSide(std::size_t eventIndex, int side) const {
   const GameEvent& event = m_game.events[eventIndex];
+  if (!event.isUnderstood || event.code == EventCode::DEPART)
+    return {};
+  if (event.code == EventCode::ARRET)
+    return changesOf(eventIndex, static_cast<std::size_t>(side), Length::Whole);
+  return event.player.team == side ? sentence(m_texts, player(event.player), action(event)) : std::string();
+}
+
+std::string EventWords::changesOf(std::size_t eventIndex, std::size_t side, Length length) const {
   const GameEvent* const stop = stopBefore(m_game.events, eventIndex);
+  const Roster& roster = m_game.roster[side];
+  const bool isTeam = isTeamItself(roster);
+  const auto before = playersOfList(stop != nullptr ? stop->onCourt(side) : std::string_view(), roster);
+  const auto after = playersOfList(m_game.events[eventIndex].onCourt(side), roster);
+  const auto shown = [&](const ListedPlayer& listed) {
+    return length == Length::Short && !isTeam ? listed.jersey
+                                              : shownPlayer(listed.player, listed.jersey, isTeam, m_texts);
+  };
+  std::string changes = missingIn(before, after, kIn, m_texts, shown);
+  if (const std::string out = missingIn(after, before, kOut, m_texts, shown); !out.empty())
+    changes += (changes.empty() ? "" : "; ") + out;
+  return changes;
+}
+
+std::string EventWords::substitution(std::size_t eventIndex, Length length) const {
   std::string words;
   for (std::size_t side = 0; side < 2; ++side) {
-    const Roster& roster = m_game.roster[side];
-    const bool isTeam = isTeamItself(roster);
-    const auto before = playersOfList(stop != nullptr ? stop->onCourt(side) : std::string_view(), roster);
-    const auto after = playersOfList(event.onCourt(side), roster);
-    const auto shown = [&](const ListedPlayer& listed) {
-      return length == Length::Short && !isTeam ? listed.jersey
-                                                : shownPlayer(listed.player, listed.jersey, isTeam, m_texts);
-    };
-    std::string changes = missingIn(before, after, kIn, m_texts, shown);
-    if (const std::string out = missingIn(after, before, kOut, m_texts, shown); !out.empty())
-      changes += (changes.empty() ? "" : "; ") + out;
-    if (!changes.empty())
+    if (const std::string changes = changesOf(eventIndex, side, length); !changes.empty())
       words += " - " + sentence(m_texts, team(static_cast<int>(side)), changes);
   }
   if (words.empty() || length == Length::Short)

@@ -17,6 +17,9 @@ class EventWords {
   // Words of the event at that place of the game's list. Lines that cannot be understood are given as they
   // stand.
   [[nodiscard]] std::string words(std::size_t eventIndex) const;
+  // The same without the team, of what that side did: "12 Ann Able: 2 points made"; empty where it did
+  // nothing, as when the clock was started or stopped.
+  [[nodiscard]] std::string wordsOfSide(std::size_t eventIndex, int side) const;
   // The same where room is short: "LYNX 12 ● 2 points" for a made shot, a cross for a missed one, and no
   // names but that of a side that is its own player.
   [[nodiscard]] std::string shortWords(std::size_t eventIndex) const;
@@ -34,6 +37,7 @@ class EventWords {
   [[nodiscard]] std::string words(std::size_t eventIndex, Length length) const;
   // Empty when nobody went in or out.
   [[nodiscard]] std::string substitution(std::size_t eventIndex, Length length) const;
+  [[nodiscard]] std::string changesOf(std::size_t eventIndex, std::size_t side, Length length) const;
   [[nodiscard]] std::string action(const GameEvent& event) const;
 
   const Game& m_game;

@@ -39,6 +39,9 @@ class SeasonReportTest : public testing::Test {
   }
 
   SeasonFolder folder;
+  FileSystem files;
+  cinifile store{files};
+  Settings settings{store, "/nowhere"};
   Texts texts;
 };
 
@@ -51,7 +54,7 @@ TEST_F(SeasonReportTest, TheRowsOfPlayersAndLinesAreThoseOfTheSeason) {
         std::tuple(SeasonReport::LineShots, SeasonReport::LineOther, season.lines())}) {
     std::set<std::string> counted;
     for (const SeasonReport which : {shots, other}) {
-      const Report report = seasonReport(which, season, {}, texts);
+      const Report report = seasonReport(which, season, {}, settings, texts);
       ASSERT_EQ(tables(report).size(), 3U);
       for (const SeasonView view : kSeasonViews) {
         const ReportTable& table = *tables(report)[static_cast<std::size_t>(view)];
@@ -85,7 +88,7 @@ TEST_F(SeasonReportTest, EveryReportHasItsRowsInBothLanguages) {
       const bool isOfLine = name.report == SeasonReport::Line;
       const bool isPerformance = isOfLine || name.report == SeasonReport::Player;
       choice.chosen = isOfLine ? season.lines().front().id : season.players().front().id;
-      const Report report = seasonReport(name.report, season, choice, texts);
+      const Report report = seasonReport(name.report, season, choice, settings, texts);
       EXPECT_FALSE(tables(report).empty()) << name.word;
       EXPECT_NE(report.subject.find("2026-10-02 – 2026-10-09"), std::string::npos) << report.subject;
       for (const ReportTable* table : tables(report)) {
@@ -93,7 +96,7 @@ TEST_F(SeasonReportTest, EveryReportHasItsRowsInBothLanguages) {
         for (const ReportRow& row : table->rows)
           ASSERT_EQ(row.cells.size(), table->columns.size()) << table->title;
       }
-      EXPECT_TRUE(tables(seasonReport(name.report, season, {}, texts)).empty() == isPerformance)
+      EXPECT_TRUE(tables(seasonReport(name.report, season, {}, settings, texts)).empty() == isPerformance)
           << "a performance of nobody";
       for (const ReportFile& file : reportCsv(report))
         EXPECT_GE(parseDelimited(file.bytes).size(), 2U);
@@ -105,14 +108,14 @@ TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
   const SeasonStatistics season = folder.statistics();
   const SeasonRow* ann = rowOf(season.players(), "Ann Able");
   ASSERT_NE(ann, nullptr);
-  const Report report = seasonReport(SeasonReport::Player, season, {std::nullopt, ann->id}, texts);
+  const Report report = seasonReport(SeasonReport::Player, season, {std::nullopt, ann->id}, settings, texts);
   EXPECT_EQ(report.title, texts.text(1413));
   const ReportTable& results = *tables(report).back();
   ASSERT_EQ(results.rows.size(), 2U);
   EXPECT_EQ(cell(results, results.rows[0], "Date").text, "2026-10-02");
   EXPECT_EQ(cell(results, results.rows[1], "F2A").text, "2");
   EXPECT_DOUBLE_EQ(cell(results, results.rows[1], "F2%").value, 0.5);
-  const Report leaders = seasonReport(SeasonReport::LeadersTotal, season, {std::nullopt, ann->id}, texts);
+  const Report leaders = seasonReport(SeasonReport::LeadersTotal, season, {std::nullopt, ann->id}, settings, texts);
   const auto all = tables(leaders);
   const auto of =
       std::ranges::find(all, "PTS", [](const ReportTable* table) { return table->columns.back().name; });

@@ -1,0 +1,60 @@
+#include "printing/ReportWords.h"
+
+#include "printing/PrintTexts.h"
+#include "storage/Module1.h"
+
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::string_view kNoLabel = "---"; // of a statistic of the user's own
+
+} // namespace
+
+std::string labelled(std::string_view label, std::string_view value, const Texts& texts) {
+  const std::string_view bare = label.substr(0, label.find_last_not_of('.') + 1);
+  return Module1::withPlaceholder(Module1::withPlaceholder(texts.text(kLabelAndValue), bare), value, "YYY");
+}
+
+std::string labelled(int labelText, std::string_view value, const Texts& texts) {
+  return labelled(texts.text(labelText), value, texts);
+}
+
+std::string capitalised(std::string words) {
+  constexpr char kSmallToLarge = 'a' - 'A';
+  if (words.empty())
+    return words;
+  if (words[0] >= 'a' && words[0] <= 'z') {
+    words[0] = static_cast<char>(words[0] - kSmallToLarge);
+  } else if (words.size() > 1 && words[0] == '\xC3' && words[1] >= '\xA0' && words[1] != '\xB7') {
+    words[1] = static_cast<char>(words[1] - kSmallToLarge); // à to þ in UTF-8, but for the sign of division
+  }
+  return words;
+}
+
+void addNotes(Report& report, const ReportTable& table, const Texts& texts) {
+  std::string codes;
+  std::string untried;
+  std::size_t column = 0;
+  for (const ReportColumnGroup& group : table.groups) {
+    if (group.isUnused)
+      untried += (untried.empty() ? "" : ", ") + group.title;
+    for (std::size_t i = 0; i < group.columns; ++i, ++column) {
+      const ReportColumn& each = table.columns[column];
+      const bool isCode = group.title.empty() && !each.isLeftAligned && each.name != "Time";
+      if (isCode && !each.words.empty() && !each.words.ends_with(kNoLabel))
+        codes += (codes.empty() ? "" : ";  ") + each.header + " = " + each.words;
+    }
+  }
+  const auto add = [&](std::string words) {
+    report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Note, std::move(words)});
+  };
+  if (!codes.empty())
+    add(std::move(codes));
+  if (!untried.empty())
+    add(texts.withPlaceholder(kNobodyTried, untried));
+}
+
+} // namespace hooptab
