@@ -283,8 +283,9 @@ void addShotCharts(Report& report, const Game& game, ScorecardView choice, const
     }
     const std::string title = game.details.abbreviation[team] + " – " + text(texts, kShotChart);
     const std::string caption = shotCaption(shots, texts) + chosenRows(choice, texts);
-    report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByShot), std::move(byShot), caption,
-                                          std::exchange(hasPicture, true)});
+    const std::string signs = "●\u00A0" + text(texts, kMadeShots) + "   ✕\u00A0" + text(texts, kMissedShots);
+    report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByShot), std::move(byShot),
+                                          signs + "   " + caption, std::exchange(hasPicture, true)});
     if (auto zones = zoneWords(shotSums(shots)); !zones.empty())
       report.blocks.push_back(
           ReportPicture{title + ", " + text(texts, kByZone), ShotDrawing{{}, std::move(zones)}, caption, true});

@@ -194,11 +194,14 @@ PageFont TableLayout::fontOf(const ReportRow& row) const {
   return row.emphasis == ReportRow::Emphasis::None ? PageFont::Cell : PageFont::BoldCell;
 }
 
-std::size_t TableLayout::linesOf(PageFont font, const QString& text, std::size_t column) const {
+// Measured and placed alike: what is one line more when it is placed would stand on the next row.
+QStringList TableLayout::linesOf(PageFont font, const QString& text, std::size_t column) const {
   const double room = m_widths[column] - 2 * kPadding + 0.5;
-  if (m_fonts.width(font, text) <= room)
-    return 1;
-  return static_cast<std::size_t>(m_fonts.wrapped(font, text, room).size());
+  return m_fonts.width(font, text) <= room ? QStringList{text} : m_fonts.wrapped(font, text, room);
+}
+
+std::size_t TableLayout::countOfLines(PageFont font, const std::string& text, std::size_t column) const {
+  return static_cast<std::size_t>(linesOf(font, toQt(text), column).size());
 }
 
 bool TableLayout::hasGroupTitles(const Part& part) const {
@@ -224,7 +227,7 @@ void TableLayout::measureParts(double room) {
     for (const ReportRow& row : m_table.rows) {
       std::size_t lines = 1;
       for (const std::size_t column : part.columns)
-        lines = std::max(lines, linesOf(fontOf(row), toQt(row.cells[column].text), column));
+        lines = std::max(lines, countOfLines(fontOf(row), row.cells[column].text, column));
       part.rowHeights.push_back(static_cast<double>(lines) * m_fonts.lineHeight(PageFont::Cell) +
                                 2 * kRowAir);
     }
@@ -252,7 +255,7 @@ double TableLayout::width(const Part& part) const {
 double TableLayout::headHeight(const Part& part) const {
   std::size_t lines = 1;
   for (const std::size_t column : part.columns)
-    lines = std::max(lines, linesOf(PageFont::BoldCell, toQt(m_table.columns[column].header), column));
+    lines = std::max(lines, countOfLines(PageFont::BoldCell, m_table.columns[column].header, column));
   const double titles = hasGroupTitles(part) ? m_fonts.lineHeight(PageFont::BoldCell) + kGroupGap : 0;
   return titles + static_cast<double>(lines) * m_fonts.lineHeight(PageFont::BoldCell) + 2 * kRowAir;
 }
@@ -270,9 +273,8 @@ void TableLayout::placeCell(ReportPage& page, PageFont font, const QString& text
   if (text.isEmpty())
     return;
   const double room = m_widths[column] - 2 * kPadding;
-  const bool isOneLine = m_fonts.width(font, text) <= room + 0.5;
   double y = at.y();
-  for (const QString& line : isOneLine ? QStringList{text} : m_fonts.wrapped(font, text, room)) {
+  for (const QString& line : linesOf(font, text, column)) {
     const double width = m_fonts.width(font, line);
     const ReportColumn& each = m_table.columns[column];
     const double spare = room - width;

@@ -57,7 +57,8 @@ class TableLayout {
   [[nodiscard]] PageFont titleFont() const;
   [[nodiscard]] PageFont fontOf(const ReportRow& row) const;
   void placeCell(ReportPage& page, PageFont font, const QString& text, std::size_t column, QPointF at) const;
-  [[nodiscard]] std::size_t linesOf(PageFont font, const QString& text, std::size_t column) const;
+  [[nodiscard]] QStringList linesOf(PageFont font, const QString& text, std::size_t column) const;
+  [[nodiscard]] std::size_t countOfLines(PageFont font, const std::string& text, std::size_t column) const;
   [[nodiscard]] bool hasGroupTitles(const Part& part) const;
 
   const ReportTable& m_table;

@@ -1,4 +1,5 @@
 // Pages, files and the preview, on games as they are and on one whose every text is as long as it can be.
+#include "printing/BoxReport.h"
 #include "printing/GameReports.h"
 #include "printing/PrintTexts.h"
 #include "printing/Printers.h"
@@ -6,10 +7,14 @@
 #include "printing/ReportLayout.h"
 #include "printing/ReportOutput.h"
 #include "printing/ReportPainter.h"
+#include "printing/ReportText.h"
+#include "printing/SeasonReports.h"
 #include "printing/TeamReports.h"
 #include "printing/frmprint.h"
 
 #include "ReportGame.h"
+#include "season/SeasonColumns.h"
+#include "season/SeasonFolder.h"
 #include "appearance/relabel.h"
 #include "support/FaultyFileSystem.h"
 #include "support/ScriptedDialogs.h"
@@ -33,6 +38,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <regex>
+#include <set>
 #include <type_traits>
 
 namespace hooptab {
@@ -170,6 +176,8 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheBoxScoreSays) {
   if (game.path.empty() || isMissing("pdftotext"))
     GTEST_SKIP() << "no real game, or no pdftotext";
   const GameState state = tallied(game);
+  ScorecardView view(texts);
+  view.show(game, state);
   for (const Language language : {Language::English, Language::French}) {
     texts.setLanguage(language);
     const std::string path = folder.write("box.pdf", reportPdf(scorecard(game), kA4));
@@ -178,11 +186,22 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheBoxScoreSays) {
     EXPECT_NE(text.find(texts.text(kScorecard)), std::string::npos);
     for (int team = 0; team < 2; ++team) {
       for (const BoxRow& row : boxRows(game, state, team, BoxView::Players, texts)) {
-        // The row stands in two parts; the numbers of both follow each other in the order of the columns.
+        // The row may stand in parts; their numbers follow each other in the order of the columns. Kinds of
+        // shots that nobody tried are left out.
+        const ReportTable table = boxTable(game, state, team, view, settings, texts);
+        std::set<std::string> untried;
+        std::size_t first = 0;
+        for (const ReportColumnGroup& group : table.groups) {
+          for (std::size_t i = first; group.isUnused && i < first + group.columns; ++i)
+            untried.insert(table.columns[i].name);
+          first += group.columns;
+        }
         std::string cells;
         for (const int column : boxDisplayOrder()) {
           const std::string_view name = boxColumns()[static_cast<std::size_t>(column - 1)].name;
-          if (column != kTimeSortColumn && name != "No" && name != "Name")
+          if (untried.contains(std::string(name))) {
+            EXPECT_TRUE(boxCell(row, column) == "0" || boxCell(row, column) == "0.0%") << name;
+          } else if (column != kTimeSortColumn && name != "No" && name != "Name")
             cells += (cells.empty() ? "" : " ") + boxCell(row, column);
         }
         std::string printed;
@@ -198,6 +217,82 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheBoxScoreSays) {
       }
     }
   }
+}
+
+// The tables of a season stand one below the other, each in parts: all numbers of a row follow each other.
+TEST_F(ReportPagesTest, ThePdfSaysWhatTheTablesOfTheSeasonSay) {
+  if (isMissing("pdftotext"))
+    GTEST_SKIP() << "no pdftotext";
+  SeasonFolder games;
+  const std::string kinds = "2=09:00,GFG,0-4,40,50\n3=08:00,GF3,0-5,100,90\n4=07:00,GLG,1-3\n5=06:50,GLD,1-3\n"
+                            "6=06:40,GPBA,1-7\n7=06:30,GDK,0-10\n8=06:20,GFT,0-4\n9=06:10,SDR,1-8\n";
+  for (const char* day : {"2026-10-02", "2026-10-09", "2026-10-16"})
+    games.addGame(std::string(day) + ".GAM", day,
+                  "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n" + kinds + "10=00:00,ARRET,IN-,IN-\n");
+  const SeasonStatistics season = games.statistics();
+  for (const Language language : {Language::English, Language::French}) {
+    texts.setLanguage(language);
+    for (const SeasonReport which : {SeasonReport::PlayerShots, SeasonReport::PlayerOther}) {
+      const Report report = seasonReport(which, season, {}, settings, texts);
+      const std::string path = folder.write("season.pdf", reportPdf(report, kA4));
+      const std::string text =
+          output("pdftotext", {QStringLiteral("-layout"), toQt(path), QStringLiteral("-")});
+      for (const SeasonRow& row : season.players()) {
+        std::string cells;
+        for (const SeasonView table : kSeasonViews) {
+          for (const ReportColumn& column : std::get<ReportTable>(report.blocks.front()).columns) {
+            if (!column.isRepeated)
+              cells += ' ' + seasonCell(row, seasonColumn(column.name).index, table, texts);
+          }
+        }
+        std::string printed;
+        for (std::size_t at = text.find(row.name); at != std::string::npos; at = text.find(row.name, at + 1)) {
+          const std::size_t end = at + row.name.size();
+          printed += std::regex_replace(text.substr(end, text.find('\n', end) - end), std::regex(" +"), " ");
+        }
+        EXPECT_EQ(printed, cells) << row.name;
+      }
+    }
+  }
+}
+
+// Names of sixty letters take more lines rather than one more part of the table; what nobody tried takes no
+// room, but stands in files; and leaders stand below each other.
+TEST_F(ReportPagesTest, ReportsTakeNoMoreRoomThanTheyNeed) {
+  const auto textsOf = [](const Report& report) {
+    ReportLayout layout(report, kA4);
+    layout.finish();
+    std::vector<PageText> found;
+    for (const ReportPage& page : layout.pages())
+      found.insert(found.end(), page.texts.begin(), page.texts.end());
+    return found;
+  };
+  const auto holds = [](const std::vector<PageText>& page, const char* words) {
+    return std::ranges::any_of(page, [&](const PageText& text) { return text.text.contains(toQt(words)); });
+  };
+  const std::vector<PageText> crowded = textsOf(scorecard(crowdedGame()));
+  EXPECT_TRUE(holds(crowded, "(2/2)"));
+  EXPECT_FALSE(holds(crowded, "/3)"));
+
+  const Report few = scorecard(gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=08:00,GDKA,1-3\n")));
+  const std::vector<PageText> page = textsOf(few);
+  EXPECT_TRUE(holds(page, "FGM"));
+  EXPECT_TRUE(holds(page, "DKM")) << "one that was missed was tried";
+  EXPECT_FALSE(holds(page, "LLM"));
+  EXPECT_NE(reportCsv(few).front().bytes.find("LLM"), std::string::npos);
+
+  SeasonFolder games;
+  games.addGame("a.GAM", "2026-10-02",
+                "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40,50\n3=08:00,GF3,0-5\n"
+                "4=07:00,SPF,1-3\n5=06:00,STO,1-3\n6=05:00,SA,1-3\n7=00:00,ARRET,IN-,IN-\n");
+  std::set<int> edges;
+  for (const PageText& text :
+       textsOf(seasonReport(SeasonReport::LeadersTotal, games.statistics(), {}, settings, texts))) {
+    if (text.font == PageFont::BoldBody)
+      edges.insert(static_cast<int>(text.box.left()));
+  }
+  EXPECT_GE(edges.size(), 3U);
+  EXPECT_LE(edges.size(), 5U);
 }
 
 TEST_F(ReportPagesTest, AScorecardIsAPdfInLessThanThreeTenthsOfASecond) {

@@ -159,14 +159,47 @@ TEST_F(ReportTextTest, TheChartShowsTheCheckedPlayersOnly) {
 
 TEST_F(ReportTextTest, ThePlayByPlayLeavesOutWhatIsDeletedAndEndsWithTheScore) {
   const Game game = gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=E08:00,GF3,1-3,40,50\n"
-                                          "3=what is this\n[PERIODE2]\n4=05:00,GFT,1-3\n"));
+                                          "3=what is this\n[PERIODE2]\n4=05:00,GFT,1-3\n"
+                                          "5=04:00,DEPART\n6=04:00,ARRET,IN-04,IN-03\n"));
   const Report report = playByPlayReport(game, tallied(game), texts);
   const ReportTable& table = *tables(report).front();
-  ASSERT_EQ(table.rows.size(), 3U);
-  EXPECT_EQ(table.rows[0].cells[2].text, "2-0");
-  EXPECT_EQ(table.rows[2].cells[2].text, "2-1");
+  ASSERT_EQ(table.rows.size(), 4U);
+  const auto cells = [&](std::size_t row) {
+    std::vector<std::string> words;
+    for (const ReportCell& cell : table.rows[row].cells)
+      words.push_back(cell.text);
+    return words;
+  };
+  using Words = std::vector<std::string>;
+  EXPECT_EQ(cells(0), (Words{"1", "09:00", "4 Ann Able: 2 points made", "2-0", ""}));
+  EXPECT_NE(table.rows[1].cells[2].text.find("what is this"), std::string::npos);
+  EXPECT_EQ(cells(2), (Words{"2", "05:00", "", "2-1", "3 Hana Hart: free throw made"}));
+  EXPECT_EQ(cells(3), (Words{"2", "04:00", "in 4 Ann Able", "", "in 3 Hana Hart"})) << "a start tells nothing";
   EXPECT_TRUE(table.rows[2].beginsSection);
-  EXPECT_NE(table.rows[1].cells[3].text.find("what is this"), std::string::npos);
+}
+
+// What a report says in French has a blank before each colon, and the codes of columns are told in words.
+TEST_F(ReportTextTest, WordsOfReportsFollowTheLanguage) {
+  texts.setLanguage(Language::French);
+  const Game game = gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n",
+                                          "DATE=2026-01-02\nENDROIT=Ici\nBONUS=5\nSUPP0=U1-Charges\n"));
+  TeamRecord team;
+  team.periods = "4";
+  std::string words;
+  for (const Report& report : {scorecard(game), playByPlayReport(game, tallied(game), texts),
+                               rosterReport(team, {}, texts)}) {
+    for (const ReportBlock& block : report.blocks) {
+      if (const auto* paragraph = std::get_if<ReportParagraph>(&block))
+        words += paragraph->text + '\n';
+    }
+  }
+  for (std::size_t colon = words.find(": "); colon != std::string::npos; colon = words.find(": ", colon + 1))
+    EXPECT_EQ(words[colon - 1], ' ') << words.substr(0, colon + 1);
+  EXPECT_NE(words.find("Bonus après : 5"), std::string::npos) << words;
+  EXPECT_NE(words.find("PF = faute personnelle"), std::string::npos);
+  EXPECT_NE(words.find("Charges"), std::string::npos);
+  EXPECT_NE(words.find("Smash"), std::string::npos) << "nobody tried one";
+  EXPECT_EQ(words.find("Panier de 2 pts"), std::string::npos) << "somebody tried one";
 }
 
 TEST_F(ReportTextTest, FormsHoldEveryPlayerOnceAndATeamWithoutPlayersGetsASheet) {
