@@ -10,10 +10,10 @@
 namespace hooptab {
 
 // `each` is how often every player does everything in each of four periods.
-inline Game crowdedGame(int each = 26) {
+inline std::string crowdedText(int each = 26) {
   const std::string kinds[] = {"GFG", "GFT", "GF3", "GLG", "GLD", "GPB", "GDK", "SA", "SBS",
                                "SST", "STO", "SOR", "SDR", "SU1", "SU2", "SPF", "STF"};
-  std::string text = "[DETAILS]\nVERSION=2.0\nEQUIPE0ABB=WWWWWWW\nEQUIPE1ABB==1+2\nNBREPERIODE=4\nDUREE=10\n"
+  std::string text = "[DETAILS]\nVERSION=2.0\nEQUIPE0ABB=WWWWWWW\nEQUIPE1ABB==1+2\nNBREPERIODE=4\nDUREE=10\nTERMINE=1\n"
                      "DATE=2026-11-05\nEQUIPE0NOM=" +
                      std::string(120, 'W') + "\nEQUIPE1NOM=Side <b>&\nNOTES=" + std::string(254, 'M') +
                      "\n[0]\n";
@@ -43,7 +43,10 @@ inline Game crowdedGame(int each = 26) {
     add("00:30,GF3A,1-3,110,90");
     add("00:20,GF3,1-22,60,20");
   }
-  return gameOfText(text);
+  return text;
+}
+inline Game crowdedGame(int each = 26) {
+  return gameOfText(crowdedText(each));
 }
 
 } // namespace hooptab

@@ -79,7 +79,16 @@ class ReportPagesTest : public testing::Test {
       player.number = "888";
       player.record.name = player.record.height = player.record.grade = std::string(60, 'W');
     }
-    return {scorecard(game), scorecardReport(game, tallied(game), byLine, settings, texts),
+    SeasonFolder games;
+    games.add("a.GAM", crowdedText(1));
+    const SeasonStatistics season = games.statistics();
+    const auto ofSeason = [&](SeasonReport which, SeasonId chosen) {
+      return seasonReport(which, season, {std::nullopt, chosen}, settings, texts);
+    };
+    const SeasonId player = season.players().front().id;
+    return {ofSeason(SeasonReport::TeamDetail, player), ofSeason(SeasonReport::LeadersPerMinute, player),
+            ofSeason(SeasonReport::Player, player), ofSeason(SeasonReport::LineOther, season.lines().front().id),
+            scorecard(game), scorecardReport(game, tallied(game), byLine, settings, texts),
             playByPlayReport(shorter, tallied(shorter), texts), rosterReport(team, players, texts),
             rosterReport(team, {}, texts)};
   }
