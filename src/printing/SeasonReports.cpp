@@ -297,13 +297,12 @@ class SeasonReportMaker {
       if (statistic.leaders.empty())
         continue;
       ReportTable table;
-      const SeasonColumn& column = seasonColumn(statistic.column);
       const std::string header = seasonHeader(statistic.column, SeasonTable::Players, m_texts);
       table.title = wordsOf(statistic.column);
       table.standsBeside = !m_report.blocks.empty();
       table.isInGrid = true;
       table.columns = {
-          {"#", "Rank"}, repeated(text(m_texts, kPlayerName), "Name"), {header, std::string(column.name)}};
+          {"#", "Rank"}, repeated(text(m_texts, kPlayerName), "Name"), {header, "Value"}};
       if (!m_choice.team)
         table.columns.insert(table.columns.begin() + 2, {text(m_texts, kTeam), "Team", {}, true});
       for (const Leader& leader : statistic.leaders) {

@@ -14,8 +14,8 @@ namespace hooptab {
 struct ReportRequest {
   std::string kind;   // "scorecard", "play-by-play", "roster", "forms", "blank-forms", or one of the season's
   std::string format; // "pdf", "xlsx", "csv", "html", "png"; where none is given, the ending of the output
-  std::string output; // absolute
-  std::string source; // absolute; the game or the season's folder, empty for a team's report
+  std::string output; // absolute; a folder, for the reports of each game of a folder
+  std::string source; // absolute; the game or a folder of games, empty for a team's report
   std::string team;   // "ABBREVIATION-LEVEL"
   std::string player; // jersey of a player, or the jerseys of a line, "4-5-10-12-15"
   std::string title;  // in place of the report's own, where not empty

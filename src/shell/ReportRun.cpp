@@ -5,9 +5,11 @@
 #include "printing/SeasonReports.h"
 #include "printing/TeamReports.h"
 #include "scorecard/Scorecard.h"
+#include "season/GameFinder.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 #include <optional>
 
@@ -42,29 +44,57 @@ class ReportRun {
     const std::optional<ReportForm> form = reportFormOf(m_request.format);
     if (!form)
       return complain(kWrongUse, "unknown format " + m_request.format + "; use pdf, xlsx, csv, html or png");
+    if (isOfGame() && std::filesystem::is_directory(m_request.source, m_ignored))
+      return writeEachGame(*form);
     Report report;
     if (const int status = make(report); status != kGood)
       return status;
+    return write(report, *form, m_request.output);
+  }
+
+ private:
+  bool isOfGame() const { return m_request.kind == "scorecard" || m_request.kind == "play-by-play"; }
+
+  // A file for each game of the folder, finished or not, under the name that the preview would propose. One
+  // game that cannot be reported does not keep the others from it.
+  int writeEachGame(ReportForm form) {
+    if (!std::filesystem::is_directory(m_request.output, m_ignored))
+      return complain(kWrongUse, m_request.output + ": for a folder of games, -o names a folder that is there");
+    ScanWatch watch;
+    const FoundGames games = findGames(m_files, {m_request.source}, watch);
+    if (games.outcome != ScanOutcome::Done || games.paths.empty())
+      return complain(kFailed, m_request.source + ": no game in this folder, or it cannot be read");
+    ExitStatus status = kGood;
+    for (const std::string& game : games.paths) {
+      Report report;
+      if (makeOfGame(game, report) != kGood ||
+          write(report, form,
+                m_request.output + '/' + report.fileName + '.' + std::string(endingOf(form))) != kGood)
+        status = kFailed;
+    }
+    return status;
+  }
+
+  int write(Report& report, ReportForm form, const std::string& output) {
     if (!m_request.title.empty())
       report.title = m_request.title;
-    if (!canBe(report, *form))
+    if (!canBe(report, form))
       return complain(kWrongUse, "a report of this kind cannot be written as " + m_request.format);
     PageFormat format;
     format.paper = m_request.isLetter ? Paper::Letter : Paper::A4;
     const char* language = m_texts.language() == Language::French ? "fr" : "en";
-    const auto contents = filesOf(report, *form, format, language);
+    const auto contents = filesOf(report, form, format, language);
     if (!contents)
       return complain(kFailed, "the report could not be made; is there room for temporary files?");
-    const std::string failed = writeFiles(m_files, m_request.output, *contents);
+    const std::string failed = writeFiles(m_files, output, *contents);
     return failed.empty() ? kGood
                           : complain(kFailed, failed + ": cannot be written; nothing was changed there");
   }
 
- private:
   int make(Report& report) {
     const std::string& kind = m_request.kind;
-    if (kind == "scorecard" || kind == "play-by-play")
-      return makeOfGame(report);
+    if (isOfGame())
+      return makeOfGame(m_request.source, report);
     if (kind == "blank-forms") {
       report = blankForms(m_texts);
       return kGood;
@@ -84,6 +114,11 @@ class ReportRun {
     ScanWatch watch;
     if (catalogue.scan({m_request.source}, watch) != ScanOutcome::Done)
       return complain(kFailed, m_request.source + ": there is no such folder, or it cannot be read");
+    for (const SkippedFile& skipped : catalogue.skipped())
+      std::cerr << "hooptab: left out: " << skipped.path << ": "
+                << m_texts.text(skipReasonText(skipped.reason)) << '\n';
+    if (catalogue.games().empty())
+      return complain(kFailed, m_request.source + ": no finished game in this folder");
     GameCriteria criteria;
     criteria.team = m_request.team;
     SeasonReportChoice choice;
@@ -95,8 +130,10 @@ class ReportRun {
     const bool isOfLines =
         which == SeasonReport::LineShots || which == SeasonReport::LineOther || which == SeasonReport::Line;
     const auto rows = isOfLines ? statistics.lines() : statistics.players();
-    const auto chosen =
-        std::ranges::find(rows, m_request.player, isOfLines ? &SeasonRow::name : &SeasonRow::number);
+    const auto named = isOfLines ? &SeasonRow::name : &SeasonRow::number;
+    const auto chosen = std::ranges::find(rows, m_request.player, named);
+    if (chosen != rows.end() && std::ranges::count(rows, m_request.player, named) > 1)
+      return complain(kWrongUse, "several have the number " + m_request.player + "; say whose with --team");
     if (chosen != rows.end())
       choice.chosen = chosen->id;
     else if (!m_request.player.empty() || which == SeasonReport::Player || which == SeasonReport::Line)
@@ -106,12 +143,12 @@ class ReportRun {
     report = seasonReport(which, statistics, choice, m_settings, m_texts);
     return kGood;
   }
-  int makeOfGame(Report& report) {
-    if (m_request.source.empty())
-      return complain(kWrongUse, "--report " + m_request.kind + " needs a game");
-    Scorecard card(m_store, m_request.source);
+  int makeOfGame(const std::string& path, Report& report) {
+    if (path.empty())
+      return complain(kWrongUse, "--report " + m_request.kind + " needs a game, or a folder of games");
+    Scorecard card(m_store, path);
     if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None)
-      return complain(kFailed, m_request.source + ": " + explained(problem));
+      return complain(kFailed, path + ": " + explained(problem));
     report = m_request.kind == "scorecard"
                  ? scorecardReport(card.game(), card.state(), ScorecardView(m_texts), m_settings, m_texts)
                  : playByPlayReport(card.game(), card.state(), m_texts);
@@ -138,6 +175,7 @@ class ReportRun {
   cinifile m_store{m_files};
   Settings m_settings;
   Texts m_texts;
+  std::error_code m_ignored; // what is no folder is taken for a file
 };
 
 } // namespace

@@ -117,11 +117,11 @@ TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
   EXPECT_DOUBLE_EQ(cell(results, results.rows[1], "F2%").value, 0.5);
   const Report leaders = seasonReport(SeasonReport::LeadersTotal, season, {std::nullopt, ann->id}, settings, texts);
   const auto all = tables(leaders);
-  const auto of =
-      std::ranges::find(all, "PTS", [](const ReportTable* table) { return table->columns.back().name; });
+  const auto of = std::ranges::find(all, "Points scored", &ReportTable::title);
   ASSERT_NE(of, all.end());
   const ReportTable& points = **of;
   EXPECT_EQ(points.rows[0].cells[1].text, "4 Ann Able");
+  EXPECT_EQ(reportCsv(leaders).size(), 1U) << "one table of text for all statistics";
   EXPECT_EQ(points.rows[0].emphasis, ReportRow::Emphasis::Highlighted);
   EXPECT_EQ(points.rows[1].emphasis, ReportRow::Emphasis::None);
 }
