@@ -139,7 +139,7 @@ void ReportLayout::placeLines(const QStringList& lines, PageFont font) {
     m_y += height;
   }
   m_row = {m_y, m_body.right(), m_y};
-  m_y += kParagraphGap;
+  m_y += font == PageFont::Cell ? kGap : kParagraphGap; // notes close what they stand below
 }
 
 void ReportLayout::place(const ReportParagraph& paragraph) {
@@ -201,44 +201,50 @@ void ReportLayout::place(const ReportTable& table) {
   placeTablePart();
 }
 
-// As many rows as the page takes, under title and head.
+// As many rows as the page takes, under title and head; then the same rows in the other parts of the table, so
+// that who reads a row on only turns to the next page.
 void ReportLayout::placeTablePart() {
   const TableLayout& table = *m_table;
   const TableLayout::Part& part = table.parts()[m_part];
+  const auto height = [&](std::size_t first, std::size_t end) {
+    double sum = table.tallestHead();
+    for (std::size_t row = first; row < end && sum <= m_body.height(); ++row)
+      sum += table.rowHeight(row);
+    return sum;
+  };
   const std::size_t count = table.table().rows.size();
-  const double head = table.titleHeight(part) + table.headHeight(part);
-  double whole = head;
-  for (std::size_t row = m_tableRow; row < count && whole <= m_body.height(); ++row)
-    whole += table.rowHeight(part, row);
-
+  const double whole = height(m_tableRow, m_part == 0 ? count : m_tableEnd);
   const bool isBeside =
       table.table().standsBeside && table.parts().size() == 1 && hasRoomBeside(table.width(part), whole);
   if (!isBeside && whole > left() && !page().isEmpty()) {
-    double fewest = head;
-    for (std::size_t row = m_tableRow; row < std::min(count, m_tableRow + kFewestRows); ++row)
-      fewest += table.rowHeight(part, row);
-    if (whole <= m_body.height() || fewest > left())
+    const bool hasFew = height(m_tableRow, std::min(count, m_tableRow + kFewestRows)) > left();
+    if (m_part > 0 || whole <= m_body.height() || hasFew)
       newPage();
   }
   const QPointF at = isBeside ? QPointF(m_row.right + kSideGap, m_row.top) : QPointF(m_body.left(), m_y);
-  double room = m_body.bottom() - at.y() - head;
-  std::size_t last = m_tableRow;
-  while (last < count && (room >= table.rowHeight(part, last) || last == m_tableRow))
-    room -= table.rowHeight(part, last++);
-  const auto isTotal = [&](std::size_t row) {
-    return table.table().rows[row].emphasis == ReportRow::Emphasis::Total;
-  };
-  if (last + 1 == count && isTotal(last) && last > m_tableRow + 1) // a total does not stand alone
-    --last;
-
-  const double bottom = placeRows(m_tableRow, last, at);
+  if (m_part == 0)
+    m_tableEnd = rowsUntil(m_body.bottom() - at.y());
+  const double bottom = placeRows(m_tableRow, m_tableEnd, at);
   took(QRectF(at, QPointF(at.x() + table.width(part), bottom)));
-  m_tableRow = last;
+  if (++m_part < table.parts().size())
+    return;
+  m_part = 0;
+  m_tableRow = m_tableEnd;
   if (m_tableRow < count)
     return newPage();
-  m_tableRow = 0;
-  if (++m_part == table.parts().size())
-    m_table = nullptr;
+  m_table = nullptr;
+}
+
+// The end of the rows that have room there, one at least.
+std::size_t ReportLayout::rowsUntil(double room) const {
+  const std::vector<ReportRow>& rows = m_table->table().rows;
+  room -= m_table->tallestHead();
+  std::size_t end = m_tableRow;
+  while (end < rows.size() && (room >= m_table->rowHeight(end) || end == m_tableRow))
+    room -= m_table->rowHeight(end++);
+  const bool leavesTotal =
+      end + 1 == rows.size() && rows[end].emphasis == ReportRow::Emphasis::Total && end > m_tableRow + 1;
+  return leavesTotal ? end - 1 : end; // a total does not stand alone
 }
 
 double ReportLayout::placeRows(std::size_t first, std::size_t last, QPointF at) {
@@ -249,7 +255,7 @@ double ReportLayout::placeRows(std::size_t first, std::size_t last, QPointF at) 
   at.ry() += m_table->headHeight(part);
   for (std::size_t row = first; row < last; ++row) {
     m_table->placeRow(page(), part, row, at);
-    at.ry() += m_table->rowHeight(part, row);
+    at.ry() += m_table->rowHeight(row);
   }
   return at.y();
 }

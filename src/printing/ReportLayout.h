@@ -51,6 +51,7 @@ class ReportLayout {
   void place(const ReportPageBreak& pageBreak);
   void place(const FormSheet& form);
   void placeTablePart();
+  [[nodiscard]] std::size_t rowsUntil(double room) const;
   double placeRows(std::size_t first, std::size_t last, QPointF at);
   void placeLines(const QStringList& lines, PageFont font);
   void newPage();
@@ -73,7 +74,8 @@ class ReportLayout {
   // The table that is being laid out.
   const TableLayout* m_table = nullptr;
   std::size_t m_part = 0;
-  std::size_t m_tableRow = 0;
+  std::size_t m_tableRow = 0; // of the rows that are being placed, part by part
+  std::size_t m_tableEnd = 0;
 };
 
 } // namespace hooptab

@@ -139,8 +139,9 @@ void paintHeadAndFoot(QPainter& painter, const ReportLayout& layout, std::size_t
   painter.setPen(Qt::black);
   const double headTop = body.top() - kHeadGap - line;
   const QString title = fonts.elided(PageFont::Cell, toQt(report.title), body.width() / 2 - line);
-  draw(PageFont::BoldCell, fonts.elided(PageFont::BoldCell, toQt(report.subject), body.width() / 2),
-       body.left(), headTop);
+  const double besideTitle = body.width() - fonts.width(PageFont::Cell, title) - 2 * line;
+  draw(PageFont::BoldCell, fonts.elided(PageFont::BoldCell, toQt(report.subject), besideTitle), body.left(),
+       headTop);
   drawAtRight(PageFont::Cell, title, headTop);
   const double footTop = body.bottom() + kFootGap;
   draw(PageFont::Cell, QStringLiteral("HOOPTAB Basketball"), body.left(), footTop);

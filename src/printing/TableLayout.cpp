@@ -216,6 +216,7 @@ bool TableLayout::hasGroupTitles(const Part& part) const {
 }
 
 void TableLayout::measureParts(double room) {
+  m_rowHeights.assign(m_table.rows.size(), 0);
   for (std::size_t i = 0; i < m_parts.size(); ++i) {
     Part& part = m_parts[i];
     QString title = toQt(m_table.title);
@@ -223,15 +224,22 @@ void TableLayout::measureParts(double room) {
       title += QStringLiteral("  (%1/%2)").arg(i + 1).arg(m_parts.size());
     if (!title.isEmpty())
       part.title = m_fonts.wrapped(titleFont(), title, room);
-    part.rowHeights.reserve(m_table.rows.size());
-    for (const ReportRow& row : m_table.rows) {
+    for (std::size_t row = 0; row < m_rowHeights.size(); ++row) {
+      const ReportRow& cells = m_table.rows[row];
       std::size_t lines = 1;
       for (const std::size_t column : part.columns)
-        lines = std::max(lines, countOfLines(fontOf(row), row.cells[column].text, column));
-      part.rowHeights.push_back(static_cast<double>(lines) * m_fonts.lineHeight(PageFont::Cell) +
-                                2 * kRowAir);
+        lines = std::max(lines, countOfLines(fontOf(cells), cells.cells[column].text, column));
+      m_rowHeights[row] = std::max(
+          m_rowHeights[row], static_cast<double>(lines) * m_fonts.lineHeight(PageFont::Cell) + 2 * kRowAir);
     }
   }
+}
+
+double TableLayout::tallestHead() const {
+  double tallest = 0;
+  for (const Part& part : m_parts)
+    tallest = std::max(tallest, titleHeight(part) + headHeight(part));
+  return tallest;
 }
 
 // Small tables have small titles.
@@ -318,7 +326,7 @@ void TableLayout::placeHead(ReportPage& page, const Part& part, QPointF at) cons
 
 void TableLayout::placeRow(ReportPage& page, const Part& part, std::size_t row, QPointF at) const {
   const ReportRow& cells = m_table.rows[row];
-  const QRectF box(at, QSizeF(part.width, rowHeight(part, row)));
+  const QRectF box(at, QSizeF(part.width, rowHeight(row)));
   const bool isTotal = cells.emphasis == ReportRow::Emphasis::Total;
   if (cells.emphasis == ReportRow::Emphasis::Highlighted)
     page.fills.push_back({box, kHighlight});

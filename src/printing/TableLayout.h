@@ -14,7 +14,6 @@ class TableLayout {
   struct Part {
     std::vector<std::size_t> columns;
     double width = 0;
-    std::vector<double> rowHeights = {};
     QStringList title = {}; // in lines
   };
 
@@ -33,7 +32,9 @@ class TableLayout {
   const std::vector<Part>& parts() const { return m_parts; }
   double titleHeight(const Part& part) const;
   double headHeight(const Part& part) const;
-  double rowHeight(const Part& part, std::size_t row) const { return part.rowHeights[row]; }
+  [[nodiscard]] double tallestHead() const; // of all parts, with the title
+  // The same in every part, so that a row goes on at the same height.
+  double rowHeight(std::size_t row) const { return m_rowHeights[row]; }
   double width(const Part& part) const; // that of the title, where it is longer
 
   // `at` is the upper left corner; the height is that of the functions above.
@@ -67,6 +68,7 @@ class TableLayout {
   std::vector<double> m_widths;
   std::vector<bool> m_isShown; // which columns stand on paper at all
   std::vector<bool> m_beginsGroup; // which columns have a line at their left
+  std::vector<double> m_rowHeights;
   std::vector<Part> m_parts;
 };
 
