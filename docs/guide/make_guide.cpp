@@ -4,8 +4,10 @@
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
 #include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTextBlock>
@@ -13,6 +15,7 @@
 #include <QTextFrame>
 #include <QTextList>
 #include <QTextTable>
+#include <QUrl>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -112,6 +115,29 @@ void formatBlock(const QTextBlock& block) {
   QTextCursor(block).setBlockFormat(format);
 }
 
+// Pictures are as wide as the page.
+void fitPictures(QTextDocument& document, double width) {
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    for (auto at = block.begin(); !at.atEnd(); ++at) {
+      const QTextFragment fragment = at.fragment();
+      if (!fragment.charFormat().isImageFormat())
+        continue;
+      QTextImageFormat format = fragment.charFormat().toImageFormat();
+      const QUrl place = document.baseUrl().resolved(QUrl(format.name()));
+      const QSize size = QImageReader(place.toLocalFile()).size();
+      if (!size.isValid())
+        continue; // tells that it is missing by an empty frame
+      format.setWidth(width);
+      format.setHeight(std::floor(width * size.height() / size.width()));
+      QTextCursor cursor(&document);
+      cursor.setPosition(fragment.position());
+      cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+      cursor.setCharFormat(format);
+      break; // one picture a paragraph
+    }
+  }
+}
+
 std::unique_ptr<QTextDocument> documentOf(const QString& path, QSizeF page) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly))
@@ -123,9 +149,11 @@ std::unique_ptr<QTextDocument> documentOf(const QString& path, QSizeF page) {
   document->setDefaultFont(font);
   document->setUseDesignMetrics(true);
   document->setDocumentMargin(0);
+  document->setBaseUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath())); // of its pictures
   document->setMarkdown(QString::fromUtf8(file.readAll()), QTextDocument::MarkdownDialectGitHub);
   for (QTextBlock block = document->begin(); block.isValid(); block = block.next())
     formatBlock(block);
+  fitPictures(*document, page.width());
   for (QTextTable* table : tablesOf(*document->rootFrame()))
     formatTable(*table);
   document->setPageSize(page);

@@ -34,7 +34,8 @@ constexpr int kSecondsPerMinute = 60;
 // The columns whose best players are named; rebounds are those of both kinds.
 constexpr std::string_view kLeaderColumns[] = {"PTS", "F3M", "FTM", "Ast", "TR", "OR", "ST", "BS", "rating"};
 constexpr std::size_t kMostNamed = 3;
-constexpr const char* kDash = "\u00A0–\u00A0"; // no line ends within a score
+constexpr const char* kBlank = "\u00A0"; // where no line may end
+constexpr const char* kDash = "\u00A0–\u00A0";
 
 // Rules of the game, in the words of the window that shows them.
 constexpr std::pair<int, int GameDetails::*> kRules[] = {
@@ -248,9 +249,9 @@ class ScoreDiagram {
 std::string shotCaption(const std::vector<Shot>& shots, const Texts& texts) {
   const ShotSummary summary = shotSummary(shots);
   const auto part = [](const char* name, const ZoneSum& sum) {
-    return name + fractionText(sum) + ' ' + Module1::percentText(sum.made, sum.attempted);
+    return name + fractionText(sum) + kBlank + Module1::percentText(sum.made, sum.attempted);
   };
-  std::string words = part("FG ", summary.twoPoints) + "   " + part("F3 ", summary.threePoints);
+  std::string words = part("FG\u00A0", summary.twoPoints) + "   " + part("F3\u00A0", summary.threePoints);
   if (const ZoneSum sum = shotSums(shots).withoutPlace; sum.attempted > 0)
     words += "   " + fractionText(sum) + ' ' + text(texts, kWithoutPlace);
   return words;
@@ -283,7 +284,7 @@ void addShotCharts(Report& report, const Game& game, ScorecardView choice, const
     }
     const std::string title = game.details.abbreviation[team] + " – " + text(texts, kShotChart);
     const std::string caption = shotCaption(shots, texts) + chosenRows(choice, texts);
-    const std::string signs = "●\u00A0" + text(texts, kMadeShots) + "   ✕\u00A0" + text(texts, kMissedShots);
+    const std::string signs = std::string("●") + kBlank + text(texts, kMadeShots) + "   ✕" + kBlank + text(texts, kMissedShots);
     report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByShot), std::move(byShot),
                                           signs + "   " + caption, std::exchange(hasPicture, true)});
     if (auto zones = zoneWords(shotSums(shots)); !zones.empty())

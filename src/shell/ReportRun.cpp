@@ -53,7 +53,10 @@ class ReportRun {
   }
 
  private:
-  bool isOfGame() const { return m_request.kind == "scorecard" || m_request.kind == "play-by-play"; }
+  bool isOfGame() const {
+    const std::string& kind = m_request.kind;
+    return kind == "scorecard" || kind == "scorecard-lines" || kind == "play-by-play";
+  }
 
   // A file for each game of the folder, finished or not, under the name that the preview would propose. One
   // game that cannot be reported does not keep the others from it.
@@ -149,9 +152,14 @@ class ReportRun {
     Scorecard card(m_store, path);
     if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None)
       return complain(kFailed, path + ": " + explained(problem));
-    report = m_request.kind == "scorecard"
-                 ? scorecardReport(card.game(), card.state(), ScorecardView(m_texts), m_settings, m_texts)
-                 : playByPlayReport(card.game(), card.state(), m_texts);
+    if (m_request.kind == "play-by-play") {
+      report = playByPlayReport(card.game(), card.state(), m_texts);
+      return kGood;
+    }
+    ScorecardView view(m_texts);
+    if (m_request.kind == "scorecard-lines")
+      view.setView(BoxView::Lines);
+    report = scorecardReport(card.game(), card.state(), view, m_settings, m_texts);
     return kGood;
   }
   int makeOfTeam(Report& report) {
