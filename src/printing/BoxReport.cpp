@@ -82,8 +82,8 @@ ReportTable boxTable(const Game& game, const GameState& state, int team, const S
                              column.isLeftAligned || boxColumnIsText(index), isRepeated});
     const Group group = groupOf(column.name);
     if (group.title != openGroup)
-      table.groups.push_back({group.title == 0 ? std::string() : std::string(texts.text(group.title)), 0,
-                              isUntried(group)});
+      table.groups.push_back(
+          {group.title == 0 ? std::string() : std::string(texts.text(group.title)), 0, isUntried(group)});
     ++table.groups.back().columns;
     openGroup = group.title;
   }

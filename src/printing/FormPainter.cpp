@@ -9,8 +9,8 @@ namespace {
 
 constexpr double kCellLine = 2.5;
 constexpr double kBlockLine = 5;
-constexpr double kTitlePart = 0.75; // of its room, where the name of a team is long
-constexpr double kBlanksGap = 8;    // millimetres behind the title
+constexpr double kTitlePart = 0.75;             // of its room, where the name of a team is long
+constexpr double kBlanksGap = 8;                // millimetres behind the title
 constexpr QColor kCellColour(0x80, 0x80, 0x80); // lighter than any pen, so that a reader tells line from tick
 
 class FormPicture {
@@ -73,7 +73,8 @@ class FormPicture {
   void paintHead() {
     // A long name is cut: the lines for the pen, and the hint below, need their room.
     const FormRect title = m_layout.title();
-    const QString words = m_fonts.elided(PageFont::Heading, toQt(m_sheet.title), units(title).width() * kTitlePart);
+    const QString words =
+        m_fonts.elided(PageFont::Heading, toQt(m_sheet.title), units(title).width() * kTitlePart);
     text(title, PageFont::Heading, words, Qt::AlignLeft | Qt::AlignVCenter);
     FormRect blanks = title;
     blanks.x += m_fonts.width(PageFont::Heading, words) / kUnitsPerMillimetre + kBlanksGap;

@@ -71,9 +71,9 @@ void addHead(Report& report, const Game& game, const GameState& state, const Tex
   const auto team = [&](int side) {
     return details.name[side].empty() ? details.abbreviation[side] : details.name[side];
   };
-  report.blocks.push_back(
-      ReportParagraph{ReportParagraph::Style::Heading, team(0) + "  " + std::to_string(state.points(0)) + kDash +
-                                                           std::to_string(state.points(1)) + "  " + team(1)});
+  report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading,
+                                          team(0) + "  " + std::to_string(state.points(0)) + kDash +
+                                              std::to_string(state.points(1)) + "  " + team(1)});
   std::string words = text(texts, details.isFinished ? kFinished : kInProgress);
   const auto add = [&](int label, std::string_view value) {
     if (!value.empty())
@@ -134,7 +134,8 @@ ReportTable leadTable(const Scoreboard& board, const GameState& state, const Tex
 int valueOf(const BoxRow& row, std::string_view column) {
   if (column == "TR")
     return row.numbers.rebounds();
-  return static_cast<int>(boxSortValue(row, std::ranges::find(boxColumns(), column, &BoxColumn::name)->index));
+  return static_cast<int>(
+      boxSortValue(row, std::ranges::find(boxColumns(), column, &BoxColumn::name)->index));
 }
 
 std::string leaderWords(std::string_view column, const Game& game, const Settings& settings,
@@ -284,12 +285,13 @@ void addShotCharts(Report& report, const Game& game, ScorecardView choice, const
     }
     const std::string title = game.details.abbreviation[team] + " – " + text(texts, kShotChart);
     const std::string caption = shotCaption(shots, texts) + chosenRows(choice, texts);
-    const std::string signs = std::string("●") + kBlank + text(texts, kMadeShots) + "   ✕" + kBlank + text(texts, kMissedShots);
+    const std::string signs =
+        std::string("●") + kBlank + text(texts, kMadeShots) + "   ✕" + kBlank + text(texts, kMissedShots);
     report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByShot), std::move(byShot),
                                           signs + "   " + caption, std::exchange(hasPicture, true)});
     if (auto zones = zoneWords(shotSums(shots)); !zones.empty())
-      report.blocks.push_back(
-          ReportPicture{title + ", " + text(texts, kByZone), ShotDrawing{{}, std::move(zones)}, caption, true});
+      report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByZone),
+                                            ShotDrawing{{}, std::move(zones)}, caption, true});
   }
 }
 

@@ -27,12 +27,12 @@ struct ReportCell {
 [[nodiscard]] ReportCell numberCell(int number);
 
 struct ReportColumn {
-  std::string header;     // short, as on screen
-  std::string name;       // unique in its table, for files
-  std::string words = {}; // what it holds, where the header is a code
+  std::string header;         // short, as on screen
+  std::string name;           // unique in its table, for files
+  std::string words = {};     // what it holds, where the header is a code
   bool isLeftAligned = false; // else at the right, as numbers
-  bool isRepeated = false; // stands on every part of a table that is too wide for the page
-  bool isCentred = false;  // on paper, whatever isLeftAligned says
+  bool isRepeated = false;    // stands on every part of a table that is too wide for the page
+  bool isCentred = false;     // on paper, whatever isLeftAligned says
 };
 
 // Columns that belong together, under a title of their own; they stay on one part of a wide table.
@@ -104,7 +104,7 @@ struct FormSheet {
   FormIdentifier identifier;
   std::string title;
   std::string hint;
-  std::string sheet; // "Sheet 1 of 4"
+  std::string sheet;  // "Sheet 1 of 4"
   std::string blanks; // what is to be written by hand, behind the title
   std::string made;   // heads of the cells for shots
   std::string missed;

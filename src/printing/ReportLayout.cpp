@@ -144,7 +144,7 @@ void ReportLayout::placeLines(const QStringList& lines, PageFont font) {
 
 void ReportLayout::place(const ReportParagraph& paragraph) {
   const bool isHeading = paragraph.style == ReportParagraph::Style::Heading;
-  const PageFont font = isHeading                                           ? PageFont::Heading
+  const PageFont font = isHeading                                         ? PageFont::Heading
                         : paragraph.style == ReportParagraph::Style::Note ? PageFont::Cell
                                                                           : PageFont::Body;
   constexpr int kLinesBelow = 3; // a heading does not stand alone at the foot of a page
@@ -201,8 +201,8 @@ void ReportLayout::place(const ReportTable& table) {
   placeTablePart();
 }
 
-// As many rows as the page takes, under title and head; then the same rows in the other parts of the table, so
-// that who reads a row on only turns to the next page.
+// As many rows as the page takes, under title and head; then the same rows in the other parts of the table,
+// so that who reads a row on only turns to the next page.
 void ReportLayout::placeTablePart() {
   const TableLayout& table = *m_table;
   const TableLayout::Part& part = table.parts()[m_part];

@@ -10,7 +10,8 @@ namespace {
 constexpr struct {
   int size; // in units
   bool isBold;
-} kFonts[] = {{170, true}, {105, true}, {88, false}, {88, true}, {70, false}, {70, true}}; // in the order of PageFont
+} kFonts[] = {{170, true}, {105, true}, {88, false},
+              {88, true},  {70, false}, {70, true}}; // in the order of PageFont
 
 constexpr qsizetype kLongestCached = 8;
 

@@ -188,9 +188,8 @@ void paintPage(QPainter& painter, const ReportLayout& layout, std::size_t page) 
   for (const PagePicture& picture : content.pictures)
     paintDrawing(painter, *picture.picture, picture.box, fonts);
   painter.setPen(Qt::black);
-  for (const PageFont font :
-       {PageFont::Title, PageFont::Heading, PageFont::Body, PageFont::BoldBody, PageFont::Cell,
-        PageFont::BoldCell}) {
+  for (const PageFont font : {PageFont::Title, PageFont::Heading, PageFont::Body, PageFont::BoldBody,
+                              PageFont::Cell, PageFont::BoldCell}) {
     painter.setFont(fonts.font(font)); // once each: changing it is dear
     for (const PageText& text : content.texts) {
       if (text.font == font)

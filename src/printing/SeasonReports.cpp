@@ -187,9 +187,8 @@ class SeasonReportMaker {
     std::string_view open;
     for (const int index : columns) {
       const SeasonColumn& column = seasonColumn(index);
-      table.columns.push_back({seasonHeader(index, SeasonTable::Players, m_texts),
-                               std::string(column.name), seasonColumnWords(index, m_settings, m_texts),
-                               seasonColumnIsText(index)});
+      table.columns.push_back({seasonHeader(index, SeasonTable::Players, m_texts), std::string(column.name),
+                               seasonColumnWords(index, m_settings, m_texts), seasonColumnIsText(index)});
       const std::string_view kind = kindOf(index);
       if (kind != open || table.groups.size() == 1)
         table.groups.push_back({titleOfKind(kind, m_texts), 0, !isTried(kind)});
@@ -301,8 +300,7 @@ class SeasonReportMaker {
       table.title = wordsOf(statistic.column);
       table.standsBeside = !m_report.blocks.empty();
       table.isInGrid = true;
-      table.columns = {
-          {"#", "Rank"}, repeated(text(m_texts, kPlayerName), "Name"), {header, "Value"}};
+      table.columns = {{"#", "Rank"}, repeated(text(m_texts, kPlayerName), "Name"), {header, "Value"}};
       if (!m_choice.team)
         table.columns.insert(table.columns.begin() + 2, {text(m_texts, kTeam), "Team", {}, true});
       for (const Leader& leader : statistic.leaders) {

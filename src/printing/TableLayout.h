@@ -66,7 +66,7 @@ class TableLayout {
   const PageFonts& m_fonts;
   std::vector<double> m_natural; // widths that the texts ask for
   std::vector<double> m_widths;
-  std::vector<bool> m_isShown; // which columns stand on paper at all
+  std::vector<bool> m_isShown;     // which columns stand on paper at all
   std::vector<bool> m_beginsGroup; // which columns have a line at their left
   std::vector<double> m_rowHeights;
   std::vector<Part> m_parts;

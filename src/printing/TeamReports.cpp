@@ -126,8 +126,7 @@ Report preparedForms(const TeamRecord& team, const std::vector<TeamPlayer>& play
 
 Report blankForms(const Texts& texts) {
   Report report = reportOf(text(texts, kBlankForms), {}, texts);
-  const std::string blanks =
-      labelled(kTeam, kToWrite, texts) + "  " + labelled(kDate, kToWrite, texts);
+  const std::string blanks = labelled(kTeam, kToWrite, texts) + "  " + labelled(kDate, kToWrite, texts);
   for (int sheet = 0; sheet < FormLayout::kSheets; ++sheet) {
     FormSheet page = sheetOf({sheet, false, 0}, FormLayout::kSheets, text(texts, kInputForm), texts);
     page.blanks = blanks;

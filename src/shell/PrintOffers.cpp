@@ -84,9 +84,10 @@ std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport fir
     SeasonReportChoice choice{offer.team, std::nullopt};
     if (isOfPerson || (offer.highlightsPerson && offer.person && canHighlight(name.report, *offer.person)))
       choice.chosen = offer.person->row.id;
-    ReportOffer made = named(name.text, texts, [=, season = offer.season, report = name.report, &settings, &texts] {
-      return seasonReport(report, season->statistics(), choice, settings, texts);
-    });
+    ReportOffer made =
+        named(name.text, texts, [=, season = offer.season, report = name.report, &settings, &texts] {
+          return seasonReport(report, season->statistics(), choice, settings, texts);
+        });
     offers.insert(name.report == first ? offers.begin() : offers.end(), std::move(made));
   }
   return offers;

@@ -62,7 +62,8 @@ class ReportRun {
   // game that cannot be reported does not keep the others from it.
   int writeEachGame(ReportForm form) {
     if (!std::filesystem::is_directory(m_request.output, m_ignored))
-      return complain(kWrongUse, m_request.output + ": for a folder of games, -o names a folder that is there");
+      return complain(kWrongUse,
+                      m_request.output + ": for a folder of games, -o names a folder that is there");
     ScanWatch watch;
     const FoundGames games = findGames(m_files, {m_request.source}, watch);
     if (games.outcome != ScanOutcome::Done || games.paths.empty())
@@ -71,8 +72,8 @@ class ReportRun {
     for (const std::string& game : games.paths) {
       Report report;
       if (makeOfGame(game, report) != kGood ||
-          write(report, form,
-                m_request.output + '/' + report.fileName + '.' + std::string(endingOf(form))) != kGood)
+          write(report, form, m_request.output + '/' + report.fileName + '.' + std::string(endingOf(form))) !=
+              kGood)
         status = kFailed;
     }
     return status;

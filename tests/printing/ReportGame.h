@@ -13,10 +13,10 @@ namespace hooptab {
 inline std::string crowdedText(int each = 26) {
   const std::string kinds[] = {"GFG", "GFT", "GF3", "GLG", "GLD", "GPB", "GDK", "SA", "SBS",
                                "SST", "STO", "SOR", "SDR", "SU1", "SU2", "SPF", "STF"};
-  std::string text = "[DETAILS]\nVERSION=2.0\nEQUIPE0ABB=WWWWWWW\nEQUIPE1ABB==1+2\nNBREPERIODE=4\nDUREE=10\nTERMINE=1\n"
-                     "DATE=2026-11-05\nEQUIPE0NOM=" +
-                     std::string(120, 'W') + "\nEQUIPE1NOM=Side <b>&\nNOTES=" + std::string(254, 'M') +
-                     "\n[0]\n";
+  std::string text =
+      "[DETAILS]\nVERSION=2.0\nEQUIPE0ABB=WWWWWWW\nEQUIPE1ABB==1+2\nNBREPERIODE=4\nDUREE=10\nTERMINE=1\n"
+      "DATE=2026-11-05\nEQUIPE0NOM=" +
+      std::string(120, 'W') + "\nEQUIPE1NOM=Side <b>&\nNOTES=" + std::string(254, 'M') + "\n[0]\n";
   for (int player = 0; player < 15; ++player)
     text += std::to_string(100 + player) + "=1," + std::string(56, 'W') + ' ' + std::to_string(player) + "\n";
   text += "[1]\n3=0,=SUM(A1)\n7=1,<script>\n8=2,+Plus\n11=9,-Minus\n22=0,@At\"quote\n";

@@ -13,9 +13,9 @@
 #include "printing/frmprint.h"
 
 #include "ReportGame.h"
+#include "appearance/relabel.h"
 #include "season/SeasonColumns.h"
 #include "season/SeasonFolder.h"
-#include "appearance/relabel.h"
 #include "support/FaultyFileSystem.h"
 #include "support/ScriptedDialogs.h"
 #include "support/SharedGames.h"
@@ -86,10 +86,14 @@ class ReportPagesTest : public testing::Test {
       return seasonReport(which, season, {std::nullopt, chosen}, settings, texts);
     };
     const SeasonId player = season.players().front().id;
-    return {ofSeason(SeasonReport::TeamDetail, player), ofSeason(SeasonReport::LeadersPerMinute, player),
-            ofSeason(SeasonReport::Player, player), ofSeason(SeasonReport::LineOther, season.lines().front().id),
-            scorecard(game), scorecardReport(game, tallied(game), byLine, settings, texts),
-            playByPlayReport(shorter, tallied(shorter), texts), rosterReport(team, players, texts),
+    return {ofSeason(SeasonReport::TeamDetail, player),
+            ofSeason(SeasonReport::LeadersPerMinute, player),
+            ofSeason(SeasonReport::Player, player),
+            ofSeason(SeasonReport::LineOther, season.lines().front().id),
+            scorecard(game),
+            scorecardReport(game, tallied(game), byLine, settings, texts),
+            playByPlayReport(shorter, tallied(shorter), texts),
+            rosterReport(team, players, texts),
             rosterReport(team, {}, texts)};
   }
 
@@ -233,8 +237,9 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheTablesOfTheSeasonSay) {
   if (isMissing("pdftotext"))
     GTEST_SKIP() << "no pdftotext";
   SeasonFolder games;
-  const std::string kinds = "2=09:00,GFG,0-4,40,50\n3=08:00,GF3,0-5,100,90\n4=07:00,GLG,1-3\n5=06:50,GLD,1-3\n"
-                            "6=06:40,GPBA,1-7\n7=06:30,GDK,0-10\n8=06:20,GFT,0-4\n9=06:10,SDR,1-8\n";
+  const std::string kinds =
+      "2=09:00,GFG,0-4,40,50\n3=08:00,GF3,0-5,100,90\n4=07:00,GLG,1-3\n5=06:50,GLD,1-3\n"
+      "6=06:40,GPBA,1-7\n7=06:30,GDK,0-10\n8=06:20,GFT,0-4\n9=06:10,SDR,1-8\n";
   for (const char* day : {"2026-10-02", "2026-10-09", "2026-10-16"})
     games.addGame(std::string(day) + ".GAM", day,
                   "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n" + kinds + "10=00:00,ARRET,IN-,IN-\n");
@@ -255,7 +260,8 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheTablesOfTheSeasonSay) {
           }
         }
         std::string printed;
-        for (std::size_t at = text.find(row.name); at != std::string::npos; at = text.find(row.name, at + 1)) {
+        for (std::size_t at = text.find(row.name); at != std::string::npos;
+             at = text.find(row.name, at + 1)) {
           const std::size_t end = at + row.name.size();
           printed += std::regex_replace(text.substr(end, text.find('\n', end) - end), std::regex(" +"), " ");
         }
@@ -283,7 +289,8 @@ TEST_F(ReportPagesTest, ReportsTakeNoMoreRoomThanTheyNeed) {
   EXPECT_TRUE(holds(crowded, "(2/2)"));
   EXPECT_FALSE(holds(crowded, "/3)"));
 
-  const Report few = scorecard(gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=08:00,GDKA,1-3\n")));
+  const Report few =
+      scorecard(gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=08:00,GDKA,1-3\n")));
   const std::vector<PageText> page = textsOf(few);
   EXPECT_TRUE(holds(page, "FGM"));
   EXPECT_TRUE(holds(page, "DKM")) << "one that was missed was tried";

@@ -174,7 +174,8 @@ TEST_F(ReportTextTest, ThePlayByPlayLeavesOutWhatIsDeletedAndEndsWithTheScore) {
   EXPECT_EQ(cells(0), (Words{"1", "09:00", "4 Ann Able: 2 points made", "2-0", ""}));
   EXPECT_NE(table.rows[1].cells[2].text.find("what is this"), std::string::npos);
   EXPECT_EQ(cells(2), (Words{"2", "05:00", "", "2-1", "3 Hana Hart: free throw made"}));
-  EXPECT_EQ(cells(3), (Words{"2", "04:00", "in 4 Ann Able", "", "in 3 Hana Hart"})) << "a start tells nothing";
+  EXPECT_EQ(cells(3), (Words{"2", "04:00", "in 4 Ann Able", "", "in 3 Hana Hart"}))
+      << "a start tells nothing";
   EXPECT_TRUE(table.rows[2].beginsSection);
 }
 
@@ -186,8 +187,8 @@ TEST_F(ReportTextTest, WordsOfReportsFollowTheLanguage) {
   TeamRecord team;
   team.periods = "4";
   std::string words;
-  for (const Report& report : {scorecard(game), playByPlayReport(game, tallied(game), texts),
-                               rosterReport(team, {}, texts)}) {
+  for (const Report& report :
+       {scorecard(game), playByPlayReport(game, tallied(game), texts), rosterReport(team, {}, texts)}) {
     for (const ReportBlock& block : report.blocks) {
       if (const auto* paragraph = std::get_if<ReportParagraph>(&block))
         words += paragraph->text + '\n';

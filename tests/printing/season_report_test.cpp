@@ -115,7 +115,8 @@ TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
   EXPECT_EQ(cell(results, results.rows[0], "Date").text, "2026-10-02");
   EXPECT_EQ(cell(results, results.rows[1], "F2A").text, "2");
   EXPECT_DOUBLE_EQ(cell(results, results.rows[1], "F2%").value, 0.5);
-  const Report leaders = seasonReport(SeasonReport::LeadersTotal, season, {std::nullopt, ann->id}, settings, texts);
+  const Report leaders =
+      seasonReport(SeasonReport::LeadersTotal, season, {std::nullopt, ann->id}, settings, texts);
   const auto all = tables(leaders);
   const auto of = std::ranges::find(all, "Points scored", &ReportTable::title);
   ASSERT_NE(of, all.end());

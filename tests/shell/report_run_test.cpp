@@ -39,7 +39,7 @@ class ReportRunTest : public testing::Test {
 
 TEST_F(ReportRunTest, EveryKindIsWrittenInEveryFormThatItHas) {
   std::vector<std::string> kinds = {"scorecard", "scorecard-lines", "play-by-play",
-                                    "roster", "forms", "blank-forms"};
+                                    "roster",    "forms",           "blank-forms"};
   for (const SeasonReportName& report : seasonReports())
     kinds.emplace_back(report.word);
   for (const std::string& kind : kinds) {
