@@ -30,6 +30,9 @@ bool printReport(QPrinter& printer, const Report& report, const PageFormat& form
     layout.step();
   if (isCancelled(watch))
     return false;
+  // A print system prints what it has got of a job that ends early: half a report.
+  if (watch != nullptr)
+    watch->isPastCancelling = true;
   // The pages are laid out for this paper, whatever was chosen in the printer's own dialog.
   printer.setPageLayout(layout.pageLayout());
   QPainter painter;
@@ -42,7 +45,7 @@ bool printReport(QPrinter& printer, const Report& report, const PageFormat& form
   const int last = printer.toPage() == 0 ? count : std::clamp(printer.toPage(), first, count);
   expect(watch, last - first + 1);
   for (int page = first; page <= last; ++page) {
-    if (isCancelled(watch) || (page > first && !printer.newPage())) {
+    if (page > first && !printer.newPage()) {
       printer.abort();
       return false;
     }

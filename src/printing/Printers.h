@@ -28,7 +28,8 @@ class QtPrinters : public Printers {
   std::unique_ptr<QPrinter> choose(QWidget* parent, const QPageLayout& layout, int pages) override;
 };
 
-// Prints the chosen pages. False when the printer refuses or when cancelled; then nothing more is sent to it.
+// Prints the chosen pages. False when the printer refuses, then nothing more is sent to it; and when
+// cancelled, which is possible until the first page is sent.
 [[nodiscard]] bool printReport(QPrinter& printer, const Report& report, const PageFormat& format,
                                ReportWatch* watch = nullptr);
 

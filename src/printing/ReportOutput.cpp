@@ -223,7 +223,7 @@ void ReportOutput::start(const QString& what, std::function<BackgroundWork::Deli
 void ReportOutput::showProgress() {
   m_progress->setRange(0, m_watch->most);
   m_progress->setValue(m_watch->done);
-  m_cancel->setEnabled(!m_watch->isCancelled);
+  m_cancel->setEnabled(!m_watch->isCancelled && !m_watch->isPastCancelling);
 }
 
 void ReportOutput::end() {

@@ -10,6 +10,7 @@ struct ReportWatch {
   std::atomic<int> done = 0; // pages or rows
   std::atomic<int> most = 0; // 0: not known yet
   std::atomic<bool> isCancelled = false;
+  std::atomic<bool> isPastCancelling = false; // what has begun can only be finished
 };
 
 // For makers whose work need not be watched: null is a watch that nobody looks at.

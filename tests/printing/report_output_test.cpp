@@ -19,6 +19,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QImage>
+#include <QPrinter>
 #include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
@@ -167,6 +168,29 @@ TEST_F(ReportOutputTest, CancellingLeavesNothingAndTheWindowAnswersMeanwhile) {
   EXPECT_TRUE(dialogs.shown.size() == 1) << "the question whether to replace, and no complaint";
   EXPECT_EQ(entries(), std::vector<std::string>{"long.pdf"});
   EXPECT_EQ(folder.read("long.pdf"), "old");
+}
+
+// Half a report must not come out of a printer: it is cancelled before its first page, or not at all.
+TEST_F(ReportOutputTest, APrintJobIsCancelledAsAWholeOrNotAtAll) {
+  for (const bool waitsForPages : {false, true}) {
+    const std::string file = waitsForPages ? "all.pdf" : "none.pdf";
+    const auto printer = std::make_shared<QPrinter>();
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(toQt(folder.path(file)));
+    QSignalSpy reported(&output, &ReportOutput::reported);
+    output.print(longReport(4000), {}, printer, nullptr);
+    const auto& bar = *output.findChild<QProgressBar*>();
+    if (waitsForPages) {
+      ASSERT_TRUE(QTest::qWaitFor([&] { return bar.value() > 0 || !output.isBusy(); }, 60000));
+    }
+    output.cancel();
+    wait();
+    ASSERT_EQ(reported.size(), 1);
+    EXPECT_EQ(reported[0][0].toString(),
+              toQt(texts.withPlaceholder(waitsForPages ? kSentToPrinter : kReportCancelled, "Long")));
+    EXPECT_EQ(folder.holds(file), waitsForPages);
+  }
+  EXPECT_TRUE(dialogs.shown.empty());
 }
 
 TEST_F(ReportOutputTest, AProposedNameIsOneThatAFolderTakes) {
