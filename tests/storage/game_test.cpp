@@ -1,6 +1,7 @@
 // Game files and their events: what is written, what is understood, and what every counter makes of it.
 #include "storage/GameFile.h"
 #include "storage/Tally.h"
+#include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -81,6 +82,22 @@ TEST_F(GameFileTest, AppendingAdvancesTheCounter) {
     ASSERT_EQ(m_file.change({{EventChange::Kind::Add, 2, key, "08:00,SA,0-5"}}), GameFileProblem::None);
     ASSERT_EQ(m_file.readDetails(game.details), GameFileProblem::None);
     EXPECT_EQ(game.details.nextEventNumber, m_file.nextNumber()) << wrong;
+  }
+}
+
+// Whoever records waits for it: the file is read in one go, though it was written a moment ago.
+TEST_F(GameFileTest, AnEventReadsItsFileOnce) {
+  gameWith(fiveAside("1=10:00,DEPART\r\n"));
+  FaultyFileSystem counting;
+  cinifile store(counting);
+  GameFile file(store, m_file.path());
+  int number = file.nextNumber();
+  for (int event = 0; event < 3; ++event, ++number) {
+    counting.reads = 0;
+    ASSERT_EQ(file.change({{EventChange::Kind::Add, 1, std::to_string(number), "09:00,SA,0-5"}}),
+              GameFileProblem::None);
+    EXPECT_EQ(counting.reads, 2) << "its bytes, and their end";
+    EXPECT_EQ(counting.renames, event + 1);
   }
 }
 
