@@ -59,6 +59,7 @@ SideSwitch::SideSwitch(QToolButton* button, QWidget* parent)
   m_name->setFont(small);
   m_name->setFixedWidth(kWidth);
   m_button->setIcon(icon(QStringLiteral("switch")));
+  m_button->setText(QStringLiteral("⇄"));
   m_button->setFixedSize(kWidth, kButtonHeight);
   connect(m_button, &QToolButton::clicked, this, &SideSwitch::asked);
 
@@ -83,11 +84,15 @@ void SideSwitch::showSides(const QString& left, const std::array<QColor, 2>& col
   }
 }
 
+// On that colour the icon, which is drawn for the window's own, would not be seen.
 void SideSwitch::setOffered(bool isOffered) {
   QPalette colours;
-  if (isOffered)
+  if (isOffered) {
     colours.setColor(QPalette::Button, Theme::accent());
+    colours.setColor(QPalette::ButtonText, textOn(Theme::accent()));
+  }
   m_button->setPalette(colours);
+  m_button->setToolButtonStyle(isOffered ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
 }
 
 // The court and the name take no presses of their own.

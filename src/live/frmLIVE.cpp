@@ -44,6 +44,7 @@ constexpr int kForReadingOnly = 1914;
 constexpr int kNotOnDisk = 1915;
 constexpr int kLeaveUnwritten = 1916;
 constexpr int kPeriodTooLong = 2380;
+constexpr int kCountOutOfRange = 1523;
 
 constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
 constexpr auto kRetryInterval = 2s;
@@ -233,6 +234,11 @@ frmLIVE::Opening frmLIVE::open(const QString& path) {
   m_keys->forget();
   relabelWindow();
   emit commandStateChanged();
+  if (const auto& count = m_game.log().outOfRange()) { // the game goes on all the same
+    const std::string words = m_texts.withPlaceholder(kCountOutOfRange, fromQt(QFileInfo(path).fileName()));
+    m_dialogs.warn(this, toQt(m_texts.text(kWarningTitle)),
+                   toQt(Module1::withPlaceholder(words, count->what, "YYY")));
+  }
   return Opening::Opened;
 }
 

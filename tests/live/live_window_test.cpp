@@ -277,6 +277,21 @@ TEST_F(LiveWindowTest, PeriodsThatNoClockShowsAreRefused) {
   EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("100")));
 }
 
+TEST_F(LiveWindowTest, ACountThatIsTooLargeIsNamed) {
+  const std::string many = folder.path("many.GAM");
+  makeGame(many);
+  std::vector<std::string> turnovers(32'768, "10:00,STO,0-4");
+  ASSERT_EQ(GameFile(store, many).writeLines(1, turnovers), GameFileProblem::None);
+  ASSERT_EQ(GameFile(store, many).setDetails({{"TERMINE", "0"}}), GameFileProblem::None);
+  ASSERT_EQ(window->open(toQt(many)), frmLIVE::Opening::Opened);
+  ASSERT_EQ(dialogs.shown.size(), 1U);
+  EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("many.GAM")));
+  EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("4 TO")))
+      << dialogs.shown[0].text.toStdString();
+  press("cmdBUTF(0)");
+  EXPECT_EQ(dialogs.shown.size(), 1U);
+}
+
 // Where no lock file can be made (its name would be too long), and where the file is protected.
 TEST_F(LiveWindowTest, WhatCannotBeWrittenOpensForReading) {
   press("cmdBUTFT(0)");
