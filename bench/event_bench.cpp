@@ -1,5 +1,5 @@
-// The core's own work for one event, in games of several lengths: counted, written, kept for being taken back.
-// The disk takes every write at once (HOOPTAB_BENCH_FOLDER chooses it), and its share is taken out.
+// The core's own work for one event, in games of several lengths: counted, written, kept for being taken
+// back. The disk takes every write at once (HOOPTAB_BENCH_FOLDER chooses it), and its share is taken out.
 #include "live_measure.h"
 
 #include <cstdlib>

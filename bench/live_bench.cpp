@@ -85,7 +85,8 @@ int measureWindow(int events, const std::filesystem::path& folder) {
     std::fprintf(stderr, "only %zu events are in the file\n", recorded.events.size());
     return EXIT_FAILURE;
   }
-  printFigures(("click to disk and screen, behind event " + std::to_string(events)).c_str(), std::move(whole));
+  printFigures(("click to disk and screen, behind event " + std::to_string(events)).c_str(),
+               std::move(whole));
   printFigures("  of this the disk", std::move(disk));
   return EXIT_SUCCESS;
 }

@@ -52,7 +52,7 @@ class FollowUpBar : public QWidget {
   // After closed(), so that a further question can be asked.
   void assistChosen(int slot);
   void reboundChosen(int slot, bool isOffensive);
-  void closed(); // in any case
+  void closed();                   // in any case
   void numberTyped(bool onKeypad); // its last digit has chosen a player
 
  protected:

@@ -252,8 +252,7 @@ bool LiveGame::returnToEndedPeriod() {
 }
 
 bool LiveGame::beginOvertime(int minutes, bool keepsFouls) {
-  if (m_phase != Phase::OvertimeAsked || minutes < 1 || minutes > kMostMinutes ||
-      m_period >= kMostPeriods)
+  if (m_phase != Phase::OvertimeAsked || minutes < 1 || minutes > kMostMinutes || m_period >= kMostPeriods)
     return false;
   m_log.setDetails({{"KEEPBONUS", keepsFouls ? "1" : "0"}});
   ++m_period;

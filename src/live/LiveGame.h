@@ -50,7 +50,7 @@ class LiveGame {
   bool isOvertime() const { return m_period > m_log.game().details.periods; }
   int clockSeconds() const; // that remain
   int fullLength() const;   // of this period, in seconds; 0 in a game without time
-  bool isHalfTime() const; // the second half is next, and nothing has happened in it yet
+  bool isHalfTime() const;  // the second half is next, and nothing has happened in it yet
   // START or STOP. At 00:00 it decides once more how the period ended.
   void toggleClock();
   void start();

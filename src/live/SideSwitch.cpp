@@ -77,8 +77,8 @@ void SideSwitch::showSides(const QString& left, const std::array<QColor, 2>& col
   name = m_name->fontMetrics().elidedText(name, Qt::ElideRight, kWidth);
   m_name->setTextFormat(Qt::PlainText);
   m_name->setText(name);
-  for (QWidget* part : {static_cast<QWidget*>(m_court), static_cast<QWidget*>(m_name),
-                        static_cast<QWidget*>(m_button)}) {
+  for (QWidget* part :
+       {static_cast<QWidget*>(m_court), static_cast<QWidget*>(m_name), static_cast<QWidget*>(m_button)}) {
     part->setToolTip(hint);
     part->setAccessibleName(hint);
   }

@@ -172,11 +172,11 @@ void ProfileText::Parsed::parse() {
       endSection(offset(begin));
       const char* const bracket = std::find(first + 1, contentEnd, ']');
       sections.push_back({.name = trimmedText(first + 1, bracket, holdsNul),
-                            .begin = offset(begin),
-                            .headerEnd = offset(next),
-                            .end = 0,
-                            .firstLine = static_cast<std::uint32_t>(lines.size()),
-                            .lastLine = 0});
+                          .begin = offset(begin),
+                          .headerEnd = offset(next),
+                          .end = 0,
+                          .firstLine = static_cast<std::uint32_t>(lines.size()),
+                          .lastLine = 0});
     } else if (sections.size() > 1) { // lines before the first header belong to no section
       const bool isEmpty = first == contentEnd;
       const bool joinsBlank =

@@ -266,9 +266,9 @@ TEST_F(LiveWindowTest, AnotherGameWaitsForTheFirst) {
 TEST_F(LiveWindowTest, PeriodsThatNoClockShowsAreRefused) {
   const std::string longest = folder.path("long.GAM");
   makeGame(longest);
-  for (const auto& [minutes, opening] : {std::pair("100", frmLIVE::Opening::Refused),
-                                         std::pair("99999999", frmLIVE::Opening::Refused),
-                                         std::pair("99", frmLIVE::Opening::Opened)}) {
+  for (const auto& [minutes, opening] :
+       {std::pair("100", frmLIVE::Opening::Refused), std::pair("99999999", frmLIVE::Opening::Refused),
+        std::pair("99", frmLIVE::Opening::Opened)}) {
     ASSERT_EQ(GameFile(store, longest).setDetails({{"DUREE", minutes}}), GameFileProblem::None);
     EXPECT_EQ(window->open(toQt(longest)), opening) << minutes;
     EXPECT_EQ(window->path() == toQt(longest), opening == frmLIVE::Opening::Opened);
@@ -286,8 +286,7 @@ TEST_F(LiveWindowTest, ACountThatIsTooLargeIsNamed) {
   ASSERT_EQ(window->open(toQt(many)), frmLIVE::Opening::Opened);
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("many.GAM")));
-  EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("4 TO")))
-      << dialogs.shown[0].text.toStdString();
+  EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("4 TO"))) << dialogs.shown[0].text.toStdString();
   press("cmdBUTF(0)");
   EXPECT_EQ(dialogs.shown.size(), 1U);
 }
