@@ -1,9 +1,11 @@
-// Reads a scanned sheet of the paper input form: finds the mark points in the corners, from them every cell of
-// the layout, and says which cells are ticked and of which it is not sure. What the cells mean is for others.
+// Reads a scanned sheet of the paper input form: finds the mark points in the corners, from them every cell
+// of the layout, and says which cells are ticked and of which it is not sure. What the cells mean is for
+// others.
 #pragma once
 
 #include "appearance/FormLayout.h"
 #include "manual/GrayPicture.h"
+#include "manual/PageMapping.h"
 
 #include <functional>
 #include <vector>
@@ -24,10 +26,6 @@ enum class ScanProblem {
   NotThisForm, // the identifier is that of no form, or of a version that is not known
 };
 [[nodiscard]] int textOf(ScanProblem problem); // number of the text that tells the user
-
-struct PicturePoint {
-  double x = 0, y = 0; // pixels, from the upper left corner
-};
 
 struct ReadCell {
   double ink = 0; // 0 untouched paper, 1 filled in wholly

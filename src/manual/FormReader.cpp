@@ -1,0 +1,156 @@
+#include "manual/FormReader.h"
+
+#include "manual/FormGrid.h"
+#include "manual/FormMarks.h"
+#include "manual/InkMeasure.h"
+#include "manual/PictureSums.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace hooptab {
+
+namespace {
+
+constexpr double kMillimetresPerInch = 25.4;
+constexpr double kUsualDots = 300; // per inch; finer pictures are made coarser first
+constexpr double kLeastDots = 140; // below it a cell's border is not seen any more
+constexpr int kLeastPixels = 300;  // a picture with fewer in one direction shows no form
+
+std::array<bool, FormIdentifier::kBits> identifierBits(const FormLayout& layout, const GrayPicture& picture,
+                                                       const FormGrid& grid) {
+  std::array<bool, FormIdentifier::kBits> bits = {};
+  for (std::size_t bit = 0; bit < bits.size(); ++bit) {
+    const FormRect& square = layout.identifier()[bit];
+    const FormPoint middle{square.x + square.width / 2, square.y + square.height / 2};
+    const auto mean = [&](double up) {
+      double sum = 0;
+      constexpr int kAround = 4; // quarter millimetres
+      for (int y = -kAround; y <= kAround; ++y) {
+        for (int x = -kAround; x <= kAround; ++x) {
+          const PicturePoint point =
+              grid.at({middle.x + x * 0.25, middle.y + y * 0.25 * (up != 0 ? 0.5 : 1) - up});
+          sum += shadeAt(picture, point.x, point.y);
+        }
+      }
+      return sum / ((2 * kAround + 1) * (2 * kAround + 1));
+    };
+    // Above the row there is nothing but paper.
+    const double paper = mean(square.height / 2 + 1.2);
+    bits[bit] = mean(0) < paper * (1 + grid.black()) / 2;
+  }
+  return bits;
+}
+
+} // namespace
+
+int textOf(ScanProblem problem) {
+  switch (problem) {
+  case ScanProblem::None:
+  case ScanProblem::Cancelled: return 0;
+  case ScanProblem::NotAPicture: return 1407;
+  case ScanProblem::TooCoarse: return 1408;
+  case ScanProblem::NoUpperLeftMark: return 1225;
+  case ScanProblem::NoTop: return 1226;
+  case ScanProblem::NoLeft: return 1227;
+  case ScanProblem::NoRight: return 1234;
+  case ScanProblem::NoBottom: return 1235;
+  case ScanProblem::NotReadable: return 1228;
+  case ScanProblem::NotThisForm: return 1236;
+  }
+  return 0;
+}
+
+PicturePoint FormReading::inPicture(double x, double y) const {
+  PageMapping mapping;
+  std::copy(std::begin(toPicture), std::end(toPicture), std::begin(mapping.m));
+  return mapping.at(x, y);
+}
+
+FormReading FormReader::read(const GrayPicture& picture, const Progress& progress) const {
+  FormReading result;
+  const auto refused = [&](ScanProblem problem) {
+    result.problem = problem;
+    return result;
+  };
+  if (picture.width <= 0 || picture.height <= 0 ||
+      picture.pixels.size() !=
+          static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height))
+    return refused(ScanProblem::NotAPicture);
+  const double across = picture.width / FormLayout::kWidth;
+  const double down = picture.height / FormLayout::kHeight;
+  if (std::max(across, down) * kMillimetresPerInch < kLeastDots ||
+      std::min(picture.width, picture.height) < kLeastPixels)
+    return refused(ScanProblem::TooCoarse);
+
+  int lastPercent = -1;
+  const auto goesOn = [&](double percent) {
+    const int now = static_cast<int>(percent);
+    if (now == lastPercent || !progress)
+      return true;
+    lastPercent = now;
+    return progress(now);
+  };
+  if (!goesOn(0))
+    return refused(ScanProblem::Cancelled);
+  const int factor = std::max(1, static_cast<int>(std::min(across, down) * kMillimetresPerInch / kUsualDots));
+  GrayPicture smaller;
+  if (factor > 1)
+    smaller = reduced(picture, factor);
+  const GrayPicture& page = factor > 1 ? smaller : picture;
+
+  const MarkSearch search = findMarks(m_layout, page, [&](double part) { return goesOn(40 * part); });
+  if (search.problem != ScanProblem::None)
+    return refused(search.problem);
+
+  // The first set of marks under which a form's identifier stands is the right one; without any, the best
+  // says what is wrong.
+  std::optional<FormGrid> grid;
+  std::optional<FormIdentifier> identifier;
+  for (const MarkSet& marks : search.sets) {
+    auto candidate = FormGrid::ofMarks(m_layout, page, marks.centres);
+    if (!candidate)
+      continue;
+    identifier = FormIdentifier::ofBits(identifierBits(m_layout, page, *candidate));
+    if (identifier || !grid)
+      grid = std::move(candidate);
+    if (identifier)
+      break;
+  }
+  if (!grid)
+    return refused(ScanProblem::NoUpperLeftMark);
+  if (!identifier && !search.sets.front().isHollow)
+    return refused(ScanProblem::NoUpperLeftMark);
+  const PicturePoint start = grid->at({0, 0});
+  const PicturePoint end = grid->at({FormLayout::kWidth, FormLayout::kHeight});
+  const double dots = std::hypot(end.x - start.x, end.y - start.y) * factor /
+                      std::hypot(FormLayout::kWidth, FormLayout::kHeight) * kMillimetresPerInch;
+  if (dots < kLeastDots)
+    return refused(ScanProblem::TooCoarse);
+  if (!goesOn(42))
+    return refused(ScanProblem::Cancelled);
+  if (!grid->followCells(m_layout, page))
+    return refused(ScanProblem::NotReadable);
+  if (!identifier)
+    return refused(ScanProblem::NotThisForm);
+
+  std::vector<CellInk> inks;
+  for (const FormCell& cell : m_layout.cells()) {
+    inks.push_back(inkIn(page, *grid, cell));
+    if (!goesOn(50 + 50.0 * static_cast<double>(inks.size()) / static_cast<double>(m_layout.cells().size())))
+      return refused(ScanProblem::Cancelled);
+  }
+  for (const CellInk& ink : inks) {
+    ReadCell& cell = result.cells.emplace_back();
+    cell.ink = ink.filled;
+    cell.isTicked = ink.depth > 0.28;
+    cell.isDoubtful = ink.depth > 0.22 && ink.depth < 0.34;
+  }
+  result.identifier = *identifier;
+  const PageMapping mapping = grid->whole().enlarged(factor);
+  std::copy(std::begin(mapping.m), std::end(mapping.m), std::begin(result.toPicture));
+  return result;
+}
+
+} // namespace hooptab
