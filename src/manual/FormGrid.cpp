@@ -83,117 +83,168 @@ std::optional<MarkEdges> edgesOf(const GrayPicture& picture, const PageMapping& 
   return MarkEdges{{*x, *y}, median(blacks)};
 }
 
-// --- the borders of cells ---
+// --- printed lines ---
 
-// A few neighbouring cells of one row.
-struct CellGroup {
+// A few parallel printed lines that can only move together: the borders of some neighbouring cells, or a
+// piece of a player's frame.
+struct LineGroup {
+  enum class Measures { Across, Down };
+  Measures measures = Measures::Across; // upright lines tell how far they moved across, level ones down
   int player = 0;
-  std::vector<FormRect> cells;
-  [[nodiscard]] FormPoint middle() const {
-    return {(cells.front().x + cells.back().right()) / 2, cells.front().y + cells.front().height / 2};
-  }
+  bool isFrame = false;
+  FormPoint middle;
+  struct Line {
+    FormPoint from;
+    double length = 0;
+  };
+  std::vector<Line> lines;
 };
 
-std::vector<CellGroup> groupsOf(const FormLayout& layout) {
+void addFrame(std::vector<LineGroup>& groups, const FormLayout& layout, int player) {
+  const FormRect block = layout.block(player);
+  constexpr double kCorner = 1.5; // away from what crosses the line
+  const auto add = [&](LineGroup::Measures measures, int pieces) {
+    const bool isUpright = measures == LineGroup::Measures::Across;
+    const double length = (isUpright ? block.height : block.width) / pieces;
+    for (int piece = 0; piece < pieces; ++piece) {
+      for (const double far : {0.0, isUpright ? block.width : block.height}) {
+        const double start = piece * length + kCorner;
+        const FormPoint from =
+            isUpright ? FormPoint{block.x + far, block.y + start} : FormPoint{block.x + start, block.y + far};
+        const FormPoint middle =
+            isUpright ? FormPoint{from.x, from.y + length / 2} : FormPoint{from.x + length / 2, from.y};
+        groups.push_back({measures, player, true, middle, {{from, length - 2 * kCorner}}});
+      }
+    }
+  };
+  add(LineGroup::Measures::Across, 3);
+  add(LineGroup::Measures::Down, 6);
+}
+
+std::vector<LineGroup> lineGroups(const FormLayout& layout) {
   std::vector<const FormCell*> cells;
   for (const FormCell& cell : layout.cells())
     cells.push_back(&cell);
   std::sort(cells.begin(), cells.end(), [](const FormCell* a, const FormCell* b) {
     return std::pair(a->rect.y, a->rect.x) < std::pair(b->rect.y, b->rect.x);
   });
-  constexpr std::size_t kMost = 7;
-  std::vector<CellGroup> result;
+  constexpr int kMost = 7; // cells in a group
+  constexpr double kCorner = 0.3;
+  std::vector<LineGroup> result;
+  const FormCell* before = nullptr;
+  FormRect first;
+  int count = 0;
   for (const FormCell* cell : cells) {
-    const bool continues = !result.empty() && result.back().cells.size() < kMost &&
-                           result.back().cells.back().y == cell->rect.y &&
-                           cell->rect.x - result.back().cells.back().right() < cell->rect.width;
-    if (!continues)
-      result.push_back({cell->player, {}});
-    result.back().cells.push_back(cell->rect);
+    const FormRect& rect = cell->rect;
+    const bool continues = before != nullptr && count < kMost && before->rect.y == rect.y &&
+                           rect.x - before->rect.right() < rect.width;
+    if (!continues) {
+      result.push_back({LineGroup::Measures::Across, cell->player, false, {}, {}});
+      result.push_back({LineGroup::Measures::Down, cell->player, false, {}, {}});
+      first = rect;
+      count = 0;
+    }
+    LineGroup& across = result[result.size() - 2];
+    LineGroup& down = result.back();
+    for (const double x : {rect.x, rect.right()})
+      across.lines.push_back({{x, rect.y + kCorner}, rect.height - 2 * kCorner});
+    for (const double y : {rect.y, rect.bottom()})
+      down.lines.push_back({{rect.x + kCorner, y}, rect.width - 2 * kCorner});
+    across.middle = down.middle = {(first.x + rect.right()) / 2, rect.y + rect.height / 2};
+    before = cell;
+    ++count;
   }
+  for (int player = 0; player < FormLayout::kPlayers; ++player)
+    addFrame(result, layout, player);
   return result;
 }
 
-struct Offset {
-  double distance = 0; // millimetres
-  double clarity = 0;  // how much darker the borders are there than beside
-};
-
-constexpr double kFarthest = 1;
+constexpr double kFarthest = 1.2; // millimetres that a line is searched beside its place
 constexpr double kOffsetStep = 0.05;
 constexpr int kOffsets = 2 * static_cast<int>(kFarthest / kOffsetStep) + 1;
 
-// How dark the borders' lines are, moved across by each offset. Ink is no darker than a border here, so that
-// ticks count no more than what is printed.
-class BorderProfile {
- public:
-  BorderProfile(const GrayPicture& picture, const FormGrid& grid, int player, double paper)
-      : m_picture(picture), m_grid(grid), m_player(player), m_paper(paper) {}
+// How dark a picture is along a group's lines when they are moved by each offset. Several groups' profiles
+// may be added up.
+struct LineProfile {
+  std::array<double, kOffsets> dark = {};
 
-  // One line from a point, of a length along one axis, shifted along the other.
-  void add(const FormPoint& from, double length, bool isVertical) {
-    constexpr int kSamples = 10;
-    const FormPoint to = isVertical ? FormPoint{from.x, from.y + length} : FormPoint{from.x + length, from.y};
-    const PicturePoint first = m_grid.at(m_player, from);
-    const PicturePoint last = m_grid.at(m_player, to);
-    const PicturePoint next =
-        m_grid.at(m_player, isVertical ? FormPoint{from.x + 1, from.y} : FormPoint{from.x, from.y + 1});
-    for (int sample = 0; sample < kSamples; ++sample) {
-      const double part = (sample + 0.5) / kSamples;
-      const double x = first.x + part * (last.x - first.x);
-      const double y = first.y + part * (last.y - first.y);
-      for (int offset = 0; offset < kOffsets; ++offset) {
-        const double distance = offset * kOffsetStep - kFarthest;
-        const double shade =
-            shadeAt(m_picture, x + distance * (next.x - first.x), y + distance * (next.y - first.y));
-        m_dark[static_cast<std::size_t>(offset)] += std::clamp(1 - shade / m_paper, 0.0, kBorderDark);
-      }
+  struct Peak {
+    double offset = 0;  // millimetres
+    double clarity = 0; // how much darker the lines are there than elsewhere
+  };
+  [[nodiscard]] Peak best(double around, double far) const {
+    constexpr int kHalf = 2; // as wide as the line that is searched
+    std::vector<double> wide(dark.size());
+    for (int i = kHalf; i < kOffsets - kHalf; ++i) {
+      for (int k = i - kHalf; k <= i + kHalf; ++k)
+        wide[static_cast<std::size_t>(i)] += dark[static_cast<std::size_t>(k)] / (2 * kHalf + 1);
     }
-    m_samples += kSamples;
-  }
-
-  [[nodiscard]] Offset best() const {
-    // As wide as the line that is searched.
-    constexpr std::size_t kHalf = 2;
-    std::array<double, kOffsets> wide = {};
-    std::size_t best = kHalf;
-    for (std::size_t i = kHalf; i + kHalf < wide.size(); ++i) {
-      for (std::size_t k = i - kHalf; k <= i + kHalf; ++k)
-        wide[i] += m_dark[k];
-      if (wide[i] > wide[best])
-        best = i;
+    const auto offsetOf = [](double index) { return index * kOffsetStep - kFarthest; };
+    std::size_t peak = 0;
+    for (std::size_t i = kHalf + 1; i + kHalf + 1 < wide.size(); ++i) {
+      if (std::abs(offsetOf(static_cast<double>(i)) - around) <= far && (peak == 0 || wide[i] > wide[peak]))
+        peak = i;
     }
-    if (best <= kHalf || best + kHalf + 1 >= wide.size())
+    if (peak == 0)
       return {};
-    const double before = wide[best - 1] - wide[best];
-    const double after = wide[best + 1] - wide[best];
-    const double peak = before + after < 0 ? (before - after) / (2 * (before + after)) : 0;
-    std::vector<double> all(wide.begin() + kHalf, wide.end() - kHalf);
-    const double usual = median(all);
-    return {(static_cast<double>(best) + peak) * kOffsetStep - kFarthest,
-            (wide[best] - usual) / (2 * kHalf + 1) / m_samples};
+    const double before = wide[peak - 1] - wide[peak];
+    const double after = wide[peak + 1] - wide[peak];
+    if (before > 0 || after > 0) // still rising at the end of the search
+      return {};
+    const double between = before + after < 0 ? (before - after) / (2 * (before + after)) : 0;
+    const double top = wide[peak];
+    return {offsetOf(static_cast<double>(peak) + between), top - median(wide)};
   }
-
- private:
-  static constexpr double kBorderDark = 0.5;
-  const GrayPicture& m_picture;
-  const FormGrid& m_grid;
-  int m_player;
-  double m_paper;
-  std::array<double, kOffsets> m_dark = {};
-  int m_samples = 0;
 };
 
-double paperAround(const GrayPicture& picture, const FormGrid& grid, const CellGroup& group) {
+double paperAlong(const GrayPicture& picture, const FormGrid& grid, const LineGroup& group) {
   std::vector<double> shades;
-  const FormRect& last = group.cells.back();
-  for (double x = group.cells.front().x - 0.4; x <= last.right() + 0.4; x += 0.4) {
-    for (double y = last.y - 0.4; y <= last.bottom() + 0.4; y += 0.4)
-      shades.push_back(shadeAt(picture, grid.at(group.player, {x, y})));
+  const bool isAcross = group.measures == LineGroup::Measures::Across;
+  for (const LineGroup::Line& line : group.lines) {
+    for (const double part : {0.1, 0.3, 0.5, 0.7, 0.9}) {
+      for (const double beside : {-0.6, 0.6}) {
+        const double x = line.from.x + (isAcross ? beside : part * line.length);
+        const double y = line.from.y + (isAcross ? part * line.length : beside);
+        shades.push_back(shadeAt(picture, grid.at(group.player, {x, y})));
+      }
+    }
   }
   const auto light = shades.begin() + static_cast<std::ptrdiff_t>(shades.size() * 3 / 4);
   std::nth_element(shades.begin(), light, shades.end());
   return std::max(1.0, *light);
+}
+
+LineProfile profileOf(const GrayPicture& picture, const FormGrid& grid, const LineGroup& group) {
+  // Ink is no darker than a border here, so that ticks count no more than what is printed.
+  constexpr double kBorderDark = 0.5;
+  const double paper = paperAlong(picture, grid, group);
+  const double range = paper * (1 - grid.black());
+  const bool isAcross = group.measures == LineGroup::Measures::Across;
+  const int samples = group.isFrame ? 60 : 10;
+  const double each = 1.0 / samples / static_cast<double>(group.lines.size());
+  LineProfile result;
+  for (const LineGroup::Line& line : group.lines) {
+    const FormPoint& from = line.from;
+    const FormPoint to =
+        isAcross ? FormPoint{from.x, from.y + line.length} : FormPoint{from.x + line.length, from.y};
+    const PicturePoint first = grid.at(group.player, from);
+    const PicturePoint last = grid.at(group.player, to);
+    const PicturePoint next =
+        grid.at(group.player, isAcross ? FormPoint{from.x + 1, from.y} : FormPoint{from.x, from.y + 1});
+    for (int sample = 0; sample < samples; ++sample) {
+      const double part = (sample + 0.5) / samples;
+      const double x = first.x + part * (last.x - first.x);
+      const double y = first.y + part * (last.y - first.y);
+      for (int i = 0; i < kOffsets; ++i) {
+        const double offset = i * kOffsetStep - kFarthest;
+        const double shade =
+            shadeAt(picture, x + offset * (next.x - first.x), y + offset * (next.y - first.y));
+        result.dark[static_cast<std::size_t>(i)] +=
+            each * std::clamp((paper - shade) / range, 0.0, group.isFrame ? 1.0 : kBorderDark);
+      }
+    }
+  }
+  return result;
 }
 
 } // namespace
@@ -237,59 +288,70 @@ PicturePoint FormGrid::at(int player, const FormPoint& point) const {
   return at(shifted(m_shifts[static_cast<std::size_t>(player)], point));
 }
 
-bool FormGrid::followCells(const FormLayout& layout, const GrayPicture& picture) {
+bool FormGrid::followLines(const FormLayout& layout, const GrayPicture& picture) {
+  constexpr double kFrameClear = 0.15;   // of black
+  constexpr double kBorderClear = 0.012; // what a border has on a very light page
+  constexpr double kFarFromOthers = 0.35;
   struct Measured {
-    const CellGroup* group;
-    Offset x, y;
+    const LineGroup* group;
+    LineProfile profile;
+    LineProfile::Peak peak;
   };
-  const std::vector<CellGroup> groups = groupsOf(layout);
-  constexpr double kClear = 0.06; // of the darkness of a border after blur
+  const std::vector<LineGroup> groups = lineGroups(layout);
   std::vector<Measured> measured;
-  std::size_t clear = 0;
-  for (const CellGroup& group : groups) {
-    const double paper = paperAround(picture, *this, group);
-    BorderProfile x(picture, *this, group.player, paper);
-    BorderProfile y(picture, *this, group.player, paper);
-    for (const FormRect& cell : group.cells) {
-      constexpr double kCorner = 0.3;
-      for (const double left : {cell.x, cell.right()})
-        x.add({left, cell.y + kCorner}, cell.height - 2 * kCorner, true);
-      for (const double top : {cell.y, cell.bottom()})
-        y.add({cell.x + kCorner, top}, cell.width - 2 * kCorner, false);
-    }
-    measured.push_back({&group, x.best(), y.best()});
-    if (measured.back().x.clarity > kClear && measured.back().y.clarity > kClear)
-      ++clear;
-  }
-  if (clear * 2 < groups.size())
-    return false;
+  for (const LineGroup& group : groups)
+    measured.push_back({&group, profileOf(picture, *this, group), {}});
 
+  int frames = 0;
+  int clearFrames = 0;
   for (int player = 0; player < FormLayout::kPlayers; ++player) {
-    Shift& shift = m_shifts[static_cast<std::size_t>(player)];
-    const auto fit = [&](Offset Measured::*offset, std::array<double, 3> Shift::*factors) {
+    for (const auto measures : {LineGroup::Measures::Across, LineGroup::Measures::Down}) {
+      std::vector<Measured*> own;
+      for (Measured& each : measured) {
+        if (each.group->player == player && each.group->measures == measures)
+          own.push_back(&each);
+      }
+      // All lines of a player together cannot be taken for their neighbours, each for itself could.
+      LineProfile together;
+      for (const Measured* each : own) {
+        for (std::size_t i = 0; i < together.dark.size(); ++i)
+          together.dark[i] += each->profile.dark[i];
+      }
+      const double usual = together.best(0, kFarthest).offset;
+      for (Measured* each : own) {
+        each->peak = each->profile.best(usual, kFarFromOthers);
+        if (each->group->isFrame) {
+          ++frames;
+          clearFrames += each->peak.clarity > kFrameClear ? 1 : 0;
+        }
+      }
+
+      Shift& shift = m_shifts[static_cast<std::size_t>(player)];
+      auto& factors = measures == LineGroup::Measures::Across ? shift.x : shift.y;
+      factors = {usual, 0, 0};
       // Each time with less weight for what lies far from the others.
-      constexpr double kFar = 0.1;
-      for (int pass = 0; pass < 5; ++pass) {
+      constexpr double kFar = 0.08;
+      for (int pass = 0; pass < 6; ++pass) {
         LeastSquares<3> squares;
-        for (const Measured& each : measured) {
-          const Offset& found = each.*offset;
-          if (each.group->player != player || found.clarity < kClear)
+        for (const Measured* each : own) {
+          const LineGroup& group = *each->group;
+          if (each->peak.clarity < kBorderClear)
             continue;
-          const FormPoint middle = each.group->middle();
-          const std::array<double, 3> terms = {1, (middle.x - shift.middle.x) / 100,
-                                               (middle.y - shift.middle.y) / 100};
-          const auto& now = shift.*factors;
-          const double rest =
-              pass == 0 ? 0 : found.distance - now[0] * terms[0] - now[1] * terms[1] - now[2] * terms[2];
-          squares.add(terms, found.distance, found.clarity / (1 + rest * rest / (kFar * kFar)));
+          const std::array<double, 3> terms = {1, (group.middle.x - shift.middle.x) / 100,
+                                               (group.middle.y - shift.middle.y) / 100};
+          const double rest = each->peak.offset - factors[0] - factors[1] * terms[1] - factors[2] * terms[2];
+          constexpr double kEnough = 0.08; // clarity
+          const double weight = std::min(1.0, each->peak.clarity / kEnough);
+          squares.add(terms, each->peak.offset,
+                      pass == 0 ? weight : weight / (1 + rest * rest / (kFar * kFar)));
         }
         if (const auto solved = squares.solution())
-          shift.*factors = *solved;
+          factors = *solved;
       }
-    };
-    fit(&Measured::x, &Shift::x);
-    fit(&Measured::y, &Shift::y);
+    }
   }
+  if (clearFrames * 2 < frames)
+    return false;
 
   // The page as a whole follows its players.
   std::vector<PageMapping::Pair> pairs;

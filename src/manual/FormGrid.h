@@ -1,5 +1,5 @@
 // Where every point of a form lies in its picture, exactly: from the rough places of its marks to their
-// edges, and from there to the printed borders of the cells of each player, since no scanner feeds its paper
+// edges, and from there to the printed lines of each player, since no scanner feeds its paper
 // evenly.
 #pragma once
 
@@ -17,8 +17,8 @@ class FormGrid {
   // Follows the edges of the marks; nothing when they are none.
   [[nodiscard]] static std::optional<FormGrid> ofMarks(const FormLayout& layout, const GrayPicture& picture,
                                                        const std::array<PicturePoint, 4>& centres);
-  // Follows the borders of the cells; false when too few are where they must be.
-  bool followCells(const FormLayout& layout, const GrayPicture& picture);
+  // Follows the players' frames and the borders of their cells; false when too few are where they must be.
+  bool followLines(const FormLayout& layout, const GrayPicture& picture);
 
   // The best that one mapping can say of the whole page.
   [[nodiscard]] const PageMapping& whole() const { return m_whole; }

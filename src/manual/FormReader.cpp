@@ -130,7 +130,7 @@ FormReading FormReader::read(const GrayPicture& picture, const Progress& progres
     return refused(ScanProblem::TooCoarse);
   if (!goesOn(42))
     return refused(ScanProblem::Cancelled);
-  if (!grid->followCells(m_layout, page))
+  if (!grid->followLines(m_layout, page))
     return refused(ScanProblem::NotReadable);
   if (!identifier)
     return refused(ScanProblem::NotThisForm);
