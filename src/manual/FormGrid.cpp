@@ -302,6 +302,7 @@ bool FormGrid::followLines(const FormLayout& layout, const GrayPicture& picture)
   for (const LineGroup& group : groups)
     measured.push_back({&group, profileOf(picture, *this, group), {}});
 
+  std::vector<double> borders;
   int frames = 0;
   int clearFrames = 0;
   for (int player = 0; player < FormLayout::kPlayers; ++player) {
@@ -323,6 +324,8 @@ bool FormGrid::followLines(const FormLayout& layout, const GrayPicture& picture)
         if (each->group->isFrame) {
           ++frames;
           clearFrames += each->peak.clarity > kFrameClear ? 1 : 0;
+        } else {
+          borders.push_back(each->peak.clarity);
         }
       }
 
@@ -352,6 +355,7 @@ bool FormGrid::followLines(const FormLayout& layout, const GrayPicture& picture)
   }
   if (clearFrames * 2 < frames)
     return false;
+  m_border = median(borders);
 
   // The page as a whole follows its players.
   std::vector<PageMapping::Pair> pairs;

@@ -24,6 +24,9 @@ class FormGrid {
   [[nodiscard]] const PageMapping& whole() const { return m_whole; }
   // Black ink on white paper: the part of the paper's light that it gives back.
   [[nodiscard]] double black() const { return m_black; }
+  // How dark the borders of cells came out, in parts of black: they are printed in a grey lighter than any
+  // pen, so they tell how much the scan keeps of a faint stroke.
+  [[nodiscard]] double border() const { return m_border; }
   [[nodiscard]] PicturePoint at(const FormPoint& point) const { return m_page.at(point.x, point.y); }
   [[nodiscard]] PicturePoint at(int player, const FormPoint& point) const;
 
@@ -38,6 +41,7 @@ class FormGrid {
   PageMapping m_page; // by the marks; shifts are measured in it
   PageMapping m_whole;
   double m_black = 0;
+  double m_border = 0;
   std::array<Shift, FormLayout::kPlayers> m_shifts;
 };
 

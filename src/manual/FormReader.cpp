@@ -4,6 +4,7 @@
 #include "manual/FormMarks.h"
 #include "manual/InkMeasure.h"
 #include "manual/PictureSums.h"
+#include "manual/TickRule.h"
 
 #include <algorithm>
 #include <cmath>
@@ -135,18 +136,34 @@ FormReading FormReader::read(const GrayPicture& picture, const Progress& progres
   if (!identifier)
     return refused(ScanProblem::NotThisForm);
 
+  const auto part = [&](std::size_t cells) {
+    return static_cast<double>(cells) / static_cast<double>(m_layout.cells().size());
+  };
   std::vector<CellInk> inks;
   for (const FormCell& cell : m_layout.cells()) {
     inks.push_back(inkIn(page, *grid, cell));
-    if (!goesOn(50 + 50.0 * static_cast<double>(inks.size()) / static_cast<double>(m_layout.cells().size())))
+    if (!goesOn(50 + 40 * part(inks.size())))
       return refused(ScanProblem::Cancelled);
   }
-  for (const CellInk& ink : inks) {
-    ReadCell& cell = result.cells.emplace_back();
-    cell.ink = ink.filled;
-    cell.isTicked = ink.depth > 0.28;
-    cell.isDoubtful = ink.depth > 0.22 && ink.depth < 0.34;
+  // Digits that are printed black say nothing about the hand.
+  const auto byHand = [&] {
+    std::vector<CellInk> written;
+    for (std::size_t i = 0; i < inks.size(); ++i) {
+      if (!identifier->isPrepared || m_layout.cells()[i].kind != FormCell::Kind::JerseyDigit)
+        written.push_back(inks[i]);
+    }
+    return written;
+  };
+  const TickRule first(byHand(), grid->border());
+  for (std::size_t i = 0; i < inks.size(); ++i) {
+    if (TickRule::strength(inks[i]) > first.slightest())
+      inks[i] = inkIn(page, *grid, m_layout.cells()[i], first.darkest());
+    if (!goesOn(90 + 10 * part(i)))
+      return refused(ScanProblem::Cancelled);
   }
+  const TickRule rule(byHand(), grid->border());
+  for (const CellInk& ink : inks)
+    result.cells.push_back(rule.read(ink));
   result.identifier = *identifier;
   const PageMapping mapping = grid->whole().enlarged(factor);
   std::copy(std::begin(mapping.m), std::end(mapping.m), std::begin(result.toPicture));

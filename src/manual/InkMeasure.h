@@ -7,10 +7,17 @@
 namespace hooptab {
 
 struct CellInk {
-  double filled = 0; // part of the inside that is as dark as ink
-  double depth = 0;  // how dark its darkest parts are, as many as the smallest tick has: 0 paper, 1 black
+  // How dark the darkest parts are, as many as the smallest tick has and rather those in the middle of the
+  // cell: 0 paper, 1 black.
+  double depth = 0;
+  // The square millimetres that are more than half as dark as that.
+  double extent = 0;
+  // The part of the inside that gives back less light than paper does, all in all.
+  double filled = 0;
 };
 
-[[nodiscard]] CellInk inkIn(const GrayPicture& picture, const FormGrid& grid, const FormCell& cell);
+// Nothing counts as darker than `darkest`: beside faint strokes, small black dirt is no more than they are.
+[[nodiscard]] CellInk inkIn(const GrayPicture& picture, const FormGrid& grid, const FormCell& cell,
+                            double darkest = 1);
 
 } // namespace hooptab
