@@ -30,6 +30,8 @@ constexpr double kBarely = 0.25;      // and of one that is searched where the o
 constexpr double kMarkReach = 4;      // two marks are never nearer, in millimetres
 constexpr double kNotHollow = 0.4;    // what it costs to take a solid mark for the hollow one
 constexpr double kCoarsePixels = 2.5; // of the reduced picture on a millimetre
+constexpr double kMostPixels = 1.5e6; // of the reduced picture
+constexpr double kLeastScale = 0.8;   // with less than this on a millimetre no hole can be seen
 constexpr std::size_t kMostMarks = 400;
 constexpr std::size_t kMostSets = 8;
 constexpr int kMostTries = 20000; // bounds the time for a picture full of squares
@@ -161,7 +163,7 @@ std::optional<MarksSeen> seenMarks(const GrayPicture& coarse, const MarkLook& lo
         const int middle = pixel(x, y);
         const int walls = std::min(pixel(x - wall, y), pixel(x, y - wall));
         const int paper = std::max({pixel(x - outside, y), pixel(x + outside, y), pixel(x, y - outside)});
-        if (walls * 5 > paper * 4)
+        if (walls * 5 >= paper * 4)
           continue;
         const Place place(x + 0.5, y + 0.5);
         const std::size_t tile = static_cast<std::size_t>(y / kTile) * static_cast<std::size_t>(across) +
@@ -379,12 +381,15 @@ MarkSearch findMarks(const FormLayout& layout, const GrayPicture& picture, const
   // The whole form is hardly larger than the picture; where half of it is missing, it may be so in one
   // direction.
   const double fits = std::min(picture.width / FormLayout::kWidth, picture.height / FormLayout::kHeight);
-  const int factor = std::max(1, static_cast<int>(std::lround(fits / kCoarsePixels)));
+  // A long strip is no page, but must not take the time of many.
+  const double pixels = static_cast<double>(picture.width) * picture.height;
+  const int factor =
+      static_cast<int>(std::lround(std::max({1.0, fits / kCoarsePixels, std::sqrt(pixels / kMostPixels)})));
   const GrayPicture coarse = reduced(picture, factor);
   const PictureSums sums(coarse);
   const MarkLook look(sums);
   const double largest = fits / factor * 2.2;
-  const double smallest = fits / factor * 0.5;
+  const double smallest = std::max(kLeastScale, fits / factor * 0.5);
   const auto seen = seenMarks(coarse, look, largest, smallest, progress);
   if (!seen) {
     result.problem = ScanProblem::Cancelled;
@@ -404,11 +409,13 @@ MarkSearch findMarks(const FormLayout& layout, const GrayPicture& picture, const
   }
   if (!result.sets.empty())
     return result;
-  // A hollow mark in the upper left part tells which of the others are missing.
+  // A hollow mark in the upper left part, and not cut off by the edge, tells which of the others are missing.
   result.problem = ScanProblem::NoUpperLeftMark;
   for (const auto& set : sets) {
-    const Place place = set.marks[0]->place;
-    if (set.isHollow && place.real() < coarse.width * 0.5 && place.imag() < coarse.height * 0.5) {
+    const Mark& mark = *set.marks[0];
+    const double half = FormLayout::kMark / 2 * mark.scale;
+    if (set.isHollow && mark.place.real() > half && mark.place.imag() > half &&
+        mark.place.real() < coarse.width / 2.0 && mark.place.imag() < coarse.height / 2.0) {
       result.problem = missingEdge(set);
       break;
     }

@@ -158,7 +158,7 @@ FormReading FormReader::read(const GrayPicture& picture, const Progress& progres
   for (std::size_t i = 0; i < inks.size(); ++i) {
     if (TickRule::strength(inks[i]) > first.slightest())
       inks[i] = inkIn(page, *grid, m_layout.cells()[i], first.darkest());
-    if (!goesOn(90 + 10 * part(i)))
+    if (!goesOn(90 + 10 * part(i + 1)))
       return refused(ScanProblem::Cancelled);
   }
   const TickRule rule(byHand(), grid->border());

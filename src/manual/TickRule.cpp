@@ -61,7 +61,8 @@ TickRule::TickRule(std::span<const CellInk> cells, double border) {
   // The border of a cell is fainter than any pen, but a smudge may be as dark.
   constexpr double kStrokeToBorder = 1.9;
   constexpr double kFaintestOfAll = 0.035;
-  m_faintest = std::max(kFaintestOfAll, kStrokeToBorder * border);
+  constexpr double kEverywhereSeen = 0.27;
+  m_faintest = std::clamp(kStrokeToBorder * border, kFaintestOfAll, kEverywhereSeen);
   std::vector<double> strengths;
   for (const CellInk& ink : cells)
     strengths.push_back(strength(ink));
@@ -76,7 +77,7 @@ TickRule::TickRule(std::span<const CellInk> cells, double border) {
   // Nearly the strongest: one blot is no measure.
   const double strong = *(first + (strengths.end() - first - 1) * 9 / 10);
   m_typical = meanAbove(strengths, strong / 2);
-  m_threshold = widestGap(strengths, 0.55 * m_typical, 0.35 * m_typical, 0.65 * m_typical);
+  m_threshold = widestGap(strengths, 0.55 * m_typical, 0.45 * m_typical, 0.62 * m_typical);
 }
 
 double TickRule::darkest() const {
@@ -88,7 +89,7 @@ ReadCell TickRule::read(const CellInk& ink) const {
   ReadCell result;
   result.ink = ink.filled;
   result.isTicked = found > m_threshold;
-  const double unsure = m_isSure ? 1.25 : 1.6;
+  const double unsure = m_isSure ? 1.35 : 1.3;
   result.isDoubtful = found > m_threshold / unsure && found < m_threshold * unsure;
   // Fainter than the others, but a stroke: perhaps with another pen.
   if (!result.isTicked && found > m_faintest && ink.extent > kSpeck)
