@@ -174,13 +174,15 @@ GrayPicture Scanner::scan(const PaperSheet& paper, Random& random) const {
     return Place{formMiddle.x + turnedX,
                  formMiddle.y + turnedY + feed * std::sin(turnedY / feedLength * 2 * std::numbers::pi)};
   };
-  const auto reflected = [&](double column, double row) {
-    const Place dot = paper.dot(paperAt(column, row));
-    const GrayPicture& picture = paper.picture();
-    if (dot.x < 0 || dot.y < 0 || dot.x >= picture.width || dot.y >= picture.height)
+  const GrayPicture& dots = paper.picture();
+  const auto reflected = [&](Place dot) {
+    if (dot.x < 0 || dot.y < 0 || dot.x >= dots.width || dot.y >= dots.height)
       return lid;
-    return picture.at(static_cast<int>(dot.x), static_cast<int>(dot.y)) / 255.0;
+    return dots.at(static_cast<int>(dot.x), static_cast<int>(dot.y)) / 255.0;
   };
+  // From the middle of a pixel to the middle of its quarters, in dots of the paper.
+  const double quarterX = perPixelX * PaperSheet::kDotsPerMillimetre / 4;
+  const double quarterY = perPixelY * PaperSheet::kDotsPerMillimetre / 4;
 
   // Where the lamp shines best it is as bright as an even one.
   const double brightest = 1 + std::abs(slopeX) + std::abs(slopeY);
@@ -197,10 +199,12 @@ GrayPicture Scanner::scan(const PaperSheet& paper, Random& random) const {
     const double v = 2.0 * y / light.height - 1;
     for (int x = 0; x < light.width; ++x) {
       const double u = 2.0 * x / light.width - 1;
+      const Place middle = paper.dot(paperAt(x + 0.5, y + 0.5));
       double sum = 0;
-      for (const double dx : {0.25, 0.75}) {
-        for (const double dy : {0.25, 0.75})
-          sum += reflected(x + dx, y + dy);
+      for (const double right : {-quarterX, quarterX}) {
+        for (const double down : {-quarterY, quarterY})
+          sum +=
+              reflected({middle.x + right * cosine + down * sine, middle.y + down * cosine - right * sine});
       }
       const double falls = 1 + slopeX * u + slopeY * v - bulge * (u * u + v * v) / 2;
       light.values[light.index(x, y)] =
