@@ -64,7 +64,7 @@ Pen Pen::some(Kind kind, Random& random) {
   switch (kind) {
   case Kind::BlackBallpoint: return pen(0.17, 0.27, 0.75, 0.95, 0.1);
   case Kind::BlueBallpoint: return pen(0.17, 0.27, 0.6, 0.8, 0.15);
-  case Kind::Pencil: return pen(0.2, 0.36, 0.42, 0.7, 0.5);
+  case Kind::Pencil: return pen(0.2, 0.36, 0.5, 0.7, 0.4);
   case Kind::FeltPen: return pen(0.35, 0.6, 0.85, 0.97, 0);
   }
   return {};

@@ -118,13 +118,13 @@ Scanner Scanner::some(Random& random, Damages& damages) {
   scanner.blur = random.chance(250) ? real(random, 1, 1.6) : real(random, 0.4, 1);
   scanner.sharpen = random.chance(300) ? real(random, 0.3, 1) : 0;
   scanner.noise = random.chance(250) ? real(random, 7, 13) : real(random, 1, 7);
-  damages.add(Damage::Blur, scanner.blur > 1);
-  damages.add(Damage::Noise, scanner.noise > 7);
   switch (random.below(6)) {
   case 0:
     damages.add(Damage::Light);
-    scanner.gain = real(random, 1.1, 1.3);
-    scanner.gamma = real(random, 0.65, 0.9);
+    // Not so light that the cells' frames are gone from a blurred page: nobody could count any more.
+    scanner.blur = std::min(scanner.blur, 1.0);
+    scanner.gain = real(random, 1.05, 1.15);
+    scanner.gamma = real(random, 0.7, 0.9);
     scanner.white = 255;
     scanner.black = real(random, 10, 50);
     break;
@@ -145,6 +145,8 @@ Scanner Scanner::some(Random& random, Damages& damages) {
     scanner.gamma = real(random, 0.85, 1.15);
   }
   scanner.jpegQuality = random.between(30, 80);
+  damages.add(Damage::Blur, scanner.blur > 1);
+  damages.add(Damage::Noise, scanner.noise > 7);
   damages.add(Damage::Jpeg, scanner.jpegQuality < 45);
   return scanner;
 }
