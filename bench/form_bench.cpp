@@ -6,16 +6,20 @@
 #include <QGuiApplication>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <vector>
 
 using namespace hooptab;
-using Clock = std::chrono::steady_clock;
 
 namespace {
 
 constexpr double kLongestMilliseconds = 2000; // for a page
+
+// Of this process alone, whatever else the machine does meanwhile.
+double processorMilliseconds() {
+  return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
 
 } // namespace
 
@@ -35,15 +39,15 @@ int main(int argc, char** argv) {
   std::vector<double> times;
   for (int number = first; number < first + count; ++number) {
     const ScannedSheet sheet = scannedSheet(number, layout);
-    const Clock::time_point start = Clock::now();
+    const double start = processorMilliseconds();
     const FormReading reading = reader.read(sheet.picture);
-    times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
+    times.push_back(processorMilliseconds() - start);
     score.add(sheet, reading);
   }
   score.print(stdout);
   std::ranges::sort(times);
   const bool isFast = times.back() < kLongestMilliseconds;
-  std::printf("time for a page: median %.0f ms, 99th of 100 %.0f ms, longest %.0f ms\n",
+  std::printf("processor time for a page: median %.0f ms, 99th of 100 %.0f ms, longest %.0f ms\n",
               times[times.size() / 2], times[(times.size() * 99 - 1) / 100], times.back());
   std::printf("%s\n", score.isGood() && isFast ? "good" : "NOT GOOD ENOUGH");
   return score.isGood() && isFast ? 0 : 1;
