@@ -17,6 +17,11 @@ QString QtDialogs::chooseFile(QWidget* parent, const QString& title, const QStri
   return QFileDialog::getOpenFileName(parent, title, folder, filter);
 }
 
+QStringList QtDialogs::chooseFiles(QWidget* parent, const QString& title, const QString& folder,
+                                   const QString& filter) {
+  return QFileDialog::getOpenFileNames(parent, title, folder, filter);
+}
+
 QString QtDialogs::chooseFolder(QWidget* parent, const QString& title, const QString& folder) {
   return QFileDialog::getExistingDirectory(parent, title, folder);
 }

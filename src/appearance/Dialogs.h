@@ -21,6 +21,9 @@ class Dialogs {
   // The chosen file, empty when cancelled. `filter` as Qt's file dialog takes it.
   virtual QString chooseFile(QWidget* parent, const QString& title, const QString& folder,
                              const QString& filter) = 0;
+  // One or several files of one folder; none when cancelled.
+  virtual QStringList chooseFiles(QWidget* parent, const QString& title, const QString& folder,
+                                  const QString& filter) = 0;
   // The chosen folder, empty when cancelled.
   virtual QString chooseFolder(QWidget* parent, const QString& title, const QString& folder) = 0;
   // A file to write, `proposed` (a whole path) preselected; empty when cancelled. Without an ending the path
@@ -42,6 +45,8 @@ class QtDialogs : public Dialogs {
  public:
   QString chooseFile(QWidget* parent, const QString& title, const QString& folder,
                      const QString& filter) override;
+  QStringList chooseFiles(QWidget* parent, const QString& title, const QString& folder,
+                          const QString& filter) override;
   QString chooseFolder(QWidget* parent, const QString& title, const QString& folder) override;
   QString chooseFileToSave(QWidget* parent, const QString& title, const QString& proposed,
                            const QString& filter, const QString& ending) override;

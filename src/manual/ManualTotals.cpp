@@ -75,6 +75,14 @@ bool setShots(std::vector<ManualShot>& shots, bool isMade, int count) {
   return true;
 }
 
+// Takes the last shots with a place away that are more than `count`; how many.
+int dropPlaced(std::vector<ManualShot>& shots, bool isMade, int count) {
+  int kept = 0;
+  return static_cast<int>(std::erase_if(shots, [&](const ManualShot& shot) {
+    return shot.isMade == isMade && !shot.place.empty() && ++kept > count;
+  }));
+}
+
 void addLines(std::vector<std::string>& lines, int count, EventCode code, bool isMade, int team,
               const std::string& number) {
   for (int written = 0; written < count; ++written)
@@ -199,6 +207,23 @@ ManualTotals::Typed ManualTotals::setCount(int team, int number, Counter counter
   }
   touched(team, number);
   return Typed::Taken;
+}
+
+int ManualTotals::setCounts(int team, int number, const Counters& counts) {
+  ManualSlot& changed = counts.hasAny() ? touched(team, number) : slot(team, number);
+  changed.counters = counts;
+  int gone = 0;
+  for (const EventCode code : kPlaced) {
+    const EventKind& kind = *kindOf(code);
+    changed.counters[kind.counter] = 0; // the lists are their counts
+    changed.counters[kind.attempts] = 0;
+    std::vector<ManualShot>& shots = changed.shots(code);
+    gone += dropPlaced(shots, true, counts[kind.counter]);
+    gone += dropPlaced(shots, false, counts[kind.attempts] - counts[kind.counter]);
+    setShots(shots, true, counts[kind.counter]);
+    setShots(shots, false, counts[kind.attempts] - counts[kind.counter]);
+  }
+  return gone;
 }
 
 void ManualTotals::addShot(int team, int number, EventCode code, bool isMade, int x, int y) {

@@ -65,6 +65,9 @@ class ManualTotals {
   // field goals under those that have a place: the other field goals are added and taken away without one.
   enum class Typed { Taken, UnderMade, UnderPlaced, OutOfRange };
   [[nodiscard]] Typed setCount(int team, int slot, Counter counter, int count);
+  // All counts of a player at once; none above the largest, no attempts under made. Field goals that have a
+  // place stay as long as there are enough of their kind, the earliest ones first. How many had to go.
+  int setCounts(int team, int slot, const Counters& counts);
 
   // At whole units of the court.
   void addShot(int team, int slot, EventCode code, bool isMade, int x, int y);

@@ -5,8 +5,8 @@
 #include "appearance/relabel.h"
 #include "manual/CountButton.h"
 #include "manual/CountCell.h"
+#include "manual/CounterWords.h"
 #include "manual/ManualGame.h"
-#include "storage/Settings.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -20,8 +20,6 @@ constexpr int kTotal = 1070;
 constexpr int kPlayerName = 1023;
 constexpr int kMadeShort = 1342;
 constexpr int kAttemptedShort = 1343;
-constexpr int kMadeOf = 1700;
-constexpr int kAttemptsOf = 1701;
 constexpr int kPointsScored = 1708;
 constexpr int kTableName = 2295;
 constexpr int kTableKeys = 2296;
@@ -261,22 +259,8 @@ QString TotalsTable::typedText(int slot, int column) const {
   return countText(m_game.totals.slot(m_team, slot).counts()[columnAt(column).counter]);
 }
 
-QString TotalsTable::ownLabel(EventCode code) const {
-  const std::size_t which = code == EventCode::SU1 ? 0 : 1;
-  std::string label = Settings::shownLabel(m_game.details().statisticLabel[which]);
-  if (label.empty())
-    label = Settings::shownLabel(m_settings.statisticLabel[which]);
-  return label.empty() ? caption(m_texts, kindOf(code)->wordsText) : toQt(label);
-}
-
 QString TotalsTable::words(int column) const {
-  const ManualColumn& counted = columnAt(column);
-  const EventKind& kind = *kindOf(counted.code);
-  if (counted.code == EventCode::SU1 || counted.code == EventCode::SU2)
-    return ownLabel(counted.code);
-  if (!kind.isShot)
-    return caption(m_texts, kind.wordsText);
-  return toQt(m_texts.withPlaceholder(counted.isMade ? kMadeOf : kAttemptsOf, m_texts.text(kind.wordsText)));
+  return toQt(counterWords(columnAt(column), m_game.details(), m_settings, m_texts));
 }
 
 TableContent TotalsTable::tableContent() const {
@@ -323,8 +307,7 @@ void TotalsTable::relabelTable() {
     if (m_buttons[at] == nullptr)
       continue;
     const bool isOwn = counted.code == EventCode::SU1 || counted.code == EventCode::SU2;
-    const QString toolTip =
-        (isOwn ? ownLabel(counted.code) : QString()) + caption(m_texts, counted.buttonWords);
+    const QString toolTip = (isOwn ? words(column) : QString()) + caption(m_texts, counted.buttonWords);
     m_buttons[at]->setToolTip(toolTip);
     m_buttons[at]->setStatusTip(toolTip);
     m_buttons[at]->setAccessibleName(toolTip);

@@ -67,7 +67,6 @@ class TotalsTable : public QWidget, public ShownTable {
   [[nodiscard]] int players() const; // of the team
   [[nodiscard]] bool isOnPage(int column) const;
   [[nodiscard]] QString words(int column) const;
-  [[nodiscard]] QString ownLabel(EventCode code) const;
   void choose(int player, int column);
   void press(const ManualColumn& column, ManualTotals::Step step); // for the chosen player
   bool setCount(const ManualColumn& column, int count);

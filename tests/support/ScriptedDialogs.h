@@ -19,6 +19,7 @@ class ScriptedDialogs : public Dialogs {
   };
 
   QString nextFile; // empty: the user cancels
+  QStringList nextFiles;
   QString nextFileToSave;
   QString nextFolder;
   QColor nextColour; // not valid: the user cancels
@@ -37,6 +38,11 @@ class ScriptedDialogs : public Dialogs {
     lastFolder = folder;
     lastFilter = filter;
     return nextFile;
+  }
+  QStringList chooseFiles(QWidget*, const QString&, const QString& folder, const QString& filter) override {
+    lastFolder = folder;
+    lastFilter = filter;
+    return nextFiles;
   }
   QString chooseFolder(QWidget*, const QString&, const QString& folder) override {
     lastFolder = folder;

@@ -1,0 +1,17 @@
+// What a column of a table of totals counts, in words: "Free Throws: made", or the label of a statistic of
+// one's own.
+#pragma once
+
+#include "manual/ManualColumns.h"
+#include "storage/GameDetails.h"
+#include "storage/Settings.h"
+#include "storage/Texts.h"
+
+#include <string>
+
+namespace hooptab {
+
+[[nodiscard]] std::string counterWords(const ManualColumn& column, const GameDetails& game,
+                                       const Settings& settings, const Texts& texts);
+
+} // namespace hooptab
