@@ -152,6 +152,10 @@ ColourScheme Theme::current() {
 QColor Theme::accent() {
   return look(s_current).accent;
 }
+QColor Theme::madeOnPaper() {
+  return look(ColourScheme::Light).made;
+}
+
 QColor Theme::made() {
   return look(s_current).made;
 }

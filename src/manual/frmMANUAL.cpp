@@ -9,6 +9,7 @@
 #include "manual/ScoreCheck.h"
 #include "manual/ShotPanel.h"
 #include "manual/TotalsTable.h"
+#include "manual/frmSCAN.h"
 #include "storage/Settings.h"
 
 #include <QBoxLayout>
@@ -17,6 +18,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QStackedLayout>
 
 #include <chrono>
 
@@ -28,6 +30,9 @@ using namespace std::chrono_literals;
 
 constexpr int kErrorTitle = 1060;
 constexpr int kWarningTitle = 1139;
+constexpr int kScanFilter = 1209;
+constexpr int kSelectForm = 1210;
+constexpr int kOpenForm = 1237;
 constexpr int kWindowTitle = 1243;
 constexpr int kRecordedElsewhere = 1913;
 constexpr int kForReadingOnly = 1914;
@@ -42,6 +47,10 @@ constexpr int kUnderMade = 2292;
 constexpr int kUnderPlaced = 2293;
 constexpr int kOutOfRange = 2294;
 constexpr int kTeamEntered = 2299;
+constexpr int kEveryScanFilter = 2303;
+constexpr int kMoreScanFilters = 2304;
+constexpr int kLeavePages = 2334;
+constexpr int kImported = 2335;
 
 constexpr auto kRetryInterval = 2s;
 constexpr int kMargin = 8;
@@ -51,30 +60,23 @@ constexpr int kShotShare = 3;
 
 } // namespace
 
-frmMANUAL::frmMANUAL(cinifile& store, const Settings& settings, const Texts& texts, Dialogs& dialogs,
+frmMANUAL::frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
                      QWidget* parent)
-    : ChildWindow(parent), m_texts(texts), m_dialogs(dialogs), m_game(store), m_notice(noticeLabel(this)),
-      m_banner(noticeLabel(this)) {
+    : ChildWindow(parent), m_settings(settings), m_texts(texts), m_dialogs(dialogs), m_game(store),
+      m_notice(noticeLabel(this)), m_banner(noticeLabel(this)) {
   setObjectName(QStringLiteral("frmMANUAL"));
   m_banner->setObjectName(QStringLiteral("lblNOTONDISK"));
   m_retryOfWrites.setInterval(kRetryInterval);
-  QWidget* head = makeHead(); // made in the order of the Tab key
-  QWidget* bar = makePlayerBar();
-  m_table = new TotalsTable(m_game, settings, m_texts, this);
-  m_shots = new ShotPanel(m_game, settings, m_texts, this);
-
-  auto* parts = new QHBoxLayout;
-  parts->setSpacing(2 * kMargin);
-  parts->addWidget(m_table, kTableShare);
-  parts->addWidget(m_shots, kShotShare);
+  m_pages = new QStackedLayout;
+  m_pages->addWidget(makeTotalsPage());
+  m_forms = new frmSCAN(m_game, settings, m_texts, m_dialogs, this);
+  m_pages->addWidget(m_forms);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->setSpacing(kMargin);
   layout->addWidget(m_banner);
   layout->addWidget(m_notice);
-  layout->addWidget(head);
-  layout->addWidget(bar);
-  layout->addLayout(parts, 1);
+  layout->addLayout(m_pages, 1);
   connectEverything();
 }
 
@@ -83,8 +85,25 @@ frmMANUAL::~frmMANUAL() {
   qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
-QWidget* frmMANUAL::makeHead() {
-  auto* head = new QWidget(this);
+QWidget* frmMANUAL::makeTotalsPage() {
+  auto* page = new QWidget(this);
+  auto* layout = new QVBoxLayout(page);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kMargin);
+  layout->addWidget(makeHead(page)); // made in the order of the Tab key
+  layout->addWidget(makePlayerBar(page));
+  m_table = new TotalsTable(m_game, m_settings, m_texts, page);
+  m_shots = new ShotPanel(m_game, m_settings, m_texts, page);
+  auto* parts = new QHBoxLayout;
+  parts->setSpacing(2 * kMargin);
+  parts->addWidget(m_table, kTableShare);
+  parts->addWidget(m_shots, kShotShare);
+  layout->addLayout(parts, 1);
+  return page;
+}
+
+QWidget* frmMANUAL::makeHead(QWidget* page) {
+  auto* head = new QWidget(page);
   m_teams = new QComboBox(head);
   m_teams->setObjectName(QStringLiteral("cmbTEAM"));
   m_teams->setFixedWidth(kTeamWidth);
@@ -97,12 +116,13 @@ QWidget* frmMANUAL::makeHead() {
   layout->addWidget(m_teams);
   layout->addWidget(m_score);
   layout->addStretch();
+  layout->addWidget(iconButton("cmdFORM", kOpenForm, kOpenForm + 1, "openform", head));
   layout->addWidget(iconButton("cmdZERO", 1239, 1240, "clear", head));
   return head;
 }
 
-QWidget* frmMANUAL::makePlayerBar() {
-  auto* bar = new QWidget(this);
+QWidget* frmMANUAL::makePlayerBar(QWidget* page) {
+  auto* bar = new QWidget(page);
   m_entry = new QLabel(bar); // never shown: which slot is worked on
   m_entry->setObjectName(QStringLiteral("lblID"));
   m_entry->hide();
@@ -127,7 +147,11 @@ void frmMANUAL::connectEverything() {
     connect(findChild<QPushButton*>(QLatin1String(name)), &QPushButton::clicked, this, act);
   };
   onClick("cmdNEXT", [this] { m_table->nextPage(); });
+  onClick("cmdFORM", [this] { openForms(); });
   onClick("cmdZERO", [this] { clearTeam(); });
+  connect(m_forms, &frmSCAN::imported, this, &frmMANUAL::chooseTeam);
+  connect(m_forms, &frmSCAN::finished, this, &frmMANUAL::endForms);
+  connect(m_forms, &frmSCAN::reportAsked, this, &frmMANUAL::scanReportAsked);
   connect(m_table, &TotalsTable::pageAsked, this, [this] { m_table->nextPage(); });
   connect(m_table, &TotalsTable::playerChanged, this, &frmMANUAL::showPlayer);
   connect(m_table, &TotalsTable::totalsChanged, this, &frmMANUAL::showTotals);
@@ -158,6 +182,8 @@ frmMANUAL::Opening frmMANUAL::open(const QString& path) {
   if (outcome != GameLock::Outcome::HeldElsewhere) // by this window, that is
     m_lock = std::move(lock);
   m_score->beginGame();
+  m_forms->close(); // its pages were for the game before
+  endForms(0);
   relabelWindow();
   chooseTeam(0);
   m_table->setFocus();
@@ -188,6 +214,28 @@ void frmMANUAL::clearTeam() {
   showTotals();
 }
 
+void frmMANUAL::openForms() {
+  if (m_game.isForReading() || !m_table->takeTyped())
+    return;
+  const auto text = [this](int number) { return toQt(m_texts.text(number)); };
+  const QStringList files = m_dialogs.chooseFiles(
+      this, text(kSelectForm), toQt(m_settings.lastScanFolder),
+      fileFilter(text(kEveryScanFilter) + u'|' + text(kScanFilter) + u'|' + text(kMoreScanFilters)));
+  if (files.isEmpty())
+    return;
+  m_settings.lastScanFolder = fromQt(QFileInfo(files.first()).absolutePath());
+  m_pages->setCurrentWidget(m_forms);
+  m_forms->read(files, m_team);
+}
+
+void frmMANUAL::endForms(int imported) {
+  m_pages->setCurrentIndex(0);
+  showTotals();
+  m_table->setFocus();
+  if (imported > 0)
+    showHint(toQt(m_texts.withPlaceholder(kImported, std::to_string(imported))), Theme::made());
+}
+
 void frmMANUAL::save() {
   if (!m_table->takeTyped())
     return;
@@ -200,6 +248,10 @@ void frmMANUAL::save() {
 
 bool frmMANUAL::mayClose() {
   if (!m_table->takeTyped())
+    return false;
+  if (const int left = m_forms->pagesLeft();
+      left > 0 && !m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)),
+                                 toQt(m_texts.withPlaceholder(kLeavePages, std::to_string(left)))))
     return false;
   if (!m_game.isSaved()) {
     const QString question = toQt(m_texts.withPlaceholder(kSaveFirst, fromQt(QFileInfo(path()).fileName())));
@@ -270,6 +322,7 @@ void frmMANUAL::showTeams() {
 void frmMANUAL::showDisk() {
   m_banner->setText(m_game.isForReading() ? toQt(m_texts.withPlaceholder(kForReadingOnly, m_game.path()))
                                           : caption(m_texts, kNotOnDisk));
+  findChild<QPushButton*>(QStringLiteral("cmdFORM"))->setEnabled(!m_game.isForReading());
   m_banner->setVisible(m_game.isForReading() || !m_game.isOnDisk());
   if (m_game.isOnDisk())
     m_retryOfWrites.stop();
@@ -291,6 +344,7 @@ void frmMANUAL::relabelWindow() {
   m_notice->setVisible(beside > 0);
   m_table->relabelTable();
   m_shots->relabelPanel();
+  m_forms->relabelPanel();
   giveMnemonics(*this);
   applyColours();
   showTotals();
@@ -303,7 +357,16 @@ void frmMANUAL::applyColours() {
   m_banner->setPalette(colours);
   m_table->applyColours();
   m_shots->applyColours();
+  m_forms->applyColours();
   m_score->showPoints();
+}
+
+QByteArray frmMANUAL::arrangement() const {
+  return m_forms->arrangement();
+}
+
+void frmMANUAL::restoreArrangement(const QByteArray& state) {
+  m_forms->restoreArrangement(state);
 }
 
 } // namespace hooptab

@@ -12,22 +12,25 @@
 
 class QComboBox;
 class QLabel;
+class QStackedLayout;
 
 namespace hooptab {
 
 class Dialogs;
 class ElidedLabel;
+class ScannedTotals;
 class ScoreCheck;
 class Settings;
 class ShotPanel;
 class Texts;
 class TotalsTable;
+class frmSCAN;
 
 class frmMANUAL : public ChildWindow {
   Q_OBJECT
  public:
   // All must outlive it.
-  frmMANUAL(cinifile& store, const Settings& settings, const Texts& texts, Dialogs& dialogs,
+  frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
             QWidget* parent = nullptr);
   ~frmMANUAL() override;
 
@@ -39,21 +42,30 @@ class frmMANUAL : public ChildWindow {
   GameFileProblem problem() const { return m_problem; } // after Problem
   QString path() const;
 
+  const GameDetails& details() const { return m_game.details(); }
+
   void save();
+  void openForms(); // scanned ones, chosen by the user
 
   void relabelWindow() override;
   void applyColours() override;
   bool mayClose() override;
+  QByteArray arrangement() const override;
+  void restoreArrangement(const QByteArray& state) override;
 
  signals:
   void saved(); // and on disk
+  // For the verification report of a scanned form.
+  void scanReportAsked(const ScannedTotals& scanned, const QString& source);
 
  private:
-  QWidget* makeHead();
-  QWidget* makePlayerBar();
+  QWidget* makeTotalsPage();
+  QWidget* makeHead(QWidget* page);
+  QWidget* makePlayerBar(QWidget* page);
   void connectEverything();
   void chooseTeam(int team);
   void clearTeam();
+  void endForms(int imported);
   void showTotals();
   void showPlayer();
   void showTeams();
@@ -61,6 +73,7 @@ class frmMANUAL : public ChildWindow {
   void showRefusal(ManualTotals::Typed reason, const ManualColumn& column);
   void showHint(const QString& text, const QColor& colour);
 
+  Settings& m_settings;
   const Texts& m_texts;
   Dialogs& m_dialogs;
   ManualGame m_game;
@@ -71,6 +84,7 @@ class frmMANUAL : public ChildWindow {
 
   QLabel* m_notice = nullptr; // lines that the table does not show
   QLabel* m_banner = nullptr; // not on disk, or for reading only
+  QStackedLayout* m_pages = nullptr;
   QComboBox* m_teams = nullptr;
   ScoreCheck* m_score = nullptr;
   QLabel* m_entry = nullptr; // lblID
@@ -78,6 +92,7 @@ class frmMANUAL : public ChildWindow {
   ElidedLabel* m_hint = nullptr;
   TotalsTable* m_table = nullptr;
   ShotPanel* m_shots = nullptr;
+  frmSCAN* m_forms = nullptr;
 };
 
 } // namespace hooptab

@@ -44,6 +44,7 @@ constexpr Command kCommands[] = {
     {"LIVE", "", 1037, "live", Always, Menu, "", kSeparator},
       {"LIVENew", "LIVE", 1038, "livenew", StartOfInput, Action, "Ctrl+N", false, kBuilt},
       {"LIVEOpen", "LIVE", 1039, "liveopen", StartOfInput, Action, "Ctrl+Shift+O", false, kBuilt},
+      {"openFORM", "LIVE", 1238, "openform", Manual, Action, "Ctrl+I", kSeparator, kBuilt},
     {"LIVEKpad", "", 1040, "livekpad", Live, Toggle, "F7", false, kBuilt},
     {"LIVEMouse", "", 1042, "livemouse", Live, Toggle, "F8", false, kBuilt},
     {"SWITCH", "", 1043, "switch", Live, Action, "F9", false, kBuilt},

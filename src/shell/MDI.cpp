@@ -190,6 +190,10 @@ void MDI::carryOut(const QString& key) {
     }
   }
   if (frmMANUAL* window = manual()) {
+    if (key == u"openFORM") {
+      bringToFront(*window);
+      return window->openForms();
+    }
     if (key == u"saveMANUAL")
       return window->save();
     if (key == u"CLOSELIVEMANUAL") {
@@ -346,6 +350,12 @@ void MDI::openManual(const QString& path) {
         view->refresh();
     });
   }
+  if (fresh != nullptr)
+    connect(fresh.get(), &frmMANUAL::scanReportAsked, this,
+            [this, window = fresh.get()](const ScannedTotals& scanned, const QString& source) {
+              preview(scanReports(scanned, window->details(), fromQt(source), m_workshop.settings,
+                                  m_workshop.texts));
+            });
   frmMANUAL& window = open == nullptr ? *fresh : *open;
   switch (window.open(path)) {
   case frmMANUAL::Opening::Opened: break;

@@ -59,7 +59,7 @@ MainMenu::MainMenu(QMainWindow& window, QMdiArea& area, const CommandBar& comman
   addMenu(kView, {"VwREFRESH", "VwREFSEC00", "VwREFSEC10", "VwREFSEC30", "VwREFSEC60", kSeparator, "VwLIGNE",
                   "VwMA", kSeparator, "vwPRINT", "VwCLOSE"});
   addMenu(kInput, {"LIVENew", "LIVEOpen", kSeparator, "LIVEKpad", "LIVEMouse", "SWITCH", "GAMEOVER",
-                   kSeparator, "saveMANUAL", "livePRINT", "FORMS", "CLOSELIVEMANUAL"});
+                   kSeparator, "openFORM", "saveMANUAL", "livePRINT", "FORMS", "CLOSELIVEMANUAL"});
   addMenu(kTeams, {"gEQUIPE"});
   addMenu(kSeason,
           {"STATS", kSeparator, "StLISTGAMES", "StLISTGAMESSOMM", kSeparator, "stSTATJOUEURS", "stSTATLIGNES",

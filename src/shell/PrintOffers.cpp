@@ -2,6 +2,7 @@
 
 #include "printing/GameReports.h"
 #include "printing/PrintTexts.h"
+#include "printing/ScanReport.h"
 #include "printing/TeamReports.h"
 
 #include <memory>
@@ -11,6 +12,7 @@ namespace hooptab {
 
 namespace {
 
+constexpr int kVerification = 1398;
 constexpr int kPreparedForms = 1399;
 constexpr int kBlankForms = 1400;
 
@@ -55,6 +57,15 @@ std::vector<ReportOffer> teamForms(TeamStore& teams, const Texts& texts) {
                       [=, &texts] { return preparedForms(kept->record, kept->players, texts); }});
   }
   return offers;
+}
+
+std::vector<ReportOffer> scanReports(const ScannedTotals& scanned, const GameDetails& game,
+                                     const std::string& source, const Settings& settings,
+                                     const Texts& texts) {
+  const auto kept = std::make_shared<const std::pair<ScannedTotals, GameDetails>>(scanned, game);
+  return {named(kVerification, texts, [=, &settings, &texts] {
+    return verificationReport(kept->first, kept->second, source, settings, texts);
+  })};
 }
 
 bool canHighlight(SeasonReport report, const SeasonPerson& person) {

@@ -2,6 +2,7 @@
 // window it was asked from may close, and a game goes on.
 #pragma once
 
+#include "manual/ScannedTotals.h"
 #include "printing/SeasonReports.h"
 #include "printing/frmprint.h"
 #include "scorecard/ScorecardView.h"
@@ -25,6 +26,10 @@ namespace hooptab {
 teamReports(const TeamRecord& team, const std::vector<TeamPlayer>& players, const Texts& texts);
 // Prepared forms, an offer for each team; none without teams.
 [[nodiscard]] std::vector<ReportOffer> teamForms(TeamStore& teams, const Texts& texts);
+// The verification report of a scanned form.
+[[nodiscard]] std::vector<ReportOffer> scanReports(const ScannedTotals& scanned, const GameDetails& game,
+                                                   const std::string& source, const Settings& settings,
+                                                   const Texts& texts);
 // The eleven reports of a season, that one first; those of one player or line only for the chosen one.
 struct SeasonOffer {
   std::shared_ptr<const Season> season; // not null

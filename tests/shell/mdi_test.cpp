@@ -7,6 +7,7 @@
 #include "live/TimeSource.h"
 #include "live/frmConfiguration.h"
 #include "live/frmLIVE.h"
+#include "manual/ScannedTotals.h"
 #include "manual/frmMANUAL.h"
 #include "printing/Printers.h"
 #include "printing/ReportOutput.h"
@@ -528,6 +529,22 @@ TEST_F(MainWindowTest, EntersTotalsInTheirOwnWindowWhichMakesRoomForALiveGame) {
   EXPECT_EQ(game.events.size(), 3u) << "two with a time, which stay, and one more";
   EXPECT_EQ(scorecards()[0]->findChild<QLabel*>(QStringLiteral("lblSCORE(0)"))->text(), QStringLiteral("5"))
       << "the scorecard follows";
+
+  // Scanned forms are asked for with a command too; the report of one of them opens in the preview.
+  EXPECT_TRUE(action("openFORM").isEnabled());
+  dialogs.lastFilter.clear();
+  action("openFORM").trigger();
+  EXPECT_TRUE(dialogs.lastFilter.contains(QStringLiteral("*.TIF"))) << fromQt(dialogs.lastFilter);
+  const auto layout = std::make_shared<FormLayout>();
+  FormReading reading;
+  reading.cells.resize(layout->cells().size());
+  emit area().findChild<frmMANUAL*>()->scanReportAsked(
+      ScannedTotals(CheckedSheet(layout, reading), 0, game.roster[0]), QStringLiteral("scan.tif"));
+  auto* report = area().findChild<frmprint*>();
+  ASSERT_NE(report, nullptr);
+  EXPECT_EQ(report->findChild<QComboBox*>(QStringLiteral("cmbREPORT"))->currentText(),
+            toQt(texts.text(1398)));
+  report->parentWidget()->close();
 
   count();
   for (const QString& other : {second, live}) {

@@ -1,0 +1,20 @@
+// The verification report of a scanned form: what was read from it and what the user has changed, to be laid
+// beside the paper.
+#pragma once
+
+#include "manual/ScannedTotals.h"
+#include "printing/Report.h"
+#include "storage/GameDetails.h"
+#include "storage/Settings.h"
+#include "storage/Texts.h"
+
+#include <string>
+
+namespace hooptab {
+
+// `source` names file, page and sheet.
+[[nodiscard]] Report verificationReport(const ScannedTotals& scanned, const GameDetails& game,
+                                        const std::string& source, const Settings& settings,
+                                        const Texts& texts);
+
+} // namespace hooptab
