@@ -19,6 +19,8 @@ bool isShotPart(std::string_view name) {
   return name == "M" || name == "A" || name == "%" || name == "PTS";
 }
 
+constexpr int kLine = 1026;
+
 struct Group {
   std::string_view kind; // of shots; empty for all of them together
   int title = 0;         // 0 for none
@@ -75,7 +77,10 @@ ReportTable boxTable(const Game& game, const GameState& state, int team, const S
     if (!choice.isShown(column))
       continue;
     shown.push_back(&column);
-    const std::string header(column.headerText > 0 ? texts.text(column.headerText) : column.header);
+    const bool isLine = column.name == "Name" && choice.view() == BoxView::Lines;
+    const std::string header(isLine                  ? texts.text(kLine)
+                             : column.headerText > 0 ? texts.text(column.headerText)
+                                                     : column.header);
     const bool isRepeated = std::ranges::find(kRepeatedColumns, column.name) != std::end(kRepeatedColumns);
     table.columns.push_back({header, std::string(column.name),
                              columnWords(index, game.details.statisticLabel, settings, texts),
