@@ -44,13 +44,13 @@ class FilledForm {
         cross(cell.rect, Qt::black);
     }
   }
-  // One stroke that hardly shows: nobody can be sure of it.
+  // One stroke, paler than the ticks: nobody can be sure of it.
   void hint(int player, FormCell::Kind kind, Counter counter, int number) {
     for (const FormCell& cell : m_layout.cells()) {
       if (cell.player != player || cell.kind != kind || cell.counter != counter || cell.number != number)
         continue;
       QPainter painter(&m_picture);
-      painter.setPen(QPen(QColor(0xB8, 0xB8, 0xB8), 4));
+      painter.setPen(QPen(QColor(0x90, 0x90, 0x90), 5));
       painter.drawLine(at(cell.rect.x + 0.4, cell.rect.y + 0.4), at(cell.rect.x + 2.8, cell.rect.y + 2.8));
     }
   }
