@@ -44,6 +44,18 @@ std::array<bool, FormIdentifier::kBits> identifierBits(const FormLayout& layout,
   return bits;
 }
 
+// A cell that the picture cuts off cannot be read with certainty.
+bool isWithin(const GrayPicture& picture, const FormGrid& grid, const FormCell& cell) {
+  for (const double x : {cell.rect.x, cell.rect.right()}) {
+    for (const double y : {cell.rect.y, cell.rect.bottom()}) {
+      const PicturePoint at = grid.at(cell.player, {x, y});
+      if (at.x < 0 || at.y < 0 || at.x > picture.width || at.y > picture.height)
+        return false;
+    }
+  }
+  return true;
+}
+
 } // namespace
 
 int textOf(ScanProblem problem) {
@@ -162,8 +174,10 @@ FormReading FormReader::read(const GrayPicture& picture, const Progress& progres
       return refused(ScanProblem::Cancelled);
   }
   const TickRule rule(byHand(), grid->border());
-  for (const CellInk& ink : inks)
-    result.cells.push_back(rule.read(ink));
+  for (std::size_t i = 0; i < inks.size(); ++i) {
+    ReadCell& cell = result.cells.emplace_back(rule.read(inks[i]));
+    cell.isDoubtful = cell.isDoubtful || !isWithin(page, *grid, m_layout.cells()[i]);
+  }
   result.identifier = *identifier;
   const PageMapping mapping = grid->whole().enlarged(factor);
   std::copy(std::begin(mapping.m), std::end(mapping.m), std::begin(result.toPicture));

@@ -92,7 +92,8 @@ ReadCell TickRule::read(const CellInk& ink) const {
   const double unsure = m_isSure ? 1.35 : 1.3;
   result.isDoubtful = found > m_threshold / unsure && found < m_threshold * unsure;
   // Fainter than the others, but a stroke: perhaps with another pen.
-  if (!result.isTicked && found > m_faintest && ink.extent > kSpeck)
+  constexpr double kOtherPen = 0.28;
+  if (!result.isTicked && found > std::max(m_faintest, kOtherPen * m_typical) && ink.extent > kSpeck)
     result.isDoubtful = true;
   return result;
 }

@@ -98,7 +98,7 @@ TEST(FormReader, ReadsAPageHoweverItLay) {
   const IdealScan scans[] = {
       {},
       {.dots = 200, .turn = 5},
-      {.dots = 200, .turn = -5, .stretchX = 1.03, .stretchY = 0.97},
+      {.dots = 200, .turn = -5, .stretchX = 1.03, .stretchY = 0.97, .paperWidth = 216},
       {.dots = 150, .turn = 7, .paperWidth = 230, .paperHeight = 300},
       {.dots = 600, .turn = 1},
       {.dots = 200, .turn = -1, .shiftX = -6, .shiftY = 10},
