@@ -23,7 +23,8 @@ TEST_P(FormTruthTest, WhatPeopleTickedIsRead) {
     score.add(sheet, reader.read(sheet.picture));
   }
   EXPECT_TRUE(score.isGood());
-  score.print(stdout);
+  if (HasFailure())
+    score.print(stdout);
 }
 
 INSTANTIATE_TEST_SUITE_P(Pens, FormTruthTest,
