@@ -25,7 +25,7 @@ struct FormRect {
 struct FormIdentifier {
   static constexpr int kBits =
       30; // the first one black, the last one white: a sheet upside down never checks
-  static constexpr int kVersion = 1;
+  static constexpr int kVersion = 2; // 1 had no gap behind every fifth cell
 
   int sheet = 0; // from 0
   bool isPrepared = false;

@@ -42,6 +42,26 @@ struct Mark {
   double score = 0; // 0 none, 1 black on white
 };
 
+// A flat scan shows black as grey: what is darkest on the page becomes dark, white stays white.
+void darkenInk(GrayPicture& picture) {
+  constexpr double kLeastInk = 0.002; // part of a form that is black at least
+  constexpr int kDark = 40;
+  constexpr int kPalest = 140; // what is darkest is no ink if it is lighter
+  constexpr int kWhite = 255;
+  std::array<std::size_t, kWhite + 1> count = {};
+  for (const std::uint8_t shade : picture.pixels)
+    ++count[shade];
+  auto left = static_cast<std::size_t>(kLeastInk * static_cast<double>(picture.pixels.size()));
+  int ink = 0;
+  while (ink < kPalest && count[static_cast<std::size_t>(ink)] <= left)
+    left -= count[static_cast<std::size_t>(ink++)];
+  if (ink <= kDark)
+    return;
+  const int less = ink - kDark;
+  for (std::uint8_t& shade : picture.pixels)
+    shade = static_cast<std::uint8_t>(std::max(0, shade - less) * kWhite / (kWhite - less));
+}
+
 // Looks at one place of the reduced picture as if a mark of a certain size stood there.
 class MarkLook {
  public:
@@ -385,7 +405,8 @@ MarkSearch findMarks(const FormLayout& layout, const GrayPicture& picture, const
   const double pixels = static_cast<double>(picture.width) * picture.height;
   const int factor =
       static_cast<int>(std::lround(std::max({1.0, fits / kCoarsePixels, std::sqrt(pixels / kMostPixels)})));
-  const GrayPicture coarse = reduced(picture, factor);
+  GrayPicture coarse = reduced(picture, factor);
+  darkenInk(coarse);
   const PictureSums sums(coarse);
   const MarkLook look(sums);
   const double largest = fits / factor * 2.2;

@@ -108,6 +108,7 @@ TEST(FormReader, ReadsAPageHoweverItLay) {
       {.dots = 200, .perspective = 0.02},
       {.dots = 200, .lightest = 255, .darkest = 130},
       {.dots = 200, .lightest = 110, .darkest = 5},
+      {.dots = 200, .lightest = 145, .darkest = 105},
   };
   for (const IdealScan& scan : scans) {
     SCOPED_TRACE(&scan - scans);
