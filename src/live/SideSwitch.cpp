@@ -74,7 +74,8 @@ SideSwitch::SideSwitch(QToolButton* button, QWidget* parent)
 void SideSwitch::showSides(const QString& left, const std::array<QColor, 2>& colours, const QString& hint) {
   m_court->showColours(colours);
   QString name = QStringLiteral("◂") + left;
-  name = m_name->fontMetrics().elidedText(name, Qt::ElideRight, kWidth);
+  while (name.size() > 2 && m_name->fontMetrics().horizontalAdvance(name) > kWidth)
+    name.chop(1); // the first letters tell the team better than one and dots
   m_name->setTextFormat(Qt::PlainText);
   m_name->setText(name);
   for (QWidget* part :
