@@ -120,7 +120,7 @@ class ReportRun {
       return complain(kFailed, m_request.source + ": there is no such folder, or it cannot be read");
     for (const SkippedFile& skipped : catalogue.skipped())
       std::cerr << "hooptab: left out: " << skipped.path << ": "
-                << m_texts.text(skipReasonText(skipped.reason)) << '\n';
+                << m_texts.text(skipReasonText(skipped.reason), Language::English) << '\n';
     if (catalogue.games().empty())
       return complain(kFailed, m_request.source + ": no finished game in this folder");
     GameCriteria criteria;
