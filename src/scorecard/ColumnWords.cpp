@@ -38,7 +38,10 @@ std::string ownStatistic(std::size_t index, const std::string (&gameLabels)[2], 
   std::string label = Settings::shownLabel(gameLabels[index]);
   if (label.empty())
     label = Settings::shownLabel(settings.statisticLabel[index]);
-  return texts.withPlaceholder(index == 0 ? kFirstOwnStatistic : kSecondOwnStatistic, label);
+  std::string words = texts.withPlaceholder(index == 0 ? kFirstOwnStatistic : kSecondOwnStatistic, label);
+  if (label.empty())
+    words.resize(words.find_last_not_of(" :") + 1); // nothing stands behind the colon
+  return words;
 }
 
 } // namespace

@@ -164,6 +164,9 @@ TEST_F(ScorecardViewTest, EveryColumnHasItsOwnWords) {
   EXPECT_EQ(columnWords(31, labels, settings, texts).find("U1-"), std::string::npos) << "without its prefix";
   EXPECT_NE(columnWords(32, labels, settings, texts).find("Deflections"), std::string::npos)
       << "the settings' label";
+  const std::string none[2];
+  settings.statisticLabel[0].clear();
+  EXPECT_EQ(columnWords(31, none, settings, texts), "Première statistique personnalisée") << "and no colon";
 }
 
 TEST(FileChangeTest, SeesWritingRemovalAndReturn) {
