@@ -61,6 +61,7 @@ void EventRequests::change(const EventPlace& event) {
 
 void EventRequests::ask(const EventPlace& event, frmEDIT::Purpose purpose, LiveGame::Where where) {
   frmEDIT window(m_game, event, purpose, m_settings, m_texts, &m_window);
+  connect(&window, &frmEDIT::clockAsked, this, &EventRequests::clockAsked);
   if (window.exec() != QDialog::Accepted)
     return;
   const auto counted = window.counted();
@@ -79,6 +80,7 @@ void EventRequests::askWho(const PastSubstitution& past, int team, int player) {
   window->setAttribute(Qt::WA_DeleteOnClose);
   if (player > 0)
     window->toggle(team, player);
+  connect(window, &frmSUBST::clockAsked, this, &EventRequests::clockAsked);
   connect(window, &QDialog::accepted, this, [this, window] { take(window->plan()); });
   window->openBeside(m_panel);
 }

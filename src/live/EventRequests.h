@@ -25,6 +25,7 @@ class EventRequests : public QObject {
 
  signals:
   void gameChanged();
+  void clockAsked(); // by its key, while a dialog is in front
 
  private:
   void take(const EditPlan& plan);

@@ -17,10 +17,12 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
+#include <QShortcut>
 
 namespace hooptab {
 
@@ -68,6 +70,20 @@ frmEDIT::frmEDIT(const LiveGame& game, const EventPlace& place, Purpose purpose,
   showAccept();
   m_time->setFocus();
   m_time->selectAll();
+
+  auto* clock = new QShortcut(Qt::Key_Space, this);
+  clock->setAutoRepeat(false);
+  connect(clock, &QShortcut::activated, this, &frmEDIT::clockAsked);
+  m_time->installEventFilter(this);
+}
+
+// A text field takes the blank for itself; here it stays the key of the clock.
+bool frmEDIT::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
+    event->ignore();
+    return true;
+  }
+  return QDialog::eventFilter(watched, event);
 }
 
 void frmEDIT::makeFields() {

@@ -32,6 +32,12 @@ class frmEDIT : public QDialog {
   // Nothing for the clock's own events, of which the time alone can be changed.
   std::optional<LiveGame::Counted> counted() const;
 
+ signals:
+  void clockAsked(); // by its key: the game goes on meanwhile
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void makeFields();
   QLayout* makeButtons();

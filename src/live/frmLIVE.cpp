@@ -178,6 +178,7 @@ void frmLIVE::connectEverything() {
   });
   auto* requests = new EventRequests(m_game, *m_events, m_settings, m_texts, m_dialogs, *this);
   connect(requests, &EventRequests::gameChanged, this, &frmLIVE::showGame);
+  connect(requests, &EventRequests::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_keys, &LiveKeys::clockPressed, this, &frmLIVE::toggleClock);
   connect(m_keys, &LiveKeys::recorded, this, [this](const KeypadOrder& order) {
     showGame();

@@ -61,10 +61,6 @@ QLabel* bandOf(const LiveGame& game, int team, QWidget* parent) {
 frmSUBST::frmSUBST(const LiveGame& game, const Texts& texts, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_game(game), m_texts(texts), m_choice(game) {
   makeContents();
-  // The game goes on meanwhile: the clock's key is the clock's, and presses no player.
-  auto* clock = new QShortcut(Qt::Key_Space, this);
-  clock->setAutoRepeat(false);
-  connect(clock, &QShortcut::activated, this, &frmSUBST::clockAsked);
 }
 
 frmSUBST::frmSUBST(const LiveGame& game, const PastSubstitution& past, const Texts& texts, QWidget* parent)
@@ -93,6 +89,10 @@ void frmSUBST::makeContents() {
     layout->addWidget(m_conflict);
   }
   layout->addWidget(makeAnswers());
+  // The game goes on meanwhile: the clock's key is the clock's, and presses no player.
+  auto* clock = new QShortcut(Qt::Key_Space, this);
+  clock->setAutoRepeat(false);
+  connect(clock, &QShortcut::activated, this, &frmSUBST::clockAsked);
   relabel(*this, m_texts);
   showChoice();
 }

@@ -36,7 +36,7 @@ class frmSUBST : public QDialog {
   void openBeside(const QWidget& panel);
 
  signals:
-  void clockAsked(); // by its key; never in the past
+  void clockAsked(); // by its key
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -282,6 +282,13 @@ TEST_F(LiveEventPanelTest, TheEditingPanelChangesWhatItShows) {
   EXPECT_FALSE(shot.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled());
   QTest::keyClicks(&clock, QStringLiteral("51"));
   EXPECT_EQ(shot.clockSeconds(), 591) << "as one types a clock, without the leading nought";
+  shot.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&shot));
+  QSignalSpy asked(&shot, &frmEDIT::clockAsked);
+  clock.setFocus();
+  QTest::keyClick(&clock, Qt::Key_Space);
+  EXPECT_EQ(asked.count(), 1) << "the blank stays the key of the game's clock";
+  EXPECT_EQ(shot.clockSeconds(), 591);
   ASSERT_TRUE(shot.counted());
   ASSERT_TRUE(live.editEvent({1, "7"}, shot.clockSeconds(), *shot.counted()));
   EXPECT_EQ(*findLine(live.log().lines(), 1, "7"), "09:51,GF3,1-5,10,20");
