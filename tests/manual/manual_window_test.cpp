@@ -1,14 +1,9 @@
 // Manual entry as it is used: with clicks and keys on the window, and what stands in the file afterwards.
-#include "manual/frmMANUAL.h"
+#include "manual/OpenManualGame.h"
 
 #include "appearance/CourtView.h"
-#include "appearance/Theme.h"
-#include "appearance/relabel.h"
 #include "manual/TotalsTable.h"
 #include "storage/Settings.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TemporaryFolder.h"
-#include "support/TextGame.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -28,27 +23,8 @@ namespace {
 namespace fs = std::filesystem;
 using Kind = ScriptedDialogs::Kind;
 
-class ManualWindowTest : public testing::Test {
+class ManualWindowTest : public OpenManualGame {
  protected:
-  void SetUp() override {
-    Theme::apply(*qApp, ColourScheme::Light);
-    (void)settings.prepare(texts);
-    path = folder.write("A.GAM", textOfGame("", "INPUTTYPE=1\n"));
-    window = std::make_unique<frmMANUAL>(store, settings, texts, dialogs);
-    window->resize(1350, 640);
-    window->show();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    ASSERT_EQ(window->open(toQt(path)), frmMANUAL::Opening::Opened);
-  }
-
-  template <class Widget>
-  Widget& find(const char* name) const {
-    auto* found = window->findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
-  }
-  std::string shown(const char* label) const { return fromQt(find<QLabel>(label).text()); }
   void clickRow(int slot) const {
     const auto& name = find<QLabel>(("lblNom(" + std::to_string(slot) + ")").c_str());
     QTest::mouseClick(&table(), Qt::LeftButton, {}, name.geometry().center());
@@ -86,15 +62,6 @@ class ManualWindowTest : public testing::Test {
     return found;
   }
   QString text(int number) const { return toQt(texts.text(number)); }
-
-  TemporaryFolder folder;
-  std::string path;
-  FileSystem files;
-  cinifile store{files};
-  Texts texts;
-  Settings settings{store, folder.path()};
-  ScriptedDialogs dialogs;
-  std::unique_ptr<frmMANUAL> window;
 };
 
 TEST_F(ManualWindowTest, CountsWithBothMouseButtonsForThePlayerThatWasChosen) {

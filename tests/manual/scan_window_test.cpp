@@ -2,17 +2,12 @@
 // the totals and onto the disk; and pictures that are of no use.
 #include "manual/frmSCAN.h"
 
-#include "appearance/Theme.h"
-#include "appearance/relabel.h"
 #include "manual/FilledForm.h"
 #include "manual/ManualColumns.h"
+#include "manual/OpenManualGame.h"
 #include "manual/ScanView.h"
 #include "manual/ScannedModel.h"
-#include "manual/frmMANUAL.h"
 #include "printing/ScanReport.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TemporaryFolder.h"
-#include "support/TextGame.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -82,27 +77,8 @@ QByteArray tifOf(const std::vector<QImage>& pictures) {
   return bytes;
 }
 
-class ScanWindowTest : public testing::Test {
+class ScanWindowTest : public OpenManualGame {
  protected:
-  void SetUp() override {
-    Theme::apply(*qApp, ColourScheme::Light);
-    (void)settings.prepare(texts);
-    path = folder.write("A.GAM", textOfGame("", "INPUTTYPE=1\n"));
-    window = std::make_unique<frmMANUAL>(store, settings, texts, dialogs);
-    window->resize(1350, 640);
-    window->show();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    ASSERT_EQ(window->open(toQt(path)), frmMANUAL::Opening::Opened);
-  }
-
-  template <class Widget>
-  Widget& find(const char* name) const {
-    auto* found = window->findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
-  }
-  std::string shown(const char* label) const { return fromQt(find<QLabel>(label).text()); }
   void press(const char* button) const { QTest::mouseClick(&find<QPushButton>(button), Qt::LeftButton); }
   bool showsSheet() const { return find<QTableView>("tblSCAN").isVisible(); }
   bool showsTotals() const { return find<QWidget>("tblTOTALS").isVisible(); }
@@ -139,15 +115,6 @@ class ScanWindowTest : public testing::Test {
   }
   std::string text(int number) const { return std::string(texts.text(number)); }
   std::string file(const char* name) const { return folder.path(name); }
-
-  TemporaryFolder folder;
-  std::string path;
-  FileSystem files;
-  cinifile store{files};
-  Texts texts;
-  Settings settings{store, folder.path()};
-  ScriptedDialogs dialogs;
-  std::unique_ptr<frmMANUAL> window;
 };
 
 TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
