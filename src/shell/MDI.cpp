@@ -22,6 +22,7 @@
 #include "shell/Refusals.h"
 #include "shell/SharedFiles.h"
 #include "shell/WelcomePage.h"
+#include "shell/WindowArea.h"
 #include "shell/WindowMemory.h"
 #include "shell/frmABOUT.h"
 #include "teams/frmEQUIPES.h"
@@ -52,8 +53,6 @@ using namespace std::chrono_literals;
 constexpr int kStatusMargin = 8;
 constexpr int kHighlight = 1416;
 constexpr int kReportOption = 1417;
-constexpr int kChoosePerson = 2135;
-constexpr int kGenerateFirst = 2146;
 constexpr int kErrorTitle = 1060;
 constexpr int kWarningTitle = 1139;
 constexpr int kNoTeam = 1174;
@@ -83,16 +82,6 @@ QStringList localFiles(const QMimeData& data) {
   return files;
 }
 
-// The window of a kind of which one is open at a time, or null.
-template <class Window>
-Window* firstOf(const QList<ChildWindow*>& windows) {
-  for (ChildWindow* child : windows) {
-    if (auto* window = qobject_cast<Window*>(child))
-      return window;
-  }
-  return nullptr;
-}
-
 } // namespace
 
 MDI::MDI(const Workshop& workshop)
@@ -102,7 +91,7 @@ MDI::MDI(const Workshop& workshop)
   setAcceptDrops(true);
   setWindowTitle(QStringLiteral("HOOPTAB Basketball"));
 
-  m_area = new QMdiArea(this);
+  m_area = new WindowArea(m_workshop.memory, this);
   m_area->setObjectName(QStringLiteral("area"));
   auto* recent = new GameMenu([this] { return recentGames(m_workshop.memory); }, m_workshop.texts, this);
   recent->menuAction()->setObjectName(QStringLiteral("recentGames"));
@@ -140,12 +129,18 @@ MDI::MDI(const Workshop& workshop)
   connect(recent, &GameMenu::chosen, this, &MDI::openGame);
   connect(samples, &GameMenu::chosen, this, &MDI::openGame);
   connect(m_menu, &MainMenu::fileMenuShown, this, [this, tables] {
-    m_exports->fill(*tables, frontWindow());
+    m_exports->fill(*tables, m_area->front());
     tables->setEnabled(!tables->isEmpty());
   });
   connect(m_output, &ReportOutput::reported, this, &MDI::showMessage);
   connect(m_exports, &WindowExports::reported, this, &MDI::showMessage);
   connect(m_area, &QMdiArea::subWindowActivated, this, &MDI::showCommands);
+  connect(m_area, &WindowArea::changed, this, &MDI::showCommands);
+  connect(m_area, &WindowArea::added, this, [this](ChildWindow& child) {
+    connect(&child, &ChildWindow::reported, this, &MDI::showMessage);
+    m_exports->serve(child);
+    m_pages->setCurrentWidget(m_area);
+  });
   connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
     m_workshop.settings.retry();
     showWhatIsUnsaved();
@@ -191,7 +186,7 @@ void MDI::carryOut(const QString& key) {
   }
   if (frmMANUAL* window = manual()) {
     if (key == u"openFORM") {
-      bringToFront(*window);
+      m_area->bringToFront(*window);
       return window->openForms();
     }
     if (key == u"saveMANUAL")
@@ -346,16 +341,15 @@ void MDI::openManual(const QString& path) {
     fresh = std::make_unique<frmMANUAL>(m_workshop.store, m_workshop.settings, m_workshop.texts,
                                         m_workshop.dialogs);
     connect(fresh.get(), &frmMANUAL::saved, this, [this, window = fresh.get()] {
-      if (frmVIEW* view = scorecardOf(window->path()))
+      if (frmVIEW* view = m_area->scorecardOf(window->path()))
         view->refresh();
     });
-  }
-  if (fresh != nullptr)
     connect(fresh.get(), &frmMANUAL::scanReportAsked, this,
             [this, window = fresh.get()](const ScannedTotals& scanned, const QString& source) {
               preview(scanReports(scanned, window->details(), fromQt(source), m_workshop.settings,
                                   m_workshop.texts));
             });
+  }
   frmMANUAL& window = open == nullptr ? *fresh : *open;
   switch (window.open(path)) {
   case frmMANUAL::Opening::Opened: break;
@@ -370,13 +364,13 @@ void MDI::openManual(const QString& path) {
 void MDI::showInput(const QString& path, ChildWindow& window, std::unique_ptr<ChildWindow> fresh) {
   m_workshop.memory.rememberFile(fromQt(QFileInfo(path).absoluteFilePath()));
   if (fresh == nullptr)
-    return bringToFront(window);
-  addChild(fresh.release());
+    return m_area->bringToFront(window);
+  m_area->add(*fresh.release());
 }
 
 void MDI::openGame(const QString& path) {
-  if (frmVIEW* open = scorecardOf(path))
-    return bringToFront(*open);
+  if (frmVIEW* open = m_area->scorecardOf(path))
+    return m_area->bringToFront(*open);
   auto view = std::make_unique<frmVIEW>(m_workshop.store, m_workshop.settings, m_workshop.texts);
   if (const GameFileProblem problem = view->open(path); problem != GameFileProblem::None)
     return refuse(problem, path);
@@ -398,39 +392,39 @@ void MDI::makeGame() {
   if (!isMade)
     return;
   m_workshop.memory.rememberLastGame(window.choices());
-  if (frmVIEW* old = scorecardOf(window.path())) // of the game that was written over
+  if (frmVIEW* old = m_area->scorecardOf(window.path())) // of the game that was written over
     old->refresh();
   replaceInput(window.path());
 }
 
 void MDI::openTeams() {
-  for (ChildWindow* child : children()) {
+  for (ChildWindow* child : m_area->windows()) {
     if (qobject_cast<frmEQUIPES*>(child) != nullptr)
-      return bringToFront(*child);
+      return m_area->bringToFront(*child);
   }
   auto* window = new frmEQUIPES(m_teams, m_workshop.texts, m_workshop.dialogs);
   connect(window, &frmEQUIPES::printAsked, this,
           [this](const TeamRecord& team, const std::vector<TeamPlayer>& players) {
             preview(teamReports(team, players, m_workshop.texts));
           });
-  addChild(window);
+  m_area->add(*window);
 }
 
 void MDI::preview(std::vector<ReportOffer> offers) {
   if (offers.empty())
     return m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(kWarningTitle)),
                                    toQt(m_workshop.texts.text(kNoTeam)));
-  if (qobject_cast<frmprint*>(frontWindow()) == nullptr)
+  if (qobject_cast<frmprint*>(m_area->front()) == nullptr)
     m_previewedFrom = m_area->currentSubWindow();
-  for (ChildWindow* child : children()) {
+  for (ChildWindow* child : m_area->windows()) {
     if (auto* open = qobject_cast<frmprint*>(child)) {
       open->offer(std::move(offers));
-      return bringToFront(*open);
+      return m_area->bringToFront(*open);
     }
   }
   auto* window = new frmprint(m_workshop.texts, m_workshop.dialogs, m_workshop.printers, *m_output);
   window->offer(std::move(offers));
-  addChild(window);
+  m_area->add(*window);
   // Later: closing, the area chooses a window of its own.
   connect(
       window, &QObject::destroyed, this,
@@ -443,36 +437,22 @@ void MDI::preview(std::vector<ReportOffer> offers) {
 
 void MDI::openSeason() {
   if (frmSTATS* open = season())
-    return bringToFront(*open);
+    return m_area->bringToFront(*open);
   auto* window =
       new frmSTATS(m_workshop.store.files(), m_workshop.settings, m_workshop.texts, m_workshop.dialogs);
   connect(window, &frmSTATS::gameAsked, this, &MDI::openGame);
-  addChild(window);
+  m_area->add(*window);
   window->readFolder();
 }
 
 void MDI::printSeason(frmSTATS& window) {
-  const auto say = [this](int text) {
-    m_workshop.dialogs.inform(this, toQt(m_workshop.texts.text(kReportOption)),
-                              toQt(m_workshop.texts.text(text)));
-  };
-  if (!window.statistics())
-    return say(kGenerateFirst);
   SeasonOffer offer{window.statistics(), window.chosenTeam(), window.chosenPerson()};
-  const bool isOfPerson = m_seasonReport == SeasonReport::Player || m_seasonReport == SeasonReport::Line;
-  if (isOfPerson && (!offer.person || offer.person->isLine != (m_seasonReport == SeasonReport::Line)))
-    return say(kChoosePerson);
+  const auto question = [this](int text) { return toQt(m_workshop.texts.text(text)); };
+  if (const int missing = missingFor(m_seasonReport, offer))
+    return m_workshop.dialogs.inform(this, question(kReportOption), question(missing));
   if (offer.person && canHighlight(m_seasonReport, *offer.person))
-    offer.highlightsPerson = m_workshop.dialogs.ask(this, toQt(m_workshop.texts.text(kReportOption)),
-                                                    toQt(m_workshop.texts.text(kHighlight)));
+    offer.highlightsPerson = m_workshop.dialogs.ask(this, question(kReportOption), question(kHighlight));
   preview(seasonOffers(offer, m_seasonReport, m_workshop.settings, m_workshop.texts));
-}
-
-void MDI::bringToFront(ChildWindow& child) {
-  auto* window = qobject_cast<QMdiSubWindow*>(child.parentWidget());
-  if (window->isMinimized())
-    window->showNormal();
-  m_area->setActiveSubWindow(window);
 }
 
 void MDI::openColours() {
@@ -482,7 +462,7 @@ void MDI::openColours() {
     window.relabelWindow();
   });
   connect(&window, &frmCOULEURS::applied, this, [this] {
-    for (ChildWindow* child : children())
+    for (ChildWindow* child : m_area->windows())
       child->applyColours();
     m_workshop.texts.showNumbers(m_workshop.settings.asksForTextNumbers());
     relabelEverything();
@@ -517,30 +497,7 @@ void MDI::switchKeypad() {
 void MDI::addScorecard(frmVIEW* view) {
   view->setRefreshMode(static_cast<frmVIEW::RefreshMode>(m_workshop.memory.refreshSeconds()));
   connect(view, &frmVIEW::commandStateChanged, this, &MDI::showCommands);
-  addChild(view);
-}
-
-void MDI::addChild(ChildWindow* child) {
-  QMdiSubWindow* window = m_area->addSubWindow(child);
-  window->setAttribute(Qt::WA_DeleteOnClose);
-  const std::string name = fromQt(child->objectName());
-  child->restoreArrangement(
-      QByteArray::fromBase64(QByteArray::fromStdString(m_workshop.memory.layout(name))));
-  connect(child, &ChildWindow::closing, this, [this, child, name] {
-    if (const QByteArray arrangement = child->arrangement(); !arrangement.isEmpty())
-      m_workshop.memory.rememberLayout(name, arrangement.toBase64().toStdString());
-  });
-  connect(child, &ChildWindow::reported, this, &MDI::showMessage);
-  m_exports->serve(*child);
-  // Queued: by then the area has forgotten the window.
-  connect(window, &QObject::destroyed, this, &MDI::showCommands, Qt::QueuedConnection);
-  m_pages->setCurrentWidget(m_area);
-  const bool isFirst = m_area->subWindowList().size() == 1;
-  if (isFirst || m_area->currentSubWindow()->isMaximized())
-    window->showMaximized();
-  else
-    window->show();
-  showCommands();
+  m_area->add(*view);
 }
 
 void MDI::refuse(GameFileProblem problem, const QString& path) {
@@ -550,48 +507,24 @@ void MDI::refuse(GameFileProblem problem, const QString& path) {
       toQt(texts.withPlaceholder(refusalText(problem), fromQt(QDir::toNativeSeparators(path)))));
 }
 
-QList<ChildWindow*> MDI::children() const {
-  QList<ChildWindow*> windows;
-  for (const QMdiSubWindow* window : m_area->subWindowList()) {
-    if (auto* child = qobject_cast<ChildWindow*>(window->widget()))
-      windows << child;
-  }
-  return windows;
-}
-
-ChildWindow* MDI::frontWindow() const {
-  const QMdiSubWindow* window = m_area->currentSubWindow();
-  return window == nullptr ? nullptr : qobject_cast<ChildWindow*>(window->widget());
-}
-
 void MDI::showMessage(const QString& message) {
   statusBar()->showMessage(message, static_cast<int>(std::chrono::milliseconds(kMessageTime).count()));
 }
 
 frmLIVE* MDI::live() const {
-  return firstOf<frmLIVE>(children());
+  return m_area->first<frmLIVE>();
 }
 
 frmMANUAL* MDI::manual() const {
-  return firstOf<frmMANUAL>(children());
+  return m_area->first<frmMANUAL>();
 }
 
 frmSTATS* MDI::season() const {
-  return firstOf<frmSTATS>(children());
+  return m_area->first<frmSTATS>();
 }
 
 frmVIEW* MDI::scorecard() const {
-  return qobject_cast<frmVIEW*>(frontWindow());
-}
-
-frmVIEW* MDI::scorecardOf(const QString& path) const {
-  const QFileInfo wanted(path);
-  for (const QMdiSubWindow* window : m_area->subWindowList()) {
-    auto* view = qobject_cast<frmVIEW*>(window->widget());
-    if (view != nullptr && QFileInfo(view->path()) == wanted)
-      return view;
-  }
-  return nullptr;
+  return qobject_cast<frmVIEW*>(m_area->front());
 }
 
 void MDI::showCommands() {
@@ -624,7 +557,7 @@ void MDI::switchLanguage() {
 void MDI::relabelEverything() {
   m_dialogLanguage.set(m_workshop.texts.language());
   relabel(*this, m_workshop.texts);
-  for (ChildWindow* child : children())
+  for (ChildWindow* child : m_area->windows())
     child->relabelWindow();
   showWhatIsUnsaved();
   showCommands();
@@ -633,7 +566,7 @@ void MDI::relabelEverything() {
 void MDI::switchColours(ColourScheme scheme) {
   Theme::apply(*qApp, scheme);
   m_workshop.memory.rememberColourScheme(scheme);
-  for (ChildWindow* child : children())
+  for (ChildWindow* child : m_area->windows())
     child->applyColours();
 }
 
@@ -670,7 +603,7 @@ void MDI::restorePlace() {
 
 void MDI::closeEvent(QCloseEvent* event) {
   // All are asked before the first one closes.
-  const QList<ChildWindow*> windows = children();
+  const QList<ChildWindow*> windows = m_area->windows();
   if (!std::ranges::all_of(windows, &ChildWindow::agreesToClose)) {
     for (ChildWindow* child : windows)
       child->stay();

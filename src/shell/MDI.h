@@ -20,7 +20,6 @@
 #include <memory>
 
 class QLabel;
-class QMdiArea;
 class QMdiSubWindow;
 class QStackedWidget;
 
@@ -34,6 +33,7 @@ class Printers;
 class ReportOutput;
 class SharedFiles;
 class TimeSource;
+class WindowArea;
 class WindowExports;
 class WindowMemory;
 class frmLIVE;
@@ -99,16 +99,11 @@ class MDI : public QMainWindow {
   void relabelEverything();
 
   void addScorecard(frmVIEW* view);
-  void addChild(ChildWindow* child);
-  void bringToFront(ChildWindow& child);
-  [[nodiscard]] QList<ChildWindow*> children() const; // the open windows
-  [[nodiscard]] ChildWindow* frontWindow() const;     // or null
   void showMessage(const QString& message);           // in the status bar, for a while
   [[nodiscard]] frmLIVE* live() const;                // the one that is open, or null
   [[nodiscard]] frmMANUAL* manual() const;            // the same
   [[nodiscard]] frmSTATS* season() const;             // the one that is open, or null
   [[nodiscard]] frmVIEW* scorecard() const;           // the one in front, or null
-  [[nodiscard]] frmVIEW* scorecardOf(const QString& path) const;
   void showCommands();
   void refuse(GameFileProblem problem, const QString& path);
 
@@ -126,7 +121,7 @@ class MDI : public QMainWindow {
 
   CommandBar* m_commands = nullptr;
   MainMenu* m_menu = nullptr;
-  QMdiArea* m_area = nullptr;
+  WindowArea* m_area = nullptr;
   QStackedWidget* m_pages = nullptr;
   QLabel* m_unsaved = nullptr;
   QPointer<QMdiSubWindow> m_previewedFrom; // comes back to the front when the preview closes

@@ -85,13 +85,23 @@ bool canHighlight(SeasonReport report, const SeasonPerson& person) {
   return false;
 }
 
+int missingFor(SeasonReport report, const SeasonOffer& offer) {
+  constexpr int kChoosePerson = 2135;
+  constexpr int kGenerateFirst = 2146;
+  if (!offer.season)
+    return kGenerateFirst;
+  const bool isOfPerson = report == SeasonReport::Player || report == SeasonReport::Line;
+  const bool isOfLine = report == SeasonReport::Line;
+  return isOfPerson && (!offer.person || offer.person->isLine != isOfLine) ? kChoosePerson : 0;
+}
+
 std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first, const Settings& settings,
                                       const Texts& texts) {
   std::vector<ReportOffer> offers;
   for (const SeasonReportName& name : seasonReports()) {
-    const bool isOfPerson = name.report == SeasonReport::Player || name.report == SeasonReport::Line;
-    if (isOfPerson && (!offer.person || offer.person->isLine != (name.report == SeasonReport::Line)))
+    if (missingFor(name.report, offer) != 0)
       continue;
+    const bool isOfPerson = name.report == SeasonReport::Player || name.report == SeasonReport::Line;
     SeasonReportChoice choice{offer.team, std::nullopt};
     if (isOfPerson || (offer.highlightsPerson && offer.person && canHighlight(name.report, *offer.person)))
       choice.chosen = offer.person->row.id;

@@ -32,11 +32,13 @@ teamReports(const TeamRecord& team, const std::vector<TeamPlayer>& players, cons
                                                    const Texts& texts);
 // The eleven reports of a season, that one first; those of one player or line only for the chosen one.
 struct SeasonOffer {
-  std::shared_ptr<const Season> season; // not null
+  std::shared_ptr<const Season> season; // null: not generated yet
   std::optional<SeasonId> team;
   std::shared_ptr<const SeasonPerson> person; // null: nobody is chosen
   bool highlightsPerson = false;
 };
+// Number of the text that says what must be done before that report can be made; 0 for nothing.
+[[nodiscard]] int missingFor(SeasonReport report, const SeasonOffer& offer);
 [[nodiscard]] std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first,
                                                     const Settings& settings, const Texts& texts);
 // Whether a report is about players or lines, so that a chosen one can be told from the others there.
