@@ -25,7 +25,7 @@ bool isEnabled(const Command& command, const Modes& modes) {
     return std::ranges::any_of(commands(), [&](const Command& entry) {
       return entry.parent == command.key && isEnabled(entry, modes);
     });
-  return command.isBuilt && isOn(command.group, modes);
+  return isOn(command.group, modes);
 }
 
 // Whether what a Toggle, Swap or Choice stands for is so at present.

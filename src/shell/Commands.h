@@ -37,8 +37,6 @@ struct Command {
   CommandKind kind = CommandKind::Action;
   std::string_view shortcut = {}; // portable form, empty for none
   bool separatorBefore = false;
-  bool isBuilt =
-      false; // what it opens exists; one that is not built stays disabled. A Menu lives by its entries
   int otherText = 0; // of a Swap
   std::string_view otherIcon = {};
 };

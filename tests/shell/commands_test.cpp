@@ -31,13 +31,6 @@ CommandState state(std::string_view key, const Modes& modes) {
   return command == nullptr ? CommandState{} : stateOf(*command, modes);
 }
 
-// As the command would be once its window exists.
-CommandState stateWhenBuilt(std::string_view key, const Modes& modes) {
-  Command command = *findCommand(key);
-  command.isBuilt = true;
-  return stateOf(command, modes);
-}
-
 TEST(Commands, AreFoundByTheirKeyLetterForLetter) {
   std::set<std::string_view> keys;
   for (const Command& command : commands()) {
@@ -46,50 +39,6 @@ TEST(Commands, AreFoundByTheirKeyLetterForLetter) {
   }
   EXPECT_EQ(findCommand("vwOPEN"), nullptr);
   EXPECT_EQ(findCommand(""), nullptr);
-  for (const char* key : {"VIEW",
-                          "VwOPEN",
-                          "STATS",
-                          "VwREFRESH",
-                          "VwREFSEC00",
-                          "VwREFSEC10",
-                          "VwREFSEC30",
-                          "VwREFSEC60",
-                          "VwLIGNE",
-                          "VwMA",
-                          "vwPRINT",
-                          "VwCLOSE",
-                          "LIVEOpen",
-                          "LIVENew",
-                          "saveMANUAL",
-                          "SWITCH",
-                          "LIVEMouse",
-                          "LIVEKpad",
-                          "GAMEOVER",
-                          "CLOSELIVEMANUAL",
-                          "livePRINT",
-                          "tbTERRAIN",
-                          "tbKEYPAD",
-                          "gEQUIPE",
-                          "blankPRINT",
-                          "viergePRINT",
-                          "StLISTGAMES",
-                          "stSTATJOUEURS",
-                          "stSTATLIGNES",
-                          "stSTATJOUEURSAUTRES",
-                          "stSTATLIGNESAUTRES",
-                          "StLISTGAMESSOMM",
-                          "stMENEURSTOT",
-                          "stMENEURSMOY",
-                          "stMENEURSMIN",
-                          "stRAPJOUEUR",
-                          "stRAPLIGNE",
-                          "stPRINT",
-                          "stCLOSE",
-                          "tbLANGUE",
-                          "AidHELP",
-                          "AidWEB",
-                          "AidABOUT"})
-    EXPECT_TRUE(keys.contains(key)) << key;
   EXPECT_FALSE(keys.contains("tbVOICE"));
 }
 
@@ -129,28 +78,12 @@ TEST(Commands, EntriesFollowTheButtonThatHoldsThem) {
         << command.key << " has no entries";
 }
 
-TEST(CommandState, ACommandWhoseWindowDoesNotExistIsNeverEnabled) {
-  std::set<std::string_view> enabled;
-  for (const Modes& modes : allModes())
-    for (const Command& command : commands())
-      if (stateOf(command, modes).isEnabled)
-        enabled.insert(command.key);
-  std::set<std::string_view> built; // and the menus that lead to them
-  for (const Command& command : commands()) {
-    if (!command.isBuilt)
-      continue;
-    for (const Command* each = &command; each != nullptr; each = findCommand(each->parent))
-      built.insert(each->key);
-  }
-  EXPECT_EQ(enabled, built);
-}
-
 TEST(CommandState, AGroupIsEnabledAsAWhole) {
   for (const Modes& modes : allModes()) {
     std::map<CommandGroup, std::set<bool>> states;
     for (const Command& command : commands())
       if (command.kind != CommandKind::Menu)
-        states[command.group].insert(stateWhenBuilt(command.key, modes).isEnabled);
+        states[command.group].insert(state(command.key, modes).isEnabled);
     for (const auto& [group, values] : states)
       EXPECT_EQ(values.size(), 1U) << static_cast<int>(group);
   }
@@ -162,12 +95,12 @@ TEST(CommandState, EachModeEnablesItsCommands) {
     EXPECT_TRUE(state("VwOPEN", modes).isEnabled);
     EXPECT_TRUE(state("VIEW", modes).isEnabled);
     EXPECT_EQ(state("VwCLOSE", modes).isEnabled, modes.hasScorecard);
-    EXPECT_EQ(stateWhenBuilt("stCLOSE", modes).isEnabled, modes.hasSeason);
-    EXPECT_EQ(stateWhenBuilt("SWITCH", modes).isEnabled, hasLive);
-    EXPECT_EQ(stateWhenBuilt("saveMANUAL", modes).isEnabled, modes.hasManual);
-    EXPECT_EQ(stateWhenBuilt("CLOSELIVEMANUAL", modes).isEnabled, hasLive || modes.hasManual);
-    EXPECT_EQ(stateWhenBuilt("LIVEOpen", modes).isEnabled, modes.live != LiveClock::Running);
-    EXPECT_EQ(stateWhenBuilt("LIVENew", modes).isEnabled, modes.live != LiveClock::Running);
+    EXPECT_EQ(state("stCLOSE", modes).isEnabled, modes.hasSeason);
+    EXPECT_EQ(state("SWITCH", modes).isEnabled, hasLive);
+    EXPECT_EQ(state("saveMANUAL", modes).isEnabled, modes.hasManual);
+    EXPECT_EQ(state("CLOSELIVEMANUAL", modes).isEnabled, hasLive || modes.hasManual);
+    EXPECT_EQ(state("LIVEOpen", modes).isEnabled, modes.live != LiveClock::Running);
+    EXPECT_EQ(state("LIVENew", modes).isEnabled, modes.live != LiveClock::Running);
   }
 }
 
