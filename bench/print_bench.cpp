@@ -170,7 +170,9 @@ int main(int argc, char** argv) {
   const SeasonStatistics statistics(catalogue, catalogue.select({}), {});
   std::printf("a season of %zu games with %zu players\n", statistics.games().size(),
               statistics.players().size());
-  const auto season = [&] { return seasonReport(SeasonReport::PlayerShots, statistics, {}, settings, texts); };
+  const auto season = [&] {
+    return seasonReport(SeasonReport::PlayerShots, statistics, {}, settings, texts);
+  };
   measure("the report of its players, before it is laid out", [&] { return season().blocks.size(); });
   measure("its players to PDF", [&] { return reportPdf(season(), kFormat).size(); });
   measure("its players to a workbook", [&] { return reportXlsx(season()).value_or("").size(); });

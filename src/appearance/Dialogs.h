@@ -35,7 +35,8 @@ class Dialogs {
   virtual void inform(QWidget* parent, const QString& title, const QString& text) = 0;
   virtual void warn(QWidget* parent, const QString& title, const QString& text) = 0;     // exclamation mark
   virtual void complain(QWidget* parent, const QString& title, const QString& text) = 0; // sign of an error
-  virtual bool ask(QWidget* parent, const QString& title, const QString& text) = 0;      // true for "Yes", which Enter alone is not
+  virtual bool ask(QWidget* parent, const QString& title,
+                   const QString& text) = 0; // true for "Yes", which Enter alone is not
   virtual SaveChoice askToSave(QWidget* parent, const QString& title, const QString& text) = 0;
   // With the system's program for such a document; false when there is none.
   virtual bool openDocument(const QUrl& document) = 0;

@@ -13,7 +13,8 @@ struct GrayPicture {
   std::vector<std::uint8_t> pixels; // row by row from the top, 0 black to 255 white
 
   [[nodiscard]] std::uint8_t at(int x, int y) const {
-    return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)];
+    return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                  static_cast<std::size_t>(x)];
   }
 };
 

@@ -1,5 +1,5 @@
-// One game as the scorecard shows it: read from its file, counted, and kept while a later reading fails. What the window
-// shows and when it says what is decided here; the window only lays out.
+// One game as the scorecard shows it: read from its file, counted, and kept while a later reading fails. What
+// the window shows and when it says what is decided here; the window only lays out.
 #pragma once
 
 #include "storage/GameFile.h"

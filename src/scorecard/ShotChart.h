@@ -11,12 +11,12 @@
 
 namespace hooptab {
 
-// The shots of one team, of the chosen rows: player entries in the view by player; line entries in the view by line, where a mark
-// means the team's shots while that line was on court. Includes shots without a place.
+// The shots of one team, of the chosen rows: player entries in the view by player; line entries in the view
+// by line, where a mark means the team's shots while that line was on court. Includes shots without a place.
 struct ShotSelection {
   int team = 0;
   BoxView view = BoxView::Players;
-  bool all = true;            // else only `entries`
+  bool all = true; // else only `entries`
   std::vector<int> entries;
 };
 [[nodiscard]] std::vector<Shot> selectedShots(const GameState& state, const ShotSelection& selection);

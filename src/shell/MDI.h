@@ -99,11 +99,11 @@ class MDI : public QMainWindow {
   void relabelEverything();
 
   void addScorecard(frmVIEW* view);
-  void showMessage(const QString& message);           // in the status bar, for a while
-  [[nodiscard]] frmLIVE* live() const;                // the one that is open, or null
-  [[nodiscard]] frmMANUAL* manual() const;            // the same
-  [[nodiscard]] frmSTATS* season() const;             // the one that is open, or null
-  [[nodiscard]] frmVIEW* scorecard() const;           // the one in front, or null
+  void showMessage(const QString& message); // in the status bar, for a while
+  [[nodiscard]] frmLIVE* live() const;      // the one that is open, or null
+  [[nodiscard]] frmMANUAL* manual() const;  // the same
+  [[nodiscard]] frmSTATS* season() const;   // the one that is open, or null
+  [[nodiscard]] frmVIEW* scorecard() const; // the one in front, or null
   void showCommands();
   void refuse(GameFileProblem problem, const QString& path);
 

@@ -1,5 +1,6 @@
-// Any bytes as a game file: they are parsed, read as events, checked and counted without a crash or a hang; what is written back
-// unchanged is equal byte for byte, and a value that is set reads back and leaves the other sections' keys as they were.
+// Any bytes as a game file: they are parsed, read as events, checked and counted without a crash or a hang;
+// what is written back unchanged is equal byte for byte, and a value that is set reads back and leaves the
+// other sections' keys as they were.
 #include "scorecard/GameCheck.h"
 #include "storage/GameFile.h"
 #include "storage/ProfileText.h"
