@@ -50,6 +50,15 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
   return GameFileProblem::None;
 }
 
+ForeignHands LiveGame::takeForeignHands() {
+  ForeignHands hands = m_log.takeForeignHands();
+  if (hands.isTouched) { // others may be on court, at other places of the roster
+    putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, m_log.rosters()));
+    decideAgain();
+  }
+  return hands;
+}
+
 // The lists of the last stop, the clock of the last event; after a stop at 00:00 as after the close of the
 // period.
 void LiveGame::showAsLeft() {

@@ -32,7 +32,13 @@ class LiveGame {
   const Game& game() const { return m_log.game(); }
   const GameState& state() const { return m_log.state(); }
   const LiveLog& log() const { return m_log; }
-  bool retryWrites() { return m_log.retry(); }
+  GameOnDisk& disk() { return m_log.disk(); }
+  // Looks at the file, brings it back to what was recorded and writes what waits. Whether everything is on
+  // disk now.
+  bool settle() { return m_access == Access::Reading || m_log.settle(); }
+  // Takes in what others made of the file, between two actions: what to tell the user.
+  [[nodiscard]] ForeignHands takeForeignHands();
+  bool writeCopy(const std::string& path) { return m_log.writeCopy(path); }
 
   // --- Clock and periods
   enum class Phase {

@@ -41,7 +41,7 @@ GameFileProblem LiveLog::open(const std::string& path) {
   m_nextNumber = file.nextNumber();
   m_game = std::move(game);
   m_lines = std::move(lines);
-  m_writes = {}; // what another game still had to write is its own affair, and was asked about
+  m_disk.open(path); // what another game still had to write is its own affair, and was asked about
   m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
   countAll();
   return GameFileProblem::None;
@@ -57,7 +57,7 @@ bool LiveLog::append(const std::vector<EventChange>& steps) {
     m_game.events.appendOwned(static_cast<std::uint8_t>(step.period), step.key, readable(step.line));
     m_tally->apply(m_game.events[m_game.events.size() - 1], m_game.events.size() - 1);
   }
-  write(steps);
+  m_disk.change(steps, m_lines);
   return true;
 }
 
@@ -66,24 +66,39 @@ bool LiveLog::rewrite(const std::vector<EventChange>& steps) {
   if (!std::ranges::all_of(steps, [&](const EventChange& step) { return applyChange(step, changed); }))
     return false;
   m_lines = std::move(changed);
-  write(steps);
+  m_disk.change(steps, m_lines);
   readEvents();
   countAll();
   return true;
 }
 
-void LiveLog::write(const std::vector<EventChange>& steps) {
-  m_writes.write([this, path = m_game.path, steps] {
-    return GameFile(m_store, path).change(steps) == GameFileProblem::None;
-  });
-}
-
 void LiveLog::setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues) {
   for (const auto& [key, value] : keysAndValues)
     setDetail(m_game.details, key, value);
-  m_writes.write([this, path = m_game.path, keysAndValues] {
-    return GameFile(m_store, path).setDetails(keysAndValues) == GameFileProblem::None;
-  });
+  m_disk.setDetails(keysAndValues, m_lines);
+}
+
+ForeignHands LiveLog::takeForeignHands() {
+  ForeignHands hands;
+  if (m_disk.isOnDisk())
+    hands = m_disk.takeForeignHands();
+  if (!hands.isTouched)
+    return hands;
+  Game theirs;
+  readGame(m_disk.text(), theirs);
+  m_game.details = std::move(theirs.details);
+  for (std::size_t team = 0; team < 2; ++team)
+    m_game.roster[team] = std::move(theirs.roster[team]);
+  m_lines = mergeGame(m_lines, m_disk.text(), m_disk.text()).lines;
+  std::erase_if(m_lines, [](const auto& period) { return period.second.empty(); });
+  for (const auto& [period, lines] : m_lines) {
+    for (const auto& [key, line] : lines)
+      m_nextNumber = std::max(m_nextNumber, Module1::leadingNumber(key) + 1);
+  }
+  readEvents();
+  m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
+  countAll();
+  return hands;
 }
 
 void LiveLog::readEvents() {

@@ -1,12 +1,13 @@
 // The events of the game that is being recorded: in memory, counted by the tally, and on disk. A change is
-// counted at once and written at once; what the disk does not take waits and is written, in order, as soon as
-// it does. Knows no clock and no rules of the game.
+// counted at once and written at once; what the disk does not take waits and is written as soon as it does.
+// What others make of the file meanwhile is brought together with it. Knows no clock and no rules of the
+// game.
 #pragma once
 
 #include "live/OnCourt.h"
 #include "storage/GameFile.h"
+#include "storage/GameOnDisk.h"
 #include "storage/Tally.h"
-#include "storage/WriteQueue.h"
 
 #include <optional>
 #include <string>
@@ -17,7 +18,7 @@ namespace hooptab {
 
 class LiveLog {
  public:
-  explicit LiveLog(cinifile& store) : m_store(store) {}
+  explicit LiveLog(cinifile& store) : m_store(store), m_disk(store) {}
   LiveLog(const LiveLog&) = delete; // the tally refers to the counters of this object
   LiveLog& operator=(const LiveLog&) = delete;
 
@@ -38,9 +39,18 @@ class LiveLog {
   // Keys of DETAILS and their values; the details in memory follow.
   void setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
 
-  bool isOnDisk() const { return m_writes.isEmpty(); }
-  std::size_t waiting() const { return m_writes.size(); }
-  bool retry() { return m_writes.retry(); } // whether everything is on disk now
+  // The file, as this log keeps it.
+  const GameOnDisk& disk() const { return m_disk; }
+  GameOnDisk& disk() { return m_disk; }
+  bool isOnDisk() const { return m_disk.isOnDisk(); }
+  std::size_t waiting() const { return m_disk.waiting(); }
+  // Looks at the file, brings it back to what was recorded and writes what waits. Whether everything is on
+  // disk now.
+  bool settle() { return m_disk.settle(m_lines); }
+  bool writeCopy(const std::string& path) { return m_disk.writeCopy(path, m_lines); }
+  // Takes in what others made of the file: events, players and details. Called when nothing is being changed;
+  // what to tell the user.
+  [[nodiscard]] ForeignHands takeForeignHands();
 
   // In which counts all events, counted anew, differ from what counting them one by one has found; empty when
   // both agree, as they must.
@@ -50,7 +60,6 @@ class LiveLog {
  private:
   bool append(const std::vector<EventChange>& steps);
   bool rewrite(const std::vector<EventChange>& steps);
-  void write(const std::vector<EventChange>& steps);
   void readEvents();
   void countAll();
 
@@ -60,7 +69,7 @@ class LiveLog {
   std::optional<Tally> m_tally;
   EventLines m_lines;
   int m_nextNumber = 1;
-  WriteQueue m_writes;
+  GameOnDisk m_disk;
 };
 
 } // namespace hooptab

@@ -17,7 +17,11 @@ GameFileProblem ManualGame::open(const std::string& path, Access access) {
     m_rosters[team] = std::move(game.roster[team]);
   totals.load(m_rosters[0], m_rosters[1], lines);
   m_saved = totals;
-  m_writes = {};
+  m_guard.begin(path);
+  m_isLost = false;
+  m_hasSaved = false;
+  m_isWaiting = false;
+  m_foreign = {};
   return GameFileProblem::None;
 }
 
@@ -25,12 +29,49 @@ bool ManualGame::save() {
   if (isForReading())
     return false;
   m_saved = totals;
-  if (!m_writes.isEmpty()) // the write that waits takes what was saved last
-    return m_writes.retry();
-  return m_writes.write([this] {
-    return GameFile(m_store, m_path).writeLines(ManualTotals::kPeriod, m_saved.lines()) ==
-           GameFileProblem::None;
-  });
+  m_hasSaved = true;
+  m_isWaiting = true;
+  return settle();
+}
+
+bool ManualGame::settle() {
+  if (isForReading())
+    return true;
+  m_isLost = m_isLost || (m_isOurs && !m_isOurs());
+  const FileGuard::Found found = m_isLost ? FileGuard::Found::OutOfReach : m_guard.look();
+  const bool isGone = found == FileGuard::Found::Gone || found == FileGuard::Found::Unusable;
+  const bool isMissing = isGone || (m_hasSaved && isTouched(found)); // of what this window left there
+  if (found == FileGuard::Found::OutOfReach || (!m_isWaiting && !isMissing))
+    return isOnDisk();
+
+  ProfileBatch batch;
+  if (m_hasSaved)
+    GameFile::planLines(ManualTotals::kPeriod, m_saved.lines(), batch);
+  bool isWritten = false;
+  if (isGone) {
+    isWritten = m_guard.rewrite(batch);
+    m_foreign.isRewritten = m_foreign.isRewritten || isWritten;
+  } else {
+    const bool gaveWay = isTouched(found);
+    isWritten = (!gaveWay || m_guard.keepFound()) && m_guard.write(batch);
+    m_foreign.gaveWay = m_foreign.gaveWay || (gaveWay && isWritten);
+  }
+  if (std::string kept = m_guard.takeKeptAs(); !kept.empty())
+    m_foreign.keptAs = std::move(kept);
+  m_isWaiting = m_isWaiting && !isWritten;
+  return isOnDisk();
+}
+
+// Whether the events in the file are others than those that were left there.
+bool ManualGame::isTouched(FileGuard::Found found) {
+  return found == FileGuard::Found::Changed &&
+         storedEventLines(m_guard.found()) != storedEventLines(m_guard.left());
+}
+
+bool ManualGame::writeCopy(const std::string& path) {
+  ProfileBatch batch;
+  GameFile::planLines(ManualTotals::kPeriod, totals.lines(), batch);
+  return m_guard.writeCopy(path, batch);
 }
 
 } // namespace hooptab

@@ -1,18 +1,21 @@
 // A game of totals that is open: its details, players and totals, and whether they are on disk. What the disk
-// does not take stays in memory and is written as soon as it does.
+// does not take stays in memory and is written as soon as it does. What others wrote into the events of the
+// file meanwhile gives way, and is kept.
 #pragma once
 
 #include "manual/ManualTotals.h"
+#include "storage/FileGuard.h"
 #include "storage/GameFile.h"
-#include "storage/WriteQueue.h"
 
+#include <functional>
 #include <string>
+#include <utility>
 
 namespace hooptab {
 
 class ManualGame {
  public:
-  explicit ManualGame(cinifile& store) : m_store(store) {}
+  explicit ManualGame(cinifile& store) : m_store(store), m_guard(store, isGame) {}
   ManualGame(const ManualGame&) = delete; // what waits to be written refers to this object
   ManualGame& operator=(const ManualGame&) = delete;
 
@@ -28,19 +31,39 @@ class ManualGame {
 
   // Everything was handed over to be saved; it may still wait for the disk.
   bool isSaved() const { return totals == m_saved; }
-  bool isOnDisk() const { return m_writes.isEmpty(); }
-  // Both return whether everything that was saved is on disk.
+  bool isOnDisk() const { return !m_isWaiting; }
+  // Both return whether everything that was saved is on disk. The second also brings back what was saved when
+  // the file has lost it.
   bool save();
-  bool retry() { return m_writes.retry(); }
+  bool settle();
+  // The totals as they are now, saved or not, in another file.
+  bool writeCopy(const std::string& path);
+  // Asked before each write: false when somebody else writes this file now, and nothing more goes there.
+  void setOwnership(std::function<bool()> isOurs) { m_isOurs = std::move(isOurs); }
+  bool isLost() const { return m_isLost; }
+  // What others did to the file since it was last asked for.
+  struct ForeignHands {
+    bool isRewritten = false; // the whole file was written again
+    bool gaveWay = false;     // events that others had written
+    std::string keptAs;       // their version; empty where nothing of it is missing
+  };
+  [[nodiscard]] ForeignHands takeForeignHands() { return std::exchange(m_foreign, {}); }
 
  private:
+  [[nodiscard]] bool isTouched(FileGuard::Found found);
+
   cinifile& m_store;
   std::string m_path;
   Access m_access = Access::Entering;
   GameDetails m_details;
   Roster m_rosters[2];
   ManualTotals m_saved;
-  WriteQueue m_writes;
+  FileGuard m_guard;
+  std::function<bool()> m_isOurs;
+  bool m_isLost = false;
+  bool m_hasSaved = false;
+  bool m_isWaiting = false; // what was saved, for the disk
+  ForeignHands m_foreign;
 };
 
 } // namespace hooptab

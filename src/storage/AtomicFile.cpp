@@ -85,12 +85,16 @@ Place placeOf(const std::string& target) {
 }
 
 // Writes `bytes` durably to the temporary file, which must not exist. `old` is the file that it will replace,
-// if any.
+// if any, and stands at `target`.
 bool writeTemporary(FileSystem& files, const std::string& path, std::string_view bytes, const FileStamp* old,
-                    FileStamp& stamp) {
+                    const std::string& target, FileStamp& stamp) {
   Descriptor file(files, path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, old ? 0600 : 0666);
   if (!file.isOpen())
     return false;
+  if (old != nullptr) { // before the mode, which a change of owner cuts
+    files.keepOwner(file.get(), *old);
+    files.keepAttributes(file.get(), target);
+  }
   const bool isWritten = writeAll(files, file.get(), bytes) &&
                          (!old || files.setMode(file.get(), old->mode) == 0) && syncFile(files, file.get()) &&
                          files.stamp(file.get(), stamp);
@@ -168,15 +172,24 @@ bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_vi
 
   files.remove(place.temporary);
   FileStamp written;
-  const bool isReplaced = writeTemporary(files, place.temporary, bytes, exists ? &old : nullptr, written) &&
-                          isStillOurs(files, place.temporary, written) &&
-                          files.rename(place.temporary, target) == 0;
+  const bool isReplaced =
+      writeTemporary(files, place.temporary, bytes, exists ? &old : nullptr, target, written) &&
+      isStillOurs(files, place.temporary, written) && files.rename(place.temporary, target) == 0;
   if (!isReplaced) {
     files.remove(place.temporary);
     return false;
   }
   stamp = written;
   return syncFolder(files, folder.get());
+}
+
+std::string freeNameBeside(FileSystem& files, const std::string& path) {
+  FileStamp taken;
+  for (int number = 1;; ++number) {
+    std::string name = path + '.' + std::to_string(number);
+    if (!files.stamp(name, taken))
+      return errno == ENOENT ? name : std::string();
+  }
 }
 
 } // namespace hooptab

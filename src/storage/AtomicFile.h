@@ -22,8 +22,13 @@ inline constexpr std::int64_t kLargestProfileFile = 16 * 1024 * 1024;
 // True when the new bytes are durably in place; then `stamp` is the state written. On failure the old file
 // stands as it was and `stamp` is left alone; or, when only the folder's own fsync failed, the new file
 // stands and `stamp` is its state. No temporary file is left. Fails for a file without any write permission
-// bit, even for a user whom the system would let write. Keeps mode bits and a symbolic link's target.
+// bit, even for a user whom the system would let write. Keeps mode bits and a symbolic link's target, and
+// owner, group and extended attributes where the system lets.
 [[nodiscard]] bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_view bytes,
                                     FileStamp& stamp);
+
+// A name for another version of a file, beside it: its own and ".1", ".2", ..., the first that nothing has.
+// Empty when the folder cannot be looked into.
+[[nodiscard]] std::string freeNameBeside(FileSystem& files, const std::string& path);
 
 } // namespace hooptab

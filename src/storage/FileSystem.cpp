@@ -1,13 +1,16 @@
 #include "storage/FileSystem.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <ctime>
 #include <fcntl.h>
 #include <memory>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace hooptab {
@@ -23,6 +26,9 @@ FileStamp stampOf(const struct stat& status) {
           .size = status.st_size,
           .modifiedNanoseconds = nanoseconds(status.st_mtim),
           .mode = status.st_mode & 07777U,
+          .owner = status.st_uid,
+          .group = status.st_gid,
+          .names = status.st_nlink,
           .isRegular = S_ISREG(status.st_mode)};
 }
 
@@ -46,6 +52,29 @@ int FileSystem::sync(int descriptor) {
 
 int FileSystem::setMode(int descriptor, unsigned mode) {
   return ::fchmod(descriptor, mode);
+}
+
+void FileSystem::keepOwner(int descriptor, const FileStamp& old) {
+  if (::fchown(descriptor, old.owner, old.group) == 0)
+    return;
+  constexpr auto kAsItIs = static_cast<uid_t>(-1);
+  [[maybe_unused]] const int ignored = ::fchown(descriptor, kAsItIs, old.group);
+}
+
+void FileSystem::keepAttributes(int descriptor, const std::string& from) {
+  const ssize_t size = ::listxattr(from.c_str(), nullptr, 0);
+  if (size <= 0)
+    return;
+  std::string names(static_cast<std::size_t>(size), '\0');
+  const ssize_t listed = ::listxattr(from.c_str(), names.data(), names.size());
+  names.resize(static_cast<std::size_t>(std::max<ssize_t>(listed, 0)));
+  for (const char* name = names.c_str(); name < names.data() + names.size(); name += std::strlen(name) + 1) {
+    constexpr std::size_t kLargestAttribute = 65536; // that a Linux file can have
+    std::string value(kLargestAttribute, '\0');
+    const ssize_t length = ::getxattr(from.c_str(), name, value.data(), value.size());
+    if (length >= 0)
+      (void)::fsetxattr(descriptor, name, value.data(), static_cast<std::size_t>(length), 0);
+  }
 }
 
 int FileSystem::close(int descriptor) {

@@ -17,6 +17,9 @@ struct FileStamp {
   std::int64_t size = 0;
   std::int64_t modifiedNanoseconds = 0;
   std::uint32_t mode = 0; // permission bits only
+  std::uint32_t owner = 0;
+  std::uint32_t group = 0;
+  std::uint64_t names = 0; // hard links to it
   bool isRegular = false;
 
   friend bool operator==(const FileStamp&, const FileStamp&) = default;
@@ -32,6 +35,10 @@ class FileSystem {
   virtual ssize_t write(int descriptor, const char* bytes, std::size_t size);
   virtual int sync(int descriptor);
   virtual int setMode(int descriptor, unsigned mode);
+  // Gives the file the owner and the group of `old`, as far as the system lets: often the group alone.
+  virtual void keepOwner(int descriptor, const FileStamp& old);
+  // Gives the file the extended attributes (access lists, labels) of the file at `from`, those that it takes.
+  virtual void keepAttributes(int descriptor, const std::string& from);
   virtual int close(int descriptor);
   virtual int rename(const std::string& from, const std::string& to);
   virtual int remove(const std::string& path);

@@ -16,9 +16,17 @@ namespace {
 constexpr std::string_view kPeriodPrefix = "PERIODE";
 constexpr std::string_view kRosterSections[2] = {"0", "1"};
 
+} // namespace
+
 std::string periodSection(int period) {
   return std::string(kPeriodPrefix) + std::to_string(period);
 }
+
+std::string rosterSection(int team) {
+  return std::string(kRosterSections[team]);
+}
+
+namespace {
 
 // What every reader gets of a value.
 std::string_view readable(std::string_view value) {
@@ -154,20 +162,6 @@ PeriodLines storedLines(const ProfileText& text, int period) {
   return lines;
 }
 
-// A change that failed can stand in the file all the same, when only its folder could not be synced. Written
-// again, it must end as it did: a file has all of a change or nothing of it.
-bool isWrittenAlready(const ProfileText& text, const std::vector<EventChange>& steps) {
-  std::map<std::pair<int, std::string>, std::string> last;
-  for (const EventChange& step : steps) {
-    if (step.kind != EventChange::Kind::Move)
-      last[{step.period, step.key}] = step.line;
-  }
-  return !last.empty() && std::ranges::all_of(last, [&](const auto& entry) {
-    const auto value = text.value(periodSection(entry.first.first), entry.first.second);
-    return value && *value == codepage::fromUtf8(entry.second);
-  });
-}
-
 std::string withoutBlanks(std::string text) {
   std::erase(text, ' ');
   return text;
@@ -186,6 +180,17 @@ void readGame(const ProfileText& text, Game& game) {
   readEvents(text, game.events);
 }
 
+EventLines storedEventLines(const ProfileText& text) {
+  EventLines lines;
+  for (const int period : periodsOf(text))
+    lines[period] = storedLines(text, period);
+  return lines;
+}
+
+bool isGame(const ProfileText& text) {
+  return text.value(kDetailsSection, "VERSION") == GameFile::kVersion;
+}
+
 GameFile::GameFile(cinifile& store, std::string path) : m_store(store), m_path(std::move(path)) {}
 
 GameFileProblem GameFile::open(const ProfileText*& text) {
@@ -197,8 +202,7 @@ GameFileProblem GameFile::open(const ProfileText*& text) {
   case ReadOutcome::Failed: return GameFileProblem::Unreadable;
   case ReadOutcome::Read: break;
   }
-  const auto version = text->value(kDetailsSection, "VERSION");
-  return version && *version == kVersion ? GameFileProblem::None : GameFileProblem::InvalidFormat;
+  return isGame(*text) ? GameFileProblem::None : GameFileProblem::InvalidFormat;
 }
 
 // Every batch is decided upon what the file holds, which has been read just before.
@@ -236,8 +240,8 @@ GameFileProblem GameFile::readLines(EventLines& lines) {
   if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
     return problem;
   lines.clear();
-  for (const int period : periodsOf(*text)) {
-    for (const auto& [key, line] : storedLines(*text, period))
+  for (const auto& [period, stored] : storedEventLines(*text)) {
+    for (const auto& [key, line] : stored)
       lines[period].emplace_back(codepage::toUtf8(key), codepage::toUtf8(line));
   }
   return GameFileProblem::None;
@@ -290,13 +294,18 @@ GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
   const ProfileText* text = nullptr;
   if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
     return problem;
+  ProfileBatch batch;
+  return plan(steps, *text, batch) ? write(batch) : GameFileProblem::UnknownEvent;
+}
+
+bool GameFile::plan(const std::vector<EventChange>& steps, const ProfileText& text, ProfileBatch& batch) {
   EventLines lines; // in bytes of the file, so that what is not changed stays as it is
   std::set<int> reordered;
   int lowest = 0; // of the new events, as is
   int highest = 0;
   for (const EventChange& step : steps) {
     if (!lines.contains(step.period))
-      lines[step.period] = storedLines(*text, step.period);
+      lines[step.period] = storedLines(text, step.period);
     const bool isAtEnd = step.kind == EventChange::Kind::Add && step.before.empty();
     if (!isAtEnd && step.kind != EventChange::Kind::Replace)
       reordered.insert(step.period);
@@ -309,14 +318,10 @@ GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
     stored.line = codepage::fromUtf8(step.line);
     stored.key = codepage::fromUtf8(step.key);
     stored.before = codepage::fromUtf8(step.before);
-    if (applyChange(stored, lines))
-      continue;
-    if (!isWrittenAlready(*text, steps))
-      return GameFileProblem::UnknownEvent;
-    lines[step.period] = storedLines(*text, step.period);
+    if (!applyChange(stored, lines))
+      return false;
   }
 
-  ProfileBatch batch;
   for (const int period : reordered)
     batch.setStoredSectionLines(periodSection(period), lines[period]);
   for (const EventChange& step : steps) {
@@ -325,24 +330,20 @@ GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
   }
   // New events take the number that EVENUM promises, and those behind it; only where they do not, what others
   // there are is looked at.
-  if (highest > 0 && Module1::leadingNumber(text->value(kDetailsSection, "EVENUM").value_or("")) != lowest)
-    highest = std::max(highestNumber(*text), highest);
+  if (highest > 0 && Module1::leadingNumber(text.value(kDetailsSection, "EVENUM").value_or("")) != lowest)
+    highest = std::max(highestNumber(text), highest);
   if (highest > 0)
     batch.set(std::string(kDetailsSection), "EVENUM", std::to_string(highest + 1));
-  return write(batch);
+  return true;
 }
 
-GameFileProblem GameFile::writeLines(int period, const std::vector<std::string>& lines) {
-  if (const GameFileProblem problem = validate(); problem != GameFileProblem::None)
-    return problem;
+void GameFile::planLines(int period, const std::vector<std::string>& lines, ProfileBatch& batch) {
   PeriodLines numbered;
   numbered.reserve(lines.size());
   for (const std::string& line : lines)
     numbered.emplace_back(std::to_string(numbered.size() + 1), line);
-  ProfileBatch batch;
   batch.setSectionLines(periodSection(period), std::move(numbered));
   batch.set(std::string(kDetailsSection), "TERMINE", lines.empty() ? "0" : "1");
-  return write(batch);
 }
 
 GameFileProblem GameFile::setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues) {

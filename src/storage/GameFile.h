@@ -65,9 +65,13 @@ class GameFile {
   // Takes the steps in their order, as one batch; EVENUM follows new events. Nothing is changed when one of
   // them cannot be taken.
   [[nodiscard]] GameFileProblem change(const std::vector<EventChange>& steps);
-  // The event lines of a period become these, numbered from 1, and the game is finished when there are any;
-  // one batch. For games of totals, which are written whole.
-  [[nodiscard]] GameFileProblem writeLines(int period, const std::vector<std::string>& lines);
+  // Adds what change() would write to the file of that text to a batch. False, and nothing added, when one of
+  // the steps cannot be taken.
+  [[nodiscard]] static bool plan(const std::vector<EventChange>& steps, const ProfileText& text,
+                                 ProfileBatch& batch);
+  // The event lines of a period become these, numbered from 1, and the game is finished when there are any.
+  // For games of totals, which are written whole.
+  static void planLines(int period, const std::vector<std::string>& lines, ProfileBatch& batch);
   // Marks events as deleted ("E" in front of the line) or takes the mark away; the rest of each line is
   // unchanged. One batch.
   struct EventKey {
@@ -87,7 +91,13 @@ class GameFile {
   std::string m_path;
 };
 
-// The event part of reading, for callers that have the parsed file already (season scans, benchmarks).
+// The parts of reading for callers that have the parsed file already: everything, the event lines of all
+// periods as they are stored (bytes of the code page), and whether it is a game at all.
 void readGame(const ProfileText& text, Game& game);
+[[nodiscard]] EventLines storedEventLines(const ProfileText& text);
+[[nodiscard]] bool isGame(const ProfileText& text);
+// The name of a period's section, and of a team's.
+[[nodiscard]] std::string periodSection(int period);
+[[nodiscard]] std::string rosterSection(int team);
 
 } // namespace hooptab

@@ -242,6 +242,13 @@ bool ProfileText::hasBytes(std::string_view bytes) const {
   return bytes.empty();
 }
 
+bool ProfileText::isSameAs(const ProfileText& other) const {
+  const auto isShared = [](const Piece& left, const Piece& right) {
+    return left.parsed == right.parsed && left.section == right.section;
+  };
+  return std::ranges::equal(m_pieces, other.m_pieces, isShared) || hasBytes(other.bytes());
+}
+
 bool ProfileText::hasSection(std::string_view section) const {
   return find(section) > 0;
 }

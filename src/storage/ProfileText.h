@@ -37,6 +37,8 @@ class ProfileText {
 
   [[nodiscard]] std::string bytes() const; // of the whole file
   [[nodiscard]] bool hasBytes(std::string_view bytes) const;
+  // Whether both are the same bytes; at once for a text and its copies.
+  [[nodiscard]] bool isSameAs(const ProfileText& other) const;
 
   // The lines of the first section of that name, headers excluded; empty when there is none.
   struct SectionView {

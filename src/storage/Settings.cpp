@@ -39,6 +39,14 @@ std::string valueIn(const ProfileBatch& batch, std::string_view key) {
   return {};
 }
 
+bool isSettings(const ProfileText& text) {
+  return text.keyList(kSection).size() >= kShortestKeyList;
+}
+
+std::size_t hashOf(const ProfileText& text) {
+  return std::hash<std::string>()(text.bytes());
+}
+
 const char* flagText(bool on) {
   return on ? "True" : "False";
 }
@@ -52,7 +60,8 @@ const std::vector<std::uint32_t>& customColours() {
   return colours;
 }
 
-Settings::Settings(cinifile& store, std::string folder) : m_store(store), m_folder(std::move(folder)) {}
+Settings::Settings(cinifile& store, std::string folder)
+    : m_store(store), m_folder(std::move(folder)), m_guard(store, isSettings) {}
 
 std::string Settings::path() const {
   return (std::filesystem::path(m_folder) / "CONFIG.INI").string();
@@ -74,9 +83,7 @@ Settings::Preparation Settings::prepare(const Texts& texts) {
 
 bool Settings::isComplete() {
   m_store.Path(path());
-  m_store.Section(kSection);
-  m_store.Default("");
-  return m_store.INISection().size() >= kShortestKeyList;
+  return isSettings(m_store.profile());
 }
 
 bool Settings::complete(const ProfileBatch& content) {
@@ -86,21 +93,18 @@ bool Settings::complete(const ProfileBatch& content) {
   const std::string found = m_store.profile().bytes();
   if (m_store.readOutcome() != ReadOutcome::Read && m_store.readOutcome() != ReadOutcome::Absent)
     return false;
-  if (!found.empty() && !keep(found))
+  if ((!found.empty() && !keep(found)) || !m_store.write(content))
     return false;
-  return m_store.write(content);
+  m_guard.begin(path());
+  return true;
 }
 
 bool Settings::keep(const std::string& bytes) {
   if (!m_keptAs.empty())
     return true;
   FileStamp stamp;
-  std::string copy;
-  int number = 0;
-  do
-    copy = path() + '.' + std::to_string(++number);
-  while (m_store.files().stamp(copy, stamp));
-  if (!replaceWholeFile(m_store.files(), copy, bytes, stamp))
+  const std::string copy = freeNameBeside(m_store.files(), path());
+  if (copy.empty() || !replaceWholeFile(m_store.files(), copy, bytes, stamp))
     return false;
   m_keptAs = copy;
   return true;
@@ -114,6 +118,8 @@ void Settings::read() {
     m_store.Key(std::string(key));
     return m_store.Value();
   });
+  if (isComplete())
+    m_guard.begin(path());
 }
 
 void Settings::take(const std::function<std::string(std::string_view key)>& value) {
@@ -193,10 +199,33 @@ bool Settings::saveAppearance(const ChosenColours& colours, const std::string (&
 }
 
 bool Settings::writeNow(const ProfileBatch& batch) {
-  if (!m_writes.retry())
+  return m_writes.retry() && write(batch);
+}
+
+void Settings::settle() {
+  if (m_writes.retry())
+    (void)write({});
+}
+
+bool Settings::write(const ProfileBatch& batch) {
+  if (!m_guard.isWatching()) { // there is no file yet that could be missed
+    m_store.Path(path());
+    return m_store.write(batch);
+  }
+  const FileGuard::Found found = m_guard.look();
+  if (found == FileGuard::Found::OutOfReach)
+    return batch.isEmpty();
+  const bool isOlder = found == FileGuard::Found::Changed && m_older.contains(hashOf(m_guard.found()));
+  const bool isLost = found == FileGuard::Found::Gone || found == FileGuard::Found::Unusable || isOlder;
+  const std::size_t before = hashOf(m_guard.left());
+  const auto theirs = isOlder ? FileGuard::Theirs::NotMissed : FileGuard::Theirs::Kept;
+  if (isLost ? !m_guard.rewrite(batch, theirs) : !m_guard.write(batch))
     return false;
-  m_store.Path(path());
-  return m_store.write(batch);
+  m_older.insert(before);
+  m_older.erase(hashOf(m_guard.left()));
+  if (isLost)
+    m_restored = Restored{m_guard.takeKeptAs()};
+  return true;
 }
 
 bool Settings::save(const char* key, std::string value) {
@@ -206,10 +235,7 @@ bool Settings::save(const char* key, std::string value) {
 }
 
 bool Settings::save(const ProfileBatch& batch) {
-  return m_writes.write([this, batch] {
-    m_store.Path(path());
-    return m_store.write(batch);
-  });
+  return m_writes.write([this, batch] { return write(batch); });
 }
 
 } // namespace hooptab

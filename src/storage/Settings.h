@@ -3,6 +3,7 @@
 // The file is described in docs/formats/config.md.
 #pragma once
 
+#include "storage/FileGuard.h"
 #include "storage/Texts.h"
 #include "storage/WriteQueue.h"
 #include "storage/cinifile.h"
@@ -11,7 +12,9 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace hooptab {
@@ -88,6 +91,15 @@ class Settings {
   // For what others keep in the same file (teams): goes there now or not at all, and never before what waits.
   [[nodiscard]] bool writeNow(const ProfileBatch& batch);
   bool retry() { return m_writes.retry(); }
+  // Looks at the file: one that is gone, damaged or of another kind is written again as it was left, and so
+  // is one that went back to an older version. To be called before what others keep there is read.
+  void settle();
+  // What was done about a file that others had replaced since this was last asked for; the path where theirs
+  // is kept, empty where nothing of it is missing.
+  struct Restored {
+    std::string keptAs;
+  };
+  [[nodiscard]] std::optional<Restored> takeRestored() { return std::exchange(m_restored, std::nullopt); }
   bool isOnDisk() const { return m_writes.isEmpty(); }
 
  private:
@@ -97,11 +109,15 @@ class Settings {
   void take(const std::function<std::string(std::string_view key)>& value);
   bool save(const char* key, std::string value);
   bool save(const ProfileBatch& batch);
+  bool write(const ProfileBatch& batch);
 
   cinifile& m_store;
   std::string m_folder;
   std::string m_keptAs;
   WriteQueue m_writes;
+  FileGuard m_guard;
+  std::set<std::size_t> m_older; // of what was left there before, by its bytes
+  std::optional<Restored> m_restored;
 };
 
 // The whole first-run content, in the order in which it is written.

@@ -69,6 +69,12 @@ struct Applier {
   }
 };
 
+ProfileText withOperations(ProfileText text, const ProfileBatch& batch) {
+  for (const ProfileBatch::Operation& operation : batch.operations())
+    text = std::visit(Applier{text}, operation);
+  return text;
+}
+
 } // namespace
 
 cinifile::cinifile(FileSystem& files) : m_files(files) {}
@@ -118,12 +124,18 @@ bool cinifile::writeBehindReading(const ProfileBatch& batch) {
   if (m_readOutcome != ReadOutcome::Read && m_readOutcome != ReadOutcome::Absent)
     return false;
 
-  const auto known = m_copies.find(m_path);
-  const ProfileText& before = known != m_copies.end() ? known->second.text : m_nothing;
-  ProfileText after = before;
-  for (const ProfileBatch::Operation& operation : batch.operations())
-    after = std::visit(Applier{after}, operation);
+  const ProfileText& before = known();
+  return put(before, withOperations(before, batch));
+}
 
+bool cinifile::replace(const ProfileText& base, const ProfileBatch& batch) {
+  m_lastReturnCode = 0;
+  const ProfileText before = profile(); // what stands in the way may be anything, even too large to be read
+  return put(before, withOperations(base, batch));
+}
+
+// Writes the file unless `before`, which is what it holds, is that already.
+bool cinifile::put(const ProfileText& before, ProfileText after) {
   const std::string bytes = after.bytes();
   const bool isOnDisk = before.hasBytes(bytes) && !m_undurable.contains(m_path);
   if (!isOnDisk) {
@@ -143,6 +155,11 @@ bool cinifile::writeBehindReading(const ProfileBatch& batch) {
   }
   m_lastReturnCode = 1;
   return true;
+}
+
+const ProfileText& cinifile::known() const {
+  const auto known = m_copies.find(m_path);
+  return known != m_copies.end() ? known->second.text : m_nothing;
 }
 
 const ProfileText& cinifile::profile() {

@@ -58,10 +58,16 @@ class cinifile {
   // once more between reading and writing.
   bool writeBehindReading(const ProfileBatch& batch);
 
+  // Makes the file `base` with all operations applied to it, whatever stands there now; a folder or another
+  // thing that is no file stays, and is a failure. Sets LastReturnCode and returns whether it is non-zero.
+  bool replace(const ProfileText& base, const ProfileBatch& batch);
+
   // The file as it is now, for readers that go through many keys (events, rosters). Empty where Path cannot
   // be read; `readOutcome` says why. The reference holds until the next call on this store.
   const ProfileText& profile();
   ReadOutcome readOutcome() const { return m_readOutcome; }
+  // Path as it was last read or written, without a look at the file; empty when that failed.
+  const ProfileText& known() const;
 
  private:
   struct Copy {
@@ -71,6 +77,7 @@ class cinifile {
     std::uint64_t lastUse = 0;
   };
   Copy& copyOfPath();
+  bool put(const ProfileText& before, ProfileText after);
   [[nodiscard]] std::string defaultText() const;
 
   FileSystem& m_files;

@@ -435,9 +435,9 @@ TEST_F(LiveGameTest, WhatTheDiskDoesNotTakeIsWrittenInOrderLater) {
   live.stop();
   EXPECT_FALSE(live.log().isOnDisk());
   EXPECT_EQ(live.state().players[0][1].counters[Counter::FTM], 0);
-  EXPECT_FALSE(live.retryWrites());
+  EXPECT_FALSE(live.settle());
   disk.reset();
-  EXPECT_TRUE(live.retryWrites());
+  EXPECT_TRUE(live.settle());
   EXPECT_TRUE(
       lines().ends_with(" 10:00,DEPART E09:55,GFT,0-4 09:55,ARRET,IN-04-05-10-12-15,IN-04-05-10-12-15"))
       << lines();

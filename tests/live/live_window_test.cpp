@@ -281,8 +281,11 @@ TEST_F(LiveWindowTest, ACountThatIsTooLargeIsNamed) {
   const std::string many = folder.path("many.GAM");
   makeGame(many);
   std::vector<std::string> turnovers(32'768, "10:00,STO,0-4");
-  ASSERT_EQ(GameFile(store, many).writeLines(1, turnovers), GameFileProblem::None);
-  ASSERT_EQ(GameFile(store, many).setDetails({{"TERMINE", "0"}}), GameFileProblem::None);
+  ProfileBatch batch;
+  GameFile::planLines(1, turnovers, batch);
+  batch.set("DETAILS", "TERMINE", "0");
+  store.Path(many);
+  ASSERT_TRUE(store.write(batch));
   ASSERT_EQ(window->open(toQt(many)), frmLIVE::Opening::Opened);
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("many.GAM")));

@@ -93,7 +93,7 @@ TEST_F(ManualGameTest, FaultsLeaveTheOldTotalsOrTheNewOnes) {
     game.totals.press(1, 1, EventCode::SPF, true, kUp);
     EXPECT_EQ(game.save(), isOnDisk);
     files.reset();
-    EXPECT_TRUE(game.retry());
+    EXPECT_TRUE(game.settle());
     EXPECT_TRUE(written().ends_with(fresh + "4=00:00,SPF,1-3\n"));
     if (!hasFailed)
       break;

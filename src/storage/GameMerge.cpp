@@ -1,0 +1,128 @@
+#include "storage/GameMerge.h"
+
+#include "storage/GameFile.h"
+#include "storage/Module1.h"
+#include "storage/codepage.h"
+
+#include <algorithm>
+#include <set>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace hooptab {
+
+namespace {
+
+using Line = PeriodLines::value_type;
+
+class Merger {
+ public:
+  Merger(const EventLines& ours, const ProfileText& left, const ProfileText& theirs)
+      : m_ours(ours), m_left(storedEventLines(left)), m_theirs(theirs) {
+    for (const auto& [period, lines] : ours) {
+      for (const auto& [key, line] : lines)
+        m_numbers.insert(Module1::wholeNumber(key));
+    }
+  }
+
+  GameMerge merge() {
+    const EventLines stored = storedEventLines(m_theirs);
+    std::set<int> periods;
+    for (const auto& [period, lines] : m_ours)
+      periods.insert(period);
+    for (const auto& [period, lines] : stored)
+      periods.insert(period);
+    for (const int period : periods)
+      mergePeriod(period, linesOf(m_ours, period), linesOf(stored, period));
+    return std::move(m_result);
+  }
+
+ private:
+  static const PeriodLines& linesOf(const EventLines& lines, int period) {
+    static const PeriodLines kNone;
+    const auto found = lines.find(period);
+    return found == lines.end() ? kNone : found->second;
+  }
+
+  void mergePeriod(int period, const PeriodLines& ours, const PeriodLines& stored) {
+    std::unordered_map<std::string_view, std::string_view> own(ours.begin(), ours.end());
+    const PeriodLines& leftLines = linesOf(m_left, period);
+    std::unordered_map<std::string_view, std::string_view> left(leftLines.begin(), leftLines.end());
+    lookForHidden(period, own);
+
+    // Theirs that are new stand before the first of ours that follows them in their file, or behind all.
+    std::unordered_map<std::string, PeriodLines> before;
+    PeriodLines waiting;
+    for (const auto& [storedKey, storedLine] : stored) {
+      Line line(codepage::toUtf8(storedKey), codepage::toUtf8(storedLine));
+      const auto known = left.find(storedKey);
+      const bool isAsLeft = known != left.end() && known->second == storedLine;
+      if (isAsLeft)
+        left.erase(known);
+      if (const auto same = own.find(line.first); same != own.end()) {
+        if (same->second != line.second && !isAsLeft)
+          m_result.gaveWay.push_back({period, line.first});
+        before[line.first] = std::exchange(waiting, {});
+      } else if (isNew(period, line)) {
+        waiting.push_back(std::move(line));
+        ++m_result.added;
+      } else {
+        m_result.gaveWay.push_back({period, line.first});
+      }
+    }
+    m_result.restored += static_cast<int>(left.size());
+
+    PeriodLines& lines = m_result.lines[period];
+    for (const Line& line : ours) {
+      if (const auto inserted = before.find(line.first); inserted != before.end())
+        std::ranges::move(inserted->second, std::back_inserter(lines));
+      lines.push_back(line);
+    }
+    std::ranges::move(waiting, std::back_inserter(lines));
+  }
+
+  bool isNew(int period, const Line& line) {
+    const int number = Module1::wholeNumber(line.first);
+    const std::string_view readable = std::string_view(line.second).substr(0, cinifile::kLongestValue);
+    return number > 0 &&
+           GameEvent::parse(static_cast<std::uint8_t>(period), line.first, readable).isUnderstood &&
+           m_numbers.insert(number).second;
+  }
+
+  void lookForHidden(int period, const std::unordered_map<std::string_view, std::string_view>& own) {
+    for (const ProfileText::Line& line : m_theirs.section(periodSection(period))) {
+      if (line.kind == ProfileText::Line::Kind::NameOnly && own.contains(codepage::toUtf8(line.name)))
+        m_result.isHidden = true;
+    }
+  }
+
+  const EventLines& m_ours;
+  const EventLines m_left;
+  const ProfileText& m_theirs;
+  std::unordered_set<int> m_numbers;
+  GameMerge m_result;
+};
+
+} // namespace
+
+GameMerge mergeGame(const EventLines& ours, const ProfileText& left, const ProfileText& theirs) {
+  return Merger(ours, left, theirs).merge();
+}
+
+bool isNamed(const EventLines& lines, int team, std::string_view jersey) {
+  const auto names = [&](const Line& line) {
+    const GameEvent event = GameEvent::parse(1, "1", line.second);
+    if (!event.isUnderstood)
+      return false;
+    if (event.code != EventCode::ARRET)
+      return event.player.team == team && event.player.jersey == jersey;
+    const auto onCourt = Module1::jerseysOfList(event.onCourt(static_cast<std::size_t>(team)));
+    return onCourt && std::ranges::any_of(*onCourt, [&](std::string_view other) {
+             return other == jersey || Module1::leadingNumber(other) == Module1::wholeNumber(jersey);
+           });
+  };
+  return std::ranges::any_of(lines,
+                             [&](const auto& period) { return std::ranges::any_of(period.second, names); });
+}
+
+} // namespace hooptab

@@ -1,0 +1,205 @@
+#include "storage/GameOnDisk.h"
+
+#include "storage/Module1.h"
+#include "storage/codepage.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::string_view kRescueEnding = ".rescue"; // not that of a game: a season would count it twice
+
+PeriodLines asStored(const PeriodLines& lines) {
+  PeriodLines stored;
+  stored.reserve(lines.size());
+  for (const auto& [key, line] : lines)
+    stored.emplace_back(codepage::fromUtf8(key), codepage::fromUtf8(line));
+  return stored;
+}
+
+// All events where the file of that text has others, and the number that the next one gets.
+void addLines(const EventLines& all, const ProfileText& text, ProfileBatch& batch) {
+  const EventLines present = storedEventLines(text);
+  int highest = 0;
+  for (const auto& [period, lines] : all) {
+    for (const auto& [key, line] : lines)
+      highest = std::max(highest, Module1::leadingNumber(key));
+    PeriodLines stored = asStored(lines);
+    const auto found = present.find(period);
+    if (found == present.end() ? !stored.empty() : stored != found->second)
+      batch.setStoredSectionLines(periodSection(period), std::move(stored));
+  }
+  if (highest > 0)
+    batch.set(std::string(kDetailsSection), "EVENUM", std::to_string(highest + 1));
+}
+
+std::string_view nameOf(std::string_view path) {
+  return path.substr(path.rfind('/') + 1);
+}
+
+} // namespace
+
+void GameOnDisk::open(const std::string& path) {
+  m_guard.begin(path);
+  m_rescuedAs.clear();
+  m_isLost = false;
+  m_steps.clear();
+  m_details.clear();
+  m_waiting = 0;
+  m_foreign = {};
+}
+
+bool GameOnDisk::change(const std::vector<EventChange>& steps, const EventLines& all) {
+  m_steps.insert(m_steps.end(), steps.begin(), steps.end());
+  ++m_waiting;
+  return settle(all);
+}
+
+bool GameOnDisk::setDetails(const Details& details, const EventLines& all) {
+  for (const auto& [key, value] : details) {
+    std::optional<std::string> before;
+    if (const auto stored = m_guard.left().value(kDetailsSection, key))
+      before = codepage::toUtf8(*stored);
+    m_details[key] = {std::move(before), value};
+  }
+  ++m_waiting;
+  return settle(all);
+}
+
+bool GameOnDisk::settle(const EventLines& all) {
+  m_isLost = m_isLost || (m_isOurs && !m_isOurs());
+  const bool isWritten = !m_isLost && settleFound(all, m_guard.look());
+  if (!isWritten) {
+    rescue(all);
+    return isOnDisk();
+  }
+  m_steps.clear();
+  for (auto& [key, detail] : m_details)
+    detail.isWaiting = false;
+  m_waiting = 0;
+  if (!m_rescuedAs.empty()) { // the game stands where it belongs
+    m_store.files().remove(m_rescuedAs);
+    m_rescuedAs.clear();
+  }
+  return true;
+}
+
+bool GameOnDisk::settleFound(const EventLines& all, FileGuard::Found found) {
+  switch (found) {
+  case FileGuard::Found::AsLeft: return isOnDisk() || writeSteps(all);
+  case FileGuard::Found::Changed: return bringTogether(all);
+  case FileGuard::Found::Gone:
+  case FileGuard::Found::Unusable: return rewrite(all);
+  case FileGuard::Found::OutOfReach: break;
+  }
+  return false;
+}
+
+bool GameOnDisk::writeSteps(const EventLines& all) {
+  ProfileBatch batch;
+  if (!GameFile::plan(m_steps, m_guard.left(), batch)) // it holds what others added, and was not taken in yet
+    return bringTogether(all);
+  addDetails(batch);
+  return m_guard.write(batch);
+}
+
+void GameOnDisk::addDetails(ProfileBatch& batch) const {
+  for (const auto& [key, detail] : m_details) {
+    if (detail.isWaiting)
+      batch.set(std::string(kDetailsSection), key, detail.value);
+  }
+}
+
+bool GameOnDisk::bringTogether(const EventLines& all) {
+  const ProfileText theirs = m_guard.found();
+  const GameMerge merge = mergeGame(all, m_guard.left(), theirs);
+  if (merge.isHidden)
+    return rewrite(all);
+  // Kept before it is changed: what cannot be kept is not overwritten.
+  if (!merge.gaveWay.empty() && !m_guard.keepFound())
+    return false;
+
+  ProfileBatch batch;
+  addLines(merge.lines, theirs, batch);
+  addMissingPlayers(all, batch);
+  addDetails(batch);
+  // A file that went back to an older version has lost what was set since, too.
+  for (const auto& [key, detail] : m_details) {
+    const auto stored = theirs.value(kDetailsSection, key);
+    const std::optional<std::string> now = stored ? std::optional(codepage::toUtf8(*stored)) : std::nullopt;
+    if (!detail.isWaiting && now != detail.value && (merge.restored > 0 || now == detail.before))
+      batch.set(std::string(kDetailsSection), key, detail.value);
+  }
+  if (!m_guard.write(batch))
+    return false;
+  m_foreign.isTouched = true;
+  m_foreign.added += merge.added;
+  m_foreign.restored += merge.restored;
+  m_foreign.gaveWay.insert(m_foreign.gaveWay.end(), merge.gaveWay.begin(), merge.gaveWay.end());
+  noteWhatWasKept();
+  return true;
+}
+
+// A player whom the events name cannot be missed.
+void GameOnDisk::addMissingPlayers(const EventLines& all, ProfileBatch& batch) {
+  const ProfileText& left = m_guard.left();
+  const ProfileText& theirs = m_guard.found();
+  for (int team = 0; team < 2; ++team) {
+    const std::string section = rosterSection(team);
+    for (const ProfileText::Line& line : left.section(section)) {
+      if (line.kind != ProfileText::Line::Kind::KeyValue || theirs.value(section, line.name))
+        continue;
+      if (const std::string jersey = codepage::toUtf8(line.name); isNamed(all, team, jersey))
+        batch.set(section, jersey, codepage::toUtf8(line.value));
+    }
+  }
+}
+
+// With what others had added and was not taken in yet.
+ProfileBatch GameOnDisk::whole(const EventLines& all) const {
+  ProfileBatch batch;
+  addLines(mergeGame(all, m_guard.left(), m_guard.left()).lines, m_guard.left(), batch);
+  addDetails(batch);
+  return batch;
+}
+
+bool GameOnDisk::rewrite(const EventLines& all) {
+  if (!m_guard.rewrite(whole(all)))
+    return false;
+  m_foreign.isTouched = true;
+  m_foreign.isRewritten = true;
+  noteWhatWasKept();
+  return true;
+}
+
+void GameOnDisk::noteWhatWasKept() {
+  if (std::string kept = m_guard.takeKeptAs(); !kept.empty())
+    m_foreign.keptAs = std::move(kept);
+}
+
+// Only what waits needs rescue: all else is on disk, or was.
+void GameOnDisk::rescue(const EventLines& all) {
+  if (m_rescueFolder.empty() || isOnDisk() || (!m_rescuedAs.empty() && m_rescuedChanges == m_waiting))
+    return;
+  std::string path = m_rescuedAs;
+  if (path.empty()) {
+    path = m_rescueFolder + '/';
+    path += nameOf(m_guard.path());
+    path += kRescueEnding;
+    FileStamp taken; // by an earlier session
+    if (m_store.files().stamp(path, taken))
+      path = freeNameBeside(m_store.files(), path);
+  }
+  if (path.empty() || !m_guard.writeCopy(path, whole(all)))
+    return;
+  m_rescuedAs = path;
+  m_rescuedChanges = m_waiting;
+}
+
+bool GameOnDisk::writeCopy(const std::string& path, const EventLines& all) {
+  return m_guard.writeCopy(path, whole(all));
+}
+
+} // namespace hooptab

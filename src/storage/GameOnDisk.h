@@ -1,0 +1,94 @@
+// The file of a game that is being recorded. Writes each change at once, and sees to it that what was
+// recorded stays there: where others have changed, deleted or replaced the file, both are brought together,
+// and what gives way is kept. What the disk does not take waits, and stands in a rescue file meanwhile. Holds
+// no events itself: its owner brings all of them with every call.
+#pragma once
+
+#include "storage/EventChange.h"
+#include "storage/FileGuard.h"
+#include "storage/GameFile.h"
+#include "storage/GameMerge.h"
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace hooptab {
+
+// What others did to a game's file and what came of it; for one line to the user.
+struct ForeignHands {
+  int added = 0;                            // events of theirs that count now
+  int restored = 0;                         // events of ours that were written again
+  std::vector<GameMerge::GivenWay> gaveWay; // theirs that do not count
+  bool isRewritten = false;                 // the whole file: it was gone, cut off, or another thing
+  bool isTouched = false;                   // anything of the above, or of the details and players
+  std::string keptAs;                       // the foreign version, where something of it is not in the file
+};
+
+class GameOnDisk {
+ public:
+  using Details = std::vector<std::pair<std::string, std::string>>; // keys of DETAILS and their values
+
+  explicit GameOnDisk(cinifile& store) : m_guard(store, isGame), m_store(store) {}
+
+  // The game that the store has just read.
+  void open(const std::string& path);
+  // Where a copy of everything goes while the file cannot be written; empty for nowhere.
+  void setRescueFolder(std::string folder) { m_rescueFolder = std::move(folder); }
+  // Asked before each write: false when somebody else writes this file now. From then on nothing more goes
+  // there; the rescue file takes it.
+  void setOwnership(std::function<bool()> isOurs) { m_isOurs = std::move(isOurs); }
+
+  // Each returns whether everything is on disk. `all` are the events as they are now, the steps taken.
+  bool change(const std::vector<EventChange>& steps, const EventLines& all);
+  bool setDetails(const Details& details, const EventLines& all);
+  // Looks at the file, brings it back to what was recorded, and writes what waits.
+  bool settle(const EventLines& all);
+
+  bool isOnDisk() const { return m_waiting == 0; }
+  std::size_t waiting() const { return m_waiting; }            // changes
+  bool isLost() const { return m_isLost; }                     // somebody else writes this file
+  const std::string& rescuedAs() const { return m_rescuedAs; } // empty without a rescue file
+
+  // The file as it was left; what others made of it included.
+  const ProfileText& text() const { return m_guard.left(); }
+  // What others did since it was last asked for.
+  [[nodiscard]] ForeignHands takeForeignHands() { return std::exchange(m_foreign, {}); }
+
+  // The whole game in another file.
+  bool writeCopy(const std::string& path, const EventLines& all);
+
+ private:
+  bool settleFound(const EventLines& all, FileGuard::Found found);
+  bool writeSteps(const EventLines& all);
+  bool bringTogether(const EventLines& all);
+  bool rewrite(const EventLines& all);
+  void noteWhatWasKept();
+  void rescue(const EventLines& all);
+  void addDetails(ProfileBatch& batch) const;
+  void addMissingPlayers(const EventLines& all, ProfileBatch& batch);
+  ProfileBatch whole(const EventLines& all) const;
+
+  FileGuard m_guard;
+  cinifile& m_store;
+  std::string m_rescueFolder;
+  std::string m_rescuedAs;
+  std::size_t m_rescuedChanges = 0;
+  std::function<bool()> m_isOurs;
+  bool m_isLost = false;
+
+  std::vector<EventChange> m_steps; // that wait
+  struct Detail {
+    std::optional<std::string> before; // as stored when it was set
+    std::string value;
+    bool isWaiting = true;
+  };
+  std::map<std::string, Detail> m_details; // set since the game was opened
+  std::size_t m_waiting = 0;
+  ForeignHands m_foreign;
+};
+
+} // namespace hooptab
