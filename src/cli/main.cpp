@@ -6,6 +6,7 @@
 #include "cli/TextTable.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstring>
 #include <exception>
 #include <iostream>
@@ -161,6 +162,7 @@ class Program {
 
 int main(int argc, char* argv[]) {
   using namespace hooptab;
+  std::signal(SIGXFSZ, SIG_IGN); // a file that grows over its limit is a write that fails
   try {
     const Options options = parseOptions({argv + std::min(argc, 1), argv + argc}, environmentLanguage());
     if (!options.error.empty()) {

@@ -2,11 +2,13 @@
 
 #include "appearance/CourtClick.h"
 #include "appearance/Dialogs.h"
+#include "appearance/NoticeStrip.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/BenchPanel.h"
 #include "live/EventRequests.h"
 #include "live/FollowUpBar.h"
+#include "live/ForeignWords.h"
 #include "live/JerseyButton.h"
 #include "live/LiveEventPanel.h"
 #include "live/LiveKeys.h"
@@ -39,10 +41,14 @@ constexpr int kErrorTitle = 1060;
 constexpr int kWarningTitle = 1139;
 constexpr int kWindowTitle = 1001;
 constexpr int kColourTitle = 1835;
-constexpr int kRecordedElsewhere = 1913;
+constexpr int kHeldElsewhere = 2382;
+constexpr int kTakenOver = 2385;
+constexpr int kOtherNames = 2387;
+constexpr int kNotOnDiskButRescued = 2394;
 constexpr int kForReadingOnly = 1914;
 constexpr int kNotOnDisk = 1915;
 constexpr int kLeaveUnwritten = 1916;
+constexpr int kLeaveRescued = 2457;
 constexpr int kPeriodTooLong = 2380;
 constexpr int kCountOutOfRange = 1523;
 
@@ -60,7 +66,8 @@ constexpr int kPathWidth = 380; // so that what can be done about it stands besi
 frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs, TimeSource& time,
                  QWidget* parent)
     : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_dialogs(dialogs),
-      m_game(store, time) {
+      m_game(store, time), m_hold(new GameHold(store.files(), texts, dialogs, *this)) {
+  m_game.disk().setRescueFolder(settings.folder());
   setObjectName(QStringLiteral("frmLIVE"));
   setAcceptDrops(true);
   setFocusPolicy(Qt::StrongFocus); // so that the clock's key is ours from the start
@@ -69,6 +76,7 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   m_retryOfWrites.setInterval(kRetryInterval);
   m_banner = makeBanner("lblNOTONDISK");
   m_readOnly = makeBanner("lblREADONLY");
+  m_foreign = new NoticeStrip("picFOREIGN", this);
   m_lostStop = new LostStopStrip(m_texts, this);
   m_lostStop->hide();
 
@@ -80,7 +88,7 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   layout->setContentsMargins(kGap, kGap, kGap, kGap);
   layout->setSpacing(kGap);
   for (QWidget* strip : {static_cast<QWidget*>(m_banner), static_cast<QWidget*>(m_readOnly),
-                         static_cast<QWidget*>(m_lostStop)})
+                         static_cast<QWidget*>(m_foreign), static_cast<QWidget*>(m_lostStop)})
     layout->addWidget(strip);
   layout->addLayout(parts, 1);
   m_followUp = new FollowUpBar(m_texts, this);
@@ -134,9 +142,11 @@ QWidget* frmLIVE::makeSide() {
 void frmLIVE::connectEverything() {
   connect(&m_timer, &QTimer::timeout, this, &frmLIVE::tick);
   connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
-    m_game.retryWrites();
-    showDisk();
+    m_game.settle();
+    showGame();
   });
+  connect(m_hold, &GameHold::fileChanged, this, &frmLIVE::fileChanged);
+  connect(m_hold, &GameHold::taken, this, [this] { (void)open(path()); });
   for (PlayerPanel* panel : m_panels) {
     connect(panel, &PlayerPanel::courtPressed, this, &frmLIVE::pressCourt);
     connect(panel, &PlayerPanel::shotPressed, this,
@@ -201,15 +211,7 @@ void frmLIVE::resizeEvent(QResizeEvent*) {
   m_side->setFixedWidth(std::clamp(static_cast<int>(width() * kSideShare), kLeastSide, kMostSide));
 }
 
-frmLIVE::Opening frmLIVE::open(const QString& path) {
-  GameLock lock;
-  const GameLock::Outcome outcome = lock.acquire(path);
-  const bool isOpenHere = QFileInfo(path) == QFileInfo(this->path());
-  if (outcome == GameLock::Outcome::HeldElsewhere && !isOpenHere) {
-    m_dialogs.warn(this, toQt(m_texts.text(kErrorTitle)),
-                   toQt(m_texts.withPlaceholder(kRecordedElsewhere, fromQt(lock.owner()))));
-    return Opening::Refused;
-  }
+frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   GameDetails details; // a file that cannot be read is told about below
   if (GameFile(m_store, fromQt(path)).readDetails(details) == GameFileProblem::None &&
       details.minutesPerPeriod > kMostMinutes) {
@@ -220,13 +222,23 @@ frmLIVE::Opening frmLIVE::open(const QString& path) {
   if (!mayClose()) // what is open now
     return Opening::Refused;
   const qint64 fileTime = QFileInfo(path).lastModified().toSecsSinceEpoch();
-  m_problem = m_game.open(fromQt(QFileInfo(path).absoluteFilePath()),
-                          outcome == GameLock::Outcome::CannotBeMade ? LiveGame::Access::Reading
-                                                                     : LiveGame::Access::Recording);
-  if (m_problem != GameFileProblem::None)
+  const GameHold::Access access = m_hold->request(path, std::move(lock));
+  m_problem =
+      m_game.open(fromQt(QFileInfo(path).absoluteFilePath()),
+                  access == GameHold::Access::Ours ? LiveGame::Access::Recording : LiveGame::Access::Reading);
+  if (m_problem != GameFileProblem::None) {
+    m_hold->drop();
     return Opening::Problem;
-  if (outcome != GameLock::Outcome::HeldElsewhere) // by this window, that is
-    m_lock = std::move(lock);
+  }
+  m_hold->keep();
+  m_isHeldElsewhere = access == GameHold::Access::HeldElsewhere;
+  if (access == GameHold::Access::Ours) {
+    m_game.disk().setOwnership([this] { return m_hold->isStillOurs(); });
+    if (m_hold->lock().names() > 1)
+      m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)),
+                       toQt(m_texts.withPlaceholder(kOtherNames, m_hold->lock().game())));
+  }
+  m_foreign->hide();
   m_isSwitched = false;
   m_followUp->dismiss();
   m_bench->clearSelection();
@@ -242,11 +254,16 @@ frmLIVE::Opening frmLIVE::open(const QString& path) {
   return Opening::Opened;
 }
 
+bool frmLIVE::writeCopy(const QString& path) {
+  return m_game.writeCopy(fromQt(path));
+}
+
 QString frmLIVE::path() const {
   return toQt(m_game.game().path);
 }
 
 void frmLIVE::showGame() {
+  takeForeignHands();
   for (PlayerPanel* panel : m_panels)
     panel->showGame(m_game);
   m_score->showGame(m_game);
@@ -276,17 +293,49 @@ void frmLIVE::showTime() {
 }
 
 void frmLIVE::showDisk() {
-  const bool isOnDisk = m_game.log().isOnDisk();
-  m_score->showDisk(isOnDisk, m_game.log().waiting());
+  const GameOnDisk& disk = m_game.disk();
+  const std::string waiting = std::to_string(disk.waiting());
+  m_score->showDisk(disk.isOnDisk(), disk.waiting());
+  showReadOnly();
+  m_banner->setVisible(!disk.isOnDisk());
+  if (disk.isOnDisk())
+    return m_retryOfWrites.stop();
+  std::string words = m_texts.withPlaceholder(kNotOnDisk, waiting);
+  if (disk.isLost())
+    words = m_texts.withPlaceholder(kTakenOver, fromQt(m_hold->ownerWords()));
+  else if (!disk.rescuedAs().empty())
+    words = m_texts.withPlaceholder(kNotOnDiskButRescued, waiting);
+  words = Module1::withPlaceholder(words, disk.rescuedAs(), "YYY");
+  m_banner->setText(toQt(words));
+  m_banner->setToolTip(toQt(words));
+  if (!m_retryOfWrites.isActive())
+    m_retryOfWrites.start();
+}
+
+void frmLIVE::showReadOnly() {
   m_readOnly->setVisible(m_game.phase() == LiveGame::Phase::ReadOnly);
-  m_banner->setVisible(!isOnDisk);
-  if (!isOnDisk) {
-    m_banner->setText(toQt(m_texts.withPlaceholder(kNotOnDisk, std::to_string(m_game.log().waiting()))));
-    if (!m_retryOfWrites.isActive())
-      m_retryOfWrites.start();
-  } else {
-    m_retryOfWrites.stop();
-  }
+  const int text = m_isHeldElsewhere ? kHeldElsewhere : kForReadingOnly;
+  const QString whom = m_isHeldElsewhere ? m_hold->ownerWords() : path();
+  const QString shown = m_readOnly->fontMetrics().elidedText(whom, Qt::ElideMiddle, kPathWidth);
+  m_readOnly->setText(toQt(m_texts.withPlaceholder(text, fromQt(shown))));
+  m_readOnly->setToolTip(toQt(m_texts.withPlaceholder(text, fromQt(whom))));
+}
+
+// Between two actions, when nothing refers to events that may move.
+void frmLIVE::takeForeignHands() {
+  const std::string words = foreignWords(m_game.takeForeignHands(), m_texts);
+  if (!words.empty())
+    m_foreign->tell(toQt(words));
+}
+
+// By this window's own writes, too: what is as it was left costs a look.
+void frmLIVE::fileChanged() {
+  if (m_game.phase() != LiveGame::Phase::ReadOnly)
+    m_game.settle();
+  else if (!m_isHeldElsewhere ||
+           m_game.open(m_game.game().path, LiveGame::Access::Reading) != GameFileProblem::None)
+    return;
+  showGame();
 }
 
 // --- Clock
@@ -435,9 +484,6 @@ void frmLIVE::relabelWindow() {
     panel->relabelPanel();
     panel->setPlaysRight(playsRight(slot));
   }
-  const QString path = m_readOnly->fontMetrics().elidedText(this->path(), Qt::ElideMiddle, kPathWidth);
-  m_readOnly->setText(toQt(m_texts.withPlaceholder(kForReadingOnly, fromQt(path))));
-  m_readOnly->setToolTip(toQt(m_texts.withPlaceholder(kForReadingOnly, m_game.game().path)));
   m_lostStop->relabelPanel();
   m_score->relabelPanel();
   m_score->setSides(m_isSwitched);
@@ -453,6 +499,7 @@ void frmLIVE::applyColours() {
   palette.setColor(QPalette::Window, Theme::missed());
   palette.setColor(QPalette::WindowText, textOn(Theme::missed()));
   m_banner->setPalette(palette);
+  m_foreign->applyColours();
   m_lostStop->applyColours();
   for (PlayerPanel* panel : m_panels)
     panel->applyColours();
@@ -490,12 +537,14 @@ void frmLIVE::dropEvent(QDropEvent* event) {
 bool frmLIVE::mayClose() {
   if (isRunning())
     toggleClock();
-  if (m_game.retryWrites())
+  if (m_game.settle())
     return true;
   showDisk();
-  return m_dialogs.ask(
-      this, toQt(m_texts.text(kErrorTitle)),
-      toQt(m_texts.withPlaceholder(kLeaveUnwritten, std::to_string(m_game.log().waiting()))));
+  const std::string& rescued = m_game.disk().rescuedAs();
+  const std::string question = m_texts.withPlaceholder(rescued.empty() ? kLeaveUnwritten : kLeaveRescued,
+                                                       std::to_string(m_game.log().waiting()));
+  return m_dialogs.ask(this, toQt(m_texts.text(kErrorTitle)),
+                       toQt(Module1::withPlaceholder(question, rescued, "YYY")));
 }
 
 } // namespace hooptab

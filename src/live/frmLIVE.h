@@ -3,7 +3,7 @@
 #pragma once
 
 #include "appearance/ChildWindow.h"
-#include "appearance/GameLock.h"
+#include "appearance/GameHold.h"
 #include "appearance/ZoneMap.h"
 #include "live/LiveGame.h"
 
@@ -21,6 +21,7 @@ class FollowUpBar;
 class LiveEventPanel;
 class LiveKeys;
 class LostStopStrip;
+class NoticeStrip;
 class PlayerPanel;
 class ScorePanel;
 class Settings;
@@ -35,10 +36,15 @@ class frmLIVE : public ChildWindow {
           QWidget* parent = nullptr);
   ~frmLIVE() override;
 
-  // A game that is recorded elsewhere is refused with a message of its own; one that cannot be written opens
-  // for reading. On every problem what was open stays.
+  // A game that is recorded elsewhere opens for reading, and so does one that cannot be written. A lock that
+  // was taken before, for a game that was just made, is handed over. On every problem what was open stays.
   enum class Opening { Opened, Refused, Problem };
-  [[nodiscard]] Opening open(const QString& path);
+  [[nodiscard]] Opening open(const QString& path, GameLock lock = {});
+  // Whether the file is looked after; not while a new game may take its place.
+  void setWatching(bool isOn) { m_game.disk().setWatching(isOn); }
+  bool writeCopy(const QString& path);
+  void writePending() { m_game.settle(); }
+  GameHold& hold() { return *m_hold; }
   GameFileProblem problem() const { return m_problem; } // after Problem
   QString path() const;
   const Game& game() const { return m_game.game(); } // as recorded so far
@@ -73,6 +79,9 @@ class frmLIVE : public ChildWindow {
   void showSelected();
   void showTime();
   void showDisk();
+  void showReadOnly();
+  void takeForeignHands();
+  void fileChanged();
   void tick();
   void toggleClock();
   void setOnCourt(const OnCourt& onCourt);
@@ -95,13 +104,15 @@ class frmLIVE : public ChildWindow {
   Dialogs& m_dialogs;
   LiveGame m_game;
   GameFileProblem m_problem = GameFileProblem::None;
-  GameLock m_lock;
+  GameHold* m_hold;
   bool m_isSwitched = false;
   QTimer m_timer; // Timer1
   QTimer m_retryOfWrites;
+  bool m_isHeldElsewhere = false;
 
   QLabel* m_banner = nullptr;
   QLabel* m_readOnly = nullptr;
+  NoticeStrip* m_foreign = nullptr;
   LostStopStrip* m_lostStop = nullptr;
   std::array<PlayerPanel*, LiveGame::kSlots> m_panels = {};
   ScorePanel* m_score = nullptr;

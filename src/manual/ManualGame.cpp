@@ -19,6 +19,7 @@ GameFileProblem ManualGame::open(const std::string& path, Access access) {
   m_saved = totals;
   m_guard.begin(path);
   m_isLost = false;
+  m_isWatching = true;
   m_hasSaved = false;
   m_isWaiting = false;
   m_foreign = {};
@@ -35,8 +36,8 @@ bool ManualGame::save() {
 }
 
 bool ManualGame::settle() {
-  if (isForReading())
-    return true;
+  if (isForReading() || !m_isWatching)
+    return isOnDisk();
   m_isLost = m_isLost || (m_isOurs && !m_isOurs());
   const FileGuard::Found found = m_isLost ? FileGuard::Found::OutOfReach : m_guard.look();
   const bool isGone = found == FileGuard::Found::Gone || found == FileGuard::Found::Unusable;

@@ -41,6 +41,8 @@ class ManualGame {
   // Asked before each write: false when somebody else writes this file now, and nothing more goes there.
   void setOwnership(std::function<bool()> isOurs) { m_isOurs = std::move(isOurs); }
   bool isLost() const { return m_isLost; }
+  // Off: nothing is looked at or written, until the next open().
+  void setWatching(bool isOn) { m_isWatching = isOn; }
   // What others did to the file since it was last asked for.
   struct ForeignHands {
     bool isRewritten = false; // the whole file was written again
@@ -61,6 +63,7 @@ class ManualGame {
   FileGuard m_guard;
   std::function<bool()> m_isOurs;
   bool m_isLost = false;
+  bool m_isWatching = true;
   bool m_hasSaved = false;
   bool m_isWaiting = false; // what was saved, for the disk
   ForeignHands m_foreign;

@@ -4,6 +4,7 @@
 #include "appearance/ElidedLabel.h"
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
+#include "appearance/NoticeStrip.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "manual/ScoreCheck.h"
@@ -34,7 +35,12 @@ constexpr int kScanFilter = 1209;
 constexpr int kSelectForm = 1210;
 constexpr int kOpenForm = 1237;
 constexpr int kWindowTitle = 1243;
-constexpr int kRecordedElsewhere = 1913;
+constexpr int kHeldElsewhere = 2382;
+constexpr int kOtherNames = 2387;
+constexpr int kRewritten = 2392;
+constexpr int kKeptAs = 2393;
+constexpr int kTakenOver = 2455;
+constexpr int kTotalsStand = 2456;
 constexpr int kForReadingOnly = 1914;
 constexpr int kSaveFirst = 2280;
 constexpr int kClearTeam = 2281;
@@ -63,10 +69,12 @@ constexpr int kShotShare = 3;
 frmMANUAL::frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
                      QWidget* parent)
     : ChildWindow(parent), m_settings(settings), m_texts(texts), m_dialogs(dialogs), m_game(store),
-      m_notice(noticeLabel(this)), m_banner(noticeLabel(this)) {
+      m_hold(new GameHold(store.files(), texts, dialogs, *this)), m_notice(noticeLabel(this)),
+      m_banner(noticeLabel(this)) {
   setObjectName(QStringLiteral("frmMANUAL"));
   m_banner->setObjectName(QStringLiteral("lblNOTONDISK"));
   m_retryOfWrites.setInterval(kRetryInterval);
+  m_foreign = new NoticeStrip("picFOREIGN", this);
   m_pages = new QStackedLayout;
   m_pages->addWidget(makeTotalsPage());
   m_forms = new frmSCAN(m_game, settings, m_texts, m_dialogs, this);
@@ -76,6 +84,7 @@ frmMANUAL::frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Di
   layout->setSpacing(kMargin);
   layout->addWidget(m_banner);
   layout->addWidget(m_notice);
+  layout->addWidget(m_foreign);
   layout->addLayout(m_pages, 1);
   connectEverything();
 }
@@ -159,35 +168,47 @@ void frmMANUAL::connectEverything() {
   connect(m_shots, &ShotPanel::totalsChanged, this, &frmMANUAL::showTotals);
   connect(m_shots, &ShotPanel::playerMissing, this,
           [this] { showHint(caption(m_texts, kChoosePlayer), Theme::missed()); });
-  connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
-    if (m_game.retry())
-      emit saved();
-    showDisk();
-  });
+  connect(&m_retryOfWrites, &QTimer::timeout, this, &frmMANUAL::settle);
+  connect(m_hold, &GameHold::fileChanged, this, &frmMANUAL::settle);
+  connect(m_hold, &GameHold::taken, this, [this] { (void)open(path()); });
 }
 
-frmMANUAL::Opening frmMANUAL::open(const QString& path) {
-  GameLock lock;
-  const GameLock::Outcome outcome = lock.acquire(path);
-  if (outcome == GameLock::Outcome::HeldElsewhere && QFileInfo(path) != QFileInfo(this->path())) {
-    m_dialogs.warn(this, toQt(m_texts.text(kErrorTitle)),
-                   toQt(m_texts.withPlaceholder(kRecordedElsewhere, fromQt(lock.owner()))));
-    return Opening::Refused;
+void frmMANUAL::settle() {
+  const bool waited = !m_game.isOnDisk();
+  if (m_game.settle() && waited)
+    emit saved();
+  showDisk();
+}
+
+bool frmMANUAL::open(const QString& path, GameLock lock) {
+  const GameHold::Access access = m_hold->request(path, std::move(lock));
+  m_problem = m_game.open(fromQt(QFileInfo(path).absoluteFilePath()), access == GameHold::Access::Ours
+                                                                          ? ManualGame::Access::Entering
+                                                                          : ManualGame::Access::Reading);
+  if (m_problem != GameFileProblem::None) {
+    m_hold->drop();
+    return false;
   }
-  m_problem = m_game.open(fromQt(QFileInfo(path).absoluteFilePath()),
-                          outcome == GameLock::Outcome::CannotBeMade ? ManualGame::Access::Reading
-                                                                     : ManualGame::Access::Entering);
-  if (m_problem != GameFileProblem::None)
-    return Opening::Problem;
-  if (outcome != GameLock::Outcome::HeldElsewhere) // by this window, that is
-    m_lock = std::move(lock);
+  m_hold->keep();
+  m_isHeldElsewhere = access == GameHold::Access::HeldElsewhere;
+  m_foreign->hide();
+  if (access == GameHold::Access::Ours) {
+    m_game.setOwnership([this] { return m_hold->isStillOurs(); });
+    if (m_hold->lock().names() > 1)
+      m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)),
+                       toQt(m_texts.withPlaceholder(kOtherNames, m_hold->lock().game())));
+  }
   m_score->beginGame();
   m_forms->close(); // its pages were for the game before
   endForms(0);
   relabelWindow();
   chooseTeam(0);
   m_table->setFocus();
-  return Opening::Opened;
+  return true;
+}
+
+bool frmMANUAL::writeCopy(const QString& path) {
+  return m_table->takeTyped() && m_game.writeCopy(fromQt(path));
 }
 
 QString frmMANUAL::path() const {
@@ -261,7 +282,7 @@ bool frmMANUAL::mayClose() {
     case SaveChoice::Discard: break;
     }
   }
-  if (m_game.retry())
+  if (m_game.settle())
     return true;
   showDisk();
   return m_dialogs.ask(this, toQt(m_texts.text(kErrorTitle)), caption(m_texts, kLeaveUnwritten));
@@ -319,11 +340,32 @@ void frmMANUAL::showTeams() {
   m_teams->setCurrentIndex(m_team);
 }
 
+QString frmMANUAL::diskWords() const {
+  if (m_isHeldElsewhere)
+    return toQt(m_texts.withPlaceholder(kHeldElsewhere, fromQt(m_hold->ownerWords())));
+  if (m_game.isForReading())
+    return toQt(m_texts.withPlaceholder(kForReadingOnly, m_game.path()));
+  if (m_game.isLost())
+    return toQt(m_texts.withPlaceholder(kTakenOver, fromQt(m_hold->ownerWords())));
+  return m_game.isOnDisk() ? QString() : caption(m_texts, kNotOnDisk);
+}
+
+void frmMANUAL::tellForeignHands() {
+  const ManualGame::ForeignHands hands = m_game.takeForeignHands();
+  if (!hands.isRewritten && !hands.gaveWay)
+    return;
+  std::string words(m_texts.text(hands.isRewritten ? kRewritten : kTotalsStand));
+  if (!hands.keptAs.empty())
+    words += ' ' + m_texts.withPlaceholder(kKeptAs, hands.keptAs);
+  m_foreign->tell(toQt(words));
+}
+
 void frmMANUAL::showDisk() {
-  m_banner->setText(m_game.isForReading() ? toQt(m_texts.withPlaceholder(kForReadingOnly, m_game.path()))
-                                          : caption(m_texts, kNotOnDisk));
+  tellForeignHands();
+  const QString words = diskWords();
+  m_banner->setText(words);
+  m_banner->setVisible(!words.isEmpty());
   findChild<QPushButton*>(QStringLiteral("cmdFORM"))->setEnabled(!m_game.isForReading());
-  m_banner->setVisible(m_game.isForReading() || !m_game.isOnDisk());
   if (m_game.isOnDisk())
     m_retryOfWrites.stop();
   else if (!m_retryOfWrites.isActive())
@@ -355,6 +397,7 @@ void frmMANUAL::applyColours() {
   colours.setColor(QPalette::Highlight, Theme::missed());
   colours.setColor(QPalette::HighlightedText, textOn(Theme::missed()));
   m_banner->setPalette(colours);
+  m_foreign->applyColours();
   m_table->applyColours();
   m_shots->applyColours();
   m_forms->applyColours();

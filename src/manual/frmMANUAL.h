@@ -4,7 +4,7 @@
 #pragma once
 
 #include "appearance/ChildWindow.h"
-#include "appearance/GameLock.h"
+#include "appearance/GameHold.h"
 #include "manual/ManualColumns.h"
 #include "manual/ManualGame.h"
 
@@ -18,6 +18,7 @@ namespace hooptab {
 
 class Dialogs;
 class ElidedLabel;
+class NoticeStrip;
 class ScannedTotals;
 class ScoreCheck;
 class Settings;
@@ -34,12 +35,15 @@ class frmMANUAL : public ChildWindow {
             QWidget* parent = nullptr);
   ~frmMANUAL() override;
 
-  // A game that is recorded elsewhere is refused with a message of its own; one that cannot be written is
-  // shown for reading. On every problem what was open stays; else its unsaved totals are gone: ask first
-  // whether it agrees to close.
-  enum class Opening { Opened, Refused, Problem };
-  [[nodiscard]] Opening open(const QString& path);
-  GameFileProblem problem() const { return m_problem; } // after Problem
+  // A game that is recorded elsewhere, or cannot be written, is shown for reading. A lock that was taken
+  // before, for a game that was just made, is handed over. False on a problem, and what was open stays; else
+  // its unsaved totals are gone: ask first whether it agrees to close.
+  [[nodiscard]] bool open(const QString& path, GameLock lock = {});
+  // Whether the file is looked after; not while a new game may take its place.
+  void setWatching(bool isOn) { m_game.setWatching(isOn); }
+  bool writeCopy(const QString& path);
+  void writePending() { m_game.settle(); }
+  GameFileProblem problem() const { return m_problem; } // after that
   QString path() const;
 
   const GameDetails& details() const { return m_game.details(); }
@@ -70,6 +74,9 @@ class frmMANUAL : public ChildWindow {
   void showPlayer();
   void showTeams();
   void showDisk();
+  QString diskWords() const; // empty when all is well
+  void settle();
+  void tellForeignHands();
   void showRefusal(ManualTotals::Typed reason, const ManualColumn& column);
   void showHint(const QString& text, const QColor& colour);
 
@@ -78,12 +85,14 @@ class frmMANUAL : public ChildWindow {
   Dialogs& m_dialogs;
   ManualGame m_game;
   GameFileProblem m_problem = GameFileProblem::None;
-  GameLock m_lock;
+  GameHold* m_hold;
+  bool m_isHeldElsewhere = false;
   int m_team = 0;
   QTimer m_retryOfWrites;
 
   QLabel* m_notice = nullptr; // lines that the table does not show
   QLabel* m_banner = nullptr; // not on disk, or for reading only
+  NoticeStrip* m_foreign = nullptr;
   QStackedLayout* m_pages = nullptr;
   QComboBox* m_teams = nullptr;
   ScoreCheck* m_score = nullptr;

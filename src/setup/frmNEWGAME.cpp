@@ -41,6 +41,7 @@ constexpr QSize kRoomyWindow(1480, 880);
 constexpr QSize kAroundWindow(26, 68); // title bar and edges
 constexpr QSize kCalendar(300, 200);
 constexpr int kMargin = 10;
+constexpr int kRecordedElsewhere = 1913;
 constexpr int kGap = 5;
 constexpr int kColumnWidth = 270;
 constexpr int kRuleWidth = 64;
@@ -53,8 +54,8 @@ QString dateFormat() {
 } // namespace
 
 frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts, Dialogs& dialogs,
-                       const LastChoices& last, QWidget* parent)
-    : QDialog(parent), m_settings(settings), m_texts(texts), m_dialogs(dialogs),
+                       Claim claim, const LastChoices& last, QWidget* parent)
+    : QDialog(parent), m_settings(settings), m_texts(texts), m_dialogs(dialogs), m_claim(std::move(claim)),
       m_game(teams, settings, texts, fromQt(QDate::currentDate().toString(dateFormat())), last) {
   setObjectName(QStringLiteral("frmNEWGAME"));
   setTextNumber(*this, 1140);
@@ -306,6 +307,11 @@ void frmNEWGAME::accept() {
   if (chosen.isEmpty())
     return;
   const std::string path = withGameEnding(fromQt(chosen));
+  if (const QString owner = m_claim(toQt(path)); !owner.isEmpty()) {
+    m_dialogs.warn(this, caption(m_texts, kErrorTitle),
+                   toQt(m_texts.withPlaceholder(kRecordedElsewhere, fromQt(owner))));
+    return;
+  }
   const QString question = toQt(m_game.overwriteQuestion(path));
   if (!question.isEmpty() && !m_dialogs.ask(this, warning, question))
     return;

@@ -25,8 +25,12 @@ class SidePanel;
 class frmNEWGAME : public QDialog {
   Q_OBJECT
  public:
+  // Takes the file of a game for writing, before the user is asked whether it may be replaced. Returns who
+  // records it elsewhere; empty when it was taken, or cannot be locked at all.
+  using Claim = std::function<QString(const QString& path)>;
+
   // Everything must outlive the window.
-  frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts, Dialogs& dialogs,
+  frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts, Dialogs& dialogs, Claim claim,
              const LastChoices& last, QWidget* parent = nullptr);
 
   // After success: the file made, and what the next game begins with.
@@ -55,6 +59,7 @@ class frmNEWGAME : public QDialog {
   const Settings& m_settings;
   const Texts& m_texts;
   Dialogs& m_dialogs;
+  Claim m_claim;
   NewGame m_game;
   QString m_path;
 

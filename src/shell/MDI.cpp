@@ -2,6 +2,7 @@
 
 #include "appearance/ChildWindow.h"
 #include "appearance/Dialogs.h"
+#include "appearance/GameHold.h"
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
 #include "appearance/frmCOULEURS.h"
@@ -56,7 +57,16 @@ constexpr int kReportOption = 1417;
 constexpr int kErrorTitle = 1060;
 constexpr int kWarningTitle = 1139;
 constexpr int kNoTeam = 1174;
+constexpr int kGames = 1058;
 constexpr int kNotSaved = 1521;
+constexpr int kReplaceFile = 1836;
+constexpr int kSaveCopy = 2395;
+constexpr int kCopySaved = 2397;
+constexpr int kCopyFailed = 2398;
+constexpr int kOwnFile = 2399;
+constexpr int kSettingsRestored = 2450;
+constexpr int kSettingsKeptAs = 2451;
+constexpr int kInternalFailure = 2454;
 constexpr int kOldSettingsKept = 1522;
 constexpr int kRecentGames = 1530;
 constexpr int kSampleGames = 1531;
@@ -164,6 +174,8 @@ void MDI::carryOut(const QString& key) {
     return makeGame();
   if (key == u"LIVEOpen")
     return chooseGameForInput();
+  if (key == u"saveCOPY")
+    return saveCopy();
   if (key == u"LIVEMouse") {
     m_workshop.settings.saveAsksRebounds(!m_workshop.settings.asksRebounds);
     showWhatIsUnsaved();
@@ -257,7 +269,7 @@ QString MDI::askForGame(int title) {
   const Texts& texts = m_workshop.texts;
   const QString path =
       m_workshop.dialogs.chooseFile(this, toQt(texts.text(title)), toQt(m_workshop.settings.lastGameFolder),
-                                    fileFilter(toQt(texts.text(1058))));
+                                    fileFilter(toQt(texts.text(kGames))));
   if (!path.isEmpty())
     m_workshop.settings.lastGameFolder = fromQt(QFileInfo(path).absolutePath());
   return path;
@@ -288,15 +300,15 @@ bool MDI::manualAgreesToClose() {
   return agrees;
 }
 
-void MDI::replaceInput(const QString& path) {
+void MDI::replaceInput(const QString& path, GameLock lock) {
   GameDetails details;
   if (const GameFileProblem problem = GameFile(m_workshop.store, fromQt(path)).readDetails(details);
       problem != GameFileProblem::None)
     return refuse(problem, path);
   if (details.inputType == 0)
-    openLive(path);
+    openLive(path, std::move(lock));
   else
-    openManual(path);
+    openManual(path, std::move(lock));
 }
 
 // The window for the other kind of input makes room; at once, so that it gives up the lock on its game.
@@ -305,7 +317,7 @@ void MDI::closeInput(ChildWindow* window) {
     delete window->parentWidget();
 }
 
-void MDI::openLive(const QString& path) {
+void MDI::openLive(const QString& path, GameLock lock) {
   if (manual() != nullptr && QFileInfo(manual()->path()) == QFileInfo(path)) // it was made anew
     closeInput(manual());
   frmLIVE* open = live();
@@ -317,7 +329,7 @@ void MDI::openLive(const QString& path) {
     connect(fresh.get(), &frmLIVE::commandStateChanged, this, &MDI::showCommands);
   }
   frmLIVE& window = open == nullptr ? *fresh : *open;
-  switch (window.open(path)) {
+  switch (window.open(path, std::move(lock))) {
   case frmLIVE::Opening::Opened: break;
   case frmLIVE::Opening::Refused: return;
   case frmLIVE::Opening::Problem: return refuse(window.problem(), path);
@@ -326,7 +338,7 @@ void MDI::openLive(const QString& path) {
   showInput(path, window, std::move(fresh));
 }
 
-void MDI::openManual(const QString& path) {
+void MDI::openManual(const QString& path, GameLock lock) {
   if (frmLIVE* other = live()) {
     const bool agrees = other->agreesToClose();
     other->stay();
@@ -351,11 +363,8 @@ void MDI::openManual(const QString& path) {
             });
   }
   frmMANUAL& window = open == nullptr ? *fresh : *open;
-  switch (window.open(path)) {
-  case frmMANUAL::Opening::Opened: break;
-  case frmMANUAL::Opening::Refused: return;
-  case frmMANUAL::Opening::Problem: return refuse(window.problem(), path);
-  }
+  if (!window.open(path, std::move(lock)))
+    return refuse(window.problem(), path);
   closeInput(live());
   showInput(path, window, std::move(fresh));
 }
@@ -381,23 +390,87 @@ void MDI::openGame(const QString& path) {
 void MDI::makeGame() {
   if (!manualAgreesToClose())
     return;
-  frmNEWGAME window(m_teams, m_workshop.settings, m_workshop.texts, m_workshop.dialogs,
+  m_workshop.settings.settle();
+  GameLock lock; // of the file that the game goes to; the window that records it gets it
+  const auto claim = [this, &lock](const QString& path) -> QString {
+    const auto isOpenIn = [&path](const auto* window) {
+      return window != nullptr && QFileInfo(window->path()) == QFileInfo(path);
+    };
+    if (isOpenIn(live()) || isOpenIn(manual()) ||
+        lock.acquire(m_workshop.store.files(), fromQt(path)) != GameLock::Outcome::HeldElsewhere)
+      return {};
+    return GameHold::ownerWords(lock, m_workshop.texts);
+  };
+  frmNEWGAME window(m_teams, m_workshop.settings, m_workshop.texts, m_workshop.dialogs, claim,
                     m_workshop.memory.lastGame(), this);
   connect(&window, &frmNEWGAME::languageAsked, this, [this, &window] {
     switchLanguage();
     window.relabelWindow();
   });
+  watchInput(false); // the new game may take the place of the one that is open
   const bool isMade = window.exec() == QDialog::Accepted;
   showWhatIsUnsaved();
+  const auto isReplaced = [&](const QString& path) {
+    return isMade && QFileInfo(path) == QFileInfo(window.path());
+  };
+  if (!(live() != nullptr && isReplaced(live()->path())) &&
+      !(manual() != nullptr && isReplaced(manual()->path())))
+    watchInput(true);
   if (!isMade)
     return;
   m_workshop.memory.rememberLastGame(window.choices());
   if (frmVIEW* old = m_area->scorecardOf(window.path())) // of the game that was written over
     old->refresh();
-  replaceInput(window.path());
+  replaceInput(window.path(), std::move(lock));
+}
+
+void MDI::watchInput(bool isOn) {
+  if (frmLIVE* window = live())
+    window->setWatching(isOn);
+  if (frmMANUAL* window = manual())
+    window->setWatching(isOn);
+}
+
+void MDI::saveCopy() {
+  const auto save = [this](auto& window) {
+    const Texts& texts = m_workshop.texts;
+    const QFileInfo game(window.path());
+    const QString error = toQt(texts.text(kErrorTitle));
+    const QString path = m_workshop.dialogs.chooseFileToSave(
+        this, caption(texts, kSaveCopy),
+        game.dir().filePath(game.completeBaseName() + QStringLiteral(" 2.GAM")),
+        fileFilter(toQt(texts.text(kGames))), QStringLiteral("GAM"));
+    if (path.isEmpty())
+      return;
+    if (QFileInfo(path) == game)
+      return m_workshop.dialogs.warn(this, error, toQt(texts.withPlaceholder(kOwnFile, fromQt(path))));
+    if (QFileInfo::exists(path) &&
+        !m_workshop.dialogs.ask(this, toQt(texts.text(kWarningTitle)),
+                                toQt(texts.withPlaceholder(kReplaceFile, fromQt(path)))))
+      return;
+    if (!window.writeCopy(path))
+      return m_workshop.dialogs.complain(this, error, toQt(texts.withPlaceholder(kCopyFailed, fromQt(path))));
+    showMessage(toQt(texts.withPlaceholder(kCopySaved, fromQt(QDir::toNativeSeparators(path)))));
+  };
+  if (frmLIVE* window = live())
+    save(*window);
+  else if (frmMANUAL* entry = manual())
+    save(*entry);
+}
+
+void MDI::tellFailure(const QString& what) {
+  if (frmLIVE* window = live())
+    window->writePending();
+  if (frmMANUAL* window = manual())
+    window->writePending();
+  (void)m_workshop.settings.retry();
+  m_workshop.dialogs.complain(this, toQt(m_workshop.texts.text(kErrorTitle)),
+                              toQt(m_workshop.texts.withPlaceholder(kInternalFailure, fromQt(what))));
 }
 
 void MDI::openTeams() {
+  m_workshop.settings.settle();
+  showWhatIsUnsaved();
   for (ChildWindow* child : m_area->windows()) {
     if (qobject_cast<frmEQUIPES*>(child) != nullptr)
       return m_area->bringToFront(*child);
@@ -579,6 +652,12 @@ void MDI::report(Settings::Preparation preparation) {
 }
 
 void MDI::showWhatIsUnsaved() {
+  if (const auto restored = m_workshop.settings.takeRestored()) {
+    std::string words(m_workshop.texts.text(kSettingsRestored));
+    if (!restored->keptAs.empty())
+      words += ' ' + m_workshop.texts.withPlaceholder(kSettingsKeptAs, restored->keptAs);
+    statusBar()->showMessage(toQt(words)); // until it is read: something else takes its place
+  }
   const bool isUnsaved = !m_workshop.settings.isOnDisk();
   m_unsaved->setText(notSaved());
   m_unsaved->setVisible(isUnsaved);

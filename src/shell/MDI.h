@@ -10,6 +10,7 @@
 #include "shell/DialogLanguage.h"
 #include "shell/HelpPages.h"
 #include "storage/GameFile.h"
+#include "storage/GameLock.h"
 #include "storage/Settings.h"
 #include "teams/TeamStore.h"
 
@@ -64,6 +65,8 @@ class MDI : public QMainWindow {
   // Opens a game as a scorecard, or brings the scorecard to the front that shows it already. A game that
   // cannot be opened is refused with a message, and everything open stays.
   void openGame(const QString& path);
+  // Writes what still waits for the disk, and says that something went wrong inside the program.
+  void tellFailure(const QString& what);
   // Tells what the preparation of the settings has to say to the user, if anything.
   void report(Settings::Preparation preparation);
 
@@ -80,13 +83,15 @@ class MDI : public QMainWindow {
   // In the live window, or in manual entry for a game of totals. One window for input at a time: it takes the
   // next game, or makes room for the other.
   void openForInput(const QString& path);
-  void openLive(const QString& path);
-  void openManual(const QString& path);
-  void replaceInput(const QString& path);
+  void openLive(const QString& path, GameLock lock);
+  void openManual(const QString& path, GameLock lock);
+  void replaceInput(const QString& path, GameLock lock = {});
   void closeInput(ChildWindow* window);
   void showInput(const QString& path, ChildWindow& window, std::unique_ptr<ChildWindow> fresh);
   [[nodiscard]] bool manualAgreesToClose();
   void makeGame();
+  void watchInput(bool isOn); // the file of the game that is open for input
+  void saveCopy();
   void openTeams();
   void openSeason(); // one at a time
   void printSeason(frmSTATS& window);

@@ -49,6 +49,7 @@ MainMenu::MainMenu(QMainWindow& window, QMdiArea& area, const CommandBar& comman
   tables.setIcon(icon(QStringLiteral("export")));
   setTextNumber(*tables.menuAction(), kExportTable);
   file.addMenu(&tables);
+  file.addAction(&commands.action("saveCOPY"));
   connect(&file, &QMenu::aboutToShow, this, &MainMenu::fileMenuShown);
   file.addSeparator();
   QAction& leave = addAction(file, "QUIT", kLeave, QStringLiteral("Ctrl+Q"));

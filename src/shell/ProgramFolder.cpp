@@ -33,7 +33,8 @@ ProgramFolder usable(const fs::path& path) {
 ProgramFolder made(const fs::path& path) {
   std::error_code error;
   fs::create_directories(path, error);
-  if (error && !fs::exists(path))
+  std::error_code unseen; // of a folder in one that may not be entered
+  if (error && !fs::exists(path, unseen))
     return {ProgramFolderProblem::CannotMake, path.string()};
   return usable(path);
 }

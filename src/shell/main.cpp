@@ -5,6 +5,7 @@
 #include "appearance/relabel.h"
 #include "live/TimeSource.h"
 #include "printing/Printers.h"
+#include "shell/Application.h"
 #include "shell/Arguments.h"
 #include "shell/InstanceLock.h"
 #include "shell/MDI.h"
@@ -14,9 +15,10 @@
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
 
-#include <QApplication>
 #include <QTimer>
+#include <csignal>
 #include <cstdio>
+#include <exception>
 #include <filesystem>
 #include <fontconfig/fontconfig.h>
 #include <iostream>
@@ -59,7 +61,7 @@ int report(int argc, char** argv, const Arguments& arguments) {
   return makeReport(*arguments.report, folder.path);
 }
 
-int run(QApplication& application, const Arguments& arguments, QtDialogs& dialogs) {
+int run(Application& application, const Arguments& arguments, QtDialogs& dialogs) {
   const std::string executableFolder = fromQt(QCoreApplication::applicationDirPath());
   const ProgramFolder folder =
       findProgramFolder(ProgramFolderSources::ofEnvironment(arguments.folder, executableFolder));
@@ -75,10 +77,8 @@ int run(QApplication& application, const Arguments& arguments, QtDialogs& dialog
   settings.read();
   texts.setLanguage(settings.language);
   InstanceLock lock(toQt(folder.path));
-  if (!lock.acquire()) {
-    dialogs.inform(nullptr, QStringLiteral("HOOPTAB"), toQt(texts.text(1436)));
+  if (!lock.admits(texts, dialogs))
     return EXIT_FAILURE;
-  }
 
   const Settings::Preparation preparation = settings.prepare(texts);
   texts.setLanguage(settings.language);
@@ -99,6 +99,7 @@ int run(QApplication& application, const Arguments& arguments, QtDialogs& dialog
   TimeSource& time = arguments.isRehearsal ? static_cast<TimeSource&>(rehearsalTime) : machineTime;
   QtPrinters printers;
   MDI window({store, settings, texts, memory, dialogs, shared, time, printers});
+  application.setFailureHandler([&window](const QString& what) { window.tellFailure(what); });
   window.show();
   // After the window is there: what is said now stands in front of it.
   QTimer::singleShot(0, &window, [&] {
@@ -116,9 +117,7 @@ int run(QApplication& application, const Arguments& arguments, QtDialogs& dialog
   return QApplication::exec();
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int start(int argc, char** argv) {
   std::error_code ignored;
   const Arguments arguments =
       parseArguments({argv + 1, argv + argc}, std::filesystem::current_path(ignored).string());
@@ -129,7 +128,7 @@ int main(int argc, char** argv) {
 
   // Finding the fonts takes as long as reaching the display: both at once make the start a good deal shorter.
   std::thread fonts([] { FcInit(); });
-  QApplication application(argc, argv);
+  Application application(argc, argv);
   fonts.join();
   QApplication::setApplicationName(QStringLiteral("hooptab"));
   QApplication::setApplicationVersion(QStringLiteral(HOOPTAB_VERSION));
@@ -137,4 +136,17 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(icon(QStringLiteral("hooptab")));
   QtDialogs dialogs;
   return run(application, arguments, dialogs);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  // A file that grows over its limit is a write that fails, and not the end.
+  std::signal(SIGXFSZ, SIG_IGN);
+  try {
+    return start(argc, argv);
+  } catch (const std::exception& failure) {
+    std::cerr << "hooptab: something went wrong inside the program: " << failure.what() << '\n';
+    return EXIT_FAILURE;
+  }
 }

@@ -45,6 +45,7 @@ void GameOnDisk::open(const std::string& path) {
   m_guard.begin(path);
   m_rescuedAs.clear();
   m_isLost = false;
+  m_isWatching = true;
   m_steps.clear();
   m_details.clear();
   m_waiting = 0;
@@ -69,6 +70,8 @@ bool GameOnDisk::setDetails(const Details& details, const EventLines& all) {
 }
 
 bool GameOnDisk::settle(const EventLines& all) {
+  if (!m_isWatching)
+    return isOnDisk();
   m_isLost = m_isLost || (m_isOurs && !m_isOurs());
   const bool isWritten = !m_isLost && settleFound(all, m_guard.look());
   if (!isWritten) {

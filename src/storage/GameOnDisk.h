@@ -42,6 +42,9 @@ class GameOnDisk {
   // there; the rescue file takes it.
   void setOwnership(std::function<bool()> isOurs) { m_isOurs = std::move(isOurs); }
 
+  // Off: nothing is looked at or written, until the next open(); for a file that gives way to another game.
+  void setWatching(bool isOn) { m_isWatching = isOn; }
+
   // Each returns whether everything is on disk. `all` are the events as they are now, the steps taken.
   bool change(const std::vector<EventChange>& steps, const EventLines& all);
   bool setDetails(const Details& details, const EventLines& all);
@@ -79,6 +82,7 @@ class GameOnDisk {
   std::size_t m_rescuedChanges = 0;
   std::function<bool()> m_isOurs;
   bool m_isLost = false;
+  bool m_isWatching = true;
 
   std::vector<EventChange> m_steps; // that wait
   struct Detail {

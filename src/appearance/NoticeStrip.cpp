@@ -1,0 +1,53 @@
+#include "appearance/NoticeStrip.h"
+
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kDismiss = 2396;
+constexpr int kGap = 6;
+
+} // namespace
+
+NoticeStrip::NoticeStrip(const char* name, QWidget* parent)
+    : QFrame(parent), m_text(new QLabel(this)), m_dismiss(new QToolButton(this)) {
+  setObjectName(QLatin1String(name));
+  setAutoFillBackground(true);
+  m_text->setTextFormat(Qt::PlainText);
+  m_text->setWordWrap(true);
+  m_dismiss->setObjectName(QStringLiteral("cmdDISMISS"));
+  m_dismiss->setText(QStringLiteral("✕"));
+  m_dismiss->setAutoRaise(true);
+  m_dismiss->setFocusPolicy(Qt::TabFocus);
+  setToolTipNumber(*m_dismiss, kDismiss);
+  setAccessibleNumber(*m_dismiss, kDismiss);
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(kGap, kGap / 3, kGap, kGap / 3);
+  layout->setSpacing(kGap);
+  layout->addWidget(m_text, 1);
+  layout->addWidget(m_dismiss);
+  connect(m_dismiss, &QToolButton::clicked, this, &QWidget::hide);
+  hide();
+}
+
+void NoticeStrip::tell(const QString& text) {
+  m_text->setText(text);
+  show();
+}
+
+void NoticeStrip::applyColours() {
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, Theme::accent());
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::ButtonText})
+    colours.setColor(role, textOn(Theme::accent()));
+  setPalette(colours);
+}
+
+} // namespace hooptab

@@ -1,0 +1,14 @@
+// What others did to the file of a game, in words for the one who records it.
+#pragma once
+
+#include "storage/GameOnDisk.h"
+#include "storage/Texts.h"
+
+#include <string>
+
+namespace hooptab {
+
+// Empty when there is nothing that the user must know of.
+[[nodiscard]] std::string foreignWords(const ForeignHands& hands, const Texts& texts);
+
+} // namespace hooptab
