@@ -247,6 +247,39 @@ TEST_F(Cli, CsvHasARowForEachPlayerAndTotalWithQuotedFields) {
     EXPECT_EQ(std::ranges::count(lines[line], ','), 48) << lines[line];
 }
 
+// Names that a spreadsheet would run and that would command a terminal, in every output.
+TEST_F(Cli, NamesAreNoFormulasAndNoCommands) {
+  const std::string text =
+      "[DETAILS]\nVERSION=2.0\nTERMINE=1\nDATE=2026-\x1B[2J01\nENDROIT=\x07\x81\nNBREPERIODE=1\n"
+      "DUREE=10\nEQUIPE0ABB=@A\x1B\nEQUIPE1ABB=\x8D"
+      "B\nEQUIPE0NOM=\x9D"
+      "C\n"
+      "[0]\n4=0,=cmd|'/C calc'!A0\n5=1,+Bo\x1B]0x\x07\n[1]\n-7=2,\x90Ida\n"
+      "[PERIODE1]\n1=10:00,ARRET,IN-04-05,IN-\x1B\n2=09:00,STO,0-4\n3=08:00,GFTA,1-\x8F\n"
+      "\x1B=07:00,SA\n9=05:00,ARRET,IN-04-05,IN-\n";
+  const std::string file = game(text);
+  const std::string folder = quoted(m_folder.path());
+  for (const std::string& arguments :
+       {"box " + file, "box --csv " + file, "box --json " + file, "events " + file, "verify " + file,
+        "season " + folder, "season --csv " + folder, "season --json " + folder}) {
+    const Outcome outcome = run(arguments);
+    EXPECT_FALSE(outcome.output.empty()) << arguments;
+    for (std::size_t i = 0; i < outcome.output.size(); ++i) {
+      const auto byte = static_cast<unsigned char>(outcome.output[i]);
+      const bool isC1 = byte == 0xC2 && static_cast<unsigned char>(outcome.output.at(i + 1)) < 0xA0;
+      EXPECT_FALSE(isC1 || byte == 0x7F || (byte < 0x20 && byte != '\r' && byte != '\n'))
+          << arguments << " at " << i << '\n'
+          << outcome.output;
+    }
+  }
+  const std::string box = run("box --csv " + file).output;
+  EXPECT_TRUE(holds(box, "\r\n'@A,4,'=cmd|'/C calc'!A0,")) << box;
+  EXPECT_TRUE(holds(box, "\r\n'@A,5,'+Bo]0x,")) << box;
+  EXPECT_TRUE(holds(box, "\r\nB,-7,Ida,")) << box;
+  EXPECT_TRUE(holds(box, ",0,0,-1,")) << "a rating below 0 is a number: " << box;
+  EXPECT_TRUE(holds(run("season --csv " + folder).output, "\r\nplayers,total,'@A-,4,'=cmd|'/C calc'!A0,"));
+}
+
 TEST_F(Cli, EventsAreToldInWordsAndNeverCommandTheTerminal) {
   const Outcome outcome = run("events " + game(smallGame()));
   EXPECT_EQ(outcome.status, 0);

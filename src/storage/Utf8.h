@@ -12,6 +12,11 @@ struct CodePoint {
   bool isValid = false; // else one byte that begins no character
 };
 
+// Whether a character commands what shows it, as a terminal's escapes do.
+constexpr bool isControl(std::uint32_t codePoint) {
+  return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+}
+
 // The first character of a text that is not empty; moves on behind it.
 inline CodePoint takeCodePoint(std::string_view& text) {
   const auto byteAt = [&](std::size_t i) {
