@@ -3,6 +3,7 @@
 #include "scorecard/BoxScore.h"
 #include "storage/EventWords.h"
 #include "storage/Module1.h"
+#include "storage/Utf8.h"
 
 #include <algorithm>
 

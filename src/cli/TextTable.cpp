@@ -65,13 +65,4 @@ std::string TextTable::text() const {
   return text;
 }
 
-std::string printable(std::string_view text) {
-  std::string shown;
-  while (!text.empty()) {
-    const CodePoint next = takeCodePoint(text);
-    shown += isControl(next.value) || !next.isValid ? std::string_view("?") : next.bytes;
-  }
-  return shown;
-}
-
 } // namespace hooptab
