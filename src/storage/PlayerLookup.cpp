@@ -16,9 +16,9 @@ const RosterPlayer* findUncounted(const Roster& roster, std::string_view jersey)
   const auto first = players.begin() + Roster::kLargestEntry;
   auto found =
       std::find_if(first, players.end(), [&](const RosterPlayer& player) { return player.jersey == jersey; });
-  if (const int number = Module1::wholeNumber(jersey); found == players.end() && number >= 0)
+  if (const int number = Roster::jerseyNumber(jersey); found == players.end() && number >= 0)
     found = std::find_if(first, players.end(), [&](const RosterPlayer& player) {
-      return Module1::wholeNumber(player.jersey) == number;
+      return Roster::jerseyNumber(player.jersey) == number;
     });
   return found == players.end() ? nullptr : &*found;
 }

@@ -208,6 +208,10 @@ TEST(RosterTest, JerseysFindTheSameTextFirstThenTheEqualNumber) {
     roster.add({jersey, 0, ""});
   EXPECT_EQ(roster.entryOf("05"), 2);
   EXPECT_EQ(roster.entryOf("005"), 1);
+  EXPECT_EQ(roster.entryOf("0123"), 5);
+  EXPECT_EQ(roster.entryOfListed("0000000000123"), 5);
+  EXPECT_EQ(roster.entryOf("1123"), 0);
+  EXPECT_EQ(roster.entryOf("0005"), 1) << "of two, the first of that number";
   EXPECT_EQ(roster.entryOf("A1"), 6);
   EXPECT_EQ(roster.entryOf("77"), 0);
   EXPECT_EQ(roster.entryOfListed("00"), 3);
