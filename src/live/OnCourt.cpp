@@ -12,10 +12,7 @@ namespace {
 
 unsigned entriesOf(std::string_view list, const Roster& roster) {
   unsigned entries = 0;
-  const auto jerseys = Module1::jerseysOfList(list);
-  if (!jerseys)
-    return 0;
-  for (const std::string_view jersey : *jerseys) {
+  for (const std::string_view jersey : Module1::countedJerseys(list)) {
     if (const int entry = roster.entryOfListed(jersey); entry > 0)
       entries |= 1U << entry;
   }

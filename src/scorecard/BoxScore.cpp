@@ -207,8 +207,7 @@ int sumOfShots(ShotKinds kinds, Number number) {
 // "4-5-10-12-15": the jerseys of an on-court list as the roster writes them.
 std::string lineName(std::string_view list, const Roster& roster) {
   std::string name;
-  for (const std::string_view jersey :
-       Module1::jerseysOfList(list).value_or(std::vector<std::string_view>())) {
+  for (const std::string_view jersey : Module1::countedJerseys(list)) {
     if (!name.empty())
       name += '-';
     const RosterPlayer* player = roster.player(roster.entryOfListed(jersey));

@@ -58,6 +58,14 @@ class Check {
   int m_clockSeconds = 0;
 };
 
+std::string whyNoList(const GameEvent& event) {
+  for (const std::size_t side : {0U, 1U}) {
+    if (const std::string_view list = event.onCourt(side); !list.empty() && !list.starts_with("IN"))
+      return "cannot be understood: an on-court list does not begin with IN";
+  }
+  return "cannot be understood: an on-court list is not IN- and jerseys with - between";
+}
+
 // Why a line could not be taken apart, looked at in the order of its fields.
 std::string whyNotUnderstood(const GameEvent& event) {
   if (Module1::wholeNumber(event.key) <= 0)
@@ -66,7 +74,7 @@ std::string whyNotUnderstood(const GameEvent& event) {
     return "cannot be understood: the clock is not mm:ss";
   const std::string_view code = Module1::field(event.line, 2);
   if (code == "ARRET")
-    return "cannot be understood: an on-court list does not begin with IN";
+    return whyNoList(event);
   const GameEvent withPlayer =
       GameEvent::parse(event.period, event.key, "00:00," + std::string(code) + ",0-1,0,0");
   return withPlayer.isUnderstood ? "cannot be understood: the player is not 0- or 1- and a jersey"

@@ -147,8 +147,7 @@ NameTable::LineKey SummaryReader::lineKey(const Roster& roster, std::size_t side
   };
   const unsigned members = m_state.lineMembers[side][line];
   if ((members & 1U) != 0) { // somebody is in no roster: the list tells who
-    for (const std::string_view jersey :
-         Module1::jerseysOfList(m_state.lines[side][line].list).value_or(std::vector<std::string_view>())) {
+    for (const std::string_view jersey : Module1::countedJerseys(m_state.lines[side][line].list)) {
       const int entry = roster.entryOfListed(jersey);
       const int number = Module1::wholeNumber(jersey);
       add(entry > 0     ? m_codes[side][static_cast<std::size_t>(entry)]

@@ -143,7 +143,7 @@ void GameEvent::parseLine(std::uint8_t eventPeriod, std::string_view eventKey, i
   if (found.code == EventCode::ARRET) {
     for (int team = 0; team < 2; ++team) {
       const std::string_view list = nextField(rest);
-      if (!list.empty() && !list.starts_with("IN"))
+      if (!list.empty() && !Module1::isOnCourtList(list))
         return;
     }
   } else if (found.kind != nullptr) {

@@ -102,15 +102,7 @@ void Tally::setLine(std::size_t team, std::string_view list) {
   std::vector<std::string> strangers; // jerseys that are in no roster
   std::array<std::uint8_t, 5> onCourt = {};
   std::uint8_t count = 0;
-  // Taken apart in place: a list is met at every stop of every game of a season.
-  std::string_view rest = list.starts_with("IN") ? list.substr(2) : std::string_view();
-  for (int jerseys = 0; !rest.empty() && jerseys < 5;) {
-    rest.remove_prefix(1);
-    const std::string_view jersey = rest.substr(0, rest.find('-'));
-    rest.remove_prefix(jersey.size());
-    if (jersey.empty())
-      continue;
-    ++jerseys;
+  for (const std::string_view jersey : Module1::countedJerseys(list)) {
     const int entry = roster.entryOfListed(jersey);
     if (entry > 0 && (members & (1U << entry)) != 0)
       continue;

@@ -177,14 +177,17 @@ TEST_F(GameFileTest, AllPeriodsAreReadAscendingAndEachKeyOnce) {
 }
 
 TEST(GameEventTest, WhatCannotBeUnderstoodIsKeptAndCountsNothing) {
-  for (const char* bad : {"", "E", "9:00,SPF,0-4", "09:00", "09:00,", "09:00,SPX,0-4", "09:00,spf,0-4",
-                          "09:00,SPF", "09:00,SPF,2-4", "09:00,SPF,0-", "09:00,SPF,04", "09:00,IN,0-4",
-                          "09:00,ARRET,OUT-04,IN-", "E09:00,GFGAA,0-4", "09:60,SPF,0-4"}) {
+  for (const char* bad :
+       {"", "E", "9:00,SPF,0-4", "09:00", "09:00,", "09:00,SPX,0-4", "09:00,spf,0-4", "09:00,SPF",
+        "09:00,SPF,2-4", "09:00,SPF,0-", "09:00,SPF,04", "09:00,IN,0-4", "09:00,ARRET,OUT-04,IN-",
+        "09:00,ARRET,IN14,IN-", "09:00,ARRET,IN-04,IN-05-", "E09:00,GFGAA,0-4", "09:60,SPF,0-4"}) {
     const GameEvent event = GameEvent::parse(1, "5", bad);
     EXPECT_FALSE(event.isUnderstood) << bad;
     EXPECT_EQ(event.line, bad);
   }
   EXPECT_FALSE(GameEvent::parse(1, "x", "09:00,SPF,0-4").isUnderstood);
+  for (const char* nobody : {"09:00,ARRET", "09:00,ARRET,", "09:00,ARRET,,IN", "09:00,ARRET,IN-,IN,more"})
+    EXPECT_TRUE(GameEvent::parse(1, "5", nobody).isUnderstood) << nobody;
 }
 
 TEST(GameEventTest, ShotsCountWithAndWithoutAPlace) {
