@@ -78,7 +78,7 @@ void SummaryReader::summarise(const Game& source, ListedGame& game) {
   game.date = details.date;
   game.day = calendarDay(details.date);
   game.place = details.place;
-  game.type = details.type;
+  game.type = gameTypeOf(details.type);
   game.input = inputOf(details);
   game.fingerprint = fingerprintOf(source.events);
   for (std::size_t i = 0; i < game.leadSeconds.size(); ++i)
@@ -112,7 +112,7 @@ void SummaryReader::addPlayers(const Roster& roster, std::size_t side, ListedGam
     if (player != nullptr) {
       row.id = m_names.player(game.team[side], player->jersey, player->name);
       const bool isKnown = player->position >= 0 && player->position < kChoiceCount;
-      row.position = static_cast<std::uint8_t>(isKnown ? player->position : kNoPosition);
+      row.position = static_cast<std::uint8_t>(isKnown ? player->position : kChoiceCount);
     }
   }
 }
