@@ -176,7 +176,7 @@ std::string boxText(const Scorecard& card, const Texts& texts) {
 int shownPeriods(const Game& game) {
   int highest = 0;
   for (const GameEvent& event : game.events)
-    highest = std::max<int>(highest, event.period);
+    highest = std::max(highest, event.period);
   return std::min(highest, static_cast<int>(GameState::kPeriodRows) - 1);
 }
 

@@ -36,7 +36,7 @@ struct Stop {
 };
 
 std::optional<Stop> stopOf(int period, const std::string& line, const Rosters& rosters) {
-  const GameEvent event = GameEvent::parse(static_cast<std::uint8_t>(period), "1", line);
+  const GameEvent event = GameEvent::parse(period, "1", line);
   if (!event.isUnderstood || event.code != EventCode::ARRET)
     return std::nullopt;
   return Stop{{entriesOf(event.onCourt(0), rosters[0]), entriesOf(event.onCourt(1), rosters[1])},

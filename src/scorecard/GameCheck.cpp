@@ -18,7 +18,14 @@ class Check {
   explicit Check(const Game& game) : m_game(game) {}
 
   std::vector<GameFinding> run() && {
+    checkLength();
+    int period = 0;
     for (const GameEvent& event : m_game.events) {
+      if (event.period != period && event.period > kLastPeriod)
+        name(event.period, "section PERIODE" + std::to_string(event.period) + " lies behind the " +
+                               std::to_string(kLastPeriod) +
+                               " periods that a game can have; it counts with period 8");
+      period = event.period;
       if (!event.isDeleted)
         check(event);
     }
@@ -36,6 +43,10 @@ class Check {
   void name(const GameEvent& event, std::string problem, bool isWarning = false) {
     m_findings.push_back(
         {isWarning, event.period, std::string(event.key), std::string(event.line), std::move(problem)});
+  }
+  // Of no event.
+  void name(int period, std::string problem) {
+    m_findings.push_back({false, period, {}, {}, std::move(problem)});
   }
   // "LYNX", or "team 0" where the file gives no abbreviation.
   std::string team(std::size_t side) const {

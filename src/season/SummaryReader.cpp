@@ -28,7 +28,7 @@ std::uint64_t fingerprintOf(const EventList& events) {
   };
   for (const GameEvent& event : events) {
     std::string_view rest = event.line;
-    mix((std::uint64_t{event.period} << 32U) + rest.size());
+    mix((static_cast<std::uint64_t>(event.period) << 32U) + rest.size());
     for (; !rest.empty(); rest.remove_prefix(std::min(rest.size(), sizeof(std::uint64_t)))) {
       std::uint64_t word = 0;
       std::memcpy(&word, rest.data(), std::min(rest.size(), sizeof word));
