@@ -212,9 +212,9 @@ frmLIVE::Opening frmLIVE::open(const QString& path) {
   }
   GameDetails details; // a file that cannot be read is told about below
   if (GameFile(m_store, fromQt(path)).readDetails(details) == GameFileProblem::None &&
-      details.minutesPerPeriod > kMostMinutes) {
+      details.impossibleMinutes.value_or(0) > kMostMinutes) {
     m_dialogs.warn(this, toQt(m_texts.text(kErrorTitle)),
-                   toQt(m_texts.withPlaceholder(kPeriodTooLong, std::to_string(details.minutesPerPeriod))));
+                   toQt(m_texts.withPlaceholder(kPeriodTooLong, std::to_string(*details.impossibleMinutes))));
     return Opening::Refused;
   }
   if (!mayClose()) // what is open now

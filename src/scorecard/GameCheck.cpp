@@ -33,6 +33,7 @@ class Check {
   }
 
  private:
+  void checkLength();
   void check(const GameEvent& event);
   void checkClock(const GameEvent& event);
   void checkLists(const GameEvent& event);
@@ -90,6 +91,14 @@ std::string whyNotUnderstood(const GameEvent& event) {
       GameEvent::parse(event.period, event.key, "00:00," + std::string(code) + ",0-1,0,0");
   return withPlayer.isUnderstood ? "cannot be understood: the player is not 0- or 1- and a jersey"
                                  : "cannot be understood: there is no code " + std::string(code);
+}
+
+void Check::checkLength() {
+  const GameDetails& details = m_game.details;
+  if (details.impossibleMinutes)
+    name(0, "DUREE is " + std::to_string(*details.impossibleMinutes) +
+                " minutes; a clock shows 0 to 99, and it is read as " +
+                std::to_string(details.minutesPerPeriod));
 }
 
 void Check::check(const GameEvent& event) {
