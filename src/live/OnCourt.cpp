@@ -92,8 +92,8 @@ std::string stopText(const OnCourt& onCourt, const Rosters& rosters) {
 }
 
 std::string withLists(const std::string& line, const OnCourt& lists, const Rosters& rosters) {
-  constexpr std::string_view kCode = ",ARRET,";
-  return line.substr(0, line.find(kCode) + kCode.size()) + listsText(lists, rosters);
+  constexpr std::string_view kCode = ",ARRET"; // behind which a line of others may have no lists at all
+  return line.substr(0, line.find(kCode) + kCode.size()) + ',' + listsText(lists, rosters);
 }
 
 std::optional<EventPlace> eventBehind(const EventLines& lines, const EventPlace& event) {
