@@ -237,7 +237,8 @@ frmLIVE::Opening frmLIVE::open(const QString& path) {
   if (const auto& count = m_game.log().outOfRange()) { // the game goes on all the same
     const std::string words = m_texts.withPlaceholder(kCountOutOfRange, fromQt(QFileInfo(path).fileName()));
     m_dialogs.warn(this, toQt(m_texts.text(kWarningTitle)),
-                   toQt(Module1::withPlaceholder(words, count->what, "YYY")));
+                   toQt(Module1::withPlaceholder(
+                       words, m_game.game().details.abbreviation[count->team] + " " + count->what, "YYY")));
   }
   return Opening::Opened;
 }
