@@ -1,8 +1,10 @@
 #include "cli/Reports.h"
 #include "cli/TextTable.h"
 #include "scorecard/BoxScore.h"
+#include "storage/ChoiceTexts.h"
 #include "storage/EventWords.h"
 #include "storage/Module1.h"
+#include "storage/Utf8.h"
 
 #include <algorithm>
 
@@ -19,8 +21,6 @@ constexpr int kName = 1023;
 constexpr int kTime = 1024;
 constexpr int kRating = 1025;
 constexpr int kTotal = 1070;
-constexpr int kFirstGameType = 1250;
-constexpr int kLastGameType = 1259;
 constexpr int kPointsByPeriod = 1506;
 constexpr int kTimeInLead = 1507;
 constexpr int kTimes = 1508;
@@ -54,11 +54,10 @@ class BoxText {
   // Date, kind and place of the game, as far as the file tells; a line of its own.
   std::string description() const {
     const GameDetails& details = m_game.details;
-    const int type = kFirstGameType + details.type;
-    const std::string kind = type >= kFirstGameType && type <= kLastGameType ? word(type) : std::string();
     std::string text;
-    for (const std::string& part : {details.date, kind, details.place}) {
-      if (!part.empty() && part != "---")
+    for (const std::string& part :
+         {details.date, std::string(gameTypeText(details.type, m_texts)), details.place}) {
+      if (!part.empty())
         text += (text.empty() ? "" : " - ") + printable(part);
     }
     return text.empty() ? text : text + '\n';
@@ -177,7 +176,7 @@ std::string boxText(const Scorecard& card, const Texts& texts) {
 int shownPeriods(const Game& game) {
   int highest = 0;
   for (const GameEvent& event : game.events)
-    highest = std::max<int>(highest, event.period);
+    highest = std::max(highest, event.period);
   return std::min(highest, static_cast<int>(GameState::kPeriodRows) - 1);
 }
 

@@ -1,6 +1,7 @@
 #include "cli/Reports.h"
 #include "cli/TextTable.h"
 #include "storage/EventWords.h"
+#include "storage/Utf8.h"
 
 namespace hooptab {
 

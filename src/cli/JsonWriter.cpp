@@ -1,6 +1,6 @@
 #include "cli/JsonWriter.h"
 
-#include "cli/Utf8.h"
+#include "storage/Utf8.h"
 
 #include <cstdio>
 
@@ -65,7 +65,7 @@ void JsonWriter::quoted(std::string_view text) {
     } else if (next.value == '"' || next.value == '\\') {
       m_text += '\\';
       m_text += next.bytes;
-    } else if (next.value < 0x20 || next.value == 0x7F) {
+    } else if (isControl(next.value)) {
       char escape[8];
       std::snprintf(escape, sizeof escape, "\\u%04x", next.value);
       m_text += escape;

@@ -92,8 +92,8 @@ class Parser {
       setDay(season.toDay, "--to", *to);
     } else if (const auto type = valueOf(word, "--type")) {
       const int number = Module1::wholeNumber(*type);
-      if (number < 0 || number >= kChoiceCount)
-        m_options.error = "--type needs a number from 0 to 9";
+      if (number < 0 || gameTypeOf(number) != number)
+        m_options.error = "--type needs a type of game, 0 to 5 or 9; there is no type " + std::string(*type);
       season.type = number;
     } else {
       m_options.error = "there is no option " + std::string(word);

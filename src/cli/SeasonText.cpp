@@ -1,6 +1,7 @@
 #include "cli/SeasonReports.h"
 #include "cli/TextTable.h"
 #include "season/GameColumns.h"
+#include "storage/Utf8.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "cli/TextTable.h"
 
-#include "cli/Utf8.h"
+#include "storage/Utf8.h"
 
 #include <algorithm>
 
@@ -63,16 +63,6 @@ std::string TextTable::text() const {
     addLine([&](std::size_t column) -> std::string_view { return m_rows[row][column]; });
   }
   return text;
-}
-
-std::string printable(std::string_view text) {
-  std::string shown;
-  while (!text.empty()) {
-    const CodePoint next = takeCodePoint(text);
-    const bool isControl = next.value < 0x20 || (next.value >= 0x7F && next.value < 0xA0);
-    shown += isControl || !next.isValid ? std::string_view("?") : next.bytes;
-  }
-  return shown;
 }
 
 } // namespace hooptab

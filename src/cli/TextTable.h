@@ -29,7 +29,4 @@ class TextTable {
   std::vector<std::size_t> m_rules; // row numbers
 };
 
-// Without characters that would command a terminal: each becomes "?". Valid UTF-8 in any case.
-[[nodiscard]] std::string printable(std::string_view text);
-
 } // namespace hooptab

@@ -1,5 +1,5 @@
 #include "cli/Reports.h"
-#include "cli/TextTable.h"
+#include "storage/Utf8.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "cli/Output.h"
 #include "cli/Reports.h"
 #include "cli/SeasonReports.h"
-#include "cli/TextTable.h"
+#include "storage/Utf8.h"
 
 #include <algorithm>
 #include <csignal>

@@ -12,7 +12,7 @@ namespace {
 using Kind = EventChange::Kind;
 
 GameEvent parsed(int period, const std::string& line) {
-  return GameEvent::parse(static_cast<std::uint8_t>(period), "1", line);
+  return GameEvent::parse(period, "1", line);
 }
 
 bool isStop(const GameEvent& event) {

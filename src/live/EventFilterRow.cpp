@@ -70,8 +70,8 @@ void EventFilterRow::fill(QComboBox& box, int text, const QString& key,
 }
 
 void EventFilterRow::showGame(const Game& game, const EventWords& words) {
-  const int periods =
-      std::max(game.details.periods, game.events.size() == 0 ? 0 : int{game.events.events().back().period});
+  const int played = game.events.size() == 0 ? 0 : game.events.events().back().period;
+  const int periods = std::min(std::max(game.details.periods, played), kLastPeriod);
   const QString whole = toQt(game.path) + u'|' + QString::number(game.roster[0].players().size());
   const bool isSame = whole == m_game && m_kind->count() > 0;
   m_game = whole;

@@ -7,8 +7,6 @@
 
 namespace hooptab {
 
-inline constexpr int kMostMinutes = 99; // of a clock that shows mm:ss
-
 class GameClock {
  public:
   void set(int seconds) { m_atStart = std::max(seconds, 0); } // only while it stands

@@ -120,7 +120,7 @@ EditPlan GameEditing::substitution(const EventPlace& at, Where where, const OnCo
   const std::string* line = findLine(m_log.lines(), at.period, at.key);
   if (line == nullptr || (out == OnCourt{} && in == OnCourt{}))
     return {};
-  const GameEvent event = GameEvent::parse(static_cast<std::uint8_t>(at.period), at.key, *line);
+  const GameEvent event = GameEvent::parse(at.period, at.key, *line);
   if (!event.isUnderstood)
     return {};
   const Rosters rosters = m_log.rosters();
@@ -154,7 +154,7 @@ EditPlan GameEditing::newLists(const EventPlace& stop, const OnCourt& onCourt) c
   const std::string lists = stopText(onCourt, m_log.rosters());
   if (line->ends_with(lists))
     return {};
-  const GameEvent event = GameEvent::parse(static_cast<std::uint8_t>(stop.period), stop.key, *line);
+  const GameEvent event = GameEvent::parse(stop.period, stop.key, *line);
   return replacement(stop, event.clockSeconds, lists);
 }
 

@@ -6,13 +6,14 @@
 #include <bit>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 
 namespace hooptab {
 
 namespace {
 
 constexpr int kSecondsPerMinute = 60;
-constexpr int kMostPeriods = 255;
+constexpr int kBehindAll = std::numeric_limits<int>::max(); // every period that a file can have
 constexpr int kSubstitution = 1561;
 
 EventChange replacement(int period, const std::string& key, std::string line) {
@@ -63,11 +64,11 @@ ForeignHands LiveGame::takeForeignHands() {
 // period.
 void LiveGame::showAsLeft() {
   const GameState& counted = state();
-  m_period = std::max<int>(counted.period, 1);
+  m_period = std::clamp(counted.period, 1, kLastPeriod);
   m_lengthOfPeriod = lengthOf(m_period);
   m_clock = {};
   m_phase = Phase::Stopped;
-  putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, m_log.rosters()));
+  putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters()));
 
   const GameEvent* last = nullptr;
   for (const GameEvent& event : game().events) {
@@ -208,7 +209,7 @@ bool LiveGame::setClock(int seconds) {
 }
 
 bool LiveGame::setPeriod(int period) {
-  if (m_phase == Phase::Running || !canRecord() || period < 1 || period > kMostPeriods)
+  if (m_phase == Phase::Running || !canRecord() || period < 1 || period > kLastPeriod)
     return false;
   if (period == m_period)
     return true;
@@ -261,7 +262,7 @@ bool LiveGame::returnToEndedPeriod() {
 }
 
 bool LiveGame::beginOvertime(int minutes, bool keepsFouls) {
-  if (m_phase != Phase::OvertimeAsked || minutes < 1 || minutes > kMostMinutes || m_period >= kMostPeriods)
+  if (m_phase != Phase::OvertimeAsked || minutes < 1 || minutes > kMostMinutes || m_period >= kLastPeriod)
     return false;
   m_log.setDetails({{"KEEPBONUS", keepsFouls ? "1" : "0"}});
   ++m_period;
@@ -453,8 +454,7 @@ bool LiveGame::recordFollowUp(int team, int player, EventCode kind) {
   const std::string* shot = findLine(m_log.lines(), m_lastShot.period, m_lastShot.key);
   if (shot == nullptr)
     return false;
-  const auto period = static_cast<std::uint8_t>(m_lastShot.period);
-  const int clock = GameEvent::parse(period, m_lastShot.key, *shot).clockSeconds;
+  const int clock = GameEvent::parse(m_lastShot.period, m_lastShot.key, *shot).clockSeconds;
   return insertEvent(m_lastShot, Where::Behind, clock, {.kind = kind, .team = team, .player = player});
 }
 
@@ -538,7 +538,7 @@ bool LiveGame::take(const EditPlan& plan) {
   }
   if (!done(plan.text, plan.steps, plan.back))
     return false;
-  putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, m_log.rosters()));
+  putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters()));
   decideAgain();
   return true;
 }
@@ -571,7 +571,7 @@ bool LiveGame::turn(const LiveAction& action, std::vector<EventChange>& inverse)
   if (!m_log.change(edit.steps()))
     return false;
   inverse = edit.back();
-  putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, rosters));
+  putOnCourt(inForce(m_log.lines(), kBehindAll, {}, rosters));
   decideAgain();
   return true;
 }

@@ -54,7 +54,7 @@ bool LiveLog::change(const std::vector<EventChange>& steps) {
 bool LiveLog::append(const std::vector<EventChange>& steps) {
   for (const EventChange& step : steps) {
     m_lines[step.period].emplace_back(step.key, step.line);
-    m_game.events.appendOwned(static_cast<std::uint8_t>(step.period), step.key, readable(step.line));
+    m_game.events.appendOwned(step.period, step.key, readable(step.line));
     m_tally->apply(m_game.events[m_game.events.size() - 1], m_game.events.size() - 1);
   }
   m_disk.change(steps, m_lines);
@@ -105,7 +105,7 @@ void LiveLog::readEvents() {
   EventList events;
   for (const auto& [period, lines] : m_lines) {
     for (const auto& [key, line] : lines)
-      events.appendOwned(static_cast<std::uint8_t>(period), key, readable(line));
+      events.appendOwned(period, key, readable(line));
   }
   m_game.events = std::move(events);
 }

@@ -12,10 +12,7 @@ namespace {
 
 unsigned entriesOf(std::string_view list, const Roster& roster) {
   unsigned entries = 0;
-  const auto jerseys = Module1::jerseysOfList(list);
-  if (!jerseys)
-    return 0;
-  for (const std::string_view jersey : *jerseys) {
+  for (const std::string_view jersey : Module1::countedJerseys(list)) {
     if (const int entry = roster.entryOfListed(jersey); entry > 0)
       entries |= 1U << entry;
   }
@@ -39,7 +36,7 @@ struct Stop {
 };
 
 std::optional<Stop> stopOf(int period, const std::string& line, const Rosters& rosters) {
-  const GameEvent event = GameEvent::parse(static_cast<std::uint8_t>(period), "1", line);
+  const GameEvent event = GameEvent::parse(period, "1", line);
   if (!event.isUnderstood || event.code != EventCode::ARRET)
     return std::nullopt;
   return Stop{{entriesOf(event.onCourt(0), rosters[0]), entriesOf(event.onCourt(1), rosters[1])},
@@ -95,8 +92,8 @@ std::string stopText(const OnCourt& onCourt, const Rosters& rosters) {
 }
 
 std::string withLists(const std::string& line, const OnCourt& lists, const Rosters& rosters) {
-  constexpr std::string_view kCode = ",ARRET,";
-  return line.substr(0, line.find(kCode) + kCode.size()) + listsText(lists, rosters);
+  constexpr std::string_view kCode = ",ARRET"; // behind which a line of others may have no lists at all
+  return line.substr(0, line.find(kCode) + kCode.size()) + ',' + listsText(lists, rosters);
 }
 
 std::optional<EventPlace> eventBehind(const EventLines& lines, const EventPlace& event) {

@@ -28,10 +28,9 @@ void showPlayerWords(QWidget& widget, const LiveGame& game, int team, int player
   if (game.isFouledOut(team, player))
     name += QStringLiteral(", ") + toQt(texts.text(kFouledOut));
 
-  QString counts = toQt(choiceName(kFirstPositionText, entry->position, texts));
-  if (!counts.isEmpty())
-    counts += QStringLiteral(" \u00b7 ");
-  counts += QStringLiteral("PF %1 \u00b7 TF %2").arg(counters[Counter::PF]).arg(counters[Counter::TF]);
+  QString counts = toQt(positionText(entry->position, texts));
+  counts +=
+      QStringLiteral(" \u00b7 PF %1 \u00b7 TF %2").arg(counters[Counter::PF]).arg(counters[Counter::TF]);
   if (game.hasTime())
     counts += QStringLiteral(" \u00b7 ") + toQt(Module1::clockText(game.secondsOnCourt(team, player)));
 

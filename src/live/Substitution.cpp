@@ -12,11 +12,8 @@ namespace {
 // The line as bits and text; nobody when it is not five players of the roster who may play.
 Substitution::Line lineOf(const LiveGame& game, std::size_t team, const LineEntry& entry,
                           unsigned fouledOut) {
-  const auto listed = Module1::jerseysOfList(entry.list);
-  if (!listed)
-    return {};
   Substitution::Line line{.seconds = entry.seconds};
-  for (const std::string_view jersey : *listed) {
+  for (const std::string_view jersey : Module1::countedJerseys(entry.list)) {
     const int player = game.game().roster[team].entryOfListed(jersey);
     if (player == 0 || (fouledOut >> player & 1U) != 0)
       return {};

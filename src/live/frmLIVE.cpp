@@ -214,9 +214,9 @@ void frmLIVE::resizeEvent(QResizeEvent*) {
 frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   GameDetails details; // a file that cannot be read is told about below
   if (GameFile(m_store, fromQt(path)).readDetails(details) == GameFileProblem::None &&
-      details.minutesPerPeriod > kMostMinutes) {
+      details.impossibleMinutes.value_or(0) > kMostMinutes) {
     m_dialogs.warn(this, toQt(m_texts.text(kErrorTitle)),
-                   toQt(m_texts.withPlaceholder(kPeriodTooLong, std::to_string(details.minutesPerPeriod))));
+                   toQt(m_texts.withPlaceholder(kPeriodTooLong, std::to_string(*details.impossibleMinutes))));
     return Opening::Refused;
   }
   if (!mayClose()) // what is open now
@@ -249,7 +249,8 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   if (const auto& count = m_game.log().outOfRange()) { // the game goes on all the same
     const std::string words = m_texts.withPlaceholder(kCountOutOfRange, fromQt(QFileInfo(path).fileName()));
     m_dialogs.warn(this, toQt(m_texts.text(kWarningTitle)),
-                   toQt(Module1::withPlaceholder(words, count->what, "YYY")));
+                   toQt(Module1::withPlaceholder(
+                       words, m_game.game().details.abbreviation[count->team] + " " + count->what, "YYY")));
   }
   return Opening::Opened;
 }

@@ -81,7 +81,7 @@ void addHead(Report& report, const Game& game, const GameState& state, const Tex
   };
   add(kGameDate, details.date);
   add(kPlace, details.place);
-  add(kGameType, choiceName(kFirstGameTypeText, details.type, texts));
+  add(kGameType, gameTypeText(details.type, texts));
   add(kStatistician, details.statistician);
   for (const auto& [label, rule] : kRules)
     add(label, details.*rule > 0 ? std::to_string(details.*rule) : std::string());

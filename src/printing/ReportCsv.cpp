@@ -1,6 +1,6 @@
 #include "printing/ReportText.h"
+#include "storage/DelimitedText.h"
 #include "storage/Module1.h"
-#include "teams/DelimitedText.h"
 
 #include <algorithm>
 
@@ -10,25 +10,13 @@ namespace {
 
 constexpr std::string_view kTitleColumn = "Table";
 
-// Spreadsheets run what begins with one of these; a name never is a formula. A number with its sign, as in a
-// list of margins, is none either.
-std::string asText(const std::string& text) {
-  constexpr std::string_view kBeginsFormula = "=+-@\t\r";
-  constexpr std::string_view kOfNumbers = "0123456789.%";
-  const bool isNumber = text.size() > 1 && text.find_first_not_of(kOfNumbers, 1) == std::string::npos &&
-                        (text[0] == '+' || text[0] == '-');
-  return !isNumber && !text.empty() && kBeginsFormula.find(text.front()) != std::string_view::npos
-             ? "'" + text
-             : text;
-}
-
 std::string rowOf(const ReportTable& table, const ReportRow& row, bool hasTitle) {
   std::vector<std::string> fields;
   if (hasTitle)
-    fields.push_back(asText(table.title));
+    fields.push_back(table.title);
   for (const ReportCell& cell : row.cells)
-    fields.push_back(cell.kind == ReportCell::Kind::Text ? asText(cell.text) : cell.text);
-  return delimitedRow(fields);
+    fields.push_back(cell.text);
+  return csvRow(fields);
 }
 
 bool haveEqualColumns(const ReportTable& one, const ReportTable& other) {
@@ -43,7 +31,7 @@ std::string bytesOf(const std::vector<const ReportTable*>& tables) {
     header.emplace_back(kTitleColumn);
   for (const ReportColumn& column : tables.front()->columns)
     header.push_back(column.name);
-  std::string bytes = delimitedRow(header);
+  std::string bytes = csvRow(header);
   for (const ReportTable* table : tables) {
     for (const ReportRow& row : table->rows)
       bytes += rowOf(*table, row, hasTitle);

@@ -89,8 +89,7 @@ Report rosterReport(const TeamRecord& team, const std::vector<TeamPlayer>& playe
   for (const TeamPlayer& player : players) {
     const PlayerRecord& record = player.record;
     table.rows.push_back(
-        {{textCell(player.number), textCell(record.name),
-          textCell(std::string(choiceName(kFirstPositionText, record.position, texts))),
+        {{textCell(player.number), textCell(record.name), textCell(positionText(record.position, texts)),
           textCell(record.height), textCell(record.weight), textCell(record.age), textCell(record.grade)}});
   }
   report.blocks.push_back(std::move(table));

@@ -1,5 +1,6 @@
 #include "scorecard/BoxScore.h"
 
+#include "storage/ChoiceTexts.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -37,9 +38,6 @@ constexpr int kTextRating = 1025;
 constexpr int kTextTotal = 1070;
 constexpr int kTextOthers = 1502;
 constexpr int kTextOtherLines = 1503;
-constexpr int kTextFirstPosition = 1260;
-constexpr int kPositions = 10;
-constexpr const char* kNoPosition = "na";
 
 constexpr int kNarrow = 1058;
 constexpr int kPercentWidth = 1499;
@@ -207,8 +205,7 @@ int sumOfShots(ShotKinds kinds, Number number) {
 // "4-5-10-12-15": the jerseys of an on-court list as the roster writes them.
 std::string lineName(std::string_view list, const Roster& roster) {
   std::string name;
-  for (const std::string_view jersey :
-       Module1::jerseysOfList(list).value_or(std::vector<std::string_view>())) {
+  for (const std::string_view jersey : Module1::countedJerseys(list)) {
     if (!name.empty())
       name += '-';
     const RosterPlayer* player = roster.player(roster.entryOfListed(jersey));
@@ -230,7 +227,8 @@ class Rows {
       m_rows.push_back(std::move(row));
   }
   std::vector<BoxRow> withTotal(const Texts& texts) && {
-    m_rows.push_back({BoxRowKind::Total, -1, {}, std::string(texts.text(kTextTotal)), kNoPosition, m_total});
+    m_rows.push_back(
+        {BoxRowKind::Total, -1, {}, std::string(texts.text(kTextTotal)), kPositionWithoutName, m_total});
     return std::move(m_rows);
   }
 
@@ -293,16 +291,19 @@ std::vector<BoxRow> boxRows(const Game& game, const GameState& state, int team, 
             {BoxRowKind::Player, i, player->jersey, player->name, positionText(player->position, texts), {}},
             players[static_cast<std::size_t>(i)], true);
     }
-    rows.add({BoxRowKind::OtherPlayers, 0, {}, std::string(texts.text(kTextOthers)), kNoPosition, {}},
-             players[0], players[0].counters.hasAny());
+    rows.add(
+        {BoxRowKind::OtherPlayers, 0, {}, std::string(texts.text(kTextOthers)), kPositionWithoutName, {}},
+        players[0], players[0].counters.hasAny());
   } else {
     for (int i = 1; i <= state.usedLines[side]; ++i) {
       const LineEntry& line = lines[static_cast<std::size_t>(i)];
-      rows.add({BoxRowKind::Line, i, std::to_string(i), lineName(line.list, roster), kNoPosition, {}}, line,
-               line.seconds > 0 || line.counters.hasAny());
+      rows.add(
+          {BoxRowKind::Line, i, std::to_string(i), lineName(line.list, roster), kPositionWithoutName, {}},
+          line, line.seconds > 0 || line.counters.hasAny());
     }
-    rows.add({BoxRowKind::OtherLines, 0, {}, std::string(texts.text(kTextOtherLines)), kNoPosition, {}},
-             lines[0], lines[0].counters.hasAny());
+    rows.add(
+        {BoxRowKind::OtherLines, 0, {}, std::string(texts.text(kTextOtherLines)), kPositionWithoutName, {}},
+        lines[0], lines[0].counters.hasAny());
   }
   return std::move(rows).withTotal(texts);
 }
@@ -369,13 +370,6 @@ double boxSortValue(const BoxRow& row, int column) {
 bool boxColumnIsText(int column) {
   const Cell cell = contentOf(column).cell;
   return cell == Cell::Name || cell == Cell::Position;
-}
-
-std::string positionText(int position, const Texts& texts) {
-  if (position < 0 || position >= kPositions)
-    return kNoPosition;
-  const std::string_view text = texts.text(kTextFirstPosition + position);
-  return text.empty() || text == "---" ? kNoPosition : std::string(text);
 }
 
 } // namespace hooptab

@@ -99,7 +99,4 @@ boxDisplayOrder(); // creation indexes from left to right
 // without any.
 [[nodiscard]] double jerseySortValue(std::string_view jersey);
 
-// Position name of an index (texts 1260 to 1269); "na" for an index without name.
-[[nodiscard]] std::string positionText(int position, const Texts& texts);
-
 } // namespace hooptab

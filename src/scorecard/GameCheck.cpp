@@ -18,7 +18,14 @@ class Check {
   explicit Check(const Game& game) : m_game(game) {}
 
   std::vector<GameFinding> run() && {
+    checkLength();
+    int period = 0;
     for (const GameEvent& event : m_game.events) {
+      if (event.period != period && event.period > kLastPeriod)
+        name(event.period, "section PERIODE" + std::to_string(event.period) + " lies behind the " +
+                               std::to_string(kLastPeriod) +
+                               " periods that a game can have; it counts with period 8");
+      period = event.period;
       if (!event.isDeleted)
         check(event);
     }
@@ -26,6 +33,7 @@ class Check {
   }
 
  private:
+  void checkLength();
   void check(const GameEvent& event);
   void checkClock(const GameEvent& event);
   void checkLists(const GameEvent& event);
@@ -36,6 +44,10 @@ class Check {
   void name(const GameEvent& event, std::string problem, bool isWarning = false) {
     m_findings.push_back(
         {isWarning, event.period, std::string(event.key), std::string(event.line), std::move(problem)});
+  }
+  // Of no event.
+  void name(int period, std::string problem) {
+    m_findings.push_back({false, period, {}, {}, std::move(problem)});
   }
   // "LYNX", or "team 0" where the file gives no abbreviation.
   std::string team(std::size_t side) const {
@@ -58,6 +70,14 @@ class Check {
   int m_clockSeconds = 0;
 };
 
+std::string whyNoList(const GameEvent& event) {
+  for (const std::size_t side : {0U, 1U}) {
+    if (const std::string_view list = event.onCourt(side); !list.empty() && !list.starts_with("IN"))
+      return "cannot be understood: an on-court list does not begin with IN";
+  }
+  return "cannot be understood: an on-court list is not IN- and jerseys with - between";
+}
+
 // Why a line could not be taken apart, looked at in the order of its fields.
 std::string whyNotUnderstood(const GameEvent& event) {
   if (Module1::wholeNumber(event.key) <= 0)
@@ -66,11 +86,19 @@ std::string whyNotUnderstood(const GameEvent& event) {
     return "cannot be understood: the clock is not mm:ss";
   const std::string_view code = Module1::field(event.line, 2);
   if (code == "ARRET")
-    return "cannot be understood: an on-court list does not begin with IN";
+    return whyNoList(event);
   const GameEvent withPlayer =
       GameEvent::parse(event.period, event.key, "00:00," + std::string(code) + ",0-1,0,0");
   return withPlayer.isUnderstood ? "cannot be understood: the player is not 0- or 1- and a jersey"
                                  : "cannot be understood: there is no code " + std::string(code);
+}
+
+void Check::checkLength() {
+  const GameDetails& details = m_game.details;
+  if (details.impossibleMinutes)
+    name(0, "DUREE is " + std::to_string(*details.impossibleMinutes) +
+                " minutes; a clock shows 0 to 99, and it is read as " +
+                std::to_string(details.minutesPerPeriod));
 }
 
 void Check::check(const GameEvent& event) {

@@ -2,6 +2,7 @@
 
 #include "appearance/relabel.h"
 #include "scorecard/ScorecardTexts.h"
+#include "storage/ChoiceTexts.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -12,17 +13,7 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kFirstGameType = 1250;
-constexpr int kGameTypes = 10;
-constexpr int kUnknownType = 1269;
 constexpr int kGap = 16;
-
-// Types between the named ones read "---".
-QString typeText(int type, const Texts& texts) {
-  const bool isNamed =
-      type >= 0 && type < kGameTypes && !texts.text(kFirstGameType + type).starts_with("---");
-  return caption(texts, isNamed ? kFirstGameType + type : kUnknownType);
-}
 
 void setField(QLineEdit& field, const QString& text) {
   field.setText(text);
@@ -87,7 +78,7 @@ QLineEdit* GameDetailsPanel::addField(const char* name, int text, int row, int c
 }
 
 void GameDetailsPanel::showDetails(const GameDetails& details, const Texts& texts) {
-  setField(*m_type, typeText(details.type, texts));
+  setField(*m_type, caption(texts, kFirstGameTypeText + gameTypeOf(details.type)));
   setField(*m_date, toQt(details.date));
   setField(*m_place, toQt(details.place));
   setField(*m_statistician, toQt(details.statistician));

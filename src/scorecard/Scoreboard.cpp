@@ -15,13 +15,13 @@ constexpr std::string_view kNoTime = "--:--";
 int lastPeriod(const Game& game) {
   int last = 0;
   for (const GameEvent& event : game.events)
-    last = std::max<int>(last, event.period);
+    last = std::max(last, event.period);
   return last;
 }
 
 std::string periodLabel(const Game& game, const Texts& texts, int period, int lastPeriod) {
   const int regular = game.details.periods;
-  if (regular > 0 && period == regular + 1 && lastPeriod <= period) // the only overtime needs no number
+  if (regular > 0 && period - 1 == regular && lastPeriod <= period) // the only overtime needs no number
     return std::string(texts.text(1022));
   return EventWords(game, texts).periodText(period);
 }

@@ -330,12 +330,15 @@ void frmVIEW::showHeaders() {
 void frmVIEW::showNotice() {
   QString notice;
   const std::string file = fromQt(QFileInfo(path()).fileName());
-  if (m_problem != GameFileProblem::None)
+  if (m_problem != GameFileProblem::None) {
     notice = toQt(m_texts.withPlaceholder(
         m_problem == GameFileProblem::Absent ? kFileIsGone : kFileCannotBeRead, file));
-  else if (m_card != nullptr && m_card->outOfRange())
+  } else if (m_card != nullptr && m_card->outOfRange()) {
+    const CountOutOfRange& count = *m_card->outOfRange();
     notice = toQt(Module1::withPlaceholder(m_texts.withPlaceholder(kCountOutOfRange, file),
-                                           m_card->outOfRange()->what, "YYY"));
+                                           m_card->game().details.abbreviation[count.team] + ' ' + count.what,
+                                           "YYY"));
+  }
   m_notice->setText(notice);
   m_notice->setVisible(!notice.isEmpty());
 }

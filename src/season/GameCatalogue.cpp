@@ -3,6 +3,7 @@
 #include "season/CatalogueMerger.h"
 #include "season/GameFinder.h"
 #include "season/SummaryReader.h"
+#include "storage/codepage.h"
 
 #include <algorithm>
 #include <exception>
@@ -130,7 +131,13 @@ ScanOutcome GameCatalogue::scan(const ScanRequest& request, ScanWatch& watch) {
 }
 
 std::optional<SeasonId> GameCatalogue::teamOf(std::string_view key) const {
-  const auto found = std::ranges::find(m_content.teams, key, &SeasonTeam::key);
+  auto found = std::ranges::find(m_content.teams, key, &SeasonTeam::key);
+  if (found == m_content.teams.end()) {
+    const std::string stored = codepage::fromUtf8(key);
+    found = std::ranges::find_if(m_content.teams, [&](const SeasonTeam& team) {
+      return codepage::equalNames(codepage::fromUtf8(team.key), stored);
+    });
+  }
   if (found == m_content.teams.end())
     return std::nullopt;
   return static_cast<SeasonId>(found - m_content.teams.begin());

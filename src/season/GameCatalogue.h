@@ -95,6 +95,7 @@ class GameCatalogue {
   std::span<const SeasonPlayer> players() const { return m_content.players; }
   std::span<const SeasonLine> lines() const { return m_content.lines; }
 
+  // The team of that key, else the first whose key differs in letter case alone.
   [[nodiscard]] std::optional<SeasonId> teamOf(std::string_view key) const;
   // How many listed files are copies of another listed one.
   [[nodiscard]] std::size_t copies() const;

@@ -115,7 +115,7 @@ std::string gameCell(const GameCatalogue& catalogue, const ListedGame& game, int
                      std::optional<SeasonId> chosenTeam, const Texts& texts) {
   switch (column) {
   case Date: return game.date;
-  case Type: return std::string(choiceName(kFirstGameTypeText, game.type, texts));
+  case Type: return std::string(gameTypeText(game.type, texts));
   case Result: return resultFor(catalogue, game, chosenTeam, texts);
   case Visitor: return catalogue.teams()[game.team[0]].name;
   case Home: return catalogue.teams()[game.team[1]].name;

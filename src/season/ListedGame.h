@@ -24,7 +24,7 @@ struct GameRow {
   std::int32_t seconds = 0; // not below 0
   Counters counters;
   std::uint8_t side = 0;     // 0 visiting, 1 home
-  std::uint8_t position = 9; // players: index of the position, 9 none
+  std::uint8_t position = 9; // players: index of the position; 10 for one out of range
 };
 
 // A two- or three-point field goal for the season's shot chart. Places are whole court units, those outside
@@ -44,7 +44,7 @@ struct ListedGame {
   std::string date;       // as the file has it
   std::optional<int> day; // of a valid date, see calendarDay()
   std::string place;
-  int type = 0; // index of the game type
+  int type = 0; // index of the game type, one that has a name
   InputKind input = InputKind::Live;
   SeasonId team[2] = {kNobody, kNobody};
   int teamNumber[2] = {}; // the teams' identifiers in the settings of whoever recorded the game

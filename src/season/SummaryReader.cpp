@@ -28,7 +28,7 @@ std::uint64_t fingerprintOf(const EventList& events) {
   };
   for (const GameEvent& event : events) {
     std::string_view rest = event.line;
-    mix((std::uint64_t{event.period} << 32U) + rest.size());
+    mix((static_cast<std::uint64_t>(event.period) << 32U) + rest.size());
     for (; !rest.empty(); rest.remove_prefix(std::min(rest.size(), sizeof(std::uint64_t)))) {
       std::uint64_t word = 0;
       std::memcpy(&word, rest.data(), std::min(rest.size(), sizeof word));
@@ -78,7 +78,7 @@ void SummaryReader::summarise(const Game& source, ListedGame& game) {
   game.date = details.date;
   game.day = calendarDay(details.date);
   game.place = details.place;
-  game.type = details.type;
+  game.type = gameTypeOf(details.type);
   game.input = inputOf(details);
   game.fingerprint = fingerprintOf(source.events);
   for (std::size_t i = 0; i < game.leadSeconds.size(); ++i)
@@ -112,7 +112,7 @@ void SummaryReader::addPlayers(const Roster& roster, std::size_t side, ListedGam
     if (player != nullptr) {
       row.id = m_names.player(game.team[side], player->jersey, player->name);
       const bool isKnown = player->position >= 0 && player->position < kChoiceCount;
-      row.position = static_cast<std::uint8_t>(isKnown ? player->position : kNoPosition);
+      row.position = static_cast<std::uint8_t>(isKnown ? player->position : kChoiceCount);
     }
   }
 }
@@ -147,8 +147,7 @@ NameTable::LineKey SummaryReader::lineKey(const Roster& roster, std::size_t side
   };
   const unsigned members = m_state.lineMembers[side][line];
   if ((members & 1U) != 0) { // somebody is in no roster: the list tells who
-    for (const std::string_view jersey :
-         Module1::jerseysOfList(m_state.lines[side][line].list).value_or(std::vector<std::string_view>())) {
+    for (const std::string_view jersey : Module1::countedJerseys(m_state.lines[side][line].list)) {
       const int entry = roster.entryOfListed(jersey);
       const int number = Module1::wholeNumber(jersey);
       add(entry > 0     ? m_codes[side][static_cast<std::size_t>(entry)]

@@ -109,7 +109,7 @@ int NewGame::missing() const {
 int NewGame::problem() const {
   // No minutes at all are a game without time.
   const int minutes = Module1::leadingNumber(rules.minutesPerPeriod);
-  if (minutes < 0 || minutes > NewGame::kMostMinutes)
+  if (minutes < 0 || minutes > kMostMinutes)
     return kInvalidMinutes;
   if (Module1::leadingNumber(rules.periods) <= 0)
     return kInvalidPeriods;

@@ -39,7 +39,6 @@ class NewGame {
  public:
   static constexpr int kNone = -1;
   static constexpr int kMostPlayers = 15; // of a side
-  static constexpr int kMostMinutes = 99; // of a period, whose clock shows mm:ss
 
   enum class Eligibility : std::uint8_t { CanPlay, NoJersey, NumberTaken };
   struct Player {

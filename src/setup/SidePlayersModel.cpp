@@ -76,7 +76,7 @@ QVariant SidePlayersModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DisplayRole) {
     switch (index.column()) {
     case Number: return toQt(player.number);
-    case Position: return toQt(choiceName(kFirstPositionText, player.position, m_texts));
+    case Position: return toQt(positionText(player.position, m_texts));
     case Name: return toQt(player.name);
     default: return player.position;
     }

@@ -7,6 +7,7 @@
 #include "scorecard/Scorecard.h"
 #include "season/GameFinder.h"
 #include "storage/Module1.h"
+#include "storage/Utf8.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -20,7 +21,7 @@ namespace {
 enum ExitStatus { kGood = 0, kFailed = 1, kWrongUse = 2 };
 
 int complain(ExitStatus status, const std::string& text) {
-  std::cerr << "hooptab: " << text << '\n';
+  std::cerr << "hooptab: " << printable(text) << '\n';
   return status;
 }
 
@@ -119,7 +120,7 @@ class ReportRun {
     if (catalogue.scan({m_request.source}, watch) != ScanOutcome::Done)
       return complain(kFailed, m_request.source + ": there is no such folder, or it cannot be read");
     for (const SkippedFile& skipped : catalogue.skipped())
-      std::cerr << "hooptab: left out: " << skipped.path << ": "
+      std::cerr << "hooptab: left out: " << printable(skipped.path) << ": "
                 << m_texts.text(skipReasonText(skipped.reason), Language::English) << '\n';
     if (catalogue.games().empty())
       return complain(kFailed, m_request.source + ": no finished game in this folder");

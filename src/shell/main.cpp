@@ -14,6 +14,7 @@
 #include "shell/ReportRun.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
+#include "storage/Utf8.h"
 
 #include <QTimer>
 #include <csignal>
@@ -34,7 +35,7 @@ constexpr int kWrongUse = 2;
 // Answers what needs no window; nothing when the program is to start.
 std::optional<int> answer(const Arguments& arguments) {
   if (!arguments.error.empty()) {
-    std::cerr << "hooptab: " << arguments.error << '\n';
+    std::cerr << "hooptab: " << printable(arguments.error) << '\n';
     return kWrongUse;
   }
   if (arguments.asksForHelp)
@@ -55,7 +56,7 @@ int report(int argc, char** argv, const Arguments& arguments) {
   const ProgramFolder folder =
       findProgramFolder(ProgramFolderSources::ofEnvironment(arguments.folder, executableFolder));
   if (folder.problem != ProgramFolderProblem::None) {
-    std::cerr << "hooptab: " << message(folder) << '\n';
+    std::cerr << "hooptab: " << printable(message(folder)) << '\n';
     return EXIT_FAILURE;
   }
   return makeReport(*arguments.report, folder.path);

@@ -15,6 +15,15 @@ std::string_view choiceName(int firstText, int index, const Texts& texts) {
   return name == kNotOffered ? std::string_view() : name;
 }
 
+std::string_view gameTypeText(int stored, const Texts& texts) {
+  return choiceName(kFirstGameTypeText, gameTypeOf(stored), texts);
+}
+
+std::string positionText(int position, const Texts& texts) {
+  const std::string_view name = choiceName(kFirstPositionText, position, texts);
+  return std::string(name.empty() ? kPositionWithoutName : name);
+}
+
 std::vector<int> offeredChoices(int firstText, const Texts& texts) {
   std::vector<int> offered;
   for (int index = 0; index < kChoiceCount; ++index) {

@@ -4,6 +4,7 @@
 
 #include "storage/Texts.h"
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,6 +14,8 @@ inline constexpr int kChoiceCount = 10;
 inline constexpr int kFirstGameTypeText = 1250;
 inline constexpr int kFirstPositionText = 1260;
 inline constexpr int kNoPosition = 9;
+inline constexpr int kOtherGameType = 9;
+inline constexpr const char* kPositionWithoutName = "na"; // in every language
 
 // Ascending.
 [[nodiscard]] std::vector<int> offeredChoices(int firstText, const Texts& texts);
@@ -20,5 +23,13 @@ inline constexpr int kNoPosition = 9;
 [[nodiscard]] std::string_view choiceName(int firstText, int index, const Texts& texts);
 // The next one offered, from 9 back to 0. Out of range counts as 9.
 [[nodiscard]] int nextChoice(int firstText, int index, const Texts& texts);
+
+// The type that a game counts as: one without a name is "other".
+[[nodiscard]] constexpr int gameTypeOf(int stored) {
+  constexpr int kNamed = 6; // 0 to 5
+  return stored >= 0 && stored < kNamed ? stored : kOtherGameType;
+}
+[[nodiscard]] std::string_view gameTypeText(int stored, const Texts& texts);
+[[nodiscard]] std::string positionText(int position, const Texts& texts);
 
 } // namespace hooptab

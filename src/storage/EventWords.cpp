@@ -141,8 +141,8 @@ std::string EventWords::changesOf(std::size_t eventIndex, std::size_t side, Leng
   const GameEvent* const stop = stopBefore(m_game.events, eventIndex);
   const Roster& roster = m_game.roster[side];
   const bool isTeam = isTeamItself(roster);
-  const auto before = playersOfList(stop != nullptr ? stop->onCourt(side) : std::string_view(), roster);
-  const auto after = playersOfList(m_game.events[eventIndex].onCourt(side), roster);
+  const auto before = playersOnCourt(stop != nullptr ? stop->onCourt(side) : std::string_view(), roster);
+  const auto after = playersOnCourt(m_game.events[eventIndex].onCourt(side), roster);
   const auto shown = [&](const ListedPlayer& listed) {
     return length == Length::Short && !isTeam ? listed.jersey
                                               : shownPlayer(listed.player, listed.jersey, isTeam, m_texts);

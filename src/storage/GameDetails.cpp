@@ -70,7 +70,13 @@ constexpr std::array kDetails = std::to_array<Detail>({
      [](const GameDetails& d) { return d.statistician; }},
     {"NBREPERIODE", [](GameDetails& d, std::string_view value) { d.periods = numberOf(value); },
      [](const GameDetails& d) { return typedOr(d, &TypedRules::periods, d.periods); }},
-    {"DUREE", [](GameDetails& d, std::string_view value) { d.minutesPerPeriod = numberOf(value); },
+    {"DUREE",
+     [](GameDetails& d, std::string_view value) {
+       const int minutes = numberOf(value);
+       d.minutesPerPeriod = std::clamp(minutes, 0, kMostMinutes);
+       const bool isPossible = d.minutesPerPeriod == minutes;
+       d.impossibleMinutes = isPossible ? std::nullopt : std::optional(minutes);
+     },
      [](const GameDetails& d) { return typedOr(d, &TypedRules::minutesPerPeriod, d.minutesPerPeriod); }},
     {"BONUS", [](GameDetails& d, std::string_view value) { d.bonus = numberOf(value); },
      [](const GameDetails& d) { return typedOr(d, &TypedRules::bonus, d.bonus); }},

@@ -13,6 +13,7 @@
 namespace hooptab {
 
 inline constexpr std::string_view kDetailsSection = "DETAILS";
+inline constexpr int kMostMinutes = 99; // of a clock that shows mm:ss
 
 // The rules of a game as somebody typed them: a new game keeps the texts, readers take their numbers.
 struct TypedRules {
@@ -39,8 +40,9 @@ struct GameDetails {
   std::string place;
   std::string statistician;
   int periods = 0;
-  int minutesPerPeriod = 0; // 0: a game without time
-  int bonus = 0;            // 0: no limit, as for the next two
+  int minutesPerPeriod = 0;             // 0 to 99, which a clock shows; 0: a game without time
+  std::optional<int> impossibleMinutes; // what the file says where no clock shows it; never written
+  int bonus = 0;                        // 0: no limit, as for the next two
   int personalFoulLimit = 0;
   int technicalFoulLimit = 0;
   int type = 0;

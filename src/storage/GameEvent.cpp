@@ -107,13 +107,13 @@ bool parseCoordinate(std::string_view text, float& value) {
 
 } // namespace
 
-GameEvent GameEvent::parse(std::uint8_t period, std::string_view key, std::string_view line) {
+GameEvent GameEvent::parse(int period, std::string_view key, std::string_view line) {
   GameEvent event;
   event.parseLine(period, key, std::max(Module1::wholeNumber(key), 0), line);
   return event;
 }
 
-void GameEvent::parseLine(std::uint8_t eventPeriod, std::string_view eventKey, int keyNumber,
+void GameEvent::parseLine(int eventPeriod, std::string_view eventKey, int keyNumber,
                           std::string_view eventLine) {
   key = eventKey;
   line = eventLine;
@@ -143,7 +143,7 @@ void GameEvent::parseLine(std::uint8_t eventPeriod, std::string_view eventKey, i
   if (found.code == EventCode::ARRET) {
     for (int team = 0; team < 2; ++team) {
       const std::string_view list = nextField(rest);
-      if (!list.empty() && !list.starts_with("IN"))
+      if (!list.empty() && !Module1::isOnCourtList(list))
         return;
     }
   } else if (found.kind != nullptr) {
@@ -197,7 +197,7 @@ std::string stopText(std::string_view list0, std::string_view list1) {
   return text;
 }
 
-void EventList::appendOwned(std::uint8_t period, std::string_view key, std::string_view line) {
+void EventList::appendOwned(int period, std::string_view key, std::string_view line) {
   auto text = std::make_shared<std::string>(key);
   text->append(line);
   const std::string_view whole = *text;

@@ -15,6 +15,9 @@
 
 namespace hooptab {
 
+// The last period that a game can have.
+inline constexpr int kLastPeriod = 255;
+
 struct PlayerReference {
   int team = -1; // 0 visiting, 1 home, -1 none
   std::string_view jersey;
@@ -25,7 +28,7 @@ struct GameEvent {
   std::string_view
       line;       // the value, as every reader gets it (at most 254 bytes), "E" of a deleted event included
   int number = 0; // of the key; 0 when it is no number
-  std::uint8_t period = 0;
+  int period = 0; // of its section, which may lie behind kLastPeriod
   bool isDeleted = false;
   bool isUnderstood = false; // everything below holds only then
   bool isMade = false;       // shots
@@ -43,10 +46,9 @@ struct GameEvent {
   const EventKind* kind() const { return eventKind; } // null for the clock's events
 
   // Takes apart one line; `key`, `period` and `line` are kept as given.
-  static GameEvent parse(std::uint8_t period, std::string_view key, std::string_view line);
+  static GameEvent parse(int period, std::string_view key, std::string_view line);
   // The same in place, on a fresh event; `keyNumber` is the key's number, 0 when it is none.
-  void parseLine(std::uint8_t eventPeriod, std::string_view eventKey, int keyNumber,
-                 std::string_view eventLine);
+  void parseLine(int eventPeriod, std::string_view eventKey, int keyNumber, std::string_view eventLine);
 };
 
 // The event text behind the clock, as the writer takes it: ",GFG,0-12,42,51". Places are truncated to whole
@@ -62,10 +64,10 @@ class EventList {
   void reserve(std::size_t count) { m_events.reserve(count); }
   void keep(std::shared_ptr<const std::string> text) { m_texts.push_back(std::move(text)); }
   // Takes apart a line whose text has been kept.
-  void append(std::uint8_t period, std::string_view key, int keyNumber, std::string_view line) {
+  void append(int period, std::string_view key, int keyNumber, std::string_view line) {
     m_events.emplace_back().parseLine(period, key, keyNumber, line);
   }
-  void appendOwned(std::uint8_t period, std::string_view key, std::string_view line); // copies the text
+  void appendOwned(int period, std::string_view key, std::string_view line); // copies the text
 
   std::span<const GameEvent> events() const { return m_events; }
   std::size_t size() const { return m_events.size(); }

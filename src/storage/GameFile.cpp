@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::string_view kPeriodPrefix = "PERIODE";
 constexpr std::string_view kRosterSections[2] = {"0", "1"};
+constexpr int kHighestPeriodRead = 999'999'999; // whatever longer number a section has
 
 } // namespace
 
@@ -101,58 +102,65 @@ void readRoster(const ProfileText& text, std::string_view section, Roster& roste
   }
 }
 
-// The periods that have a section, ascending.
-std::vector<int> periodsOf(const ProfileText& text) {
-  std::vector<int> periods;
-  for (const std::string_view name : text.sectionNames()) {
+struct PeriodSection {
+  int period = 0;
+  ProfileText::NamedSection section;
+};
+
+// The sections of periods, ascending. Those behind the last period that a game can have are read, too.
+std::vector<PeriodSection> periodsOf(const ProfileText& text) {
+  std::vector<PeriodSection> periods;
+  for (ProfileText::NamedSection& section : text.sections()) {
+    const std::string_view name = section.name;
     if (name.size() <= kPeriodPrefix.size() ||
         !codepage::equalNames(name.substr(0, kPeriodPrefix.size()), kPeriodPrefix))
       continue;
     const std::string_view digits = name.substr(kPeriodPrefix.size());
-    const int period = Module1::wholeNumber(digits);
-    if (digits.front() != '0' && period >= 1 && period <= 255)
-      periods.push_back(period);
+    if (digits.front() == '0' || digits.find_first_not_of("0123456789") != std::string_view::npos)
+      continue;
+    const int number = Module1::wholeNumber(digits);
+    periods.push_back({number < 0 ? kHighestPeriodRead : number, std::move(section)});
   }
-  std::ranges::sort(periods);
+  // Numbers without zeros in front, however long: the shorter is the smaller.
+  std::ranges::sort(periods, {}, [](const PeriodSection& period) {
+    const std::string_view digits = period.section.name.substr(kPeriodPrefix.size());
+    return std::pair(digits.size(), digits);
+  });
   return periods;
 }
 
 void readEvents(const ProfileText& text, EventList& events) {
-  std::vector<std::pair<int, ProfileText::SectionView>> periods;
+  const std::vector<PeriodSection> periods = periodsOf(text);
   std::size_t count = 0;
-  for (const int period : periodsOf(text)) {
-    periods.emplace_back(period, text.section(periodSection(period)));
-    count += static_cast<std::size_t>(periods.back().second.end() - periods.back().second.begin());
-  }
+  for (const PeriodSection& period : periods)
+    count += static_cast<std::size_t>(period.section.lines.end() - period.section.lines.begin());
   events.reserve(count);
-  for (const auto& [period, lines] : periods) {
-    events.keep(text.sharedBytes(periodSection(period)));
-    const bool allAscii = isAscii(lines.bytes);
-    FirstKeys keys(lines);
-    for (const ProfileText::Line& line : lines) {
+  for (const auto& [period, section] : periods) {
+    events.keep(section.bytes);
+    const bool allAscii = isAscii(section.lines.bytes);
+    FirstKeys keys(section.lines);
+    for (const ProfileText::Line& line : section.lines) {
       if (!keys.isFirst(line) || line.kind != ProfileText::Line::Kind::KeyValue)
         continue;
       const std::string_view value = readable(line.value);
-      const auto number = static_cast<std::uint8_t>(period);
       if (allAscii || (isAscii(value) && isAscii(line.name)))
-        events.append(number, line.name, keys.number(), value);
+        events.append(period, line.name, keys.number(), value);
       else
-        events.appendOwned(number, codepage::toUtf8(line.name), codepage::toUtf8(value));
+        events.appendOwned(period, codepage::toUtf8(line.name), codepage::toUtf8(value));
     }
   }
 }
 
 int highestNumber(const ProfileText& text) {
   int highest = 0;
-  for (const int period : periodsOf(text)) {
-    for (const ProfileText::Line& line : text.section(periodSection(period)))
+  for (const PeriodSection& period : periodsOf(text)) {
+    for (const ProfileText::Line& line : period.section.lines)
       highest = std::max(highest, Module1::leadingNumber(line.name));
   }
   return highest;
 }
 
-PeriodLines storedLines(const ProfileText& text, int period) {
-  const ProfileText::SectionView section = text.section(periodSection(period));
+PeriodLines storedLines(const ProfileText::SectionView& section) {
   PeriodLines lines;
   FirstKeys keys(section);
   for (const ProfileText::Line& line : section) {
@@ -182,8 +190,10 @@ void readGame(const ProfileText& text, Game& game) {
 
 EventLines storedEventLines(const ProfileText& text) {
   EventLines lines;
-  for (const int period : periodsOf(text))
-    lines[period] = storedLines(text, period);
+  for (const auto& [period, section] : periodsOf(text)) {
+    for (PeriodLines::value_type& line : storedLines(section.lines))
+      lines[period].push_back(std::move(line));
+  }
   return lines;
 }
 
@@ -251,8 +261,8 @@ GameFileProblem GameFile::create(const GameDetails& details, const std::vector<R
                                  const std::vector<RosterPlayer>& home) {
   ProfileBatch batch;
   m_store.Path(m_path);
-  for (const int period : periodsOf(m_store.profile()))
-    batch.deleteSection(periodSection(period));
+  for (const PeriodSection& period : periodsOf(m_store.profile()))
+    batch.deleteSection(std::string(period.section.name));
   for (const std::string_view section : {kRosterSections[0], kRosterSections[1], kDetailsSection})
     batch.deleteSection(std::string(section));
 
@@ -305,7 +315,7 @@ bool GameFile::plan(const std::vector<EventChange>& steps, const ProfileText& te
   int highest = 0;
   for (const EventChange& step : steps) {
     if (!lines.contains(step.period))
-      lines[step.period] = storedLines(text, step.period);
+      lines[step.period] = storedLines(text.section(periodSection(step.period)));
     const bool isAtEnd = step.kind == EventChange::Kind::Add && step.before.empty();
     if (!isAtEnd && step.kind != EventChange::Kind::Replace)
       reordered.insert(step.period);

@@ -85,7 +85,7 @@ class Merger {
     const int number = Module1::wholeNumber(line.first);
     const std::string_view readable = std::string_view(line.second).substr(0, cinifile::kLongestValue);
     return number > 0 &&
-           GameEvent::parse(static_cast<std::uint8_t>(period), line.first, readable).isUnderstood &&
+           GameEvent::parse(period, line.first, readable).isUnderstood &&
            m_numbers.insert(number).second;
   }
 

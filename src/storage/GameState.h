@@ -75,7 +75,7 @@ struct GameState {
   std::array<std::uint16_t, 2> wereOnCourt = {}; // bit n: player entry n was on court at some time
   LeadTracker lead;
   std::vector<Shot> shots;
-  std::uint8_t period = 1;
+  int period = 1;
   int clockSeconds = 0; // of the last event
 
   // Who is on court now: player entries (0 for a jersey that is in no roster) and the line's entry.

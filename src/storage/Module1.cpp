@@ -88,19 +88,22 @@ std::string onCourtList(std::vector<std::string> jerseys) {
   return jerseys.empty() ? "IN-" : list;
 }
 
-std::optional<std::vector<std::string_view>> jerseysOfList(std::string_view list) {
-  if (!list.starts_with("IN"))
-    return std::nullopt;
-  std::vector<std::string_view> jerseys;
-  list.remove_prefix(2);
-  while (!list.empty() && jerseys.size() < 5) {
-    list.remove_prefix(1);
-    const std::string_view jersey = list.substr(0, list.find('-'));
-    if (!jersey.empty())
-      jerseys.push_back(jersey);
-    list.remove_prefix(jersey.size());
-  }
-  return jerseys;
+bool isOnCourtList(std::string_view text) {
+  if (!text.starts_with("IN"))
+    return false;
+  text.remove_prefix(2);
+  return text.empty() || text == "-" ||
+         (text.front() == '-' && text.back() != '-' && text.find("--") == std::string_view::npos);
+}
+
+JerseysOfList::JerseysOfList(std::string_view list, int most) : m_most(most) {
+  if (isOnCourtList(list))
+    m_jerseys = list.substr(std::min(std::string_view("IN-").size(), list.size()));
+}
+
+JerseysOfList countedJerseys(std::string_view list) {
+  constexpr int kOnCourt = 5;
+  return JerseysOfList(list, kOnCourt);
 }
 
 std::string percentText(int made, int attempted) {

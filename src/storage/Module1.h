@@ -4,6 +4,8 @@
 
 #include <array>
 #include <cstdint>
+#include <iterator>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -50,8 +52,40 @@ namespace hooptab::Module1 {
 // IN-04-05-10-12-15. At most five numbers are sorted; a list of one is written with two digits too. Jerseys
 // are texts as a list writes them.
 [[nodiscard]] std::string onCourtList(std::vector<std::string> jerseys);
-// The jerseys of a list, at most the first five kept; nothing when the text does not begin with "IN".
-[[nodiscard]] std::optional<std::vector<std::string_view>> jerseysOfList(std::string_view list);
+// An on-court list is "IN" or "IN-", nobody, or "IN-" and jerseys with "-" between. Nothing else is one.
+[[nodiscard]] bool isOnCourtList(std::string_view text);
+
+// The jerseys of an on-court list, taken apart where it stands: a list is met at every stop of every game of
+// a season.
+class JerseysOfList {
+ public:
+  class Iterator {
+   public:
+    Iterator(std::string_view rest, int left) : m_rest(rest), m_left(left) {}
+    std::string_view operator*() const { return m_rest.substr(0, m_rest.find('-')); }
+    Iterator& operator++() {
+      const std::size_t dash = m_rest.find('-');
+      m_rest.remove_prefix(dash == std::string_view::npos ? m_rest.size() : dash + 1);
+      --m_left;
+      return *this;
+    }
+    bool operator==(std::default_sentinel_t) const { return m_rest.empty() || m_left == 0; }
+
+   private:
+    std::string_view m_rest;
+    int m_left;
+  };
+  // Nobody for a text that is no list.
+  explicit JerseysOfList(std::string_view list, int most = std::numeric_limits<int>::max());
+  Iterator begin() const { return {m_jerseys, m_most}; }
+  static std::default_sentinel_t end() { return {}; }
+
+ private:
+  std::string_view m_jerseys; // with "-" between
+  int m_most;
+};
+// Those of a list who count: the first five.
+[[nodiscard]] JerseysOfList countedJerseys(std::string_view list);
 
 // made / attempted as "0.0%": one decimal, half away from zero, computed from the integers; "0.0%" without
 // attempts.

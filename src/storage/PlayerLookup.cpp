@@ -16,11 +16,17 @@ const RosterPlayer* findUncounted(const Roster& roster, std::string_view jersey)
   const auto first = players.begin() + Roster::kLargestEntry;
   auto found =
       std::find_if(first, players.end(), [&](const RosterPlayer& player) { return player.jersey == jersey; });
-  if (const int number = Module1::wholeNumber(jersey); found == players.end() && number >= 0)
+  if (const int number = Roster::jerseyNumber(jersey); found == players.end() && number >= 0)
     found = std::find_if(first, players.end(), [&](const RosterPlayer& player) {
-      return Module1::wholeNumber(player.jersey) == number;
+      return Roster::jerseyNumber(player.jersey) == number;
     });
   return found == players.end() ? nullptr : &*found;
+}
+
+ListedPlayer listedPlayer(const Roster& roster, std::string_view jersey) {
+  const int entry = roster.entryOfListed(jersey);
+  const RosterPlayer* player = entry > 0 ? roster.player(entry) : findUncounted(roster, jersey);
+  return {player, player != nullptr ? player->jersey : roster.listedJersey(jersey)};
 }
 
 } // namespace
@@ -32,18 +38,17 @@ const RosterPlayer* findPlayer(const Roster& roster, std::string_view jersey) {
 
 std::vector<ListedPlayer> playersOfList(std::string_view list, const Roster& roster) {
   std::vector<ListedPlayer> players;
-  if (!list.starts_with("IN"))
-    return players;
-  list.remove_prefix(2);
-  while (!list.empty()) {
-    list.remove_prefix(1); // the "-" before each jersey
-    const std::string_view jersey = list.substr(0, list.find('-'));
-    list.remove_prefix(jersey.size());
-    if (jersey.empty())
-      continue;
-    const int entry = roster.entryOfListed(jersey);
-    const RosterPlayer* player = entry > 0 ? roster.player(entry) : findUncounted(roster, jersey);
-    players.push_back({player, player != nullptr ? player->jersey : roster.listedJersey(jersey)});
+  for (const std::string_view jersey : Module1::JerseysOfList(list))
+    players.push_back(listedPlayer(roster, jersey));
+  return players;
+}
+
+std::vector<ListedPlayer> playersOnCourt(std::string_view list, const Roster& roster) {
+  std::vector<ListedPlayer> players;
+  for (const std::string_view jersey : Module1::countedJerseys(list)) {
+    ListedPlayer player = listedPlayer(roster, jersey);
+    if (std::ranges::find(players, player) == players.end())
+      players.push_back(std::move(player));
   }
   return players;
 }

@@ -20,8 +20,10 @@ struct ListedPlayer {
   std::string jersey;                   // the roster's, else as a list writes it
   friend bool operator==(const ListedPlayer&, const ListedPlayer&) = default;
 };
-// All of a list, in its order; nobody for a text that is no list.
+// All of a list as it stands, too many and twice named ones included; nobody for a text that is no list.
 [[nodiscard]] std::vector<ListedPlayer> playersOfList(std::string_view list, const Roster& roster);
+// Those of a list who count, each once.
+[[nodiscard]] std::vector<ListedPlayer> playersOnCourt(std::string_view list, const Roster& roster);
 
 // A side that was entered without players is its own one player.
 [[nodiscard]] bool isTeamItself(const Roster& roster);

@@ -268,16 +268,24 @@ std::shared_ptr<const std::string> ProfileText::sharedBytes(std::string_view sec
 
 std::vector<std::string_view> ProfileText::sectionNames() const {
   std::vector<std::string_view> names;
+  for (const NamedSection& section : sections())
+    names.push_back(section.name);
+  return names;
+}
+
+std::vector<ProfileText::NamedSection> ProfileText::sections() const {
+  std::vector<NamedSection> sections;
   std::unordered_set<std::string> seen;
   for (std::size_t place = 1; place < m_pieces.size(); ++place) {
-    const std::string_view name = (*m_pieces[place]).name;
+    const Piece& piece = m_pieces[place];
+    const std::string_view name = (*piece).name;
     std::string folded(name);
     for (char& character : folded)
       character = static_cast<char>(codepage::foldCase(static_cast<unsigned char>(character)));
     if (seen.insert(std::move(folded)).second)
-      names.push_back(name);
+      sections.push_back({name, piece.view(), {piece.parsed, &piece.parsed->bytes}});
   }
-  return names;
+  return sections;
 }
 
 std::optional<std::string_view> ProfileText::value(std::string_view section, std::string_view key) const {

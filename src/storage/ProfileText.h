@@ -53,6 +53,13 @@ class ProfileText {
   // What keeps that section's bytes in place without this text; null when there is none.
   [[nodiscard]] std::shared_ptr<const std::string> sharedBytes(std::string_view section) const;
   [[nodiscard]] std::vector<std::string_view> sectionNames() const; // in file order, each name once
+  // The sections of those names, with what keeps their bytes in place.
+  struct NamedSection {
+    std::string_view name;
+    SectionView lines;
+    std::shared_ptr<const std::string> bytes;
+  };
+  [[nodiscard]] std::vector<NamedSection> sections() const;
 
   // Whole value of the first key of that name, or nothing.
   [[nodiscard]] std::optional<std::string_view> value(std::string_view section, std::string_view key) const;

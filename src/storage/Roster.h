@@ -27,6 +27,14 @@ class Roster {
     return m_players;
   } // all of the section, more than fifteen included
 
+  // The number that a jersey is, 0 to 999, with any zeros in front; -1 for any other text.
+  [[nodiscard]] static int jerseyNumber(std::string_view jersey) {
+    constexpr std::size_t kMostDigits = 3;
+    while (jersey.size() > kMostDigits && jersey.front() == '0')
+      jersey.remove_prefix(1);
+    return jersey.size() > kMostDigits ? -1 : Module1::wholeNumber(jersey);
+  }
+
   // 1..15 in the order of the section's keys; 0 for everybody else ("others").
   // As events write it: same text first, else equal number. Inline: it is asked for every event and for every
   // player of every list of a season.
@@ -56,10 +64,6 @@ class Roster {
   [[nodiscard]] bool hasZeroAndDoubleZero() const { return m_zeroEntry > 0 && m_doubleZeroEntry > 0; }
 
  private:
-  // The number of a jersey of one to three digits, or -1.
-  [[nodiscard]] static int jerseyNumber(std::string_view jersey) {
-    return jersey.size() > 3 ? -1 : Module1::wholeNumber(jersey);
-  }
   [[nodiscard]] int entryByText(std::string_view jersey, int number) const;
 
   struct NumberEntry {
@@ -68,8 +72,8 @@ class Roster {
     bool isAmbiguous = false; // several players wear it ("5" and "05"), so the text decides
   };
   std::vector<RosterPlayer> m_players;
-  std::array<NumberEntry, 1000> m_byNumber = {}; // jerseys are 1 to 3 digits
-  std::vector<std::int8_t> m_entriesByNumber;    // entries 1..15 in the order in which lists name them
+  std::array<NumberEntry, 1000> m_byNumber = {};
+  std::vector<std::int8_t> m_entriesByNumber; // entries 1..15 in the order in which lists name them
   int m_zeroEntry = 0;
   int m_doubleZeroEntry = 0;
 };

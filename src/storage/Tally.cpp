@@ -9,13 +9,18 @@ namespace hooptab {
 
 namespace {
 
-// False when the sum leaves the 16-bit range; the count then stays at its limit.
-bool addChecked(std::int16_t& count, int amount) {
-  constexpr int kLimit = std::numeric_limits<std::int16_t>::max();
-  const int sum = count + amount;
-  const bool fits = sum <= kLimit;
-  count = static_cast<std::int16_t>(fits ? sum : kLimit);
-  return fits;
+bool isFull(std::int16_t count, int amount) {
+  return count > std::numeric_limits<std::int16_t>::max() - amount;
+}
+
+void add(std::int16_t& count, int amount) {
+  count = static_cast<std::int16_t>(count + amount);
+}
+
+// A game of many more periods than can be played must not make a number of which nobody can take the sum.
+void addTime(std::int32_t& sum, int seconds) {
+  constexpr std::int32_t kMost = kLastPeriod * 100 * 60;
+  sum = std::clamp(sum + seconds, -kMost, kMost);
 }
 
 } // namespace
@@ -67,7 +72,7 @@ void Tally::trackClock(const GameEvent& event) {
     lead.previousClock = event.clockSeconds;
   }
   if (lead.isStarted)
-    lead.seconds[static_cast<std::size_t>(lead.state)] += lead.previousClock - event.clockSeconds;
+    addTime(lead.seconds[static_cast<std::size_t>(lead.state)], lead.previousClock - event.clockSeconds);
   lead.isStarted = true;
   lead.previousClock = event.clockSeconds;
   m_state.clockSeconds = event.clockSeconds;
@@ -85,10 +90,10 @@ void Tally::creditTime(std::size_t team, int clockSeconds) {
   const int played = m_state.lineStartClock[team] - clockSeconds;
   m_state.lineStartClock[team] = clockSeconds;
   if (const std::size_t line = m_state.currentLine[team]; line > 0)
-    m_state.lines[team][line].seconds += played;
+    addTime(m_state.lines[team][line].seconds, played);
   for (std::size_t i = 0; i < m_state.onCourtCount[team]; ++i) {
     if (const std::size_t player = m_state.onCourt[team][i]; player > 0)
-      m_state.players[team][player].seconds += played;
+      addTime(m_state.players[team][player].seconds, played);
   }
 }
 
@@ -102,15 +107,7 @@ void Tally::setLine(std::size_t team, std::string_view list) {
   std::vector<std::string> strangers; // jerseys that are in no roster
   std::array<std::uint8_t, 5> onCourt = {};
   std::uint8_t count = 0;
-  // Taken apart in place: a list is met at every stop of every game of a season.
-  std::string_view rest = list.starts_with("IN") ? list.substr(2) : std::string_view();
-  for (int jerseys = 0; !rest.empty() && jerseys < 5;) {
-    rest.remove_prefix(1);
-    const std::string_view jersey = rest.substr(0, rest.find('-'));
-    rest.remove_prefix(jersey.size());
-    if (jersey.empty())
-      continue;
-    ++jerseys;
+  for (const std::string_view jersey : Module1::countedJerseys(list)) {
     const int entry = roster.entryOfListed(jersey);
     if (entry > 0 && (members & (1U << entry)) != 0)
       continue;
@@ -161,30 +158,38 @@ std::size_t Tally::lineEntry(std::size_t team, unsigned members, const std::vect
   return used + 1;
 }
 
+// Everywhere or nowhere: where one of its counts is full, an event is left out of all, so that the tables of
+// players, lines and periods always have equal sums.
 void Tally::count(const GameEvent& event, std::size_t eventIndex) {
   const EventKind& kind = *event.kind();
   const auto team = static_cast<std::size_t>(event.player.team);
   const auto player = static_cast<std::size_t>(m_rosters[team]->entryOf(event.player.jersey));
   const std::size_t line = m_state.currentLine[team];
+  const std::size_t row = GameState::periodRow(event.period);
+  Counters& ofPlayer = m_state.players[team][player].counters;
+  Counters& ofLine = m_state.lines[team][line].counters;
+  PeriodEntry& ofPeriod = m_state.periods[team][row];
+  const bool isMade = kind.isShot && event.isMade;
+  // Of a shot the attempts, which are never fewer than those made.
+  const Counter counter = kind.isShot ? kind.attempts : kind.counter;
 
-  const auto addTo = [&](Counter counter) {
-    const bool playerFits = addChecked(m_state.players[team][player].counters[counter], 1);
-    const bool lineFits = addChecked(m_state.lines[team][line].counters[counter], 1);
-    if (!(playerFits && lineFits) && !m_outOfRange)
-      m_outOfRange = {static_cast<int>(team),
-                      std::string(event.player.jersey) + " " + std::string(counterName(counter))};
-  };
+  if (isFull(ofPlayer[counter], 1))
+    return leaveOut(team, event.player.jersey, counterName(counter));
+  if (isFull(ofLine[counter], 1))
+    return leaveOut(team, line > 0 ? m_state.lines[team][line].list : "IN-", counterName(counter));
+  if (kind.isTeamFoul && isFull(ofPeriod.fouls, 1))
+    return leaveOut(team, "PERIODE" + std::to_string(row), "PF + TF");
+  if (isMade && isFull(ofPeriod.points, kind.points))
+    return leaveOut(team, "PERIODE" + std::to_string(row), "PTS");
 
-  if (!kind.isShot) {
-    addTo(kind.counter);
-    if (kind.isTeamFoul && !addChecked(m_state.periods[team][GameState::periodRow(event.period)].fouls, 1) &&
-        !m_outOfRange)
-      m_outOfRange = {static_cast<int>(team), "PF + TF"};
-    return;
-  }
-  addTo(kind.attempts);
-  if (event.isMade) {
-    addTo(kind.counter);
+  add(ofPlayer[counter], 1);
+  add(ofLine[counter], 1);
+  if (kind.isTeamFoul)
+    add(ofPeriod.fouls, 1);
+  if (isMade) {
+    add(ofPlayer[kind.counter], 1);
+    add(ofLine[kind.counter], 1);
+    add(ofPeriod.points, kind.points);
     addPoints(team, kind.points);
   }
   if (kind.hasPlace)
@@ -193,10 +198,12 @@ void Tally::count(const GameEvent& event, std::size_t eventIndex) {
                              event.x, event.y, static_cast<std::uint32_t>(eventIndex)});
 }
 
+void Tally::leaveOut(std::size_t team, std::string_view row, std::string_view count) {
+  if (!m_outOfRange)
+    m_outOfRange = {static_cast<int>(team), std::string(row) + ' ' + std::string(count)};
+}
+
 void Tally::addPoints(std::size_t team, int points) {
-  if (!addChecked(m_state.periods[team][GameState::periodRow(m_state.period)].points, points) &&
-      !m_outOfRange)
-    m_outOfRange = {static_cast<int>(team), "PTS"};
   m_points[team] += points;
 
   LeadTracker& lead = m_state.lead;

@@ -13,11 +13,13 @@
 
 namespace hooptab {
 
-// A count that left the 16-bit range. The count stays at its limit and the tally goes on; the caller tells
-// the user.
+// A count that would have left the 16-bit range. The tally goes on without the events that do not fit; the
+// caller tells the user.
 struct CountOutOfRange {
   int team = 0;
-  std::string what; // "12 PF": whose count and which
+  // Whose count and which: "12 PF" of a player, "IN-04-05 PF" of a line ("IN-": of all without one),
+  // "PERIODE1 PTS" of the team in a period.
+  std::string what;
 };
 
 class Tally {
@@ -43,6 +45,7 @@ class Tally {
                                       const std::vector<std::string>& strangers);
   void creditTime(std::size_t team, int clockSeconds);
   void count(const GameEvent& event, std::size_t eventIndex);
+  void leaveOut(std::size_t team, std::string_view row, std::string_view count);
   void addPoints(std::size_t team, int points);
 
   GameState& m_state;

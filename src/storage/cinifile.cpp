@@ -14,7 +14,7 @@ constexpr std::int64_t kCoarsestClockNanoseconds = 2'000'000'000;
 // A scan of a season reads each file once; what is used again and again are a handful.
 constexpr std::size_t kMostCopies = 64;
 
-// A list that fills the buffer but for less than its two closing NULs is cut to this.
+// A list that leaves no room for two closing NULs in the buffer is cut to this.
 constexpr std::size_t kCutKeyList = cinifile::kLongestKeyList - 2;
 
 // Bytes of the code page that can be a name or a value of one line.
@@ -104,7 +104,7 @@ std::string cinifile::INISection() {
   std::string list = profile().keyList(searchedName(m_section));
   if (list.empty())
     return defaultText();
-  if (list.size() >= kLongestKeyList)
+  if (list.size() > kCutKeyList)
     list.resize(kCutKeyList);
   return codepage::toUtf8(list);
 }

@@ -1,9 +1,9 @@
 #include "teams/PlayerCsv.h"
 
 #include "storage/ChoiceTexts.h"
+#include "storage/DelimitedText.h"
 #include "storage/Module1.h"
 #include "storage/codepage.h"
-#include "teams/DelimitedText.h"
 
 #include <algorithm>
 #include <array>
@@ -142,7 +142,7 @@ class RowReader {
     const std::optional<std::size_t> place = m_places[column];
     if (!place || *place >= row.fields.size())
       return {};
-    return std::string(Module1::trimmed(withoutCommas(row.fields[*place])));
+    return std::string(Module1::trimmed(withoutCommas(std::string(heldByCell(row.fields[*place])))));
   }
 
   const Texts& m_texts;
@@ -189,14 +189,14 @@ std::string playersCsv(const std::vector<TeamPlayer>& players, const Texts& text
   std::vector<std::string> fields;
   for (const int header : kHeaders)
     fields.emplace_back(texts.text(header));
-  std::string csv = delimitedRow(fields);
+  std::string csv = csvRow(fields);
   for (const TeamPlayer& player : players) {
     const PlayerRecord& record = player.record;
     std::string position(choiceName(kFirstPositionText, record.position, texts));
     if (position.empty())
       position = std::to_string(record.position);
-    csv += delimitedRow({player.number, std::move(position), record.name, record.height, record.weight,
-                         record.age, record.grade});
+    csv += csvRow({player.number, std::move(position), record.name, record.height, record.weight, record.age,
+                   record.grade});
   }
   return csv;
 }

@@ -28,13 +28,14 @@ struct CsvPlayers {
 // A row is left out when its number is no jersey (1171), its position is unknown, its name is empty (1173),
 // its number stands in an earlier good row, or its record would not fit. An empty position is N/A. Positions
 // are names or first letters in either language, the usual abbreviations (C, F, G, PF, SF, PG, SG) or the
-// index, whatever the letter case. Empty rows are passed over.
+// index, whatever the letter case. Empty rows are passed over. Cells that were disarmed for spreadsheets are
+// read as what they held.
 [[nodiscard]] CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts);
 
 // "Line 12: ...", in the language in use.
 [[nodiscard]] std::string problemText(const CsvProblem& problem, const Texts& texts);
 
-// With a header row and positions in the language in use; commas, CR LF, fields quoted where needed.
+// With a header row and positions in the language in use, one without a name as its index; see csvRow().
 [[nodiscard]] std::string playersCsv(const std::vector<TeamPlayer>& players, const Texts& texts);
 
 } // namespace hooptab

@@ -160,7 +160,7 @@ std::string TeamSheet::text(int row, PlayerColumn column, const Texts& texts) co
   switch (column) {
   case PlayerColumn::Number: return number;
   case PlayerColumn::Name: return record.name;
-  case PlayerColumn::Position: return std::string(choiceName(kFirstPositionText, record.position, texts));
+  case PlayerColumn::Position: return positionText(record.position, texts);
   case PlayerColumn::PositionIndex: return std::to_string(record.position);
   case PlayerColumn::Height: return record.height;
   case PlayerColumn::Weight: return record.weight;

@@ -247,6 +247,39 @@ TEST_F(Cli, CsvHasARowForEachPlayerAndTotalWithQuotedFields) {
     EXPECT_EQ(std::ranges::count(lines[line], ','), 48) << lines[line];
 }
 
+// Names that a spreadsheet would run and that would command a terminal, in every output.
+TEST_F(Cli, NamesAreNoFormulasAndNoCommands) {
+  const std::string text =
+      "[DETAILS]\nVERSION=2.0\nTERMINE=1\nDATE=2026-\x1B[2J01\nENDROIT=\x07\x81\nNBREPERIODE=1\n"
+      "DUREE=10\nEQUIPE0ABB=@A\x1B\nEQUIPE1ABB=\x8D"
+      "B\nEQUIPE0NOM=\x9D"
+      "C\n"
+      "[0]\n4=0,=cmd|'/C calc'!A0\n5=1,+Bo\x1B]0x\x07\n[1]\n-7=2,\x90Ida\n"
+      "[PERIODE1]\n1=10:00,ARRET,IN-04-05,IN-\x1B\n2=09:00,STO,0-4\n3=08:00,GFTA,1-\x8F\n"
+      "\x1B=07:00,SA\n9=05:00,ARRET,IN-04-05,IN-\n";
+  const std::string file = game(text);
+  const std::string folder = quoted(m_folder.path());
+  for (const std::string& arguments :
+       {"box " + file, "box --csv " + file, "box --json " + file, "events " + file, "verify " + file,
+        "season " + folder, "season --csv " + folder, "season --json " + folder}) {
+    const Outcome outcome = run(arguments);
+    EXPECT_FALSE(outcome.output.empty()) << arguments;
+    for (std::size_t i = 0; i < outcome.output.size(); ++i) {
+      const auto byte = static_cast<unsigned char>(outcome.output[i]);
+      const bool isC1 = byte == 0xC2 && static_cast<unsigned char>(outcome.output.at(i + 1)) < 0xA0;
+      EXPECT_FALSE(isC1 || byte == 0x7F || (byte < 0x20 && byte != '\r' && byte != '\n'))
+          << arguments << " at " << i << '\n'
+          << outcome.output;
+    }
+  }
+  const std::string box = run("box --csv " + file).output;
+  EXPECT_TRUE(holds(box, "\r\n'@A,4,'=cmd|'/C calc'!A0,")) << box;
+  EXPECT_TRUE(holds(box, "\r\n'@A,5,'+Bo]0x,")) << box;
+  EXPECT_TRUE(holds(box, "\r\nB,-7,Ida,")) << box;
+  EXPECT_TRUE(holds(box, ",0,0,-1,")) << "a rating below 0 is a number: " << box;
+  EXPECT_TRUE(holds(run("season --csv " + folder).output, "\r\nplayers,total,'@A-,4,'=cmd|'/C calc'!A0,"));
+}
+
 TEST_F(Cli, EventsAreToldInWordsAndNeverCommandTheTerminal) {
   const Outcome outcome = run("events " + game(smallGame()));
   EXPECT_EQ(outcome.status, 0);
@@ -337,6 +370,8 @@ TEST_F(Cli, SeasonTellsTheSameNumbersAsTextJsonAndCsv) {
   ASSERT_EQ(ofTeam["games"].array().size(), 1U);
   EXPECT_EQ(ofTeam["games"][0]["result"].text(), "W 3-2");
   EXPECT_EQ(ofTeam["players"].array().size(), 5U);
+  EXPECT_EQ(run("season --json --team oly-a " + folder).output,
+            run("season --json --team OLY-A " + folder).output);
 
   const std::string csv = run("season --csv " + folder).output;
   EXPECT_EQ(linesOf(csv), 1 + 3 * (10 + 2));
@@ -364,6 +399,38 @@ TEST_F(Cli, SeasonNamesWhatItCannotTake) {
   for (const char* wrong : {"season", "season --from yesterday .", "season --to=2026-02-30 .",
                             "season --type x .", "season --team", "season . .", "box --once g.GAM"})
     EXPECT_EQ(run(wrong).status, 2) << wrong;
+  const Outcome noType = run("season --type 7 " + folder);
+  EXPECT_EQ(noType.status, 2);
+  EXPECT_TRUE(holds(noType.complaint, "there is no type 7")) << noType.complaint;
+}
+
+// What no program of ours writes: each output says the same of it, and verify names what is wrong.
+TEST_F(Cli, OddValuesAreReadTheSameEverywhere) {
+  const std::string text =
+      "[DETAILS]\nVERSION=2.0\nTERMINE=1\nDATE=2026-03-01\nTYPE=7\nNBREPERIODE=1\nDUREE=10\n"
+      "EQUIPE0ABB=PAN\nEQUIPE0CAT=A\n"
+      "[0]\n14=12,Zoe\n5=4,Bea\n6=9,Cy\n[1]\n7=2,Ida\n"
+      "[PERIODE1]\n1=10:00,ARRET,IN-14-05-06,IN-07\n2=09:00,GFT,0-0014\n"
+      "[PERIODE300]\n3=05:00,GF3,0-14\n";
+  const std::string file = game(text);
+  const std::string folder = quoted(m_folder.path());
+  const std::string box = run("box " + file).output;
+  for (const char* part : {"PAN 4 - 0 ", "2026-03-01 - Other\n", "14  Zoe          na ",
+                           " 5  Bea          na ", " 6  Cy           N/A"})
+    EXPECT_TRUE(holds(box, part)) << part << '\n' << box;
+  const Json json = Json::parse(run("season --json " + folder).output);
+  EXPECT_EQ(json["games"][0]["visitorPoints"].integer(), 4);
+  EXPECT_EQ(json["games"][0]["type"].integer(), 9);
+  EXPECT_EQ(json["players"][0]["position"].text(), "na");
+  EXPECT_TRUE(holds(run("season " + folder + " --type 9").output, "Other"));
+  EXPECT_TRUE(holds(run("events " + file).output, " OT299  05:00  PAN 14 Zoe: 3 points made\n"));
+  const Outcome verified = run("verify " + file);
+  EXPECT_EQ(verified.status, 1);
+  EXPECT_TRUE(holds(verified.output, "g.GAM: section PERIODE300 lies behind")) << verified.output;
+  EXPECT_TRUE(holds(verified.output, "g.GAM: 1 finding\n")) << verified.output;
+  const Outcome length = run("verify " + game("[DETAILS]\nVERSION=2.0\nDUREE=100\n", "length.GAM"));
+  EXPECT_EQ(length.status, 1);
+  EXPECT_TRUE(holds(length.output, "length.GAM: DUREE is 100 minutes")) << length.output;
 }
 
 TEST_F(Cli, VerifyPassesRealGamesAndNamesFaultyOnes) {

@@ -1,10 +1,12 @@
 // Editing a recorded game: events put in, changed, moved and deleted, with all that depends on them.
 #include "live/ConflictWords.h"
 #include "live/LiveGame.h"
+#include "live/OnCourt.h"
 #include "live/ShotFollowUp.h"
 
 #include "live/ManualTime.h"
 #include "support/TemporaryFolder.h"
+#include "support/TextGame.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -187,6 +189,27 @@ TEST_F(LiveEditTest, ASubstitutionThatStopsHaveFollowedIsTakenBackThroughThem) {
   EXPECT_EQ(seconds(0, 1), 70);
   EXPECT_TRUE(live.redo());
   EXPECT_EQ(seconds(0, 1), 30);
+}
+
+TEST_F(LiveEditTest, AStopWithoutListsGetsThemBehindItsCode) {
+  EXPECT_EQ(withLists("09:00,ARRET", {0b10, 0}, live.log().rosters()), "09:00,ARRET,IN-04,IN-");
+  EXPECT_EQ(withLists("E09:00,ARRET,IN-05,IN", {0, 0b110}, live.log().rosters()),
+            "E09:00,ARRET,IN-,IN-04-05");
+}
+
+// As another program may have left it: what is there can be edited, and recording goes on within the limit.
+TEST_F(LiveEditTest, EventsOfAPeriodBehindTheLastAreEditedWhereTheyStand) {
+  const std::string file =
+      folder.write("late.GAM", textOfGame("[PERIODE300]\n1=05:00,SA,0-4\n2=04:00,ARRET,IN-04,IN-03\n"));
+  LiveGame late(store, time);
+  ASSERT_EQ(late.open(file), GameFileProblem::None);
+  EXPECT_EQ(late.period(), 255);
+  EXPECT_EQ(late.onCourt(), (OnCourt{0b10, 0b10}));
+  EXPECT_TRUE(late.editEvent({300, "1"}, 290, {EventCode::STO, false, 0, 2}));
+  EventLines found;
+  ASSERT_EQ(GameFile(store, file).readLines(found), GameFileProblem::None);
+  EXPECT_EQ(found[300].front().second, "04:50,STO,0-5");
+  EXPECT_EQ(late.game().events[0].period, 300);
 }
 
 TEST_F(LiveEditTest, TheStopThatEndsAPeriodStays) {

@@ -8,11 +8,11 @@
 #include "appearance/ChildWindow.h"
 #include "appearance/relabel.h"
 #include "season/SeasonTableView.h"
+#include "storage/DelimitedText.h"
 #include "storage/Settings.h"
 #include "support/FaultyFileSystem.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
-#include "teams/DelimitedText.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "printing/GameReports.h"
 #include "printing/ReportText.h"
 #include "printing/TeamReports.h"
-#include "teams/DelimitedText.h"
+#include "storage/DelimitedText.h"
 
 #include "ReportGame.h"
 #include "storage/cinifile.h"

@@ -4,7 +4,7 @@
 #include "season/Leaders.h"
 #include "season/SeasonColumns.h"
 #include "season/SeasonFolder.h"
-#include "teams/DelimitedText.h"
+#include "storage/DelimitedText.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

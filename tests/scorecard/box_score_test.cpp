@@ -1,5 +1,6 @@
 // The box score: derived numbers, the column table, the rows of players and lines and what they add up to.
 #include "scorecard/BoxScore.h"
+#include "storage/ChoiceTexts.h"
 
 #include "support/TextGame.h"
 
@@ -197,6 +198,18 @@ TEST(BoxRows, OfLinesLeaveOutThoseThatNeitherPlayedNorCounted) {
   EXPECT_EQ(rows[0].name + " " + cell(rows[0], "Time"), "0-4-5-10-12 01:00")
       << "it played, though nothing happened";
   EXPECT_EQ(rows[1].kind, BoxRowKind::Total);
+}
+
+// What the command line takes as a type is what the table of texts names.
+TEST(GameTypes, WithoutANameReadOther) {
+  Texts texts;
+  for (int type = -1; type <= kChoiceCount; ++type) {
+    const bool isNamed = !choiceName(kFirstGameTypeText, type, texts).empty();
+    EXPECT_EQ(gameTypeOf(type), isNamed ? type : kOtherGameType) << type;
+  }
+  EXPECT_EQ(gameTypeText(7, texts), "Other");
+  texts.setLanguage(Language::French);
+  EXPECT_EQ(gameTypeText(77, texts), "Autre");
 }
 
 TEST(Positions, WithoutANameReadNa) {

@@ -38,13 +38,32 @@ TEST(GameCheck, LeavesAGoodGameAlone) {
 TEST(GameCheck, NamesEachLineThatCannotBeUnderstoodAndLetsItMoveNothing) {
   EXPECT_EQ(
       namedAfterTipOff("4=9:41,GFG,0-4\n5=12:00,GFX,0-4\n6=09:00,GFG,2-4\n7=09:00,IN,0-4\nx=09:00,SA,0-4\n"
-                       "8=01:00,ARRET,OUT-4,IN-\n9=\n10=08:00,SA,0-4\n"),
+                       "8=01:00,ARRET,OUT-4,IN-\n9=\n10=08:00,SA,0-4\n11=07:00,ARRET,IN14,IN-\n"),
       (Named{"4: cannot be understood: the clock is not mm:ss",
              "5: cannot be understood: there is no code GFX",
              "6: cannot be understood: the player is not 0- or 1- and a jersey",
              "7: cannot be understood: there is no code IN", "x: the key is no event number",
              "8: cannot be understood: an on-court list does not begin with IN",
-             "9: cannot be understood: the clock is not mm:ss"}));
+             "9: cannot be understood: the clock is not mm:ss",
+             "11: cannot be understood: an on-court list is not IN- and jerseys with - between"}));
+}
+
+TEST(GameCheck, NamesALengthThatNoClockShowsAndPeriodsThatNoGameHas) {
+  EXPECT_EQ(
+      named(gameOfText(textOfGame("[PERIODE1]\n1=10:00,ARRET\n[PERIODE255]\n2=05:00,DEPART,x\n"
+                                  "[PERIODE300]\n3=E05:00,SA,0-4\n4=05:00,SA,0-0004\n"
+                                  "[PERIODE256]\n5=05:00,ARRET\n",
+                                  "INPUTTYPE=1\n"))),
+      (Named{
+          ": section PERIODE256 lies behind the 255 periods that a game can have; it counts with period 8",
+          ": section PERIODE300 lies behind the 255 periods that a game can have; it counts with period 8"}));
+  for (const char* minutes : {"100", "2147483647", "-1"}) {
+    const std::string text = std::string("[DETAILS]\nVERSION=2.0\nNBREPERIODE=1\nDUREE=") + minutes + "\n";
+    const std::string shown = *minutes == '-' ? "0" : "99";
+    EXPECT_EQ(named(gameOfText(text)),
+              (Named{std::string(": DUREE is ") + minutes +
+                     " minutes; a clock shows 0 to 99, and it is read as " + shown}));
+  }
 }
 
 TEST(GameCheck, SkipsDeletedEvents) {

@@ -471,7 +471,7 @@ TEST_F(OddGameTest, AGameWithoutAnythingOpens) {
   show(game.folder.write("empty.GAM", details()));
   watchModels();
   EXPECT_EQ(events().model()->rowCount(), 0);
-  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(1269)));
+  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(1259)));
   window->setByLine(true);
   EXPECT_EQ(table(1).model()->rowCount(), 1);
   window->grab();

@@ -200,7 +200,7 @@ TEST(GameList, ShowsTheGameAndItsResultForATeamOrForAll) {
   EXPECT_EQ(row(1, catalogue.teamOf("OLY-A"))[2], "T 0-0");
   EXPECT_EQ(row(1, std::nullopt)[7], "Manual");
   EXPECT_EQ(row(2, std::nullopt)[7], "");
-  EXPECT_EQ(row(2, std::nullopt)[1], "");
+  EXPECT_EQ(row(2, std::nullopt)[1], "Other");
 }
 
 } // namespace

@@ -176,15 +176,63 @@ TEST_F(GameFileTest, AllPeriodsAreReadAscendingAndEachKeyOnce) {
   EXPECT_EQ(order, "1:1:5 2:4:1 2:3:3 10:5:1 ");
 }
 
+// The program records no period behind the 255th; one that stands in a file is read all the same.
+TEST_F(GameFileTest, PeriodsBehindTheLastAreReadCountedAndReplacedLikeOthers) {
+  const std::string sections =
+      fiveAside("1=09:00,GFT,0-4\r\n") +
+      "[PERIODE1234567890123]\r\n7=05:00,ARRET\r\n[PERIODE300]\r\n5=05:00,GFG,0-4\r\n6=04:00,SPF,0-4\r\n"
+      "[PERIODE9999999999]\r\n9=04:00,SPF,0-4\r\n[PERIODE256]\r\n4=03:00,GF3,0-4\r\n[PERIODE8]\r\n3=01:00,"
+      "GFT,0-4\r\n";
+  const Game game = gameWith(sections);
+  std::string order;
+  for (const GameEvent& event : game.events)
+    order += std::to_string(event.period) + ":" + std::string(event.key) + " ";
+  EXPECT_EQ(order, "1:1 8:3 256:4 300:5 300:6 999999999:9 999999999:7 ");
+  const GameState state = tallied(game);
+  EXPECT_EQ(state.periods[0][1].points, 1);
+  EXPECT_EQ(state.periods[0][8].points, 1 + 3 + 2);
+  EXPECT_EQ(state.periods[0][8].fouls, 2);
+  EXPECT_EQ(m_file.nextNumber(), 10);
+  ASSERT_EQ(m_file.setDeleted({{300, "6"}}, true), GameFileProblem::None);
+  EXPECT_NE(m_folder.read("g.GAM").find("\r\n6=E04:00,SPF,0-4\r\n"), std::string::npos);
+  ASSERT_EQ(m_file.create({}, {}, {}), GameFileProblem::None);
+  EXPECT_EQ(m_folder.read("g.GAM").find("GF"), std::string::npos) << "nothing of the old game is left";
+}
+
+TEST_F(GameFileTest, AsManyPeriodsAsAFileHoldsAreReadInTimeAndMakeNoEndlessSum) {
+  std::string sections;
+  for (int period = 1; sections.size() < 15'000'000; ++period)
+    sections += "[PERIODE" + std::to_string(period) + "]\n1=99:59,ARRET,IN-4\n2=00:00,ARRET,IN-4\n";
+  const GameState state = tallied(gameWith("[0]\n4=0,Ana\n" + sections));
+  EXPECT_EQ(state.players[0][1].seconds, 255 * 6000);
+  EXPECT_EQ(state.lines[0][1].seconds, 255 * 6000);
+  EXPECT_EQ(state.lead.seconds[2], 255 * 6000);
+}
+
+TEST_F(GameFileTest, MinutesOfAPeriodAreWhatAClockShows) {
+  const std::tuple<const char*, int, int> cases[] = {
+      {"99", 99, 99}, {"100", 100, 99}, {"2147483647", 2147483647, 99}, {"-5", -5, 0}, {"x", 0, 0}};
+  for (const auto& [written, stored, shown] : cases) {
+    m_folder.write("g.GAM", std::string("[DETAILS]\r\nVERSION=2.0\r\nDUREE=") + written + "\r\n");
+    GameDetails details;
+    ASSERT_EQ(m_file.readDetails(details), GameFileProblem::None);
+    EXPECT_EQ(details.minutesPerPeriod, shown) << written;
+    EXPECT_EQ(details.impossibleMinutes, stored == shown ? std::nullopt : std::optional(stored)) << written;
+  }
+}
+
 TEST(GameEventTest, WhatCannotBeUnderstoodIsKeptAndCountsNothing) {
-  for (const char* bad : {"", "E", "9:00,SPF,0-4", "09:00", "09:00,", "09:00,SPX,0-4", "09:00,spf,0-4",
-                          "09:00,SPF", "09:00,SPF,2-4", "09:00,SPF,0-", "09:00,SPF,04", "09:00,IN,0-4",
-                          "09:00,ARRET,OUT-04,IN-", "E09:00,GFGAA,0-4", "09:60,SPF,0-4"}) {
+  for (const char* bad :
+       {"", "E", "9:00,SPF,0-4", "09:00", "09:00,", "09:00,SPX,0-4", "09:00,spf,0-4", "09:00,SPF",
+        "09:00,SPF,2-4", "09:00,SPF,0-", "09:00,SPF,04", "09:00,IN,0-4", "09:00,ARRET,OUT-04,IN-",
+        "09:00,ARRET,IN14,IN-", "09:00,ARRET,IN-04,IN-05-", "E09:00,GFGAA,0-4", "09:60,SPF,0-4"}) {
     const GameEvent event = GameEvent::parse(1, "5", bad);
     EXPECT_FALSE(event.isUnderstood) << bad;
     EXPECT_EQ(event.line, bad);
   }
   EXPECT_FALSE(GameEvent::parse(1, "x", "09:00,SPF,0-4").isUnderstood);
+  for (const char* nobody : {"09:00,ARRET", "09:00,ARRET,", "09:00,ARRET,,IN", "09:00,ARRET,IN-,IN,more"})
+    EXPECT_TRUE(GameEvent::parse(1, "5", nobody).isUnderstood) << nobody;
 }
 
 TEST(GameEventTest, ShotsCountWithAndWithoutAPlace) {
@@ -208,6 +256,10 @@ TEST(RosterTest, JerseysFindTheSameTextFirstThenTheEqualNumber) {
     roster.add({jersey, 0, ""});
   EXPECT_EQ(roster.entryOf("05"), 2);
   EXPECT_EQ(roster.entryOf("005"), 1);
+  EXPECT_EQ(roster.entryOf("0123"), 5);
+  EXPECT_EQ(roster.entryOfListed("0000000000123"), 5);
+  EXPECT_EQ(roster.entryOf("1123"), 0);
+  EXPECT_EQ(roster.entryOf("0005"), 1) << "of two, the first of that number";
   EXPECT_EQ(roster.entryOf("A1"), 6);
   EXPECT_EQ(roster.entryOf("77"), 0);
   EXPECT_EQ(roster.entryOfListed("00"), 3);
@@ -312,6 +364,60 @@ TEST_F(TallyTest, ACountOutOfRangeIsNamedAndStaysAtItsLimit) {
   ASSERT_TRUE(outOfRange);
   EXPECT_EQ(outOfRange->what, "4 Ast");
   EXPECT_EQ(state.players[0][1].counters[Counter::Ast], 32767);
+}
+
+// What is left out of one table is left out of all, and what was full is named.
+TEST_F(TallyTest, TablesAgreeWhenACountIsFull) {
+  const struct {
+    const char* code;
+    std::vector<std::string> jerseys; // taken in turn
+    int events;
+    const char* named;
+  } cases[] = {
+      {"STF", {"4"}, 32768, "4 TF"},
+      {"GFTA", {"4"}, 32768, "4 FTA"},
+      {"SA", {"4", "5"}, 32768, "IN- Ast"}, // nobody was on court
+      {"STF", {"4", "5"}, 32768, "IN- TF"},
+      {"GF3", {"4"}, 10923, "PERIODE1 PTS"},
+      {"GFG", {"4", "5"}, 16384, "PERIODE1 PTS"},
+  };
+  Roster rosters[2];
+  rosters[0].add({"4", 0, "Ana"});
+  rosters[0].add({"5", 0, "Bo"});
+  for (const auto& each : cases) {
+    EventList events;
+    for (int i = 0; i < each.events + 5; ++i)
+      events.appendOwned(1, std::to_string(i + 1),
+                         std::string("09:00,") + each.code + ",0-" +
+                             each.jerseys[static_cast<std::size_t>(i) % each.jerseys.size()]);
+    GameState state;
+    const auto outOfRange = Tally::run(state, events, rosters[0], rosters[1]);
+    ASSERT_TRUE(outOfRange) << each.named;
+    EXPECT_EQ(outOfRange->what, each.named);
+    int points = 0;
+    int fouls = 0;
+    int attempts = 0;
+    for (const PlayerEntry& player : state.players[0]) {
+      points += pointsOf(player.counters);
+      fouls += player.counters[Counter::PF] + player.counters[Counter::TF];
+      attempts += player.counters[Counter::FGA] + player.counters[Counter::F3A];
+    }
+    EXPECT_EQ(points, state.points(0)) << each.named;
+    EXPECT_EQ(points, pointsOf(state.lines[0][0].counters)) << each.named;
+    EXPECT_EQ(fouls, state.periods[0][1].fouls) << each.named;
+    EXPECT_EQ(attempts, static_cast<int>(state.shots.size())) << each.named;
+  }
+}
+
+TEST_F(TallyTest, AListOfMoreThanFiveAndOneThatIsNoneGiveTimeToThoseWhoCount) {
+  const Game game = gameWith(fiveAside("1=10:00,ARRET,IN-04-05-10-12-15-16,IN-\r\n2=09:00,ARRET,IN14,IN-\r\n"
+                                       "3=08:00,ARRET,IN-04,IN\r\n[PERIODE2]\r\n4=10:00,ARRET,IN-4-\r\n"));
+  const GameState state = tallied(game);
+  EXPECT_EQ(state.players[0][1].seconds, 120) << "the second line moves no clock";
+  EXPECT_EQ(state.players[0][6].seconds, 0) << "the sixth of a list";
+  EXPECT_EQ(state.period, 1);
+  EXPECT_EQ(state.clockSeconds, 480);
+  EXPECT_EQ(state.onCourtCount[0], 1);
 }
 
 TEST_F(TallyTest, ClearingForgetsTheGameBefore) {

@@ -49,10 +49,27 @@ TEST(Module1, OnCourtListsAreSortedAndTwoDigits) {
   EXPECT_EQ(Module1::onCourtList({}), "IN-");
   EXPECT_EQ(Module1::onCourtList({"5"}), "IN-05");
   EXPECT_EQ(Module1::onCourtList({"000", "00", "7"}), "IN-00-000-07");
-  EXPECT_EQ(Module1::jerseysOfList("IN-04-12"), (std::vector<std::string_view>{"04", "12"}));
-  EXPECT_EQ(Module1::jerseysOfList("IN-"), std::vector<std::string_view>());
-  EXPECT_EQ(Module1::jerseysOfList("IN-1-2-3-4-5-6")->size(), 5U);
-  EXPECT_EQ(Module1::jerseysOfList("OUT-04"), std::nullopt);
+}
+
+TEST(Module1, OnCourtListsAreReadByOneGrammar) {
+  const auto joined = [](const Module1::JerseysOfList& jerseys) {
+    std::string text;
+    for (const std::string_view jersey : jerseys)
+      text.append(jersey).append(" ");
+    return text;
+  };
+  const std::pair<const char*, const char*> lists[] = {
+      {"IN", ""}, {"IN-", ""}, {"IN-4", "4 "}, {"IN-04-12", "04 12 "}, {"IN-1-2-3-4-5-6", "1 2 3 4 5 6 "}};
+  for (const auto& [list, jerseys] : lists) {
+    EXPECT_TRUE(Module1::isOnCourtList(list)) << list;
+    EXPECT_EQ(joined(Module1::JerseysOfList(list)), jerseys) << list;
+  }
+  EXPECT_EQ(joined(Module1::countedJerseys("IN-1-2-3-4-5-6")), "1 2 3 4 5 ");
+  for (const char* other :
+       {"", "I", "in-4", "OUT-04", "IN14", "IN14-05", "IN 4", "IN--4", "IN-4-", "IN-4--5", "IN--"}) {
+    EXPECT_FALSE(Module1::isOnCourtList(other)) << other;
+    EXPECT_EQ(joined(Module1::JerseysOfList(other)), "") << other;
+  }
 }
 
 TEST(Module1, RoundingIsHalfAwayFromZero) {

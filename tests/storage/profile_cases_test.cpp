@@ -145,6 +145,24 @@ TEST_P(OwnCases, Behaves) {
 INSTANTIATE_TEST_SUITE_P(Profile, OwnCases, testing::ValuesIn(kOwnCases),
                          [](const auto& test) { return std::string(test.param.name); });
 
+// The buffer of 9,999 bytes keeps two for the NULs that close a list.
+TEST(Profile, KeyListsThatLeaveNoRoomForTheirEndAreCut) {
+  TemporaryFolder folder;
+  FileSystem files;
+  cinifile store(files);
+  for (const std::size_t length : {9'996U, 9'997U, 9'998U, 9'999U, 10'000U}) {
+    std::string whole;
+    for (char name = 'a'; whole.size() < length; ++name)
+      whole += std::string(std::min<std::size_t>(length - whole.size(), 500) - 1, name) + '\0';
+    std::string bytes = "[K]\r\n";
+    for (const char letter : whole)
+      bytes += letter == '\0' ? std::string("=1\r\n") : std::string(1, letter);
+    store.Path(folder.write("keys.ini", bytes));
+    store.Section("K");
+    EXPECT_EQ(store.INISection(), whole.substr(0, 9'997)) << length;
+  }
+}
+
 std::vector<std::filesystem::path> sharedCases() {
   std::vector<std::filesystem::path> cases;
   std::error_code missing;

@@ -92,6 +92,15 @@ TEST_F(TeamSheetTest, RemovedAndSortedPlayers) {
   EXPECT_TRUE(sheet.isChanged());
 }
 
+TEST_F(TeamSheetTest, APositionWithoutANameReadsNa) {
+  sheet.load({{"5", {4, "Ann", "", "", "", ""}, ""},
+              {"6", {12, "Bo", "", "", "", ""}, ""},
+              {"7", {9, "Cy", "", "", "", ""}, ""}});
+  EXPECT_EQ(sheet.text(0, PlayerColumn::Position, texts), "na");
+  EXPECT_EQ(sheet.text(1, PlayerColumn::Position, texts), "na");
+  EXPECT_EQ(sheet.text(2, PlayerColumn::Position, texts), "N/A");
+}
+
 TEST_F(TeamSheetTest, ARepeatedNumberIsFoundAndCanBeMended) {
   sheet.load({{"5", {2, "Ann", "", "", "", ""}, ""}, {"5", {0, "Bo", "", "", "", ""}, ""}});
   EXPECT_EQ(sheet.repeatedNumber(), "5");

@@ -1,7 +1,8 @@
-// Steps through text that should be UTF-8 and may not be (file names, for one).
+// Steps through text that should be UTF-8 and may not be (file names, for one), and shows it to terminals.
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace hooptab {
@@ -11,6 +12,14 @@ struct CodePoint {
   std::string_view bytes;
   bool isValid = false; // else one byte that begins no character
 };
+
+// Whether a character commands what shows it, as a terminal's escapes do.
+constexpr bool isControl(std::uint32_t codePoint) {
+  return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+}
+
+// Without characters that would command a terminal: each becomes "?". Valid UTF-8 in any case.
+[[nodiscard]] std::string printable(std::string_view text);
 
 // The first character of a text that is not empty; moves on behind it.
 inline CodePoint takeCodePoint(std::string_view& text) {

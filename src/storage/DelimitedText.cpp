@@ -1,8 +1,10 @@
-#include "teams/DelimitedText.h"
+#include "storage/DelimitedText.h"
 
 #include "storage/Module1.h"
+#include "storage/Utf8.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace hooptab {
 
@@ -10,6 +12,7 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kLineEnds = "\r\n";
+constexpr std::string_view kBlanks = "\t\r\n"; // control characters that a cell may hold
 
 char separatorOf(std::string_view text) {
   const std::size_t first = text.find_first_not_of(" \r\n");
@@ -43,6 +46,43 @@ std::string cleaned(std::string field) {
       [](char letter) { return static_cast<unsigned char>(letter) < kFirstPrintable || letter == kDelete; },
       ' ');
   return std::string(Module1::trimmed(field));
+}
+
+// "-5", "+12", "-0.5", "+3.2%"; behind the point or comma decimals.
+bool isSignedNumber(std::string_view text) {
+  text.remove_prefix(1);
+  if (text.ends_with('%'))
+    text.remove_suffix(1);
+  const auto isDigit = [](char letter) { return letter >= '0' && letter <= '9'; };
+  const auto others = std::ranges::count_if(text, std::not_fn(isDigit));
+  const bool hasPoint = others == 1 && text.find_first_of(".,") != std::string_view::npos;
+  return (others == 0 || hasPoint) && std::ranges::any_of(text, isDigit);
+}
+
+// Spreadsheets run what begins with one of these, blanks before it passed over. What stands behind
+// apostrophes of its own counts too: one more in front then tells the two apart.
+bool needsApostrophe(std::string_view cell) {
+  const std::size_t apostrophes = std::min(cell.find_first_not_of('\''), cell.size());
+  cell.remove_prefix(apostrophes);
+  // Read back, every blank is a space, and one that begins a cell is dropped.
+  const std::string_view blanks = apostrophes > 0 ? " \t\r\n" : "\t\r\n";
+  if (cell.empty() || blanks.find(cell.front()) != std::string_view::npos)
+    return !cell.empty();
+  cell = Module1::trimmed(cell);
+  if (cell.empty() || std::string_view("=+-@").find(cell.front()) == std::string_view::npos)
+    return false;
+  const bool hasSign = cell.front() == '+' || cell.front() == '-';
+  return !(hasSign && isSignedNumber(cell));
+}
+
+std::string safeCell(std::string_view text) {
+  std::string cell;
+  while (!text.empty()) {
+    const CodePoint next = takeCodePoint(text);
+    if (!isControl(next.value) || kBlanks.find(next.bytes) != std::string_view::npos)
+      cell += next.bytes;
+  }
+  return needsApostrophe(cell) ? "'" + cell : cell;
 }
 
 class Reader {
@@ -135,21 +175,26 @@ std::vector<DelimitedRow> parseDelimited(std::string_view text) {
   return Reader(text).rows();
 }
 
-std::string delimitedRow(const std::vector<std::string>& fields) {
+std::string csvRow(const std::vector<std::string>& cells) {
   std::string row;
-  for (const std::string& field : fields) {
-    if (!row.empty() || &field != &fields.front())
+  for (const std::string& each : cells) {
+    if (&each != &cells.front())
       row.push_back(',');
-    if (field.find_first_of(",;\t\"\r\n") == std::string::npos) {
-      row.append(field);
+    const std::string cell = safeCell(each);
+    if (cell.find_first_of(",;\t\"\r\n") == std::string::npos) {
+      row.append(cell);
       continue;
     }
     row.push_back('"');
-    for (const char letter : field)
+    for (const char letter : cell)
       row.append(letter == '"' ? 2 : 1, letter);
     row.push_back('"');
   }
   return row + "\r\n";
+}
+
+std::string_view heldByCell(std::string_view cell) {
+  return cell.starts_with('\'') && needsApostrophe(cell) ? cell.substr(1) : cell;
 }
 
 } // namespace hooptab

@@ -1,5 +1,6 @@
 // Rows of fields in a text, as spreadsheets write them: comma, semicolon or tab between the fields, fields in
-// quotes (RFC 4180), any kind of line end. Knows nothing of what the fields mean.
+// quotes (RFC 4180), any kind of line end. Every table that the program writes for spreadsheets goes through
+// here. Knows nothing of what the fields mean.
 #pragma once
 
 #include <string>
@@ -19,7 +20,11 @@ struct DelimitedRow {
 // a comma. A byte order mark is passed over.
 [[nodiscard]] std::vector<DelimitedRow> parseDelimited(std::string_view text);
 
-// One row, with CR LF; fields with separators, quotes or line breaks in quotes.
-[[nodiscard]] std::string delimitedRow(const std::vector<std::string>& fields);
+// One row, with CR LF; cells with separators, quotes or line breaks in quotes. A cell that a spreadsheet
+// would run as a formula gets an apostrophe in front, a number with its sign does not. Control characters but
+// tabs and line breaks are left out.
+[[nodiscard]] std::string csvRow(const std::vector<std::string>& cells);
+// What a cell of such a row held: without the apostrophe that it was given, which no other cell loses.
+[[nodiscard]] std::string_view heldByCell(std::string_view cell);
 
 } // namespace hooptab
