@@ -299,8 +299,7 @@ int frmSCAN::pagesLeft() const {
 }
 
 void frmSCAN::readNext() {
-  m_view->showNothing();
-  m_scanned = {};
+  forgetSheet();
   if (++m_page >= m_pagesInFile) {
     m_files.removeFirst();
     m_page = 0;
@@ -425,8 +424,14 @@ void frmSCAN::close() {
   m_files.clear();
   m_refusals.clear();
   m_result.reset();
+  forgetSheet();
+}
+
+// Whoever knows its cells by their places knows none from now on.
+void frmSCAN::forgetSheet() {
   m_view->showNothing();
   m_scanned = {};
+  m_doubts->beginSheet();
 }
 
 // --- What the user does
