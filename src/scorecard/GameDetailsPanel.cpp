@@ -1,10 +1,10 @@
 #include "scorecard/GameDetailsPanel.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "scorecard/ScorecardTexts.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -51,7 +51,7 @@ GameDetailsPanel::GameDetailsPanel(QWidget* parent) : QWidget(parent), m_layout(
   m_personalFouls = addField("txtPFMAX", 1126, 3, 3);
   m_technicalFouls = addField("txtTFMAX", 1127, 4, 3);
 
-  auto* caption = new QLabel(this);
+  auto* caption = new PlainLabel(this);
   caption->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*caption, kGameNotes);
   m_notes = new QPlainTextEdit(this);
@@ -71,7 +71,7 @@ GameDetailsPanel::GameDetailsPanel(QWidget* parent) : QWidget(parent), m_layout(
 }
 
 QLineEdit* GameDetailsPanel::addField(const char* name, int text, int row, int column) {
-  auto* label = new QLabel(this);
+  auto* label = new PlainLabel(this);
   label->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*label, text);
   auto* field = new QLineEdit(this);

@@ -1,12 +1,12 @@
 #include "season/LeadersPanel.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "season/SeasonTables.h"
 #include "season/SeasonTexts.h"
 #include "season/ViewSwitch.h"
 
 #include <QBoxLayout>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <algorithm>
@@ -24,7 +24,7 @@ int pointsColumn() {
 
 LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_settings(settings), m_texts(texts), m_switch(new ViewSwitch(this)),
-      m_title(new QLabel(this)), m_first(new SeasonTableView(QStringLiteral("lvwFIRST"), 0, this)),
+      m_title(new PlainLabel(this)), m_first(new SeasonTableView(QStringLiteral("lvwFIRST"), 0, this)),
       m_leaders(new SeasonTableView(QStringLiteral("lvwLEADERS"), 0, this)), m_column(pointsColumn()) {
   m_title->setObjectName(QStringLiteral("lblSTATISTIC"));
   QFont bold = m_title->font();
