@@ -1,5 +1,6 @@
 #include "manual/ScoreCheck.h"
 
+#include "appearance/ElidedLabel.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
@@ -40,7 +41,7 @@ ScoreCheck::ScoreCheck(const ManualGame& game, const Texts& texts, QWidget* pare
       return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(team);
     };
     Side& side = m_sides[static_cast<std::size_t>(team)];
-    side.team = new PlainLabel(this);
+    side.team = new ElidedLabel(this);
     side.team->setAutoFillBackground(true);
     side.team->setContentsMargins(kGap, 0, kGap, 0);
     side.points = new PlainLabel(this);

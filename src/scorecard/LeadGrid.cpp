@@ -1,5 +1,6 @@
 #include "scorecard/LeadGrid.h"
 
+#include "appearance/ElidedLabel.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
@@ -31,7 +32,7 @@ LeadGrid::LeadGrid(QWidget* parent) : QWidget(parent) {
   for (std::size_t place = 0; place < kOrder.size(); ++place) {
     const int state = kOrder[place];
     Row& row = m_rows[static_cast<std::size_t>(state)];
-    row = {new PlainLabel(this), new PlainLabel(this), new PlainLabel(this)};
+    row = {new ElidedLabel(this), new PlainLabel(this), new PlainLabel(this)};
     row.time->setObjectName(QStringLiteral("lblLEAD(%1)").arg(state));
     row.times->setObjectName(QStringLiteral("lblLEADTIMES(%1)").arg(state));
     row.time->setFont(Theme::figures(kFigurePoints, true));

@@ -1,5 +1,6 @@
 #include "scorecard/PeriodGrid.h"
 
+#include "appearance/ElidedLabel.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
@@ -29,7 +30,7 @@ PeriodGrid::PeriodGrid(Content content, const QString& name, int title, QWidget*
   setTextNumber(*caption, title);
   layout->addWidget(caption, 0, 0, 1, -1);
   for (std::size_t team = 0; team < 2; ++team) {
-    m_teams[team] = new PlainLabel(this);
+    m_teams[team] = new ElidedLabel(this);
     m_teams[team]->setContentsMargins(0, 0, 8, 0);
     QFont bold = font();
     bold.setBold(true);

@@ -18,7 +18,7 @@ constexpr int kAbbreviationPoints = 15;
 
 TeamPlate::TeamPlate(int team, int side, QWidget* parent)
     : QWidget(parent), m_side(new PlainLabel(this)), m_name(new ElidedLabel(this)),
-      m_abbreviation(new PlainLabel(this)), m_score(new PlainLabel(this)) {
+      m_abbreviation(new ElidedLabel(this)), m_score(new PlainLabel(this)) {
   setObjectName(QStringLiteral("plate(%1)").arg(team));
   setAutoFillBackground(true);
   setTextNumber(*m_side, side);

@@ -95,6 +95,7 @@ QWidget* frmVIEW::makeTables() {
   m_team = new QComboBox(panel);
   m_team->setObjectName(QStringLiteral("cmbTEAM"));
   m_team->setMinimumWidth(kTeamWidth);
+  m_team->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setAccessibleNumber(*m_team, kShownTeam);
   setToolTipNumber(*m_team, kShownTeam);
   auto* copy = new QToolButton(panel);

@@ -1,6 +1,6 @@
 #include "season/PersonPanel.h"
 
-#include "appearance/PlainLabel.h"
+#include "appearance/ElidedLabel.h"
 #include "appearance/relabel.h"
 #include "season/GamePictures.h"
 #include "season/SeasonTables.h"
@@ -20,7 +20,7 @@ namespace {
 constexpr int kFrozen = 4; // date, where, result, opponent
 
 QLabel* boldLabel(const char* name, QWidget* parent) {
-  auto* label = new PlainLabel(parent);
+  auto* label = new ElidedLabel(parent);
   label->setObjectName(QLatin1String(name));
   QFont bold = label->font();
   bold.setBold(true);
@@ -32,7 +32,7 @@ QLabel* boldLabel(const char* name, QWidget* parent) {
 
 PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_settings(settings), m_texts(texts), m_number(boldLabel("lblNO", this)),
-      m_name(boldLabel("lblNom", this)), m_games(new PlainLabel(this)) {
+      m_name(boldLabel("lblNom", this)), m_games(new ElidedLabel(this)) {
   m_games->setObjectName(QStringLiteral("jGAME"));
   m_games->setForegroundRole(QPalette::PlaceholderText);
   auto* head = new QHBoxLayout;
