@@ -12,6 +12,20 @@
 
 namespace hooptab {
 
+namespace {
+
+// What it says is text: names and paths stand in it.
+QMessageBox::StandardButton say(QWidget* parent, QMessageBox::Icon sign, const QString& title,
+                                const QString& text, QMessageBox::StandardButtons answers = QMessageBox::Ok,
+                                QMessageBox::StandardButton usual = QMessageBox::NoButton) {
+  QMessageBox box(sign, title, text, answers, parent);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(usual);
+  return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace
+
 QString QtDialogs::chooseFile(QWidget* parent, const QString& title, const QString& folder,
                               const QString& filter) {
   return QFileDialog::getOpenFileName(parent, title, folder, filter);
@@ -47,26 +61,25 @@ QColor QtDialogs::chooseColour(QWidget* parent, const QString& title, const QCol
 }
 
 void QtDialogs::inform(QWidget* parent, const QString& title, const QString& text) {
-  QMessageBox::information(parent, title, text);
+  say(parent, QMessageBox::Information, title, text);
 }
 
 void QtDialogs::warn(QWidget* parent, const QString& title, const QString& text) {
-  QMessageBox::warning(parent, title, text);
+  say(parent, QMessageBox::Warning, title, text);
 }
 
 void QtDialogs::complain(QWidget* parent, const QString& title, const QString& text) {
-  QMessageBox::critical(parent, title, text);
+  say(parent, QMessageBox::Critical, title, text);
 }
 
 bool QtDialogs::ask(QWidget* parent, const QString& title, const QString& text) {
-  return QMessageBox::question(parent, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
-         QMessageBox::Yes;
+  return say(parent, QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No,
+             QMessageBox::No) == QMessageBox::Yes;
 }
 
 SaveChoice QtDialogs::askToSave(QWidget* parent, const QString& title, const QString& text) {
-  switch (QMessageBox::question(parent, title, text,
-                                QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
-                                QMessageBox::Save)) {
+  switch (say(parent, QMessageBox::Question, title, text,
+              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save)) {
   case QMessageBox::Save: return SaveChoice::Save;
   case QMessageBox::Discard: return SaveChoice::Discard;
   default: return SaveChoice::Stay;

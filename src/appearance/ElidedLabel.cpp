@@ -7,7 +7,7 @@
 namespace hooptab {
 
 QSize ElidedLabel::minimumSizeHint() const {
-  return {fontMetrics().horizontalAdvance(u'M') * 3, QLabel::minimumSizeHint().height()};
+  return {fontMetrics().horizontalAdvance(u'M') * 3, PlainLabel::minimumSizeHint().height()};
 }
 
 bool ElidedLabel::isCut() const {
@@ -27,7 +27,7 @@ bool ElidedLabel::event(QEvent* event) {
       QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
     return true;
   }
-  return QLabel::event(event);
+  return PlainLabel::event(event);
 }
 
 } // namespace hooptab

@@ -2,15 +2,15 @@
 // it as tool tip.
 #pragma once
 
-#include <QLabel>
+#include "appearance/PlainLabel.h"
 
 namespace hooptab {
 
-class ElidedLabel : public QLabel {
+class ElidedLabel : public PlainLabel {
   Q_OBJECT
 
  public:
-  using QLabel::QLabel;
+  using PlainLabel::PlainLabel;
 
   QSize minimumSizeHint() const override;
 

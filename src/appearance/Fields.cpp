@@ -1,6 +1,7 @@
 #include "appearance/Fields.h"
 
 #include "appearance/Icons.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "storage/codepage.h"
 
@@ -8,7 +9,6 @@
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QItemSelectionModel>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
@@ -68,7 +68,7 @@ class FieldLimit : public QValidator {
 QLabel* captionFor(QWidget& field, int text) {
   setAccessibleNumber(field, text);
   setToolTipNumber(field, text);
-  auto* label = new QLabel(field.parentWidget());
+  auto* label = new PlainLabel(field.parentWidget());
   label->setBuddy(&field);
   setTextNumber(*label, text);
   return label;
@@ -91,7 +91,7 @@ QPushButton* iconButton(const char* name, int text, int toolTip, const char* ico
 
 QLabel* noticeLabel(QWidget* parent) {
   constexpr int kMargin = 8;
-  auto* notice = new QLabel(parent);
+  auto* notice = new PlainLabel(parent);
   notice->setObjectName(QStringLiteral("lblNOTICE"));
   notice->setAutoFillBackground(true);
   notice->setBackgroundRole(QPalette::Highlight);

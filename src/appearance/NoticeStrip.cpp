@@ -1,10 +1,10 @@
 #include "appearance/NoticeStrip.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 
 #include <QBoxLayout>
-#include <QLabel>
 #include <QToolButton>
 
 namespace hooptab {
@@ -17,10 +17,9 @@ constexpr int kGap = 6;
 } // namespace
 
 NoticeStrip::NoticeStrip(const char* name, QWidget* parent)
-    : QFrame(parent), m_text(new QLabel(this)), m_dismiss(new QToolButton(this)) {
+    : QFrame(parent), m_text(new PlainLabel(this)), m_dismiss(new QToolButton(this)) {
   setObjectName(QLatin1String(name));
   setAutoFillBackground(true);
-  m_text->setTextFormat(Qt::PlainText);
   m_text->setWordWrap(true);
   m_dismiss->setObjectName(QStringLiteral("cmdDISMISS"));
   m_dismiss->setText(QStringLiteral("✕"));

@@ -4,10 +4,11 @@
 
 #include <QFrame>
 
-class QLabel;
 class QToolButton;
 
 namespace hooptab {
+
+class PlainLabel;
 
 class NoticeStrip : public QFrame {
   Q_OBJECT
@@ -18,7 +19,7 @@ class NoticeStrip : public QFrame {
   void applyColours();
 
  private:
-  QLabel* m_text;
+  PlainLabel* m_text;
   QToolButton* m_dismiss;
 };
 

@@ -2,6 +2,7 @@
 
 #include "appearance/Icons.h"
 
+#include <QLabel>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -52,6 +53,13 @@ void drawBox(QPainter& painter, const QStyleOption& option, Box shape) {
 }
 
 } // namespace
+
+void ProgramStyle::polish(QWidget* widget) {
+  QProxyStyle::polish(widget);
+  // Qt's own class for them, made and polished before it has its text.
+  if (auto* label = qobject_cast<QLabel*>(widget); label != nullptr && widget->inherits("QTipLabel"))
+    label->setTextFormat(Qt::PlainText);
+}
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {

@@ -4,13 +4,13 @@
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
@@ -139,7 +139,7 @@ QWidget* frmCOULEURS::makeLabels() {
 }
 
 void frmCOULEURS::addLabel(QGridLayout& rows, std::size_t which, const char* name, int text) {
-  auto* prefix = new QLabel(toQt(CourtColourChoice::prefix(which)), this);
+  auto* prefix = new PlainLabel(toQt(CourtColourChoice::prefix(which)), this);
   auto* field = new QLineEdit(this);
   field->setObjectName(QLatin1String(name));
   field->setMinimumWidth(180);

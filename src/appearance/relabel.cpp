@@ -1,5 +1,7 @@
 #include "appearance/relabel.h"
 
+#include "appearance/PlainText.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QGroupBox>
@@ -26,16 +28,12 @@ int numberOf(const QObject& object, const char* name) {
   return object.property(name).toInt();
 }
 
-// Texts of the table carry no mnemonics: an "&" in one is meant to be seen.
-QString withoutMnemonic(QString text) {
-  return text.replace(u'&', QLatin1String("&&"));
-}
-
 QString withKey(const QString& toolTip, const QKeySequence& key) {
   return key.isEmpty() ? toolTip
                        : QStringLiteral("%1 (%2)").arg(toolTip, key.toString(QKeySequence::NativeText));
 }
 
+// Texts of the table carry no mnemonics: an "&" in one is meant to be seen.
 void relabelAction(QAction& action, const Texts& texts) {
   if (const int number = numberOf(action, kTextNumber))
     action.setText(withoutMnemonic(caption(texts, number)));
@@ -59,7 +57,7 @@ void setCaption(QWidget& widget, const QString& text) {
   } else if (auto* const group = qobject_cast<QGroupBox*>(&widget)) {
     group->setTitle(withoutMnemonic(text));
   } else {
-    widget.setWindowTitle(text);
+    widget.setWindowTitle(asTitle(text));
   }
 }
 

@@ -1,5 +1,6 @@
 #include "live/BenchPanel.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/JerseyButton.h"
@@ -11,7 +12,6 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QToolButton>
@@ -98,7 +98,7 @@ QWidget* BenchPanel::makeTeam(int team) {
   grid->setContentsMargins(kGap, kGap, kGap, kGap);
   grid->setSpacing(0);
 
-  m_names[t] = new QLabel(roster);
+  m_names[t] = new PlainLabel(roster);
   m_names[t]->setObjectName(QStringLiteral("lblBENCH(%1)").arg(team));
   m_allOut[t] = new QPushButton(roster);
   m_allOut[t]->setObjectName(QStringLiteral("cmdOUTALL(%1)").arg(team));

@@ -1,8 +1,8 @@
 #include "live/CountBox.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 
-#include <QLabel>
 #include <QPainter>
 
 #include <algorithm>
@@ -24,7 +24,7 @@ QFont fontOf(double pixels, bool isBold) {
 CountBox::CountBox(const QString& caption, const QStringList& countNames, QWidget* parent)
     : QWidget(parent), m_caption(caption) {
   for (const QString& name : countNames) {
-    auto* const label = new QLabel(this);
+    auto* const label = new PlainLabel(this);
     label->setObjectName(name);
     label->setForegroundRole(QPalette::WindowText); // on a button it would be that of buttons
     m_counts.push_back(label);

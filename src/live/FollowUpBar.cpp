@@ -1,5 +1,6 @@
 #include "live/FollowUpBar.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/JerseyButton.h"
@@ -9,7 +10,6 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 
@@ -73,7 +73,7 @@ FollowUpBar::~FollowUpBar() {
 }
 
 QLabel* FollowUpBar::makeTitle(QWidget* form) {
-  auto* title = new QLabel(form);
+  auto* title = new PlainLabel(form);
   title->setObjectName(QStringLiteral("lblQUESTION"));
   QFont bold = title->font();
   bold.setBold(true);
@@ -82,7 +82,7 @@ QLabel* FollowUpBar::makeTitle(QWidget* form) {
 }
 
 QLabel* FollowUpBar::makeBand(QWidget* form, const QString& name) {
-  auto* band = new QLabel(form);
+  auto* band = new PlainLabel(form);
   band->setObjectName(name);
   band->setAutoFillBackground(true);
   band->setMargin(kBandMargin);
@@ -105,7 +105,7 @@ QWidget* FollowUpBar::makeEnd(QWidget* form, const char* nobodyName) {
   auto* row = new QWidget(form);
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, kGap, 0, 0);
-  auto* hint = new QLabel(row);
+  auto* hint = new PlainLabel(row);
   hint->setForegroundRole(QPalette::PlaceholderText);
   hint->setWordWrap(true);
   setTextNumber(*hint, kHint);

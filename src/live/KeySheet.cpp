@@ -1,5 +1,6 @@
 #include "live/KeySheet.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/KeypadPicture.h"
@@ -7,7 +8,6 @@
 #include "storage/Module1.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QMouseEvent>
 
 #include <algorithm>
@@ -54,7 +54,7 @@ KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_text
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::Base);
   const auto text = [this](int number) {
-    auto* label = new QLabel(this);
+    auto* label = new PlainLabel(this);
     label->setWordWrap(true);
     setTextNumber(*label, number);
     return label;
@@ -69,7 +69,7 @@ KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_text
   bold.setBold(true);
   m_picture = new KeypadPicture(this);
   m_picture->setAttribute(Qt::WA_TransparentForMouseEvents);
-  m_letters = new QLabel(this);
+  m_letters = new PlainLabel(this);
   m_letters->setObjectName(QStringLiteral("lblLETTERS"));
   m_letters->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   m_letters->setWordWrap(true);

@@ -1,10 +1,10 @@
 #include "live/KeypadDisplay.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 
 #include <QApplication>
 #include <QBoxLayout>
-#include <QLabel>
 #include <QPainter>
 
 #include <chrono>
@@ -27,17 +27,16 @@ KeypadDisplay::KeypadDisplay(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("KeypadDisplay"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setAutoFillBackground(true);
-  m_typed = new QLabel(this);
+  m_typed = new PlainLabel(this);
   m_typed->setObjectName(QStringLiteral("txtACTION"));
   m_typed->setFont(Theme::figures(kTypedPoints, true));
-  m_words = new QLabel(this);
+  m_words = new PlainLabel(this);
   m_words->setObjectName(QStringLiteral("lblACTION"));
   QFont font = m_words->font();
   font.setPointSize(kWordsPoints);
   font.setBold(true);
   m_words->setFont(font);
   m_words->setWordWrap(true);
-  m_words->setTextFormat(Qt::PlainText);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->addWidget(m_typed);

@@ -1,5 +1,6 @@
 #include "live/KeypadPicture.h"
 
+#include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/QtKeys.h"
@@ -60,8 +61,8 @@ void KeypadPicture::showKeys(const KeypadSetup& setup, const Texts& texts,
     for (const KeypadAction action : actions)
       names << shortNameOf(action, texts);
     // A line for each word, as "SECONDARY Team" is wider than a key.
-    QString shown = names.join(u'/').replace(u' ', u'\n').replace(u'&', QLatin1String("&&"));
-    key.button->setText(keyName(key.code, texts) + u'\n' + shown);
+    const QString shown = names.join(u'/').replace(u' ', u'\n');
+    key.button->setText(withoutMnemonic(keyName(key.code, texts) + u'\n' + shown));
     key.button->setToolTip(names.join(u'\n'));
     key.button->setAccessibleName(keyName(key.code, texts) + QLatin1String(": ") +
                                   names.join(QLatin1String(", ")));

@@ -1,6 +1,7 @@
 #include "live/LiveEventPanel.h"
 
 #include "appearance/Icons.h"
+#include "appearance/PlainText.h"
 #include "appearance/relabel.h"
 #include "live/EventFilterRow.h"
 #include "live/LiveEventDelegate.h"
@@ -300,7 +301,7 @@ void LiveEventPanel::showTurn(QAction& action, const LiveAction* turned, int tex
       words = caption(m_texts, turned->text) + (words.isEmpty() ? words : QStringLiteral(" (%1)").arg(words));
   }
   const QString whole = turned == nullptr ? caption(m_texts, nothing) : withPlaceholder(m_texts, text, words);
-  action.setText(QString(whole).replace(u'&', QLatin1String("&&")));
+  action.setText(withoutMnemonic(whole));
   action.setToolTip(
       QStringLiteral("%1 (%2)").arg(whole, action.shortcut().toString(QKeySequence::NativeText)));
 }
@@ -365,9 +366,7 @@ void LiveEventPanel::offerRepairs(std::size_t event) {
     return;
   auto* menu = new PassingMenu(this);
   menu->setObjectName(QStringLiteral("mnuREPAIR"));
-  const auto add = [menu](std::string_view words) {
-    return menu->addAction(toQt(words).replace(u'&', QLatin1String("&&")));
-  };
+  const auto add = [menu](std::string_view words) { return menu->addAction(withoutMnemonic(toQt(words))); };
   bool isLast = true;
   for (const LiveFinding& finding : m_rows.findings()) {
     isLast = isLast && finding.event == event;
@@ -437,8 +436,8 @@ void LiveEventPanel::askDeletion() {
   menu->setObjectName(QStringLiteral("mnuDELETE"));
   std::vector<EventPlace> together = events;
   together.insert(together.end(), followUps.begin(), followUps.end());
-  const auto offer = [&](QString text, const std::vector<EventPlace>& places) {
-    connect(menu->addAction(text.replace(u'&', QLatin1String("&&"))), &QAction::triggered, this,
+  const auto offer = [&](const QString& text, const std::vector<EventPlace>& places) {
+    connect(menu->addAction(withoutMnemonic(text)), &QAction::triggered, this,
             [this, places] { emit deleteAsked(places, true); });
   };
   offer(withPlaceholder(m_texts, kDeleteWith, words.join(QStringLiteral(", "))), together);

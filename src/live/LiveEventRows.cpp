@@ -3,6 +3,8 @@
 #include "appearance/relabel.h"
 #include "live/ShotFollowUp.h"
 
+#include <algorithm>
+
 namespace hooptab {
 
 LiveEventRows::LiveEventRows(const Texts& texts, QObject* parent)
@@ -16,8 +18,11 @@ void LiveEventRows::show(const Game& game) {
   m_findings = checkRecorded(game);
   std::vector<Row> rows = rowsOf(game);
   const std::size_t before = m_ofEvents.size();
+  const std::size_t now = rows.size();
+  rows.resize(std::max(before, now)); // those that go are looked at while they go
   m_ofEvents.swap(rows);
   m_events.show(game);
+  m_ofEvents.resize(now);
   // Findings may have come or gone with an event far behind.
   for (std::size_t event = 0; event < std::min(before, m_ofEvents.size()); ++event) {
     if (rows[event] == m_ofEvents[event])

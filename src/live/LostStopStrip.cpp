@@ -1,11 +1,11 @@
 #include "live/LostStopStrip.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "storage/Module1.h"
 
 #include <QBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 
 namespace hooptab {
@@ -22,7 +22,7 @@ constexpr int kGap = 6;
 } // namespace
 
 LostStopStrip::LostStopStrip(const Texts& texts, QWidget* parent)
-    : QWidget(parent), m_texts(texts), m_text(new QLabel(this)), m_last(makeButton("cmdLASTCLOCK")),
+    : QWidget(parent), m_texts(texts), m_text(new PlainLabel(this)), m_last(makeButton("cmdLASTCLOCK")),
       m_runOn(makeButton("cmdRUNONCLOCK")) {
   setObjectName(QStringLiteral("picLOSTSTOP"));
   setAutoFillBackground(true);

@@ -1,5 +1,6 @@
 #include "live/PlayerPanel.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/CountBox.h"
@@ -9,7 +10,6 @@
 #include "live/StatControls.h"
 #include "storage/Settings.h"
 
-#include <QLabel>
 #include <QPainter>
 
 #include <algorithm>
@@ -99,9 +99,8 @@ QString PlayerPanel::named(const char* name) const {
 }
 
 QLabel* PlayerPanel::headLabel(const char* name, int toolTip) {
-  auto* const label = new QLabel(m_content);
+  auto* const label = new PlainLabel(m_content);
   label->setObjectName(named(name));
-  label->setTextFormat(Qt::PlainText);
   setToolTipNumber(*label, toolTip);
   return label;
 }

@@ -1,5 +1,7 @@
 #include "live/ScorePanel.h"
 
+#include "appearance/PlainLabel.h"
+#include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/ScoreText.h"
@@ -10,7 +12,6 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -123,7 +124,7 @@ ScorePanel::ScorePanel(const Texts& texts, QWidget* parent) : QWidget(parent), m
 }
 
 QLabel* ScorePanel::label(const QString& name, const QFont& font) {
-  auto* made = new QLabel(this);
+  auto* made = new PlainLabel(this);
   made->setObjectName(name);
   made->setFont(font);
   made->setAlignment(Qt::AlignCenter);
@@ -389,9 +390,8 @@ void ScorePanel::showSides() {
   for (std::size_t team = 0; team < 2; ++team) {
     QToolButton& plate = *m_sides[team].name;
     const bool playsRight = (team == 1) != m_team0PlaysRight;
-    QString name =
-        plate.fontMetrics().elidedText(abbreviation(team), Qt::ElideRight, kPlateWidth - kArrowRoom);
-    name.replace(u'&', QLatin1String("&&"));
+    const QString name = withoutMnemonic(
+        plate.fontMetrics().elidedText(abbreviation(team), Qt::ElideRight, kPlateWidth - kArrowRoom));
     plate.setText(playsRight ? name + QStringLiteral(" ▸") : QStringLiteral("◂ ") + name);
   }
   const std::size_t left = m_team0PlaysRight ? 1 : 0;

@@ -1,5 +1,7 @@
 #include "live/SelectedPlayer.h"
 
+#include "appearance/PlainLabel.h"
+#include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/LiveGame.h"
@@ -7,7 +9,6 @@
 
 #include <QAction>
 #include <QBoxLayout>
-#include <QLabel>
 #include <QMenu>
 #include <QToolButton>
 
@@ -27,7 +28,7 @@ constexpr int kButtonWidth = 30;
 } // namespace
 
 SelectedPlayer::SelectedPlayer(const Texts& texts, QWidget* parent)
-    : QWidget(parent), m_texts(texts), m_number(new QLabel(this)), m_name(new QLabel(this)),
+    : QWidget(parent), m_texts(texts), m_number(new PlainLabel(this)), m_name(new PlainLabel(this)),
       m_actions(new QWidget(this)) {
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -111,8 +112,7 @@ void SelectedPlayer::showPlayer(const LiveGame& game, int team, int player) {
     std::string label;
     if (code == EventCode::SU1 || code == EventCode::SU2)
       label = Settings::shownLabel(game.game().details.statisticLabel[code == EventCode::SU1 ? 0 : 1]);
-    action->setText(label.empty() ? caption(m_texts, kindOf(code)->wordsText)
-                                  : toQt(label).replace(u'&', QLatin1String("&&")));
+    action->setText(label.empty() ? caption(m_texts, kindOf(code)->wordsText) : withoutMnemonic(toQt(label)));
   }
   m_actions->setVisible(game.canRecord() && !game.slotOf(team, player));
 }

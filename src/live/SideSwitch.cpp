@@ -1,10 +1,10 @@
 #include "live/SideSwitch.h"
 
 #include "appearance/Icons.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 
 #include <QBoxLayout>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolButton>
@@ -51,7 +51,7 @@ class SideSwitch::Court : public QWidget {
 };
 
 SideSwitch::SideSwitch(QToolButton* button, QWidget* parent)
-    : QWidget(parent), m_court(new Court(this)), m_button(button), m_name(new QLabel(this)) {
+    : QWidget(parent), m_court(new Court(this)), m_button(button), m_name(new PlainLabel(this)) {
   m_court->setObjectName(QStringLiteral("picSWITCH"));
   m_name->setObjectName(QStringLiteral("lblSWITCH"));
   QFont small = font();
@@ -76,7 +76,6 @@ void SideSwitch::showSides(const QString& left, const std::array<QColor, 2>& col
   QString name = QStringLiteral("◂") + left;
   while (name.size() > 2 && m_name->fontMetrics().horizontalAdvance(name) > kWidth)
     name.chop(1); // the first letters tell the team better than one and dots
-  m_name->setTextFormat(Qt::PlainText);
   m_name->setText(name);
   for (QWidget* part :
        {static_cast<QWidget*>(m_court), static_cast<QWidget*>(m_name), static_cast<QWidget*>(m_button)}) {

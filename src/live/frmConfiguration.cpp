@@ -3,6 +3,8 @@
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
+#include "appearance/PlainLabel.h"
+#include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/KeyCodes.h"
@@ -13,7 +15,6 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTabWidget>
@@ -80,7 +81,7 @@ frmConfiguration::frmConfiguration(const KeypadSetup& setup, Settings& settings,
 QWidget* frmConfiguration::makeKeys() {
   auto* page = new QWidget(this);
   setTabTextNumber(*page, kKeysPage);
-  auto* instruction = new QLabel(page);
+  auto* instruction = new PlainLabel(page);
   instruction->setWordWrap(true);
   setTextNumber(*instruction, kInstruction);
   auto* boxes = new QGridLayout;
@@ -120,7 +121,7 @@ QWidget* frmConfiguration::makeKeys() {
 QWidget* frmConfiguration::makeLetters() {
   auto* page = new QWidget(this);
   setTabTextNumber(*page, kLettersPage);
-  auto* instruction = new QLabel(page);
+  auto* instruction = new PlainLabel(page);
   instruction->setWordWrap(true);
   setTextNumber(*instruction, kLetterInstruction);
   auto* boxes = new QGridLayout;
@@ -132,7 +133,7 @@ QWidget* frmConfiguration::makeLetters() {
     auto* field = new KeyField(QStringLiteral("txtLETTRE(%1)").arg(what), page);
     field->setFixedWidth(kLetterWidth);
     field->setAlignment(Qt::AlignCenter);
-    auto* words = new QLabel(page);
+    auto* words = new PlainLabel(page);
     words->setBuddy(field);
     const int row = static_cast<int>(place) % kRows;
     const int column = 2 * (static_cast<int>(place) / kRows);
@@ -210,7 +211,7 @@ void frmConfiguration::relabelWindow() {
   giveMnemonics(*this);
   for (std::size_t place = 0; place < LetterAssignment::kCount; ++place) {
     const QString words = wordsOfLetter(place + LetterAssignment::kFirst);
-    m_letterCaptions[place]->setText(words);
+    m_letterCaptions[place]->setText(withoutMnemonic(words));
     const QString hint = toQt(m_texts.withPlaceholder(kLetterFor, fromQt(words)));
     m_letters[place]->setToolTip(hint);
     m_letters[place]->setAccessibleName(hint);

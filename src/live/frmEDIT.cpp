@@ -3,6 +3,7 @@
 #include "appearance/CourtClick.h"
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/MiniCourt.h"
@@ -18,7 +19,6 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
@@ -116,9 +116,9 @@ void frmEDIT::makeFields() {
   m_court->setFixedSize(m_court->sizeHint());
   setToolTipNumber(*m_court, kCourtHint);
   setAccessibleNumber(*m_court, kCourtHint);
-  m_shot = new QLabel(this);
+  m_shot = new PlainLabel(this);
   m_shot->setObjectName(QStringLiteral("lbleditshot"));
-  m_xy = new QLabel(this);
+  m_xy = new PlainLabel(this);
   m_xy->setObjectName(QStringLiteral("lblxy"));
   m_accept = new QPushButton(this);
   m_accept->setObjectName(QStringLiteral("cmdOK"));

@@ -3,6 +3,7 @@
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "storage/GameDetails.h"
@@ -10,7 +11,6 @@
 #include "storage/codepage.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -41,7 +41,7 @@ constexpr int kGap = 8;
 frmGAMEOVER::frmGAMEOVER(const GameDetails& details, const Texts& texts, Dialogs& dialogs, QWidget* parent)
     : QDialog(parent), m_texts(texts), m_dialogs(dialogs), m_isFinished(details.isFinished),
       m_notesBefore(details.notes), m_lastNotes(toQt(details.notes)), m_notes(new QPlainTextEdit(this)),
-      m_length(new QLabel(this)) {
+      m_length(new PlainLabel(this)) {
   setObjectName(QStringLiteral("frmGAMEOVER"));
   setTextNumber(*this, kTitle);
   setModal(true);

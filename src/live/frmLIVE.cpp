@@ -3,6 +3,8 @@
 #include "appearance/CourtClick.h"
 #include "appearance/Dialogs.h"
 #include "appearance/NoticeStrip.h"
+#include "appearance/PlainLabel.h"
+#include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/BenchPanel.h"
@@ -26,7 +28,6 @@
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QLabel>
 #include <QMimeData>
 #include <QShortcut>
 #include <chrono>
@@ -99,7 +100,7 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
 frmLIVE::~frmLIVE() = default;
 
 QLabel* frmLIVE::makeBanner(const char* name) {
-  auto* banner = new QLabel(this);
+  auto* banner = new PlainLabel(this);
   banner->setObjectName(QLatin1String(name));
   banner->setAutoFillBackground(true);
   banner->setAlignment(Qt::AlignCenter);
@@ -274,10 +275,10 @@ void frmLIVE::showGame() {
   showDisk();
   m_lostStop->setVisible(m_game.isStopLost());
   const auto& details = m_game.game().details;
-  setWindowTitle(QStringLiteral("%1 - %2 %3 - %4 %5")
-                     .arg(toQt(m_texts.text(kWindowTitle)), toQt(details.abbreviation[0]),
-                          QString::number(m_game.state().points(0)),
-                          QString::number(m_game.state().points(1)), toQt(details.abbreviation[1])));
+  setWindowTitle(asTitle(QStringLiteral("%1 - %2 %3 - %4 %5")
+                             .arg(toQt(m_texts.text(kWindowTitle)), toQt(details.abbreviation[0]),
+                                  QString::number(m_game.state().points(0)),
+                                  QString::number(m_game.state().points(1)), toQt(details.abbreviation[1]))));
 }
 
 void frmLIVE::showSelected() {

@@ -2,6 +2,7 @@
 
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/GameClock.h"
@@ -10,7 +11,6 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -41,7 +41,7 @@ frmOVERTIME::frmOVERTIME(const GameDetails& details, const Texts& texts, QWidget
   m_keepsFouls->setChecked(details.keepsBonus); // as in the overtime before
   setTextNumber(*m_keepsFouls, kKeepFouls);
   setToolTipNumber(*m_keepsFouls, kKeepFouls);
-  auto* clock = new QLabel(this);
+  auto* clock = new PlainLabel(this);
   clock->setObjectName(QStringLiteral("lblTEMPS"));
   clock->setFont(Theme::figures(kClockPoints, true));
   clock->setAlignment(Qt::AlignCenter);

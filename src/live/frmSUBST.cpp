@@ -1,5 +1,7 @@
 #include "live/frmSUBST.h"
 
+#include "appearance/PlainLabel.h"
+#include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/ConflictWords.h"
@@ -9,7 +11,6 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
@@ -45,7 +46,7 @@ constexpr int kGap = 2;
 // A team's name on its colour.
 QLabel* bandOf(const LiveGame& game, int team, QWidget* parent) {
   const GameDetails& details = game.game().details;
-  auto* band = new QLabel(toQt(details.name[team]), parent);
+  auto* band = new PlainLabel(toQt(details.name[team]), parent);
   const QColor colour = colourOf(details.teamColour[team]);
   QPalette colours = band->palette();
   colours.setColor(QPalette::Window, colour);
@@ -83,7 +84,7 @@ void frmSUBST::makeContents() {
     addTeam(*teams, team);
   layout->addLayout(teams);
   if (m_past) {
-    m_conflict = new QLabel(this);
+    m_conflict = new PlainLabel(this);
     m_conflict->setObjectName(QStringLiteral("lblCONFLICT"));
     m_conflict->setMinimumHeight(m_conflict->fontMetrics().height()); // nothing moves when it speaks
     layout->addWidget(m_conflict);
@@ -99,7 +100,7 @@ void frmSUBST::makeContents() {
 
 // Without a title bar: of which moment this is.
 void frmSUBST::addPlace(QBoxLayout& layout) {
-  auto* place = new QLabel(this);
+  auto* place = new PlainLabel(this);
   place->setObjectName(QStringLiteral("lblPLACE"));
   QFont bold = place->font();
   bold.setBold(true);
@@ -107,7 +108,7 @@ void frmSUBST::addPlace(QBoxLayout& layout) {
   const std::string words =
       m_texts.withPlaceholder(kPlace, placeWords(m_past->event, m_game.game(), m_texts));
   place->setText(toQt(words));
-  setWindowTitle(place->text());
+  setWindowTitle(asTitle(place->text()));
   layout.addWidget(place);
 }
 
@@ -119,7 +120,7 @@ void frmSUBST::toggle(int team, int player) {
 void frmSUBST::addTeam(QGridLayout& layout, int team) {
   const auto t = static_cast<std::size_t>(team);
   const int row = layout.rowCount();
-  m_counts[t] = new QLabel(this);
+  m_counts[t] = new PlainLabel(this);
   m_counts[t]->setObjectName(QStringLiteral("lblCOUNT(%1)").arg(team));
   m_counts[t]->setFont(Theme::figures(12, true));
   setToolTipNumber(*m_counts[t], kCountName);
@@ -129,7 +130,7 @@ void frmSUBST::addTeam(QGridLayout& layout, int team) {
   head->addWidget(bandOf(m_game, team, this), 1);
   head->addWidget(m_counts[t]);
   layout.addLayout(head, row, 0);
-  auto* title = new QLabel(this);
+  auto* title = new PlainLabel(this);
   setTextNumber(*title, kLines);
   layout.addWidget(title, row, 1);
 
@@ -179,7 +180,7 @@ QWidget* frmSUBST::makeAnswers() {
   auto* row = new QWidget(this);
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, kGap, 0, 0);
-  auto* hint = new QLabel(row);
+  auto* hint = new PlainLabel(row);
   hint->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*hint, kHint);
   layout->addWidget(hint, 1);

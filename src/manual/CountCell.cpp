@@ -13,7 +13,7 @@ constexpr int kAir = 10; // beside and above the digits together, in pixels
 
 } // namespace
 
-CountCell::CountCell(const QString& name, QWidget* parent) : QLabel(parent) {
+CountCell::CountCell(const QString& name, QWidget* parent) : PlainLabel(parent) {
   setObjectName(name);
   setFont(Theme::figures(kPoints));
   setMaximumHeight(kLargestHeight);

@@ -2,11 +2,11 @@
 // the table tells it.
 #pragma once
 
-#include <QLabel>
+#include "appearance/PlainLabel.h"
 
 namespace hooptab {
 
-class CountCell : public QLabel {
+class CountCell : public PlainLabel {
   Q_OBJECT
  public:
   static constexpr int kLargestHeight = 30; // of a row

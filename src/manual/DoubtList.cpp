@@ -1,13 +1,13 @@
 #include "manual/DoubtList.h"
 
 #include "appearance/Fields.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "storage/Module1.h"
 
 #include <QBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -29,8 +29,8 @@ constexpr int kSmallestList = 44;
 } // namespace
 
 DoubtList::DoubtList(const CheckedSheet& sheet, const Texts& texts, CellWords words, QWidget* parent)
-    : QWidget(parent), m_sheet(sheet), m_texts(texts), m_words(std::move(words)), m_count(new QLabel(this)),
-      m_list(new QListWidget(this)) {
+    : QWidget(parent), m_sheet(sheet), m_texts(texts), m_words(std::move(words)),
+      m_count(new PlainLabel(this)), m_list(new QListWidget(this)) {
   m_count->setObjectName(QStringLiteral("lblDOUBT"));
   m_list->setObjectName(QStringLiteral("lstDOUBT"));
   m_list->setMinimumHeight(kSmallestList);

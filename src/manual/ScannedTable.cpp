@@ -1,5 +1,6 @@
 #include "manual/ScannedTable.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "manual/ManualColumns.h"
@@ -8,7 +9,6 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -71,7 +71,7 @@ void ScannedTable::addHeading(int player) {
   line->setAutoFillBackground(true);
   line->setBackgroundRole(QPalette::Button);
   Heading& heading = m_headings[static_cast<std::size_t>(player)];
-  heading.caption = new QLabel(line);
+  heading.caption = new PlainLabel(line);
   setTextNumber(*heading.caption, kStatisticsFor);
   heading.player = new QComboBox(line);
   heading.player->setObjectName(QStringLiteral("cmbSCANNED(%1)").arg(player));
@@ -81,7 +81,7 @@ void ScannedTable::addHeading(int player) {
   heading.caption->setBuddy(heading.player);
   setAccessibleNumber(*heading.player, kPlayerOfCounts);
   setToolTipNumber(*heading.player, kPlayerOfCounts);
-  heading.number = new QLabel(line);
+  heading.number = new PlainLabel(line);
   heading.number->setObjectName(QStringLiteral("lblSCANNED(%1)").arg(player));
   QFont bold = heading.number->font();
   bold.setBold(true);

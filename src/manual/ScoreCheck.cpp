@@ -1,12 +1,13 @@
 #include "manual/ScoreCheck.h"
 
+#include "appearance/ElidedLabel.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "manual/ManualGame.h"
 
 #include <QBoxLayout>
 #include <QIntValidator>
-#include <QLabel>
 #include <QLineEdit>
 
 #include <cstdlib>
@@ -33,17 +34,17 @@ ScoreCheck::ScoreCheck(const ManualGame& game, const Texts& texts, QWidget* pare
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
-  auto* caption = new QLabel(this);
+  auto* caption = new PlainLabel(this);
   setTextNumber(*caption, kFinalScore);
   for (int team = 0; team < 2; ++team) {
     const auto named = [team](const char* name) {
       return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(team);
     };
     Side& side = m_sides[static_cast<std::size_t>(team)];
-    side.team = new QLabel(this);
+    side.team = new ElidedLabel(this);
     side.team->setAutoFillBackground(true);
     side.team->setContentsMargins(kGap, 0, kGap, 0);
-    side.points = new QLabel(this);
+    side.points = new PlainLabel(this);
     side.points->setObjectName(named("lblSCORE"));
     side.points->setFont(Theme::figures(kScorePoints, true));
     side.typed = new QLineEdit(this);
@@ -52,13 +53,13 @@ ScoreCheck::ScoreCheck(const ManualGame& game, const Texts& texts, QWidget* pare
     side.typed->setFixedWidth(kFieldWidth);
     setToolTipNumber(*side.typed, kFinalScoreWords);
     setAccessibleNumber(*side.typed, kFinalScoreWords);
-    side.verdict = new QLabel(this);
+    side.verdict = new PlainLabel(this);
     side.verdict->setObjectName(named("lblFINAL"));
     connect(side.typed, &QLineEdit::textChanged, this, &ScoreCheck::showPoints);
   }
   layout->addWidget(m_sides[0].team);
   layout->addWidget(m_sides[0].points);
-  layout->addWidget(new QLabel(QStringLiteral("–"), this));
+  layout->addWidget(new PlainLabel(QStringLiteral("–"), this));
   layout->addWidget(m_sides[1].points);
   layout->addWidget(m_sides[1].team);
   layout->addSpacing(2 * kGap);

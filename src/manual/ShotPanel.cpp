@@ -1,13 +1,13 @@
 #include "manual/ShotPanel.h"
 
 #include "appearance/Fields.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "manual/ManualCourt.h"
 #include "manual/ManualGame.h"
 #include "storage/GameEvent.h"
 
 #include <QBoxLayout>
-#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
@@ -39,7 +39,7 @@ std::optional<court::Place> placeOf(const ManualShot& shot) {
 
 ShotPanel::ShotPanel(ManualGame& game, const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_game(game), m_texts(texts), m_court(new ManualCourt(settings, this)),
-      m_hint(new QLabel(this)), m_list(new QListWidget(this)),
+      m_hint(new PlainLabel(this)), m_list(new QListWidget(this)),
       m_delete(iconButton("CmdDELSHOT", kDelete, kDelete, "delete", this)) {
   m_court->setMinimumSize(200, 300);
   m_court->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

@@ -1,6 +1,7 @@
 #include "manual/TotalsTable.h"
 
 #include "appearance/ElidedLabel.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "manual/CountButton.h"
@@ -72,7 +73,7 @@ TotalsTable::TotalsTable(ManualGame& game, const Settings& settings, const Texts
 
 void TotalsTable::makeHeader() {
   auto* grid = qobject_cast<QGridLayout*>(layout());
-  m_nameHeader = new QLabel(this);
+  m_nameHeader = new PlainLabel(this);
   setTextNumber(*m_nameHeader, kPlayerName);
   grid->addWidget(m_nameHeader, 0, 0, kHeaderRows, 2, Qt::AlignBottom);
   for (int column = 0; column < kColumns; ++column) {
@@ -80,7 +81,7 @@ void TotalsTable::makeHeader() {
     const ManualColumn& counted = columnAt(column);
     const int place = kCountsFrom + column;
     if (counted.isMade) {
-      auto* group = new QLabel(this);
+      auto* group = new PlainLabel(this);
       group->setAlignment(Qt::AlignCenter);
       QFont bold = group->font();
       bold.setBold(true);
@@ -90,7 +91,7 @@ void TotalsTable::makeHeader() {
       m_groups[at] = group;
     }
     if (isShot(counted)) {
-      auto* made = new QLabel(this);
+      auto* made = new PlainLabel(this);
       made->setAlignment(Qt::AlignCenter);
       made->setForegroundRole(QPalette::PlaceholderText);
       setTextNumber(*made, counted.isMade ? kMadeShort : kAttemptedShort);
@@ -112,7 +113,7 @@ void TotalsTable::makeHeader() {
             [this, &counted](ManualTotals::Step step) { press(counted, step); });
     m_buttons[at] = button;
   }
-  m_pointsHeader = new QLabel(QStringLiteral("PTS"), this);
+  m_pointsHeader = new PlainLabel(QStringLiteral("PTS"), this);
   m_pointsHeader->setAlignment(Qt::AlignCenter | Qt::AlignBottom);
   setToolTipNumber(*m_pointsHeader, kPointsScored);
   grid->addWidget(m_pointsHeader, 0, kCountsFrom + kColumns, kHeaderRows, 1);

@@ -5,6 +5,8 @@
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
 #include "appearance/NoticeStrip.h"
+#include "appearance/PlainLabel.h"
+#include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "manual/ScoreCheck.h"
@@ -16,7 +18,6 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QFileInfo>
-#include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStackedLayout>
@@ -132,7 +133,7 @@ QWidget* frmMANUAL::makeHead(QWidget* page) {
 
 QWidget* frmMANUAL::makePlayerBar(QWidget* page) {
   auto* bar = new QWidget(page);
-  m_entry = new QLabel(bar); // never shown: which slot is worked on
+  m_entry = new PlainLabel(bar); // never shown: which slot is worked on
   m_entry->setObjectName(QStringLiteral("lblID"));
   m_entry->hide();
   m_player = new ElidedLabel(bar);
@@ -372,9 +373,10 @@ void frmMANUAL::showDisk() {
     m_retryOfWrites.start();
   const GameDetails& details = m_game.details();
   const auto points = [this](int team) { return QString::number(pointsOf(m_game.totals.teamCounts(team))); };
-  setWindowTitle(QStringLiteral("%1 - %2 %3 - %4 %5[*]")
-                     .arg(toQt(m_texts.text(kWindowTitle)), toQt(details.abbreviation[0]), points(0),
-                          points(1), toQt(details.abbreviation[1])));
+  const QString title = QStringLiteral("%1 - %2 %3 - %4 %5")
+                            .arg(toQt(m_texts.text(kWindowTitle)), toQt(details.abbreviation[0]), points(0),
+                                 points(1), toQt(details.abbreviation[1]));
+  setWindowTitle(asTitle(title) + QStringLiteral("[*]"));
   setWindowModified(!m_game.isSaved());
 }
 

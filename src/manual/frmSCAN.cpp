@@ -3,6 +3,7 @@
 #include "appearance/Dialogs.h"
 #include "appearance/ElidedLabel.h"
 #include "appearance/Fields.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "manual/DoubtList.h"
@@ -14,7 +15,6 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QGroupBox>
-#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QShortcut>
@@ -123,7 +123,7 @@ frmSCAN::~frmSCAN() {
 
 QWidget* frmSCAN::makeProgressPage() {
   auto* page = new QWidget(m_pages);
-  m_step = new QLabel(page);
+  m_step = new PlainLabel(page);
   m_step->setObjectName(QStringLiteral("lblSTEP"));
   m_step->setAlignment(Qt::AlignCenter);
   m_progress = new QProgressBar(page);
@@ -182,7 +182,7 @@ QWidget* frmSCAN::makePagePart() {
 
 QWidget* frmSCAN::makeCountPart(const Settings& settings) {
   auto* part = new QWidget(m_splitter);
-  auto* title = new QLabel(part);
+  auto* title = new PlainLabel(part);
   setTextNumber(*title, kResults);
   QFont bold = title->font();
   bold.setBold(true);
@@ -219,7 +219,7 @@ QWidget* frmSCAN::makeImportBox(QWidget* parent) {
   box->setObjectName(QStringLiteral("fraIMPORT"));
   setTextNumber(*box, kImportValues);
   setToolTipNumber(*box, kImportWords);
-  auto* words = new QLabel(box);
+  auto* words = new PlainLabel(box);
   setTextNumber(*words, kAddOrReplace);
   words->setWordWrap(true);
   words->setForegroundRole(QPalette::PlaceholderText);
@@ -299,8 +299,7 @@ int frmSCAN::pagesLeft() const {
 }
 
 void frmSCAN::readNext() {
-  m_view->showNothing();
-  m_scanned = {};
+  forgetSheet();
   if (++m_page >= m_pagesInFile) {
     m_files.removeFirst();
     m_page = 0;
@@ -387,7 +386,8 @@ void frmSCAN::refuse(const QString& reason) {
   const QString name = QFileInfo(m_files.first()).fileName();
   m_refusals << (m_pagesInFile == 1
                      ? name
-                     : QStringLiteral("%1 (%2/%3)").arg(name).arg(m_page + 1).arg(m_pagesInFile)) +
+                     : QStringLiteral("%1 (%2/%3)")
+                           .arg(name, QString::number(m_page + 1), QString::number(m_pagesInFile))) +
                     u": " + reason;
   readNext();
 }
@@ -425,8 +425,14 @@ void frmSCAN::close() {
   m_files.clear();
   m_refusals.clear();
   m_result.reset();
+  forgetSheet();
+}
+
+// Whoever knows its cells by their places knows none from now on.
+void frmSCAN::forgetSheet() {
   m_view->showNothing();
   m_scanned = {};
+  m_doubts->beginSheet();
 }
 
 // --- What the user does
@@ -546,13 +552,13 @@ QString frmSCAN::cellWords(std::size_t index) const {
   const QString player = playerWords(cell.player);
   if (cell.kind == FormCell::Kind::JerseyDigit)
     return QStringLiteral("%1: %2 %3")
-        .arg(player, caption(m_texts, kFirstPlace + cell.place))
-        .arg(cell.number);
+        .arg(player, caption(m_texts, kFirstPlace + cell.place), QString::number(cell.number));
   const auto kind = std::ranges::find(eventKinds(), cell.counter, &EventKind::counter);
   const QString sign = cell.kind == FormCell::Kind::Made     ? QStringLiteral(" ●")
                        : cell.kind == FormCell::Kind::Missed ? QStringLiteral(" ✕")
                                                              : QString();
-  return QStringLiteral("%1: %2%3 %4").arg(player, toQt(kind->shortName), sign).arg(cell.number + 1);
+  return QStringLiteral("%1: %2%3 %4")
+      .arg(player, toQt(kind->shortName), sign, QString::number(cell.number + 1));
 }
 
 void frmSCAN::relabelPanel() {

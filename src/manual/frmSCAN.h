@@ -71,6 +71,7 @@ class frmSCAN : public QWidget {
   void takeResult();
   void refuse(const QString& reason); // this page; the next one is read
   void tellRefusals();
+  void forgetSheet();
   void finish();
   void showSheet();
   void leave(); // after a question

@@ -2,6 +2,7 @@
 
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "printing/PrintTexts.h"
 #include "printing/Printers.h"
@@ -10,7 +11,6 @@
 #include <QBoxLayout>
 #include <QDir>
 #include <QFileInfo>
-#include <QLabel>
 #include <QPointer>
 #include <QPrinter>
 #include <QProgressBar>
@@ -69,7 +69,7 @@ int textOfProblem(WriteProblem problem) {
 ReportOutput::ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& files, const Settings& settings,
                            QWidget* parent)
     : QWidget(parent), m_texts(texts), m_dialogs(dialogs), m_files(files), m_settings(settings),
-      m_what(new QLabel(this)), m_progress(new QProgressBar(this)),
+      m_what(new PlainLabel(this)), m_progress(new QProgressBar(this)),
       m_cancel(iconButton("cmdCANCELREPORT", kCancelReport, kCancelReport, "clear", this)) {
   setObjectName(QStringLiteral("reportOutput"));
   m_what->setObjectName(QStringLiteral("lblREPORT"));

@@ -2,6 +2,7 @@
 
 #include "appearance/ChildWindow.h"
 #include "appearance/Icons.h"
+#include "appearance/PlainText.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "printing/PrintTexts.h"
@@ -70,7 +71,7 @@ bool copiesByItself(const QWidget& table) {
 QString aboutOf(const QWidget& widget) {
   for (const QWidget* each = &widget; each != nullptr; each = each->parentWidget()) {
     if (const auto* window = qobject_cast<const ChildWindow*>(each))
-      return window->windowTitle();
+      return shownTitle(*window);
   }
   return {};
 }

@@ -3,6 +3,7 @@
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
 #include "appearance/Icons.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "printing/PageView.h"
 #include "printing/PrintTexts.h"
@@ -14,7 +15,6 @@
 #include <QComboBox>
 #include <QDataStream>
 #include <QElapsedTimer>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPrinter>
@@ -150,7 +150,7 @@ QWidget* frmprint::makePageRow() {
   m_page->setMinimum(1);
   setToolTipNumber(*m_page, kShownPage);
   setAccessibleNumber(*m_page, kShownPage);
-  m_pageCount = new QLabel(row);
+  m_pageCount = new PlainLabel(row);
   m_pageCount->setObjectName(QStringLiteral("lblPAGES"));
 
   auto* layout = new QHBoxLayout(row);

@@ -308,6 +308,14 @@ std::vector<BoxRow> boxRows(const Game& game, const GameState& state, int team, 
   return std::move(rows).withTotal(texts);
 }
 
+std::string_view boxRowKey(const BoxRow& row) {
+  switch (row.kind) {
+  case BoxRowKind::Player: return row.number;
+  case BoxRowKind::Line: return row.name;
+  default: return {};
+  }
+}
+
 std::span<const BoxColumn, kBoxColumnCount> boxColumns() {
   return kColumns;
 }

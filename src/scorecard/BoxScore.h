@@ -64,6 +64,10 @@ struct BoxRow {
   BoxNumbers numbers;
 };
 
+// What a row is known by, beside its kind, when the game is read anew: entries are places, and another line
+// may have come before it.
+[[nodiscard]] std::string_view boxRowKey(const BoxRow& row);
+
 enum class BoxView : std::uint8_t { Players, Lines };
 
 // Rows in the order of the entries, the team's total last: the sum of every entry, its time the sum of the

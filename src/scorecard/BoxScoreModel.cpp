@@ -32,14 +32,15 @@ bool isZero(const BoxRow& row, int column) {
 }
 
 bool isSameRow(const BoxRow& one, const BoxRow& other) {
-  return one.kind == other.kind && one.entry == other.entry;
+  return one.kind == other.kind && boxRowKey(one) == boxRowKey(other);
 }
 
 bool isEqual(const BoxScoreModel::Row& one, const BoxScoreModel::Row& other) {
   const BoxRow& a = one.box;
   const BoxRow& b = other.box;
-  return one.check == other.check && a.number == b.number && a.name == b.name && a.position == b.position &&
-         a.numbers.seconds == b.numbers.seconds && a.numbers.counters == b.numbers.counters;
+  return one.check == other.check && a.entry == b.entry && a.number == b.number && a.name == b.name &&
+         a.position == b.position && a.numbers.seconds == b.numbers.seconds &&
+         a.numbers.counters == b.numbers.counters;
 }
 
 } // namespace

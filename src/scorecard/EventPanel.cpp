@@ -65,12 +65,12 @@ EventPanel::EventPanel(const Texts& texts, QWidget* parent)
     emit copied();
   });
   connect(m_search, &QLineEdit::textChanged, &m_found, &QSortFilterProxyModel::setFilterFixedString);
-  connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-          [this](const QModelIndex& current) {
-            const QModelIndex event = m_found.mapToSource(current);
-            emit eventChosen(event.isValid() ? std::optional(static_cast<std::uint32_t>(event.row()))
-                                             : std::nullopt);
-          });
+  connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &EventPanel::tellChosen);
+}
+
+void EventPanel::tellChosen() {
+  const QModelIndex event = m_found.mapToSource(m_list->currentIndex());
+  emit eventChosen(event.isValid() ? std::optional(static_cast<std::uint32_t>(event.row())) : std::nullopt);
 }
 
 void EventPanel::showGame(const Game& game, bool isNew) {
@@ -86,6 +86,7 @@ void EventPanel::showGame(const Game& game, bool isNew) {
     m_list->scrollToBottom();
   else if (isNew)
     m_list->scrollToTop();
+  tellChosen(); // others may have come before it
 }
 
 void EventPanel::relabel() {

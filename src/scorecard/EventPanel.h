@@ -33,6 +33,7 @@ class EventPanel : public QWidget {
   void copied();
 
  private:
+  void tellChosen();
   void fitColumns();
 
   EventListModel m_model;

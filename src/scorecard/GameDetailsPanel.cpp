@@ -1,11 +1,11 @@
 #include "scorecard/GameDetailsPanel.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "scorecard/ScorecardTexts.h"
 #include "storage/ChoiceTexts.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -42,7 +42,7 @@ GameDetailsPanel::GameDetailsPanel(QWidget* parent) : QWidget(parent), m_layout(
   m_personalFouls = addField("txtPFMAX", 1126, 3, 3);
   m_technicalFouls = addField("txtTFMAX", 1127, 4, 3);
 
-  auto* caption = new QLabel(this);
+  auto* caption = new PlainLabel(this);
   caption->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*caption, kGameNotes);
   m_notes = new QPlainTextEdit(this);
@@ -62,7 +62,7 @@ GameDetailsPanel::GameDetailsPanel(QWidget* parent) : QWidget(parent), m_layout(
 }
 
 QLineEdit* GameDetailsPanel::addField(const char* name, int text, int row, int column) {
-  auto* label = new QLabel(this);
+  auto* label = new PlainLabel(this);
   label->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*label, text);
   auto* field = new QLineEdit(this);

@@ -1,11 +1,12 @@
 #include "scorecard/LeadGrid.h"
 
+#include "appearance/ElidedLabel.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "scorecard/ScorecardTexts.h"
 
 #include <QGridLayout>
-#include <QLabel>
 
 namespace hooptab {
 
@@ -24,14 +25,14 @@ LeadGrid::LeadGrid(QWidget* parent) : QWidget(parent) {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setHorizontalSpacing(10);
   layout->setVerticalSpacing(0);
-  auto* title = new QLabel(this);
+  auto* title = new PlainLabel(this);
   title->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*title, kTimeInLead);
   layout->addWidget(title, 0, 0, 1, -1);
   for (std::size_t place = 0; place < kOrder.size(); ++place) {
     const int state = kOrder[place];
     Row& row = m_rows[static_cast<std::size_t>(state)];
-    row = {new QLabel(this), new QLabel(this), new QLabel(this)};
+    row = {new ElidedLabel(this), new PlainLabel(this), new PlainLabel(this)};
     row.time->setObjectName(QStringLiteral("lblLEAD(%1)").arg(state));
     row.times->setObjectName(QStringLiteral("lblLEADTIMES(%1)").arg(state));
     row.time->setFont(Theme::figures(kFigurePoints, true));

@@ -1,10 +1,11 @@
 #include "scorecard/PeriodGrid.h"
 
+#include "appearance/ElidedLabel.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 
 #include <QGridLayout>
-#include <QLabel>
 
 namespace hooptab {
 
@@ -24,12 +25,12 @@ PeriodGrid::PeriodGrid(Content content, const QString& name, int title, QWidget*
   auto* layout = new QGridLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  auto* caption = new QLabel(this);
+  auto* caption = new PlainLabel(this);
   caption->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*caption, title);
   layout->addWidget(caption, 0, 0, 1, -1);
   for (std::size_t team = 0; team < 2; ++team) {
-    m_teams[team] = new QLabel(this);
+    m_teams[team] = new ElidedLabel(this);
     m_teams[team]->setContentsMargins(0, 0, 8, 0);
     QFont bold = font();
     bold.setBold(true);
@@ -49,7 +50,7 @@ PeriodGrid::PeriodGrid(Content content, const QString& name, int title, QWidget*
 PeriodGrid::Column PeriodGrid::addColumn(QGridLayout& layout, const QString& name, int period, int place) {
   Column column;
   const auto add = [&](int row, bool isBold) {
-    auto* label = new QLabel(this);
+    auto* label = new PlainLabel(this);
     label->setAlignment(Qt::AlignCenter);
     label->setMinimumWidth(period == 0 ? kTotalWidth : kColumnWidth);
     if (row > 1)

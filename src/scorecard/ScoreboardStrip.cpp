@@ -1,5 +1,6 @@
 #include "scorecard/ScoreboardStrip.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "scorecard/LeadGrid.h"
@@ -9,7 +10,6 @@
 
 #include <QBoxLayout>
 #include <QFrame>
-#include <QLabel>
 
 namespace hooptab {
 
@@ -24,7 +24,7 @@ constexpr int kGap = 18;
 
 ScoreboardStrip::ScoreboardStrip(QWidget* parent)
     : QWidget(parent), m_plates{new TeamPlate(0, 1027, this), new TeamPlate(1, 1028, this)},
-      m_clock(new QLabel(this)), m_period(new QLabel(this)), m_status(new QLabel(this)),
+      m_clock(new PlainLabel(this)), m_period(new PlainLabel(this)), m_status(new PlainLabel(this)),
       m_points(
           new PeriodGrid(PeriodGrid::Content::Points, QStringLiteral("lblPOINTS"), kPointsByPeriod, this)),
       m_fouls(new PeriodGrid(PeriodGrid::Content::Fouls, QStringLiteral("lblFOULS"), kTeamFouls, this)),

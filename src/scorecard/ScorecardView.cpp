@@ -50,11 +50,11 @@ bool ScorecardView::isShown(const BoxColumn& column) const {
 
 ScorecardView::CheckMark ScorecardView::checkMark(const BoxRow& row) const {
   if (row.kind != BoxRowKind::Total)
-    return unchecked().contains(row.entry) ? CheckMark::None : CheckMark::All;
+    return unchecked().contains(boxRowKey(row)) ? CheckMark::None : CheckMark::All;
   const auto others =
       std::ranges::count_if(m_rows, [](const BoxRow& each) { return each.kind != BoxRowKind::Total; });
   const auto checked = std::ranges::count_if(m_rows, [this](const BoxRow& each) {
-    return each.kind != BoxRowKind::Total && !unchecked().contains(each.entry);
+    return each.kind != BoxRowKind::Total && !unchecked().contains(boxRowKey(each));
   });
   if (checked == others)
     return CheckMark::All;
@@ -62,18 +62,19 @@ ScorecardView::CheckMark ScorecardView::checkMark(const BoxRow& row) const {
 }
 
 void ScorecardView::check(const BoxRow& row, bool isChecked) {
-  const auto set = [&](int entry) {
+  const auto set = [&](const BoxRow& one) {
+    const std::string key(boxRowKey(one));
     if (isChecked)
-      unchecked().erase(entry);
+      unchecked().erase(key);
     else
-      unchecked().insert(entry);
+      unchecked().insert(key);
   };
   if (row.kind != BoxRowKind::Total) {
-    set(row.entry);
+    set(row);
   } else {
     for (const BoxRow& each : m_rows) {
       if (each.kind != BoxRowKind::Total)
-        set(each.entry);
+        set(each);
     }
   }
   fill();

@@ -8,7 +8,9 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <set>
+#include <string>
 #include <vector>
 
 namespace hooptab {
@@ -46,10 +48,11 @@ class ScorecardView {
   [[nodiscard]] std::vector<Shot> shots() const;
 
  private:
-  std::set<int>& unchecked() {
+  using RowKeys = std::set<std::string, std::less<>>;
+  RowKeys& unchecked() {
     return m_unchecked[static_cast<std::size_t>(m_team)][static_cast<std::size_t>(m_view)];
   }
-  const std::set<int>& unchecked() const {
+  const RowKeys& unchecked() const {
     return m_unchecked[static_cast<std::size_t>(m_team)][static_cast<std::size_t>(m_view)];
   }
   void fill();
@@ -61,8 +64,8 @@ class ScorecardView {
   BoxView m_view = BoxView::Players;
   Scope m_scope = Scope::Checked;
   bool m_hidesMadeAttempted = false;
-  // Entries by team and view. Whoever comes on court later is in none of them, hence checked.
-  std::array<std::array<std::set<int>, 2>, 2> m_unchecked;
+  // Rows by team and view. Whoever comes on court later is in none of them, hence checked.
+  std::array<std::array<RowKeys, 2>, 2> m_unchecked;
   std::vector<BoxRow> m_rows;
 };
 

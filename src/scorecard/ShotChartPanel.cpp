@@ -2,6 +2,7 @@
 
 #include "appearance/CourtView.h"
 #include "appearance/Icons.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "scorecard/ScorecardTexts.h"
@@ -11,7 +12,6 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QEvent>
-#include <QLabel>
 #include <QTextDocumentFragment>
 #include <QToolButton>
 #include <algorithm>
@@ -39,8 +39,8 @@ QString shotToolTip(const Shot& shot, const Game& game, const EventWords& words)
 ShotChartPanel::ShotChartPanel(const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_settings(settings), m_texts(texts), m_checked(addChoice("cmdSELECTED", true)),
       m_all(addChoice("cmdALL", false)), m_byShot(addChoice("cmdBYSHOT", true)),
-      m_byZone(addChoice("cmdBYZONE", false)), m_court(new CourtView(this)), m_numbers(new QLabel(this)),
-      m_withoutPlace(new QLabel(this)) {
+      m_byZone(addChoice("cmdBYZONE", false)), m_court(new CourtView(this)), m_numbers(new PlainLabel(this)),
+      m_withoutPlace(new PlainLabel(this)) {
   setTextNumber(*m_checked, 1014);
   setToolTipNumber(*m_checked, 1333);
   setTextNumber(*m_all, 1015);

@@ -1,6 +1,7 @@
 #include "scorecard/TeamPlate.h"
 
 #include "appearance/ElidedLabel.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 
@@ -16,8 +17,8 @@ constexpr int kAbbreviationPoints = 15;
 } // namespace
 
 TeamPlate::TeamPlate(int team, int side, QWidget* parent)
-    : QWidget(parent), m_side(new QLabel(this)), m_name(new ElidedLabel(this)),
-      m_abbreviation(new QLabel(this)), m_score(new QLabel(this)) {
+    : QWidget(parent), m_side(new PlainLabel(this)), m_name(new ElidedLabel(this)),
+      m_abbreviation(new ElidedLabel(this)), m_score(new PlainLabel(this)) {
   setObjectName(QStringLiteral("plate(%1)").arg(team));
   setAutoFillBackground(true);
   setTextNumber(*m_side, side);

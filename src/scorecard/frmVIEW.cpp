@@ -2,6 +2,8 @@
 
 #include "appearance/Fields.h"
 #include "appearance/Icons.h"
+#include "appearance/PlainLabel.h"
+#include "appearance/PlainText.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "scorecard/BoxTable.h"
@@ -19,7 +21,6 @@
 #include <QComboBox>
 #include <QDataStream>
 #include <QFileInfo>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QSplitter>
@@ -94,6 +95,7 @@ QWidget* frmVIEW::makeTables() {
   m_team = new QComboBox(panel);
   m_team->setObjectName(QStringLiteral("cmbTEAM"));
   m_team->setMinimumWidth(kTeamWidth);
+  m_team->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setAccessibleNumber(*m_team, kShownTeam);
   setToolTipNumber(*m_team, kShownTeam);
   auto* copy = new QToolButton(panel);
@@ -101,7 +103,7 @@ QWidget* frmVIEW::makeTables() {
   copy->setIcon(icon(QStringLiteral("copy")));
   setToolTipNumber(*copy, kCopyTable);
   setAccessibleNumber(*copy, kCopyTable);
-  m_kind = new QLabel(panel);
+  m_kind = new PlainLabel(panel);
   m_kind->setObjectName(QStringLiteral("lblVIEW"));
   m_kind->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*m_kind, kByPlayer);
@@ -274,7 +276,7 @@ void frmVIEW::restoreArrangement(const QByteArray& state) {
 void frmVIEW::showGame(bool isNew) {
   const Game& game = m_card->game();
   m_view.show(game, m_card->state());
-  setWindowTitle(toQt(m_card->title()));
+  setWindowTitle(asTitle(toQt(m_card->title())));
   m_strip->showBoard(scoreboard(game, m_card->state(), m_texts), m_texts);
   m_details->showDetails(game.details, m_texts);
   m_events->showGame(game, isNew);

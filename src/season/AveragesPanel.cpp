@@ -1,21 +1,21 @@
 #include "season/AveragesPanel.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "season/SeasonTables.h"
 #include "season/SeasonTexts.h"
 #include "season/ViewSwitch.h"
 
 #include <QBoxLayout>
-#include <QLabel>
 #include <QStackedWidget>
 
 namespace hooptab {
 
 AveragesPanel::AveragesPanel(SeasonTable kind, const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_kind(kind), m_settings(settings), m_texts(texts), m_switch(new ViewSwitch(this)),
-      m_scope(new QLabel(this)), m_warning(new QLabel(this)), m_stack(new QStackedWidget(this)) {
+      m_scope(new PlainLabel(this)), m_warning(new PlainLabel(this)), m_stack(new QStackedWidget(this)) {
   constexpr int kFrozen = 2; // number and name
-  auto* title = new QLabel(this);
+  auto* title = new PlainLabel(this);
   setTextNumber(*title, kind == SeasonTable::Lines ? kLineTitle : kPlayerTitle);
   QFont bold = title->font();
   bold.setBold(true);

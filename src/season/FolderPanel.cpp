@@ -2,12 +2,12 @@
 
 #include "appearance/Fields.h"
 #include "appearance/Icons.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "season/SeasonTexts.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -18,8 +18,8 @@ namespace hooptab {
 FolderPanel::FolderPanel(const Texts& texts, QWidget* parent)
     : QWidget(parent), m_folder(new QLineEdit(this)), m_withSubfolders(new QCheckBox(this)),
       m_browse(iconButton("cmdDIR", kBrowseFolders, kBrowseFolders, "vwopen", this)),
-      m_read(new QToolButton(this)), m_listed(new QLabel(this)), m_notRead(new QToolButton(this)),
-      m_progressText(new QLabel(this)), m_progress(new QProgressBar(this)),
+      m_read(new QToolButton(this)), m_listed(new PlainLabel(this)), m_notRead(new QToolButton(this)),
+      m_progressText(new PlainLabel(this)), m_progress(new QProgressBar(this)),
       m_cancel(iconButton("cmdCANCEL", kCancelReading, kCancelReading, "clear", this)) {
   constexpr int kBarWidth = 160;
   m_folder->setObjectName(QStringLiteral("txtDIR"));

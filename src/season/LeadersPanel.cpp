@@ -1,20 +1,32 @@
 #include "season/LeadersPanel.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "season/SeasonTables.h"
 #include "season/SeasonTexts.h"
 #include "season/ViewSwitch.h"
 
 #include <QBoxLayout>
-#include <QLabel>
+#include <QSignalBlocker>
 #include <QSplitter>
+#include <algorithm>
 
 namespace hooptab {
 
+namespace {
+
+// What most look for first.
+int pointsColumn() {
+  return seasonColumn("PTS").index;
+}
+
+} // namespace
+
 LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_settings(settings), m_texts(texts), m_switch(new ViewSwitch(this)),
-      m_title(new QLabel(this)), m_first(new SeasonTableView(QStringLiteral("lvwFIRST"), 0, this)),
-      m_leaders(new SeasonTableView(QStringLiteral("lvwLEADERS"), 0, this)) {
+      m_title(new PlainLabel(this)), m_first(new SeasonTableView(QStringLiteral("lvwFIRST"), 0, this)),
+      m_leaders(new SeasonTableView(QStringLiteral("lvwLEADERS"), 0, this)), m_column(pointsColumn()) {
+  m_title->setObjectName(QStringLiteral("lblSTATISTIC"));
   QFont bold = m_title->font();
   bold.setBold(true);
   m_title->setFont(bold);
@@ -43,26 +55,30 @@ LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget
   connect(m_first, &SeasonTableView::currentRowChanged, this, [this](int row) {
     if (row < 0)
       return;
-    m_statistic = static_cast<std::size_t>(row);
+    m_column = m_season->leaders(m_switch->view()).statistics()[static_cast<std::size_t>(row)].column;
     showLeaders();
   });
   connect(m_leaders, &SeasonTableView::rowAsked, this, [this](int row) {
-    const auto& leaders = m_season->leaders(m_switch->view()).statistics()[m_statistic].leaders;
+    const auto& leaders = m_season->leaders(m_switch->view()).statistics()[statistic()].leaders;
     emit personAsked(*leaders[static_cast<std::size_t>(row)].row);
   });
 }
 
 void LeadersPanel::showSeason(std::shared_ptr<const Season> season) {
   m_season = std::move(season);
-  // Points are what most look for first.
-  m_statistic = 0;
-  if (m_season != nullptr) {
-    const auto statistics = m_season->leaders(m_switch->view()).statistics();
-    const auto points = std::ranges::find(statistics, seasonColumn("PTS").index, &StatisticLeaders::column);
-    m_statistic = static_cast<std::size_t>(points - statistics.begin());
-  }
+  m_column = pointsColumn();
   showFirst();
   showLeaders();
+}
+
+// Where a view lacks the statistic that is chosen, its points are shown, and the choice waits for another
+// view.
+std::size_t LeadersPanel::statistic() const {
+  const auto statistics = m_season->leaders(m_switch->view()).statistics();
+  auto found = std::ranges::find(statistics, m_column, &StatisticLeaders::column);
+  if (found == statistics.end())
+    found = std::ranges::find(statistics, pointsColumn(), &StatisticLeaders::column);
+  return static_cast<std::size_t>(found - statistics.begin());
 }
 
 void LeadersPanel::relabelPanel() {
@@ -75,21 +91,22 @@ void LeadersPanel::showFirst() {
   m_first->showRows(m_season == nullptr ? TableRows()
                                         : firstLeaderRows(m_season, m_switch->view(), m_settings, m_texts));
   if (m_season != nullptr) {
-    const auto chosen = static_cast<int>(m_statistic);
+    const auto chosen = static_cast<int>(statistic());
+    const QSignalBlocker noChoice(m_first);
     m_first->setCurrentIndex(m_first->content().index(m_first->content().shownRow(chosen), 0));
   }
 }
 
 void LeadersPanel::showLeaders() {
   m_leaders->showRows(m_season == nullptr ? TableRows()
-                                          : leaderRows(m_season, m_switch->view(), m_statistic, m_texts));
+                                          : leaderRows(m_season, m_switch->view(), statistic(), m_texts));
   showTitle();
 }
 
 void LeadersPanel::showTitle() {
   if (m_season == nullptr)
     return m_title->setText(caption(m_texts, kNotGenerated));
-  const int column = m_season->leaders(m_switch->view()).statistics()[m_statistic].column;
+  const int column = m_season->leaders(m_switch->view()).statistics()[statistic()].column;
   m_title->setText(statisticName(column, m_settings, m_texts));
   setExportTitle(*m_leaders, m_title->text());
 }

@@ -29,6 +29,7 @@ class LeadersPanel : public QWidget {
   void showFirst();
   void showLeaders();
   void showTitle();
+  std::size_t statistic() const; // the place of what is shown in the view's list
 
   const Settings& m_settings;
   const Texts& m_texts;
@@ -37,7 +38,7 @@ class LeadersPanel : public QWidget {
   QLabel* m_title;
   SeasonTableView* m_first;
   SeasonTableView* m_leaders;
-  std::size_t m_statistic = 0; // the one that is chosen
+  int m_column; // of the statistic that is chosen: the views do not list the same ones
 };
 
 } // namespace hooptab

@@ -1,5 +1,7 @@
 #include "season/PersonPanel.h"
 
+#include "appearance/ElidedLabel.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "season/GamePictures.h"
 #include "season/SeasonTables.h"
@@ -9,7 +11,6 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <QSplitter>
 
@@ -19,8 +20,7 @@ namespace {
 
 constexpr int kFrozen = 4; // date, where, result, opponent
 
-QLabel* boldLabel(const char* name, QWidget* parent) {
-  auto* label = new QLabel(parent);
+QLabel* inBold(QLabel* label, const char* name) {
   label->setObjectName(QLatin1String(name));
   QFont bold = label->font();
   bold.setBold(true);
@@ -31,8 +31,8 @@ QLabel* boldLabel(const char* name, QWidget* parent) {
 } // namespace
 
 PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* parent)
-    : QWidget(parent), m_settings(settings), m_texts(texts), m_number(boldLabel("lblNO", this)),
-      m_name(boldLabel("lblNom", this)), m_games(new QLabel(this)) {
+    : QWidget(parent), m_settings(settings), m_texts(texts), m_number(inBold(new PlainLabel(this), "lblNO")),
+      m_name(inBold(new ElidedLabel(this), "lblNom")), m_games(new ElidedLabel(this)) {
   m_games->setObjectName(QStringLiteral("jGAME"));
   m_games->setForegroundRole(QPalette::PlaceholderText);
   auto* head = new QHBoxLayout;
@@ -41,7 +41,7 @@ PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* 
   head->addWidget(m_games);
   head->addStretch();
 
-  auto* resultTitle = boldLabel("lblRESULTS", this);
+  auto* resultTitle = inBold(new PlainLabel(this), "lblRESULTS");
   setTextNumber(*resultTitle, kResultsByGame);
   m_results = new SeasonTableView(QStringLiteral("lvwRESULTS"), kFrozen, this);
   setAccessibleNumber(*m_results, kResultsByGame);
@@ -80,7 +80,7 @@ PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* 
 
 QWidget* PersonPanel::makeRecords() {
   auto* part = new QWidget(this);
-  m_recordTitle = boldLabel("lblRECORDS", part);
+  m_recordTitle = inBold(new PlainLabel(part), "lblRECORDS");
   m_records = new SeasonTableView(QStringLiteral("lvwRECORD"), 0, part);
   auto* layout = new QVBoxLayout(part);
   layout->setContentsMargins(0, 0, 0, 0);

@@ -1,5 +1,6 @@
 #include "season/TeamPanel.h"
 
+#include "appearance/PlainLabel.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "season/GamePictures.h"
@@ -10,7 +11,6 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <QSplitter>
 
@@ -32,7 +32,7 @@ QString balanceText(const SeasonTeamRow& team, const Texts& texts) {
 } // namespace
 
 TeamPanel::TeamPanel(const Texts& texts, QWidget* parent)
-    : QWidget(parent), m_texts(texts), m_team(new QComboBox(this)), m_balance(new QLabel(this)) {
+    : QWidget(parent), m_texts(texts), m_team(new QComboBox(this)), m_balance(new PlainLabel(this)) {
   m_team->setObjectName(QStringLiteral("lstTEAM"));
   m_team->setMinimumWidth(kTeamWidth);
   setAccessibleNumber(*m_team, kShownTeam);

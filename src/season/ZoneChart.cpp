@@ -1,6 +1,7 @@
 #include "season/ZoneChart.h"
 
 #include "appearance/CourtView.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "season/SeasonTexts.h"
 #include "storage/Module1.h"
@@ -8,7 +9,6 @@
 #include <QBoxLayout>
 #include <QEvent>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QPalette>
 #include <algorithm>
 #include <cmath>
@@ -117,7 +117,7 @@ void paintZoneChart(QPainter& painter, const QRectF& area, const ShotSums& shots
 
 ZoneChart::ZoneChart(const QString& name, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_texts(texts), m_court(new CourtView(this)), m_legend(new Legend(this)),
-      m_caption(new QLabel(this)), m_numbers(new QLabel(this)), m_reason(new QLabel(this)) {
+      m_caption(new PlainLabel(this)), m_numbers(new PlainLabel(this)), m_reason(new PlainLabel(this)) {
   setObjectName(name);
   m_court->setObjectName(QStringLiteral("court"));
   m_court->setMinimumSize(150, 110);

@@ -1,6 +1,7 @@
 #include "setup/SidePanel.h"
 
 #include "appearance/Fields.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "setup/KeepsEnter.h"
@@ -10,7 +11,6 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -41,7 +41,7 @@ SidePanel::SidePanel(NewGame& game, int side, const Texts& texts, QWidget* paren
     : QGroupBox(parent), m_game(game), m_side(side), m_texts(texts), m_model(game, side, texts),
       m_teams(new TeamList(named("lstequipes"), QStringLiteral("-"), this)), m_name(new QLineEdit(this)),
       m_category(new QLineEdit(this)), m_main(new QRadioButton(this)),
-      m_table(new SidePlayersTable(m_model, named("lvwJOUEURS"), this)), m_count(new QLabel(this)) {
+      m_table(new SidePlayersTable(m_model, named("lvwJOUEURS"), this)), m_count(new PlainLabel(this)) {
   setTextNumber(*this, kSideNames[side]);
   m_teams->setTeams(game.teams());
   m_teams->setPosition(game.sides[side].team);
@@ -92,7 +92,7 @@ QLayout* SidePanel::makeFields() {
 }
 
 QLayout* SidePanel::makePlayers() {
-  auto* title = new QLabel(this);
+  auto* title = new PlainLabel(this);
   title->setBuddy(m_table);
   setTextNumber(*title, kActivePlayers);
   title->setForegroundRole(QPalette::PlaceholderText);

@@ -3,6 +3,7 @@
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "setup/KeepsEnter.h"
 #include "setup/SidePanel.h"
@@ -16,7 +17,6 @@
 #include <QDateEdit>
 #include <QDir>
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QLocale>
@@ -136,7 +136,7 @@ QWidget* frmNEWGAME::makeGameFields() {
     choice->setObjectName(QLatin1String(name));
     setAccessibleNumber(*choice, text);
     setToolTipNumber(*choice, text);
-    auto* label = new QLabel(group);
+    auto* label = new PlainLabel(group);
     setTextNumber(*label, text);
     label->setBuddy(choice);
     layout->addWidget(label, layout->rowCount(), 0, 1, 2);
@@ -196,7 +196,7 @@ QWidget* frmNEWGAME::makeRuleFields() {
 }
 
 QLayout* frmNEWGAME::makeButtons() {
-  m_missing = new QLabel(this);
+  m_missing = new PlainLabel(this);
   m_missing->setObjectName(QStringLiteral("lblMISSING"));
   m_missing->setWordWrap(true);
   m_missing->setFixedWidth(kColumnWidth);

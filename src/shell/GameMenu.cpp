@@ -1,5 +1,6 @@
 #include "shell/GameMenu.h"
 
+#include "appearance/PlainText.h"
 #include "appearance/relabel.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
@@ -16,11 +17,6 @@ namespace hooptab {
 namespace {
 
 constexpr int kNoGames = 1609;
-
-// Menus take "&" for the mark of a key.
-QString menuText(QString text) {
-  return text.replace(u'&', QStringLiteral("&&"));
-}
 
 } // namespace
 
@@ -63,7 +59,7 @@ GameMenu::GameMenu(List list, const Texts& texts, QWidget* parent)
 void GameMenu::fill() {
   clear();
   for (const GameEntry& game : m_list()) {
-    QAction* entry = addAction(menuText(game.label));
+    QAction* entry = addAction(withoutMnemonic(game.label));
     entry->setToolTip(QDir::toNativeSeparators(game.path));
     connect(entry, &QAction::triggered, this, [this, path = game.path] { emit chosen(path); });
   }

@@ -1,6 +1,7 @@
 #include "shell/InstanceLock.h"
 
 #include "appearance/Dialogs.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "storage/LockWatch.h"
 #include "storage/Module1.h"
@@ -52,7 +53,7 @@ bool InstanceLock::watchOther(const Texts& texts, Dialogs& dialogs, std::chrono:
   const LockFile::Owner owner = LockFile::ownerOf(m_file.look());
   QProgressDialog progress;
   progress.setWindowTitle(QStringLiteral("HOOPTAB"));
-  progress.setLabelText(toQt(texts.withPlaceholder(kLooking, owner.computer)));
+  progress.setLabel(new PlainLabel(toQt(texts.withPlaceholder(kLooking, owner.computer))));
   progress.setRange(0, kLooks);
   progress.setMinimumDuration(0);
   LockWatch watch(patience);

@@ -4,6 +4,7 @@
 #include "appearance/Dialogs.h"
 #include "appearance/GameHold.h"
 #include "appearance/Icons.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/frmCOULEURS.h"
 #include "appearance/relabel.h"
@@ -33,7 +34,6 @@
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMimeData>
@@ -125,7 +125,7 @@ MDI::MDI(const Workshop& workshop)
   m_pages->addWidget(m_area);
   setCentralWidget(m_pages);
 
-  m_unsaved = new QLabel(this);
+  m_unsaved = new PlainLabel(this);
   m_unsaved->setObjectName(QStringLiteral("lblUNSAVED"));
   m_unsaved->hide();
   statusBar()->addPermanentWidget(m_output);

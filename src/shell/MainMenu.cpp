@@ -1,6 +1,7 @@
 #include "shell/MainMenu.h"
 
 #include "appearance/Icons.h"
+#include "appearance/PlainText.h"
 #include "appearance/relabel.h"
 #include "shell/CommandBar.h"
 #include "shell/GameMenu.h"
@@ -144,7 +145,7 @@ void MainMenu::addWindowMenu(QMdiArea& area) {
     for (qsizetype i = entries.indexOf(beforeWindows) + 1; i < entries.size(); ++i)
       delete entries[i];
     for (QMdiSubWindow* window : area.subWindowList()) {
-      QAction* entry = menu.addAction(window->windowTitle().replace(u'&', QStringLiteral("&&")));
+      QAction* entry = menu.addAction(withoutMnemonic(shownTitle(*window)));
       entry->setCheckable(true);
       entry->setChecked(window == area.currentSubWindow());
       connect(entry, &QAction::triggered, window, [window, &area] { area.setActiveSubWindow(window); });

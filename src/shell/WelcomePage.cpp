@@ -1,11 +1,11 @@
 #include "shell/WelcomePage.h"
 
 #include "appearance/Icons.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 
 #include <QAction>
 #include <QBoxLayout>
-#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 
@@ -40,10 +40,10 @@ WelcomePage::WelcomePage(QAction& openGame, QMenu& recentGames, QMenu& sampleGam
   setObjectName(QStringLiteral("welcome"));
   auto* column = new QWidget(this);
   column->setFixedWidth(kColumnWidth);
-  auto* picture = new QLabel(column);
+  auto* picture = new PlainLabel(column);
   picture->setPixmap(icon(QStringLiteral("hooptab")).pixmap(kIconSize));
   picture->setAlignment(Qt::AlignCenter);
-  auto* hint = new QLabel(column);
+  auto* hint = new PlainLabel(column);
   hint->setObjectName(QStringLiteral("lblHINT"));
   hint->setWordWrap(true);
   hint->setAlignment(Qt::AlignCenter);

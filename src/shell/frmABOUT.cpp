@@ -1,12 +1,12 @@
 #include "shell/frmABOUT.h"
 
 #include "appearance/Icons.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QGridLayout>
-#include <QLabel>
 
 namespace hooptab {
 
@@ -28,13 +28,13 @@ frmABOUT::frmABOUT(const Texts& texts, QWidget* parent) : QDialog(parent) {
   layout->setContentsMargins(24, 24, 24, 16);
   layout->setHorizontalSpacing(24);
 
-  auto* picture = new QLabel(this);
+  auto* picture = new PlainLabel(this);
   picture->setPixmap(icon(QStringLiteral("hooptab")).pixmap(kIconSize));
   layout->addWidget(picture, 0, 0, 5, 1, Qt::AlignTop);
 
   int row = 0;
   const auto addLine = [&](const char* name, int text) {
-    auto* label = new QLabel(this);
+    auto* label = new PlainLabel(this);
     label->setObjectName(QLatin1String(name));
     label->setWordWrap(true);
     label->setFixedWidth(kTextWidth);

@@ -1,13 +1,13 @@
 #include "teams/PlayerEditor.h"
 
 #include "appearance/Fields.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "storage/ChoiceTexts.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
@@ -39,7 +39,7 @@ constexpr struct {
 
 PlayerEditor::PlayerEditor(const TeamSheet& sheet, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_sheet(sheet), m_texts(texts), m_number(nullptr), m_position(nullptr),
-      m_announcement(new QLabel(this)) {
+      m_announcement(new PlainLabel(this)) {
   auto* layout = new QGridLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setHorizontalSpacing(kGap);

@@ -4,6 +4,7 @@
 #include "appearance/Fields.h"
 #include "appearance/Icons.h"
 #include "appearance/Mnemonics.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "storage/codepage.h"
@@ -17,7 +18,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -179,7 +179,7 @@ QWidget* frmEQUIPES::makePlayers() {
   header.setSortIndicatorShown(true);
   header.setSortIndicator(-1, Qt::AscendingOrder); // the file's order
 
-  m_count = new QLabel(group);
+  m_count = new PlainLabel(group);
   m_count->setObjectName(QStringLiteral("lblCOUNT"));
   m_count->setForegroundRole(QPalette::PlaceholderText);
   auto* head = new QHBoxLayout;

@@ -117,6 +117,22 @@ TEST_F(LiveEventPanelTest, ShowsTheNewestFirstAndWhatBelongsTogether) {
   EXPECT_EQ(words(2), "  LYNX 5: assist");
 }
 
+// Another program has taken an event out of the middle of the file.
+TEST_F(LiveEventPanelTest, TakesAGameThatHasBecomeShorter) {
+  const QAbstractItemModelTester tester(list().model());
+  select(0);
+  Game shorter = live.game();
+  shorter.events = {};
+  for (const GameEvent& event : live.game().events) {
+    if (event.key != "3")
+      shorter.events.appendOwned(event.period, event.key, event.line);
+  }
+  auto& rows = *qobject_cast<LiveEventRows*>(list().model());
+  rows.show(shorter);
+  EXPECT_EQ(rows.rowCount(), 5);
+  EXPECT_EQ(words(0), "PUMA 10: personal foul");
+}
+
 TEST_F(LiveEventPanelTest, AsksForWhatIsToBeDone) {
   QSignalSpy deletions(&panel, &LiveEventPanel::deleteAsked);
   QSignalSpy edits(&panel, &LiveEventPanel::editAsked);

@@ -262,6 +262,7 @@ TEST_F(ScanWindowTest, TakesThePagesOfOneFileInTurnAndLeavesOnlyAfterAQuestion) 
   const auto prepared = preparedForms(panthers(), players({"4"}), texts);
   FilledForm filled(prepared);
   filled.tick(0, Kind::Count, Counter::ST, 2);
+  filled.hint(0, Kind::Count, Counter::BS, 3);
   filled.save(file("page.png"));
   QFile pages(toQt(file("pages.tif")));
   ASSERT_TRUE(pages.open(QIODevice::WriteOnly));
@@ -272,7 +273,12 @@ TEST_F(ScanWindowTest, TakesThePagesOfOneFileInTurnAndLeavesOnlyAfterAQuestion) 
   EXPECT_EQ(form(0, Counter::ST), "2");
   EXPECT_NE(shown("lblPAGE").find("1 of 2"), std::string::npos) << shown("lblPAGE");
   EXPECT_TRUE(find<QPushButton>("cmdSKIP").isVisible());
+  EXPECT_EQ(find<QListWidget>("lstDOUBT").count(), 1);
   press("cmdSKIP");
+  auto& stop = find<QPushButton>("cmdSTOPSCAN");
+  stop.setFocus();
+  QTest::keyClick(&stop, Qt::Key_F3); // the next doubt, of a sheet that is no longer there
+  EXPECT_EQ(find<QListWidget>("lstDOUBT").count(), 0);
   wait();
   ASSERT_TRUE(showsSheet());
   EXPECT_EQ(form(0, Counter::ST), "") << "the second page is empty";

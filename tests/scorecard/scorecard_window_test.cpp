@@ -93,6 +93,11 @@ class ScorecardWindowTest : public testing::Test {
     fs::last_write_time(game.file.path(), fs::file_time_type::clock::now() - std::chrono::seconds(10));
   }
   void tick() const { emit timer().timeout({}); }
+  void insert(const std::string& before, const std::string& line) {
+    ASSERT_EQ(
+        game.file.change({{EventChange::Kind::Add, 1, std::to_string(game.file.nextNumber()), line, before}}),
+        GameFileProblem::None);
+  }
 
   ViewedGame game;
   Texts texts;
@@ -280,9 +285,7 @@ TEST_F(ScorecardWindowTest, TheEventListFollowsEveryKindOfChange) {
   EXPECT_EQ(cell(events(), 5, EventListModel::Score), QStringLiteral("0-3"));
   EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("2"));
 
-  ASSERT_EQ(game.file.change(
-                {{EventChange::Kind::Add, 1, std::to_string(game.file.nextNumber()), "09:45,STO,0-4", "5"}}),
-            GameFileProblem::None);
+  insert("5", "09:45,STO,0-4");
   window->refresh();
   EXPECT_EQ(events().model()->rowCount(), count + 1);
   EXPECT_EQ(events().currentIndex().row(), 7) << "moved on with its event";
@@ -301,6 +304,33 @@ TEST_F(ScorecardWindowTest, AChosenShotStandsOutInTheChart) {
   ASSERT_EQ(drawn.size(), 3U);
   EXPECT_FALSE(drawn[0].isHighlighted);
   EXPECT_TRUE(drawn[1].isHighlighted);
+
+  insert("4", "09:55,STO,0-4");
+  window->refresh();
+  ASSERT_EQ(drawn.size(), 3U);
+  EXPECT_FALSE(drawn[0].isHighlighted);
+  EXPECT_TRUE(drawn[1].isHighlighted) << "the same shot, though it is another place in the list";
+}
+
+// Lines are numbered as they first come on court.
+TEST_F(ScorecardWindowTest, ALineStaysItselfWhenAnotherComesBeforeIt) {
+  const auto rowOfLine = [&](const char* jerseys) {
+    int row = 0;
+    while (row < table(1).model()->rowCount() && cell(table(1), row, 1) != QLatin1String(jerseys))
+      ++row;
+    return row;
+  };
+  window->setByLine(true);
+  setCheck(table(1), rowOfLine("5-12"), Qt::Unchecked);
+  table(1).selectRow(rowOfLine("5-12"));
+  insert("8", "09:35" + stopText("IN-04-12", "IN-07-08"));
+  insert("8", "09:32,STO,0-4");
+  window->refresh();
+  ASSERT_EQ(table(1).model()->rowCount(), 4);
+  EXPECT_EQ(check(table(1), rowOfLine("5-12")), Qt::Unchecked);
+  EXPECT_EQ(check(table(1), rowOfLine("4-12")), Qt::Checked);
+  ASSERT_EQ(table(1).selectionModel()->selectedRows().size(), 1);
+  EXPECT_EQ(table(1).selectionModel()->selectedRows()[0].row(), rowOfLine("5-12"));
 }
 
 TEST_F(ScorecardWindowTest, TimedModesReadAgainAndRestartTheirPeriod) {

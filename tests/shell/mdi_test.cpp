@@ -1,6 +1,7 @@
 #include "shell/MDI.h"
 
 #include "appearance/CourtView.h"
+#include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/frmCOULEURS.h"
 #include "appearance/relabel.h"
@@ -157,6 +158,29 @@ void collect(const QList<QAction*>& actions, std::set<QString>& names) {
     if (action->menu() != nullptr)
       collect(action->menu()->actions(), names);
   }
+}
+
+// "[*]" in a title is Qt's mark of what is not saved, "&" in a menu that of a key.
+TEST_F(MainWindowTest, TitlesAndMenusShowNamesAsTheyAre) {
+  dialogs.nextFile = makeGame("LIVE.GAM", "[*]&<b>");
+  action("LIVEOpen").trigger();
+  window->openGame(dialogs.nextFile);
+  const QString score = QStringLiteral("[*]&<b> 3 - 0 PUMA");
+  EXPECT_TRUE(window->windowTitle().contains(asTitle(score))) << fromQt(window->windowTitle());
+  ASSERT_EQ(area().subWindowList().size(), 2);
+  for (const QMdiSubWindow* each : area().subWindowList())
+    EXPECT_TRUE(shownTitle(*each).endsWith(score)) << fromQt(each->windowTitle());
+  QMenu* windows = action("windowNext").associatedObjects().isEmpty()
+                       ? nullptr
+                       : qobject_cast<QMenu*>(action("windowNext").associatedObjects().first());
+  ASSERT_NE(windows, nullptr);
+  emit windows->aboutToShow();
+  EXPECT_TRUE(windows->actions().last()->text().endsWith(QStringLiteral("[*]&&<b> 3 - 0 PUMA")))
+      << fromQt(windows->actions().last()->text());
+
+  QWidget modified;
+  modified.setWindowTitle(asTitle(QStringLiteral("A [*] - [*]")) + QStringLiteral("[*]"));
+  EXPECT_EQ(shownTitle(modified), QStringLiteral("A [*] - [*]"));
 }
 
 // The menu stands on the table itself; the same table is what the File menu exports.
