@@ -1,9 +1,11 @@
-// Makes the parts of the program, hands them down, and shows the main window.
+// Makes the parts of the program, hands them down, and shows the main window. Started by itself with
+// "--decode-page FILE PAGE", it decodes that page of a scanned form instead (manual/PageDecoder.h).
 #include "appearance/Dialogs.h"
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/TimeSource.h"
+#include "manual/DecoderProcess.h"
 #include "printing/Printers.h"
 #include "shell/Arguments.h"
 #include "shell/InstanceLock.h"
@@ -119,6 +121,8 @@ int run(QApplication& application, const Arguments& arguments, QtDialogs& dialog
 } // namespace
 
 int main(int argc, char** argv) {
+  if (const std::optional<int> status = decodePageIfAsked(argc, argv))
+    return *status;
   std::error_code ignored;
   const Arguments arguments =
       parseArguments({argv + 1, argv + argc}, std::filesystem::current_path(ignored).string());
