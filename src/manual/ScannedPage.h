@@ -32,7 +32,7 @@ struct PageRefusal {
 
 struct ScannedPage {
   static constexpr int kMostPages = 1000; // of a file
-  // Two sheets of Letter paper at 400 dots per inch: what is handed to the reader of forms has no more.
+  // Handed to the reader of forms; a sheet of A4 or Legal paper that was made coarser has no more.
   static constexpr std::size_t kMostPixels = 48'000'000;
 
   PageRefusal refusal;

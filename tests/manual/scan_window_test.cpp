@@ -305,6 +305,7 @@ TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
       {write("cut.bmp", bmp.left(bmp.size() - 1000)), text(2402)},
       {write("torn.tif", tif.chopped(200) + QByteArray(200, '\xFF')), text(2402)},
       {write("directories.tif", tifOfDirectories(1001)), texts.withPlaceholder(2403, "1000")},
+      {write("head.jpg", QByteArray("\xff\xd8\xff\xe0", 4)), text(2402)},
       {file("absent.png"), text(2400)},
       {folder.path(), text(2400)},
       {file("dot.png"), text(1408)},

@@ -78,26 +78,21 @@ void writeNumbers(QByteArray& bytes, Random& random) {
 
 // Each field of the first directory holds its value in the last four of twelve bytes.
 void changeTifFields(QByteArray& bytes, Random& random) {
-  quint32 directory = 0;
   if (bytes.size() < 8)
     return;
-  std::memcpy(&directory, bytes.constData() + 4, sizeof directory);
-  directory = qFromLittleEndian(directory);
-  if (directory + 16 > static_cast<quint32>(bytes.size()))
-    return;
+  const qsizetype directory = qFromLittleEndian<quint32>(bytes.constData() + 4);
   for (int left = random.between(1, 3); left > 0; --left) {
-    const quint32 at = directory + 2 + static_cast<quint32>(random.below(12) * 12 + random.below(12));
-    if (at < static_cast<quint32>(bytes.size()))
+    const qsizetype at = directory + 2 + random.below(12 * 12);
+    if (at < bytes.size())
       bytes[at] = static_cast<char>(random.next());
   }
 }
 
 // Links from directory to directory that go round in a circle, or anywhere.
 void tieTifLinks(QByteArray& bytes, Random& random) {
-  const auto size = static_cast<quint32>(bytes.size());
   for (qsizetype link = 4; link + 4 <= bytes.size();) {
-    const auto next = qFromLittleEndian<quint32>(bytes.constData() + link);
-    const bool isLast = next == 0 || next + 2 > size;
+    const qsizetype next = qFromLittleEndian<quint32>(bytes.constData() + link);
+    const bool isLast = next == 0 || next + 2 > bytes.size();
     if (isLast || random.chance(300)) {
       const quint32 target = random.chance(500) ? qFromLittleEndian<quint32>(bytes.constData() + 4)
                                                 : static_cast<quint32>(place(bytes, random));
