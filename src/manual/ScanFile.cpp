@@ -1,24 +1,25 @@
 #include "manual/ScanFile.h"
 
+#include "appearance/relabel.h"
+#include "manual/TiffPages.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 #include <QPainter>
-#include <QPixelFormat>
 #include <QtEndian>
 
 #include <algorithm>
 #include <array>
+#include <fstream>
 #include <new>
 
 namespace hooptab {
 
 namespace {
 
-constexpr int kNotAPicture = 1407;
-constexpr int kTooCoarse = 1408;
-constexpr int kTooLarge = 2305;
+using Reason = PageRefusal::Reason;
 
 constexpr std::array kFormats = {"bmp", "tiff", "png", "jpeg"};
 
@@ -43,15 +44,10 @@ bool isTooCoarse(const QImage& image) {
   return said < kCoarsestScan && inches >= kNarrowestPaper && inches <= kWidestPaper;
 }
 
-// Whether reading the picture, or its shades of grey, would take more memory than a reader may.
-bool isTooLarge(const QImageReader& reader) {
-  constexpr qint64 kBitsPerMegabyte = 8LL * 1024 * 1024;
-  constexpr int kGrayDepth = 8;
-  const QSize size = reader.size();
-  const QImage::Format format = reader.imageFormat();
-  const int depth = format == QImage::Format_Invalid ? 32 : QImage::toPixelFormat(format).bitsPerPixel();
-  return qint64{size.width()} * size.height() * std::max(depth, kGrayDepth) / kBitsPerMegabyte >=
-         QImageReader::allocationLimit();
+// The largest of which a decoder's process has room for the colours and the shades: A4 of 1000 dots per inch.
+bool isTooLarge(const QSize& size) {
+  constexpr qint64 kMostDots = 100'000'000;
+  return qint64{size.width()} * size.height() > kMostDots;
 }
 
 // The reader takes the rows that are missing for white ones.
@@ -97,46 +93,69 @@ GrayPicture reduced(const QImage& gray, int edge) {
   return picture;
 }
 
-ScannedPage load(const QString& path, int page) {
-  ScannedPage result;
-  const auto failed = [&result](int problem) {
-    result.problem = problem;
-    return result;
-  };
-  if (!QFileInfo(path).isFile()) // a pipe would never end
-    return failed(kNotAPicture);
-  QImageReader reader(path);
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  if (!reader.canRead() || !isOfThem(reader.format()) || isCutOff(path, reader.format()))
-    return failed(kNotAPicture);
-  result.pagesInFile = std::max(reader.imageCount(), 1);
+// A page may lie on its side; a long strip of paper stays too large.
+int edgeFor(const QImage& image) {
+  return std::max(std::min(image.width(), image.height()) / kPageOf300Dots, 1);
+}
+
+int pagesOf(const QString& path, const QByteArray& format) {
+  if (format != "tiff")
+    return 1;
+  std::ifstream file(fromQt(path), std::ios::binary);
+  return std::max(countTiffPages(file, ScannedPage::kMostPages), 1);
+}
+
+PageRefusal load(QImageReader& reader, int page, GrayPicture& picture) {
   if (page > 0 && !reader.jumpToImage(page))
-    return failed(kNotAPicture);
-  if (isTooLarge(reader))
-    return failed(kTooLarge);
+    return {Reason::Damaged};
+  if (isTooLarge(reader.size()))
+    return {Reason::TooLarge};
   QImage image = reader.read();
   if (image.isNull())
-    return failed(kNotAPicture);
+    return {Reason::Damaged};
   if (isTooCoarse(image))
-    return failed(kTooCoarse);
+    return {Reason::TooCoarse};
   image = onPaper(std::move(image)).convertToFormat(QImage::Format_Grayscale8);
   if (image.isNull()) // no memory
-    return failed(kTooLarge);
-  result.picture = reduced(image, std::max(std::min(image.width(), image.height()) / kPageOf300Dots, 1));
-  return result;
+    return {Reason::TooLarge};
+  const int edge = edgeFor(image);
+  if (static_cast<std::size_t>(image.width() / edge) * static_cast<std::size_t>(image.height() / edge) >
+      ScannedPage::kMostPixels)
+    return {Reason::TooLarge};
+  picture = reduced(image, edge);
+  return {};
 }
 
 } // namespace
 
-ScannedPage loadScan(const QString& path, int page) {
-  try {
-    return load(path, page);
-  } catch (const std::bad_alloc&) {
-    ScannedPage result;
-    result.problem = kTooLarge;
+ScannedPage loadScan(const QString& path, int page, const std::function<void(int)>& counted) {
+  ScannedPage result;
+  const auto refused = [&](Reason reason, int number = 0) {
+    counted(0);
+    result.refusal = {reason, number};
     return result;
+  };
+  // A pipe would never end.
+  if (!QFileInfo(path).isFile() || !QFile(path).open(QIODevice::ReadOnly))
+    return refused(Reason::CannotOpen);
+  QImageReader reader(path);
+  reader.setDecideFormatFromContent(true);
+  reader.setAutoTransform(true);
+  QImageReader::setAllocationLimit(0); // the process has one
+  if (!reader.canRead() || !isOfThem(reader.format()))
+    return refused(Reason::NotAPicture);
+  if (isCutOff(path, reader.format()))
+    return refused(Reason::Damaged);
+  result.pagesInFile = pagesOf(path, reader.format());
+  if (result.pagesInFile > ScannedPage::kMostPages)
+    return refused(Reason::TooManyPages, ScannedPage::kMostPages);
+  counted(result.pagesInFile);
+  try {
+    result.refusal = load(reader, page, result.picture);
+  } catch (const std::bad_alloc&) {
+    result.refusal = {Reason::TooLarge};
   }
+  return result;
 }
 
 } // namespace hooptab

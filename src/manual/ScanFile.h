@@ -1,21 +1,18 @@
-// Loads the pages of a picture file from a scanner as shades of grey: BMP, TIF (of one or more pages), PNG
-// and JPEG. Says with a text's number why a picture is of no use; what is on the page is not looked at.
+// Decodes a page of a picture file from a scanner: BMP, TIF (of one or more pages), PNG and JPEG. Only for
+// the process that was started for it: a damaged picture may bring the decoders down. What is on the page is
+// not looked at.
 #pragma once
 
-#include "manual/GrayPicture.h"
+#include "manual/ScannedPage.h"
 
 #include <QString>
 
+#include <functional>
+
 namespace hooptab {
 
-struct ScannedPage {
-  int problem = 0; // number of the text that says it; then there is no picture
-  GrayPicture picture;
-  int pagesInFile = 1;
-};
-
-// Page from 0. May run in any thread, and costs no more memory than a picture reader is allowed to take. What
-// is far finer than 300 dots per inch is made coarser.
-[[nodiscard]] ScannedPage loadScan(const QString& path, int page);
+// Page from 0. What is far finer than 300 dots per inch is made coarser. `counted` is told the number of
+// pages, 0 when they cannot be counted, once and before the page is decoded.
+[[nodiscard]] ScannedPage loadScan(const QString& path, int page, const std::function<void(int)>& counted);
 
 } // namespace hooptab

@@ -46,7 +46,6 @@ constexpr int kVerificationReport = 1398;
 constexpr int kPageOf = 2206;
 constexpr int kWholePage = 2221;
 constexpr int kPageWidth = 2222;
-constexpr int kTooLarge = 2305;
 constexpr int kOtherTeam = 2306;
 constexpr int kSheet = 2307;
 constexpr int kTeamOfForm = 2308;
@@ -66,6 +65,7 @@ constexpr int kAddWords = 2342;
 constexpr int kReplaceWords = 2343;
 constexpr int kCancelWords = 2344;
 constexpr int kFirstPlace = 2345; // hundreds; tens and units follow
+constexpr int kMoreRefused = 2407;
 
 constexpr int kGap = 6;
 constexpr int kProgressWidth = 360;
@@ -73,6 +73,7 @@ constexpr int kSmallestPage = 300;
 constexpr int kPageShare = 450; // of the width; the counts need no scrolling on a screen 1366 wide
 constexpr int kCountShare = 900;
 constexpr double kZoomStep = 1.25;
+constexpr qsizetype kMostTold = 20; // pages in one message: it must fit on the screen
 
 QToolButton* viewButton(const char* name, int text, const QString& sign, QWidget* parent) {
   auto* button = new QToolButton(parent);
@@ -95,8 +96,8 @@ QString joined(const List& list, Words words) {
 } // namespace
 
 struct frmSCAN::Result {
-  int problem = 0; // number of its text
-  int pagesInFile = 1;
+  PageRefusal refusal;
+  int pagesInFile = 0; // 0: not known
   std::shared_ptr<const GrayPicture> picture;
   FormReading reading;
 };
@@ -274,7 +275,7 @@ void frmSCAN::connectEverything() {
   connect(m_doubts, &DoubtList::judged, this, &frmSCAN::settleCurrent);
   connect(&m_work, &BackgroundWork::failed, this, [this] {
     auto noMemory = std::make_shared<Result>();
-    noMemory->problem = kTooLarge;
+    noMemory->refusal = {PageRefusal::Reason::TooLarge};
     m_result = noMemory;
   });
   connect(&m_work, &BackgroundWork::finished, this, &frmSCAN::takeResult);
@@ -330,15 +331,14 @@ void frmSCAN::startReading() {
         Qt::QueuedConnection);
     return !isStopped->load();
   };
-  m_work.start([this, progress, path = m_files.first(), page = m_page, formLayout = m_layout,
-                isStopped = m_isStopped]() -> BackgroundWork::Delivery {
+  m_work.start([this, progress, decoder = m_decoder, path = fromQt(m_files.first()), page = m_page,
+                formLayout = m_layout, isStopped = m_isStopped]() -> BackgroundWork::Delivery {
     auto result = std::make_shared<Result>();
-    ScannedPage scanned = loadScan(path, page);
-    result->problem = scanned.problem;
+    ScannedPage scanned = decoder.decode(path, page, *isStopped);
+    result->refusal = scanned.refusal;
     result->pagesInFile = scanned.pagesInFile;
-    if (result->problem == 0 && progress(0)) {
+    if (!scanned.picture.pixels.empty() && progress(0)) {
       result->reading = FormReader(*formLayout).read(scanned.picture, progress);
-      result->problem = textOf(result->reading.problem);
       result->picture = std::make_shared<GrayPicture>(std::move(scanned.picture));
     }
     return [this, result, isStopped] {
@@ -353,9 +353,12 @@ void frmSCAN::takeResult() {
     return;
   if (m_result == nullptr) // it was for what has been closed since
     return startReading();
-  m_pagesInFile = m_result->pagesInFile;
-  if (m_result->problem != 0)
-    return refuse(toQt(m_texts.text(m_result->problem)));
+  if (m_result->pagesInFile > 0)
+    m_pagesInFile = m_result->pagesInFile;
+  if (m_result->picture == nullptr)
+    return refuse(toQt(explained(m_result->refusal, m_texts)));
+  if (const int problem = textOf(m_result->reading.problem); problem != 0)
+    return refuse(toQt(m_texts.text(problem)));
   const std::array<bool, 2> teams = teamsOf(m_result->reading.identifier, m_game.details());
   if (!teams[0] && !teams[1]) {
     const auto nameOf = [this](int team) {
@@ -396,7 +399,9 @@ void frmSCAN::refuse(const QString& reason) {
 void frmSCAN::tellRefusals() {
   if (m_refusals.isEmpty())
     return;
-  const QString text = m_refusals.join(u'\n');
+  QString text = m_refusals.mid(0, kMostTold).join(u'\n');
+  if (const qsizetype more = m_refusals.size() - kMostTold; more > 0)
+    text += u'\n' + toQt(m_texts.withPlaceholder(kMoreRefused, std::to_string(more)));
   m_refusals.clear();
   m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), text);
 }

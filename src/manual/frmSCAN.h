@@ -6,7 +6,7 @@
 
 #include "appearance/BackgroundWork.h"
 #include "manual/ManualGame.h"
-#include "manual/ScanFile.h"
+#include "manual/PageDecoder.h"
 #include "manual/ScannedTotals.h"
 #include "storage/Settings.h"
 #include "storage/Texts.h"
@@ -46,6 +46,9 @@ class frmSCAN : public QWidget {
   bool isOpen() const { return m_isOpen; }
   int pagesLeft() const; // that are known of, the one in sight included
   void close();          // without a question
+
+  // In place of the program itself.
+  void decodeWith(const PageDecoder& decoder) { m_decoder = decoder; }
 
   void relabelPanel();
   void applyColours();
@@ -93,6 +96,7 @@ class frmSCAN : public QWidget {
   const Texts& m_texts;
   Dialogs& m_dialogs;
   std::shared_ptr<const FormLayout> m_layout;
+  PageDecoder m_decoder;
   bool m_isOpen = false;
   int m_team = 0; // of blank forms
   int m_imported = 0;

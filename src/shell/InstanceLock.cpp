@@ -19,6 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr int kTitle = 1001;
 constexpr int kIsOpen = 1436;
 constexpr int kLooking = 2452;
 constexpr int kNoSignOfLife = 2453;
@@ -52,7 +53,7 @@ bool InstanceLock::admits(const Texts& texts, Dialogs& dialogs, std::chrono::mil
 bool InstanceLock::watchOther(const Texts& texts, Dialogs& dialogs, std::chrono::milliseconds patience) {
   const LockFile::Owner owner = LockFile::ownerOf(m_file.look());
   QProgressDialog progress;
-  progress.setWindowTitle(QStringLiteral("HOOPTAB"));
+  progress.setWindowTitle(caption(texts, kTitle));
   progress.setLabel(new PlainLabel(toQt(texts.withPlaceholder(kLooking, owner.computer))));
   progress.setRange(0, kLooks);
   progress.setMinimumDuration(0);

@@ -1,9 +1,11 @@
-// Makes the parts of the program, hands them down, and shows the main window.
+// Makes the parts of the program, hands them down, and shows the main window. Started by itself with
+// "--decode-page FILE PAGE", it decodes that page of a scanned form instead (manual/PageDecoder.h).
 #include "appearance/Dialogs.h"
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/TimeSource.h"
+#include "manual/DecoderProcess.h"
 #include "printing/Printers.h"
 #include "shell/Application.h"
 #include "shell/Arguments.h"
@@ -145,6 +147,8 @@ int main(int argc, char** argv) {
   // A file that grows over its limit is a write that fails, and not the end.
   std::signal(SIGXFSZ, SIG_IGN);
   try {
+    if (const std::optional<int> status = decodePageIfAsked(argc, argv))
+      return *status;
     return start(argc, argv);
   } catch (const std::exception& failure) {
     std::cerr << "hooptab: something went wrong inside the program: " << failure.what() << '\n';

@@ -5,6 +5,7 @@
 #include "manual/FilledForm.h"
 #include "manual/ManualColumns.h"
 #include "manual/OpenManualGame.h"
+#include "manual/PictureFile.h"
 #include "manual/ScanView.h"
 #include "manual/ScannedModel.h"
 #include "printing/ScanReport.h"
@@ -19,7 +20,7 @@
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
-#include <QtEndian>
+#include <cstring>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -41,40 +42,6 @@ std::vector<TeamPlayer> players(const std::vector<std::string>& numbers) {
     list.back().record.name = "Player with a name of more than forty letters " + number;
   }
   return list;
-}
-
-// A TIF file with a page for each picture: shades of grey, not compressed.
-QByteArray tifOf(const std::vector<QImage>& pictures) {
-  QByteArray bytes("II\x2a\0\0\0\0\0", 8);
-  qsizetype link = 4; // where the place of the next directory stands
-  const auto put = [&bytes](auto value) {
-    const auto stored = qToLittleEndian(value);
-    bytes.append(reinterpret_cast<const char*>(&stored), sizeof stored);
-  };
-  for (const QImage& picture : pictures) {
-    const QImage gray = picture.convertToFormat(QImage::Format_Grayscale8);
-    const auto data = static_cast<quint32>(bytes.size());
-    for (int row = 0; row < gray.height(); ++row)
-      bytes.append(reinterpret_cast<const char*>(gray.constScanLine(row)), gray.width());
-    if (bytes.size() % 2 != 0)
-      bytes.append('\0');
-    qToLittleEndian(static_cast<quint32>(bytes.size()), bytes.data() + link);
-    const auto width = static_cast<quint32>(gray.width());
-    const auto height = static_cast<quint32>(gray.height());
-    const std::pair<quint16, quint32> tags[] = {{256, width}, {257, height}, {258, 8},
-                                                {259, 1},     {262, 1},      {273, data},
-                                                {277, 1},     {278, height}, {279, width * height}};
-    put(static_cast<quint16>(std::size(tags)));
-    for (const auto& [tag, value] : tags) {
-      put(tag);
-      put(quint16{4}); // one number of 32 bits
-      put(quint32{1});
-      put(value);
-    }
-    link = bytes.size();
-    put(quint32{0});
-  }
-  return bytes;
 }
 
 class ScanWindowTest : public OpenManualGame {
@@ -333,22 +300,25 @@ TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
   wide.fill(1);
   EXPECT_TRUE(wide.save(toQt(file("wide.png"))));
 
+  const std::string kinds = text(1407) + ". " + text(2401);
   const struct {
     std::string file;
-    int text;
+    std::string reason;
   } cases[] = {
-      {write("notes.tif", "these are words"), 1407},
-      {write("empty.bmp", ""), 1407},
-      {write("cut.tif", tif.left(tif.size() / 2)), 1407},
-      {write("cut.bmp", bmp.left(bmp.size() - 1000)), 1407},
-      {write("torn.tif", tif.chopped(200) + QByteArray(200, '\xFF')), 1407},
-      {file("absent.png"), 1407},
-      {folder.path(), 1407},
-      {file("dot.png"), 1408},
-      {file("coarse.png"), 1408},
-      {file("wide.png"), 2305},
-      {file("photo.jpg"), 1225},
-      {file("theirs.bmp"), 2306},
+      {write("notes.tif", "these are words"), kinds},
+      {write("empty.bmp", ""), kinds},
+      {write("cut.tif", tif.left(tif.size() / 2)), text(2402)},
+      {write("cut.bmp", bmp.left(bmp.size() - 1000)), text(2402)},
+      {write("torn.tif", tif.chopped(200) + QByteArray(200, '\xFF')), text(2402)},
+      {write("directories.tif", tifOfDirectories(1001)), texts.withPlaceholder(2403, "1000")},
+      {write("head.jpg", QByteArray("\xff\xd8\xff\xe0", 4)), text(2402)},
+      {file("absent.png"), text(2400)},
+      {folder.path(), text(2400)},
+      {file("dot.png"), text(1408)},
+      {file("coarse.png"), text(1408)},
+      {file("wide.png"), text(2305)},
+      {file("photo.jpg"), text(1225)},
+      {file("theirs.bmp"), text(1236)},
   };
   std::vector<std::string> all;
   for (const auto& bad : cases)
@@ -360,13 +330,72 @@ TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
   ASSERT_EQ(told.size(), static_cast<qsizetype>(std::size(cases)) + 1) << fromQt(dialogs.shown[0].text);
   for (std::size_t bad = 0; bad < std::size(cases); ++bad) {
     const std::string name = fromQt(QFileInfo(toQt(cases[bad].file)).fileName());
-    const int number = cases[bad].text == 2306 ? 1236 : cases[bad].text;
-    EXPECT_EQ(fromQt(told[static_cast<qsizetype>(bad)]), name + ": " + text(number));
+    EXPECT_EQ(fromQt(told[static_cast<qsizetype>(bad)]), name + ": " + cases[bad].reason);
   }
   EXPECT_NE(fromQt(told.last()).find("PAN"), std::string::npos) << "which teams it could be of";
   EXPECT_NE(fromQt(told.last()).find("OLY"), std::string::npos);
   EXPECT_FALSE(window->isWindowModified());
   EXPECT_EQ(shown("lblHINT"), text(2291)) << "nothing was imported";
+}
+
+// A script in the place of the process that decodes: it does as the file's name says, or decodes.
+TEST_F(ScanWindowTest, GoesOnWithTheNextPageWhateverThePictureDoesToItsDecoder) {
+  const std::string script =
+      folder.write("decoder.sh", "#!/bin/sh\n"
+                                 "case $2-$3 in\n"
+                                 "*crash*) kill -SEGV $$ ;;\n"
+                                 "*pages*-0) printf 'HTPG\\2\\0\\0\\0'; kill -ABRT $$ ;;\n"
+                                 "*garbage*) echo not an answer at all ;;\n"
+                                 "*hang*) echo $$ > " +
+                                     file("process") +
+                                     "; exec sleep 100 ;;\n"
+                                     "esac\n"
+                                     "exec '" +
+                                     fromQt(QApplication::applicationFilePath()) + "' \"$@\"\n");
+  ASSERT_TRUE(QFile::setPermissions(toQt(script), QFile::ReadOwner | QFile::ExeOwner));
+  auto& forms = find<frmSCAN>("frmSCAN");
+  forms.decodeWith({script, std::chrono::seconds(2)});
+  FilledForm filled(preparedForms(panthers(), players({"4"}), texts));
+  filled.tick(0, Kind::Count, Counter::ST, 2);
+  filled.save(file("good.png"));
+  QFile pages(toQt(file("pages.tif")));
+  ASSERT_TRUE(pages.open(QIODevice::WriteOnly));
+  pages.write(tifOf({filled.picture(), filled.picture()}));
+  pages.close();
+  choose({"crash.png", "garbage.png", "hang.png", file("pages.tif"), file("good.png")});
+  ASSERT_TRUE(showsSheet());
+  EXPECT_EQ(form(0, Counter::ST), "2");
+  EXPECT_NE(shown("lblPAGE").find("2 of 2"), std::string::npos) << shown("lblPAGE");
+  ASSERT_EQ(dialogs.shown.size(), 1u);
+  const std::string broken = ": " + text(2404) + '\n';
+  EXPECT_EQ(fromQt(dialogs.shown[0].text) + '\n', "crash.png" + broken + "garbage.png" + broken +
+                                                      "hang.png: " + texts.withPlaceholder(2405, "2") +
+                                                      "\npages.tif (1/2)" + broken);
+  press("cmdSKIP");
+  wait();
+  ASSERT_TRUE(showsSheet());
+  press("cmdCANCELSCAN");
+
+  // Stopped while the process hangs: at once, and it is gone.
+  forms.decodeWith({script, std::chrono::seconds(60)});
+  QFile::remove(toQt(file("process")));
+  dialogs.nextFiles = {QStringLiteral("hang.png")};
+  press("cmdFORM");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return folder.read("process").ends_with('\n'); }, kPatience));
+  press("cmdSTOPSCAN");
+  EXPECT_TRUE(showsTotals());
+  const QString process = u"/proc/" + toQt(folder.read("process")).trimmed();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !QFileInfo::exists(process); }, 10000));
+
+  forms.decodeWith({file("absent"), std::chrono::seconds(60)});
+  dialogs.shown.clear();
+  choose(std::vector<std::string>(25, file("good.png")));
+  ASSERT_TRUE(showsTotals());
+  ASSERT_EQ(dialogs.shown.size(), 1u);
+  const QStringList told = dialogs.shown[0].text.split(u'\n');
+  ASSERT_EQ(told.size(), 21);
+  EXPECT_EQ(fromQt(told.first()), "good.png: " + texts.withPlaceholder(2406, std::strerror(ENOENT)));
+  EXPECT_EQ(fromQt(told.last()), texts.withPlaceholder(2407, "5"));
 }
 
 TEST(ScanReport, NamesWhatIsDoubtfulAndWhatWasChanged) {
