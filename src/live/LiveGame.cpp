@@ -54,7 +54,7 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
 ForeignHands LiveGame::takeForeignHands() {
   ForeignHands hands = m_log.takeForeignHands();
   if (hands.isTouched) { // others may be on court, at other places of the roster
-    putOnCourt(inForce(m_log.lines(), kMostPeriods, {}, m_log.rosters()));
+    putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters()));
     decideAgain();
   }
   return hands;

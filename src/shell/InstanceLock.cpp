@@ -19,7 +19,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kTitle = 1001;
 constexpr int kIsOpen = 1436;
 constexpr int kLooking = 2452;
 constexpr int kNoSignOfLife = 2453;
@@ -53,7 +52,7 @@ bool InstanceLock::admits(const Texts& texts, Dialogs& dialogs, std::chrono::mil
 bool InstanceLock::watchOther(const Texts& texts, Dialogs& dialogs, std::chrono::milliseconds patience) {
   const LockFile::Owner owner = LockFile::ownerOf(m_file.look());
   QProgressDialog progress;
-  progress.setWindowTitle(caption(texts, kTitle));
+  progress.setWindowTitle(QStringLiteral("HOOPTAB"));
   progress.setLabel(new PlainLabel(toQt(texts.withPlaceholder(kLooking, owner.computer))));
   progress.setRange(0, kLooks);
   progress.setMinimumDuration(0);

@@ -84,8 +84,7 @@ class Merger {
   bool isNew(int period, const Line& line) {
     const int number = Module1::wholeNumber(line.first);
     const std::string_view readable = std::string_view(line.second).substr(0, cinifile::kLongestValue);
-    return number > 0 &&
-           GameEvent::parse(period, line.first, readable).isUnderstood &&
+    return number > 0 && GameEvent::parse(period, line.first, readable).isUnderstood &&
            m_numbers.insert(number).second;
   }
 
@@ -116,10 +115,12 @@ bool isNamed(const EventLines& lines, int team, std::string_view jersey) {
       return false;
     if (event.code != EventCode::ARRET)
       return event.player.team == team && event.player.jersey == jersey;
-    const auto onCourt = Module1::jerseysOfList(event.onCourt(static_cast<std::size_t>(team)));
-    return onCourt && std::ranges::any_of(*onCourt, [&](std::string_view other) {
-             return other == jersey || Module1::leadingNumber(other) == Module1::wholeNumber(jersey);
-           });
+    for (const std::string_view other :
+         Module1::JerseysOfList(event.onCourt(static_cast<std::size_t>(team)))) {
+      if (other == jersey || Module1::leadingNumber(other) == Module1::wholeNumber(jersey))
+        return true;
+    }
+    return false;
   };
   return std::ranges::any_of(lines,
                              [&](const auto& period) { return std::ranges::any_of(period.second, names); });

@@ -26,7 +26,7 @@ forbid 'RichText|AutoText|MarkdownText|fromHtml|[sS]etHtml|insertHtml|QTextDocum
 forbid 'setWhatsThis|WhatsThisRole|QTipLabel' 'appearance/ProgramStyle\.cpp' 'a tool tip'
 forbid '\bsetStyle\(' 'appearance/Theme\.cpp' 'the style that makes tool tips plain'
 forbid '"&&"' 'appearance/PlainText\.cpp' 'withoutMnemonic'
-forbid '\.(windowTitle|setWindowTitle)\(|>windowTitle\(\)' 'appearance/PlainText\.cpp|appearance/relabel\.cpp|shell/Rehearsal\.cpp' 'shownTitle'
+forbid '\.(windowTitle|setWindowTitle)\(|>windowTitle\(\)' 'appearance/PlainText\.cpp|appearance/relabel\.cpp|shell/(Rehearsal|InstanceLock)\.cpp' 'shownTitle'
 
 # Titles that are no text of the table go through asTitle().
 titles=$(grep -rnE --include='*.cpp' 'setWindowTitle\(' . | sed 's|^\./||' | grep -vE 'asTitle\(|caption\(|"HOOPTAB')
