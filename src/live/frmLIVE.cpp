@@ -142,11 +142,8 @@ QWidget* frmLIVE::makeSide() {
 
 void frmLIVE::connectEverything() {
   connect(&m_timer, &QTimer::timeout, this, &frmLIVE::tick);
-  connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
-    m_game.settle();
-    showGame();
-  });
-  connect(m_hold, &GameHold::fileChanged, this, &frmLIVE::fileChanged);
+  connect(&m_retryOfWrites, &QTimer::timeout, this, &frmLIVE::lookAtFile);
+  connect(m_hold, &GameHold::fileChanged, this, &frmLIVE::lookAtFile);
   connect(m_hold, &GameHold::taken, this, [this] { (void)open(path()); });
   for (PlayerPanel* panel : m_panels) {
     connect(panel, &PlayerPanel::courtPressed, this, &frmLIVE::pressCourt);
@@ -330,14 +327,19 @@ void frmLIVE::takeForeignHands() {
     m_foreign->tell(toQt(words));
 }
 
-// By this window's own writes, too: what is as it was left costs a look.
-void frmLIVE::fileChanged() {
-  if (m_game.phase() != LiveGame::Phase::ReadOnly)
-    m_game.settle();
-  else if (!m_isHeldElsewhere ||
-           m_game.open(m_game.game().path, LiveGame::Access::Reading) != GameFileProblem::None)
+// Also after this window's own writes: then it is as it was left, and nothing is shown anew.
+void frmLIVE::lookAtFile() {
+  if (m_game.phase() == LiveGame::Phase::ReadOnly) {
+    if (m_isHeldElsewhere &&
+        m_game.open(m_game.game().path, LiveGame::Access::Reading) == GameFileProblem::None)
+      showGame();
     return;
-  showGame();
+  }
+  m_game.settle();
+  if (m_game.disk().hasForeignHands())
+    showGame();
+  else
+    showDisk();
 }
 
 // --- Clock

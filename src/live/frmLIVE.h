@@ -81,7 +81,7 @@ class frmLIVE : public ChildWindow {
   void showDisk();
   void showReadOnly();
   void takeForeignHands();
-  void fileChanged();
+  void lookAtFile();
   void tick();
   void toggleClock();
   void setOnCourt(const OnCourt& onCourt);

@@ -68,7 +68,8 @@ bool FileGuard::rewrite(const ProfileBatch& batch, Theirs theirs) {
 // The rest of a file that was cut off says nothing that is not ours.
 bool FileGuard::keepWhatStandsInTheWay() {
   const ProfileText& text = m_store.profile();
-  if (m_store.readOutcome() == ReadOutcome::Absent ||
+  std::string target; // a link that leads nowhere has none
+  if ((m_store.readOutcome() == ReadOutcome::Absent && m_store.files().resolve(m_path, target)) ||
       (m_store.readOutcome() == ReadOutcome::Read && m_left.bytes().starts_with(text.bytes())))
     return true;
   const std::string kept = freeNameBeside(m_store.files(), m_path);

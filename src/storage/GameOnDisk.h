@@ -58,6 +58,7 @@ class GameOnDisk {
 
   // The file as it was left; what others made of it included.
   const ProfileText& text() const { return m_guard.left(); }
+  bool hasForeignHands() const { return m_foreign.isTouched; }
   // What others did since it was last asked for.
   [[nodiscard]] ForeignHands takeForeignHands() { return std::exchange(m_foreign, {}); }
 

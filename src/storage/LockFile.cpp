@@ -1,5 +1,6 @@
 #include "storage/LockFile.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <charconv>
@@ -7,6 +8,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <mutex>
+#include <random>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
@@ -78,10 +80,12 @@ std::string programOf(long process) {
   return name;
 }
 
+// No two locks have the same, not even those of one process.
 std::string ownText() {
   const long process = ::getpid();
+  std::random_device random;
   return std::to_string(process) + '\n' + programOf(process) + '\n' + thisComputer() + '\n' + computerId() +
-         '\n' + startId() + '\n';
+         '\n' + startId() + '\n' + std::to_string(random()) + std::to_string(random()) + '\n';
 }
 
 std::vector<std::string> linesOf(const std::string& text) {

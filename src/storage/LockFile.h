@@ -1,7 +1,8 @@
 // A lock that is a file: who made it holds it, and renews its time stamp as long as he lives. The text in it
 // (process, program, computer, the computer's id, the id of its start; a line each) is that of QLockFile, so
-// that older versions of this program read it. A lock whose process is gone on this computer is removed; of
-// another computer's, nobody can tell but by watching whether it is renewed: their clocks differ.
+// that older versions of this program read it; a number behind it tells locks apart. A lock whose process is
+// gone on this computer is removed; of another computer's, nobody can tell but by watching whether it is
+// renewed: their clocks differ.
 #pragma once
 
 #include <chrono>

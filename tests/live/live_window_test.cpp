@@ -19,12 +19,14 @@
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace hooptab {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::chrono_literals;
 
 class LiveWindowTest : public testing::Test {
  protected:
@@ -253,13 +255,50 @@ TEST_F(LiveWindowTest, AnotherGameWaitsForTheFirst) {
   EXPECT_EQ(label("lblTEMPS"), "10:00");
   EXPECT_EQ(find<QToolButton>("cmdCOUL(0)").text(), sides) << "a game begins with its own sides";
   GameLock elsewhere;
-  ASSERT_EQ(elsewhere.acquire(toQt(path)), GameLock::Outcome::Held);
-  EXPECT_EQ(window->open(toQt(path)), frmLIVE::Opening::Refused);
-  EXPECT_TRUE(dialogs.shown.back().text.contains(QString::number(QCoreApplication::applicationPid())))
-      << dialogs.shown.back().text.toStdString();
-  EXPECT_EQ(window->path(), toQt(other));
-  press("cmdBUTTF(0)"); // nobody there
-  EXPECT_EQ(eventsOf(other), "");
+  ASSERT_EQ(elsewhere.acquire(plain, path), GameLock::Outcome::Held);
+  window->hold().setPatience(400ms, 50ms);
+  ASSERT_EQ(window->open(toQt(path)), frmLIVE::Opening::Opened) << "for reading";
+  EXPECT_NE(label("lblREADONLY").find(std::to_string(QCoreApplication::applicationPid())), std::string::npos);
+  const std::string before = eventsOf(path);
+  press("cmdBUTTF(0)");
+  EXPECT_EQ(eventsOf(path), before);
+  cinifile theirs{plain};
+  GameFile file(theirs, path);
+  ASSERT_EQ(file.append(1, 500, file.nextNumber(), {",GF3,1-4,60,80"}), GameFileProblem::None);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return label("lblPTS1") == "3"; }, 8000)) << "it follows the file";
+
+  // Its lock stands still, so it is offered, refused, and taken when it has stood still once more.
+  EXPECT_TRUE(QTest::qWaitFor([&] { return dialogs.shown.back().kind == ScriptedDialogs::Kind::Ask; }, 5000));
+  EXPECT_TRUE(find("lblREADONLY").isVisible());
+  dialogs.nextAnswer = true;
+  fs::last_write_time(path + ".lock", fs::file_time_type::clock::now());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !find("lblREADONLY").isVisible(); }, 5000));
+  EXPECT_FALSE(elsewhere.isStillOurs());
+  press("cmdBUTTF(0)");
+  EXPECT_EQ(eventsOf(path), before + " 08:20,GF3,1-4,60,80 08:20,STF,0-4");
+}
+
+TEST_F(LiveWindowTest, TellsWhatOthersDidToTheFileAndWhoHasTakenIt) {
+  std::ofstream(path, std::ios::app) << "99=10:00,SST,1-5\r\n";
+  press("cmdBUTFT(0)");
+  EXPECT_TRUE(find("picFOREIGN").isVisible());
+  press("cmdDISMISS");
+  EXPECT_FALSE(find("picFOREIGN").isVisible());
+  fs::remove(path);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return find("picFOREIGN").isVisible(); }, 8000)) << "without a click";
+  EXPECT_TRUE(fs::exists(path));
+
+  LockFile thief(path + ".lock");
+  ASSERT_EQ(thief.takeOver(thief.look()), LockFile::Outcome::Held);
+  const std::string before = folder.read("stick/A.GAM");
+  press("cmdBUTFT(0)");
+  EXPECT_EQ(folder.read("stick/A.GAM"), before);
+  EXPECT_TRUE(find("lblNOTONDISK").isVisible());
+  EXPECT_TRUE(folder.holds("A.GAM.rescue"));
+  EXPECT_EQ(label("lblPTS0"), "2") << "and it is counted all the same";
+  dialogs.nextAnswer = true;
+  window.reset();
+  EXPECT_TRUE(thief.isStillOurs()) << "whoever has lost a lock removes none";
 }
 
 // A clock of three-digit minutes would be written into lines that nobody understands.

@@ -39,7 +39,7 @@ class ManualTruth : public testing::TestWithParam<std::filesystem::path> {
     window.show();
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    ASSERT_EQ(window.open(toQt(path)), frmMANUAL::Opening::Opened);
+    ASSERT_TRUE(window.open(toQt(path)));
   }
 
   template <class Widget>

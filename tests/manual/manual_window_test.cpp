@@ -255,24 +255,27 @@ TEST_F(ManualWindowTest, LosesNothingWithoutAQuestion) {
   EXPECT_TRUE(window->agreesToClose());
 }
 
-TEST_F(ManualWindowTest, KeepsStrangeLinesWithANoticeAndRefusesAGameThatIsOpenElsewhere) {
+TEST_F(ManualWindowTest, KeepsStrangeLinesWithANoticeAndOnlyReadsAGameThatIsOpenElsewhere) {
   EXPECT_FALSE(find<QLabel>("lblNOTICE").isVisible());
   const std::string strange =
       folder.write("B.GAM", textOfGame("[PERIODE1]\n1=00:00,SA,0-4\n2=00:00,SA,0-99\n", "INPUTTYPE=1\n"));
-  ASSERT_EQ(window->open(toQt(strange)), frmMANUAL::Opening::Opened);
+  ASSERT_TRUE(window->open(toQt(strange)));
   EXPECT_TRUE(find<QLabel>("lblNOTICE").isVisible());
   EXPECT_NE(shown("lblNOTICE").find(": 1"), std::string::npos) << shown("lblNOTICE");
   EXPECT_FALSE(fs::exists(path + ".lock"));
 
   frmMANUAL second(store, settings, texts, dialogs);
-  EXPECT_EQ(second.open(toQt(strange)), frmMANUAL::Opening::Refused);
-  EXPECT_EQ(dialogs.shown.back().kind, Kind::Warn);
-  EXPECT_EQ(window->open(toQt(folder.path("NONE.GAM"))), frmMANUAL::Opening::Problem);
+  ASSERT_TRUE(second.open(toQt(strange)));
+  EXPECT_TRUE(second.findChild<QLabel*>(QStringLiteral("lblNOTONDISK"))
+                  ->text()
+                  .contains(QString::number(QCoreApplication::applicationPid())));
+  EXPECT_FALSE(second.findChild<QPushButton*>(QStringLiteral("cmdFORM"))->isEnabled());
+  EXPECT_FALSE(window->open(toQt(folder.path("NONE.GAM"))));
   EXPECT_EQ(window->problem(), GameFileProblem::Absent);
   EXPECT_EQ(fromQt(window->path()), strange);
 
   fs::permissions(path, fs::perms::owner_read);
-  ASSERT_EQ(window->open(toQt(path)), frmMANUAL::Opening::Opened);
+  ASSERT_TRUE(window->open(toQt(path)));
   EXPECT_EQ(shown("lblNOTONDISK"), texts.withPlaceholder(1914, path)) << "for reading";
   clickRow(1);
   keys(QStringLiteral("5+"));
@@ -280,13 +283,29 @@ TEST_F(ManualWindowTest, KeepsStrangeLinesWithANoticeAndRefusesAGameThatIsOpenEl
   EXPECT_FALSE(find<QPushButton>("cmdBUTFT(0)").isEnabled());
   EXPECT_EQ(shown("lblSCORE(0)"), "0");
   fs::permissions(path, fs::perms::owner_all);
-  ASSERT_EQ(window->open(toQt(strange)), frmMANUAL::Opening::Opened);
+  ASSERT_TRUE(window->open(toQt(strange)));
   EXPECT_FALSE(find<QLabel>("lblNOTONDISK").isVisible());
 
   texts.setLanguage(Language::French);
   window->relabelWindow();
   EXPECT_EQ(shown("lblNOTICE"), texts.withPlaceholder(2282, "1"));
   EXPECT_NE(fromQt(find<QPushButton>("cmdBUTF").toolTip()), texts.text(1390, Language::English));
+}
+
+TEST_F(ManualWindowTest, WhatOthersWriteGivesWayToTotalsThatAreSaved) {
+  clickRow(1);
+  keys(QStringLiteral("9"));
+  window->save();
+  const std::string ours = folder.read("A.GAM");
+  folder.write("A.GAM", ours + "77=00:00,SA,0-4\r\n");
+  window->writePending();
+  EXPECT_EQ(lines().size(), 9u);
+  EXPECT_NE(folder.read("A.GAM.1").find("77=00:00,SA,0-4"), std::string::npos);
+  fs::remove(path);
+  window->writePending();
+  EXPECT_EQ(folder.read("A.GAM"), ours);
+  EXPECT_TRUE(window->writeCopy(toQt(folder.path("COPY.GAM"))));
+  EXPECT_EQ(folder.read("COPY.GAM"), ours);
 }
 
 } // namespace

@@ -50,7 +50,8 @@ class NewGameWindowTest : public testing::Test {
     open({});
   }
   void open(const LastChoices& last) {
-    window = std::make_unique<frmNEWGAME>(store, settings, texts, dialogs, last);
+    window = std::make_unique<frmNEWGAME>(
+        store, settings, texts, dialogs, [this](const QString&) { return recordedBy; }, last);
     window->resize(1340, 700);
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -82,6 +83,7 @@ class NewGameWindowTest : public testing::Test {
   Settings settings{profile, folder.path()};
   TeamStore store{profile, settings};
   ScriptedDialogs dialogs;
+  QString recordedBy; // who has the file of the new game open
   std::unique_ptr<frmNEWGAME> window;
 };
 

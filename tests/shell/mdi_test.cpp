@@ -36,6 +36,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLockFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -805,19 +806,54 @@ TEST_F(MainWindowTest, SwitchesColoursAndRemembersThem) {
   EXPECT_GT(QApplication::palette().color(QPalette::Window).lightness(), 128);
 }
 
+constexpr InstanceLock::Outcome MayRun = InstanceLock::Outcome::MayRun;
+
 TEST(InstanceLockTest, AdmitsOneProgramPerFolderAndTakesOverFromTheDead) {
   QTemporaryDir folder, otherFolder;
   const pid_t child = fork();
   if (child == 0)
-    _exit(InstanceLock(folder.path()).acquire() ? 0 : 1);
+    _exit(InstanceLock(folder.path()).acquire() == MayRun ? 0 : 1);
   int status = 0;
   ASSERT_EQ(waitpid(child, &status, 0), child);
   ASSERT_EQ(status, 0);
 
   InstanceLock first(folder.path());
-  EXPECT_TRUE(first.acquire()) << "the lock's owner is dead";
-  EXPECT_FALSE(InstanceLock(folder.path()).acquire());
-  EXPECT_TRUE(InstanceLock(otherFolder.path()).acquire()) << "two folders are two installations";
+  EXPECT_EQ(first.acquire(), MayRun) << "the lock's owner is dead";
+  EXPECT_EQ(InstanceLock(folder.path()).acquire(), InstanceLock::Outcome::IsRunning);
+  EXPECT_EQ(InstanceLock(otherFolder.path()).acquire(), MayRun) << "two folders are two installations";
+  QLockFile older(
+      folder.filePath(QStringLiteral("hooptab.lock"))); // as older versions of the program take it
+  older.setStaleLockTime(0);
+  EXPECT_FALSE(older.tryLock(0));
+  qint64 process = 0;
+  QString computer, program;
+  ASSERT_TRUE(older.getLockInfo(&process, &computer, &program));
+  EXPECT_EQ(process, QCoreApplication::applicationPid());
+  EXPECT_EQ(computer, QSysInfo::machineHostName());
+}
+
+// A stick that was taken out of another computer, and a lock that nobody can read.
+TEST(InstanceLockTest, ALockOfAnotherComputerIsWatchedAndAnUnreadableOneTaken) {
+  QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("hooptab.lock"));
+  const auto write = [&path](const char* text) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+  };
+  for (const char* text : {"", "no lock of ours", "-3\nhooptab\n\n\n\n"}) {
+    write(text);
+    EXPECT_EQ(InstanceLock(folder.path()).acquire(), InstanceLock::Outcome::MayRun) << text;
+  }
+  write("77\nhooptab\nDEADLAPTOP\n0123\n4567\n");
+  const Texts texts;
+  ScriptedDialogs dialogs;
+  EXPECT_FALSE(InstanceLock(folder.path()).admits(texts, dialogs, std::chrono::milliseconds(200)));
+  ASSERT_EQ(dialogs.shown.size(), 1u);
+  EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("DEADLAPTOP")));
+  dialogs.nextAnswer = true;
+  EXPECT_TRUE(InstanceLock(folder.path()).admits(texts, dialogs, std::chrono::milliseconds(200)));
+  EXPECT_FALSE(QFileInfo::exists(path)) << "given up at the end";
 }
 
 TEST(FileFilterTest, OffersBothLetterCasesOfEveryPair) {

@@ -39,6 +39,7 @@ class Program {
   void waitUntilActive(const std::string& control); // and shown
   void waitUntilGone(const std::string& control);
   [[nodiscard]] int waitForEnd(); // its exit status
+  pid_t process() const { return m_process; }
 
  private:
   std::string ask(const std::string& line);

@@ -1,0 +1,165 @@
+// torture_foreign PROGRAM [MOMENTS|SECONDSs] [SEED]: a game is recorded by clicks while another hand does to
+// its file what hands, editors, sync clients and loose sticks do, at random moments between the clicks. After
+// each, the window and the file must say the same, hold every click, and what the other hand added must stand
+// somewhere. One line of counts; exit status 1 when anything was lost or hung.
+#include "Table.h"
+#include "support/TemporaryFolder.h"
+
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <iostream>
+#include <random>
+
+using namespace hooptab;
+namespace fs = std::filesystem;
+
+namespace {
+
+class ForeignHand {
+ public:
+  ForeignHand(const TemporaryFolder& folder, unsigned seed) : m_folder(folder), m_random(seed) {
+    fs::create_directory(folder.path("games"));
+    makeGame(path());
+    remember();
+  }
+  std::string path() const { return m_folder.path("games/T.GAM"); }
+  int roll(int below) { return std::uniform_int_distribution(0, below - 1)(m_random); }
+  void remember() { m_versions.push_back(read()); }
+
+  struct Kind {
+    const char* name;
+    std::function<void()> act;
+    std::function<void()> undo = [] {}; // for what the disk refuses meanwhile
+  };
+  const std::vector<Kind>& kinds() const { return m_kinds; }
+  // Those that the other hand has written, and that stand nowhere any more.
+  int lostMarks() const {
+    std::string all;
+    for (const auto& entry : fs::directory_iterator(m_folder.path("games"))) {
+      if (entry.is_regular_file() && entry.file_size() < 1024 * 1024)
+        all += m_folder.read("games/" + entry.path().filename().string());
+    }
+    int lost = 0;
+    for (const std::string& mark : m_marks)
+      lost += all.find(mark) == std::string::npos ? 1 : 0;
+    return lost;
+  }
+  std::size_t marks() const { return m_marks.size(); }
+
+ private:
+  std::string read() const { return m_folder.read("games/T.GAM"); }
+  void write(const std::string& bytes) { m_folder.write("games/T.GAM", bytes); }
+  std::string mark() {
+    m_marks.push_back("SST,1-5,M" + std::to_string(m_marks.size()) + "M");
+    return m_marks.back();
+  }
+  void append(const std::string& line) { write(read() + line + "\r\n"); }
+  std::string nextNumber() const {
+    const std::string text = read();
+    const std::size_t at = text.find("EVENUM=");
+    return at == std::string::npos ? "99" : text.substr(at + 7, text.find('\r', at) - at - 7);
+  }
+  void replace(const std::string& what, const std::string& by) {
+    std::string text = read();
+    if (const std::size_t at = text.find(what); at != std::string::npos)
+      write(text.replace(at, what.size(), by));
+  }
+  void cut(std::size_t size) { fs::resize_file(path(), size); }
+  void mode(fs::perms perms) { fs::permissions(path(), perms); }
+  void resave() { // as editors do
+    fs::copy_file(path(), path() + "~");
+    fs::rename(path() + "~", path());
+  }
+
+  const TemporaryFolder& m_folder;
+  std::mt19937 m_random;
+  std::vector<std::string> m_versions;
+  std::vector<std::string> m_marks;
+  const std::vector<Kind> m_kinds = {
+      {"next number", [this] { append(nextNumber() + "=10:00," + mark()); }},
+      {"far number", [this] { append(std::to_string(100'000 + roll(100'000)) + "=10:00," + mark()); }},
+      {"no event", [this] { append("what=is this? " + mark()); }},
+      {"line without =", [this] { append("3 " + mark()); }},
+      {"older version",
+       [this] { write(m_versions[static_cast<std::size_t>(roll(int(m_versions.size())))]); }},
+      {"first version", [this] { write(m_versions.front()); }},
+      {"deleted", [this] { fs::remove(path()); }},
+      {"renamed", [this] { fs::rename(path(), path() + ".away" + std::to_string(roll(1'000'000))); }},
+      {"garbage", [this] { write(std::string(static_cast<std::size_t>(roll(9000)) + 1, char(roll(256)))); }},
+      {"empty", [this] { cut(0); }},
+      {"cut off", [this] { cut(static_cast<std::size_t>(roll(int(fs::file_size(path()))))); }},
+      {"too large", [this] { cut(64U << 20U); }},
+      {"a folder", [this] { fs::remove(path()), fs::create_directory(path()); }},
+      {"a link to nowhere", [this] { fs::remove(path()), fs::create_symlink("/nowhere/x", path()); }},
+      {"notes", [this] { append("[DETAILS]"), replace("NOTES=", "NOTES=theirs"); }},
+      {"player renamed", [this] { replace("Bea Baker", "Bea " + std::to_string(roll(100))); }},
+      {"our line changed", [this] { replace(",GFT,0-4", ",GFTA,0-4"); }},
+      {"our line deleted", [this] { replace("=10:00,GFT", "=E10:00,GFT"); }},
+      {"period gone", [this] { replace("[PERIODE1]", "[PERIOD1]"); }},
+      {"saved by an editor", [this] { resave(); }},
+      {"touched", [this] { fs::last_write_time(path(), fs::file_time_type::clock::now()); }},
+      {"read-only", [this] { mode(fs::perms::owner_read); }, [this] { mode(fs::perms::owner_all); }},
+      {"disk out", [this] { fs::rename(m_folder.path("games"), m_folder.path("out")); },
+       [this] { fs::rename(m_folder.path("out"), m_folder.path("games")); }},
+  };
+};
+
+int run(const std::string& program, int moments, std::chrono::seconds time, unsigned seed) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder.path("program"));
+  ForeignHand hand(folder, seed);
+  ScorersTable table(program, folder.path("program"), hand.path());
+  table.openGame();
+  int clicks = 0;
+  int failed = 0;
+  int done = 0;
+  const auto click = [&](int most) {
+    for (int number = hand.roll(most + 1); number > 0; --number, ++clicks)
+      table.score();
+  };
+  const auto end = std::chrono::steady_clock::now() + time;
+  for (; done < moments && std::chrono::steady_clock::now() < end; ++done) {
+    const auto& kind = hand.kinds()[static_cast<std::size_t>(done) % hand.kinds().size()];
+    try {
+      click(3);
+      std::this_thread::sleep_for(std::chrono::milliseconds(hand.roll(60)));
+      kind.act();
+      click(3);
+      kind.undo();
+      table.waitForPoints(clicks);
+      waitUntil(
+          "the file holds every click", [&] { return pointsIn(hand.path()) == clicks; }, 20);
+      hand.remember();
+    } catch (const std::exception& failure) {
+      ++failed;
+      std::cerr << "moment " << done << ", " << kind.name << ": " << failure.what() << "; clicks " << clicks
+                << ", shown " << table.shownPoints() << ", in the file " << pointsIn(hand.path()) << '\n';
+      clicks = table.shownPoints();
+    }
+  }
+  const int status = table.leave();
+  const int lost = hand.lostMarks();
+  const int atEnd = pointsIn(hand.path());
+  std::cout << "foreign hands: seed " << seed << ", moments " << done << " of " << hand.kinds().size()
+            << " kinds, clicks " << clicks << ", in the file at the end " << atEnd << ", foreign lines "
+            << hand.marks() << ", of them lost " << lost << ", failed moments " << failed << ", exit status "
+            << status << '\n';
+  return failed == 0 && lost == 0 && atEnd == clicks && status == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  try {
+    const std::string amount = argc > 2 ? argv[2] : "1150"; // 23 kinds, 50 times each
+    const unsigned seed =
+        argc > 3 ? static_cast<unsigned>(std::stoul(argv[3])) : std::random_device()() % 100'000;
+    const bool isTime = amount.ends_with('s');
+    return run(argv[1], isTime ? 1'000'000 : std::stoi(amount),
+               std::chrono::seconds(isTime ? std::stoi(amount) : 86'400), seed);
+  } catch (const std::exception& failure) {
+    std::cout << "FAILED: " << failure.what() << '\n';
+    return EXIT_FAILURE;
+  }
+}
