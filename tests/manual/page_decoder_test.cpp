@@ -152,8 +152,8 @@ TEST(DecoderProcessDeathTest, HasLittleTimeAndMemoryAndWritesToNoFile) {
   EXPECT_EXIT(
       {
         confineProcess(small);
-        for (volatile int turn = 0;;)
-          turn = turn + 1;
+        for (volatile bool isBusy = true; isBusy;) {
+        }
       },
       testing::KilledBySignal(SIGXCPU), "");
   EXPECT_EXIT(

@@ -61,7 +61,7 @@ bool write(const QString& path, const QByteArray& bytes) {
 DamagedPictures makePictures() {
   const Texts texts;
   FilledForm form(blankForms(texts));
-  form.tickDigit(0, 2, 7);
+  form.tickDigit(0, 2, 4);
   form.tick(0, FormCell::Kind::Made, Counter::FTM, 2);
   std::vector<QImage> pages;
   for (const int dots : {160, 200}) { // per inch: coarser than one would scan, for the sake of time
@@ -102,7 +102,7 @@ class Window {
       if (isVisible("tblTOTALS"))
         return answers;
       ++answers.read;
-      press("cmdADDSCAN"); // the whole way of a page that could be read
+      press("cmdREPLACESCAN"); // the whole way of a page that could be read
     }
   }
 
