@@ -32,7 +32,10 @@ NoticeStrip::NoticeStrip(const char* name, QWidget* parent)
   layout->setSpacing(kGap);
   layout->addWidget(m_text, 1);
   layout->addWidget(m_dismiss);
-  connect(m_dismiss, &QToolButton::clicked, this, &QWidget::hide);
+  connect(m_dismiss, &QToolButton::clicked, this, [this] {
+    hide();
+    emit dismissed();
+  });
   hide();
 }
 

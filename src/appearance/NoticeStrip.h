@@ -18,6 +18,9 @@ class NoticeStrip : public QFrame {
   void tell(const QString& text);
   void applyColours();
 
+ signals:
+  void dismissed();
+
  private:
   PlainLabel* m_text;
   QToolButton* m_dismiss;

@@ -39,7 +39,7 @@ std::string foreignWords(const ForeignHands& hands, const Texts& texts) {
   if (!hands.gaveWay.empty())
     add(kGaveWay, keysOf(hands.gaveWay));
   if (!hands.keptAs.empty())
-    add(kKeptAs, hands.keptAs);
+    add(kKeptAs, hands.keptAs.substr(hands.keptAs.rfind('/') + 1)); // beside the game
   return words;
 }
 

@@ -76,6 +76,8 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   m_timer.setInterval(kTick);
   m_retryOfWrites.setInterval(kRetryInterval);
   m_banner = makeBanner("lblNOTONDISK");
+  m_banner->setWordWrap(true);
+  m_banner->setContentsMargins(2 * kGap, kGap, 2 * kGap, kGap);
   m_readOnly = makeBanner("lblREADONLY");
   m_foreign = new NoticeStrip("picFOREIGN", this);
   m_lostStop = new LostStopStrip(m_texts, this);
@@ -88,10 +90,10 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kGap, kGap, kGap, kGap);
   layout->setSpacing(kGap);
-  for (QWidget* strip : {static_cast<QWidget*>(m_banner), static_cast<QWidget*>(m_readOnly),
-                         static_cast<QWidget*>(m_foreign), static_cast<QWidget*>(m_lostStop)})
+  for (QWidget* strip : {static_cast<QWidget*>(m_readOnly), static_cast<QWidget*>(m_lostStop)})
     layout->addWidget(strip);
   layout->addLayout(parts, 1);
+  m_notices = makeNotices();
   m_followUp = new FollowUpBar(m_texts, this);
   m_keys = new LiveKeys(m_game, m_settings, m_texts, *m_followUp, *m_bench, *this);
   connectEverything();
@@ -207,6 +209,27 @@ void frmLIVE::connectEverything() {
 
 void frmLIVE::resizeEvent(QResizeEvent*) {
   m_side->setFixedWidth(std::clamp(static_cast<int>(width() * kSideShare), kLeastSide, kMostSide));
+  placeNotices();
+}
+
+// What comes while one records must not move what is being pressed: it lies over the oldest of the events.
+QWidget* frmLIVE::makeNotices() {
+  auto* notices = new QWidget(this);
+  auto* layout = new QVBoxLayout(notices);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap);
+  layout->addWidget(m_banner);
+  layout->addWidget(m_foreign);
+  connect(m_foreign, &NoticeStrip::dismissed, this, &frmLIVE::placeNotices);
+  return notices;
+}
+
+void frmLIVE::placeNotices() {
+  m_notices->setVisible(!m_banner->isHidden() || !m_foreign->isHidden());
+  const int wide = m_side->width();
+  const int high = m_notices->layout()->heightForWidth(wide);
+  m_notices->setGeometry(width() - wide - kGap, height() - high - kGap, wide, high);
+  m_notices->raise();
 }
 
 frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
@@ -297,8 +320,10 @@ void frmLIVE::showDisk() {
   m_score->showDisk(disk.isOnDisk(), disk.waiting());
   showReadOnly();
   m_banner->setVisible(!disk.isOnDisk());
-  if (disk.isOnDisk())
-    return m_retryOfWrites.stop();
+  if (disk.isOnDisk()) {
+    m_retryOfWrites.stop();
+    return placeNotices();
+  }
   std::string words = m_texts.withPlaceholder(kNotOnDisk, waiting);
   if (disk.isLost())
     words = m_texts.withPlaceholder(kTakenOver, fromQt(m_hold->ownerWords()));
@@ -306,7 +331,7 @@ void frmLIVE::showDisk() {
     words = m_texts.withPlaceholder(kNotOnDiskButRescued, waiting);
   words = Module1::withPlaceholder(words, disk.rescuedAs(), "YYY");
   m_banner->setText(toQt(words));
-  m_banner->setToolTip(toQt(words));
+  placeNotices();
   if (!m_retryOfWrites.isActive())
     m_retryOfWrites.start();
 }
@@ -325,6 +350,7 @@ void frmLIVE::takeForeignHands() {
   const std::string words = foreignWords(m_game.takeForeignHands(), m_texts);
   if (!words.empty())
     m_foreign->tell(toQt(words));
+  placeNotices();
 }
 
 // Also after this window's own writes: then it is as it was left, and nothing is shown anew.

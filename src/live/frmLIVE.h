@@ -74,6 +74,8 @@ class frmLIVE : public ChildWindow {
   QLabel* makeBanner(const char* name);
   QWidget* makePanels();
   QWidget* makeSide();
+  QWidget* makeNotices();
+  void placeNotices();
   void connectEverything();
   void showGame();
   void showSelected();
@@ -113,6 +115,7 @@ class frmLIVE : public ChildWindow {
   QLabel* m_banner = nullptr;
   QLabel* m_readOnly = nullptr;
   NoticeStrip* m_foreign = nullptr;
+  QWidget* m_notices = nullptr; // both of them that may come while one records
   LostStopStrip* m_lostStop = nullptr;
   std::array<PlayerPanel*, LiveGame::kSlots> m_panels = {};
   ScorePanel* m_score = nullptr;

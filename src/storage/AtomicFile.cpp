@@ -108,6 +108,13 @@ bool isStillOurs(FileSystem& files, const std::string& path, const FileStamp& wr
   return files.stamp(path, standing) && standing.device == written.device && standing.inode == written.inode;
 }
 
+// Writing takes its time, most of all on a stick: what others have done to the file meanwhile is not covered.
+bool isAsItWas(FileSystem& files, const std::string& target, const FileStamp* old) {
+  FileStamp now;
+  const bool isThere = files.stamp(target, now);
+  return old != nullptr ? isThere && now == *old : !isThere && errno == ENOENT;
+}
+
 } // namespace
 
 ReadOutcome readWholeFile(FileSystem& files, const std::string& path, std::string& bytes, FileStamp& stamp) {
@@ -174,7 +181,8 @@ bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_vi
   FileStamp written;
   const bool isReplaced =
       writeTemporary(files, place.temporary, bytes, exists ? &old : nullptr, target, written) &&
-      isStillOurs(files, place.temporary, written) && files.rename(place.temporary, target) == 0;
+      isStillOurs(files, place.temporary, written) && isAsItWas(files, target, exists ? &old : nullptr) &&
+      files.rename(place.temporary, target) == 0;
   if (!isReplaced) {
     files.remove(place.temporary);
     return false;
@@ -185,10 +193,15 @@ bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_vi
 
 std::string freeNameBeside(FileSystem& files, const std::string& path) {
   FileStamp taken;
+  std::string target;
   for (int number = 1;; ++number) {
     std::string name = path + '.' + std::to_string(number);
-    if (!files.stamp(name, taken))
-      return errno == ENOENT ? name : std::string();
+    if (files.stamp(name, taken))
+      continue;
+    if (errno != ENOENT)
+      return {};
+    if (files.resolve(name, target)) // a link that leads nowhere has the name, too
+      return name;
   }
 }
 

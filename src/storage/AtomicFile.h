@@ -23,7 +23,8 @@ inline constexpr std::int64_t kLargestProfileFile = 16 * 1024 * 1024;
 // stands as it was and `stamp` is left alone; or, when only the folder's own fsync failed, the new file
 // stands and `stamp` is its state. No temporary file is left. Fails for a file without any write permission
 // bit, even for a user whom the system would let write. Keeps mode bits and a symbolic link's target, and
-// owner, group and extended attributes where the system lets.
+// owner, group and extended attributes where the system lets. Fails, too, where the file changed while the
+// new one was written.
 [[nodiscard]] bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_view bytes,
                                     FileStamp& stamp);
 

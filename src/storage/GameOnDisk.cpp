@@ -73,7 +73,9 @@ bool GameOnDisk::settle(const EventLines& all) {
   if (!m_isWatching)
     return isOnDisk();
   m_isLost = m_isLost || (m_isOurs && !m_isOurs());
-  const bool isWritten = !m_isLost && settleFound(all, m_guard.look());
+  bool isWritten = !m_isLost && settleFound(all, m_guard.look());
+  if (!isWritten && !m_isLost && m_guard.look() == FileGuard::Found::Changed) // while it was being written
+    isWritten = settleFound(all, FileGuard::Found::Changed);
   if (!isWritten) {
     rescue(all);
     return isOnDisk();

@@ -379,11 +379,14 @@ ProfileText ProfileText::withSectionLines(std::string_view section, const KeyVal
     endLine(bytes);
     bytes += piece.bytesOf(line);
   };
+  std::unordered_set<std::string_view> written; // what a line without "=" would hide
+  for (const auto& [name, value] : newLines)
+    written.insert(name);
   std::unordered_map<std::string_view, const Line*> known;
   for (const Line* line = view.first; line != behindKeys; ++line) {
     if (line->kind == Line::Kind::KeyValue)
       known.emplace(line->name, line);
-    else if (!isKeyLine(*line))
+    else if (line->kind != Line::Kind::NameOnly || !written.contains(line->name))
       append(*line);
   }
   for (const auto& [name, value] : newLines) {

@@ -71,8 +71,9 @@ class ProfileText {
                                       std::string_view value) const;
   [[nodiscard]] ProfileText withoutSection(std::string_view section) const;
   // Replaces the key lines of a section by these, in this order; lines that are no keys stay, before them or,
-  // where they stood behind the last key, behind them. A section that is absent is added at the end. Serves
-  // inserted and moved events, and sections that are written as a whole.
+  // where they stood behind the last key, behind them; of those without "=" the ones that hide none of these.
+  // A section that is absent is added at the end. Serves inserted and moved events, and sections that are
+  // written as a whole.
   using KeyValues = std::vector<std::pair<std::string, std::string>>;
   [[nodiscard]] ProfileText withSectionLines(std::string_view section, const KeyValues& lines) const;
 

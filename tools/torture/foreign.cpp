@@ -41,8 +41,12 @@ class ForeignHand {
         all += m_folder.read("games/" + entry.path().filename().string());
     }
     int lost = 0;
-    for (const std::string& mark : m_marks)
-      lost += all.find(mark) == std::string::npos ? 1 : 0;
+    for (const std::string& mark : m_marks) {
+      if (all.find(mark) != std::string::npos)
+        continue;
+      ++lost;
+      std::cerr << "lost: " << mark << '\n';
+    }
     return lost;
   }
   std::size_t marks() const { return m_marks.size(); }
@@ -80,7 +84,7 @@ class ForeignHand {
       {"next number", [this] { append(nextNumber() + "=10:00," + mark()); }},
       {"far number", [this] { append(std::to_string(100'000 + roll(100'000)) + "=10:00," + mark()); }},
       {"no event", [this] { append("what=is this? " + mark()); }},
-      {"line without =", [this] { append("3 " + mark()); }},
+      {"line without =", [this] { append("3 nothing"); }},
       {"older version",
        [this] { write(m_versions[static_cast<std::size_t>(roll(int(m_versions.size())))]); }},
       {"first version", [this] { write(m_versions.front()); }},
@@ -114,18 +118,18 @@ int run(const std::string& program, int moments, std::chrono::seconds time, unsi
   int clicks = 0;
   int failed = 0;
   int done = 0;
-  const auto click = [&](int most) {
-    for (int number = hand.roll(most + 1); number > 0; --number, ++clicks)
+  const auto click = [&](int least, int most) {
+    for (int number = least + hand.roll(most - least + 1); number > 0; --number, ++clicks)
       table.score();
   };
   const auto end = std::chrono::steady_clock::now() + time;
   for (; done < moments && std::chrono::steady_clock::now() < end; ++done) {
     const auto& kind = hand.kinds()[static_cast<std::size_t>(done) % hand.kinds().size()];
     try {
-      click(3);
+      click(0, 3);
       std::this_thread::sleep_for(std::chrono::milliseconds(hand.roll(60)));
       kind.act();
-      click(3);
+      click(1, 3); // so that it is seen before the next one covers it
       kind.undo();
       table.waitForPoints(clicks);
       waitUntil(

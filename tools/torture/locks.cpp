@@ -58,8 +58,11 @@ class TwoComputers {
     waitUntil(
         "the second is offered the game", [&] { return !second->program().where("MDI").isActive; },
         kPatience);
-    second->person().press("alt+y");
-    waitUntil("the second records", [&] { return !second->program().isShown("lblREADONLY"); });
+    waitUntil("the second records", [&] {
+      second->person().press("alt+y");
+      std::this_thread::sleep_for(std::chrono::milliseconds(300)); // the question may just be coming up
+      return !second->program().isShown("lblREADONLY");
+    });
     ++counts.taken;
     points = scoreSome(*second, points);
     if (way == 0) {

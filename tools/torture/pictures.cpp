@@ -83,7 +83,7 @@ class Window {
     const std::string game = m_folder.write("A.GAM", textOfGame("", "INPUTTYPE=1\n"));
     m_window.emplace(m_store, m_settings, m_texts, m_dialogs);
     m_window->show();
-    m_isOpen = m_window->open(toQt(game)) == frmMANUAL::Opening::Opened;
+    m_isOpen = m_window->open(toQt(game));
     m_dialogs.nextAnswer = true; // leaves the pages that are left
     m_broken = toQt(explained({PageRefusal::Reason::BrokeOff}, m_texts));
     m_late = toQt(m_texts.withPlaceholder(2405, "#")).section(u'#', 0, 0);
