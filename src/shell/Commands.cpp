@@ -44,7 +44,7 @@ constexpr Command kCommands[] = {
       {"LIVENew", "LIVE", 1038, "livenew", StartOfInput, Action, "Ctrl+N"},
       {"LIVEOpen", "LIVE", 1039, "liveopen", StartOfInput, Action, "Ctrl+Shift+O"},
       {"openFORM", "LIVE", 1238, "openform", Manual, Action, "Ctrl+I", kSeparator},
-      {"saveCOPY", "LIVE", 2395, "savemanual", LiveOrManual, Action, "Ctrl+Shift+S", kSeparator},
+      {"saveCOPY", "LIVE", 2395, "savecopy", LiveOrManual, Action, "Ctrl+Shift+S", kSeparator},
     {"LIVEKpad", "", 1040, "livekpad", Live, Toggle, "F7"},
     {"LIVEMouse", "", 1042, "livemouse", Live, Toggle, "F8"},
     {"SWITCH", "", 1043, "switch", Live, Action, "F9"},

@@ -59,7 +59,7 @@ class TwoComputers {
         "the second is offered the game", [&] { return !second->program().where("MDI").isActive; },
         kPatience);
     waitUntil("the second records", [&] {
-      second->person().press("alt+y");
+      second->person().press("y");
       std::this_thread::sleep_for(std::chrono::milliseconds(300)); // the question may just be coming up
       return !second->program().isShown("lblREADONLY");
     });
