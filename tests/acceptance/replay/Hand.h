@@ -7,7 +7,9 @@
 #include "Recorded.h"
 #include "live/OnCourt.h"
 
+#include <chrono>
 #include <string>
+#include <thread>
 
 namespace hooptab {
 
@@ -24,7 +26,13 @@ class Hand {
   virtual ~Hand() = default;
 
   virtual void prepare() = 0; // the window has just opened
-  virtual void toggleClock() = 0;
+  void toggleClock() {
+    std::this_thread::sleep_until(m_toggled + kNextToggle);
+    pressClock();
+    m_toggled = std::chrono::steady_clock::now();
+  }
+  // With a question open the clock does not start: nobody is its answer.
+  virtual void clearQuestion() = 0;
   virtual void switchSides() = 0;
   virtual void returnToEndedPeriod() = 0;
   // Both return in a few words how it was entered; the report counts by them.
@@ -35,7 +43,17 @@ class Hand {
   int questionsInTheWay() const { return m_questionsInTheWay; }
 
  protected:
-  int m_questionsInTheWay = 0; // that had to be closed before one could go on
+  virtual void pressClock() = 0;
+
+  // That had to be closed before one could go on.
+  void noteQuestionInTheWay() { ++m_questionsInTheWay; }
+
+ private:
+  // Sooner, a second START or STOP passes for a slip.
+  static constexpr std::chrono::milliseconds kNextToggle{160};
+
+  std::chrono::steady_clock::time_point m_toggled;
+  int m_questionsInTheWay = 0;
 };
 
 } // namespace hooptab

@@ -55,7 +55,9 @@ void KeypadHand::prepare() {
   m_table.person.press("F8");
 }
 
-void KeypadHand::toggleClock() {
+// Its key is Enter, which belongs to the question while one is open.
+void KeypadHand::pressClock() {
+  clearQuestion();
   press(KeypadAction::CLOCK);
 }
 
@@ -91,7 +93,7 @@ void KeypadHand::clearQuestion() {
     return;
   press(KeypadAction::CLR);
   m_table.program.waitUntilGone("FollowUp");
-  ++m_questionsInTheWay;
+  noteQuestionInTheWay();
 }
 
 // "9" for 09, where no other player has it.
@@ -151,7 +153,8 @@ bool KeypadHand::isOffered(const GameEvent& event, const std::string& form) {
   return false;
 }
 
-// The team's key as well where a player of the other team has the number, or another number begins so.
+// The team's key as well where the question is open still: a player of the other team has the number, or
+// another number begins so.
 std::string KeypadHand::answer(const GameEvent& event, const std::string& form) {
   const std::string number = numberOf(event.player.team, event.player.jersey);
   type(number);
@@ -163,6 +166,7 @@ std::string KeypadHand::answer(const GameEvent& event, const std::string& form) 
   if (!isClear) {
     m_table.camera.take("equal-numbers");
     confirm(event.player.team);
+    program.waitUntilGone("FollowUp");
   }
   const std::string asked = event.code == EventCode::SA ? "assist asked for" : "rebound asked for";
   return isClear ? asked : asked + ", with team";

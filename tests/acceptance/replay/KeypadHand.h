@@ -16,18 +16,20 @@ class KeypadHand : public Hand {
   explicit KeypadHand(const Table& table) : m_table(table) {}
 
   void prepare() override;
-  void toggleClock() override;
+  // Whose number is typed while a question is open is its answer.
+  void clearQuestion() override;
   void switchSides() override;
   void returnToEndedPeriod() override;
   std::string record(const GameEvent& event) override;
   std::string substitute(const OnCourt& wanted) override;
 
+ protected:
+  void pressClock() override;
+
  private:
   void press(KeypadAction action);
   void confirm(int team);
   void type(const std::string& digits);
-  // Whose number is typed while a question is open is its answer.
-  void clearQuestion();
   [[nodiscard]] std::string numberOf(int team, std::string_view jersey) const;
   [[nodiscard]] std::vector<std::string> numbersOf(int team, unsigned entries) const;
   std::string shoot(const GameEvent& event);

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <bit>
+#include <cmath>
 #include <sstream>
 #include <vector>
 
@@ -12,9 +13,16 @@ namespace hooptab {
 namespace {
 
 constexpr int kSlotsOfTeam = 5;
-constexpr int kPlaces = 15;   // of a team's bench
-constexpr int kMostLines = 6; // of a team, in the panel for several
-constexpr int kOneByOne = 2;  // players who come, at most
+constexpr int kPlaces = 15;      // of a team's bench
+constexpr int kMostLines = 6;    // of a team, in the panel for several
+constexpr int kOneByOne = 2;     // players who come, at most
+constexpr int kClickedOneIn = 8; // answers
+
+using namespace std::chrono_literals;
+constexpr auto kOneSpotAgain = 510ms;   // a second press at one spot is one of its own
+constexpr auto kQuestionIsRead = 320ms; // a question takes no click in the moment it opens
+constexpr auto kLook = 30ms;            // at what a click has changed
+constexpr double kOneSpot = 12;         // pixels
 
 struct Control {
   EventCode code;
@@ -54,8 +62,16 @@ void MouseHand::prepare() {
   m_table.person.press("F8");
 }
 
-void MouseHand::toggleClock() {
+void MouseHand::pressClock() {
   m_table.person.press("space");
+}
+
+void MouseHand::clearQuestion() {
+  if (!m_table.program.isShown("FollowUp"))
+    return;
+  m_table.person.press("Escape");
+  m_table.program.waitUntilGone("FollowUp");
+  noteQuestionInTheWay();
 }
 
 void MouseHand::switchSides() {
@@ -79,11 +95,31 @@ void MouseHand::click(const std::string& control, Person::Button button) {
 
 void MouseHand::clearAway(int x, int y) {
   const Program::Place question = m_table.program.where("FollowUp");
-  if (!question.isShown || !question.holds(x, y))
+  if (question.isShown && question.holds(x, y))
+    clearQuestion();
+  // Behind a window of its own the card is in nobody's way, and Escape would close that.
+  const Program::Place card = m_table.program.where("picPERIODEND");
+  if (!card.isShown || !card.isActive || !card.holds(x, y))
     return;
   m_table.person.press("Escape");
-  m_table.program.waitUntilGone("FollowUp");
-  ++m_questionsInTheWay;
+  m_table.program.waitUntilGone("picPERIODEND");
+}
+
+// Two free throws are two however fast they come; anything else that is meant twice takes its time.
+void MouseHand::press(const Mark& mark) {
+  const bool isOneSpot = std::hypot(mark.x - m_lastMark.x, mark.y - m_lastMark.y) < kOneSpot;
+  if (isOneSpot && mark.kind != EventCode::GFT)
+    std::this_thread::sleep_until(m_table.person.lastPress() + kOneSpotAgain);
+  m_table.person.click(mark.x, mark.y, mark.button);
+  m_lastMark = mark;
+}
+
+void MouseHand::press(const std::string& control, EventCode kind, Person::Button button) {
+  const Program::Place place = m_table.program.where(control);
+  if (!place.isShown || !place.isEnabled)
+    throw ReplayFailure(control + " cannot be pressed");
+  clearAway(place.middleX(), place.middleY());
+  press({place.middleX(), place.middleY(), button, kind});
 }
 
 // Nothing for a player on the bench.
@@ -111,7 +147,7 @@ std::string MouseHand::record(const GameEvent& event) {
     return shoot(event, *slot);
   for (const Control& button : kButtons) {
     if (button.code == event.code)
-      click(element(button.name, *slot));
+      press(element(button.name, *slot), event.code);
   }
   const bool isFollowUp =
       event.code == EventCode::SA || event.code == EventCode::SOR || event.code == EventCode::SDR;
@@ -133,16 +169,15 @@ std::string MouseHand::shoot(const GameEvent& event, int slot) {
   const auto button = event.isMade ? Person::Button::Left : Person::Button::Right;
   for (const Control& shot : kButtons) {
     if (shot.code == event.code) {
-      click(element(shot.name, slot), button);
+      press(element(shot.name, slot), event.code, button);
       return event.code == EventCode::GFT ? "free throw" : "shot by its button";
     }
   }
   const Program::Place court = m_table.program.where(element("CourtJ", slot));
-  const bool playsRight = (event.player.team == 1) != m_isSwitched;
   const Pixel pixel =
-      courtPixel(court.width, court.height, {event.x, event.y}, event.code, playsRight, m_zones);
+      courtPixel(court.width, court.height, {event.x, event.y}, event.code, playsRight(event), m_zones);
   clearAway(court.x + pixel.x, court.y + pixel.y);
-  m_table.person.click(court.x + pixel.x, court.y + pixel.y, button);
+  press({court.x + pixel.x, court.y + pixel.y, button, event.code});
   return "shot on the court";
 }
 
@@ -171,22 +206,40 @@ std::optional<std::string> MouseHand::answerQuestion(const GameEvent& event) {
   }
   if (offered < 0)
     return std::nullopt;
-  m_typesNext = !m_typesNext;
-  if (m_typesNext || sameNumber > 1) {
-    m_table.person.clickAt(program.where(form + element("cmdJERSEY", offered)));
+  // Of two equal numbers Enter takes the one who defends.
+  const bool isClear = sameNumber == 1 || event.code == EventCode::SDR;
+  if (!isClear || clicksAnswer()) {
+    clickAnswer(form + element("cmdJERSEY", offered));
     return isAssist ? "assist asked for, clicked" : "rebound asked for, clicked";
   }
+  typeAnswer(form, std::string(event.player.jersey));
+  return isAssist ? "assist asked for, typed" : "rebound asked for, typed";
+}
+
+bool MouseHand::clicksAnswer() {
+  return ++m_answers % kClickedOneIn == 0;
+}
+
+void MouseHand::clickAnswer(const std::string& button) {
+  std::this_thread::sleep_until(m_table.person.lastPress() + kQuestionIsRead);
+  m_table.person.clickAt(m_table.program.where(button));
+}
+
+// Enter behind a number that its last digit has not taken: another one begins so.
+void MouseHand::typeAnswer(const std::string& form, const std::string& jersey) {
+  Program& program = m_table.program;
   std::string typed;
-  for (const char digit : event.player.jersey) {
+  for (const char digit : jersey) {
     typed += digit;
     m_table.person.type({&digit, 1});
     waitUntil("the number is taken, or shown", [&] {
       return !program.isShown("FollowUp") || program.text(form + "lblQUESTION").ends_with(' ' + typed + '_');
     });
     if (!program.isShown("FollowUp"))
-      break; // no other number begins so
+      return; // no other number begins so
   }
-  return isAssist ? "assist asked for, typed" : "rebound asked for, typed";
+  m_table.person.press("Return");
+  program.waitUntilGone("FollowUp");
 }
 
 // --- Substitutions
@@ -203,21 +256,25 @@ std::string MouseHand::substitute(const OnCourt& wanted) {
   return substituteSeveral(wanted) ? "substitution, a known line" : "substitution, several at once";
 }
 
+// While the clock runs, fewer than five are a substitution in the making, and nothing is on disk before its
+// end.
 void MouseHand::substituteOneByOne(const OnCourt& wanted) {
   m_table.person.press("F6");
-  OnCourt now = m_table.recorded.onCourt();
-  const OnCourt before = now;
+  const OnCourt before = m_table.recorded.onCourt();
   for (std::size_t team = 0; team < 2; ++team) {
-    for (const unsigned moving : {before[team] & ~wanted[team], wanted[team] & ~before[team]}) {
-      for (const int entry : entriesOf(moving)) {
-        click("picBENCH/" + element("cmdJERSEY", static_cast<int>(team) * kPlaces + entry - 1));
-        now[team] ^= 1U << static_cast<unsigned>(entry);
-        m_table.recorded.waitUntil("who stands on court",
-                                   [&](const Game&) { return m_table.recorded.onCourt() == now; });
-      }
-    }
+    clickRoster(team, before[team] & ~wanted[team]);
+    clickRoster(team, wanted[team] & ~before[team]);
   }
+  m_table.recorded.waitUntil("who stands on court",
+                             [&](const Game&) { return m_table.recorded.onCourt() == wanted; });
   m_table.person.press("F6");
+}
+
+void MouseHand::clickRoster(std::size_t team, unsigned entries) {
+  for (const int entry : entriesOf(entries)) {
+    click("picBENCH/" + element("cmdJERSEY", static_cast<int>(team) * kPlaces + entry - 1));
+    std::this_thread::sleep_for(kLook);
+  }
 }
 
 bool MouseHand::substituteSeveral(const OnCourt& wanted) {

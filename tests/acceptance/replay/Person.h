@@ -3,6 +3,7 @@
 
 #include "Program.h"
 
+#include <chrono>
 #include <string>
 #include <string_view>
 
@@ -26,18 +27,25 @@ class Person {
   void clickAt(const Program::Place& place, Button button = Button::Left); // its middle
   // A key by its X name, with what is held meanwhile: "ctrl+shift+o", "space".
   void press(const std::string& key);
+  // Held down so long, with what the display repeats meanwhile; one press.
+  void holdDown(const std::string& key, std::chrono::milliseconds duration);
   void type(std::string_view text);
   void lockNumbers(); // so that the keypad types digits
 
   const Effort& effort() const { return m_effort; }
+  std::chrono::steady_clock::time_point lastPress() const { return m_lastPress; } // of key or button
 
  private:
-  void hold();
-  void strike(unsigned long symbol);
+  void hold(std::chrono::milliseconds duration);
+  void strike(unsigned long symbol, std::chrono::milliseconds duration);
+  void press(const std::string& key, std::chrono::milliseconds duration);
 
   _XDisplay* m_display;
   Effort m_effort;
   int m_x = 0, m_y = 0;
+  std::chrono::steady_clock::time_point m_lastPress;
+  unsigned m_lastKey = 0;
+  std::chrono::steady_clock::time_point m_lastRelease; // of that key
 };
 
 } // namespace hooptab

@@ -11,6 +11,7 @@ namespace hooptab {
 namespace {
 
 constexpr int kSecondsPerMinute = 60;
+constexpr int kBuzzer = 5; // seconds after it in which nobody starts the clock
 
 bool endsWith(const Game& game, EventCode code, int period, int clockSeconds) {
   if (game.events.size() == 0)
@@ -48,8 +49,10 @@ void Replay::play() {
     const GameEvent& event = m_original.events[index];
     if (!event.isUnderstood || event.isDeleted)
       continue;
+    if (!goesOn())
+      return;
     try {
-      play(event);
+      play(event, index);
     } catch (const ReplayFailure& failure) {
       throw ReplayFailure("at " + inWords(event) + ": " + failure.what());
     }
@@ -59,7 +62,7 @@ void Replay::play() {
   }
 }
 
-void Replay::play(const GameEvent& event) {
+void Replay::play(const GameEvent& event, std::size_t) {
   reach(event);
   if (event.code == EventCode::DEPART) {
     if (!m_isRunning && m_clock > 0)
@@ -98,16 +101,43 @@ void Replay::passTime(int untilClock) {
                              [&](const Game& game) { return endsWith(game, EventCode::ARRET, m_period, 0); });
   m_isRunning = false;
   m_isClosed = true;
+  m_earliestStart = m_now + kBuzzer;
+  buzzed();
+}
+
+void Replay::letBuzzerPass() {
+  if (m_now >= m_earliestStart)
+    return;
+  m_now = m_earliestStart;
+  m_table.program.setTime(m_now);
+}
+
+// After a last period with equal scores: by itself, or at a key once its card has been seen.
+bool Replay::overtimeIsAsked() {
+  constexpr auto kSoon = std::chrono::seconds(2);
+  const auto end = std::chrono::steady_clock::now() + kSoon;
+  while (std::chrono::steady_clock::now() < end) {
+    const Program::Place question = m_table.program.where("frmOVERTIME");
+    if (question.isShown && question.isActive)
+      return true;
+    if (!question.isShown && m_table.program.isShown("picPERIODEND"))
+      return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  return false;
 }
 
 void Replay::beginNextPeriod(const GameEvent& first) {
   if (m_clock > 0)
     throw ReplayFailure("the original leaves a period before its end");
   const Effort before = m_table.person.effort();
+  letBuzzerPass();
   if (!m_isClosed)
     m_hand.toggleClock(); // leaves the period that was returned to
   m_clock = m_original.details.minutesPerPeriod * kSecondsPerMinute;
   if (isLastRegular()) {
+    if (!overtimeIsAsked())
+      m_hand.toggleClock();
     m_table.program.waitUntilActive("frmOVERTIME");
     m_table.camera.take("overtime");
     m_table.person.type(std::to_string(first.clockSeconds / kSecondsPerMinute));
@@ -127,8 +157,7 @@ void Replay::beginNextPeriod(const GameEvent& first) {
 
 void Replay::returnToEndedPeriod() {
   const Effort before = m_table.person.effort();
-  if (isLastRegular() && m_counted.points(0) == m_counted.points(1)) {
-    m_table.program.waitUntilActive("frmOVERTIME");
+  if (isLastRegular() && m_counted.points(0) == m_counted.points(1) && overtimeIsAsked()) {
     m_table.person.press("Escape");
     m_table.program.waitUntilActive("frmLIVE");
   }
@@ -161,6 +190,10 @@ void Replay::correctClock(int clockSeconds) {
 void Replay::toggleClock() {
   const Effort before = m_table.person.effort();
   m_isRunning = !m_isRunning;
+  if (m_isRunning) {
+    letBuzzerPass();
+    m_hand.clearQuestion();
+  }
   m_hand.toggleClock();
   const EventCode code = m_isRunning ? EventCode::DEPART : EventCode::ARRET;
   m_table.recorded.waitUntil(m_isRunning ? "the start" : "the stop",
@@ -200,10 +233,10 @@ void Replay::checkScoreboard() {
 void Replay::record(const GameEvent& event) {
   const std::size_t known = m_table.recorded.game().events.size();
   const Effort before = m_table.person.effort();
-  const auto start = std::chrono::steady_clock::now();
   const std::string how = m_hand.record(event);
   m_table.recorded.waitUntil(inWords(event), [&](const Game& game) { return game.events.size() > known; });
-  const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
+  const std::chrono::duration<double, std::milli> took =
+      std::chrono::steady_clock::now() - m_table.person.lastPress();
   const GameEvent& found = m_table.recorded.game().events[m_table.recorded.game().events.size() - 1];
   if (m_table.recorded.game().events.size() != known + 1 || !isSame(found, event))
     throw ReplayFailure("recorded was " + inWords(found) + ", " +
@@ -236,6 +269,7 @@ void Replay::noteEffort(const std::string& how, const Effort& before) {
 void Replay::declareOver() {
   const Effort before = m_table.person.effort();
   if (!m_isClosed) {
+    letBuzzerPass();
     m_hand.toggleClock();
     m_isClosed = true;
   }

@@ -31,21 +31,39 @@ class Replay {
  public:
   // All must outlive it.
   Replay(const Game& original, const Table& table, Hand& hand);
+  virtual ~Replay() = default;
 
   void play();
   void declareOver();
   const ReplayReport& report() const { return m_report; }
 
+ protected:
+  // Asked before each event: whether there is time for it.
+  virtual bool goesOn() { return true; }
+  // Reaches its time, and enters it; it is the one at `index` of the original.
+  virtual void play(const GameEvent& event, std::size_t index);
+  virtual void record(const GameEvent& event);
+  // The clock has just run to its end, and its stop is on disk.
+  virtual void buzzed() {}
+  virtual void returnToEndedPeriod();
+  void passTime(int untilClock);
+  void toggleClock();
+
+  const Game& original() const { return m_original; }
+  const GameState& counted() const { return m_counted; }
+  Table& table() { return m_table; }
+  int period() const { return m_period; }
+  int clock() const { return m_clock; }
+  bool isRunning() const { return m_isRunning; }
+  bool isClosed() const { return m_isClosed; }
+
  private:
-  void play(const GameEvent& event);
   void reach(const GameEvent& event);
   void beginNextPeriod(const GameEvent& first);
-  void returnToEndedPeriod();
-  void passTime(int untilClock);
+  void letBuzzerPass();
+  [[nodiscard]] bool overtimeIsAsked();
   void correctClock(int clockSeconds);
-  void toggleClock();
   void stop(const GameEvent& event);
-  void record(const GameEvent& event);
   void noteShot(const GameEvent& wanted, const GameEvent& found);
   void noteEffort(const std::string& how, const Effort& before);
   void checkScoreboard();
@@ -60,6 +78,7 @@ class Replay {
   ReplayReport m_report;
 
   std::int64_t m_now = 36'000;
+  std::int64_t m_earliestStart = 0;
   int m_period = 1;
   int m_clock = 0;
   bool m_isRunning = false;
