@@ -2,6 +2,7 @@
 // its file what hands, editors, sync clients and loose sticks do, at random moments between the clicks. After
 // each, the window and the file must say the same, hold every click, and what the other hand added must stand
 // somewhere. One line of counts; exit status 1 when anything was lost or hung.
+#include "Amount.h"
 #include "Table.h"
 #include "support/TemporaryFolder.h"
 
@@ -114,10 +115,10 @@ class ForeignHand {
   };
 };
 
-int run(const std::string& program, int moments, std::chrono::seconds time, unsigned seed) {
+int run(const std::string& program, const Amount& amount) {
   const TemporaryFolder folder;
   fs::create_directory(folder.path("program"));
-  ForeignHand hand(folder, seed);
+  ForeignHand hand(folder, amount.seed());
   ScorersTable table(program, folder.path("program"), hand.path());
   table.openGame();
   int clicks = 0;
@@ -128,8 +129,7 @@ int run(const std::string& program, int moments, std::chrono::seconds time, unsi
     for (int number = least + hand.roll(most - least + 1); number > 0; --number, ++clicks)
       table.score();
   };
-  const auto end = std::chrono::steady_clock::now() + time;
-  for (; done < moments && std::chrono::steady_clock::now() < end; ++done) {
+  for (; amount.goesOn(done); ++done) {
     const auto& kind = hand.kinds()[static_cast<std::size_t>(done) % hand.kinds().size()];
     try {
       click(0, 3);
@@ -157,10 +157,10 @@ int run(const std::string& program, int moments, std::chrono::seconds time, unsi
   const int status = table.leave();
   const int lost = hand.lostMarks();
   const int atEnd = pointsIn(hand.path());
-  std::cout << "foreign hands: seed " << seed << ", moments " << done << " of " << hand.kinds().size()
-            << " kinds, clicks " << clicks << ", in the file at the end " << atEnd << ", clicks never shown "
-            << missed << ", foreign lines " << hand.marks() << ", of them lost " << lost
-            << ", failed moments " << failed << ", exit status " << status << '\n';
+  std::cout << "foreign hands: seed " << amount.seed() << ", moments " << done << " of "
+            << hand.kinds().size() << " kinds, clicks " << clicks << ", in the file at the end " << atEnd
+            << ", clicks never shown " << missed << ", foreign lines " << hand.marks() << ", of them lost "
+            << lost << ", failed moments " << failed << ", exit status " << status << '\n';
   return failed == 0 && lost == 0 && atEnd == clicks && status == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
@@ -168,12 +168,8 @@ int run(const std::string& program, int moments, std::chrono::seconds time, unsi
 
 int main(int argc, char** argv) {
   try {
-    const std::string amount = argc > 2 ? argv[2] : "1150"; // 23 kinds, 50 times each
-    const unsigned seed =
-        argc > 3 ? static_cast<unsigned>(std::stoul(argv[3])) : std::random_device()() % 100'000;
-    const bool isTime = amount.ends_with('s');
-    return run(argv[1], isTime ? 1'000'000 : std::stoi(amount),
-               std::chrono::seconds(isTime ? std::stoi(amount) : 86'400), seed);
+    constexpr int kMoments = 1150; // 23 kinds, 50 times each
+    return run(argv[1], Amount(wordsBehind(2, argc, argv), kMoments));
   } catch (const std::exception& failure) {
     std::cout << "FAILED: " << failure.what() << '\n';
     return EXIT_FAILURE;

@@ -1,6 +1,7 @@
 // torture_kills PROGRAM [KILLS|SECONDSs] [SEED]: a game is recorded by clicks, the program killed at a random
 // moment among them, and started again on the same game. What the window had shown must be in the file, never
 // more than was clicked, and the lock that was left behind must keep nobody out. One line of counts.
+#include "Amount.h"
 #include "Table.h"
 #include "support/TemporaryFolder.h"
 
@@ -13,19 +14,18 @@ using namespace hooptab;
 
 namespace {
 
-int run(const std::string& program, int kills, std::chrono::seconds time, unsigned seed) {
+int run(const std::string& program, const Amount& amount) {
   const TemporaryFolder folder;
   std::filesystem::create_directory(folder.path("program"));
   const std::string game = folder.path("T.GAM");
   makeGame(game);
-  std::mt19937 random(seed);
+  std::mt19937 random(amount.seed());
   const auto roll = [&random](int below) { return std::uniform_int_distribution(0, below - 1)(random); };
   int points = 0;
   int lost = 0;
   int clicks = 0;
   int done = 0;
-  const auto end = std::chrono::steady_clock::now() + time;
-  for (; done < kills && std::chrono::steady_clock::now() < end; ++done) {
+  for (; amount.goesOn(done); ++done) {
     auto table = std::make_unique<ScorersTable>(program, folder.path("program"), game);
     table->openGame();
     table->waitForPoints(points);
@@ -43,7 +43,7 @@ int run(const std::string& program, int kills, std::chrono::seconds time, unsign
     clicks += shown + more;
     points = std::max(found, 0);
   }
-  std::cout << "kills: seed " << seed << ", kills " << done << ", clicks " << clicks
+  std::cout << "kills: seed " << amount.seed() << ", kills " << done << ", clicks " << clicks
             << ", in the file at the end " << points << ", wrong after a kill " << lost << '\n';
   return lost == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
@@ -52,12 +52,8 @@ int run(const std::string& program, int kills, std::chrono::seconds time, unsign
 
 int main(int argc, char** argv) {
   try {
-    const std::string amount = argc > 2 ? argv[2] : "200";
-    const unsigned seed =
-        argc > 3 ? static_cast<unsigned>(std::stoul(argv[3])) : std::random_device()() % 100'000;
-    const bool isTime = amount.ends_with('s');
-    return run(argv[1], isTime ? 1'000'000 : std::stoi(amount),
-               std::chrono::seconds(isTime ? std::stoi(amount) : 86'400), seed);
+    constexpr int kKills = 200;
+    return run(argv[1], Amount(wordsBehind(2, argc, argv), kKills));
   } catch (const std::exception& failure) {
     std::cout << "FAILED: " << failure.what() << '\n';
     return EXIT_FAILURE;

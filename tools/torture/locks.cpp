@@ -2,6 +2,7 @@
 // game. The first records it, the second opens it and only reads. Then the first one hangs, is killed or
 // leaves; the second waits for its sign of life, takes the game over and records; the first, where it comes
 // back, notices and writes no more. One line of counts; 77 where no second host name can be had.
+#include "Amount.h"
 #include "Table.h"
 #include "support/TemporaryFolder.h"
 
@@ -103,16 +104,14 @@ class TwoComputers {
   std::mt19937 m_random;
 };
 
-int run(const std::string& program, const std::string& display, int rounds, std::chrono::seconds time,
-        unsigned seed) {
+int run(const std::string& program, const std::string& display, const Amount& amount) {
   if (std::system("unshare --uts hostname FIRST 2>/dev/null") != 0) {
     std::cout << "skipped: no second host name can be had\n";
     return kSkipped;
   }
-  TwoComputers computers(program, display, seed);
+  TwoComputers computers(program, display, amount.seed());
   Counts counts;
-  const auto end = std::chrono::steady_clock::now() + time;
-  for (; counts.rounds < rounds && std::chrono::steady_clock::now() < end; ++counts.rounds) {
+  for (; amount.goesOn(counts.rounds); ++counts.rounds) {
     try {
       computers.play(counts);
     } catch (const std::exception& failure) {
@@ -120,8 +119,8 @@ int run(const std::string& program, const std::string& display, int rounds, std:
       std::cerr << "round " << counts.rounds << ": " << failure.what() << '\n';
     }
   }
-  std::cout << "locks: seed " << seed << ", rounds " << counts.rounds << ", taken over " << counts.taken
-            << ", loss noticed " << counts.noticed << ", wrong " << counts.wrong << '\n';
+  std::cout << "locks: seed " << amount.seed() << ", rounds " << counts.rounds << ", taken over "
+            << counts.taken << ", loss noticed " << counts.noticed << ", wrong " << counts.wrong << '\n';
   return counts.wrong == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
@@ -129,12 +128,8 @@ int run(const std::string& program, const std::string& display, int rounds, std:
 
 int main(int argc, char** argv) {
   try {
-    const std::string amount = argc > 3 ? argv[3] : "30";
-    const unsigned seed =
-        argc > 4 ? static_cast<unsigned>(std::stoul(argv[4])) : std::random_device()() % 100'000;
-    const bool isTime = amount.ends_with('s');
-    return run(argv[1], argv[2], isTime ? 1'000'000 : std::stoi(amount),
-               std::chrono::seconds(isTime ? std::stoi(amount) : 86'400), seed);
+    constexpr int kRounds = 30;
+    return run(argv[1], argv[2], Amount(wordsBehind(3, argc, argv), kRounds));
   } catch (const std::exception& failure) {
     std::cout << "FAILED: " << failure.what() << '\n';
     return EXIT_FAILURE;
