@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs one of the programs that torture the window on virtual displays: torture.sh foreign|kills|locks FOLDER PROGRAM [AMOUNT]
-# [SEED]. FOLDER holds the torturers. AMOUNT is a count, or seconds as "60s"; without it hours.
+# Runs one of the programs that torture the window on virtual displays: torture.sh foreign|kills|locks|clumsy FOLDER PROGRAM
+# [AMOUNT] [SEED]. FOLDER holds the torturers. AMOUNT is a count, or seconds as "60s"; without it hours.
 set -u
 . "$(dirname "$0")/../../tests/acceptance/display.sh"
 fail() { echo "FAILED: $1"; }

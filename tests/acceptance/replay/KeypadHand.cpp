@@ -146,7 +146,7 @@ bool KeypadHand::isOffered(const GameEvent& event, const std::string& form) {
   const int first = event.code == EventCode::SDR ? kSlotsOfTeam : 0;
   const int count = event.code == EventCode::SA ? kSlotsOfTeam - 1 : kSlotsOfTeam;
   for (int index = first; index < first + count; ++index) {
-    const std::string button = form + "/cmdJERSEY(" + std::to_string(index) + ")";
+    const std::string button = form + "/" + element("cmdJERSEY", index);
     if (m_table.program.isShown(button) && m_table.program.text(button) == event.player.jersey)
       return true;
   }

@@ -39,10 +39,6 @@ constexpr std::array kButtons = {
     Control{EventCode::SU2, "cmdBUTU2"},
 };
 
-std::string element(const std::string& array, int index) {
-  return array + "(" + std::to_string(index) + ")";
-}
-
 std::vector<int> entriesOf(unsigned bits) {
   std::vector<int> entries;
   for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
@@ -174,8 +170,8 @@ std::string MouseHand::shoot(const GameEvent& event, int slot) {
     }
   }
   const Program::Place court = m_table.program.where(element("CourtJ", slot));
-  const Pixel pixel =
-      courtPixel(court.width, court.height, {event.x, event.y}, event.code, playsRight(event), m_zones);
+  const Pixel pixel = courtPixel(court.width, court.height, {event.x, event.y}, event.code,
+                                 playsRight(event.player.team), m_zones);
   clearAway(court.x + pixel.x, court.y + pixel.y);
   press({court.x + pixel.x, court.y + pixel.y, button, event.code});
   return "shot on the court";

@@ -43,9 +43,7 @@ class MouseHand : public Hand {
   void clickRoster(std::size_t team, unsigned entries);
   Table& table() { return m_table; }
   const ZoneMap& zones() const { return m_zones; }
-  [[nodiscard]] bool playsRight(const GameEvent& event) const {
-    return (event.player.team == 1) != m_isSwitched;
-  }
+  [[nodiscard]] bool playsRight(int team) const { return (team == 1) != m_isSwitched; }
 
  private:
   [[nodiscard]] int entryOf(const GameEvent& event) const;

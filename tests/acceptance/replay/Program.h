@@ -10,6 +10,11 @@
 
 namespace hooptab {
 
+// The control of an array: "cmdJERSEY(2)".
+inline std::string element(const std::string& array, int index) {
+  return array + "(" + std::to_string(index) + ")";
+}
+
 // Why a replay cannot go on: what was expected of the program and did not come.
 struct ReplayFailure : std::runtime_error {
   using std::runtime_error::runtime_error;

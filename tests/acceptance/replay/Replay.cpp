@@ -52,7 +52,7 @@ void Replay::play() {
     if (!goesOn())
       return;
     try {
-      play(event, index);
+      enter(event, index);
     } catch (const ReplayFailure& failure) {
       throw ReplayFailure("at " + inWords(event) + ": " + failure.what());
     }
@@ -62,7 +62,7 @@ void Replay::play() {
   }
 }
 
-void Replay::play(const GameEvent& event, std::size_t) {
+void Replay::enter(const GameEvent& event, std::size_t) {
   reach(event);
   if (event.code == EventCode::DEPART) {
     if (!m_isRunning && m_clock > 0)
@@ -105,11 +105,14 @@ void Replay::passTime(int untilClock) {
   buzzed();
 }
 
-void Replay::letBuzzerPass() {
-  if (m_now >= m_earliestStart)
-    return;
-  m_now = m_earliestStart;
+void Replay::letTimePass(int seconds) {
+  m_now += seconds;
   m_table.program.setTime(m_now);
+}
+
+void Replay::letBuzzerPass() {
+  if (m_now < m_earliestStart)
+    letTimePass(static_cast<int>(m_earliestStart - m_now));
 }
 
 // After a last period with equal scores: by itself, or at a key once its card has been seen.

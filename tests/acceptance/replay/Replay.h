@@ -41,12 +41,13 @@ class Replay {
   // Asked before each event: whether there is time for it.
   virtual bool goesOn() { return true; }
   // Reaches its time, and enters it; it is the one at `index` of the original.
-  virtual void play(const GameEvent& event, std::size_t index);
+  virtual void enter(const GameEvent& event, std::size_t index);
   virtual void record(const GameEvent& event);
   // The clock has just run to its end, and its stop is on disk.
   virtual void buzzed() {}
   virtual void returnToEndedPeriod();
   void passTime(int untilClock);
+  void letTimePass(int seconds); // while the clock stands
   void toggleClock();
 
   const Game& original() const { return m_original; }

@@ -1,0 +1,251 @@
+#include "ClumsyHand.h"
+
+#include "appearance/CourtClick.h"
+
+#include <algorithm>
+#include <array>
+
+namespace hooptab {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kGlance = 120ms; // at what has come of it
+constexpr int kSlots = 10;
+constexpr int kSlotsOfTeam = 5;
+constexpr int kMostDigits = 3;
+constexpr int kBesideCourt = 2; // pixels
+
+void sleepFor(std::chrono::milliseconds duration) {
+  std::this_thread::sleep_for(duration);
+}
+
+} // namespace
+
+void ClumsyHand::arm(Slip slip) {
+  m_armed = slip;
+  m_hasSlipped = false;
+}
+
+void ClumsyHand::slipped() {
+  m_hasSlipped = true;
+  m_armed = Slip::None;
+  sleepFor(kGlance);
+  m_screen.look();
+}
+
+// --- Presses
+
+void ClumsyHand::press(const Mark& mark) {
+  if (m_armed == Slip::BesideTheMark)
+    pressBeside();
+  MouseHand::press(mark);
+  switch (m_armed) {
+  case Slip::DoublePress: return pressAgain(mark, m_dice.milliseconds(60, 200));
+  case Slip::TwoFreeThrows: return pressAgain(mark, m_dice.milliseconds(150, 400));
+  case Slip::ClickOnOpening: return clickOpeningQuestion(mark);
+  default: return;
+  }
+}
+
+void ClumsyHand::pressAgain(const Mark& mark, std::chrono::milliseconds behind) {
+  std::this_thread::sleep_until(table().person.lastPress() + behind);
+  table().person.click(mark.x, mark.y, mark.button);
+  slipped();
+}
+
+// The second half of a double click, on the part of the question that is nearest.
+void ClumsyHand::clickOpeningQuestion(const Mark& mark) {
+  constexpr int kMargin = 8;
+  const auto end = std::chrono::steady_clock::now() + 500ms;
+  Program::Place question;
+  do {
+    question = table().program.where("FollowUp");
+  } while (!question.isShown && std::chrono::steady_clock::now() < end);
+  if (!question.isShown)
+    return;
+  sleepFor(m_dice.milliseconds(0, 80));
+  table().person.click(std::clamp(mark.x, question.x + kMargin, question.x + question.width - kMargin),
+                       std::clamp(mark.y, question.y + kMargin, question.y + question.height - kMargin),
+                       mark.button);
+  slipped();
+}
+
+void ClumsyHand::pressBeside() {
+  const int slot = m_dice.between(0, kSlots - 1);
+  switch (m_dice.between(0, 3)) {
+  case 0: pressGap(slot); break;
+  case 1: pressCourtInVain(slot, false); break;
+  case 2: pressCourtInVain(slot, true); break;
+  default: pressPlate(slot / kSlotsOfTeam); break;
+  }
+}
+
+// Between a button and its neighbour on the right, or below.
+void ClumsyHand::pressGap(int slot) {
+  constexpr std::array kNames = {"cmdBUTFT", "cmdBUTLUG", "cmdBUTPB", "cmdBUTA", "cmdBUTST"};
+  const Program::Place button = table().program.where(
+      element(kNames[static_cast<std::size_t>(m_dice.between(0, kNames.size() - 1))], slot));
+  if (!button.isShown)
+    return;
+  const bool isRight = m_dice.chance(50);
+  table().person.click(isRight ? button.x + button.width : button.middleX(),
+                       isRight ? button.middleY() : button.y + button.height);
+  slipped();
+}
+
+void ClumsyHand::pressCourtInVain(int slot, bool isOnLine) {
+  const Program::Place court = table().program.where(element("CourtJ", slot));
+  if (!court.isShown)
+    return;
+  std::vector<Pixel> pixels;
+  const auto isInVain = [&](Pixel pixel) {
+    const auto shown = placeShownAt(court.width, court.height, pixel);
+    return shown && !CourtClick::of(*shown, playsRight(slot / kSlotsOfTeam), zones());
+  };
+  for (int y = 0; y < court.height; ++y) {
+    if (!isOnLine)
+      pixels.push_back({-kBesideCourt, y}); // at its very edge a press counts
+    for (int x = 0; isOnLine && x < court.width; ++x) {
+      if (isInVain({x, y}))
+        pixels.push_back({x, y});
+    }
+  }
+  const Pixel& pixel = m_dice.oneOf(pixels);
+  table().person.click(court.x + pixel.x, court.y + pixel.y);
+  slipped();
+}
+
+// Which asks for a colour: who did not mean it, closes that.
+void ClumsyHand::pressPlate(int team) {
+  Program& program = table().program;
+  table().person.clickAt(program.where(element("pictTEAM", team)));
+  slipped();
+  const auto end = std::chrono::steady_clock::now() + 600ms;
+  while (program.where("frmLIVE").isActive && std::chrono::steady_clock::now() < end)
+    sleepFor(5ms);
+  if (program.where("frmLIVE").isActive)
+    return;
+  sleepFor(kGlance);
+  table().person.press("Escape");
+  program.waitUntilActive("frmLIVE");
+}
+
+void ClumsyHand::pressClock() {
+  if (m_armed != Slip::HeldSpace)
+    return MouseHand::pressClock();
+  table().person.holdDown("space", m_dice.milliseconds(500, 1000));
+  slipped();
+}
+
+void ClumsyHand::actByMistake(int slot) {
+  MouseHand::press(element("cmdBUTTO", slot), EventCode::STO);
+}
+
+// --- Substitutions
+
+void ClumsyHand::beginSubstitution(const OnCourt& before, const OnCourt& wanted) {
+  table().person.press("F6");
+  for (std::size_t team = 0; team < 2; ++team)
+    clickRoster(team, before[team] & ~wanted[team]);
+  slipped();
+}
+
+void ClumsyHand::endSubstitution(const OnCourt& before, const OnCourt& wanted) {
+  for (std::size_t team = 0; team < 2; ++team)
+    clickRoster(team, wanted[team] & ~before[team]);
+  sleepFor(kGlance);
+  m_screen.look();
+  table().person.press("F6");
+}
+
+// --- Numbers
+
+void ClumsyHand::typeAnswer(const std::string& form, const std::string& jersey) {
+  Person& person = table().person;
+  switch (m_armed) {
+  case Slip::WrongDigits: typeByHeart(wrongNumber(jersey)); break;
+  case Slip::EnterByHabit:
+    typeByHeart(jersey);
+    if (table().program.isShown("FollowUp")) // where Enter is no habit, but needed
+      return lookAndAnswer(form, jersey);
+    break;
+  case Slip::HeldKey:
+    if (m_dice.chance(50)) {
+      typeByHeart(jersey.substr(0, jersey.size() - 1));
+      person.holdDown(jersey.substr(jersey.size() - 1), m_dice.milliseconds(500, 1000));
+      slipped();
+    } else {
+      typeByHeart(jersey);
+      person.holdDown("Return", m_dice.milliseconds(500, 1000));
+      slipped();
+    }
+    return lookAndAnswer(form, jersey);
+  default: return MouseHand::typeAnswer(form, jersey);
+  }
+  person.press("Return");
+  slipped();
+  lookAndAnswer(form, jersey);
+}
+
+// A team mate's on the bench, nobody's, or the right one with a digit too many.
+std::string ClumsyHand::wrongNumber(const std::string& jersey) {
+  const Game& game = table().recorded.game();
+  const OnCourt onCourt = table().recorded.onCourt();
+  const int way = m_dice.between(0, 2);
+  if (way == 0) {
+    std::vector<std::string> bench;
+    for (int team = 0; team < 2; ++team) {
+      const Roster& roster = game.roster[team];
+      if (roster.entryOf(jersey) == 0)
+        continue;
+      for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
+        const RosterPlayer* player = roster.player(entry);
+        if (player != nullptr && (onCourt[static_cast<std::size_t>(team)] >> entry & 1U) == 0)
+          bench.push_back(player->jersey);
+      }
+    }
+    if (!bench.empty())
+      return m_dice.oneOf(bench);
+  }
+  if (way == 1) {
+    for (int tries = 0; tries < 100; ++tries) {
+      const std::string number = std::to_string(m_dice.between(10, 99));
+      if (game.roster[0].entryOf(number) == 0 && game.roster[1].entryOf(number) == 0)
+        return number;
+    }
+  }
+  return std::to_string(m_dice.between(1, 9)) + jersey;
+}
+
+// Without a look at the screen.
+void ClumsyHand::typeByHeart(const std::string& digits) {
+  for (const char digit : digits) {
+    sleepFor(m_dice.milliseconds(30, 110));
+    table().person.type({&digit, 1});
+  }
+  sleepFor(m_dice.milliseconds(60, 250));
+}
+
+// What is gone is taken for done; what is open still is typed once more, with care.
+void ClumsyHand::lookAndAnswer(const std::string& form, const std::string& jersey) {
+  Program& program = table().program;
+  sleepFor(kGlance);
+  m_screen.look();
+  if (!program.isShown("FollowUp"))
+    return;
+  for (int digit = 0; digit < kMostDigits && program.isShown(form + "lblQUESTION"); ++digit) {
+    const std::string shown = program.text(form + "lblQUESTION");
+    if (shown.ends_with(' ' + jersey + '_'))
+      return table().person.press("Return"); // the right number, and only Enter is missing
+    if (!shown.ends_with('_') || shown.ends_with(" _"))
+      break;
+    table().person.press("BackSpace");
+    sleepFor(kGlance / 2);
+  }
+  if (program.isShown("FollowUp"))
+    MouseHand::typeAnswer(form, jersey);
+}
+
+} // namespace hooptab

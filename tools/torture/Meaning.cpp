@@ -1,0 +1,119 @@
+#include "Meaning.h"
+
+#include "acceptance/replay/Comparison.h"
+#include "storage/Module1.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace hooptab {
+
+namespace {
+
+constexpr double kSamePlace = 3; // court units
+
+struct Deed {
+  const GameEvent* event;
+  OnCourt onCourt; // at that time
+};
+
+struct Course {
+  std::vector<Deed> deeds;
+  OnCourt onCourt = {}; // in the end
+  bool isRunning = false;
+};
+
+Course courseOf(const Game& game) {
+  const Rosters rosters{game.roster[0], game.roster[1]};
+  Course course;
+  for (const GameEvent& event : game.events) {
+    if (!event.isUnderstood || event.isDeleted)
+      continue;
+    if (event.isClock())
+      course.isRunning = event.code == EventCode::DEPART;
+    else
+      course.deeds.push_back({&event, course.onCourt});
+    if (const auto lists = onCourtOf(event.period, std::string(event.line), rosters))
+      course.onCourt = *lists;
+  }
+  return course;
+}
+
+bool isSame(const GameEvent& found, const GameEvent& wanted) {
+  const bool isNear =
+      !found.hasPlace || !wanted.hasPlace || std::hypot(found.x - wanted.x, found.y - wanted.y) <= kSamePlace;
+  return found.code == wanted.code && found.period == wanted.period &&
+         found.clockSeconds == wanted.clockSeconds && found.isMade == wanted.isMade &&
+         found.player.team == wanted.player.team && found.player.jersey == wanted.player.jersey && isNear;
+}
+
+std::string inWords(const GameEvent& event) {
+  return "period " + std::to_string(event.period) + " " + std::string(event.line);
+}
+
+std::string inWords(const std::vector<Deed>& deeds, std::size_t index) {
+  return index < deeds.size() ? inWords(*deeds[index].event) : "nothing";
+}
+
+std::string inWords(const OnCourt& onCourt, const Game& game) {
+  return listsText(onCourt, Rosters{game.roster[0], game.roster[1]});
+}
+
+// As if the clock were stopped now: seconds are only counted then.
+Game stopped(const Game& game, const Course& course, const Meaning::Moment& now) {
+  Game copy = game;
+  if (course.isRunning)
+    copy.events.appendOwned(now.period, "1",
+                            Module1::clockText(now.clock) +
+                                stopText(course.onCourt, Rosters{game.roster[0], game.roster[1]}));
+  return copy;
+}
+
+} // namespace
+
+Meaning::Meaning(const Game& original) {
+  m_meant.details = original.details;
+  for (std::size_t team = 0; team < 2; ++team)
+    m_meant.roster[team] = original.roster[team];
+}
+
+void Meaning::add(const GameEvent& event) {
+  m_meant.events.appendOwned(event.period, event.key, event.line);
+  m_events += event.isClock() ? 0 : 1;
+}
+
+OnCourt Meaning::onCourt() const {
+  return courseOf(m_meant).onCourt;
+}
+
+Meaning::Difference Meaning::difference(const Game& recorded, const Moment& now) const {
+  using Kind = Difference::Kind;
+  const Course found = courseOf(recorded);
+  const Course meant = courseOf(m_meant);
+  for (std::size_t index = 0; index < std::max(found.deeds.size(), meant.deeds.size()); ++index) {
+    const std::string words =
+        "meant " + inWords(meant.deeds, index) + ", came " + inWords(found.deeds, index);
+    if (index >= found.deeds.size())
+      return {Kind::Missing, words, meant.deeds[index].event};
+    if (index >= meant.deeds.size() || !isSame(*found.deeds[index].event, *meant.deeds[index].event))
+      return {Kind::Wrong, words};
+    const OnCourt& lists = found.deeds[index].onCourt;
+    if (lists != meant.deeds[index].onCourt)
+      return {Kind::Wrong, "at " + inWords(meant.deeds, index) + " on court " + inWords(lists, recorded) +
+                               " instead of " + inWords(meant.deeds[index].onCourt, recorded)};
+  }
+  if (found.isRunning != now.isRunning)
+    return {Kind::Clock,
+            found.isRunning ? "the clock runs and should stand" : "the clock stands and should run"};
+  if (found.onCourt != meant.onCourt)
+    return {Kind::Lists, "on court " + inWords(found.onCourt, recorded) + " instead of " +
+                             inWords(meant.onCourt, recorded)};
+  const std::vector<std::string> counts =
+      differences(stopped(recorded, found, now), stopped(m_meant, meant, now));
+  if (counts.empty())
+    return {};
+  return {Kind::Seconds, counts.front() + " (" + std::to_string(counts.size()) + " counts)"};
+}
+
+} // namespace hooptab
