@@ -15,7 +15,6 @@ constexpr auto kGlance = 120ms; // at what has come of it
 constexpr int kSlots = 10;
 constexpr int kSlotsOfTeam = 5;
 constexpr int kMostDigits = 3;
-constexpr int kBesideCourt = 2; // pixels
 
 void sleepFor(std::chrono::milliseconds duration) {
   std::this_thread::sleep_for(duration);
@@ -75,44 +74,46 @@ void ClumsyHand::clickOpeningQuestion(const Mark& mark) {
 void ClumsyHand::pressBeside() {
   const int slot = m_dice.between(0, kSlots - 1);
   switch (m_dice.between(0, 3)) {
-  case 0: pressGap(slot); break;
-  case 1: pressCourtInVain(slot, false); break;
-  case 2: pressCourtInVain(slot, true); break;
+  case 0:
+  case 1: pressGap(slot); break;
+  case 2: pressLine(slot); break;
   default: pressPlate(slot / kSlotsOfTeam); break;
   }
 }
 
-// Between a button and its neighbour on the right, or below.
+// Beside a button or the court, where no other one is.
 void ClumsyHand::pressGap(int slot) {
-  constexpr std::array kNames = {"cmdBUTFT", "cmdBUTLUG", "cmdBUTPB", "cmdBUTA", "cmdBUTST"};
-  const Program::Place button = table().program.where(
-      element(kNames[static_cast<std::size_t>(m_dice.between(0, kNames.size() - 1))], slot));
-  if (!button.isShown)
+  const std::vector<Program::Place> targets = targetsOf(slot);
+  std::vector<Pixel> gaps;
+  for (const Program::Place& target : targets) {
+    for (const Pixel pixel :
+         {Pixel{target.x + target.width, target.middleY()}, Pixel{target.x - 1, target.middleY()},
+          Pixel{target.middleX(), target.y + target.height}}) {
+      if (std::ranges::none_of(targets, [&](const auto& other) { return other.holds(pixel.x, pixel.y); }))
+        gaps.push_back(pixel);
+    }
+  }
+  if (gaps.empty())
     return;
-  const bool isRight = m_dice.chance(50);
-  table().person.click(isRight ? button.x + button.width : button.middleX(),
-                       isRight ? button.middleY() : button.y + button.height);
+  const Pixel& pixel = m_dice.oneOf(gaps);
+  table().person.click(pixel.x, pixel.y);
   slipped();
 }
 
-void ClumsyHand::pressCourtInVain(int slot, bool isOnLine) {
+// Where two zones meet.
+void ClumsyHand::pressLine(int slot) {
   const Program::Place court = table().program.where(element("CourtJ", slot));
-  if (!court.isShown)
-    return;
-  std::vector<Pixel> pixels;
-  const auto isInVain = [&](Pixel pixel) {
-    const auto shown = placeShownAt(court.width, court.height, pixel);
-    return shown && !CourtClick::of(*shown, playsRight(slot / kSlotsOfTeam), zones());
-  };
-  for (int y = 0; y < court.height; ++y) {
-    if (!isOnLine)
-      pixels.push_back({-kBesideCourt, y}); // at its very edge a press counts
-    for (int x = 0; isOnLine && x < court.width; ++x) {
-      if (isInVain({x, y}))
-        pixels.push_back({x, y});
+  std::vector<Pixel> line;
+  for (int y = 0; court.isShown && y < court.height; ++y) {
+    for (int x = 0; x < court.width; ++x) {
+      const auto shown = placeShownAt(court.width, court.height, {x, y});
+      if (shown && !CourtClick::of(*shown, playsRight(slot / kSlotsOfTeam), zones()))
+        line.push_back({x, y});
     }
   }
-  const Pixel& pixel = m_dice.oneOf(pixels);
+  if (line.empty())
+    return;
+  const Pixel& pixel = m_dice.oneOf(line);
   table().person.click(court.x + pixel.x, court.y + pixel.y);
   slipped();
 }

@@ -39,7 +39,7 @@ class ClumsyHand : public MouseHand {
   void clickOpeningQuestion(const Mark& mark);
   void pressBeside();
   void pressGap(int slot);
-  void pressCourtInVain(int slot, bool isOnLine);
+  void pressLine(int slot);
   void pressPlate(int team);
   [[nodiscard]] std::string wrongNumber(const std::string& jersey);
   void typeByHeart(const std::string& digits);

@@ -6,7 +6,6 @@
 #include <bit>
 #include <cmath>
 #include <sstream>
-#include <vector>
 
 namespace hooptab {
 
@@ -108,6 +107,14 @@ void MouseHand::press(const Mark& mark) {
     std::this_thread::sleep_until(m_table.person.lastPress() + kOneSpotAgain);
   m_table.person.click(mark.x, mark.y, mark.button);
   m_lastMark = mark;
+}
+
+std::vector<Program::Place> MouseHand::targetsOf(int slot) {
+  std::vector<Program::Place> targets = {m_table.program.where(element("CourtJ", slot))};
+  for (const Control& button : kButtons)
+    targets.push_back(m_table.program.where(element(button.name, slot)));
+  std::erase_if(targets, [](const Program::Place& target) { return !target.isShown; });
+  return targets;
 }
 
 void MouseHand::press(const std::string& control, EventCode kind, Person::Button button) {

@@ -7,6 +7,7 @@
 #include "Hand.h"
 
 #include <optional>
+#include <vector>
 
 namespace hooptab {
 
@@ -40,6 +41,8 @@ class MouseHand : public Hand {
   void click(const std::string& control, Person::Button button = Person::Button::Left);
   // Closes what lies over the place: a question, or the card of an ended period.
   void clearAway(int x, int y);
+  // Of a panel, as far as they are shown: its buttons and its court.
+  [[nodiscard]] std::vector<Program::Place> targetsOf(int slot);
   void clickRoster(std::size_t team, unsigned entries);
   Table& table() { return m_table; }
   const ZoneMap& zones() const { return m_zones; }
