@@ -10,7 +10,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kSlipsOfHundred = 22;  // events that have an occasion
 constexpr int kLateOfHundred = 60;   // ends of periods
 constexpr int kHalvesOfHundred = 50; // substitutions while the clock runs
 constexpr int kPausesOfHundred = 25; // fouls
@@ -19,16 +18,12 @@ constexpr int kSlots = 10;
 constexpr auto kSettled = 500ms;
 constexpr auto kBehindSlip = 150ms;
 
-bool isFollowUp(const GameEvent& event) {
-  return event.code == EventCode::SA || event.code == EventCode::SOR || event.code == EventCode::SDR;
-}
-
 } // namespace
 
 ClumsyGame::ClumsyGame(const Game& original, const hooptab::Table& table, ClumsyHand& hand, Dice& dice,
                        Screen& screen, const Amount& amount, SlipCounts& counts)
     : Replay(original, table, hand), m_hand(hand), m_dice(dice), m_screen(screen), m_amount(amount),
-      m_counts(counts), m_meaning(original) {}
+      m_counts(counts), m_occasions(original), m_meaning(original) {}
 
 bool ClumsyGame::goesOn() {
   m_isCutShort = !m_amount.hasTime() && !m_isEntered;
@@ -51,7 +46,7 @@ void ClumsyGame::enter(const GameEvent& event, std::size_t index) {
     const auto wanted = substitutionAhead(event);
     if (m_slip == Slip::HalfSubstitution && wanted)
       substituteByHalves(event, *wanted);
-    else
+    else if (!isStartBehindHalves(event))
       Replay::enter(event, index);
   } catch (const Unmended&) {
     throw;
@@ -59,6 +54,9 @@ void ClumsyGame::enter(const GameEvent& event, std::size_t index) {
     failure = problem.what();
   }
   m_meaning.add(event);
+  if (m_isPutOff && event.code == EventCode::DEPART)
+    m_meaning.putOffLast(clock());
+  m_isPutOff = false;
   if (m_slip == Slip::TwoFreeThrows && m_hand.hasSlipped() && !isSecond) {
     m_isEntered = true; // and judged with the second
     return;
@@ -68,6 +66,12 @@ void ClumsyGame::enter(const GameEvent& event, std::size_t index) {
     pauseByHeldSpace();
   if (!event.isClock() && !isClosed() && m_dice.chance(kUndoneOfHundred))
     undoTwice();
+}
+
+// Which came with the substitution, and while its second half was on the way the clock ran on.
+bool ClumsyGame::isStartBehindHalves(const GameEvent& event) const {
+  return event.code == EventCode::DEPART && isRunning() && event.period == period() &&
+         event.clockSeconds > clock();
 }
 
 void ClumsyGame::record(const GameEvent& event) {
@@ -89,55 +93,24 @@ void ClumsyGame::begin(Slip slip) {
 Slip ClumsyGame::choose(const GameEvent& event, std::size_t index) {
   if (!m_screen.isQuiet())
     return Slip::None;
-  if (substitutionAhead(event) && m_dice.chance(kHalvesOfHundred))
-    return Slip::HalfSubstitution;
-  if (event.isClock())
-    return m_dice.chance(50) ? Slip::HeldSpace : Slip::None;
-  if (isPairOfFreeThrows(event, index) && m_dice.chance(50))
-    return Slip::TwoFreeThrows;
-  std::vector<Slip> occasions = {Slip::BesideTheMark};
-  if (isFollowUp(event))
-    occasions = {Slip::WrongDigits, Slip::WrongDigits, Slip::EnterByHabit, Slip::HeldKey};
-  else if (event.isShot() && event.code != EventCode::GFT)
-    occasions = {Slip::DoublePress, Slip::DoublePress, Slip::ClickOnOpening, Slip::BesideTheMark};
-  return m_dice.chance(kSlipsOfHundred) ? m_dice.oneOf(occasions) : Slip::None;
+  return substitutionAhead(event) && m_dice.chance(kHalvesOfHundred) ? Slip::HalfSubstitution
+                                                                     : m_occasions.choose(index, m_dice);
 }
 
-bool ClumsyGame::isPairOfFreeThrows(const GameEvent& event, std::size_t index) const {
-  if (event.code != EventCode::GFT || index + 1 >= original().events.size())
-    return false;
-  const GameEvent& next = original().events[index + 1];
-  return next.isUnderstood && !next.isDeleted && next.code == event.code && next.isMade == event.isMade &&
-         next.period == event.period && next.clockSeconds == event.clockSeconds &&
-         next.player.team == event.player.team && next.player.jersey == event.player.jersey;
-}
-
-// Who shall stand on court, where some come and as many go one by one while the clock runs, and it has not
-// run to that moment yet.
+// Who shall stand on court, where some come and as many go one by one while the clock runs.
 std::optional<OnCourt> ClumsyGame::substitutionAhead(const GameEvent& event) const {
-  if (event.code != EventCode::ARRET || !isRunning() || event.period != period() ||
-      event.clockSeconds >= clock() || event.clockSeconds == 0)
+  if (!isRunning() || event.period != period() || event.clockSeconds > clock() || event.clockSeconds < 2)
     return std::nullopt;
-  const Rosters rosters{original().roster[0], original().roster[1]};
-  const auto wanted = onCourtOf(event.period, std::string(event.line), rosters);
-  const OnCourt before = m_meaning.onCourt();
-  constexpr int kOneByOne = 2;
-  int coming = 0;
-  for (std::size_t team = 0; team < 2; ++team) {
-    coming += std::popcount((*wanted)[team] & ~before[team]);
-    if (std::popcount((*wanted)[team]) != std::popcount(before[team]))
-      return std::nullopt;
-  }
-  return coming > 0 && coming <= kOneByOne ? wanted : std::nullopt;
+  return m_occasions.exchange(event, m_meaning.onCourt());
 }
 
 void ClumsyGame::substituteByHalves(const GameEvent& event, const OnCourt& wanted) {
   m_courtBefore = m_meaning.onCourt();
-  const int between = std::min(m_dice.between(1, 5), clock() - event.clockSeconds);
-  if (event.clockSeconds + between < clock())
-    passTime(event.clockSeconds + between);
-  m_hand.beginSubstitution(m_courtBefore, wanted);
   passTime(event.clockSeconds);
+  m_hand.beginSubstitution(m_courtBefore, wanted);
+  if (const int pause = std::min(m_dice.between(1, 5), clock() - std::max(m_occasions.nextClock(m_index), 1));
+      pause > 0)
+    passTime(clock() - pause);
   m_hand.endSubstitution(m_courtBefore, wanted);
 }
 
@@ -190,7 +163,7 @@ void ClumsyGame::undoTwice() {
 
 // The clock has run out, and Space comes for the stop that it needs no more.
 void ClumsyGame::buzzed() {
-  if (periodGoesOnBehind(m_index) || !m_screen.isQuiet() || !m_dice.chance(kLateOfHundred))
+  if (m_occasions.periodGoesOnFrom(m_index) || !m_screen.isQuiet() || !m_dice.chance(kLateOfHundred))
     return;
   Program& program = table().program;
   const Slip before = m_slip;
@@ -212,16 +185,6 @@ void ClumsyGame::buzzed() {
     throw Unmended("an overtime that nobody has asked for");
   }
   m_slip = before;
-}
-
-// Who has to go back into the period finds no way after a start of the next one.
-bool ClumsyGame::periodGoesOnBehind(std::size_t index) const {
-  const auto events = original().events.events();
-  const GameEvent& last = events[index];
-  return std::any_of(
-      events.begin() + static_cast<std::ptrdiff_t>(index), events.end(), [&](const GameEvent& event) {
-        return event.isUnderstood && !event.isDeleted && event.period == last.period && !event.isClock();
-      });
 }
 
 // --- What came of it
@@ -289,6 +252,8 @@ void ClumsyGame::mend() {
   if (m_slip == Slip::HalfSubstitution) {
     for (int step = 0; step < kMostClicks && table().recorded.onCourt() != m_courtBefore; ++step)
       takeBack();
+    m_meaning.putOffLast(clock()); // made once more, as a whole
+    m_isPutOff = true;
   }
   for (int step = 0; step < kMostSteps; ++step) {
     const Meaning::Difference wrong = settled();

@@ -6,6 +6,7 @@
 #include "Amount.h"
 #include "ClumsyHand.h"
 #include "Meaning.h"
+#include "Occasions.h"
 #include "acceptance/replay/Replay.h"
 
 namespace hooptab {
@@ -23,6 +24,8 @@ class ClumsyGame : public Replay {
 
   // Stops the clock, so that one can leave, where the time was up before the end. Whether it was the end.
   bool stopForToday();
+  // Whether the file still differs from what was meant.
+  [[nodiscard]] Meaning::Difference difference();
   int events() const { return m_meaning.events(); } // meant so far
 
  protected:
@@ -33,16 +36,14 @@ class ClumsyGame : public Replay {
 
  private:
   [[nodiscard]] Slip choose(const GameEvent& event, std::size_t index);
-  [[nodiscard]] bool isPairOfFreeThrows(const GameEvent& event, std::size_t index) const;
   [[nodiscard]] std::optional<OnCourt> substitutionAhead(const GameEvent& event) const;
-  [[nodiscard]] bool periodGoesOnBehind(std::size_t index) const;
+  [[nodiscard]] bool isStartBehindHalves(const GameEvent& event) const;
   void substituteByHalves(const GameEvent& event, const OnCourt& wanted);
   void pauseByHeldSpace();
   void undoTwice();
   void begin(Slip slip);
   void judge(const std::string& failure);
   [[nodiscard]] Meaning::Difference settled();
-  [[nodiscard]] Meaning::Difference difference();
   void tell(const std::string& words);
   void mend();
   void mendOnce(const Meaning::Difference& wrong);
@@ -54,11 +55,13 @@ class ClumsyGame : public Replay {
   Screen& m_screen;
   const Amount& m_amount;
   SlipCounts& m_counts;
+  Occasions m_occasions;
   Meaning m_meaning;
   Slip m_slip = Slip::None;
   OnCourt m_courtBefore = {}; // a substitution by halves
   std::size_t m_index = 0;    // of the event that is being played
   bool m_isEntered = false;   // the second of two free throws, with the first
+  bool m_isPutOff = false;    // a substitution was made later than in the original
   bool m_isCutShort = false;
   std::string m_runningCaption; // of START, while the clock runs
 };

@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 constexpr auto kGlance = 120ms; // at what has come of it
 constexpr int kSlots = 10;
 constexpr int kSlotsOfTeam = 5;
-constexpr int kMostDigits = 3;
+constexpr int kMostDigits = 4;
 
 void sleepFor(std::chrono::milliseconds duration) {
   std::this_thread::sleep_for(duration);
@@ -236,17 +236,20 @@ void ClumsyHand::lookAndAnswer(const std::string& form, const std::string& jerse
   m_screen.look();
   if (!program.isShown("FollowUp"))
     return;
-  for (int digit = 0; digit < kMostDigits && program.isShown(form + "lblQUESTION"); ++digit) {
-    const std::string shown = program.text(form + "lblQUESTION");
-    if (shown.ends_with(' ' + jersey + '_'))
-      return table().person.press("Return"); // the right number, and only Enter is missing
-    if (!shown.ends_with('_') || shown.ends_with(" _"))
-      break;
+  if (program.typedIn(form) == jersey)
+    return table().person.press("Return"); // the right number, and only Enter is missing
+  for (int digit = 0; digit < kMostDigits && program.isShown("FollowUp") && !program.typedIn(form).empty();
+       ++digit) {
     table().person.press("BackSpace");
     sleepFor(kGlance / 2);
+    m_screen.look();
   }
-  if (program.isShown("FollowUp"))
+  if (!program.isShown("FollowUp"))
+    return;
+  if (program.typedIn(form).empty())
     MouseHand::typeAnswer(form, jersey);
+  else
+    clearQuestion(); // which does not listen
 }
 
 } // namespace hooptab

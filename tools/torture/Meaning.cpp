@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace hooptab {
@@ -81,6 +82,17 @@ Meaning::Meaning(const Game& original) {
 void Meaning::add(const GameEvent& event) {
   m_meant.events.appendOwned(event.period, event.key, event.line);
   m_events += event.isClock() ? 0 : 1;
+}
+
+void Meaning::putOffLast(int clock) {
+  const EventList before = std::exchange(m_meant.events, EventList());
+  for (std::size_t index = 0; index < before.size(); ++index) {
+    const GameEvent& event = before[index];
+    std::string line(event.line);
+    if (index + 1 == before.size())
+      line = Module1::clockText(clock) + line.substr(line.find(','));
+    m_meant.events.appendOwned(event.period, event.key, line);
+  }
 }
 
 OnCourt Meaning::onCourt() const {

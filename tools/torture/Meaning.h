@@ -15,6 +15,8 @@ class Meaning {
   // Of the game that is being played.
   explicit Meaning(const Game& original);
   void add(const GameEvent& event); // of the original
+  // The last one happened at that clock instead.
+  void putOffLast(int clock);
 
   struct Moment {
     int period = 1;

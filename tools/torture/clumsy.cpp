@@ -4,7 +4,6 @@
 // without a word, 77 where there are no real games.
 #include "ClumsyGame.h"
 #include "Table.h"
-#include "acceptance/replay/Comparison.h"
 #include "support/TemporaryFolder.h"
 
 #include <algorithm>
@@ -59,11 +58,12 @@ void makeEmpty(const std::string& path, const Game& original) {
     throw ReplayFailure("the game cannot be made: " + path);
 }
 
-void compareWhole(const Game& recorded, const Game& original, SlipCounts& counts) {
-  const std::vector<std::string> wrong = differences(recorded, original);
-  for (const std::string& line : wrong)
-    std::cout << "SILENT, at the end: " << line << '\n';
-  counts.silent[static_cast<std::size_t>(Slip::None)] += wrong.empty() ? 0 : 1;
+void compareAtEnd(ClumsyGame& game, SlipCounts& counts) {
+  const Meaning::Difference wrong = game.difference();
+  if (!wrong)
+    return;
+  std::cout << "SILENT, at the end: " << wrong.words << '\n';
+  ++counts.silent[static_cast<std::size_t>(Slip::None)];
 }
 
 void play(const std::string& program, const fs::path& path, const Amount& amount, Dice& dice,
@@ -87,9 +87,7 @@ void play(const std::string& program, const fs::path& path, const Amount& amount
     if (isWhole)
       game.declareOver();
     outcome.status = std::max(outcome.status, scorers.leave());
-    recorded.read();
-    if (isWhole)
-      compareWhole(recorded.game(), original, outcome.counts);
+    compareAtEnd(game, outcome.counts);
   } catch (const ReplayFailure& failure) {
     ++outcome.abandoned;
     std::cout << "abandoned, " << path.stem().string() << ": " << failure.what() << std::endl;

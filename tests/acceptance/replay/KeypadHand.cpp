@@ -161,7 +161,7 @@ std::string KeypadHand::answer(const GameEvent& event, const std::string& form) 
   Program& program = m_table.program;
   const auto isOpen = [&] { return program.isShown(form); };
   waitUntil("the number is taken, or shown",
-            [&] { return !isOpen() || program.text(form + "/lblQUESTION").ends_with(' ' + number + '_'); });
+            [&] { return !isOpen() || program.typedIn(form + "/") == number; });
   const bool isClear = !isOpen();
   if (!isClear) {
     m_table.camera.take("equal-numbers");

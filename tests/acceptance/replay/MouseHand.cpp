@@ -209,8 +209,9 @@ std::optional<std::string> MouseHand::answerQuestion(const GameEvent& event) {
   }
   if (offered < 0)
     return std::nullopt;
-  // Of two equal numbers Enter takes the one who defends.
-  const bool isClear = sameNumber == 1 || event.code == EventCode::SDR;
+  // Of two equal numbers Enter takes the one who defends, or the one of the team that it confirms.
+  const bool isClear = sameNumber == 1 || (event.code == EventCode::SDR &&
+                                           event.player.team == m_table.recorded.game().details.mainTeam);
   if (!isClear || clicksAnswer()) {
     clickAnswer(form + element("cmdJERSEY", offered));
     return isAssist ? "assist asked for, clicked" : "rebound asked for, clicked";
@@ -235,9 +236,8 @@ void MouseHand::typeAnswer(const std::string& form, const std::string& jersey) {
   for (const char digit : jersey) {
     typed += digit;
     m_table.person.type({&digit, 1});
-    waitUntil("the number is taken, or shown", [&] {
-      return !program.isShown("FollowUp") || program.text(form + "lblQUESTION").ends_with(' ' + typed + '_');
-    });
+    waitUntil("the number is taken, or shown",
+              [&] { return !program.isShown("FollowUp") || program.typedIn(form) == typed; });
     if (!program.isShown("FollowUp"))
       return; // no other number begins so
   }

@@ -90,6 +90,17 @@ std::string Program::text(const std::string& control) {
   return ask("text " + control);
 }
 
+// In a label of their own, or behind the words of the question; with "_" behind while there are any.
+std::string Program::typedIn(const std::string& form) {
+  const bool hasOwn = isShown(form + "lblTYPED");
+  const std::string shown = text(form + (hasOwn ? "lblTYPED" : "lblQUESTION"));
+  if (!shown.ends_with('_'))
+    return {};
+  const std::size_t before = shown.find_last_of(' ');
+  const std::size_t first = before == std::string::npos ? 0 : before + 1;
+  return shown.substr(first, shown.size() - 1 - first);
+}
+
 void Program::setTime(std::int64_t seconds) {
   (void)ask("time " + std::to_string(seconds));
 }

@@ -37,6 +37,8 @@ class Program {
   };
   [[nodiscard]] Place where(const std::string& control);
   [[nodiscard]] std::string text(const std::string& control);
+  // The digits that the question shows as typed; `form` is its name with a "/" behind.
+  [[nodiscard]] std::string typedIn(const std::string& form);
   void setTime(std::int64_t seconds);
 
   bool isShown(const std::string& control) { return where(control).isShown; }

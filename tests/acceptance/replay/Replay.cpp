@@ -135,12 +135,16 @@ void Replay::beginNextPeriod(const GameEvent& first) {
     throw ReplayFailure("the original leaves a period before its end");
   const Effort before = m_table.person.effort();
   letBuzzerPass();
-  if (!m_isClosed)
+  if (!m_isClosed) {
     m_hand.toggleClock(); // leaves the period that was returned to
+    m_earliestStart = m_now + kBuzzer;
+  }
   m_clock = m_original.details.minutesPerPeriod * kSecondsPerMinute;
   if (isLastRegular()) {
-    if (!overtimeIsAsked())
+    if (!overtimeIsAsked()) {
+      letBuzzerPass();
       m_hand.toggleClock();
+    }
     m_table.program.waitUntilActive("frmOVERTIME");
     m_table.camera.take("overtime");
     m_table.person.type(std::to_string(first.clockSeconds / kSecondsPerMinute));
