@@ -64,7 +64,7 @@ std::string inWords(const OnCourt& onCourt, const Game& game) {
 // As if the clock were stopped now: seconds are only counted then.
 Game stopped(const Game& game, const Course& course, const Meaning::Moment& now) {
   Game copy = game;
-  if (course.isRunning)
+  if (course.isRunning || now.isRunning) // the original may tell of the start behind a substitution later
     copy.events.appendOwned(now.period, "1",
                             Module1::clockText(now.clock) +
                                 stopText(course.onCourt, Rosters{game.roster[0], game.roster[1]}));

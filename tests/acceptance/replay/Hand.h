@@ -10,6 +10,7 @@
 #include <chrono>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace hooptab {
 
@@ -20,6 +21,17 @@ struct Table {
   Recorded& recorded;
   Camera& camera;
 };
+
+inline constexpr int kPlaces = 15; // of a team, wherever all its players have a button
+// Of a team's list of players on court, or a part of one.
+inline std::vector<int> entriesOf(unsigned bits) {
+  std::vector<int> entries;
+  for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
+    if ((bits >> entry & 1U) != 0)
+      entries.push_back(entry);
+  }
+  return entries;
+}
 
 class Hand {
  public:

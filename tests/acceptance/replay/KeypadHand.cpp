@@ -106,10 +106,8 @@ std::string KeypadHand::numberOf(int team, std::string_view jersey) const {
 
 std::vector<std::string> KeypadHand::numbersOf(int team, unsigned entries) const {
   std::vector<std::string> numbers;
-  for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
-    if ((entries >> entry & 1U) != 0)
-      numbers.push_back(numberOf(team, m_table.recorded.game().roster[team].player(entry)->jersey));
-  }
+  for (const int entry : entriesOf(entries))
+    numbers.push_back(numberOf(team, m_table.recorded.game().roster[team].player(entry)->jersey));
   return numbers;
 }
 

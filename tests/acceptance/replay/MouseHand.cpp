@@ -1,19 +1,17 @@
 #include "MouseHand.h"
 
+#include "SeveralPanel.h"
 #include "storage/Settings.h"
 
 #include <array>
 #include <bit>
 #include <cmath>
-#include <sstream>
 
 namespace hooptab {
 
 namespace {
 
 constexpr int kSlotsOfTeam = 5;
-constexpr int kPlaces = 15;      // of a team's bench
-constexpr int kMostLines = 6;    // of a team, in the panel for several
 constexpr int kOneByOne = 2;     // players who come, at most
 constexpr int kClickedOneIn = 8; // answers
 
@@ -37,15 +35,6 @@ constexpr std::array kButtons = {
     Control{EventCode::STO, "cmdBUTTO"},  Control{EventCode::SU1, "cmdBUTU1"},
     Control{EventCode::SU2, "cmdBUTU2"},
 };
-
-std::vector<int> entriesOf(unsigned bits) {
-  std::vector<int> entries;
-  for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
-    if ((bits >> entry & 1U) != 0)
-      entries.push_back(entry);
-  }
-  return entries;
-}
 
 } // namespace
 
@@ -256,7 +245,8 @@ std::string MouseHand::substitute(const OnCourt& wanted) {
     substituteOneByOne(wanted);
     return "substitution, one by one";
   }
-  return substituteSeveral(wanted) ? "substitution, a known line" : "substitution, several at once";
+  return SeveralPanel(m_table).substitute(wanted) ? "substitution, a known line"
+                                                  : "substitution, several at once";
 }
 
 // While the clock runs, fewer than five are a substitution in the making, and nothing is on disk before its
@@ -278,57 +268,6 @@ void MouseHand::clickRoster(std::size_t team, unsigned entries) {
     click("picBENCH/" + element("cmdJERSEY", static_cast<int>(team) * kPlaces + entry - 1));
     std::this_thread::sleep_for(kLook);
   }
-}
-
-bool MouseHand::substituteSeveral(const OnCourt& wanted) {
-  const OnCourt before = m_table.recorded.onCourt();
-  m_table.person.press("F4");
-  m_table.program.waitUntilActive("frmSUBST/cmdOK");
-  bool isLineOfUse = false;
-  for (std::size_t team = 0; team < 2; ++team) {
-    if (std::popcount(wanted[team] & ~before[team]) > 1 && takeKnownLine(team, wanted[team])) {
-      isLineOfUse = true;
-      continue;
-    }
-    int chosen = std::popcount(before[team]);
-    for (const int entry : entriesOf(wanted[team] ^ before[team])) {
-      click("frmSUBST/" + element("cmdJERSEY", static_cast<int>(team) * kPlaces + entry - 1));
-      chosen += (wanted[team] >> entry & 1U) != 0 ? 1 : -1;
-      waitForCount(team, chosen);
-    }
-  }
-  m_table.camera.take("several");
-  m_table.person.press("Return");
-  m_table.recorded.waitUntil("who stands on court",
-                             [&](const Game&) { return m_table.recorded.onCourt() == wanted; });
-  m_table.program.waitUntilActive("frmLIVE");
-  return isLineOfUse;
-}
-
-// As one looks at the panel before one confirms.
-void MouseHand::waitForCount(std::size_t team, int count) {
-  const std::string label = element("lblCOUNT", static_cast<int>(team));
-  const std::string shown = std::to_string(count) + "/5";
-  waitUntil(label + " shows " + shown, [&] { return m_table.program.text(label) == shown; });
-}
-
-bool MouseHand::takeKnownLine(std::size_t team, unsigned wanted) {
-  const Roster& roster = m_table.recorded.game().roster[team];
-  for (int line = 0; line < kMostLines; ++line) {
-    const std::string button = "frmSUBST/" + element("cmdLINE", static_cast<int>(team) * kMostLines + line);
-    if (!m_table.program.isShown(button))
-      return false;
-    std::istringstream jerseys(m_table.program.text(button));
-    unsigned players = 0;
-    for (std::string jersey; jerseys >> jersey;)
-      players |= 1U << static_cast<unsigned>(roster.entryOf(jersey));
-    if (players != wanted)
-      continue;
-    click(button);
-    waitForCount(team, std::popcount(wanted));
-    return true;
-  }
-  return false;
 }
 
 } // namespace hooptab

@@ -55,9 +55,6 @@ class MouseHand : public Hand {
   std::optional<std::string> answerQuestion(const GameEvent& event);
   void clickAnswer(const std::string& button);
   void substituteOneByOne(const OnCourt& wanted);
-  bool substituteSeveral(const OnCourt& wanted); // whether a known line was of use
-  void waitForCount(std::size_t team, int count);
-  bool takeKnownLine(std::size_t team, unsigned wanted);
 
   Table m_table;
   ZoneMap m_zones;
