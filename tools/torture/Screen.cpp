@@ -23,7 +23,7 @@ std::string Screen::told(std::size_t voice) {
 
 bool Screen::isQuiet() {
   for (std::size_t voice = 0; voice < kVoices; ++voice) {
-    if (!told(voice).empty())
+    if (kControls[voice] != kStart && !told(voice).empty())
       return false;
   }
   return true;

@@ -12,7 +12,7 @@ class Screen {
  public:
   explicit Screen(Program& program) : m_program(program) {}
 
-  // Whether nothing is told at the moment.
+  // Whether nothing is told at the moment; START, which counts down by itself, aside.
   [[nodiscard]] bool isQuiet();
   // What is told now is of before.
   void forget();
