@@ -214,7 +214,7 @@ bool MouseHand::clicksAnswer() {
 }
 
 void MouseHand::clickAnswer(const std::string& button) {
-  std::this_thread::sleep_until(m_table.person.lastPress() + kQuestionIsRead);
+  std::this_thread::sleep_for(kQuestionIsRead);
   m_table.person.clickAt(m_table.program.where(button));
 }
 
