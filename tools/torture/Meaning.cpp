@@ -12,7 +12,7 @@ namespace hooptab {
 
 namespace {
 
-constexpr double kSamePlace = 3; // court units
+constexpr double kSamePlace = 8; // court units: beside a line the nearest pixel that counts lies so far off
 
 struct Deed {
   const GameEvent* event;
