@@ -37,8 +37,13 @@ std::vector<NewGame::Player> playersOf(const std::vector<TeamPlayer>& stored) {
   std::set<std::string> numbers;
   for (const TeamPlayer& player : stored) {
     std::string number(Module1::trimmed(player.number));
+    const bool isWrittenOtherwise = std::ranges::any_of(
+        numbers, [&](const std::string& other) { return Roster::areOneNumber(other, number); });
     const bool isFirst = numbers.insert(number).second;
-    const auto eligibility = !isJersey(number) ? NoJersey : isFirst ? CanPlay : NumberTaken;
+    const auto eligibility = !isJersey(number)    ? NoJersey
+                             : !isFirst           ? NumberTaken
+                             : isWrittenOtherwise ? NumberWrittenOtherwise
+                                                  : CanPlay;
     players.push_back(
         {std::move(number), player.record.position, player.record.name, eligibility, eligibility == CanPlay});
   }

@@ -40,7 +40,7 @@ class NewGame {
   static constexpr int kNone = -1;
   static constexpr int kMostPlayers = 15; // of a side
 
-  enum class Eligibility : std::uint8_t { CanPlay, NoJersey, NumberTaken };
+  enum class Eligibility : std::uint8_t { CanPlay, NoJersey, NumberTaken, NumberWrittenOtherwise };
   struct Player {
     std::string number;
     int position = kNoPosition;

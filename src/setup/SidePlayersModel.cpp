@@ -13,11 +13,13 @@ constexpr int kHeaders[SidePlayersModel::ColumnCount] = {1838, 1839, 1023, 1839}
 constexpr int kRowHint = 1866;
 constexpr int kNoJersey = 1867;
 constexpr int kNumberTaken = 1868;
+constexpr int kNumberOtherwise = 2462;
 
 int hint(const NewGame::Player& player) {
   switch (player.eligibility) {
   case NewGame::Eligibility::NoJersey: return kNoJersey;
   case NewGame::Eligibility::NumberTaken: return kNumberTaken;
+  case NewGame::Eligibility::NumberWrittenOtherwise: return kNumberOtherwise;
   case NewGame::Eligibility::CanPlay: break;
   }
   return kRowHint;

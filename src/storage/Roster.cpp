@@ -43,9 +43,25 @@ int Roster::entryByText(std::string_view jersey, int number) const {
   return entry <= kLargestEntry ? entry : 0;
 }
 
+bool Roster::areOneNumber(std::string_view jersey, std::string_view other) {
+  const int number = jerseyNumber(jersey);
+  if (jersey == other || number < 0 || number != jerseyNumber(other))
+    return false;
+  return number != 0 || jersey.size() + other.size() != 3;
+}
+
+// Readers find the key of the same text first, so that "5" and "05" stay two players in a list.
+bool Roster::isListedAsWritten(std::string_view jersey) const {
+  const int number = jerseyNumber(jersey);
+  return number > 0 && m_byNumber[static_cast<std::size_t>(number)].isAmbiguous &&
+         std::ranges::find(m_players, jersey, &RosterPlayer::jersey) != m_players.end();
+}
+
 std::string Roster::listedJersey(std::string_view jersey) const {
   if (hasZeroAndDoubleZero() && jersey == "00")
     return "000";
+  if (isListedAsWritten(jersey))
+    return std::string(jersey);
   return std::string(jersey.size() < 2 ? 2 - jersey.size() : 0, '0').append(jersey);
 }
 
@@ -56,11 +72,8 @@ std::string Roster::listOf(unsigned entries) const {
   for (const std::int8_t entry : m_entriesByNumber) {
     if ((entries & (1U << entry)) == 0)
       continue;
-    const std::string& jersey = player(entry)->jersey;
-    list += jersey.size() < 2 ? "-0" : "-";
-    if (jersey == "00" && hasZeroAndDoubleZero())
-      list += '0';
-    list += jersey;
+    list += '-';
+    list += listedJersey(player(entry)->jersey);
   }
   return list.size() == 2 ? "IN-" : list;
 }

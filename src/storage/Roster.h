@@ -53,8 +53,10 @@ class Roster {
       return m_doubleZeroEntry;
     return entryOf(jersey);
   }
+  // Whether two jerseys are one number written in two ways: "5" and "05". 0 and 00 are two numbers.
+  [[nodiscard]] static bool areOneNumber(std::string_view jersey, std::string_view other);
   // How an on-court list writes the player: two digits at least; with both 0 and 00 in the roster, 00 and
-  // 000.
+  // 000; in a roster that holds one number in two ways, as the roster does.
   [[nodiscard]] std::string listedJersey(std::string_view jersey) const;
   // The on-court list of the players whose entries are set as bits (bit n for entry n), in its order of
   // numbers.
@@ -65,6 +67,7 @@ class Roster {
 
  private:
   [[nodiscard]] int entryByText(std::string_view jersey, int number) const;
+  [[nodiscard]] bool isListedAsWritten(std::string_view jersey) const;
 
   struct NumberEntry {
     std::int8_t entry = 0; // the first of that number

@@ -41,7 +41,7 @@ class Texts {
  private:
   void load(std::string_view table, Language language);
 
-  static constexpr std::size_t kSize = 1500;
+  static constexpr std::size_t kSize = 3000;
   std::vector<std::string> m_texts[2]; // index number - 1001
   Language m_language = Language::English;
   bool m_showsNumbers = false;

@@ -3,6 +3,7 @@
 #include "storage/ChoiceTexts.h"
 #include "storage/DelimitedText.h"
 #include "storage/Module1.h"
+#include "storage/Roster.h"
 #include "storage/codepage.h"
 
 #include <algorithm>
@@ -21,6 +22,7 @@ constexpr int kLine = 1840;
 constexpr int kUnknownPosition = 1841;
 constexpr int kNumberAgain = 1842;
 constexpr int kOpenQuote = 1843;
+constexpr int kNumberOtherwise = 2461;
 constexpr int kIncompleteHeader = 1844;
 constexpr int kTooManyRows = 1845;
 constexpr std::size_t kMostPlayers = 1000;
@@ -132,6 +134,10 @@ class RowReader {
       return refuse(kNoName, {});
     if (std::ranges::find(into.players, number, &TeamPlayer::number) != into.players.end())
       return refuse(kNumberAgain, number);
+    if (std::ranges::any_of(into.players, [&](const TeamPlayer& other) {
+          return Roster::areOneNumber(other.number, number);
+        }))
+      return refuse(kNumberOtherwise, number);
     if (!fitsInValue(playerValue(player.record)))
       return refuse(kTooLong, {});
     into.players.push_back(std::move(player));

@@ -26,10 +26,10 @@ struct CsvPlayers {
 };
 
 // A row is left out when its number is no jersey (1171), its position is unknown, its name is empty (1173),
-// its number stands in an earlier good row, or its record would not fit. An empty position is N/A. Positions
-// are names or first letters in either language, the usual abbreviations (C, F, G, PF, SF, PG, SG) or the
-// index, whatever the letter case. Empty rows are passed over. Cells that were disarmed for spreadsheets are
-// read as what they held.
+// its number stands in an earlier good row, be it written otherwise ("5" and "05"), or its record would not
+// fit. An empty position is N/A. Positions are names or first letters in either language, the usual
+// abbreviations (C, F, G, PF, SF, PG, SG) or the index, whatever the letter case. Empty rows are passed over.
+// Cells that were disarmed for spreadsheets are read as what they held.
 [[nodiscard]] CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts);
 
 // "Line 12: ...", in the language in use.

@@ -155,7 +155,7 @@ void PlayerEditor::focusOn(int problem) {
 
 void PlayerEditor::showAnnouncement() {
   const PlayerFields typed = fields();
-  const bool conflicts = m_sheet.target(typed).effect == TeamSheet::Effect::Conflicts;
+  const bool conflicts = TeamSheet::isRefused(m_sheet.target(typed).effect);
   const bool says = m_hasTeam && typed != m_shown;
   const QString words = says ? toQt(m_sheet.announcement(typed, m_texts)) : QString();
   m_announcement->setText(conflicts && says ? QStringLiteral("⚠ ") + words : words);

@@ -37,7 +37,7 @@ constexpr qsizetype kMostProblemsShown = 12;
 // What the table does not say of a player stays as it is.
 PlayerFields withKept(PlayerFields fields, const CsvPlayers& read, const TeamSheet& sheet) {
   const TeamSheet::Target target = sheet.target(fields);
-  if (target.row < 0 || target.effect == TeamSheet::Effect::Conflicts)
+  if (target.row < 0 || TeamSheet::isRefused(target.effect))
     return fields;
   const PlayerFields old = fieldsOf(sheet.players()[static_cast<std::size_t>(target.row)]);
   if (!read.hasPosition)

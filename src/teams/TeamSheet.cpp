@@ -2,6 +2,7 @@
 
 #include "storage/ChoiceTexts.h"
 #include "storage/Module1.h"
+#include "storage/Roster.h"
 #include "storage/codepage.h"
 
 #include <algorithm>
@@ -18,6 +19,7 @@ constexpr int kRenumbers = 1814;
 constexpr int kRenames = 1815;
 constexpr int kConflicts = 1816;
 constexpr int kPlayerTooLong = 1817;
+constexpr int kWritesOtherwise = 2460;
 constexpr int kInvalidNumber = 1171;
 constexpr int kNoPositionChosen = 1172;
 constexpr int kNoName = 1173;
@@ -78,6 +80,10 @@ TeamSheet::Target TeamSheet::target(const PlayerFields& fields) const {
     return {Effect::Conflicts, byNumber, byName};
   if (byNumber >= 0)
     return {Effect::Renames, byNumber};
+  for (std::size_t row = 0; row < m_players.size(); ++row) {
+    if (static_cast<int>(row) != byName && Roster::areOneNumber(m_players[row].number, number))
+      return {Effect::WritesOtherwise, static_cast<int>(row)};
+  }
   if (byName >= 0)
     return {Effect::Renumbers, byName};
   return {};
@@ -100,6 +106,9 @@ std::string TeamSheet::announcement(const PlayerFields& fields, const Texts& tex
   case Effect::Conflicts:
     return inWords(texts, kConflicts, number, player(target.row).record.name,
                    player(target.otherRow).number + ' ' + name);
+  case Effect::WritesOtherwise:
+    return inWords(texts, kWritesOtherwise, number, player(target.row).number,
+                   player(target.row).record.name);
   }
   return {};
 }
@@ -120,7 +129,7 @@ bool TeamSheet::fits(const PlayerFields& fields) {
 
 int TeamSheet::put(const PlayerFields& fields) {
   const Target target = this->target(fields);
-  if (target.effect == Effect::Conflicts)
+  if (isRefused(target.effect))
     return -1;
   if (target.effect == Effect::Adds)
     m_players.emplace_back();

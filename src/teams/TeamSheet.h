@@ -37,23 +37,27 @@ class TeamSheet {
   [[nodiscard]] bool isChanged() const;
 
   // What adding these fields will do. A player is renumbered by his name and renamed by his number; a number
-  // of one row with the name of another changes nothing.
-  enum class Effect { Adds, Changes, Renumbers, Renames, Conflicts };
+  // of one row with the name of another changes nothing, nor does one that another row writes otherwise ("5"
+  // and "05").
+  enum class Effect { Adds, Changes, Renumbers, Renames, Conflicts, WritesOtherwise };
+  [[nodiscard]] static bool isRefused(Effect effect) {
+    return effect == Effect::Conflicts || effect == Effect::WritesOtherwise;
+  }
   struct Target {
     Effect effect = Effect::Adds;
-    int row = -1;      // the row to change, of a conflict the one with the number
+    int row = -1;      // the row to change, of what is refused the one with the number
     int otherRow = -1; // of a conflict the one with the name
   };
   [[nodiscard]] Target target(const PlayerFields& fields) const;
   // In words, for the line beside the button and as message of a conflict; empty without number or name.
   [[nodiscard]] std::string announcement(const PlayerFields& fields, const Texts& texts) const;
-  // The number of the first text that stands against adding; 0 when nothing does. A conflict is no text of
-  // its own: see announcement().
+  // The number of the first text that stands against adding; 0 when nothing does. What is refused for another
+  // row has no text of its own: see announcement().
   [[nodiscard]] static int problem(const PlayerFields& fields);
   // Whether the record will be read back whole.
   [[nodiscard]] static bool fits(const PlayerFields& fields);
 
-  // Adds or updates, unless the target is a conflict. Commas become blanks, letters what the file can hold.
+  // Adds or updates, unless that is refused. Commas become blanks, letters what the file can hold.
   // The row, or -1.
   int put(const PlayerFields& fields);
   bool remove(const std::string& number); // false when nobody has it

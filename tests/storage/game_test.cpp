@@ -266,6 +266,9 @@ TEST(RosterTest, JerseysFindTheSameTextFirstThenTheEqualNumber) {
   EXPECT_EQ(roster.entryOfListed("000"), 4);
   EXPECT_EQ(roster.listedJersey("0"), "00");
   EXPECT_EQ(roster.listedJersey("00"), "000");
+  EXPECT_EQ(roster.listOf(0b111110), "IN-00-000-5-05-123") << "each is found again by its own text";
+  EXPECT_TRUE(Roster::areOneNumber("5", "05") && Roster::areOneNumber("0", "000"));
+  EXPECT_FALSE(Roster::areOneNumber("0", "00") || Roster::areOneNumber("5", "5"));
   for (int i = 7; i <= 16; ++i)
     roster.add({std::to_string(i + 20), 0, ""});
   EXPECT_EQ(roster.entryOf("35"), 15);

@@ -41,8 +41,8 @@ TEST(PlayerCsv, ReadsWhatSpreadsheetsWrite) {
        "4:1841 "},
       {"5,,\"Ann\n6,,\"Bo\"\n7,,\"Cy\n", "6=9,Bo,,,,, ", "1:1843 3:1843 "},
       {"No,Age\n5,18\n", "", "1:1844 "},
-      {"12.0,,Ann\nA1,,Bo\n1234,,Cy\n,,Dee\n5,,\n5,,Eve\n5,,Fay\n05,,Gil\n8,SF/C,Hal\n",
-       "5=9,Eve,,,,, 05=9,Gil,,,,, ", "1:1171 2:1171 3:1171 4:1171 5:1173 7:1842 9:1841 "},
+      {"12.0,,Ann\nA1,,Bo\n1234,,Cy\n,,Dee\n5,,\n5,,Eve\n5,,Fay\n05,,Gil\n8,SF/C,Hal\n", "5=9,Eve,,,,, ",
+       "1:1171 2:1171 3:1171 4:1171 5:1173 7:1842 8:2461 9:1841 "},
       {"5,,Ann," + std::string(250, 'h') + "\n6,,Bo\x01\x7F\n", "6=9,Bo,,,,, ", "1:1817 "},
   };
   const Texts texts;
