@@ -66,7 +66,7 @@ bool LiveLog::rewrite(const std::vector<EventChange>& steps) {
   if (!std::ranges::all_of(steps, [&](const EventChange& step) { return applyChange(step, changed); }))
     return false;
   m_lines = std::move(changed);
-  m_disk.change(steps, m_lines);
+  m_disk.change(steps, m_lines, forgetAccepted(steps));
   readEvents();
   countAll();
   return true;
@@ -75,7 +75,27 @@ bool LiveLog::rewrite(const std::vector<EventChange>& steps) {
 void LiveLog::setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues) {
   for (const auto& [key, value] : keysAndValues)
     setDetail(m_game.details, key, value);
-  m_disk.setDetails(keysAndValues, m_lines);
+  m_disk.set(kDetailsSection, keysAndValues, m_lines);
+}
+
+void LiveLog::accept(int event, const std::vector<int>& findings) {
+  std::string value;
+  for (const int finding : findings)
+    value += (value.empty() ? "" : ",") + std::to_string(finding);
+  m_game.accepted[event] = findings;
+  m_disk.set(kAcceptedSection, {{std::to_string(event), value}}, m_lines);
+}
+
+GameOnDisk::Values LiveLog::forgetAccepted(const std::vector<EventChange>& steps) {
+  GameOnDisk::Values gone;
+  for (const EventChange& step : steps) {
+    const auto accepted = m_game.accepted.find(Module1::wholeNumber(step.key));
+    if (accepted == m_game.accepted.end() || accepted->second.empty())
+      continue;
+    accepted->second.clear();
+    gone.emplace_back(step.key, std::string());
+  }
+  return gone;
 }
 
 ForeignHands LiveLog::takeForeignHands() {
@@ -87,6 +107,7 @@ ForeignHands LiveLog::takeForeignHands() {
   Game theirs;
   readGame(m_disk.text(), theirs);
   m_game.details = std::move(theirs.details);
+  m_game.accepted = std::move(theirs.accepted);
   for (std::size_t team = 0; team < 2; ++team)
     m_game.roster[team] = std::move(theirs.roster[team]);
   m_lines = mergeGame(m_lines, m_disk.text(), m_disk.text()).lines;

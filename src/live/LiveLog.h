@@ -38,6 +38,9 @@ class LiveLog {
   bool change(const std::vector<EventChange>& steps);
   // Keys of DETAILS and their values; the details in memory follow.
   void setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
+  // Findings of an event that count no longer as such, by the numbers of their texts; until the event
+  // changes.
+  void accept(int event, const std::vector<int>& findings);
 
   // The file, as this log keeps it.
   const GameOnDisk& disk() const { return m_disk; }
@@ -58,6 +61,8 @@ class LiveLog {
   [[nodiscard]] bool countsAgree() const { return difference().empty(); }
 
  private:
+  // Of events that the steps change nothing is accepted any more.
+  GameOnDisk::Values forgetAccepted(const std::vector<EventChange>& steps);
   bool append(const std::vector<EventChange>& steps);
   bool rewrite(const std::vector<EventChange>& steps);
   void readEvents();

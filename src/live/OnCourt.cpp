@@ -93,7 +93,11 @@ std::string stopText(const OnCourt& onCourt, const Rosters& rosters) {
 
 std::string withLists(const std::string& line, const OnCourt& lists, const Rosters& rosters) {
   constexpr std::string_view kCode = ",ARRET"; // behind which a line of others may have no lists at all
-  return line.substr(0, line.find(kCode) + kCode.size()) + ',' + listsText(lists, rosters);
+  const std::size_t behindCode = line.find(kCode) + kCode.size();
+  std::size_t behindLists = behindCode; // and what a later version may have put there
+  for (int team = 0; team < 2 && behindLists < line.size(); ++team)
+    behindLists = std::min(line.find(',', behindLists + 1), line.size());
+  return line.substr(0, behindCode) + ',' + listsText(lists, rosters) + line.substr(behindLists);
 }
 
 std::optional<EventPlace> eventBehind(const EventLines& lines, const EventPlace& event) {

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 namespace hooptab {
 
@@ -22,6 +23,16 @@ std::uint32_t colourOf(std::string_view value) {
 }
 std::string typedOr(const GameDetails& details, std::string TypedRules::*rule, int number) {
   return details.typedRules ? (*details.typedRules).*rule : std::to_string(number);
+}
+
+// "312 1763790000".
+GameDetails::ClosedInPlay closedInPlayOf(std::string_view value) {
+  const std::size_t blank = std::min(value.find(' '), value.size());
+  GameDetails::ClosedInPlay closed;
+  const std::string_view time = value.substr(std::min(blank + 1, value.size()));
+  const auto [end, error] = std::from_chars(time.data(), time.data() + time.size(), closed.time);
+  closed.event = Module1::wholeNumber(value.substr(0, blank));
+  return error == std::errc() && closed.event > 0 ? closed : GameDetails::ClosedInPlay();
 }
 
 struct Detail {
@@ -92,6 +103,8 @@ constexpr std::array kDetails = std::to_array<Detail>({
     {"KEEPBONUS", [](GameDetails& d, std::string_view value) { d.keepsBonus = Module1::flag(value); },
      nullptr},
     {"TERMINE", [](GameDetails& d, std::string_view value) { d.isFinished = value == "1"; }, nullptr},
+    {"QUITTE", [](GameDetails& d, std::string_view value) { d.closedInPlay = closedInPlayOf(value); },
+     nullptr},
 });
 
 } // namespace

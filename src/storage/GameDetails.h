@@ -50,6 +50,13 @@ struct GameDetails {
   int nextEventNumber = 0; // EVENUM; 0 when absent
   bool keepsBonus = false;
   bool isFinished = false;
+  // The window was closed while the clock ran (QUITTE): the event that stopped it, and the wall clock then in
+  // seconds since 1970; 0 when it was not.
+  struct ClosedInPlay {
+    int event = 0;
+    std::int64_t time = 0;
+  };
+  ClosedInPlay closedInPlay;
   std::optional<TypedRules> typedRules; // written in place of the five numbers where given; never read
 };
 

@@ -11,6 +11,8 @@ namespace hooptab {
 namespace {
 
 constexpr std::size_t kClockLength = 5;
+constexpr std::string_view kDoubt =
+    "?=1"; // a field behind those of the grammar, which older readers pass over
 
 struct Code {
   EventCode code = EventCode::Unknown;
@@ -105,6 +107,13 @@ bool parseCoordinate(std::string_view text, float& value) {
   return true;
 }
 
+// Among the fields behind those that an event of that kind has.
+bool hasDoubt(std::string_view line) {
+  const std::size_t place = line.rfind(kDoubt);
+  return place != std::string_view::npos && place > 0 && line[place - 1] == ',' &&
+         (place + kDoubt.size() == line.size() || line[place + kDoubt.size()] == ',');
+}
+
 } // namespace
 
 GameEvent GameEvent::parse(int period, std::string_view key, std::string_view line) {
@@ -155,6 +164,8 @@ void GameEvent::parseLine(int eventPeriod, std::string_view eventKey, int keyNum
     }
   }
   isUnderstood = true;
+  const bool lacksPlace = found.kind != nullptr && found.kind->hasPlace && !hasPlace;
+  isDoubtful = (!rest.empty() || lacksPlace) && hasDoubt(eventLine); // which costs no look at most lines
 }
 
 std::string_view GameEvent::onCourt(std::size_t team) const {
@@ -195,6 +206,13 @@ std::string stopText(std::string_view list0, std::string_view list1) {
   text += ',';
   text += list1;
   return text;
+}
+
+std::string withDoubt(const std::string& line, bool isDoubtful) {
+  std::string changed = line;
+  if (hasDoubt(line))
+    changed.erase(line.rfind(kDoubt) - 1, kDoubt.size() + 1);
+  return isDoubtful ? changed + ',' + std::string(kDoubt) : changed;
 }
 
 void EventList::appendOwned(int period, std::string_view key, std::string_view line) {

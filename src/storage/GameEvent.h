@@ -33,6 +33,7 @@ struct GameEvent {
   bool isUnderstood = false; // everything below holds only then
   bool isMade = false;       // shots
   bool hasPlace = false;     // x and y were given
+  bool isDoubtful = false;   // marked while recording, to be looked at again
   EventCode code = EventCode::Unknown;
   const EventKind* eventKind = nullptr;
   int clockSeconds = 0;
@@ -57,6 +58,9 @@ struct GameEvent {
                                     std::optional<std::pair<double, double>> place = std::nullopt);
 [[nodiscard]] std::string startText();
 [[nodiscard]] std::string stopText(std::string_view list0, std::string_view list1);
+
+// A line with the mark that its event is doubtful behind all else, or without it.
+[[nodiscard]] std::string withDoubt(const std::string& line, bool isDoubtful);
 
 // The events of a game in the order of the file, which is the order of the game. Copies share the text.
 class EventList {

@@ -186,6 +186,24 @@ void readGame(const ProfileText& text, Game& game) {
   for (std::size_t team = 0; team < 2; ++team)
     readRoster(text, kRosterSections[team], game.roster[team]);
   readEvents(text, game.events);
+  game.accepted = readAccepted(text);
+}
+
+AcceptedFindings readAccepted(const ProfileText& text) {
+  AcceptedFindings accepted;
+  for (const ProfileText::Line& line : text.section(kAcceptedSection)) {
+    const int event = Module1::wholeNumber(line.name);
+    if (line.kind != ProfileText::Line::Kind::KeyValue || event <= 0 || accepted.contains(event))
+      continue;
+    std::vector<int>& findings = accepted[event]; // none, where it was taken back
+    for (std::string_view rest = readable(line.value); !rest.empty();) {
+      const std::size_t end = std::min(rest.find(','), rest.size());
+      if (const int finding = Module1::wholeNumber(rest.substr(0, end)); finding > 0)
+        findings.push_back(finding);
+      rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+  }
+  return accepted;
 }
 
 EventLines storedEventLines(const ProfileText& text) {
@@ -263,7 +281,11 @@ GameFileProblem GameFile::create(const GameDetails& details, const std::vector<R
   m_store.Path(m_path);
   for (const PeriodSection& period : periodsOf(m_store.profile()))
     batch.deleteSection(std::string(period.section.name));
+  // With those that another version may have written for the game that stood here.
+  constexpr std::string_view kOthers[] = {kAcceptedSection, "HORLOGE", "JOUEURS0", "JOUEURS1"};
   for (const std::string_view section : {kRosterSections[0], kRosterSections[1], kDetailsSection})
+    batch.deleteSection(std::string(section));
+  for (const std::string_view section : kOthers)
     batch.deleteSection(std::string(section));
 
   GameDetails written = details;

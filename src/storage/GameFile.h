@@ -10,11 +10,15 @@
 #include "storage/cinifile.h"
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace hooptab {
+
+using AcceptedFindings = std::map<int, std::vector<int>>;
+inline constexpr std::string_view kAcceptedSection = "ACCEPTES";
 
 // A whole game as read from its file.
 struct Game {
@@ -22,6 +26,8 @@ struct Game {
   GameDetails details;
   Roster roster[2];
   EventList events;
+  // Findings that the user has looked at and accepted: the event's number, and the numbers of their texts.
+  AcceptedFindings accepted;
 };
 
 enum class GameFileProblem {
@@ -94,6 +100,7 @@ class GameFile {
 // The parts of reading for callers that have the parsed file already: everything, the event lines of all
 // periods as they are stored (bytes of the code page), and whether it is a game at all.
 void readGame(const ProfileText& text, Game& game);
+[[nodiscard]] AcceptedFindings readAccepted(const ProfileText& text);
 [[nodiscard]] EventLines storedEventLines(const ProfileText& text);
 [[nodiscard]] bool isGame(const ProfileText& text);
 // The name of a period's section, and of a team's.

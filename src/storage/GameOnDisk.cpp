@@ -47,26 +47,32 @@ void GameOnDisk::open(const std::string& path) {
   m_isLost = false;
   m_isWatching = true;
   m_steps.clear();
-  m_details.clear();
+  m_values.clear();
   m_waiting = 0;
   m_foreign = {};
 }
 
-bool GameOnDisk::change(const std::vector<EventChange>& steps, const EventLines& all) {
+bool GameOnDisk::change(const std::vector<EventChange>& steps, const EventLines& all,
+                        const Values& accepted) {
+  note(kAcceptedSection, accepted);
   m_steps.insert(m_steps.end(), steps.begin(), steps.end());
   ++m_waiting;
   return settle(all);
 }
 
-bool GameOnDisk::setDetails(const Details& details, const EventLines& all) {
-  for (const auto& [key, value] : details) {
-    std::optional<std::string> before;
-    if (const auto stored = m_guard.left().value(kDetailsSection, key))
-      before = codepage::toUtf8(*stored);
-    m_details[key] = {std::move(before), value};
-  }
+bool GameOnDisk::set(std::string_view section, const Values& values, const EventLines& all) {
+  note(section, values);
   ++m_waiting;
   return settle(all);
+}
+
+void GameOnDisk::note(std::string_view section, const Values& values) {
+  for (const auto& [key, value] : values) {
+    std::optional<std::string> before;
+    if (const auto stored = m_guard.left().value(section, key))
+      before = codepage::toUtf8(*stored);
+    m_values[{std::string(section), key}] = {std::move(before), value};
+  }
 }
 
 bool GameOnDisk::settle(const EventLines& all) {
@@ -81,8 +87,8 @@ bool GameOnDisk::settle(const EventLines& all) {
     return isOnDisk();
   }
   m_steps.clear();
-  for (auto& [key, detail] : m_details)
-    detail.isWaiting = false;
+  for (auto& [place, value] : m_values)
+    value.isWaiting = false;
   m_waiting = 0;
   if (!m_rescuedAs.empty()) { // the game stands where it belongs
     m_store.files().remove(m_rescuedAs);
@@ -106,14 +112,14 @@ bool GameOnDisk::writeSteps(const EventLines& all) {
   ProfileBatch batch;
   if (!GameFile::plan(m_steps, m_guard.left(), batch)) // it holds what others added, and was not taken in yet
     return bringTogether(all);
-  addDetails(batch);
+  addValues(batch);
   return m_guard.write(batch);
 }
 
-void GameOnDisk::addDetails(ProfileBatch& batch) const {
-  for (const auto& [key, detail] : m_details) {
-    if (detail.isWaiting)
-      batch.set(std::string(kDetailsSection), key, detail.value);
+void GameOnDisk::addValues(ProfileBatch& batch) const {
+  for (const auto& [place, value] : m_values) {
+    if (value.isWaiting)
+      batch.set(place.first, place.second, value.value);
   }
 }
 
@@ -129,13 +135,13 @@ bool GameOnDisk::bringTogether(const EventLines& all) {
   ProfileBatch batch;
   addLines(merge.lines, theirs, batch);
   addMissingPlayers(all, batch);
-  addDetails(batch);
+  addValues(batch);
   // A file that went back to an older version has lost what was set since, too.
-  for (const auto& [key, detail] : m_details) {
-    const auto stored = theirs.value(kDetailsSection, key);
+  for (const auto& [place, value] : m_values) {
+    const auto stored = theirs.value(place.first, place.second);
     const std::optional<std::string> now = stored ? std::optional(codepage::toUtf8(*stored)) : std::nullopt;
-    if (!detail.isWaiting && now != detail.value && (merge.restored > 0 || now == detail.before))
-      batch.set(std::string(kDetailsSection), key, detail.value);
+    if (!value.isWaiting && now != value.value && (merge.restored > 0 || now == value.before))
+      batch.set(place.first, place.second, value.value);
   }
   if (!m_guard.write(batch))
     return false;
@@ -166,7 +172,7 @@ void GameOnDisk::addMissingPlayers(const EventLines& all, ProfileBatch& batch) {
 ProfileBatch GameOnDisk::whole(const EventLines& all) const {
   ProfileBatch batch;
   addLines(mergeGame(all, m_guard.left(), m_guard.left()).lines, m_guard.left(), batch);
-  addDetails(batch);
+  addValues(batch);
   return batch;
 }
 

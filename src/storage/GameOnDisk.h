@@ -30,7 +30,7 @@ struct ForeignHands {
 
 class GameOnDisk {
  public:
-  using Details = std::vector<std::pair<std::string, std::string>>; // keys of DETAILS and their values
+  using Values = std::vector<std::pair<std::string, std::string>>; // keys and their values
 
   explicit GameOnDisk(cinifile& store) : m_guard(store, isGame), m_store(store) {}
 
@@ -46,8 +46,9 @@ class GameOnDisk {
   void setWatching(bool isOn) { m_isWatching = isOn; }
 
   // Each returns whether everything is on disk. `all` are the events as they are now, the steps taken.
-  bool change(const std::vector<EventChange>& steps, const EventLines& all);
-  bool setDetails(const Details& details, const EventLines& all);
+  // With steps go the keys of ACCEPTES that they change, as one write.
+  bool change(const std::vector<EventChange>& steps, const EventLines& all, const Values& accepted = {});
+  bool set(std::string_view section, const Values& values, const EventLines& all);
   // Looks at the file, brings it back to what was recorded, and writes what waits.
   bool settle(const EventLines& all);
 
@@ -72,7 +73,8 @@ class GameOnDisk {
   bool rewrite(const EventLines& all);
   void noteWhatWasKept();
   void rescue(const EventLines& all);
-  void addDetails(ProfileBatch& batch) const;
+  void note(std::string_view section, const Values& values);
+  void addValues(ProfileBatch& batch) const;
   void addMissingPlayers(const EventLines& all, ProfileBatch& batch);
   ProfileBatch whole(const EventLines& all) const;
 
@@ -86,12 +88,13 @@ class GameOnDisk {
   bool m_isWatching = true;
 
   std::vector<EventChange> m_steps; // that wait
-  struct Detail {
+  struct Value {
     std::optional<std::string> before; // as stored when it was set
     std::string value;
     bool isWaiting = true;
   };
-  std::map<std::string, Detail> m_details; // set since the game was opened
+  std::map<std::pair<std::string, std::string>, Value>
+      m_values; // by section and key; set since the game was opened
   std::size_t m_waiting = 0;
   ForeignHands m_foreign;
 };
