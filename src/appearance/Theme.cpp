@@ -18,7 +18,7 @@ struct Look {
   QColor highlight, highlightedText;
   QColor title; // of the active window, under white letters
   QColor toolTip, toolTipText;
-  QColor accent, link, made, missed;
+  QColor accent, link, made, missed, doubtful;
 };
 
 const Look& look(ColourScheme scheme) {
@@ -41,6 +41,7 @@ const Look& look(ColourScheme scheme) {
       .link = QColor(0x8A, 0x43, 0x05),
       .made = QColor(0x0A, 0x59, 0x2D),
       .missed = QColor(0xCA, 0x2C, 0x20),
+      .doubtful = QColor(0xEF, 0xE7, 0xFA),
   };
   static const Look kDark = {
       .window = QColor(0x2A, 0x2D, 0x32),
@@ -61,6 +62,7 @@ const Look& look(ColourScheme scheme) {
       .link = QColor(0xF3, 0xB5, 0x74),
       .made = QColor(0x8C, 0xE6, 0xAE),
       .missed = QColor(0xF4, 0x74, 0x66),
+      .doubtful = QColor(0x34, 0x27, 0x4C),
   };
   return scheme == ColourScheme::Light ? kLight : kDark;
 }
@@ -161,6 +163,9 @@ QColor Theme::made() {
 }
 QColor Theme::missed() {
   return look(s_current).missed;
+}
+QColor Theme::doubtful() {
+  return look(s_current).doubtful;
 }
 QColor Theme::muted() {
   return look(s_current).mutedText;

@@ -26,6 +26,7 @@ class Theme {
   static QColor made();                                   // green, always beside a filled circle
   static QColor madeOnPaper();                            // the same on a white page, whatever the look
   static QColor missed();                                 // red, always beside a cross
+  static QColor doubtful();                               // ground of what was marked to be looked at again
   static QColor muted();                                  // secondary text, still readable
   static QFont figures(int pointSize, bool bold = false); // tabular digits, for clocks and scores
 };

@@ -8,13 +8,17 @@
 #include "live/PlayerWords.h"
 #include "live/SelectedPlayer.h"
 #include "live/frmSUBST.h"
+#include "storage/Module1.h"
 
 #include <QAction>
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QPainter>
 #include <QPushButton>
+#include <QStackedLayout>
 #include <QToolButton>
+
+#include <bit>
 
 namespace hooptab {
 
@@ -26,6 +30,7 @@ constexpr int kSeveral = 1946;
 constexpr int kSeveralTip = 1947;
 constexpr int kAllOut = 1948;
 constexpr int kAllOutTip = 1949;
+constexpr int kPending = 2496;
 
 constexpr int kLeastWidth = 250;
 constexpr int kColumns = 5;
@@ -43,6 +48,16 @@ QToolButton* buttonFor(QAction& action, const char* name, QWidget* parent) {
   return button;
 }
 
+JerseyButton::Move pendingMove(const LiveGame& game, int team, int player) {
+  if (!game.pending())
+    return JerseyButton::Move::None;
+  const bool wasOn = (game.pending()->before[static_cast<std::size_t>(team)] >> player & 1U) != 0;
+  const bool isOn = game.slotOf(team, player).has_value();
+  return wasOn == isOn ? JerseyButton::Move::None
+         : isOn        ? JerseyButton::Move::Comes
+                       : JerseyButton::Move::Leaves;
+}
+
 } // namespace
 
 BenchPanel::BenchPanel(const Texts& texts, QWidget* parent) : QWidget(parent), m_texts(texts) {
@@ -57,7 +72,17 @@ BenchPanel::BenchPanel(const Texts& texts, QWidget* parent) : QWidget(parent), m
   m_selection = new SelectedPlayer(texts, this);
   connect(m_selection, &SelectedPlayer::actionAsked, this,
           [this](EventCode kind) { emit actionAsked(m_selectedTeam, m_selectedPlayer, kind); });
-  layout->addWidget(m_selection);
+  connect(m_selection, &SelectedPlayer::shotAsked, this,
+          [this](const QPoint& place) { emit shotAsked(m_selectedTeam, m_selectedPlayer, place); });
+  m_last = new QStackedLayout; // in one place: nothing moves when a change is in the making
+  m_pending = new PlainLabel(this);
+  m_pending->setObjectName(QStringLiteral("lblPENDING"));
+  m_pending->setAutoFillBackground(true);
+  m_pending->setMargin(kGap);
+  m_pending->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  m_last->addWidget(m_selection);
+  m_last->addWidget(m_pending);
+  layout->addLayout(m_last);
   relabel(*this, texts);
   showSelection();
 }
@@ -164,7 +189,8 @@ void BenchPanel::showPlace(const LiveGame& game, int team, int player) {
                   .colour = colourOf(game.game().details.teamColour[team]),
                   .isFilled = isOnCourt,
                   .isFouledOut = game.isFouledOut(team, player),
-                  .isSelected = isSelected(team, player)});
+                  .isSelected = isSelected(team, player),
+                  .move = pendingMove(game, team, player)});
   // In substitution mode the press itself puts a player in, so that nothing is left to drag.
   const bool canBeDragged = !isOnCourt && !isSubstituting();
   button.setDragText(canBeDragged ? QStringLiteral("%1-%2").arg(team).arg(player) : QString());
@@ -188,6 +214,37 @@ void BenchPanel::showGame(const LiveGame& game) {
       showPlace(game, team, player);
   }
   showSelection();
+  showPending();
+}
+
+// "4 of 5 on court: who comes in? (05:23)"
+void BenchPanel::showPending() {
+  const auto& pending = m_game->pending();
+  if (pending) {
+    std::string counts;
+    for (std::size_t team = 0; team < 2; ++team) {
+      const OnCourt now = m_game->onCourt();
+      if (now[team] != pending->before[team])
+        counts += (counts.empty() ? "" : ", ") + m_game->game().details.abbreviation[team] + " " +
+                  std::to_string(std::popcount(now[team]));
+    }
+    m_pending->setText(toQt(Module1::withPlaceholder(m_texts.withPlaceholder(kPending, counts),
+                                                     Module1::clockText(pending->clockSeconds), "YYY")));
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, Theme::accent());
+    colours.setColor(QPalette::WindowText, textOn(Theme::accent()));
+    m_pending->setPalette(colours);
+  } else {
+    m_pending->clear();
+  }
+  m_pending->setToolTip(m_pending->text());
+  m_last->setCurrentIndex(pending ? 1 : 0);
+}
+
+void BenchPanel::setTurned(bool isTurned) {
+  auto* column = static_cast<QVBoxLayout*>(layout());
+  column->insertWidget(1, m_rosters[isTurned ? 1 : 0]);
+  column->insertWidget(2, m_rosters[isTurned ? 0 : 1]);
 }
 
 void BenchPanel::showTime(const LiveGame& game) {

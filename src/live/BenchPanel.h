@@ -12,6 +12,7 @@
 class QAction;
 class QLabel;
 class QPushButton;
+class QStackedLayout;
 
 namespace hooptab {
 
@@ -36,6 +37,8 @@ class BenchPanel : public QWidget {
     return player > 0 && team == m_selectedTeam && player == m_selectedPlayer;
   }
   bool isSubstituting() const;
+  void askSeveral();             // in a window of its own
+  void setTurned(bool isTurned); // the rosters stand in the order of the panels
   void relabelPanel();
   void applyColours();
 
@@ -43,6 +46,7 @@ class BenchPanel : public QWidget {
   void toggled(int team, int player);                              // in substitution mode
   void selected(int team, int player);                             // another one, or nobody (player 0)
   void actionAsked(int team, int player, hooptab::EventCode kind); // for a player of the bench
+  void shotAsked(int team, int player, const QPoint& place);       // the same; a place of the screen
   void allOutAsked(int team);
   void onCourtAsked(hooptab::OnCourt onCourt); // from "several at once"
   void clockAsked();                           // there, too, by its key
@@ -55,10 +59,10 @@ class BenchPanel : public QWidget {
   QWidget* makeTeam(int team);
   QWidget* makeCommands();
   void press(int team, int player);
-  void askSeveral();
   void showPlace(const LiveGame& game, int team, int player);
   void showSelection();
   void showMode();
+  void showPending();
 
   const Texts& m_texts;
   const LiveGame* m_game = nullptr;
@@ -72,6 +76,8 @@ class BenchPanel : public QWidget {
   QAction* m_several = nullptr;
   QWidget* m_commands = nullptr;
   SelectedPlayer* m_selection = nullptr;
+  QLabel* m_pending = nullptr;
+  QStackedLayout* m_last = nullptr;
 };
 
 } // namespace hooptab

@@ -141,4 +141,10 @@ void EventFilterRow::clear() {
   emit changed();
 }
 
+void EventFilterRow::choose(int team, int period) {
+  clear();
+  m_period->setCurrentIndex(std::max(m_period->findData(period), 0));
+  m_team->setCurrentIndex(std::max(m_team->findData(team), 0));
+}
+
 } // namespace hooptab

@@ -24,7 +24,8 @@ class EventFilterRow : public QWidget {
   void showGame(const Game& game, const EventWords& words);
   void relabelRow(const Game& game, const EventWords& words);
   [[nodiscard]] EventFilter filter() const;
-  void clear(); // everything is shown again
+  void clear();                      // everything is shown again
+  void choose(int team, int period); // that alone
 
  signals:
   void changed();

@@ -32,6 +32,18 @@ EventRequests::EventRequests(LiveGame& game, LiveEventPanel& panel, const Settin
     ask(event, frmEDIT::Purpose::Insert, isBefore ? LiveGame::Where::Before : LiveGame::Where::Behind);
   });
   connect(&panel, &LiveEventPanel::substitutionAsked, this, &EventRequests::askWho);
+  connect(&panel, &LiveEventPanel::acceptAsked, this, [this](const EventPlace& event, int finding) {
+    m_game.acceptFinding(event, finding);
+    emit gameChanged();
+  });
+  connect(&panel, &LiveEventPanel::doubtAsked, this, [this](const EventPlace& event, bool isDoubtful) {
+    m_game.setDoubtful(event, isDoubtful);
+    emit gameChanged();
+  });
+}
+
+void EventRequests::putIn(const EventPlace& event, int team, int player) {
+  askWho({PastSubstitution::What::InsertBefore, event}, team, player);
 }
 
 void EventRequests::take(const EditPlan& plan) {
@@ -46,8 +58,13 @@ void EventRequests::take(const EditPlan& plan) {
 }
 
 void EventRequests::takeBack(bool (LiveGame::*step)()) {
-  (m_game.*step)();
+  const std::optional<LiveAction> undone = m_game.toUndo();
+  const bool isStart = step == &LiveGame::undo && undone && undone->start;
+  const bool isDone = (m_game.*step)();
   emit gameChanged();
+  m_panel.leaveDeleted();
+  if (isStart && isDone)
+    emit startTakenBack();
 }
 
 // Of a substitution who goes in and out, of anything else what frmEDIT can change.
@@ -64,6 +81,7 @@ void EventRequests::ask(const EventPlace& event, frmEDIT::Purpose purpose, LiveG
   connect(&window, &frmEDIT::clockAsked, this, &EventRequests::clockAsked);
   if (window.exec() != QDialog::Accepted)
     return;
+  m_game.writePending(); // what is planned comes behind it
   const auto counted = window.counted();
   const int clock = window.clockSeconds();
   const GameEditing editing = m_game.editing();
@@ -81,7 +99,10 @@ void EventRequests::askWho(const PastSubstitution& past, int team, int player) {
   if (player > 0)
     window->toggle(team, player);
   connect(window, &frmSUBST::clockAsked, this, &EventRequests::clockAsked);
-  connect(window, &QDialog::accepted, this, [this, window] { take(window->plan()); });
+  connect(window, &QDialog::accepted, this, [this, window] {
+    m_game.writePending();
+    take(window->plan());
+  });
   window->openBeside(m_panel);
 }
 

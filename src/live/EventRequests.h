@@ -23,8 +23,12 @@ class EventRequests : public QObject {
   EventRequests(LiveGame& game, LiveEventPanel& panel, const Settings& settings, const Texts& texts,
                 Dialogs& dialogs, QWidget& window);
 
+  // A forgotten substitution before an event, with who has to be in it.
+  void putIn(const EventPlace& event, int team, int player);
+
  signals:
   void gameChanged();
+  void startTakenBack();
   void clockAsked(); // by its key, while a dialog is in front
 
  private:

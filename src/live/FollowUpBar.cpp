@@ -10,6 +10,7 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 
@@ -25,6 +26,9 @@ constexpr int kReboundTitle = 1118;
 constexpr int kOffensive = 1119;
 constexpr int kDefensive = 1120;
 constexpr int kHint = 1958;
+constexpr int kAllTheSame = 2472;
+constexpr int kComesIn = 2473;
+constexpr int kTooSoon = 2475;
 
 // Together as wide as a panel of the live window is at least: what lies beside it stays in reach.
 constexpr QSize kButton(40, 40);
@@ -32,6 +36,9 @@ constexpr int kMargin = 5;
 constexpr int kGap = 1;
 constexpr int kBandMargin = 2;
 constexpr int kInnerWidth = 5 * kButton.width() + 4 * kGap;
+constexpr int kTypedPixels = 20;
+constexpr int kFlash = 400;    // milliseconds
+constexpr int kSamePlace = 12; // pixels
 
 bool isDigit(const QKeyEvent& event) {
   return event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
@@ -56,6 +63,10 @@ bool isModifier(int key) {
 FollowUpBar::FollowUpBar(const Texts& texts, QWidget* parent) : QWidget(parent), m_texts(texts) {
   m_assist = makeAssist();
   m_rebound = makeRebound();
+  m_reasonRow = makeReason();
+  m_flash.setSingleShot(true);
+  m_flash.setInterval(kFlash);
+  connect(&m_flash, &QTimer::timeout, this, qOverload<>(&FollowUpBar::update));
   setObjectName(QStringLiteral("FollowUp"));
   setAutoFillBackground(true);
   // A click between the buttons is no click on what lies below.
@@ -64,21 +75,68 @@ FollowUpBar::FollowUpBar(const Texts& texts, QWidget* parent) : QWidget(parent),
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->addWidget(m_assist);
   layout->addWidget(m_rebound);
+  layout->addWidget(m_reasonRow);
   relabel(*this, texts);
   hide();
+  qApp->installEventFilter(this);
 }
 
 FollowUpBar::~FollowUpBar() {
   qApp->removeEventFilter(this);
 }
 
-QLabel* FollowUpBar::makeTitle(QWidget* form) {
-  auto* title = new PlainLabel(form);
-  title->setObjectName(QStringLiteral("lblQUESTION"));
-  QFont bold = title->font();
+// What is asked, and the number typed so far, readable from where one sits.
+QWidget* FollowUpBar::makeTitle(QWidget* form) {
+  auto* row = new QWidget(form);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  const auto index = static_cast<std::size_t>(m_titles[0] == nullptr ? 0 : 1);
+  QFont bold = font();
   bold.setBold(true);
-  title->setFont(bold);
-  return title;
+  m_titles[index] = new PlainLabel(row);
+  m_titles[index]->setObjectName(QStringLiteral("lblQUESTION"));
+  m_titles[index]->setFont(bold);
+  m_numbers[index] = new PlainLabel(row);
+  m_numbers[index]->setObjectName(QStringLiteral("lblTYPED"));
+  bold = Theme::figures(kTypedPixels, true);
+  bold.setPixelSize(kTypedPixels);
+  m_numbers[index]->setFont(bold);
+  m_numbers[index]->setFixedHeight(QFontMetrics(bold).height());
+  layout->addWidget(m_titles[index], 1);
+  layout->addWidget(m_numbers[index]);
+  return row;
+}
+
+// Below all else, so that nothing moves when it comes.
+QWidget* FollowUpBar::makeReason() {
+  auto* row = new QWidget(this);
+  auto* layout = new QVBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap);
+  m_reason = new PlainLabel(row);
+  m_reason->setObjectName(QStringLiteral("lblREASON"));
+  m_reason->setWordWrap(true);
+  m_reason->setFixedWidth(kInnerWidth);
+  layout->addWidget(m_reason);
+  auto* ways = new QHBoxLayout;
+  ways->setSpacing(kGap);
+  constexpr std::array kTexts = {kAllTheSame, kComesIn};
+  constexpr std::array kNames = {"cmdALLTHESAME", "cmdCOMESIN"};
+  for (std::size_t way = 0; way < m_waysOut.size(); ++way) {
+    auto* button = new QPushButton(row);
+    button->setObjectName(QLatin1String(kNames[way]));
+    button->setFocusPolicy(Qt::TabFocus);
+    setTextNumber(*button, kTexts[way]);
+    connect(button, &QPushButton::pressed, this, [this, button, way] {
+      button->setDown(false);
+      answer(m_question.take(static_cast<FollowUpQuestion::WayOut>(way)));
+    });
+    ways->addWidget(button, 1);
+    m_waysOut[way] = button;
+  }
+  layout->addLayout(ways);
+  row->hide();
+  return row;
 }
 
 QLabel* FollowUpBar::makeBand(QWidget* form, const QString& name) {
@@ -93,9 +151,9 @@ QLabel* FollowUpBar::makeBand(QWidget* form, const QString& name) {
 JerseyButton* FollowUpBar::makeButton(QWidget* form, int index) {
   auto* button = new JerseyButton(jerseyButtonName(index), kButton, form);
   connect(button, &JerseyButton::pressed, this, [this, button] {
-    const auto found = std::ranges::find(m_choices, button, &Choice::button);
-    if (m_isOpen && found != m_choices.end())
-      choose(static_cast<std::size_t>(found - m_choices.begin()));
+    const auto found = std::ranges::find(m_buttons, button);
+    if (m_isOpen && found != m_buttons.end())
+      answer(m_question.choose(static_cast<std::size_t>(found - m_buttons.begin())));
   });
   return button;
 }
@@ -130,15 +188,14 @@ QWidget* FollowUpBar::makeAssist() {
   auto* grid = new QGridLayout(form);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kGap);
-  m_titles[0] = makeTitle(form);
-  grid->addWidget(m_titles[0], 0, 0, 1, kMates);
+  grid->addWidget(makeTitle(form), 0, 0, 1, kGroup);
   m_shooters = makeBand(form, QStringLiteral("lblTEAM"));
-  grid->addWidget(m_shooters, 1, 0, 1, kMates);
-  for (int index = 0; index < kMates; ++index) {
+  grid->addWidget(m_shooters, 1, 0, 1, kGroup);
+  for (int index = 0; index < kGroup; ++index) {
     m_mates[static_cast<std::size_t>(index)] = makeButton(form, index);
     grid->addWidget(m_mates[static_cast<std::size_t>(index)], 2, index);
   }
-  grid->addWidget(makeEnd(form, "cmdNOASS"), 3, 0, 1, kMates);
+  grid->addWidget(makeEnd(form, "cmdNOASS"), 3, 0, 1, kGroup);
   return form;
 }
 
@@ -149,8 +206,7 @@ QWidget* FollowUpBar::makeRebound() {
   auto* grid = new QGridLayout(form);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kGap);
-  m_titles[1] = makeTitle(form);
-  grid->addWidget(m_titles[1], 0, 0, 1, kGroup);
+  grid->addWidget(makeTitle(form), 0, 0, 1, kGroup);
   for (int group = 0; group < 2; ++group) {
     QLabel* label = makeBand(form, QStringLiteral("lblTYPEREBOND(%1)").arg(group));
     m_groups[static_cast<std::size_t>(group)] = label;
@@ -165,19 +221,16 @@ QWidget* FollowUpBar::makeRebound() {
   return form;
 }
 
-void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, int slot) {
-  const int team = LiveGame::teamOf(slot);
-  const int player = game.playerIn(slot);
-  const RosterPlayer* const entry = game.game().roster[team].player(player);
-  if (entry == nullptr)
-    return;
-  button.setLook({.jersey = toQt(entry->jersey),
+void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, std::size_t place) {
+  const FollowUpQuestion::Choice& choice = m_question.choices()[place];
+  const int team = choice.team();
+  button.setLook({.jersey = toQt(choice.jersey),
                   .colour = colourOf(game.game().details.teamColour[team]),
                   .isFilled = true,
-                  .isFouledOut = game.isFouledOut(team, player)});
+                  .isFouledOut = game.isFouledOut(team, choice.player)});
   button.setEnabled(true);
-  showPlayerWords(button, game, team, player, m_texts);
-  m_choices.push_back({&button, slot, entry->jersey});
+  showPlayerWords(button, game, team, choice.player, m_texts);
+  m_buttons.push_back(&button);
 }
 
 // A team's name on its colour, behind a text where there is one.
@@ -194,53 +247,65 @@ void FollowUpBar::nameTeam(const LiveGame& game, QLabel& band, int text, int tea
   band.setPalette(colours);
 }
 
-void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int shooterTeam,
-                      const QRect& shooterPanel) {
+void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team, int shooter,
+                      const QRect& panel, const QRect& room) {
   dismiss();
-  if (followUps.isEmpty())
+  m_question.ask(game, followUps, team, shooter);
+  if (m_question.choices().empty())
     return;
-  m_shooterTeam = shooterTeam;
-  m_choices.clear();
-  m_typed.clear();
-  const auto offerAll = [&](const std::vector<int>& players, auto first, std::size_t room) {
-    for (std::size_t place = 0; place < room; ++place, ++first) {
-      (*first)->setLook({});
-      (*first)->setEnabled(false);
-      if (place < players.size())
-        offer(game, **first, players[place]);
+  m_ownRefusal = 0;
+  m_isTypedOnKeypad = false;
+  m_buttons.clear();
+  const auto clear = [](auto& buttons) {
+    for (JerseyButton* button : buttons) {
+      button->setLook({});
+      button->setEnabled(false);
     }
   };
-  const bool isAssist = !followUps.assist.empty();
-  if (isAssist) {
-    offerAll(followUps.assist, m_mates.begin(), kMates);
-    nameTeam(game, *m_shooters, 0, shooterTeam);
-  } else {
-    // The defensive rebound is the more frequent one: of two equal numbers Enter takes his.
-    offerAll(followUps.defensiveRebound, m_rebounders.begin() + kGroup, kGroup);
-    offerAll(followUps.offensiveRebound, m_rebounders.begin(), kGroup);
-    nameTeam(game, *m_groups[0], kOffensive, shooterTeam);
-    nameTeam(game, *m_groups[1], kDefensive, 1 - shooterTeam);
+  clear(m_mates);
+  clear(m_rebounders);
+  std::array<std::size_t, 2> used = {}; // of the shooter's team, and of the other
+  for (std::size_t choice = 0; choice < m_question.choices().size(); ++choice) {
+    const std::size_t group = m_question.choices()[choice].team() == team ? 0 : 1;
+    if (used[group] == kGroup)
+      continue;
+    const std::size_t place = group * kGroup + used[group]++;
+    offer(game, m_question.isAssist() ? *m_mates[place] : *m_rebounders[place], choice);
   }
-  m_assist->setVisible(isAssist);
-  m_rebound->setVisible(!isAssist);
-  narrow();
-
-  adjustSize();
-  const QPoint wished = parentWidget()->mapFromGlobal(shooterPanel.center()) - rect().center();
-  const QSize room = parentWidget()->size() - size();
-  move(std::clamp(wished.x(), 0, std::max(room.width(), 0)),
-       std::clamp(wished.y(), 0, std::max(room.height(), 0)));
+  if (m_question.isAssist()) {
+    nameTeam(game, *m_shooters, 0, team);
+  } else {
+    nameTeam(game, *m_groups[0], kOffensive, team);
+    nameTeam(game, *m_groups[1], kDefensive, 1 - team);
+  }
+  m_assist->setVisible(m_question.isAssist());
+  m_rebound->setVisible(!m_question.isAssist());
+  showTyped();
+  placeBeside(panel, room);
   raise();
   show();
   m_isOpen = true;
-  qApp->installEventFilter(this);
+  m_sinceOpened.start();
+}
+
+// On the panel of a neighbour: the right one, and of the last the left one.
+void FollowUpBar::placeBeside(const QRect& panel, const QRect& room) {
+  const QRect inner(parentWidget()->mapFromGlobal(room.topLeft()), room.size());
+  const QRect beside(parentWidget()->mapFromGlobal(panel.topLeft()), panel.size());
+  QPoint corner = inner.center() - rect().center();
+  if (!panel.isEmpty()) {
+    const bool fitsRight = beside.right() + 1 + width() <= inner.right() + 1;
+    corner = {fitsRight ? beside.right() + 1 : beside.left() - width(), beside.center().y() - height() / 2};
+  }
+  const QSize free = parentWidget()->size() - size();
+  move(std::clamp(corner.x(), 0, std::max(free.width(), 0)),
+       std::clamp(corner.y(), 0, std::max(free.height(), 0)));
 }
 
 void FollowUpBar::dismiss() {
   if (!m_isOpen)
     return;
   m_isOpen = false;
-  qApp->removeEventFilter(this);
   hide();
   emit closed();
 }
@@ -251,149 +316,176 @@ void FollowUpBar::hideEvent(QHideEvent* event) {
     dismiss(); // the window it lies over was closed
 }
 
-void FollowUpBar::choose(std::size_t choice) {
-  const int slot = m_choices[choice].slot;
-  const bool isAssist = !m_assist->isHidden();
-  const bool isOffensive = LiveGame::teamOf(slot) == m_shooterTeam;
+void FollowUpBar::answer(const std::optional<FollowUpQuestion::Answer>& answer) {
+  if (!answer) {
+    showTyped();
+    return;
+  }
+  const EventCode code = m_question.codeFor(answer->team);
   dismiss();
-  if (isAssist)
-    emit assistChosen(slot);
-  else
-    emit reboundChosen(slot, isOffensive);
+  emit chosen(*answer, code);
 }
 
-// Which buttons the number typed so far leaves, and which one Enter would take.
-void FollowUpBar::narrow() {
-  std::vector<std::string> jerseys;
-  std::ranges::transform(m_choices, std::back_inserter(jerseys), &Choice::jersey);
-  m_fitting = fittingJerseys(jerseys, m_typed);
-  m_marked.reset();
-  if (!m_fitting.empty() && m_fitting[0].isWhole)
-    m_marked = 0;
-  moveMark(0);
-  const bool isAssist = !m_assist->isHidden();
-  QString title = caption(m_texts, isAssist ? kAssistTitle : kReboundTitle);
-  if (!m_typed.empty())
-    title += QStringLiteral("  %1_").arg(toQt(m_typed));
-  m_titles[isAssist ? 0 : 1]->setText(title);
+void FollowUpBar::refuse(int text) {
+  m_ownRefusal = text;
+  showTyped();
+  flash();
 }
 
-void FollowUpBar::moveMark(int step) {
-  const auto count = static_cast<int>(m_fitting.size());
-  if (step != 0 && count > 0) {
-    const int from = m_marked ? static_cast<int>(*m_marked) : (step > 0 ? -1 : count);
-    m_marked = static_cast<std::size_t>((from + step + count) % count);
+void FollowUpBar::flash() {
+  m_flash.start();
+  update();
+}
+
+// The number, whom it leaves, and why it is not taken.
+void FollowUpBar::showTyped() {
+  const std::size_t form = m_question.isAssist() ? 0 : 1;
+  const bool isRefused = m_question.refusal().has_value();
+  m_titles[form]->setText(caption(m_texts, m_question.isAssist() ? kAssistTitle : kReboundTitle));
+  const std::string& typed = m_question.typed();
+  m_numbers[form]->setText(typed.empty() ? QString() : toQt(typed) + QLatin1Char('_'));
+  QPalette colours = palette();
+  if (isRefused || m_ownRefusal != 0)
+    colours.setColor(QPalette::WindowText, Theme::missed());
+  m_numbers[form]->setPalette(colours);
+  m_reason->setPalette(colours);
+  m_reason->setText(isRefused           ? toQt(m_question.reason(m_texts))
+                    : m_ownRefusal != 0 ? caption(m_texts, m_ownRefusal)
+                                        : QString());
+  const bool hasWays = isRefused && m_question.refusal()->stranger;
+  m_waysOut[0]->setVisible(hasWays);
+  m_waysOut[1]->setVisible(hasWays && m_question.refusal()->canComeIn);
+  m_reasonRow->setVisible(!m_reason->text().isEmpty());
+  adjustSize();
+  if (m_isOpen)
+    move(x(), std::clamp(y(), 0, std::max(parentWidget()->height() - height(), 0)));
+  showMarks();
+}
+
+void FollowUpBar::showMarks() {
+  for (std::size_t choice = 0; choice < m_buttons.size(); ++choice) {
+    JerseyButton::Look look = m_buttons[choice]->look();
+    look.isFilled =
+        std::ranges::find(m_question.fitting(), choice, &FittingJersey::place) != m_question.fitting().end();
+    look.isSelected = m_question.marked() == choice;
+    m_buttons[choice]->setLook(look);
   }
-  for (std::size_t choice = 0; choice < m_choices.size(); ++choice) {
-    JerseyButton::Look look = m_choices[choice].button->look();
-    look.isFilled = std::ranges::find(m_fitting, choice, &FittingJersey::place) != m_fitting.end();
-    look.isSelected = m_marked && m_fitting[*m_marked].place == choice;
-    m_choices[choice].button->setLook(look);
+  for (std::size_t way = 0; way < m_waysOut.size(); ++way) {
+    const bool isMarked = m_question.markedWayOut() == static_cast<FollowUpQuestion::WayOut>(way);
+    QPalette colours;
+    if (isMarked) {
+      colours.setColor(QPalette::Button, Theme::accent());
+      colours.setColor(QPalette::ButtonText, textOn(Theme::accent()));
+    }
+    m_waysOut[way]->setPalette(colours);
   }
 }
 
-// The keys that are bound come first, but for an Enter that takes what is marked.
+// Enter is the question's, whatever it is bound to; the clock's keys stay the clock's. Backspace takes back
+// what was typed on the main keyboard: no keypad of 17 keys has one, and those that have use it to confirm.
 FollowUpKey FollowUpBar::meaningOf(const QKeyEvent& event) const {
   using Kind = FollowUpKey::Kind;
+  const bool isPlain = (event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) == Qt::NoModifier;
+  if (event.key() == Qt::Key_Backspace && isPlain && !m_question.typed().empty() && !m_isTypedOnKeypad)
+    return {Kind::TakeBack};
   const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  if (m_readKey && !(isEnter && m_marked)) {
+  if (isEnter && isPlain && !event.modifiers().testFlag(Qt::KeypadModifier))
+    return {Kind::Take};
+  if (m_readKey) {
     if (const auto bound = m_readKey(event))
       return *bound;
   }
-  if ((event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != Qt::NoModifier)
+  if (!isPlain)
     return {};
   if (isEnter)
     return {Kind::Take};
+  if (event.key() == Qt::Key_Space && event.modifiers() == Qt::NoModifier)
+    return {Kind::Clock};
   if (event.key() == Qt::Key_Escape)
     return {Kind::Clear};
   return isDigit(event) ? FollowUpKey{Kind::Digit, event.key() - Qt::Key_0} : FollowUpKey{};
 }
 
-// Enter with nothing chosen is going on, as every other key is.
 bool FollowUpBar::ownsKey(const QKeyEvent& event) const {
-  const FollowUpKey meaning = meaningOf(event);
-  switch (meaning.kind) {
+  switch (meaningOf(event).kind) {
   case FollowUpKey::Kind::Digit:
+  case FollowUpKey::Kind::Take:
+  case FollowUpKey::Kind::TakeBack:
   case FollowUpKey::Kind::Clear: return true;
-  case FollowUpKey::Kind::Take: return m_marked || !m_typed.empty() || meaning.team;
+  case FollowUpKey::Kind::Clock: return false;
   case FollowUpKey::Kind::GoOn: break;
   }
   if (m_readKey && m_readKey(event))
     return false;
-  switch (event.key()) {
-  case Qt::Key_Left:
-  case Qt::Key_Right: return event.modifiers() == Qt::NoModifier;
-  case Qt::Key_Backspace: return !m_typed.empty();
-  default: return false;
-  }
+  return (event.key() == Qt::Key_Left || event.key() == Qt::Key_Right) && event.modifiers() == Qt::NoModifier;
 }
 
 void FollowUpBar::takeKey(const QKeyEvent& event) {
   const FollowUpKey meaning = meaningOf(event);
+  m_ownRefusal = 0;
   switch (meaning.kind) {
   case FollowUpKey::Kind::Digit:
-    takeDigit(meaning);
+    m_isTypedOnKeypad = event.modifiers().testFlag(Qt::KeypadModifier);
+    answer(m_question.type(meaning.digit));
     if (!m_isOpen)
-      emit numberTyped(event.modifiers().testFlag(Qt::KeypadModifier));
+      emit numberTyped(m_isTypedOnKeypad);
     return;
-  case FollowUpKey::Kind::Take: return take(meaning.team);
-  case FollowUpKey::Kind::Clear: return dismiss();
+  case FollowUpKey::Kind::Take:
+    if (m_question.typed().empty() && !m_question.marked())
+      return dismiss();
+    return answer(m_question.enter(meaning.team));
+  case FollowUpKey::Kind::TakeBack: m_question.takeBackDigit(); return showTyped();
+  case FollowUpKey::Kind::Clear:
+    if (event.key() == Qt::Key_Escape || m_question.typed().empty())
+      return dismiss();
+    m_question.clearTyped();
+    return showTyped();
+  case FollowUpKey::Kind::Clock:
   case FollowUpKey::Kind::GoOn: break;
   }
-  if (event.key() == Qt::Key_Left || event.key() == Qt::Key_Right)
-    return moveMark(event.key() == Qt::Key_Left ? -1 : 1);
-  m_typed.pop_back(); // Backspace, which is ours only where something is typed
-  narrow();
+  m_question.moveMark(event.key() == Qt::Key_Left ? -1 : 1);
+  showTyped();
 }
 
-// What is marked, or the player of that team with the number typed; with nothing typed nobody.
-void FollowUpBar::take(std::optional<int> team) {
-  const auto isMeant = [&](const FittingJersey& fitting) {
-    return fitting.isWhole && LiveGame::teamOf(m_choices[fitting.place].slot) == team;
-  };
-  const auto found = team && !m_typed.empty() ? std::ranges::find_if(m_fitting, isMeant) : m_fitting.end();
-  if (found != m_fitting.end())
-    choose(found->place);
-  else if (m_marked || (!m_typed.empty() && m_fitting.size() == 1))
-    choose(m_fitting[m_marked.value_or(0)].place);
-  else if (m_typed.empty())
-    dismiss();
-}
-
-// "0" of a 00 may go on, "9" of a 09 may not.
-bool FollowUpBar::isTypedToItsEnd(const FittingJersey& fitting) const {
-  const std::string& jersey = m_choices[fitting.place].jersey;
-  return fitting.isWhole && (jersey.size() == m_typed.size() || !jersey.starts_with(m_typed));
-}
-
-void FollowUpBar::takeDigit(const FollowUpKey& key) {
-  m_typed += static_cast<char>('0' + key.digit);
-  narrow();
-  if (m_fitting.empty()) { // nobody's number
-    m_typed.pop_back();
-    narrow();
-  } else if (m_fitting.size() == 1 && (!key.isWholeNumber || isTypedToItsEnd(m_fitting[0]))) {
-    choose(m_fitting[0].place);
+// What is pressed elsewhere closes it; true for a press that goes no further.
+bool FollowUpBar::takePress(QWidget& widget, const QMouseEvent& event) {
+  const bool isInside = &widget == this || isAncestorOf(&widget);
+  const QPoint at = event.globalPosition().toPoint();
+  if (!m_isOpen) {
+    const bool isSecond = m_sinceAnswer.isValid() && !m_sinceAnswer.hasExpired(kSecondPress) &&
+                          (at - m_answeredAt).manhattanLength() < kSamePlace && widget.window() == window();
+    m_sinceAnswer.invalidate();
+    if (isSecond)
+      emit pressIgnored();
+    return isSecond;
   }
+  if (!isInside) {
+    dismiss();
+    return false;
+  }
+  if (!m_sinceOpened.hasExpired(kDeafFor)) {
+    refuse(kTooSoon);
+    return true;
+  }
+  m_sinceAnswer.start();
+  m_answeredAt = at;
+  return false;
 }
 
-// Sees every event of the program while it is open. Only its own keys stay here.
+// Sees every event of the program. Only its own keys stay here.
 bool FollowUpBar::eventFilter(QObject* watched, QEvent* event) {
   auto* const widget = qobject_cast<QWidget*>(watched);
-  if (widget == nullptr || !m_isOpen)
+  if (widget == nullptr)
     return false;
   const QEvent::Type type = event->type();
-  if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick) {
-    if (widget != this && !isAncestorOf(widget))
-      dismiss();
-    return false;
-  }
-  if (type != QEvent::KeyPress && type != QEvent::ShortcutOverride)
+  if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick)
+    return takePress(*widget, static_cast<const QMouseEvent&>(*event));
+  if (!m_isOpen || (type != QEvent::KeyPress && type != QEvent::ShortcutOverride))
     return false;
   auto& key = static_cast<QKeyEvent&>(*event);
   const bool isOwn = ownsKey(key) && widget->window() == window();
   if (!isOwn) {
-    if (!isModifier(key.key()) && !key.isAutoRepeat())
+    if (!isModifier(key.key()) && !key.isAutoRepeat() && meaningOf(key).kind != FollowUpKey::Kind::Clock)
       dismiss();
     return false;
   }
@@ -408,7 +500,7 @@ bool FollowUpBar::eventFilter(QObject* watched, QEvent* event) {
 void FollowUpBar::paintEvent(QPaintEvent* event) {
   QWidget::paintEvent(event);
   QPainter painter(this);
-  painter.setPen(QPen(Theme::accent(), 2));
+  painter.setPen(QPen(m_flash.isActive() ? Theme::missed() : Theme::accent(), m_flash.isActive() ? 4 : 2));
   painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 

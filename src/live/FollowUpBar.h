@@ -1,11 +1,14 @@
 // Who assisted, who took the rebound: asked beside the shooter's panel right after the shot, and never in the
 // way. Answered by a click or the jersey's number; whatever is done elsewhere closes it as "Nobody" and is
-// then carried out as what it was. Says who was chosen; records nothing.
+// then carried out as what it was, but for the clock, which can be stopped. Says who was chosen; records
+// nothing.
 #pragma once
 
-#include "live/JerseyMatch.h"
-#include "live/LiveGame.h"
+#include "live/FollowUpQuestion.h"
 
+#include <QElapsedTimer>
+#include <QPoint>
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -16,6 +19,8 @@
 
 class QKeyEvent;
 class QLabel;
+class QMouseEvent;
+class QPushButton;
 
 namespace hooptab {
 
@@ -24,11 +29,10 @@ class Texts;
 
 // What a key that is bound elsewhere means to the question.
 struct FollowUpKey {
-  enum class Kind { Digit, Take, Clear, GoOn };
+  enum class Kind { Digit, Take, TakeBack, Clear, Clock, GoOn };
   Kind kind = Kind::GoOn;
   int digit = 0;
   std::optional<int> team = std::nullopt; // of two equal numbers Take takes the one of this team
-  bool isWholeNumber = false; // the number will be typed to its end, though its beginning may fit one alone
 };
 
 class FollowUpBar : public QWidget {
@@ -38,21 +42,28 @@ class FollowUpBar : public QWidget {
   FollowUpBar(const Texts& texts, QWidget* parent);
   ~FollowUpBar() override;
 
-  // Opens in the middle of what it may hide: the shooter's panel, in global coordinates; or as near as it
-  // fits into the parent. One that was open closes as "Nobody". With nobody to choose, nothing opens.
-  void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int shooterTeam,
-           const QRect& shooterPanel);
+  // Milliseconds in which it takes no click: a hand that presses twice has not seen it.
+  static constexpr int kDeafFor = 300;
+  // A second press where one has just answered, within so many milliseconds, is none on what lies below.
+  static constexpr int kSecondPress = 500;
+
+  // Opens beside the shooter's panel and inside `room`, both in global coordinates: what he is recorded with
+  // stays free. For one who is not on court `panel` is empty, and it opens in the middle of the room. One
+  // that was open closes as "Nobody". With nobody to choose, nothing opens.
+  void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team, int shooter,
+           const QRect& panel, const QRect& room);
   // Asked first for every key; nothing for one that means here what it always does.
   using KeyReader = std::function<std::optional<FollowUpKey>(const QKeyEvent& event)>;
   void setKeyReader(KeyReader reader) { m_readKey = std::move(reader); }
   bool isOpen() const { return m_isOpen; }
-  void dismiss(); // as "Nobody"
+  void dismiss();        // as "Nobody"
+  void refuse(int text); // in its own line: why something else was not done
 
  signals:
   // After closed(), so that a further question can be asked.
-  void assistChosen(int slot);
-  void reboundChosen(int slot, bool isOffensive);
+  void chosen(const hooptab::FollowUpQuestion::Answer& answer, hooptab::EventCode code);
   void closed();                   // in any case
+  void pressIgnored();             // a second one where one has just answered
   void numberTyped(bool onKeypad); // its last digit has chosen a player
 
  protected:
@@ -61,48 +72,50 @@ class FollowUpBar : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  static constexpr int kMates = 4;
   static constexpr int kGroup = LiveGame::kSlotsOfTeam;
-  struct Choice {
-    JerseyButton* button = nullptr;
-    int slot = 0;
-    std::string jersey = {};
-  };
 
   QWidget* makeAssist();
   QWidget* makeRebound();
-  QLabel* makeTitle(QWidget* form);
+  QWidget* makeTitle(QWidget* form);
   QLabel* makeBand(QWidget* form, const QString& name);
   QWidget* makeEnd(QWidget* form, const char* nobodyName);
+  QWidget* makeReason();
   JerseyButton* makeButton(QWidget* form, int index);
-  void offer(const LiveGame& game, JerseyButton& button, int slot);
+  void offer(const LiveGame& game, JerseyButton& button, std::size_t choice);
   void nameTeam(const LiveGame& game, QLabel& band, int text, int team);
+  void placeBeside(const QRect& panel, const QRect& room);
   [[nodiscard]] FollowUpKey meaningOf(const QKeyEvent& event) const;
   bool ownsKey(const QKeyEvent& event) const;
   void takeKey(const QKeyEvent& event);
-  void takeDigit(const FollowUpKey& key);
-  [[nodiscard]] bool isTypedToItsEnd(const FittingJersey& fitting) const;
-  void take(std::optional<int> team);
-  void narrow();
-  void moveMark(int step);
-  void choose(std::size_t choice);
+  bool takePress(QWidget& widget, const QMouseEvent& event);
+  void answer(const std::optional<FollowUpQuestion::Answer>& answer);
+  void showTyped();
+  void showMarks();
+  void flash();
 
   const Texts& m_texts;
   KeyReader m_readKey;
   QWidget* m_assist = nullptr;
   QWidget* m_rebound = nullptr;
-  std::array<JerseyButton*, kMates> m_mates = {};
+  QWidget* m_reasonRow = nullptr;
+  std::array<JerseyButton*, kGroup> m_mates = {};
   std::array<JerseyButton*, 2 * kGroup> m_rebounders = {}; // offensive first
   QLabel* m_shooters = nullptr;
   std::array<QLabel*, 2> m_groups = {};
   std::array<QLabel*, 2> m_titles = {};
+  std::array<QLabel*, 2> m_numbers = {};
+  QLabel* m_reason = nullptr;
+  std::array<QPushButton*, 2> m_waysOut = {}; // in the order of FollowUpQuestion::WayOut
 
+  FollowUpQuestion m_question;
   bool m_isOpen = false;
-  int m_shooterTeam = 0;
-  std::vector<Choice> m_choices; // of the question that is open
-  std::string m_typed;
-  std::vector<FittingJersey> m_fitting; // places in m_choices
-  std::optional<std::size_t> m_marked;  // in m_fitting: what Enter takes
+  std::vector<JerseyButton*> m_buttons; // of the choices of the question
+  bool m_isTypedOnKeypad = false;
+  int m_ownRefusal = 0; // text of refuse()
+  QElapsedTimer m_sinceOpened;
+  QElapsedTimer m_sinceAnswer; // by a press
+  QPoint m_answeredAt;         // global
+  QTimer m_flash;
 };
 
 } // namespace hooptab

@@ -198,7 +198,15 @@ void RecordedCheck::checkTimes() {
 } // namespace
 
 std::vector<LiveFinding> checkRecorded(const Game& game) {
-  return RecordedCheck(game).run();
+  std::vector<LiveFinding> findings = RecordedCheck(game).run();
+  if (game.accepted.empty())
+    return findings;
+  std::erase_if(findings, [&](const LiveFinding& finding) {
+    const auto accepted = game.accepted.find(game.events[finding.event].number);
+    return accepted != game.accepted.end() &&
+           std::ranges::find(accepted->second, static_cast<int>(finding.kind)) != accepted->second.end();
+  });
+  return findings;
 }
 
 std::string wordsOf(const LiveFinding& finding, const Game& game, const Texts& texts) {

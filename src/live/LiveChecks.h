@@ -30,7 +30,7 @@ struct LiveFinding {
   std::string wanted = {}; // ZZZ
 };
 
-// In the order of the events.
+// In the order of the events, without those that the user has accepted.
 [[nodiscard]] std::vector<LiveFinding> checkRecorded(const Game& game);
 [[nodiscard]] std::string wordsOf(const LiveFinding& finding, const Game& game, const Texts& texts);
 

@@ -50,6 +50,10 @@ constexpr int kNothingToRedo = 1978;
 constexpr int kInsertBefore = 1979;
 constexpr int kInsertAfter = 1980;
 constexpr int kFilter = 1981;
+constexpr int kMarkedDoubtful = 2465;
+constexpr int kIsRight = 2491;
+constexpr int kAccept = 2492;
+constexpr int kDoubtful = 2493;
 constexpr int kDeleteWith = 1982;
 constexpr int kDeleteAlone = 1983;
 
@@ -71,7 +75,7 @@ LiveEventPanel::LiveEventPanel(const Texts& texts, QWidget* parent)
   m_checks->setFocusPolicy(Qt::TabFocus);
   m_checks->setIconSize({LiveEventDelegate::kMarkSize, LiveEventDelegate::kMarkSize});
   setToolTipNumber(*m_checks, kCheckHint);
-  connect(m_checks, &QPushButton::clicked, this, &LiveEventPanel::leadToFinding);
+  connect(m_checks, &QPushButton::clicked, this, &LiveEventPanel::leadToCheck);
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -138,6 +142,7 @@ QWidget* LiveEventPanel::makeButtons() {
   m_insertBefore = makeAction("cmdINSERTBEFORE", kInsertBefore, "insertbefore");
   m_insertAfter = makeAction("cmdINSERTAFTER", kInsertAfter, "insertafter");
   m_time = makeAction("cmdTIME", kChangeTime, "edit");
+  m_doubt = makeAction("cmdDOUBT", kDoubtful, "tocheck");
   m_substituteBefore = makeAction("cmdSUBSTBEFORE", kSubstituteBefore, "insertbefore");
   m_substituteAfter = makeAction("cmdSUBSTAFTER", kSubstituteAfter, "insertafter");
   m_undo = makeAction("cmdUNDO", 0, "undo");
@@ -168,7 +173,7 @@ QWidget* LiveEventPanel::makeButtons() {
     if (action != m_filter)
       m_list->addAction(action);
     if (action == m_edit)
-      m_list->addAction(m_time);
+      m_list->addActions({m_time, m_doubt});
     if (action == m_insertAfter)
       m_list->addActions({m_substituteBefore, m_substituteAfter});
   }
@@ -193,6 +198,10 @@ QWidget* LiveEventPanel::makeButtons() {
   ask(m_insertBefore, [this](const EventPlace& event) { emit insertAsked(event, true); });
   ask(m_insertAfter, [this](const EventPlace& event) { emit insertAsked(event, false); });
   ask(m_time, [this](const EventPlace& event) { emit timeAsked(event); });
+  ask(m_doubt, [this](const EventPlace& event) {
+    const auto chosenNow = selected();
+    emit doubtAsked(event, !m_rows.game().events[chosenNow.front()].isDoubtful);
+  });
   using enum PastSubstitution::What;
   ask(m_substituteBefore, [this](const EventPlace& event) {
     emit substitutionAsked({InsertBefore, event}, 0, 0);
@@ -225,7 +234,11 @@ void LiveEventPanel::showGame(const LiveGame& game) {
   // Who looks at an older event keeps it in view; at the top the newest comes in.
   const QPersistentModelIndex top = m_list->indexAt({0, 0});
   const bool isAtTop = isNew || !top.isValid() || top.row() == 0;
+  const std::vector<EventPlace> chosenNow = placesOf(selected());
+  const std::optional<EventPlace> currentNow = current();
   m_rows.show(game.game());
+  if (placesOf(selected()) != chosenNow) // an event has moved: it stays the selected one
+    select(chosenNow, currentNow);
   if (isAtTop)
     m_list->scrollToTop();
   else if (top.isValid())
@@ -256,7 +269,7 @@ void LiveEventPanel::fitColumns() {
 }
 
 void LiveEventPanel::showChecks() {
-  const std::size_t count = m_rows.findings().size();
+  const std::size_t count = m_rows.findings().size() + m_rows.doubtful().size();
   m_checks->setEnabled(count > 0);
   m_checks->setIcon(count > 0 ? icon(QStringLiteral("tocheck")) : QIcon());
   m_checks->setText(count > 0 ? withPlaceholder(m_texts, kToCheck, QString::number(count))
@@ -278,11 +291,11 @@ void LiveEventPanel::showCommands() {
   const QModelIndex now = m_list->currentIndex();
   const bool isUnderstood = now.isValid() && m_rows.game().events[m_rows.eventAt(now)].isUnderstood;
   for (QAction* action :
-       {m_edit, m_time, m_insertBefore, m_insertAfter, m_substituteBefore, m_substituteAfter})
+       {m_edit, m_time, m_doubt, m_insertBefore, m_insertAfter, m_substituteBefore, m_substituteAfter})
     action->setEnabled(canEdit && isUnderstood && current());
-  const auto turned = [&](auto which) { return canEdit ? (m_game->*which)() : nullptr; };
-  showTurn(*m_undo, turned(&LiveGame::toUndo), kUndo, kNothingToUndo);
-  showTurn(*m_redo, turned(&LiveGame::toRedo), kRedo, kNothingToRedo);
+  const std::optional<LiveAction> undo = canEdit ? m_game->toUndo() : std::nullopt;
+  showTurn(*m_undo, undo ? &*undo : nullptr, kUndo, kNothingToUndo);
+  showTurn(*m_redo, canEdit ? m_game->toRedo() : nullptr, kRedo, kNothingToRedo);
 }
 
 // "Undo: Deletion (LYNX 12 ● 2 points)"; what was recorded is named by its event alone.
@@ -306,11 +319,46 @@ void LiveEventPanel::showTurn(QAction& action, const LiveAction* turned, int tex
       QStringLiteral("%1 (%2)").arg(whole, action.shortcut().toString(QKeySequence::NativeText)));
 }
 
+void LiveEventPanel::select(const std::vector<EventPlace>& events, const std::optional<EventPlace>& current) {
+  QItemSelection rows;
+  QModelIndex now;
+  for (std::size_t event = 0; event < m_rows.game().events.size(); ++event) {
+    const EventPlace place = placeOf(event);
+    const QModelIndex row = m_rows.rowOf(event);
+    if (!row.isValid() || std::ranges::find(events, place) == events.end())
+      continue;
+    rows.select(row, row);
+    if (place == current)
+      now = row;
+  }
+  m_list->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  m_list->selectionModel()->setCurrentIndex(now, QItemSelectionModel::NoUpdate);
+}
+
+void LiveEventPanel::leaveDeleted() {
+  const std::vector<std::size_t> chosenNow = selected();
+  if (std::ranges::any_of(chosenNow,
+                          [this](std::size_t event) { return m_rows.game().events[event].isDeleted; }))
+    select({}, std::nullopt);
+}
+
+void LiveEventPanel::showOnly(int team, int period) {
+  m_filter->setChecked(true);
+  m_filters->choose(team, period);
+}
+
 // --- What is asked
 
 EventPlace LiveEventPanel::placeOf(std::size_t event) const {
   const GameEvent& found = m_rows.game().events[event];
   return {found.period, std::string(found.key)};
+}
+
+std::vector<EventPlace> LiveEventPanel::placesOf(const std::vector<std::size_t>& events) const {
+  std::vector<EventPlace> places;
+  std::ranges::transform(events, std::back_inserter(places),
+                         [this](std::size_t event) { return placeOf(event); });
+  return places;
 }
 
 std::vector<std::size_t> LiveEventPanel::selected() const {
@@ -343,20 +391,26 @@ void LiveEventPanel::choose(std::size_t event) {
   m_list->scrollTo(row);
 }
 
-// The first, and from one of them the next; with what mends it.
-void LiveEventPanel::leadToFinding() {
-  const auto& findings = m_rows.findings();
-  if (findings.empty())
+std::vector<std::size_t> LiveEventPanel::toCheck() const {
+  std::vector<std::size_t> events = m_rows.doubtful();
+  for (const LiveFinding& finding : m_rows.findings())
+    events.push_back(finding.event);
+  std::ranges::sort(events);
+  const auto repeated = std::ranges::unique(events);
+  events.erase(repeated.begin(), repeated.end());
+  return events;
+}
+
+// With what mends it.
+void LiveEventPanel::leadToCheck() {
+  const std::vector<std::size_t> events = toCheck();
+  if (events.empty())
     return;
   const auto chosenNow = selected();
-  auto next = findings.begin();
-  const auto now = std::ranges::find_if(findings, [&](const LiveFinding& finding) {
-    return chosenNow.size() == 1 && finding.event == chosenNow[0];
-  });
-  if (now != findings.end())
-    next = std::find_if(now, findings.end(),
-                        [&](const LiveFinding& finding) { return finding.event != now->event; });
-  const std::size_t event = (next == findings.end() ? findings.begin() : next)->event;
+  auto next = events.begin();
+  if (chosenNow.size() == 1 && std::ranges::binary_search(events, chosenNow[0]))
+    next = std::ranges::upper_bound(events, chosenNow[0]);
+  const std::size_t event = next == events.end() ? events.front() : *next;
   choose(event);
   offerRepairs(event);
 }
@@ -367,9 +421,16 @@ void LiveEventPanel::offerRepairs(std::size_t event) {
   auto* menu = new PassingMenu(this);
   menu->setObjectName(QStringLiteral("mnuREPAIR"));
   const auto add = [menu](std::string_view words) { return menu->addAction(withoutMnemonic(toQt(words))); };
-  bool isLast = true;
+  const EventPlace place = placeOf(event);
+  if (m_rows.game().events[event].isDoubtful) {
+    add(m_texts.text(kMarkedDoubtful))->setEnabled(false);
+    connect(add(m_texts.text(kIsRight)), &QAction::triggered, this,
+            [this, place] { emit doubtAsked(place, false); });
+    connect(add(m_texts.text(kEdit)), &QAction::triggered, this, [this, place] { emit editAsked(place); });
+    menu->addSeparator();
+  }
+  const bool isLast = toCheck().size() < 2;
   for (const LiveFinding& finding : m_rows.findings()) {
-    isLast = isLast && finding.event == event;
     if (finding.event != event)
       continue;
     QAction* title = add(wordsOf(finding, m_rows.game(), m_texts));
@@ -377,10 +438,12 @@ void LiveEventPanel::offerRepairs(std::size_t event) {
     for (const LiveRepair& offered : repairsOf(finding, m_rows.game()))
       connect(add(wordsOf(offered, m_rows.game(), m_texts)), &QAction::triggered, this,
               [this, offered] { repair(offered); });
+    connect(add(m_texts.text(kAccept)), &QAction::triggered, this,
+            [this, place, number = static_cast<int>(finding.kind)] { emit acceptAsked(place, number); });
     menu->addSeparator();
   }
   if (!isLast)
-    connect(add(m_texts.text(kNextToCheck)), &QAction::triggered, this, &LiveEventPanel::leadToFinding,
+    connect(add(m_texts.text(kNextToCheck)), &QAction::triggered, this, &LiveEventPanel::leadToCheck,
             Qt::QueuedConnection); // when this menu has closed
   menu->popup(cornerUnder(event));
 }

@@ -33,8 +33,15 @@ class LiveEventPanel : public QWidget {
   void applyColours();
   // An event that is filtered out is shown again.
   void choose(const EventPlace& event);
+  void leaveDeleted();                 // what is selected and deleted now is so no more
+  void showOnly(int team, int period); // as by the filters
+  void leadToCheck();                  // to the first event to look at, and from it to the next
+  std::size_t findings() const { return m_rows.findings().size(); }
+  std::size_t doubtful() const { return m_rows.doubtful().size(); }
 
  signals:
+  void acceptAsked(const hooptab::EventPlace& event, int finding);
+  void doubtAsked(const hooptab::EventPlace& event, bool isDoubtful);
   void deleteAsked(const std::vector<hooptab::EventPlace>& events, bool isDeleted);
   void editAsked(const hooptab::EventPlace& event);
   void insertAsked(const hooptab::EventPlace& event, bool isBefore);
@@ -56,13 +63,15 @@ class LiveEventPanel : public QWidget {
   void showCommands();
   void showTurn(QAction& action, const LiveAction* turned, int text, int nothing) const;
   void fitColumns();
-  void leadToFinding();
+  std::vector<std::size_t> toCheck() const; // in the order of the game
+  void select(const std::vector<EventPlace>& events, const std::optional<EventPlace>& current);
   void offerRepairs(std::size_t event);
   void repair(const LiveRepair& repair);
   QPoint cornerUnder(std::size_t event) const;
   void askDeletion();
   void choose(std::size_t event);
   EventPlace placeOf(std::size_t event) const;
+  std::vector<EventPlace> placesOf(const std::vector<std::size_t>& events) const;
   std::vector<std::size_t> selected() const; // in the order of the game
   std::optional<EventPlace> current() const;
 
@@ -79,6 +88,7 @@ class LiveEventPanel : public QWidget {
   QAction* m_insertBefore = nullptr;
   QAction* m_insertAfter = nullptr;
   QAction* m_time = nullptr;
+  QAction* m_doubt = nullptr;
   QAction* m_substituteBefore = nullptr;
   QAction* m_substituteAfter = nullptr;
   QAction* m_undo = nullptr;

@@ -1,5 +1,6 @@
 #include "live/LiveEventRows.h"
 
+#include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/ShotFollowUp.h"
 
@@ -64,6 +65,15 @@ std::vector<LiveEventRows::Row> LiveEventRows::rowsOf(const Game& game) const {
   return rows;
 }
 
+std::vector<std::size_t> LiveEventRows::doubtful() const {
+  std::vector<std::size_t> marked;
+  for (std::size_t event = 0; event < game().events.size(); ++event) {
+    if (game().events[event].isDoubtful && !game().events[event].isDeleted)
+      marked.push_back(event);
+  }
+  return marked;
+}
+
 void LiveEventRows::relabel() {
   m_ofEvents = rowsOf(game());
   m_events.relabel();
@@ -89,10 +99,14 @@ QVariant LiveEventRows::data(const QModelIndex& index, int role) const {
   if (!index.isValid())
     return value;
   const Row& row = m_ofEvents[eventAt(index)];
-  if (role == Qt::DisplayRole && index.column() == EventListModel::Action && row.isFollowUp)
-    return QString(QStringLiteral("  ") + value.toString());
+  const GameEvent& event = game().events[eventAt(index)];
+  const bool isDoubtful = event.isDoubtful && !event.isDeleted;
+  if (role == Qt::DisplayRole && index.column() == EventListModel::Action && (row.isFollowUp || isDoubtful))
+    return QString((isDoubtful ? QStringLiteral("? ") : QStringLiteral("  ")) + value.toString());
+  if (role == Qt::BackgroundRole && isDoubtful)
+    return Theme::doubtful();
   if (role == HasFinding)
-    return !row.findings.isEmpty();
+    return !row.findings.isEmpty() || isDoubtful;
   if (row.findings.isEmpty())
     return value;
   if (role == Qt::ToolTipRole)

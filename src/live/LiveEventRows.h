@@ -23,7 +23,7 @@ struct EventFilter {
 class LiveEventRows : public QSortFilterProxyModel {
   Q_OBJECT
  public:
-  enum Role { HasFinding = Qt::UserRole };
+  enum Role { HasFinding = Qt::UserRole }; // a doubtful one has one, too
 
   // `texts` must outlive it.
   explicit LiveEventRows(const Texts& texts, QObject* parent = nullptr);
@@ -33,6 +33,7 @@ class LiveEventRows : public QSortFilterProxyModel {
   void setFilter(const EventFilter& filter);
   const EventFilter& filter() const { return m_filter; }
   const std::vector<LiveFinding>& findings() const { return m_findings; }
+  std::vector<std::size_t> doubtful() const; // places in the game of those that are marked so
   const Game& game() const { return m_events.game(); }
   const EventWords& words() const { return m_events.words(); }
   std::size_t eventAt(const QModelIndex& row) const; // place in the game

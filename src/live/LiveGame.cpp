@@ -7,12 +7,15 @@
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
+#include <utility>
 
 namespace hooptab {
 
 namespace {
 
 constexpr int kSecondsPerMinute = 60;
+constexpr int kStartLock = 3; // seconds
+constexpr int kDoubt = 2464;
 constexpr int kBehindAll = std::numeric_limits<int>::max(); // every period that a file can have
 constexpr int kSubstitution = 1561;
 
@@ -44,14 +47,19 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
   m_history.clear();
   m_lastShot = {};
   m_wasLeftRunning = false;
-  m_slots = {};
+  m_slots.clear();
+  m_pending.reset();
   m_endedPeriod = 0;
+  m_lockedUntil = 0;
+  m_starts.clear();
   offerEarlier();
   showAsLeft();
   return GameFileProblem::None;
 }
 
 ForeignHands LiveGame::takeForeignHands() {
+  if (m_log.disk().hasForeignHands())
+    writePending();
   ForeignHands hands = m_log.takeForeignHands();
   if (hands.isTouched) { // others may be on court, at other places of the roster
     putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters()));
@@ -76,8 +84,11 @@ void LiveGame::showAsLeft() {
       last = &event;
   }
   m_clock.set(last == nullptr ? fullLength() : last->clockSeconds);
-  if (last != nullptr && last->code == EventCode::ARRET && last->clockSeconds == 0 && hasTime())
+  if (last != nullptr && last->code == EventCode::ARRET && last->clockSeconds == 0 && hasTime()) {
+    m_period = std::min(last->period, kLastPeriod); // whose next one may have had a start that was taken back
     closePeriod();
+  }
+  m_lockedUntil = 0; // that was long ago
   if (m_access == Access::Reading || game().details.isFinished) {
     m_phase = m_access == Access::Reading ? Phase::ReadOnly : Phase::Finished;
     return;
@@ -104,7 +115,9 @@ int LiveGame::fullLength() const {
 bool LiveGame::isHalfTime() const {
   const int periods = game().details.periods;
   return m_phase == Phase::Stopped && periods % 2 == 0 && m_period == periods / 2 + 1 &&
-         !m_log.lines().contains(m_period);
+         std::ranges::none_of(game().events, [this](const GameEvent& event) {
+           return event.period == m_period && !event.isDeleted;
+         });
 }
 
 // The length of an overtime is in no file: of one that has begun it is the highest clock seen in it.
@@ -141,14 +154,14 @@ void LiveGame::toggleClock() {
 }
 
 void LiveGame::start() {
-  if (!hasTime() || m_phase != Phase::Stopped)
+  if (!hasTime() || m_phase != Phase::Stopped || startLock() > 0)
     return;
   if (isStopLost())
     recordStop();
   m_wasLeftRunning = false;
   if (clockSeconds() == 0)
     return closePeriod();
-  m_endedPeriod = 0;
+  m_starts[m_log.nextNumber()] = std::exchange(m_endedPeriod, 0);
   m_log.change({added(lineOf(startText()))});
   m_clock.start(m_time.seconds());
   m_phase = Phase::Running;
@@ -157,11 +170,32 @@ void LiveGame::start() {
 void LiveGame::stop() {
   if (m_phase != Phase::Running)
     return;
+  writePending();
   m_clock.stop(m_time.seconds());
   m_phase = Phase::Stopped;
   recordStop();
   if (clockSeconds() == 0)
     closePeriod();
+}
+
+int LiveGame::startLock() const {
+  return static_cast<int>(std::clamp<std::int64_t>(m_lockedUntil - m_time.seconds(), 0, kStartLock));
+}
+
+void LiveGame::stopForClosing(std::int64_t now) {
+  if (m_phase != Phase::Running)
+    return;
+  stop();
+  m_log.setDetails({{"QUITTE", std::to_string(m_log.nextNumber() - 1) + ' ' + std::to_string(now)}});
+}
+
+bool LiveGame::wasClosedInPlay() const {
+  const auto events = game().events.events();
+  const auto last = std::find_if(events.rbegin(), events.rend(), [](const GameEvent& event) {
+    return event.isUnderstood && !event.isDeleted;
+  });
+  return m_phase == Phase::Stopped && last != events.rend() && last->code == EventCode::ARRET &&
+         last->clockSeconds > 0 && last->number == game().details.closedInPlay.event;
 }
 
 bool LiveGame::isStopLost() const {
@@ -197,6 +231,8 @@ void LiveGame::recordStop() {
 }
 
 void LiveGame::tick() {
+  if (m_pending && m_time.seconds() - m_pending->since >= kLongestPending)
+    writePending();
   if (m_phase == Phase::Running && clockSeconds() == 0)
     stop();
 }
@@ -232,13 +268,18 @@ bool LiveGame::setPeriod(int period) {
 // none.
 void LiveGame::leavePeriod() {
   const auto events = m_log.lines().find(m_period);
-  if (hasTime() && events != m_log.lines().end() && !events->second.empty() &&
-      !isStop(events->second.back().second))
+  if (!hasTime() || events == m_log.lines().end())
+    return;
+  const PeriodLines& lines = events->second;
+  const auto last = std::find_if(lines.rbegin(), lines.rend(),
+                                 [](const auto& event) { return !event.second.starts_with('E'); });
+  if (last != lines.rend() && !isStop(last->second))
     recordStop();
 }
 
 void LiveGame::closePeriod() {
   const int points[2] = {state().points(0), state().points(1)};
+  m_lockedUntil = m_time.seconds() + kStartLock + 1; // of whole seconds the present one may be at its end
   m_endedPeriod = m_period;
   if (m_period >= game().details.periods) {
     m_phase = points[0] == points[1] ? Phase::OvertimeAsked : Phase::Decided;
@@ -256,6 +297,7 @@ bool LiveGame::returnToEndedPeriod() {
   m_period = m_endedPeriod;
   m_lengthOfPeriod = lengthOf(m_period);
   m_endedPeriod = 0;
+  m_lockedUntil = 0; // nobody comes here by reflex
   m_phase = Phase::Stopped;
   m_clock.set(0);
   return true;
@@ -299,88 +341,80 @@ void LiveGame::setTeamColour(int team, std::uint32_t colour) {
 
 // --- Players
 
-std::optional<int> LiveGame::slotOf(int team, int player) const {
-  for (int slot = team * kSlotsOfTeam; slot < (team + 1) * kSlotsOfTeam; ++slot) {
-    if (player > 0 && playerIn(slot) == player)
-      return slot;
-  }
-  return std::nullopt;
-}
-
-OnCourt LiveGame::onCourt() const {
-  OnCourt entries = {};
-  for (int slot = 0; slot < kSlots; ++slot) {
-    if (playerIn(slot) > 0)
-      entries[static_cast<std::size_t>(teamOf(slot))] |= 1U << static_cast<unsigned>(playerIn(slot));
-  }
-  return entries;
-}
-
-// The slots keep those who stay; those who come take the first free ones and stand in order afterwards.
-void LiveGame::putOnCourt(const OnCourt& lists) {
-  for (int team = 0; team < 2; ++team) {
-    const auto first = m_slots.begin() + team * kSlotsOfTeam;
-    const auto last = first + kSlotsOfTeam;
-    unsigned coming = lists[static_cast<std::size_t>(team)];
-    for (auto slot = first; slot != last; ++slot) {
-      const unsigned bit = *slot > 0 ? 1U << static_cast<unsigned>(*slot) : 0;
-      if ((coming & bit) == 0)
-        *slot = 0;
-      coming &= ~bit;
-    }
-    if (coming == 0)
-      continue;
-    auto free = first;
-    for (int player = 1; player <= Roster::kLargestEntry; ++player) {
-      if ((coming & (1U << static_cast<unsigned>(player))) == 0)
-        continue;
-      free = std::find(free, last, 0);
-      if (free == last)
-        break;
-      *free = player;
-    }
-    std::sort(first, last,
-              [](int left, int right) { return (left == 0 ? 99 : left) < (right == 0 ? 99 : right); });
-  }
-}
-
 bool LiveGame::toggleOnCourt(int team, int player) {
   if (game().roster[static_cast<std::size_t>(team)].player(player) == nullptr)
     return false;
   OnCourt wanted = onCourt();
   wanted[static_cast<std::size_t>(team)] ^= 1U << static_cast<unsigned>(player);
-  return setOnCourt(wanted);
+  return changeByClick(wanted);
 }
 
 bool LiveGame::takeAllOut(int team) {
   OnCourt wanted = onCourt();
   wanted[static_cast<std::size_t>(team)] = 0;
-  return setOnCourt(wanted);
+  return changeByClick(wanted);
+}
+
+bool LiveGame::mayStand(const OnCourt& wanted) const {
+  return canRecord() && std::popcount(wanted[0]) <= kMostOnCourt && std::popcount(wanted[1]) <= kMostOnCourt;
+}
+
+bool LiveGame::changeByClick(const OnCourt& wanted) {
+  if (m_phase != Phase::Running)
+    return setOnCourt(wanted);
+  if (!mayStand(wanted))
+    return false;
+  if (!m_pending)
+    m_pending = {onCourt(), clockSeconds(), m_time.seconds()};
+  putOnCourt(wanted);
+  return !isWhole(wanted) || writePending();
+}
+
+// In each team that changes five stand, or all who may: who has fouled out cannot come. What was clicked back
+// is whole, too.
+bool LiveGame::isWhole(const OnCourt& wanted) const {
+  for (int team = 0; team < 2; ++team) {
+    const auto side = static_cast<std::size_t>(team);
+    if (wanted[side] == m_pending->before[side])
+      continue;
+    int canPlay = 0;
+    for (int player = 1; player <= Roster::kLargestEntry; ++player)
+      canPlay += game().roster[side].player(player) != nullptr && !isFouledOut(team, player) ? 1 : 0;
+    if (std::popcount(wanted[side]) < std::min(kMostOnCourt, canPlay))
+      return false;
+  }
+  return true;
+}
+
+bool LiveGame::writePending() {
+  if (!m_pending)
+    return true;
+  const Pending pending = *std::exchange(m_pending, std::nullopt);
+  return onCourt() == pending.before || recordOnCourt(pending.clockSeconds);
 }
 
 bool LiveGame::setOnCourt(const OnCourt& wanted) {
-  if (!canRecord() || std::popcount(wanted[0]) > kMostOnCourt || std::popcount(wanted[1]) > kMostOnCourt)
+  if (!mayStand(wanted))
     return false;
-  const OnCourt before = onCourt();
-  if (wanted == before)
-    return true;
-  const auto slots = m_slots;
+  if (wanted == onCourt())
+    return writePending();
+  const CourtSlots slots = m_slots;
   putOnCourt(wanted);
-  if (recordOnCourt())
+  if (m_pending ? writePending() : recordOnCourt(clockSeconds()))
     return true;
   m_slots = slots;
   return false;
 }
 
-// A substitution at the same clock, with nothing recorded since but the start of the clock that belongs to
-// it: what follows at once is part of it. A stop is none (its lists equal those before), nor is the game's
-// first event.
-const std::pair<std::string, std::string>* LiveGame::openSubstitution() const {
+// A substitution at that clock, with nothing recorded since but the start of the clock that belongs to it:
+// what follows at once is part of it. A stop is none (its lists equal those before), nor is the game's first
+// event.
+const std::pair<std::string, std::string>* LiveGame::openSubstitution(int clockSeconds) const {
   const auto found = m_log.lines().find(m_period);
   if (found == m_log.lines().end() || found->second.empty())
     return nullptr;
   const PeriodLines& lines = found->second;
-  const std::string clock = Module1::clockText(clockSeconds());
+  const std::string clock = Module1::clockText(clockSeconds);
   std::size_t last = lines.size() - 1;
   if (m_phase == Phase::Running) {
     if (lines[last].second != clock + startText() || last == 0)
@@ -395,16 +429,17 @@ const std::pair<std::string, std::string>* LiveGame::openSubstitution() const {
   return &lines[last];
 }
 
-bool LiveGame::recordOnCourt() {
-  const std::string line = lineOf(stopText(onCourt(), m_log.rosters()));
-  if (const auto* open = openSubstitution()) {
+bool LiveGame::recordOnCourt(int clockSeconds) {
+  if (const auto* open = openSubstitution(clockSeconds)) {
     const std::pair<std::string, std::string> old = *open;
-    return done(kSubstitution, {replacement(m_period, old.first, line)},
+    return done(kSubstitution,
+                {replacement(m_period, old.first, withLists(old.second, onCourt(), m_log.rosters()))},
                 {replacement(m_period, old.first, old.second)});
   }
-  std::vector<EventChange> steps = {added(line)};
+  const std::string clock = Module1::clockText(clockSeconds);
+  std::vector<EventChange> steps = {added(clock + stopText(onCourt(), m_log.rosters()))};
   if (m_phase == Phase::Running)
-    steps.push_back(added(lineOf(startText())));
+    steps.push_back(added(clock + startText()));
   return done(kSubstitution, steps, deletionOf(steps));
 }
 
@@ -421,6 +456,7 @@ bool LiveGame::done(int text, const std::vector<EventChange>& steps, std::vector
 bool LiveGame::record(const std::string& eventText, int text) {
   if (!canRecord())
     return false;
+  writePending();
   const std::vector<EventChange> steps = {added(lineOf(eventText))};
   if (!done(text, steps, deletionOf(steps)))
     return false;
@@ -449,6 +485,7 @@ bool LiveGame::recordAction(int team, int player, EventCode kind) {
 }
 
 bool LiveGame::recordFollowUp(int team, int player, EventCode kind) {
+  writePending(); // before a number is given to what follows
   if (m_lastShot.period == m_period)
     return recordAction(team, player, kind);
   const std::string* shot = findLine(m_log.lines(), m_lastShot.period, m_lastShot.key);
@@ -532,6 +569,7 @@ bool LiveGame::take(const EditPlan& plan) {
   m_conflict = plan.conflict;
   if (!canRecord() || !plan.isPossible)
     return false;
+  writePending();
   for (const EventChange& step : plan.steps) {
     if (step.kind == EventChange::Kind::Add)
       (void)m_log.takeKey(); // which the plan has named
@@ -598,7 +636,65 @@ void LiveGame::offerEarlier() {
   }
 }
 
+std::optional<LiveAction> LiveGame::toUndo() const {
+  if (auto start = startToTakeBack())
+    return start;
+  return m_history.toUndo() == nullptr ? std::nullopt : std::optional(*m_history.toUndo());
+}
+
+// Looked for in the lines, from the end: stops, and the start that is to go. What ended its period stays, and
+// what was done after it is taken back before it.
+std::optional<LiveAction> LiveGame::startToTakeBack() const {
+  const auto found = m_log.lines().find(m_period);
+  if (found == m_log.lines().end() || !canRecord())
+    return std::nullopt;
+  const PeriodLines& lines = found->second;
+  LiveAction action{.nextNumber = m_log.nextNumber()};
+  for (std::size_t line = lines.size(); line > 0; --line) {
+    const auto& [key, text] = lines[line - 1];
+    const GameEvent event = GameEvent::parse(m_period, key, text);
+    if (!event.isUnderstood || event.isDeleted)
+      continue;
+    if (action.start) { // this is the event before the start, which may be the half of a substitution
+      const EventPlace place{m_period, key};
+      if (startOfSubstitution(m_log.lines(), place, m_log.rosters()) == action.event)
+        return std::nullopt;
+      break;
+    }
+    const bool isStart = event.code == EventCode::DEPART && m_starts.contains(event.number) &&
+                         (m_history.toUndo() == nullptr || m_history.toUndo()->nextNumber <= event.number);
+    const bool isPause = event.code == EventCode::ARRET && event.clockSeconds > 0 &&
+                         !isSubstitution(m_log.lines(), m_period, key, m_log.rosters());
+    if (!isPause && !isStart)
+      return std::nullopt;
+    action.steps.insert(action.steps.begin(), replacement(m_period, key, withDeletion(text, true)));
+    if (!isStart)
+      continue;
+    action.event = {m_period, key};
+    action.start = LiveAction::Start{.clock = {}, .endedPeriod = m_starts.at(event.number)};
+    action.start->clock.set(event.clockSeconds);
+  }
+  return action.start ? std::optional(std::move(action)) : std::nullopt;
+}
+
+// Doing it again lets the clock go on as if it had never been taken back.
+bool LiveGame::takeStartBack(LiveAction action) {
+  std::vector<EventChange> inverse;
+  if (!turn(action, inverse))
+    return false;
+  const LiveAction::Start before = std::exchange(*action.start, LiveAction::Start{m_clock, 0});
+  m_clock = before.clock;
+  m_endedPeriod = before.endedPeriod;
+  m_phase = Phase::Stopped;
+  action.steps = std::move(inverse);
+  m_history.addUndone(std::move(action));
+  return true;
+}
+
 bool LiveGame::undo() {
+  writePending();
+  if (auto start = startToTakeBack())
+    return takeStartBack(std::move(*start));
   std::vector<EventChange> inverse;
   if (m_history.toUndo() == nullptr || !turn(*m_history.toUndo(), inverse))
     return false;
@@ -608,10 +704,53 @@ bool LiveGame::undo() {
 }
 
 bool LiveGame::redo() {
+  writePending();
   std::vector<EventChange> inverse;
   if (m_history.toRedo() == nullptr || !turn(*m_history.toRedo(), inverse))
     return false;
-  m_history.redone(std::move(inverse), m_log.nextNumber());
+  if (const auto start = m_history.toRedo()->start) {
+    m_clock = start->clock;
+    m_endedPeriod = start->endedPeriod;
+    m_phase = m_clock.isRunning() ? Phase::Running : Phase::Stopped;
+    m_history.dropUndone();
+  } else {
+    m_history.redone(std::move(inverse), m_log.nextNumber());
+  }
+  return true;
+}
+
+// --- To be looked at again
+
+std::optional<EventPlace> LiveGame::lastRecorded() const {
+  const auto events = game().events.events();
+  for (auto event = events.rbegin(); event != events.rend(); ++event) {
+    EventPlace place{event->period, std::string(event->key)};
+    if (event->isUnderstood && !event->isDeleted &&
+        (!event->isClock() || isSubstitution(m_log.lines(), place.period, place.key, m_log.rosters())))
+      return place;
+  }
+  return std::nullopt;
+}
+
+bool LiveGame::setDoubtful(const EventPlace& event, bool isDoubtful) {
+  const std::string* line = findLine(m_log.lines(), event.period, event.key);
+  if (line == nullptr || !canRecord())
+    return false;
+  const std::string marked = withDoubt(*line, isDoubtful);
+  return marked != *line && take({.text = kDoubt,
+                                  .isPossible = true,
+                                  .steps = {replacement(event.period, event.key, marked)},
+                                  .back = {replacement(event.period, event.key, *line)}});
+}
+
+bool LiveGame::acceptFinding(const EventPlace& event, int finding) {
+  const int number = Module1::wholeNumber(event.key);
+  if (!canRecord() || number <= 0)
+    return false;
+  const auto known = game().accepted.find(number);
+  std::vector<int> findings = known == game().accepted.end() ? std::vector<int>() : known->second;
+  findings.push_back(finding);
+  m_log.accept(number, findings);
   return true;
 }
 

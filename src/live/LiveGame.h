@@ -3,6 +3,7 @@
 // be, when the call returns. Decides for the live window and knows none.
 #pragma once
 
+#include "live/CourtSlots.h"
 #include "live/GameClock.h"
 #include "live/GameEditing.h"
 #include "live/LiveHistory.h"
@@ -10,6 +11,7 @@
 #include "live/TimeSource.h"
 
 #include <array>
+#include <map>
 #include <optional>
 #include <span>
 #include <string>
@@ -19,8 +21,8 @@ namespace hooptab {
 
 class LiveGame {
  public:
-  static constexpr int kSlots = 10; // 0..4 of team 0, 5..9 of team 1
-  static constexpr int kSlotsOfTeam = 5;
+  static constexpr int kSlots = CourtSlots::kSlots;
+  static constexpr int kSlotsOfTeam = CourtSlots::kSlotsOfTeam;
 
   // Both must outlive it.
   LiveGame(cinifile& store, TimeSource& time);
@@ -61,8 +63,16 @@ class LiveGame {
   void toggleClock();
   void start();
   void stop();
+  // Seconds for which nobody can start the clock, because a period has just ended: who reacts to the horn
+  // with the key that stops would start the next one.
+  int startLock() const;
   // To be called once a second or more often while the clock runs; stops at 00:00.
   void tick();
+  // Stops, and notes in the game that its window was closed in mid-play; `now` is the wall clock, in seconds
+  // since 1970.
+  void stopForClosing(std::int64_t now);
+  // The same, as it was left: that stop is still the last event.
+  bool wasClosedInPlay() const;
   // The clock stands, but the events say that it runs: the game was left without a stop. The next start puts
   // it in, at the clock shown; so does settleStop(), at that clock.
   bool isStopLost() const;
@@ -73,6 +83,7 @@ class LiveGame {
   bool setPeriod(int period);
   // After the buzzer, until START: back into the period that has ended, with its clock at 00:00.
   bool canReturnToEndedPeriod() const { return m_endedPeriod > 0; }
+  int endedPeriod() const { return m_endedPeriod; } // the one that has ended; 0: none, since the last start
   bool returnToEndedPeriod();
   // From OvertimeAsked; 1 to 99 minutes.
   bool beginOvertime(int minutes, bool keepsFouls);
@@ -82,15 +93,26 @@ class LiveGame {
   void setTeamColour(int team, std::uint32_t colour); // as files keep colours
 
   // --- Players
-  static int teamOf(int slot) { return slot >= kSlotsOfTeam ? 1 : 0; }
-  int playerIn(int slot) const { return m_slots[static_cast<std::size_t>(slot)]; } // 0: nobody
-  std::optional<int> slotOf(int team, int player) const;
-  // IN or OUT by one click. False: no such player, five are on court, or nothing can be recorded.
+  static int teamOf(int slot) { return CourtSlots::teamOf(slot); }
+  int playerIn(int slot) const { return m_slots.playerIn(slot); } // 0: nobody
+  std::optional<int> slotOf(int team, int player) const { return m_slots.slotOf(team, player); }
+  // IN or OUT by one click. False: no such player, five are on court, or nothing can be recorded. While the
+  // clock runs, what leaves fewer on court than could play is pending.
   bool toggleOnCourt(int team, int player);
+  // A substitution of which only a part was clicked. It is on court here, and written with the clock of its
+  // first click when it is whole, before whatever is recorded next, or after some seconds.
+  struct Pending {
+    OnCourt before = {};
+    int clockSeconds = 0;
+    std::int64_t since = 0; // the time of its first click
+  };
+  static constexpr int kLongestPending = 20; // seconds
+  const std::optional<Pending>& pending() const { return m_pending; }
+  bool writePending();
   // Several at once, both teams as they shall stand; one event. More than five of a team is refused.
   bool setOnCourt(const OnCourt& onCourt);
   bool takeAllOut(int team);
-  OnCourt onCourt() const;
+  OnCourt onCourt() const { return m_slots.onCourt(); }
 
   // --- What is counted
   // Of a player on court or on the bench, who can be given a technical foul. The place in left-hand
@@ -101,6 +123,7 @@ class LiveGame {
   bool recordAction(int team, int player, EventCode kind);
   // The assist or rebound of the shot that was recorded last: behind it when its period has ended since.
   bool recordFollowUp(int team, int player, EventCode kind);
+  const EventPlace& lastShot() const { return m_lastShot; } // that was recorded here; period 0: none
   // What such a shot asks for; the players who can be chosen, as slots.
   struct FollowUps {
     std::vector<int> assist;           // of the shooter's team, without him
@@ -118,7 +141,9 @@ class LiveGame {
   bool isFouledOut(int team, int player) const;
 
   // --- Taking back
-  const LiveAction* toUndo() const { return m_history.toUndo(); }
+  // A start of the clock in this session, with nothing but events of the clock behind it and its period not
+  // at its end, comes before all else.
+  std::optional<LiveAction> toUndo() const;
   const LiveAction* toRedo() const { return m_history.toRedo(); }
   bool undo();
   bool redo();
@@ -148,6 +173,11 @@ class LiveGame {
   bool insertSubstitution(const EventPlace& at, Where where, const OnCourt& out, const OnCourt& in) {
     return take(editing().substitution(at, where, out, in));
   }
+  // To be looked at again. Of what is recorded, not of the clock's own events.
+  [[nodiscard]] std::optional<EventPlace> lastRecorded() const;
+  bool setDoubtful(const EventPlace& event, bool isDoubtful);
+  // A finding that is right as it is, by the number of its text, until the event is changed.
+  bool acceptFinding(const EventPlace& event, int finding);
   // Of the last plan that was refused.
   const std::optional<CourtConflict>& conflict() const { return m_conflict; }
 
@@ -161,10 +191,15 @@ class LiveGame {
   void leavePeriod();
   void closePeriod();
   void showAsLeft();
-  void putOnCourt(const OnCourt& onCourt);
-  bool recordOnCourt();
+  void putOnCourt(const OnCourt& lists) { m_slots.put(lists); }
+  bool mayStand(const OnCourt& wanted) const;
+  bool changeByClick(const OnCourt& wanted);
+  bool isWhole(const OnCourt& wanted) const;
+  bool recordOnCourt(int clockSeconds);
   bool done(int text, const std::vector<EventChange>& steps, std::vector<EventChange> back);
-  [[nodiscard]] const std::pair<std::string, std::string>* openSubstitution() const;
+  [[nodiscard]] const std::pair<std::string, std::string>* openSubstitution(int clockSeconds) const;
+  [[nodiscard]] std::optional<LiveAction> startToTakeBack() const;
+  bool takeStartBack(LiveAction start);
   void decideAgain();
   void offerEarlier();
   bool turn(const LiveAction& action, std::vector<EventChange>& inverse);
@@ -175,11 +210,15 @@ class LiveGame {
   GameClock m_clock;
   LiveHistory m_history;
   std::optional<CourtConflict> m_conflict;
-  std::array<int, kSlots> m_slots = {};
+  CourtSlots m_slots;
+  std::optional<Pending> m_pending;
   Phase m_phase = Phase::Stopped;
   int m_period = 1;
   bool m_wasLeftRunning = false; // when it was opened; until the clock is started or the stop put in
   int m_endedPeriod = 0;
+  std::int64_t m_lockedUntil = 0; // no start before
+  std::map<int, int>
+      m_starts;             // of this session: the event's number, and the period to which one could return
   EventPlace m_lastShot;    // of this session
   int m_lengthOfPeriod = 0; // seconds; of an overtime its own
 };

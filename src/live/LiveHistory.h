@@ -3,8 +3,10 @@
 // again.
 #pragma once
 
+#include "live/GameClock.h"
 #include "live/OnCourt.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,6 +18,12 @@ struct LiveAction {
   EventPlace event = {};
   std::vector<EventChange> steps = {}; // that take it back; of one that was taken back, that do it again
   int nextNumber = 0; // of events when it was done: what has this number or a higher one came later
+  // Of a start of the clock that was taken back: how it went on, for doing it again as if nothing had been.
+  struct Start {
+    GameClock clock;
+    int endedPeriod = 0; // to which one could return before it
+  };
+  std::optional<Start> start = std::nullopt;
 };
 
 class LiveHistory {
@@ -24,6 +32,9 @@ class LiveHistory {
     m_done.push_back(std::move(action));
     m_undone.clear();
   }
+  // Taken back, though it was never added: a start of the clock is found in the lines alone.
+  void addUndone(LiveAction action) { m_undone.push_back(std::move(action)); }
+  void dropUndone() { m_undone.pop_back(); }
   // Of an earlier session, when nothing of this one is left to be taken back.
   void addEarlier(LiveAction action) { m_done.insert(m_done.begin(), std::move(action)); }
   void clear() {

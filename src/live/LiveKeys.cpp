@@ -7,12 +7,8 @@
 #include "live/QtKeys.h"
 #include "storage/Settings.h"
 
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTextEdit>
 
 namespace hooptab {
 
@@ -20,13 +16,6 @@ namespace {
 
 constexpr int kNotOnCourt = 1998;
 constexpr int kNothingRecorded = 1999;
-
-bool isTextField(const QWidget* widget) {
-  return qobject_cast<const QLineEdit*>(widget) != nullptr ||
-         qobject_cast<const QAbstractSpinBox*>(widget) != nullptr ||
-         qobject_cast<const QTextEdit*>(widget) != nullptr ||
-         qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
-}
 
 } // namespace
 
@@ -41,6 +30,7 @@ LiveKeys::LiveKeys(LiveGame& game, const Settings& settings, const Texts& texts,
       m_sinceAnswer.start();
   });
   qApp->installEventFilter(this);
+  qApp->installEventFilter(&followUp); // an open question sees its keys first
 }
 
 LiveKeys::~LiveKeys() {
@@ -80,13 +70,12 @@ std::optional<FollowUpKey> LiveKeys::followUpKey(const QKeyEvent& event) const {
   if (!m_settings.keypadIsActive || press.code == 0 || !m_input.owns(press))
     return std::nullopt;
   switch (m_input.meaningOf(press)) {
-  // Who types on goes on with the number: its last digit must not begin the next input.
-  case KeypadInput::Meaning::Digit:
-    return FollowUpKey{FollowUpKey::Kind::Digit, *m_input.digitOf(press), std::nullopt, true};
+  case KeypadInput::Meaning::Digit: return FollowUpKey{FollowUpKey::Kind::Digit, *m_input.digitOf(press)};
   case KeypadInput::Meaning::Confirm:
     return FollowUpKey{FollowUpKey::Kind::Take, 0, m_input.teamOf(press, m_game.game())};
   case KeypadInput::Meaning::Clear: return FollowUpKey{FollowUpKey::Kind::Clear};
   case KeypadInput::Meaning::Clock:
+    return FollowUpKey{press.code == keys::kEnter ? FollowUpKey::Kind::Take : FollowUpKey::Kind::Clock};
   case KeypadInput::Meaning::Other: return FollowUpKey{FollowUpKey::Kind::GoOn};
   case KeypadInput::Meaning::None: break;
   }

@@ -16,6 +16,7 @@ constexpr int kClockRan = 1847;
 constexpr int kPeriodOver = 1848;
 constexpr int kLastClock = 1849;
 constexpr int kRunOnClock = 1850;
+constexpr int kWasClosed = 2490;
 
 constexpr int kGap = 6;
 
@@ -27,14 +28,13 @@ LostStopStrip::LostStopStrip(const Texts& texts, QWidget* parent)
   setObjectName(QStringLiteral("picLOSTSTOP"));
   setAutoFillBackground(true);
   m_text->setObjectName(QStringLiteral("lblLOSTSTOP"));
-  auto* layout = new QHBoxLayout(this);
-  layout->setContentsMargins(kGap, 0, kGap, 0);
-  layout->setSpacing(kGap);
-  layout->addStretch(1);
+  m_text->setWordWrap(true);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kGap, kGap, kGap, kGap);
+  layout->setSpacing(kGap / 2);
   for (QWidget* part :
        {static_cast<QWidget*>(m_text), static_cast<QWidget*>(m_last), static_cast<QWidget*>(m_runOn)})
     layout->addWidget(part);
-  layout->addStretch(1);
   connect(m_last, &QPushButton::clicked, this, [this] { emit clockChosen(m_lost.lastClock); });
   connect(m_runOn, &QPushButton::clicked, this, [this] { emit clockChosen(*m_lost.runOnClock); });
 }
@@ -46,8 +46,9 @@ QPushButton* LostStopStrip::makeButton(const char* name) {
   return button;
 }
 
-void LostStopStrip::offer(const LostStop& lost) {
+void LostStopStrip::offer(const LostStop& lost, bool wasClosed) {
   m_lost = lost;
+  m_wasClosed = wasClosed;
   m_runOn->setVisible(lost.runOnClock.has_value());
   relabelPanel();
 }
@@ -56,7 +57,8 @@ void LostStopStrip::relabelPanel() {
   const auto clock = [this](int text, int seconds) {
     return toQt(m_texts.withPlaceholder(text, Module1::clockText(seconds)));
   };
-  m_text->setText(caption(m_texts, m_lost.isPeriodOver ? kPeriodOver : kClockRan));
+  const int ran = m_wasClosed ? kWasClosed : kClockRan;
+  m_text->setText(caption(m_texts, m_lost.isPeriodOver ? kPeriodOver : ran));
   m_last->setText(clock(kLastClock, m_lost.lastClock));
   m_runOn->setText(clock(kRunOnClock, m_lost.runOnClock.value_or(0)));
 }

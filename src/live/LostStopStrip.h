@@ -19,7 +19,8 @@ class LostStopStrip : public QWidget {
   // `texts` must outlive it.
   explicit LostStopStrip(const Texts& texts, QWidget* parent = nullptr);
 
-  void offer(const LostStop& lost);
+  // `wasClosed`: by closing the window, which has stopped it.
+  void offer(const LostStop& lost, bool wasClosed);
   void relabelPanel();
   void applyColours();
 
@@ -31,6 +32,7 @@ class LostStopStrip : public QWidget {
 
   const Texts& m_texts;
   LostStop m_lost;
+  bool m_wasClosed = false;
   QLabel* m_text;
   QPushButton* m_last;
   QPushButton* m_runOn;

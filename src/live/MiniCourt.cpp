@@ -66,6 +66,10 @@ QRectF MiniCourt::pictureRect() const {
   return CourtPicture::fitted(QRectF(rect()).adjusted(kEdge, kEdge, -kEdge, -kEdge), kTurn);
 }
 
+double MiniCourt::pixelsOfUnit() const {
+  return pictureRect().height() / court::kWidth;
+}
+
 std::optional<court::Place> MiniCourt::placeAt(const QPointF& position) const {
   const QRectF picture = pictureRect();
   if (!picture.adjusted(-kEdge, -kEdge, kEdge, kEdge).contains(position))

@@ -26,6 +26,7 @@ class MiniCourt : public QWidget {
   void setPlaysRight(bool playsRight);
   void setMarks(const std::vector<LivePanel::ShotMark>& shots);
   QSize sizeHint() const override;
+  [[nodiscard]] double pixelsOfUnit() const; // of the court
 
  signals:
   // In whole units of the picture as it is shown, turned round or not.

@@ -151,6 +151,7 @@ void PlayerPanel::makeShots() {
     }
     auto* const button = new StatButton(StatButton::Records::Shot, shortName(kind.code), names, m_content);
     button->setObjectName(named(controls.button));
+    button->setCountsOnce(kind.code != EventCode::GFT);
     setToolTipNumber(*button, controls.toolTip);
     setAccessibleNumber(*button, kind.wordsText);
     connect(button, &StatButton::recorded, this,

@@ -3,8 +3,12 @@
 #include "appearance/relabel.h"
 #include "live/KeyCodes.h"
 
+#include <QAbstractSpinBox>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
 
 #include <algorithm>
 
@@ -102,6 +106,13 @@ QString keyName(int code, const Texts& texts) {
   if (key.key == Qt::Key_unknown)
     return code == 0 ? QString() : QString::number(code);
   return QKeySequence(key.key).toString(QKeySequence::NativeText);
+}
+
+bool isTextField(const QWidget* widget) {
+  return qobject_cast<const QLineEdit*>(widget) != nullptr ||
+         qobject_cast<const QAbstractSpinBox*>(widget) != nullptr ||
+         qobject_cast<const QTextEdit*>(widget) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
 }
 
 } // namespace hooptab

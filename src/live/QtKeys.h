@@ -8,6 +8,7 @@
 #include <QtGlobal>
 
 class QKeyEvent;
+class QWidget;
 
 namespace hooptab {
 
@@ -22,5 +23,8 @@ struct QtKey {
 [[nodiscard]] QtKey qtKeyOf(int code);
 // What is printed on the key, in the language in use: "7", "+", "Enter". Empty for no key.
 [[nodiscard]] QString keyName(int code, const Texts& texts);
+
+// Where one types a text: keys belong there. Null is none.
+[[nodiscard]] bool isTextField(const QWidget* widget);
 
 } // namespace hooptab

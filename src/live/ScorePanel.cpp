@@ -8,6 +8,7 @@
 #include "live/SideSwitch.h"
 #include "storage/Module1.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QBoxLayout>
 #include <QGridLayout>
@@ -45,6 +46,9 @@ constexpr int kNotOnDiskHint = 1939;
 constexpr int kPlaysLeft = 1940;
 constexpr int kInBonus = 1943;
 constexpr int kPeriodByHand = 1944;
+constexpr int kRowsStay = 2494;
+constexpr int kLocked = 2495;
+constexpr int kRefusedShown = 700; // milliseconds
 
 constexpr int kLeastWidth = 250;
 constexpr int kGap = 3;
@@ -106,12 +110,22 @@ ScorePanel::ScorePanel(const Texts& texts, QWidget* parent) : QWidget(parent), m
   setObjectName(QStringLiteral("ScorePanel"));
   setMinimumWidth(kLeastWidth);
   auto* plates = new QWidget(this);
-  QBoxLayout* teams = rowIn(*plates);
+  m_plates = rowIn(*plates);
   m_switch = new SideSwitch(smallButton(QStringLiteral("cmdSWITCH"), {}, kSwitchSides), this);
   connect(m_switch, &SideSwitch::asked, this, &ScorePanel::switchAsked);
-  teams->addWidget(makePlate(0));
-  teams->addWidget(m_switch);
-  teams->addWidget(makePlate(1));
+  m_platesStay = new QAction(this);
+  m_platesStay->setObjectName(QStringLiteral("cmdROWSSTAY"));
+  m_platesStay->setCheckable(true);
+  setTextNumber(*m_platesStay, kRowsStay);
+  m_switch->addAction(m_platesStay);
+  m_switch->setContextMenuPolicy(Qt::ActionsContextMenu);
+  connect(m_platesStay, &QAction::triggered, this, &ScorePanel::platesStayAsked);
+  m_plates->addWidget(makePlate(0));
+  m_plates->addWidget(m_switch);
+  m_plates->addWidget(makePlate(1));
+  m_refused.setSingleShot(true);
+  m_refused.setInterval(kRefusedShown);
+  connect(&m_refused, &QTimer::timeout, this, &ScorePanel::showStart);
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -170,15 +184,15 @@ QWidget* ScorePanel::makePlate(int team) {
 
 QWidget* ScorePanel::makeFouls() {
   auto* fouls = new QWidget(this);
-  QBoxLayout* row = rowIn(*fouls);
+  m_fouls = rowIn(*fouls);
   for (std::size_t team = 0; team < 2; ++team) {
     m_sides[team].fouls = label(QStringLiteral("lblFTE%1").arg(team), Theme::figures(kFoulPoints));
-    row->addWidget(m_sides[team].fouls, 1);
+    m_fouls->addWidget(m_sides[team].fouls, 1);
   }
   QLabel* title = label(QStringLiteral("lblFTE"), font());
   title->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*title, kFouls);
-  row->insertWidget(1, title);
+  m_fouls->insertWidget(1, title);
   return fouls;
 }
 
@@ -263,32 +277,42 @@ QWidget* ScorePanel::makeButtons() {
 
 QWidget* ScorePanel::makeLeads() {
   auto* leads = new QWidget(this);
-  auto* layout = new QGridLayout(leads);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  layout->setHorizontalSpacing(kGap);
-  int place = 0;
-  for (const int state : {0, kTiedPlace, 1}) { // below the teams; the tie between them
-    QLabel* title = label(QStringLiteral("lblPOS(%1)").arg(state), font());
-    title->setForegroundRole(QPalette::PlaceholderText);
-    setTextNumber(*title, state == kTiedPlace ? kTied : kAhead);
+  m_leadGrid = new QGridLayout(leads);
+  m_leadGrid->setContentsMargins(0, 0, 0, 0);
+  m_leadGrid->setSpacing(0);
+  m_leadGrid->setHorizontalSpacing(kGap);
+  for (int state = 0; state < static_cast<int>(m_leads.size()); ++state) {
     Lead& lead = m_leads[static_cast<std::size_t>(state)];
+    lead.title = label(QStringLiteral("lblPOS(%1)").arg(state), font());
+    lead.title->setForegroundRole(QPalette::PlaceholderText);
+    setTextNumber(*lead.title, state == kTiedPlace ? kTied : kAhead);
     lead.time = label(QStringLiteral("txtPOSTemps(%1)").arg(state), Theme::figures(kLeadPoints, true));
     lead.times = label(QStringLiteral("txtPOSNb(%1)").arg(state), Theme::figures(kLeadPoints));
     lead.time->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     lead.times->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    layout->addWidget(title, 0, place, 1, 2);
-    layout->addWidget(lead.time, 1, place);
-    layout->addWidget(lead.times, 1, place + 1);
-    layout->setColumnStretch(place, 3);
-    layout->setColumnStretch(place + 1, 2);
-    layout->setColumnMinimumWidth(place, kLeastWidth / 6);
-    layout->setColumnMinimumWidth(place + 1, kLeastWidth / 8);
-    place += 2;
-    for (QWidget* part : {title, lead.time, lead.times})
+    for (QWidget* part : {lead.title, lead.time, lead.times})
       setToolTipNumber(*part, kTimeInLeadHint);
   }
+  for (int place = 0; place < 2 * static_cast<int>(m_leads.size()); place += 2) {
+    m_leadGrid->setColumnStretch(place, 3);
+    m_leadGrid->setColumnStretch(place + 1, 2);
+    m_leadGrid->setColumnMinimumWidth(place, kLeastWidth / 6);
+    m_leadGrid->setColumnMinimumWidth(place + 1, kLeastWidth / 8);
+  }
+  placeLeads();
   return leads;
+}
+
+// Below the teams; the tie between them.
+void ScorePanel::placeLeads() {
+  int place = 0;
+  for (const int state : {m_areTurned ? 1 : 0, kTiedPlace, m_areTurned ? 0 : 1}) {
+    const Lead& lead = m_leads[static_cast<std::size_t>(state)];
+    m_leadGrid->addWidget(lead.title, 0, place, 1, 2);
+    m_leadGrid->addWidget(lead.time, 1, place);
+    m_leadGrid->addWidget(lead.times, 1, place + 1);
+    place += 2;
+  }
 }
 
 QString ScorePanel::abbreviation(std::size_t team) const {
@@ -353,19 +377,14 @@ void ScorePanel::showClockButtons() {
   const Phase phase = m_game->phase();
   const bool isRunning = phase == Phase::Running;
   const bool canSet = phase == Phase::Stopped && m_game->hasTime();
-  const bool canStart = m_game->hasTime() && phase != Phase::Decided && m_game->canRecord();
-  m_start->setText(toQt(startShown(*m_game, m_texts)));
-  m_start->setEnabled(canStart);
-  if (canStart)
-    colour(*m_start, isRunning ? Theme::missed() : Theme::made());
-  else
-    m_start->setPalette(QPalette());
+  showStart();
   m_later->setEnabled(canSet && m_game->clockSeconds() < m_game->fullLength());
   m_earlier->setEnabled(canSet && m_game->clockSeconds() > 0);
   if (!canSet)
     leaveClock();
   const bool hasTime = m_game->hasTime();
-  tip(*m_start, hasTime ? kStartHint : kNoTime);
+  const bool isLocked = m_game->startLock() > 0 && !isRunning;
+  tip(*m_start, !hasTime ? kNoTime : isLocked ? kLocked : kStartHint);
   tip(*m_clock, hasTime ? kClockHint : kNoTime);
   tip(*m_later, hasTime ? kSecondMore : kNoTime);
   tip(*m_earlier, hasTime ? kSecondLess : kNoTime);
@@ -379,9 +398,47 @@ void ScorePanel::showClockButtons() {
   m_later->setVisible(!canReturn);
 }
 
-void ScorePanel::setSides(bool team0PlaysRight) {
+// Locked, it stays enabled: a press on it is told why nothing happens.
+void ScorePanel::showStart() {
+  using Phase = LiveGame::Phase;
+  if (m_game == nullptr)
+    return;
+  const Phase phase = m_game->phase();
+  const bool canStart = m_game->hasTime() && phase != Phase::Decided && m_game->canRecord();
+  const int lock = canStart && phase != Phase::Running ? m_game->startLock() : 0;
+  const QString words = toQt(startShown(*m_game, m_texts));
+  m_start->setText(lock > 0 ? QStringLiteral("%1  %2").arg(words).arg(lock) : words);
+  m_start->setEnabled(canStart);
+  if (m_refused.isActive())
+    colour(*m_start, Theme::accent());
+  else if (canStart && lock == 0)
+    colour(*m_start, phase == Phase::Running ? Theme::missed() : Theme::made());
+  else
+    m_start->setPalette(QPalette());
+}
+
+int ScorePanel::bottomOfClock() const {
+  return m_start->mapTo(this, m_start->rect().bottomLeft()).y();
+}
+
+void ScorePanel::showRefused() {
+  m_refused.start();
+  showStart();
+}
+
+void ScorePanel::setSides(bool team0PlaysRight, bool platesStay) {
   m_isHalfTimeOver = m_isHalfTimeOver || team0PlaysRight != m_team0PlaysRight;
   m_team0PlaysRight = team0PlaysRight;
+  m_platesStay->setChecked(platesStay);
+  if (const bool areTurned = team0PlaysRight && !platesStay; areTurned != m_areTurned) {
+    m_areTurned = areTurned;
+    const std::size_t left = areTurned ? 1 : 0;
+    m_plates->insertWidget(0, m_sides[left].plate);
+    m_plates->addWidget(m_sides[1 - left].plate);
+    m_fouls->insertWidget(0, m_sides[left].fouls, 1);
+    m_fouls->addWidget(m_sides[1 - left].fouls, 1);
+    placeLeads();
+  }
   showSides();
 }
 
@@ -450,8 +507,9 @@ bool ScorePanel::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   }
+  // Not with the left button: a click that goes astray opens no window.
   if (event->type() == QEvent::MouseButtonPress && m_game != nullptr &&
-      static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+      static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
     for (int team = 0; team < 2; ++team) {
       if (watched == m_sides[static_cast<std::size_t>(team)].plate)
         emit colourAsked(team);

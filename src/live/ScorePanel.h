@@ -6,11 +6,15 @@
 #include "storage/GameState.h"
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
 #include <cstddef>
 
+class QAction;
+class QBoxLayout;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -30,7 +34,10 @@ class ScorePanel : public QWidget {
   // The game last shown must live as long as the panel is used.
   void showGame(const LiveGame& game);
   void showTime(const LiveGame& game); // what the running clock changes
-  void setSides(bool team0PlaysRight);
+  // Where the plates stand with their teams, they change places.
+  void setSides(bool team0PlaysRight, bool platesStay);
+  int bottomOfClock() const; // of the clock's buttons, in the panel
+  void showRefused();        // a press on the clock's button or key that did nothing
   void showDisk(bool isOnDisk, std::size_t waiting);
   void relabelPanel(); // behind relabel()
   void applyColours();
@@ -42,6 +49,7 @@ class ScorePanel : public QWidget {
   void periodAsked(int period);
   void clockAsked(int seconds);
   void colourAsked(int team);
+  void platesStayAsked(bool stay);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -54,6 +62,7 @@ class ScorePanel : public QWidget {
     QLabel* fouls = nullptr;
   };
   struct Lead {
+    QLabel* title = nullptr;
     QLabel* time = nullptr;
     QLabel* times = nullptr;
   };
@@ -68,6 +77,8 @@ class ScorePanel : public QWidget {
   void showTeam(std::size_t team);
   void showClockButtons();
   void showSides();
+  void placeLeads();
+  void showStart();
   void editClock();
   void takeClock();
   void leaveClock();
@@ -78,6 +89,12 @@ class ScorePanel : public QWidget {
   const Texts& m_texts;
   const LiveGame* m_game = nullptr; // shown last
   bool m_team0PlaysRight = false;
+  bool m_areTurned = false; // team 0 stands on the right
+  QBoxLayout* m_plates = nullptr;
+  QBoxLayout* m_fouls = nullptr;
+  QGridLayout* m_leadGrid = nullptr;
+  QAction* m_platesStay = nullptr;
+  QTimer m_refused;
   bool m_isHalfTimeOver = false; // for the sides: they have been switched in it
   bool m_isOnDisk = true;
   std::size_t m_waiting = 0;

@@ -19,6 +19,7 @@ namespace {
 constexpr int kSelectedTip = 1952;
 constexpr int kNobodySelected = 1953;
 constexpr int kMoreTip = 1846;
+constexpr int kShotTip = 2497;
 
 constexpr int kGap = 2;
 constexpr int kNumberWidth = 40;
@@ -49,6 +50,7 @@ SelectedPlayer::SelectedPlayer(const Texts& texts, QWidget* parent)
   auto* actions = new QHBoxLayout(m_actions);
   actions->setContentsMargins(0, 0, 0, 0);
   actions->setSpacing(kGap);
+  actions->addWidget(makeShot());
   actions->addWidget(makeFoul("cmdSELPF", EventCode::SPF));
   actions->addWidget(makeFoul("cmdSELTF", EventCode::STF));
   m_menu = makeMenu();
@@ -72,6 +74,17 @@ QToolButton* SelectedPlayer::makeFoul(const char* name, EventCode kind) {
   setAccessibleNumber(*button, kindOf(kind)->wordsText);
   // On the press, like every button that records.
   connect(button, &QToolButton::pressed, this, [this, kind] { emit actionAsked(kind); });
+  return button;
+}
+
+// Of one of whom it was forgotten that he came in.
+QToolButton* SelectedPlayer::makeShot() {
+  QToolButton* button = makeButton("cmdSELSHOT");
+  button->setText(QStringLiteral("●✕"));
+  setToolTipNumber(*button, kShotTip);
+  setAccessibleNumber(*button, kShotTip);
+  connect(button, &QToolButton::clicked, this,
+          [this, button] { emit shotAsked(button->mapToGlobal(button->rect().bottomLeft())); });
   return button;
 }
 

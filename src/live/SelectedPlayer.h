@@ -27,10 +27,12 @@ class SelectedPlayer : public QWidget {
 
  signals:
   void actionAsked(hooptab::EventCode kind);
+  void shotAsked(const QPoint& place); // of the screen, where his court may come up
 
  private:
   QToolButton* makeButton(const char* name);
   QToolButton* makeFoul(const char* name, EventCode kind);
+  QToolButton* makeShot();
   QToolButton* makeMenu();
 
   const Texts& m_texts;

@@ -1,5 +1,5 @@
 // A button that records when it is pressed, not when it is let go: an action with the left button, a shot
-// made with the left and missed with any other. Two fast presses are two. Shows its counts on itself.
+// made with the left and missed with any other. Shows its counts on itself.
 #pragma once
 
 #include <QAbstractButton>
@@ -15,6 +15,10 @@ class StatButton : public QAbstractButton {
   enum class Records { Shot, Action };
   StatButton(Records records, const QString& caption, const QStringList& countNames,
              QWidget* parent = nullptr);
+
+  // A second press right behind the first is a slip of the finger; not so of free throws.
+  void setCountsOnce(bool countsOnce) { m_countsOnce = countsOnce; }
+  bool countsOnce() const { return m_countsOnce; }
 
   CountBox& counts() { return *m_counts; }
   void setColour(const QColor& colour); // the text on it is black or white
@@ -38,6 +42,7 @@ class StatButton : public QAbstractButton {
   QColor m_colour;
   QTimer m_feedback; // active for a moment behind a press
   bool m_wasMade = true;
+  bool m_countsOnce = true;
 };
 
 } // namespace hooptab

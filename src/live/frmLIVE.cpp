@@ -2,23 +2,28 @@
 
 #include "appearance/CourtClick.h"
 #include "appearance/Dialogs.h"
-#include "appearance/NoticeStrip.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/BenchPanel.h"
+#include "live/BenchShot.h"
 #include "live/EventRequests.h"
 #include "live/FollowUpBar.h"
 #include "live/ForeignWords.h"
+#include "live/HeldKeys.h"
 #include "live/JerseyButton.h"
 #include "live/LiveEventPanel.h"
 #include "live/LiveKeys.h"
-#include "live/LostStopStrip.h"
+#include "live/LiveNotices.h"
+#include "live/MessageLine.h"
+#include "live/PeriodEndCard.h"
 #include "live/PlayerPanel.h"
+#include "live/RepeatedPress.h"
 #include "live/ScorePanel.h"
 #include "live/frmGAMEOVER.h"
 #include "live/frmOVERTIME.h"
+#include "storage/EventWords.h"
 #include "storage/Module1.h"
 #include "storage/Settings.h"
 
@@ -31,6 +36,7 @@
 #include <QMimeData>
 #include <QShortcut>
 #include <chrono>
+#include <utility>
 
 namespace hooptab {
 
@@ -52,9 +58,24 @@ constexpr int kLeaveUnwritten = 1916;
 constexpr int kLeaveRescued = 2457;
 constexpr int kPeriodTooLong = 2380;
 constexpr int kCountOutOfRange = 1523;
+constexpr int kAnswerFirst = 2474;
+constexpr int kOnePress = 2498;
+constexpr int kMakeTwo = 2499;
+constexpr int kSecondPress = 2500;
+constexpr int kToggledTwice = 2501;
+constexpr int kLocked = 2495;
+constexpr int kStartTakenBack = 2502;
+constexpr int kWasNotOnCourt = 2503;
+constexpr int kPutIn = 2473;
+constexpr int kNowDoubtful = 2504;
+constexpr int kNoLongerDoubtful = 2505;
+constexpr int kCloseInPlay = 2506;
+constexpr int kGameOverInPlay = 2507;
+constexpr const char* kRowsStay = "rows-stay";
 
 constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
 constexpr auto kRetryInterval = 2s;
+constexpr auto kLockTick = 200ms;
 constexpr int kGap = 4;
 // The side column takes a share of a wide window, so that names and words are not cut there.
 constexpr int kLeastSide = 256;
@@ -75,13 +96,9 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   m_timer.setObjectName(QStringLiteral("Timer1"));
   m_timer.setInterval(kTick);
   m_retryOfWrites.setInterval(kRetryInterval);
-  m_banner = makeBanner("lblNOTONDISK");
-  m_banner->setWordWrap(true);
-  m_banner->setContentsMargins(2 * kGap, kGap, 2 * kGap, kGap);
-  m_readOnly = makeBanner("lblREADONLY");
-  m_foreign = new NoticeStrip("picFOREIGN", this);
-  m_lostStop = new LostStopStrip(m_texts, this);
-  m_lostStop->hide();
+  m_lock.setInterval(kLockTick);
+  m_sinceBegin.start();
+  m_readOnly = makeReadOnly();
 
   auto* parts = new QHBoxLayout;
   parts->setSpacing(kGap);
@@ -90,41 +107,53 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kGap, kGap, kGap, kGap);
   layout->setSpacing(kGap);
-  for (QWidget* strip : {static_cast<QWidget*>(m_readOnly), static_cast<QWidget*>(m_lostStop)})
-    layout->addWidget(strip);
+  layout->addWidget(m_readOnly);
   layout->addLayout(parts, 1);
-  m_notices = makeNotices();
+  m_card = new PeriodEndCard(m_texts, this);
+  m_notices = new LiveNotices(m_texts, this);
   m_followUp = new FollowUpBar(m_texts, this);
+  m_benchShot = new BenchShot(m_settings, m_texts, this);
+  // Each sees what comes from keyboard and mouse before those that were made before it.
   m_keys = new LiveKeys(m_game, m_settings, m_texts, *m_followUp, *m_bench, *this);
+  m_repeats = new RepeatedPress(*this);
+  new HeldKeys(this);
+  m_requests = new EventRequests(m_game, *m_events, m_settings, m_texts, m_dialogs, *this);
   connectEverything();
 }
 
 frmLIVE::~frmLIVE() = default;
 
-QLabel* frmLIVE::makeBanner(const char* name) {
-  auto* banner = new PlainLabel(this);
-  banner->setObjectName(QLatin1String(name));
-  banner->setAutoFillBackground(true);
-  banner->setAlignment(Qt::AlignCenter);
-  banner->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // no wider than the window, whoever's path
-  banner->hide();
-  return banner;
+QLabel* frmLIVE::makeReadOnly() {
+  auto* strip = new PlainLabel(this);
+  strip->setObjectName(QStringLiteral("lblREADONLY"));
+  strip->setAutoFillBackground(true);
+  strip->setAlignment(Qt::AlignCenter);
+  strip->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // no wider than the window, whoever's path
+  strip->hide();
+  return strip;
 }
 
 // The visitors' five above the home team's.
 QWidget* frmLIVE::makePanels() {
-  auto* panels = new QWidget(this);
-  auto* grid = new QGridLayout(panels);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setSpacing(kGap);
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
-    auto* panel = new PlayerPanel(slot, m_settings, m_texts, panels);
-    grid->addWidget(panel, LiveGame::teamOf(slot), slot % LiveGame::kSlotsOfTeam);
-    m_panels[static_cast<std::size_t>(slot)] = panel;
-  }
+  m_panelArea = new QWidget(this);
+  m_panelGrid = new QGridLayout(m_panelArea);
+  m_panelGrid->setContentsMargins(0, 0, 0, 0);
+  m_panelGrid->setSpacing(kGap);
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot)
+    m_panels[static_cast<std::size_t>(slot)] = new PlayerPanel(slot, m_settings, m_texts, m_panelArea);
   for (int column = 0; column < LiveGame::kSlotsOfTeam; ++column)
-    grid->setColumnStretch(column, 1);
-  return panels;
+    m_panelGrid->setColumnStretch(column, 1);
+  placeRows();
+  return m_panelArea;
+}
+
+// With the sides the rows change, too, unless whoever records has asked them to stay.
+void frmLIVE::placeRows() {
+  const bool areTurned = m_isSwitched && !m_rowsStay;
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
+    const int row = areTurned ? 1 - LiveGame::teamOf(slot) : LiveGame::teamOf(slot);
+    m_panelGrid->addWidget(m_panels[static_cast<std::size_t>(slot)], row, slot % LiveGame::kSlotsOfTeam);
+  }
 }
 
 QWidget* frmLIVE::makeSide() {
@@ -164,9 +193,11 @@ void frmLIVE::connectEverything() {
     m_game.setClock(seconds);
     showGame();
   });
-  connect(m_lostStop, &LostStopStrip::clockChosen, this, [this](int seconds) {
+  connect(m_notices, &LiveNotices::clockChosen, this, [this](int seconds) {
     const LiveGame::Phase before = m_game.phase();
-    m_game.settleStop(seconds);
+    m_offersClock = false;
+    if (!m_game.settleStop(seconds))
+      m_game.setClock(seconds); // it was stopped when the window was closed
     afterClock(before);
   });
   connect(m_score, &ScorePanel::colourAsked, this, &frmLIVE::chooseColour);
@@ -182,13 +213,70 @@ void frmLIVE::connectEverything() {
   connect(m_bench, &BenchPanel::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_bench, &BenchPanel::selected, this, &frmLIVE::showSelected);
   connect(m_bench, &BenchPanel::actionAsked, this, &frmLIVE::record);
-  connect(m_followUp, &FollowUpBar::assistChosen, this, [this](int slot) { followUp(slot, EventCode::SA); });
-  connect(m_followUp, &FollowUpBar::reboundChosen, this, [this](int slot, bool isOffensive) {
-    followUp(slot, isOffensive ? EventCode::SOR : EventCode::SDR);
+  connect(m_requests, &EventRequests::gameChanged, this, &frmLIVE::showGame);
+  connect(m_requests, &EventRequests::clockAsked, this, &frmLIVE::toggleClock);
+  connect(m_requests, &EventRequests::startTakenBack, this, [this] { say(kStartTakenBack); });
+  connect(m_score, &ScorePanel::platesStayAsked, this, [this](bool stay) {
+    m_rowsStay = stay;
+    showSides();
   });
-  auto* requests = new EventRequests(m_game, *m_events, m_settings, m_texts, m_dialogs, *this);
-  connect(requests, &EventRequests::gameChanged, this, &frmLIVE::showGame);
-  connect(requests, &EventRequests::clockAsked, this, &frmLIVE::toggleClock);
+  connect(&m_lock, &QTimer::timeout, this, [this] {
+    m_score->showGame(m_game);
+    m_card->showGame(m_game);
+    if (m_game.startLock() == 0)
+      m_lock.stop();
+  });
+  connectShots();
+  connectCard();
+  connectKeys();
+}
+
+void frmLIVE::connectShots() {
+  connect(m_followUp, &FollowUpBar::chosen, this, &frmLIVE::followUp);
+  connect(m_followUp, &FollowUpBar::pressIgnored, this, [this] { say(kSecondPress); });
+  connect(m_followUp, &FollowUpBar::closed, this, [this] {
+    if (m_afterQuestion)
+      std::exchange(m_afterQuestion, {})();
+  });
+  connect(m_repeats, &RepeatedPress::heldBack, this, [this] {
+    m_notices->message().offer(caption(m_texts, kOnePress), caption(m_texts, kMakeTwo),
+                               [this] { m_repeats->carryOut(); });
+  });
+  connect(m_bench, &BenchPanel::shotAsked, this, &frmLIVE::askBenchShot);
+  connect(m_benchShot, &BenchShot::shotPressed, this,
+          [this](EventCode kind, bool isMade) { shootFromBench(kind, isMade, std::nullopt); });
+  connect(m_benchShot, &BenchShot::courtPressed, this, [this](const QPointF& place, bool isMade) {
+    const auto click =
+        CourtClick::of({place.x(), place.y()}, playsRightOf(m_benchTeam), zoneMapOf(m_settings));
+    if (click)
+      shootFromBench(click->kind, isMade, std::pair(click->place.x, click->place.y));
+  });
+}
+
+void frmLIVE::connectCard() {
+  connect(m_card, &PeriodEndCard::nextAsked, this, [this] {
+    if (m_game.phase() == LiveGame::Phase::Decided)
+      gameOver();
+    else
+      toggleClock();
+  });
+  connect(m_card, &PeriodEndCard::eventsAsked, this, [this](int team) {
+    m_events->showOnly(team, m_game.endedPeriod());
+    m_card->hide();
+  });
+  connect(m_card, &PeriodEndCard::checkAsked, this, [this] {
+    m_card->hide();
+    m_events->leadToCheck();
+  });
+  connect(m_card, &PeriodEndCard::switchAsked, this, &frmLIVE::switchSides);
+  connect(m_card, &PeriodEndCard::substitutionAsked, this, [this] {
+    m_card->hide();
+    m_bench->askSeveral();
+  });
+  connect(m_card, &PeriodEndCard::closed, this, [this] { setFocus(); });
+}
+
+void frmLIVE::connectKeys() {
   connect(m_keys, &LiveKeys::clockPressed, this, &frmLIVE::toggleClock);
   connect(m_keys, &LiveKeys::recorded, this, [this](const KeypadOrder& order) {
     showGame();
@@ -204,32 +292,30 @@ void frmLIVE::connectEverything() {
     connect(shortcut, &QShortcut::activated, this, handler);
   };
   onKey(Qt::Key_Space, &frmLIVE::toggleClock);
-  onKey(Qt::Key_Escape, [this] { m_bench->clearSelection(); });
+  onKey(Qt::Key_Question, &frmLIVE::markDoubtful);
+  onKey(static_cast<Qt::Key>(MessageLine::kKey), [this] { m_notices->message().carryOut(); });
+  onKey(Qt::Key_Escape, [this] {
+    if (m_card->isVisible())
+      m_card->hide();
+    else
+      m_bench->clearSelection();
+  });
 }
 
 void frmLIVE::resizeEvent(QResizeEvent*) {
   m_side->setFixedWidth(std::clamp(static_cast<int>(width() * kSideShare), kLeastSide, kMostSide));
-  placeNotices();
+  placeOverlays();
 }
 
-// What comes while one records must not move what is being pressed: it lies over the oldest of the events.
-QWidget* frmLIVE::makeNotices() {
-  auto* notices = new QWidget(this);
-  auto* layout = new QVBoxLayout(notices);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(kGap);
-  layout->addWidget(m_banner);
-  layout->addWidget(m_foreign);
-  connect(m_foreign, &NoticeStrip::dismissed, this, &frmLIVE::placeNotices);
-  return notices;
-}
-
-void frmLIVE::placeNotices() {
-  m_notices->setVisible(!m_banner->isHidden() || !m_foreign->isHidden());
-  const int wide = m_side->width();
-  const int high = m_notices->layout()->heightForWidth(wide);
-  m_notices->setGeometry(width() - wide - kGap, height() - high - kGap, wide, high);
-  m_notices->raise();
+// What comes while one records must not move what is being pressed: notices lie over the oldest of the
+// events, the card of a period's end below the clock.
+void frmLIVE::placeOverlays() {
+  const int left = width() - m_side->width() - kGap;
+  m_notices->placeIn(QRect(left, kGap, m_side->width(), height() - 2 * kGap));
+  layout()->activate();
+  const int top = m_score->mapTo(this, QPoint(0, m_score->bottomOfClock())).y() + kGap;
+  m_card->setGeometry(left, top, m_side->width(),
+                      std::min(m_card->layout()->totalHeightForWidth(m_side->width()), height() - top));
 }
 
 frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
@@ -259,11 +345,18 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
       m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)),
                        toQt(m_texts.withPlaceholder(kOtherNames, m_hold->lock().game())));
   }
-  m_foreign->hide();
+  m_notices->forget();
+  m_card->hide();
+  m_endedPeriod = m_game.endedPeriod(); // an end of another day is no news
   m_isSwitched = false;
   m_followUp->dismiss();
   m_bench->clearSelection();
-  m_lostStop->offer(LostStop::of(m_game.clockSeconds(), fileTime, QDateTime::currentSecsSinceEpoch()));
+  const bool wasClosed = m_game.wasClosedInPlay();
+  m_offersClock = true; // where there is one to be chosen
+  m_notices->offerClock(LostStop::of(m_game.clockSeconds(),
+                                     wasClosed ? m_game.game().details.closedInPlay.time : fileTime,
+                                     QDateTime::currentSecsSinceEpoch()),
+                        wasClosed);
   m_keys->forget();
   relabelWindow();
   emit commandStateChanged();
@@ -293,7 +386,16 @@ void frmLIVE::showGame() {
   showSelected();
   m_events->showGame(m_game);
   showDisk();
-  m_lostStop->setVisible(m_game.isStopLost());
+  m_offersClock = m_offersClock && (m_game.isStopLost() || m_game.wasClosedInPlay());
+  m_notices->showLostStop(m_offersClock);
+  showPeriodEnd();
+  if (isRunning() != m_timer.isActive()) {
+    if (isRunning())
+      m_timer.start();
+    else
+      m_timer.stop();
+    emit commandStateChanged();
+  }
   const auto& details = m_game.game().details;
   setWindowTitle(asTitle(QStringLiteral("%1 - %2 %3 - %4 %5")
                              .arg(toQt(m_texts.text(kWindowTitle)), toQt(details.abbreviation[0]),
@@ -319,10 +421,9 @@ void frmLIVE::showDisk() {
   const std::string waiting = std::to_string(disk.waiting());
   m_score->showDisk(disk.isOnDisk(), disk.waiting());
   showReadOnly();
-  m_banner->setVisible(!disk.isOnDisk());
   if (disk.isOnDisk()) {
     m_retryOfWrites.stop();
-    return placeNotices();
+    return m_notices->showNotOnDisk({});
   }
   std::string words = m_texts.withPlaceholder(kNotOnDisk, waiting);
   if (disk.isLost())
@@ -330,8 +431,7 @@ void frmLIVE::showDisk() {
   else if (!disk.rescuedAs().empty())
     words = m_texts.withPlaceholder(kNotOnDiskButRescued, waiting);
   words = Module1::withPlaceholder(words, disk.rescuedAs(), "YYY");
-  m_banner->setText(toQt(words));
-  placeNotices();
+  m_notices->showNotOnDisk(toQt(words));
   if (!m_retryOfWrites.isActive())
     m_retryOfWrites.start();
 }
@@ -349,8 +449,7 @@ void frmLIVE::showReadOnly() {
 void frmLIVE::takeForeignHands() {
   const std::string words = foreignWords(m_game.takeForeignHands(), m_texts);
   if (!words.empty())
-    m_foreign->tell(toQt(words));
-  placeNotices();
+    m_notices->tellForeign(toQt(words));
 }
 
 // Also after this window's own writes: then it is as it was left, and nothing is shown anew.
@@ -371,31 +470,58 @@ void frmLIVE::lookAtFile() {
 // --- Clock
 
 void frmLIVE::toggleClock() {
+  if (!m_toggles.mayToggle(m_sinceBegin.elapsed()))
+    return refuseClock(kToggledTwice);
   const LiveGame::Phase before = m_game.phase();
+  if (before != LiveGame::Phase::Running && m_followUp->isOpen()) {
+    m_followUp->refuse(kAnswerFirst);
+    return m_score->showRefused();
+  }
+  if (before != LiveGame::Phase::Running && m_game.startLock() > 0)
+    return refuseClock(kLocked);
   if (before == LiveGame::Phase::OvertimeAsked)
     return askOvertime();
   m_game.toggleClock();
   afterClock(before);
 }
 
+void frmLIVE::refuseClock(int text) {
+  m_score->showRefused();
+  say(text);
+}
+
+void frmLIVE::say(int text) {
+  m_notices->message().say(caption(m_texts, text));
+}
+
 void frmLIVE::tick() {
   const LiveGame::Phase before = m_game.phase();
+  const bool wasPending = m_game.pending().has_value();
   m_game.tick();
-  if (m_game.phase() == before)
+  if (m_game.phase() == before && m_game.pending().has_value() == wasPending)
     showTime();
   else
     afterClock(before);
 }
 
 void frmLIVE::afterClock(LiveGame::Phase before) {
-  if (isRunning())
-    m_timer.start();
-  else
-    m_timer.stop();
+  if (m_game.phase() != before)
+    m_notices->message().withdraw(); // what it was about is over
   showGame();
-  emit commandStateChanged();
-  if (before != LiveGame::Phase::OvertimeAsked && m_game.phase() == LiveGame::Phase::OvertimeAsked)
-    askOvertime();
+}
+
+// The card comes with the end of a period, and goes when the next one begins.
+void frmLIVE::showPeriodEnd() {
+  const int ended = m_game.endedPeriod();
+  if (ended > 0 && ended != m_endedPeriod)
+    m_card->open(m_game);
+  m_endedPeriod = ended;
+  m_card->setToCheck(m_events->findings(), m_events->doubtful());
+  m_card->showGame(m_game);
+  if (m_card->isVisible())
+    placeOverlays();
+  if (m_game.startLock() > 0 && !m_lock.isActive())
+    m_lock.start();
 }
 
 void frmLIVE::askOvertime() {
@@ -409,10 +535,12 @@ void frmLIVE::askOvertime() {
 void frmLIVE::gameOver() {
   if (m_game.phase() == LiveGame::Phase::ReadOnly)
     return m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)), m_readOnly->toolTip());
-  const LiveGame::Phase before = m_game.phase();
-  m_game.stop();
-  if (before == LiveGame::Phase::Running)
-    afterClock(before);
+  if (isRunning()) {
+    if (!m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)), toQt(m_texts.text(kGameOverInPlay))))
+      return;
+    m_game.stop();
+    showGame();
+  }
   frmGAMEOVER window(m_game.game().details, m_texts, m_dialogs, this);
   window.exec();
   switch (window.choice()) {
@@ -434,37 +562,102 @@ void frmLIVE::pressCourt(int slot, const QPointF& place, bool isMade) {
 
 void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
   const int team = LiveGame::teamOf(slot);
-  if (!m_game.recordShot(team, m_game.playerIn(slot), kind, isMade, place))
+  const int player = m_game.playerIn(slot);
+  if (!m_game.recordShot(team, player, kind, isMade, place))
     return;
-  if (m_bench->isSelected(team, m_game.playerIn(slot)))
-    m_bench->clearSelection();
-  showGame();
-  afterShot(team, m_game.playerIn(slot), kind, isMade);
-}
-
-// Over the shooter's panel, or the first of his team for one who is not on court.
-void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
-  const auto followUps = m_game.followUps(team, player, kind, isMade, m_settings.asksRebounds);
-  const int slot = m_game.slotOf(team, player).value_or(team * LiveGame::kSlotsOfTeam);
-  PlayerPanel* panel = m_panels[static_cast<std::size_t>(slot)];
-  m_followUp->ask(m_game, followUps, team, QRect(panel->mapToGlobal(QPoint(0, 0)), panel->size()));
-}
-
-void frmLIVE::followUp(int slot, EventCode kind) {
-  m_game.recordFollowUp(LiveGame::teamOf(slot), m_game.playerIn(slot), kind);
-  showGame();
-}
-
-void frmLIVE::act(int slot, EventCode kind) {
-  record(LiveGame::teamOf(slot), m_game.playerIn(slot), kind);
-}
-
-// A player is selected for one action: a finger that slips onto the button twice gives no second foul.
-void frmLIVE::record(int team, int player, EventCode kind) {
-  m_game.recordAction(team, player, kind);
+  m_repeats->noteRecorded();
   if (m_bench->isSelected(team, player))
     m_bench->clearSelection();
   showGame();
+  afterShot(team, player, kind, isMade);
+}
+
+// Beside the shooter's panel. Of one who is not on court it was forgotten that he came in.
+void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
+  const auto followUps = m_game.followUps(team, player, kind, isMade, m_settings.asksRebounds);
+  const auto slot = m_game.slotOf(team, player);
+  const auto placeOf = [](const QWidget& widget) {
+    return QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size());
+  };
+  m_followUp->ask(m_game, followUps, team, player,
+                  slot ? placeOf(*m_panels[static_cast<std::size_t>(*slot)]) : QRect(),
+                  placeOf(*m_panelArea));
+  if (slot)
+    return;
+  const EventPlace shot = m_game.lastShot();
+  m_afterQuestion = [this, shot, team, player] { offerToPutIn(shot, team, player); };
+  if (!m_followUp->isOpen())
+    std::exchange(m_afterQuestion, {})();
+}
+
+void frmLIVE::offerToPutIn(const EventPlace& event, int team, int player) {
+  const auto side = static_cast<std::size_t>(team);
+  const RosterPlayer* who = m_game.game().roster[side].player(player);
+  if (who == nullptr)
+    return;
+  const std::string name = m_game.game().details.abbreviation[side] + " " + who->jersey + " " + who->name;
+  m_notices->message().offer(toQt(m_texts.withPlaceholder(kWasNotOnCourt, name)), caption(m_texts, kPutIn),
+                             [this, event, team, player] { m_requests->putIn(event, team, player); });
+}
+
+void frmLIVE::askBenchShot(int team, int player, const QPoint& place) {
+  const RosterPlayer* who = m_game.game().roster[static_cast<std::size_t>(team)].player(player);
+  if (who == nullptr || !m_game.canRecord())
+    return;
+  m_benchTeam = team;
+  m_benchPlayer = player;
+  m_benchShot->ask(toQt(who->jersey + " " + who->name), playsRightOf(team), place);
+}
+
+void frmLIVE::shootFromBench(EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
+  if (!m_game.recordShot(m_benchTeam, m_benchPlayer, kind, isMade, place))
+    return;
+  m_bench->clearSelection();
+  showGame();
+  afterShot(m_benchTeam, m_benchPlayer, kind, isMade);
+}
+
+void frmLIVE::followUp(const FollowUpQuestion::Answer& answer, EventCode kind) {
+  const EventPlace shot = m_game.lastShot();
+  if (!m_game.recordFollowUp(answer.team, answer.player, kind))
+    return;
+  showGame();
+  if (answer.comesIn)
+    m_requests->putIn(shot, answer.team, answer.player);
+  else if (!answer.isOnCourt)
+    offerToPutIn(shot, answer.team, answer.player);
+}
+
+void frmLIVE::act(int slot, EventCode kind) {
+  if (record(LiveGame::teamOf(slot), m_game.playerIn(slot), kind))
+    m_repeats->noteRecorded();
+}
+
+// A player is selected for one action: a finger that slips onto the button twice gives no second foul.
+bool frmLIVE::record(int team, int player, EventCode kind) {
+  const bool isRecorded = m_game.recordAction(team, player, kind);
+  if (m_bench->isSelected(team, player))
+    m_bench->clearSelection();
+  showGame();
+  return isRecorded;
+}
+
+// The last of what was recorded; once more, and it is in doubt no longer.
+void frmLIVE::markDoubtful() {
+  const auto last = m_game.lastRecorded();
+  if (!last)
+    return;
+  const auto events = m_game.game().events.events();
+  const auto event = std::ranges::find_if(
+      events, [&](const GameEvent& found) { return found.period == last->period && found.key == last->key; });
+  const bool isDoubtful = !event->isDoubtful;
+  const EventWords words(m_game.game(), m_texts);
+  const std::string name = words.shortWords(static_cast<std::size_t>(event - events.begin()));
+  if (!m_game.setDoubtful(*last, isDoubtful))
+    return;
+  showGame();
+  m_notices->message().say(
+      toQt(m_texts.withPlaceholder(isDoubtful ? kNowDoubtful : kNoLongerDoubtful, name)));
 }
 
 void frmLIVE::setOnCourt(const OnCourt& onCourt) {
@@ -488,9 +681,24 @@ void frmLIVE::keypadSwitched() {
 
 void frmLIVE::switchSides() {
   m_isSwitched = !m_isSwitched;
+  showSides();
+}
+
+void frmLIVE::showSides() {
+  placeRows();
   for (int slot = 0; slot < LiveGame::kSlots; ++slot)
     m_panels[static_cast<std::size_t>(slot)]->setPlaysRight(playsRight(slot));
-  m_score->setSides(m_isSwitched);
+  m_score->setSides(m_isSwitched, m_rowsStay);
+  m_bench->setTurned(m_isSwitched && !m_rowsStay);
+}
+
+QByteArray frmLIVE::arrangement() const {
+  return m_rowsStay ? QByteArray(kRowsStay) : QByteArray();
+}
+
+void frmLIVE::restoreArrangement(const QByteArray& arrangement) {
+  m_rowsStay = arrangement == kRowsStay;
+  showSides();
 }
 
 void frmLIVE::chooseColour(int team) {
@@ -509,14 +717,12 @@ void frmLIVE::chooseColour(int team) {
 
 void frmLIVE::relabelWindow() {
   relabel(*this, m_texts);
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
-    PlayerPanel* panel = m_panels[static_cast<std::size_t>(slot)];
+  for (PlayerPanel* panel : m_panels)
     panel->relabelPanel();
-    panel->setPlaysRight(playsRight(slot));
-  }
-  m_lostStop->relabelPanel();
+  m_notices->relabelNotices();
+  m_card->relabelCard();
   m_score->relabelPanel();
-  m_score->setSides(m_isSwitched);
+  showSides();
   m_bench->relabelPanel();
   m_events->relabelPanel();
   m_keys->relabelKeys();
@@ -525,12 +731,9 @@ void frmLIVE::relabelWindow() {
 }
 
 void frmLIVE::applyColours() {
-  QPalette palette = m_banner->palette();
-  palette.setColor(QPalette::Window, Theme::missed());
-  palette.setColor(QPalette::WindowText, textOn(Theme::missed()));
-  m_banner->setPalette(palette);
-  m_foreign->applyColours();
-  m_lostStop->applyColours();
+  m_notices->applyColours();
+  m_card->applyColours();
+  m_benchShot->applyColours();
   for (PlayerPanel* panel : m_panels)
     panel->applyColours();
   m_score->applyColours();
@@ -565,8 +768,11 @@ void frmLIVE::dropEvent(QDropEvent* event) {
 }
 
 bool frmLIVE::mayClose() {
-  if (isRunning())
-    toggleClock();
+  if (isRunning() &&
+      !m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)), toQt(m_texts.text(kCloseInPlay))))
+    return false;
+  m_game.stopForClosing(QDateTime::currentSecsSinceEpoch());
+  showGame();
   if (m_game.settle())
     return true;
   showDisk();

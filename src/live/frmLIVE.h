@@ -5,24 +5,32 @@
 #include "appearance/ChildWindow.h"
 #include "appearance/GameHold.h"
 #include "appearance/ZoneMap.h"
+#include "live/FollowUpQuestion.h"
 #include "live/LiveGame.h"
+#include "live/ToggleGuard.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <array>
+#include <functional>
 
+class QGridLayout;
 class QLabel;
 
 namespace hooptab {
 
 class BenchPanel;
+class BenchShot;
 class Dialogs;
+class EventRequests;
 class FollowUpBar;
 class LiveEventPanel;
 class LiveKeys;
-class LostStopStrip;
-class NoticeStrip;
+class LiveNotices;
+class PeriodEndCard;
 class PlayerPanel;
+class RepeatedPress;
 class ScorePanel;
 class Settings;
 class Texts;
@@ -59,7 +67,9 @@ class frmLIVE : public ChildWindow {
 
   void relabelWindow() override;
   void applyColours() override;
-  bool mayClose() override; // stops the clock first; asks when something is not on disk
+  bool mayClose() override; // asks while the clock runs, and when something is not on disk; stops the clock
+  QByteArray arrangement() const override;
+  void restoreArrangement(const QByteArray& arrangement) override;
 
  protected:
   // A player of the bench, dropped on a panel of his team: he comes for the one who stands there.
@@ -71,12 +81,16 @@ class frmLIVE : public ChildWindow {
   void commandStateChanged(); // the clock was started or stopped
 
  private:
-  QLabel* makeBanner(const char* name);
+  QLabel* makeReadOnly();
   QWidget* makePanels();
   QWidget* makeSide();
-  QWidget* makeNotices();
-  void placeNotices();
   void connectEverything();
+  void connectShots();
+  void connectCard();
+  void connectKeys();
+  void placeOverlays();
+  void placeRows();
+  void showSides();
   void showGame();
   void showSelected();
   void showTime();
@@ -86,18 +100,26 @@ class frmLIVE : public ChildWindow {
   void lookAtFile();
   void tick();
   void toggleClock();
+  void refuseClock(int text);
+  void say(int text);
   void setOnCourt(const OnCourt& onCourt);
   void afterClock(LiveGame::Phase before);
   void afterShot(int team, int player, EventCode kind, bool isMade);
+  void offerToPutIn(const EventPlace& event, int team, int player);
+  void askBenchShot(int team, int player, const QPoint& place);
+  void shootFromBench(EventCode kind, bool isMade, std::optional<std::pair<double, double>> place);
+  void markDoubtful();
+  void showPeriodEnd();
   void edit(bool (LiveGame::*step)());
   void askOvertime();
   void shoot(int slot, EventCode kind, bool isMade,
              std::optional<std::pair<double, double>> place = std::nullopt);
+  bool playsRightOf(int team) const { return (team == 1) != m_isSwitched; }
   void pressCourt(int slot, const QPointF& place, bool isMade);
   void act(int slot, EventCode kind);
-  void followUp(int slot, EventCode kind);
-  void record(int team, int player, EventCode kind);
-  bool playsRight(int slot) const { return (LiveGame::teamOf(slot) == 1) != m_isSwitched; }
+  void followUp(const FollowUpQuestion::Answer& answer, EventCode kind);
+  bool record(int team, int player, EventCode kind);
+  bool playsRight(int slot) const { return playsRightOf(LiveGame::teamOf(slot)); }
   void chooseColour(int team);
 
   cinifile& m_store;
@@ -108,15 +130,21 @@ class frmLIVE : public ChildWindow {
   GameFileProblem m_problem = GameFileProblem::None;
   GameHold* m_hold;
   bool m_isSwitched = false;
+  bool m_rowsStay = false; // of panels, plates and benches, where the sides are switched
+  int m_endedPeriod = 0;   // shown last
+  bool m_offersClock = false;
+  ToggleGuard m_toggles;
+  QElapsedTimer m_sinceBegin; // for m_toggles
+  std::function<void()> m_afterQuestion;
   QTimer m_timer; // Timer1
+  QTimer m_lock;  // while the clock cannot be started
   QTimer m_retryOfWrites;
   bool m_isHeldElsewhere = false;
 
-  QLabel* m_banner = nullptr;
   QLabel* m_readOnly = nullptr;
-  NoticeStrip* m_foreign = nullptr;
-  QWidget* m_notices = nullptr; // both of them that may come while one records
-  LostStopStrip* m_lostStop = nullptr;
+  LiveNotices* m_notices = nullptr;
+  QWidget* m_panelArea = nullptr;
+  QGridLayout* m_panelGrid = nullptr;
   std::array<PlayerPanel*, LiveGame::kSlots> m_panels = {};
   ScorePanel* m_score = nullptr;
   BenchPanel* m_bench = nullptr;
@@ -124,6 +152,12 @@ class frmLIVE : public ChildWindow {
   FollowUpBar* m_followUp = nullptr;
   QWidget* m_side = nullptr; // the column beside the panels
   LiveKeys* m_keys = nullptr;
+  RepeatedPress* m_repeats = nullptr;
+  EventRequests* m_requests = nullptr;
+  PeriodEndCard* m_card = nullptr;
+  BenchShot* m_benchShot = nullptr;
+  int m_benchTeam = 0; // whose shot m_benchShot asks for
+  int m_benchPlayer = 0;
 };
 
 } // namespace hooptab

@@ -195,10 +195,9 @@ class FollowUpTest : public BenchTest {
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     elsewhere.setFocus();
-    QObject::connect(&bar, &FollowUpBar::assistChosen,
-                     [this](int slot) { answers += "A" + std::to_string(slot); });
-    QObject::connect(&bar, &FollowUpBar::reboundChosen, [this](int slot, bool isOffensive) {
-      answers += (isOffensive ? "O" : "D") + std::to_string(slot);
+    QObject::connect(&bar, &FollowUpBar::chosen, [this](const FollowUpQuestion::Answer& who, EventCode code) {
+      answers += code == EventCode::SA ? "A" : code == EventCode::SOR ? "O" : "D";
+      answers += std::to_string(who.team) + std::to_string(who.player) + (who.comesIn ? "+" : "");
     });
     QObject::connect(&bar, &FollowUpBar::closed, [this] { answers += "."; });
     QObject::connect(&elsewhere, &QPushButton::pressed, [this] { answers += bar.isOpen() ? "!" : "b"; });
@@ -207,8 +206,15 @@ class FollowUpTest : public BenchTest {
       QObject::connect(shortcut, &QShortcut::activated, [this] { answers += bar.isOpen() ? "!" : "s"; });
     }
   }
-  void askAssist() { bar.ask(live, live.followUps(0, 1, EventCode::GFG, true, true), 0, {}); }
-  void askRebound() { bar.ask(live, live.followUps(1, 1, EventCode::GFG, false, true), 1, {}); }
+  void askAssist() { bar.ask(live, live.followUps(0, 1, EventCode::GFG, true, true), 0, 1, {}, room()); }
+  void askRebound() { bar.ask(live, live.followUps(1, 1, EventCode::GFG, false, true), 1, 1, {}, room()); }
+  QRect room() const { return {window.mapToGlobal(QPoint(0, 0)), window.size()}; }
+  // When it has been open for long enough.
+  static void pressLater(QWidget& widget) {
+    QTest::qWait(FollowUpBar::kDeafFor + 20);
+    press(widget);
+    QTest::qWait(FollowUpBar::kSecondPress); // so that the next press is none that slipped
+  }
   void type(std::initializer_list<Qt::Key> keys) {
     for (const Qt::Key key : keys)
       QTest::keyClick(&elsewhere, key);
@@ -221,47 +227,57 @@ class FollowUpTest : public BenchTest {
   std::string answers; // closed '.', A, O, D with the slot, then what happened elsewhere
 };
 
-TEST_F(FollowUpTest, IsAnsweredByAClick) {
+TEST_F(FollowUpTest, IsAnsweredByAClickThatIsMeant) {
   askAssist();
   const auto& assist = find<QWidget>(bar, "Assist");
   ASSERT_TRUE(assist.isVisible());
   EXPECT_EQ(jersey(assist, 0).text().toStdString(), "12") << "without the shooter";
+  press(jersey(assist, 3)); // the second press of a hand that has not seen it
+  EXPECT_EQ(taken(), "");
+  EXPECT_EQ(textOf(bar, "lblREASON"), "That was too soon after it opened: click again.");
+  QTest::qWait(FollowUpBar::kDeafFor + 20);
   press(jersey(assist, 3));
-  EXPECT_EQ(taken(), ".A4");
+  EXPECT_EQ(taken(), ".A05");
   EXPECT_FALSE(bar.isVisible());
+  elsewhere.move(bar.pos() + jersey(assist, 3).mapTo(&bar, jersey(assist, 3).rect().center()) -
+                 elsewhere.rect().center());
+  press(elsewhere);
+  EXPECT_EQ(taken(), "") << "a second press in the same place is none on what lies below";
+  press(elsewhere);
+  EXPECT_EQ(taken(), "b");
 
   askRebound();
   const auto& rebound = find<QWidget>(bar, "frmRebound");
   EXPECT_TRUE(rebound.isVisible() && !assist.isVisible());
   EXPECT_EQ(textOf(bar, "lblTYPEREBOND(0)"), "Off. Rebound Olives");
-  press(jersey(rebound, 1));
+  pressLater(jersey(rebound, 1));
   askRebound();
-  press(jersey(rebound, 5));
-  EXPECT_EQ(taken(), ".O6.D0");
-  askAssist();
-  press(find<QPushButton>(bar, "cmdNOASS"));
+  pressLater(jersey(rebound, 5));
+  EXPECT_EQ(taken(), ".O12.D01");
+  bar.ask(live, live.followUps(0, 6, EventCode::GFG, true, true), 0, 6, {}, room());
+  EXPECT_TRUE(jersey(assist, 4).isVisible()) << "of one who is not on court all five are offered";
+  pressLater(find<QPushButton>(bar, "cmdNOASS"));
   EXPECT_EQ(taken(), ".");
-  bar.ask(live, {}, 0, {});
+  bar.ask(live, {}, 0, 1, {}, room());
   EXPECT_FALSE(bar.isOpen()) << "nobody to choose";
 }
 
 TEST_F(FollowUpTest, IsAnsweredByTheJerseysNumber) {
   askAssist();
-  type({Qt::Key_4}); // 45 alone begins with it; the shortcut of the window stays quiet
-  EXPECT_EQ(taken(), ".A4");
+  type({Qt::Key_4, Qt::Key_5}); // the shortcut of the window stays quiet
+  EXPECT_EQ(taken(), ".A05");
   askAssist();
-  type({Qt::Key_3, Qt::Key_9, Qt::Key_Backspace});
-  EXPECT_EQ(taken(), "") << "30 or 31; 39 is nobody's, so that Backspace took the 3";
-  type({Qt::Key_1});
-  EXPECT_EQ(taken(), ".A1") << "12: the 1 is the shooter's own";
-  askRebound();
-  type({Qt::Key_1});
-  EXPECT_EQ(taken(), "") << "1 and 12 of both teams";
-  type({Qt::Key_2, Qt::Key_Enter});
-  EXPECT_EQ(taken(), ".D1") << "of two equal ones the defender";
+  type({Qt::Key_3, Qt::Key_9, Qt::Key_Return, Qt::Key_Backspace, Qt::Key_1});
+  EXPECT_EQ(taken(), ".A04") << "39 is nobody's, and stayed until it was taken back";
   askRebound();
   type({Qt::Key_1, Qt::Key_2, Qt::Key_Right, Qt::Key_Return});
-  EXPECT_EQ(taken(), ".O6");
+  EXPECT_EQ(taken(), ".O12");
+  askAssist();
+  type({Qt::Key_6, Qt::Key_Return});
+  EXPECT_EQ(taken(), "");
+  EXPECT_EQ(textOf(bar, "lblREASON"), "6 is on the bench: assist all the same, or put him in");
+  pressLater(find<QPushButton>(bar, "cmdCOMESIN"));
+  EXPECT_EQ(taken(), ".A06+");
   askRebound();
   type({Qt::Key_Escape});
   askRebound();
@@ -269,18 +285,18 @@ TEST_F(FollowUpTest, IsAnsweredByTheJerseysNumber) {
   EXPECT_EQ(taken(), "..");
 }
 
-TEST_F(FollowUpTest, AnythingElsewhereClosesItAndHappens) {
+TEST_F(FollowUpTest, AnythingElsewhereClosesItAndHappensButForTheClock) {
   askAssist();
   press(elsewhere);
   EXPECT_EQ(taken(), ".b");
   askAssist();
-  type({Qt::Key_Shift});
-  EXPECT_EQ(taken(), "");
-  type({Qt::Key_Space});
-  EXPECT_EQ(taken(), ".s");
-  type({Qt::Key_4, Qt::Key_Escape});
-  EXPECT_EQ(taken(), "ss") << "its keys are free again";
+  type({Qt::Key_Shift, Qt::Key_1, Qt::Key_Space});
+  EXPECT_EQ(taken(), "!") << "the clock's key goes to the clock, and the question stays";
+  EXPECT_EQ(textOf(find<QWidget>(bar, "Assist"), "lblTYPED"), "1_");
+  type({Qt::Key_Escape, Qt::Key_4, Qt::Key_Escape});
+  EXPECT_EQ(taken(), ".ss") << "its keys are free again";
   askAssist();
+  QTest::qWait(FollowUpBar::kDeafFor + 20);
   press(*bar.findChild<QLabel*>());
   EXPECT_TRUE(bar.isOpen()) << "a click between its buttons";
   askRebound(); // the next shot
@@ -289,10 +305,14 @@ TEST_F(FollowUpTest, AnythingElsewhereClosesItAndHappens) {
   EXPECT_EQ(taken(), ".");
 }
 
-TEST_F(FollowUpTest, StaysInsideTheWindow) {
-  bar.ask(live, live.followUps(0, 1, EventCode::GFG, false, true), 0,
-          QRect(window.mapToGlobal(QPoint(690, 490)), QSize(200, 300)));
-  EXPECT_TRUE(window.rect().contains(bar.geometry()));
+TEST_F(FollowUpTest, StandsBesideTheShooter) {
+  for (const int left : {0, 220, 480}) {
+    const QRect panel(window.mapToGlobal(QPoint(left, 10)), QSize(210, 300));
+    bar.ask(live, live.followUps(0, 1, EventCode::GFG, false, true), 0, 1, panel, room());
+    const QRect place(bar.mapToGlobal(QPoint(0, 0)), bar.size());
+    EXPECT_TRUE(window.rect().contains(bar.geometry())) << left;
+    EXPECT_FALSE(place.intersects(panel)) << left;
+  }
 }
 
 } // namespace

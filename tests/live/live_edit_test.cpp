@@ -180,13 +180,12 @@ TEST_F(LiveEditTest, ASubstitutionThatStopsHaveFollowedIsTakenBackThroughThem) {
   play();
   EXPECT_TRUE(live.insertSubstitution({1, "6"}, Where::Before, {1U << 1U, 0}, {1U << 6U, 0}));
   live.start();
-  pass(10);
-  live.stop(); // came later, and no action of the user
+  pass(540); // the stop came later, and is no action of the user
   EXPECT_TRUE(live.insertEvent({1, "4"}, Where::Before, 595, {EventCode::STO, false, 1, 1}));
   EXPECT_TRUE(live.undo());
   EXPECT_TRUE(live.undo());
-  EXPECT_EQ(lines().back(), "13=08:50,ARRET,IN-04-05-10-12-15,IN-04-05-10-12-15");
-  EXPECT_EQ(seconds(0, 1), 70);
+  EXPECT_EQ(lines().back(), "13=00:00,ARRET,IN-04-05-10-12-15,IN-04-05-10-12-15");
+  EXPECT_EQ(seconds(0, 1), 600);
   EXPECT_TRUE(live.redo());
   EXPECT_EQ(seconds(0, 1), 30);
 }

@@ -178,6 +178,7 @@ TEST_F(LeftGameTest, AnOvertimeKeepsItsLength) {
     time.now += 600;
     live->tick();
     ASSERT_TRUE(live->beginOvertime(minutes, false));
+    time.now += 4; // behind the horn
     live->start();
     time.now += 60;
     live->stop();

@@ -74,8 +74,10 @@ class Replay {
   }
 
   void start() {
-    if (live.phase() == LiveGame::Phase::Stopped && live.clockSeconds() > 0)
-      live.start();
+    if (live.phase() != LiveGame::Phase::Stopped || live.clockSeconds() == 0)
+      return;
+    m_time.now += live.startLock() + 1;
+    live.start();
   }
 
   void stop(const GameEvent& event) {

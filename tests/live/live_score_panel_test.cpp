@@ -111,8 +111,9 @@ TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
   EXPECT_EQ(clock.takeFirst().at(0), 301);
   EXPECT_EQ(clock.takeFirst().at(0), 299);
   press("cmdCOUL(1)");
-  press("lblPTS0");
-  QTest::mouseClick(find<QWidget>("pictTEAM(1)"), Qt::RightButton);
+  press("lblPTS0"); // a click that went astray
+  press("pictTEAM(1)");
+  QTest::mouseClick(find<QWidget>("pictTEAM(0)"), Qt::RightButton);
   ASSERT_EQ(colour.size(), 2);
   EXPECT_EQ(colour[0].at(0), 1);
   EXPECT_EQ(colour[1].at(0), 0);
@@ -132,7 +133,11 @@ TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
   EXPECT_EQ(sides.size(), 3);
   QTest::mouseClick(find<QWidget>("picSWITCH"), Qt::RightButton);
   EXPECT_EQ(sides.size(), 3);
-  panel.setSides(true);
+  panel.setSides(true, true);
+  EXPECT_LT(find<QWidget>("pictTEAM(0)")->x(), find<QWidget>("pictTEAM(1)")->x()) << "asked to stay";
+  panel.setSides(true, false);
+  QApplication::processEvents();
+  EXPECT_GT(find<QWidget>("pictTEAM(0)")->x(), find<QWidget>("pictTEAM(1)")->x());
   EXPECT_EQ(text("lblSWITCH"), QStringLiteral("◂OLY"));
   EXPECT_EQ(colourAt(0.75), visitors);
   EXPECT_TRUE(button("cmdCOUL(0)")->text().endsWith(right));
@@ -160,7 +165,7 @@ TEST_F(ScorePanelTest, OffersTheSidesAtHalfTime) {
   EXPECT_FALSE(offers()) << "after one of four";
   open("[PERIODE2]\n1=05:00,SPF,0-4\n2=00:00,ARRET,IN-,IN-\n");
   EXPECT_TRUE(offers());
-  panel.setSides(true);
+  panel.setSides(true, false);
   EXPECT_FALSE(offers());
   panel.showGame(live);
   EXPECT_FALSE(offers()) << "once";
@@ -170,6 +175,7 @@ TEST_F(ScorePanelTest, OffersTheSidesAtHalfTime) {
   live.start(); // the close once more
   panel.showGame(live);
   EXPECT_TRUE(offers());
+  time.now += 4;
   live.start();
   panel.showGame(live);
   EXPECT_FALSE(offers()) << "the second half has begun";

@@ -48,6 +48,7 @@ TEST_F(ScoreTextTest, SaysPeriodClockAndWhatTheButtonDoes) {
   EXPECT_EQ(shownByPeriod(live, 0, ByPeriod::Points, texts), "1: 0   2: 0   3: 0   4: 1   OT1: 0");
   texts.setLanguage(Language::French);
   EXPECT_EQ(shown(), "PROL.1 05:00 DÉPART");
+  time.now += 4; // behind the horn
   live.start();
   ASSERT_TRUE(live.recordShot(1, 1, EventCode::GFT, true));
   ASSERT_TRUE(live.recordAction(1, 1, EventCode::STF));

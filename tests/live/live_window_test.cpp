@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -91,6 +92,11 @@ class LiveWindowTest : public testing::Test {
     }
     FAIL() << "no such place";
   }
+  // When the clock's key or button is no second press any more.
+  void toggleClock() {
+    QTest::qWait(ToggleGuard::kAfterToggle + 10);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  }
   std::string label(const char* name) { return find<QLabel>(name).text().toStdString(); }
   // The events of a period on disk behind those that put the fives on court: clock and code.
   std::string events(int period = 1) { return eventsOf(path, period); }
@@ -121,12 +127,31 @@ class LiveWindowTest : public testing::Test {
 };
 
 TEST_F(LiveWindowTest, EveryPressCountsAndNoSlipDoes) {
-  press("cmdBUTF(0)");
-  QTest::mouseDClick(&find("cmdBUTF(0)"), Qt::LeftButton); // the second press of a double click
-  QTest::mouseRelease(&find("cmdBUTF(0)"), Qt::LeftButton);
+  // The display's clock, which a test moves on by half a second with each click, tells a double press.
+  const auto pressTwice = [this](const char* name) {
+    QWidget& button = find(name);
+    const QPointF place = button.rect().center();
+    static quint64 now = 1'000'000;
+    now += 10'000;
+    for (const quint64 moment : {now, now + 120}) {
+      QMouseEvent press(QEvent::MouseButtonPress, place, button.mapToGlobal(place), Qt::LeftButton,
+                        Qt::LeftButton, {});
+      press.setTimestamp(moment);
+      QApplication::sendEvent(&button, &press);
+    }
+  };
+  pressTwice("cmdBUTF(0)");
+  EXPECT_EQ(events(), "10:00,SPF,0-4");
+  EXPECT_EQ(label("lblSAID"), "Two presses at one spot: counted once.");
+  QTest::keyClick(window.get(), Qt::Key_F2);
   EXPECT_EQ(events(), "10:00,SPF,0-4 10:00,SPF,0-4");
+  pressTwice("cmdBUTFT(1)");
+  EXPECT_EQ(events(), "10:00,SPF,0-4 10:00,SPF,0-4 10:00,GFT,0-5 10:00,GFT,0-5") << "free throws";
+  pressTwice("cmdBUTLUG(5)");
+  EXPECT_TRUE(find("Assist").isVisible()) << "and the question of the first one stays";
+  QTest::keyClick(window.get(), Qt::Key_Escape);
   press("cmdBUTFT(1)", Qt::RightButton);
-  EXPECT_EQ(events(), "10:00,SPF,0-4 10:00,SPF,0-4 10:00,GFTA,0-5");
+  EXPECT_TRUE(events().ends_with(" 10:00,GFT,0-5 10:00,GLG,1-4 10:00,GFTA,0-5")) << events();
   const std::string before = events();
   press("cmdBUTF(0)", Qt::RightButton);
   for (const char* name : {"cmdBUTFT(0)", "CourtJ(0)", "cmdJERSEY(0)"}) { // both buttons at once
@@ -147,9 +172,14 @@ TEST_F(LiveWindowTest, GoingOnClosesAFollowUpAsNobodyAndHappens) {
   ASSERT_TRUE(find("Assist").isVisible());
   press("cmdBUTST(1)");
   EXPECT_FALSE(find("Assist").isVisible());
+  toggleClock();
   pressCourt("CourtJ(6)", false);
-  QTest::keyClick(window.get(), Qt::Key_Space);
-  EXPECT_TRUE(window->isRunning());
+  toggleClock();
+  EXPECT_FALSE(window->isRunning()) << "the whistle comes while one types";
+  EXPECT_TRUE(find("Assist").isVisible());
+  toggleClock();
+  EXPECT_FALSE(window->isRunning()) << "and nobody starts before he has answered";
+  EXPECT_EQ(label("lblREASON"), "Answer first (Esc: nobody); then the clock can start.");
   pressCourt("CourtJ(7)", false);
   pressCourt("CourtJ(8)", false); // the next shot, whose question is a new one
   EXPECT_TRUE(find("Assist").isVisible());
@@ -157,7 +187,7 @@ TEST_F(LiveWindowTest, GoingOnClosesAFollowUpAsNobodyAndHappens) {
   EXPECT_FALSE(find("Assist").isVisible());
   const std::string found = events();
   EXPECT_EQ(found.find(",SA"), std::string::npos) << found;
-  for (const char* event : {",SST,0-5 ", "1-5,", "10:00,DEPART ", "1-10,", "1-12,"})
+  for (const char* event : {",SST,0-5 ", "1-5,", "10:00,DEPART ", "10:00,ARRET ", "1-10,", "1-12,"})
     EXPECT_NE(found.find(event), std::string::npos) << event << " in " << found;
 }
 
@@ -167,20 +197,59 @@ TEST_F(LiveWindowTest, SpaceIsTheClocksOnceAPress) {
   ASSERT_TRUE(allOut.hasFocus());
   QTest::keyClick(&allOut, Qt::Key_Space);
   EXPECT_TRUE(window->isRunning());
+  QTest::keyClick(&allOut, Qt::Key_Space);
+  EXPECT_TRUE(window->isRunning()) << "a second press within a moment";
+  EXPECT_TRUE(find("lblSAID").isVisible());
   for (int repeat = 0; repeat < 3; ++repeat)
     QTest::simulateEvent(&allOut, true, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
   EXPECT_TRUE(window->isRunning());
   EXPECT_EQ(events(), "10:00,DEPART") << "and nobody has left the court";
   time.now += 7;
-  QTest::keyClick(&allOut, Qt::Key_Space);
+  toggleClock();
   EXPECT_EQ(events(), "10:00,DEPART 09:53,ARRET");
+  EXPECT_FALSE(find("lblSAID").isVisible());
 }
 
-TEST_F(LiveWindowTest, ClosingWhileTheClockRunsStopsItFirst) {
+TEST_F(LiveWindowTest, ClosingWhileTheClockRunsIsAskedAndStopsIt) {
   press("cmdSTART");
   time.now += 75;
+  dialogs.nextAnswer = false;
+  EXPECT_FALSE(window->close());
+  window->gameOver();
+  EXPECT_TRUE(window->isRunning());
+  EXPECT_EQ(dialogs.shown.size(), 2U);
+  dialogs.nextAnswer = true;
   EXPECT_TRUE(window->close());
   EXPECT_EQ(events(), "10:00,DEPART 08:45,ARRET");
+
+  // Half a minute later.
+  std::string text = folder.read("stick/A.GAM");
+  const std::size_t mark = text.find(' ', text.find("QUITTE="));
+  const std::size_t end = text.find('\r', mark);
+  text.replace(mark + 1, end - mark - 1, std::to_string(std::stoll(text.substr(mark + 1, end - mark)) - 30));
+  folder.write("stick/A.GAM", text);
+  window = std::make_unique<frmLIVE>(store, settings, texts, dialogs, time);
+  ASSERT_EQ(window->open(toQt(path)), frmLIVE::Opening::Opened);
+  show();
+  ASSERT_TRUE(find("picLOSTSTOP").isVisible());
+  press("cmdRUNONCLOCK");
+  const std::string clock = label("lblTEMPS");
+  EXPECT_TRUE(clock == "08:15" || clock == "08:14") << clock;
+  EXPECT_FALSE(find("picLOSTSTOP").isVisible());
+}
+
+TEST_F(LiveWindowTest, ABenchPlayersShotComesWithItsRepair) {
+  press(jerseyButtonName(5));
+  press("cmdSELSHOT");
+  ASSERT_TRUE(find("picBENCHSHOT").isVisible());
+  QTest::mouseClick(find("picBENCHSHOT").findChild<QWidget*>(QStringLiteral("cmdBUTDK")), Qt::LeftButton);
+  EXPECT_EQ(events(), "10:00,GDK,0-20");
+  EXPECT_FALSE(find("picBENCHSHOT").isVisible());
+  EXPECT_TRUE(find(QStringLiteral("cmdJERSEY(4)")).isVisible()) << "all five can have assisted";
+  QTest::keyClick(window.get(), Qt::Key_Escape);
+  EXPECT_TRUE(label("lblSAID").find("20 Fay was not on court") != std::string::npos) << label("lblSAID");
+  QTest::keyClick(window.get(), Qt::Key_F2);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return window->findChild<QWidget*>(QStringLiteral("frmSUBST")); }));
 }
 
 TEST_F(LiveWindowTest, AFolderThatIsGoneForAWhileLosesNothing) {
@@ -192,6 +261,7 @@ TEST_F(LiveWindowTest, AFolderThatIsGoneForAWhileLosesNothing) {
   }
   EXPECT_TRUE(find("lblNOTONDISK").isVisible());
   EXPECT_EQ(label("lblPF(0)"), "PF 1") << "input goes on";
+  toggleClock();
   dialogs.nextAnswer = false;
   EXPECT_FALSE(window->mayClose()) << "not without a question";
   EXPECT_EQ(dialogs.shown.back().kind, ScriptedDialogs::Kind::Ask);
@@ -229,7 +299,7 @@ TEST_F(LiveWindowTest, TheLanguageChangesWhileTheClockRuns) {
   EXPECT_EQ(label("lblNom"), "Fay");
   time.now += 3;
   press("cmdSELTF");
-  QTest::keyClick(window.get(), Qt::Key_Space);
+  toggleClock();
   EXPECT_EQ(events(), "10:00,DEPART 09:57,STF,0-20 09:57,ARRET");
   EXPECT_EQ(label("lblNO"), "") << "a player is selected for one action";
 }
@@ -239,7 +309,9 @@ TEST_F(LiveWindowTest, AnotherGameWaitsForTheFirst) {
   makeGame(other);
   press("cmdSTART");
   time.now += 20;
+  toggleClock();
   fs::rename(folder.path("stick"), folder.path("pulled"));
+  press("cmdBUTF(0)");
   press(jerseyButtonName(5));
   EXPECT_EQ(window->open(toQt(other)), frmLIVE::Opening::Refused) << "the user has not given the rest up";
   EXPECT_EQ(window->path(), toQt(path));
@@ -248,7 +320,7 @@ TEST_F(LiveWindowTest, AnotherGameWaitsForTheFirst) {
   press("cmdSWITCH");
   ASSERT_NE(find<QToolButton>("cmdCOUL(0)").text(), sides);
   ASSERT_EQ(window->open(toQt(other)), frmLIVE::Opening::Opened);
-  EXPECT_EQ(events(), "10:00,DEPART 09:40,ARRET");
+  EXPECT_EQ(events(), "10:00,DEPART 09:40,ARRET 09:40,SPF,0-4");
   EXPECT_FALSE(folder.holds("stick/A.GAM.lock"));
   EXPECT_TRUE(folder.holds("B.GAM.lock"));
   EXPECT_EQ(label("lblNO"), "");
@@ -468,14 +540,30 @@ TEST_F(LiveWindowTest, FreeThrowsAfterTheBuzzerGoToTheEndedPeriod) {
   press("cmdSTART");
   time.now += 600;
   ASSERT_TRUE(QTest::qWaitFor([this] { return label("lblPERIOD") == "2"; }));
+  ASSERT_TRUE(find("picPERIODEND").isVisible());
+  find<QLineEdit>("txtSCORE(0)").setText(QStringLiteral("0"));
+  find<QLineEdit>("txtSCORE(1)").setText(QStringLiteral("2"));
+  EXPECT_EQ(label("lblCOMPARED"), ": 2 more on the scoreboard.");
+  find<QLineEdit>("txtSCORE(1)").setText(QStringLiteral("0"));
+  EXPECT_EQ(label("lblCOMPARED"), "The same score as on the scoreboard.");
+  EXPECT_FALSE(find("cmdNEXT").isEnabled());
+  press("cmdSTART"); // by reflex
+  EXPECT_FALSE(window->isRunning());
+  EXPECT_TRUE(find("lblSAID").isVisible());
+  time.now += 4;
+  EXPECT_TRUE(QTest::qWaitFor([this] { return find("cmdNEXT").isEnabled(); }));
+  QTest::keyClick(window.get(), Qt::Key_Escape);
+  EXPECT_FALSE(find("picPERIODEND").isVisible());
   QTest::keyClick(window.get(), Qt::Key_F3);
   EXPECT_EQ(label("lblTEMPS"), "00:00");
   QTest::keyClick(window.get(), Qt::Key_F3);
   EXPECT_EQ(label("lblTEMPS"), "00:00") << "there is nothing to return to";
   press("cmdBUTFT(0)");
-  press("cmdSTART");
+  toggleClock();
   EXPECT_EQ(label("lblTEMPS"), "10:00");
-  press("cmdSTART");
+  time.now += 4;
+  EXPECT_TRUE(QTest::qWaitFor([this] { return find("cmdNEXT").isEnabled(); }));
+  press("cmdNEXT");
   EXPECT_EQ(events(), "10:00,DEPART 00:00,ARRET 00:00,GFT,0-4");
   EXPECT_EQ(events(2), "10:00,DEPART");
 }

@@ -1,0 +1,86 @@
+#include "live/BenchShot.h"
+
+#include "appearance/PlainLabel.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/MiniCourt.h"
+#include "live/StatButton.h"
+#include "live/StatControls.h"
+#include "storage/Settings.h"
+
+#include <QBoxLayout>
+#include <QScreen>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kCourtToolTip = 1095;
+constexpr QSize kCourt(126, 200); // a pixel a unit
+constexpr QSize kButton(44, 36);
+constexpr int kGap = 4;
+
+} // namespace
+
+BenchShot::BenchShot(const Settings& settings, const Texts& texts, QWidget* parent)
+    : QFrame(parent, Qt::Popup), m_settings(settings), m_player(new PlainLabel(this)),
+      m_court(new MiniCourt(settings, this)) {
+  setObjectName(QStringLiteral("picBENCHSHOT"));
+  setFrameShape(QFrame::Box);
+  m_court->setObjectName(QStringLiteral("CourtB"));
+  m_court->setFixedSize(kCourt);
+  setToolTipNumber(*m_court, kCourtToolTip);
+  setAccessibleNumber(*m_court, kCourtToolTip);
+  connect(m_court, &MiniCourt::pressed, this, [this](const QPointF& place, bool isMade) {
+    hide();
+    emit courtPressed(place, isMade);
+  });
+  auto* buttons = new QVBoxLayout;
+  buttons->setSpacing(kGap);
+  for (const ShotControls& controls : kShotControls) {
+    if (controls.button == nullptr)
+      continue;
+    auto* const button =
+        new StatButton(StatButton::Records::Shot, toQt(kindOf(controls.code)->shortName), {QString()}, this);
+    button->setObjectName(QLatin1String(controls.button));
+    button->setFixedSize(kButton);
+    setToolTipNumber(*button, controls.toolTip);
+    setAccessibleNumber(*button, kindOf(controls.code)->wordsText);
+    connect(button, &StatButton::recorded, this, [this, code = controls.code](bool isMade) {
+      hide();
+      emit shotPressed(code, isMade);
+    });
+    buttons->addWidget(button);
+  }
+  buttons->addStretch();
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kGap);
+  row->addWidget(m_court);
+  row->addLayout(buttons);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kGap, kGap, kGap, kGap);
+  layout->addWidget(m_player);
+  layout->addLayout(row);
+  relabel(*this, texts);
+  applyColours();
+}
+
+void BenchShot::ask(const QString& player, bool playsRight, const QPoint& place) {
+  m_player->setText(
+      m_player->fontMetrics().elidedText(player, Qt::ElideRight, kCourt.width() + kButton.width()));
+  m_court->setPlaysRight(playsRight);
+  adjustSize();
+  const QRect room = screen()->availableGeometry();
+  const int left = std::clamp(place.x(), room.left(), std::max(room.right() - width(), room.left()));
+  const int top = place.y() + height() <= room.bottom() ? place.y() : place.y() - height();
+  move(left, std::max(top, room.top()));
+  show();
+}
+
+void BenchShot::applyColours() {
+  m_court->applyColours();
+  for (StatButton* button : findChildren<StatButton*>())
+    button->setColour(colourOf(m_settings.buttonColour));
+}
+
+} // namespace hooptab

@@ -1,0 +1,50 @@
+// What the live window tells while one records: what is not on disk, what others did to the file, a clock
+// that was left running, and what became of the last press. Lies over the oldest of the events, so that
+// nothing moves that is being pressed.
+#pragma once
+
+#include "live/LostStop.h"
+
+#include <QWidget>
+
+class QLabel;
+
+namespace hooptab {
+
+class LostStopStrip;
+class MessageLine;
+class NoticeStrip;
+class Texts;
+
+class LiveNotices : public QWidget {
+  Q_OBJECT
+ public:
+  // `texts` must outlive it.
+  LiveNotices(const Texts& texts, QWidget* parent);
+
+  void showNotOnDisk(const QString& words); // empty: all is
+  void tellForeign(const QString& words);
+  void offerClock(const LostStop& lost, bool wasClosed);
+  void showLostStop(bool isLost);
+  MessageLine& message() { return *m_message; }
+
+  void forget(); // another game
+  void relabelNotices();
+  void applyColours();
+  // At the foot of a column of the parent, as high as its words need.
+  void placeIn(const QRect& column);
+
+ signals:
+  void clockChosen(int seconds);
+
+ private:
+  void place();
+
+  QLabel* m_notOnDisk;
+  NoticeStrip* m_foreign;
+  LostStopStrip* m_lostStop;
+  MessageLine* m_message;
+  QRect m_column;
+};
+
+} // namespace hooptab

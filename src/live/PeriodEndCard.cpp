@@ -1,0 +1,239 @@
+#include "live/PeriodEndCard.h"
+
+#include "appearance/PlainLabel.h"
+#include "appearance/PlainText.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/LiveGame.h"
+#include "storage/EventWords.h"
+#include "storage/Module1.h"
+
+#include <QBoxLayout>
+#include <QHideEvent>
+#include <QIntValidator>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+#include <cstdlib>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTitle = 2477;
+constexpr int kScore = 2478;
+constexpr int kSameScore = 2479;
+constexpr int kMoreOnBoard = 2480;
+constexpr int kFewerOnBoard = 2481;
+constexpr int kLeadToEvents = 2482;
+constexpr int kToCheck = 2483;
+constexpr int kNothingToCheck = 1973;
+constexpr int kCheck = 2484;
+constexpr int kSwitch = 1043;
+constexpr int kSwitchNow = 2381;
+constexpr int kSubstitution = 2485;
+constexpr int kStartPeriod = 2486;
+constexpr int kStartOvertime = 2487;
+constexpr int kGameOver = 2488;
+constexpr int kClose = 2489;
+
+constexpr int kMargin = 8;
+constexpr int kGap = 4;
+constexpr int kScoreWidth = 52;
+constexpr int kHighestScore = 999;
+
+} // namespace
+
+PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
+    : QFrame(parent), m_texts(texts), m_title(new PlainLabel(this)) {
+  setObjectName(QStringLiteral("picPERIODEND"));
+  setAutoFillBackground(true);
+  setFrameShape(QFrame::Box);
+  setAttribute(Qt::WA_NoMousePropagation);
+  QFont bold = font();
+  bold.setBold(true);
+  m_title->setFont(bold);
+  auto* close = new QToolButton(this);
+  close->setObjectName(QStringLiteral("cmdCARDCLOSE"));
+  close->setText(QStringLiteral("✕"));
+  close->setAutoRaise(true);
+  close->setFocusPolicy(Qt::TabFocus);
+  setToolTipNumber(*close, kClose);
+  setAccessibleNumber(*close, kClose);
+  connect(close, &QToolButton::clicked, this, &QWidget::hide);
+  auto* head = new QHBoxLayout;
+  head->addWidget(m_title, 1);
+  head->addWidget(close);
+
+  m_compared = new PlainLabel(this);
+  m_compared->setObjectName(QStringLiteral("lblCOMPARED"));
+  m_compared->setWordWrap(true);
+  m_events = makeButton("cmdCARDEVENTS", kLeadToEvents);
+  m_toCheck = new PlainLabel(this);
+  m_toCheck->setObjectName(QStringLiteral("lblTOCHECK"));
+  m_toCheck->setWordWrap(true);
+  m_check = makeButton("cmdCARDCHECK", kCheck);
+  m_switch = makeButton("cmdCARDSWITCH", kSwitch);
+  m_substitute = makeButton("cmdCARDSUBST", kSubstitution);
+  m_next = makeButton("cmdNEXT", 0);
+  m_next->setFont(bold);
+  connect(m_events, &QPushButton::clicked, this, [this] { emit eventsAsked(m_differs); });
+  connect(m_check, &QPushButton::clicked, this, &PeriodEndCard::checkAsked);
+  connect(m_switch, &QPushButton::clicked, this, &PeriodEndCard::switchAsked);
+  connect(m_substitute, &QPushButton::clicked, this, &PeriodEndCard::substitutionAsked);
+  connect(m_next, &QPushButton::clicked, this, &PeriodEndCard::nextAsked);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kMargin, kGap, kMargin, kMargin);
+  layout->setSpacing(kGap);
+  layout->addLayout(head);
+  layout->addWidget(makeScore());
+  for (QWidget* part :
+       {static_cast<QWidget*>(m_compared), static_cast<QWidget*>(m_events), static_cast<QWidget*>(m_toCheck),
+        static_cast<QWidget*>(m_check), static_cast<QWidget*>(m_switch), static_cast<QWidget*>(m_substitute)})
+    layout->addWidget(part);
+  layout->addWidget(m_next);
+  layout->addStretch();
+  relabel(*this, texts);
+  hide();
+}
+
+QPushButton* PeriodEndCard::makeButton(const char* name, int text) {
+  auto* button = new QPushButton(this);
+  button->setObjectName(QLatin1String(name));
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setAutoDefault(false);
+  if (text > 0)
+    setTextNumber(*button, text);
+  return button;
+}
+
+// As the scoreboard of the hall has it.
+QWidget* PeriodEndCard::makeScore() {
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap);
+  for (std::size_t team = 0; team < 2; ++team) {
+    m_names[team] = new PlainLabel(row);
+    m_scores[team] = new QLineEdit(row);
+    m_scores[team]->setObjectName(QStringLiteral("txtSCORE(%1)").arg(team));
+    m_scores[team]->setValidator(new QIntValidator(0, kHighestScore, m_scores[team]));
+    m_scores[team]->setFixedWidth(kScoreWidth);
+    m_scores[team]->setAlignment(Qt::AlignCenter);
+    setToolTipNumber(*m_scores[team], kScore);
+    setAccessibleNumber(*m_scores[team], kScore);
+    connect(m_scores[team], &QLineEdit::textChanged, this, &PeriodEndCard::compare);
+    layout->addWidget(m_names[team], 1);
+    layout->addWidget(m_scores[team]);
+  }
+  return row;
+}
+
+void PeriodEndCard::open(const LiveGame& game) {
+  m_game = &game;
+  m_period = game.endedPeriod();
+  for (QLineEdit* score : m_scores)
+    score->clear();
+  showGame(game);
+  show();
+  raise();
+}
+
+void PeriodEndCard::showGame(const LiveGame& game) {
+  m_game = &game;
+  if (m_period == 0)
+    return;
+  if (game.endedPeriod() != m_period) { // begun, or returned to
+    hide();
+    return;
+  }
+  relabelCard();
+}
+
+void PeriodEndCard::setToCheck(std::size_t findings, std::size_t doubtful) {
+  m_findings = findings;
+  m_doubtful = doubtful;
+  if (m_game != nullptr && m_period > 0)
+    relabelCard();
+}
+
+void PeriodEndCard::relabelCard() {
+  if (m_game == nullptr || m_period == 0)
+    return;
+  const EventWords words(m_game->game(), m_texts);
+  m_title->setText(toQt(m_texts.withPlaceholder(kTitle, words.periodText(m_period))));
+  for (std::size_t team = 0; team < 2; ++team) {
+    m_names[team]->setText(toQt(m_game->game().details.abbreviation[team]));
+    m_scores[team]->setPlaceholderText(QString::number(m_game->state().points(static_cast<int>(team))));
+  }
+  compare();
+  const bool isAny = m_findings + m_doubtful > 0;
+  m_toCheck->setText(
+      isAny ? toQt(Module1::withPlaceholder(m_texts.withPlaceholder(kToCheck, std::to_string(m_findings)),
+                                            std::to_string(m_doubtful), "YYY"))
+            : caption(m_texts, kNothingToCheck));
+  m_check->setVisible(isAny);
+  m_switch->setText(caption(m_texts, m_game->isHalfTime() ? kSwitchNow : kSwitch));
+  const int lock = m_game->startLock();
+  QString next;
+  switch (m_game->phase()) {
+  case LiveGame::Phase::OvertimeAsked: next = caption(m_texts, kStartOvertime); break;
+  case LiveGame::Phase::Decided: next = caption(m_texts, kGameOver); break;
+  default: next = toQt(m_texts.withPlaceholder(kStartPeriod, words.periodText(m_game->period())));
+  }
+  const bool isLocked = lock > 0 && m_game->phase() != LiveGame::Phase::Decided;
+  m_next->setText(isLocked ? QStringLiteral("%1  %2").arg(next).arg(lock) : next);
+  m_next->setEnabled(!isLocked);
+  QPalette colours;
+  if (!isLocked) {
+    colours.setColor(QPalette::Button, Theme::made());
+    colours.setColor(QPalette::ButtonText, textOn(Theme::made()));
+  }
+  m_next->setPalette(colours);
+}
+
+// A score that nobody has typed is not looked at.
+void PeriodEndCard::compare() {
+  m_differs = -1;
+  bool isSame = true;
+  QString words;
+  for (int team = 0; team < 2 && m_game != nullptr; ++team) {
+    const QString typed = m_scores[static_cast<std::size_t>(team)]->text();
+    isSame = isSame && !typed.isEmpty();
+    const int more = typed.isEmpty() ? 0 : typed.toInt() - m_game->state().points(team);
+    if (more == 0)
+      continue;
+    isSame = false;
+    m_differs = team;
+    words = toQt(Module1::withPlaceholder(m_texts.withPlaceholder(more > 0 ? kMoreOnBoard : kFewerOnBoard,
+                                                                  m_game->game().details.abbreviation[team]),
+                                          std::to_string(std::abs(more)), "YYY"));
+  }
+  if (m_differs < 0)
+    words = caption(m_texts, isSame ? kSameScore : kScore);
+  m_compared->setText(words);
+  QPalette colours = palette();
+  if (isSame || m_differs >= 0)
+    colours.setColor(QPalette::WindowText, isSame ? Theme::made() : Theme::missed());
+  m_compared->setPalette(colours);
+  m_events->setVisible(m_differs >= 0);
+}
+
+void PeriodEndCard::applyColours() {
+  QPalette colours;
+  colours.setColor(QPalette::Window, colours.color(QPalette::Base));
+  setPalette(colours);
+  relabelCard();
+}
+
+void PeriodEndCard::hideEvent(QHideEvent* event) {
+  QFrame::hideEvent(event);
+  if (!event->spontaneous()) {
+    m_period = 0;
+    emit closed();
+  }
+}
+
+} // namespace hooptab

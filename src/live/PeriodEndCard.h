@@ -1,0 +1,68 @@
+// What one looks at when a period has ended, in the order in which one does it: the score against the
+// scoreboard's, what is to be checked, sides and substitutions, and the start of the next period. Nothing on
+// it has to be filled in. Shows, and says what was asked for.
+#pragma once
+
+#include "storage/Texts.h"
+
+#include <QFrame>
+
+#include <array>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QToolButton;
+
+namespace hooptab {
+
+class LiveGame;
+
+class PeriodEndCard : public QFrame {
+  Q_OBJECT
+ public:
+  // `texts` must outlive it.
+  PeriodEndCard(const Texts& texts, QWidget* parent);
+
+  // For the period that has just ended. The game must live until it is closed.
+  void open(const LiveGame& game);
+  void showGame(const LiveGame& game); // closes it where the next period has begun
+  void setToCheck(std::size_t findings, std::size_t doubtful);
+  void relabelCard();
+  void applyColours();
+
+ signals:
+  void nextAsked();           // the start of the next period, the overtime, or the end of the game
+  void eventsAsked(int team); // the score on the board is another
+  void checkAsked();
+  void switchAsked();
+  void substitutionAsked();
+  void closed();
+
+ protected:
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  QWidget* makeScore();
+  QPushButton* makeButton(const char* name, int text);
+  void compare();
+
+  const Texts& m_texts;
+  const LiveGame* m_game = nullptr;
+  int m_period = 0; // that has ended
+  std::size_t m_findings = 0;
+  std::size_t m_doubtful = 0;
+  QLabel* m_title = nullptr;
+  std::array<QLabel*, 2> m_names = {};
+  std::array<QLineEdit*, 2> m_scores = {};
+  QLabel* m_compared = nullptr;
+  QPushButton* m_events = nullptr;
+  QLabel* m_toCheck = nullptr;
+  QPushButton* m_check = nullptr;
+  QPushButton* m_switch = nullptr;
+  QPushButton* m_substitute = nullptr;
+  QPushButton* m_next = nullptr;
+  int m_differs = -1; // team whose score is another on the board
+};
+
+} // namespace hooptab
