@@ -194,6 +194,13 @@ void ClumsyHand::typeAnswer(const std::string& form, const std::string& jersey) 
 std::string ClumsyHand::wrongNumber(const std::string& jersey) {
   const Game& game = table().recorded.game();
   const OnCourt onCourt = table().recorded.onCourt();
+  const auto isOnCourt = [&](const std::string& number) { // with either team: it would be a right answer
+    for (int team = 0; team < 2; ++team) {
+      if ((onCourt[static_cast<std::size_t>(team)] >> game.roster[team].entryOf(number) & 1U) != 0)
+        return true;
+    }
+    return false;
+  };
   const int way = m_dice.between(0, 2);
   if (way == 0) {
     std::vector<std::string> bench;
@@ -203,7 +210,7 @@ std::string ClumsyHand::wrongNumber(const std::string& jersey) {
         continue;
       for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
         const RosterPlayer* player = roster.player(entry);
-        if (player != nullptr && (onCourt[static_cast<std::size_t>(team)] >> entry & 1U) == 0)
+        if (player != nullptr && !isOnCourt(player->jersey))
           bench.push_back(player->jersey);
       }
     }

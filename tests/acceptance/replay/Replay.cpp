@@ -135,6 +135,7 @@ void Replay::beginNextPeriod(const GameEvent& first) {
     throw ReplayFailure("the original leaves a period before its end");
   const Effort before = m_table.person.effort();
   letBuzzerPass();
+  m_hand.clearQuestion();
   if (!m_isClosed) {
     m_hand.toggleClock(); // leaves the period that was returned to
     m_earliestStart = m_now + kBuzzer;
@@ -277,6 +278,7 @@ void Replay::declareOver() {
   const Effort before = m_table.person.effort();
   if (!m_isClosed) {
     letBuzzerPass();
+    m_hand.clearQuestion();
     m_hand.toggleClock();
     m_isClosed = true;
   }
