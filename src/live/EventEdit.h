@@ -41,6 +41,9 @@ class EventEdit {
   std::optional<CourtConflict> m_conflict;
 };
 
+[[nodiscard]] inline EventChange replacement(int period, const std::string& key, std::string line) {
+  return {EventChange::Kind::Replace, period, key, std::move(line), {}};
+}
 // A line with the mark of deletion, or without it.
 [[nodiscard]] std::string withDeletion(const std::string& line, bool isDeleted);
 // The key behind an event of its period; empty for the last.

@@ -184,7 +184,7 @@ void PeriodEndCard::relabelCard() {
   default: next = toQt(m_texts.withPlaceholder(kStartPeriod, words.periodText(m_game->period())));
   }
   const bool isLocked = lock > 0 && m_game->phase() != LiveGame::Phase::Decided;
-  m_next->setText(isLocked ? QStringLiteral("%1  %2").arg(next).arg(lock) : next);
+  m_next->setText(isLocked ? QStringLiteral("%1 (%2 s)").arg(next).arg(lock) : next);
   m_next->setEnabled(!isLocked);
   QPalette colours;
   if (!isLocked) {

@@ -407,7 +407,7 @@ void ScorePanel::showStart() {
   const bool canStart = m_game->hasTime() && phase != Phase::Decided && m_game->canRecord();
   const int lock = canStart && phase != Phase::Running ? m_game->startLock() : 0;
   const QString words = toQt(startShown(*m_game, m_texts));
-  m_start->setText(lock > 0 ? QStringLiteral("%1  %2").arg(words).arg(lock) : words);
+  m_start->setText(lock > 0 ? QStringLiteral("%1 (%2 s)").arg(words).arg(lock) : words);
   m_start->setEnabled(canStart);
   if (m_refused.isActive())
     colour(*m_start, Theme::accent());

@@ -1,6 +1,5 @@
 #include "live/frmLIVE.h"
 
-#include "appearance/CourtClick.h"
 #include "appearance/Dialogs.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/PlainText.h"
@@ -23,7 +22,6 @@
 #include "live/ScorePanel.h"
 #include "live/frmGAMEOVER.h"
 #include "live/frmOVERTIME.h"
-#include "storage/EventWords.h"
 #include "storage/Module1.h"
 #include "storage/Settings.h"
 
@@ -34,7 +32,6 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QMimeData>
-#include <QShortcut>
 #include <chrono>
 #include <utility>
 
@@ -59,19 +56,13 @@ constexpr int kLeaveRescued = 2457;
 constexpr int kPeriodTooLong = 2380;
 constexpr int kCountOutOfRange = 1523;
 constexpr int kAnswerFirst = 2474;
-constexpr int kOnePress = 2498;
-constexpr int kMakeTwo = 2499;
-constexpr int kSecondPress = 2500;
 constexpr int kToggledTwice = 2501;
 constexpr int kLocked = 2495;
 constexpr int kStartTakenBack = 2502;
-constexpr int kWasNotOnCourt = 2503;
-constexpr int kPutIn = 2473;
-constexpr int kNowDoubtful = 2504;
-constexpr int kNoLongerDoubtful = 2505;
 constexpr int kCloseInPlay = 2506;
 constexpr int kGameOverInPlay = 2507;
 constexpr const char* kRowsStay = "rows-stay";
+constexpr const char* kRowsChange = "rows-change";
 
 constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
 constexpr auto kRetryInterval = 2s;
@@ -229,77 +220,6 @@ void frmLIVE::connectEverything() {
   connectShots();
   connectCard();
   connectKeys();
-}
-
-void frmLIVE::connectShots() {
-  connect(m_followUp, &FollowUpBar::chosen, this, &frmLIVE::followUp);
-  connect(m_followUp, &FollowUpBar::pressIgnored, this, [this] { say(kSecondPress); });
-  connect(m_followUp, &FollowUpBar::closed, this, [this] {
-    if (m_afterQuestion)
-      std::exchange(m_afterQuestion, {})();
-  });
-  connect(m_repeats, &RepeatedPress::heldBack, this, [this] {
-    m_notices->message().offer(caption(m_texts, kOnePress), caption(m_texts, kMakeTwo),
-                               [this] { m_repeats->carryOut(); });
-  });
-  connect(m_bench, &BenchPanel::shotAsked, this, &frmLIVE::askBenchShot);
-  connect(m_benchShot, &BenchShot::shotPressed, this,
-          [this](EventCode kind, bool isMade) { shootFromBench(kind, isMade, std::nullopt); });
-  connect(m_benchShot, &BenchShot::courtPressed, this, [this](const QPointF& place, bool isMade) {
-    const auto click =
-        CourtClick::of({place.x(), place.y()}, playsRightOf(m_benchTeam), zoneMapOf(m_settings));
-    if (click)
-      shootFromBench(click->kind, isMade, std::pair(click->place.x, click->place.y));
-  });
-}
-
-void frmLIVE::connectCard() {
-  connect(m_card, &PeriodEndCard::nextAsked, this, [this] {
-    if (m_game.phase() == LiveGame::Phase::Decided)
-      gameOver();
-    else
-      toggleClock();
-  });
-  connect(m_card, &PeriodEndCard::eventsAsked, this, [this](int team) {
-    m_events->showOnly(team, m_game.endedPeriod());
-    m_card->hide();
-  });
-  connect(m_card, &PeriodEndCard::checkAsked, this, [this] {
-    m_card->hide();
-    m_events->leadToCheck();
-  });
-  connect(m_card, &PeriodEndCard::switchAsked, this, &frmLIVE::switchSides);
-  connect(m_card, &PeriodEndCard::substitutionAsked, this, [this] {
-    m_card->hide();
-    m_bench->askSeveral();
-  });
-  connect(m_card, &PeriodEndCard::closed, this, [this] { setFocus(); });
-}
-
-void frmLIVE::connectKeys() {
-  connect(m_keys, &LiveKeys::clockPressed, this, &frmLIVE::toggleClock);
-  connect(m_keys, &LiveKeys::recorded, this, [this](const KeypadOrder& order) {
-    showGame();
-    if (order.kind == KeypadOrder::Kind::Shot)
-      afterShot(order.team, order.player, order.code, order.isMade);
-  });
-
-  // Ahead of any focused button, which Ctrl+Space presses.
-  const auto onKey = [this](const QKeySequence& key, auto handler) {
-    auto* shortcut = new QShortcut(key, this);
-    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    shortcut->setAutoRepeat(false);
-    connect(shortcut, &QShortcut::activated, this, handler);
-  };
-  onKey(Qt::Key_Space, &frmLIVE::toggleClock);
-  onKey(Qt::Key_Question, &frmLIVE::markDoubtful);
-  onKey(static_cast<Qt::Key>(MessageLine::kKey), [this] { m_notices->message().carryOut(); });
-  onKey(Qt::Key_Escape, [this] {
-    if (m_card->isVisible())
-      m_card->hide();
-    else
-      m_bench->clearSelection();
-  });
 }
 
 void frmLIVE::resizeEvent(QResizeEvent*) {
@@ -552,114 +472,6 @@ void frmLIVE::gameOver() {
   showGame();
 }
 
-// --- What is recorded
-
-void frmLIVE::pressCourt(int slot, const QPointF& place, bool isMade) {
-  const auto click = CourtClick::of({place.x(), place.y()}, playsRight(slot), zoneMapOf(m_settings));
-  if (click)
-    shoot(slot, click->kind, isMade, std::pair(click->place.x, click->place.y));
-}
-
-void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
-  const int team = LiveGame::teamOf(slot);
-  const int player = m_game.playerIn(slot);
-  if (!m_game.recordShot(team, player, kind, isMade, place))
-    return;
-  m_repeats->noteRecorded();
-  if (m_bench->isSelected(team, player))
-    m_bench->clearSelection();
-  showGame();
-  afterShot(team, player, kind, isMade);
-}
-
-// Beside the shooter's panel. Of one who is not on court it was forgotten that he came in.
-void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
-  const auto followUps = m_game.followUps(team, player, kind, isMade, m_settings.asksRebounds);
-  const auto slot = m_game.slotOf(team, player);
-  const auto placeOf = [](const QWidget& widget) {
-    return QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size());
-  };
-  m_followUp->ask(m_game, followUps, team, player,
-                  slot ? placeOf(*m_panels[static_cast<std::size_t>(*slot)]) : QRect(),
-                  placeOf(*m_panelArea));
-  if (slot)
-    return;
-  const EventPlace shot = m_game.lastShot();
-  m_afterQuestion = [this, shot, team, player] { offerToPutIn(shot, team, player); };
-  if (!m_followUp->isOpen())
-    std::exchange(m_afterQuestion, {})();
-}
-
-void frmLIVE::offerToPutIn(const EventPlace& event, int team, int player) {
-  const auto side = static_cast<std::size_t>(team);
-  const RosterPlayer* who = m_game.game().roster[side].player(player);
-  if (who == nullptr)
-    return;
-  const std::string name = m_game.game().details.abbreviation[side] + " " + who->jersey + " " + who->name;
-  m_notices->message().offer(toQt(m_texts.withPlaceholder(kWasNotOnCourt, name)), caption(m_texts, kPutIn),
-                             [this, event, team, player] { m_requests->putIn(event, team, player); });
-}
-
-void frmLIVE::askBenchShot(int team, int player, const QPoint& place) {
-  const RosterPlayer* who = m_game.game().roster[static_cast<std::size_t>(team)].player(player);
-  if (who == nullptr || !m_game.canRecord())
-    return;
-  m_benchTeam = team;
-  m_benchPlayer = player;
-  m_benchShot->ask(toQt(who->jersey + " " + who->name), playsRightOf(team), place);
-}
-
-void frmLIVE::shootFromBench(EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
-  if (!m_game.recordShot(m_benchTeam, m_benchPlayer, kind, isMade, place))
-    return;
-  m_bench->clearSelection();
-  showGame();
-  afterShot(m_benchTeam, m_benchPlayer, kind, isMade);
-}
-
-void frmLIVE::followUp(const FollowUpQuestion::Answer& answer, EventCode kind) {
-  const EventPlace shot = m_game.lastShot();
-  if (!m_game.recordFollowUp(answer.team, answer.player, kind))
-    return;
-  showGame();
-  if (answer.comesIn)
-    m_requests->putIn(shot, answer.team, answer.player);
-  else if (!answer.isOnCourt)
-    offerToPutIn(shot, answer.team, answer.player);
-}
-
-void frmLIVE::act(int slot, EventCode kind) {
-  if (record(LiveGame::teamOf(slot), m_game.playerIn(slot), kind))
-    m_repeats->noteRecorded();
-}
-
-// A player is selected for one action: a finger that slips onto the button twice gives no second foul.
-bool frmLIVE::record(int team, int player, EventCode kind) {
-  const bool isRecorded = m_game.recordAction(team, player, kind);
-  if (m_bench->isSelected(team, player))
-    m_bench->clearSelection();
-  showGame();
-  return isRecorded;
-}
-
-// The last of what was recorded; once more, and it is in doubt no longer.
-void frmLIVE::markDoubtful() {
-  const auto last = m_game.lastRecorded();
-  if (!last)
-    return;
-  const auto events = m_game.game().events.events();
-  const auto event = std::ranges::find_if(
-      events, [&](const GameEvent& found) { return found.period == last->period && found.key == last->key; });
-  const bool isDoubtful = !event->isDoubtful;
-  const EventWords words(m_game.game(), m_texts);
-  const std::string name = words.shortWords(static_cast<std::size_t>(event - events.begin()));
-  if (!m_game.setDoubtful(*last, isDoubtful))
-    return;
-  showGame();
-  m_notices->message().say(
-      toQt(m_texts.withPlaceholder(isDoubtful ? kNowDoubtful : kNoLongerDoubtful, name)));
-}
-
 void frmLIVE::setOnCourt(const OnCourt& onCourt) {
   m_game.setOnCourt(onCourt);
   showGame();
@@ -693,7 +505,7 @@ void frmLIVE::showSides() {
 }
 
 QByteArray frmLIVE::arrangement() const {
-  return m_rowsStay ? QByteArray(kRowsStay) : QByteArray();
+  return m_rowsStay ? kRowsStay : kRowsChange; // never empty, which would not be remembered
 }
 
 void frmLIVE::restoreArrangement(const QByteArray& arrangement) {

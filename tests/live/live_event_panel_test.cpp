@@ -170,6 +170,24 @@ TEST_F(LiveEventPanelTest, AsksForWhatIsToBeDone) {
     EXPECT_FALSE(action(name).isEnabled()) << name;
 }
 
+TEST_F(LiveEventPanelTest, TheSelectionStaysWithItsEventUntilItIsTakenBack) {
+  select(0);
+  const std::string foul = words(0);
+  ASSERT_TRUE(live.setTime({1, "6"}, 595)); // before the shot
+  panel.showGame(live);
+  EXPECT_EQ(list().currentIndex().row(), 2);
+  EXPECT_EQ(words(2), foul);
+  EXPECT_TRUE(list().selectionModel()->isRowSelected(2));
+  ASSERT_TRUE(live.undo());
+  panel.showGame(live);
+  EXPECT_EQ(list().currentIndex().row(), 0);
+  ASSERT_TRUE(live.undo()); // the foul
+  panel.showGame(live);
+  panel.leaveDeleted();
+  EXPECT_FALSE(list().selectionModel()->hasSelection());
+  EXPECT_FALSE(action("cmdDELETE").isEnabled());
+}
+
 TEST_F(LiveEventPanelTest, LeadsToWhatMendsAFinding) {
   live.recordAction(1, 6, EventCode::SBS); // from the bench
   live.recordAction(0, 3, EventCode::SA);
