@@ -304,6 +304,7 @@ bool LiveGame::beginOvertime(int minutes, bool keepsFouls) {
   m_log.setDetails({{"KEEPBONUS", keepsFouls ? "1" : "0"}});
   ++m_period;
   m_lengthOfPeriod = minutes * kSecondsPerMinute;
+  m_lockedUntil = 0; // nobody answers by reflex
   m_clock.set(m_lengthOfPeriod);
   m_phase = Phase::Stopped;
   return true;

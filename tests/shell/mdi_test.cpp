@@ -507,6 +507,7 @@ TEST_F(MainWindowTest, RecordsAGameAndStopsTheClockBeforeItCloses) {
   EXPECT_FALSE(action("LIVEOpen").isEnabled() || action("LIVENew").isEnabled()) << "not while the clock runs";
   action("LIVEMouse").trigger();
   EXPECT_EQ(setting("SAVEREBOUND"), "True");
+  dialogs.nextAnswer = true;
   action("CLOSELIVEMANUAL").trigger();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   QCoreApplication::processEvents();
