@@ -67,6 +67,9 @@ FollowUpBar::FollowUpBar(const Texts& texts, QWidget* parent) : QWidget(parent),
   m_flash.setSingleShot(true);
   m_flash.setInterval(kFlash);
   connect(&m_flash, &QTimer::timeout, this, qOverload<>(&FollowUpBar::update));
+  m_goingOn.setSingleShot(true);
+  m_goingOn.setInterval(kMayGoOn);
+  connect(&m_goingOn, &QTimer::timeout, this, &FollowUpBar::settle);
   setObjectName(QStringLiteral("FollowUp"));
   setAutoFillBackground(true);
   // A click between the buttons is no click on what lies below.
@@ -175,6 +178,7 @@ QWidget* FollowUpBar::makeEnd(QWidget* form, const char* nobodyName) {
   setToolTipNumber(*nobody, kHint);
   connect(nobody, &QPushButton::pressed, this, [this, nobody] {
     nobody->setDown(false);
+    m_whole.reset();
     dismiss();
   });
   layout->addWidget(nobody);
@@ -302,9 +306,18 @@ void FollowUpBar::placeBeside(const QRect& panel, const QRect& room) {
        std::clamp(corner.y(), 0, std::max(free.height(), 0)));
 }
 
+void FollowUpBar::settle() {
+  if (!m_whole)
+    return;
+  answer(m_whole);
+  emit numberTyped(m_isTypedOnKeypad);
+}
+
 void FollowUpBar::dismiss() {
   if (!m_isOpen)
     return;
+  if (m_whole)
+    return settle();
   m_isOpen = false;
   hide();
   emit closed();
@@ -316,7 +329,9 @@ void FollowUpBar::hideEvent(QHideEvent* event) {
     dismiss(); // the window it lies over was closed
 }
 
-void FollowUpBar::answer(const std::optional<FollowUpQuestion::Answer>& answer) {
+void FollowUpBar::answer(std::optional<FollowUpQuestion::Answer> answer) {
+  m_whole.reset();
+  m_goingOn.stop();
   if (!answer) {
     showTyped();
     return;
@@ -423,13 +438,15 @@ bool FollowUpBar::ownsKey(const QKeyEvent& event) const {
 void FollowUpBar::takeKey(const QKeyEvent& event) {
   const FollowUpKey meaning = meaningOf(event);
   m_ownRefusal = 0;
+  m_goingOn.stop();
+  m_whole.reset(); // Enter takes it by its mark, all other keys have another mind
   switch (meaning.kind) {
   case FollowUpKey::Kind::Digit:
     m_isTypedOnKeypad = event.modifiers().testFlag(Qt::KeypadModifier);
-    answer(m_question.type(meaning.digit));
-    if (!m_isOpen)
-      emit numberTyped(m_isTypedOnKeypad);
-    return;
+    m_whole = m_question.type(meaning.digit);
+    if (m_whole)
+      m_goingOn.start();
+    return showTyped();
   case FollowUpKey::Kind::Take:
     if (m_question.typed().empty() && !m_question.marked())
       return dismiss();

@@ -44,6 +44,8 @@ class FollowUpBar : public QWidget {
 
   // Milliseconds in which it takes no click: a hand that presses twice has not seen it.
   static constexpr int kDeafFor = 300;
+  // Milliseconds in which a digit that comes behind a whole number belongs to it: 7 of 74 is not 7.
+  static constexpr int kMayGoOn = 300;
   // A second press where one has just answered, within so many milliseconds, is none on what lies below.
   static constexpr int kSecondPress = 500;
 
@@ -56,7 +58,8 @@ class FollowUpBar : public QWidget {
   using KeyReader = std::function<std::optional<FollowUpKey>(const QKeyEvent& event)>;
   void setKeyReader(KeyReader reader) { m_readKey = std::move(reader); }
   bool isOpen() const { return m_isOpen; }
-  void dismiss();        // as "Nobody"
+  void settle();         // takes a number that is whole, without waiting
+  void dismiss();        // the same, or as "Nobody"
   void refuse(int text); // in its own line: why something else was not done
 
  signals:
@@ -88,7 +91,7 @@ class FollowUpBar : public QWidget {
   bool ownsKey(const QKeyEvent& event) const;
   void takeKey(const QKeyEvent& event);
   bool takePress(QWidget& widget, const QMouseEvent& event);
-  void answer(const std::optional<FollowUpQuestion::Answer>& answer);
+  void answer(std::optional<FollowUpQuestion::Answer> answer);
   void showTyped();
   void showMarks();
   void flash();
@@ -111,6 +114,8 @@ class FollowUpBar : public QWidget {
   bool m_isOpen = false;
   std::vector<JerseyButton*> m_buttons; // of the choices of the question
   bool m_isTypedOnKeypad = false;
+  std::optional<FollowUpQuestion::Answer> m_whole; // by the number typed, unless it goes on
+  QTimer m_goingOn;
   int m_ownRefusal = 0; // text of refuse()
   QElapsedTimer m_sinceOpened;
   QElapsedTimer m_sinceAnswer; // by a press

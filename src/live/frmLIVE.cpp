@@ -392,6 +392,7 @@ void frmLIVE::lookAtFile() {
 void frmLIVE::toggleClock() {
   if (!m_toggles.mayToggle(m_sinceBegin.elapsed()))
     return refuseClock(kToggledTwice);
+  m_followUp->settle();
   const LiveGame::Phase before = m_game.phase();
   if (before != LiveGame::Phase::Running && m_followUp->isOpen()) {
     m_followUp->refuse(kAnswerFirst);
@@ -580,6 +581,7 @@ void frmLIVE::dropEvent(QDropEvent* event) {
 }
 
 bool frmLIVE::mayClose() {
+  m_followUp->settle();
   if (isRunning() &&
       !m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)), toQt(m_texts.text(kCloseInPlay))))
     return false;

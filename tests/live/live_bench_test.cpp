@@ -218,6 +218,8 @@ class FollowUpTest : public BenchTest {
   void type(std::initializer_list<Qt::Key> keys) {
     for (const Qt::Key key : keys)
       QTest::keyClick(&elsewhere, key);
+    if (bar.isOpen())
+      QTest::qWait(FollowUpBar::kMayGoOn + 50);
   }
   std::string taken() { return std::exchange(answers, {}); }
 
@@ -272,6 +274,20 @@ TEST_F(FollowUpTest, IsAnsweredByTheJerseysNumber) {
   askRebound();
   type({Qt::Key_1, Qt::Key_2, Qt::Key_Right, Qt::Key_Return});
   EXPECT_EQ(taken(), ".O12");
+  askAssist();
+  type({Qt::Key_4, Qt::Key_5, Qt::Key_9});
+  EXPECT_EQ(taken(), "") << "459 is not 45";
+  EXPECT_EQ(textOf(bar, "lblREASON"), "Nobody here has number 459.");
+  type({Qt::Key_Backspace, Qt::Key_4, Qt::Key_Space, Qt::Key_Escape});
+  EXPECT_EQ(taken(), "!.");
+  askAssist();
+  type({Qt::Key_4, Qt::Key_5});
+  EXPECT_EQ(taken(), ".A05");
+  askAssist();
+  QTest::keyClick(&elsewhere, Qt::Key_4);
+  QTest::keyClick(&elsewhere, Qt::Key_5);
+  press(elsewhere);
+  EXPECT_EQ(taken(), ".A05b") << "going on does not forget it";
   askAssist();
   type({Qt::Key_6, Qt::Key_Return});
   EXPECT_EQ(taken(), "");
