@@ -4,11 +4,13 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/MiniCourt.h"
+#include "live/PassingMenu.h"
 #include "live/StatButton.h"
 #include "live/StatControls.h"
 #include "storage/Settings.h"
 
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QScreen>
 
 namespace hooptab {
@@ -81,6 +83,12 @@ void BenchShot::applyColours() {
   m_court->applyColours();
   for (StatButton* button : findChildren<StatButton*>())
     button->setColour(colourOf(m_settings.buttonColour));
+}
+
+void BenchShot::keyPressEvent(QKeyEvent* event) {
+  hide();
+  if (event->key() != Qt::Key_Escape)
+    handOn(*event, *parentWidget());
 }
 
 } // namespace hooptab

@@ -29,6 +29,9 @@ class BenchShot : public QFrame {
   void courtPressed(const QPointF& place, bool isMade); // in the picture as it is shown
   void shotPressed(hooptab::EventCode kind, bool isMade);
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override; // closes it, and is carried out but for Esc
+
  private:
   const Settings& m_settings;
   QLabel* m_player;

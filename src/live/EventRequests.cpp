@@ -23,6 +23,7 @@ EventRequests::EventRequests(LiveGame& game, LiveEventPanel& panel, const Settin
   connect(&panel, &LiveEventPanel::redoAsked, this, [this] { takeBack(&LiveGame::redo); });
   connect(&panel, &LiveEventPanel::deleteAsked, this,
           [this](const std::vector<EventPlace>& events, bool isDeleted) {
+            m_game.writePending(); // what is planned comes behind it
             take(m_game.editing().deletion(events, isDeleted));
           });
   connect(&panel, &LiveEventPanel::editAsked, this, &EventRequests::change);
@@ -58,6 +59,7 @@ void EventRequests::take(const EditPlan& plan) {
 }
 
 void EventRequests::takeBack(bool (LiveGame::*step)()) {
+  m_game.writePending();
   const std::optional<LiveAction> undone = m_game.toUndo();
   const bool isStart = step == &LiveGame::undo && undone && undone->start;
   const bool isDone = (m_game.*step)();

@@ -468,14 +468,13 @@ void FollowUpBar::takeKey(const QKeyEvent& event) {
 bool FollowUpBar::takePress(QWidget& widget, const QMouseEvent& event) {
   const bool isInside = &widget == this || isAncestorOf(&widget);
   const QPoint at = event.globalPosition().toPoint();
-  if (!m_isOpen) {
-    const bool isSecond = m_sinceAnswer.isValid() && !m_sinceAnswer.hasExpired(kSecondPress) &&
-                          (at - m_answeredAt).manhattanLength() < kSamePlace && widget.window() == window();
-    m_sinceAnswer.invalidate();
-    if (isSecond)
-      emit pressIgnored();
+  const bool isSecond = m_sinceAnswer.isValid() && !m_sinceAnswer.hasExpired(kSecondPress) &&
+                        (at - m_answeredAt).manhattanLength() < kSamePlace && widget.window() == window();
+  m_sinceAnswer.invalidate();
+  if (isSecond)
+    emit pressIgnored();
+  if (isSecond || !m_isOpen)
     return isSecond;
-  }
   if (!isInside) {
     dismiss();
     return false;
@@ -484,9 +483,13 @@ bool FollowUpBar::takePress(QWidget& widget, const QMouseEvent& event) {
     refuse(kTooSoon);
     return true;
   }
-  m_sinceAnswer.start();
-  m_answeredAt = at;
+  ignoreSecondPress(at);
   return false;
+}
+
+void FollowUpBar::ignoreSecondPress(const QPoint& globalPlace) {
+  m_sinceAnswer.start();
+  m_answeredAt = globalPlace;
 }
 
 // Sees every event of the program. Only its own keys stay here.

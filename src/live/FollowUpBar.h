@@ -58,8 +58,10 @@ class FollowUpBar : public QWidget {
   using KeyReader = std::function<std::optional<FollowUpKey>(const QKeyEvent& event)>;
   void setKeyReader(KeyReader reader) { m_readKey = std::move(reader); }
   bool isOpen() const { return m_isOpen; }
-  void settle();         // takes a number that is whole, without waiting
-  void dismiss();        // the same, or as "Nobody"
+  void settle();  // takes a number that is whole, without waiting
+  void dismiss(); // the same, or as "Nobody"
+  // A press there has closed what it was made on; a second one is none on what lies below.
+  void ignoreSecondPress(const QPoint& globalPlace);
   void refuse(int text); // in its own line: why something else was not done
 
  signals:

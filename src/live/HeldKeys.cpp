@@ -73,8 +73,10 @@ bool HeldKeys::isHeld(const QKeyEvent& key, bool isOverride) {
     return key.isAutoRepeat();
   }
   const bool isSoon = m_lastLetGo == number && key.timestamp() - m_lastLetGoAt < kLeastGap;
-  const bool isHeld = key.isAutoRepeat() || m_down.contains(number) || isSoon;
-  m_down.insert(number);
+  const auto down = m_down.constFind(number);
+  const bool isDown = down != m_down.constEnd() && key.timestamp() - *down < kLongestRepeat;
+  const bool isHeld = key.isAutoRepeat() || isDown || isSoon;
+  m_down[number] = key.timestamp();
   m_awaitsPress.reset();
   if (isOverride && !isHeld)
     m_awaitsPress = number;

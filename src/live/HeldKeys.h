@@ -3,8 +3,8 @@
 // that one holds on purpose (arrows, paging) and text fields stay as they are.
 #pragma once
 
+#include <QHash>
 #include <QObject>
-#include <QSet>
 
 #include <optional>
 
@@ -17,6 +17,8 @@ class HeldKeys : public QObject {
  public:
   // Milliseconds between letting a key go and pressing it again that no finger needs less of.
   static constexpr quint64 kLeastGap = 25;
+  // A key that is held repeats sooner: one not seen for so long was let go where nobody told.
+  static constexpr quint64 kLongestRepeat = 1000;
 
   explicit HeldKeys(QObject* parent);
   ~HeldKeys() override;
@@ -29,7 +31,7 @@ class HeldKeys : public QObject {
   void letGo(const QKeyEvent& key);
   void forget();
 
-  QSet<quint32> m_down;                 // as the keyboard numbers them
+  QHash<quint32, quint64> m_down;       // as the keyboard numbers them; when they were seen last
   std::optional<quint32> m_awaitsPress; // its shortcut was offered first
   std::optional<quint32> m_lastLetGo;
   quint64 m_lastLetGoAt = 0; // by the display's clock

@@ -156,6 +156,7 @@ void LiveGame::start() {
   m_wasLeftRunning = false;
   if (clockSeconds() == 0)
     return closePeriod();
+  m_history.forgetStarts();
   m_starts[m_log.nextNumber()] = std::exchange(m_endedPeriod, 0);
   m_log.change({added(lineOf(startText()))});
   m_clock.start(m_time.seconds());
@@ -235,6 +236,7 @@ void LiveGame::tick() {
 bool LiveGame::setClock(int seconds) {
   if (!hasTime() || m_phase != Phase::Stopped || seconds < 0 || seconds > fullLength())
     return false;
+  m_history.forgetStarts();
   m_clock.set(seconds);
   return true;
 }
@@ -245,6 +247,7 @@ bool LiveGame::setPeriod(int period) {
   if (period == m_period)
     return true;
   leavePeriod();
+  m_history.forgetStarts();
   m_wasLeftRunning = false;
   m_period = period;
   m_phase = Phase::Stopped;
@@ -275,6 +278,7 @@ void LiveGame::leavePeriod() {
 void LiveGame::closePeriod() {
   const int points[2] = {state().points(0), state().points(1)};
   m_lockedUntil = m_time.seconds() + kStartLock + 1; // of whole seconds the present one may be at its end
+  m_history.forgetStarts();
   m_endedPeriod = m_period;
   if (m_period >= game().details.periods) {
     m_phase = points[0] == points[1] ? Phase::OvertimeAsked : Phase::Decided;
@@ -289,6 +293,7 @@ void LiveGame::closePeriod() {
 bool LiveGame::returnToEndedPeriod() {
   if (!canReturnToEndedPeriod() || m_phase == Phase::Running || !canRecord())
     return false;
+  m_history.forgetStarts();
   m_period = m_endedPeriod;
   m_lengthOfPeriod = lengthOf(m_period);
   m_endedPeriod = 0;

@@ -155,23 +155,23 @@ class LiveGame {
   // A plan for the game as it stands.
   bool take(const EditPlan& plan);
   bool setDeleted(std::span<const EventPlace> events, bool isDeleted) {
-    return take(editing().deletion(events, isDeleted));
+    return writePending() && take(editing().deletion(events, isDeleted));
   }
   bool canDelete(const EventPlace& event) const { return editing().canDelete(event); }
   bool replaceEvent(const EventPlace& event, int clockSeconds, const std::string& eventText) {
-    return take(editing().replacement(event, clockSeconds, eventText));
+    return writePending() && take(editing().replacement(event, clockSeconds, eventText));
   }
   bool setTime(const EventPlace& event, int clockSeconds) {
-    return take(editing().newTime(event, clockSeconds));
+    return writePending() && take(editing().newTime(event, clockSeconds));
   }
   bool editEvent(const EventPlace& event, int clockSeconds, const Counted& counted) {
-    return take(editing().change(event, clockSeconds, counted));
+    return writePending() && take(editing().change(event, clockSeconds, counted));
   }
   bool insertEvent(const EventPlace& at, Where where, int clockSeconds, const Counted& counted) {
-    return take(editing().insertion(at, where, clockSeconds, counted));
+    return writePending() && take(editing().insertion(at, where, clockSeconds, counted));
   }
   bool insertSubstitution(const EventPlace& at, Where where, const OnCourt& out, const OnCourt& in) {
-    return take(editing().substitution(at, where, out, in));
+    return writePending() && take(editing().substitution(at, where, out, in));
   }
   // To be looked at again. Of what is recorded, not of the clock's own events.
   [[nodiscard]] std::optional<EventPlace> lastRecorded() const;

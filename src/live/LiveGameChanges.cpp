@@ -99,7 +99,7 @@ std::optional<LiveAction> LiveGame::toUndo() const {
 // what was done after it is taken back before it.
 std::optional<LiveAction> LiveGame::startToTakeBack() const {
   const auto found = m_log.lines().find(m_period);
-  if (found == m_log.lines().end() || !canRecord())
+  if (found == m_log.lines().end() || !canRecord() || m_pending)
     return std::nullopt;
   const PeriodLines& lines = found->second;
   LiveAction action{.nextNumber = m_log.nextNumber()};
@@ -186,6 +186,7 @@ std::optional<EventPlace> LiveGame::lastRecorded() const {
 }
 
 bool LiveGame::setDoubtful(const EventPlace& event, bool isDoubtful) {
+  writePending(); // which may change the line
   const std::string* line = findLine(m_log.lines(), event.period, event.key);
   if (line == nullptr || !canRecord())
     return false;

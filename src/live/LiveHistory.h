@@ -35,6 +35,10 @@ class LiveHistory {
   // Taken back, though it was never added: a start of the clock is found in the lines alone.
   void addUndone(LiveAction action) { m_undone.push_back(std::move(action)); }
   void dropUndone() { m_undone.pop_back(); }
+  // The clock has been turned or set otherwise since.
+  void forgetStarts() {
+    std::erase_if(m_undone, [](const LiveAction& action) { return action.start.has_value(); });
+  }
   // Of an earlier session, when nothing of this one is left to be taken back.
   void addEarlier(LiveAction action) { m_done.insert(m_done.begin(), std::move(action)); }
   void clear() {

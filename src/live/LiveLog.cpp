@@ -93,7 +93,7 @@ GameOnDisk::Values LiveLog::forgetAccepted(const std::vector<EventChange>& steps
     if (accepted == m_game.accepted.end() || accepted->second.empty())
       continue;
     accepted->second.clear();
-    gone.emplace_back(step.key, std::string());
+    gone.emplace_back(std::to_string(accepted->first), std::string());
   }
   return gone;
 }

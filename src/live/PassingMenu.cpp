@@ -32,16 +32,20 @@ PassingMenu::PassingMenu(QWidget* parent) : QMenu(parent) {
   setAttribute(Qt::WA_DeleteOnClose);
 }
 
-// The menu has kept the key from the shortcuts of the windows below it, so it is handed on to them.
 void PassingMenu::keyPressEvent(QKeyEvent* event) {
   if (isOwn(*event))
     return QMenu::keyPressEvent(event);
   QWidget* const below = parentWidget();
-  const QKeySequence key(event->keyCombination());
+  const QKeyEvent key(event->type(), event->key(), event->modifiers(), event->text(), event->isAutoRepeat());
   close();
-  if (event->isAutoRepeat())
+  handOn(key, *below);
+}
+
+void handOn(const QKeyEvent& event, QWidget& below) {
+  const QKeySequence key(event.keyCombination());
+  if (event.isAutoRepeat())
     return;
-  for (QWidget* widget = below; widget != nullptr; widget = widget->parentWidget()) {
+  for (QWidget* widget = &below; widget != nullptr; widget = widget->parentWidget()) {
     for (QShortcut* shortcut : widget->findChildren<QShortcut*>(Qt::FindDirectChildrenOnly)) {
       if (shortcut->isEnabled() && shortcut->key() == key) {
         emit shortcut->activated();
@@ -53,8 +57,8 @@ void PassingMenu::keyPressEvent(QKeyEvent* event) {
         return action->trigger();
     }
   }
-  QKeyEvent again(QEvent::KeyPress, event->key(), event->modifiers(), event->text());
-  QCoreApplication::sendEvent(QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : below,
+  QKeyEvent again(QEvent::KeyPress, event.key(), event.modifiers(), event.text());
+  QCoreApplication::sendEvent(QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : &below,
                               &again);
 }
 

@@ -14,4 +14,8 @@ class PassingMenu : public QMenu {
   void keyPressEvent(QKeyEvent* event) override;
 };
 
+// What came over a widget has kept a key from the shortcuts of the windows below it, and has closed: the key
+// does there what it always does.
+void handOn(const QKeyEvent& event, QWidget& below);
+
 } // namespace hooptab

@@ -11,6 +11,7 @@
 #include <QBoxLayout>
 #include <QHideEvent>
 #include <QIntValidator>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -124,6 +125,7 @@ QWidget* PeriodEndCard::makeScore() {
     m_scores[team]->setAlignment(Qt::AlignCenter);
     setToolTipNumber(*m_scores[team], kScore);
     setAccessibleNumber(*m_scores[team], kScore);
+    m_scores[team]->installEventFilter(this);
     connect(m_scores[team], &QLineEdit::textChanged, this, &PeriodEndCard::compare);
     layout->addWidget(m_names[team], 1);
     layout->addWidget(m_scores[team]);
@@ -234,6 +236,26 @@ void PeriodEndCard::hideEvent(QHideEvent* event) {
     m_period = 0;
     emit closed();
   }
+}
+
+// A score is typed in passing: its end gives the keys back, and the clock's key is the clock's.
+bool PeriodEndCard::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+    return QFrame::eventFilter(watched, event);
+  const int key = static_cast<const QKeyEvent*>(event)->key();
+  const bool isEnd = key == Qt::Key_Return || key == Qt::Key_Enter;
+  if (!isEnd && key != Qt::Key_Space)
+    return QFrame::eventFilter(watched, event);
+  event->accept();
+  if (event->type() == QEvent::ShortcutOverride)
+    return true;
+  if (isEnd && watched == m_scores[0])
+    m_scores[1]->setFocus();
+  else
+    parentWidget()->setFocus();
+  if (!isEnd)
+    emit clockAsked();
+  return true;
 }
 
 } // namespace hooptab

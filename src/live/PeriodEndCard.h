@@ -37,10 +37,12 @@ class PeriodEndCard : public QFrame {
   void checkAsked();
   void switchAsked();
   void substitutionAsked();
+  void clockAsked(); // by its key, while a score is typed
   void closed();
 
  protected:
   void hideEvent(QHideEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QWidget* makeScore();

@@ -193,6 +193,7 @@ void frmLIVE::connectEverything() {
   });
   connect(m_score, &ScorePanel::colourAsked, this, &frmLIVE::chooseColour);
   connect(m_bench, &BenchPanel::toggled, this, [this](int team, int player) {
+    m_notices->message().withdraw();
     m_game.toggleOnCourt(team, player);
     showGame();
   });
@@ -204,7 +205,10 @@ void frmLIVE::connectEverything() {
   connect(m_bench, &BenchPanel::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_bench, &BenchPanel::selected, this, &frmLIVE::showSelected);
   connect(m_bench, &BenchPanel::actionAsked, this, &frmLIVE::record);
-  connect(m_requests, &EventRequests::gameChanged, this, &frmLIVE::showGame);
+  connect(m_requests, &EventRequests::gameChanged, this, [this] {
+    m_notices->message().withdraw();
+    showGame();
+  });
   connect(m_requests, &EventRequests::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_requests, &EventRequests::startTakenBack, this, [this] { say(kStartTakenBack); });
   connect(m_score, &ScorePanel::platesStayAsked, this, [this](bool stay) {
@@ -248,6 +252,8 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   }
   if (!mayClose()) // what is open now
     return Opening::Refused;
+  m_afterQuestion = {};
+  m_followUp->dismiss();
   const qint64 fileTime = QFileInfo(path).lastModified().toSecsSinceEpoch();
   const GameHold::Access access = m_hold->request(path, std::move(lock));
   m_problem =
@@ -269,7 +275,6 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   m_card->hide();
   m_endedPeriod = m_game.endedPeriod(); // an end of another day is no news
   m_isSwitched = false;
-  m_followUp->dismiss();
   m_bench->clearSelection();
   const bool wasClosed = m_game.wasClosedInPlay();
   m_offersClock = true; // where there is one to be chosen
@@ -474,6 +479,7 @@ void frmLIVE::gameOver() {
 }
 
 void frmLIVE::setOnCourt(const OnCourt& onCourt) {
+  m_notices->message().withdraw();
   m_game.setOnCourt(onCourt);
   showGame();
 }

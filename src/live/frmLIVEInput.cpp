@@ -18,6 +18,7 @@
 #include "storage/EventWords.h"
 #include "storage/Settings.h"
 
+#include <QCursor>
 #include <QShortcut>
 
 #include <utility>
@@ -78,12 +79,14 @@ void frmLIVE::connectCard() {
     m_card->hide();
     m_bench->askSeveral();
   });
+  connect(m_card, &PeriodEndCard::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_card, &PeriodEndCard::closed, this, [this] { setFocus(); });
 }
 
 void frmLIVE::connectKeys() {
   connect(m_keys, &LiveKeys::clockPressed, this, &frmLIVE::toggleClock);
   connect(m_keys, &LiveKeys::recorded, this, [this](const KeypadOrder& order) {
+    m_notices->message().withdraw();
     showGame();
     if (order.kind == KeypadOrder::Kind::Shot)
       afterShot(order.team, order.player, order.code, order.isMade);
@@ -116,6 +119,7 @@ void frmLIVE::pressCourt(int slot, const QPointF& place, bool isMade) {
 void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
   const int team = LiveGame::teamOf(slot);
   const int player = m_game.playerIn(slot);
+  m_notices->message().withdraw(); // what it offers was about the event before
   if (!m_game.recordShot(team, player, kind, isMade, place))
     return;
   m_repeats->noteRecorded();
@@ -163,6 +167,8 @@ void frmLIVE::askBenchShot(int team, int player, const QPoint& place) {
 }
 
 void frmLIVE::shootFromBench(EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
+  m_followUp->ignoreSecondPress(QCursor::pos());
+  m_notices->message().withdraw();
   if (!m_game.recordShot(m_benchTeam, m_benchPlayer, kind, isMade, place))
     return;
   m_bench->clearSelection();
@@ -188,6 +194,7 @@ void frmLIVE::act(int slot, EventCode kind) {
 
 // A player is selected for one action: a finger that slips onto the button twice gives no second foul.
 bool frmLIVE::record(int team, int player, EventCode kind) {
+  m_notices->message().withdraw();
   const bool isRecorded = m_game.recordAction(team, player, kind);
   if (m_bench->isSelected(team, player))
     m_bench->clearSelection();
@@ -197,6 +204,7 @@ bool frmLIVE::record(int team, int player, EventCode kind) {
 
 // The last of what was recorded; once more, and it is in doubt no longer.
 void frmLIVE::markDoubtful() {
+  m_game.writePending();
   const auto last = m_game.lastRecorded();
   if (!last)
     return;

@@ -212,7 +212,16 @@ std::string withDoubt(const std::string& line, bool isDoubtful) {
   std::string changed = line;
   if (hasDoubt(line))
     changed.erase(line.rfind(kDoubt) - 1, kDoubt.size() + 1);
-  return isDoubtful ? changed + ',' + std::string(kDoubt) : changed;
+  if (!isDoubtful)
+    return changed;
+  // Behind both lists of a stop, be they missing.
+  constexpr std::string_view kStop = ",ARRET";
+  if (const std::size_t stop = changed.find(kStop); stop != std::string::npos) {
+    const auto fields =
+        std::count(changed.begin() + static_cast<std::ptrdiff_t>(stop) + 1, changed.end(), ',');
+    changed.append(static_cast<std::size_t>(std::max<std::ptrdiff_t>(2 - fields, 0)), ',');
+  }
+  return changed.append(",").append(kDoubt);
 }
 
 void EventList::appendOwned(int period, std::string_view key, std::string_view line) {

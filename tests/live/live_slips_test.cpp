@@ -167,6 +167,7 @@ TEST_F(SlipsTest, UndoTakesAStartBackAndRedoLetsTheClockGoOn) {
   EXPECT_EQ(live.clockSeconds(), 596);
   ASSERT_TRUE(live.undo());
   live.start();
+  EXPECT_EQ(live.toRedo(), nullptr) << "the clock has been turned otherwise since";
   pass(10);
   ASSERT_TRUE(live.undo());
   EXPECT_EQ(live.phase(), Phase::Stopped);
@@ -202,6 +203,7 @@ TEST_F(SlipsTest, HalfASubstitutionWaitsForItsOtherHalf) {
   EXPECT_FALSE(live.pending());
   EXPECT_TRUE(lines().ends_with("09:38,ARRET,IN-04-10-13-30,IN-03-07-09-12-15 09:38,DEPART")) << lines();
   ASSERT_TRUE(live.toggleOnCourt(0, 3));
+  EXPECT_FALSE(live.toUndo()->start) << "the half that was clicked is taken back first";
   live.stop();
   EXPECT_TRUE(lines().ends_with("09:18,DEPART 09:18,ARRET,IN-04-13-30,IN-03-07-09-12-15")) << lines();
   EXPECT_TRUE(live.log().countsAgree());
@@ -249,6 +251,9 @@ TEST_F(SlipsTest, DoubtsAndAcceptedFindingsStandInTheFileUntilTheEventChanges) {
   EXPECT_EQ(tallied(read).players[0][1].counters[Counter::FGM], 1) << "counts as before";
   ASSERT_TRUE(live.editEvent(turnover, 590, {.kind = EventCode::SPF, .team = 0, .player = 7}));
   EXPECT_EQ(checkRecorded(live.game()).size(), 1U) << "another event, another finding";
+  const std::string bare = withDoubt("05:00,ARRET", true);
+  EXPECT_EQ(bare, "05:00,ARRET,,,?=1") << "behind both lists, be they missing";
+  EXPECT_TRUE(GameEvent::parse(1, "1", bare).isUnderstood && GameEvent::parse(1, "1", bare).isDoubtful);
   ASSERT_TRUE(live.setDoubtful({1, "3"}, false));
   EXPECT_TRUE(lines().starts_with("10:00,GFG,0-3 ")) << lines();
 }
