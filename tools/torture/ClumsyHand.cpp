@@ -100,14 +100,14 @@ void ClumsyHand::pressGap(int slot) {
   slipped();
 }
 
-// Where two zones meet.
+// Where two zones meet, whichever way the court is turned: a line is a pixel wide, and turning it rounds.
 void ClumsyHand::pressLine(int slot) {
   const Program::Place court = table().program.where(element("CourtJ", slot));
   std::vector<Pixel> line;
   for (int y = 0; court.isShown && y < court.height; ++y) {
     for (int x = 0; x < court.width; ++x) {
       const auto shown = placeShownAt(court.width, court.height, {x, y});
-      if (shown && !CourtClick::of(*shown, playsRight(slot / kSlotsOfTeam), zones()))
+      if (shown && !CourtClick::of(*shown, false, zones()) && !CourtClick::of(*shown, true, zones()))
         line.push_back({x, y});
     }
   }
