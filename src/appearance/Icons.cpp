@@ -44,18 +44,17 @@ class PaletteIconEngine : public QIconEngine {
     const QColor text =
         palette.color(isDisabled ? QPalette::Disabled : QPalette::Active,
                       mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText);
-    const QColor accent = isDisabled ? text : Theme::accent();
-    const QString key = QStringLiteral("hooptab/%1/%2x%3/%4/%5")
+    const QString key = QStringLiteral("hooptab/%1/%2x%3/%4")
                             .arg(m_name)
                             .arg(size.width())
                             .arg(size.height())
-                            .arg(text.name(), accent.name());
+                            .arg(text.name());
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap))
       return pixmap;
     pixmap = QPixmap(size);
     pixmap.fill(Qt::transparent);
-    QSvgRenderer renderer(coloured(text, accent));
+    QSvgRenderer renderer(coloured(text));
     if (renderer.isValid()) {
       renderer.setAspectRatioMode(Qt::KeepAspectRatio);
       QPainter painter(&pixmap);
@@ -65,14 +64,14 @@ class PaletteIconEngine : public QIconEngine {
     return pixmap;
   }
 
-  QByteArray coloured(const QColor& text, const QColor& accent) const {
+  QByteArray coloured(const QColor& text) const {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(m_name));
     if (!file.open(QIODevice::ReadOnly))
       return {};
     QByteArray svg = file.readAll();
     if (m_name == QLatin1String("hooptab")) // the program's own icon keeps its colours
       return svg;
-    return svg.replace("#000000", text.name().toLatin1()).replace("#d9822b", accent.name().toLatin1());
+    return svg.replace("#000000", text.name().toLatin1());
   }
 
   QString m_name;
