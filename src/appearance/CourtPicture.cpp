@@ -17,17 +17,9 @@ namespace {
 
 using namespace court;
 
-// On paper and on every court colour alike. Green is much darker than red, for whoever cannot tell the two
-// apart; the shapes differ too, so that no colour is needed to read them.
-constexpr QColor kMadeColour(0x07, 0x54, 0x2A);
-constexpr QColor kMissedColour(0xDB, 0x2B, 0x1F);
-constexpr QColor kOutlineColour(0xFF, 0xFF, 0xFF);
-constexpr QColor kRimColour(0xC2, 0x41, 0x0C);
-constexpr QColor kTintColour(0xC2, 0x41, 0x0C);
+constexpr QColor kTintColour = kRim;
 constexpr QColor kPlateColour(0xFF, 0xFF, 0xFF, 0xE8);
 constexpr QColor kPlateTextColour(0x1D, 0x1B, 0x18);
-constexpr QColor kDarkLine(0x24, 0x22, 0x20);
-constexpr QColor kLightLine(0xF4, 0xF2, 0xEE);
 
 QRectF courtRect() {
   return {0, 0, kLength, kWidth};
@@ -128,22 +120,25 @@ double scaleOf(const QRectF& fitted, CourtPicture::Turn turn) {
   return fitted.width() / (turn == CourtPicture::Turn::BaselineLeft ? kLength : kWidth);
 }
 
-void paintMark(QPainter& painter, const QPointF& centre, double radius, const CourtMark& mark) {
-  const double line = radius * 0.55;
+// Each parted from any ground by what lies around it, and from each other by shape.
+void paintMark(QPainter& painter, const QPointF& centre, double radius, double pixel, const CourtMark& mark,
+               const QColor& halo) {
+  const Look& look = Theme::look();
   if (mark.isHighlighted) { // a ring that no other mark has
-    painter.setBrush(kOutlineColour);
-    painter.setPen(QPen(kDarkLine, line * 0.6));
+    painter.setBrush(look.surface);
+    painter.setPen(QPen(look.ink, 1.5 * pixel));
     painter.drawEllipse(centre, radius * 1.75, radius * 1.75);
   }
   if (mark.isMade) {
-    painter.setPen(QPen(kOutlineColour, line * 0.6));
-    painter.setBrush(kMadeColour);
+    painter.setPen(QPen(kMadeRing, 1.6 * pixel));
+    painter.setBrush(kMadeMark);
     painter.drawEllipse(centre, radius, radius);
     return;
   }
-  const double arm = radius * 0.9;
-  for (const QPen& pen : {QPen(kOutlineColour, line * 2.1, Qt::SolidLine, Qt::RoundCap),
-                          QPen(kMissedColour, line, Qt::SolidLine, Qt::RoundCap)}) {
+  // Open enough to show a made one under it.
+  const double arm = radius * 1.05;
+  for (const QPen& pen : {QPen(halo, 4 * pixel, Qt::SolidLine, Qt::RoundCap),
+                          QPen(kMissedMark, 2 * pixel, Qt::SolidLine, Qt::RoundCap)}) {
     painter.setPen(pen);
     painter.drawLine(centre - QPointF(arm, arm), centre + QPointF(arm, arm));
     painter.drawLine(centre - QPointF(arm, -arm), centre + QPointF(arm, -arm));
@@ -202,6 +197,20 @@ Plates layOut(const QPainter& painter, double pixel, const QRectF& fitted, Court
 
 } // namespace
 
+CourtColours wornCourt(const ChosenColours& chosen, CourtStrength strength) {
+  const Look& look = Theme::look();
+  const bool isDark = Theme::current() == ColourScheme::Dark;
+  const double share = strength == CourtStrength::Calm ? look.calmCourt : look.setCourt;
+  const auto worn = [&](std::uint32_t colour) {
+    return mix(colourOf(colour), isDark ? look.desk : look.surface, share);
+  };
+  return {worn(chosen.twoPoints),
+          worn(chosen.box),
+          worn(chosen.threePoints),
+          {},
+          isDark ? look.desk : QColor(Qt::white)};
+}
+
 QRectF CourtPicture::fitted(const QRectF& area, Turn turn) {
   const QSizeF shape = turn == Turn::BaselineLeft ? QSizeF(kLength, kWidth) : QSizeF(kWidth, kLength);
   const QSizeF size = shape.scaled(area.size(), Qt::KeepAspectRatio);
@@ -230,16 +239,19 @@ double CourtPicture::pixelOf(const QPainter& painter) const {
   return painter.device() == nullptr ? 1 : std::max(1.0, painter.device()->logicalDpiX() / kScreenDpi);
 }
 
+// The look's line where it is seen on all three zones, else that of the other look.
 QColor CourtPicture::lineColour() const {
   if (m_colours.line.isValid())
     return m_colours.line;
-  const auto mean = [this](int (QColor::*channel)() const) {
-    return ((m_colours.twoPoints.*channel)() + (m_colours.box.*channel)() +
-            (m_colours.threePoints.*channel)()) /
-           3;
+  const auto seen = [this](const QColor& line) {
+    double least = 21;
+    for (const QColor& zone : {m_colours.twoPoints, m_colours.box, m_colours.threePoints})
+      least = std::min(least, contrast(mix(line, zone, line.alphaF()), zone));
+    return least;
   };
-  const QColor usual(mean(&QColor::red), mean(&QColor::green), mean(&QColor::blue));
-  return textOn(usual) == QColor(Qt::black) ? kDarkLine : kLightLine;
+  const QColor dark = lookOf(ColourScheme::Light).courtLine;
+  const QColor light = lookOf(ColourScheme::Dark).courtLine;
+  return seen(dark) >= seen(light) ? dark : light;
 }
 
 void CourtPicture::paintCourt(QPainter& painter, const QRectF& fitted, Turn turn) const {
@@ -276,12 +288,12 @@ void CourtPicture::paintLines(QPainter& painter, double scale) const {
   painter.drawArc(aroundBasket(kNoChargeRadius), -90 * kSixteenths, 180 * kSixteenths);
   for (const double side : {-kNoChargeRadius, kNoChargeRadius})
     painter.drawLine(QPointF(kBackboardX, kBasketY + side), QPointF(kBasketX, kBasketY + side));
-  pen.setWidthF(width * 1.6);
+  pen.setWidthF(width * 2.2);
   painter.setPen(pen);
   painter.drawLine(QPointF(kBackboardX, kBasketY - kBackboardWidth / 2),
                    QPointF(kBackboardX, kBasketY + kBackboardWidth / 2));
   constexpr double kSmallestRim = 2; // pixels; the true one would be a dot in a small picture
-  painter.setPen(QPen(kRimColour, width * 1.4));
+  painter.setPen(QPen(kRim, width * 1.4));
   painter.drawEllipse(aroundBasket(std::max(kRimRadius, kSmallestRim / scale)));
 }
 
@@ -293,11 +305,23 @@ void CourtPicture::paintMarks(QPainter& painter, const QRectF& fitted, Turn turn
   const double pixel = pixelOf(painter);
   constexpr double kRadiusUnits = 2;
   const double radius = std::clamp(kRadiusUnits * scaleOf(fitted, turn), 3.2 * pixel, 8 * pixel);
-  for (const bool isHighlighted : {false, true}) { // highlighted ones lie above all others
-    for (const CourtMark& mark : marks) {
-      const Place place = atEdge(mark.place);
-      if (mark.isHighlighted == isHighlighted)
-        paintMark(painter, transform.map(QPointF(place.x, place.y)), radius, mark);
+  // Made ones below the missed, highlighted ones above all others. A mark stays whole inside the picture.
+  const double reach = radius + 2 * pixel;
+  const auto inside = [](double value, double from, double to) {
+    return std::clamp(value, from, std::max(from, to));
+  };
+  for (const bool isHighlighted : {false, true}) {
+    for (const bool isMade : {true, false}) {
+      for (const CourtMark& mark : marks) {
+        if (mark.isHighlighted != isHighlighted || mark.isMade != isMade)
+          continue;
+        const Place place = atEdge(mark.place);
+        const QPointF centre = transform.map(QPointF(place.x, place.y));
+        paintMark(painter,
+                  {inside(centre.x(), fitted.left() + reach, fitted.right() - reach),
+                   inside(centre.y(), fitted.top() + reach, fitted.bottom() - reach)},
+                  radius, pixel, mark, m_colours.halo);
+      }
     }
   }
   painter.restore();

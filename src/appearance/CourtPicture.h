@@ -2,6 +2,8 @@
 #pragma once
 
 #include "appearance/CourtGeometry.h"
+#include "appearance/Theme.h"
+#include "storage/Settings.h"
 
 #include <QColor>
 #include <QPainter>
@@ -16,9 +18,15 @@ namespace hooptab {
 
 struct CourtColours {
   QColor twoPoints, box, threePoints;
-  QColor line = {}; // not valid: dark or light, whichever stands out from the zones
+  QColor line = {};        // not valid: dark or light, whichever stands out from the zones
+  QColor halo = Qt::white; // around the crosses
   friend bool operator==(const CourtColours&, const CourtColours&) = default;
 };
+
+// The colours of the settings as the look wears them: calm, so that marks and teams stand out, or as they
+// were set. On paper they are never worn.
+[[nodiscard]] CourtColours wornCourt(const ChosenColours& chosen,
+                                     CourtStrength strength = Theme::courtStrength());
 
 struct CourtMark {
   court::Place place;
@@ -53,7 +61,8 @@ class CourtPicture {
   static Turn largerTurn(const QRectF& area);
 
   void paintCourt(QPainter& painter, const QRectF& fitted, Turn turn) const;
-  // Made shots are filled circles in green, missed ones crosses in red, both with a contrasting outline.
+  // Made shots are filled circles in green, missed ones crosses in red, each with what parts it from any
+  // ground.
   void paintMarks(QPainter& painter, const QRectF& fitted, Turn turn,
                   const std::vector<CourtMark>& marks) const;
   // Each zone tinted, with its texts on a plate. Where there is no room for both texts, the upper ones alone.

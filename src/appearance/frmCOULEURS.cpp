@@ -9,6 +9,7 @@
 #include "appearance/relabel.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -35,6 +36,10 @@ constexpr int kDefaultsToolTip = 1905;
 constexpr int kLabelToolTip = 1906;
 constexpr int kSampleToolTip = 1907;
 constexpr int kCourtName = 1908;
+constexpr int kAsSet = 2594;
+constexpr int kMaple = 2595;
+constexpr int kSlate = 2596;
+constexpr int kPaper = 2597;
 
 // Made and missed shots in every zone, so that one sees whether marks stand out from it.
 const std::vector<CourtMark> kSampleMarks = {
@@ -90,6 +95,7 @@ frmCOULEURS::frmCOULEURS(Settings& settings, const Texts& texts, Dialogs& dialog
 
   connect(defaults, &QPushButton::clicked, this, [this] {
     m_choice.colours = kFirstColours;
+    m_asSet->setChecked(false);
     showColours();
   });
   connect(applies, &QPushButton::clicked, this, &frmCOULEURS::apply);
@@ -112,7 +118,49 @@ QWidget* frmCOULEURS::makeColours() {
   addColour(*rows, "cmdCOULEUR3PTS", 1149, &ChosenColours::threePoints);
   addColour(*rows, "cmdCOULEURBOX", 1150, &ChosenColours::box);
   addColour(*rows, "cmdCOULEURBUT", 1341, &ChosenColours::buttons);
+  m_asSet = new QCheckBox(this);
+  m_asSet->setObjectName(QStringLiteral("chkASSET"));
+  m_asSet->setChecked(Theme::courtStrength() == CourtStrength::AsSet);
+  setTextNumber(*m_asSet, kAsSet);
+  connect(m_asSet, &QCheckBox::toggled, this, &frmCOULEURS::showColours);
+  rows->addWidget(m_asSet, rows->rowCount(), 0, 1, 2);
+  rows->addWidget(makePresets(), rows->rowCount(), 0, 1, 2);
   return group;
+}
+
+// A court in one click.
+QWidget* frmCOULEURS::makePresets() {
+  struct Preset {
+    const char* name;
+    int text;
+    QColor twoPoints, box, threePoints, buttons;
+  };
+  const Preset presets[] = {
+      {"cmdMAPLE", kMaple, {0xEB, 0xD3, 0xAC}, {0xC9, 0x8B, 0x63}, {0xDC, 0xE6, 0xEE}, {0x5B, 0x7A, 0x99}},
+      {"cmdSLATE", kSlate, {0xDC, 0xE3, 0xEA}, {0x9D, 0xB2, 0xC6}, {0xF4, 0xF6, 0xF8}, {0x5B, 0x7A, 0x99}},
+      {"cmdPAPER", kPaper, {0xFF, 0xFF, 0xFE}, {0xE6, 0xE6, 0xE6}, {0xFF, 0xFF, 0xFF}, {0x80, 0x80, 0x80}},
+  };
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  for (const Preset& preset : presets) {
+    auto* button = new QPushButton(row);
+    button->setObjectName(QLatin1String(preset.name));
+    button->setAutoDefault(false);
+    setTextNumber(*button, preset.text);
+    connect(button, &QPushButton::clicked, this, [this, preset] {
+      m_choice.colours = {storedColour(preset.twoPoints), storedColour(preset.box),
+                          storedColour(preset.threePoints), storedColour(preset.buttons)};
+      m_asSet->setChecked(true);
+      showColours();
+    });
+    layout->addWidget(button);
+  }
+  return row;
+}
+
+CourtStrength frmCOULEURS::strength() const {
+  return m_asSet->isChecked() ? CourtStrength::AsSet : CourtStrength::Calm;
 }
 
 void frmCOULEURS::addColour(QGridLayout& rows, const char* name, int text,
@@ -203,6 +251,7 @@ void frmCOULEURS::chooseColour(std::uint32_t ChosenColours::*colour) {
   if (!chosen.isValid())
     return;
   m_choice.colours.*colour = storedColour(chosen);
+  m_asSet->setChecked(true); // a colour that was chosen is the colour that is seen
   showColours();
 }
 
@@ -218,7 +267,7 @@ void frmCOULEURS::showColours() {
     shown.button->setText(colourOf(colours.*shown.colour).name().toUpper());
   }
   showColour(*m_sample, colours.buttons);
-  m_court->setColours({colourOf(colours.twoPoints), colourOf(colours.box), colourOf(colours.threePoints)});
+  m_court->setColours(wornCourt(colours, strength()));
 }
 
 bool frmCOULEURS::apply() {
@@ -229,6 +278,7 @@ bool frmCOULEURS::apply() {
   const bool isOnDisk = m_choice.save(m_settings);
   m_choice = CourtColourChoice::of(m_settings);
   showLabels();
+  Theme::setCourtStrength(strength());
   emit applied();
   relabelWindow(); // what is applied may relabel the whole program, which takes the Alt keys away
   if (!isOnDisk)

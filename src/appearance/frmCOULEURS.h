@@ -4,11 +4,13 @@
 #pragma once
 
 #include "appearance/CourtColourChoice.h"
+#include "appearance/Theme.h"
 
 #include <QDialog>
 
 #include <vector>
 
+class QCheckBox;
 class QGridLayout;
 class QLineEdit;
 class QPushButton;
@@ -24,8 +26,9 @@ class frmCOULEURS : public QDialog {
  public:
   frmCOULEURS(Settings& settings, const Texts& texts, Dialogs& dialogs, QWidget* parent = nullptr);
 
-  void relabelWindow();   // the language has changed
-  void reject() override; // asks when there are changes that are not applied
+  void relabelWindow();           // the language has changed
+  CourtStrength strength() const; // as applied, or chosen
+  void reject() override;         // asks when there are changes that are not applied
 
  signals:
   void applied();
@@ -39,6 +42,7 @@ class frmCOULEURS : public QDialog {
   QWidget* makeColours();
   QWidget* makeLabels();
   QWidget* makePreview();
+  QWidget* makePresets();
   void addColour(QGridLayout& rows, const char* name, int text, std::uint32_t ChosenColours::*colour);
   void addLabel(QGridLayout& rows, std::size_t which, const char* name, int text);
   QPushButton* makeButton(const char* name, int text, int toolTip);
@@ -54,6 +58,7 @@ class frmCOULEURS : public QDialog {
   std::vector<ColourButton> m_colours;
   QLineEdit* m_labels[2] = {};
   CourtView* m_court = nullptr;
+  QCheckBox* m_asSet = nullptr; // not calmer
   QPushButton* m_sample = nullptr;
 };
 

@@ -1,5 +1,6 @@
 #include "manual/ManualCourt.h"
 
+#include "appearance/CourtColourChoice.h"
 #include "appearance/Theme.h"
 
 #include <QMouseEvent>
@@ -27,8 +28,7 @@ ManualCourt::ManualCourt(const Settings& settings, QWidget* parent)
 }
 
 void ManualCourt::applyColours() {
-  setColours({colourOf(m_settings.twoPointColour), colourOf(m_settings.boxColour),
-              colourOf(m_settings.threePointColour)});
+  setColours(wornCourt(CourtColourChoice::of(m_settings).colours));
   m_zones = zoneMapOf(m_settings);
 }
 

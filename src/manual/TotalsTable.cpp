@@ -226,15 +226,15 @@ void TotalsTable::showRow(int slot) {
   if (!isShown)
     return;
 
-  using Look = CountCell::Look;
+  using enum CountCell::Look;
   const bool isChosen = !isTotal && slot == m_player;
-  const Look look = isTotal ? Look::Total : isChosen ? Look::InRow : slot % 2 == 0 ? Look::Odd : Look::Even;
+  const CountCell::Look look = isTotal ? Total : isChosen ? InRow : slot % 2 == 0 ? Odd : Even;
   const Counters counts =
       isTotal ? m_game.totals.teamCounts(m_team) : m_game.totals.slot(m_team, slot).counts();
   for (int column = 0; column < kColumns; ++column) {
     CountCell* cell = row.counts[static_cast<std::size_t>(column)];
     const bool isCurrent = isChosen && column == m_column && hasFocus();
-    cell->setLook(!isCurrent ? look : m_isTyping ? Look::Typing : Look::Current);
+    cell->setLook(!isCurrent ? look : m_isTyping ? Typing : Current);
     cell->setText(isTotal ? countText(counts[columnAt(column).counter]) : typedText(slot, column));
   }
   row.points->setLook(look);

@@ -1,5 +1,6 @@
 #include "scorecard/ShotChartPanel.h"
 
+#include "appearance/CourtColourChoice.h"
 #include "appearance/CourtView.h"
 #include "appearance/Icons.h"
 #include "appearance/PlainLabel.h"
@@ -177,8 +178,7 @@ void ShotChartPanel::showNumbers() {
 }
 
 void ShotChartPanel::applyColours() {
-  m_court->setColours({colourOf(m_settings.twoPointColour), colourOf(m_settings.boxColour),
-                       colourOf(m_settings.threePointColour)});
+  m_court->setColours(wornCourt(CourtColourChoice::of(m_settings).colours));
   m_byShot->setIcon(icon(QStringLiteral("byshot")));
   m_byZone->setIcon(icon(QStringLiteral("byzone")));
   showNumbers();

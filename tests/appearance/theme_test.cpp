@@ -4,7 +4,6 @@
 #include <QFontMetricsF>
 #include <QImage>
 #include <QLabel>
-#include <QMdiArea>
 #include <QTableWidget>
 #include <algorithm>
 #include <cmath>
@@ -20,12 +19,11 @@ double luminance(const QColor& colour) {
   };
   return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
-double contrast(const QColor& one, const QColor& other) {
+double measured(const QColor& one, const QColor& other) {
   const double a = luminance(one) + 0.05;
   const double b = luminance(other) + 0.05;
   return std::max(a, b) / std::min(a, b);
 }
-constexpr double kReadable = 4.5;
 
 class ThemeTest : public testing::TestWithParam<ColourScheme> {
  protected:
@@ -37,39 +35,64 @@ INSTANTIATE_TEST_SUITE_P(BothThemes, ThemeTest, testing::Values(ColourScheme::Li
 
 TEST_P(ThemeTest, IsReadableWhereverTextStands) {
   EXPECT_EQ(Theme::current(), GetParam());
-  const QPalette palette = QApplication::palette();
-  for (const auto& [text, background] :
-       {std::pair(QPalette::WindowText, QPalette::Window), std::pair(QPalette::Text, QPalette::Base),
-        std::pair(QPalette::Text, QPalette::AlternateBase), std::pair(QPalette::ButtonText, QPalette::Button),
-        std::pair(QPalette::HighlightedText, QPalette::Highlight),
-        std::pair(QPalette::ToolTipText, QPalette::ToolTipBase)})
-    EXPECT_GE(contrast(palette.color(text), palette.color(background)), 7) << text;
-  for (const QColor& text : {Theme::accent(), Theme::made(), Theme::missed(), Theme::muted()}) {
-    for (const QPalette::ColorRole background : {QPalette::Window, QPalette::Base, QPalette::AlternateBase})
-      EXPECT_GE(contrast(text, palette.color(background)), kReadable) << text.name().toStdString();
+  const Look& look = Theme::look();
+  const auto reads = [](const QColor& text, const QColor& ground, double need = kReadable) {
+    EXPECT_GE(measured(text, ground), need)
+        << text.name().toStdString() << " on " << ground.name().toStdString();
+    EXPECT_NEAR(contrast(text, ground), measured(text, ground), 0.05);
+  };
+  for (const QColor& ground : {look.desk, look.surface, look.raised, look.soft, look.seasonHigh})
+    reads(look.ink, ground, 7);
+  for (const QColor& ground : {look.desk, look.surface, look.raised, look.soft}) {
+    for (const QColor& text : {look.muted, look.accent, look.missed, look.made})
+      reads(text, ground);
+    reads(look.accent, ground); // the focus
   }
+  for (const QColor& ground : {look.surface, look.raised})
+    reads(look.faint, ground);
+  reads(look.onAccent, look.accent);
+  reads(look.onStart, look.start);
+  reads(look.warningText, look.warningGround);
+  reads(look.doubtfulText, look.doubtfulGround);
+  for (const QColor& text : {look.plateText, look.plateMuted, look.clockStands, look.clockRuns})
+    reads(text, look.plate);
+  reads(lookOf(ColourScheme::Dark).accent, look.plate); // what a message offers
+  for (const QColor& line : {look.edge, look.warningBar})
+    reads(line, look.surface, kRecognisable);
+  reads(look.edge, look.raised, kRecognisable); // of what is disabled
+  reads(kMadeMark, kMadeRing, kRecognisable);
+  reads(kMissedMark, GetParam() == ColourScheme::Light ? QColor(Qt::white) : look.desk, kRecognisable);
+  const QPalette palette = QApplication::palette();
+  EXPECT_EQ(palette.color(QPalette::Window), look.desk);
+  EXPECT_EQ(palette.color(QPalette::HighlightedText), look.ink);
 }
 
-TEST_P(ThemeTest, SetsDisabledApartAndKeepsItLegible) {
-  const QPalette palette = QApplication::palette();
-  const QColor background = palette.color(QPalette::Window);
-  const QColor disabled = palette.color(QPalette::Disabled, QPalette::ButtonText);
-  EXPECT_GE(contrast(disabled, background), 2);
-  EXPECT_GE(contrast(palette.color(QPalette::Active, QPalette::ButtonText), disabled), 3);
+// Any colour that a team or the settings may have.
+TEST_P(ThemeTest, ShiftsColoursUntilTheyAreSeen) {
+  const Look& look = Theme::look();
+  unsigned seed = 20261122;
+  for (int round = 0; round < 500; ++round) {
+    seed = seed * 1664525U + 1013904223U;
+    const QColor colour = colourOf(seed >> 8U);
+    for (const QColor& ground : {look.desk, look.surface, look.plate}) {
+      ASSERT_GE(measured(lineOn(colour, ground, kReadable), ground), kReadable)
+          << colour.name().toStdString();
+      ASSERT_GE(measured(outlineOf(colour, ground), ground), kRecognisable) << colour.name().toStdString();
+    }
+  }
+  EXPECT_EQ(lineOn(look.ink, look.surface, kReadable), look.ink) << "what is seen stays as it is";
 }
 
 TEST_P(ThemeTest, TellsMadeFromMissedByLightnessToo) {
-  EXPECT_GE(contrast(Theme::made(), Theme::missed()), 1.5);
+  EXPECT_GE(measured(kMadeMark, kMissedMark), 2.5); // on the court, where only the shape helps besides
 }
 
 TEST_P(ThemeTest, ReachesWindowsThatAreOpen) {
-  QMdiArea area;
-  QLabel label(&area);
-  area.show();
-  const QBrush before = area.background();
+  QWidget window;
+  QLabel label(&window);
+  window.show();
   Theme::apply(*qApp, GetParam() == ColourScheme::Light ? ColourScheme::Dark : ColourScheme::Light);
   QCoreApplication::processEvents();
-  EXPECT_NE(area.background(), before);
   EXPECT_EQ(label.palette().color(QPalette::WindowText), QApplication::palette().color(QPalette::WindowText));
 }
 
@@ -92,7 +115,7 @@ TEST_P(ThemeTest, ShowsCheckBoxesAndWhetherTheyAreChecked) {
   double strongest = 1;
   for (int y = 0; y < cells[0].height(); ++y) {
     for (int x = 0; x < cells[0].width(); ++x)
-      strongest = std::max(strongest, contrast(cells[0].pixelColor(x, y), background));
+      strongest = std::max(strongest, measured(cells[0].pixelColor(x, y), background));
   }
   EXPECT_GE(strongest, 3);
   EXPECT_NE(cells[0], cells[1]);
@@ -100,7 +123,16 @@ TEST_P(ThemeTest, ShowsCheckBoxesAndWhetherTheyAreChecked) {
   EXPECT_NE(cells[0], cells[2]);
 }
 
+// Clock and counts do not move, and the fonts come with the program.
 TEST_P(ThemeTest, HasFiguresOfOneWidth) {
+  for (const Type type : {Type::Dense, Type::Body, Type::Count, Type::Clock}) {
+    const QFont font = Theme::font(type);
+    EXPECT_TRUE(QFontInfo(font).family().startsWith(QStringLiteral("HOOPTAB")))
+        << QFontInfo(font).family().toStdString();
+    for (char digit = '1'; digit <= '9'; ++digit)
+      EXPECT_EQ(QFontMetricsF(font).horizontalAdvance(QLatin1Char(digit)),
+                QFontMetricsF(font).horizontalAdvance(QLatin1Char('0')));
+  }
   for (const bool isBold : {false, true}) {
     const QFontMetricsF metrics(Theme::figures(28, isBold));
     for (char digit = '1'; digit <= '9'; ++digit)
@@ -124,7 +156,7 @@ TEST(Colours, CarryTheTextThatReadsBetter) {
     for (int green = 0; green <= 255; green += 17) {
       for (int blue = 0; blue <= 255; blue += 17) {
         const QColor background(red, green, blue);
-        ASSERT_GE(contrast(textOn(background), background), kReadable) << background.name().toStdString();
+        ASSERT_GE(measured(textOn(background), background), kReadable) << background.name().toStdString();
       }
     }
   }
