@@ -5,6 +5,7 @@
 #include "storage/Settings.h"
 
 #include <algorithm>
+#include <array>
 
 namespace hooptab {
 
@@ -61,6 +62,11 @@ const GameEvent* stopBefore(const EventList& events, std::size_t index) {
 
 } // namespace
 
+std::string familyName(std::string_view name) {
+  const std::size_t blank = name.find(' ');
+  return std::string(blank == std::string_view::npos || blank == 0 ? name : name.substr(blank + 1));
+}
+
 EventWords::EventWords(const Game& game, const Texts& texts) : m_game(game), m_texts(texts) {}
 
 std::string EventWords::words(std::size_t eventIndex) const {
@@ -92,6 +98,34 @@ std::string EventWords::words(std::size_t eventIndex, Length length) const {
   if (length == Length::Short && event.isShot())
     return who + (event.isMade ? " ● " : " ✕ ") + std::string(m_texts.text(event.kind()->wordsText));
   return sentence(m_texts, who, action(event));
+}
+
+EventWords::Parts EventWords::parts(std::size_t eventIndex) const {
+  const GameEvent& event = m_game.events[eventIndex];
+  Parts parts;
+  if (!event.isUnderstood || event.code == EventCode::DEPART) {
+    parts.action = words(eventIndex, Length::Short);
+  } else if (event.code == EventCode::ARRET) {
+    const std::array changes = {changesOf(eventIndex, 0, Length::Short),
+                                changesOf(eventIndex, 1, Length::Short)};
+    if (changes[0].empty() != changes[1].empty()) {
+      parts.team = changes[0].empty() ? 1 : 0;
+      parts.action = changes[static_cast<std::size_t>(parts.team)];
+    } else {
+      parts.action = words(eventIndex, Length::Short);
+    }
+  } else {
+    parts.team = event.player.team;
+    const Roster& roster = m_game.roster[event.player.team];
+    if (const RosterPlayer* who = findPlayer(roster, event.player.jersey); who != nullptr)
+      parts.name = isTeamItself(roster) ? who->name : familyName(who->name);
+    if (!isTeamItself(roster))
+      parts.jersey = std::string(event.player.jersey);
+    parts.action = event.isShot() ? std::string(m_texts.text(event.kind()->wordsText)) + " (" +
+                                        std::string(event.kind()->shortName) + ")"
+                                  : action(event);
+  }
+  return parts;
 }
 
 std::string EventWords::periodText(int period) const {

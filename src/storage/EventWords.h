@@ -6,8 +6,12 @@
 #include "storage/Texts.h"
 
 #include <string>
+#include <string_view>
 
 namespace hooptab {
+
+// All behind the first name; the whole of a name of one word.
+[[nodiscard]] std::string familyName(std::string_view name);
 
 class EventWords {
  public:
@@ -23,6 +27,14 @@ class EventWords {
   // The same where room is short: "LYNX 12 ● 2 points" for a made shot, a cross for a missed one, and no
   // names but that of a side that is its own player.
   [[nodiscard]] std::string shortWords(std::size_t eventIndex) const;
+  // In parts, for a row of a narrow list that draws them apart.
+  struct Parts {
+    int team = -1; // whose it is; none of the clock's own, and where both sides changed players
+    std::string jersey = {};
+    std::string name = {};   // the family name
+    std::string action = {}; // "2 points (FG)", "in 5 out 11"; the whole line where it is not understood
+  };
+  [[nodiscard]] Parts parts(std::size_t eventIndex) const;
   // The abbreviation, or the side in words.
   [[nodiscard]] std::string_view team(int team) const;
   // "1", "OT1": the period as it is shown.
