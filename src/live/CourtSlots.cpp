@@ -1,6 +1,8 @@
 #include "live/CourtSlots.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace hooptab {
 
@@ -26,26 +28,34 @@ void CourtSlots::put(const OnCourt& lists) {
     const auto first = m_players.begin() + team * kSlotsOfTeam;
     const auto last = first + kSlotsOfTeam;
     unsigned coming = lists[static_cast<std::size_t>(team)];
+    std::vector<int*> free; // those that become so first
     for (auto slot = first; slot != last; ++slot) {
       const unsigned bit = *slot > 0 ? 1U << static_cast<unsigned>(*slot) : 0;
-      if ((coming & bit) == 0)
-        *slot = 0;
       coming &= ~bit;
+      if (bit != 0 && (lists[static_cast<std::size_t>(team)] & bit) != 0)
+        continue;
+      if (std::exchange(*slot, 0) != 0)
+        free.push_back(&*slot);
     }
     if (coming == 0)
       continue;
-    auto free = first;
-    for (int player = 1; player <= Roster::kLargestEntry; ++player) {
-      if ((coming & (1U << static_cast<unsigned>(player))) == 0)
-        continue;
-      free = std::find(free, last, 0);
-      if (free == last)
-        break;
-      *free = player;
+    for (auto slot = first; slot != last; ++slot) {
+      if (*slot == 0 && std::ranges::find(free, &*slot) == free.end())
+        free.push_back(&*slot);
     }
-    std::sort(first, last,
-              [](int left, int right) { return (left == 0 ? 99 : left) < (right == 0 ? 99 : right); });
+    auto place = free.begin();
+    for (int player = 1; player <= Roster::kLargestEntry && place != free.end(); ++player) {
+      if ((coming & (1U << static_cast<unsigned>(player))) != 0)
+        **place++ = player;
+    }
+    if (!m_keepsPlaces)
+      std::sort(first, last,
+                [](int left, int right) { return (left == 0 ? 99 : left) < (right == 0 ? 99 : right); });
   }
+}
+
+void CourtSlots::exchange(int slot, int other) {
+  std::swap(m_players[static_cast<std::size_t>(slot)], m_players[static_cast<std::size_t>(other)]);
 }
 
 } // namespace hooptab

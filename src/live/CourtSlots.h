@@ -1,5 +1,6 @@
 // The ten places of the players on court, five of each team: who stands where. Those who stay keep their
-// place; after somebody has come, the occupied places are in order of the roster.
+// place; after somebody has come, the occupied places are in order of the roster. Where places are kept,
+// nobody moves then: who comes takes the place of one who has just left, else the first free one.
 #pragma once
 
 #include "live/OnCourt.h"
@@ -19,10 +20,17 @@ class CourtSlots {
   std::optional<int> slotOf(int team, int player) const;
   OnCourt onCourt() const;
 
+  // From the next who comes on; nobody moves at once.
+  void setKeepsPlaces(bool isOn) { m_keepsPlaces = isOn; }
+  bool keepsPlaces() const { return m_keepsPlaces; }
+
   void clear() { m_players = {}; }
   void put(const OnCourt& lists); // of six or more the first five
+  // Who stands in one of two places of a team stands in the other.
+  void exchange(int slot, int other);
 
  private:
+  bool m_keepsPlaces = false;
   std::array<int, kSlots> m_players = {};
 };
 

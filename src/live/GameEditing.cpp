@@ -67,7 +67,11 @@ std::string GameEditing::keyOfNew(int number) const {
 
 EditPlan GameEditing::replacement(const EventPlace& event, int clock, const std::string& eventText) const {
   const std::string* line = findLine(m_log.lines(), event.period, event.key);
-  if (line == nullptr || !isClock(event.period, clock))
+  if (line == nullptr)
+    return {};
+  const GameEvent old = GameEvent::parse(event.period, event.key, *line);
+  const bool keepsTime = old.isUnderstood && old.clockSeconds == clock;
+  if (!keepsTime && !isClock(event.period, clock))
     return {};
   const Rosters rosters = m_log.rosters();
   const auto start = startOfSubstitution(m_log.lines(), event, rosters);
@@ -79,7 +83,8 @@ EditPlan GameEditing::replacement(const EventPlace& event, int clock, const std:
   if (start)
     std::erase_if(others[event.period], [&](const auto& other) { return other.first == start->key; });
   const std::string behind = keyBehind(others, event);
-  const std::string before = placeForClock(others, event.period, event.key, clock, behind);
+  const std::string before =
+      keepsTime ? behind : placeForClock(others, event.period, event.key, clock, behind);
   if (isWhole && before != behind)
     isWhole = edit.moveCarryingOn(event, before);
   if (!isWhole || !start)

@@ -41,8 +41,8 @@ class GameEditing {
   // while the clock runs takes its start of the clock along.
   [[nodiscard]] EditPlan deletion(std::span<const EventPlace> events, bool isDeleted) const;
   [[nodiscard]] bool canDelete(const EventPlace& event) const { return !closesPeriod(m_log.lines(), event); }
-  // A line in place of another, its mark of deletion apart. With a clock past those of its neighbours the
-  // event moves, within its period, behind the last of equal clock.
+  // A line in place of another, its mark of deletion apart. With another clock, past those of its neighbours,
+  // the event moves, within its period, behind the last of equal clock.
   [[nodiscard]] EditPlan replacement(const EventPlace& event, int clockSeconds,
                                      const std::string& eventText) const;
   // A substitution while the clock runs takes its start of the clock along.

@@ -48,6 +48,8 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
   m_lockedUntil = 0;
   m_starts.clear();
   offerEarlier();
+  if (m_slots.keepsPlaces())
+    comeAndGo();
   showAsLeft();
   return GameFileProblem::None;
 }
@@ -100,6 +102,16 @@ void LiveGame::showAsLeft() {
   if (whole != before) {
     putOnCourt(whole);
     recordStop(); // nobody's action
+  }
+}
+
+// Places that are kept follow from all who came and went, one after the other.
+void LiveGame::comeAndGo() {
+  for (const auto& [period, lines] : m_log.lines()) {
+    for (const auto& [key, line] : lines) {
+      if (const auto lists = onCourtOf(period, line, m_log.rosters()))
+        putOnCourt(*lists);
+    }
   }
 }
 
@@ -356,6 +368,15 @@ bool LiveGame::takeAllOut(int team) {
   return changeByClick(wanted);
 }
 
+bool LiveGame::putInSlot(int slot, int player) {
+  if (slot < 0 || slot >= kSlots || playerIn(slot) > 0 || slotOf(teamOf(slot), player) ||
+      !toggleOnCourt(teamOf(slot), player))
+    return false;
+  if (m_slots.keepsPlaces())
+    m_slots.exchange(*slotOf(teamOf(slot), player), slot);
+  return true;
+}
+
 bool LiveGame::mayStand(const OnCourt& wanted) const {
   return canRecord() && std::popcount(wanted[0]) <= kMostOnCourt && std::popcount(wanted[1]) <= kMostOnCourt;
 }
@@ -376,15 +397,20 @@ bool LiveGame::changeByClick(const OnCourt& wanted) {
 bool LiveGame::isWhole(const OnCourt& wanted) const {
   for (int team = 0; team < 2; ++team) {
     const auto side = static_cast<std::size_t>(team);
-    if (wanted[side] == m_pending->before[side])
-      continue;
-    int canPlay = 0;
-    for (int player = 1; player <= Roster::kLargestEntry; ++player)
-      canPlay += game().roster[side].player(player) != nullptr && !isFouledOut(team, player) ? 1 : 0;
-    if (std::popcount(wanted[side]) < std::min(kMostOnCourt, canPlay))
+    if (wanted[side] != m_pending->before[side] && std::popcount(wanted[side]) < fullNumber(team))
       return false;
   }
   return true;
+}
+
+int LiveGame::fullNumber(int team) const {
+  int canPlay = 0;
+  for (int player = 1; player <= Roster::kLargestEntry; ++player)
+    canPlay +=
+        game().roster[static_cast<std::size_t>(team)].player(player) != nullptr && !isFouledOut(team, player)
+            ? 1
+            : 0;
+  return std::min(kMostOnCourt, canPlay);
 }
 
 bool LiveGame::writePending() {
@@ -521,14 +547,23 @@ LiveGame::FollowUps LiveGame::followUps(int team, int player, EventCode kind, bo
 int LiveGame::secondsOnCourt(int team, int player) const {
   const auto side = static_cast<std::size_t>(team);
   const GameState& counted = state();
-  int seconds = counted.players[side][static_cast<std::size_t>(player)].seconds;
+  const int seconds = counted.players[side][static_cast<std::size_t>(player)].seconds;
   const bool isOn = std::ranges::find(counted.onCourt[side].begin(),
                                       counted.onCourt[side].begin() + counted.onCourtCount[side],
                                       static_cast<std::uint8_t>(player)) !=
                     counted.onCourt[side].begin() + counted.onCourtCount[side];
-  if (isOn && (m_phase == Phase::Running || isStopLost()))
-    seconds += counted.lineStartClock[side] - clockSeconds();
-  return std::max(seconds, 0);
+  return std::max(seconds + (isOn ? secondsSinceLists(side) : 0), 0);
+}
+
+// What the tally will credit to those on court with the next stop.
+int LiveGame::secondsSinceLists(std::size_t team) const {
+  return m_phase == Phase::Running || isStopLost() ? state().lineStartClock[team] - clockSeconds() : 0;
+}
+
+int LiveGame::secondsOfLine(int team) const {
+  const auto side = static_cast<std::size_t>(team);
+  const std::size_t line = state().currentLine[side];
+  return line == 0 ? 0 : std::max(state().lines[side][line].seconds + secondsSinceLists(side), 0);
 }
 
 int LiveGame::secondsInLead(LeadState which) const {

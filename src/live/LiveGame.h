@@ -8,6 +8,7 @@
 #include "live/GameEditing.h"
 #include "live/LiveHistory.h"
 #include "live/LiveLog.h"
+#include "live/NewPlayer.h"
 #include "live/TimeSource.h"
 
 #include <array>
@@ -112,7 +113,19 @@ class LiveGame {
   // Several at once, both teams as they shall stand; one event. More than five of a team is refused.
   bool setOnCourt(const OnCourt& onCourt);
   bool takeAllOut(int team);
+  // How many of a team can stand on court: five, or all who have not fouled out.
+  [[nodiscard]] int fullNumber(int team) const;
+  // IN of a player of that slot's team; where places are kept he takes exactly this one. False: he is on
+  // court or nobody, the slot is taken, or nothing can be recorded.
+  bool putInSlot(int slot, int player);
+  // Off: after an IN those on court stand in order of the roster. On: nobody moves for one who comes. To be
+  // set before a game is opened that shall be shown as it was left.
+  void setKeepsPlaces(bool isOn) { m_slots.setKeepsPlaces(isOn); }
   OnCourt onCourt() const { return m_slots.onCourt(); }
+  // A player who came late, or was forgotten, behind all others of his team; on the bench. In the file at
+  // once, and no action that could be taken back: his events can be, and he stays. Events and lists that name
+  // his number already count for him from then on. Jersey and name come trimmed; the name may be empty.
+  [[nodiscard]] NewPlayer addPlayer(int team, std::string_view jersey, std::string_view name);
 
   // --- What is counted
   // Of a player on court or on the bench, who can be given a technical foul. The place in left-hand
@@ -135,6 +148,7 @@ class LiveGame {
 
   // --- What is shown
   int secondsOnCourt(int team, int player) const;
+  int secondsOfLine(int team) const; // that those on court have played together; 0 for nobody
   int secondsInLead(LeadState state) const;
   int teamFouls(int team) const;  // of the period; of all overtimes with the last regular period where kept
   bool isInBonus(int team) const; // the team whose fouls have reached the limit
@@ -183,6 +197,7 @@ class LiveGame {
 
  private:
   [[nodiscard]] int lengthOf(int period) const;
+  [[nodiscard]] int secondsSinceLists(std::size_t team) const;
   std::string lineOf(const std::string& eventText) const; // at the present clock
   EventChange added(const std::string& line);
   bool record(const std::string& eventText, int text);
@@ -192,6 +207,8 @@ class LiveGame {
   void closePeriod();
   void showAsLeft();
   void putOnCourt(const OnCourt& lists) { m_slots.put(lists); }
+  void comeAndGo();
+  bool keepListsMeaning(int team, const RosterPlayer& added);
   bool mayStand(const OnCourt& wanted) const;
   bool changeByClick(const OnCourt& wanted);
   bool isWhole(const OnCourt& wanted) const;

@@ -1,5 +1,5 @@
 // What is changed and taken back in a live game: edits of what was recorded, undo and redo, a start of the
-// clock that was a mistake, marks of doubt and accepted findings.
+// clock that was a mistake, marks of doubt, accepted findings, and players who are added.
 #include "live/LiveGame.h"
 
 #include "storage/Module1.h"
@@ -206,6 +206,58 @@ bool LiveGame::acceptFinding(const EventPlace& event, int finding) {
   findings.push_back(finding);
   m_log.accept(number, findings);
   return true;
+}
+
+// --- Players who are added
+
+NewPlayer LiveGame::addPlayer(int team, std::string_view jersey, std::string_view name) {
+  NewPlayer added = NewPlayer::of(game(), team, jersey, name);
+  if (!canRecord())
+    added = {.problem = NewPlayer::Problem::CannotRecord, .team = team};
+  if (!added.isAdded())
+    return added;
+  writePending();
+  const bool areRenamed = keepListsMeaning(team, added.player);
+  m_log.addPlayer(team, added.player);
+  if (areRenamed) { // what was remembered names others now
+    m_history.clear();
+    offerEarlier();
+  }
+  putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters())); // where lists named him already
+  return added;
+}
+
+// Lists write 00 as 000 once there is a 0, too: those before would name the newcomer in his place.
+bool LiveGame::keepListsMeaning(int team, const RosterPlayer& added) {
+  if (Roster::jerseyNumber(added.jersey) != 0)
+    return false;
+  const Roster& before = game().roster[static_cast<std::size_t>(team)];
+  Roster after = before;
+  after.add(added);
+  std::vector<EventChange> steps;
+  for (const auto& [period, lines] : m_log.lines()) {
+    for (const auto& [key, line] : lines) {
+      const GameEvent event = GameEvent::parse(period, key, line);
+      if (!event.isUnderstood || event.code != EventCode::ARRET)
+        continue;
+      const std::string_view list = event.onCourt(static_cast<std::size_t>(team));
+      std::string renamed;
+      bool isOther = false;
+      for (const std::string_view jersey : Module1::JerseysOfList(list)) {
+        const int entry = before.entryOfListed(jersey);
+        const bool isMoved = entry > 0 && after.entryOfListed(jersey) != entry;
+        renamed += renamed.empty() ? "IN-" : "-";
+        renamed += isMoved ? after.listedJersey(before.player(entry)->jersey) : jersey;
+        isOther = isOther || isMoved;
+      }
+      if (!isOther)
+        continue;
+      std::string whole = line;
+      whole.replace(static_cast<std::size_t>(list.data() - line.data()), list.size(), renamed);
+      steps.push_back(replacement(period, key, std::move(whole)));
+    }
+  }
+  return !steps.empty() && m_log.change(steps);
 }
 
 } // namespace hooptab

@@ -78,6 +78,13 @@ void LiveLog::setDetails(const std::vector<std::pair<std::string, std::string>>&
   m_disk.set(kDetailsSection, keysAndValues, m_lines);
 }
 
+void LiveLog::addPlayer(int team, RosterPlayer player) {
+  const GameOnDisk::Values value = {{player.jersey, playerValue(player)}};
+  m_game.roster[team].add(std::move(player));
+  m_disk.set(rosterSection(team), value, m_lines);
+  countAll();
+}
+
 void LiveLog::accept(int event, const std::vector<int>& findings) {
   std::string value;
   for (const int finding : findings)

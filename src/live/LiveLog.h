@@ -38,6 +38,8 @@ class LiveLog {
   bool change(const std::vector<EventChange>& steps);
   // Keys of DETAILS and their values; the details in memory follow.
   void setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
+  // One player more, behind all others, who counts from the first event on that names him.
+  void addPlayer(int team, RosterPlayer player);
   // Findings of an event that count no longer as such, by the numbers of their texts; until the event
   // changes.
   void accept(int event, const std::vector<int>& findings);

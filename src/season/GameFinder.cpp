@@ -1,5 +1,7 @@
 #include "season/GameFinder.h"
 
+#include "storage/GameFile.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <set>
@@ -10,13 +12,6 @@ namespace hooptab {
 namespace {
 
 namespace fs = std::filesystem;
-
-bool isGameName(std::string_view name) {
-  constexpr std::string_view kExtension = ".gam";
-  return name.size() >= kExtension.size() &&
-         std::ranges::equal(name.substr(name.size() - kExtension.size()), kExtension,
-                            [](char left, char right) { return (left | 0x20) == (right | 0x20); });
-}
 
 class Finder {
  public:

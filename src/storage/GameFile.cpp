@@ -27,6 +27,10 @@ std::string rosterSection(int team) {
   return std::string(kRosterSections[team]);
 }
 
+std::string playerValue(const RosterPlayer& player) {
+  return std::to_string(player.position) + "," + player.name;
+}
+
 namespace {
 
 // What every reader gets of a value.
@@ -219,6 +223,13 @@ bool isGame(const ProfileText& text) {
   return text.value(kDetailsSection, "VERSION") == GameFile::kVersion;
 }
 
+bool isGameName(std::string_view name) {
+  constexpr std::string_view kExtension = ".gam";
+  return name.size() >= kExtension.size() &&
+         std::ranges::equal(name.substr(name.size() - kExtension.size()), kExtension,
+                            [](char left, char right) { return (left | 0x20) == (right | 0x20); });
+}
+
 GameFile::GameFile(cinifile& store, std::string path) : m_store(store), m_path(std::move(path)) {}
 
 GameFileProblem GameFile::open(const ProfileText*& text) {
@@ -296,7 +307,7 @@ GameFileProblem GameFile::create(const GameDetails& details, const std::vector<R
   for (std::size_t team = 0; team < 2; ++team) {
     const std::string section(kRosterSections[team]);
     for (const RosterPlayer& player : *rosters[team])
-      batch.set(section, player.jersey, std::to_string(player.position) + "," + player.name);
+      batch.set(section, player.jersey, playerValue(player));
     if (rosters[team]->empty()) // the team itself is the one player
       batch.set(section, "0", "9," + details.abbreviation[team]);
   }

@@ -103,8 +103,12 @@ void readGame(const ProfileText& text, Game& game);
 [[nodiscard]] AcceptedFindings readAccepted(const ProfileText& text);
 [[nodiscard]] EventLines storedEventLines(const ProfileText& text);
 [[nodiscard]] bool isGame(const ProfileText& text);
+// Whether a file of that name may be one: *.GAM in any letter case.
+[[nodiscard]] bool isGameName(std::string_view name);
 // The name of a period's section, and of a team's.
 [[nodiscard]] std::string periodSection(int period);
 [[nodiscard]] std::string rosterSection(int team);
+// What stands behind a player's jersey there: "1,Ann Able".
+[[nodiscard]] std::string playerValue(const RosterPlayer& player);
 
 } // namespace hooptab

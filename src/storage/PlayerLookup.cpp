@@ -53,6 +53,13 @@ std::vector<ListedPlayer> playersOnCourt(std::string_view list, const Roster& ro
   return players;
 }
 
+std::string jerseysOnCourt(std::string_view list, const Roster& roster) {
+  std::string jerseys;
+  for (const ListedPlayer& listed : playersOnCourt(list, roster))
+    jerseys += (jerseys.empty() ? "" : " ") + listed.jersey;
+  return jerseys;
+}
+
 bool isTeamItself(const Roster& roster) {
   const std::vector<RosterPlayer>& players = roster.players();
   return players.size() == 1 && players[0].jersey == "0" && players[0].position == 9;

@@ -1,0 +1,50 @@
+#include "setup/QuickRoster.h"
+
+#include "storage/Roster.h"
+#include "teams/TeamRecord.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kNoNumber = 2544;
+constexpr int kTwice = 2545;
+constexpr int kWrittenOtherwise = 2546;
+constexpr int kTooMany = 2547;
+
+} // namespace
+
+QuickRoster quickRoster(std::string_view typed) {
+  constexpr std::string_view kSeparators = " ,;\t\r\n";
+  QuickRoster roster;
+  std::size_t begin = 0;
+  while ((begin = typed.find_first_not_of(kSeparators, begin)) != std::string_view::npos) {
+    const std::string_view part =
+        typed.substr(begin, std::min(typed.find_first_of(kSeparators, begin), typed.size()) - begin);
+    const auto wrong = [&](int problem, std::string other = {}) {
+      return QuickRoster{
+          .problem = problem, .part = std::string(part), .place = begin, .other = std::move(other)};
+    };
+    if (!isJersey(part))
+      return wrong(kNoNumber);
+    const auto same = std::ranges::find_if(roster.jerseys, [&](const std::string& jersey) {
+      return jersey == part || Roster::areOneNumber(jersey, part);
+    });
+    if (same != roster.jerseys.end())
+      return wrong(*same == part ? kTwice : kWrittenOtherwise, *same);
+    if (roster.jerseys.size() == QuickRoster::kMostPlayers)
+      return wrong(kTooMany);
+    roster.jerseys.emplace_back(part);
+    begin += part.size();
+  }
+  return roster;
+}
+
+std::string QuickRoster::words(const Texts& texts) const {
+  return problem == 0 ? std::string()
+                      : Module1::withPlaceholder(texts.withPlaceholder(problem, part), other, "YYY");
+}
+
+} // namespace hooptab
