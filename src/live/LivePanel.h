@@ -14,7 +14,13 @@ namespace hooptab {
 class LiveGame;
 
 struct LivePanel {
-  enum class FoulMark : std::uint8_t { None, OneLeft, Reached }; // against a limit; None where there is none
+  // Against a limit; None where there is none. In the order of its weight.
+  enum class FoulMark : std::uint8_t {
+    None,
+    EarlyTwo, // personal fouls: two or more in the first period, until half-time
+    OneLeft,  // before the limit
+    Reached,
+  };
 
   struct ShotMark {
     court::Place place; // in left-hand orientation
@@ -33,6 +39,9 @@ struct LivePanel {
   std::vector<ShotMark> shots; // field goals with a place, in the order of the game
 
   [[nodiscard]] static LivePanel of(const LiveGame& game, int slot);
+  // Of a player on court or on the bench, personal and technical fouls together: Reached where he has fouled
+  // out by either, else what his personal fouls say.
+  [[nodiscard]] static FoulMark foulTrouble(const LiveGame& game, int team, int player);
   // The part that changes while the clock runs; empty for an empty panel.
   [[nodiscard]] static std::string timeOf(const LiveGame& game, int slot);
 

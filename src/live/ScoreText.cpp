@@ -4,6 +4,7 @@
 #include "storage/Module1.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace hooptab {
 
@@ -45,23 +46,38 @@ std::string startShown(const LiveGame& game, const Texts& texts) {
   return texts.caption(kStart);
 }
 
-std::string shownByPeriod(const LiveGame& game, int team, ByPeriod what, const Texts& texts) {
+ScoreByPeriod scoreByPeriod(const LiveGame& game, const Texts& texts) {
   constexpr int kLastRow = static_cast<int>(GameState::kPeriodRows) - 1;
-  const auto& rows = game.state().periods[static_cast<std::size_t>(team)];
+  const GameState& state = game.state();
+  ScoreByPeriod score{.periods = {}, .points = {state.points(0), state.points(1)}};
+  for (int period = 1; period <= std::min(std::max<int>(state.period, game.period()), kLastRow); ++period) {
+    std::string shown = EventWords(game.game(), texts).periodText(period);
+    if (period == kLastRow)
+      shown += '+'; // shared by all later periods
+    const auto row = static_cast<std::size_t>(period);
+    score.periods.push_back({std::move(shown), {state.periods[0][row], state.periods[1][row]}});
+  }
+  return score;
+}
+
+std::string shownByPeriod(const LiveGame& game, int team, ByPeriod what, const Texts& texts) {
   std::string result;
-  for (int period = 1; period <= std::min(std::max<int>(game.state().period, game.period()), kLastRow);
-       ++period) {
-    const PeriodEntry& row = rows[static_cast<std::size_t>(period)];
+  for (const ScoreByPeriod::Row& row : scoreByPeriod(game, texts).periods) {
+    const PeriodEntry& entry = row.ofTeam[static_cast<std::size_t>(team)];
     result += result.empty() ? "" : "   ";
-    result += EventWords(game.game(), texts).periodText(period);
-    result += period == kLastRow ? "+: " : ": "; // the last row is shared by all later periods
-    result += std::to_string(what == ByPeriod::Points ? row.points : row.fouls);
+    result += row.period + ": " + std::to_string(what == ByPeriod::Points ? entry.points : entry.fouls);
   }
   return result;
 }
 
 std::optional<int> typedClock(std::string_view text, int longest) {
+  constexpr std::size_t kDigits = 2; // of the minutes, and of the seconds
   std::string whole(Module1::trimmed(text));
+  if (whole.find(':') == std::string::npos) {
+    if (whole.size() <= kDigits)
+      whole += "00";
+    whole.insert(whole.size() - kDigits, 1, ':');
+  }
   if (whole.size() + 1 == kLengthOfClock)
     whole.insert(0, 1, '0');
   const std::optional<int> seconds = Module1::clockSeconds(whole);

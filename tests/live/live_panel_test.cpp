@@ -108,8 +108,19 @@ TEST_F(LivePanelTest, AnEmptySlotHoldsNobody) {
   EXPECT_TRUE(panel.shots.empty());
 }
 
-TEST_F(LivePanelTest, WarnsOneFoulBeforeTheLimit) {
+TEST_F(LivePanelTest, WarnsOfTwoEarlyFoulsAndOfOneBeforeTheLimit) {
   using Mark = LivePanel::FoulMark;
+  ASSERT_TRUE(live.recordAction(0, 2, EventCode::SPF) && live.recordAction(0, 2, EventCode::SPF));
+  for (const auto& [period, mark] :
+       {std::pair(1, Mark::EarlyTwo), {2, Mark::EarlyTwo}, {3, Mark::None}, {1, Mark::EarlyTwo}}) {
+    ASSERT_TRUE(live.setPeriod(period));
+    EXPECT_EQ(LivePanel::foulTrouble(live, 0, 2), mark) << period;
+  }
+  ASSERT_TRUE(live.recordAction(0, 2, EventCode::STF) && live.recordAction(0, 2, EventCode::STF));
+  EXPECT_EQ(LivePanel::foulTrouble(live, 0, 2), Mark::Reached);
+  EXPECT_EQ(LivePanel::of(live, 1).personalFouls, Mark::EarlyTwo);
+
+  ASSERT_TRUE(live.setPeriod(2));
   for (const Mark mark : {Mark::None, Mark::None, Mark::None, Mark::OneLeft, Mark::Reached, Mark::Reached}) {
     ASSERT_TRUE(live.recordAction(0, 1, EventCode::SPF));
     EXPECT_EQ(LivePanel::of(live, 0).personalFouls, mark) << count(0, Counter::PF);
@@ -117,7 +128,6 @@ TEST_F(LivePanelTest, WarnsOneFoulBeforeTheLimit) {
   EXPECT_EQ(LivePanel::of(live, 0).technicalFouls, Mark::None) << "without a single one";
   ASSERT_TRUE(live.recordAction(0, 1, EventCode::STF));
   EXPECT_EQ(LivePanel::of(live, 0).technicalFouls, Mark::OneLeft);
-  EXPECT_EQ(LivePanel::of(live, 1).personalFouls, Mark::None);
 }
 
 } // namespace
