@@ -71,20 +71,13 @@ std::optional<std::size_t> FollowUpQuestion::marked() const {
 
 // Whether a number of those who could be meant, on court or not, begins with what was typed and goes on.
 bool FollowUpQuestion::canGoOn() const {
+  std::vector<std::string> jerseys;
   for (int team = 0; team < 2; ++team) {
-    if (m_isAssist && team != m_shooterTeam)
-      continue;
-    for (const RosterPlayer& player : m_game->game().roster[static_cast<std::size_t>(team)].players()) {
-      const std::string_view number =
-          std::string_view(player.jersey)
-              .substr(std::min(player.jersey.find_first_not_of('0'), player.jersey.size()));
-      for (const std::string_view written : {std::string_view(player.jersey), number}) {
-        if (written.size() > m_typed.size() && written.starts_with(m_typed))
-          return true;
-      }
-    }
+    if (!m_isAssist || team == m_shooterTeam)
+      std::ranges::transform(m_game->game().roster[static_cast<std::size_t>(team)].players(),
+                             std::back_inserter(jerseys), &RosterPlayer::jersey);
   }
-  return false;
+  return goesOn(jerseys, m_typed);
 }
 
 FollowUpQuestion::Answer FollowUpQuestion::answer(const FittingJersey& fitting) const {

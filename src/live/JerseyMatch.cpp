@@ -1,6 +1,7 @@
 #include "live/JerseyMatch.h"
 
 #include <algorithm>
+#include <array>
 
 namespace hooptab {
 
@@ -27,6 +28,17 @@ std::vector<FittingJersey> fittingJerseys(std::span<const std::string> jerseys, 
     return jerseys[fit.place] == typed ? 0 : fit.isWhole ? 1 : 2;
   });
   return fitting;
+}
+
+bool canBecome(std::string_view typed, std::string_view jersey) {
+  const auto goesOn = [&](std::string_view written) {
+    return written.size() > typed.size() && written.starts_with(typed);
+  };
+  return goesOn(jersey) || goesOn(withoutZeros(jersey));
+}
+
+bool goesOn(std::span<const std::string> jerseys, std::string_view typed) {
+  return std::ranges::any_of(jerseys, [&](const std::string& jersey) { return canBecome(typed, jersey); });
 }
 
 } // namespace hooptab

@@ -20,5 +20,10 @@ struct FittingJersey {
 // fits; with nothing typed every other does.
 [[nodiscard]] std::vector<FittingJersey> fittingJerseys(std::span<const std::string> jerseys,
                                                         std::string_view typed);
+// Whether the jersey begins with what was typed and goes on: "00" and "09" with "0", "09" with "".
+[[nodiscard]] bool canBecome(std::string_view typed, std::string_view jersey);
+
+// Whether one of the jerseys begins with what was typed and goes on: what is whole may be meant for more.
+[[nodiscard]] bool goesOn(std::span<const std::string> jerseys, std::string_view typed);
 
 } // namespace hooptab

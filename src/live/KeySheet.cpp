@@ -3,6 +3,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "live/KeyCodes.h"
 #include "live/KeypadPicture.h"
 #include "live/QtKeys.h"
 #include "storage/Module1.h"
@@ -31,6 +32,8 @@ constexpr int kFollowUps = 2023;
 constexpr int kKeypadIsOff = 2024;
 constexpr int kHowToClose = 2026;
 constexpr int kMiss = 2010;
+constexpr int kExchange = 2514;
+constexpr int kSeveralAtOnce = 2515;
 
 constexpr int kTitlePoints = 14;
 constexpr int kWidth = 860;
@@ -70,6 +73,7 @@ KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_text
   m_picture = new KeypadPicture(this);
   m_picture->setAttribute(Qt::WA_TransparentForMouseEvents);
   m_letters = new PlainLabel(this);
+  m_letters->setTextFormat(Qt::RichText); // of our own texts and letters alone
   m_letters->setObjectName(QStringLiteral("lblLETTERS"));
   m_letters->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   m_letters->setWordWrap(true);
@@ -90,6 +94,7 @@ KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_text
   grid->addWidget(m_picture, 3, 0, Qt::AlignTop | Qt::AlignHCenter);
   grid->addWidget(m_letters, 3, 1);
   grid->addWidget(text(kFollowUps), 4, 0, 1, 2);
+  grid->addWidget(text(kSeveralAtOnce), 5, 0, 1, 2);
   m_off->setFont(bold);
   hide();
 }
@@ -113,21 +118,35 @@ void KeySheet::showSetup(const KeypadSetup& setup, bool keypadIsActive) {
     const std::string named = m_texts.withPlaceholder(kSubjectAndWords, m_texts.text(kShots));
     return toQt(Module1::withPlaceholder(named, fromQt(words), "YYY"));
   };
-  const QString lineShot = ofShots(sentence(kLineShot, letter(LetterAssignment::kMiss)));
-  const QString keypadShot =
-      ofShots(sentence(kKeypadShot, keyName(setup.keys.code(KeypadAction::A), m_texts)));
+  const auto exchange = [this](const QString& out, const QString& in) {
+    const std::string words = m_texts.withPlaceholder(kExchange, fromQt(out));
+    return toQt(Module1::withPlaceholder(words, fromQt(in), "YYY"));
+  };
+  const auto escaped = [](const QStringList& lines) {
+    return lines.join(QLatin1Char('\n')).toHtmlEscaped().replace(u'\n', QLatin1String("<br>"));
+  };
+  const KeypadAssignment& bound = setup.keys;
+  const QStringList line = {caption(m_texts, kLineForm),
+                            ofShots(sentence(kLineShot, letter(LetterAssignment::kMiss))),
+                            exchange(letter(static_cast<std::size_t>(KeypadAction::OUT)),
+                                     letter(static_cast<std::size_t>(KeypadAction::IN)))};
+  QStringList keypad = {caption(m_texts, kKeypadForm),
+                        ofShots(sentence(kKeypadShot, keyName(bound.code(KeypadAction::A), m_texts)))};
+  const int out = bound.code(KeypadAction::OUT);
+  const int in = bound.code(KeypadAction::IN);
+  const auto isMiddleKey = [](int code) { return code != 0 && !keys::digit(code, true); };
+  if (isMiddleKey(out) && isMiddleKey(in))
+    keypad << exchange(keyName(out, m_texts), keyName(in, m_texts));
   // Two columns of letters side by side.
-  QString table = QStringLiteral("<p>%1<br>%2</p><table><tr><td><table>")
-                      .arg(caption(m_texts, kLineForm).toHtmlEscaped(), lineShot.toHtmlEscaped());
+  QString table = QStringLiteral("<p>%1</p><table><tr><td><table>").arg(escaped(line));
   const qsizetype half = (rows.size() + 1) / 2;
   table += rows.mid(0, half).join(QString()) + QLatin1String("</table></td><td width=24></td><td><table>") +
            rows.mid(half).join(QString()) + QLatin1String("</table></td></tr></table>");
   table +=
       QStringLiteral("<p>%1</p><p>%2</p>")
           .arg(caption(m_texts, kLineKeys).toHtmlEscaped(), caption(m_texts, kShotKinds).toHtmlEscaped());
-  table += QStringLiteral("<p><b>%1</b><br>%2<br>%3</p>")
-               .arg(caption(m_texts, kOnKeypad).toHtmlEscaped(),
-                    caption(m_texts, kKeypadForm).toHtmlEscaped(), keypadShot.toHtmlEscaped());
+  table += QStringLiteral("<p><b>%1</b><br>%2</p>")
+               .arg(caption(m_texts, kOnKeypad).toHtmlEscaped(), escaped(keypad));
   m_letters->setText(table);
 
   const int width = std::min(kWidth, parentWidget()->width());

@@ -29,6 +29,8 @@ constexpr int kCourtIsFull = 1994;
 constexpr int kGameIsClosed = 1995;
 constexpr int kTooLong = 1996;
 constexpr int kNobodyOnCourt = 1997;
+constexpr int kSameTwice = 2508;
+constexpr int kExchanged = 2509;
 
 // By their digit, from 1.
 constexpr EventCode kShots[] = {EventCode::GFT, EventCode::GFG, EventCode::GF3, EventCode::GLG,
@@ -59,12 +61,15 @@ KeypadOrder::Kind kindOfOrder(KeypadAction action) {
   }
 }
 
-std::string playerWords(const Game& game, int team, int player) {
+// "12 Dana Dunn"
+std::string numberAndName(const Game& game, int team, int player) {
   const RosterPlayer* who = game.roster[team].player(player);
-  std::string words = game.details.abbreviation[team];
-  if (who != nullptr)
-    words += ' ' + who->jersey + ' ' + who->name;
-  return words;
+  return who == nullptr ? std::string() : who->jersey + ' ' + who->name;
+}
+
+std::string playerWords(const Game& game, int team, int player) {
+  const std::string who = numberAndName(game, team, player);
+  return game.details.abbreviation[team] + (who.empty() ? "" : " ") + who;
 }
 
 std::string actionWords(const KeypadOrder& order, const Texts& texts) {
@@ -83,9 +88,18 @@ std::optional<KeypadReason> objection(const KeypadOrder& order, const LiveGame& 
   const auto team = static_cast<std::size_t>(order.team);
   const std::string& name = game.game().details.abbreviation[team];
   const bool isOnCourt = game.slotOf(order.team, order.player).has_value();
-  const RosterPlayer* who = game.game().roster[team].player(order.player);
-  const std::string jersey = who == nullptr ? std::string() : who->jersey;
+  const auto jerseyOf = [&](int player) {
+    const RosterPlayer* who = game.game().roster[team].player(player);
+    return who == nullptr ? std::string() : who->jersey;
+  };
+  const std::string jersey = jerseyOf(order.player);
   switch (order.kind) {
+  case KeypadOrder::Kind::Exchange:
+    if (order.leaving == order.player)
+      return KeypadReason{kSameTwice, {jersey}};
+    if (!game.slotOf(order.team, order.leaving))
+      return KeypadReason{kNotOnCourt, {jerseyOf(order.leaving), name}};
+    return isOnCourt ? std::optional(KeypadReason{kOnCourtAlready, {jersey, name}}) : std::nullopt;
   case KeypadOrder::Kind::In:
     if (isOnCourt)
       return KeypadReason{kOnCourtAlready, {jersey, name}};
@@ -109,6 +123,12 @@ bool carryOut(LiveGame& game, const KeypadOrder& order) {
   case KeypadOrder::Kind::In:
   case KeypadOrder::Kind::Out: return game.toggleOnCourt(order.team, order.player);
   case KeypadOrder::Kind::AllOut: return game.takeAllOut(order.team);
+  case KeypadOrder::Kind::Exchange: {
+    OnCourt wanted = game.onCourt();
+    unsigned& five = wanted[static_cast<std::size_t>(order.team)];
+    five = (five & ~(1U << static_cast<unsigned>(order.leaving))) | 1U << static_cast<unsigned>(order.player);
+    return game.setOnCourt(wanted);
+  }
   }
   return false;
 }
@@ -133,8 +153,11 @@ void KeypadInput::clear() {
 KeypadInput::Key KeypadInput::keyOf(const KeyPress& press) const {
   Key key;
   key.isKeypad = press.isKeypad;
+  if (press.isKeypad && !m_hasBoundKeys)
+    return key;
   key.digit = keys::digit(press.code, press.isKeypad);
-  key.action = m_setup.keys.actionOf(press.code);
+  if (m_hasBoundKeys)
+    key.action = m_setup.keys.actionOf(press.code);
   if (!key.action && press.isKeypad)
     key.action = m_setup.keys.actionOf(keys::otherCode(press.code));
   if (!key.action && !press.isKeypad) {
@@ -245,6 +268,26 @@ KeypadInput::Reading KeypadInput::readShot(std::size_t begin, std::size_t end, b
   return {0, {KeypadOrder::Kind::Shot, 0, 0, kShots[kind - 1], isMade}, *number};
 }
 
+// "12 OUT 8", with or without IN behind it, and "8 IN 12" the other way round. A digit is never the key in
+// the middle, whatever it is bound to.
+std::optional<KeypadInput::Reading> KeypadInput::readExchange() const {
+  const auto isMove = [](const Key& key) {
+    return !key.digit && (key.action == KeypadAction::IN || key.action == KeypadAction::OUT);
+  };
+  const auto middle = std::ranges::find_if(m_typed, isMove);
+  const std::size_t place = static_cast<std::size_t>(middle - m_typed.begin());
+  if (place == 0 || place + 1 >= m_typed.size())
+    return std::nullopt;
+  const bool hasSecondKey = isMove(m_typed.back()) && m_typed.back().action != middle->action;
+  const std::optional<std::string> first = digits(0, place);
+  const std::optional<std::string> second = digits(place + 1, m_typed.size() - (hasSecondKey ? 1 : 0));
+  if (!first || !second || second->empty())
+    return std::nullopt;
+  const KeypadOrder order = {.kind = KeypadOrder::Kind::Exchange};
+  return middle->action == KeypadAction::IN ? Reading{0, order, *first, *second}
+                                            : Reading{0, order, *second, *first};
+}
+
 KeypadInput::Reading KeypadInput::read(bool isLine) const {
   if (m_typed.empty())
     return {kNothingTyped};
@@ -254,6 +297,8 @@ KeypadInput::Reading KeypadInput::read(bool isLine) const {
       static_cast<std::size_t>(std::ranges::find_if_not(m_typed, beginsShot) - m_typed.begin());
   if (shots > 0)
     return shots > 2 ? Reading{kNotUnderstood} : readShot(shots, m_typed.size(), shots == 1);
+  if (auto exchange = readExchange())
+    return *std::move(exchange);
   if (m_typed[last].isMiss)
     return readShot(0, last, false);
   const auto action = m_typed[last].action;
@@ -268,6 +313,27 @@ KeypadInput::Reading KeypadInput::read(bool isLine) const {
   return number->empty() ? Reading{kNumberMissing} : Reading{0, order, *number};
 }
 
+// The players whose numbers were typed, of the order's team; the reason where it has none such.
+std::optional<KeypadReason> KeypadInput::nameIn(KeypadOrder& order, const Reading& reading,
+                                                const Game& game) {
+  if (order.kind == KeypadOrder::Kind::AllOut)
+    return std::nullopt;
+  const bool isExchange = order.kind == KeypadOrder::Kind::Exchange;
+  const Roster& roster = game.roster[order.team];
+  const Roster& others = game.roster[1 - order.team];
+  order.player = roster.entryOf(reading.jersey);
+  order.leaving = isExchange ? roster.entryOf(reading.leaving) : 0;
+  const bool isLeavingMissing = isExchange && order.leaving == 0;
+  if (order.player != 0 && !isLeavingMissing)
+    return std::nullopt;
+  const bool areOthers =
+      others.entryOf(reading.jersey) != 0 && (!isExchange || others.entryOf(reading.leaving) != 0);
+  const auto& names = game.details.abbreviation;
+  return KeypadReason{
+      areOthers ? kOnlyInOtherTeam : kNoSuchPlayer,
+      {isLeavingMissing ? reading.leaving : reading.jersey, names[order.team], names[1 - order.team]}};
+}
+
 KeypadInput::Outcome KeypadInput::confirm(int team, bool isLine, const LiveGame& game) {
   m_reason.reset();
   const Reading reading = read(isLine);
@@ -275,18 +341,10 @@ KeypadInput::Outcome KeypadInput::confirm(int team, bool isLine, const LiveGame&
     return refuse({reading.problem});
   if (!game.canRecord())
     return refuse({kGameIsClosed});
-  const Game& shown = game.game();
   KeypadOrder order = reading.order;
   order.team = team;
-  if (order.kind != KeypadOrder::Kind::AllOut) {
-    order.player = shown.roster[team].entryOf(reading.jersey);
-    if (order.player == 0) {
-      const bool isInOther = shown.roster[1 - team].entryOf(reading.jersey) != 0;
-      return refuse(
-          {isInOther ? kOnlyInOtherTeam : kNoSuchPlayer,
-           {reading.jersey, shown.details.abbreviation[team], shown.details.abbreviation[1 - team]}});
-    }
-  }
+  if (const auto reason = nameIn(order, reading, game.game()))
+    return refuse(*reason);
   if (const auto reason = objection(order, game))
     return refuse(*reason);
   m_order = order;
@@ -311,26 +369,39 @@ std::string KeypadInput::preview(const Game& game, const Texts& texts) const {
   const Reading reading = read(isLine());
   if (isEmpty() || reading.problem != 0)
     return isEmpty() ? std::string() : std::string(texts.text(reading.problem));
-  std::string lines = actionWords(reading.order, texts);
-  bool isAnybody = reading.order.kind == KeypadOrder::Kind::AllOut;
+  std::string lines = actionWords(reading.order, texts); // none where words() are a sentence
+  const bool isSentence = lines.empty();
+  std::string missing;
+  const auto add = [](std::string& to, const std::string& line) { to += (to.empty() ? "" : "\n") + line; };
+  bool isAnybody = false;
   for (const int team : {game.details.mainTeam, 1 - game.details.mainTeam}) {
     KeypadOrder order = reading.order;
     order.team = team;
-    order.player = game.roster[team].entryOf(reading.jersey);
-    if (order.kind == KeypadOrder::Kind::AllOut)
-      lines += (lines.empty() ? "" : "\n") + words(order, game, texts);
-    else if (order.player != 0)
-      lines += '\n' + playerWords(game, team, order.player);
-    isAnybody = isAnybody || order.player != 0;
+    if (const auto reason = nameIn(order, reading, game)) {
+      add(missing, reason->words(texts));
+      continue;
+    }
+    add(lines, isSentence ? words(order, game, texts) : playerWords(game, team, order.player));
+    isAnybody = true;
   }
-  const auto& names = game.details.abbreviation;
-  return isAnybody ? lines
-                   : KeypadReason{kNoSuchPlayer, {reading.jersey, names[0] + ", " + names[1]}}.words(texts);
+  if (isAnybody)
+    return lines;
+  for (const std::string& jersey : {reading.leaving, reading.jersey}) {
+    const auto& names = game.details.abbreviation;
+    if (!jersey.empty() && game.roster[0].entryOf(jersey) == 0 && game.roster[1].entryOf(jersey) == 0)
+      return KeypadReason{kNoSuchPlayer, {jersey, names[0] + ", " + names[1]}}.words(texts);
+  }
+  return missing;
 }
 
 std::string KeypadInput::words(const KeypadOrder& order, const Game& game, const Texts& texts) {
   if (order.kind == KeypadOrder::Kind::AllOut)
     return texts.withPlaceholder(kAllLeave, game.details.abbreviation[order.team]);
+  if (order.kind == KeypadOrder::Kind::Exchange)
+    return KeypadReason{
+        kExchanged,
+        {playerWords(game, order.team, order.leaving), numberAndName(game, order.team, order.player)}}
+        .words(texts);
   return Module1::withPlaceholder(
       Module1::withPlaceholder(texts.text(kSubjectAndWords), actionWords(order, texts), "YYY"),
       playerWords(game, order.team, order.player));

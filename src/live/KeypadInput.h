@@ -1,6 +1,7 @@
 // Recording by keys: what is typed on the external keypad or as a line on the main keyboard, what it will do,
 // and why nothing was recorded. Position decides: at the confirm key the last key is the action and all
-// before it the jersey. Reads the game; what it orders is carried out by whoever feeds it with keys.
+// before it the jersey; a key of IN or OUT between two numbers exchanges two players. Reads the game; what it
+// orders is carried out by whoever feeds it with keys.
 #pragma once
 
 #include "live/KeypadAssignment.h"
@@ -21,12 +22,13 @@ struct KeyPress {
 
 // What a confirmed input asks for.
 struct KeypadOrder {
-  enum class Kind { Shot, Action, In, Out, AllOut };
+  enum class Kind { Shot, Action, In, Out, Exchange, AllOut };
   Kind kind = Kind::Action;
   int team = 0;
   int player = 0; // entry; 0 for AllOut
   EventCode code = EventCode::Unknown;
   bool isMade = false; // shots
+  int leaving = 0;     // entry; of an Exchange, in which `player` comes in
   friend bool operator==(const KeypadOrder&, const KeypadOrder&) = default;
 };
 // False when the game took none of it.
@@ -47,6 +49,9 @@ class KeypadInput {
   explicit KeypadInput(KeypadSetup setup = {}) : m_setup(std::move(setup)) {}
   const KeypadSetup& setup() const { return m_setup; }
   void setSetup(const KeypadSetup& setup); // what is typed is forgotten
+  // Without the bound keys there are those of the line alone: digits and letters of the main keyboard, and
+  // behind them Enter, Backspace and Esc.
+  void setHasBoundKeys(bool hasBoundKeys) { m_hasBoundKeys = hasBoundKeys; }
 
   // Whether press() has a use for it now.
   [[nodiscard]] bool owns(const KeyPress& key) const;
@@ -90,16 +95,22 @@ class KeypadInput {
     int problem = 0; // number of a text; 0 when the input makes sense
     KeypadOrder order = {};
     std::string jersey = {};
+    std::string leaving = {}; // the other jersey of an Exchange
   };
   [[nodiscard]] Key keyOf(const KeyPress& press) const;
   [[nodiscard]] bool isLine() const; // typed on the main keyboard alone
   [[nodiscard]] Reading read(bool isLine) const;
   [[nodiscard]] Reading readShot(std::size_t begin, std::size_t end, bool isMade) const;
+  [[nodiscard]] std::optional<Reading> readExchange() const;
   [[nodiscard]] std::optional<std::string> digits(std::size_t begin, std::size_t end) const;
   Outcome confirm(int team, bool isLine, const LiveGame& game);
   Outcome refuse(KeypadReason reason);
 
+  [[nodiscard]] static std::optional<KeypadReason> nameIn(KeypadOrder& order, const Reading& reading,
+                                                          const Game& game);
+
   KeypadSetup m_setup;
+  bool m_hasBoundKeys = true;
   std::vector<Key> m_typed;
   KeypadOrder m_order;
   std::optional<KeypadReason> m_reason;

@@ -65,9 +65,14 @@ bool LiveKeys::isInFront() const {
          !isTextField(focus);
 }
 
-std::optional<FollowUpKey> LiveKeys::followUpKey(const QKeyEvent& event) const {
+bool LiveKeys::owns(const KeyPress& press) {
+  m_input.setHasBoundKeys(m_settings.keypadIsActive);
+  return press.code != 0 && m_input.owns(press);
+}
+
+std::optional<FollowUpKey> LiveKeys::followUpKey(const QKeyEvent& event) {
   const KeyPress press = keyPressOf(event);
-  if (!m_settings.keypadIsActive || press.code == 0 || !m_input.owns(press))
+  if (!owns(press))
     return std::nullopt;
   switch (m_input.meaningOf(press)) {
   case KeypadInput::Meaning::Digit: return FollowUpKey{FollowUpKey::Kind::Digit, *m_input.digitOf(press)};
@@ -95,21 +100,22 @@ bool LiveKeys::eventFilter(QObject* watched, QEvent* event) {
     return true;
   }
   const KeyPress press = keyPressOf(key);
-  if (!m_settings.keypadIsActive || press.code == 0 || !m_input.owns(press))
+  const bool isEnd = endsAnswer(press, isPress);
+  if (!isEnd && !owns(press))
     return false;
   key.accept();
-  if (!endsAnswer(press, isPress) && isPress && !key.isAutoRepeat())
+  if (!isEnd && isPress && !key.isAutoRepeat())
     take(press);
   return true;
 }
 
 // On the main keyboard a line ends with Enter. Behind a number that was taken with its last digit already, it
-// comes by habit, and is not meant for the clock.
+// comes by habit, and is not meant for the clock or whatever has the focus.
 bool LiveKeys::endsAnswer(const KeyPress& press, bool isPress) {
   constexpr qint64 kHabit = 1000; // ms
   const bool isEnd = m_sinceAnswer.isValid() && !m_sinceAnswer.hasExpired(kHabit) &&
                      press.code == keys::kEnter && !press.isKeypad;
-  if (isPress)
+  if (isPress && press.code != 0)
     m_sinceAnswer.invalidate();
   return isEnd;
 }
@@ -120,11 +126,15 @@ bool LiveKeys::takeSheetKey(const QKeyEvent& event, bool isPress) {
     return false;
   if (!isPress || event.isAutoRepeat())
     return true;
+  showSheet();
+  return true;
+}
+
+void LiveKeys::showSheet() {
   if (m_sheet->isHidden())
     m_sheet->showSetup(m_input.setup(), m_settings.keypadIsActive);
   else
     m_sheet->hide();
-  return true;
 }
 
 void LiveKeys::take(const KeyPress& press) {

@@ -1,6 +1,7 @@
-// The keys of the live window: hands every key that is bound to the recorder before any button sees it, while
-// the window is in front and no text field has the focus, and carries out what the recorder orders. Shows the
-// cheat sheet. What follows an order on screen is the window's.
+// The keys of the live window: hands every key that is bound, and those of the typed line, to the recorder
+// before any button sees it, while the window is in front and no text field has the focus, and carries out
+// what the recorder orders. With the keypad switched off the line is left. Shows the cheat sheet. What
+// follows an order on screen is the window's.
 #pragma once
 
 #include "live/FollowUpBar.h"
@@ -26,6 +27,7 @@ class LiveKeys : public QObject {
   void setSetup(const KeypadSetup& setup);
   void forget();      // another game, or the keypad was switched off
   void relabelKeys(); // the language has changed
+  void showSheet();   // or hides it
 
  signals:
   void clockPressed();
@@ -36,7 +38,9 @@ class LiveKeys : public QObject {
 
  private:
   [[nodiscard]] bool isInFront() const;
-  [[nodiscard]] std::optional<FollowUpKey> followUpKey(const QKeyEvent& event) const;
+  [[nodiscard]] std::optional<FollowUpKey> followUpKey(const QKeyEvent& event);
+  // Whether the recorder has a use for it, as the keypad is switched now.
+  [[nodiscard]] bool owns(const KeyPress& press);
   bool takeSheetKey(const QKeyEvent& event, bool isPress);
   bool endsAnswer(const KeyPress& press, bool isPress);
   void take(const KeyPress& press);

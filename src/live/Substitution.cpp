@@ -1,6 +1,7 @@
 #include "live/Substitution.h"
 
 #include "storage/Module1.h"
+#include "storage/PlayerLookup.h"
 
 #include <algorithm>
 #include <bit>
@@ -12,13 +13,13 @@ namespace {
 // The line as bits and text; nobody when it is not five players of the roster who may play.
 Substitution::Line lineOf(const LiveGame& game, std::size_t team, const LineEntry& entry,
                           unsigned fouledOut) {
-  Substitution::Line line{.seconds = entry.seconds};
+  const Roster& roster = game.game().roster[team];
+  Substitution::Line line{.seconds = entry.seconds, .jerseys = jerseysOnCourt(entry.list, roster)};
   for (const std::string_view jersey : Module1::countedJerseys(entry.list)) {
-    const int player = game.game().roster[team].entryOfListed(jersey);
+    const int player = roster.entryOfListed(jersey);
     if (player == 0 || (fouledOut >> player & 1U) != 0)
       return {};
     line.players |= 1U << player;
-    line.jerseys += (line.jerseys.empty() ? "" : " ") + game.game().roster[team].player(player)->jersey;
   }
   return std::popcount(line.players) == kMostOnCourt ? line : Substitution::Line{};
 }
@@ -111,12 +112,22 @@ EditPlan Substitution::plan() const {
 }
 
 void Substitution::toggle(int team, int player) {
-  if (holds(m_rosters, team, player))
-    m_onCourt[static_cast<std::size_t>(team)] ^= 1U << player;
+  if (!holds(m_rosters, team, player))
+    return;
+  m_earlier.push_back(m_onCourt);
+  m_onCourt[static_cast<std::size_t>(team)] ^= 1U << player;
 }
 
 void Substitution::takeLine(int team, std::size_t line) {
-  m_onCourt[static_cast<std::size_t>(team)] = lines(team).at(line).players;
+  m_earlier.push_back(m_onCourt);
+  take(team, lines(team).at(line).players);
+}
+
+void Substitution::takeBack() {
+  if (m_earlier.empty())
+    return;
+  m_onCourt = m_earlier.back();
+  m_earlier.pop_back();
 }
 
 int Substitution::count(int team) const {

@@ -37,8 +37,11 @@ class Substitution {
   // Who was to stay leaves, who was to leave or sat on the bench comes. More than five may be chosen on the
   // way, so that it does not matter who is clicked first.
   void toggle(int team, int player);
-  // The line alone; what was chosen of the team before is forgotten.
+  // These alone, as in OnCourt, or a line's; what was chosen of the team before is forgotten.
+  void take(int team, unsigned players) { m_onCourt[static_cast<std::size_t>(team)] = players; }
   void takeLine(int team, std::size_t line);
+  // The last of these steps, as often as there are any.
+  void takeBack();
 
   const OnCourt& onCourt() const { return m_onCourt; }
   bool isChosen(int team, int player) const { return holds(m_onCourt, team, player); }
@@ -65,8 +68,9 @@ class Substitution {
 
   const LiveGame& m_game;
   std::optional<PastSubstitution> m_past;
-  OnCourt m_before;  // the lists that the choice changes
-  OnCourt m_onCourt; // the choice
+  OnCourt m_before;               // the lists that the choice changes
+  OnCourt m_onCourt;              // the choice
+  std::vector<OnCourt> m_earlier; // it, before each step
   OnCourt m_fouledOut = {};
   OnCourt m_rosters = {}; // who can be chosen at all
   std::array<std::vector<Line>, 2> m_lines;

@@ -39,6 +39,7 @@ constexpr int kInsertion = 1965;
 constexpr int kMade = 1514;
 constexpr int kMissed = 1515;
 constexpr int kCourtHint = 1095;
+constexpr int kClockForm = 2512;
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
 constexpr int kMostSeconds = 99 * 60 + 59; // that can be typed; the game knows its periods
@@ -90,8 +91,9 @@ void frmEDIT::makeFields() {
   m_time = new QLineEdit(this);
   m_time->setObjectName(QStringLiteral("txtTEMPS"));
   m_time->setFont(Theme::figures(font().pointSize()));
-  static const QRegularExpression kClock(QStringLiteral("[0-9]{1,2}:[0-5][0-9]"));
+  static const QRegularExpression kClock(QStringLiteral("[0-9]{1,2}(:?[0-5][0-9])?")); // as typedClock
   m_time->setValidator(new QRegularExpressionValidator(kClock, m_time));
+  setToolTipNumber(*m_time, kClockForm);
   m_player = new QComboBox(this);
   m_player->setObjectName(QStringLiteral("cmbPLAYER"));
   const EventWords words(m_game, m_texts);

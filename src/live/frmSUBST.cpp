@@ -6,11 +6,14 @@
 #include "appearance/relabel.h"
 #include "live/ConflictWords.h"
 #include "live/JerseyButton.h"
+#include "live/KeyCodes.h"
 #include "live/PlayerWords.h"
+#include "live/QtKeys.h"
 #include "storage/Module1.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
@@ -34,27 +37,45 @@ constexpr int kComesWord = 1960;
 constexpr int kAcceptTip = 1961;
 constexpr int kCancelTip = 1962;
 constexpr int kAccept = 1963;
+constexpr int kTypingHint = 2513;
 
 constexpr int kColumns = 5;
 constexpr QSize kButton(98, 48);
 constexpr int kCountWidth = 52;
 constexpr int kLineWidth = 170;
 constexpr int kLineHeight = 24;
+constexpr int kTypedPoints = 20;
 constexpr int kMargin = 10;
 constexpr int kGap = 2;
 
-// A team's name on its colour.
-QLabel* bandOf(const LiveGame& game, int team, QWidget* parent) {
-  const GameDetails& details = game.game().details;
-  auto* band = new PlainLabel(toQt(details.name[team]), parent);
-  const QColor colour = colourOf(details.teamColour[team]);
-  QPalette colours = band->palette();
+void colourBand(QLabel& band, const LiveGame& game, int team) {
+  const QColor colour = colourOf(game.game().details.teamColour[team]);
+  QPalette colours = band.palette();
   colours.setColor(QPalette::Window, colour);
   colours.setColor(QPalette::WindowText, textOn(colour));
-  band->setPalette(colours);
+  band.setPalette(colours);
+}
+
+// A team's name on its colour.
+QLabel* bandOf(const LiveGame& game, int team, const QString& name, QWidget* parent) {
+  auto* band = new PlainLabel(name, parent);
+  colourBand(*band, game, team);
   band->setAutoFillBackground(true);
   band->setMargin(kGap * 2);
   return band;
+}
+
+// With Shift where the keyboard has them so.
+bool isSeparator(const QKeyEvent& key) {
+  switch (key.key()) {
+  case Qt::Key_Comma:
+  case Qt::Key_Period:
+  case Qt::Key_Minus:
+  case Qt::Key_Plus:
+  case Qt::Key_Asterisk: return true;
+  case Qt::Key_Delete: return key.modifiers().testFlag(Qt::KeypadModifier); // the point with Num Lock off
+  default: return false;
+  }
 }
 
 } // namespace
@@ -89,6 +110,7 @@ void frmSUBST::makeContents() {
     m_conflict->setMinimumHeight(m_conflict->fontMetrics().height()); // nothing moves when it speaks
     layout->addWidget(m_conflict);
   }
+  layout->addWidget(makeTyped());
   layout->addWidget(makeAnswers());
   // The game goes on meanwhile: the clock's key is the clock's, and presses no player.
   auto* clock = new QShortcut(Qt::Key_Space, this);
@@ -96,6 +118,11 @@ void frmSUBST::makeContents() {
   connect(clock, &QShortcut::activated, this, &frmSUBST::clockAsked);
   relabel(*this, m_texts);
   showChoice();
+  // Ahead of any button: Tab and the arrows would move the focus, and Enter press what has it.
+  installEventFilter(this);
+  const QList<QWidget*> children = findChildren<QWidget*>();
+  for (QWidget* child : children)
+    child->installEventFilter(this);
 }
 
 // Without a title bar: of which moment this is.
@@ -127,7 +154,7 @@ void frmSUBST::addTeam(QGridLayout& layout, int team) {
   m_counts[t]->setFixedWidth(kCountWidth); // 5/5 and 10/5 alike
   m_counts[t]->setAlignment(Qt::AlignCenter);
   auto* head = new QHBoxLayout;
-  head->addWidget(bandOf(m_game, team, this), 1);
+  head->addWidget(bandOf(m_game, team, toQt(m_game.game().details.name[team]), this), 1);
   head->addWidget(m_counts[t]);
   layout.addLayout(head, row, 0);
   auto* title = new PlainLabel(this);
@@ -156,6 +183,7 @@ QWidget* frmSUBST::makeLines(int team) {
   auto* layout = new QVBoxLayout(column);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
+  m_lines[static_cast<std::size_t>(team)] = layout;
   const std::vector<Substitution::Line>& lines = m_choice.lines(team);
   for (std::size_t line = 0; line < lines.size(); ++line) {
     auto* button = new QPushButton(toQt(lines[line].jerseys), column);
@@ -174,6 +202,85 @@ QWidget* frmSUBST::makeLines(int team) {
   }
   layout->addStretch();
   return column;
+}
+
+void frmSUBST::propose(int team, unsigned players, const QString& words, const QString& hint) {
+  auto* button = new QPushButton(words, this);
+  button->setObjectName(QStringLiteral("cmdPROPOSED(%1)").arg(team));
+  button->setAutoDefault(false);
+  button->setFixedHeight(kLineHeight);
+  button->setToolTip(hint);
+  connect(button, &QPushButton::pressed, this, [this, team, players] {
+    m_choice.take(team, players);
+    showChoice();
+  });
+  m_lines[static_cast<std::size_t>(team)]->insertWidget(0, button);
+}
+
+// The team, the number as it is typed, and what it means: nothing moves when they speak.
+QWidget* frmSUBST::makeTyped() {
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  const QFont large = Theme::figures(kTypedPoints, true);
+  m_typedTeam = bandOf(m_game, m_line.team(), {}, row);
+  m_typedTeam->setObjectName(QStringLiteral("lblTYPEDTEAM"));
+  QFont bold = font();
+  bold.setBold(true);
+  m_typedTeam->setFont(bold);
+  m_typed = new PlainLabel(row);
+  m_typed->setObjectName(QStringLiteral("lblTYPEDNO"));
+  m_typed->setFont(large);
+  m_typed->setFixedSize(QFontMetrics(large).horizontalAdvance(QStringLiteral("8888_")),
+                        QFontMetrics(large).height());
+  m_words = new PlainLabel(row);
+  m_words->setObjectName(QStringLiteral("lblTYPEDWORDS"));
+  m_words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // names widen no window
+  layout->addWidget(m_typedTeam);
+  layout->addWidget(m_typed);
+  layout->addWidget(m_words, 1);
+  return row;
+}
+
+bool frmSUBST::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress || !takeKey(static_cast<const QKeyEvent&>(*event)))
+    return QDialog::eventFilter(watched, event);
+  showChoice();
+  return true;
+}
+
+// What is typed, on the main keyboard or the keypad. All other keys are those of any dialog.
+bool frmSUBST::takeKey(const QKeyEvent& key) {
+  if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+    return false;
+  const KeyPress press = keyPressOf(key);
+  if (const auto digit = keys::digit(press.code, press.isKeypad)) {
+    if (!key.isAutoRepeat())
+      m_line.type(*digit);
+    return true;
+  }
+  switch (key.key()) {
+  case Qt::Key_Return:
+  case Qt::Key_Enter:
+    if (m_line.typed().empty())
+      return false;
+    if (m_line.enter() && m_choice.canAccept())
+      accept();
+    return true;
+  case Qt::Key_Backspace: m_line.takeBack(); return true;
+  case Qt::Key_Slash:
+  case Qt::Key_Up:
+  case Qt::Key_Down: m_line.changeTeam(); return true;
+  case Qt::Key_Tab:
+    if (m_line.typed().empty())
+      return false;
+    break;
+  default:
+    if (!isSeparator(key))
+      return false;
+  }
+  m_line.separate();
+  return true;
 }
 
 QWidget* frmSUBST::makeAnswers() {
@@ -218,6 +325,7 @@ void frmSUBST::showChoice() {
                       .colour = colourOf(m_game.game().details.teamColour[team]),
                       .isFilled = stays,
                       .isFouledOut = m_choice.isFouledOut(team, player),
+                      .isSelected = m_line.fits(team, player),
                       .move = stays == wasThere ? None
                               : stays           ? Comes
                                                 : Leaves});
@@ -240,6 +348,27 @@ void frmSUBST::showChoice() {
     m_conflict->setPalette(colours);
   }
   m_accept->setEnabled(m_choice.canAccept());
+  showTyped();
+}
+
+void frmSUBST::showTyped() {
+  const auto& names = m_game.game().details.abbreviation;
+  m_typedTeam->setText(toQt(names[m_line.team()]));
+  m_typedTeam->setFixedWidth(std::max(m_typedTeam->fontMetrics().horizontalAdvance(toQt(names[0])),
+                                      m_typedTeam->fontMetrics().horizontalAdvance(toQt(names[1]))) +
+                             4 * kGap);
+  colourBand(*m_typedTeam, m_game, m_line.team());
+  m_typed->setText(toQt(m_line.typed()) + QLatin1Char('_'));
+  const std::string words = m_line.words(m_texts);
+  m_words->setText(words.empty() ? caption(m_texts, kTypingHint) : toQt(words));
+  m_words->setToolTip(m_words->text());
+  QPalette colours = palette();
+  if (m_line.isRefused())
+    colours.setColor(QPalette::WindowText, Theme::missed());
+  else if (words.empty())
+    colours.setColor(QPalette::WindowText, colours.color(QPalette::PlaceholderText));
+  m_words->setPalette(colours);
+  m_typed->setPalette(m_line.isRefused() ? colours : palette());
 }
 
 void frmSUBST::openBeside(const QWidget& panel) {

@@ -1,9 +1,10 @@
 // "Several at once", now or at an event of the past: both rosters to pick who leaves and who comes in any
-// order, and the lines that have played before. One confirmation; what was chosen is for the caller to write
-// as one event. What would not fit later in the game is said before.
+// order, by a click or by typing the numbers, and the lines that have played before. One confirmation; what
+// was chosen is for the caller to write as one event. What would not fit later in the game is said before.
 #pragma once
 
 #include "live/Substitution.h"
+#include "live/SubstitutionLine.h"
 
 #include <QDialog>
 
@@ -12,6 +13,7 @@
 
 class QBoxLayout;
 class QGridLayout;
+class QKeyEvent;
 class QLabel;
 class QPushButton;
 
@@ -29,6 +31,8 @@ class frmSUBST : public QDialog {
   // A forgotten substitution, or another choice for one that is recorded.
   frmSUBST(const LiveGame& game, const PastSubstitution& past, const Texts& texts, QWidget* parent = nullptr);
 
+  // A line to be taken with one click, above those that have played in this game.
+  void propose(int team, unsigned players, const QString& words, const QString& hint);
   void toggle(int team, int player);
   EditPlan plan() const { return m_choice.plan(); } // in the past
   const OnCourt& onCourt() const { return m_choice.onCourt(); }
@@ -39,6 +43,7 @@ class frmSUBST : public QDialog {
   void clockAsked(); // by its key
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
@@ -47,15 +52,23 @@ class frmSUBST : public QDialog {
   void addPlace(QBoxLayout& layout);
   void addTeam(QGridLayout& layout, int team);
   QWidget* makeLines(int team);
+  QWidget* makeTyped();
   QWidget* makeAnswers();
+  bool takeKey(const QKeyEvent& key);
   void showChoice();
+  void showTyped();
 
   const LiveGame& m_game;
   const Texts& m_texts;
   std::optional<PastSubstitution> m_past;
   Substitution m_choice;
+  SubstitutionLine m_line{m_game, m_choice};
   std::array<std::array<JerseyButton*, kPlaces>, 2> m_players = {};
   std::array<QLabel*, 2> m_counts = {};
+  std::array<QBoxLayout*, 2> m_lines = {};
+  QLabel* m_typedTeam = nullptr;
+  QLabel* m_typed = nullptr;
+  QLabel* m_words = nullptr;
   QLabel* m_conflict = nullptr; // in the past
   QPushButton* m_accept = nullptr;
 };

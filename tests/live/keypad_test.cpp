@@ -1,9 +1,12 @@
+#include "live/FollowUpQuestion.h"
 #include "live/KeyCodes.h"
 #include "live/KeypadInput.h"
 #include "live/ManualTime.h"
+#include "support/SharedGames.h"
 #include "support/TemporaryFolder.h"
 #include "support/TextGame.h"
 
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <set>
@@ -208,6 +211,73 @@ TEST_F(KeypadInputTest, PlayersComeAndLeaveAndWhatDoesNotFitIsRefused) {
   EXPECT_EQ(reason("120<").text, 1989);
 }
 
+TEST_F(KeypadInputTest, AKeyOfInOrOutBetweenTwoNumbersExchangesThemInOneStep) {
+  live.start();
+  const auto lists = [&] { return (live.log().lines().at(1).rbegin() + 1)->second.substr(12); };
+  const std::pair<const char*, const char*> cases[] = {
+      {"12*0<", "IN-00-04-05-10-15,IN-03-07"},    {"12/0<", "IN-04-05-10-12-15,IN-03-07"},
+      {"12*0/<", "IN-00-04-05-10-15,IN-03-07"},   {"7*22-", "IN-00-04-05-10-15,IN-03-22"},
+      {"|12I0E\n", "IN-04-05-10-12-15,IN-03-22"}, {"|22E7\t", "IN-04-05-10-12-15,IN-03-07"},
+  };
+  for (const auto& [keys, expected] : cases) {
+    time.now += 10;
+    EXPECT_EQ(press(keys), Outcome::Confirmed) << keys;
+    EXPECT_EQ(lists(), expected) << keys;
+  }
+  time.now += 10;
+  press("4*<"); // half of another, which is taken with it
+  time.now += 3;
+  const std::size_t before = lines();
+  EXPECT_EQ(press("12*0<"), Outcome::Confirmed);
+  EXPECT_EQ(lists(), "IN-00-05-10-15,IN-03-07");
+  EXPECT_EQ(lines(), before + 2) << "a stop and a start";
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(live.onCourt()[0], 0b111110U);
+}
+
+TEST_F(KeypadInputTest, WithoutTheBoundKeysTheLineIsLeft) {
+  KeypadSetup setup;
+  setup.keys.bind(KeypadAction::PF, '9');
+  input.setSetup(setup);
+  input.setHasBoundKeys(false);
+  for (const char* keys : {"1", "0", "+", "E", "-", ".", "|\n", "|\b", "|\x1b"})
+    EXPECT_EQ(press(keys), Outcome::NotMine) << keys;
+  EXPECT_EQ(press("|129\n"), Outcome::Refused);
+  EXPECT_EQ(input.reason(), KeypadReason{1987}) << "a digit of a shot, and no foul";
+  EXPECT_EQ(press("|123X\b\n"), Outcome::Confirmed);
+}
+
+// As real teams wear their numbers: the last digit of the assist's ends it.
+TEST_F(KeypadInputTest, ABasketWithItsAssistTakesSixKeysOnTheLineAndSevenOnTheKeypad) {
+  if (sharedGames().empty())
+    GTEST_SKIP() << "the real games are not here";
+  for (const auto& path : sharedGames()) {
+    const std::string copy = folder.path(path.filename().string());
+    std::filesystem::copy_file(path, copy);
+    ASSERT_EQ(live.open(copy), GameFileProblem::None);
+    live.reopen();
+    for (int team = 0; team < 2; ++team) {
+      const auto players = live.game().roster[team].players();
+      const bool isMain = team == live.game().details.mainTeam;
+      for (unsigned mate = 2; mate <= players.size(); ++mate) {
+        const std::string& assist = players[mate - 1].jersey;
+        OnCourt onCourt = {};
+        onCourt[static_cast<std::size_t>(team)] = 1U << 1U | 1U << mate;
+        ASSERT_TRUE(live.setOnCourt(onCourt));
+        for (const std::string& keys : {"|" + players[0].jersey + (isMain ? "2\n" : "2\t"),
+                                        "." + players[0].jersey + (isMain ? "2<" : "2-")}) {
+          EXPECT_EQ(press(keys), Outcome::Confirmed) << keys;
+          EXPECT_EQ(keys.size() + assist.size(), 7U) << "and none for the mark of the line";
+        }
+        FollowUpQuestion question;
+        question.ask(live, live.followUps(team, 1, EventCode::GFG, true, false), team, 1);
+        EXPECT_FALSE(question.type(assist[0] - '0'));
+        EXPECT_TRUE(question.type(assist[1] - '0')) << path << ' ' << assist;
+      }
+    }
+  }
+}
+
 TEST_F(KeypadInputTest, WhatIsNotUnderstoodIsSaidAndNothingIsRecorded) {
   const struct {
     const char* keys;
@@ -222,7 +292,13 @@ TEST_F(KeypadInputTest, WhatIsNotUnderstoodIsSaidAndNothingIsRecorded) {
       {".128<", {1987}},
       {".120<", {1987}},
       {"...122<", {1988}},
-      {"1/29<", {1988}},
+      {"1/29/<", {1988}},
+      {"00*12<", {1993, {"00", "PAN"}}},
+      {"12*5<", {1992, {"5", "PAN"}}},
+      {"12*012<", {2508, {"12"}}},
+      {"12*99<", {1990, {"99", "PAN", "OLY"}}},
+      {"7*22<", {1991, {"7", "PAN", "OLY"}}},
+      {"12*22<", {1990, {"22", "PAN", "OLY"}}}, // no team has both
       {".1/2<", {1988}},
       {"999<", {1990, {"99", "PAN", "OLY"}}},
       {"229<", {1991, {"22", "PAN", "OLY"}}},
@@ -344,6 +420,10 @@ TEST_F(KeypadInputTest, ShowsWhatIsTypedAndWhatItWillDo) {
   EXPECT_EQ(input.preview(live.game(), texts), texts.text(1985));
   press("|2");
   EXPECT_EQ(input.preview(live.game(), texts), "● 2 points\nPAN 4 Ann Able");
+  press("+12*8");
+  EXPECT_EQ(input.preview(live.game(), texts), "No 8 in PAN\nNo 12 in OLY");
+  press("+4*00");
+  EXPECT_EQ(input.preview(live.game(), texts), "PAN 4 Ann Able leaves, 00 Gia Grant comes in");
   EXPECT_EQ(KeypadInput::words({Kind::Shot, 0, 1, EventCode::GFG, true}, live.game(), texts),
             "PAN 4 Ann Able: ● 2 points");
 }
@@ -408,7 +488,7 @@ TEST_F(KeypadInputTest, EveryKeyIsSafeInEveryState) {
   };
   walk(walk, input, 2);
   for (const char* begun :
-       {".", "..1", "..12", ".122", "1/", "123", "|12", "|123", "|A12", "|12X", "12345678", "229<"}) {
+       {".", "..1", "..12", ".122", "1/", "12*0", "123", "|12", "|123", "|A12", "|12X", "12345678", "229<"}) {
     SCOPED_TRACE(begun);
     press("+");
     press(begun);

@@ -196,7 +196,7 @@ TEST_F(LiveKeysTest, TheClockAndTheKeypadComeBeforeAnyButtonAndNeverInATextField
   EXPECT_FALSE(window.isRunning());
 }
 
-TEST_F(LiveKeysTest, AHeldKeyCountsOnceAndASwitchedOffKeypadNotAtAll) {
+TEST_F(LiveKeysTest, AHeldKeyCountsOnceAndOfASwitchedOffKeypadTheLineIsLeft) {
   QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Enter, kPad, QString(), true);
   QApplication::sendEvent(&window, &repeated);
   EXPECT_FALSE(window.isRunning());
@@ -208,11 +208,43 @@ TEST_F(LiveKeysTest, AHeldKeyCountsOnceAndASwitchedOffKeypadNotAtAll) {
   window.keypadSwitched();
   EXPECT_FALSE(isDisplayed());
   pad("129<E");
-  press(Qt::Key_F);
+  press(Qt::Key_Return);
   EXPECT_EQ(lines(), "");
+  EXPECT_FALSE(isDisplayed() || window.isRunning());
+  for (const Qt::Key key : {Qt::Key_1, Qt::Key_2, Qt::Key_2, Qt::Key_Return, Qt::Key_1, Qt::Key_5})
+    press(key);
+  letNumberBeTaken();
+  EXPECT_EQ(lines(), "2=10:00,GFG,0-12|3=10:00,SA,0-15|") << "six keys";
+  press(Qt::Key_4);
+  press(Qt::Key_Question);
+  EXPECT_TRUE(lines().ends_with("SA,0-15,?=1|")) << "other keys are what they were: " << lines();
+  press(Qt::Key_Escape);
   EXPECT_FALSE(isDisplayed());
   press(Qt::Key_Space);
   EXPECT_TRUE(window.isRunning());
+}
+
+TEST_F(LiveKeysTest, SeveralAtOnceAreTypedAsTheirNumbers) {
+  press(Qt::Key_F4);
+  auto* several = window.findChild<QDialog*>(QStringLiteral("frmSUBST"));
+  ASSERT_NE(several, nullptr);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return several->isAncestorOf(QApplication::focusWidget()); }));
+  pad("10");
+  press(Qt::Key_0); // or 00
+  press(Qt::Key_Tab);
+  EXPECT_EQ(label("lblTYPEDWORDS").text(), QStringLiteral("0 Fay Ford: comes in"));
+  pad("<99");
+  press(Qt::Key_Return);
+  EXPECT_TRUE(several->isVisible()) << "what is red is not passed over";
+  EXPECT_EQ(label("lblTYPEDWORDS").text(), toQt(texts.withPlaceholder(2471, "99")));
+  pad("<</");
+  EXPECT_EQ(label("lblTYPEDTEAM").text(), QStringLiteral("OLY"));
+  press(Qt::Key_Space);
+  EXPECT_TRUE(window.isRunning()) << "the clock's key still";
+  pad("0");
+  press(Qt::Key_Return); // takes the number and confirms
+  EXPECT_FALSE(several->isVisible());
+  EXPECT_NE(lines().find("IN-00-04-05-12-15,IN-03-07-08-11-22|"), std::string::npos) << lines();
 }
 
 TEST_F(LiveKeysTest, FollowUpsAreAnsweredByTheWholeNumberAndSkippedByGoingOn) {
@@ -322,6 +354,7 @@ TEST_F(LiveKeysTest, TheCheatSheetShowsTheKeysInUseAndTakesNone) {
   press(Qt::Key_F1);
   ASSERT_TRUE(sheet->isVisible());
   EXPECT_TRUE(window.rect().contains(sheet->geometry()));
+  EXPECT_EQ(label("lblLETTERS").textFormat(), Qt::RichText) << "else the marks of its table are read out";
   EXPECT_TRUE(label("lblLETTERS").text().contains(QStringLiteral("<b>P</b>")));
   EXPECT_FALSE(label("lblLETTERS").text().contains(QStringLiteral("<b>F</b>")));
   EXPECT_TRUE(

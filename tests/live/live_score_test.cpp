@@ -71,7 +71,13 @@ TEST(TypedClock, TakesMinutesAndSecondsUpToTheLengthOfThePeriod) {
   EXPECT_EQ(typedClock(" 07:05 ", 600), 425);
   EXPECT_EQ(typedClock("10:00", 600), 600);
   EXPECT_EQ(typedClock("0:00", 600), 0);
-  for (const char* refused : {"10:01", "425", "7:5", "7:60", "-7:05", "7.05", "", ":05", "7:05x"})
+  EXPECT_EQ(typedClock("145", 600), 105);
+  EXPECT_EQ(typedClock("0959", 600), 599);
+  EXPECT_EQ(typedClock("1000", 600), 600);
+  EXPECT_EQ(typedClock("3", 600), 180);
+  EXPECT_EQ(typedClock("10", 600), 600);
+  for (const char* refused : {"10:01", "1001", "11", "7:5", "7:60", "760", "-7:05", "-7", "7.05", "", ":05",
+                              "7:05x", "7x", "00705"})
     EXPECT_EQ(typedClock(refused, 600), std::nullopt) << refused;
 }
 

@@ -1,6 +1,6 @@
 #include "live/JerseyMatch.h"
 #include "live/ManualTime.h"
-#include "live/Substitution.h"
+#include "live/SubstitutionLine.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -87,6 +87,69 @@ TEST_F(SubstitutionTest, LinesThatHavePlayedAreOfferedMostPlayedFirst) {
   for (int foul = 0; foul < 5; ++foul)
     EXPECT_TRUE(live.recordAction(0, 11, EventCode::SPF));
   EXPECT_EQ(Substitution(live).lines(0)[0].jerseys, "1 2 3 4 10") << "without the one who fouled out";
+}
+
+// "|" ends a number, "/" changes the team, "<" takes back, "=" is Enter. Gives who moves, "1-12 1+32 " for
+// two of the home team, what is left of a number, "?" where it is refused, "!" behind an Enter that may
+// accept.
+TEST_F(SubstitutionTest, ANumberIsTakenWhenItCannotGoOnAndElseByASeparatorOrEnter) {
+  GameDetails details;
+  details.mainTeam = 1;
+  std::array<std::vector<RosterPlayer>, 2> teams;
+  for (const char* number : {"4", "14", "21", "22", "23", "24", "30", "77", "9"})
+    teams[0].push_back({number, 1, "P"});
+  for (const char* number : {"1", "12", "13", "14", "15", "00", "0", "32", "50", "7"})
+    teams[1].push_back({number, 1, "P"});
+  const std::string path = folder.path("line.GAM");
+  ASSERT_EQ(GameFile(store, path).create(details, teams[0], teams[1]), GameFileProblem::None);
+  ASSERT_EQ(live.open(path), GameFileProblem::None);
+  ASSERT_TRUE(live.setOnCourt({kFirstFive, kFirstFive}));
+  const auto typed = [this](std::string_view keys) {
+    Substitution choice(live);
+    SubstitutionLine line(live, choice);
+    bool mayAccept = false;
+    for (const char key : keys) {
+      mayAccept = key == '=' && line.enter();
+      key == '|' ? line.separate() : key == '/' ? line.changeTeam() : key == '<' ? line.takeBack() : void();
+      if (key >= '0' && key <= '9')
+        line.type(key - '0');
+    }
+    std::string result;
+    for (int place = 1; place <= 20; ++place) {
+      const int team = place > 10 ? 1 : 0;
+      const int player = place - 10 * team;
+      if (choice.isChosen(team, player) != choice.wasOnCourt(team, player))
+        result += std::to_string(team) + (choice.isChosen(team, player) ? '+' : '-') +
+                  live.game().roster[team].player(player)->jersey + ' ';
+    }
+    return result + line.typed() + (line.isRefused() ? "?" : "") + (mayAccept ? "!" : "");
+  };
+  const std::pair<const char*, const char*> cases[] = {
+      {"121315325000", "1-12 1-13 1-15 1+00 1+32 1+50 "},
+      {"1", "1"},
+      {"1|", "1-1 "},
+      {"1=", "1-1 !"},
+      {"0|", "1+0 "},
+      {"00", "1+00 "},
+      {"7", "7"},
+      {"7=", "1+7 !"},
+      {"77", "0+77 "},
+      {"09", "0+9 "},
+      {"14", "1-14 "},
+      {"/14/14", "0-14 1-14 "},
+      {"1212", ""},
+      {"5=", "1+50 "},
+      {"3=", "3?"},
+      {"2|", "2?"},
+      {"2|1", "0-21 "},
+      {"8=", "8?"},
+      {"812345", "8123?"},
+      {"812<<<12", "1-12 "},
+      {"1232<", "1-12 "},
+      {"1232<<<", ""},
+  };
+  for (const auto& [keys, result] : cases)
+    EXPECT_EQ(typed(keys), result) << keys;
 }
 
 TEST(JerseyMatch, WaitsWhileSeveralFit) {
