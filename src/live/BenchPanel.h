@@ -1,5 +1,6 @@
-// The benches of both teams: a button for each place of the rosters, who is on court, selected or fouled out,
-// and the ways to substitute. Shows, and says what was pressed; changes no game.
+// The benches of both teams: their roster strips, which stand where the window wants them, the player who is
+// selected for the next action, and the ways to substitute. Shows, and says what was pressed; changes no
+// game.
 #pragma once
 
 #include "live/OnCourt.h"
@@ -8,24 +9,28 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
+#include <utility>
 
 class QAction;
-class QLabel;
-class QPushButton;
 class QStackedLayout;
 
 namespace hooptab {
 
-class JerseyButton;
 class LiveGame;
+class RosterStrip;
 class SelectedPlayer;
 class Texts;
+class frmSUBST;
 
 class BenchPanel : public QWidget {
   Q_OBJECT
  public:
-  // `texts` must outlive it.
-  explicit BenchPanel(const Texts& texts, QWidget* parent = nullptr);
+  // `texts` must outlive it. The strips are made below `stripParent`, for its layout; `sides` stands beside
+  // the commands.
+  BenchPanel(const Texts& texts, QWidget* stripParent, QWidget* sides, QWidget* parent = nullptr);
+
+  RosterStrip& strip(int team) { return *m_strips[static_cast<std::size_t>(team)]; }
 
   // The game must live as long as the panel, or until another is shown.
   void showGame(const LiveGame& game);
@@ -36,9 +41,14 @@ class BenchPanel : public QWidget {
   bool isSelected(int team, int player) const {
     return player > 0 && team == m_selectedTeam && player == m_selectedPlayer;
   }
+  // The entry of the selected player, if he is of that team; else 0.
+  int selectedOf(int team) const { return team == m_selectedTeam ? m_selectedPlayer : 0; }
+  // Takes a press on a player before anything else does; false where it has no use for it.
+  void setTaker(std::function<bool(int team, int player)> taker) { m_taker = std::move(taker); }
   bool isSubstituting() const;
-  void askSeveral();             // in a window of its own
-  void setTurned(bool isTurned); // the rosters stand in the order of the panels
+  bool placesStay() const;
+  void setPlacesStay(bool stay);
+  void askSeveral(); // in a window of its own
   void relabelPanel();
   void applyColours();
 
@@ -50,34 +60,27 @@ class BenchPanel : public QWidget {
   void allOutAsked(int team);
   void onCourtAsked(hooptab::OnCourt onCourt); // from "several at once"
   void clockAsked();                           // there, too, by its key
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
+  void playerAsked(int team);                  // one who is not in the roster yet
+  void placesStayAsked(bool stay);
+  void severalShown(hooptab::frmSUBST& several); // about to be
 
  private:
-  static constexpr int kPlaces = 15; // of a team
-  QWidget* makeTeam(int team);
-  QWidget* makeCommands();
+  QWidget* makeCommands(QWidget* sides);
   void press(int team, int player);
-  void showPlace(const LiveGame& game, int team, int player);
+  void showStrips();
   void showSelection();
-  void showMode();
-  void showPending();
 
   const Texts& m_texts;
   const LiveGame* m_game = nullptr;
   int m_selectedTeam = 0;
   int m_selectedPlayer = 0;
-  std::array<std::array<JerseyButton*, kPlaces>, 2> m_players = {};
-  std::array<QLabel*, 2> m_names = {};
-  std::array<QPushButton*, 2> m_allOut = {};
-  std::array<QWidget*, 2> m_rosters = {};
+  std::array<RosterStrip*, 2> m_strips = {};
   QAction* m_substitute = nullptr;
   QAction* m_several = nullptr;
-  QWidget* m_commands = nullptr;
+  QAction* m_placesStay = nullptr;
+  std::function<bool(int, int)> m_taker;
   SelectedPlayer* m_selection = nullptr;
-  QLabel* m_pending = nullptr;
-  QStackedLayout* m_last = nullptr;
+  QStackedLayout* m_pages = nullptr; // the commands, or who is selected, in one place: nothing moves
 };
 
 } // namespace hooptab

@@ -3,6 +3,7 @@
 #include "appearance/relabel.h"
 
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QSignalBlocker>
@@ -18,6 +19,7 @@ constexpr int kPlayer = 1593;
 constexpr int kTeam = 1594;
 constexpr int kKind = 1595;
 
+constexpr int kShowDeleted = 2570;
 constexpr int kPadding = 8;
 constexpr int kFewestLetters = 6;
 constexpr int kEntries = Roster::kLargestEntry + 1; // a player is chosen as team * kEntries + entry
@@ -26,7 +28,7 @@ constexpr int kEntries = Roster::kLargestEntry + 1; // a player is chosen as tea
 
 EventFilterRow::EventFilterRow(const Texts& texts, QWidget* parent) : QWidget(parent), m_texts(texts) {
   auto* layout = new QGridLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setContentsMargins(4, 2, 4, 2);
   layout->setSpacing(2);
   m_team = makeBox("cmbTEAM", kTeam);
   m_period = makeBox("cmbPERIOD", kPeriod);
@@ -36,6 +38,11 @@ EventFilterRow::EventFilterRow(const Texts& texts, QWidget* parent) : QWidget(pa
   layout->addWidget(m_period, 0, 1);
   layout->addWidget(m_player, 1, 0);
   layout->addWidget(m_kind, 1, 1);
+  m_deleted = new QCheckBox(this);
+  m_deleted->setObjectName(QStringLiteral("chkDELETED"));
+  setTextNumber(*m_deleted, kShowDeleted);
+  connect(m_deleted, &QCheckBox::toggled, this, &EventFilterRow::changed);
+  layout->addWidget(m_deleted, 2, 0, 1, 2);
 }
 
 QComboBox* EventFilterRow::makeBox(const char* name, int text) {
@@ -129,6 +136,7 @@ EventFilter EventFilterRow::filter() const {
     filter.player = player.toInt() % kEntries;
   }
   filter.kind = static_cast<EventCode>(m_kind->currentData().toInt());
+  filter.showsDeleted = m_deleted->isChecked();
   return filter;
 }
 
@@ -137,6 +145,8 @@ void EventFilterRow::clear() {
     const QSignalBlocker quiet(box);
     box->setCurrentIndex(0);
   }
+  const QSignalBlocker quiet(m_deleted);
+  m_deleted->setChecked(false);
   fillPlayers();
   emit changed();
 }

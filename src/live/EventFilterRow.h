@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+class QCheckBox;
 class QComboBox;
 
 namespace hooptab {
@@ -41,6 +42,7 @@ class EventFilterRow : public QWidget {
   QComboBox* m_period = nullptr;
   QComboBox* m_player = nullptr;
   QComboBox* m_kind = nullptr;
+  QCheckBox* m_deleted = nullptr;                                // whether they are shown
   std::array<std::vector<std::pair<QString, int>>, 2> m_players; // words and choice, of each team
 };
 

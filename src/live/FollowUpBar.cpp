@@ -5,6 +5,7 @@
 #include "appearance/relabel.h"
 #include "live/JerseyButton.h"
 #include "live/PlayerWords.h"
+#include "storage/EventWords.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -30,13 +31,16 @@ constexpr int kAllTheSame = 2472;
 constexpr int kComesIn = 2473;
 constexpr int kTooSoon = 2475;
 
-// Together as wide as a panel of the live window is at least: what lies beside it stays in reach.
-constexpr QSize kButton(40, 40);
-constexpr int kMargin = 5;
-constexpr int kGap = 1;
-constexpr int kBandMargin = 2;
-constexpr int kInnerWidth = 5 * kButton.width() + 4 * kGap;
-constexpr int kTypedPixels = 20;
+// As wide as a panel of the live window: what lies beside it stays in reach.
+constexpr int kInnerWidth = 190;
+constexpr int kMates = 2;      // buttons side by side, with names
+constexpr int kRebounders = 3; // the same, without
+constexpr int kMateHeight = 40;
+constexpr int kRebounderHeight = 34;
+constexpr int kMargin = 9;
+constexpr int kGap = 4;
+constexpr int kBandMargin = 3;
+constexpr double kRadius = 8;
 constexpr int kFlash = 400;    // milliseconds
 constexpr int kSamePlace = 12; // pixels
 
@@ -71,11 +75,11 @@ FollowUpBar::FollowUpBar(const Texts& texts, QWidget* parent) : QWidget(parent),
   m_goingOn.setInterval(kMayGoOn);
   connect(&m_goingOn, &QTimer::timeout, this, &FollowUpBar::settle);
   setObjectName(QStringLiteral("FollowUp"));
-  setAutoFillBackground(true);
   // A click between the buttons is no click on what lies below.
   setAttribute(Qt::WA_NoMousePropagation);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setSpacing(kGap);
   layout->addWidget(m_assist);
   layout->addWidget(m_rebound);
   layout->addWidget(m_reasonRow);
@@ -94,17 +98,14 @@ QWidget* FollowUpBar::makeTitle(QWidget* form) {
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
   const auto index = static_cast<std::size_t>(m_titles[0] == nullptr ? 0 : 1);
-  QFont bold = font();
-  bold.setBold(true);
   m_titles[index] = new PlainLabel(row);
   m_titles[index]->setObjectName(QStringLiteral("lblQUESTION"));
-  m_titles[index]->setFont(bold);
+  m_titles[index]->setFont(Theme::font(Type::Name));
   m_numbers[index] = new PlainLabel(row);
   m_numbers[index]->setObjectName(QStringLiteral("lblTYPED"));
-  bold = Theme::figures(kTypedPixels, true);
-  bold.setPixelSize(kTypedPixels);
-  m_numbers[index]->setFont(bold);
-  m_numbers[index]->setFixedHeight(QFontMetrics(bold).height());
+  const QFont typed = Theme::font(Type::Points);
+  m_numbers[index]->setFont(typed);
+  m_numbers[index]->setFixedHeight(QFontMetrics(typed).height());
   layout->addWidget(m_titles[index], 1);
   layout->addWidget(m_numbers[index]);
   return row;
@@ -151,8 +152,8 @@ QLabel* FollowUpBar::makeBand(QWidget* form, const QString& name) {
   return band;
 }
 
-JerseyButton* FollowUpBar::makeButton(QWidget* form, int index) {
-  auto* button = new JerseyButton(jerseyButtonName(index), kButton, form);
+JerseyButton* FollowUpBar::makeButton(QWidget* form, int index, QSize size) {
+  auto* button = new JerseyButton(jerseyButtonName(index), size, form);
   connect(button, &JerseyButton::pressed, this, [this, button] {
     const auto found = std::ranges::find(m_buttons, button);
     if (m_isOpen && found != m_buttons.end())
@@ -161,18 +162,9 @@ JerseyButton* FollowUpBar::makeButton(QWidget* form, int index) {
   return button;
 }
 
-// The hint and "Nobody".
-QWidget* FollowUpBar::makeEnd(QWidget* form, const char* nobodyName) {
-  auto* row = new QWidget(form);
-  auto* layout = new QHBoxLayout(row);
-  layout->setContentsMargins(0, kGap, 0, 0);
-  auto* hint = new PlainLabel(row);
-  hint->setForegroundRole(QPalette::PlaceholderText);
-  hint->setWordWrap(true);
-  setTextNumber(*hint, kHint);
-  layout->addWidget(hint, 1);
-  auto* nobody = new QPushButton(row);
-  nobody->setObjectName(QLatin1String(nobodyName));
+QPushButton* FollowUpBar::makeNobody(QWidget* form, const char* name) {
+  auto* nobody = new QPushButton(form);
+  nobody->setObjectName(QLatin1String(name));
   nobody->setFocusPolicy(Qt::TabFocus);
   setTextNumber(*nobody, kNobody);
   setToolTipNumber(*nobody, kHint);
@@ -181,8 +173,7 @@ QWidget* FollowUpBar::makeEnd(QWidget* form, const char* nobodyName) {
     m_whole.reset();
     dismiss();
   });
-  layout->addWidget(nobody);
-  return row;
+  return nobody;
 }
 
 QWidget* FollowUpBar::makeAssist() {
@@ -192,14 +183,16 @@ QWidget* FollowUpBar::makeAssist() {
   auto* grid = new QGridLayout(form);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kGap);
-  grid->addWidget(makeTitle(form), 0, 0, 1, kGroup);
+  grid->addWidget(makeTitle(form), 0, 0, 1, kMates);
   m_shooters = makeBand(form, QStringLiteral("lblTEAM"));
-  grid->addWidget(m_shooters, 1, 0, 1, kGroup);
+  grid->addWidget(m_shooters, 1, 0, 1, kMates);
+  const QSize size((kInnerWidth - kGap) / kMates, kMateHeight);
   for (int index = 0; index < kGroup; ++index) {
-    m_mates[static_cast<std::size_t>(index)] = makeButton(form, index);
-    grid->addWidget(m_mates[static_cast<std::size_t>(index)], 2, index);
+    m_mates[static_cast<std::size_t>(index)] = makeButton(form, index, size);
+    if (index < 2 * kMates) // the shooter is left out: four at most
+      grid->addWidget(m_mates[static_cast<std::size_t>(index)], 2 + index / kMates, index % kMates);
   }
-  grid->addWidget(makeEnd(form, "cmdNOASS"), 3, 0, 1, kGroup);
+  grid->addWidget(makeNobody(form, "cmdNOASS"), 5, 0, 1, kMates);
   return form;
 }
 
@@ -210,25 +203,31 @@ QWidget* FollowUpBar::makeRebound() {
   auto* grid = new QGridLayout(form);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kGap);
-  grid->addWidget(makeTitle(form), 0, 0, 1, kGroup);
+  grid->addWidget(makeTitle(form), 0, 0, 1, kRebounders);
+  const QSize size((kInnerWidth - (kRebounders - 1) * kGap) / kRebounders, kRebounderHeight);
+  constexpr int kRows = 3; // of a group: its name, and its players in two
   for (int group = 0; group < 2; ++group) {
     QLabel* label = makeBand(form, QStringLiteral("lblTYPEREBOND(%1)").arg(group));
     m_groups[static_cast<std::size_t>(group)] = label;
-    grid->addWidget(label, 1 + 2 * group, 0, 1, kGroup);
+    grid->addWidget(label, 1 + kRows * group, 0, 1, kRebounders);
     for (int place = 0; place < kGroup; ++place) {
       const int index = group * kGroup + place;
-      m_rebounders[static_cast<std::size_t>(index)] = makeButton(form, index);
-      grid->addWidget(m_rebounders[static_cast<std::size_t>(index)], 2 + 2 * group, place);
+      m_rebounders[static_cast<std::size_t>(index)] = makeButton(form, index, size);
+      grid->addWidget(m_rebounders[static_cast<std::size_t>(index)], 2 + kRows * group + place / kRebounders,
+                      place % kRebounders);
     }
   }
-  grid->addWidget(makeEnd(form, "cmdNOREB"), 5, 0, 1, kGroup);
+  grid->addWidget(makeNobody(form, "cmdNOREB"), 1 + 2 * kRows, 0, 1, kRebounders);
   return form;
 }
 
 void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, std::size_t place) {
   const FollowUpQuestion::Choice& choice = m_question.choices()[place];
   const int team = choice.team();
+  const RosterPlayer* who = game.game().roster[team].player(choice.player);
+  const bool hasName = m_question.isAssist() && who != nullptr;
   button.setLook({.jersey = toQt(choice.jersey),
+                  .name = hasName ? toQt(familyName(who->name)) : QString(),
                   .colour = colourOf(game.game().details.teamColour[team]),
                   .isFilled = true,
                   .isFouledOut = game.isFouledOut(team, choice.player)});
@@ -359,7 +358,7 @@ void FollowUpBar::showTyped() {
   m_titles[form]->setText(caption(m_texts, m_question.isAssist() ? kAssistTitle : kReboundTitle));
   const std::string& typed = m_question.typed();
   m_numbers[form]->setText(typed.empty() ? QString() : toQt(typed) + QLatin1Char('_'));
-  QPalette colours = palette();
+  QPalette colours = QApplication::palette();
   if (isRefused || m_ownRefusal != 0)
     colours.setColor(QPalette::WindowText, Theme::missed());
   m_numbers[form]->setPalette(colours);
@@ -517,11 +516,15 @@ bool FollowUpBar::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-void FollowUpBar::paintEvent(QPaintEvent* event) {
-  QWidget::paintEvent(event);
+void FollowUpBar::paintEvent(QPaintEvent*) {
+  const Look& look = Theme::look();
   QPainter painter(this);
-  painter.setPen(QPen(m_flash.isActive() ? Theme::missed() : Theme::accent(), m_flash.isActive() ? 4 : 2));
-  painter.drawRect(rect().adjusted(1, 1, -1, -1));
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double width = m_flash.isActive() ? 4 : 2;
+  painter.setPen(QPen(m_flash.isActive() ? look.missed : look.accent, width));
+  painter.setBrush(look.surface);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(width / 2, width / 2, -width / 2, -width / 2), kRadius,
+                          kRadius);
 }
 
 } // namespace hooptab

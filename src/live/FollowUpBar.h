@@ -83,9 +83,9 @@ class FollowUpBar : public QWidget {
   QWidget* makeRebound();
   QWidget* makeTitle(QWidget* form);
   QLabel* makeBand(QWidget* form, const QString& name);
-  QWidget* makeEnd(QWidget* form, const char* nobodyName);
+  QPushButton* makeNobody(QWidget* form, const char* name);
   QWidget* makeReason();
-  JerseyButton* makeButton(QWidget* form, int index);
+  JerseyButton* makeButton(QWidget* form, int index, QSize size);
   void offer(const LiveGame& game, JerseyButton& button, std::size_t choice);
   void nameTeam(const LiveGame& game, QLabel& band, int text, int team);
   void placeBeside(const QRect& panel, const QRect& room);

@@ -14,25 +14,14 @@ namespace hooptab {
 
 namespace {
 
-constexpr double kFrame = 3; // around the body: selection and focus
-constexpr double kRadius = 4;
-constexpr double kOutline = 2.5;
-constexpr double kSign = 11;
-constexpr int kJerseySize = 10;
-constexpr int kJerseySizeWithName = 12;
-constexpr double kNameShare = 0.42; // of the height
-constexpr double kNameFont = 0.82;  // of the usual size
-constexpr int kNameMargin = 4;
+constexpr double kRadius = 5;
+constexpr int kHatchGap = 10; // of the hatch over one who goes out
+constexpr int kWarningBar = 3;
+constexpr int kMargin = 6;
 
-// A disc that keeps the sign readable on any team colour.
-void drawDisc(QPainter& painter, const QRectF& sign, const QPalette& palette) {
-  painter.setPen(QPen(palette.color(QPalette::PlaceholderText), 0.75));
-  painter.setBrush(palette.color(QPalette::Base));
-  painter.drawEllipse(sign);
-}
+} // namespace
 
-// Where there is no room for all of it the family name counts: "Cleo Carter", "C. Carter", "C. Cart...".
-QString shortened(const QString& name, const QFontMetrics& metrics, int width) {
+QString shortenedName(const QString& name, const QFontMetrics& metrics, int width) {
   const qsizetype blank = name.indexOf(QLatin1Char(' '));
   const QString whole = metrics.elidedText(name, Qt::ElideRight, width);
   if (whole == name || blank < 1)
@@ -40,15 +29,14 @@ QString shortened(const QString& name, const QFontMetrics& metrics, int width) {
   return metrics.elidedText(name.left(1) + QLatin1Char('.') + name.mid(blank), Qt::ElideRight, width);
 }
 
-} // namespace
-
 QString jerseyButtonName(int index) {
   return QStringLiteral("cmdJERSEY(%1)").arg(index);
 }
 
 JerseyButton::JerseyButton(const QString& name, QSize size, QWidget* parent) : QAbstractButton(parent) {
   setObjectName(name);
-  setFixedSize(size);
+  if (!size.isEmpty())
+    setFixedSize(size);
   setFocusPolicy(Qt::TabFocus);
   setAttribute(Qt::WA_Hover);
   QSizePolicy policy = sizePolicy();
@@ -96,78 +84,114 @@ void JerseyButton::mouseMoveEvent(QMouseEvent* event) {
 void JerseyButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QRectF body = QRectF(rect()).adjusted(kFrame, kFrame, -kFrame, -kFrame);
-  if (m_look.isSelected || hasFocus()) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(m_look.isSelected ? QPen(Theme::accent(), 2.5)
-                                     : QPen(palette().color(QPalette::WindowText), 1, Qt::DotLine));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1.25, 1.25, -1.25, -1.25), kRadius + 2, kRadius + 2);
-  }
+  const QRectF body = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
   drawBody(painter, body);
   drawText(painter, body);
-  drawSigns(painter, body);
+  painter.setBrush(Qt::NoBrush);
+  if (m_look.isSelected || hasFocus()) {
+    painter.setPen(
+        QPen(lineOn(Theme::accent(), ground(), kRecognisable), hasFocus() && m_look.isSelected ? 3 : 2));
+    painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  }
+}
+
+// One who goes out is still where he was, one who comes in is not yet there.
+bool JerseyButton::isInColour() const {
+  return m_look.move == Move::Leaves || (m_look.isFilled && m_look.move != Move::Comes);
+}
+
+QColor JerseyButton::ground() const {
+  const auto& look = Theme::look();
+  if (isInColour())
+    return m_look.colour;
+  if (m_look.isFouledOut)
+    return look.raised;
+  return underMouse() && isEnabled() ? look.raised : look.surface;
 }
 
 void JerseyButton::drawBody(QPainter& painter, const QRectF& body) const {
-  // The hairline shows where a team's colour is that of the ground.
-  const QColor hairline = palette().color(underMouse() ? QPalette::WindowText : QPalette::PlaceholderText);
-  painter.setPen(QPen(hairline, 1));
-  painter.setBrush(m_look.isFilled ? m_look.colour : palette().color(QPalette::Base));
-  painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
-  if (m_look.isFilled)
+  const auto& look = Theme::look();
+  const QColor fill = ground();
+  const bool isPointedAt = underMouse() && isEnabled();
+  QColor border = isInColour() ? outlineOf(fill, look.surface) : m_look.isFouledOut ? look.line : look.edge;
+  if (isPointedAt)
+    border = look.ink;
+  painter.setBrush(fill);
+  painter.setPen(QPen(border, 1));
+  painter.drawRoundedRect(body, kRadius, kRadius);
+  if (m_look.isWarned && !m_look.isFouledOut) {
+    painter.save();
+    painter.setClipRect(QRectF(body.left(), body.bottom() - kWarningBar, body.width(), kWarningBar + 1));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look.warningBar);
+    painter.drawRoundedRect(body, kRadius, kRadius);
+    painter.restore();
+  }
+  if (m_look.move == Move::None)
     return;
-  constexpr double kInset = 1 + kOutline / 2;
-  painter.setPen(QPen(m_look.colour, kOutline));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(body.adjusted(kInset, kInset, -kInset, -kInset), kRadius - 1, kRadius - 1);
+  painter.save();
+  if (m_look.move == Move::Comes) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(lineOn(m_look.colour, fill, kRecognisable), 2, Qt::DashLine));
+    painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  } else {
+    painter.setClipRect(body.adjusted(1, 1, -1, -1));
+    painter.setPen(QPen(mix(look.surface, fill, 0.4), 3));
+    for (double x = body.left() - body.height(); x < body.right(); x += kHatchGap)
+      painter.drawLine(QPointF(x, body.bottom()), QPointF(x + body.height(), body.top()));
+  }
+  painter.restore();
+}
+
+void JerseyButton::drawNumber(QPainter& painter, const QRectF& room, const QColor& text,
+                              Qt::Alignment alignment) const {
+  painter.setPen(text);
+  QRectF drawn;
+  painter.drawText(room, static_cast<int>(alignment | Qt::AlignVCenter), m_look.jersey, &drawn);
+  if (!m_look.isFouledOut)
+    return;
+  painter.setPen(QPen(text, 1.6));
+  painter.drawLine(QPointF(drawn.left() - 2, drawn.center().y()),
+                   QPointF(drawn.right() + 2, drawn.center().y()));
 }
 
 void JerseyButton::drawText(QPainter& painter, const QRectF& body) const {
-  const bool hasName = !m_look.name.isEmpty();
-  const double nameHeight = hasName ? body.height() * kNameShare : 0;
-  painter.setPen(m_look.isFilled ? textOn(m_look.colour) : palette().color(QPalette::Text));
-  painter.setFont(Theme::figures(hasName ? kJerseySizeWithName : kJerseySize, true));
-  const QRectF number = body.adjusted(0, hasName ? 2 : 0, 0, -nameHeight);
-  painter.drawText(number, Qt::AlignCenter, m_look.jersey);
-  if (m_look.isFouledOut) {
-    const double width = painter.fontMetrics().horizontalAdvance(m_look.jersey) / 2.0 + 3;
-    const QPointF middle = number.center();
-    painter.save();
-    painter.setPen(QPen(painter.pen().color(), 2));
-    painter.drawLine(middle - QPointF(width, 0), middle + QPointF(width, 0));
-    painter.restore();
-  }
-  if (!hasName)
+  const auto& look = Theme::look();
+  const Measure& measure = Theme::measure();
+  const QColor fill = ground();
+  const QColor text = !isEnabled()         ? lineOn(look.edge, fill, kRecognisable)
+                      : isInColour()       ? textOn(fill)
+                      : m_look.isFouledOut ? look.muted
+                                           : look.ink;
+  const bool hasLines = !isInColour() && (!m_look.lines[0].isEmpty() || !m_look.lines[1].isEmpty());
+  painter.setFont(Theme::font(Type::Count, QFont::Bold));
+  if (m_look.name.isEmpty() && !hasLines)
+    return drawNumber(painter, body, text, Qt::AlignHCenter);
+  const double numberWidth = painter.fontMetrics().horizontalAdvance(QStringLiteral("00"));
+  const double left = body.left() + measure(kMargin);
+  const double needed = std::max<double>(painter.fontMetrics().horizontalAdvance(m_look.jersey), numberWidth);
+  drawNumber(painter, QRectF(left, body.top(), needed, body.height()), text, Qt::AlignRight);
+  const QRectF rest(left + needed + measure(4), body.top(), body.right() - left - needed - measure(5),
+                    body.height());
+  if (!m_look.name.isEmpty()) {
+    painter.setPen(text);
+    painter.setFont(Theme::font(Type::Small));
+    painter.drawText(rest, Qt::AlignLeft | Qt::AlignVCenter,
+                     shortenedName(m_look.name, painter.fontMetrics(), static_cast<int>(rest.width())));
     return;
-  QFont small = font();
-  small.setPointSizeF(small.pointSizeF() * kNameFont);
-  painter.setFont(small);
-  const QRectF room = body.adjusted(kNameMargin, body.height() - nameHeight - 1, -kNameMargin, -2);
-  painter.drawText(room, Qt::AlignCenter,
-                   shortened(m_look.name, painter.fontMetrics(), static_cast<int>(room.width())));
-}
-
-void JerseyButton::drawSigns(QPainter& painter, const QRectF& body) const {
-  if (m_look.isFouledOut) {
-    const QRectF sign(body.right() - kSign - 1, body.top() + 1, kSign, kSign);
-    drawDisc(painter, sign, palette());
-    painter.setPen(QPen(Theme::missed(), 1.75));
-    const QRectF cross = sign.adjusted(3, 3, -3, -3);
-    painter.drawLine(cross.topLeft(), cross.bottomRight());
-    painter.drawLine(cross.topRight(), cross.bottomLeft());
   }
-  if (m_look.move != Move::None) {
-    const QRectF sign(body.left() + 1, body.top() + 1, kSign + 2, kSign + 2);
-    drawDisc(painter, sign, palette());
-    const bool comes = m_look.move == Move::Comes;
-    const QRectF arrow = sign.adjusted(3, 3.5, -3, -3.5);
-    const double base = comes ? arrow.bottom() : arrow.top();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(comes ? Theme::made() : Theme::missed());
-    painter.drawPolygon(QPolygonF({{arrow.left(), base},
-                                   {arrow.right(), base},
-                                   {arrow.center().x(), comes ? arrow.top() : arrow.bottom()}}));
+  if (m_look.lines[1].isEmpty()) {
+    painter.setPen(look.muted);
+    painter.drawText(rest, Qt::AlignLeft | Qt::AlignVCenter, m_look.lines[0]);
+    return;
   }
+  const double half = rest.height() / 2;
+  painter.setFont(Theme::font(Type::Dense, QFont::DemiBold));
+  painter.setPen(m_look.isFouledOut ? look.missed : text);
+  painter.drawText(rest.adjusted(0, 1, 0, -half + 1), Qt::AlignLeft | Qt::AlignVCenter, m_look.lines[0]);
+  painter.setFont(Theme::font(Type::Dense));
+  painter.setPen(m_look.isWarned ? look.warningText : look.muted);
+  painter.drawText(rest.adjusted(0, half - 1, 0, -1), Qt::AlignLeft | Qt::AlignVCenter, m_look.lines[1]);
 }
 
 } // namespace hooptab

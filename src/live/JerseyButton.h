@@ -1,9 +1,11 @@
-// A player as a button: his jersey number in his team's colour, with his name where there is room. Shows how
-// he stands; what a press means is for its owner to say. Acts on the press (signal pressed()), not when the
-// button is let go, and can be dragged.
+// A player as a button: his jersey number, in his team's colour where he is on court, with his name or with
+// what he has so far. Shows how he stands; what a press means is for its owner to say. Acts on the press
+// (signal pressed()), not when the button is let go, and can be dragged.
 #pragma once
 
 #include <QAbstractButton>
+
+#include <array>
 
 namespace hooptab {
 
@@ -15,15 +17,19 @@ class JerseyButton : public QAbstractButton {
   enum class Move { None, Comes, Leaves };
   struct Look {
     QString jersey = {}; // empty: no such player; the button is hidden and keeps its room
-    QString name = {};   // shown under the jersey where it is not empty
+    QString name = {};   // beside the jersey where it is not empty
+    // Two short lines beside the jersey, "8 p" and "2f 15′"; none where both are empty.
+    std::array<QString, 2> lines = {};
     QColor colour = {};
     bool isFilled = false; // on court; outlined otherwise
+    bool isWarned = false; // foul trouble
     bool isFouledOut = false;
     bool isSelected = false;
     Move move = Move::None;
     friend bool operator==(const Look&, const Look&) = default;
   };
 
+  // A size that is empty leaves it to its owner to lay the button out.
   JerseyButton(const QString& name, QSize size, QWidget* parent);
 
   void setLook(const Look& look); // repaints only what has changed
@@ -40,7 +46,9 @@ class JerseyButton : public QAbstractButton {
  private:
   void drawBody(QPainter& painter, const QRectF& body) const;
   void drawText(QPainter& painter, const QRectF& body) const;
-  void drawSigns(QPainter& painter, const QRectF& body) const;
+  void drawNumber(QPainter& painter, const QRectF& room, const QColor& text, Qt::Alignment alignment) const;
+  [[nodiscard]] bool isInColour() const;
+  [[nodiscard]] QColor ground() const;
 
   Look m_look;
   QString m_dragText;
@@ -49,5 +57,9 @@ class JerseyButton : public QAbstractButton {
 
 // How a jersey button in a row of a panel is named: "cmdJERSEY(3)".
 [[nodiscard]] QString jerseyButtonName(int index);
+
+// A name where there may be no room for all of it; the family name counts: "Cleo Carter", "C. Carter",
+// "C. Cart...".
+[[nodiscard]] QString shortenedName(const QString& name, const QFontMetrics& metrics, int width);
 
 } // namespace hooptab

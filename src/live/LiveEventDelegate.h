@@ -1,5 +1,5 @@
-// Draws an event's words over the whole width of a narrow list, but for the score where it changed, and a
-// mark before those of an event that looks wrong.
+// Draws an event of the live list: clock, the bar of its team, number, mark of a shot, words, and at the
+// right the score where it changed, or what is to be looked at. Each at a fixed place.
 #pragma once
 
 #include <QStyledItemDelegate>
@@ -8,11 +8,11 @@ namespace hooptab {
 
 class LiveEventDelegate : public QStyledItemDelegate {
  public:
-  static constexpr int kMarkSize = 13; // of a finding, at the left of the words
-
   using QStyledItemDelegate::QStyledItemDelegate;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& given, const QModelIndex& index) const override;
+  // The chip at the right of a row that is to be looked at.
+  [[nodiscard]] static QRect chipOf(const QRect& row);
 };
 
 } // namespace hooptab

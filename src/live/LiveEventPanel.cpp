@@ -2,7 +2,9 @@
 
 #include "appearance/Icons.h"
 #include "appearance/PlainText.h"
+#include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "live/EventCorrection.h"
 #include "live/EventFilterRow.h"
 #include "live/LiveEventDelegate.h"
 #include "live/LiveGame.h"
@@ -14,6 +16,7 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QTableView>
 #include <QToolButton>
@@ -24,10 +27,8 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kRowHeight = 20;
-constexpr int kColourWidth = 5; // the stripe of the team's colour before the words
-constexpr int kPadding = 8;
-constexpr int kButtonSize = 26;
+constexpr int kFewestRows = 2; // that notices and the filters leave on a small screen
+constexpr double kRadius = 7;
 
 constexpr int kDelete = 1081;
 constexpr int kUndelete = 1086;
@@ -71,21 +72,18 @@ LiveEventPanel::LiveEventPanel(const Texts& texts, QWidget* parent)
   connect(m_filters, &EventFilterRow::changed, this, [this] { m_rows.setFilter(m_filters->filter()); });
   m_checks = new QPushButton(this);
   m_checks->setObjectName(QStringLiteral("lblCHECKS"));
-  m_checks->setFlat(true);
   m_checks->setFocusPolicy(Qt::TabFocus);
-  m_checks->setIconSize({LiveEventDelegate::kMarkSize, LiveEventDelegate::kMarkSize});
-  setToolTipNumber(*m_checks, kCheckHint);
   connect(m_checks, &QPushButton::clicked, this, &LiveEventPanel::leadToCheck);
 
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(2);
+  layout->setContentsMargins(1, 1, 1, 2);
+  layout->setSpacing(0);
   layout->addWidget(makeButtons());
   layout->addWidget(m_filters);
-  layout->addWidget(m_checks, 0, Qt::AlignLeft);
   layout->addWidget(m_list, 1);
   hooptab::relabel(*this, texts);
   relabelPanel();
+  applyColours();
 }
 
 void LiveEventPanel::makeList() {
@@ -94,15 +92,14 @@ void LiveEventPanel::makeList() {
   setAccessibleNumber(*m_list, kEvents);
   m_list->setModel(&m_rows);
   m_list->setItemDelegateForColumn(EventListModel::Action, new LiveEventDelegate(m_list));
+  m_list->setFrameShape(QFrame::NoFrame);
+  m_list->hideColumn(EventListModel::Clock); // drawn with the words
   m_list->hideColumn(EventListModel::Period);
   m_list->hideColumn(EventListModel::Score);
   m_list->horizontalHeader()->hide();
   m_list->horizontalHeader()->setSectionResizeMode(EventListModel::Action, QHeaderView::Stretch);
   m_list->verticalHeader()->hide();
-  m_list->verticalHeader()->setMinimumSectionSize(kRowHeight);
-  m_list->verticalHeader()->setDefaultSectionSize(kRowHeight);
   m_list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  m_list->setIconSize({kColourWidth, kRowHeight - 4});
   m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
   m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
   m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -112,7 +109,6 @@ void LiveEventPanel::makeList() {
   m_list->setShowGrid(false);
   m_list->setWordWrap(false);
   m_list->setTabKeyNavigation(false);
-  m_list->setMinimumHeight(kRowHeight / 2); // all that two strips and the filters leave on a small screen
   m_list->viewport()->installEventFilter(this);
   m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
   connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -142,7 +138,7 @@ QWidget* LiveEventPanel::makeButtons() {
   m_insertBefore = makeAction("cmdINSERTBEFORE", kInsertBefore, "insertbefore");
   m_insertAfter = makeAction("cmdINSERTAFTER", kInsertAfter, "insertafter");
   m_time = makeAction("cmdTIME", kChangeTime, "edit");
-  m_doubt = makeAction("cmdDOUBT", kDoubtful, "tocheck");
+  m_doubt = makeAction("cmdDOUBT", kDoubtful, "doubtful");
   m_substituteBefore = makeAction("cmdSUBSTBEFORE", kSubstituteBefore, "insertbefore");
   m_substituteAfter = makeAction("cmdSUBSTAFTER", kSubstituteAfter, "insertafter");
   m_undo = makeAction("cmdUNDO", 0, "undo");
@@ -157,26 +153,23 @@ QWidget* LiveEventPanel::makeButtons() {
 
   auto* row = new QWidget(this);
   auto* layout = new QHBoxLayout(row);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(2);
-  for (QAction* action :
-       {m_undo, m_redo, m_delete, m_undelete, m_edit, m_insertBefore, m_insertAfter, m_filter}) {
+  layout->setContentsMargins(4, 1, 4, 1);
+  layout->setSpacing(1);
+  for (QAction* action : {m_undo, m_redo, m_edit, m_insertAfter, m_delete, m_doubt, m_filter}) {
     auto* button = new QToolButton(row);
     button->setDefaultAction(action);
     button->setToolButtonStyle(Qt::ToolButtonIconOnly);
     button->setAutoRaise(true);
-    button->setFixedSize(kButtonSize, kButtonSize);
     button->setFocusPolicy(Qt::TabFocus);
-    if (action == m_delete || action == m_filter)
+    if (action == m_filter) {
       layout->addStretch();
+      layout->addWidget(m_checks);
+    }
     layout->addWidget(button);
-    if (action != m_filter)
-      m_list->addAction(action);
-    if (action == m_edit)
-      m_list->addActions({m_time, m_doubt});
-    if (action == m_insertAfter)
-      m_list->addActions({m_substituteBefore, m_substituteAfter});
+    m_buttons.push_back(button);
   }
+  m_list->addActions({m_undo, m_redo, m_delete, m_undelete, m_edit, m_time, m_doubt, m_insertBefore,
+                      m_insertAfter, m_substituteBefore, m_substituteAfter});
 
   connect(m_delete, &QAction::triggered, this, &LiveEventPanel::askDeletion);
   connect(m_undelete, &QAction::triggered, this, [this] {
@@ -243,8 +236,6 @@ void LiveEventPanel::showGame(const LiveGame& game) {
     m_list->scrollToTop();
   else if (top.isValid())
     m_list->scrollTo(top, QAbstractItemView::PositionAtTop);
-  if (isNew)
-    fitColumns();
   m_filters->showGame(m_rows.game(), m_rows.words());
   showChecks();
   showCommands();
@@ -253,27 +244,49 @@ void LiveEventPanel::showGame(const LiveGame& game) {
 void LiveEventPanel::relabelPanel() {
   m_rows.relabel();
   m_filters->relabelRow(m_rows.game(), m_rows.words());
-  fitColumns();
   showChecks();
   showCommands();
 }
 
 void LiveEventPanel::applyColours() {
+  const Measure& measure = Theme::measure();
+  const int rowHeight = measure(23, 30);
+  m_list->verticalHeader()->setMinimumSectionSize(rowHeight);
+  m_list->verticalHeader()->setDefaultSectionSize(rowHeight);
+  m_list->setMinimumHeight(kFewestRows * rowHeight);
+  for (QToolButton* button : m_buttons) {
+    button->setFixedSize(measure(28, 34), measure(26, 32));
+    button->setIconSize({measure(18, 22), measure(18, 22)});
+  }
+  m_checks->setFixedSize(measure(44, 56), measure(22, 26));
+  m_checks->setFont(Theme::font(Type::Small, QFont::DemiBold));
   m_list->viewport()->update();
   showChecks();
+  update();
 }
 
-void LiveEventPanel::fitColumns() {
-  const int clock = QFontMetrics(m_list->font()).horizontalAdvance(QStringLiteral("00:00"));
-  m_list->setColumnWidth(EventListModel::Clock, clock + kPadding);
+void LiveEventPanel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Theme::look().line);
+  painter.setBrush(Theme::look().surface);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
 }
 
+// A chip that stands out where there is something to look at, and is not there where there is nothing.
 void LiveEventPanel::showChecks() {
   const std::size_t count = m_rows.findings().size() + m_rows.doubtful().size();
   m_checks->setEnabled(count > 0);
-  m_checks->setIcon(count > 0 ? icon(QStringLiteral("tocheck")) : QIcon());
-  m_checks->setText(count > 0 ? withPlaceholder(m_texts, kToCheck, QString::number(count))
-                              : caption(m_texts, kNothingToCheck));
+  m_checks->setVisible(count > 0);
+  m_checks->setText(QStringLiteral("⚠ %1").arg(count));
+  const QString words = count > 0 ? withPlaceholder(m_texts, kToCheck, QString::number(count))
+                                  : caption(m_texts, kNothingToCheck);
+  m_checks->setAccessibleName(words);
+  m_checks->setToolTip(words + u'\n' + caption(m_texts, kCheckHint));
+  QPalette colours;
+  colours.setColor(QPalette::Button, Theme::look().warningGround);
+  colours.setColor(QPalette::ButtonText, Theme::look().warningText);
+  m_checks->setPalette(colours);
 }
 
 void LiveEventPanel::showCommands() {
@@ -460,14 +473,27 @@ QPoint LiveEventPanel::cornerUnder(std::size_t event) const {
   return m_list->viewport()->mapToGlobal(m_list->visualRect(m_rows.rowOf(event)).bottomLeft());
 }
 
+// A double click puts what was counted in correction; anything else is edited.
+bool LiveEventPanel::takeDoubleClick(const QMouseEvent& mouse) {
+  const QModelIndex index = m_list->indexAt(mouse.position().toPoint());
+  if (mouse.button() != Qt::LeftButton || !index.isValid() || m_game == nullptr)
+    return false;
+  const EventPlace event = placeOf(m_rows.eventAt(index));
+  if (!EventCorrection::canCorrect(*m_game, event))
+    return false;
+  emit correctionAsked(event);
+  return true;
+}
+
 bool LiveEventPanel::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == m_list->viewport() && event->type() == QEvent::MouseButtonDblClick)
+    return takeDoubleClick(static_cast<const QMouseEvent&>(*event));
   if (event->type() == QEvent::MouseButtonRelease) {
     const auto& mouse = static_cast<const QMouseEvent&>(*event);
     const QModelIndex index = m_list->indexAt(mouse.position().toPoint());
-    const int left = m_list->visualRect(index).left();
     if (mouse.button() == Qt::LeftButton && index.column() == EventListModel::Action &&
         index.data(LiveEventRows::HasFinding).toBool() &&
-        mouse.position().x() < left + LiveEventDelegate::kMarkSize)
+        LiveEventDelegate::chipOf(m_list->visualRect(index)).contains(mouse.position().toPoint()))
       offerRepairs(m_rows.eventAt(index));
   }
   return QWidget::eventFilter(watched, event);

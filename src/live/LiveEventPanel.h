@@ -12,8 +12,10 @@
 #include <vector>
 
 class QAction;
+class QMouseEvent;
 class QPushButton;
 class QTableView;
+class QToolButton;
 
 namespace hooptab {
 
@@ -44,6 +46,7 @@ class LiveEventPanel : public QWidget {
   void doubtAsked(const hooptab::EventPlace& event, bool isDoubtful);
   void deleteAsked(const std::vector<hooptab::EventPlace>& events, bool isDeleted);
   void editAsked(const hooptab::EventPlace& event);
+  void correctionAsked(const hooptab::EventPlace& event); // by a double click
   void insertAsked(const hooptab::EventPlace& event, bool isBefore);
   void timeAsked(const hooptab::EventPlace& event);
   // Put in at an event, or another choice for one that is recorded; `player` (0: nobody) is to come in.
@@ -54,6 +57,7 @@ class LiveEventPanel : public QWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override; // a click on a mark
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   QAction* makeAction(const char* name, int text, const char* iconName);
@@ -62,13 +66,13 @@ class LiveEventPanel : public QWidget {
   void showChecks();
   void showCommands();
   void showTurn(QAction& action, const LiveAction* turned, int text, int nothing) const;
-  void fitColumns();
   std::vector<std::size_t> toCheck() const; // in the order of the game
   void select(const std::vector<EventPlace>& events, const std::optional<EventPlace>& current);
   void offerRepairs(std::size_t event);
   void repair(const LiveRepair& repair);
   QPoint cornerUnder(std::size_t event) const;
   void askDeletion();
+  bool takeDoubleClick(const QMouseEvent& mouse);
   void choose(std::size_t event);
   EventPlace placeOf(std::size_t event) const;
   std::vector<EventPlace> placesOf(const std::vector<std::size_t>& events) const;
@@ -81,6 +85,7 @@ class LiveEventPanel : public QWidget {
   LiveEventRows m_rows;
   QTableView* m_list = nullptr;
   QPushButton* m_checks = nullptr;
+  std::vector<QToolButton*> m_buttons;
   EventFilterRow* m_filters = nullptr;
   QAction* m_delete = nullptr;
   QAction* m_undelete = nullptr;

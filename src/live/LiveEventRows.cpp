@@ -2,11 +2,18 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/ShotFollowUp.h"
 
 #include <algorithm>
 
 namespace hooptab {
+
+namespace {
+
+constexpr int kFoul = 2576;
+constexpr int kTechnical = 2577;
+constexpr int kTeamFoul = 2578;
+
+} // namespace
 
 LiveEventRows::LiveEventRows(const Texts& texts, QObject* parent)
     : QSortFilterProxyModel(parent), m_texts(texts), m_events(texts, EventListModel::Words::Short) {
@@ -36,6 +43,7 @@ void LiveEventRows::show(const Game& game) {
 
 std::vector<LiveEventRows::Row> LiveEventRows::rowsOf(const Game& game) const {
   std::vector<Row> rows(game.events.size());
+  const std::vector<FoulNumber> fouls = foulNumbers(game);
   const Rosters rosters{game.roster[0], game.roster[1]};
   OnCourt onCourt = {};
   std::string_view lists; // of the last stop that counts, as written
@@ -43,7 +51,7 @@ std::vector<LiveEventRows::Row> LiveEventRows::rowsOf(const Game& game) const {
     const GameEvent& event = game.events[place];
     if (!event.isUnderstood)
       continue;
-    rows[place].isFollowUp = shotOf(game.events, place).has_value();
+    rows[place].foul = fouls[place];
     if (event.code != EventCode::ARRET)
       continue;
     const std::string_view code = ",ARRET,";
@@ -101,10 +109,8 @@ QVariant LiveEventRows::data(const QModelIndex& index, int role) const {
   const Row& row = m_ofEvents[eventAt(index)];
   const GameEvent& event = game().events[eventAt(index)];
   const bool isDoubtful = event.isDoubtful && !event.isDeleted;
-  if (role == Qt::DisplayRole && index.column() == EventListModel::Action && (row.isFollowUp || isDoubtful))
-    return QString((isDoubtful ? QStringLiteral("? ") : QStringLiteral("  ")) + value.toString());
-  if (role == Qt::BackgroundRole && isDoubtful)
-    return Theme::doubtful();
+  if (role == Whole)
+    return QVariant::fromValue(whole(eventAt(index)));
   if (role == HasFinding)
     return !row.findings.isEmpty() || isDoubtful;
   if (row.findings.isEmpty())
@@ -114,11 +120,46 @@ QVariant LiveEventRows::data(const QModelIndex& index, int role) const {
   return value;
 }
 
+LiveEventRow LiveEventRows::whole(std::size_t place) const {
+  const GameEvent& event = game().events[place];
+  const EventWords::Parts parts = words().parts(place);
+  LiveEventRow row;
+  row.clock = toQt(words().clock(place));
+  if (parts.team >= 0)
+    row.team = colourOf(game().details.teamColour[parts.team]);
+  row.number = toQt(parts.jersey);
+  row.name = toQt(parts.name);
+  row.action = toQt(parts.action);
+  row.score = m_events.index(static_cast<int>(place), EventListModel::Score).data().toString();
+  row.score.replace(u'-', u'–');
+  row.isUnderstood = event.isUnderstood;
+  if (event.isUnderstood && parts.jersey.empty() && parts.name.empty()) {
+    const bool changes = m_ofEvents[place].changed != OnCourt{};
+    row.action.prepend(event.code == EventCode::DEPART ? QStringLiteral("▸ ")
+                       : changes                       ? QStringLiteral("⇄ ")
+                                                       : QStringLiteral("■ "));
+  }
+  if (const FoulNumber& foul = m_ofEvents[place].foul; foul.ofPlayer > 0) {
+    row.action = caption(m_texts, event.code == EventCode::STF ? kTechnical : kFoul);
+    row.extra = toQt(ordinalText(foul.ofPlayer, m_texts));
+    row.tail = toQt(m_texts.withPlaceholder(kTeamFoul, std::to_string(foul.ofTeam)));
+  }
+  row.isShot = event.isUnderstood && event.isShot();
+  row.isMade = event.isMade;
+  row.isDeleted = event.isDeleted;
+  row.isDoubtful = event.isDoubtful && !event.isDeleted;
+  row.hasFinding = !m_ofEvents[place].findings.isEmpty();
+  row.isLatest = place + 1 == game().events.size();
+  return row;
+}
+
 bool LiveEventRows::filterAcceptsRow(int row, const QModelIndex&) const {
-  if (m_filter == EventFilter())
-    return true;
   const auto place = static_cast<std::size_t>(row);
   const GameEvent& event = game().events[place];
+  if (event.isDeleted && !m_filter.showsDeleted)
+    return false;
+  if (m_filter == EventFilter())
+    return true;
   if (m_filter.period > 0 && event.period != m_filter.period)
     return false;
   if (m_filter.kind != EventCode::Unknown && event.code != m_filter.kind)

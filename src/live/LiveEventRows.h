@@ -4,26 +4,47 @@
 
 #include "appearance/EventListModel.h"
 #include "live/LiveChecks.h"
+#include "live/LiveWords.h"
 #include "live/OnCourt.h"
 
+#include <QColor>
+#include <QMetaType>
 #include <QSortFilterProxyModel>
 
 #include <vector>
 
 namespace hooptab {
 
+// A row in the parts that are drawn apart.
+struct LiveEventRow {
+  QString clock;
+  QColor team; // not valid: nobody's
+  QString number, name, action;
+  QString extra; // what counts of it, as which foul of his it is: "3rd"
+  QString tail;  // and which of the team's
+  QString score; // where it changed
+  bool isUnderstood = true;
+  bool isShot = false;
+  bool isMade = false;
+  bool isDeleted = false;
+  bool isDoubtful = false;
+  bool hasFinding = false;
+  bool isLatest = false; // of what is recorded
+};
+
 struct EventFilter {
   int team = -1;                       // any
   int period = 0;                      // any
   int player = 0;                      // entry, of `team`; 0: any
   EventCode kind = EventCode::Unknown; // any; ARRET: who went in and out
+  bool showsDeleted = false;
   friend bool operator==(const EventFilter&, const EventFilter&) = default;
 };
 
 class LiveEventRows : public QSortFilterProxyModel {
   Q_OBJECT
  public:
-  enum Role { HasFinding = Qt::UserRole }; // a doubtful one has one, too
+  enum Role { HasFinding = Qt::UserRole, Whole }; // a doubtful one has a finding, too; a LiveEventRow
 
   // `texts` must outlive it.
   explicit LiveEventRows(const Texts& texts, QObject* parent = nullptr);
@@ -47,12 +68,13 @@ class LiveEventRows : public QSortFilterProxyModel {
 
  private:
   struct Row {
-    bool isFollowUp = false;
     OnCourt changed = {};  // by a stop: who went in or out
     QString findings = {}; // a line each
+    FoulNumber foul = {};
     friend bool operator==(const Row&, const Row&) = default;
   };
   std::vector<Row> rowsOf(const Game& game) const;
+  [[nodiscard]] LiveEventRow whole(std::size_t event) const;
 
   const Texts& m_texts;
   EventListModel m_events;
@@ -62,3 +84,5 @@ class LiveEventRows : public QSortFilterProxyModel {
 };
 
 } // namespace hooptab
+
+Q_DECLARE_METATYPE(hooptab::LiveEventRow)

@@ -18,7 +18,7 @@ constexpr int kGap = 4;
 
 LiveNotices::LiveNotices(const Texts& texts, QWidget* parent)
     : QWidget(parent), m_notOnDisk(new PlainLabel(this)), m_foreign(new NoticeStrip("picFOREIGN", this)),
-      m_lostStop(new LostStopStrip(texts, this)), m_message(new MessageLine(this)) {
+      m_lostStop(new LostStopStrip(texts, this)), m_message(new MessageLine(parent)) {
   m_notOnDisk->setObjectName(QStringLiteral("lblNOTONDISK"));
   m_notOnDisk->setAutoFillBackground(true);
   m_notOnDisk->setAlignment(Qt::AlignCenter);
@@ -29,11 +29,11 @@ LiveNotices::LiveNotices(const Texts& texts, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
-  for (QWidget* part : {static_cast<QWidget*>(m_message), static_cast<QWidget*>(m_lostStop),
-                        static_cast<QWidget*>(m_notOnDisk), static_cast<QWidget*>(m_foreign)})
+  for (QWidget* part : {static_cast<QWidget*>(m_lostStop), static_cast<QWidget*>(m_notOnDisk),
+                        static_cast<QWidget*>(m_foreign)})
     layout->addWidget(part);
   connect(m_foreign, &NoticeStrip::dismissed, this, &LiveNotices::place);
-  connect(m_message, &MessageLine::changed, this, &LiveNotices::place);
+  connect(m_message, &MessageLine::changed, m_message, &QWidget::raise);
   connect(m_lostStop, &LostStopStrip::clockChosen, this, [this](int seconds) {
     m_lostStop->hide();
     place();
@@ -85,15 +85,16 @@ void LiveNotices::applyColours() {
   m_message->applyColours();
 }
 
-void LiveNotices::placeIn(const QRect& column) {
+void LiveNotices::placeIn(const QRect& column, const QRect& line) {
   m_column = column;
+  m_message->setGeometry(line);
   place();
 }
 
 void LiveNotices::place() {
   bool isAny = false;
-  for (const QWidget* part : {static_cast<QWidget*>(m_message), static_cast<QWidget*>(m_lostStop),
-                              static_cast<QWidget*>(m_notOnDisk), static_cast<QWidget*>(m_foreign)})
+  for (const QWidget* part : {static_cast<QWidget*>(m_lostStop), static_cast<QWidget*>(m_notOnDisk),
+                              static_cast<QWidget*>(m_foreign)})
     isAny = isAny || !part->isHidden();
   setVisible(isAny);
   layout()->invalidate();

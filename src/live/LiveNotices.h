@@ -1,6 +1,6 @@
-// What the live window tells while one records: what is not on disk, what others did to the file, a clock
-// that was left running, and what became of the last press. Lies over the oldest of the events, so that
-// nothing moves that is being pressed.
+// What the live window tells while one records: what is not on disk, what others did to the file, and a clock
+// that was left running, over the oldest of the events; and in one line what became of the last press.
+// Nothing moves that is being pressed.
 #pragma once
 
 #include "live/LostStop.h"
@@ -31,8 +31,8 @@ class LiveNotices : public QWidget {
   void forget(); // another game
   void relabelNotices();
   void applyColours();
-  // At the foot of a column of the parent, as high as its words need.
-  void placeIn(const QRect& column);
+  // At the foot of a column of the parent, as high as its words need, and the line of the last press.
+  void placeIn(const QRect& column, const QRect& line);
 
  signals:
   void clockChosen(int seconds);

@@ -1,6 +1,6 @@
 #include "live/MessageLine.h"
 
-#include "appearance/PlainLabel.h"
+#include "appearance/ElidedLabel.h"
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
@@ -17,23 +17,23 @@ namespace hooptab {
 namespace {
 
 constexpr std::chrono::seconds kShown{6};
-constexpr int kGap = 6;
+constexpr int kGap = 10;
 
 } // namespace
 
 MessageLine::MessageLine(QWidget* parent)
-    : QFrame(parent), m_words(new PlainLabel(this)), m_action(new QToolButton(this)) {
+    : QFrame(parent), m_words(new ElidedLabel(this)), m_action(new QToolButton(this)) {
   setObjectName(QStringLiteral("picSAID"));
   setAutoFillBackground(true);
   m_words->setObjectName(QStringLiteral("lblSAID"));
-  m_words->setWordWrap(true);
   m_action->setObjectName(QStringLiteral("cmdSAID"));
   m_action->setFocusPolicy(Qt::TabFocus);
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(kGap, kGap / 2, kGap, kGap / 2);
-  layout->setSpacing(kGap / 2);
-  layout->addWidget(m_words);
-  layout->addWidget(m_action, 0, Qt::AlignRight);
+  m_words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(kGap, 0, kGap, 0);
+  layout->setSpacing(kGap);
+  layout->addWidget(m_words, 1);
+  layout->addWidget(m_action);
   m_end.setSingleShot(true);
   m_end.setInterval(kShown);
   connect(&m_end, &QTimer::timeout, this, &MessageLine::withdraw);
@@ -73,10 +73,15 @@ void MessageLine::withdraw() {
 }
 
 void MessageLine::applyColours() {
+  const Look& look = Theme::look();
   QPalette colours = palette();
-  colours.setColor(QPalette::Window, Theme::accent());
-  colours.setColor(QPalette::WindowText, textOn(Theme::accent()));
+  colours.setColor(QPalette::Window, look.plate);
+  colours.setColor(QPalette::WindowText, look.plateText);
   setPalette(colours);
+  QPalette action;
+  action.setColor(QPalette::Button, look.plate);
+  action.setColor(QPalette::ButtonText, lookOf(ColourScheme::Dark).accent); // the plate is dark in both
+  m_action->setPalette(action);
 }
 
 } // namespace hooptab

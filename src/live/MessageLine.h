@@ -11,7 +11,7 @@ class QToolButton;
 
 namespace hooptab {
 
-class PlainLabel;
+class ElidedLabel;
 
 class MessageLine : public QFrame {
   Q_OBJECT
@@ -30,7 +30,7 @@ class MessageLine : public QFrame {
   void changed(); // shown, or gone
 
  private:
-  PlainLabel* m_words;
+  ElidedLabel* m_words;
   QToolButton* m_action;
   std::function<void()> m_carryOut;
   QTimer m_end;

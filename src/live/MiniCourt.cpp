@@ -1,6 +1,7 @@
 #include "live/MiniCourt.h"
 
 #include "appearance/CourtClick.h"
+#include "appearance/CourtColourChoice.h"
 #include "appearance/Theme.h"
 #include "storage/Settings.h"
 
@@ -18,15 +19,11 @@ constexpr auto kTurn = CourtPicture::Turn::BaselineLeft;
 constexpr std::chrono::milliseconds kFlash{180};
 constexpr double kEdge = 2; // room for the marks of shots at the very edge, in pixels
 
-CourtColours coloursOf(const Settings& settings) {
-  return {colourOf(settings.twoPointColour), colourOf(settings.boxColour),
-          colourOf(settings.threePointColour)};
-}
-
 } // namespace
 
 MiniCourt::MiniCourt(const Settings& settings, QWidget* parent)
-    : QWidget(parent), m_settings(settings), m_colours(coloursOf(settings)), m_zones(zoneMapOf(settings)) {
+    : QWidget(parent), m_settings(settings), m_colours(wornCourt(CourtColourChoice::of(settings).colours)),
+      m_zones(zoneMapOf(settings)) {
   setMouseTracking(true);
   m_flash.setSingleShot(true);
   m_flash.setInterval(kFlash);
@@ -34,7 +31,7 @@ MiniCourt::MiniCourt(const Settings& settings, QWidget* parent)
 }
 
 void MiniCourt::applyColours() {
-  const CourtColours colours = coloursOf(m_settings);
+  const CourtColours colours = wornCourt(CourtColourChoice::of(m_settings).colours);
   if (colours == m_colours)
     return;
   m_colours = colours;
@@ -107,6 +104,10 @@ void MiniCourt::paintEvent(QPaintEvent*) {
     marks.push_back({m_playsRight ? court::reflected(shot.place) : shot.place, shot.isMade});
   const QRectF picture = pictureRect();
   CourtPicture(m_colours).paintMarks(painter, picture, kTurn, marks);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Theme::look().line);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(picture.adjusted(-0.5, -0.5, 0.5, 0.5), 2, 2);
   if (m_flash.isActive()) {
     constexpr double kFrame = 3;
     painter.setPen(QPen(Theme::missed(), kFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));

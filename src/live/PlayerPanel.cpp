@@ -4,12 +4,14 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/CountBox.h"
+#include "live/JerseyButton.h"
 #include "live/LiveGame.h"
 #include "live/MiniCourt.h"
 #include "live/StatButton.h"
 #include "live/StatControls.h"
 #include "storage/Settings.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -19,10 +21,26 @@ namespace hooptab {
 
 namespace {
 
-constexpr QSize kDesignedSize(218, 316); // for which lengths below are given
-constexpr int kNobodyText = 1117;
+// Lengths below are those of a panel of this size; the places grow with the panel, the type with the measure.
+constexpr QSize kDesigned(210, 294);
+constexpr int kEdge = 5;
+constexpr int kGap = 4;
+constexpr QRect kJersey(6, 6, 39, 37);
+constexpr int kHeadLeft = 52;
+constexpr int kPointsWidth = 38;
+constexpr QRect kPips(kHeadLeft, 30, 58, 8);
+constexpr int kMostPips = 6;
+constexpr QRect kCourt(kEdge, 47, 106, 168);
+constexpr int kActionsLeft = 116;
+constexpr int kShotsTop = 219;
+constexpr int kShotsHeight = 36;
+constexpr int kTotalsTop = 259;
+constexpr double kRadius = 7;
+constexpr int kTeamEdge = 3;
+
 constexpr int kTotalText = 1070;
 constexpr int kCourtToolTip = 1095;
+constexpr int kNobodyText = 1117;
 
 constexpr int kActionRows = static_cast<int>(kActionControls.size()) / 2;
 constexpr int kShotButtons = 5;
@@ -31,23 +49,14 @@ QString shortName(EventCode code) {
   return toQt(kindOf(code)->shortName);
 }
 
-// Seen without colour too.
-QString sign(LivePanel::FoulMark mark) {
+StatButton::State stateOf(LivePanel::FoulMark mark) {
   switch (mark) {
-  case LivePanel::FoulMark::Reached: return QStringLiteral("\u2298"); // a circled slash
-  case LivePanel::FoulMark::OneLeft: return QStringLiteral("!");
+  case LivePanel::FoulMark::Reached: return StatButton::State::Reached;
+  case LivePanel::FoulMark::EarlyTwo:
+  case LivePanel::FoulMark::OneLeft: return StatButton::State::Warned;
   case LivePanel::FoulMark::None: break;
   }
-  return {};
-}
-
-QColor colourOfMark(LivePanel::FoulMark mark, const QColor& usual) {
-  switch (mark) {
-  case LivePanel::FoulMark::Reached: return Theme::missed();
-  case LivePanel::FoulMark::OneLeft: return Theme::accent();
-  case LivePanel::FoulMark::None: break;
-  }
-  return usual;
+  return StatButton::State::Usual;
 }
 
 void setTextColour(QWidget& widget, const QColor& colour) {
@@ -58,24 +67,12 @@ void setTextColour(QWidget& widget, const QColor& colour) {
   widget.setPalette(palette);
 }
 
-// A box that is on no button has a ground of its own, so that its counts are not read as its neighbour's.
-void standAlone(CountBox& box) {
-  box.setBackgroundRole(QPalette::AlternateBase);
-  box.setAutoFillBackground(true);
-}
-
-QFont fontOf(double pixels, bool isBold) {
-  QFont font = Theme::figures(9, isBold);
-  font.setPixelSize(std::max(8, static_cast<int>(pixels)));
-  return font;
-}
-
 } // namespace
 
 PlayerPanel::PlayerPanel(int slot, const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_slot(slot), m_settings(settings), m_texts(texts), m_content(new QWidget(this)) {
   setObjectName(named("fraPLAYER"));
-  setMinimumSize(kDesignedSize * 0.8);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   m_content->hide();
   makeHead();
   m_court = new MiniCourt(settings, m_content);
@@ -91,7 +88,12 @@ PlayerPanel::PlayerPanel(int slot, const Settings& settings, const Texts& texts,
 }
 
 QSize PlayerPanel::sizeHint() const {
-  return kDesignedSize;
+  return {Theme::measure()(kDesigned.width()), Theme::measure()(kDesigned.height())};
+}
+
+// Below it the type would be cut; whoever lays panels out lets them be scrolled.
+QSize PlayerPanel::minimumSizeHint() const {
+  return sizeHint() * 0.92;
 }
 
 QString PlayerPanel::named(const char* name) const {
@@ -107,19 +109,14 @@ QLabel* PlayerPanel::headLabel(const char* name, int toolTip) {
 
 void PlayerPanel::makeHead() {
   constexpr int kPointsToolTip = 1708;
-  constexpr int kPersonalFoulsToolTip = 1003;
-  constexpr int kTechnicalFoulsToolTip = 1004;
   constexpr int kTimeToolTip = 1706;
   m_entry = headLabel("lblID", 0); // never shown: which player of the roster stands here
   m_entry->hide();
   m_jersey = headLabel("lblNO", 0);
   m_jersey->setAlignment(Qt::AlignCenter);
-  m_jersey->setAutoFillBackground(true);
   m_name = headLabel("lblNom", 0);
   m_points = headLabel("lblPTS", kPointsToolTip);
   m_points->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  m_personalFouls = headLabel("lblPF", kPersonalFoulsToolTip);
-  m_technicalFouls = headLabel("lblTF", kTechnicalFoulsToolTip);
   m_time = headLabel("lblTIME", kTimeToolTip);
   m_time->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
@@ -144,9 +141,8 @@ void PlayerPanel::makeShots() {
     const EventKind& kind = *kindOf(controls.code);
     const QStringList names = {named(controls.made), named(controls.attempts), named(controls.points)};
     if (controls.button == nullptr) {
-      m_counts[kind.code] = new CountBox(shortName(kind.code), names, m_content);
+      m_counts[kind.code] = new CountBox(CountBox::Place::InPanel, shortName(kind.code), names, m_content);
       setToolTipNumber(*m_counts[kind.code], kind.wordsText);
-      standAlone(*m_counts[kind.code]);
       continue;
     }
     auto* const button = new StatButton(StatButton::Records::Shot, shortName(kind.code), names, m_content);
@@ -159,8 +155,8 @@ void PlayerPanel::makeShots() {
     m_buttons[kind.code] = button;
     m_counts[kind.code] = &button->counts();
   }
-  m_total = new CountBox({}, {named("lblTOT"), named("lblTOTa"), named("lblTOTpct")}, m_content);
-  standAlone(*m_total);
+  m_total = new CountBox(CountBox::Place::InPanel, {},
+                         {named("lblTOT"), named("lblTOTa"), named("lblTOTpct")}, m_content);
 }
 
 void PlayerPanel::showGame(const LiveGame& game) {
@@ -170,6 +166,7 @@ void PlayerPanel::showGame(const LiveGame& game) {
     m_teamColour = colour;
     applyColours();
   }
+  m_mostFouls = details.personalFoulLimit;
   m_court->setEnabled(game.canRecord());
   for (const auto& [code, button] : m_buttons)
     button->setEnabled(game.canRecord());
@@ -218,27 +215,14 @@ void PlayerPanel::showPanel() {
 
 void PlayerPanel::showName() {
   const QString name = toQt(m_shown.name);
-  m_name->setText(m_name->fontMetrics().elidedText(name, Qt::ElideRight, m_name->width()));
+  m_name->setText(shortenedName(name, m_name->fontMetrics(), m_name->width()));
   m_name->setToolTip(name);
 }
 
-// In the head and on the button alike.
 void PlayerPanel::showFouls() {
-  const auto show = [this](EventCode code, LivePanel::FoulMark mark, QLabel& head) {
-    const int count = m_shown.counters[kindOf(code)->counter];
-    const bool isMarked = mark != LivePanel::FoulMark::None;
-    const QString name = shortName(code);
-    head.setText(QStringLiteral("%1 %2%3").arg(name).arg(count).arg(sign(mark)));
-    QFont font = head.font();
-    font.setBold(isMarked);
-    head.setFont(font);
-    setTextColour(head, colourOfMark(mark, palette().color(QPalette::WindowText)));
-    m_counts[code]->setCaption(name + sign(mark));
-    m_counts[code]->setBold(isMarked);
-    m_buttons[code]->setColour(colourOfMark(mark, colourOf(m_settings.buttonColour)));
-  };
-  show(EventCode::SPF, m_shown.personalFouls, *m_personalFouls);
-  show(EventCode::STF, m_shown.technicalFouls, *m_technicalFouls);
+  m_buttons[EventCode::SPF]->setState(stateOf(m_shown.personalFouls));
+  m_buttons[EventCode::STF]->setState(stateOf(m_shown.technicalFouls));
+  update(); // the pips
 }
 
 void PlayerPanel::setPlaysRight(bool playsRight) {
@@ -277,19 +261,17 @@ void PlayerPanel::showOwnLabels() {
 }
 
 void PlayerPanel::applyColours() {
-  const QColor team = colourOf(m_teamColour);
-  QPalette jersey = m_jersey->palette();
-  jersey.setColor(QPalette::Window, team);
-  jersey.setColor(QPalette::WindowText, textOn(team));
-  m_jersey->setPalette(jersey);
+  const Look& look = Theme::look();
+  setTextColour(*m_jersey, textOn(colourOf(m_teamColour)));
+  setTextColour(*m_time, look.muted);
   for (const auto& [code, button] : m_buttons)
     button->setColour(colourOf(m_settings.buttonColour));
-  const QColor text = palette().color(QPalette::WindowText);
   for (CountBox* box : {m_counts[EventCode::GFG], m_counts[EventCode::GF3], m_total})
-    box->setTextColour(text);
+    box->setColours(look.ink, look.faint);
   showFouls();
   m_court->applyColours();
-  update();
+  updateGeometry();
+  layOut();
 }
 
 void PlayerPanel::resizeEvent(QResizeEvent*) {
@@ -297,98 +279,139 @@ void PlayerPanel::resizeEvent(QResizeEvent*) {
   layOut();
 }
 
-// Everything grows with the panel; by hand, so that no text that changes can make anything move.
+void PlayerPanel::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton)
+    return;
+  if (m_shown.player == 0)
+    emit emptyPressed(m_slot);
+  else if (event->position().y() < down(kCourt.top()))
+    emit headPressed(m_slot);
+}
+
+bool PlayerPanel::isHead(const QWidget& widget) {
+  const QWidget* const above = widget.parentWidget();
+  const bool isPart = qobject_cast<const QLabel*>(&widget) != nullptr && above != nullptr &&
+                      qobject_cast<const PlayerPanel*>(above->parentWidget()) != nullptr;
+  return isPart || qobject_cast<const PlayerPanel*>(&widget) != nullptr ||
+         qobject_cast<const PlayerPanel*>(above) != nullptr;
+}
+
+int PlayerPanel::across(int length) const {
+  return (length * width() + kDesigned.width() / 2) / kDesigned.width();
+}
+
+int PlayerPanel::down(int length) const {
+  return (length * height() + kDesigned.height() / 2) / kDesigned.height();
+}
+
+// By hand, so that no text that changes can make anything move.
 void PlayerPanel::layOut() {
-  const double scale = std::min(static_cast<double>(width()) / kDesignedSize.width(),
-                                static_cast<double>(height()) / kDesignedSize.height());
-  const auto scaled = [scale](double length) { return static_cast<int>(std::lround(length * scale)); };
-  const int gap = scaled(3);
-  const QRect inner = rect().adjusted(scaled(4), scaled(6), -scaled(4), -scaled(4));
-
-  const QRect head(inner.left(), inner.top(), inner.width(), scaled(40));
-  const int totalsHeight = scaled(32);
-  const int shotsHeight = scaled(38);
-  const int totalsTop = inner.bottom() + 1 - totalsHeight;
-  const int shotsTop = totalsTop - gap - shotsHeight;
-  const QRect middle(inner.left(), head.bottom() + 1 + gap, inner.width(),
-                     shotsTop - head.bottom() - 1 - 2 * gap);
-  layOutHead(head, scale);
-
-  // The buttons keep the room that a panel of the designed shape gives them.
-  const int courtWidth = std::min(static_cast<int>(middle.height() * court::kLength / court::kWidth),
-                                  inner.width() - scaled(94));
-  const int courtHeight = static_cast<int>(courtWidth * court::kWidth / court::kLength);
-  m_court->setGeometry(middle.left(), middle.top() + (middle.height() - courtHeight) / 2, courtWidth,
+  if (width() < kEdge * kShotButtons || height() < kTotalsTop / 4)
+    return; // not yet in its place
+  layOutHead();
+  const int gap = Theme::measure()(kGap);
+  const QRect courtRoom(across(kCourt.left()), down(kCourt.top()), across(kCourt.width()),
+                        down(kCourt.height()));
+  const int courtWidth = std::min(
+      courtRoom.width(), static_cast<int>(std::lround(courtRoom.height() * court::kLength / court::kWidth)));
+  const int courtHeight = static_cast<int>(std::lround(courtWidth * court::kWidth / court::kLength));
+  m_court->setGeometry(courtRoom.left(), courtRoom.center().y() + 1 - courtHeight / 2, courtWidth,
                        courtHeight);
 
   const auto share = [gap](int total, int count, int index) { // where part `index` of `count` begins
     return (total + gap) * index / count;
   };
-  const QRect actions = middle.adjusted(courtWidth + gap, 0, 0, 0);
+  const int left = std::max(courtRoom.left() + courtWidth + gap + 1, across(kActionsLeft));
+  const QRect actions(left, courtRoom.top(), width() - left - across(kEdge), courtRoom.height());
   for (int i = 0; i < kActionRows * 2; ++i) {
-    const int left = share(actions.width(), 2, i % 2);
-    const int top = share(actions.height(), kActionRows, i / 2);
+    const int x = share(actions.width(), 2, i % 2);
+    const int y = share(actions.height(), kActionRows, i / 2);
     m_buttons[kActionControls[static_cast<std::size_t>(i)].code]->setGeometry(
-        actions.left() + left, actions.top() + top, share(actions.width(), 2, i % 2 + 1) - left - gap,
-        share(actions.height(), kActionRows, i / 2 + 1) - top - gap);
+        actions.left() + x, actions.top() + y, share(actions.width(), 2, i % 2 + 1) - x - gap,
+        share(actions.height(), kActionRows, i / 2 + 1) - y - gap);
   }
+  const QRect row(across(kEdge), down(kShotsTop), width() - 2 * across(kEdge), down(kShotsHeight));
   for (int i = 0; i < kShotButtons; ++i) {
-    const int left = share(inner.width(), kShotButtons, i);
+    const int x = share(row.width(), kShotButtons, i);
     m_buttons[kShotControls[static_cast<std::size_t>(i)].code]->setGeometry(
-        inner.left() + left, shotsTop, share(inner.width(), kShotButtons, i + 1) - left - gap, shotsHeight);
+        row.left() + x, row.top(), share(row.width(), kShotButtons, i + 1) - x - gap, row.height());
   }
   const std::array totals = {m_counts[EventCode::GFG], m_counts[EventCode::GF3], m_total};
   constexpr std::array kEdges = {0, 3, 6, 10}; // tenths; the last holds a percentage too
+  const int wide = 2 * gap;                    // with a hairline between two
+  const int totalsTop = down(kTotalsTop);
   for (std::size_t i = 0; i < totals.size(); ++i) {
-    const int left = share(inner.width(), 10, kEdges[i]);
-    totals[i]->setGeometry(inner.left() + left, totalsTop,
-                           share(inner.width(), 10, kEdges[i + 1]) - left - gap, totalsHeight);
+    const int x = (row.width() + wide) * kEdges[i] / 10;
+    const int next = (row.width() + wide) * kEdges[i + 1] / 10;
+    totals[i]->setGeometry(row.left() + x, totalsTop, next - x - wide, height() - totalsTop - kGap);
   }
+  for (const auto& [code, box] : m_counts)
+    box->layOut();
+  m_total->layOut();
+  update();
 }
 
-void PlayerPanel::layOutHead(const QRect& area, double scale) {
-  const auto scaled = [scale](double length) { return static_cast<int>(std::lround(length * scale)); };
-  const int gap = scaled(4);
-  m_jersey->setFont(fontOf(20 * scale, true));
-  m_jersey->setGeometry(area.left(), area.top(), scaled(44), area.height());
-  m_points->setFont(fontOf(20 * scale, true));
-  const int pointsWidth = scaled(34);
-  m_points->setGeometry(area.right() + 1 - pointsWidth, area.top(), pointsWidth, area.height() * 6 / 10);
-  const int left = m_jersey->geometry().right() + 1 + gap;
-  const int lineHeight = area.height() / 2;
-  m_name->setFont(fontOf(12 * scale, true));
-  m_name->setGeometry(left, area.top(), m_points->x() - left, lineHeight);
-  const int foulsWidth = scaled(46);
-  const QRect lower(left, area.top() + lineHeight, area.right() + 1 - left, area.height() - lineHeight);
-  int x = lower.left();
-  for (QLabel* label : {m_personalFouls, m_technicalFouls}) {
-    label->setFont(fontOf(11 * scale, false));
-    label->setGeometry(x, lower.top(), foulsWidth, lower.height());
-    x += foulsWidth;
-  }
-  m_time->setFont(fontOf(12 * scale, false));
-  m_time->setGeometry(x, lower.top(), lower.right() + 1 - x, lower.height());
+void PlayerPanel::layOutHead() {
+  const int right = width() - across(kEdge);
+  m_jersey->setFont(Theme::font(Type::Jersey));
+  m_jersey->setGeometry(across(kJersey.left()), down(kJersey.top()), across(kJersey.width()),
+                        down(kJersey.height()));
+  m_points->setFont(Theme::font(Type::Points));
+  const int pointsWidth =
+      std::max(across(kPointsWidth), m_points->fontMetrics().horizontalAdvance(QStringLiteral("88")));
+  m_points->setGeometry(right - pointsWidth, down(kJersey.top()), pointsWidth, down(kJersey.height()));
+  const int left = across(kHeadLeft);
+  m_name->setFont(Theme::font(Type::Name));
+  const int nameHeight = m_name->fontMetrics().height();
+  const int middle = down(kPips.top()) - 2;
+  m_name->setGeometry(left, middle - nameHeight, m_points->x() - left - 2, nameHeight);
+  m_time->setFont(Theme::font(Type::Small));
+  const int timeHeight = m_time->fontMetrics().height();
+  const int timeWidth = m_time->fontMetrics().horizontalAdvance(QStringLiteral("00:00")) + 2;
+  m_time->setGeometry(m_points->x() - timeWidth - 2, down(kPips.center().y()) - timeHeight / 2, timeWidth,
+                      timeHeight);
   showName();
-  showFouls();
+}
+
+// A box for every personal foul up to the limit.
+void PlayerPanel::paintPips(QPainter& painter) const {
+  const Look& look = Theme::look();
+  const int fouls = m_shown.counters[Counter::PF];
+  const int pips = m_mostFouls > 0 && m_mostFouls <= kMostPips ? m_mostFouls : kMostPips - 1;
+  const QColor full = m_shown.personalFouls == LivePanel::FoulMark::Reached ? look.missed
+                      : m_shown.personalFouls == LivePanel::FoulMark::None  ? look.ink
+                                                                            : look.warningBar;
+  const double pitch = static_cast<double>(across(kPips.width())) / kMostPips;
+  const QRectF first(across(kPips.left()) + 0.5, down(kPips.top()) + 0.5, pitch - 2,
+                     down(kPips.height()) - 1);
+  for (int pip = 0; pip < pips; ++pip) {
+    const bool isFull = pip < fouls;
+    painter.setPen(QPen(isFull ? full : look.edge, 1));
+    painter.setBrush(isFull ? QBrush(full) : QBrush(Qt::NoBrush));
+    painter.drawRoundedRect(first.translated(pip * pitch, 0), 1.5, 1.5);
+  }
 }
 
 void PlayerPanel::paintEvent(QPaintEvent*) {
+  const Look& look = Theme::look();
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.setBrush(palette().color(QPalette::Base));
-  painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-  constexpr int kStripe = 3;
-  painter.fillRect(QRect(1, 1, width() - 2, kStripe), colourOf(m_teamColour));
-  if (m_isSelected) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Theme::accent(), kStripe, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(QRectF(rect()).adjusted(kStripe / 2.0, kStripe / 2.0, -kStripe / 2.0, -kStripe / 2.0));
-  }
-  if (m_shown.player == 0) {
-    painter.setPen(Theme::muted());
-    painter.setFont(fontOf(height() * 0.045, false));
-    painter.drawText(rect(), Qt::AlignCenter, caption(m_texts, kNobodyText));
+  const QRectF card = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.setPen(m_isSelected ? QPen(look.accent, kTeamEdge) : QPen(look.line, 1));
+  painter.setBrush(look.surface);
+  painter.drawRoundedRect(m_isSelected ? card.adjusted(1, 1, -1, -1) : card, kRadius, kRadius);
+  if (m_shown.player == 0) // a place that stays empty says nothing
+    return;
+  const QColor team = colourOf(m_teamColour);
+  painter.setPen(QPen(outlineOf(team, look.surface), 1));
+  painter.setBrush(team);
+  painter.drawRoundedRect(QRectF(m_jersey->geometry()).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
+  paintPips(painter);
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.setPen(look.line);
+  for (const QWidget* box : {m_counts.at(EventCode::GF3), m_total}) {
+    const int x = box->x() - Theme::measure()(kGap);
+    painter.drawLine(x, box->y() + 2, x, box->geometry().bottom() - 2);
   }
 }
 

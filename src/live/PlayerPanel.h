@@ -14,6 +14,7 @@
 #include <string>
 
 class QLabel;
+class QPainter;
 
 namespace hooptab {
 
@@ -33,20 +34,26 @@ class PlayerPanel : public QWidget {
   void showGame(const LiveGame& game); // everything
   void showTime(const LiveGame& game); // the time on court alone
   void setPlaysRight(bool playsRight); // on the right-hand side of the court: the picture is turned round
-  void setSelected(bool isSelected);   // for the next action: framed
+  void setSelected(bool isSelected);   // for the next action, or whom a question is about: framed
   void relabelPanel();
   void applyColours();
+  // Whether a press on it is one on the head of a panel, and on nothing that records.
+  static bool isHead(const QWidget& widget);
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
  signals:
   // `place` is in units of the court as it is shown, not yet turned into left-hand orientation.
   void courtPressed(int slot, QPointF place, bool isMade);
   void shotPressed(int slot, hooptab::EventCode kind, bool isMade); // the five buttons
+  void emptyPressed(int slot);                                      // nobody stands here
+  void headPressed(int slot);                                       // number, name, points
   void actionPressed(int slot, hooptab::EventCode kind);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
 
  private:
   void makeHead();
@@ -59,7 +66,11 @@ class PlayerPanel : public QWidget {
   void showName();
   void showOwnLabels();
   void layOut();
-  void layOutHead(const QRect& area, double scale);
+  void layOutHead();
+  void paintPips(QPainter& painter) const;
+  // From the panel's design to the panel as it is.
+  [[nodiscard]] int across(int length) const;
+  [[nodiscard]] int down(int length) const;
 
   int m_slot;
   bool m_isSelected = false;
@@ -67,6 +78,7 @@ class PlayerPanel : public QWidget {
   const Texts& m_texts;
   LivePanel m_shown;
   std::uint32_t m_teamColour = 0;         // as files keep it
+  int m_mostFouls = 0;                    // personal ones; 0: no limit
   std::array<std::string, 2> m_ownLabels; // of the user's two statistics, as the game has them
 
   QWidget* m_content; // everything but the frame; hidden in an empty panel
@@ -74,8 +86,6 @@ class PlayerPanel : public QWidget {
   QLabel* m_jersey = nullptr;
   QLabel* m_name = nullptr;
   QLabel* m_points = nullptr;
-  QLabel* m_personalFouls = nullptr;
-  QLabel* m_technicalFouls = nullptr;
   QLabel* m_time = nullptr;
   MiniCourt* m_court = nullptr;
   std::map<EventCode, StatButton*> m_buttons;

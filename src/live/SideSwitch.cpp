@@ -3,7 +3,10 @@
 #include "appearance/Icons.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/LiveGame.h"
 
+#include <QAction>
 #include <QBoxLayout>
 #include <QMouseEvent>
 #include <QPainter>
@@ -13,17 +16,22 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kWidth = 32;
+constexpr int kSwitchSides = 1043;
+constexpr int kPlaysLeft = 1940;
+constexpr int kHalfTime = 2381;
+constexpr int kRowsStay = 2494;
+
+constexpr int kCourtWidth = 28;
 constexpr int kCourtHeight = 18;
-constexpr int kButtonHeight = 20;
-constexpr int kNamePoints = 7;
+constexpr int kButtonWidth = 30;
+constexpr int kGap = 4;
 
 } // namespace
 
 // Both halves, each in the colour of the team that stands there.
 class SideSwitch::Court : public QWidget {
  public:
-  explicit Court(QWidget* parent) : QWidget(parent) { setFixedSize(kWidth, kCourtHeight); }
+  explicit Court(QWidget* parent) : QWidget(parent) { setFixedSize(kCourtWidth, kCourtHeight); }
 
   void showColours(const std::array<QColor, 2>& colours) {
     if (colours == m_colours)
@@ -50,49 +58,59 @@ class SideSwitch::Court : public QWidget {
   std::array<QColor, 2> m_colours;
 };
 
-SideSwitch::SideSwitch(QToolButton* button, QWidget* parent)
-    : QWidget(parent), m_court(new Court(this)), m_button(button), m_name(new PlainLabel(this)) {
+SideSwitch::SideSwitch(const Texts& texts, QWidget* parent)
+    : QWidget(parent), m_texts(texts), m_court(new Court(this)), m_button(new QToolButton(this)),
+      m_name(new PlainLabel(this)), m_rowsStay(new QAction(this)) {
   m_court->setObjectName(QStringLiteral("picSWITCH"));
+  m_button->setObjectName(QStringLiteral("cmdSWITCH"));
   m_name->setObjectName(QStringLiteral("lblSWITCH"));
-  QFont small = font();
-  small.setPointSize(kNamePoints);
-  m_name->setFont(small);
-  m_name->setFixedWidth(kWidth);
+  m_name->hide(); // rosters and plates say it with their arrows; here it is for whoever asks
   m_button->setIcon(icon(QStringLiteral("switch")));
-  m_button->setText(QStringLiteral("⇄"));
-  m_button->setFixedSize(kWidth, kButtonHeight);
+  m_button->setFocusPolicy(Qt::TabFocus);
+  m_button->setFixedWidth(kButtonWidth);
+  m_button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   connect(m_button, &QToolButton::clicked, this, &SideSwitch::asked);
+  m_rowsStay->setObjectName(QStringLiteral("cmdROWSSTAY"));
+  m_rowsStay->setCheckable(true);
+  setTextNumber(*m_rowsStay, kRowsStay);
+  addAction(m_rowsStay);
+  setContextMenuPolicy(Qt::ActionsContextMenu);
+  connect(m_rowsStay, &QAction::triggered, this, &SideSwitch::rowsStayAsked);
 
-  auto* layout = new QVBoxLayout(this);
+  auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
+  layout->setSpacing(kGap);
   layout->addWidget(m_court);
-  layout->addWidget(m_name, 1);
   layout->addWidget(m_button);
 }
 
-void SideSwitch::showSides(const QString& left, const std::array<QColor, 2>& colours, const QString& hint) {
-  m_court->showColours(colours);
-  QString name = QStringLiteral("◂") + left;
-  while (name.size() > 2 && m_name->fontMetrics().horizontalAdvance(name) > kWidth)
-    name.chop(1); // the first letters tell the team better than one and dots
-  m_name->setText(name);
+void SideSwitch::setSides(bool team0PlaysRight, bool rowsStay) {
+  m_isHalfTimeOver = m_isHalfTimeOver || team0PlaysRight != m_team0PlaysRight;
+  m_team0PlaysRight = team0PlaysRight;
+  m_rowsStay->setChecked(rowsStay);
+  if (m_game != nullptr)
+    showGame(*m_game);
+}
+
+void SideSwitch::showGame(const LiveGame& game) {
+  m_game = &game;
+  m_isHalfTimeOver = m_isHalfTimeOver && game.isHalfTime();
+  const bool isOffered = game.isHalfTime() && !m_isHalfTimeOver;
+  const std::size_t left = m_team0PlaysRight ? 1 : 0;
+  const GameDetails& details = game.game().details;
+  m_court->showColours({colourOf(details.teamColour[left]), colourOf(details.teamColour[1 - left])});
+  m_name->setText(QStringLiteral("◂") + toQt(details.abbreviation[left]));
+  const QString hint = caption(m_texts, isOffered ? kHalfTime : kSwitchSides) + u'\n' +
+                       toQt(m_texts.withPlaceholder(kPlaysLeft, details.abbreviation[left]));
   for (QWidget* part :
        {static_cast<QWidget*>(m_court), static_cast<QWidget*>(m_name), static_cast<QWidget*>(m_button)}) {
     part->setToolTip(hint);
     part->setAccessibleName(hint);
   }
-}
-
-// On that colour the icon, which is drawn for the window's own, would not be seen.
-void SideSwitch::setOffered(bool isOffered) {
   QPalette colours;
-  if (isOffered) {
-    colours.setColor(QPalette::Button, Theme::accent());
-    colours.setColor(QPalette::ButtonText, textOn(Theme::accent()));
-  }
+  if (isOffered)
+    colours.setColor(QPalette::Button, Theme::look().warningGround);
   m_button->setPalette(colours);
-  m_button->setToolButtonStyle(isOffered ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
 }
 
 // The court and the name take no presses of their own.

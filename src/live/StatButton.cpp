@@ -12,13 +12,14 @@ namespace hooptab {
 
 namespace {
 
-constexpr std::chrono::milliseconds kFeedback{150};
+constexpr std::chrono::milliseconds kFeedback{120};
 
 } // namespace
 
 StatButton::StatButton(Records records, const QString& caption, const QStringList& countNames,
                        QWidget* parent)
-    : QAbstractButton(parent), m_records(records), m_counts(new CountBox(caption, countNames, this)) {
+    : QAbstractButton(parent), m_records(records),
+      m_counts(new CountBox(CountBox::Place::OnButton, caption, countNames, this)) {
   m_counts->setAttribute(Qt::WA_TransparentForMouseEvents);
   setFocusPolicy(Qt::TabFocus);
   setAttribute(Qt::WA_Hover);
@@ -29,11 +30,44 @@ StatButton::StatButton(Records records, const QString& caption, const QStringLis
 }
 
 void StatButton::setColour(const QColor& colour) {
-  if (colour == m_colour)
-    return;
   m_colour = colour;
-  m_counts->setTextColour(textOn(colour));
+  applyFace();
+}
+
+void StatButton::setState(State state) {
+  if (state == m_state)
+    return;
+  m_state = state;
+  applyFace();
+}
+
+void StatButton::applyFace() {
+  const Face usual = face(false);
+  m_counts->setColours(usual.text, usual.zeros);
   update();
+}
+
+// The settings' colour is worn thin, so that counts are read on it and team colours stay the only large ones.
+StatButton::Face StatButton::face(bool isPressed) const {
+  const Look& look = Theme::look();
+  const bool isPointedAt = underMouse() && isEnabled();
+  if (m_state == State::Warned)
+    return {mix(look.warningText, look.warningGround,
+                isPressed     ? 0.2
+                : isPointedAt ? 0.1
+                              : 0),
+            look.warningBar, look.warningText, look.warningText};
+  if (m_state == State::Reached) {
+    const QColor text = textOn(look.missed);
+    return {mix(text, look.missed, isPressed ? 0.2 : isPointedAt ? 0.1 : 0), look.missed, text, text};
+  }
+  if (!isEnabled())
+    return {mix(m_colour, look.surface, look.buttonFace / 2), look.line, look.edge, look.edge};
+  const double share = isPressed ? look.buttonPressed : isPointedAt ? look.buttonHover : look.buttonFace;
+  const QColor fill = mix(m_colour, look.surface, share);
+  const QColor text = contrast(look.ink, fill) >= kReadable ? look.ink : textOn(fill);
+  return {fill, isPressed ? look.ink : mix(m_colour, look.surface, look.buttonBorder), text,
+          contrast(look.faint, fill) >= kReadable ? look.faint : text};
 }
 
 void StatButton::record(bool isMade) {
@@ -69,31 +103,32 @@ void StatButton::resizeEvent(QResizeEvent*) {
   m_counts->setGeometry(rect());
 }
 
+void StatButton::changeEvent(QEvent* event) {
+  QAbstractButton::changeEvent(event);
+  if (event->type() == QEvent::EnabledChange)
+    applyFace();
+}
+
 void StatButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  constexpr double kRadius = 4;
+  constexpr double kRadius = 5;
   const bool isPressed = m_feedback.isActive() || isDown();
-  const QColor text = textOn(m_colour);
-  const bool becomesDarker = text == QColor(Qt::white); // away from the text, so that it stays readable
-  QColor fill = m_colour;
-  if (!isEnabled())
-    painter.setOpacity(0.5);
-  else if (isPressed || underMouse())
-    fill = becomesDarker ? fill.darker(isPressed ? 130 : 112) : fill.lighter(isPressed ? 130 : 112);
-  painter.setBrush(fill);
-  painter.setPen(palette().color(QPalette::Mid));
+  const Face shown = face(isPressed);
+  painter.setBrush(shown.fill);
+  painter.setPen(shown.border);
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  painter.setBrush(Qt::NoBrush);
   if (isPressed) {
-    const QColor meaning = m_records == Records::Action ? text : m_wasMade ? Theme::made() : Theme::missed();
-    painter.setBrush(Qt::NoBrush);
+    const QColor meaning = m_records == Records::Action ? shown.text
+                           : m_wasMade                  ? Theme::made()
+                                                        : Theme::missed();
     painter.setPen(QPen(meaning, 2));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
   }
   if (hasFocus()) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(text, 1, Qt::DotLine));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), kRadius, kRadius);
+    painter.setPen(QPen(lineOn(Theme::accent(), shown.fill, kRecognisable), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
   }
 }
 

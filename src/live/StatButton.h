@@ -21,13 +21,17 @@ class StatButton : public QAbstractButton {
   bool countsOnce() const { return m_countsOnce; }
 
   CountBox& counts() { return *m_counts; }
-  void setColour(const QColor& colour); // the text on it is black or white
+  // One foul is left before the limit, or the limit is reached.
+  enum class State { Usual, Warned, Reached };
+  void setState(State state);
+  void setColour(const QColor& colour); // as the settings have it; worn as the look wears it
 
  signals:
   void recorded(bool isMade); // actions: always true
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -35,11 +39,17 @@ class StatButton : public QAbstractButton {
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
+  struct Face {
+    QColor fill, border, text, zeros;
+  };
+  [[nodiscard]] Face face(bool isPressed) const;
   void record(bool isMade);
+  void applyFace();
 
   Records m_records;
   CountBox* m_counts;
   QColor m_colour;
+  State m_state = State::Usual;
   QTimer m_feedback; // active for a moment behind a press
   bool m_wasMade = true;
   bool m_countsOnce = true;

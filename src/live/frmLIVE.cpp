@@ -7,6 +7,7 @@
 #include "appearance/relabel.h"
 #include "live/BenchPanel.h"
 #include "live/BenchShot.h"
+#include "live/CorrectionBar.h"
 #include "live/EventRequests.h"
 #include "live/FollowUpBar.h"
 #include "live/ForeignWords.h"
@@ -16,10 +17,13 @@
 #include "live/LiveKeys.h"
 #include "live/LiveNotices.h"
 #include "live/MessageLine.h"
+#include "live/NowStrip.h"
 #include "live/PeriodEndCard.h"
 #include "live/PlayerPanel.h"
 #include "live/RepeatedPress.h"
+#include "live/RosterStrip.h"
 #include "live/ScorePanel.h"
+#include "live/SideSwitch.h"
 #include "live/frmGAMEOVER.h"
 #include "live/frmOVERTIME.h"
 #include "storage/Module1.h"
@@ -32,6 +36,8 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QMimeData>
+#include <QScrollArea>
+#include <bit>
 #include <chrono>
 #include <utility>
 
@@ -63,15 +69,13 @@ constexpr int kCloseInPlay = 2506;
 constexpr int kGameOverInPlay = 2507;
 constexpr const char* kRowsStay = "rows-stay";
 constexpr const char* kRowsChange = "rows-change";
+constexpr const char* kPlacesStay = " places-stay";
 
 constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
 constexpr auto kRetryInterval = 2s;
 constexpr auto kLockTick = 200ms;
-constexpr int kGap = 4;
-// The side column takes a share of a wide window, so that names and words are not cut there.
-constexpr int kLeastSide = 256;
-constexpr int kMostSide = 340;
-constexpr double kSideShare = 0.187;
+constexpr int kPanelRows = 2; // of the grid, for each team: its roster and its panels
+constexpr int kPending = 2496;
 constexpr int kPathWidth = 380; // so that what can be done about it stands beside it on a small screen
 
 } // namespace
@@ -91,28 +95,36 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   m_sinceBegin.start();
   m_readOnly = makeReadOnly();
 
-  auto* parts = new QHBoxLayout;
-  parts->setSpacing(kGap);
-  parts->addWidget(makePanels(), 1);
-  parts->addWidget(makeSide());
+  m_parts = new QHBoxLayout;
+  m_panelScroll = makeScroll(makePanels());
+  m_sideScroll = makeScroll(makeSide());
+  m_sideScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  m_parts->addWidget(m_panelScroll, 1);
+  m_parts->addWidget(m_sideScroll);
+  m_now = new NowStrip(m_texts, this);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(kGap, kGap, kGap, kGap);
-  layout->setSpacing(kGap);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
   layout->addWidget(m_readOnly);
-  layout->addLayout(parts, 1);
+  layout->addLayout(m_parts, 1);
+  layout->addWidget(m_now);
   m_card = new PeriodEndCard(m_texts, this);
   m_notices = new LiveNotices(m_texts, this);
   m_followUp = new FollowUpBar(m_texts, this);
   m_benchShot = new BenchShot(m_settings, m_texts, this);
   // Each sees what comes from keyboard and mouse before those that were made before it.
-  m_keys = new LiveKeys(m_game, m_settings, m_texts, *m_followUp, *m_bench, *this);
+  m_keys = new LiveKeys(m_game, m_settings, m_texts, *m_followUp, *m_events, *this);
   m_repeats = new RepeatedPress(*this);
   new HeldKeys(this);
   m_requests = new EventRequests(m_game, *m_events, m_settings, m_texts, m_dialogs, *this);
   connectEverything();
 }
 
-frmLIVE::~frmLIVE() = default;
+// Its parts still close what is open while they go, when this is no longer there to listen.
+frmLIVE::~frmLIVE() {
+  m_followUp->disconnect(this);
+  m_correction->disconnect(this);
+}
 
 QLabel* frmLIVE::makeReadOnly() {
   auto* strip = new PlainLabel(this);
@@ -124,12 +136,23 @@ QLabel* frmLIVE::makeReadOnly() {
   return strip;
 }
 
-// The visitors' five above the home team's.
+// What does not fit, as on a small screen or with a large zoom, can be scrolled.
+QScrollArea* frmLIVE::makeScroll(QWidget* content) {
+  auto* area = new QScrollArea(this);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidget(content);
+  return area;
+}
+
+// The visitors' roster and five above the home team's.
 QWidget* frmLIVE::makePanels() {
   m_panelArea = new QWidget(this);
   m_panelGrid = new QGridLayout(m_panelArea);
   m_panelGrid->setContentsMargins(0, 0, 0, 0);
-  m_panelGrid->setSpacing(kGap);
+  m_sides = new SideSwitch(m_texts, this);
+  m_bench = new BenchPanel(m_texts, m_panelArea, m_sides, this);
   for (int slot = 0; slot < LiveGame::kSlots; ++slot)
     m_panels[static_cast<std::size_t>(slot)] = new PlayerPanel(slot, m_settings, m_texts, m_panelArea);
   for (int column = 0; column < LiveGame::kSlotsOfTeam; ++column)
@@ -141,25 +164,26 @@ QWidget* frmLIVE::makePanels() {
 // With the sides the rows change, too, unless whoever records has asked them to stay.
 void frmLIVE::placeRows() {
   const bool areTurned = m_isSwitched && !m_rowsStay;
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
-    const int row = areTurned ? 1 - LiveGame::teamOf(slot) : LiveGame::teamOf(slot);
-    m_panelGrid->addWidget(m_panels[static_cast<std::size_t>(slot)], row, slot % LiveGame::kSlotsOfTeam);
+  for (int team = 0; team < 2; ++team) {
+    const int row = (areTurned ? 1 - team : team) * kPanelRows;
+    m_panelGrid->addWidget(&m_bench->strip(team), row, 0, 1, LiveGame::kSlotsOfTeam);
+    for (int place = 0; place < LiveGame::kSlotsOfTeam; ++place)
+      m_panelGrid->addWidget(m_panels[static_cast<std::size_t>(team * LiveGame::kSlotsOfTeam + place)],
+                             row + 1, place);
+    m_panelGrid->setRowStretch(row + 1, 1);
   }
 }
 
 QWidget* frmLIVE::makeSide() {
-  auto* side = new QWidget(this);
-  m_side = side;
-  m_score = new ScorePanel(m_texts, side);
-  m_bench = new BenchPanel(m_texts, side);
-  m_events = new LiveEventPanel(m_texts, side);
-  auto* layout = new QVBoxLayout(side);
+  m_side = new QWidget(this);
+  m_score = new ScorePanel(m_texts, m_side);
+  m_events = new LiveEventPanel(m_texts, m_side);
+  auto* layout = new QVBoxLayout(m_side);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(kGap);
   layout->addWidget(m_score);
   layout->addWidget(m_bench);
   layout->addWidget(m_events, 1);
-  return side;
+  return m_side;
 }
 
 void frmLIVE::connectEverything() {
@@ -175,7 +199,7 @@ void frmLIVE::connectEverything() {
   }
   connect(m_score, &ScorePanel::startAsked, this, &frmLIVE::toggleClock);
   connect(m_score, &ScorePanel::returnAsked, this, [this] { edit(&LiveGame::returnToEndedPeriod); });
-  connect(m_score, &ScorePanel::switchAsked, this, &frmLIVE::switchSides);
+  connect(m_sides, &SideSwitch::asked, this, &frmLIVE::switchSides);
   connect(m_score, &ScorePanel::periodAsked, this, [this](int period) {
     m_game.setPeriod(period);
     showGame();
@@ -211,7 +235,7 @@ void frmLIVE::connectEverything() {
   });
   connect(m_requests, &EventRequests::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_requests, &EventRequests::startTakenBack, this, [this] { say(kStartTakenBack); });
-  connect(m_score, &ScorePanel::platesStayAsked, this, [this](bool stay) {
+  connect(m_sides, &SideSwitch::rowsStayAsked, this, [this](bool stay) {
     m_rowsStay = stay;
     showSides();
   });
@@ -221,25 +245,46 @@ void frmLIVE::connectEverything() {
     if (m_game.startLock() == 0)
       m_lock.stop();
   });
+  connect(m_now, &NowStrip::resized, this, &frmLIVE::placeOverlays);
+  connect(m_now, &NowStrip::keysAsked, m_keys, &LiveKeys::showSheet);
   connectShots();
   connectCard();
   connectKeys();
+  connectPlayers();
 }
 
 void frmLIVE::resizeEvent(QResizeEvent*) {
-  m_side->setFixedWidth(std::clamp(static_cast<int>(width() * kSideShare), kLeastSide, kMostSide));
   placeOverlays();
 }
 
 // What comes while one records must not move what is being pressed: notices lie over the oldest of the
 // events, the card of a period's end below the clock.
 void frmLIVE::placeOverlays() {
-  const int left = width() - m_side->width() - kGap;
-  m_notices->placeIn(QRect(left, kGap, m_side->width(), height() - 2 * kGap));
   layout()->activate();
-  const int top = m_score->mapTo(this, QPoint(0, m_score->bottomOfClock())).y() + kGap;
-  m_card->setGeometry(left, top, m_side->width(),
-                      std::min(m_card->layout()->totalHeightForWidth(m_side->width()), height() - top));
+  const QRect column(m_sideScroll->mapTo(this, QPoint(0, 0)), m_sideScroll->size());
+  const QRect line = m_now->middle().translated(m_now->pos());
+  m_notices->placeIn(column, line);
+  m_correction->setGeometry(line);
+  const int top = m_score->mapTo(this, QPoint(0, m_score->bottomOfClock())).y() + m_side->layout()->spacing();
+  m_card->setGeometry(
+      column.left(), top, column.width(),
+      std::min(m_card->layout()->totalHeightForWidth(column.width()), column.bottom() + 1 - top));
+}
+
+// Gaps and the column's width, by the measure in use.
+void frmLIVE::applyMeasure() {
+  const Measure& measure = Theme::measure();
+  const int edge = measure(6, 10);
+  const int gap = measure(5, 9);
+  m_parts->setContentsMargins(edge, edge, edge, edge);
+  m_parts->setSpacing(edge);
+  m_panelGrid->setHorizontalSpacing(gap);
+  m_panelGrid->setVerticalSpacing(measure(3, 6));
+  m_side->layout()->setSpacing(gap);
+  const int column = measure(276, 384);
+  m_sideScroll->setFixedWidth(column);
+  m_side->setMaximumWidth(column);
+  placeOverlays();
 }
 
 frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
@@ -275,6 +320,8 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   m_card->hide();
   m_endedPeriod = m_game.endedPeriod(); // an end of another day is no news
   m_isSwitched = false;
+  m_correction->end();
+  m_hasMissed = false;
   m_bench->clearSelection();
   const bool wasClosed = m_game.wasClosedInPlay();
   m_offersClock = true; // where there is one to be chosen
@@ -291,6 +338,7 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
                    toQt(Module1::withPlaceholder(
                        words, m_game.game().details.abbreviation[count->team] + " " + count->what, "YYY")));
   }
+  QTimer::singleShot(0, this, &frmLIVE::askFives); // when the window stands
   return Opening::Opened;
 }
 
@@ -307,7 +355,10 @@ void frmLIVE::showGame() {
   for (PlayerPanel* panel : m_panels)
     panel->showGame(m_game);
   m_score->showGame(m_game);
+  m_sides->showGame(m_game);
   m_bench->showGame(m_game);
+  m_now->showGame(m_game);
+  m_now->showPending(pendingWords());
   showSelected();
   m_events->showGame(m_game);
   showDisk();
@@ -328,10 +379,15 @@ void frmLIVE::showGame() {
                                   QString::number(m_game.state().points(1)), toQt(details.abbreviation[1]))));
 }
 
+// For the next action, or whom a question is about: an assist, a rebound, whose an event is.
 void frmLIVE::showSelected() {
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot)
+  const EventCorrection::Who asked = m_correction->isActive() ? m_correction->whose() : m_askedAbout;
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
+    const int team = LiveGame::teamOf(slot);
+    const int player = m_game.playerIn(slot);
     m_panels[static_cast<std::size_t>(slot)]->setSelected(
-        m_bench->isSelected(LiveGame::teamOf(slot), m_game.playerIn(slot)));
+        m_bench->isSelected(team, player) || (player > 0 && asked == EventCorrection::Who{team, player}));
+  }
 }
 
 void frmLIVE::showTime() {
@@ -339,12 +395,29 @@ void frmLIVE::showTime() {
     panel->showTime(m_game);
   m_score->showTime(m_game);
   m_bench->showTime(m_game);
+  m_now->showTime(m_game);
+}
+
+// "4 of 5 on court: who comes in? (05:23)"
+QString frmLIVE::pendingWords() const {
+  const auto& pending = m_game.pending();
+  if (!pending)
+    return {};
+  std::string counts;
+  for (std::size_t team = 0; team < 2; ++team) {
+    const OnCourt now = m_game.onCourt();
+    if (now[team] != pending->before[team])
+      counts += (counts.empty() ? "" : ", ") + m_game.game().details.abbreviation[team] + " " +
+                std::to_string(std::popcount(now[team]));
+  }
+  return toQt(Module1::withPlaceholder(m_texts.withPlaceholder(kPending, counts),
+                                       Module1::clockText(pending->clockSeconds), "YYY"));
 }
 
 void frmLIVE::showDisk() {
   const GameOnDisk& disk = m_game.disk();
   const std::string waiting = std::to_string(disk.waiting());
-  m_score->showDisk(disk.isOnDisk(), disk.waiting());
+  m_now->showDisk(disk.isOnDisk(), disk.waiting());
   showReadOnly();
   if (disk.isOnDisk()) {
     m_retryOfWrites.stop();
@@ -409,6 +482,7 @@ void frmLIVE::toggleClock() {
     return askOvertime();
   m_game.toggleClock();
   afterClock(before);
+  tellMissing();
 }
 
 void frmLIVE::refuseClock(int text) {
@@ -508,15 +582,22 @@ void frmLIVE::showSides() {
   for (int slot = 0; slot < LiveGame::kSlots; ++slot)
     m_panels[static_cast<std::size_t>(slot)]->setPlaysRight(playsRight(slot));
   m_score->setSides(m_isSwitched, m_rowsStay);
-  m_bench->setTurned(m_isSwitched && !m_rowsStay);
+  m_sides->setSides(m_isSwitched, m_rowsStay);
+  for (int team = 0; team < 2; ++team)
+    m_bench->strip(team).setPlaysRight(playsRightOf(team));
 }
 
 QByteArray frmLIVE::arrangement() const {
-  return m_rowsStay ? kRowsStay : kRowsChange; // never empty, which would not be remembered
+  QByteArray kept = m_rowsStay ? kRowsStay : kRowsChange; // never empty, which would not be remembered
+  if (m_bench->placesStay())
+    kept += kPlacesStay;
+  return kept;
 }
 
 void frmLIVE::restoreArrangement(const QByteArray& arrangement) {
-  m_rowsStay = arrangement == kRowsStay;
+  m_rowsStay = arrangement.startsWith(kRowsStay);
+  m_bench->setPlacesStay(arrangement.endsWith(kPlacesStay));
+  m_game.setKeepsPlaces(m_bench->placesStay());
   showSides();
 }
 
@@ -544,6 +625,8 @@ void frmLIVE::relabelWindow() {
   showSides();
   m_bench->relabelPanel();
   m_events->relabelPanel();
+  m_now->relabelStrip();
+  m_correction->relabelBar();
   m_keys->relabelKeys();
   applyColours();
   showGame();
@@ -558,6 +641,8 @@ void frmLIVE::applyColours() {
   m_score->applyColours();
   m_bench->applyColours();
   m_events->applyColours();
+  m_now->applyColours();
+  applyMeasure();
 }
 
 void frmLIVE::dragEnterEvent(QDragEnterEvent* event) {

@@ -5,6 +5,7 @@
 #include "appearance/ChildWindow.h"
 #include "appearance/GameHold.h"
 #include "appearance/ZoneMap.h"
+#include "live/EventCorrection.h"
 #include "live/FollowUpQuestion.h"
 #include "live/LiveGame.h"
 #include "live/ToggleGuard.h"
@@ -15,25 +16,31 @@
 #include <array>
 #include <functional>
 
+class QBoxLayout;
 class QGridLayout;
 class QLabel;
+class QScrollArea;
 
 namespace hooptab {
 
 class BenchPanel;
 class BenchShot;
+class CorrectionBar;
 class Dialogs;
 class EventRequests;
 class FollowUpBar;
 class LiveEventPanel;
 class LiveKeys;
 class LiveNotices;
+class NowStrip;
 class PeriodEndCard;
 class PlayerPanel;
 class RepeatedPress;
 class ScorePanel;
 class Settings;
+class SideSwitch;
 class Texts;
+class frmSUBST;
 struct KeypadSetup;
 
 class frmLIVE : public ChildWindow {
@@ -88,8 +95,18 @@ class frmLIVE : public ChildWindow {
   void connectShots();
   void connectCard();
   void connectKeys();
+  void connectPlayers();
+  void correct(const EventPlace& event);
+  void addPlayer(int team);
+  void putInPlace(int slot);
+  void askFives();
+  void proposeFives(frmSUBST& several);
+  void tellMissing();
   void placeOverlays();
   void placeRows();
+  QScrollArea* makeScroll(QWidget* content);
+  void applyMeasure();
+  [[nodiscard]] QString pendingWords() const;
   void showSides();
   void showGame();
   void showSelected();
@@ -133,6 +150,7 @@ class frmLIVE : public ChildWindow {
   bool m_rowsStay = false; // of panels, plates and benches, where the sides are switched
   int m_endedPeriod = 0;   // shown last
   bool m_offersClock = false;
+  bool m_hasMissed = false; // in this game, while nobody is asked for rebounds
   ToggleGuard m_toggles;
   QElapsedTimer m_sinceBegin; // for m_toggles
   std::function<void()> m_afterQuestion;
@@ -143,6 +161,11 @@ class frmLIVE : public ChildWindow {
 
   QLabel* m_readOnly = nullptr;
   LiveNotices* m_notices = nullptr;
+  QBoxLayout* m_parts = nullptr;
+  QScrollArea* m_panelScroll = nullptr;
+  QScrollArea* m_sideScroll = nullptr;
+  NowStrip* m_now = nullptr;
+  SideSwitch* m_sides = nullptr;
   QWidget* m_panelArea = nullptr;
   QGridLayout* m_panelGrid = nullptr;
   std::array<PlayerPanel*, LiveGame::kSlots> m_panels = {};
@@ -155,6 +178,8 @@ class frmLIVE : public ChildWindow {
   RepeatedPress* m_repeats = nullptr;
   EventRequests* m_requests = nullptr;
   PeriodEndCard* m_card = nullptr;
+  CorrectionBar* m_correction = nullptr;
+  EventCorrection::Who m_askedAbout; // by the follow-up
   BenchShot* m_benchShot = nullptr;
   int m_benchTeam = 0; // whose shot m_benchShot asks for
   int m_benchPlayer = 0;

@@ -32,6 +32,7 @@ constexpr int kMakeTwo = 2499;
 constexpr int kSecondPress = 2500;
 constexpr int kWasNotOnCourt = 2503;
 constexpr int kPutIn = 2473;
+constexpr int kRebounds = 2585;
 constexpr int kNowDoubtful = 2504;
 constexpr int kNoLongerDoubtful = 2505;
 
@@ -41,6 +42,8 @@ void frmLIVE::connectShots() {
   connect(m_followUp, &FollowUpBar::chosen, this, &frmLIVE::followUp);
   connect(m_followUp, &FollowUpBar::pressIgnored, this, [this] { say(kSecondPress); });
   connect(m_followUp, &FollowUpBar::closed, this, [this] {
+    m_askedAbout = {};
+    showSelected();
     if (m_afterQuestion)
       std::exchange(m_afterQuestion, {})();
   });
@@ -131,6 +134,8 @@ void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pa
 
 // Beside the shooter's panel. Of one who is not on court it was forgotten that he came in.
 void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
+  if (!isMade && !m_settings.asksRebounds && !std::exchange(m_hasMissed, true))
+    say(kRebounds);
   const auto followUps = m_game.followUps(team, player, kind, isMade, m_settings.asksRebounds);
   const auto slot = m_game.slotOf(team, player);
   const auto placeOf = [](const QWidget& widget) {
@@ -139,6 +144,8 @@ void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
   m_followUp->ask(m_game, followUps, team, player,
                   slot ? placeOf(*m_panels[static_cast<std::size_t>(*slot)]) : QRect(),
                   placeOf(*m_panelArea));
+  m_askedAbout = m_followUp->isOpen() ? EventCorrection::Who{team, player} : EventCorrection::Who();
+  showSelected();
   if (slot)
     return;
   const EventPlace shot = m_game.lastShot();

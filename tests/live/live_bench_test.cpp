@@ -2,11 +2,13 @@
 #include "live/FollowUpBar.h"
 #include "live/JerseyButton.h"
 #include "live/ManualTime.h"
+#include "live/RosterStrip.h"
 #include "live/frmSUBST.h"
 #include "storage/Texts.h"
 #include "support/TemporaryFolder.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -74,64 +76,70 @@ class BenchPanelTest : public BenchTest {
   void SetUp() override {
     BenchTest::SetUp();
     panel.showGame(live);
-    panel.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    auto* layout = new QVBoxLayout(&window);
+    for (QWidget* part : {static_cast<QWidget*>(&panel.strip(0)), static_cast<QWidget*>(&panel.strip(1)),
+                          static_cast<QWidget*>(&panel)})
+      layout->addWidget(part);
+    window.resize(1100, 200);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     QObject::connect(&panel, &BenchPanel::toggled,
                      [this](int team, int player) { toggled.emplace_back(team, player); });
     QObject::connect(&panel, &BenchPanel::selected,
                      [this](int team, int player) { selected.emplace_back(team, player); });
   }
-  BenchPanel panel{texts};
+  QWidget window;
+  BenchPanel& panel = *new BenchPanel(texts, &window, new QWidget, &window);
   Players toggled;
   Players selected;
 };
 
 TEST_F(BenchPanelTest, ShowsWhoIsOnCourtSelectedAndFouledOut) {
-  EXPECT_TRUE(jersey(panel, 0).look().isFilled);
-  EXPECT_EQ(jersey(panel, 0).look().colour, QColor(255, 0, 0));
-  EXPECT_FALSE(jersey(panel, 5).look().isFilled) << "on the bench";
-  EXPECT_EQ(jersey(panel, 20).text().toStdString(), "6") << "of the home team";
-  const QPoint place = jersey(panel, 15).mapTo(&panel, QPoint());
-  EXPECT_TRUE(jersey(panel, 6).isHidden()) << "no such player";
-  EXPECT_EQ(jersey(panel, 0).toolTip().toStdString(), "1 Ann Able, on court\nCenter · PF 0 · TF 0 · 00:00");
+  EXPECT_TRUE(jersey(window, 0).look().isFilled);
+  EXPECT_EQ(jersey(window, 0).look().colour, QColor(255, 0, 0));
+  EXPECT_FALSE(jersey(window, 5).look().isFilled) << "on the bench";
+  EXPECT_EQ(jersey(window, 20).text().toStdString(), "6") << "of the home team";
+  const QPoint place = jersey(window, 15).mapTo(&window, QPoint());
+  EXPECT_TRUE(jersey(window, 6).isHidden()) << "no such player";
+  EXPECT_EQ(jersey(window, 0).toolTip().toStdString(), "1 Ann Able, on court\nCenter · PF 0 · TF 0 · 00:00");
 
   live.start();
   time.now += 65;
   panel.showTime(live);
-  EXPECT_TRUE(jersey(panel, 0).toolTip().endsWith(QLatin1String("01:05")))
-      << jersey(panel, 0).toolTip().toStdString();
+  EXPECT_TRUE(jersey(window, 0).toolTip().endsWith(QLatin1String("01:05")))
+      << jersey(window, 0).toolTip().toStdString();
   live.recordAction(0, 6, EventCode::SPF);
   live.recordAction(0, 6, EventCode::SPF);
   texts.setLanguage(Language::French);
   panel.relabelPanel();
-  EXPECT_TRUE(jersey(panel, 5).look().isFouledOut);
-  EXPECT_TRUE(jersey(panel, 5).accessibleName().contains(QLatin1String("exclu pour fautes")));
-  EXPECT_EQ(jersey(panel, 15).mapTo(&panel, QPoint()), place) << "nothing moves";
+  EXPECT_TRUE(jersey(window, 5).look().isFouledOut);
+  EXPECT_TRUE(jersey(window, 5).accessibleName().contains(QLatin1String("exclu pour fautes")));
+  EXPECT_EQ(jersey(window, 15).mapTo(&window, QPoint()), place) << "nothing moves";
 }
 
 TEST_F(BenchPanelTest, APressSelectsAndInSubstitutionModePutsInOrOut) {
-  press(jersey(panel, 16));
+  press(jersey(window, 16));
   EXPECT_EQ(selected, (Players{{1, 2}}));
   EXPECT_EQ(textOf(panel, "lblNO"), "12");
   EXPECT_EQ(textOf(panel, "lblNom"), "Bea Baker");
-  EXPECT_TRUE(jersey(panel, 16).look().isSelected);
+  EXPECT_TRUE(jersey(window, 16).look().isSelected);
   panel.clearSelection();
-  EXPECT_FALSE(jersey(panel, 16).look().isSelected);
+  EXPECT_FALSE(jersey(window, 16).look().isSelected);
 
   QTest::keyClick(&panel, Qt::Key_F6);
   ASSERT_TRUE(panel.isSubstituting());
-  QTest::mousePress(&jersey(panel, 5), Qt::LeftButton);
+  QTest::mousePress(&jersey(window, 5), Qt::LeftButton);
   EXPECT_EQ(toggled, (Players{{0, 6}})) << "before the release";
-  QTest::mouseRelease(&jersey(panel, 5), Qt::LeftButton);
-  press(jersey(panel, 0));
-  QTest::mouseDClick(&jersey(panel, 0), Qt::LeftButton); // the second press of a double click
+  QTest::mouseRelease(&jersey(window, 5), Qt::LeftButton);
+  press(jersey(window, 0));
+  QTest::mouseDClick(&jersey(window, 0), Qt::LeftButton); // the second press of a double click
   EXPECT_EQ(toggled, (Players{{0, 6}, {0, 1}, {0, 1}}));
-  press(jersey(panel, 1), Qt::RightButton);
+  press(jersey(window, 1), Qt::RightButton);
   EXPECT_EQ(toggled.size(), 3U);
   EXPECT_EQ(selected.size(), 2U) << "one and nobody: nothing was selected in substitution mode";
 
   QSignalSpy allOut(&panel, &BenchPanel::allOutAsked);
-  find<QPushButton>(panel, "cmdOUTALL(1)").click();
+  find<QPushButton>(window, "cmdOUTALL(1)").click();
   ASSERT_EQ(allOut.size(), 1);
   EXPECT_EQ(allOut[0][0], 1);
 }
@@ -144,11 +152,11 @@ TEST_F(BenchPanelTest, APlayerOfTheBenchIsGivenHisFoulsHere) {
   });
   const auto& strip = find<QWidget>(panel, "picSELECTED");
   const int height = panel.height();
-  press(jersey(panel, 16));
+  press(jersey(window, 16));
   EXPECT_FALSE(strip.isVisible()) << "who is on court has his panel";
-  press(jersey(panel, 20));
+  press(jersey(window, 20));
   EXPECT_TRUE(strip.isVisible());
-  EXPECT_EQ(panel.sizeHint().height(), height) << "nothing moves";
+  EXPECT_EQ(panel.height(), height) << "nothing moves";
   press(find<QToolButton>(panel, "cmdSELTF"));
   press(find<QToolButton>(panel, "cmdSELPF"));
   auto& more = find<QToolButton>(panel, "cmdSELMORE");

@@ -1,4 +1,5 @@
 // The list of events beside the court: what it shows, keeps and asks for.
+#include "live/LiveEventDelegate.h"
 #include "live/LiveEventPanel.h"
 
 #include "appearance/relabel.h"
@@ -89,7 +90,7 @@ TEST_F(LiveEventPanelTest, ShowsTheNewestFirstAndWhatBelongsTogether) {
   const QAbstractItemModelTester tester(list().model());
   ASSERT_EQ(list().model()->rowCount(), 6);
   EXPECT_EQ(words(0), "PUMA 10: personal foul");
-  EXPECT_EQ(words(1), "  LYNX 5: assist");
+  EXPECT_EQ(words(1), "LYNX 5: assist");
   EXPECT_EQ(words(2), "LYNX 4 ● left layup");
   EXPECT_EQ(cell(2, EventListModel::Score).data().toString(), QStringLiteral("2-0"));
   EXPECT_EQ(words(4), "LYNX: in 4, 5, 10, 12, 15 - PUMA: in 4, 5, 10, 12, 15");
@@ -101,12 +102,15 @@ TEST_F(LiveEventPanelTest, ShowsTheNewestFirstAndWhatBelongsTogether) {
   EXPECT_EQ(words(0), "PUMA 4 ✕ free throw");
   live.setDeleted(std::vector<EventPlace>{{1, "4"}}, true);
   panel.showGame(live);
+  EXPECT_EQ(words(3), "START") << "what is deleted is hidden";
+  action("cmdFILTER").setChecked(true);
+  find<QCheckBox>("chkDELETED").setChecked(true);
   EXPECT_TRUE(cell(3, EventListModel::Action).data(Qt::FontRole).value<QFont>().strikeOut());
-  EXPECT_EQ(words(2), "LYNX 5: assist") << "its shot is gone";
+  action("cmdFILTER").setChecked(false);
   EXPECT_EQ(action("cmdUNDO").text(), QStringLiteral("Undo: Deletion (LYNX 4 ● left layup)"));
   panel.showGame(live); // an assist without a basket
   auto& checks = find<QPushButton>("lblCHECKS");
-  EXPECT_EQ(checks.text(), QStringLiteral("To check: 1"));
+  EXPECT_EQ(checks.text(), QStringLiteral("⚠ 1"));
   checks.click();
   EXPECT_EQ(list().currentIndex().row(), 2);
   EXPECT_TRUE(
@@ -114,7 +118,7 @@ TEST_F(LiveEventPanelTest, ShowsTheNewestFirstAndWhatBelongsTogether) {
   live.undo();
   panel.showGame(live);
   EXPECT_FALSE(checks.isEnabled());
-  EXPECT_EQ(words(2), "  LYNX 5: assist");
+  EXPECT_EQ(words(2), "LYNX 5: assist");
 }
 
 // Another program has taken an event out of the middle of the file.
@@ -223,7 +227,7 @@ TEST_F(LiveEventPanelTest, LeadsToWhatMendsAFinding) {
   const QRect row = list().visualRect(cell(0, EventListModel::Action));
   QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, {row.left() + 60, row.center().y()});
   EXPECT_EQ(panel.findChild<QMenu*>(QStringLiteral("mnuREPAIR")), nullptr) << "beside the mark";
-  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, {row.left() + 5, row.center().y()});
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, LiveEventDelegate::chipOf(row).center());
   menu = &find<QMenu>("mnuREPAIR");
   EXPECT_EQ(menu->actions()[1]->text(), QStringLiteral("Edit"));
   menu->close();
@@ -291,12 +295,13 @@ TEST_F(LiveEventPanelTest, FiltersAndKeepsItsPlace) {
   panel.showGame(live);
   EXPECT_EQ(list().indexAt({0, 0}).row(), 0);
   EXPECT_EQ(words(list().currentIndex().row()), "LYNX 4 ● left layup");
-  list().verticalScrollBar()->setValue(20 * 30);
+  list().verticalScrollBar()->setValue(30 * list().rowHeight(0));
   const std::string top = words(list().indexAt({0, 0}).row());
   const int value = list().verticalScrollBar()->value();
   live.recordAction(1, 1, EventCode::SBS);
   panel.showGame(live);
-  EXPECT_EQ(list().verticalScrollBar()->value(), value + 20) << "who reads stays where he reads";
+  EXPECT_EQ(list().verticalScrollBar()->value(), value + list().rowHeight(0))
+      << "who reads stays where he reads";
   EXPECT_EQ(words(list().indexAt({0, 0}).row()), top);
 }
 
@@ -316,6 +321,10 @@ TEST_F(LiveEventPanelTest, TheEditingPanelChangesWhatItShows) {
   EXPECT_FALSE(shot.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled());
   QTest::keyClicks(&clock, QStringLiteral("51"));
   EXPECT_EQ(shot.clockSeconds(), 591) << "as one types a clock, without the leading nought";
+  clock.clear();
+  QTest::keyClicks(&clock, QStringLiteral("9x51"));
+  EXPECT_EQ(shot.clockSeconds(), 591) << "nor the colon";
+  EXPECT_TRUE(shot.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled());
   shot.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&shot));
   QSignalSpy asked(&shot, &frmEDIT::clockAsked);

@@ -2,7 +2,9 @@
 #include "appearance/relabel.h"
 #include "live/LiveGame.h"
 #include "live/ManualTime.h"
+#include "live/NowStrip.h"
 #include "live/ScorePanel.h"
+#include "live/SideSwitch.h"
 #include "live/frmGAMEOVER.h"
 #include "live/frmOVERTIME.h"
 #include "support/ScriptedDialogs.h"
@@ -33,13 +35,17 @@ class ScorePanelTest : public testing::Test {
     std::ofstream(path) << game;
     ASSERT_EQ(live.open(path), GameFileProblem::None);
     panel.showGame(live);
+    panel.resize(276, panel.height());
+    sides.showGame(live);
+    sides.move(0, panel.height());
+    around.resize(300, panel.height() + 40);
     around.show();
     around.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&around));
   }
   template <typename T = QLabel>
   T* find(const char* name) {
-    return panel.findChild<T*>(QLatin1String(name));
+    return around.findChild<T*>(QLatin1String(name));
   }
   QAbstractButton* button(const char* name) { return find<QAbstractButton>(name); }
   QString text(const char* name) { return find(name)->text(); }
@@ -53,6 +59,7 @@ class ScorePanelTest : public testing::Test {
   LiveGame live{store, time};
   QWidget around;
   ScorePanel& panel = *new ScorePanel(texts, &around);
+  SideSwitch& sides = *new SideSwitch(texts, &around);
 };
 
 TEST_F(ScorePanelTest, ShowsScoreFoulsAndLead) {
@@ -61,15 +68,15 @@ TEST_F(ScorePanelTest, ShowsScoreFoulsAndLead) {
        "EQUIPE0COL=255\n");
   EXPECT_EQ(text("lblPTS0"), QStringLiteral("2"));
   EXPECT_EQ(text("lblFTE0"), QStringLiteral("0"));
-  EXPECT_EQ(text("lblFTE1"), QStringLiteral("◆ 2"));
-  EXPECT_TRUE(find("lblFTE1")->font().bold());
-  EXPECT_FALSE(find("lblFTE0")->font().bold());
+  EXPECT_EQ(text("lblFTE1"), QStringLiteral("2"));
+  EXPECT_EQ(text("lblBONUS(0)"), QStringLiteral("2 to give"));
+  EXPECT_EQ(text("lblBONUS(1)"), QStringLiteral("PAN shoot 2"));
   EXPECT_EQ(find("lblFTE1")->palette().color(QPalette::WindowText), Theme::missed());
   EXPECT_NE(find("lblFTE0")->palette().color(QPalette::WindowText), Theme::missed());
   EXPECT_TRUE(find("lblFTE1")->toolTip().contains(toQt(texts.text(1943))));
   EXPECT_EQ(text("txtPOSTemps(0)") + text("txtPOSNb(0)"), QStringLiteral("01:30×1"));
   EXPECT_EQ(text("txtPOSTemps(2)"), QStringLiteral("01:00"));
-  EXPECT_EQ(find<QWidget>("pictTEAM(0)")->palette().color(QPalette::Window), QColor(255, 0, 0));
+  EXPECT_EQ(find<QWidget>("pictTEAM(0)")->grab().toImage().pixelColor(50, 55), QColor(255, 0, 0));
   EXPECT_EQ(button("cmdCOUL(0)")->text(), QStringLiteral("◂ PAN"));
 
   // Only what the clock changes.
@@ -96,7 +103,7 @@ TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
   QSignalSpy period(&panel, &ScorePanel::periodAsked);
   QSignalSpy clock(&panel, &ScorePanel::clockAsked);
   QSignalSpy colour(&panel, &ScorePanel::colourAsked);
-  QSignalSpy sides(&panel, &ScorePanel::switchAsked);
+  QSignalSpy switches(&sides, &SideSwitch::asked);
   QSignalSpy back(&panel, &ScorePanel::returnAsked);
   QTest::mousePress(button("cmdSTART"), Qt::LeftButton);
   EXPECT_EQ(start.size(), 1) << "on the press already";
@@ -125,18 +132,18 @@ TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
     const QImage court = find<QWidget>("picSWITCH")->grab().toImage();
     return court.pixelColor(static_cast<int>(court.width() * share), court.height() / 4);
   };
-  const QColor visitors = find<QWidget>("pictTEAM(0)")->palette().color(QPalette::Window);
+  const QColor visitors(255, 0, 0);
   EXPECT_EQ(colourAt(0.25), visitors);
   EXPECT_NE(colourAt(0.75), visitors);
-  for (const char* name : {"cmdSWITCH", "picSWITCH", "lblSWITCH"})
+  for (const char* name : {"cmdSWITCH", "picSWITCH"})
     QTest::mouseClick(find<QWidget>(name), Qt::LeftButton);
-  EXPECT_EQ(sides.size(), 3);
+  EXPECT_EQ(switches.size(), 2);
   QTest::mouseClick(find<QWidget>("picSWITCH"), Qt::RightButton);
-  EXPECT_EQ(sides.size(), 3);
+  EXPECT_EQ(switches.size(), 2);
   panel.setSides(true, true);
   EXPECT_LT(find<QWidget>("pictTEAM(0)")->x(), find<QWidget>("pictTEAM(1)")->x()) << "asked to stay";
   panel.setSides(true, false);
-  QApplication::processEvents();
+  sides.setSides(true, false);
   EXPECT_GT(find<QWidget>("pictTEAM(0)")->x(), find<QWidget>("pictTEAM(1)")->x());
   EXPECT_EQ(text("lblSWITCH"), QStringLiteral("◂OLY"));
   EXPECT_EQ(colourAt(0.75), visitors);
@@ -158,26 +165,26 @@ TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
 // Offered between the halves, until it is done or the game goes on; never in another break.
 TEST_F(ScorePanelTest, OffersTheSidesAtHalfTime) {
   const auto offers = [this] {
-    return button("cmdSWITCH")->palette().color(QPalette::Button) == Theme::accent() &&
+    return button("cmdSWITCH")->palette().color(QPalette::Button) == Theme::look().warningGround &&
            button("cmdSWITCH")->toolTip().startsWith(toQt(texts.text(2381)));
   };
   open("[PERIODE1]\n1=00:00,ARRET,IN-,IN-\n");
   EXPECT_FALSE(offers()) << "after one of four";
   open("[PERIODE2]\n1=05:00,SPF,0-4\n2=00:00,ARRET,IN-,IN-\n");
   EXPECT_TRUE(offers());
-  panel.setSides(true, false);
+  sides.setSides(true, false);
   EXPECT_FALSE(offers());
-  panel.showGame(live);
+  sides.showGame(live);
   EXPECT_FALSE(offers()) << "once";
   ASSERT_TRUE(live.returnToEndedPeriod());
-  panel.showGame(live);
+  sides.showGame(live);
   EXPECT_FALSE(offers());
   live.start(); // the close once more
-  panel.showGame(live);
+  sides.showGame(live);
   EXPECT_TRUE(offers());
   time.now += 4;
   live.start();
-  panel.showGame(live);
+  sides.showGame(live);
   EXPECT_FALSE(offers()) << "the second half has begun";
 }
 
@@ -198,7 +205,7 @@ TEST_F(ScorePanelTest, TakesAClockTypedAndLeavesItAlone) {
   EXPECT_EQ(clock.takeFirst().at(0), 425);
   EXPECT_EQ(QApplication::focusWidget(), &around) << "and not a button, which Space would press";
   EXPECT_TRUE(type("10:01", Qt::Key_Return)) << "more than the period";
-  EXPECT_TRUE(type("425", Qt::Key_Return));
+  EXPECT_TRUE(type("475", Qt::Key_Return)) << "75 seconds";
   EXPECT_FALSE(type("3:00", Qt::Key_Escape));
   EXPECT_FALSE(type("3:00", Qt::Key_Tab));
   EXPECT_EQ(clock.size(), 0);
@@ -221,16 +228,21 @@ TEST_F(ScorePanelTest, WithoutTimeOffersNoClock) {
 
 TEST_F(ScorePanelTest, SaysInWordsWhatIsNotOnDiskInTheLanguageInUse) {
   open("[PERIODE1]\n1=05:00,SPF,0-4\n");
-  panel.showDisk(false, 3);
-  EXPECT_EQ(text("lblDISK"), QStringLiteral("✕"));
-  EXPECT_EQ(find("lblDISK")->palette().color(QPalette::WindowText), Theme::missed());
+  NowStrip strip(texts);
+  strip.showGame(live);
+  const auto* said = strip.findChild<QLabel*>(QStringLiteral("lblDISK"));
+  strip.showDisk(false, 3);
+  EXPECT_EQ(said->text(), QStringLiteral("Saved ✕"));
+  EXPECT_EQ(said->palette().color(QPalette::WindowText), Theme::missed());
   texts.setLanguage(Language::French);
   relabel(panel, texts);
   panel.relabelPanel();
-  EXPECT_TRUE(find("lblDISK")->toolTip().contains(QStringLiteral("disque : 3")));
+  relabel(strip, texts);
+  strip.relabelStrip();
+  EXPECT_TRUE(said->toolTip().contains(QStringLiteral("disque : 3")));
   EXPECT_EQ(button("cmdSTART")->text(), QStringLiteral("DÉPART"));
-  panel.showDisk(true, 0);
-  EXPECT_EQ(text("lblDISK"), QStringLiteral("✓"));
+  strip.showDisk(true, 0);
+  EXPECT_EQ(said->text(), QStringLiteral("Sauvegardé ✓"));
 }
 
 template <typename T>

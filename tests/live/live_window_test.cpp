@@ -1,5 +1,7 @@
 // The live window as a whole, under hands that slip, disks that fail and games that come and go.
+#include "appearance/EventListModel.h"
 #include "live/frmLIVE.h"
+#include "live/frmSUBST.h"
 
 #include "appearance/relabel.h"
 #include "live/BenchPanel.h"
@@ -18,6 +20,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QTableView>
 #include <QTest>
 #include <QToolButton>
 #include <fstream>
@@ -41,6 +44,7 @@ class LiveWindowTest : public testing::Test {
     makeGame(path);
     ASSERT_EQ(window->open(toQt(path)), frmLIVE::Opening::Opened);
     show();
+    EXPECT_TRUE(asksFives);
     for (const int index : {0, 1, 2, 3, 4, 15, 16, 17, 18, 19})
       putOn(index);
   }
@@ -56,8 +60,21 @@ class LiveWindowTest : public testing::Test {
   void show() {
     window->resize(1366, 700);
     window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    leaveFives();
+  }
+  // A game that has not begun asks for both of them.
+  void leaveFives() {
+    QCoreApplication::processEvents();
+    const auto asked = window->findChildren<frmSUBST*>();
+    for (frmSUBST* several : asked)
+      several->reject();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    asksFives = !asked.isEmpty();
+    window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   }
+  bool asksFives = false;
   void putOn(int index) {
     if (!find<BenchPanel>("picBENCH").isSubstituting())
       QTest::keyClick(window.get(), Qt::Key_F6);
@@ -260,7 +277,7 @@ TEST_F(LiveWindowTest, AFolderThatIsGoneForAWhileLosesNothing) {
     press(name);
   }
   EXPECT_TRUE(find("lblNOTONDISK").isVisible());
-  EXPECT_EQ(label("lblPF(0)"), "PF 1") << "input goes on";
+  EXPECT_EQ(label("lblFAUTE(0)"), "1") << "input goes on";
   toggleClock();
   dialogs.nextAnswer = false;
   EXPECT_FALSE(window->mayClose()) << "not without a question";
@@ -566,6 +583,41 @@ TEST_F(LiveWindowTest, FreeThrowsAfterTheBuzzerGoToTheEndedPeriod) {
   press("cmdNEXT");
   EXPECT_EQ(events(), "10:00,DEPART 00:00,ARRET 00:00,GFT,0-4");
   EXPECT_EQ(events(2), "10:00,DEPART");
+}
+
+TEST_F(LiveWindowTest, AnEventIsCorrectedByAPlayersHeadHisNumberOrOneKey) {
+  press("cmdBUTFT(0)");
+  auto& list = find<QTableView>("lvwEVENT");
+  const QPoint newest = list.visualRect(list.model()->index(0, EventListModel::Action)).center();
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, newest);
+  ASSERT_TRUE(find("picCORRECTION").isVisible());
+  press("lblNom(1)");
+  EXPECT_EQ(events(), "10:00,GFT,0-5");
+  press("cmdBUTF(6)"); // anything else ends it, and happens
+  EXPECT_FALSE(find("picCORRECTION").isVisible());
+  EXPECT_EQ(events(), "10:00,GFT,0-5 10:00,SPF,1-5");
+  window->setFocus();
+  for (const Qt::Key key : {Qt::Key_F11, Qt::Key_1, Qt::Key_2})
+    QTest::keyClick(QApplication::focusWidget(), key);
+  EXPECT_EQ(events(), "10:00,GFT,0-5 10:00,SPF,1-12");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  EXPECT_FALSE(find("picCORRECTION").isVisible());
+  press("cmdBUTFT(0)");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F11, Qt::ShiftModifier);
+  EXPECT_TRUE(events().ends_with(" 10:00,GFTA,0-4"));
+}
+
+TEST_F(LiveWindowTest, WhoIsSelectedComesIntoAnEmptyPlace) {
+  press("cmdOUTALL(0)");
+  ASSERT_EQ(label("lblID(2)"), "0");
+  press(jerseyButtonName(5));
+  press("fraPLAYER(2)");
+  EXPECT_EQ(label("lblNom(0)"), "Fay") << "in order of the roster";
+  window->restoreArrangement("rows-change places-stay");
+  press(jerseyButtonName(4));
+  press("fraPLAYER(3)");
+  EXPECT_EQ(label("lblNom(3)"), "Eve") << "where places stay";
+  EXPECT_EQ(label("lblNom(0)"), "Fay");
 }
 
 } // namespace

@@ -1,0 +1,67 @@
+// The line on which a recorded event is corrected: whose it is, by a number typed or a press on a player,
+// made or missed, two or three points. Lies over the strip below the panels; anything else that is pressed
+// ends it, and so do Esc and ten seconds without a step.
+#pragma once
+
+#include "live/EventCorrection.h"
+
+#include <QFrame>
+#include <QTimer>
+
+#include <functional>
+
+class QToolButton;
+
+namespace hooptab {
+
+class ElidedLabel;
+
+class CorrectionBar : public QFrame {
+  Q_OBJECT
+ public:
+  // Both must outlive it.
+  CorrectionBar(LiveGame& game, const Texts& texts, QWidget* parent);
+  ~CorrectionBar() override;
+
+  // False where such an event cannot be corrected.
+  bool begin(const EventPlace& event);
+  void end();
+  bool isActive() const { return m_correction.isActive(); }
+  // Whose the event is; nobody's where none is in correction.
+  EventCorrection::Who whose() const { return isActive() ? m_correction.player() : EventCorrection::Who(); }
+  // A press on a player; false where nothing is in correction.
+  bool takePlayer(int team, int player);
+  void toggleMade();
+  void toggleThree();
+  // Widgets on which a press is meant for it.
+  void setPlayers(std::function<bool(const QWidget&)> isPlayer) { m_isPlayer = std::move(isPlayer); }
+  void relabelBar(); // behind relabel(), and for other colours
+
+ signals:
+  void changed(); // the game
+  void closed();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QToolButton* makeButton(const char* name, int text);
+  void afterStep(EventCorrection::Outcome outcome);
+  bool takeKey(int key);
+  void showStep();
+
+  LiveGame& m_game;
+  const Texts& m_texts;
+  EventCorrection m_correction;
+  std::function<bool(const QWidget&)> m_isPlayer;
+  QTimer m_end;
+  ElidedLabel* m_words;
+  QToolButton* m_made;
+  QToolButton* m_three;
+  QToolButton* m_adapt;
+  QToolButton* m_delete;
+  QToolButton* m_keep;
+  QToolButton* m_enough;
+};
+
+} // namespace hooptab

@@ -1,0 +1,204 @@
+#include "live/NowStrip.h"
+
+#include "appearance/Icons.h"
+#include "appearance/PlainLabel.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "live/LiveGame.h"
+#include "storage/Module1.h"
+
+#include <QBoxLayout>
+#include <QPainter>
+#include <QToolButton>
+
+#include <cstdlib>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kOnDisk = 1937;
+constexpr int kNotOnDiskHint = 1939;
+constexpr int kTypeHere = 2567;
+constexpr int kTypeHint = 2568;
+constexpr int kSaved = 2569;
+constexpr int kTogether = 2571;
+constexpr int kRun = 2565;
+constexpr int kBestFive = 2566;
+constexpr int kGap = 8;
+constexpr int kChip = 10;
+
+QString signedText(int number) {
+  return (number < 0 ? QStringLiteral("−") : QStringLiteral("+")) + QString::number(std::abs(number));
+}
+
+} // namespace
+
+NowStrip::NowStrip(const Texts& texts, QWidget* parent)
+    : QWidget(parent), m_texts(texts), m_keys(new QToolButton(this)), m_disk(new PlainLabel(this)),
+      m_pending(new PlainLabel(this)) {
+  setObjectName(QStringLiteral("picNOW"));
+  m_keys->setObjectName(QStringLiteral("cmdTYPE"));
+  m_keys->setIcon(icon(QStringLiteral("livekpad")));
+  m_keys->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  m_keys->setFocusPolicy(Qt::TabFocus);
+  setTextNumber(*m_keys, kTypeHere);
+  setToolTipNumber(*m_keys, kTypeHint);
+  connect(m_keys, &QToolButton::clicked, this, &NowStrip::keysAsked);
+  m_disk->setObjectName(QStringLiteral("lblDISK"));
+  m_disk->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  m_pending->setObjectName(QStringLiteral("lblPENDING"));
+  m_pending->setAutoFillBackground(true);
+  m_pending->setAlignment(Qt::AlignCenter);
+  m_pending->hide();
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(kGap, 3, kGap, 3);
+  layout->addWidget(m_keys);
+  layout->addStretch();
+  layout->addWidget(m_disk);
+  relabel(*this, texts);
+}
+
+void NowStrip::showGame(const LiveGame& game) {
+  m_game = &game;
+  m_fives = Fives::of(game);
+  m_run = lastRun(game.game().events);
+  gather();
+}
+
+void NowStrip::showTime(const LiveGame& game) {
+  for (int team = 0; team < 2; ++team)
+    m_fives.current[static_cast<std::size_t>(team)].seconds = game.secondsOfLine(team);
+  gather();
+}
+
+void NowStrip::addWords(const QString& words, const QColor& colour, bool isBold) {
+  m_runs.push_back({.text = words, .colour = colour, .isBold = isBold});
+}
+
+// "■ 4 5 7 12 14 together 00:25 +0 (0–0)"
+void NowStrip::addFive(std::size_t team) {
+  const Look& look = Theme::look();
+  const FivePlay& five = m_fives.current[team];
+  if (five.players == 0)
+    return;
+  m_runs.push_back({.colour = teamColour(team), .isChip = true, .beginsGroup = true});
+  addWords(toQt(five.jerseys), look.ink, true);
+  if (m_game->hasTime()) {
+    addWords(caption(m_texts, kTogether), look.muted);
+    addWords(toQt(Module1::clockText(five.seconds)), look.ink);
+  }
+  addWords(signedText(five.plusMinus()),
+           five.plusMinus() < 0   ? look.missed
+           : five.plusMinus() > 0 ? look.made
+                                  : look.ink,
+           true);
+  addWords(QStringLiteral("(%1–%2)").arg(five.pointsFor).arg(five.pointsAgainst), look.muted);
+}
+
+void NowStrip::gather() {
+  const Look& look = Theme::look();
+  m_runs.clear();
+  for (const std::size_t team : {0U, 1U})
+    addFive(team);
+  if (m_run) {
+    m_runs.push_back({.text = caption(m_texts, kRun), .colour = look.muted, .beginsGroup = true});
+    m_runs.push_back({.colour = teamColour(static_cast<std::size_t>(m_run->team)), .isChip = true});
+    addWords(toQt(runText(*m_run)), look.ink, true);
+  }
+  for (const std::size_t team : {0U, 1U}) {
+    const std::optional<FivePlay>& best = m_fives.best[team];
+    if (!best || best->plusMinus() <= 0)
+      continue;
+    m_runs.push_back({.text = caption(m_texts, kBestFive), .colour = look.muted, .beginsGroup = true});
+    m_runs.push_back({.colour = teamColour(team), .isChip = true});
+    addWords(toQt(best->jerseys), look.ink);
+    addWords(signedText(best->plusMinus()), look.made, true);
+  }
+  update();
+}
+
+QColor NowStrip::teamColour(std::size_t team) const {
+  return colourOf(m_game->game().details.teamColour[team]);
+}
+
+void NowStrip::showDisk(bool isOnDisk, std::size_t waiting) {
+  m_isOnDisk = isOnDisk;
+  m_waiting = waiting;
+  const Look& look = Theme::look();
+  m_disk->setText(caption(m_texts, kSaved) + (isOnDisk ? QStringLiteral(" ✓") : QStringLiteral(" ✕")));
+  m_disk->setToolTip(isOnDisk ? caption(m_texts, kOnDisk)
+                              : toQt(m_texts.withPlaceholder(kNotOnDiskHint, std::to_string(waiting))));
+  m_disk->setAccessibleName(m_disk->toolTip());
+  QPalette colours = palette();
+  colours.setColor(QPalette::WindowText, isOnDisk ? look.made : look.missed);
+  m_disk->setPalette(colours);
+}
+
+void NowStrip::showPending(const QString& words) {
+  m_pending->setText(words);
+  m_pending->setToolTip(words);
+  m_pending->setVisible(!words.isEmpty());
+  m_pending->setGeometry(middle());
+}
+
+void NowStrip::relabelStrip() {
+  showDisk(m_isOnDisk, m_waiting);
+  if (m_game != nullptr)
+    gather();
+}
+
+void NowStrip::applyColours() {
+  const Look& look = Theme::look();
+  setFixedHeight(Theme::measure()(28, 40));
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, look.warningGround);
+  colours.setColor(QPalette::WindowText, look.warningText);
+  m_pending->setPalette(colours);
+  relabelStrip();
+}
+
+QRect NowStrip::middle() const {
+  const int left = m_keys->geometry().right() + kGap;
+  return {left, 2, m_disk->x() - kGap - left, height() - 4};
+}
+
+void NowStrip::resizeEvent(QResizeEvent*) {
+  m_pending->setGeometry(middle());
+  emit resized();
+}
+
+void NowStrip::paintEvent(QPaintEvent*) {
+  const Look& look = Theme::look();
+  QPainter painter(this);
+  painter.fillRect(rect(), look.surface);
+  painter.fillRect(QRect(0, 0, width(), 1), look.line);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRect room = middle();
+  painter.setClipRect(room);
+  int x = room.left();
+  const int chip = Theme::measure()(kChip);
+  for (const Run& run : m_runs) {
+    if (run.beginsGroup && x > room.left()) {
+      x += kGap;
+      painter.fillRect(QRect(x, 6, 1, height() - 12), look.line);
+      x += kGap;
+    }
+    if (run.isChip) {
+      painter.setPen(outlineOf(run.colour, look.surface));
+      painter.setBrush(run.colour);
+      painter.drawRoundedRect(QRectF(x + 0.5, (height() - chip) / 2 + 0.5, chip - 1, chip - 1), 2, 2);
+      x += chip + 5;
+      continue;
+    }
+    painter.setFont(Theme::font(Type::Small, run.isBold ? QFont::Bold : QFont::Normal));
+    painter.setPen(run.colour);
+    const int width = painter.fontMetrics().horizontalAdvance(run.text);
+    if (x + width > room.right()) // words are shown whole, or not at all
+      break;
+    painter.drawText(QRect(x, 0, width + 1, height()), Qt::AlignLeft | Qt::AlignVCenter, run.text);
+    x += width + 5;
+  }
+}
+
+} // namespace hooptab

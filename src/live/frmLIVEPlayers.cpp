@@ -1,0 +1,129 @@
+// Who plays, in the live window: the five who begin, players who come late, empty places; and whose a
+// recorded event is.
+#include "live/frmLIVE.h"
+
+#include "appearance/relabel.h"
+#include "live/BenchPanel.h"
+#include "live/CorrectionBar.h"
+#include "live/JerseyButton.h"
+#include "live/LastFive.h"
+#include "live/LiveEventPanel.h"
+#include "live/LiveNotices.h"
+#include "live/MessageLine.h"
+#include "live/NowStrip.h"
+#include "live/PlayerPanel.h"
+#include "live/RosterStrip.h"
+#include "live/SideSwitch.h"
+#include "live/StartingFive.h"
+#include "live/frmPLAYER.h"
+#include "live/frmSUBST.h"
+#include "storage/cinifile.h"
+
+#include <QShortcut>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kLastGame = 2591;
+constexpr int kSeveral = 1946;
+constexpr Qt::Key kCorrect = Qt::Key_F11;
+
+} // namespace
+
+void frmLIVE::connectPlayers() {
+  m_correction = new CorrectionBar(m_game, m_texts, this);
+  m_correction->setPlayers([](const QWidget& widget) {
+    return dynamic_cast<const JerseyButton*>(&widget) != nullptr || PlayerPanel::isHead(widget);
+  });
+  connect(m_correction, &CorrectionBar::changed, this, &frmLIVE::showGame);
+  connect(m_correction, &CorrectionBar::closed, this, &frmLIVE::showSelected);
+  m_bench->setTaker([this](int team, int player) { return m_correction->takePlayer(team, player); });
+  connect(m_bench, &BenchPanel::playerAsked, this, &frmLIVE::addPlayer);
+  connect(m_bench, &BenchPanel::placesStayAsked, this, [this](bool stay) { m_game.setKeepsPlaces(stay); });
+  connect(m_bench, &BenchPanel::severalShown, this, &frmLIVE::proposeFives);
+  connect(m_events, &LiveEventPanel::correctionAsked, this, &frmLIVE::correct);
+  for (PlayerPanel* panel : m_panels) {
+    connect(panel, &PlayerPanel::headPressed, this,
+            [this](int slot) { m_correction->takePlayer(LiveGame::teamOf(slot), m_game.playerIn(slot)); });
+    connect(panel, &PlayerPanel::emptyPressed, this, &frmLIVE::putInPlace);
+  }
+  const auto onKey = [this](const QKeySequence& key, auto step) {
+    auto* shortcut = new QShortcut(key, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    shortcut->setAutoRepeat(false);
+    connect(shortcut, &QShortcut::activated, this, [this, step] {
+      if (const auto last = EventCorrection::lastOf(m_game))
+        step(*last);
+    });
+  };
+  onKey(kCorrect, [this](const EventPlace& event) { correct(event); });
+  onKey(Qt::SHIFT | kCorrect, [this](const EventPlace& event) {
+    if (m_correction->begin(event))
+      m_correction->toggleMade();
+  });
+  onKey(Qt::CTRL | kCorrect, [this](const EventPlace& event) {
+    if (m_correction->begin(event))
+      m_correction->toggleThree();
+  });
+}
+
+void frmLIVE::correct(const EventPlace& event) {
+  m_game.writePending();
+  m_notices->message().withdraw();
+  m_bench->clearSelection();
+  if (m_correction->begin(event)) {
+    m_events->choose(event);
+    showSelected();
+  }
+}
+
+void frmLIVE::addPlayer(int team) {
+  if (!m_game.canRecord())
+    return;
+  const auto add = [this, team](const std::string& jersey, const std::string& name) {
+    const NewPlayer added = m_game.addPlayer(team, jersey, name);
+    const QString words = toQt(added.words(m_game.game(), m_texts));
+    if (!added.isAdded())
+      return words;
+    showGame();
+    m_notices->message().say(words);
+    return QString();
+  };
+  frmPLAYER(toQt(m_game.game().details.abbreviation[team]), add, m_texts, this).exec();
+}
+
+// A player of the bench who is selected comes into an empty place; where nobody is, several can be chosen.
+void frmLIVE::putInPlace(int slot) {
+  const int player = m_bench->selectedOf(LiveGame::teamOf(slot));
+  if (player == 0)
+    return m_bench->askSeveral();
+  if (!m_game.putInSlot(slot, player))
+    return;
+  m_bench->clearSelection();
+  showGame();
+}
+
+// A game that has not begun opens on the choice of both fives.
+void frmLIVE::askFives() {
+  if (isVisible() && awaitsFive(m_game, 0) && awaitsFive(m_game, 1))
+    m_bench->askSeveral();
+}
+
+void frmLIVE::proposeFives(frmSUBST& several) {
+  for (int team = 0; team < 2; ++team) {
+    if (!awaitsFive(m_game, team))
+      continue;
+    if (const auto last = LastFive::of(m_store.files(), m_game.game(), team))
+      several.propose(team, last->players, toQt(m_texts.withPlaceholder(kLastGame, last->jerseys)),
+                      toQt(last->date + " – " + last->opponent));
+  }
+}
+
+void frmLIVE::tellMissing() {
+  const std::string missing = missingWords(m_game, m_texts);
+  if (isRunning() && !missing.empty())
+    m_notices->message().offer(toQt(missing), caption(m_texts, kSeveral), [this] { m_bench->askSeveral(); });
+}
+
+} // namespace hooptab

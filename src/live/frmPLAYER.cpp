@@ -1,0 +1,78 @@
+#include "live/frmPLAYER.h"
+
+#include "appearance/Fields.h"
+#include "appearance/PlainLabel.h"
+#include "appearance/PlainText.h"
+#include "appearance/relabel.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTitle = 2560;
+constexpr int kNumber = 2587;
+constexpr int kName = 2588;
+constexpr int kAdd = 2589;
+constexpr int kCancel = 1128;
+constexpr int kNumberWidth = 64;
+constexpr int kNameWidth = 260;
+
+} // namespace
+
+frmPLAYER::frmPLAYER(const QString& team, Add add, const Texts& texts, QWidget* parent)
+    : QDialog(parent), m_add(std::move(add)), m_jersey(new QLineEdit(this)), m_name(new QLineEdit(this)),
+      m_problem(new PlainLabel(this)) {
+  setObjectName(QStringLiteral("frmPLAYER"));
+  m_jersey->setObjectName(QStringLiteral("txtJERSEY"));
+  m_jersey->setMaxLength(3);
+  m_jersey->setFixedWidth(kNumberWidth);
+  m_name->setObjectName(QStringLiteral("txtPLAYER"));
+  m_name->setMinimumWidth(kNameWidth);
+  m_problem->setObjectName(QStringLiteral("lblPROBLEM"));
+  m_problem->setForegroundRole(QPalette::BrightText);
+  m_problem->setWordWrap(true);
+  m_problem->setMinimumHeight(2 * m_problem->fontMetrics().height()); // nothing moves when it speaks
+  auto* fields = new QGridLayout;
+  fields->addWidget(captionFor(*m_jersey, kNumber), 0, 0);
+  fields->addWidget(captionFor(*m_name, kName), 0, 1);
+  fields->addWidget(m_jersey, 1, 0);
+  fields->addWidget(m_name, 1, 1);
+  auto* answer = new QPushButton(this);
+  answer->setObjectName(QStringLiteral("cmdADD"));
+  answer->setDefault(true);
+  setTextNumber(*answer, kAdd);
+  auto* cancel = new QPushButton(this);
+  cancel->setObjectName(QStringLiteral("cmdCANCEL"));
+  cancel->setAutoDefault(false);
+  setTextNumber(*cancel, kCancel);
+  connect(answer, &QPushButton::clicked, this, &frmPLAYER::accept);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  auto* answers = new QHBoxLayout;
+  answers->addStretch();
+  answers->addWidget(answer);
+  answers->addWidget(cancel);
+  auto* layout = new QVBoxLayout(this);
+  layout->addLayout(fields);
+  layout->addWidget(m_problem);
+  layout->addLayout(answers);
+  relabel(*this, texts);
+  setWindowTitle(QStringLiteral("%1 – %2").arg(caption(texts, kTitle), asTitle(team)));
+}
+
+void frmPLAYER::accept() {
+  const QString problem = m_add(fromQt(m_jersey->text()), fromQt(m_name->text()));
+  if (problem.isEmpty())
+    return QDialog::accept();
+  m_problem->setText(problem);
+  m_jersey->setFocus();
+  m_jersey->selectAll();
+}
+
+} // namespace hooptab
