@@ -14,11 +14,8 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kIconSize = 24;
-constexpr double kCaptionScale = 0.9;
-
-// The words under the icons: the whole captions, which menus and tool tips show, would not fit side by side.
-// Printing and closing come three times and are known by their icons alone.
+// The words beside the icons of the mode that is on: the whole captions, which menus and tool tips show,
+// would not fit side by side. Printing and closing come three times and are known by their icons alone.
 struct ShortCaption {
   std::string_view key;
   int text;
@@ -54,12 +51,8 @@ CommandBar::CommandBar(QMainWindow& window) : QObject(&window), m_window(window)
   m_toolBar->setObjectName(QStringLiteral("Toolbar1"));
   m_toolBar->setMovable(false);
   m_toolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it would only offer to hide the tool bar
-  m_toolBar->setIconSize({kIconSize, kIconSize});
-  m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  QFont small = m_toolBar->font(); // so that all commands stand side by side on a screen 1366 wide
-  small.setPointSizeF(small.pointSizeF() * kCaptionScale);
-  m_toolBar->setFont(small);
-  window.addToolBar(m_toolBar);
+  m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  m_toolBar->setFloatable(false);
 
   // Drop-downs first, since an entry may stand in the table of one that is itself an entry.
   for (const Command& command : commands()) {
@@ -80,7 +73,8 @@ CommandBar::CommandBar(QMainWindow& window) : QObject(&window), m_window(window)
       group->addAction(action);
     }
     if (command.parent.empty()) {
-      addButton(command);
+      if (command.kind != CommandKind::Menu && hasEntries(command))
+        dropDown(command.key).addAction(action);
       continue;
     }
     QMenu& parent = dropDown(command.parent);
@@ -117,14 +111,10 @@ void CommandBar::addButton(const Command& command) {
   m_toolBar->addAction(&action);
   auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(&action));
   button->setObjectName(QStringLiteral("button_") + toQt(command.key));
-  if (shortCaption(command, stateOf(command, {})) == kIconAlone)
-    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
   if (command.kind == CommandKind::Menu) {
     button->setPopupMode(QToolButton::InstantPopup);
   } else if (hasEntries(command)) {
-    QMenu& menu = dropDown(command.key);
-    menu.addAction(&action);
-    button->setMenu(&menu);
+    button->setMenu(&dropDown(command.key));
     button->setPopupMode(QToolButton::MenuButtonPopup);
   }
 }
@@ -142,6 +132,36 @@ void CommandBar::show(const Modes& modes, const Texts& texts) {
     relabel(action, texts);
     const int shortText = shortCaption(command, state);
     action.setIconText(caption(texts, shortText == kIconAlone ? state.text : shortText));
+  }
+  placeButtons(modes);
+}
+
+// Anew where another mode has begun or ended: an action that were hidden would be so in the menus, too.
+void CommandBar::placeButtons(const Modes& modes) {
+  QStringList keys;
+  for (const Command& command : commands()) {
+    if (hasButton(command, modes))
+      keys << toQt(command.key);
+  }
+  if (keys != m_buttons) {
+    m_buttons = keys;
+    m_toolBar->clear();
+    for (const Command& command : commands()) {
+      if (hasButton(command, modes))
+        addButton(command);
+    }
+  }
+  // The window in front has its commands in words; with none, those that lead to a first one have.
+  for (const Command& command : commands()) {
+    auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(&action(command.key)));
+    if (button == nullptr)
+      continue;
+    const bool isOfFront = command.group == modes.inFront ||
+                           (command.group == CommandGroup::LiveOrManual &&
+                            (modes.inFront == CommandGroup::Live || modes.inFront == CommandGroup::Manual));
+    const bool hasWords = isOfFront && command.key != "SETTINGS" && command.key != "HELP" &&
+                          shortCaption(command, stateOf(command, modes)) != kIconAlone;
+    button->setToolButtonStyle(hasWords ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
   }
 }
 

@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 class QAction;
 class QMainWindow;
@@ -21,8 +22,9 @@ class CommandBar : public QObject {
   Q_OBJECT
 
  public:
-  // Adds the tool bar to the window, which owns it.
+  // The window owns all actions. Where the tool bar stands is for others to say.
   explicit CommandBar(QMainWindow& window);
+  [[nodiscard]] QToolBar& toolBar() const { return *m_toolBar; }
 
   // By command key; the action of a Menu is that of its menu.
   [[nodiscard]] QAction& action(std::string_view key) const;
@@ -38,10 +40,12 @@ class CommandBar : public QObject {
  private:
   QAction* makeAction(const Command& command);
   void addButton(const Command& command);
+  void placeButtons(const Modes& modes);
 
   QMainWindow& m_window;
   QToolBar* m_toolBar = nullptr;
   QHash<QString, QAction*> m_actions;
+  QStringList m_buttons; // keys of those in the tool bar
   QHash<QString, QMenu*> m_dropDowns;
 };
 

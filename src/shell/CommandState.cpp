@@ -61,4 +61,20 @@ CommandState stateOf(const Command& command, const Modes& modes) {
   return state;
 }
 
+bool hasButton(const Command& command, const Modes& modes) {
+  if (!command.parent.empty())
+    return false;
+  const bool hasLive = modes.live != LiveClock::NoGame;
+  switch (command.group) {
+  case CommandGroup::Always:
+  case CommandGroup::StartOfInput: return true;
+  case CommandGroup::Scorecard: return modes.hasScorecard;
+  case CommandGroup::Season: return modes.hasSeason;
+  case CommandGroup::Live: return hasLive;
+  case CommandGroup::Manual: return modes.hasManual;
+  case CommandGroup::LiveOrManual: return hasLive || modes.hasManual;
+  }
+  return true;
+}
+
 } // namespace hooptab

@@ -12,6 +12,8 @@ namespace hooptab {
 enum class LiveClock : std::uint8_t { NoGame, Stopped, Running };
 
 struct Modes {
+  CommandGroup inFront =
+      CommandGroup::Always; // of the window in front; Always: none with commands of its own
   bool hasScorecard = false;
   bool scorecardByLine = false;
   bool scorecardHidesMadeAttempted = false;
@@ -30,6 +32,8 @@ struct CommandState {
   std::string_view icon;
 };
 
+// Whether the tool bar has a button for it: what every mode has, and what belongs to a mode that is on.
+[[nodiscard]] bool hasButton(const Command& command, const Modes& modes);
 // A menu is enabled when one of its entries is.
 [[nodiscard]] CommandState stateOf(const Command& command, const Modes& modes);
 

@@ -5,6 +5,7 @@
 #include "appearance/GameHold.h"
 #include "appearance/Icons.h"
 #include "appearance/PlainLabel.h"
+#include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/frmCOULEURS.h"
 #include "appearance/relabel.h"
@@ -30,16 +31,19 @@
 #include "teams/frmEQUIPES.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QToolBar>
 #include <algorithm>
 #include <chrono>
 #include <memory>
@@ -52,6 +56,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int kStatusMargin = 8;
+constexpr int kTopMargin = 6;
 constexpr int kHighlight = 1416;
 constexpr int kReportOption = 1417;
 constexpr int kErrorTitle = 1060;
@@ -117,8 +122,13 @@ MDI::MDI(const Workshop& workshop)
                               m_workshop.settings, this);
   m_exports = new WindowExports(*m_output, m_workshop.texts, this);
   auto* tables = new QMenu(this);
-  m_menu = new MainMenu(*this, *m_area, *m_commands, *recent, *samples, *tables);
+  auto* bar = new QMenuBar;
+  bar->setObjectName(QStringLiteral("menuBar"));
+  m_menu = new MainMenu(*this, *bar, *m_area, *m_commands, *recent, *samples, *tables);
   m_menu->showColours(Theme::current());
+  m_menu->showZoom(m_workshop.memory.zoom());
+  Theme::setCourtStrength(m_workshop.memory.courtIsCalm() ? CourtStrength::Calm : CourtStrength::AsSet);
+  setMenuWidget(makeTop(*bar));
 
   m_pages = new QStackedWidget(this);
   m_pages->addWidget(new WelcomePage(m_commands->action("VwOPEN"), *recent, *samples, this));
@@ -136,6 +146,7 @@ MDI::MDI(const Workshop& workshop)
 
   connect(m_commands, &CommandBar::asked, this, &MDI::carryOut);
   connect(m_menu, &MainMenu::coloursChosen, this, &MDI::switchColours);
+  connect(m_menu, &MainMenu::zoomChosen, this, &MDI::switchZoom);
   connect(recent, &GameMenu::chosen, this, &MDI::openGame);
   connect(samples, &GameMenu::chosen, this, &MDI::openGame);
   connect(m_menu, &MainMenu::fileMenuShown, this, [this, tables] {
@@ -160,6 +171,51 @@ MDI::MDI(const Workshop& workshop)
   m_keypad.take(m_workshop.memory.keyChoices());
   relabelEverything();
   restorePlace();
+}
+
+// Menu and tools in one row, which leaves a line more to what is recorded.
+QWidget* MDI::makeTop(QMenuBar& bar) {
+  auto* top = new QWidget(this);
+  top->setObjectName(QStringLiteral("top"));
+  top->setAutoFillBackground(true);
+  top->setBackgroundRole(QPalette::AlternateBase);
+  bar.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  auto* row = new QHBoxLayout(top);
+  row->setContentsMargins(kTopMargin, 0, kTopMargin, 0);
+  row->setSpacing(kTopMargin);
+  row->addWidget(&bar, 0, Qt::AlignVCenter);
+  row->addStretch();
+  row->addWidget(&m_commands->toolBar(), 0, Qt::AlignVCenter);
+  return top;
+}
+
+void MDI::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  applyMeasure();
+}
+
+void MDI::applyMeasure() {
+  const bool isWide = width() >= Measure::kWideWidth && height() >= Measure::kWideHeight;
+  const Measure measure(isWide, m_workshop.memory.zoom());
+  if (measure == Theme::measure())
+    return;
+  Theme::setMeasure(*qApp, measure);
+  for (ChildWindow* child : m_area->windows())
+    child->applyColours();
+}
+
+void MDI::switchZoom(int percent) {
+  m_workshop.memory.rememberZoom(percent);
+  m_menu->showZoom(percent);
+  applyMeasure();
+}
+
+// Of the window in front, when it fills the area and has no title of its own.
+void MDI::showTitle() {
+  const QString name = QStringLiteral("HOOPTAB Basketball");
+  const QMdiSubWindow* front = m_area->currentSubWindow();
+  const bool hasNoTitle = front != nullptr && front->isMaximized();
+  setWindowTitle(hasNoTitle ? asTitle(QStringLiteral("%1 - [%2]").arg(name, shownTitle(*front))) : name);
 }
 
 // The area still activates and deactivates its windows while it goes, when this is no longer there to listen.
@@ -534,7 +590,8 @@ void MDI::openColours() {
     switchLanguage();
     window.relabelWindow();
   });
-  connect(&window, &frmCOULEURS::applied, this, [this] {
+  connect(&window, &frmCOULEURS::applied, this, [this, &window] {
+    m_workshop.memory.rememberCourtIsCalm(window.strength() == CourtStrength::Calm);
     for (ChildWindow* child : m_area->windows())
       child->applyColours();
     m_workshop.texts.showNumbers(m_workshop.settings.asksForTextNumbers());
@@ -600,7 +657,27 @@ frmVIEW* MDI::scorecard() const {
   return qobject_cast<frmVIEW*>(m_area->front());
 }
 
+CommandGroup MDI::groupInFront() const {
+  ChildWindow* front = m_area->front();
+  if (qobject_cast<frmVIEW*>(front) != nullptr)
+    return CommandGroup::Scorecard;
+  if (qobject_cast<frmLIVE*>(front) != nullptr)
+    return CommandGroup::Live;
+  if (qobject_cast<frmMANUAL*>(front) != nullptr)
+    return CommandGroup::Manual;
+  return qobject_cast<frmSTATS*>(front) != nullptr ? CommandGroup::Season : CommandGroup::Always;
+}
+
+// The live window has a strip of its own for what there is to say: its room is the panels', unless something
+// has to be told all the same.
+void MDI::showStatusBar() {
+  const bool isLive = groupInFront() == CommandGroup::Live;
+  statusBar()->setVisible(!isLive || !m_unsaved->isHidden() || !m_output->isHidden());
+}
+
 void MDI::showCommands() {
+  showTitle();
+  showStatusBar();
   Modes modes;
   if (const frmVIEW* view = scorecard()) {
     modes.hasScorecard = true;
@@ -611,10 +688,12 @@ void MDI::showCommands() {
   if (const frmLIVE* window = live())
     modes.live = window->isRunning() ? LiveClock::Running : LiveClock::Stopped;
   modes.hasManual = manual() != nullptr;
+  modes.inFront = groupInFront();
   modes.hasSeason = season() != nullptr;
   modes.asksRebounds = m_workshop.settings.asksRebounds;
   modes.keypadIsActive = m_workshop.settings.keypadIsActive;
   m_commands->show(modes, m_workshop.texts);
+  m_menu->showFront(m_area->currentSubWindow() != nullptr, modes.hasScorecard);
   if (m_area->subWindowList().isEmpty())
     m_pages->setCurrentIndex(0);
 }
@@ -661,6 +740,7 @@ void MDI::showWhatIsUnsaved() {
   const bool isUnsaved = !m_workshop.settings.isOnDisk();
   m_unsaved->setText(notSaved());
   m_unsaved->setVisible(isUnsaved);
+  showStatusBar();
   if (!isUnsaved)
     m_retryOfWrites.stop();
   else if (!m_retryOfWrites.isActive())

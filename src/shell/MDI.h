@@ -22,6 +22,7 @@
 
 class QLabel;
 class QMdiSubWindow;
+class QMenuBar;
 class QStackedWidget;
 
 namespace hooptab {
@@ -72,6 +73,7 @@ class MDI : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -101,6 +103,12 @@ class MDI : public QMainWindow {
   void switchKeypad();
   void switchLanguage();
   void switchColours(ColourScheme scheme);
+  void switchZoom(int percent);
+  void applyMeasure();
+  QWidget* makeTop(QMenuBar& bar);
+  void showTitle();
+  void showStatusBar();
+  [[nodiscard]] CommandGroup groupInFront() const;
   void relabelEverything();
 
   void addScorecard(frmVIEW* view);

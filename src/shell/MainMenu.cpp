@@ -5,12 +5,13 @@
 #include "appearance/relabel.h"
 #include "shell/CommandBar.h"
 #include "shell/GameMenu.h"
+#include "shell/WindowArea.h"
 
 #include <QActionGroup>
 #include <QMainWindow>
-#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <algorithm>
 #include <string_view>
 
 namespace hooptab {
@@ -35,12 +36,18 @@ constexpr int kPreviousWindow = 1611;
 constexpr int kTile = 1533;
 constexpr int kCascade = 1534;
 constexpr int kCloseAll = 1535;
+constexpr int kClose = 2598;
+constexpr int kZoom = 2572;
+constexpr int kLarger = 2573;
+constexpr int kSmaller = 2574;
+constexpr int kFill = 2575;
+constexpr int kZooms[] = {90, 100, 110, 125, 150};
 
 } // namespace
 
-MainMenu::MainMenu(QMainWindow& window, QMdiArea& area, const CommandBar& commands, GameMenu& recent,
-                   GameMenu& samples, QMenu& tables)
-    : QObject(&window), m_window(window), m_commands(commands) {
+MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const CommandBar& commands,
+                   GameMenu& recent, GameMenu& samples, QMenu& tables)
+    : QObject(&window), m_window(window), m_bar(bar), m_commands(commands) {
   constexpr const char* kSeparator = "";
 
   QMenu& file = addMenu(kFile, {"VwOPEN"});
@@ -70,6 +77,8 @@ MainMenu::MainMenu(QMainWindow& window, QMdiArea& area, const CommandBar& comman
   QMenu& settings = addMenu(kSettings, {"tbTERRAIN", "tbKEYPAD", kSeparator, "tbLANGUE"});
   QMenu& colours = coloursMenu();
   settings.addMenu(&colours);
+  QMenu& zooms = zoomMenu();
+  settings.addMenu(&zooms);
   addWindowMenu(area);
   QMenu& help = addMenu(kHelp, {"AidHELP", "AidWEB"});
   help.addMenu(&samples);
@@ -79,11 +88,12 @@ MainMenu::MainMenu(QMainWindow& window, QMdiArea& area, const CommandBar& comman
   // The drop-downs of the tool bar offer the same.
   commands.dropDown("VIEW").addMenu(&recent);
   commands.dropDown("SETTINGS").addMenu(&colours);
+  commands.dropDown("SETTINGS").addMenu(&zooms);
   commands.dropDown("HELP").insertMenu(&commands.action("AidABOUT"), &samples);
 }
 
 QMenu& MainMenu::addMenu(int text, std::initializer_list<const char*> keys) {
-  QMenu* menu = m_window.menuBar()->addMenu(QString());
+  QMenu* menu = m_bar.addMenu(QString());
   menu->setToolTipsVisible(true);
   setTextNumber(*menu->menuAction(), text);
   for (const std::string_view key : keys) {
@@ -120,23 +130,75 @@ QMenu& MainMenu::coloursMenu() {
   return *menu;
 }
 
+void MainMenu::showFront(bool isThere, bool hasClose) {
+  m_close->setEnabled(isThere);
+  QList<QKeySequence> keys = {QKeySequence(Qt::CTRL | Qt::Key_F4)};
+  if (!hasClose)
+    keys.prepend(QKeySequence(Qt::CTRL | Qt::Key_W)); // otherwise that command's
+  m_close->setShortcuts(keys);
+}
+
+QMenu& MainMenu::zoomMenu() {
+  auto* menu = new QMenu(&m_window);
+  menu->setObjectName(QStringLiteral("zoom"));
+  menu->setIcon(icon(QStringLiteral("theme")));
+  setTextNumber(*menu->menuAction(), kZoom);
+  m_zooms = new QActionGroup(this);
+  for (const int percent : kZooms) {
+    QAction* action = menu->addAction(QStringLiteral("%1 %").arg(percent));
+    action->setObjectName(QStringLiteral("zoom%1").arg(percent));
+    action->setData(percent);
+    action->setCheckable(true);
+    m_zooms->addAction(action);
+  }
+  connect(m_zooms, &QActionGroup::triggered, this,
+          [this](QAction* action) { emit zoomChosen(action->data().toInt()); });
+  menu->addSeparator();
+  const auto addStep = [&](const char* name, int text, const QString& key, int step) {
+    QAction& action = addAction(*menu, name, text, key);
+    connect(&action, &QAction::triggered, this, [this, step] {
+      const QList<QAction*> zooms = m_zooms->actions();
+      const qsizetype now = zooms.indexOf(m_zooms->checkedAction());
+      zooms[std::clamp<qsizetype>(now + step, 0, zooms.size() - 1)]->trigger();
+    });
+  };
+  addStep("zoomLarger", kLarger, QStringLiteral("Ctrl++"), 1);
+  addStep("zoomSmaller", kSmaller, QStringLiteral("Ctrl+-"), -1);
+  return *menu;
+}
+
+void MainMenu::showZoom(int percent) {
+  for (QAction* action : m_zooms->actions())
+    action->setChecked(action->data().toInt() == percent);
+}
+
 void MainMenu::showColours(ColourScheme scheme) {
   (scheme == ColourScheme::Dark ? m_dark : m_light)->setChecked(true);
 }
 
-void MainMenu::addWindowMenu(QMdiArea& area) {
+void MainMenu::addWindowMenu(WindowArea& area) {
   QMenu& menu = addMenu(kWindow, {});
   QAction& next = addAction(menu, "windowNext", kNextWindow, QStringLiteral("Ctrl+F6"));
   QAction& previous = addAction(menu, "windowPrevious", kPreviousWindow, QStringLiteral("Ctrl+Shift+F6"));
   menu.addSeparator();
+  QAction& fill = addAction(menu, "windowFill", kFill);
   QAction& tile = addAction(menu, "windowTile", kTile);
   QAction& cascade = addAction(menu, "windowCascade", kCascade);
+  m_close = &addAction(menu, "windowClose", kClose);
   QAction& closeAll = addAction(menu, "windowCloseAll", kCloseAll);
   QAction* beforeWindows = menu.addSeparator();
   connect(&next, &QAction::triggered, &area, &QMdiArea::activateNextSubWindow);
   connect(&previous, &QAction::triggered, &area, &QMdiArea::activatePreviousSubWindow);
-  connect(&tile, &QAction::triggered, &area, &QMdiArea::tileSubWindows);
-  connect(&cascade, &QAction::triggered, &area, &QMdiArea::cascadeSubWindows);
+  connect(&fill, &QAction::triggered, &area, &WindowArea::fill);
+  connect(&tile, &QAction::triggered, &area, [&area] {
+    area.frame();
+    area.tileSubWindows();
+  });
+  connect(&cascade, &QAction::triggered, &area, [&area] {
+    area.frame();
+    area.cascadeSubWindows();
+  });
+  connect(m_close, &QAction::triggered, &area, &QMdiArea::closeActiveSubWindow);
   connect(&closeAll, &QAction::triggered, &area, &QMdiArea::closeAllSubWindows);
 
   // The open windows by name, made anew each time: titles change with score and language.

@@ -8,38 +8,48 @@
 #include <QObject>
 
 class QAction;
+class QActionGroup;
 class QMainWindow;
-class QMdiArea;
 class QMenu;
+class QMenuBar;
 
 namespace hooptab {
 
 class CommandBar;
 class GameMenu;
+class WindowArea;
 
 class MainMenu : public QObject {
   Q_OBJECT
 
  public:
-  MainMenu(QMainWindow& window, QMdiArea& area, const CommandBar& commands, GameMenu& recent,
+  MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const CommandBar& commands, GameMenu& recent,
            GameMenu& samples, QMenu& tables);
 
   void showColours(ColourScheme scheme);
+  void showZoom(int percent);
+  // Of the window in front: whether there is one, and whether a command of its own closes it.
+  void showFront(bool isThere, bool hasClose);
 
  signals:
+  void zoomChosen(int percent);
   void coloursChosen(ColourScheme scheme);
   void fileMenuShown(); // about to be, so that `tables` can be filled
 
  private:
   QMenu& addMenu(int text, std::initializer_list<const char*> keys);
   QMenu& coloursMenu();
-  void addWindowMenu(QMdiArea& area);
+  QMenu& zoomMenu();
+  void addWindowMenu(WindowArea& area);
   QAction& addAction(QMenu& menu, const char* name, int text, const QString& shortcut = {});
 
   QMainWindow& m_window;
+  QMenuBar& m_bar;
   const CommandBar& m_commands;
   QAction* m_light = nullptr;
   QAction* m_dark = nullptr;
+  QAction* m_close = nullptr;
+  QActionGroup* m_zooms = nullptr;
 };
 
 } // namespace hooptab

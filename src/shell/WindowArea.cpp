@@ -9,10 +9,14 @@
 
 namespace hooptab {
 
-WindowArea::WindowArea(WindowMemory& memory, QWidget* parent) : QMdiArea(parent), m_memory(memory) {}
+WindowArea::WindowArea(WindowMemory& memory, QWidget* parent) : QMdiArea(parent), m_memory(memory) {
+  setBackground(Qt::NoBrush); // that of the window, in every look
+  setFrameShape(QFrame::NoFrame);
+}
 
 void WindowArea::add(ChildWindow& child) {
   QMdiSubWindow* window = addSubWindow(&child);
+  connect(&child, &QWidget::windowTitleChanged, this, &WindowArea::changed);
   window->setAttribute(Qt::WA_DeleteOnClose);
   const std::string name = fromQt(child.objectName());
   child.restoreArrangement(QByteArray::fromBase64(QByteArray::fromStdString(m_memory.layout(name))));
@@ -23,12 +27,34 @@ void WindowArea::add(ChildWindow& child) {
   // Queued: by then the area has forgotten the window around it, whose own connections it cuts.
   connect(&child, &QObject::destroyed, this, &WindowArea::changed, Qt::QueuedConnection);
   emit added(child);
-  const bool isFirst = subWindowList().size() == 1;
-  if (isFirst || currentSubWindow()->isMaximized())
-    window->showMaximized();
-  else
-    window->show();
+  if (subWindowList().size() == 1)
+    m_isFilled = true;
+  dress(*window);
   emit changed();
+}
+
+void WindowArea::dress(QMdiSubWindow& window) const {
+  window.setWindowFlag(Qt::FramelessWindowHint, m_isFilled);
+  if (m_isFilled)
+    window.showMaximized();
+  else
+    window.showNormal();
+}
+
+void WindowArea::fill() {
+  m_isFilled = true;
+  QMdiSubWindow* const front = currentSubWindow();
+  for (QMdiSubWindow* window : subWindowList())
+    dress(*window);
+  setActiveSubWindow(front);
+}
+
+void WindowArea::frame() {
+  m_isFilled = false;
+  QMdiSubWindow* const front = currentSubWindow();
+  for (QMdiSubWindow* window : subWindowList())
+    dress(*window);
+  setActiveSubWindow(front);
 }
 
 void WindowArea::bringToFront(ChildWindow& child) {

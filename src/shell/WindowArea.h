@@ -17,8 +17,10 @@ class WindowArea : public QMdiArea {
  public:
   WindowArea(WindowMemory& memory, QWidget* parent); // memory must outlive it
 
-  // Owns it from now on. Sized as the windows that are there; the first one fills the area.
+  // Owns it from now on. Fills the area, unless the windows stand side by side.
   void add(ChildWindow& child);
+  void fill();  // each of them the whole area, without a frame
+  void frame(); // before they are tiled: each with a title to take hold of
   void bringToFront(ChildWindow& child);
 
   [[nodiscard]] QList<ChildWindow*> windows() const;
@@ -39,7 +41,10 @@ class WindowArea : public QMdiArea {
   void changed();                          // one was shown, or has gone and is forgotten
 
  private:
+  void dress(QMdiSubWindow& window) const;
+
   WindowMemory& m_memory;
+  bool m_isFilled = true;
 };
 
 } // namespace hooptab

@@ -1,5 +1,6 @@
 #include "shell/WindowMemory.h"
 
+#include "appearance/Measure.h"
 #include "storage/Module1.h"
 #include "storage/codepage.h"
 
@@ -101,6 +102,23 @@ std::optional<ColourScheme> WindowMemory::colourScheme() {
 
 void WindowMemory::rememberColourScheme(ColourScheme scheme) {
   write(kChoices, "COLOURS", scheme == ColourScheme::Dark ? "dark" : "light");
+}
+
+int WindowMemory::zoom() {
+  const int percent = Module1::leadingNumber(value(kChoices, "ZOOM"));
+  return percent == 0 ? 100 : std::clamp(percent, Measure::kLeastZoom, Measure::kMostZoom);
+}
+
+void WindowMemory::rememberZoom(int percent) {
+  write(kChoices, "ZOOM", std::to_string(percent));
+}
+
+bool WindowMemory::courtIsCalm() {
+  return value(kChoices, "COURT") != "as set";
+}
+
+void WindowMemory::rememberCourtIsCalm(bool isCalm) {
+  write(kChoices, "COURT", isCalm ? "calm" : "as set");
 }
 
 int WindowMemory::refreshSeconds() {

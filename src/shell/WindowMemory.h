@@ -31,6 +31,11 @@ class WindowMemory {
 
   [[nodiscard]] std::optional<ColourScheme> colourScheme();
   void rememberColourScheme(ColourScheme scheme);
+  [[nodiscard]] int zoom(); // percent; 100 where none was chosen
+  void rememberZoom(int percent);
+  // Whether the court is painted calmer than its colours were set; at first it is.
+  [[nodiscard]] bool courtIsCalm();
+  void rememberCourtIsCalm(bool isCalm);
   // Seconds between automatic refreshes of a scorecard: 10, 30, 60, or 0 for none.
   [[nodiscard]] int refreshSeconds();
   void rememberRefreshSeconds(int seconds);

@@ -20,8 +20,8 @@ std::vector<Modes> allModes() {
   for (unsigned bits = 0; bits < 128; ++bits)
     for (const int seconds : {0, 10, 30, 60})
       for (const LiveClock live : {LiveClock::NoGame, LiveClock::Stopped, LiveClock::Running})
-        all.push_back({(bits & 1U) != 0, (bits & 2U) != 0, (bits & 4U) != 0, seconds, (bits & 8U) != 0, live,
-                       (bits & 16U) != 0, (bits & 32U) != 0, (bits & 64U) != 0});
+        all.push_back({CommandGroup::Always, (bits & 1U) != 0, (bits & 2U) != 0, (bits & 4U) != 0, seconds,
+                       (bits & 8U) != 0, live, (bits & 16U) != 0, (bits & 32U) != 0, (bits & 64U) != 0});
   return all;
 }
 
