@@ -4,12 +4,15 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 
 namespace hooptab {
 
 namespace {
 
 constexpr int kSlotsOfTeam = 5;
+// Longer than the program holds a whole number back, lest a digit follow.
+constexpr std::chrono::milliseconds kUntilTaken{600};
 
 struct KeyName {
   int code;
@@ -39,12 +42,12 @@ bool isFollowUp(EventCode code) {
   return code == EventCode::SA || code == EventCode::SOR || code == EventCode::SDR;
 }
 
-// Of those who come or go.
-std::size_t keysFor(const std::vector<std::string>& numbers) {
+// Of those who come or go, each with the keys of action and team; two who are exchanged share both.
+std::size_t keysFor(const std::vector<std::string>& numbers, std::size_t exchanged = 0) {
   std::size_t keys = 0;
   for (const std::string& number : numbers)
     keys += number.size() + 2;
-  return keys;
+  return keys - 2 * exchanged;
 }
 
 } // namespace
@@ -158,8 +161,11 @@ std::string KeypadHand::answer(const GameEvent& event, const std::string& form) 
   type(number);
   Program& program = m_table.program;
   const auto isOpen = [&] { return program.isShown(form); };
-  waitUntil("the number is taken, or shown",
-            [&] { return !isOpen() || program.typedIn(form + "/") == number; });
+  const auto shownFor = m_table.person.lastPress() + kUntilTaken;
+  waitUntil("the number is taken, or stays", [&] {
+    return !isOpen() ||
+           (std::chrono::steady_clock::now() > shownFor && program.typedIn(form + "/") == number);
+  });
   const bool isClear = !isOpen();
   if (!isClear) {
     m_table.camera.take("equal-numbers");
@@ -182,18 +188,31 @@ std::string KeypadHand::substitute(const OnCourt& wanted) {
     const auto leaving = numbersOf(team, before[place] & ~wanted[place]);
     const auto arriving = numbersOf(team, wanted[place] & ~before[place]);
     coming += static_cast<int>(arriving.size());
-    if (!leaving.empty() && 2 + keysFor(all) < keysFor(leaving) + keysFor(arriving)) {
+    const std::size_t exchanged = std::min(leaving.size(), arriving.size());
+    if (!leaving.empty() && 2 + keysFor(all) < keysFor(leaving, exchanged) + keysFor(arriving)) {
       press(KeypadAction::All);
       confirm(team);
       move(team, all, KeypadAction::IN);
     } else {
-      move(team, leaving, KeypadAction::OUT);
-      move(team, arriving, KeypadAction::IN);
+      for (std::size_t pair = 0; pair < exchanged; ++pair)
+        exchange(team, leaving[pair], arriving[pair]);
+      move(team, {leaving.begin() + static_cast<std::ptrdiff_t>(exchanged), leaving.end()},
+           KeypadAction::OUT);
+      move(team, {arriving.begin() + static_cast<std::ptrdiff_t>(exchanged), arriving.end()},
+           KeypadAction::IN);
     }
   }
   m_table.recorded.waitUntil("who stands on court",
                              [&](const Game&) { return m_table.recorded.onCourt() == wanted; });
   return "substitution of " + std::to_string(coming);
+}
+
+void KeypadHand::exchange(int team, const std::string& leaving, const std::string& arriving) {
+  type(leaving);
+  press(KeypadAction::OUT);
+  type(arriving);
+  m_table.camera.take("exchange");
+  confirm(team);
 }
 
 void KeypadHand::move(int team, const std::vector<std::string>& numbers, KeypadAction action) {

@@ -1,6 +1,6 @@
 // Enters by the keys of a numeric keypad alone, as one does who knows them by heart: number, action, team.
-// Numbers without their zeros; what a question asks for by the number alone; five who come after all have
-// left, where that is shorter.
+// Numbers without their zeros; what a question asks for by the number alone; who leaves with who comes for
+// him, or five who come after all have left, where that is shorter.
 #pragma once
 
 #include "Hand.h"
@@ -35,6 +35,7 @@ class KeypadHand : public Hand {
   std::string shoot(const GameEvent& event);
   std::string answer(const GameEvent& event, const std::string& form);
   [[nodiscard]] bool isOffered(const GameEvent& event, const std::string& form);
+  void exchange(int team, const std::string& leaving, const std::string& arriving);
   void move(int team, const std::vector<std::string>& numbers, KeypadAction action);
 
   Table m_table;

@@ -151,7 +151,8 @@ std::string MouseHand::recordOnBench(const GameEvent& event) {
   const bool isTechnical = event.code == EventCode::STF;
   if (!isTechnical && event.code != EventCode::SPF)
     throw ReplayFailure("he is not on court");
-  click("picBENCH/" + element("cmdJERSEY", event.player.team * kPlaces + entryOf(event) - 1));
+  click(element("picROSTER", event.player.team) + "/" +
+        element("cmdJERSEY", event.player.team * kPlaces + entryOf(event) - 1));
   m_table.program.waitUntilShown("picSELECTED");
   click(isTechnical ? "cmdSELTF" : "cmdSELPF");
   return "foul of the bench";
@@ -265,7 +266,8 @@ void MouseHand::substituteOneByOne(const OnCourt& wanted) {
 
 void MouseHand::clickRoster(std::size_t team, unsigned entries) {
   for (const int entry : entriesOf(entries)) {
-    click("picBENCH/" + element("cmdJERSEY", static_cast<int>(team) * kPlaces + entry - 1));
+    const int side = static_cast<int>(team);
+    click(element("picROSTER", side) + "/" + element("cmdJERSEY", side * kPlaces + entry - 1));
     std::this_thread::sleep_for(kLook);
   }
 }

@@ -109,6 +109,9 @@ void openForInput(const Table& table) {
   table.program.waitUntilActive("fileNameEdit");
   table.person.type(table.recorded.path());
   table.person.press("Return");
+  // A game that has not begun asks for both fives: here they come as the events tell them.
+  table.program.waitUntilActive("frmSUBST/cmdCANCEL");
+  table.person.press("Escape");
   table.program.waitUntilActive("frmLIVE");
 }
 
