@@ -1,5 +1,6 @@
 #include "live/PlayerPanel.h"
 
+#include "appearance/ArrowFocus.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
@@ -83,6 +84,12 @@ PlayerPanel::PlayerPanel(int slot, const Settings& settings, const Texts& texts,
           [this](const QPointF& place, bool isMade) { emit courtPressed(m_slot, place, isMade); });
   makeActions();
   makeShots();
+  std::vector<QWidget*> buttons;
+  for (const ActionControls& controls : kActionControls)
+    buttons.push_back(m_buttons[controls.code]);
+  for (int i = 0; i < kShotButtons; ++i)
+    buttons.push_back(m_buttons[kShotControls[static_cast<std::size_t>(i)].code]);
+  new ArrowFocus(std::move(buttons), this);
   relabelPanel();
   applyColours();
 }

@@ -1,5 +1,6 @@
 #include "live/RosterStrip.h"
 
+#include "appearance/ArrowFocus.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/JerseyButton.h"
@@ -62,13 +63,15 @@ RosterStrip::RosterStrip(int team, const Texts& texts, QWidget* parent)
   setToolTipNumber(*m_add, kAddPlayer);
   setAccessibleNumber(*m_add, kAddPlayer);
   connect(m_add, &QPushButton::clicked, this, [this] { emit playerAsked(m_team); });
-  for (QPushButton* button : {m_allOut, m_add})
-    button->setFocusPolicy(Qt::TabFocus);
   for (int place = 0; place < kPlaces; ++place) {
     auto* button = new JerseyButton(jerseyButtonName(team * kPlaces + place), {}, this);
     connect(button, &JerseyButton::pressed, this, [this, place] { emit pressed(m_team, place + 1); });
     m_players[static_cast<std::size_t>(place)] = button;
   }
+  std::vector<QWidget*> stops = {m_allOut};
+  stops.insert(stops.end(), m_players.begin(), m_players.end());
+  stops.push_back(m_add);
+  new ArrowFocus(std::move(stops), this);
   hooptab::relabel(*this, texts);
 }
 

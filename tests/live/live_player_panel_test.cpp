@@ -139,6 +139,30 @@ TEST_F(PlayerPanelTest, TextOnButtonsStandsOutFromTheirColour) {
   }
 }
 
+// One stop of the Tab key; inside, the arrows lead where they point.
+TEST_F(PlayerPanelTest, ArrowsLeadThroughTheButtons) {
+  int stops = 0;
+  for (const auto* button : full.findChildren<StatButton*>())
+    stops += button->focusPolicy() == Qt::TabFocus ? 1 : 0;
+  EXPECT_EQ(stops, 1);
+  full.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&full));
+  find(full, "cmdBUTF(3)").setFocus();
+  const auto go = [&](Qt::Key key) {
+    QTest::keyClick(QApplication::focusWidget(), key);
+    return QApplication::focusWidget()->objectName().toStdString();
+  };
+  EXPECT_EQ(go(Qt::Key_Right), "cmdBUTTF(3)");
+  EXPECT_EQ(go(Qt::Key_Right), "cmdBUTTF(3)") << "there is nothing";
+  EXPECT_EQ(go(Qt::Key_Down), "cmdBUTDRB(3)");
+  EXPECT_EQ(go(Qt::Key_Left), "cmdBUTORB(3)");
+  for (int row = 0; row < 3; ++row)
+    go(Qt::Key_Down);
+  EXPECT_EQ(go(Qt::Key_Down), "cmdBUTPB(3)") << "the shots below";
+  EXPECT_EQ(find(full, "cmdBUTPB(3)").focusPolicy(), Qt::TabFocus);
+  EXPECT_EQ(find(full, "cmdBUTF(3)").focusPolicy(), Qt::NoFocus);
+}
+
 TEST_F(PlayerPanelTest, ButtonsSayWhatTheyRecordWhenTheyArePressed) {
   QSignalSpy shots(&full, &PlayerPanel::shotPressed);
   QSignalSpy actions(&full, &PlayerPanel::actionPressed);
