@@ -18,6 +18,8 @@ namespace {
 
 constexpr double kRadius = 6;
 constexpr double kCardRadius = 8;
+constexpr int kCardMargin = 10;
+constexpr int kFieldMargin = 3; // beside a field's text
 constexpr int kFocus = 2;
 constexpr int kSelectionEdge = 3;
 constexpr int kArrow = 4;          // half its width
@@ -465,6 +467,8 @@ QRect ProgramStyle::subControlRect(ComplexControl control, const QStyleOptionCom
   if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
       control == CC_ToolButton && button != nullptr && part == SC_ToolButtonMenu && hasMenuArrow(*button))
     return option->rect.adjusted(option->rect.width() - kMenuArrow - 4, 0, 0, 0);
+  if (control == CC_GroupBox && part == SC_GroupBoxLabel) // inside the card
+    return QProxyStyle::subControlRect(control, option, part, widget).translated(kCardMargin, 2);
   const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
   if (control != CC_ScrollBar || slider == nullptr)
     return QProxyStyle::subControlRect(control, option, part, widget);
@@ -492,6 +496,15 @@ QRect ProgramStyle::subControlRect(ComplexControl control, const QStyleOptionCom
   case SC_ScrollBarAddPage: return along(start + length, room - start - length);
   default: return {};
   }
+}
+
+QRect ProgramStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                   const QWidget* widget) const {
+  const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+  const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+  if (element != SE_LineEditContents || frame == nullptr || frame->lineWidth == 0)
+    return rect;
+  return rect.adjusted(kFieldMargin, 0, -kFieldMargin, 0);
 }
 
 int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

@@ -22,6 +22,7 @@ constexpr int kSubstitutionTip = 1945;
 constexpr int kSeveral = 1946;
 constexpr int kSeveralTip = 1947;
 constexpr int kPlacesStay = 2586;
+constexpr int kIcon = 16;
 
 QToolButton* buttonFor(QAction& action, const char* name, QWidget* parent) {
   auto* button = new QToolButton(parent);
@@ -29,6 +30,7 @@ QToolButton* buttonFor(QAction& action, const char* name, QWidget* parent) {
   button->setDefaultAction(&action);
   button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   button->setFocusPolicy(Qt::TabFocus);
+  button->setIconSize({kIcon, kIcon});
   button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
   return button;
 }
@@ -62,19 +64,21 @@ QWidget* BenchPanel::makeCommands(QWidget* sides) {
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(4);
-  const auto addCommand = [&](const char* name, int text, int toolTip, Qt::Key key, const char* iconName) {
+  // The first word is longer in every language.
+  const auto addCommand = [&](const char* name, int text, int toolTip, Qt::Key key, const char* iconName,
+                              int stretch) {
     auto* action = new QAction(icon(QLatin1String(iconName)), {}, this);
     setTextNumber(*action, text);
     setToolTipNumber(*action, toolTip);
     action->setShortcut(key);
     action->setAutoRepeat(false);
     addAction(action);
-    layout->addWidget(buttonFor(*action, name, row), 1);
+    layout->addWidget(buttonFor(*action, name, row), stretch);
     return action;
   };
-  m_substitute = addCommand("cmdSUBST", kSubstitution, kSubstitutionTip, Qt::Key_F6, "substitution");
+  m_substitute = addCommand("cmdSUBST", kSubstitution, kSubstitutionTip, Qt::Key_F6, "substitution", 5);
   m_substitute->setCheckable(true);
-  m_several = addCommand("cmdSEVERAL", kSeveral, kSeveralTip, Qt::Key_F4, "several");
+  m_several = addCommand("cmdSEVERAL", kSeveral, kSeveralTip, Qt::Key_F4, "several", 4);
   layout->addWidget(sides);
   m_placesStay = new QAction(this);
   m_placesStay->setObjectName(QStringLiteral("cmdPLACESSTAY"));

@@ -21,9 +21,9 @@ constexpr int kPlaysLeft = 1940;
 constexpr int kHalfTime = 2381;
 constexpr int kRowsStay = 2494;
 
-constexpr int kCourtWidth = 28;
-constexpr int kCourtHeight = 18;
-constexpr int kButtonWidth = 30;
+constexpr int kCourtWidth = 24;
+constexpr int kCourtHeight = 16;
+constexpr int kButtonWidth = 28;
 constexpr int kGap = 4;
 
 } // namespace
