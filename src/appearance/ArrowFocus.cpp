@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QWidget>
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 
@@ -40,6 +41,15 @@ void ArrowFocus::makeStop(QWidget& member) {
   m_stop->setFocusPolicy(Qt::TabFocus);
 }
 
+// The stop is one that can have the focus.
+void ArrowFocus::keepReachable() {
+  const auto canFocus = [](const QWidget* member) { return !member->isHidden() && member->isEnabled(); };
+  if (m_stop != nullptr && canFocus(m_stop))
+    return;
+  if (const auto other = std::ranges::find_if(m_members, canFocus); other != m_members.end())
+    makeStop(**other);
+}
+
 QWidget* ArrowFocus::neighbour(const QWidget& from, int key) const {
   QWidget* nearest = nullptr;
   int least = std::numeric_limits<int>::max();
@@ -59,14 +69,9 @@ bool ArrowFocus::eventFilter(QObject* watched, QEvent* event) {
   auto& member = static_cast<QWidget&>(*watched);
   if (event->type() == QEvent::FocusIn)
     makeStop(member);
-  if (event->type() == QEvent::Hide && &member == m_stop) {
-    for (QWidget* other : m_members) { // the stop is one that can be reached
-      if (!other->isHidden() && other != &member) {
-        makeStop(*other);
-        break;
-      }
-    }
-  }
+  if (event->type() == QEvent::Hide || event->type() == QEvent::EnabledChange ||
+      event->type() == QEvent::Show)
+    keepReachable();
   if (event->type() != QEvent::KeyPress)
     return false;
   const auto& key = static_cast<const QKeyEvent&>(*event);

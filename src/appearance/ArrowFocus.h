@@ -22,6 +22,7 @@ class ArrowFocus : public QObject {
  private:
   [[nodiscard]] QWidget* neighbour(const QWidget& from, int key) const; // or null
   void makeStop(QWidget& member);
+  void keepReachable();
 
   std::vector<QWidget*> m_members;
   QWidget* m_stop = nullptr;

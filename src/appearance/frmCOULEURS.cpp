@@ -288,7 +288,7 @@ bool frmCOULEURS::apply() {
 }
 
 void frmCOULEURS::reject() {
-  if (m_choice != CourtColourChoice::of(m_settings)) {
+  if ((m_choice != CourtColourChoice::of(m_settings) || strength() != Theme::courtStrength())) {
     const SaveChoice answer = m_dialogs.askToSave(this, windowTitle(), caption(m_texts, kAskToSave));
     if (answer == SaveChoice::Stay || (answer == SaveChoice::Save && !apply()))
       return;

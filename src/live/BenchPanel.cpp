@@ -96,6 +96,10 @@ bool BenchPanel::isSubstituting() const {
   return m_substitute->isChecked();
 }
 
+void BenchPanel::stopSubstituting() {
+  m_substitute->setChecked(false);
+}
+
 bool BenchPanel::placesStay() const {
   return m_placesStay->isChecked();
 }

@@ -46,6 +46,7 @@ class BenchPanel : public QWidget {
   // Takes a press on a player before anything else does; false where it has no use for it.
   void setTaker(std::function<bool(int team, int player)> taker) { m_taker = std::move(taker); }
   bool isSubstituting() const;
+  void stopSubstituting();
   bool placesStay() const;
   void setPlacesStay(bool stay);
   void askSeveral(); // in a window of its own

@@ -27,6 +27,11 @@ constexpr int kDelete = 2583;
 constexpr int kLeave = 2584;
 constexpr int kGap = 8;
 
+bool isModifier(int key) {
+  return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr ||
+         key == Qt::Key_Meta || key == Qt::Key_F11; // F11 begins with them
+}
+
 } // namespace
 
 CorrectionBar::CorrectionBar(LiveGame& game, const Texts& texts, QWidget* parent)
@@ -113,6 +118,18 @@ void CorrectionBar::afterStep(Outcome outcome) {
   showStep();
 }
 
+// Whose it is has been answered: the digits that follow are the next event's.
+void CorrectionBar::afterNumber(Outcome outcome) {
+  afterStep(outcome);
+  if (outcome == Outcome::Changed || outcome == Outcome::Same)
+    end();
+}
+
+void CorrectionBar::gameChanged() {
+  if (!isHidden() && !isActive())
+    end();
+}
+
 void CorrectionBar::showStep() {
   if (!isActive())
     return end();
@@ -149,12 +166,12 @@ void CorrectionBar::relabelBar() {
 
 bool CorrectionBar::takeKey(int key) {
   if (key >= Qt::Key_0 && key <= Qt::Key_9) {
-    afterStep(m_correction.type(key - Qt::Key_0));
+    afterNumber(m_correction.type(key - Qt::Key_0));
     return true;
   }
   switch (key) {
   case Qt::Key_Return:
-  case Qt::Key_Enter: afterStep(m_correction.enter()); return true;
+  case Qt::Key_Enter: afterNumber(m_correction.enter()); return true;
   case Qt::Key_Backspace:
     m_correction.takeBackDigit();
     showStep();
@@ -169,7 +186,7 @@ bool CorrectionBar::eventFilter(QObject* watched, QEvent* event) {
   if (isHidden() || !watched->isWidgetType())
     return false;
   const auto& widget = static_cast<const QWidget&>(*watched);
-  if (widget.window() != window())
+  if (&widget != parentWidget() && !parentWidget()->isAncestorOf(&widget))
     return false;
   switch (event->type()) {
   case QEvent::MouseButtonPress:
@@ -184,8 +201,11 @@ bool CorrectionBar::eventFilter(QObject* watched, QEvent* event) {
         isPlain && !isTextField(&widget) &&
         ((key.key() >= Qt::Key_0 && key.key() <= Qt::Key_9) || key.key() == Qt::Key_Return ||
          key.key() == Qt::Key_Enter || key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Escape);
-    if (!isOwn)
+    if (!isOwn) { // whatever else is meant, it is no correction
+      if (event->type() == QEvent::KeyPress && !key.isAutoRepeat() && !isModifier(key.key()))
+        end();
       return false;
+    }
     event->accept();
     return event->type() == QEvent::ShortcutOverride || key.isAutoRepeat() || takeKey(key.key());
   }

@@ -31,6 +31,7 @@ class CorrectionBar : public QFrame {
   EventCorrection::Who whose() const { return isActive() ? m_correction.player() : EventCorrection::Who(); }
   // A press on a player; false where nothing is in correction.
   bool takePlayer(int team, int player);
+  void gameChanged(); // by something else: the event may be gone
   void toggleMade();
   void toggleThree();
   // Widgets on which a press is meant for it.
@@ -47,6 +48,7 @@ class CorrectionBar : public QFrame {
  private:
   QToolButton* makeButton(const char* name, int text);
   void afterStep(EventCorrection::Outcome outcome);
+  void afterNumber(EventCorrection::Outcome outcome);
   bool takeKey(int key);
   void showStep();
 

@@ -31,11 +31,11 @@ MiniCourt::MiniCourt(const Settings& settings, QWidget* parent)
 }
 
 void MiniCourt::applyColours() {
+  m_zones = zoneMapOf(m_settings); // of the colours as they are, which may be worn alike
   const CourtColours colours = wornCourt(CourtColourChoice::of(m_settings).colours);
   if (colours == m_colours)
     return;
   m_colours = colours;
-  m_zones = zoneMapOf(m_settings);
   m_court = {};
   update();
 }

@@ -232,7 +232,7 @@ void PeriodEndCard::applyColours() {
 
 void PeriodEndCard::hideEvent(QHideEvent* event) {
   QFrame::hideEvent(event);
-  if (!event->spontaneous()) {
+  if (isHidden()) { // and not the window around it, which comes back
     m_period = 0;
     emit closed();
   }

@@ -84,6 +84,12 @@ SideSwitch::SideSwitch(const Texts& texts, QWidget* parent)
   layout->addWidget(m_button);
 }
 
+void SideSwitch::begin() {
+  m_game = nullptr;
+  m_team0PlaysRight = false;
+  m_isHalfTimeOver = false;
+}
+
 void SideSwitch::setSides(bool team0PlaysRight, bool rowsStay) {
   m_isHalfTimeOver = m_isHalfTimeOver || team0PlaysRight != m_team0PlaysRight;
   m_team0PlaysRight = team0PlaysRight;

@@ -23,6 +23,7 @@ class SideSwitch : public QWidget {
   // `texts` must outlive it.
   explicit SideSwitch(const Texts& texts, QWidget* parent = nullptr);
 
+  void begin(); // another game, with team 0 on the left
   void setSides(bool team0PlaysRight, bool rowsStay);
   void showGame(const LiveGame& game);
 

@@ -322,6 +322,8 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   m_isSwitched = false;
   m_correction->end();
   m_hasMissed = false;
+  m_sides->begin();
+  m_bench->stopSubstituting();
   m_bench->clearSelection();
   const bool wasClosed = m_game.wasClosedInPlay();
   m_offersClock = true; // where there is one to be chosen
@@ -359,6 +361,7 @@ void frmLIVE::showGame() {
   m_bench->showGame(m_game);
   m_now->showGame(m_game);
   m_now->showPending(pendingWords());
+  m_correction->gameChanged();
   showSelected();
   m_events->showGame(m_game);
   showDisk();
@@ -660,6 +663,12 @@ void frmLIVE::dropEvent(QDropEvent* event) {
     if (LiveGame::teamOf(slot) != team || !panel->rect().contains(place) || player < 1 ||
         player > Roster::kLargestEntry)
       continue;
+    if (m_game.playerIn(slot) == 0) {
+      m_bench->clearSelection();
+      event->acceptProposedAction();
+      (void)m_game.putInSlot(slot, player);
+      return showGame();
+    }
     OnCourt wanted = m_game.onCourt();
     unsigned& entries = wanted[static_cast<std::size_t>(team)];
     if (const int leaving = m_game.playerIn(slot); leaving > 0)

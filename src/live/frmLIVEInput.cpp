@@ -6,6 +6,7 @@
 #include "appearance/relabel.h"
 #include "live/BenchPanel.h"
 #include "live/BenchShot.h"
+#include "live/CorrectionBar.h"
 #include "live/EventRequests.h"
 #include "live/FollowUpBar.h"
 #include "live/LiveEventPanel.h"
@@ -134,6 +135,7 @@ void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pa
 
 // Beside the shooter's panel. Of one who is not on court it was forgotten that he came in.
 void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
+  m_correction->end();
   if (!isMade && !m_settings.asksRebounds && !std::exchange(m_hasMissed, true))
     say(kRebounds);
   const auto followUps = m_game.followUps(team, player, kind, isMade, m_settings.asksRebounds);

@@ -38,6 +38,7 @@ void frmLIVE::connectPlayers() {
   });
   connect(m_correction, &CorrectionBar::changed, this, &frmLIVE::showGame);
   connect(m_correction, &CorrectionBar::closed, this, &frmLIVE::showSelected);
+  connect(&m_notices->message(), &MessageLine::changed, m_correction, &QWidget::raise); // in one place
   m_bench->setTaker([this](int team, int player) { return m_correction->takePlayer(team, player); });
   connect(m_bench, &BenchPanel::playerAsked, this, &frmLIVE::addPlayer);
   connect(m_bench, &BenchPanel::placesStayAsked, this, [this](bool stay) { m_game.setKeepsPlaces(stay); });
@@ -59,11 +60,11 @@ void frmLIVE::connectPlayers() {
   };
   onKey(kCorrect, [this](const EventPlace& event) { correct(event); });
   onKey(Qt::SHIFT | kCorrect, [this](const EventPlace& event) {
-    if (m_correction->begin(event))
+    if (m_correction->isActive() || m_correction->begin(event))
       m_correction->toggleMade();
   });
   onKey(Qt::CTRL | kCorrect, [this](const EventPlace& event) {
-    if (m_correction->begin(event))
+    if (m_correction->isActive() || m_correction->begin(event))
       m_correction->toggleThree();
   });
 }

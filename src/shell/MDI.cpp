@@ -43,6 +43,7 @@
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolBar>
 #include <algorithm>
 #include <chrono>
@@ -144,6 +145,7 @@ MDI::MDI(const Workshop& workshop)
   statusBar()->setMinimumHeight(statusBar()->fontMetrics().height() + kStatusMargin);
   m_retryOfWrites.setInterval(kRetryInterval);
 
+  connect(statusBar(), &QStatusBar::messageChanged, this, &MDI::showStatusBar);
   connect(m_commands, &CommandBar::asked, this, &MDI::carryOut);
   connect(m_menu, &MainMenu::coloursChosen, this, &MDI::switchColours);
   connect(m_menu, &MainMenu::zoomChosen, this, &MDI::switchZoom);
@@ -200,6 +202,8 @@ void MDI::applyMeasure() {
   if (measure == Theme::measure())
     return;
   Theme::setMeasure(*qApp, measure);
+  const int icons = style()->pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, this); // which it asks for once
+  m_commands->toolBar().setIconSize({icons, icons});
   for (ChildWindow* child : m_area->windows())
     child->applyColours();
 }
@@ -672,7 +676,8 @@ CommandGroup MDI::groupInFront() const {
 // has to be told all the same.
 void MDI::showStatusBar() {
   const bool isLive = groupInFront() == CommandGroup::Live;
-  statusBar()->setVisible(!isLive || !m_unsaved->isHidden() || !m_output->isHidden());
+  statusBar()->setVisible(!isLive || !m_unsaved->isHidden() || !m_output->isHidden() ||
+                          !statusBar()->currentMessage().isEmpty());
 }
 
 void MDI::showCommands() {
