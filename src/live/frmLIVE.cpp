@@ -494,7 +494,11 @@ void frmLIVE::refuseClock(int text) {
 }
 
 void frmLIVE::say(int text) {
-  m_notices->message().say(caption(m_texts, text));
+  tell(caption(m_texts, text));
+}
+
+void frmLIVE::tell(const QString& words) {
+  m_notices->message().say(words);
 }
 
 void frmLIVE::tick() {

@@ -69,6 +69,7 @@ class frmLIVE : public ChildWindow {
   void setKeypad(const KeypadSetup& setup);
   void keypadSwitched(); // the setting was changed
 
+  void tell(const QString& words); // where it says what it has done itself
   void switchSides();
   void gameOver();
 

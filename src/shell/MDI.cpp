@@ -145,7 +145,6 @@ MDI::MDI(const Workshop& workshop)
   statusBar()->setMinimumHeight(statusBar()->fontMetrics().height() + kStatusMargin);
   m_retryOfWrites.setInterval(kRetryInterval);
 
-  connect(statusBar(), &QStatusBar::messageChanged, this, &MDI::showStatusBar);
   connect(m_commands, &CommandBar::asked, this, &MDI::carryOut);
   connect(m_menu, &MainMenu::coloursChosen, this, &MDI::switchColours);
   connect(m_menu, &MainMenu::zoomChosen, this, &MDI::switchZoom);
@@ -642,6 +641,8 @@ void MDI::refuse(GameFileProblem problem, const QString& path) {
 }
 
 void MDI::showMessage(const QString& message) {
+  if (groupInFront() == CommandGroup::Live)
+    return live()->tell(message);
   statusBar()->showMessage(message, static_cast<int>(std::chrono::milliseconds(kMessageTime).count()));
 }
 
@@ -676,8 +677,7 @@ CommandGroup MDI::groupInFront() const {
 // has to be told all the same.
 void MDI::showStatusBar() {
   const bool isLive = groupInFront() == CommandGroup::Live;
-  statusBar()->setVisible(!isLive || !m_unsaved->isHidden() || !m_output->isHidden() ||
-                          !statusBar()->currentMessage().isEmpty());
+  statusBar()->setVisible(!isLive || !m_unsaved->isHidden() || !m_output->isHidden());
 }
 
 void MDI::showCommands() {

@@ -41,12 +41,23 @@ ScorersTable::ScorersTable(const std::string& program, const std::string& progra
   m_person = std::make_unique<Person>();
 }
 
-void ScorersTable::openGame() {
+void ScorersTable::askForGame() {
   m_program->waitUntilActive("MDI");
   m_person->press("ctrl+shift+o");
   m_program->waitUntilActive("fileNameEdit");
   m_person->type(m_game);
   m_person->press("Return");
+}
+
+void ScorersTable::openGame() {
+  askForGame();
+  m_program->waitUntilActive("frmLIVE");
+}
+
+void ScorersTable::openNewGame() {
+  askForGame();
+  m_program->waitUntilActive("frmSUBST/cmdCANCEL");
+  m_person->press("Escape");
   m_program->waitUntilActive("frmLIVE");
 }
 

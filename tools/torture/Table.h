@@ -25,7 +25,8 @@ class ScorersTable {
                std::vector<std::string> wrapper = {});
 
   void openGame();
-  void score(); // one click; returns at once
+  void openNewGame(); // which asks for both fives; they come as its events tell them
+  void score();       // one click; returns at once
   // Until the window shows so many points. A ReplayFailure when it does not.
   void waitForPoints(int points);
   [[nodiscard]] int shownPoints();
@@ -34,6 +35,7 @@ class ScorersTable {
   [[nodiscard]] int leave(); // its exit status
 
  private:
+  void askForGame();
   std::string m_game;
   std::unique_ptr<Program> m_program;
   std::unique_ptr<Person> m_person;

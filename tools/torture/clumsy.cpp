@@ -81,7 +81,7 @@ void play(const std::string& program, const fs::path& path, const Amount& amount
   ClumsyGame game(original, {scorers.program(), scorers.person(), recorded, camera}, hand, dice, screen,
                   amount, outcome.counts);
   try {
-    scorers.openGame();
+    scorers.openNewGame();
     game.play();
     const bool isWhole = game.stopForToday();
     if (isWhole)
