@@ -113,11 +113,6 @@ void LiveEventPanel::makeList() {
   m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
   connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &LiveEventPanel::showCommands);
-  connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-          [this](const QModelIndex& index) {
-            if (index.isValid())
-              emit chosen(placeOf(m_rows.eventAt(index)));
-          });
   connect(m_list, &QTableView::activated, this, [this] { m_edit->trigger(); });
 }
 

@@ -53,7 +53,6 @@ class LiveEventPanel : public QWidget {
   void substitutionAsked(const hooptab::PastSubstitution& past, int team, int player);
   void undoAsked();
   void redoAsked();
-  void chosen(const hooptab::EventPlace& event);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override; // a click on a mark

@@ -248,7 +248,6 @@ void PlayerPanel::relabelPanel() {
   showOwnLabels();
   if (m_shown.player == 0)
     setAccessibleName(caption(m_texts, kNobodyText));
-  update(); // an empty panel has its word painted
 }
 
 void PlayerPanel::showOwnLabels() {

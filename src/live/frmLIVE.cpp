@@ -633,7 +633,6 @@ void frmLIVE::relabelWindow() {
   m_bench->relabelPanel();
   m_events->relabelPanel();
   m_now->relabelStrip();
-  m_correction->relabelBar();
   m_keys->relabelKeys();
   applyColours();
   showGame();
@@ -649,6 +648,7 @@ void frmLIVE::applyColours() {
   m_bench->applyColours();
   m_events->applyColours();
   m_now->applyColours();
+  m_correction->relabelBar();
   applyMeasure();
 }
 
