@@ -153,7 +153,8 @@ ReadOutcome readWholeFile(FileSystem& files, const std::string& path, std::strin
   return ReadOutcome::Read;
 }
 
-bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_view bytes, FileStamp& stamp) {
+bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_view bytes, FileStamp& stamp,
+                      const FileStamp* read) {
   std::string target;
   if (!files.resolve(path, target))
     return false;
@@ -161,6 +162,8 @@ bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_vi
   FileStamp old;
   const bool exists = files.stamp(target, old);
   if (!exists && errno != ENOENT)
+    return false;
+  if (read != nullptr && old != *read)
     return false;
   if (exists) {
     constexpr std::uint32_t kAnyWriteBit = 0222;

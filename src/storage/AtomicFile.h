@@ -24,9 +24,10 @@ inline constexpr std::int64_t kLargestProfileFile = 16 * 1024 * 1024;
 // stands and `stamp` is its state. No temporary file is left. Fails for a file without any write permission
 // bit, even for a user whom the system would let write. Keeps mode bits and a symbolic link's target, and
 // owner, group and extended attributes where the system lets. Fails, too, where the file changed while the
-// new one was written.
+// new one was written; with `read` (FileStamp{} for a file that was not there) also where it changed since it
+// was in that state, so that bytes which were decided upon what it held cover nothing that nobody has read.
 [[nodiscard]] bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_view bytes,
-                                    FileStamp& stamp);
+                                    FileStamp& stamp, const FileStamp* read = nullptr);
 
 // A name for another version of a file, beside it: its own and ".1", ".2", ..., the first that nothing has.
 // Empty when the folder cannot be looked into.

@@ -142,7 +142,9 @@ bool cinifile::put(const ProfileText& before, ProfileText after) {
     if (bytes.size() > static_cast<std::size_t>(kLargestProfileFile))
       return false; // could never be read again
     FileStamp stamp;
-    if (!replaceWholeFile(m_files, m_path, bytes, stamp)) {
+    const FileStamp read = knownStamp();
+    const bool isRead = m_readOutcome == ReadOutcome::Read || m_readOutcome == ReadOutcome::Absent;
+    if (!replaceWholeFile(m_files, m_path, bytes, stamp, isRead ? &read : nullptr)) {
       if (stamp != FileStamp{})
         m_undurable.insert(m_path);
       return false;
@@ -160,6 +162,12 @@ bool cinifile::put(const ProfileText& before, ProfileText after) {
 const ProfileText& cinifile::known() const {
   const auto known = m_copies.find(m_path);
   return known != m_copies.end() ? known->second.text : m_nothing;
+}
+
+// The state in which Path was last read or written; that of no file where it was not there.
+FileStamp cinifile::knownStamp() const {
+  const auto known = m_copies.find(m_path);
+  return known != m_copies.end() ? known->second.stamp : FileStamp{};
 }
 
 const ProfileText& cinifile::profile() {

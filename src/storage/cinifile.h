@@ -55,7 +55,7 @@ class cinifile {
   // whether it is non-zero.
   bool write(const ProfileBatch& batch);
   // The same for operations that were decided upon what profile() has just returned: the file is not read
-  // once more between reading and writing.
+  // once more between reading and writing, and a file that others changed in between is left as it is.
   bool writeBehindReading(const ProfileBatch& batch);
 
   // Makes the file `base` with all operations applied to it, whatever stands there now; a folder or another
@@ -77,6 +77,7 @@ class cinifile {
     std::uint64_t lastUse = 0;
   };
   Copy& copyOfPath();
+  [[nodiscard]] FileStamp knownStamp() const;
   bool put(const ProfileText& before, ProfileText after);
   [[nodiscard]] std::string defaultText() const;
 

@@ -1,11 +1,13 @@
 // A file system whose calls can be made to fail in turn: the n-th call, or that one and all after it. Also
-// one that is merely awkward: short reads and writes, interrupted calls. Counts what it is asked for.
+// one that is merely awkward: short reads and writes, interrupted calls. Lets another hand in between two
+// calls. Counts what it is asked for.
 #pragma once
 
 #include "storage/FileSystem.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <functional>
 
 namespace hooptab {
 
@@ -16,6 +18,8 @@ class FaultyFileSystem : public FileSystem {
   int error = EIO;
   bool interrupts = false; // every second open, read, write and sync is interrupted before it does anything
   std::size_t mostBytes = SIZE_MAX; // per read and write
+  int disturbedAt = -1;             // number of the call before which `disturbance` happens
+  std::function<void()> disturbance;
 
   int calls = 0;
   int reads = 0;
@@ -69,6 +73,8 @@ class FaultyFileSystem : public FileSystem {
  private:
   bool fails() {
     const int call = calls++;
+    if (call == disturbedAt)
+      disturbance();
     if (failAt < 0 || call < failAt || (call > failAt && !staysBroken))
       return false;
     hasFailed = true;
