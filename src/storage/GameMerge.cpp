@@ -18,7 +18,7 @@ using Line = PeriodLines::value_type;
 class Merger {
  public:
   Merger(const EventLines& ours, const ProfileText& left, const ProfileText& theirs)
-      : m_ours(ours), m_left(storedEventLines(left)), m_theirs(theirs) {
+      : m_ours(ours), m_leftText(left), m_left(storedEventLines(left)), m_theirs(theirs) {
     for (const auto& [period, lines] : ours) {
       for (const auto& [key, line] : lines)
         m_numbers.insert(Module1::wholeNumber(key));
@@ -49,6 +49,7 @@ class Merger {
     const PeriodLines& leftLines = linesOf(m_left, period);
     std::unordered_map<std::string_view, std::string_view> left(leftLines.begin(), leftLines.end());
     lookForHidden(period, own);
+    lookForShadowed(period);
 
     // Theirs that are new stand before the first of ours that follows them in their file, or behind all.
     std::unordered_map<std::string, PeriodLines> before;
@@ -95,7 +96,24 @@ class Merger {
     }
   }
 
+  // A second line of one number is never read, and would go when its section is written anew.
+  void lookForShadowed(int period) {
+    const std::string section = periodSection(period);
+    std::set<std::pair<std::string_view, std::string_view>> known;
+    for (const ProfileText::Line& line : m_leftText.section(section))
+      known.emplace(line.name, line.value);
+    std::unordered_map<std::string_view, std::string_view> first;
+    for (const ProfileText::Line& line : m_theirs.section(section)) {
+      if (line.kind != ProfileText::Line::Kind::KeyValue)
+        continue;
+      const auto [read, isFirst] = first.emplace(line.name, line.value);
+      if (!isFirst && read->second != line.value && !known.contains({line.name, line.value}))
+        m_result.gaveWay.push_back({period, codepage::toUtf8(line.name)});
+    }
+  }
+
   const EventLines& m_ours;
+  const ProfileText& m_leftText;
   const EventLines m_left;
   const ProfileText& m_theirs;
   std::unordered_set<int> m_numbers;

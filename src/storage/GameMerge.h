@@ -16,7 +16,7 @@ struct GameMerge {
   EventLines lines; // both; UTF-8
   int added = 0;    // of theirs that are new here
   int restored = 0; // of ours that stood in the file and now do not, or say another thing
-  // Of theirs that give way: another line under a number of ours, or one that cannot be understood.
+  // Of theirs that give way: another line under a number that is taken, or one that cannot be understood.
   struct GivenWay {
     int period = 1;
     std::string key;

@@ -83,13 +83,15 @@ TEST_F(ForeignHandsTest, AnEventOfTheNextNumberIsTakenInAtTheNextLookAndCollides
   append("7=10:00,GFT,1-5");
   append("8=10:00,SST,1-5");
   append("0=what is this?");
+  append("4=10:00,SST,1-5");
   score(); // 7, before anybody has looked
   const ForeignHands hands = live.takeForeignHands();
   EXPECT_EQ(hands.added, 1);
   EXPECT_EQ(hands.restored, 0);
-  EXPECT_EQ(hands.gaveWay, (std::vector<GameMerge::GivenWay>{{1, "7"}, {1, "0"}}));
-  EXPECT_NE(folder.read(fs::path(hands.keptAs).filename().string()).find("7=10:00,GFT,1-5"),
-            std::string::npos);
+  EXPECT_EQ(hands.gaveWay, (std::vector<GameMerge::GivenWay>{{1, "4"}, {1, "7"}, {1, "0"}}));
+  const std::string kept = folder.read(fs::path(hands.keptAs).filename().string());
+  EXPECT_NE(kept.find("7=10:00,GFT,1-5"), std::string::npos);
+  EXPECT_NE(kept.find("4=10:00,SST,1-5"), std::string::npos) << "behind the line of that number that is read";
   score(); // 9: 8 is theirs
   EXPECT_EQ(onDisk(), std::string(kOurs) + "5,GFT,1-5 6,GFT,0-4 7,GFT,0-4 8,SST,1-5 9,GFT,0-4 ");
   expectTruth();
@@ -213,6 +215,39 @@ TEST_F(ForeignHandsTest, WhoeverHasLostTheFileWritesNothingThereAnyMore) {
 
 // A file system that fails at any call, while the file has another version that must be kept: either the
 // foreign version stands, or ours with theirs beside it; and a second try ends well.
+// As editors save: another file takes the name, at any moment of our own look and write. Only between the
+// last look and the change of names can nobody help it.
+TEST_F(ForeignHandsTest, WhatComesWhileWritingIsNotCovered) {
+  int disturbed = 0;
+  for (int call = 0;; ++call) {
+    const std::string theirs = "SST,1-5,M" + std::to_string(call) + 'M';
+    files.calls = 0;
+    files.disturbedAt = call;
+    const int renames = files.renames;
+    bool isChangeOfNames = false;
+    bool hasHappened = false;
+    files.disturbance = [&] {
+      hasHappened = true;
+      isChangeOfNames = files.renames > renames;
+      const std::string text =
+          folder.read("live.GAM") + std::to_string(1000 * (call + 1)) + "=10:00," + theirs;
+      folder.write("saved", text + "\r\n");
+      fs::rename(folder.path("saved"), path);
+    };
+    score();
+    if (!hasHappened)
+      break;
+    EXPECT_TRUE(live.settle());
+    (void)live.takeForeignHands();
+    if (!isChangeOfNames) {
+      EXPECT_NE(folder.read("live.GAM").find(theirs), std::string::npos) << call;
+      ++disturbed;
+    }
+    expectTruth();
+  }
+  EXPECT_GT(disturbed, 8);
+}
+
 TEST_F(ForeignHandsTest, AnyFailureWhileBringingTogetherLosesNeitherSide) {
   bool failed = true;
   for (int call = 0; failed; ++call) {
