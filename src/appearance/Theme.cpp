@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QVariant>
+#include <QWidget>
 
 // Outside any namespace, as the macro demands: the fonts stand in a static library, from which nothing else
 // would pull them.
@@ -15,7 +17,8 @@ namespace hooptab {
 
 namespace {
 
-constexpr double kPointsOfPixel = 0.75; // Qt's pixels are those of 96 dpi
+constexpr const char* kTypeProperty = "type"; // what setType() gave: the use and the weight
+constexpr double kPointsOfPixel = 0.75;       // Qt's pixels are those of 96 dpi
 
 struct State {
   ColourScheme scheme = ColourScheme::Light;
@@ -120,6 +123,11 @@ void Theme::setMeasure(QApplication& application, const Measure& measure) {
     return;
   s_state.measure = measure;
   application.setFont(usualFont());
+  for (QWidget* widget : QApplication::allWidgets()) {
+    if (const QVariant type = widget->property(kTypeProperty); type.isValid())
+      widget->setFont(
+          font(static_cast<Type>(type.toPoint().x()), static_cast<QFont::Weight>(type.toPoint().y())));
+  }
 }
 
 const Measure& Theme::measure() {
@@ -149,12 +157,13 @@ QFont Theme::font(Type use, QFont::Weight weight) {
   return font;
 }
 
-QFont Theme::figures(int pointSize, bool bold) {
-  QFont font;
-  font.setFamilies(families(Width::Usual));
-  font.setPointSize(pointSize);
-  font.setBold(bold);
-  return font;
+void Theme::setType(QWidget& widget, Type use) {
+  setType(widget, use, static_cast<QFont::Weight>(font(use).weight()));
+}
+
+void Theme::setType(QWidget& widget, Type use, QFont::Weight weight) {
+  widget.setProperty(kTypeProperty, QPoint(static_cast<int>(use), weight));
+  widget.setFont(font(use, weight));
 }
 
 QColor colourOf(std::uint32_t stored) {

@@ -14,6 +14,7 @@
 #include <cstdint>
 
 class QApplication;
+class QWidget;
 
 namespace hooptab {
 
@@ -51,7 +52,9 @@ class Theme {
 
   static QFont font(Type use);
   static QFont font(Type use, QFont::Weight weight);
-  static QFont figures(int pointSize, bool bold = false); // all digits are equally wide
+  // Gives a widget that type, now and whenever the measure changes.
+  static void setType(QWidget& widget, Type use);
+  static void setType(QWidget& widget, Type use, QFont::Weight weight);
 
   static QColor accent() { return look().accent; }
   static QColor made() { return look().made; }

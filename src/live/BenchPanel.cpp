@@ -22,7 +22,6 @@ constexpr int kSubstitutionTip = 1945;
 constexpr int kSeveral = 1946;
 constexpr int kSeveralTip = 1947;
 constexpr int kPlacesStay = 2586;
-constexpr int kIcon = 16;
 
 QToolButton* buttonFor(QAction& action, const char* name, QWidget* parent) {
   auto* button = new QToolButton(parent);
@@ -30,7 +29,6 @@ QToolButton* buttonFor(QAction& action, const char* name, QWidget* parent) {
   button->setDefaultAction(&action);
   button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   button->setFocusPolicy(Qt::TabFocus);
-  button->setIconSize({kIcon, kIcon});
   button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
   return button;
 }
@@ -172,9 +170,13 @@ void BenchPanel::relabelPanel() {
 }
 
 void BenchPanel::applyColours() {
-  setFixedHeight(Theme::measure()(30, 38));
+  const Measure& measure = Theme::measure();
+  setFixedHeight(measure(30, 38));
+  for (const char* name : {"cmdSUBST", "cmdSEVERAL"})
+    findChild<QToolButton*>(QLatin1String(name))->setIconSize({measure(16, 20), measure(16, 20)});
   for (RosterStrip* strip : m_strips)
     strip->applyColours();
+  m_selection->applyColours();
   relabelPanel();
 }
 

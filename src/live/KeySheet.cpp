@@ -35,7 +35,6 @@ constexpr int kMiss = 2010;
 constexpr int kExchange = 2514;
 constexpr int kSeveralAtOnce = 2515;
 
-constexpr int kTitlePoints = 14;
 constexpr int kWidth = 860;
 
 QString row(const QString& left, const QString& right) {
@@ -63,13 +62,8 @@ KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_text
     return label;
   };
   auto* title = text(kTitle);
-  QFont large = title->font();
-  large.setPointSize(kTitlePoints);
-  large.setBold(true);
-  title->setFont(large);
+  Theme::setType(*title, Type::Title);
   m_off = text(kKeypadIsOff);
-  QFont bold = m_off->font();
-  bold.setBold(true);
   m_picture = new KeypadPicture(this);
   m_picture->setAttribute(Qt::WA_TransparentForMouseEvents);
   m_letters = new PlainLabel(this);
@@ -88,14 +82,14 @@ KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_text
   int place = 0;
   for (const int head : {kOnKeypad, kOnMainKeyboard}) {
     auto* label = text(head);
-    label->setFont(bold);
+    Theme::setType(*label, Type::Body, QFont::Bold);
     grid->addWidget(label, 2, place++);
   }
   grid->addWidget(m_picture, 3, 0, Qt::AlignTop | Qt::AlignHCenter);
   grid->addWidget(m_letters, 3, 1);
   grid->addWidget(text(kFollowUps), 4, 0, 1, 2);
   grid->addWidget(text(kSeveralAtOnce), 5, 0, 1, 2);
-  m_off->setFont(bold);
+  Theme::setType(*m_off, Type::Body, QFont::Bold);
   hide();
 }
 

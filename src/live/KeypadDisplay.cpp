@@ -17,8 +17,6 @@ using namespace std::chrono_literals;
 
 constexpr auto kFlash = 350ms;
 constexpr auto kReading = 4s;
-constexpr int kTypedPoints = 24;
-constexpr int kWordsPoints = 12;
 constexpr int kMargin = 8;
 
 } // namespace
@@ -29,13 +27,10 @@ KeypadDisplay::KeypadDisplay(QWidget* parent) : QWidget(parent) {
   setAutoFillBackground(true);
   m_typed = new PlainLabel(this);
   m_typed->setObjectName(QStringLiteral("txtACTION"));
-  m_typed->setFont(Theme::figures(kTypedPoints, true));
+  Theme::setType(*m_typed, Type::Points);
   m_words = new PlainLabel(this);
   m_words->setObjectName(QStringLiteral("lblACTION"));
-  QFont font = m_words->font();
-  font.setPointSize(kWordsPoints);
-  font.setBold(true);
-  m_words->setFont(font);
+  Theme::setType(*m_words, Type::Count, QFont::Bold);
   m_words->setWordWrap(true);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);

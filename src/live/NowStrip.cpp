@@ -8,6 +8,7 @@
 #include "storage/Module1.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QPainter>
 #include <QToolButton>
 
@@ -161,6 +162,15 @@ void NowStrip::applyColours() {
 QRect NowStrip::middle() const {
   const int left = m_keys->geometry().right() + kGap;
   return {left, 2, m_disk->x() - kGap - left, height() - 4};
+}
+
+bool NowStrip::event(QEvent* event) {
+  const bool isTaken = QWidget::event(event);
+  if (event->type() == QEvent::LayoutRequest) {
+    m_pending->setGeometry(middle());
+    update();
+  }
+  return isTaken;
 }
 
 void NowStrip::resizeEvent(QResizeEvent*) {

@@ -37,6 +37,7 @@ class NowStrip : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override; // the middle moves with its neighbours
   void resizeEvent(QResizeEvent* event) override;
 
  private:

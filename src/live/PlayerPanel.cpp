@@ -95,12 +95,12 @@ PlayerPanel::PlayerPanel(int slot, const Settings& settings, const Texts& texts,
 }
 
 QSize PlayerPanel::sizeHint() const {
-  return {Theme::measure()(kDesigned.width()), Theme::measure()(kDesigned.height())};
+  return {Theme::measure()(kDesigned.width(), 294), Theme::measure()(kDesigned.height(), 413)};
 }
 
 // Below it the type would be cut; whoever lays panels out lets them be scrolled.
 QSize PlayerPanel::minimumSizeHint() const {
-  return sizeHint() * 0.92;
+  return {Theme::measure()(193, 246), Theme::measure()(270, 345)};
 }
 
 QString PlayerPanel::named(const char* name) const {

@@ -22,9 +22,6 @@ constexpr int kMoreTip = 1846;
 constexpr int kShotTip = 2497;
 
 constexpr int kGap = 2;
-constexpr int kNumberWidth = 40;
-constexpr int kRowHeight = 24;
-constexpr int kButtonWidth = 30;
 
 } // namespace
 
@@ -34,9 +31,8 @@ SelectedPlayer::SelectedPlayer(const Texts& texts, QWidget* parent)
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   m_number->setObjectName(QStringLiteral("lblNO"));
-  m_number->setFixedSize(kNumberWidth, kRowHeight);
   m_number->setAlignment(Qt::AlignCenter);
-  m_number->setFont(Theme::figures(10, true));
+  Theme::setType(*m_number, Type::Body, QFont::Bold);
   m_number->setAutoFillBackground(true);
   m_name->setObjectName(QStringLiteral("lblNom"));
   // As wide as there is room, whoever's name it is.
@@ -56,14 +52,22 @@ SelectedPlayer::SelectedPlayer(const Texts& texts, QWidget* parent)
   m_menu = makeMenu();
   actions->addWidget(m_menu);
   layout->addWidget(m_actions);
+  applyColours();
   showNobody();
+}
+
+void SelectedPlayer::applyColours() {
+  const Measure& measure = Theme::measure();
+  const int height = measure(24, 30);
+  m_number->setFixedSize(measure(40, 50), height);
+  for (QToolButton* button : m_actions->findChildren<QToolButton*>())
+    button->setFixedSize(measure(30, 38), height);
 }
 
 QToolButton* SelectedPlayer::makeButton(const char* name) {
   auto* button = new QToolButton(m_actions);
   button->setObjectName(QLatin1String(name));
   button->setFocusPolicy(Qt::TabFocus);
-  button->setFixedSize(kButtonWidth, kRowHeight);
   return button;
 }
 
@@ -93,7 +97,6 @@ QToolButton* SelectedPlayer::makeMenu() {
   QToolButton* button = makeButton("cmdSELMORE");
   button->setText(QStringLiteral("\u2026"));
   button->setPopupMode(QToolButton::InstantPopup);
-  button->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
   setToolTipNumber(*button, kMoreTip);
   setAccessibleNumber(*button, kMoreTip);
   auto* menu = new QMenu(button);

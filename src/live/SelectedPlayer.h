@@ -24,6 +24,7 @@ class SelectedPlayer : public QWidget {
   // A place without a player is nobody.
   void showPlayer(const LiveGame& game, int team, int player);
   void showNobody();
+  void applyColours(); // and lengths
 
  signals:
   void actionAsked(hooptab::EventCode kind);

@@ -21,9 +21,6 @@ constexpr int kPlaysLeft = 1940;
 constexpr int kHalfTime = 2381;
 constexpr int kRowsStay = 2494;
 
-constexpr int kCourtWidth = 24;
-constexpr int kCourtHeight = 16;
-constexpr int kButtonWidth = 28;
 constexpr int kGap = 4;
 
 } // namespace
@@ -31,7 +28,7 @@ constexpr int kGap = 4;
 // Both halves, each in the colour of the team that stands there.
 class SideSwitch::Court : public QWidget {
  public:
-  explicit Court(QWidget* parent) : QWidget(parent) { setFixedSize(kCourtWidth, kCourtHeight); }
+  using QWidget::QWidget;
 
   void showColours(const std::array<QColor, 2>& colours) {
     if (colours == m_colours)
@@ -67,7 +64,6 @@ SideSwitch::SideSwitch(const Texts& texts, QWidget* parent)
   m_name->hide(); // rosters and plates say it with their arrows; here it is for whoever asks
   m_button->setIcon(icon(QStringLiteral("switch")));
   m_button->setFocusPolicy(Qt::TabFocus);
-  m_button->setFixedWidth(kButtonWidth);
   m_button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   connect(m_button, &QToolButton::clicked, this, &SideSwitch::asked);
   m_rowsStay->setObjectName(QStringLiteral("cmdROWSSTAY"));
@@ -82,6 +78,14 @@ SideSwitch::SideSwitch(const Texts& texts, QWidget* parent)
   layout->setSpacing(kGap);
   layout->addWidget(m_court);
   layout->addWidget(m_button);
+  applyColours();
+}
+
+void SideSwitch::applyColours() {
+  const Measure& measure = Theme::measure();
+  m_court->setFixedSize(measure(24, 30), measure(16, 20));
+  m_button->setFixedWidth(measure(28, 36));
+  m_button->setIconSize({measure(18, 22), measure(18, 22)});
 }
 
 void SideSwitch::begin() {

@@ -25,6 +25,7 @@ class SideSwitch : public QWidget {
 
   void begin(); // another game, with team 0 on the left
   void setSides(bool team0PlaysRight, bool rowsStay);
+  void applyColours(); // and lengths
   void showGame(const LiveGame& game);
 
  signals:

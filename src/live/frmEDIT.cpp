@@ -90,7 +90,6 @@ bool frmEDIT::eventFilter(QObject* watched, QEvent* event) {
 void frmEDIT::makeFields() {
   m_time = new QLineEdit(this);
   m_time->setObjectName(QStringLiteral("txtTEMPS"));
-  m_time->setFont(Theme::figures(font().pointSize()));
   static const QRegularExpression kClock(QStringLiteral("[0-9]{1,2}(:?[0-5][0-9])?")); // as typedClock
   m_time->setValidator(new QRegularExpressionValidator(kClock, m_time));
   setToolTipNumber(*m_time, kClockForm);

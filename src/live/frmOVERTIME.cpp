@@ -23,7 +23,6 @@ constexpr int kKeepFouls = 1142;
 constexpr int kAccept = 1089;
 constexpr int kMinutesOfOvertime = 1942;
 constexpr int kSecondsPerMinute = 60;
-constexpr int kClockPoints = 32;
 constexpr int kMargin = 16;
 constexpr int kGap = 10;
 
@@ -36,14 +35,13 @@ frmOVERTIME::frmOVERTIME(const GameDetails& details, const Texts& texts, QWidget
   setModal(true);
   m_minutes->setObjectName(QStringLiteral("UpDown1"));
   m_minutes->setRange(1, kMostMinutes);
-  m_minutes->setFont(Theme::figures(font().pointSize()));
   m_keepsFouls->setObjectName(QStringLiteral("Check1"));
   m_keepsFouls->setChecked(details.keepsBonus); // as in the overtime before
   setTextNumber(*m_keepsFouls, kKeepFouls);
   setToolTipNumber(*m_keepsFouls, kKeepFouls);
   auto* clock = new PlainLabel(this);
   clock->setObjectName(QStringLiteral("lblTEMPS"));
-  clock->setFont(Theme::figures(kClockPoints, true));
+  Theme::setType(*clock, Type::Score);
   clock->setAlignment(Qt::AlignCenter);
   auto* accept = new QPushButton(this);
   accept->setObjectName(QStringLiteral("cmdOK"));

@@ -40,13 +40,17 @@ constexpr int kAccept = 1963;
 constexpr int kTypingHint = 2513;
 
 constexpr int kColumns = 5;
-constexpr QSize kButton(98, 48);
-constexpr int kCountWidth = 52;
-constexpr int kLineWidth = 170;
-constexpr int kLineHeight = 24;
-constexpr int kTypedPoints = 20;
 constexpr int kMargin = 10;
 constexpr int kGap = 2;
+
+QSize playerSize() {
+  const Measure& measure = Theme::measure();
+  return {measure(98, 128), measure(48, 62)};
+}
+
+int lineHeight() {
+  return Theme::measure()(26, 33);
+}
 
 void colourBand(QLabel& band, const LiveGame& game, int team) {
   const QColor colour = colourOf(game.game().details.teamColour[team]);
@@ -129,9 +133,7 @@ void frmSUBST::makeContents() {
 void frmSUBST::addPlace(QBoxLayout& layout) {
   auto* place = new PlainLabel(this);
   place->setObjectName(QStringLiteral("lblPLACE"));
-  QFont bold = place->font();
-  bold.setBold(true);
-  place->setFont(bold);
+  Theme::setType(*place, Type::Body, QFont::Bold);
   const std::string words =
       m_texts.withPlaceholder(kPlace, placeWords(m_past->event, m_game.game(), m_texts));
   place->setText(toQt(words));
@@ -149,9 +151,9 @@ void frmSUBST::addTeam(QGridLayout& layout, int team) {
   const int row = layout.rowCount();
   m_counts[t] = new PlainLabel(this);
   m_counts[t]->setObjectName(QStringLiteral("lblCOUNT(%1)").arg(team));
-  m_counts[t]->setFont(Theme::figures(12, true));
+  Theme::setType(*m_counts[t], Type::Count, QFont::Bold);
   setToolTipNumber(*m_counts[t], kCountName);
-  m_counts[t]->setFixedWidth(kCountWidth); // 5/5 and 10/5 alike
+  m_counts[t]->setFixedWidth(Theme::measure()(52, 66)); // 5/5 and 10/5 alike
   m_counts[t]->setAlignment(Qt::AlignCenter);
   auto* head = new QHBoxLayout;
   head->addWidget(bandOf(m_game, team, toQt(m_game.game().details.name[team]), this), 1);
@@ -166,7 +168,7 @@ void frmSUBST::addTeam(QGridLayout& layout, int team) {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kGap);
   for (int place = 0; place < kPlaces; ++place) {
-    auto* button = new JerseyButton(jerseyButtonName(team * kPlaces + place), kButton, roster);
+    auto* button = new JerseyButton(jerseyButtonName(team * kPlaces + place), playerSize(), roster);
     button->setCheckable(true);
     connect(button, &JerseyButton::pressed, this, [this, team, place] { toggle(team, place + 1); });
     showPlayerWords(*button, m_game, team, place + 1, m_texts);
@@ -179,7 +181,7 @@ void frmSUBST::addTeam(QGridLayout& layout, int team) {
 
 QWidget* frmSUBST::makeLines(int team) {
   auto* column = new QWidget(this);
-  column->setMinimumWidth(kLineWidth);
+  column->setMinimumWidth(Theme::measure()(170, 220));
   auto* layout = new QVBoxLayout(column);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
@@ -190,8 +192,7 @@ QWidget* frmSUBST::makeLines(int team) {
     button->setObjectName(
         QStringLiteral("cmdLINE(%1)").arg(static_cast<std::size_t>(team) * Substitution::kMostLines + line));
     button->setAutoDefault(false);
-    button->setFixedHeight(kLineHeight);
-    button->setFont(Theme::figures(font().pointSize()));
+    button->setFixedHeight(lineHeight());
     button->setToolTip(
         toQt(m_texts.withPlaceholder(kLineTip, Module1::clockText(std::max(lines[line].seconds, 0)))));
     connect(button, &QPushButton::pressed, this, [this, team, line] {
@@ -208,7 +209,7 @@ void frmSUBST::propose(int team, unsigned players, const QString& words, const Q
   auto* button = new QPushButton(words, this);
   button->setObjectName(QStringLiteral("cmdPROPOSED(%1)").arg(team));
   button->setAutoDefault(false);
-  button->setFixedHeight(kLineHeight);
+  button->setFixedHeight(lineHeight());
   button->setToolTip(hint);
   connect(button, &QPushButton::pressed, this, [this, team, players] {
     m_choice.take(team, players);
@@ -222,12 +223,10 @@ QWidget* frmSUBST::makeTyped() {
   auto* row = new QWidget(this);
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  const QFont large = Theme::figures(kTypedPoints, true);
+  const QFont large = Theme::font(Type::Points);
   m_typedTeam = bandOf(m_game, m_line.team(), {}, row);
   m_typedTeam->setObjectName(QStringLiteral("lblTYPEDTEAM"));
-  QFont bold = font();
-  bold.setBold(true);
-  m_typedTeam->setFont(bold);
+  Theme::setType(*m_typedTeam, Type::Body, QFont::Bold);
   m_typed = new PlainLabel(row);
   m_typed->setObjectName(QStringLiteral("lblTYPEDNO"));
   m_typed->setFont(large);

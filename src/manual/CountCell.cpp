@@ -8,14 +8,13 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kPoints = 10;
 constexpr int kAir = 10; // beside and above the digits together, in pixels
 
 } // namespace
 
 CountCell::CountCell(const QString& name, QWidget* parent) : PlainLabel(parent) {
   setObjectName(name);
-  setFont(Theme::figures(kPoints));
+  Theme::setType(*this, Type::Body);
   setMaximumHeight(kLargestHeight);
 }
 
@@ -23,7 +22,8 @@ void CountCell::setLook(Look look) {
   if (look == m_look)
     return;
   m_look = look;
-  setFont(Theme::figures(kPoints, look == Look::Typing || look == Look::Total));
+  Theme::setType(*this, Type::Body,
+                 look == Look::Typing || look == Look::Total ? QFont::Bold : QFont::Normal);
   update();
 }
 

@@ -91,10 +91,8 @@ QVariant ScannedModel::data(const QModelIndex& index, int role) const {
     return QStringLiteral("%1, %2: %3")
         .arg(caption(m_texts, isForm ? kFormTotal : kGameTotal), words(column),
              column < kFirstCount ? QString() : countText(player, line, column));
-  case Qt::FontRole: {
-    QFont font = Theme::figures(QFont().pointSize(), isForm);
-    return column < kFirstCount ? QVariant() : QVariant(font);
-  }
+  case Qt::FontRole:
+    return column < kFirstCount ? QVariant() : Theme::font(Type::Body, isForm ? QFont::Bold : QFont::Normal);
   case Qt::ForegroundRole:
     return isForm && isCount(column) && m_scanned.sheet.count(player, counted(column).counter).isOpen
                ? QVariant(Theme::missed())

@@ -22,7 +22,6 @@ constexpr int kAgrees = 2288;
 constexpr int kMissing = 2289;
 constexpr int kTooMany = 2290;
 
-constexpr int kScorePoints = 15;
 constexpr int kFieldWidth = 48;
 constexpr int kHighestScore = 9999;
 constexpr int kGap = 6;
@@ -46,7 +45,7 @@ ScoreCheck::ScoreCheck(const ManualGame& game, const Texts& texts, QWidget* pare
     side.team->setContentsMargins(kGap, 0, kGap, 0);
     side.points = new PlainLabel(this);
     side.points->setObjectName(named("lblSCORE"));
-    side.points->setFont(Theme::figures(kScorePoints, true));
+    Theme::setType(*side.points, Type::Jersey);
     side.typed = new QLineEdit(this);
     side.typed->setObjectName(named("txtFINAL"));
     side.typed->setValidator(new QIntValidator(0, kHighestScore, side.typed));

@@ -129,7 +129,7 @@ TotalsTable::Row TotalsTable::makeRow(int slot) {
   Row row;
   row.number = new ElidedLabel(this);
   row.number->setObjectName(named("lblNO"));
-  row.number->setFont(Theme::figures(font().pointSize(), true));
+  Theme::setType(*row.number, Type::Body, QFont::Bold);
   row.number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   row.name = new ElidedLabel(this);
   row.name->setObjectName(named("lblNom"));

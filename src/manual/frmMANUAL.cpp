@@ -138,7 +138,7 @@ QWidget* frmMANUAL::makePlayerBar(QWidget* page) {
   m_entry->hide();
   m_player = new ElidedLabel(bar);
   m_player->setObjectName(QStringLiteral("lblNom"));
-  m_player->setFont(Theme::figures(font().pointSize() + 2, true));
+  Theme::setType(*m_player, Type::Count, QFont::Bold);
   m_hint = new ElidedLabel(bar);
   m_hint->setObjectName(QStringLiteral("lblHINT"));
   m_hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

@@ -12,7 +12,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kFigurePoints = 11;
 constexpr int kTied = static_cast<int>(LeadState::Tied);
 constexpr std::array<int, 3> kOrder = {0, kTied, 1}; // the tie between the two teams
 
@@ -35,8 +34,8 @@ LeadGrid::LeadGrid(QWidget* parent) : QWidget(parent) {
     row = {new ElidedLabel(this), new PlainLabel(this), new PlainLabel(this)};
     row.time->setObjectName(QStringLiteral("lblLEAD(%1)").arg(state));
     row.times->setObjectName(QStringLiteral("lblLEADTIMES(%1)").arg(state));
-    row.time->setFont(Theme::figures(kFigurePoints, true));
-    row.times->setFont(Theme::figures(kFigurePoints));
+    Theme::setType(*row.time, Type::Name);
+    Theme::setType(*row.times, Type::Name, QFont::Normal);
     row.time->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     row.times->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     int column = 0;

@@ -11,7 +11,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kFigurePoints = 11;
 constexpr int kColumnWidth = 28;
 constexpr int kTotalWidth = 36;
 constexpr int kHeaderMargin = 3;
@@ -54,7 +53,7 @@ PeriodGrid::Column PeriodGrid::addColumn(QGridLayout& layout, const QString& nam
     label->setAlignment(Qt::AlignCenter);
     label->setMinimumWidth(period == 0 ? kTotalWidth : kColumnWidth);
     if (row > 1)
-      label->setFont(Theme::figures(kFigurePoints, isBold));
+      Theme::setType(*label, Type::Name, isBold ? QFont::DemiBold : QFont::Normal);
     layout.addWidget(label, row, place);
     return label;
   };
@@ -91,7 +90,7 @@ void PeriodGrid::fill(const Column& column, const Scoreboard::Period& period) {
     const int number = m_content == Content::Points ? period.points[team] : period.fouls[team];
     label.setText(period.isPlayed ? QString::number(number) : QStringLiteral("–"));
     const bool isInBonus = m_content == Content::Fouls && period.isInBonus[team];
-    label.setFont(Theme::figures(kFigurePoints, isInBonus));
+    Theme::setType(label, Type::Name, isInBonus ? QFont::DemiBold : QFont::Normal);
   }
 }
 

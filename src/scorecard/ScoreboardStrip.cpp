@@ -15,7 +15,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kClockPoints = 22;
 constexpr int kPlateWidth = 190;
 constexpr int kWidestPlate = 440;
 constexpr int kGap = 18;
@@ -30,7 +29,7 @@ ScoreboardStrip::ScoreboardStrip(QWidget* parent)
       m_fouls(new PeriodGrid(PeriodGrid::Content::Fouls, QStringLiteral("lblFOULS"), kTeamFouls, this)),
       m_lead(new LeadGrid(this)) {
   m_clock->setObjectName(QStringLiteral("lbltemps"));
-  m_clock->setFont(Theme::figures(kClockPoints, true));
+  Theme::setType(*m_clock, Type::Points);
   m_clock->setText(QStringLiteral("00:00"));
   setToolTipNumber(*m_clock, kLastClock);
   setToolTipNumber(*m_fouls, kTeamFoulsHint);

@@ -11,7 +11,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kScorePoints = 30;
 constexpr int kAbbreviationPoints = 15;
 
 } // namespace
@@ -23,7 +22,7 @@ TeamPlate::TeamPlate(int team, int side, QWidget* parent)
   setAutoFillBackground(true);
   setTextNumber(*m_side, side);
   m_score->setObjectName(QStringLiteral("lblSCORE(%1)").arg(team));
-  m_score->setFont(Theme::figures(kScorePoints, true));
+  Theme::setType(*m_score, Type::Score);
   QFont large = font();
   large.setPointSize(kAbbreviationPoints);
   large.setBold(true);

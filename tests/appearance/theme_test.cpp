@@ -133,11 +133,6 @@ TEST_P(ThemeTest, HasFiguresOfOneWidth) {
       EXPECT_EQ(QFontMetricsF(font).horizontalAdvance(QLatin1Char(digit)),
                 QFontMetricsF(font).horizontalAdvance(QLatin1Char('0')));
   }
-  for (const bool isBold : {false, true}) {
-    const QFontMetricsF metrics(Theme::figures(28, isBold));
-    for (char digit = '1'; digit <= '9'; ++digit)
-      EXPECT_EQ(metrics.horizontalAdvance(QLatin1Char(digit)), metrics.horizontalAdvance(QLatin1Char('0')));
-  }
 }
 
 TEST(Colours, ComeBackAsTheyWereStored) {
