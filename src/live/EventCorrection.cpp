@@ -57,7 +57,6 @@ bool EventCorrection::begin(LiveGame& game, const EventPlace& event) {
     return false;
   m_game = &game;
   m_event = event;
-  m_place = said().place;
   return true;
 }
 
@@ -151,8 +150,6 @@ EventCorrection::Outcome EventCorrection::take(const EditPlan& plan) {
   if (!m_game->take(plan))
     return refuse({.text = kCannotRecord});
   m_typed.clear();
-  if (const auto place = said().place)
-    m_place = place;
   return Outcome::Changed;
 }
 
@@ -240,33 +237,6 @@ EventCorrection::Outcome EventCorrection::toggleThree() {
   return change(wanted);
 }
 
-EventCorrection::Outcome EventCorrection::takeShot(EventCode kind, bool isMade,
-                                                   std::optional<CourtPlace> place) {
-  const EventKind* shot = kindOf(kind);
-  if (!isActive() || shot == nullptr || !shot->isShot)
-    return Outcome::None;
-  Said wanted = said();
-  wanted.code = kind;
-  wanted.isMade = isMade;
-  wanted.place = !shot->hasPlace ? std::nullopt : place ? place : m_place;
-  return change(wanted);
-}
-
-EventCorrection::Outcome EventCorrection::takePlace(EventCode kind, const CourtPlace& place) {
-  return isActive() ? takeShot(kind, !canToggleMade() || said().isMade, place) : Outcome::None;
-}
-
-EventCorrection::Outcome EventCorrection::takeAction(EventCode kind) {
-  const EventKind* action = kindOf(kind);
-  if (!isActive() || action == nullptr || action->isShot)
-    return Outcome::None;
-  Said wanted = said();
-  wanted.code = kind;
-  wanted.isMade = false;
-  wanted.place.reset();
-  return change(wanted);
-}
-
 std::string EventCorrection::followUpQuestion(const Texts& texts) const {
   const auto found = m_asked ? indexOf(*m_game, m_asked->followUp) : std::nullopt;
   return found ? texts.withPlaceholder(kNoLongerFits, EventWords(m_game->game(), texts).words(*found))
@@ -346,11 +316,6 @@ void EventCorrection::takeBackDigit() {
   m_refusal.reset();
   if (!m_typed.empty())
     m_typed.pop_back();
-}
-
-void EventCorrection::clearTyped() {
-  m_refusal.reset();
-  m_typed.clear();
 }
 
 std::string EventCorrection::reason(const Texts& texts) const {

@@ -59,10 +59,6 @@ class EventCorrection {
   Outcome takePlayer(const Who& who); // of either team, on court or on the bench
   Outcome toggleMade();
   Outcome toggleThree(); // the place stays
-  // The button of a shot, or a click on the court that says made or missed. Without a place it keeps its own.
-  Outcome takeShot(EventCode kind, bool isMade, std::optional<CourtPlace> place = std::nullopt);
-  Outcome takePlace(EventCode kind, const CourtPlace& place); // made or missed as it was
-  Outcome takeAction(EventCode kind);
 
   // --- The follow-up that would no longer fit, after Asks
   bool isAsking() const { return m_asked.has_value(); }
@@ -82,7 +78,6 @@ class EventCorrection {
   Outcome type(int digit);
   Outcome enter();
   void takeBackDigit();
-  void clearTyped();
   [[nodiscard]] std::string reason(const Texts& texts) const; // of the last Refused; else empty
 
  private:
@@ -120,7 +115,6 @@ class EventCorrection {
 
   LiveGame* m_game = nullptr;
   EventPlace m_event;
-  std::optional<CourtPlace> m_place; // for a kind with a place, when it comes back to one
   std::optional<Asked> m_asked;
   std::string m_typed;
   std::optional<Refusal> m_refusal;
