@@ -6,22 +6,22 @@
 #include "appearance/relabel.h"
 #include "live/EventCorrection.h"
 #include "live/EventFilterRow.h"
-#include "live/LiveEventDelegate.h"
+#include "live/EventWindow.h"
+#include "live/LiveEventList.h"
 #include "live/LiveGame.h"
 #include "live/PassingMenu.h"
 #include "live/ShotFollowUp.h"
 
-#include <QAbstractItemView>
 #include <QAction>
 #include <QBoxLayout>
 #include <QHeaderView>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
-#include <QTableView>
 #include <QToolButton>
+
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace hooptab {
 
@@ -37,6 +37,7 @@ constexpr int kChangeTime = 1879;
 constexpr int kSubstituteBefore = 1877;
 constexpr int kSubstituteAfter = 1878;
 constexpr int kNextToCheck = 1884;
+constexpr int kDetach = 2516;
 constexpr int kDeletion = 1910;
 constexpr int kRestoring = 1911;
 constexpr int kEdit = 1912;
@@ -87,33 +88,61 @@ LiveEventPanel::LiveEventPanel(const Texts& texts, QWidget* parent)
 }
 
 void LiveEventPanel::makeList() {
-  m_list = new QTableView(this);
-  m_list->setObjectName(QStringLiteral("lvwEVENT"));
+  m_list = new LiveEventList(QStringLiteral("lvwEVENT"), m_rows, this);
   setAccessibleNumber(*m_list, kEvents);
-  m_list->setModel(&m_rows);
-  m_list->setItemDelegateForColumn(EventListModel::Action, new LiveEventDelegate(m_list));
-  m_list->setFrameShape(QFrame::NoFrame);
-  m_list->hideColumn(EventListModel::Clock); // drawn with the words
-  m_list->hideColumn(EventListModel::Period);
-  m_list->hideColumn(EventListModel::Score);
-  m_list->horizontalHeader()->hide();
-  m_list->horizontalHeader()->setSectionResizeMode(EventListModel::Action, QHeaderView::Stretch);
-  m_list->verticalHeader()->hide();
-  m_list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
-  m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // words keep their width when the list grows
-  m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-  m_list->setShowGrid(false);
-  m_list->setWordWrap(false);
-  m_list->setTabKeyNavigation(false);
-  m_list->viewport()->installEventFilter(this);
-  m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+  serve(*m_list);
   connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &LiveEventPanel::showCommands);
-  connect(m_list, &QTableView::activated, this, [this] { m_edit->trigger(); });
+}
+
+// A double click puts what was counted in correction; anything else is edited.
+void LiveEventPanel::serve(LiveEventList& list) {
+  list.setDoubleClick([this](const QModelIndex& row) {
+    const EventPlace event = placeOf(m_rows.eventAt(row));
+    if (m_game == nullptr || !EventCorrection::canCorrect(*m_game, event))
+      return false;
+    emit correctionAsked(event);
+    return true;
+  });
+  connect(&list, &QTableView::activated, this, [this] { m_edit->trigger(); });
+  connect(&list, &LiveEventList::chipClicked, this, [this, &list](const QModelIndex& row) {
+    offerRepairs(m_rows.eventAt(row), list.cornerUnder(row));
+  });
+}
+
+// By the command, and by the window's own button.
+void LiveEventPanel::showWindow(bool isOpen) {
+  if (!isOpen) {
+    if (m_window != nullptr)
+      m_windowPlace = m_window->saveGeometry();
+    delete std::exchange(m_window, nullptr);
+    return;
+  }
+  m_window = new EventWindow(*m_list, this);
+  serve(m_window->list());
+  // Not while it is closing.
+  connect(
+      m_window, &EventWindow::closed, m_detach, [this] { m_detach->setChecked(false); },
+      Qt::QueuedConnection);
+  nameWindow();
+  m_window->open(m_windowPlace);
+}
+
+void LiveEventPanel::nameWindow() {
+  if (m_window == nullptr)
+    return;
+  const std::string* names = m_rows.game().details.abbreviation;
+  m_window->setWindowTitle(
+      asTitle(QStringLiteral("%1: %2 – %3").arg(caption(m_texts, kEvents), toQt(names[0]), toQt(names[1]))));
+}
+
+QByteArray LiveEventPanel::windowPlace() const {
+  return m_window != nullptr ? m_window->saveGeometry() : m_windowPlace;
+}
+
+void LiveEventPanel::restoreWindow(const QByteArray& place, bool isOpen) {
+  m_windowPlace = place;
+  m_detach->setChecked(isOpen);
 }
 
 QAction* LiveEventPanel::makeAction(const char* name, int text, const char* iconName) {
@@ -139,7 +168,9 @@ QWidget* LiveEventPanel::makeButtons() {
   m_undo = makeAction("cmdUNDO", 0, "undo");
   m_redo = makeAction("cmdREDO", 0, "redo");
   m_filter = makeAction("cmdFILTER", kFilter, "filter");
-  m_filter->setCheckable(true);
+  m_detach = makeAction("cmdDETACH", kDetach, "detach");
+  for (QAction* action : {m_filter, m_detach})
+    action->setCheckable(true);
   m_delete->setShortcut(QKeySequence::Delete);
   m_undo->setShortcut(Qt::CTRL | Qt::Key_Z);
   m_redo->setShortcut(Qt::CTRL | Qt::Key_Y);
@@ -150,7 +181,7 @@ QWidget* LiveEventPanel::makeButtons() {
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(4, 1, 4, 1);
   layout->setSpacing(1);
-  for (QAction* action : {m_undo, m_redo, m_edit, m_insertAfter, m_delete, m_doubt, m_filter}) {
+  for (QAction* action : {m_undo, m_redo, m_edit, m_insertAfter, m_delete, m_doubt, m_filter, m_detach}) {
     auto* button = new QToolButton(row);
     button->setDefaultAction(action);
     button->setToolButtonStyle(Qt::ToolButtonIconOnly);
@@ -199,6 +230,7 @@ QWidget* LiveEventPanel::makeButtons() {
   });
   connect(m_undo, &QAction::triggered, this, &LiveEventPanel::undoAsked);
   connect(m_redo, &QAction::triggered, this, &LiveEventPanel::redoAsked);
+  connect(m_detach, &QAction::toggled, this, &LiveEventPanel::showWindow);
   connect(m_filter, &QAction::toggled, this, [this](bool isOpen) {
     m_filters->setVisible(isOpen);
     if (!isOpen) // nothing stays hidden that one could wait for
@@ -232,6 +264,7 @@ void LiveEventPanel::showGame(const LiveGame& game) {
   else if (top.isValid())
     m_list->scrollTo(top, QAbstractItemView::PositionAtTop);
   m_filters->showGame(m_rows.game(), m_rows.words());
+  nameWindow();
   showChecks();
   showCommands();
 }
@@ -239,23 +272,23 @@ void LiveEventPanel::showGame(const LiveGame& game) {
 void LiveEventPanel::relabelPanel() {
   m_rows.relabel();
   m_filters->relabelRow(m_rows.game(), m_rows.words());
+  nameWindow();
   showChecks();
   showCommands();
 }
 
 void LiveEventPanel::applyColours() {
   const Measure& measure = Theme::measure();
-  const int rowHeight = measure(23, 30);
-  m_list->verticalHeader()->setMinimumSectionSize(rowHeight);
-  m_list->verticalHeader()->setDefaultSectionSize(rowHeight);
-  m_list->setMinimumHeight(kFewestRows * rowHeight);
+  m_list->applyColours();
+  m_list->setMinimumHeight(kFewestRows * m_list->verticalHeader()->defaultSectionSize());
+  if (m_window != nullptr)
+    m_window->list().applyColours();
   for (QToolButton* button : m_buttons) {
-    button->setFixedSize(measure(28, 34), measure(26, 32));
+    button->setFixedSize(measure(26, 34), measure(26, 32));
     button->setIconSize({measure(18, 22), measure(18, 22)});
   }
   m_checks->setFixedSize(measure(44, 56), measure(22, 26));
   m_checks->setFont(Theme::font(Type::Small, QFont::DemiBold));
-  m_list->viewport()->update();
   showChecks();
   update();
 }
@@ -420,10 +453,11 @@ void LiveEventPanel::leadToCheck() {
     next = std::ranges::upper_bound(events, chosenNow[0]);
   const std::size_t event = next == events.end() ? events.front() : *next;
   choose(event);
-  offerRepairs(event);
+  offerRepairs(event, m_list->cornerUnder(m_rows.rowOf(event)));
 }
 
-void LiveEventPanel::offerRepairs(std::size_t event) {
+// `corner` of the screen, where the menu comes up.
+void LiveEventPanel::offerRepairs(std::size_t event, const QPoint& corner) {
   if (m_game == nullptr || !m_game->canRecord())
     return;
   auto* menu = new PassingMenu(this);
@@ -453,7 +487,7 @@ void LiveEventPanel::offerRepairs(std::size_t event) {
   if (!isLast)
     connect(add(m_texts.text(kNextToCheck)), &QAction::triggered, this, &LiveEventPanel::leadToCheck,
             Qt::QueuedConnection); // when this menu has closed
-  menu->popup(cornerUnder(event));
+  menu->popup(corner);
 }
 
 void LiveEventPanel::repair(const LiveRepair& repair) {
@@ -462,36 +496,6 @@ void LiveEventPanel::repair(const LiveRepair& repair) {
   case LiveRepair::Kind::Change: return emit editAsked(repair.event);
   case LiveRepair::Kind::Deletion: return emit deleteAsked({repair.event}, true);
   }
-}
-
-QPoint LiveEventPanel::cornerUnder(std::size_t event) const {
-  return m_list->viewport()->mapToGlobal(m_list->visualRect(m_rows.rowOf(event)).bottomLeft());
-}
-
-// A double click puts what was counted in correction; anything else is edited.
-bool LiveEventPanel::takeDoubleClick(const QMouseEvent& mouse) {
-  const QModelIndex index = m_list->indexAt(mouse.position().toPoint());
-  if (mouse.button() != Qt::LeftButton || !index.isValid() || m_game == nullptr)
-    return false;
-  const EventPlace event = placeOf(m_rows.eventAt(index));
-  if (!EventCorrection::canCorrect(*m_game, event))
-    return false;
-  emit correctionAsked(event);
-  return true;
-}
-
-bool LiveEventPanel::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == m_list->viewport() && event->type() == QEvent::MouseButtonDblClick)
-    return takeDoubleClick(static_cast<const QMouseEvent&>(*event));
-  if (event->type() == QEvent::MouseButtonRelease) {
-    const auto& mouse = static_cast<const QMouseEvent&>(*event);
-    const QModelIndex index = m_list->indexAt(mouse.position().toPoint());
-    if (mouse.button() == Qt::LeftButton && index.column() == EventListModel::Action &&
-        index.data(LiveEventRows::HasFinding).toBool() &&
-        LiveEventDelegate::chipOf(m_list->visualRect(index)).contains(mouse.position().toPoint()))
-      offerRepairs(m_rows.eventAt(index));
-  }
-  return QWidget::eventFilter(watched, event);
 }
 
 // A shot takes its assist or rebound along where that is wanted.
@@ -526,7 +530,7 @@ void LiveEventPanel::askDeletion() {
   };
   offer(withPlaceholder(m_texts, kDeleteWith, words.join(QStringLiteral(", "))), together);
   offer(caption(m_texts, kDeleteAlone), events);
-  menu->popup(cornerUnder(chosenEvents.front()));
+  menu->popup(m_list->cornerUnder(m_rows.rowOf(chosenEvents.front())));
   menu->setActiveAction(menu->actions().constFirst());
 }
 

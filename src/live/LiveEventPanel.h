@@ -12,14 +12,14 @@
 #include <vector>
 
 class QAction;
-class QMouseEvent;
 class QPushButton;
-class QTableView;
 class QToolButton;
 
 namespace hooptab {
 
 class EventFilterRow;
+class EventWindow;
+class LiveEventList;
 class LiveGame;
 struct LiveAction;
 
@@ -38,6 +38,10 @@ class LiveEventPanel : public QWidget {
   void leaveDeleted();                 // what is selected and deleted now is so no more
   void showOnly(int team, int period); // as by the filters
   void leadToCheck();                  // to the first event to look at, and from it to the next
+  // The window of their own: where it stands, or was left; empty when never.
+  bool hasWindow() const { return m_window != nullptr; }
+  QByteArray windowPlace() const;
+  void restoreWindow(const QByteArray& place, bool isOpen);
   std::size_t findings() const { return m_rows.findings().size(); }
   std::size_t doubtful() const { return m_rows.doubtful().size(); }
 
@@ -55,23 +59,23 @@ class LiveEventPanel : public QWidget {
   void redoAsked();
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override; // a click on a mark
   void paintEvent(QPaintEvent* event) override;
 
  private:
   QAction* makeAction(const char* name, int text, const char* iconName);
   QWidget* makeButtons();
   void makeList();
+  void serve(LiveEventList& list);
+  void showWindow(bool isOpen);
+  void nameWindow();
   void showChecks();
   void showCommands();
   void showTurn(QAction& action, const LiveAction* turned, int text, int nothing) const;
   std::vector<std::size_t> toCheck() const; // in the order of the game
   void select(const std::vector<EventPlace>& events, const std::optional<EventPlace>& current);
-  void offerRepairs(std::size_t event);
+  void offerRepairs(std::size_t event, const QPoint& corner);
   void repair(const LiveRepair& repair);
-  QPoint cornerUnder(std::size_t event) const;
   void askDeletion();
-  bool takeDoubleClick(const QMouseEvent& mouse);
   void choose(std::size_t event);
   EventPlace placeOf(std::size_t event) const;
   std::vector<EventPlace> placesOf(const std::vector<std::size_t>& events) const;
@@ -82,7 +86,9 @@ class LiveEventPanel : public QWidget {
   const LiveGame* m_game = nullptr;
   QString m_path; // of the game shown
   LiveEventRows m_rows;
-  QTableView* m_list = nullptr;
+  LiveEventList* m_list = nullptr;
+  EventWindow* m_window = nullptr; // while the events stand in one of their own, too
+  QByteArray m_windowPlace;        // as it was left
   QPushButton* m_checks = nullptr;
   std::vector<QToolButton*> m_buttons;
   EventFilterRow* m_filters = nullptr;
@@ -98,6 +104,7 @@ class LiveEventPanel : public QWidget {
   QAction* m_undo = nullptr;
   QAction* m_redo = nullptr;
   QAction* m_filter = nullptr;
+  QAction* m_detach = nullptr;
 };
 
 } // namespace hooptab

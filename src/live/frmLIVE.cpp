@@ -69,7 +69,9 @@ constexpr int kCloseInPlay = 2506;
 constexpr int kGameOverInPlay = 2507;
 constexpr const char* kRowsStay = "rows-stay";
 constexpr const char* kRowsChange = "rows-change";
-constexpr const char* kPlacesStay = " places-stay";
+constexpr const char* kPlacesStay = "places-stay";
+constexpr const char* kEventsOpen = "events-open"; // and in the next word where
+constexpr const char* kEventsClosed = "events-closed";
 
 constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
 constexpr auto kRetryInterval = 2s;
@@ -266,9 +268,8 @@ void frmLIVE::placeOverlays() {
   m_notices->placeIn(column, line);
   m_correction->setGeometry(line);
   const int top = m_score->mapTo(this, QPoint(0, m_score->bottomOfClock())).y() + m_side->layout()->spacing();
-  m_card->setGeometry(
-      column.left(), top, column.width(),
-      std::min(m_card->layout()->totalHeightForWidth(column.width()), column.bottom() + 1 - top));
+  const int height = std::min(m_card->layout()->totalHeightForWidth(column.width()), column.height());
+  m_card->setGeometry(column.left(), std::min(top, column.bottom() + 1 - height), column.width(), height);
 }
 
 // Gaps and the column's width, by the measure in use.
@@ -595,15 +596,21 @@ void frmLIVE::showSides() {
 }
 
 QByteArray frmLIVE::arrangement() const {
-  QByteArray kept = m_rowsStay ? kRowsStay : kRowsChange; // never empty, which would not be remembered
+  QByteArrayList kept = {m_rowsStay ? kRowsStay : kRowsChange}; // never empty, which would not be remembered
   if (m_bench->placesStay())
-    kept += kPlacesStay;
-  return kept;
+    kept << kPlacesStay;
+  if (const QByteArray place = m_events->windowPlace(); !place.isEmpty())
+    kept << (m_events->hasWindow() ? kEventsOpen : kEventsClosed) << place.toBase64();
+  return kept.join(' ');
 }
 
 void frmLIVE::restoreArrangement(const QByteArray& arrangement) {
-  m_rowsStay = arrangement.startsWith(kRowsStay);
-  m_bench->setPlacesStay(arrangement.endsWith(kPlacesStay));
+  const QByteArrayList kept = arrangement.split(' ');
+  m_rowsStay = kept.contains(kRowsStay);
+  m_bench->setPlacesStay(kept.contains(kPlacesStay));
+  const bool hasWindow = kept.contains(kEventsOpen);
+  if (const qsizetype at = kept.indexOf(hasWindow ? kEventsOpen : kEventsClosed); at >= 0)
+    m_events->restoreWindow(QByteArray::fromBase64(kept.value(at + 1)), hasWindow);
   m_game.setKeepsPlaces(m_bench->placesStay());
   showSides();
 }
@@ -645,6 +652,7 @@ void frmLIVE::applyColours() {
   for (PlayerPanel* panel : m_panels)
     panel->applyColours();
   m_score->applyColours();
+  m_sides->applyColours();
   m_bench->applyColours();
   m_events->applyColours();
   m_now->applyColours();
