@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPushButton>
 
 #include <algorithm>
@@ -31,16 +32,15 @@ constexpr int kAllTheSame = 2472;
 constexpr int kComesIn = 2473;
 constexpr int kTooSoon = 2475;
 
-// As wide as a panel of the live window: what lies beside it stays in reach.
-constexpr int kInnerWidth = 190;
 constexpr int kMates = 2;      // buttons side by side, with names
 constexpr int kRebounders = 3; // the same, without
-constexpr int kMateHeight = 40;
-constexpr int kRebounderHeight = 34;
 constexpr int kMargin = 9;
 constexpr int kGap = 4;
 constexpr int kBandMargin = 3;
 constexpr double kRadius = 8;
+constexpr int kArrow = 14;     // length
+constexpr int kArrowFoot = 10; // half of it
+constexpr int kBetween = 5;    // two panels
 constexpr int kFlash = 400;    // milliseconds
 constexpr int kSamePlace = 12; // pixels
 
@@ -78,7 +78,6 @@ FollowUpBar::FollowUpBar(const Texts& texts, QWidget* parent) : QWidget(parent),
   // A click between the buttons is no click on what lies below.
   setAttribute(Qt::WA_NoMousePropagation);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->setSpacing(kGap);
   layout->addWidget(m_assist);
   layout->addWidget(m_rebound);
@@ -100,12 +99,10 @@ QWidget* FollowUpBar::makeTitle(QWidget* form) {
   const auto index = static_cast<std::size_t>(m_titles[0] == nullptr ? 0 : 1);
   m_titles[index] = new PlainLabel(row);
   m_titles[index]->setObjectName(QStringLiteral("lblQUESTION"));
-  m_titles[index]->setFont(Theme::font(Type::Name));
+  Theme::setType(*m_titles[index], Type::Name);
   m_numbers[index] = new PlainLabel(row);
   m_numbers[index]->setObjectName(QStringLiteral("lblTYPED"));
-  const QFont typed = Theme::font(Type::Points);
-  m_numbers[index]->setFont(typed);
-  m_numbers[index]->setFixedHeight(QFontMetrics(typed).height());
+  Theme::setType(*m_numbers[index], Type::Points);
   layout->addWidget(m_titles[index], 1);
   layout->addWidget(m_numbers[index]);
   return row;
@@ -120,7 +117,6 @@ QWidget* FollowUpBar::makeReason() {
   m_reason = new PlainLabel(row);
   m_reason->setObjectName(QStringLiteral("lblREASON"));
   m_reason->setWordWrap(true);
-  m_reason->setFixedWidth(kInnerWidth);
   layout->addWidget(m_reason);
   auto* ways = new QHBoxLayout;
   ways->setSpacing(kGap);
@@ -148,12 +144,11 @@ QLabel* FollowUpBar::makeBand(QWidget* form, const QString& name) {
   band->setObjectName(name);
   band->setAutoFillBackground(true);
   band->setMargin(kBandMargin);
-  band->setFixedWidth(kInnerWidth);
   return band;
 }
 
-JerseyButton* FollowUpBar::makeButton(QWidget* form, int index, QSize size) {
-  auto* button = new JerseyButton(jerseyButtonName(index), size, form);
+JerseyButton* FollowUpBar::makeButton(QWidget* form, int index) {
+  auto* button = new JerseyButton(jerseyButtonName(index), {}, form);
   connect(button, &JerseyButton::pressed, this, [this, button] {
     const auto found = std::ranges::find(m_buttons, button);
     if (m_isOpen && found != m_buttons.end())
@@ -186,9 +181,8 @@ QWidget* FollowUpBar::makeAssist() {
   grid->addWidget(makeTitle(form), 0, 0, 1, kMates);
   m_shooters = makeBand(form, QStringLiteral("lblTEAM"));
   grid->addWidget(m_shooters, 1, 0, 1, kMates);
-  const QSize size((kInnerWidth - kGap) / kMates, kMateHeight);
   for (int index = 0; index < kGroup; ++index) {
-    m_mates[static_cast<std::size_t>(index)] = makeButton(form, index, size);
+    m_mates[static_cast<std::size_t>(index)] = makeButton(form, index);
     if (index < 2 * kMates) // the shooter is left out: four at most
       grid->addWidget(m_mates[static_cast<std::size_t>(index)], 2 + index / kMates, index % kMates);
   }
@@ -204,7 +198,6 @@ QWidget* FollowUpBar::makeRebound() {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kGap);
   grid->addWidget(makeTitle(form), 0, 0, 1, kRebounders);
-  const QSize size((kInnerWidth - (kRebounders - 1) * kGap) / kRebounders, kRebounderHeight);
   constexpr int kRows = 3; // of a group: its name, and its players in two
   for (int group = 0; group < 2; ++group) {
     QLabel* label = makeBand(form, QStringLiteral("lblTYPEREBOND(%1)").arg(group));
@@ -212,13 +205,29 @@ QWidget* FollowUpBar::makeRebound() {
     grid->addWidget(label, 1 + kRows * group, 0, 1, kRebounders);
     for (int place = 0; place < kGroup; ++place) {
       const int index = group * kGroup + place;
-      m_rebounders[static_cast<std::size_t>(index)] = makeButton(form, index, size);
+      m_rebounders[static_cast<std::size_t>(index)] = makeButton(form, index);
       grid->addWidget(m_rebounders[static_cast<std::size_t>(index)], 2 + kRows * group + place / kRebounders,
                       place % kRebounders);
     }
   }
   grid->addWidget(makeNobody(form, "cmdNOREB"), 1 + 2 * kRows, 0, 1, kRebounders);
   return form;
+}
+
+// As wide as a panel of the live window: what lies beside it stays in reach.
+void FollowUpBar::setPanelWidth(int panel) {
+  const Measure& measure = Theme::measure();
+  m_innerWidth = (panel > 0 ? panel : measure(210, 294)) - 2 * kMargin;
+  for (QLabel* band : {m_reason, m_shooters, m_groups[0], m_groups[1]})
+    band->setFixedWidth(m_innerWidth);
+  for (QLabel* number : m_numbers)
+    number->setFixedHeight(number->fontMetrics().height());
+  const QSize mate((m_innerWidth - kGap) / kMates, measure(40, 50));
+  for (JerseyButton* button : m_mates)
+    button->setFixedSize(mate);
+  const QSize rebounder((m_innerWidth - (kRebounders - 1) * kGap) / kRebounders, measure(34, 44));
+  for (JerseyButton* button : m_rebounders)
+    button->setFixedSize(rebounder);
 }
 
 void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, std::size_t place) {
@@ -241,7 +250,7 @@ void FollowUpBar::nameTeam(const LiveGame& game, QLabel& band, int text, int tea
   const GameDetails& details = game.game().details;
   const QString name = toQt(details.name[team]);
   const QString words = text == 0 ? name : toQt(m_texts.text(text)) + QLatin1Char(' ') + name;
-  band.setText(band.fontMetrics().elidedText(words, Qt::ElideRight, kInnerWidth - 2 * kBandMargin));
+  band.setText(band.fontMetrics().elidedText(words, Qt::ElideRight, m_innerWidth - 2 * kBandMargin));
   band.setToolTip(words);
   const QColor colour = colourOf(details.teamColour[team]);
   QPalette colours = palette();
@@ -256,6 +265,7 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
   m_question.ask(game, followUps, team, shooter);
   if (m_question.choices().empty())
     return;
+  setPanelWidth(panel.width());
   m_ownRefusal = 0;
   m_isTypedOnKeypad = false;
   m_buttons.clear();
@@ -291,18 +301,24 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
   m_sinceOpened.start();
 }
 
-// On the panel of a neighbour: the right one, and of the last the left one.
+// On the panel of a neighbour, with an arrow to the shooter: the right one, and of the last the left one.
 void FollowUpBar::placeBeside(const QRect& panel, const QRect& room) {
   const QRect inner(parentWidget()->mapFromGlobal(room.topLeft()), room.size());
   const QRect beside(parentWidget()->mapFromGlobal(panel.topLeft()), panel.size());
+  const bool fitsRight = beside.right() + kBetween + m_innerWidth + 2 * kMargin <= inner.right() + 1;
+  m_points = panel.isEmpty() ? Points::Nowhere : fitsRight ? Points::Left : Points::Right;
+  layout()->setContentsMargins(kMargin + (m_points == Points::Left ? kArrow : 0), kMargin,
+                               kMargin + (m_points == Points::Right ? kArrow : 0), kMargin);
+  adjustSize();
   QPoint corner = inner.center() - rect().center();
-  if (!panel.isEmpty()) {
-    const bool fitsRight = beside.right() + 1 + width() <= inner.right() + 1;
-    corner = {fitsRight ? beside.right() + 1 : beside.left() - width(), beside.center().y() - height() / 2};
-  }
+  if (!panel.isEmpty())
+    corner = {fitsRight ? beside.right() + 1 + kBetween - kArrow
+                        : beside.left() - kBetween + kArrow - width(),
+              beside.center().y() - height() / 2};
   const QSize free = parentWidget()->size() - size();
   move(std::clamp(corner.x(), 0, std::max(free.width(), 0)),
        std::clamp(corner.y(), 0, std::max(free.height(), 0)));
+  m_shooterAt = beside.center().y();
 }
 
 void FollowUpBar::settle() {
@@ -523,8 +539,24 @@ void FollowUpBar::paintEvent(QPaintEvent*) {
   const double width = m_flash.isActive() ? 4 : 2;
   painter.setPen(QPen(m_flash.isActive() ? look.missed : look.accent, width));
   painter.setBrush(look.surface);
-  painter.drawRoundedRect(QRectF(rect()).adjusted(width / 2, width / 2, -width / 2, -width / 2), kRadius,
-                          kRadius);
+  const double left = m_points == Points::Left ? kArrow : width / 2;
+  const double right = m_points == Points::Right ? kArrow : width / 2;
+  const QRectF body = QRectF(rect()).adjusted(left, width / 2, -right, -width / 2);
+  QPainterPath shape;
+  shape.addRoundedRect(body, kRadius, kRadius);
+  if (m_points != Points::Nowhere) {
+    const double foot = m_points == Points::Left ? body.left() : body.right();
+    const double tip = m_points == Points::Left ? foot - kArrow + width : foot + kArrow - width;
+    const double middle =
+        std::clamp<double>(m_shooterAt - y(), kRadius + kArrow, height() - kRadius - kArrow);
+    QPainterPath arrow;
+    arrow.addPolygon(QPolygonF({{foot, middle - kArrowFoot},
+                                {tip, middle},
+                                {foot, middle + kArrowFoot},
+                                {foot, middle - kArrowFoot}}));
+    shape = shape.united(arrow);
+  }
+  painter.drawPath(shape);
 }
 
 } // namespace hooptab

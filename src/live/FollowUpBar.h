@@ -85,7 +85,8 @@ class FollowUpBar : public QWidget {
   QLabel* makeBand(QWidget* form, const QString& name);
   QPushButton* makeNobody(QWidget* form, const char* name);
   QWidget* makeReason();
-  JerseyButton* makeButton(QWidget* form, int index, QSize size);
+  JerseyButton* makeButton(QWidget* form, int index);
+  void setPanelWidth(int panel);
   void offer(const LiveGame& game, JerseyButton& button, std::size_t choice);
   void nameTeam(const LiveGame& game, QLabel& band, int text, int team);
   void placeBeside(const QRect& panel, const QRect& room);
@@ -110,6 +111,10 @@ class FollowUpBar : public QWidget {
   std::array<QLabel*, 2> m_titles = {};
   std::array<QLabel*, 2> m_numbers = {};
   QLabel* m_reason = nullptr;
+  int m_innerWidth = 0; // between the margins
+  enum class Points { Nowhere, Left, Right };
+  Points m_points = Points::Nowhere;          // to the shooter
+  int m_shooterAt = 0;                        // his height in the parent
   std::array<QPushButton*, 2> m_waysOut = {}; // in the order of FollowUpQuestion::WayOut
 
   FollowUpQuestion m_question;

@@ -13,6 +13,7 @@
 #include <QIntValidator>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -31,30 +32,32 @@ constexpr int kLeadToEvents = 2482;
 constexpr int kToCheck = 2483;
 constexpr int kNothingToCheck = 1973;
 constexpr int kCheck = 2484;
-constexpr int kSwitch = 1043;
+constexpr int kSwitch = 1608;
+constexpr int kSwitchTip = 1043;
 constexpr int kSwitchNow = 2381;
-constexpr int kSubstitution = 2485;
+constexpr int kSubstitution = 1561;
+constexpr int kSubstitutionTip = 2485;
 constexpr int kStartPeriod = 2486;
 constexpr int kStartOvertime = 2487;
 constexpr int kGameOver = 2488;
 constexpr int kClose = 2489;
+constexpr int kIsItSo = 2517;
+constexpr int kLookOnce = 2518;
+constexpr int kWhatNext = 2519;
 
-constexpr int kMargin = 8;
-constexpr int kGap = 4;
-constexpr int kScoreWidth = 52;
+constexpr int kMargin = 9;
+constexpr int kGap = 5;
+constexpr int kFrame = 2;
 constexpr int kHighestScore = 999;
 
 } // namespace
 
 PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
-    : QFrame(parent), m_texts(texts), m_title(new PlainLabel(this)) {
+    : QWidget(parent), m_texts(texts), m_title(new PlainLabel(this)) {
   setObjectName(QStringLiteral("picPERIODEND"));
   setAutoFillBackground(true);
-  setFrameShape(QFrame::Box);
   setAttribute(Qt::WA_NoMousePropagation);
-  QFont bold = font();
-  bold.setBold(true);
-  m_title->setFont(bold);
+  Theme::setType(*m_title, Type::Count, QFont::DemiBold);
   auto* close = new QToolButton(this);
   close->setObjectName(QStringLiteral("cmdCARDCLOSE"));
   close->setText(QStringLiteral("✕"));
@@ -63,7 +66,10 @@ PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
   setToolTipNumber(*close, kClose);
   setAccessibleNumber(*close, kClose);
   connect(close, &QToolButton::clicked, this, &QWidget::hide);
-  auto* head = new QHBoxLayout;
+  m_head = new QWidget(this);
+  m_head->setAutoFillBackground(true);
+  auto* head = new QHBoxLayout(m_head);
+  head->setContentsMargins(kMargin, kGap, kGap, kGap);
   head->addWidget(m_title, 1);
   head->addWidget(close);
 
@@ -77,8 +83,10 @@ PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
   m_check = makeButton("cmdCARDCHECK", kCheck);
   m_switch = makeButton("cmdCARDSWITCH", kSwitch);
   m_substitute = makeButton("cmdCARDSUBST", kSubstitution);
+  setToolTipNumber(*m_switch, kSwitchTip);
+  setToolTipNumber(*m_substitute, kSubstitutionTip);
   m_next = makeButton("cmdNEXT", 0);
-  m_next->setFont(bold);
+  Theme::setType(*m_next, Type::Body, QFont::Bold);
   connect(m_events, &QPushButton::clicked, this, [this] { emit eventsAsked(m_differs); });
   connect(m_check, &QPushButton::clicked, this, &PeriodEndCard::checkAsked);
   connect(m_switch, &QPushButton::clicked, this, &PeriodEndCard::switchAsked);
@@ -86,18 +94,37 @@ PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
   connect(m_next, &QPushButton::clicked, this, &PeriodEndCard::nextAsked);
 
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(kMargin, kGap, kMargin, kMargin);
-  layout->setSpacing(kGap);
-  layout->addLayout(head);
-  layout->addWidget(makeScore());
-  for (QWidget* part :
-       {static_cast<QWidget*>(m_compared), static_cast<QWidget*>(m_events), static_cast<QWidget*>(m_toCheck),
-        static_cast<QWidget*>(m_check), static_cast<QWidget*>(m_switch), static_cast<QWidget*>(m_substitute)})
-    layout->addWidget(part);
-  layout->addWidget(m_next);
-  layout->addStretch();
+  layout->setContentsMargins(kFrame, kFrame, kFrame, kFrame);
+  layout->setSpacing(0);
+  layout->addWidget(m_head);
+  auto* parts = new QVBoxLayout;
+  parts->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  parts->setSpacing(kGap);
+  parts->addWidget(makeTitle(kIsItSo));
+  parts->addWidget(makeScore());
+  parts->addWidget(m_compared);
+  parts->addWidget(m_events);
+  parts->addWidget(makeTitle(kLookOnce));
+  parts->addWidget(m_toCheck);
+  parts->addWidget(m_check);
+  parts->addWidget(makeTitle(kWhatNext));
+  m_both = new QBoxLayout(QBoxLayout::LeftToRight);
+  m_both->setSpacing(kGap);
+  m_both->addWidget(m_switch, 1);
+  m_both->addWidget(m_substitute, 1);
+  parts->addLayout(m_both);
+  parts->addWidget(m_next);
+  parts->addStretch();
+  layout->addLayout(parts);
   relabel(*this, texts);
   hide();
+}
+
+QLabel* PeriodEndCard::makeTitle(int text) {
+  auto* title = new PlainLabel(this);
+  Theme::setType(*title, Type::Body, QFont::DemiBold);
+  setTextNumber(*title, text);
+  return title;
 }
 
 QPushButton* PeriodEndCard::makeButton(const char* name, int text) {
@@ -121,8 +148,8 @@ QWidget* PeriodEndCard::makeScore() {
     m_scores[team] = new QLineEdit(row);
     m_scores[team]->setObjectName(QStringLiteral("txtSCORE(%1)").arg(team));
     m_scores[team]->setValidator(new QIntValidator(0, kHighestScore, m_scores[team]));
-    m_scores[team]->setFixedWidth(kScoreWidth);
     m_scores[team]->setAlignment(Qt::AlignCenter);
+    Theme::setType(*m_scores[team], Type::Count, QFont::Bold);
     setToolTipNumber(*m_scores[team], kScore);
     setAccessibleNumber(*m_scores[team], kScore);
     m_scores[team]->installEventFilter(this);
@@ -178,6 +205,8 @@ void PeriodEndCard::relabelCard() {
             : caption(m_texts, kNothingToCheck));
   m_check->setVisible(isAny);
   m_switch->setText(caption(m_texts, m_game->isHalfTime() ? kSwitchNow : kSwitch));
+  // The question of half-time needs the whole width.
+  m_both->setDirection(m_game->isHalfTime() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
   const int lock = m_game->startLock();
   QString next;
   switch (m_game->phase()) {
@@ -227,11 +256,27 @@ void PeriodEndCard::applyColours() {
   QPalette colours;
   colours.setColor(QPalette::Window, colours.color(QPalette::Base));
   setPalette(colours);
+  const Look& look = Theme::look();
+  QPalette head;
+  head.setColor(QPalette::Window, look.plate);
+  for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
+    head.setColor(role, look.plateText);
+  m_head->setPalette(head);
+  const Measure& measure = Theme::measure();
+  for (QLineEdit* score : m_scores)
+    score->setFixedSize(measure(52, 66), measure(34, 44));
+  m_next->setMinimumHeight(measure(38, 48));
   relabelCard();
 }
 
+void PeriodEndCard::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(QPen(Theme::accent(), kFrame));
+  painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+}
+
 void PeriodEndCard::hideEvent(QHideEvent* event) {
-  QFrame::hideEvent(event);
+  QWidget::hideEvent(event);
   if (isHidden()) { // and not the window around it, which comes back
     m_period = 0;
     emit closed();
@@ -241,11 +286,11 @@ void PeriodEndCard::hideEvent(QHideEvent* event) {
 // A score is typed in passing: its end gives the keys back, and the clock's key is the clock's.
 bool PeriodEndCard::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
-    return QFrame::eventFilter(watched, event);
+    return QWidget::eventFilter(watched, event);
   const int key = static_cast<const QKeyEvent*>(event)->key();
   const bool isEnd = key == Qt::Key_Return || key == Qt::Key_Enter;
   if (!isEnd && key != Qt::Key_Space)
-    return QFrame::eventFilter(watched, event);
+    return QWidget::eventFilter(watched, event);
   event->accept();
   if (event->type() == QEvent::ShortcutOverride)
     return true;

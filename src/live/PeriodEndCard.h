@@ -5,20 +5,20 @@
 
 #include "storage/Texts.h"
 
-#include <QFrame>
+#include <QWidget>
 
 #include <array>
 
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QToolButton;
+class QBoxLayout;
 
 namespace hooptab {
 
 class LiveGame;
 
-class PeriodEndCard : public QFrame {
+class PeriodEndCard : public QWidget {
   Q_OBJECT
  public:
   // `texts` must outlive it.
@@ -41,11 +41,13 @@ class PeriodEndCard : public QFrame {
   void closed();
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QWidget* makeScore();
+  QLabel* makeTitle(int text);
   QPushButton* makeButton(const char* name, int text);
   void compare();
 
@@ -54,6 +56,7 @@ class PeriodEndCard : public QFrame {
   int m_period = 0; // that has ended
   std::size_t m_findings = 0;
   std::size_t m_doubtful = 0;
+  QWidget* m_head = nullptr;
   QLabel* m_title = nullptr;
   std::array<QLabel*, 2> m_names = {};
   std::array<QLineEdit*, 2> m_scores = {};
@@ -63,6 +66,7 @@ class PeriodEndCard : public QFrame {
   QPushButton* m_check = nullptr;
   QPushButton* m_switch = nullptr;
   QPushButton* m_substitute = nullptr;
+  QBoxLayout* m_both = nullptr; // what can be done before the next period
   QPushButton* m_next = nullptr;
   int m_differs = -1; // team whose score is another on the board
 };

@@ -21,6 +21,8 @@ constexpr int kIn = 1516;
 constexpr int kOut = 1517;
 constexpr int kSubstitution = 1561;
 constexpr int kUnknownPlayer = 1588;
+constexpr int kTwoInList = 2520; // beside a mark that says of what
+constexpr int kThreeInList = 2521;
 constexpr int kSubjectAndWords = 1801; // "XXX: YYY", each language with its own blanks
 
 std::string sentence(const Texts& texts, std::string_view subject, std::string_view words) {
@@ -121,9 +123,12 @@ EventWords::Parts EventWords::parts(std::size_t eventIndex) const {
       parts.name = isTeamItself(roster) ? who->name : familyName(who->name);
     if (!isTeamItself(roster))
       parts.jersey = std::string(event.player.jersey);
-    parts.action = event.isShot() ? std::string(m_texts.text(event.kind()->wordsText)) + " (" +
-                                        std::string(event.kind()->shortName) + ")"
-                                  : action(event);
+    const int shot = event.code == EventCode::GFG   ? kTwoInList
+                     : event.code == EventCode::GF3 ? kThreeInList
+                                                    : event.kind()->wordsText;
+    parts.action = event.isShot()
+                       ? std::string(m_texts.text(shot)) + " (" + std::string(event.kind()->shortName) + ")"
+                       : action(event);
   }
   return parts;
 }
