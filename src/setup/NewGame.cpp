@@ -127,10 +127,10 @@ void NewGame::chooseOwnTeam(int side) {
     chooseTeam(side, own.team);
 }
 
-void NewGame::renameOwnTeam(int side) {
+bool NewGame::renameOwnTeam(int side) {
   OwnTeam* own = ownTeam(sides[side].team);
   if (own == nullptr)
-    return;
+    return false;
   TeamRecord& record = own->record;
   if (record.name != sides[side].name) {
     record.name = sides[side].name;
@@ -142,6 +142,7 @@ void NewGame::renameOwnTeam(int side) {
   TeamEntry& listed = m_teams.at(static_cast<std::size_t>(own->team));
   listed.abbreviation = record.abbreviation;
   listed.category = record.category;
+  return true;
 }
 
 NewGame::Player* NewGame::wearerOf(int side, std::string_view number) {

@@ -86,8 +86,8 @@ class NewGame {
   // teams() the first time. Nothing where it is chosen already.
   void chooseOwnTeam(int side);
   // After a new name or category of the side: what teams() calls a team of this game follows, with the last
-  // word of the name as abbreviation. Nothing for a team of the list.
-  void renameOwnTeam(int side);
+  // word of the name as abbreviation. False, and nothing, for a team of the list.
+  bool renameOwnTeam(int side);
 
   // The players of the side, by their numbers ("4 5 7 10 23"): who is not named does not play, and a number
   // that nobody has is a player without a name, for this game alone. Without a team, the side gets its own.
