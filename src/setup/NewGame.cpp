@@ -22,6 +22,9 @@ constexpr int kInvalidTechnicalFouls = 1134;
 constexpr int kChooseTeams = 1135;
 constexpr int kChooseInputType = 1205;
 constexpr int kTooManyPlayers[2] = {1274, 1275};
+constexpr int kSideNames[2] = {1027, 1028};
+constexpr int kOwnAbbreviations[2] = {2558, 2559};
+constexpr int kInvalidNumber = 1171;
 constexpr int kSameTeam = 1406;
 constexpr int kFinishedGameIsLost = 1860;
 constexpr int kUnfinishedGameIsLost = 1861;
@@ -29,8 +32,12 @@ constexpr int kOtherFileIsLost = 1862;
 constexpr int kEnterDate = 1869;
 constexpr int kChooseGameType = 1870;
 constexpr int kChooseMainTeam = 1871;
+constexpr int kNumberTaken = 2531;
+constexpr int kNameTooLong = 2533;
 
-// What no common file system takes in a name.
+// Of a team without a record, by side: told apart at a glance.
+constexpr std::uint32_t kOwnColours[2] = {0x8C7A1F, kDefaultTeamColour};
+
 std::vector<NewGame::Player> playersOf(const std::vector<TeamPlayer>& stored) {
   using enum NewGame::Eligibility;
   std::vector<NewGame::Player> players;
@@ -48,6 +55,14 @@ std::vector<NewGame::Player> playersOf(const std::vector<TeamPlayer>& stored) {
         {std::move(number), player.record.position, player.record.name, eligibility, eligibility == CanPlay});
   }
   return players;
+}
+
+// A full name as a list calls its team: "Quarry Hill Otters" is "Otters".
+std::string abbreviationOf(std::string_view name) {
+  std::string word(Module1::trimmed(name));
+  word.erase(0, word.find_last_of(' ') + 1);
+  std::erase(word, '-'); // which would end it
+  return codepage::toUtf8(codepage::fromUtf8(word).substr(0, kLongestAbbreviation));
 }
 
 } // namespace
@@ -73,9 +88,10 @@ NewGame::NewGame(TeamStore& store, Settings& settings, const Texts& texts, std::
 
 void NewGame::chooseTeam(int side, int team) {
   const TeamEntry& chosen = m_teams.at(static_cast<std::size_t>(team));
-  const TeamRecord record = m_store.read(chosen.key);
+  const OwnTeam* own = ownTeam(team);
+  const TeamRecord record = own != nullptr ? own->record : m_store.read(chosen.key);
   sides[side] = {team, record.name, record.category, record.storedColour,
-                 playersOf(m_store.players(chosen.key))};
+                 own != nullptr ? std::vector<Player>() : playersOf(m_store.players(chosen.key))};
   if (record.isMain)
     mainTeam = side;
   else if (mainTeam == side)
@@ -85,6 +101,94 @@ void NewGame::chooseTeam(int side, int team) {
              record.technicalFoulLimit};
     date = m_today;
   }
+}
+
+NewGame::OwnTeam* NewGame::ownTeam(int team) {
+  const auto found = std::ranges::find(m_ownTeams, team, &OwnTeam::team);
+  return team == kNone || found == std::end(m_ownTeams) ? nullptr : &*found;
+}
+
+void NewGame::chooseOwnTeam(int side) {
+  OwnTeam& own = m_ownTeams[side];
+  if (own.team == kNone) {
+    own.team = static_cast<int>(m_teams.size());
+    own.record = {.abbreviation = std::string(m_texts.text(kOwnAbbreviations[side])),
+                  .category = {},
+                  .name = std::string(m_texts.text(kSideNames[side])),
+                  .minutesPerPeriod = "10",
+                  .periods = "4",
+                  .bonus = "5",
+                  .personalFoulLimit = "5",
+                  .technicalFoulLimit = "2",
+                  .storedColour = kOwnColours[side]};
+    m_teams.push_back({{}, 0, own.record.abbreviation, {}});
+  }
+  if (sides[side].team != own.team)
+    chooseTeam(side, own.team);
+}
+
+bool NewGame::renameOwnTeam(int side) {
+  OwnTeam* own = ownTeam(sides[side].team);
+  if (own == nullptr)
+    return false;
+  TeamRecord& record = own->record;
+  if (record.name != sides[side].name) {
+    record.name = sides[side].name;
+    record.abbreviation = abbreviationOf(record.name);
+    if (record.abbreviation.empty())
+      record.abbreviation = m_texts.text(kOwnAbbreviations[own - m_ownTeams]);
+  }
+  record.category = sides[side].category;
+  TeamEntry& listed = m_teams.at(static_cast<std::size_t>(own->team));
+  listed.abbreviation = record.abbreviation;
+  listed.category = record.category;
+  return true;
+}
+
+NewGame::Player* NewGame::wearerOf(int side, std::string_view number) {
+  std::vector<Player>& players = sides[side].players;
+  const auto found = std::ranges::find_if(players, [&](const Player& player) {
+    return player.eligibility == Eligibility::CanPlay &&
+           (player.number == number || Roster::areOneNumber(player.number, number));
+  });
+  return found == players.end() ? nullptr : &*found;
+}
+
+QuickRoster NewGame::takeNumbers(int side, std::string_view typed) {
+  QuickRoster roster = quickRoster(typed);
+  if (roster.problem != 0 || roster.jerseys.empty())
+    return roster;
+  if (sides[side].team == kNone)
+    chooseOwnTeam(side);
+  std::vector<Player>& players = sides[side].players;
+  std::erase_if(players, [](const Player& player) { return player.isAdded && player.name.empty(); });
+  for (Player& player : players)
+    player.isChecked = false;
+  for (const std::string& number : roster.jerseys) {
+    if (Player* wearer = wearerOf(side, number))
+      wearer->isChecked = true;
+    else
+      players.push_back({.number = number, .isChecked = true, .isAdded = true});
+  }
+  return roster;
+}
+
+std::string NewGame::addPlayer(int side, std::string_view number, std::string_view name) {
+  const std::string jersey(Module1::trimmed(number));
+  if (!isJersey(jersey))
+    return std::string(m_texts.text(kInvalidNumber));
+  if (const Player* wearer = wearerOf(side, jersey)) {
+    const std::string shown(Module1::trimmed(wearer->number + ' ' + wearer->name));
+    return Module1::withPlaceholder(m_texts.withPlaceholder(kNumberTaken, jersey), shown, "YYY");
+  }
+  Player player{
+      .number = jersey, .name = std::string(Module1::trimmed(name)), .isChecked = true, .isAdded = true};
+  if (!fitsInValue(playerValue(RosterPlayer{player.number, player.position, player.name})))
+    return std::string(m_texts.text(kNameTooLong));
+  if (sides[side].team == kNone)
+    chooseOwnTeam(side);
+  sides[side].players.push_back(std::move(player));
+  return {};
 }
 
 void NewGame::setChecked(int side, std::size_t player, bool isChecked) {

@@ -1,8 +1,10 @@
 // A game that is being set up: the whole form of the new-game window as plain data, and its rules. Which team
-// sets the parameters, what still misses, what is wrong, under which name the game is proposed, and the file
-// that it becomes. Knows no window and no calendar: today's date is given to it.
+// sets the parameters, who plays for this game alone, what still misses, what is wrong, under which name the
+// game is proposed, and the file that it becomes. Knows no window and no calendar: today's date is given to
+// it.
 #pragma once
 
+#include "setup/QuickRoster.h"
 #include "storage/ChoiceTexts.h"
 #include "storage/GameFile.h"
 #include "storage/Texts.h"
@@ -42,11 +44,12 @@ class NewGame {
 
   enum class Eligibility : std::uint8_t { CanPlay, NoJersey, NumberTaken, NumberWrittenOtherwise };
   struct Player {
-    std::string number;
+    std::string number = {};
     int position = kNoPosition;
-    std::string name;
+    std::string name = {};
     Eligibility eligibility = Eligibility::CanPlay;
     bool isChecked = false; // never for one who cannot play
+    bool isAdded = false;   // for this game alone: the team's list has him not
   };
   struct Side {
     int team = kNone; // position in teams()
@@ -79,6 +82,20 @@ class NewGame {
   void setChecked(int side, std::size_t player, bool isChecked); // nothing for one who cannot play
   void stepPosition(int side, std::size_t player);
 
+  // Chooses a team that no list keeps, with the usual rules and no players: the side's own one, added to
+  // teams() the first time. Nothing where it is chosen already.
+  void chooseOwnTeam(int side);
+  // After a new name or category of the side: what teams() calls a team of this game follows, with the last
+  // word of the name as abbreviation. False, and nothing, for a team of the list.
+  bool renameOwnTeam(int side);
+
+  // The players of the side, by their numbers ("4 5 7 10 23"): who is not named does not play, and a number
+  // that nobody has is a player without a name, for this game alone. Without a team, the side gets its own.
+  // Nothing changes with a problem, nor where nothing is typed.
+  QuickRoster takeNumbers(int side, std::string_view typed);
+  // One player more for this game alone, with or without a name. Returns why he cannot be; else nothing.
+  [[nodiscard]] std::string addPlayer(int side, std::string_view number, std::string_view name);
+
   // The text that names what has to be chosen before the game can be accepted; 0 for nothing.
   [[nodiscard]] int missing() const;
   [[nodiscard]] bool canAccept() const { return missing() == 0; }
@@ -95,6 +112,14 @@ class NewGame {
   [[nodiscard]] LastChoices choices() const;
 
  private:
+  // Of this game alone; by position in teams().
+  struct OwnTeam {
+    int team = kNone;
+    TeamRecord record;
+  };
+
+  [[nodiscard]] OwnTeam* ownTeam(int team);
+  [[nodiscard]] Player* wearerOf(int side, std::string_view number);
   [[nodiscard]] const TeamEntry* entry(int side) const;
   [[nodiscard]] std::string listText(int side) const;
   [[nodiscard]] std::string abbreviation(int side) const;
@@ -105,6 +130,7 @@ class NewGame {
   const Texts& m_texts;
   std::string m_today;
   std::vector<TeamEntry> m_teams;
+  OwnTeam m_ownTeams[2]; // by the side that made them
 };
 
 // The path, with the ending of game files where it has none (in any letter case).

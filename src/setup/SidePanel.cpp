@@ -1,11 +1,12 @@
 #include "setup/SidePanel.h"
 
+#include "appearance/ElidedLabel.h"
 #include "appearance/Fields.h"
-#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "setup/KeepsEnter.h"
 #include "setup/SidePlayersTable.h"
+#include "setup/TeamBand.h"
 #include "teams/TeamColours.h"
 #include "teams/TeamList.h"
 
@@ -13,7 +14,6 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 
 namespace hooptab {
 
@@ -30,78 +30,173 @@ constexpr int kCount = 1864;
 constexpr int kTooMany = 1865;
 constexpr int kRowHint = 1866;
 constexpr int kCountHint = 1873;
-constexpr int kGap = 5;
-constexpr int kListHeight = 124; // search field and four teams
-constexpr int kTallListHeight = 240;
+constexpr int kPlayersTonight = 2550;
+constexpr int kNumbersHint = 2551;
+constexpr int kNumbersToolTip = 2552;
+constexpr int kChooseTeam = 2553;
+constexpr int kOtherTeam = 2554;
+constexpr int kOtherTeamHint = 2555;
+constexpr int kPlayer = 2556;
+constexpr int kPlayerHint = 2557;
+constexpr int kJersey = 2587;
+constexpr int kPlayerName = 2588;
+constexpr int kNumbers = 2600;
+constexpr int kLongestNumber = 3;
 constexpr int kWarningSign = 0x26A0;
 
 } // namespace
 
 SidePanel::SidePanel(NewGame& game, int side, const Texts& texts, QWidget* parent)
-    : QGroupBox(parent), m_game(game), m_side(side), m_texts(texts), m_model(game, side, texts),
-      m_teams(new TeamList(named("lstequipes"), QStringLiteral("-"), this)), m_name(new QLineEdit(this)),
-      m_category(new QLineEdit(this)), m_main(new QRadioButton(this)),
-      m_table(new SidePlayersTable(m_model, named("lvwJOUEURS"), this)), m_count(new PlainLabel(this)) {
-  setTextNumber(*this, kSideNames[side]);
-  m_teams->setTeams(game.teams());
-  m_teams->setPosition(game.sides[side].team);
-  m_teams->setMinimumHeight(kListHeight);
-  m_teams->setMaximumHeight(kTallListHeight);
+    : Card(parent), m_game(game), m_side(side), m_texts(texts), m_model(game, side, texts),
+      m_main(new BandChoice(this)), m_band(new TeamBand(kSideNames[side], *m_main, this)),
+      m_teams(new TeamList(named("lstequipes"), QStringLiteral("-"), this)) {
+  setAccessibleNumber(*this, kSideNames[side]);
+  m_main->setObjectName(named("Option1"));
+  setTextNumber(*m_main, kMainTeam);
+  setToolTipNumber(*m_main, kMainTeam);
   // Enter in the search goes to the list, in the list nowhere.
   m_teams->installEventFilter(new KeepsEnter(this));
 
+  const Measure& measure = Theme::measure();
+  const int edge = measure(10);
+  auto* content = new QVBoxLayout;
+  content->setContentsMargins(edge, measure(8), edge, measure(8));
+  content->setSpacing(measure(6));
+  auto* team = new QHBoxLayout;
+  team->setSpacing(edge);
+  m_teams->setMaximumHeight(measure(160, 220));
+  team->addWidget(m_teams, 1);
+  team->addLayout(makeFields(), 1);
+  content->addLayout(team, 1);
+  content->addLayout(makePlayers(), 4);
+  content->addLayout(makeFoot());
   auto* layout = new QVBoxLayout(this);
-  layout->setSpacing(kGap);
-  layout->addWidget(m_teams, 1);
-  layout->addLayout(makeFields());
-  layout->addLayout(makePlayers(), 4);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(m_band);
+  layout->addLayout(content, 1);
 
-  connect(m_teams, &TeamList::chosen, this, [this](int team) {
-    m_game.chooseTeam(m_side, team);
-    showTeam();
-    emit teamChosen();
+  connect(m_teams, &TeamList::chosen, this, [this](int chosen) {
+    m_game.chooseTeam(m_side, chosen);
+    takeTeam();
   });
   connect(&m_model, &QAbstractItemModel::dataChanged, this, &SidePanel::showCount);
+  showTeams();
   showTeam();
+}
+
+QRadioButton& SidePanel::mainTeamChoice() const {
+  return *m_main;
 }
 
 QString SidePanel::named(const char* name) const {
   return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(m_side);
 }
 
+QLineEdit* SidePanel::addField(const char* name, int text) {
+  auto* field = new QLineEdit(this);
+  field->setObjectName(named(name));
+  setAccessibleNumber(*field, text);
+  return field;
+}
+
 QLayout* SidePanel::makeFields() {
   auto* layout = new QGridLayout;
-  layout->setVerticalSpacing(kGap);
-  const auto addField = [&](QLineEdit* field, const char* name, int text, int column, std::string& target) {
-    field->setObjectName(named(name));
-    layout->addWidget(captionFor(*field, text), 0, column);
-    layout->addWidget(field, 1, column);
-    connect(field, &QLineEdit::textChanged, this,
-            [&target](const QString& typed) { target = fromQt(typed); });
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setVerticalSpacing(Theme::measure()(2));
+  const auto addText = [&](const char* name, int text, int row, int columns) {
+    QLineEdit* field = addField(name, text);
+    QLabel* label = captionFor(*field, text);
+    label->setFont(Theme::font(Type::Small));
+    label->setForegroundRole(QPalette::PlaceholderText);
+    layout->addWidget(label, row, 0, 1, columns);
+    layout->addWidget(field, row + 1, 0, 1, columns);
     limitField(*field, m_texts);
+    connect(field, &QLineEdit::textEdited, this, &SidePanel::takeNames);
+    return field;
   };
-  addField(m_name, "txtNOMEQUIPE", kFullName, 0, m_game.sides[m_side].name);
-  addField(m_category, "txtCATEGORIE", kLevel, 1, m_game.sides[m_side].category);
-  layout->setColumnStretch(0, 3);
-  layout->setColumnStretch(1, 1);
-  m_main->setObjectName(named("Option1"));
-  setTextNumber(*m_main, kMainTeam);
-  setToolTipNumber(*m_main, kMainTeam);
-  layout->addWidget(m_main, 2, 0, 1, 2);
+  m_name = addText("txtNOMEQUIPE", kFullName, 0, 2);
+  m_category = addText("txtCATEGORIE", kLevel, 2, 1);
+  connect(m_name, &QLineEdit::textChanged, this, [this](const QString& typed) {
+    m_game.sides[m_side].name = fromQt(typed);
+    showBand();
+  });
+  connect(m_category, &QLineEdit::textChanged, this,
+          [this](const QString& typed) { m_game.sides[m_side].category = fromQt(typed); });
+  auto* other = new QPushButton(this);
+  other->setObjectName(named("cmdOTHER"));
+  other->setAutoDefault(false);
+  setTextNumber(*other, kOtherTeam);
+  setToolTipNumber(*other, kOtherTeamHint);
+  connect(other, &QPushButton::clicked, this, &SidePanel::takeOwnTeam);
+  layout->addWidget(other, 3, 1);
+  layout->setColumnStretch(0, 1);
+  layout->setRowStretch(4, 1);
   return layout;
 }
 
 QLayout* SidePanel::makePlayers() {
   auto* title = new PlainLabel(this);
+  title->setFont(Theme::font(Type::Name));
+  setTextNumber(*title, kPlayersTonight);
+  auto* head = new QWidget(this);
+  head->installEventFilter(new KeepsEnter(head));
+  m_numbers = addField("txtNUMBERS", kNumbers);
+  setPlaceholderNumber(*m_numbers, kNumbersHint);
+  setToolTipNumber(*m_numbers, kNumbersToolTip);
+  connect(m_numbers, &QLineEdit::editingFinished, this, &SidePanel::takeNumbers);
+  connect(m_numbers, &QLineEdit::textEdited, this, [this] { m_problem->clear(); });
+  auto* row = new QHBoxLayout(head);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(title, 2);
+  row->addWidget(m_numbers, 3);
+
+  m_table = new SidePlayersTable(m_model, named("lvwJOUEURS"), this);
   title->setBuddy(m_table);
-  setTextNumber(*title, kActivePlayers);
-  title->setForegroundRole(QPalette::PlaceholderText);
   setAccessibleNumber(*m_table, kActivePlayers);
   setToolTipNumber(*m_table, kRowHint);
-  m_count->setObjectName(named("lblCOUNT"));
-  setToolTipNumber(*m_count, kCountHint);
+
+  auto* layout = new QVBoxLayout;
+  layout->setSpacing(Theme::measure()(4));
+  layout->addWidget(head);
+  layout->addWidget(m_table, 1);
+  return layout;
+}
+
+QLayout* SidePanel::makeFoot() {
+  const Measure& measure = Theme::measure();
+  m_problem = new ElidedLabel(this);
+  m_problem->setObjectName(named("lblPROBLEM"));
+  m_problem->setFont(Theme::font(Type::Small));
+  m_problem->setForegroundRole(QPalette::BrightText);
+  m_problem->setFixedHeight(m_problem->fontMetrics().height()); // nothing moves when it speaks
+
+  auto* adding = new QWidget(this);
+  adding->installEventFilter(new KeepsEnter(adding));
+  m_jersey = addField("txtJERSEY", kJersey);
+  m_jersey->setMaxLength(kLongestNumber);
+  m_jersey->setFixedWidth(measure(72, 88));
+  m_player = addField("txtPLAYER", kPlayerName);
+  limitField(*m_player, m_texts, cinifile::kLongestValue - std::string_view("9,").size());
+  for (const auto& [field, hint] : {std::pair(m_jersey, kJersey), std::pair(m_player, kPlayerName)}) {
+    setPlaceholderNumber(*field, hint);
+    setToolTipNumber(*field, hint);
+    connect(field, &QLineEdit::returnPressed, this, &SidePanel::addPlayer);
+    connect(field, &QLineEdit::textEdited, this, [this] { m_problem->clear(); });
+  }
+  QPushButton* add = iconButton(fromQt(named("cmdADD")).c_str(), kPlayer, kPlayerHint, "add", adding);
+  connect(add, &QPushButton::clicked, this, &SidePanel::addPlayer);
+  auto* row = new QHBoxLayout(adding);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(m_jersey);
+  row->addWidget(m_player, 1);
+  row->addWidget(add);
 
   auto* foot = new QHBoxLayout;
+  m_count = new ElidedLabel(this);
+  m_count->setObjectName(named("lblCOUNT"));
+  setToolTipNumber(*m_count, kCountHint);
+  foot->addWidget(m_count, 1);
   const auto addButton = [&](const char* name, int text, bool isChecked) {
     auto* button = new QPushButton(this);
     button->setObjectName(named(name));
@@ -113,13 +208,11 @@ QLayout* SidePanel::makePlayers() {
   };
   addButton("cmdALL", kCheckAll, true);
   addButton("cmdNONE", kUncheckAll, false);
-  foot->addStretch();
-  foot->addWidget(m_count);
 
   auto* layout = new QVBoxLayout;
-  layout->setSpacing(kGap);
-  layout->addWidget(title);
-  layout->addWidget(m_table, 1);
+  layout->setSpacing(measure(4));
+  layout->addWidget(m_problem);
+  layout->addWidget(adding);
   layout->addLayout(foot);
   return layout;
 }
@@ -127,20 +220,111 @@ QLayout* SidePanel::makePlayers() {
 void SidePanel::relabelPanel() {
   m_model.relabel();
   m_table->fitColumns();
+  m_problem->clear();
+  showBand();
   showCount();
 }
 
+// A name that is typed for a side without a team makes one.
+void SidePanel::takeNames() {
+  NewGame::Side& side = m_game.sides[m_side];
+  const bool isNew = side.team == NewGame::kNone;
+  if (isNew)
+    m_game.chooseOwnTeam(m_side);
+  side.name = fromQt(m_name->text());
+  side.category = fromQt(m_category->text());
+  if (m_game.renameOwnTeam(m_side))
+    emit teamsChanged();
+  if (!isNew)
+    return;
+  showPlayers(); // not the fields, in one of which the user is typing
+  emit teamChosen();
+}
+
+void SidePanel::takeOwnTeam() {
+  m_game.chooseOwnTeam(m_side);
+  emit teamsChanged();
+  takeTeam();
+  m_name->setFocus(Qt::OtherFocusReason);
+}
+
+// Once for what was typed: what is checked by hand afterwards stays. What is wrong stays to be mended, and
+// the focus goes where the user sends it.
+QString SidePanel::wrongNumbers() const {
+  return toQt(quickRoster(fromQt(m_numbers->text())).words(m_texts));
+}
+
+// Once for what was typed: what is checked by hand afterwards stays. What is wrong stays to be mended, and
+// the focus goes where the user sends it.
+void SidePanel::takeNumbers() {
+  if (!m_numbers->isModified())
+    return;
+  m_numbers->setModified(false);
+  const bool hadTeam = m_game.sides[m_side].team != NewGame::kNone;
+  const QuickRoster roster = m_game.takeNumbers(m_side, fromQt(m_numbers->text()));
+  m_problem->setText(toQt(roster.words(m_texts)));
+  if (roster.problem != 0) // before which stand digits and separators alone, a byte each
+    return m_numbers->setSelection(static_cast<int>(roster.place),
+                                   static_cast<int>(toQt(roster.part).size()));
+  m_numbers->clear();
+  if (hadTeam)
+    return showPlayers();
+  emit teamsChanged();
+  takeTeam();
+}
+
+void SidePanel::addPlayer() {
+  const bool hadTeam = m_game.sides[m_side].team != NewGame::kNone;
+  const std::string problem = m_game.addPlayer(m_side, fromQt(m_jersey->text()), fromQt(m_player->text()));
+  m_problem->setText(toQt(problem));
+  m_jersey->setFocus(Qt::OtherFocusReason);
+  if (!problem.empty())
+    return;
+  m_jersey->clear();
+  m_player->clear();
+  if (hadTeam) {
+    showPlayers();
+  } else {
+    emit teamsChanged();
+    takeTeam();
+  }
+  m_table->scrollToBottom();
+}
+
+void SidePanel::takeTeam() {
+  showTeam();
+  emit teamChosen();
+}
+
+void SidePanel::showTeams() {
+  m_teams->setTeams(m_game.teams());
+  m_teams->setPosition(m_game.sides[m_side].team);
+}
+
 void SidePanel::showTeam() {
-  const NewGame::Side& side = m_game.sides[m_side];
+  const NewGame::Side side = m_game.sides[m_side]; // a field that is set writes into the game
   m_name->setText(toQt(side.name));
   m_category->setText(toQt(side.category));
   for (QLineEdit* field : {m_name, m_category})
     field->setCursorPosition(0);
+  showPlayers();
+}
+
+void SidePanel::showPlayers() {
   m_model.changedTeam();
   m_table->fitColumns();
-  if (side.team != NewGame::kNone)
-    showTeamColour(*m_table, colourOf(side.colour));
+  if (m_game.sides[m_side].team != NewGame::kNone)
+    showTeamColour(*m_table, colourOf(m_game.sides[m_side].colour));
+  showBand();
   showCount();
+}
+
+void SidePanel::showBand() {
+  const NewGame::Side& side = m_game.sides[m_side];
+  if (side.team == NewGame::kNone)
+    m_band->showTeam(caption(m_texts, kChooseTeam), {});
+  else
+    m_band->showTeam(toQt(side.name), colourOf(side.colour));
 }
 
 // Too many players are told by words, a sign and weight as much as by colour.

@@ -86,7 +86,7 @@ QVariant SidePlayersModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::CheckStateRole && index.column() == Number && canPlay)
     return player.isChecked ? Qt::Checked : Qt::Unchecked;
   if (role == Qt::ToolTipRole)
-    return QString(toQt(player.name) + u'\n' + caption(m_texts, hint(player)));
+    return QString(toQt(player.name) + u'\n' + caption(m_texts, hint(player))).trimmed();
   if (role == Qt::FontRole && !canPlay) {
     QFont font;
     font.setItalic(true);

@@ -1,5 +1,8 @@
 #include "setup/SidePlayersTable.h"
 
+#include "appearance/Theme.h"
+#include "setup/SidePlayersDelegate.h"
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -10,10 +13,14 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kLowestRow = 21;
-constexpr int kHighestRow = 27;
 constexpr int kFewestRows = 6; // that a small screen leaves
-constexpr int kPadding = 24;
+
+int lowestRow() {
+  return Theme::measure()(20, 29);
+}
+int highestRow() {
+  return Theme::measure()(24, 30);
+}
 
 } // namespace
 
@@ -21,14 +28,14 @@ SidePlayersTable::SidePlayersTable(SidePlayersModel& model, const QString& name,
     : QTableView(parent), m_model(model) {
   setObjectName(name);
   setModel(&model);
+  setItemDelegate(new SidePlayersDelegate(this));
   setColumnHidden(SidePlayersModel::PositionIndex, true);
+  horizontalHeader()->moveSection(SidePlayersModel::Name, SidePlayersModel::Position); // the name is first
+  horizontalHeader()->hide();
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setSectionResizeMode(SidePlayersModel::Name, QHeaderView::Stretch);
-  horizontalHeader()->setSectionsClickable(false);
-  horizontalHeader()->setHighlightSections(false);
-  horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   verticalHeader()->hide();
-  verticalHeader()->setMinimumSectionSize(kLowestRow);
+  verticalHeader()->setMinimumSectionSize(lowestRow());
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   setSelectionBehavior(SelectRows);
   setSelectionMode(SingleSelection);
@@ -37,25 +44,26 @@ SidePlayersTable::SidePlayersTable(SidePlayersModel& model, const QString& name,
   setWordWrap(false);
   setTabKeyNavigation(false);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setMinimumHeight(kFewestRows * kLowestRow);
+  setMinimumHeight(kFewestRows * lowestRow());
   fitRows();
 }
 
+// For the widest that can stand there, so that nothing moves.
 void SidePlayersTable::fitColumns() {
-  for (const int column : {SidePlayersModel::Number, SidePlayersModel::Position})
-    setColumnWidth(column, std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column)) +
-                               kPadding);
+  const Measure& measure = Theme::measure();
+  setColumnWidth(SidePlayersModel::Number, measure(72, 88));
+  setColumnWidth(SidePlayersModel::Position,
+                 std::max(sizeHintForColumn(SidePlayersModel::Position), measure(84, 104)));
 }
 
 QSize SidePlayersTable::sizeHint() const {
-  return {QTableView::sizeHint().width(),
-          horizontalHeader()->sizeHint().height() + NewGame::kMostPlayers * kLowestRow + 2 * frameWidth()};
+  return {QTableView::sizeHint().width(), NewGame::kMostPlayers * lowestRow() + 2 * frameWidth()};
 }
 
 // Where there is more room than fifteen players need, they take some of it.
 void SidePlayersTable::fitRows() {
   verticalHeader()->setDefaultSectionSize(
-      std::clamp(viewport()->height() / NewGame::kMostPlayers, kLowestRow, kHighestRow));
+      std::clamp(viewport()->height() / NewGame::kMostPlayers, lowestRow(), highestRow()));
 }
 
 void SidePlayersTable::resizeEvent(QResizeEvent* event) {

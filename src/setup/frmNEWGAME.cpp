@@ -4,10 +4,13 @@
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
 #include "appearance/PlainLabel.h"
+#include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "setup/Card.h"
 #include "setup/KeepsEnter.h"
 #include "setup/SidePanel.h"
 #include "setup/SidePlayersTable.h"
+#include "setup/WarningChip.h"
 #include "storage/Module1.h"
 #include "teams/TeamList.h"
 
@@ -23,9 +26,11 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTextCharFormat>
+#include <algorithm>
 
 namespace hooptab {
 
@@ -37,14 +42,12 @@ constexpr int kSaveGameAs = 1138;
 constexpr int kWarningTitle = 1139;
 constexpr int kWriteFailed = 1863;
 
+constexpr int kRecordedElsewhere = 1913;
+
 constexpr QSize kRoomyWindow(1480, 880);
+constexpr QSize kRoomyWideWindow(1720, 960);
 constexpr QSize kAroundWindow(26, 68); // title bar and edges
 constexpr QSize kCalendar(300, 200);
-constexpr int kMargin = 10;
-constexpr int kRecordedElsewhere = 1913;
-constexpr int kGap = 5;
-constexpr int kColumnWidth = 270;
-constexpr int kRuleWidth = 64;
 constexpr int kPickerWidth = 20; // its button alone: the date stands beside it as text
 
 QString dateFormat() {
@@ -61,9 +64,11 @@ frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts,
   setTextNumber(*this, 1140);
   setModal(true);
 
+  const Measure& measure = Theme::measure();
+  const int margin = measure(8, 12);
   auto* layout = new QHBoxLayout(this);
-  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  layout->setSpacing(kMargin);
+  layout->setContentsMargins(margin, margin, margin, margin);
+  layout->setSpacing(margin);
   for (int side = 0; side < 2; ++side) {
     m_sides[side] = new SidePanel(m_game, side, texts, this);
     m_mainTeam.addButton(&m_sides[side]->mainTeamChoice(), side);
@@ -73,13 +78,12 @@ frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts,
       showMainTeam();
       showAcceptance();
     });
+    connect(m_sides[side], &SidePanel::teamsChanged, this, [this] {
+      for (SidePanel* panel : m_sides)
+        panel->showTeams();
+    });
   }
-  auto* column = new QVBoxLayout;
-  column->addWidget(makeGameFields());
-  column->addWidget(makeRuleFields());
-  column->addStretch();
-  column->addLayout(makeButtons());
-  layout->addLayout(column);
+  layout->addWidget(makeColumn());
 
   connect(&m_mainTeam, &QButtonGroup::idClicked, this, [this](int side) {
     m_game.mainTeam = side;
@@ -92,30 +96,81 @@ frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts,
   showRules();
   showMainTeam();
   m_sides[0]->teams().list().setFocus();
-  resize(kRoomyWindow.boundedTo(screen()->availableSize() - kAroundWindow));
+  const QSize roomy = measure.isWide() ? kRoomyWideWindow : kRoomyWindow;
+  resize((roomy * measure.zoom() / 100).boundedTo(screen()->availableSize() - kAroundWindow));
 }
 
-QLineEdit* frmNEWGAME::addField(QGridLayout& layout, const char* name, int text, std::string& target,
+// A low window scrolls the fields, never the answers below them.
+QWidget* frmNEWGAME::makeColumn() {
+  const Measure& measure = Theme::measure();
+  const int gap = measure(8, 12);
+  auto* fields = new QWidget;
+  auto* cards = new QVBoxLayout(fields);
+  cards->setContentsMargins(0, 0, 0, 0);
+  cards->setSpacing(gap);
+  cards->addWidget(makeGameFields());
+  cards->addWidget(makeRuleFields());
+  cards->addStretch();
+  auto* scroll = new QScrollArea(this);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidgetResizable(true);
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll->setWidget(fields);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  auto* column = new QWidget(this);
+  // As wide as it is made for, and narrower where the players need the room.
+  column->setFixedWidth(std::min(measure(336, 420), screen()->availableSize().width() * 2 / 7));
+  auto* layout = new QVBoxLayout(column);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(gap);
+  layout->addWidget(scroll, 1);
+  layout->addWidget(makeAnswers());
+  return column;
+}
+
+QGridLayout* frmNEWGAME::addCard(Card& card, int title) {
+  const Measure& measure = Theme::measure();
+  setAccessibleNumber(card, title);
+  auto* head = new PlainLabel(&card);
+  head->setFont(Theme::font(Type::Count, QFont::Bold));
+  setTextNumber(*head, title);
+  auto* layout = new QGridLayout(&card);
+  layout->setContentsMargins(measure(12), measure(8), measure(12), measure(12));
+  layout->setHorizontalSpacing(measure(10));
+  layout->setVerticalSpacing(measure(4));
+  layout->addWidget(head, 0, 0, 1, 2);
+  for (const int column : {0, 1})
+    layout->setColumnStretch(column, 1);
+  return layout;
+}
+
+QLineEdit* frmNEWGAME::addField(const char* name, std::string& target,
                                 const std::function<bool(const std::string&)>& fits) {
   auto* field = new QLineEdit(this);
   field->setObjectName(QLatin1String(name));
   limitField(*field, fits, m_texts);
   field->setText(toQt(target));
   connect(field, &QLineEdit::textChanged, this, [&target](const QString& typed) { target = fromQt(typed); });
-  layout.addWidget(captionFor(*field, text), layout.rowCount(), 0, 1, 2);
   return field;
 }
 
-QWidget* frmNEWGAME::makeGameFields() {
-  auto* group = new QGroupBox(this);
-  setTextNumber(*group, 1551);
-  group->setFixedWidth(kColumnWidth);
-  auto* layout = new QGridLayout(group);
-  layout->setVerticalSpacing(kGap);
-  layout->setColumnStretch(0, 1);
+void frmNEWGAME::place(QGridLayout& card, QWidget& field, int text, Place place) {
+  const int columns = place == Place::Whole ? 2 : 1;
+  const int column = place == Place::Right ? 1 : 0;
+  const int row = place == Place::Right ? card.rowCount() - 2 : card.rowCount();
+  QLabel* label = captionFor(field, text);
+  label->setFont(Theme::font(Type::Small));
+  label->setForegroundRole(QPalette::PlaceholderText);
+  card.addWidget(label, row, column, 1, columns);
+  card.addWidget(&field, row + 1, column, 1, columns);
+}
 
-  m_date = addField(*layout, "txtDATE", 1550, m_game.date);
-  m_picker = new QDateEdit(group);
+QWidget* frmNEWGAME::makeGameFields() {
+  auto* card = new Card(this);
+  QGridLayout& layout = *addCard(*card, 1551);
+
+  m_date = addField("txtDATE", m_game.date);
+  m_picker = new QDateEdit(card);
   m_picker->setObjectName(QStringLiteral("DTPicker1"));
   m_picker->setCalendarPopup(true);
   m_picker->setDisplayFormat(dateFormat());
@@ -127,100 +182,95 @@ QWidget* frmNEWGAME::makeGameFields() {
     calendar->setWeekdayTextFormat(day, {}); // Qt's own red is unreadable on dark ground
   setAccessibleNumber(*m_picker, 1872);
   setToolTipNumber(*m_picker, 1872);
-  const int dateRow = layout->rowCount();
-  layout->addWidget(m_date, dateRow, 0);
-  layout->addWidget(m_picker, dateRow, 1);
+  place(layout, *m_date, 1550, Place::Left);
+  auto* date = new QHBoxLayout;
+  date->setSpacing(Theme::measure()(4));
+  date->addWidget(m_date);
+  date->addWidget(m_picker);
+  layout.addLayout(date, layout.rowCount() - 1, 0);
 
-  const auto addChoice = [&](const char* name, int text, int& target) {
-    auto* choice = new QComboBox(group);
+  const auto addChoice = [&](const char* name, int text, int& target, Place where) {
+    auto* choice = new QComboBox(card);
     choice->setObjectName(QLatin1String(name));
-    setAccessibleNumber(*choice, text);
-    setToolTipNumber(*choice, text);
-    auto* label = new PlainLabel(group);
-    setTextNumber(*label, text);
-    label->setBuddy(choice);
-    layout->addWidget(label, layout->rowCount(), 0, 1, 2);
-    layout->addWidget(choice, layout->rowCount(), 0, 1, 2);
+    place(layout, *choice, text, where);
     connect(choice, &QComboBox::currentIndexChanged, this, [this, choice, &target] {
       target = choice->currentIndex() < 0 ? NewGame::kNone : choice->currentData().toInt();
       showAcceptance();
     });
     return choice;
   };
-  m_type = addChoice("lstTYPEPARTIE", 1122, m_game.gameType);
-  m_input = addChoice("typeinput", 1206, m_game.inputType);
-  const auto addText = [&](const char* name, int text, std::string& target) {
-    QLineEdit* field = addField(*layout, name, text, target);
-    layout->addWidget(field, layout->rowCount(), 0, 1, 2);
-    return field;
-  };
-  addText("txtENDROIT", 1016, m_game.place);
-  addText("txtBY", 1069, m_game.statistician);
-  QLineEdit* notes = addText("txtNOTES", 1716, m_game.notes);
+  m_type = addChoice("lstTYPEPARTIE", 1122, m_game.gameType, Place::Right);
+  m_input = addChoice("typeinput", 1206, m_game.inputType, Place::Whole);
+  place(layout, *addField("txtENDROIT", m_game.place), 1016, Place::Whole);
+  place(layout, *addField("txtBY", m_game.statistician), 1069, Place::Whole);
+  QLineEdit* notes = addField("txtNOTES", m_game.notes);
   notes->installEventFilter(new KeepsEnter(notes));
+  place(layout, *notes, 1716, Place::Whole);
 
-  const auto writeDate = [this](const QDate& date) { m_date->setText(date.toString(dateFormat())); };
+  const auto writeDate = [this](const QDate& day) { m_date->setText(day.toString(dateFormat())); };
   connect(m_picker, &QDateEdit::dateChanged, this, writeDate);
   // Also the day that the picker has already, where something else was typed since.
   connect(calendar, &QCalendarWidget::clicked, this, writeDate);
   connect(m_date, &QLineEdit::textChanged, this, [this](const QString& typed) {
     const QSignalBlocker quiet(m_picker);
-    if (const QDate date = QDate::fromString(typed, dateFormat()); date.isValid())
-      m_picker->setDate(date);
+    if (const QDate day = QDate::fromString(typed, dateFormat()); day.isValid())
+      m_picker->setDate(day);
     showAcceptance();
   });
-  return group;
+  return card;
 }
 
 QWidget* frmNEWGAME::makeRuleFields() {
-  auto* group = new QGroupBox(this);
-  setTextNumber(*group, 1064);
-  group->setFixedWidth(kColumnWidth);
-  auto* layout = new QGridLayout(group);
-  layout->setVerticalSpacing(kGap);
-  const auto addRule = [&](const char* name, int text, std::string& target,
-                           bool (*fits)(const std::string&)) {
-    QLineEdit* field = addField(*layout, name, text, target, fits);
-    field->setFixedWidth(kRuleWidth);
-    field->setAlignment(Qt::AlignRight);
-    layout->addWidget(field, layout->rowCount() - 1, 1, Qt::AlignRight);
+  auto* card = new Card(this);
+  QGridLayout& layout = *addCard(*card, 1064);
+  const auto addRule = [&](const char* name, int text, std::string& target, Place where) {
+    QLineEdit* field = addField(name, target, [](const std::string& typed) { return fitsInValue(typed); });
+    place(layout, *field, text, where);
     return field;
   };
-  const auto anyText = [](const std::string& typed) { return fitsInValue(typed); };
-  m_minutes = addRule("txtDUREE", 1124, m_game.rules.minutesPerPeriod, anyText);
-  m_periods = addRule("txtNBREPERIODE", 1123, m_game.rules.periods, anyText);
-  m_bonus = addRule("txtBONUS", 1125, m_game.rules.bonus, anyText);
-  m_personalFouls = addRule("txtPF", 1126, m_game.rules.personalFoulLimit, anyText);
-  m_technicalFouls = addRule("txtTF", 1127, m_game.rules.technicalFoulLimit, anyText);
-  return group;
+  m_periods = addRule("txtNBREPERIODE", 1123, m_game.rules.periods, Place::Left);
+  m_minutes = addRule("txtDUREE", 1124, m_game.rules.minutesPerPeriod, Place::Right);
+  m_bonus = addRule("txtBONUS", 1125, m_game.rules.bonus, Place::Left);
+  m_personalFouls = addRule("txtPF", 1126, m_game.rules.personalFoulLimit, Place::Right);
+  m_technicalFouls = addRule("txtTF", 1127, m_game.rules.technicalFoulLimit, Place::Left);
+  return card;
 }
 
-QLayout* frmNEWGAME::makeButtons() {
-  m_missing = new PlainLabel(this);
+QWidget* frmNEWGAME::makeAnswers() {
+  const Measure& measure = Theme::measure();
+  auto* card = new Card(this);
+  m_warning = new WarningChip(card);
+  m_missing = new PlainLabel(card);
   m_missing->setObjectName(QStringLiteral("lblMISSING"));
   m_missing->setWordWrap(true);
-  m_missing->setFixedWidth(kColumnWidth);
-  m_missing->setForegroundRole(QPalette::PlaceholderText);
-  m_ok = new QPushButton(QStringLiteral("OK"), this);
+  m_missing->setFont(Theme::font(Type::Name));
+  m_missing->setMinimumHeight(2 * m_missing->fontMetrics().height()); // nothing moves when it speaks
+  m_ok = new QPushButton(QStringLiteral("OK"), card);
   m_ok->setObjectName(QStringLiteral("OKButton"));
   m_ok->setDefault(true);
+  m_ok->setFont(Theme::font(Type::Name));
+  m_ok->setMinimumHeight(measure(38, 46));
   setToolTipNumber(*m_ok, 1336);
-  auto* cancel = new QPushButton(this);
+  auto* cancel = new QPushButton(card);
   cancel->setObjectName(QStringLiteral("CancelButton"));
   cancel->setAutoDefault(false);
+  cancel->setMinimumHeight(measure(38, 46));
   setTextNumber(*cancel, 1128);
   setToolTipNumber(*cancel, 1337);
   connect(m_ok, &QPushButton::clicked, this, &frmNEWGAME::accept);
   connect(cancel, &QPushButton::clicked, this, &frmNEWGAME::reject);
 
-  auto* layout = new QVBoxLayout;
-  layout->addWidget(m_missing);
+  auto* words = new QHBoxLayout;
+  words->addWidget(m_warning);
+  words->addWidget(m_missing, 1);
   auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(m_ok);
+  buttons->addWidget(m_ok, 1);
   buttons->addWidget(cancel);
+  auto* layout = new QVBoxLayout(card);
+  layout->setContentsMargins(measure(12), measure(8), measure(12), measure(12));
+  layout->addLayout(words);
   layout->addLayout(buttons);
-  return layout;
+  return card;
 }
 
 void frmNEWGAME::relabelWindow() {
@@ -270,6 +320,7 @@ void frmNEWGAME::showMainTeam() {
 void frmNEWGAME::showAcceptance() {
   const int missing = m_game.missing();
   m_ok->setEnabled(missing == 0);
+  m_warning->setVisible(missing != 0);
   m_missing->setText(missing == 0 ? QString() : caption(m_texts, missing));
 }
 
@@ -295,6 +346,13 @@ void frmNEWGAME::focusOn(int problem) {
 
 void frmNEWGAME::accept() {
   const QString warning = caption(m_texts, kWarningTitle);
+  for (const SidePanel* side : m_sides) {
+    if (const QString wrong = side->wrongNumbers(); !wrong.isEmpty()) {
+      m_dialogs.warn(this, warning, wrong);
+      side->numbers().setFocus(Qt::OtherFocusReason);
+      return;
+    }
+  }
   if (const int problem = m_game.problem(); problem != 0) {
     m_dialogs.warn(this, warning, caption(m_texts, problem));
     focusOn(problem);

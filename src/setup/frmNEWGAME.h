@@ -19,8 +19,10 @@ class QPushButton;
 
 namespace hooptab {
 
+class Card;
 class Dialogs;
 class SidePanel;
+class WarningChip;
 
 class frmNEWGAME : public QDialog {
   Q_OBJECT
@@ -44,12 +46,16 @@ class frmNEWGAME : public QDialog {
   void languageAsked();
 
  private:
+  enum class Place { Left, Right, Whole }; // in a card; Right is the row of the field before
+
+  QWidget* makeColumn();
   QWidget* makeGameFields();
   QWidget* makeRuleFields();
-  QLayout* makeButtons();
-  // The label stands in a row of its own; placing the field is the caller's.
-  QLineEdit* addField(QGridLayout& layout, const char* name, int text, std::string& target,
+  QWidget* makeAnswers();
+  QGridLayout* addCard(Card& card, int title);
+  QLineEdit* addField(const char* name, std::string& target,
                       const std::function<bool(const std::string&)>& fits = fitsInValue);
+  void place(QGridLayout& card, QWidget& field, int text, Place place);
   void fillChoices();
   void showRules();
   void showMainTeam();
@@ -74,6 +80,7 @@ class frmNEWGAME : public QDialog {
   QLineEdit* m_bonus;
   QLineEdit* m_personalFouls;
   QLineEdit* m_technicalFouls;
+  WarningChip* m_warning;
   QLabel* m_missing;
   QPushButton* m_ok;
 };

@@ -124,6 +124,80 @@ TEST_F(NewGameTest, OnlyAJerseyThatNobodyAboveWearsCanPlay) {
   EXPECT_EQ(steps, (std::vector{1, 2, 9, 0}));
 }
 
+TEST_F(NewGameTest, NumbersAloneMakeTheSideAndLeaveTheTeam) {
+  const std::string before = folder.read("CONFIG.INI");
+  NewGame game = made();
+  game.chooseTeam(0, 0); // wears 4 and 00
+  const auto shown = [&] {
+    std::string text;
+    for (const NewGame::Player& player : game.sides[0].players)
+      text += (player.isChecked ? "+" : "-") + player.number + ' ' + player.name + '|';
+    return text;
+  };
+  EXPECT_EQ(game.takeNumbers(0, "23 004 7").problem, 0);
+  EXPECT_EQ(shown(), "+4 Ann Able|-00 Bea Baker|-1234 Cleo Carter|-AB Dana Dunn|-4 Eve Ellis|+23 |+7 |");
+  const std::string chosen = shown();
+  for (const char* wrong : {"4 x", "7 07", " "})
+    EXPECT_EQ(game.takeNumbers(0, wrong).jerseys.size(), 0U);
+  EXPECT_EQ(game.addPlayer(0, "x", ""), texts.text(1171));
+  EXPECT_EQ(game.addPlayer(0, "04", "Zoë"), "Number 04 is worn by 4 Ann Able.");
+  EXPECT_EQ(game.addPlayer(0, "8", std::string(260, 'W')), texts.text(2533));
+  EXPECT_EQ(shown(), chosen) << "nothing of what is wrong";
+
+  EXPECT_EQ(game.addPlayer(0, " 9 ", " Zoë "), "");
+  EXPECT_EQ(game.takeNumbers(0, "00,7").problem, 0);
+  EXPECT_EQ(shown(), "-4 Ann Able|+00 Bea Baker|-1234 Cleo Carter|-AB Dana Dunn|-4 Eve Ellis|-9 Zoë|+7 |")
+      << "the number of before, which had no name, is gone";
+
+  game.chooseTeam(1, 1);
+  EXPECT_EQ(game.takeNumbers(1, "1").problem, 0);
+  ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
+  EXPECT_NE(folder.read("a.GAM").find("[0]\r\n00=2,Bea Baker\r\n7=9,\r\n[1]\r\n1=9,Player 1\r\n"),
+            std::string::npos);
+  EXPECT_EQ(folder.read("CONFIG.INI").substr(folder.read("CONFIG.INI").find("[TEAM]")),
+            before.substr(before.find("[TEAM]")));
+}
+
+TEST_F(NewGameTest, AGameNeedsNoTeamOfTheList) {
+  folder.write("CONFIG.INI", "[CONFIGURATION]\r\nLANGUE=0\r\n");
+  NewGame game = made();
+  EXPECT_EQ(game.takeNumbers(0, "4 5").problem, 0);
+  EXPECT_EQ(game.addPlayer(1, "7", "Zoë"), "");
+  EXPECT_EQ(game.missing(), 0);
+  EXPECT_EQ(game.problem(), 0);
+  EXPECT_NE(game.sides[0].colour, game.sides[1].colour);
+
+  const struct {
+    const char* name;
+    const char* abbreviation;
+  } names[] = {{"", "HOME"},
+               {" Quarry Hill Otters ", "Otters"},
+               {"Équipe Saint-Élie", "SaintÉl"},
+               {"-", "HOME"},
+               {"Home", "Home"}};
+  for (const auto& name : names) {
+    game.sides[1].name = name.name;
+    game.renameOwnTeam(1);
+    EXPECT_EQ(game.teams()[1].abbreviation, name.abbreviation);
+  }
+  game.sides[1].category = "AA";
+  game.renameOwnTeam(1);
+  game.chooseOwnTeam(1);
+  EXPECT_EQ(game.sides[1].players.size(), 1U) << "it is chosen already";
+  EXPECT_EQ(game.teams().size(), 2U);
+  EXPECT_TRUE(game.proposedFileName().ends_with(" VISITOR- Home-AA.GAM")) << game.proposedFileName();
+  ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
+  EXPECT_NE(folder.read("a.GAM").find("EQUIPE1ABB=Home\r\n"), std::string::npos);
+  EXPECT_NE(folder.read("a.GAM").find("NBREPERIODE=4\r\nDUREE=10\r\nBONUS=5\r\nPFMAX=5\r\nTFMAX=2\r\n"),
+            std::string::npos);
+  EXPECT_NE(folder.read("a.GAM").find("[0]\r\n4=9,\r\n5=9,\r\n[1]\r\n7=9,Zo"), std::string::npos);
+  EXPECT_EQ(game.choices().teamId[1], 0) << "the next game does not find it again";
+
+  game.chooseTeam(0, 1);
+  EXPECT_EQ(game.sides[0].name, "Home") << "by its position as any other";
+  EXPECT_EQ(game.problem(), 1406);
+}
+
 TEST_F(NewGameTest, IsAcceptedOnceEverythingIsChosen) {
   const struct {
     void (*spoil)(NewGame&);

@@ -188,6 +188,69 @@ TEST_F(NewGameWindowTest, PlayersAreCheckedAndTheirPositionsStepByMouseAndKey) {
   EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("2 of 15"));
 }
 
+TEST_F(NewGameWindowTest, NumbersAloneMakeTheSideOnceAndSayWhatIsWrong) {
+  choose(0, kOwl);
+  choose(1, kFox);
+  auto& numbers = find<QLineEdit>("txtNUMBERS(0)");
+  const auto& problem = find<QLabel>("lblPROBLEM(0)");
+  const auto rows = [this] { return players(0).model()->rowCount(); };
+  numbers.setFocus();
+  numbers.insert(QStringLiteral("5 é 23"));
+  QTest::keyClick(&numbers, Qt::Key_Return);
+  EXPECT_TRUE(problem.text().contains(QStringLiteral("é")));
+  EXPECT_EQ(numbers.selectedText(), QStringLiteral("é"));
+  EXPECT_TRUE(numbers.hasFocus());
+  EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("2 of 15")) << "nothing was changed";
+  ok().click();
+  ASSERT_EQ(dialogs.shown.size(), 1U);
+  EXPECT_EQ(dialogs.shown[0].text, problem.text());
+  EXPECT_EQ(dialogs.lastProposed, QString()) << "no file was asked for";
+
+  QTest::keyClicks(&numbers, QStringLiteral("7"));
+  EXPECT_EQ(problem.text(), QString());
+  QTest::keyClick(&numbers, Qt::Key_Tab);
+  EXPECT_EQ(rows(), 5) << "7 and 23 came along";
+  EXPECT_EQ(cell(0, 0, Column::Number, Qt::CheckStateRole).toInt(), Qt::Unchecked);
+  EXPECT_EQ(cell(0, 4, Column::Number).toString(), QStringLiteral("23"));
+  players(0).model()->setData(players(0).model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
+  numbers.setFocus();
+  QTest::keyClick(&numbers, Qt::Key_Tab);
+  EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("4 of 15")) << "what is empty changes nothing";
+
+  auto& jersey = find<QLineEdit>("txtJERSEY(0)");
+  auto& name = find<QLineEdit>("txtPLAYER(0)");
+  QTest::keyClicks(&jersey, QStringLiteral("23"));
+  QTest::keyClick(&jersey, Qt::Key_Return);
+  EXPECT_EQ(problem.text(), QStringLiteral("Number 23 is worn by 23."));
+  jersey.clear();
+  QTest::keyClicks(&jersey, QStringLiteral("8"));
+  QTest::keyClicks(&name, QStringLiteral("Zoe"));
+  QTest::keyClick(&name, Qt::Key_Tab);
+  QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(cell(0, 5, Column::Name).toString(), QStringLiteral("Zoe"));
+  EXPECT_EQ(jersey.text() + name.text() + problem.text(), QString());
+  EXPECT_EQ(dialogs.lastProposed, QString()) << "Enter adds, and no more";
+}
+
+TEST_F(NewGameWindowTest, TeamsOfThisGameAloneStandInBothLists) {
+  choose(0, kOwl);
+  find<QPushButton>("cmdOTHER(0)").click();
+  auto& name = find<QLineEdit>("txtNOMEQUIPE(0)");
+  EXPECT_TRUE(name.hasFocus());
+  EXPECT_EQ(players(0).model()->rowCount(), 0);
+  QTest::keyClicks(&name, QStringLiteral("Harbour Pikes"));
+  auto& home = find<QLineEdit>("txtNOMEQUIPE(1)");
+  QTest::keyClicks(&home, QStringLiteral("Storks"));
+  EXPECT_EQ(home.text(), QStringLiteral("Storks")) << "what is typed stays";
+  for (const char* list : {"lstequipes(0)", "lstequipes(1)"}) {
+    ASSERT_EQ(find<QListWidget>(list).count(), 5) << list;
+    EXPECT_EQ(find<QListWidget>(list).item(3)->text(), QStringLiteral("Pikes-"));
+    EXPECT_EQ(find<QListWidget>(list).item(4)->text(), QStringLiteral("Storks-"));
+  }
+  EXPECT_EQ(find<QLineEdit>("txtDUREE").text(), QStringLiteral("10"));
+  EXPECT_TRUE(ok().isEnabled());
+}
+
 TEST_F(NewGameWindowTest, TheCountWarnsBeforeOkDoes) {
   open({{1, 2}, "", "", 2, 0});
   const auto& count = find<QLabel>("lblCOUNT(0)");
