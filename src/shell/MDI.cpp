@@ -673,11 +673,11 @@ CommandGroup MDI::groupInFront() const {
   return qobject_cast<frmSTATS*>(front) != nullptr ? CommandGroup::Season : CommandGroup::Always;
 }
 
-// The live window has a strip of its own for what there is to say: its room is the panels', unless something
-// has to be told all the same.
+// The live window has a strip of its own for what there is to say: its room is the panels', unless a report
+// is being written.
 void MDI::showStatusBar() {
   const bool isLive = groupInFront() == CommandGroup::Live;
-  statusBar()->setVisible(!isLive || !m_unsaved->isHidden() || !m_output->isHidden());
+  statusBar()->setVisible(!isLive || !m_output->isHidden());
 }
 
 void MDI::showCommands() {
@@ -740,9 +740,14 @@ void MDI::showWhatIsUnsaved() {
     std::string words(m_workshop.texts.text(kSettingsRestored));
     if (!restored->keptAs.empty())
       words += ' ' + m_workshop.texts.withPlaceholder(kSettingsKeptAs, restored->keptAs);
-    statusBar()->showMessage(toQt(words)); // until it is read: something else takes its place
+    if (groupInFront() == CommandGroup::Live)
+      live()->tell(toQt(words));
+    else
+      statusBar()->showMessage(toQt(words)); // until it is read: something else takes its place
   }
   const bool isUnsaved = !m_workshop.settings.isOnDisk();
+  if (isUnsaved && m_unsaved->isHidden() && groupInFront() == CommandGroup::Live)
+    live()->tell(notSaved());
   m_unsaved->setText(notSaved());
   m_unsaved->setVisible(isUnsaved);
   showStatusBar();
