@@ -143,9 +143,11 @@ Face faceOf(const QStyleOption& option) {
 void drawButton(QPainter& painter, const QStyleOption& option) {
   const Face face = faceOf(option);
   drawRounded(painter, option.rect, kRadius, face.fill, face.border);
-  if (isFocused(option))
-    drawRounded(painter, option.rect, kRadius, {},
-                isFirstChoice(option) ? Theme::look().ink : Theme::look().accent, kFocus);
+  if (!isFocused(option))
+    return;
+  const QColor ring = isFirstChoice(option) ? Theme::look().ink : Theme::look().accent;
+  const bool isSeen = isFirstChoice(option) || contrast(ring, face.fill) >= kRecognisable;
+  drawRounded(painter, option.rect, kRadius, {}, isSeen ? ring : face.text, kFocus);
 }
 
 // Of a tool bar and the like: nothing but the sign until it is pointed at.

@@ -45,6 +45,7 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
+#include <QUrl>
 #include <algorithm>
 #include <chrono>
 #include <memory>
@@ -76,6 +77,7 @@ constexpr int kInternalFailure = 2454;
 constexpr int kOldSettingsKept = 1522;
 constexpr int kRecentGames = 1530;
 constexpr int kSampleGames = 1531;
+constexpr int kFolderNotOpened = 2634;
 
 constexpr auto kRetryInterval = 2s;
 constexpr auto kMessageTime = 8s;
@@ -132,7 +134,13 @@ MDI::MDI(const Workshop& workshop)
   setMenuWidget(makeTop(*bar));
 
   m_pages = new QStackedWidget(this);
-  m_pages->addWidget(new WelcomePage(m_commands->action("VwOPEN"), *recent, *samples, this));
+  m_welcome = new WelcomePage(
+      {m_commands->action("LIVENew"), m_commands->action("VwOPEN"), m_commands->action("STATS"),
+       m_commands->action("gEQUIPE"), m_commands->action("AidHELP"), m_commands->action("tbLANGUE"),
+       *samples},
+      [this] { return m_workshop.memory.rememberedFiles(); }, m_workshop.store.files(), m_workshop.texts,
+      this);
+  m_pages->addWidget(m_welcome);
   m_pages->addWidget(m_area);
   setCentralWidget(m_pages);
 
@@ -150,6 +158,9 @@ MDI::MDI(const Workshop& workshop)
   connect(m_menu, &MainMenu::zoomChosen, this, &MDI::switchZoom);
   connect(recent, &GameMenu::chosen, this, &MDI::openGame);
   connect(samples, &GameMenu::chosen, this, &MDI::openGame);
+  connect(m_welcome, &WelcomePage::gameAsked, this, &MDI::openGame);
+  connect(m_welcome, &WelcomePage::inputAsked, this, &MDI::openForInput);
+  connect(m_welcome, &WelcomePage::folderAsked, this, &MDI::openFolder);
   connect(m_menu, &MainMenu::fileMenuShown, this, [this, tables] {
     m_exports->fill(*tables, m_area->front());
     tables->setEnabled(!tables->isEmpty());
@@ -203,6 +214,11 @@ void MDI::applyMeasure() {
   Theme::setMeasure(*qApp, measure);
   const int icons = style()->pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, this); // which it asks for once
   m_commands->toolBar().setIconSize({icons, icons});
+  applyLook();
+}
+
+void MDI::applyLook() {
+  m_welcome->applyLook();
   for (ChildWindow* child : m_area->windows())
     child->applyColours();
 }
@@ -587,6 +603,14 @@ void MDI::printSeason(frmSTATS& window) {
   preview(seasonOffers(offer, m_seasonReport, m_workshop.settings, m_workshop.texts));
 }
 
+void MDI::openFolder(const QString& path) {
+  const QString folder = QFileInfo(path).absolutePath();
+  if (!m_workshop.dialogs.openDocument(QUrl::fromLocalFile(folder)))
+    m_workshop.dialogs.warn(
+        this, toQt(m_workshop.texts.text(kErrorTitle)),
+        toQt(m_workshop.texts.withPlaceholder(kFolderNotOpened, fromQt(QDir::toNativeSeparators(folder)))));
+}
+
 void MDI::openColours() {
   frmCOULEURS window(m_workshop.settings, m_workshop.texts, m_workshop.dialogs, this);
   connect(&window, &frmCOULEURS::languageAsked, this, [this, &window] {
@@ -714,6 +738,7 @@ void MDI::switchLanguage() {
 void MDI::relabelEverything() {
   m_dialogLanguage.set(m_workshop.texts.language());
   relabel(*this, m_workshop.texts);
+  m_welcome->relabelPage();
   for (ChildWindow* child : m_area->windows())
     child->relabelWindow();
   showWhatIsUnsaved();
@@ -723,8 +748,7 @@ void MDI::relabelEverything() {
 void MDI::switchColours(ColourScheme scheme) {
   Theme::apply(*qApp, scheme);
   m_workshop.memory.rememberColourScheme(scheme);
-  for (ChildWindow* child : m_area->windows())
-    child->applyColours();
+  applyLook();
 }
 
 void MDI::report(Settings::Preparation preparation) {

@@ -35,6 +35,7 @@ class Printers;
 class ReportOutput;
 class SharedFiles;
 class TimeSource;
+class WelcomePage;
 class WindowArea;
 class WindowExports;
 class WindowMemory;
@@ -98,6 +99,7 @@ class MDI : public QMainWindow {
   void openSeason(); // one at a time
   void printSeason(frmSTATS& window);
   void preview(std::vector<ReportOffer> offers); // in the print preview that is open, or a new one
+  void openFolder(const QString& path);          // of a game, with the system's own program
   void openColours();
   void openKeys();
   void switchKeypad();
@@ -105,6 +107,7 @@ class MDI : public QMainWindow {
   void switchColours(ColourScheme scheme);
   void switchZoom(int percent);
   void applyMeasure();
+  void applyLook(); // to all that keep colours or lengths
   QWidget* makeTop(QMenuBar& bar);
   void showTitle();
   void showStatusBar();
@@ -135,6 +138,7 @@ class MDI : public QMainWindow {
   CommandBar* m_commands = nullptr;
   MainMenu* m_menu = nullptr;
   WindowArea* m_area = nullptr;
+  WelcomePage* m_welcome = nullptr;
   QStackedWidget* m_pages = nullptr;
   QLabel* m_unsaved = nullptr;
   QPointer<QMdiSubWindow> m_previewedFrom; // comes back to the front when the preview closes

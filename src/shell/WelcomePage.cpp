@@ -1,80 +1,272 @@
 #include "shell/WelcomePage.h"
 
+#include "appearance/ArrowFocus.h"
+#include "appearance/Card.h"
 #include "appearance/Icons.h"
 #include "appearance/PlainLabel.h"
+#include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "shell/RecentGameRow.h"
+#include "shell/StartCard.h"
+#include "shell/UnfinishedPlate.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QBoxLayout>
-#include <QMenu>
+#include <QPainter>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QTimer>
+#include <utility>
 
 namespace hooptab {
 
 namespace {
 
-constexpr int kIconSize = 96;
-constexpr int kButtonIconSize = 20;
-constexpr int kColumnWidth = 480;
-constexpr int kHintPoints = 12;
+constexpr int kLanguageName = 1074; // of the other language, as each table has it
+constexpr int kRecentGames = 1530;
+constexpr int kDropHint = 1545;
+constexpr int kLineNew = 2620;
+constexpr int kLineOpen = 2621;
+constexpr int kLineSeason = 2622;
+constexpr int kLineTeams = 2623;
+constexpr int kLineSamples = 2624;
+constexpr int kLineGuide = 2625;
+constexpr int kNoGamesYet = 2631;
+constexpr int kLanguageTip = 2633;
 
-// A button that looks and is labelled like an action.
-QPushButton* buttonLike(QAction& action, const QString& name, QWidget* parent) {
-  auto* button = new QPushButton(parent);
-  button->setObjectName(name);
-  button->setIconSize({kButtonIconSize, kButtonIconSize});
-  button->setMinimumSize(220, 40);
-  const auto follow = [button, &action] {
-    button->setIcon(action.icon());
-    button->setText(action.text());
-  };
-  QObject::connect(&action, &QAction::changed, button, follow);
-  follow();
-  return button;
-}
+constexpr int kWideMarginZoom = 110; // percent; above, texts need the room
+
+constexpr Language kLanguages[] = {Language::English, Language::French};
+
+// Where games can be dropped; the main window takes them wherever they fall.
+class DropHint : public PlainLabel {
+ public:
+  explicit DropHint(QWidget* parent) : PlainLabel(parent) {
+    setAlignment(Qt::AlignCenter);
+    setForegroundRole(QPalette::PlaceholderText);
+    setWordWrap(true);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Theme::look().edge, 1, Qt::DashLine));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+    painter.end();
+    PlainLabel::paintEvent(event);
+  }
+};
 
 } // namespace
 
-WelcomePage::WelcomePage(QAction& openGame, QMenu& recentGames, QMenu& sampleGames, QWidget* parent)
-    : QWidget(parent) {
+WelcomePage::WelcomePage(const StartCommands& commands, RecentPaths recentPaths, FileSystem& files,
+                         const Texts& texts, QWidget* parent)
+    : QWidget(parent), m_recentPaths(std::move(recentPaths)), m_files(files), m_texts(texts),
+      m_scroll(new QScrollArea(this)) {
   setObjectName(QStringLiteral("welcome"));
-  auto* column = new QWidget(this);
-  column->setFixedWidth(kColumnWidth);
-  auto* picture = new PlainLabel(column);
-  picture->setPixmap(icon(QStringLiteral("hooptab")).pixmap(kIconSize));
-  picture->setAlignment(Qt::AlignCenter);
-  auto* hint = new PlainLabel(column);
+  m_scroll->setFrameShape(QFrame::NoFrame);
+  m_scroll->setWidgetResizable(true);
+  m_scroll->setFocusPolicy(Qt::NoFocus);
+  auto* content = new QWidget(m_scroll);
+  m_page = new QVBoxLayout(content);
+  m_body = new QHBoxLayout;
+  m_page->addLayout(makeHead(commands));
+  m_page->addLayout(m_body, 1);
+  m_body->addLayout(makeGames(), 3);
+  m_body->addLayout(makeCards(commands), 2);
+  m_scroll->setWidget(content);
+  m_scroll->viewport()->setAutoFillBackground(false); // the desk is the window's
+  content->setAutoFillBackground(false);
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(m_scroll);
+
+  connect(qApp, &QApplication::focusChanged, this, [this, content](QWidget*, QWidget* now) {
+    if (now != nullptr && content->isAncestorOf(now))
+      m_scroll->ensureWidgetVisible(now);
+  });
+  connect(&m_work, &BackgroundWork::finished, this, [this] {
+    if (std::exchange(m_isReadAgain, false))
+      read();
+  });
+  applyLook();
+}
+
+WelcomePage::~WelcomePage() {
+  m_isLeaving = true;
+}
+
+QBoxLayout* WelcomePage::makeHead(const StartCommands& commands) {
+  m_ball = new PlainLabel(this);
+  m_title = new PlainLabel(QStringLiteral("HOOPTAB Basketball"), this);
+  m_tongues = new PlainLabel(this);
+  auto* head = new QHBoxLayout;
+  head->addWidget(m_ball);
+  head->addWidget(m_title);
+  head->addStretch();
+  head->addWidget(m_tongues);
+  auto* choice = new QHBoxLayout;
+  choice->setSpacing(0);
+  for (std::size_t i = 0; i < m_languages.size(); ++i) {
+    auto* button = new QPushButton(this);
+    m_languages[i] = button;
+    button->setObjectName(QStringLiteral("optLANGUAGE(%1)").arg(i));
+    button->setCheckable(true);
+    setToolTipNumber(*button, kLanguageTip);
+    const Language other = kLanguages[1 - i];
+    button->setText(toQt(m_texts.text(kLanguageName, other)));
+    connect(button, &QPushButton::clicked, &commands.language, [this, i, &language = commands.language] {
+      if (m_texts.language() != kLanguages[i])
+        language.trigger();
+      showLanguage();
+    });
+    choice->addWidget(button);
+  }
+  head->addLayout(choice);
+  new ArrowFocus({m_languages.begin(), m_languages.end()}, this);
+  return head;
+}
+
+QBoxLayout* WelcomePage::makeGames() {
+  m_unfinished = new UnfinishedPlate(m_texts, this);
+  m_unfinished->hide();
+  const auto pathOfUnfinished = [this] { return toQt(m_unfinished->game().path); };
+  connect(m_unfinished, &UnfinishedPlate::continueAsked, this,
+          [this, pathOfUnfinished] { emit inputAsked(pathOfUnfinished()); });
+  connect(m_unfinished, &UnfinishedPlate::scorecardAsked, this,
+          [this, pathOfUnfinished] { emit gameAsked(pathOfUnfinished()); });
+  connect(m_unfinished, &UnfinishedPlate::folderAsked, this,
+          [this, pathOfUnfinished] { emit folderAsked(pathOfUnfinished()); });
+
+  auto* card = new Card(this);
+  m_listTitle = new PlainLabel(card);
+  setTextNumber(*m_listTitle, kRecentGames);
+  m_nothing = new PlainLabel(card);
+  m_nothing->setObjectName(QStringLiteral("lblNOTHING"));
+  m_nothing->setForegroundRole(QPalette::PlaceholderText);
+  m_nothing->setWordWrap(true);
+  m_nothing->hide(); // until it is known
+  setTextNumber(*m_nothing, kNoGamesYet);
+  m_listLayout = new QVBoxLayout(card);
+  m_listLayout->setSpacing(0);
+  m_listLayout->addWidget(m_listTitle);
+  m_listLayout->addWidget(m_nothing);
+
+  auto* hint = new DropHint(this);
   hint->setObjectName(QStringLiteral("lblHINT"));
-  hint->setWordWrap(true);
-  hint->setAlignment(Qt::AlignCenter);
-  hint->setForegroundRole(QPalette::PlaceholderText);
-  QFont large = hint->font();
-  large.setPointSize(kHintPoints);
-  hint->setFont(large);
-  setTextNumber(*hint, 1545);
+  setTextNumber(*hint, kDropHint);
 
-  QPushButton* open = buttonLike(openGame, QStringLiteral("cmdOPEN"), column);
-  connect(open, &QPushButton::clicked, &openGame, &QAction::trigger);
-  QPushButton* recent = buttonLike(*recentGames.menuAction(), QStringLiteral("cmdRECENT"), column);
-  recent->setMenu(&recentGames);
-  QPushButton* samples = buttonLike(*sampleGames.menuAction(), QStringLiteral("cmdSAMPLES"), column);
-  samples->setMenu(&sampleGames);
+  m_left = new QVBoxLayout;
+  m_left->addWidget(m_unfinished);
+  m_left->addWidget(card);
+  m_left->addWidget(hint);
+  m_left->addStretch(1);
+  return m_left;
+}
 
-  auto* layout = new QVBoxLayout(column);
-  layout->setSpacing(12);
-  layout->addWidget(picture);
-  layout->addWidget(hint);
-  for (QPushButton* button : {open, recent, samples})
-    layout->addWidget(button, 0, Qt::AlignHCenter);
-  // Centred by stretches: an alignment would not ask the wrapped hint for its height.
-  auto* row = new QHBoxLayout;
-  row->addStretch();
-  row->addWidget(column);
-  row->addStretch();
-  auto* page = new QVBoxLayout(this);
-  page->addStretch(2);
-  page->addLayout(row);
-  page->addStretch(3);
+QBoxLayout* WelcomePage::makeCards(const StartCommands& commands) {
+  m_cards = {new StartCard(commands.newGame, kLineNew, m_texts, this),
+             new StartCard(commands.openGame, kLineOpen, m_texts, this),
+             new StartCard(commands.season, kLineSeason, m_texts, this),
+             new StartCard(commands.teams, kLineTeams, m_texts, this),
+             new StartCard(commands.sampleGames, kLineSamples, m_texts, this),
+             new StartCard(commands.guide, kLineGuide, m_texts, this)};
+  m_right = new QVBoxLayout;
+  for (StartCard* card : m_cards)
+    m_right->addWidget(card);
+  m_right->addStretch(1);
+  new ArrowFocus({m_cards.begin(), m_cards.end()}, this);
+  return m_right;
+}
+
+void WelcomePage::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  QTimer::singleShot(0, this, &WelcomePage::read); // once the window stands
+}
+
+void WelcomePage::read() {
+  if (m_work.isRunning()) {
+    m_isReadAgain = true;
+    return;
+  }
+  m_work.start([this, paths = m_recentPaths()]() -> BackgroundWork::Delivery {
+    return [this, games = readRecentGames(m_files, paths, m_isLeaving)] { showGames(games); };
+  });
+}
+
+void WelcomePage::showGames(const RecentGames& games) {
+  const bool isFirst = m_list == nullptr;
+  if (!isFirst && games == m_games)
+    return;
+  m_games = games;
+  m_unfinished->setVisible(games.unfinished.has_value());
+  if (games.unfinished)
+    m_unfinished->showGame(*games.unfinished);
+  m_nothing->setVisible(!games.unfinished && games.others.empty());
+
+  delete m_list;
+  m_list = new QWidget(m_listTitle->parentWidget());
+  m_rows.clear();
+  auto* rows = new QVBoxLayout(m_list);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  QWidget* before = &m_unfinished->lastButton();
+  for (const RecentGame& game : games.others) {
+    auto* row = new RecentGameRow(game, m_texts, m_list);
+    row->setObjectName(QStringLiteral("recent(%1)").arg(m_rows.size()));
+    connect(row, &QAbstractButton::clicked, this, [this, path = toQt(game.path)] { emit gameAsked(path); });
+    rows->addWidget(row);
+    setTabOrder(before, row);
+    before = row;
+    m_rows.push_back(row);
+  }
+  new ArrowFocus({m_rows.begin(), m_rows.end()}, m_list);
+  m_listLayout->addWidget(m_list);
+  m_list->show();
+  // At the start Qt has put the focus on the first thing of the page.
+  if (isVisible() && (isFirst || window()->focusWidget() == nullptr))
+    (games.unfinished ? static_cast<QWidget*>(&m_unfinished->firstButton()) : m_cards.front())->setFocus();
+}
+
+void WelcomePage::showLanguage() {
+  for (std::size_t i = 0; i < m_languages.size(); ++i) {
+    const bool isOn = m_texts.language() == kLanguages[i];
+    m_languages[i]->setChecked(isOn);
+    m_languages[i]->setDefault(isOn); // in the accent
+  }
+}
+
+void WelcomePage::relabelPage() {
+  showLanguage();
+  for (StartCard* card : m_cards)
+    card->relabelCard();
+  for (RecentGameRow* row : m_rows)
+    row->relabelRow();
+  m_unfinished->relabelPlate();
+}
+
+void WelcomePage::applyLook() {
+  const Measure& measure = Theme::measure();
+  const int side = measure.zoom() > kWideMarginZoom ? measure(16) : measure(40, 64);
+  m_page->setContentsMargins(side, measure(16, 28), side, measure(16, 28));
+  m_page->setSpacing(measure(16, 24));
+  m_body->setSpacing(measure(20, 28));
+  for (QBoxLayout* column : {m_left, m_right})
+    column->setSpacing(measure(12, 16));
+  const int margin = measure(16);
+  m_listTitle->setContentsMargins(margin, measure(9), margin, measure(9));
+  m_nothing->setContentsMargins(margin, 0, margin, measure(14));
+  m_listLayout->setContentsMargins(0, 1, 0, measure(6)); // the corners are round
+  findChild<QLabel*>(QStringLiteral("lblHINT"))->setMinimumHeight(measure(44, 56));
+  const int ball = measure(34, 42);
+  m_ball->setPixmap(icon(QStringLiteral("hooptab")).pixmap(ball));
+  const int sign = measure(20, 24);
+  m_tongues->setPixmap(icon(QStringLiteral("tblangue")).pixmap(sign));
+  m_title->setFont(Theme::font(Type::Title, QFont::Bold));
+  m_listTitle->setFont(Theme::font(Type::Name));
+  m_unfinished->applyLook();
 }
 
 } // namespace hooptab

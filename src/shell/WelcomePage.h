@@ -1,21 +1,93 @@
-// What fills the main window while no child window is open: a calm hint and the three ways to a first game.
-// Owns no command; it shows the ones it is given.
+// What fills the main window while no child window is open: the game that goes on, the games that were open
+// last, and the ways to everything else. Owns no command; it triggers those it is given and says which game
+// was asked for. The games are read each time it is shown, on a thread of their own: a slow disk holds up
+// nobody.
 #pragma once
 
+#include "appearance/BackgroundWork.h"
+#include "shell/RecentGames.h"
 #include "storage/Texts.h"
 
 #include <QWidget>
 
+#include <array>
+#include <atomic>
+#include <functional>
+#include <string>
+#include <vector>
+
 class QAction;
+class QBoxLayout;
+class QLabel;
 class QMenu;
+class QPushButton;
+class QScrollArea;
 
 namespace hooptab {
+
+class RecentGameRow;
+class StartCard;
+class UnfinishedPlate;
+
+struct StartCommands {
+  QAction &newGame, &openGame, &season, &teams, &guide, &language;
+  QMenu& sampleGames;
+};
 
 class WelcomePage : public QWidget {
   Q_OBJECT
 
  public:
-  WelcomePage(QAction& openGame, QMenu& recentGames, QMenu& sampleGames, QWidget* parent = nullptr);
+  // The paths of the games that were open last, newest first, whether they are there or not.
+  using RecentPaths = std::function<std::vector<std::string>()>;
+  // All must outlive it.
+  WelcomePage(const StartCommands& commands, RecentPaths recentPaths, FileSystem& files, const Texts& texts,
+              QWidget* parent = nullptr);
+  ~WelcomePage() override;
+
+  void relabelPage(); // behind relabel()
+  void applyLook();   // colours and measure
+
+ signals:
+  void gameAsked(const QString& path);  // as a scorecard
+  void inputAsked(const QString& path); // to go on recording
+  void folderAsked(const QString& path);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  QBoxLayout* makeHead(const StartCommands& commands);
+  QBoxLayout* makeGames();
+  QBoxLayout* makeCards(const StartCommands& commands);
+  void read();
+  void showGames(const RecentGames& games);
+  void showLanguage();
+
+  RecentPaths m_recentPaths;
+  FileSystem& m_files;
+  const Texts& m_texts;
+  std::atomic<bool> m_isLeaving = false;
+  bool m_isReadAgain = false; // it was shown anew while the games were read
+  RecentGames m_games;
+  std::vector<RecentGameRow*> m_rows;
+  std::vector<StartCard*> m_cards;
+
+  QScrollArea* m_scroll;
+  QLabel* m_ball = nullptr;
+  QLabel* m_title = nullptr;
+  QLabel* m_tongues = nullptr;
+  std::array<QPushButton*, 2> m_languages = {};
+  UnfinishedPlate* m_unfinished = nullptr;
+  QLabel* m_listTitle = nullptr;
+  QLabel* m_nothing = nullptr;
+  QWidget* m_list = nullptr; // of the rows, made anew with them
+  QBoxLayout* m_listLayout = nullptr;
+  QBoxLayout* m_page = nullptr;
+  QBoxLayout* m_body = nullptr;
+  QBoxLayout* m_left = nullptr;
+  QBoxLayout* m_right = nullptr;
+  BackgroundWork m_work; // the last: it waits for its thread before all else goes
 };
 
 } // namespace hooptab

@@ -66,14 +66,22 @@ void WindowMemory::rememberLayout(std::string_view name, std::string_view text) 
   write(kLayouts, name, text);
 }
 
-std::vector<std::string> WindowMemory::recentFiles() {
+std::vector<std::string> WindowMemory::rememberedFiles() {
   std::vector<std::string> result;
   for (std::size_t i = 1; i <= kMostRecentFiles; ++i) {
     std::string path = unescaped(value(kRecentFiles, std::to_string(i)));
-    std::error_code ignored;
-    if (std::filesystem::is_regular_file(path, ignored) && std::ranges::find(result, path) == result.end())
+    if (!path.empty() && std::ranges::find(result, path) == result.end())
       result.push_back(std::move(path));
   }
+  return result;
+}
+
+std::vector<std::string> WindowMemory::recentFiles() {
+  std::vector<std::string> result = rememberedFiles();
+  std::erase_if(result, [](const std::string& path) {
+    std::error_code ignored;
+    return !std::filesystem::is_regular_file(path, ignored);
+  });
   return result;
 }
 

@@ -27,6 +27,8 @@ class WindowMemory {
 
   // Newest first, without those that are gone.
   [[nodiscard]] std::vector<std::string> recentFiles();
+  // The same without a look at the disk, which may be slow: those that are gone are among them.
+  [[nodiscard]] std::vector<std::string> rememberedFiles();
   void rememberFile(const std::string& path);
 
   [[nodiscard]] std::optional<ColourScheme> colourScheme();

@@ -22,6 +22,7 @@ constexpr int kInvalidNumber = 1171;
 constexpr int kNoPositionChosen = 1172;
 constexpr int kPositionText = 1839;
 constexpr int kGap = 8;
+constexpr int kLongestPosition = 8; // letters, of its name
 constexpr int kButtonRow = 36;
 
 constexpr struct {
@@ -50,6 +51,7 @@ PlayerEditor::PlayerEditor(const TeamSheet& sheet, const Texts& texts, QWidget* 
       new QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,3}")), m_number));
   m_position = new QComboBox(this); // behind the number: the tab key goes in the order of making
   m_position->setObjectName(QStringLiteral("cmbPOSITION"));
+  m_position->setMinimumContentsLength(kLongestPosition);
   layout->addWidget(captionFor(*m_position, kPositionText), 0, 1);
   setToolTipNumber(*m_position, kNoPositionChosen);
   layout->addWidget(m_position, 1, 1);
@@ -70,11 +72,13 @@ PlayerEditor::PlayerEditor(const TeamSheet& sheet, const Texts& texts, QWidget* 
 
   m_announcement->setObjectName(QStringLiteral("lblANNOUNCE"));
   m_announcement->setWordWrap(true);
-  auto* add = iconButton("cmdAJOUTERJOUEUR", 1165, 1166, "add", this);
+  auto* add = iconButton("cmdAJOUTERJOUEUR", 1165, 1166, "", this);
   auto* clear = iconButton("cmdCLEAR", 1188, 1837, "clear", this);
   auto* remove = iconButton("cmdEFFACER", 1167, 1167, "delete", this);
+  add->setDefault(true); // in the accent
   m_changing = {add, remove};
   auto* last = new QHBoxLayout;
+  last->setSpacing(kGap);
   last->addWidget(add);
   last->addWidget(m_announcement, 1);
   last->addWidget(clear);

@@ -12,6 +12,11 @@ namespace {
 // By PlayerColumn.
 constexpr int kHeaders[kPlayerColumns] = {1838, 1023, 1839, 1839, 1320, 1321, 1322, 1323};
 
+bool isFigure(PlayerColumn column) {
+  using enum PlayerColumn;
+  return column == Number || column == Height || column == Weight || column == Age;
+}
+
 } // namespace
 
 PlayerTableModel::PlayerTableModel(TeamSheet& sheet, const Texts& texts, QObject* parent)
@@ -37,13 +42,17 @@ QVariant PlayerTableModel::data(const QModelIndex& index, int role) const {
   const auto column = static_cast<PlayerColumn>(index.column());
   if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
     return toQt(m_sheet.text(index.row(), column, m_texts));
-  if (role == Qt::TextAlignmentRole && column == PlayerColumn::Number)
+  if (role == Qt::TextAlignmentRole && isFigure(column))
     return int(Qt::AlignRight | Qt::AlignVCenter);
   return {};
 }
 
 QVariant PlayerTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= kPlayerColumns)
+  if (orientation != Qt::Horizontal || section < 0 || section >= kPlayerColumns)
+    return {};
+  if (role == Qt::TextAlignmentRole && isFigure(static_cast<PlayerColumn>(section)))
+    return int(Qt::AlignRight | Qt::AlignVCenter);
+  if (role != Qt::DisplayRole)
     return {};
   return caption(m_texts, kHeaders[section]);
 }

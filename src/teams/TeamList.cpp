@@ -51,22 +51,27 @@ void TeamList::takeSelection() {
   emit chosen(m_position);
 }
 
-QString TeamList::entryText(const TeamEntry& team) const {
-  return toQt(team.abbreviation) + m_separator + toQt(team.category);
+void TeamList::fill(QListWidgetItem& item, const TeamEntry& team) const {
+  item.setText(toQt(team.abbreviation) + m_separator + toQt(team.category));
+  item.setData(TeamRole::Abbreviation, toQt(team.abbreviation));
+  item.setData(TeamRole::Category, toQt(team.category));
+  item.setData(TeamRole::Name, toQt(team.name));
+  item.setData(TeamRole::Colour, team.colour);
+  item.setData(TeamRole::Players, static_cast<int>(team.players));
 }
 
 void TeamList::setTeams(const std::vector<TeamEntry>& teams) {
   const QSignalBlocker quiet(m_list);
   m_list->clear();
   for (const TeamEntry& team : teams)
-    m_list->addItem(entryText(team));
+    fill(*new QListWidgetItem(m_list), team);
   m_position = -1;
   search(m_search->text());
 }
 
 void TeamList::setTeam(int position, const TeamEntry& team) {
   if (QListWidgetItem* item = m_list->item(position))
-    item->setText(entryText(team));
+    fill(*item, team);
 }
 
 int TeamList::position() const {
@@ -89,7 +94,9 @@ void TeamList::setPosition(int position) {
 void TeamList::search(const QString& text) {
   for (int position = 0; position < m_list->count(); ++position) {
     QListWidgetItem* item = m_list->item(position);
-    item->setHidden(!item->text().contains(text, Qt::CaseInsensitive));
+    const QString name = item->data(TeamRole::Name).toString();
+    item->setHidden(!item->text().contains(text, Qt::CaseInsensitive) &&
+                    !name.contains(text, Qt::CaseInsensitive));
   }
 }
 

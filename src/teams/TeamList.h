@@ -1,6 +1,6 @@
 // A list of teams with a search field above it: typing in the field leaves the teams that contain the text,
-// typing in the list goes to the team that begins with it. Positions are those of the whole list, whatever is
-// shown.
+// in their full name, too; typing in the list goes to the team that begins with it. Positions are those of
+// the whole list, whatever is shown.
 #pragma once
 
 #include "teams/TeamStore.h"
@@ -9,8 +9,14 @@
 
 class QLineEdit;
 class QListWidget;
+class QListWidgetItem;
 
 namespace hooptab {
+
+// What an entry of the list holds beside its text.
+struct TeamRole {
+  enum : int { Abbreviation = Qt::UserRole, Category, Name, Colour, Players };
+};
 
 class TeamList : public QWidget {
   Q_OBJECT
@@ -32,7 +38,7 @@ class TeamList : public QWidget {
  private:
   void takeSelection();
   void search(const QString& text);
-  QString entryText(const TeamEntry& team) const;
+  void fill(QListWidgetItem& item, const TeamEntry& team) const;
 
   QString m_separator;
   int m_position = -1;

@@ -52,6 +52,18 @@ std::vector<ProfileText::Line> teamLines(const ProfileText& file) {
   return lines;
 }
 
+// Of a team's section. A damaged key of a team may name a section that holds no players.
+std::vector<ProfileText::Line> playerLines(const ProfileText& file, std::string_view section) {
+  std::vector<ProfileText::Line> lines;
+  if (codepage::equalNames(section, kTeams) || codepage::equalNames(section, "CONFIGURATION"))
+    return lines;
+  for (const ProfileText::Line& line : file.section(section)) {
+    if (line.kind == ProfileText::Line::Kind::KeyValue)
+      lines.push_back(line);
+  }
+  return lines;
+}
+
 } // namespace
 
 TeamStore::TeamStore(cinifile& store, Settings& settings) : m_store(store), m_settings(settings) {}
@@ -63,11 +75,13 @@ const ProfileText& TeamStore::file() {
 
 std::vector<TeamEntry> TeamStore::list() {
   std::vector<TeamEntry> teams;
-  for (const ProfileText::Line& line : teamLines(file())) {
-    const std::string value = readable(line.value);
-    if (line.value.size() > kLongestAbsent)
-      teams.push_back({codepage::toUtf8(line.name), idOf(line.name), std::string(Module1::field(value, 1)),
-                       std::string(Module1::field(value, 2))});
+  const ProfileText& text = file();
+  for (const ProfileText::Line& line : teamLines(text)) {
+    if (line.value.size() <= kLongestAbsent)
+      continue;
+    const TeamRecord team = parseTeam(readable(line.value));
+    teams.push_back({codepage::toUtf8(line.name), idOf(line.name), team.abbreviation, team.category,
+                     team.name, team.colour(), playerLines(text, line.name).size()});
   }
   return teams;
 }
@@ -79,13 +93,7 @@ TeamRecord TeamStore::read(std::string_view key) {
 
 std::vector<TeamPlayer> TeamStore::players(std::string_view key) {
   std::vector<TeamPlayer> players;
-  const std::string section = codepage::fromUtf8(key);
-  // A damaged key of a team may name a section that holds no players.
-  if (codepage::equalNames(section, kTeams) || codepage::equalNames(section, "CONFIGURATION"))
-    return players;
-  for (const ProfileText::Line& line : file().section(section)) {
-    if (line.kind != ProfileText::Line::Kind::KeyValue)
-      continue;
+  for (const ProfileText::Line& line : playerLines(file(), codepage::fromUtf8(key))) {
     std::string stored = codepage::toUtf8(line.value);
     PlayerRecord record = recordOf(stored);
     players.push_back({codepage::toUtf8(line.name), std::move(record), std::move(stored)});

@@ -6,6 +6,8 @@
 #include "storage/Settings.h"
 #include "teams/TeamRecord.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,6 +21,9 @@ struct TeamEntry {
   int id = 0;      // the key's number; 0 for a key that is no positive whole number, which cannot be changed
   std::string abbreviation;
   std::string category;
+  std::string name = {};
+  std::uint32_t colour = kDefaultTeamColour; // to show
+  std::size_t players = 0;                   // in the file
   [[nodiscard]] bool isEditable() const { return id > 0; }
 };
 

@@ -1,5 +1,6 @@
 #include "teams/frmEQUIPES.h"
 
+#include "appearance/Card.h"
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
 #include "appearance/Icons.h"
@@ -8,20 +9,26 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "storage/codepage.h"
+#include "teams/ColourSwatches.h"
+#include "teams/PlayerDelegate.h"
 #include "teams/PlayerEditor.h"
 #include "teams/PlayerTableModel.h"
+#include "teams/TeamBand.h"
 #include "teams/TeamColours.h"
+#include "teams/TeamDelegate.h"
 #include "teams/TeamList.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
+#include <QFrame>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLocale>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTableView>
@@ -44,12 +51,12 @@ constexpr int kReadOnly = 1822;
 constexpr int kTeamTooLong = 1823;
 constexpr int kPlayerCount = 1824;
 constexpr int kPrintTip = 2253;
+constexpr int kWhiteText = 2636;
+constexpr int kBlackText = 2637;
+constexpr int kRulesInARow = 3;
+constexpr int kLeastRows = 6; // of the table that stay in sight, its head among them
 
-constexpr int kMargin = 8;
-constexpr int kListWidth = 270;
-constexpr int kRowAir = 4; // so that 15 players are in sight on the smallest screen
 constexpr int kSwatch = 16;
-constexpr int kRuleWidth = 64;
 
 // Fields of the rules, by their order in the record.
 constexpr struct {
@@ -75,53 +82,71 @@ frmEQUIPES::frmEQUIPES(TeamStore& teams, const Texts& texts, Dialogs& dialogs, Q
   setObjectName(QStringLiteral("frmEQUIPES"));
   setTextNumber(*this, 1048);
 
-  auto* editor = new QVBoxLayout;
-  editor->setSpacing(kMargin);
-  editor->addWidget(m_notice);
-  editor->addWidget(makeTeamFields());
-  editor->addWidget(makePlayers(), 1);
-  auto* layout = new QHBoxLayout(this);
-  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  layout->setSpacing(kMargin);
-  layout->addWidget(makeTeams());
-  layout->addLayout(editor, 1);
+  auto* content = new QWidget;
+  m_editor = new QVBoxLayout(content);
+  m_editor->setContentsMargins(0, 0, 0, 0);
+  m_editor->addWidget(m_notice);
+  m_editor->addWidget(makeTeamFields());
+  m_editor->addWidget(makePlayers(), 1);
+  // What a large zoom leaves no room for is a turn of the wheel away.
+  auto* scroll = new QScrollArea(this);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidgetResizable(true);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setWidget(content);
+  scroll->viewport()->setAutoFillBackground(false);
+  content->setAutoFillBackground(false);
+  m_whole = new QHBoxLayout(this);
+  m_whole->addWidget(makeTeams());
+  m_whole->addWidget(scroll, 1);
 
   connectEverything();
   selectOnFocus(*this);
   relabelWindow();
+  applyColours();
   listTeams();
 }
 
-QWidget* frmEQUIPES::makeTeams() {
-  auto* group = new QGroupBox(this);
-  setTextNumber(*group, 1156);
-  group->setFixedWidth(kListWidth);
-  auto* layout = new QVBoxLayout(group);
-  layout->addWidget(m_list, 1);
-  layout->addWidget(iconButton("cmdAJOUTEREQUIPE", 1163, 1163, "add", this));
-  layout->addWidget(iconButton("cmdEFFACEREQUIPE", 1161, 1161, "delete", this));
-  return group;
+QLabel* frmEQUIPES::title(int text, QWidget* parent) {
+  auto* label = new PlainLabel(parent);
+  setTextNumber(*label, text);
+  m_titles.push_back(label);
+  return label;
 }
 
-QLineEdit* frmEQUIPES::addField(QGridLayout& layout, int row, int column, int span, const char* name,
-                                int text) {
+QWidget* frmEQUIPES::makeTeams() {
+  m_teamsCard = new Card(this);
+  auto* layout = new QVBoxLayout(m_teamsCard);
+  layout->addWidget(title(1156, m_teamsCard));
+  layout->addWidget(iconButton("cmdAJOUTEREQUIPE", 1163, 1163, "add", this));
+  layout->addWidget(m_list, 1);
+  layout->addWidget(iconButton("cmdEFFACEREQUIPE", 1161, 1161, "delete", this));
+  m_list->list().setFrameShape(QFrame::NoFrame);
+  m_list->list().setItemDelegate(new TeamDelegate(&m_list->list()));
+  return m_teamsCard;
+}
+
+QLineEdit* frmEQUIPES::addField(QGridLayout& layout, int row, int column, const char* name, int text) {
   auto* field = new QLineEdit(this);
   field->setObjectName(QLatin1String(name));
-  layout.addWidget(captionFor(*field, text), row, column, 1, span);
-  layout.addWidget(field, row + 1, column, 1, span);
+  QLabel* label = captionFor(*field, text);
+  label->setForegroundRole(QPalette::PlaceholderText);
+  layout.addWidget(label, 2 * row, column);
+  layout.addWidget(field, 2 * row + 1, column);
   connect(field, &QLineEdit::returnPressed, this, &frmEQUIPES::saveTeam);
   return field;
 }
 
 QWidget* frmEQUIPES::makeTeamFields() {
-  auto* group = new QGroupBox(this);
-  setTextNumber(*group, 1305);
-  auto* layout = new QGridLayout(group);
-  layout->setHorizontalSpacing(kMargin);
-  layout->setVerticalSpacing(2);
-  m_abbreviation = addField(*layout, 0, 0, 2, "txtABB", 1170);
-  m_category = addField(*layout, 0, 2, 2, "txtCATEGORIE", 1159);
-  m_name = addField(*layout, 0, 4, 2, "txtNOMEQUIPE", 1157);
+  auto* card = new Card(this);
+  m_band = new TeamBand(card);
+  m_band->addButton(*iconButton("cmdSAVEEQUIPE", 1164, 1326, "savemanual", this));
+
+  auto* names = new QGridLayout;
+  m_abbreviation = addField(*names, 0, 0, "txtABB", 1170);
+  m_category = addField(*names, 0, 1, "txtCATEGORIE", 1159);
+  m_name = addField(*names, 0, 2, "txtNOMEQUIPE", 1157);
+  names->setColumnStretch(2, 1);
   limitField(*m_abbreviation, m_texts, kLongestAbbreviation);
   for (const auto& [field, part] :
        {std::pair(m_category, &TeamRecord::category), {m_name, &TeamRecord::name}}) {
@@ -132,69 +157,99 @@ QWidget* frmEQUIPES::makeTeamFields() {
     };
     limitField(*field, fits, m_texts);
   }
-  for (std::size_t i = 0; i < m_rules.size(); ++i) {
-    m_rules[i] = addField(*layout, 2, static_cast<int>(i), 1, kRules[i].name, kRules[i].text);
-    m_rules[i]->setValidator(new QRegularExpressionValidator(
-        QRegularExpression(QStringLiteral("\\d{0,%1}").arg(kRules[i].digits)), m_rules[i]));
-    m_rules[i]->setMinimumWidth(kRuleWidth);
-  }
-  layout->setColumnStretch(5, 1);
+  for (QLineEdit* field : {m_abbreviation, m_name})
+    connect(field, &QLineEdit::textChanged, this,
+            [this] { m_band->showTeam(m_abbreviation->text(), m_name->text()); });
 
-  m_isMain = new QCheckBox(group);
+  m_swatches = new ColourSwatches(card);
+  m_contrast = new PlainLabel(card);
+  m_contrast->setObjectName(QStringLiteral("lblCONTRAST"));
+  m_contrast->setForegroundRole(QPalette::PlaceholderText);
+  m_contrast->setWordWrap(true);
+  auto* colour = new QHBoxLayout;
+  colour->addWidget(m_swatches);
+  colour->addWidget(iconButton("cmdCOUL", 1248, 1168, "theme", this));
+  colour->addWidget(m_contrast, 1);
+  m_isMain = new QCheckBox(card);
   m_isMain->setObjectName(QStringLiteral("chkMAIN"));
   setTextNumber(*m_isMain, 1169);
   setToolTipNumber(*m_isMain, 1169);
-  auto* last = new QHBoxLayout;
-  last->addWidget(m_isMain);
-  last->addStretch();
-  last->addWidget(iconButton("cmdCOUL", 1248, 1168, "theme", this));
-  last->addWidget(iconButton("cmdSAVEEQUIPE", 1164, 1326, "savemanual", this));
-  layout->addLayout(last, 4, 0, 1, 6);
-  layout->setRowMinimumHeight(4, 34);
-  return group;
+
+  auto* rules = new QGridLayout;
+  for (std::size_t i = 0; i < m_rules.size(); ++i) {
+    m_rules[i] = addField(*rules, static_cast<int>(i) / kRulesInARow, static_cast<int>(i) % kRulesInARow,
+                          kRules[i].name, kRules[i].text);
+    m_rules[i]->setValidator(new QRegularExpressionValidator(
+        QRegularExpression(QStringLiteral("\\d{0,%1}").arg(kRules[i].digits)), m_rules[i]));
+  }
+
+  rules->setRowStretch(rules->rowCount(), 1); // on a level with the names
+
+  auto* left = new QVBoxLayout;
+  left->addLayout(names);
+  left->addLayout(colour);
+  left->addWidget(m_isMain);
+  m_line = new QFrame(card);
+  m_line->setFrameShape(QFrame::VLine);
+  m_line->setForegroundRole(QPalette::Mid);
+  m_line->setFrameShadow(QFrame::Plain);
+  m_groups = new QHBoxLayout;
+  m_groups->addLayout(left, 1);
+  m_groups->addWidget(m_line);
+  m_groups->addLayout(rules);
+  auto* layout = new QVBoxLayout(card);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(m_band);
+  layout->addLayout(m_groups);
+  return card;
 }
 
 QWidget* frmEQUIPES::makePlayers() {
-  auto* group = new QGroupBox(this);
-  setTextNumber(*group, 1160);
-  m_table = new QTableView(group);
+  auto* card = new Card(this);
+  m_table = new QTableView(card);
   m_table->setObjectName(QStringLiteral("lvwJOUEURS"));
   setAccessibleNumber(*m_table, 1160);
   m_table->setModel(m_model);
+  m_table->setFrameShape(QFrame::NoFrame);
+  m_table->setShowGrid(false);
+  m_table->setItemDelegate(new PlayerDelegate(m_table));
   m_table->setColumnHidden(static_cast<int>(PlayerColumn::PositionIndex), true);
   m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
   m_table->setSelectionMode(QAbstractItemView::SingleSelection);
   m_table->setTabKeyNavigation(false);
   m_table->setWordWrap(false);
   m_table->verticalHeader()->hide();
-  m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + kRowAir);
   QHeaderView& header = *m_table->horizontalHeader();
   header.setSectionsClickable(true);
   header.setHighlightSections(false);
   header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  constexpr int kWidths[kPlayerColumns] = {70, 300, 100, 50, 110, 110, 80, 120};
+  constexpr int kWidths[kPlayerColumns] = {70, 260, 100, 50, 90, 90, 70, 120};
   for (int column = 0; column < kPlayerColumns; ++column)
-    header.resizeSection(column, kWidths[column]);
+    header.resizeSection(column, Theme::measure()(kWidths[column]));
   header.setStretchLastSection(true);
   header.setSortIndicatorShown(true);
   header.setSortIndicator(-1, Qt::AscendingOrder); // the file's order
 
-  m_count = new PlainLabel(group);
+  m_count = new PlainLabel(card);
   m_count->setObjectName(QStringLiteral("lblCOUNT"));
   m_count->setForegroundRole(QPalette::PlaceholderText);
-  auto* head = new QHBoxLayout;
-  head->addWidget(m_count);
-  head->addStretch();
-  head->addWidget(iconButton("cmdIMPORT", 1825, 1826, "import", this));
-  head->addWidget(iconButton("cmdPASTE", 1827, 1828, "copy", this));
-  head->addWidget(iconButton("cmdEXPORT", 1829, 1830, "export", this));
-  head->addWidget(iconButton("cmdPRINT", 1311, kPrintTip, "vwprint", this));
-  auto* layout = new QVBoxLayout(group);
-  layout->addLayout(head);
+  m_playersHead = new QHBoxLayout;
+  m_playersHead->addWidget(title(1160, card));
+  m_playersHead->addWidget(m_count);
+  m_playersHead->addStretch();
+  m_playersHead->addWidget(iconButton("cmdIMPORT", 1825, 1826, "import", this));
+  m_playersHead->addWidget(iconButton("cmdPASTE", 1827, 1828, "copy", this));
+  m_playersHead->addWidget(iconButton("cmdEXPORT", 1829, 1830, "export", this));
+  m_playersHead->addWidget(iconButton("cmdPRINT", 1311, kPrintTip, "vwprint", this));
+  auto* layout = new QVBoxLayout(card);
+  layout->setContentsMargins(1, 0, 1, 0); // beside the card's border
+  layout->setSpacing(0);
+  layout->addLayout(m_playersHead);
   layout->addWidget(m_table, 1);
-  m_player = new PlayerEditor(m_sheet, m_texts, group); // the last of the tab order
+  m_player = new PlayerEditor(m_sheet, m_texts, card); // the last of the tab order
   layout->addWidget(m_player);
-  return group;
+  return card;
 }
 
 void frmEQUIPES::connectEverything() {
@@ -213,6 +268,7 @@ void frmEQUIPES::connectEverything() {
       return m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), toQt(m_texts.text(kSelectTeamFirst)));
     emit printAsked(teamFields(), m_sheet.players());
   });
+  connect(m_swatches, &ColourSwatches::chosen, this, &frmEQUIPES::setColour);
   connect(m_player, &PlayerEditor::addAsked, this, &frmEQUIPES::addPlayer);
   connect(m_player, &PlayerEditor::deleteAsked, this, &frmEQUIPES::deletePlayer);
   connect(m_player, &PlayerEditor::clearAsked, this, &frmEQUIPES::clearPlayer);
@@ -284,6 +340,7 @@ void frmEQUIPES::showTeam(int position) {
   const bool canChange = !isReadOnly();
   for (const char* name : {"cmdEFFACEREQUIPE", "cmdSAVEEQUIPE", "cmdCOUL", "cmdIMPORT", "cmdPASTE"})
     findChild<QPushButton*>(QLatin1String(name))->setEnabled(canChange);
+  m_swatches->setEnabled(canChange);
   m_player->setEditable(canChange);
   showNotice();
 }
@@ -300,9 +357,18 @@ void frmEQUIPES::showPlayers() {
 }
 
 void frmEQUIPES::showColour() {
-  showTeamColour(*m_table, team() == nullptr ? this->palette().color(QPalette::Base) : colourOf(m_colour));
+  const QColor colour = colourOf(m_colour);
+  const bool hasTeam = team() != nullptr;
+  showTeamColour(*m_table, hasTeam ? colour : palette().color(QPalette::Base));
+  m_band->setColour(hasTeam ? colour : Theme::look().raised);
+  m_swatches->showColour(hasTeam ? colour : QColor());
+  const QColor text = textOn(colour);
+  const QLocale locale(m_texts.language() == Language::French ? QLocale::French : QLocale::English);
+  const QString measured = locale.toString(contrast(text, colour), 'f', 1);
+  const int words = text == QColor(Qt::white) ? kWhiteText : kBlackText;
+  m_contrast->setText(hasTeam ? toQt(m_texts.withPlaceholder(words, fromQt(measured))) : QString());
   QPixmap swatch(kSwatch, kSwatch);
-  swatch.fill(colourOf(m_colour));
+  swatch.fill(colour);
   findChild<QPushButton*>(QStringLiteral("cmdCOUL"))->setIcon(swatch);
 }
 
@@ -348,19 +414,27 @@ bool frmEQUIPES::saveTeam() {
     m_player->focusNumber();
     return false;
   }
-  TeamEntry& entry = m_entries[static_cast<std::size_t>(m_position)];
-  if (!m_teams.save(entry.id, record, m_sheet.players())) {
+  if (!m_teams.save(team()->id, record, m_sheet.players())) {
     tellNotWritten();
     return false;
   }
-  entry.abbreviation = record.abbreviation;
-  entry.category = record.category;
-  m_list->setTeam(m_position, entry);
   m_loadedTeam = record;
-  m_sheet.load(m_teams.players(entry.key));
-  showPlayers();
+  takeWritten();
   emit reported(toQt(m_texts.withPlaceholder(kTeamSaved, record.abbreviation)));
   return true;
+}
+
+// The sheet and the list as the file has them now; the fields stay.
+void frmEQUIPES::takeWritten() {
+  TeamEntry& entry = m_entries[static_cast<std::size_t>(m_position)];
+  m_sheet.load(m_teams.players(entry.key));
+  entry.abbreviation = m_loadedTeam.abbreviation;
+  entry.category = m_loadedTeam.category;
+  entry.name = m_loadedTeam.name;
+  entry.colour = m_loadedTeam.colour();
+  entry.players = m_sheet.players().size();
+  m_list->setTeam(m_position, entry);
+  showPlayers();
 }
 
 void frmEQUIPES::deleteTeam() {
@@ -405,8 +479,7 @@ bool frmEQUIPES::addPlayer() {
     return false;
   }
   const TeamPlayer written = changed.players()[static_cast<std::size_t>(row)];
-  m_sheet.load(m_teams.players(team()->key));
-  showPlayers();
+  takeWritten();
   showRow(written);
   // Empty for the next new player: his number over the name of the one before would renumber that one.
   m_player->show(m_sheet.players().size() > before ? PlayerFields() : fieldsOf(written));
@@ -423,9 +496,12 @@ void frmEQUIPES::deletePlayer() {
 
 void frmEQUIPES::chooseColour() {
   const QColor chosen = m_dialogs.chooseColour(this, toQt(m_texts.text(1835)), colourOf(m_colour));
-  if (!chosen.isValid())
-    return;
-  m_colour = storedColour(chosen);
+  if (chosen.isValid())
+    setColour(chosen);
+}
+
+void frmEQUIPES::setColour(const QColor& colour) {
+  m_colour = storedColour(colour);
   showColour();
 }
 
@@ -542,10 +618,68 @@ void frmEQUIPES::relabelWindow() {
   m_player->relabelPanel();
   showPlayers();
   showNotice();
+  showColour();
+  widenColumns();
+  placeGroups();
 }
 
 void frmEQUIPES::applyColours() {
+  const Measure& measure = Theme::measure();
+  const int gap = measure(8, 12);
+  m_whole->setContentsMargins(gap, gap, gap, gap);
+  m_whole->setSpacing(gap);
+  m_editor->setSpacing(gap);
+  m_teamsCard->setFixedWidth(measure(270, 330));
+  m_teamsCard->layout()->setContentsMargins(gap, gap, gap, gap);
+  const int side = measure(14);
+  m_groups->setContentsMargins(side, measure(8), side, measure(8));
+  m_groups->setSpacing(measure(14));
+  m_playersHead->setContentsMargins(side, measure(6), measure(10), measure(6));
+  m_player->setContentsMargins(side, measure(4), side, measure(4));
+  for (QLabel* label : m_titles)
+    label->setFont(Theme::font(Type::Count, QFont::DemiBold));
+  m_abbreviation->setMinimumWidth(measure(96));
+  m_category->setMinimumWidth(measure(80));
+  m_name->setMinimumWidth(measure(140));
+  for (QLineEdit* field : m_rules)
+    field->setMinimumWidth(measure(56));
+  m_playersHead->setSpacing(measure(8));
+  for (QGridLayout* fields : m_groups->parentWidget()->findChildren<QGridLayout*>())
+    fields->setVerticalSpacing(measure(2));
+  const int row = measure(24, 30);
+  m_table->verticalHeader()->setMinimumSectionSize(row);
+  m_table->verticalHeader()->setDefaultSectionSize(row);
+  m_table->setMinimumHeight(row * kLeastRows);
+  widenColumns();
+  m_list->list().doItemsLayout(); // another measure, other heights
   showColour();
+  placeGroups();
+}
+
+void frmEQUIPES::resizeEvent(QResizeEvent* event) {
+  ChildWindow::resizeEvent(event);
+  placeGroups();
+}
+
+// No head of a column is cut, in any language and measure.
+void frmEQUIPES::widenColumns() {
+  QHeaderView& header = *m_table->horizontalHeader();
+  for (int column = 0; column + 1 < kPlayerColumns; ++column) {
+    if (!header.isSectionHidden(column) && header.sectionSize(column) < header.sectionSizeHint(column))
+      header.resizeSection(column, header.sectionSizeHint(column));
+  }
+}
+
+// Names and rules beside each other, or below where they need more room than there is.
+void frmEQUIPES::placeGroups() {
+  const QMargins margins = m_groups->contentsMargins();
+  int need = margins.left() + margins.right();
+  for (int i = 0; i < m_groups->count(); ++i)
+    need += m_groups->itemAt(i)->minimumSize().width() + (i > 0 ? m_groups->spacing() : 0);
+  const int room = width() - m_teamsCard->width() - 3 * m_whole->spacing();
+  const bool fits = need <= room;
+  m_groups->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+  m_line->setFrameShape(fits ? QFrame::VLine : QFrame::HLine);
 }
 
 QByteArray frmEQUIPES::arrangement() const {
@@ -556,6 +690,7 @@ void frmEQUIPES::restoreArrangement(const QByteArray& state) {
   m_table->horizontalHeader()->restoreState(state);
   m_table->setColumnHidden(static_cast<int>(PlayerColumn::PositionIndex), true);
   m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  widenColumns();
 }
 
 } // namespace hooptab

@@ -10,7 +10,9 @@
 #include <array>
 #include <cstdint>
 
+class QBoxLayout;
 class QCheckBox;
+class QFrame;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -18,8 +20,10 @@ class QTableView;
 
 namespace hooptab {
 
+class ColourSwatches;
 class PlayerEditor;
 class PlayerTableModel;
+class TeamBand;
 class TeamList;
 
 class frmEQUIPES : public ChildWindow {
@@ -39,12 +43,16 @@ class frmEQUIPES : public ChildWindow {
 
  protected:
   bool mayClose() override { return mayLeaveTeam(); }
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QWidget* makeTeams();
   QWidget* makeTeamFields();
   QWidget* makePlayers();
-  QLineEdit* addField(QGridLayout& layout, int row, int column, int span, const char* name, int text);
+  QLabel* title(int text, QWidget* parent);
+  QLineEdit* addField(QGridLayout& layout, int row, int column, const char* name, int text);
+  void placeGroups();
+  void widenColumns();
   void connectEverything();
 
   void listTeams();
@@ -56,10 +64,12 @@ class frmEQUIPES : public ChildWindow {
 
   void addTeam();
   bool saveTeam();
+  void takeWritten();
   void deleteTeam();
   bool addPlayer();
   void deletePlayer();
   void chooseColour();
+  void setColour(const QColor& colour);
   void clearPlayer();
   void selectPlayer();
   void sortPlayers(int column);
@@ -102,6 +112,16 @@ class frmEQUIPES : public ChildWindow {
   QCheckBox* m_isMain = nullptr;
   QTableView* m_table = nullptr;
   QLabel* m_count = nullptr;
+  TeamBand* m_band = nullptr;
+  ColourSwatches* m_swatches = nullptr;
+  QLabel* m_contrast = nullptr; // of the text on the team's colour
+  QWidget* m_teamsCard = nullptr;
+  QFrame* m_line = nullptr; // between names and rules
+  std::vector<QLabel*> m_titles;
+  QBoxLayout* m_whole = nullptr;
+  QBoxLayout* m_editor = nullptr;
+  QBoxLayout* m_groups = nullptr;
+  QBoxLayout* m_playersHead = nullptr;
 };
 
 } // namespace hooptab

@@ -366,6 +366,47 @@ TEST_F(MainWindowTest, OpensAGameByKeyAndServesItsScorecard) {
   EXPECT_TRUE(window->findChild<QWidget*>(QStringLiteral("welcome"))->isVisible());
 }
 
+// The start page is left and reached by what stands on it, and shows the games anew each time.
+TEST_F(MainWindowTest, TheStartPageLeadsIntoTheGamesAndBack) {
+  const QString path = makeGame("GOES ON.GAM");
+  memory->rememberFile(fromQt(makeWrongFile()));
+  memory->rememberFile(fromQt(path));
+  memory->rememberFile(fromQt(fileIn(games, "GONE.GAM")));
+  start();
+  auto* plate = window->findChild<QWidget*>(QStringLiteral("unfinished"));
+  const auto row = [&](const char* name) { return window->findChild<QAbstractButton*>(QLatin1String(name)); };
+  ASSERT_TRUE(QTest::qWaitFor([&] { return plate->isVisible() && row("recent(0)") != nullptr; }));
+  EXPECT_TRUE(plate->accessibleName().contains(QStringLiteral("LYNX 3 – 0 PUMA")));
+  EXPECT_TRUE(row("recent(0)")->accessibleName().contains(text(2632))) << "the wrong file says so";
+  EXPECT_EQ(row("recent(1)"), nullptr);
+  QTest::mouseClick(row("recent(0)"), Qt::LeftButton);
+  EXPECT_EQ(dialogs.shown.back().text, text(1059));
+  QTest::mouseClick(row("optLANGUAGE(1)"), Qt::LeftButton);
+  EXPECT_EQ(row("card_LIVENew")->text(), toQt(texts.text(1038, Language::French)));
+  EXPECT_TRUE(row("optLANGUAGE(1)")->isChecked());
+  QTest::mouseClick(row("cmdFOLDER"), Qt::LeftButton);
+  EXPECT_EQ(dialogs.opened.back(), QUrl::fromLocalFile(games.path()));
+
+  row("cmdCONTINUE")->setFocus();
+  QTest::keyClick(row("cmdCONTINUE"), Qt::Key_Return);
+  auto* recording = area().findChild<frmLIVE*>();
+  ASSERT_NE(recording, nullptr);
+  EXPECT_EQ(recording->path(), path);
+  action("CLOSELIVEMANUAL").trigger();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return plate->isVisible(); }));
+  window->openGame(path);
+  EXPECT_EQ(GameFile(store, fromQt(path)).setDetails({{"TERMINE", "1"}}), GameFileProblem::None);
+  click("VwCLOSE");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return row("recent(1)") != nullptr; })) << "it is over";
+  EXPECT_FALSE(plate->isVisible());
+  row("recent(0)")->setFocus();
+  QTest::keyClick(row("recent(0)"), Qt::Key_Down);
+  QTest::keyClick(window->focusWidget(), Qt::Key_Up);
+  QTest::keyClick(window->focusWidget(), Qt::Key_Enter);
+  ASSERT_EQ(scorecards().size(), 1);
+  EXPECT_EQ(scorecards().first()->path(), path);
+}
+
 TEST_F(MainWindowTest, RefusesAWrongFileAndKeepsTheOpenGame) {
   window->openGame(makeGame("A.GAM"));
   dialogs.nextFile = makeWrongFile();

@@ -1,10 +1,13 @@
+#include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "storage/Settings.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 #include "teams/PlayerTableModel.h"
+#include "teams/TeamList.h"
 #include "teams/frmEQUIPES.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QClipboard>
@@ -27,10 +30,11 @@ using Kind = ScriptedDialogs::Kind;
 class TeamWindowTest : public testing::Test {
  protected:
   void SetUp() override {
-    folder.write("CONFIG.INI",
-                 "[CONFIGURATION]\r\nLANGUE=0\r\nSTATU1=U1-One\r\nSTATU2=U2-Two\r\n"
-                 "[TEAM]\r\n1=BEES,A,Bees,,,8,4,5,5,2,255,0\r\n2=ANTS,B,Ants,,,10,4,5,5,2\r\nx=ODD,C,\r\n"
-                 "[1]\r\n5=2,Ann,6ft,,,,\r\n10=0,Bo,,,,,\r\n");
+    folder.write(
+        "CONFIG.INI",
+        "[CONFIGURATION]\r\nLANGUE=0\r\nSTATU1=U1-One\r\nSTATU2=U2-Two\r\n"
+        "[TEAM]\r\n1=BEES,A,Bees,,,8,4,5,5,2,255,0\r\n2=ANTS,B,Fuzzy Ants,,,10,4,5,5,2\r\nx=ODD,C,\r\n"
+        "[1]\r\n5=2,Ann,6ft,,,,\r\n10=0,Bo,,,,,\r\n");
     open();
   }
   void open() {
@@ -121,9 +125,11 @@ TEST_F(TeamWindowTest, ShowsTheTeamThatIsChosen) {
   EXPECT_EQ(table().model()->index(0, 2).data().toString(), QStringLiteral("Garde"));
   EXPECT_EQ(find<QLabel>("lblANNOUNCE").text(), QString());
   // A list of many teams is searched by what they contain.
-  field("txtSEARCHequipes").setText(QStringLiteral("ant"));
-  EXPECT_TRUE(list().item(0)->isHidden());
-  EXPECT_FALSE(list().item(1)->isHidden());
+  for (const char* part : {"ant", "zzy a"}) {
+    field("txtSEARCHequipes").setText(QLatin1String(part));
+    EXPECT_TRUE(list().item(0)->isHidden());
+    EXPECT_FALSE(list().item(1)->isHidden()) << part << " is in its abbreviation or its full name";
+  }
   EXPECT_TRUE(dialogs.shown.empty());
 }
 
@@ -235,6 +241,32 @@ TEST_F(TeamWindowTest, ATeamIsMadeSavedAndDeletedAndItsIdReused) {
   EXPECT_TRUE(window->close()) << "nothing is unsaved";
 }
 
+// What is pressed and typed is seen at once; the list shows what is in the file.
+TEST_F(TeamWindowTest, AColourIsChosenWithOnePressAndTheListShowsWhatIsSaved) {
+  choose(0);
+  const auto listed = [this](int role) { return list().item(0)->data(role); };
+  EXPECT_EQ(listed(TeamRole::Players).toInt(), 2);
+  auto& yellow = find<QAbstractButton>("swatch(8)");
+  QTest::mouseClick(&yellow, Qt::LeftButton);
+  EXPECT_TRUE(yellow.isChecked());
+  const QColor colour = table().palette().color(QPalette::Base);
+  const QString measured = QString::number(contrast(Qt::black, colour), 'f', 1);
+  EXPECT_EQ(find<QLabel>("lblCONTRAST").text(), toQt(texts.withPlaceholder(2637, fromQt(measured))));
+  EXPECT_EQ(colourOf(listed(TeamRole::Colour).toUInt()), QColor(255, 0, 0));
+  type("txtJOUEURNO", "7");
+  choosePosition(1);
+  type("txtJOUEURNOM", "Cy");
+  click("cmdAJOUTERJOUEUR");
+  EXPECT_EQ(listed(TeamRole::Players).toInt(), 3);
+  EXPECT_EQ(colourOf(listed(TeamRole::Colour).toUInt()), QColor(255, 0, 0)) << "a player is no team";
+  click("cmdSAVEEQUIPE");
+  EXPECT_EQ(colourOf(listed(TeamRole::Colour).toUInt()), colour);
+  // A colour of one's own is none of them.
+  dialogs.nextColour = QColor(1, 2, 3);
+  click("cmdCOUL");
+  EXPECT_FALSE(yellow.isChecked());
+}
+
 TEST_F(TeamWindowTest, NothingTypedIsLostWithoutAWord) {
   choose(0);
   type("txtNOMEQUIPE", "Wasps");
@@ -246,7 +278,7 @@ TEST_F(TeamWindowTest, NothingTypedIsLostWithoutAWord) {
   dialogs.nextSaveChoice = SaveChoice::Save;
   choose(1);
   EXPECT_TRUE(holds("1=BEES,A,Wasps,U1-One,U2-Two,8,4,5,5,2,255,0"));
-  EXPECT_EQ(field("txtNOMEQUIPE").text(), QStringLiteral("Ants"));
+  EXPECT_EQ(field("txtNOMEQUIPE").text(), QStringLiteral("Fuzzy Ants"));
   EXPECT_EQ(dialogs.shown.size(), 3U);
   // A player that cannot be saved keeps the window open.
   type("txtJOUEURNO", "4");

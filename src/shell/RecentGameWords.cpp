@@ -1,0 +1,60 @@
+#include "shell/RecentGameWords.h"
+
+#include "appearance/relabel.h"
+
+#include <QDate>
+#include <QFileInfo>
+#include <QLocale>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kOvertime = 1022;
+constexpr int kFinal = 1552;
+constexpr int kPeriod = 1590;
+constexpr int kNotFinished = 2051;
+constexpr int kCannotBeRead = 2632;
+
+QString overtimeText(const RecentGame& game, const Texts& texts) {
+  return QStringLiteral("%1%2").arg(caption(texts, kOvertime)).arg(game.period - game.regularPeriods);
+}
+
+bool isInOvertime(const RecentGame& game) {
+  return game.hasPeriods && game.regularPeriods > 0 && game.period > game.regularPeriods;
+}
+
+} // namespace
+
+QString dayText(const RecentGame& game, const Texts& texts) {
+  const QString stored = toQt(game.date);
+  const QDate day = QDate::fromString(stored, Qt::ISODate);
+  const QLocale locale(texts.language() == Language::French ? QLocale::French : QLocale::English);
+  return day.isValid() ? locale.toString(day, QStringLiteral("d MMM yyyy")) : stored;
+}
+
+QString periodText(const RecentGame& game, const Texts& texts) {
+  return isInOvertime(game) ? overtimeText(game, texts)
+                            : toQt(texts.withPlaceholder(kPeriod, std::to_string(game.period)));
+}
+
+QString stateText(const RecentGame& game, const Texts& texts) {
+  if (game.problem != GameFileProblem::None)
+    return caption(texts, kCannotBeRead);
+  const QString state = caption(texts, game.isFinished ? kFinal : kNotFinished);
+  return isInOvertime(game) ? QStringLiteral("%1, %2").arg(state, overtimeText(game, texts)) : state;
+}
+
+QString scoreText(const RecentGame& game) {
+  return QStringLiteral("%1 – %2").arg(game.teams[0].points).arg(game.teams[1].points);
+}
+
+QString wholeText(const RecentGame& game, const Texts& texts) {
+  if (game.problem != GameFileProblem::None)
+    return QFileInfo(toQt(game.path)).fileName() + QStringLiteral(", ") + stateText(game, texts);
+  return QStringLiteral("%1, %2 %3 %4, %5")
+      .arg(dayText(game, texts), toQt(game.teams[0].abbreviation), scoreText(game),
+           toQt(game.teams[1].abbreviation), stateText(game, texts));
+}
+
+} // namespace hooptab

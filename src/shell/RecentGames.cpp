@@ -1,0 +1,64 @@
+#include "shell/RecentGames.h"
+
+#include "storage/Tally.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::int64_t kNanoseconds = 1'000'000'000;
+
+// `state` is large, and kept for the next game.
+RecentGame readOne(cinifile& store, const std::string& path, GameState& state) {
+  RecentGame result;
+  result.path = path;
+  Game game;
+  result.problem = GameFile(store, path).read(game);
+  if (result.problem != GameFileProblem::None)
+    return result;
+  (void)Tally::run(state, game.events, game.roster[0],
+                   game.roster[1]); // a count at its limit is told elsewhere
+  const GameDetails& details = game.details;
+  result.date = details.date;
+  for (std::size_t team = 0; team < result.teams.size(); ++team)
+    result.teams[team] = {details.abbreviation[team], details.teamColour[team],
+                          state.points(static_cast<int>(team))};
+  result.isFinished = details.isFinished;
+  result.hasPeriods = details.inputType == 0;
+  result.hasTime = result.hasPeriods && details.minutesPerPeriod > 0;
+  result.period = state.period;
+  result.regularPeriods = details.periods;
+  result.clockSeconds = state.clockSeconds;
+  result.events = static_cast<std::size_t>(
+      std::ranges::count(game.events, false, [](const GameEvent& event) { return event.isDeleted; }));
+  if (FileStamp stamp; store.files().stamp(path, stamp))
+    result.changed = stamp.modifiedNanoseconds / kNanoseconds;
+  return result;
+}
+
+} // namespace
+
+RecentGames readRecentGames(FileSystem& files, const std::vector<std::string>& paths,
+                            const std::atomic<bool>& isGivenUp) {
+  RecentGames result;
+  cinifile store(files);
+  const auto state = std::make_unique<GameState>();
+  for (const std::string& path : paths) {
+    if (isGivenUp || result.others.size() == RecentGames::kMostOthers)
+      break;
+    RecentGame game = readOne(store, path, *state);
+    if (game.problem == GameFileProblem::Absent)
+      continue;
+    if (game.problem == GameFileProblem::None && !game.isFinished && !result.unfinished)
+      result.unfinished = std::move(game);
+    else
+      result.others.push_back(std::move(game));
+  }
+  return result;
+}
+
+} // namespace hooptab
