@@ -120,9 +120,10 @@ double scaleOf(const QRectF& fitted, CourtPicture::Turn turn) {
   return fitted.width() / (turn == CourtPicture::Turn::BaselineLeft ? kLength : kWidth);
 }
 
-// Each parted from any ground by what lies around it, and from each other by shape.
+// Each parted from any ground by what lies around it, and from each other by shape. A missed one that lies
+// over a made one is open in its middle.
 void paintMark(QPainter& painter, const QPointF& centre, double radius, double pixel, const CourtMark& mark,
-               const QColor& halo) {
+               bool isOverMade, const QColor& halo) {
   const Look& look = Theme::look();
   if (mark.isHighlighted) { // a ring that no other mark has
     painter.setBrush(look.surface);
@@ -135,13 +136,13 @@ void paintMark(QPainter& painter, const QPointF& centre, double radius, double p
     painter.drawEllipse(centre, radius, radius);
     return;
   }
-  // Open enough to show a made one under it.
-  const double arm = radius * 1.05;
+  const double arm = radius * (isOverMade ? 1.7 : 1.05);
+  const double from = isOverMade ? radius * 0.95 : 0;
   for (const QPen& pen : {QPen(halo, 4 * pixel, Qt::SolidLine, Qt::RoundCap),
                           QPen(kMissedMark, 2 * pixel, Qt::SolidLine, Qt::RoundCap)}) {
     painter.setPen(pen);
-    painter.drawLine(centre - QPointF(arm, arm), centre + QPointF(arm, arm));
-    painter.drawLine(centre - QPointF(arm, -arm), centre + QPointF(arm, -arm));
+    for (const QPointF& corner : {QPointF(1, 1), QPointF(1, -1), QPointF(-1, 1), QPointF(-1, -1)})
+      painter.drawLine(centre + corner * from, centre + corner * arm);
   }
 }
 
@@ -310,17 +311,27 @@ void CourtPicture::paintMarks(QPainter& painter, const QRectF& fitted, Turn turn
   const auto inside = [](double value, double from, double to) {
     return std::clamp(value, from, std::max(from, to));
   };
+  const auto centreOf = [&](const CourtMark& mark) {
+    const Place place = atEdge(mark.place);
+    const QPointF centre = transform.map(QPointF(place.x, place.y));
+    return QPointF(inside(centre.x(), fitted.left() + reach, fitted.right() - reach),
+                   inside(centre.y(), fitted.top() + reach, fitted.bottom() - reach));
+  };
+  std::vector<QPointF> made;
+  for (const CourtMark& mark : marks) {
+    if (mark.isMade)
+      made.push_back(centreOf(mark));
+  }
   for (const bool isHighlighted : {false, true}) {
     for (const bool isMade : {true, false}) {
       for (const CourtMark& mark : marks) {
         if (mark.isHighlighted != isHighlighted || mark.isMade != isMade)
           continue;
-        const Place place = atEdge(mark.place);
-        const QPointF centre = transform.map(QPointF(place.x, place.y));
-        paintMark(painter,
-                  {inside(centre.x(), fitted.left() + reach, fitted.right() - reach),
-                   inside(centre.y(), fitted.top() + reach, fitted.bottom() - reach)},
-                  radius, pixel, mark, m_colours.halo);
+        const QPointF centre = centreOf(mark);
+        const bool isOverMade = !isMade && std::ranges::any_of(made, [&](const QPointF& other) {
+          return (other - centre).manhattanLength() < radius;
+        });
+        paintMark(painter, centre, radius, pixel, mark, isOverMade, m_colours.halo);
       }
     }
   }

@@ -155,7 +155,8 @@ void drawToolButton(QPainter& painter, const QStyleOption& option) {
   const Look& look = Theme::look();
   const bool isOn = has(option, QStyle::State_On);
   if (!has(option, QStyle::State_AutoRaise) ||
-      option.palette.color(QPalette::Button) != Theme::palette(Theme::current()).color(QPalette::Button))
+      option.palette.color(QPalette::Active, QPalette::Button) !=
+          Theme::palette(Theme::current()).color(QPalette::Active, QPalette::Button))
     return drawButton(painter, option);
   if (has(option, QStyle::State_Enabled)) {
     if (isOn)
@@ -459,6 +460,13 @@ void ProgramStyle::drawToolButtonWhole(const QStyleOptionToolButton& button, QPa
     label.features &= ~QStyleOptionToolButton::HasMenu;
     drawArrow(*painter, QPointF(label.rect.right() + kMenuArrow / 2.0, QRectF(button.rect).center().y()), 0,
               has(button, State_Enabled) ? Theme::look().ink : Theme::look().edge);
+  }
+  if (button.toolButtonStyle == Qt::ToolButtonTextBesideIcon) { // Qt begins at the left
+    constexpr int kAroundIcon = 12;
+    const int needed = button.iconSize.width() + kAroundIcon +
+                       button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width();
+    const int free = std::max(label.rect.width() - needed, 0);
+    label.rect.adjust(free / 2, 0, free / 2 - free, 0);
   }
   proxy()->drawControl(CE_ToolButtonLabel, &label, painter, widget);
 }

@@ -38,7 +38,7 @@ constexpr int kMargin = 9;
 constexpr int kGap = 4;
 constexpr int kBandMargin = 3;
 constexpr double kRadius = 8;
-constexpr int kArrow = 14;     // length
+constexpr int kArrow = 10;     // length
 constexpr int kArrowFoot = 10; // half of it
 constexpr int kBetween = 5;    // two panels
 constexpr int kFlash = 400;    // milliseconds
@@ -287,6 +287,8 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
   }
   if (m_question.isAssist()) {
     nameTeam(game, *m_shooters, 0, team);
+    if (const RosterPlayer* who = game.game().roster[team].player(shooter); who != nullptr)
+      m_shooters->setText(toQt(who->jersey + ' ' + familyName(who->name)) + QStringLiteral(" ●"));
   } else {
     nameTeam(game, *m_groups[0], kOffensive, team);
     nameTeam(game, *m_groups[1], kDefensive, 1 - team);

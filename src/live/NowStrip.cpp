@@ -12,7 +12,9 @@
 #include <QPainter>
 #include <QToolButton>
 
+#include <algorithm>
 #include <cstdlib>
+#include <numeric>
 
 namespace hooptab {
 
@@ -188,25 +190,35 @@ void NowStrip::paintEvent(QPaintEvent*) {
   painter.setClipRect(room);
   int x = room.left();
   const int chip = Theme::measure()(kChip);
-  for (const Run& run : m_runs) {
-    if (run.beginsGroup && x > room.left()) {
+  const auto widthOf = [chip](const Run& run) {
+    const QFont font = Theme::font(Type::Small, run.isBold ? QFont::Bold : QFont::Normal);
+    return (run.isChip ? chip : QFontMetrics(font).horizontalAdvance(run.text)) + 5;
+  };
+  for (auto run = m_runs.begin(); run != m_runs.end(); ++run) {
+    if (run->beginsGroup) { // shown whole, or not at all
+      const auto end =
+          std::find_if(run + 1, m_runs.end(), [](const Run& other) { return other.beginsGroup; });
+      const int width = std::accumulate(run, end, x > room.left() ? 2 * kGap : 0,
+                                        [&](int sum, const Run& part) { return sum + widthOf(part); });
+      if (x + width > room.right() + 5)
+        break;
+    }
+    if (run->beginsGroup && x > room.left()) {
       x += kGap;
       painter.fillRect(QRect(x, 6, 1, height() - 12), look.line);
       x += kGap;
     }
-    if (run.isChip) {
-      painter.setPen(outlineOf(run.colour, look.surface));
-      painter.setBrush(run.colour);
+    if (run->isChip) {
+      painter.setPen(outlineOf(run->colour, look.surface));
+      painter.setBrush(run->colour);
       painter.drawRoundedRect(QRectF(x + 0.5, (height() - chip) / 2 + 0.5, chip - 1, chip - 1), 2, 2);
       x += chip + 5;
       continue;
     }
-    painter.setFont(Theme::font(Type::Small, run.isBold ? QFont::Bold : QFont::Normal));
-    painter.setPen(run.colour);
-    const int width = painter.fontMetrics().horizontalAdvance(run.text);
-    if (x + width > room.right()) // words are shown whole, or not at all
-      break;
-    painter.drawText(QRect(x, 0, width + 1, height()), Qt::AlignLeft | Qt::AlignVCenter, run.text);
+    painter.setFont(Theme::font(Type::Small, run->isBold ? QFont::Bold : QFont::Normal));
+    painter.setPen(run->colour);
+    const int width = painter.fontMetrics().horizontalAdvance(run->text);
+    painter.drawText(QRect(x, 0, width + 1, height()), Qt::AlignLeft | Qt::AlignVCenter, run->text);
     x += width + 5;
   }
 }

@@ -44,6 +44,8 @@ constexpr int kClose = 2489;
 constexpr int kIsItSo = 2517;
 constexpr int kLookOnce = 2518;
 constexpr int kWhatNext = 2519;
+constexpr int kIsSame = 2523;
+constexpr int kIsAnother = 2524;
 
 constexpr int kMargin = 9;
 constexpr int kGap = 5;
@@ -102,6 +104,7 @@ PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
   parts->setSpacing(kGap);
   parts->addWidget(makeTitle(kIsItSo));
   parts->addWidget(makeScore());
+  parts->addLayout(makeAnswers());
   parts->addWidget(m_compared);
   parts->addWidget(m_events);
   parts->addWidget(makeTitle(kLookOnce));
@@ -160,6 +163,26 @@ QWidget* PeriodEndCard::makeScore() {
   return row;
 }
 
+// Whether the board says so: taken over with one click, or typed.
+QLayout* PeriodEndCard::makeAnswers() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kGap);
+  QPushButton* same = makeButton("cmdCARDSAME", kIsSame);
+  QPushButton* another = makeButton("cmdCARDANOTHER", kIsAnother);
+  connect(same, &QPushButton::clicked, this, [this] {
+    for (QLineEdit* score : m_scores)
+      score->setText(score->placeholderText());
+  });
+  connect(another, &QPushButton::clicked, this, [this] {
+    for (QLineEdit* score : m_scores)
+      score->clear();
+    m_scores[0]->setFocus();
+  });
+  row->addWidget(same, 1);
+  row->addWidget(another, 1);
+  return row;
+}
+
 void PeriodEndCard::open(const LiveGame& game) {
   m_game = &game;
   m_period = game.endedPeriod();
@@ -204,6 +227,8 @@ void PeriodEndCard::relabelCard() {
                                             std::to_string(m_doubtful), "YYY"))
             : caption(m_texts, kNothingToCheck));
   m_check->setVisible(isAny);
+  for (QPushButton* button : {m_switch, m_substitute})
+    button->setVisible(m_game->phase() != LiveGame::Phase::Decided);
   m_switch->setText(caption(m_texts, m_game->isHalfTime() ? kSwitchNow : kSwitch));
   // The question of half-time needs the whole width.
   m_both->setDirection(m_game->isHalfTime() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
@@ -218,7 +243,9 @@ void PeriodEndCard::relabelCard() {
   m_next->setText(isLocked ? QStringLiteral("%1 (%2 s)").arg(next).arg(lock) : next);
   m_next->setEnabled(!isLocked);
   QPalette colours;
-  if (!isLocked) {
+  const bool isOnStart = m_game->phase() != LiveGame::Phase::Decided &&
+                         m_game->phase() != LiveGame::Phase::OvertimeAsked; // which is green above
+  if (!isLocked && !isOnStart) {
     colours.setColor(QPalette::Button, Theme::made());
     colours.setColor(QPalette::ButtonText, textOn(Theme::made()));
   }

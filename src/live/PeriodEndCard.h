@@ -47,6 +47,7 @@ class PeriodEndCard : public QWidget {
 
  private:
   QWidget* makeScore();
+  QLayout* makeAnswers();
   QLabel* makeTitle(int text);
   QPushButton* makeButton(const char* name, int text);
   void compare();

@@ -199,7 +199,6 @@ void ScorePanel::layOut() {
     const bool isLeft = (team == 0) != m_areTurned;
     side.plate->setGeometry(isLeft ? margin : width() - margin - teamWidth, margin, teamWidth,
                             kTeamHeight.now());
-    side.name->setGeometry(1, 1, teamWidth - 2, nameHeight + 2);
     side.points->setGeometry(margin, nameHeight, teamWidth - 2 * margin, kTeamHeight.now() - nameHeight);
     side.points->setAlignment((isLeft ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     const int half = (width() - gap) / 2;
@@ -356,10 +355,15 @@ void ScorePanel::showSides() {
   for (std::size_t team = 0; team < 2; ++team) {
     QToolButton& plate = *m_sides[team].name;
     const bool playsRight = (team == 1) != m_team0PlaysRight;
-    const int room = plate.width() - plate.fontMetrics().horizontalAdvance(QStringLiteral("◂ mm"));
+    const int most = m_sides[team].plate->width() - 2;
+    const int room = most - plate.fontMetrics().horizontalAdvance(QStringLiteral("◂ mm"));
     const QString name = withoutMnemonic(plate.fontMetrics().elidedText(
         toQt(m_game->game().details.abbreviation[team]), Qt::ElideRight, room));
     plate.setText(playsRight ? name + QStringLiteral(" ▸") : QStringLiteral("◂ ") + name);
+    // Above its score, on the outside.
+    const int width = std::min(plate.fontMetrics().horizontalAdvance(plate.text()) + 2 * kMargin.now(), most);
+    const bool isLeft = (team == 0) != m_areTurned;
+    plate.setGeometry(isLeft ? 1 : 1 + most - width, 1, width, plate.fontMetrics().height() + 2);
   }
 }
 

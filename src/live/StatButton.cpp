@@ -67,7 +67,9 @@ StatButton::Face StatButton::face(bool isPressed) const {
   const QColor fill = mix(m_colour, look.surface, share);
   const QColor text = contrast(look.ink, fill) >= kReadable ? look.ink : textOn(fill);
   return {fill, isPressed ? look.ink : mix(m_colour, look.surface, look.buttonBorder), text,
-          contrast(look.faint, fill) >= kReadable ? look.faint : text};
+          contrast(look.faint, fill) >= kReadable   ? look.faint
+          : contrast(look.muted, fill) >= kReadable ? look.muted
+                                                    : text};
 }
 
 void StatButton::record(bool isMade) {

@@ -27,6 +27,7 @@ namespace {
 
 constexpr int kPlace = 1876;
 constexpr int kTitle = 1947;
+constexpr int kWhoBegins = 2525;
 constexpr int kCancel = 1128;
 constexpr int kLines = 1954;
 constexpr int kLineTip = 1955;
@@ -100,8 +101,15 @@ void frmSUBST::makeContents() {
   setTextNumber(*this, kTitle);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  if (m_past)
+  if (m_past) {
     addPlace(*layout);
+  } else {
+    auto* title = new PlainLabel(this);
+    Theme::setType(*title, Type::Count, QFont::DemiBold);
+    const bool isBeginning = m_choice.count(0) + m_choice.count(1) == 0;
+    setTextNumber(*title, isBeginning ? kWhoBegins : kTitle);
+    layout->addWidget(title);
+  }
   auto* teams = new QGridLayout;
   teams->setHorizontalSpacing(kMargin);
   teams->setColumnStretch(1, 1);
@@ -161,6 +169,7 @@ void frmSUBST::addTeam(QGridLayout& layout, int team) {
   layout.addLayout(head, row, 0);
   auto* title = new PlainLabel(this);
   setTextNumber(*title, kLines);
+  title->setVisible(!m_choice.lines(team).empty());
   layout.addWidget(title, row, 1);
 
   auto* roster = new QWidget(this);
@@ -229,9 +238,11 @@ QWidget* frmSUBST::makeTyped() {
   Theme::setType(*m_typedTeam, Type::Body, QFont::Bold);
   m_typed = new PlainLabel(row);
   m_typed->setObjectName(QStringLiteral("lblTYPEDNO"));
+  m_typed->setFrameShape(QFrame::Box);
+  m_typed->setMargin(kGap);
   m_typed->setFont(large);
   m_typed->setFixedSize(QFontMetrics(large).horizontalAdvance(QStringLiteral("8888_")),
-                        QFontMetrics(large).height());
+                        QFontMetrics(large).height() + 2 * kGap + 2);
   m_words = new PlainLabel(row);
   m_words->setObjectName(QStringLiteral("lblTYPEDWORDS"));
   m_words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // names widen no window

@@ -5,8 +5,8 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "setup/KeepsEnter.h"
+#include "setup/SideBand.h"
 #include "setup/SidePlayersTable.h"
-#include "setup/TeamBand.h"
 #include "teams/TeamColours.h"
 #include "teams/TeamList.h"
 
@@ -48,7 +48,7 @@ constexpr int kWarningSign = 0x26A0;
 
 SidePanel::SidePanel(NewGame& game, int side, const Texts& texts, QWidget* parent)
     : Card(parent), m_game(game), m_side(side), m_texts(texts), m_model(game, side, texts),
-      m_main(new BandChoice(this)), m_band(new TeamBand(kSideNames[side], *m_main, this)),
+      m_main(new BandChoice(this)), m_band(new SideBand(kSideNames[side], *m_main, this)),
       m_teams(new TeamList(named("lstequipes"), QStringLiteral("-"), this)) {
   setAccessibleNumber(*this, kSideNames[side]);
   m_main->setObjectName(named("Option1"));

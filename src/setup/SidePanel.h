@@ -4,7 +4,7 @@
 // up.
 #pragma once
 
-#include "setup/Card.h"
+#include "appearance/Card.h"
 #include "setup/SidePlayersModel.h"
 
 class QLabel;
@@ -15,7 +15,7 @@ namespace hooptab {
 
 class BandChoice;
 class SidePlayersTable;
-class TeamBand;
+class SideBand;
 class TeamList;
 
 class SidePanel : public Card {
@@ -57,7 +57,7 @@ class SidePanel : public Card {
   SidePlayersModel m_model;
   // In the order of the Tab key.
   BandChoice* m_main;
-  TeamBand* m_band;
+  SideBand* m_band;
   TeamList* m_teams;
   QLineEdit* m_name;
   QLineEdit* m_category;

@@ -1,12 +1,12 @@
 #include "setup/frmNEWGAME.h"
 
+#include "appearance/Card.h"
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "setup/Card.h"
 #include "setup/KeepsEnter.h"
 #include "setup/SidePanel.h"
 #include "setup/SidePlayersTable.h"

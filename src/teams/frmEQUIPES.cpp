@@ -360,7 +360,7 @@ void frmEQUIPES::showColour() {
   const QColor colour = colourOf(m_colour);
   const bool hasTeam = team() != nullptr;
   showTeamColour(*m_table, hasTeam ? colour : palette().color(QPalette::Base));
-  m_band->setColour(hasTeam ? colour : Theme::look().raised);
+  m_band->setColour(hasTeam ? colour : QColor());
   m_swatches->showColour(hasTeam ? colour : QColor());
   const QColor text = textOn(colour);
   const QLocale locale(m_texts.language() == Language::French ? QLocale::French : QLocale::English);
@@ -638,6 +638,7 @@ void frmEQUIPES::applyColours() {
   m_player->setContentsMargins(side, measure(4), side, measure(4));
   for (QLabel* label : m_titles)
     label->setFont(Theme::font(Type::Count, QFont::DemiBold));
+  m_band->applyMeasure();
   m_abbreviation->setMinimumWidth(measure(96));
   m_category->setMinimumWidth(measure(80));
   m_name->setMinimumWidth(measure(140));

@@ -2,8 +2,9 @@
 // main team.
 #pragma once
 
+#include "appearance/ColourBand.h"
+
 #include <QRadioButton>
-#include <QWidget>
 
 namespace hooptab {
 
@@ -19,20 +20,16 @@ class BandChoice : public QRadioButton {
   void paintEvent(QPaintEvent* event) override;
 };
 
-class TeamBand : public QWidget {
+class SideBand : public ColourBand {
  public:
   // `caption` is the number of the side's text. The choice becomes a part of the band.
-  TeamBand(int caption, BandChoice& choice, QWidget* parent);
+  SideBand(int caption, BandChoice& choice, QWidget* parent);
 
   void showTeam(const QString& name, const QColor& colour); // an invalid colour: no team
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
 
  private:
   PlainLabel* m_side;
   ElidedLabel* m_name;
-  QColor m_colour;
 };
 
 } // namespace hooptab

@@ -1,4 +1,4 @@
-#include "setup/TeamBand.h"
+#include "setup/SideBand.h"
 
 #include "appearance/ElidedLabel.h"
 #include "appearance/Theme.h"
@@ -12,7 +12,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kCardRadius = 8;
 constexpr int kFocusWidth = 2;
 
 } // namespace
@@ -31,13 +30,13 @@ void BandChoice::paintEvent(QPaintEvent*) {
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
 }
 
-TeamBand::TeamBand(int caption, BandChoice& choice, QWidget* parent)
-    : QWidget(parent), m_side(new PlainLabel(this)), m_name(new ElidedLabel(this)) {
+SideBand::SideBand(int caption, BandChoice& choice, QWidget* parent)
+    : ColourBand(parent), m_side(new PlainLabel(this)), m_name(new ElidedLabel(this)) {
   const Measure& measure = Theme::measure();
   setTextNumber(*m_side, caption);
-  m_side->setFont(Theme::font(Type::Small));
-  m_name->setFont(Theme::font(Type::Title));
-  choice.setFont(Theme::font(Type::Small));
+  Theme::setType(*m_side, Type::Small);
+  Theme::setType(*m_name, Type::Title);
+  Theme::setType(choice, Type::Small);
   auto* head = new QHBoxLayout;
   head->addWidget(m_side, 1);
   head->addWidget(&choice);
@@ -48,24 +47,9 @@ TeamBand::TeamBand(int caption, BandChoice& choice, QWidget* parent)
   layout->addWidget(m_name);
 }
 
-void TeamBand::showTeam(const QString& name, const QColor& colour) {
+void SideBand::showTeam(const QString& name, const QColor& colour) {
   m_name->setText(name);
-  m_colour = colour.isValid() ? colour : Theme::look().raised;
-  QPalette colours = palette();
-  colours.setColor(QPalette::WindowText, colour.isValid() ? textOn(colour) : Theme::look().ink);
-  setPalette(colours);
-  update();
-}
-
-void TeamBand::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setClipRect(rect());
-  painter.setPen(outlineOf(m_colour, Theme::look().surface));
-  painter.setBrush(m_colour);
-  // Round above, where the card is.
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, kCardRadius), kCardRadius, kCardRadius);
-  painter.fillRect(QRect(0, height() - 1, width(), 1), outlineOf(m_colour, Theme::look().surface));
+  setColour(colour);
 }
 
 } // namespace hooptab
