@@ -132,8 +132,9 @@ void LiveEventPanel::nameWindow() {
   if (m_window == nullptr)
     return;
   const std::string* names = m_rows.game().details.abbreviation;
-  m_window->setWindowTitle(
-      asTitle(QStringLiteral("%1: %2 – %3").arg(caption(m_texts, kEvents), toQt(names[0]), toQt(names[1]))));
+  const QString words =
+      QStringLiteral("%1: %2 – %3").arg(caption(m_texts, kEvents), toQt(names[0]), toQt(names[1]));
+  m_window->setWindowTitle(asTitle(words));
 }
 
 QByteArray LiveEventPanel::windowPlace() const {
