@@ -216,7 +216,10 @@ bool MouseHand::clicksAnswer() {
 
 void MouseHand::clickAnswer(const std::string& button) {
   std::this_thread::sleep_for(kQuestionIsRead);
-  m_table.person.clickAt(m_table.program.where(button));
+  const Program::Place place = m_table.program.where(button);
+  m_table.person.clickAt(place);
+  m_lastMark.x = place.middleX(); // a press on what lay below would be taken for a second one
+  m_lastMark.y = place.middleY();
 }
 
 // Enter behind a number that its last digit has not taken: another one begins so.
