@@ -18,8 +18,6 @@ namespace hooptab {
 namespace {
 
 constexpr int kCourtToolTip = 1095;
-constexpr QSize kCourt(126, 200); // a pixel a unit
-constexpr QSize kButton(44, 36);
 constexpr int kGap = 4;
 
 } // namespace
@@ -30,7 +28,6 @@ BenchShot::BenchShot(const Settings& settings, const Texts& texts, QWidget* pare
   setObjectName(QStringLiteral("picBENCHSHOT"));
   setFrameShape(QFrame::Box);
   m_court->setObjectName(QStringLiteral("CourtB"));
-  m_court->setFixedSize(kCourt);
   setToolTipNumber(*m_court, kCourtToolTip);
   setAccessibleNumber(*m_court, kCourtToolTip);
   connect(m_court, &MiniCourt::pressed, this, [this](const QPointF& place, bool isMade) {
@@ -45,7 +42,6 @@ BenchShot::BenchShot(const Settings& settings, const Texts& texts, QWidget* pare
     auto* const button =
         new StatButton(StatButton::Records::Shot, toQt(kindOf(controls.code)->shortName), {QString()}, this);
     button->setObjectName(QLatin1String(controls.button));
-    button->setFixedSize(kButton);
     setToolTipNumber(*button, controls.toolTip);
     setAccessibleNumber(*button, kindOf(controls.code)->wordsText);
     connect(button, &StatButton::recorded, this, [this, code = controls.code](bool isMade) {
@@ -68,8 +64,8 @@ BenchShot::BenchShot(const Settings& settings, const Texts& texts, QWidget* pare
 }
 
 void BenchShot::ask(const QString& player, bool playsRight, const QPoint& place) {
-  m_player->setText(
-      m_player->fontMetrics().elidedText(player, Qt::ElideRight, kCourt.width() + kButton.width()));
+  m_player->setText(m_player->fontMetrics().elidedText(player, Qt::ElideRight,
+                                                       m_court->width() + Theme::measure()(44, 55)));
   m_court->setPlaysRight(playsRight);
   adjustSize();
   const QRect room = screen()->availableGeometry();
@@ -80,9 +76,13 @@ void BenchShot::ask(const QString& player, bool playsRight, const QPoint& place)
 }
 
 void BenchShot::applyColours() {
+  const Measure& measure = Theme::measure();
   m_court->applyColours();
-  for (StatButton* button : findChildren<StatButton*>())
+  m_court->setFixedSize(measure(126, 158), measure(200, 250));
+  for (StatButton* button : findChildren<StatButton*>()) {
     button->setColour(colourOf(m_settings.buttonColour));
+    button->setFixedSize(measure(44, 55), measure(36, 45));
+  }
 }
 
 void BenchShot::keyPressEvent(QKeyEvent* event) {

@@ -23,7 +23,6 @@ EventWindow::EventWindow(LiveEventList& list, QWidget* parent)
   setObjectName(QStringLiteral("frmEVENTS"));
   setAttribute(Qt::WA_ShowWithoutActivating);
   m_list->setFocusPolicy(Qt::NoFocus);
-  m_list->setAccessibleName(list.accessibleName());
   m_list->setSelectionModel(list.selectionModel());
   m_list->addActions(list.actions());
   auto* layout = new QVBoxLayout(this);

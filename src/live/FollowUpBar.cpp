@@ -245,14 +245,11 @@ void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, std::size_t 
   m_buttons.push_back(&button);
 }
 
-// A team's name on its colour, behind a text where there is one.
-void FollowUpBar::nameTeam(const LiveGame& game, QLabel& band, int text, int team) {
-  const GameDetails& details = game.game().details;
-  const QString name = toQt(details.name[team]);
-  const QString words = text == 0 ? name : toQt(m_texts.text(text)) + QLatin1Char(' ') + name;
+// Words on a team's colour.
+void FollowUpBar::nameTeam(const LiveGame& game, QLabel& band, const QString& words, int team) {
   band.setText(band.fontMetrics().elidedText(words, Qt::ElideRight, m_innerWidth - 2 * kBandMargin));
   band.setToolTip(words);
-  const QColor colour = colourOf(details.teamColour[team]);
+  const QColor colour = colourOf(game.game().details.teamColour[team]);
   QPalette colours = palette();
   colours.setColor(QPalette::Window, colour);
   colours.setColor(QPalette::WindowText, textOn(colour));
@@ -286,12 +283,17 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
     offer(game, m_question.isAssist() ? *m_mates[place] : *m_rebounders[place], choice);
   }
   if (m_question.isAssist()) {
-    nameTeam(game, *m_shooters, 0, team);
-    if (const RosterPlayer* who = game.game().roster[team].player(shooter); who != nullptr)
-      m_shooters->setText(toQt(who->jersey + ' ' + familyName(who->name)) + QStringLiteral(" ●"));
+    const RosterPlayer* who = game.game().roster[team].player(shooter);
+    nameTeam(game, *m_shooters,
+             QStringLiteral("● ") +
+                 (who != nullptr ? toQt(who->jersey + ' ' + familyName(who->name)) : QString()),
+             team);
   } else {
-    nameTeam(game, *m_groups[0], kOffensive, team);
-    nameTeam(game, *m_groups[1], kDefensive, 1 - team);
+    const auto named = [&](int text, int ofTeam) -> QString {
+      return toQt(m_texts.text(text)) + QLatin1Char(' ') + toQt(game.game().details.name[ofTeam]);
+    };
+    nameTeam(game, *m_groups[0], named(kOffensive, team), team);
+    nameTeam(game, *m_groups[1], named(kDefensive, 1 - team), 1 - team);
   }
   m_assist->setVisible(m_question.isAssist());
   m_rebound->setVisible(!m_question.isAssist());

@@ -88,7 +88,7 @@ class FollowUpBar : public QWidget {
   JerseyButton* makeButton(QWidget* form, int index);
   void setPanelWidth(int panel);
   void offer(const LiveGame& game, JerseyButton& button, std::size_t choice);
-  void nameTeam(const LiveGame& game, QLabel& band, int text, int team);
+  void nameTeam(const LiveGame& game, QLabel& band, const QString& words, int team);
   void placeBeside(const QRect& panel, const QRect& room);
   [[nodiscard]] FollowUpKey meaningOf(const QKeyEvent& event) const;
   bool ownsKey(const QKeyEvent& event) const;

@@ -41,6 +41,11 @@ void LiveEventList::applyColours() {
   viewport()->update();
 }
 
+void LiveEventList::showAtTop(const QModelIndex& row) {
+  updateGeometries(); // or it could be scrolled no further than before
+  scrollTo(row, PositionAtTop);
+}
+
 QPoint LiveEventList::cornerUnder(const QModelIndex& row) const {
   return viewport()->mapToGlobal(visualRect(row).bottomLeft());
 }

@@ -18,6 +18,7 @@ class LiveEventList : public QTableView {
   using RowTaker = std::function<bool(const QModelIndex& row)>;
   void setDoubleClick(RowTaker taker) { m_doubleClick = std::move(taker); }
   void applyColours();                                            // and lengths
+  void showAtTop(const QModelIndex& row);                         // also right behind rows that have come in
   [[nodiscard]] QPoint cornerUnder(const QModelIndex& row) const; // of the screen
 
  signals:

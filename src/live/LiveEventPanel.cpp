@@ -14,6 +14,7 @@
 
 #include <QAction>
 #include <QBoxLayout>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QPushButton>
@@ -119,6 +120,8 @@ void LiveEventPanel::showWindow(bool isOpen) {
     return;
   }
   m_window = new EventWindow(*m_list, this);
+  setAccessibleNumber(m_window->list(), kEvents);
+  hooptab::relabel(*m_window, m_texts);
   serve(m_window->list());
   // Not while it is closing.
   connect(
@@ -143,7 +146,8 @@ QByteArray LiveEventPanel::windowPlace() const {
 
 void LiveEventPanel::restoreWindow(const QByteArray& place, bool isOpen) {
   m_windowPlace = place;
-  m_detach->setChecked(isOpen);
+  // On one screen alone it would lie over the panels.
+  m_detach->setChecked(isOpen && QGuiApplication::screens().size() > 1);
 }
 
 QAction* LiveEventPanel::makeAction(const char* name, int text, const char* iconName) {
@@ -253,17 +257,29 @@ void LiveEventPanel::showGame(const LiveGame& game) {
     m_filter->setChecked(false);
   }
   // Who looks at an older event keeps it in view; at the top the newest comes in.
-  const QPersistentModelIndex top = m_list->indexAt({0, 0});
-  const bool isAtTop = isNew || !top.isValid() || top.row() == 0;
+  struct Sight {
+    LiveEventList& list;
+    QPersistentModelIndex top;
+    bool isAtTop;
+  };
+  std::vector<Sight> sights;
+  for (LiveEventList* list : {m_list, m_window != nullptr ? &m_window->list() : nullptr}) {
+    if (list == nullptr)
+      continue;
+    const QModelIndex top = list->indexAt({0, 0});
+    sights.push_back({*list, top, isNew || !top.isValid() || top.row() == 0});
+  }
   const std::vector<EventPlace> chosenNow = placesOf(selected());
   const std::optional<EventPlace> currentNow = current();
   m_rows.show(game.game());
   if (placesOf(selected()) != chosenNow) // an event has moved: it stays the selected one
     select(chosenNow, currentNow);
-  if (isAtTop)
-    m_list->scrollToTop();
-  else if (top.isValid())
-    m_list->scrollTo(top, QAbstractItemView::PositionAtTop);
+  for (const Sight& sight : sights) {
+    if (sight.isAtTop)
+      sight.list.scrollToTop();
+    else if (sight.top.isValid())
+      sight.list.showAtTop(sight.top);
+  }
   m_filters->showGame(m_rows.game(), m_rows.words());
   nameWindow();
   showChecks();
@@ -283,7 +299,7 @@ void LiveEventPanel::applyColours() {
   m_list->applyColours();
   m_list->setMinimumHeight(kFewestRows * m_list->verticalHeader()->defaultSectionSize());
   if (m_window != nullptr)
-    m_window->list().applyColours();
+    m_window->applyColours();
   for (QToolButton* button : m_buttons) {
     button->setFixedSize(measure(26, 34), measure(26, 32));
     button->setIconSize({measure(18, 22), measure(18, 22)});
@@ -531,7 +547,9 @@ void LiveEventPanel::askDeletion() {
   };
   offer(withPlaceholder(m_texts, kDeleteWith, words.join(QStringLiteral(", "))), together);
   offer(caption(m_texts, kDeleteAlone), events);
-  menu->popup(m_list->cornerUnder(m_rows.rowOf(chosenEvents.front())));
+  const bool isInWindow = m_window != nullptr && m_window->underMouse();
+  const LiveEventList& list = isInWindow ? m_window->list() : *m_list;
+  menu->popup(list.cornerUnder(m_rows.rowOf(chosenEvents.front())));
   menu->setActiveAction(menu->actions().constFirst());
 }
 

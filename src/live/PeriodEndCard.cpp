@@ -106,7 +106,6 @@ PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
   parts->addWidget(makeScore());
   parts->addLayout(makeAnswers());
   parts->addWidget(m_compared);
-  parts->addWidget(m_events);
   parts->addWidget(makeTitle(kLookOnce));
   parts->addWidget(m_toCheck);
   parts->addWidget(m_check);
@@ -168,18 +167,19 @@ QLayout* PeriodEndCard::makeAnswers() {
   auto* row = new QHBoxLayout;
   row->setSpacing(kGap);
   QPushButton* same = makeButton("cmdCARDSAME", kIsSame);
-  QPushButton* another = makeButton("cmdCARDANOTHER", kIsAnother);
+  m_another = makeButton("cmdCARDANOTHER", kIsAnother);
   connect(same, &QPushButton::clicked, this, [this] {
     for (QLineEdit* score : m_scores)
       score->setText(score->placeholderText());
   });
-  connect(another, &QPushButton::clicked, this, [this] {
+  connect(m_another, &QPushButton::clicked, this, [this] {
     for (QLineEdit* score : m_scores)
       score->clear();
     m_scores[0]->setFocus();
   });
   row->addWidget(same, 1);
-  row->addWidget(another, 1);
+  row->addWidget(m_another, 1);
+  row->addWidget(m_events, 1); // in its place, once a difference was typed
   return row;
 }
 
@@ -277,6 +277,7 @@ void PeriodEndCard::compare() {
     colours.setColor(QPalette::WindowText, isSame ? Theme::made() : Theme::missed());
   m_compared->setPalette(colours);
   m_events->setVisible(m_differs >= 0);
+  m_another->setVisible(m_differs < 0);
 }
 
 void PeriodEndCard::applyColours() {

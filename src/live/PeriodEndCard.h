@@ -62,6 +62,7 @@ class PeriodEndCard : public QWidget {
   std::array<QLabel*, 2> m_names = {};
   std::array<QLineEdit*, 2> m_scores = {};
   QLabel* m_compared = nullptr;
+  QPushButton* m_another = nullptr;
   QPushButton* m_events = nullptr;
   QLabel* m_toCheck = nullptr;
   QPushButton* m_check = nullptr;

@@ -140,12 +140,12 @@ void frmEDIT::showAccept() {
 }
 
 StatButton* frmEDIT::makeButton(EventCode code, const char* name, int toolTip) {
-  constexpr QSize kSize(40, 24);
+  const QSize size(Theme::measure()(40, 50), Theme::measure()(24, 30));
   const EventKind& kind = *kindOf(code);
   auto* button = new StatButton(kind.isShot ? StatButton::Records::Shot : StatButton::Records::Action,
                                 toQt(kind.shortName), {QString()}, this);
   button->setObjectName(QStringLiteral("%1(10)").arg(QLatin1String(name)));
-  button->setFixedSize(kSize);
+  button->setFixedSize(size);
   button->setColour(colourOf(m_settings.buttonColour));
   setToolTipNumber(*button, toolTip > 0 ? toolTip : kind.wordsText);
   setAccessibleNumber(*button, kind.wordsText);

@@ -3,6 +3,7 @@
 #include "appearance/Fields.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/PlainText.h"
+#include "appearance/Theme.h"
 #include "appearance/relabel.h"
 
 #include <QBoxLayout>
@@ -21,8 +22,6 @@ constexpr int kNumber = 2587;
 constexpr int kName = 2588;
 constexpr int kAdd = 2589;
 constexpr int kCancel = 1128;
-constexpr int kNumberWidth = 64;
-constexpr int kNameWidth = 260;
 
 } // namespace
 
@@ -32,9 +31,9 @@ frmPLAYER::frmPLAYER(const QString& team, Add add, const Texts& texts, QWidget* 
   setObjectName(QStringLiteral("frmPLAYER"));
   m_jersey->setObjectName(QStringLiteral("txtJERSEY"));
   m_jersey->setMaxLength(3);
-  m_jersey->setFixedWidth(kNumberWidth);
+  m_jersey->setFixedWidth(Theme::measure()(64, 80));
   m_name->setObjectName(QStringLiteral("txtPLAYER"));
-  m_name->setMinimumWidth(kNameWidth);
+  m_name->setMinimumWidth(Theme::measure()(260, 320));
   m_problem->setObjectName(QStringLiteral("lblPROBLEM"));
   m_problem->setForegroundRole(QPalette::BrightText);
   m_problem->setWordWrap(true);

@@ -9,12 +9,6 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kAbbreviationPoints = 15;
-
-} // namespace
-
 TeamPlate::TeamPlate(int team, int side, QWidget* parent)
     : QWidget(parent), m_side(new PlainLabel(this)), m_name(new ElidedLabel(this)),
       m_abbreviation(new ElidedLabel(this)), m_score(new PlainLabel(this)) {
@@ -23,10 +17,7 @@ TeamPlate::TeamPlate(int team, int side, QWidget* parent)
   setTextNumber(*m_side, side);
   m_score->setObjectName(QStringLiteral("lblSCORE(%1)").arg(team));
   Theme::setType(*m_score, Type::Score);
-  QFont large = font();
-  large.setPointSize(kAbbreviationPoints);
-  large.setBold(true);
-  m_abbreviation->setFont(large);
+  Theme::setType(*m_abbreviation, Type::Title, QFont::Bold);
 
   // The scores stand next to the clock, the names outside.
   const Qt::Alignment outside = team == 0 ? Qt::AlignLeft : Qt::AlignRight;

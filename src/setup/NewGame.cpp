@@ -108,6 +108,11 @@ NewGame::OwnTeam* NewGame::ownTeam(int team) {
   return team == kNone || found == std::end(m_ownTeams) ? nullptr : &*found;
 }
 
+bool NewGame::hasOwnTeam(int side) const {
+  const int team = sides[side].team;
+  return team != kNone && std::ranges::find(m_ownTeams, team, &OwnTeam::team) != std::end(m_ownTeams);
+}
+
 void NewGame::chooseOwnTeam(int side) {
   OwnTeam& own = m_ownTeams[side];
   if (own.team == kNone) {
@@ -123,8 +128,19 @@ void NewGame::chooseOwnTeam(int side) {
                   .storedColour = kOwnColours[side]};
     m_teams.push_back({{}, 0, own.record.abbreviation, {}});
   }
-  if (sides[side].team != own.team)
-    chooseTeam(side, own.team);
+  if (sides[side].team == own.team)
+    return;
+  const TypedRules typed = rules;
+  const std::string day = date;
+  chooseTeam(side, own.team);
+  date = day;
+  // What stands there was typed, or is another team's: only what is missing is filled in.
+  for (std::string TypedRules::*rule :
+       {&TypedRules::periods, &TypedRules::minutesPerPeriod, &TypedRules::bonus,
+        &TypedRules::personalFoulLimit, &TypedRules::technicalFoulLimit}) {
+    if (!(typed.*rule).empty())
+      rules.*rule = typed.*rule;
+  }
 }
 
 bool NewGame::renameOwnTeam(int side) {
@@ -142,6 +158,8 @@ bool NewGame::renameOwnTeam(int side) {
   TeamEntry& listed = m_teams.at(static_cast<std::size_t>(own->team));
   listed.abbreviation = record.abbreviation;
   listed.category = record.category;
+  if (sides[1 - side].team != kNone && listText(0) == listText(1)) // the Lions of two towns
+    listed.abbreviation = record.abbreviation = m_texts.text(kOwnAbbreviations[own - m_ownTeams]);
   return true;
 }
 
@@ -222,7 +240,9 @@ int NewGame::problem() const {
     return kInvalidMinutes;
   if (Module1::leadingNumber(rules.periods) <= 0)
     return kInvalidPeriods;
-  if (sides[0].team == sides[1].team)
+  const bool isOfThisGame =
+      std::ranges::any_of(m_ownTeams, [](const OwnTeam& own) { return own.team != kNone; });
+  if (sides[0].team == sides[1].team || (isOfThisGame && listText(0) == listText(1)))
     return kSameTeam;
   if (Module1::leadingNumber(rules.bonus) <= 0)
     return kInvalidBonus;

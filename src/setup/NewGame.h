@@ -82,11 +82,13 @@ class NewGame {
   void setChecked(int side, std::size_t player, bool isChecked); // nothing for one who cannot play
   void stepPosition(int side, std::size_t player);
 
-  // Chooses a team that no list keeps, with the usual rules and no players: the side's own one, added to
-  // teams() the first time. Nothing where it is chosen already.
+  // Chooses a team that no list keeps, without players: the side's own one, added to teams() the first time.
+  // Rules that are missing become the usual ones. Nothing where it is chosen already.
   void chooseOwnTeam(int side);
+  [[nodiscard]] bool hasOwnTeam(int side) const; // one of this game alone is chosen
   // After a new name or category of the side: what teams() calls a team of this game follows, with the last
-  // word of the name as abbreviation. False, and nothing, for a team of the list.
+  // word of the name as abbreviation, or VISITOR and HOME where both would be called alike. False, and
+  // nothing, for a team of the list.
   bool renameOwnTeam(int side);
 
   // The players of the side, by their numbers ("4 5 7 10 23"): who is not named does not play, and a number

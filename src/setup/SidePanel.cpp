@@ -77,7 +77,11 @@ SidePanel::SidePanel(NewGame& game, int side, const Texts& texts, QWidget* paren
   layout->addLayout(content, 1);
 
   connect(m_teams, &TeamList::chosen, this, [this](int chosen) {
+    // Numbers that were typed before their team are its players all the same.
+    const bool hadOwn = m_game.hasOwnTeam(m_side);
     m_game.chooseTeam(m_side, chosen);
+    if (hadOwn && !m_game.hasOwnTeam(m_side))
+      m_game.takeNumbers(m_side, std::exchange(m_numbersTaken, {}));
     takeTeam();
   });
   connect(&m_model, &QAbstractItemModel::dataChanged, this, &SidePanel::showCount);
@@ -248,8 +252,13 @@ void SidePanel::takeOwnTeam() {
   m_name->setFocus(Qt::OtherFocusReason);
 }
 
-// Once for what was typed: what is checked by hand afterwards stays. What is wrong stays to be mended, and
-// the focus goes where the user sends it.
+// False, with the reason shown, for one who stands in the fields and cannot be added.
+bool SidePanel::takeTypedPlayer() {
+  if (!m_jersey->text().isEmpty() || !m_player->text().isEmpty())
+    addPlayer();
+  return m_jersey->text().isEmpty() && m_player->text().isEmpty();
+}
+
 QString SidePanel::wrongNumbers() const {
   return toQt(quickRoster(fromQt(m_numbers->text())).words(m_texts));
 }
@@ -266,6 +275,7 @@ void SidePanel::takeNumbers() {
   if (roster.problem != 0) // before which stand digits and separators alone, a byte each
     return m_numbers->setSelection(static_cast<int>(roster.place),
                                    static_cast<int>(toQt(roster.part).size()));
+  m_numbersTaken = fromQt(m_numbers->text());
   m_numbers->clear();
   if (hadTeam)
     return showPlayers();

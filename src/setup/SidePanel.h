@@ -28,6 +28,7 @@ class SidePanel : public Card {
   TeamList& teams() const { return *m_teams; }
   QLineEdit& numbers() const { return *m_numbers; }
   QString wrongNumbers() const; // what is wrong with those that still stand in their field; else empty
+  bool takeTypedPlayer();       // who was typed and not added yet; false where he cannot be
   void relabelPanel();          // after the captions
   void showTeams();             // those that the game knows have changed
 
@@ -62,6 +63,7 @@ class SidePanel : public Card {
   QLineEdit* m_name;
   QLineEdit* m_category;
   QLineEdit* m_numbers;
+  std::string m_numbersTaken; // as typed last
   SidePlayersTable* m_table;
   QLineEdit* m_jersey;
   QLineEdit* m_player;

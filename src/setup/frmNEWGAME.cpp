@@ -78,10 +78,14 @@ frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts,
       showMainTeam();
       showAcceptance();
     });
-    connect(m_sides[side], &SidePanel::teamsChanged, this, [this] {
-      for (SidePanel* panel : m_sides)
-        panel->showTeams();
-    });
+    // Not under a click on a list that the focus has just left another field for.
+    connect(
+        m_sides[side], &SidePanel::teamsChanged, this,
+        [this] {
+          for (SidePanel* panel : m_sides)
+            panel->showTeams();
+        },
+        Qt::QueuedConnection);
   }
   layout->addWidget(makeColumn());
 
@@ -346,7 +350,9 @@ void frmNEWGAME::focusOn(int problem) {
 
 void frmNEWGAME::accept() {
   const QString warning = caption(m_texts, kWarningTitle);
-  for (const SidePanel* side : m_sides) {
+  for (SidePanel* side : m_sides) {
+    if (!side->takeTypedPlayer())
+      return; // the panel says why
     if (const QString wrong = side->wrongNumbers(); !wrong.isEmpty()) {
       m_dialogs.warn(this, warning, wrong);
       side->numbers().setFocus(Qt::OtherFocusReason);

@@ -1,7 +1,7 @@
 // What fills the main window while no child window is open: the game that goes on, the games that were open
 // last, and the ways to everything else. Owns no command; it triggers those it is given and says which game
-// was asked for. The games are read each time it is shown, on a thread of their own: a slow disk holds up
-// nobody.
+// was asked for. The games are read each time it is shown, on a thread of their own: a slow disk does not
+// hold up the page. Closing the program waits for the file that is being read.
 #pragma once
 
 #include "appearance/BackgroundWork.h"

@@ -105,7 +105,7 @@ until_true "the teams close without a question" no_window_named 'Team Management
 keys ctrl+n
 until_true "the window of a new game opens" has_focus 'New Game'
 typed 'PU'
-tabs 8 # to the other list
+tabs 13 # to the other list
 typed 'HE'
 xdotool key Tab Return
 until_true "the file is asked for" has_focus 'Save Game as...'

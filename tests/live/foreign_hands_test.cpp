@@ -213,8 +213,6 @@ TEST_F(ForeignHandsTest, WhoeverHasLostTheFileWritesNothingThereAnyMore) {
   EXPECT_EQ(onDisk(folder.path("copy.GAM")), onDisk(live.disk().rescuedAs()));
 }
 
-// A file system that fails at any call, while the file has another version that must be kept: either the
-// foreign version stands, or ours with theirs beside it; and a second try ends well.
 // As editors save: another file takes the name, at any moment of our own look and write. Only between the
 // last look and the change of names can nobody help it.
 TEST_F(ForeignHandsTest, WhatComesWhileWritingIsNotCovered) {
@@ -248,6 +246,8 @@ TEST_F(ForeignHandsTest, WhatComesWhileWritingIsNotCovered) {
   EXPECT_GT(disturbed, 8);
 }
 
+// A file system that fails at any call, while the file has another version that must be kept: either the
+// foreign version stands, or ours with theirs beside it; and a second try ends well.
 TEST_F(ForeignHandsTest, AnyFailureWhileBringingTogetherLosesNeitherSide) {
   bool failed = true;
   for (int call = 0; failed; ++call) {

@@ -137,6 +137,41 @@ TEST_F(LiveEventPanelTest, TakesAGameThatHasBecomeShorter) {
   EXPECT_EQ(words(0), "PUMA 10: personal foul");
 }
 
+// The same events once more, for a second screen.
+TEST_F(LiveEventPanelTest, StandsInAWindowOfItsOwnThatTakesNoKeys) {
+  QSignalSpy corrections(&panel, &LiveEventPanel::correctionAsked);
+  action("cmdDETACH").trigger();
+  auto& window = find<QWidget>("frmEVENTS");
+  auto& second = find<QTableView>("lvwEVENTS");
+  EXPECT_TRUE(window.isWindow() && window.windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("Events: LYNX – PUMA"));
+  EXPECT_EQ(second.focusPolicy(), Qt::NoFocus);
+  window.resize(300, 90); // three rows
+  select(4);
+  EXPECT_EQ(second.currentIndex().row(), 4);
+  second.scrollTo(cell(4, EventListModel::Action), QAbstractItemView::PositionAtTop);
+  const QPersistentModelIndex top = second.indexAt({0, 0});
+  ASSERT_GT(top.row(), 0);
+  live.recordShot(1, 1, EventCode::GFT, false);
+  panel.showGame(live);
+  EXPECT_EQ(second.indexAt({0, 0}), top) << "what one looks at stays under the mouse";
+  second.scrollToTop();
+  live.recordShot(1, 1, EventCode::GFT, false);
+  panel.showGame(live);
+  EXPECT_EQ(second.indexAt({0, 0}).row(), 0) << "and the newest comes in at the top";
+  const QPoint row = second.visualRect(cell(0, EventListModel::Action)).center();
+  QTest::mouseDClick(second.viewport(), Qt::LeftButton, {}, row);
+  EXPECT_EQ(corrections.count(), 1);
+
+  window.move(30, 40);
+  const QByteArray place = panel.windowPlace();
+  action("cmdDETACH").trigger();
+  EXPECT_FALSE(panel.hasWindow());
+  EXPECT_EQ(panel.windowPlace(), place) << "kept for the next time";
+  panel.restoreWindow(place, true);
+  EXPECT_EQ(panel.hasWindow(), QGuiApplication::screens().size() > 1) << "never over the panels by itself";
+}
+
 TEST_F(LiveEventPanelTest, AsksForWhatIsToBeDone) {
   QSignalSpy deletions(&panel, &LiveEventPanel::deleteAsked);
   QSignalSpy edits(&panel, &LiveEventPanel::editAsked);

@@ -561,7 +561,8 @@ TEST_F(LiveWindowTest, FreeThrowsAfterTheBuzzerGoToTheEndedPeriod) {
   find<QLineEdit>("txtSCORE(0)").setText(QStringLiteral("0"));
   find<QLineEdit>("txtSCORE(1)").setText(QStringLiteral("2"));
   EXPECT_EQ(label("lblCOMPARED"), ": 2 more on the scoreboard.");
-  find<QLineEdit>("txtSCORE(1)").setText(QStringLiteral("0"));
+  EXPECT_TRUE(find("cmdCARDEVENTS").isVisible() && !find("cmdCARDANOTHER").isVisible());
+  press("cmdCARDSAME"); // a slip of the hand, or of the eye
   EXPECT_EQ(label("lblCOMPARED"), "The same score as on the scoreboard.");
   EXPECT_FALSE(find("cmdNEXT").isEnabled());
   press("cmdSTART"); // by reflex

@@ -180,6 +180,15 @@ TEST_F(NewGameTest, AGameNeedsNoTeamOfTheList) {
     game.renameOwnTeam(1);
     EXPECT_EQ(game.teams()[1].abbreviation, name.abbreviation);
   }
+  game.sides[0].name = "Valley Lions";
+  game.renameOwnTeam(0);
+  game.sides[1].name = "City Lions";
+  game.renameOwnTeam(1);
+  EXPECT_EQ(game.teams()[1].abbreviation, "HOME") << "two of one name would be one team in a season";
+  game.sides[0].name.clear();
+  game.renameOwnTeam(0);
+  game.sides[1].name = "Home";
+  game.renameOwnTeam(1);
   game.sides[1].category = "AA";
   game.renameOwnTeam(1);
   game.chooseOwnTeam(1);

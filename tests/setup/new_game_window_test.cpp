@@ -242,6 +242,7 @@ TEST_F(NewGameWindowTest, TeamsOfThisGameAloneStandInBothLists) {
   auto& home = find<QLineEdit>("txtNOMEQUIPE(1)");
   QTest::keyClicks(&home, QStringLiteral("Storks"));
   EXPECT_EQ(home.text(), QStringLiteral("Storks")) << "what is typed stays";
+  QCoreApplication::processEvents(); // the lists follow when no click is on its way to them
   for (const char* list : {"lstequipes(0)", "lstequipes(1)"}) {
     ASSERT_EQ(find<QListWidget>(list).count(), 5) << list;
     EXPECT_EQ(find<QListWidget>(list).item(3)->text(), QStringLiteral("Pikes-"));
