@@ -2,6 +2,7 @@
 // events behind the 1,500th of a game. The clicks are the window system's events from the moment they reach
 // the program; the disk is that of HOOPTAB_BENCH_FOLDER, the screen that of the display in use.
 #include "appearance/Dialogs.h"
+#include "appearance/Theme.h"
 #include "live/frmLIVE.h"
 #include "live_measure.h"
 #include "storage/Settings.h"
@@ -95,6 +96,7 @@ int measureWindow(int events, const std::filesystem::path& folder) {
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
+  Theme::apply(application, ColourScheme::Light); // fonts and style of the program
   const std::filesystem::path folder = liveBenchFolder();
   return measureWindow(1500, folder);
 }

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <numeric>
+#include <utility>
 
 namespace hooptab {
 
@@ -101,7 +102,7 @@ void NowStrip::addFive(std::size_t team) {
 
 void NowStrip::gather() {
   const Look& look = Theme::look();
-  m_runs.clear();
+  const std::vector<Run> before = std::exchange(m_runs, {});
   for (const std::size_t team : {0U, 1U})
     addFive(team);
   if (m_run) {
@@ -118,7 +119,8 @@ void NowStrip::gather() {
     addWords(toQt(best->jerseys), look.ink);
     addWords(signedText(best->plusMinus()), look.made, true);
   }
-  update();
+  if (m_runs != before)
+    update();
 }
 
 QColor NowStrip::teamColour(std::size_t team) const {

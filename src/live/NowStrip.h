@@ -48,6 +48,7 @@ class NowStrip : public QWidget {
     bool isBold = false;
     bool isChip = false;
     bool beginsGroup = false; // a hairline before it
+    friend bool operator==(const Run&, const Run&) = default;
   };
   void gather();
   void addFive(std::size_t team);

@@ -229,7 +229,9 @@ void PlayerPanel::showName() {
 void PlayerPanel::showFouls() {
   m_buttons[EventCode::SPF]->setState(stateOf(m_shown.personalFouls));
   m_buttons[EventCode::STF]->setState(stateOf(m_shown.technicalFouls));
-  update(); // the pips
+  // The pips alone: whatever lies on the panel would be painted with it.
+  update(QRect(across(kPips.left()), down(kPips.top()), across(kPips.width()), down(kPips.height()))
+             .adjusted(-1, -1, 1, 1));
 }
 
 void PlayerPanel::setPlaysRight(bool playsRight) {

@@ -73,6 +73,8 @@ class TeamPlate : public QWidget {
  public:
   using QWidget::QWidget;
   void setColour(const QColor& colour) {
+    if (colour == m_colour)
+      return;
     m_colour = colour;
     update();
   }
