@@ -21,6 +21,8 @@ StartButton::StartButton(QWidget* parent) : QPushButton(parent) {
 }
 
 void StartButton::show(Shown what, const QString& words, bool isRefused) {
+  if (m_shown == what && m_isRefused == isRefused && text() == words)
+    return;
   m_shown = what;
   m_isRefused = isRefused;
   setText(words);
