@@ -3,8 +3,6 @@
 #include "appearance/Theme.h"
 #include "setup/SidePlayersModel.h"
 
-#include <QPainter>
-
 namespace hooptab {
 
 namespace {
@@ -22,9 +20,7 @@ QColor mutedText(const QPalette& palette) {
 } // namespace
 
 void SidePlayersDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
-  QStyledItemDelegate::initStyleOption(option, index);
-  // The look's own colour for what is pointed at is none on which the text of a team's colour is read.
-  option->state &= ~QStyle::State_MouseOver;
+  ColouredRowDelegate::initStyleOption(option, index);
   const int column = index.column();
   if (column == SidePlayersModel::Number) {
     option->font.setPixelSize(Theme::measure()(14, 17));
@@ -35,13 +31,6 @@ void SidePlayersDelegate::initStyleOption(QStyleOptionViewItem* option, const QM
   const bool plays = number.data(Qt::CheckStateRole).toInt() == Qt::Checked;
   if (column == SidePlayersModel::Position || !plays)
     option->palette.setColor(QPalette::Text, mutedText(option->palette));
-}
-
-void SidePlayersDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                                const QModelIndex& index) const {
-  QStyledItemDelegate::paint(painter, option, index);
-  const QRect& cell = option.rect;
-  painter->fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), option.palette.color(QPalette::Mid));
 }
 
 } // namespace hooptab

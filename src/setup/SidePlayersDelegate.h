@@ -2,15 +2,13 @@
 // play muted, a hairline below.
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "appearance/ColouredRowDelegate.h"
 
 namespace hooptab {
 
-class SidePlayersDelegate : public QStyledItemDelegate {
+class SidePlayersDelegate : public ColouredRowDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+  using ColouredRowDelegate::ColouredRowDelegate;
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

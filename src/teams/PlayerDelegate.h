@@ -1,16 +1,13 @@
 // Paints a cell of a team's players on the team's colour: the number bold, a hairline below each row.
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "appearance/ColouredRowDelegate.h"
 
 namespace hooptab {
 
-class PlayerDelegate : public QStyledItemDelegate {
-  Q_OBJECT
+class PlayerDelegate : public ColouredRowDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+  using ColouredRowDelegate::ColouredRowDelegate;
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
