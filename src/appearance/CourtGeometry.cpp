@@ -15,10 +15,13 @@ double distanceFromBasket(Place place) {
   return std::hypot(place.x - kBasketX, place.y - kBasketY);
 }
 
+double beyondThreePointLine(Place place) {
+  return court::beyondThreePointLine(place, kThreePointRadius, kBasketY - kThreePointSideY,
+                                     threePointCornerX());
+}
+
 bool isBeyondThreePointLine(Place place) {
-  if (place.x <= threePointCornerX())
-    return place.y < kThreePointSideY || place.y > kWidth - kThreePointSideY;
-  return distanceFromBasket(place) > kThreePointRadius;
+  return beyondThreePointLine(place) > 0;
 }
 
 bool isInBox(Place place) {
@@ -26,11 +29,7 @@ bool isInBox(Place place) {
 }
 
 bool isOnThreePointLine(Place place) {
-  if (place.x <= threePointCornerX()) {
-    const double toNearerSide = std::min(place.y, kWidth - place.y);
-    return std::abs(toNearerSide - kThreePointSideY) <= kHalfLine;
-  }
-  return std::abs(distanceFromBasket(place) - kThreePointRadius) <= kHalfLine;
+  return std::abs(beyondThreePointLine(place)) <= kHalfLine;
 }
 
 bool isOnBoxOutline(Place place) {
@@ -55,9 +54,16 @@ Place atEdge(Place place) {
 }
 
 double threePointCornerX() {
-  static const double x = kBasketX + std::sqrt(kThreePointRadius * kThreePointRadius -
-                                               (kBasketY - kThreePointSideY) * (kBasketY - kThreePointSideY));
+  static const double x = threePointCornerX(kThreePointRadius, kBasketY - kThreePointSideY);
   return x;
+}
+
+double threePointCornerX(double radius, double fromAxis) {
+  return kBasketX + std::sqrt(std::max(radius * radius - fromAxis * fromAxis, 0.0));
+}
+
+double beyondThreePointLine(Place place, double radius, double fromAxis, double cornerX) {
+  return place.x <= cornerX ? std::abs(place.y - kBasketY) - fromAxis : distanceFromBasket(place) - radius;
 }
 
 ColourZone colourZone(Place place) {

@@ -41,6 +41,12 @@ struct Place {
 // Where the three-point arc meets its straight parts, in x.
 [[nodiscard]] double threePointCornerX();
 
+// How far a place lies beyond a three-point line, negative inside it: of that radius around the basket, and
+// of straight parts that far from the court's axis. All in units; `cornerX` is where arc and straight parts
+// meet, in x.
+[[nodiscard]] double beyondThreePointLine(Place place, double radius, double fromAxis, double cornerX);
+[[nodiscard]] double threePointCornerX(double radius, double fromAxis);
+
 // The zones whose colour decides between two and three points. Lines belong to none.
 enum class ColourZone : std::uint8_t { TwoPoints, Box, ThreePoints, Line };
 // By geometry, for any place: on a line where it is within half a unit of one.

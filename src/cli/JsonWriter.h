@@ -2,6 +2,7 @@
 // valid UTF-8 is written with U+FFFD in place of each wrong byte.
 #pragma once
 
+#include <concepts>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,11 @@ class JsonWriter {
   void name(std::string_view name);
   void value(std::string_view text);
   void value(int number);
+  template <std::same_as<bool> Bool> // a text must not be taken for one
+  void value(Bool truth) {
+    separate();
+    m_text += truth ? "true" : "false";
+  }
   // A named value.
   template <class Value>
   void member(std::string_view memberName, const Value& memberValue) {

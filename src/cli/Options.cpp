@@ -1,6 +1,6 @@
 #include "cli/Options.h"
 
-#include "season/CalendarDay.h"
+#include "storage/CalendarDay.h"
 #include "storage/ChoiceTexts.h"
 #include "storage/Module1.h"
 
@@ -82,6 +82,8 @@ class Parser {
       season.withSubfolders = true;
     } else if (word == "--once") {
       season.countsCopiesOnce = true;
+    } else if (word == "--leave-out-wrong") {
+      season.leavesOutWrong = true;
     } else if (const auto team = valueOf(word, "--team")) {
       season.team = *team;
       if (team->empty())
@@ -130,12 +132,15 @@ class Parser {
     else
       m_options.error = "there is no command " + word;
   }
+  static bool fits(OutputFormat format, CliCommand command) {
+    return format == OutputFormat::Text || command == CliCommand::Box || command == CliCommand::Season ||
+           (command == CliCommand::Verify && format == OutputFormat::Json);
+  }
   void checkWhole() {
     if (!m_command)
       m_options.error = "a command is missing";
-    else if (m_options.format != OutputFormat::Text && *m_command != CliCommand::Box &&
-             *m_command != CliCommand::Season)
-      m_options.error = "--json and --csv go with box and season only";
+    else if (!fits(m_options.format, *m_command))
+      m_options.error = "--json goes with box, season and verify, --csv with box and season only";
     else if (!m_seasonOption.empty() && *m_command != CliCommand::Season)
       m_options.error = m_seasonOption + " goes with season only";
     else if (m_options.files.empty())
@@ -175,7 +180,8 @@ Commands:
     --json           as JSON, with lines of players; the same in every language
     --csv            as CSV, one row a player and one a team's total
   events FILE      the events of a game in words
-  verify FILE...   names what is wrong in games; a warning alone leaves a game good
+  verify FILE...   names what is wrong in games, and what is doubtful; or:
+    --json           as JSON, an array of files with all that was found
   season FOLDER    the statistics of all finished games of a folder; as tables of text, or:
     --json           as JSON, with lines of players and leaders; the same in every language
     --csv            as CSV, players and lines in totals, per game and per minute
@@ -185,13 +191,14 @@ Commands:
                      4 tournament, 5 exhibition, 9 other
     --subfolders     also the games of its sub-folders
     --once           counts a game once whose file is there twice
+    --leave-out-wrong  leaves out games of which something cannot be so
 
 Options:
   --lang en|fr     the language of tables and words (usually that of LANG)
   --help           this text
   --version        the program's version
 
-Exit status: 0 when all is well; 1 when verify finds something, or a file cannot be read; 2 for a
+Exit status: 0 when all is well; 1 when verify finds something wrong, or a file cannot be read; 2 for a
 command line that is not understood.
 )";
 }

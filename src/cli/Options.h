@@ -20,6 +20,7 @@ struct SeasonOptions {
   std::optional<int> type;
   bool withSubfolders = false;
   bool countsCopiesOnce = false;
+  bool leavesOutWrong = false;
 };
 
 struct Options {

@@ -2,7 +2,7 @@
 // however odd it is.
 #pragma once
 
-#include "scorecard/GameCheck.h"
+#include "cli/JsonWriter.h"
 #include "scorecard/Scorecard.h"
 #include "storage/Texts.h"
 
@@ -22,8 +22,11 @@ namespace hooptab {
 
 [[nodiscard]] std::string eventsText(const Game& game, const Texts& texts);
 
-// One line a finding and one that sums them up, each behind the file's name.
-[[nodiscard]] std::string verifyText(const Game& game, const std::vector<GameFinding>& findings);
+// One line a finding and one that sums them up, each behind the file's name. Of each kind some are shown, and
+// how many more there are.
+[[nodiscard]] std::string verifyText(const Scorecard& card, const Texts& texts);
+// The same as an object with all of them; the words are those of the language.
+void writeVerified(const Scorecard& card, const Texts& texts, JsonWriter& json);
 
 // Periods of the game that have an event; those from the eighth on share their points and fouls, so at most
 // eight.

@@ -1,27 +1,70 @@
 #include "cli/Reports.h"
+#include "game/FindingWords.h"
 #include "storage/Utf8.h"
 
 #include <algorithm>
 
 namespace hooptab {
 
-std::string verifyText(const Game& game, const std::vector<GameFinding>& findings) {
-  const auto counted = [](std::ptrdiff_t count, const std::string& word) {
-    return std::to_string(count) + ' ' + word + (count == 1 ? "" : "s");
-  };
-  const std::string file = printable(game.path) + ": ";
-  std::string text;
-  for (const GameFinding& finding : findings) {
-    text += file + (finding.isWarning ? "warning: " : "");
-    if (!finding.key.empty())
-      text += "period " + std::to_string(finding.period) + ", event " + printable(finding.key) + " (" +
-              printable(finding.line) + "): ";
-    text += printable(finding.problem) + '\n';
+namespace {
+
+constexpr int kWrong = 2693;
+constexpr int kDoubtful = 2694;
+constexpr int kAtEvent = 2695;
+constexpr int kMore = 2696;
+constexpr int kSubjectAndWords = 1801; // "XXX: YYY", each language with its own blanks
+
+std::string behind(const std::string& subject, const std::string& words, const Texts& texts) {
+  return Module1::withPlaceholder(Module1::withPlaceholder(texts.text(kSubjectAndWords), words, "YYY"),
+                                  subject);
+}
+
+std::string lineOf(const Finding& finding, const Game& game, const Texts& texts) {
+  std::string text = printable(wordsOf(finding, game, texts));
+  if (finding.hasEvent()) {
+    const GameEvent& event = game.events[finding.event];
+    std::string place = Module1::withPlaceholder(texts.text(kAtEvent), printable(event.line), "ZZZ");
+    place = Module1::withPlaceholder(place, printable(event.key), "YYY");
+    text = behind(Module1::withPlaceholder(place, std::to_string(event.period)), text, texts);
   }
-  const auto warnings = std::ranges::count_if(findings, &GameFinding::isWarning);
-  const auto faults = std::ssize(findings) - warnings;
-  return text + file + (faults == 0 ? "good" : counted(faults, "finding")) +
-         (warnings == 0 ? "" : ", " + counted(warnings, "warning")) + '\n';
+  return behind(std::string(texts.text(finding.isWrong() ? kWrong : kDoubtful)), text, texts);
+}
+
+} // namespace
+
+std::string verifyText(const Scorecard& card, const Texts& texts) {
+  const std::string file = printable(card.path()) + ": ";
+  const FindingSummary summary = summaryOf(card.findings());
+  std::string text;
+  for (const auto& [finding, more] : summary.rows) {
+    text += file + lineOf(finding, card.game(), texts) + '\n';
+    if (more > 0)
+      text += file + texts.withPlaceholder(kMore, std::to_string(more)) + '\n';
+  }
+  return text + file + countsText(summary, texts) + '\n';
+}
+
+void writeVerified(const Scorecard& card, const Texts& texts, JsonWriter& json) {
+  json.beginObject();
+  json.member("file", card.path());
+  json.member("good", std::ranges::none_of(card.findings(), &Finding::isWrong));
+  json.name("findings");
+  json.beginArray();
+  for (const Finding& finding : card.findings()) {
+    const GameEvent event = finding.hasEvent() ? card.game().events[finding.event] : GameEvent();
+    json.beginLine();
+    json.beginObject();
+    json.member("level", finding.isWrong() ? "wrong" : "doubtful");
+    json.member("number", static_cast<int>(finding.kind));
+    json.member("period", event.period);
+    json.member("event", event.key);
+    json.member("line", event.line);
+    json.member("text", wordsOf(finding, card.game(), texts));
+    json.endObject();
+    json.endLine();
+  }
+  json.endArray();
+  json.endObject();
 }
 
 } // namespace hooptab

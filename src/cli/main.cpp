@@ -43,8 +43,12 @@ class Program {
     case CliCommand::Season: season(m_options.files.front()); break;
     case CliCommand::Version: m_output.write("hooptab-cli " HOOPTAB_VERSION "\n"); break;
     default:
+      m_json.beginArray();
       for (const std::string& file : m_options.files)
         show(file);
+      m_json.endArray();
+      if (isVerifiedAsJson())
+        m_output.write(m_json.text());
     }
     if (m_output.error() != 0) {
       complain(std::string("the output cannot be written: ") + std::strerror(m_output.error()));
@@ -77,6 +81,7 @@ class Program {
     criteria.toDay = wanted.toDay;
     criteria.type = wanted.type;
     criteria.countsCopiesOnce = wanted.countsCopiesOnce;
+    criteria.leavesOutWrong = wanted.leavesOutWrong;
     const SeasonStatistics statistics(catalogue, catalogue.select(criteria), {wanted.team, std::nullopt});
     tellFaults(catalogue, statistics);
     m_output.write(seasonReport(statistics));
@@ -109,6 +114,9 @@ class Program {
       if (game.copyOf && !m_options.season.countsCopiesOnce)
         complain(game.path + ": the same game as " + catalogue.games()[*game.copyOf].path +
                  ", and counted again; --once counts it once");
+      if (game.wrongCount > 0)
+        complain(game.path + ": cannot be right, and counted all the same: " +
+                 catalogue.whyWrong(game, m_texts) + "; --leave-out-wrong leaves it out");
     }
   }
   void show(const std::string& file) {
@@ -135,13 +143,16 @@ class Program {
     }
     return boxText(card, m_texts);
   }
+  bool isVerifiedAsJson() const {
+    return m_options.command == CliCommand::Verify && m_options.format == OutputFormat::Json;
+  }
   void verify(const Scorecard& card) {
-    std::vector<GameFinding> findings = checkGame(card.game());
-    if (card.outOfRange())
-      findings.push_back({false, 0, {}, {}, tooMany(card)});
-    m_output.write(verifyText(card.game(), findings));
-    if (!std::ranges::all_of(findings, &GameFinding::isWarning))
+    if (std::ranges::any_of(card.findings(), &Finding::isWrong))
       m_status = kFound;
+    if (isVerifiedAsJson())
+      writeVerified(card, m_texts, m_json);
+    else
+      m_output.write(verifyText(card, m_texts));
   }
   static std::string tooMany(const Scorecard& card) {
     const CountOutOfRange& count = *card.outOfRange();
@@ -153,6 +164,7 @@ class Program {
   Output m_output;
   FileSystem m_files;
   cinifile m_store{m_files};
+  JsonWriter m_json; // of all files that are verified
   int m_status = kGood;
 };
 

@@ -1,7 +1,7 @@
 #include "live/EventCorrection.h"
 
+#include "game/ShotFollowUp.h"
 #include "live/JerseyMatch.h"
-#include "live/ShotFollowUp.h"
 #include "storage/EventWords.h"
 #include "storage/Module1.h"
 

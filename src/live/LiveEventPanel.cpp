@@ -4,13 +4,14 @@
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "game/FindingWords.h"
+#include "game/ShotFollowUp.h"
 #include "live/EventCorrection.h"
 #include "live/EventFilterRow.h"
 #include "live/EventWindow.h"
 #include "live/LiveEventList.h"
 #include "live/LiveGame.h"
 #include "live/PassingMenu.h"
-#include "live/ShotFollowUp.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -451,7 +452,7 @@ void LiveEventPanel::choose(std::size_t event) {
 
 std::vector<std::size_t> LiveEventPanel::toCheck() const {
   std::vector<std::size_t> events = m_rows.doubtful();
-  for (const LiveFinding& finding : m_rows.findings())
+  for (const Finding& finding : m_rows.findings())
     events.push_back(finding.event);
   std::ranges::sort(events);
   const auto repeated = std::ranges::unique(events);
@@ -489,7 +490,7 @@ void LiveEventPanel::offerRepairs(std::size_t event, const QPoint& corner) {
     menu->addSeparator();
   }
   const bool isLast = toCheck().size() < 2;
-  for (const LiveFinding& finding : m_rows.findings()) {
+  for (const Finding& finding : m_rows.findings()) {
     if (finding.event != event)
       continue;
     QAction* title = add(wordsOf(finding, m_rows.game(), m_texts));
@@ -497,8 +498,9 @@ void LiveEventPanel::offerRepairs(std::size_t event, const QPoint& corner) {
     for (const LiveRepair& offered : repairsOf(finding, m_rows.game()))
       connect(add(wordsOf(offered, m_rows.game(), m_texts)), &QAction::triggered, this,
               [this, offered] { repair(offered); });
-    connect(add(m_texts.text(kAccept)), &QAction::triggered, this,
-            [this, place, number = static_cast<int>(finding.kind)] { emit acceptAsked(place, number); });
+    if (!finding.isWrong()) // what cannot be so stays so
+      connect(add(m_texts.text(kAccept)), &QAction::triggered, this,
+              [this, place, number = static_cast<int>(finding.kind)] { emit acceptAsked(place, number); });
     menu->addSeparator();
   }
   if (!isLast)

@@ -2,6 +2,8 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "game/FindingWords.h"
+#include "game/GameCheck.h"
 
 #include <algorithm>
 
@@ -23,7 +25,8 @@ LiveEventRows::LiveEventRows(const Texts& texts, QObject* parent)
 
 // What a row shows of others is known before the rows come, for the filter asks for it.
 void LiveEventRows::show(const Game& game) {
-  m_findings = checkRecorded(game);
+  m_findings = checkGame(game);
+  std::erase_if(m_findings, [](const Finding& finding) { return !finding.hasEvent(); });
   std::vector<Row> rows = rowsOf(game);
   const std::size_t before = m_ofEvents.size();
   const std::size_t now = rows.size();
@@ -66,7 +69,7 @@ std::vector<LiveEventRows::Row> LiveEventRows::rowsOf(const Game& game) const {
     onCourt = now;
     lists = written;
   }
-  for (const LiveFinding& finding : m_findings) {
+  for (const Finding& finding : m_findings) {
     QString& words = rows[finding.event].findings;
     words += (words.isEmpty() ? QString() : QStringLiteral("\n")) + toQt(wordsOf(finding, game, m_texts));
   }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "appearance/EventListModel.h"
-#include "live/LiveChecks.h"
+#include "game/Finding.h"
 #include "live/LiveWords.h"
 #include "live/OnCourt.h"
 
@@ -53,7 +53,8 @@ class LiveEventRows : public QSortFilterProxyModel {
   void relabel();
   void setFilter(const EventFilter& filter);
   const EventFilter& filter() const { return m_filter; }
-  const std::vector<LiveFinding>& findings() const { return m_findings; }
+  // Each leads to its event.
+  const std::vector<Finding>& findings() const { return m_findings; }
   std::vector<std::size_t> doubtful() const; // places in the game of those that are marked so
   const Game& game() const { return m_events.game(); }
   const EventWords& words() const { return m_events.words(); }
@@ -80,7 +81,7 @@ class LiveEventRows : public QSortFilterProxyModel {
   EventListModel m_events;
   EventFilter m_filter;
   std::vector<Row> m_ofEvents;
-  std::vector<LiveFinding> m_findings;
+  std::vector<Finding> m_findings;
 };
 
 } // namespace hooptab

@@ -1,5 +1,6 @@
 #include "live/LiveGame.h"
 
+#include "game/TeamFouls.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -575,19 +576,11 @@ int LiveGame::secondsInLead(LeadState which) const {
 }
 
 int LiveGame::teamFouls(int team) const {
-  const auto& periods = state().periods[static_cast<std::size_t>(team)];
-  const int regular = game().details.periods;
-  if (!isOvertime() || !game().details.keepsBonus)
-    return periods[GameState::periodRow(m_period)].fouls;
-  int fouls = 0;
-  for (std::size_t row = GameState::periodRow(regular); row <= GameState::periodRow(m_period); ++row)
-    fouls += periods[row].fouls;
-  return fouls;
+  return hooptab::teamFouls(game().details, state(), team, m_period);
 }
 
 bool LiveGame::isInBonus(int team) const {
-  const int limit = game().details.bonus;
-  return limit > 0 && teamFouls(team) >= limit;
+  return hooptab::isInBonus(game().details, teamFouls(team));
 }
 
 bool LiveGame::isFouledOut(int team, int player) const {

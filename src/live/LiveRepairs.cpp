@@ -3,6 +3,8 @@
 #include "storage/EventWords.h"
 #include "storage/PlayerLookup.h"
 
+#include <algorithm>
+
 namespace hooptab {
 
 namespace {
@@ -44,17 +46,9 @@ LiveRepair deletion(const Game& game, std::size_t event) {
   return {.kind = LiveRepair::Kind::Deletion, .text = kDelete, .event = placeOf(game, event)};
 }
 
-// Who starts: the lists of the stop just before the start of the clock, or a substitution where there is
-// none.
-LiveRepair beforeStart(const Game& game, std::size_t start) {
-  for (std::size_t event = start; event > 0 && game.events[event - 1].period == game.events[start].period;
-       --event) {
-    if (isStop(game.events[event - 1]))
-      return otherLists(game, event - 1);
-    if (game.events[event - 1].isUnderstood && !game.events[event - 1].isDeleted)
-      break;
-  }
-  return insertionBefore(game, start);
+// Who starts: the lists of the stop that sent them there, or a substitution where there is none.
+LiveRepair fiveAt(const Game& game, std::size_t event) {
+  return isStop(game.events[event]) ? otherLists(game, event) : insertionBefore(game, event);
 }
 
 // The first stop of the period from which not five were on court; else before its last.
@@ -71,10 +65,12 @@ LiveRepair ofTime(const Game& game, std::size_t lastStop, std::size_t team) {
 
 } // namespace
 
-std::vector<LiveRepair> repairsOf(const LiveFinding& finding, const Game& game) {
-  const auto team = static_cast<std::size_t>(finding.team);
+std::vector<LiveRepair> repairsOf(const Finding& finding, const Game& game) {
+  if (!finding.hasEvent())
+    return {};
+  const auto team = static_cast<std::size_t>(std::max(finding.team, 0));
   switch (finding.kind) {
-  case LiveFinding::Kind::NotOnCourt: {
+  case FindingKind::NotOnCourt: {
     LiveRepair substitution = insertionBefore(game, finding.event);
     substitution.team = finding.team;
     substitution.player = game.roster[team].entryOf(finding.jersey);
@@ -82,15 +78,25 @@ std::vector<LiveRepair> repairsOf(const LiveFinding& finding, const Game& game) 
       substitution.text = kComesIn;
     return {substitution, change(game, finding.event, kChangePlayer)};
   }
-  case LiveFinding::Kind::NotFive: return {beforeStart(game, finding.event)};
-  case LiveFinding::Kind::OtherTime: return {ofTime(game, finding.event, team)};
-  case LiveFinding::Kind::FouledOutBefore:
+  case FindingKind::FewerThanFive:
+  case FindingKind::MoreThanFive: return {fiveAt(game, finding.event)};
+  case FindingKind::OtherTime: return {ofTime(game, finding.event, team)};
+  case FindingKind::Twice:
+  case FindingKind::OnCourtNotInRoster: return {otherLists(game, finding.event)};
+  case FindingKind::FouledOutBefore:
+  case FindingKind::NotInRoster:
     return {change(game, finding.event, kChangePlayer), deletion(game, finding.event)};
-  case LiveFinding::Kind::AssistWithoutBasket:
-    return {change(game, finding.event, kEdit), deletion(game, finding.event)};
-  case LiveFinding::Kind::Twice: return {otherLists(game, finding.event)};
+  case FindingKind::AssistWithoutBasket:
+  case FindingKind::ReboundAfterMade:
+  case FindingKind::AfterClose: return {change(game, finding.event, kEdit), deletion(game, finding.event)};
+  case FindingKind::ClockRises:
+  case FindingKind::ClockAbovePeriod:
+  case FindingKind::Swapped:
+  case FindingKind::TwoFromThree:
+  case FindingKind::ThreeFromInside: return {change(game, finding.event, kEdit)};
+  case FindingKind::Burst: return {deletion(game, finding.event)};
+  default: return {};
   }
-  return {};
 }
 
 std::string wordsOf(const LiveRepair& repair, const Game& game, const Texts& texts) {

@@ -2,8 +2,10 @@
 // for the menu that offers them; mends nothing itself.
 #pragma once
 
-#include "live/LiveChecks.h"
+#include "game/Finding.h"
 #include "live/Substitution.h"
+#include "storage/GameFile.h"
+#include "storage/Texts.h"
 
 #include <string>
 #include <vector>
@@ -20,8 +22,8 @@ struct LiveRepair {
   int player = 0; // entry of who comes in; 0: the user chooses
 };
 
-// The likeliest first; never none.
-[[nodiscard]] std::vector<LiveRepair> repairsOf(const LiveFinding& finding, const Game& game);
+// The likeliest first; none for what no dialog mends.
+[[nodiscard]] std::vector<LiveRepair> repairsOf(const Finding& finding, const Game& game);
 [[nodiscard]] std::string wordsOf(const LiveRepair& repair, const Game& game, const Texts& texts);
 
 } // namespace hooptab

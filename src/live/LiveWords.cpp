@@ -1,5 +1,6 @@
 #include "live/LiveWords.h"
 
+#include "game/TeamFouls.h"
 #include "storage/EventWords.h"
 #include "storage/Module1.h"
 
@@ -75,8 +76,7 @@ std::vector<FoulNumber> foulNumbers(const Game& game) {
     FoulNumber& number = numbers.emplace_back();
     if (!counts(event) || !event.kind()->isTeamFoul)
       continue;
-    const bool isKept = game.details.keepsBonus && event.period > game.details.periods;
-    if (const auto from = GameState::periodRow(isKept ? game.details.periods : event.period);
+    if (const auto from = GameState::periodRow(firstPeriodOfFouls(game.details, event.period));
         from != counted) {
       ofTeam = {};
       counted = from;

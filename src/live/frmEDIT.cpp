@@ -40,6 +40,7 @@ constexpr int kMade = 1514;
 constexpr int kMissed = 1515;
 constexpr int kCourtHint = 1095;
 constexpr int kClockForm = 2512;
+constexpr int kNameFirst = 2704;
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
 constexpr int kMostSeconds = 99 * 60 + 59; // that can be typed; the game knows its periods
@@ -64,6 +65,7 @@ frmEDIT::frmEDIT(const LiveGame& game, const EventPlace& place, Purpose purpose,
   }
   if (purpose == Purpose::Insert)
     m_player->setCurrentIndex(-1); // a guess would be accepted unseen
+  m_before = typed();
   m_time->setEnabled(game.hasTime());
   relabel(*this, texts);
   giveMnemonics(*this);
@@ -121,6 +123,11 @@ void frmEDIT::makeFields() {
   m_shot->setObjectName(QStringLiteral("lbleditshot"));
   m_xy = new PlainLabel(this);
   m_xy->setObjectName(QStringLiteral("lblxy"));
+  m_nameFirst = new PlainLabel(this);
+  m_nameFirst->setObjectName(QStringLiteral("lblNAMEFIRST"));
+  m_nameFirst->setForegroundRole(QPalette::PlaceholderText);
+  m_nameFirst->hide();
+  setTextNumber(*m_nameFirst, kNameFirst);
   m_accept = new QPushButton(this);
   m_accept->setObjectName(QStringLiteral("cmdOK"));
   m_accept->setDefault(true);
@@ -134,9 +141,13 @@ void frmEDIT::makeFields() {
   connect(m_time, &QLineEdit::textChanged, this, &frmEDIT::showAccept);
 }
 
+// A player who is in no roster, or behind its fifteenth, has to be named before more than the time can
+// change.
 void frmEDIT::showAccept() {
-  const bool isNamed = m_purpose == Purpose::Change || m_player->currentIndex() >= 0;
-  m_accept->setEnabled(m_time->hasAcceptableInput() && isNamed);
+  const bool needsPlayer = m_purpose == Purpose::Insert || typed() != m_before;
+  const bool isNamed = !m_isCounted || m_player->currentIndex() >= 0;
+  m_accept->setEnabled(m_time->hasAcceptableInput() && (isNamed || !needsPlayer));
+  m_nameFirst->setVisible(needsPlayer && !isNamed);
 }
 
 StatButton* frmEDIT::makeButton(EventCode code, const char* name, int toolTip) {
@@ -192,6 +203,7 @@ void frmEDIT::makeLayout() {
   fields->addWidget(m_made, row++, 1);
   fields->addWidget(m_shot, row++, 0, 1, 2);
   fields->addWidget(m_xy, row++, 0, 1, 2);
+  fields->addWidget(m_nameFirst, row++, 0, 1, 2);
   fields->setRowStretch(row++, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
@@ -217,6 +229,11 @@ void frmEDIT::fill(const GameEvent& event) {
     return;
   const int entry = m_game.roster[event.player.team].entryOf(event.player.jersey);
   m_player->setCurrentIndex(m_player->findData(event.player.team * kEntries + entry));
+  if (m_player->currentIndex() < 0) {
+    const EventWords words(m_game, m_texts);
+    m_player->setPlaceholderText(toQt(words.team(event.player.team)) + u' ' +
+                                 toQt(words.player(event.player)));
+  }
   m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(event.code)));
   m_made->setChecked(event.isMade || !event.isShot());
   if (event.hasPlace)
@@ -263,13 +280,18 @@ void frmEDIT::showShot() {
   if (hasPlace)
     marks.push_back({{m_place->first, m_place->second}, isMade});
   m_court->setMarks(marks);
+  showAccept();
+}
+
+frmEDIT::Typed frmEDIT::typed() const {
+  return {m_kind->currentData().toInt(), m_made->isChecked(), m_place};
 }
 
 int frmEDIT::clockSeconds() const {
   return typedClock(fromQt(m_time->text()), kMostSeconds).value_or(0);
 }
 
-// A player who is in no roster has to be named before the event can be changed.
+// Nothing where the time alone can have changed.
 std::optional<LiveGame::Counted> frmEDIT::counted() const {
   if (!m_isCounted || !m_player->currentData().isValid())
     return std::nullopt;

@@ -29,7 +29,8 @@ class frmEDIT : public QDialog {
           const Texts& texts, QWidget* parent = nullptr);
 
   int clockSeconds() const;
-  // Nothing for the clock's own events, of which the time alone can be changed.
+  // Nothing where the time alone is changed: for the clock's own events, and for one whose player has no row
+  // of his own and was not exchanged for one who has.
   std::optional<LiveGame::Counted> counted() const;
 
  signals:
@@ -48,6 +49,14 @@ class frmEDIT : public QDialog {
   void take(EventCode kind, bool isMade);
   void showShot();
   void showAccept();
+  // What is counted, but for the player.
+  struct Typed {
+    int kind = 0;
+    bool isMade = false;
+    std::optional<std::pair<double, double>> place;
+    friend bool operator==(const Typed&, const Typed&) = default;
+  };
+  Typed typed() const;
   bool fitsZone(EventCode kind) const;
 
   const Purpose m_purpose;
@@ -55,6 +64,7 @@ class frmEDIT : public QDialog {
   const Settings& m_settings;
   const Texts& m_texts;
   bool m_isCounted = true;
+  Typed m_before; // as the event stands
   std::optional<std::pair<double, double>> m_place;
   QLineEdit* m_time = nullptr;
   QComboBox* m_player = nullptr;
@@ -63,6 +73,7 @@ class frmEDIT : public QDialog {
   MiniCourt* m_court = nullptr;
   QLabel* m_shot = nullptr;
   QLabel* m_xy = nullptr;
+  QLabel* m_nameFirst = nullptr;
   std::vector<StatButton*> m_buttons;
   QPushButton* m_accept = nullptr;
 };

@@ -89,6 +89,14 @@ void EventPanel::showGame(const Game& game, bool isNew) {
   tellChosen(); // others may have come before it
 }
 
+void EventPanel::choose(std::size_t event) {
+  const QModelIndex wanted = m_model.index(static_cast<int>(event), 0);
+  if (!m_found.mapFromSource(wanted).isValid())
+    m_search->clear();
+  m_list->selectRow(m_found.mapFromSource(wanted).row());
+  m_list->scrollTo(m_list->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
 void EventPanel::relabel() {
   m_model.relabel();
   fitColumns();

@@ -23,6 +23,8 @@ class EventPanel : public QWidget {
   // A new game starts at its top when it is finished, at its last event when it goes on.
   void showGame(const Game& game, bool isNew);
   void relabel();
+  // Selects an event by its place in the game; a search that hides it is ended.
+  void choose(std::size_t event);
   // Placed by the window, which has a better place for it than above the list.
   QLineEdit& searchField() { return *m_search; }
   const EventListModel& model() const { return m_model; }

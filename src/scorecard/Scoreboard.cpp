@@ -1,5 +1,6 @@
 #include "scorecard/Scoreboard.h"
 
+#include "game/TeamFouls.h"
 #include "storage/EventWords.h"
 #include "storage/Module1.h"
 
@@ -39,8 +40,8 @@ std::vector<Scoreboard::Period> periods(const Game& game, const GameState& state
     for (std::size_t team = 0; team < 2; ++team) {
       const PeriodEntry& entry = state.periods[team][static_cast<std::size_t>(number)];
       period.points[team] = entry.points;
-      period.fouls[team] = entry.fouls;
-      period.isInBonus[team] = game.details.bonus > 0 && entry.fouls >= game.details.bonus;
+      period.fouls[team] = teamFouls(game.details, state, static_cast<int>(team), number);
+      period.isInBonus[team] = isInBonus(game.details, period.fouls[team]);
     }
   }
   return result;

@@ -23,7 +23,7 @@ struct Scoreboard {
   struct Period {
     std::string label; // "1", "OT", "8+"
     int points[2] = {};
-    int fouls[2] = {};
+    int fouls[2] = {};      // those in force: in overtime the last regular period's, too, where they are kept
     bool isInBonus[2] = {}; // the other team shoots bonus free throws
     bool isPlayed = false;  // has events; one that has not shows no numbers
   };

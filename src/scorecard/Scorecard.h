@@ -2,12 +2,14 @@
 // the window shows and when it says what is decided here; the window only lays out.
 #pragma once
 
+#include "game/Finding.h"
 #include "storage/GameFile.h"
 #include "storage/GameState.h"
 #include "storage/Tally.h"
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace hooptab {
 
@@ -24,6 +26,8 @@ class Scorecard {
   const Game& game() const { return m_game; }
   const GameState& state() const { return m_state; }
   const std::optional<CountOutOfRange>& outOfRange() const { return m_outOfRange; }
+  // What a check of the game and its file names.
+  const std::vector<Finding>& findings() const { return m_findings; }
   // "LYNX 78 - 81 PUMA": the window's and the recent list's name for the game.
   [[nodiscard]] std::string title() const;
 
@@ -34,6 +38,7 @@ class Scorecard {
   Game m_game;
   GameState m_state;
   std::optional<CountOutOfRange> m_outOfRange;
+  std::vector<Finding> m_findings;
 };
 
 } // namespace hooptab

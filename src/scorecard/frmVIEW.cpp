@@ -7,6 +7,7 @@
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "scorecard/BoxTable.h"
+#include "scorecard/CheckStrip.h"
 #include "scorecard/ColumnWords.h"
 #include "scorecard/EventPanel.h"
 #include "scorecard/GameDetailsPanel.h"
@@ -48,7 +49,7 @@ constexpr int kByLine = 1072;
 
 frmVIEW::frmVIEW(cinifile& store, const Settings& settings, const Texts& texts, QWidget* parent)
     : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_view(texts),
-      m_notice(noticeLabel(this)), m_strip(new ScoreboardStrip(this)) {
+      m_notice(noticeLabel(this)), m_check(new CheckStrip(texts, this)), m_strip(new ScoreboardStrip(this)) {
   setObjectName(QStringLiteral("frmVIEW"));
   m_timer.setObjectName(QStringLiteral("TimerCoach"));
   m_timer.setParent(this);
@@ -74,6 +75,7 @@ frmVIEW::frmVIEW(cinifile& store, const Settings& settings, const Texts& texts, 
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->setSpacing(kMargin);
   layout->addWidget(m_notice);
+  layout->addWidget(m_check);
   layout->addWidget(m_strip);
   layout->addWidget(parts, 1);
 
@@ -82,6 +84,10 @@ frmVIEW::frmVIEW(cinifile& store, const Settings& settings, const Texts& texts, 
     m_view.setScope(scope);
     showTable();
     showChart();
+  });
+  connect(m_check, &CheckStrip::eventAsked, this, [this](std::size_t event) {
+    m_tabs->setCurrentWidget(m_events);
+    m_events->choose(event);
   });
   connect(m_events, &EventPanel::eventChosen, m_chart, &ShotChartPanel::highlight);
   connect(m_events, &EventPanel::copied, this, [this] { emit reported(caption(m_texts, kTableCopied)); });
@@ -251,6 +257,7 @@ void frmVIEW::relabelWindow() {
 void frmVIEW::applyColours() {
   findChild<QToolButton*>(QStringLiteral("cmdCOPY"))->setIcon(icon(QStringLiteral("copy")));
   m_chart->applyColours();
+  m_check->applyColours();
   showHeaders(); // whose tool tips name the user's statistics
   for (QWidget* view : findChildren<QAbstractItemView*>())
     view->findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"))->update();
@@ -280,6 +287,7 @@ void frmVIEW::showGame(bool isNew) {
   m_strip->showBoard(scoreboard(game, m_card->state(), m_texts), m_texts);
   m_details->showDetails(game.details, m_texts);
   m_events->showGame(game, isNew);
+  m_check->showFindings(*m_card);
   showTeams();
   if (isNew)
     showHeaders();

@@ -22,6 +22,7 @@ class QTabWidget;
 namespace hooptab {
 
 class BoxTable;
+class CheckStrip;
 class EventPanel;
 class GameDetailsPanel;
 class ScoreboardStrip;
@@ -87,6 +88,7 @@ class frmVIEW : public ChildWindow {
   QTimer m_timer;
 
   QLabel* m_notice;
+  CheckStrip* m_check;
   ScoreboardStrip* m_strip;
   QComboBox* m_team;
   QLabel* m_kind; // by player or by line

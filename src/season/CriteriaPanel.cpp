@@ -104,7 +104,10 @@ CriteriaPanel::CriteriaPanel(const Texts& texts, QWidget* parent)
 
   m_countOnce = new QCheckBox(this);
   m_countOnce->setObjectName(QStringLiteral("chkCOPIES"));
-  m_countOnce->hide();
+  m_leaveOutWrong = new QCheckBox(this);
+  m_leaveOutWrong->setObjectName(QStringLiteral("chkWRONG"));
+  for (QCheckBox* box : {m_countOnce, m_leaveOutWrong})
+    box->hide();
   m_apply = iconButton("cmdFILTER", kApply, kApplyHint, "filter", this);
   m_generate = iconButton("cmdGENERATE", kGenerate, kGenerateHint, "stats", this);
   QFont bold = m_generate->font();
@@ -112,11 +115,15 @@ CriteriaPanel::CriteriaPanel(const Texts& texts, QWidget* parent)
   m_generate->setFont(bold);
   m_grid->setColumnStretch(m_grid->columnCount(), 1);
   const int buttonColumn = m_grid->columnCount();
-  m_grid->addWidget(m_countOnce, 0, dateColumn + 1, 1, buttonColumn - dateColumn + 1, Qt::AlignRight);
+  auto* whole = new QHBoxLayout; // what is asked about whole files
+  whole->addStretch();
+  whole->addWidget(m_leaveOutWrong);
+  whole->addWidget(m_countOnce);
+  m_grid->addLayout(whole, 0, dateColumn + 1, 1, buttonColumn - dateColumn + 1);
   m_grid->addWidget(m_apply, 1, buttonColumn);
   m_grid->addWidget(m_generate, 1, buttonColumn + 1);
 
-  for (QCheckBox* box : {m_withDate, m_countOnce})
+  for (QCheckBox* box : {m_withDate, m_countOnce, m_leaveOutWrong})
     connect(box, &QCheckBox::toggled, this, &CriteriaPanel::changed);
   connect(m_apply, &QPushButton::clicked, this, &CriteriaPanel::applyAsked);
   connect(m_generate, &QPushButton::clicked, this, &CriteriaPanel::generateAsked);
@@ -147,6 +154,7 @@ SeasonChoice CriteriaPanel::choice() const {
     games.toDay = dayOf(m_dates[1]->date());
   }
   games.countsCopiesOnce = m_countOnce->isChecked();
+  games.leavesOutWrong = m_leaveOutWrong->isChecked() && !m_leaveOutWrong->isHidden();
   choice.position = chosen(*m_position);
   return choice;
 }
@@ -170,6 +178,13 @@ void CriteriaPanel::showDesk(const SeasonDesk& desk) {
   const auto copies = desk.catalogue()->copies();
   m_countOnce->setVisible(copies > 0);
   m_countOnce->setText(toQt(m_texts.withPlaceholder(kCountOnce, std::to_string(copies))));
+  const auto wrong = desk.catalogue()->wrongGames();
+  m_leaveOutWrong->setVisible(wrong > 0);
+  m_leaveOutWrong->setText(toQt(m_texts.withPlaceholder(kLeaveOutWrong, std::to_string(wrong))));
+}
+
+void CriteriaPanel::leaveOutWrong() {
+  m_leaveOutWrong->setChecked(true);
 }
 
 void CriteriaPanel::showWhatIsOffered(const SeasonDesk& desk, bool isBusy) {

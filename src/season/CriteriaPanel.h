@@ -27,6 +27,7 @@ class CriteriaPanel : public QWidget {
   void showDesk(const SeasonDesk& desk);
   void showWhatIsOffered(const SeasonDesk& desk, bool isBusy);
   void relabelPanel();
+  void leaveOutWrong(); // as if the user had asked for it
 
  signals:
   void changed();
@@ -46,6 +47,7 @@ class CriteriaPanel : public QWidget {
   QCheckBox* m_withDate;
   std::array<QDateEdit*, 2> m_dates;
   QCheckBox* m_countOnce;
+  QCheckBox* m_leaveOutWrong;
   QPushButton* m_apply;
   QPushButton* m_generate;
   bool m_hasDates = false; // the dates show the season's own, until the user changes them

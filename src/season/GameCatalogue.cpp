@@ -1,5 +1,6 @@
 #include "season/GameCatalogue.h"
 
+#include "game/FindingWords.h"
 #include "season/CatalogueMerger.h"
 #include "season/GameFinder.h"
 #include "season/SummaryReader.h"
@@ -16,6 +17,8 @@
 namespace hooptab {
 
 namespace {
+
+constexpr int kMoreFindings = 2703;
 
 // What became of one file.
 struct ReadFile {
@@ -143,6 +146,23 @@ std::optional<SeasonId> GameCatalogue::teamOf(std::string_view key) const {
   return static_cast<SeasonId>(found - m_content.teams.begin());
 }
 
+std::string GameCatalogue::whyWrong(const ListedGame& game, const Texts& texts) const {
+  Game names; // rosters are not kept: a player is his number
+  for (std::size_t side = 0; side < 2; ++side)
+    names.details.abbreviation[side] = teams()[game.team[side]].abbreviation;
+  std::string text;
+  for (const Finding& finding : game.wrong)
+    text += (text.empty() ? "" : "; ") + wordsOf(finding, names, texts);
+  if (game.wrongCount > game.wrong.size())
+    text += "; " + texts.withPlaceholder(kMoreFindings, std::to_string(game.wrongCount - game.wrong.size()));
+  return text;
+}
+
+std::size_t GameCatalogue::wrongGames() const {
+  return static_cast<std::size_t>(
+      std::ranges::count_if(games(), [](const ListedGame& game) { return game.wrongCount > 0; }));
+}
+
 std::size_t GameCatalogue::copies() const {
   return static_cast<std::size_t>(
       std::ranges::count_if(m_content.games, [](const ListedGame& game) { return game.copyOf.has_value(); }));
@@ -165,7 +185,8 @@ std::vector<std::size_t> GameCatalogue::select(const GameCriteria& criteria) con
           (criteria.toDay && *game.day > *criteria.toDay))
         return false;
     }
-    return (!criteria.type || game.type == *criteria.type) &&
+    return (!criteria.leavesOutWrong || game.wrongCount == 0) &&
+           (!criteria.type || game.type == *criteria.type) &&
            (!criteria.input || game.input == *criteria.input);
   };
   std::vector<bool> isCounted(m_content.games.size()); // the game, whichever of its files it was

@@ -5,6 +5,7 @@
 
 #include "season/ListedGame.h"
 #include "storage/FileSystem.h"
+#include "storage/Texts.h"
 
 #include <atomic>
 #include <cstdint>
@@ -73,6 +74,7 @@ struct GameCriteria {
   Where where = Where::Anywhere; // of the team; without a team it accepts all
   std::optional<InputKind> input;
   bool countsCopiesOnce = false; // of several files of one game only the first
+  bool leavesOutWrong = false;   // games of which something cannot be so
 
   friend bool operator==(const GameCriteria&, const GameCriteria&) = default;
 };
@@ -99,6 +101,10 @@ class GameCatalogue {
   [[nodiscard]] std::optional<SeasonId> teamOf(std::string_view key) const;
   // How many listed files are copies of another listed one.
   [[nodiscard]] std::size_t copies() const;
+  // Says why a listed game cannot be right, in a line; empty where nothing is wrong.
+  [[nodiscard]] std::string whyWrong(const ListedGame& game, const Texts& texts) const;
+  // How many listed games cannot be right.
+  [[nodiscard]] std::size_t wrongGames() const;
   // Places in games(), ascending.
   [[nodiscard]] std::vector<std::size_t> select(const GameCriteria& criteria) const;
 

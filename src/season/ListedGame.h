@@ -2,6 +2,7 @@
 // are not kept; thousands of games fit in memory so. Plain values, filled by SummaryReader.
 #pragma once
 
+#include "game/Finding.h"
 #include "storage/GameState.h"
 
 #include <array>
@@ -53,8 +54,12 @@ struct ListedGame {
   std::uint64_t fingerprint = 0;                // of its events; 0 without any
   std::optional<std::size_t> copyOf; // the first listed game of the same date, teams and events, if not this
   std::string outOfRange;            // "PAN 12 PF": the count that stays at its limit; usually empty
-  std::vector<GameRow> players;      // those who were on court or have any count
-  std::vector<GameRow> lines;        // those that played a second or have any count
+  // What cannot be so, the first few, and how much there is of it. A game with any counts like the
+  // others, once the user has been told.
+  std::vector<Finding> wrong;
+  std::size_t wrongCount = 0;
+  std::vector<GameRow> players; // those who were on court or have any count
+  std::vector<GameRow> lines;   // those that played a second or have any count
   std::vector<SeasonShot> shots;
 
   // The side that won, nothing for a tie.

@@ -110,9 +110,12 @@ TableRows gameListRows(std::shared_ptr<const GameCatalogue> catalogue, std::vect
   };
   rows.sortValue = [game](int row, int column) { return gameSortValue(game(row), column + 1); };
   rows.isMuted = [game](int row) { return game(row).copyOf.has_value(); };
+  rows.isMarked = [game](int row) { return game(row).wrongCount > 0; };
   rows.toolTip = [catalogue, game, &texts](int row) -> QString {
     const ListedGame& shown = game(row);
     QString words = toQt(shown.path);
+    if (shown.wrongCount > 0)
+      words += u'\n' + toQt(catalogue->whyWrong(shown, texts));
     if (shown.copyOf)
       words += u'\n' + toQt(texts.withPlaceholder(kSameGameAs, catalogue->games()[*shown.copyOf].path));
     if (!shown.outOfRange.empty())

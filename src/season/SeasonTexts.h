@@ -52,6 +52,8 @@ inline constexpr int kApplyHint = 2116;
 inline constexpr int kGenerate = 1367;
 inline constexpr int kGenerateHint = 1368;
 inline constexpr int kCountOnce = 2117;
+inline constexpr int kLeaveOutWrong = 2697;
+inline constexpr int kCountWrongToo = 2698;
 
 // Tables.
 inline constexpr int kPlayerTitle = 1180;

@@ -1,5 +1,6 @@
 #include "season/SnapshotModel.h"
 
+#include "appearance/Icons.h"
 #include "appearance/Theme.h"
 
 #include <QCollator>
@@ -132,6 +133,10 @@ QVariant SnapshotModel::data(const QModelIndex& index, int role) const {
     }
     return shown.isText ? QVariant(m_rows.text(row, index.column())) : QVariant();
   }
+  case Qt::DecorationRole:
+    return index.column() == 0 && m_rows.isMarked && m_rows.isMarked(row)
+               ? QVariant(icon(QStringLiteral("tocheck")))
+               : QVariant();
   case Qt::TextAlignmentRole: return QVariant::fromValue(alignmentOf(shown));
   // Most cells of statistics are 0: muted, they let the others stand out.
   case Qt::ForegroundRole: {

@@ -30,6 +30,7 @@ struct TableRows {
   std::function<QString(int row, int column)> text;
   std::function<double(int row, int column)> sortValue = {}; // of columns that are no text
   std::function<bool(int row)> isMuted = {};
+  std::function<bool(int row)> isMarked = {};   // with the sign that something is to be looked at
   std::function<QString(int row)> toolTip = {}; // where the cell's own text is not enough
 };
 

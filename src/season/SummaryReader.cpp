@@ -1,8 +1,9 @@
 #include "season/SummaryReader.h"
 
 #include "appearance/CourtGeometry.h"
-#include "season/CalendarDay.h"
+#include "game/GameCheck.h"
 #include "storage/AtomicFile.h"
+#include "storage/CalendarDay.h"
 #include "storage/ChoiceTexts.h"
 #include "storage/Tally.h"
 
@@ -67,7 +68,18 @@ std::optional<SkipReason> SummaryReader::read(const std::string& path, ListedGam
   readGame(text, source);
   game.path = path;
   summarise(source, game);
+  check(source, text, game);
   return std::nullopt;
+}
+
+void SummaryReader::check(const Game& source, const ProfileText& text, ListedGame& game) {
+  constexpr std::size_t kTold = 3;
+  std::vector<Finding> findings = checkGame(source, text);
+  std::erase_if(findings, [](const Finding& finding) { return !finding.isWrong(); });
+  game.wrongCount = findings.size();
+  if (findings.size() > kTold)
+    findings.resize(kTold);
+  game.wrong = std::move(findings);
 }
 
 void SummaryReader::summarise(const Game& source, ListedGame& game) {

@@ -21,6 +21,7 @@ class SummaryReader {
 
  private:
   void summarise(const Game& source, ListedGame& game);
+  static void check(const Game& source, const ProfileText& text, ListedGame& game);
   void addPlayers(const Roster& roster, std::size_t side, ListedGame& game);
   void addLines(const Roster& roster, std::size_t side, ListedGame& game);
   void addShots(ListedGame& game) const;

@@ -19,13 +19,16 @@
 #include <QBoxLayout>
 #include <QDataStream>
 #include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMap>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QToolButton>
+#include <algorithm>
 #include <chrono>
+#include <iterator>
 
 namespace hooptab {
 
@@ -166,6 +169,7 @@ void frmSTATS::takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue
   }
   if (catalogue->games().empty())
     m_problem = kNoGames;
+  m_countedWrong.clear();
   m_desk.takeCatalogue(std::move(catalogue));
   showCatalogue();
   showSeason();
@@ -177,7 +181,7 @@ void frmSTATS::apply() {
 }
 
 void frmSTATS::generate() {
-  if (isBusy())
+  if (isBusy() || !mayCountWrong())
     return;
   m_progressCount = m_desk.listed().size();
   startWork(kGeneratingStatistics,
@@ -194,6 +198,33 @@ void frmSTATS::generate() {
                 m_tabs->setCurrentWidget(m_players);
               };
             });
+}
+
+// Games that cannot be right enter the totals only when the user has been told of them, once for each choice
+// of games; else they are left out. False where no game remains.
+bool frmSTATS::mayCountWrong() {
+  constexpr std::size_t kToldGames = 5;
+  const GameCatalogue& catalogue = *m_desk.catalogue();
+  std::vector<std::size_t> wrong;
+  std::ranges::copy_if(m_desk.listed(), std::back_inserter(wrong),
+                       [&](std::size_t place) { return catalogue.games()[place].wrongCount > 0; });
+  if (wrong.empty() || wrong == m_countedWrong)
+    return true;
+  QString text = toQt(m_texts.withPlaceholder(kCountWrongToo, std::to_string(wrong.size())));
+  for (std::size_t i = 0; i < std::min(wrong.size(), kToldGames); ++i) {
+    const ListedGame& game = catalogue.games()[wrong[i]];
+    text += u'\n' + QFileInfo(toQt(game.path)).fileName() + u'\n' + QStringLiteral("    ") +
+            toQt(catalogue.whyWrong(game, m_texts));
+  }
+  if (wrong.size() > kToldGames)
+    text += QStringLiteral("\n…");
+  if (m_dialogs.ask(this, caption(m_texts, kSeasonTitle), text)) {
+    m_countedWrong = std::move(wrong);
+    return true;
+  }
+  m_criteria->leaveOutWrong();
+  apply();
+  return m_desk.canGenerate();
 }
 
 void frmSTATS::showPerson(const SeasonRow& row, bool isLine) {

@@ -55,6 +55,7 @@ class frmSTATS : public ChildWindow {
   void browse();
   void apply();
   void generate();
+  bool mayCountWrong();
   void showPerson(const SeasonRow& row, bool isLine);
   void openGame(std::size_t game);
   void takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue> catalogue);
@@ -73,10 +74,11 @@ class frmSTATS : public ChildWindow {
   const Texts& m_texts;
   Dialogs& m_dialogs;
   SeasonDesk m_desk;
-  std::shared_ptr<ScanWatch> m_watch; // of the scan under way
-  int m_progressText = 0;             // of the work under way
-  std::size_t m_progressCount = 0;    // of games in it, where it is no scan
-  int m_problem = 0;                  // text of what went wrong last; 0: nothing
+  std::shared_ptr<ScanWatch> m_watch;      // of the scan under way
+  int m_progressText = 0;                  // of the work under way
+  std::size_t m_progressCount = 0;         // of games in it, where it is no scan
+  std::vector<std::size_t> m_countedWrong; // games that the user counts although they cannot be right
+  int m_problem = 0;                       // text of what went wrong last; 0: nothing
   QTimer m_poll;
 
   FolderPanel* m_folder;

@@ -10,7 +10,7 @@
 #include "setup/KeepsEnter.h"
 #include "setup/SidePanel.h"
 #include "setup/SidePlayersTable.h"
-#include "setup/WarningChip.h"
+#include "appearance/WarningChip.h"
 #include "storage/Module1.h"
 #include "teams/TeamList.h"
 

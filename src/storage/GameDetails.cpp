@@ -100,6 +100,20 @@ constexpr std::array kDetails = std::to_array<Detail>({
     {"NOTES", [](GameDetails& d, std::string_view value) { d.notes = textOf(value); },
      [](const GameDetails& d) { return d.notes; }},
     {"EVENUM", [](GameDetails& d, std::string_view value) { d.nextEventNumber = numberOf(value); }, nullptr},
+    {"LIGNE3",
+     [](GameDetails& d, std::string_view value) {
+       if (const int radius = numberOf(value); radius > 0) {
+         d.threePointRadius = radius;
+         d.threePointCorner = std::min(d.threePointCorner, radius);
+       }
+     },
+     nullptr},
+    {"LIGNE3COIN",
+     [](GameDetails& d, std::string_view value) {
+       if (const int corner = numberOf(value); corner > 0)
+         d.threePointCorner = corner;
+     },
+     nullptr},
     {"KEEPBONUS", [](GameDetails& d, std::string_view value) { d.keepsBonus = Module1::flag(value); },
      nullptr},
     {"TERMINE", [](GameDetails& d, std::string_view value) { d.isFinished = value == "1"; }, nullptr},

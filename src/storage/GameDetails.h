@@ -48,6 +48,10 @@ struct GameDetails {
   int type = 0;
   std::string notes;
   int nextEventNumber = 0; // EVENUM; 0 when absent
+  // LIGNE3 and LIGNE3COIN, in centimetres: how far from the basket the three-point line was drawn, and from
+  // the court's axis its straight parts in the corners.
+  int threePointRadius = 675;
+  int threePointCorner = 660;
   bool keepsBonus = false;
   bool isFinished = false;
   // The window was closed while the clock ran (QUITTE): the event that stopped it, and the wall clock then in

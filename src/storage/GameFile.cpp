@@ -115,15 +115,8 @@ struct PeriodSection {
 std::vector<PeriodSection> periodsOf(const ProfileText& text) {
   std::vector<PeriodSection> periods;
   for (ProfileText::NamedSection& section : text.sections()) {
-    const std::string_view name = section.name;
-    if (name.size() <= kPeriodPrefix.size() ||
-        !codepage::equalNames(name.substr(0, kPeriodPrefix.size()), kPeriodPrefix))
-      continue;
-    const std::string_view digits = name.substr(kPeriodPrefix.size());
-    if (digits.front() == '0' || digits.find_first_not_of("0123456789") != std::string_view::npos)
-      continue;
-    const int number = Module1::wholeNumber(digits);
-    periods.push_back({number < 0 ? kHighestPeriodRead : number, std::move(section)});
+    if (const std::optional<int> period = periodOfSection(section.name))
+      periods.push_back({*period, std::move(section)});
   }
   // Numbers without zeros in front, however long: the shorter is the smaller.
   std::ranges::sort(periods, {}, [](const PeriodSection& period) {
@@ -221,6 +214,17 @@ EventLines storedEventLines(const ProfileText& text) {
 
 bool isGame(const ProfileText& text) {
   return text.value(kDetailsSection, "VERSION") == GameFile::kVersion;
+}
+
+std::optional<int> periodOfSection(std::string_view section) {
+  if (section.size() <= kPeriodPrefix.size() ||
+      !codepage::equalNames(section.substr(0, kPeriodPrefix.size()), kPeriodPrefix))
+    return std::nullopt;
+  const std::string_view digits = section.substr(kPeriodPrefix.size());
+  if (digits.front() == '0' || digits.find_first_not_of("0123456789") != std::string_view::npos)
+    return std::nullopt;
+  const int number = Module1::wholeNumber(digits);
+  return number < 0 ? kHighestPeriodRead : number;
 }
 
 bool isGameName(std::string_view name) {

@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -103,6 +104,8 @@ void readGame(const ProfileText& text, Game& game);
 [[nodiscard]] AcceptedFindings readAccepted(const ProfileText& text);
 [[nodiscard]] EventLines storedEventLines(const ProfileText& text);
 [[nodiscard]] bool isGame(const ProfileText& text);
+// The period whose events a section of that name holds; nothing for any other section.
+[[nodiscard]] std::optional<int> periodOfSection(std::string_view section);
 // Whether a file of that name may be one: *.GAM in any letter case.
 [[nodiscard]] bool isGameName(std::string_view name);
 // The name of a period's section, and of a team's.

@@ -273,6 +273,13 @@ std::vector<std::string_view> ProfileText::sectionNames() const {
   return names;
 }
 
+std::vector<std::string_view> ProfileText::headers() const {
+  std::vector<std::string_view> headers;
+  for (std::size_t place = 1; place < m_pieces.size(); ++place)
+    headers.push_back((*m_pieces[place]).name);
+  return headers;
+}
+
 std::vector<ProfileText::NamedSection> ProfileText::sections() const {
   std::vector<NamedSection> sections;
   std::unordered_set<std::string> seen;

@@ -53,6 +53,7 @@ class ProfileText {
   // What keeps that section's bytes in place without this text; null when there is none.
   [[nodiscard]] std::shared_ptr<const std::string> sharedBytes(std::string_view section) const;
   [[nodiscard]] std::vector<std::string_view> sectionNames() const; // in file order, each name once
+  [[nodiscard]] std::vector<std::string_view> headers() const; // the same, and each as often as it stands
   // The sections of those names, with what keeps their bytes in place.
   struct NamedSection {
     std::string_view name;

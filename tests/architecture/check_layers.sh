@@ -9,6 +9,7 @@ floors=(
   "resources"
   "storage"
   "appearance"
+  "game"
   "teams"
   "setup live scorecard manual"
   "season"

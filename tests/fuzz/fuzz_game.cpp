@@ -1,7 +1,8 @@
 // Any bytes as a game file: they are parsed, read as events, checked and counted without a crash or a hang;
 // what is written back unchanged is equal byte for byte, and a value that is set reads back and leaves the
 // other sections' keys as they were.
-#include "scorecard/GameCheck.h"
+#include "game/FindingWords.h"
+#include "game/GameCheck.h"
 #include "storage/GameFile.h"
 #include "storage/ProfileText.h"
 #include "storage/Tally.h"
@@ -51,7 +52,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   GameState state;
   static_cast<void>(Tally::run(state, game.events, game.roster[0], game.roster[1]));
   require(totalOf(state, false) == totalOf(state, true));
-  static_cast<void>(checkGame(game));
+  const Texts texts;
+  for (const Finding& finding : checkGame(game, text))
+    require(!wordsOf(finding, game, texts).empty());
 
   // Replaying one event at a time finds the same counts.
   GameState replayed;

@@ -1,7 +1,7 @@
 // What a scan lists, what it leaves out and why, and how criteria narrow it.
-#include "season/CalendarDay.h"
 #include "season/GameColumns.h"
 #include "season/SeasonFolder.h"
+#include "storage/CalendarDay.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -142,6 +142,19 @@ TEST(Catalogue, TwoFilesOfOneGameAreFoundAndCountedOnceOnRequest) {
   once.countsCopiesOnce = true;
   EXPECT_EQ(namesOf(catalogue, catalogue.select(once)),
             (Names{"a.GAM", "deleted.GAM", "event.GAM", "day.GAM", "x.GAM", "y.GAM"}));
+}
+
+TEST(Catalogue, GamesThatCannotBeRightAreToldAndLeftOutOnRequest) {
+  SeasonFolder season;
+  season.addGame("cut.GAM", "2026-01-01", kStart + "2=09:00,GFG,0-4,30,100\n", "EVENUM=3\n");
+  season.addGame("whole.GAM", "2026-01-02", kStart + "2=09:00,GFG,0-4,30,100\n", "EVENUM=3\nNBREPERIODE=1\n");
+  const GameCatalogue& catalogue = season.scan();
+  EXPECT_EQ(catalogue.wrongGames(), 1U);
+  EXPECT_EQ(catalogue.whyWrong(catalogue.games()[0], Texts()), "The game is finished after 1 of 4 periods");
+  EXPECT_EQ(catalogue.whyWrong(catalogue.games()[1], Texts()), "");
+  GameCriteria right;
+  right.leavesOutWrong = true;
+  EXPECT_EQ(namesOf(catalogue, catalogue.select(right)), Names{"whole.GAM"});
 }
 
 TEST(Catalogue, EachCriterionNarrowsAndWhatIsEmptyAcceptsAll) {

@@ -1,8 +1,8 @@
 #include "season/SeasonDesk.h"
 
-#include "season/CalendarDay.h"
 #include "season/GameSeries.h"
 #include "season/SeasonWords.h"
+#include "storage/CalendarDay.h"
 #include "storage/FileSystem.h"
 
 #include <gtest/gtest.h>

@@ -2,6 +2,7 @@
 
 #include "appearance/CourtView.h"
 #include "appearance/relabel.h"
+#include "season/SeasonFolder.h"
 #include "season/SeasonTableView.h"
 #include "season/SeriesView.h"
 #include "simulator/SampleSeason.h"
@@ -406,6 +407,30 @@ TEST_F(SeasonWindowTest, FolderAndColumnWidthsAreRemembered) {
   EXPECT_TRUE(find<QCheckBox>("chkSUBFOLDERS").isChecked());
   EXPECT_EQ(table("lvwGAMES").columnWidth(8), 333);
   window->restoreArrangement("of an older program"); // is no harm
+}
+
+TEST_F(SeasonWindowTest, AsksBeforeAGameThatCannotBeRightEntersTheTotals) {
+  SeasonFolder season;
+  const std::string events = "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=09:00,GFG,0-4,30,100\n";
+  season.addGame("cut.GAM", "2026-01-01", events, "EVENUM=3\n");
+  season.addGame("whole.GAM", "2026-01-02", events, "EVENUM=3\nNBREPERIODE=1\n");
+  window->readFolder(toQt(season.folder().path()), false);
+  wait();
+  ASSERT_EQ(rows("lvwGAMES"), 2);
+  dialogs.nextAnswer = true;
+  generate();
+  generate(); // asked once
+  ASSERT_EQ(dialogs.shown.size(), 1U);
+  EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("cut.GAM"))) << fromQt(dialogs.shown[0].text);
+  EXPECT_EQ(cell("lvwSTATjoueurs(0)", 0, kPoints), QStringLiteral("4"));
+
+  window->readFolder(toQt(season.folder().path()), false);
+  wait();
+  dialogs.nextAnswer = false;
+  generate();
+  EXPECT_TRUE(find<QCheckBox>("chkWRONG").isChecked());
+  EXPECT_EQ(rows("lvwGAMES"), 1);
+  EXPECT_EQ(cell("lvwSTATjoueurs(0)", 0, kPoints), QStringLiteral("2"));
 }
 
 TEST_F(SeasonWindowTest, ReadsRealGames) {

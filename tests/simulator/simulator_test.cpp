@@ -1,6 +1,7 @@
 // Properties that hold for every game: of the simulator, that its games are plausible and sound; of the tally
 // and the game file, on games nobody has tuned by hand.
-#include "scorecard/GameCheck.h"
+#include "game/FindingWords.h"
+#include "game/GameCheck.h"
 #include "simulator/SampleSeason.h"
 #include "storage/Tally.h"
 #include "support/TemporaryFolder.h"
@@ -103,12 +104,13 @@ TEST(SimulatedGames, ArePlausible) {
 }
 
 TEST(SimulatedGames, HoldNothingThatACheckWouldName) {
+  const Texts texts;
   for (const SimulatedGame& simulated : games()) {
     const Game game = simulated.inMemory();
     for (const GameEvent& event : game.events)
       EXPECT_TRUE(event.isUnderstood) << event.line;
-    for (const GameFinding& finding : checkGame(game))
-      ADD_FAILURE() << game.path << " " << finding.key << " " << finding.line << ": " << finding.problem;
+    for (const Finding& finding : checkGame(game))
+      ADD_FAILURE() << game.path << ": " << wordsOf(finding, game, texts);
   }
 }
 

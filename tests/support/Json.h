@@ -36,6 +36,7 @@ class Json {
   }
 
   bool isNull() const { return std::holds_alternative<std::nullptr_t>(m_value); }
+  bool boolean() const { return std::get<bool>(m_value); }
   double number() const { return std::get<double>(m_value); }
   int integer() const { return static_cast<int>(number()); }
   const std::string& text() const { return std::get<std::string>(m_value); }

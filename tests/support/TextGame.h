@@ -8,9 +8,11 @@
 
 namespace hooptab {
 
-// Two teams, PAN with seven players and OLY with five, and the periods given ("[PERIODE1]\n1=...").
+// Two teams, PAN with seven players and OLY with five, and the periods given ("[PERIODE1]\n1=..."). Details
+// of the game that are given go before its own.
 inline std::string textOfGame(const std::string& periods, const std::string& details = {}) {
-  return "[DETAILS]\nVERSION=2.0\nEQUIPE0ABB=PAN\nEQUIPE1ABB=OLY\nNBREPERIODE=4\nDUREE=10\n" + details +
+  return "[DETAILS]\nVERSION=2.0\n" + details +
+         "EQUIPE0ABB=PAN\nEQUIPE1ABB=OLY\nNBREPERIODE=4\nDUREE=10\n"
          "[0]\n4=0,Ann Able\n5=1,Bea Baker\n10=2,Cleo Carter\n12=9,Dana Dunn\n15=0,Eve Ellis\n0=1,Fay "
          "Ford\n00=2,Gia Grant\n"
          "[1]\n3=0,Hana Hart\n7=1,Ida Ivers\n8=2,Jo Jones\n11=9,Kim Knox\n22=0,Lea Lang\n" +

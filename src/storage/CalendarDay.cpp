@@ -1,4 +1,4 @@
-#include "season/CalendarDay.h"
+#include "storage/CalendarDay.h"
 
 #include "storage/Module1.h"
 

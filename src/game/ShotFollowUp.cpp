@@ -1,4 +1,4 @@
-#include "live/ShotFollowUp.h"
+#include "game/ShotFollowUp.h"
 
 namespace hooptab {
 

@@ -1,0 +1,14 @@
+// What a game's events show: their numbers, periods, clocks, line-ups, and what each needs before it.
+#pragma once
+
+#include "game/Finding.h"
+#include "storage/GameFile.h"
+
+#include <vector>
+
+namespace hooptab {
+
+// Adds what it finds.
+void checkEvents(const Game& game, std::vector<Finding>& findings);
+
+} // namespace hooptab

@@ -1,0 +1,50 @@
+#include "game/FindingWords.h"
+
+#include "storage/EventWords.h"
+#include "storage/Module1.h"
+#include "storage/PlayerLookup.h"
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kGood = 2690;
+constexpr int kCountWrong = 2691;
+constexpr int kCountDoubtful = 2692;
+
+// The team, and the player as far as he is known.
+std::string whoOf(const Finding& finding, const Game& game, const Texts& texts) {
+  const EventWords words(game, texts);
+  std::string who(words.team(finding.team));
+  if (finding.jersey.empty())
+    return who;
+  const bool isKnown = findPlayer(game.roster[finding.team], finding.jersey) != nullptr;
+  const std::string player = isKnown ? words.player({finding.team, finding.jersey}) : finding.jersey;
+  return player == who ? who : who + ' ' + player;
+}
+
+} // namespace
+
+std::string wordsOf(const Finding& finding, const Game& game, const Texts& texts) {
+  // A team or player comes first where there is one; what else is said of it then follows.
+  const bool hasWho = finding.team >= 0;
+  const std::string& found = hasWho && finding.found.empty() ? finding.subject : finding.found;
+  std::string text = Module1::withPlaceholder(texts.text(static_cast<int>(finding.kind)), found, "YYY");
+  text = Module1::withPlaceholder(text, finding.wanted, "ZZZ");
+  return Module1::withPlaceholder(text, hasWho ? whoOf(finding, game, texts) : finding.subject);
+}
+
+std::string countsText(const FindingSummary& summary, const Texts& texts) {
+  std::string text;
+  const auto add = [&](std::size_t count, int number) {
+    if (count > 0)
+      text += (text.empty() ? "" : ", ") + texts.withPlaceholder(number, std::to_string(count));
+  };
+  add(summary.wrong, kCountWrong);
+  add(summary.doubtful, kCountDoubtful);
+  if (summary.wrong == 0)
+    text = std::string(texts.text(kGood)) + (text.empty() ? "" : ", ") + text;
+  return text;
+}
+
+} // namespace hooptab

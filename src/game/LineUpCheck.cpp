@@ -1,0 +1,105 @@
+#include "game/LineUpCheck.h"
+
+#include "storage/Module1.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::size_t kFive = 5;
+
+} // namespace
+
+void LineUpCheck::enterPeriod(const GameEvent& first) {
+  checkTimes();
+  m_firstClock = first.clockSeconds;
+  m_lastClock = first.clockSeconds;
+  for (Court& court : m_courts) {
+    court.since = first.clockSeconds;
+    court.playersSeconds = 0;
+    court.lastCredit.reset();
+  }
+}
+
+void LineUpCheck::stop(std::size_t event) {
+  const GameEvent& stop = m_game.events[event];
+  m_stop = event;
+  m_lastClock = stop.clockSeconds;
+  for (std::size_t team = 0; team < 2; ++team) {
+    Court& court = m_courts[team];
+    court.playersSeconds += court.timed * (court.since - stop.clockSeconds);
+    court.since = stop.clockSeconds;
+    court.lastCredit = event;
+    court.isTold = false;
+    if (stop.onCourt(team) != court.list) // most stops change nobody
+      readList(team, event);
+  }
+}
+
+void LineUpCheck::readList(std::size_t team, std::size_t event) {
+  Court& court = m_courts[team];
+  court.list = m_game.events[event].onCourt(team);
+  court.players.clear();
+  // Of a list that is too long the first count, and nobody who is in no roster is credited with time.
+  court.timed = static_cast<int>(
+      std::ranges::count_if(playersOnCourt(court.list, m_game.roster[team]),
+                            [](const ListedPlayer& listed) { return listed.player != nullptr; }));
+  std::vector<ListedPlayer> told;
+  for (ListedPlayer& listed : playersOfList(court.list, m_game.roster[team])) {
+    const auto name = [&](FindingKind kind) {
+      m_findings.push_back(
+          {.kind = kind, .event = event, .team = static_cast<int>(team), .jersey = listed.jersey});
+    };
+    if (std::ranges::find(court.players, listed) == court.players.end()) {
+      if (listed.player == nullptr)
+        name(FindingKind::OnCourtNotInRoster);
+      court.players.push_back(std::move(listed));
+    } else if (std::ranges::find(told, listed) == told.end()) {
+      name(FindingKind::Twice);
+      told.push_back(std::move(listed));
+    }
+  }
+}
+
+// It is told at the stop that sent them there, once.
+void LineUpCheck::start(std::size_t event) {
+  for (std::size_t team = 0; team < 2; ++team) {
+    Court& court = m_courts[team];
+    const std::size_t count = court.players.size();
+    if (!isFollowed(team) || count == kFive || court.isTold)
+      continue;
+    court.isTold = true;
+    m_findings.push_back({.kind = count > kFive ? FindingKind::MoreThanFive : FindingKind::FewerThanFive,
+                          .event = m_stop.value_or(event),
+                          .team = static_cast<int>(team),
+                          .found = std::to_string(count)});
+  }
+}
+
+bool LineUpCheck::isOnCourt(const PlayerReference& player) const {
+  const auto team = static_cast<std::size_t>(player.team);
+  if (!isFollowed(team))
+    return true;
+  const RosterPlayer* const known = findPlayer(m_game.roster[team], player.jersey);
+  return known != nullptr && std::ranges::find(m_courts[team].players, known, &ListedPlayer::player) !=
+                                 m_courts[team].players.end();
+}
+
+// Up to the last stop of the period.
+void LineUpCheck::checkTimes() {
+  const int wanted = (m_firstClock - m_lastClock) * static_cast<int>(kFive);
+  for (std::size_t team = 0; team < 2; ++team) {
+    const Court& court = m_courts[team];
+    if (!court.lastCredit || !isFollowed(team) || court.playersSeconds == wanted)
+      continue;
+    m_findings.push_back({.kind = FindingKind::OtherTime,
+                          .event = *court.lastCredit,
+                          .team = static_cast<int>(team),
+                          .found = Module1::clockText(court.playersSeconds),
+                          .wanted = Module1::clockText(wanted)});
+  }
+}
+
+} // namespace hooptab

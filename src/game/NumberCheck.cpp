@@ -1,0 +1,36 @@
+#include "game/NumberCheck.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+void checkNumbers(const Game& game, std::vector<Finding>& findings) {
+  struct Numbered {
+    int number;
+    std::size_t event;
+  };
+  std::vector<Numbered> events;
+  events.reserve(game.events.size());
+  for (std::size_t place = 0; place < game.events.size(); ++place) {
+    if (const int number = game.events[place].number; number > 0)
+      events.push_back({number, place});
+  }
+  if (!std::ranges::is_sorted(events, {}, &Numbered::number))
+    std::ranges::stable_sort(events, {}, &Numbered::number);
+  int last = 0;
+  for (const auto& [number, event] : events) {
+    if (number == last)
+      findings.push_back(
+          {.kind = FindingKind::NumberTwice, .event = event, .subject = std::to_string(number)});
+    else if (number == last + 2)
+      findings.push_back(
+          {.kind = FindingKind::NumbersMissing, .event = event, .subject = std::to_string(last + 1)});
+    else if (number > last + 2)
+      findings.push_back({.kind = FindingKind::NumbersMissing,
+                          .event = event,
+                          .subject = std::to_string(last + 1) + "–" + std::to_string(number - 1)});
+    last = number;
+  }
+}
+
+} // namespace hooptab

@@ -1,0 +1,15 @@
+// Whether the numbers of a game's events are 1, 2, 3, …, each once in the whole game. Deleted events have
+// theirs, too; an inserted one stands where it belongs, so that the order does not matter.
+#pragma once
+
+#include "game/Finding.h"
+#include "storage/GameFile.h"
+
+#include <vector>
+
+namespace hooptab {
+
+// Adds what it finds.
+void checkNumbers(const Game& game, std::vector<Finding>& findings);
+
+} // namespace hooptab
