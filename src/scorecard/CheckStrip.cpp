@@ -7,6 +7,7 @@
 #include "appearance/relabel.h"
 #include "game/FindingWords.h"
 #include "scorecard/Scorecard.h"
+#include "storage/EventWords.h"
 
 #include <QBoxLayout>
 #include <QListWidget>
@@ -23,6 +24,7 @@ constexpr int kFindings = 2701;
 constexpr int kMore = 2696;
 constexpr int kGap = 6;
 constexpr int kShownRows = 6;
+constexpr std::size_t kMostOfAKind = 50;
 constexpr int kEventRole = Qt::UserRole;
 
 } // namespace
@@ -60,16 +62,17 @@ CheckStrip::CheckStrip(const Texts& texts, QWidget* parent)
 }
 
 void CheckStrip::showFindings(const Scorecard& card) {
-  const FindingSummary summary = summaryOf(card.findings());
+  const FindingSummary summary = summaryOf(card.findings(), kMostOfAKind);
+  const EventWords events(card.game(), m_texts);
   const int current = m_list->currentRow();
   const QSignalBlocker quiet(m_list);
   m_list->clear();
   for (const auto& [finding, more] : summary.rows) {
     QString words = toQt(wordsOf(finding, card.game(), m_texts));
     if (finding.hasEvent()) {
-      const GameEvent& event = card.game().events[finding.event];
-      words =
-          QStringLiteral("%1 · %2").arg(event.period).arg(toQt(event.key)) + QStringLiteral("   ") + words;
+      const std::string clock = events.clock(finding.event);
+      words = toQt(events.periodText(card.game().events[finding.event].period)) + QStringLiteral("   ") +
+              (clock.empty() ? QStringLiteral("--:--") : toQt(clock)) + QStringLiteral("   ") + words;
     }
     if (more > 0)
       words += QStringLiteral(" (") + toQt(m_texts.withPlaceholder(kMore, std::to_string(more))) + u')';
@@ -92,7 +95,7 @@ void CheckStrip::open(bool isOpen) {
   if (m_list->count() == 0)
     return;
   const int rows = std::min(m_list->count(), kShownRows);
-  m_list->setFixedHeight(rows * m_list->sizeHintForRow(0) + 2 * m_list->frameWidth() + kGap);
+  m_list->setFixedHeight(rows * m_list->sizeHintForRow(0) + 2 * m_list->frameWidth());
 }
 
 void CheckStrip::lead(const QListWidgetItem* item) {

@@ -90,7 +90,7 @@ std::vector<TableColumn> gameListColumns(const Texts& texts) {
     shown.isLeftAligned = column.isLeftAligned;
     shown.isHidden = column.widthTwips == 0;
     if (column.index == 1)
-      shown.longest = QStringLiteral("0000-00-000");
+      shown.longest = QStringLiteral("0000-00-000000"); // with the mark of one that cannot be right
     else if (!shown.isText)
       shown.longest = QStringLiteral("0000");
   }

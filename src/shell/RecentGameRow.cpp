@@ -112,7 +112,16 @@ void RecentGameRow::paintEvent(QPaintEvent*) {
   tag(m_game.teams[1]);
   left += 2 * columns.gap;
   painter.setFont(body);
-  write(right - columns.gap - left, stateText(m_game, m_texts), look.muted, Qt::AlignLeft);
+  const QString state = stateText(m_game, m_texts);
+  if (m_game.mayBeCut) {
+    const QFontMetrics metrics = painter.fontMetrics();
+    const QRect chip(left - columns.gap, (height() - metrics.height()) / 2 - 1,
+                     metrics.horizontalAdvance(state) + 2 * columns.gap, metrics.height() + 2);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look.warningGround);
+    painter.drawRoundedRect(chip, chip.height() / 2.0, chip.height() / 2.0);
+  }
+  write(right - columns.gap - left, state, m_game.mayBeCut ? look.warningText : look.muted, Qt::AlignLeft);
   hooptab::icon(QStringLiteral("view"))
       .paint(&painter, QRect(right, (height() - columns.sign) / 2, columns.sign, columns.sign));
 }

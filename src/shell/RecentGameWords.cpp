@@ -15,6 +15,7 @@ constexpr int kFinal = 1552;
 constexpr int kPeriod = 1590;
 constexpr int kNotFinished = 2051;
 constexpr int kCannotBeRead = 2632;
+constexpr int kMayBeCut = 2702;
 
 QString overtimeText(const RecentGame& game, const Texts& texts) {
   return QStringLiteral("%1%2").arg(caption(texts, kOvertime)).arg(game.period - game.regularPeriods);
@@ -41,7 +42,9 @@ QString periodText(const RecentGame& game, const Texts& texts) {
 QString stateText(const RecentGame& game, const Texts& texts) {
   if (game.problem != GameFileProblem::None)
     return caption(texts, kCannotBeRead);
-  const QString state = caption(texts, game.isFinished ? kFinal : kNotFinished);
+  QString state = caption(texts, game.isFinished ? kFinal : kNotFinished);
+  if (game.mayBeCut)
+    state += QStringLiteral(", ") + caption(texts, kMayBeCut);
   return isInOvertime(game) ? QStringLiteral("%1, %2").arg(state, overtimeText(game, texts)) : state;
 }
 

@@ -1,5 +1,6 @@
 #include "shell/RecentGames.h"
 
+#include "game/GameCheck.h"
 #include "storage/Tally.h"
 
 #include <algorithm>
@@ -11,6 +12,15 @@ namespace hooptab {
 namespace {
 
 constexpr std::int64_t kNanoseconds = 1'000'000'000;
+
+bool lacksItsEnd(const Finding& finding) {
+  switch (finding.kind) {
+  case FindingKind::TooFewPeriods:
+  case FindingKind::NumbersAtEndMissing:
+  case FindingKind::GameWithoutStop: return true;
+  default: return false;
+  }
+}
 
 // `state` is large, and kept for the next game.
 RecentGame readOne(cinifile& store, const std::string& path, GameState& state) {
@@ -28,6 +38,7 @@ RecentGame readOne(cinifile& store, const std::string& path, GameState& state) {
     result.teams[team] = {details.abbreviation[team], details.teamColour[team],
                           state.points(static_cast<int>(team))};
   result.isFinished = details.isFinished;
+  result.mayBeCut = details.isFinished && std::ranges::any_of(checkGame(game, store.profile()), lacksItsEnd);
   result.hasPeriods = details.inputType == 0;
   result.hasTime = result.hasPeriods && details.minutesPerPeriod > 0;
   result.period = state.period;

@@ -26,6 +26,7 @@ struct RecentGame {
   std::string date;                                // yyyy-mm-dd, as the file has it
   std::array<Team, 2> teams;
   bool isFinished = false;
+  bool mayBeCut = false;   // finished, and its end is missing
   bool hasPeriods = false; // recorded event by event, not entered as totals
   bool hasTime = false;
   int period = 0;           // of the last event
