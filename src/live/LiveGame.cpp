@@ -558,7 +558,7 @@ int LiveGame::secondsOnCourt(int team, int player) const {
 
 // What the tally will credit to those on court with the next stop.
 int LiveGame::secondsSinceLists(std::size_t team) const {
-  return m_phase == Phase::Running || isStopLost() ? state().lineStartClock[team] - clockSeconds() : 0;
+  return isTimeOpen() ? state().lineStartClock[team] - clockSeconds() : 0;
 }
 
 int LiveGame::secondsOfLine(int team) const {
@@ -570,7 +570,7 @@ int LiveGame::secondsOfLine(int team) const {
 int LiveGame::secondsInLead(LeadState which) const {
   const LeadTracker& lead = state().lead;
   int seconds = lead.seconds[static_cast<std::size_t>(which)];
-  if (m_phase == Phase::Running && lead.state == which)
+  if (isTimeOpen() && lead.state == which)
     seconds += lead.previousClock - clockSeconds();
   return std::max(seconds, 0);
 }

@@ -197,6 +197,8 @@ class LiveGame {
 
  private:
   [[nodiscard]] int lengthOf(int period) const;
+  // The next stop will credit what has passed, to those on court and to the lead.
+  [[nodiscard]] bool isTimeOpen() const { return m_phase == Phase::Running || isStopLost(); }
   [[nodiscard]] int secondsSinceLists(std::size_t team) const;
   std::string lineOf(const std::string& eventText) const; // at the present clock
   EventChange added(const std::string& line);

@@ -101,6 +101,10 @@ TEST_F(LeftGameTest, StandsAtTheLastEventUntilAClockIsChosen) {
     EXPECT_EQ(live->onCourt(), (OnCourt{kFive, kFive}));
     ASSERT_TRUE(live->isStopLost());
     EXPECT_EQ(live->secondsOnCourt(0, 1), 60) << "though no stop has credited it";
+    ASSERT_TRUE(live->setClock(530));
+    EXPECT_EQ(live->secondsOnCourt(0, 1), 70);
+    EXPECT_EQ(live->secondsInLead(LeadState::Team0), 10) << "the lead lasts as long as they play";
+    ASSERT_TRUE(live->setClock(540));
     if (c.chosen) {
       EXPECT_TRUE(live->settleStop(*c.chosen));
       EXPECT_EQ(live->clockSeconds(), *c.chosen);
