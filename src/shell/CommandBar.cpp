@@ -98,7 +98,6 @@ QAction* CommandBar::makeAction(const Command& command) {
       command.kind == CommandKind::Menu ? dropDown(command.key).menuAction() : new QAction(&m_window);
   action->setObjectName(key);
   action->setCheckable(command.kind == CommandKind::Toggle || command.kind == CommandKind::Choice);
-  action->setShortcut(QKeySequence::fromString(toQt(command.shortcut), QKeySequence::PortableText));
   if (command.kind != CommandKind::Menu)
     connect(action, &QAction::triggered, this, [this, key] { emit asked(key); });
   return action;
@@ -127,6 +126,7 @@ void CommandBar::show(const Modes& modes, const Texts& texts) {
     if (action.isCheckable())
       action.setChecked(state.isChecked);
     action.setIcon(icon(toQt(state.icon)));
+    action.setShortcut(QKeySequence::fromString(toQt(state.shortcut), QKeySequence::PortableText));
     setTextNumber(action, state.text);
     setToolTipNumber(action, state.text);
     relabel(action, texts);
