@@ -61,6 +61,10 @@ CommandState stateOf(const Command& command, const Modes& modes) {
   } else if (command.kind == CommandKind::Toggle || command.kind == CommandKind::Choice) {
     state.isChecked = so;
   }
+  if (command.key == "VwREFRESH" && modes.refreshSeconds > 0)
+    state.icon = modes.refreshSeconds == 10   ? "vwrefsec10"
+                 : modes.refreshSeconds == 30 ? "vwrefsec30"
+                                              : "vwrefsec60";
   return state;
 }
 

@@ -128,6 +128,7 @@ MDI::MDI(const Workshop& workshop)
   m_exports = new WindowExports(*m_output, m_workshop.texts, this);
   auto* tables = new QMenu(this);
   auto* bar = new QMenuBar;
+  m_bar = bar;
   bar->setObjectName(QStringLiteral("menuBar"));
   m_menu = new MainMenu(*this, *bar, *m_area, *m_commands, *recent, *samples, *tables);
   m_menu->showColours(Theme::current());
@@ -197,7 +198,7 @@ QWidget* MDI::makeTop(QMenuBar& bar) {
   top->setObjectName(QStringLiteral("top"));
   top->setAutoFillBackground(true);
   top->setBackgroundRole(QPalette::AlternateBase);
-  bar.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  bar.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred); // the tools have a menu for what has no room
   auto* row = new QHBoxLayout(top);
   row->setContentsMargins(kTopMargin, 0, kTopMargin, 0);
   row->setSpacing(kTopMargin);
@@ -210,6 +211,11 @@ QWidget* MDI::makeTop(QMenuBar& bar) {
 void MDI::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   applyMeasure();
+  showRoom();
+}
+
+void MDI::showRoom() {
+  m_commands->setRoom(width() - m_bar->sizeHint().width() - 3 * kTopMargin);
 }
 
 void MDI::applyMeasure() {
@@ -233,6 +239,7 @@ void MDI::switchZoom(int percent) {
   m_workshop.memory.rememberZoom(percent);
   m_menu->showZoom(percent);
   applyMeasure();
+  showRoom();
 }
 
 // Of the window in front, when it fills the area and has no title of its own.
@@ -781,6 +788,7 @@ void MDI::relabelEverything() {
   m_dialogLanguage.set(m_workshop.texts.language());
   relabel(*this, m_workshop.texts);
   m_menu->giveLetters();
+  showRoom();
   m_welcome->relabelPage();
   for (ChildWindow* child : m_area->windows())
     child->relabelWindow();

@@ -115,6 +115,7 @@ class MDI : public QMainWindow {
   void applyMeasure();
   void applyLook(); // to all that keep colours or lengths
   QWidget* makeTop(QMenuBar& bar);
+  void showRoom(); // beside the menus, to the tools
   void showTitle();
   void showStatusBar();
   [[nodiscard]] CommandGroup groupInFront() const;
@@ -144,6 +145,7 @@ class MDI : public QMainWindow {
 
   CommandBar* m_commands = nullptr;
   MainMenu* m_menu = nullptr;
+  QMenuBar* m_bar = nullptr;
   WindowArea* m_area = nullptr;
   WelcomePage* m_welcome = nullptr;
   QStackedWidget* m_pages = nullptr;

@@ -350,7 +350,7 @@ TEST_F(TeamWindowTest, WhatTheDiskDoesNotTakeIsToldAndKeptUntilItDoes) {
   choose(0);
   type("txtNOMEQUIPE", "Wasps");
   std::filesystem::permissions(folder.path("CONFIG.INI"), std::filesystem::perms::owner_read);
-  QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+  click("cmdSAVEEQUIPE");
   EXPECT_TRUE(told.value(0).contains(toQt(folder.path("CONFIG.INI"))));
   click("cmdAJOUTEREQUIPE");
   EXPECT_EQ(list().count(), 4);
