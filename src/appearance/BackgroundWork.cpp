@@ -12,6 +12,7 @@ BackgroundWork::~BackgroundWork() {
 }
 
 void BackgroundWork::start(std::function<Delivery()> work) {
+  m_isRunning = true;
   try {
     m_thread = std::thread([this, work = std::move(work)] {
       Delivery delivery;
@@ -20,20 +21,25 @@ void BackgroundWork::start(std::function<Delivery()> work) {
       } catch (const std::exception&) { // too much for this computer's memory
         delivery = [this] { emit failed(); };
       }
-      // Queued for this object: dropped when it is gone by then.
-      QMetaObject::invokeMethod(
-          this,
-          [this, delivery = std::move(delivery)] {
-            m_thread.join();
-            delivery();
-            emit finished();
-          },
-          Qt::QueuedConnection);
+      endWith(std::move(delivery));
     });
   } catch (const std::system_error&) { // the system has no more threads
-    emit failed();
-    emit finished();
+    endWith([this] { emit failed(); });
   }
+}
+
+// Queued for this object: dropped when it is gone by then, and never before its owner shows that work began.
+void BackgroundWork::endWith(Delivery delivery) {
+  QMetaObject::invokeMethod(
+      this,
+      [this, delivery = std::move(delivery)] {
+        if (m_thread.joinable())
+          m_thread.join();
+        m_isRunning = false;
+        delivery();
+        emit finished();
+      },
+      Qt::QueuedConnection);
 }
 
 } // namespace hooptab

@@ -20,14 +20,17 @@ class BackgroundWork : public QObject {
   using Delivery = std::function<void()>;
   // Not while another piece is running.
   void start(std::function<Delivery()> work);
-  bool isRunning() const { return m_thread.joinable(); }
+  bool isRunning() const { return m_isRunning; }
 
  signals:
   void finished();
-  void failed(); // no memory; before finished()
+  void failed(); // no memory, or no thread; before finished()
 
  private:
+  void endWith(Delivery delivery);
+
   std::thread m_thread;
+  bool m_isRunning = false; // until its end is told
 };
 
 } // namespace hooptab

@@ -2,7 +2,7 @@
 
 #include "appearance/Dialogs.h"
 #include "appearance/relabel.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -102,9 +102,9 @@ void GameHold::offer(int question) {
   m_timer.stop(); // while the question stands
   const LockFile::Sight seen = m_watch.sight();
   const std::int64_t since = LockFile::ownerOf(seen).renewedSeconds;
-  const std::string words = Module1::withPlaceholder(
-      m_texts.withPlaceholder(question, fromQt(ownerWords())),
-      fromQt(QDateTime::fromSecsSinceEpoch(since).toString(QStringLiteral("yyyy-MM-dd hh:mm"))), "YYY");
+  const std::string words = withPlaceholders(
+      m_texts.text(question), fromQt(ownerWords()),
+      fromQt(QDateTime::fromSecsSinceEpoch(since).toString(QStringLiteral("yyyy-MM-dd hh:mm"))));
   const bool isAsked = m_dialogs.ask(&m_window, caption(m_texts, kWarningTitle), toQt(words));
   if (isAsked && m_lock.takeOver(seen) == GameLock::Outcome::Held)
     emit taken();

@@ -1,11 +1,14 @@
 #include "appearance/Mnemonics.h"
 
+#include "appearance/PlainText.h"
 #include "appearance/relabel.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QHash>
 #include <QKeySequence>
 #include <QLabel>
+#include <QMenuBar>
 #include <QSet>
 #include <QTabWidget>
 #include <functional>
@@ -39,7 +42,7 @@ QList<qsizetype> placesIn(const QString& caption) {
 // another one on to a letter that is free (augmenting paths of a bipartite matching).
 class Matching {
  public:
-  explicit Matching(const QStringList& captions) : m_captions(captions) {
+  Matching(const QStringList& captions, const QString& taken) : m_captions(captions), m_taken(taken) {
     m_places.assign(static_cast<std::size_t>(captions.size()), -1);
     for (int caption = 0; caption < captions.size(); ++caption) {
       m_tried.clear();
@@ -57,7 +60,7 @@ class Matching {
         const QChar letter = text[candidate].toLower();
         const auto owner = m_owners.constFind(letter);
         const bool isFree = owner == m_owners.constEnd();
-        if (!isFree && (!moves || m_tried.contains(letter)))
+        if (m_taken.contains(letter) || (!isFree && (!moves || m_tried.contains(letter))))
           continue;
         m_tried.insert(letter);
         if (!isFree && !place(*owner))
@@ -71,15 +74,60 @@ class Matching {
   }
 
   const QStringList& m_captions;
+  const QString& m_taken;
   std::vector<qsizetype> m_places;
   QHash<QChar, int> m_owners;
   QSet<QChar> m_tried;
 };
 
+// A caption of a menu as it is read.
+QString withoutLetter(const QString& caption) {
+  QString read;
+  for (qsizetype place = 0; place < caption.size(); ++place) {
+    if (caption[place] == u'&' && place + 1 < caption.size())
+      ++place; // the letter behind it is read, were it one more of these
+    read += caption[place];
+  }
+  return read;
+}
+
+QString lettersOfMenuBar(const QWidget& window) {
+  QString letters;
+  if (const auto* bar = window.window()->findChild<QMenuBar*>()) {
+    for (const QAction* menu : bar->actions()) {
+      if (const qsizetype place = menu->text().indexOf(u'&'); place >= 0 && place + 1 < menu->text().size())
+        letters += menu->text()[place + 1].toLower();
+    }
+  }
+  return letters;
+}
+
 } // namespace
 
-std::vector<qsizetype> mnemonicPlaces(const QStringList& captions) {
-  return Matching(captions).places();
+std::vector<qsizetype> mnemonicPlaces(const QStringList& captions, const QString& taken) {
+  return Matching(captions, taken).places();
+}
+
+QString giveMnemonics(const QList<QAction*>& actions) {
+  QList<QAction*> named;
+  QStringList captions;
+  for (QAction* action : actions) {
+    if (action->isSeparator() || !hasTextNumber(*action))
+      continue;
+    named << action;
+    captions << withoutLetter(action->text());
+  }
+  const std::vector<qsizetype> places = mnemonicPlaces(captions);
+  QString letters;
+  for (qsizetype i = 0; i < named.size(); ++i) {
+    const qsizetype place = places[static_cast<std::size_t>(i)];
+    const QString& caption = captions[i];
+    if (place < 0)
+      continue;
+    letters += caption[place].toLower();
+    named[i]->setText(withoutMnemonic(caption.left(place)) + u'&' + withoutMnemonic(caption.mid(place)));
+  }
+  return letters;
 }
 
 void giveMnemonics(QWidget& window) {
@@ -105,7 +153,7 @@ void giveMnemonics(QWidget& window) {
     captions << label->text();
     show.emplace_back([label](const QString& text) { label->setText(text); });
   }
-  const std::vector<qsizetype> places = mnemonicPlaces(captions);
+  const std::vector<qsizetype> places = mnemonicPlaces(captions, lettersOfMenuBar(window));
   for (std::size_t i = 0; i < show.size(); ++i) {
     QString& caption = captions[static_cast<qsizetype>(i)];
     if (places[i] >= 0)

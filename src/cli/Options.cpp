@@ -4,13 +4,25 @@
 #include "storage/ChoiceTexts.h"
 #include "storage/Module1.h"
 
-#include <cstdlib>
 #include <optional>
 #include <string_view>
 
 namespace hooptab {
 
 namespace {
+
+constexpr int kNoOption = 2843;
+constexpr int kNeeds = 2847;
+constexpr int kNotTogether = 2849;
+constexpr int kNeedsTeam = 2850;
+constexpr int kNeedsType = 2851;
+constexpr int kNeedsDate = 2852;
+constexpr int kNoCommand = 2853;
+constexpr int kCommandMissing = 2854;
+constexpr int kGoesWith = 2855;
+constexpr int kFolderMissing = 2856;
+constexpr int kFileMissing = 2857;
+constexpr int kOneFile = 2858;
 
 std::optional<CliCommand> commandOf(std::string_view word) {
   if (word == "box")
@@ -24,14 +36,6 @@ std::optional<CliCommand> commandOf(std::string_view word) {
   return std::nullopt;
 }
 
-std::optional<Language> languageOf(std::string_view word) {
-  if (word == "en")
-    return Language::English;
-  if (word == "fr")
-    return Language::French;
-  return std::nullopt;
-}
-
 class Parser {
  public:
   Parser(const std::vector<std::string>& words, Language language) : m_words(words) {
@@ -40,7 +44,7 @@ class Parser {
 
   Options parse() && {
     bool takesOptions = true;
-    for (m_next = 0; m_next < m_words.size() && m_options.error.empty();) {
+    for (m_next = 0; m_next < m_words.size() && !m_options.wrong;) {
       const std::string& word = m_words[m_next++];
       if (takesOptions && word == "--")
         takesOptions = false;
@@ -53,7 +57,7 @@ class Parser {
       if (m_isAnswered)
         return std::move(m_options);
     }
-    if (m_options.error.empty())
+    if (!m_options.wrong)
       checkWhole();
     return std::move(m_options);
   }
@@ -67,7 +71,7 @@ class Parser {
     } else if (word == "--json" || word == "--csv") {
       const OutputFormat format = word == "--json" ? OutputFormat::Json : OutputFormat::Csv;
       if (m_options.format != OutputFormat::Text && m_options.format != format)
-        m_options.error = "--json and --csv do not go together";
+        m_options.wrong = {kNotTogether, "--json", "--csv"};
       m_options.format = format;
     } else if (const auto language = valueOf(word, "--lang")) {
       setLanguage(*language);
@@ -87,7 +91,7 @@ class Parser {
     } else if (const auto team = valueOf(word, "--team")) {
       season.team = *team;
       if (team->empty())
-        m_options.error = "--team needs a team, as its abbreviation and category: LYNX-AAA";
+        m_options.wrong = {kNeedsTeam};
     } else if (const auto from = valueOf(word, "--from")) {
       setDay(season.fromDay, "--from", *from);
     } else if (const auto to = valueOf(word, "--to")) {
@@ -95,16 +99,16 @@ class Parser {
     } else if (const auto type = valueOf(word, "--type")) {
       const int number = Module1::wholeNumber(*type);
       if (number < 0 || gameTypeOf(number) != number)
-        m_options.error = "--type needs a type of game, 0 to 5 or 9; there is no type " + std::string(*type);
+        m_options.wrong = {kNeedsType, std::string(*type)};
       season.type = number;
     } else {
-      m_options.error = "there is no option " + std::string(word);
+      m_options.wrong = {kNoOption, std::string(word)};
     }
   }
   void setDay(std::optional<int>& day, const std::string& option, std::string_view text) {
     day = calendarDay(text);
     if (!day)
-      m_options.error = option + " needs a date, yyyy-mm-dd";
+      m_options.wrong = {kNeedsDate, option};
   }
   // The value of "--option value" or "--option=value"; empty where it is missing, nothing for another option.
   std::optional<std::string> valueOf(std::string_view word, std::string_view option) {
@@ -120,17 +124,17 @@ class Parser {
     m_isAnswered = true;
   }
   void setLanguage(std::string_view word) {
-    if (const auto language = languageOf(word))
+    if (const auto language = languageNamed(word))
       m_options.language = *language;
     else
-      m_options.error = "--lang needs en or fr";
+      m_options.wrong = {kNeeds, "--lang", "en|fr"};
   }
   void takeCommand(const std::string& word) {
     m_command = commandOf(word);
     if (m_command)
       m_options.command = *m_command;
     else
-      m_options.error = "there is no command " + word;
+      m_options.wrong = {kNoCommand, word};
   }
   static bool fits(OutputFormat format, CliCommand command) {
     return format == OutputFormat::Text || command == CliCommand::Box || command == CliCommand::Season ||
@@ -138,15 +142,16 @@ class Parser {
   }
   void checkWhole() {
     if (!m_command)
-      m_options.error = "a command is missing";
+      m_options.wrong = {kCommandMissing};
     else if (!fits(m_options.format, *m_command))
-      m_options.error = "--json goes with box, season and verify, --csv with box and season only";
+      m_options.wrong = {kGoesWith, m_options.format == OutputFormat::Json ? "--json" : "--csv",
+                         m_options.format == OutputFormat::Json ? "box|season|verify" : "box|season"};
     else if (!m_seasonOption.empty() && *m_command != CliCommand::Season)
-      m_options.error = m_seasonOption + " goes with season only";
+      m_options.wrong = {kGoesWith, m_seasonOption, "season"};
     else if (m_options.files.empty())
-      m_options.error = *m_command == CliCommand::Season ? "a folder is missing" : "a file is missing";
+      m_options.wrong = {*m_command == CliCommand::Season ? kFolderMissing : kFileMissing};
     else if (m_options.files.size() > 1 && *m_command != CliCommand::Verify)
-      m_options.error = "only verify takes more than one file";
+      m_options.wrong = {kOneFile};
   }
 
   const std::vector<std::string>& m_words;
@@ -161,46 +166,6 @@ class Parser {
 
 Options parseOptions(const std::vector<std::string>& words, Language usualLanguage) {
   return Parser(words, usualLanguage).parse();
-}
-
-Language environmentLanguage() {
-  for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-    const char* const value = std::getenv(name);
-    if (value != nullptr && *value != '\0')
-      return std::string_view(value).starts_with("fr") ? Language::French : Language::English;
-  }
-  return Language::English;
-}
-
-std::string cliUsage() {
-  return R"(Usage: hooptab-cli COMMAND [OPTION...] FILE...
-
-Commands:
-  box FILE         the box score of a game; as a table of text, or:
-    --json           as JSON, with lines of players; the same in every language
-    --csv            as CSV, one row a player and one a team's total
-  events FILE      the events of a game in words
-  verify FILE...   names what is wrong in games, and what is doubtful; or:
-    --json           as JSON, an array of files with all that was found
-  season FOLDER    the statistics of all finished games of a folder; as tables of text, or:
-    --json           as JSON, with lines of players and leaders; the same in every language
-    --csv            as CSV, players and lines in totals, per game and per minute
-    --team ABB-CAT   only games of this team, and its own players: LYNX-AAA
-    --from, --to D   only games from and up to a date, yyyy-mm-dd
-    --type N         only games of a type: 0 practice, 1 pre-season, 2 season, 3 play-off,
-                     4 tournament, 5 exhibition, 9 other
-    --subfolders     also the games of its sub-folders
-    --once           counts a game once whose file is there twice
-    --leave-out-wrong  leaves out games of which something cannot be so
-
-Options:
-  --lang en|fr     the language of tables and words (usually that of LANG)
-  --help           this text
-  --version        the program's version
-
-Exit status: 0 when all is well; 1 when verify finds something wrong, or a file cannot be read; 2 for a
-command line that is not understood.
-)";
 }
 
 } // namespace hooptab

@@ -1,7 +1,7 @@
 // The command line of hooptab-cli. Only takes it apart: what is asked for is done by main.
 #pragma once
 
-#include "storage/Texts.h"
+#include "storage/CommandLine.h"
 
 #include <cstdint>
 #include <optional>
@@ -29,16 +29,10 @@ struct Options {
   Language language = Language::English;
   SeasonOptions season;
   std::vector<std::string> files; // for a season its folder
-  std::string error;              // one line; empty when the command line is understood
+  WrongUse wrong;
 };
 
 // `words` without the program's name. After "--" every word is a file.
 [[nodiscard]] Options parseOptions(const std::vector<std::string>& words, Language usualLanguage);
-
-// The language that the environment asks for: LC_ALL, LC_MESSAGES or LANG, the first that is set.
-[[nodiscard]] Language environmentLanguage();
-
-// What --help prints.
-[[nodiscard]] std::string cliUsage();
 
 } // namespace hooptab

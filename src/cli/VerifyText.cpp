@@ -1,5 +1,6 @@
 #include "cli/Reports.h"
 #include "game/FindingWords.h"
+#include "storage/Placeholders.h"
 #include "storage/Utf8.h"
 
 #include <algorithm>
@@ -15,17 +16,16 @@ constexpr int kMore = 2696;
 constexpr int kSubjectAndWords = 1801; // "XXX: YYY", each language with its own blanks
 
 std::string behind(const std::string& subject, const std::string& words, const Texts& texts) {
-  return Module1::withPlaceholder(Module1::withPlaceholder(texts.text(kSubjectAndWords), words, "YYY"),
-                                  subject);
+  return withPlaceholders(texts.text(kSubjectAndWords), subject, words);
 }
 
 std::string lineOf(const Finding& finding, const Game& game, const Texts& texts) {
   std::string text = printable(wordsOf(finding, game, texts));
   if (finding.hasEvent()) {
     const GameEvent& event = game.events[finding.event];
-    std::string place = Module1::withPlaceholder(texts.text(kAtEvent), printable(event.line), "ZZZ");
-    place = Module1::withPlaceholder(place, printable(event.key), "YYY");
-    text = behind(Module1::withPlaceholder(place, std::to_string(event.period)), text, texts);
+    const std::string place = withPlaceholders(texts.text(kAtEvent), std::to_string(event.period),
+                                               printable(event.key), printable(event.line));
+    text = behind(place, text, texts);
   }
   return behind(std::string(texts.text(finding.isWrong() ? kWrong : kDoubtful)), text, texts);
 }

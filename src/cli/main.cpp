@@ -3,6 +3,8 @@
 #include "cli/Output.h"
 #include "cli/Reports.h"
 #include "cli/SeasonReports.h"
+#include "resources/tables.h"
+#include "storage/Placeholders.h"
 #include "storage/Utf8.h"
 
 #include <algorithm>
@@ -15,23 +17,28 @@ namespace hooptab {
 
 namespace {
 
-const std::string kOutOfRange = "a count is out of range and stays at its limit: ";
-
 enum ExitStatus { kGood = 0, kFound = 1, kWrongUse = 2 };
 
 void complain(const std::string& text) {
   std::cerr << "hooptab-cli: " << printable(text) << '\n';
 }
 
-std::string explained(GameFileProblem problem) {
-  switch (problem) {
-  case GameFileProblem::Absent: return "there is no such file; check its name and folder";
-  case GameFileProblem::TooLarge: return "the file is too large to be a game; give a .GAM file";
-  case GameFileProblem::InvalidFormat:
-    return "Invalid File Format (Not a Valid .GAM File); give a game that HOOPTAB recorded";
-  default: return "cannot be read; give a file, not a folder, and check that you may read it";
-  }
-}
+constexpr int kSubjectAndWords = 1801; // "XXX: YYY"
+constexpr int kInvalidFormat = 1059;
+constexpr int kSee = 2859;
+constexpr int kNoSuchFile = 2860;
+constexpr int kTooLarge = 2861;
+constexpr int kNoGame = 2862;
+constexpr int kCannotBeRead = 2863;
+constexpr int kOutOfRange = 2864;
+constexpr int kNoOutput = 2865;
+constexpr int kNoSuchFolder = 2866;
+constexpr int kFolderUnreadable = 2867;
+constexpr int kNoTeam = 2868;
+constexpr int kThereAre = 2869;
+constexpr int kSameGame = 2870;
+constexpr int kFailed = 2871;
+constexpr int kCountedAllTheSame = 2705;
 
 class Program {
  public:
@@ -39,7 +46,9 @@ class Program {
 
   int run() {
     switch (m_options.command) {
-    case CliCommand::Help: m_output.write(cliUsage()); break;
+    case CliCommand::Help:
+      m_output.write(std::string(isFrench() ? commandLineUsage().french : commandLineUsage().english));
+      break;
     case CliCommand::Season: season(m_options.files.front()); break;
     case CliCommand::Version: m_output.write("hooptab-cli " HOOPTAB_VERSION "\n"); break;
     default:
@@ -51,13 +60,26 @@ class Program {
         m_output.write(m_json.text());
     }
     if (m_output.error() != 0) {
-      complain(std::string("the output cannot be written: ") + std::strerror(m_output.error()));
+      complain(words(kNoOutput, std::strerror(m_output.error())));
       m_status = kFound;
     }
     return m_status;
   }
 
  private:
+  bool isFrench() const { return m_options.language == Language::French; }
+  std::string words(int text, const std::string& x = {}) const { return m_texts.withPlaceholder(text, x); }
+  std::string of(const std::string& path, const std::string& text) const {
+    return withPlaceholders(m_texts.text(kSubjectAndWords), path, text);
+  }
+  std::string explained(GameFileProblem problem) const {
+    switch (problem) {
+    case GameFileProblem::Absent: return words(kNoSuchFile);
+    case GameFileProblem::TooLarge: return words(kTooLarge);
+    case GameFileProblem::InvalidFormat: return words(kNoGame, words(kInvalidFormat));
+    default: return words(kCannotBeRead);
+    }
+  }
   void fault(const std::string& text) {
     complain(text);
     m_status = kFound;
@@ -67,12 +89,12 @@ class Program {
     GameCatalogue catalogue(m_files);
     ScanWatch watch;
     switch (catalogue.scan({folder, wanted.withSubfolders}, watch)) {
-    case ScanOutcome::FolderMissing: fault(folder + ": there is no such folder"); return;
-    case ScanOutcome::FolderUnreadable: fault(folder + ": the folder cannot be read"); return;
+    case ScanOutcome::FolderMissing: fault(of(folder, words(kNoSuchFolder))); return;
+    case ScanOutcome::FolderUnreadable: fault(of(folder, words(kFolderUnreadable))); return;
     default: break;
     }
     if (!wanted.team.empty() && !catalogue.teamOf(wanted.team)) {
-      fault("no game of team " + wanted.team + teamsMet(catalogue));
+      fault(words(kNoTeam, wanted.team) + teamsMet(catalogue));
       return;
     }
     GameCriteria criteria;
@@ -95,34 +117,32 @@ class Program {
     }
     return seasonText(statistics, team, m_texts);
   }
-  static std::string teamsMet(const GameCatalogue& catalogue) {
-    std::string text;
+  std::string teamsMet(const GameCatalogue& catalogue) const {
+    std::string teams;
     for (const SeasonTeam& team : catalogue.teams())
-      text += (text.empty() ? "; there are " : ", ") + team.key;
-    return text;
+      teams += (teams.empty() ? "" : ", ") + team.key;
+    return teams.empty() ? teams : "; " + words(kThereAre, teams);
   }
   // A broken file never stops the rest, but it is told.
   void tellFaults(const GameCatalogue& catalogue, const SeasonStatistics& statistics) {
     for (const SkippedFile& skipped : catalogue.skipped()) {
       if (skipped.reason == SkipReason::Unreadable || skipped.reason == SkipReason::TooLarge)
-        fault(skipped.path + ": " + skipReasonInEnglish(skipped.reason));
+        fault(of(skipped.path, words(skipReasonText(skipped.reason))));
     }
     for (const std::size_t index : statistics.games()) {
       const ListedGame& game = catalogue.games()[index];
       if (!game.outOfRange.empty())
-        fault(game.path + ": " + kOutOfRange + game.outOfRange);
+        fault(of(game.path, words(kOutOfRange, game.outOfRange)));
       if (game.copyOf && !m_options.season.countsCopiesOnce)
-        complain(game.path + ": the same game as " + catalogue.games()[*game.copyOf].path +
-                 ", and counted again; --once counts it once");
+        complain(of(game.path, words(kSameGame, catalogue.games()[*game.copyOf].path)));
       if (game.wrongCount > 0)
-        complain(game.path + ": cannot be right, and counted all the same: " +
-                 catalogue.whyWrong(game, m_texts) + "; --leave-out-wrong leaves it out");
+        complain(of(game.path, words(kCountedAllTheSame, catalogue.whyWrong(game, m_texts))));
     }
   }
   void show(const std::string& file) {
     Scorecard card(m_store, file);
     if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None) {
-      fault(file + ": " + explained(problem));
+      fault(of(file, explained(problem)));
       return;
     }
     if (m_options.command == CliCommand::Verify) {
@@ -130,7 +150,7 @@ class Program {
       return;
     }
     if (card.outOfRange())
-      fault(file + ": " + tooMany(card));
+      fault(of(file, tooMany(card)));
     m_output.write(report(card));
   }
   std::string report(const Scorecard& card) const {
@@ -154,9 +174,9 @@ class Program {
     else
       m_output.write(verifyText(card, m_texts));
   }
-  static std::string tooMany(const Scorecard& card) {
+  std::string tooMany(const Scorecard& card) const {
     const CountOutOfRange& count = *card.outOfRange();
-    return kOutOfRange + card.game().details.abbreviation[count.team] + ' ' + count.what;
+    return words(kOutOfRange, card.game().details.abbreviation[count.team] + ' ' + count.what);
   }
 
   const Options& m_options;
@@ -175,15 +195,19 @@ class Program {
 int main(int argc, char* argv[]) {
   using namespace hooptab;
   std::signal(SIGXFSZ, SIG_IGN); // a file that grows over its limit is a write that fails
+  const std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
+  const Language language = languageOf(words, environmentLanguage());
+  Texts texts;
+  texts.setLanguage(language);
   try {
-    const Options options = parseOptions({argv + std::min(argc, 1), argv + argc}, environmentLanguage());
-    if (!options.error.empty()) {
-      complain(options.error + "; see hooptab-cli --help");
+    const Options options = parseOptions(words, language);
+    if (options.wrong) {
+      complain(withPlaceholders(texts.text(kSee), inWords(options.wrong, texts), "hooptab-cli --help"));
       return kWrongUse;
     }
     return Program(options).run();
   } catch (const std::exception& error) {
-    complain(std::string("failed: ") + error.what());
+    complain(texts.withPlaceholder(kFailed, error.what()));
     return kFound;
   }
 }

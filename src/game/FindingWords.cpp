@@ -1,7 +1,7 @@
 #include "game/FindingWords.h"
 
 #include "storage/EventWords.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 #include "storage/PlayerLookup.h"
 
 namespace hooptab {
@@ -29,9 +29,8 @@ std::string wordsOf(const Finding& finding, const Game& game, const Texts& texts
   // A team or player comes first where there is one; what else is said of it then follows.
   const bool hasWho = finding.team >= 0;
   const std::string& found = hasWho && finding.found.empty() ? finding.subject : finding.found;
-  std::string text = Module1::withPlaceholder(texts.text(static_cast<int>(finding.kind)), found, "YYY");
-  text = Module1::withPlaceholder(text, finding.wanted, "ZZZ");
-  return Module1::withPlaceholder(text, hasWho ? whoOf(finding, game, texts) : finding.subject);
+  return withPlaceholders(texts.text(static_cast<int>(finding.kind)),
+                          hasWho ? whoOf(finding, game, texts) : finding.subject, found, finding.wanted);
 }
 
 std::string countsText(const FindingSummary& summary, const Texts& texts) {

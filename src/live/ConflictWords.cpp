@@ -1,7 +1,7 @@
 #include "live/ConflictWords.h"
 
 #include "storage/EventWords.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 namespace hooptab {
 
@@ -31,10 +31,9 @@ std::string wordsOf(const CourtConflict& conflict, const Game& game, const Texts
     if (player != nullptr && (conflict.players >> entry & 1U) != 0)
       players += (players.empty() ? "" : ", ") + player->jersey;
   }
-  std::string text = Module1::withPlaceholder(texts.text(conflict.isTwice ? kTwice : kSix),
-                                              words.team(static_cast<int>(conflict.team)), "YYY");
-  text = Module1::withPlaceholder(text, players, "ZZZ");
-  return Module1::withPlaceholder(text, placeWords(conflict.event, game, texts));
+  return withPlaceholders(texts.text(conflict.isTwice ? kTwice : kSix),
+                          placeWords(conflict.event, game, texts),
+                          words.team(static_cast<int>(conflict.team)), players);
 }
 
 } // namespace hooptab

@@ -3,7 +3,7 @@
 #include "game/ShotFollowUp.h"
 #include "live/JerseyMatch.h"
 #include "storage/EventWords.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <algorithm>
 #include <array>
@@ -321,8 +321,7 @@ void EventCorrection::takeBackDigit() {
 std::string EventCorrection::reason(const Texts& texts) const {
   if (!m_refusal)
     return {};
-  return Module1::withPlaceholder(texts.withPlaceholder(m_refusal->text, m_refusal->jersey), m_refusal->team,
-                                  "YYY");
+  return withPlaceholders(texts.text(m_refusal->text), m_refusal->jersey, m_refusal->team);
 }
 
 } // namespace hooptab

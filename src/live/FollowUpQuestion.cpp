@@ -1,6 +1,6 @@
 #include "live/FollowUpQuestion.h"
 
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <algorithm>
 
@@ -179,7 +179,7 @@ void FollowUpQuestion::refuse() {
 std::string FollowUpQuestion::reason(const Texts& texts) const {
   if (!m_refusal)
     return {};
-  return Module1::withPlaceholder(texts.withPlaceholder(m_refusal->text, m_typed), m_refusal->team, "YYY");
+  return withPlaceholders(texts.text(m_refusal->text), m_typed, m_refusal->team);
 }
 
 } // namespace hooptab

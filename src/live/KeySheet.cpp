@@ -6,7 +6,7 @@
 #include "live/KeyCodes.h"
 #include "live/KeypadPicture.h"
 #include "live/QtKeys.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <QGridLayout>
 #include <QMouseEvent>
@@ -109,12 +109,10 @@ void KeySheet::showSetup(const KeypadSetup& setup, bool keypadIsActive) {
     rows << row(letter(what), toQt(wordsOfAction(static_cast<KeypadAction>(what), m_texts)));
   rows << row(letter(LetterAssignment::kMiss), caption(m_texts, kMiss));
   const auto ofShots = [this](const QString& words) {
-    const std::string named = m_texts.withPlaceholder(kSubjectAndWords, m_texts.text(kShots));
-    return toQt(Module1::withPlaceholder(named, fromQt(words), "YYY"));
+    return toQt(withPlaceholders(m_texts.text(kSubjectAndWords), m_texts.text(kShots), fromQt(words)));
   };
   const auto exchange = [this](const QString& out, const QString& in) {
-    const std::string words = m_texts.withPlaceholder(kExchange, fromQt(out));
-    return toQt(Module1::withPlaceholder(words, fromQt(in), "YYY"));
+    return toQt(withPlaceholders(m_texts.text(kExchange), fromQt(out), fromQt(in)));
   };
   const auto escaped = [](const QStringList& lines) {
     return lines.join(QLatin1Char('\n')).toHtmlEscaped().replace(u'\n', QLatin1String("<br>"));

@@ -1,7 +1,7 @@
 #include "live/KeypadInput.h"
 
 #include "live/KeyCodes.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <algorithm>
 #include <bit>
@@ -134,9 +134,7 @@ bool carryOut(LiveGame& game, const KeypadOrder& order) {
 }
 
 std::string KeypadReason::words(const Texts& texts) const {
-  std::string words = texts.withPlaceholder(text, parts[0]);
-  words = Module1::withPlaceholder(words, parts[1], "YYY");
-  return Module1::withPlaceholder(words, parts[2], "ZZZ");
+  return withPlaceholders(texts.text(text), parts[0], parts[1], parts[2]);
 }
 
 void KeypadInput::setSetup(const KeypadSetup& setup) {
@@ -402,9 +400,8 @@ std::string KeypadInput::words(const KeypadOrder& order, const Game& game, const
         kExchanged,
         {playerWords(game, order.team, order.leaving), numberAndName(game, order.team, order.player)}}
         .words(texts);
-  return Module1::withPlaceholder(
-      Module1::withPlaceholder(texts.text(kSubjectAndWords), actionWords(order, texts), "YYY"),
-      playerWords(game, order.team, order.player));
+  return withPlaceholders(texts.text(kSubjectAndWords), playerWords(game, order.team, order.player),
+                          actionWords(order, texts));
 }
 
 } // namespace hooptab

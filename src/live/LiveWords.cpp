@@ -2,7 +2,7 @@
 
 #include "game/TeamFouls.h"
 #include "storage/EventWords.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <array>
 #include <map>
@@ -98,8 +98,8 @@ std::string ordinalText(int number, const Texts& texts) {
 std::string foulText(const FoulNumber& foul, const Texts& texts) {
   if (foul.ofPlayer == 0)
     return {};
-  return Module1::withPlaceholder(texts.withPlaceholder(kOfTeam, ordinalText(foul.ofPlayer, texts)),
-                                  std::to_string(foul.ofTeam), "YYY");
+  return withPlaceholders(texts.text(kOfTeam), ordinalText(foul.ofPlayer, texts),
+                          std::to_string(foul.ofTeam));
 }
 
 } // namespace hooptab

@@ -2,6 +2,7 @@
 
 #include "storage/ChoiceTexts.h"
 #include "storage/EventWords.h"
+#include "storage/Placeholders.h"
 #include "storage/codepage.h"
 #include "teams/TeamRecord.h"
 
@@ -56,12 +57,11 @@ std::string NewPlayer::words(const Game& game, const Texts& texts) const {
   switch (problem) {
   case Problem::None: {
     const std::string shown(Module1::trimmed(player.jersey + ' ' + player.name));
-    return Module1::withPlaceholder(texts.withPlaceholder(kAdded, abbreviation), shown, "YYY");
+    return withPlaceholders(texts.text(kAdded), abbreviation, shown);
   }
   case Problem::CannotRecord: return std::string(texts.text(kCannotRecord));
   case Problem::NoNumber: return std::string(texts.text(kInvalidNumber));
-  case Problem::NumberTaken:
-    return Module1::withPlaceholder(texts.withPlaceholder(kNumberTaken, jersey), wearer, "YYY");
+  case Problem::NumberTaken: return withPlaceholders(texts.text(kNumberTaken), jersey, wearer);
   case Problem::RosterFull: return texts.withPlaceholder(kRosterFull, abbreviation);
   case Problem::NameTooLong: break;
   }

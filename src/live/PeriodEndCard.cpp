@@ -6,7 +6,7 @@
 #include "appearance/relabel.h"
 #include "live/LiveGame.h"
 #include "storage/EventWords.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <QBoxLayout>
 #include <QHideEvent>
@@ -222,10 +222,9 @@ void PeriodEndCard::relabelCard() {
   }
   compare();
   const bool isAny = m_findings + m_doubtful > 0;
-  m_toCheck->setText(
-      isAny ? toQt(Module1::withPlaceholder(m_texts.withPlaceholder(kToCheck, std::to_string(m_findings)),
-                                            std::to_string(m_doubtful), "YYY"))
-            : caption(m_texts, kNothingToCheck));
+  m_toCheck->setText(isAny ? toQt(withPlaceholders(m_texts.text(kToCheck), std::to_string(m_findings),
+                                                   std::to_string(m_doubtful)))
+                           : caption(m_texts, kNothingToCheck));
   m_check->setVisible(isAny);
   for (QPushButton* button : {m_switch, m_substitute})
     button->setVisible(m_game->phase() != LiveGame::Phase::Decided);
@@ -265,9 +264,8 @@ void PeriodEndCard::compare() {
       continue;
     isSame = false;
     m_differs = team;
-    words = toQt(Module1::withPlaceholder(m_texts.withPlaceholder(more > 0 ? kMoreOnBoard : kFewerOnBoard,
-                                                                  m_game->game().details.abbreviation[team]),
-                                          std::to_string(std::abs(more)), "YYY"));
+    words = toQt(withPlaceholders(m_texts.text(more > 0 ? kMoreOnBoard : kFewerOnBoard),
+                                  m_game->game().details.abbreviation[team], std::to_string(std::abs(more))));
   }
   if (m_differs < 0)
     words = caption(m_texts, isSame ? kSameScore : kScore);

@@ -1,7 +1,7 @@
 #include "live/StartingFive.h"
 
 #include "storage/EventWords.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <algorithm>
 #include <bit>
@@ -38,8 +38,8 @@ std::string missingWords(const LiveGame& game, const Texts& texts) {
       continue;
     const int text = onCourtOf(game, team) == 0 ? kNobodyOnCourt : kMissing;
     words += words.empty() ? "" : "; ";
-    words += Module1::withPlaceholder(texts.withPlaceholder(text, EventWords(game.game(), texts).team(team)),
-                                      std::to_string(missing), "YYY");
+    words += withPlaceholders(texts.text(text), EventWords(game.game(), texts).team(team),
+                              std::to_string(missing));
   }
   return words;
 }

@@ -1,7 +1,7 @@
 #include "live/SubstitutionLine.h"
 
 #include "live/JerseyMatch.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <algorithm>
 
@@ -127,8 +127,7 @@ std::string SubstitutionLine::words(const Texts& texts) const {
     const bool stays = m_choice.isChosen(m_taken->team, m_taken->entry);
     const bool wasThere = m_choice.wasOnCourt(m_taken->team, m_taken->entry);
     const int move = stays == wasThere ? kAsBefore : stays ? kComesIn : kLeaves;
-    return Module1::withPlaceholder(
-        Module1::withPlaceholder(texts.text(kSubjectAndWords), texts.text(move), "YYY"), nameOf(*m_taken));
+    return withPlaceholders(texts.text(kSubjectAndWords), nameOf(*m_taken), texts.text(move));
   }
   std::string names;
   for (const Player& player : fitting())

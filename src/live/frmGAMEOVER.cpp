@@ -7,6 +7,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "storage/GameDetails.h"
+#include "storage/Placeholders.h"
 #include "storage/cinifile.h"
 #include "storage/codepage.h"
 
@@ -110,7 +111,7 @@ void frmGAMEOVER::limitNotes() {
 void frmGAMEOVER::showLength() {
   const std::string bytes = std::to_string(codepage::fromUtf8(notes()).size());
   const std::string most = std::to_string(cinifile::kLongestValue);
-  m_length->setText(toQt(m_texts.withPlaceholder(kOf, bytes)).replace(QStringLiteral("YYY"), toQt(most)));
+  m_length->setText(toQt(withPlaceholders(m_texts.text(kOf), bytes, most)));
 }
 
 void frmGAMEOVER::choose(Choice choice) {

@@ -27,6 +27,7 @@
 #include "live/frmGAMEOVER.h"
 #include "live/frmOVERTIME.h"
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 #include "storage/Settings.h"
 
 #include <QBoxLayout>
@@ -336,10 +337,10 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   relabelWindow();
   emit commandStateChanged();
   if (const auto& count = m_game.log().outOfRange()) { // the game goes on all the same
-    const std::string words = m_texts.withPlaceholder(kCountOutOfRange, fromQt(QFileInfo(path).fileName()));
-    m_dialogs.warn(this, toQt(m_texts.text(kWarningTitle)),
-                   toQt(Module1::withPlaceholder(
-                       words, m_game.game().details.abbreviation[count->team] + " " + count->what, "YYY")));
+    m_dialogs.warn(
+        this, toQt(m_texts.text(kWarningTitle)),
+        toQt(withPlaceholders(m_texts.text(kCountOutOfRange), fromQt(QFileInfo(path).fileName()),
+                              m_game.game().details.abbreviation[count->team] + " " + count->what)));
   }
   QTimer::singleShot(0, this, &frmLIVE::askFives); // when the window stands
   return Opening::Opened;
@@ -414,8 +415,7 @@ QString frmLIVE::pendingWords() const {
       counts += (counts.empty() ? "" : ", ") + m_game.game().details.abbreviation[team] + " " +
                 std::to_string(std::popcount(now[team]));
   }
-  return toQt(Module1::withPlaceholder(m_texts.withPlaceholder(kPending, counts),
-                                       Module1::clockText(pending->clockSeconds), "YYY"));
+  return toQt(withPlaceholders(m_texts.text(kPending), counts, Module1::clockText(pending->clockSeconds)));
 }
 
 void frmLIVE::showDisk() {
@@ -427,12 +427,9 @@ void frmLIVE::showDisk() {
     m_retryOfWrites.stop();
     return m_notices->showNotOnDisk({});
   }
-  std::string words = m_texts.withPlaceholder(kNotOnDisk, waiting);
-  if (disk.isLost())
-    words = m_texts.withPlaceholder(kTakenOver, fromQt(m_hold->ownerWords()));
-  else if (!disk.rescuedAs().empty())
-    words = m_texts.withPlaceholder(kNotOnDiskButRescued, waiting);
-  words = Module1::withPlaceholder(words, disk.rescuedAs(), "YYY");
+  const int text = disk.isLost() ? kTakenOver : disk.rescuedAs().empty() ? kNotOnDisk : kNotOnDiskButRescued;
+  const std::string words = withPlaceholders(
+      m_texts.text(text), disk.isLost() ? fromQt(m_hold->ownerWords()) : waiting, disk.rescuedAs());
   m_notices->showNotOnDisk(toQt(words));
   if (!m_retryOfWrites.isActive())
     m_retryOfWrites.start();
@@ -703,10 +700,10 @@ bool frmLIVE::mayClose() {
     return true;
   showDisk();
   const std::string& rescued = m_game.disk().rescuedAs();
-  const std::string question = m_texts.withPlaceholder(rescued.empty() ? kLeaveUnwritten : kLeaveRescued,
-                                                       std::to_string(m_game.log().waiting()));
-  return m_dialogs.ask(this, toQt(m_texts.text(kErrorTitle)),
-                       toQt(Module1::withPlaceholder(question, rescued, "YYY")));
+  const std::string question =
+      withPlaceholders(m_texts.text(rescued.empty() ? kLeaveUnwritten : kLeaveRescued),
+                       std::to_string(m_game.log().waiting()), rescued);
+  return m_dialogs.ask(this, toQt(m_texts.text(kErrorTitle)), toQt(question));
 }
 
 } // namespace hooptab

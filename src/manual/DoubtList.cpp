@@ -4,7 +4,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <QBoxLayout>
 #include <QKeyEvent>
@@ -95,10 +95,9 @@ void DoubtList::showDoubts() {
     m_list->item(static_cast<int>(row))->setText(state + u"  " + m_words(cell));
   }
   const int open = m_sheet.openCells();
-  m_count->setText(
-      open == 0 ? caption(m_texts, kNoDoubtLeft)
-                : toQt(Module1::withPlaceholder(m_texts.withPlaceholder(kDoubtsLeft, std::to_string(open)),
-                                                std::to_string(m_cells.size()), "YYY")));
+  m_count->setText(open == 0 ? caption(m_texts, kNoDoubtLeft)
+                             : toQt(withPlaceholders(m_texts.text(kDoubtsLeft), std::to_string(open),
+                                                     std::to_string(m_cells.size()))));
   QPalette colours;
   if (open > 0)
     colours.setColor(QPalette::WindowText, Theme::missed());

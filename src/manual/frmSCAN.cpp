@@ -9,7 +9,7 @@
 #include "manual/DoubtList.h"
 #include "manual/ScanView.h"
 #include "manual/ScannedTable.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -499,11 +499,10 @@ void frmSCAN::import(ScannedTotals::Way way) {
   const ScannedTotals::Outcome outcome = m_scanned.outcome(way, m_game.totals);
   const QString title = toQt(m_texts.text(kImportValues));
   if (outcome.tooMany != ScannedTotals::kNobody) {
-    const std::string text =
-        m_texts.withPlaceholder(kTooMany, m_scanned.roster().player(outcome.tooMany)->name);
     return m_dialogs.warn(
         this, title,
-        toQt(Module1::withPlaceholder(text, std::to_string(ManualTotals::kLargestCount), "YYY")));
+        toQt(withPlaceholders(m_texts.text(kTooMany), m_scanned.roster().player(outcome.tooMany)->name,
+                              std::to_string(ManualTotals::kLargestCount))));
   }
   const QString questions = concerns(outcome);
   if (!questions.isEmpty() &&
@@ -537,9 +536,8 @@ void frmSCAN::showSheet() {
 QString frmSCAN::source() const {
   QString words = QFileInfo(m_files.first()).fileName();
   if (m_pagesInFile > 1)
-    words +=
-        u"   " + toQt(Module1::withPlaceholder(m_texts.withPlaceholder(kPageOf, std::to_string(m_page + 1)),
-                                               std::to_string(m_pagesInFile), "YYY"));
+    words += u"   " + toQt(withPlaceholders(m_texts.text(kPageOf), std::to_string(m_page + 1),
+                                            std::to_string(m_pagesInFile)));
   return words + u"   " +
          toQt(m_texts.withPlaceholder(kSheet, std::to_string(m_scanned.sheet.identifier().sheet + 1)));
 }

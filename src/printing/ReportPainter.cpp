@@ -3,7 +3,7 @@
 #include "appearance/CourtPicture.h"
 #include "appearance/relabel.h"
 #include "printing/FormPainter.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <algorithm>
 #include <cmath>
@@ -147,9 +147,7 @@ void paintHeadAndFoot(QPainter& painter, const ReportLayout& layout, std::size_t
   draw(PageFont::Cell, QStringLiteral("HOOPTAB Basketball"), body.left(), footTop);
   const std::string pages =
       layout.isDone() ? std::to_string(layout.pages().size()) : std::string("…"); // more are to come
-  drawAtRight(PageFont::Cell,
-              toQt(Module1::withPlaceholder(
-                  Module1::withPlaceholder(report.pageWords, std::to_string(page + 1)), pages, "YYY")),
+  drawAtRight(PageFont::Cell, toQt(withPlaceholders(report.pageWords, std::to_string(page + 1), pages)),
               footTop);
   painter.setPen(QPen(Qt::black, kThinLine));
   painter.drawLine(QPointF(body.left(), headTop + line + kHeadGap / 5),

@@ -1,7 +1,7 @@
 #include "printing/ReportWords.h"
 
 #include "printing/PrintTexts.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <utility>
 
@@ -15,7 +15,7 @@ constexpr std::string_view kNoLabel = "---"; // of a statistic of the user's own
 
 std::string labelled(std::string_view label, std::string_view value, const Texts& texts) {
   const std::string_view bare = label.substr(0, label.find_last_not_of('.') + 1);
-  return Module1::withPlaceholder(Module1::withPlaceholder(texts.text(kLabelAndValue), bare), value, "YYY");
+  return withPlaceholders(texts.text(kLabelAndValue), bare, value);
 }
 
 std::string labelled(int labelText, std::string_view value, const Texts& texts) {

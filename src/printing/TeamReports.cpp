@@ -4,6 +4,7 @@
 #include "printing/ReportWords.h"
 #include "storage/ChoiceTexts.h"
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <algorithm>
 #include <utility>
@@ -61,8 +62,8 @@ FormSheet sheetOf(FormIdentifier identifier, int sheets, const std::string& titl
   sheet.hint = text(texts, kFormHint);
   sheet.made = text(texts, kMade);
   sheet.missed = text(texts, kMissed);
-  sheet.sheet = Module1::withPlaceholder(
-      texts.withPlaceholder(kFormSheet, std::to_string(identifier.sheet + 1)), std::to_string(sheets), "YYY");
+  sheet.sheet =
+      withPlaceholders(texts.text(kFormSheet), std::to_string(identifier.sheet + 1), std::to_string(sheets));
   return sheet;
 }
 

@@ -7,6 +7,8 @@ namespace hooptab {
 
 namespace {
 
+constexpr int kSelected = 1014;
+
 void add(BoxNumbers& sum, const BoxNumbers& numbers) {
   using Limits = std::numeric_limits<std::int16_t>;
   for (std::size_t i = 0; i < kCounterCount; ++i) {
@@ -98,11 +100,15 @@ void ScorecardView::fill() {
   if (m_scope == Scope::All || m_rows.empty() || checkMark(m_rows.back()) == CheckMark::All)
     return;
   BoxNumbers sum;
+  int selected = 0;
   for (const BoxRow& row : m_rows) {
-    if (row.kind != BoxRowKind::Total && checkMark(row) == CheckMark::All)
+    if (row.kind != BoxRowKind::Total && checkMark(row) == CheckMark::All) {
       add(sum, row.numbers);
+      ++selected;
+    }
   }
   m_rows.back().numbers = sum;
+  m_rows.back().name = std::string(m_texts.text(kSelected)) + " (" + std::to_string(selected) + ')';
 }
 
 ShotSummary shotSummary(const std::vector<Shot>& shots) {

@@ -46,8 +46,8 @@ ShotChartPanel::ShotChartPanel(const Settings& settings, const Texts& texts, QWi
   setToolTipNumber(*m_checked, 1333);
   setTextNumber(*m_all, 1015);
   setToolTipNumber(*m_all, 1334);
-  setAccessibleNumber(*m_byShot, kByShot);
-  setAccessibleNumber(*m_byZone, kByZone);
+  setTextNumber(*m_byShot, kByShot);
+  setTextNumber(*m_byZone, kByZone);
   setToolTipNumber(*m_byShot, 1410);
   setToolTipNumber(*m_byZone, 1410);
   auto* scope = new QButtonGroup(this);
@@ -107,6 +107,7 @@ QToolButton* ShotChartPanel::addChoice(const char* name, bool isChecked) {
   button->setObjectName(QLatin1String(name));
   button->setCheckable(true);
   button->setChecked(isChecked);
+  button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   return button;
 }
 

@@ -15,7 +15,7 @@
 #include "scorecard/ScoreboardStrip.h"
 #include "scorecard/ScorecardTexts.h"
 #include "scorecard/ShotChartPanel.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 #include "storage/Settings.h"
 
 #include <QBoxLayout>
@@ -345,9 +345,8 @@ void frmVIEW::showNotice() {
         m_problem == GameFileProblem::Absent ? kFileIsGone : kFileCannotBeRead, file));
   } else if (m_card != nullptr && m_card->outOfRange()) {
     const CountOutOfRange& count = *m_card->outOfRange();
-    notice = toQt(Module1::withPlaceholder(m_texts.withPlaceholder(kCountOutOfRange, file),
-                                           m_card->game().details.abbreviation[count.team] + ' ' + count.what,
-                                           "YYY"));
+    notice = toQt(withPlaceholders(m_texts.text(kCountOutOfRange), file,
+                                   m_card->game().details.abbreviation[count.team] + ' ' + count.what));
   }
   m_notice->setText(notice);
   m_notice->setVisible(!notice.isEmpty());

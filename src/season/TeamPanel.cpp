@@ -8,6 +8,7 @@
 #include "season/SeriesView.h"
 #include "season/ZoneChart.h"
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -22,9 +23,8 @@ constexpr int kShownTeam = 1719;
 constexpr int kTeamWidth = 200;
 
 QString balanceText(const SeasonTeamRow& team, const Texts& texts) {
-  std::string words = texts.withPlaceholder(kTeamBalance, std::to_string(team.wins));
-  words = Module1::withPlaceholder(words, std::to_string(team.losses), "YYY");
-  words = Module1::withPlaceholder(words, std::to_string(team.ties), "ZZZ");
+  const std::string words = withPlaceholders(texts.text(kTeamBalance), std::to_string(team.wins),
+                                             std::to_string(team.losses), std::to_string(team.ties));
   return toQt(words) + QStringLiteral("  ·  ") + toQt(Module1::quotientText(team.pointsFor, team.games, 1)) +
          QStringLiteral(" – ") + toQt(Module1::quotientText(team.pointsAgainst, team.games, 1));
 }

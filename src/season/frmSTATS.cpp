@@ -14,7 +14,7 @@
 #include "season/SeasonTables.h"
 #include "season/SeasonTexts.h"
 #include "season/TeamPanel.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <QBoxLayout>
 #include <QDataStream>
@@ -289,8 +289,8 @@ void frmSTATS::showList() {
   m_games->showRows(gameListRows(m_desk.catalogue(), m_desk.listed(), m_desk.chosenTeam(), m_texts));
   const GameCatalogue& catalogue = *m_desk.catalogue();
   const std::string listed =
-      Module1::withPlaceholder(m_texts.withPlaceholder(kListedGames, std::to_string(m_desk.listed().size())),
-                               std::to_string(catalogue.games().size()), "YYY");
+      withPlaceholders(m_texts.text(kListedGames), std::to_string(m_desk.listed().size()),
+                       std::to_string(catalogue.games().size()));
   const std::size_t skipped = catalogue.skipped().size();
   m_folder->showCounts(
       toQt(listed), skipped == 0   ? QString()

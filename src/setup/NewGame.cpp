@@ -1,6 +1,7 @@
 #include "setup/NewGame.h"
 
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 #include "storage/codepage.h"
 
 #include <algorithm>
@@ -197,7 +198,7 @@ std::string NewGame::addPlayer(int side, std::string_view number, std::string_vi
     return std::string(m_texts.text(kInvalidNumber));
   if (const Player* wearer = wearerOf(side, jersey)) {
     const std::string shown(Module1::trimmed(wearer->number + ' ' + wearer->name));
-    return Module1::withPlaceholder(m_texts.withPlaceholder(kNumberTaken, jersey), shown, "YYY");
+    return withPlaceholders(m_texts.text(kNumberTaken), jersey, shown);
   }
   Player player{
       .number = jersey, .name = std::string(Module1::trimmed(name)), .isChecked = true, .isAdded = true};
@@ -288,10 +289,9 @@ std::string NewGame::overwriteQuestion(const std::string& path) const {
     return {};
   if (problem != GameFileProblem::None)
     return m_texts.withPlaceholder(kOtherFileIsLost, path);
-  const std::string question =
-      m_texts.withPlaceholder(lost.isFinished ? kFinishedGameIsLost : kUnfinishedGameIsLost, path);
   const std::string game = lost.abbreviation[0] + " - " + lost.abbreviation[1] + " (" + lost.date + ')';
-  return Module1::withPlaceholder(question, game, "YYY");
+  return withPlaceholders(m_texts.text(lost.isFinished ? kFinishedGameIsLost : kUnfinishedGameIsLost), path,
+                          game);
 }
 
 GameDetails NewGame::details() const {

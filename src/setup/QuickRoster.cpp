@@ -1,5 +1,6 @@
 #include "setup/QuickRoster.h"
 
+#include "storage/Placeholders.h"
 #include "storage/Roster.h"
 #include "teams/TeamRecord.h"
 
@@ -43,8 +44,7 @@ QuickRoster quickRoster(std::string_view typed) {
 }
 
 std::string QuickRoster::words(const Texts& texts) const {
-  return problem == 0 ? std::string()
-                      : Module1::withPlaceholder(texts.withPlaceholder(problem, part), other, "YYY");
+  return problem == 0 ? std::string() : withPlaceholders(texts.text(problem), part, other);
 }
 
 } // namespace hooptab

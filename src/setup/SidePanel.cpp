@@ -7,6 +7,7 @@
 #include "setup/KeepsEnter.h"
 #include "setup/SideBand.h"
 #include "setup/SidePlayersTable.h"
+#include "storage/Placeholders.h"
 #include "teams/TeamColours.h"
 #include "teams/TeamList.h"
 
@@ -342,9 +343,9 @@ void SidePanel::showCount() {
   const NewGame::Side& side = m_game.sides[m_side];
   const int checked = side.checkedPlayers();
   const bool isTooMany = checked > NewGame::kMostPlayers;
-  const QString count = caption(m_texts, isTooMany ? kTooMany : kCount)
-                            .replace(QStringLiteral("XXX"), QString::number(checked))
-                            .replace(QStringLiteral("YYY"), QString::number(NewGame::kMostPlayers));
+  const QString count =
+      toQt(withPlaceholders(m_texts.caption(isTooMany ? kTooMany : kCount), std::to_string(checked),
+                            std::to_string(NewGame::kMostPlayers)));
   m_count->setText(isTooMany ? QChar(kWarningSign) + QStringLiteral(" ") + count : count);
   m_count->setForegroundRole(isTooMany ? QPalette::BrightText : QPalette::WindowText);
   QFont font = this->font();

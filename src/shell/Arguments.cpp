@@ -9,13 +9,20 @@ namespace hooptab {
 
 namespace {
 
+constexpr int kNoOption = 2843;
+constexpr int kNeedsValue = 2844;
+constexpr int kCannotBe = 2845;
+constexpr int kIsMissing = 2846;
+constexpr int kNeeds = 2847;
+constexpr int kOneGame = 2848;
+
 std::string absolutePath(const std::string& path, const std::string& currentFolder) {
   return (std::filesystem::path(currentFolder) / path).lexically_normal().string();
 }
 
 // What belongs to a report and takes a value.
-constexpr std::string_view kReportOptions[] = {"--report", "--format", "--output", "--team", "--player",
-                                               "--line",   "--title",  "--lang",   "--paper"};
+constexpr std::string_view kReportOptions[] = {"--report", "--format", "--output", "--team",
+                                               "--player", "--line",   "--title",  "--paper"};
 
 class Parser {
  public:
@@ -24,7 +31,7 @@ class Parser {
 
   Arguments parse() {
     bool onlyGamesFollow = false;
-    for (; m_word != m_end && m_result.error.empty(); ++m_word) {
+    for (; m_word != m_end && !m_result.wrong; ++m_word) {
       if (onlyGamesFollow || !m_word->starts_with('-') || *m_word == "-") {
         if (!m_word->empty())
           m_result.games.push_back(absolutePath(*m_word, m_currentFolder));
@@ -62,8 +69,8 @@ class Parser {
     if (option == "-o")
       option = "--output";
     const bool isOfReport = std::ranges::find(kReportOptions, option) != std::end(kReportOptions);
-    if (option != "--folder" && !isOfReport) {
-      m_result.error = "unknown option " + *m_word;
+    if (option != "--folder" && option != "--lang" && !isOfReport) {
+      m_result.wrong = {kNoOption, *m_word};
       return;
     }
     std::string value;
@@ -72,12 +79,18 @@ class Parser {
     else if (std::next(m_word) != m_end)
       value = *++m_word;
     if (value.empty())
-      m_result.error =
-          option == "--folder" ? "--folder needs the name of a folder" : option + " needs a value";
+      m_result.wrong = {kNeedsValue, option};
     else if (isOfReport)
       takeOfReport(option, value);
+    else if (option == "--lang")
+      takeLanguage(value);
     else
       m_result.folder = absolutePath(value, m_currentFolder);
+  }
+  void takeLanguage(const std::string& value) {
+    m_result.language = languageNamed(value);
+    if (!m_result.language)
+      m_result.wrong = {kCannotBe, "--lang", value};
   }
   void takeOfReport(const std::string& option, const std::string& value) {
     if (!m_result.report)
@@ -95,12 +108,10 @@ class Parser {
       report.player = value;
     else if (option == "--title")
       report.title = value;
-    else if (option == "--lang" && (value == "en" || value == "fr"))
-      report.language = value == "fr" ? Language::French : Language::English;
     else if (option == "--paper" && (value == "a4" || value == "letter"))
       report.isLetter = value == "letter";
     else
-      m_result.error = option + " cannot be " + value;
+      m_result.wrong = {kCannotBe, option, value};
   }
 
   std::vector<std::string>::const_iterator m_word;
@@ -112,12 +123,13 @@ class Parser {
 // Options of a report without the report, or a report without a place, are a mistake.
 void completeReport(Arguments& arguments) {
   ReportRequest& report = *arguments.report;
+  report.language = arguments.language;
   if (report.kind.empty())
-    arguments.error = "--report is missing";
+    arguments.wrong = {kIsMissing, "--report"};
   else if (report.output.empty())
-    arguments.error = "--report needs -o FILE";
+    arguments.wrong = {kNeeds, "--report", "-o"};
   else if (arguments.games.size() > 1)
-    arguments.error = "--report takes one game";
+    arguments.wrong = {kOneGame};
   else if (!arguments.games.empty())
     report.source = arguments.games.front();
   if (report.format.empty())
@@ -128,43 +140,9 @@ void completeReport(Arguments& arguments) {
 
 Arguments parseArguments(const std::vector<std::string>& words, const std::string& currentFolder) {
   Arguments result = Parser(words, currentFolder).parse();
-  if (result.error.empty() && result.report)
+  if (!result.wrong && result.report)
     completeReport(result);
   return result;
-}
-
-std::string usage() {
-  return "Usage: hooptab [--folder DIR] [--light|--dark] [GAME.GAM ...]\n"
-         "Records basketball games and shows their scorecards. The games named are opened.\n"
-         "\n"
-         "  --folder DIR   the program folder, which holds the settings (CONFIG.INI)\n"
-         "  --light        light colours\n"
-         "  --dark         dark colours\n"
-         "  --leave-when-ready\n"
-         "                 print \"ready\" as soon as the window stands, and leave; checks an installation\n"
-         "  --rehearsal    take the game clock's time from standard input, for tests; CONTRIBUTING.md tells "
-         "how\n"
-         "  --help         print this text\n"
-         "  --version      print the version\n"
-         "\n"
-         "Without a window: hooptab --report KIND [--format F] -o FILE [GAME.GAM|FOLDER]\n"
-         "  --report KIND  scorecard, scorecard-lines or play-by-play of a game, or of each game of a "
-         "folder;\n"
-         "                 roster or forms of a team (--team); blank-forms;\n"
-         "                 of a folder of games: team-summary, team-detail, player-shots, line-shots, "
-         "player-other,\n"
-         "                 line-other, leaders, leaders-per-game, leaders-per-minute, player, line\n"
-         "  --format F     pdf, xlsx, csv, html or png; without it, the ending of FILE decides\n"
-         "  -o FILE        the file to write; it is replaced as a whole; for each game of a folder, a folder "
-         "that\n"
-         "                 is there, with --format\n"
-         "  --team T       the team, ABBREVIATION-LEVEL\n"
-         "  --player N, --line N-N-N-N-N\n"
-         "                 whose performance is reported, or who is highlighted\n"
-         "  --title TEXT   in place of the report's own title\n"
-         "  --lang en|fr   the language; without it, that of the settings\n"
-         "  --paper a4|letter\n"
-         "                 the paper, A4 without it\n";
 }
 
 } // namespace hooptab

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "appearance/ColourScheme.h"
-#include "storage/Texts.h"
+#include "storage/CommandLine.h"
 
 #include <optional>
 #include <string>
@@ -27,21 +27,19 @@ struct ReportRequest {
 struct Arguments {
   std::optional<std::string> folder; // absolute
   std::optional<ColourScheme> colourScheme;
+  std::optional<Language> language;
   bool asksForHelp = false;
   bool asksForVersion = false;
   bool leavesWhenReady = false;
   bool isRehearsal = false;
   std::optional<ReportRequest> report;
   std::vector<std::string> games; // absolute
-  std::string error;              // one line; empty when the command line is understood
+  WrongUse wrong;
 };
 
 // `words` without the program's name; paths are taken relative to `currentFolder`. After "--" every word is a
 // game.
 [[nodiscard]] Arguments parseArguments(const std::vector<std::string>& words,
                                        const std::string& currentFolder);
-
-// What --help prints.
-[[nodiscard]] std::string usage();
 
 } // namespace hooptab

@@ -15,19 +15,20 @@ namespace hooptab {
 namespace {
 
 // The words beside the icons of the mode that is on: the whole captions, which menus and tool tips show,
-// would not fit side by side. Printing and closing come three times and are known by their icons alone.
+// would not fit side by side. Printing and closing, known by their icons, give up their words first.
 struct ShortCaption {
   std::string_view key;
   int text;
 };
-constexpr int kIconAlone = 0;
+constexpr int kPrint = 1224;
+constexpr int kClose = 1294;
 // clang-format off
 constexpr ShortCaption kShortCaptions[] = {
     {"VIEW", 1601}, {"VwREFRESH", 1602}, {"VwLIGNE", 1603}, {"VwMA", 1605},
-    {"vwPRINT", kIconAlone}, {"VwCLOSE", kIconAlone},
-    {"STATS", 1252}, {"stPRINT", kIconAlone}, {"stCLOSE", kIconAlone},
+    {"vwPRINT", kPrint}, {"VwCLOSE", kClose},
+    {"STATS", 1252}, {"stPRINT", kPrint}, {"stCLOSE", kClose},
     {"LIVE", 1526}, {"LIVEKpad", 1606}, {"LIVEMouse", 1607}, {"SWITCH", 1608}, {"GAMEOVER", 1613},
-    {"livePRINT", kIconAlone}, {"saveMANUAL", 1596}, {"CLOSELIVEMANUAL", kIconAlone}, {"SETTINGS", 1528},
+    {"livePRINT", kPrint}, {"saveMANUAL", 1596}, {"CLOSELIVEMANUAL", kClose}, {"SETTINGS", 1528},
 };
 // clang-format on
 constexpr int kViewByPlayer = 1033;
@@ -38,6 +39,14 @@ int shortCaption(const Command& command, const CommandState& state) {
     return kByPlayer;
   const auto* found = std::ranges::find(kShortCaptions, command.key, &ShortCaption::key);
   return found == std::end(kShortCaptions) ? state.text : found->text;
+}
+
+int textOfRefresh(const Modes& modes) {
+  const auto isInForce = [&](const Command& command) {
+    return command.parent == "VwREFRESH" && stateOf(command, modes).isChecked;
+  };
+  const auto found = std::ranges::find_if(commands(), isInForce);
+  return found == commands().end() ? 0 : found->text;
 }
 
 bool hasEntries(const Command& command) {
@@ -98,7 +107,6 @@ QAction* CommandBar::makeAction(const Command& command) {
       command.kind == CommandKind::Menu ? dropDown(command.key).menuAction() : new QAction(&m_window);
   action->setObjectName(key);
   action->setCheckable(command.kind == CommandKind::Toggle || command.kind == CommandKind::Choice);
-  action->setShortcut(QKeySequence::fromString(toQt(command.shortcut), QKeySequence::PortableText));
   if (command.kind != CommandKind::Menu)
     connect(action, &QAction::triggered, this, [this, key] { emit asked(key); });
   return action;
@@ -127,11 +135,16 @@ void CommandBar::show(const Modes& modes, const Texts& texts) {
     if (action.isCheckable())
       action.setChecked(state.isChecked);
     action.setIcon(icon(toQt(state.icon)));
+    action.setShortcut(QKeySequence::fromString(toQt(state.shortcut), QKeySequence::PortableText));
     setTextNumber(action, state.text);
     setToolTipNumber(action, state.text);
     relabel(action, texts);
-    const int shortText = shortCaption(command, state);
-    action.setIconText(caption(texts, shortText == kIconAlone ? state.text : shortText));
+    action.setIconText(caption(texts, shortCaption(command, state)));
+    if (command.key == "VwREFRESH" && modes.refreshSeconds > 0) { // that it goes on by itself
+      action.setIconText(action.iconText() + QStringLiteral(" (%1 s)").arg(modes.refreshSeconds));
+      action.setToolTip(action.toolTip() + QStringLiteral(": ") + caption(texts, textOfRefresh(modes)));
+      action.setStatusTip(action.toolTip());
+    }
   }
   placeButtons(modes);
 }
@@ -152,16 +165,34 @@ void CommandBar::placeButtons(const Modes& modes) {
     }
   }
   // The window in front has its commands in words; with none, those that lead to a first one have.
+  m_worded.clear();
+  m_wordedLast.clear();
   for (const Command& command : commands()) {
-    auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(&action(command.key)));
-    if (button == nullptr)
-      continue;
     const bool isOfFront = command.group == modes.inFront ||
                            (command.group == CommandGroup::LiveOrManual &&
                             (modes.inFront == CommandGroup::Live || modes.inFront == CommandGroup::Manual));
-    const bool hasWords = isOfFront && command.key != "SETTINGS" && command.key != "HELP" &&
-                          shortCaption(command, stateOf(command, modes)) != kIconAlone;
-    button->setToolButtonStyle(hasWords ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    if (!isOfFront || command.key == "SETTINGS" || command.key == "HELP")
+      continue;
+    const int words = shortCaption(command, stateOf(command, modes));
+    (words == kPrint || words == kClose ? m_wordedLast : m_worded) << toQt(command.key);
+  }
+  showWords();
+}
+
+void CommandBar::setRoom(int width) {
+  m_room = width;
+  showWords();
+}
+
+void CommandBar::showWords() {
+  for (const QStringList& worded : {m_worded + m_wordedLast, m_worded, QStringList()}) {
+    for (const QString& key : m_buttons) {
+      if (auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(m_actions.value(key))))
+        button->setToolButtonStyle(worded.contains(key) ? Qt::ToolButtonTextBesideIcon
+                                                        : Qt::ToolButtonIconOnly);
+    }
+    if (m_room <= 0 || m_toolBar->sizeHint().width() <= m_room)
+      return;
   }
 }
 

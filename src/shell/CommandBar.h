@@ -33,6 +33,9 @@ class CommandBar : public QObject {
 
   // Enables, checks and labels all commands for these modes.
   void show(const Modes& modes, const Texts& texts);
+  // How wide the tool bar may be: with less than it takes, icons stand without words, and what has no room
+  // then stands in a menu at its end.
+  void setRoom(int width);
 
  signals:
   void asked(const QString& key);
@@ -41,11 +44,15 @@ class CommandBar : public QObject {
   QAction* makeAction(const Command& command);
   void addButton(const Command& command);
   void placeButtons(const Modes& modes);
+  void showWords();
 
   QMainWindow& m_window;
   QToolBar* m_toolBar = nullptr;
   QHash<QString, QAction*> m_actions;
-  QStringList m_buttons; // keys of those in the tool bar
+  QStringList m_buttons;    // keys of those in the tool bar
+  QStringList m_worded;     // of those whose words stand beside them, where there is room
+  QStringList m_wordedLast; // the same, where there is more
+  int m_room = 0;
   QHash<QString, QMenu*> m_dropDowns;
 };
 

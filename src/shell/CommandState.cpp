@@ -50,7 +50,10 @@ bool isSo(std::string_view key, const Modes& modes) {
 } // namespace
 
 CommandState stateOf(const Command& command, const Modes& modes) {
-  CommandState state{isEnabled(command, modes), false, command.text, command.icon};
+  CommandState state{isEnabled(command, modes), false, command.text, command.icon, command.shortcut};
+  // The key saves what is in front; totals behind another window are saved by their button.
+  if (command.key == "saveMANUAL" && modes.inFront != CommandGroup::Manual)
+    state.shortcut = {};
   const bool so = isSo(command.key, modes);
   if (command.kind == CommandKind::Swap && so) {
     state.text = command.otherText;
@@ -58,6 +61,10 @@ CommandState stateOf(const Command& command, const Modes& modes) {
   } else if (command.kind == CommandKind::Toggle || command.kind == CommandKind::Choice) {
     state.isChecked = so;
   }
+  if (command.key == "VwREFRESH" && modes.refreshSeconds > 0)
+    state.icon = modes.refreshSeconds == 10   ? "vwrefsec10"
+                 : modes.refreshSeconds == 30 ? "vwrefsec30"
+                                              : "vwrefsec60";
   return state;
 }
 

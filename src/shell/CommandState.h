@@ -30,6 +30,7 @@ struct CommandState {
   bool isChecked = false;
   int text = 0;
   std::string_view icon;
+  std::string_view shortcut; // empty while its key means something else, or nothing
 };
 
 // Whether the tool bar has a button for it: what every mode has, and what belongs to a mode that is on.

@@ -4,6 +4,7 @@
 #include "appearance/relabel.h"
 #include "storage/Settings.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -13,7 +14,8 @@ namespace {
 
 constexpr int kGuideNotFound = 1538;
 constexpr int kGuideNotFoundTitle = 1539;
-constexpr int kCannotBeRead = 1519;
+constexpr int kErrorTitle = 1060;
+constexpr int kNoProgram = 2842;
 
 } // namespace
 
@@ -21,16 +23,25 @@ HelpPages::HelpPages(Dialogs& dialogs, const SharedFiles& files, const Settings&
     : m_dialogs(dialogs), m_files(files), m_settings(settings), m_texts(texts) {}
 
 void HelpPages::openGuide(QWidget* parent) {
-  const QString guide = toQt(m_settings.folder()) + QStringLiteral("/guide.pdf");
-  if (!QFileInfo(guide).isFile() || !m_dialogs.openDocument(QUrl::fromLocalFile(guide)))
-    m_dialogs.warn(parent, toQt(m_texts.text(kGuideNotFoundTitle)), toQt(m_texts.text(kGuideNotFound)));
+  QString guide = toQt(m_settings.folder()) + QStringLiteral("/guide.pdf");
+  if (!QFileInfo(guide).isFile()) // the one that was installed
+    guide = toQt(m_files.find("guide.pdf").value_or(std::string()));
+  if (!QFileInfo(guide).isFile())
+    return m_dialogs.warn(parent, toQt(m_texts.text(kGuideNotFoundTitle)),
+                          toQt(m_texts.text(kGuideNotFound)));
+  open(QUrl::fromLocalFile(guide), parent);
 }
 
 void HelpPages::openWebPage(QWidget* parent) {
-  const QUrl page = webPage();
-  if (!m_dialogs.openDocument(page))
-    m_dialogs.warn(parent, toQt(m_texts.text(1060)),
-                   toQt(m_texts.withPlaceholder(kCannotBeRead, fromQt(page.toDisplayString()))));
+  open(webPage(), parent);
+}
+
+void HelpPages::open(const QUrl& document, QWidget* parent) {
+  const QString shown =
+      document.isLocalFile() ? QDir::toNativeSeparators(document.toLocalFile()) : document.toDisplayString();
+  if (!m_dialogs.openDocument(document))
+    m_dialogs.warn(parent, toQt(m_texts.text(kErrorTitle)),
+                   toQt(m_texts.withPlaceholder(kNoProgram, fromQt(shown))));
 }
 
 QUrl HelpPages::webPage() const {

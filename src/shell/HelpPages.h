@@ -25,6 +25,7 @@ class HelpPages {
 
  private:
   [[nodiscard]] QUrl webPage() const;
+  void open(const QUrl& document, QWidget* parent);
 
   Dialogs& m_dialogs;
   const SharedFiles& m_files;

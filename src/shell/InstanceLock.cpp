@@ -4,7 +4,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "storage/LockWatch.h"
-#include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
@@ -70,8 +70,7 @@ bool InstanceLock::watchOther(const Texts& texts, Dialogs& dialogs, std::chrono:
       progress.close();
       const QString since =
           QDateTime::fromSecsSinceEpoch(owner.renewedSeconds).toString(QStringLiteral("yyyy-MM-dd hh:mm"));
-      const std::string question = Module1::withPlaceholder(
-          texts.withPlaceholder(kNoSignOfLife, owner.computer), fromQt(since), "YYY");
+      const std::string question = withPlaceholders(texts.text(kNoSignOfLife), owner.computer, fromQt(since));
       return dialogs.ask(nullptr, QStringLiteral("HOOPTAB"), toQt(question)) &&
              m_file.takeOver(watch.sight()) != LockFile::Outcome::HeldElsewhere;
     }

@@ -75,6 +75,8 @@ constexpr int kSettingsRestored = 2450;
 constexpr int kSettingsKeptAs = 2451;
 constexpr int kInternalFailure = 2454;
 constexpr int kOldSettingsKept = 1522;
+constexpr int kSettingsUnreadable = 1598;
+constexpr int kSettingsNotSaved = 2841;
 constexpr int kRecentGames = 1530;
 constexpr int kSampleGames = 1531;
 constexpr int kFolderNotOpened = 2634;
@@ -126,6 +128,7 @@ MDI::MDI(const Workshop& workshop)
   m_exports = new WindowExports(*m_output, m_workshop.texts, this);
   auto* tables = new QMenu(this);
   auto* bar = new QMenuBar;
+  m_bar = bar;
   bar->setObjectName(QStringLiteral("menuBar"));
   m_menu = new MainMenu(*this, *bar, *m_area, *m_commands, *recent, *samples, *tables);
   m_menu->showColours(Theme::current());
@@ -170,8 +173,12 @@ MDI::MDI(const Workshop& workshop)
   connect(m_area, &QMdiArea::subWindowActivated, this, &MDI::showCommands);
   connect(m_area, &WindowArea::changed, this, &MDI::showCommands);
   connect(m_area, &WindowArea::added, this, [this](ChildWindow& child) {
-    connect(&child, &ChildWindow::reported, this, &MDI::showMessage);
+    connect(&child, &ChildWindow::reported, this, [this](const QString& message) {
+      showMessage(message);
+      showWhatIsUnsaved();
+    });
     m_exports->serve(child);
+    child.relabelWindow(); // it did not know yet which letters are the menus'
     m_pages->setCurrentWidget(m_area);
   });
   connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
@@ -191,7 +198,7 @@ QWidget* MDI::makeTop(QMenuBar& bar) {
   top->setObjectName(QStringLiteral("top"));
   top->setAutoFillBackground(true);
   top->setBackgroundRole(QPalette::AlternateBase);
-  bar.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  bar.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred); // the tools have a menu for what has no room
   auto* row = new QHBoxLayout(top);
   row->setContentsMargins(kTopMargin, 0, kTopMargin, 0);
   row->setSpacing(kTopMargin);
@@ -204,6 +211,11 @@ QWidget* MDI::makeTop(QMenuBar& bar) {
 void MDI::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   applyMeasure();
+  showRoom();
+}
+
+void MDI::showRoom() {
+  m_commands->setRoom(width() - m_bar->sizeHint().width() - 3 * kTopMargin);
 }
 
 void MDI::applyMeasure() {
@@ -227,6 +239,7 @@ void MDI::switchZoom(int percent) {
   m_workshop.memory.rememberZoom(percent);
   m_menu->showZoom(percent);
   applyMeasure();
+  showRoom();
 }
 
 // Of the window in front, when it fills the area and has no title of its own.
@@ -342,12 +355,9 @@ void MDI::carryOut(const QString& key) {
 
 QString MDI::askForGame(int title) {
   const Texts& texts = m_workshop.texts;
-  const QString path =
-      m_workshop.dialogs.chooseFile(this, toQt(texts.text(title)), toQt(m_workshop.settings.lastGameFolder),
-                                    fileFilter(toQt(texts.text(kGames))));
-  if (!path.isEmpty())
-    m_workshop.settings.lastGameFolder = fromQt(QFileInfo(path).absolutePath());
-  return path;
+  return m_workshop.dialogs.chooseFile(this, toQt(texts.text(title)),
+                                       toQt(m_workshop.settings.lastGameFolder),
+                                       fileFilter(toQt(texts.text(kGames))));
 }
 
 void MDI::chooseGame() {
@@ -446,20 +456,58 @@ void MDI::openManual(const QString& path, GameLock lock) {
 
 // `fresh` owns the window where it is not in the area yet.
 void MDI::showInput(const QString& path, ChildWindow& window, std::unique_ptr<ChildWindow> fresh) {
-  m_workshop.memory.rememberFile(fromQt(QFileInfo(path).absoluteFilePath()));
+  rememberPlace(path);
   if (fresh == nullptr)
     return m_area->bringToFront(window);
   m_area->add(*fresh.release());
 }
 
 void MDI::openGame(const QString& path) {
-  if (frmVIEW* open = m_area->scorecardOf(path))
-    return m_area->bringToFront(*open);
+  if (const GameFileProblem problem = showGame(path); problem != GameFileProblem::None)
+    refuse(problem, path);
+}
+
+GameFileProblem MDI::showGame(const QString& path) {
+  if (frmVIEW* open = m_area->scorecardOf(path)) {
+    m_area->bringToFront(*open);
+    rememberPlace(path);
+    return GameFileProblem::None;
+  }
   auto view = std::make_unique<frmVIEW>(m_workshop.store, m_workshop.settings, m_workshop.texts);
   if (const GameFileProblem problem = view->open(path); problem != GameFileProblem::None)
-    return refuse(problem, path);
+    return problem;
   addScorecard(view.release());
+  rememberPlace(path);
+  return GameFileProblem::None;
+}
+
+// Of a game that was opened. The folder of the samples is no place for games of one's own.
+void MDI::rememberPlace(const QString& path) {
   m_workshop.memory.rememberFile(fromQt(QFileInfo(path).absoluteFilePath()));
+  const std::string folder = fromQt(QFileInfo(path).absolutePath());
+  const std::optional<std::string> samples = m_workshop.files.find("samples");
+  if (!samples || QFileInfo(toQt(*samples)) != QFileInfo(toQt(folder)))
+    m_workshop.settings.lastGameFolder = folder;
+}
+
+void MDI::openFromElsewhere(const QStringList& games) {
+  QMdiSubWindow* const front = groupInFront() == CommandGroup::Live ? m_area->currentSubWindow() : nullptr;
+  const QPointer<QWidget> focused = focusWidget();
+  for (const QString& game : games) {
+    const GameFileProblem problem = showGame(game);
+    if (problem != GameFileProblem::None && front != nullptr)
+      live()->tell(refusal(problem, game));
+    else if (problem != GameFileProblem::None)
+      refuse(problem, game);
+  }
+  if (front != nullptr) {
+    m_area->setActiveSubWindow(front);
+    if (focused != nullptr)
+      focused->setFocus();
+  }
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  raise();
+  activateWindow();
 }
 
 void MDI::makeGame() {
@@ -658,10 +706,11 @@ void MDI::addScorecard(frmVIEW* view) {
 }
 
 void MDI::refuse(GameFileProblem problem, const QString& path) {
-  const Texts& texts = m_workshop.texts;
-  m_workshop.dialogs.warn(
-      this, toQt(texts.text(kErrorTitle)),
-      toQt(texts.withPlaceholder(refusalText(problem), fromQt(QDir::toNativeSeparators(path)))));
+  m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(kErrorTitle)), refusal(problem, path));
+}
+
+QString MDI::refusal(GameFileProblem problem, const QString& path) const {
+  return toQt(m_workshop.texts.withPlaceholder(refusalText(problem), fromQt(QDir::toNativeSeparators(path))));
 }
 
 void MDI::showMessage(const QString& message) {
@@ -738,6 +787,8 @@ void MDI::switchLanguage() {
 void MDI::relabelEverything() {
   m_dialogLanguage.set(m_workshop.texts.language());
   relabel(*this, m_workshop.texts);
+  m_menu->giveLetters();
+  showRoom();
   m_welcome->relabelPage();
   for (ChildWindow* child : m_area->windows())
     child->relabelWindow();
@@ -756,6 +807,9 @@ void MDI::report(Settings::Preparation preparation) {
   if (preparation == Settings::Preparation::FirstRunKeptOld)
     m_workshop.dialogs.warn(this, toQt(texts.text(kWarningTitle)),
                             toQt(texts.withPlaceholder(kOldSettingsKept, m_workshop.settings.keptAs())));
+  if (preparation == Settings::Preparation::CannotBeRead)
+    m_workshop.dialogs.warn(this, toQt(texts.text(kWarningTitle)),
+                            toQt(texts.withPlaceholder(kSettingsUnreadable, m_workshop.settings.path())));
   showWhatIsUnsaved();
 }
 
@@ -787,9 +841,13 @@ QString MDI::notSaved() const {
 
 void MDI::restorePlace() {
   const std::string layout = m_workshop.memory.layout(kLayoutName);
-  if (restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(layout))))
+  const QSize most = screen()->availableSize();
+  if (restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(layout)))) {
+    if (width() > most.width() || height() > most.height()) // it was left on a larger screen
+      resize(size().boundedTo(most));
     return;
-  resize(kFirstSize.boundedTo(screen()->availableSize()));
+  }
+  resize(kFirstSize.boundedTo(most));
   setWindowState(
       Qt::WindowMaximized); // a first start takes the whole screen: a table's columns want the room
 }
@@ -797,17 +855,32 @@ void MDI::restorePlace() {
 void MDI::closeEvent(QCloseEvent* event) {
   // All are asked before the first one closes.
   const QList<ChildWindow*> windows = m_area->windows();
-  if (!std::ranges::all_of(windows, &ChildWindow::agreesToClose)) {
+  if (!std::ranges::all_of(windows, &ChildWindow::agreesToClose) || !mayLeaveSettings()) {
     for (ChildWindow* child : windows)
       child->stay();
     event->ignore();
     return;
   }
   m_area->closeAllSubWindows();
-  if (!m_workshop.settings.saveLastFolders())
-    m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(kErrorTitle)), notSaved());
   m_workshop.memory.rememberLayout(kLayoutName, saveGeometry().toBase64().toStdString());
   event->accept();
+}
+
+// They are on disk, or the user lets them go.
+bool MDI::mayLeaveSettings() {
+  if (m_workshop.settings.saveLastFolders())
+    return true;
+  const Texts& texts = m_workshop.texts;
+  do {
+    switch (m_workshop.dialogs.askToSave(
+        this, toQt(texts.text(kErrorTitle)),
+        toQt(texts.withPlaceholder(kSettingsNotSaved, m_workshop.settings.path())))) {
+    case SaveChoice::Save: break;
+    case SaveChoice::Discard: return true;
+    case SaveChoice::Stay: showWhatIsUnsaved(); return false;
+    }
+  } while (!m_workshop.settings.retry());
+  return true;
 }
 
 void MDI::dragEnterEvent(QDragEnterEvent* event) {

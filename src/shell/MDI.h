@@ -67,6 +67,9 @@ class MDI : public QMainWindow {
   // Opens a game as a scorecard, or brings the scorecard to the front that shows it already. A game that
   // cannot be opened is refused with a message, and everything open stays.
   void openGame(const QString& path);
+  // The same for games that a second start of the program brings, in front of other programs. A live window
+  // in front stays there, with its clock and its question, and is told what was refused.
+  void openFromElsewhere(const QStringList& games);
   // Writes what still waits for the disk, and says that something went wrong inside the program.
   void tellFailure(const QString& what);
   // Tells what the preparation of the settings has to say to the user, if anything.
@@ -80,6 +83,9 @@ class MDI : public QMainWindow {
 
  private:
   void carryOut(const QString& key);
+  [[nodiscard]] GameFileProblem showGame(const QString& path);
+  void rememberPlace(const QString& path);
+  [[nodiscard]] bool mayLeaveSettings();
   [[nodiscard]] QString askForGame(int title); // empty when cancelled
   void chooseGame();
   void chooseGameForInput();
@@ -109,6 +115,7 @@ class MDI : public QMainWindow {
   void applyMeasure();
   void applyLook(); // to all that keep colours or lengths
   QWidget* makeTop(QMenuBar& bar);
+  void showRoom(); // beside the menus, to the tools
   void showTitle();
   void showStatusBar();
   [[nodiscard]] CommandGroup groupInFront() const;
@@ -122,6 +129,7 @@ class MDI : public QMainWindow {
   [[nodiscard]] frmVIEW* scorecard() const; // the one in front, or null
   void showCommands();
   void refuse(GameFileProblem problem, const QString& path);
+  [[nodiscard]] QString refusal(GameFileProblem problem, const QString& path) const;
 
   void showWhatIsUnsaved();
   [[nodiscard]] QString notSaved() const;
@@ -137,6 +145,7 @@ class MDI : public QMainWindow {
 
   CommandBar* m_commands = nullptr;
   MainMenu* m_menu = nullptr;
+  QMenuBar* m_bar = nullptr;
   WindowArea* m_area = nullptr;
   WelcomePage* m_welcome = nullptr;
   QStackedWidget* m_pages = nullptr;

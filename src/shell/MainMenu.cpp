@@ -1,6 +1,7 @@
 #include "shell/MainMenu.h"
 
 #include "appearance/Icons.h"
+#include "appearance/Mnemonics.h"
 #include "appearance/PlainText.h"
 #include "appearance/relabel.h"
 #include "shell/CommandBar.h"
@@ -11,6 +12,7 @@
 #include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QShortcut>
 #include <algorithm>
 #include <string_view>
 
@@ -90,6 +92,16 @@ MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const C
   commands.dropDown("SETTINGS").addMenu(&colours);
   commands.dropDown("SETTINGS").addMenu(&zooms);
   commands.dropDown("HELP").insertMenu(&commands.action("AidABOUT"), &samples);
+
+  // Entries get theirs when they are shown: captions change with what they stand for.
+  for (const QMenu* menu : window.findChildren<QMenu*>() + bar.findChildren<QMenu*>())
+    connect(menu, &QMenu::aboutToShow, this, [menu] { giveMnemonics(menu->actions()); });
+  connect(new QShortcut(Qt::Key_F10, &window), &QShortcut::activated, this,
+          [this] { m_bar.setActiveAction(m_bar.actions().constFirst()); });
+}
+
+void MainMenu::giveLetters() {
+  giveMnemonics(m_bar.actions());
 }
 
 QMenu& MainMenu::addMenu(int text, std::initializer_list<const char*> keys) {
@@ -190,14 +202,8 @@ void MainMenu::addWindowMenu(WindowArea& area) {
   connect(&next, &QAction::triggered, &area, &QMdiArea::activateNextSubWindow);
   connect(&previous, &QAction::triggered, &area, &QMdiArea::activatePreviousSubWindow);
   connect(&fill, &QAction::triggered, &area, &WindowArea::fill);
-  connect(&tile, &QAction::triggered, &area, [&area] {
-    area.frame();
-    area.tileSubWindows();
-  });
-  connect(&cascade, &QAction::triggered, &area, [&area] {
-    area.frame();
-    area.cascadeSubWindows();
-  });
+  connect(&tile, &QAction::triggered, &area, &WindowArea::tile);
+  connect(&cascade, &QAction::triggered, &area, &WindowArea::cascade);
   connect(m_close, &QAction::triggered, &area, &QMdiArea::closeActiveSubWindow);
   connect(&closeAll, &QAction::triggered, &area, &QMdiArea::closeAllSubWindows);
 

@@ -26,6 +26,8 @@ class MainMenu : public QObject {
   MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const CommandBar& commands, GameMenu& recent,
            GameMenu& samples, QMenu& tables);
 
+  // Behind relabelling, which takes the letters away.
+  void giveLetters();
   void showColours(ColourScheme scheme);
   void showZoom(int percent);
   // Of the window in front: whether there is one, and whether a command of its own closes it.

@@ -66,16 +66,16 @@ ProgramFolder findProgramFolder(const ProgramFolderSources& sources) {
   return {ProgramFolderProblem::NoHome, {}};
 }
 
-std::string message(const ProgramFolder& folder) {
+std::string message(const ProgramFolder& folder, const Texts& texts) {
   switch (folder.problem) {
   case ProgramFolderProblem::None: return {};
-  case ProgramFolderProblem::Absent: return "The program folder " + folder.path + " does not exist.";
-  case ProgramFolderProblem::NotAFolder: return "The program folder " + folder.path + " is not a folder.";
-  case ProgramFolderProblem::CannotMake: return "The program folder " + folder.path + " cannot be made.";
-  case ProgramFolderProblem::CannotRead: return "The program folder " + folder.path + " cannot be read.";
+  case ProgramFolderProblem::Absent: return texts.withPlaceholder(2872, folder.path);
+  case ProgramFolderProblem::NotAFolder: return texts.withPlaceholder(2873, folder.path);
+  case ProgramFolderProblem::CannotMake: return texts.withPlaceholder(2874, folder.path);
+  case ProgramFolderProblem::CannotRead: return texts.withPlaceholder(2875, folder.path);
   case ProgramFolderProblem::NoHome: break;
   }
-  return "There is no place for the program folder: HOME is not set. Name one with --folder.";
+  return std::string(texts.text(2876));
 }
 
 } // namespace hooptab

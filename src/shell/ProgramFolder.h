@@ -3,6 +3,8 @@
 // business of others.
 #pragma once
 
+#include "storage/Texts.h"
+
 #include <optional>
 #include <string>
 
@@ -39,7 +41,7 @@ struct ProgramFolder {
 // is good enough to look at games.
 [[nodiscard]] ProgramFolder findProgramFolder(const ProgramFolderSources& sources);
 
-// One line for the user, who may have no language chosen yet; empty without a problem.
-[[nodiscard]] std::string message(const ProgramFolder& folder);
+// One line for the user; empty without a problem.
+[[nodiscard]] std::string message(const ProgramFolder& folder, const Texts& texts);
 
 } // namespace hooptab

@@ -7,6 +7,7 @@
 #include "scorecard/Scorecard.h"
 #include "season/GameFinder.h"
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 #include "storage/Utf8.h"
 
 #include <algorithm>
@@ -18,6 +19,8 @@ namespace hooptab {
 
 namespace {
 
+constexpr int kSubjectAndWords = 1801; // "XXX: YYY"
+
 enum ExitStatus { kGood = 0, kFailed = 1, kWrongUse = 2 };
 
 int complain(ExitStatus status, const std::string& text) {
@@ -25,11 +28,12 @@ int complain(ExitStatus status, const std::string& text) {
   return status;
 }
 
-std::string explained(GameFileProblem problem) {
+int reasonOf(GameFileProblem problem) {
   switch (problem) {
-  case GameFileProblem::Absent: return "there is no such file";
-  case GameFileProblem::InvalidFormat: return "Invalid File Format (Not a Valid .GAM File)";
-  default: return "cannot be read";
+  case GameFileProblem::Absent: return 2860;
+  case GameFileProblem::TooLarge: return 2861;
+  case GameFileProblem::InvalidFormat: return 1059;
+  default: return 2863;
   }
 }
 
@@ -44,7 +48,7 @@ class ReportRun {
   int run() {
     const std::optional<ReportForm> form = reportFormOf(m_request.format);
     if (!form)
-      return complain(kWrongUse, "unknown format " + m_request.format + "; use pdf, xlsx, csv, html or png");
+      return complain(kWrongUse, words(2877, m_request.format));
     if (isOfGame() && std::filesystem::is_directory(m_request.source, m_ignored))
       return writeEachGame(*form);
     Report report;
@@ -54,6 +58,19 @@ class ReportRun {
   }
 
  private:
+  std::string words(int text, const std::string& x = {}, const std::string& y = {}) const {
+    return withPlaceholders(m_texts.text(text), x, y);
+  }
+  std::string withReason(const std::string& path, int text) const {
+    return words(kSubjectAndWords, path, words(text));
+  }
+  int complainOf(ExitStatus status, const std::string& path, int text) const {
+    return complain(status, withReason(path, text));
+  }
+  int complainOfMissing(const std::string& what) const {
+    return complain(kWrongUse, words(2847, "--report " + m_request.kind, what));
+  }
+
   bool isOfGame() const {
     const std::string& kind = m_request.kind;
     return kind == "scorecard" || kind == "scorecard-lines" || kind == "play-by-play";
@@ -63,12 +80,11 @@ class ReportRun {
   // game that cannot be reported does not keep the others from it.
   int writeEachGame(ReportForm form) {
     if (!std::filesystem::is_directory(m_request.output, m_ignored))
-      return complain(kWrongUse,
-                      m_request.output + ": for a folder of games, -o names a folder that is there");
+      return complainOf(kWrongUse, m_request.output, 2878);
     ScanWatch watch;
     const FoundGames games = findGames(m_files, {m_request.source}, watch);
     if (games.outcome != ScanOutcome::Done || games.paths.empty())
-      return complain(kFailed, m_request.source + ": no game in this folder, or it cannot be read");
+      return complainOf(kFailed, m_request.source, 2879);
     ExitStatus status = kGood;
     for (const std::string& game : games.paths) {
       Report report;
@@ -84,16 +100,15 @@ class ReportRun {
     if (!m_request.title.empty())
       report.title = m_request.title;
     if (!canBe(report, form))
-      return complain(kWrongUse, "a report of this kind cannot be written as " + m_request.format);
+      return complain(kWrongUse, words(2880, m_request.format));
     PageFormat format;
     format.paper = m_request.isLetter ? Paper::Letter : Paper::A4;
     const char* language = m_texts.language() == Language::French ? "fr" : "en";
     const auto contents = filesOf(report, form, format, language);
     if (!contents)
-      return complain(kFailed, "the report could not be made; is there room for temporary files?");
+      return complain(kFailed, words(2881));
     const std::string failed = writeFiles(m_files, output, *contents);
-    return failed.empty() ? kGood
-                          : complain(kFailed, failed + ": cannot be written; nothing was changed there");
+    return failed.empty() ? kGood : complainOf(kFailed, failed, 2882);
   }
 
   int make(Report& report) {
@@ -110,27 +125,25 @@ class ReportRun {
       if (name.word == kind)
         return makeOfSeason(name.report, report);
     }
-    return complain(kWrongUse, "unknown report " + kind + "; see hooptab --help");
+    return complain(kWrongUse, words(2859, words(2883, kind), "hooptab --help"));
   }
   int makeOfSeason(SeasonReport which, Report& report) {
     if (m_request.source.empty())
-      return complain(kWrongUse, "--report " + m_request.kind + " needs a folder of games");
+      return complainOfMissing(words(2884));
     GameCatalogue catalogue(m_files);
     ScanWatch watch;
     if (catalogue.scan({m_request.source}, watch) != ScanOutcome::Done)
-      return complain(kFailed, m_request.source + ": there is no such folder, or it cannot be read");
+      return complainOf(kFailed, m_request.source, 2886);
     for (const SkippedFile& skipped : catalogue.skipped())
-      std::cerr << "hooptab: left out: " << printable(skipped.path) << ": "
-                << m_texts.text(skipReasonText(skipped.reason), Language::English) << '\n';
+      (void)complain(kGood, words(2891, withReason(skipped.path, skipReasonText(skipped.reason))));
     if (catalogue.games().empty())
-      return complain(kFailed, m_request.source + ": no finished game in this folder");
+      return complainOf(kFailed, m_request.source, 2887);
     GameCriteria criteria;
     criteria.team = m_request.team;
     SeasonReportChoice choice;
     choice.team = catalogue.teamOf(m_request.team);
     if (!m_request.team.empty() && !choice.team)
-      return complain(kWrongUse,
-                      "there is no team " + m_request.team + " in the games of " + m_request.source);
+      return complain(kWrongUse, words(2888, m_request.team, m_request.source));
     const SeasonStatistics statistics(catalogue, catalogue.select(criteria), {m_request.team, std::nullopt});
     const bool isOfLines =
         which == SeasonReport::LineShots || which == SeasonReport::LineOther || which == SeasonReport::Line;
@@ -138,22 +151,21 @@ class ReportRun {
     const auto named = isOfLines ? &SeasonRow::name : &SeasonRow::number;
     const auto chosen = std::ranges::find(rows, m_request.player, named);
     if (chosen != rows.end() && std::ranges::count(rows, m_request.player, named) > 1)
-      return complain(kWrongUse, "several have the number " + m_request.player + "; say whose with --team");
+      return complain(kWrongUse, words(2889, m_request.player));
     if (chosen != rows.end())
       choice.chosen = chosen->id;
     else if (!m_request.player.empty() || which == SeasonReport::Player || which == SeasonReport::Line)
-      return complain(kWrongUse, m_request.player.empty()
-                                     ? "--report " + m_request.kind + " needs --player or --line"
-                                     : "nobody has the number " + m_request.player);
+      return m_request.player.empty() ? complainOfMissing("--player|--line")
+                                      : complain(kWrongUse, words(2890, m_request.player));
     report = seasonReport(which, statistics, choice, m_settings, m_texts);
     return kGood;
   }
   int makeOfGame(const std::string& path, Report& report) {
     if (path.empty())
-      return complain(kWrongUse, "--report " + m_request.kind + " needs a game, or a folder of games");
+      return complainOfMissing(words(2885));
     Scorecard card(m_store, path);
     if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None)
-      return complain(kFailed, path + ": " + explained(problem));
+      return complainOf(kFailed, path, reasonOf(problem));
     if (m_request.kind == "play-by-play") {
       report = playByPlayReport(card.game(), card.state(), m_texts);
       return kGood;
@@ -175,9 +187,8 @@ class ReportRun {
                                           : preparedForms(team, players, m_texts);
       return kGood;
     }
-    return complain(kWrongUse, m_request.team.empty()
-                                   ? "--report " + m_request.kind + " needs --team ABBREVIATION-LEVEL"
-                                   : "there is no team " + m_request.team + " in " + m_settings.path());
+    return m_request.team.empty() ? complainOfMissing("--team")
+                                  : complain(kWrongUse, words(2888, m_request.team, m_settings.path()));
   }
 
   const ReportRequest& m_request;

@@ -5,6 +5,7 @@
 #include "appearance/relabel.h"
 #include "shell/RecentGameWords.h"
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <QBoxLayout>
 #include <QDateTime>
@@ -115,8 +116,8 @@ void UnfinishedPlate::paintEvent(QPaintEvent*) {
   const QLocale locale(m_texts.language() == Language::French ? QLocale::French : QLocale::English);
   const QString written =
       locale.toString(QDateTime::fromSecsSinceEpoch(m_game.changed), QStringLiteral("d MMM yyyy, HH:mm"));
-  const QString saved = toQt(Module1::withPlaceholder(
-      m_texts.withPlaceholder(kSaved, std::to_string(m_game.events)), fromQt(written), "YYY"));
+  const QString saved =
+      toQt(withPlaceholders(m_texts.text(kSaved), std::to_string(m_game.events), fromQt(written)));
   painter.drawText(line, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine,
                    painter.fontMetrics().elidedText(saved, Qt::ElideRight, line.width()));
 

@@ -3,11 +3,20 @@
 #include "appearance/relabel.h"
 #include "scorecard/frmVIEW.h"
 #include "shell/WindowMemory.h"
+#include "storage/Module1.h"
 
 #include <QFileInfo>
 #include <QMdiSubWindow>
+#include <algorithm>
+#include <cmath>
 
 namespace hooptab {
+
+namespace {
+
+constexpr const char* kSize = ".size"; // behind a window's name: that of its frame
+
+} // namespace
 
 WindowArea::WindowArea(WindowMemory& memory, QWidget* parent) : QMdiArea(parent), m_memory(memory) {
   setBackground(Qt::NoBrush); // that of the window, in every look
@@ -20,7 +29,11 @@ void WindowArea::add(ChildWindow& child) {
   window->setAttribute(Qt::WA_DeleteOnClose);
   const std::string name = fromQt(child.objectName());
   child.restoreArrangement(QByteArray::fromBase64(QByteArray::fromStdString(m_memory.layout(name))));
-  connect(&child, &ChildWindow::closing, this, [this, &child, name] {
+  restoreSize(*window, name);
+  connect(&child, &ChildWindow::closing, this, [this, &child, window, name] {
+    if (!window->isMaximized())
+      m_memory.rememberLayout(name + kSize,
+                              fromQt(QStringLiteral("%1x%2").arg(window->width()).arg(window->height())));
     if (const QByteArray arrangement = child.arrangement(); !arrangement.isEmpty())
       m_memory.rememberLayout(name, arrangement.toBase64().toStdString());
   });
@@ -28,9 +41,18 @@ void WindowArea::add(ChildWindow& child) {
   connect(&child, &QObject::destroyed, this, &WindowArea::changed, Qt::QueuedConnection);
   emit added(child);
   if (subWindowList().size() == 1)
-    m_isFilled = true;
-  dress(*window);
+    setFilled(true);
+  else
+    dress(*window);
   emit changed();
+}
+
+void WindowArea::restoreSize(QMdiSubWindow& window, const std::string& name) {
+  const std::string text = m_memory.layout(name + kSize);
+  const QSize size(Module1::leadingNumber(Module1::field(text, 1, 'x')),
+                   Module1::leadingNumber(Module1::field(text, 2, 'x')));
+  if (!size.isEmpty())
+    window.resize(size.boundedTo(viewport()->size()));
 }
 
 void WindowArea::dress(QMdiSubWindow& window) const {
@@ -41,20 +63,47 @@ void WindowArea::dress(QMdiSubWindow& window) const {
     window.showNormal();
 }
 
-void WindowArea::fill() {
-  m_isFilled = true;
+void WindowArea::setFilled(bool isFilled) {
+  m_isFilled = isFilled;
+  // With bars, the area does not have to be as large as the windows in it.
+  const Qt::ScrollBarPolicy bars = isFilled ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded;
+  setHorizontalScrollBarPolicy(bars);
+  setVerticalScrollBarPolicy(bars);
   QMdiSubWindow* const front = currentSubWindow();
   for (QMdiSubWindow* window : subWindowList())
     dress(*window);
   setActiveSubWindow(front);
 }
 
-void WindowArea::frame() {
-  m_isFilled = false;
-  QMdiSubWindow* const front = currentSubWindow();
-  for (QMdiSubWindow* window : subWindowList())
-    dress(*window);
-  setActiveSubWindow(front);
+void WindowArea::fill() {
+  setFilled(true);
+}
+
+void WindowArea::tile() {
+  setFilled(false);
+  const QList<QMdiSubWindow*> windows = subWindowList();
+  const int count = static_cast<int>(windows.size());
+  const int columns = static_cast<int>(std::ceil(std::sqrt(count)));
+  const QRect room = viewport()->rect();
+  for (int row = 0, top = 0, first = 0; first < count; ++row, first += columns) {
+    const int rows = (count + columns - 1) / columns;
+    const int inRow = std::min(columns, count - first);
+    int height = room.height() / rows;
+    int left = 0;
+    for (int column = 0; column < inRow; ++column) {
+      QMdiSubWindow* const window = windows[first + column];
+      const QSize size = QSize(room.width() / inRow, height).expandedTo(window->minimumSizeHint());
+      window->setGeometry({{left, top}, size});
+      left += size.width();
+      height = std::max(height, size.height());
+    }
+    top += height;
+  }
+}
+
+void WindowArea::cascade() {
+  setFilled(false);
+  cascadeSubWindows();
 }
 
 void WindowArea::bringToFront(ChildWindow& child) {

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QMdiArea>
 
+#include <string>
+
 namespace hooptab {
 
 class WindowMemory;
@@ -19,8 +21,11 @@ class WindowArea : public QMdiArea {
 
   // Owns it from now on. Fills the area, unless the windows stand side by side.
   void add(ChildWindow& child);
-  void fill();  // each of them the whole area, without a frame
-  void frame(); // before they are tiled: each with a title to take hold of
+  void fill(); // each of them the whole area, without a frame
+  // Side by side, or one behind the other, each with a title to take hold of. What has no room is scrolled
+  // to: the area never asks for more than it has.
+  void tile();
+  void cascade();
   void bringToFront(ChildWindow& child);
 
   [[nodiscard]] QList<ChildWindow*> windows() const;
@@ -42,6 +47,8 @@ class WindowArea : public QMdiArea {
 
  private:
   void dress(QMdiSubWindow& window) const;
+  void setFilled(bool isFilled);
+  void restoreSize(QMdiSubWindow& window, const std::string& name);
 
   WindowMemory& m_memory;
   bool m_isFilled = true;

@@ -2,6 +2,7 @@
 
 #include "appearance/Measure.h"
 #include "storage/Module1.h"
+#include "storage/PathText.h"
 #include "storage/codepage.h"
 
 #include <algorithm>
@@ -16,42 +17,6 @@ constexpr const char* kLayouts = "LAYOUT";
 constexpr const char* kRecentFiles = "RECENT";
 constexpr const char* kChoices = "CHOICES";
 constexpr const char* kLastGame = "LASTGAME";
-
-// Names of files are bytes, and the profile file knows only the letters of its code page: all but plain
-// printable characters are written as % and two hexadecimal digits.
-std::string escaped(std::string_view path) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string result;
-  for (const char character : path) {
-    const auto byte = static_cast<unsigned char>(character);
-    if (byte > ' ' && byte < 0x7F && byte != '%')
-      result += character;
-    else
-      result.append({'%', kDigits[byte >> 4U], kDigits[byte & 0xFU]});
-  }
-  return result;
-}
-
-int hexDigit(char character) {
-  constexpr std::string_view kDigits = "0123456789ABCDEFabcdef";
-  const std::size_t place = kDigits.find(character);
-  return place == std::string_view::npos ? -1 : static_cast<int>(place < 16 ? place : place - 6);
-}
-
-std::string unescaped(std::string_view text) {
-  std::string result;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const int high = text[i] == '%' && i + 2 < text.size() ? hexDigit(text[i + 1]) : -1;
-    const int low = high < 0 ? -1 : hexDigit(text[i + 2]);
-    if (low < 0) {
-      result += text[i];
-    } else {
-      result += static_cast<char>(high * 16 + low);
-      i += 2;
-    }
-  }
-  return result;
-}
 
 } // namespace
 
@@ -69,7 +34,7 @@ void WindowMemory::rememberLayout(std::string_view name, std::string_view text) 
 std::vector<std::string> WindowMemory::rememberedFiles() {
   std::vector<std::string> result;
   for (std::size_t i = 1; i <= kMostRecentFiles; ++i) {
-    std::string path = unescaped(value(kRecentFiles, std::to_string(i)));
+    std::string path = unescapedPath(value(kRecentFiles, std::to_string(i)));
     if (!path.empty() && std::ranges::find(result, path) == result.end())
       result.push_back(std::move(path));
   }
@@ -92,7 +57,7 @@ void WindowMemory::rememberFile(const std::string& path) {
   paths.resize(std::min(paths.size(), kMostRecentFiles));
   std::vector<std::pair<std::string, std::string>> lines;
   for (std::size_t i = 0; i < paths.size(); ++i)
-    lines.emplace_back(std::to_string(i + 1), escaped(paths[i]));
+    lines.emplace_back(std::to_string(i + 1), escapedPath(paths[i]));
   ProfileBatch batch;
   batch.setSectionLines(kRecentFiles, std::move(lines));
   m_store.Path(m_path);

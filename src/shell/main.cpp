@@ -7,6 +7,7 @@
 #include "live/TimeSource.h"
 #include "manual/DecoderProcess.h"
 #include "printing/Printers.h"
+#include "resources/tables.h"
 #include "shell/Application.h"
 #include "shell/Arguments.h"
 #include "shell/InstanceLock.h"
@@ -14,6 +15,7 @@
 #include "shell/ProgramFolder.h"
 #include "shell/Rehearsal.h"
 #include "shell/ReportRun.h"
+#include "shell/SecondStart.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
 #include "storage/Utf8.h"
@@ -33,15 +35,21 @@ using namespace hooptab;
 namespace {
 
 constexpr int kWrongUse = 2;
+constexpr int kNoDisplay = 2840;
+constexpr int kFailed = 2871;
+
+void complain(const std::string& sentence) {
+  std::cerr << "hooptab: " << printable(sentence) << '\n';
+}
 
 // Answers what needs no window; nothing when the program is to start.
-std::optional<int> answer(const Arguments& arguments) {
-  if (!arguments.error.empty()) {
-    std::cerr << "hooptab: " << printable(arguments.error) << '\n';
+std::optional<int> answer(const Arguments& arguments, const Texts& texts) {
+  if (arguments.wrong) {
+    complain(inWords(arguments.wrong, texts));
     return kWrongUse;
   }
   if (arguments.asksForHelp)
-    std::cout << usage();
+    std::cout << (texts.language() == Language::French ? programUsage().french : programUsage().english);
   else if (arguments.asksForVersion)
     std::cout << "hooptab " HOOPTAB_VERSION "\n";
   else
@@ -50,40 +58,48 @@ std::optional<int> answer(const Arguments& arguments) {
 }
 
 // Fonts and painting need Qt, but no display.
-int report(int argc, char** argv, const Arguments& arguments) {
+int report(int argc, char** argv, const Arguments& arguments, const ProgramFolder& folder,
+           const Texts& texts) {
+  if (folder.problem != ProgramFolderProblem::None) {
+    complain(message(folder, texts));
+    return kWrongUse;
+  }
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication application(argc, argv);
-  const std::string executableFolder = fromQt(QCoreApplication::applicationDirPath());
-  const ProgramFolder folder =
-      findProgramFolder(ProgramFolderSources::ofEnvironment(arguments.folder, executableFolder));
-  if (folder.problem != ProgramFolderProblem::None) {
-    std::cerr << "hooptab: " << printable(message(folder)) << '\n';
-    return EXIT_FAILURE;
-  }
   return makeReport(*arguments.report, folder.path);
 }
 
-int run(Application& application, const Arguments& arguments, QtDialogs& dialogs) {
-  const std::string executableFolder = fromQt(QCoreApplication::applicationDirPath());
-  const ProgramFolder folder =
-      findProgramFolder(ProgramFolderSources::ofEnvironment(arguments.folder, executableFolder));
-  if (folder.problem != ProgramFolderProblem::None) {
-    dialogs.warn(nullptr, QStringLiteral("HOOPTAB"), toQt(message(folder)));
-    return EXIT_FAILURE;
-  }
+// What stands in the way of a window, for the time in which Qt looks for a display: where it finds none, it
+// would say so in several lines and abort.
+std::string obstacle;
 
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+  if (type != QtFatalMsg)
+    return;
+  complain(obstacle);
+  std::_Exit(kWrongUse);
+}
+
+int run(Application& application, const Arguments& arguments, QtDialogs& dialogs, const ProgramFolder& folder,
+        const std::string& executableFolder) {
   FileSystem files;
   cinifile store(files);
   Texts texts;
   Settings settings(store, folder.path);
   settings.read();
-  texts.setLanguage(settings.language);
+  texts.setLanguage(arguments.language.value_or(settings.language));
   InstanceLock lock(toQt(folder.path));
+  if (lock.acquire() == InstanceLock::Outcome::IsRunning &&
+      SecondStart::handOver(toQt(folder.path), arguments.games))
+    return EXIT_SUCCESS;
   if (!lock.admits(texts, dialogs))
     return EXIT_FAILURE;
+  SecondStart others(toQt(folder.path)); // at once: they wait for an answer
 
   const Settings::Preparation preparation = settings.prepare(texts);
+  if (arguments.language && *arguments.language != settings.language)
+    settings.saveLanguage(*arguments.language);
   texts.setLanguage(settings.language);
   texts.showNumbers(settings.asksForTextNumbers());
   const SharedFiles shared(executableFolder);
@@ -103,6 +119,7 @@ int run(Application& application, const Arguments& arguments, QtDialogs& dialogs
   QtPrinters printers;
   MDI window({store, settings, texts, memory, dialogs, shared, time, printers});
   application.setFailureHandler([&window](const QString& what) { window.tellFailure(what); });
+  QObject::connect(&others, &SecondStart::asked, &window, &MDI::openFromElsewhere);
   window.show();
   // After the window is there: what is said now stands in front of it.
   QTimer::singleShot(0, &window, [&] {
@@ -122,23 +139,38 @@ int run(Application& application, const Arguments& arguments, QtDialogs& dialogs
 
 int start(int argc, char** argv) {
   std::error_code ignored;
-  const Arguments arguments =
-      parseArguments({argv + 1, argv + argc}, std::filesystem::current_path(ignored).string());
-  if (const std::optional<int> status = answer(arguments))
+  const std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
+  const Arguments arguments = parseArguments(words, std::filesystem::current_path(ignored).string());
+  Texts texts; // of the command line, before any settings are read
+  texts.setLanguage(languageOf(words, environmentLanguage()));
+  if (const std::optional<int> status = answer(arguments, texts))
     return *status;
+  const std::string executableFolder =
+      std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string();
+  const ProgramFolder folder =
+      findProgramFolder(ProgramFolderSources::ofEnvironment(arguments.folder, executableFolder));
   if (arguments.report)
-    return report(argc, argv, arguments);
+    return report(argc, argv, arguments, folder, texts);
 
   // Finding the fonts takes as long as reaching the display: both at once make the start a good deal shorter.
   std::thread fonts([] { FcInit(); });
+  const bool hasFolder = folder.problem == ProgramFolderProblem::None;
+  obstacle = hasFolder ? std::string(texts.text(kNoDisplay)) : message(folder, texts);
+  const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
   Application application(argc, argv);
+  qInstallMessageHandler(usual);
   fonts.join();
   QApplication::setApplicationName(QStringLiteral("hooptab"));
   QApplication::setApplicationVersion(QStringLiteral(HOOPTAB_VERSION));
   QApplication::setDesktopFileName(QStringLiteral("hooptab"));
   QApplication::setWindowIcon(icon(QStringLiteral("hooptab")));
   QtDialogs dialogs;
-  return run(application, arguments, dialogs);
+  if (!hasFolder) {
+    complain(obstacle);
+    dialogs.warn(nullptr, QStringLiteral("HOOPTAB"), toQt(obstacle));
+    return kWrongUse;
+  }
+  return run(application, arguments, dialogs, folder, executableFolder);
 }
 
 } // namespace
@@ -151,7 +183,9 @@ int main(int argc, char** argv) {
       return *status;
     return start(argc, argv);
   } catch (const std::exception& failure) {
-    std::cerr << "hooptab: something went wrong inside the program: " << failure.what() << '\n';
+    Texts texts;
+    texts.setLanguage(environmentLanguage());
+    complain(texts.withPlaceholder(kFailed, failure.what()));
     return EXIT_FAILURE;
   }
 }

@@ -1,6 +1,7 @@
 #include "storage/EventWords.h"
 
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 #include "storage/PlayerLookup.h"
 #include "storage/Settings.h"
 
@@ -26,8 +27,7 @@ constexpr int kThreeInList = 2521;
 constexpr int kSubjectAndWords = 1801; // "XXX: YYY", each language with its own blanks
 
 std::string sentence(const Texts& texts, std::string_view subject, std::string_view words) {
-  return Module1::withPlaceholder(Module1::withPlaceholder(texts.text(kSubjectAndWords), words, "YYY"),
-                                  subject);
+  return withPlaceholders(texts.text(kSubjectAndWords), subject, words);
 }
 
 std::string shownPlayer(const RosterPlayer* player, std::string_view jersey, bool isTeam,

@@ -1,3 +1,4 @@
+#include "storage/PathText.h"
 #include "storage/Settings.h"
 
 #include <span>
@@ -103,6 +104,7 @@ const KeypadKeyTexts& firstKeypadKeyTexts() {
 }
 
 ProfileBatch firstRunContent(const Texts& texts, const std::string& folder) {
+  const std::string lastPath = pathValue(folder);
   const auto keypadLine = [](std::size_t place) {
     return Line{kKeypadKeys[place], firstKeypadKeyTexts()[place]};
   };
@@ -117,8 +119,8 @@ ProfileBatch firstRunContent(const Texts& texts, const std::string& folder) {
                                  {"KEYPAD", "True"},
                                  keypadLine(kFirstOfUser),
                                  keypadLine(kFirstOfUser + 1),
-                                 {"LASTPATHGAME", folder},
-                                 {"LASTPATHBMP", folder}});
+                                 {"LASTPATHGAME", lastPath},
+                                 {"LASTPATHBMP", lastPath}});
   ProfileBatch batch;
   batch.set("CONFIGURATION", "COULEUR2PTS", std::to_string(kFirstColours.twoPoints));
   batch.set("CONFIGURATION", "COULEURBOX", std::to_string(kFirstColours.box));

@@ -290,18 +290,28 @@ GameFileProblem GameFile::readLines(EventLines& lines) {
   return GameFileProblem::None;
 }
 
+namespace {
+
+// A name that stands twice, too: of its sections only the first is seen, and deleting it would bring the next
+// one to light.
+void deleteWholly(std::string_view section, ProfileText text, ProfileBatch& batch) {
+  for (; text.hasSection(section); text = text.withoutSection(section))
+    batch.deleteSection(std::string(section));
+}
+
+} // namespace
+
 GameFileProblem GameFile::create(const GameDetails& details, const std::vector<RosterPlayer>& visitors,
                                  const std::vector<RosterPlayer>& home) {
   ProfileBatch batch;
   m_store.Path(m_path);
   for (const PeriodSection& period : periodsOf(m_store.profile()))
-    batch.deleteSection(std::string(period.section.name));
+    deleteWholly(period.section.name, m_store.profile(), batch);
   // With those that another version may have written for the game that stood here.
-  constexpr std::string_view kOthers[] = {kAcceptedSection, "HORLOGE", "JOUEURS0", "JOUEURS1"};
-  for (const std::string_view section : {kRosterSections[0], kRosterSections[1], kDetailsSection})
-    batch.deleteSection(std::string(section));
-  for (const std::string_view section : kOthers)
-    batch.deleteSection(std::string(section));
+  for (const std::string_view section :
+       {kRosterSections[0], kRosterSections[1], kDetailsSection, kAcceptedSection,
+        std::string_view("HORLOGE"), std::string_view("JOUEURS0"), std::string_view("JOUEURS1")})
+    deleteWholly(section, m_store.profile(), batch);
 
   GameDetails written = details;
   written.version = kVersion;

@@ -1,7 +1,9 @@
 #include "storage/Settings.h"
 
 #include "storage/AtomicFile.h"
+#include "storage/BatchText.h"
 #include "storage/Module1.h"
+#include "storage/PathText.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -21,9 +23,13 @@ std::uint32_t colour(std::string_view text) {
 }
 
 // A remembered folder may have been removed, or stand on a drive that is not there today.
-std::string existingFolder(std::string path, const std::string& otherwise) {
-  std::error_code ignored;
-  return std::filesystem::is_directory(path, ignored) ? path : otherwise;
+std::string existingFolder(const std::string& text, const std::string& otherwise) {
+  for (const std::string& path : {text, unescapedPath(text)}) {
+    std::error_code ignored;
+    if (std::filesystem::is_directory(path, ignored))
+      return path;
+  }
+  return otherwise;
 }
 
 std::optional<std::string> presentText(std::string text) {
@@ -73,12 +79,27 @@ Settings::Preparation Settings::prepare(const Texts& texts) {
     return Preparation::AlreadyThere;
   }
   const ProfileBatch content = firstRunContent(texts, m_folder);
-  if (!m_writes.write([this, content] { return complete(content); })) {
+  const bool isReadable = canBeRead();
+  m_waiting.push_back(content);
+  if (!m_writes.write([this, content] { return complete(content) && isWritten(); })) {
     take([&content](std::string_view key) { return valueIn(content, key); });
-    return Preparation::WriteFailed;
+    return isReadable ? Preparation::WriteFailed : Preparation::CannotBeRead;
   }
   read();
   return m_keptAs.empty() ? Preparation::FirstRun : Preparation::FirstRunKeptOld;
+}
+
+// A file that is there but cannot be read may hold all the user's teams: it is left alone.
+bool Settings::canBeRead() {
+  m_store.Path(path());
+  (void)m_store.profile();
+  return m_store.readOutcome() == ReadOutcome::Read || m_store.readOutcome() == ReadOutcome::Absent;
+}
+
+// The oldest of what waits.
+bool Settings::isWritten() {
+  m_waiting.pop_front();
+  return true;
 }
 
 bool Settings::isComplete() {
@@ -89,10 +110,9 @@ bool Settings::isComplete() {
 bool Settings::complete(const ProfileBatch& content) {
   if (isComplete())
     return true;
-  // A file that is there but cannot be read may hold all the user's teams: it is left alone.
-  const std::string found = m_store.profile().bytes();
-  if (m_store.readOutcome() != ReadOutcome::Read && m_store.readOutcome() != ReadOutcome::Absent)
+  if (!canBeRead())
     return false;
+  const std::string found = m_store.profile().bytes();
   if ((!found.empty() && !keep(found)) || !m_store.write(content))
     return false;
   m_guard.begin(path());
@@ -176,8 +196,8 @@ bool Settings::saveKeypadKeyTexts(const KeypadKeyTexts& texts) {
 
 bool Settings::saveLastFolders() {
   ProfileBatch batch;
-  batch.set(kSection, "LASTPATHGAME", lastGameFolder);
-  batch.set(kSection, "LASTPATHBMP", lastScanFolder);
+  batch.set(kSection, "LASTPATHGAME", pathValue(lastGameFolder));
+  batch.set(kSection, "LASTPATHBMP", pathValue(lastScanFolder));
   return save(batch);
 }
 
@@ -198,8 +218,19 @@ bool Settings::saveAppearance(const ChosenColours& colours, const std::string (&
   return save(batch);
 }
 
-bool Settings::writeNow(const ProfileBatch& batch) {
-  return m_writes.retry() && write(batch);
+bool Settings::saveOfOthers(const ProfileBatch& batch) {
+  if (!canBeRead())
+    return false;
+  (void)save(batch);
+  return true;
+}
+
+const ProfileText& Settings::content() {
+  m_store.Path(path());
+  m_content = m_store.profile();
+  for (const ProfileBatch& batch : m_waiting)
+    m_content = withBatch(std::move(m_content), batch);
+  return m_content;
 }
 
 void Settings::settle() {
@@ -235,7 +266,8 @@ bool Settings::save(const char* key, std::string value) {
 }
 
 bool Settings::save(const ProfileBatch& batch) {
-  return m_writes.write([this, batch] { return write(batch); });
+  m_waiting.push_back(batch);
+  return m_writes.write([this, batch] { return write(batch) && isWritten(); });
 }
 
 } // namespace hooptab

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <optional>
 #include <set>
@@ -48,10 +49,10 @@ class Settings {
   Settings& operator=(const Settings&) = delete;
 
   // What prepare() found.
-  enum class Preparation { AlreadyThere, FirstRun, FirstRunKeptOld, WriteFailed };
+  enum class Preparation { AlreadyThere, FirstRun, FirstRunKeptOld, WriteFailed, CannotBeRead };
   // Writes the first-run content when the key list of CONFIGURATION is shorter than 10 characters, then reads
   // the settings. A file that held something else is kept first as CONFIG.INI.1, .2, ...; keptAs() names it.
-  // When the content cannot be written, the program goes on with it in memory.
+  // When the content cannot be written, or the file not be read, the program goes on with it in memory.
   [[nodiscard]] Preparation prepare(const Texts& texts);
   const std::string& keptAs() const { return m_keptAs; }
   void read();
@@ -66,11 +67,11 @@ class Settings {
   std::uint32_t buttonColour = 0;
   std::string statisticLabel[2]; // STATU1, STATU2, with their prefix
   Language language = Language::English;
-  bool asksRebounds = false;             // SAVEREBOUND
-  bool keypadIsActive = false;           // KEYPAD
-  KeypadKeyTexts keypadKeyTexts;         // as stored
-  std::string lastGameFolder;            // LASTPATHGAME; the program folder when it is no folder
-  std::string lastScanFolder;            // LASTPATHBMP
+  bool asksRebounds = false;     // SAVEREBOUND
+  bool keypadIsActive = false;   // KEYPAD
+  KeypadKeyTexts keypadKeyTexts; // as stored
+  std::string lastGameFolder;    // LASTPATHGAME, in the form of PathText; the program folder when it is none
+  std::string lastScanFolder;    // LASTPATHBMP
   std::optional<std::string> webPage[2]; // SITEEN, SITEFR, when there
 
   // The label of a user-defined statistic without its prefix; the open game's own label first, these
@@ -88,8 +89,11 @@ class Settings {
   bool saveLastFolders();
   // Colours and the labels of the user's statistics, with their prefix: all in one write.
   bool saveAppearance(const ChosenColours& colours, const std::string (&labels)[2]);
-  // For what others keep in the same file (teams): goes there now or not at all, and never before what waits.
-  [[nodiscard]] bool writeNow(const ProfileBatch& batch);
+  // What others keep in the same file (teams), behind what waits: on disk now, or kept like a setting. False
+  // where the file is there and cannot be read: nobody knows what the change would meet.
+  [[nodiscard]] bool saveOfOthers(const ProfileBatch& batch);
+  // The file with all that waits to go there; holds until the next call.
+  [[nodiscard]] const ProfileText& content();
   bool retry() { return m_writes.retry(); }
   // Looks at the file: one that is gone, damaged or of another kind is written again as it was left, and so
   // is one that went back to an older version. To be called before what others keep there is read.
@@ -103,6 +107,8 @@ class Settings {
   bool isOnDisk() const { return m_writes.isEmpty(); }
 
  private:
+  bool canBeRead();
+  bool isWritten();
   bool isComplete();
   bool complete(const ProfileBatch& content);
   bool keep(const std::string& bytes);
@@ -115,6 +121,8 @@ class Settings {
   std::string m_folder;
   std::string m_keptAs;
   WriteQueue m_writes;
+  std::deque<ProfileBatch> m_waiting; // what those writes are
+  ProfileText m_content;
   FileGuard m_guard;
   std::set<std::size_t> m_older; // of what was left there before, by its bytes
   std::optional<Restored> m_restored;

@@ -1,5 +1,6 @@
 #include "storage/cinifile.h"
 
+#include "storage/BatchText.h"
 #include "storage/codepage.h"
 
 #include <algorithm>
@@ -69,13 +70,13 @@ struct Applier {
   }
 };
 
-ProfileText withOperations(ProfileText text, const ProfileBatch& batch) {
+} // namespace
+
+ProfileText withBatch(ProfileText text, const ProfileBatch& batch) {
   for (const ProfileBatch::Operation& operation : batch.operations())
     text = std::visit(Applier{text}, operation);
   return text;
 }
-
-} // namespace
 
 cinifile::cinifile(FileSystem& files) : m_files(files) {}
 
@@ -125,13 +126,13 @@ bool cinifile::writeBehindReading(const ProfileBatch& batch) {
     return false;
 
   const ProfileText& before = known();
-  return put(before, withOperations(before, batch));
+  return put(before, withBatch(before, batch));
 }
 
 bool cinifile::replace(const ProfileText& base, const ProfileBatch& batch) {
   m_lastReturnCode = 0;
   const ProfileText before = profile(); // what stands in the way may be anything, even too large to be read
-  return put(before, withOperations(base, batch));
+  return put(before, withBatch(base, batch));
 }
 
 // Writes the file unless `before`, which is what it holds, is that already.

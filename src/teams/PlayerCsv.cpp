@@ -3,6 +3,7 @@
 #include "storage/ChoiceTexts.h"
 #include "storage/DelimitedText.h"
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 #include "storage/Roster.h"
 #include "storage/codepage.h"
 
@@ -188,7 +189,7 @@ std::string problemText(const CsvProblem& problem, const Texts& texts) {
   std::string words = texts.withPlaceholder(problem.text, problem.detail);
   if (problem.text == kInvalidNumber && !problem.detail.empty())
     words += " (" + problem.detail + ")";
-  return Module1::withPlaceholder(texts.withPlaceholder(kLine, std::to_string(problem.line)), words, "YYY");
+  return withPlaceholders(texts.text(kLine), std::to_string(problem.line), words);
 }
 
 std::string playersCsv(const std::vector<TeamPlayer>& players, const Texts& texts) {

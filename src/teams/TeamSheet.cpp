@@ -2,6 +2,7 @@
 
 #include "storage/ChoiceTexts.h"
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 #include "storage/Roster.h"
 #include "storage/codepage.h"
 
@@ -44,8 +45,7 @@ std::string_view trimmed(const std::string& text) {
 
 std::string inWords(const Texts& texts, int number, std::string_view x, std::string_view y,
                     std::string_view z = {}) {
-  return Module1::withPlaceholder(
-      Module1::withPlaceholder(Module1::withPlaceholder(texts.text(number), x), y, "YYY"), z, "ZZZ");
+  return withPlaceholders(texts.text(number), x, y, z);
 }
 
 } // namespace

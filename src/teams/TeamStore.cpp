@@ -69,8 +69,7 @@ std::vector<ProfileText::Line> playerLines(const ProfileText& file, std::string_
 TeamStore::TeamStore(cinifile& store, Settings& settings) : m_store(store), m_settings(settings) {}
 
 const ProfileText& TeamStore::file() {
-  m_store.Path(m_settings.path());
-  return m_store.profile();
+  return m_settings.content();
 }
 
 std::vector<TeamEntry> TeamStore::list() {
@@ -125,27 +124,27 @@ std::optional<int> TeamStore::create(const Texts& texts) {
   batch.set(std::string(kTeams), std::to_string(id),
             std::string(texts.text(kNewTeamText)) + ", , ," + withoutCommas(m_settings.statisticLabel[0]) +
                 ',' + withoutCommas(m_settings.statisticLabel[1]) + ",8,4,5,5,2");
-  return m_settings.writeNow(batch) ? std::optional(id) : std::nullopt;
+  return m_settings.saveOfOthers(batch) ? std::optional(id) : std::nullopt;
 }
 
 bool TeamStore::save(int id, const TeamRecord& team, const std::vector<TeamPlayer>& players) {
   ProfileBatch batch;
   batch.set(std::string(kTeams), std::to_string(id), teamValue(team, m_settings.statisticLabel));
   writePlayers(batch, id, players);
-  return m_settings.writeNow(batch);
+  return m_settings.saveOfOthers(batch);
 }
 
 bool TeamStore::savePlayers(int id, const std::vector<TeamPlayer>& players) {
   ProfileBatch batch;
   writePlayers(batch, id, players);
-  return m_settings.writeNow(batch);
+  return m_settings.saveOfOthers(batch);
 }
 
 bool TeamStore::remove(int id) {
   ProfileBatch batch;
   batch.deleteValue(std::string(kTeams), std::to_string(id));
   batch.deleteSection(std::to_string(id));
-  return m_settings.writeNow(batch);
+  return m_settings.saveOfOthers(batch);
 }
 
 int newestTeam(const std::vector<TeamEntry>& teams, const Texts& texts) {

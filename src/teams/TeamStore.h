@@ -1,6 +1,6 @@
 // Teams and players in the settings file: section TEAM with one key a team, and one section a team with one
-// key a player. Gives out and frees team ids. Every change is one atomic write; one that fails changes
-// nothing and is reported, for the window keeps its fields.
+// key a player. Gives out and frees team ids. Every change is one atomic write; what the disk does not
+// take waits with the settings, and is shown as if it were there.
 #pragma once
 
 #include "storage/Settings.h"
@@ -47,10 +47,10 @@ class TeamStore {
   // In file order. A number that occurs twice in the file is there twice.
   [[nodiscard]] std::vector<TeamPlayer> players(std::string_view key);
 
-  // A new team with the default record, named in the language in use; its id, or nothing when it could not be
-  // written. Freed ids are taken first, in file order.
+  // A new team with the default record, named in the language in use; its id, or nothing when the file could
+  // not be read. Freed ids are taken first, in file order.
   [[nodiscard]] std::optional<int> create(const Texts& texts);
-  // Record and players in one write. False: nothing was written.
+  // Record and players in one write. False, here and below: the file could not be read, and nothing changes.
   [[nodiscard]] bool save(int id, const TeamRecord& team, const std::vector<TeamPlayer>& players);
   [[nodiscard]] bool savePlayers(int id, const std::vector<TeamPlayer>& players);
   // Frees the id and deletes the players.

@@ -46,6 +46,7 @@ constexpr int kTeamSaved = 1803;
 constexpr int kUnsavedTeam = 1818;
 constexpr int kUnsavedPlayer = 1819;
 constexpr int kNotWritten = 1820;
+constexpr int kKeptInMemory = 1521;
 constexpr int kRepeatedNumber = 1821;
 constexpr int kReadOnly = 1822;
 constexpr int kTeamTooLong = 1823;
@@ -140,7 +141,9 @@ QLineEdit* frmEQUIPES::addField(QGridLayout& layout, int row, int column, const 
 QWidget* frmEQUIPES::makeTeamFields() {
   auto* card = new Card(this);
   m_band = new TeamBand(card);
-  m_band->addButton(*iconButton("cmdSAVEEQUIPE", 1164, 1326, "savemanual", this));
+  QPushButton* save = iconButton("cmdSAVEEQUIPE", 1164, 1326, "savemanual", this);
+  save->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+  m_band->addButton(*save);
 
   auto* names = new QGridLayout;
   m_abbreviation = addField(*names, 0, 0, "txtABB", 1170);
@@ -390,6 +393,7 @@ void frmEQUIPES::addTeam() {
   const std::optional<int> id = m_teams.create(m_texts);
   if (!id)
     return tellNotWritten();
+  tellSaved();
   listTeams();
   const auto made = std::ranges::find(m_entries, *id, &TeamEntry::id);
   if (made != m_entries.end())
@@ -420,7 +424,7 @@ bool frmEQUIPES::saveTeam() {
   }
   m_loadedTeam = record;
   takeWritten();
-  emit reported(toQt(m_texts.withPlaceholder(kTeamSaved, record.abbreviation)));
+  tellSaved(toQt(m_texts.withPlaceholder(kTeamSaved, record.abbreviation)));
   return true;
 }
 
@@ -445,6 +449,7 @@ void frmEQUIPES::deleteTeam() {
     return;
   if (!m_teams.remove(team()->id))
     return tellNotWritten();
+  tellSaved();
   listTeams();
 }
 
@@ -478,6 +483,7 @@ bool frmEQUIPES::addPlayer() {
     tellNotWritten();
     return false;
   }
+  tellSaved();
   const TeamPlayer written = changed.players()[static_cast<std::size_t>(row)];
   takeWritten();
   showRow(written);
@@ -605,6 +611,14 @@ bool frmEQUIPES::mayLeaveTeam() {
 
 void frmEQUIPES::warn(const QString& text) {
   m_dialogs.warn(this, toQt(m_texts.text(kWarningTitle)), text);
+}
+
+// What waits for the disk is more than what was done.
+void frmEQUIPES::tellSaved(const QString& done) {
+  if (!m_teams.settings().isOnDisk())
+    emit reported(toQt(m_texts.withPlaceholder(kKeptInMemory, m_teams.settings().path())));
+  else if (!done.isEmpty())
+    emit reported(done);
 }
 
 void frmEQUIPES::tellNotWritten() {

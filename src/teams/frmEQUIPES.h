@@ -89,6 +89,7 @@ class frmEQUIPES : public ChildWindow {
   [[nodiscard]] bool isReadOnly() const;
   [[nodiscard]] TeamRecord teamFields() const;
   void warn(const QString& text);
+  void tellSaved(const QString& done = {});
   void tellNotWritten();
 
   TeamStore& m_teams;

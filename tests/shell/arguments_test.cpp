@@ -1,6 +1,9 @@
 #include "shell/Arguments.h"
 
+#include "resources/tables.h"
+
 #include <gtest/gtest.h>
+#include <map>
 
 namespace hooptab {
 namespace {
@@ -15,12 +18,12 @@ TEST(Arguments, WithoutWordsAskForNothing) {
   EXPECT_EQ(none.colourScheme, std::nullopt);
   EXPECT_TRUE(none.games.empty());
   EXPECT_FALSE(none.asksForHelp);
-  EXPECT_EQ(none.error, "");
+  EXPECT_FALSE(none.wrong);
 }
 
 TEST(Arguments, OptionsAndGamesComeInAnyOrder) {
   const Arguments all = parse({"A B.GAM", "--folder", "../program", "--dark", "/tmp/c.gam", "--light"});
-  EXPECT_EQ(all.error, "");
+  EXPECT_FALSE(all.wrong);
   EXPECT_EQ(all.folder, "/home/coach/program");
   EXPECT_EQ(all.colourScheme, ColourScheme::Light) << "the last one counts";
   EXPECT_EQ(all.games, (std::vector<std::string>{"/home/coach/games/A B.GAM", "/tmp/c.gam"}));
@@ -39,7 +42,7 @@ TEST(Arguments, BehindTwoDashesEveryWordIsAGame) {
 TEST(Arguments, AReportIsTakenWithItsOptions) {
   const Arguments all =
       parse({"--report", "scorecard", "-o", "x/box.pdf", "--lang=fr", "--paper", "letter", "A.GAM"});
-  EXPECT_EQ(all.error, "");
+  EXPECT_FALSE(all.wrong);
   ASSERT_TRUE(all.report);
   EXPECT_EQ(all.report->kind, "scorecard");
   EXPECT_EQ(all.report->format, "pdf") << "the ending of the file";
@@ -57,15 +60,40 @@ TEST(Arguments, AReportIsTakenWithItsOptions) {
                                              {"--report", "a", "-o", "b", "1.GAM", "2.GAM"},
                                              {"--report", "a", "-o", "b", "--lang", "de"},
                                              {"--report", "a", "-o", "b", "--paper=a5"}})
-    EXPECT_NE(parse(wrong).error, "") << wrong.size();
+    EXPECT_TRUE(parse(wrong).wrong) << wrong.size();
 }
 
-TEST(Arguments, WrongUseIsNamed) {
+TEST(Arguments, WrongUseIsNamedInTheLanguageThatIsAskedFor) {
+  Texts texts;
   for (const char* unknown : {"--drak", "-d", "--folders", "--dark=1"})
-    EXPECT_EQ(parse({unknown}).error, std::string("unknown option ") + unknown);
-  EXPECT_NE(parse({"--folder"}).error, "");
-  EXPECT_NE(parse({"--folder="}).error, "");
-  EXPECT_NE(parse({"--folder", ""}).error, "");
+    EXPECT_EQ(inWords(parse({unknown}).wrong, texts), std::string("there is no option ") + unknown);
+  EXPECT_TRUE(parse({"--folder"}).wrong);
+  EXPECT_TRUE(parse({"--folder="}).wrong);
+  EXPECT_TRUE(parse({"--folder", ""}).wrong);
+  EXPECT_EQ(inWords(parse({"--lang", "YYY"}).wrong, texts), "--lang cannot be YYY");
+
+  texts.setLanguage(languageOf({"--bad", "--lang=fr"}, Language::English));
+  EXPECT_EQ(inWords(parse({"--bad", "--lang=fr"}).wrong, texts), "il n'y a pas d'option --bad");
+  EXPECT_EQ(languageOf({"--lang", "xx", "--", "--lang", "fr"}, Language::English), Language::English);
+}
+
+TEST(Arguments, TheLanguageStandsForItself) {
+  EXPECT_EQ(parse({"--lang", "fr"}).language, Language::French);
+  EXPECT_FALSE(parse({"--lang", "fr"}).wrong || parse({"--lang", "fr"}).report);
+}
+
+// Every word that is typed stands on both pages, and as often.
+TEST(UsagePages, NameTheSameOptionsInBothLanguages) {
+  for (const UsagePage& page : {programUsage(), commandLineUsage()}) {
+    const auto options = [](std::string_view text) {
+      std::map<std::string, int> found;
+      for (std::size_t at = text.find("--"); at != std::string_view::npos; at = text.find("--", at + 2))
+        ++found[std::string(text.substr(at, text.find_first_not_of("abcdefghijklmnopqrstuvwxyz-", at) - at))];
+      return found;
+    };
+    EXPECT_EQ(options(page.english), options(page.french));
+    EXPECT_GT(options(page.english).size(), 8U);
+  }
 }
 
 } // namespace

@@ -440,6 +440,28 @@ TEST_F(MainWindowTest, BringsAGameToTheFrontThatIsOpenAlready) {
   EXPECT_EQ(qobject_cast<frmVIEW*>(area().currentSubWindow()->widget())->path(), first);
 }
 
+TEST_F(MainWindowTest, GamesOfASecondStartLeaveTheLiveWindowInFront) {
+  const QString card = makeGame("CARD.GAM");
+  dialogs.nextFile = makeGame("LIVE.GAM");
+  action("LIVEOpen").trigger();
+  settings->lastGameFolder = folder();
+  const QWidget* focused = QApplication::focusWidget();
+  window->openFromElsewhere({makeWrongFile()});
+  EXPECT_EQ(settings->lastGameFolder, folder()) << "a file that was refused is from nowhere";
+  window->openFromElsewhere({card});
+  EXPECT_TRUE(dialogs.shown.empty()) << "what was refused is told beside the game";
+  ASSERT_EQ(scorecards().size(), 1);
+  EXPECT_EQ(area().currentSubWindow()->widget(), area().findChild<frmLIVE*>());
+  EXPECT_EQ(QApplication::focusWidget(), focused);
+  EXPECT_EQ(settings->lastGameFolder, fromQt(games.path()));
+
+  action("CLOSELIVEMANUAL").trigger();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  window->openFromElsewhere({makeWrongFile(), makeGame("NEXT.GAM")});
+  EXPECT_EQ(dialogs.shown.size(), 1u);
+  EXPECT_EQ(qobject_cast<frmVIEW*>(area().currentSubWindow()->widget())->path(), fileIn(games, "NEXT.GAM"));
+}
+
 TEST_F(MainWindowTest, SwitchesTheLanguageOfEverythingThatIsOpen) {
   window->openGame(makeGame("A.GAM"));
   const QString englishToolTip = action("VwOPEN").toolTip();
@@ -626,6 +648,10 @@ TEST_F(MainWindowTest, EntersTotalsInTheirOwnWindowWhichMakesRoomForALiveGame) {
   report->parentWidget()->close();
 
   count();
+  window->openGame(path);
+  QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+  ASSERT_EQ(GameFile(store, fromQt(path)).read(game), GameFileProblem::None);
+  EXPECT_EQ(game.events.size(), 3u) << "the key is not for what is behind";
   for (const QString& other : {second, live}) {
     open(other);
     EXPECT_EQ(pathOfManual(), path) << "stays while the totals are not saved";
@@ -808,6 +834,12 @@ TEST_F(MainWindowTest, SaysWhatIsNotOnDiskAndWritesItWhenItCan) {
   EXPECT_EQ(texts.language(), Language::French) << "the choice counts all the same";
   EXPECT_EQ(setting("LANGUE"), "0");
 
+  EXPECT_FALSE(window->close()) << "the user stays";
+  EXPECT_EQ(dialogs.shown.back().kind, Kind::AskToSave);
+  dialogs.nextSaveChoice = SaveChoice::Discard;
+  EXPECT_TRUE(window->close());
+  window->show();
+
   fs::permissions(settings->path(), fs::perms::owner_read | fs::perms::owner_write);
   EXPECT_TRUE(QTest::qWaitFor([&] { return !unsaved.isVisible(); }, 10000));
   EXPECT_EQ(setting("LANGUE"), "4000");
@@ -829,6 +861,23 @@ TEST_F(MainWindowTest, TellsOfSettingsThatWereKeptAside) {
       << fromQt(dialogs.shown[0].text);
 }
 
+TEST_F(MainWindowTest, TilesInsideItsAreaAndForgetsNoSize) {
+  for (const char* name : {"a.GAM", "b.GAM", "c.GAM"})
+    window->openGame(makeGame(name));
+  action("windowTile").trigger();
+  EXPECT_EQ(window->size(), QSize(1366, 768)) << "the windows scroll instead";
+  const QList<QMdiSubWindow*> tiles = area().subWindowList();
+  for (const QMdiSubWindow* tile : tiles)
+    for (const QMdiSubWindow* other : tiles)
+      EXPECT_TRUE(tile == other || !tile->geometry().intersects(other->geometry()));
+
+  const QSize size = tiles[0]->size() + QSize(37, 11);
+  tiles[0]->resize(size);
+  tiles[0]->close();
+  window->openGame(makeGame("d.GAM"));
+  EXPECT_EQ(area().currentSubWindow()->size(), size.boundedTo(area().viewport()->size()));
+}
+
 TEST_F(MainWindowTest, OpensGuideAndWebPage) {
   action("AidHELP").trigger();
   ASSERT_EQ(dialogs.shown.size(), 1u);
@@ -836,9 +885,16 @@ TEST_F(MainWindowTest, OpensGuideAndWebPage) {
   EXPECT_EQ(dialogs.shown[0].text,
             QStringLiteral("User guide not found, you can download it from the HOOPTAB web site"));
   const QString guide = programFolder.filePath(QStringLiteral("guide.pdf"));
-  QFile::copy(makeWrongFile(), guide);
+  const QString shipped = installed.filePath(QStringLiteral("guide.pdf"));
+  QFile::copy(makeWrongFile(), shipped);
   action("AidHELP").trigger();
-  EXPECT_EQ(dialogs.opened, QList<QUrl>{QUrl::fromLocalFile(guide)});
+  QFile::copy(shipped, guide);
+  action("AidHELP").trigger();
+  EXPECT_EQ(dialogs.opened, (QList<QUrl>{QUrl::fromLocalFile(shipped), QUrl::fromLocalFile(guide)}));
+  dialogs.opensDocuments = false;
+  action("AidHELP").trigger();
+  EXPECT_TRUE(dialogs.shown.back().text.contains(guide)) << "it is there, but nothing opens it";
+  dialogs.opensDocuments = true;
 
   fs::create_directories(installed.filePath(QStringLiteral("help")).toStdString());
   const QString french = installed.filePath(QStringLiteral("help/fr.html"));

@@ -46,7 +46,7 @@ TEST_F(ProgramFolderTest, WhatCannotBeUsedIsSaidAndNeverReplacedByAnotherPlace) 
     sources.commandLine = named;
     const ProgramFolder found = findProgramFolder(sources);
     EXPECT_EQ(found.path, named);
-    EXPECT_NE(message(found).find(named), std::string::npos);
+    EXPECT_NE(message(found, Texts()).find(named), std::string::npos);
     return found.problem;
   };
   EXPECT_EQ(problem(folder.path("mistyped")), ProgramFolderProblem::Absent);
@@ -56,7 +56,7 @@ TEST_F(ProgramFolderTest, WhatCannotBeUsedIsSaidAndNeverReplacedByAnotherPlace) 
   sources = {std::nullopt, "", "", folder.write("file", ""), ""};
   const ProgramFolder notMade = findProgramFolder(sources);
   EXPECT_EQ(notMade.problem, ProgramFolderProblem::CannotMake);
-  EXPECT_NE(message(notMade), "");
+  EXPECT_NE(message(notMade, Texts()), "");
 }
 
 } // namespace

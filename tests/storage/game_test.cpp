@@ -195,6 +195,9 @@ TEST_F(GameFileTest, PeriodsBehindTheLastAreReadCountedAndReplacedLikeOthers) {
   EXPECT_EQ(m_file.nextNumber(), 10);
   ASSERT_EQ(m_file.setDeleted({{300, "6"}}, true), GameFileProblem::None);
   EXPECT_NE(m_folder.read("g.GAM").find("\r\n6=E04:00,SPF,0-4\r\n"), std::string::npos);
+  // Headers that stand twice, of which readers see the first.
+  (void)m_folder.write("g.GAM", m_folder.read("g.GAM") +
+                                    "[Periode1]\r\n9=01:00,GFT,0-4\r\n[PERIODE300]\r\n1=02:00,GFT,0-4\r\n");
   ASSERT_EQ(m_file.create({}, {}, {}), GameFileProblem::None);
   EXPECT_EQ(m_folder.read("g.GAM").find("GF"), std::string::npos) << "nothing of the old game is left";
 }

@@ -1,6 +1,7 @@
 #include "storage/Settings.h"
 
 #include "storage/Module1.h"
+#include "storage/PathText.h"
 #include "storage/codepage.h"
 #include "support/TemporaryFolder.h"
 
@@ -250,6 +251,19 @@ TEST_F(SettingsTest, SavedChoicesAreThereAtTheNextStart) {
   EXPECT_EQ(next.lastGameFolder, folder.path("Été"));
 }
 
+TEST_F(SettingsTest, AFolderOutsideTheCodePageIsFoundAgain) {
+  ASSERT_EQ(settings.prepare(texts), Settings::Preparation::FirstRun);
+  for (const char* name : {"Été 100%", "Матчи 💡", "%41", " blanks "}) {
+    settings.lastGameFolder = folder.path(name);
+    std::filesystem::create_directory(settings.lastGameFolder);
+    ASSERT_TRUE(settings.saveLastFolders());
+    Settings next(store, folder.path());
+    next.read();
+    EXPECT_EQ(next.lastGameFolder, folder.path(name));
+  }
+  EXPECT_EQ(pathValue("/home/é/games"), "/home/é/games") << "as others read it, where the file holds it";
+}
+
 TEST_F(SettingsTest, AFirstStartOnAFullDiskGoesOnInMemoryAndIsWrittenLaterInOrder) {
   disk.isFull = true;
   EXPECT_EQ(settings.prepare(texts), Settings::Preparation::WriteFailed);
@@ -269,7 +283,7 @@ TEST_F(SettingsTest, AFirstStartOnAFullDiskGoesOnInMemoryAndIsWrittenLaterInOrde
 
 TEST_F(SettingsTest, AFileThatCannotBeReadIsLeftAlone) {
   std::filesystem::create_directory(folder.path("CONFIG.INI"));
-  EXPECT_EQ(settings.prepare(texts), Settings::Preparation::WriteFailed);
+  EXPECT_EQ(settings.prepare(texts), Settings::Preparation::CannotBeRead);
   EXPECT_FALSE(settings.saveLanguage(Language::French));
 
   // Once it is readable again, what it holds counts, and what was chosen meanwhile is added to it.

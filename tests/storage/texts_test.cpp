@@ -2,6 +2,7 @@
 
 #include "resources/tables.h"
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 #include "storage/codepage.h"
 
 #include <algorithm>
@@ -211,6 +212,11 @@ TEST(Texts, FollowTheLanguageInUse) {
   texts.setLanguage(Language::English);
   EXPECT_EQ(texts.caption(1075), "1075 START");
   EXPECT_EQ(texts.withPlaceholder(1374, "12"), "Loading the 12 Games Found...");
+}
+
+TEST(Texts, FillEveryPlaceOnceWhateverIsPutIn) {
+  EXPECT_EQ(withPlaceholders(english(1801), "YYY", "XXX"), "YYY: XXX");
+  EXPECT_EQ(withPlaceholders("ZZZ of XXX, XXXX, YY", "YYYY", "-", "XXX"), "XXX of YYYY, YYYYX, YY");
 }
 
 TEST(Texts, TakeTheOldOffsetForFrench) {

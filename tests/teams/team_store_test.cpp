@@ -99,21 +99,24 @@ TEST_F(TeamStoreTest, PlayersAreRewrittenInTheirOrderAndUneditedOnesLetterForLet
   EXPECT_TRUE(file().ends_with("[TEAM]\r\n3=0\r\n[OTHER]\r\na=b\r\n")) << file();
 }
 
-TEST_F(TeamStoreTest, AFailedWriteChangesNothing) {
+TEST_F(TeamStoreTest, AFailedWriteLeavesTheFileAndIsMadeUpFor) {
   write("[TEAM]\r\n1=BEES,A,Bees,,,8,4,5,5,2,255,1\r\n[1]\r\n4=2,Ann,,,,,\r\n");
   const std::string before = file();
   for (int call = 0;; ++call) {
     disk.reset();
     disk.failAt = call;
     disk.staysBroken = true;
-    const bool isSaved = teams.save(1, teams.read("1"), {});
+    const bool isKept = teams.save(1, teams.read("1"), {});
     if (!disk.hasFailed)
       break;
-    // The old file or the new one, and saved means the new one. (With only the folder's sync failing it is
-    // new too.)
-    const bool isNew = file().find("[1]") == std::string::npos && file().find("1=BEES") != std::string::npos;
-    EXPECT_TRUE(isNew || (!isSaved && file() == before)) << call;
+    const auto isNew = [this] {
+      return file().find("[1]") == std::string::npos && file().find("1=BEES") != std::string::npos;
+    };
+    EXPECT_TRUE(isNew() || file() == before) << call;
     disk.reset();
+    EXPECT_TRUE(settings.retry());
+    EXPECT_EQ(isNew(), isKept) << call;
+    EXPECT_TRUE(isKept == teams.players("1").empty()) << call;
     folder.write("CONFIG.INI", before);
   }
   EXPECT_NE(file(), before);
