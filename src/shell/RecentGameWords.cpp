@@ -1,6 +1,7 @@
 #include "shell/RecentGameWords.h"
 
 #include "appearance/relabel.h"
+#include "storage/PeriodName.h"
 
 #include <QDate>
 #include <QFileInfo>
@@ -10,14 +11,13 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kOvertime = 1022;
 constexpr int kFinal = 1552;
 constexpr int kPeriod = 1590;
 constexpr int kNotFinished = 2051;
 constexpr int kCannotBeRead = 2632;
 
 QString overtimeText(const RecentGame& game, const Texts& texts) {
-  return QStringLiteral("%1%2").arg(caption(texts, kOvertime)).arg(game.period - game.regularPeriods);
+  return toQt(periodName(game.period, game.regularPeriods, texts));
 }
 
 bool isInOvertime(const RecentGame& game) {
