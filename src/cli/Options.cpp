@@ -65,15 +65,22 @@ class Parser {
     } else if (word == "--version") {
       answer(CliCommand::Version);
     } else if (word == "--json" || word == "--csv") {
-      const OutputFormat format = word == "--json" ? OutputFormat::Json : OutputFormat::Csv;
-      if (m_options.format != OutputFormat::Text && m_options.format != format)
-        m_options.error = "--json and --csv do not go together";
-      m_options.format = format;
+      setFormat(word == "--json" ? OutputFormat::Json : OutputFormat::Csv);
+    } else if (const auto reader = valueOf(word, "--csv-for")) {
+      setFormat(OutputFormat::Csv);
+      m_options.csvReader = CsvReader::French;
+      if (*reader != "fr")
+        m_options.error = "--csv-for needs fr";
     } else if (const auto language = valueOf(word, "--lang")) {
       setLanguage(*language);
     } else {
       takeSeasonOption(word);
     }
+  }
+  void setFormat(OutputFormat format) {
+    if (m_options.format != OutputFormat::Text && m_options.format != format)
+      m_options.error = "--json and --csv do not go together";
+    m_options.format = format;
   }
   void takeSeasonOption(std::string_view word) {
     SeasonOptions& season = m_options.season;
@@ -95,9 +102,22 @@ class Parser {
       if (number < 0 || gameTypeOf(number) != number)
         m_options.error = "--type needs a type of game, 0 to 5 or 9; there is no type " + std::string(*type);
       season.type = number;
+    } else if (const auto games = valueOf(word, "--min-games")) {
+      setNumber(season.minimum.gamesPercent, "--min-games", *games, Qualification::kMostPercent);
+    } else if (const auto minutes = valueOf(word, "--min-minutes")) {
+      setNumber(season.minimum.minutes, "--min-minutes", *minutes, Qualification::kMostMinutes);
+    } else if (const auto attempts = valueOf(word, "--min-attempts")) {
+      setNumber(season.minimum.attempts, "--min-attempts", *attempts, Qualification::kMostAttempts);
     } else {
       m_options.error = "there is no option " + std::string(word);
     }
+  }
+  void setNumber(int& number, const std::string& option, std::string_view text, int most) {
+    const int given = Module1::wholeNumber(text);
+    if (given < 0 || given > most)
+      m_options.error = option + " needs a whole number, 0 to " + std::to_string(most);
+    else
+      number = given;
   }
   void setDay(std::optional<int>& day, const std::string& option, std::string_view text) {
     day = calendarDay(text);
@@ -131,6 +151,8 @@ class Parser {
       m_options.error = "there is no command " + word;
   }
   void checkWhole() {
+    if (m_options.csvReader == CsvReader::French)
+      m_options.language = Language::French; // its heads are French
     if (!m_command)
       m_options.error = "a command is missing";
     else if (m_options.format != OutputFormat::Text && *m_command != CliCommand::Box &&
@@ -178,15 +200,21 @@ Commands:
   verify FILE...   names what is wrong in games; a warning alone leaves a game good
   season FOLDER    the statistics of all finished games of a folder; as tables of text, or:
     --json           as JSON, with lines of players and leaders; the same in every language
-    --csv            as CSV, players and lines in totals, per game and per minute
+    --csv            as CSV, players and lines in totals, per game, per minute and per 40 minutes
     --team ABB-CAT   only games of this team, and its own players: LYNX-AAA
     --from, --to D   only games from and up to a date, yyyy-mm-dd
     --type N         only games of a type: 0 practice, 1 pre-season, 2 season, 3 play-off,
                      4 tournament, 5 exhibition, 9 other
     --subfolders     also the games of its sub-folders
     --once           counts a game once whose file is there twice
+    --min-games P, --min-minutes M, --min-attempts A
+                     what players need to lead: P % of the games of their team (70), M minutes (10)
+                     and, for percentages, A attempts (2) for each game of the team; rows of averages
+                     under it are marked with *
 
 Options:
+  --csv-for fr     as --csv, for spreadsheets of a French-speaking system: ";" between the cells, a
+                   decimal comma, a byte-order mark, and French heads
   --lang en|fr     the language of tables and words (usually that of LANG)
   --help           this text
   --version        the program's version

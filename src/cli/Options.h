@@ -1,6 +1,8 @@
 // The command line of hooptab-cli. Only takes it apart: what is asked for is done by main.
 #pragma once
 
+#include "season/Qualification.h"
+#include "storage/DelimitedText.h"
 #include "storage/Texts.h"
 
 #include <cstdint>
@@ -20,11 +22,13 @@ struct SeasonOptions {
   std::optional<int> type;
   bool withSubfolders = false;
   bool countsCopiesOnce = false;
+  Qualification minimum;
 };
 
 struct Options {
   CliCommand command = CliCommand::Help;
   OutputFormat format = OutputFormat::Text;
+  CsvReader csvReader = CsvReader::Anybody;
   Language language = Language::English;
   SeasonOptions season;
   std::vector<std::string> files; // for a season its folder

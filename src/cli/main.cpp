@@ -84,11 +84,12 @@ class Program {
   std::string seasonReport(const SeasonStatistics& statistics) const {
     const std::optional<SeasonId> team = statistics.catalogue().teamOf(m_options.season.team);
     switch (m_options.format) {
-    case OutputFormat::Json: return seasonJson(statistics, team);
-    case OutputFormat::Csv: return seasonCsv(statistics, m_texts);
+    case OutputFormat::Json: return seasonJson(statistics, team, m_options.season.minimum);
+    case OutputFormat::Csv:
+      return seasonCsv(statistics, m_options.season.minimum, m_texts, m_options.csvReader);
     case OutputFormat::Text: break;
     }
-    return seasonText(statistics, team, m_texts);
+    return seasonText(statistics, team, m_options.season.minimum, m_texts);
   }
   static std::string teamsMet(const GameCatalogue& catalogue) {
     std::string text;
@@ -106,9 +107,12 @@ class Program {
       const ListedGame& game = catalogue.games()[index];
       if (!game.outOfRange.empty())
         fault(game.path + ": " + kOutOfRange + game.outOfRange);
-      if (game.copyOf && !m_options.season.countsCopiesOnce)
-        complain(game.path + ": the same game as " + catalogue.games()[*game.copyOf].path +
-                 ", and counted again; --once counts it once");
+      if (!game.copyOf || m_options.season.countsCopiesOnce)
+        continue;
+      const ListedGame& other = catalogue.games()[*game.copyOf];
+      complain(game.path + ": the same game as " + other.path +
+               (game.fingerprint == other.fingerprint ? ", and" : ", with other events (one is cut?), and") +
+               " counted again; --once counts it once");
     }
   }
   void show(const std::string& file) {
@@ -130,7 +134,7 @@ class Program {
       return eventsText(card.game(), m_texts);
     switch (m_options.format) {
     case OutputFormat::Json: return boxJson(card);
-    case OutputFormat::Csv: return boxCsv(card, m_texts);
+    case OutputFormat::Csv: return boxCsv(card, m_texts, m_options.csvReader);
     case OutputFormat::Text: break;
     }
     return boxText(card, m_texts);

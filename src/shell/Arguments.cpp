@@ -1,5 +1,7 @@
 #include "shell/Arguments.h"
 
+#include "storage/Module1.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <string_view>
@@ -14,8 +16,9 @@ std::string absolutePath(const std::string& path, const std::string& currentFold
 }
 
 // What belongs to a report and takes a value.
-constexpr std::string_view kReportOptions[] = {"--report", "--format", "--output", "--team", "--player",
-                                               "--line",   "--title",  "--lang",   "--paper"};
+constexpr std::string_view kReportOptions[] = {
+    "--report", "--format", "--output",  "--team",      "--player",      "--line",         "--title",
+    "--lang",   "--paper",  "--csv-for", "--min-games", "--min-minutes", "--min-attempts", "--top"};
 
 class Parser {
  public:
@@ -79,6 +82,10 @@ class Parser {
     else
       m_result.folder = absolutePath(value, m_currentFolder);
   }
+  static bool isUpTo(const std::string& value, int most) {
+    const int number = Module1::wholeNumber(value);
+    return number >= 0 && number <= most;
+  }
   void takeOfReport(const std::string& option, const std::string& value) {
     if (!m_result.report)
       m_result.report.emplace();
@@ -99,6 +106,16 @@ class Parser {
       report.language = value == "fr" ? Language::French : Language::English;
     else if (option == "--paper" && (value == "a4" || value == "letter"))
       report.isLetter = value == "letter";
+    else if (option == "--csv-for" && value == "fr")
+      report.isForFrenchSpreadsheets = true;
+    else if (option == "--top" && Module1::wholeNumber(value) >= 0)
+      report.most = Module1::wholeNumber(value);
+    else if (option == "--min-games" && isUpTo(value, Qualification::kMostPercent))
+      report.minimum.gamesPercent = Module1::wholeNumber(value);
+    else if (option == "--min-minutes" && isUpTo(value, Qualification::kMostMinutes))
+      report.minimum.minutes = Module1::wholeNumber(value);
+    else if (option == "--min-attempts" && isUpTo(value, Qualification::kMostAttempts))
+      report.minimum.attempts = Module1::wholeNumber(value);
     else
       m_result.error = option + " cannot be " + value;
   }
@@ -164,7 +181,17 @@ std::string usage() {
          "  --title TEXT   in place of the report's own title\n"
          "  --lang en|fr   the language; without it, that of the settings\n"
          "  --paper a4|letter\n"
-         "                 the paper, A4 without it\n";
+         "                 the paper, A4 without it\n"
+         "  --top N        of the players or lines of a season, the first N; 0: all; without it a PDF has "
+         "the first 25\n"
+         "                 of more than 60\n"
+         "  --csv-for fr   csv for spreadsheets of a French-speaking system: semicolons, decimal commas, "
+         "French heads\n"
+         "  --min-games P, --min-minutes M, --min-attempts A\n"
+         "                 what players need to lead a season: P % of the games of their team (70), M "
+         "minutes "
+         "(10)\n"
+         "                 and, for percentages, A attempts (2) for each game of the team\n";
 }
 
 } // namespace hooptab
