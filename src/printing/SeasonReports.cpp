@@ -312,7 +312,8 @@ class SeasonReportMaker {
   void addLeaders(SeasonView view) {
     const Leaders leaders(m_statistics.players(), view, m_texts, m_choice.minimum);
     for (const StatisticLeaders& statistic : leaders.statistics()) {
-      if (statistic.leaders.empty())
+      // Points stay where nobody leads at all, so that every file has its table.
+      if (statistic.leaders.empty() && statistic.column != seasonColumn("PTS").index)
         continue;
       ReportTable table;
       const std::string header = seasonHeader(statistic.column, SeasonTable::Players, m_texts);

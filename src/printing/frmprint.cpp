@@ -38,6 +38,8 @@ constexpr int kTitle = 1438;
 constexpr int kPrinterError = 1402;
 
 constexpr int kMargin = 8;
+// Of what is kept; before it there was none, and the page width that was kept then was nobody's choice.
+constexpr qint32 kArrangementVersion = 2;
 constexpr int kTitleWidth = 260;
 constexpr int kStepMilliseconds = 20; // of laying out, before the window is served again
 constexpr qsizetype kLongestTitle = 120;
@@ -379,19 +381,21 @@ void frmprint::save(ReportForm form) {
 QByteArray frmprint::arrangement() const {
   QByteArray state;
   QDataStream stream(&state, QIODevice::WriteOnly);
-  stream << static_cast<qint32>(m_paper->currentIndex()) << static_cast<qint32>(m_view->fit())
-         << m_view->zoom() << m_view->isFacing();
+  stream << kArrangementVersion << static_cast<qint32>(m_paper->currentIndex())
+         << static_cast<qint32>(m_view->fit()) << m_view->zoom() << m_view->isFacing();
   return state;
 }
 
 void frmprint::restoreArrangement(const QByteArray& state) {
   QDataStream stream(state);
+  qint32 version = 0;
   qint32 paper = 0;
   qint32 fit = 0;
   double zoom = 1;
   bool isFacing = false;
-  stream >> paper >> fit >> zoom >> isFacing;
-  if (stream.status() != QDataStream::Ok || paper < 0 || paper > 1 || fit < 0 || fit > 2)
+  stream >> version >> paper >> fit >> zoom >> isFacing;
+  if (stream.status() != QDataStream::Ok || version != kArrangementVersion || paper < 0 || paper > 1 ||
+      fit < 0 || fit > 2)
     return;
   m_paper->setCurrentIndex(paper);
   m_facing->setChecked(isFacing);
