@@ -409,8 +409,10 @@ class SeasonReportMaker {
     if (seasonColumn(column).name == "rating") // whose words are its formula
       return text(m_texts, kRating);
     const std::string_view name = seasonColumn(column).name;
-    if (!kindOf(column).empty() && (name.ends_with('M') || name.ends_with('A')))
-      return m_texts.withPlaceholder(name.ends_with('M') ? kMadeOf : kAttemptsOf,
+    if (!kindOf(column).empty() && !name.ends_with("PTS"))
+      return m_texts.withPlaceholder(name.ends_with('M')   ? kMadeOf
+                                     : name.ends_with('A') ? kAttemptsOf
+                                                           : kPercentageOf,
                                      titleOfKind(kindOf(column), m_texts));
     return capitalised(seasonColumnWords(column, m_settings, m_texts, m_statistics.labels()));
   }
