@@ -1,20 +1,29 @@
 #include "cli/Reports.h"
 #include "scorecard/BoxScore.h"
-#include "storage/DelimitedText.h"
 
 namespace hooptab {
 
-std::string boxCsv(const Scorecard& card, const Texts& texts) {
-  std::vector<std::string> header = {"team"};
-  for (const int column : boxDisplayOrder())
-    header.emplace_back(boxColumns()[static_cast<std::size_t>(column - 1)].name);
-  std::string csv = csvRow(header);
+namespace {
+
+constexpr int kTeam = 1305;
+
+} // namespace
+
+std::string boxCsv(const Scorecard& card, const Texts& texts, CsvReader reader) {
+  const bool isFrench = reader == CsvReader::French;
+  std::vector<std::string> header = {isFrench ? std::string(texts.text(kTeam)) : "team"};
+  for (const int index : boxDisplayOrder()) {
+    const BoxColumn& column = boxColumns()[static_cast<std::size_t>(index - 1)];
+    header.emplace_back(isFrench && column.headerText != 0 ? texts.text(column.headerText) : column.name);
+  }
+  std::string csv(isFrench ? kByteOrderMark : std::string_view());
+  csv += csvRow(header, reader);
   for (int team = 0; team < 2; ++team) {
     for (const BoxRow& row : boxRows(card.game(), card.state(), team, BoxView::Players, texts)) {
       std::vector<std::string> cells = {card.game().details.abbreviation[team]};
       for (const int column : boxDisplayOrder())
         cells.push_back(boxCell(row, column));
-      csv += csvRow(cells);
+      csv += csvRow(cells, reader);
     }
   }
   return csv;

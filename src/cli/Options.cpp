@@ -23,6 +23,8 @@ constexpr int kGoesWith = 2855;
 constexpr int kFolderMissing = 2856;
 constexpr int kFileMissing = 2857;
 constexpr int kOneFile = 2858;
+constexpr int kCsvForNeeds = 2706;
+constexpr int kNeedsNumber = 2707;
 
 std::optional<CliCommand> commandOf(std::string_view word) {
   if (word == "box")
@@ -69,15 +71,22 @@ class Parser {
     } else if (word == "--version") {
       answer(CliCommand::Version);
     } else if (word == "--json" || word == "--csv") {
-      const OutputFormat format = word == "--json" ? OutputFormat::Json : OutputFormat::Csv;
-      if (m_options.format != OutputFormat::Text && m_options.format != format)
-        m_options.wrong = {kNotTogether, "--json", "--csv"};
-      m_options.format = format;
+      setFormat(word == "--json" ? OutputFormat::Json : OutputFormat::Csv);
+    } else if (const auto reader = valueOf(word, "--csv-for")) {
+      setFormat(OutputFormat::Csv);
+      m_options.csvReader = CsvReader::French;
+      if (*reader != "fr")
+        m_options.wrong = {kCsvForNeeds};
     } else if (const auto language = valueOf(word, "--lang")) {
       setLanguage(*language);
     } else {
       takeSeasonOption(word);
     }
+  }
+  void setFormat(OutputFormat format) {
+    if (m_options.format != OutputFormat::Text && m_options.format != format)
+      m_options.wrong = {kNotTogether, "--json", "--csv"};
+    m_options.format = format;
   }
   void takeSeasonOption(std::string_view word) {
     SeasonOptions& season = m_options.season;
@@ -101,9 +110,22 @@ class Parser {
       if (number < 0 || gameTypeOf(number) != number)
         m_options.wrong = {kNeedsType, std::string(*type)};
       season.type = number;
+    } else if (const auto games = valueOf(word, "--min-games")) {
+      setNumber(season.minimum.gamesPercent, "--min-games", *games, Qualification::kMostPercent);
+    } else if (const auto minutes = valueOf(word, "--min-minutes")) {
+      setNumber(season.minimum.minutes, "--min-minutes", *minutes, Qualification::kMostMinutes);
+    } else if (const auto attempts = valueOf(word, "--min-attempts")) {
+      setNumber(season.minimum.attempts, "--min-attempts", *attempts, Qualification::kMostAttempts);
     } else {
       m_options.wrong = {kNoOption, std::string(word)};
     }
+  }
+  void setNumber(int& number, const std::string& option, std::string_view text, int most) {
+    const int given = Module1::wholeNumber(text);
+    if (given < 0 || given > most)
+      m_options.wrong = {kNeedsNumber, option, std::to_string(most)};
+    else
+      number = given;
   }
   void setDay(std::optional<int>& day, const std::string& option, std::string_view text) {
     day = calendarDay(text);
@@ -141,6 +163,8 @@ class Parser {
            (command == CliCommand::Verify && format == OutputFormat::Json);
   }
   void checkWhole() {
+    if (m_options.csvReader == CsvReader::French)
+      m_options.language = Language::French; // its heads are French
     if (!m_command)
       m_options.wrong = {kCommandMissing};
     else if (!fits(m_options.format, *m_command))

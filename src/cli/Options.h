@@ -1,7 +1,9 @@
 // The command line of hooptab-cli. Only takes it apart: what is asked for is done by main.
 #pragma once
 
+#include "season/Qualification.h"
 #include "storage/CommandLine.h"
+#include "storage/DelimitedText.h"
 
 #include <cstdint>
 #include <optional>
@@ -21,11 +23,13 @@ struct SeasonOptions {
   bool withSubfolders = false;
   bool countsCopiesOnce = false;
   bool leavesOutWrong = false;
+  Qualification minimum;
 };
 
 struct Options {
   CliCommand command = CliCommand::Help;
   OutputFormat format = OutputFormat::Text;
+  CsvReader csvReader = CsvReader::Anybody;
   Language language = Language::English;
   SeasonOptions season;
   std::vector<std::string> files; // for a season its folder

@@ -4,6 +4,7 @@
 
 #include "cli/JsonWriter.h"
 #include "scorecard/Scorecard.h"
+#include "storage/DelimitedText.h"
 #include "storage/Texts.h"
 
 #include <optional>
@@ -18,7 +19,7 @@ namespace hooptab {
 // The same in every language: keys, and positions in English.
 [[nodiscard]] std::string boxJson(const Scorecard& card);
 // All columns of the scorecard, after the team's abbreviation (RFC 4180).
-[[nodiscard]] std::string boxCsv(const Scorecard& card, const Texts& texts);
+[[nodiscard]] std::string boxCsv(const Scorecard& card, const Texts& texts, CsvReader reader);
 
 [[nodiscard]] std::string eventsText(const Game& game, const Texts& texts);
 

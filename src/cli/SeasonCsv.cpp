@@ -1,35 +1,71 @@
 #include "cli/SeasonReports.h"
 #include "season/SeasonColumns.h"
-#include "storage/DelimitedText.h"
 
 namespace hooptab {
 
 namespace {
 
-void addRows(std::string& csv, const SeasonStatistics& statistics, std::span<const SeasonRow> rows,
-             const std::string& table, int columns, const Texts& texts) {
-  constexpr const char* kViewNames[] = {"total", "perGame", "perMinute"};
-  for (const SeasonView view : kSeasonViews) {
-    for (const SeasonRow& row : rows) {
-      std::vector<std::string> cells = {table, kViewNames[static_cast<std::size_t>(view)],
-                                        statistics.catalogue().teams()[row.team].key};
-      for (int column = 1; column <= kSeasonColumnCount; ++column)
-        cells.push_back(column <= columns ? seasonCell(row, column, view, texts) : std::string());
-      csv += csvRow(cells);
+constexpr int kPlayers = 2100;
+constexpr int kLines = 2101;
+constexpr int kViews[] = {2118, 2119, 2120, 2720}; // by SeasonView
+constexpr int kTeam = 1305;
+constexpr int kTable = 2750;
+constexpr int kView = 2752;
+constexpr int kUnderMinimum = 2753;
+
+class SeasonCsv {
+ public:
+  SeasonCsv(const SeasonStatistics& statistics, const Qualification& minimum, const Texts& texts,
+            CsvReader reader)
+      : m_statistics(statistics), m_minimum(minimum), m_texts(texts), m_reader(reader) {}
+
+  std::string text() && {
+    if (m_reader == CsvReader::French)
+      m_csv = kByteOrderMark;
+    std::vector<std::string> header = {word("table", kTable), word("view", kView), word("team", kTeam)};
+    for (const SeasonColumn& column : seasonColumns())
+      header.push_back(column.headerText == 0 ? std::string(column.name)
+                                              : word(column.name, column.headerText));
+    header.push_back(word("underMinimum", kUnderMinimum));
+    m_csv += csvRow(header, m_reader);
+    addRows(SeasonTable::Players);
+    addRows(SeasonTable::Lines);
+    return std::move(m_csv);
+  }
+
+ private:
+  // A name that is the same in every language, but in French for French spreadsheets.
+  std::string word(std::string_view name, int french) const {
+    return std::string(m_reader == CsvReader::French ? m_texts.text(french) : name);
+  }
+  void addRows(SeasonTable table) {
+    const bool isOfLines = table == SeasonTable::Lines;
+    const int columns = isOfLines ? kSeasonLineColumnCount : kSeasonColumnCount;
+    for (const SeasonView view : kSeasonViews) {
+      const std::string viewName = word(seasonViewName(view), kViews[static_cast<std::size_t>(view)]);
+      for (const SeasonRow& row : isOfLines ? m_statistics.lines() : m_statistics.players()) {
+        std::vector<std::string> cells = {isOfLines ? word("lines", kLines) : word("players", kPlayers),
+                                          viewName, m_statistics.catalogue().teams()[row.team].key};
+        for (int column = 1; column <= kSeasonColumnCount; ++column)
+          cells.push_back(column <= columns ? seasonCell(row, column, view, m_texts) : std::string());
+        cells.emplace_back(m_minimum.isUnder(row, table, view) ? "1" : "0");
+        m_csv += csvRow(cells, m_reader);
+      }
     }
   }
-}
+
+  const SeasonStatistics& m_statistics;
+  const Qualification& m_minimum;
+  const Texts& m_texts;
+  const CsvReader m_reader;
+  std::string m_csv;
+};
 
 } // namespace
 
-std::string seasonCsv(const SeasonStatistics& statistics, const Texts& texts) {
-  std::vector<std::string> header = {"table", "view", "team"};
-  for (const SeasonColumn& column : seasonColumns())
-    header.emplace_back(column.name);
-  std::string csv = csvRow(header);
-  addRows(csv, statistics, statistics.players(), "players", kSeasonColumnCount, texts);
-  addRows(csv, statistics, statistics.lines(), "lines", kSeasonLineColumnCount, texts);
-  return csv;
+std::string seasonCsv(const SeasonStatistics& statistics, const Qualification& minimum, const Texts& texts,
+                      CsvReader reader) {
+  return SeasonCsv(statistics, minimum, texts, reader).text();
 }
 
 } // namespace hooptab

@@ -12,11 +12,12 @@ constexpr int kResultColumn = 3;
 
 class SeasonJson {
  public:
-  SeasonJson(const SeasonStatistics& statistics, std::optional<SeasonId> team)
-      : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_team(team) {}
+  SeasonJson(const SeasonStatistics& statistics, std::optional<SeasonId> team, const Qualification& minimum)
+      : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_team(team), m_minimum(minimum) {}
 
   std::string text() && {
     m_json.beginObject();
+    writeMinimum();
     writeGames();
     writeSkipped();
     m_json.name("players");
@@ -35,6 +36,16 @@ class SeasonJson {
   }
 
  private:
+  void writeMinimum() {
+    m_json.name("minimum");
+    m_json.beginObject();
+    m_json.beginLine();
+    m_json.member("gamesPercent", m_minimum.gamesPercent);
+    m_json.member("minutesPerTeamGame", m_minimum.minutes);
+    m_json.member("attemptsPerTeamGame", m_minimum.attempts);
+    m_json.endObject();
+    m_json.endLine();
+  }
   void writeGames() {
     m_json.name("games");
     m_json.beginArray();
@@ -49,11 +60,17 @@ class SeasonJson {
       m_json.member("visitorPoints", game.points[0]);
       m_json.member("home", m_catalogue.teams()[game.team[1]].key);
       m_json.member("homePoints", game.points[1]);
-      m_json.member("result", gameCell(m_catalogue, game, kResultColumn, m_team, m_english));
+      m_json.member("result", resultOf(game));
       m_json.endObject();
       m_json.endLine();
     }
     m_json.endArray();
+  }
+  // Without a team, the winner's abbreviation.
+  std::string resultOf(const ListedGame& game) const {
+    if (const std::optional<int> winner = game.winner(); winner && !m_team)
+      return m_catalogue.teams()[game.team[*winner]].abbreviation;
+    return gameCell(m_catalogue, game, kResultColumn, m_team, m_english);
   }
   void writeSkipped() {
     m_json.name("skipped");
@@ -75,7 +92,7 @@ class SeasonJson {
     m_json.member("number", row.number);
     m_json.member("name", row.name);
     m_json.member("position", positionText(row.positions.back(), m_english));
-    writeSums(row);
+    writeSums(row, SeasonTable::Players);
     m_json.endObject();
     m_json.endLine();
   }
@@ -84,21 +101,23 @@ class SeasonJson {
     m_json.beginLine();
     m_json.member("team", m_catalogue.teams()[row.team].key);
     m_json.member("line", m_catalogue.lines()[row.id].list);
-    writeSums(row);
+    m_json.member("players", row.players);
+    writeSums(row, SeasonTable::Lines);
     m_json.endObject();
     m_json.endLine();
   }
-  void writeSums(const SeasonRow& row) {
+  void writeSums(const SeasonRow& row, SeasonTable table) {
     m_json.member("games", row.games);
     writeNumbers(m_json, row.numbers);
     m_json.member("TR", row.numbers.rebounds());
     m_json.member("rank", row.rank);
-    writeAverages("perGame", row, SeasonView::PerGame);
-    writeAverages("perMinute", row, SeasonView::PerMinute);
+    for (const SeasonView view : {SeasonView::PerGame, SeasonView::PerMinute, SeasonView::PerForty})
+      writeAverages(row, table, view);
   }
-  void writeAverages(std::string_view name, const SeasonRow& row, SeasonView view) {
-    m_json.name(name);
+  void writeAverages(const SeasonRow& row, SeasonTable table, SeasonView view) {
+    m_json.name(seasonViewName(view));
     m_json.beginObject();
+    m_json.member("underMinimum", m_minimum.isUnder(row, table, view));
     for (const SeasonColumn& column : seasonColumns()) {
       if (column.index == kTimeColumn ||
           (column.index >= kFirstCountColumn && column.index <= kLastCountColumn))
@@ -107,13 +126,12 @@ class SeasonJson {
     m_json.endObject();
   }
   void writeLeaders() {
-    constexpr std::string_view kViewNames[] = {"total", "perGame", "perMinute"};
     m_json.name("leaders");
     m_json.beginObject();
     for (const SeasonView view : kSeasonViews) {
-      m_json.name(kViewNames[static_cast<std::size_t>(view)]);
+      m_json.name(seasonViewName(view));
       m_json.beginObject();
-      const Leaders leaders(m_statistics.players(), view, m_english);
+      const Leaders leaders(m_statistics.players(), view, m_english, m_minimum);
       for (const StatisticLeaders& statistic : leaders.statistics()) {
         m_json.name(seasonColumn(statistic.column).name);
         m_json.beginArray();
@@ -140,14 +158,16 @@ class SeasonJson {
   const SeasonStatistics& m_statistics;
   const GameCatalogue& m_catalogue;
   std::optional<SeasonId> m_team;
+  Qualification m_minimum;
   Texts m_english;
   JsonWriter m_json;
 };
 
 } // namespace
 
-std::string seasonJson(const SeasonStatistics& statistics, std::optional<SeasonId> team) {
-  return SeasonJson(statistics, team).text();
+std::string seasonJson(const SeasonStatistics& statistics, std::optional<SeasonId> team,
+                       const Qualification& minimum) {
+  return SeasonJson(statistics, team, minimum).text();
 }
 
 } // namespace hooptab

@@ -1,6 +1,8 @@
 #include "cli/SeasonReports.h"
 #include "cli/TextTable.h"
+#include "printing/ReportWords.h"
 #include "season/GameColumns.h"
+#include "season/SeasonWords.h"
 #include "storage/Utf8.h"
 
 #include <algorithm>
@@ -12,9 +14,7 @@ namespace {
 using Align = TextTable::Align;
 using Row = std::vector<std::string>;
 
-constexpr int kAverageGame = 1177;
-constexpr int kAverageMinute = 1179;
-constexpr int kPlayersTitle = 1180;
+constexpr int kViewTitles[] = {1180, 1177, 1179, 2720}; // by SeasonView
 constexpr int kLinesTitle = 1193;
 constexpr int kGames = 1194;
 constexpr int kWon = 1195;
@@ -24,9 +24,7 @@ constexpr int kTeam = 1305;
 constexpr int kGamesTitle = 1307;
 constexpr int kTeamTitle = 1363;
 constexpr int kNotRead = 2050;
-constexpr int kSameGame = 2056;
-constexpr int kShortTime = 2057;
-constexpr std::string_view kShortMark = " *";
+constexpr std::string_view kMark = " *"; // of averages that say little
 
 // The columns that a terminal has room for.
 constexpr std::string_view kColumns[] = {"No", "Name", "Pos", "G",   "Time", "PTS",   "TGM", "TGA",
@@ -35,20 +33,20 @@ constexpr std::string_view kColumns[] = {"No", "Name", "Pos", "G",   "Time", "PT
 
 class SeasonText {
  public:
-  SeasonText(const SeasonStatistics& statistics, std::optional<SeasonId> team, const Texts& texts)
-      : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_team(team), m_texts(texts) {}
+  SeasonText(const SeasonStatistics& statistics, std::optional<SeasonId> team, const Qualification& minimum,
+             const Texts& texts)
+      : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_team(team), m_minimum(minimum),
+        m_texts(texts) {}
 
   std::string text() const {
     std::string text =
-        word(kGamesTitle) + ": " + std::to_string(m_statistics.games().size()) + "\n" + gameTable();
+        labelled(kGamesTitle, std::to_string(m_statistics.games().size()), m_texts) + "\n" + gameTable();
     if (!m_statistics.teams().empty())
       text += "\n" + word(kTeamTitle) + "\n" + teamTable();
     if (!m_statistics.players().empty()) {
-      text += "\n" + word(kPlayersTitle) + "\n" + table(SeasonTable::Players, SeasonView::Totals);
-      text += "\n" + word(kAverageGame) + "\n" + table(SeasonTable::Players, SeasonView::PerGame);
-      text += "\n" + word(kAverageMinute) + "\n" + table(SeasonTable::Players, SeasonView::PerMinute);
-      if (std::ranges::any_of(m_statistics.players(), &SeasonRow::isShort))
-        text += word(kShortTime) + "\n";
+      for (const SeasonView view : kSeasonViews)
+        text += "\n" + word(kViewTitles[static_cast<std::size_t>(view)]) + "\n" +
+                table(SeasonTable::Players, view);
     }
     if (!m_statistics.lines().empty())
       text += "\n" + word(kLinesTitle) + "\n" + table(SeasonTable::Lines, SeasonView::Totals);
@@ -73,9 +71,7 @@ class SeasonText {
       Row cells;
       for (const int index : kShown)
         cells.push_back(printable(gameCell(m_catalogue, game, index, m_team, m_texts)));
-      cells.push_back(
-          game.copyOf ? printable(m_texts.withPlaceholder(kSameGame, m_catalogue.games()[*game.copyOf].path))
-                      : std::string());
+      cells.push_back(printable(copyWords(m_catalogue, game, m_texts)));
       table.addRow(std::move(cells));
     }
     return table.text();
@@ -106,17 +102,19 @@ class SeasonText {
     for (const int column : columns)
       table.addColumn(seasonHeader(column, kind, m_texts),
                       seasonColumnIsText(column) ? Align::Left : Align::Right);
-    for (const SeasonRow& row :
-         kind == SeasonTable::Players ? m_statistics.players() : m_statistics.lines()) {
+    const auto rows = kind == SeasonTable::Players ? m_statistics.players() : m_statistics.lines();
+    const auto isMarked = [&](const SeasonRow& row) { return m_minimum.isUnder(row, kind, view); };
+    for (const SeasonRow& row : rows) {
       Row cells = {printable(m_catalogue.teams()[row.team].key)};
       for (const int column : columns) {
         cells.push_back(printable(seasonCell(row, column, view, m_texts)));
-        if (column == kNameColumn && view == SeasonView::PerMinute && row.isShort())
-          cells.back() += kShortMark;
+        if (column == kNameColumn && isMarked(row))
+          cells.back() += kMark;
       }
       table.addRow(std::move(cells));
     }
-    return table.text();
+    return table.text() +
+           (std::ranges::any_of(rows, isMarked) ? markWords(m_minimum, kind, view, m_texts) + "\n" : "");
   }
 
   std::string notRead() const {
@@ -132,13 +130,15 @@ class SeasonText {
   const SeasonStatistics& m_statistics;
   const GameCatalogue& m_catalogue;
   std::optional<SeasonId> m_team;
+  Qualification m_minimum;
   const Texts& m_texts;
 };
 
 } // namespace
 
-std::string seasonText(const SeasonStatistics& statistics, std::optional<SeasonId> team, const Texts& texts) {
-  return SeasonText(statistics, team, texts).text();
+std::string seasonText(const SeasonStatistics& statistics, std::optional<SeasonId> team,
+                       const Qualification& minimum, const Texts& texts) {
+  return SeasonText(statistics, team, minimum, texts).text();
 }
 
 std::string skipReasonInEnglish(SkipReason reason) {

@@ -39,6 +39,7 @@ constexpr int kThereAre = 2869;
 constexpr int kSameGame = 2870;
 constexpr int kFailed = 2871;
 constexpr int kCountedAllTheSame = 2705;
+constexpr int kSameGameCut = 2708;
 
 class Program {
  public:
@@ -111,11 +112,12 @@ class Program {
   std::string seasonReport(const SeasonStatistics& statistics) const {
     const std::optional<SeasonId> team = statistics.catalogue().teamOf(m_options.season.team);
     switch (m_options.format) {
-    case OutputFormat::Json: return seasonJson(statistics, team);
-    case OutputFormat::Csv: return seasonCsv(statistics, m_texts);
+    case OutputFormat::Json: return seasonJson(statistics, team, m_options.season.minimum);
+    case OutputFormat::Csv:
+      return seasonCsv(statistics, m_options.season.minimum, m_texts, m_options.csvReader);
     case OutputFormat::Text: break;
     }
-    return seasonText(statistics, team, m_texts);
+    return seasonText(statistics, team, m_options.season.minimum, m_texts);
   }
   std::string teamsMet(const GameCatalogue& catalogue) const {
     std::string teams;
@@ -133,10 +135,13 @@ class Program {
       const ListedGame& game = catalogue.games()[index];
       if (!game.outOfRange.empty())
         fault(of(game.path, words(kOutOfRange, game.outOfRange)));
-      if (game.copyOf && !m_options.season.countsCopiesOnce)
-        complain(of(game.path, words(kSameGame, catalogue.games()[*game.copyOf].path)));
       if (game.wrongCount > 0)
         complain(of(game.path, words(kCountedAllTheSame, catalogue.whyWrong(game, m_texts))));
+      if (!game.copyOf || m_options.season.countsCopiesOnce)
+        continue;
+      const ListedGame& other = catalogue.games()[*game.copyOf];
+      complain(
+          of(game.path, words(game.fingerprint == other.fingerprint ? kSameGame : kSameGameCut, other.path)));
     }
   }
   void show(const std::string& file) {
@@ -158,7 +163,7 @@ class Program {
       return eventsText(card.game(), m_texts);
     switch (m_options.format) {
     case OutputFormat::Json: return boxJson(card);
-    case OutputFormat::Csv: return boxCsv(card, m_texts);
+    case OutputFormat::Csv: return boxCsv(card, m_texts, m_options.csvReader);
     case OutputFormat::Text: break;
     }
     return boxText(card, m_texts);

@@ -58,10 +58,12 @@ Report reportOf(const Game& game, const GameState& state, int title, const Texts
                    std::to_string(state.points(1)) + ' ' + details.abbreviation[1];
   if (!details.date.empty())
     report.subject += ", " + details.date;
+  if (!details.place.empty())
+    report.subject += ", " + details.place;
   report.pageWords = text(texts, kPageOf);
   const std::size_t slash = game.path.rfind('/');
   const std::string file = game.path.substr(slash == std::string::npos ? 0 : slash + 1);
-  report.fileName = Module1::asFileName(file.substr(0, file.rfind('.')) + ' ' + report.title);
+  report.fileName = proposedFileName(file.substr(0, file.rfind('.')) + ' ' + report.title);
   return report;
 }
 

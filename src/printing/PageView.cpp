@@ -149,6 +149,8 @@ int PageView::page() const {
   const QScrollBar& bar = *verticalScrollBar();
   if (bar.value() == bar.maximum() && bar.maximum() > 0)
     return pages;
+  if (bar.value() == 0) // small pages stand several in sight
+    return 1;
   const double middle = bar.value() + viewport()->height() / 3.0;
   const double row = pageSize().height() + kGap;
   return std::clamp(static_cast<int>(middle / row) * columns() + 1, 1, pages);

@@ -56,7 +56,7 @@ class PageView : public QAbstractScrollArea {
 
   const ReportLayout* m_layout = nullptr;
   double m_zoom = 1;
-  Fit m_fit = Fit::Width;
+  Fit m_fit = Fit::Page;
   bool m_isFacing = false;
   int m_shownPage = 0; // what was told last
   int m_knownPages = 0;

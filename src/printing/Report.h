@@ -58,6 +58,7 @@ struct ReportTable {
   bool standsBeside = false; // to the right of the block before it, where there is room
   bool isInGrid = false;     // one of many of a kind, that stand beside each other in equal widths
   bool isSummary = false;    // one of the small tables beside what the report is about
+  bool isRanked = false;     // the best rows stand first, so that the others can be left out
 };
 
 struct ReportParagraph {
@@ -74,6 +75,9 @@ struct ShotDrawing {
   };
   std::vector<Mark> marks;
   std::vector<ZoneWords> zones;
+  // Of each zone, how far its percentage is from the one that it is compared with, in percentage points: they
+  // are tinted by it, with a legend. Empty: tinted by their attempts.
+  std::vector<double> differences = {};
 };
 
 // Values over an axis, each line from left to right.

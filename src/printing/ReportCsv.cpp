@@ -1,6 +1,7 @@
 #include "printing/ReportText.h"
 #include "storage/DelimitedText.h"
 #include "storage/Module1.h"
+#include "storage/Texts.h"
 
 #include <algorithm>
 
@@ -8,15 +9,27 @@ namespace hooptab {
 
 namespace {
 
-constexpr std::string_view kTitleColumn = "Table";
+constexpr int kTitleColumn = 2750;
 
-std::string rowOf(const ReportTable& table, const ReportRow& row, bool hasTitle) {
+std::string titleColumn(CsvReader reader) {
+  return std::string(
+      Texts().text(kTitleColumn, reader == CsvReader::French ? Language::French : Language::English));
+}
+
+// Where several columns have one head, their names tell them apart.
+std::string headOf(const ReportTable& table, const ReportColumn& column, CsvReader reader) {
+  const bool isUnique =
+      !column.header.empty() && std::ranges::count(table.columns, column.header, &ReportColumn::header) == 1;
+  return reader == CsvReader::French && isUnique ? column.header : column.name;
+}
+
+std::string rowOf(const ReportTable& table, const ReportRow& row, bool hasTitle, CsvReader reader) {
   std::vector<std::string> fields;
   if (hasTitle)
     fields.push_back(table.title);
   for (const ReportCell& cell : row.cells)
     fields.push_back(cell.text);
-  return csvRow(fields);
+  return csvRow(fields, reader);
 }
 
 bool haveEqualColumns(const ReportTable& one, const ReportTable& other) {
@@ -24,17 +37,18 @@ bool haveEqualColumns(const ReportTable& one, const ReportTable& other) {
          std::ranges::equal(one.columns, other.columns, {}, &ReportColumn::name, &ReportColumn::name);
 }
 
-std::string bytesOf(const std::vector<const ReportTable*>& tables) {
+std::string bytesOf(const std::vector<const ReportTable*>& tables, CsvReader reader) {
   const bool hasTitle = tables.size() > 1;
   std::vector<std::string> header;
   if (hasTitle)
-    header.emplace_back(kTitleColumn);
+    header.push_back(titleColumn(reader));
   for (const ReportColumn& column : tables.front()->columns)
-    header.push_back(column.name);
-  std::string bytes = csvRow(header);
+    header.push_back(headOf(*tables.front(), column, reader));
+  std::string bytes(reader == CsvReader::French ? kByteOrderMark : std::string_view());
+  bytes += csvRow(header, reader);
   for (const ReportTable* table : tables) {
     for (const ReportRow& row : table->rows)
-      bytes += rowOf(*table, row, hasTitle);
+      bytes += rowOf(*table, row, hasTitle, reader);
   }
   return bytes;
 }
@@ -63,10 +77,10 @@ std::string suffixOf(const std::vector<const ReportTable*>& group, bool isFirst)
 
 } // namespace
 
-std::vector<ReportFile> reportCsv(const Report& report) {
+std::vector<ReportFile> reportCsv(const Report& report, CsvReader reader) {
   std::vector<ReportFile> files;
   for (const auto& group : groupsOf(report))
-    files.push_back({suffixOf(group, files.empty()), bytesOf(group)});
+    files.push_back({suffixOf(group, files.empty()), bytesOf(group, reader)});
   return files;
 }
 

@@ -13,9 +13,10 @@ namespace hooptab {
 
 namespace {
 
-constexpr std::array<std::pair<ReportForm, std::string_view>, 5> kForms = {{{ReportForm::Pdf, "pdf"},
+constexpr std::array<std::pair<ReportForm, std::string_view>, 6> kForms = {{{ReportForm::Pdf, "pdf"},
                                                                             {ReportForm::Xlsx, "xlsx"},
                                                                             {ReportForm::Csv, "csv"},
+                                                                            {ReportForm::CsvFrench, "csv"},
                                                                             {ReportForm::Html, "html"},
                                                                             {ReportForm::Png, "png"}}};
 
@@ -52,7 +53,8 @@ std::optional<ReportForm> reportFormOf(std::string_view ending) {
 bool canBe(const Report& report, ReportForm form) {
   switch (form) {
   case ReportForm::Xlsx:
-  case ReportForm::Csv: return has<ReportTable>(report);
+  case ReportForm::Csv:
+  case ReportForm::CsvFrench: return has<ReportTable>(report);
   case ReportForm::Html: return !has<FormSheet>(report);
   case ReportForm::Png: return has<ReportPicture>(report);
   case ReportForm::Pdf: break;
@@ -72,6 +74,7 @@ std::optional<std::vector<ReportFile>> filesOf(const Report& report, ReportForm 
       files = one(std::move(*bytes));
     break;
   case ReportForm::Csv: files = reportCsv(report); break;
+  case ReportForm::CsvFrench: files = reportCsv(report, CsvReader::French); break;
   case ReportForm::Html: files = one(reportHtml(report, language, picturePng, watch)); break;
   case ReportForm::Png: files = pictures(report, watch); break;
   }
@@ -79,7 +82,7 @@ std::optional<std::vector<ReportFile>> filesOf(const Report& report, ReportForm 
 }
 
 std::vector<std::string> suffixesOf(const Report& report, ReportForm form) {
-  if (form == ReportForm::Csv)
+  if (form == ReportForm::Csv || form == ReportForm::CsvFrench)
     return csvSuffixes(report);
   std::vector<std::string> suffixes = {{}};
   if (form == ReportForm::Png) {

@@ -14,7 +14,8 @@
 
 namespace hooptab {
 
-enum class ReportForm { Pdf, Xlsx, Csv, Html, Png };
+// CsvFrench is for spreadsheets of a French-speaking system.
+enum class ReportForm { Pdf, Xlsx, Csv, CsvFrench, Html, Png };
 
 [[nodiscard]] std::string_view endingOf(ReportForm form);                      // "pdf"
 [[nodiscard]] std::optional<ReportForm> reportFormOf(std::string_view ending); // small letters

@@ -18,11 +18,15 @@ constexpr double kParagraphGap = 60;
 constexpr double kAcrossPage =
     230 * kUnitsPerMillimetre; // wider pages have four shot charts side by side, others two
 constexpr double kDiagramHeight = 46 * kUnitsPerMillimetre;
-constexpr std::size_t kFewestRows = 3; // of a table at the foot of a page
+constexpr std::size_t kFewestRows = 3; // of a table at the foot or at the head of a page
+constexpr double kSmallTable = 0.5;    // of a page: tables up to that are not torn
+constexpr double kMostBlank = 1.0 / 3; // of a page that is left because a table begins on the next
 
 double pictureHeight(const ReportPicture& picture, double width) {
-  return std::holds_alternative<ShotDrawing>(picture.drawing) ? width * court::kLength / court::kWidth
-                                                              : kDiagramHeight;
+  const auto* shots = std::get_if<ShotDrawing>(&picture.drawing);
+  if (shots == nullptr)
+    return kDiagramHeight;
+  return width * court::kLength / court::kWidth + (shots->differences.empty() ? 0 : legendHeight(width));
 }
 
 double widthInGrid(double room, double across) {
@@ -34,6 +38,11 @@ QRectF bodyOf(QSizeF size) {
 }
 
 } // namespace
+
+double legendHeight(double width) {
+  constexpr double kPart = 0.06;
+  return width * kPart;
+}
 
 ReportLayout::ReportLayout(const Report& report, const PageFormat& format) : m_report(report) {
   for (const ReportBlock& block : report.blocks) {
@@ -147,11 +156,36 @@ void ReportLayout::place(const ReportParagraph& paragraph) {
   const PageFont font = isHeading                                         ? PageFont::Heading
                         : paragraph.style == ReportParagraph::Style::Note ? PageFont::Cell
                                                                           : PageFont::Body;
-  constexpr int kLinesBelow = 3; // a heading does not stand alone at the foot of a page
-  if (isHeading && left() < m_fonts.lineHeight(font) + kLinesBelow * m_fonts.lineHeight(PageFont::Body) &&
+  // A heading does not stand alone at the foot of a page.
+  if (isHeading && left() < m_fonts.lineHeight(font) + kParagraphGap + leastBelowHeading() &&
       !page().isEmpty())
     newPage();
   placeLines(m_fonts.wrapped(font, toQt(paragraph.text), m_body.width()), font);
+}
+
+double ReportLayout::leastBelowHeading() const {
+  constexpr int kLinesBelow = 3;
+  const auto* table =
+      m_block < m_report.blocks.size() ? std::get_if<ReportTable>(&m_report.blocks[m_block]) : nullptr;
+  if (table == nullptr)
+    return kLinesBelow * m_fonts.lineHeight(PageFont::Body);
+  const TableLayout& layout = m_tables.at(table);
+  double height = layout.tallestHead();
+  for (std::size_t row = 0; row < std::min(kFewestRows, table->rows.size()); ++row)
+    height += layout.rowHeight(row);
+  return height;
+}
+
+double ReportLayout::notesHeight() const {
+  double height = 0;
+  for (std::size_t block = m_block; block < m_report.blocks.size(); ++block) {
+    const auto* note = std::get_if<ReportParagraph>(&m_report.blocks[block]);
+    if (note == nullptr || note->style != ReportParagraph::Style::Note)
+      break;
+    const auto lines = m_fonts.wrapped(PageFont::Cell, toQt(note->text), m_body.width()).size();
+    height += kGap + static_cast<double>(lines) * m_fonts.lineHeight(PageFont::Cell);
+  }
+  return height;
 }
 
 void ReportLayout::place(const ReportPageBreak& /*pageBreak*/) {
@@ -218,7 +252,10 @@ void ReportLayout::placeTablePart() {
       table.table().standsBeside && table.parts().size() == 1 && hasRoomBeside(table.width(part), whole);
   if (!isBeside && whole > left() && !page().isEmpty()) {
     const bool hasFew = height(m_tableRow, std::min(count, m_tableRow + kFewestRows)) > left();
-    if (m_part > 0 || whole <= m_body.height() || hasFew)
+    // A small table is not torn; a large one begins where it stands unless the page is nearly full.
+    const bool isBetterWhole = whole <= m_body.height() && (whole <= kSmallTable * m_body.height() ||
+                                                            left() < kMostBlank * m_body.height());
+    if (m_part > 0 || isBetterWhole || hasFew)
       newPage();
   }
   const QPointF at = isBeside ? QPointF(m_row.right + kSideGap, m_row.top) : QPointF(m_body.left(), m_y);
@@ -244,7 +281,12 @@ std::size_t ReportLayout::rowsUntil(double room) const {
     room -= m_table->rowHeight(end++);
   const bool leavesTotal =
       end + 1 == rows.size() && rows[end].emphasis == ReportRow::Emphasis::Total && end > m_tableRow + 1;
-  return leavesTotal ? end - 1 : end; // a total does not stand alone
+  // Neither a total, nor a row or two, nor the notes stand alone on the last page.
+  const bool leavesFew = end < rows.size() && rows.size() - end < kFewestRows;
+  const bool leavesNotes = end == rows.size() && room < notesHeight();
+  if ((leavesFew || leavesNotes) && end - m_tableRow >= 2 * kFewestRows)
+    return rows.size() - kFewestRows;
+  return leavesTotal ? end - 1 : end;
 }
 
 double ReportLayout::placeRows(std::size_t first, std::size_t last, QPointF at) {

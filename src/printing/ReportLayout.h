@@ -14,6 +14,9 @@
 
 namespace hooptab {
 
+// Of the scale below a shot chart of that width whose zones are compared with an average.
+[[nodiscard]] double legendHeight(double width);
+
 class ReportLayout {
  public:
   // The report must outlive it.
@@ -52,6 +55,10 @@ class ReportLayout {
   void place(const FormSheet& form);
   void placeTablePart();
   [[nodiscard]] std::size_t rowsUntil(double room) const;
+  // The notes that stand directly below the table which is being laid out; 0 without any.
+  [[nodiscard]] double notesHeight() const;
+  // The least that has to stand below a heading: a few rows of the table that follows it, or a few lines.
+  [[nodiscard]] double leastBelowHeading() const;
   double placeRows(std::size_t first, std::size_t last, QPointF at);
   void placeLines(const QStringList& lines, PageFont font);
   void newPage();

@@ -6,7 +6,6 @@
 #include "appearance/relabel.h"
 #include "printing/PrintTexts.h"
 #include "printing/Printers.h"
-#include "storage/Settings.h"
 
 #include <QBoxLayout>
 #include <QDir>
@@ -15,6 +14,8 @@
 #include <QPrinter>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QStandardPaths>
+#include <QUrl>
 
 #include <algorithm>
 #include <chrono>
@@ -33,21 +34,20 @@ constexpr int kReplaceFile = 1836;
 
 constexpr auto kPollInterval = 50ms;
 constexpr auto kShownAfter = 300ms;
+constexpr auto kOfferedFor = 60s; // to open what was saved
 constexpr int kBarWidth = 160;
 constexpr qsizetype kLongestName =
     100; // of a file, in letters: names of teams may be as long as a folder takes
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 struct Form {
   ReportForm form;
   int text;
   int filter;
 };
-constexpr Form kForms[] = {{ReportForm::Pdf, kSavePdf, kPdfFilter},
-                           {ReportForm::Xlsx, kSaveXlsx, kXlsxFilter},
-                           {ReportForm::Csv, kSaveCsv, kCsvFilter},
-                           {ReportForm::Html, kSaveHtml, kHtmlFilter},
-                           {ReportForm::Png, kSavePictures, kPngFilter}};
+constexpr Form kForms[] = {
+    {ReportForm::Pdf, kSavePdf, kPdfFilter},    {ReportForm::Xlsx, kSaveXlsx, kXlsxFilter},
+    {ReportForm::Csv, kSaveCsv, kCsvFilter},    {ReportForm::CsvFrench, kSaveCsvFrench, kCsvFilter},
+    {ReportForm::Html, kSaveHtml, kHtmlFilter}, {ReportForm::Png, kSavePictures, kPngFilter}};
 
 const Form& formOf(ReportForm form) {
   return *std::ranges::find(kForms, form, &Form::form);
@@ -66,11 +66,12 @@ int textOfProblem(WriteProblem problem) {
 
 } // namespace
 
-ReportOutput::ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& files, const Settings& settings,
-                           QWidget* parent)
-    : QWidget(parent), m_texts(texts), m_dialogs(dialogs), m_files(files), m_settings(settings),
-      m_what(new PlainLabel(this)), m_progress(new QProgressBar(this)),
-      m_cancel(iconButton("cmdCANCELREPORT", kCancelReport, kCancelReport, "clear", this)) {
+ReportOutput::ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& files, QWidget* parent)
+    : QWidget(parent), m_texts(texts), m_dialogs(dialogs), m_files(files), m_what(new PlainLabel(this)),
+      m_progress(new QProgressBar(this)),
+      m_cancel(iconButton("cmdCANCELREPORT", kCancelReport, kCancelReport, "clear", this)),
+      m_open(iconButton("cmdOPENREPORT", kOpenSaved, kOpenSaved, "vwopen", this)),
+      m_showFolder(iconButton("cmdSHOWREPORT", kShowSaved, kShowSaved, "export", this)) {
   setObjectName(QStringLiteral("reportOutput"));
   m_what->setObjectName(QStringLiteral("lblREPORT"));
   m_progress->setObjectName(QStringLiteral("reportProgress"));
@@ -81,7 +82,17 @@ ReportOutput::ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& fil
   layout->addWidget(m_what);
   layout->addWidget(m_progress);
   layout->addWidget(m_cancel);
+  layout->addWidget(m_open);
+  layout->addWidget(m_showFolder);
+  m_open->hide();
+  m_showFolder->hide();
   hide();
+  m_offerEnds.setInterval(kOfferedFor);
+  m_offerEnds.setSingleShot(true);
+  connect(&m_offerEnds, &QTimer::timeout, this, &QWidget::hide);
+  connect(m_open, &QPushButton::clicked, this, [this] { openSaved(m_saved); });
+  connect(m_showFolder, &QPushButton::clicked, this,
+          [this] { openSaved(QFileInfo(m_saved).absolutePath()); });
   m_poll.setInterval(kPollInterval);
   m_delay.setInterval(kShownAfter);
   m_delay.setSingleShot(true);
@@ -107,13 +118,18 @@ void ReportOutput::cancel() {
 
 QString ReportOutput::choosePath(const QString& fileName, ReportForm form, QWidget* asker) {
   const QString ending = toQt(endingOf(form));
-  const QString folder = m_folder.isEmpty() ? toQt(m_settings.lastGameFolder) : m_folder;
-  const QString path =
-      m_dialogs.chooseFileToSave(asker, caption(m_texts, formOf(form).text),
-                                 QDir(folder).filePath(fileName.left(kLongestName).trimmed() + u'.' + ending),
-                                 fileFilter(toQt(m_texts.text(formOf(form).filter))), ending);
-  if (!path.isEmpty())
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString folder = QFileInfo(m_folder).isDir()    ? m_folder
+                         : QFileInfo(documents).isDir() ? documents
+                                                        : QDir::homePath();
+  const QString path = m_dialogs.chooseFileToSave(
+      asker, caption(m_texts, formOf(form).text),
+      QDir(folder).filePath(fileName.simplified().left(kLongestName).trimmed() + u'.' + ending),
+      fileFilter(toQt(m_texts.text(formOf(form).filter))), ending);
+  if (!path.isEmpty() && QFileInfo(path).absolutePath() != m_folder) {
     m_folder = QFileInfo(path).absolutePath();
+    emit folderChosen(m_folder);
+  }
   return path;
 }
 
@@ -187,6 +203,8 @@ void ReportOutput::tell(const Outcome& outcome, const QString& path, QWidget* as
     return complain(textOfProblem(outcome.problem), toQt(outcome.failed), asker);
   if (!outcome.isMade && !m_watch->isCancelled)
     return complain(kNoRoomForTemporary, QDir::tempPath(), asker);
+  if (outcome.isMade)
+    m_saved = path;
   emit reported(toQt(m_texts.withPlaceholder(outcome.isMade ? kReportSaved : kReportCancelled,
                                              fromQt(QDir::toNativeSeparators(path)))));
 }
@@ -211,6 +229,9 @@ void ReportOutput::print(Report report, const PageFormat& format, std::shared_pt
 }
 
 void ReportOutput::start(const QString& what, std::function<BackgroundWork::Delivery()> work) {
+  m_saved.clear();
+  showParts(false);
+  hide();
   m_what->setText(what);
   m_cancel->setEnabled(true);
   m_work.start(std::move(work));
@@ -229,8 +250,26 @@ void ReportOutput::showProgress() {
 void ReportOutput::end() {
   m_poll.stop();
   m_delay.stop();
-  hide();
+  setVisible(!m_saved.isEmpty());
+  if (!m_saved.isEmpty()) {
+    m_what->setText(QFileInfo(m_saved).fileName());
+    showParts(true);
+    m_offerEnds.start();
+  }
   emit busyChanged();
+}
+
+// The work under way, or what it has saved.
+void ReportOutput::showParts(bool isSaved) {
+  for (QWidget* part : {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_cancel)})
+    part->setVisible(!isSaved);
+  for (QPushButton* part : {m_open, m_showFolder})
+    part->setVisible(isSaved);
+}
+
+void ReportOutput::openSaved(const QString& path) {
+  if (!m_dialogs.openDocument(QUrl::fromLocalFile(path)))
+    complain(kSavedNotOpened, path, window());
 }
 
 void ReportOutput::complain(int text, const QString& path, QWidget* asker) {

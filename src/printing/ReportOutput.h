@@ -1,6 +1,7 @@
 // The way of a report out of the program: asks where to, makes the file or prints on a thread of its own, and
-// shows meanwhile how far that is, with a button that cancels it. One piece of work at a time: asked for
-// another one, it says what it is at. What is written stands whole or not at all.
+// shows meanwhile how far that is, with a button that cancels it; what was saved can be opened from it. One
+// piece of work at a time: asked for another one, it says what it is at. What is written stands whole or not
+// at all.
 #pragma once
 
 #include "appearance/BackgroundWork.h"
@@ -22,21 +23,21 @@ class QPushButton;
 namespace hooptab {
 
 class Dialogs;
-class Settings;
 
 class ReportOutput : public QWidget {
   Q_OBJECT
 
  public:
-  // All must outlive it. The first file is proposed in the folder of the games.
-  ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& files, const Settings& settings,
-               QWidget* parent = nullptr);
+  // All must outlive it. The first file is proposed among the user's documents.
+  ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& files, QWidget* parent = nullptr);
   ~ReportOutput() override;
 
   // `asker` is the window over which questions and complaints stand.
   void save(Report report, ReportForm form, const PageFormat& format, QWidget* asker);
   void savePicture(const QString& fileName, std::string png, QWidget* asker);
   void print(Report report, const PageFormat& format, std::shared_ptr<QPrinter> printer, QWidget* asker);
+  // For the next file, where it is there: the folder of another time.
+  void proposeFolder(const QString& folder) { m_folder = folder; }
   bool isBusy() const { return m_work.isRunning(); }
   void cancel();
 
@@ -45,6 +46,7 @@ class ReportOutput : public QWidget {
 
  signals:
   void reported(const QString& message);
+  void folderChosen(const QString& folder);
   void busyChanged();
 
  private:
@@ -62,13 +64,14 @@ class ReportOutput : public QWidget {
   void tell(const Outcome& outcome, const QString& path, QWidget* asker);
   void start(const QString& what, std::function<BackgroundWork::Delivery()> work);
   void showProgress();
+  void showParts(bool isSaved);
+  void openSaved(const QString& path);
   void end();
   void complain(int text, const QString& path, QWidget* asker);
 
   const Texts& m_texts;
   Dialogs& m_dialogs;
   FileSystem& m_files;
-  const Settings& m_settings;
   QString m_folder; // chosen last
   std::shared_ptr<ReportWatch> m_watch;
   QTimer m_poll;
@@ -77,6 +80,10 @@ class ReportOutput : public QWidget {
   QLabel* m_what = nullptr;
   QProgressBar* m_progress = nullptr;
   QPushButton* m_cancel = nullptr;
+  QPushButton* m_open = nullptr;
+  QPushButton* m_showFolder = nullptr;
+  QString m_saved; // the file that can be opened
+  QTimer m_offerEnds;
   BackgroundWork m_work; // goes first, before what its work refers to
 };
 

@@ -46,7 +46,11 @@ double PageFonts::width(PageFont which, const QString& text) const {
 
 QStringList PageFonts::wrapped(PageFont which, const QString& text, double width) const {
   QStringList lines;
-  for (const QString& paragraph : text.split(u'\n')) {
+  // A sign that French puts behind a blank does not begin a line.
+  QString unbroken = text;
+  for (const char16_t sign : {u':', u';', u'?', u'!', u'%', u'»'})
+    unbroken.replace(QString(u' ') + QChar(sign), QString(QChar::Nbsp) + QChar(sign));
+  for (const QString& paragraph : unbroken.split(u'\n')) {
     if (this->width(which, paragraph) <= width) {
       lines << paragraph;
       continue;

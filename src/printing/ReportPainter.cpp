@@ -3,6 +3,8 @@
 #include "appearance/CourtPicture.h"
 #include "appearance/relabel.h"
 #include "printing/FormPainter.h"
+#include "season/ZoneChart.h"
+#include "storage/Module1.h"
 #include "storage/Placeholders.h"
 
 #include <algorithm>
@@ -25,9 +27,22 @@ CourtPicture paperCourt() {
   return CourtPicture({Qt::white, grey(0.92), Qt::white, grey(0.35)}, kScreenPixel);
 }
 
-void paintShots(QPainter& painter, const ShotDrawing& drawing, const QRectF& box, const PageFonts& fonts) {
+// Its colour tells how far a zone is from the average, a sign too where there is no colour.
+CourtZoneText comparedText(const ZoneWords& zone, double points) {
+  CourtZoneText text{zone.zone, toQt(zone.fraction), toQt(zone.percent), strengthOfDifference(points)};
+  text.tint = colourOfDifference(points);
+  if (points != 0)
+    text.lower += points > 0 ? QStringLiteral(" +") : QStringLiteral(" −");
+  return text;
+}
+
+void paintShots(QPainter& painter, const ShotDrawing& drawing, const QRectF& area, const PageFonts& fonts) {
   constexpr auto kTurn = CourtPicture::Turn::BaselineTop;
-  const CourtPicture court = paperCourt();
+  const bool isCompared = !drawing.differences.empty();
+  const double legend = isCompared ? legendHeight(area.width()) : 0;
+  const QRectF box = area.adjusted(0, 0, 0, -legend);
+  const CourtPicture court =
+      isCompared ? CourtPicture({Qt::white, Qt::white, Qt::white, grey(0.35)}, kScreenPixel) : paperCourt();
   const QRectF fitted = CourtPicture::fitted(box, kTurn);
   court.paintCourt(painter, fitted, kTurn);
   std::vector<CourtMark> marks;
@@ -35,11 +50,17 @@ void paintShots(QPainter& painter, const ShotDrawing& drawing, const QRectF& box
     marks.push_back({mark.place, mark.isMade});
   court.paintMarks(painter, fitted, kTurn, marks);
   std::vector<CourtZoneText> zones;
-  for (const ZoneWords& zone : drawing.zones)
-    zones.push_back({zone.zone, toQt(zone.fraction), toQt(zone.percent), zone.strength});
+  for (std::size_t i = 0; i < drawing.zones.size(); ++i) {
+    const ZoneWords& zone = drawing.zones[i];
+    zones.push_back(isCompared
+                        ? comparedText(zone, drawing.differences[i])
+                        : CourtZoneText{zone.zone, toQt(zone.fraction), toQt(zone.percent), zone.strength});
+  }
   painter.setFont(fonts.font(PageFont::Cell));
   if (!zones.empty())
     court.paintZones(painter, fitted, kTurn, zones);
+  if (isCompared)
+    paintDifferenceLegend(painter, area.adjusted(0, area.height() - legend, 0, 0), Qt::black);
 }
 
 // A round step that gives at most so many lines of a grid.

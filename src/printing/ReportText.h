@@ -4,6 +4,7 @@
 
 #include "printing/Report.h"
 #include "printing/ReportWatch.h"
+#include "storage/DelimitedText.h"
 
 #include <functional>
 #include <string>
@@ -21,8 +22,9 @@ struct ReportFile {
 
 // RFC 4180 with a header line. Tables of equal columns share a file, each row behind the title of its table;
 // the summaries have files of their own. A text that a spreadsheet would take for a formula gets an
-// apostrophe in front. Nothing for a report without tables.
-[[nodiscard]] std::vector<ReportFile> reportCsv(const Report& report);
+// apostrophe in front. For French spreadsheets the columns have the heads of the report, for others their
+// names, which are the same in every language. Nothing for a report without tables.
+[[nodiscard]] std::vector<ReportFile> reportCsv(const Report& report, CsvReader reader = CsvReader::Anybody);
 [[nodiscard]] std::vector<std::string> csvSuffixes(const Report& report); // of those files
 
 // A self-contained page. `png` draws a picture; its bytes stand in the page.

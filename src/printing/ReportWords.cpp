@@ -3,6 +3,7 @@
 #include "printing/PrintTexts.h"
 #include "storage/Placeholders.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace hooptab {
@@ -32,6 +33,38 @@ std::string capitalised(std::string words) {
     words[1] = static_cast<char>(words[1] - kSmallToLarge); // à to þ in UTF-8, but for the sign of division
   }
   return words;
+}
+
+std::string proposedFileName(std::string words) {
+  std::string name = Module1::asFileName(std::move(words));
+  const auto rest =
+      std::ranges::unique(name, [](char left, char right) { return left == ' ' && right == ' '; });
+  name.erase(rest.begin(), rest.end());
+  return name;
+}
+
+void keepBest(Report& report, std::size_t most, const Texts& texts) {
+  for (ReportBlock& block : report.blocks) {
+    auto* table = std::get_if<ReportTable>(&block);
+    if (table == nullptr || !table->isRanked || table->rows.size() <= most)
+      continue;
+    const std::string words = Module1::withPlaceholder(
+        texts.withPlaceholder(kFirstRows, std::to_string(most)), std::to_string(table->rows.size()), "YYY");
+    table->title += (table->title.empty() ? "" : " – ") + words;
+    std::size_t place = 0;
+    std::erase_if(table->rows, [&](const ReportRow& row) {
+      return ++place > most && row.emphasis != ReportRow::Emphasis::Highlighted;
+    });
+  }
+}
+
+std::size_t rankedRows(const Report& report) {
+  std::size_t rows = 0;
+  for (const ReportBlock& block : report.blocks) {
+    if (const auto* table = std::get_if<ReportTable>(&block); table != nullptr && table->isRanked)
+      rows = std::max(rows, table->rows.size());
+  }
+  return rows;
 }
 
 void addNotes(Report& report, const ReportTable& table, const Texts& texts) {

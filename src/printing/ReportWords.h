@@ -15,6 +15,16 @@ namespace hooptab {
 [[nodiscard]] std::string labelled(int labelText, std::string_view value, const Texts& texts);
 // With a large first letter, for the begin of a row or a heading.
 [[nodiscard]] std::string capitalised(std::string words);
+// As the name of a file, without blanks that follow each other.
+[[nodiscard]] std::string proposedFileName(std::string words);
+// Of a list with more rows than this its first ones are proposed for paper.
+inline constexpr std::size_t kLongestList = 60;
+inline constexpr std::size_t kProposedRows = 25;
+// Leaves the first `most` rows of each table that is ranked, and those that are highlighted; its title tells
+// of how many.
+void keepBest(Report& report, std::size_t most, const Texts& texts);
+// The rows of the longest ranked table; 0 without any.
+[[nodiscard]] std::size_t rankedRows(const Report& report);
 // Below tables of counts: what the codes of their columns mean, and which groups are left out on paper, since
 // nobody tried such a shot.
 void addNotes(Report& report, const ReportTable& table, const Texts& texts);

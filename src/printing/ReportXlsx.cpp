@@ -111,7 +111,8 @@ class Workbook {
   Workbook& operator=(const Workbook&) = delete;
 
   // Cancelled, it stops in the middle: the workbook must not be used then.
-  void add(const ReportTable& table, ReportWatch* watch) {
+  // `about` stands above the table: what it is of.
+  void add(const ReportTable& table, const std::string& about, ReportWatch* watch) {
     if (m_book == nullptr)
       return;
     m_sheet = workbook_add_worksheet(m_book, m_names.next(table.title).c_str());
@@ -119,10 +120,11 @@ class Workbook {
       m_isGood = false;
       return;
     }
-    const bool hasGroups = !table.groups.empty();
-    if (hasGroups)
-      addGroups(table);
-    const lxw_row_t head = hasGroups ? 1 : 0;
+    lxw_row_t head = 0;
+    if (!about.empty())
+      addText(head++, 0, about, m_formats[1].plain);
+    if (!table.groups.empty())
+      addGroups(head++, table);
     for (std::size_t i = 0; i < table.columns.size(); ++i)
       addText(head, i, table.columns[i].header, m_head);
     for (std::size_t row = 0; row < table.rows.size() && !isCancelled(watch); ++row) {
@@ -174,15 +176,15 @@ class Workbook {
         worksheet_write_number(m_sheet, row, static_cast<lxw_col_t>(column), number, format);
     m_isGood = m_isGood && error == LXW_NO_ERROR;
   }
-  void addGroups(const ReportTable& table) {
+  void addGroups(lxw_row_t row, const ReportTable& table) {
     std::size_t first = 0;
     for (const ReportColumnGroup& group : table.groups) {
       const std::size_t last = first + group.columns - 1;
       if (!group.title.empty() && group.columns > 1)
-        worksheet_merge_range(m_sheet, 0, static_cast<lxw_col_t>(first), 0, static_cast<lxw_col_t>(last),
+        worksheet_merge_range(m_sheet, row, static_cast<lxw_col_t>(first), row, static_cast<lxw_col_t>(last),
                               group.title.c_str(), m_group);
       else
-        addText(0, first, group.title, m_group);
+        addText(row, first, group.title, m_group);
       first += group.columns;
     }
   }
@@ -235,7 +237,7 @@ std::optional<std::string> reportXlsx(const Report& report, ReportWatch* watch) 
   Workbook book(path, scratch.path());
   for (const ReportBlock& block : report.blocks) {
     if (const auto* table = std::get_if<ReportTable>(&block); table != nullptr && !isCancelled(watch))
-      book.add(*table, watch);
+      book.add(*table, report.subject, watch);
   }
   if (!book.close() || isCancelled(watch)) // closing frees it in any case
     return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include "manual/CounterWords.h"
 #include "printing/PrintTexts.h"
+#include "printing/ReportWords.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -140,7 +141,7 @@ Report verificationReport(const ScannedTotals& scanned, const GameDetails& game,
   report.subject =
       game.abbreviation[0] + " – " + game.abbreviation[1] + ": " + game.abbreviation[scanned.team()];
   report.pageWords = texts.text(kPageOf);
-  report.fileName = Module1::asFileName(source + ' ' + report.title);
+  report.fileName = proposedFileName(source + ' ' + report.title);
   report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading, source});
   report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, std::string(texts.text(kSigns))});
   const ScanReport made(scanned, game, settings, texts);

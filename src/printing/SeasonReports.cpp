@@ -4,11 +4,13 @@
 #include "printing/ReportWords.h"
 #include "scorecard/ScorecardTexts.h"
 #include "season/GameColumns.h"
+#include "season/GameSeries.h"
 #include "season/Leaders.h"
 #include "season/Records.h"
 #include "season/SeasonColumns.h"
 #include "season/SeasonShots.h"
 #include "season/SeasonWords.h"
+#include "storage/CountWords.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -28,10 +30,14 @@ constexpr int kPlayerPerformance = 1413;
 constexpr int kLinePerformance = 1414;
 constexpr int kResultsByGame = 1415;
 constexpr int kWinLossTie[] = {1195, 1196, 1197};
-constexpr int kShortTime = 2057;
 constexpr int kSeasonShots = 2138;
 constexpr int kGamesPlayed = 2144;
-constexpr int kViewTitles[] = {1070, 1177, 1179}; // by SeasonView
+constexpr int kOneGamePlayed = 2741;
+constexpr int kDifferenceLegend = 2139;
+constexpr int kAverage = 2137;
+constexpr int kPoints = 2754;
+constexpr int kPerForty = 2720;
+constexpr int kViewTitles[] = {1070, 1177, 1179, kPerForty}; // by SeasonView
 
 constexpr SeasonReportName kReports[] = {
     {SeasonReport::TeamSummary, "StLISTGAMES", 1421, "team-summary"},
@@ -82,14 +88,16 @@ std::string titleOfKind(std::string_view kind, const Texts& texts) {
 // A cell that is shown as the season's table shows it, with the exact number behind it.
 ReportCell cellOf(const SeasonRow& row, int column, SeasonView view, const Texts& texts) {
   ReportCell cell = textCell(seasonCell(row, column, view, texts));
-  if (column == kNumberColumn || seasonColumnIsText(column))
+  const bool isTime = column == kTimeColumn;
+  const bool isPerTime = view == SeasonView::PerMinute || view == SeasonView::PerForty;
+  if (column == kNumberColumn || seasonColumnIsText(column) || (isTime && isPerTime))
     return cell;
   cell.kind = ReportCell::Kind::Number;
   cell.value = seasonSortValue(row, column, view);
   const std::string_view name = seasonColumn(column).name;
-  if (column == kTimeColumn || name.ends_with('%')) {
+  if (isTime || name.ends_with('%')) {
     const SeasonValue value = seasonValue(row, column, view);
-    cell.kind = column == kTimeColumn ? ReportCell::Kind::Time : ReportCell::Kind::Percent;
+    cell.kind = isTime ? ReportCell::Kind::Time : ReportCell::Kind::Percent;
     cell.value = value.denominator == 0
                      ? 0
                      : static_cast<double>(value.numerator) / static_cast<double>(value.denominator);
@@ -113,6 +121,8 @@ class SeasonReportMaker {
     case SeasonReport::TeamSummary: addGames(); break;
     case SeasonReport::TeamDetail:
       addGames();
+      if (m_choice.team)
+        addShots(shotsOfTeam(m_catalogue, m_statistics.games(), *m_choice.team));
       addTeams();
       break;
     case SeasonReport::PlayerShots: addRows(SeasonTable::Players, true); break;
@@ -125,16 +135,15 @@ class SeasonReportMaker {
     case SeasonReport::Player: addPerformance(SeasonTable::Players); break;
     case SeasonReport::Line: addPerformance(SeasonTable::Lines); break;
     }
-    m_report.fileName =
-        Module1::asFileName(m_report.subject.substr(0, m_report.subject.find(',')) + ' ' + m_report.title);
+    m_report.fileName = proposedFileName(m_whose + ' ' + m_report.title);
     return std::move(m_report);
   }
 
  private:
   // "LYNX-AAA, 34 Games, 2026-10-02 – 2027-03-14".
-  std::string subject() const {
-    const std::string whose = m_choice.team ? m_catalogue.teams()[*m_choice.team].key : text(m_texts, 1045);
-    return whose + ", " + selection();
+  std::string subject() {
+    m_whose = m_choice.team ? m_catalogue.teams()[*m_choice.team].key : text(m_texts, 1045);
+    return m_whose + ", " + selection();
   }
   std::string selection() const {
     std::string words = labelled(kGames, std::to_string(m_statistics.games().size()), m_texts);
@@ -157,7 +166,7 @@ class SeasonReportMaker {
       if (column.widthTwips > 0)
         table.columns.push_back(
             {std::string(column.headerText > 0 ? m_texts.text(column.headerText) : column.header),
-             std::string(column.header) + std::to_string(column.index),
+             std::string(column.name),
              {},
              column.isLeftAligned || gameColumnIsText(column.index),
              column.index == 1});
@@ -188,7 +197,8 @@ class SeasonReportMaker {
     for (const int index : columns) {
       const SeasonColumn& column = seasonColumn(index);
       table.columns.push_back({seasonHeader(index, SeasonTable::Players, m_texts), std::string(column.name),
-                               seasonColumnWords(index, m_settings, m_texts), seasonColumnIsText(index)});
+                               seasonColumnWords(index, m_settings, m_texts, m_statistics.labels()),
+                               seasonColumnIsText(index)});
       const std::string_view kind = kindOf(index);
       if (kind != open || table.groups.size() == 1)
         table.groups.push_back({titleOfKind(kind, m_texts), 0, !isTried(kind)});
@@ -258,15 +268,25 @@ class SeasonReportMaker {
     const auto rows = which == SeasonTable::Players ? m_statistics.players() : m_statistics.lines();
     const ReportTable empty = rowTable(which, ofShots);
     for (const SeasonView view : kSeasonViews) {
+      if (which == SeasonTable::Lines && view == SeasonView::PerForty)
+        continue; // few lines play that long
       ReportTable table = empty;
       table.title = titleOf(view);
-      for (const SeasonRow& row : rows)
-        table.rows.push_back(reportRow(row, ofShots, view));
+      table.isRanked = true;
+      bool hasMarks = false;
+      for (const SeasonRow& row : rows) {
+        const bool isMarked = m_choice.minimum.isUnder(row, which, view);
+        table.rows.push_back(reportRow(row, ofShots, view, isMarked));
+        hasMarks = hasMarks || isMarked;
+      }
       m_report.blocks.push_back(std::move(table));
+      if (hasMarks)
+        addNote(markWords(m_choice.minimum, which, view, m_texts));
     }
-    if (std::ranges::any_of(rows, &SeasonRow::isShort))
-      m_report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Note, text(m_texts, kShortTime)});
     addNotes(m_report, empty, m_texts);
+  }
+  void addNote(std::string words) {
+    m_report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Note, std::move(words)});
   }
   ReportTable rowTable(SeasonTable which, bool ofShots) const {
     std::vector<ReportColumn> begin = {repeated("No", "No"),
@@ -275,15 +295,14 @@ class SeasonReportMaker {
       begin.insert(begin.begin(), repeated(text(m_texts, kTeam), "Team"));
     return tableOf(std::move(begin), columnsOf(ofShots));
   }
-  ReportRow reportRow(const SeasonRow& row, bool ofShots, SeasonView view) const {
+  ReportRow reportRow(const SeasonRow& row, bool ofShots, SeasonView view, bool isMarked) const {
     ReportRow line;
     if (m_choice.chosen == row.id)
       line.emphasis = ReportRow::Emphasis::Highlighted;
     if (!m_choice.team)
       line.cells.push_back(textCell(m_catalogue.teams()[row.team].key));
     line.cells.push_back(textCell(row.number));
-    const bool isMarked = view == SeasonView::PerMinute && row.isShort();
-    line.cells.push_back(textCell(row.name + (isMarked ? " *" : "")));
+    line.cells.push_back(textCell(seasonCell(row, kNameColumn, view, m_texts) + (isMarked ? " *" : "")));
     for (const int column : columnsOf(ofShots))
       line.cells.push_back(cellOf(row, column, view, m_texts));
     return line;
@@ -291,9 +310,10 @@ class SeasonReportMaker {
 
   // A small table for each statistic, side by side.
   void addLeaders(SeasonView view) {
-    const Leaders leaders(m_statistics.players(), view, m_texts);
+    const Leaders leaders(m_statistics.players(), view, m_texts, m_choice.minimum);
     for (const StatisticLeaders& statistic : leaders.statistics()) {
-      if (statistic.leaders.empty())
+      // Points stay where nobody leads at all, so that every file has its table.
+      if (statistic.leaders.empty() && statistic.column != seasonColumn("PTS").index)
         continue;
       ReportTable table;
       const std::string header = seasonHeader(statistic.column, SeasonTable::Players, m_texts);
@@ -301,6 +321,10 @@ class SeasonReportMaker {
       table.standsBeside = !m_report.blocks.empty();
       table.isInGrid = true;
       table.columns = {{"#", "Rank"}, repeated(text(m_texts, kPlayerName), "Name"), {header, "Value"}};
+      const bool hasForty =
+          view == SeasonView::PerMinute && attemptsColumnOf(statistic.column) == 0; // beside per minute
+      if (hasForty)
+        table.columns.push_back({text(m_texts, kPerForty), "Per40"});
       if (!m_choice.team)
         table.columns.insert(table.columns.begin() + 2, {text(m_texts, kTeam), "Team", {}, true});
       for (const Leader& leader : statistic.leaders) {
@@ -311,9 +335,12 @@ class SeasonReportMaker {
         if (!m_choice.team)
           row.cells.push_back(textCell(m_catalogue.teams()[leader.row->team].key));
         row.cells.push_back(cellOf(*leader.row, statistic.column, view, m_texts));
+        if (hasForty)
+          row.cells.push_back(cellOf(*leader.row, statistic.column, SeasonView::PerForty, m_texts));
       }
       m_report.blocks.push_back(std::move(table));
     }
+    addNote(minimumWords(m_choice.minimum, view, m_texts));
   }
 
   void addPerformance(SeasonTable which) {
@@ -324,18 +351,20 @@ class SeasonReportMaker {
         std::ranges::find_if(rows, [&](const SeasonRow& each) { return m_choice.chosen == each.id; });
     if (row == rows.end())
       return;
-    const std::string name = isPlayer ? row->number + ' ' + row->name : row->name;
-    m_report.subject = m_catalogue.teams()[row->team].key + ' ' + name + ", " + selection();
+    const std::string name = isPlayer ? row->number + ' ' + row->name : row->players;
+    m_whose = m_catalogue.teams()[row->team].key + ' ' + name;
+    m_report.subject = m_whose + ", " + selection();
     m_report.blocks.push_back(ReportParagraph{
         ReportParagraph::Style::Heading,
         name + " – " + m_catalogue.teams()[row->team].key + ", " +
-            Module1::withPlaceholder(text(m_texts, kGamesPlayed), std::to_string(row->games))});
+            countWords(static_cast<std::size_t>(row->games), kOneGamePlayed, kGamesPlayed, m_texts)});
     const std::vector<GameResult> results =
         isPlayer ? m_statistics.resultsOfPlayer(row->id) : m_statistics.resultsOfLine(row->id);
     addSums(*row, isPlayer);
     addRecords(results, isPlayer);
     if (isPlayer)
       addShots(shotsOfPlayer(m_catalogue, results, row->id));
+    addPoints(results);
     addResults(results);
   }
 
@@ -380,18 +409,54 @@ class SeasonReportMaker {
     if (seasonColumn(column).name == "rating") // whose words are its formula
       return text(m_texts, kRating);
     const std::string_view name = seasonColumn(column).name;
-    if (!kindOf(column).empty() && (name.ends_with('M') || name.ends_with('A')))
-      return m_texts.withPlaceholder(name.ends_with('M') ? kMadeOf : kAttemptsOf,
+    if (!kindOf(column).empty() && !name.ends_with("PTS"))
+      return m_texts.withPlaceholder(name.ends_with('M')   ? kMadeOf
+                                     : name.ends_with('A') ? kAttemptsOf
+                                                           : kPercentageOf,
                                      titleOfKind(kindOf(column), m_texts));
-    return capitalised(seasonColumnWords(column, m_settings, m_texts));
+    return capitalised(seasonColumnWords(column, m_settings, m_texts, m_statistics.labels()));
   }
 
   // Beside the records, where there is room.
   void addShots(const ShotSums& shots) {
-    std::vector<ZoneWords> zones = zoneWords(shots);
-    if (!zones.empty())
-      m_report.blocks.push_back(
-          ReportPicture{text(m_texts, kSeasonShots), ShotDrawing{{}, std::move(zones)}, {}, true});
+    ShotDrawing drawing{{}, zoneWords(shots)};
+    if (drawing.zones.empty())
+      return;
+    const ShotSums average = shotsOfGames(m_catalogue, m_statistics.games());
+    for (const ZoneWords& words : drawing.zones) {
+      const auto zone = static_cast<std::size_t>(words.zone);
+      drawing.differences.push_back(differenceInPoints(shots.zones[zone], average.zones[zone]));
+    }
+    m_report.blocks.push_back(ReportPicture{text(m_texts, kSeasonShots), std::move(drawing),
+                                            text(m_texts, kDifferenceLegend), true});
+  }
+
+  // Points game by game, with their average across.
+  void addPoints(const std::vector<GameResult>& results) {
+    constexpr std::size_t kMostDates = 10;
+    if (results.size() < 2)
+      return;
+    const GameSeries series = seriesOfStatistic(results, seasonColumn("PTS").index);
+    LineDrawing drawing;
+    drawing.lines.resize(2);
+    const std::size_t step = (results.size() + kMostDates - 1) / kMostDates;
+    for (std::size_t i = 0; i < results.size(); ++i) {
+      const auto at = static_cast<double>(i);
+      drawing.lines[0].points.push_back({at + 0.5, series.points[i].value.value_or(0)});
+      if (i % step == 0)
+        drawing.ticks.push_back({at, m_catalogue.games()[results[i].game].date});
+    }
+    const auto end = static_cast<double>(results.size());
+    drawing.ticks.push_back({end, {}});
+    drawing.lines[0].name = text(m_texts, kPoints);
+    drawing.lines[1].points = {{0, *series.average}, {end, *series.average}};
+    int sum = 0;
+    for (const GameResult& result : results)
+      sum += result.numbers.points();
+    drawing.lines[1].name = m_texts.withPlaceholder(
+        kAverage, Module1::quotientText(sum, static_cast<std::int64_t>(results.size()), 1));
+    m_report.blocks.push_back(
+        ReportPicture{text(m_texts, kResultsByGame) + " – " + text(m_texts, kPoints), std::move(drawing)});
   }
 
   void addResults(const std::vector<GameResult>& results) {
@@ -423,6 +488,7 @@ class SeasonReportMaker {
   const SeasonReportChoice& m_choice;
   const Settings& m_settings;
   const Texts& m_texts;
+  std::string m_whose; // team, player or line
   Report m_report;
 };
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "printing/Report.h"
-#include "season/SeasonStatistics.h"
+#include "season/Qualification.h"
 #include "storage/Settings.h"
 #include "storage/Texts.h"
 
@@ -41,6 +41,7 @@ struct SeasonReportChoice {
   std::optional<SeasonId> team; // whose results are shown
   std::optional<SeasonId>
       chosen; // the player or line of a performance report; one that is highlighted in the others
+  Qualification minimum = {}; // who leads, and which averages are marked
 };
 
 // A performance report without a chosen row that played is one of nobody: it holds no tables.

@@ -47,6 +47,7 @@ void TableLayout::measure() {
     for (std::size_t i = 0; i < m_natural.size(); ++i)
       m_natural[i] = std::max(m_natural[i], m_fonts.width(fontOf(row), toQt(row.cells[i].text)));
   }
+  m_whole = m_natural;
   for (std::size_t i = 0; i < m_natural.size(); ++i)
     m_natural[i] = std::min(m_natural[i], m_table.columns[i].isRepeated ? kLongestRepeated : kLongestText) +
                    2 * kPadding;
@@ -110,7 +111,22 @@ std::size_t TableLayout::partsIn(double room) {
 
 void TableLayout::fit(double room) {
   split(room);
+  widenNames(room);
   measureParts(room);
+}
+
+// Names stand in one line where the page has room for it.
+void TableLayout::widenNames(double room) {
+  if (m_parts.size() != 1)
+    return;
+  for (std::size_t i = 0; i < m_widths.size(); ++i) {
+    const double wanted = m_whole[i] + 2 * kPadding - m_widths[i];
+    const double more = std::min(wanted, room - m_parts[0].width);
+    if (m_table.columns[i].isRepeated && more > 0) {
+      m_widths[i] += more;
+      m_parts[0].width += more;
+    }
+  }
 }
 
 void TableLayout::fill(double room) {

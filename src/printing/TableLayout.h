@@ -49,6 +49,7 @@ class TableLayout {
   };
   void measure();
   void widenForTitles();
+  void widenNames(double room);
   [[nodiscard]] double spareOf(std::size_t column) const;
   void shrink(double part);
   void split(double room);
@@ -64,7 +65,8 @@ class TableLayout {
 
   const ReportTable& m_table;
   const PageFonts& m_fonts;
-  std::vector<double> m_natural; // widths that the texts ask for
+  std::vector<double> m_natural; // widths that the texts ask for, long names in several lines
+  std::vector<double> m_whole;   // the same, in one line
   std::vector<double> m_widths;
   std::vector<bool> m_isShown;     // which columns stand on paper at all
   std::vector<bool> m_beginsGroup; // which columns have a line at their left

@@ -48,7 +48,7 @@ std::string nameOf(const TeamRecord& team) {
 
 Report reportOf(std::string title, std::string subject, const Texts& texts) {
   Report report;
-  report.fileName = Module1::asFileName(subject.empty() ? title : subject + ' ' + title);
+  report.fileName = proposedFileName(subject.empty() ? title : subject + ' ' + title);
   report.title = std::move(title);
   report.subject = std::move(subject);
   report.pageWords = text(texts, kPageOf);

@@ -32,8 +32,10 @@ struct Entry {
   ReportForm form;
   const char* name;
 };
-constexpr Entry kEntries[] = {
-    {ReportForm::Xlsx, "tableXLSX"}, {ReportForm::Csv, "tableCSV"}, {ReportForm::Html, "tableHTML"}};
+constexpr Entry kEntries[] = {{ReportForm::Xlsx, "tableXLSX"},
+                              {ReportForm::Csv, "tableCSV"},
+                              {ReportForm::CsvFrench, "tableCSVFRENCH"},
+                              {ReportForm::Html, "tableHTML"}};
 
 // The tables of a window, whichever way it shows them; not the part of one that stays in sight while the rest
 // scrolls, nor one within a control of Qt's own, as a calendar.
@@ -172,8 +174,32 @@ QWidget* WindowExports::shownTable(ChildWindow& window) const {
 
 void WindowExports::fill(QMenu& menu, ChildWindow* window) {
   menu.clear();
-  if (QWidget* table = window == nullptr ? nullptr : shownTable(*window))
+  if (window == nullptr)
+    return;
+  if (QWidget* table = shownTable(*window))
     fillWith(menu, *table);
+  fillWithPictures(menu, *window);
+}
+
+// Those that are in front, each by its name.
+void WindowExports::fillWithPictures(QMenu& menu, ChildWindow& window) {
+  bool isFirst = true;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    const auto* picture = dynamic_cast<const ShownPicture*>(widget);
+    if (picture == nullptr || !widget->isVisibleTo(&window) || !picture->hasPicture())
+      continue;
+    if (isFirst)
+      menu.addSeparator();
+    isFirst = false;
+    const QString name = widget->accessibleName().isEmpty() ? exportTitle(*widget) : widget->accessibleName();
+    for (const auto& [text, act] : {std::pair(kCopyPicture, &WindowExports::copyPicture),
+                                    std::pair(kSavePicture, &WindowExports::savePicture)}) {
+      const QString words =
+          caption(m_texts, text) + (name.isEmpty() ? QString() : QStringLiteral(" – ") + name);
+      connect(menu.addAction(words), &QAction::triggered, widget,
+              [this, widget, act = act] { (this->*act)(*widget); });
+    }
+  }
 }
 
 void WindowExports::fillWith(QMenu& menu, QWidget& table) {

@@ -30,7 +30,7 @@ class WindowExports : public QObject {
   // too. The entries get their texts here and in the window's relabel().
   void serve(ChildWindow& window);
   // Makes the entries of a menu that exports the table which the user was in last, else the first that is
-  // shown in `window`. Null, or a window without a table: none.
+  // shown in `window`, and the pictures that are shown. Null: none.
   void fill(QMenu& menu, ChildWindow* window);
 
  signals:
@@ -40,6 +40,7 @@ class WindowExports : public QObject {
   void addActions(QWidget& table);
   void addPictureActions(QWidget& widget);
   void fillWith(QMenu& menu, QWidget& table);
+  void fillWithPictures(QMenu& menu, ChildWindow& window);
   [[nodiscard]] QWidget* shownTable(ChildWindow& window) const;
   void copy(const QWidget& table);
   void exportTable(const QWidget& table, ReportForm form);

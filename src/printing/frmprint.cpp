@@ -10,6 +10,7 @@
 #include "printing/Printers.h"
 #include "printing/ReportLayout.h"
 #include "printing/ReportOutput.h"
+#include "printing/ReportWords.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -37,6 +38,8 @@ constexpr int kTitle = 1438;
 constexpr int kPrinterError = 1402;
 
 constexpr int kMargin = 8;
+// Of what is kept; before it there was none, and the page width that was kept then was nobody's choice.
+constexpr qint32 kArrangementVersion = 2;
 constexpr int kTitleWidth = 260;
 constexpr int kStepMilliseconds = 20; // of laying out, before the window is served again
 constexpr qsizetype kLongestTitle = 120;
@@ -47,15 +50,17 @@ constexpr int kFitPageEntry = 0;
 constexpr int kFitWidthEntry = 1;
 constexpr int kFirstZoomEntry = 2;
 
+// The entries of the list of rows, behind "all".
+constexpr std::size_t kRowCounts[] = {10, kProposedRows, 50, 100};
+constexpr int kProposedEntry = 2;
+
 struct Export {
   ReportForm form;
   const char* name;
 };
 constexpr Export kExports[] = {
-    {ReportForm::Xlsx, "mnuXLSX"},
-    {ReportForm::Csv, "mnuCSV"},
-    {ReportForm::Html, "mnuHTML"},
-    {ReportForm::Png, "mnuPNG"},
+    {ReportForm::Xlsx, "mnuXLSX"}, {ReportForm::Csv, "mnuCSV"}, {ReportForm::CsvFrench, "mnuCSVFRENCH"},
+    {ReportForm::Html, "mnuHTML"}, {ReportForm::Png, "mnuPNG"},
 };
 
 } // namespace
@@ -142,6 +147,7 @@ QWidget* frmprint::makePageRow() {
   m_paper = addChoice("cmbPAPER", kPaper, row);
   m_turn = addChoice("cmbTURN", kOrientation, row);
   m_zoom = addChoice("cmbZOOM", kZoom, row);
+  m_rows = addChoice("cmbROWS", kRows, row);
   m_facing = addButton("cmdFACING", kFacingPages, nullptr, row);
   m_facing->setCheckable(true);
   setTextNumber(*m_facing, kFacingPages);
@@ -155,7 +161,8 @@ QWidget* frmprint::makePageRow() {
 
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  for (auto [choice, label] : {std::pair(m_paper, kPaper), {m_turn, kOrientation}, {m_zoom, kZoom}}) {
+  for (auto [choice, label] :
+       {std::pair(m_paper, kPaper), {m_turn, kOrientation}, {m_zoom, kZoom}, {m_rows, kRows}}) {
     layout->addWidget(captionFor(*choice, label));
     layout->addWidget(choice);
     layout->addSpacing(kMargin);
@@ -192,6 +199,10 @@ void frmprint::connectEverything() {
   });
   for (QComboBox* choice : {m_paper, m_turn})
     connect(choice, &QComboBox::currentIndexChanged, this, &frmprint::layOut);
+  connect(m_rows, &QComboBox::activated, this, [this] {
+    m_areRowsChosen = true;
+    makeReport();
+  });
   connect(m_zoom, &QComboBox::activated, this, &frmprint::chooseZoom);
   connect(m_facing, &QToolButton::toggled, m_view, &PageView::setFacing);
   connect(m_page, &QSpinBox::valueChanged, m_view, &PageView::goTo);
@@ -222,6 +233,9 @@ void frmprint::fillChoices() {
   m_paper->addItems({QStringLiteral("A4"), QString()});
   m_turn->addItems({QString(), QString(), QString()});
   m_zoom->addItems({QString(), QString()});
+  m_rows->addItem(QString());
+  for (std::size_t i = 0; i < std::size(kRowCounts); ++i)
+    m_rows->addItem(QString());
   for (const int zoom : kZooms)
     m_zoom->addItem(QStringLiteral("%1%").arg(zoom));
 }
@@ -232,6 +246,10 @@ void frmprint::relabelWindow() {
   m_turn->setItemText(0, caption(m_texts, kAsItFits));
   m_turn->setItemText(1, caption(m_texts, kUpright));
   m_turn->setItemText(2, caption(m_texts, kAcross));
+  m_rows->setItemText(0, caption(m_texts, kAllRows));
+  for (std::size_t i = 0; i < std::size(kRowCounts); ++i)
+    m_rows->setItemText(static_cast<int>(i) + 1,
+                        toQt(m_texts.withPlaceholder(kBestRows, std::to_string(kRowCounts[i]))));
   m_zoom->setItemText(kFitPageEntry, caption(m_texts, kFitPage));
   m_zoom->setItemText(kFitWidthEntry, caption(m_texts, kFitWidth));
   for (std::size_t i = 0; i < m_offers.size(); ++i)
@@ -249,6 +267,7 @@ void frmprint::offer(std::vector<ReportOffer> offers) {
       m_choice->addItem(toQt(each.name()));
   }
   m_isTitleTyped = false;
+  m_areRowsChosen = false;
   makeReport();
   m_view->setFocus(); // its keys go through the pages
 }
@@ -257,6 +276,7 @@ void frmprint::makeReport() {
   m_view->showLayout(nullptr);
   m_layout.reset(); // it refers to the old report
   m_report = m_offers[static_cast<std::size_t>(m_choice->currentIndex())].make();
+  limitRows();
   if (m_isTitleTyped)
     m_report.title = fromQt(m_title->text());
   else
@@ -264,6 +284,16 @@ void frmprint::makeReport() {
   showOutputs();
   layOut();
   m_view->goTo(1);
+}
+
+// A list of hundreds of lines is seldom meant to be printed whole: its best are proposed.
+void frmprint::limitRows() {
+  const std::size_t rows = rankedRows(m_report);
+  m_rows->setEnabled(rows > kRowCounts[0]);
+  if (!m_areRowsChosen)
+    m_rows->setCurrentIndex(rows > kLongestList ? kProposedEntry : 0);
+  if (const int chosen = m_rows->currentIndex(); chosen > 0)
+    keepBest(m_report, kRowCounts[chosen - 1], m_texts);
 }
 
 void frmprint::showOutputs() {
@@ -338,26 +368,34 @@ void frmprint::print() {
     m_output.print(m_report, format(), std::move(printer), this);
 }
 
+// What is calculated with is whole, unless the user has chosen how many rows he wants.
 void frmprint::save(ReportForm form) {
-  m_output.save(m_report, form, format(), this);
+  const bool isOfData = form == ReportForm::Xlsx || form == ReportForm::Csv || form == ReportForm::CsvFrench;
+  if (!isOfData || m_areRowsChosen)
+    return m_output.save(m_report, form, format(), this);
+  Report whole = m_offers[static_cast<std::size_t>(m_choice->currentIndex())].make();
+  whole.title = m_report.title;
+  m_output.save(std::move(whole), form, format(), this);
 }
 
 QByteArray frmprint::arrangement() const {
   QByteArray state;
   QDataStream stream(&state, QIODevice::WriteOnly);
-  stream << static_cast<qint32>(m_paper->currentIndex()) << static_cast<qint32>(m_view->fit())
-         << m_view->zoom() << m_view->isFacing();
+  stream << kArrangementVersion << static_cast<qint32>(m_paper->currentIndex())
+         << static_cast<qint32>(m_view->fit()) << m_view->zoom() << m_view->isFacing();
   return state;
 }
 
 void frmprint::restoreArrangement(const QByteArray& state) {
   QDataStream stream(state);
+  qint32 version = 0;
   qint32 paper = 0;
   qint32 fit = 0;
   double zoom = 1;
   bool isFacing = false;
-  stream >> paper >> fit >> zoom >> isFacing;
-  if (stream.status() != QDataStream::Ok || paper < 0 || paper > 1 || fit < 0 || fit > 2)
+  stream >> version >> paper >> fit >> zoom >> isFacing;
+  if (stream.status() != QDataStream::Ok || version != kArrangementVersion || paper < 0 || paper > 1 ||
+      fit < 0 || fit > 2)
     return;
   m_paper->setCurrentIndex(paper);
   m_facing->setChecked(isFacing);

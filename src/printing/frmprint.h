@@ -62,6 +62,7 @@ class frmprint : public ChildWindow {
   void fillChoices();
 
   void makeReport(); // of the chosen offer
+  void limitRows();
   void layOut();
   void layOutMore();
   void finishLayout();
@@ -81,6 +82,7 @@ class frmprint : public ChildWindow {
   std::vector<ReportOffer> m_offers;
   Report m_report;
   bool m_isTitleTyped = false;
+  bool m_areRowsChosen = false; // by the user
   std::unique_ptr<ReportLayout> m_layout;
   QTimer m_steps;
 
@@ -88,6 +90,7 @@ class frmprint : public ChildWindow {
   QLineEdit* m_title = nullptr;
   QComboBox* m_paper = nullptr;
   QComboBox* m_turn = nullptr;
+  QComboBox* m_rows = nullptr;
   QComboBox* m_zoom = nullptr;
   QToolButton* m_facing = nullptr;
   QSpinBox* m_page = nullptr;

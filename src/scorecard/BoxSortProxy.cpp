@@ -1,6 +1,8 @@
 #include "scorecard/BoxSortProxy.h"
 
+#include "appearance/relabel.h"
 #include "scorecard/BoxScoreModel.h"
+#include "storage/NameOrder.h"
 
 namespace hooptab {
 
@@ -14,7 +16,7 @@ bool BoxSortProxy::lessThan(const QModelIndex& left, const QModelIndex& right) c
   const QVariant other = right.data(BoxScoreModel::SortRole);
   if (one.userType() == QMetaType::Double)
     return one.toDouble() < other.toDouble();
-  return one.toString().localeAwareCompare(other.toString()) < 0;
+  return nameOrderKey(fromQt(one.toString())) < nameOrderKey(fromQt(other.toString()));
 }
 
 } // namespace hooptab

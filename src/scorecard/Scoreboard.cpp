@@ -1,8 +1,8 @@
 #include "scorecard/Scoreboard.h"
 
 #include "game/TeamFouls.h"
-#include "storage/EventWords.h"
 #include "storage/Module1.h"
+#include "storage/PeriodName.h"
 
 #include <algorithm>
 
@@ -20,13 +20,6 @@ int lastPeriod(const Game& game) {
   return last;
 }
 
-std::string periodLabel(const Game& game, const Texts& texts, int period, int lastPeriod) {
-  const int regular = game.details.periods;
-  if (regular > 0 && period - 1 == regular && lastPeriod <= period) // the only overtime needs no number
-    return std::string(texts.text(1022));
-  return EventWords(game, texts).periodText(period);
-}
-
 std::vector<Scoreboard::Period> periods(const Game& game, const GameState& state, const Texts& texts) {
   const int last = lastPeriod(game);
   const int count = std::clamp(std::max(last, game.details.periods), 1, kSharedPeriod);
@@ -34,7 +27,7 @@ std::vector<Scoreboard::Period> periods(const Game& game, const GameState& state
   for (int number = 1; number <= count; ++number) {
     Scoreboard::Period& period = result.emplace_back();
     period.isPlayed = number <= last;
-    period.label = periodLabel(game, texts, number, last);
+    period.label = periodName(number, game.details.periods, texts);
     if (number == kSharedPeriod && last > kSharedPeriod)
       period.label += '+';
     for (std::size_t team = 0; team < 2; ++team) {
@@ -59,7 +52,7 @@ Scoreboard scoreboard(const Game& game, const GameState& state, const Texts& tex
     board.leads[lead] = {Module1::clockText(state.lead.seconds[lead]), state.lead.times[lead]};
   board.hasTime = game.details.minutesPerPeriod > 0;
   board.clock = board.hasTime ? Module1::clockText(state.clockSeconds) : std::string(kNoTime);
-  board.period = periodLabel(game, texts, state.period, lastPeriod(game));
+  board.period = periodName(state.period, game.details.periods, texts);
   board.isFinished = game.details.isFinished;
   return board;
 }

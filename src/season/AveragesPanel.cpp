@@ -5,8 +5,10 @@
 #include "season/SeasonTables.h"
 #include "season/SeasonTexts.h"
 #include "season/ViewSwitch.h"
+#include "storage/CountWords.h"
 
 #include <QBoxLayout>
+#include <QHeaderView>
 #include <QStackedWidget>
 
 namespace hooptab {
@@ -23,7 +25,6 @@ AveragesPanel::AveragesPanel(SeasonTable kind, const Settings& settings, const T
   m_scope->setObjectName(QStringLiteral("lblSCOPE"));
   m_scope->setForegroundRole(QPalette::PlaceholderText);
   m_warning->setObjectName(QStringLiteral("lblMINWarning"));
-  setTextNumber(*m_warning, kShortTimeWarning);
   m_warning->hide();
   for (std::size_t i = 0; i < m_tables.size(); ++i) {
     const QString name = kind == SeasonTable::Lines ? QStringLiteral("lvwSTATlignes(%1)")
@@ -60,14 +61,25 @@ void AveragesPanel::showSeason(std::shared_ptr<const Season> season) {
   for (const SeasonView view : kSeasonViews)
     m_tables[static_cast<std::size_t>(view)]->showRows(
         m_season == nullptr ? TableRows() : seasonTableRows(m_season, m_kind, view, m_texts));
+  showColumns(); // teams and labels are the season's
   showTexts();
 }
 
+void AveragesPanel::showColumns() {
+  constexpr int kTeamPlace = 2; // behind the name
+  for (const SeasonView view : kSeasonViews) {
+    SeasonTableView& table = *m_tables[static_cast<std::size_t>(view)];
+    table.showColumns(seasonTableColumns(m_kind, view, m_season.get(), m_settings, m_texts));
+    QHeaderView& header = *table.horizontalHeader();
+    const int team = table.content().columnCount() - 1;
+    if (header.visualIndex(team) == team)
+      header.moveSection(team, kTeamPlace);
+  }
+}
+
 void AveragesPanel::relabelPanel() {
-  for (const SeasonView view : kSeasonViews)
-    m_tables[static_cast<std::size_t>(view)]->showColumns(
-        seasonTableColumns(m_kind, view, m_settings, m_texts));
-  constexpr int kViews[] = {kTotals, kPerGame, kPerMinute};
+  showColumns();
+  constexpr int kViews[] = {kTotals, kPerGame, kPerMinute, kPerForty};
   for (std::size_t i = 0; i < m_tables.size(); ++i)
     setExportTitle(*m_tables[i], caption(m_texts, m_kind == SeasonTable::Lines ? kLineTitle : kPlayerTitle) +
                                      QStringLiteral(" – ") + caption(m_texts, kViews[i]));
@@ -83,11 +95,12 @@ void AveragesPanel::showView(SeasonView view) {
 }
 
 void AveragesPanel::showTexts() {
-  m_scope->setText(
-      m_season == nullptr
-          ? caption(m_texts, kNotGenerated)
-          : toQt(m_texts.withPlaceholder(kOfGames, std::to_string(m_season->statistics().games().size()))));
-  m_warning->setVisible(m_season != nullptr && m_switch->view() == SeasonView::PerMinute);
+  m_scope->setText(m_season == nullptr ? caption(m_texts, kNotGenerated)
+                                       : toQt(countWords(m_season->statistics().games().size(), kOfOneGame,
+                                                         kOfGames, m_texts)));
+  if (m_season != nullptr)
+    m_warning->setText(toQt(markWords(m_season->minimum(), m_kind, m_switch->view(), m_texts)));
+  m_warning->setVisible(m_season != nullptr && !m_warning->text().isEmpty());
 }
 
 } // namespace hooptab

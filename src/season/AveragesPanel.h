@@ -1,5 +1,5 @@
-// The season table of the players, or of the lines, in its three instances: totals, per game, per minute. One
-// is shown at a time; the row that is chosen in one is chosen in the others.
+// The season table of the players, or of the lines, in its instances: totals, per game, per minute, per 40
+// minutes. One is shown at a time; the row that is chosen in one is chosen in the others.
 #pragma once
 
 #include "season/Season.h"
@@ -23,13 +23,14 @@ class AveragesPanel : public QWidget {
 
   void showSeason(std::shared_ptr<const Season> season); // null: none yet
   void relabelPanel();
-  const std::array<SeasonTableView*, 3>& tables() const { return m_tables; }
+  const std::array<SeasonTableView*, kSeasonViewCount>& tables() const { return m_tables; }
   SeasonTableView& table() const;
 
  signals:
   void personAsked(const SeasonRow& row);
 
  private:
+  void showColumns();
   void showView(SeasonView view);
   void showTexts();
 
@@ -41,7 +42,7 @@ class AveragesPanel : public QWidget {
   QLabel* m_scope;
   QLabel* m_warning;
   QStackedWidget* m_stack;
-  std::array<SeasonTableView*, 3> m_tables;
+  std::array<SeasonTableView*, kSeasonViewCount> m_tables;
 };
 
 } // namespace hooptab

@@ -1,6 +1,8 @@
 #include "season/CatalogueMerger.h"
 
 #include "season/Jersey.h"
+#include "storage/EventWords.h"
+#include "storage/NameOrder.h"
 #include "storage/codepage.h"
 
 #include <algorithm>
@@ -38,7 +40,6 @@ void CatalogueMerger::add(ListedGame game, std::size_t reader) {
     row.id = row.id == kNobody ? kNobody : player(known, row.id);
   for (GameRow& row : game.lines)
     row.id = line(known, row.id);
-  noteCopy(game);
   m_content.games.push_back(std::move(game));
 }
 
@@ -91,14 +92,57 @@ SeasonId CatalogueMerger::line(Known& reader, SeasonId id) {
   return known;
 }
 
-void CatalogueMerger::noteCopy(ListedGame& game) {
-  if (game.fingerprint == 0)
-    return; // games without events are alike without being one
-  const std::string key =
-      keyOf(game.team[0], std::to_string(game.team[1]) + "\n" + game.date, std::to_string(game.fingerprint));
-  const auto [place, isFirst] = m_firstCopies.emplace(key, m_content.games.size());
-  if (!isFirst)
-    game.copyOf = place->second;
+// Of the files that tell one game the fullest stands for all, the first of equal ones.
+void CatalogueMerger::noteCopies() {
+  std::vector<ListedGame>& games = m_content.games;
+  std::map<std::string, std::vector<std::size_t>> tellings; // by date, teams and how they begin
+  for (std::size_t i = 0; i < games.size(); ++i) {
+    const ListedGame& game = games[i];
+    if (game.beginning != 0) // games without events are alike without being one
+      tellings[keyOf(game.team[0], std::to_string(game.team[1]) + "\n" + game.date,
+                     std::to_string(game.beginning))]
+          .push_back(i);
+  }
+  for (const auto& [key, places] : tellings) {
+    const std::size_t fullest =
+        *std::ranges::max_element(places, {}, [&](std::size_t place) { return games[place].eventCount; });
+    for (const std::size_t place : places) {
+      if (place != fullest)
+        games[place].copyOf = fullest;
+    }
+  }
+}
+
+void CatalogueMerger::orderNames() {
+  std::vector<std::pair<std::string, SeasonPlayer*>> players;
+  players.reserve(m_content.players.size());
+  for (SeasonPlayer& player : m_content.players)
+    players.emplace_back(nameOrderKey(player.name), &player);
+  std::ranges::sort(players);
+  for (std::size_t i = 0; i < players.size(); ++i) {
+    const bool isSame = i > 0 && players[i].first == players[i - 1].first;
+    players[i].second->nameOrder = isSame ? players[i - 1].second->nameOrder : static_cast<int>(i);
+  }
+}
+
+// A jersey that several wore over the season names them all: a line is known by its jerseys alone.
+void CatalogueMerger::nameLines() {
+  std::vector<std::map<std::string, std::string>> names(m_content.teams.size()); // by jersey
+  for (const SeasonPlayer& player : m_content.players) {
+    std::string& known = names[player.team][canonicalJersey(player.number)];
+    const std::string name = familyName(player.name);
+    if (known.find(name) == std::string::npos)
+      known += (known.empty() ? "" : "/") + name;
+  }
+  for (std::size_t i = 0; i < m_content.lines.size(); ++i) {
+    SeasonLine& line = m_content.lines[i];
+    for (const std::string& jersey : m_lineJerseys[i]) {
+      const auto found = names[line.team].find(jersey);
+      line.players += (line.players.empty() ? "" : ", ") + jersey;
+      if (found != names[line.team].end() && !found->second.empty())
+        line.players += ' ' + found->second;
+    }
+  }
 }
 
 GameCatalogue::Content CatalogueMerger::finish() && {
@@ -116,6 +160,9 @@ GameCatalogue::Content CatalogueMerger::finish() && {
     SeasonLine& line = m_content.lines[i];
     line.list = lineList(m_lineJerseys[i], hasZero[line.team] && hasDoubleZero[line.team]);
   }
+  noteCopies();
+  orderNames();
+  nameLines();
   return std::move(m_content);
 }
 

@@ -29,13 +29,14 @@ class CatalogueMerger {
   SeasonId team(Known& reader, SeasonId id);
   SeasonId player(Known& reader, SeasonId id);
   SeasonId line(Known& reader, SeasonId id);
-  void noteCopy(ListedGame& game);
+  void noteCopies();
+  void orderNames();
+  void nameLines();
 
   std::vector<Known> m_readers;
   GameCatalogue::Content m_content;
   std::vector<std::vector<std::string>> m_lineJerseys;
   std::map<std::string, SeasonId> m_teamIds, m_playerIds, m_lineIds;
-  std::map<std::string, std::size_t> m_firstCopies; // by date, teams and events
 };
 
 } // namespace hooptab

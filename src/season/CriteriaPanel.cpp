@@ -64,6 +64,7 @@ CriteriaPanel::CriteriaPanel(const Texts& texts, QWidget* parent)
   m_grid->setVerticalSpacing(2);
   m_team = addChoice("lstequipes", kTeamCriterion, kTeamWidth);
   m_where = addChoice("lstOU", kWhereCriterion, kChoiceWidth);
+  m_where->setEnabled(false); // home and away are those of a team
   m_type = addChoice("lstTYPEPARTIE", kTypeCriterion, kChoiceWidth);
   m_input = addChoice("lstSAISIE", kInputCriterion, kChoiceWidth);
   m_position = addChoice("lstposition", kPositionCriterion, kChoiceWidth);
@@ -146,7 +147,8 @@ SeasonChoice CriteriaPanel::choice() const {
   GameCriteria& games = choice.games;
   games.team = fromQt(m_team->currentData().toString());
   games.type = chosen(*m_type);
-  games.where = static_cast<GameCriteria::Where>(chosen(*m_where).value_or(0));
+  if (!games.team.empty())
+    games.where = static_cast<GameCriteria::Where>(chosen(*m_where).value_or(0));
   if (const auto input = chosen(*m_input))
     games.input = static_cast<InputKind>(*input);
   if (m_withDate->isChecked()) {
@@ -190,6 +192,9 @@ void CriteriaPanel::leaveOutWrong() {
 void CriteriaPanel::showWhatIsOffered(const SeasonDesk& desk, bool isBusy) {
   m_apply->setEnabled(!isBusy && desk.canApply(choice()));
   m_generate->setEnabled(!isBusy && desk.canGenerate());
+  const bool hasTeam = m_team->currentIndex() > 0;
+  m_where->setEnabled(hasTeam);
+  m_where->setToolTip(caption(m_texts, hasTeam ? kWhereCriterion : kNeedsTeam));
 }
 
 void CriteriaPanel::relabelPanel() {

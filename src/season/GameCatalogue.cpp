@@ -189,14 +189,16 @@ std::vector<std::size_t> GameCatalogue::select(const GameCriteria& criteria) con
            (!criteria.type || game.type == *criteria.type) &&
            (!criteria.input || game.input == *criteria.input);
   };
-  std::vector<bool> isCounted(m_content.games.size()); // the game, whichever of its files it was
+  // The game, whichever of its files it was; its fullest file before all others.
+  std::vector<bool> isCounted(m_content.games.size());
   std::vector<std::size_t> selected;
   for (std::size_t i = 0; i < m_content.games.size(); ++i) {
     const ListedGame& game = m_content.games[i];
-    const std::size_t first = game.copyOf.value_or(i);
-    if (!accepts(game) || (criteria.countsCopiesOnce && isCounted[first]))
+    const std::size_t fullest = game.copyOf.value_or(i);
+    const bool isTold = isCounted[fullest] || (game.copyOf && accepts(m_content.games[fullest]));
+    if (!accepts(game) || (criteria.countsCopiesOnce && isTold))
       continue;
-    isCounted[first] = true;
+    isCounted[fullest] = true;
     selected.push_back(i);
   }
   return selected;

@@ -28,12 +28,14 @@ struct SeasonPlayer {
   SeasonId team = kNobody;
   std::string number; // jersey as in his earliest game
   std::string name;
+  int nameOrder = 0; // place of his name among all
 };
 // A line is its team and its set of jerseys.
 struct SeasonLine {
   SeasonId team = kNobody;
-  std::string list; // IN-04-05-10-12-15, as on-court lists write it
-  std::string name; // "4-5-10-12-15"
+  std::string list;         // IN-04-05-10-12-15, as on-court lists write it
+  std::string name;         // "4-5-10-12-15"
+  std::string players = {}; // "4 Able, 5 Baker, 10 Cole, 12 Dunn, 15 Eng"
 };
 
 enum class SkipReason : std::uint8_t {

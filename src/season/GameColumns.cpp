@@ -44,23 +44,23 @@ enum Column {
 };
 
 constexpr std::array<GameColumn, kGameColumnCount> kColumns = {{
-    {Date, "Date", 0, 2558, true},
-    {Type, "Type", 0, 2205, false},
-    {Result, {}, kTextResults, 1764, false},
-    {Visitor, {}, kTextAway, 3881, true},
-    {VisitorPoints, "PTS", 0, 1058, false},
-    {Home, {}, kTextHome, 3881, true},
-    {HomePoints, "PTS", 0, 1058, false},
-    {Input, {}, kTextInput, 1764, false},
-    {Location, {}, kTextLocation, 6174, true},
-    {File, "GAMEFILE", 0, 0, true},
-    {TeamIds, "TEAMID", 0, 0, true},
-    {VisitorWin, "Vis", 0, 0, false},
-    {VisitorLead, "Temps", 0, 0, false},
-    {Tie, "Tie", 0, 0, false},
-    {TiedTime, "Temps", 0, 0, false},
-    {HomeWin, "Rec", 0, 0, false},
-    {HomeLead, "Temps", 0, 0, false},
+    {Date, "Date", 0, 2558, true, "Date"},
+    {Type, "Type", 0, 2205, false, "Type"},
+    {Result, {}, kTextResults, 1764, false, "Result"},
+    {Visitor, {}, kTextAway, 3881, true, "Visitor"},
+    {VisitorPoints, "PTS", 0, 1058, false, "VisitorPTS"},
+    {Home, {}, kTextHome, 3881, true, "Home"},
+    {HomePoints, "PTS", 0, 1058, false, "HomePTS"},
+    {Input, {}, kTextInput, 1764, false, "Input"},
+    {Location, {}, kTextLocation, 6174, true, "Location"},
+    {File, "GAMEFILE", 0, 0, true, "File"},
+    {TeamIds, "TEAMID", 0, 0, true, "TeamIds"},
+    {VisitorWin, "Vis", 0, 0, false, "VisitorWin"},
+    {VisitorLead, "Temps", 0, 0, false, "VisitorLead"},
+    {Tie, "Tie", 0, 0, false, "Tie"},
+    {TiedTime, "Temps", 0, 0, false, "TiedTime"},
+    {HomeWin, "Rec", 0, 0, false, "HomeWin"},
+    {HomeLead, "Temps", 0, 0, false, "HomeLead"},
 }};
 
 std::string_view inputText(InputKind input, const Texts& texts) {
@@ -83,7 +83,7 @@ std::string resultFor(const GameCatalogue& catalogue, const ListedGame& game,
     return {};
   }
   const std::optional<int> winner = game.winner();
-  return winner ? catalogue.teams()[game.team[*winner]].abbreviation : std::string(texts.text(kTextTie));
+  return winner ? catalogue.teams()[game.team[*winner]].name : std::string(texts.text(kTextTie));
 }
 
 // The number of a column that has one.

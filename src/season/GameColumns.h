@@ -18,11 +18,12 @@ struct GameColumn {
   int headerText;
   int widthTwips; // 0: hidden
   bool isLeftAligned;
+  std::string_view name; // unique, the same in both languages, for files
 };
 inline constexpr int kGameColumnCount = 17;
 [[nodiscard]] std::span<const GameColumn, kGameColumnCount> gameColumns();
 
-// `chosenTeam`: the team whose results are shown; without one, the winner's abbreviation.
+// `chosenTeam`: the team whose results are shown; without one, the winner, named as in his column.
 [[nodiscard]] std::string gameCell(const GameCatalogue& catalogue, const ListedGame& game, int column,
                                    std::optional<SeasonId> chosenTeam, const Texts& texts);
 // The number by which a column sorts: valid dates by day, the others behind; points and hidden times as

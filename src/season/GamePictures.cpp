@@ -38,7 +38,7 @@ SeriesWithToolTips pictureOfStatistic(const SeasonPerson& person, int column, co
   const GameSeries series = seriesOfStatistic(person.results, column);
   SeriesWithToolTips picture;
   SeriesDrawing& drawing = picture.drawing;
-  const QString name = statisticName(column, settings, texts);
+  const QString name = statisticName(column, settings, texts, person.season->statistics().labels());
   drawing.title = toQt(person.row.number) + u' ' + toQt(person.row.name) + QStringLiteral(" – ") + name;
   drawing.unit = column == kTimeColumn                      ? Unit::Time
                  : seasonColumn(column).name.ends_with('%') ? Unit::Percent

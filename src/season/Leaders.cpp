@@ -8,11 +8,11 @@ namespace hooptab {
 
 namespace {
 
-// What one leads in: everything that is counted, but neither misses nor percentages, which a single lucky
-// shot would lead.
-constexpr std::string_view kStatistics[] = {"Time", "PF",  "TF",  "rating", "TGM", "PTS", "F2M", "F3M",
-                                            "FTM",  "FGM", "LLM", "LRM",    "PBM", "DKM", "Ast", "BS",
-                                            "ST",   "TO",  "OR",  "DR",     "TR",  "U1",  "U2"};
+// What one leads in: everything but attempts.
+constexpr std::string_view kStatistics[] = {"Time", "PF",  "TF",  "rating", "TGM", "%",   "PTS", "F2M",
+                                            "F2%",  "F3M", "F3%", "FTM",    "FT%", "FGM", "FG%", "LLM",
+                                            "LL%",  "LRM", "LR%", "PBM",    "PB%", "DKM", "DK%", "Ast",
+                                            "BS",   "ST",  "TO",  "OR",     "DR",  "TR",  "U1",  "U2"};
 
 struct Candidate {
   const SeasonRow* row;
@@ -30,25 +30,34 @@ bool leadsBefore(const Candidate& left, const Candidate& right) {
   if (!isEqual(left.value, right.value))
     return isGreater(left.value, right.value);
   const auto key = [](const SeasonRow& row) {
-    return std::tuple(row.games, std::string_view(row.name), row.id);
+    return std::tuple(row.games, row.nameOrder, std::string_view(row.name), row.id);
   };
   return key(*left.row) < key(*right.row);
 }
 
-StatisticLeaders leadersOf(int column, std::span<const SeasonRow> rows, SeasonView view, const Texts& texts) {
+bool isPerTime(SeasonView view) {
+  return view == SeasonView::PerMinute || view == SeasonView::PerForty;
+}
+
+StatisticLeaders leadersOf(int column, std::span<const SeasonRow> rows, SeasonView view, const Texts& texts,
+                           const Qualification& minimum) {
   std::vector<Candidate> candidates;
   for (const SeasonRow& row : rows) {
     const SeasonValue value = seasonValue(row, column, view);
-    const bool hasTime = view != SeasonView::PerMinute || row.numbers.seconds > 0;
-    if (value.numerator > 0 && hasTime)
+    const bool hasTime = !isPerTime(view) || row.numbers.seconds > 0;
+    if (value.numerator > 0 && hasTime && minimum.isMet(row, column, view))
       candidates.push_back({&row, value});
+  }
+  if (candidates.size() > Leaders::kShown) { // a season has thousands of players
+    const auto last = candidates.begin() + (Leaders::kShown - 1);
+    std::ranges::nth_element(candidates, last, leadsBefore);
+    const SeasonValue least = last->value;
+    std::erase_if(candidates, [&](const Candidate& each) { return isGreater(least, each.value); });
   }
   std::ranges::sort(candidates, leadsBefore);
   StatisticLeaders result{column, {}};
   for (std::size_t i = 0; i < candidates.size(); ++i) {
     const bool isTied = i > 0 && isEqual(candidates[i].value, candidates[i - 1].value);
-    if (i >= Leaders::kShown && !isTied)
-      break;
     result.leaders.push_back({isTied ? result.leaders.back().rank : static_cast<int>(i) + 1,
                               candidates[i].row, seasonCell(*candidates[i].row, column, view, texts)});
   }
@@ -57,12 +66,13 @@ StatisticLeaders leadersOf(int column, std::span<const SeasonRow> rows, SeasonVi
 
 } // namespace
 
-Leaders::Leaders(std::span<const SeasonRow> rows, SeasonView view, const Texts& texts) {
+Leaders::Leaders(std::span<const SeasonRow> rows, SeasonView view, const Texts& texts,
+                 const Qualification& minimum) {
   for (const std::string_view name : kStatistics) {
     const int column = seasonColumn(name).index;
-    if (column == kTimeColumn && view == SeasonView::PerMinute)
+    if (column == kTimeColumn && isPerTime(view))
       continue; // everybody plays a minute a minute
-    m_statistics.push_back(leadersOf(column, rows, view, texts));
+    m_statistics.push_back(leadersOf(column, rows, view, texts, minimum));
   }
 }
 

@@ -1,8 +1,8 @@
-// The leaders of a season: the first ten of each statistic, in totals, per game or per minute. Compares exact
-// averages, not the rounded ones that are shown.
+// The leaders of a season: the first ten of each statistic, in totals or averages, of those who have played
+// enough. Compares exact averages, not the rounded ones that are shown.
 #pragma once
 
-#include "season/SeasonColumns.h"
+#include "season/Qualification.h"
 
 #include <span>
 #include <string>
@@ -24,9 +24,10 @@ class Leaders {
  public:
   static constexpr std::size_t kShown = 10; // more when the tenth is tied
 
-  // `rows` must outlive the leaders. Only values above 0 lead; rows without time lead nothing per minute.
-  // Equal values are ordered by fewer games, then by name.
-  Leaders(std::span<const SeasonRow> rows, SeasonView view, const Texts& texts);
+  // `rows` must outlive the leaders. Only values above 0 lead, of rows that meet the minimum; rows without
+  // time lead nothing per minute. Equal values are ordered by fewer games, then by name.
+  Leaders(std::span<const SeasonRow> rows, SeasonView view, const Texts& texts,
+          const Qualification& minimum = {});
 
   // One entry for each statistic, in the order of the columns, those that nobody leads included.
   std::span<const StatisticLeaders> statistics() const& { return m_statistics; }

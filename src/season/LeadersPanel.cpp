@@ -2,6 +2,7 @@
 
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
+#include "season/MinimumBox.h"
 #include "season/SeasonTables.h"
 #include "season/SeasonTexts.h"
 #include "season/ViewSwitch.h"
@@ -15,6 +16,8 @@ namespace hooptab {
 
 namespace {
 
+constexpr int kGap = 12;
+
 // What most look for first.
 int pointsColumn() {
   return seasonColumn("PTS").index;
@@ -24,7 +27,8 @@ int pointsColumn() {
 
 LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_settings(settings), m_texts(texts), m_switch(new ViewSwitch(this)),
-      m_title(new PlainLabel(this)), m_first(new SeasonTableView(QStringLiteral("lvwFIRST"), 0, this)),
+      m_minimum(new MinimumBox(this)), m_rule(new PlainLabel(this)), m_title(new PlainLabel(this)),
+      m_first(new SeasonTableView(QStringLiteral("lvwFIRST"), 0, this)),
       m_leaders(new SeasonTableView(QStringLiteral("lvwLEADERS"), 0, this)), m_column(pointsColumn()) {
   m_title->setObjectName(QStringLiteral("lblSTATISTIC"));
   QFont bold = m_title->font();
@@ -34,7 +38,11 @@ LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget
   setAccessibleNumber(*m_leaders, kLeadersTab);
   auto* head = new QHBoxLayout;
   head->addWidget(m_title);
+  m_rule->setObjectName(QStringLiteral("lblMINIMUM"));
+  m_rule->setForegroundRole(QPalette::PlaceholderText);
   head->addStretch();
+  head->addWidget(m_minimum);
+  head->addSpacing(kGap);
   head->addWidget(m_switch);
   auto* parts = new QSplitter(Qt::Horizontal, this);
   parts->setObjectName(QStringLiteral("leaderParts"));
@@ -47,11 +55,13 @@ LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget
   layout->setSpacing(4);
   layout->addLayout(head);
   layout->addWidget(parts, 1);
+  layout->addWidget(m_rule);
 
   connect(m_switch, &ViewSwitch::viewChosen, this, [this] {
     showFirst();
     showLeaders();
   });
+  connect(m_minimum, &MinimumBox::minimumChanged, this, &LeadersPanel::minimumChosen);
   connect(m_first, &SeasonTableView::currentRowChanged, this, [this](int row) {
     if (row < 0)
       return;
@@ -71,6 +81,17 @@ void LeadersPanel::showSeason(std::shared_ptr<const Season> season) {
   showLeaders();
 }
 
+void LeadersPanel::showMinimum(const Qualification& minimum, std::shared_ptr<const Season> season) {
+  m_minimum->showMinimum(minimum);
+  m_season = std::move(season);
+  showFirst();
+  showLeaders();
+}
+
+SeasonView LeadersPanel::view() const {
+  return m_switch->view();
+}
+
 // Where a view lacks the statistic that is chosen, its points are shown, and the choice waits for another
 // view.
 std::size_t LeadersPanel::statistic() const {
@@ -84,6 +105,7 @@ std::size_t LeadersPanel::statistic() const {
 void LeadersPanel::relabelPanel() {
   m_first->showColumns(firstLeaderColumns(m_texts));
   m_leaders->showColumns(leaderColumns(m_texts));
+  m_minimum->relabelBox(m_texts);
   showTitle();
 }
 
@@ -104,10 +126,11 @@ void LeadersPanel::showLeaders() {
 }
 
 void LeadersPanel::showTitle() {
+  m_rule->setText(toQt(minimumWords(m_minimum->minimum(), m_switch->view(), m_texts)));
   if (m_season == nullptr)
     return m_title->setText(caption(m_texts, kNotGenerated));
   const int column = m_season->leaders(m_switch->view()).statistics()[statistic()].column;
-  m_title->setText(statisticName(column, m_settings, m_texts));
+  m_title->setText(statisticName(column, m_settings, m_texts, m_season->statistics().labels()));
   setExportTitle(*m_leaders, m_title->text());
 }
 

@@ -9,6 +9,7 @@ class QLabel;
 
 namespace hooptab {
 
+class MinimumBox;
 class ViewSwitch;
 
 class LeadersPanel : public QWidget {
@@ -18,12 +19,16 @@ class LeadersPanel : public QWidget {
   LeadersPanel(const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
 
   void showSeason(std::shared_ptr<const Season> season); // null: none yet
+  // The same season under another minimum: the statistic that is shown stays.
+  void showMinimum(const Qualification& minimum, std::shared_ptr<const Season> season);
   void relabelPanel();
+  SeasonView view() const;
   SeasonTableView& firstLeaders() const { return *m_first; }
   SeasonTableView& leaders() const { return *m_leaders; }
 
  signals:
   void personAsked(const SeasonRow& row);
+  void minimumChosen(const Qualification& minimum);
 
  private:
   void showFirst();
@@ -35,6 +40,8 @@ class LeadersPanel : public QWidget {
   const Texts& m_texts;
   std::shared_ptr<const Season> m_season;
   ViewSwitch* m_switch;
+  MinimumBox* m_minimum;
+  QLabel* m_rule; // the minimum of the view that is shown, in words
   QLabel* m_title;
   SeasonTableView* m_first;
   SeasonTableView* m_leaders;

@@ -51,9 +51,14 @@ struct ListedGame {
   int teamNumber[2] = {}; // the teams' identifiers in the settings of whoever recorded the game
   int points[2] = {};
   std::array<std::int32_t, 3> leadSeconds = {}; // team 0 ahead, team 1 ahead, tied; not below 0
+  std::array<std::string, 2> label;             // of the user's own statistics; empty for none
   std::uint64_t fingerprint = 0;                // of its events; 0 without any
-  std::optional<std::size_t> copyOf; // the first listed game of the same date, teams and events, if not this
-  std::string outOfRange;            // "PAN 12 PF": the count that stays at its limit; usually empty
+  std::uint64_t beginning = 0;                  // of its first events; 0 where there are few
+  std::size_t eventCount = 0;
+  // The listed game of the same date, teams and events, if not this: the first of equal ones; of files that
+  // begin alike and then differ, the one with the most events.
+  std::optional<std::size_t> copyOf;
+  std::string outOfRange; // "PAN 12 PF": the count that stays at its limit; usually empty
   // What cannot be so, the first few, and how much there is of it. A game with any counts like the
   // others, once the user has been told.
   std::vector<Finding> wrong;

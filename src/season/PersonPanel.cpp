@@ -8,6 +8,7 @@
 #include "season/SeasonTexts.h"
 #include "season/SeriesView.h"
 #include "season/ZoneChart.h"
+#include "storage/CountWords.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -116,6 +117,7 @@ QWidget* PersonPanel::makePictures() {
 
 void PersonPanel::showPerson(std::shared_ptr<const SeasonPerson> person) {
   m_person = std::move(person);
+  showStatistics();
   m_records->showRows(m_person == nullptr ? TableRows() : recordRows(m_person));
   m_results->showRows(m_person == nullptr ? TableRows() : resultRows(m_person, m_texts));
   showTexts();
@@ -125,20 +127,23 @@ void PersonPanel::showPerson(std::shared_ptr<const SeasonPerson> person) {
 
 void PersonPanel::relabelPanel() {
   m_records->showColumns(recordColumns());
-  m_results->showColumns(resultColumns(m_settings, m_texts));
-  {
-    const QSignalBlocker quiet(m_statistic);
-    const QVariant chosen =
-        m_statistic->count() == 0 ? seasonColumn("PTS").index : m_statistic->currentData();
-    m_statistic->clear();
-    m_statistic->addItem(statisticName(kTimeColumn, m_settings, m_texts), kTimeColumn);
-    for (int column = kFirstCountColumn; column <= kLastCountColumn; ++column)
-      m_statistic->addItem(statisticName(column, m_settings, m_texts), column);
-    m_statistic->setCurrentIndex(m_statistic->findData(chosen));
-  }
+  showStatistics();
   showTexts();
   showPicture();
   showShots();
+}
+
+// What the user's own statistics are called depends on the games.
+void PersonPanel::showStatistics() {
+  const OwnLabels labels = m_person == nullptr ? OwnLabels() : m_person->season->statistics().labels();
+  m_results->showColumns(resultColumns(m_settings, m_texts, labels));
+  const QSignalBlocker quiet(m_statistic);
+  const QVariant chosen = m_statistic->count() == 0 ? seasonColumn("PTS").index : m_statistic->currentData();
+  m_statistic->clear();
+  m_statistic->addItem(statisticName(kTimeColumn, m_settings, m_texts), kTimeColumn);
+  for (int column = kFirstCountColumn; column <= kLastCountColumn; ++column)
+    m_statistic->addItem(statisticName(column, m_settings, m_texts, labels), column);
+  m_statistic->setCurrentIndex(m_statistic->findData(chosen));
 }
 
 void PersonPanel::applyColours() {
@@ -151,12 +156,14 @@ void PersonPanel::showTexts() {
   m_recordTitle->setText(caption(m_texts, isLine ? kLineRecords : kPersonalRecords));
   m_records->setAccessibleName(m_recordTitle->text());
   m_number->setText(m_person == nullptr ? QString() : toQt(m_person->row.number));
-  m_name->setText(m_person == nullptr ? caption(m_texts, kChooseSomebody) : toQt(m_person->row.name));
+  m_name->setText(m_person == nullptr
+                      ? caption(m_texts, kChooseSomebody)
+                      : toQt(m_person->row.players.empty() ? m_person->row.name : m_person->row.players));
   if (m_person == nullptr)
     return m_games->clear();
   const SeasonTeam& team = m_person->season->catalogue().teams()[m_person->row.team];
   m_games->setText(toQt(team.key) + QStringLiteral("  ·  ") +
-                   toQt(m_texts.withPlaceholder(kPersonGames, std::to_string(m_person->results.size()))));
+                   toQt(countWords(m_person->results.size(), kOnePersonGame, kPersonGames, m_texts)));
   const QString who = m_number->text() + u' ' + m_name->text();
   for (const auto& [widget, title] : {std::pair<QWidget*, QString>(m_records, m_recordTitle->text()),
                                       {m_results, caption(m_texts, kResultsByGame)},

@@ -35,6 +35,7 @@ class PersonPanel : public QWidget {
  private:
   QWidget* makeRecords();
   QWidget* makePictures();
+  void showStatistics();
   void showTexts();
   void showPicture();
   void showShots();

@@ -5,11 +5,26 @@
 namespace hooptab {
 
 Season::Season(std::shared_ptr<const GameCatalogue> catalogue, std::vector<std::size_t> games,
-               const SeasonStatistics::Shown& shown, const Texts& texts)
-    : m_catalogue(std::move(catalogue)), m_statistics(*m_catalogue, std::move(games), shown),
-      m_shots(shotsOfGames(*m_catalogue, m_statistics.games())) {
+               const SeasonStatistics::Shown& shown, const Texts& texts, const Qualification& minimum,
+               const std::atomic<bool>* isCancelled)
+    : m_catalogue(std::move(catalogue)), m_statistics(std::make_shared<const SeasonStatistics>(
+                                             *m_catalogue, std::move(games), shown, isCancelled)),
+      m_minimum(minimum) {
+  if (isCancelled != nullptr && *isCancelled)
+    return;
+  addLeaders(texts);
+  m_shots = shotsOfGames(*m_catalogue, m_statistics->games());
+}
+
+Season::Season(const Season& other, const Qualification& minimum, const Texts& texts)
+    : m_catalogue(other.m_catalogue), m_statistics(other.m_statistics), m_minimum(minimum),
+      m_shots(other.m_shots) {
+  addLeaders(texts);
+}
+
+void Season::addLeaders(const Texts& texts) {
   for (const SeasonView view : kSeasonViews)
-    m_leaders.emplace_back(m_statistics.players(), view, texts);
+    m_leaders.emplace_back(m_statistics->players(), view, texts, m_minimum);
 }
 
 SeasonPerson::SeasonPerson(std::shared_ptr<const Season> ofSeason, const SeasonRow& ofRow, bool isOfLine,

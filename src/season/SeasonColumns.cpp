@@ -153,7 +153,8 @@ std::int64_t counted(const BoxNumbers& numbers, const Column& column) {
 int decimalsOf(SeasonView view) {
   switch (view) {
   case SeasonView::Totals: return 0;
-  case SeasonView::PerGame: return 1;
+  case SeasonView::PerGame:
+  case SeasonView::PerForty: return 1;
   case SeasonView::PerMinute: break;
   }
   return 2;
@@ -167,6 +168,11 @@ std::string positionsText(const std::vector<int>& positions, const Texts& texts)
 }
 
 } // namespace
+
+std::string_view seasonViewName(SeasonView view) {
+  constexpr std::string_view kNames[] = {"total", "perGame", "perMinute", "per40"};
+  return kNames[static_cast<std::size_t>(view)];
+}
 
 std::span<const SeasonColumn, kSeasonColumnCount> seasonColumns() {
   return kShownColumns;
@@ -209,9 +215,13 @@ SeasonValue seasonValue(const SeasonRow& row, int column, SeasonView view) {
   const std::int64_t value = counted(row.numbers, wanted);
   if (view == SeasonView::PerGame)
     return {value, row.games};
-  if (view == SeasonView::PerMinute && wanted.cell != Cell::Time)
-    return row.numbers.seconds > 0 ? SeasonValue{value * 60, row.numbers.seconds}
-                                   : SeasonValue{value, kDivisorWithoutTime};
+  if (view != SeasonView::Totals && wanted.cell != Cell::Time) {
+    constexpr std::int64_t kMinute = 60;
+    constexpr std::int64_t kForty = 40 * kMinute;
+    return row.numbers.seconds > 0
+               ? SeasonValue{value * (view == SeasonView::PerForty ? kForty : kMinute), row.numbers.seconds}
+               : SeasonValue{value, kDivisorWithoutTime};
+  }
   return {value, 1};
 }
 
@@ -219,7 +229,7 @@ std::string seasonCell(const SeasonRow& row, int column, SeasonView view, const 
   const Cell cell = columnAt(column).cell;
   switch (cell) {
   case Cell::Number: return row.number;
-  case Cell::Name: return row.name;
+  case Cell::Name: return row.players.empty() ? row.name : row.players;
   case Cell::Rank: return std::to_string(row.rank);
   case Cell::Position: return positionText(row.positions.empty() ? -1 : row.positions.back(), texts);
   case Cell::PositionHistory: return positionsText(row.positions, texts);
@@ -231,9 +241,10 @@ std::string seasonCell(const SeasonRow& row, int column, SeasonView view, const 
   case Cell::Percent:
     return Module1::percentText(static_cast<int>(value.numerator), static_cast<int>(value.denominator));
   case Cell::Time:
-    return view == SeasonView::PerMinute ? "--"
-                                         : Module1::clockText(static_cast<int>(
-                                               Module1::roundedQuotient(value.numerator, value.denominator)));
+    return view == SeasonView::PerMinute || view == SeasonView::PerForty
+               ? "--"
+               : Module1::clockText(
+                     static_cast<int>(Module1::roundedQuotient(value.numerator, value.denominator)));
   default: return Module1::quotientText(value.numerator, value.denominator, decimalsOf(view));
   }
 }
@@ -250,6 +261,10 @@ double seasonSortValue(const SeasonRow& row, int column, SeasonView view) {
   const SeasonValue value = seasonValue(row, column, view);
   return value.denominator > 0 ? static_cast<double>(value.numerator) / static_cast<double>(value.denominator)
                                : -1; // no attempt comes below 0 %
+}
+
+int attemptsColumnOf(int column) {
+  return columnAt(column).cell == Cell::Percent ? column - 1 : 0; // made, attempted, percentage, points
 }
 
 bool seasonColumnIsText(int column) {

@@ -6,15 +6,20 @@
 #include "storage/Texts.h"
 
 #include <cstdint>
+#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace hooptab {
 
-// The three instances of each table, by their index.
-enum class SeasonView : std::uint8_t { Totals, PerGame, PerMinute };
-inline constexpr SeasonView kSeasonViews[] = {SeasonView::Totals, SeasonView::PerGame, SeasonView::PerMinute};
+// The instances of each table, by their index.
+enum class SeasonView : std::uint8_t { Totals, PerGame, PerMinute, PerForty };
+inline constexpr SeasonView kSeasonViews[] = {SeasonView::Totals, SeasonView::PerGame, SeasonView::PerMinute,
+                                              SeasonView::PerForty};
+inline constexpr std::size_t kSeasonViewCount = std::size(kSeasonViews);
+// The same in every language, for files: "total", "perGame", "perMinute", "per40".
+[[nodiscard]] std::string_view seasonViewName(SeasonView view);
 
 // By creation index 1..55.
 struct SeasonColumn {
@@ -54,5 +59,7 @@ struct SeasonValue {
 // The number by which a column sorts; text columns (2, 54, 55) sort by their text.
 [[nodiscard]] double seasonSortValue(const SeasonRow& row, int column, SeasonView view);
 [[nodiscard]] bool seasonColumnIsText(int column);
+// The column of the attempts that a percentage is of; 0 for columns that are no percentages.
+[[nodiscard]] int attemptsColumnOf(int column);
 
 } // namespace hooptab

@@ -28,8 +28,16 @@ bool SeasonDesk::isOutdated() const {
           !std::ranges::equal(m_season->statistics().games(), m_listed));
 }
 
-std::shared_ptr<const Season> SeasonDesk::Order::carryOut(const Texts& texts) const {
-  return std::make_shared<const Season>(catalogue, games, shown, texts);
+std::shared_ptr<const Season> SeasonDesk::Order::carryOut(const Texts& texts,
+                                                          const std::atomic<bool>* isCancelled) const {
+  auto season = std::make_shared<const Season>(catalogue, games, shown, texts, minimum, isCancelled);
+  return isCancelled != nullptr && *isCancelled ? nullptr : season;
+}
+
+void SeasonDesk::setMinimum(const Qualification& minimum, const Texts& texts) {
+  m_minimum = minimum;
+  if (m_season != nullptr)
+    m_season = std::make_shared<const Season>(*m_season, minimum, texts);
 }
 
 void SeasonDesk::takeSeason(std::shared_ptr<const Season> season, const Order& order) {

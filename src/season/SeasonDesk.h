@@ -43,10 +43,16 @@ class SeasonDesk {
     std::shared_ptr<const GameCatalogue> catalogue;
     std::vector<std::size_t> games;
     SeasonStatistics::Shown shown;
+    Qualification minimum;
 
-    [[nodiscard]] std::shared_ptr<const Season> carryOut(const Texts& texts) const;
+    // Null when it was cancelled.
+    [[nodiscard]] std::shared_ptr<const Season>
+    carryOut(const Texts& texts, const std::atomic<bool>* isCancelled = nullptr) const;
   };
-  Order order() const { return {m_catalogue, m_listed, {m_choice.games.team, m_choice.position}}; }
+  Order order() const { return {m_catalogue, m_listed, {m_choice.games.team, m_choice.position}, m_minimum}; }
+  const Qualification& minimum() const { return m_minimum; }
+  // Also of the statistics that were made.
+  void setMinimum(const Qualification& minimum, const Texts& texts);
   // What was ordered is what the statistics are of.
   void takeSeason(std::shared_ptr<const Season> season, const Order& order);
 
@@ -56,6 +62,7 @@ class SeasonDesk {
   std::vector<std::size_t> m_listed;
   std::shared_ptr<const Season> m_season;
   SeasonStatistics::Shown m_shown;
+  Qualification m_minimum;
 };
 
 } // namespace hooptab

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <set>
 #include <tuple>
 
 namespace hooptab {
@@ -17,17 +18,19 @@ void addTo(BoxNumbers& sum, const GameRow& row) {
 
 // Unequal for any two rows, so that the order is one.
 auto rankKey(const SeasonRow& row) {
-  return std::tuple(-row.numbers.points(), -row.numbers.rating(), std::string_view(row.name), row.id);
+  return std::tuple(-row.numbers.points(), -row.numbers.rating(), row.nameOrder, std::string_view(row.name),
+                    row.id);
 }
 
 } // namespace
 
 SeasonStatistics::SeasonStatistics(const GameCatalogue& catalogue, std::vector<std::size_t> games,
-                                   const Shown& shown)
-    : m_catalogue(&catalogue), m_games(std::move(games)) {
+                                   const Shown& shown, const std::atomic<bool>* isCancelled)
+    : m_catalogue(&catalogue), m_isCancelled(isCancelled), m_games(std::move(games)) {
   const std::optional<SeasonId> team = catalogue.teamOf(shown.team);
   if (!shown.team.empty() && !team)
     return; // nobody's rows
+  joinLabels();
   sumTeams(team);
   m_players = sumRows(&ListedGame::players, catalogue.players().size(), team);
   m_lines = sumRows(&ListedGame::lines, catalogue.lines().size(), team);
@@ -36,6 +39,7 @@ SeasonStatistics::SeasonStatistics(const GameCatalogue& catalogue, std::vector<s
     row.team = player.team;
     row.number = player.number;
     row.name = player.name;
+    row.nameOrder = player.nameOrder;
   }
   if (shown.position)
     std::erase_if(m_players, [&](const SeasonRow& row) { return row.positions.back() != *shown.position; });
@@ -45,12 +49,30 @@ SeasonStatistics::SeasonStatistics(const GameCatalogue& catalogue, std::vector<s
     row.team = line.team;
     row.number = std::to_string(++linesOfTeam[line.team]);
     row.name = line.name;
+    row.players = line.players;
   }
+  std::vector<int> gamesOfTeam(catalogue.teams().size());
+  for (const SeasonTeamRow& each : m_teams)
+    gamesOfTeam[each.team] = each.games;
   for (std::vector<SeasonRow>* rows : {&m_players, &m_lines}) {
+    for (SeasonRow& row : *rows)
+      row.teamGames = gamesOfTeam[row.team];
     std::ranges::sort(*rows, std::less(), rankKey);
     int rank = 0;
     for (SeasonRow& row : *rows)
       row.rank = ++rank;
+  }
+  m_isCancelled = nullptr;
+}
+
+void SeasonStatistics::joinLabels() {
+  std::array<std::set<std::string>, 2> met;
+  for (const std::size_t index : m_games) {
+    for (std::size_t which = 0; which < met.size(); ++which) {
+      const std::string& label = m_catalogue->games()[index].label[which];
+      if (!label.empty() && met[which].insert(label).second)
+        m_labels[which] += (m_labels[which].empty() ? "" : " / ") + label;
+    }
   }
 }
 
@@ -58,6 +80,8 @@ void SeasonStatistics::sumTeams(std::optional<SeasonId> shownTeam) {
   std::vector<SeasonTeamRow> sums(m_catalogue->teams().size());
   std::vector<std::size_t> lastGame(sums.size(), kNoGame);
   for (const std::size_t index : m_games) {
+    if (isCancelled())
+      return;
     const ListedGame& game = m_catalogue->games()[index];
     for (const int side : {0, 1}) {
       SeasonTeamRow& sum = sums[game.team[side]];
@@ -86,6 +110,8 @@ std::vector<SeasonRow> SeasonStatistics::sumRows(Rows rows, std::size_t ids,
   std::vector<std::size_t> lastGame;
   std::vector<SeasonRow> sums;
   for (const std::size_t index : m_games) {
+    if (isCancelled())
+      break;
     const ListedGame& game = m_catalogue->games()[index];
     for (const GameRow& row : game.*rows) {
       if (row.id == kNobody || (shownTeam && game.team[row.side] != *shownTeam))

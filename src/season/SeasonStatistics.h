@@ -6,6 +6,8 @@
 #include "scorecard/BoxScore.h"
 #include "season/GameCatalogue.h"
 
+#include <array>
+#include <atomic>
 #include <optional>
 #include <span>
 #include <string>
@@ -17,14 +19,17 @@ namespace hooptab {
 struct SeasonRow {
   SeasonId id = kNobody; // in the catalogue's players or lines
   SeasonId team = kNobody;
-  std::string number; // jersey; a line's number within the table
-  std::string name;   // player's name; a line's jerseys
-  int games = 0;      // at least 1
+  std::string number;  // jersey; a line's number within the table
+  std::string name;    // player's name; a line's jerseys
+  std::string players; // of a line: jerseys and family names; empty for a player
+  int nameOrder = 0;   // of players: their place among all names
+  int games = 0;       // at least 1
+  int teamGames = 0;   // selected games of the team
   BoxNumbers numbers;
   int rank = 0;               // by points, then rating, then name; from 1
   std::vector<int> positions; // players: one after another by date, each change once; the last is today's
 
-  // Averages of so short a time say little; they are marked where they are shown.
+  // Averages of a line over so short a time say little; they are marked where they are shown.
   static constexpr int kShortSeconds = 10 * 60;
   [[nodiscard]] bool isShort() const { return numbers.seconds < kShortSeconds; }
 };
@@ -51,7 +56,9 @@ class SeasonStatistics {
     std::optional<int> position; // of players: the one in their latest selected game
   };
   // `games` are places in the catalogue's games, as its select() gives them.
-  SeasonStatistics(const GameCatalogue& catalogue, std::vector<std::size_t> games, const Shown& shown);
+  // Cancelled, they are of some of the games only, and worth nothing.
+  SeasonStatistics(const GameCatalogue& catalogue, std::vector<std::size_t> games, const Shown& shown,
+                   const std::atomic<bool>* isCancelled = nullptr);
 
   const GameCatalogue& catalogue() const { return *m_catalogue; }
   std::span<const std::size_t> games() const { return m_games; }
@@ -60,6 +67,8 @@ class SeasonStatistics {
   std::span<const SeasonRow> lines() const { return m_lines; }
   // In order of first appearance.
   std::span<const SeasonTeamRow> teams() const { return m_teams; }
+  // What the games call the user's own two statistics; several names joined by " / ", empty without any.
+  const std::array<std::string, 2>& labels() const { return m_labels; }
 
   // The selected games of a player or of a line, in order of date.
   [[nodiscard]] std::vector<GameResult> resultsOfPlayer(SeasonId player) const;
@@ -68,15 +77,20 @@ class SeasonStatistics {
  private:
   using Rows = std::vector<GameRow> ListedGame::*;
   void sumTeams(std::optional<SeasonId> shownTeam);
+  void joinLabels();
   [[nodiscard]] std::vector<SeasonRow> sumRows(Rows rows, std::size_t ids,
                                                std::optional<SeasonId> shownTeam) const;
   [[nodiscard]] std::vector<GameResult> resultsOf(Rows rows, SeasonId id) const;
 
+  [[nodiscard]] bool isCancelled() const { return m_isCancelled != nullptr && *m_isCancelled; }
+
   const GameCatalogue* m_catalogue;
+  const std::atomic<bool>* m_isCancelled; // while they are being summed
   std::vector<std::size_t> m_games;
   std::vector<SeasonRow> m_players;
   std::vector<SeasonRow> m_lines;
   std::vector<SeasonTeamRow> m_teams;
+  std::array<std::string, 2> m_labels;
 };
 
 } // namespace hooptab

@@ -20,12 +20,12 @@ const SeasonRow& rowOf(const Season& season, SeasonTable kind, int row) {
 // The longest text that a column of numbers is likely to hold.
 QString longestText(const SeasonColumn& column, SeasonView view) {
   if (column.index == kTimeColumn)
-    return QStringLiteral("0000:00");
+    return QStringLiteral("00000:00");
   if (column.name.ends_with('%'))
     return QStringLiteral("100.0%");
   if (column.index < kFirstCountColumn || column.index > kLastCountColumn)
     return QStringLiteral("000");
-  return view == SeasonView::Totals ? QStringLiteral("0000") : QStringLiteral("00.00");
+  return view == SeasonView::Totals ? QStringLiteral("00000") : QStringLiteral("00.00");
 }
 
 // Groups of four, so that their equal "PTS" headers stay apart: every other one is tinted.
@@ -36,11 +36,12 @@ bool isShaded(int column) {
 }
 
 TableColumn columnOf(int index, SeasonTable kind, SeasonView view, const Settings& settings,
-                     const Texts& texts) {
+                     const Texts& texts, const OwnLabels& labels) {
   const SeasonColumn& column = seasonColumn(index);
   TableColumn shown;
   shown.header = toQt(seasonHeader(index, kind, texts));
-  shown.toolTip = index == kNameColumn ? shown.header : toQt(seasonColumnWords(index, settings, texts));
+  shown.toolTip =
+      index == kNameColumn ? shown.header : toQt(seasonColumnWords(index, settings, texts, labels));
   shown.isText = seasonColumnIsText(index);
   shown.isLeftAligned = column.isLeftAligned;
   if (!shown.isText && !shown.isLeftAligned)
@@ -73,10 +74,10 @@ const StatisticLeaders& leadersAt(const Season& season, SeasonView view, std::si
 
 } // namespace
 
-QString statisticName(int column, const Settings& settings, const Texts& texts) {
+QString statisticName(int column, const Settings& settings, const Texts& texts, const OwnLabels& labels) {
   if (column == seasonColumn("rating").index) // its words are the whole formula
     return caption(texts, kRating);
-  QString words = toQt(seasonColumnWords(column, settings, texts));
+  QString words = toQt(seasonColumnWords(column, settings, texts, labels));
   words.front() = words.front().toUpper();
   return words;
 }
@@ -86,6 +87,7 @@ std::vector<TableColumn> gameListColumns(const Texts& texts) {
   for (const GameColumn& column : gameColumns()) {
     TableColumn& shown = columns.emplace_back();
     shown.header = column.headerText != 0 ? caption(texts, column.headerText) : toQt(column.header);
+    shown.name = toQt(column.name);
     shown.isText = gameColumnIsText(column.index);
     shown.isLeftAligned = column.isLeftAligned;
     shown.isHidden = column.widthTwips == 0;
@@ -117,7 +119,7 @@ TableRows gameListRows(std::shared_ptr<const GameCatalogue> catalogue, std::vect
     if (shown.wrongCount > 0)
       words += u'\n' + toQt(catalogue->whyWrong(shown, texts));
     if (shown.copyOf)
-      words += u'\n' + toQt(texts.withPlaceholder(kSameGameAs, catalogue->games()[*shown.copyOf].path));
+      words += u'\n' + toQt(copyWords(*catalogue, shown, texts));
     if (!shown.outOfRange.empty())
       words += u'\n' + toQt(shown.outOfRange);
     return words + u'\n' + caption(texts, kOpensGame);
@@ -139,12 +141,16 @@ TableRows skippedRows(std::shared_ptr<const GameCatalogue> catalogue, const Text
   return rows;
 }
 
-std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view, const Settings& settings,
-                                            const Texts& texts) {
+std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view, const Season* season,
+                                            const Settings& settings, const Texts& texts) {
+  const OwnLabels labels = season == nullptr ? OwnLabels() : season->statistics().labels();
   std::vector<TableColumn> columns;
   for (int index = 1; index <= (kind == SeasonTable::Lines ? kSeasonLineColumnCount : kSeasonColumnCount);
        ++index)
-    columns.push_back(columnOf(index, kind, view, settings, texts));
+    columns.push_back(columnOf(index, kind, view, settings, texts, labels));
+  TableColumn& team = columns.emplace_back(textColumn(caption(texts, kTeamCriterion)));
+  team.name = QStringLiteral("Team");
+  team.isHidden = season == nullptr || season->statistics().teams().size() < 2;
   return columns;
 }
 
@@ -155,11 +161,18 @@ TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind
   rows.count =
       static_cast<int>(kind == SeasonTable::Lines ? statistics.lines().size() : statistics.players().size());
   rows.isMuted = [season, kind, view](int row) {
-    return view == SeasonView::PerMinute && rowOf(*season, kind, row).isShort();
+    return season->minimum().isUnder(rowOf(*season, kind, row), kind, view);
   };
   rows.text = [season, kind, view, isMarked = rows.isMuted, &texts](int row, int column) -> QString {
-    QString text = toQt(seasonCell(rowOf(*season, kind, row), column + 1, view, texts));
+    const SeasonRow& shown = rowOf(*season, kind, row);
+    if (column == (kind == SeasonTable::Lines ? kSeasonLineColumnCount : kSeasonColumnCount))
+      return toQt(season->catalogue().teams()[shown.team].key);
+    QString text = toQt(seasonCell(shown, column + 1, view, texts));
     return column + 1 == kNameColumn && isMarked(row) ? text + QStringLiteral(" *") : text;
+  };
+  // Names without their mark; a season has tens of thousands of lines, whose jerseys sort faster than names.
+  rows.sortText = [season, kind, text = rows.text](int row, int column) -> QString {
+    return column + 1 == kNameColumn ? toQt(rowOf(*season, kind, row).name) : text(row, column);
   };
   rows.sortValue = [season, kind, view](int row, int column) {
     return seasonSortValue(rowOf(*season, kind, row), column + 1, view);
@@ -167,7 +180,8 @@ TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind
   rows.toolTip = [season, kind, &texts](int row) -> QString {
     const SeasonRow& shown = rowOf(*season, kind, row);
     return toQt(season->catalogue().teams()[shown.team].key) + QStringLiteral("  ") + toQt(shown.number) +
-           u' ' + toQt(shown.name) + u'\n' + caption(texts, kOpensPerson);
+           u' ' + toQt(shown.players.empty() ? shown.name : shown.players) + u'\n' +
+           caption(texts, kOpensPerson);
   };
   return rows;
 }
@@ -187,7 +201,8 @@ TableRows firstLeaderRows(std::shared_ptr<const Season> season, SeasonView view,
   };
   rows.text = [season, view, first, &settings, &texts](int row, int column) {
     if (column == 0)
-      return statisticName(leadersAt(*season, view, static_cast<std::size_t>(row)).column, settings, texts);
+      return statisticName(leadersAt(*season, view, static_cast<std::size_t>(row)).column, settings, texts,
+                           season->statistics().labels());
     const Leader* leader = first(row);
     if (leader == nullptr)
       return QString();
@@ -270,12 +285,13 @@ TableRows recordRows(std::shared_ptr<const SeasonPerson> person) {
   return rows;
 }
 
-std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& texts) {
+std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& texts,
+                                       const OwnLabels& labels) {
   std::vector<TableColumn> columns;
   for (int index = 1; index <= kResultColumnCount; ++index) {
     const int shared = seasonColumnOfResult(index);
     if (shared != 0) {
-      columns.push_back(columnOf(shared, SeasonTable::Players, SeasonView::Totals, settings, texts));
+      columns.push_back(columnOf(shared, SeasonTable::Players, SeasonView::Totals, settings, texts, labels));
       continue;
     }
     TableColumn& own = columns.emplace_back(textColumn(toQt(resultHeader(index, texts))));

@@ -5,6 +5,7 @@
 
 #include "season/GameColumns.h"
 #include "season/Season.h"
+#include "season/SeasonWords.h"
 #include "season/SnapshotModel.h"
 #include "storage/Settings.h"
 
@@ -23,14 +24,17 @@ namespace hooptab {
 [[nodiscard]] std::vector<TableColumn> skippedColumns(const Texts& texts);
 [[nodiscard]] TableRows skippedRows(std::shared_ptr<const GameCatalogue> catalogue, const Texts& texts);
 
-// The season tables. In averages per minute, rows of short time are marked with a star.
+// The season tables. Rows of averages under the minimum are marked with a star. Behind the columns of the
+// core stands the team, which is shown where there are several; null: no season yet.
 [[nodiscard]] std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view,
-                                                          const Settings& settings, const Texts& texts);
+                                                          const Season* season, const Settings& settings,
+                                                          const Texts& texts);
 [[nodiscard]] TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind,
                                         SeasonView view, const Texts& texts);
 
 // A column as the name of a statistic, to choose it by.
-[[nodiscard]] QString statisticName(int column, const Settings& settings, const Texts& texts);
+[[nodiscard]] QString statisticName(int column, const Settings& settings, const Texts& texts,
+                                    const OwnLabels& labels = {});
 // The first of each statistic, and the leaders of one of them (its place in Leaders::statistics()).
 [[nodiscard]] std::vector<TableColumn> firstLeaderColumns(const Texts& texts);
 [[nodiscard]] TableRows firstLeaderRows(std::shared_ptr<const Season> season, SeasonView view,
@@ -42,7 +46,8 @@ namespace hooptab {
 // A player or line: the records, and the games one by one.
 [[nodiscard]] std::vector<TableColumn> recordColumns();
 [[nodiscard]] TableRows recordRows(std::shared_ptr<const SeasonPerson> person);
-[[nodiscard]] std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& texts);
+[[nodiscard]] std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& texts,
+                                                     const OwnLabels& labels = {});
 [[nodiscard]] TableRows resultRows(std::shared_ptr<const SeasonPerson> person, const Texts& texts);
 
 } // namespace hooptab

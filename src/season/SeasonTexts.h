@@ -21,10 +21,16 @@ inline constexpr int kReadAgain = 2106;
 inline constexpr int kLoadingGames = 1374;
 inline constexpr int kGeneratingStatistics = 1375;
 inline constexpr int kLoadingPerson = 1411;
+inline constexpr int kLoadingOneGame = 2743;
+inline constexpr int kGeneratingOfOne = 2744;
+inline constexpr int kLoadingOneOfPerson = 2745;
 inline constexpr int kCancelReading = 1397;
 inline constexpr int kListedGames = 2107; // XXX of YYY
+inline constexpr int kListedOfOne = 2734;
 inline constexpr int kFilesNotRead = 2108;
 inline constexpr int kOneFileNotRead = 2109;
+inline constexpr int kOneGameNotFinished = 2746;
+inline constexpr int kGamesNotFinished = 2747;
 inline constexpr int kFolderMissing = 2110;
 inline constexpr int kFolderUnreadable = 2111;
 inline constexpr int kNoGames = 2112;
@@ -33,6 +39,7 @@ inline constexpr int kNoMemory = 2114;
 inline constexpr int kFileColumn = 1524;
 inline constexpr int kReasonColumn = 2115;
 inline constexpr int kSameGameAs = 2056;
+inline constexpr int kSameGameOtherEvents = 2748;
 
 // Criteria.
 inline constexpr int kCriteria = 1306;
@@ -45,6 +52,7 @@ inline constexpr int kDateCriterion = 1550;
 inline constexpr int kFromDate = 1404;
 inline constexpr int kToDate = 1370;
 inline constexpr int kAnything = 1015;
+inline constexpr int kNeedsTeam = 2749;
 inline constexpr int kHome = 1200;
 inline constexpr int kAway = 1201;
 inline constexpr int kApply = 1155;
@@ -61,15 +69,28 @@ inline constexpr int kLineTitle = 1193;
 inline constexpr int kTotals = 2118;
 inline constexpr int kPerGame = 2119;
 inline constexpr int kPerMinute = 2120;
+inline constexpr int kPerForty = 2720;
 inline constexpr int kShortTimeWarning = 2121;
 inline constexpr int kNotGenerated = 2122;
 inline constexpr int kOutdated = 2123;
+inline constexpr int kOutdatedOfOne = 2742;
 inline constexpr int kOfGames = 2124;
+inline constexpr int kOfOneGame = 2733;
 inline constexpr int kStatisticColumn = 2125;
 inline constexpr int kLeaderColumn = 2126;
 inline constexpr int kValueColumn = 2127;
 inline constexpr int kOpensGame = 2128;
 inline constexpr int kOpensPerson = 2129;
+
+// The minimum for averages; XXX and YYY are its numbers.
+inline constexpr int kUnderGames = 2721;
+inline constexpr int kUnderMinutes = 2722;
+inline constexpr int kMinimumPerGame = 2723;
+inline constexpr int kMinimumPerTime = 2724;
+inline constexpr int kMinimumOfTotals = 2725;
+inline constexpr int kMinimum = 2726;
+inline constexpr int kMinimumUnits[] = {2727, 2728, 2729}; // games, minutes, attempts
+inline constexpr int kMinimumHints[] = {2730, 2731, 2732};
 
 // Columns in words.
 inline constexpr int kGamesPlayed = 2130;
@@ -89,9 +110,15 @@ inline constexpr int kAverageIs = 2137;
 inline constexpr int kSeasonChart = 2138;
 inline constexpr int kDifferenceLegend = 2139;
 inline constexpr int kMargins = 2140;
-inline constexpr int kTeamBalance = 2141; // XXX-YYY-ZZZ
+inline constexpr int kOneWin = 2735;
+inline constexpr int kWins = 2736;
+inline constexpr int kOneLoss = 2737;
+inline constexpr int kLosses = 2738;
+inline constexpr int kOneTie = 2739;
+inline constexpr int kTies = 2740;
 inline constexpr int kGameByGame = 2142;
 inline constexpr int kNoShots = 2143;
 inline constexpr int kPersonGames = 2144;
+inline constexpr int kOnePersonGame = 2741;
 
 } // namespace hooptab

@@ -4,6 +4,7 @@
 #include "scorecard/ColumnWords.h"
 #include "scorecard/ScorecardTexts.h"
 #include "season/SeasonTexts.h"
+#include "storage/Module1.h"
 
 #include <algorithm>
 #include <utility>
@@ -31,7 +32,8 @@ auto found(const Table& table, std::string_view name) {
 
 } // namespace
 
-std::string seasonColumnWords(int column, const Settings& settings, const Texts& texts) {
+std::string seasonColumnWords(int column, const Settings& settings, const Texts& texts,
+                              const OwnLabels& labels) {
   const std::string_view name = seasonColumn(column).name;
   if (const auto* own = found(kOwnColumns, name))
     return std::string(texts.text(own->second));
@@ -40,8 +42,40 @@ std::string seasonColumnWords(int column, const Settings& settings, const Texts&
   const auto* other = found(kBoxNames, name);
   const std::string_view boxName = other == nullptr ? name : other->second;
   const auto box = std::ranges::find(boxColumns(), boxName, &BoxColumn::name);
-  static const std::string kNoLabels[2]; // a season has many games, whose labels may differ
-  return box == boxColumns().end() ? std::string(name) : columnWords(box->index, kNoLabels, settings, texts);
+  const std::string ofGames[2] = {labels[0], labels[1]};
+  return box == boxColumns().end() ? std::string(name) : columnWords(box->index, ofGames, settings, texts);
+}
+
+std::string markWords(const Qualification& minimum, SeasonTable table, SeasonView view, const Texts& texts) {
+  const bool isOfTime = view == SeasonView::PerMinute || view == SeasonView::PerForty;
+  if (table == SeasonTable::Lines)
+    return std::string(isOfTime ? texts.text(kShortTimeWarning) : std::string_view());
+  if (isOfTime)
+    return texts.withPlaceholder(kUnderMinutes, std::to_string(minimum.minutes));
+  return view == SeasonView::PerGame
+             ? texts.withPlaceholder(kUnderGames, std::to_string(minimum.gamesPercent))
+             : std::string();
+}
+
+std::string minimumWords(const Qualification& minimum, SeasonView view, const Texts& texts) {
+  std::string words;
+  switch (view) {
+  case SeasonView::Totals: words = texts.text(kMinimumOfTotals); break;
+  case SeasonView::PerGame:
+    words = texts.withPlaceholder(kMinimumPerGame, std::to_string(minimum.gamesPercent));
+    break;
+  case SeasonView::PerMinute:
+  case SeasonView::PerForty: words = texts.withPlaceholder(kMinimumPerTime, std::to_string(minimum.minutes));
+  }
+  return Module1::withPlaceholder(words, std::to_string(minimum.attempts), "YYY");
+}
+
+std::string copyWords(const GameCatalogue& catalogue, const ListedGame& game, const Texts& texts) {
+  if (!game.copyOf)
+    return {};
+  const ListedGame& other = catalogue.games()[*game.copyOf];
+  return texts.withPlaceholder(game.fingerprint == other.fingerprint ? kSameGameAs : kSameGameOtherEvents,
+                               other.path);
 }
 
 } // namespace hooptab

@@ -2,8 +2,9 @@
 
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "storage/NameOrder.h"
 
-#include <QCollator>
 #include <QFont>
 #include <QGuiApplication>
 #include <QHash>
@@ -32,7 +33,7 @@ void sortBy(std::vector<int>& order, const Keys& keys, Qt::SortOrder direction) 
 
 // The jerseys of a line ("04-07-12-23-45 *") as a number of the same order; nothing for other texts.
 std::optional<std::uint64_t> jerseysAsNumber(const QString& text) {
-  constexpr QLatin1String kLetters(" -*0123456789"); // in the collator's order
+  constexpr QLatin1String kLetters(" *-0123456789"); // in the order of names
   constexpr qsizetype kLongest = 16;                 // four bits a letter
   if (text.size() > kLongest)
     return std::nullopt;
@@ -46,8 +47,8 @@ std::optional<std::uint64_t> jerseysAsNumber(const QString& text) {
   return number;
 }
 
-// A number for each text, in their order. A season has tens of thousands of lines: the collator looks at each
-// different text once, and not at all where all are lines, so that the window does not stand still.
+// A number for each text, in their order. A season has tens of thousands of lines: a key is made of each
+// different text once, and of none where all are jerseys, so that the window does not stand still.
 std::vector<std::uint64_t> sortNumbers(const std::vector<QString>& texts) {
   std::vector<std::uint64_t> numbers;
   numbers.reserve(texts.size());
@@ -63,11 +64,10 @@ std::vector<std::uint64_t> sortNumbers(const std::vector<QString>& texts) {
   QHash<QString, std::uint64_t> ranks;
   for (const QString& text : texts)
     ranks.emplace(text, 0);
-  const QCollator collator{QLocale(QLocale::English)}; // the machine's own may sort É behind Z; French agrees
-  std::vector<std::pair<QCollatorSortKey, QString>> different;
+  std::vector<std::pair<std::string, QString>> different;
   different.reserve(static_cast<std::size_t>(ranks.size()));
   for (auto each = ranks.keyBegin(); each != ranks.keyEnd(); ++each)
-    different.emplace_back(collator.sortKey(*each), *each);
+    different.emplace_back(nameOrderKey(fromQt(*each)), *each);
   std::ranges::sort(different, [](const auto& left, const auto& right) { return left.first < right.first; });
   std::uint64_t rank = 0;
   for (std::size_t i = 0; i < different.size(); ++i) {
@@ -189,7 +189,7 @@ std::vector<int> SnapshotModel::sortedOrder() const {
   std::vector<QString> texts;
   texts.reserve(order.size());
   for (const int row : order)
-    texts.push_back(m_rows.text(row, m_sortColumn));
+    texts.push_back((m_rows.sortText ? m_rows.sortText : m_rows.text)(row, m_sortColumn));
   sortBy(order, sortNumbers(texts), m_sortOrder);
   return order;
 }

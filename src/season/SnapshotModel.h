@@ -29,6 +29,8 @@ struct TableRows {
   int count = 0;
   std::function<QString(int row, int column)> text;
   std::function<double(int row, int column)> sortValue = {}; // of columns that are no text
+  // Of columns of text, where they do not sort by what they show.
+  std::function<QString(int row, int column)> sortText = {};
   std::function<bool(int row)> isMuted = {};
   std::function<bool(int row)> isMarked = {};   // with the sign that something is to be looked at
   std::function<QString(int row)> toolTip = {}; // where the cell's own text is not enough

@@ -5,6 +5,7 @@
 #include "storage/AtomicFile.h"
 #include "storage/CalendarDay.h"
 #include "storage/ChoiceTexts.h"
+#include "storage/Settings.h"
 #include "storage/Tally.h"
 
 #include <algorithm>
@@ -18,11 +19,20 @@ std::uint8_t wholePlace(float place, double limit) {
   return static_cast<std::uint8_t>(std::clamp(static_cast<double>(place), 0.0, limit));
 }
 
-// Of the events as they stand in the file, deleted ones included: two files with equal ones are one game.
-// Eight bytes at a time, for all text of a season goes through it.
-std::uint64_t fingerprintOf(const EventList& events) {
+// Two games of a day between the same teams do not begin with so many equal events.
+constexpr std::size_t kEventsOfBeginning = 16;
+
+// Of the events as they stand in the file, deleted ones included: two files with equal ones are one game, and
+// so are two that begin alike. Eight bytes at a time, for all text of a season goes through it.
+struct Fingerprints {
+  std::uint64_t whole = 0;
+  std::uint64_t beginning = 0; // of the first events; 0 where there are fewer
+};
+Fingerprints fingerprintsOf(const EventList& events) {
   constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15U;
   std::uint64_t print = 0;
+  std::uint64_t beginning = 0;
+  std::size_t count = 0;
   const auto mix = [&print](std::uint64_t word) {
     print = (print ^ word) * kFactor;
     print ^= print >> 29U;
@@ -35,8 +45,16 @@ std::uint64_t fingerprintOf(const EventList& events) {
       std::memcpy(&word, rest.data(), std::min(rest.size(), sizeof word));
       mix(word);
     }
+    if (++count == kEventsOfBeginning)
+      beginning = print;
   }
-  return print;
+  return {print, beginning};
+}
+
+// Empty for a label that stands for none: "---".
+std::string labelOf(const std::string& stored) {
+  std::string label = Settings::shownLabel(stored);
+  return label.find_first_not_of("- ") == std::string::npos ? std::string() : label;
 }
 
 InputKind inputOf(const GameDetails& details) {
@@ -92,7 +110,13 @@ void SummaryReader::summarise(const Game& source, ListedGame& game) {
   game.place = details.place;
   game.type = gameTypeOf(details.type);
   game.input = inputOf(details);
-  game.fingerprint = fingerprintOf(source.events);
+  for (std::size_t which = 0; which < game.label.size(); ++which)
+    game.label[which] = labelOf(details.statisticLabel[which]);
+  const Fingerprints prints = fingerprintsOf(source.events);
+  game.fingerprint = prints.whole;
+  game.eventCount = source.events.size();
+  // Games that were entered by hand may begin alike by chance.
+  game.beginning = game.input == InputKind::Live && prints.beginning != 0 ? prints.beginning : prints.whole;
   for (std::size_t i = 0; i < game.leadSeconds.size(); ++i)
     game.leadSeconds[i] = std::max(m_state.lead.seconds[i], 0);
   const auto usedLines = static_cast<std::size_t>(m_state.usedLines[0] + m_state.usedLines[1]);

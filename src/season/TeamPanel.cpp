@@ -7,6 +7,7 @@
 #include "season/SeasonTexts.h"
 #include "season/SeriesView.h"
 #include "season/ZoneChart.h"
+#include "storage/CountWords.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 
@@ -23,9 +24,12 @@ constexpr int kShownTeam = 1719;
 constexpr int kTeamWidth = 200;
 
 QString balanceText(const SeasonTeamRow& team, const Texts& texts) {
-  const std::string words = withPlaceholders(texts.text(kTeamBalance), std::to_string(team.wins),
-                                             std::to_string(team.losses), std::to_string(team.ties));
-  return toQt(words) + QStringLiteral("  ·  ") + toQt(Module1::quotientText(team.pointsFor, team.games, 1)) +
+  const auto count = [&](int number, int one, int many) {
+    return countWords(static_cast<std::size_t>(number), one, many, texts);
+  };
+  return toQt(count(team.wins, kOneWin, kWins) + ", " + count(team.losses, kOneLoss, kLosses) + ", " +
+              count(team.ties, kOneTie, kTies)) +
+         QStringLiteral("  ·  ") + toQt(Module1::quotientText(team.pointsFor, team.games, 1)) +
          QStringLiteral(" – ") + toQt(Module1::quotientText(team.pointsAgainst, team.games, 1));
 }
 

@@ -10,8 +10,10 @@
 namespace hooptab {
 
 ViewSwitch::ViewSwitch(QWidget* parent) : QWidget(parent), m_buttons(new QButtonGroup(this)) {
-  constexpr std::pair<const char*, int> kButtons[] = {
-      {"cmdTOTALS", kTotals}, {"cmdPERGAME", kPerGame}, {"cmdPERMINUTE", kPerMinute}};
+  constexpr std::pair<const char*, int> kButtons[] = {{"cmdTOTALS", kTotals},
+                                                      {"cmdPERGAME", kPerGame},
+                                                      {"cmdPERMINUTE", kPerMinute},
+                                                      {"cmdPERFORTY", kPerForty}};
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(2);

@@ -1,4 +1,4 @@
-// Three buttons of which one is on: totals, per game, per minute.
+// Four buttons of which one is on: totals, per game, per minute, per 40 minutes.
 #pragma once
 
 #include "season/SeasonColumns.h"

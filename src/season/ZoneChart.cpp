@@ -32,10 +32,6 @@ QString signedPoints(double points) {
   return (points > 0 ? QStringLiteral("+") : QString()) + QString::number(points, 'f', 1);
 }
 
-double strengthOf(double points) {
-  return std::clamp(std::abs(points) / kFullDifference, kPalest, 1.0);
-}
-
 // One colour for the whole court, so that the zones' colours say one thing alone.
 CourtColours plainCourt(const QColor& ground) {
   return {ground, ground, ground};
@@ -61,6 +57,10 @@ QColor colourOfDifference(double points) {
   return points < 0 ? kCold : kWarm;
 }
 
+double strengthOfDifference(double points) {
+  return std::clamp(std::abs(points) / kFullDifference, kPalest, 1.0);
+}
+
 std::vector<CourtZoneText> zoneTexts(const ShotSums& shots, const ShotSums& average, const Texts& texts) {
   std::vector<CourtZoneText> zones;
   for (std::size_t i = 0; i < shots.zones.size(); ++i) {
@@ -71,7 +71,7 @@ std::vector<CourtZoneText> zoneTexts(const ShotSums& shots, const ShotSums& aver
     const double points = differenceInPoints(sum, average.zones[i]);
     const QString percent = toQt(Module1::percentText(sum.made, sum.attempted));
     const QString usual = toQt(Module1::percentText(average.zones[i].made, average.zones[i].attempted));
-    zones.push_back({which, percent, fraction(sum), strengthOf(points),
+    zones.push_back({which, percent, fraction(sum), strengthOfDifference(points),
                      caption(texts, court::chartZoneText(which)) + QStringLiteral("  ") + fraction(sum) +
                          QStringLiteral("  ") + percent + QStringLiteral("  (") + signedPoints(points) +
                          QStringLiteral(" / ") + usual + u')',
@@ -92,7 +92,7 @@ void paintDifferenceLegend(QPainter& painter, const QRectF& area, const QColor& 
   for (int i = 0; i < kSteps; ++i) {
     const double points = kFullDifference * ((i + 0.5) / kSteps * 2 - 1);
     QColor colour = colourOfDifference(points);
-    colour.setAlphaF(static_cast<float>(0.6 * strengthOf(points))); // as zones are tinted
+    colour.setAlphaF(static_cast<float>(0.6 * strengthOfDifference(points))); // as zones are tinted
     painter.fillRect(QRectF(scale.left() + i * width, scale.top(), width, scale.height()), colour);
   }
   painter.setPen(textColour);

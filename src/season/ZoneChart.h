@@ -20,6 +20,7 @@ class CourtView;
 // percentage points on.
 inline constexpr double kFullDifference = 15;
 [[nodiscard]] QColor colourOfDifference(double points);
+[[nodiscard]] double strengthOfDifference(double points); // 0 to 1
 // The zones that have attempts, as CourtPicture draws them.
 [[nodiscard]] std::vector<CourtZoneText> zoneTexts(const ShotSums& shots, const ShotSums& average,
                                                    const Texts& texts);

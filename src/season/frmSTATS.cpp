@@ -14,6 +14,8 @@
 #include "season/SeasonTables.h"
 #include "season/SeasonTexts.h"
 #include "season/TeamPanel.h"
+#include "storage/CountWords.h"
+#include "storage/Module1.h"
 #include "storage/Placeholders.h"
 
 #include <QBoxLayout>
@@ -100,6 +102,7 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
           [this](const SeasonRow& row) { showPerson(row, false); });
   connect(m_lines, &AveragesPanel::personAsked, this,
           [this](const SeasonRow& row) { showPerson(row, true); });
+  connect(m_leaders, &LeadersPanel::minimumChosen, this, &frmSTATS::chooseMinimum);
   connect(m_person, &PersonPanel::gameAsked, this, &frmSTATS::openGame);
   connect(m_team, &TeamPanel::gameAsked, this, &frmSTATS::openGame);
   connect(copy, &QToolButton::clicked, this, &frmSTATS::copyShownTable);
@@ -152,7 +155,7 @@ void frmSTATS::readFolder() {
   ScanRequest request;
   request.folder = fromQt(QDir::cleanPath(m_folder->folder()));
   request.withSubfolders = m_folder->withSubfolders();
-  startWork(kLoadingGames,
+  startWork(kLoadingOneGame, kLoadingGames,
             [this, &files = m_files, request, watch = m_watch = std::make_shared<ScanWatch>()] {
               auto catalogue = std::make_shared<GameCatalogue>(files);
               const ScanOutcome outcome = catalogue->scan(request, *watch);
@@ -184,12 +187,12 @@ void frmSTATS::generate() {
   if (isBusy() || !mayCountWrong())
     return;
   m_progressCount = m_desk.listed().size();
-  startWork(kGeneratingStatistics,
-            [this, order = m_desk.order(), &texts = m_texts,
+  startWork(kGeneratingOfOne, kGeneratingStatistics,
+            [this, order = m_desk.order(), texts = m_texts, // its own: the user may change the language
              watch = m_watch = std::make_shared<ScanWatch>()]() -> BackgroundWork::Delivery {
-              auto season = order.carryOut(texts);
+              auto season = order.carryOut(texts, &watch->isCancelled);
               return [this, order, season, watch] {
-                if (watch->isCancelled) {
+                if (season == nullptr || watch->isCancelled) {
                   m_problem = kReadingCancelled;
                   return;
                 }
@@ -231,8 +234,8 @@ void frmSTATS::showPerson(const SeasonRow& row, bool isLine) {
   if (isBusy())
     return;
   m_progressCount = static_cast<std::size_t>(row.games);
-  startWork(kLoadingPerson,
-            [this, season = m_desk.season(), row, isLine, &texts = m_texts,
+  startWork(kLoadingOneOfPerson, kLoadingPerson,
+            [this, season = m_desk.season(), row, isLine, texts = m_texts,
              watch = m_watch = std::make_shared<ScanWatch>()]() -> BackgroundWork::Delivery {
               auto person = std::make_shared<const SeasonPerson>(season, row, isLine, texts);
               return [this, person, watch] {
@@ -244,16 +247,31 @@ void frmSTATS::showPerson(const SeasonRow& row, bool isLine) {
             });
 }
 
+void frmSTATS::chooseMinimum(const Qualification& minimum) {
+  m_desk.setMinimum(minimum, m_texts);
+  m_players->showSeason(m_desk.season()); // whose marks it decides
+  m_leaders->showMinimum(minimum, m_desk.season());
+}
+
 std::shared_ptr<const SeasonPerson> frmSTATS::chosenPerson() const {
   return m_person->person();
+}
+
+frmSTATS::Page frmSTATS::shownPage() const {
+  return static_cast<Page>(m_tabs->currentIndex()); // pages stand in that order
+}
+
+SeasonView frmSTATS::shownLeaders() const {
+  return m_leaders->view();
 }
 
 void frmSTATS::openGame(std::size_t game) {
   emit gameAsked(toQt(m_desk.catalogue()->games()[game].path));
 }
 
-void frmSTATS::startWork(int text, std::function<BackgroundWork::Delivery()> work) {
+void frmSTATS::startWork(int one, int text, std::function<BackgroundWork::Delivery()> work) {
   m_problem = 0;
+  m_progressOne = one;
   m_progressText = text;
   m_work.start(std::move(work));
   showProgress();
@@ -265,7 +283,7 @@ void frmSTATS::startWork(int text, std::function<BackgroundWork::Delivery()> wor
 void frmSTATS::showProgress() {
   const bool isScan = m_progressText == kLoadingGames;
   const std::size_t found = isScan ? m_watch->filesFound.load() : m_progressCount;
-  m_folder->showProgress(toQt(m_texts.withPlaceholder(m_progressText, std::to_string(found))),
+  m_folder->showProgress(toQt(countWords(found, m_progressOne, m_progressText, m_texts)),
                          isScan ? static_cast<int>(m_watch->filesRead) : 0,
                          isScan ? static_cast<int>(found) : 0);
 }
@@ -288,14 +306,19 @@ void frmSTATS::showCatalogue() {
 void frmSTATS::showList() {
   m_games->showRows(gameListRows(m_desk.catalogue(), m_desk.listed(), m_desk.chosenTeam(), m_texts));
   const GameCatalogue& catalogue = *m_desk.catalogue();
+  const int listedText = catalogue.games().size() == 1 ? kListedOfOne : kListedGames;
   const std::string listed =
-      withPlaceholders(m_texts.text(kListedGames), std::to_string(m_desk.listed().size()),
+      withPlaceholders(m_texts.text(listedText), std::to_string(m_desk.listed().size()),
                        std::to_string(catalogue.games().size()));
-  const std::size_t skipped = catalogue.skipped().size();
-  m_folder->showCounts(
-      toQt(listed), skipped == 0   ? QString()
-                    : skipped == 1 ? caption(m_texts, kOneFileNotRead)
-                                   : toQt(m_texts.withPlaceholder(kFilesNotRead, std::to_string(skipped))));
+  // A game that is being played is not one that could not be read.
+  const auto unfinished = static_cast<std::size_t>(
+      std::ranges::count(catalogue.skipped(), SkipReason::NotFinished, &SkippedFile::reason));
+  QStringList leftOut;
+  if (unfinished > 0)
+    leftOut << toQt(countWords(unfinished, kOneGameNotFinished, kGamesNotFinished, m_texts));
+  if (const std::size_t unread = catalogue.skipped().size() - unfinished; unread > 0)
+    leftOut << toQt(countWords(unread, kOneFileNotRead, kFilesNotRead, m_texts));
+  m_folder->showCounts(toQt(listed), leftOut.join(QStringLiteral("  ·  ")));
   m_criteria->showWhatIsOffered(m_desk, isBusy());
   showNotice();
 }
@@ -313,8 +336,8 @@ void frmSTATS::showNotice() {
   if (m_problem != 0)
     notice = toQt(m_texts.withPlaceholder(m_problem, fromQt(m_folder->folder())));
   else if (m_desk.hasCatalogue() && m_desk.isOutdated())
-    notice = toQt(
-        m_texts.withPlaceholder(kOutdated, std::to_string(m_desk.season()->statistics().games().size())));
+    notice =
+        toQt(countWords(m_desk.season()->statistics().games().size(), kOutdatedOfOne, kOutdated, m_texts));
   m_notice->setText(notice);
   m_notice->setVisible(!notice.isEmpty());
 }
@@ -368,7 +391,9 @@ QByteArray frmSTATS::arrangement() const {
     parts[table->objectName()] = table->widths();
   QByteArray state;
   QDataStream stream(&state, QIODevice::WriteOnly);
-  stream << m_folder->folder() << m_folder->withSubfolders() << parts;
+  const Qualification& minimum = m_desk.minimum();
+  stream << m_folder->folder() << m_folder->withSubfolders() << parts << qint32(minimum.gamesPercent)
+         << qint32(minimum.minutes) << qint32(minimum.attempts);
   return state;
 }
 
@@ -385,6 +410,14 @@ void frmSTATS::restoreArrangement(const QByteArray& state) {
     splitter->restoreState(parts[splitter->objectName()]);
   for (SeasonTableView* table : findChildren<SeasonTableView*>())
     table->restoreWidths(parts[table->objectName()]);
+  qint32 games = 0;
+  qint32 minutes = 0;
+  qint32 attempts = 0;
+  stream >> games >> minutes >> attempts;
+  if (stream.status() == QDataStream::Ok) // an older version kept no minimum
+    chooseMinimum({std::clamp(games, 0, Qualification::kMostPercent),
+                   std::clamp(minutes, 0, Qualification::kMostMinutes),
+                   std::clamp(attempts, 0, Qualification::kMostAttempts)});
 }
 
 } // namespace hooptab

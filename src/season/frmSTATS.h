@@ -41,6 +41,10 @@ class frmSTATS : public ChildWindow {
   const std::shared_ptr<const Season>& statistics() const { return m_desk.season(); }
   std::optional<SeasonId> chosenTeam() const { return m_desk.chosenTeam(); }
   std::shared_ptr<const SeasonPerson> chosenPerson() const; // player or line; null: nobody
+  // What is in front, for whoever prints it.
+  enum class Page { Games, Players, Lines, Leaders, Person, Team, LeftOut };
+  Page shownPage() const;
+  SeasonView shownLeaders() const; // the view of the leaders
 
   void relabelWindow() override;
   void applyColours() override;
@@ -57,10 +61,12 @@ class frmSTATS : public ChildWindow {
   void generate();
   bool mayCountWrong();
   void showPerson(const SeasonRow& row, bool isLine);
+  void chooseMinimum(const Qualification& minimum);
   void openGame(std::size_t game);
   void takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue> catalogue);
 
-  void startWork(int text, std::function<BackgroundWork::Delivery()> work);
+  // The texts are for one and for several games.
+  void startWork(int one, int text, std::function<BackgroundWork::Delivery()> work);
   void showProgress();
   void endWork();
   void showCatalogue();
@@ -76,6 +82,7 @@ class frmSTATS : public ChildWindow {
   SeasonDesk m_desk;
   std::shared_ptr<ScanWatch> m_watch;      // of the scan under way
   int m_progressText = 0;                  // of the work under way
+  int m_progressOne = 0;                   // the same for one game
   std::size_t m_progressCount = 0;         // of games in it, where it is no scan
   std::vector<std::size_t> m_countedWrong; // games that the user counts although they cannot be right
   int m_problem = 0;                       // text of what went wrong last; 0: nothing

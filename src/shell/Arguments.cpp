@@ -1,5 +1,7 @@
 #include "shell/Arguments.h"
 
+#include "storage/Module1.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <string_view>
@@ -21,8 +23,9 @@ std::string absolutePath(const std::string& path, const std::string& currentFold
 }
 
 // What belongs to a report and takes a value.
-constexpr std::string_view kReportOptions[] = {"--report", "--format", "--output", "--team",
-                                               "--player", "--line",   "--title",  "--paper"};
+constexpr std::string_view kReportOptions[] = {
+    "--report", "--format",  "--output",    "--team",        "--player",       "--line", "--title",
+    "--paper",  "--csv-for", "--min-games", "--min-minutes", "--min-attempts", "--top"};
 
 class Parser {
  public:
@@ -92,6 +95,10 @@ class Parser {
     if (!m_result.language)
       m_result.wrong = {kCannotBe, "--lang", value};
   }
+  static bool isUpTo(const std::string& value, int most) {
+    const int number = Module1::wholeNumber(value);
+    return number >= 0 && number <= most;
+  }
   void takeOfReport(const std::string& option, const std::string& value) {
     if (!m_result.report)
       m_result.report.emplace();
@@ -110,6 +117,16 @@ class Parser {
       report.title = value;
     else if (option == "--paper" && (value == "a4" || value == "letter"))
       report.isLetter = value == "letter";
+    else if (option == "--csv-for" && value == "fr")
+      report.isForFrenchSpreadsheets = true;
+    else if (option == "--top" && Module1::wholeNumber(value) >= 0)
+      report.most = Module1::wholeNumber(value);
+    else if (option == "--min-games" && isUpTo(value, Qualification::kMostPercent))
+      report.minimum.gamesPercent = Module1::wholeNumber(value);
+    else if (option == "--min-minutes" && isUpTo(value, Qualification::kMostMinutes))
+      report.minimum.minutes = Module1::wholeNumber(value);
+    else if (option == "--min-attempts" && isUpTo(value, Qualification::kMostAttempts))
+      report.minimum.attempts = Module1::wholeNumber(value);
     else
       m_result.wrong = {kCannotBe, option, value};
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "appearance/ColourScheme.h"
+#include "season/Qualification.h"
 #include "storage/CommandLine.h"
 
 #include <optional>
@@ -22,6 +23,9 @@ struct ReportRequest {
   std::string title;  // in place of the report's own, where not empty
   std::optional<Language> language;
   bool isLetter = false;
+  bool isForFrenchSpreadsheets = false; // of a table as text
+  std::optional<int> most;              // rows of a ranked table; 0: all
+  Qualification minimum;                // of a season's averages
 };
 
 struct Arguments {

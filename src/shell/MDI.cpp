@@ -123,8 +123,10 @@ MDI::MDI(const Workshop& workshop)
   samples->setIcon(icon(QStringLiteral("samples")));
   setTextNumber(*samples->menuAction(), kSampleGames);
   m_commands = new CommandBar(*this);
-  m_output = new ReportOutput(m_workshop.texts, m_workshop.dialogs, m_workshop.store.files(),
-                              m_workshop.settings, this);
+  m_output = new ReportOutput(m_workshop.texts, m_workshop.dialogs, m_workshop.store.files(), this);
+  m_output->proposeFolder(toQt(m_workshop.memory.exportFolder()));
+  connect(m_output, &ReportOutput::folderChosen, this,
+          [this](const QString& folder) { m_workshop.memory.rememberExportFolder(fromQt(folder)); });
   m_exports = new WindowExports(*m_output, m_workshop.texts, this);
   auto* tables = new QMenu(this);
   auto* bar = new QMenuBar;
@@ -308,6 +310,9 @@ void MDI::carryOut(const QString& key) {
     const auto report = std::ranges::find(seasonReports(), fromQt(key), &SeasonReportName::command);
     if (report != seasonReports().end())
       m_seasonReport = report->report;
+    else if (key == u"stPRINT")
+      m_seasonReport =
+          reportOfPage(window->shownPage(), window->shownLeaders(), window->chosenPerson().get());
     if (report != seasonReports().end() || key == u"stPRINT")
       return printSeason(*window);
   }

@@ -85,6 +85,25 @@ bool canHighlight(SeasonReport report, const SeasonPerson& person) {
   return false;
 }
 
+SeasonReport reportOfPage(frmSTATS::Page page, SeasonView leaders, const SeasonPerson* person) {
+  switch (page) {
+  case frmSTATS::Page::Players: return SeasonReport::PlayerShots;
+  case frmSTATS::Page::Lines: return SeasonReport::LineShots;
+  case frmSTATS::Page::Leaders:
+    return leaders == SeasonView::Totals    ? SeasonReport::LeadersTotal
+           : leaders == SeasonView::PerGame ? SeasonReport::LeadersPerGame
+                                            : SeasonReport::LeadersPerMinute;
+  case frmSTATS::Page::Person:
+    if (person == nullptr)
+      return SeasonReport::PlayerShots;
+    return person->isLine ? SeasonReport::Line : SeasonReport::Player;
+  case frmSTATS::Page::Team: return SeasonReport::TeamDetail;
+  case frmSTATS::Page::Games:
+  case frmSTATS::Page::LeftOut: break;
+  }
+  return SeasonReport::TeamSummary;
+}
+
 int missingFor(SeasonReport report, const SeasonOffer& offer) {
   constexpr int kChoosePerson = 2135;
   constexpr int kGenerateFirst = 2146;
@@ -102,7 +121,9 @@ std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport fir
     if (missingFor(name.report, offer) != 0)
       continue;
     const bool isOfPerson = name.report == SeasonReport::Player || name.report == SeasonReport::Line;
-    SeasonReportChoice choice{offer.team, std::nullopt};
+    SeasonReportChoice choice;
+    choice.team = offer.team;
+    choice.minimum = offer.season->minimum();
     if (isOfPerson || (offer.highlightsPerson && offer.person && canHighlight(name.report, *offer.person)))
       choice.chosen = offer.person->row.id;
     ReportOffer made =

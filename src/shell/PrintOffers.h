@@ -7,6 +7,7 @@
 #include "printing/frmprint.h"
 #include "scorecard/ScorecardView.h"
 #include "season/Season.h"
+#include "season/frmSTATS.h"
 #include "storage/GameFile.h"
 #include "storage/GameState.h"
 #include "teams/TeamStore.h"
@@ -41,6 +42,8 @@ struct SeasonOffer {
 [[nodiscard]] int missingFor(SeasonReport report, const SeasonOffer& offer);
 [[nodiscard]] std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first,
                                                     const Settings& settings, const Texts& texts);
+// The report of what a season's window shows; of a player or line where one is chosen.
+[[nodiscard]] SeasonReport reportOfPage(frmSTATS::Page page, SeasonView leaders, const SeasonPerson* person);
 // Whether a report is about players or lines, so that a chosen one can be told from the others there.
 [[nodiscard]] bool canHighlight(SeasonReport report, const SeasonPerson& person);
 [[nodiscard]] std::vector<ReportOffer> emptyForms(const Texts& texts);

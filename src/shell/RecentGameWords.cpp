@@ -1,6 +1,7 @@
 #include "shell/RecentGameWords.h"
 
 #include "appearance/relabel.h"
+#include "storage/PeriodName.h"
 
 #include <QDate>
 #include <QFileInfo>
@@ -10,16 +11,11 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kOvertime = 1022;
 constexpr int kFinal = 1552;
 constexpr int kPeriod = 1590;
 constexpr int kNotFinished = 2051;
 constexpr int kCannotBeRead = 2632;
 constexpr int kMayBeCut = 2702;
-
-QString overtimeText(const RecentGame& game, const Texts& texts) {
-  return QStringLiteral("%1%2").arg(caption(texts, kOvertime)).arg(game.period - game.regularPeriods);
-}
 
 bool isInOvertime(const RecentGame& game) {
   return game.hasPeriods && game.regularPeriods > 0 && game.period > game.regularPeriods;
@@ -35,7 +31,7 @@ QString dayText(const RecentGame& game, const Texts& texts) {
 }
 
 QString periodText(const RecentGame& game, const Texts& texts) {
-  return isInOvertime(game) ? overtimeText(game, texts)
+  return isInOvertime(game) ? toQt(periodName(game.period, game.regularPeriods, texts))
                             : toQt(texts.withPlaceholder(kPeriod, std::to_string(game.period)));
 }
 
@@ -45,7 +41,9 @@ QString stateText(const RecentGame& game, const Texts& texts) {
   QString state = caption(texts, game.isFinished ? kFinal : kNotFinished);
   if (game.mayBeCut)
     state += QStringLiteral(", ") + caption(texts, kMayBeCut);
-  return isInOvertime(game) ? QStringLiteral("%1, %2").arg(state, overtimeText(game, texts)) : state;
+  return isInOvertime(game)
+             ? QStringLiteral("%1, %2").arg(state, toQt(periodName(game.period, game.regularPeriods, texts)))
+             : state;
 }
 
 QString scoreText(const RecentGame& game) {

@@ -2,6 +2,7 @@
 
 #include "printing/GameReports.h"
 #include "printing/ReportFiles.h"
+#include "printing/ReportWords.h"
 #include "printing/SeasonReports.h"
 #include "printing/TeamReports.h"
 #include "scorecard/Scorecard.h"
@@ -42,11 +43,14 @@ class ReportRun {
   ReportRun(const ReportRequest& request, const std::string& folder)
       : m_request(request), m_settings(m_store, folder) {
     m_settings.read();
-    m_texts.setLanguage(request.language.value_or(m_settings.language));
+    m_texts.setLanguage(request.isForFrenchSpreadsheets ? Language::French
+                                                        : request.language.value_or(m_settings.language));
   }
 
   int run() {
-    const std::optional<ReportForm> form = reportFormOf(m_request.format);
+    std::optional<ReportForm> form = reportFormOf(m_request.format);
+    if (form == ReportForm::Csv && m_request.isForFrenchSpreadsheets)
+      form = ReportForm::CsvFrench;
     if (!form)
       return complain(kWrongUse, words(2877, m_request.format));
     if (isOfGame() && std::filesystem::is_directory(m_request.source, m_ignored))
@@ -141,6 +145,7 @@ class ReportRun {
     GameCriteria criteria;
     criteria.team = m_request.team;
     SeasonReportChoice choice;
+    choice.minimum = m_request.minimum;
     choice.team = catalogue.teamOf(m_request.team);
     if (!m_request.team.empty() && !choice.team)
       return complain(kWrongUse, words(2888, m_request.team, m_request.source));
@@ -158,6 +163,10 @@ class ReportRun {
       return m_request.player.empty() ? complainOfMissing("--player|--line")
                                       : complain(kWrongUse, words(2890, m_request.player));
     report = seasonReport(which, statistics, choice, m_settings, m_texts);
+    const bool isTooLong = m_request.format == "pdf" && rankedRows(report) > kLongestList;
+    const int proposed = isTooLong ? static_cast<int>(kProposedRows) : 0;
+    if (const int most = m_request.most.value_or(proposed); most > 0)
+      keepBest(report, static_cast<std::size_t>(most), m_texts);
     return kGood;
   }
   int makeOfGame(const std::string& path, Report& report) {

@@ -94,6 +94,14 @@ void WindowMemory::rememberCourtIsCalm(bool isCalm) {
   write(kChoices, "COURT", isCalm ? "calm" : "as set");
 }
 
+std::string WindowMemory::exportFolder() {
+  return value(kChoices, "EXPORTS");
+}
+
+void WindowMemory::rememberExportFolder(std::string_view folder) {
+  write(kChoices, "EXPORTS", folder);
+}
+
 int WindowMemory::refreshSeconds() {
   const int seconds = Module1::leadingNumber(value(kChoices, "REFRESH"));
   return seconds == 10 || seconds == 30 || seconds == 60 ? seconds : 0;

@@ -38,6 +38,9 @@ class WindowMemory {
   // Whether the court is painted calmer than its colours were set; at first it is.
   [[nodiscard]] bool courtIsCalm();
   void rememberCourtIsCalm(bool isCalm);
+  // Where a report was saved last; empty when never.
+  [[nodiscard]] std::string exportFolder();
+  void rememberExportFolder(std::string_view folder);
   // Seconds between automatic refreshes of a scorecard: 10, 30, 60, or 0 for none.
   [[nodiscard]] int refreshSeconds();
   void rememberRefreshSeconds(int seconds);

@@ -10,7 +10,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kLineEnds = "\r\n";
 constexpr std::string_view kBlanks = "\t\r\n"; // control characters that a cell may hold
 
@@ -73,6 +72,14 @@ bool needsApostrophe(std::string_view cell) {
     return false;
   const bool hasSign = cell.front() == '+' || cell.front() == '-';
   return !(hasSign && isSignedNumber(cell));
+}
+
+// "2.3", "-0.5", "45.2%".
+bool isDecimal(std::string_view text) {
+  const bool hasSign = text.starts_with('-') || text.starts_with('+');
+  const std::size_t point = text.find('.');
+  return !text.empty() && text.find(',') == std::string_view::npos && point != std::string_view::npos &&
+         point > (hasSign ? 1U : 0U) && isSignedNumber(hasSign ? text : " " + std::string(text));
 }
 
 std::string safeCell(std::string_view text) {
@@ -175,13 +182,17 @@ std::vector<DelimitedRow> parseDelimited(std::string_view text) {
   return Reader(text).rows();
 }
 
-std::string csvRow(const std::vector<std::string>& cells) {
+std::string csvRow(const std::vector<std::string>& cells, CsvReader reader) {
+  const bool isFrench = reader == CsvReader::French;
+  const std::string_view quoted = isFrench ? ";\t\"\r\n" : ",;\t\"\r\n";
   std::string row;
   for (const std::string& each : cells) {
     if (&each != &cells.front())
-      row.push_back(',');
-    const std::string cell = safeCell(each);
-    if (cell.find_first_of(",;\t\"\r\n") == std::string::npos) {
+      row.push_back(isFrench ? ';' : ',');
+    std::string cell = safeCell(each);
+    if (isFrench && isDecimal(cell))
+      std::ranges::replace(cell, '.', ',');
+    if (cell.find_first_of(quoted) == std::string::npos) {
       row.append(cell);
       continue;
     }

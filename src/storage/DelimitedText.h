@@ -3,6 +3,7 @@
 // here. Knows nothing of what the fields mean.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,7 +24,13 @@ struct DelimitedRow {
 // One row, with CR LF; cells with separators, quotes or line breaks in quotes. A cell that a spreadsheet
 // would run as a formula gets an apostrophe in front, a number with its sign does not. Control characters but
 // tabs and line breaks are left out.
-[[nodiscard]] std::string csvRow(const std::vector<std::string>& cells);
+//
+// Spreadsheets of a French-speaking system take ";" between cells and a decimal comma: numbers with a point
+// get one. Such a file begins with kByteOrderMark.
+enum class CsvReader : std::uint8_t { Anybody, French };
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+[[nodiscard]] std::string csvRow(const std::vector<std::string>& cells,
+                                 CsvReader reader = CsvReader::Anybody);
 // What a cell of such a row held: without the apostrophe that it was given, which no other cell loses.
 [[nodiscard]] std::string_view heldByCell(std::string_view cell);
 

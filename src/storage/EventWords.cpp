@@ -1,6 +1,7 @@
 #include "storage/EventWords.h"
 
 #include "storage/Module1.h"
+#include "storage/PeriodName.h"
 #include "storage/Placeholders.h"
 #include "storage/PlayerLookup.h"
 #include "storage/Settings.h"
@@ -12,7 +13,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kOvertime = 1022;
 constexpr int kSideNames[2] = {1027, 1028};
 constexpr int kStart = 1075;
 constexpr int kStop = 1080;
@@ -134,10 +134,7 @@ EventWords::Parts EventWords::parts(std::size_t eventIndex) const {
 }
 
 std::string EventWords::periodText(int period) const {
-  const int regular = m_game.details.periods;
-  if (regular < 1 || period <= regular)
-    return std::to_string(period);
-  return std::string(m_texts.text(kOvertime)) + std::to_string(period - regular);
+  return periodName(period, m_game.details.periods, m_texts);
 }
 
 std::string EventWords::clock(std::size_t eventIndex) const {

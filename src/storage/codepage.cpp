@@ -72,16 +72,6 @@ constexpr auto kAccents = std::to_array<Accent>({
     {0x0341, "AEIOUYaeiouy", "\xC1\xC9\xCD\xD3\xDA\xDD\xE1\xE9\xED\xF3\xFA\xFD"}, // an older acute
 });
 
-// The letter without its accent.
-char plainLetter(char letter) {
-  for (const Accent& accent : kAccents) {
-    const std::size_t place = accent.composed.find(letter);
-    if (place != std::string_view::npos)
-      return accent.letters[place];
-  }
-  return letter;
-}
-
 bool isLetter(char character) {
   const auto byte = static_cast<unsigned char>(character);
   return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') || byte >= 0xC0 ||
@@ -266,6 +256,15 @@ std::string fromUtf8(std::string_view text) {
 
 std::string storedForm(std::string_view text) {
   return toUtf8(fromUtf8(text));
+}
+
+char plainLetter(char letter) {
+  for (const Accent& accent : kAccents) {
+    const std::size_t place = accent.composed.find(letter);
+    if (place != std::string_view::npos)
+      return accent.letters[place];
+  }
+  return letter;
 }
 
 unsigned char foldCase(unsigned char byte) {

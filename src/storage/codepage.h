@@ -18,6 +18,9 @@ namespace hooptab::codepage {
 // What `text` will read as after it has been stored.
 [[nodiscard]] std::string storedForm(std::string_view text);
 
+// The letter of the code page without its accent.
+[[nodiscard]] char plainLetter(char letter);
+
 // Lower-case form of one byte of the code page, accented letters included; for comparing names without regard
 // to case.
 [[nodiscard]] unsigned char foldCase(unsigned char byte);

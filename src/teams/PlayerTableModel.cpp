@@ -1,6 +1,7 @@
 #include "teams/PlayerTableModel.h"
 
 #include "appearance/relabel.h"
+#include "storage/NameOrder.h"
 
 #include <QCollator>
 #include <QLocale>
@@ -67,7 +68,9 @@ void PlayerTableModel::sort(int column, Qt::SortOrder order) {
   emit layoutAboutToBeChanged();
   m_sheet.sort(static_cast<PlayerColumn>(column), m_texts,
                [&](const std::string& left, const std::string& right) {
-                 const int difference = collator.compare(toQt(left), toQt(right));
+                 const int difference = column == static_cast<int>(PlayerColumn::Name)
+                                            ? nameOrderKey(left).compare(nameOrderKey(right))
+                                            : collator.compare(toQt(left), toQt(right));
                  return order == Qt::AscendingOrder ? difference < 0 : difference > 0;
                });
   emit layoutChanged();

@@ -126,13 +126,13 @@ TEST_F(Cli, BoxIsATableAlignedByCharacters) {
   EXPECT_EQ(english.output, R"(PAN 4 - 4 OLY
 2026-03-01 - Season - Gymnase Côté
 
-Points by Period  1  2  OT1  TOTAL
-PAN               2  2    0      4
-OLY               3  0    1      4
+Points by Period  1  2  OT  TOTAL
+PAN               2  2   0      4
+OLY               3  0   1      4
 
-Fouls  1  2  OT1  TOTAL
-PAN    0  0    0      0
-OLY    0  1    0      1
+Fouls  1  2  OT  TOTAL
+PAN    0  0   0      0
+OLY    0  1   0      1
 
 Time in Lead   Time  times
 PAN           11:00      2
@@ -154,7 +154,7 @@ No  Player Name  Pos     Time  PTS  M/A       %   FG   F3   FT  OR  DR  Ast  BS 
 )");
   const std::string file = quoted(m_folder.path("g.GAM"));
   const Outcome french = run("box --lang fr " + file);
-  for (const char* word : {"Saison", "PROL.1", "Fautes", "À égalité", "Nom du joueur", "Ailier", "Ren."})
+  for (const char* word : {"Saison", "PROL.", "Fautes", "À égalité", "Nom du joueur", "Ailier", "Ren."})
     EXPECT_TRUE(holds(french.output, word)) << word << '\n' << french.output;
   EXPECT_EQ(run("box " + file, "LC_ALL= LANG=fr_CA.UTF-8").output, french.output);
   EXPECT_EQ(run("box --lang=en " + file, "LC_ALL=fr_CA").output, english.output);
@@ -287,7 +287,7 @@ TEST_F(Cli, EventsAreToldInWordsAndNeverCommandTheTerminal) {
   for (const char* line : {" 3       1  09:00  PAN 4 Zoé Cœur: 2 points made\n",
                            " 5       1  07:00  [deleted] PAN 4 Zoé Cœur: personal foul\n",
                            " 7       1         [Cannot be understood] what?[31m\n",
-                           " 8       1  00:00  STOP\n", "14     OT1  04:00  OLY 7 Ida: free throw made\n"})
+                           " 8       1  00:00  STOP\n", "14      OT  04:00  OLY 7 Ida: free throw made\n"})
     EXPECT_TRUE(holds(outcome.output, line)) << line << outcome.output;
   EXPECT_TRUE(holds(run("events --lang fr " + quoted(m_folder.path("g.GAM"))).output,
                     "[supprimé] PAN 4 Zoé Cœur : faute personnelle"));
@@ -363,6 +363,7 @@ TEST_F(Cli, SeasonTellsTheSameNumbersAsTextJsonAndCsv) {
   EXPECT_TRUE(holds(text.output, "PLAYER STATISTICS FOR SELECTED GAMES")) << text.output;
   EXPECT_TRUE(holds(text.output, "live.GAM: not finished"));
   EXPECT_TRUE(holds(run("season --lang fr " + folder).output, "live.GAM: pas terminée"));
+  EXPECT_TRUE(run("season --lang fr " + folder).output.starts_with("Parties : 2\n"));
 
   const Json all = Json::parse(run("season --json " + folder).output);
   ASSERT_EQ(all["games"].array().size(), 2U);
@@ -391,9 +392,28 @@ TEST_F(Cli, SeasonTellsTheSameNumbersAsTextJsonAndCsv) {
             run("season --json --team OLY-A " + folder).output);
 
   const std::string csv = run("season --csv " + folder).output;
-  EXPECT_EQ(linesOf(csv), 1 + 3 * (10 + 2));
+  EXPECT_EQ(linesOf(csv), 1 + 4 * (10 + 2)) << "totals, per game, per minute, per 40 minutes";
   EXPECT_TRUE(holds(csv, "\r\nplayers,perGame,PAN-A,4,Ann Able,05:00,2,0.0,0.0,2.5,1.0,1.0,100.0%,2.5,"))
       << csv;
+  const std::string french = run("season --csv-for fr " + folder).output;
+  EXPECT_TRUE(french.starts_with("\xEF\xBB\xBFTableau;Vue;Équipe;No;Nom du joueur;Temps;"))
+      << french.substr(0, 80);
+  EXPECT_TRUE(
+      holds(french, "\r\nJoueurs;Par partie;PAN-A;4;Ann Able;05:00;2;0,0;0,0;2,5;1,0;1,0;100,0%;2,5;"));
+  EXPECT_TRUE(
+      run("box --csv-for=fr " + quoted(m_folder.path("1.GAM"))).output.starts_with("\xEF\xBB\xBFÉquipe;"));
+
+  // The minimum: nobody plays six minutes a game here.
+  const std::string six = "season --min-minutes 6 ";
+  EXPECT_TRUE(holds(run(six + folder).output, "Ann Able *")) << "marked in the text";
+  EXPECT_TRUE(holds(run(six + "--csv " + folder).output, ",0\r\nplayers,perMinute,"));
+  const Json marked = Json::parse(run(six + "--json " + folder).output);
+  EXPECT_EQ(marked["minimum"]["minutesPerTeamGame"].integer(), 6);
+  EXPECT_TRUE(marked["leaders"]["per40"]["PTS"].array().empty());
+  EXPECT_EQ(Json::parse(
+                run("season --min-minutes 5 --json " + folder).output)["leaders"]["per40"]["PTS"][0]["value"]
+                .text(),
+            "20.0");
 }
 
 TEST_F(Cli, SeasonNamesWhatItCannotTake) {
@@ -420,7 +440,8 @@ TEST_F(Cli, SeasonNamesWhatItCannotTake) {
       << stranger.complaint;
   EXPECT_EQ(run("season " + quoted(m_folder.path("missing"))).status, 1);
   for (const char* wrong : {"season", "season --from yesterday .", "season --to=2026-02-30 .",
-                            "season --type x .", "season --team", "season . .", "box --once g.GAM"})
+                            "season --type x .", "season --team", "season . .", "season --min-games 101 .",
+                            "season --csv-for de .", "box --once g.GAM"})
     EXPECT_EQ(run(wrong).status, 2) << wrong;
   const Outcome noType = run("season --type 7 " + folder);
   EXPECT_EQ(noType.status, 2);

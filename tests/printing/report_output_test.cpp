@@ -83,11 +83,9 @@ class ReportOutputTest : public testing::Test {
 
   TemporaryFolder folder;
   FaultyFileSystem files;
-  cinifile store{files};
   Texts texts;
-  Settings settings{store, folder.path()};
   ScriptedDialogs dialogs;
-  ReportOutput output{texts, dialogs, files, settings};
+  ReportOutput output{texts, dialogs, files};
 };
 
 TEST_F(ReportOutputTest, EveryPlaceThatTakesNoFileIsNamedWithItsReason) {
@@ -191,6 +189,22 @@ TEST_F(ReportOutputTest, APrintJobIsCancelledAsAWholeOrNotAtAll) {
     EXPECT_EQ(folder.holds(file), waitsForPages);
   }
   EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(ReportOutputTest, WhatWasSavedCanBeOpenedAndItsFolderIsProposedNext) {
+  const auto& open = *output.findChild<QPushButton*>(QStringLiteral("cmdOPENREPORT"));
+  save(folder.path("missing/x.html"));
+  EXPECT_TRUE(open.isHidden()) << "nothing was saved";
+  save(folder.path("a.html"));
+  ASSERT_FALSE(open.isHidden());
+  output.findChild<QPushButton*>(QStringLiteral("cmdOPENREPORT"))->click();
+  output.findChild<QPushButton*>(QStringLiteral("cmdSHOWREPORT"))->click();
+  EXPECT_EQ(dialogs.opened, (QList<QUrl>{QUrl::fromLocalFile(toQt(folder.path("a.html"))),
+                                         QUrl::fromLocalFile(toQt(folder.path()))}));
+  Report report = longReport(1, 1);
+  report.fileName = "two  blanks, Jr";
+  output.save(report, ReportForm::CsvFrench, {}, nullptr);
+  EXPECT_EQ(fromQt(dialogs.lastProposed), folder.path("two blanks, Jr.csv"));
 }
 
 TEST_F(ReportOutputTest, AProposedNameIsOneThatAFolderTakes) {

@@ -83,7 +83,7 @@ class ReportPagesTest : public testing::Test {
     games.add("a.GAM", crowdedText(1));
     const SeasonStatistics season = games.statistics();
     const auto ofSeason = [&](SeasonReport which, SeasonId chosen) {
-      return seasonReport(which, season, {std::nullopt, chosen}, settings, texts);
+      return seasonReport(which, season, {std::nullopt, chosen, {}}, settings, texts);
     };
     const SeasonId player = season.players().front().id;
     return {ofSeason(SeasonReport::TeamDetail, player),
@@ -343,7 +343,7 @@ TEST_F(ReportPagesTest, AWorkbookHoldsNumbersAsNumbersAndNamesAsText) {
   for (const char* name : {"=SUM(A1)", "&lt;script&gt;", "+Plus", "-Minus", "@At"})
     EXPECT_NE(strings.find(name), std::string::npos) << name;
   // The second team's fifth player made one three of one: F3% stands as 1 in the format of percentages.
-  EXPECT_TRUE(std::regex_search(box, std::regex("<c r=\"[A-Z]+7\" s=\"\\d+\"><v>1</v></c>")))
+  EXPECT_TRUE(std::regex_search(box, std::regex("<c r=\"[A-Z]+8\" s=\"\\d+\"><v>1</v></c>")))
       << box.substr(0, 2000);
   EXPECT_NE(part("xl/styles.xml").find("0.0%"), std::string::npos);
 }
@@ -374,6 +374,27 @@ TEST_F(ReportPagesTest, AFailedWriteLeavesTheOldFileWhole) {
   EXPECT_EQ(writeFiles(files, folder.path("missing/x.pdf"), contents), folder.path("missing/x.pdf"));
   EXPECT_EQ(pathOf("/a.b/box.csv", " Points"), "/a.b/box Points.csv");
   EXPECT_EQ(pathOf("/a.b/box", " Points"), "/a.b/box Points");
+}
+
+// As a printer sets them: no notes alone on a page, no row or two, and no page left empty for a long table.
+TEST_F(ReportPagesTest, LongTablesFillTheirPagesAndKeepTheirNotes) {
+  for (std::size_t rows = 20; rows < 120; ++rows) {
+    Report report;
+    report.title = "T";
+    ReportTable table;
+    table.columns = {{"N", "N", {}, true, true}, {"P", "P"}};
+    for (std::size_t i = 0; i < rows; ++i)
+      table.rows.push_back({{textCell("row"), numberCell(1)}});
+    report.blocks.emplace_back(table);
+    report.blocks.emplace_back(ReportParagraph{ReportParagraph::Style::Note, "one note"});
+    report.blocks.emplace_back(ReportParagraph{ReportParagraph::Style::Note, "another note"});
+    ReportLayout layout(report, kA4);
+    layout.finish();
+    for (const ReportPage& page : layout.pages()) {
+      const auto count = std::ranges::count(page.texts, QStringLiteral("row"), &PageText::text);
+      EXPECT_GE(count, 3) << rows << " rows";
+    }
+  }
 }
 
 // Forms printed and looked at as a scanner does: marks and filled digits are black, cells are empty.
@@ -486,7 +507,7 @@ class PreviewTest : public ReportPagesTest {
   const Game shorter = crowdedGame(1);
   ScriptedDialogs dialogs;
   ScriptedPrinters printers;
-  ReportOutput output{texts, dialogs, files, settings};
+  ReportOutput output{texts, dialogs, files};
   std::unique_ptr<frmprint> window;
 };
 

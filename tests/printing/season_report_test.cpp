@@ -1,6 +1,7 @@
 #include "printing/SeasonReports.h"
 
 #include "printing/ReportText.h"
+#include "printing/ReportWords.h"
 #include "season/Leaders.h"
 #include "season/SeasonColumns.h"
 #include "season/SeasonFolder.h"
@@ -55,8 +56,10 @@ TEST_F(SeasonReportTest, TheRowsOfPlayersAndLinesAreThoseOfTheSeason) {
     std::set<std::string> counted;
     for (const SeasonReport which : {shots, other}) {
       const Report report = seasonReport(which, season, {}, settings, texts);
-      ASSERT_EQ(tables(report).size(), 3U);
+      ASSERT_EQ(tables(report).size(), rows.data() == season.players().data() ? 4U : 3U);
       for (const SeasonView view : kSeasonViews) {
+        if (static_cast<std::size_t>(view) >= tables(report).size())
+          break;
         const ReportTable& table = *tables(report)[static_cast<std::size_t>(view)];
         ASSERT_EQ(table.rows.size(), rows.size());
         for (const ReportColumn& column : table.columns) {
@@ -82,6 +85,8 @@ TEST_F(SeasonReportTest, EveryReportHasItsRowsInBothLanguages) {
   const SeasonStatistics season = folder.statistics();
   SeasonReportChoice choice;
   choice.team = folder.scan().teamOf("PAN-A");
+  choice.minimum = {0, 0, 0}; // these games are short
+  const SeasonReportChoice nobody = {std::nullopt, std::nullopt, choice.minimum};
   for (const Language language : {Language::English, Language::French}) {
     texts.setLanguage(language);
     for (const SeasonReportName& name : seasonReports()) {
@@ -96,7 +101,7 @@ TEST_F(SeasonReportTest, EveryReportHasItsRowsInBothLanguages) {
         for (const ReportRow& row : table->rows)
           ASSERT_EQ(row.cells.size(), table->columns.size()) << table->title;
       }
-      EXPECT_TRUE(tables(seasonReport(name.report, season, {}, settings, texts)).empty() == isPerformance)
+      EXPECT_TRUE(tables(seasonReport(name.report, season, nobody, settings, texts)).empty() == isPerformance)
           << "a performance of nobody";
       for (const ReportFile& file : reportCsv(report))
         EXPECT_GE(parseDelimited(file.bytes).size(), 2U);
@@ -108,7 +113,8 @@ TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
   const SeasonStatistics season = folder.statistics();
   const SeasonRow* ann = rowOf(season.players(), "Ann Able");
   ASSERT_NE(ann, nullptr);
-  const Report report = seasonReport(SeasonReport::Player, season, {std::nullopt, ann->id}, settings, texts);
+  const Report report =
+      seasonReport(SeasonReport::Player, season, {std::nullopt, ann->id, {}}, settings, texts);
   EXPECT_EQ(report.title, texts.text(1413));
   const ReportTable& results = *tables(report).back();
   ASSERT_EQ(results.rows.size(), 2U);
@@ -116,7 +122,7 @@ TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
   EXPECT_EQ(cell(results, results.rows[1], "F2A").text, "2");
   EXPECT_DOUBLE_EQ(cell(results, results.rows[1], "F2%").value, 0.5);
   const Report leaders =
-      seasonReport(SeasonReport::LeadersTotal, season, {std::nullopt, ann->id}, settings, texts);
+      seasonReport(SeasonReport::LeadersTotal, season, {std::nullopt, ann->id, {}}, settings, texts);
   const auto all = tables(leaders);
   const auto of = std::ranges::find(all, "Points scored", &ReportTable::title);
   ASSERT_NE(of, all.end());
@@ -125,6 +131,35 @@ TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
   EXPECT_EQ(reportCsv(leaders).size(), 1U) << "one table of text for all statistics";
   EXPECT_EQ(points.rows[0].emphasis, ReportRow::Emphasis::Highlighted);
   EXPECT_EQ(points.rows[1].emphasis, ReportRow::Emphasis::None);
+}
+
+TEST_F(SeasonReportTest, FilesNameTheirColumnsAndHoldNoTimeWhereNoneIsShown) {
+  const SeasonStatistics season = folder.statistics();
+  const Report games = seasonReport(SeasonReport::TeamSummary, season, {}, settings, texts);
+  EXPECT_TRUE(reportCsv(games)[0].bytes.starts_with(
+      "Date,Type,Result,Visitor,VisitorPTS,Home,HomePTS,Input,Location\r\n"));
+  Report report = seasonReport(SeasonReport::PlayerShots, season, {}, settings, texts);
+  const auto view = static_cast<std::size_t>(SeasonView::PerMinute);
+  const ReportTable& minutes = *tables(report)[view];
+  EXPECT_EQ(cell(minutes, minutes.rows[0], "Time").kind, ReportCell::Kind::Text);
+  EXPECT_EQ(cell(minutes, minutes.rows[0], "Team").text, "PAN-A") << "without a chosen team";
+  EXPECT_TRUE(cell(minutes, minutes.rows[0], "Name").text.ends_with(" *")) << "under the minimum";
+
+  texts.setLanguage(Language::French);
+  report = seasonReport(SeasonReport::PlayerShots, season, {}, settings, texts);
+  const std::string french = reportCsv(report, CsvReader::French)[0].bytes;
+  EXPECT_TRUE(french.starts_with("\xEF\xBB\xBFTableau;Équipe;No;Nom du joueur;Temps;P;TGM;"))
+      << french.substr(0, 90);
+  EXPECT_NE(french.find(";100,0%;"), std::string::npos);
+
+  const std::size_t all = rankedRows(report);
+  SeasonReportChoice choice;
+  choice.chosen = season.players().back().id;
+  report = seasonReport(SeasonReport::PlayerShots, season, choice, settings, texts);
+  keepBest(report, 2, texts);
+  ASSERT_EQ(tables(report)[0]->rows.size(), 3U) << "the highlighted one stays";
+  EXPECT_NE(tables(report)[0]->title.find(std::to_string(all)), std::string::npos);
+  EXPECT_EQ(proposedFileName("LYNX  12 Smith, Jr: a"), "LYNX 12 Smith, Jr- a");
 }
 
 } // namespace

@@ -157,6 +157,25 @@ TEST(Catalogue, GamesThatCannotBeRightAreToldAndLeftOutOnRequest) {
   EXPECT_EQ(namesOf(catalogue, catalogue.select(right)), Names{"whole.GAM"});
 }
 
+TEST(Catalogue, AGameThatIsCutIsTheSameGame) {
+  std::string events = kStart;
+  for (int i = 3; i < 40; ++i)
+    events += std::to_string(i) + "=09:00,GFT,0-" + (i % 2 == 0 ? "4" : "5") + "\n";
+  SeasonFolder season;
+  season.addGame("a-cut.GAM", "2026-01-01", events.substr(0, events.find("30=")), "SUPP0=U1-Deflections\n");
+  season.addGame("whole.GAM", "2026-01-01", events, "SUPP0=U1-Charges\n");
+  const GameCatalogue& catalogue = season.scan();
+  ASSERT_EQ(catalogue.games().size(), 2U);
+  EXPECT_EQ(catalogue.games()[0].copyOf, 1U) << "the fullest stands for both";
+  EXPECT_FALSE(catalogue.games()[1].copyOf.has_value());
+  GameCriteria once;
+  once.countsCopiesOnce = true;
+  EXPECT_EQ(namesOf(catalogue, catalogue.select(once)), (Names{"whole.GAM"}));
+  const SeasonStatistics statistics(catalogue, catalogue.select({}), {});
+  EXPECT_EQ(statistics.labels()[0], "Deflections / Charges");
+  EXPECT_EQ(statistics.lines()[0].players, "4 Able, 5 Baker, 10 Carter, 12 Dunn, 15 Ellis");
+}
+
 TEST(Catalogue, EachCriterionNarrowsAndWhatIsEmptyAcceptsAll) {
   SeasonFolder season;
   season.addGame("away.GAM", "2026-01-01", kStart, "TYPE=2\n");
@@ -205,7 +224,7 @@ TEST(GameList, ShowsTheGameAndItsResultForATeamOrForAll) {
     return cells;
   };
   EXPECT_EQ(row(0, std::nullopt),
-            (Names{"2026-01-01", "Play-off", "OLY", "Panthers", "2", "OLY-A", "4", "Live", "Old Hall",
+            (Names{"2026-01-01", "Play-off", "OLY-A", "Panthers", "2", "OLY-A", "4", "Live", "Old Hall",
                    season.folder().path("g.GAM"), "4-7", "0", "120", "0", "60", "1", "30"}));
   EXPECT_EQ(row(0, catalogue.teamOf("PAN-A"))[2], "L 2-4");
   EXPECT_EQ(row(0, catalogue.teamOf("OLY-A"))[2], "W 4-2");

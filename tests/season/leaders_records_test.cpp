@@ -64,6 +64,30 @@ TEST(Leaders, PerMinuteNeedTimeAndNobodyLeadsInTimeThere) {
   EXPECT_EQ(leadersIn("rating", bad, SeasonView::Totals), "");
 }
 
+TEST(Leaders, NeedWhatTheirLeagueAsksFor) {
+  std::vector<SeasonRow> rows = {player("Ann", 20, 7, 7 * 600), player("Bea", 9, 1, 8),
+                                 player("Cyd", 30, 10, 6600)};
+  for (SeasonRow& row : rows)
+    row.teamGames = 10;
+  const auto shoot = [&](std::size_t row, int made, int attempted) {
+    auto& counts = rows[row].numbers.counters.counts;
+    counts[static_cast<std::size_t>(Counter::FTM)] = made;
+    counts[static_cast<std::size_t>(Counter::FTA)] = attempted;
+  };
+  shoot(0, 15, 20);
+  shoot(1, 1, 1);
+  EXPECT_EQ(leadersIn("Ast", rows, SeasonView::Totals), "1Cyd=30 2Ann=20 3Bea=9 ")
+      << "totals ask for nothing";
+  EXPECT_EQ(leadersIn("Ast", rows, SeasonView::PerGame), "1Cyd=3.0 2Ann=2.9 ");
+  EXPECT_EQ(leadersIn("Ast", rows, SeasonView::PerMinute), "1Cyd=0.27 ") << "eight seconds are no minutes";
+  EXPECT_EQ(leadersIn("Ast", rows, SeasonView::PerForty), "1Cyd=10.9 ");
+  EXPECT_EQ(leadersIn("FT%", rows, SeasonView::Totals), "1Ann=75.0% ") << "one of one leads nothing";
+  EXPECT_EQ(leadersIn("FTA", rows, SeasonView::Totals), "no such statistic");
+  const Qualification none{0, 0, 0};
+  EXPECT_FALSE(none.isUnder(rows[1], SeasonTable::Players, SeasonView::PerMinute));
+  EXPECT_TRUE(none.isUnder(rows[1], SeasonTable::Lines, SeasonView::PerForty)) << "lines have their own";
+}
+
 TEST(Records, KeepTheBestAndSayWhereItWasReachedLast) {
   const std::string start = "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=10:00,DEPART\n";
   const auto stop = [](const std::string& clock) {

@@ -23,6 +23,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
@@ -201,16 +202,20 @@ TEST_F(SeasonWindowTest, CriteriaNarrowTheListWhenTheyAreApplied) {
   EXPECT_FALSE(find<QPushButton>("cmdGENERATE").isEnabled());
 }
 
-TEST_F(SeasonWindowTest, GeneratesTheTablesInThreeInstances) {
+TEST_F(SeasonWindowTest, GeneratesTheTablesInTheirInstances) {
   readAndGenerate();
   EXPECT_EQ(currentPage(), QStringLiteral("Players"));
   EXPECT_TRUE(find<QLabel>("lblPROGRESS").text().contains(QStringLiteral("25 Games Selected")));
-  for (const char* name : {"lvwSTATjoueurs(0)", "lvwSTATjoueurs(1)", "lvwSTATjoueurs(2)"}) {
-    EXPECT_EQ(table(name).model()->columnCount(), 55) << name;
+  for (const char* name :
+       {"lvwSTATjoueurs(0)", "lvwSTATjoueurs(1)", "lvwSTATjoueurs(2)", "lvwSTATjoueurs(3)"}) {
+    EXPECT_EQ(table(name).model()->columnCount(), 55 + 1) << name;
+    EXPECT_EQ(table(name).horizontalHeader()->visualIndex(55), 2) << "the team, beside the name";
     EXPECT_TRUE(table(name).isColumnHidden(54)) << name;
     EXPECT_EQ(rows(name), rows("lvwSTATjoueurs(0)")) << name;
   }
-  EXPECT_EQ(table("lvwSTATlignes(0)").model()->columnCount(), 53);
+  EXPECT_EQ(table("lvwSTATlignes(0)").model()->columnCount(), 53 + 1);
+  EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, 1).contains(u',')) << "its players by name";
+  EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, 53).contains(u'-')) << "its team";
   EXPECT_GT(rows("lvwSTATlignes(2)"), rows("lvwSTATjoueurs(0)"));
 
   // By rank: the most points first; and each instance the same row divided.
@@ -331,10 +336,46 @@ TEST_F(SeasonWindowTest, ShowsLeadersAndATeam) {
   int wins = 0;
   for (const auto& margin : margins.values)
     wins += *margin > 0 ? 1 : 0;
-  EXPECT_TRUE(find<QLabel>("lblBALANCE").text().startsWith(QString::number(wins) + QStringLiteral(" wins")));
+  EXPECT_TRUE(find<QLabel>("lblBALANCE").text().startsWith(QString::number(wins) + QStringLiteral(" win")));
   const QString title = margins.title;
   teams.setCurrentIndex(1);
   EXPECT_NE(find<SeriesView>("picMARGINS").drawing().title, title);
+}
+
+TEST_F(SeasonWindowTest, TheMinimumDecidesWhoLeadsAndIsKept) {
+  readAndGenerate();
+  find<QTabWidget>("tabs").setCurrentIndex(3);
+  QWidget& page = *find<QTabWidget>("tabs").currentWidget();
+  page.findChild<QToolButton*>(QStringLiteral("cmdPERGAME"))->click();
+  const auto set = [&](const char* name, int value) { find<QSpinBox>(name).setValue(value); };
+  const int before = rows("lvwLEADERS");
+  ASSERT_GT(before, 0);
+  set("txtMINGAMES", 0);
+  EXPECT_TRUE(find<QLabel>("lblMINIMUM").text().contains(QStringLiteral("0% of the games")));
+  EXPECT_GE(rows("lvwLEADERS"), before);
+  EXPECT_FALSE(cell("lvwSTATjoueurs(1)", 0, 1).endsWith(u'*')) << "nobody is under no minimum";
+  set("txtMINMINUTES", 48);
+  page.findChild<QToolButton*>(QStringLiteral("cmdPERFORTY"))->click();
+  EXPECT_EQ(rows("lvwLEADERS"), 0) << "nobody plays whole games";
+  EXPECT_TRUE(cell("lvwSTATjoueurs(3)", 0, 1).endsWith(u'*'));
+  const QByteArray kept = window->arrangement();
+  makeWindow();
+  window->restoreArrangement(kept);
+  EXPECT_EQ(find<QSpinBox>("txtMINMINUTES").value(), 48);
+  EXPECT_EQ(find<QSpinBox>("txtMINATTEMPTS").value(), 2);
+}
+
+TEST_F(SeasonWindowTest, CancelStopsGenerateAndHomeNeedsATeam) {
+  read();
+  EXPECT_FALSE(find<QComboBox>("lstOU").isEnabled());
+  choose("lstequipes", find<QComboBox>("lstequipes").itemText(1));
+  EXPECT_TRUE(find<QComboBox>("lstOU").isEnabled());
+  find<QPushButton>("cmdGENERATE").click();
+  texts.setLanguage(Language::French); // while the other thread works: it has its own
+  find<QPushButton>("cmdCANCEL").click();
+  wait();
+  EXPECT_EQ(window->statistics(), nullptr);
+  EXPECT_TRUE(find<QLabel>("lblNOTICE").isVisible());
 }
 
 TEST_F(SeasonWindowTest, EveryTableCanBeCopied) {
@@ -343,7 +384,7 @@ TEST_F(SeasonWindowTest, EveryTableCanBeCopied) {
   find<QToolButton>("cmdCOPY").click();
   const QStringList lines = QApplication::clipboard()->text().split(u'\n');
   EXPECT_EQ(lines.size(), rows("lvwSTATjoueurs(0)") + 2) << "headers, rows, and the last line's end";
-  EXPECT_EQ(lines[0].split(u'\t').size(), 54) << "all but the hidden one";
+  EXPECT_EQ(lines[0].split(u'\t').size(), 55) << "all but the hidden one, and the team";
   EXPECT_TRUE(lines[1].contains(cell("lvwSTATjoueurs(0)", 0, 1)));
   EXPECT_EQ(reports.size(), 1);
 }

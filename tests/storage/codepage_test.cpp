@@ -1,3 +1,4 @@
+#include "storage/NameOrder.h"
 #include "storage/codepage.h"
 
 #include <gtest/gtest.h>
@@ -80,4 +81,15 @@ TEST(CodePage, NamesCompareWithoutRegardToCase) {
 }
 
 } // namespace
+TEST(NameOrder, LettersWithoutAccentsFirstThenAccentsThenCase) {
+  std::vector<std::string> names = {"Zoé",    "abel",   "Émile",        "Eve",         "Abel",
+                                    "Zoe",    "O'Neil", "Œuvre",        "Olaf",        "de la",
+                                    "Côté B", "Côté A", "Saint-Pierre", "Saint Pierre"};
+  std::ranges::sort(names, {}, nameOrderKey);
+  const std::vector<std::string> ordered = {"abel",         "Abel",         "Côté A", "Côté B", "de la",
+                                            "Émile",        "Eve",          "O'Neil", "Œuvre",  "Olaf",
+                                            "Saint Pierre", "Saint-Pierre", "Zoe",    "Zoé"};
+  EXPECT_EQ(names, ordered);
+}
+
 } // namespace hooptab::codepage

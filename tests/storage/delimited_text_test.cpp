@@ -20,6 +20,12 @@ TEST(DelimitedText, DisarmsFormulasAndLeavesNumbersWithTheirSign) {
   EXPECT_EQ(csvRow({"-3,2"}), "\"-3,2\"\r\n");
 }
 
+TEST(DelimitedText, FrenchSpreadsheetsTakeSemicolonsAndDecimalCommas) {
+  EXPECT_EQ(
+      csvRow({"45.2%", "-0.5", "2.30", "12", "v1.2", "1.2.3", "a;b", "a,b", ".5", "=1.5"}, CsvReader::French),
+      "45,2%;-0,5;2,30;12;v1.2;1.2.3;\"a;b\";a,b;.5;'=1.5\r\n");
+}
+
 TEST(DelimitedText, LeavesControlCharactersOut) {
   EXPECT_EQ(csvRow({"A\x1B[31m\x07", "\x7F\xC2\x9B", "é", "two\r\nlines", "\x01=1"}),
             "A[31m,,é,\"two\r\nlines\",'=1\r\n");

@@ -1,0 +1,29 @@
+#include "season/Qualification.h"
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::int64_t kSecondsPerMinute = 60;
+
+} // namespace
+
+bool Qualification::isMet(const SeasonRow& row, int column, SeasonView view) const {
+  if (const int ofKind = attemptsColumnOf(column); ofKind != 0) {
+    const std::int64_t tried = seasonValue(row, ofKind, SeasonView::Totals).numerator;
+    return tried >= std::int64_t{attempts} * row.teamGames;
+  }
+  return !isUnder(row, SeasonTable::Players, view);
+}
+
+bool Qualification::isUnder(const SeasonRow& row, SeasonTable table, SeasonView view) const {
+  const bool isOfTime = view == SeasonView::PerMinute || view == SeasonView::PerForty;
+  if (table == SeasonTable::Lines)
+    return isOfTime && row.isShort();
+  if (isOfTime)
+    return row.numbers.seconds < std::int64_t{minutes} * kSecondsPerMinute * row.teamGames;
+  return view == SeasonView::PerGame &&
+         std::int64_t{row.games} * kMostPercent < std::int64_t{gamesPercent} * row.teamGames;
+}
+
+} // namespace hooptab

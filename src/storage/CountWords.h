@@ -1,0 +1,15 @@
+// Words with a number, in the singular where the language has it: "1 game", "2 games"; "0 partie",
+// "2 parties".
+#pragma once
+
+#include "storage/Texts.h"
+
+#include <cstddef>
+#include <string>
+
+namespace hooptab {
+
+// `one` and `many` are numbers of texts; "XXX" of them is the count.
+[[nodiscard]] std::string countWords(std::size_t count, int one, int many, const Texts& texts);
+
+} // namespace hooptab
