@@ -55,8 +55,8 @@ unsigned checkSum(unsigned data) {
 } // namespace
 
 std::array<bool, FormIdentifier::kBits> FormIdentifier::bits() const {
-  unsigned data = kVersion;
-  data = data << kSheetBits | static_cast<unsigned>(sheet);
+  unsigned data = kVersion << kSheetBits; // what has no room in the sheet's bits raises the version
+  data += static_cast<unsigned>(sheet);
   data = data << 1 | (isPrepared ? 1U : 0U);
   data = data << kTeamBits | static_cast<unsigned>(team);
   const unsigned all = (1U << (kDataBits + kCheckBits) | data << kCheckBits | checkSum(data)) << 1;
@@ -81,9 +81,8 @@ std::optional<FormIdentifier> FormIdentifier::ofBits(const std::array<bool, kBit
   data >>= kTeamBits;
   result.isPrepared = (data & 1U) != 0;
   data >>= 1;
-  result.sheet = static_cast<int>(data & ((1U << kSheetBits) - 1));
-  data >>= kSheetBits;
-  return data == kVersion ? std::optional(result) : std::nullopt;
+  result.sheet = static_cast<int>(data) - (kVersion << kSheetBits);
+  return result.sheet >= 0 && result.sheet < kMostSheets ? std::optional(result) : std::nullopt;
 }
 
 int FormIdentifier::teamNumber(std::string_view abbreviation, std::string_view category) {

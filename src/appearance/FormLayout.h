@@ -25,7 +25,9 @@ struct FormRect {
 struct FormIdentifier {
   static constexpr int kBits =
       30; // the first one black, the last one white: a sheet upside down never checks
-  static constexpr int kVersion = 2; // 1 had no gap behind every fifth cell
+  static constexpr int kVersion =
+      2; // 1 had no gap behind every fifth cell; 3 is this one's ninth sheet and on
+  static constexpr int kMostSheets = 16;
 
   int sheet = 0; // from 0
   bool isPrepared = false;
@@ -63,7 +65,7 @@ struct FormLabel {
 class FormLayout {
  public:
   static constexpr int kPlayers = 4; // on one sheet
-  static constexpr int kSheets = 4;  // of a team of fifteen
+  static constexpr int kSheets = 4;  // of a team of fifteen; a larger one has more
   static constexpr int kCellsInRow = 14;
   // All positions count from the upper left corner of this area, which stands in the middle of the page: it
   // fits on A4 and on Letter paper.

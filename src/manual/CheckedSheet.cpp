@@ -62,6 +62,18 @@ int CheckedSheet::openCells() const {
   return open;
 }
 
+bool CheckedSheet::isOneWith(const CheckedSheet& other) const {
+  if (identifier() != other.identifier() || cellCount() != other.cellCount())
+    return false;
+  int marks = 0;
+  int others = 0;
+  for (std::size_t index = 0; index < m_cells.size(); ++index) {
+    marks += isTicked(index) ? 1 : 0;
+    others += isTicked(index) != other.isTicked(index) ? 1 : 0;
+  }
+  return marks > 0 && others * 25 <= marks;
+}
+
 bool CheckedSheet::hasCorrections() const {
   const auto isTyped = [](const Typed& counts) {
     return std::ranges::any_of(counts, [](const auto& count) { return count.has_value(); });
@@ -116,6 +128,13 @@ CheckedSheet::Count CheckedSheet::count(int player, Counter counter) const {
   if (typed)
     return {*typed, false, true, true};
   return sum;
+}
+
+bool CheckedSheet::hasMarks() const {
+  bool has = openCells() > 0;
+  for (int player = 0; player < FormLayout::kPlayers; ++player)
+    has = has || hasCounts(player);
+  return has;
 }
 
 Counters CheckedSheet::counts(int player) const {

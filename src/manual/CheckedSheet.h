@@ -38,6 +38,8 @@ class CheckedSheet {
   // Player by player; those that were settled stay among them.
   [[nodiscard]] std::vector<std::size_t> doubtfulCells() const;
   [[nodiscard]] int openCells() const;
+  // The same paper, though it may have been scanned twice: hardly a mark is another.
+  [[nodiscard]] bool isOneWith(const CheckedSheet& other) const;
   [[nodiscard]] bool hasCorrections() const; // something here is the user's work
 
   // --- What they say
@@ -60,6 +62,7 @@ class CheckedSheet {
   [[nodiscard]] bool countsFor(std::size_t cell, Counter counter) const;
   [[nodiscard]] Count count(int player, Counter counter) const;
   [[nodiscard]] Counters counts(int player) const;
+  [[nodiscard]] bool hasMarks() const; // somebody of the sheet has counts, or a cell is in doubt
   [[nodiscard]] bool hasCounts(int player) const { return counts(player).hasAny(); }
 
   // A count that the cells do not give, say of more events than a row has cells. Made shots raise the

@@ -71,6 +71,25 @@ int textOf(ScanProblem problem) {
   case ScanProblem::NoBottom: return 1235;
   case ScanProblem::NotReadable: return 1228;
   case ScanProblem::NotThisForm: return 1236;
+  case ScanProblem::TooFaint: return 2790;
+  }
+  return 0;
+}
+
+int adviceFor(ScanProblem problem) {
+  switch (problem) {
+  case ScanProblem::NoUpperLeftMark:
+  case ScanProblem::NoTop:
+  case ScanProblem::NoLeft:
+  case ScanProblem::NoRight:
+  case ScanProblem::NoBottom: return 2791;
+  case ScanProblem::NotReadable: return 2792;
+  case ScanProblem::NotThisForm: return 2793;
+  case ScanProblem::None:
+  case ScanProblem::Cancelled:
+  case ScanProblem::NotAPicture:
+  case ScanProblem::TooCoarse:
+  case ScanProblem::TooFaint: break;
   }
   return 0;
 }
@@ -82,6 +101,27 @@ PicturePoint FormReading::inPicture(double x, double y) const {
 }
 
 FormReading FormReader::read(const GrayPicture& picture, const Progress& progress) const {
+  // In the order in which paper comes to lie: a broad picture is a page on its side.
+  const bool isBroad = picture.width > picture.height;
+  const std::array<int, 4> ways = isBroad ? std::array{1, 3, 0, 2} : std::array{0, 2, 1, 3};
+  FormReading asItCame;
+  int farthest = 0; // progress never goes back
+  const Progress onwards = [&](int percent) {
+    farthest = std::max(farthest, percent);
+    return !progress || progress(farthest);
+  };
+  for (const int way : ways) {
+    FormReading reading = readUpright(way == 0 ? picture : turned(picture, way), onwards);
+    reading.quarters = way;
+    if (adviceFor(reading.problem) == 0) // else another side up may make it a form
+      return reading;
+    if (way == 0)
+      asItCame = std::move(reading);
+  }
+  return asItCame;
+}
+
+FormReading FormReader::readUpright(const GrayPicture& picture, const Progress& progress) const {
   FormReading result;
   const auto refused = [&](ScanProblem problem) {
     result.problem = problem;
@@ -157,26 +197,19 @@ FormReading FormReader::read(const GrayPicture& picture, const Progress& progres
     if (!goesOn(50 + 40 * part(inks.size())))
       return refused(ScanProblem::Cancelled);
   }
-  // Digits that are printed black say nothing about the hand.
-  const auto byHand = [&] {
-    std::vector<CellInk> written;
-    for (std::size_t i = 0; i < inks.size(); ++i) {
-      if (!identifier->isPrepared || m_layout.cells()[i].kind != FormCell::Kind::JerseyDigit)
-        written.push_back(inks[i]);
-    }
-    return written;
-  };
-  const TickRule first(byHand(), grid->border());
+  const TickRule first(m_layout, inks, identifier->isPrepared, grid->border());
+  if (first.isTooFaint())
+    return refused(ScanProblem::TooFaint);
   for (std::size_t i = 0; i < inks.size(); ++i) {
-    if (TickRule::strength(inks[i]) > first.slightest())
+    if (first.mayBeTicked(i))
       inks[i] = inkIn(page, *grid, m_layout.cells()[i], first.darkest());
     if (!goesOn(90 + 10 * part(i + 1)))
       return refused(ScanProblem::Cancelled);
   }
-  const TickRule rule(byHand(), grid->border());
-  for (std::size_t i = 0; i < inks.size(); ++i) {
-    ReadCell& cell = result.cells.emplace_back(rule.read(inks[i]));
-    cell.isDoubtful = cell.isDoubtful || !isWithin(page, *grid, m_layout.cells()[i]);
+  result.cells = TickRule(m_layout, std::move(inks), identifier->isPrepared, grid->border()).read();
+  for (std::size_t i = 0; i < result.cells.size(); ++i) {
+    if (!isWithin(page, *grid, m_layout.cells()[i]))
+      result.cells[i].isDoubtful = true;
   }
   result.identifier = *identifier;
   const PageMapping mapping = grid->whole().enlarged(factor);

@@ -24,8 +24,11 @@ enum class ScanProblem {
   NoBottom,
   NotReadable, // marks, but no cells where they must be
   NotThisForm, // the identifier is that of no form, or of a version that is not known
+  TooFaint,    // marks, but hardly darker than the paper
 };
-[[nodiscard]] int textOf(ScanProblem problem); // number of the text that tells the user
+// Numbers of the texts that tell the user what is wrong, and what to do where that does not say it (else 0).
+[[nodiscard]] int textOf(ScanProblem problem);
+[[nodiscard]] int adviceFor(ScanProblem problem);
 
 struct ReadCell {
   double ink = 0; // 0 untouched paper, 1 filled in wholly
@@ -38,7 +41,10 @@ struct FormReading {
   FormIdentifier identifier;
   std::vector<ReadCell> cells; // one for each of FormLayout::cells(), in their order
 
-  // Where a point of the layout (millimetres) lies in the picture. Projective, so straight lines stay so.
+  // By how many quarters the picture is to be turned clockwise so that it stands upright; all places are in
+  // the upright one.
+  int quarters = 0;
+  // Where a point of the layout (millimetres) lies in it. Projective, so straight lines stay so.
   double toPicture[9] = {};
   [[nodiscard]] PicturePoint inPicture(double x, double y) const;
 };
@@ -49,9 +55,12 @@ class FormReader {
 
   // Progress in percent; returning false stops the reading. Needs no thread of its own and may run in any.
   using Progress = std::function<bool(int)>;
+  // A page that lies on its side or upside down is read too.
   [[nodiscard]] FormReading read(const GrayPicture& picture, const Progress& progress = {}) const;
 
  private:
+  [[nodiscard]] FormReading readUpright(const GrayPicture& picture, const Progress& progress) const;
+
   const FormLayout& m_layout;
 };
 

@@ -18,6 +18,7 @@ constexpr int kReach = 22;  // to the borders of the neighbours
 constexpr int kInside = 11; // still free of the border's grey when smoothed
 constexpr int kCore = 8;    // ink farther out may have come from a neighbour
 constexpr int kSmooth = 2;
+constexpr int kGap = 20;                  // the middle of the paper between two cells
 constexpr std::size_t kSmallestTick = 50; // samples
 
 constexpr int kSide = 2 * kReach + 1;
@@ -63,6 +64,20 @@ Patch smoothed(const Patch& patch) {
   return along(along(patch, 1), kSide);
 }
 
+double beyond(const Patch& dark) {
+  double left = 0;
+  double right = 0;
+  double above = 0;
+  double below = 0;
+  for (int along = -kInside; along <= kInside; ++along) {
+    left = std::max(left, dark[index(-kGap, along)]);
+    right = std::max(right, dark[index(kGap, along)]);
+    above = std::max(above, dark[index(along, -kGap)]);
+    below = std::max(below, dark[index(along, kGap)]);
+  }
+  return std::max(std::min(left, right), std::min(above, below));
+}
+
 } // namespace
 
 CellInk inkIn(const GrayPicture& picture, const FormGrid& grid, const FormCell& cell, double darkest) {
@@ -97,6 +112,7 @@ CellInk inkIn(const GrayPicture& picture, const FormGrid& grid, const FormCell& 
   result.extent = kStep * kStep *
                   static_cast<double>(std::count_if(weighted.begin(), weighted.end(),
                                                     [&](double dark) { return dark > result.depth / 2; }));
+  result.beyond = beyond(patch);
   return result;
 }
 

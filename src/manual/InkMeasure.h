@@ -14,6 +14,9 @@ struct CellInk {
   double extent = 0;
   // The part of the inside that gives back less light than paper does, all in all.
   double filled = 0;
+  // How dark the gaps on two opposite sides of the cell are, as depth: what goes on there on both sides is a
+  // fold, a hair or a stain rather than a tick.
+  double beyond = 0;
 };
 
 // Nothing counts as darker than `darkest`: beside faint strokes, small black dirt is no more than they are.

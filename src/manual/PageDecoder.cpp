@@ -148,7 +148,7 @@ ScannedPage PageDecoder::decode(const std::string& path, int page, const std::at
     }
   } catch (const std::bad_alloc&) { // here, not there
   }
-  return refused({Reason::TooLarge}, answer.page().pagesInFile);
+  return refused({Reason::NoMemory}, answer.page().pagesInFile);
 }
 
 } // namespace hooptab

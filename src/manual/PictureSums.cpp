@@ -1,6 +1,7 @@
 #include "manual/PictureSums.h"
 
 #include <cmath>
+#include <utility>
 
 namespace hooptab {
 
@@ -27,6 +28,22 @@ GrayPicture reduced(const GrayPicture& picture, int factor) {
     }
     for (const std::uint32_t sum : sums)
       result.pixels.push_back(static_cast<std::uint8_t>((sum + count / 2) / count));
+  }
+  return result;
+}
+
+GrayPicture turned(const GrayPicture& picture, int quarters) {
+  GrayPicture result = picture;
+  if (quarters == 2)
+    std::ranges::reverse(result.pixels);
+  if (quarters % 2 == 0)
+    return result;
+  std::swap(result.width, result.height);
+  std::size_t place = 0;
+  for (int y = 0; y < result.height; ++y) {
+    for (int x = 0; x < result.width; ++x)
+      result.pixels[place++] =
+          quarters == 1 ? picture.at(y, result.width - 1 - x) : picture.at(result.height - 1 - y, x);
   }
   return result;
 }

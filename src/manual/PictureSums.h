@@ -12,6 +12,9 @@ namespace hooptab {
 // The picture with so many pixels in each direction made one.
 [[nodiscard]] GrayPicture reduced(const GrayPicture& picture, int factor);
 
+// Turned clockwise by so many quarters, 0 to 3.
+[[nodiscard]] GrayPicture turned(const GrayPicture& picture, int quarters);
+
 class PictureSums {
  public:
   explicit PictureSums(const GrayPicture& picture);

@@ -16,6 +16,7 @@ constexpr int kTooManyPages = 2403;
 constexpr int kBrokeOff = 2404;
 constexpr int kTookTooLong = 2405;
 constexpr int kCannotStart = 2406;
+constexpr int kNoMemory = 2802;
 
 } // namespace
 
@@ -34,6 +35,7 @@ std::string explained(const PageRefusal& refusal, const Texts& texts) {
   case Reason::BrokeOff: return std::string(texts.text(kBrokeOff));
   case Reason::TookTooLong: return texts.withPlaceholder(kTookTooLong, std::to_string(refusal.number));
   case Reason::CannotStart: return texts.withPlaceholder(kCannotStart, std::strerror(refusal.number));
+  case Reason::NoMemory: return std::string(texts.text(kNoMemory));
   }
   return {};
 }

@@ -23,6 +23,7 @@ struct PageRefusal {
     BrokeOff,     // the process that decoded it came to an end, or answered nonsense
     TookTooLong,  // number: seconds
     CannotStart,  // number: why the system started no process, as errno
+    NoMemory,     // in this process, for what the other one sent
   };
   Reason reason = Reason::None;
   int number = 0;

@@ -70,6 +70,11 @@ ScannedTotals::Outcome ScannedTotals::outcome(Way way, const ManualTotals& befor
       result.twice.push_back(slot(player));
     add(sum->second, sheet.counts(player));
   }
+  result.isAgain = way == Way::Add &&
+                   std::ranges::any_of(sums, [](const auto& sum) { return sum.second.hasAny(); }) &&
+                   std::ranges::all_of(sums, [&](const auto& sum) {
+                     return sum.second.counts == before.slot(m_team, sum.first).counts().counts;
+                   });
   for (auto& [number, counts] : sums) {
     if (way == Way::Add)
       add(counts, before.slot(m_team, number).counts());

@@ -45,6 +45,7 @@ class ScannedTotals {
     int tooMany =
         kNobody; // a slot one of whose counts would be too large; then the totals are those of before
     int placedShotsGone = 0;
+    bool isAgain = false;     // added, though the game has the very counts of the sheet already
     std::vector<int> twice;   // slots that two players of the sheet are for
     std::vector<int> unknown; // players of the sheet
   };

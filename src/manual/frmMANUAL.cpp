@@ -11,6 +11,7 @@
 #include "appearance/relabel.h"
 #include "manual/ScoreCheck.h"
 #include "manual/ShotPanel.h"
+#include "manual/TotalsChange.h"
 #include "manual/TotalsTable.h"
 #include "manual/frmSCAN.h"
 #include "storage/Settings.h"
@@ -19,10 +20,12 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QStackedLayout>
 
 #include <chrono>
+#include <utility>
 
 namespace hooptab {
 
@@ -58,8 +61,15 @@ constexpr int kEveryScanFilter = 2303;
 constexpr int kMoreScanFilters = 2304;
 constexpr int kLeavePages = 2334;
 constexpr int kImported = 2335;
+constexpr int kImportValues = 1232;
+constexpr int kResetToZero = 1239;
+constexpr int kUndo = 2796;
+constexpr int kRedo = 2798; // each with its tool tip behind it
+constexpr int kUndone = 2800;
+constexpr int kRedone = 2801;
 
 constexpr auto kRetryInterval = 2s;
+constexpr int kMostChanges = 500; // that can be taken back
 constexpr int kMargin = 8;
 constexpr int kTeamWidth = 240;
 constexpr int kTableShare = 5; // of the window's width, and the shots' share
@@ -75,6 +85,7 @@ frmMANUAL::frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Di
   setObjectName(QStringLiteral("frmMANUAL"));
   m_banner->setObjectName(QStringLiteral("lblNOTONDISK"));
   m_retryOfWrites.setInterval(kRetryInterval);
+  m_changes.setUndoLimit(kMostChanges);
   m_foreign = new NoticeStrip("picFOREIGN", this);
   m_pages = new QStackedLayout;
   m_pages->addWidget(makeTotalsPage());
@@ -88,11 +99,6 @@ frmMANUAL::frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Di
   layout->addWidget(m_foreign);
   layout->addLayout(m_pages, 1);
   connectEverything();
-}
-
-// The parts still look at the game when they lose the focus, so they go before it does.
-frmMANUAL::~frmMANUAL() {
-  qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
 QWidget* frmMANUAL::makeTotalsPage() {
@@ -126,6 +132,8 @@ QWidget* frmMANUAL::makeHead(QWidget* page) {
   layout->addWidget(m_teams);
   layout->addWidget(m_score);
   layout->addStretch();
+  layout->addWidget(iconButton("cmdUNDO", kUndo, kUndo + 1, "undo", head));
+  layout->addWidget(iconButton("cmdREDO", kRedo, kRedo + 1, "redo", head));
   layout->addWidget(iconButton("cmdFORM", kOpenForm, kOpenForm + 1, "openform", head));
   layout->addWidget(iconButton("cmdZERO", 1239, 1240, "clear", head));
   return head;
@@ -159,14 +167,23 @@ void frmMANUAL::connectEverything() {
   onClick("cmdNEXT", [this] { m_table->nextPage(); });
   onClick("cmdFORM", [this] { openForms(); });
   onClick("cmdZERO", [this] { clearTeam(); });
-  connect(m_forms, &frmSCAN::imported, this, &frmMANUAL::chooseTeam);
+  onClick("cmdUNDO", [this] { go(Step::Undo); });
+  onClick("cmdREDO", [this] { go(Step::Redo); });
+  const auto onKey = [this](Qt::Key key, Step step) {
+    auto* shortcut =
+        new QShortcut(Qt::CTRL | key, m_pages->widget(0), nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this, [this, step] { go(step); });
+  };
+  onKey(Qt::Key_Z, Step::Undo);
+  onKey(Qt::Key_Y, Step::Redo);
+  connect(m_forms, &frmSCAN::imported, this, &frmMANUAL::import);
   connect(m_forms, &frmSCAN::finished, this, &frmMANUAL::endForms);
   connect(m_forms, &frmSCAN::reportAsked, this, &frmMANUAL::scanReportAsked);
   connect(m_table, &TotalsTable::pageAsked, this, [this] { m_table->nextPage(); });
   connect(m_table, &TotalsTable::playerChanged, this, &frmMANUAL::showPlayer);
-  connect(m_table, &TotalsTable::totalsChanged, this, &frmMANUAL::showTotals);
+  connect(m_table, &TotalsTable::totalsChanged, this, [this] { keepChange(m_player->text()); });
   connect(m_table, &TotalsTable::typedRefused, this, &frmMANUAL::showRefusal);
-  connect(m_shots, &ShotPanel::totalsChanged, this, &frmMANUAL::showTotals);
+  connect(m_shots, &ShotPanel::totalsChanged, this, [this] { keepChange(m_player->text()); });
   connect(m_shots, &ShotPanel::playerMissing, this,
           [this] { showHint(caption(m_texts, kChoosePlayer), Theme::missed()); });
   connect(&m_retryOfWrites, &QTimer::timeout, this, &frmMANUAL::settle);
@@ -199,8 +216,10 @@ bool frmMANUAL::open(const QString& path, GameLock lock) {
       m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)),
                        toQt(m_texts.withPlaceholder(kOtherNames, m_hold->lock().game())));
   }
+  m_before = m_game.totals;
+  m_changes.clear();
   m_score->beginGame();
-  m_forms->close(); // its pages were for the game before
+  m_forms->beginGame(); // its pages were for the game before
   endForms(0);
   relabelWindow();
   chooseTeam(0);
@@ -233,7 +252,34 @@ void frmMANUAL::clearTeam() {
                      toQt(m_texts.withPlaceholder(kClearTeam, fromQt(m_teams->currentText())))))
     return;
   m_game.totals.clear(m_team);
+  keepChange(caption(m_texts, kResetToZero));
+}
+
+void frmMANUAL::import(int team) {
+  chooseTeam(team);
+  keepChange(caption(m_texts, kImportValues));
+}
+
+void frmMANUAL::keepChange(const QString& words) {
+  if (m_before != m_game.totals)
+    m_changes.push(new TotalsChange(m_game.totals, std::exchange(m_before, m_game.totals), m_team, words));
   showTotals();
+}
+
+void frmMANUAL::go(Step step) {
+  if (!m_table->takeTyped()) // what is being typed is a change too
+    return;
+  const bool isBack = step == Step::Undo;
+  const int index = isBack ? m_changes.index() - 1 : m_changes.index();
+  const auto* change = static_cast<const TotalsChange*>(m_changes.command(index));
+  if (change == nullptr)
+    return;
+  isBack ? m_changes.undo() : m_changes.redo();
+  m_before = m_game.totals;
+  if (change->team() != m_team)
+    chooseTeam(change->team());
+  showTotals();
+  showHint(toQt(m_texts.withPlaceholder(isBack ? kUndone : kRedone, fromQt(change->text()))), Theme::muted());
 }
 
 void frmMANUAL::openForms() {
@@ -292,10 +338,16 @@ bool frmMANUAL::mayClose() {
 // --- What is shown
 
 void frmMANUAL::showTotals() {
+  showChanges();
   m_table->showTotals();
   m_score->showPoints();
   showPlayer();
   showDisk();
+}
+
+void frmMANUAL::showChanges() {
+  findChild<QPushButton*>(QStringLiteral("cmdUNDO"))->setEnabled(m_changes.canUndo());
+  findChild<QPushButton*>(QStringLiteral("cmdREDO"))->setEnabled(m_changes.canRedo());
 }
 
 void frmMANUAL::showPlayer() {

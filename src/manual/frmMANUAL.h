@@ -5,10 +5,12 @@
 
 #include "appearance/ChildWindow.h"
 #include "appearance/GameHold.h"
+#include "appearance/WidgetsFirst.h"
 #include "manual/ManualColumns.h"
 #include "manual/ManualGame.h"
 
 #include <QTimer>
+#include <QUndoStack>
 
 class QComboBox;
 class QLabel;
@@ -33,7 +35,6 @@ class frmMANUAL : public ChildWindow {
   // All must outlive it.
   frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
             QWidget* parent = nullptr);
-  ~frmMANUAL() override;
 
   // A game that is recorded elsewhere, or cannot be written, is shown for reading. A lock that was taken
   // before, for a game that was just made, is handed over. False on a problem, and what was open stays; else
@@ -69,8 +70,14 @@ class frmMANUAL : public ChildWindow {
   void connectEverything();
   void chooseTeam(int team);
   void clearTeam();
+  void import(int team);
+  // Everything that changes the totals ends here, with words for it; nothing when it changed nothing.
+  void keepChange(const QString& words);
+  enum class Step { Undo, Redo };
+  void go(Step step);
   void endForms(int imported);
   void showTotals();
+  void showChanges(); // what can be taken back
   void showPlayer();
   void showTeams();
   void showDisk();
@@ -88,6 +95,8 @@ class frmMANUAL : public ChildWindow {
   GameHold* m_hold;
   bool m_isHeldElsewhere = false;
   int m_team = 0;
+  ManualTotals m_before; // the totals before the change that is being made
+  QUndoStack m_changes;
   QTimer m_retryOfWrites;
 
   QLabel* m_notice = nullptr; // lines that the table does not show
@@ -102,6 +111,7 @@ class frmMANUAL : public ChildWindow {
   TotalsTable* m_table = nullptr;
   ShotPanel* m_shots = nullptr;
   frmSCAN* m_forms = nullptr;
+  WidgetsFirst m_widgetsFirst{*this}; // stays the last member
 };
 
 } // namespace hooptab

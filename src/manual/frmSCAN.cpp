@@ -7,6 +7,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "manual/DoubtList.h"
+#include "manual/PictureSums.h"
 #include "manual/ScanView.h"
 #include "manual/ScannedTable.h"
 #include "storage/Placeholders.h"
@@ -66,6 +67,8 @@ constexpr int kReplaceWords = 2343;
 constexpr int kCancelWords = 2344;
 constexpr int kFirstPlace = 2345; // hundreds; tens and units follow
 constexpr int kMoreRefused = 2407;
+constexpr int kNoMark = 2794;
+constexpr int kAddedBefore = 2795;
 
 constexpr int kGap = 6;
 constexpr int kProgressWidth = 360;
@@ -274,9 +277,9 @@ void frmSCAN::connectEverything() {
   connect(m_doubts, &DoubtList::cellChosen, m_view, &ScanView::goTo);
   connect(m_doubts, &DoubtList::judged, this, &frmSCAN::settleCurrent);
   connect(&m_work, &BackgroundWork::failed, this, [this] {
-    auto noMemory = std::make_shared<Result>();
-    noMemory->refusal = {PageRefusal::Reason::TooLarge};
-    m_result = noMemory;
+    m_reading->refusal = {PageRefusal::Reason::NoMemory}; // the file's other pages may need less
+    m_reading->picture.reset();
+    m_result = m_reading;
   });
   connect(&m_work, &BackgroundWork::finished, this, &frmSCAN::takeResult);
 }
@@ -320,6 +323,7 @@ void frmSCAN::startReading() {
     return;
   m_isStopped = std::make_shared<std::atomic<bool>>(false);
   m_result.reset();
+  m_reading = std::make_shared<Result>();
   const auto progress = [this, isStopped = m_isStopped](int percent) {
     QMetaObject::invokeMethod(
         this,
@@ -332,13 +336,15 @@ void frmSCAN::startReading() {
     return !isStopped->load();
   };
   m_work.start([this, progress, decoder = m_decoder, path = fromQt(m_files.first()), page = m_page,
-                formLayout = m_layout, isStopped = m_isStopped]() -> BackgroundWork::Delivery {
-    auto result = std::make_shared<Result>();
+                formLayout = m_layout, isStopped = m_isStopped,
+                result = m_reading]() -> BackgroundWork::Delivery {
     ScannedPage scanned = decoder.decode(path, page, *isStopped);
     result->refusal = scanned.refusal;
     result->pagesInFile = scanned.pagesInFile;
     if (!scanned.picture.pixels.empty() && progress(0)) {
       result->reading = FormReader(*formLayout).read(scanned.picture, progress);
+      if (result->reading.quarters != 0)
+        scanned.picture = turned(scanned.picture, result->reading.quarters);
       result->picture = std::make_shared<GrayPicture>(std::move(scanned.picture));
     }
     return [this, result, isStopped] {
@@ -357,8 +363,11 @@ void frmSCAN::takeResult() {
     m_pagesInFile = m_result->pagesInFile;
   if (m_result->picture == nullptr)
     return refuse(toQt(explained(m_result->refusal, m_texts)));
-  if (const int problem = textOf(m_result->reading.problem); problem != 0)
-    return refuse(toQt(m_texts.text(problem)));
+  if (const ScanProblem problem = m_result->reading.problem; textOf(problem) != 0) {
+    const int advice = adviceFor(problem);
+    return refuse(toQt(m_texts.text(textOf(problem))) +
+                  (advice == 0 ? QString() : u". " + toQt(m_texts.text(advice))));
+  }
   const std::array<bool, 2> teams = teamsOf(m_result->reading.identifier, m_game.details());
   if (!teams[0] && !teams[1]) {
     const auto nameOf = [this](int team) {
@@ -423,6 +432,11 @@ void frmSCAN::leave() {
   finish();
 }
 
+void frmSCAN::beginGame() {
+  close();
+  m_taken.clear();
+}
+
 void frmSCAN::close() {
   if (m_isStopped != nullptr)
     *m_isStopped = true;
@@ -478,11 +492,16 @@ void frmSCAN::recount() {
   showSheet();
 }
 
-QString frmSCAN::concerns(const ScannedTotals::Outcome& outcome) const {
+QString frmSCAN::concerns(const ScannedTotals::Outcome& outcome, ScannedTotals::Way way) const {
   QStringList lines;
+  const auto isThis = [this](const CheckedSheet& taken) { return m_scanned.sheet.isOneWith(taken); };
+  if (way == ScannedTotals::Way::Add && (outcome.isAgain || std::ranges::any_of(m_taken, isThis)))
+    lines << toQt(m_texts.text(kAddedBefore));
   const auto add = [&](int text, const QString& what) {
     lines << toQt(m_texts.withPlaceholder(text, fromQt(what)));
   };
+  if (!m_scanned.sheet.hasMarks())
+    lines << toQt(m_texts.text(kNoMark));
   if (const int open = m_scanned.sheet.openCells(); open > 0)
     add(kNobodyLooked, QString::number(open));
   if (!outcome.unknown.empty())
@@ -504,11 +523,12 @@ void frmSCAN::import(ScannedTotals::Way way) {
         toQt(withPlaceholders(m_texts.text(kTooMany), m_scanned.roster().player(outcome.tooMany)->name,
                               std::to_string(ManualTotals::kLargestCount))));
   }
-  const QString questions = concerns(outcome);
+  const QString questions = concerns(outcome, way);
   if (!questions.isEmpty() &&
       !m_dialogs.ask(this, title, questions + u"\n\n" + toQt(m_texts.text(kImportAllTheSame))))
     return;
   m_game.totals = outcome.totals;
+  m_taken.push_back(m_scanned.sheet);
   ++m_imported;
   emit imported(m_scanned.team());
   readNext();
@@ -527,7 +547,7 @@ void frmSCAN::showSheet() {
     m_teams->addItem(QStringLiteral("%1 - %2").arg(toQt(m_game.details().abbreviation[team]),
                                                    toQt(m_game.details().name[team])));
   m_teams->setCurrentIndex(m_scanned.team());
-  m_hint->clear();
+  m_hint->setText(m_scanned.sheet.hasMarks() ? QString() : toQt(m_texts.text(kNoMark)));
   m_table->showTotals();
   m_doubts->showDoubts();
   m_view->viewport()->update();

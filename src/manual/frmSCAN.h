@@ -44,6 +44,7 @@ class frmSCAN : public QWidget {
   // Behind those that wait already. A blank form is taken for that team's until the user says otherwise.
   void read(const QStringList& files, int team);
   bool isOpen() const { return m_isOpen; }
+  void beginGame();      // another one: nothing was imported into it yet
   int pagesLeft() const; // that are known of, the one in sight included
   void close();          // without a question
 
@@ -86,7 +87,8 @@ class frmSCAN : public QWidget {
   void assign(int player, int choice);
   void recount();
   void import(ScannedTotals::Way way);
-  [[nodiscard]] QString concerns(const ScannedTotals::Outcome& outcome) const; // empty: nothing to ask
+  [[nodiscard]] QString concerns(const ScannedTotals::Outcome& outcome,
+                                 ScannedTotals::Way way) const; // empty: nothing to ask
 
   [[nodiscard]] QString source() const; // file, page and sheet
   [[nodiscard]] QString playerWords(int player) const;
@@ -104,10 +106,12 @@ class frmSCAN : public QWidget {
   QStringList m_files; // those that wait; the first is being read
   int m_page = 0;      // of the first file
   int m_pagesInFile = 1;
+  std::shared_ptr<Result> m_reading; // being filled in the background
   std::shared_ptr<const Result> m_result;
   QStringList m_refusals;                         // that were not told yet
   std::shared_ptr<std::atomic<bool>> m_isStopped; // of the reading that runs
   ScannedTotals m_scanned;
+  std::vector<CheckedSheet> m_taken; // imported into this game, by this window
 
   QStackedWidget* m_pages = nullptr;
   QWidget* m_sheetPage = nullptr;

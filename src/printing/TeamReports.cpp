@@ -101,7 +101,7 @@ Report preparedForms(const TeamRecord& team, const std::vector<TeamPlayer>& play
   Report report = reportOf(text(texts, kPreparedForms), nameOf(team), texts);
   std::vector<const TeamPlayer*> able;
   for (const TeamPlayer& player : players) {
-    if (isJersey(player.number) && able.size() < FormLayout::kPlayers * FormLayout::kSheets)
+    if (isJersey(player.number) && able.size() < FormLayout::kPlayers * FormIdentifier::kMostSheets)
       able.push_back(&player);
   }
   const int sheets =

@@ -30,13 +30,36 @@ constexpr std::size_t kMostPlayers = 1000;
 constexpr std::size_t kLongestDetail = 40;
 
 enum Column : std::size_t { kNumber, kPosition, kName, kHeight, kWeight, kAge, kGrade, kColumns };
+// A name may come in two columns, which are never written.
+constexpr std::size_t kFirstName = kColumns;
+constexpr std::size_t kLastName = kColumns + 1;
+constexpr std::size_t kColumnsRead = kColumns + 2;
 // The header's name of each column; others by which people call it, and the number's caption elsewhere.
 constexpr std::array<int, kColumns> kHeaders = {1838, 1839, 1023, 1320, 1321, 1322, 1323};
 constexpr int kJerseyNumber = 1705;
-constexpr std::pair<std::string_view, Column> kOtherNames[] = {
-    {"no", kNumber},     {"no.", kNumber},      {"n°", kNumber},    {"nº", kNumber},     {"#", kNumber},
-    {"jersey", kNumber}, {"chandail", kNumber}, {"pos", kPosition}, {"pos.", kPosition}, {"name", kName},
-    {"player", kName},   {"nom", kName},        {"joueur", kName}};
+constexpr std::pair<std::string_view, std::size_t> kOtherNames[] = {{"no", kNumber},
+                                                                    {"no.", kNumber},
+                                                                    {"n°", kNumber},
+                                                                    {"nº", kNumber},
+                                                                    {"#", kNumber},
+                                                                    {"jersey", kNumber},
+                                                                    {"chandail", kNumber},
+                                                                    {"pos", kPosition},
+                                                                    {"pos.", kPosition},
+                                                                    {"name", kName},
+                                                                    {"player", kName},
+                                                                    {"nom", kName},
+                                                                    {"joueur", kName},
+                                                                    {"first name", kFirstName},
+                                                                    {"firstname", kFirstName},
+                                                                    {"given name", kFirstName},
+                                                                    {"prénom", kFirstName},
+                                                                    {"prenom", kFirstName},
+                                                                    {"last name", kLastName},
+                                                                    {"lastname", kLastName},
+                                                                    {"surname", kLastName},
+                                                                    {"family name", kLastName},
+                                                                    {"nom de famille", kLastName}};
 
 constexpr std::pair<std::string_view, int> kAbbreviations[] = {{"c", 0}, {"f", 1},  {"sf", 1}, {"pf", 1},
                                                                {"g", 2}, {"pg", 2}, {"sg", 2}};
@@ -45,11 +68,11 @@ bool isSame(std::string_view left, std::string_view right) {
   return codepage::equalNames(codepage::fromUtf8(left), codepage::fromUtf8(right));
 }
 
-std::optional<Column> columnOf(std::string_view cell, const Texts& texts) {
+std::optional<std::size_t> columnOf(std::string_view cell, const Texts& texts) {
   for (std::size_t column = 0; column < kColumns; ++column) {
     for (const Language language : {Language::English, Language::French}) {
       if (isSame(cell, texts.text(kHeaders[column], language)))
-        return static_cast<Column>(column);
+        return column;
     }
   }
   for (const Language language : {Language::English, Language::French}) {
@@ -85,18 +108,21 @@ std::optional<int> positionOf(std::string_view cell, const Texts& texts) {
 }
 
 // Where each column stands in the rows; nothing for one that is missing.
-using Places = std::array<std::optional<std::size_t>, kColumns>;
+using Places = std::array<std::optional<std::size_t>, kColumnsRead>;
 
 std::optional<Places> headerIn(const DelimitedRow& row, const Texts& texts) {
   Places places;
   std::size_t named = 0;
   for (std::size_t place = 0; place < row.fields.size(); ++place) {
-    const std::optional<Column> column = columnOf(row.fields[place], texts);
+    const std::optional<std::size_t> column = columnOf(row.fields[place], texts);
     if (!column || places[*column])
       continue;
     places[*column] = place;
     ++named;
   }
+  // Beside a first name, "name" is the last one.
+  if (places[kFirstName] && !places[kLastName])
+    std::swap(places[kLastName], places[kName]);
   return named < 2 ? std::nullopt : std::optional(places);
 }
 
@@ -127,10 +153,10 @@ class RowReader {
     const std::optional<int> position = positionOf(cell(row, kPosition), m_texts);
     if (!position)
       return refuse(kUnknownPosition, cell(row, kPosition));
-    TeamPlayer player{number,
-                      {*position, cell(row, kName), cell(row, kHeight), cell(row, kWeight), cell(row, kAge),
-                       cell(row, kGrade)},
-                      {}};
+    TeamPlayer player{
+        number,
+        {*position, name(row), cell(row, kHeight), cell(row, kWeight), cell(row, kAge), cell(row, kGrade)},
+        {}};
     if (player.record.name.empty())
       return refuse(kNoName, {});
     if (std::ranges::find(into.players, number, &TeamPlayer::number) != into.players.end())
@@ -145,7 +171,12 @@ class RowReader {
   }
 
  private:
-  std::string cell(const DelimitedRow& row, Column column) const {
+  std::string name(const DelimitedRow& row) const {
+    if (!m_places[kLastName])
+      return cell(row, kName);
+    return std::string(Module1::trimmed(cell(row, kFirstName) + ' ' + cell(row, kLastName)));
+  }
+  std::string cell(const DelimitedRow& row, std::size_t column) const {
     const std::optional<std::size_t> place = m_places[column];
     if (!place || *place >= row.fields.size())
       return {};
@@ -164,7 +195,7 @@ CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts) {
   if (rows.empty())
     return result;
   const std::optional<Places> header = headerIn(rows.front(), texts);
-  if (header && (!(*header)[kNumber] || !(*header)[kName])) {
+  if (header && (!(*header)[kNumber] || (!(*header)[kName] && !(*header)[kLastName]))) {
     result.problems.push_back({rows.front().line, kIncompleteHeader, {}});
     return result;
   }

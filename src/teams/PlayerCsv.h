@@ -1,6 +1,7 @@
 // Players as a table of text, for spreadsheets: number, position, name, height, weight, age, grade. Reads
 // what people have (comma, semicolon or tab; quoted fields; with or without a header row in either language)
-// and names each row that it leaves out. Works on UTF-8 text; knows no file and no window.
+// and names each row that it leaves out. A first and a last name in two columns are put together. Works on
+// UTF-8 text; knows no file and no window.
 #pragma once
 
 #include "storage/Texts.h"

@@ -32,7 +32,8 @@ constexpr int kLeftOut = 1833;
 constexpr int kAndMore = 1834;
 constexpr int kReplaceFile = 1836;
 constexpr int kNoPlayers = 1802;
-constexpr qsizetype kMostProblemsShown = 12;
+constexpr int kOthersNow = 2803;
+constexpr qsizetype kMostLinesShown = 12; // of each list
 
 // What the table does not say of a player stays as it is.
 PlayerFields withKept(PlayerFields fields, const CsvPlayers& read, const TeamSheet& sheet) {
@@ -90,26 +91,36 @@ bool PlayerExchange::take(QWidget* parent, TeamSheet& sheet, const QString& text
   QStringList problems;
   for (const CsvProblem& problem : read.problems)
     problems << toQt(problemText(problem, m_texts));
+  QStringList others; // players who are somebody else now, or have another number
   int taken = 0;
   for (const TeamPlayer& player : read.players) {
     const PlayerFields fields = withKept(fieldsOf(player), read, sheet);
+    const TeamSheet::Effect effect = sheet.target(fields).effect;
+    const QString words = toQt(sheet.announcement(fields, m_texts));
+    if (effect == TeamSheet::Effect::Renames || effect == TeamSheet::Effect::Renumbers)
+      others << words;
     if (sheet.put(fields) >= 0)
       ++taken;
     else
-      problems << toQt(sheet.announcement(fields, m_texts));
+      problems << words;
   }
 
   QString message = taken == 0 && problems.isEmpty()
                         ? toQt(m_texts.text(kNoPlayers))
                         : toQt(m_texts.withPlaceholder(kTaken, std::to_string(taken)));
-  if (!problems.isEmpty())
-    message += QStringLiteral("\n\n") + toQt(m_texts.text(kLeftOut));
-  for (const QString& problem : problems.mid(0, kMostProblemsShown))
-    message += QStringLiteral("\n• ") + problem;
-  if (problems.size() > kMostProblemsShown)
-    message += QStringLiteral("\n• ") +
-               toQt(m_texts.withPlaceholder(kAndMore, std::to_string(problems.size() - kMostProblemsShown)));
-  if (problems.isEmpty() && taken > 0)
+  const auto list = [&](int title, const QStringList& lines) {
+    if (lines.isEmpty())
+      return;
+    message += QStringLiteral("\n\n") + toQt(m_texts.text(title));
+    for (const QString& line : lines.mid(0, kMostLinesShown))
+      message += QStringLiteral("\n• ") + line;
+    if (lines.size() > kMostLinesShown)
+      message += QStringLiteral("\n• ") +
+                 toQt(m_texts.withPlaceholder(kAndMore, std::to_string(lines.size() - kMostLinesShown)));
+  };
+  list(kOthersNow, others);
+  list(kLeftOut, problems);
+  if (problems.isEmpty() && others.isEmpty() && taken > 0)
     m_dialogs.inform(parent, toQt(m_texts.text(kImportTip)), message);
   else
     m_dialogs.warn(parent, toQt(m_texts.text(kWarningTitle)), message);

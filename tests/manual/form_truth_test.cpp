@@ -36,6 +36,28 @@ INSTANTIATE_TEST_SUITE_P(Pens, FormTruthTest,
                            return name;
                          });
 
+// The lightest pencils that can be told from paper: what is read is right or doubtful, and most is read.
+TEST(LightPencilTest, NoMarkOfALightPencilIsLostWithoutAWord) {
+  const FormReader reader(layout());
+  int ticked = 0;
+  int found = 0;
+  int page = 1000;
+  for (const auto& [radius, darkness] : {std::pair{0.12, 0.4}, {0.18, 0.25}, {0.27, 0.2}}) {
+    const Pen pen{Pen::Kind::Pencil, radius, darkness, 0.4, 0.05};
+    const ScannedSheet sheet = scannedSheet(++page, layout(), pen);
+    const FormReading reading = reader.read(sheet.picture);
+    ASSERT_EQ(reading.problem, ScanProblem::None) << darkness;
+    for (std::size_t cell = 0; cell < sheet.cells.size(); ++cell) {
+      if (sheet.cells[cell] != CellTruth::Ticked)
+        continue;
+      ++ticked;
+      found += reading.cells[cell].isTicked ? 1 : 0;
+      EXPECT_TRUE(reading.cells[cell].isTicked || reading.cells[cell].isDoubtful) << darkness << ' ' << cell;
+    }
+  }
+  EXPECT_GT(found * 10, ticked * 9);
+}
+
 // A score that finds no fault in faulty readings would make everything above worthless.
 TEST(FormScoreTest, EveryKindOfFaultIsCounted) {
   ScannedSheet sheet;

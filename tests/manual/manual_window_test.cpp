@@ -227,6 +227,37 @@ TEST_F(ManualWindowTest, SwitchesTheTeamClearsItOnlyWhenAskedAndChecksTheFinalSc
   EXPECT_EQ(lines(), (std::vector<std::string>{"00:00,GFT,0-4", "00:00,GFT,0-4", "00:00,GPBA,1-11"}));
 }
 
+TEST_F(ManualWindowTest, TakesEveryChangeBackAndMakesItOnceMore) {
+  auto& undo = find<QPushButton>("cmdUNDO");
+  auto& redo = find<QPushButton>("cmdREDO");
+  EXPECT_FALSE(undo.isEnabled() || redo.isEnabled());
+  clickRow(2);
+  press("cmdBUTFT(0)", Qt::LeftButton, 2);
+  placeShot(40, 80, Qt::LeftButton);
+  find<QComboBox>("cmbTEAM").setCurrentIndex(1);
+  dialogs.nextAnswer = true;
+  press("cmdZERO");
+  EXPECT_FALSE(redo.isEnabled());
+  key(Qt::Key_Z, Qt::ControlModifier); // the clearing of the other team
+  press("cmdUNDO");                    // the shot: its team is shown again
+  EXPECT_EQ(find<QComboBox>("cmbTEAM").currentIndex(), 0);
+  EXPECT_EQ(shown("lblFT(2)"), "2");
+  EXPECT_EQ(shown("lblSCORE(0)"), "2");
+  key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(shown("lblFT(2)"), "1");
+  key(Qt::Key_Y, Qt::ControlModifier);
+  press("cmdREDO");
+  EXPECT_EQ(shown("lblSCORE(0)"), "4") << "with the shot";
+  press("cmdUNDO");
+  press("cmdUNDO");
+  press("cmdUNDO");
+  EXPECT_FALSE(undo.isEnabled());
+  EXPECT_FALSE(window->isWindowModified());
+  clickRow(1);
+  press("cmdBUTFT(0)");
+  EXPECT_FALSE(redo.isEnabled()) << "what was taken back is gone";
+}
+
 TEST_F(ManualWindowTest, LosesNothingWithoutAQuestion) {
   EXPECT_TRUE(window->agreesToClose());
   EXPECT_TRUE(dialogs.shown.empty());

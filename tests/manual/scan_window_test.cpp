@@ -91,7 +91,7 @@ TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
   first.tick(0, Kind::Missed, Counter::FGM, 3);
   first.tick(1, Kind::Made, Counter::F3M, 2, Qt::blue);
   first.tick(3, Kind::Count, Counter::PF, 4, Qt::red);
-  first.hint(2, Kind::Count, Counter::DR, 1);
+  first.hint(2, Kind::Count, Counter::DR, 0);
   first.hint(3, Kind::Made, Counter::FTM, 0);
   FilledForm second(prepared, 1);
   second.tick(2, Kind::Count, Counter::Ast, 14);
@@ -149,6 +149,13 @@ TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
   EXPECT_EQ(counted.players[0][7].counters[Counter::Ast], 14) << "00, not 0";
   EXPECT_EQ(counted.points(0), 5 * 2 + 2 * 3);
   EXPECT_EQ(counted.points(1), 0);
+
+  choose({file("two.bmp")});
+  ASSERT_TRUE(showsSheet());
+  press("cmdADDSCAN");
+  ASSERT_EQ(dialogs.shown.size(), 2u) << "the same sheet once more";
+  EXPECT_TRUE(dialogs.shown[1].text.contains(toQt(text(2795)))) << fromQt(dialogs.shown[1].text);
+  EXPECT_TRUE(showsSheet());
 }
 
 TEST_F(ScanWindowTest, LetsABlankSheetBeCorrectedByHandAndReplaceWhatWasThere) {
@@ -317,7 +324,7 @@ TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
       {file("dot.png"), text(1408)},
       {file("coarse.png"), text(1408)},
       {file("wide.png"), text(2305)},
-      {file("photo.jpg"), text(1225)},
+      {file("photo.jpg"), text(1225) + ". " + text(2791)},
       {file("theirs.bmp"), text(1236)},
   };
   std::vector<std::string> all;

@@ -226,6 +226,11 @@ TEST_F(ReportTextTest, FormsHoldEveryPlayerOnceAndATeamWithoutPlayersGetsASheet)
     }
   }
   EXPECT_EQ(jerseys, (std::vector<std::string>{"0", "00", "4", "12", "103"}));
+  players.assign(18, players.front());
+  const Report many = preparedForms(team, players, texts);
+  ASSERT_EQ(many.blocks.size(), 5U) << "as many sheets as it takes";
+  EXPECT_EQ(std::get<FormSheet>(many.blocks[4]).identifier.sheet, 4);
+  EXPECT_NE(std::get<FormSheet>(many.blocks[4]).jerseys[1], "");
   for (const Language language : {Language::English, Language::French}) {
     texts.setLanguage(language);
     EXPECT_EQ(blankForms(texts).blocks.size(), static_cast<std::size_t>(FormLayout::kSheets));

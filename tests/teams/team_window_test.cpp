@@ -408,8 +408,10 @@ TEST_F(TeamWindowTest, PlayersArePastedImportedAndExported) {
   // A table without a column leaves what stands in it.
   dialogs.nextSaveChoice = SaveChoice::Discard;
   choose(0);
-  QApplication::clipboard()->setText(QStringLiteral("Name,Number\nAnn,6\n"));
+  QApplication::clipboard()->setText(QStringLiteral("Name,Number\nAnn,6\nEve,8\n"));
   click("cmdPASTE");
+  EXPECT_TRUE(said().contains(toQt(texts.withPlaceholder(2803, ""))));
+  EXPECT_TRUE(said().contains(QStringLiteral("Eve in place of Dee"))) << fromQt(said());
   click("cmdSAVEEQUIPE");
   EXPECT_TRUE(holds("6=2,Ann,6ft,,,,")) << folder.read("CONFIG.INI");
   EXPECT_EQ(decodedText(QByteArray("\xFF\xFE"

@@ -36,8 +36,8 @@ const char* Hand::name(Mark mark) {
   return kNames[static_cast<std::size_t>(mark)];
 }
 
-Hand::Hand(Mark mark, Pen::Kind pen, Random& random)
-    : m_mark(mark), m_pen(Pen::some(pen, random)), m_size(real(random, 2.3, 3.7)), m_way(random.below(4)) {
+Hand::Hand(Mark mark, const Pen& pen, Random& random)
+    : m_mark(mark), m_pen(pen), m_size(real(random, 2.3, 3.7)), m_way(random.below(4)) {
   m_bias.x = real(random, -0.35, 0.35);
   m_bias.y = real(random, -0.35, 0.35);
   m_unrest = real(random, 0.08, 0.22);

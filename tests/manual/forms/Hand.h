@@ -12,7 +12,7 @@ class Hand {
   static constexpr int kMarks = 6;
   [[nodiscard]] static const char* name(Mark mark);
 
-  Hand(Mark mark, Pen::Kind pen, Random& random);
+  Hand(Mark mark, const Pen& pen, Random& random);
 
   void tick(PaperSheet& paper, const FormRect& cell, Random& random) const;
   // A mark that was rubbed out, or painted over where it cannot be: what is left of it.

@@ -104,16 +104,16 @@ class Filling {
 
 } // namespace
 
-ScannedSheet scannedSheet(int number, const FormLayout& layout) {
+ScannedSheet scannedSheet(int number, const FormLayout& layout, const std::optional<Pen>& pen) {
   Random random(static_cast<std::uint64_t>(number) + 1);
   ScannedSheet sheet;
   sheet.number = number;
   sheet.mark = static_cast<Hand::Mark>(number % Hand::kMarks);
-  sheet.pen = static_cast<Pen::Kind>(number / Hand::kMarks % Pen::kKinds);
+  sheet.pen = pen ? pen->kind : static_cast<Pen::Kind>(number / Hand::kMarks % Pen::kKinds);
   PrintedForm form = printForm(random);
   sheet.damages.add(Damage::Halftone, form.isHalftoned);
   sheet.identifier = form.identifier;
-  const Hand hand(sheet.mark, sheet.pen, random);
+  const Hand hand(sheet.mark, pen ? *pen : Pen::some(sheet.pen, random), random);
   Filling filling(form, layout, hand, random);
   sheet.cells = filling.fill(form.identifier.isPrepared);
   sheet.damages.add(Damage::TakenBack, filling.hasTakenBack());

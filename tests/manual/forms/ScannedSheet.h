@@ -5,6 +5,7 @@
 #include "manual/forms/Damage.h"
 #include "manual/forms/Hand.h"
 
+#include <optional>
 #include <vector>
 
 namespace hooptab {
@@ -22,8 +23,9 @@ struct ScannedSheet {
   Damages damages;
 };
 
-// The same page for the same number. All marks with all pens come in 24 pages that follow one another. Needs
-// a QGuiApplication.
-[[nodiscard]] ScannedSheet scannedSheet(int number, const FormLayout& layout);
+// The same page for the same number. All marks with all pens come in 24 pages that follow one another, unless
+// all is written with that one pen. Needs a QGuiApplication.
+[[nodiscard]] ScannedSheet scannedSheet(int number, const FormLayout& layout,
+                                        const std::optional<Pen>& pen = {});
 
 } // namespace hooptab
