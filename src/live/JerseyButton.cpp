@@ -54,6 +54,10 @@ void JerseyButton::setLook(const Look& look) {
   update();
 }
 
+QString playerMimeType() {
+  return QStringLiteral("application/x-hooptab-player-%1").arg(QCoreApplication::applicationPid());
+}
+
 void JerseyButton::mousePressEvent(QMouseEvent* event) {
   // Two buttons at once are no answer to anything.
   if (event->buttons() != Qt::LeftButton) {
@@ -73,7 +77,7 @@ void JerseyButton::mouseMoveEvent(QMouseEvent* event) {
   }
   setDown(false);
   auto* player = new QMimeData;
-  player->setData(QLatin1String(kPlayerMimeType), m_dragText.toUtf8());
+  player->setData(playerMimeType(), m_dragText.toUtf8());
   auto* drag = new QDrag(this);
   drag->setMimeData(player);
   drag->setPixmap(grab());

@@ -9,8 +9,9 @@
 
 namespace hooptab {
 
-// The data of a dragged player: "0-12", team and roster entry.
-inline constexpr const char* kPlayerMimeType = "application/x-hooptab-player";
+// The kind of data that a dragged player is: "0-12", team and roster entry. Of this program as it runs: in
+// another one the entry would be somebody else.
+[[nodiscard]] QString playerMimeType();
 
 class JerseyButton : public QAbstractButton {
  public:

@@ -658,12 +658,12 @@ void frmLIVE::applyColours() {
 }
 
 void frmLIVE::dragEnterEvent(QDragEnterEvent* event) {
-  if (event->mimeData()->hasFormat(QLatin1String(kPlayerMimeType)))
+  if (event->mimeData()->hasFormat(playerMimeType()))
     event->acceptProposedAction();
 }
 
 void frmLIVE::dropEvent(QDropEvent* event) {
-  const std::string dropped = event->mimeData()->data(QLatin1String(kPlayerMimeType)).toStdString();
+  const std::string dropped = event->mimeData()->data(playerMimeType()).toStdString();
   const int team = Module1::leadingNumber(Module1::field(dropped, 1, '-'));
   const int player = Module1::leadingNumber(Module1::field(dropped, 2, '-'));
   for (int slot = 0; slot < LiveGame::kSlots; ++slot) {

@@ -8,6 +8,7 @@
 #include "scorecard/ScorecardTexts.h"
 #include "storage/ChoiceTexts.h"
 #include "storage/EventWords.h"
+#include "storage/Glossary.h"
 #include "storage/Module1.h"
 #include "storage/RunningScore.h"
 
@@ -251,10 +252,11 @@ class ScoreDiagram {
 
 std::string shotCaption(const std::vector<Shot>& shots, const Texts& texts) {
   const ShotSummary summary = shotSummary(shots);
-  const auto part = [](const char* name, const ZoneSum& sum) {
-    return name + fractionText(sum) + kBlank + Module1::percentText(sum.made, sum.attempted);
+  const auto part = [](const std::string& name, const ZoneSum& sum) {
+    return name + "\u00A0" + fractionText(sum) + kBlank + Module1::percentText(sum.made, sum.attempted);
   };
-  std::string words = part("FG\u00A0", summary.twoPoints) + "   " + part("F3\u00A0", summary.threePoints);
+  std::string words =
+      part(kTwoPointers, summary.twoPoints) + "   " + part(kThreePointers, summary.threePoints);
   if (const ZoneSum sum = shotSums(shots).withoutPlace; sum.attempted > 0)
     words += "   " + fractionText(sum) + ' ' + text(texts, kWithoutPlace);
   return words;

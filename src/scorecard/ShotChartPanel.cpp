@@ -7,6 +7,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "scorecard/ScorecardTexts.h"
+#include "storage/Glossary.h"
 #include "storage/Module1.h"
 #include "storage/Settings.h"
 
@@ -174,8 +175,8 @@ void ShotChartPanel::showNumbers() {
   m_numbers->setText(coloured(QStringLiteral("●"), Theme::made()) + u' ' + caption(m_texts, kMadeShots) +
                      u' ' + QString::number(made) + gap + coloured(QStringLiteral("✕"), Theme::missed()) +
                      u' ' + caption(m_texts, kMissedShots) + u' ' + QString::number(missed) +
-                     QStringLiteral("<br>") + line(QStringLiteral("FG"), summary.twoPoints) + gap +
-                     line(QStringLiteral("F3"), summary.threePoints));
+                     QStringLiteral("<br>") + line(QLatin1String(kTwoPointers), summary.twoPoints) + gap +
+                     line(QLatin1String(kThreePointers), summary.threePoints));
 }
 
 void ShotChartPanel::applyColours() {

@@ -22,6 +22,7 @@ struct ShortCaption {
 };
 constexpr int kPrint = 1224;
 constexpr int kClose = 1294;
+constexpr int kMore = 2892;
 // clang-format off
 constexpr ShortCaption kShortCaptions[] = {
     {"VIEW", 1601}, {"VwREFRESH", 1602}, {"VwLIGNE", 1603}, {"VwMA", 1605},
@@ -62,6 +63,11 @@ CommandBar::CommandBar(QMainWindow& window) : QObject(&window), m_window(window)
   m_toolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it would only offer to hide the tool bar
   m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   m_toolBar->setFloatable(false);
+
+  m_moreMenu = new QMenu(&window);
+  m_moreMenu->setToolTipsVisible(true);
+  setTextNumber(*m_moreMenu->menuAction(), kMore);
+  setToolTipNumber(*m_moreMenu->menuAction(), kMore);
 
   // Drop-downs first, since an entry may stand in the table of one that is itself an entry.
   for (const Command& command : commands()) {
@@ -146,53 +152,98 @@ void CommandBar::show(const Modes& modes, const Texts& texts) {
       action.setStatusTip(action.toolTip());
     }
   }
+  m_moreMenu->menuAction()->setIcon(icon(QStringLiteral("more")));
   placeButtons(modes);
 }
 
 // Anew where another mode has begun or ended: an action that were hidden would be so in the menus, too.
 void CommandBar::placeButtons(const Modes& modes) {
-  QStringList keys;
-  for (const Command& command : commands()) {
-    if (hasButton(command, modes))
-      keys << toQt(command.key);
-  }
-  if (keys != m_buttons) {
-    m_buttons = keys;
-    m_toolBar->clear();
-    for (const Command& command : commands()) {
-      if (hasButton(command, modes))
-        addButton(command);
-    }
-  }
-  // The window in front has its commands in words; with none, those that lead to a first one have.
+  m_buttons.clear();
   m_worded.clear();
   m_wordedLast.clear();
+  m_others.clear();
   for (const Command& command : commands()) {
+    if (!hasButton(command, modes))
+      continue;
+    const QString key = toQt(command.key);
+    m_buttons << key;
+    // The window in front has its commands in words; with none, those that lead to a first one have.
     const bool isOfFront = command.group == modes.inFront ||
                            (command.group == CommandGroup::LiveOrManual &&
                             (modes.inFront == CommandGroup::Live || modes.inFront == CommandGroup::Manual));
+    if (!isOfFront && command.group != CommandGroup::Always)
+      m_others << key;
     if (!isOfFront || command.key == "SETTINGS" || command.key == "HELP")
       continue;
     const int words = shortCaption(command, stateOf(command, modes));
-    (words == kPrint || words == kClose ? m_wordedLast : m_worded) << toQt(command.key);
+    (words == kPrint || words == kClose ? m_wordedLast : m_worded) << key;
   }
-  showWords();
+  layOut();
 }
 
 void CommandBar::setRoom(int width) {
   m_room = width;
-  showWords();
+  layOut();
 }
 
-void CommandBar::showWords() {
+// What it is laid out by; nothing is to be done while it is the same.
+QStringList CommandBar::measures() const {
+  QStringList measures{QString::number(m_room), QString::number(m_toolBar->iconSize().width()),
+                       m_toolBar->font().toString()};
+  for (const QString& key : m_buttons)
+    measures << m_actions.value(key)->iconText() << QString::number(m_worded.contains(key))
+             << QString::number(m_others.contains(key));
+  return measures;
+}
+
+void CommandBar::layOut() {
+  const QStringList now = measures();
+  if (now == m_laidOut)
+    return;
+  m_laidOut = now;
+  putIn(m_buttons);
   for (const QStringList& worded : {m_worded + m_wordedLast, m_worded, QStringList()}) {
-    for (const QString& key : m_buttons) {
-      if (auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(m_actions.value(key))))
-        button->setToolButtonStyle(worded.contains(key) ? Qt::ToolButtonTextBesideIcon
-                                                        : Qt::ToolButtonIconOnly);
-    }
-    if (m_room <= 0 || m_toolBar->sizeHint().width() <= m_room)
+    showWords(worded);
+    if (fits())
       return;
+  }
+  // Commands of windows behind the one in front, the last first.
+  QStringList shown = m_buttons;
+  for (qsizetype last = m_others.size(); last > 0 && !fits(); --last) {
+    shown.removeOne(m_others[last - 1]);
+    putIn(shown);
+    showWords({});
+  }
+}
+
+bool CommandBar::fits() const {
+  return m_room <= 0 || m_toolBar->sizeHint().width() <= m_room;
+}
+
+// The others stand in a menu at the end.
+void CommandBar::putIn(const QStringList& keys) {
+  m_toolBar->clear();
+  m_moreMenu->clear();
+  for (const Command& command : commands()) {
+    const QString key = toQt(command.key);
+    if (keys.contains(key))
+      addButton(command);
+    else if (m_buttons.contains(key))
+      m_moreMenu->addAction(m_actions.value(key));
+  }
+  if (m_moreMenu->isEmpty())
+    return;
+  m_toolBar->addAction(m_moreMenu->menuAction());
+  auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(m_moreMenu->menuAction()));
+  button->setObjectName(QStringLiteral("button_MORE"));
+  button->setPopupMode(QToolButton::InstantPopup);
+  button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+}
+
+void CommandBar::showWords(const QStringList& keys) {
+  for (const QString& key : m_buttons) {
+    if (auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(m_actions.value(key))))
+      button->setToolButtonStyle(keys.contains(key) ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
   }
 }
 

@@ -44,15 +44,22 @@ class CommandBar : public QObject {
   QAction* makeAction(const Command& command);
   void addButton(const Command& command);
   void placeButtons(const Modes& modes);
-  void showWords();
+  void layOut();
+  [[nodiscard]] QStringList measures() const;
+  [[nodiscard]] bool fits() const;
+  void putIn(const QStringList& keys);
+  void showWords(const QStringList& keys);
 
   QMainWindow& m_window;
   QToolBar* m_toolBar = nullptr;
   QHash<QString, QAction*> m_actions;
-  QStringList m_buttons;    // keys of those in the tool bar
+  QMenu* m_moreMenu = nullptr;
+  QStringList m_buttons;    // keys of those for the tool bar
+  QStringList m_others;     // of those that belong to windows behind the one in front
   QStringList m_worded;     // of those whose words stand beside them, where there is room
   QStringList m_wordedLast; // the same, where there is more
   int m_room = 0;
+  QStringList m_laidOut; // measures() when it was done last
   QHash<QString, QMenu*> m_dropDowns;
 };
 

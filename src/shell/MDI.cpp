@@ -36,6 +36,7 @@
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -192,6 +193,7 @@ MDI::MDI(const Workshop& workshop)
   m_keypad.take(m_workshop.memory.keyChoices());
   relabelEverything();
   restorePlace();
+  qApp->installEventFilter(this);
 }
 
 // Menu and tools in one row, which leaves a line more to what is recorded.
@@ -214,6 +216,19 @@ void MDI::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   applyMeasure();
   showRoom();
+}
+
+// A text field would take the key of the teams for a move to the end of its line.
+bool MDI::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() != QEvent::ShortcutOverride)
+    return QMainWindow::eventFilter(object, event);
+  const auto* widget = qobject_cast<const QWidget*>(object);
+  const auto* key = static_cast<const QKeyEvent*>(event);
+  if (widget == nullptr || widget->window() != this ||
+      m_commands->action("gEQUIPE").shortcut() != QKeySequence(key->keyCombination()))
+    return false;
+  event->ignore();
+  return true;
 }
 
 void MDI::showRoom() {

@@ -96,7 +96,7 @@ MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const C
   // Entries get theirs when they are shown: captions change with what they stand for.
   for (const QMenu* menu : window.findChildren<QMenu*>() + bar.findChildren<QMenu*>())
     connect(menu, &QMenu::aboutToShow, this, [menu] { giveMnemonics(menu->actions()); });
-  connect(new QShortcut(Qt::Key_F10, &window), &QShortcut::activated, this,
+  connect(new QShortcut(QKeySequence(QStringLiteral("F10")), &window), &QShortcut::activated, this,
           [this] { m_bar.setActiveAction(m_bar.actions().constFirst()); });
 }
 

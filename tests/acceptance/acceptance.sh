@@ -34,15 +34,15 @@ until_true "the scorecard of the sample game opens" window_named "$title" || { c
 until_true "a first start writes the settings" says CONFIG.INI 'LANGUE=0'
 until_true "a first start writes the teams" says CONFIG.INI 'LYNX,AAA'
 
-# One instance a folder: the second says so, and ends when that is read.
-"$program" --folder "$work/home" >>"$work/log" 2>&1 &
-second=$!
-started+=($second)
-sleep 1
-xdotool search --sync --onlyvisible --pid "$second" >/dev/null 2>&1
-xdotool key Return
-until_true "a second instance ends" is_gone "$second"
+# One instance a folder: the second leaves its games to it. Without a display there is one sentence, and no window.
+"$program" --folder "$work/home" "$other" >>"$work/log" 2>&1 || fail "a second instance hands its game over"
+second_title="$(abbreviation "$other" 0) [0-9]+ - [0-9]+ $(abbreviation "$other" 1)"
+until_true "the running one opens it" window_named "$second_title"
+"$program" --folder "$work/home" "$game" >>"$work/log" 2>&1 || fail "a third instance hands its game over"
+until_true "a game that is open comes to the front" window_named "$title"
 is_gone "$running" && fail "the first instance lives on"
+env -u DISPLAY -u WAYLAND_DISPLAY "$program" --folder "$work/home" >/dev/null 2>"$work/said"
+[ $? -eq 2 ] && [ "$(wc -l <"$work/said")" -eq 1 ] || fail "one sentence and status 2 without a display"
 
 # Of the running program alone: the window of one that ends just now has the same title.
 main_window() { xdotool search --all --onlyvisible --pid "$running" --name 'HOOPTAB Basketball' | head -n 1 | grep .; }

@@ -511,7 +511,7 @@ TEST_F(LiveWindowTest, TheBenchActsByClickAndDropAndAllAtOnce) {
 
   const auto drop = [this](const char* player, const char* panel) {
     QMimeData data;
-    data.setData(QLatin1String(kPlayerMimeType), player);
+    data.setData(playerMimeType(), player);
     const QWidget& target = find(panel);
     const QPoint place = target.mapTo(window.get(), target.rect().center());
     QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
@@ -520,6 +520,12 @@ TEST_F(LiveWindowTest, TheBenchActsByClickAndDropAndAllAtOnce) {
     QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(window.get(), &event);
   };
+  QMimeData ofAnotherProgram;
+  ofAnotherProgram.setData(QStringLiteral("application/x-hooptab-player-0"), "0-6");
+  QDragEnterEvent stranger({10, 10}, Qt::CopyAction, &ofAnotherProgram, Qt::LeftButton, {});
+  stranger.ignore();
+  QApplication::sendEvent(window.get(), &stranger);
+  EXPECT_FALSE(stranger.isAccepted()) << "there the entry is somebody else's";
   for (const char* wrong : {"1-6", "0-99", "", "0-", "-1-1", "2-3", "nonsense"})
     drop(wrong, "fraPLAYER(0)");
   EXPECT_EQ(events(), "10:00,STF,0-20");

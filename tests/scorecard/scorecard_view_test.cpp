@@ -49,10 +49,12 @@ TEST_F(ScorecardViewTest, EverybodyIsCheckedAtFirstAndAMarkDecidesOverChartAndTo
   EXPECT_EQ(view.checkMark(total()), CheckMark::Some);
   EXPECT_EQ(view.shots().size(), 2U);
   EXPECT_EQ(total().numbers.points(), 2);
+  EXPECT_EQ(total().name, "Selected (3)");
   EXPECT_EQ(total().numbers.counters[Counter::PF], 0) << "both fouls were number 12's";
 
   view.setScope(Scope::All);
   EXPECT_EQ(view.shots().size(), 3U);
+  EXPECT_EQ(total().name, "TOTAL");
   EXPECT_EQ(total().numbers.points(), 4);
   EXPECT_EQ(view.checkMark(rowOf("12")), CheckMark::None) << "the mark itself stays";
 }

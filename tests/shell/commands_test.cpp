@@ -124,6 +124,8 @@ TEST(CommandState, WhatIsOnIsCheckedOrShowsTheWayBack) {
   }
   EXPECT_TRUE(state("VwREFSEC30", {.refreshSeconds = 30}).isChecked);
   EXPECT_TRUE(state("VwREFSEC00", {}).isChecked);
+  EXPECT_EQ(state("VwREFRESH", {.refreshSeconds = 30}).icon, "vwrefsec30") << "it is seen that it goes on";
+  EXPECT_EQ(state("saveMANUAL", {.inFront = CommandGroup::Season, .hasManual = true}).shortcut, "");
 }
 
 } // namespace

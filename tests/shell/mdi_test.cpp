@@ -43,6 +43,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QSet>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -306,14 +307,53 @@ TEST_F(MainWindowTest, EveryCommandStandsInTheMenusAndIsDisabledUntilItsWindowEx
   }
 }
 
+TEST_F(MainWindowTest, MenusHaveLettersThatNoWindowTakesFromThem) {
+  const auto letterOf = [](const QString& text) {
+    const qsizetype place = text.indexOf(u'&');
+    return place < 0 ? QChar() : text[place + 1].toLower();
+  };
+  action("gEQUIPE").trigger();
+  for (int language = 0; language < 2; ++language) {
+    QSet<QChar> letters;
+    const QList<QAction*> menus = window->findChild<QMenuBar*>(QStringLiteral("menuBar"))->actions();
+    for (const QAction* menu : menus)
+      letters << letterOf(menu->text());
+    EXPECT_EQ(letters.size(), menus.size());
+    EXPECT_TRUE(letters.contains(u'f') && !letters.contains(QChar()));
+    int own = 0;
+    for (const QPushButton* button : area().findChild<frmEQUIPES*>()->findChildren<QPushButton*>()) {
+      EXPECT_FALSE(letters.contains(letterOf(button->text()))) << fromQt(button->text());
+      own += letterOf(button->text()).isNull() ? 0 : 1;
+    }
+    EXPECT_GT(own, 5);
+    QMenu& file = *menus[0]->menu();
+    emit file.aboutToShow();
+    EXPECT_FALSE(letterOf(action("VwOPEN").text()).isNull());
+    action("tbLANGUE").trigger();
+  }
+  QTest::keyClick(window.get(), Qt::Key_F10);
+  EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+
+  // A text field leaves the key of the teams to the window.
+  auto* field = area().findChild<frmEQUIPES*>()->findChild<QLineEdit*>(QStringLiteral("txtABB"));
+  QKeyEvent key(QEvent::ShortcutOverride, Qt::Key_E, Qt::ControlModifier);
+  key.ignore();
+  QApplication::sendEvent(field, &key);
+  EXPECT_FALSE(key.isAccepted());
+}
+
 // Menus and tools in one row, in every mode.
 TEST_F(MainWindowTest, ShowsMenusAndToolsInOneRowOfASmallScreenInBothLanguages) {
   const auto fits = [this](const char* mode) {
-    for (int language = 0; language < 2; ++language) {
-      QTest::qWait(1); // one turn of the event loop lays out
-      EXPECT_LE(window->findChild<QWidget*>(QStringLiteral("top"))->sizeHint().width(), 1366)
-          << mode << " in language " << language;
-      action("tbLANGUE").trigger();
+    for (const int width : {1366, 1024}) {
+      window->resize(width, 768);
+      for (int language = 0; language < 2; ++language) {
+        QTest::qWait(1); // one turn of the event loop lays out
+        EXPECT_LE(window->findChild<QWidget*>(QStringLiteral("top"))->sizeHint().width(), width)
+            << mode << " in language " << language;
+        action("tbLANGUE").trigger();
+      }
     }
   };
   fits("none");
@@ -327,6 +367,9 @@ TEST_F(MainWindowTest, ShowsMenusAndToolsInOneRowOfASmallScreenInBothLanguages) 
   dialogs.nextFile = makeGame("three.GAM");
   action("VwOPEN").trigger();
   fits("scorecard in front of live and season");
+  auto* more = window->findChild<QToolButton*>(QStringLiteral("button_MORE"));
+  ASSERT_NE(more, nullptr) << "the window is 1024 wide";
+  EXPECT_TRUE(more->defaultAction()->menu()->actions().contains(&action("CLOSELIVEMANUAL")));
 }
 
 TEST_F(MainWindowTest, OpensAGameByKeyAndServesItsScorecard) {
