@@ -283,9 +283,9 @@ void frmSTATS::startWork(int one, int text, std::function<BackgroundWork::Delive
 void frmSTATS::showProgress() {
   const bool isScan = m_progressText == kLoadingGames;
   const std::size_t found = isScan ? m_watch->filesFound.load() : m_progressCount;
-  m_folder->showProgress(toQt(countWords(found, m_progressOne, m_progressText, m_texts)),
-                         isScan ? static_cast<int>(m_watch->filesRead) : 0,
-                         isScan ? static_cast<int>(found) : 0);
+  m_folder->showProgress(
+      toQt(m_texts.withPlaceholder(found == 1 ? m_progressOne : m_progressText, std::to_string(found))),
+      isScan ? static_cast<int>(m_watch->filesRead) : 0, isScan ? static_cast<int>(found) : 0);
 }
 
 void frmSTATS::endWork() {

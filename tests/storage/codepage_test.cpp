@@ -1,7 +1,10 @@
 #include "storage/NameOrder.h"
 #include "storage/codepage.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 namespace hooptab::codepage {
 namespace {
