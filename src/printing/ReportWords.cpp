@@ -48,8 +48,8 @@ void keepBest(Report& report, std::size_t most, const Texts& texts) {
     auto* table = std::get_if<ReportTable>(&block);
     if (table == nullptr || !table->isRanked || table->rows.size() <= most)
       continue;
-    const std::string words = Module1::withPlaceholder(
-        texts.withPlaceholder(kFirstRows, std::to_string(most)), std::to_string(table->rows.size()), "YYY");
+    const std::string words =
+        withPlaceholders(texts.text(kFirstRows), std::to_string(most), std::to_string(table->rows.size()));
     table->title += (table->title.empty() ? "" : " – ") + words;
     std::size_t place = 0;
     std::erase_if(table->rows, [&](const ReportRow& row) {

@@ -5,6 +5,7 @@
 #include "scorecard/ScorecardTexts.h"
 #include "season/SeasonTexts.h"
 #include "storage/Module1.h"
+#include "storage/Placeholders.h"
 
 #include <algorithm>
 #include <utility>
@@ -58,16 +59,21 @@ std::string markWords(const Qualification& minimum, SeasonTable table, SeasonVie
 }
 
 std::string minimumWords(const Qualification& minimum, SeasonView view, const Texts& texts) {
-  std::string words;
+  int text = kMinimumOfTotals;
+  int least = 0;
   switch (view) {
-  case SeasonView::Totals: words = texts.text(kMinimumOfTotals); break;
+  case SeasonView::Totals: break;
   case SeasonView::PerGame:
-    words = texts.withPlaceholder(kMinimumPerGame, std::to_string(minimum.gamesPercent));
+    text = kMinimumPerGame;
+    least = minimum.gamesPercent;
     break;
   case SeasonView::PerMinute:
-  case SeasonView::PerForty: words = texts.withPlaceholder(kMinimumPerTime, std::to_string(minimum.minutes));
+  case SeasonView::PerForty:
+    text = kMinimumPerTime;
+    least = minimum.minutes;
+    break;
   }
-  return Module1::withPlaceholder(words, std::to_string(minimum.attempts), "YYY");
+  return withPlaceholders(texts.text(text), std::to_string(least), std::to_string(minimum.attempts));
 }
 
 std::string copyWords(const GameCatalogue& catalogue, const ListedGame& game, const Texts& texts) {
