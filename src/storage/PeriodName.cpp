@@ -11,8 +11,7 @@ constexpr int kOvertime = 1022;
 std::string periodName(int period, int regularPeriods, const Texts& texts) {
   if (regularPeriods < 1 || period <= regularPeriods)
     return std::to_string(period);
-  const int overtime = period - regularPeriods;
-  return std::string(texts.text(kOvertime)) + (overtime == 1 ? "" : std::to_string(overtime));
+  return std::string(texts.text(kOvertime)) + std::to_string(period - regularPeriods);
 }
 
 } // namespace hooptab

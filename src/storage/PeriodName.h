@@ -7,7 +7,7 @@
 
 namespace hooptab {
 
-// "3"; behind the regular periods "OT", "OT2". A game without regular periods has no overtime.
+// "3"; behind the regular periods "OT1", "OT2". A game without regular periods has no overtime.
 [[nodiscard]] std::string periodName(int period, int regularPeriods, const Texts& texts);
 
 } // namespace hooptab

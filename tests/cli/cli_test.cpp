@@ -126,13 +126,13 @@ TEST_F(Cli, BoxIsATableAlignedByCharacters) {
   EXPECT_EQ(english.output, R"(PAN 4 - 4 OLY
 2026-03-01 - Season - Gymnase Côté
 
-Points by Period  1  2  OT  TOTAL
-PAN               2  2   0      4
-OLY               3  0   1      4
+Points by Period  1  2  OT1  TOTAL
+PAN               2  2    0      4
+OLY               3  0    1      4
 
-Fouls  1  2  OT  TOTAL
-PAN    0  0   0      0
-OLY    0  1   0      1
+Fouls  1  2  OT1  TOTAL
+PAN    0  0    0      0
+OLY    0  1    0      1
 
 Time in Lead   Time  times
 PAN           11:00      2
@@ -154,7 +154,7 @@ No  Player Name  Pos     Time  PTS  M/A       %   FG   F3   FT  OR  DR  Ast  BS 
 )");
   const std::string file = quoted(m_folder.path("g.GAM"));
   const Outcome french = run("box --lang fr " + file);
-  for (const char* word : {"Saison", "PROL.", "Fautes", "À égalité", "Nom du joueur", "Ailier", "Ren."})
+  for (const char* word : {"Saison", "PROL.1", "Fautes", "À égalité", "Nom du joueur", "Ailier", "Ren."})
     EXPECT_TRUE(holds(french.output, word)) << word << '\n' << french.output;
   EXPECT_EQ(run("box " + file, "LC_ALL= LANG=fr_CA.UTF-8").output, french.output);
   EXPECT_EQ(run("box --lang=en " + file, "LC_ALL=fr_CA").output, english.output);
@@ -287,7 +287,7 @@ TEST_F(Cli, EventsAreToldInWordsAndNeverCommandTheTerminal) {
   for (const char* line : {" 3       1  09:00  PAN 4 Zoé Cœur: 2 points made\n",
                            " 5       1  07:00  [deleted] PAN 4 Zoé Cœur: personal foul\n",
                            " 7       1         [Cannot be understood] what?[31m\n",
-                           " 8       1  00:00  STOP\n", "14      OT  04:00  OLY 7 Ida: free throw made\n"})
+                           " 8       1  00:00  STOP\n", "14     OT1  04:00  OLY 7 Ida: free throw made\n"})
     EXPECT_TRUE(holds(outcome.output, line)) << line << outcome.output;
   EXPECT_TRUE(holds(run("events --lang fr " + quoted(m_folder.path("g.GAM"))).output,
                     "[supprimé] PAN 4 Zoé Cœur : faute personnelle"));

@@ -44,7 +44,7 @@ TEST_F(ScoreTextTest, SaysPeriodClockAndWhatTheButtonDoes) {
   EXPECT_EQ(live.phase(), Phase::OvertimeAsked);
   EXPECT_EQ(shown(), "4 00:00 START") << "which asks for the overtime again";
   ASSERT_TRUE(live.beginOvertime(5, true));
-  EXPECT_EQ(shown(), "OT 05:00 START");
+  EXPECT_EQ(shown(), "OT1 05:00 START");
   EXPECT_EQ(shownByPeriod(live, 0, ByPeriod::Points, texts), "1: 0   2: 0   3: 0   4: 1   OT: 0");
   texts.setLanguage(Language::French);
   EXPECT_EQ(shown(), "PROL. 05:00 DÉPART");

@@ -81,7 +81,7 @@ TEST(EventWords, ShowClockAndPeriod) {
   EXPECT_EQ(words.clock(0), "09:05");
   EXPECT_EQ(words.clock(1), "");
   EXPECT_EQ(words.periodText(4), "4");
-  EXPECT_EQ(words.periodText(5) + " " + words.periodText(6), "OT OT2");
+  EXPECT_EQ(words.periodText(5) + " " + words.periodText(6), "OT1 OT2");
   texts.setLanguage(Language::French);
   EXPECT_EQ(words.periodText(6), "PROL.2");
 
