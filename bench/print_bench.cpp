@@ -102,11 +102,10 @@ class PaintWatch : public QObject {
   }
 };
 
-void measurePreview(const Texts& texts, const Settings& settings, FileSystem& files,
-                    const std::function<Report()>& make) {
+void measurePreview(const Texts& texts, FileSystem& files, const std::function<Report()>& make) {
   QtDialogs dialogs;
   NoPrinters printers;
-  ReportOutput output(texts, dialogs, files, settings);
+  ReportOutput output(texts, dialogs, files);
   frmprint window(texts, dialogs, printers, output);
   window.resize(1366, 700);
   window.offer({{[] { return std::string("empty"); }, [] { return Report(); }}});
@@ -177,6 +176,6 @@ int main(int argc, char** argv) {
   measure("its players to PDF", [&] { return reportPdf(season(), kFormat).size(); });
   measure("its players to a workbook", [&] { return reportXlsx(season()).value_or("").size(); });
   measure("its players to a web page", [&] { return reportHtml(season(), "en", picturePng).size(); });
-  measurePreview(texts, settings, files, season);
+  measurePreview(texts, files, season);
   return EXIT_SUCCESS;
 }

@@ -416,6 +416,8 @@ MarkSearch findMarks(const FormLayout& layout, const GrayPicture& picture, const
     result.problem = ScanProblem::Cancelled;
     return result;
   }
+  constexpr std::size_t kSolid = 3;
+  result.showsSquares = seen->solid.size() >= kSolid;
   const auto sets = MarkSets(layout, *seen, look).find();
   for (const auto& set : sets) {
     if (set.count() < 4)

@@ -20,6 +20,7 @@ struct MarkSet {
 struct MarkSearch {
   std::vector<MarkSet> sets;               // that can be, the best first
   ScanProblem problem = ScanProblem::None; // when there are none
+  bool showsSquares = false;               // enough of them for a form, however it lies
 };
 
 using ScanProgress = std::function<bool(double)>; // the part done, 0 to 1; false stops

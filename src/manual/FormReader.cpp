@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <span>
 
 namespace hooptab {
 
@@ -101,9 +102,12 @@ PicturePoint FormReading::inPicture(double x, double y) const {
 }
 
 FormReading FormReader::read(const GrayPicture& picture, const Progress& progress) const {
-  // In the order in which paper comes to lie: a broad picture is a page on its side.
-  const bool isBroad = picture.width > picture.height;
-  const std::array<int, 4> ways = isBroad ? std::array{1, 3, 0, 2} : std::array{0, 2, 1, 3};
+  // In the order in which paper comes to lie: a broad picture is a page on its side, or a photo of one that
+  // stands; in a high one a page on its side would be too small to read.
+  constexpr std::array kBroad = {1, 3, 0, 2};
+  constexpr std::array kHigh = {0, 2};
+  const std::span<const int> ways =
+      picture.width > picture.height ? std::span<const int>(kBroad) : std::span<const int>(kHigh);
   FormReading asItCame;
   int farthest = 0; // progress never goes back
   const Progress onwards = [&](int percent) {
@@ -113,7 +117,8 @@ FormReading FormReader::read(const GrayPicture& picture, const Progress& progres
   for (const int way : ways) {
     FormReading reading = readUpright(way == 0 ? picture : turned(picture, way), onwards);
     reading.quarters = way;
-    if (adviceFor(reading.problem) == 0) // else another side up may make it a form
+    // Another side up may make it a form, where there are the squares of one.
+    if (adviceFor(reading.problem) == 0 || !reading.showsSquares)
       return reading;
     if (way == 0)
       asItCame = std::move(reading);
@@ -154,6 +159,7 @@ FormReading FormReader::readUpright(const GrayPicture& picture, const Progress& 
   const GrayPicture& page = factor > 1 ? smaller : picture;
 
   const MarkSearch search = findMarks(m_layout, page, [&](double part) { return goesOn(40 * part); });
+  result.showsSquares = search.showsSquares;
   if (search.problem != ScanProblem::None)
     return refused(search.problem);
 

@@ -44,6 +44,7 @@ struct FormReading {
   // By how many quarters the picture is to be turned clockwise so that it stands upright; all places are in
   // the upright one.
   int quarters = 0;
+  bool showsSquares = false; // as a form has them; without, turning it is of no use
   // Where a point of the layout (millimetres) lies in it. Projective, so straight lines stay so.
   double toPicture[9] = {};
   [[nodiscard]] PicturePoint inPicture(double x, double y) const;
