@@ -45,17 +45,17 @@ TEST_F(ScoreTextTest, SaysPeriodClockAndWhatTheButtonDoes) {
   EXPECT_EQ(shown(), "4 00:00 START") << "which asks for the overtime again";
   ASSERT_TRUE(live.beginOvertime(5, true));
   EXPECT_EQ(shown(), "OT1 05:00 START");
-  EXPECT_EQ(shownByPeriod(live, 0, ByPeriod::Points, texts), "1: 0   2: 0   3: 0   4: 1   OT: 0");
+  EXPECT_EQ(shownByPeriod(live, 0, ByPeriod::Points, texts), "1: 0   2: 0   3: 0   4: 1   OT1: 0");
   texts.setLanguage(Language::French);
-  EXPECT_EQ(shown(), "PROL. 05:00 DÉPART");
+  EXPECT_EQ(shown(), "PROL.1 05:00 DÉPART");
   time.now += 4; // behind the horn
   live.start();
   ASSERT_TRUE(live.recordShot(1, 1, EventCode::GFT, true));
   ASSERT_TRUE(live.recordAction(1, 1, EventCode::STF));
   time.now += 300;
   live.tick();
-  EXPECT_EQ(shown(), "PROL. 00:00 ---");
-  EXPECT_EQ(shownByPeriod(live, 1, ByPeriod::Fouls, texts), "1: 0   2: 0   3: 0   4: 0   PROL.: 1");
+  EXPECT_EQ(shown(), "PROL.1 00:00 ---");
+  EXPECT_EQ(shownByPeriod(live, 1, ByPeriod::Fouls, texts), "1: 0   2: 0   3: 0   4: 0   PROL.1: 1");
   live.finish("");
   EXPECT_EQ(startShown(live, texts), "---");
 }

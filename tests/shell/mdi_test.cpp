@@ -747,6 +747,7 @@ TEST_F(MainWindowTest, OpensOneSeasonWindowWhoseGamesBecomeScorecards) {
   action("stPRINT").trigger();
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_EQ(dialogs.shown[0].text, text(2146));
+  dialogs.nextAnswer = true; // the game is not whole
   season.findChild<QAbstractButton*>(QStringLiteral("cmdGENERATE"))->click();
   ASSERT_TRUE(QTest::qWaitFor([&] { return !season.isBusy() && season.statistics(); }));
   action("stRAPLIGNE").trigger();

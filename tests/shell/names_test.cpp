@@ -144,6 +144,7 @@ class NamesTest : public testing::Test {
     const auto wait = [&] { return QTest::qWaitFor([&] { return !window.isBusy(); }, 60000); };
     window.readFolder(toQt(games.path()), false);
     ASSERT_TRUE(wait());
+    dialogs.nextAnswer = true; // the game is not whole
     window.findChild<QAbstractButton*>(QStringLiteral("cmdGENERATE"))->click();
     ASSERT_TRUE(wait());
     emit window.findChild<SeasonTableView*>(QStringLiteral("lvwSTATjoueurs(0)"))->rowAsked(0);
