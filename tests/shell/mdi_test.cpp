@@ -750,6 +750,7 @@ TEST_F(MainWindowTest, OpensOneSeasonWindowWhoseGamesBecomeScorecards) {
   dialogs.nextAnswer = true; // the game is not whole
   season.findChild<QAbstractButton*>(QStringLiteral("cmdGENERATE"))->click();
   ASSERT_TRUE(QTest::qWaitFor([&] { return !season.isBusy() && season.statistics(); }));
+  dialogs.shown.pop_back(); // the question
   action("stRAPLIGNE").trigger();
   ASSERT_EQ(dialogs.shown.size(), 2U);
   EXPECT_EQ(dialogs.shown[1].text, text(2135)) << "no line is chosen";
