@@ -58,7 +58,7 @@ class EventCheck {
       if (!event.isUnderstood)
         name(whyNotUnderstood(event));
       else if (isOfTotals())
-        checkRoster(event);
+        checkOfTotals(event);
       else
         check(event);
     }
@@ -83,6 +83,10 @@ class EventCheck {
   }
 
   void enterSection(int period);
+  void checkOfTotals(const GameEvent& event) {
+    if (!event.isClock())
+      playerOf(event);
+  }
   void check(const GameEvent& event);
   void endPeriod(bool isLast);
   void finish();
@@ -91,7 +95,7 @@ class EventCheck {
   [[nodiscard]] const GameEvent* next() const;
   void nameSwapped(const GameEvent& before, const GameEvent& behind);
   void checkBurst(const GameEvent& event);
-  bool checkRoster(const GameEvent& event);
+  const RosterPlayer* playerOf(const GameEvent& event);
   void checkAction(const GameEvent& event);
   void checkFoul(const GameEvent& event);
   void checkAssist(const GameEvent& event);
@@ -196,15 +200,17 @@ void EventCheck::finish() {
 void EventCheck::checkClock(const GameEvent& event, bool isFirst) {
   const bool isRegular = event.period <= m_game.details.periods;
   const int length = m_game.details.minutesPerPeriod * 60;
-  const std::string clock = Module1::clockText(event.clockSeconds);
   if (isRegular && hasTime() && event.clockSeconds > length)
-    return name(
-        {.kind = FindingKind::ClockAbovePeriod, .subject = clock, .found = Module1::clockText(length)});
+    return name({.kind = FindingKind::ClockAbovePeriod,
+                 .subject = Module1::clockText(event.clockSeconds),
+                 .found = Module1::clockText(length)});
   if (isFirst || event.clockSeconds <= m_clock)
     return;
   if (isSwapped(event))
     return nameSwapped(m_game.events[m_last], event);
-  name({.kind = FindingKind::ClockRises, .subject = Module1::clockText(m_clock), .found = clock});
+  name({.kind = FindingKind::ClockRises,
+        .subject = Module1::clockText(m_clock),
+        .found = Module1::clockText(event.clockSeconds)});
 }
 
 // Whether all would be in order with this event and the one before it exchanged.
@@ -243,11 +249,12 @@ void EventCheck::checkBurst(const GameEvent& event) {
     m_findings[m_burst[kind]].subject = std::to_string(count);
 }
 
-bool EventCheck::checkRoster(const GameEvent& event) {
-  if (event.isClock() || findPlayer(m_game.roster[event.player.team], event.player.jersey) != nullptr)
-    return true;
-  namePlayer(FindingKind::NotInRoster, event);
-  return false;
+// Null, and named, where he is not in the roster.
+const RosterPlayer* EventCheck::playerOf(const GameEvent& event) {
+  const RosterPlayer* const player = findPlayer(m_game.roster[event.player.team], event.player.jersey);
+  if (player == nullptr)
+    namePlayer(FindingKind::NotInRoster, event);
+  return player;
 }
 
 void EventCheck::checkAction(const GameEvent& event) {
@@ -256,7 +263,8 @@ void EventCheck::checkAction(const GameEvent& event) {
     m_afterStop = m_place;
   checkBurst(event);
   // The bench is given technical fouls too.
-  if (checkRoster(event) && event.code != EventCode::STF && !m_lineUps.isOnCourt(event.player))
+  const RosterPlayer* const player = playerOf(event);
+  if (player != nullptr && event.code != EventCode::STF && !m_lineUps.isOnCourt(event.player.team, *player))
     namePlayer(FindingKind::NotOnCourt, event);
   switch (event.code) {
   case EventCode::SPF:

@@ -42,10 +42,8 @@ void LineUpCheck::readList(std::size_t team, std::size_t event) {
   Court& court = m_courts[team];
   court.list = m_game.events[event].onCourt(team);
   court.players.clear();
-  // Of a list that is too long the first count, and nobody who is in no roster is credited with time.
-  court.timed = static_cast<int>(
-      std::ranges::count_if(playersOnCourt(court.list, m_game.roster[team]),
-                            [](const ListedPlayer& listed) { return listed.player != nullptr; }));
+  court.timed = 0;
+  std::size_t place = 0;
   std::vector<ListedPlayer> told;
   for (ListedPlayer& listed : playersOfList(court.list, m_game.roster[team])) {
     const auto name = [&](FindingKind kind) {
@@ -55,11 +53,14 @@ void LineUpCheck::readList(std::size_t team, std::size_t event) {
     if (std::ranges::find(court.players, listed) == court.players.end()) {
       if (listed.player == nullptr)
         name(FindingKind::OnCourtNotInRoster);
+      // Of a list that is too long the first count, and nobody who is in no roster is credited with time.
+      court.timed += place < kFive && listed.player != nullptr ? 1 : 0;
       court.players.push_back(std::move(listed));
     } else if (std::ranges::find(told, listed) == told.end()) {
       name(FindingKind::Twice);
       told.push_back(std::move(listed));
     }
+    ++place;
   }
 }
 
@@ -78,13 +79,11 @@ void LineUpCheck::start(std::size_t event) {
   }
 }
 
-bool LineUpCheck::isOnCourt(const PlayerReference& player) const {
-  const auto team = static_cast<std::size_t>(player.team);
-  if (!isFollowed(team))
-    return true;
-  const RosterPlayer* const known = findPlayer(m_game.roster[team], player.jersey);
-  return known != nullptr && std::ranges::find(m_courts[team].players, known, &ListedPlayer::player) !=
-                                 m_courts[team].players.end();
+bool LineUpCheck::isOnCourt(int team, const RosterPlayer& player) const {
+  const auto side = static_cast<std::size_t>(team);
+  return !isFollowed(side) ||
+         std::ranges::any_of(m_courts[side].players,
+                             [&player](const ListedPlayer& listed) { return listed.player == &player; });
 }
 
 // Up to the last stop of the period.

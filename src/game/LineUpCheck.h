@@ -24,7 +24,7 @@ class LineUpCheck {
   void finish() { checkTimes(); }
 
   // True too for a side without players, which is always there.
-  [[nodiscard]] bool isOnCourt(const PlayerReference& player) const;
+  [[nodiscard]] bool isOnCourt(int team, const RosterPlayer& player) const;
 
  private:
   struct Court {

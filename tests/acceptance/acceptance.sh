@@ -120,10 +120,10 @@ until_true "a second game opens" window_named "$(abbreviation "$other" 0) [0-9]+
 tampered=$(find "$samples" -newer "$work/home/CONFIG.INI" -name '*.GAM')
 [ -z "$tampered" ] || fail "reading changed $tampered"
 
-# Leaving keeps the last folder, the recent games and the window's place.
+# Leaving keeps the last folder of games of one's own, the recent games and the window's place.
 keys ctrl+q
 until_true "the program leaves" is_gone "$running"
-until_true "the last folder is kept" says CONFIG.INI "LASTPATHGAME=$(dirname "$other")"
+until_true "the last folder is kept" says CONFIG.INI "LASTPATHGAME=$work"
 until_true "recent games are kept" says WINDOWS.INI "$(basename "$other" | cut -c1-10)"
 grep -aE 'AddressSanitizer|runtime error|LeakSanitizer' "$work/log" && fail "the sanitizers complain"
 
