@@ -344,8 +344,8 @@ void FollowUpBar::dismiss() {
 
 void FollowUpBar::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
-  if (!event->spontaneous())
-    dismiss(); // the window it lies over was closed
+  if (isHidden()) // and not the window around it, which comes back
+    dismiss();
 }
 
 void FollowUpBar::answer(std::optional<FollowUpQuestion::Answer> answer) {

@@ -199,6 +199,8 @@ TEST_F(LiveWindowTest, GoingOnClosesAFollowUpAsNobodyAndHappens) {
   EXPECT_EQ(label("lblREASON"), "Answer first (Esc: nobody); then the clock can start.");
   pressCourt("CourtJ(7)", false);
   pressCourt("CourtJ(8)", false); // the next shot, whose question is a new one
+  window->hide(); // a game that another start of the program hands over comes up and goes behind
+  window->show();
   EXPECT_TRUE(find("Assist").isVisible());
   QTest::keyClick(window.get(), Qt::Key_Escape);
   EXPECT_FALSE(find("Assist").isVisible());
