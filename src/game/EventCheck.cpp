@@ -45,7 +45,8 @@ class EventCheck {
   EventCheck(const Game& game, std::vector<Finding>& findings)
       : m_game(game), m_findings(findings), m_lineUps(game, findings),
         m_threePointRadius(court::units(game.details.threePointRadius / 100.0)),
-        m_threePointFromAxis(court::units(game.details.threePointCorner / 100.0)),
+        m_threePointFromAxis(
+            std::min(court::units(game.details.threePointCorner / 100.0), m_threePointRadius)),
         m_threePointCornerX(court::threePointCornerX(m_threePointRadius, m_threePointFromAxis)) {}
 
   void run() {
@@ -258,7 +259,11 @@ const RosterPlayer* EventCheck::playerOf(const GameEvent& event) {
 }
 
 void EventCheck::checkAction(const GameEvent& event) {
-  m_hasFreeThrowSinceStop = m_hasFreeThrowSinceStop || event.code == EventCode::GFT;
+  if (event.code == EventCode::GFT) {
+    m_hasFreeThrowSinceStop = true;
+    if (m_afterStop && m_game.events[*m_afterStop].kind()->isTeamFoul)
+      m_afterStop.reset(); // for that foul
+  }
   if (!m_hasFreeThrowSinceStop && !m_afterStop)
     m_afterStop = m_place;
   checkBurst(event);

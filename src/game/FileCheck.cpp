@@ -40,6 +40,8 @@ bool isOneLetterOff(std::string_view left, std::string_view right) {
 // The section that a name of none of ours was probably meant to be.
 std::optional<std::string> meant(std::string_view section) {
   const std::string name = plain(section);
+  if (name.empty())
+    return std::nullopt;
   const std::size_t digits = name.find_last_not_of("0123456789") + 1; // 0 for nothing but digits
   const std::size_t zeros = std::min(name.find_first_not_of('0', digits), name.size());
   if (digits == 0) // "01"
@@ -152,7 +154,7 @@ std::size_t FileCheck::eventOf(int period, std::string_view key) const {
 }
 
 void FileCheck::checkNextNumber() {
-  const bool isRequired = m_game.details.inputType == 0 && m_highest > 0;
+  const bool isRequired = m_game.details.inputType == 0 && m_highest > 1; // a new game has none yet
   if (!isRequired && !m_text.value(kDetailsSection, "EVENUM"))
     return;
   const int next = m_game.details.nextEventNumber;

@@ -86,8 +86,12 @@ std::vector<Finding> checkGame(const Game& game) {
   return findings;
 }
 
-std::vector<Finding> checkGame(const Game& game, const ProfileText& text) {
+std::vector<Finding> checkGame(const Game& game, const ProfileText& text,
+                               const std::optional<CountOutOfRange>& outOfRange) {
   std::vector<Finding> findings = checkGame(game);
+  if (outOfRange)
+    findings.push_back({.kind = FindingKind::CountOutOfRange,
+                        .subject = game.details.abbreviation[outOfRange->team] + ' ' + outOfRange->what});
   checkFile(game, text, findings);
   order(findings);
   return findings;

@@ -7,7 +7,9 @@
 #include "game/Finding.h"
 #include "storage/GameFile.h"
 #include "storage/ProfileText.h"
+#include "storage/Tally.h"
 
+#include <optional>
 #include <vector>
 
 namespace hooptab {
@@ -17,7 +19,8 @@ namespace hooptab {
 [[nodiscard]] std::vector<Finding> checkGame(const Game& game);
 
 // The same of a game and the text that it was read from, which tells more: lines and sections that no reader
-// takes.
-[[nodiscard]] std::vector<Finding> checkGame(const Game& game, const ProfileText& text);
+// takes; and of the count, if there is one, that its tally could not hold.
+[[nodiscard]] std::vector<Finding> checkGame(const Game& game, const ProfileText& text,
+                                             const std::optional<CountOutOfRange>& outOfRange);
 
 } // namespace hooptab

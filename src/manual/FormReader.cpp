@@ -115,7 +115,8 @@ FormReading FormReader::read(const GrayPicture& picture, const Progress& progres
     return !progress || progress(farthest);
   };
   for (const int way : ways) {
-    FormReading reading = readUpright(way == 0 ? picture : turned(picture, way), onwards);
+    FormReading reading =
+        way == 0 ? readUpright(picture, onwards) : readUpright(turned(picture, way), onwards);
     reading.quarters = way;
     // Another side up may make it a form, where there are the squares of one.
     if (adviceFor(reading.problem) == 0 || !reading.showsSquares)

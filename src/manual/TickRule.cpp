@@ -29,7 +29,7 @@ double noiseIn(const std::vector<double>& sorted) {
   constexpr double kAbove = 6; // the farthest of a thousand lies so many times as far from `kMore` as `kFew`
   constexpr double kLeast = 0.03;
   const double more = quantile(sorted, kMore);
-  return std::max(kLeast, more + kAbove * (more - quantile(sorted, kFew)));
+  return std::clamp(more + kAbove * (more - quantile(sorted, kFew)), kLeast, kEverywhereSeen);
 }
 
 // Half-way between the mean of what lies above and of what lies below, found by repeating.
@@ -119,6 +119,7 @@ TickRule::TickRule(const FormLayout& layout, std::vector<CellInk> inks, bool isP
     return;
   }
   adjust(m_noise);
+  m_isUnsure = faint < kMany;
   m_isTooFaint = faint >= kMany && m_threshold < kUnsure * m_noise;
 }
 
@@ -153,7 +154,8 @@ ReadCell TickRule::read(std::size_t cell) const {
     result.isTicked = isBlack(cell) || result.isDoubtful;
     return result;
   }
-  result.isDoubtful = found > m_threshold / kUnsure && found < m_threshold * kUnsure;
+  result.isDoubtful =
+      (found > m_threshold / kUnsure && found < m_threshold * kUnsure) || (result.isTicked && m_isUnsure);
   // Fainter than the others, but a stroke: perhaps with another pen.
   constexpr double kOtherPen = 0.28;
   if (!result.isTicked && found > std::max(m_isFaint ? m_noise : m_clear, kOtherPen * m_typical) &&

@@ -35,11 +35,12 @@ class TickRule {
   const FormLayout& m_layout;
   std::vector<CellInk> m_inks;
   std::array<bool, FormLayout::kPlayers> m_hasPrintedNumber = {};
-  double m_noise = 0;     // the most that an untouched cell has
-  double m_clear = 0;     // a stroke of any pen, as this scan shows it
-  double m_typical = 0;   // strength of a tick
-  double m_threshold = 0; // between what is none and what is one
-  bool m_isFaint = false; // the ticks are weaker than strokes of a pen: dirt may be as dark
+  double m_noise = 0;      // the most that an untouched cell has
+  double m_clear = 0;      // a stroke of any pen, as this scan shows it
+  double m_typical = 0;    // strength of a tick
+  double m_threshold = 0;  // between what is none and what is one
+  bool m_isFaint = false;  // the ticks are weaker than strokes of a pen: dirt may be as dark
+  bool m_isUnsure = false; // and so few that dirt may be all that there is
   bool m_isTooFaint = false;
 };
 

@@ -172,6 +172,7 @@ void frmMANUAL::connectEverything() {
   const auto onKey = [this](Qt::Key key, Step step) {
     auto* shortcut =
         new QShortcut(Qt::CTRL | key, m_pages->widget(0), nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    shortcut->setAutoRepeat(false); // a key that is held must not take back all of it
     connect(shortcut, &QShortcut::activated, this, [this, step] { go(step); });
   };
   onKey(Qt::Key_Z, Step::Undo);
@@ -252,6 +253,7 @@ void frmMANUAL::clearTeam() {
                      toQt(m_texts.withPlaceholder(kClearTeam, fromQt(m_teams->currentText())))))
     return;
   m_game.totals.clear(m_team);
+  m_forms->forgetTaken();
   keepChange(caption(m_texts, kResetToZero));
 }
 
@@ -275,6 +277,7 @@ void frmMANUAL::go(Step step) {
   if (change == nullptr)
     return;
   isBack ? m_changes.undo() : m_changes.redo();
+  m_forms->forgetTaken();
   m_before = m_game.totals;
   if (change->team() != m_team)
     chooseTeam(change->team());

@@ -277,6 +277,8 @@ void frmSCAN::connectEverything() {
   connect(m_doubts, &DoubtList::cellChosen, m_view, &ScanView::goTo);
   connect(m_doubts, &DoubtList::judged, this, &frmSCAN::settleCurrent);
   connect(&m_work, &BackgroundWork::failed, this, [this] {
+    if (*m_isStopped)
+      return;                                             // nobody waits for that page any more
     m_reading->refusal = {PageRefusal::Reason::NoMemory}; // the file's other pages may need less
     m_reading->picture.reset();
     m_result = m_reading;
@@ -434,6 +436,10 @@ void frmSCAN::leave() {
 
 void frmSCAN::beginGame() {
   close();
+  forgetTaken();
+}
+
+void frmSCAN::forgetTaken() {
   m_taken.clear();
 }
 

@@ -45,6 +45,7 @@ class frmSCAN : public QWidget {
   void read(const QStringList& files, int team);
   bool isOpen() const { return m_isOpen; }
   void beginGame();      // another one: nothing was imported into it yet
+  void forgetTaken();    // the totals are others than its imports made them
   int pagesLeft() const; // that are known of, the one in sight included
   void close();          // without a question
 

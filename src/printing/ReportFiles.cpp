@@ -50,6 +50,10 @@ std::optional<ReportForm> reportFormOf(std::string_view ending) {
   return found == kForms.end() ? std::nullopt : std::optional(found->first);
 }
 
+bool holdsData(ReportForm form) {
+  return form == ReportForm::Xlsx || form == ReportForm::Csv || form == ReportForm::CsvFrench;
+}
+
 bool canBe(const Report& report, ReportForm form) {
   switch (form) {
   case ReportForm::Xlsx:

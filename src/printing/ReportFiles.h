@@ -19,6 +19,8 @@ enum class ReportForm { Pdf, Xlsx, Csv, CsvFrench, Html, Png };
 
 [[nodiscard]] std::string_view endingOf(ReportForm form);                      // "pdf"
 [[nodiscard]] std::optional<ReportForm> reportFormOf(std::string_view ending); // small letters
+// What others calculate with, so that it is to be whole.
+[[nodiscard]] bool holdsData(ReportForm form);
 // Forms and pictures are for paper alone: they have no tables to export.
 [[nodiscard]] bool canBe(const Report& report, ReportForm form);
 

@@ -230,6 +230,7 @@ void ReportOutput::print(Report report, const PageFormat& format, std::shared_pt
 
 void ReportOutput::start(const QString& what, std::function<BackgroundWork::Delivery()> work) {
   m_saved.clear();
+  m_offerEnds.stop();
   showParts(false);
   hide();
   m_what->setText(what);
@@ -268,7 +269,9 @@ void ReportOutput::showParts(bool isSaved) {
 }
 
 void ReportOutput::openSaved(const QString& path) {
-  if (!m_dialogs.openDocument(QUrl::fromLocalFile(path)))
+  if (!QFileInfo::exists(path))
+    complain(kSavedIsGone, path, window());
+  else if (!m_dialogs.openDocument(QUrl::fromLocalFile(path)))
     complain(kSavedNotOpened, path, window());
 }
 

@@ -264,6 +264,23 @@ class SeasonReportMaker {
     return text(m_texts, kViewTitles[static_cast<std::size_t>(view)]);
   }
 
+  // By points as the view has them, those under the minimum last: who asks for the first rows wants the best.
+  struct RankedRow {
+    const SeasonRow* row;
+    bool isMarked;
+  };
+  std::vector<RankedRow> ranked(std::span<const SeasonRow> rows, SeasonTable which, SeasonView view) const {
+    std::vector<RankedRow> order;
+    for (const SeasonRow& row : rows)
+      order.push_back({&row, m_choice.minimum.isUnder(row, which, view)});
+    const int points = seasonColumn("PTS").index;
+    if (view != SeasonView::Totals) // those come in their order
+      std::ranges::stable_sort(order, {}, [&](const RankedRow& ranked) {
+        return std::pair(ranked.isMarked, -seasonSortValue(*ranked.row, points, view));
+      });
+    return order;
+  }
+
   void addRows(SeasonTable which, bool ofShots) {
     const auto rows = which == SeasonTable::Players ? m_statistics.players() : m_statistics.lines();
     const ReportTable empty = rowTable(which, ofShots);
@@ -274,9 +291,8 @@ class SeasonReportMaker {
       table.title = titleOf(view);
       table.isRanked = true;
       bool hasMarks = false;
-      for (const SeasonRow& row : rows) {
-        const bool isMarked = m_choice.minimum.isUnder(row, which, view);
-        table.rows.push_back(reportRow(row, ofShots, view, isMarked));
+      for (const auto& [row, isMarked] : ranked(rows, which, view)) {
+        table.rows.push_back(reportRow(*row, ofShots, view, isMarked));
         hasMarks = hasMarks || isMarked;
       }
       m_report.blocks.push_back(std::move(table));

@@ -370,8 +370,7 @@ void frmprint::print() {
 
 // What is calculated with is whole, unless the user has chosen how many rows he wants.
 void frmprint::save(ReportForm form) {
-  const bool isOfData = form == ReportForm::Xlsx || form == ReportForm::Csv || form == ReportForm::CsvFrench;
-  if (!isOfData || m_areRowsChosen)
+  if (!holdsData(form) || m_areRowsChosen)
     return m_output.save(m_report, form, format(), this);
   Report whole = m_offers[static_cast<std::size_t>(m_choice->currentIndex())].make();
   whole.title = m_report.title;
@@ -393,10 +392,19 @@ void frmprint::restoreArrangement(const QByteArray& state) {
   qint32 fit = 0;
   double zoom = 1;
   bool isFacing = false;
-  stream >> version >> paper >> fit >> zoom >> isFacing;
-  if (stream.status() != QDataStream::Ok || version != kArrangementVersion || paper < 0 || paper > 1 ||
+  stream >> version;
+  const bool isOlder =
+      version < kArrangementVersion; // the paper stood first; the page filled the width unasked
+  if (isOlder)
+    paper = version;
+  else
+    stream >> paper;
+  stream >> fit >> zoom >> isFacing;
+  if (stream.status() != QDataStream::Ok || version > kArrangementVersion || paper < 0 || paper > 1 ||
       fit < 0 || fit > 2)
     return;
+  if (isOlder && fit == static_cast<qint32>(PageView::Fit::Width))
+    fit = static_cast<qint32>(PageView::Fit::Page);
   m_paper->setCurrentIndex(paper);
   m_facing->setChecked(isFacing);
   if (fit == static_cast<qint32>(PageView::Fit::None))

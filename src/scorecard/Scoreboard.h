@@ -21,7 +21,7 @@ struct Scoreboard {
     int points = 0;
   };
   struct Period {
-    std::string label; // "1", "OT", "8+"
+    std::string label; // "1", "OT1", "8+"
     int points[2] = {};
     int fouls[2] = {};      // those in force: in overtime the last regular period's, too, where they are kept
     bool isInBonus[2] = {}; // the other team shoots bonus free throws

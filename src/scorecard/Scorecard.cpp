@@ -11,11 +11,7 @@ GameFileProblem Scorecard::load() {
       problem != GameFileProblem::None)
     return problem;
   m_outOfRange = Tally::run(m_state, m_game.events, m_game.roster[0], m_game.roster[1]);
-  m_findings = checkGame(m_game, m_store.profile());
-  if (m_outOfRange)
-    m_findings.push_back(
-        {.kind = FindingKind::CountOutOfRange,
-         .subject = m_game.details.abbreviation[m_outOfRange->team] + ' ' + m_outOfRange->what});
+  m_findings = checkGame(m_game, m_store.profile(), m_outOfRange);
   m_hasGame = true;
   return GameFileProblem::None;
 }

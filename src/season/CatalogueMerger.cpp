@@ -6,6 +6,8 @@
 #include "storage/codepage.h"
 
 #include <algorithm>
+#include <set>
+#include <tuple>
 
 namespace hooptab {
 
@@ -128,10 +130,12 @@ void CatalogueMerger::orderNames() {
 // A jersey that several wore over the season names them all: a line is known by its jerseys alone.
 void CatalogueMerger::nameLines() {
   std::vector<std::map<std::string, std::string>> names(m_content.teams.size()); // by jersey
+  std::set<std::tuple<SeasonId, std::string, std::string>> seen;                 // a name once for a jersey
   for (const SeasonPlayer& player : m_content.players) {
-    std::string& known = names[player.team][canonicalJersey(player.number)];
+    const std::string jersey = canonicalJersey(player.number);
     const std::string name = familyName(player.name);
-    if (known.find(name) == std::string::npos)
+    std::string& known = names[player.team][jersey];
+    if (seen.emplace(player.team, jersey, name).second)
       known += (known.empty() ? "" : "/") + name;
   }
   for (std::size_t i = 0; i < m_content.lines.size(); ++i) {

@@ -75,7 +75,7 @@ struct GameCriteria {
   std::optional<int> type;
   Where where = Where::Anywhere; // of the team; without a team it accepts all
   std::optional<InputKind> input;
-  bool countsCopiesOnce = false; // of several files of one game only the first
+  bool countsCopiesOnce = false; // of several files of one game only one, the fullest
   bool leavesOutWrong = false;   // games of which something cannot be so
 
   friend bool operator==(const GameCriteria&, const GameCriteria&) = default;

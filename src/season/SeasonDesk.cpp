@@ -40,9 +40,12 @@ void SeasonDesk::setMinimum(const Qualification& minimum, const Texts& texts) {
     m_season = std::make_shared<const Season>(*m_season, minimum, texts);
 }
 
-void SeasonDesk::takeSeason(std::shared_ptr<const Season> season, const Order& order) {
+// The minimum may have been changed since it was ordered.
+void SeasonDesk::takeSeason(std::shared_ptr<const Season> season, const Order& order, const Texts& texts) {
   m_season = std::move(season);
   m_shown = order.shown;
+  if (order.minimum != m_minimum)
+    setMinimum(m_minimum, texts);
 }
 
 } // namespace hooptab

@@ -54,7 +54,7 @@ class SeasonDesk {
   // Also of the statistics that were made.
   void setMinimum(const Qualification& minimum, const Texts& texts);
   // What was ordered is what the statistics are of.
-  void takeSeason(std::shared_ptr<const Season> season, const Order& order);
+  void takeSeason(std::shared_ptr<const Season> season, const Order& order, const Texts& texts);
 
  private:
   std::shared_ptr<const GameCatalogue> m_catalogue;

@@ -85,14 +85,15 @@ std::optional<SkipReason> SummaryReader::read(const std::string& path, ListedGam
   Game source;
   readGame(text, source);
   game.path = path;
-  summarise(source, game);
-  check(source, text, game);
+  const auto outOfRange = summarise(source, game);
+  check(source, text, outOfRange, game);
   return std::nullopt;
 }
 
-void SummaryReader::check(const Game& source, const ProfileText& text, ListedGame& game) {
+void SummaryReader::check(const Game& source, const ProfileText& text,
+                          const std::optional<CountOutOfRange>& outOfRange, ListedGame& game) {
   constexpr std::size_t kTold = 3;
-  std::vector<Finding> findings = checkGame(source, text);
+  std::vector<Finding> findings = checkGame(source, text, outOfRange);
   std::erase_if(findings, [](const Finding& finding) { return !finding.isWrong(); });
   game.wrongCount = findings.size();
   if (findings.size() > kTold)
@@ -100,7 +101,7 @@ void SummaryReader::check(const Game& source, const ProfileText& text, ListedGam
   game.wrong = std::move(findings);
 }
 
-void SummaryReader::summarise(const Game& source, ListedGame& game) {
+std::optional<CountOutOfRange> SummaryReader::summarise(const Game& source, ListedGame& game) {
   const GameDetails& details = source.details;
   const auto outOfRange = Tally::run(m_state, source.events, source.roster[0], source.roster[1]);
   if (outOfRange)
@@ -130,6 +131,7 @@ void SummaryReader::summarise(const Game& source, ListedGame& game) {
     addLines(source.roster[side], side, game);
   }
   addShots(game);
+  return outOfRange;
 }
 
 void SummaryReader::addPlayers(const Roster& roster, std::size_t side, ListedGame& game) {

@@ -5,6 +5,7 @@
 #include "season/GameCatalogue.h"
 #include "season/NameTable.h"
 #include "storage/GameFile.h"
+#include "storage/Tally.h"
 
 #include <optional>
 #include <string>
@@ -20,8 +21,9 @@ class SummaryReader {
   const NameTable& names() const { return m_names; }
 
  private:
-  void summarise(const Game& source, ListedGame& game);
-  static void check(const Game& source, const ProfileText& text, ListedGame& game);
+  std::optional<CountOutOfRange> summarise(const Game& source, ListedGame& game);
+  static void check(const Game& source, const ProfileText& text,
+                    const std::optional<CountOutOfRange>& outOfRange, ListedGame& game);
   void addPlayers(const Roster& roster, std::size_t side, ListedGame& game);
   void addLines(const Roster& roster, std::size_t side, ListedGame& game);
   void addShots(ListedGame& game) const;

@@ -196,7 +196,7 @@ void frmSTATS::generate() {
                   m_problem = kReadingCancelled;
                   return;
                 }
-                m_desk.takeSeason(season, order);
+                m_desk.takeSeason(season, order, m_texts);
                 showSeason();
                 m_tabs->setCurrentWidget(m_players);
               };
@@ -226,7 +226,10 @@ bool frmSTATS::mayCountWrong() {
     return true;
   }
   m_criteria->leaveOutWrong();
-  apply();
+  SeasonChoice choice = m_desk.choice(); // not what else has been chosen and not applied
+  choice.games.leavesOutWrong = true;
+  m_desk.apply(choice);
+  showList();
   return m_desk.canGenerate();
 }
 

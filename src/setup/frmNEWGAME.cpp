@@ -6,11 +6,11 @@
 #include "appearance/Mnemonics.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
+#include "appearance/WarningChip.h"
 #include "appearance/relabel.h"
 #include "setup/KeepsEnter.h"
 #include "setup/SidePanel.h"
 #include "setup/SidePlayersTable.h"
-#include "appearance/WarningChip.h"
 #include "storage/Module1.h"
 #include "teams/TeamList.h"
 

@@ -16,6 +16,7 @@ constexpr int kNeedsValue = 2844;
 constexpr int kCannotBe = 2845;
 constexpr int kIsMissing = 2846;
 constexpr int kNeeds = 2847;
+constexpr int kNotTogether = 2849;
 constexpr int kOneGame = 2848;
 
 std::string absolutePath(const std::string& path, const std::string& currentFolder) {
@@ -149,6 +150,10 @@ void completeReport(Arguments& arguments) {
     arguments.wrong = {kOneGame};
   else if (!arguments.games.empty())
     report.source = arguments.games.front();
+  if (report.format.empty() && report.isForFrenchSpreadsheets)
+    report.format = "csv";
+  else if (report.isForFrenchSpreadsheets && report.format != "csv")
+    arguments.wrong = {kNotTogether, "--csv-for", "--format " + report.format};
   if (report.format.empty())
     report.format = std::filesystem::path(report.output).extension().string().erase(0, 1);
 }

@@ -38,7 +38,8 @@ RecentGame readOne(cinifile& store, const std::string& path, GameState& state) {
     result.teams[team] = {details.abbreviation[team], details.teamColour[team],
                           state.points(static_cast<int>(team))};
   result.isFinished = details.isFinished;
-  result.mayBeCut = details.isFinished && std::ranges::any_of(checkGame(game, store.profile()), lacksItsEnd);
+  result.mayBeCut =
+      details.isFinished && std::ranges::any_of(checkGame(game, store.profile(), {}), lacksItsEnd);
   result.hasPeriods = details.inputType == 0;
   result.hasTime = result.hasPeriods && details.minutesPerPeriod > 0;
   result.period = state.period;

@@ -21,6 +21,7 @@ namespace hooptab {
 namespace {
 
 constexpr int kSubjectAndWords = 1801; // "XXX: YYY"
+constexpr int kCountedAllTheSame = 2709;
 
 enum ExitStatus { kGood = 0, kFailed = 1, kWrongUse = 2 };
 
@@ -149,7 +150,14 @@ class ReportRun {
     choice.team = catalogue.teamOf(m_request.team);
     if (!m_request.team.empty() && !choice.team)
       return complain(kWrongUse, words(2888, m_request.team, m_request.source));
-    const SeasonStatistics statistics(catalogue, catalogue.select(criteria), {m_request.team, std::nullopt});
+    const std::vector<std::size_t> games = catalogue.select(criteria);
+    for (const std::size_t game : games) {
+      const ListedGame& told = catalogue.games()[game];
+      if (told.wrongCount > 0)
+        (void)complain(kGood, words(kSubjectAndWords, told.path,
+                                    words(kCountedAllTheSame, catalogue.whyWrong(told, m_texts))));
+    }
+    const SeasonStatistics statistics(catalogue, games, {m_request.team, std::nullopt});
     const bool isOfLines =
         which == SeasonReport::LineShots || which == SeasonReport::LineOther || which == SeasonReport::Line;
     const auto rows = isOfLines ? statistics.lines() : statistics.players();

@@ -31,7 +31,7 @@ void WindowArea::add(ChildWindow& child) {
   child.restoreArrangement(QByteArray::fromBase64(QByteArray::fromStdString(m_memory.layout(name))));
   restoreSize(*window, name);
   connect(&child, &ChildWindow::closing, this, [this, &child, window, name] {
-    if (!window->isMaximized())
+    if (!window->isMaximized() && !window->isMinimized())
       m_memory.rememberLayout(name + kSize,
                               fromQt(QStringLiteral("%1x%2").arg(window->width()).arg(window->height())));
     if (const QByteArray arrangement = child.arrangement(); !arrangement.isEmpty())

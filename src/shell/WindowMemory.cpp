@@ -95,11 +95,11 @@ void WindowMemory::rememberCourtIsCalm(bool isCalm) {
 }
 
 std::string WindowMemory::exportFolder() {
-  return value(kChoices, "EXPORTS");
+  return unescapedPath(value(kChoices, "EXPORTS"));
 }
 
 void WindowMemory::rememberExportFolder(std::string_view folder) {
-  write(kChoices, "EXPORTS", folder);
+  write(kChoices, "EXPORTS", escapedPath(folder));
 }
 
 int WindowMemory::refreshSeconds() {

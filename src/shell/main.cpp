@@ -90,7 +90,8 @@ int run(Application& application, const Arguments& arguments, QtDialogs& dialogs
   settings.read();
   texts.setLanguage(arguments.language.value_or(settings.language));
   InstanceLock lock(toQt(folder.path));
-  if (lock.acquire() == InstanceLock::Outcome::IsRunning &&
+  const bool isForUser = !arguments.isRehearsal && !arguments.leavesWhenReady;
+  if (isForUser && lock.acquire() == InstanceLock::Outcome::IsRunning &&
       SecondStart::handOver(toQt(folder.path), arguments.games))
     return EXIT_SUCCESS;
   if (!lock.admits(texts, dialogs))

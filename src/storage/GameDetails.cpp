@@ -102,10 +102,8 @@ constexpr std::array kDetails = std::to_array<Detail>({
     {"EVENUM", [](GameDetails& d, std::string_view value) { d.nextEventNumber = numberOf(value); }, nullptr},
     {"LIGNE3",
      [](GameDetails& d, std::string_view value) {
-       if (const int radius = numberOf(value); radius > 0) {
+       if (const int radius = numberOf(value); radius > 0)
          d.threePointRadius = radius;
-         d.threePointCorner = std::min(d.threePointCorner, radius);
-       }
      },
      nullptr},
     {"LIGNE3COIN",

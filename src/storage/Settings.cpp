@@ -225,8 +225,11 @@ bool Settings::saveOfOthers(const ProfileBatch& batch) {
   return true;
 }
 
+// Of a file that cannot be read nothing is known; what waits for it is no picture of it.
 const ProfileText& Settings::content() {
-  m_store.Path(path());
+  m_content = {};
+  if (!canBeRead())
+    return m_content;
   m_content = m_store.profile();
   for (const ProfileBatch& batch : m_waiting)
     m_content = withBatch(std::move(m_content), batch);

@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static_cast<void>(Tally::run(state, game.events, game.roster[0], game.roster[1]));
   require(totalOf(state, false) == totalOf(state, true));
   const Texts texts;
-  for (const Finding& finding : checkGame(game, text))
+  for (const Finding& finding : checkGame(game, text, {}))
     require(!wordsOf(finding, game, texts).empty());
 
   // Replaying one event at a time finds the same counts.

@@ -36,7 +36,7 @@ Named namedOfFile(const std::string& text) {
   const ProfileText profile(text);
   Game game;
   readGame(profile, game);
-  return words(game, checkGame(game, profile));
+  return words(game, checkGame(game, profile, {}));
 }
 Named namedAfterTipOff(const std::string& events, const std::string& details = {}) {
   return named(textOfGame(kOnCourt + events, details));
@@ -47,11 +47,13 @@ TEST(GameCheck, LeavesAGoodGameAlone) {
       "4=09:41,GFG,0-4,30,100\n5=09:41,SA,0-05\n6=09:20,GF3A,1-22,118,100\n7=09:20,SOR,1-7\n"
       "8=09:10,STF,0-0\n" // the bench, too, is given technical fouls
       "9=08:00,ARRET,IN-00-04-05-10-12,IN-03-07-08-11-22\n10=08:00,DEPART\n11=07:00,STO,0-0\n"
-      "12=00:00,ARRET,IN-00-04-05-10-12,IN-03-07-08-11-22\n13=00:00,GFTA,0-4\n14=00:00,SDR,1-3\n"
-      "[PERIODE2]\n15=10:00,DEPART\n16=E12:00,GFG,0-99,30,100\n17=Enonsense\n18=09:00,SOR,0-4\n";
-  EXPECT_EQ(namedOfFile(textOfGame(kOnCourt + events, "EVENUM=19\n")), Named{});
+      "12=00:00,ARRET,IN-00-04-05-10-12,IN-03-07-08-11-22\n13=00:00,SPF,1-3\n14=00:00,GFTA,0-4\n15=00:00,SDR,"
+      "1-3\n"
+      "[PERIODE2]\n16=10:00,DEPART\n17=E12:00,GFG,0-99,30,100\n18=Enonsense\n19=09:00,SOR,0-4\n";
+  EXPECT_EQ(namedOfFile(textOfGame(kOnCourt + events, "EVENUM=20\n")), Named{});
+  EXPECT_EQ(namedOfFile(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-,IN-\n")), Named{}) << "a new game";
   // A later version's or another program's sections and keys.
-  EXPECT_EQ(namedOfFile(textOfGame(kOnCourt + events, "EVENUM=19\nLIGUE=4\n") +
+  EXPECT_EQ(namedOfFile(textOfGame(kOnCourt + events, "EVENUM=20\nLIGUE=4\n") +
                         "[SECRETAIRE]\n1=x\n[2]\nnothing\n[REPRISE1]\n1=y\n"),
             Named{});
 }
@@ -127,7 +129,7 @@ TEST(GameCheck, NamesPeriodsThatAreMissingOrNotClosed) {
   // Behind the stop a free throw and what follows it may come; what comes first may not.
   EXPECT_EQ(
       namedAfterTipOff("4" + std::string(kStop) +
-                       "5=00:00,SPF,1-3\n6=00:00,GFT,0-4\n7=00:00,STO,0-4\n[PERIODE2]\n8=10:00,DEPART\n"),
+                       "5=00:00,STO,1-3\n6=00:00,GFT,0-4\n7=00:00,STO,0-4\n[PERIODE2]\n8=10:00,DEPART\n"),
       Named{"5: Recorded after the period was closed"});
   EXPECT_EQ(
       named(textOfGame("[PERIODE1]\n1=00:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=00:00,STO,0-4\n"
@@ -263,7 +265,7 @@ TEST(GameCheckOfRealGames, IsQuiet) {
     Game game;
     ASSERT_EQ(GameFile(store, path.string()).read(game), GameFileProblem::None);
     events += game.events.size();
-    for (const Finding& finding : checkGame(game, store.profile())) {
+    for (const Finding& finding : checkGame(game, store.profile(), {})) {
       EXPECT_FALSE(finding.isWrong()) << path << ": " << words(game, {finding})[0];
       ++doubtful;
     }

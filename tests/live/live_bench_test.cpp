@@ -326,6 +326,8 @@ TEST_F(FollowUpTest, AnythingElsewhereClosesItAndHappensButForTheClock) {
   askRebound(); // the next shot
   EXPECT_EQ(taken(), ".");
   window.hide();
+  EXPECT_TRUE(bar.isOpen()) << "a window that goes behind another comes back with its question";
+  bar.hide();
   EXPECT_EQ(taken(), ".");
 }
 

@@ -259,6 +259,11 @@ TEST(FormReader, NeedsNoCertainNumberOfTicks) {
   page.expectRight(readOf(page.form));
   page.tick(cross(0x50), 1);
   page.expectRight(readOf(page.form));
+
+  FilledForm smudged; // what is left of an eraser may be all that there is
+  smudged.touch(100, stroke(0xB0));
+  const ReadCell cell = readOf(smudged.form).cells.at(100);
+  EXPECT_TRUE(!cell.isTicked || cell.isDoubtful);
 }
 
 // The places of a mark, from its upper left corner.

@@ -34,7 +34,7 @@ class SeasonDeskTest : public testing::Test {
   }
   void generate() {
     const SeasonDesk::Order order = desk.order();
-    desk.takeSeason(order.carryOut(texts), order);
+    desk.takeSeason(order.carryOut(texts), order, texts);
   }
 
   SeasonFolder folder;

@@ -285,6 +285,7 @@ TEST_F(SettingsTest, AFileThatCannotBeReadIsLeftAlone) {
   std::filesystem::create_directory(folder.path("CONFIG.INI"));
   EXPECT_EQ(settings.prepare(texts), Settings::Preparation::CannotBeRead);
   EXPECT_FALSE(settings.saveLanguage(Language::French));
+  EXPECT_FALSE(settings.content().hasSection("TEAM")) << "the sample teams are no picture of what it holds";
 
   // Once it is readable again, what it holds counts, and what was chosen meanwhile is added to it.
   std::filesystem::remove(folder.path("CONFIG.INI"));
