@@ -1,6 +1,7 @@
 #include "manual/ScanFile.h"
 
 #include "appearance/relabel.h"
+#include "manual/PdfPages.h"
 #include "manual/TiffPages.h"
 
 #include <QFile>
@@ -105,12 +106,7 @@ int pagesOf(const QString& path, const QByteArray& format) {
   return std::max(countTiffPages(file, ScannedPage::kMostPages), 1);
 }
 
-PageRefusal load(QImageReader& reader, int page, GrayPicture& picture) {
-  if (page > 0 && !reader.jumpToImage(page))
-    return {Reason::Damaged};
-  if (isTooLarge(reader.size()))
-    return {Reason::TooLarge};
-  QImage image = reader.read();
+PageRefusal toPicture(QImage image, GrayPicture& picture) {
   if (image.isNull())
     return {Reason::Damaged};
   if (isTooCoarse(image))
@@ -126,32 +122,68 @@ PageRefusal load(QImageReader& reader, int page, GrayPicture& picture) {
   return {};
 }
 
-} // namespace
+// A file of one of the two kinds, opened.
+struct Source {
+  PageRefusal refusal;
+  int pages = 0;
+  std::function<PageRefusal(QImage&)> read = {}; // one page of it
+};
 
-ScannedPage loadScan(const QString& path, int page, const std::function<void(int)>& counted) {
-  ScannedPage result;
-  const auto refused = [&](Reason reason, int number = 0) {
-    counted(0);
-    result.refusal = {reason, number};
-    return result;
-  };
-  // A pipe would never end.
-  if (!QFileInfo(path).isFile() || !QFile(path).open(QIODevice::ReadOnly))
-    return refused(Reason::CannotOpen);
-  QImageReader reader(path);
+Source pdfSource(PdfPages& document, const QString& path, int page) {
+  const PageRefusal refusal = document.open(path);
+  return {refusal, document.count(), [&document, page](QImage& image) -> PageRefusal {
+            if (isTooLarge(document.size(page)))
+              return {Reason::TooLarge};
+            image = document.draw(page);
+            return {};
+          }};
+}
+
+Source pictureSource(QImageReader& reader, const QString& path, int page) {
+  reader.setFileName(path);
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
   QImageReader::setAllocationLimit(0); // the process has one
   if (!reader.canRead() || !isOfThem(reader.format()))
-    return refused(Reason::NotAPicture);
+    return {{Reason::NotAPicture}};
   if (isCutOff(path, reader.format()))
-    return refused(Reason::Damaged);
-  result.pagesInFile = pagesOf(path, reader.format());
-  if (result.pagesInFile > ScannedPage::kMostPages)
-    return refused(Reason::TooManyPages, ScannedPage::kMostPages);
+    return {{Reason::Damaged}};
+  return {{}, pagesOf(path, reader.format()), [&reader, page](QImage& image) -> PageRefusal {
+            if (page > 0 && !reader.jumpToImage(page))
+              return {Reason::Damaged};
+            if (isTooLarge(reader.size()))
+              return {Reason::TooLarge};
+            image = reader.read();
+            return {};
+          }};
+}
+
+} // namespace
+
+ScannedPage loadScan(const QString& path, int page, const std::function<void(int)>& counted) {
+  ScannedPage result;
+  const auto refused = [&](const PageRefusal& refusal) {
+    counted(0);
+    result.refusal = refusal;
+    return result;
+  };
+  // A pipe would never end.
+  if (!QFileInfo(path).isFile() || !QFile(path).open(QIODevice::ReadOnly))
+    return refused({Reason::CannotOpen});
+  QImageReader reader;
+  PdfPages document;
+  const Source source = isPdf(path) ? pdfSource(document, path, page) : pictureSource(reader, path, page);
+  if (source.refusal.reason != Reason::None)
+    return refused(source.refusal);
+  if (source.pages > ScannedPage::kMostPages)
+    return refused({Reason::TooManyPages, ScannedPage::kMostPages});
+  result.pagesInFile = source.pages;
   counted(result.pagesInFile);
   try {
-    result.refusal = load(reader, page, result.picture);
+    QImage image;
+    result.refusal = source.read(image);
+    if (result.refusal.reason == Reason::None)
+      result.refusal = toPicture(std::move(image), result.picture);
   } catch (const std::bad_alloc&) {
     result.refusal = {Reason::TooLarge};
   }

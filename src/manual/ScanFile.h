@@ -1,5 +1,5 @@
-// Decodes a page of a picture file from a scanner: BMP, TIF (of one or more pages), PNG and JPEG. Only for
-// the process that was started for it: a damaged picture may bring the decoders down. What is on the page is
+// Decodes a page of a file from a scanner: BMP, TIF (of one or more pages), PNG, JPEG and PDF. Only for the
+// process that was started for it: a damaged picture may bring the decoders down. What is on the page is
 // not looked at.
 #pragma once
 

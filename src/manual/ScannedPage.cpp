@@ -17,6 +17,7 @@ constexpr int kBrokeOff = 2404;
 constexpr int kTookTooLong = 2405;
 constexpr int kCannotStart = 2406;
 constexpr int kNoMemory = 2802;
+constexpr int kLocked = 2804;
 
 } // namespace
 
@@ -29,6 +30,7 @@ std::string explained(const PageRefusal& refusal, const Texts& texts) {
   case Reason::NotAPicture:
     return std::string(texts.text(kNotAPicture)) + ". " + std::string(texts.text(kKindsRead));
   case Reason::Damaged: return std::string(texts.text(kDamaged));
+  case Reason::Locked: return std::string(texts.text(kLocked));
   case Reason::TooCoarse: return std::string(texts.text(kTooCoarse));
   case Reason::TooLarge: return std::string(texts.text(kTooLarge));
   case Reason::TooManyPages: return texts.withPlaceholder(kTooManyPages, std::to_string(refusal.number));

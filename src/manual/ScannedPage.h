@@ -17,6 +17,7 @@ struct PageRefusal {
     CannotOpen,
     NotAPicture, // of a kind that is read
     Damaged,
+    Locked, // a PDF file that asks for a password
     TooCoarse,
     TooLarge,
     TooManyPages, // in one file; number: the most

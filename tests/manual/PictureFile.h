@@ -1,7 +1,10 @@
-// Picture files byte by byte, as no painting program would write them.
+// Files as scanners write them, and byte by byte as no painting program would.
 #pragma once
 
+#include <QBuffer>
 #include <QImage>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QtEndian>
 
 #include <string>
@@ -42,6 +45,42 @@ inline QByteArray tifOf(const std::vector<QImage>& pictures) {
     put(quint32{0});
   }
   return bytes;
+}
+
+// A PDF file with a page of paper for each picture, which fills it.
+inline QByteArray pdfOf(const std::vector<QImage>& pictures, QSizeF millimetres = {210, 297}) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setPageSize(QPageSize(millimetres, QPageSize::Millimeter));
+  writer.setPageMargins({});
+  QPainter painter(&writer);
+  for (const QImage& picture : pictures) {
+    if (&picture != pictures.data())
+      writer.newPage();
+    painter.drawImage(QRectF(0, 0, writer.width(), writer.height()), picture);
+  }
+  painter.end();
+  return bytes;
+}
+
+// A PDF file of one empty page, for which a password is asked.
+inline QByteArray lockedPdf() {
+  const QByteArray objects[] = {"<</Type/Catalog/Pages 2 0 R>>", "<</Type/Pages/Kids[3 0 R]/Count 1>>",
+                                "<</Type/Page/Parent 2 0 R/MediaBox[0 0 595 842]>>",
+                                "<</Filter/Standard/V 1/R 2/P -4/O<" + QByteArray(64, '5') + ">/U<" +
+                                    QByteArray(64, '6') + ">>>"};
+  QByteArray bytes = "%PDF-1.4\n";
+  QByteArray places = "0000000000 65535 f \n";
+  int number = 0;
+  for (const QByteArray& object : objects) {
+    places += QByteArray::number(bytes.size()).rightJustified(10, '0') + " 00000 n \n";
+    bytes += QByteArray::number(++number) + " 0 obj\n" + object + "\nendobj\n";
+  }
+  const QByteArray start = QByteArray::number(bytes.size());
+  return bytes + "xref\n0 5\n" + places +
+         "trailer\n<</Size 5/Root 1 0 R/Encrypt 4 0 R/ID[<41><41>]>>\nstartxref\n" + start + "\n%%EOF\n";
 }
 
 // A TIF file of so many pages, of which each has a width and nothing else.

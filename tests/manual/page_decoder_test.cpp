@@ -68,6 +68,23 @@ TEST_F(PageDecoderTest, MakesFineScansCoarserAndKeepsTheirShades) {
   }
 }
 
+TEST_F(PageDecoderTest, DrawsThePagesOfAPdfFile) {
+  QImage light(1240, 1754, QImage::Format_Grayscale8); // A4 of 150 dots per inch
+  QImage dark = light;
+  light.fill(200);
+  dark.fill(60);
+  const std::string path = write("scan.bin", "junk of a mail\n" + pdfOf({light, dark}));
+  for (const int page : {0, 1}) {
+    const ScannedPage read = decode(path, page);
+    ASSERT_EQ(read.refusal.reason, Reason::None);
+    EXPECT_EQ(read.pagesInFile, 2);
+    EXPECT_NEAR(read.picture.width, 2480, 1) << "as many as of a scan of 300 dots per inch";
+    EXPECT_NEAR(read.picture.height, 3508, 1);
+    EXPECT_NEAR(read.picture.at(1200, 1700), page == 0 ? 200 : 60, 1);
+  }
+  EXPECT_EQ(decode(path, 2).refusal.reason, Reason::Damaged) << "there is none";
+}
+
 TEST_F(PageDecoderTest, RefusesPicturesThatAreTooMuchOrNone) {
   QImage strip(1000, 60000, QImage::Format_Mono);
   strip.fill(1);
@@ -81,6 +98,10 @@ TEST_F(PageDecoderTest, RefusesPicturesThatAreTooMuchOrNone) {
       {write("giant.png", pngOfSize(60000, 60000, 16, 6, 1)), Reason::TooLarge},
       {write("cut.png", pngOfSize(9000, 9000, 8, 0, 0)), Reason::Damaged},
       {save("strip.png", strip), Reason::TooLarge},
+      {write("locked.pdf", lockedPdf()), Reason::Locked},
+      {write("head.pdf", "%PDF-1.4\n1 0 obj"), Reason::Damaged},
+      {write("field.pdf", pdfOf({strip}, {4000, 4000})), Reason::TooLarge},
+      {write("card.pdf", pdfOf({strip}, {55, 85})), Reason::TooCoarse},
       {write("directories.tif", tifOfDirectories(500'000)), Reason::TooManyPages},
       {folder.path("absent.tif"), Reason::CannotOpen},
       {"/dev/zero", Reason::CannotOpen},

@@ -101,7 +101,8 @@ TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
   choose({file("one.tif"), file("two.bmp")});
   EXPECT_EQ(settings.lastScanFolder, folder.path());
   EXPECT_TRUE(dialogs.lastFilter.contains(QStringLiteral("*.TIF")) &&
-              dialogs.lastFilter.contains(QStringLiteral("*.bmp")))
+              dialogs.lastFilter.contains(QStringLiteral("*.bmp")) &&
+              dialogs.lastFilter.contains(QStringLiteral("*.pdf")))
       << fromQt(dialogs.lastFilter);
   ASSERT_TRUE(showsSheet());
   EXPECT_TRUE(dialogs.shown.empty());
@@ -238,11 +239,11 @@ TEST_F(ScanWindowTest, TakesThePagesOfOneFileInTurnAndLeavesOnlyAfterAQuestion) 
   filled.tick(0, Kind::Count, Counter::ST, 2);
   filled.hint(0, Kind::Count, Counter::BS, 3);
   filled.save(file("page.png"));
-  QFile pages(toQt(file("pages.tif")));
+  QFile pages(toQt(file("pages.pdf")));
   ASSERT_TRUE(pages.open(QIODevice::WriteOnly));
-  pages.write(tifOf({filled.picture(), FilledForm(prepared).picture()}));
+  pages.write(pdfOf({filled.picture(), FilledForm(prepared).picture()}));
   pages.close();
-  choose({file("pages.tif"), file("page.png")});
+  choose({file("pages.pdf"), file("page.png")});
   ASSERT_TRUE(showsSheet());
   EXPECT_EQ(form(0, Counter::ST), "2");
   EXPECT_NE(shown("lblPAGE").find("1 of 2"), std::string::npos) << shown("lblPAGE");
@@ -317,6 +318,7 @@ TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
       {write("cut.tif", tif.left(tif.size() / 2)), text(2402)},
       {write("cut.bmp", bmp.left(bmp.size() - 1000)), text(2402)},
       {write("torn.tif", tif.chopped(200) + QByteArray(200, '\xFF')), text(2402)},
+      {write("locked.pdf", lockedPdf()), text(2804)},
       {write("directories.tif", tifOfDirectories(1001)), texts.withPlaceholder(2403, "1000")},
       {write("head.jpg", QByteArray("\xff\xd8\xff\xe0", 4)), text(2402)},
       {file("absent.png"), text(2400)},

@@ -155,6 +155,7 @@ DamagedPictures::DamagedPictures(const std::vector<QImage>& pages) {
     m_sound.push_back({saved(gray, "png"), "png"});
     m_sound.push_back({saved(glass, "png"), "png"});
     m_sound.push_back({saved(gray, "jpg", 70), "jpg"});
+    m_sound.push_back({pdfOf({gray}), "pdf"});
     m_sound.push_back({saved(glass.convertToFormat(QImage::Format_RGB32), "jpg", 90), "jpg"});
   }
 }
