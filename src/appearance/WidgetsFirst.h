@@ -1,5 +1,6 @@
 // A window's widgets refer to its members, but QObject deletes them after those are gone, and on their way
-// they still lose the focus or hide. As the last member of a window this ends them while all else is there.
+// they still lose the focus, hide, and tell so. As the last member of a window this ends them while all else
+// is there, and the window no longer hears of it.
 #pragma once
 
 #include <QWidget>
@@ -9,7 +10,11 @@ namespace hooptab {
 class WidgetsFirst {
  public:
   explicit WidgetsFirst(QWidget& window) : m_window(window) {}
-  ~WidgetsFirst() { qDeleteAll(m_window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)); }
+  ~WidgetsFirst() {
+    for (QWidget* widget : m_window.findChildren<QWidget*>())
+      widget->disconnect(&m_window);
+    qDeleteAll(m_window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+  }
   WidgetsFirst(const WidgetsFirst&) = delete;
   WidgetsFirst& operator=(const WidgetsFirst&) = delete;
 

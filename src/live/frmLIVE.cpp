@@ -123,11 +123,7 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   connectEverything();
 }
 
-// Its parts still close what is open while they go, when this is no longer there to listen.
-frmLIVE::~frmLIVE() {
-  m_followUp->disconnect(this);
-  m_correction->disconnect(this);
-}
+frmLIVE::~frmLIVE() = default;
 
 QLabel* frmLIVE::makeReadOnly() {
   auto* strip = new PlainLabel(this);

@@ -4,6 +4,7 @@
 
 #include "appearance/ChildWindow.h"
 #include "appearance/GameHold.h"
+#include "appearance/WidgetsFirst.h"
 #include "appearance/ZoneMap.h"
 #include "live/EventCorrection.h"
 #include "live/FollowUpQuestion.h"
@@ -184,6 +185,7 @@ class frmLIVE : public ChildWindow {
   BenchShot* m_benchShot = nullptr;
   int m_benchTeam = 0; // whose shot m_benchShot asks for
   int m_benchPlayer = 0;
+  WidgetsFirst m_widgetsFirst{*this}; // stays the last member
 };
 
 } // namespace hooptab

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "appearance/ChildWindow.h"
+#include "appearance/WidgetsFirst.h"
 #include "printing/PageFormat.h"
 #include "printing/Report.h"
 #include "storage/Texts.h"
@@ -96,6 +97,7 @@ class frmprint : public ChildWindow {
   QSpinBox* m_page = nullptr;
   QLabel* m_pageCount = nullptr;
   PageView* m_view = nullptr;
+  WidgetsFirst m_widgetsFirst{*this}; // stays the last member
 };
 
 } // namespace hooptab

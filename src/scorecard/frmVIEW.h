@@ -4,6 +4,7 @@
 #pragma once
 
 #include "appearance/ChildWindow.h"
+#include "appearance/WidgetsFirst.h"
 #include "scorecard/FileChange.h"
 #include "scorecard/Scorecard.h"
 #include "scorecard/ScorecardView.h"
@@ -99,6 +100,7 @@ class frmVIEW : public ChildWindow {
   EventPanel* m_events;
   GameDetailsPanel* m_details;
   ShotChartPanel* m_chart;
+  WidgetsFirst m_widgetsFirst{*this}; // stays the last member
 };
 
 } // namespace hooptab

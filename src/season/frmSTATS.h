@@ -5,6 +5,7 @@
 
 #include "appearance/BackgroundWork.h"
 #include "appearance/ChildWindow.h"
+#include "appearance/WidgetsFirst.h"
 #include "season/SeasonDesk.h"
 
 #include <QTimer>
@@ -100,7 +101,8 @@ class frmSTATS : public ChildWindow {
   PersonPanel* m_person;
   TeamPanel* m_team;
   const SeasonTableView* m_lastTable = nullptr; // that the user was in
-  BackgroundWork m_work;                        // goes first, before what its work refers to
+  BackgroundWork m_work;                        // goes before what its work refers to
+  WidgetsFirst m_widgetsFirst{*this};           // stays the last member
 };
 
 } // namespace hooptab

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "appearance/ChildWindow.h"
+#include "appearance/WidgetsFirst.h"
 #include "teams/PlayerExchange.h"
 #include "teams/TeamSheet.h"
 
@@ -123,6 +124,7 @@ class frmEQUIPES : public ChildWindow {
   QBoxLayout* m_editor = nullptr;
   QBoxLayout* m_groups = nullptr;
   QBoxLayout* m_playersHead = nullptr;
+  WidgetsFirst m_widgetsFirst{*this}; // stays the last member
 };
 
 } // namespace hooptab
