@@ -1,6 +1,7 @@
 #include "printing/BoxReport.h"
 
 #include "printing/PrintTexts.h"
+#include "printing/ReportWords.h"
 #include "scorecard/ColumnWords.h"
 
 #include <algorithm>
@@ -10,9 +11,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr std::pair<std::string_view, int> kGroupTitles[] = {
-    {"FG", 1082}, {"F3", 1083}, {"FT", 1076}, {"LL", 1078}, {"LR", 1077}, {"PB", 1079}, {"DK", kDunk},
-};
 constexpr std::string_view kRepeatedColumns[] = {"No", "Name"};
 
 bool isShotPart(std::string_view name) {
@@ -28,9 +26,9 @@ struct Group {
 Group groupOf(std::string_view column) {
   if (isShotPart(column))
     return {{}, kEveryShot};
-  for (const auto& [kind, title] : kGroupTitles) {
-    if (column.starts_with(kind) && isShotPart(column.substr(kind.size())))
-      return {kind, title};
+  for (const EventKind& kind : eventKinds()) {
+    if (kind.isShot && column.starts_with(kind.shortName) && isShotPart(column.substr(kind.shortName.size())))
+      return {kind.shortName, kind.wordsText};
   }
   return {};
 }
@@ -87,8 +85,7 @@ ReportTable boxTable(const Game& game, const GameState& state, int team, const S
                              column.isLeftAligned || boxColumnIsText(index), isRepeated});
     const Group group = groupOf(column.name);
     if (group.title != openGroup)
-      table.groups.push_back(
-          {group.title == 0 ? std::string() : std::string(texts.text(group.title)), 0, isUntried(group)});
+      table.groups.push_back({capitalised(std::string(texts.text(group.title))), 0, isUntried(group)});
     ++table.groups.back().columns;
     openGroup = group.title;
   }

@@ -26,7 +26,6 @@ constexpr int kStatistician = 1069;
 constexpr int kTotal = 1070;
 constexpr int kTeam = 1305;
 constexpr int kTied = 1021;
-constexpr int kTotalRebounds = 2131;
 constexpr int kTime = 1024;
 constexpr int kTimes = 1508;
 constexpr int kPeriod = 1087;
@@ -144,7 +143,7 @@ int valueOf(const BoxRow& row, std::string_view column) {
 std::string leaderWords(std::string_view column, const Game& game, const Settings& settings,
                         const Texts& texts) {
   if (column == "TR")
-    return text(texts, kTotalRebounds);
+    return text(texts, termWords(column));
   if (column == "rating") // whose words are its formula
     return text(texts, kRating);
   return capitalised(columnWords(std::ranges::find(boxColumns(), column, &BoxColumn::name)->index,
@@ -255,8 +254,8 @@ std::string shotCaption(const std::vector<Shot>& shots, const Texts& texts) {
   const auto part = [](const std::string& name, const ZoneSum& sum) {
     return name + "\u00A0" + fractionText(sum) + kBlank + Module1::percentText(sum.made, sum.attempted);
   };
-  std::string words =
-      part(kTwoPointers, summary.twoPoints) + "   " + part(kThreePointers, summary.threePoints);
+  std::string words = part(std::string(kTwoPointers), summary.twoPoints) + "   " +
+                      part(std::string(kThreePointers), summary.threePoints);
   if (const ZoneSum sum = shotSums(shots).withoutPlace; sum.attempted > 0)
     words += "   " + fractionText(sum) + ' ' + text(texts, kWithoutPlace);
   return words;

@@ -5,7 +5,6 @@ namespace hooptab {
 
 // On paper; XXX and YYY are what the page puts in.
 inline constexpr int kScorecard = 2200;
-inline constexpr int kDunk = 2201;
 inline constexpr int kEveryShot = 2202;
 inline constexpr int kPlayByPlay = 2203;
 inline constexpr int kTeamRoster = 2204;

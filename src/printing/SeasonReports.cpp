@@ -11,6 +11,7 @@
 #include "season/SeasonShots.h"
 #include "season/SeasonWords.h"
 #include "storage/CountWords.h"
+#include "storage/Glossary.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -53,10 +54,6 @@ constexpr SeasonReportName kReports[] = {
     {SeasonReport::Line, "stRAPLIGNE", 1431, "line"},
 };
 
-constexpr std::pair<std::string_view, int> kShotGroups[] = {{"TG", kEveryShot}, {"F2", 1082}, {"F3", 1083},
-                                                            {"FT", 1076},       {"LL", 1078}, {"LR", 1077},
-                                                            {"PB", 1079},       {"DK", kDunk}};
-
 std::string text(const Texts& texts, int number) {
   return std::string(texts.text(number));
 }
@@ -78,11 +75,11 @@ std::string_view kindOf(int column) {
 
 // The title over the columns of a kind.
 std::string titleOfKind(std::string_view kind, const Texts& texts) {
-  for (const auto& [prefix, title] : kShotGroups) {
-    if (prefix == kind)
-      return text(texts, title);
-  }
-  return std::string(kind);
+  if (kind == "TG")
+    return text(texts, kEveryShot);
+  if (kind == "FG") // two- and three-pointers together
+    return std::string(kind);
+  return capitalised(text(texts, termWords(kind == "F2" ? "FG" : kind)));
 }
 
 // A cell that is shown as the season's table shows it, with the exact number behind it.

@@ -2,6 +2,7 @@
 
 #include "scorecard/BoxScore.h"
 #include "scorecard/ScorecardTexts.h"
+#include "storage/Glossary.h"
 
 #include <algorithm>
 #include <optional>
@@ -13,10 +14,6 @@ namespace {
 struct NamedText {
   std::string_view column;
   int text;
-};
-constexpr NamedText kPlainColumns[] = {
-    {"No", kJerseyNumber}, {"Name", 1023},        {"Time", kTimePlayed},
-    {"Pos", kPosition},    {"PTS", kTotalPoints}, {"rating", kRatingFormula},
 };
 // What a group of shot columns holds, by the end of the column's name.
 constexpr NamedText kShotColumns[] = {
@@ -53,12 +50,9 @@ std::string columnWords(int column, const std::string (&gameLabels)[2], const Se
     return ownStatistic(0, gameLabels, settings, texts);
   if (name == "S2")
     return ownStatistic(1, gameLabels, settings, texts);
-  if (const auto* plain = std::ranges::find(kPlainColumns, name, &NamedText::column);
-      plain != std::end(kPlainColumns))
-    return std::string(texts.text(plain->text));
+  if (const int words = termWords(name); words != 0)
+    return std::string(texts.text(words));
   for (const EventKind& kind : eventKinds()) {
-    if (!kind.isShot && name == kind.shortName)
-      return std::string(texts.text(kind.wordsText));
     if (kind.isShot && name.starts_with(kind.shortName)) {
       if (auto words = shotWords(name.substr(kind.shortName.size()), texts.text(kind.wordsText), texts))
         return *words;

@@ -9,11 +9,6 @@ inline constexpr int kAttemptsOf = 1701;
 inline constexpr int kPercentageOf = 1702;
 inline constexpr int kPointsOf = 1703;
 inline constexpr int kAllShots = 1704;
-inline constexpr int kJerseyNumber = 1705;
-inline constexpr int kTimePlayed = 1706;
-inline constexpr int kPosition = 1707;
-inline constexpr int kTotalPoints = 1708;
-inline constexpr int kRatingFormula = 1709;
 inline constexpr int kFirstOwnStatistic = 1710;
 inline constexpr int kSecondOwnStatistic = 1711;
 

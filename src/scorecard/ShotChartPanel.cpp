@@ -175,8 +175,8 @@ void ShotChartPanel::showNumbers() {
   m_numbers->setText(coloured(QStringLiteral("●"), Theme::made()) + u' ' + caption(m_texts, kMadeShots) +
                      u' ' + QString::number(made) + gap + coloured(QStringLiteral("✕"), Theme::missed()) +
                      u' ' + caption(m_texts, kMissedShots) + u' ' + QString::number(missed) +
-                     QStringLiteral("<br>") + line(QLatin1String(kTwoPointers), summary.twoPoints) + gap +
-                     line(QLatin1String(kThreePointers), summary.threePoints));
+                     QStringLiteral("<br>") + line(toQt(kTwoPointers), summary.twoPoints) + gap +
+                     line(toQt(kThreePointers), summary.threePoints));
 }
 
 void ShotChartPanel::applyColours() {

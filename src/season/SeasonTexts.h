@@ -93,10 +93,6 @@ inline constexpr int kMinimumUnits[] = {2727, 2728, 2729}; // games, minutes, at
 inline constexpr int kMinimumHints[] = {2730, 2731, 2732};
 
 // Columns in words.
-inline constexpr int kGamesPlayed = 2130;
-inline constexpr int kTotalRebounds = 2131;
-inline constexpr int kRankRule = 2132;
-inline constexpr int kPositionsHeld = 2133;
 inline constexpr int kFieldGoals = 2134;
 inline constexpr int kRating = 2145;
 

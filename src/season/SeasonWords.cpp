@@ -4,6 +4,7 @@
 #include "scorecard/ColumnWords.h"
 #include "scorecard/ScorecardTexts.h"
 #include "season/SeasonTexts.h"
+#include "storage/Glossary.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 
@@ -14,9 +15,6 @@ namespace hooptab {
 
 namespace {
 
-// Columns that a single game's table does not have.
-constexpr std::pair<std::string_view, int> kOwnColumns[] = {
-    {"G", kGamesPlayed}, {"TR", kTotalRebounds}, {"#", kRankRule}, {"PosHist", kPositionsHeld}};
 // Two- and three-point field goals together, which have a column for each end of the name.
 constexpr std::pair<std::string_view, int> kFieldGoalColumns[] = {
     {"FGM", kMadeOf}, {"FGA", kAttemptsOf}, {"FG%", kPercentageOf}, {"FGPTS", kPointsOf}};
@@ -36,15 +34,15 @@ auto found(const Table& table, std::string_view name) {
 std::string seasonColumnWords(int column, const Settings& settings, const Texts& texts,
                               const OwnLabels& labels) {
   const std::string_view name = seasonColumn(column).name;
-  if (const auto* own = found(kOwnColumns, name))
-    return std::string(texts.text(own->second));
   if (const auto* goals = found(kFieldGoalColumns, name))
     return texts.withPlaceholder(goals->second, texts.text(kFieldGoals));
   const auto* other = found(kBoxNames, name);
   const std::string_view boxName = other == nullptr ? name : other->second;
   const auto box = std::ranges::find(boxColumns(), boxName, &BoxColumn::name);
   const std::string ofGames[2] = {labels[0], labels[1]};
-  return box == boxColumns().end() ? std::string(name) : columnWords(box->index, ofGames, settings, texts);
+  // Or one that a single game's table does not have.
+  return box == boxColumns().end() ? std::string(texts.text(termWords(name)))
+                                   : columnWords(box->index, ofGames, settings, texts);
 }
 
 std::string markWords(const Qualification& minimum, SeasonTable table, SeasonView view, const Texts& texts) {

@@ -1,10 +1,30 @@
-// Abbreviations of basketball as everyone there uses them, for labels that the program is free to choose. In
-// the columns of the box score FGM and F3M are fixed, and FG means two-pointers there: tool tips say so.
+// The one list of what is counted: its abbreviation, which is also the name of its column in tables, files
+// and on the command line, and its words. Windows, reports and the guide take their words from here.
+//
+// FG and F3 are one kind of shot each, as the tables of a game count them: a jump shot for two points,
+// without layups, put-backs and dunks, and a shot for three. In the tables of a season FG is both together.
+// Where a label is free, as below a shot chart, shots are 2P and 3P, as everyone in basketball says.
 #pragma once
+
+#include "storage/EventKind.h"
+
+#include <string_view>
+#include <vector>
 
 namespace hooptab {
 
-inline constexpr const char* kTwoPointers = "2P";
-inline constexpr const char* kThreePointers = "3P";
+inline constexpr std::string_view kTwoPointers = "2P";
+inline constexpr std::string_view kThreePointers = "3P";
+
+struct Term {
+  std::string_view abbreviation;
+  int words; // number of the text
+};
+
+// The kinds of events first, in their order.
+[[nodiscard]] std::vector<Term> glossary();
+
+// Number of the text that says what an abbreviation stands for; 0 for one that is not in the list.
+[[nodiscard]] int termWords(std::string_view abbreviation);
 
 } // namespace hooptab
