@@ -5,7 +5,7 @@
 #include "appearance/Theme.h"
 #include "live/frmLIVE.h"
 #include "live_measure.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QApplication>
 #include <QTest>

@@ -12,9 +12,9 @@
 #include "printing/frmprint.h"
 #include "scorecard/Scorecard.h"
 #include "season/GameCatalogue.h"
+#include "settings/Settings.h"
 #include "simulator/GameSimulator.h"
 #include "simulator/SampleTeams.h"
-#include "storage/Settings.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -2,8 +2,8 @@
 // drawing the window.
 #include "game_to_measure.h"
 #include "scorecard/frmVIEW.h"
+#include "settings/Settings.h"
 #include "storage/GameFile.h"
-#include "storage/Settings.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "appearance/ZoneMap.h"
+#include "settings/Settings.h"
 #include "storage/EventKind.h"
-#include "storage/Settings.h"
 
 #include <optional>
 

@@ -2,7 +2,7 @@
 // whether they can be applied and what is stored of them; shows nothing.
 #pragma once
 
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <cstddef>
 #include <string>

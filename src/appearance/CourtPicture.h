@@ -3,7 +3,7 @@
 
 #include "appearance/CourtGeometry.h"
 #include "appearance/Theme.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QColor>
 #include <QPainter>

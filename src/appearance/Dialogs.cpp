@@ -1,7 +1,7 @@
 #include "appearance/Dialogs.h"
 
 #include "appearance/Theme.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QColorDialog>
 #include <QDesktopServices>

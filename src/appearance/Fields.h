@@ -2,7 +2,7 @@
 // will give back.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 #include "storage/cinifile.h"
 
 #include <cstddef>

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "appearance/FileWatch.h"
+#include "settings/Texts.h"
 #include "storage/GameLock.h"
 #include "storage/LockWatch.h"
-#include "storage/Texts.h"
 
 #include <QObject>
 #include <QTimer>

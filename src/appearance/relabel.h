@@ -2,7 +2,7 @@
 // of a window in the language in use, when the window is made and whenever the language changes.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QString>
 

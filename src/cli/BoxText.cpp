@@ -1,7 +1,7 @@
 #include "cli/Reports.h"
 #include "cli/TextTable.h"
 #include "scorecard/BoxScore.h"
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 #include "storage/EventWords.h"
 #include "storage/Module1.h"
 #include "storage/Utf8.h"

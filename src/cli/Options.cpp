@@ -1,7 +1,7 @@
 #include "cli/Options.h"
 
+#include "settings/ChoiceTexts.h"
 #include "storage/CalendarDay.h"
-#include "storage/ChoiceTexts.h"
 #include "storage/Module1.h"
 
 #include <optional>

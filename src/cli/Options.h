@@ -2,7 +2,7 @@
 #pragma once
 
 #include "season/Qualification.h"
-#include "storage/CommandLine.h"
+#include "settings/CommandLine.h"
 #include "storage/DelimitedText.h"
 
 #include <cstdint>

@@ -4,8 +4,8 @@
 
 #include "cli/JsonWriter.h"
 #include "scorecard/Scorecard.h"
+#include "settings/Texts.h"
 #include "storage/DelimitedText.h"
-#include "storage/Texts.h"
 
 #include <optional>
 #include <string>

@@ -2,7 +2,7 @@
 #include "cli/SeasonReports.h"
 #include "season/GameColumns.h"
 #include "season/Leaders.h"
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 
 namespace hooptab {
 

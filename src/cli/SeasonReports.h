@@ -2,8 +2,8 @@
 #pragma once
 
 #include "season/Qualification.h"
+#include "settings/Texts.h"
 #include "storage/DelimitedText.h"
-#include "storage/Texts.h"
 
 #include <optional>
 #include <string>

@@ -7,7 +7,7 @@
 #include "live/PassingMenu.h"
 #include "live/StatButton.h"
 #include "live/StatControls.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QBoxLayout>
 #include <QKeyEvent>

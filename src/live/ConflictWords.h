@@ -2,8 +2,8 @@
 #pragma once
 
 #include "live/OnCourt.h"
+#include "settings/Texts.h"
 #include "storage/GameFile.h"
-#include "storage/Texts.h"
 
 #include <string>
 

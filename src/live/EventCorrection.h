@@ -6,7 +6,7 @@
 #pragma once
 
 #include "live/LiveGame.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <optional>
 #include <string>

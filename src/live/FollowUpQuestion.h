@@ -6,7 +6,7 @@
 
 #include "live/JerseyMatch.h"
 #include "live/LiveGame.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <optional>
 #include <string>

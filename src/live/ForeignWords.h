@@ -1,8 +1,8 @@
 // What others did to the file of a game, in words for the one who records it.
 #pragma once
 
+#include "settings/Texts.h"
 #include "storage/GameOnDisk.h"
-#include "storage/Texts.h"
 
 #include <string>
 

@@ -3,7 +3,7 @@
 // and checks; what the keys then do is the recorder's.
 #pragma once
 
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <array>
 #include <cstdint>

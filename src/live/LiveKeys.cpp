@@ -5,7 +5,7 @@
 #include "live/KeySheet.h"
 #include "live/KeypadDisplay.h"
 #include "live/QtKeys.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -4,8 +4,8 @@
 
 #include "game/Finding.h"
 #include "live/Substitution.h"
+#include "settings/Texts.h"
 #include "storage/GameFile.h"
-#include "storage/Texts.h"
 
 #include <string>
 #include <vector>

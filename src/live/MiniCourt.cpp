@@ -3,7 +3,7 @@
 #include "appearance/CourtClick.h"
 #include "appearance/CourtColourChoice.h"
 #include "appearance/Theme.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QMouseEvent>
 

@@ -1,6 +1,6 @@
 #include "live/NewPlayer.h"
 
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 #include "storage/EventWords.h"
 #include "storage/Placeholders.h"
 #include "storage/codepage.h"

@@ -2,8 +2,8 @@
 // nothing; the live game adds him.
 #pragma once
 
+#include "settings/Texts.h"
 #include "storage/GameFile.h"
-#include "storage/Texts.h"
 
 #include <cstdint>
 #include <string>

@@ -3,7 +3,7 @@
 // it has to be filled in. Shows, and says what was asked for.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QWidget>
 

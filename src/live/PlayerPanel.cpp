@@ -10,7 +10,7 @@
 #include "live/MiniCourt.h"
 #include "live/StatButton.h"
 #include "live/StatControls.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -2,7 +2,7 @@
 
 #include "appearance/relabel.h"
 #include "live/LiveGame.h"
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 
 #include <QWidget>

@@ -5,7 +5,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/LiveGame.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QAction>
 #include <QBoxLayout>

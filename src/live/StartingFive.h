@@ -2,7 +2,7 @@
 #pragma once
 
 #include "live/LiveGame.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <string>
 

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "live/Substitution.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <optional>
 #include <string>

@@ -10,9 +10,9 @@
 #include "live/ScoreText.h"
 #include "live/StatButton.h"
 #include "live/StatControls.h"
+#include "settings/Settings.h"
 #include "storage/EventWords.h"
 #include "storage/Module1.h"
-#include "storage/Settings.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

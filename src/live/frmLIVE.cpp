@@ -26,9 +26,9 @@
 #include "live/SideSwitch.h"
 #include "live/frmGAMEOVER.h"
 #include "live/frmOVERTIME.h"
+#include "settings/Settings.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
-#include "storage/Settings.h"
 
 #include <QBoxLayout>
 #include <QDateTime>

@@ -16,8 +16,8 @@
 #include "live/PeriodEndCard.h"
 #include "live/PlayerPanel.h"
 #include "live/RepeatedPress.h"
+#include "settings/Settings.h"
 #include "storage/EventWords.h"
-#include "storage/Settings.h"
 
 #include <QCursor>
 #include <QShortcut>

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "manual/ManualColumns.h"
+#include "settings/Settings.h"
+#include "settings/Texts.h"
 #include "storage/GameDetails.h"
-#include "storage/Settings.h"
-#include "storage/Texts.h"
 
 #include <string>
 

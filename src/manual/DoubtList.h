@@ -3,7 +3,7 @@
 #pragma once
 
 #include "manual/CheckedSheet.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QWidget>
 

@@ -4,8 +4,8 @@
 
 #include "manual/ManualGame.h"
 #include "manual/ScannedTotals.h"
-#include "storage/Settings.h"
-#include "storage/Texts.h"
+#include "settings/Settings.h"
+#include "settings/Texts.h"
 
 #include <QAbstractTableModel>
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "manual/GrayPicture.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <cstdint>
 #include <string>

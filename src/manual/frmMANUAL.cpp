@@ -14,7 +14,7 @@
 #include "manual/TotalsChange.h"
 #include "manual/TotalsTable.h"
 #include "manual/frmSCAN.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

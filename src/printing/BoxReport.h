@@ -3,7 +3,7 @@
 
 #include "printing/Report.h"
 #include "scorecard/ScorecardView.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 namespace hooptab {
 

@@ -6,7 +6,7 @@
 #include "scorecard/ColumnWords.h"
 #include "scorecard/Scoreboard.h"
 #include "scorecard/ScorecardTexts.h"
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 #include "storage/EventWords.h"
 #include "storage/Glossary.h"
 #include "storage/Module1.h"

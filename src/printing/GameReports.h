@@ -4,9 +4,9 @@
 
 #include "printing/Report.h"
 #include "scorecard/ScorecardView.h"
+#include "settings/Settings.h"
 #include "storage/GameFile.h"
 #include "storage/GameState.h"
-#include "storage/Settings.h"
 
 namespace hooptab {
 

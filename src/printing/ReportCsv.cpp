@@ -1,7 +1,7 @@
 #include "printing/ReportText.h"
+#include "settings/Texts.h"
 #include "storage/DelimitedText.h"
 #include "storage/Module1.h"
-#include "storage/Texts.h"
 
 #include <algorithm>
 

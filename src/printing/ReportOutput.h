@@ -7,7 +7,7 @@
 #include "appearance/BackgroundWork.h"
 #include "printing/PageFormat.h"
 #include "printing/ReportFiles.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QTimer>
 #include <QWidget>

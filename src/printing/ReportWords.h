@@ -2,7 +2,7 @@
 #pragma once
 
 #include "printing/Report.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <string>
 #include <string_view>

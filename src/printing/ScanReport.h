@@ -4,9 +4,9 @@
 
 #include "manual/ScannedTotals.h"
 #include "printing/Report.h"
+#include "settings/Settings.h"
+#include "settings/Texts.h"
 #include "storage/GameDetails.h"
-#include "storage/Settings.h"
-#include "storage/Texts.h"
 
 #include <string>
 

@@ -10,7 +10,7 @@
 #include "season/SeasonColumns.h"
 #include "season/SeasonShots.h"
 #include "season/SeasonWords.h"
-#include "storage/CountWords.h"
+#include "settings/CountWords.h"
 #include "storage/Glossary.h"
 #include "storage/Module1.h"
 

@@ -4,8 +4,8 @@
 
 #include "printing/Report.h"
 #include "season/Qualification.h"
-#include "storage/Settings.h"
-#include "storage/Texts.h"
+#include "settings/Settings.h"
+#include "settings/Texts.h"
 
 #include <cstdint>
 #include <optional>

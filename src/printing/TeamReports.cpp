@@ -2,7 +2,7 @@
 
 #include "printing/PrintTexts.h"
 #include "printing/ReportWords.h"
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 

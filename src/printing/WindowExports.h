@@ -4,7 +4,7 @@
 
 #include "appearance/ShownPicture.h"
 #include "printing/ReportFiles.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QObject>
 #include <QPointer>

@@ -7,7 +7,7 @@
 #include "appearance/WidgetsFirst.h"
 #include "printing/PageFormat.h"
 #include "printing/Report.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QTimer>
 

@@ -1,5 +1,5 @@
 // The string tables that the program carries: the bytes of texts_en.txt and texts_fr.txt as they are in the
-// source tree. Reading them is the work of storage/Texts. And the pages that --help prints.
+// source tree. Reading them is the work of settings/Texts. And the pages that --help prints.
 #pragma once
 
 #include <string_view>

@@ -1,6 +1,6 @@
 #include "scorecard/BoxScore.h"
 
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 
 #include <algorithm>

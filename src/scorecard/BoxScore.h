@@ -3,9 +3,9 @@
 // columns, not how they look.
 #pragma once
 
+#include "settings/Texts.h"
 #include "storage/GameFile.h"
 #include "storage/GameState.h"
-#include "storage/Texts.h"
 
 #include <array>
 #include <cstdint>

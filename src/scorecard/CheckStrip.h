@@ -2,7 +2,7 @@
 // picks a finding is led to its event. Hidden where nothing was found.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QFrame>
 

@@ -2,7 +2,7 @@
 // first, and eight of them read "PTS".
 #pragma once
 
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <string>
 

@@ -3,7 +3,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "scorecard/ScorecardTexts.h"
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 
 #include <QGridLayout>
 #include <QLineEdit>

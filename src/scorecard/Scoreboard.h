@@ -2,9 +2,9 @@
 // and state of the game. Lays out nothing.
 #pragma once
 
+#include "settings/Texts.h"
 #include "storage/GameFile.h"
 #include "storage/GameState.h"
-#include "storage/Texts.h"
 
 #include <array>
 #include <cstdint>

@@ -7,9 +7,9 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "scorecard/ScorecardTexts.h"
+#include "settings/Settings.h"
 #include "storage/Glossary.h"
 #include "storage/Module1.h"
-#include "storage/Settings.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>

@@ -15,8 +15,8 @@
 #include "scorecard/ScoreboardStrip.h"
 #include "scorecard/ScorecardTexts.h"
 #include "scorecard/ShotChartPanel.h"
+#include "settings/Settings.h"
 #include "storage/Placeholders.h"
-#include "storage/Settings.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

@@ -5,7 +5,7 @@
 #include "season/SeasonTables.h"
 #include "season/SeasonTexts.h"
 #include "season/ViewSwitch.h"
-#include "storage/CountWords.h"
+#include "settings/CountWords.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>

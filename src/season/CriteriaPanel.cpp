@@ -3,7 +3,7 @@
 #include "appearance/Fields.h"
 #include "appearance/relabel.h"
 #include "season/SeasonTexts.h"
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 
 #include <QBoxLayout>
 #include <QCalendarWidget>

@@ -1,7 +1,7 @@
 // The head of the season's window: the folder of games, and how far the work on it is.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QWidget>
 

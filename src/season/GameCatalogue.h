@@ -4,8 +4,8 @@
 #pragma once
 
 #include "season/ListedGame.h"
+#include "settings/Texts.h"
 #include "storage/FileSystem.h"
-#include "storage/Texts.h"
 
 #include <atomic>
 #include <cstdint>

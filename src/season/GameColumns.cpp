@@ -1,6 +1,6 @@
 #include "season/GameColumns.h"
 
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 
 #include <array>
 #include <limits>

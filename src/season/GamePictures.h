@@ -5,7 +5,7 @@
 #include "season/GameSeries.h"
 #include "season/Season.h"
 #include "season/SeriesPicture.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 namespace hooptab {
 

@@ -3,7 +3,7 @@
 
 #include "season/Season.h"
 #include "season/SeasonTableView.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 class QLabel;
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "season/Qualification.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QWidget>
 

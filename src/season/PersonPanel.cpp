@@ -8,7 +8,7 @@
 #include "season/SeasonTexts.h"
 #include "season/SeriesView.h"
 #include "season/ZoneChart.h"
-#include "storage/CountWords.h"
+#include "settings/CountWords.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

@@ -4,7 +4,7 @@
 
 #include "season/Season.h"
 #include "season/SeasonTableView.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <memory>
 

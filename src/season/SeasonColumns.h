@@ -3,7 +3,7 @@
 #pragma once
 
 #include "season/SeasonStatistics.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <cstdint>
 #include <iterator>

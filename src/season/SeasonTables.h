@@ -7,7 +7,7 @@
 #include "season/Season.h"
 #include "season/SeasonWords.h"
 #include "season/SnapshotModel.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <memory>
 #include <vector>

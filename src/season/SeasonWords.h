@@ -2,7 +2,7 @@
 #pragma once
 
 #include "season/Qualification.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <array>
 #include <string>

@@ -2,7 +2,7 @@
 // average across, or margins as bars above and below zero. Computes none of the numbers.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QColor>
 #include <QPainter>

@@ -2,10 +2,10 @@
 
 #include "appearance/CourtGeometry.h"
 #include "game/GameCheck.h"
+#include "settings/ChoiceTexts.h"
+#include "settings/Settings.h"
 #include "storage/AtomicFile.h"
 #include "storage/CalendarDay.h"
-#include "storage/ChoiceTexts.h"
-#include "storage/Settings.h"
 #include "storage/Tally.h"
 
 #include <algorithm>

@@ -7,7 +7,7 @@
 #include "season/SeasonTexts.h"
 #include "season/SeriesView.h"
 #include "season/ZoneChart.h"
-#include "storage/CountWords.h"
+#include "settings/CountWords.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 

@@ -6,7 +6,7 @@
 #include "appearance/CourtPicture.h"
 #include "appearance/ShownPicture.h"
 #include "season/SeasonShots.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QWidget>
 

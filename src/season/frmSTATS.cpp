@@ -14,7 +14,7 @@
 #include "season/SeasonTables.h"
 #include "season/SeasonTexts.h"
 #include "season/TeamPanel.h"
-#include "storage/CountWords.h"
+#include "settings/CountWords.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 

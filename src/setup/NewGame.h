@@ -4,10 +4,10 @@
 // it.
 #pragma once
 
+#include "settings/ChoiceTexts.h"
+#include "settings/Texts.h"
 #include "setup/QuickRoster.h"
-#include "storage/ChoiceTexts.h"
 #include "storage/GameFile.h"
-#include "storage/Texts.h"
 #include "teams/TeamStore.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 // The numbers of a team that plays without names, typed in one go: "4 5 7 10 23".
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <cstddef>
 #include <string>

@@ -3,7 +3,7 @@
 
 #include "appearance/ColourScheme.h"
 #include "season/Qualification.h"
-#include "storage/CommandLine.h"
+#include "settings/CommandLine.h"
 
 #include <optional>
 #include <string>

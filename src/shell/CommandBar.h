@@ -3,8 +3,8 @@
 // was asked for, and carries out none.
 #pragma once
 
+#include "settings/Texts.h"
 #include "shell/CommandState.h"
-#include "storage/Texts.h"
 
 #include <QHash>
 #include <QObject>

@@ -1,7 +1,7 @@
 // Puts Qt's own texts (buttons of message boxes, the file dialog) into the language of the program.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QTranslator>
 

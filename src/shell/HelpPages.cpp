@@ -2,7 +2,7 @@
 
 #include "appearance/Dialogs.h"
 #include "appearance/relabel.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QDir>
 #include <QFileInfo>

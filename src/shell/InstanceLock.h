@@ -3,8 +3,8 @@
 // the program runs without: it cannot harm what it cannot write.
 #pragma once
 
+#include "settings/Texts.h"
 #include "storage/LockFile.h"
-#include "storage/Texts.h"
 
 #include <QString>
 

@@ -6,12 +6,12 @@
 #include "appearance/ColourScheme.h"
 #include "live/KeypadAssignment.h"
 #include "printing/SeasonReports.h"
+#include "settings/Settings.h"
 #include "shell/CommandState.h"
 #include "shell/DialogLanguage.h"
 #include "shell/HelpPages.h"
 #include "storage/GameFile.h"
 #include "storage/GameLock.h"
-#include "storage/Settings.h"
 #include "teams/TeamStore.h"
 
 #include <QMainWindow>

@@ -3,7 +3,7 @@
 // business of others.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <optional>
 #include <string>

@@ -1,9 +1,9 @@
 // A line of the start page's recent games: date, teams, score and state, or why there are none.
 #pragma once
 
+#include "settings/Texts.h"
 #include "shell/PageButton.h"
 #include "shell/RecentGames.h"
-#include "storage/Texts.h"
 
 namespace hooptab {
 

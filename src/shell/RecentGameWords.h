@@ -1,8 +1,8 @@
 // What the start page says of a game, in words.
 #pragma once
 
+#include "settings/Texts.h"
 #include "shell/RecentGames.h"
-#include "storage/Texts.h"
 
 #include <QString>
 

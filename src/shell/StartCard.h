@@ -2,8 +2,8 @@
 // behind it. Pressing it triggers the command, or opens its menu.
 #pragma once
 
+#include "settings/Texts.h"
 #include "shell/PageButton.h"
-#include "storage/Texts.h"
 
 class QAction;
 class QMenu;

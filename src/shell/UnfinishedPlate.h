@@ -1,8 +1,8 @@
 // The plate of the start page with the game that goes on: where it stands, and the ways back into it.
 #pragma once
 
+#include "settings/Texts.h"
 #include "shell/RecentGames.h"
-#include "storage/Texts.h"
 
 #include <QWidget>
 

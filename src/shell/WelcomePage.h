@@ -5,8 +5,8 @@
 #pragma once
 
 #include "appearance/BackgroundWork.h"
+#include "settings/Texts.h"
 #include "shell/RecentGames.h"
-#include "storage/Texts.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 // Says what the program is: name, version, purpose, the Qt it runs with and the licence.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <QDialog>
 

@@ -1,10 +1,10 @@
 #include "storage/EventWords.h"
 
+#include "settings/Settings.h"
 #include "storage/Module1.h"
 #include "storage/PeriodName.h"
 #include "storage/Placeholders.h"
 #include "storage/PlayerLookup.h"
-#include "storage/Settings.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // How a period is named, the same in every window, report and list.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "teams/PlayerCsv.h"
 
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 #include "storage/DelimitedText.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"

@@ -4,7 +4,7 @@
 // UTF-8 text; knows no file and no window.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 #include "teams/TeamStore.h"
 
 #include <string>

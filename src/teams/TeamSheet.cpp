@@ -1,6 +1,6 @@
 #include "teams/TeamSheet.h"
 
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 #include "storage/Roster.h"

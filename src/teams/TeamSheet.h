@@ -2,7 +2,7 @@
 // yet. Decides for the team editor; writes nothing itself.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 #include "teams/TeamStore.h"
 
 #include <functional>

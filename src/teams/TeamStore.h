@@ -3,7 +3,7 @@
 // take waits with the settings, and is shown as if it were there.
 #pragma once
 
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 #include "teams/TeamRecord.h"
 
 #include <cstddef>

@@ -1,6 +1,6 @@
 #include "appearance/CourtGeometry.h"
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -4,7 +4,7 @@
 #include "live/ManualTime.h"
 #include "live/RosterStrip.h"
 #include "live/frmSUBST.h"
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 #include "support/TemporaryFolder.h"
 
 #include <QApplication>

@@ -9,7 +9,7 @@
 #include "live/frmEDIT.h"
 #include "live/frmLIVE.h"
 #include "live/frmSUBST.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 

@@ -6,8 +6,8 @@
 #include "live/ManualTime.h"
 #include "live/MiniCourt.h"
 #include "live/StatButton.h"
+#include "settings/Settings.h"
 #include "storage/FileSystem.h"
-#include "storage/Settings.h"
 #include "support/TemporaryFolder.h"
 
 #include <QLabel>

@@ -7,7 +7,7 @@
 #include "live/BenchPanel.h"
 #include "live/JerseyButton.h"
 #include "live/ManualTime.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 #include "support/FaultyFileSystem.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"

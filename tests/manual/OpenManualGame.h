@@ -4,7 +4,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "manual/frmMANUAL.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 #include "support/TextGame.h"

@@ -7,7 +7,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "manual/TotalsTable.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 #include "support/OfficialBox.h"
 #include "support/ScriptedDialogs.h"
 #include "support/SharedGames.h"

@@ -3,7 +3,7 @@
 
 #include "appearance/CourtView.h"
 #include "manual/TotalsTable.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 // The box score: derived numbers, the column table, the rows of players and lines and what they add up to.
 #include "scorecard/BoxScore.h"
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 
 #include "support/TextGame.h"
 

@@ -5,7 +5,7 @@
 #include "scorecard/BoxTable.h"
 #include "scorecard/FrozenTableView.h"
 #include "scorecard/frmVIEW.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>

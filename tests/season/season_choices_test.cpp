@@ -4,8 +4,8 @@
 
 #include "appearance/relabel.h"
 #include "season/SeasonTableView.h"
+#include "settings/Settings.h"
 #include "simulator/SampleSeason.h"
-#include "storage/Settings.h"
 #include "storage/cinifile.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"

@@ -1,7 +1,7 @@
 #include "shell/Commands.h"
 
+#include "settings/Texts.h"
 #include "shell/CommandState.h"
-#include "storage/Texts.h"
 
 #include <algorithm>
 #include <cctype>

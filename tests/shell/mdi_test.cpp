@@ -16,12 +16,12 @@
 #include "printing/frmprint.h"
 #include "scorecard/frmVIEW.h"
 #include "season/frmSTATS.h"
+#include "settings/Settings.h"
 #include "setup/frmNEWGAME.h"
 #include "shell/Commands.h"
 #include "shell/InstanceLock.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
-#include "storage/Settings.h"
 #include "support/ScriptedDialogs.h"
 #include "teams/frmEQUIPES.h"
 

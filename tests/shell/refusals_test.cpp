@@ -1,6 +1,6 @@
 #include "shell/Refusals.h"
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <gtest/gtest.h>
 #include <set>

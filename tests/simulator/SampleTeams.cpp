@@ -1,7 +1,7 @@
 #include "simulator/SampleTeams.h"
 
+#include "settings/Settings.h"
 #include "storage/Module1.h"
-#include "storage/Settings.h"
 
 namespace hooptab {
 

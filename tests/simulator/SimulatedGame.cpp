@@ -1,6 +1,6 @@
 #include "simulator/SimulatedGame.h"
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 namespace hooptab {
 

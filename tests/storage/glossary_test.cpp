@@ -1,7 +1,7 @@
 // One word and one abbreviation for a thing, in the program's texts and in its guide.
 #include "storage/Glossary.h"
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <cctype>
 #include <fstream>

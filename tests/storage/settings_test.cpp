@@ -1,4 +1,4 @@
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include "storage/Module1.h"
 #include "storage/PathText.h"

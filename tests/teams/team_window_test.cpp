@@ -1,6 +1,6 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 #include "teams/PlayerTableModel.h"

@@ -1,7 +1,7 @@
 #include "MouseHand.h"
 
 #include "SeveralPanel.h"
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include <array>
 #include <bit>

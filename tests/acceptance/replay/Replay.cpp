@@ -1,7 +1,7 @@
 #include "Replay.h"
 
+#include "settings/Settings.h"
 #include "storage/Module1.h"
-#include "storage/Settings.h"
 
 #include <chrono>
 #include <cmath>

@@ -3,8 +3,8 @@
 // The file is described in docs/formats/config.md.
 #pragma once
 
+#include "settings/Texts.h"
 #include "storage/FileGuard.h"
-#include "storage/Texts.h"
 #include "storage/WriteQueue.h"
 #include "storage/cinifile.h"
 

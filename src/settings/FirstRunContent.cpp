@@ -1,5 +1,5 @@
+#include "settings/Settings.h"
 #include "storage/PathText.h"
-#include "storage/Settings.h"
 
 #include <span>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "storage/Settings.h"
+#include "settings/Settings.h"
 
 #include "storage/AtomicFile.h"
 #include "storage/BatchText.h"

@@ -1,4 +1,4 @@
-#include "storage/ChoiceTexts.h"
+#include "settings/ChoiceTexts.h"
 
 namespace hooptab {
 

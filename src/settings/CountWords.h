@@ -2,7 +2,7 @@
 // "2 parties".
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <cstddef>
 #include <string>

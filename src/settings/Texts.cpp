@@ -1,4 +1,4 @@
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include "resources/tables.h"
 #include "storage/Module1.h"

@@ -2,7 +2,7 @@
 // stored is the index, 0 to 9; an index whose text is "---" is not offered.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <string>
 #include <string_view>

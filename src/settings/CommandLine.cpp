@@ -1,4 +1,4 @@
-#include "storage/CommandLine.h"
+#include "settings/CommandLine.h"
 
 #include "storage/Placeholders.h"
 

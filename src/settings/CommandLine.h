@@ -1,7 +1,7 @@
 // What the command lines of the two programs share: their language, and how wrong use is told in it.
 #pragma once
 
-#include "storage/Texts.h"
+#include "settings/Texts.h"
 
 #include <optional>
 #include <string>

@@ -1,4 +1,4 @@
-#include "storage/CountWords.h"
+#include "settings/CountWords.h"
 
 namespace hooptab {
 
