@@ -2,7 +2,7 @@
 // that the team plays on; whoever was clicked and made or missed are the caller's.
 #pragma once
 
-#include "appearance/ZoneMap.h"
+#include "court/ZoneMap.h"
 #include "settings/Settings.h"
 #include "storage/EventKind.h"
 

@@ -1,6 +1,6 @@
 #include "game/EventCheck.h"
 
-#include "appearance/CourtGeometry.h"
+#include "court/CourtGeometry.h"
 #include "game/LineUpCheck.h"
 #include "game/NumberCheck.h"
 #include "game/ShotFollowUp.h"

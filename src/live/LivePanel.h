@@ -2,7 +2,7 @@
 // counters. Words, colours on screen and layout are the widget's.
 #pragma once
 
-#include "appearance/CourtGeometry.h"
+#include "court/CourtGeometry.h"
 #include "storage/GameState.h"
 
 #include <cstdint>

@@ -2,8 +2,8 @@
 // shot counts, the pointer forbids and a press only flashes.
 #pragma once
 
-#include "appearance/CourtPicture.h"
-#include "appearance/ZoneMap.h"
+#include "court/CourtPicture.h"
+#include "court/ZoneMap.h"
 #include "live/LivePanel.h"
 
 #include <QPixmap>

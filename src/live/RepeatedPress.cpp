@@ -1,6 +1,6 @@
 #include "live/RepeatedPress.h"
 
-#include "appearance/CourtGeometry.h"
+#include "court/CourtGeometry.h"
 #include "live/MiniCourt.h"
 #include "live/StatButton.h"
 

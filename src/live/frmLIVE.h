@@ -5,7 +5,7 @@
 #include "appearance/ChildWindow.h"
 #include "appearance/GameHold.h"
 #include "appearance/WidgetsFirst.h"
-#include "appearance/ZoneMap.h"
+#include "court/ZoneMap.h"
 #include "live/EventCorrection.h"
 #include "live/FollowUpQuestion.h"
 #include "live/LiveGame.h"

@@ -1,7 +1,7 @@
 #include "manual/ManualCourt.h"
 
-#include "appearance/CourtColourChoice.h"
 #include "appearance/Theme.h"
+#include "court/CourtColourChoice.h"
 
 #include <QMouseEvent>
 #include <QPainter>

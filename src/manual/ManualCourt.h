@@ -3,7 +3,7 @@
 #pragma once
 
 #include "appearance/CourtClick.h"
-#include "appearance/CourtView.h"
+#include "court/CourtView.h"
 
 #include <QTimer>
 

@@ -1,7 +1,7 @@
 #include "printing/ReportPainter.h"
 
-#include "appearance/CourtPicture.h"
 #include "appearance/relabel.h"
+#include "court/CourtPicture.h"
 #include "printing/FormPainter.h"
 #include "season/ZoneChart.h"
 #include "storage/Module1.h"

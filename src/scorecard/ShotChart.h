@@ -1,7 +1,7 @@
 // Which shots a chart shows, and their sums by zone of the court. Draws nothing.
 #pragma once
 
-#include "appearance/CourtGeometry.h"
+#include "court/CourtGeometry.h"
 #include "scorecard/BoxScore.h"
 #include "storage/GameState.h"
 

@@ -1,11 +1,11 @@
 #include "scorecard/ShotChartPanel.h"
 
-#include "appearance/CourtColourChoice.h"
-#include "appearance/CourtView.h"
 #include "appearance/Icons.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "court/CourtColourChoice.h"
+#include "court/CourtView.h"
 #include "scorecard/ScorecardTexts.h"
 #include "settings/Settings.h"
 #include "storage/Glossary.h"

@@ -1,6 +1,6 @@
 #include "season/SummaryReader.h"
 
-#include "appearance/CourtGeometry.h"
+#include "court/CourtGeometry.h"
 #include "game/GameCheck.h"
 #include "settings/ChoiceTexts.h"
 #include "settings/Settings.h"

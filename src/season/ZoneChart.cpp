@@ -1,8 +1,8 @@
 #include "season/ZoneChart.h"
 
-#include "appearance/CourtView.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
+#include "court/CourtView.h"
 #include "season/SeasonTexts.h"
 #include "storage/Module1.h"
 

@@ -3,8 +3,8 @@
 // outside.
 #pragma once
 
-#include "appearance/CourtPicture.h"
 #include "appearance/ShownPicture.h"
+#include "court/CourtPicture.h"
 #include "season/SeasonShots.h"
 #include "settings/Texts.h"
 

@@ -1,4 +1,4 @@
-#include "appearance/CourtPicture.h"
+#include "court/CourtPicture.h"
 
 #include "appearance/Theme.h"
 

@@ -3,9 +3,9 @@
 #include "manual/frmMANUAL.h"
 
 #include "appearance/CourtClick.h"
-#include "appearance/CourtView.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "court/CourtView.h"
 #include "manual/TotalsTable.h"
 #include "settings/Settings.h"
 #include "support/OfficialBox.h"

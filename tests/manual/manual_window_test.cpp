@@ -1,7 +1,7 @@
 // Manual entry as it is used: with clicks and keys on the window, and what stands in the file afterwards.
 #include "manual/OpenManualGame.h"
 
-#include "appearance/CourtView.h"
+#include "court/CourtView.h"
 #include "manual/TotalsTable.h"
 #include "settings/Settings.h"
 

@@ -1,7 +1,7 @@
 #include "season/frmSTATS.h"
 
-#include "appearance/CourtView.h"
 #include "appearance/relabel.h"
+#include "court/CourtView.h"
 #include "season/SeasonFolder.h"
 #include "season/SeasonTableView.h"
 #include "season/SeriesView.h"

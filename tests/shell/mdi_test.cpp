@@ -1,10 +1,10 @@
 #include "shell/MDI.h"
 
-#include "appearance/CourtView.h"
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
-#include "appearance/frmCOULEURS.h"
 #include "appearance/relabel.h"
+#include "court/CourtView.h"
+#include "court/frmCOULEURS.h"
 #include "live/TimeSource.h"
 #include "live/frmConfiguration.h"
 #include "live/frmLIVE.h"

@@ -2,7 +2,7 @@
 // under it is always the one that gave the shot its code.
 #pragma once
 
-#include "appearance/CourtGeometry.h"
+#include "court/CourtGeometry.h"
 #include "simulator/Random.h"
 
 namespace hooptab {

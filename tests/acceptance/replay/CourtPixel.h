@@ -1,7 +1,7 @@
 // Where on the small court of a panel a person clicks to record a shot of a certain place and kind.
 #pragma once
 
-#include "appearance/ZoneMap.h"
+#include "court/ZoneMap.h"
 #include "storage/EventKind.h"
 
 #include <optional>

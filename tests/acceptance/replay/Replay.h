@@ -5,7 +5,7 @@
 #pragma once
 
 #include "Hand.h"
-#include "appearance/ZoneMap.h"
+#include "court/ZoneMap.h"
 #include "storage/Tally.h"
 
 #include <map>

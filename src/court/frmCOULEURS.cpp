@@ -1,12 +1,12 @@
-#include "appearance/frmCOULEURS.h"
+#include "court/frmCOULEURS.h"
 
-#include "appearance/CourtView.h"
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "court/CourtView.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

@@ -1,4 +1,4 @@
-#include "appearance/CourtView.h"
+#include "court/CourtView.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "appearance/CourtGeometry.h"
+#include "court/CourtGeometry.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 // it.
 #pragma once
 
-#include "appearance/CourtPicture.h"
+#include "court/CourtPicture.h"
 
 #include <QStringList>
 #include <QWidget>

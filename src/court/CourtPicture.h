@@ -1,8 +1,8 @@
 // Draws the half court, shots and zone sums with a QPainter, at any scale, on screen and on paper alike.
 #pragma once
 
-#include "appearance/CourtGeometry.h"
 #include "appearance/Theme.h"
+#include "court/CourtGeometry.h"
 #include "settings/Settings.h"
 
 #include <QColor>

@@ -3,8 +3,8 @@
 // open windows follow is the main window's affair.
 #pragma once
 
-#include "appearance/CourtColourChoice.h"
 #include "appearance/Theme.h"
+#include "court/CourtColourChoice.h"
 
 #include <QDialog>
 

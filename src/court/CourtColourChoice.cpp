@@ -1,4 +1,4 @@
-#include "appearance/CourtColourChoice.h"
+#include "court/CourtColourChoice.h"
 
 #include "storage/codepage.h"
 

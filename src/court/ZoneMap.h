@@ -2,7 +2,7 @@
 // own colour and the two lines that separate zones one pixel wide, in a colour that never equals a zone's.
 #pragma once
 
-#include "appearance/CourtGeometry.h"
+#include "court/CourtGeometry.h"
 
 #include <cstdint>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "appearance/ZoneMap.h"
+#include "court/ZoneMap.h"
 
 #include <algorithm>
 #include <cmath>
