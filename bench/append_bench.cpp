@@ -1,7 +1,7 @@
 // Appending one event durably, beside the plain system calls that any such append must make: write a
 // temporary file of that size, fsync it, rename it, fsync the folder.
+#include "game/GameFile.h"
 #include "game_to_measure.h"
-#include "storage/GameFile.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 // Reading and tallying one real-sized game from its file, beside the floor (reading its bytes) and two
 // well-known parsers that only split the same file into keys and values.
+#include "game/GameFile.h"
+#include "game/Tally.h"
 #include "game_to_measure.h"
-#include "storage/GameFile.h"
-#include "storage/Tally.h"
 
 #include <benchmark/benchmark.h>
 

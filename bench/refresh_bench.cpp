@@ -1,9 +1,9 @@
 // Refresh of an open scorecard after its game grew by one event: reading, counting, updating the tables,
 // drawing the window.
+#include "game/GameFile.h"
 #include "game_to_measure.h"
 #include "scorecard/frmVIEW.h"
 #include "settings/Settings.h"
-#include "storage/GameFile.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>

@@ -3,7 +3,7 @@
 // nothing and reads nothing.
 #pragma once
 
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 #include <array>
 #include <cstdint>

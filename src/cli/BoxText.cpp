@@ -1,8 +1,8 @@
 #include "cli/Reports.h"
 #include "cli/TextTable.h"
+#include "game/EventWords.h"
 #include "scorecard/BoxScore.h"
 #include "settings/ChoiceTexts.h"
-#include "storage/EventWords.h"
 #include "storage/Module1.h"
 #include "storage/Utf8.h"
 

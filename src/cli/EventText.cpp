@@ -1,6 +1,6 @@
 #include "cli/Reports.h"
 #include "cli/TextTable.h"
-#include "storage/EventWords.h"
+#include "game/EventWords.h"
 #include "storage/Utf8.h"
 
 namespace hooptab {

@@ -3,9 +3,9 @@
 #include "court/CourtGeometry.h"
 #include "game/LineUpCheck.h"
 #include "game/NumberCheck.h"
+#include "game/PlayerLookup.h"
 #include "game/ShotFollowUp.h"
 #include "storage/Module1.h"
-#include "storage/PlayerLookup.h"
 
 #include <algorithm>
 #include <array>

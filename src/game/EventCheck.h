@@ -2,7 +2,7 @@
 #pragma once
 
 #include "game/Finding.h"
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
 
 #include <vector>
 

@@ -1,8 +1,8 @@
 #include "game/FindingWords.h"
 
-#include "storage/EventWords.h"
+#include "game/EventWords.h"
+#include "game/PlayerLookup.h"
 #include "storage/Placeholders.h"
-#include "storage/PlayerLookup.h"
 
 namespace hooptab {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "game/Finding.h"
+#include "game/GameFile.h"
 #include "settings/Texts.h"
-#include "storage/GameFile.h"
 
 #include <string>
 

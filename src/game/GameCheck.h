@@ -5,9 +5,9 @@
 #pragma once
 
 #include "game/Finding.h"
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
+#include "game/Tally.h"
 #include "storage/ProfileText.h"
-#include "storage/Tally.h"
 
 #include <optional>
 #include <vector>

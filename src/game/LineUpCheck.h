@@ -3,8 +3,8 @@
 #pragma once
 
 #include "game/Finding.h"
-#include "storage/GameFile.h"
-#include "storage/PlayerLookup.h"
+#include "game/GameFile.h"
+#include "game/PlayerLookup.h"
 
 #include <array>
 #include <optional>

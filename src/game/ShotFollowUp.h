@@ -2,7 +2,7 @@
 // other shot and no start of the clock between. Deleted events do not count.
 #pragma once
 
-#include "storage/GameEvent.h"
+#include "game/GameEvent.h"
 
 #include <cstddef>
 #include <optional>

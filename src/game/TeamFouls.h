@@ -2,8 +2,8 @@
 // from the last regular period on.
 #pragma once
 
-#include "storage/GameDetails.h"
-#include "storage/GameState.h"
+#include "game/GameDetails.h"
+#include "game/GameState.h"
 
 namespace hooptab {
 

@@ -3,8 +3,8 @@
 // game.
 #pragma once
 
+#include "game/EventKind.h"
 #include "live/OnCourt.h"
-#include "storage/EventKind.h"
 
 #include <QWidget>
 

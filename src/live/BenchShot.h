@@ -3,7 +3,7 @@
 // missed. Comes up where it is asked for and goes with the shot; says what was pressed, records nothing.
 #pragma once
 
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 #include <QFrame>
 

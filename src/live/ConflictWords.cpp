@@ -1,6 +1,6 @@
 #include "live/ConflictWords.h"
 
-#include "storage/EventWords.h"
+#include "game/EventWords.h"
 #include "storage/Placeholders.h"
 
 namespace hooptab {

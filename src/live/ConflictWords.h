@@ -1,9 +1,9 @@
 // Says in words what does not fit when a substitution is put in, changed or taken out later.
 #pragma once
 
+#include "game/GameFile.h"
 #include "live/OnCourt.h"
 #include "settings/Texts.h"
-#include "storage/GameFile.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 #include "live/EventCorrection.h"
 
+#include "game/EventWords.h"
 #include "game/ShotFollowUp.h"
 #include "live/JerseyMatch.h"
-#include "storage/EventWords.h"
 #include "storage/Placeholders.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "live/EventEdit.h"
 
-#include "storage/GameEvent.h"
-#include "storage/PlayerLookup.h"
+#include "game/GameEvent.h"
+#include "game/PlayerLookup.h"
 
 #include <algorithm>
 

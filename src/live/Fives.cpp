@@ -1,6 +1,6 @@
 #include "live/Fives.h"
 
-#include "storage/PlayerLookup.h"
+#include "game/PlayerLookup.h"
 
 #include <bit>
 #include <tuple>

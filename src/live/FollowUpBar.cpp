@@ -3,9 +3,9 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "game/EventWords.h"
 #include "live/JerseyButton.h"
 #include "live/PlayerWords.h"
-#include "storage/EventWords.h"
 
 #include <QApplication>
 #include <QBoxLayout>

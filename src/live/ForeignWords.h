@@ -1,8 +1,8 @@
 // What others did to the file of a game, in words for the one who records it.
 #pragma once
 
+#include "game/GameOnDisk.h"
 #include "settings/Texts.h"
-#include "storage/GameOnDisk.h"
 
 #include <string>
 

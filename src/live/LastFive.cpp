@@ -1,8 +1,8 @@
 #include "live/LastFive.h"
 
+#include "game/PlayerLookup.h"
 #include "live/OnCourt.h"
 #include "storage/AtomicFile.h"
-#include "storage/PlayerLookup.h"
 #include "storage/codepage.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 // folder, as many as can be read while somebody waits; changes nothing.
 #pragma once
 
+#include "game/GameFile.h"
 #include "storage/FileSystem.h"
-#include "storage/GameFile.h"
 
 #include <cstddef>
 #include <optional>

@@ -2,7 +2,7 @@
 // assist or rebound under its shot, and a mark where something looks wrong.
 #pragma once
 
-#include "appearance/EventListModel.h"
+#include "game/EventListModel.h"
 #include "game/Finding.h"
 #include "live/LiveWords.h"
 #include "live/OnCourt.h"

@@ -4,10 +4,10 @@
 // game.
 #pragma once
 
+#include "game/GameFile.h"
+#include "game/GameOnDisk.h"
+#include "game/Tally.h"
 #include "live/OnCourt.h"
-#include "storage/GameFile.h"
-#include "storage/GameOnDisk.h"
-#include "storage/Tally.h"
 
 #include <optional>
 #include <string>

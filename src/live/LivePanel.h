@@ -3,7 +3,7 @@
 #pragma once
 
 #include "court/CourtGeometry.h"
-#include "storage/GameState.h"
+#include "game/GameState.h"
 
 #include <cstdint>
 #include <string>

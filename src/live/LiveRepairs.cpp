@@ -1,7 +1,7 @@
 #include "live/LiveRepairs.h"
 
-#include "storage/EventWords.h"
-#include "storage/PlayerLookup.h"
+#include "game/EventWords.h"
+#include "game/PlayerLookup.h"
 
 #include <algorithm>
 

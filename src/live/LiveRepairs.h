@@ -3,9 +3,9 @@
 #pragma once
 
 #include "game/Finding.h"
+#include "game/GameFile.h"
 #include "live/Substitution.h"
 #include "settings/Texts.h"
-#include "storage/GameFile.h"
 
 #include <string>
 #include <vector>

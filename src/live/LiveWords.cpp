@@ -1,7 +1,7 @@
 #include "live/LiveWords.h"
 
+#include "game/EventWords.h"
 #include "game/TeamFouls.h"
-#include "storage/EventWords.h"
 #include "storage/Placeholders.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 #include "live/MiniCourt.h"
 
-#include "appearance/CourtClick.h"
 #include "appearance/Theme.h"
 #include "court/CourtColourChoice.h"
+#include "game/CourtClick.h"
 #include "settings/Settings.h"
 
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 #include "live/NewPlayer.h"
 
+#include "game/EventWords.h"
 #include "settings/ChoiceTexts.h"
-#include "storage/EventWords.h"
 #include "storage/Placeholders.h"
 #include "storage/codepage.h"
 #include "teams/TeamRecord.h"

@@ -2,8 +2,8 @@
 // nothing; the live game adds him.
 #pragma once
 
+#include "game/GameFile.h"
 #include "settings/Texts.h"
-#include "storage/GameFile.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 #include "live/OnCourt.h"
 
-#include "storage/GameEvent.h"
+#include "game/GameEvent.h"
 #include "storage/Module1.h"
 
 #include <algorithm>

@@ -3,8 +3,8 @@
 // later has to be carried on. Knows no clock and no file.
 #pragma once
 
-#include "storage/EventChange.h"
-#include "storage/Roster.h"
+#include "game/EventChange.h"
+#include "game/Roster.h"
 
 #include <array>
 #include <optional>

@@ -4,8 +4,8 @@
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "game/EventWords.h"
 #include "live/LiveGame.h"
-#include "storage/EventWords.h"
 #include "storage/Placeholders.h"
 
 #include <QBoxLayout>

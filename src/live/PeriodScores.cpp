@@ -3,9 +3,9 @@
 #include "appearance/ElidedLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "game/EventWords.h"
 #include "live/LiveGame.h"
 #include "live/ScoreText.h"
-#include "storage/EventWords.h"
 
 #include <QPainter>
 

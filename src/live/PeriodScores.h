@@ -2,7 +2,7 @@
 // score tied. The last periods where there is no room for all.
 #pragma once
 
-#include "storage/GameState.h"
+#include "game/GameState.h"
 
 #include <QWidget>
 

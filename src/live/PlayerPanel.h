@@ -2,8 +2,8 @@
 // and his counts. Shows, and says what was pressed; records nothing.
 #pragma once
 
+#include "game/EventKind.h"
 #include "live/LivePanel.h"
-#include "storage/EventKind.h"
 
 #include <QPointF>
 #include <QWidget>

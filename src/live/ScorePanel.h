@@ -3,7 +3,7 @@
 // what was asked; changes nothing.
 #pragma once
 
-#include "storage/GameState.h"
+#include "game/GameState.h"
 
 #include <QPointer>
 #include <QTimer>

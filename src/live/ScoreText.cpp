@@ -1,6 +1,6 @@
 #include "live/ScoreText.h"
 
-#include "storage/EventWords.h"
+#include "game/EventWords.h"
 #include "storage/Module1.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 // panel. Shows, and says what was asked for; records nothing.
 #pragma once
 
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #include "live/StartingFive.h"
 
-#include "storage/EventWords.h"
+#include "game/EventWords.h"
 #include "storage/Placeholders.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 // panel and where an event is edited.
 #pragma once
 
-#include "storage/GameEvent.h"
+#include "game/GameEvent.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #include "live/Substitution.h"
 
+#include "game/PlayerLookup.h"
 #include "storage/Module1.h"
-#include "storage/PlayerLookup.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,17 +1,17 @@
 #include "live/frmEDIT.h"
 
-#include "appearance/CourtClick.h"
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "game/CourtClick.h"
+#include "game/EventWords.h"
 #include "live/MiniCourt.h"
 #include "live/ScoreText.h"
 #include "live/StatButton.h"
 #include "live/StatControls.h"
 #include "settings/Settings.h"
-#include "storage/EventWords.h"
 #include "storage/Module1.h"
 
 #include <QBoxLayout>

@@ -6,7 +6,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "storage/GameDetails.h"
+#include "game/GameDetails.h"
 #include "storage/Placeholders.h"
 #include "storage/cinifile.h"
 #include "storage/codepage.h"

@@ -2,8 +2,9 @@
 // period's end.
 #include "live/frmLIVE.h"
 
-#include "appearance/CourtClick.h"
 #include "appearance/relabel.h"
+#include "game/CourtClick.h"
+#include "game/EventWords.h"
 #include "live/BenchPanel.h"
 #include "live/BenchShot.h"
 #include "live/CorrectionBar.h"
@@ -17,7 +18,6 @@
 #include "live/PlayerPanel.h"
 #include "live/RepeatedPress.h"
 #include "settings/Settings.h"
-#include "storage/EventWords.h"
 
 #include <QCursor>
 #include <QShortcut>

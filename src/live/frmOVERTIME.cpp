@@ -5,8 +5,8 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "game/GameDetails.h"
 #include "live/GameClock.h"
-#include "storage/GameDetails.h"
 #include "storage/Module1.h"
 
 #include <QCheckBox>

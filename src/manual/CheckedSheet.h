@@ -3,8 +3,8 @@
 #pragma once
 
 #include "appearance/FormLayout.h"
+#include "game/GameState.h"
 #include "manual/FormReader.h"
-#include "storage/GameState.h"
 
 #include <array>
 #include <cstddef>

@@ -2,10 +2,10 @@
 // one's own.
 #pragma once
 
+#include "game/GameDetails.h"
 #include "manual/ManualColumns.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"
-#include "storage/GameDetails.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 // of its labels and of its button.
 #pragma once
 
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 #include <array>
 

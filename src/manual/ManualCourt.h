@@ -2,8 +2,8 @@
 // counts, the pointer forbids and a press only flashes.
 #pragma once
 
-#include "appearance/CourtClick.h"
 #include "court/CourtView.h"
+#include "game/CourtClick.h"
 
 #include <QTimer>
 

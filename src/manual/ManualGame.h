@@ -3,9 +3,9 @@
 // file meanwhile gives way, and is kept.
 #pragma once
 
+#include "game/GameFile.h"
 #include "manual/ManualTotals.h"
 #include "storage/FileGuard.h"
-#include "storage/GameFile.h"
 
 #include <functional>
 #include <string>

@@ -1,6 +1,6 @@
 #include "manual/ManualTotals.h"
 
-#include "storage/GameEvent.h"
+#include "game/GameEvent.h"
 
 #include <algorithm>
 #include <optional>

@@ -3,9 +3,9 @@
 // such lines. Knows no file and no window.
 #pragma once
 
-#include "storage/EventChange.h"
-#include "storage/GameState.h"
-#include "storage/Roster.h"
+#include "game/EventChange.h"
+#include "game/GameState.h"
+#include "game/Roster.h"
 
 #include <array>
 #include <cstddef>

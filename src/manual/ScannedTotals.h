@@ -2,10 +2,10 @@
 // game's totals with the sheet's counts added or in their place. Changes nothing itself: it gives new totals.
 #pragma once
 
+#include "game/GameDetails.h"
+#include "game/Roster.h"
 #include "manual/CheckedSheet.h"
 #include "manual/ManualTotals.h"
-#include "storage/GameDetails.h"
-#include "storage/Roster.h"
 
 #include <array>
 #include <string>

@@ -3,9 +3,9 @@
 #include "appearance/Fields.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
+#include "game/GameEvent.h"
 #include "manual/ManualCourt.h"
 #include "manual/ManualGame.h"
-#include "storage/GameEvent.h"
 
 #include <QBoxLayout>
 #include <QListWidget>

@@ -2,7 +2,7 @@
 // are there. With nobody chosen the court shows all of the team's shots, and takes none.
 #pragma once
 
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 #include <QWidget>
 

@@ -1,5 +1,8 @@
 #include "printing/GameReports.h"
 
+#include "game/EventWords.h"
+#include "game/Glossary.h"
+#include "game/RunningScore.h"
 #include "printing/BoxReport.h"
 #include "printing/PrintTexts.h"
 #include "printing/ReportWords.h"
@@ -7,10 +10,7 @@
 #include "scorecard/Scoreboard.h"
 #include "scorecard/ScorecardTexts.h"
 #include "settings/ChoiceTexts.h"
-#include "storage/EventWords.h"
-#include "storage/Glossary.h"
 #include "storage/Module1.h"
-#include "storage/RunningScore.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,11 +2,11 @@
 // scorecard shows; nothing is counted here.
 #pragma once
 
+#include "game/GameFile.h"
+#include "game/GameState.h"
 #include "printing/Report.h"
 #include "scorecard/ScorecardView.h"
 #include "settings/Settings.h"
-#include "storage/GameFile.h"
-#include "storage/GameState.h"
 
 namespace hooptab {
 

@@ -2,11 +2,11 @@
 // beside the paper.
 #pragma once
 
+#include "game/GameDetails.h"
 #include "manual/ScannedTotals.h"
 #include "printing/Report.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"
-#include "storage/GameDetails.h"
 
 #include <string>
 

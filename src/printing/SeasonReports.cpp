@@ -1,5 +1,6 @@
 #include "printing/SeasonReports.h"
 
+#include "game/Glossary.h"
 #include "printing/PrintTexts.h"
 #include "printing/ReportWords.h"
 #include "scorecard/ScorecardTexts.h"
@@ -11,7 +12,6 @@
 #include "season/SeasonShots.h"
 #include "season/SeasonWords.h"
 #include "settings/CountWords.h"
-#include "storage/Glossary.h"
 #include "storage/Module1.h"
 
 #include <algorithm>

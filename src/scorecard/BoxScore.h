@@ -3,9 +3,9 @@
 // columns, not how they look.
 #pragma once
 
+#include "game/GameFile.h"
+#include "game/GameState.h"
 #include "settings/Texts.h"
-#include "storage/GameFile.h"
-#include "storage/GameState.h"
 
 #include <array>
 #include <cstdint>

@@ -5,9 +5,9 @@
 #include "appearance/Theme.h"
 #include "appearance/WarningChip.h"
 #include "appearance/relabel.h"
+#include "game/EventWords.h"
 #include "game/FindingWords.h"
 #include "scorecard/Scorecard.h"
-#include "storage/EventWords.h"
 
 #include <QBoxLayout>
 #include <QListWidget>

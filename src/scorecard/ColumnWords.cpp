@@ -1,8 +1,8 @@
 #include "scorecard/ColumnWords.h"
 
+#include "game/Glossary.h"
 #include "scorecard/BoxScore.h"
 #include "scorecard/ScorecardTexts.h"
-#include "storage/Glossary.h"
 
 #include <algorithm>
 #include <optional>

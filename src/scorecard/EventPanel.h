@@ -2,7 +2,7 @@
 // and stays at the end when the user was there.
 #pragma once
 
-#include "appearance/EventListModel.h"
+#include "game/EventListModel.h"
 
 #include <QSortFilterProxyModel>
 #include <QWidget>

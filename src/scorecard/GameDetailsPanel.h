@@ -1,8 +1,8 @@
 // The details of the game, to be read and copied: type, date, place, rules and notes.
 #pragma once
 
+#include "game/GameFile.h"
 #include "settings/Texts.h"
-#include "storage/GameFile.h"
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
 #include "scorecard/Scoreboard.h"
 
+#include "game/PeriodName.h"
 #include "game/TeamFouls.h"
 #include "storage/Module1.h"
-#include "storage/PeriodName.h"
 
 #include <algorithm>
 

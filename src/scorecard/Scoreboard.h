@@ -2,9 +2,9 @@
 // and state of the game. Lays out nothing.
 #pragma once
 
+#include "game/GameFile.h"
+#include "game/GameState.h"
 #include "settings/Texts.h"
-#include "storage/GameFile.h"
-#include "storage/GameState.h"
 
 #include <array>
 #include <cstdint>

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "game/Finding.h"
-#include "storage/GameFile.h"
-#include "storage/GameState.h"
-#include "storage/Tally.h"
+#include "game/GameFile.h"
+#include "game/GameState.h"
+#include "game/Tally.h"
 
 #include <optional>
 #include <string>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "court/CourtGeometry.h"
+#include "game/GameState.h"
 #include "scorecard/BoxScore.h"
-#include "storage/GameState.h"
 
 #include <array>
 #include <string>

@@ -6,9 +6,9 @@
 #include "appearance/relabel.h"
 #include "court/CourtColourChoice.h"
 #include "court/CourtView.h"
+#include "game/Glossary.h"
 #include "scorecard/ScorecardTexts.h"
 #include "settings/Settings.h"
-#include "storage/Glossary.h"
 #include "storage/Module1.h"
 
 #include <QBoxLayout>

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "appearance/ShownPicture.h"
+#include "game/EventWords.h"
 #include "scorecard/ScorecardView.h"
-#include "storage/EventWords.h"
 
 #include <QStringList>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #include "season/CatalogueMerger.h"
 
+#include "game/EventWords.h"
 #include "season/Jersey.h"
-#include "storage/EventWords.h"
 #include "storage/NameOrder.h"
 #include "storage/codepage.h"
 

@@ -1,6 +1,6 @@
 #include "season/GameFinder.h"
 
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "game/Finding.h"
-#include "storage/GameState.h"
+#include "game/GameState.h"
 
 #include <array>
 #include <cstdint>

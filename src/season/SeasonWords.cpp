@@ -1,10 +1,10 @@
 #include "season/SeasonWords.h"
 
+#include "game/Glossary.h"
 #include "scorecard/BoxScore.h"
 #include "scorecard/ColumnWords.h"
 #include "scorecard/ScorecardTexts.h"
 #include "season/SeasonTexts.h"
-#include "storage/Glossary.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 

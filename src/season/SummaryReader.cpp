@@ -2,11 +2,11 @@
 
 #include "court/CourtGeometry.h"
 #include "game/GameCheck.h"
+#include "game/Tally.h"
 #include "settings/ChoiceTexts.h"
 #include "settings/Settings.h"
 #include "storage/AtomicFile.h"
 #include "storage/CalendarDay.h"
-#include "storage/Tally.h"
 
 #include <algorithm>
 #include <cstring>

@@ -4,10 +4,10 @@
 // it.
 #pragma once
 
+#include "game/GameFile.h"
 #include "settings/ChoiceTexts.h"
 #include "settings/Texts.h"
 #include "setup/QuickRoster.h"
-#include "storage/GameFile.h"
 #include "teams/TeamStore.h"
 
 #include <array>

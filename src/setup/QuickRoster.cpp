@@ -1,7 +1,7 @@
 #include "setup/QuickRoster.h"
 
+#include "game/Roster.h"
 #include "storage/Placeholders.h"
-#include "storage/Roster.h"
 #include "teams/TeamRecord.h"
 
 #include <algorithm>

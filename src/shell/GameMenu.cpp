@@ -2,10 +2,10 @@
 
 #include "appearance/PlainText.h"
 #include "appearance/relabel.h"
+#include "game/GameFile.h"
 #include "settings/Texts.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
-#include "storage/GameFile.h"
 
 #include <QDir>
 #include <QFileInfo>

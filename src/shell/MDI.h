@@ -4,13 +4,13 @@
 #pragma once
 
 #include "appearance/ColourScheme.h"
+#include "game/GameFile.h"
 #include "live/KeypadAssignment.h"
 #include "printing/SeasonReports.h"
 #include "settings/Settings.h"
 #include "shell/CommandState.h"
 #include "shell/DialogLanguage.h"
 #include "shell/HelpPages.h"
-#include "storage/GameFile.h"
 #include "storage/GameLock.h"
 #include "teams/TeamStore.h"
 

@@ -2,14 +2,14 @@
 // window it was asked from may close, and a game goes on.
 #pragma once
 
+#include "game/GameFile.h"
+#include "game/GameState.h"
 #include "manual/ScannedTotals.h"
 #include "printing/SeasonReports.h"
 #include "printing/frmprint.h"
 #include "scorecard/ScorecardView.h"
 #include "season/Season.h"
 #include "season/frmSTATS.h"
-#include "storage/GameFile.h"
-#include "storage/GameState.h"
 #include "teams/TeamStore.h"
 
 #include <memory>

@@ -1,7 +1,7 @@
 #include "shell/RecentGameWords.h"
 
 #include "appearance/relabel.h"
-#include "storage/PeriodName.h"
+#include "game/PeriodName.h"
 
 #include <QDate>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #include "shell/RecentGames.h"
 
 #include "game/GameCheck.h"
-#include "storage/Tally.h"
+#include "game/Tally.h"
 
 #include <algorithm>
 #include <memory>

@@ -2,7 +2,7 @@
 // in none of the details. May run on any thread; it shares nothing but the file system with others.
 #pragma once
 
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
 
 #include <array>
 #include <atomic>

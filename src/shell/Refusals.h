@@ -2,7 +2,7 @@
 // problem.
 #pragma once
 
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
 
 namespace hooptab {
 

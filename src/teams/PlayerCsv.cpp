@@ -1,10 +1,10 @@
 #include "teams/PlayerCsv.h"
 
+#include "game/Roster.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/DelimitedText.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
-#include "storage/Roster.h"
 #include "storage/codepage.h"
 
 #include <algorithm>

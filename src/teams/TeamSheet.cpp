@@ -1,9 +1,9 @@
 #include "teams/TeamSheet.h"
 
+#include "game/Roster.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
-#include "storage/Roster.h"
 #include "storage/codepage.h"
 
 #include <algorithm>

@@ -3,9 +3,9 @@
 // other sections' keys as they were.
 #include "game/FindingWords.h"
 #include "game/GameCheck.h"
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
+#include "game/Tally.h"
 #include "storage/ProfileText.h"
-#include "storage/Tally.h"
 #include "storage/codepage.h"
 
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #include "live/LivePanel.h"
 
-#include "appearance/CourtClick.h"
+#include "game/CourtClick.h"
 #include "live/LiveGame.h"
 #include "live/ManualTime.h"
 #include "storage/FileSystem.h"

@@ -1,5 +1,5 @@
 // The live window as a whole, under hands that slip, disks that fail and games that come and go.
-#include "appearance/EventListModel.h"
+#include "game/EventListModel.h"
 #include "live/frmLIVE.h"
 #include "live/frmSUBST.h"
 

@@ -2,10 +2,10 @@
 // official box score to every reader of the file.
 #include "manual/frmMANUAL.h"
 
-#include "appearance/CourtClick.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "court/CourtView.h"
+#include "game/CourtClick.h"
 #include "manual/TotalsTable.h"
 #include "settings/Settings.h"
 #include "support/OfficialBox.h"

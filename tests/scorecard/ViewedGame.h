@@ -1,8 +1,8 @@
 // A small game that grows: two teams of made-up players, written through the store as the program writes one.
 #pragma once
 
+#include "game/GameFile.h"
 #include "storage/FileSystem.h"
-#include "storage/GameFile.h"
 #include "storage/cinifile.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,5 +1,5 @@
 // Events in words, in both languages, as every list of events shows them.
-#include "storage/EventWords.h"
+#include "game/EventWords.h"
 
 #include "support/TextGame.h"
 

@@ -1,7 +1,7 @@
-#include "appearance/EventListModel.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "court/CourtView.h"
+#include "game/EventListModel.h"
 #include "scorecard/BoxTable.h"
 #include "scorecard/FrozenTableView.h"
 #include "scorecard/frmVIEW.h"

@@ -2,7 +2,7 @@
 // averages have something to tell.
 #pragma once
 
-#include "storage/Roster.h"
+#include "game/Roster.h"
 
 namespace hooptab {
 

@@ -1,7 +1,7 @@
 // The teams of a first start that have players, as the simulator needs them: who may play and where.
 #pragma once
 
-#include "storage/Roster.h"
+#include "game/Roster.h"
 
 #include <array>
 #include <cstdint>

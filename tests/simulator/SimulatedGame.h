@@ -2,7 +2,7 @@
 // in memory.
 #pragma once
 
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
 #include "storage/ProfileBatch.h"
 
 #include <string>

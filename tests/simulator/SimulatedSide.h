@@ -2,10 +2,10 @@
 // sends in. Writes no events.
 #pragma once
 
+#include "game/Roster.h"
 #include "simulator/PlayerTraits.h"
 #include "simulator/Random.h"
 #include "simulator/SampleTeams.h"
-#include "storage/Roster.h"
 
 #include <array>
 #include <optional>

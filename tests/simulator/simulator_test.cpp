@@ -2,8 +2,8 @@
 // and the game file, on games nobody has tuned by hand.
 #include "game/FindingWords.h"
 #include "game/GameCheck.h"
+#include "game/Tally.h"
 #include "simulator/SampleSeason.h"
-#include "storage/Tally.h"
 #include "support/TemporaryFolder.h"
 
 #include <algorithm>

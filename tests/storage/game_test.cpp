@@ -1,6 +1,6 @@
 // Game files and their events: what is written, what is understood, and what every counter makes of it.
-#include "storage/GameFile.h"
-#include "storage/Tally.h"
+#include "game/GameFile.h"
+#include "game/Tally.h"
 #include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,5 +1,5 @@
 // One word and one abbreviation for a thing, in the program's texts and in its guide.
-#include "storage/Glossary.h"
+#include "game/Glossary.h"
 
 #include "settings/Texts.h"
 

@@ -1,7 +1,7 @@
 // Real games against their official box scores: every counter of every player, and seconds as far as the
 // sources agree.
-#include "storage/GameFile.h"
-#include "storage/Tally.h"
+#include "game/GameFile.h"
+#include "game/Tally.h"
 #include "support/OfficialBox.h"
 #include "support/SharedGames.h"
 

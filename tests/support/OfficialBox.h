@@ -1,8 +1,8 @@
 // The official box score of a real game, held against ours.
 #pragma once
 
-#include "storage/GameFile.h"
-#include "storage/GameState.h"
+#include "game/GameFile.h"
+#include "game/GameState.h"
 #include "support/Json.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // A game from the text of its file, without a file: for tests of what is made of a game.
 #pragma once
 
-#include "storage/GameFile.h"
-#include "storage/Tally.h"
+#include "game/GameFile.h"
+#include "game/Tally.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "ClumsyHand.h"
 
-#include "appearance/CourtClick.h"
+#include "game/CourtClick.h"
 
 #include <algorithm>
 #include <array>

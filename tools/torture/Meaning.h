@@ -2,8 +2,8 @@
 // their order, who was on court at each, whether the clock runs, and the counts and seconds of everybody.
 #pragma once
 
+#include "game/GameFile.h"
 #include "live/OnCourt.h"
-#include "storage/GameFile.h"
 
 #include <optional>
 #include <string>

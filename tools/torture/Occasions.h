@@ -4,8 +4,8 @@
 
 #include "Dice.h"
 #include "Slip.h"
+#include "game/GameFile.h"
 #include "live/OnCourt.h"
-#include "storage/GameFile.h"
 
 #include <optional>
 

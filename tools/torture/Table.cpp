@@ -1,7 +1,7 @@
 #include "Table.h"
 
+#include "game/Tally.h"
 #include "storage/Module1.h"
-#include "storage/Tally.h"
 
 namespace hooptab {
 

@@ -4,7 +4,7 @@
 
 #include "acceptance/replay/Person.h"
 #include "acceptance/replay/Program.h"
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
 #include "Comparison.h"
 
-#include "storage/Tally.h"
+#include "game/Tally.h"
 
 #include <array>
 #include <map>

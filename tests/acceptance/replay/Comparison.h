@@ -1,7 +1,7 @@
 // What two records of one game count differently, in words; nothing when they agree.
 #pragma once
 
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
 
 #include <string>
 #include <vector>

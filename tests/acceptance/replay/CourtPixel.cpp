@@ -1,7 +1,7 @@
 #include "CourtPixel.h"
 
 #include "Program.h"
-#include "appearance/CourtClick.h"
+#include "game/CourtClick.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "court/ZoneMap.h"
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 #include <optional>
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "Program.h"
+#include "game/GameFile.h"
 #include "live/OnCourt.h"
-#include "storage/GameFile.h"
 
 #include <string>
 

@@ -6,7 +6,7 @@
 
 #include "Hand.h"
 #include "court/ZoneMap.h"
-#include "storage/Tally.h"
+#include "game/Tally.h"
 
 #include <map>
 #include <string>

@@ -1,6 +1,6 @@
 #include "manual/forms/FormScore.h"
 
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 #include <algorithm>
 #include <array>

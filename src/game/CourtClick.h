@@ -3,8 +3,8 @@
 #pragma once
 
 #include "court/ZoneMap.h"
+#include "game/EventKind.h"
 #include "settings/Settings.h"
-#include "storage/EventKind.h"
 
 #include <optional>
 

@@ -4,10 +4,10 @@
 // no events itself: its owner brings all of them with every call.
 #pragma once
 
-#include "storage/EventChange.h"
+#include "game/EventChange.h"
+#include "game/GameFile.h"
+#include "game/GameMerge.h"
 #include "storage/FileGuard.h"
-#include "storage/GameFile.h"
-#include "storage/GameMerge.h"
 
 #include <functional>
 #include <map>

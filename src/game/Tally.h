@@ -2,9 +2,9 @@
 // function serves both, so that what is shown while recording and what is read back from disk cannot differ.
 #pragma once
 
-#include "storage/GameEvent.h"
-#include "storage/GameState.h"
-#include "storage/Roster.h"
+#include "game/GameEvent.h"
+#include "game/GameState.h"
+#include "game/Roster.h"
 
 #include <optional>
 #include <span>

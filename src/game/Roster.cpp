@@ -1,4 +1,4 @@
-#include "storage/Roster.h"
+#include "game/Roster.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "storage/GameOnDisk.h"
+#include "game/GameOnDisk.h"
 
 #include "storage/Module1.h"
 #include "storage/codepage.h"

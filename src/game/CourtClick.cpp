@@ -1,4 +1,4 @@
-#include "appearance/CourtClick.h"
+#include "game/CourtClick.h"
 
 namespace hooptab {
 

@@ -1,4 +1,4 @@
-#include "storage/Glossary.h"
+#include "game/Glossary.h"
 
 #include <algorithm>
 

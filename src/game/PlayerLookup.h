@@ -3,7 +3,7 @@
 // that are in no roster.
 #pragma once
 
-#include "storage/Roster.h"
+#include "game/Roster.h"
 
 #include <string>
 #include <string_view>

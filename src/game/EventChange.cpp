@@ -1,4 +1,4 @@
-#include "storage/EventChange.h"
+#include "game/EventChange.h"
 
 #include <algorithm>
 

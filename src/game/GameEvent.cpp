@@ -1,4 +1,4 @@
-#include "storage/GameEvent.h"
+#include "game/GameEvent.h"
 
 #include "storage/Module1.h"
 

@@ -1,4 +1,4 @@
-#include "storage/PlayerLookup.h"
+#include "game/PlayerLookup.h"
 
 #include "storage/Module1.h"
 

@@ -1,6 +1,6 @@
-#include "storage/GameMerge.h"
+#include "game/GameMerge.h"
 
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
 #include "storage/Module1.h"
 #include "storage/codepage.h"
 

@@ -1,4 +1,4 @@
-#include "storage/Tally.h"
+#include "game/Tally.h"
 
 #include "storage/Module1.h"
 

@@ -1,4 +1,4 @@
-#include "storage/RunningScore.h"
+#include "game/RunningScore.h"
 
 namespace hooptab {
 

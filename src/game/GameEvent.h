@@ -3,7 +3,7 @@
 // event's list keeps alive.
 #pragma once
 
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 #include <cstdint>
 #include <memory>

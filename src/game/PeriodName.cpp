@@ -1,4 +1,4 @@
-#include "storage/PeriodName.h"
+#include "game/PeriodName.h"
 
 namespace hooptab {
 

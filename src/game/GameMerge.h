@@ -3,7 +3,7 @@
 // things, theirs gives way and is named. Decides alone; reads and writes nothing.
 #pragma once
 
-#include "storage/EventChange.h"
+#include "game/EventChange.h"
 #include "storage/ProfileText.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 // The score as it grew: what a list of events shows beside them, and a diagram draws.
 #pragma once
 
-#include "storage/GameEvent.h"
+#include "game/GameEvent.h"
 
 #include <array>
 #include <vector>

@@ -6,7 +6,7 @@
 // Where a label is free, as below a shot chart, shots are 2P and 3P, as everyone in basketball says.
 #pragma once
 
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 #include <string_view>
 #include <vector>

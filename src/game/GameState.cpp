@@ -1,4 +1,4 @@
-#include "storage/GameState.h"
+#include "game/GameState.h"
 
 #include <algorithm>
 

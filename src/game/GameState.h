@@ -2,7 +2,7 @@
 // event by event or all at once; owned by whoever shows the game.
 #pragma once
 
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 #include <array>
 #include <cstdint>

@@ -2,8 +2,8 @@
 // in and out. Used by every list of events, on screen, on paper and in the terminal.
 #pragma once
 
+#include "game/GameFile.h"
 #include "settings/Texts.h"
-#include "storage/GameFile.h"
 
 #include <string>
 #include <string_view>

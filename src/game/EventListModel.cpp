@@ -1,8 +1,8 @@
-#include "appearance/EventListModel.h"
+#include "game/EventListModel.h"
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "storage/RunningScore.h"
+#include "game/RunningScore.h"
 
 #include <QFont>
 #include <algorithm>

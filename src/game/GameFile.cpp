@@ -1,4 +1,4 @@
-#include "storage/GameFile.h"
+#include "game/GameFile.h"
 
 #include "storage/Module1.h"
 #include "storage/codepage.h"

@@ -1,4 +1,4 @@
-#include "storage/EventKind.h"
+#include "game/EventKind.h"
 
 namespace hooptab {
 

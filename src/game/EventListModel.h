@@ -3,8 +3,8 @@
 // scroll survive.
 #pragma once
 
-#include "storage/EventWords.h"
-#include "storage/GameFile.h"
+#include "game/EventWords.h"
+#include "game/GameFile.h"
 
 #include <QAbstractTableModel>
 

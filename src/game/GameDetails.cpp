@@ -1,4 +1,4 @@
-#include "storage/GameDetails.h"
+#include "game/GameDetails.h"
 
 #include "storage/Module1.h"
 #include "storage/cinifile.h"

@@ -3,10 +3,10 @@
 // window.
 #pragma once
 
-#include "storage/EventChange.h"
-#include "storage/GameDetails.h"
-#include "storage/GameEvent.h"
-#include "storage/Roster.h"
+#include "game/EventChange.h"
+#include "game/GameDetails.h"
+#include "game/GameEvent.h"
+#include "game/Roster.h"
 #include "storage/cinifile.h"
 
 #include <cstdint>

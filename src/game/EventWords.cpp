@@ -1,10 +1,10 @@
-#include "storage/EventWords.h"
+#include "game/EventWords.h"
 
+#include "game/PeriodName.h"
+#include "game/PlayerLookup.h"
 #include "settings/Settings.h"
 #include "storage/Module1.h"
-#include "storage/PeriodName.h"
 #include "storage/Placeholders.h"
-#include "storage/PlayerLookup.h"
 
 #include <algorithm>
 #include <array>
