@@ -1,5 +1,5 @@
+#include "checks/FindingWords.h"
 #include "cli/Reports.h"
-#include "game/FindingWords.h"
 #include "storage/Placeholders.h"
 #include "storage/Utf8.h"
 

@@ -4,7 +4,7 @@
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "game/FindingWords.h"
+#include "checks/FindingWords.h"
 #include "game/ShotFollowUp.h"
 #include "live/EventCorrection.h"
 #include "live/EventFilterRow.h"

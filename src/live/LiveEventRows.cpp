@@ -2,8 +2,8 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "game/FindingWords.h"
-#include "game/GameCheck.h"
+#include "checks/FindingWords.h"
+#include "checks/GameCheck.h"
 
 #include <algorithm>
 

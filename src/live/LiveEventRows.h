@@ -2,8 +2,8 @@
 // assist or rebound under its shot, and a mark where something looks wrong.
 #pragma once
 
+#include "checks/Finding.h"
 #include "game/EventListModel.h"
-#include "game/Finding.h"
 #include "live/LiveWords.h"
 #include "live/OnCourt.h"
 

@@ -2,7 +2,7 @@
 // for the menu that offers them; mends nothing itself.
 #pragma once
 
-#include "game/Finding.h"
+#include "checks/Finding.h"
 #include "game/GameFile.h"
 #include "live/Substitution.h"
 #include "settings/Texts.h"

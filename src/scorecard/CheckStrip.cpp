@@ -5,8 +5,8 @@
 #include "appearance/Theme.h"
 #include "appearance/WarningChip.h"
 #include "appearance/relabel.h"
+#include "checks/FindingWords.h"
 #include "game/EventWords.h"
-#include "game/FindingWords.h"
 #include "scorecard/Scorecard.h"
 
 #include <QBoxLayout>

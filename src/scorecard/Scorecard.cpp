@@ -1,6 +1,6 @@
 #include "scorecard/Scorecard.h"
 
-#include "game/GameCheck.h"
+#include "checks/GameCheck.h"
 
 namespace hooptab {
 

@@ -2,7 +2,7 @@
 // the window shows and when it says what is decided here; the window only lays out.
 #pragma once
 
-#include "game/Finding.h"
+#include "checks/Finding.h"
 #include "game/GameFile.h"
 #include "game/GameState.h"
 #include "game/Tally.h"

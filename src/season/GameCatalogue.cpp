@@ -1,6 +1,6 @@
 #include "season/GameCatalogue.h"
 
-#include "game/FindingWords.h"
+#include "checks/FindingWords.h"
 #include "season/CatalogueMerger.h"
 #include "season/GameFinder.h"
 #include "season/SummaryReader.h"

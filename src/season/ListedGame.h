@@ -2,7 +2,7 @@
 // are not kept; thousands of games fit in memory so. Plain values, filled by SummaryReader.
 #pragma once
 
-#include "game/Finding.h"
+#include "checks/Finding.h"
 #include "game/GameState.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #include "season/SummaryReader.h"
 
+#include "checks/GameCheck.h"
 #include "court/CourtGeometry.h"
-#include "game/GameCheck.h"
 #include "game/Tally.h"
 #include "settings/ChoiceTexts.h"
 #include "settings/Settings.h"

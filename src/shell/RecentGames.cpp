@@ -1,6 +1,6 @@
 #include "shell/RecentGames.h"
 
-#include "game/GameCheck.h"
+#include "checks/GameCheck.h"
 #include "game/Tally.h"
 
 #include <algorithm>

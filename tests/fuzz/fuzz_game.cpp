@@ -1,8 +1,8 @@
 // Any bytes as a game file: they are parsed, read as events, checked and counted without a crash or a hang;
 // what is written back unchanged is equal byte for byte, and a value that is set reads back and leaves the
 // other sections' keys as they were.
-#include "game/FindingWords.h"
-#include "game/GameCheck.h"
+#include "checks/FindingWords.h"
+#include "checks/GameCheck.h"
 #include "game/GameFile.h"
 #include "game/Tally.h"
 #include "storage/ProfileText.h"

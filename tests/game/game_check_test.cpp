@@ -1,6 +1,6 @@
 // What the check of a game names, at which event and how gravely, and what it leaves alone.
-#include "game/FindingWords.h"
-#include "game/GameCheck.h"
+#include "checks/FindingWords.h"
+#include "checks/GameCheck.h"
 
 #include "support/SharedGames.h"
 #include "support/TextGame.h"

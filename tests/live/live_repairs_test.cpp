@@ -1,7 +1,7 @@
 // Which dialogs are offered for what a check has found while a game is recorded.
 #include "live/LiveRepairs.h"
 
-#include "game/GameCheck.h"
+#include "checks/GameCheck.h"
 #include "support/TextGame.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // Slips of the hand that the recorder forgives or refuses: what it keeps, and what it says.
-#include "game/GameCheck.h"
+#include "checks/GameCheck.h"
 #include "live/FollowUpQuestion.h"
 #include "live/LiveGame.h"
 #include "live/ManualTime.h"

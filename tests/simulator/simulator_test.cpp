@@ -1,7 +1,7 @@
 // Properties that hold for every game: of the simulator, that its games are plausible and sound; of the tally
 // and the game file, on games nobody has tuned by hand.
-#include "game/FindingWords.h"
-#include "game/GameCheck.h"
+#include "checks/FindingWords.h"
+#include "checks/GameCheck.h"
 #include "game/Tally.h"
 #include "simulator/SampleSeason.h"
 #include "support/TemporaryFolder.h"

@@ -1,4 +1,4 @@
-#include "game/LineUpCheck.h"
+#include "checks/LineUpCheck.h"
 
 #include "storage/Module1.h"
 

@@ -4,7 +4,7 @@
 // clock nor line-ups: of them only numbers, jerseys and players are looked at.
 #pragma once
 
-#include "game/Finding.h"
+#include "checks/Finding.h"
 #include "game/GameFile.h"
 #include "game/Tally.h"
 #include "storage/ProfileText.h"

@@ -1,7 +1,7 @@
 // What a game's events show: their numbers, periods, clocks, line-ups, and what each needs before it.
 #pragma once
 
-#include "game/Finding.h"
+#include "checks/Finding.h"
 #include "game/GameFile.h"
 
 #include <vector>

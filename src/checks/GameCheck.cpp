@@ -1,7 +1,7 @@
-#include "game/GameCheck.h"
+#include "checks/GameCheck.h"
 
-#include "game/EventCheck.h"
-#include "game/FileCheck.h"
+#include "checks/EventCheck.h"
+#include "checks/FileCheck.h"
 #include "storage/CalendarDay.h"
 
 #include <algorithm>

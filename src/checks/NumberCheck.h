@@ -2,7 +2,7 @@
 // theirs, too; an inserted one stands where it belongs, so that the order does not matter.
 #pragma once
 
-#include "game/Finding.h"
+#include "checks/Finding.h"
 #include "game/GameFile.h"
 
 #include <vector>

@@ -1,8 +1,8 @@
-#include "game/EventCheck.h"
+#include "checks/EventCheck.h"
 
+#include "checks/LineUpCheck.h"
+#include "checks/NumberCheck.h"
 #include "court/CourtGeometry.h"
-#include "game/LineUpCheck.h"
-#include "game/NumberCheck.h"
 #include "game/PlayerLookup.h"
 #include "game/ShotFollowUp.h"
 #include "storage/Module1.h"

@@ -1,4 +1,4 @@
-#include "game/NumberCheck.h"
+#include "checks/NumberCheck.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "game/Finding.h"
+#include "checks/Finding.h"
 
 #include <algorithm>
 #include <map>

@@ -1,4 +1,4 @@
-#include "game/FileCheck.h"
+#include "checks/FileCheck.h"
 
 #include "storage/Module1.h"
 #include "storage/codepage.h"

@@ -1,7 +1,7 @@
 // Says what a check has found, in the language in use.
 #pragma once
 
-#include "game/Finding.h"
+#include "checks/Finding.h"
 #include "game/GameFile.h"
 #include "settings/Texts.h"
 

@@ -1,4 +1,4 @@
-#include "game/FindingWords.h"
+#include "checks/FindingWords.h"
 
 #include "game/EventWords.h"
 #include "game/PlayerLookup.h"

@@ -2,7 +2,7 @@
 // next event would get.
 #pragma once
 
-#include "game/Finding.h"
+#include "checks/Finding.h"
 #include "game/GameFile.h"
 #include "storage/ProfileText.h"
 

@@ -2,7 +2,7 @@
 // runs, and whether the players' times sum up.
 #pragma once
 
-#include "game/Finding.h"
+#include "checks/Finding.h"
 #include "game/GameFile.h"
 #include "game/PlayerLookup.h"
 
