@@ -1,7 +1,7 @@
 // What the benchmarks of live input share: games of any length, a time that stands, and the figures printed.
 #pragma once
 
-#include "live/LiveGame.h"
+#include "recording/LiveGame.h"
 #include "storage/FileSystem.h"
 
 #include <chrono>

@@ -3,10 +3,10 @@
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/LiveGame.h"
 #include "live/RosterStrip.h"
 #include "live/SelectedPlayer.h"
 #include "live/frmSUBST.h"
+#include "recording/LiveGame.h"
 
 #include <QAction>
 #include <QBoxLayout>

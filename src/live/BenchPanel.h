@@ -4,7 +4,7 @@
 #pragma once
 
 #include "game/EventKind.h"
-#include "live/OnCourt.h"
+#include "recording/OnCourt.h"
 
 #include <QWidget>
 

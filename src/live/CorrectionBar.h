@@ -3,7 +3,7 @@
 // ends it, and so do Esc and ten seconds without a step.
 #pragma once
 
-#include "live/EventCorrection.h"
+#include "recording/EventCorrection.h"
 
 #include <QFrame>
 #include <QTimer>

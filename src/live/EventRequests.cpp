@@ -2,9 +2,9 @@
 
 #include "appearance/Dialogs.h"
 #include "appearance/relabel.h"
-#include "live/ConflictWords.h"
 #include "live/LiveEventPanel.h"
 #include "live/frmSUBST.h"
+#include "recording/ConflictWords.h"
 
 namespace hooptab {
 

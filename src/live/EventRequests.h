@@ -2,8 +2,8 @@
 // substitutions, hands the answers to the game, and says what does not fit. Lays nothing out.
 #pragma once
 
-#include "live/Substitution.h"
 #include "live/frmEDIT.h"
+#include "recording/Substitution.h"
 
 #include <QObject>
 

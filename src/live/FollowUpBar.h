@@ -4,7 +4,7 @@
 // nothing.
 #pragma once
 
-#include "live/FollowUpQuestion.h"
+#include "recording/FollowUpQuestion.h"
 
 #include <QElapsedTimer>
 #include <QPoint>

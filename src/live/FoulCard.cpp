@@ -3,9 +3,9 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/LiveGame.h"
-#include "live/LiveWords.h"
-#include "live/ScoreText.h"
+#include "recording/LiveGame.h"
+#include "recording/LiveWords.h"
+#include "recording/ScoreText.h"
 
 #include <QPainter>
 

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "live/KeypadAssignment.h"
-#include "live/LiveGame.h"
+#include "recording/LiveGame.h"
 
 #include <array>
 #include <optional>

@@ -6,12 +6,12 @@
 #include "appearance/relabel.h"
 #include "checks/FindingWords.h"
 #include "game/ShotFollowUp.h"
-#include "live/EventCorrection.h"
 #include "live/EventFilterRow.h"
 #include "live/EventWindow.h"
 #include "live/LiveEventList.h"
-#include "live/LiveGame.h"
 #include "live/PassingMenu.h"
+#include "recording/EventCorrection.h"
+#include "recording/LiveGame.h"
 
 #include <QAction>
 #include <QBoxLayout>

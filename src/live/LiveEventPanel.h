@@ -4,7 +4,7 @@
 #pragma once
 
 #include "live/LiveEventRows.h"
-#include "live/LiveRepairs.h"
+#include "recording/LiveRepairs.h"
 
 #include <QWidget>
 

@@ -4,8 +4,8 @@
 
 #include "checks/Finding.h"
 #include "game/EventListModel.h"
-#include "live/LiveWords.h"
-#include "live/OnCourt.h"
+#include "recording/LiveWords.h"
+#include "recording/OnCourt.h"
 
 #include <QColor>
 #include <QMetaType>

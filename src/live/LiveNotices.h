@@ -3,7 +3,7 @@
 // Nothing moves that is being pressed.
 #pragma once
 
-#include "live/LostStop.h"
+#include "recording/LostStop.h"
 
 #include <QWidget>
 

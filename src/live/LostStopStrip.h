@@ -2,7 +2,7 @@
 // Shows, and says which was chosen.
 #pragma once
 
-#include "live/LostStop.h"
+#include "recording/LostStop.h"
 
 #include <QWidget>
 

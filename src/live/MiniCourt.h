@@ -4,7 +4,7 @@
 
 #include "court/CourtPicture.h"
 #include "court/ZoneMap.h"
-#include "live/LivePanel.h"
+#include "recording/LivePanel.h"
 
 #include <QPixmap>
 #include <QTimer>

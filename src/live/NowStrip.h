@@ -2,8 +2,8 @@
 // five, and whether all is on disk. A message lies over its middle for a while.
 #pragma once
 
-#include "live/Fives.h"
-#include "live/LiveWords.h"
+#include "recording/Fives.h"
+#include "recording/LiveWords.h"
 
 #include <QWidget>
 

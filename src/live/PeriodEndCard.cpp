@@ -5,7 +5,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "game/EventWords.h"
-#include "live/LiveGame.h"
+#include "recording/LiveGame.h"
 #include "storage/Placeholders.h"
 
 #include <QBoxLayout>

@@ -4,8 +4,8 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "game/EventWords.h"
-#include "live/LiveGame.h"
-#include "live/ScoreText.h"
+#include "recording/LiveGame.h"
+#include "recording/ScoreText.h"
 
 #include <QPainter>
 

@@ -6,10 +6,10 @@
 #include "appearance/relabel.h"
 #include "live/CountBox.h"
 #include "live/JerseyButton.h"
-#include "live/LiveGame.h"
 #include "live/MiniCourt.h"
 #include "live/StatButton.h"
 #include "live/StatControls.h"
+#include "recording/LiveGame.h"
 #include "settings/Settings.h"
 
 #include <QMouseEvent>

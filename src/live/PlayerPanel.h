@@ -3,7 +3,7 @@
 #pragma once
 
 #include "game/EventKind.h"
-#include "live/LivePanel.h"
+#include "recording/LivePanel.h"
 
 #include <QPointF>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #include "live/PlayerWords.h"
 
 #include "appearance/relabel.h"
-#include "live/LiveGame.h"
+#include "recording/LiveGame.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 

@@ -4,9 +4,9 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "live/JerseyButton.h"
-#include "live/LiveGame.h"
-#include "live/LivePanel.h"
 #include "live/PlayerWords.h"
+#include "recording/LiveGame.h"
+#include "recording/LivePanel.h"
 
 #include <QPainter>
 #include <QPushButton>

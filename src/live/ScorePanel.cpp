@@ -6,8 +6,8 @@
 #include "appearance/relabel.h"
 #include "live/FoulCard.h"
 #include "live/PeriodScores.h"
-#include "live/ScoreText.h"
 #include "live/StartButton.h"
+#include "recording/ScoreText.h"
 #include "storage/Module1.h"
 
 #include <QApplication>

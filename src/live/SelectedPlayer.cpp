@@ -4,7 +4,7 @@
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/LiveGame.h"
+#include "recording/LiveGame.h"
 #include "settings/Settings.h"
 
 #include <QAction>

@@ -4,7 +4,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/LiveGame.h"
+#include "recording/LiveGame.h"
 
 #include <QAction>
 #include <QBoxLayout>

@@ -8,9 +8,9 @@
 #include "game/CourtClick.h"
 #include "game/EventWords.h"
 #include "live/MiniCourt.h"
-#include "live/ScoreText.h"
 #include "live/StatButton.h"
 #include "live/StatControls.h"
+#include "recording/ScoreText.h"
 #include "settings/Settings.h"
 #include "storage/Module1.h"
 

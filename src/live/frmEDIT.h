@@ -2,7 +2,7 @@
 // and the place. Serves the change of an event as well as a new one; changes nothing itself.
 #pragma once
 
-#include "live/LiveGame.h"
+#include "recording/LiveGame.h"
 
 #include <QDialog>
 

@@ -6,10 +6,10 @@
 #include "appearance/GameHold.h"
 #include "appearance/WidgetsFirst.h"
 #include "court/ZoneMap.h"
-#include "live/EventCorrection.h"
-#include "live/FollowUpQuestion.h"
-#include "live/LiveGame.h"
-#include "live/ToggleGuard.h"
+#include "recording/EventCorrection.h"
+#include "recording/FollowUpQuestion.h"
+#include "recording/LiveGame.h"
+#include "recording/ToggleGuard.h"
 
 #include <QElapsedTimer>
 #include <QTimer>

@@ -6,7 +6,6 @@
 #include "live/BenchPanel.h"
 #include "live/CorrectionBar.h"
 #include "live/JerseyButton.h"
-#include "live/LastFive.h"
 #include "live/LiveEventPanel.h"
 #include "live/LiveNotices.h"
 #include "live/MessageLine.h"
@@ -14,9 +13,10 @@
 #include "live/PlayerPanel.h"
 #include "live/RosterStrip.h"
 #include "live/SideSwitch.h"
-#include "live/StartingFive.h"
 #include "live/frmPLAYER.h"
 #include "live/frmSUBST.h"
+#include "recording/LastFive.h"
+#include "recording/StartingFive.h"
 #include "storage/cinifile.h"
 
 #include <QShortcut>

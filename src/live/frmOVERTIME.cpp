@@ -6,7 +6,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "game/GameDetails.h"
-#include "live/GameClock.h"
+#include "recording/GameClock.h"
 #include "storage/Module1.h"
 
 #include <QCheckBox>

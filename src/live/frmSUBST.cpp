@@ -4,11 +4,11 @@
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/ConflictWords.h"
 #include "live/JerseyButton.h"
 #include "live/KeyCodes.h"
 #include "live/PlayerWords.h"
 #include "live/QtKeys.h"
+#include "recording/ConflictWords.h"
 #include "storage/Module1.h"
 
 #include <QBoxLayout>

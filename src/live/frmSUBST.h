@@ -3,8 +3,8 @@
 // was chosen is for the caller to write as one event. What would not fit later in the game is said before.
 #pragma once
 
-#include "live/Substitution.h"
-#include "live/SubstitutionLine.h"
+#include "recording/Substitution.h"
+#include "recording/SubstitutionLine.h"
 
 #include <QDialog>
 

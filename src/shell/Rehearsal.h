@@ -4,7 +4,7 @@
 // and clicks come from the display, as a user's do.
 #pragma once
 
-#include "live/TimeSource.h"
+#include "recording/TimeSource.h"
 
 #include <QByteArray>
 #include <QObject>

@@ -1,8 +1,8 @@
 // A live game that begins with the text of its file, for tests of what is done at the scorer's table.
 #pragma once
 
-#include "live/LiveGame.h"
 #include "live/ManualTime.h"
+#include "recording/LiveGame.h"
 #include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"
 #include "support/TextGame.h"

@@ -1,7 +1,7 @@
 // Time that a test sets.
 #pragma once
 
-#include "live/TimeSource.h"
+#include "recording/TimeSource.h"
 
 namespace hooptab {
 

@@ -1,5 +1,5 @@
 // An event that is corrected with single steps, and what becomes of the assist or rebound behind it.
-#include "live/EventCorrection.h"
+#include "recording/EventCorrection.h"
 
 #include "live/LiveTable.h"
 

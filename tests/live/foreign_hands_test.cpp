@@ -1,6 +1,6 @@
 // What becomes of a game that is being recorded when others change its file.
-#include "live/LiveGame.h"
 #include "live/ManualTime.h"
+#include "recording/LiveGame.h"
 #include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"
 

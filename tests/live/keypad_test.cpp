@@ -1,7 +1,7 @@
-#include "live/FollowUpQuestion.h"
 #include "live/KeyCodes.h"
 #include "live/KeypadInput.h"
 #include "live/ManualTime.h"
+#include "recording/FollowUpQuestion.h"
 #include "support/SharedGames.h"
 #include "support/TemporaryFolder.h"
 #include "support/TextGame.h"

@@ -1,8 +1,8 @@
 // Editing a recorded game: events put in, changed, moved and deleted, with all that depends on them.
 #include "game/ShotFollowUp.h"
-#include "live/ConflictWords.h"
-#include "live/LiveGame.h"
-#include "live/OnCourt.h"
+#include "recording/ConflictWords.h"
+#include "recording/LiveGame.h"
+#include "recording/OnCourt.h"
 
 #include "live/ManualTime.h"
 #include "support/TemporaryFolder.h"

@@ -4,11 +4,11 @@
 
 #include "appearance/relabel.h"
 #include "live/EventRequests.h"
-#include "live/LiveGame.h"
 #include "live/ManualTime.h"
 #include "live/frmEDIT.h"
 #include "live/frmLIVE.h"
 #include "live/frmSUBST.h"
+#include "recording/LiveGame.h"
 #include "settings/Settings.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"

@@ -1,4 +1,4 @@
-#include "live/LiveGame.h"
+#include "recording/LiveGame.h"
 
 #include "live/ManualTime.h"
 #include "support/FaultyFileSystem.h"

@@ -1,7 +1,7 @@
 // How a game is left and found again: while its clock ran, where nobody may write, in the middle of a write.
-#include "live/LiveGame.h"
-#include "live/LostStop.h"
 #include "live/ManualTime.h"
+#include "recording/LiveGame.h"
+#include "recording/LostStop.h"
 #include "support/TemporaryFolder.h"
 
 #include <csignal>

@@ -1,8 +1,8 @@
-#include "live/LivePanel.h"
+#include "recording/LivePanel.h"
 
 #include "game/CourtClick.h"
-#include "live/LiveGame.h"
 #include "live/ManualTime.h"
+#include "recording/LiveGame.h"
 #include "storage/FileSystem.h"
 #include "support/TemporaryFolder.h"
 

@@ -2,10 +2,10 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/LiveGame.h"
 #include "live/ManualTime.h"
 #include "live/MiniCourt.h"
 #include "live/StatButton.h"
+#include "recording/LiveGame.h"
 #include "settings/Settings.h"
 #include "storage/FileSystem.h"
 #include "support/TemporaryFolder.h"

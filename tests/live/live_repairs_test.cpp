@@ -1,5 +1,5 @@
 // Which dialogs are offered for what a check has found while a game is recorded.
-#include "live/LiveRepairs.h"
+#include "recording/LiveRepairs.h"
 
 #include "checks/GameCheck.h"
 #include "support/TextGame.h"

@@ -1,6 +1,6 @@
 // Real games, recorded once more event by event through the live game with a clock that the test turns, must
 // come out with the counts of the originals.
-#include "live/LiveGame.h"
+#include "recording/LiveGame.h"
 
 #include "live/ManualTime.h"
 #include "support/SharedGames.h"

@@ -1,4 +1,4 @@
-#include "live/ScoreText.h"
+#include "recording/ScoreText.h"
 
 #include "live/ManualTime.h"
 #include "support/TemporaryFolder.h"

@@ -1,9 +1,9 @@
 // Slips of the hand that the recorder forgives or refuses: what it keeps, and what it says.
 #include "checks/GameCheck.h"
-#include "live/FollowUpQuestion.h"
-#include "live/LiveGame.h"
 #include "live/ManualTime.h"
-#include "live/ToggleGuard.h"
+#include "recording/FollowUpQuestion.h"
+#include "recording/LiveGame.h"
+#include "recording/ToggleGuard.h"
 #include "support/TemporaryFolder.h"
 #include "support/TextGame.h"
 

@@ -1,6 +1,6 @@
-#include "live/JerseyMatch.h"
 #include "live/ManualTime.h"
-#include "live/SubstitutionLine.h"
+#include "recording/JerseyMatch.h"
+#include "recording/SubstitutionLine.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

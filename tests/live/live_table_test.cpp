@@ -1,7 +1,7 @@
 // What is faster at the scorer's table: places that are kept, players who come late, the five who begin.
-#include "live/LastFive.h"
 #include "live/LiveTable.h"
-#include "live/StartingFive.h"
+#include "recording/LastFive.h"
+#include "recording/StartingFive.h"
 
 namespace hooptab {
 namespace {

@@ -1,10 +1,10 @@
 // Words and figures beside the scoreboard: fouls, runs, periods, and who plays well together.
-#include "live/LiveWords.h"
+#include "recording/LiveWords.h"
 
 #include "game/RunningScore.h"
-#include "live/Fives.h"
 #include "live/LiveTable.h"
-#include "live/ScoreText.h"
+#include "recording/Fives.h"
+#include "recording/ScoreText.h"
 #include "support/SharedGames.h"
 
 #include <map>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "game/GameFile.h"
-#include "live/OnCourt.h"
+#include "recording/OnCourt.h"
 
 #include <optional>
 #include <string>

@@ -5,7 +5,7 @@
 #include "Dice.h"
 #include "Slip.h"
 #include "game/GameFile.h"
-#include "live/OnCourt.h"
+#include "recording/OnCourt.h"
 
 #include <optional>
 

@@ -5,7 +5,7 @@
 #include "Camera.h"
 #include "Person.h"
 #include "Recorded.h"
-#include "live/OnCourt.h"
+#include "recording/OnCourt.h"
 
 #include <chrono>
 #include <string>

@@ -4,7 +4,7 @@
 
 #include "Program.h"
 #include "game/GameFile.h"
-#include "live/OnCourt.h"
+#include "recording/OnCourt.h"
 
 #include <string>
 

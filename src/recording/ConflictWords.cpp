@@ -1,0 +1,39 @@
+#include "recording/ConflictWords.h"
+
+#include "game/EventWords.h"
+#include "storage/Placeholders.h"
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kPeriod = 1087;
+constexpr int kSix = 1874;
+constexpr int kTwice = 1875;
+
+} // namespace
+
+std::string placeWords(const EventPlace& place, const Game& game, const Texts& texts) {
+  const EventWords words(game, texts);
+  for (std::size_t event = 0; event < game.events.size(); ++event) {
+    if (game.events[event].period == place.period && game.events[event].key == place.key)
+      return words.clock(event) + " (" + std::string(texts.text(kPeriod)) + ' ' +
+             words.periodText(place.period) + ')';
+  }
+  return {};
+}
+
+std::string wordsOf(const CourtConflict& conflict, const Game& game, const Texts& texts) {
+  const EventWords words(game, texts);
+  std::string players;
+  for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
+    const RosterPlayer* player = game.roster[conflict.team].player(entry);
+    if (player != nullptr && (conflict.players >> entry & 1U) != 0)
+      players += (players.empty() ? "" : ", ") + player->jersey;
+  }
+  return withPlaceholders(texts.text(conflict.isTwice ? kTwice : kSix),
+                          placeWords(conflict.event, game, texts),
+                          words.team(static_cast<int>(conflict.team)), players);
+}
+
+} // namespace hooptab

@@ -1,0 +1,61 @@
+#include "recording/CourtSlots.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace hooptab {
+
+std::optional<int> CourtSlots::slotOf(int team, int player) const {
+  for (int slot = team * kSlotsOfTeam; slot < (team + 1) * kSlotsOfTeam; ++slot) {
+    if (player > 0 && playerIn(slot) == player)
+      return slot;
+  }
+  return std::nullopt;
+}
+
+OnCourt CourtSlots::onCourt() const {
+  OnCourt entries = {};
+  for (int slot = 0; slot < kSlots; ++slot) {
+    if (playerIn(slot) > 0)
+      entries[static_cast<std::size_t>(teamOf(slot))] |= 1U << static_cast<unsigned>(playerIn(slot));
+  }
+  return entries;
+}
+
+void CourtSlots::put(const OnCourt& lists) {
+  for (int team = 0; team < 2; ++team) {
+    const auto first = m_players.begin() + team * kSlotsOfTeam;
+    const auto last = first + kSlotsOfTeam;
+    unsigned coming = lists[static_cast<std::size_t>(team)];
+    std::vector<int*> free; // those that become so first
+    for (auto slot = first; slot != last; ++slot) {
+      const unsigned bit = *slot > 0 ? 1U << static_cast<unsigned>(*slot) : 0;
+      coming &= ~bit;
+      if (bit != 0 && (lists[static_cast<std::size_t>(team)] & bit) != 0)
+        continue;
+      if (std::exchange(*slot, 0) != 0)
+        free.push_back(&*slot);
+    }
+    if (coming == 0)
+      continue;
+    for (auto slot = first; slot != last; ++slot) {
+      if (*slot == 0 && std::ranges::find(free, &*slot) == free.end())
+        free.push_back(&*slot);
+    }
+    auto place = free.begin();
+    for (int player = 1; player <= Roster::kLargestEntry && place != free.end(); ++player) {
+      if ((coming & (1U << static_cast<unsigned>(player))) != 0)
+        **place++ = player;
+    }
+    if (!m_keepsPlaces)
+      std::sort(first, last,
+                [](int left, int right) { return (left == 0 ? 99 : left) < (right == 0 ? 99 : right); });
+  }
+}
+
+void CourtSlots::exchange(int slot, int other) {
+  std::swap(m_players[static_cast<std::size_t>(slot)], m_players[static_cast<std::size_t>(other)]);
+}
+
+} // namespace hooptab

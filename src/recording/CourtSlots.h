@@ -1,0 +1,37 @@
+// The ten places of the players on court, five of each team: who stands where. Those who stay keep their
+// place; after somebody has come, the occupied places are in order of the roster. Where places are kept,
+// nobody moves then: who comes takes the place of one who has just left, else the first free one.
+#pragma once
+
+#include "recording/OnCourt.h"
+
+#include <array>
+#include <optional>
+
+namespace hooptab {
+
+class CourtSlots {
+ public:
+  static constexpr int kSlots = 10; // 0..4 of team 0, 5..9 of team 1
+  static constexpr int kSlotsOfTeam = 5;
+
+  static int teamOf(int slot) { return slot >= kSlotsOfTeam ? 1 : 0; }
+  int playerIn(int slot) const { return m_players[static_cast<std::size_t>(slot)]; } // entry; 0: nobody
+  std::optional<int> slotOf(int team, int player) const;
+  OnCourt onCourt() const;
+
+  // From the next who comes on; nobody moves at once.
+  void setKeepsPlaces(bool isOn) { m_keepsPlaces = isOn; }
+  bool keepsPlaces() const { return m_keepsPlaces; }
+
+  void clear() { m_players = {}; }
+  void put(const OnCourt& lists); // of six or more the first five
+  // Who stands in one of two places of a team stands in the other.
+  void exchange(int slot, int other);
+
+ private:
+  bool m_keepsPlaces = false;
+  std::array<int, kSlots> m_players = {};
+};
+
+} // namespace hooptab

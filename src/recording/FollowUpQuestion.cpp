@@ -1,0 +1,185 @@
+#include "recording/FollowUpQuestion.h"
+
+#include "storage/Placeholders.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kOnBenchAssist = 2466;
+constexpr int kOnBenchRebound = 2467;
+constexpr int kHasFouledOut = 2468;
+constexpr int kIsShooter = 2469;
+constexpr int kOfOtherTeam = 2470;
+constexpr int kNobodys = 2471;
+constexpr std::size_t kMostDigits = 4; // one more than any jersey: a slip is seen, and shown
+
+} // namespace
+
+void FollowUpQuestion::ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team,
+                           int shooter) {
+  m_game = &game;
+  m_isAssist = !followUps.assist.empty();
+  m_shooterTeam = team;
+  m_shooter = shooter;
+  m_choices.clear();
+  m_typed.clear();
+  for (const std::vector<int>* slots :
+       {&followUps.assist, &followUps.offensiveRebound, &followUps.defensiveRebound}) {
+    if (m_isAssist && slots != &followUps.assist)
+      continue;
+    for (const int slot : *slots) {
+      const int player = game.playerIn(slot);
+      const RosterPlayer* entry =
+          game.game().roster[static_cast<std::size_t>(LiveGame::teamOf(slot))].player(player);
+      if (entry != nullptr)
+        m_choices.push_back({slot, player, entry->jersey});
+    }
+  }
+  narrow();
+}
+
+EventCode FollowUpQuestion::codeFor(int team) const {
+  if (m_isAssist)
+    return EventCode::SA;
+  return team == m_shooterTeam ? EventCode::SOR : EventCode::SDR;
+}
+
+// The defensive rebound is the more frequent one: of two equal numbers Enter takes his.
+void FollowUpQuestion::narrow() {
+  m_refusal.reset();
+  m_wayOut.reset();
+  std::vector<std::string> jerseys;
+  std::ranges::transform(m_choices, std::back_inserter(jerseys), &Choice::jersey);
+  m_fitting = fittingJerseys(jerseys, m_typed);
+  std::ranges::stable_sort(m_fitting, [&](const FittingJersey& left, const FittingJersey& right) {
+    return left.isWhole && right.isWhole && m_choices[left.place].team() != m_shooterTeam &&
+           m_choices[right.place].team() == m_shooterTeam;
+  });
+  m_mark.reset();
+  if (!m_fitting.empty() && m_fitting[0].isWhole)
+    m_mark = 0;
+  if (m_fitting.empty() && !m_choices.empty())
+    refuse();
+}
+
+std::optional<std::size_t> FollowUpQuestion::marked() const {
+  return m_mark ? std::optional(m_fitting[*m_mark].place) : std::nullopt;
+}
+
+// Whether a number of those who could be meant, on court or not, begins with what was typed and goes on.
+bool FollowUpQuestion::canGoOn() const {
+  std::vector<std::string> jerseys;
+  for (int team = 0; team < 2; ++team) {
+    if (!m_isAssist || team == m_shooterTeam)
+      std::ranges::transform(m_game->game().roster[static_cast<std::size_t>(team)].players(),
+                             std::back_inserter(jerseys), &RosterPlayer::jersey);
+  }
+  return goesOn(jerseys, m_typed);
+}
+
+FollowUpQuestion::Answer FollowUpQuestion::answer(const FittingJersey& fitting) const {
+  const Choice& choice = m_choices[fitting.place];
+  return {choice.team(), choice.player};
+}
+
+std::optional<FollowUpQuestion::Answer> FollowUpQuestion::type(int digit) {
+  if (m_typed.size() < kMostDigits)
+    m_typed += static_cast<char>('0' + digit);
+  narrow();
+  if (m_fitting.size() == 1 && m_fitting[0].isWhole && !canGoOn())
+    return answer(m_fitting[0]);
+  return std::nullopt;
+}
+
+std::optional<FollowUpQuestion::Answer> FollowUpQuestion::enter(std::optional<int> team) {
+  if (m_wayOut)
+    return take(*m_wayOut);
+  const auto isOfTeam = [&](const FittingJersey& fitting) {
+    return fitting.isWhole && m_choices[fitting.place].team() == team;
+  };
+  const auto found = team && !m_typed.empty() ? std::ranges::find_if(m_fitting, isOfTeam) : m_fitting.end();
+  if (found != m_fitting.end())
+    return answer(*found);
+  if (m_mark)
+    return answer(m_fitting[*m_mark]);
+  if (!m_typed.empty())
+    refuse();
+  return std::nullopt;
+}
+
+std::optional<FollowUpQuestion::Answer> FollowUpQuestion::choose(std::size_t choice) const {
+  return Answer{m_choices[choice].team(), m_choices[choice].player};
+}
+
+std::optional<FollowUpQuestion::Answer> FollowUpQuestion::take(WayOut way) const {
+  if (!m_refusal || !m_refusal->stranger || (way == WayOut::ComesIn && !m_refusal->canComeIn))
+    return std::nullopt;
+  Answer answer = *m_refusal->stranger;
+  answer.comesIn = way == WayOut::ComesIn;
+  return answer;
+}
+
+void FollowUpQuestion::takeBackDigit() {
+  if (!m_typed.empty())
+    m_typed.pop_back();
+  narrow();
+}
+
+void FollowUpQuestion::clearTyped() {
+  m_typed.clear();
+  narrow();
+}
+
+// Among those who fit; of a refused number among the ways out.
+void FollowUpQuestion::moveMark(int step) {
+  if (m_refusal && m_refusal->stranger) {
+    const bool toComesIn = m_refusal->canComeIn && (m_wayOut ? *m_wayOut == WayOut::AllTheSame : step < 0);
+    m_wayOut = toComesIn ? WayOut::ComesIn : WayOut::AllTheSame;
+    return;
+  }
+  const auto count = static_cast<int>(m_fitting.size());
+  if (count == 0)
+    return;
+  const int from = m_mark ? static_cast<int>(*m_mark) : (step > 0 ? -1 : count);
+  m_mark = static_cast<std::size_t>((from + step + count) % count);
+}
+
+// Whose number it is, among those who are not offered; the teams of the question first.
+void FollowUpQuestion::refuse() {
+  m_refusal = Refusal{.text = kNobodys};
+  std::vector<Answer> strangers;
+  for (const int team : {m_shooterTeam, 1 - m_shooterTeam}) {
+    const auto side = static_cast<std::size_t>(team);
+    const int player = m_game->game().roster[side].entryOf(m_typed);
+    if (player == 0 || m_game->slotOf(team, player))
+      continue;
+    if (m_isAssist && team != m_shooterTeam)
+      continue;
+    strangers.push_back({.team = team, .player = player, .isOnCourt = false});
+  }
+  const auto side = static_cast<std::size_t>(m_shooterTeam);
+  const std::size_t other = 1 - side;
+  if (m_isAssist && m_shooter > 0 && m_game->game().roster[side].entryOf(m_typed) == m_shooter)
+    m_refusal = Refusal{.text = kIsShooter};
+  else if (m_isAssist && strangers.empty() && m_game->game().roster[other].entryOf(m_typed) > 0)
+    m_refusal = Refusal{.text = kOfOtherTeam, .team = m_game->game().details.abbreviation[other]};
+  else if (!strangers.empty()) {
+    const bool isOut = m_game->isFouledOut(strangers[0].team, strangers[0].player);
+    m_refusal = Refusal{.text = isOut        ? kHasFouledOut
+                                : m_isAssist ? kOnBenchAssist
+                                             : kOnBenchRebound,
+                        .stranger = strangers.size() == 1 ? std::optional(strangers[0]) : std::nullopt,
+                        .canComeIn = strangers.size() == 1 && !isOut};
+  }
+}
+
+std::string FollowUpQuestion::reason(const Texts& texts) const {
+  if (!m_refusal)
+    return {};
+  return withPlaceholders(texts.text(m_refusal->text), m_typed, m_refusal->team);
+}
+
+} // namespace hooptab

@@ -1,0 +1,89 @@
+// Who assisted, who took the rebound: whom the question after a shot offers, and what a number typed into it
+// means. A number is held whole: it is taken with its last digit only where nothing could follow, else by
+// Enter; one that fits nobody who is offered stays, with the reason, and is never taken for another's. Knows
+// no window.
+#pragma once
+
+#include "recording/JerseyMatch.h"
+#include "recording/LiveGame.h"
+#include "settings/Texts.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+class FollowUpQuestion {
+ public:
+  struct Choice {
+    int slot = 0;
+    int player = 0; // entry
+    std::string jersey = {};
+    int team() const { return LiveGame::teamOf(slot); }
+  };
+  // Who gets it.
+  struct Answer {
+    int team = 0;
+    int player = 0;       // entry
+    bool comesIn = false; // he stands on the bench, and it was forgotten that he came
+    bool isOnCourt = true;
+    friend bool operator==(const Answer&, const Answer&) = default;
+  };
+  // Why a number is not taken: a text, with the number for XXX and a team for YYY.
+  struct Refusal {
+    int text = 0;
+    std::string team = {};
+    std::optional<Answer> stranger = std::nullopt; // who could be meant all the same
+    bool canComeIn = false;
+    friend bool operator==(const Refusal&, const Refusal&) = default;
+  };
+  // How one can go on from a refusal.
+  enum class WayOut { AllTheSame, ComesIn };
+
+  // The game must live until it is closed.
+  void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team, int shooter);
+
+  bool isAssist() const { return m_isAssist; }
+  int shooterTeam() const { return m_shooterTeam; }
+  // Of an assist in the order of the places on court; of a rebound the shooter's team first.
+  const std::vector<Choice>& choices() const { return m_choices; }
+  EventCode codeFor(int team) const;
+
+  const std::string& typed() const { return m_typed; }
+  // Places in choices() whose numbers begin so, and which of them Enter would take.
+  const std::vector<FittingJersey>& fitting() const { return m_fitting; }
+  std::optional<std::size_t> marked() const; // place in choices()
+  const std::optional<Refusal>& refusal() const { return m_refusal; }
+  std::optional<WayOut> markedWayOut() const { return m_wayOut; }
+  [[nodiscard]] std::string reason(const Texts& texts) const; // empty without a refusal
+
+  // Each returns the answer when there is one.
+  std::optional<Answer> type(int digit);
+  // What is marked, or whose number was typed; of two equal ones that of `team`, where it is given.
+  std::optional<Answer> enter(std::optional<int> team);
+  std::optional<Answer> choose(std::size_t choice) const;
+  std::optional<Answer> take(WayOut way) const;
+  void takeBackDigit();
+  void clearTyped();
+  void moveMark(int step);
+
+ private:
+  void narrow();
+  void refuse();
+  [[nodiscard]] bool canGoOn() const;
+  [[nodiscard]] Answer answer(const FittingJersey& fitting) const;
+
+  const LiveGame* m_game = nullptr;
+  bool m_isAssist = false;
+  int m_shooterTeam = 0;
+  int m_shooter = 0;
+  std::vector<Choice> m_choices;
+  std::string m_typed;
+  std::vector<FittingJersey> m_fitting;
+  std::optional<std::size_t> m_mark; // in m_fitting
+  std::optional<Refusal> m_refusal;
+  std::optional<WayOut> m_wayOut;
+};
+
+} // namespace hooptab

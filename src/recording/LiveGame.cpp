@@ -1,0 +1,595 @@
+#include "recording/LiveGame.h"
+
+#include "game/TeamFouls.h"
+#include "storage/Module1.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kSecondsPerMinute = 60;
+constexpr int kStartLock = 3;                               // seconds
+constexpr int kBehindAll = std::numeric_limits<int>::max(); // every period that a file can have
+constexpr int kSubstitution = 1561;
+
+// The new events of these steps, marked as deleted.
+std::vector<EventChange> deletionOf(const std::vector<EventChange>& steps) {
+  std::vector<EventChange> deletion;
+  for (const EventChange& step : steps)
+    deletion.push_back(replacement(step.period, step.key, withDeletion(step.line, true)));
+  return deletion;
+}
+
+bool isStop(const std::string& line) {
+  const GameEvent event = GameEvent::parse(1, "1", line);
+  return event.isUnderstood && event.code == EventCode::ARRET;
+}
+
+} // namespace
+
+LiveGame::LiveGame(cinifile& store, TimeSource& time) : m_log(store), m_time(time) {}
+
+GameFileProblem LiveGame::open(const std::string& path, Access access) {
+  if (const GameFileProblem problem = m_log.open(path); problem != GameFileProblem::None)
+    return problem;
+  m_access = access;
+  m_history.clear();
+  m_lastShot = {};
+  m_wasLeftRunning = false;
+  m_slots.clear();
+  m_pending.reset();
+  m_endedPeriod = 0;
+  m_lockedUntil = 0;
+  m_starts.clear();
+  offerEarlier();
+  if (m_slots.keepsPlaces())
+    comeAndGo();
+  showAsLeft();
+  return GameFileProblem::None;
+}
+
+ForeignHands LiveGame::takeForeignHands() {
+  if (m_log.disk().hasForeignHands())
+    writePending();
+  ForeignHands hands = m_log.takeForeignHands();
+  if (hands.isTouched) { // others may be on court, at other places of the roster
+    putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters()));
+    decideAgain();
+  }
+  return hands;
+}
+
+// The lists of the last stop, the clock of the last event; after a stop at 00:00 as after the close of the
+// period.
+void LiveGame::showAsLeft() {
+  const GameState& counted = state();
+  m_period = std::clamp(counted.period, 1, kLastPeriod);
+  m_lengthOfPeriod = lengthOf(m_period);
+  m_clock = {};
+  m_phase = Phase::Stopped;
+  putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters()));
+
+  const GameEvent* last = nullptr;
+  for (const GameEvent& event : game().events) {
+    if (event.isUnderstood && !event.isDeleted)
+      last = &event;
+  }
+  m_clock.set(last == nullptr ? fullLength() : last->clockSeconds);
+  if (last != nullptr && last->code == EventCode::ARRET && last->clockSeconds == 0 && hasTime()) {
+    m_period = std::min(last->period, kLastPeriod); // whose next one may have had a start that was taken back
+    closePeriod();
+  }
+  m_lockedUntil = 0; // that was long ago
+  if (m_access == Access::Reading || game().details.isFinished) {
+    m_phase = m_access == Access::Reading ? Phase::ReadOnly : Phase::Finished;
+    return;
+  }
+  m_wasLeftRunning = hasTime() && isRunningBefore(m_log.lines(), m_period, {});
+  // A team that is its own one player stands on court from the beginning.
+  const OnCourt before = onCourt();
+  OnCourt whole = before;
+  for (std::size_t team = 0; team < 2; ++team) {
+    const auto& players = game().roster[team].players();
+    if (players.size() == 1 && players[0].jersey == "0" && players[0].position == 9)
+      whole[team] = 1U << 1U;
+  }
+  if (whole != before) {
+    putOnCourt(whole);
+    recordStop(); // nobody's action
+  }
+}
+
+// Places that are kept follow from all who came and went, one after the other.
+void LiveGame::comeAndGo() {
+  for (const auto& [period, lines] : m_log.lines()) {
+    for (const auto& [key, line] : lines) {
+      if (const auto lists = onCourtOf(period, line, m_log.rosters()))
+        putOnCourt(*lists);
+    }
+  }
+}
+
+int LiveGame::fullLength() const {
+  return hasTime() ? m_lengthOfPeriod : 0;
+}
+
+bool LiveGame::isHalfTime() const {
+  const int periods = game().details.periods;
+  return m_phase == Phase::Stopped && periods % 2 == 0 && m_period == periods / 2 + 1 &&
+         std::ranges::none_of(game().events, [this](const GameEvent& event) {
+           return event.period == m_period && !event.isDeleted;
+         });
+}
+
+// The length of an overtime is in no file: of one that has begun it is the highest clock seen in it.
+int LiveGame::lengthOf(int period) const {
+  int longest = 0;
+  if (period > game().details.periods) {
+    for (const GameEvent& event : game().events) {
+      if (event.period == period && event.isUnderstood)
+        longest = std::max(longest, event.clockSeconds);
+    }
+  }
+  return longest > 0 ? longest : game().details.minutesPerPeriod * kSecondsPerMinute;
+}
+
+int LiveGame::clockSeconds() const {
+  return hasTime() ? m_clock.remaining(m_time.seconds()) : 0;
+}
+
+std::string LiveGame::lineOf(const std::string& eventText) const {
+  return Module1::clockText(clockSeconds()) + eventText;
+}
+
+EventChange LiveGame::added(const std::string& line) {
+  return {EventChange::Kind::Add, m_period, m_log.takeKey(), line};
+}
+
+// --- Clock and periods
+
+void LiveGame::toggleClock() {
+  if (m_phase == Phase::Running)
+    stop();
+  else
+    start();
+}
+
+void LiveGame::start() {
+  if (!hasTime() || m_phase != Phase::Stopped || startLock() > 0)
+    return;
+  if (isStopLost())
+    recordStop();
+  m_wasLeftRunning = false;
+  if (clockSeconds() == 0)
+    return closePeriod();
+  m_history.forgetStarts();
+  m_starts[m_log.nextNumber()] = std::exchange(m_endedPeriod, 0);
+  m_log.change({added(lineOf(startText()))});
+  m_clock.start(m_time.seconds());
+  m_phase = Phase::Running;
+}
+
+void LiveGame::stop() {
+  if (m_phase != Phase::Running)
+    return;
+  writePending();
+  m_clock.stop(m_time.seconds());
+  m_phase = Phase::Stopped;
+  recordStop();
+  if (clockSeconds() == 0)
+    closePeriod();
+}
+
+int LiveGame::startLock() const {
+  return static_cast<int>(std::clamp<std::int64_t>(m_lockedUntil - m_time.seconds(), 0, kStartLock));
+}
+
+void LiveGame::stopForClosing(std::int64_t now) {
+  if (m_phase != Phase::Running)
+    return;
+  stop();
+  m_log.setDetails({{"QUITTE", std::to_string(m_log.nextNumber() - 1) + ' ' + std::to_string(now)}});
+}
+
+bool LiveGame::wasClosedInPlay() const {
+  const auto events = game().events.events();
+  const auto last = std::find_if(events.rbegin(), events.rend(), [](const GameEvent& event) {
+    return event.isUnderstood && !event.isDeleted;
+  });
+  return m_phase == Phase::Stopped && last != events.rend() && last->code == EventCode::ARRET &&
+         last->clockSeconds > 0 && last->number == game().details.closedInPlay.event;
+}
+
+bool LiveGame::isStopLost() const {
+  return m_wasLeftRunning && m_phase == Phase::Stopped && isRunningBefore(m_log.lines(), m_period, {});
+}
+
+bool LiveGame::settleStop(int clockSeconds) {
+  if (!isStopLost() || clockSeconds < 0)
+    return false;
+  m_wasLeftRunning = false;
+  m_clock.set(clockSeconds); // of an overtime, too, whose length is in no file
+  recordStop();
+  if (clockSeconds == 0)
+    closePeriod();
+  return true;
+}
+
+// Counts that differ from those of all events counted anew would be wrong ones on the screen, and nobody
+// would see it: a build for development stops there. The events are on disk.
+void LiveGame::checkCounts() const {
+#ifndef NDEBUG
+  if (const std::string difference = m_log.difference(); !difference.empty()) {
+    std::fprintf(stderr, "counts of %s differ from its events: %s\n", game().path.c_str(),
+                 difference.c_str());
+    std::abort();
+  }
+#endif
+}
+
+void LiveGame::recordStop() {
+  m_log.change({added(lineOf(stopText(onCourt(), m_log.rosters())))});
+  checkCounts();
+}
+
+void LiveGame::tick() {
+  if (m_pending && m_time.seconds() - m_pending->since >= kLongestPending)
+    writePending();
+  if (m_phase == Phase::Running && clockSeconds() == 0)
+    stop();
+}
+
+bool LiveGame::setClock(int seconds) {
+  if (!hasTime() || m_phase != Phase::Stopped || seconds < 0 || seconds > fullLength())
+    return false;
+  m_history.forgetStarts();
+  m_clock.set(seconds);
+  return true;
+}
+
+bool LiveGame::setPeriod(int period) {
+  if (m_phase == Phase::Running || !canRecord() || period < 1 || period > kLastPeriod)
+    return false;
+  if (period == m_period)
+    return true;
+  leavePeriod();
+  m_history.forgetStarts();
+  m_wasLeftRunning = false;
+  m_period = period;
+  m_phase = Phase::Stopped;
+  m_endedPeriod = 0;
+  m_lengthOfPeriod = lengthOf(m_period);
+  int clock = fullLength();
+  for (const GameEvent& event : game().events) {
+    if (event.period == period && event.isUnderstood && !event.isDeleted)
+      clock = event.clockSeconds;
+  }
+  m_clock.set(clock);
+  return true;
+}
+
+// A period is left with a stop at the clock shown, when its last event is none; one without events needs
+// none.
+void LiveGame::leavePeriod() {
+  const auto events = m_log.lines().find(m_period);
+  if (!hasTime() || events == m_log.lines().end())
+    return;
+  const PeriodLines& lines = events->second;
+  const auto last = std::find_if(lines.rbegin(), lines.rend(),
+                                 [](const auto& event) { return !event.second.starts_with('E'); });
+  if (last != lines.rend() && !isStop(last->second))
+    recordStop();
+}
+
+void LiveGame::closePeriod() {
+  const int points[2] = {state().points(0), state().points(1)};
+  m_lockedUntil = m_time.seconds() + kStartLock + 1; // of whole seconds the present one may be at its end
+  m_history.forgetStarts();
+  m_endedPeriod = m_period;
+  if (m_period >= game().details.periods) {
+    m_phase = points[0] == points[1] ? Phase::OvertimeAsked : Phase::Decided;
+    return;
+  }
+  m_phase = Phase::Stopped;
+  ++m_period;
+  m_lengthOfPeriod = lengthOf(m_period);
+  m_clock.set(fullLength());
+}
+
+bool LiveGame::returnToEndedPeriod() {
+  if (!canReturnToEndedPeriod() || m_phase == Phase::Running || !canRecord())
+    return false;
+  m_history.forgetStarts();
+  m_period = m_endedPeriod;
+  m_lengthOfPeriod = lengthOf(m_period);
+  m_endedPeriod = 0;
+  m_lockedUntil = 0; // nobody comes here by reflex
+  m_phase = Phase::Stopped;
+  m_clock.set(0);
+  return true;
+}
+
+bool LiveGame::beginOvertime(int minutes, bool keepsFouls) {
+  if (m_phase != Phase::OvertimeAsked || minutes < 1 || minutes > kMostMinutes || m_period >= kLastPeriod)
+    return false;
+  m_log.setDetails({{"KEEPBONUS", keepsFouls ? "1" : "0"}});
+  ++m_period;
+  m_lengthOfPeriod = minutes * kSecondsPerMinute;
+  m_lockedUntil = 0; // nobody answers by reflex
+  m_clock.set(m_lengthOfPeriod);
+  m_phase = Phase::Stopped;
+  return true;
+}
+
+void LiveGame::finish(const std::string& notes) {
+  if (m_phase == Phase::ReadOnly)
+    return;
+  stop();
+  m_log.setDetails({{"TERMINE", "1"}, {"NOTES", notes}});
+  m_phase = Phase::Finished;
+}
+
+void LiveGame::saveNotes(const std::string& notes) {
+  if (m_phase != Phase::ReadOnly)
+    m_log.setDetails({{"NOTES", notes}});
+}
+
+void LiveGame::reopen() {
+  if (m_phase != Phase::Finished)
+    return;
+  m_log.setDetails({{"TERMINE", "0"}});
+  showAsLeft();
+}
+
+void LiveGame::setTeamColour(int team, std::uint32_t colour) {
+  if (m_phase != Phase::ReadOnly)
+    m_log.setDetails({{"EQUIPE" + std::to_string(team) + "COL", std::to_string(colour)}});
+}
+
+// --- Players
+
+bool LiveGame::toggleOnCourt(int team, int player) {
+  if (game().roster[static_cast<std::size_t>(team)].player(player) == nullptr)
+    return false;
+  OnCourt wanted = onCourt();
+  wanted[static_cast<std::size_t>(team)] ^= 1U << static_cast<unsigned>(player);
+  return changeByClick(wanted);
+}
+
+bool LiveGame::takeAllOut(int team) {
+  OnCourt wanted = onCourt();
+  wanted[static_cast<std::size_t>(team)] = 0;
+  return changeByClick(wanted);
+}
+
+bool LiveGame::putInSlot(int slot, int player) {
+  if (slot < 0 || slot >= kSlots || playerIn(slot) > 0 || slotOf(teamOf(slot), player) ||
+      !toggleOnCourt(teamOf(slot), player))
+    return false;
+  if (m_slots.keepsPlaces())
+    m_slots.exchange(*slotOf(teamOf(slot), player), slot);
+  return true;
+}
+
+bool LiveGame::mayStand(const OnCourt& wanted) const {
+  return canRecord() && std::popcount(wanted[0]) <= kMostOnCourt && std::popcount(wanted[1]) <= kMostOnCourt;
+}
+
+bool LiveGame::changeByClick(const OnCourt& wanted) {
+  if (m_phase != Phase::Running)
+    return setOnCourt(wanted);
+  if (!mayStand(wanted))
+    return false;
+  if (!m_pending)
+    m_pending = {onCourt(), clockSeconds(), m_time.seconds()};
+  putOnCourt(wanted);
+  return !isWhole(wanted) || writePending();
+}
+
+// In each team that changes five stand, or all who may: who has fouled out cannot come. What was clicked back
+// is whole, too.
+bool LiveGame::isWhole(const OnCourt& wanted) const {
+  for (int team = 0; team < 2; ++team) {
+    const auto side = static_cast<std::size_t>(team);
+    if (wanted[side] != m_pending->before[side] && std::popcount(wanted[side]) < fullNumber(team))
+      return false;
+  }
+  return true;
+}
+
+int LiveGame::fullNumber(int team) const {
+  int canPlay = 0;
+  for (int player = 1; player <= Roster::kLargestEntry; ++player)
+    canPlay +=
+        game().roster[static_cast<std::size_t>(team)].player(player) != nullptr && !isFouledOut(team, player)
+            ? 1
+            : 0;
+  return std::min(kMostOnCourt, canPlay);
+}
+
+bool LiveGame::writePending() {
+  if (!m_pending)
+    return true;
+  const Pending pending = *std::exchange(m_pending, std::nullopt);
+  return onCourt() == pending.before || recordOnCourt(pending.clockSeconds);
+}
+
+bool LiveGame::setOnCourt(const OnCourt& wanted) {
+  if (!mayStand(wanted))
+    return false;
+  if (wanted == onCourt())
+    return writePending();
+  const CourtSlots slots = m_slots;
+  putOnCourt(wanted);
+  if (m_pending ? writePending() : recordOnCourt(clockSeconds()))
+    return true;
+  m_slots = slots;
+  return false;
+}
+
+// A substitution at that clock, with nothing recorded since but the start of the clock that belongs to it:
+// what follows at once is part of it. A stop is none (its lists equal those before), nor is the game's first
+// event.
+const std::pair<std::string, std::string>* LiveGame::openSubstitution(int clockSeconds) const {
+  const auto found = m_log.lines().find(m_period);
+  if (found == m_log.lines().end() || found->second.empty())
+    return nullptr;
+  const PeriodLines& lines = found->second;
+  const std::string clock = Module1::clockText(clockSeconds);
+  std::size_t last = lines.size() - 1;
+  if (m_phase == Phase::Running) {
+    if (lines[last].second != clock + startText() || last == 0)
+      return nullptr;
+    --last;
+  }
+  const auto& [key, line] = lines[last];
+  const auto lists = onCourtOf(m_period, line, m_log.rosters());
+  if (!lists || key == "1" || !line.starts_with(clock) ||
+      *lists == inForceBefore(m_log.lines(), m_period, key, m_log.rosters()))
+    return nullptr;
+  return &lines[last];
+}
+
+bool LiveGame::recordOnCourt(int clockSeconds) {
+  if (const auto* open = openSubstitution(clockSeconds)) {
+    const std::pair<std::string, std::string> old = *open;
+    return done(kSubstitution,
+                {replacement(m_period, old.first, withLists(old.second, onCourt(), m_log.rosters()))},
+                {replacement(m_period, old.first, old.second)});
+  }
+  const std::string clock = Module1::clockText(clockSeconds);
+  std::vector<EventChange> steps = {added(clock + stopText(onCourt(), m_log.rosters()))};
+  if (m_phase == Phase::Running)
+    steps.push_back(added(clock + startText()));
+  return done(kSubstitution, steps, deletionOf(steps));
+}
+
+// One action of the user, done by these steps and taken back by those.
+bool LiveGame::done(int text, const std::vector<EventChange>& steps, std::vector<EventChange> back) {
+  if (!m_log.change(steps))
+    return false;
+  m_history.add({text, {steps[0].period, steps[0].key}, std::move(back), m_log.nextNumber()});
+  return true;
+}
+
+// --- What is counted
+
+bool LiveGame::record(const std::string& eventText, int text) {
+  if (!canRecord())
+    return false;
+  writePending();
+  const std::vector<EventChange> steps = {added(lineOf(eventText))};
+  if (!done(text, steps, deletionOf(steps)))
+    return false;
+  decideAgain();
+  return true;
+}
+
+bool LiveGame::recordShot(int team, int player, EventCode kind, bool isMade,
+                          std::optional<std::pair<double, double>> place) {
+  const EventKind* shot = kindOf(kind);
+  const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
+  if (shot == nullptr || !shot->isShot || who == nullptr)
+    return false;
+  if (!record(eventText(kind, isMade, team, who->jersey, place), shot->wordsText))
+    return false;
+  m_lastShot = {m_period, m_log.lines().at(m_period).back().first};
+  return true;
+}
+
+bool LiveGame::recordAction(int team, int player, EventCode kind) {
+  const EventKind* action = kindOf(kind);
+  const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
+  if (action == nullptr || action->isShot || who == nullptr)
+    return false;
+  return record(eventText(kind, false, team, who->jersey), action->wordsText);
+}
+
+bool LiveGame::recordFollowUp(int team, int player, EventCode kind) {
+  writePending(); // before a number is given to what follows
+  if (m_lastShot.period == m_period)
+    return recordAction(team, player, kind);
+  const std::string* shot = findLine(m_log.lines(), m_lastShot.period, m_lastShot.key);
+  if (shot == nullptr)
+    return false;
+  const int clock = GameEvent::parse(m_lastShot.period, m_lastShot.key, *shot).clockSeconds;
+  return insertEvent(m_lastShot, Where::Behind, clock, {.kind = kind, .team = team, .player = player});
+}
+
+LiveGame::FollowUps LiveGame::followUps(int team, int player, EventCode kind, bool isMade,
+                                        bool asksRebounds) const {
+  FollowUps result;
+  const EventKind* shot = kindOf(kind);
+  if (shot == nullptr || !shot->isShot)
+    return result;
+  const bool asksAssist = isMade && shot->followUpWhenMade == FollowUp::Assist;
+  for (int other = 0; other < kSlots; ++other) {
+    if (playerIn(other) == 0)
+      continue;
+    const bool isOwn = teamOf(other) == team;
+    if (asksAssist && isOwn && playerIn(other) != player)
+      result.assist.push_back(other);
+    if (!isMade && asksRebounds)
+      (isOwn ? result.offensiveRebound : result.defensiveRebound).push_back(other);
+  }
+  return result;
+}
+
+// --- What is shown
+
+// What the tally has credited, and what has passed since the player's line came on court.
+int LiveGame::secondsOnCourt(int team, int player) const {
+  const auto side = static_cast<std::size_t>(team);
+  const GameState& counted = state();
+  const int seconds = counted.players[side][static_cast<std::size_t>(player)].seconds;
+  const bool isOn = std::ranges::find(counted.onCourt[side].begin(),
+                                      counted.onCourt[side].begin() + counted.onCourtCount[side],
+                                      static_cast<std::uint8_t>(player)) !=
+                    counted.onCourt[side].begin() + counted.onCourtCount[side];
+  return std::max(seconds + (isOn ? secondsSinceLists(side) : 0), 0);
+}
+
+// What the tally will credit to those on court with the next stop.
+int LiveGame::secondsSinceLists(std::size_t team) const {
+  return isTimeOpen() ? state().lineStartClock[team] - clockSeconds() : 0;
+}
+
+int LiveGame::secondsOfLine(int team) const {
+  const auto side = static_cast<std::size_t>(team);
+  const std::size_t line = state().currentLine[side];
+  return line == 0 ? 0 : std::max(state().lines[side][line].seconds + secondsSinceLists(side), 0);
+}
+
+int LiveGame::secondsInLead(LeadState which) const {
+  const LeadTracker& lead = state().lead;
+  int seconds = lead.seconds[static_cast<std::size_t>(which)];
+  if (isTimeOpen() && lead.state == which)
+    seconds += lead.previousClock - clockSeconds();
+  return std::max(seconds, 0);
+}
+
+int LiveGame::teamFouls(int team) const {
+  return hooptab::teamFouls(game().details, state(), team, m_period);
+}
+
+bool LiveGame::isInBonus(int team) const {
+  return hooptab::isInBonus(game().details, teamFouls(team));
+}
+
+bool LiveGame::isFouledOut(int team, int player) const {
+  const Counters& counters =
+      state().players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)].counters;
+  const GameDetails& rules = game().details;
+  const auto reached = [](int count, int limit) { return limit > 0 && count >= limit; };
+  return reached(counters[Counter::PF], rules.personalFoulLimit) ||
+         reached(counters[Counter::TF], rules.technicalFoulLimit);
+}
+
+} // namespace hooptab

@@ -1,0 +1,245 @@
+// A game as it is recorded: clock, periods and overtime, who is on court, shots and actions, what follows
+// them, and taking back. Every count comes from the tally of its log; every change is on disk, or waits to
+// be, when the call returns. Decides for the live window and knows none.
+#pragma once
+
+#include "recording/CourtSlots.h"
+#include "recording/GameClock.h"
+#include "recording/GameEditing.h"
+#include "recording/LiveHistory.h"
+#include "recording/LiveLog.h"
+#include "recording/NewPlayer.h"
+#include "recording/TimeSource.h"
+
+#include <array>
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+class LiveGame {
+ public:
+  static constexpr int kSlots = CourtSlots::kSlots;
+  static constexpr int kSlotsOfTeam = CourtSlots::kSlotsOfTeam;
+
+  // Both must outlive it.
+  LiveGame(cinifile& store, TimeSource& time);
+
+  // Shows the game as it was left. On a problem the game that was open stays.
+  enum class Access { Recording, Reading };
+  [[nodiscard]] GameFileProblem open(const std::string& path, Access access = Access::Recording);
+
+  const Game& game() const { return m_log.game(); }
+  const GameState& state() const { return m_log.state(); }
+  const LiveLog& log() const { return m_log; }
+  GameOnDisk& disk() { return m_log.disk(); }
+  // Looks at the file, brings it back to what was recorded and writes what waits. Whether everything is on
+  // disk now.
+  bool settle() { return m_access == Access::Reading || m_log.settle(); }
+  // Takes in what others made of the file, between two actions: what to tell the user.
+  [[nodiscard]] ForeignHands takeForeignHands();
+  bool writeCopy(const std::string& path) { return m_log.writeCopy(path); }
+
+  // --- Clock and periods
+  enum class Phase {
+    Stopped,
+    Running,
+    OvertimeAsked, // the last period ended with equal scores: beginOvertime() or nothing
+    Decided,       // the last period ended with different scores: "---"
+    Finished,      // closed by the user: nothing can be recorded until it is reopened
+    ReadOnly,      // opened for reading: nothing can be recorded or reopened
+  };
+  Phase phase() const { return m_phase; }
+  bool canRecord() const { return m_phase != Phase::Finished && m_phase != Phase::ReadOnly; }
+  bool hasTime() const { return m_log.game().details.minutesPerPeriod > 0; }
+  int period() const { return m_period; }
+  bool isOvertime() const { return m_period > m_log.game().details.periods; }
+  int clockSeconds() const; // that remain
+  int fullLength() const;   // of this period, in seconds; 0 in a game without time
+  bool isHalfTime() const;  // the second half is next, and nothing has happened in it yet
+  // START or STOP. At 00:00 it decides once more how the period ended.
+  void toggleClock();
+  void start();
+  void stop();
+  // Seconds for which nobody can start the clock, because a period has just ended: who reacts to the horn
+  // with the key that stops would start the next one.
+  int startLock() const;
+  // To be called once a second or more often while the clock runs; stops at 00:00.
+  void tick();
+  // Stops, and notes in the game that its window was closed in mid-play; `now` is the wall clock, in seconds
+  // since 1970.
+  void stopForClosing(std::int64_t now);
+  // The same, as it was left: that stop is still the last event.
+  bool wasClosedInPlay() const;
+  // The clock stands, but the events say that it runs: the game was left without a stop. The next start puts
+  // it in, at the clock shown; so does settleStop(), at that clock.
+  bool isStopLost() const;
+  bool settleStop(int clockSeconds);
+  // While the clock stands, in a game with time: sets what remains, at most the length of a period.
+  bool setClock(int seconds);
+  // By hand, while the clock stands; 1 and up.
+  bool setPeriod(int period);
+  // After the buzzer, until START: back into the period that has ended, with its clock at 00:00.
+  bool canReturnToEndedPeriod() const { return m_endedPeriod > 0; }
+  int endedPeriod() const { return m_endedPeriod; } // the one that has ended; 0: none, since the last start
+  bool returnToEndedPeriod();
+  // From OvertimeAsked; 1 to 99 minutes.
+  bool beginOvertime(int minutes, bool keepsFouls);
+  void finish(const std::string& notes);
+  void saveNotes(const std::string& notes);
+  void reopen();
+  void setTeamColour(int team, std::uint32_t colour); // as files keep colours
+
+  // --- Players
+  static int teamOf(int slot) { return CourtSlots::teamOf(slot); }
+  int playerIn(int slot) const { return m_slots.playerIn(slot); } // 0: nobody
+  std::optional<int> slotOf(int team, int player) const { return m_slots.slotOf(team, player); }
+  // IN or OUT by one click. False: no such player, five are on court, or nothing can be recorded. While the
+  // clock runs, what leaves fewer on court than could play is pending.
+  bool toggleOnCourt(int team, int player);
+  // A substitution of which only a part was clicked. It is on court here, and written with the clock of its
+  // first click when it is whole, before whatever is recorded next, or after some seconds.
+  struct Pending {
+    OnCourt before = {};
+    int clockSeconds = 0;
+    std::int64_t since = 0; // the time of its first click
+  };
+  static constexpr int kLongestPending = 20; // seconds
+  const std::optional<Pending>& pending() const { return m_pending; }
+  bool writePending();
+  // Several at once, both teams as they shall stand; one event. More than five of a team is refused.
+  bool setOnCourt(const OnCourt& onCourt);
+  bool takeAllOut(int team);
+  // How many of a team can stand on court: five, or all who have not fouled out.
+  [[nodiscard]] int fullNumber(int team) const;
+  // IN of a player of that slot's team; where places are kept he takes exactly this one. False: he is on
+  // court or nobody, the slot is taken, or nothing can be recorded.
+  bool putInSlot(int slot, int player);
+  // Off: after an IN those on court stand in order of the roster. On: nobody moves for one who comes. To be
+  // set before a game is opened that shall be shown as it was left.
+  void setKeepsPlaces(bool isOn) { m_slots.setKeepsPlaces(isOn); }
+  OnCourt onCourt() const { return m_slots.onCourt(); }
+  // A player who came late, or was forgotten, behind all others of his team; on the bench. In the file at
+  // once, and no action that could be taken back: his events can be, and he stays. Events and lists that name
+  // his number already count for him from then on. Jersey and name come trimmed; the name may be empty.
+  [[nodiscard]] NewPlayer addPlayer(int team, std::string_view jersey, std::string_view name);
+
+  // --- What is counted
+  // Of a player on court or on the bench, who can be given a technical foul. The place in left-hand
+  // orientation; none for kinds without one. False: no such player (an empty slot), or nothing can be
+  // recorded.
+  bool recordShot(int team, int player, EventCode kind, bool isMade,
+                  std::optional<std::pair<double, double>> place = std::nullopt);
+  bool recordAction(int team, int player, EventCode kind);
+  // The assist or rebound of the shot that was recorded last: behind it when its period has ended since.
+  bool recordFollowUp(int team, int player, EventCode kind);
+  const EventPlace& lastShot() const { return m_lastShot; } // that was recorded here; period 0: none
+  // What such a shot asks for; the players who can be chosen, as slots.
+  struct FollowUps {
+    std::vector<int> assist;           // of the shooter's team, without him
+    std::vector<int> offensiveRebound; // of the shooter's team
+    std::vector<int> defensiveRebound; // of the other
+    bool isEmpty() const { return assist.empty() && offensiveRebound.empty() && defensiveRebound.empty(); }
+  };
+  FollowUps followUps(int team, int player, EventCode kind, bool isMade, bool asksRebounds) const;
+
+  // --- What is shown
+  int secondsOnCourt(int team, int player) const;
+  int secondsOfLine(int team) const; // that those on court have played together; 0 for nobody
+  int secondsInLead(LeadState state) const;
+  int teamFouls(int team) const;  // of the period; of all overtimes with the last regular period where kept
+  bool isInBonus(int team) const; // the team whose fouls have reached the limit
+  bool isFouledOut(int team, int player) const;
+
+  // --- Taking back
+  // A start of the clock in this session, with nothing but events of the clock behind it and its period not
+  // at its end, comes before all else.
+  std::optional<LiveAction> toUndo() const;
+  const LiveAction* toRedo() const { return m_history.toRedo(); }
+  bool undo();
+  bool redo();
+
+  // --- Editing; each is one action, as GameEditing plans it. False: nothing was changed.
+  using Where = GameEditing::Where;
+  using Counted = GameEditing::Counted;
+  [[nodiscard]] GameEditing editing() const { return GameEditing(m_log); }
+  // A plan for the game as it stands.
+  bool take(const EditPlan& plan);
+  bool setDeleted(std::span<const EventPlace> events, bool isDeleted) {
+    return writePending() && take(editing().deletion(events, isDeleted));
+  }
+  bool canDelete(const EventPlace& event) const { return editing().canDelete(event); }
+  bool replaceEvent(const EventPlace& event, int clockSeconds, const std::string& eventText) {
+    return writePending() && take(editing().replacement(event, clockSeconds, eventText));
+  }
+  bool setTime(const EventPlace& event, int clockSeconds) {
+    return writePending() && take(editing().newTime(event, clockSeconds));
+  }
+  bool editEvent(const EventPlace& event, int clockSeconds, const Counted& counted) {
+    return writePending() && take(editing().change(event, clockSeconds, counted));
+  }
+  bool insertEvent(const EventPlace& at, Where where, int clockSeconds, const Counted& counted) {
+    return writePending() && take(editing().insertion(at, where, clockSeconds, counted));
+  }
+  bool insertSubstitution(const EventPlace& at, Where where, const OnCourt& out, const OnCourt& in) {
+    return writePending() && take(editing().substitution(at, where, out, in));
+  }
+  // To be looked at again. Of what is recorded, not of the clock's own events.
+  [[nodiscard]] std::optional<EventPlace> lastRecorded() const;
+  bool setDoubtful(const EventPlace& event, bool isDoubtful);
+  // A finding that is right as it is, by the number of its text, until the event is changed.
+  bool acceptFinding(const EventPlace& event, int finding);
+  // Of the last plan that was refused.
+  const std::optional<CourtConflict>& conflict() const { return m_conflict; }
+
+ private:
+  [[nodiscard]] int lengthOf(int period) const;
+  // The next stop will credit what has passed, to those on court and to the lead.
+  [[nodiscard]] bool isTimeOpen() const { return m_phase == Phase::Running || isStopLost(); }
+  [[nodiscard]] int secondsSinceLists(std::size_t team) const;
+  std::string lineOf(const std::string& eventText) const; // at the present clock
+  EventChange added(const std::string& line);
+  bool record(const std::string& eventText, int text);
+  void recordStop();
+  void checkCounts() const;
+  void leavePeriod();
+  void closePeriod();
+  void showAsLeft();
+  void putOnCourt(const OnCourt& lists) { m_slots.put(lists); }
+  void comeAndGo();
+  bool keepListsMeaning(int team, const RosterPlayer& added);
+  bool mayStand(const OnCourt& wanted) const;
+  bool changeByClick(const OnCourt& wanted);
+  bool isWhole(const OnCourt& wanted) const;
+  bool recordOnCourt(int clockSeconds);
+  bool done(int text, const std::vector<EventChange>& steps, std::vector<EventChange> back);
+  [[nodiscard]] const std::pair<std::string, std::string>* openSubstitution(int clockSeconds) const;
+  [[nodiscard]] std::optional<LiveAction> startToTakeBack() const;
+  bool takeStartBack(LiveAction start);
+  void decideAgain();
+  void offerEarlier();
+  bool turn(const LiveAction& action, std::vector<EventChange>& inverse);
+
+  LiveLog m_log;
+  Access m_access = Access::Recording;
+  TimeSource& m_time;
+  GameClock m_clock;
+  LiveHistory m_history;
+  std::optional<CourtConflict> m_conflict;
+  CourtSlots m_slots;
+  std::optional<Pending> m_pending;
+  Phase m_phase = Phase::Stopped;
+  int m_period = 1;
+  bool m_wasLeftRunning = false; // when it was opened; until the clock is started or the stop put in
+  int m_endedPeriod = 0;
+  std::int64_t m_lockedUntil = 0; // no start before
+  std::map<int, int>
+      m_starts;             // of this session: the event's number, and the period to which one could return
+  EventPlace m_lastShot;    // of this session
+  int m_lengthOfPeriod = 0; // seconds; of an overtime its own
+};
+
+} // namespace hooptab

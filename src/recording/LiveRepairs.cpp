@@ -1,0 +1,109 @@
+#include "recording/LiveRepairs.h"
+
+#include "game/EventWords.h"
+#include "game/PlayerLookup.h"
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kDelete = 1081;
+constexpr int kEdit = 1912;
+constexpr int kChangeLists = 1880;
+constexpr int kComesIn = 1881;
+constexpr int kInsertHere = 1882;
+constexpr int kChangePlayer = 1883;
+
+using What = PastSubstitution::What;
+
+EventPlace placeOf(const Game& game, std::size_t event) {
+  return {game.events[event].period, std::string(game.events[event].key)};
+}
+
+bool isStop(const GameEvent& event) {
+  return event.isUnderstood && !event.isDeleted && event.code == EventCode::ARRET;
+}
+
+LiveRepair insertionBefore(const Game& game, std::size_t event) {
+  return {.kind = LiveRepair::Kind::Substitution,
+          .text = kInsertHere,
+          .past = {What::InsertBefore, placeOf(game, event)}};
+}
+
+LiveRepair otherLists(const Game& game, std::size_t stop) {
+  return {.kind = LiveRepair::Kind::Substitution,
+          .text = kChangeLists,
+          .past = {What::Change, placeOf(game, stop)}};
+}
+
+LiveRepair change(const Game& game, std::size_t event, int text) {
+  return {.kind = LiveRepair::Kind::Change, .text = text, .event = placeOf(game, event)};
+}
+
+LiveRepair deletion(const Game& game, std::size_t event) {
+  return {.kind = LiveRepair::Kind::Deletion, .text = kDelete, .event = placeOf(game, event)};
+}
+
+// Who starts: the lists of the stop that sent them there, or a substitution where there is none.
+LiveRepair fiveAt(const Game& game, std::size_t event) {
+  return isStop(game.events[event]) ? otherLists(game, event) : insertionBefore(game, event);
+}
+
+// The first stop of the period from which not five were on court; else before its last.
+LiveRepair ofTime(const Game& game, std::size_t lastStop, std::size_t team) {
+  constexpr std::size_t kFive = 5;
+  for (std::size_t event = 0; event < lastStop; ++event) {
+    const GameEvent& stop = game.events[event];
+    if (stop.period == game.events[lastStop].period && isStop(stop) &&
+        playersOfList(stop.onCourt(team), game.roster[team]).size() != kFive)
+      return otherLists(game, event);
+  }
+  return insertionBefore(game, lastStop);
+}
+
+} // namespace
+
+std::vector<LiveRepair> repairsOf(const Finding& finding, const Game& game) {
+  if (!finding.hasEvent())
+    return {};
+  const auto team = static_cast<std::size_t>(std::max(finding.team, 0));
+  switch (finding.kind) {
+  case FindingKind::NotOnCourt: {
+    LiveRepair substitution = insertionBefore(game, finding.event);
+    substitution.team = finding.team;
+    substitution.player = game.roster[team].entryOf(finding.jersey);
+    if (substitution.player > 0)
+      substitution.text = kComesIn;
+    return {substitution, change(game, finding.event, kChangePlayer)};
+  }
+  case FindingKind::FewerThanFive:
+  case FindingKind::MoreThanFive: return {fiveAt(game, finding.event)};
+  case FindingKind::OtherTime: return {ofTime(game, finding.event, team)};
+  case FindingKind::Twice:
+  case FindingKind::OnCourtNotInRoster: return {otherLists(game, finding.event)};
+  case FindingKind::FouledOutBefore:
+  case FindingKind::NotInRoster:
+    return {change(game, finding.event, kChangePlayer), deletion(game, finding.event)};
+  case FindingKind::AssistWithoutBasket:
+  case FindingKind::ReboundAfterMade:
+  case FindingKind::AfterClose: return {change(game, finding.event, kEdit), deletion(game, finding.event)};
+  case FindingKind::ClockRises:
+  case FindingKind::ClockAbovePeriod:
+  case FindingKind::Swapped:
+  case FindingKind::TwoFromThree:
+  case FindingKind::ThreeFromInside: return {change(game, finding.event, kEdit)};
+  case FindingKind::Burst: return {deletion(game, finding.event)};
+  default: return {};
+  }
+}
+
+std::string wordsOf(const LiveRepair& repair, const Game& game, const Texts& texts) {
+  const RosterPlayer* player = game.roster[static_cast<std::size_t>(repair.team)].player(repair.player);
+  const std::string who =
+      player == nullptr ? std::string() : EventWords(game, texts).player({repair.team, player->jersey});
+  return texts.withPlaceholder(repair.text, who);
+}
+
+} // namespace hooptab

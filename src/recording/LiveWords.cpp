@@ -1,0 +1,105 @@
+#include "recording/LiveWords.h"
+
+#include "game/EventWords.h"
+#include "game/TeamFouls.h"
+#include "storage/Placeholders.h"
+
+#include <array>
+#include <map>
+#include <tuple>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kToGive = 2537;
+constexpr int kShootTwo = 2538;
+constexpr int kFirst = 2539;
+constexpr int kSecond = 2540;
+constexpr int kThird = 2541;
+constexpr int kLater = 2542;
+constexpr int kOfTeam = 2543;
+
+bool counts(const GameEvent& event) {
+  return event.isUnderstood && !event.isDeleted && event.kind() != nullptr;
+}
+
+// French has one for the first alone.
+int ordinalOf(int number, Language language) {
+  if (language == Language::French)
+    return number == 1 ? kFirst : kLater;
+  if (number % 100 / 10 == 1) // 11th to 13th, too
+    return kLater;
+  switch (number % 10) {
+  case 1: return kFirst;
+  case 2: return kSecond;
+  case 3: return kThird;
+  default: return kLater;
+  }
+}
+
+} // namespace
+
+std::string foulWords(const LiveGame& game, int team, const Texts& texts) {
+  const int limit = game.game().details.bonus;
+  if (limit <= 0)
+    return {};
+  if (game.isInBonus(team))
+    return texts.withPlaceholder(kShootTwo, EventWords(game.game(), texts).team(1 - team));
+  return texts.withPlaceholder(kToGive, std::to_string(limit - game.teamFouls(team)));
+}
+
+std::optional<ScoringRun> lastRun(const EventList& events) {
+  std::optional<ScoringRun> run;
+  for (std::size_t place = events.size(); place > 0; --place) {
+    const GameEvent& event = events[place - 1];
+    if (!counts(event) || !event.isShot() || !event.isMade)
+      continue;
+    if (run && run->team != event.player.team)
+      break;
+    run = ScoringRun{event.player.team, (run ? run->points : 0) + event.kind()->points};
+  }
+  return run;
+}
+
+std::string runText(const ScoringRun& run) {
+  return std::to_string(run.points) + "\u20130";
+}
+
+std::vector<FoulNumber> foulNumbers(const Game& game) {
+  std::vector<FoulNumber> numbers;
+  numbers.reserve(game.events.size());
+  std::map<std::tuple<int, std::string, EventCode>, int> ofPlayer;
+  std::array<int, 2> ofTeam = {};
+  std::size_t counted = 0; // the row of the period from which on fouls are counted together
+  for (const GameEvent& event : game.events) {
+    FoulNumber& number = numbers.emplace_back();
+    if (!counts(event) || !event.kind()->isTeamFoul)
+      continue;
+    if (const auto from = GameState::periodRow(firstPeriodOfFouls(game.details, event.period));
+        from != counted) {
+      ofTeam = {};
+      counted = from;
+    }
+    const auto& [team, jersey] = event.player;
+    const Roster& roster = game.roster[team];
+    const RosterPlayer* player = roster.player(roster.entryOf(jersey));
+    number.ofPlayer =
+        ++ofPlayer[{team, player == nullptr ? std::string(jersey) : player->jersey, event.code}];
+    number.ofTeam = ++ofTeam[static_cast<std::size_t>(team)];
+  }
+  return numbers;
+}
+
+std::string ordinalText(int number, const Texts& texts) {
+  return texts.withPlaceholder(ordinalOf(number, texts.language()), std::to_string(number));
+}
+
+std::string foulText(const FoulNumber& foul, const Texts& texts) {
+  if (foul.ofPlayer == 0)
+    return {};
+  return withPlaceholders(texts.text(kOfTeam), ordinalText(foul.ofPlayer, texts),
+                          std::to_string(foul.ofTeam));
+}
+
+} // namespace hooptab

@@ -1,0 +1,79 @@
+// Several players in and out at once, now or at an event of the past: who shall stand on court, picked click
+// by click in any order and written as one event, and the lines that can be taken with one click. Changes no
+// game; whoever shows it hands the choice on.
+#pragma once
+
+#include "recording/LiveGame.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace hooptab {
+
+// A substitution that is put in later at an event, or a stop of which others shall be on court.
+struct PastSubstitution {
+  enum class What { InsertBefore, InsertBehind, Change };
+  What what = What::InsertBefore;
+  EventPlace event = {};
+};
+
+class Substitution {
+ public:
+  static constexpr std::size_t kMostLines = 6;
+
+  struct Line {
+    unsigned players = 0; // as in OnCourt
+    int seconds = 0;      // that it has played together
+    std::string jerseys = {};
+    friend bool operator==(const Line&, const Line&) = default;
+  };
+
+  // Begins with who stands on court.
+  explicit Substitution(const LiveGame& game);
+  // With who stood on court there. The game must outlive it.
+  Substitution(const LiveGame& game, const PastSubstitution& past);
+
+  // Who was to stay leaves, who was to leave or sat on the bench comes. More than five may be chosen on the
+  // way, so that it does not matter who is clicked first.
+  void toggle(int team, int player);
+  // These alone, as in OnCourt, or a line's; what was chosen of the team before is forgotten.
+  void take(int team, unsigned players) { m_onCourt[static_cast<std::size_t>(team)] = players; }
+  void takeLine(int team, std::size_t line);
+  // The last of these steps, as often as there are any.
+  void takeBack();
+
+  const OnCourt& onCourt() const { return m_onCourt; }
+  bool isChosen(int team, int player) const { return holds(m_onCourt, team, player); }
+  bool wasOnCourt(int team, int player) const { return holds(m_before, team, player); }
+  // At the time of the substitution.
+  bool isFouledOut(int team, int player) const { return holds(m_fouledOut, team, player); }
+  int count(int team) const;
+  // What the choice comes to in the past; its conflict is a later stop that would not fit.
+  [[nodiscard]] EditPlan plan() const;
+  // Something is changed, and nowhere more than five, nor later in the game: fewer can be right, when nobody
+  // else can play.
+  [[nodiscard]] bool canAccept() const;
+
+  // Five that have played before, most played first: not those who stand on court already, and none with a
+  // player who has fouled out.
+  const std::vector<Line>& lines(int team) const { return m_lines[static_cast<std::size_t>(team)]; }
+
+ private:
+  static bool holds(const OnCourt& onCourt, int team, int player) {
+    return (onCourt[static_cast<std::size_t>(team)] >> player & 1U) != 0;
+  }
+
+  void fill();
+
+  const LiveGame& m_game;
+  std::optional<PastSubstitution> m_past;
+  OnCourt m_before;               // the lists that the choice changes
+  OnCourt m_onCourt;              // the choice
+  std::vector<OnCourt> m_earlier; // it, before each step
+  OnCourt m_fouledOut = {};
+  OnCourt m_rosters = {}; // who can be chosen at all
+  std::array<std::vector<Line>, 2> m_lines;
+};
+
+} // namespace hooptab
