@@ -3,7 +3,7 @@
 #include "appearance/ElidedLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/QtKeys.h"
+#include "keypad/QtKeys.h"
 
 #include <QApplication>
 #include <QBoxLayout>

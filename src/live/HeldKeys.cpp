@@ -1,6 +1,6 @@
 #include "live/HeldKeys.h"
 
-#include "live/QtKeys.h"
+#include "keypad/QtKeys.h"
 
 #include <QApplication>
 #include <QKeyEvent>

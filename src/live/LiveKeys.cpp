@@ -1,10 +1,10 @@
 #include "live/LiveKeys.h"
 
 #include "appearance/relabel.h"
-#include "live/KeyCodes.h"
-#include "live/KeySheet.h"
-#include "live/KeypadDisplay.h"
-#include "live/QtKeys.h"
+#include "keypad/KeyCodes.h"
+#include "keypad/KeySheet.h"
+#include "keypad/KeypadDisplay.h"
+#include "keypad/QtKeys.h"
 #include "settings/Settings.h"
 
 #include <QApplication>

@@ -4,10 +4,10 @@
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "keypad/KeyCodes.h"
+#include "keypad/QtKeys.h"
 #include "live/JerseyButton.h"
-#include "live/KeyCodes.h"
 #include "live/PlayerWords.h"
-#include "live/QtKeys.h"
 #include "recording/ConflictWords.h"
 #include "storage/Module1.h"
 

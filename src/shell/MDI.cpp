@@ -9,7 +9,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "court/frmCOULEURS.h"
-#include "live/frmConfiguration.h"
+#include "keypad/frmConfiguration.h"
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
 #include "printing/ReportOutput.h"

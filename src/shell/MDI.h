@@ -5,7 +5,7 @@
 
 #include "appearance/ColourScheme.h"
 #include "game/GameFile.h"
-#include "live/KeypadAssignment.h"
+#include "keypad/KeypadAssignment.h"
 #include "printing/SeasonReports.h"
 #include "settings/Settings.h"
 #include "shell/CommandState.h"

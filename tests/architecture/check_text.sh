@@ -22,7 +22,7 @@ forbid 'setLabelText' 'none' 'setLabel with a PlainLabel'
 forbid 'QMessageBox::(about|information|warning|critical|question)\(' 'none' 'a box with setTextFormat(Qt::PlainText)'
 # The only rich text is made of our own words and numbers.
 forbid 'RichText|AutoText|MarkdownText|fromHtml|[sS]etHtml|insertHtml|QTextDocument\b|QTextBrowser|QStaticText' \
-  'scorecard/ShotChartPanel\.cpp|live/KeySheet\.cpp' 'plain text'
+  'scorecard/ShotChartPanel\.cpp|keypad/KeySheet\.cpp' 'plain text'
 forbid 'setWhatsThis|WhatsThisRole|QTipLabel' 'appearance/ProgramStyle\.cpp' 'a tool tip'
 forbid '\bsetStyle\(' 'appearance/Theme\.cpp' 'the style that makes tool tips plain'
 forbid '"&&"' 'appearance/PlainText\.cpp' 'withoutMnemonic'

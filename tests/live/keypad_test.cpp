@@ -1,5 +1,5 @@
-#include "live/KeyCodes.h"
-#include "live/KeypadInput.h"
+#include "keypad/KeyCodes.h"
+#include "keypad/KeypadInput.h"
 #include "live/ManualTime.h"
 #include "recording/FollowUpQuestion.h"
 #include "support/SharedGames.h"

@@ -5,7 +5,7 @@
 #include "appearance/relabel.h"
 #include "court/CourtView.h"
 #include "court/frmCOULEURS.h"
-#include "live/frmConfiguration.h"
+#include "keypad/frmConfiguration.h"
 #include "live/frmLIVE.h"
 #include "live/frmSUBST.h"
 #include "manual/ScannedTotals.h"

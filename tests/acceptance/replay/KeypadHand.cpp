@@ -1,6 +1,6 @@
 #include "KeypadHand.h"
 
-#include "live/KeyCodes.h"
+#include "keypad/KeyCodes.h"
 
 #include <algorithm>
 #include <array>

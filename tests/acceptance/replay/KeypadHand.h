@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Hand.h"
-#include "live/KeypadAssignment.h"
+#include "keypad/KeypadAssignment.h"
 
 #include <string_view>
 #include <vector>

@@ -2,7 +2,7 @@
 // keypad apart, Num Lock on and off.
 #pragma once
 
-#include "live/KeypadInput.h"
+#include "keypad/KeypadInput.h"
 
 #include <QString>
 #include <QtGlobal>

@@ -1,11 +1,11 @@
-#include "live/KeySheet.h"
+#include "keypad/KeySheet.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/KeyCodes.h"
-#include "live/KeypadPicture.h"
-#include "live/QtKeys.h"
+#include "keypad/KeyCodes.h"
+#include "keypad/KeypadPicture.h"
+#include "keypad/QtKeys.h"
 #include "storage/Placeholders.h"
 
 #include <QGridLayout>

@@ -1,7 +1,7 @@
-#include "live/QtKeys.h"
+#include "keypad/QtKeys.h"
 
 #include "appearance/relabel.h"
-#include "live/KeyCodes.h"
+#include "keypad/KeyCodes.h"
 
 #include <QAbstractSpinBox>
 #include <QKeyEvent>

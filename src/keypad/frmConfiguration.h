@@ -3,7 +3,7 @@
 // where the letters are remembered, is the main window's affair.
 #pragma once
 
-#include "live/KeypadAssignment.h"
+#include "keypad/KeypadAssignment.h"
 
 #include <QDialog>
 

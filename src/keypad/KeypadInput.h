@@ -4,7 +4,7 @@
 // orders is carried out by whoever feeds it with keys.
 #pragma once
 
-#include "live/KeypadAssignment.h"
+#include "keypad/KeypadAssignment.h"
 #include "recording/LiveGame.h"
 
 #include <array>

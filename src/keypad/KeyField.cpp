@@ -1,8 +1,8 @@
-#include "live/KeyField.h"
+#include "keypad/KeyField.h"
 
 #include "appearance/Theme.h"
-#include "live/KeyCodes.h"
-#include "live/QtKeys.h"
+#include "keypad/KeyCodes.h"
+#include "keypad/QtKeys.h"
 
 #include <QKeyEvent>
 

@@ -1,9 +1,9 @@
-#include "live/KeypadPicture.h"
+#include "keypad/KeypadPicture.h"
 
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/QtKeys.h"
+#include "keypad/QtKeys.h"
 
 #include <QGridLayout>
 #include <QPushButton>

@@ -1,6 +1,6 @@
-#include "live/KeypadInput.h"
+#include "keypad/KeypadInput.h"
 
-#include "live/KeyCodes.h"
+#include "keypad/KeyCodes.h"
 #include "storage/Placeholders.h"
 
 #include <algorithm>

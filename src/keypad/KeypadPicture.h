@@ -2,7 +2,7 @@
 // sheet. Says which key was clicked; binds nothing.
 #pragma once
 
-#include "live/KeypadAssignment.h"
+#include "keypad/KeypadAssignment.h"
 
 #include <QWidget>
 

@@ -1,4 +1,4 @@
-#include "live/frmConfiguration.h"
+#include "keypad/frmConfiguration.h"
 
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
@@ -7,10 +7,10 @@
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/KeyCodes.h"
-#include "live/KeyField.h"
-#include "live/KeySheet.h"
-#include "live/KeypadPicture.h"
+#include "keypad/KeyCodes.h"
+#include "keypad/KeyField.h"
+#include "keypad/KeySheet.h"
+#include "keypad/KeypadPicture.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

@@ -1,6 +1,6 @@
-#include "live/KeypadAssignment.h"
+#include "keypad/KeypadAssignment.h"
 
-#include "live/KeyCodes.h"
+#include "keypad/KeyCodes.h"
 #include "storage/Module1.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 // window and takes no key, so that one can try out what one reads; a click closes it.
 #pragma once
 
-#include "live/KeypadAssignment.h"
+#include "keypad/KeypadAssignment.h"
 
 #include <QFrame>
 

@@ -1,4 +1,4 @@
-#include "live/KeyCodes.h"
+#include "keypad/KeyCodes.h"
 
 #include "storage/Module1.h"
 

@@ -1,4 +1,4 @@
-#include "live/KeypadDisplay.h"
+#include "keypad/KeypadDisplay.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
