@@ -3,9 +3,9 @@
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "events/frmSUBST.h"
 #include "live/RosterStrip.h"
 #include "live/SelectedPlayer.h"
-#include "live/frmSUBST.h"
 #include "recording/LiveGame.h"
 
 #include <QAction>

@@ -4,8 +4,8 @@
 // follows an order on screen is the window's.
 #pragma once
 
+#include "events/FollowUpBar.h"
 #include "keypad/KeypadInput.h"
-#include "live/FollowUpBar.h"
 
 #include <QElapsedTimer>
 #include <QObject>

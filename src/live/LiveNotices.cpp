@@ -3,8 +3,8 @@
 #include "appearance/NoticeStrip.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
+#include "events/MessageLine.h"
 #include "live/LostStopStrip.h"
-#include "live/MessageLine.h"
 
 #include <QBoxLayout>
 

@@ -1,8 +1,8 @@
 #include "live/RepeatedPress.h"
 
 #include "court/CourtGeometry.h"
-#include "live/MiniCourt.h"
-#include "live/StatButton.h"
+#include "events/MiniCourt.h"
+#include "events/StatButton.h"
 
 #include <QApplication>
 #include <QLineF>

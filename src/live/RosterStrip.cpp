@@ -3,8 +3,8 @@
 #include "appearance/ArrowFocus.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/JerseyButton.h"
-#include "live/PlayerWords.h"
+#include "events/JerseyButton.h"
+#include "events/PlayerWords.h"
 #include "recording/LiveGame.h"
 #include "recording/LivePanel.h"
 

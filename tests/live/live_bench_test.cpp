@@ -1,9 +1,9 @@
+#include "events/FollowUpBar.h"
+#include "events/JerseyButton.h"
+#include "events/frmSUBST.h"
 #include "live/BenchPanel.h"
-#include "live/FollowUpBar.h"
-#include "live/JerseyButton.h"
 #include "live/ManualTime.h"
 #include "live/RosterStrip.h"
-#include "live/frmSUBST.h"
 #include "settings/Texts.h"
 #include "support/TemporaryFolder.h"
 

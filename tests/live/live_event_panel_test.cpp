@@ -1,13 +1,13 @@
 // The list of events beside the court: what it shows, keeps and asks for.
-#include "live/LiveEventDelegate.h"
-#include "live/LiveEventPanel.h"
+#include "events/LiveEventDelegate.h"
+#include "events/LiveEventPanel.h"
 
 #include "appearance/relabel.h"
-#include "live/EventRequests.h"
+#include "events/EventRequests.h"
+#include "events/frmEDIT.h"
+#include "events/frmSUBST.h"
 #include "live/ManualTime.h"
-#include "live/frmEDIT.h"
 #include "live/frmLIVE.h"
-#include "live/frmSUBST.h"
 #include "recording/LiveGame.h"
 #include "settings/Settings.h"
 #include "support/ScriptedDialogs.h"

@@ -2,9 +2,9 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "events/MiniCourt.h"
+#include "events/StatButton.h"
 #include "live/ManualTime.h"
-#include "live/MiniCourt.h"
-#include "live/StatButton.h"
 #include "recording/LiveGame.h"
 #include "settings/Settings.h"
 #include "storage/FileSystem.h"

@@ -1,11 +1,11 @@
 // The live window as a whole, under hands that slip, disks that fail and games that come and go.
+#include "events/frmSUBST.h"
 #include "game/EventListModel.h"
 #include "live/frmLIVE.h"
-#include "live/frmSUBST.h"
 
 #include "appearance/relabel.h"
+#include "events/JerseyButton.h"
 #include "live/BenchPanel.h"
-#include "live/JerseyButton.h"
 #include "live/ManualTime.h"
 #include "settings/Settings.h"
 #include "support/FaultyFileSystem.h"

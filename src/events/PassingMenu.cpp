@@ -1,4 +1,4 @@
-#include "live/PassingMenu.h"
+#include "events/PassingMenu.h"
 
 #include <QApplication>
 #include <QKeyEvent>

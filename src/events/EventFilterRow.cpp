@@ -1,4 +1,4 @@
-#include "live/EventFilterRow.h"
+#include "events/EventFilterRow.h"
 
 #include "appearance/relabel.h"
 

@@ -1,4 +1,4 @@
-#include "live/LiveEventRows.h"
+#include "events/LiveEventRows.h"
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"

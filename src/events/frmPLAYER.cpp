@@ -1,4 +1,4 @@
-#include "live/frmPLAYER.h"
+#include "events/frmPLAYER.h"
 
 #include "appearance/Fields.h"
 #include "appearance/PlainLabel.h"

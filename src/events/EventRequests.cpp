@@ -1,9 +1,9 @@
-#include "live/EventRequests.h"
+#include "events/EventRequests.h"
 
 #include "appearance/Dialogs.h"
 #include "appearance/relabel.h"
-#include "live/LiveEventPanel.h"
-#include "live/frmSUBST.h"
+#include "events/LiveEventPanel.h"
+#include "events/frmSUBST.h"
 #include "recording/ConflictWords.h"
 
 namespace hooptab {

@@ -2,7 +2,7 @@
 // shows it takes the filter.
 #pragma once
 
-#include "live/LiveEventRows.h"
+#include "events/LiveEventRows.h"
 
 #include <QWidget>
 

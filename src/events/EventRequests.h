@@ -2,7 +2,7 @@
 // substitutions, hands the answers to the game, and says what does not fit. Lays nothing out.
 #pragma once
 
-#include "live/frmEDIT.h"
+#include "events/frmEDIT.h"
 #include "recording/Substitution.h"
 
 #include <QObject>

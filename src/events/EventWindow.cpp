@@ -1,6 +1,6 @@
-#include "live/EventWindow.h"
+#include "events/EventWindow.h"
 
-#include "live/LiveEventList.h"
+#include "events/LiveEventList.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>

@@ -1,11 +1,11 @@
-#include "live/FollowUpBar.h"
+#include "events/FollowUpBar.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "events/JerseyButton.h"
+#include "events/PlayerWords.h"
 #include "game/EventWords.h"
-#include "live/JerseyButton.h"
-#include "live/PlayerWords.h"
 
 #include <QApplication>
 #include <QBoxLayout>

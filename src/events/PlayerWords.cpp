@@ -1,4 +1,4 @@
-#include "live/PlayerWords.h"
+#include "events/PlayerWords.h"
 
 #include "appearance/relabel.h"
 #include "recording/LiveGame.h"

@@ -1,4 +1,4 @@
-#include "live/CorrectionBar.h"
+#include "events/CorrectionBar.h"
 
 #include "appearance/ElidedLabel.h"
 #include "appearance/Theme.h"

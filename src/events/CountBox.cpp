@@ -1,4 +1,4 @@
-#include "live/CountBox.h"
+#include "events/CountBox.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"

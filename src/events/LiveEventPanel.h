@@ -3,7 +3,7 @@
 // Shows, and says what was asked; changes no game.
 #pragma once
 
-#include "live/LiveEventRows.h"
+#include "events/LiveEventRows.h"
 #include "recording/LiveRepairs.h"
 
 #include <QWidget>

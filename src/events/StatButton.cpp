@@ -1,7 +1,7 @@
-#include "live/StatButton.h"
+#include "events/StatButton.h"
 
 #include "appearance/Theme.h"
-#include "live/CountBox.h"
+#include "events/CountBox.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "live/MessageLine.h"
+#include "events/MessageLine.h"
 
 #include "appearance/ElidedLabel.h"
 #include "appearance/PlainText.h"

@@ -1,7 +1,7 @@
-#include "live/LiveEventDelegate.h"
+#include "events/LiveEventDelegate.h"
 
 #include "appearance/Theme.h"
-#include "live/LiveEventRows.h"
+#include "events/LiveEventRows.h"
 
 #include <QPainter>
 

@@ -1,13 +1,13 @@
-#include "live/frmSUBST.h"
+#include "events/frmSUBST.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "events/JerseyButton.h"
+#include "events/PlayerWords.h"
 #include "keypad/KeyCodes.h"
 #include "keypad/QtKeys.h"
-#include "live/JerseyButton.h"
-#include "live/PlayerWords.h"
 #include "recording/ConflictWords.h"
 #include "storage/Module1.h"
 

@@ -1,4 +1,4 @@
-#include "live/MiniCourt.h"
+#include "events/MiniCourt.h"
 
 #include "appearance/Theme.h"
 #include "court/CourtColourChoice.h"

@@ -1,12 +1,12 @@
-#include "live/BenchShot.h"
+#include "events/BenchShot.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/MiniCourt.h"
-#include "live/PassingMenu.h"
-#include "live/StatButton.h"
-#include "live/StatControls.h"
+#include "events/MiniCourt.h"
+#include "events/PassingMenu.h"
+#include "events/StatButton.h"
+#include "events/StatControls.h"
 #include "settings/Settings.h"
 
 #include <QBoxLayout>

@@ -1,4 +1,4 @@
-#include "live/JerseyButton.h"
+#include "events/JerseyButton.h"
 
 #include "appearance/Theme.h"
 

@@ -1,8 +1,8 @@
-#include "live/LiveEventList.h"
+#include "events/LiveEventList.h"
 
 #include "appearance/Theme.h"
-#include "live/LiveEventDelegate.h"
-#include "live/LiveEventRows.h"
+#include "events/LiveEventDelegate.h"
+#include "events/LiveEventRows.h"
 
 #include <QHeaderView>
 #include <QMouseEvent>
