@@ -3,6 +3,7 @@
 // which its window answers nothing. Without a display it draws off screen.
 #include "appearance/Dialogs.h"
 #include "appearance/relabel.h"
+#include "catalogue/GameCatalogue.h"
 #include "game_to_measure.h"
 #include "printing/GameReports.h"
 #include "printing/Printers.h"
@@ -11,7 +12,6 @@
 #include "printing/SeasonReports.h"
 #include "printing/frmprint.h"
 #include "scorecard/Scorecard.h"
-#include "season/GameCatalogue.h"
 #include "settings/Settings.h"
 #include "simulator/GameSimulator.h"
 #include "simulator/SampleTeams.h"

@@ -1,7 +1,7 @@
 // The columns of the list of games and of the results by game, and the text of their cells.
 #pragma once
 
-#include "season/GameCatalogue.h"
+#include "catalogue/GameCatalogue.h"
 #include "season/SeasonColumns.h"
 
 #include <optional>

@@ -3,8 +3,8 @@
 // outlive it and not be scanned anew meanwhile.
 #pragma once
 
+#include "catalogue/GameCatalogue.h"
 #include "scorecard/BoxScore.h"
-#include "season/GameCatalogue.h"
 
 #include <array>
 #include <atomic>

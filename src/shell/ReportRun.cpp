@@ -1,12 +1,12 @@
 #include "shell/ReportRun.h"
 
+#include "catalogue/GameFinder.h"
 #include "printing/GameReports.h"
 #include "printing/ReportFiles.h"
 #include "printing/ReportWords.h"
 #include "printing/SeasonReports.h"
 #include "printing/TeamReports.h"
 #include "scorecard/Scorecard.h"
-#include "season/GameFinder.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 #include "storage/Utf8.h"

@@ -2,8 +2,8 @@
 // teams, players and lines of all readers become the season's.
 #pragma once
 
-#include "season/GameCatalogue.h"
-#include "season/NameTable.h"
+#include "catalogue/GameCatalogue.h"
+#include "catalogue/NameTable.h"
 
 #include <map>
 #include <string>

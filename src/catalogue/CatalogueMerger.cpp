@@ -1,7 +1,7 @@
-#include "season/CatalogueMerger.h"
+#include "catalogue/CatalogueMerger.h"
 
+#include "catalogue/Jersey.h"
 #include "game/EventWords.h"
-#include "season/Jersey.h"
 #include "storage/NameOrder.h"
 #include "storage/codepage.h"
 

@@ -1,4 +1,4 @@
-#include "season/GameFinder.h"
+#include "catalogue/GameFinder.h"
 
 #include "game/GameFile.h"
 

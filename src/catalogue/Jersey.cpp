@@ -1,4 +1,4 @@
-#include "season/Jersey.h"
+#include "catalogue/Jersey.h"
 
 #include "storage/Module1.h"
 

@@ -1,9 +1,9 @@
-#include "season/GameCatalogue.h"
+#include "catalogue/GameCatalogue.h"
 
+#include "catalogue/CatalogueMerger.h"
+#include "catalogue/GameFinder.h"
+#include "catalogue/SummaryReader.h"
 #include "checks/FindingWords.h"
-#include "season/CatalogueMerger.h"
-#include "season/GameFinder.h"
-#include "season/SummaryReader.h"
 #include "storage/codepage.h"
 
 #include <algorithm>

@@ -3,8 +3,8 @@
 // over a season is decided once for each distinct text, by the catalogue, and not once for each game.
 #pragma once
 
+#include "catalogue/ListedGame.h"
 #include "game/GameDetails.h"
-#include "season/ListedGame.h"
 
 #include <array>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "season/SummaryReader.h"
+#include "catalogue/SummaryReader.h"
 
 #include "checks/GameCheck.h"
 #include "court/CourtGeometry.h"

@@ -2,10 +2,10 @@
 // own; the numbers that its games carry are those of the reader's own names().
 #pragma once
 
+#include "catalogue/GameCatalogue.h"
+#include "catalogue/NameTable.h"
 #include "game/GameFile.h"
 #include "game/Tally.h"
-#include "season/GameCatalogue.h"
-#include "season/NameTable.h"
 
 #include <optional>
 #include <string>

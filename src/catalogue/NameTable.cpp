@@ -1,6 +1,6 @@
-#include "season/NameTable.h"
+#include "catalogue/NameTable.h"
 
-#include "season/Jersey.h"
+#include "catalogue/Jersey.h"
 #include "storage/Module1.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Finds the game files of a folder: *.GAM in any letter case, regular files only. Reads none of them.
 #pragma once
 
-#include "season/GameCatalogue.h"
+#include "catalogue/GameCatalogue.h"
 
 #include <string>
 #include <vector>

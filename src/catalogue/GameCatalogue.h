@@ -3,7 +3,7 @@
 // to one thread at a time. Sums nothing (SeasonStatistics does) and shows nothing.
 #pragma once
 
-#include "season/ListedGame.h"
+#include "catalogue/ListedGame.h"
 #include "settings/Texts.h"
 #include "storage/FileSystem.h"
 
