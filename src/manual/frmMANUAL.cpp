@@ -9,11 +9,11 @@
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "forms/frmSCAN.h"
 #include "manual/ScoreCheck.h"
 #include "manual/ShotPanel.h"
 #include "manual/TotalsChange.h"
 #include "manual/TotalsTable.h"
-#include "manual/frmSCAN.h"
 #include "settings/Settings.h"
 
 #include <QBoxLayout>

@@ -3,8 +3,8 @@
 // format.
 #pragma once
 
-#include "appearance/FormLayout.h"
 #include "court/CourtGeometry.h"
+#include "forms/FormLayout.h"
 #include "scorecard/ShotChart.h"
 
 #include <array>

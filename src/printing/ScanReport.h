@@ -2,8 +2,8 @@
 // beside the paper.
 #pragma once
 
+#include "forms/ScannedTotals.h"
 #include "game/GameDetails.h"
-#include "manual/ScannedTotals.h"
 #include "printing/Report.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"

@@ -2,9 +2,9 @@
 // window it was asked from may close, and a game goes on.
 #pragma once
 
+#include "forms/ScannedTotals.h"
 #include "game/GameFile.h"
 #include "game/GameState.h"
-#include "manual/ScannedTotals.h"
 #include "printing/SeasonReports.h"
 #include "printing/frmprint.h"
 #include "scorecard/ScorecardView.h"

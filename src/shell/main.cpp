@@ -1,10 +1,10 @@
 // Makes the parts of the program, hands them down, and shows the main window. Started by itself with
-// "--decode-page FILE PAGE", it decodes that page of a scanned form instead (manual/PageDecoder.h).
+// "--decode-page FILE PAGE", it decodes that page of a scanned form instead (forms/PageDecoder.h).
 #include "appearance/Dialogs.h"
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "manual/DecoderProcess.h"
+#include "forms/DecoderProcess.h"
 #include "printing/Printers.h"
 #include "recording/TimeSource.h"
 #include "resources/tables.h"

@@ -1,4 +1,4 @@
-#include "appearance/FormLayout.h"
+#include "forms/FormLayout.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

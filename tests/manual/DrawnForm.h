@@ -2,8 +2,8 @@
 // test asks for is wrong with its pictures.
 #pragma once
 
-#include "appearance/FormLayout.h"
-#include "manual/GrayPicture.h"
+#include "forms/FormLayout.h"
+#include "forms/GrayPicture.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
-#include "manual/FormReader.h"
-#include "manual/PictureSums.h"
+#include "forms/FormReader.h"
+#include "forms/PictureSums.h"
 #include "manual/forms/Drawn.h"
 #include "manual/forms/FormScore.h"
 #include "manual/forms/PrintedForm.h"

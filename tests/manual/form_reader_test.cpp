@@ -1,8 +1,8 @@
 // The reader of scanned forms: pages turned, moved and stretched, hands of all kinds, and what is no form.
-#include "manual/FormReader.h"
+#include "forms/FormReader.h"
 
+#include "forms/PictureSums.h"
 #include "manual/DrawnForm.h"
-#include "manual/PictureSums.h"
 
 #include <functional>
 #include <gtest/gtest.h>

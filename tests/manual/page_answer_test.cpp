@@ -1,7 +1,7 @@
 // What comes from the process that decodes pages: whole answers piece by piece, and everything else.
-#include "manual/PageAnswer.h"
+#include "forms/PageAnswer.h"
 
-#include "manual/TiffPages.h"
+#include "forms/TiffPages.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,8 +1,8 @@
 // Pages decoded in a process of their own: what a good one gives, what limits it, and everything that a
 // damaged picture can make of it.
-#include "manual/PageDecoder.h"
+#include "forms/PageDecoder.h"
 
-#include "manual/DecoderProcess.h"
+#include "forms/DecoderProcess.h"
 #include "manual/PictureFile.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,13 +1,13 @@
 // Scanned forms as they are used: printed sheets with crosses on them, through loader, reader and window into
 // the totals and onto the disk; and pictures that are of no use.
-#include "manual/frmSCAN.h"
+#include "forms/frmSCAN.h"
 
+#include "forms/ScanView.h"
+#include "forms/ScannedModel.h"
 #include "manual/FilledForm.h"
 #include "manual/ManualColumns.h"
 #include "manual/OpenManualGame.h"
 #include "manual/PictureFile.h"
-#include "manual/ScanView.h"
-#include "manual/ScannedModel.h"
 #include "printing/ScanReport.h"
 
 #include <QApplication>

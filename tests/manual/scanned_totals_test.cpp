@@ -1,7 +1,7 @@
 // From what was read from a sheet to the totals of a game: numbers, counts, doubts, corrections, and nothing
 // lost on the way.
+#include "forms/ScannedTotals.h"
 #include "game/GameFile.h"
-#include "manual/ScannedTotals.h"
 #include "support/TextGame.h"
 
 #include <gtest/gtest.h>

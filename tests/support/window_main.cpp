@@ -1,6 +1,6 @@
 // Runs window tests inside one QApplication; the platform comes from the environment (offscreen, unless one
 // wants to look on). As the program itself, it is also the process that decodes a page of a scanned form.
-#include "manual/DecoderProcess.h"
+#include "forms/DecoderProcess.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

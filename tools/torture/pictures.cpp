@@ -6,9 +6,9 @@
 // The window stands in a process of its own, whose end can be seen and told.
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "manual/DecoderProcess.h"
+#include "forms/DecoderProcess.h"
+#include "forms/ScannedPage.h"
 #include "manual/FilledForm.h"
-#include "manual/ScannedPage.h"
 #include "manual/frmMANUAL.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"

@@ -1,7 +1,7 @@
 // How well a reader did on pages whose truth is known, counted over all of them, by hand, pen and damage.
 #pragma once
 
-#include "manual/FormReader.h"
+#include "forms/FormReader.h"
 #include "manual/forms/ScannedSheet.h"
 
 #include <cstdio>

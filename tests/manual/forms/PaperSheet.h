@@ -2,8 +2,8 @@
 // scanner will see it. Places are millimetres from the upper left corner of the form's layout.
 #pragma once
 
-#include "appearance/FormLayout.h"
-#include "manual/GrayPicture.h"
+#include "forms/FormLayout.h"
+#include "forms/GrayPicture.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,0 +1,611 @@
+#include "forms/frmSCAN.h"
+
+#include "appearance/Dialogs.h"
+#include "appearance/ElidedLabel.h"
+#include "appearance/Fields.h"
+#include "appearance/PlainLabel.h"
+#include "appearance/Theme.h"
+#include "appearance/relabel.h"
+#include "forms/DoubtList.h"
+#include "forms/PictureSums.h"
+#include "forms/ScanView.h"
+#include "forms/ScannedTable.h"
+#include "storage/Placeholders.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kErrorTitle = 1060;
+constexpr int kImportValues = 1232;
+constexpr int kImportWords = 1233;
+constexpr int kInvalidFormat = 1236;
+constexpr int kAddOrReplace = 1270;
+constexpr int kResults = 1295;
+constexpr int kRecalc = 1299;
+constexpr int kRecalcWords = 1300;
+constexpr int kReading = 1376;
+constexpr int kExtracting = 1377;
+constexpr int kAdd = 1395;
+constexpr int kReplace = 1396;
+constexpr int kCancel = 1397;
+constexpr int kVerificationReport = 1398;
+constexpr int kPageOf = 2206;
+constexpr int kWholePage = 2221;
+constexpr int kPageWidth = 2222;
+constexpr int kOtherTeam = 2306;
+constexpr int kSheet = 2307;
+constexpr int kTeamOfForm = 2308;
+constexpr int kSkip = 2322;
+constexpr int kViewWords = 2324;
+constexpr int kZoomIn = 2325;
+constexpr int kZoomOut = 2326;
+constexpr int kNobodyLooked = 2328;
+constexpr int kUnknownLeftOut = 2329;
+constexpr int kPlacedShotsGo = 2330;
+constexpr int kTwice = 2331;
+constexpr int kImportAllTheSame = 2332;
+constexpr int kTooMany = 2333;
+constexpr int kLeavePages = 2334;
+constexpr int kReportWords = 2341;
+constexpr int kAddWords = 2342;
+constexpr int kReplaceWords = 2343;
+constexpr int kCancelWords = 2344;
+constexpr int kFirstPlace = 2345; // hundreds; tens and units follow
+constexpr int kMoreRefused = 2407;
+constexpr int kNoMark = 2794;
+constexpr int kAddedBefore = 2795;
+
+constexpr int kGap = 6;
+constexpr int kProgressWidth = 360;
+constexpr int kSmallestPage = 300;
+constexpr int kPageShare = 450; // of the width; the counts need no scrolling on a screen 1366 wide
+constexpr int kCountShare = 900;
+constexpr double kZoomStep = 1.25;
+constexpr qsizetype kMostTold = 20; // pages in one message: it must fit on the screen
+
+QToolButton* viewButton(const char* name, int text, const QString& sign, QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setObjectName(QLatin1String(name));
+  button->setText(sign);
+  setToolTipNumber(*button, text);
+  setAccessibleNumber(*button, text);
+  return button;
+}
+
+// "12, 34": who or what, one behind the other.
+template <class List, class Words>
+QString joined(const List& list, Words words) {
+  QStringList parts;
+  for (const auto& part : list)
+    parts << words(part);
+  return parts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+struct frmSCAN::Result {
+  PageRefusal refusal;
+  int pagesInFile = 0; // 0: not known
+  std::shared_ptr<const GrayPicture> picture;
+  FormReading reading;
+};
+
+frmSCAN::frmSCAN(ManualGame& game, const Settings& settings, const Texts& texts, Dialogs& dialogs,
+                 QWidget* parent)
+    : QWidget(parent), m_game(game), m_texts(texts), m_dialogs(dialogs),
+      m_layout(std::make_shared<FormLayout>()) {
+  setObjectName(QStringLiteral("frmSCAN"));
+  m_pages = new QStackedWidget(this);
+  m_pages->addWidget(makeProgressPage());
+  m_pages->addWidget(makeSheetPage(settings));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(m_pages);
+  connectEverything();
+}
+
+frmSCAN::~frmSCAN() {
+  close();
+}
+
+// --- Its parts
+
+QWidget* frmSCAN::makeProgressPage() {
+  auto* page = new QWidget(m_pages);
+  m_step = new PlainLabel(page);
+  m_step->setObjectName(QStringLiteral("lblSTEP"));
+  m_step->setAlignment(Qt::AlignCenter);
+  m_progress = new QProgressBar(page);
+  m_progress->setObjectName(QStringLiteral("prgSCAN"));
+  m_progress->setFixedWidth(kProgressWidth);
+  auto* layout = new QVBoxLayout(page);
+  layout->addStretch();
+  layout->addWidget(m_step);
+  layout->addWidget(m_progress, 0, Qt::AlignCenter);
+  layout->addWidget(iconButton("cmdSTOPSCAN", kCancel, kCancelWords, "closelivemanual", page), 0,
+                    Qt::AlignCenter);
+  layout->addStretch();
+  return page;
+}
+
+QWidget* frmSCAN::makeSheetPage(const Settings& settings) {
+  m_sheetPage = new QWidget(m_pages);
+  m_splitter = new QSplitter(m_sheetPage);
+  m_splitter->setObjectName(QStringLiteral("splSCAN"));
+  m_splitter->setChildrenCollapsible(false);
+  m_splitter->addWidget(makePagePart());
+  m_splitter->addWidget(makeCountPart(settings));
+  m_splitter->setStretchFactor(0, 1);
+  m_splitter->setStretchFactor(1, 1);
+  m_splitter->setSizes({kPageShare, kCountShare});
+  auto* layout = new QVBoxLayout(m_sheetPage);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(m_splitter);
+  return m_sheetPage;
+}
+
+QWidget* frmSCAN::makePagePart() {
+  auto* part = new QWidget(m_splitter);
+  m_source = new ElidedLabel(part);
+  m_source->setObjectName(QStringLiteral("lblPAGE"));
+  auto* row = new QHBoxLayout;
+  row->setSpacing(2);
+  row->addWidget(m_source, 1);
+  row->addWidget(viewButton("cmdZOOMOUT", kZoomOut, QStringLiteral("−"), part));
+  row->addWidget(viewButton("cmdZOOMIN", kZoomIn, QStringLiteral("+"), part));
+  row->addWidget(viewButton("cmdFITWIDTH", kPageWidth, QStringLiteral("↔"), part));
+  row->addWidget(viewButton("cmdFITPAGE", kWholePage, QStringLiteral("▯"), part));
+  m_view = new ScanView(part);
+  m_view->setObjectName(QStringLiteral("picSCAN"));
+  m_view->setMinimumWidth(kSmallestPage);
+  setToolTipNumber(*m_view, kViewWords);
+  setAccessibleNumber(*m_view, kViewWords);
+  m_view->describeCells([this](std::size_t cell) { return cellWords(cell); });
+  auto* layout = new QVBoxLayout(part);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap);
+  layout->addLayout(row);
+  layout->addWidget(m_view, 1);
+  return part;
+}
+
+QWidget* frmSCAN::makeCountPart(const Settings& settings) {
+  auto* part = new QWidget(m_splitter);
+  auto* title = new PlainLabel(part);
+  setTextNumber(*title, kResults);
+  QFont bold = title->font();
+  bold.setBold(true);
+  title->setFont(bold);
+  m_teams = new QComboBox(part);
+  m_teams->setObjectName(QStringLiteral("cmbFORMTEAM"));
+  m_teams->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  m_teams->setMinimumContentsLength(18);
+  auto* head = new QHBoxLayout;
+  head->setSpacing(kGap);
+  head->addWidget(title, 1);
+  head->addWidget(captionFor(*m_teams, kTeamOfForm));
+  head->addWidget(m_teams, 1);
+
+  m_table = new ScannedTable(m_game, m_scanned, settings, m_texts, part);
+  m_hint = new ElidedLabel(part);
+  m_hint->setObjectName(QStringLiteral("lblSCANHINT"));
+  m_doubts = new DoubtList(
+      m_scanned.sheet, m_texts, [this](std::size_t cell) { return cellWords(cell); }, part);
+
+  auto* layout = new QVBoxLayout(part);
+  layout->setContentsMargins(kGap, 0, 0, 0);
+  layout->setSpacing(kGap);
+  layout->addLayout(head);
+  layout->addWidget(m_table, 5);
+  layout->addWidget(m_doubts, 2);
+  layout->addWidget(m_hint);
+  layout->addWidget(makeImportBox(part));
+  return part;
+}
+
+QWidget* frmSCAN::makeImportBox(QWidget* parent) {
+  auto* box = new QGroupBox(parent);
+  box->setObjectName(QStringLiteral("fraIMPORT"));
+  setTextNumber(*box, kImportValues);
+  setToolTipNumber(*box, kImportWords);
+  auto* words = new PlainLabel(box);
+  setTextNumber(*words, kAddOrReplace);
+  words->setWordWrap(true);
+  words->setForegroundRole(QPalette::PlaceholderText);
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(kGap);
+  buttons->addWidget(iconButton("cmdRECALC", kRecalc, kRecalcWords, "undo", box));
+  buttons->addWidget(iconButton("cmdVERIFY", kVerificationReport, kReportWords, "liveprint", box));
+  buttons->addStretch();
+  m_skip = iconButton("cmdSKIP", kSkip, kSkip + 1, "switch", box);
+  buttons->addWidget(m_skip);
+  buttons->addWidget(iconButton("cmdADDSCAN", kAdd, kAddWords, "add", box));
+  buttons->addWidget(iconButton("cmdREPLACESCAN", kReplace, kReplaceWords, "import", box));
+  buttons->addWidget(iconButton("cmdCANCELSCAN", kCancel, kCancelWords, "closelivemanual", box));
+  auto* layout = new QVBoxLayout(box);
+  layout->setSpacing(2);
+  layout->setContentsMargins(kGap, 2, kGap, kGap);
+  layout->addWidget(words);
+  layout->addLayout(buttons);
+  return box;
+}
+
+void frmSCAN::connectEverything() {
+  const auto onClick = [this](const char* name, auto act) {
+    connect(findChild<QAbstractButton*>(QLatin1String(name)), &QAbstractButton::clicked, this, act);
+  };
+  onClick("cmdSTOPSCAN", [this] { leave(); });
+  onClick("cmdCANCELSCAN", [this] { leave(); });
+  onClick("cmdSKIP", [this] { readNext(); });
+  onClick("cmdADDSCAN", [this] { import(ScannedTotals::Way::Add); });
+  onClick("cmdREPLACESCAN", [this] { import(ScannedTotals::Way::Replace); });
+  onClick("cmdRECALC", [this] { recount(); });
+  onClick("cmdVERIFY", [this] { emit reportAsked(m_scanned, source()); });
+  onClick("cmdZOOMIN", [this] { m_view->zoomBy(kZoomStep); });
+  onClick("cmdZOOMOUT", [this] { m_view->zoomBy(1 / kZoomStep); });
+  onClick("cmdFITWIDTH", [this] { m_view->fitWidth(); });
+  onClick("cmdFITPAGE", [this] { m_view->fitPage(); });
+  const auto onKey = [this](Qt::Key key, auto act) {
+    auto* shortcut = new QShortcut(QKeySequence(key), this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this, act);
+  };
+  onKey(Qt::Key_F3, [this] { m_doubts->goToOpen(DoubtList::From::Selected); });
+  onKey(Qt::Key_Escape, [this] { leave(); });
+
+  m_view->installEventFilter(m_doubts); // the same keys say on the page what a cell is
+  connect(m_view, &ScanView::cellPressed, this, &frmSCAN::toggle);
+  connect(m_teams, &QComboBox::currentIndexChanged, this, &frmSCAN::chooseTeam);
+  connect(m_table, &ScannedTable::assigned, this, &frmSCAN::assign);
+  connect(m_table, &ScannedTable::typed, this, &frmSCAN::showSheet);
+  connect(m_table, &ScannedTable::refused, m_hint, &QLabel::setText);
+  connect(m_table, &ScannedTable::cellsChosen, m_view, &ScanView::frame);
+  connect(m_doubts, &DoubtList::cellChosen, m_view, &ScanView::goTo);
+  connect(m_doubts, &DoubtList::judged, this, &frmSCAN::settleCurrent);
+  connect(&m_work, &BackgroundWork::failed, this, [this] {
+    if (*m_isStopped)
+      return;                                             // nobody waits for that page any more
+    m_reading->refusal = {PageRefusal::Reason::NoMemory}; // the file's other pages may need less
+    m_reading->picture.reset();
+    m_result = m_reading;
+  });
+  connect(&m_work, &BackgroundWork::finished, this, &frmSCAN::takeResult);
+}
+
+// --- Reading page after page
+
+void frmSCAN::read(const QStringList& files, int team) {
+  const bool isIdle = !m_isOpen;
+  m_files += files;
+  if (!isIdle)
+    return showSheet();
+  m_isOpen = true;
+  m_team = team;
+  m_imported = 0;
+  m_page = 0;
+  startReading();
+}
+
+int frmSCAN::pagesLeft() const {
+  return m_files.isEmpty() ? 0 : static_cast<int>(m_files.size()) - 1 + std::max(m_pagesInFile - m_page, 1);
+}
+
+void frmSCAN::readNext() {
+  forgetSheet();
+  if (++m_page >= m_pagesInFile) {
+    m_files.removeFirst();
+    m_page = 0;
+  }
+  if (!m_files.isEmpty())
+    return startReading();
+  finish();
+}
+
+void frmSCAN::startReading() {
+  if (m_page == 0)
+    m_pagesInFile = 1; // until it is known
+  m_pages->setCurrentIndex(0);
+  m_step->setText(toQt(m_texts.text(kReading)));
+  m_progress->setRange(0, 0);
+  if (m_work.isRunning()) // what was stopped comes to its end first
+    return;
+  m_isStopped = std::make_shared<std::atomic<bool>>(false);
+  m_result.reset();
+  m_reading = std::make_shared<Result>();
+  const auto progress = [this, isStopped = m_isStopped](int percent) {
+    QMetaObject::invokeMethod(
+        this,
+        [this, percent] {
+          m_step->setText(toQt(m_texts.text(kExtracting)));
+          m_progress->setRange(0, 100);
+          m_progress->setValue(percent);
+        },
+        Qt::QueuedConnection);
+    return !isStopped->load();
+  };
+  m_work.start([this, progress, decoder = m_decoder, path = fromQt(m_files.first()), page = m_page,
+                formLayout = m_layout, isStopped = m_isStopped,
+                result = m_reading]() -> BackgroundWork::Delivery {
+    ScannedPage scanned = decoder.decode(path, page, *isStopped);
+    result->refusal = scanned.refusal;
+    result->pagesInFile = scanned.pagesInFile;
+    if (!scanned.picture.pixels.empty() && progress(0)) {
+      result->reading = FormReader(*formLayout).read(scanned.picture, progress);
+      if (result->reading.quarters != 0)
+        scanned.picture = turned(scanned.picture, result->reading.quarters);
+      result->picture = std::make_shared<GrayPicture>(std::move(scanned.picture));
+    }
+    return [this, result, isStopped] {
+      if (!isStopped->load())
+        m_result = result;
+    };
+  });
+}
+
+void frmSCAN::takeResult() {
+  if (!m_isOpen)
+    return;
+  if (m_result == nullptr) // it was for what has been closed since
+    return startReading();
+  if (m_result->pagesInFile > 0)
+    m_pagesInFile = m_result->pagesInFile;
+  if (m_result->picture == nullptr)
+    return refuse(toQt(explained(m_result->refusal, m_texts)));
+  if (const ScanProblem problem = m_result->reading.problem; textOf(problem) != 0) {
+    const int advice = adviceFor(problem);
+    return refuse(toQt(m_texts.text(textOf(problem))) +
+                  (advice == 0 ? QString() : u". " + toQt(m_texts.text(advice))));
+  }
+  const std::array<bool, 2> teams = teamsOf(m_result->reading.identifier, m_game.details());
+  if (!teams[0] && !teams[1]) {
+    const auto nameOf = [this](int team) {
+      return m_game.details().abbreviation[team] + " - " + m_game.details().category[team];
+    };
+    return refuse(toQt(m_texts.text(kInvalidFormat)) + u'\n' +
+                  toQt(m_texts.withPlaceholder(kOtherTeam, nameOf(0) + ", " + nameOf(1))));
+  }
+  const bool mayBeEither = teams[0] && teams[1];
+  const int team = mayBeEither ? m_team : teams[0] ? 0 : 1;
+  m_scanned = ScannedTotals(CheckedSheet(m_layout, m_result->reading), team, m_game.roster(team));
+  m_teams->setEnabled(mayBeEither);
+  m_view->showPage(m_result->picture, m_scanned.sheet);
+  m_table->setCurrentIndex({});
+  m_pages->setCurrentWidget(m_sheetPage);
+  m_doubts->beginSheet();
+  showSheet();
+  if (m_doubts->isEmpty()) {
+    m_view->setFocus();
+  } else {
+    m_doubts->takeFocus();
+    m_doubts->goToOpen(DoubtList::From::Start);
+  }
+  tellRefusals();
+}
+
+void frmSCAN::refuse(const QString& reason) {
+  const QString name = QFileInfo(m_files.first()).fileName();
+  m_refusals << (m_pagesInFile == 1
+                     ? name
+                     : QStringLiteral("%1 (%2/%3)")
+                           .arg(name, QString::number(m_page + 1), QString::number(m_pagesInFile))) +
+                    u": " + reason;
+  readNext();
+}
+
+// Once for all pages that follow one another: a file may have many that are no forms.
+void frmSCAN::tellRefusals() {
+  if (m_refusals.isEmpty())
+    return;
+  QString text = m_refusals.mid(0, kMostTold).join(u'\n');
+  if (const qsizetype more = m_refusals.size() - kMostTold; more > 0)
+    text += u'\n' + toQt(m_texts.withPlaceholder(kMoreRefused, std::to_string(more)));
+  m_refusals.clear();
+  m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), text);
+}
+
+void frmSCAN::finish() {
+  tellRefusals();
+  const int imported = m_imported;
+  close();
+  emit finished(imported);
+}
+
+void frmSCAN::leave() {
+  const int left = pagesLeft();
+  const bool isInSight = m_pages->currentWidget() == m_sheetPage;
+  const bool wouldLose = left > 1 || (isInSight && m_scanned.sheet.hasCorrections());
+  if (wouldLose && !m_dialogs.ask(this, toQt(m_texts.text(kImportValues)),
+                                  toQt(m_texts.withPlaceholder(kLeavePages, std::to_string(left)))))
+    return;
+  finish();
+}
+
+void frmSCAN::beginGame() {
+  close();
+  forgetTaken();
+}
+
+void frmSCAN::forgetTaken() {
+  m_taken.clear();
+}
+
+void frmSCAN::close() {
+  if (m_isStopped != nullptr)
+    *m_isStopped = true;
+  m_isOpen = false;
+  m_files.clear();
+  m_refusals.clear();
+  m_result.reset();
+  forgetSheet();
+}
+
+// Whoever knows its cells by their places knows none from now on.
+void frmSCAN::forgetSheet() {
+  m_view->showNothing();
+  m_scanned = {};
+  m_doubts->beginSheet();
+}
+
+// --- What the user does
+
+void frmSCAN::toggle(std::size_t cell) {
+  settle(cell, !m_scanned.sheet.isTicked(cell));
+}
+
+void frmSCAN::settle(std::size_t cell, bool isTicked) {
+  m_scanned.sheet.settle(cell, isTicked);
+  m_scanned.match();
+  showSheet();
+}
+
+// The cell that is framed on the page; after a doubtful one comes the next of them.
+void frmSCAN::settleCurrent(bool isTicked) {
+  const auto cell = m_view->currentCell();
+  if (!cell)
+    return;
+  settle(*cell, isTicked);
+  if (m_scanned.sheet.isDoubtful(*cell))
+    m_doubts->goToOpen(DoubtList::From::Selected);
+}
+
+void frmSCAN::chooseTeam(int team) {
+  m_team = team;
+  m_scanned.setTeam(team, m_game.roster(team));
+  showSheet();
+}
+
+void frmSCAN::assign(int player, int choice) {
+  m_scanned.assign(player, choice);
+  showSheet();
+}
+
+void frmSCAN::recount() {
+  m_scanned.sheet.recount();
+  showSheet();
+}
+
+QString frmSCAN::concerns(const ScannedTotals::Outcome& outcome, ScannedTotals::Way way) const {
+  QStringList lines;
+  const auto isThis = [this](const CheckedSheet& taken) { return m_scanned.sheet.isOneWith(taken); };
+  if (way == ScannedTotals::Way::Add && (outcome.isAgain || std::ranges::any_of(m_taken, isThis)))
+    lines << toQt(m_texts.text(kAddedBefore));
+  const auto add = [&](int text, const QString& what) {
+    lines << toQt(m_texts.withPlaceholder(text, fromQt(what)));
+  };
+  if (!m_scanned.sheet.hasMarks())
+    lines << toQt(m_texts.text(kNoMark));
+  if (const int open = m_scanned.sheet.openCells(); open > 0)
+    add(kNobodyLooked, QString::number(open));
+  if (!outcome.unknown.empty())
+    add(kUnknownLeftOut, joined(outcome.unknown, [this](int player) { return playerWords(player); }));
+  if (outcome.placedShotsGone > 0)
+    add(kPlacedShotsGo, QString::number(outcome.placedShotsGone));
+  if (!outcome.twice.empty())
+    add(kTwice,
+        joined(outcome.twice, [this](int slot) { return toQt(m_scanned.roster().player(slot)->name); }));
+  return lines.join(u'\n');
+}
+
+void frmSCAN::import(ScannedTotals::Way way) {
+  const ScannedTotals::Outcome outcome = m_scanned.outcome(way, m_game.totals);
+  const QString title = toQt(m_texts.text(kImportValues));
+  if (outcome.tooMany != ScannedTotals::kNobody) {
+    return m_dialogs.warn(
+        this, title,
+        toQt(withPlaceholders(m_texts.text(kTooMany), m_scanned.roster().player(outcome.tooMany)->name,
+                              std::to_string(ManualTotals::kLargestCount))));
+  }
+  const QString questions = concerns(outcome, way);
+  if (!questions.isEmpty() &&
+      !m_dialogs.ask(this, title, questions + u"\n\n" + toQt(m_texts.text(kImportAllTheSame))))
+    return;
+  m_game.totals = outcome.totals;
+  m_taken.push_back(m_scanned.sheet);
+  ++m_imported;
+  emit imported(m_scanned.team());
+  readNext();
+}
+
+// --- What is shown
+
+void frmSCAN::showSheet() {
+  if (!m_isOpen || m_scanned.sheet.cellCount() == 0)
+    return;
+  m_source->setText(source());
+  m_skip->setVisible(pagesLeft() > 1);
+  const QSignalBlocker quiet(m_teams);
+  m_teams->clear();
+  for (int team = 0; team < 2; ++team)
+    m_teams->addItem(QStringLiteral("%1 - %2").arg(toQt(m_game.details().abbreviation[team]),
+                                                   toQt(m_game.details().name[team])));
+  m_teams->setCurrentIndex(m_scanned.team());
+  m_hint->setText(m_scanned.sheet.hasMarks() ? QString() : toQt(m_texts.text(kNoMark)));
+  m_table->showTotals();
+  m_doubts->showDoubts();
+  m_view->viewport()->update();
+}
+
+QString frmSCAN::source() const {
+  QString words = QFileInfo(m_files.first()).fileName();
+  if (m_pagesInFile > 1)
+    words += u"   " + toQt(withPlaceholders(m_texts.text(kPageOf), std::to_string(m_page + 1),
+                                            std::to_string(m_pagesInFile)));
+  return words + u"   " +
+         toQt(m_texts.withPlaceholder(kSheet, std::to_string(m_scanned.sheet.identifier().sheet + 1)));
+}
+
+// "12 Ann Able"; of somebody whom the roster does not have his number, or his place on the sheet.
+QString frmSCAN::playerWords(int player) const {
+  if (const RosterPlayer* found = m_scanned.roster().player(m_scanned.slot(player)))
+    return QStringLiteral("%1 %2").arg(toQt(found->jersey), toQt(found->name));
+  const CheckedSheet::Jersey jersey = m_scanned.sheet.jersey(player);
+  return jersey.number.empty() ? QStringLiteral("#%1").arg(player + 1) : toQt(jersey.number);
+}
+
+QString frmSCAN::cellWords(std::size_t index) const {
+  const FormCell& cell = m_scanned.sheet.cell(index);
+  const QString player = playerWords(cell.player);
+  if (cell.kind == FormCell::Kind::JerseyDigit)
+    return QStringLiteral("%1: %2 %3")
+        .arg(player, caption(m_texts, kFirstPlace + cell.place), QString::number(cell.number));
+  const auto kind = std::ranges::find(eventKinds(), cell.counter, &EventKind::counter);
+  const QString sign = cell.kind == FormCell::Kind::Made     ? QStringLiteral(" ●")
+                       : cell.kind == FormCell::Kind::Missed ? QStringLiteral(" ✕")
+                                                             : QString();
+  return QStringLiteral("%1: %2%3 %4")
+      .arg(player, toQt(kind->shortName), sign, QString::number(cell.number + 1));
+}
+
+void frmSCAN::relabelPanel() {
+  m_table->relabelTable();
+  if (m_pages->currentWidget() == m_sheetPage)
+    showSheet();
+}
+
+void frmSCAN::applyColours() {
+  relabelPanel();
+}
+
+QByteArray frmSCAN::arrangement() const {
+  return m_splitter->saveState();
+}
+
+void frmSCAN::restoreArrangement(const QByteArray& state) {
+  m_splitter->restoreState(state);
+}
+
+} // namespace hooptab
