@@ -1,6 +1,6 @@
 #include "forms/CheckedSheet.h"
 
-#include "manual/ManualTotals.h"
+#include "totals/ManualTotals.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "manual/CounterWords.h"
+#include "totals/CounterWords.h"
 
 #include <QFont>
 

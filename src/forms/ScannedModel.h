@@ -3,9 +3,9 @@
 #pragma once
 
 #include "forms/ScannedTotals.h"
-#include "manual/ManualGame.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"
+#include "totals/ManualGame.h"
 
 #include <QAbstractTableModel>
 

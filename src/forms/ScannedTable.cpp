@@ -3,7 +3,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "manual/ManualColumns.h"
+#include "totals/ManualColumns.h"
 
 #include <QAbstractItemView>
 #include <QBoxLayout>

@@ -5,7 +5,7 @@
 #include "forms/CheckedSheet.h"
 #include "game/GameDetails.h"
 #include "game/Roster.h"
-#include "manual/ManualTotals.h"
+#include "totals/ManualTotals.h"
 
 #include <array>
 #include <string>

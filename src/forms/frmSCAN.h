@@ -7,9 +7,9 @@
 #include "appearance/BackgroundWork.h"
 #include "forms/PageDecoder.h"
 #include "forms/ScannedTotals.h"
-#include "manual/ManualGame.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"
+#include "totals/ManualGame.h"
 
 #include <QStringList>
 #include <QWidget>

@@ -2,7 +2,7 @@
 // down with the right one. Two fast presses are two.
 #pragma once
 
-#include "manual/ManualTotals.h"
+#include "totals/ManualTotals.h"
 
 #include <QPushButton>
 

@@ -4,7 +4,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "manual/ManualGame.h"
+#include "totals/ManualGame.h"
 
 #include <QBoxLayout>
 #include <QIntValidator>

@@ -5,7 +5,7 @@
 #include "appearance/relabel.h"
 #include "game/GameEvent.h"
 #include "manual/ManualCourt.h"
-#include "manual/ManualGame.h"
+#include "totals/ManualGame.h"
 
 #include <QBoxLayout>
 #include <QListWidget>

@@ -6,8 +6,8 @@
 #include "appearance/relabel.h"
 #include "manual/CountButton.h"
 #include "manual/CountCell.h"
-#include "manual/CounterWords.h"
-#include "manual/ManualGame.h"
+#include "totals/CounterWords.h"
+#include "totals/ManualGame.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>

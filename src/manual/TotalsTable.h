@@ -4,8 +4,8 @@
 #pragma once
 
 #include "appearance/TableContent.h"
-#include "manual/ManualColumns.h"
-#include "manual/ManualTotals.h"
+#include "totals/ManualColumns.h"
+#include "totals/ManualTotals.h"
 
 #include <QWidget>
 

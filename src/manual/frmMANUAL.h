@@ -6,8 +6,8 @@
 #include "appearance/ChildWindow.h"
 #include "appearance/GameHold.h"
 #include "appearance/WidgetsFirst.h"
-#include "manual/ManualColumns.h"
-#include "manual/ManualGame.h"
+#include "totals/ManualColumns.h"
+#include "totals/ManualGame.h"
 
 #include <QTimer>
 #include <QUndoStack>

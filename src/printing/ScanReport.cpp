@@ -1,9 +1,9 @@
 #include "printing/ScanReport.h"
 
-#include "manual/CounterWords.h"
 #include "printing/PrintTexts.h"
 #include "printing/ReportWords.h"
 #include "storage/Module1.h"
+#include "totals/CounterWords.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // A game of totals and its file: what saving writes, and that a fault leaves the old totals or the new ones.
-#include "manual/ManualGame.h"
+#include "totals/ManualGame.h"
 
 #include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"

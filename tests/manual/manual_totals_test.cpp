@@ -1,5 +1,5 @@
 // The totals of a game: rules of counting, the lines they become, and that those lines give the same totals.
-#include "manual/ManualTotals.h"
+#include "totals/ManualTotals.h"
 
 #include "simulator/SampleSeason.h"
 #include "support/TextGame.h"

@@ -5,10 +5,10 @@
 #include "forms/ScanView.h"
 #include "forms/ScannedModel.h"
 #include "manual/FilledForm.h"
-#include "manual/ManualColumns.h"
 #include "manual/OpenManualGame.h"
 #include "manual/PictureFile.h"
 #include "printing/ScanReport.h"
+#include "totals/ManualColumns.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // One step of what the user did to a game's totals, to be taken back and made again whole.
 #pragma once
 
-#include "manual/ManualTotals.h"
+#include "totals/ManualTotals.h"
 
 #include <QUndoCommand>
 

@@ -1,4 +1,4 @@
-#include "manual/ManualGame.h"
+#include "totals/ManualGame.h"
 
 namespace hooptab {
 

@@ -1,4 +1,4 @@
-#include "manual/CounterWords.h"
+#include "totals/CounterWords.h"
 
 namespace hooptab {
 

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "game/GameDetails.h"
-#include "manual/ManualColumns.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"
+#include "totals/ManualColumns.h"
 
 #include <string>
 

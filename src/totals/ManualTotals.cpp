@@ -1,4 +1,4 @@
-#include "manual/ManualTotals.h"
+#include "totals/ManualTotals.h"
 
 #include "game/GameEvent.h"
 

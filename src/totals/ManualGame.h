@@ -4,8 +4,8 @@
 #pragma once
 
 #include "game/GameFile.h"
-#include "manual/ManualTotals.h"
 #include "storage/FileGuard.h"
+#include "totals/ManualTotals.h"
 
 #include <functional>
 #include <string>
