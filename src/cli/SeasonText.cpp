@@ -1,6 +1,6 @@
 #include "cli/SeasonReports.h"
 #include "cli/TextTable.h"
-#include "printing/ReportWords.h"
+#include "report/ReportWords.h"
 #include "season/GameColumns.h"
 #include "season/SeasonWords.h"
 #include "storage/Utf8.h"

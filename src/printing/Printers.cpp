@@ -1,7 +1,7 @@
 #include "printing/Printers.h"
 
 #include "printing/ReportPainter.h"
-#include "printing/ReportWatch.h"
+#include "report/ReportWatch.h"
 
 #include <QPrintDialog>
 #include <QPrinter>

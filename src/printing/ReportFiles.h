@@ -2,8 +2,8 @@
 #pragma once
 
 #include "printing/PageFormat.h"
-#include "printing/ReportText.h"
-#include "printing/ReportWatch.h"
+#include "report/ReportText.h"
+#include "report/ReportWatch.h"
 #include "storage/FileSystem.h"
 
 #include <functional>

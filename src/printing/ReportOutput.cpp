@@ -4,8 +4,8 @@
 #include "appearance/Fields.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
-#include "printing/PrintTexts.h"
 #include "printing/Printers.h"
+#include "report/PrintTexts.h"
 
 #include <QBoxLayout>
 #include <QDir>

@@ -2,7 +2,7 @@
 // nothing any more.
 #pragma once
 
-#include "printing/Report.h"
+#include "report/Report.h"
 
 #include <QFont>
 #include <QFontMetricsF>

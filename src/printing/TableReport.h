@@ -3,7 +3,7 @@
 #pragma once
 
 #include "appearance/TableContent.h"
-#include "printing/Report.h"
+#include "report/Report.h"
 
 namespace hooptab {
 

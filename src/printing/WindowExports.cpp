@@ -5,9 +5,9 @@
 #include "appearance/PlainText.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
-#include "printing/PrintTexts.h"
 #include "printing/ReportOutput.h"
 #include "printing/TableReport.h"
+#include "report/PrintTexts.h"
 #include "scorecard/FrozenTableView.h"
 #include "storage/Module1.h"
 

@@ -6,11 +6,11 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "printing/PageView.h"
-#include "printing/PrintTexts.h"
 #include "printing/Printers.h"
 #include "printing/ReportLayout.h"
 #include "printing/ReportOutput.h"
-#include "printing/ReportWords.h"
+#include "report/PrintTexts.h"
+#include "report/ReportWords.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

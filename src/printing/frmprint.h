@@ -6,7 +6,7 @@
 #include "appearance/ChildWindow.h"
 #include "appearance/WidgetsFirst.h"
 #include "printing/PageFormat.h"
-#include "printing/Report.h"
+#include "report/Report.h"
 #include "settings/Texts.h"
 
 #include <QTimer>

@@ -6,7 +6,7 @@
 #include "appearance/ColourScheme.h"
 #include "game/GameFile.h"
 #include "keypad/KeypadAssignment.h"
-#include "printing/SeasonReports.h"
+#include "report/SeasonReports.h"
 #include "settings/Settings.h"
 #include "shell/CommandState.h"
 #include "shell/DialogLanguage.h"

@@ -1,9 +1,9 @@
 #include "shell/PrintOffers.h"
 
-#include "printing/GameReports.h"
-#include "printing/PrintTexts.h"
-#include "printing/ScanReport.h"
-#include "printing/TeamReports.h"
+#include "report/GameReports.h"
+#include "report/PrintTexts.h"
+#include "report/ScanReport.h"
+#include "report/TeamReports.h"
 
 #include <memory>
 #include <utility>

@@ -4,7 +4,7 @@
 
 #include "printing/FormPainter.h"
 #include "printing/PageFormat.h"
-#include "printing/TeamReports.h"
+#include "report/TeamReports.h"
 
 #include <QImage>
 #include <QPainter>

@@ -4,8 +4,8 @@
 #include "manual/forms/FormScore.h"
 #include "manual/forms/PrintedForm.h"
 #include "manual/forms/Scanner.h"
-#include "printing/GameReports.h"
 #include "printing/ReportGame.h"
+#include "report/GameReports.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

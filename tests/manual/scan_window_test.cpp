@@ -7,7 +7,7 @@
 #include "manual/FilledForm.h"
 #include "manual/OpenManualGame.h"
 #include "manual/PictureFile.h"
-#include "printing/ScanReport.h"
+#include "report/ScanReport.h"
 #include "totals/ManualColumns.h"
 
 #include <QApplication>

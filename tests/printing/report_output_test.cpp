@@ -1,9 +1,9 @@
 // The ways out of the program that can go wrong: disks, folders and names, cancelling, and what tables turn
 // into.
-#include "printing/PrintTexts.h"
 #include "printing/ReportOutput.h"
 #include "printing/TableReport.h"
 #include "printing/WindowExports.h"
+#include "report/PrintTexts.h"
 
 #include "appearance/ChildWindow.h"
 #include "appearance/relabel.h"

@@ -1,6 +1,6 @@
-#include "printing/GameReports.h"
-#include "printing/ReportText.h"
-#include "printing/TeamReports.h"
+#include "report/GameReports.h"
+#include "report/ReportText.h"
+#include "report/TeamReports.h"
 #include "storage/DelimitedText.h"
 
 #include "ReportGame.h"

@@ -1,7 +1,7 @@
-#include "printing/SeasonReports.h"
+#include "report/SeasonReports.h"
 
-#include "printing/ReportText.h"
-#include "printing/ReportWords.h"
+#include "report/ReportText.h"
+#include "report/ReportWords.h"
 #include "season/Leaders.h"
 #include "season/SeasonColumns.h"
 #include "season/SeasonFolder.h"

@@ -1,7 +1,7 @@
 // Reports without a window: what is written for which words on the command line, and what is refused.
 #include "shell/ReportRun.h"
 
-#include "printing/SeasonReports.h"
+#include "report/SeasonReports.h"
 #include "season/SeasonFolder.h"
 
 #include <filesystem>

@@ -3,7 +3,7 @@
 #include "manual/forms/Drawn.h"
 #include "printing/ReportLayout.h"
 #include "printing/ReportPainter.h"
-#include "printing/TeamReports.h"
+#include "report/TeamReports.h"
 #include "simulator/SampleTeams.h"
 
 #include <QImage>

@@ -1,7 +1,7 @@
 // Words that several kinds of reports are made of. Knows no game and no season.
 #pragma once
 
-#include "printing/Report.h"
+#include "report/Report.h"
 #include "settings/Texts.h"
 
 #include <string>

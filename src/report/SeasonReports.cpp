@@ -1,8 +1,8 @@
-#include "printing/SeasonReports.h"
+#include "report/SeasonReports.h"
 
 #include "game/Glossary.h"
-#include "printing/PrintTexts.h"
-#include "printing/ReportWords.h"
+#include "report/PrintTexts.h"
+#include "report/ReportWords.h"
 #include "scorecard/ScorecardTexts.h"
 #include "season/GameColumns.h"
 #include "season/GameSeries.h"

@@ -1,4 +1,4 @@
-#include "printing/ReportText.h"
+#include "report/ReportText.h"
 #include "settings/Texts.h"
 #include "storage/DelimitedText.h"
 #include "storage/Module1.h"

@@ -4,7 +4,7 @@
 
 #include "game/GameFile.h"
 #include "game/GameState.h"
-#include "printing/Report.h"
+#include "report/Report.h"
 #include "scorecard/ScorecardView.h"
 #include "settings/Settings.h"
 

@@ -1,7 +1,7 @@
-#include "printing/TeamReports.h"
+#include "report/TeamReports.h"
 
-#include "printing/PrintTexts.h"
-#include "printing/ReportWords.h"
+#include "report/PrintTexts.h"
+#include "report/ReportWords.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"

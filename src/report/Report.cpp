@@ -1,4 +1,4 @@
-#include "printing/Report.h"
+#include "report/Report.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "printing/ReportText.h"
+#include "report/ReportText.h"
 
 #include <cstdint>
 

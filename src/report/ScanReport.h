@@ -4,7 +4,7 @@
 
 #include "forms/ScannedTotals.h"
 #include "game/GameDetails.h"
-#include "printing/Report.h"
+#include "report/Report.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"
 

@@ -1,7 +1,7 @@
-#include "printing/BoxReport.h"
+#include "report/BoxReport.h"
 
-#include "printing/PrintTexts.h"
-#include "printing/ReportWords.h"
+#include "report/PrintTexts.h"
+#include "report/ReportWords.h"
 #include "scorecard/ColumnWords.h"
 
 #include <algorithm>

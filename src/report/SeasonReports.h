@@ -2,7 +2,7 @@
 // player or line. All cells are those of the season's own tables; nothing is summed here.
 #pragma once
 
-#include "printing/Report.h"
+#include "report/Report.h"
 #include "season/Qualification.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"

@@ -1,6 +1,6 @@
-#include "printing/ReportWords.h"
+#include "report/ReportWords.h"
 
-#include "printing/PrintTexts.h"
+#include "report/PrintTexts.h"
 #include "storage/Placeholders.h"
 
 #include <algorithm>

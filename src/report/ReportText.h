@@ -2,8 +2,8 @@
 // is ReportFiles' to decide.
 #pragma once
 
-#include "printing/Report.h"
-#include "printing/ReportWatch.h"
+#include "report/Report.h"
+#include "report/ReportWatch.h"
 #include "storage/DelimitedText.h"
 
 #include <functional>

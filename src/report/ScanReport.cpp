@@ -1,7 +1,7 @@
-#include "printing/ScanReport.h"
+#include "report/ScanReport.h"
 
-#include "printing/PrintTexts.h"
-#include "printing/ReportWords.h"
+#include "report/PrintTexts.h"
+#include "report/ReportWords.h"
 #include "storage/Module1.h"
 #include "totals/CounterWords.h"
 

@@ -1,7 +1,7 @@
 // The reports of one team: its roster, and the paper forms on which totals are ticked during a game.
 #pragma once
 
-#include "printing/Report.h"
+#include "report/Report.h"
 #include "settings/Texts.h"
 #include "teams/TeamStore.h"
 

@@ -1,7 +1,7 @@
 // The box score of one team as a table of a report.
 #pragma once
 
-#include "printing/Report.h"
+#include "report/Report.h"
 #include "scorecard/ScorecardView.h"
 #include "settings/Settings.h"
 
