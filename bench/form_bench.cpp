@@ -1,7 +1,7 @@
 // Reads 200 filled-in, damaged scans of the input form, whose truth is known: how many cells are right, of
 // which the reader was in doubt, and the time that it takes for a page. Exit status 1 when it misses what is
 // asked of it. form_bench [FIRST COUNT] reads other pages of the endless series.
-#include "manual/forms/FormScore.h"
+#include "tools/forms/FormScore.h"
 
 #include <QGuiApplication>
 

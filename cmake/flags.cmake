@@ -6,7 +6,6 @@ target_compile_options(
   INTERFACE -Wall
             -Wextra
             -Wpedantic
-            -Werror
             -Wshadow
             -Wconversion
             -Wsign-conversion
@@ -14,6 +13,12 @@ target_compile_options(
             -Woverloaded-virtual
             -Wold-style-cast
             -Wimplicit-fallthrough)
+if(HOOPTAB_WERROR)
+  target_compile_options(hooptab_flags INTERFACE -Werror)
+endif()
+# What a user's program checks of itself: places in containers, lengths of copies, the stack's end.
+target_compile_definitions(hooptab_flags INTERFACE "$<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS;_FORTIFY_SOURCE=2>")
+target_compile_options(hooptab_flags INTERFACE "$<$<CONFIG:Release>:-fstack-protector-strong>")
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # This compiler sees overlaps in "text" + string that cannot be (GCC bug 105651).
   target_compile_options(hooptab_flags INTERFACE -Wno-restrict)
@@ -26,6 +31,9 @@ if(HOOPTAB_SANITIZERS)
   target_compile_options(hooptab_flags INTERFACE -fsanitize=${HOOPTAB_SANITIZERS} -fno-omit-frame-pointer
                                                  -fno-sanitize-recover=all)
   target_link_options(hooptab_flags INTERFACE -fsanitize=${HOOPTAB_SANITIZERS})
+endif()
+if(HOOPTAB_FUZZ)
+  target_compile_options(hooptab_flags INTERFACE -fsanitize=fuzzer-no-link) # or the fuzzer would search blindly
 endif()
 
 # What Qt offers to keep its users strict.

@@ -12,9 +12,9 @@
 #include "forms/frmSCAN.h"
 #include "manual/ScoreCheck.h"
 #include "manual/ShotPanel.h"
+#include "manual/TotalsChange.h"
 #include "manual/TotalsTable.h"
 #include "settings/Settings.h"
-#include "totals/TotalsChange.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

@@ -2,8 +2,8 @@
 #include "events/JerseyButton.h"
 #include "events/frmSUBST.h"
 #include "live/BenchPanel.h"
-#include "live/ManualTime.h"
 #include "live/RosterStrip.h"
+#include "recording/ManualTime.h"
 #include "settings/Texts.h"
 #include "support/TemporaryFolder.h"
 

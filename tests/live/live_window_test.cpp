@@ -6,7 +6,7 @@
 #include "appearance/relabel.h"
 #include "events/JerseyButton.h"
 #include "live/BenchPanel.h"
-#include "live/ManualTime.h"
+#include "recording/ManualTime.h"
 #include "settings/Settings.h"
 #include "support/FaultyFileSystem.h"
 #include "support/ScriptedDialogs.h"

@@ -12,10 +12,10 @@
 #include "report/SeasonReports.h"
 #include "report/TeamReports.h"
 
-#include "ReportGame.h"
 #include "appearance/relabel.h"
+#include "catalogue/SeasonFolder.h"
+#include "report/ReportGame.h"
 #include "season/SeasonColumns.h"
-#include "season/SeasonFolder.h"
 #include "support/FaultyFileSystem.h"
 #include "support/ScriptedDialogs.h"
 #include "support/SharedGames.h"

@@ -1,7 +1,7 @@
 // Leaders with their ties, and the records of one player over a season.
+#include "catalogue/SeasonFolder.h"
 #include "season/Leaders.h"
 #include "season/Records.h"
-#include "season/SeasonFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "SeasonFolder.h"
+#include "catalogue/SeasonFolder.h"
 
 namespace hooptab {
 namespace {

@@ -1,6 +1,6 @@
 // Who is one player, team or line over a season, and what its cells show in totals and averages.
+#include "catalogue/SeasonFolder.h"
 #include "season/GameColumns.h"
-#include "season/SeasonFolder.h"
 
 #include <gtest/gtest.h>
 

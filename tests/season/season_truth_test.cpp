@@ -1,7 +1,7 @@
 // A season against truths that share no code with it: the sums of official box scores, and a simple, slow
 // count of the event lines of a simulated season.
+#include "catalogue/SeasonFolder.h"
 #include "season/Leaders.h"
-#include "season/SeasonFolder.h"
 #include "simulator/SampleSeason.h"
 #include "storage/codepage.h"
 #include "support/Json.h"

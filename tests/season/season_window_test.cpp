@@ -1,8 +1,8 @@
 #include "season/frmSTATS.h"
 
 #include "appearance/relabel.h"
+#include "catalogue/SeasonFolder.h"
 #include "court/CourtView.h"
-#include "season/SeasonFolder.h"
 #include "season/SeasonTableView.h"
 #include "season/SeriesView.h"
 #include "settings/Settings.h"

@@ -1,8 +1,8 @@
 // Reports without a window: what is written for which words on the command line, and what is refused.
 #include "shell/ReportRun.h"
 
+#include "catalogue/SeasonFolder.h"
 #include "report/SeasonReports.h"
-#include "season/SeasonFolder.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

@@ -7,7 +7,7 @@
 #include "ClumsyHand.h"
 #include "Meaning.h"
 #include "Occasions.h"
-#include "acceptance/replay/Replay.h"
+#include "tools/replay/Replay.h"
 
 namespace hooptab {
 

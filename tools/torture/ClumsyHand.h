@@ -6,7 +6,7 @@
 #include "Dice.h"
 #include "Screen.h"
 #include "Slip.h"
-#include "acceptance/replay/MouseHand.h"
+#include "tools/replay/MouseHand.h"
 
 namespace hooptab {
 

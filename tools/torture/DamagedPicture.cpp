@@ -1,6 +1,6 @@
-#include "torture/DamagedPicture.h"
+#include "tools/torture/DamagedPicture.h"
 
-#include "manual/PictureFile.h"
+#include "forms/PictureFile.h"
 
 #include <QBuffer>
 

@@ -1,7 +1,7 @@
 #include "Meaning.h"
 
-#include "acceptance/replay/Comparison.h"
 #include "storage/Module1.h"
+#include "tools/replay/Comparison.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 // What the live window tells of its own accord about what it did not do, or not yet: read as a user reads it.
 #pragma once
 
-#include "acceptance/replay/Program.h"
+#include "tools/replay/Program.h"
 
 #include <array>
 #include <string>

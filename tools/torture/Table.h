@@ -2,9 +2,9 @@
 // player clicked one by one, and what the game's files hold of them.
 #pragma once
 
-#include "acceptance/replay/Person.h"
-#include "acceptance/replay/Program.h"
 #include "game/GameFile.h"
+#include "tools/replay/Person.h"
+#include "tools/replay/Program.h"
 
 #include <memory>
 #include <string>

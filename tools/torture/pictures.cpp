@@ -7,13 +7,13 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "forms/DecoderProcess.h"
+#include "forms/FilledForm.h"
 #include "forms/ScannedPage.h"
-#include "manual/FilledForm.h"
 #include "manual/frmMANUAL.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 #include "support/TextGame.h"
-#include "torture/DamagedPicture.h"
+#include "tools/torture/DamagedPicture.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,0 +1,464 @@
+// Scanned forms as they are used: printed sheets with crosses on them, through loader, reader and window into
+// the totals and onto the disk; and pictures that are of no use.
+#include "forms/frmSCAN.h"
+
+#include "forms/FilledForm.h"
+#include "forms/PictureFile.h"
+#include "forms/ScanView.h"
+#include "forms/ScannedModel.h"
+#include "manual/OpenManualGame.h"
+#include "report/ScanReport.h"
+#include "totals/ManualColumns.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace hooptab {
+namespace {
+
+using Kind = FormCell::Kind;
+constexpr int kPatience = 100000; // milliseconds for a page, with a slow build on a busy machine
+
+TeamRecord panthers() {
+  TeamRecord team;
+  team.abbreviation = "PAN";
+  return team;
+}
+std::vector<TeamPlayer> players(const std::vector<std::string>& numbers) {
+  std::vector<TeamPlayer> list;
+  for (const std::string& number : numbers) {
+    list.push_back({number, {}, {}});
+    list.back().record.name = "Player with a name of more than forty letters " + number;
+  }
+  return list;
+}
+
+class ScanWindowTest : public OpenManualGame {
+ protected:
+  void press(const char* button) const { QTest::mouseClick(&find<QPushButton>(button), Qt::LeftButton); }
+  bool showsSheet() const { return find<QTableView>("tblSCAN").isVisible(); }
+  bool showsTotals() const { return find<QWidget>("tblTOTALS").isVisible(); }
+  // Waits for the next sheet, or for the totals.
+  void choose(const std::vector<std::string>& chosen) {
+    dialogs.nextFiles.clear();
+    for (const std::string& name : chosen)
+      dialogs.nextFiles << toQt(name);
+    press("cmdFORM");
+    wait();
+  }
+  void wait() const {
+    EXPECT_TRUE(QTest::qWaitFor([this] { return showsSheet() || showsTotals(); }, kPatience));
+  }
+  std::string cell(int player, ScannedModel::Line line, Counter counter) const {
+    const QAbstractItemModel& model = *find<QTableView>("tblSCAN").model();
+    for (std::size_t column = 0; column < kManualColumns.size(); ++column) {
+      if (kManualColumns[column].counter == counter)
+        return fromQt(model
+                          .index(player * ScannedModel::kLines + line,
+                                 ScannedModel::kFirstCount + static_cast<int>(column))
+                          .data()
+                          .toString());
+    }
+    return {};
+  }
+  std::string form(int player, Counter counter) const {
+    return cell(player, ScannedModel::FormTotal, counter);
+  }
+  Game game() {
+    Game read;
+    EXPECT_EQ(GameFile(store, path).read(read), GameFileProblem::None);
+    return read;
+  }
+  std::string text(int number) const { return std::string(texts.text(number)); }
+  std::string file(const char* name) const { return folder.path(name); }
+};
+
+TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
+  const auto prepared = preparedForms(panthers(), players({"4", "5", "10", "12", "15", "0", "00"}), texts);
+  FilledForm first(prepared);
+  first.tick(0, Kind::Made, Counter::FGM, 5);
+  first.tick(0, Kind::Missed, Counter::FGM, 3);
+  first.tick(1, Kind::Made, Counter::F3M, 2, Qt::blue);
+  first.tick(3, Kind::Count, Counter::PF, 4, Qt::red);
+  first.hint(2, Kind::Count, Counter::DR, 0);
+  first.hint(3, Kind::Made, Counter::FTM, 0);
+  FilledForm second(prepared, 1);
+  second.tick(2, Kind::Count, Counter::Ast, 14);
+  first.save(file("one.tif"));
+  second.save(file("two.bmp"));
+
+  choose({file("one.tif"), file("two.bmp")});
+  EXPECT_EQ(settings.lastScanFolder, folder.path());
+  EXPECT_TRUE(dialogs.lastFilter.contains(QStringLiteral("*.TIF")) &&
+              dialogs.lastFilter.contains(QStringLiteral("*.bmp")) &&
+              dialogs.lastFilter.contains(QStringLiteral("*.pdf")))
+      << fromQt(dialogs.lastFilter);
+  ASSERT_TRUE(showsSheet());
+  EXPECT_TRUE(dialogs.shown.empty());
+  EXPECT_EQ(find<QComboBox>("cmbFORMTEAM").currentIndex(), 0);
+  EXPECT_FALSE(find<QComboBox>("cmbFORMTEAM").isEnabled()) << "the sheet says whose it is";
+  EXPECT_EQ(find<QComboBox>("cmbSCANNED(2)").currentIndex(), 3);
+  EXPECT_EQ(form(0, Counter::FGM), "5");
+  EXPECT_EQ(form(0, Counter::FGA), "8");
+  EXPECT_EQ(form(1, Counter::F3A), "2");
+  EXPECT_EQ(form(3, Counter::PF), "4");
+
+  // The doubtful ones, with the keys alone.
+  auto& doubts = find<QListWidget>("lstDOUBT");
+  ASSERT_EQ(doubts.count(), 2);
+  EXPECT_TRUE(doubts.hasFocus());
+  EXPECT_EQ(doubts.currentRow(), 0);
+  EXPECT_TRUE(QString::fromStdString(form(2, Counter::DR)).endsWith(u'?'));
+  press("cmdADDSCAN");
+  ASSERT_EQ(dialogs.shown.size(), 1u) << "asked, since nobody has looked";
+  EXPECT_TRUE(showsSheet()) << "the answer was no";
+  doubts.setFocus();
+  QTest::keyClicks(&doubts, QStringLiteral("+"));
+  EXPECT_EQ(doubts.currentRow(), 1);
+  QTest::keyClicks(&doubts, QStringLiteral("-"));
+  EXPECT_EQ(shown("lblDOUBT"), text(2314));
+  EXPECT_EQ(QString::fromStdString(form(2, Counter::DR)).remove(u'*').toInt(), 1);
+  EXPECT_EQ(QString::fromStdString(form(3, Counter::FTM)).remove(u'*').toInt(), 0);
+  press("cmdADDSCAN");
+  EXPECT_EQ(dialogs.shown.size(), 1u) << "no question any more";
+  wait();
+
+  ASSERT_TRUE(showsSheet()) << "the second file";
+  EXPECT_EQ(form(2, Counter::Ast), "14");
+  EXPECT_EQ(game().events.size(), 0u) << "nothing is saved yet";
+  press("cmdADDSCAN");
+  ASSERT_TRUE(showsTotals());
+  EXPECT_EQ(shown("lblHINT"), texts.withPlaceholder(2335, "2"));
+  EXPECT_TRUE(window->isWindowModified());
+  window->save();
+  const GameState counted = tallied(game());
+  EXPECT_EQ(counted.players[0][1].counters[Counter::FGA], 8);
+  EXPECT_EQ(counted.players[0][2].counters[Counter::F3M], 2);
+  EXPECT_EQ(counted.players[0][3].counters[Counter::DR], 1);
+  EXPECT_EQ(counted.players[0][4].counters[Counter::PF], 4);
+  EXPECT_EQ(counted.players[0][7].counters[Counter::Ast], 14) << "00, not 0";
+  EXPECT_EQ(counted.points(0), 5 * 2 + 2 * 3);
+  EXPECT_EQ(counted.points(1), 0);
+
+  choose({file("two.bmp")});
+  ASSERT_TRUE(showsSheet());
+  press("cmdADDSCAN");
+  ASSERT_EQ(dialogs.shown.size(), 2u) << "the same sheet once more";
+  EXPECT_TRUE(dialogs.shown[1].text.contains(toQt(text(2795)))) << fromQt(dialogs.shown[1].text);
+  EXPECT_TRUE(showsSheet());
+}
+
+TEST_F(ScanWindowTest, LetsABlankSheetBeCorrectedByHandAndReplaceWhatWasThere) {
+  FilledForm blank(blankForms(texts));
+  blank.tickDigit(0, 2, 7); // of the home team
+  blank.tick(0, Kind::Made, Counter::FTM, 2);
+  blank.tick(0, Kind::Missed, Counter::FTM, 1);
+  blank.tickDigit(1, 1, 9); // nobody's
+  blank.tickDigit(1, 2, 9);
+  blank.tick(1, Kind::Count, Counter::ST, 3);
+  blank.save(file("blank.png"));
+  find<QComboBox>("cmbTEAM").setCurrentIndex(1);
+  choose({file("blank.png")});
+  ASSERT_TRUE(showsSheet());
+  EXPECT_EQ(find<QComboBox>("cmbFORMTEAM").currentIndex(), 1) << "as in the window of the totals";
+  EXPECT_EQ(find<QComboBox>("cmbSCANNED(0)").currentIndex(), 2);
+  EXPECT_NE(shown("lblSCANNED(1)").find("99"), std::string::npos);
+  EXPECT_FALSE(find<QPushButton>("cmdSKIP").isVisible()) << "it is the only page";
+
+  // A click on a cell of the page; typing into the table; back to what is ticked.
+  auto& view = find<ScanView>("picSCAN");
+  std::size_t third = 0;
+  const FormLayout layout;
+  while (layout.cells()[third].kind != Kind::Made || layout.cells()[third].counter != Counter::FTM ||
+         layout.cells()[third].number != 2)
+    ++third;
+  view.goTo(third);
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.positionOf(third));
+  EXPECT_EQ(form(0, Counter::FTM), "3*");
+  EXPECT_EQ(form(0, Counter::FTA), "4*");
+  view.setFocus();
+  QTest::keyClick(&view, Qt::Key_Left);
+  QTest::keyClick(&view, Qt::Key_Space);
+  EXPECT_EQ(form(0, Counter::FTM), "2*") << "the one before it";
+  auto& table = find<QTableView>("tblSCAN");
+  const QModelIndex steals = [&] {
+    std::size_t column = 0;
+    while (kManualColumns[column].counter != Counter::ST)
+      ++column;
+    return table.model()->index(ScannedModel::kLines + ScannedModel::FormTotal,
+                                ScannedModel::kFirstCount + static_cast<int>(column));
+  }();
+  EXPECT_TRUE(table.model()->setData(steals, QStringLiteral("15")));
+  EXPECT_EQ(form(1, Counter::ST), "15*");
+  EXPECT_FALSE(table.model()->setData(steals, QStringLiteral("1000")));
+  EXPECT_NE(shown("lblSCANHINT"), "");
+  press("cmdRECALC");
+  EXPECT_EQ(form(1, Counter::ST), "3");
+
+  // 99 is nobody: named in the question, and left out or given to somebody.
+  press("cmdREPLACESCAN");
+  ASSERT_EQ(dialogs.shown.size(), 1u);
+  EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("99"))) << fromQt(dialogs.shown[0].text);
+  auto& choice = find<QComboBox>("cmbSCANNED(1)");
+  choice.setFocus();
+  QTest::keyClick(&choice, Qt::Key_Down);
+  EXPECT_EQ(choice.currentIndex(), 1);
+  QSignalSpy report(window.get(), &frmMANUAL::scanReportAsked);
+  press("cmdVERIFY");
+  ASSERT_EQ(report.size(), 1);
+  press("cmdREPLACESCAN");
+  ASSERT_TRUE(showsTotals());
+  EXPECT_EQ(dialogs.shown.size(), 1u);
+  EXPECT_EQ(shown("lblFT(2)"), "2");
+  EXPECT_EQ(shown("lblFTa(2)"), "3");
+  EXPECT_EQ(shown("lblST(1)"), "3");
+
+  choose({file("blank.png")}); // once more, by mistake: nothing doubles
+  press("cmdREPLACESCAN");
+  EXPECT_EQ(dialogs.shown.size(), 2u) << "99 again";
+  press("cmdCANCELSCAN");
+  ASSERT_TRUE(showsTotals());
+  EXPECT_EQ(dialogs.shown.size(), 2u) << "nothing of the user's work is lost by it";
+  EXPECT_EQ(shown("lblFT(2)"), "2");
+}
+
+TEST_F(ScanWindowTest, TakesThePagesOfOneFileInTurnAndLeavesOnlyAfterAQuestion) {
+  const auto prepared = preparedForms(panthers(), players({"4"}), texts);
+  FilledForm filled(prepared);
+  filled.tick(0, Kind::Count, Counter::ST, 2);
+  filled.hint(0, Kind::Count, Counter::BS, 3);
+  filled.save(file("page.png"));
+  QFile pages(toQt(file("pages.pdf")));
+  ASSERT_TRUE(pages.open(QIODevice::WriteOnly));
+  pages.write(pdfOf({filled.picture(), FilledForm(prepared).picture()}));
+  pages.close();
+  choose({file("pages.pdf"), file("page.png")});
+  ASSERT_TRUE(showsSheet());
+  EXPECT_EQ(form(0, Counter::ST), "2");
+  EXPECT_NE(shown("lblPAGE").find("1 of 2"), std::string::npos) << shown("lblPAGE");
+  EXPECT_TRUE(find<QPushButton>("cmdSKIP").isVisible());
+  EXPECT_EQ(find<QListWidget>("lstDOUBT").count(), 1);
+  press("cmdSKIP");
+  auto& stop = find<QPushButton>("cmdSTOPSCAN");
+  stop.setFocus();
+  QTest::keyClick(&stop, Qt::Key_F3); // the next doubt, of a sheet that is no longer there
+  EXPECT_EQ(find<QListWidget>("lstDOUBT").count(), 0);
+  wait();
+  ASSERT_TRUE(showsSheet());
+  EXPECT_EQ(form(0, Counter::ST), "") << "the second page is empty";
+  EXPECT_FALSE(window->agreesToClose()) << "two pages wait";
+  ASSERT_EQ(dialogs.shown.size(), 1u);
+  EXPECT_EQ(fromQt(dialogs.shown[0].text), texts.withPlaceholder(2334, "2"));
+  press("cmdCANCELSCAN");
+  EXPECT_TRUE(showsSheet()) << "the answer was no";
+  dialogs.nextAnswer = true;
+  press("cmdCANCELSCAN");
+  EXPECT_TRUE(showsTotals());
+  EXPECT_EQ(shown("lblSCORE(0)"), "0");
+  EXPECT_FALSE(window->isWindowModified());
+  EXPECT_TRUE(window->agreesToClose());
+
+  // While a page is being read: stopped, and another one started at once.
+  dialogs.nextFiles = {toQt(file("page.png"))};
+  press("cmdFORM");
+  EXPECT_TRUE(find<QPushButton>("cmdSTOPSCAN").isVisible());
+  press("cmdSTOPSCAN");
+  EXPECT_TRUE(showsTotals());
+  choose({file("page.png")});
+  ASSERT_TRUE(showsSheet());
+  EXPECT_EQ(form(0, Counter::ST), "2");
+  window.reset(); // with a sheet in sight
+}
+
+TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
+  const auto write = [this](const char* name, const QByteArray& bytes) {
+    QFile out(toQt(file(name)));
+    EXPECT_TRUE(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size());
+    return file(name);
+  };
+  const auto bytesOf = [](const std::string& name) {
+    QFile in(toQt(name));
+    EXPECT_TRUE(in.open(QIODevice::ReadOnly));
+    return in.readAll();
+  };
+  TeamRecord others = panthers();
+  others.category = "AAA"; // the game's have none
+  const FilledForm theirs(preparedForms(others, players({"4"}), texts));
+  const QByteArray tif = bytesOf(theirs.save(file("theirs.tif")));
+  const QByteArray bmp = bytesOf(theirs.save(file("theirs.bmp")));
+  QImage photo(2480, 3508, QImage::Format_RGB32);
+  photo.fill(Qt::darkCyan);
+  EXPECT_TRUE(photo.save(toQt(file("photo.jpg"))));
+  EXPECT_TRUE(photo.scaled(8, 11).save(toQt(file("dot.png"))));
+  QImage coarse = theirs.picture().scaledToWidth(1100, Qt::SmoothTransformation);
+  coarse.setDotsPerMeterX(5236); // 133 dots per inch
+  EXPECT_TRUE(coarse.save(toQt(file("coarse.png"))));
+  QImage wide(20000, 14000, QImage::Format_Mono);
+  wide.fill(1);
+  EXPECT_TRUE(wide.save(toQt(file("wide.png"))));
+
+  const std::string kinds = text(1407) + ". " + text(2401);
+  const struct {
+    std::string file;
+    std::string reason;
+  } cases[] = {
+      {write("notes.tif", "these are words"), kinds},
+      {write("empty.bmp", ""), kinds},
+      {write("cut.tif", tif.left(tif.size() / 2)), text(2402)},
+      {write("cut.bmp", bmp.left(bmp.size() - 1000)), text(2402)},
+      {write("torn.tif", tif.chopped(200) + QByteArray(200, '\xFF')), text(2402)},
+      {write("locked.pdf", lockedPdf()), text(2804)},
+      {write("directories.tif", tifOfDirectories(1001)), texts.withPlaceholder(2403, "1000")},
+      {write("head.jpg", QByteArray("\xff\xd8\xff\xe0", 4)), text(2402)},
+      {file("absent.png"), text(2400)},
+      {folder.path(), text(2400)},
+      {file("dot.png"), text(1408)},
+      {file("coarse.png"), text(1408)},
+      {file("wide.png"), text(2305)},
+      {file("photo.jpg"), text(1225) + ". " + text(2791)},
+      {file("theirs.bmp"), text(1236)},
+  };
+  std::vector<std::string> all;
+  for (const auto& bad : cases)
+    all.push_back(bad.file);
+  choose(all);
+  ASSERT_TRUE(showsTotals());
+  ASSERT_EQ(dialogs.shown.size(), 1u) << "told once";
+  const QStringList told = dialogs.shown[0].text.split(u'\n');
+  ASSERT_EQ(told.size(), static_cast<qsizetype>(std::size(cases)) + 1) << fromQt(dialogs.shown[0].text);
+  for (std::size_t bad = 0; bad < std::size(cases); ++bad) {
+    const std::string name = fromQt(QFileInfo(toQt(cases[bad].file)).fileName());
+    EXPECT_EQ(fromQt(told[static_cast<qsizetype>(bad)]), name + ": " + cases[bad].reason);
+  }
+  EXPECT_NE(fromQt(told.last()).find("PAN"), std::string::npos) << "which teams it could be of";
+  EXPECT_NE(fromQt(told.last()).find("OLY"), std::string::npos);
+  EXPECT_FALSE(window->isWindowModified());
+  EXPECT_EQ(shown("lblHINT"), text(2291)) << "nothing was imported";
+}
+
+// A script in the place of the process that decodes: it does as the file's name says, or decodes.
+TEST_F(ScanWindowTest, GoesOnWithTheNextPageWhateverThePictureDoesToItsDecoder) {
+  const std::string script =
+      folder.write("decoder.sh", "#!/bin/sh\n"
+                                 "case $2-$3 in\n"
+                                 "*crash*) kill -SEGV $$ ;;\n"
+                                 "*pages*-0) printf 'HTPG\\2\\0\\0\\0'; kill -ABRT $$ ;;\n"
+                                 "*garbage*) echo not an answer at all ;;\n"
+                                 "*hang*) echo $$ > " +
+                                     file("process") +
+                                     "; exec sleep 100 ;;\n"
+                                     "esac\n"
+                                     "exec '" +
+                                     fromQt(QApplication::applicationFilePath()) + "' \"$@\"\n");
+  ASSERT_TRUE(QFile::setPermissions(toQt(script), QFile::ReadOwner | QFile::ExeOwner));
+  auto& forms = find<frmSCAN>("frmSCAN");
+  forms.decodeWith({script, std::chrono::seconds(10)}); // for the one that hangs; a busy machine needs some
+  FilledForm filled(preparedForms(panthers(), players({"4"}), texts));
+  filled.tick(0, Kind::Count, Counter::ST, 2);
+  filled.save(file("good.png"));
+  QFile pages(toQt(file("pages.tif")));
+  ASSERT_TRUE(pages.open(QIODevice::WriteOnly));
+  pages.write(tifOf({filled.picture(), filled.picture()}));
+  pages.close();
+  choose({"crash.png", "garbage.png", "hang.png", file("pages.tif"), file("good.png")});
+  ASSERT_TRUE(showsSheet());
+  EXPECT_EQ(form(0, Counter::ST), "2");
+  EXPECT_NE(shown("lblPAGE").find("2 of 2"), std::string::npos) << shown("lblPAGE");
+  ASSERT_EQ(dialogs.shown.size(), 1u);
+  const std::string broken = ": " + text(2404) + '\n';
+  EXPECT_EQ(fromQt(dialogs.shown[0].text) + '\n', "crash.png" + broken + "garbage.png" + broken +
+                                                      "hang.png: " + texts.withPlaceholder(2405, "10") +
+                                                      "\npages.tif (1/2)" + broken);
+  press("cmdSKIP");
+  wait();
+  ASSERT_TRUE(showsSheet());
+  press("cmdCANCELSCAN");
+
+  // Stopped while the process hangs: at once, and it is gone.
+  forms.decodeWith({script, std::chrono::seconds(60)});
+  QFile::remove(toQt(file("process")));
+  dialogs.nextFiles = {QStringLiteral("hang.png")};
+  press("cmdFORM");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return folder.read("process").ends_with('\n'); }, kPatience));
+  press("cmdSTOPSCAN");
+  EXPECT_TRUE(showsTotals());
+  const QString process = u"/proc/" + toQt(folder.read("process")).trimmed();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !QFileInfo::exists(process); }, 10000));
+
+  forms.decodeWith({file("absent"), std::chrono::seconds(60)});
+  dialogs.shown.clear();
+  choose(std::vector<std::string>(25, file("good.png")));
+  ASSERT_TRUE(showsTotals());
+  ASSERT_EQ(dialogs.shown.size(), 1u);
+  const QStringList told = dialogs.shown[0].text.split(u'\n');
+  ASSERT_EQ(told.size(), 21);
+  EXPECT_EQ(fromQt(told.first()), "good.png: " + texts.withPlaceholder(2406, std::strerror(ENOENT)));
+  EXPECT_EQ(fromQt(told.last()), texts.withPlaceholder(2407, "5"));
+}
+
+TEST(ScanReport, NamesWhatIsDoubtfulAndWhatWasChanged) {
+  const auto layout = std::make_shared<FormLayout>();
+  FormReading reading;
+  reading.cells.resize(layout->cells().size());
+  const auto place = [&](Kind kind, Counter counter, int number) {
+    std::size_t found = 0;
+    while (layout->cells()[found].kind != kind || layout->cells()[found].counter != counter ||
+           layout->cells()[found].number != number)
+      ++found;
+    return found;
+  };
+  const std::size_t doubtful = place(Kind::Count, Counter::ST, 0);
+  const std::size_t changed = place(Kind::Missed, Counter::FTM, 3);
+  reading.cells[doubtful].isTicked = reading.cells[doubtful].isDoubtful = true;
+  const Game game = gameOfText(textOfGame(""));
+  ScannedTotals scanned(CheckedSheet(layout, reading), 0, game.roster[0]);
+  scanned.sheet.settle(changed, true);
+  scanned.assign(0, 1);
+
+  const TemporaryFolder folder;
+  FileSystem files;
+  cinifile store(files);
+  const Settings settings(store, folder.path());
+  Texts texts;
+  for (const Language language : {Language::English, Language::French}) {
+    texts.setLanguage(language);
+    const Report report = verificationReport(scanned, game.details, "one.tif", settings, texts);
+    EXPECT_EQ(report.title, texts.text(1398));
+    std::string all;
+    for (const ReportBlock& block : report.blocks) {
+      if (const auto* table = std::get_if<ReportTable>(&block)) {
+        for (const ReportRow& row : table->rows) {
+          ASSERT_EQ(row.cells.size(), table->columns.size());
+          for (const ReportCell& cell : row.cells)
+            all += cell.text + '|';
+          all += '\n';
+        }
+      }
+    }
+    const auto line = [&](int read, int now, const std::string& row, const char* signs) {
+      return row + std::string(texts.text(read)) + (signs[0] == '?' ? " ?|" : "|") +
+             std::string(texts.text(now)) + ' ' + signs[1] + '|';
+    };
+    EXPECT_NE(all.find("Ann Able"), std::string::npos);
+    EXPECT_NE(all.find(line(2348, 2348, "ST|1|", "??")), std::string::npos) << all;
+    EXPECT_NE(all.find(line(2349, 2348, "FT " + std::string(texts.text(1242)) + "|4|", " *")),
+              std::string::npos)
+        << all;
+    EXPECT_NE(all.find("|1?|"), std::string::npos) << "the count of steals";
+    EXPECT_NE(all.find("|1*|"), std::string::npos) << "the attempts";
+  }
+}
+
+} // namespace
+} // namespace hooptab

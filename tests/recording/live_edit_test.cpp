@@ -1,0 +1,325 @@
+// Editing a recorded game: events put in, changed, moved and deleted, with all that depends on them.
+#include "game/ShotFollowUp.h"
+#include "recording/ConflictWords.h"
+#include "recording/LiveGame.h"
+#include "recording/OnCourt.h"
+
+#include "recording/ManualTime.h"
+#include "support/TemporaryFolder.h"
+#include "support/TextGame.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace hooptab {
+namespace {
+
+using Where = LiveGame::Where;
+
+class UnsyncedFileSystem : public FileSystem {
+ public:
+  int sync(int) override { return 0; }
+};
+
+class LiveEditTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    GameDetails details;
+    details.periods = 4;
+    details.minutesPerPeriod = 10;
+    const std::vector<RosterPlayer> players = {{"4", 0, "A"},  {"5", 1, "B"}, {"10", 2, "C"}, {"12", 2, "D"},
+                                               {"15", 1, "E"}, {"7", 1, "F"}, {"8", 1, "G"}};
+    ASSERT_EQ(GameFile(store, path).create(details, players, players), GameFileProblem::None);
+    ASSERT_EQ(live.open(path), GameFileProblem::None);
+    ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
+  }
+  void pass(int seconds) {
+    time.now += seconds;
+    live.tick();
+  }
+  // 3 start, 4 basket at 9:50, 5 assist, 6 foul at 9:30, 7 stop, 8 start, 9 stop at 9:00.
+  void play() {
+    live.start();
+    pass(10);
+    live.recordShot(0, 1, EventCode::GLG, true);
+    live.recordAction(0, 2, EventCode::SA);
+    pass(20);
+    live.recordAction(1, 3, EventCode::SPF);
+    live.stop();
+    live.start();
+    pass(30);
+    live.stop();
+  }
+  // Keys and lines of the file, "4=09:50,GLG,0-4", from a key on.
+  std::vector<std::string> lines() {
+    std::vector<std::string> text;
+    EventLines found;
+    EXPECT_EQ(GameFile(store, path).readLines(found), GameFileProblem::None);
+    EXPECT_EQ(found, live.log().lines());
+    for (const auto& [key, line] : found[1])
+      text.push_back(key + '=' + line);
+    return text;
+  }
+  int seconds(int team, int player) const { return live.secondsOnCourt(team, player); }
+  static constexpr unsigned kFive = 0b111110; // entries 1 to 5
+
+  TemporaryFolder folder;
+  UnsyncedFileSystem disk;
+  cinifile store{disk};
+  ManualTime time;
+  std::string path = folder.path("live.GAM");
+  LiveGame live{store, time};
+};
+
+TEST_F(LiveEditTest, EventsArePutInChangedAndMoved) {
+  play();
+  EXPECT_TRUE(live.insertEvent({1, "6"}, Where::Before, 570, {EventCode::GF3, false, 1, 3, {{20, 30}}}));
+  EXPECT_TRUE(live.insertEvent({1, "6"}, Where::Behind, 590, {EventCode::SST, false, 1, 4}))
+      << "another time";
+  auto found = lines();
+  EXPECT_EQ(found[5], "11=09:50,SST,1-12") << "behind the last of its time";
+  EXPECT_EQ(found[6], "10=09:30,GF3A,1-10,20,30");
+  EXPECT_TRUE(live.editEvent({1, "4"}, 565, {EventCode::GDK, true, 0, 5}));
+  found = lines();
+  EXPECT_EQ(found[3], "5=09:50,SA,0-5");
+  EXPECT_EQ(found[9], "4=09:25,GDK,0-15") << "past its neighbours, behind the start at 09:30";
+  EXPECT_EQ(live.state().players[0][5].counters[Counter::DKM], 1);
+  EXPECT_TRUE(live.setTime({1, "4"}, 600));
+  EXPECT_EQ(lines()[3], "4=10:00,GDK,0-15");
+  for (int count = 0; count < 4; ++count)
+    EXPECT_TRUE(live.undo());
+  EXPECT_EQ(lines()[3], "4=09:50,GLG,0-4");
+  EXPECT_EQ(lines()[5], "11=E09:50,SST,1-12") << "no line is lost";
+  EXPECT_TRUE(live.redo());
+  EXPECT_EQ(live.state().players[1][3].counters[Counter::F3A], 1);
+
+  EXPECT_FALSE(live.setTime({1, "4"}, 601)) << "longer than the period";
+  EXPECT_FALSE(live.insertEvent({1, "99"}, Where::Before, 500, {EventCode::SST, false, 0, 1}));
+  EXPECT_FALSE(live.insertEvent({1, "4"}, Where::Before, 590, {EventCode::SST, false, 0, 9})) << "nobody";
+}
+
+TEST_F(LiveEditTest, AForgottenSubstitutionIsCarriedOn) {
+  play();
+  EXPECT_TRUE(live.insertSubstitution({1, "6"}, Where::Before, {1U << 1U, 0}, {1U << 6U, 0}));
+  const auto found = lines();
+  EXPECT_EQ(found[5], "10=09:30,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15");
+  EXPECT_EQ(found[6], "11=09:30,DEPART") << "the clock ran";
+  EXPECT_EQ(found.back(), "9=09:00,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15");
+  EXPECT_EQ(seconds(0, 1), 30);
+  EXPECT_EQ(seconds(0, 6), 30);
+  EXPECT_EQ(live.onCourt()[0], 0b1111100U);
+  // Out a second time, or in twice.
+  EXPECT_FALSE(live.insertSubstitution({1, "6"}, Where::Behind, {1U << 1U, 0}, {1U << 7U, 0}));
+  EXPECT_EQ(live.conflict(), (CourtConflict{{1, "6"}, 0, 1U << 1U, true}));
+  EXPECT_FALSE(live.insertSubstitution({1, "6"}, Where::Behind, {}, {1U << 7U, 0})) << "a sixth";
+  EXPECT_EQ(wordsOf(*live.conflict(), live.game(), Texts()),
+            "09:30 (Period 1): too many players of Visitor would be on court (5, 10, 12, 15, 7, 8)");
+
+  // Earlier by its time: the players go with it.
+  EXPECT_TRUE(live.setTime({1, "10"}, 595));
+  EXPECT_EQ(seconds(0, 1), 5);
+  EXPECT_EQ(seconds(0, 6), 55);
+  EXPECT_TRUE(live.undo());
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(seconds(0, 1), 60);
+  EXPECT_EQ(live.onCourt()[0], kFive);
+}
+
+TEST_F(LiveEditTest, AStartOfTheClockGoesWithItsSubstitution) {
+  play();
+  ASSERT_TRUE(live.insertSubstitution({1, "5"}, Where::Behind, {1U << 1U, 0}, {1U << 6U, 0}));
+  const auto running = lines();
+  EXPECT_EQ(seconds(0, 6), 50);
+  ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "10"}}, true));
+  EXPECT_EQ(lines()[5], "10=E09:50,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15");
+  EXPECT_EQ(lines()[6], "11=E09:50,DEPART");
+  EXPECT_EQ(seconds(0, 1), 60);
+  ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "10"}, {1, "11"}}, false));
+  EXPECT_EQ(lines(), running);
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(lines()[6], "11=E09:50,DEPART") << "one step";
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(lines(), running);
+
+  ASSERT_TRUE(live.setTime({1, "10"}, 575)) << "and to another time";
+  EXPECT_EQ(lines()[5], "10=09:35,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15");
+  EXPECT_EQ(lines()[6], "11=09:35,DEPART");
+  EXPECT_EQ(seconds(0, 6), 35);
+  ASSERT_TRUE(live.setTime({1, "10"}, 560)) << "past others";
+  EXPECT_EQ(lines()[8], "10=09:20,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15") << "behind the start at 9:30";
+  EXPECT_EQ(lines()[9], "11=09:20,DEPART");
+  EXPECT_TRUE(live.undo());
+  // A substitution while the clock stands leaves the start to whom started it.
+  ASSERT_TRUE(live.insertSubstitution({1, "7"}, Where::Behind, {0, 1U << 1U}, {0, 1U << 6U}));
+  ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "12"}}, true));
+  EXPECT_FALSE(findLine(live.log().lines(), 1, "8")->starts_with('E'));
+  EXPECT_TRUE(live.log().countsAgree());
+}
+
+TEST_F(LiveEditTest, AnotherPlayerWentIn) {
+  play();
+  ASSERT_TRUE(live.insertSubstitution({1, "6"}, Where::Before, {1U << 1U, 0}, {1U << 6U, 0}));
+  ASSERT_TRUE(live.setOnCourt({0b11111000, kFive})) << "8 for 5 at 9:00";
+  const EventPlace stop{1, "10"};
+  // 8 instead of 7: at 9:00 he would come a second time, for one who is not there.
+  EXPECT_FALSE(live.take(live.editing().newLists(stop, {0b10111100, kFive})));
+  EXPECT_EQ(wordsOf(*live.conflict(), live.game(), Texts()),
+            "09:00 (Period 1): 8 of Visitor would come in or leave twice");
+  ASSERT_TRUE(live.take(live.editing().newLists(stop, {0b1110110, kFive}))) << "for 10";
+  EXPECT_EQ(lines()[5], "10=09:30,ARRET,IN-04-05-07-12-15,IN-04-05-10-12-15");
+  EXPECT_EQ(live.onCourt()[0], 0b11110010U) << "and later 8 for 5";
+  EXPECT_EQ(seconds(0, 1), 60);
+  EXPECT_EQ(seconds(0, 3), 30);
+  EXPECT_EQ(seconds(0, 6), 30);
+  EXPECT_TRUE(live.log().countsAgree());
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(seconds(0, 1), 30);
+}
+
+TEST_F(LiveEditTest, ASubstitutionThatStopsHaveFollowedIsTakenBackThroughThem) {
+  play();
+  EXPECT_TRUE(live.insertSubstitution({1, "6"}, Where::Before, {1U << 1U, 0}, {1U << 6U, 0}));
+  live.start();
+  pass(540); // the stop came later, and is no action of the user
+  EXPECT_TRUE(live.insertEvent({1, "4"}, Where::Before, 595, {EventCode::STO, false, 1, 1}));
+  EXPECT_TRUE(live.undo());
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(lines().back(), "13=00:00,ARRET,IN-04-05-10-12-15,IN-04-05-10-12-15");
+  EXPECT_EQ(seconds(0, 1), 600);
+  EXPECT_TRUE(live.redo());
+  EXPECT_EQ(seconds(0, 1), 30);
+}
+
+TEST_F(LiveEditTest, AStopWithoutListsGetsThemBehindItsCode) {
+  EXPECT_EQ(withLists("09:00,ARRET", {0b10, 0}, live.log().rosters()), "09:00,ARRET,IN-04,IN-");
+  EXPECT_EQ(withLists("E09:00,ARRET,IN-05,IN", {0, 0b110}, live.log().rosters()),
+            "E09:00,ARRET,IN-,IN-04-05");
+}
+
+// As another program may have left it: what is there can be edited, and recording goes on within the limit.
+TEST_F(LiveEditTest, EventsOfAPeriodBehindTheLastAreEditedWhereTheyStand) {
+  const std::string file =
+      folder.write("late.GAM", textOfGame("[PERIODE300]\n1=05:00,SA,0-4\n2=04:00,ARRET,IN-04,IN-03\n"));
+  LiveGame late(store, time);
+  ASSERT_EQ(late.open(file), GameFileProblem::None);
+  EXPECT_EQ(late.period(), 255);
+  EXPECT_EQ(late.onCourt(), (OnCourt{0b10, 0b10}));
+  EXPECT_TRUE(late.editEvent({300, "1"}, 290, {EventCode::STO, false, 0, 2}));
+  EventLines found;
+  ASSERT_EQ(GameFile(store, file).readLines(found), GameFileProblem::None);
+  EXPECT_EQ(found[300].front().second, "04:50,STO,0-5");
+  EXPECT_EQ(late.game().events[0].period, 300);
+}
+
+TEST_F(LiveEditTest, TheStopThatEndsAPeriodStays) {
+  play();
+  EXPECT_FALSE(live.canDelete({1, "9"}));
+  EXPECT_FALSE(live.setDeleted(std::vector<EventPlace>{{1, "4"}, {1, "9"}}, true));
+  EXPECT_EQ(lines()[3], "4=09:50,GLG,0-4") << "all or nothing";
+  EXPECT_TRUE(live.canDelete({1, "7"}));
+  EXPECT_TRUE(live.setTime({1, "9"}, 530));
+  EXPECT_EQ(seconds(0, 1), 70);
+  EXPECT_TRUE(live.undo());
+  live.toggleOnCourt(0, 1);
+  EXPECT_TRUE(live.canDelete({1, "10"})) << "the stop before it ends the time as well";
+}
+
+TEST_F(LiveEditTest, AnAssistOrReboundBelongsToItsShot) {
+  play();
+  const EventList& events = live.game().events;
+  EXPECT_EQ(followUpOf(events, 3), 4U);
+  EXPECT_EQ(shotOf(events, 4), 3U);
+  EXPECT_EQ(followUpOf(events, 4), std::nullopt);
+  live.insertEvent({1, "4"}, Where::Behind, 590, {EventCode::GFT, false, 0, 1});
+  EXPECT_EQ(followUpOf(live.game().events, 3), std::nullopt) << "another shot between";
+  EXPECT_EQ(shotOf(live.game().events, 5), 4U);
+  live.setDeleted(std::vector<EventPlace>{{1, "10"}}, true);
+  EXPECT_EQ(followUpOf(live.game().events, 3), 5U) << "which is deleted";
+  EXPECT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "4"}, {1, "5"}}, true));
+  EXPECT_EQ(live.state().players[0][2].counters[Counter::Ast], 0);
+  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(live.state().players[0][2].counters[Counter::Ast], 1) << "one action";
+}
+
+// Whatever is edited, in whatever order: memory and file agree, and taking all back brings all counts back.
+TEST_F(LiveEditTest, RandomEditsCanAllBeTakenBack) {
+  for (unsigned seed = 1; seed <= 8; ++seed) {
+    std::mt19937 random(seed);
+    const auto roll = [&random](int sides) {
+      return static_cast<int>(random() % static_cast<unsigned>(sides));
+    };
+    path = folder.path("random" + std::to_string(seed) + ".GAM");
+    SetUp();
+    for (int i = 0; i < 12; ++i) {
+      live.toggleClock();
+      pass(roll(80));
+      live.recordShot(roll(2), 1 + roll(5), EventCode::GFG, roll(2) == 0, {{roll(126), roll(200)}});
+      if (roll(3) == 0)
+        live.toggleOnCourt(roll(2), 1 + roll(7));
+    }
+    live.stop();
+    ASSERT_EQ(live.open(path), GameFileProblem::None);
+    const EventLines before = live.log().lines();
+    const GameState counted = live.state();
+    const OnCourt onCourt = live.onCourt();
+    int changes = 0;
+    for (int i = 0; i < 60; ++i) {
+      const auto events = live.game().events.events();
+      const GameEvent& event = events[static_cast<std::size_t>(roll(static_cast<int>(events.size())))];
+      const EventPlace place{event.period, std::string(event.key)};
+      const Where where = roll(2) == 0 ? Where::Before : Where::Behind;
+      const LiveGame::Counted shot{
+          EventCode::GF3, roll(2) == 0, roll(2), 1 + roll(7), {{roll(126), roll(200)}}};
+      switch (roll(7)) {
+      case 0: changes += live.insertEvent(place, where, roll(601), shot) ? 1 : 0; break;
+      case 1: {
+        const std::size_t team = static_cast<std::size_t>(roll(2));
+        OnCourt out = {};
+        OnCourt in = {};
+        out[team] = 1U << (1 + roll(7));
+        in[team] = 1U << (1 + roll(7));
+        changes += live.insertSubstitution(place, where, out, in) ? 1 : 0;
+        break;
+      }
+      case 2:
+        if (!event.isClock())
+          changes += live.editEvent(place, roll(601), shot) ? 1 : 0;
+        break;
+      case 3: changes += live.setTime(place, roll(601)) ? 1 : 0; break;
+      case 4:
+        if (changes > 0) // else it would take back what the earlier session has recorded
+          changes -= live.undo() ? 1 : 0;
+        break;
+      case 5: changes += live.redo() ? 1 : 0; break;
+      default: changes += live.setDeleted(std::vector{place}, !event.isDeleted) ? 1 : 0;
+      }
+      ASSERT_TRUE(live.log().countsAgree()) << seed;
+    }
+    EXPECT_GT(changes, 8) << seed;
+    LiveGame again(store, time);
+    ASSERT_EQ(again.open(path), GameFileProblem::None);
+    EXPECT_EQ(again.log().lines(), live.log().lines()) << seed;
+
+    for (; changes > 0; --changes)
+      ASSERT_TRUE(live.undo()) << seed;
+    EventLines left = live.log().lines();
+    for (auto& [period, events] : left)
+      std::erase_if(events, [&before](const auto& event) {
+        return findLine(before, 1, event.first) == nullptr && findLine(before, 2, event.first) == nullptr;
+      });
+    EXPECT_EQ(left, before) << seed;
+    EXPECT_EQ(live.onCourt(), onCourt) << seed;
+    for (std::size_t team = 0; team < 2; ++team) {
+      for (std::size_t entry = 0; entry < counted.players[team].size(); ++entry) {
+        EXPECT_EQ(live.state().players[team][entry].counters, counted.players[team][entry].counters);
+        EXPECT_EQ(live.state().players[team][entry].seconds, counted.players[team][entry].seconds);
+      }
+    }
+    while (live.redo()) {
+    }
+    ASSERT_TRUE(live.log().countsAgree()) << seed;
+  }
+}
+
+} // namespace
+} // namespace hooptab

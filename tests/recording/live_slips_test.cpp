@@ -1,0 +1,270 @@
+// Slips of the hand that the recorder forgives or refuses: what it keeps, and what it says.
+#include "checks/GameCheck.h"
+#include "recording/FollowUpQuestion.h"
+#include "recording/LiveGame.h"
+#include "recording/ManualTime.h"
+#include "recording/ToggleGuard.h"
+#include "support/TemporaryFolder.h"
+#include "support/TextGame.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace hooptab {
+namespace {
+
+using Phase = LiveGame::Phase;
+
+class SlipsTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    GameDetails details;
+    details.periods = 2;
+    details.minutesPerPeriod = 10;
+    details.personalFoulLimit = 2;
+    details.abbreviation[0] = "PAN";
+    details.abbreviation[1] = "OLY";
+    ASSERT_EQ(GameFile(store, path)
+                  .create(details, players({"3", "4", "10", "13", "30", "23", "1"}),
+                          players({"7", "9", "09", "12", "15", "3", "44"})),
+              GameFileProblem::None);
+    ASSERT_EQ(live.open(path), GameFileProblem::None);
+    ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
+  }
+  static std::vector<RosterPlayer> players(const std::vector<std::string>& jerseys) {
+    std::vector<RosterPlayer> roster;
+    for (const std::string& jersey : jerseys)
+      roster.push_back({jersey, 0, "Player " + jersey});
+    return roster;
+  }
+  void pass(int seconds) {
+    time.now += seconds;
+    live.tick();
+  }
+  // The lines of a period behind the one that put the fives on court.
+  std::string lines(int period = 1) {
+    std::string text;
+    EventLines found;
+    EXPECT_EQ(GameFile(store, path).readLines(found), GameFileProblem::None);
+    for (const auto& [key, line] : found[period]) {
+      if (period > 1 || std::stoi(key) > 2)
+        text += (text.empty() ? "" : " ") + line;
+    }
+    return text;
+  }
+  static constexpr unsigned kFive = 0b111110; // entries 1 to 5
+
+  TemporaryFolder folder;
+  FileSystem disk;
+  cinifile store{disk};
+  ManualTime time;
+  Texts texts;
+  std::string path = folder.path("slips.GAM");
+  LiveGame live{store, time};
+};
+
+// Types digits; '<' takes one back, '!' is Enter, 'r' and 'l' move the mark. What comes of it: the jersey of
+// who is taken, then what is left of the number, and why.
+TEST_F(SlipsTest, ANumberIsTakenWholeOrStaysWithItsReason) {
+  ASSERT_TRUE(live.recordAction(0, 7, EventCode::SPF));
+  ASSERT_TRUE(live.recordAction(0, 7, EventCode::SPF)); // jersey 1 has fouled out
+  const auto type = [&](bool isAssist, std::string_view keys) {
+    FollowUpQuestion question;
+    question.ask(live, live.followUps(0, 1, EventCode::GFG, isAssist, true), 0, 1);
+    std::string came;
+    for (const char key : keys) {
+      std::optional<FollowUpQuestion::Answer> answer;
+      if (key == '<')
+        question.takeBackDigit();
+      else if (key == '!')
+        answer = question.enter(std::nullopt);
+      else if (key == 'r' || key == 'l')
+        question.moveMark(key == 'r' ? 1 : -1);
+      else
+        answer = question.type(key - '0');
+      if (answer)
+        came += std::to_string(answer->team) + "-" +
+                live.game().roster[static_cast<std::size_t>(answer->team)].player(answer->player)->jersey +
+                (answer->isOnCourt ? ""
+                 : answer->comesIn ? "+"
+                                   : "*") +
+                ' ';
+    }
+    return came + question.typed() + (question.refusal() ? ": " + question.reason(texts) : "");
+  };
+  const struct {
+    bool isAssist;
+    const char* keys;
+    const char* came;
+  } cases[] = {
+      {true, "4", "0-4 4"},
+      {true, "13", "0-13 13"},
+      {true, "1!", "1: 1 has fouled out."}, // 10 and 13 begin so, and are not taken for it
+      {true, "30", "0-30 30"},
+      {true, "3", "3"}, // the shooter's own number, with which 30 begins
+      {true, "3!", "3: 3 has made the basket himself."},
+      {true, "23", "23: 23 is on the bench: assist all the same, or put him in"},
+      {true, "23!", "23: 23 is on the bench: assist all the same, or put him in"}, // a habit is no choice
+      {true, "23r!", "0-23* 23: 23 is on the bench: assist all the same, or put him in"},
+      {true, "23l!", "0-23+ 23: 23 is on the bench: assist all the same, or put him in"},
+      {true, "213<<<4", "0-4 4"},
+      {true, "213", "213: Nobody here has number 213."},
+      {true, "7", "7: 7 plays for OLY."},
+      {true, "99999", "9999: Nobody here has number 9999."},
+      {false, "7", "1-7 7"},
+      {false, "9!", "1-9 9"}, // and the zero of 09 could come no more
+      {false, "09", "1-09 09"},
+      {false, "4", "4"}, // 44 sits on the bench, and could be meant
+      {false, "4!", "0-4 4"},
+      {false, "44!", "44: 44 is on the bench: rebound all the same, or put him in"},
+      {false, "12", "1-12 12"},
+  };
+  for (const auto& each : cases)
+    EXPECT_EQ(type(each.isAssist, each.keys), each.came) << each.keys;
+}
+
+TEST_F(SlipsTest, TheClockIsNotTurnedTwiceByOnePress) {
+  ToggleGuard guard;
+  EXPECT_TRUE(guard.mayToggle(1000));
+  EXPECT_FALSE(guard.mayToggle(1149));
+  EXPECT_TRUE(guard.mayToggle(1220)) << "a start by mistake is stopped at once";
+  bool isAnyTaken = false;
+  for (int now = 1260; now < 3000; now += 40) // a held key whose repeats look like presses
+    isAnyTaken = isAnyTaken || guard.mayToggle(now);
+  EXPECT_FALSE(isAnyTaken);
+}
+
+TEST_F(SlipsTest, NobodyStartsAPeriodByReactingToTheHorn) {
+  live.start();
+  pass(600);
+  ASSERT_EQ(live.period(), 2);
+  for (int second = 0; second <= 3; ++second, pass(1)) {
+    live.toggleClock();
+    EXPECT_EQ(live.phase(), Phase::Stopped) << second;
+  }
+  EXPECT_EQ(live.startLock(), 0);
+  live.toggleClock();
+  EXPECT_EQ(live.phase(), Phase::Running);
+  EXPECT_EQ(lines(2), "10:00,DEPART");
+}
+
+TEST_F(SlipsTest, UndoTakesAStartBackAndRedoLetsTheClockGoOn) {
+  live.start();
+  pass(600);
+  pass(5);
+  live.start();
+  pass(4);
+  live.stop();
+  ASSERT_TRUE(live.undo());
+  EXPECT_EQ(lines(2), "E10:00,DEPART E09:56,ARRET,IN-03-04-10-13-30,IN-07-9-09-12-15");
+  EXPECT_EQ(std::pair(live.clockSeconds(), live.period()), std::pair(600, 2));
+  EXPECT_TRUE(live.isHalfTime() && live.canReturnToEndedPeriod()) << "as before it";
+  EXPECT_EQ(live.secondsOnCourt(0, 1), 600);
+  LiveGame again(store, time);
+  ASSERT_EQ(again.open(path), GameFileProblem::None);
+  EXPECT_EQ(std::pair(again.clockSeconds(), again.period()), std::pair(600, 2));
+
+  ASSERT_TRUE(live.redo());
+  EXPECT_EQ(live.clockSeconds(), 596);
+  ASSERT_TRUE(live.undo());
+  live.start();
+  EXPECT_EQ(live.toRedo(), nullptr) << "the clock has been turned otherwise since";
+  pass(10);
+  ASSERT_TRUE(live.undo());
+  EXPECT_EQ(live.phase(), Phase::Stopped);
+  pass(10);
+  ASSERT_TRUE(live.redo());
+  EXPECT_EQ(live.phase(), Phase::Running);
+  EXPECT_EQ(live.clockSeconds(), 580) << "as if it had never been taken back";
+  ASSERT_TRUE(live.recordAction(0, 1, EventCode::STO));
+  ASSERT_TRUE(live.undo()) << "behind anything else the start stays";
+  EXPECT_EQ(live.phase(), Phase::Running);
+  EXPECT_TRUE(live.log().countsAgree());
+}
+
+TEST_F(SlipsTest, HalfASubstitutionWaitsForItsOtherHalf) {
+  live.start();
+  pass(10);
+  ASSERT_TRUE(live.toggleOnCourt(0, 1));
+  EXPECT_EQ(lines(), "10:00,DEPART") << "four on court are nobody's wish";
+  pass(7);
+  ASSERT_TRUE(live.toggleOnCourt(0, 6));
+  EXPECT_EQ(lines(), "10:00,DEPART 09:50,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15 09:50,DEPART");
+  ASSERT_TRUE(live.toggleOnCourt(1, 1));
+  ASSERT_TRUE(live.toggleOnCourt(1, 1));
+  EXPECT_FALSE(live.pending()) << "clicked back";
+  ASSERT_TRUE(live.toggleOnCourt(1, 2));
+  pass(5);
+  ASSERT_TRUE(live.recordAction(0, 2, EventCode::STO)); // what comes next is behind it
+  EXPECT_TRUE(lines().ends_with("09:43,ARRET,IN-04-10-13-23-30,IN-07-09-12-15 09:43,DEPART 09:38,STO,0-4"))
+      << lines();
+  ASSERT_TRUE(live.toggleOnCourt(1, 6));
+  ASSERT_TRUE(live.toggleOnCourt(0, 6));
+  pass(LiveGame::kLongestPending);
+  EXPECT_FALSE(live.pending());
+  EXPECT_TRUE(lines().ends_with("09:38,ARRET,IN-04-10-13-30,IN-03-07-09-12-15 09:38,DEPART")) << lines();
+  ASSERT_TRUE(live.toggleOnCourt(0, 3));
+  EXPECT_FALSE(live.toUndo()->start) << "the half that was clicked is taken back first";
+  live.stop();
+  EXPECT_TRUE(lines().ends_with("09:18,DEPART 09:18,ARRET,IN-04-13-30,IN-03-07-09-12-15")) << lines();
+  EXPECT_TRUE(live.log().countsAgree());
+}
+
+TEST_F(SlipsTest, WhoHasFouledOutIsNotWaitedFor) {
+  for (const int player : {6, 7, 1}) {
+    live.recordAction(0, player, EventCode::SPF);
+    live.recordAction(0, player, EventCode::SPF);
+  }
+  live.start();
+  pass(10);
+  ASSERT_TRUE(live.toggleOnCourt(0, 1));
+  EXPECT_FALSE(live.pending()) << "four are all who can play";
+}
+
+TEST_F(SlipsTest, AGameThatWasClosedInPlaySaysSoUntilItGoesOn) {
+  live.start();
+  pass(60);
+  live.stopForClosing(1'763'790'000);
+  LiveGame again(store, time);
+  ASSERT_EQ(again.open(path), GameFileProblem::None);
+  EXPECT_TRUE(again.wasClosedInPlay());
+  EXPECT_EQ(again.game().details.closedInPlay.time, 1'763'790'000);
+  again.start();
+  again.stop();
+  EXPECT_FALSE(again.wasClosedInPlay());
+}
+
+// The roster has a 9 and a 09, which is a finding of no event.
+std::ptrdiff_t findingsOfEvents(const Game& game) {
+  const std::vector<Finding> findings = checkGame(game);
+  return std::ranges::count_if(findings, &Finding::hasEvent);
+}
+
+TEST_F(SlipsTest, DoubtsAndAcceptedFindingsStandInTheFileUntilTheEventChanges) {
+  ASSERT_TRUE(live.recordShot(0, 1, EventCode::GFG, true)); // without a place
+  ASSERT_TRUE(live.setDoubtful(*live.lastRecorded(), true));
+  ASSERT_TRUE(live.recordAction(0, 6, EventCode::STO)); // who sits on the bench
+  const EventPlace turnover = *live.lastRecorded();
+  ASSERT_TRUE(live.setOnCourt({kFive ^ 0b1000010U, kFive}));
+  ASSERT_TRUE(live.setDoubtful(*live.lastRecorded(), true));
+  EXPECT_EQ(lines(), "10:00,GFG,0-3,?=1 10:00,STO,0-23 10:00,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15,?=1");
+  ASSERT_EQ(findingsOfEvents(live.game()), 1);
+  ASSERT_TRUE(live.acceptFinding(turnover, static_cast<int>(FindingKind::NotOnCourt)));
+
+  Game read;
+  ASSERT_EQ(GameFile(store, path).read(read), GameFileProblem::None);
+  EXPECT_EQ(findingsOfEvents(read), 0);
+  EXPECT_TRUE(read.events[2].isDoubtful && !read.events[3].isDoubtful && read.events[4].isDoubtful);
+  EXPECT_EQ(tallied(read).players[0][1].counters[Counter::FGM], 1) << "counts as before";
+  ASSERT_TRUE(live.editEvent(turnover, 590, {.kind = EventCode::SPF, .team = 0, .player = 7}));
+  EXPECT_EQ(findingsOfEvents(live.game()), 1) << "another event, another finding";
+  const std::string bare = withDoubt("05:00,ARRET", true);
+  EXPECT_EQ(bare, "05:00,ARRET,,,?=1") << "behind both lists, be they missing";
+  EXPECT_TRUE(GameEvent::parse(1, "1", bare).isUnderstood && GameEvent::parse(1, "1", bare).isDoubtful);
+  ASSERT_TRUE(live.setDoubtful({1, "3"}, false));
+  EXPECT_TRUE(lines().starts_with("10:00,GFG,0-3 ")) << lines();
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,169 @@
+#include "recording/JerseyMatch.h"
+#include "recording/ManualTime.h"
+#include "recording/SubstitutionLine.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace hooptab {
+namespace {
+
+class SubstitutionTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    GameDetails details;
+    details.periods = 4;
+    details.minutesPerPeriod = 10;
+    details.personalFoulLimit = 5;
+    std::vector<RosterPlayer> players;
+    for (int number = 1; number <= 12; ++number)
+      players.push_back({std::to_string(number == 12 ? 0 : number), 1, "P"});
+    const std::string path = folder.path("bench.GAM");
+    ASSERT_EQ(GameFile(store, path).create(details, players, players), GameFileProblem::None);
+    ASSERT_EQ(live.open(path), GameFileProblem::None);
+  }
+  void play(unsigned visitors, int seconds) {
+    ASSERT_TRUE(live.setOnCourt({visitors, kFirstFive}));
+    live.start();
+    time.now += seconds;
+    live.stop();
+  }
+  static constexpr unsigned kFirstFive = 0b111110;
+  static constexpr unsigned kNextFive = kFirstFive << 5;
+
+  TemporaryFolder folder;
+  FileSystem disk;
+  cinifile store{disk};
+  ManualTime time;
+  LiveGame live{store, time};
+};
+
+TEST_F(SubstitutionTest, FiveAreExchangedInElevenClicksInAnyOrder) {
+  ASSERT_TRUE(live.setOnCourt({kFirstFive, kFirstFive}));
+  for (const bool comeFirst : {false, true}) {
+    Substitution choice(live);
+    EXPECT_FALSE(choice.canAccept()) << "nothing is changed yet";
+    int clicks = 1; // OK
+    for (const bool comes : {comeFirst, !comeFirst}) {
+      for (int player = 1; player <= 5; ++player, ++clicks)
+        choice.toggle(0, comes ? player + 5 : player);
+      EXPECT_EQ(choice.canAccept(), choice.count(0) <= 5) << choice.count(0);
+    }
+    EXPECT_EQ(clicks, 11);
+    EXPECT_EQ(choice.onCourt(), (OnCourt{kNextFive, kFirstFive}));
+    EXPECT_TRUE(choice.wasOnCourt(0, 1) && !choice.isChosen(0, 1) && choice.isChosen(0, 6));
+  }
+}
+
+TEST_F(SubstitutionTest, TooManyAreRefusedAndFewerAreNot) {
+  ASSERT_TRUE(live.setOnCourt({kFirstFive, kFirstFive}));
+  Substitution choice(live);
+  choice.toggle(1, 13); // nobody
+  EXPECT_EQ(choice.count(1), 5);
+  choice.toggle(1, 12);
+  EXPECT_EQ(choice.count(1), 6);
+  choice.toggle(0, 1);
+  EXPECT_FALSE(choice.canAccept());
+  choice.toggle(1, 12);
+  EXPECT_TRUE(choice.canAccept()) << "four of the visitors";
+  EXPECT_TRUE(live.setOnCourt(choice.onCourt()));
+}
+
+TEST_F(SubstitutionTest, LinesThatHavePlayedAreOfferedMostPlayedFirst) {
+  for (int line = 0; line < 7; ++line)
+    play(0b11110U | 1U << (5 + line), 10 + line);
+  play(0b11110, 60); // four players are no line to take
+  play(kNextFive, 5);
+  Substitution choice(live);
+  ASSERT_EQ(choice.lines(0).size(), Substitution::kMostLines);
+  EXPECT_EQ(choice.lines(0)[0], (Substitution::Line{0b11110U | 1U << 11U, 16, "1 2 3 4 11"}));
+  EXPECT_EQ(choice.lines(0)[1].jerseys, "1 2 3 4 10");
+  EXPECT_TRUE(choice.lines(1).empty()) << "only those who stand there";
+  choice.toggle(0, 12);
+  choice.takeLine(0, 1);
+  EXPECT_EQ(choice.onCourt(), (OnCourt{choice.lines(0)[1].players, kFirstFive}));
+  EXPECT_TRUE(choice.canAccept());
+
+  for (int foul = 0; foul < 5; ++foul)
+    EXPECT_TRUE(live.recordAction(0, 11, EventCode::SPF));
+  EXPECT_EQ(Substitution(live).lines(0)[0].jerseys, "1 2 3 4 10") << "without the one who fouled out";
+}
+
+// "|" ends a number, "/" changes the team, "<" takes back, "=" is Enter. Gives who moves, "1-12 1+32 " for
+// two of the home team, what is left of a number, "?" where it is refused, "!" behind an Enter that may
+// accept.
+TEST_F(SubstitutionTest, ANumberIsTakenWhenItCannotGoOnAndElseByASeparatorOrEnter) {
+  GameDetails details;
+  details.mainTeam = 1;
+  std::array<std::vector<RosterPlayer>, 2> teams;
+  for (const char* number : {"4", "14", "21", "22", "23", "24", "30", "77", "9"})
+    teams[0].push_back({number, 1, "P"});
+  for (const char* number : {"1", "12", "13", "14", "15", "00", "0", "32", "50", "7"})
+    teams[1].push_back({number, 1, "P"});
+  const std::string path = folder.path("line.GAM");
+  ASSERT_EQ(GameFile(store, path).create(details, teams[0], teams[1]), GameFileProblem::None);
+  ASSERT_EQ(live.open(path), GameFileProblem::None);
+  ASSERT_TRUE(live.setOnCourt({kFirstFive, kFirstFive}));
+  const auto typed = [this](std::string_view keys) {
+    Substitution choice(live);
+    SubstitutionLine line(live, choice);
+    bool mayAccept = false;
+    for (const char key : keys) {
+      mayAccept = key == '=' && line.enter();
+      key == '|' ? line.separate() : key == '/' ? line.changeTeam() : key == '<' ? line.takeBack() : void();
+      if (key >= '0' && key <= '9')
+        line.type(key - '0');
+    }
+    std::string result;
+    for (int place = 1; place <= 20; ++place) {
+      const int team = place > 10 ? 1 : 0;
+      const int player = place - 10 * team;
+      if (choice.isChosen(team, player) != choice.wasOnCourt(team, player))
+        result += std::to_string(team) + (choice.isChosen(team, player) ? '+' : '-') +
+                  live.game().roster[team].player(player)->jersey + ' ';
+    }
+    return result + line.typed() + (line.isRefused() ? "?" : "") + (mayAccept ? "!" : "");
+  };
+  const std::pair<const char*, const char*> cases[] = {
+      {"121315325000", "1-12 1-13 1-15 1+00 1+32 1+50 "},
+      {"1", "1"},
+      {"1|", "1-1 "},
+      {"1=", "1-1 !"},
+      {"0|", "1+0 "},
+      {"00", "1+00 "},
+      {"7", "7"},
+      {"7=", "1+7 !"},
+      {"77", "0+77 "},
+      {"09", "0+9 "},
+      {"14", "1-14 "},
+      {"/14/14", "0-14 1-14 "},
+      {"1212", ""},
+      {"5=", "1+50 "},
+      {"3=", "3?"},
+      {"2|", "2?"},
+      {"2|1", "0-21 "},
+      {"8=", "8?"},
+      {"812345", "8123?"},
+      {"812<<<12", "1-12 "},
+      {"1232<", "1-12 "},
+      {"1232<<<", ""},
+  };
+  for (const auto& [keys, result] : cases)
+    EXPECT_EQ(typed(keys), result) << keys;
+}
+
+TEST(JerseyMatch, WaitsWhileSeveralFit) {
+  using Fitting = std::vector<FittingJersey>;
+  const std::vector<std::string> jerseys = {"12", "1", "", "30", "00", "0", "30", "09"};
+  EXPECT_EQ(fittingJerseys(jerseys, "1"), (Fitting{{1, true}, {0, false}})) << "the exact one first";
+  EXPECT_EQ(fittingJerseys(jerseys, "12"), (Fitting{{0, true}}));
+  EXPECT_EQ(fittingJerseys(jerseys, "3"), (Fitting{{3, false}, {6, false}})) << "one of each team";
+  EXPECT_EQ(fittingJerseys(jerseys, "0"), (Fitting{{5, true}, {4, true}, {7, false}}));
+  EXPECT_EQ(fittingJerseys(jerseys, "00"), (Fitting{{4, true}}));
+  EXPECT_EQ(fittingJerseys(jerseys, "9"), (Fitting{{7, true}}));
+  EXPECT_EQ(fittingJerseys(jerseys, "2"), Fitting{});
+  EXPECT_EQ(fittingJerseys(jerseys, "").size(), 7U);
+}
+
+} // namespace
+} // namespace hooptab

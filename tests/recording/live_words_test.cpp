@@ -1,0 +1,118 @@
+// Words and figures beside the scoreboard: fouls, runs, periods, and who plays well together.
+#include "recording/LiveWords.h"
+
+#include "game/RunningScore.h"
+#include "recording/Fives.h"
+#include "recording/LiveTable.h"
+#include "recording/ScoreText.h"
+#include "support/SharedGames.h"
+
+#include <map>
+
+namespace hooptab {
+namespace {
+
+class LiveWordsTest : public LiveTableTest {
+ protected:
+  std::string fouls() {
+    std::string text;
+    for (const FoulNumber& foul : foulNumbers(live.game()))
+      text += foul.ofPlayer == 0 ? "" : foulText(foul, texts) + "; ";
+    return text;
+  }
+  Texts texts;
+};
+
+TEST_F(LiveWordsTest, FoulsNameWhoProfitsAndWhichOneEachIs) {
+  open(textOfGame(
+      kBegin + "2=09:00,SPF,0-4\n3=09:00,STF,0-04\n4=08:00,SPF,1-3\n5=E07:00,SPF,0-4\n6=07:00,SPF,0-4\n"
+               "[PERIODE2]\n7=05:00,SPF,0-99\n8=04:00,SPF,0-4\n[PERIODE4]\n9=05:00,SPF,0-99\n"
+               "[PERIODE5]\n10=05:00,SPF,0-5\n[PERIODE6]\n11=05:00,SPF,0-5\n",
+      "BONUS=3\nKEEPBONUS=1\n"));
+  EXPECT_EQ(fouls(),
+            "1st, team 1; 1st, team 2; 1st, team 1; 2nd, team 3; 1st, team 1; 3rd, team 2; 2nd, team 1; "
+            "1st, team 2; 2nd, team 3; ");
+  EXPECT_EQ(foulWords(live, 0, texts) + ' ' + foulWords(live, 1, texts), "OLY shoot 2 3 to give");
+  texts.setLanguage(Language::French);
+  EXPECT_EQ(foulWords(live, 0, texts) + ' ' + foulWords(live, 1, texts), "2 lancers : OLY 3 à donner");
+  EXPECT_EQ(ordinalText(1, texts) + ordinalText(2, texts) + ordinalText(21, texts), "1re2e21e");
+  texts.setLanguage(Language::English);
+  EXPECT_EQ(ordinalText(11, texts) + ordinalText(13, texts) + ordinalText(22, texts), "11th13th22nd");
+  open(textOfGame("[PERIODE3]\n1=05:00,SPF,0-4\n[PERIODE4]\n2=05:00,SST,0-4\n[PERIODE5]\n3=04:00,SPF,0-4\n",
+                  "KEEPBONUS=1\n"));
+  EXPECT_EQ(fouls(), "1st, team 1; 2nd, team 1; ") << "none of the last regular period";
+  EXPECT_EQ(foulWords(live, 0, texts), "") << "no limit";
+}
+
+TEST_F(LiveWordsTest, TheRunAndTheFiveFollowTheGame) {
+  open(textOfGame(kBegin));
+  EXPECT_FALSE(lastRun(live.game().events));
+  ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
+  live.start();
+  time.now += 59;
+  ASSERT_TRUE(live.recordShot(0, 1, EventCode::GF3, true) && live.recordShot(1, 1, EventCode::GDK, true));
+  EXPECT_EQ(Fives::of(live).current[0], (FivePlay{kFive, "4 5 10 12 15", 59, 3, 2}));
+  EXPECT_FALSE(Fives::of(live).best[0]);
+  time.now += 1;
+  EXPECT_EQ(Fives::of(live).best[0]->plusMinus(), 1);
+  live.stop();
+  ASSERT_TRUE(live.setOnCourt({0b1111010, kFive}));
+  live.start();
+  time.now += 100;
+  ASSERT_TRUE(live.recordShot(1, 1, EventCode::GFT, true) && live.recordShot(0, 1, EventCode::GF3, false));
+  EXPECT_EQ(lastRun(live.game().events), (ScoringRun{1, 3}));
+  EXPECT_EQ(runText(*lastRun(live.game().events)), "3–0");
+  EXPECT_EQ(Fives::of(live).current[0], (FivePlay{0b1111010, "0 4 10 12 15", 100, 0, 1}));
+  EXPECT_EQ(Fives::of(live).best[0]->seconds, 60);
+}
+
+// Counted here from the lists as they are written and from the score as it grew.
+TEST_F(LiveWordsTest, RealGamesAddUp) {
+  for (const auto& file : sharedGames()) {
+    SCOPED_TRACE(file);
+    ASSERT_EQ(live.open(file.string(), LiveGame::Access::Reading), GameFileProblem::None);
+    const Game& game = live.game();
+    const auto score = runningScore(game.events);
+    const auto fouls = foulNumbers(game);
+    std::array<std::string, 2> lists;
+    std::array<std::map<std::string, int>, 2> plusMinus;
+    std::array<std::map<int, int>, 2> personal;        // by entry
+    std::array<std::map<std::size_t, int>, 2> ofTeams; // by period
+    for (std::size_t place = 1; place < game.events.size(); ++place) {
+      const GameEvent& event = game.events[place];
+      for (std::size_t team = 0; team < 2; ++team) {
+        if (event.code == EventCode::ARRET)
+          lists[team] = event.onCourt(team);
+        plusMinus[team][lists[team]] +=
+            score[place][team] - score[place - 1][team] - score[place][1 - team] + score[place - 1][1 - team];
+      }
+      if (fouls[place].ofTeam == 0)
+        continue;
+      const auto team = static_cast<std::size_t>(event.player.team);
+      ofTeams[team][static_cast<std::size_t>(event.period)] = fouls[place].ofTeam;
+      if (event.code == EventCode::SPF)
+        personal[team][game.roster[team].entryOf(event.player.jersey)] = fouls[place].ofPlayer;
+    }
+    const ScoreByPeriod byPeriod = scoreByPeriod(live, texts);
+    const Fives fives = Fives::of(live);
+    for (std::size_t team = 0; team < 2; ++team) {
+      for (const auto& [entry, count] : personal[team])
+        EXPECT_EQ(count,
+                  live.state().players[team].at(static_cast<std::size_t>(entry)).counters[Counter::PF]);
+      int points = 0;
+      for (std::size_t row = 0; row < byPeriod.periods.size(); ++row) {
+        points += byPeriod.periods[row].ofTeam[team].points;
+        EXPECT_EQ(byPeriod.periods[row].ofTeam[team].fouls, ofTeams[team][row + 1]) << row;
+      }
+      EXPECT_EQ(points, score.back()[team]);
+      int best = -1000;
+      for (const LineEntry& line : live.state().lines[team])
+        best = std::max(best, line.seconds >= Fives::kShortest ? plusMinus[team][line.list] : best);
+      EXPECT_EQ(fives.best[team]->plusMinus(), best);
+      EXPECT_EQ(plusMinus[team][game.roster[team].listOf(fives.best[team]->players)], best);
+    }
+  }
+}
+
+} // namespace
+} // namespace hooptab

@@ -1,0 +1,180 @@
+#include "report/SeasonReports.h"
+
+#include "catalogue/SeasonFolder.h"
+#include "report/ReportText.h"
+#include "report/ReportWords.h"
+#include "season/Leaders.h"
+#include "season/SeasonColumns.h"
+#include "storage/DelimitedText.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <set>
+#include <tuple>
+
+namespace hooptab {
+namespace {
+
+class SeasonReportTest : public testing::Test {
+ protected:
+  SeasonReportTest() {
+    folder.addGame("a.GAM", "2026-10-02",
+                   "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40,50\n"
+                   "3=08:00,GF3,0-5,100,90\n4=07:00,SPF,1-3\n5=00:00,ARRET,IN-,IN-\n");
+    folder.addGame("b.GAM", "2026-10-09",
+                   "1=10:00,ARRET,IN-04-05-10-12-00,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40,50\n"
+                   "3=08:30,GFGA,0-4,40,50\n4=08:00,GFT,1-7\n5=04:00,ARRET,IN-,IN-\n");
+  }
+  static std::vector<const ReportTable*> tables(const Report& report) {
+    std::vector<const ReportTable*> found;
+    for (const ReportBlock& block : report.blocks) {
+      if (const auto* table = std::get_if<ReportTable>(&block))
+        found.push_back(table);
+    }
+    return found;
+  }
+  static const ReportCell& cell(const ReportTable& table, const ReportRow& row, std::string_view column) {
+    const auto found = std::ranges::find(table.columns, column, &ReportColumn::name);
+    EXPECT_NE(found, table.columns.end()) << column;
+    return row.cells.at(static_cast<std::size_t>(found - table.columns.begin()));
+  }
+
+  SeasonFolder folder;
+  FileSystem files;
+  cinifile store{files};
+  Settings settings{store, "/nowhere"};
+  Texts texts;
+};
+
+// Between the two reports of players every counted column stands once, each cell as the season's table shows
+// it.
+TEST_F(SeasonReportTest, TheRowsOfPlayersAndLinesAreThoseOfTheSeason) {
+  const SeasonStatistics season = folder.statistics();
+  const SeasonReportChoice everybody = {std::nullopt, std::nullopt, {0, 0, 0}}; // under no minimum
+  for (const auto& [shots, other, rows] :
+       {std::tuple(SeasonReport::PlayerShots, SeasonReport::PlayerOther, season.players()),
+        std::tuple(SeasonReport::LineShots, SeasonReport::LineOther, season.lines())}) {
+    std::set<std::string> counted;
+    for (const SeasonReport which : {shots, other}) {
+      const Report report = seasonReport(which, season, everybody, settings, texts);
+      ASSERT_EQ(tables(report).size(), rows.data() == season.players().data() ? 4U : 3U);
+      for (const SeasonView view : kSeasonViews) {
+        if (static_cast<std::size_t>(view) >= tables(report).size())
+          break;
+        const ReportTable& table = *tables(report)[static_cast<std::size_t>(view)];
+        ASSERT_EQ(table.rows.size(), rows.size());
+        std::vector<std::string> printed(rows.size());
+        std::vector<std::string> shown(rows.size());
+        for (const ReportColumn& column : table.columns) {
+          if (column.isRepeated)
+            continue;
+          const int index = seasonColumn(column.name).index;
+          if (index >= kFirstCountColumn && view == SeasonView::Totals) {
+            EXPECT_TRUE(counted.insert(column.name).second) << column.name;
+          }
+          for (std::size_t row = 0; row < rows.size(); ++row) {
+            printed[row] += cell(table, table.rows[row], column.name).text + '|';
+            shown[row] += seasonCell(rows[row], index, view, texts) + '|';
+          }
+        }
+        if (view != SeasonView::Totals) { // those are ranked anew
+          if (which == SeasonReport::PlayerShots) {
+            EXPECT_TRUE(std::ranges::is_sorted(table.rows, std::ranges::greater(), [&](const ReportRow& row) {
+              return std::stod(cell(table, row, "PTS").text);
+            })) << table.title;
+          }
+          std::ranges::sort(printed);
+          std::ranges::sort(shown);
+        }
+        EXPECT_EQ(printed, shown);
+        for (const ReportRow& row : table.rows)
+          ASSERT_EQ(row.cells.size(), table.columns.size());
+      }
+    }
+    EXPECT_EQ(counted.size(), static_cast<std::size_t>(kLastCountColumn - kFirstCountColumn + 1));
+  }
+}
+
+TEST_F(SeasonReportTest, EveryReportHasItsRowsInBothLanguages) {
+  const SeasonStatistics season = folder.statistics();
+  SeasonReportChoice choice;
+  choice.team = folder.scan().teamOf("PAN-A");
+  choice.minimum = {0, 0, 0}; // these games are short
+  const SeasonReportChoice nobody = {std::nullopt, std::nullopt, choice.minimum};
+  for (const Language language : {Language::English, Language::French}) {
+    texts.setLanguage(language);
+    for (const SeasonReportName& name : seasonReports()) {
+      const bool isOfLine = name.report == SeasonReport::Line;
+      const bool isPerformance = isOfLine || name.report == SeasonReport::Player;
+      choice.chosen = isOfLine ? season.lines().front().id : season.players().front().id;
+      const Report report = seasonReport(name.report, season, choice, settings, texts);
+      EXPECT_FALSE(tables(report).empty()) << name.word;
+      EXPECT_NE(report.subject.find("2026-10-02 – 2026-10-09"), std::string::npos) << report.subject;
+      for (const ReportTable* table : tables(report)) {
+        EXPECT_FALSE(table->rows.empty()) << table->title;
+        for (const ReportRow& row : table->rows)
+          ASSERT_EQ(row.cells.size(), table->columns.size()) << table->title;
+      }
+      EXPECT_TRUE(tables(seasonReport(name.report, season, nobody, settings, texts)).empty() == isPerformance)
+          << "a performance of nobody";
+      for (const ReportFile& file : reportCsv(report))
+        EXPECT_GE(parseDelimited(file.bytes).size(), 2U);
+    }
+  }
+}
+
+TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
+  const SeasonStatistics season = folder.statistics();
+  const SeasonRow* ann = rowOf(season.players(), "Ann Able");
+  ASSERT_NE(ann, nullptr);
+  const Report report =
+      seasonReport(SeasonReport::Player, season, {std::nullopt, ann->id, {}}, settings, texts);
+  EXPECT_EQ(report.title, texts.text(1413));
+  const ReportTable& results = *tables(report).back();
+  ASSERT_EQ(results.rows.size(), 2U);
+  EXPECT_EQ(cell(results, results.rows[0], "Date").text, "2026-10-02");
+  EXPECT_EQ(cell(results, results.rows[1], "F2A").text, "2");
+  EXPECT_DOUBLE_EQ(cell(results, results.rows[1], "F2%").value, 0.5);
+  const Report leaders =
+      seasonReport(SeasonReport::LeadersTotal, season, {std::nullopt, ann->id, {}}, settings, texts);
+  const auto all = tables(leaders);
+  const auto of = std::ranges::find(all, "Points scored", &ReportTable::title);
+  ASSERT_NE(of, all.end());
+  const ReportTable& points = **of;
+  EXPECT_EQ(points.rows[0].cells[1].text, "4 Ann Able");
+  EXPECT_EQ(reportCsv(leaders).size(), 1U) << "one table of text for all statistics";
+  EXPECT_EQ(points.rows[0].emphasis, ReportRow::Emphasis::Highlighted);
+  EXPECT_EQ(points.rows[1].emphasis, ReportRow::Emphasis::None);
+}
+
+TEST_F(SeasonReportTest, FilesNameTheirColumnsAndHoldNoTimeWhereNoneIsShown) {
+  const SeasonStatistics season = folder.statistics();
+  const Report games = seasonReport(SeasonReport::TeamSummary, season, {}, settings, texts);
+  EXPECT_TRUE(reportCsv(games)[0].bytes.starts_with(
+      "Date,Type,Result,Visitor,VisitorPTS,Home,HomePTS,Input,Location\r\n"));
+  Report report = seasonReport(SeasonReport::PlayerShots, season, {}, settings, texts);
+  const auto view = static_cast<std::size_t>(SeasonView::PerMinute);
+  const ReportTable& minutes = *tables(report)[view];
+  EXPECT_EQ(cell(minutes, minutes.rows[0], "Time").kind, ReportCell::Kind::Text);
+  EXPECT_EQ(cell(minutes, minutes.rows[0], "Team").text, "PAN-A") << "without a chosen team";
+  EXPECT_TRUE(cell(minutes, minutes.rows[0], "Name").text.ends_with(" *")) << "under the minimum";
+
+  texts.setLanguage(Language::French);
+  report = seasonReport(SeasonReport::PlayerShots, season, {}, settings, texts);
+  const std::string french = reportCsv(report, CsvReader::French)[0].bytes;
+  EXPECT_TRUE(french.starts_with("\xEF\xBB\xBFTableau;Équipe;No;Nom du joueur;Temps;P;TGM;"))
+      << french.substr(0, 90);
+  EXPECT_NE(french.find(";100,0%;"), std::string::npos);
+
+  const std::size_t all = rankedRows(report);
+  SeasonReportChoice choice;
+  choice.chosen = season.players().back().id;
+  report = seasonReport(SeasonReport::PlayerShots, season, choice, settings, texts);
+  keepBest(report, 2, texts);
+  ASSERT_EQ(tables(report)[0]->rows.size(), 3U) << "the highlighted one stays";
+  EXPECT_NE(tables(report)[0]->title.find(std::to_string(all)), std::string::npos);
+  EXPECT_EQ(proposedFileName("LYNX  12 Smith, Jr: a"), "LYNX 12 Smith, Jr- a");
+}
+
+} // namespace
+} // namespace hooptab

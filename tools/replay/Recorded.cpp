@@ -1,0 +1,22 @@
+#include "tools/replay/Recorded.h"
+
+namespace hooptab {
+
+void Recorded::read() {
+  Game game;
+  if (GameFile(m_store, m_path).read(game) != GameFileProblem::None)
+    throw ReplayFailure("the game cannot be read: " + m_path);
+  m_game = std::move(game);
+}
+
+OnCourt Recorded::onCourt() const {
+  const Rosters rosters{m_game.roster[0], m_game.roster[1]};
+  OnCourt lists = {};
+  for (const GameEvent& event : m_game.events) {
+    if (const auto own = onCourtOf(event.period, std::string(event.line), rosters))
+      lists = *own;
+  }
+  return lists;
+}
+
+} // namespace hooptab
