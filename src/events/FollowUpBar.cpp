@@ -514,7 +514,8 @@ void FollowUpBar::ignoreSecondPress(const QPoint& globalPlace) {
 // Sees every event of the program. Only its own keys stay here.
 bool FollowUpBar::eventFilter(QObject* watched, QEvent* event) {
   auto* const widget = qobject_cast<QWidget*>(watched);
-  if (widget == nullptr)
+  // What is typed or pressed in the window in front is no answer to a question that lies behind it.
+  if (widget == nullptr || (m_isOpen && !isVisible()))
     return false;
   const QEvent::Type type = event->type();
   if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick)

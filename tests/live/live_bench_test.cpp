@@ -326,7 +326,10 @@ TEST_F(FollowUpTest, AnythingElsewhereClosesItAndHappensButForTheClock) {
   askRebound(); // the next shot
   EXPECT_EQ(taken(), ".");
   window.hide();
+  type({Qt::Key_4, Qt::Key_5});
+  press(elsewhere);
   EXPECT_TRUE(bar.isOpen()) << "a window that goes behind another comes back with its question";
+  EXPECT_EQ(std::exchange(answers, {}).find('A'), std::string::npos) << "nobody saw whom they gave it to";
   bar.hide();
   EXPECT_EQ(taken(), ".");
 }
