@@ -28,9 +28,13 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND HOOPTAB_SANITIZERS)
   target_compile_options(hooptab_flags INTERFACE -Wno-maybe-uninitialized)
 endif()
 if(HOOPTAB_SANITIZERS)
+  string(REPLACE "," ";" sanitizers "${HOOPTAB_SANITIZERS}")
   target_compile_options(hooptab_flags INTERFACE -fsanitize=${HOOPTAB_SANITIZERS} -fno-omit-frame-pointer
                                                  -fno-sanitize-recover=all)
   target_link_options(hooptab_flags INTERFACE -fsanitize=${HOOPTAB_SANITIZERS})
+endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(hooptab_flags INTERFACE -fpch-preprocess) # lets ccache see compiled headers
 endif()
 if(HOOPTAB_FUZZ)
   target_compile_options(hooptab_flags INTERFACE -fsanitize=fuzzer-no-link) # or the fuzzer would search blindly
@@ -43,3 +47,11 @@ target_compile_definitions(
   hooptab_qt_flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
                              QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400
                              QT_USE_QSTRINGBUILDER)
+
+# What tries the program, and is no part of it, is compiled quickly: without optimisation, and with the sanitizer of addresses
+# alone, since the code that is tried has both. It is half of what an everyday build compiles.
+add_library(hooptab_test_flags INTERFACE)
+target_compile_options(hooptab_test_flags INTERFACE "$<$<CONFIG:Debug>:-O0>")
+if("undefined" IN_LIST sanitizers)
+  target_compile_options(hooptab_test_flags INTERFACE -fno-sanitize=undefined)
+endif()
