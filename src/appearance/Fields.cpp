@@ -20,8 +20,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kNoMoreFits = 1810;
-
 class SelectOnFocus : public QObject {
  public:
   using QObject::QObject;
@@ -65,7 +63,7 @@ class FieldLimit : public QValidator {
 
 } // namespace
 
-QLabel* captionFor(QWidget& field, int text) {
+QLabel* captionFor(QWidget& field, Text text) {
   setAccessibleNumber(field, text);
   setToolTipNumber(field, text);
   auto* label = new PlainLabel(field.parentWidget());
@@ -74,7 +72,7 @@ QLabel* captionFor(QWidget& field, int text) {
   return label;
 }
 
-QPushButton* iconButton(const char* name, int text, int toolTip, const char* iconName, QWidget* parent) {
+QPushButton* iconButton(const char* name, Text text, Text toolTip, const char* iconName, QWidget* parent) {
   auto* button = new QPushButton(parent);
   button->setObjectName(QLatin1String(name));
   button->setIcon(icon(QLatin1String(iconName)));
@@ -122,7 +120,8 @@ void limitField(QLineEdit& field, std::function<bool(const std::string& text)> f
   QObject::connect(&field, &QLineEdit::inputRejected, &field, [&field, &texts] {
     if (!field.hasFocus()) // a longer text from a file is shown, not typed
       return;
-    QToolTip::showText(field.mapToGlobal(QPoint(0, field.height() / 2)), caption(texts, kNoMoreFits), &field);
+    QToolTip::showText(field.mapToGlobal(QPoint(0, field.height() / 2)), caption(texts, Text::NoMoreFits),
+                       &field);
   });
 }
 

@@ -18,9 +18,9 @@ class QWidget;
 namespace hooptab {
 
 // A label for a field, its buddy; the same text names the field for screen readers and in its tool tip.
-[[nodiscard]] QLabel* captionFor(QWidget& field, int text);
+[[nodiscard]] QLabel* captionFor(QWidget& field, Text text);
 // A push button with icon; Enter presses it where it has the focus, outside dialogs too.
-[[nodiscard]] QPushButton* iconButton(const char* name, int text, int toolTip, const char* iconName,
+[[nodiscard]] QPushButton* iconButton(const char* name, Text text, Text toolTip, const char* iconName,
                                       QWidget* parent);
 // A line above a window's content that stands out, hidden at first.
 [[nodiscard]] QLabel* noticeLabel(QWidget* parent);

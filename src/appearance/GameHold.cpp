@@ -14,11 +14,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kWarningTitle = 1139;
-constexpr int kNoSignOfLife = 2383;
-constexpr int kAnotherProgram = 2384;
-constexpr int kIsFree = 2386;
-
 std::chrono::milliseconds now() {
   return std::chrono::duration_cast<std::chrono::milliseconds>(
       std::chrono::steady_clock::now().time_since_epoch());
@@ -84,28 +79,28 @@ QString GameHold::ownerWords() const {
 QString GameHold::ownerWords(const GameLock& lock, const Texts& texts) {
   const LockFile::Owner owner = LockFile::ownerOf(lock.lookAtOther());
   if (!owner.isKnown)
-    return caption(texts, kAnotherProgram);
+    return caption(texts, Text::AnotherProgram);
   return QStringLiteral("%1, %2 (%3)")
       .arg(toQt(owner.program), toQt(owner.computer), QString::number(owner.process));
 }
 
 void GameHold::look() {
   switch (m_watch.look(m_lock.lookAtOther(), now())) {
-  case LockWatch::State::StandsStill: return offer(kNoSignOfLife);
-  case LockWatch::State::Free: return offer(kIsFree);
+  case LockWatch::State::StandsStill: return offer(Text::NoSignOfLife);
+  case LockWatch::State::Free: return offer(Text::IsFree);
   case LockWatch::State::Watching:
   case LockWatch::State::Renewed: break;
   }
 }
 
-void GameHold::offer(int question) {
+void GameHold::offer(Text question) {
   m_timer.stop(); // while the question stands
   const LockFile::Sight seen = m_watch.sight();
   const std::int64_t since = LockFile::ownerOf(seen).renewedSeconds;
   const std::string words = withPlaceholders(
       m_texts.text(question), fromQt(ownerWords()),
       fromQt(QDateTime::fromSecsSinceEpoch(since).toString(QStringLiteral("yyyy-MM-dd hh:mm"))));
-  const bool isAsked = m_dialogs.ask(&m_window, caption(m_texts, kWarningTitle), toQt(words));
+  const bool isAsked = m_dialogs.ask(&m_window, caption(m_texts, Text::WarningTitle), toQt(words));
   if (isAsked && m_lock.takeOver(seen) == GameLock::Outcome::Held)
     emit taken();
   else if (seen.isThere || isAsked) // one that has gone is offered once

@@ -49,7 +49,7 @@ class GameHold : public QObject {
 
  private:
   void look();
-  void offer(int question);
+  void offer(Text question);
 
   FileSystem& m_files;
   const Texts& m_texts;

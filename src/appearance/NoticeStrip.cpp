@@ -11,7 +11,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kDismiss = 2396;
 constexpr int kGap = 6;
 
 } // namespace
@@ -25,8 +24,8 @@ NoticeStrip::NoticeStrip(const char* name, QWidget* parent)
   m_dismiss->setText(QStringLiteral("✕"));
   m_dismiss->setAutoRaise(true);
   m_dismiss->setFocusPolicy(Qt::TabFocus);
-  setToolTipNumber(*m_dismiss, kDismiss);
-  setAccessibleNumber(*m_dismiss, kDismiss);
+  setToolTipNumber(*m_dismiss, Text::HideMessage);
+  setAccessibleNumber(*m_dismiss, Text::HideMessage);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(kGap, kGap / 3, kGap, kGap / 3);
   layout->setSpacing(kGap);

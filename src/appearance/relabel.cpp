@@ -21,11 +21,11 @@ constexpr const char* kAccessibleNumber = "hooptabAccessible";
 constexpr const char* kPlaceholderNumber = "hooptabPlaceholder";
 constexpr const char* kTabTextNumber = "hooptabTabText";
 
-void setNumber(QObject& object, const char* name, int number) {
-  object.setProperty(name, number > 0 ? QVariant(number) : QVariant());
+void setNumber(QObject& object, const char* name, Text number) {
+  object.setProperty(name, number != Text::None ? QVariant(static_cast<int>(number)) : QVariant());
 }
-int numberOf(const QObject& object, const char* name) {
-  return object.property(name).toInt();
+Text numberOf(const QObject& object, const char* name) {
+  return static_cast<Text>(object.property(name).toInt());
 }
 
 QString withKey(const QString& toolTip, const QKeySequence& key) {
@@ -35,9 +35,9 @@ QString withKey(const QString& toolTip, const QKeySequence& key) {
 
 // Texts of the table carry no mnemonics: an "&" in one is meant to be seen.
 void relabelAction(QAction& action, const Texts& texts) {
-  if (const int number = numberOf(action, kTextNumber))
+  if (const Text number = numberOf(action, kTextNumber); number != Text::None)
     action.setText(withoutMnemonic(caption(texts, number)));
-  if (const int number = numberOf(action, kToolTipNumber)) {
+  if (const Text number = numberOf(action, kToolTipNumber); number != Text::None) {
     action.setToolTip(withKey(caption(texts, number), action.shortcut()));
     action.setStatusTip(action.toolTip());
   }
@@ -63,22 +63,22 @@ void setCaption(QWidget& widget, const QString& text) {
 
 void relabelTabs(QTabWidget& tabs, const Texts& texts) {
   for (int index = 0; index < tabs.count(); ++index) {
-    if (const int number = numberOf(*tabs.widget(index), kTabTextNumber))
+    if (const Text number = numberOf(*tabs.widget(index), kTabTextNumber); number != Text::None)
       tabs.setTabText(index, withoutMnemonic(caption(texts, number)));
   }
 }
 
 void relabelWidget(QWidget& widget, const Texts& texts) {
-  if (const int number = numberOf(widget, kTextNumber))
+  if (const Text number = numberOf(widget, kTextNumber); number != Text::None)
     setCaption(widget, caption(texts, number));
-  if (const int number = numberOf(widget, kToolTipNumber)) {
+  if (const Text number = numberOf(widget, kToolTipNumber); number != Text::None) {
     auto* const button = qobject_cast<QAbstractButton*>(&widget);
     widget.setToolTip(withKey(caption(texts, number), button ? button->shortcut() : QKeySequence()));
     widget.setStatusTip(widget.toolTip());
   }
-  if (const int number = numberOf(widget, kAccessibleNumber))
+  if (const Text number = numberOf(widget, kAccessibleNumber); number != Text::None)
     widget.setAccessibleName(caption(texts, number));
-  if (const int number = numberOf(widget, kPlaceholderNumber))
+  if (const Text number = numberOf(widget, kPlaceholderNumber); number != Text::None)
     widget.setProperty("placeholderText", caption(texts, number));
   if (auto* const tabs = qobject_cast<QTabWidget*>(&widget))
     relabelTabs(*tabs, texts);
@@ -99,33 +99,33 @@ QString toQt(std::string_view utf8) {
 std::string fromQt(const QString& text) {
   return text.toStdString();
 }
-QString caption(const Texts& texts, int number) {
+QString caption(const Texts& texts, Text number) {
   return toQt(texts.caption(number));
 }
 
-void setTextNumber(QObject& object, int number) {
+void setTextNumber(QObject& object, Text number) {
   setNumber(object, kTextNumber, number);
 }
 
 bool hasTextNumber(const QObject& object) {
-  return numberOf(object, kTextNumber) > 0;
+  return numberOf(object, kTextNumber) != Text::None;
 }
 
 bool hasTabTextNumber(const QObject& page) {
-  return numberOf(page, kTabTextNumber) > 0;
+  return numberOf(page, kTabTextNumber) != Text::None;
 }
-void setToolTipNumber(QObject& object, int number) {
+void setToolTipNumber(QObject& object, Text number) {
   setNumber(object, kToolTipNumber, number);
 }
-void setAccessibleNumber(QWidget& widget, int number) {
+void setAccessibleNumber(QWidget& widget, Text number) {
   setNumber(widget, kAccessibleNumber, number);
 }
 
-void setPlaceholderNumber(QWidget& field, int number) {
+void setPlaceholderNumber(QWidget& field, Text number) {
   setNumber(field, kPlaceholderNumber, number);
 }
 
-void setTabTextNumber(QWidget& page, int number) {
+void setTabTextNumber(QWidget& page, Text number) {
   setNumber(page, kTabTextNumber, number);
 }
 

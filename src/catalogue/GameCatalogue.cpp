@@ -18,8 +18,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kMoreFindings = 2703;
-
 // What became of one file.
 struct ReadFile {
   ListedGame game;
@@ -100,9 +98,15 @@ std::vector<std::size_t> seasonOrder(const std::vector<ReadFile>& files) {
 
 } // namespace
 
-int skipReasonText(SkipReason reason) {
-  constexpr int kFirstReason = 2051;
-  return kFirstReason + static_cast<int>(reason);
+Text skipReasonText(SkipReason reason) {
+  switch (reason) {
+  case SkipReason::NotFinished: return Text::NotFinished;
+  case SkipReason::OtherVersion: return Text::NoHooptabGame;
+  case SkipReason::Unreadable: return Text::CannotBeRead;
+  case SkipReason::TooLarge: return Text::TooLarge;
+  case SkipReason::Vanished: return Text::RemovedMeanwhile;
+  }
+  return Text::None;
 }
 
 ScanOutcome GameCatalogue::scan(const ScanRequest& request, ScanWatch& watch) {
@@ -154,7 +158,8 @@ std::string GameCatalogue::whyWrong(const ListedGame& game, const Texts& texts) 
   for (const Finding& finding : game.wrong)
     text += (text.empty() ? "" : "; ") + wordsOf(finding, names, texts);
   if (game.wrongCount > game.wrong.size())
-    text += "; " + texts.withPlaceholder(kMoreFindings, std::to_string(game.wrongCount - game.wrong.size()));
+    text +=
+        "; " + texts.withPlaceholder(Text::MoreFindings, std::to_string(game.wrongCount - game.wrong.size()));
   return text;
 }
 

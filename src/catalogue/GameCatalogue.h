@@ -45,8 +45,7 @@ enum class SkipReason : std::uint8_t {
   TooLarge,
   Vanished, // removed while the folder was scanned
 };
-// The number of its text.
-[[nodiscard]] int skipReasonText(SkipReason reason);
+[[nodiscard]] Text skipReasonText(SkipReason reason);
 struct SkippedFile {
   std::string path;
   SkipReason reason = SkipReason::Unreadable;

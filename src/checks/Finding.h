@@ -1,6 +1,8 @@
-// What a check finds in a game. Each kind is the number of the text that names it, and is either wrong, which
+// What a check finds in a game. Each kind is the text that names it, and is either wrong, which
 // no game can be, or doubtful, which is worth a look.
 #pragma once
+
+#include "settings/Text.h"
 
 #include <cstddef>
 #include <limits>
@@ -13,50 +15,50 @@ namespace hooptab {
 // meant, `team` and `jersey` name it.
 enum class FindingKind {
   // Doubtful:
-  NotOnCourt = 1966,
-  FewerThanFive = 1967, // found: how many
-  OtherTime = 1968,     // of the players in the period; found and wanted: clocks
-  FouledOutBefore = 1969,
-  AssistWithoutBasket = 1970,
-  GameWithoutStop = 2653,
-  NumbersAtEndMissing = 2654, // subject: EVENUM; found: the highest number
-  NumbersMissing = 2655,      // subject: "5", "5–9"
-  NotInRoster = 2656,
-  OnCourtNotInRoster = 2657,
-  ClockRises = 2658,       // subject and found: clocks
-  ClockAbovePeriod = 2659, // subject and found: clocks
-  Swapped = 2660,          // subject and found: the events' numbers
-  TwoFromThree = 2661,
-  ThreeFromInside = 2662,
-  AfterClose = 2663,
-  NotClosedAtZero = 2664, // subject: the period; found: the clock
-  Tied = 2665,            // subject: the score
-  NoTeam = 2666,
-  MoreThanFifteen = 2667, // found: how many
-  ImpossibleDate = 2668,  // subject: the date
-  ReboundAfterMade = 2669,
-  Burst = 2670,        // subject: how many at one second
-  NearlyOurs = 2671,   // subject: the section; found: ours
-  SectionTwice = 2672, // subject: the section
+  NotOnCourt = int(Text::FindsNotOnCourt),
+  FewerThanFive = int(Text::FindsFewerThanFive), // found: how many
+  OtherTime = int(Text::FindsOtherTime),         // of the players in the period; found and wanted: clocks
+  FouledOutBefore = int(Text::FindsFouledOutBefore),
+  AssistWithoutBasket = int(Text::FindsAssistWithoutBasket),
+  GameWithoutStop = int(Text::FindsGameWithoutStop),
+  NumbersAtEndMissing = int(Text::FindsNumbersAtEndMissing), // subject: EVENUM; found: the highest number
+  NumbersMissing = int(Text::FindsNumbersMissing),           // subject: "5", "5–9"
+  NotInRoster = int(Text::FindsNotInRoster),
+  OnCourtNotInRoster = int(Text::FindsOnCourtNotInRoster),
+  ClockRises = int(Text::FindsClockRises),             // subject and found: clocks
+  ClockAbovePeriod = int(Text::FindsClockAbovePeriod), // subject and found: clocks
+  Swapped = int(Text::FindsSwapped),                   // subject and found: the events' numbers
+  TwoFromThree = int(Text::FindsTwoFromThree),
+  ThreeFromInside = int(Text::FindsThreeFromInside),
+  AfterClose = int(Text::FindsAfterClose),
+  NotClosedAtZero = int(Text::FindsNotClosedAtZero), // subject: the period; found: the clock
+  Tied = int(Text::FindsTied),                       // subject: the score
+  NoTeam = int(Text::FindsNoTeam),
+  MoreThanFifteen = int(Text::FindsMoreThanFifteen), // found: how many
+  ImpossibleDate = int(Text::FindsImpossibleDate),   // subject: the date
+  ReboundAfterMade = int(Text::FindsReboundAfterMade),
+  Burst = int(Text::FindsBurst),               // subject: how many at one second
+  NearlyOurs = int(Text::FindsNearlyOurs),     // subject: the section; found: ours
+  SectionTwice = int(Text::FindsSectionTwice), // subject: the section
   // Wrong:
-  Twice = 1971,
-  UnknownClock = 2673,
-  UnknownCode = 2674, // subject: the code
-  UnknownPlayer = 2675,
-  UnknownList = 2676,
-  NoEventNumber = 2677, // subject: the key
-  NoEqualsSign = 2678,  // subject: the line; found: the section
-  NumberTwice = 2679,   // subject: the number
-  PeriodMissing = 2680, // subject: "2", "2–4"
-  TooFewPeriods = 2681, // subject: the periods played; found: those of the rules
-  PeriodNotClosed = 2682,
-  MoreThanFive = 2683, // found: how many
-  NumberTaken = 2684,  // subject: EVENUM; found: the highest number
-  JerseyTwice = 2685,  // subject: the jersey
-  NoRoster = 2686,
-  ImpossibleLength = 2687, // subject: DUREE; found: what it is read as
-  PeriodBehindLast = 2688, // subject: the section
-  CountOutOfRange = 2689,  // subject: the count
+  Twice = int(Text::FindsTwice),
+  UnknownClock = int(Text::FindsUnknownClock),
+  UnknownCode = int(Text::FindsUnknownCode), // subject: the code
+  UnknownPlayer = int(Text::FindsUnknownPlayer),
+  UnknownList = int(Text::FindsUnknownList),
+  NoEventNumber = int(Text::FindsNoEventNumber), // subject: the key
+  NoEqualsSign = int(Text::FindsNoEqualsSign),   // subject: the line; found: the section
+  NumberTwice = int(Text::FindsNumberTwice),     // subject: the number
+  PeriodMissing = int(Text::FindsPeriodMissing), // subject: "2", "2–4"
+  TooFewPeriods = int(Text::FindsTooFewPeriods), // subject: the periods played; found: those of the rules
+  PeriodNotClosed = int(Text::FindsPeriodNotClosed),
+  MoreThanFive = int(Text::FindsMoreThanFive), // found: how many
+  NumberTaken = int(Text::FindsNumberTaken),   // subject: EVENUM; found: the highest number
+  JerseyTwice = int(Text::FindsJerseyTwice),   // subject: the jersey
+  NoRoster = int(Text::FindsNoRoster),
+  ImpossibleLength = int(Text::FindsImpossibleLength), // subject: DUREE; found: what it is read as
+  PeriodBehindLast = int(Text::FindsPeriodBehindLast), // subject: the section
+  CountOutOfRange = int(Text::FindsCountOutOfRange),   // subject: the count
 };
 
 struct Finding {

@@ -8,10 +8,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kGood = 2690;
-constexpr int kCountWrong = 2691;
-constexpr int kCountDoubtful = 2692;
-
 // The team, and the player as far as he is known.
 std::string whoOf(const Finding& finding, const Game& game, const Texts& texts) {
   const EventWords words(game, texts);
@@ -29,20 +25,20 @@ std::string wordsOf(const Finding& finding, const Game& game, const Texts& texts
   // A team or player comes first where there is one; what else is said of it then follows.
   const bool hasWho = finding.team >= 0;
   const std::string& found = hasWho && finding.found.empty() ? finding.subject : finding.found;
-  return withPlaceholders(texts.text(static_cast<int>(finding.kind)),
+  return withPlaceholders(texts.text(static_cast<Text>(finding.kind)),
                           hasWho ? whoOf(finding, game, texts) : finding.subject, found, finding.wanted);
 }
 
 std::string countsText(const FindingSummary& summary, const Texts& texts) {
   std::string text;
-  const auto add = [&](std::size_t count, int number) {
+  const auto add = [&](std::size_t count, Text which) {
     if (count > 0)
-      text += (text.empty() ? "" : ", ") + texts.withPlaceholder(number, std::to_string(count));
+      text += (text.empty() ? "" : ", ") + texts.withPlaceholder(which, std::to_string(count));
   };
-  add(summary.wrong, kCountWrong);
-  add(summary.doubtful, kCountDoubtful);
+  add(summary.wrong, Text::CountWrong);
+  add(summary.doubtful, Text::CountDoubtful);
   if (summary.wrong == 0)
-    text = std::string(texts.text(kGood)) + (text.empty() ? "" : ", ") + text;
+    text = std::string(texts.text(Text::Good)) + (text.empty() ? "" : ", ") + text;
   return text;
 }
 

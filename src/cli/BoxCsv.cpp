@@ -3,18 +3,15 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kTeam = 1305;
-
-} // namespace
+namespace {} // namespace
 
 std::string boxCsv(const Scorecard& card, const Texts& texts, CsvReader reader) {
   const bool isFrench = reader == CsvReader::French;
-  std::vector<std::string> header = {isFrench ? std::string(texts.text(kTeam)) : "team"};
+  std::vector<std::string> header = {isFrench ? std::string(texts.text(Text::Team)) : "team"};
   for (const int index : boxDisplayOrder()) {
     const BoxColumn& column = boxColumns()[static_cast<std::size_t>(index - 1)];
-    header.emplace_back(isFrench && column.headerText != 0 ? texts.text(column.headerText) : column.name);
+    header.emplace_back(isFrench && column.headerText != Text::None ? texts.text(column.headerText)
+                                                                    : column.name);
   }
   std::string csv(isFrench ? kByteOrderMark : std::string_view());
   csv += csvRow(header, reader);

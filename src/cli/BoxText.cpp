@@ -15,16 +15,6 @@ namespace {
 using Align = TextTable::Align;
 using Row = std::vector<std::string>;
 
-constexpr int kFouls = 1019;
-constexpr int kTied = 1021;
-constexpr int kName = 1023;
-constexpr int kTime = 1024;
-constexpr int kRating = 1025;
-constexpr int kTotal = 1070;
-constexpr int kPointsByPeriod = 1506;
-constexpr int kTimeInLead = 1507;
-constexpr int kTimes = 1508;
-
 class BoxText {
  public:
   BoxText(const Scorecard& card, const Texts& texts) : m_card(card), m_game(card.game()), m_texts(texts) {
@@ -36,8 +26,8 @@ class BoxText {
 
   std::string text() const {
     std::string text = printable(m_card.title()) + '\n' + description() + '\n';
-    text += periodTable(kPointsByPeriod, &PeriodEntry::points) + '\n';
-    text += periodTable(kFouls, &PeriodEntry::fouls) + '\n';
+    text += periodTable(Text::PointsByPeriod, &PeriodEntry::points) + '\n';
+    text += periodTable(Text::Fouls, &PeriodEntry::fouls) + '\n';
     text += leadTable();
     for (int team = 0; team < 2; ++team) {
       text += '\n' + m_names[team];
@@ -49,7 +39,7 @@ class BoxText {
   }
 
  private:
-  std::string word(int number) const { return std::string(m_texts.text(number)); }
+  std::string word(Text which) const { return std::string(m_texts.text(which)); }
 
   // Date, kind and place of the game, as far as the file tells; a line of its own.
   std::string description() const {
@@ -63,14 +53,14 @@ class BoxText {
     return text.empty() ? text : text + '\n';
   }
 
-  std::string periodTable(int captionText, std::int16_t PeriodEntry::*count) const {
+  std::string periodTable(Text captionText, std::int16_t PeriodEntry::*count) const {
     TextTable table;
     table.addColumn(word(captionText), Align::Left);
     const EventWords words(m_game, m_texts);
     const int periods = shownPeriods(m_game);
     for (int period = 1; period <= periods; ++period)
       table.addColumn(words.periodText(period), Align::Right);
-    table.addColumn(word(kTotal), Align::Right);
+    table.addColumn(word(Text::Total), Align::Right);
     for (std::size_t team = 0; team < 2; ++team) {
       Row row = {m_names[team]};
       int sum = 0;
@@ -88,10 +78,10 @@ class BoxText {
   std::string leadTable() const {
     const LeadTracker& lead = m_card.state().lead;
     TextTable table;
-    table.addColumn(word(kTimeInLead), Align::Left);
-    table.addColumn(word(kTime), Align::Right);
-    table.addColumn(word(kTimes), Align::Right);
-    const std::string names[] = {m_names[0], m_names[1], word(kTied)};
+    table.addColumn(word(Text::TimeInLead), Align::Left);
+    table.addColumn(word(Text::Time), Align::Right);
+    table.addColumn(word(Text::Times), Align::Right);
+    const std::string names[] = {m_names[0], m_names[1], word(Text::LeadTied)};
     for (std::size_t state = 0; state < 3; ++state)
       table.addRow(
           {names[state], Module1::clockText(lead.seconds[state]), std::to_string(lead.times[state])});
@@ -123,9 +113,9 @@ class BoxText {
 
     TextTable table;
     table.addColumn("No", Align::Right);
-    table.addColumn(word(kName), Align::Left);
+    table.addColumn(word(Text::PlayerName), Align::Left);
     table.addColumn("Pos", Align::Left);
-    table.addColumn(word(kTime), Align::Right);
+    table.addColumn(word(Text::Time), Align::Right);
     table.addColumn("PTS", Align::Right);
     table.addColumn("M/A", Align::Right);
     table.addColumn("%", Align::Right);
@@ -133,7 +123,7 @@ class BoxText {
       table.addColumn(std::string(kind->shortName), Align::Right);
     for (const Counter counter : counts)
       table.addColumn(std::string(counterName(counter)), Align::Right);
-    table.addColumn(word(kRating), Align::Right);
+    table.addColumn(word(Text::Rating), Align::Right);
 
     for (const BoxRow& row : m_rows[team]) {
       const bool isTotal = row.kind == BoxRowKind::Total;

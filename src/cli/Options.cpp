@@ -11,21 +11,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kNoOption = 2843;
-constexpr int kNeeds = 2847;
-constexpr int kNotTogether = 2849;
-constexpr int kNeedsTeam = 2850;
-constexpr int kNeedsType = 2851;
-constexpr int kNeedsDate = 2852;
-constexpr int kNoCommand = 2853;
-constexpr int kCommandMissing = 2854;
-constexpr int kGoesWith = 2855;
-constexpr int kFolderMissing = 2856;
-constexpr int kFileMissing = 2857;
-constexpr int kOneFile = 2858;
-constexpr int kCsvForNeeds = 2706;
-constexpr int kNeedsNumber = 2707;
-
 std::optional<CliCommand> commandOf(std::string_view word) {
   if (word == "box")
     return CliCommand::Box;
@@ -76,7 +61,7 @@ class Parser {
       setFormat(OutputFormat::Csv);
       m_options.csvReader = CsvReader::French;
       if (*reader != "fr")
-        m_options.wrong = {kCsvForNeeds};
+        m_options.wrong = {Text::CsvForNeeds};
     } else if (const auto language = valueOf(word, "--lang")) {
       setLanguage(*language);
     } else {
@@ -85,7 +70,7 @@ class Parser {
   }
   void setFormat(OutputFormat format) {
     if (m_options.format != OutputFormat::Text && m_options.format != format)
-      m_options.wrong = {kNotTogether, "--json", "--csv"};
+      m_options.wrong = {Text::NotTogether, "--json", "--csv"};
     m_options.format = format;
   }
   void takeSeasonOption(std::string_view word) {
@@ -100,7 +85,7 @@ class Parser {
     } else if (const auto team = valueOf(word, "--team")) {
       season.team = *team;
       if (team->empty())
-        m_options.wrong = {kNeedsTeam};
+        m_options.wrong = {Text::OptionNeedsTeam};
     } else if (const auto from = valueOf(word, "--from")) {
       setDay(season.fromDay, "--from", *from);
     } else if (const auto to = valueOf(word, "--to")) {
@@ -108,7 +93,7 @@ class Parser {
     } else if (const auto type = valueOf(word, "--type")) {
       const int number = Module1::wholeNumber(*type);
       if (number < 0 || gameTypeOf(number) != number)
-        m_options.wrong = {kNeedsType, std::string(*type)};
+        m_options.wrong = {Text::NeedsType, std::string(*type)};
       season.type = number;
     } else if (const auto games = valueOf(word, "--min-games")) {
       setNumber(season.minimum.gamesPercent, "--min-games", *games, Qualification::kMostPercent);
@@ -117,20 +102,20 @@ class Parser {
     } else if (const auto attempts = valueOf(word, "--min-attempts")) {
       setNumber(season.minimum.attempts, "--min-attempts", *attempts, Qualification::kMostAttempts);
     } else {
-      m_options.wrong = {kNoOption, std::string(word)};
+      m_options.wrong = {Text::NoOption, std::string(word)};
     }
   }
   void setNumber(int& number, const std::string& option, std::string_view text, int most) {
     const int given = Module1::wholeNumber(text);
     if (given < 0 || given > most)
-      m_options.wrong = {kNeedsNumber, option, std::to_string(most)};
+      m_options.wrong = {Text::NeedsNumber, option, std::to_string(most)};
     else
       number = given;
   }
   void setDay(std::optional<int>& day, const std::string& option, std::string_view text) {
     day = calendarDay(text);
     if (!day)
-      m_options.wrong = {kNeedsDate, option};
+      m_options.wrong = {Text::NeedsDate, option};
   }
   // The value of "--option value" or "--option=value"; empty where it is missing, nothing for another option.
   std::optional<std::string> valueOf(std::string_view word, std::string_view option) {
@@ -149,14 +134,14 @@ class Parser {
     if (const auto language = languageNamed(word))
       m_options.language = *language;
     else
-      m_options.wrong = {kNeeds, "--lang", "en|fr"};
+      m_options.wrong = {Text::OptionNeeds, "--lang", "en|fr"};
   }
   void takeCommand(const std::string& word) {
     m_command = commandOf(word);
     if (m_command)
       m_options.command = *m_command;
     else
-      m_options.wrong = {kNoCommand, word};
+      m_options.wrong = {Text::NoCommand, word};
   }
   static bool fits(OutputFormat format, CliCommand command) {
     return format == OutputFormat::Text || command == CliCommand::Box || command == CliCommand::Season ||
@@ -166,16 +151,16 @@ class Parser {
     if (m_options.csvReader == CsvReader::French)
       m_options.language = Language::French; // its heads are French
     if (!m_command)
-      m_options.wrong = {kCommandMissing};
+      m_options.wrong = {Text::CommandMissing};
     else if (!fits(m_options.format, *m_command))
-      m_options.wrong = {kGoesWith, m_options.format == OutputFormat::Json ? "--json" : "--csv",
+      m_options.wrong = {Text::GoesWith, m_options.format == OutputFormat::Json ? "--json" : "--csv",
                          m_options.format == OutputFormat::Json ? "box|season|verify" : "box|season"};
     else if (!m_seasonOption.empty() && *m_command != CliCommand::Season)
-      m_options.wrong = {kGoesWith, m_seasonOption, "season"};
+      m_options.wrong = {Text::GoesWith, m_seasonOption, "season"};
     else if (m_options.files.empty())
-      m_options.wrong = {*m_command == CliCommand::Season ? kFolderMissing : kFileMissing};
+      m_options.wrong = {*m_command == CliCommand::Season ? Text::FolderMissing : Text::FileMissing};
     else if (m_options.files.size() > 1 && *m_command != CliCommand::Verify)
-      m_options.wrong = {kOneFile};
+      m_options.wrong = {Text::OneFile};
   }
 
   const std::vector<std::string>& m_words;

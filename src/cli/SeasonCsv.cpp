@@ -5,13 +5,7 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kPlayers = 2100;
-constexpr int kLines = 2101;
-constexpr int kViews[] = {2118, 2119, 2120, 2720}; // by SeasonView
-constexpr int kTeam = 1305;
-constexpr int kTable = 2750;
-constexpr int kView = 2752;
-constexpr int kUnderMinimum = 2753;
+constexpr Text kViews[] = {Text::Totals, Text::PerGame, Text::PerMinute, Text::PerForty}; // by SeasonView
 
 class SeasonCsv {
  public:
@@ -22,11 +16,12 @@ class SeasonCsv {
   std::string text() && {
     if (m_reader == CsvReader::French)
       m_csv = kByteOrderMark;
-    std::vector<std::string> header = {word("table", kTable), word("view", kView), word("team", kTeam)};
+    std::vector<std::string> header = {word("table", Text::Table), word("view", Text::View),
+                                       word("team", Text::Team)};
     for (const SeasonColumn& column : seasonColumns())
-      header.push_back(column.headerText == 0 ? std::string(column.name)
-                                              : word(column.name, column.headerText));
-    header.push_back(word("underMinimum", kUnderMinimum));
+      header.push_back(column.headerText == Text::None ? std::string(column.name)
+                                                       : word(column.name, column.headerText));
+    header.push_back(word("underMinimum", Text::UnderMinimum));
     m_csv += csvRow(header, m_reader);
     addRows(SeasonTable::Players);
     addRows(SeasonTable::Lines);
@@ -35,7 +30,7 @@ class SeasonCsv {
 
  private:
   // A name that is the same in every language, but in French for French spreadsheets.
-  std::string word(std::string_view name, int french) const {
+  std::string word(std::string_view name, Text french) const {
     return std::string(m_reader == CsvReader::French ? m_texts.text(french) : name);
   }
   void addRows(SeasonTable table) {
@@ -44,7 +39,8 @@ class SeasonCsv {
     for (const SeasonView view : kSeasonViews) {
       const std::string viewName = word(seasonViewName(view), kViews[static_cast<std::size_t>(view)]);
       for (const SeasonRow& row : isOfLines ? m_statistics.lines() : m_statistics.players()) {
-        std::vector<std::string> cells = {isOfLines ? word("lines", kLines) : word("players", kPlayers),
+        std::vector<std::string> cells = {isOfLines ? word("lines", Text::Lines)
+                                                    : word("players", Text::Players),
                                           viewName, m_statistics.catalogue().teams()[row.team].key};
         for (int column = 1; column <= kSeasonColumnCount; ++column)
           cells.push_back(column <= columns ? seasonCell(row, column, view, m_texts) : std::string());

@@ -14,17 +14,9 @@ namespace {
 using Align = TextTable::Align;
 using Row = std::vector<std::string>;
 
-constexpr int kViewTitles[] = {1180, 1177, 1179, 2720}; // by SeasonView
-constexpr int kLinesTitle = 1193;
-constexpr int kGames = 1194;
-constexpr int kWon = 1195;
-constexpr int kLost = 1196;
-constexpr int kTied = 1197;
-constexpr int kTeam = 1305;
-constexpr int kGamesTitle = 1307;
-constexpr int kTeamTitle = 1363;
-constexpr int kNotRead = 2050;
-constexpr std::string_view kMark = " *"; // of averages that say little
+constexpr Text kViewTitles[] = {Text::PlayerTitle, Text::AveragePerGame, Text::AveragePerMinute,
+                                Text::PerForty}; // by SeasonView
+constexpr std::string_view kMark = " *";         // of averages that say little
 
 // The columns that a terminal has room for.
 constexpr std::string_view kColumns[] = {"No", "Name", "Pos", "G",   "Time", "PTS",   "TGM", "TGA",
@@ -40,21 +32,21 @@ class SeasonText {
 
   std::string text() const {
     std::string text =
-        labelled(kGamesTitle, std::to_string(m_statistics.games().size()), m_texts) + "\n" + gameTable();
+        labelled(Text::GamesTitle, std::to_string(m_statistics.games().size()), m_texts) + "\n" + gameTable();
     if (!m_statistics.teams().empty())
-      text += "\n" + word(kTeamTitle) + "\n" + teamTable();
+      text += "\n" + word(Text::TeamStatistics) + "\n" + teamTable();
     if (!m_statistics.players().empty()) {
       for (const SeasonView view : kSeasonViews)
         text += "\n" + word(kViewTitles[static_cast<std::size_t>(view)]) + "\n" +
                 table(SeasonTable::Players, view);
     }
     if (!m_statistics.lines().empty())
-      text += "\n" + word(kLinesTitle) + "\n" + table(SeasonTable::Lines, SeasonView::Totals);
+      text += "\n" + word(Text::LineStatistics) + "\n" + table(SeasonTable::Lines, SeasonView::Totals);
     return text + notRead();
   }
 
  private:
-  std::string word(int number) const { return std::string(m_texts.text(number)); }
+  std::string word(Text which) const { return std::string(m_texts.text(which)); }
 
   std::string gameTable() const {
     constexpr int kShown[] = {1, 2, 3, 4, 5, 6, 7};
@@ -62,7 +54,7 @@ class SeasonText {
     for (const int index : kShown) {
       const GameColumn& column = gameColumns()[static_cast<std::size_t>(index - 1)];
       const bool isNumber = !gameColumnIsText(index) && index != kShown[0];
-      table.addColumn(column.headerText != 0 ? word(column.headerText) : std::string(column.header),
+      table.addColumn(column.headerText != Text::None ? word(column.headerText) : std::string(column.header),
                       isNumber ? Align::Right : Align::Left);
     }
     table.addColumn({}, Align::Left);
@@ -79,8 +71,8 @@ class SeasonText {
 
   std::string teamTable() const {
     TextTable table;
-    table.addColumn(word(kTeam), Align::Left);
-    for (const int text : {kGames, kWon, kLost, kTied})
+    table.addColumn(word(Text::Team), Align::Left);
+    for (const Text text : {Text::Games, Text::Wins1, Text::Losses1, Text::Ties1})
       table.addColumn(word(text), Align::Right);
     table.addColumn("PTS", Align::Right);
     for (const SeasonTeamRow& row : m_statistics.teams())
@@ -98,7 +90,7 @@ class SeasonText {
         columns.push_back(column);
     }
     TextTable table;
-    table.addColumn(word(kTeam), Align::Left);
+    table.addColumn(word(Text::Team), Align::Left);
     for (const int column : columns)
       table.addColumn(seasonHeader(column, kind, m_texts),
                       seasonColumnIsText(column) ? Align::Left : Align::Right);
@@ -121,7 +113,7 @@ class SeasonText {
     const std::span<const SkippedFile> files = m_catalogue.skipped();
     if (files.empty())
       return {};
-    std::string text = "\n" + m_texts.withPlaceholder(kNotRead, std::to_string(files.size())) + "\n";
+    std::string text = "\n" + m_texts.withPlaceholder(Text::NotRead, std::to_string(files.size())) + "\n";
     for (const SkippedFile& file : files)
       text += "  " + printable(file.path) + ": " + word(skipReasonText(file.reason)) + "\n";
     return text;

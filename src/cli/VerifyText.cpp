@@ -9,25 +9,19 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kWrong = 2693;
-constexpr int kDoubtful = 2694;
-constexpr int kAtEvent = 2695;
-constexpr int kMore = 2696;
-constexpr int kSubjectAndWords = 1801; // "XXX: YYY", each language with its own blanks
-
 std::string behind(const std::string& subject, const std::string& words, const Texts& texts) {
-  return withPlaceholders(texts.text(kSubjectAndWords), subject, words);
+  return withPlaceholders(texts.text(Text::SubjectAndWords), subject, words);
 }
 
 std::string lineOf(const Finding& finding, const Game& game, const Texts& texts) {
   std::string text = printable(wordsOf(finding, game, texts));
   if (finding.hasEvent()) {
     const GameEvent& event = game.events[finding.event];
-    const std::string place = withPlaceholders(texts.text(kAtEvent), std::to_string(event.period),
+    const std::string place = withPlaceholders(texts.text(Text::AtEvent), std::to_string(event.period),
                                                printable(event.key), printable(event.line));
     text = behind(place, text, texts);
   }
-  return behind(std::string(texts.text(finding.isWrong() ? kWrong : kDoubtful)), text, texts);
+  return behind(std::string(texts.text(finding.isWrong() ? Text::Wrong : Text::Doubtful)), text, texts);
 }
 
 } // namespace
@@ -39,7 +33,7 @@ std::string verifyText(const Scorecard& card, const Texts& texts) {
   for (const auto& [finding, more] : summary.rows) {
     text += file + lineOf(finding, card.game(), texts) + '\n';
     if (more > 0)
-      text += file + texts.withPlaceholder(kMore, std::to_string(more)) + '\n';
+      text += file + texts.withPlaceholder(Text::MoreOfThisKind, std::to_string(more)) + '\n';
   }
   return text + file + countsText(summary, texts) + '\n';
 }

@@ -23,24 +23,6 @@ void complain(const std::string& text) {
   std::cerr << "hooptab-cli: " << printable(text) << '\n';
 }
 
-constexpr int kSubjectAndWords = 1801; // "XXX: YYY"
-constexpr int kInvalidFormat = 1059;
-constexpr int kSee = 2859;
-constexpr int kNoSuchFile = 2860;
-constexpr int kTooLarge = 2861;
-constexpr int kNoGame = 2862;
-constexpr int kCannotBeRead = 2863;
-constexpr int kOutOfRange = 2864;
-constexpr int kNoOutput = 2865;
-constexpr int kNoSuchFolder = 2866;
-constexpr int kFolderUnreadable = 2867;
-constexpr int kNoTeam = 2868;
-constexpr int kThereAre = 2869;
-constexpr int kSameGame = 2870;
-constexpr int kFailed = 2871;
-constexpr int kCountedAllTheSame = 2705;
-constexpr int kSameGameCut = 2708;
-
 class Program {
  public:
   explicit Program(const Options& options) : m_options(options) { m_texts.setLanguage(options.language); }
@@ -61,7 +43,7 @@ class Program {
         m_output.write(m_json.text());
     }
     if (m_output.error() != 0) {
-      complain(words(kNoOutput, std::strerror(m_output.error())));
+      complain(words(Text::NoOutput, std::strerror(m_output.error())));
       m_status = kFound;
     }
     return m_status;
@@ -69,16 +51,16 @@ class Program {
 
  private:
   bool isFrench() const { return m_options.language == Language::French; }
-  std::string words(int text, const std::string& x = {}) const { return m_texts.withPlaceholder(text, x); }
+  std::string words(Text text, const std::string& x = {}) const { return m_texts.withPlaceholder(text, x); }
   std::string of(const std::string& path, const std::string& text) const {
-    return withPlaceholders(m_texts.text(kSubjectAndWords), path, text);
+    return withPlaceholders(m_texts.text(Text::SubjectAndWords), path, text);
   }
   std::string explained(GameFileProblem problem) const {
     switch (problem) {
-    case GameFileProblem::Absent: return words(kNoSuchFile);
-    case GameFileProblem::TooLarge: return words(kTooLarge);
-    case GameFileProblem::InvalidFormat: return words(kNoGame, words(kInvalidFormat));
-    default: return words(kCannotBeRead);
+    case GameFileProblem::Absent: return words(Text::NoSuchFile);
+    case GameFileProblem::TooLarge: return words(Text::TooLargeToBeAGame);
+    case GameFileProblem::InvalidFormat: return words(Text::NoGame, words(Text::NotAGame));
+    default: return words(Text::CannotBeReadGiveAFile);
     }
   }
   void fault(const std::string& text) {
@@ -90,12 +72,12 @@ class Program {
     GameCatalogue catalogue(m_files);
     ScanWatch watch;
     switch (catalogue.scan({folder, wanted.withSubfolders}, watch)) {
-    case ScanOutcome::FolderMissing: fault(of(folder, words(kNoSuchFolder))); return;
-    case ScanOutcome::FolderUnreadable: fault(of(folder, words(kFolderUnreadable))); return;
+    case ScanOutcome::FolderMissing: fault(of(folder, words(Text::NoSuchFolderThere))); return;
+    case ScanOutcome::FolderUnreadable: fault(of(folder, words(Text::FolderUnreadable))); return;
     default: break;
     }
     if (!wanted.team.empty() && !catalogue.teamOf(wanted.team)) {
-      fault(words(kNoTeam, wanted.team) + teamsMet(catalogue));
+      fault(words(Text::NoGameOfTeam, wanted.team) + teamsMet(catalogue));
       return;
     }
     GameCriteria criteria;
@@ -123,7 +105,7 @@ class Program {
     std::string teams;
     for (const SeasonTeam& team : catalogue.teams())
       teams += (teams.empty() ? "" : ", ") + team.key;
-    return teams.empty() ? teams : "; " + words(kThereAre, teams);
+    return teams.empty() ? teams : "; " + words(Text::ThereAre, teams);
   }
   // A broken file never stops the rest, but it is told.
   void tellFaults(const GameCatalogue& catalogue, const SeasonStatistics& statistics) {
@@ -134,14 +116,14 @@ class Program {
     for (const std::size_t index : statistics.games()) {
       const ListedGame& game = catalogue.games()[index];
       if (!game.outOfRange.empty())
-        fault(of(game.path, words(kOutOfRange, game.outOfRange)));
+        fault(of(game.path, words(Text::CountAtItsLimit, game.outOfRange)));
       if (game.wrongCount > 0)
-        complain(of(game.path, words(kCountedAllTheSame, catalogue.whyWrong(game, m_texts))));
+        complain(of(game.path, words(Text::CountedAllTheSame, catalogue.whyWrong(game, m_texts))));
       if (!game.copyOf || m_options.season.countsCopiesOnce)
         continue;
       const ListedGame& other = catalogue.games()[*game.copyOf];
-      complain(
-          of(game.path, words(game.fingerprint == other.fingerprint ? kSameGame : kSameGameCut, other.path)));
+      complain(of(game.path, words(game.fingerprint == other.fingerprint ? Text::SameGame : Text::SameGameCut,
+                                   other.path)));
     }
   }
   void show(const std::string& file) {
@@ -181,7 +163,7 @@ class Program {
   }
   std::string tooMany(const Scorecard& card) const {
     const CountOutOfRange& count = *card.outOfRange();
-    return words(kOutOfRange, card.game().details.abbreviation[count.team] + ' ' + count.what);
+    return words(Text::CountAtItsLimit, card.game().details.abbreviation[count.team] + ' ' + count.what);
   }
 
   const Options& m_options;
@@ -207,12 +189,13 @@ int main(int argc, char* argv[]) {
   try {
     const Options options = parseOptions(words, language);
     if (options.wrong) {
-      complain(withPlaceholders(texts.text(kSee), inWords(options.wrong, texts), "hooptab-cli --help"));
+      complain(
+          withPlaceholders(texts.text(Text::SeeUsage), inWords(options.wrong, texts), "hooptab-cli --help"));
       return kWrongUse;
     }
     return Program(options).run();
   } catch (const std::exception& error) {
-    complain(texts.withPlaceholder(kFailed, error.what()));
+    complain(texts.withPlaceholder(Text::WentWrong, error.what()));
     return kFound;
   }
 }

@@ -6,11 +6,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kThreeDifferentColours = 1291;
-
-} // namespace
+namespace {} // namespace
 
 CourtColourChoice CourtColourChoice::of(const Settings& settings) {
   CourtColourChoice choice;
@@ -25,10 +21,10 @@ std::string CourtColourChoice::prefix(std::size_t which) {
   return which == 0 ? "U1-" : "U2-";
 }
 
-int CourtColourChoice::problem() const {
+Text CourtColourChoice::problem() const {
   const bool areDistinct = colours.twoPoints != colours.box && colours.box != colours.threePoints &&
                            colours.threePoints != colours.twoPoints;
-  return areDistinct ? 0 : kThreeDifferentColours;
+  return areDistinct ? Text::None : Text::ThreeDifferentColours;
 }
 
 std::string CourtColourChoice::storedLabel(std::size_t which) const {

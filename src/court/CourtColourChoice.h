@@ -19,8 +19,8 @@ struct CourtColourChoice {
   [[nodiscard]] static CourtColourChoice of(const Settings& settings);
   // "U1-" or "U2-".
   [[nodiscard]] static std::string prefix(std::size_t which);
-  // The number of the text that stands against applying; 0 when nothing does.
-  [[nodiscard]] int problem() const;
+  // What stands against applying; none when nothing does.
+  [[nodiscard]] Text problem() const;
   // Commas of the labels become blanks, letters what the file can hold. Whether all is on disk; see Settings.
   bool save(Settings& settings) const;
 

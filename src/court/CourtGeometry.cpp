@@ -1,5 +1,7 @@
 #include "court/CourtGeometry.h"
 
+#include "settings/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -100,8 +102,11 @@ bool isThreePointZone(ChartZone zone) {
   return zone >= ChartZone::LeftCorner;
 }
 
-int chartZoneText(ChartZone zone) {
-  constexpr std::array kTexts = {1571, 1567, 1568, 1569, 1570, 1562, 1564, 1566, 1565, 1563};
+Text chartZoneText(ChartZone zone) {
+  constexpr std::array kTexts = {Text::ZoneUnderBasket, Text::ZonePaint,    Text::ZoneMidLeft,
+                                 Text::ZoneMidCentre,   Text::ZoneMidRight, Text::ZoneLeftCorner,
+                                 Text::ZoneLeftWing,    Text::ZoneTop,      Text::ZoneRightWing,
+                                 Text::ZoneRightCorner};
   return kTexts[static_cast<std::size_t>(zone)];
 }
 

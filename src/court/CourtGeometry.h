@@ -3,6 +3,8 @@
 // FIBA court.
 #pragma once
 
+#include "settings/Text.h"
+
 #include <cstdint>
 #include <string>
 
@@ -75,7 +77,7 @@ inline constexpr double kTopDegrees = 25;
 // A place outside the picture counts where it is drawn, at the edge.
 [[nodiscard]] ChartZone chartZone(Place place);
 [[nodiscard]] bool isThreePointZone(ChartZone zone);
-[[nodiscard]] int chartZoneText(ChartZone zone);    // number of its name
+[[nodiscard]] Text chartZoneText(ChartZone zone);
 [[nodiscard]] Place chartZoneLabel(ChartZone zone); // where a number for the zone is drawn
 
 } // namespace hooptab::court

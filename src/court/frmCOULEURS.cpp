@@ -20,27 +20,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTitle = 1146;
-constexpr int kChooserTitle = 1176;
-constexpr int kWarningTitle = 1139;
-constexpr int kNotOnDisk = 1521;
-constexpr int kMadeShots = 1514;
-constexpr int kMissedShots = 1515;
-constexpr int kSampleButton = 1006;
-constexpr int kAskToSave = 1900;
-constexpr int kColours = 1901;
-constexpr int kFirstLabel = 1902;
-constexpr int kSecondLabel = 1903;
-constexpr int kPreview = 1904;
-constexpr int kDefaultsToolTip = 1905;
-constexpr int kLabelToolTip = 1906;
-constexpr int kSampleToolTip = 1907;
-constexpr int kCourtName = 1908;
-constexpr int kAsSet = 2594;
-constexpr int kMaple = 2595;
-constexpr int kSlate = 2596;
-constexpr int kPaper = 2597;
-
 // Made and missed shots in every zone, so that one sees whether marks stand out from it.
 const std::vector<CourtMark> kSampleMarks = {
     {{30, 92}, true},  {{62, 110}, false},  {{50, 48}, true}, {{84, 128}, false},
@@ -66,7 +45,7 @@ frmCOULEURS::frmCOULEURS(Settings& settings, const Texts& texts, Dialogs& dialog
       m_choice(CourtColourChoice::of(settings)) {
   setObjectName(QStringLiteral("frmCOULEURS"));
   setModal(true);
-  setTextNumber(*this, kTitle);
+  setTextNumber(*this, Text::ColourSettings);
 
   auto* choices = new QVBoxLayout;
   choices->setSpacing(12);
@@ -78,9 +57,9 @@ frmCOULEURS::frmCOULEURS(Settings& settings, const Texts& texts, Dialogs& dialog
   parts->addLayout(choices);
   parts->addWidget(makePreview(), 1);
 
-  QPushButton* defaults = makeButton("cmdDEFAUT", 1151, kDefaultsToolTip);
-  QPushButton* applies = makeButton("cmdAPPLIQUER", 1155, 1330);
-  QPushButton* closes = makeButton("cmdFERMER", 1294, 1331);
+  QPushButton* defaults = makeButton("cmdDEFAUT", Text::DefaultColours, Text::DefaultsToolTip);
+  QPushButton* applies = makeButton("cmdAPPLIQUER", Text::Apply, Text::ApplyToCourts);
+  QPushButton* closes = makeButton("cmdFERMER", Text::CloseButton, Text::CloseMiscellaneous);
   applies->setDefault(true);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(defaults);
@@ -110,18 +89,18 @@ frmCOULEURS::frmCOULEURS(Settings& settings, const Texts& texts, Dialogs& dialog
 
 QWidget* frmCOULEURS::makeColours() {
   auto* group = new QGroupBox(this);
-  setTextNumber(*group, kColours);
+  setTextNumber(*group, Text::Colours);
   auto* rows = new QGridLayout(group);
   rows->setColumnStretch(0, 1);
   rows->setHorizontalSpacing(16);
-  addColour(*rows, "cmdCOULEUR2PTS", 1148, &ChosenColours::twoPoints);
-  addColour(*rows, "cmdCOULEUR3PTS", 1149, &ChosenColours::threePoints);
-  addColour(*rows, "cmdCOULEURBOX", 1150, &ChosenColours::box);
-  addColour(*rows, "cmdCOULEURBUT", 1341, &ChosenColours::buttons);
+  addColour(*rows, "cmdCOULEUR2PTS", Text::TwoPointZone, &ChosenColours::twoPoints);
+  addColour(*rows, "cmdCOULEUR3PTS", Text::ThreePointZone, &ChosenColours::threePoints);
+  addColour(*rows, "cmdCOULEURBOX", Text::Box, &ChosenColours::box);
+  addColour(*rows, "cmdCOULEURBUT", Text::ButtonColour, &ChosenColours::buttons);
   m_asSet = new QCheckBox(this);
   m_asSet->setObjectName(QStringLiteral("chkASSET"));
   m_asSet->setChecked(Theme::courtStrength() == CourtStrength::AsSet);
-  setTextNumber(*m_asSet, kAsSet);
+  setTextNumber(*m_asSet, Text::AsSet);
   connect(m_asSet, &QCheckBox::toggled, this, &frmCOULEURS::showColours);
   rows->addWidget(m_asSet, rows->rowCount(), 0, 1, 2);
   rows->addWidget(makePresets(), rows->rowCount(), 0, 1, 2);
@@ -132,13 +111,28 @@ QWidget* frmCOULEURS::makeColours() {
 QWidget* frmCOULEURS::makePresets() {
   struct Preset {
     const char* name;
-    int text;
+    Text text;
     QColor twoPoints, box, threePoints, buttons;
   };
   const Preset presets[] = {
-      {"cmdMAPLE", kMaple, {0xEB, 0xD3, 0xAC}, {0xC9, 0x8B, 0x63}, {0xDC, 0xE6, 0xEE}, {0x5B, 0x7A, 0x99}},
-      {"cmdSLATE", kSlate, {0xDC, 0xE3, 0xEA}, {0x9D, 0xB2, 0xC6}, {0xF4, 0xF6, 0xF8}, {0x5B, 0x7A, 0x99}},
-      {"cmdPAPER", kPaper, {0xFF, 0xFF, 0xFE}, {0xE6, 0xE6, 0xE6}, {0xFF, 0xFF, 0xFF}, {0x80, 0x80, 0x80}},
+      {"cmdMAPLE",
+       Text::Maple,
+       {0xEB, 0xD3, 0xAC},
+       {0xC9, 0x8B, 0x63},
+       {0xDC, 0xE6, 0xEE},
+       {0x5B, 0x7A, 0x99}},
+      {"cmdSLATE",
+       Text::Slate,
+       {0xDC, 0xE3, 0xEA},
+       {0x9D, 0xB2, 0xC6},
+       {0xF4, 0xF6, 0xF8},
+       {0x5B, 0x7A, 0x99}},
+      {"cmdPAPER",
+       Text::PaperTheme,
+       {0xFF, 0xFF, 0xFE},
+       {0xE6, 0xE6, 0xE6},
+       {0xFF, 0xFF, 0xFF},
+       {0x80, 0x80, 0x80}},
   };
   auto* row = new QWidget(this);
   auto* layout = new QHBoxLayout(row);
@@ -163,14 +157,14 @@ CourtStrength frmCOULEURS::strength() const {
   return m_asSet->isChecked() ? CourtStrength::AsSet : CourtStrength::Calm;
 }
 
-void frmCOULEURS::addColour(QGridLayout& rows, const char* name, int text,
+void frmCOULEURS::addColour(QGridLayout& rows, const char* name, Text text,
                             std::uint32_t ChosenColours::*colour) {
   auto* button = new QPushButton(this);
   button->setObjectName(QLatin1String(name));
   button->setMinimumWidth(120);
   const int row = rows.rowCount();
   rows.addWidget(captionFor(*button, text), row, 0);
-  setToolTipNumber(*button, kChooserTitle);
+  setToolTipNumber(*button, Text::ChooserTitle);
   rows.addWidget(button, row, 1);
   connect(button, &QPushButton::clicked, this, [this, colour] { chooseColour(colour); });
   m_colours.push_back({button, colour});
@@ -178,15 +172,15 @@ void frmCOULEURS::addColour(QGridLayout& rows, const char* name, int text,
 
 QWidget* frmCOULEURS::makeLabels() {
   auto* group = new QGroupBox(this);
-  setTextNumber(*group, 1057);
+  setTextNumber(*group, Text::UserDefinedStatistics);
   auto* rows = new QGridLayout(group);
   rows->setColumnStretch(2, 1);
-  addLabel(*rows, 0, "txtSTATU1", kFirstLabel);
-  addLabel(*rows, 1, "txtSTATU2", kSecondLabel);
+  addLabel(*rows, 0, "txtSTATU1", Text::FirstLabel);
+  addLabel(*rows, 1, "txtSTATU2", Text::SecondLabel);
   return group;
 }
 
-void frmCOULEURS::addLabel(QGridLayout& rows, std::size_t which, const char* name, int text) {
+void frmCOULEURS::addLabel(QGridLayout& rows, std::size_t which, const char* name, Text text) {
   auto* prefix = new PlainLabel(toQt(CourtColourChoice::prefix(which)), this);
   auto* field = new QLineEdit(this);
   field->setObjectName(QLatin1String(name));
@@ -194,7 +188,7 @@ void frmCOULEURS::addLabel(QGridLayout& rows, std::size_t which, const char* nam
   limitField(*field, m_texts, CourtColourChoice::kLongestLabel);
   const auto row = static_cast<int>(which);
   rows.addWidget(captionFor(*field, text), row, 0);
-  setToolTipNumber(*field, kLabelToolTip);
+  setToolTipNumber(*field, Text::LabelToolTip);
   rows.addWidget(prefix, row, 1);
   rows.addWidget(field, row, 2);
   connect(field, &QLineEdit::textEdited, this,
@@ -204,25 +198,25 @@ void frmCOULEURS::addLabel(QGridLayout& rows, std::size_t which, const char* nam
 
 QWidget* frmCOULEURS::makePreview() {
   auto* group = new QGroupBox(this);
-  setTextNumber(*group, kPreview);
+  setTextNumber(*group, Text::Preview);
   m_court = new CourtView(this);
   m_court->setObjectName(QStringLiteral("court"));
   m_court->setMinimumSize(230, 365);
-  setAccessibleNumber(*m_court, kCourtName);
+  setAccessibleNumber(*m_court, Text::CourtName);
   m_sample = new QPushButton(this);
   m_sample->setObjectName(QStringLiteral("cmdEXEMPLE"));
   // To be looked at only.
   m_sample->setFocusPolicy(Qt::NoFocus);
   m_sample->setAutoDefault(false);
-  setAccessibleNumber(*m_sample, kSampleToolTip);
-  setToolTipNumber(*m_sample, kSampleToolTip);
+  setAccessibleNumber(*m_sample, Text::SampleToolTip);
+  setToolTipNumber(*m_sample, Text::SampleToolTip);
   auto* layout = new QVBoxLayout(group);
   layout->addWidget(m_court, 1);
   layout->addWidget(m_sample, 0, Qt::AlignHCenter);
   return group;
 }
 
-QPushButton* frmCOULEURS::makeButton(const char* name, int text, int toolTip) {
+QPushButton* frmCOULEURS::makeButton(const char* name, Text text, Text toolTip) {
   auto* button = new QPushButton(this);
   button->setObjectName(QLatin1String(name));
   setTextNumber(*button, text);
@@ -237,17 +231,17 @@ void frmCOULEURS::relabelWindow() {
   m_sample->setText({});
   relabel(*this, m_texts);
   giveMnemonics(*this);
-  m_sample->setText(caption(m_texts, kSampleButton));
+  m_sample->setText(caption(m_texts, Text::SampleButton));
   QStringList toolTips;
   for (const CourtMark& mark : kSampleMarks)
-    toolTips << caption(m_texts, mark.isMade ? kMadeShots : kMissedShots);
+    toolTips << caption(m_texts, mark.isMade ? Text::Made : Text::Missed);
   m_court->setMarks(kSampleMarks, toolTips);
   showColours();
 }
 
 void frmCOULEURS::chooseColour(std::uint32_t ChosenColours::*colour) {
   const QColor chosen =
-      m_dialogs.chooseColour(this, caption(m_texts, kChooserTitle), colourOf(m_choice.colours.*colour));
+      m_dialogs.chooseColour(this, caption(m_texts, Text::ChooserTitle), colourOf(m_choice.colours.*colour));
   if (!chosen.isValid())
     return;
   m_choice.colours.*colour = storedColour(chosen);
@@ -271,8 +265,8 @@ void frmCOULEURS::showColours() {
 }
 
 bool frmCOULEURS::apply() {
-  if (const int problem = m_choice.problem()) {
-    m_dialogs.warn(this, caption(m_texts, kWarningTitle), caption(m_texts, problem));
+  if (const Text problem = m_choice.problem(); problem != Text::None) {
+    m_dialogs.warn(this, caption(m_texts, Text::WarningTitle), caption(m_texts, problem));
     return false;
   }
   const bool isOnDisk = m_choice.save(m_settings);
@@ -282,14 +276,15 @@ bool frmCOULEURS::apply() {
   emit applied();
   relabelWindow(); // what is applied may relabel the whole program, which takes the Alt keys away
   if (!isOnDisk)
-    m_dialogs.warn(this, caption(m_texts, kWarningTitle),
-                   toQt(m_texts.withPlaceholder(kNotOnDisk, m_settings.path())));
+    m_dialogs.warn(this, caption(m_texts, Text::WarningTitle),
+                   toQt(m_texts.withPlaceholder(Text::NotSaved, m_settings.path())));
   return true;
 }
 
 void frmCOULEURS::reject() {
   if ((m_choice != CourtColourChoice::of(m_settings) || strength() != Theme::courtStrength())) {
-    const SaveChoice answer = m_dialogs.askToSave(this, windowTitle(), caption(m_texts, kAskToSave));
+    const SaveChoice answer =
+        m_dialogs.askToSave(this, windowTitle(), caption(m_texts, Text::AskToSaveColours));
     if (answer == SaveChoice::Stay || (answer == SaveChoice::Save && !apply()))
       return;
   }

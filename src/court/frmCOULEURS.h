@@ -43,9 +43,9 @@ class frmCOULEURS : public QDialog {
   QWidget* makeLabels();
   QWidget* makePreview();
   QWidget* makePresets();
-  void addColour(QGridLayout& rows, const char* name, int text, std::uint32_t ChosenColours::*colour);
-  void addLabel(QGridLayout& rows, std::size_t which, const char* name, int text);
-  QPushButton* makeButton(const char* name, int text, int toolTip);
+  void addColour(QGridLayout& rows, const char* name, Text text, std::uint32_t ChosenColours::*colour);
+  void addLabel(QGridLayout& rows, std::size_t which, const char* name, Text text);
+  QPushButton* makeButton(const char* name, Text text, Text toolTip);
   void chooseColour(std::uint32_t ChosenColours::*colour);
   void showLabels();
   void showColours();

@@ -17,7 +17,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kCourtToolTip = 1095;
 constexpr int kGap = 4;
 
 } // namespace
@@ -28,8 +27,8 @@ BenchShot::BenchShot(const Settings& settings, const Texts& texts, QWidget* pare
   setObjectName(QStringLiteral("picBENCHSHOT"));
   setFrameShape(QFrame::Box);
   m_court->setObjectName(QStringLiteral("CourtB"));
-  setToolTipNumber(*m_court, kCourtToolTip);
-  setAccessibleNumber(*m_court, kCourtToolTip);
+  setToolTipNumber(*m_court, Text::CourtTip);
+  setAccessibleNumber(*m_court, Text::CourtTip);
   connect(m_court, &MiniCourt::pressed, this, [this](const QPointF& place, bool isMade) {
     hide();
     emit courtPressed(place, isMade);

@@ -20,11 +20,6 @@ using Outcome = EventCorrection::Outcome;
 using Remedy = EventCorrection::Remedy;
 
 constexpr std::chrono::seconds kShown{10};
-constexpr int kMadeOrMissed = 2580;
-constexpr int kTwoOrThree = 2581;
-constexpr int kEnough = 2582;
-constexpr int kDelete = 2583;
-constexpr int kLeave = 2584;
 constexpr int kGap = 8;
 
 bool isModifier(int key) {
@@ -44,12 +39,12 @@ CorrectionBar::CorrectionBar(LiveGame& game, const Texts& texts, QWidget* parent
   layout->setContentsMargins(kGap, 0, kGap, 0);
   layout->setSpacing(4);
   layout->addWidget(m_words, 1);
-  m_made = makeButton("cmdMADE", kMadeOrMissed);
-  m_three = makeButton("cmdTHREE", kTwoOrThree);
-  m_adapt = makeButton("cmdADAPT", 0);
-  m_delete = makeButton("cmdDELETEIT", kDelete);
-  m_keep = makeButton("cmdLEAVEIT", kLeave);
-  m_enough = makeButton("cmdENOUGH", kEnough);
+  m_made = makeButton("cmdMADE", Text::MadeOrMissed);
+  m_three = makeButton("cmdTHREE", Text::TwoOrThree);
+  m_adapt = makeButton("cmdADAPT", Text::None);
+  m_delete = makeButton("cmdDELETEIT", Text::DeleteIt);
+  m_keep = makeButton("cmdLEAVEIT", Text::LeaveIt);
+  m_enough = makeButton("cmdENOUGH", Text::EnoughFouls);
   connect(m_made, &QToolButton::pressed, this, &CorrectionBar::toggleMade);
   connect(m_three, &QToolButton::pressed, this, &CorrectionBar::toggleThree);
   connect(m_adapt, &QToolButton::pressed, this, [this] { afterStep(m_correction.decide(Remedy::Adapt)); });
@@ -68,11 +63,11 @@ CorrectionBar::~CorrectionBar() {
   qApp->removeEventFilter(this);
 }
 
-QToolButton* CorrectionBar::makeButton(const char* name, int text) {
+QToolButton* CorrectionBar::makeButton(const char* name, Text text) {
   auto* button = new QToolButton(this);
   button->setObjectName(QLatin1String(name));
   button->setFocusPolicy(Qt::TabFocus);
-  if (text > 0)
+  if (text != Text::None)
     setTextNumber(*button, text);
   layout()->addWidget(button);
   return button;

@@ -46,7 +46,7 @@ class CorrectionBar : public QFrame {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QToolButton* makeButton(const char* name, int text);
+  QToolButton* makeButton(const char* name, Text text);
   void afterStep(EventCorrection::Outcome outcome);
   void afterNumber(EventCorrection::Outcome outcome);
   bool takeKey(int key);

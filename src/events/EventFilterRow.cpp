@@ -13,13 +13,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kPeriod = 1087;
-constexpr int kSubstitution = 1561;
-constexpr int kPlayer = 1593;
-constexpr int kTeam = 1594;
-constexpr int kKind = 1595;
-
-constexpr int kShowDeleted = 2570;
 constexpr int kPadding = 8;
 constexpr int kFewestLetters = 6;
 constexpr int kEntries = Roster::kLargestEntry + 1; // a player is chosen as team * kEntries + entry
@@ -30,22 +23,22 @@ EventFilterRow::EventFilterRow(const Texts& texts, QWidget* parent) : QWidget(pa
   auto* layout = new QGridLayout(this);
   layout->setContentsMargins(4, 2, 4, 2);
   layout->setSpacing(2);
-  m_team = makeBox("cmbTEAM", kTeam);
-  m_period = makeBox("cmbPERIOD", kPeriod);
-  m_player = makeBox("cmbPLAYER", kPlayer);
-  m_kind = makeBox("cmbKIND", kKind);
+  m_team = makeBox("cmbTEAM", Text::TeamWord);
+  m_period = makeBox("cmbPERIOD", Text::Period);
+  m_player = makeBox("cmbPLAYER", Text::Player);
+  m_kind = makeBox("cmbKIND", Text::KindOfEvent);
   layout->addWidget(m_team, 0, 0);
   layout->addWidget(m_period, 0, 1);
   layout->addWidget(m_player, 1, 0);
   layout->addWidget(m_kind, 1, 1);
   m_deleted = new QCheckBox(this);
   m_deleted->setObjectName(QStringLiteral("chkDELETED"));
-  setTextNumber(*m_deleted, kShowDeleted);
+  setTextNumber(*m_deleted, Text::ShowDeleted);
   connect(m_deleted, &QCheckBox::toggled, this, &EventFilterRow::changed);
   layout->addWidget(m_deleted, 2, 0, 1, 2);
 }
 
-QComboBox* EventFilterRow::makeBox(const char* name, int text) {
+QComboBox* EventFilterRow::makeBox(const char* name, Text text) {
   auto* box = new QComboBox(this);
   box->setObjectName(QLatin1String(name));
   setAccessibleNumber(*box, text);
@@ -61,7 +54,7 @@ QComboBox* EventFilterRow::makeBox(const char* name, int text) {
 }
 
 // Filled anew only when another choice is to be had: a period more, another language, another game.
-void EventFilterRow::fill(QComboBox& box, int text, const QString& key,
+void EventFilterRow::fill(QComboBox& box, Text text, const QString& key,
                           const std::vector<std::pair<QString, int>>& items) {
   if (box.property("shown").toString() == key)
     return;
@@ -85,11 +78,11 @@ void EventFilterRow::showGame(const Game& game, const EventWords& words) {
   std::vector<std::pair<QString, int>> items;
   for (int period = 1; period <= periods; ++period)
     items.emplace_back(toQt(words.periodText(period)), period);
-  fill(*m_period, kPeriod, whole + u'|' + QString::number(periods), items);
+  fill(*m_period, Text::Period, whole + u'|' + QString::number(periods), items);
   if (isSame)
     return;
 
-  fill(*m_team, kTeam, whole, {{toQt(words.team(0)), 0}, {toQt(words.team(1)), 1}});
+  fill(*m_team, Text::TeamWord, whole, {{toQt(words.team(0)), 0}, {toQt(words.team(1)), 1}});
   for (int team = 0; team < 2; ++team) {
     auto& players = m_players[static_cast<std::size_t>(team)];
     players.clear();
@@ -103,8 +96,8 @@ void EventFilterRow::showGame(const Game& game, const EventWords& words) {
   items.clear();
   for (const EventKind& kind : eventKinds())
     items.emplace_back(caption(m_texts, kind.wordsText), static_cast<int>(kind.code));
-  items.emplace_back(caption(m_texts, kSubstitution), static_cast<int>(EventCode::ARRET));
-  fill(*m_kind, kKind, QStringLiteral("kinds"), items);
+  items.emplace_back(caption(m_texts, Text::Substitution), static_cast<int>(EventCode::ARRET));
+  fill(*m_kind, Text::KindOfEvent, QStringLiteral("kinds"), items);
 }
 
 void EventFilterRow::relabelRow(const Game& game, const EventWords& words) {
@@ -123,7 +116,7 @@ void EventFilterRow::fillPlayers() {
     if (!team.isValid() || team.toInt() == side)
       items.insert(items.end(), players.begin(), players.end());
   }
-  fill(*m_player, kPlayer, m_game + u'|' + team.toString(), items);
+  fill(*m_player, Text::Player, m_game + u'|' + team.toString(), items);
 }
 
 EventFilter EventFilterRow::filter() const {

@@ -32,8 +32,8 @@ class EventFilterRow : public QWidget {
   void changed();
 
  private:
-  QComboBox* makeBox(const char* name, int text);
-  void fill(QComboBox& box, int text, const QString& key, const std::vector<std::pair<QString, int>>& items);
+  QComboBox* makeBox(const char* name, Text text);
+  void fill(QComboBox& box, Text text, const QString& key, const std::vector<std::pair<QString, int>>& items);
   void fillPlayers();
 
   const Texts& m_texts;

@@ -8,12 +8,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kWarningTitle = 1139;
-constexpr int kDoesNotFit = 1917;
-
-} // namespace
+namespace {} // namespace
 
 EventRequests::EventRequests(LiveGame& game, LiveEventPanel& panel, const Settings& settings,
                              const Texts& texts, Dialogs& dialogs, QWidget& window)
@@ -52,10 +47,10 @@ void EventRequests::take(const EditPlan& plan) {
   emit gameChanged();
   if (isTaken)
     return;
-  QString words = caption(m_texts, kDoesNotFit);
+  QString words = caption(m_texts, Text::DoesNotFit);
   if (plan.conflict)
     words += QStringLiteral("\n\n") + toQt(wordsOf(*plan.conflict, m_game.game(), m_texts));
-  m_dialogs.warn(&m_window, caption(m_texts, kWarningTitle), words);
+  m_dialogs.warn(&m_window, caption(m_texts, Text::WarningTitle), words);
 }
 
 void EventRequests::takeBack(bool (LiveGame::*step)()) {

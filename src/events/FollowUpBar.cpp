@@ -22,16 +22,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kAssistTitle = 1116;
-constexpr int kNobody = 1117;
-constexpr int kReboundTitle = 1118;
-constexpr int kOffensive = 1119;
-constexpr int kDefensive = 1120;
-constexpr int kHint = 1958;
-constexpr int kAllTheSame = 2472;
-constexpr int kComesIn = 2473;
-constexpr int kTooSoon = 2475;
-
 constexpr int kMates = 2;      // buttons side by side, with names
 constexpr int kRebounders = 3; // the same, without
 constexpr int kMargin = 9;
@@ -120,7 +110,7 @@ QWidget* FollowUpBar::makeReason() {
   layout->addWidget(m_reason);
   auto* ways = new QHBoxLayout;
   ways->setSpacing(kGap);
-  constexpr std::array kTexts = {kAllTheSame, kComesIn};
+  constexpr std::array kTexts = {Text::AllTheSame, Text::PutIn};
   constexpr std::array kNames = {"cmdALLTHESAME", "cmdCOMESIN"};
   for (std::size_t way = 0; way < m_waysOut.size(); ++way) {
     auto* button = new QPushButton(row);
@@ -161,8 +151,8 @@ QPushButton* FollowUpBar::makeNobody(QWidget* form, const char* name) {
   auto* nobody = new QPushButton(form);
   nobody->setObjectName(QLatin1String(name));
   nobody->setFocusPolicy(Qt::TabFocus);
-  setTextNumber(*nobody, kNobody);
-  setToolTipNumber(*nobody, kHint);
+  setTextNumber(*nobody, Text::Nobody);
+  setToolTipNumber(*nobody, Text::NumberHint);
   connect(nobody, &QPushButton::pressed, this, [this, nobody] {
     nobody->setDown(false);
     m_whole.reset();
@@ -174,7 +164,7 @@ QPushButton* FollowUpBar::makeNobody(QWidget* form, const char* name) {
 QWidget* FollowUpBar::makeAssist() {
   auto* form = new QWidget(this);
   form->setObjectName(QStringLiteral("Assist"));
-  setAccessibleNumber(*form, kAssistTitle);
+  setAccessibleNumber(*form, Text::AssistTitle);
   auto* grid = new QGridLayout(form);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kGap);
@@ -193,7 +183,7 @@ QWidget* FollowUpBar::makeAssist() {
 QWidget* FollowUpBar::makeRebound() {
   auto* form = new QWidget(this);
   form->setObjectName(QStringLiteral("frmRebound"));
-  setAccessibleNumber(*form, kReboundTitle);
+  setAccessibleNumber(*form, Text::ReboundTitle);
   auto* grid = new QGridLayout(form);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kGap);
@@ -263,7 +253,7 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
   if (m_question.choices().empty())
     return;
   setPanelWidth(panel.width());
-  m_ownRefusal = 0;
+  m_ownRefusal = Text::None;
   m_isTypedOnKeypad = false;
   m_buttons.clear();
   const auto clear = [](auto& buttons) {
@@ -289,11 +279,11 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
                  (who != nullptr ? toQt(who->jersey + ' ' + familyName(who->name)) : QString()),
              team);
   } else {
-    const auto named = [&](int text, int ofTeam) -> QString {
+    const auto named = [&](Text text, int ofTeam) -> QString {
       return toQt(m_texts.text(text)) + QLatin1Char(' ') + toQt(game.game().details.name[ofTeam]);
     };
-    nameTeam(game, *m_groups[0], named(kOffensive, team), team);
-    nameTeam(game, *m_groups[1], named(kDefensive, 1 - team), 1 - team);
+    nameTeam(game, *m_groups[0], named(Text::Offensive, team), team);
+    nameTeam(game, *m_groups[1], named(Text::Defensive, 1 - team), 1 - team);
   }
   m_assist->setVisible(m_question.isAssist());
   m_rebound->setVisible(!m_question.isAssist());
@@ -360,7 +350,7 @@ void FollowUpBar::answer(std::optional<FollowUpQuestion::Answer> answer) {
   emit chosen(*answer, code);
 }
 
-void FollowUpBar::refuse(int text) {
+void FollowUpBar::refuse(Text text) {
   m_ownRefusal = text;
   showTyped();
   flash();
@@ -375,17 +365,17 @@ void FollowUpBar::flash() {
 void FollowUpBar::showTyped() {
   const std::size_t form = m_question.isAssist() ? 0 : 1;
   const bool isRefused = m_question.refusal().has_value();
-  m_titles[form]->setText(caption(m_texts, m_question.isAssist() ? kAssistTitle : kReboundTitle));
+  m_titles[form]->setText(caption(m_texts, m_question.isAssist() ? Text::AssistTitle : Text::ReboundTitle));
   const std::string& typed = m_question.typed();
   m_numbers[form]->setText(typed.empty() ? QString() : toQt(typed) + QLatin1Char('_'));
   QPalette colours = QApplication::palette();
-  if (isRefused || m_ownRefusal != 0)
+  if (isRefused || m_ownRefusal != Text::None)
     colours.setColor(QPalette::WindowText, Theme::missed());
   m_numbers[form]->setPalette(colours);
   m_reason->setPalette(colours);
-  m_reason->setText(isRefused           ? toQt(m_question.reason(m_texts))
-                    : m_ownRefusal != 0 ? caption(m_texts, m_ownRefusal)
-                                        : QString());
+  m_reason->setText(isRefused                    ? toQt(m_question.reason(m_texts))
+                    : m_ownRefusal != Text::None ? caption(m_texts, m_ownRefusal)
+                                                 : QString());
   const bool hasWays = isRefused && m_question.refusal()->stranger;
   m_waysOut[0]->setVisible(hasWays);
   m_waysOut[1]->setVisible(hasWays && m_question.refusal()->canComeIn);
@@ -456,7 +446,7 @@ bool FollowUpBar::ownsKey(const QKeyEvent& event) const {
 
 void FollowUpBar::takeKey(const QKeyEvent& event) {
   const FollowUpKey meaning = meaningOf(event);
-  m_ownRefusal = 0;
+  m_ownRefusal = Text::None;
   m_goingOn.stop();
   m_whole.reset(); // Enter takes it by its mark, all other keys have another mind
   switch (meaning.kind) {
@@ -499,7 +489,7 @@ bool FollowUpBar::takePress(QWidget& widget, const QMouseEvent& event) {
     return false;
   }
   if (!m_sinceOpened.hasExpired(kDeafFor)) {
-    refuse(kTooSoon);
+    refuse(Text::TooSoon);
     return true;
   }
   ignoreSecondPress(at);

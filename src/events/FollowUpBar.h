@@ -62,7 +62,7 @@ class FollowUpBar : public QWidget {
   void dismiss(); // the same, or as "Nobody"
   // A press there has closed what it was made on; a second one is none on what lies below.
   void ignoreSecondPress(const QPoint& globalPlace);
-  void refuse(int text); // in its own line: why something else was not done
+  void refuse(Text text); // in its own line: why something else was not done
 
  signals:
   // After closed(), so that a further question can be asked.
@@ -123,7 +123,7 @@ class FollowUpBar : public QWidget {
   bool m_isTypedOnKeypad = false;
   std::optional<FollowUpQuestion::Answer> m_whole; // by the number typed, unless it goes on
   QTimer m_goingOn;
-  int m_ownRefusal = 0; // text of refuse()
+  Text m_ownRefusal = Text::None; // text of refuse()
   QElapsedTimer m_sinceOpened;
   QElapsedTimer m_sinceAnswer; // by a press
   QPoint m_answeredAt;         // global

@@ -32,37 +32,8 @@ namespace {
 constexpr int kFewestRows = 2; // that notices and the filters leave on a small screen
 constexpr double kRadius = 7;
 
-constexpr int kDelete = 1081;
-constexpr int kUndelete = 1086;
-constexpr int kEvents = 1547;
-constexpr int kChangeTime = 1879;
-constexpr int kSubstituteBefore = 1877;
-constexpr int kSubstituteAfter = 1878;
-constexpr int kNextToCheck = 1884;
-constexpr int kDetach = 2516;
-constexpr int kDeletion = 1910;
-constexpr int kRestoring = 1911;
-constexpr int kEdit = 1912;
-constexpr int kInsertion = 1965;
-constexpr int kToCheck = 1972;
-constexpr int kNothingToCheck = 1973;
-constexpr int kCheckHint = 1974;
-constexpr int kUndo = 1975;
-constexpr int kRedo = 1976;
-constexpr int kNothingToUndo = 1977;
-constexpr int kNothingToRedo = 1978;
-constexpr int kInsertBefore = 1979;
-constexpr int kInsertAfter = 1980;
-constexpr int kFilter = 1981;
-constexpr int kMarkedDoubtful = 2465;
-constexpr int kIsRight = 2491;
-constexpr int kAccept = 2492;
-constexpr int kDoubtful = 2493;
-constexpr int kDeleteWith = 1982;
-constexpr int kDeleteAlone = 1983;
-
-QString withPlaceholder(const Texts& texts, int number, const QString& replacement) {
-  return caption(texts, number).replace(QLatin1String("XXX"), replacement);
+QString withPlaceholder(const Texts& texts, Text which, const QString& replacement) {
+  return caption(texts, which).replace(QLatin1String("XXX"), replacement);
 }
 
 } // namespace
@@ -91,7 +62,7 @@ LiveEventPanel::LiveEventPanel(const Texts& texts, QWidget* parent)
 
 void LiveEventPanel::makeList() {
   m_list = new LiveEventList(QStringLiteral("lvwEVENT"), m_rows, this);
-  setAccessibleNumber(*m_list, kEvents);
+  setAccessibleNumber(*m_list, Text::Events);
   serve(*m_list);
   connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &LiveEventPanel::showCommands);
@@ -121,7 +92,7 @@ void LiveEventPanel::showWindow(bool isOpen) {
     return;
   }
   m_window = new EventWindow(*m_list, this);
-  setAccessibleNumber(m_window->list(), kEvents);
+  setAccessibleNumber(m_window->list(), Text::Events);
   hooptab::relabel(*m_window, m_texts);
   serve(m_window->list());
   // Not while it is closing.
@@ -137,7 +108,7 @@ void LiveEventPanel::nameWindow() {
     return;
   const std::string* names = m_rows.game().details.abbreviation;
   const QString words =
-      QStringLiteral("%1: %2 – %3").arg(caption(m_texts, kEvents), toQt(names[0]), toQt(names[1]));
+      QStringLiteral("%1: %2 – %3").arg(caption(m_texts, Text::Events), toQt(names[0]), toQt(names[1]));
   m_window->setWindowTitle(asTitle(words));
 }
 
@@ -151,10 +122,10 @@ void LiveEventPanel::restoreWindow(const QByteArray& place, bool isOpen) {
   m_detach->setChecked(isOpen && QGuiApplication::screens().size() > 1);
 }
 
-QAction* LiveEventPanel::makeAction(const char* name, int text, const char* iconName) {
+QAction* LiveEventPanel::makeAction(const char* name, Text text, const char* iconName) {
   auto* action = new QAction(icon(QLatin1String(iconName)), {}, this);
   action->setObjectName(QLatin1String(name));
-  if (text > 0) {
+  if (text != Text::None) {
     setTextNumber(*action, text);
     setToolTipNumber(*action, text);
   }
@@ -162,19 +133,19 @@ QAction* LiveEventPanel::makeAction(const char* name, int text, const char* icon
 }
 
 QWidget* LiveEventPanel::makeButtons() {
-  m_delete = makeAction("cmdDELETE", kDelete, "delete");
-  m_undelete = makeAction("cmdUNDELETE", kUndelete, "undelete");
-  m_edit = makeAction("cmdEDIT", kEdit, "edit");
-  m_insertBefore = makeAction("cmdINSERTBEFORE", kInsertBefore, "insertbefore");
-  m_insertAfter = makeAction("cmdINSERTAFTER", kInsertAfter, "insertafter");
-  m_time = makeAction("cmdTIME", kChangeTime, "edit");
-  m_doubt = makeAction("cmdDOUBT", kDoubtful, "doubtful");
-  m_substituteBefore = makeAction("cmdSUBSTBEFORE", kSubstituteBefore, "insertbefore");
-  m_substituteAfter = makeAction("cmdSUBSTAFTER", kSubstituteAfter, "insertafter");
-  m_undo = makeAction("cmdUNDO", 0, "undo");
-  m_redo = makeAction("cmdREDO", 0, "redo");
-  m_filter = makeAction("cmdFILTER", kFilter, "filter");
-  m_detach = makeAction("cmdDETACH", kDetach, "detach");
+  m_delete = makeAction("cmdDELETE", Text::Delete, "delete");
+  m_undelete = makeAction("cmdUNDELETE", Text::Undelete, "undelete");
+  m_edit = makeAction("cmdEDIT", Text::Edit, "edit");
+  m_insertBefore = makeAction("cmdINSERTBEFORE", Text::InsertBefore, "insertbefore");
+  m_insertAfter = makeAction("cmdINSERTAFTER", Text::InsertAfter, "insertafter");
+  m_time = makeAction("cmdTIME", Text::ChangeTime, "edit");
+  m_doubt = makeAction("cmdDOUBT", Text::DoubtfulOrNot, "doubtful");
+  m_substituteBefore = makeAction("cmdSUBSTBEFORE", Text::SubstituteBefore, "insertbefore");
+  m_substituteAfter = makeAction("cmdSUBSTAFTER", Text::SubstituteAfter, "insertafter");
+  m_undo = makeAction("cmdUNDO", Text::None, "undo");
+  m_redo = makeAction("cmdREDO", Text::None, "redo");
+  m_filter = makeAction("cmdFILTER", Text::FilterTip, "filter");
+  m_detach = makeAction("cmdDETACH", Text::DetachTip, "detach");
   for (QAction* action : {m_filter, m_detach})
     action->setCheckable(true);
   m_delete->setShortcut(QKeySequence::Delete);
@@ -325,10 +296,10 @@ void LiveEventPanel::showChecks() {
   m_checks->setEnabled(count > 0);
   m_checks->setVisible(count > 0);
   m_checks->setText(QStringLiteral("⚠ %1").arg(count));
-  const QString words = count > 0 ? withPlaceholder(m_texts, kToCheck, QString::number(count))
-                                  : caption(m_texts, kNothingToCheck);
+  const QString words = count > 0 ? withPlaceholder(m_texts, Text::ToCheck, QString::number(count))
+                                  : caption(m_texts, Text::NothingToCheck);
   m_checks->setAccessibleName(words);
-  m_checks->setToolTip(words + u'\n' + caption(m_texts, kCheckHint));
+  m_checks->setToolTip(words + u'\n' + caption(m_texts, Text::ToCheckTip));
   QPalette colours;
   colours.setColor(QPalette::Button, Theme::look().warningGround);
   colours.setColor(QPalette::ButtonText, Theme::look().warningText);
@@ -353,12 +324,12 @@ void LiveEventPanel::showCommands() {
        {m_edit, m_time, m_doubt, m_insertBefore, m_insertAfter, m_substituteBefore, m_substituteAfter})
     action->setEnabled(canEdit && isUnderstood && current());
   const std::optional<LiveAction> undo = canEdit ? m_game->toUndo() : std::nullopt;
-  showTurn(*m_undo, undo ? &*undo : nullptr, kUndo, kNothingToUndo);
-  showTurn(*m_redo, canEdit ? m_game->toRedo() : nullptr, kRedo, kNothingToRedo);
+  showTurn(*m_undo, undo ? &*undo : nullptr, Text::UndoWhat, Text::NothingToUndo);
+  showTurn(*m_redo, canEdit ? m_game->toRedo() : nullptr, Text::RedoWhat, Text::NothingToRedo);
 }
 
 // "Undo: Deletion (LYNX 12 ● 2 points)"; what was recorded is named by its event alone.
-void LiveEventPanel::showTurn(QAction& action, const LiveAction* turned, int text, int nothing) const {
+void LiveEventPanel::showTurn(QAction& action, const LiveAction* turned, Text text, Text nothing) const {
   action.setEnabled(turned != nullptr);
   QString words;
   if (turned != nullptr) {
@@ -368,7 +339,7 @@ void LiveEventPanel::showTurn(QAction& action, const LiveAction* turned, int tex
     });
     if (found != events.end())
       words = toQt(m_rows.words().shortWords(static_cast<std::size_t>(found - events.begin())));
-    constexpr std::array kNamed = {kDeletion, kRestoring, kEdit, kInsertion};
+    constexpr std::array kNamed = {Text::Deletion, Text::Restoring, Text::Edit, Text::Insertion};
     if (words.isEmpty() || std::ranges::find(kNamed, turned->text) != kNamed.end())
       words = caption(m_texts, turned->text) + (words.isEmpty() ? words : QStringLiteral(" (%1)").arg(words));
   }
@@ -483,10 +454,11 @@ void LiveEventPanel::offerRepairs(std::size_t event, const QPoint& corner) {
   const auto add = [menu](std::string_view words) { return menu->addAction(withoutMnemonic(toQt(words))); };
   const EventPlace place = placeOf(event);
   if (m_rows.game().events[event].isDoubtful) {
-    add(m_texts.text(kMarkedDoubtful))->setEnabled(false);
-    connect(add(m_texts.text(kIsRight)), &QAction::triggered, this,
+    add(m_texts.text(Text::MarkedDoubtful))->setEnabled(false);
+    connect(add(m_texts.text(Text::IsRight)), &QAction::triggered, this,
             [this, place] { emit doubtAsked(place, false); });
-    connect(add(m_texts.text(kEdit)), &QAction::triggered, this, [this, place] { emit editAsked(place); });
+    connect(add(m_texts.text(Text::Edit)), &QAction::triggered, this,
+            [this, place] { emit editAsked(place); });
     menu->addSeparator();
   }
   const bool isLast = toCheck().size() < 2;
@@ -499,12 +471,12 @@ void LiveEventPanel::offerRepairs(std::size_t event, const QPoint& corner) {
       connect(add(wordsOf(offered, m_rows.game(), m_texts)), &QAction::triggered, this,
               [this, offered] { repair(offered); });
     if (!finding.isWrong()) // what cannot be so stays so
-      connect(add(m_texts.text(kAccept)), &QAction::triggered, this,
+      connect(add(m_texts.text(Text::AcceptAsItIs)), &QAction::triggered, this,
               [this, place, number = static_cast<int>(finding.kind)] { emit acceptAsked(place, number); });
     menu->addSeparator();
   }
   if (!isLast)
-    connect(add(m_texts.text(kNextToCheck)), &QAction::triggered, this, &LiveEventPanel::leadToCheck,
+    connect(add(m_texts.text(Text::NextToCheck)), &QAction::triggered, this, &LiveEventPanel::leadToCheck,
             Qt::QueuedConnection); // when this menu has closed
   menu->popup(corner);
 }
@@ -547,8 +519,8 @@ void LiveEventPanel::askDeletion() {
     connect(menu->addAction(withoutMnemonic(text)), &QAction::triggered, this,
             [this, places] { emit deleteAsked(places, true); });
   };
-  offer(withPlaceholder(m_texts, kDeleteWith, words.join(QStringLiteral(", "))), together);
-  offer(caption(m_texts, kDeleteAlone), events);
+  offer(withPlaceholder(m_texts, Text::DeleteWith, words.join(QStringLiteral(", "))), together);
+  offer(caption(m_texts, Text::DeleteAlone), events);
   const bool isInWindow = m_window != nullptr && m_window->underMouse();
   const LiveEventList& list = isInWindow ? m_window->list() : *m_list;
   menu->popup(list.cornerUnder(m_rows.rowOf(chosenEvents.front())));

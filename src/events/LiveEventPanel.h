@@ -62,7 +62,7 @@ class LiveEventPanel : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QAction* makeAction(const char* name, int text, const char* iconName);
+  QAction* makeAction(const char* name, Text text, const char* iconName);
   QWidget* makeButtons();
   void makeList();
   void serve(LiveEventList& list);
@@ -70,7 +70,7 @@ class LiveEventPanel : public QWidget {
   void nameWindow();
   void showChecks();
   void showCommands();
-  void showTurn(QAction& action, const LiveAction* turned, int text, int nothing) const;
+  void showTurn(QAction& action, const LiveAction* turned, Text text, Text nothing) const;
   std::vector<std::size_t> toCheck() const; // in the order of the game
   void select(const std::vector<EventPlace>& events, const std::optional<EventPlace>& current);
   void offerRepairs(std::size_t event, const QPoint& corner);

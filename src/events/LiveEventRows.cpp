@@ -9,13 +9,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kFoul = 2576;
-constexpr int kTechnical = 2577;
-constexpr int kTeamFoul = 2578;
-
-} // namespace
+namespace {} // namespace
 
 LiveEventRows::LiveEventRows(const Texts& texts, QObject* parent)
     : QSortFilterProxyModel(parent), m_texts(texts), m_events(texts, EventListModel::Words::Short) {
@@ -143,9 +137,9 @@ LiveEventRow LiveEventRows::whole(std::size_t place) const {
                                                        : QStringLiteral("■ "));
   }
   if (const FoulNumber& foul = m_ofEvents[place].foul; foul.ofPlayer > 0) {
-    row.action = caption(m_texts, event.code == EventCode::STF ? kTechnical : kFoul);
+    row.action = caption(m_texts, event.code == EventCode::STF ? Text::Technical : Text::Foul);
     row.extra = toQt(ordinalText(foul.ofPlayer, m_texts));
-    row.tail = toQt(m_texts.withPlaceholder(kTeamFoul, std::to_string(foul.ofTeam)));
+    row.tail = toQt(m_texts.withPlaceholder(Text::TeamFoul, std::to_string(foul.ofTeam)));
   }
   row.isShot = event.isUnderstood && event.isShot();
   row.isMade = event.isMade;

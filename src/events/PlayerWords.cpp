@@ -9,13 +9,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kBench = 1554;
-constexpr int kOnCourt = 1950;
-constexpr int kFouledOut = 1951;
-
-} // namespace
+namespace {} // namespace
 
 void showPlayerWords(QWidget& widget, const LiveGame& game, int team, int player, const Texts& texts) {
   const RosterPlayer* const entry = game.game().roster[team].player(player);
@@ -24,9 +18,10 @@ void showPlayerWords(QWidget& widget, const LiveGame& game, int team, int player
   const Counters& counters =
       game.state().players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)].counters;
   QString name = toQt(entry->jersey + " " + entry->name);
-  name += QStringLiteral(", ") + toQt(texts.text(game.slotOf(team, player) ? kOnCourt : kBench));
+  name +=
+      QStringLiteral(", ") + toQt(texts.text(game.slotOf(team, player) ? Text::OnCourtWord : Text::Bench));
   if (game.isFouledOut(team, player))
-    name += QStringLiteral(", ") + toQt(texts.text(kFouledOut));
+    name += QStringLiteral(", ") + toQt(texts.text(Text::FouledOut));
 
   QString counts = toQt(positionText(entry->position, texts));
   counts +=

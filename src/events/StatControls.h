@@ -12,37 +12,37 @@ namespace hooptab {
 struct ShotControls {
   EventCode code;
   const char* button;
-  int toolTip;
+  Text toolTip;
   const char *made, *attempts, *points;
 };
 inline constexpr std::array kShotControls = {
-    ShotControls{EventCode::GFT, "cmdBUTFT", 1091, "lblFT", "lblFTa", "lblFTpts"},
-    ShotControls{EventCode::GLG, "cmdBUTLUG", 1094, "lblLUG", "lblLUGa", "lblLUGpts"},
-    ShotControls{EventCode::GLD, "cmdBUTLUD", 1090, "lblLUD", "lblLUDa", "lblLUDpts"},
-    ShotControls{EventCode::GPB, "cmdBUTPB", 1092, "lblPB", "lblPBa", "lblPBpts"},
-    ShotControls{EventCode::GDK, "cmdBUTDK", 1093, "lblDK", "lblDKA", "lblDKpts"},
-    ShotControls{EventCode::GFG, nullptr, 0, "lblFG", "lblFGA", "lblFGpts"},
-    ShotControls{EventCode::GF3, nullptr, 0, "lblF3", "lblF3a", "lblF3pts"},
+    ShotControls{EventCode::GFT, "cmdBUTFT", Text::FreeThrowTip, "lblFT", "lblFTa", "lblFTpts"},
+    ShotControls{EventCode::GLG, "cmdBUTLUG", Text::LayupLeftTip, "lblLUG", "lblLUGa", "lblLUGpts"},
+    ShotControls{EventCode::GLD, "cmdBUTLUD", Text::LayupRightTip, "lblLUD", "lblLUDa", "lblLUDpts"},
+    ShotControls{EventCode::GPB, "cmdBUTPB", Text::PutBackTip, "lblPB", "lblPBa", "lblPBpts"},
+    ShotControls{EventCode::GDK, "cmdBUTDK", Text::DunkTip, "lblDK", "lblDKA", "lblDKpts"},
+    ShotControls{EventCode::GFG, nullptr, Text::None, "lblFG", "lblFGA", "lblFGpts"},
+    ShotControls{EventCode::GF3, nullptr, Text::None, "lblF3", "lblF3a", "lblF3pts"},
 };
 
 struct ActionControls {
   EventCode code;
   const char* button;
-  int toolTip; // 0: the user's own label
+  Text toolTip; // none: the user's own label
   const char* count;
 };
 // Row by row, two in each.
 inline constexpr std::array kActionControls = {
-    ActionControls{EventCode::SPF, "cmdBUTF", 1096, "lblFAUTE"},
-    ActionControls{EventCode::STF, "cmdBUTTF", 1097, "lblTFAUTE"},
-    ActionControls{EventCode::SOR, "cmdBUTORB", 1101, "lblORB"},
-    ActionControls{EventCode::SDR, "cmdBUTDRB", 1100, "lblDRB"},
-    ActionControls{EventCode::SA, "cmdBUTA", 1102, "lblA"},
-    ActionControls{EventCode::STO, "cmdBUTTO", 1103, "lblTO"},
-    ActionControls{EventCode::SST, "cmdBUTST", 1099, "lblST"},
-    ActionControls{EventCode::SBS, "cmdBUTBS", 1098, "lblBS"},
-    ActionControls{EventCode::SU1, "cmdBUTU1", 0, "lblAUTRE"},
-    ActionControls{EventCode::SU2, "cmdBUTU2", 0, "lblAUTRE2"},
+    ActionControls{EventCode::SPF, "cmdBUTF", Text::PersonalFoulTip, "lblFAUTE"},
+    ActionControls{EventCode::STF, "cmdBUTTF", Text::TechnicalFoulTip, "lblTFAUTE"},
+    ActionControls{EventCode::SOR, "cmdBUTORB", Text::OffensiveReboundTip, "lblORB"},
+    ActionControls{EventCode::SDR, "cmdBUTDRB", Text::DefensiveReboundTip, "lblDRB"},
+    ActionControls{EventCode::SA, "cmdBUTA", Text::AssistTip, "lblA"},
+    ActionControls{EventCode::STO, "cmdBUTTO", Text::TurnoverTip, "lblTO"},
+    ActionControls{EventCode::SST, "cmdBUTST", Text::StealTip, "lblST"},
+    ActionControls{EventCode::SBS, "cmdBUTBS", Text::BlockedShotTip, "lblBS"},
+    ActionControls{EventCode::SU1, "cmdBUTU1", Text::None, "lblAUTRE"},
+    ActionControls{EventCode::SU2, "cmdBUTU2", Text::None, "lblAUTRE2"},
 };
 
 } // namespace hooptab

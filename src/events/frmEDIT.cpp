@@ -28,19 +28,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTime = 1024;
-constexpr int kClose = 1088;
-constexpr int kAccept = 1089;
-constexpr int kPlayer = 1593;
-constexpr int kKind = 1595;
-constexpr int kOtherZone = 1885;
-constexpr int kEdit = 1912;
-constexpr int kInsertion = 1965;
-constexpr int kMade = 1514;
-constexpr int kMissed = 1515;
-constexpr int kCourtHint = 1095;
-constexpr int kClockForm = 2512;
-constexpr int kNameFirst = 2704;
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
 constexpr int kMostSeconds = 99 * 60 + 59; // that can be typed; the game knows its periods
@@ -52,7 +39,7 @@ frmEDIT::frmEDIT(const LiveGame& game, const EventPlace& place, Purpose purpose,
                  const Texts& texts, QWidget* parent)
     : QDialog(parent), m_purpose(purpose), m_game(game.game()), m_settings(settings), m_texts(texts) {
   setObjectName(QStringLiteral("frmEDIT"));
-  setTextNumber(*this, purpose == Purpose::Change ? kEdit : kInsertion);
+  setTextNumber(*this, purpose == Purpose::Change ? Text::Edit : Text::Insertion);
   setModal(true);
   makeFields();
   makeLayout();
@@ -94,7 +81,7 @@ void frmEDIT::makeFields() {
   m_time->setObjectName(QStringLiteral("txtTEMPS"));
   static const QRegularExpression kClock(QStringLiteral("[0-9]{1,2}(:?[0-5][0-9])?")); // as typedClock
   m_time->setValidator(new QRegularExpressionValidator(kClock, m_time));
-  setToolTipNumber(*m_time, kClockForm);
+  setToolTipNumber(*m_time, Text::ClockFormTip);
   m_player = new QComboBox(this);
   m_player->setObjectName(QStringLiteral("cmbPLAYER"));
   const EventWords words(m_game, m_texts);
@@ -113,12 +100,12 @@ void frmEDIT::makeFields() {
   m_made = new QCheckBox(this);
   m_made->setObjectName(QStringLiteral("chkMADE"));
   m_made->setChecked(true);
-  setTextNumber(*m_made, kMade);
+  setTextNumber(*m_made, Text::Made);
   m_court = new MiniCourt(m_settings, this);
   m_court->setObjectName(QStringLiteral("CourtJ(10)"));
   m_court->setFixedSize(m_court->sizeHint());
-  setToolTipNumber(*m_court, kCourtHint);
-  setAccessibleNumber(*m_court, kCourtHint);
+  setToolTipNumber(*m_court, Text::CourtTip);
+  setAccessibleNumber(*m_court, Text::CourtTip);
   m_shot = new PlainLabel(this);
   m_shot->setObjectName(QStringLiteral("lbleditshot"));
   m_xy = new PlainLabel(this);
@@ -127,11 +114,11 @@ void frmEDIT::makeFields() {
   m_nameFirst->setObjectName(QStringLiteral("lblNAMEFIRST"));
   m_nameFirst->setForegroundRole(QPalette::PlaceholderText);
   m_nameFirst->hide();
-  setTextNumber(*m_nameFirst, kNameFirst);
+  setTextNumber(*m_nameFirst, Text::NameFirst);
   m_accept = new QPushButton(this);
   m_accept->setObjectName(QStringLiteral("cmdOK"));
   m_accept->setDefault(true);
-  setTextNumber(*m_accept, kAccept);
+  setTextNumber(*m_accept, Text::Accept);
 
   connect(m_court, &MiniCourt::pressed, this, &frmEDIT::pressCourt);
   connect(m_player, &QComboBox::currentIndexChanged, this, &frmEDIT::showAccept);
@@ -150,7 +137,7 @@ void frmEDIT::showAccept() {
   m_nameFirst->setVisible(needsPlayer && !isNamed);
 }
 
-StatButton* frmEDIT::makeButton(EventCode code, const char* name, int toolTip) {
+StatButton* frmEDIT::makeButton(EventCode code, const char* name, Text toolTip) {
   const QSize size(Theme::measure()(40, 50), Theme::measure()(24, 30));
   const EventKind& kind = *kindOf(code);
   auto* button = new StatButton(kind.isShot ? StatButton::Records::Shot : StatButton::Records::Action,
@@ -158,7 +145,7 @@ StatButton* frmEDIT::makeButton(EventCode code, const char* name, int toolTip) {
   button->setObjectName(QStringLiteral("%1(10)").arg(QLatin1String(name)));
   button->setFixedSize(size);
   button->setColour(colourOf(m_settings.buttonColour));
-  setToolTipNumber(*button, toolTip > 0 ? toolTip : kind.wordsText);
+  setToolTipNumber(*button, toolTip != Text::None ? toolTip : kind.wordsText);
   setAccessibleNumber(*button, kind.wordsText);
   connect(button, &StatButton::recorded, this, [this, code](bool isMade) { take(code, isMade); });
   m_buttons.push_back(button);
@@ -188,14 +175,15 @@ QLayout* frmEDIT::makeButtons() {
 void frmEDIT::makeLayout() {
   auto* close = new QPushButton(this);
   close->setObjectName(QStringLiteral("cmdCLOSE"));
-  setTextNumber(*close, kClose);
+  setTextNumber(*close, Text::Close);
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
 
   auto* fields = new QGridLayout;
   fields->setSpacing(kGap);
   int row = 0;
-  for (const auto& [field, text] :
-       {std::pair<QWidget*, int>(m_time, kTime), {m_player, kPlayer}, {m_kind, kKind}}) {
+  for (const auto& [field, text] : {std::pair<QWidget*, Text>(m_time, Text::Time),
+                                    {m_player, Text::Player},
+                                    {m_kind, Text::KindOfEvent}}) {
     fields->addWidget(captionFor(*field, text), row, 0);
     fields->addWidget(field, row++, 1);
   }
@@ -270,12 +258,12 @@ void frmEDIT::showShot() {
   m_made->setEnabled(kind != nullptr && kind->isShot);
   m_shot->setText(kind == nullptr || !kind->isShot
                       ? QString()
-                      : caption(m_texts, isMade ? kMade : kMissed) +
+                      : caption(m_texts, isMade ? Text::Made : Text::Missed) +
                             QStringLiteral(" (%1)").arg(caption(m_texts, kind->wordsText)));
   m_xy->setText(hasPlace ? QStringLiteral("%1, %2").arg(int(m_place->first)).arg(int(m_place->second))
                          : QString());
   if (hasPlace && !fitsZone(kind->code))
-    m_xy->setText(m_xy->text() + QStringLiteral(" \u2013 ") + caption(m_texts, kOtherZone));
+    m_xy->setText(m_xy->text() + QStringLiteral(" \u2013 ") + caption(m_texts, Text::OtherZone));
   std::vector<LivePanel::ShotMark> marks;
   if (hasPlace)
     marks.push_back({{m_place->first, m_place->second}, isMade});

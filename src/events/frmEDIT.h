@@ -42,7 +42,7 @@ class frmEDIT : public QDialog {
  private:
   void makeFields();
   QLayout* makeButtons();
-  StatButton* makeButton(EventCode code, const char* name, int toolTip);
+  StatButton* makeButton(EventCode code, const char* name, Text toolTip);
   void makeLayout();
   void fill(const GameEvent& event);
   void pressCourt(QPointF place, bool isMade);

@@ -15,15 +15,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kTitle = 2560;
-constexpr int kNumber = 2587;
-constexpr int kName = 2588;
-constexpr int kAdd = 2589;
-constexpr int kCancel = 1128;
-
-} // namespace
+namespace {} // namespace
 
 frmPLAYER::frmPLAYER(const QString& team, Add add, const Texts& texts, QWidget* parent)
     : QDialog(parent), m_add(std::move(add)), m_jersey(new QLineEdit(this)), m_name(new QLineEdit(this)),
@@ -39,18 +31,18 @@ frmPLAYER::frmPLAYER(const QString& team, Add add, const Texts& texts, QWidget* 
   m_problem->setWordWrap(true);
   m_problem->setMinimumHeight(2 * m_problem->fontMetrics().height()); // nothing moves when it speaks
   auto* fields = new QGridLayout;
-  fields->addWidget(captionFor(*m_jersey, kNumber), 0, 0);
-  fields->addWidget(captionFor(*m_name, kName), 0, 1);
+  fields->addWidget(captionFor(*m_jersey, Text::Jersey), 0, 0);
+  fields->addWidget(captionFor(*m_name, Text::NameMayBeEmpty), 0, 1);
   fields->addWidget(m_jersey, 1, 0);
   fields->addWidget(m_name, 1, 1);
   auto* answer = new QPushButton(this);
   answer->setObjectName(QStringLiteral("cmdADD"));
   answer->setDefault(true);
-  setTextNumber(*answer, kAdd);
+  setTextNumber(*answer, Text::Add);
   auto* cancel = new QPushButton(this);
   cancel->setObjectName(QStringLiteral("cmdCANCEL"));
   cancel->setAutoDefault(false);
-  setTextNumber(*cancel, kCancel);
+  setTextNumber(*cancel, Text::Cancel);
   connect(answer, &QPushButton::clicked, this, &frmPLAYER::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   auto* answers = new QHBoxLayout;
@@ -62,7 +54,7 @@ frmPLAYER::frmPLAYER(const QString& team, Add add, const Texts& texts, QWidget* 
   layout->addWidget(m_problem);
   layout->addLayout(answers);
   relabel(*this, texts);
-  setWindowTitle(QStringLiteral("%1 – %2").arg(caption(texts, kTitle), asTitle(team)));
+  setWindowTitle(QStringLiteral("%1 – %2").arg(caption(texts, Text::AddPlayer), asTitle(team)));
 }
 
 void frmPLAYER::accept() {

@@ -25,21 +25,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kPlace = 1876;
-constexpr int kTitle = 1947;
-constexpr int kWhoBegins = 2525;
-constexpr int kCancel = 1128;
-constexpr int kLines = 1954;
-constexpr int kLineTip = 1955;
-constexpr int kHint = 1956;
-constexpr int kCountName = 1957;
-constexpr int kLeavesWord = 1959;
-constexpr int kComesWord = 1960;
-constexpr int kAcceptTip = 1961;
-constexpr int kCancelTip = 1962;
-constexpr int kAccept = 1963;
-constexpr int kTypingHint = 2513;
-
 constexpr int kColumns = 5;
 constexpr int kMargin = 10;
 constexpr int kGap = 2;
@@ -98,7 +83,7 @@ frmSUBST::frmSUBST(const LiveGame& game, const PastSubstitution& past, const Tex
 
 void frmSUBST::makeContents() {
   setObjectName(QStringLiteral("frmSUBST"));
-  setTextNumber(*this, kTitle);
+  setTextNumber(*this, Text::SeveralTitle);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   if (m_past) {
@@ -107,7 +92,7 @@ void frmSUBST::makeContents() {
     auto* title = new PlainLabel(this);
     Theme::setType(*title, Type::Count, QFont::DemiBold);
     const bool isBeginning = m_choice.count(0) + m_choice.count(1) == 0;
-    setTextNumber(*title, isBeginning ? kWhoBegins : kTitle);
+    setTextNumber(*title, isBeginning ? Text::WhoBegins : Text::SeveralTitle);
     layout->addWidget(title);
   }
   auto* teams = new QGridLayout;
@@ -143,7 +128,7 @@ void frmSUBST::addPlace(QBoxLayout& layout) {
   place->setObjectName(QStringLiteral("lblPLACE"));
   Theme::setType(*place, Type::Body, QFont::Bold);
   const std::string words =
-      m_texts.withPlaceholder(kPlace, placeWords(m_past->event, m_game.game(), m_texts));
+      m_texts.withPlaceholder(Text::SubstitutionAt, placeWords(m_past->event, m_game.game(), m_texts));
   place->setText(toQt(words));
   setWindowTitle(asTitle(place->text()));
   layout.addWidget(place);
@@ -160,7 +145,7 @@ void frmSUBST::addTeam(QGridLayout& layout, int team) {
   m_counts[t] = new PlainLabel(this);
   m_counts[t]->setObjectName(QStringLiteral("lblCOUNT(%1)").arg(team));
   Theme::setType(*m_counts[t], Type::Count, QFont::Bold);
-  setToolTipNumber(*m_counts[t], kCountName);
+  setToolTipNumber(*m_counts[t], Text::CountName);
   m_counts[t]->setFixedWidth(Theme::measure()(52, 66)); // 5/5 and 10/5 alike
   m_counts[t]->setAlignment(Qt::AlignCenter);
   auto* head = new QHBoxLayout;
@@ -168,7 +153,7 @@ void frmSUBST::addTeam(QGridLayout& layout, int team) {
   head->addWidget(m_counts[t]);
   layout.addLayout(head, row, 0);
   auto* title = new PlainLabel(this);
-  setTextNumber(*title, kLines);
+  setTextNumber(*title, Text::LinesPlayed);
   title->setVisible(!m_choice.lines(team).empty());
   layout.addWidget(title, row, 1);
 
@@ -203,7 +188,7 @@ QWidget* frmSUBST::makeLines(int team) {
     button->setAutoDefault(false);
     button->setFixedHeight(lineHeight());
     button->setToolTip(
-        toQt(m_texts.withPlaceholder(kLineTip, Module1::clockText(std::max(lines[line].seconds, 0)))));
+        toQt(m_texts.withPlaceholder(Text::LineTip, Module1::clockText(std::max(lines[line].seconds, 0)))));
     connect(button, &QPushButton::pressed, this, [this, team, line] {
       m_choice.takeLine(team, line);
       showChoice();
@@ -299,9 +284,9 @@ QWidget* frmSUBST::makeAnswers() {
   layout->setContentsMargins(0, kGap, 0, 0);
   auto* hint = new PlainLabel(row);
   hint->setForegroundRole(QPalette::PlaceholderText);
-  setTextNumber(*hint, kHint);
+  setTextNumber(*hint, Text::SubstitutionHint);
   layout->addWidget(hint, 1);
-  const auto addAnswer = [&](const char* name, int text, int toolTip) {
+  const auto addAnswer = [&](const char* name, Text text, Text toolTip) {
     auto* button = new QPushButton(row);
     button->setObjectName(QLatin1String(name));
     setTextNumber(*button, text);
@@ -309,9 +294,9 @@ QWidget* frmSUBST::makeAnswers() {
     layout->addWidget(button);
     return button;
   };
-  m_accept = addAnswer("cmdOK", kAccept, kAcceptTip);
+  m_accept = addAnswer("cmdOK", Text::Confirm, Text::AcceptTip);
   m_accept->setDefault(true);
-  QPushButton* cancel = addAnswer("cmdCANCEL", kCancel, kCancelTip);
+  QPushButton* cancel = addAnswer("cmdCANCEL", Text::Cancel, Text::CancelTip);
   cancel->setAutoDefault(false);
   connect(m_accept, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -340,8 +325,8 @@ void frmSUBST::showChoice() {
                               : stays           ? Comes
                                                 : Leaves});
       button.setChecked(stays);
-      button.setAccessibleDescription(stays == wasThere ? QString()
-                                                        : caption(m_texts, stays ? kComesWord : kLeavesWord));
+      button.setAccessibleDescription(
+          stays == wasThere ? QString() : caption(m_texts, stays ? Text::ComesIn : Text::Leaves));
     }
     const int count = m_choice.count(team);
     m_counts[t]->setText(QStringLiteral("%1/%2").arg(count).arg(kMostOnCourt));
@@ -370,7 +355,7 @@ void frmSUBST::showTyped() {
   colourBand(*m_typedTeam, m_game, m_line.team());
   m_typed->setText(toQt(m_line.typed()) + QLatin1Char('_'));
   const std::string words = m_line.words(m_texts);
-  m_words->setText(words.empty() ? caption(m_texts, kTypingHint) : toQt(words));
+  m_words->setText(words.empty() ? caption(m_texts, Text::TypingHint) : toQt(words));
   m_words->setToolTip(m_words->text());
   QPalette colours = palette();
   if (m_line.isRefused())

@@ -16,13 +16,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kDoubtsLeft = 2313;
-constexpr int kNoDoubtLeft = 2314;
-constexpr int kNextDoubt = 2315; // each of the three with its tool tip behind it
-constexpr int kTicked = 2317;
-constexpr int kNotTicked = 2319;
-constexpr int kDoubts = 2321;
-
 constexpr int kGap = 6;
 constexpr int kSmallestList = 44;
 
@@ -35,11 +28,11 @@ DoubtList::DoubtList(const CheckedSheet& sheet, const Texts& texts, CellWords wo
   m_list->setObjectName(QStringLiteral("lstDOUBT"));
   m_list->setMinimumHeight(kSmallestList);
   m_list->installEventFilter(this);
-  setAccessibleNumber(*m_list, kDoubts);
-  setToolTipNumber(*m_list, kDoubts);
-  auto* ticked = iconButton("cmdTICKED", kTicked, kTicked + 1, "checkall", this);
-  auto* notTicked = iconButton("cmdNOTTICKED", kNotTicked, kNotTicked + 1, "uncheckall", this);
-  auto* next = iconButton("cmdNEXTDOUBT", kNextDoubt, kNextDoubt + 1, "tocheck", this);
+  setAccessibleNumber(*m_list, Text::Doubts);
+  setToolTipNumber(*m_list, Text::Doubts);
+  auto* ticked = iconButton("cmdTICKED", Text::TickedButton, Text::TickedTip, "checkall", this);
+  auto* notTicked = iconButton("cmdNOTTICKED", Text::NotTickedButton, Text::NotTickedTip, "uncheckall", this);
+  auto* next = iconButton("cmdNEXTDOUBT", Text::NextDoubt, Text::NextDoubtTip, "tocheck", this);
   auto* row = new QHBoxLayout;
   row->setSpacing(kGap);
   row->addWidget(m_count, 1);
@@ -95,8 +88,8 @@ void DoubtList::showDoubts() {
     m_list->item(static_cast<int>(row))->setText(state + u"  " + m_words(cell));
   }
   const int open = m_sheet.openCells();
-  m_count->setText(open == 0 ? caption(m_texts, kNoDoubtLeft)
-                             : toQt(withPlaceholders(m_texts.text(kDoubtsLeft), std::to_string(open),
+  m_count->setText(open == 0 ? caption(m_texts, Text::NoDoubtLeft)
+                             : toQt(withPlaceholders(m_texts.text(Text::DoubtsLeft), std::to_string(open),
                                                      std::to_string(m_cells.size()))));
   QPalette colours;
   if (open > 0)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/EventKind.h"
+#include "settings/Text.h"
 
 #include <array>
 #include <cstdint>
@@ -40,6 +41,9 @@ struct FormIdentifier {
   // 1..4095, equal for equal names.
   [[nodiscard]] static int teamNumber(std::string_view abbreviation, std::string_view category);
 };
+
+// The places of a jersey number's digits, in words.
+inline constexpr Text kDigitPlaces[] = {Text::Hundreds, Text::Tens, Text::Units};
 
 struct FormCell {
   enum class Kind : std::uint8_t { JerseyDigit, Made, Missed, Count };

@@ -59,40 +59,40 @@ bool isWithin(const GrayPicture& picture, const FormGrid& grid, const FormCell& 
 
 } // namespace
 
-int textOf(ScanProblem problem) {
+Text textOf(ScanProblem problem) {
   switch (problem) {
   case ScanProblem::None:
-  case ScanProblem::Cancelled: return 0;
-  case ScanProblem::NotAPicture: return 1407;
-  case ScanProblem::TooCoarse: return 1408;
-  case ScanProblem::NoUpperLeftMark: return 1225;
-  case ScanProblem::NoTop: return 1226;
-  case ScanProblem::NoLeft: return 1227;
-  case ScanProblem::NoRight: return 1234;
-  case ScanProblem::NoBottom: return 1235;
-  case ScanProblem::NotReadable: return 1228;
-  case ScanProblem::NotThisForm: return 1236;
-  case ScanProblem::TooFaint: return 2790;
+  case ScanProblem::Cancelled: return Text::None;
+  case ScanProblem::NotAPicture: return Text::NotAPicture;
+  case ScanProblem::TooCoarse: return Text::TooCoarse;
+  case ScanProblem::NoUpperLeftMark: return Text::NoUpperLeftMark;
+  case ScanProblem::NoTop: return Text::NoTopPosition;
+  case ScanProblem::NoLeft: return Text::NoLeftPosition;
+  case ScanProblem::NoRight: return Text::NoRightPosition;
+  case ScanProblem::NoBottom: return Text::NoBottomPosition;
+  case ScanProblem::NotReadable: return Text::ReadError;
+  case ScanProblem::NotThisForm: return Text::InvalidFormat;
+  case ScanProblem::TooFaint: return Text::ScanTooFaint;
   }
-  return 0;
+  return Text::None;
 }
 
-int adviceFor(ScanProblem problem) {
+Text adviceFor(ScanProblem problem) {
   switch (problem) {
   case ScanProblem::NoUpperLeftMark:
   case ScanProblem::NoTop:
   case ScanProblem::NoLeft:
   case ScanProblem::NoRight:
-  case ScanProblem::NoBottom: return 2791;
-  case ScanProblem::NotReadable: return 2792;
-  case ScanProblem::NotThisForm: return 2793;
+  case ScanProblem::NoBottom: return Text::ScanNoBottom;
+  case ScanProblem::NotReadable: return Text::ScanNotReadable;
+  case ScanProblem::NotThisForm: return Text::ScanOtherForm;
   case ScanProblem::None:
   case ScanProblem::Cancelled:
   case ScanProblem::NotAPicture:
   case ScanProblem::TooCoarse:
   case ScanProblem::TooFaint: break;
   }
-  return 0;
+  return Text::None;
 }
 
 PicturePoint FormReading::inPicture(double x, double y) const {
@@ -119,7 +119,7 @@ FormReading FormReader::read(const GrayPicture& picture, const Progress& progres
         way == 0 ? readUpright(picture, onwards) : readUpright(turned(picture, way), onwards);
     reading.quarters = way;
     // Another side up may make it a form, where there are the squares of one.
-    if (adviceFor(reading.problem) == 0 || !reading.showsSquares)
+    if (adviceFor(reading.problem) == Text::None || !reading.showsSquares)
       return reading;
     if (way == 0)
       asItCame = std::move(reading);

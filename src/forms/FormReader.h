@@ -26,9 +26,9 @@ enum class ScanProblem {
   NotThisForm, // the identifier is that of no form, or of a version that is not known
   TooFaint,    // marks, but hardly darker than the paper
 };
-// Numbers of the texts that tell the user what is wrong, and what to do where that does not say it (else 0).
-[[nodiscard]] int textOf(ScanProblem problem);
-[[nodiscard]] int adviceFor(ScanProblem problem);
+// What the user is told is wrong, and what to do where that does not say it (else none).
+[[nodiscard]] Text textOf(ScanProblem problem);
+[[nodiscard]] Text adviceFor(ScanProblem problem);
 
 struct ReadCell {
   double ink = 0; // 0 untouched paper, 1 filled in wholly

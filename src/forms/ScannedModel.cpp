@@ -10,14 +10,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kGameTotal = 1297;
-constexpr int kFormTotal = 1298;
-constexpr int kMadeShort = 1342;
-constexpr int kAttemptedShort = 1343;
-constexpr int kPointsScored = 1708;
-constexpr int kUnderMade = 2292;
-constexpr int kOutOfRange = 2294;
-
 constexpr int kCounts = static_cast<int>(kManualColumns.size());
 constexpr int kPoints = ScannedModel::kFirstCount + kCounts; // the last column
 
@@ -48,7 +40,7 @@ int ScannedModel::columnCount(const QModelIndex& parent) const {
 
 QString ScannedModel::words(int column) const {
   return isCount(column)     ? toQt(counterWords(counted(column), m_game.details(), m_settings, m_texts))
-         : column == kPoints ? caption(m_texts, kPointsScored)
+         : column == kPoints ? caption(m_texts, Text::PointsScored)
                              : QString();
 }
 
@@ -77,7 +69,7 @@ QVariant ScannedModel::data(const QModelIndex& index, int role) const {
     return {};
   switch (role) {
   case Qt::DisplayRole:
-    return column < kFirstCount ? caption(m_texts, isForm ? kFormTotal : kGameTotal)
+    return column < kFirstCount ? caption(m_texts, isForm ? Text::FormTotal : Text::GameTotal)
                                 : countText(player, line, column);
   case Qt::EditRole:
     return isForm && isCount(column)
@@ -89,7 +81,7 @@ QVariant ScannedModel::data(const QModelIndex& index, int role) const {
   case Qt::StatusTipRole: return words(column);
   case Qt::AccessibleTextRole:
     return QStringLiteral("%1, %2: %3")
-        .arg(caption(m_texts, isForm ? kFormTotal : kGameTotal), words(column),
+        .arg(caption(m_texts, isForm ? Text::FormTotal : Text::GameTotal), words(column),
              column < kFirstCount ? QString() : countText(player, line, column));
   case Qt::FontRole:
     return column < kFirstCount ? QVariant() : Theme::font(Type::Body, isForm ? QFont::Bold : QFont::Normal);
@@ -112,7 +104,8 @@ QVariant ScannedModel::headerData(int section, Qt::Orientation orientation, int 
     return QStringLiteral("PTS\n");
   const EventKind& kind = *kindOf(counted(section).code);
   const QString second =
-      !kind.isShot ? QString() : toQt(m_texts.text(counted(section).isMade ? kMadeShort : kAttemptedShort));
+      !kind.isShot ? QString()
+                   : toQt(m_texts.text(counted(section).isMade ? Text::MadeShort : Text::AttemptedShort));
   return QString(toQt(kind.shortName) + u'\n' + second);
 }
 
@@ -138,7 +131,7 @@ bool ScannedModel::setData(const QModelIndex& index, const QVariant& value, int 
   if (!isInRange || !m_scanned.sheet.typeCount(player, column.counter, count)) {
     const int made = m_scanned.sheet.count(player, kindOf(column.code)->counter).value;
     emit refused(
-        toQt(m_texts.withPlaceholder(isInRange ? kUnderMade : kOutOfRange,
+        toQt(m_texts.withPlaceholder(isInRange ? Text::UnderMade : Text::CountRange,
                                      std::to_string(isInRange ? made : ManualTotals::kLargestCount))));
     return false;
   }

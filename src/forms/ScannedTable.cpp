@@ -17,14 +17,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kResults = 1295;
-constexpr int kStatisticsFor = 1296;
-constexpr int kLeftOut = 2309;
-constexpr int kNotReadable = 2310;
-constexpr int kNoNumber = 2311;
-constexpr int kNotInRoster = 2312;
-constexpr int kPlayerOfCounts = 2327;
-
 constexpr int kGap = 6;
 constexpr int kRowHeight = 22; // the smallest; where there is room, more
 constexpr int kLargestRow = 32;
@@ -45,7 +37,7 @@ ScannedTable::ScannedTable(const ManualGame& game, ScannedTotals& scanned, const
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                   QAbstractItemView::AnyKeyPressed);
-  setAccessibleNumber(*this, kResults);
+  setAccessibleNumber(*this, Text::ScanResults);
   verticalHeader()->hide();
   verticalHeader()->setDefaultSectionSize(kRowHeight);
   verticalHeader()->setMinimumSectionSize(kRowHeight);
@@ -72,15 +64,15 @@ void ScannedTable::addHeading(int player) {
   line->setBackgroundRole(QPalette::Button);
   Heading& heading = m_headings[static_cast<std::size_t>(player)];
   heading.caption = new PlainLabel(line);
-  setTextNumber(*heading.caption, kStatisticsFor);
+  setTextNumber(*heading.caption, Text::StatisticsFor);
   heading.player = new QComboBox(line);
   heading.player->setObjectName(QStringLiteral("cmbSCANNED(%1)").arg(player));
   heading.player->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   heading.player->setMinimumContentsLength(kNameLetters);
   heading.player->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
   heading.caption->setBuddy(heading.player);
-  setAccessibleNumber(*heading.player, kPlayerOfCounts);
-  setToolTipNumber(*heading.player, kPlayerOfCounts);
+  setAccessibleNumber(*heading.player, Text::PlayerOfCounts);
+  setToolTipNumber(*heading.player, Text::PlayerOfCounts);
   heading.number = new PlainLabel(line);
   heading.number->setObjectName(QStringLiteral("lblSCANNED(%1)").arg(player));
   QFont bold = heading.number->font();
@@ -113,7 +105,7 @@ void ScannedTable::showPlayer(int player) {
   const Heading& heading = m_headings[static_cast<std::size_t>(player)];
   const QSignalBlocker quiet(heading.player);
   heading.player->clear();
-  heading.player->addItem(caption(m_texts, kLeftOut));
+  heading.player->addItem(caption(m_texts, Text::LeftOutInBrackets));
   const std::vector<RosterPlayer>& players = m_scanned.roster().players();
   for (std::size_t slot = 0; slot < std::min<std::size_t>(players.size(), ManualTotals::kSlots); ++slot)
     heading.player->addItem(
@@ -125,11 +117,11 @@ void ScannedTable::showPlayer(int player) {
   using Read = CheckedSheet::Jersey::State;
   QString words;
   if (jersey.state == Read::Unreadable)
-    words = caption(m_texts, kNotReadable);
+    words = caption(m_texts, Text::NotReadable);
   else if (jersey.state == Read::None && m_scanned.sheet.hasCounts(player))
-    words = caption(m_texts, kNoNumber);
+    words = caption(m_texts, Text::NoNumber);
   else if (jersey.state == Read::Readable && m_scanned.roster().entryOf(jersey.number) == 0)
-    words = toQt(m_texts.withPlaceholder(kNotInRoster, jersey.number));
+    words = toQt(m_texts.withPlaceholder(Text::NotInRoster, jersey.number));
   heading.number->setText((words.isEmpty() ? words : u"⚠ " + words) + (jersey.isOpen ? u" ?" : u""));
   QPalette colours;
   colours.setColor(QPalette::WindowText, Theme::missed());

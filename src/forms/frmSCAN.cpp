@@ -30,46 +30,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kErrorTitle = 1060;
-constexpr int kImportValues = 1232;
-constexpr int kImportWords = 1233;
-constexpr int kInvalidFormat = 1236;
-constexpr int kAddOrReplace = 1270;
-constexpr int kResults = 1295;
-constexpr int kRecalc = 1299;
-constexpr int kRecalcWords = 1300;
-constexpr int kReading = 1376;
-constexpr int kExtracting = 1377;
-constexpr int kAdd = 1395;
-constexpr int kReplace = 1396;
-constexpr int kCancel = 1397;
-constexpr int kVerificationReport = 1398;
-constexpr int kPageOf = 2206;
-constexpr int kWholePage = 2221;
-constexpr int kPageWidth = 2222;
-constexpr int kOtherTeam = 2306;
-constexpr int kSheet = 2307;
-constexpr int kTeamOfForm = 2308;
-constexpr int kSkip = 2322;
-constexpr int kViewWords = 2324;
-constexpr int kZoomIn = 2325;
-constexpr int kZoomOut = 2326;
-constexpr int kNobodyLooked = 2328;
-constexpr int kUnknownLeftOut = 2329;
-constexpr int kPlacedShotsGo = 2330;
-constexpr int kTwice = 2331;
-constexpr int kImportAllTheSame = 2332;
-constexpr int kTooMany = 2333;
-constexpr int kLeavePages = 2334;
-constexpr int kReportWords = 2341;
-constexpr int kAddWords = 2342;
-constexpr int kReplaceWords = 2343;
-constexpr int kCancelWords = 2344;
-constexpr int kFirstPlace = 2345; // hundreds; tens and units follow
-constexpr int kMoreRefused = 2407;
-constexpr int kNoMark = 2794;
-constexpr int kAddedBefore = 2795;
-
 constexpr int kGap = 6;
 constexpr int kProgressWidth = 360;
 constexpr int kSmallestPage = 300;
@@ -78,7 +38,7 @@ constexpr int kCountShare = 900;
 constexpr double kZoomStep = 1.25;
 constexpr qsizetype kMostTold = 20; // pages in one message: it must fit on the screen
 
-QToolButton* viewButton(const char* name, int text, const QString& sign, QWidget* parent) {
+QToolButton* viewButton(const char* name, Text text, const QString& sign, QWidget* parent) {
   auto* button = new QToolButton(parent);
   button->setObjectName(QLatin1String(name));
   button->setText(sign);
@@ -137,8 +97,9 @@ QWidget* frmSCAN::makeProgressPage() {
   layout->addStretch();
   layout->addWidget(m_step);
   layout->addWidget(m_progress, 0, Qt::AlignCenter);
-  layout->addWidget(iconButton("cmdSTOPSCAN", kCancel, kCancelWords, "closelivemanual", page), 0,
-                    Qt::AlignCenter);
+  layout->addWidget(
+      iconButton("cmdSTOPSCAN", Text::CancelReading, Text::CancelWords, "closelivemanual", page), 0,
+      Qt::AlignCenter);
   layout->addStretch();
   return page;
 }
@@ -166,15 +127,15 @@ QWidget* frmSCAN::makePagePart() {
   auto* row = new QHBoxLayout;
   row->setSpacing(2);
   row->addWidget(m_source, 1);
-  row->addWidget(viewButton("cmdZOOMOUT", kZoomOut, QStringLiteral("−"), part));
-  row->addWidget(viewButton("cmdZOOMIN", kZoomIn, QStringLiteral("+"), part));
-  row->addWidget(viewButton("cmdFITWIDTH", kPageWidth, QStringLiteral("↔"), part));
-  row->addWidget(viewButton("cmdFITPAGE", kWholePage, QStringLiteral("▯"), part));
+  row->addWidget(viewButton("cmdZOOMOUT", Text::ZoomOut, QStringLiteral("−"), part));
+  row->addWidget(viewButton("cmdZOOMIN", Text::ZoomIn, QStringLiteral("+"), part));
+  row->addWidget(viewButton("cmdFITWIDTH", Text::PageWidth, QStringLiteral("↔"), part));
+  row->addWidget(viewButton("cmdFITPAGE", Text::WholePage, QStringLiteral("▯"), part));
   m_view = new ScanView(part);
   m_view->setObjectName(QStringLiteral("picSCAN"));
   m_view->setMinimumWidth(kSmallestPage);
-  setToolTipNumber(*m_view, kViewWords);
-  setAccessibleNumber(*m_view, kViewWords);
+  setToolTipNumber(*m_view, Text::ViewWords);
+  setAccessibleNumber(*m_view, Text::ViewWords);
   m_view->describeCells([this](std::size_t cell) { return cellWords(cell); });
   auto* layout = new QVBoxLayout(part);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -187,7 +148,7 @@ QWidget* frmSCAN::makePagePart() {
 QWidget* frmSCAN::makeCountPart(const Settings& settings) {
   auto* part = new QWidget(m_splitter);
   auto* title = new PlainLabel(part);
-  setTextNumber(*title, kResults);
+  setTextNumber(*title, Text::ScanResults);
   QFont bold = title->font();
   bold.setBold(true);
   title->setFont(bold);
@@ -198,7 +159,7 @@ QWidget* frmSCAN::makeCountPart(const Settings& settings) {
   auto* head = new QHBoxLayout;
   head->setSpacing(kGap);
   head->addWidget(title, 1);
-  head->addWidget(captionFor(*m_teams, kTeamOfForm));
+  head->addWidget(captionFor(*m_teams, Text::TeamOfForm));
   head->addWidget(m_teams, 1);
 
   m_table = new ScannedTable(m_game, m_scanned, settings, m_texts, part);
@@ -221,22 +182,23 @@ QWidget* frmSCAN::makeCountPart(const Settings& settings) {
 QWidget* frmSCAN::makeImportBox(QWidget* parent) {
   auto* box = new QGroupBox(parent);
   box->setObjectName(QStringLiteral("fraIMPORT"));
-  setTextNumber(*box, kImportValues);
-  setToolTipNumber(*box, kImportWords);
+  setTextNumber(*box, Text::ImportValues);
+  setToolTipNumber(*box, Text::ImportWords);
   auto* words = new PlainLabel(box);
-  setTextNumber(*words, kAddOrReplace);
+  setTextNumber(*words, Text::AddOrReplace);
   words->setWordWrap(true);
   words->setForegroundRole(QPalette::PlaceholderText);
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(kGap);
-  buttons->addWidget(iconButton("cmdRECALC", kRecalc, kRecalcWords, "undo", box));
-  buttons->addWidget(iconButton("cmdVERIFY", kVerificationReport, kReportWords, "liveprint", box));
+  buttons->addWidget(iconButton("cmdRECALC", Text::Recalc, Text::RecalcWords, "undo", box));
+  buttons->addWidget(iconButton("cmdVERIFY", Text::VerificationReport, Text::ReportWords, "liveprint", box));
   buttons->addStretch();
-  m_skip = iconButton("cmdSKIP", kSkip, kSkip + 1, "switch", box);
+  m_skip = iconButton("cmdSKIP", Text::Skip, Text::SkipTip, "switch", box);
   buttons->addWidget(m_skip);
-  buttons->addWidget(iconButton("cmdADDSCAN", kAdd, kAddWords, "add", box));
-  buttons->addWidget(iconButton("cmdREPLACESCAN", kReplace, kReplaceWords, "import", box));
-  buttons->addWidget(iconButton("cmdCANCELSCAN", kCancel, kCancelWords, "closelivemanual", box));
+  buttons->addWidget(iconButton("cmdADDSCAN", Text::AddToTotals, Text::AddWords, "add", box));
+  buttons->addWidget(iconButton("cmdREPLACESCAN", Text::ReplaceTotals, Text::ReplaceWords, "import", box));
+  buttons->addWidget(
+      iconButton("cmdCANCELSCAN", Text::CancelReading, Text::CancelWords, "closelivemanual", box));
   auto* layout = new QVBoxLayout(box);
   layout->setSpacing(2);
   layout->setContentsMargins(kGap, 2, kGap, kGap);
@@ -319,7 +281,7 @@ void frmSCAN::startReading() {
   if (m_page == 0)
     m_pagesInFile = 1; // until it is known
   m_pages->setCurrentIndex(0);
-  m_step->setText(toQt(m_texts.text(kReading)));
+  m_step->setText(toQt(m_texts.text(Text::Reading)));
   m_progress->setRange(0, 0);
   if (m_work.isRunning()) // what was stopped comes to its end first
     return;
@@ -330,7 +292,7 @@ void frmSCAN::startReading() {
     QMetaObject::invokeMethod(
         this,
         [this, percent] {
-          m_step->setText(toQt(m_texts.text(kExtracting)));
+          m_step->setText(toQt(m_texts.text(Text::Extracting)));
           m_progress->setRange(0, 100);
           m_progress->setValue(percent);
         },
@@ -365,18 +327,18 @@ void frmSCAN::takeResult() {
     m_pagesInFile = m_result->pagesInFile;
   if (m_result->picture == nullptr)
     return refuse(toQt(explained(m_result->refusal, m_texts)));
-  if (const ScanProblem problem = m_result->reading.problem; textOf(problem) != 0) {
-    const int advice = adviceFor(problem);
+  if (const ScanProblem problem = m_result->reading.problem; textOf(problem) != Text::None) {
+    const Text advice = adviceFor(problem);
     return refuse(toQt(m_texts.text(textOf(problem))) +
-                  (advice == 0 ? QString() : u". " + toQt(m_texts.text(advice))));
+                  (advice == Text::None ? QString() : u". " + toQt(m_texts.text(advice))));
   }
   const std::array<bool, 2> teams = teamsOf(m_result->reading.identifier, m_game.details());
   if (!teams[0] && !teams[1]) {
     const auto nameOf = [this](int team) {
       return m_game.details().abbreviation[team] + " - " + m_game.details().category[team];
     };
-    return refuse(toQt(m_texts.text(kInvalidFormat)) + u'\n' +
-                  toQt(m_texts.withPlaceholder(kOtherTeam, nameOf(0) + ", " + nameOf(1))));
+    return refuse(toQt(m_texts.text(Text::InvalidFormat)) + u'\n' +
+                  toQt(m_texts.withPlaceholder(Text::FormOfOtherTeam, nameOf(0) + ", " + nameOf(1))));
   }
   const bool mayBeEither = teams[0] && teams[1];
   const int team = mayBeEither ? m_team : teams[0] ? 0 : 1;
@@ -412,9 +374,9 @@ void frmSCAN::tellRefusals() {
     return;
   QString text = m_refusals.mid(0, kMostTold).join(u'\n');
   if (const qsizetype more = m_refusals.size() - kMostTold; more > 0)
-    text += u'\n' + toQt(m_texts.withPlaceholder(kMoreRefused, std::to_string(more)));
+    text += u'\n' + toQt(m_texts.withPlaceholder(Text::MoreRefused, std::to_string(more)));
   m_refusals.clear();
-  m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), text);
+  m_dialogs.complain(this, toQt(m_texts.text(Text::ErrorTitle)), text);
 }
 
 void frmSCAN::finish() {
@@ -428,8 +390,8 @@ void frmSCAN::leave() {
   const int left = pagesLeft();
   const bool isInSight = m_pages->currentWidget() == m_sheetPage;
   const bool wouldLose = left > 1 || (isInSight && m_scanned.sheet.hasCorrections());
-  if (wouldLose && !m_dialogs.ask(this, toQt(m_texts.text(kImportValues)),
-                                  toQt(m_texts.withPlaceholder(kLeavePages, std::to_string(left)))))
+  if (wouldLose && !m_dialogs.ask(this, toQt(m_texts.text(Text::ImportValues)),
+                                  toQt(m_texts.withPlaceholder(Text::LeavePages, std::to_string(left)))))
     return;
   finish();
 }
@@ -502,36 +464,36 @@ QString frmSCAN::concerns(const ScannedTotals::Outcome& outcome, ScannedTotals::
   QStringList lines;
   const auto isThis = [this](const CheckedSheet& taken) { return m_scanned.sheet.isOneWith(taken); };
   if (way == ScannedTotals::Way::Add && (outcome.isAgain || std::ranges::any_of(m_taken, isThis)))
-    lines << toQt(m_texts.text(kAddedBefore));
-  const auto add = [&](int text, const QString& what) {
+    lines << toQt(m_texts.text(Text::AddedBefore));
+  const auto add = [&](Text text, const QString& what) {
     lines << toQt(m_texts.withPlaceholder(text, fromQt(what)));
   };
   if (!m_scanned.sheet.hasMarks())
-    lines << toQt(m_texts.text(kNoMark));
+    lines << toQt(m_texts.text(Text::NoMark));
   if (const int open = m_scanned.sheet.openCells(); open > 0)
-    add(kNobodyLooked, QString::number(open));
+    add(Text::NobodyLooked, QString::number(open));
   if (!outcome.unknown.empty())
-    add(kUnknownLeftOut, joined(outcome.unknown, [this](int player) { return playerWords(player); }));
+    add(Text::UnknownLeftOut, joined(outcome.unknown, [this](int player) { return playerWords(player); }));
   if (outcome.placedShotsGone > 0)
-    add(kPlacedShotsGo, QString::number(outcome.placedShotsGone));
+    add(Text::PlacedShotsGo, QString::number(outcome.placedShotsGone));
   if (!outcome.twice.empty())
-    add(kTwice,
+    add(Text::TwiceOnForm,
         joined(outcome.twice, [this](int slot) { return toQt(m_scanned.roster().player(slot)->name); }));
   return lines.join(u'\n');
 }
 
 void frmSCAN::import(ScannedTotals::Way way) {
   const ScannedTotals::Outcome outcome = m_scanned.outcome(way, m_game.totals);
-  const QString title = toQt(m_texts.text(kImportValues));
+  const QString title = toQt(m_texts.text(Text::ImportValues));
   if (outcome.tooMany != ScannedTotals::kNobody) {
-    return m_dialogs.warn(
-        this, title,
-        toQt(withPlaceholders(m_texts.text(kTooMany), m_scanned.roster().player(outcome.tooMany)->name,
-                              std::to_string(ManualTotals::kLargestCount))));
+    return m_dialogs.warn(this, title,
+                          toQt(withPlaceholders(m_texts.text(Text::CountTooGreat),
+                                                m_scanned.roster().player(outcome.tooMany)->name,
+                                                std::to_string(ManualTotals::kLargestCount))));
   }
   const QString questions = concerns(outcome, way);
   if (!questions.isEmpty() &&
-      !m_dialogs.ask(this, title, questions + u"\n\n" + toQt(m_texts.text(kImportAllTheSame))))
+      !m_dialogs.ask(this, title, questions + u"\n\n" + toQt(m_texts.text(Text::ImportAllTheSame))))
     return;
   m_game.totals = outcome.totals;
   m_taken.push_back(m_scanned.sheet);
@@ -553,7 +515,7 @@ void frmSCAN::showSheet() {
     m_teams->addItem(QStringLiteral("%1 - %2").arg(toQt(m_game.details().abbreviation[team]),
                                                    toQt(m_game.details().name[team])));
   m_teams->setCurrentIndex(m_scanned.team());
-  m_hint->setText(m_scanned.sheet.hasMarks() ? QString() : toQt(m_texts.text(kNoMark)));
+  m_hint->setText(m_scanned.sheet.hasMarks() ? QString() : toQt(m_texts.text(Text::NoMark)));
   m_table->showTotals();
   m_doubts->showDoubts();
   m_view->viewport()->update();
@@ -562,10 +524,10 @@ void frmSCAN::showSheet() {
 QString frmSCAN::source() const {
   QString words = QFileInfo(m_files.first()).fileName();
   if (m_pagesInFile > 1)
-    words += u"   " + toQt(withPlaceholders(m_texts.text(kPageOf), std::to_string(m_page + 1),
+    words += u"   " + toQt(withPlaceholders(m_texts.text(Text::PageOf), std::to_string(m_page + 1),
                                             std::to_string(m_pagesInFile)));
   return words + u"   " +
-         toQt(m_texts.withPlaceholder(kSheet, std::to_string(m_scanned.sheet.identifier().sheet + 1)));
+         toQt(m_texts.withPlaceholder(Text::Sheet, std::to_string(m_scanned.sheet.identifier().sheet + 1)));
 }
 
 // "12 Ann Able"; of somebody whom the roster does not have his number, or his place on the sheet.
@@ -581,7 +543,7 @@ QString frmSCAN::cellWords(std::size_t index) const {
   const QString player = playerWords(cell.player);
   if (cell.kind == FormCell::Kind::JerseyDigit)
     return QStringLiteral("%1: %2 %3")
-        .arg(player, caption(m_texts, kFirstPlace + cell.place), QString::number(cell.number));
+        .arg(player, caption(m_texts, kDigitPlaces[cell.place]), QString::number(cell.number));
   const auto kind = std::ranges::find(eventKinds(), cell.counter, &EventKind::counter);
   const QString sign = cell.kind == FormCell::Kind::Made     ? QStringLiteral(" ●")
                        : cell.kind == FormCell::Kind::Missed ? QStringLiteral(" ✕")

@@ -2,6 +2,8 @@
 // points, labels and follow-up. Buttons, keypad, tally, box score, manual entry and reports all read it.
 #pragma once
 
+#include "settings/Text.h"
+
 #include <array>
 #include <cstdint>
 #include <span>
@@ -80,40 +82,47 @@ struct EventKind {
   bool isTeamFoul;
   FollowUp followUpWhenMade;
   std::string_view shortName; // the same in both languages: "FG", "Ast"
-  int wordsText;              // number of the text that names it in words
+  Text wordsText;             // its name in words
 };
 
 namespace detail {
 constexpr EventKind shot(EventCode code, std::string_view text, Counter made, Counter attempts,
                          std::uint8_t points, bool hasPlace, FollowUp followUp, std::string_view shortName,
-                         int words) {
+                         Text words) {
   return {code, text, made, attempts, points, true, hasPlace, false, followUp, shortName, words};
 }
 constexpr EventKind action(EventCode code, std::string_view text, Counter counter, bool isTeamFoul,
-                           std::string_view shortName, int words) {
+                           std::string_view shortName, Text words) {
   return {code, text, counter, counter, 0, false, false, isTeamFoul, FollowUp::None, shortName, words};
 }
 } // namespace detail
 
 // All kinds but the clock's, shots first, each in the order of the counters.
 inline constexpr std::array kEventKinds = {
-    detail::shot(EventCode::GFG, "GFG", Counter::FGM, Counter::FGA, 2, true, FollowUp::Assist, "FG", 1573),
-    detail::shot(EventCode::GFT, "GFT", Counter::FTM, Counter::FTA, 1, false, FollowUp::None, "FT", 1575),
-    detail::shot(EventCode::GF3, "GF3", Counter::F3M, Counter::F3A, 3, true, FollowUp::Assist, "F3", 1574),
-    detail::shot(EventCode::GLG, "GLG", Counter::LLM, Counter::LLA, 2, false, FollowUp::Assist, "LL", 1576),
-    detail::shot(EventCode::GLD, "GLD", Counter::LRM, Counter::LRA, 2, false, FollowUp::Assist, "LR", 1577),
-    detail::shot(EventCode::GPB, "GPB", Counter::PBM, Counter::PBA, 2, false, FollowUp::Assist, "PB", 1578),
-    detail::shot(EventCode::GDK, "GDK", Counter::DKM, Counter::DKA, 2, false, FollowUp::Assist, "DK", 1579),
-    detail::action(EventCode::SA, "SA", Counter::Ast, false, "Ast", 1580),
-    detail::action(EventCode::SBS, "SBS", Counter::BS, false, "BS", 1581),
-    detail::action(EventCode::SST, "SST", Counter::ST, false, "ST", 1586),
-    detail::action(EventCode::STO, "STO", Counter::TO, false, "TO", 1587),
-    detail::action(EventCode::SOR, "SOR", Counter::OR, false, "OR", 1583),
-    detail::action(EventCode::SDR, "SDR", Counter::DR, false, "DR", 1582),
-    detail::action(EventCode::SU1, "SU1", Counter::S1, false, "S1", 1012),
-    detail::action(EventCode::SU2, "SU2", Counter::S2, false, "S2", 1013),
-    detail::action(EventCode::SPF, "SPF", Counter::PF, true, "PF", 1584),
-    detail::action(EventCode::STF, "STF", Counter::TF, true, "TF", 1585),
+    detail::shot(EventCode::GFG, "GFG", Counter::FGM, Counter::FGA, 2, true, FollowUp::Assist, "FG",
+                 Text::TwoPoints),
+    detail::shot(EventCode::GFT, "GFT", Counter::FTM, Counter::FTA, 1, false, FollowUp::None, "FT",
+                 Text::FreeThrow),
+    detail::shot(EventCode::GF3, "GF3", Counter::F3M, Counter::F3A, 3, true, FollowUp::Assist, "F3",
+                 Text::ThreePoints),
+    detail::shot(EventCode::GLG, "GLG", Counter::LLM, Counter::LLA, 2, false, FollowUp::Assist, "LL",
+                 Text::LayupLeft),
+    detail::shot(EventCode::GLD, "GLD", Counter::LRM, Counter::LRA, 2, false, FollowUp::Assist, "LR",
+                 Text::LayupRight),
+    detail::shot(EventCode::GPB, "GPB", Counter::PBM, Counter::PBA, 2, false, FollowUp::Assist, "PB",
+                 Text::PutBack),
+    detail::shot(EventCode::GDK, "GDK", Counter::DKM, Counter::DKA, 2, false, FollowUp::Assist, "DK",
+                 Text::Dunk),
+    detail::action(EventCode::SA, "SA", Counter::Ast, false, "Ast", Text::Assist),
+    detail::action(EventCode::SBS, "SBS", Counter::BS, false, "BS", Text::BlockedShot),
+    detail::action(EventCode::SST, "SST", Counter::ST, false, "ST", Text::Steal),
+    detail::action(EventCode::STO, "STO", Counter::TO, false, "TO", Text::Turnover),
+    detail::action(EventCode::SOR, "SOR", Counter::OR, false, "OR", Text::OffensiveRebound),
+    detail::action(EventCode::SDR, "SDR", Counter::DR, false, "DR", Text::DefensiveRebound),
+    detail::action(EventCode::SU1, "SU1", Counter::S1, false, "S1", Text::OtherOne),
+    detail::action(EventCode::SU2, "SU2", Counter::S2, false, "S2", Text::OtherTwo),
+    detail::action(EventCode::SPF, "SPF", Counter::PF, true, "PF", Text::PersonalFoul),
+    detail::action(EventCode::STF, "STF", Counter::TF, true, "TF", Text::TechnicalFoul),
 };
 [[nodiscard]] constexpr std::span<const EventKind> eventKinds() {
   return kEventKinds;

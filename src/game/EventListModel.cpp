@@ -11,11 +11,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kClock = 1024;
-constexpr int kPeriod = 1087;
-constexpr int kAction = 1501;
-constexpr int kScore = 1718;
-
 bool isEqual(const GameEvent& one, const GameEvent& other) {
   return one.period == other.period && one.key == other.key && one.line == other.line;
 }
@@ -120,7 +115,7 @@ QVariant EventListModel::headerData(int section, Qt::Orientation orientation, in
     return {};
   if (role == Qt::TextAlignmentRole)
     return alignment(section);
-  constexpr std::array<int, ColumnCount> kTexts = {kClock, kAction, kPeriod, kScore};
+  constexpr std::array<Text, ColumnCount> kTexts = {Text::Time, Text::Event, Text::Period, Text::Score};
   return role == Qt::DisplayRole ? caption(m_texts, kTexts[static_cast<std::size_t>(section)]) : QVariant();
 }
 

@@ -13,27 +13,16 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSideNames[2] = {1027, 1028};
-constexpr int kStart = 1075;
-constexpr int kStop = 1080;
-constexpr int kMade = 1514;
-constexpr int kMissed = 1515;
-constexpr int kIn = 1516;
-constexpr int kOut = 1517;
-constexpr int kSubstitution = 1561;
-constexpr int kUnknownPlayer = 1588;
-constexpr int kTwoInList = 2520; // beside a mark that says of what
-constexpr int kThreeInList = 2521;
-constexpr int kSubjectAndWords = 1801; // "XXX: YYY", each language with its own blanks
+constexpr Text kSideNames[2] = {Text::Visitor, Text::Home};
 
 std::string sentence(const Texts& texts, std::string_view subject, std::string_view words) {
-  return withPlaceholders(texts.text(kSubjectAndWords), subject, words);
+  return withPlaceholders(texts.text(Text::SubjectAndWords), subject, words);
 }
 
 std::string shownPlayer(const RosterPlayer* player, std::string_view jersey, bool isTeam,
                         const Texts& texts) {
   if (player == nullptr)
-    return std::string(jersey) + ' ' + std::string(texts.text(kUnknownPlayer));
+    return std::string(jersey) + ' ' + std::string(texts.text(Text::UnknownPlayer));
   if (isTeam)
     return player->name;
   return player->name.empty() ? player->jersey : player->jersey + ' ' + player->name;
@@ -41,7 +30,7 @@ std::string shownPlayer(const RosterPlayer* player, std::string_view jersey, boo
 
 // "in 4 Ann Able, 5 Bea Baker": those of the one list who are not in the other; nothing when there are none.
 std::string missingIn(const std::vector<ListedPlayer>& other, const std::vector<ListedPlayer>& list,
-                      int directionText, const Texts& texts, const auto& shown) {
+                      Text directionText, const Texts& texts, const auto& shown) {
   std::string words;
   for (const ListedPlayer& listed : list) {
     if (std::ranges::find(other, listed) != other.end())
@@ -84,10 +73,10 @@ std::string EventWords::words(std::size_t eventIndex, Length length) const {
   if (!event.isUnderstood)
     return std::string(event.line);
   switch (event.code) {
-  case EventCode::DEPART: return std::string(m_texts.text(kStart));
+  case EventCode::DEPART: return std::string(m_texts.text(Text::Start));
   case EventCode::ARRET: {
     const std::string changes = substitution(eventIndex, length);
-    return changes.empty() ? std::string(m_texts.text(kStop)) : changes;
+    return changes.empty() ? std::string(m_texts.text(Text::Stop)) : changes;
   }
   default: break;
   }
@@ -123,9 +112,9 @@ EventWords::Parts EventWords::parts(std::size_t eventIndex) const {
       parts.name = isTeamItself(roster) ? who->name : familyName(who->name);
     if (!isTeamItself(roster))
       parts.jersey = std::string(event.player.jersey);
-    const int shot = event.code == EventCode::GFG   ? kTwoInList
-                     : event.code == EventCode::GF3 ? kThreeInList
-                                                    : event.kind()->wordsText;
+    const Text shot = event.code == EventCode::GFG   ? Text::TwoInList
+                      : event.code == EventCode::GF3 ? Text::ThreeInList
+                                                     : event.kind()->wordsText;
     parts.action = event.isShot()
                        ? std::string(m_texts.text(shot)) + " (" + std::string(event.kind()->shortName) + ")"
                        : action(event);
@@ -153,7 +142,7 @@ std::string EventWords::action(const GameEvent& event) const {
   const EventKind& kind = *event.kind();
   std::string words(m_texts.text(kind.wordsText));
   if (kind.isShot)
-    return words + ' ' + std::string(m_texts.text(event.isMade ? kMade : kMissed));
+    return words + ' ' + std::string(m_texts.text(event.isMade ? Text::Made : Text::Missed));
   // The user's own statistics carry the game's labels; "---" stands for none.
   if (kind.code == EventCode::SU1 || kind.code == EventCode::SU2) {
     std::string label =
@@ -183,8 +172,8 @@ std::string EventWords::changesOf(std::size_t eventIndex, std::size_t side, Leng
     return length == Length::Short && !isTeam ? listed.jersey
                                               : shownPlayer(listed.player, listed.jersey, isTeam, m_texts);
   };
-  std::string changes = missingIn(before, after, kIn, m_texts, shown);
-  if (const std::string out = missingIn(after, before, kOut, m_texts, shown); !out.empty())
+  std::string changes = missingIn(before, after, Text::In, m_texts, shown);
+  if (const std::string out = missingIn(after, before, Text::Out, m_texts, shown); !out.empty())
     changes += (changes.empty() ? "" : "; ") + out;
   return changes;
 }
@@ -197,7 +186,7 @@ std::string EventWords::substitution(std::size_t eventIndex, Length length) cons
   }
   if (words.empty() || length == Length::Short)
     return words.substr(std::min(words.size(), std::string_view(" - ").size()));
-  return std::string(m_texts.text(kSubstitution)) + words;
+  return std::string(m_texts.text(Text::Substitution)) + words;
 }
 
 std::string_view EventWords::team(int team) const {

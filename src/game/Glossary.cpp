@@ -7,9 +7,18 @@ namespace hooptab {
 namespace {
 
 constexpr Term kOtherTerms[] = {
-    {kTwoPointers, 2805}, {kThreePointers, 2806}, {"TR", 2131},  {"PTS", 1708},  {"rating", 1709},
-    {"No", 1705},         {"Name", 1023},         {"Pos", 1707}, {"Time", 1706}, {"G", 2130},
-    {"#", 2132},          {"PosHist", 2133},
+    {kTwoPointers, Text::TwoPointer},
+    {kThreePointers, Text::ThreePointer},
+    {"TR", Text::TotalRebounds},
+    {"PTS", Text::PointsScored},
+    {"rating", Text::RatingFormula},
+    {"No", Text::JerseyNumber},
+    {"Name", Text::PlayerName},
+    {"Pos", Text::PositionTip},
+    {"Time", Text::TimeToolTip},
+    {"G", Text::GamesPlayedTip},
+    {"#", Text::RankTip},
+    {"PosHist", Text::PositionsHeld},
 };
 
 } // namespace
@@ -22,10 +31,10 @@ std::vector<Term> glossary() {
   return terms;
 }
 
-int termWords(std::string_view abbreviation) {
+Text termWords(std::string_view abbreviation) {
   const std::vector<Term> terms = glossary();
   const auto found = std::ranges::find(terms, abbreviation, &Term::abbreviation);
-  return found == terms.end() ? 0 : found->words;
+  return found == terms.end() ? Text::None : found->words;
 }
 
 } // namespace hooptab

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "game/EventKind.h"
+#include "settings/Text.h"
 
 #include <string_view>
 #include <vector>
@@ -18,13 +19,13 @@ inline constexpr std::string_view kThreePointers = "3P";
 
 struct Term {
   std::string_view abbreviation;
-  int words; // number of the text
+  Text words;
 };
 
 // The kinds of events first, in their order.
 [[nodiscard]] std::vector<Term> glossary();
 
-// Number of the text that says what an abbreviation stands for; 0 for one that is not in the list.
-[[nodiscard]] int termWords(std::string_view abbreviation);
+// What an abbreviation stands for; none for one that is not in the list.
+[[nodiscard]] Text termWords(std::string_view abbreviation);
 
 } // namespace hooptab

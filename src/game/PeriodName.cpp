@@ -2,16 +2,12 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kOvertime = 1022;
-
-} // namespace
+namespace {} // namespace
 
 std::string periodName(int period, int regularPeriods, const Texts& texts) {
   if (regularPeriods < 1 || period <= regularPeriods)
     return std::to_string(period);
-  return std::string(texts.text(kOvertime)) + std::to_string(period - regularPeriods);
+  return std::string(texts.text(Text::Overtime)) + std::to_string(period - regularPeriods);
 }
 
 } // namespace hooptab

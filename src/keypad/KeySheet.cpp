@@ -17,24 +17,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSubjectAndWords = 1801;
-constexpr int kTitle = 2013;
-constexpr int kOnKeypad = 2014;
-constexpr int kOnMainKeyboard = 2015;
-constexpr int kShots = 2016;
-constexpr int kKeypadForm = 2017;
-constexpr int kKeypadShot = 2018;
-constexpr int kLineForm = 2019;
-constexpr int kLineShot = 2020;
-constexpr int kShotKinds = 2021;
-constexpr int kLineKeys = 2022;
-constexpr int kFollowUps = 2023;
-constexpr int kKeypadIsOff = 2024;
-constexpr int kHowToClose = 2026;
-constexpr int kMiss = 2010;
-constexpr int kExchange = 2514;
-constexpr int kSeveralAtOnce = 2515;
-
 constexpr int kWidth = 860;
 
 QString row(const QString& left, const QString& right) {
@@ -45,8 +27,12 @@ QString row(const QString& left, const QString& right) {
 } // namespace
 
 std::string wordsOfAction(KeypadAction action, const Texts& texts) {
-  constexpr int kWords[kKeypadActions] = {1185, 1186, 1187, 1188, 1584, 1585, 1581, 1586, 1582,
-                                          1583, 1587, 1580, 1960, 1959, 1948, 1012, 1013};
+  constexpr Text kWords[kKeypadActions] = {Text::ClockKey,         Text::MainTeamKey,  Text::SecondaryTeamKey,
+                                           Text::ClearKey,         Text::PersonalFoul, Text::TechnicalFoul,
+                                           Text::BlockedShot,      Text::Steal,        Text::DefensiveRebound,
+                                           Text::OffensiveRebound, Text::Turnover,     Text::Assist,
+                                           Text::ComesIn,          Text::Leaves,       Text::AllOut,
+                                           Text::OtherOne,         Text::OtherTwo};
   return std::string(texts.text(kWords[static_cast<std::size_t>(action)]));
 }
 
@@ -55,15 +41,15 @@ KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_text
   setFrameShape(QFrame::Box);
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::Base);
-  const auto text = [this](int number) {
+  const auto text = [this](Text which) {
     auto* label = new PlainLabel(this);
     label->setWordWrap(true);
-    setTextNumber(*label, number);
+    setTextNumber(*label, which);
     return label;
   };
-  auto* title = text(kTitle);
+  auto* title = text(Text::KeysTitle);
   Theme::setType(*title, Type::Title);
-  m_off = text(kKeypadIsOff);
+  m_off = text(Text::KeypadIsOff);
   m_picture = new KeypadPicture(this);
   m_picture->setAttribute(Qt::WA_TransparentForMouseEvents);
   m_letters = new PlainLabel(this);
@@ -75,20 +61,20 @@ KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_text
   auto* grid = new QGridLayout(this);
   grid->setHorizontalSpacing(24);
   grid->addWidget(title, 0, 0);
-  auto* howToClose = text(kHowToClose);
+  auto* howToClose = text(Text::HowToClose);
   howToClose->setWordWrap(false);
   grid->addWidget(howToClose, 0, 1, Qt::AlignRight);
   grid->addWidget(m_off, 1, 0, 1, 2);
   int place = 0;
-  for (const int head : {kOnKeypad, kOnMainKeyboard}) {
+  for (const Text head : {Text::OnKeypad, Text::OnMainKeyboard}) {
     auto* label = text(head);
     Theme::setType(*label, Type::Body, QFont::Bold);
     grid->addWidget(label, 2, place++);
   }
   grid->addWidget(m_picture, 3, 0, Qt::AlignTop | Qt::AlignHCenter);
   grid->addWidget(m_letters, 3, 1);
-  grid->addWidget(text(kFollowUps), 4, 0, 1, 2);
-  grid->addWidget(text(kSeveralAtOnce), 5, 0, 1, 2);
+  grid->addWidget(text(Text::FollowUps), 4, 0, 1, 2);
+  grid->addWidget(text(Text::SeveralAtOnce), 5, 0, 1, 2);
   Theme::setType(*m_off, Type::Body, QFont::Bold);
   hide();
 }
@@ -100,30 +86,31 @@ void KeySheet::showSetup(const KeypadSetup& setup, bool keypadIsActive) {
   red.setColor(QPalette::WindowText, Theme::missed());
   m_off->setPalette(red);
   m_picture->showKeys(setup, m_texts);
-  const auto sentence = [this](int number, const QString& part) {
-    return toQt(m_texts.withPlaceholder(number, fromQt(part)));
+  const auto sentence = [this](Text which, const QString& part) {
+    return toQt(m_texts.withPlaceholder(which, fromQt(part)));
   };
   const auto letter = [&setup](std::size_t what) { return QString(QLatin1Char(setup.letters.letter(what))); };
   QStringList rows;
   for (std::size_t what = LetterAssignment::kFirst; what < LetterAssignment::kMiss; ++what)
     rows << row(letter(what), toQt(wordsOfAction(static_cast<KeypadAction>(what), m_texts)));
-  rows << row(letter(LetterAssignment::kMiss), caption(m_texts, kMiss));
+  rows << row(letter(LetterAssignment::kMiss), caption(m_texts, Text::MissedShot));
   const auto ofShots = [this](const QString& words) {
-    return toQt(withPlaceholders(m_texts.text(kSubjectAndWords), m_texts.text(kShots), fromQt(words)));
+    return toQt(
+        withPlaceholders(m_texts.text(Text::SubjectAndWords), m_texts.text(Text::Shots), fromQt(words)));
   };
   const auto exchange = [this](const QString& out, const QString& in) {
-    return toQt(withPlaceholders(m_texts.text(kExchange), fromQt(out), fromQt(in)));
+    return toQt(withPlaceholders(m_texts.text(Text::ExchangeHint), fromQt(out), fromQt(in)));
   };
   const auto escaped = [](const QStringList& lines) {
     return lines.join(QLatin1Char('\n')).toHtmlEscaped().replace(u'\n', QLatin1String("<br>"));
   };
   const KeypadAssignment& bound = setup.keys;
-  const QStringList line = {caption(m_texts, kLineForm),
-                            ofShots(sentence(kLineShot, letter(LetterAssignment::kMiss))),
+  const QStringList line = {caption(m_texts, Text::LineForm),
+                            ofShots(sentence(Text::LineShot, letter(LetterAssignment::kMiss))),
                             exchange(letter(static_cast<std::size_t>(KeypadAction::OUT)),
                                      letter(static_cast<std::size_t>(KeypadAction::IN)))};
-  QStringList keypad = {caption(m_texts, kKeypadForm),
-                        ofShots(sentence(kKeypadShot, keyName(bound.code(KeypadAction::A), m_texts)))};
+  QStringList keypad = {caption(m_texts, Text::KeypadForm),
+                        ofShots(sentence(Text::KeypadShot, keyName(bound.code(KeypadAction::A), m_texts)))};
   const int out = bound.code(KeypadAction::OUT);
   const int in = bound.code(KeypadAction::IN);
   const auto isMiddleKey = [](int code) { return code != 0 && !keys::digit(code, true); };
@@ -134,11 +121,11 @@ void KeySheet::showSetup(const KeypadSetup& setup, bool keypadIsActive) {
   const qsizetype half = (rows.size() + 1) / 2;
   table += rows.mid(0, half).join(QString()) + QLatin1String("</table></td><td width=24></td><td><table>") +
            rows.mid(half).join(QString()) + QLatin1String("</table></td></tr></table>");
-  table +=
-      QStringLiteral("<p>%1</p><p>%2</p>")
-          .arg(caption(m_texts, kLineKeys).toHtmlEscaped(), caption(m_texts, kShotKinds).toHtmlEscaped());
+  table += QStringLiteral("<p>%1</p><p>%2</p>")
+               .arg(caption(m_texts, Text::LineKeys).toHtmlEscaped(),
+                    caption(m_texts, Text::ShotKinds).toHtmlEscaped());
   table += QStringLiteral("<p><b>%1</b><br>%2</p>")
-               .arg(caption(m_texts, kOnKeypad).toHtmlEscaped(), escaped(keypad));
+               .arg(caption(m_texts, Text::OnKeypad).toHtmlEscaped(), escaped(keypad));
   m_letters->setText(table);
 
   const int width = std::min(kWidth, parentWidget()->width());

@@ -10,9 +10,23 @@ namespace hooptab {
 namespace {
 
 constexpr KeypadActionWords kWords[kKeypadActions] = {
-    {1185, 1278}, {1186, 1279}, {1187, 1280}, {1188, 1277}, {0, 1281}, {0, 1282},
-    {0, 1283},    {0, 1284},    {0, 1289},    {0, 1290},    {0, 1285}, {0, 1286},
-    {0, 1189},    {0, 1190},    {0, 1191},    {0, 1287},    {0, 1288},
+    {Text::ClockKey, Text::ClockKeyTip},
+    {Text::MainTeamKey, Text::MainConfirmTip},
+    {Text::SecondaryTeamKey, Text::SecondaryConfirmTip},
+    {Text::ClearKey, Text::ClearKeyTip},
+    {Text::None, Text::PFKeyTip},
+    {Text::None, Text::TFKeyTip},
+    {Text::None, Text::BSKeyTip},
+    {Text::None, Text::STKeyTip},
+    {Text::None, Text::DRKeyTip},
+    {Text::None, Text::ORKeyTip},
+    {Text::None, Text::TOKeyTip},
+    {Text::None, Text::AKeyTip},
+    {Text::None, Text::InKeyTip},
+    {Text::None, Text::OutKeyTip},
+    {Text::None, Text::AllKeyTip},
+    {Text::None, Text::U1KeyTip},
+    {Text::None, Text::U2KeyTip},
 };
 
 // Where the English word has no letter left, one that is near: V turnover, Z all, Y and W the user's own.

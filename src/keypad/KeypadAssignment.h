@@ -37,8 +37,8 @@ enum class KeypadAction : std::uint8_t {
 inline constexpr std::size_t kKeypadActions = kKeypadKeys.size();
 
 struct KeypadActionWords {
-  int name = 0; // number of the short text; 0 where the key of the settings is the name: "PF"
-  int hint = 0;
+  Text name = Text::None; // none where the key of the settings is the name: "PF"
+  Text hint = Text::None;
 };
 [[nodiscard]] KeypadActionWords wordsOf(KeypadAction action);
 

@@ -10,28 +10,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSubjectAndWords = 1801;
-constexpr int kComesIn = 1960;
-constexpr int kLeaves = 1959;
-constexpr int kAllLeave = 1949;
-
-constexpr int kNothingTyped = 1984;
-constexpr int kNumberMissing = 1985;
-constexpr int kActionMissing = 1986;
-constexpr int kNoShotKind = 1987;
-constexpr int kNotUnderstood = 1988;
-constexpr int kAllAlone = 1989;
-constexpr int kNoSuchPlayer = 1990;
-constexpr int kOnlyInOtherTeam = 1991;
-constexpr int kOnCourtAlready = 1992;
-constexpr int kNotOnCourt = 1993;
-constexpr int kCourtIsFull = 1994;
-constexpr int kGameIsClosed = 1995;
-constexpr int kTooLong = 1996;
-constexpr int kNobodyOnCourt = 1997;
-constexpr int kSameTwice = 2508;
-constexpr int kExchanged = 2509;
-
 // By their digit, from 1.
 constexpr EventCode kShots[] = {EventCode::GFT, EventCode::GFG, EventCode::GF3, EventCode::GLG,
                                 EventCode::GLD, EventCode::GPB, EventCode::GDK};
@@ -74,8 +52,8 @@ std::string playerWords(const Game& game, int team, int player) {
 
 std::string actionWords(const KeypadOrder& order, const Texts& texts) {
   switch (order.kind) {
-  case KeypadOrder::Kind::In: return std::string(texts.text(kComesIn));
-  case KeypadOrder::Kind::Out: return std::string(texts.text(kLeaves));
+  case KeypadOrder::Kind::In: return std::string(texts.text(Text::ComesIn));
+  case KeypadOrder::Kind::Out: return std::string(texts.text(Text::Leaves));
   default: break;
   }
   const EventKind* kind = kindOf(order.code);
@@ -96,20 +74,21 @@ std::optional<KeypadReason> objection(const KeypadOrder& order, const LiveGame& 
   switch (order.kind) {
   case KeypadOrder::Kind::Exchange:
     if (order.leaving == order.player)
-      return KeypadReason{kSameTwice, {jersey}};
+      return KeypadReason{Text::SameTwice, {jersey}};
     if (!game.slotOf(order.team, order.leaving))
-      return KeypadReason{kNotOnCourt, {jerseyOf(order.leaving), name}};
-    return isOnCourt ? std::optional(KeypadReason{kOnCourtAlready, {jersey, name}}) : std::nullopt;
+      return KeypadReason{Text::IsNotOnCourt, {jerseyOf(order.leaving), name}};
+    return isOnCourt ? std::optional(KeypadReason{Text::OnCourtAlready, {jersey, name}}) : std::nullopt;
   case KeypadOrder::Kind::In:
     if (isOnCourt)
-      return KeypadReason{kOnCourtAlready, {jersey, name}};
+      return KeypadReason{Text::OnCourtAlready, {jersey, name}};
     if (std::popcount(game.onCourt()[team]) >= kMostOnCourt)
-      return KeypadReason{kCourtIsFull, {name}};
+      return KeypadReason{Text::CourtIsFull, {name}};
     return std::nullopt;
   case KeypadOrder::Kind::Out:
-    return isOnCourt ? std::nullopt : std::optional(KeypadReason{kNotOnCourt, {jersey, name}});
+    return isOnCourt ? std::nullopt : std::optional(KeypadReason{Text::IsNotOnCourt, {jersey, name}});
   case KeypadOrder::Kind::AllOut:
-    return game.onCourt()[team] != 0 ? std::nullopt : std::optional(KeypadReason{kNobodyOnCourt, {name}});
+    return game.onCourt()[team] != 0 ? std::nullopt
+                                     : std::optional(KeypadReason{Text::NobodyIsOnCourt, {name}});
   default: return std::nullopt;
   }
 }
@@ -237,7 +216,7 @@ KeypadInput::Outcome KeypadInput::press(const KeyPress& press, const LiveGame& g
   if (m_reason) // what was refused is not gone on with: a confirm key tries again, another key begins anew
     clear();
   if (m_typed.size() == kMostKeys)
-    return refuse({kTooLong});
+    return refuse({Text::TooManyKeys});
   m_typed.push_back(key);
   return Outcome::Typed;
 }
@@ -256,14 +235,14 @@ std::optional<std::string> KeypadInput::digits(std::size_t begin, std::size_t en
 KeypadInput::Reading KeypadInput::readShot(std::size_t begin, std::size_t end, bool isMade) const {
   std::optional<std::string> number = digits(begin, end);
   if (!number)
-    return {kNotUnderstood};
+    return {Text::InputNotUnderstood};
   if (number->size() < 2)
-    return {kNumberMissing};
+    return {Text::NumberMissing};
   const int kind = number->back() - '0';
   number->pop_back();
   if (kind < 1 || kind > static_cast<int>(std::size(kShots)))
-    return {kNoShotKind};
-  return {0, {KeypadOrder::Kind::Shot, 0, 0, kShots[kind - 1], isMade}, *number};
+    return {Text::NoShotKind};
+  return {Text::None, {KeypadOrder::Kind::Shot, 0, 0, kShots[kind - 1], isMade}, *number};
 }
 
 // "12 OUT 8", with or without IN behind it, and "8 IN 12" the other way round. A digit is never the key in
@@ -282,33 +261,33 @@ std::optional<KeypadInput::Reading> KeypadInput::readExchange() const {
   if (!first || !second || second->empty())
     return std::nullopt;
   const KeypadOrder order = {.kind = KeypadOrder::Kind::Exchange};
-  return middle->action == KeypadAction::IN ? Reading{0, order, *first, *second}
-                                            : Reading{0, order, *second, *first};
+  return middle->action == KeypadAction::IN ? Reading{Text::None, order, *first, *second}
+                                            : Reading{Text::None, order, *second, *first};
 }
 
 KeypadInput::Reading KeypadInput::read(bool isLine) const {
   if (m_typed.empty())
-    return {kNothingTyped};
+    return {Text::NothingTyped};
   const std::size_t last = m_typed.size() - 1;
   const auto beginsShot = [](const Key& key) { return key.action == KeypadAction::A && !key.digit; };
   const auto shots =
       static_cast<std::size_t>(std::ranges::find_if_not(m_typed, beginsShot) - m_typed.begin());
   if (shots > 0)
-    return shots > 2 ? Reading{kNotUnderstood} : readShot(shots, m_typed.size(), shots == 1);
+    return shots > 2 ? Reading{Text::InputNotUnderstood} : readShot(shots, m_typed.size(), shots == 1);
   if (auto exchange = readExchange())
     return *std::move(exchange);
   if (m_typed[last].isMiss)
     return readShot(0, last, false);
   const auto action = m_typed[last].action;
   if (!action)
-    return isLine ? readShot(0, m_typed.size(), true) : Reading{kActionMissing};
+    return isLine ? readShot(0, m_typed.size(), true) : Reading{Text::ActionMissing};
   const std::optional<std::string> number = digits(0, last);
   if (!number)
-    return {kNotUnderstood};
+    return {Text::InputNotUnderstood};
   const KeypadOrder order = {kindOfOrder(*action), 0, 0, codeOf(*action), false};
   if (order.kind == KeypadOrder::Kind::AllOut)
-    return number->empty() ? Reading{0, order} : Reading{kAllAlone};
-  return number->empty() ? Reading{kNumberMissing} : Reading{0, order, *number};
+    return number->empty() ? Reading{Text::None, order} : Reading{Text::AllAlone};
+  return number->empty() ? Reading{Text::NumberMissing} : Reading{Text::None, order, *number};
 }
 
 // The players whose numbers were typed, of the order's team; the reason where it has none such.
@@ -328,17 +307,17 @@ std::optional<KeypadReason> KeypadInput::nameIn(KeypadOrder& order, const Readin
       others.entryOf(reading.jersey) != 0 && (!isExchange || others.entryOf(reading.leaving) != 0);
   const auto& names = game.details.abbreviation;
   return KeypadReason{
-      areOthers ? kOnlyInOtherTeam : kNoSuchPlayer,
+      areOthers ? Text::OnlyInOtherTeam : Text::NoSuchPlayer,
       {isLeavingMissing ? reading.leaving : reading.jersey, names[order.team], names[1 - order.team]}};
 }
 
 KeypadInput::Outcome KeypadInput::confirm(int team, bool isLine, const LiveGame& game) {
   m_reason.reset();
   const Reading reading = read(isLine);
-  if (reading.problem != 0)
+  if (reading.problem != Text::None)
     return refuse({reading.problem});
   if (!game.canRecord())
-    return refuse({kGameIsClosed});
+    return refuse({Text::GameIsClosed});
   KeypadOrder order = reading.order;
   order.team = team;
   if (const auto reason = nameIn(order, reading, game.game()))
@@ -365,7 +344,7 @@ std::string KeypadInput::typed() const {
 
 std::string KeypadInput::preview(const Game& game, const Texts& texts) const {
   const Reading reading = read(isLine());
-  if (isEmpty() || reading.problem != 0)
+  if (isEmpty() || reading.problem != Text::None)
     return isEmpty() ? std::string() : std::string(texts.text(reading.problem));
   std::string lines = actionWords(reading.order, texts); // none where words() are a sentence
   const bool isSentence = lines.empty();
@@ -387,20 +366,20 @@ std::string KeypadInput::preview(const Game& game, const Texts& texts) const {
   for (const std::string& jersey : {reading.leaving, reading.jersey}) {
     const auto& names = game.details.abbreviation;
     if (!jersey.empty() && game.roster[0].entryOf(jersey) == 0 && game.roster[1].entryOf(jersey) == 0)
-      return KeypadReason{kNoSuchPlayer, {jersey, names[0] + ", " + names[1]}}.words(texts);
+      return KeypadReason{Text::NoSuchPlayer, {jersey, names[0] + ", " + names[1]}}.words(texts);
   }
   return missing;
 }
 
 std::string KeypadInput::words(const KeypadOrder& order, const Game& game, const Texts& texts) {
   if (order.kind == KeypadOrder::Kind::AllOut)
-    return texts.withPlaceholder(kAllLeave, game.details.abbreviation[order.team]);
+    return texts.withPlaceholder(Text::AllLeave, game.details.abbreviation[order.team]);
   if (order.kind == KeypadOrder::Kind::Exchange)
     return KeypadReason{
-        kExchanged,
+        Text::Exchanged,
         {playerWords(game, order.team, order.leaving), numberAndName(game, order.team, order.player)}}
         .words(texts);
-  return withPlaceholders(texts.text(kSubjectAndWords), playerWords(game, order.team, order.player),
+  return withPlaceholders(texts.text(Text::SubjectAndWords), playerWords(game, order.team, order.player),
                           actionWords(order, texts));
 }
 

@@ -36,7 +36,7 @@ bool carryOut(LiveGame& game, const KeypadOrder& order);
 
 // A text of the table with what stands for XXX, YYY and ZZZ.
 struct KeypadReason {
-  int text = 0;
+  Text text = Text::None;
   std::array<std::string, 3> parts = {};
   [[nodiscard]] std::string words(const Texts& texts) const;
   friend bool operator==(const KeypadReason&, const KeypadReason&) = default;
@@ -92,7 +92,7 @@ class KeypadInput {
     bool isKeypad = false;
   };
   struct Reading {
-    int problem = 0; // number of a text; 0 when the input makes sense
+    Text problem = Text::None; // none when the input makes sense
     KeypadOrder order = {};
     std::string jersey = {};
     std::string leaving = {}; // the other jersey of an Exchange

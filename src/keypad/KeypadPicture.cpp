@@ -31,9 +31,9 @@ constexpr int kGap = 4;
 } // namespace
 
 QString shortNameOf(KeypadAction action, const Texts& texts) {
-  const int name = wordsOf(action).name;
-  return name == 0 ? QString::fromLatin1(kKeypadKeys[static_cast<std::size_t>(action)])
-                   : toQt(texts.text(name));
+  const Text name = wordsOf(action).name;
+  return name == Text::None ? QString::fromLatin1(kKeypadKeys[static_cast<std::size_t>(action)])
+                            : toQt(texts.text(name));
 }
 
 KeypadPicture::KeypadPicture(QWidget* parent) : QWidget(parent) {

@@ -60,7 +60,6 @@ constexpr KeyRow kRows[] = {
     {Qt::Key_Period, 190, Where::Main},
     {Qt::Key_Slash, 191, Where::Main},
 };
-constexpr int kBackspaceName = 2025;
 constexpr int kFirstKeypadDigit = 96;
 constexpr int kFirstFunctionKey = 112;
 
@@ -101,7 +100,7 @@ QtKey qtKeyOf(int code) {
 
 QString keyName(int code, const Texts& texts) {
   if (code == keys::kBackspace) // which the toolkit names in French as if it cleared all
-    return toQt(texts.text(kBackspaceName));
+    return toQt(texts.text(Text::BackspaceName));
   const QtKey key = qtKeyOf(code);
   if (key.key == Qt::Key_unknown)
     return code == 0 ? QString() : QString::number(code);

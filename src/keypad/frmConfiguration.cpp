@@ -23,28 +23,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTitle = 1054;
-constexpr int kInstruction = 1192;
-constexpr int kWarningTitle = 1139;
-constexpr int kNotOnDisk = 1521;
-constexpr int kSave = 1164;
-constexpr int kSaveHint = 1328;
-constexpr int kClose = 1294;
-constexpr int kCloseHint = 1329;
-constexpr int kKeysPage = 2000;
-constexpr int kLettersPage = 2001;
-constexpr int kFieldHint = 2002;
-constexpr int kTwice = 2003;
-constexpr int kDefaults = 2004;
-constexpr int kDefaultsHint = 2005;
-constexpr int kFlash = 2006;
-constexpr int kSound = 2007;
-constexpr int kAskToSave = 2008;
-constexpr int kLetterInstruction = 2009;
-constexpr int kMiss = 2010;
-constexpr int kLetterFor = 2011;
-constexpr int kNoShots = 2012;
-
 constexpr int kKeyWidth = 130;
 constexpr int kLetterWidth = 48;
 constexpr int kLetterColumns = 2;
@@ -59,7 +37,7 @@ frmConfiguration::frmConfiguration(const KeypadSetup& setup, Settings& settings,
       m_setup(setup) {
   setObjectName(QStringLiteral("frmConfiguration"));
   setModal(true);
-  setTextNumber(*this, kTitle);
+  setTextNumber(*this, Text::KeypadTitle);
   auto* pages = new QTabWidget(this);
   pages->addTab(makeKeys(), {});
   pages->addTab(makeLetters(), {});
@@ -80,10 +58,10 @@ frmConfiguration::frmConfiguration(const KeypadSetup& setup, Settings& settings,
 
 QWidget* frmConfiguration::makeKeys() {
   auto* page = new QWidget(this);
-  setTabTextNumber(*page, kKeysPage);
+  setTabTextNumber(*page, Text::KeysPage);
   auto* instruction = new PlainLabel(page);
   instruction->setWordWrap(true);
-  setTextNumber(*instruction, kInstruction);
+  setTextNumber(*instruction, Text::KeypadInstruction);
   auto* boxes = new QGridLayout;
   boxes->setVerticalSpacing(kGap);
   boxes->setColumnStretch(0, 1);
@@ -93,7 +71,7 @@ QWidget* frmConfiguration::makeKeys() {
     field->setFixedWidth(kKeyWidth);
     const int row = static_cast<int>(place);
     boxes->addWidget(captionFor(*field, wordsOf(action).hint), row, 0);
-    setToolTipNumber(*field, kFieldHint);
+    setToolTipNumber(*field, Text::FieldHint);
     boxes->addWidget(field, row, 1);
     connect(field, &KeyField::keyPressed, this, [this, action](int code) { bind(action, code); });
     connect(field, &KeyField::focused, this, [this, action] {
@@ -120,10 +98,10 @@ QWidget* frmConfiguration::makeKeys() {
 
 QWidget* frmConfiguration::makeLetters() {
   auto* page = new QWidget(this);
-  setTabTextNumber(*page, kLettersPage);
+  setTabTextNumber(*page, Text::LettersPage);
   auto* instruction = new PlainLabel(page);
   instruction->setWordWrap(true);
-  setTextNumber(*instruction, kLetterInstruction);
+  setTextNumber(*instruction, Text::LetterInstruction);
   auto* boxes = new QGridLayout;
   boxes->setHorizontalSpacing(kMargin);
   boxes->setColumnStretch(2 * kLetterColumns, 1);
@@ -158,7 +136,7 @@ QWidget* frmConfiguration::makeOptions() {
   auto* row = new QWidget(this);
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  const auto addOption = [&](const char* name, int text, bool KeypadSetup::*option) {
+  const auto addOption = [&](const char* name, Text text, bool KeypadSetup::*option) {
     auto* box = new QCheckBox(row);
     box->setObjectName(QLatin1String(name));
     setTextNumber(*box, text);
@@ -169,14 +147,14 @@ QWidget* frmConfiguration::makeOptions() {
     layout->addWidget(box);
     return box;
   };
-  m_flashes = addOption("chkECLAIR", kFlash, &KeypadSetup::flashes);
-  m_sounds = addOption("chkSON", kSound, &KeypadSetup::sounds);
+  m_flashes = addOption("chkECLAIR", Text::FlashOption, &KeypadSetup::flashes);
+  m_sounds = addOption("chkSON", Text::SoundOption, &KeypadSetup::sounds);
   layout->addStretch();
   return row;
 }
 
 QLayout* frmConfiguration::makeButtons() {
-  const auto button = [this](const char* name, int text, int hint) {
+  const auto button = [this](const char* name, Text text, Text hint) {
     auto* made = new QPushButton(this);
     made->setObjectName(QLatin1String(name));
     made->setAutoDefault(false); // Enter is a key that is bound here
@@ -184,9 +162,9 @@ QLayout* frmConfiguration::makeButtons() {
     setToolTipNumber(*made, hint);
     return made;
   };
-  QPushButton* defaults = button("cmdDEFAUT", kDefaults, kDefaultsHint);
-  m_save = button("Command1", kSave, kSaveHint);
-  QPushButton* close = button("Command2", kClose, kCloseHint);
+  QPushButton* defaults = button("cmdDEFAUT", Text::Defaults, Text::DefaultsHint);
+  m_save = button("Command1", Text::Save, Text::SaveHint);
+  QPushButton* close = button("Command2", Text::CloseButton, Text::CloseHint);
   connect(defaults, &QPushButton::clicked, this, [this] {
     m_setup = KeypadSetup();
     showSetup();
@@ -202,7 +180,7 @@ QLayout* frmConfiguration::makeButtons() {
 }
 
 QString frmConfiguration::wordsOfLetter(std::size_t what) const {
-  return what == LetterAssignment::kMiss ? caption(m_texts, kMiss)
+  return what == LetterAssignment::kMiss ? caption(m_texts, Text::MissedShot)
                                          : toQt(wordsOfAction(static_cast<KeypadAction>(what), m_texts));
 }
 
@@ -212,7 +190,7 @@ void frmConfiguration::relabelWindow() {
   for (std::size_t place = 0; place < LetterAssignment::kCount; ++place) {
     const QString words = wordsOfLetter(place + LetterAssignment::kFirst);
     m_letterCaptions[place]->setText(withoutMnemonic(words));
-    const QString hint = toQt(m_texts.withPlaceholder(kLetterFor, fromQt(words)));
+    const QString hint = toQt(m_texts.withPlaceholder(Text::LetterFor, fromQt(words)));
     m_letters[place]->setToolTip(hint);
     m_letters[place]->setAccessibleName(hint);
   }
@@ -244,8 +222,8 @@ void frmConfiguration::showSetup() {
 
 void frmConfiguration::showNotice(bool canBeSaved) {
   const bool losesShots = keys::digit(m_setup.keys.code(KeypadAction::A), true).has_value();
-  m_notice->setText(!canBeSaved  ? caption(m_texts, kTwice)
-                    : losesShots ? caption(m_texts, kNoShots)
+  m_notice->setText(!canBeSaved  ? caption(m_texts, Text::KeysTwice)
+                    : losesShots ? caption(m_texts, Text::KeyBeginsNoShot)
                                  : QString());
   m_notice->setVisible(!canBeSaved || losesShots);
 }
@@ -257,14 +235,14 @@ bool frmConfiguration::save() {
   m_saved = m_setup;
   emit applied();
   if (!isOnDisk)
-    m_dialogs.warn(this, caption(m_texts, kWarningTitle),
-                   toQt(m_texts.withPlaceholder(kNotOnDisk, m_settings.path())));
+    m_dialogs.warn(this, caption(m_texts, Text::WarningTitle),
+                   toQt(m_texts.withPlaceholder(Text::NotSaved, m_settings.path())));
   return true;
 }
 
 void frmConfiguration::reject() {
   if (m_setup != m_saved) {
-    const SaveChoice answer = m_dialogs.askToSave(this, windowTitle(), caption(m_texts, kAskToSave));
+    const SaveChoice answer = m_dialogs.askToSave(this, windowTitle(), caption(m_texts, Text::AskToSaveKeys));
     if (answer == SaveChoice::Stay || (answer == SaveChoice::Save && !save()))
       return;
   }

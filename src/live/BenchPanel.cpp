@@ -17,12 +17,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSubstitution = 1561;
-constexpr int kSubstitutionTip = 1945;
-constexpr int kSeveral = 1946;
-constexpr int kSeveralTip = 1947;
-constexpr int kPlacesStay = 2586;
-
 QToolButton* buttonFor(QAction& action, const char* name, QWidget* parent) {
   auto* button = new QToolButton(parent);
   button->setObjectName(QLatin1String(name));
@@ -63,7 +57,7 @@ QWidget* BenchPanel::makeCommands(QWidget* sides) {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(4);
   // The first word is longer in every language.
-  const auto addCommand = [&](const char* name, int text, int toolTip, Qt::Key key, const char* iconName,
+  const auto addCommand = [&](const char* name, Text text, Text toolTip, Qt::Key key, const char* iconName,
                               int stretch) {
     auto* action = new QAction(icon(QLatin1String(iconName)), {}, this);
     setTextNumber(*action, text);
@@ -74,14 +68,15 @@ QWidget* BenchPanel::makeCommands(QWidget* sides) {
     layout->addWidget(buttonFor(*action, name, row), stretch);
     return action;
   };
-  m_substitute = addCommand("cmdSUBST", kSubstitution, kSubstitutionTip, Qt::Key_F6, "substitution", 5);
+  m_substitute =
+      addCommand("cmdSUBST", Text::Substitution, Text::SubstitutionMode, Qt::Key_F6, "substitution", 5);
   m_substitute->setCheckable(true);
-  m_several = addCommand("cmdSEVERAL", kSeveral, kSeveralTip, Qt::Key_F4, "several", 4);
+  m_several = addCommand("cmdSEVERAL", Text::Several, Text::SeveralTitle, Qt::Key_F4, "several", 4);
   layout->addWidget(sides);
   m_placesStay = new QAction(this);
   m_placesStay->setObjectName(QStringLiteral("cmdPLACESSTAY"));
   m_placesStay->setCheckable(true);
-  setTextNumber(*m_placesStay, kPlacesStay);
+  setTextNumber(*m_placesStay, Text::PlacesStay);
   connect(m_placesStay, &QAction::triggered, this, &BenchPanel::placesStayAsked);
   row->addAction(m_placesStay); // by a right click on either button
   row->setContextMenuPolicy(Qt::ActionsContextMenu);

@@ -13,8 +13,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTeamFouls = 1712;
-constexpr int kInBonus = 1943;
 constexpr int kMargin = 8;
 constexpr int kTeamEdge = 3;
 constexpr double kRadius = 7;
@@ -27,7 +25,7 @@ FoulCard::FoulCard(int team, const Texts& texts, QWidget* parent)
   m_count->setObjectName(QStringLiteral("lblFTE%1").arg(team));
   m_count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   m_words->setObjectName(QStringLiteral("lblBONUS(%1)").arg(team));
-  setTextNumber(*m_title, kTeamFouls);
+  setTextNumber(*m_title, Text::TeamFouls);
 }
 
 void FoulCard::showGame(const LiveGame& game) {
@@ -36,9 +34,9 @@ void FoulCard::showGame(const LiveGame& game) {
   m_count->setText(QString::number(game.teamFouls(m_team)));
   m_words->setText(toQt(foulWords(game, m_team, m_texts)));
   QString hint =
-      caption(m_texts, kTeamFouls) + u'\n' + toQt(shownByPeriod(game, m_team, ByPeriod::Fouls, m_texts));
+      caption(m_texts, Text::TeamFouls) + u'\n' + toQt(shownByPeriod(game, m_team, ByPeriod::Fouls, m_texts));
   if (isInBonus)
-    hint += u'\n' + caption(m_texts, kInBonus);
+    hint += u'\n' + caption(m_texts, Text::InBonus);
   m_count->setToolTip(hint);
   m_words->setToolTip(hint);
   if (colour == m_colour && isInBonus == m_isInBonus)

@@ -12,12 +12,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kNotOnCourt = 1998;
-constexpr int kNothingRecorded = 1999;
-
-} // namespace
+namespace {} // namespace
 
 LiveKeys::LiveKeys(LiveGame& game, const Settings& settings, const Texts& texts, FollowUpBar& followUp,
                    QWidget& displayPlace, QWidget& window)
@@ -158,10 +153,10 @@ void LiveKeys::carryOutOrder() {
   const bool isOnCourt = order.player == 0 || m_game.slotOf(order.team, order.player).has_value();
   const bool comesOrGoes = order.kind != KeypadOrder::Kind::Shot && order.kind != KeypadOrder::Kind::Action;
   if (!carryOut(m_game, order))
-    return refuse(std::string(m_texts.text(kNothingRecorded)));
+    return refuse(std::string(m_texts.text(Text::NothingRecorded)));
   std::string words = "✓ " + KeypadInput::words(order, m_game.game(), m_texts);
   if (!isOnCourt && !comesOrGoes)
-    words.append(" (").append(m_texts.text(kNotOnCourt)).append(")");
+    words.append(" (").append(m_texts.text(Text::NotOnCourt)).append(")");
   m_display->show({}, toQt(words), KeypadDisplay::Tone::Recorded, m_input.setup().flashes);
   emit recorded(order);
 }

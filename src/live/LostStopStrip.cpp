@@ -12,12 +12,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kClockRan = 1847;
-constexpr int kPeriodOver = 1848;
-constexpr int kLastClock = 1849;
-constexpr int kRunOnClock = 1850;
-constexpr int kWasClosed = 2490;
-
 constexpr int kGap = 6;
 
 } // namespace
@@ -54,13 +48,13 @@ void LostStopStrip::offer(const LostStop& lost, bool wasClosed) {
 }
 
 void LostStopStrip::relabelPanel() {
-  const auto clock = [this](int text, int seconds) {
+  const auto clock = [this](Text text, int seconds) {
     return toQt(m_texts.withPlaceholder(text, Module1::clockText(seconds)));
   };
-  const int ran = m_wasClosed ? kWasClosed : kClockRan;
-  m_text->setText(caption(m_texts, m_lost.isPeriodOver ? kPeriodOver : ran));
-  m_last->setText(clock(kLastClock, m_lost.lastClock));
-  m_runOn->setText(clock(kRunOnClock, m_lost.runOnClock.value_or(0)));
+  const Text ran = m_wasClosed ? Text::WasClosed : Text::ClockRan;
+  m_text->setText(caption(m_texts, m_lost.isPeriodOver ? Text::PeriodOver : ran));
+  m_last->setText(clock(Text::LastEventClock, m_lost.lastClock));
+  m_runOn->setText(clock(Text::RunOnClock, m_lost.runOnClock.value_or(0)));
 }
 
 void LostStopStrip::applyColours() {

@@ -21,14 +21,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kOnDisk = 1937;
-constexpr int kNotOnDiskHint = 1939;
-constexpr int kTypeHere = 2567;
-constexpr int kTypeHint = 2568;
-constexpr int kSaved = 2569;
-constexpr int kTogether = 2571;
-constexpr int kRun = 2565;
-constexpr int kBestFive = 2566;
 constexpr int kGap = 8;
 constexpr int kChip = 10;
 
@@ -46,8 +38,8 @@ NowStrip::NowStrip(const Texts& texts, QWidget* parent)
   m_keys->setIcon(icon(QStringLiteral("livekpad")));
   m_keys->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   m_keys->setFocusPolicy(Qt::TabFocus);
-  setTextNumber(*m_keys, kTypeHere);
-  setToolTipNumber(*m_keys, kTypeHint);
+  setTextNumber(*m_keys, Text::TypeHere);
+  setToolTipNumber(*m_keys, Text::TypeHint);
   connect(m_keys, &QToolButton::clicked, this, &NowStrip::keysAsked);
   m_disk->setObjectName(QStringLiteral("lblDISK"));
   m_disk->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -89,7 +81,7 @@ void NowStrip::addFive(std::size_t team) {
   m_runs.push_back({.colour = teamColour(team), .isChip = true, .beginsGroup = true});
   addWords(toQt(five.jerseys), look.ink, true);
   if (m_game->hasTime()) {
-    addWords(caption(m_texts, kTogether), look.muted);
+    addWords(caption(m_texts, Text::Together), look.muted);
     addWords(toQt(Module1::clockText(five.seconds)), look.ink);
   }
   addWords(signedText(five.plusMinus()),
@@ -106,7 +98,8 @@ void NowStrip::gather() {
   for (const std::size_t team : {0U, 1U})
     addFive(team);
   if (m_run) {
-    m_runs.push_back({.text = caption(m_texts, kRun), .colour = look.muted, .beginsGroup = true});
+    m_runs.push_back(
+        {.text = caption(m_texts, Text::RunOfPoints), .colour = look.muted, .beginsGroup = true});
     m_runs.push_back({.colour = teamColour(static_cast<std::size_t>(m_run->team)), .isChip = true});
     addWords(toQt(runText(*m_run)), look.ink, true);
   }
@@ -114,7 +107,7 @@ void NowStrip::gather() {
     const std::optional<FivePlay>& best = m_fives.best[team];
     if (!best || best->plusMinus() <= 0)
       continue;
-    m_runs.push_back({.text = caption(m_texts, kBestFive), .colour = look.muted, .beginsGroup = true});
+    m_runs.push_back({.text = caption(m_texts, Text::BestFive), .colour = look.muted, .beginsGroup = true});
     m_runs.push_back({.colour = teamColour(team), .isChip = true});
     addWords(toQt(best->jerseys), look.ink);
     addWords(signedText(best->plusMinus()), look.made, true);
@@ -131,9 +124,9 @@ void NowStrip::showDisk(bool isOnDisk, std::size_t waiting) {
   m_isOnDisk = isOnDisk;
   m_waiting = waiting;
   const Look& look = Theme::look();
-  m_disk->setText(caption(m_texts, kSaved) + (isOnDisk ? QStringLiteral(" ✓") : QStringLiteral(" ✕")));
-  m_disk->setToolTip(isOnDisk ? caption(m_texts, kOnDisk)
-                              : toQt(m_texts.withPlaceholder(kNotOnDiskHint, std::to_string(waiting))));
+  m_disk->setText(caption(m_texts, Text::Saved) + (isOnDisk ? QStringLiteral(" ✓") : QStringLiteral(" ✕")));
+  m_disk->setToolTip(isOnDisk ? caption(m_texts, Text::OnDisk)
+                              : toQt(m_texts.withPlaceholder(Text::NotOnDiskHint, std::to_string(waiting))));
   m_disk->setAccessibleName(m_disk->toolTip());
   QPalette colours = palette();
   colours.setColor(QPalette::WindowText, isOnDisk ? look.made : look.missed);

@@ -23,30 +23,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTitle = 2477;
-constexpr int kScore = 2478;
-constexpr int kSameScore = 2479;
-constexpr int kMoreOnBoard = 2480;
-constexpr int kFewerOnBoard = 2481;
-constexpr int kLeadToEvents = 2482;
-constexpr int kToCheck = 2483;
-constexpr int kNothingToCheck = 1973;
-constexpr int kCheck = 2484;
-constexpr int kSwitch = 1608;
-constexpr int kSwitchTip = 1043;
-constexpr int kSwitchNow = 2522;
-constexpr int kSubstitution = 1561;
-constexpr int kSubstitutionTip = 2485;
-constexpr int kStartPeriod = 2486;
-constexpr int kStartOvertime = 2487;
-constexpr int kGameOver = 2488;
-constexpr int kClose = 2489;
-constexpr int kIsItSo = 2517;
-constexpr int kLookOnce = 2518;
-constexpr int kWhatNext = 2519;
-constexpr int kIsSame = 2523;
-constexpr int kIsAnother = 2524;
-
 constexpr int kMargin = 9;
 constexpr int kGap = 5;
 constexpr int kFrame = 2;
@@ -65,8 +41,8 @@ PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
   close->setText(QStringLiteral("✕"));
   close->setAutoRaise(true);
   close->setFocusPolicy(Qt::TabFocus);
-  setToolTipNumber(*close, kClose);
-  setAccessibleNumber(*close, kClose);
+  setToolTipNumber(*close, Text::CloseCard);
+  setAccessibleNumber(*close, Text::CloseCard);
   connect(close, &QToolButton::clicked, this, &QWidget::hide);
   m_head = new QWidget(this);
   m_head->setAutoFillBackground(true);
@@ -78,16 +54,16 @@ PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
   m_compared = new PlainLabel(this);
   m_compared->setObjectName(QStringLiteral("lblCOMPARED"));
   m_compared->setWordWrap(true);
-  m_events = makeButton("cmdCARDEVENTS", kLeadToEvents);
+  m_events = makeButton("cmdCARDEVENTS", Text::LeadToEvents);
   m_toCheck = new PlainLabel(this);
   m_toCheck->setObjectName(QStringLiteral("lblTOCHECK"));
   m_toCheck->setWordWrap(true);
-  m_check = makeButton("cmdCARDCHECK", kCheck);
-  m_switch = makeButton("cmdCARDSWITCH", kSwitch);
-  m_substitute = makeButton("cmdCARDSUBST", kSubstitution);
-  setToolTipNumber(*m_switch, kSwitchTip);
-  setToolTipNumber(*m_substitute, kSubstitutionTip);
-  m_next = makeButton("cmdNEXT", 0);
+  m_check = makeButton("cmdCARDCHECK", Text::GoThroughThem);
+  m_switch = makeButton("cmdCARDSWITCH", Text::Sides);
+  m_substitute = makeButton("cmdCARDSUBST", Text::Substitution);
+  setToolTipNumber(*m_switch, Text::SwitchSides);
+  setToolTipNumber(*m_substitute, Text::SubstitutionsTip);
+  m_next = makeButton("cmdNEXT", Text::None);
   Theme::setType(*m_next, Type::Body, QFont::Bold);
   connect(m_events, &QPushButton::clicked, this, [this] { emit eventsAsked(m_differs); });
   connect(m_check, &QPushButton::clicked, this, &PeriodEndCard::checkAsked);
@@ -102,14 +78,14 @@ PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
   auto* parts = new QVBoxLayout;
   parts->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   parts->setSpacing(kGap);
-  parts->addWidget(makeTitle(kIsItSo));
+  parts->addWidget(makeTitle(Text::IsItSo));
   parts->addWidget(makeScore());
   parts->addLayout(makeAnswers());
   parts->addWidget(m_compared);
-  parts->addWidget(makeTitle(kLookOnce));
+  parts->addWidget(makeTitle(Text::LookOnce));
   parts->addWidget(m_toCheck);
   parts->addWidget(m_check);
-  parts->addWidget(makeTitle(kWhatNext));
+  parts->addWidget(makeTitle(Text::WhatNext));
   m_both = new QBoxLayout(QBoxLayout::LeftToRight);
   m_both->setSpacing(kGap);
   m_both->addWidget(m_switch, 1);
@@ -122,19 +98,19 @@ PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
   hide();
 }
 
-QLabel* PeriodEndCard::makeTitle(int text) {
+QLabel* PeriodEndCard::makeTitle(Text text) {
   auto* title = new PlainLabel(this);
   Theme::setType(*title, Type::Body, QFont::DemiBold);
   setTextNumber(*title, text);
   return title;
 }
 
-QPushButton* PeriodEndCard::makeButton(const char* name, int text) {
+QPushButton* PeriodEndCard::makeButton(const char* name, Text text) {
   auto* button = new QPushButton(this);
   button->setObjectName(QLatin1String(name));
   button->setFocusPolicy(Qt::TabFocus);
   button->setAutoDefault(false);
-  if (text > 0)
+  if (text != Text::None)
     setTextNumber(*button, text);
   return button;
 }
@@ -152,8 +128,8 @@ QWidget* PeriodEndCard::makeScore() {
     m_scores[team]->setValidator(new QIntValidator(0, kHighestScore, m_scores[team]));
     m_scores[team]->setAlignment(Qt::AlignCenter);
     Theme::setType(*m_scores[team], Type::Count, QFont::Bold);
-    setToolTipNumber(*m_scores[team], kScore);
-    setAccessibleNumber(*m_scores[team], kScore);
+    setToolTipNumber(*m_scores[team], Text::ScoreToCompare);
+    setAccessibleNumber(*m_scores[team], Text::ScoreToCompare);
     m_scores[team]->installEventFilter(this);
     connect(m_scores[team], &QLineEdit::textChanged, this, &PeriodEndCard::compare);
     layout->addWidget(m_names[team], 1);
@@ -166,8 +142,8 @@ QWidget* PeriodEndCard::makeScore() {
 QLayout* PeriodEndCard::makeAnswers() {
   auto* row = new QHBoxLayout;
   row->setSpacing(kGap);
-  QPushButton* same = makeButton("cmdCARDSAME", kIsSame);
-  m_another = makeButton("cmdCARDANOTHER", kIsAnother);
+  QPushButton* same = makeButton("cmdCARDSAME", Text::IsSame);
+  m_another = makeButton("cmdCARDANOTHER", Text::IsAnother);
   connect(same, &QPushButton::clicked, this, [this] {
     for (QLineEdit* score : m_scores)
       score->setText(score->placeholderText());
@@ -215,28 +191,28 @@ void PeriodEndCard::relabelCard() {
   if (m_game == nullptr || m_period == 0)
     return;
   const EventWords words(m_game->game(), m_texts);
-  m_title->setText(toQt(m_texts.withPlaceholder(kTitle, words.periodText(m_period))));
+  m_title->setText(toQt(m_texts.withPlaceholder(Text::PeriodEndTitle, words.periodText(m_period))));
   for (std::size_t team = 0; team < 2; ++team) {
     m_names[team]->setText(toQt(m_game->game().details.abbreviation[team]));
     m_scores[team]->setPlaceholderText(QString::number(m_game->state().points(static_cast<int>(team))));
   }
   compare();
   const bool isAny = m_findings + m_doubtful > 0;
-  m_toCheck->setText(isAny ? toQt(withPlaceholders(m_texts.text(kToCheck), std::to_string(m_findings),
-                                                   std::to_string(m_doubtful)))
-                           : caption(m_texts, kNothingToCheck));
+  m_toCheck->setText(isAny ? toQt(withPlaceholders(m_texts.text(Text::ToCheckAndDoubtful),
+                                                   std::to_string(m_findings), std::to_string(m_doubtful)))
+                           : caption(m_texts, Text::NothingToCheck));
   m_check->setVisible(isAny);
   for (QPushButton* button : {m_switch, m_substitute})
     button->setVisible(m_game->phase() != LiveGame::Phase::Decided);
-  m_switch->setText(caption(m_texts, m_game->isHalfTime() ? kSwitchNow : kSwitch));
+  m_switch->setText(caption(m_texts, m_game->isHalfTime() ? Text::SwitchNow : Text::Sides));
   // The question of half-time needs the whole width.
   m_both->setDirection(m_game->isHalfTime() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
   const int lock = m_game->startLock();
   QString next;
   switch (m_game->phase()) {
-  case LiveGame::Phase::OvertimeAsked: next = caption(m_texts, kStartOvertime); break;
-  case LiveGame::Phase::Decided: next = caption(m_texts, kGameOver); break;
-  default: next = toQt(m_texts.withPlaceholder(kStartPeriod, words.periodText(m_game->period())));
+  case LiveGame::Phase::OvertimeAsked: next = caption(m_texts, Text::StartOvertime); break;
+  case LiveGame::Phase::Decided: next = caption(m_texts, Text::GameOver); break;
+  default: next = toQt(m_texts.withPlaceholder(Text::StartPeriod, words.periodText(m_game->period())));
   }
   const bool isLocked = lock > 0 && m_game->phase() != LiveGame::Phase::Decided;
   m_next->setText(isLocked ? QStringLiteral("%1 (%2 s)").arg(next).arg(lock) : next);
@@ -264,11 +240,11 @@ void PeriodEndCard::compare() {
       continue;
     isSame = false;
     m_differs = team;
-    words = toQt(withPlaceholders(m_texts.text(more > 0 ? kMoreOnBoard : kFewerOnBoard),
+    words = toQt(withPlaceholders(m_texts.text(more > 0 ? Text::MoreOnBoard : Text::FewerOnBoard),
                                   m_game->game().details.abbreviation[team], std::to_string(std::abs(more))));
   }
   if (m_differs < 0)
-    words = caption(m_texts, isSame ? kSameScore : kScore);
+    words = caption(m_texts, isSame ? Text::SameScore : Text::ScoreToCompare);
   m_compared->setText(words);
   QPalette colours = palette();
   if (isSame || m_differs >= 0)

@@ -48,8 +48,8 @@ class PeriodEndCard : public QWidget {
  private:
   QWidget* makeScore();
   QLayout* makeAnswers();
-  QLabel* makeTitle(int text);
-  QPushButton* makeButton(const char* name, int text);
+  QLabel* makeTitle(Text text);
+  QPushButton* makeButton(const char* name, Text text);
   void compare();
 
   const Texts& m_texts;

@@ -15,10 +15,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTied = 1021;
-constexpr int kAhead = 1020;
-constexpr int kTimeInLeadHint = 1714;
-constexpr int kTotal = 2564;
 constexpr int kRows = 4;
 constexpr int kMargin = 8;
 constexpr double kRadius = 7;
@@ -33,7 +29,7 @@ PeriodScores::PeriodScores(const Texts& texts, QWidget* parent) : QWidget(parent
       auto* label = new ElidedLabel(this);
       label->setObjectName(QLatin1String(name) + QStringLiteral("(%1)").arg(state));
       label->setAlignment(alignment | Qt::AlignVCenter);
-      setToolTipNumber(*label, kTimeInLeadHint);
+      setToolTipNumber(*label, Text::TimeInLeadHint);
       return label;
     };
     lead.title = make("lblPOS", Qt::AlignLeft);
@@ -55,11 +51,11 @@ void PeriodScores::showGame(const LiveGame& game) {
         {toQt(row.period), {QString::number(row.ofTeam[0].points), QString::number(row.ofTeam[1].points)}});
   for (int period = static_cast<int>(columns.size()) + 1; period <= game.game().details.periods; ++period)
     columns.push_back({toQt(words.periodText(period)), {QStringLiteral("·"), QStringLiteral("·")}});
-  columns.push_back(
-      {caption(m_texts, kTotal), {QString::number(score.points[0]), QString::number(score.points[1])}});
+  columns.push_back({caption(m_texts, Text::TotalColumn),
+                     {QString::number(score.points[0]), QString::number(score.points[1])}});
   for (std::size_t state = 0; state < m_leads.size(); ++state) {
     Lead& lead = m_leads[state];
-    lead.title->setText(state == kTiedPlace ? caption(m_texts, kTied)
+    lead.title->setText(state == kTiedPlace ? caption(m_texts, Text::LeadTied)
                                             : toQt(game.game().details.abbreviation[state]));
     lead.time->setText(toQt(leadTimeShown(game, static_cast<LeadState>(state))));
     lead.times->setText(u'×' + QString::number(game.state().lead.times[state]));
@@ -141,7 +137,7 @@ void PeriodScores::paintEvent(QPaintEvent*) {
   painter.setPen(look.muted);
   painter.setFont(usual);
   const QRect head = rowRect(0);
-  painter.drawText(head, Qt::AlignRight | Qt::AlignVCenter, caption(m_texts, kAhead));
+  painter.drawText(head, Qt::AlignRight | Qt::AlignVCenter, caption(m_texts, Text::Ahead));
   // From the right: the sum, then the last period, and so on while there is room.
   const int sumWidth = metrics.horizontalAdvance(QStringLiteral("000")) + 4;
   const int width = metrics.horizontalAdvance(QStringLiteral("00")) + Theme::measure()(8);

@@ -39,10 +39,6 @@ constexpr int kTotalsTop = 259;
 constexpr double kRadius = 7;
 constexpr int kTeamEdge = 3;
 
-constexpr int kTotalText = 1070;
-constexpr int kCourtToolTip = 1095;
-constexpr int kNobodyText = 1117;
-
 constexpr int kActionRows = static_cast<int>(kActionControls.size()) / 2;
 constexpr int kShotButtons = 5;
 
@@ -78,8 +74,8 @@ PlayerPanel::PlayerPanel(int slot, const Settings& settings, const Texts& texts,
   makeHead();
   m_court = new MiniCourt(settings, m_content);
   m_court->setObjectName(named("CourtJ"));
-  setToolTipNumber(*m_court, kCourtToolTip);
-  setAccessibleNumber(*m_court, kCourtToolTip);
+  setToolTipNumber(*m_court, Text::CourtTip);
+  setAccessibleNumber(*m_court, Text::CourtTip);
   connect(m_court, &MiniCourt::pressed, this,
           [this](const QPointF& place, bool isMade) { emit courtPressed(m_slot, place, isMade); });
   makeActions();
@@ -107,7 +103,7 @@ QString PlayerPanel::named(const char* name) const {
   return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(m_slot);
 }
 
-QLabel* PlayerPanel::headLabel(const char* name, int toolTip) {
+QLabel* PlayerPanel::headLabel(const char* name, Text toolTip) {
   auto* const label = new PlainLabel(m_content);
   label->setObjectName(named(name));
   setToolTipNumber(*label, toolTip);
@@ -115,16 +111,14 @@ QLabel* PlayerPanel::headLabel(const char* name, int toolTip) {
 }
 
 void PlayerPanel::makeHead() {
-  constexpr int kPointsToolTip = 1708;
-  constexpr int kTimeToolTip = 1706;
-  m_entry = headLabel("lblID", 0); // never shown: which player of the roster stands here
+  m_entry = headLabel("lblID", Text::None); // never shown: which player of the roster stands here
   m_entry->hide();
-  m_jersey = headLabel("lblNO", 0);
+  m_jersey = headLabel("lblNO", Text::None);
   m_jersey->setAlignment(Qt::AlignCenter);
-  m_name = headLabel("lblNom", 0);
-  m_points = headLabel("lblPTS", kPointsToolTip);
+  m_name = headLabel("lblNom", Text::None);
+  m_points = headLabel("lblPTS", Text::PointsScored);
   m_points->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  m_time = headLabel("lblTIME", kTimeToolTip);
+  m_time = headLabel("lblTIME", Text::TimeToolTip);
   m_time->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
@@ -135,7 +129,7 @@ void PlayerPanel::makeActions() {
         new StatButton(StatButton::Records::Action, shortName(kind.code), {named(controls.count)}, m_content);
     button->setObjectName(named(controls.button));
     setToolTipNumber(*button, controls.toolTip);
-    setAccessibleNumber(*button, controls.toolTip == 0 ? 0 : kind.wordsText);
+    setAccessibleNumber(*button, controls.toolTip == Text::None ? Text::None : kind.wordsText);
     connect(button, &StatButton::recorded, this,
             [this, code = kind.code] { emit actionPressed(m_slot, code); });
     m_buttons[kind.code] = button;
@@ -199,7 +193,7 @@ void PlayerPanel::showPanel() {
   }
   m_entry->setText(QString::number(m_shown.player));
   m_jersey->setText(toQt(m_shown.jersey));
-  setAccessibleName(isEmpty ? caption(m_texts, kNobodyText)
+  setAccessibleName(isEmpty ? caption(m_texts, Text::Nobody)
                             : QStringLiteral("%1 %2").arg(toQt(m_shown.jersey), toQt(m_shown.name)));
   showName();
   m_points->setText(QString::number(pointsOf(m_shown.counters)));
@@ -246,10 +240,10 @@ void PlayerPanel::setSelected(bool isSelected) {
 }
 
 void PlayerPanel::relabelPanel() {
-  m_total->setCaption(caption(m_texts, kTotalText));
+  m_total->setCaption(caption(m_texts, Text::Total));
   showOwnLabels();
   if (m_shown.player == 0)
-    setAccessibleName(caption(m_texts, kNobodyText));
+    setAccessibleName(caption(m_texts, Text::Nobody));
 }
 
 void PlayerPanel::showOwnLabels() {

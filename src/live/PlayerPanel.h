@@ -59,7 +59,7 @@ class PlayerPanel : public QWidget {
   void makeHead();
   void makeShots();
   void makeActions();
-  QLabel* headLabel(const char* name, int toolTip);
+  QLabel* headLabel(const char* name, Text toolTip);
   [[nodiscard]] QString named(const char* name) const; // "lblFG(3)"
   void showPanel();
   void showFouls();

@@ -15,9 +15,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kAllOut = 1948;
-constexpr int kAllOutTip = 1949;
-constexpr int kAddPlayer = 2560;
 constexpr int kMinute = 60;
 
 constexpr int kTeamEdge = 4;
@@ -56,12 +53,12 @@ RosterStrip::RosterStrip(int team, const Texts& texts, QWidget* parent)
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   m_allOut = new QPushButton(this);
   m_allOut->setObjectName(QStringLiteral("cmdOUTALL(%1)").arg(team));
-  setTextNumber(*m_allOut, kAllOut);
+  setTextNumber(*m_allOut, Text::AllOut);
   connect(m_allOut, &QPushButton::clicked, this, [this] { emit allOutAsked(m_team); });
   m_add = new QPushButton(QStringLiteral("+"), this);
   m_add->setObjectName(QStringLiteral("cmdADDPLAYER(%1)").arg(team));
-  setToolTipNumber(*m_add, kAddPlayer);
-  setAccessibleNumber(*m_add, kAddPlayer);
+  setToolTipNumber(*m_add, Text::AddPlayer);
+  setAccessibleNumber(*m_add, Text::AddPlayer);
   connect(m_add, &QPushButton::clicked, this, [this] { emit playerAsked(m_team); });
   for (int place = 0; place < kPlaces; ++place) {
     auto* button = new JerseyButton(jerseyButtonName(team * kPlaces + place), {}, this);
@@ -93,7 +90,7 @@ void RosterStrip::showPlace(const LiveGame& game, int player, const Choice& choi
   if (!isOnCourt)
     lines = linesOf(game, m_team, player);
   if (isOut && !isOnCourt)
-    lines = {caption(m_texts, 1517).toUpper(), lines[0]};
+    lines = {caption(m_texts, Text::Out).toUpper(), lines[0]};
   const LivePanel::FoulMark trouble = LivePanel::foulTrouble(game, m_team, player);
   const bool isWarned = trouble == LivePanel::FoulMark::OneLeft || trouble == LivePanel::FoulMark::EarlyTwo;
   button.setLook({.jersey = toQt(entry->jersey),
@@ -124,7 +121,7 @@ void RosterStrip::showGame(const LiveGame& game, const Choice& choice) {
   }
   setToolTip(toQt(details.name[m_team]));
   m_allOut->setEnabled(game.canRecord() && game.onCourt()[team] != 0);
-  m_allOut->setToolTip(toQt(m_texts.withPlaceholder(kAllOutTip, details.name[m_team])));
+  m_allOut->setToolTip(toQt(m_texts.withPlaceholder(Text::AllLeave, details.name[m_team])));
   m_allOut->setAccessibleName(m_allOut->toolTip());
   m_firstFree = kPlaces + 1;
   for (int player = 1; player <= kPlaces; ++player)

@@ -22,22 +22,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSelectColour = 1835;
-constexpr int kPointsByPeriod = 1506;
-constexpr int kNoTime = 1383;
-constexpr int kPeriod = 1087;
-constexpr int kStartHint = 1930;
-constexpr int kClockHint = 1931;
-constexpr int kSecondMore = 1932;
-constexpr int kSecondLess = 1933;
-constexpr int kClockForm = 1934;
-constexpr int kBack = 1935;
-constexpr int kBackHint = 1936;
-constexpr int kPeriodByHand = 1944;
-constexpr int kLocked = 2495;
-constexpr int kRuns = 2561;
-constexpr int kStands = 2562;
-constexpr int kWithoutTime = 2563;
 constexpr int kRefusedShown = 700; // milliseconds
 
 // Heights and widths for a window 1366 wide and for one of 1920.
@@ -117,7 +101,7 @@ QLabel* ScorePanel::label(const QString& name) {
 }
 
 // Reached by the Tab key alone, so that a click never takes the keys away from the clock.
-QToolButton* ScorePanel::smallButton(const QString& name, const QString& text, int toolTip) {
+QToolButton* ScorePanel::smallButton(const QString& name, const QString& text, Text toolTip) {
   auto* button = new QToolButton(this);
   button->setObjectName(name);
   button->setText(text);
@@ -132,8 +116,8 @@ void ScorePanel::makeTeam(int team) {
   side.plate = new TeamPlate(this);
   side.plate->setObjectName(QStringLiteral("pictTEAM(%1)").arg(team));
   side.plate->installEventFilter(this);
-  setToolTipNumber(*side.plate, kSelectColour);
-  side.name = smallButton(QStringLiteral("cmdCOUL(%1)").arg(team), {}, kSelectColour);
+  setToolTipNumber(*side.plate, Text::SelectColour);
+  side.name = smallButton(QStringLiteral("cmdCOUL(%1)").arg(team), {}, Text::SelectColour);
   side.name->setParent(side.plate);
   side.name->setAutoRaise(true);
   connect(side.name, &QToolButton::clicked, this, [this, team] { emit colourAsked(team); });
@@ -160,12 +144,12 @@ void ScorePanel::makeClock() {
     m_start->setDown(false); // what it asks for may open a window that keeps the release from it
     emit startAsked();
   });
-  m_earlier = smallButton(QStringLiteral("cmdTEMPS(1)"), QStringLiteral("−1"), kSecondLess);
-  m_later = smallButton(QStringLiteral("cmdTEMPS(0)"), QStringLiteral("+1"), kSecondMore);
+  m_earlier = smallButton(QStringLiteral("cmdTEMPS(1)"), QStringLiteral("−1"), Text::SecondLess);
+  m_later = smallButton(QStringLiteral("cmdTEMPS(0)"), QStringLiteral("+1"), Text::SecondMore);
   connect(m_earlier, &QToolButton::pressed, this, [this] { emit clockAsked(m_game->clockSeconds() - 1); });
   connect(m_later, &QToolButton::pressed, this, [this] { emit clockAsked(m_game->clockSeconds() + 1); });
-  m_return = smallButton(QStringLiteral("cmdRETURN"), {}, kBackHint);
-  setTextNumber(*m_return, kBack);
+  m_return = smallButton(QStringLiteral("cmdRETURN"), {}, Text::BackHint);
+  setTextNumber(*m_return, Text::BackwardsTip);
   m_return->setShortcut(Qt::Key_F3); // whoever records by keys has no other way back
   connect(m_return, &QToolButton::pressed, this, &ScorePanel::returnAsked); // what is typed next comes after
   m_return->hide();
@@ -176,11 +160,11 @@ void ScorePanel::makeClock() {
 
 void ScorePanel::makePeriod() {
   m_periodTitle = label(QStringLiteral("lblPERIODTITLE"));
-  setTextNumber(*m_periodTitle, kPeriod);
+  setTextNumber(*m_periodTitle, Text::Period);
   m_period = label(QStringLiteral("lblPERIOD"));
-  setToolTipNumber(*m_period, kPeriod);
-  m_previousPeriod = smallButton(QStringLiteral("UpDoPERIOD(1)"), {}, kPeriodByHand);
-  m_nextPeriod = smallButton(QStringLiteral("UpDoPERIOD(0)"), {}, kPeriodByHand);
+  setToolTipNumber(*m_period, Text::Period);
+  m_previousPeriod = smallButton(QStringLiteral("UpDoPERIOD(1)"), {}, Text::PeriodByHand);
+  m_nextPeriod = smallButton(QStringLiteral("UpDoPERIOD(0)"), {}, Text::PeriodByHand);
   m_previousPeriod->setArrowType(Qt::DownArrow);
   m_nextPeriod->setArrowType(Qt::UpArrow);
   for (QToolButton* button : {m_previousPeriod, m_nextPeriod})
@@ -249,9 +233,9 @@ void ScorePanel::paintEvent(QPaintEvent*) {
   painter.drawRoundedRect(QRectF(m_plate).adjusted(0.5, 0.5, -0.5, -0.5), kPlateRadius, kPlateRadius);
 }
 
-void ScorePanel::tip(QWidget& widget, int number) {
-  setToolTipNumber(widget, number);
-  widget.setToolTip(caption(m_texts, number).trimmed());
+void ScorePanel::tip(QWidget& widget, Text text) {
+  setToolTipNumber(widget, text);
+  widget.setToolTip(caption(m_texts, text).trimmed());
 }
 
 void ScorePanel::showGame(const LiveGame& game) {
@@ -278,7 +262,7 @@ void ScorePanel::showTeam(std::size_t team) {
   wear(*side.points, textOn(own));
   wear(*side.name, textOn(own));
   side.points->setText(QString::number(m_game->state().points(number)));
-  side.points->setToolTip(caption(m_texts, kPointsByPeriod) + u'\n' +
+  side.points->setToolTip(caption(m_texts, Text::PointsByPeriod) + u'\n' +
                           toQt(shownByPeriod(*m_game, number, ByPeriod::Points, m_texts)));
   side.fouls->showGame(*m_game);
 }
@@ -295,15 +279,17 @@ void ScorePanel::showClockButtons() {
     leaveClock();
   const bool hasTime = m_game->hasTime();
   const bool isLocked = m_game->startLock() > 0 && !isRunning;
-  tip(*m_start, !hasTime ? kNoTime : isLocked ? kLocked : kStartHint);
-  tip(*m_clock, hasTime ? kClockHint : kNoTime);
-  tip(*m_later, hasTime ? kSecondMore : kNoTime);
-  tip(*m_earlier, hasTime ? kSecondLess : kNoTime);
+  tip(*m_start, !hasTime ? Text::NoTime : isLocked ? Text::PeriodJustEnded : Text::StartHint);
+  tip(*m_clock, hasTime ? Text::ClockHint : Text::NoTime);
+  tip(*m_later, hasTime ? Text::SecondMore : Text::NoTime);
+  tip(*m_earlier, hasTime ? Text::SecondLess : Text::NoTime);
   wear(*m_clock, isRunning || !hasTime ? Theme::look().plateText : Theme::look().clockStands);
   wear(*m_state, isRunning ? Theme::look().clockRuns
                  : hasTime ? Theme::look().clockStands
                            : Theme::look().plateMuted);
-  m_state->setText(caption(m_texts, !hasTime ? kWithoutTime : isRunning ? kRuns : kStands));
+  m_state->setText(caption(m_texts, !hasTime    ? Text::WithoutTime
+                                    : isRunning ? Text::ClockRuns
+                                                : Text::ClockStands));
 
   const bool canChangePeriod = !isRunning && m_game->canRecord();
   m_nextPeriod->setEnabled(canChangePeriod);
@@ -448,7 +434,8 @@ bool ScorePanel::eventFilter(QObject* watched, QEvent* event) {
 void ScorePanel::editClock() {
   if (m_game == nullptr || !m_game->hasTime() || m_game->phase() != LiveGame::Phase::Stopped)
     return;
-  const QString form = toQt(m_texts.withPlaceholder(kClockForm, Module1::clockText(m_game->fullLength())));
+  const QString form =
+      toQt(m_texts.withPlaceholder(Text::ClockForm, Module1::clockText(m_game->fullLength())));
   m_clockEdit->setToolTip(form);
   m_clockEdit->setAccessibleName(form);
   m_clockEdit->setText(m_clock->text());

@@ -61,7 +61,7 @@ class ScorePanel : public QWidget {
   };
 
   QLabel* label(const QString& name);
-  QToolButton* smallButton(const QString& name, const QString& text, int toolTip);
+  QToolButton* smallButton(const QString& name, const QString& text, Text toolTip);
   void makeTeam(int team);
   void makeClock();
   void makePeriod();
@@ -73,7 +73,7 @@ class ScorePanel : public QWidget {
   void editClock();
   void takeClock();
   void leaveClock();
-  void tip(QWidget& widget, int number);
+  void tip(QWidget& widget, Text text);
 
   const Texts& m_texts;
   const LiveGame* m_game = nullptr; // shown last

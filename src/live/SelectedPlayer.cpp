@@ -16,11 +16,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSelectedTip = 1952;
-constexpr int kNobodySelected = 1953;
-constexpr int kMoreTip = 1846;
-constexpr int kShotTip = 2497;
-
 constexpr int kGap = 2;
 
 } // namespace
@@ -38,7 +33,7 @@ SelectedPlayer::SelectedPlayer(const Texts& texts, QWidget* parent)
   // As wide as there is room, whoever's name it is.
   m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   for (QLabel* label : {m_number, m_name})
-    setToolTipNumber(*label, kSelectedTip);
+    setToolTipNumber(*label, Text::SelectedTip);
   layout->addWidget(m_number);
   layout->addWidget(m_name, 1);
 
@@ -85,8 +80,8 @@ QToolButton* SelectedPlayer::makeFoul(const char* name, EventCode kind) {
 QToolButton* SelectedPlayer::makeShot() {
   QToolButton* button = makeButton("cmdSELSHOT");
   button->setText(QStringLiteral("●✕"));
-  setToolTipNumber(*button, kShotTip);
-  setAccessibleNumber(*button, kShotTip);
+  setToolTipNumber(*button, Text::ShotTip);
+  setAccessibleNumber(*button, Text::ShotTip);
   connect(button, &QToolButton::clicked, this,
           [this, button] { emit shotAsked(button->mapToGlobal(button->rect().bottomLeft())); });
   return button;
@@ -97,8 +92,8 @@ QToolButton* SelectedPlayer::makeMenu() {
   QToolButton* button = makeButton("cmdSELMORE");
   button->setText(QStringLiteral("\u2026"));
   button->setPopupMode(QToolButton::InstantPopup);
-  setToolTipNumber(*button, kMoreTip);
-  setAccessibleNumber(*button, kMoreTip);
+  setToolTipNumber(*button, Text::MoreTip);
+  setAccessibleNumber(*button, Text::MoreTip);
   auto* menu = new QMenu(button);
   for (const EventKind& kind : eventKinds()) {
     if (kind.isShot || kind.isTeamFoul)
@@ -136,7 +131,7 @@ void SelectedPlayer::showPlayer(const LiveGame& game, int team, int player) {
 void SelectedPlayer::showNobody() {
   m_number->setPalette(palette());
   m_number->setText({});
-  m_name->setText(caption(m_texts, kNobodySelected));
+  m_name->setText(caption(m_texts, Text::NobodySelected));
   m_name->setForegroundRole(QPalette::PlaceholderText);
   m_actions->hide();
 }

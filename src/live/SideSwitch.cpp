@@ -16,11 +16,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSwitchSides = 1043;
-constexpr int kPlaysLeft = 1940;
-constexpr int kHalfTime = 2381;
-constexpr int kRowsStay = 2494;
-
 constexpr int kGap = 4;
 
 } // namespace
@@ -68,7 +63,7 @@ SideSwitch::SideSwitch(const Texts& texts, QWidget* parent)
   connect(m_button, &QToolButton::clicked, this, &SideSwitch::asked);
   m_rowsStay->setObjectName(QStringLiteral("cmdROWSSTAY"));
   m_rowsStay->setCheckable(true);
-  setTextNumber(*m_rowsStay, kRowsStay);
+  setTextNumber(*m_rowsStay, Text::RowsStay);
   addAction(m_rowsStay);
   setContextMenuPolicy(Qt::ActionsContextMenu);
   connect(m_rowsStay, &QAction::triggered, this, &SideSwitch::rowsStayAsked);
@@ -110,8 +105,8 @@ void SideSwitch::showGame(const LiveGame& game) {
   const GameDetails& details = game.game().details;
   m_court->showColours({colourOf(details.teamColour[left]), colourOf(details.teamColour[1 - left])});
   m_name->setText(QStringLiteral("◂") + toQt(details.abbreviation[left]));
-  const QString hint = caption(m_texts, isOffered ? kHalfTime : kSwitchSides) + u'\n' +
-                       toQt(m_texts.withPlaceholder(kPlaysLeft, details.abbreviation[left]));
+  const QString hint = caption(m_texts, isOffered ? Text::HalfTime : Text::SwitchSides) + u'\n' +
+                       toQt(m_texts.withPlaceholder(Text::PlaysLeft, details.abbreviation[left]));
   for (QWidget* part :
        {static_cast<QWidget*>(m_court), static_cast<QWidget*>(m_name), static_cast<QWidget*>(m_button)}) {
     part->setToolTip(hint);

@@ -23,16 +23,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTitle = 1143;
-constexpr int kSaveAndContinue = 1144;
-constexpr int kSaveAndClose = 1145;
-constexpr int kOpenAgain = 1147;
-constexpr int kCloseWindow = 1088;
-constexpr int kWarningTitle = 1139;
-constexpr int kNotes = 1716;
-constexpr int kNoMoreFits = 1810;
-constexpr int kOf = 1864;
-constexpr int kNotSaved = 1941;
 constexpr QSize kNotesSize(420, 130);
 constexpr int kMargin = 16;
 constexpr int kGap = 8;
@@ -44,7 +34,7 @@ frmGAMEOVER::frmGAMEOVER(const GameDetails& details, const Texts& texts, Dialogs
       m_notesBefore(details.notes), m_lastNotes(toQt(details.notes)), m_notes(new QPlainTextEdit(this)),
       m_length(new PlainLabel(this)) {
   setObjectName(QStringLiteral("frmGAMEOVER"));
-  setTextNumber(*this, kTitle);
+  setTextNumber(*this, Text::GameOverTitle);
   setModal(true);
   m_notes->setObjectName(QStringLiteral("txtNOTES"));
   m_notes->setPlainText(m_lastNotes);
@@ -59,10 +49,10 @@ frmGAMEOVER::frmGAMEOVER(const GameDetails& details, const Texts& texts, Dialogs
   auto* layout = new QGridLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->setSpacing(kGap);
-  layout->addWidget(captionFor(*m_notes, kNotes), 0, 0);
+  layout->addWidget(captionFor(*m_notes, Text::GameNotes), 0, 0);
   layout->addWidget(m_length, 0, 1);
   layout->addWidget(m_notes, 1, 0, 1, 2);
-  const auto addButton = [&](const char* name, int text, Choice choice, int column) {
+  const auto addButton = [&](const char* name, Text text, Choice choice, int column) {
     auto* button = new QPushButton(this);
     button->setObjectName(QLatin1String(name));
     setTextNumber(*button, text);
@@ -72,11 +62,11 @@ frmGAMEOVER::frmGAMEOVER(const GameDetails& details, const Texts& texts, Dialogs
     return button;
   };
   if (m_isFinished) {
-    addButton("cmd1", kOpenAgain, Choice::Reopen, 0);
-    addButton("cmd2", kCloseWindow, Choice::None, 1)->setDefault(true);
+    addButton("cmd1", Text::OpenGame, Choice::Reopen, 0);
+    addButton("cmd2", Text::Close, Choice::None, 1)->setDefault(true);
   } else {
-    addButton("cmd1", kSaveAndClose, Choice::Close, 0);
-    addButton("cmd2", kSaveAndContinue, Choice::Continue, 1)->setDefault(true);
+    addButton("cmd1", Text::SaveAndClose, Choice::Close, 0);
+    addButton("cmd2", Text::SaveAndContinue, Choice::Continue, 1)->setDefault(true);
   }
   connect(m_notes, &QPlainTextEdit::textChanged, this, &frmGAMEOVER::limitNotes);
   relabel(*this, texts);
@@ -102,7 +92,7 @@ void frmGAMEOVER::limitNotes() {
     cursor.setPosition(std::clamp(end - added, 0, static_cast<int>(m_lastNotes.size())));
     m_notes->setTextCursor(cursor);
     QToolTip::showText(m_notes->mapToGlobal(m_notes->cursorRect().bottomLeft()),
-                       caption(m_texts, kNoMoreFits), m_notes);
+                       caption(m_texts, Text::NoMoreFits), m_notes);
   }
   m_lastNotes = m_notes->toPlainText();
   showLength();
@@ -111,7 +101,7 @@ void frmGAMEOVER::limitNotes() {
 void frmGAMEOVER::showLength() {
   const std::string bytes = std::to_string(codepage::fromUtf8(notes()).size());
   const std::string most = std::to_string(cinifile::kLongestValue);
-  m_length->setText(toQt(withPlaceholders(m_texts.text(kOf), bytes, most)));
+  m_length->setText(toQt(withPlaceholders(m_texts.text(Text::CountOf), bytes, most)));
 }
 
 void frmGAMEOVER::choose(Choice choice) {
@@ -124,7 +114,8 @@ void frmGAMEOVER::choose(Choice choice) {
 
 void frmGAMEOVER::reject() {
   if (!m_isFinished && notes() != m_notesBefore) {
-    switch (m_dialogs.askToSave(this, caption(m_texts, kWarningTitle), caption(m_texts, kNotSaved))) {
+    switch (m_dialogs.askToSave(this, caption(m_texts, Text::WarningTitle),
+                                caption(m_texts, Text::NotesNotSaved))) {
     case SaveChoice::Save: return choose(Choice::Continue);
     case SaveChoice::Stay: return;
     case SaveChoice::Discard: break;

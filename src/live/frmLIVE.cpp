@@ -48,26 +48,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kErrorTitle = 1060;
-constexpr int kWarningTitle = 1139;
-constexpr int kWindowTitle = 1001;
-constexpr int kColourTitle = 1835;
-constexpr int kHeldElsewhere = 2382;
-constexpr int kTakenOver = 2385;
-constexpr int kOtherNames = 2387;
-constexpr int kNotOnDiskButRescued = 2394;
-constexpr int kForReadingOnly = 1914;
-constexpr int kNotOnDisk = 1915;
-constexpr int kLeaveUnwritten = 1916;
-constexpr int kLeaveRescued = 2457;
-constexpr int kPeriodTooLong = 2380;
-constexpr int kCountOutOfRange = 1523;
-constexpr int kAnswerFirst = 2474;
-constexpr int kToggledTwice = 2501;
-constexpr int kLocked = 2495;
-constexpr int kStartTakenBack = 2502;
-constexpr int kCloseInPlay = 2506;
-constexpr int kGameOverInPlay = 2507;
 constexpr const char* kRowsStay = "rows-stay";
 constexpr const char* kRowsChange = "rows-change";
 constexpr const char* kPlacesStay = "places-stay";
@@ -77,8 +57,7 @@ constexpr const char* kEventsClosed = "events-closed";
 constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
 constexpr auto kRetryInterval = 2s;
 constexpr auto kLockTick = 200ms;
-constexpr int kPanelRows = 2; // of the grid, for each team: its roster and its panels
-constexpr int kPending = 2496;
+constexpr int kPanelRows = 2;   // of the grid, for each team: its roster and its panels
 constexpr int kPathWidth = 380; // so that what can be done about it stands beside it on a small screen
 
 } // namespace
@@ -233,7 +212,7 @@ void frmLIVE::connectEverything() {
     showGame();
   });
   connect(m_requests, &EventRequests::clockAsked, this, &frmLIVE::toggleClock);
-  connect(m_requests, &EventRequests::startTakenBack, this, [this] { say(kStartTakenBack); });
+  connect(m_requests, &EventRequests::startTakenBack, this, [this] { say(Text::StartTakenBack); });
   connect(m_sides, &SideSwitch::rowsStayAsked, this, [this](bool stay) {
     m_rowsStay = stay;
     showSides();
@@ -289,8 +268,9 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   GameDetails details; // a file that cannot be read is told about below
   if (GameFile(m_store, fromQt(path)).readDetails(details) == GameFileProblem::None &&
       details.impossibleMinutes.value_or(0) > kMostMinutes) {
-    m_dialogs.warn(this, toQt(m_texts.text(kErrorTitle)),
-                   toQt(m_texts.withPlaceholder(kPeriodTooLong, std::to_string(*details.impossibleMinutes))));
+    m_dialogs.warn(
+        this, toQt(m_texts.text(Text::ErrorTitle)),
+        toQt(m_texts.withPlaceholder(Text::PeriodTooLong, std::to_string(*details.impossibleMinutes))));
     return Opening::Refused;
   }
   if (!mayClose()) // what is open now
@@ -311,8 +291,8 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   if (access == GameHold::Access::Ours) {
     m_game.disk().setOwnership([this] { return m_hold->isStillOurs(); });
     if (m_hold->lock().names() > 1)
-      m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)),
-                       toQt(m_texts.withPlaceholder(kOtherNames, m_hold->lock().game())));
+      m_dialogs.inform(this, toQt(m_texts.text(Text::WarningTitle)),
+                       toQt(m_texts.withPlaceholder(Text::OtherNames, m_hold->lock().game())));
   }
   m_notices->forget();
   m_card->hide();
@@ -334,8 +314,8 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   emit commandStateChanged();
   if (const auto& count = m_game.log().outOfRange()) { // the game goes on all the same
     m_dialogs.warn(
-        this, toQt(m_texts.text(kWarningTitle)),
-        toQt(withPlaceholders(m_texts.text(kCountOutOfRange), fromQt(QFileInfo(path).fileName()),
+        this, toQt(m_texts.text(Text::WarningTitle)),
+        toQt(withPlaceholders(m_texts.text(Text::CountOutOfRange), fromQt(QFileInfo(path).fileName()),
                               m_game.game().details.abbreviation[count->team] + " " + count->what)));
   }
   QTimer::singleShot(0, this, &frmLIVE::askFives); // when the window stands
@@ -375,7 +355,7 @@ void frmLIVE::showGame() {
   }
   const auto& details = m_game.game().details;
   setWindowTitle(asTitle(QStringLiteral("%1 - %2 %3 - %4 %5")
-                             .arg(toQt(m_texts.text(kWindowTitle)), toQt(details.abbreviation[0]),
+                             .arg(toQt(m_texts.text(Text::LiveTitle)), toQt(details.abbreviation[0]),
                                   QString::number(m_game.state().points(0)),
                                   QString::number(m_game.state().points(1)), toQt(details.abbreviation[1]))));
 }
@@ -411,7 +391,8 @@ QString frmLIVE::pendingWords() const {
       counts += (counts.empty() ? "" : ", ") + m_game.game().details.abbreviation[team] + " " +
                 std::to_string(std::popcount(now[team]));
   }
-  return toQt(withPlaceholders(m_texts.text(kPending), counts, Module1::clockText(pending->clockSeconds)));
+  return toQt(withPlaceholders(m_texts.text(Text::SubstitutionPending), counts,
+                               Module1::clockText(pending->clockSeconds)));
 }
 
 void frmLIVE::showDisk() {
@@ -423,7 +404,9 @@ void frmLIVE::showDisk() {
     m_retryOfWrites.stop();
     return m_notices->showNotOnDisk({});
   }
-  const int text = disk.isLost() ? kTakenOver : disk.rescuedAs().empty() ? kNotOnDisk : kNotOnDiskButRescued;
+  const Text text = disk.isLost()              ? Text::TakenOver
+                    : disk.rescuedAs().empty() ? Text::ChangesNotOnDisk
+                                               : Text::NotOnDiskButRescued;
   const std::string words = withPlaceholders(
       m_texts.text(text), disk.isLost() ? fromQt(m_hold->ownerWords()) : waiting, disk.rescuedAs());
   m_notices->showNotOnDisk(toQt(words));
@@ -433,7 +416,7 @@ void frmLIVE::showDisk() {
 
 void frmLIVE::showReadOnly() {
   m_readOnly->setVisible(m_game.phase() == LiveGame::Phase::ReadOnly);
-  const int text = m_isHeldElsewhere ? kHeldElsewhere : kForReadingOnly;
+  const Text text = m_isHeldElsewhere ? Text::HeldElsewhere : Text::ForReadingOnly;
   const QString whom = m_isHeldElsewhere ? m_hold->ownerWords() : path();
   const QString shown = m_readOnly->fontMetrics().elidedText(whom, Qt::ElideMiddle, kPathWidth);
   m_readOnly->setText(toQt(m_texts.withPlaceholder(text, fromQt(shown))));
@@ -466,15 +449,15 @@ void frmLIVE::lookAtFile() {
 
 void frmLIVE::toggleClock() {
   if (!m_toggles.mayToggle(m_sinceBegin.elapsed()))
-    return refuseClock(kToggledTwice);
+    return refuseClock(Text::ToggledTwice);
   m_followUp->settle();
   const LiveGame::Phase before = m_game.phase();
   if (before != LiveGame::Phase::Running && m_followUp->isOpen()) {
-    m_followUp->refuse(kAnswerFirst);
+    m_followUp->refuse(Text::AnswerFirst);
     return m_score->showRefused();
   }
   if (before != LiveGame::Phase::Running && m_game.startLock() > 0)
-    return refuseClock(kLocked);
+    return refuseClock(Text::PeriodJustEnded);
   if (before == LiveGame::Phase::OvertimeAsked)
     return askOvertime();
   m_game.toggleClock();
@@ -482,12 +465,12 @@ void frmLIVE::toggleClock() {
   tellMissing();
 }
 
-void frmLIVE::refuseClock(int text) {
+void frmLIVE::refuseClock(Text text) {
   m_score->showRefused();
   say(text);
 }
 
-void frmLIVE::say(int text) {
+void frmLIVE::say(Text text) {
   tell(caption(m_texts, text));
 }
 
@@ -535,9 +518,10 @@ void frmLIVE::askOvertime() {
 
 void frmLIVE::gameOver() {
   if (m_game.phase() == LiveGame::Phase::ReadOnly)
-    return m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)), m_readOnly->toolTip());
+    return m_dialogs.inform(this, toQt(m_texts.text(Text::WarningTitle)), m_readOnly->toolTip());
   if (isRunning()) {
-    if (!m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)), toQt(m_texts.text(kGameOverInPlay))))
+    if (!m_dialogs.ask(this, toQt(m_texts.text(Text::WarningTitle)),
+                       toQt(m_texts.text(Text::GameOverInPlay))))
       return;
     m_game.stop();
     showGame();
@@ -612,7 +596,8 @@ void frmLIVE::chooseColour(int team) {
   if (m_game.phase() == LiveGame::Phase::ReadOnly)
     return;
   const std::uint32_t colour = m_game.game().details.teamColour[team];
-  const QColor chosen = m_dialogs.chooseColour(this, toQt(m_texts.text(kColourTitle)), colourOf(colour));
+  const QColor chosen =
+      m_dialogs.chooseColour(this, toQt(m_texts.text(Text::SelectColour)), colourOf(colour));
   if (!chosen.isValid())
     return;
   m_game.setTeamColour(team, storedColour(chosen));
@@ -688,7 +673,7 @@ void frmLIVE::dropEvent(QDropEvent* event) {
 bool frmLIVE::mayClose() {
   m_followUp->settle();
   if (isRunning() &&
-      !m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)), toQt(m_texts.text(kCloseInPlay))))
+      !m_dialogs.ask(this, toQt(m_texts.text(Text::WarningTitle)), toQt(m_texts.text(Text::CloseInPlay))))
     return false;
   m_game.stopForClosing(QDateTime::currentSecsSinceEpoch());
   showGame();
@@ -697,9 +682,9 @@ bool frmLIVE::mayClose() {
   showDisk();
   const std::string& rescued = m_game.disk().rescuedAs();
   const std::string question =
-      withPlaceholders(m_texts.text(rescued.empty() ? kLeaveUnwritten : kLeaveRescued),
+      withPlaceholders(m_texts.text(rescued.empty() ? Text::LeaveUnwritten : Text::LeaveRescued),
                        std::to_string(m_game.log().waiting()), rescued);
-  return m_dialogs.ask(this, toQt(m_texts.text(kErrorTitle)), toQt(question));
+  return m_dialogs.ask(this, toQt(m_texts.text(Text::ErrorTitle)), toQt(question));
 }
 
 } // namespace hooptab

@@ -119,8 +119,8 @@ class frmLIVE : public ChildWindow {
   void lookAtFile();
   void tick();
   void toggleClock();
-  void refuseClock(int text);
-  void say(int text);
+  void refuseClock(Text text);
+  void say(Text text);
   void setOnCourt(const OnCourt& onCourt);
   void afterClock(LiveGame::Phase before);
   void afterShot(int team, int player, EventCode kind, bool isMade);

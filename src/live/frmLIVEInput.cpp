@@ -26,22 +26,11 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kOnePress = 2498;
-constexpr int kMakeTwo = 2499;
-constexpr int kSecondPress = 2500;
-constexpr int kWasNotOnCourt = 2503;
-constexpr int kPutIn = 2473;
-constexpr int kRebounds = 2585;
-constexpr int kNowDoubtful = 2504;
-constexpr int kNoLongerDoubtful = 2505;
-
-} // namespace
+namespace {} // namespace
 
 void frmLIVE::connectShots() {
   connect(m_followUp, &FollowUpBar::chosen, this, &frmLIVE::followUp);
-  connect(m_followUp, &FollowUpBar::pressIgnored, this, [this] { say(kSecondPress); });
+  connect(m_followUp, &FollowUpBar::pressIgnored, this, [this] { say(Text::SecondPress); });
   connect(m_followUp, &FollowUpBar::closed, this, [this] {
     m_askedAbout = {};
     showSelected();
@@ -49,7 +38,7 @@ void frmLIVE::connectShots() {
       std::exchange(m_afterQuestion, {})();
   });
   connect(m_repeats, &RepeatedPress::heldBack, this, [this] {
-    m_notices->message().offer(caption(m_texts, kOnePress), caption(m_texts, kMakeTwo),
+    m_notices->message().offer(caption(m_texts, Text::OnePress), caption(m_texts, Text::MakeTwo),
                                [this] { m_repeats->carryOut(); });
   });
   connect(m_bench, &BenchPanel::shotAsked, this, &frmLIVE::askBenchShot);
@@ -137,7 +126,7 @@ void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pa
 void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
   m_correction->end();
   if (!isMade && !m_settings.asksRebounds && !std::exchange(m_hasMissed, true))
-    say(kRebounds);
+    say(Text::MissedAskRebound);
   const auto followUps = m_game.followUps(team, player, kind, isMade, m_settings.asksRebounds);
   const auto slot = m_game.slotOf(team, player);
   const auto placeOf = [](const QWidget& widget) {
@@ -162,7 +151,8 @@ void frmLIVE::offerToPutIn(const EventPlace& event, int team, int player) {
   if (who == nullptr)
     return;
   const std::string name = m_game.game().details.abbreviation[side] + " " + who->jersey + " " + who->name;
-  m_notices->message().offer(toQt(m_texts.withPlaceholder(kWasNotOnCourt, name)), caption(m_texts, kPutIn),
+  m_notices->message().offer(toQt(m_texts.withPlaceholder(Text::WasNotOnCourt, name)),
+                             caption(m_texts, Text::PutIn),
                              [this, event, team, player] { m_requests->putIn(event, team, player); });
 }
 
@@ -227,7 +217,7 @@ void frmLIVE::markDoubtful() {
     return;
   showGame();
   m_notices->message().say(
-      toQt(m_texts.withPlaceholder(isDoubtful ? kNowDoubtful : kNoLongerDoubtful, name)));
+      toQt(m_texts.withPlaceholder(isDoubtful ? Text::NowDoubtful : Text::NoLongerDoubtful, name)));
 }
 
 } // namespace hooptab

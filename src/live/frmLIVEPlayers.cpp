@@ -25,8 +25,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kLastGame = 2591;
-constexpr int kSeveral = 1946;
 constexpr Qt::Key kCorrect = Qt::Key_F11;
 
 } // namespace
@@ -116,7 +114,7 @@ void frmLIVE::proposeFives(frmSUBST& several) {
     if (!awaitsFive(m_game, team))
       continue;
     if (const auto last = LastFive::of(m_store.files(), m_game.game(), team))
-      several.propose(team, last->players, toQt(m_texts.withPlaceholder(kLastGame, last->jerseys)),
+      several.propose(team, last->players, toQt(m_texts.withPlaceholder(Text::LastGame, last->jerseys)),
                       toQt(last->date + " – " + last->opponent));
   }
 }
@@ -124,7 +122,8 @@ void frmLIVE::proposeFives(frmSUBST& several) {
 void frmLIVE::tellMissing() {
   const std::string missing = missingWords(m_game, m_texts);
   if (isRunning() && !missing.empty())
-    m_notices->message().offer(toQt(missing), caption(m_texts, kSeveral), [this] { m_bench->askSeveral(); });
+    m_notices->message().offer(toQt(missing), caption(m_texts, Text::Several),
+                               [this] { m_bench->askSeveral(); });
 }
 
 } // namespace hooptab

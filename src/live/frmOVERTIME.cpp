@@ -18,10 +18,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTitle = 1141;
-constexpr int kKeepFouls = 1142;
-constexpr int kAccept = 1089;
-constexpr int kMinutesOfOvertime = 1942;
 constexpr int kSecondsPerMinute = 60;
 constexpr int kMargin = 16;
 constexpr int kGap = 10;
@@ -31,14 +27,14 @@ constexpr int kGap = 10;
 frmOVERTIME::frmOVERTIME(const GameDetails& details, const Texts& texts, QWidget* parent)
     : QDialog(parent), m_minutes(new QSpinBox(this)), m_keepsFouls(new QCheckBox(this)) {
   setObjectName(QStringLiteral("frmOVERTIME"));
-  setTextNumber(*this, kTitle);
+  setTextNumber(*this, Text::OvertimeTitle);
   setModal(true);
   m_minutes->setObjectName(QStringLiteral("UpDown1"));
   m_minutes->setRange(1, kMostMinutes);
   m_keepsFouls->setObjectName(QStringLiteral("Check1"));
   m_keepsFouls->setChecked(details.keepsBonus); // as in the overtime before
-  setTextNumber(*m_keepsFouls, kKeepFouls);
-  setToolTipNumber(*m_keepsFouls, kKeepFouls);
+  setTextNumber(*m_keepsFouls, Text::KeepFouls);
+  setToolTipNumber(*m_keepsFouls, Text::KeepFouls);
   auto* clock = new PlainLabel(this);
   clock->setObjectName(QStringLiteral("lblTEMPS"));
   Theme::setType(*clock, Type::Score);
@@ -46,13 +42,13 @@ frmOVERTIME::frmOVERTIME(const GameDetails& details, const Texts& texts, QWidget
   auto* accept = new QPushButton(this);
   accept->setObjectName(QStringLiteral("cmdOK"));
   accept->setDefault(true);
-  setTextNumber(*accept, kAccept);
-  setToolTipNumber(*accept, kAccept);
+  setTextNumber(*accept, Text::Accept);
+  setToolTipNumber(*accept, Text::Accept);
 
   auto* layout = new QGridLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->setSpacing(kGap);
-  layout->addWidget(captionFor(*m_minutes, kMinutesOfOvertime), 0, 0);
+  layout->addWidget(captionFor(*m_minutes, Text::MinutesOfOvertime), 0, 0);
   layout->addWidget(m_minutes, 0, 1);
   layout->addWidget(clock, 1, 0, 1, 2);
   layout->addWidget(m_keepsFouls, 2, 0, 1, 2);

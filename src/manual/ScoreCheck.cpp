@@ -16,12 +16,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kFinalScore = 2286;
-constexpr int kFinalScoreWords = 2287;
-constexpr int kAgrees = 2288;
-constexpr int kMissing = 2289;
-constexpr int kTooMany = 2290;
-
 constexpr int kFieldWidth = 48;
 constexpr int kHighestScore = 9999;
 constexpr int kGap = 6;
@@ -34,7 +28,7 @@ ScoreCheck::ScoreCheck(const ManualGame& game, const Texts& texts, QWidget* pare
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
   auto* caption = new PlainLabel(this);
-  setTextNumber(*caption, kFinalScore);
+  setTextNumber(*caption, Text::FinalScore);
   for (int team = 0; team < 2; ++team) {
     const auto named = [team](const char* name) {
       return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(team);
@@ -50,8 +44,8 @@ ScoreCheck::ScoreCheck(const ManualGame& game, const Texts& texts, QWidget* pare
     side.typed->setObjectName(named("txtFINAL"));
     side.typed->setValidator(new QIntValidator(0, kHighestScore, side.typed));
     side.typed->setFixedWidth(kFieldWidth);
-    setToolTipNumber(*side.typed, kFinalScoreWords);
-    setAccessibleNumber(*side.typed, kFinalScoreWords);
+    setToolTipNumber(*side.typed, Text::FinalScoreWords);
+    setAccessibleNumber(*side.typed, Text::FinalScoreWords);
     side.verdict = new PlainLabel(this);
     side.verdict->setObjectName(named("lblFINAL"));
     connect(side.typed, &QLineEdit::textChanged, this, &ScoreCheck::showPoints);
@@ -91,10 +85,11 @@ void ScoreCheck::showPoints() {
     const int missing = side.typed->text().toInt() - points;
     const bool isTyped = !side.typed->text().isEmpty();
     side.verdict->setVisible(isTyped);
-    side.verdict->setText(
-        missing == 0 ? u'●' + (u' ' + caption(m_texts, kAgrees))
-                     : u'✕' + (u' ' + toQt(m_texts.withPlaceholder(missing > 0 ? kMissing : kTooMany,
-                                                                   std::to_string(std::abs(missing))))));
+    side.verdict->setText(missing == 0
+                              ? u'●' + (u' ' + caption(m_texts, Text::PointsAgree))
+                              : u'✕' + (u' ' + toQt(m_texts.withPlaceholder(
+                                                   missing > 0 ? Text::PointsMissing : Text::PointsTooMany,
+                                                   std::to_string(std::abs(missing))))));
     QPalette colours;
     colours.setColor(QPalette::WindowText, missing == 0 ? Theme::made() : Theme::missed());
     side.verdict->setPalette(colours);

@@ -20,11 +20,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kDelete = 1211;
-constexpr int kWithoutPlace = 1513;
-constexpr int kCourtKeys = 2297;
-constexpr int kShotsOfPlayer = 2298;
-
 constexpr int kListWidth = 180;
 constexpr int kGap = 6;
 
@@ -40,16 +35,16 @@ std::optional<court::Place> placeOf(const ManualShot& shot) {
 ShotPanel::ShotPanel(ManualGame& game, const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_game(game), m_texts(texts), m_court(new ManualCourt(settings, this)),
       m_hint(new PlainLabel(this)), m_list(new QListWidget(this)),
-      m_delete(iconButton("CmdDELSHOT", kDelete, kDelete, "delete", this)) {
+      m_delete(iconButton("CmdDELSHOT", Text::DeleteSelectedShot, Text::DeleteSelectedShot, "delete", this)) {
   m_court->setMinimumSize(200, 300);
   m_court->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  setAccessibleNumber(*m_court, kCourtKeys);
-  setTextNumber(*m_hint, kCourtKeys);
+  setAccessibleNumber(*m_court, Text::CourtKeys);
+  setTextNumber(*m_hint, Text::CourtKeys);
   m_hint->setWordWrap(true);
   m_hint->setForegroundRole(QPalette::PlaceholderText);
   m_list->setObjectName(QStringLiteral("fsSHOT"));
-  setAccessibleNumber(*m_list, kShotsOfPlayer);
-  setToolTipNumber(*m_list, kShotsOfPlayer);
+  setAccessibleNumber(*m_list, Text::ShotsOfPlayer);
+  setToolTipNumber(*m_list, Text::ShotsOfPlayer);
   auto* press = new QShortcut(QKeySequence(Qt::Key_Delete), m_list);
   press->setContext(Qt::WidgetShortcut);
 
@@ -113,7 +108,7 @@ void ShotPanel::showShots(int team, int player) {
       for (std::size_t index = 0; index < shots.size(); ++index) {
         const QString mark = shots[index].isMade ? QStringLiteral("●") : QStringLiteral("✕");
         const QString place = shots[index].place.empty()
-                                  ? caption(m_texts, kWithoutPlace)
+                                  ? caption(m_texts, Text::WithoutPlace)
                                   : toQt(shots[index].place).replace(u',', QStringLiteral(", "));
         m_list->addItem(QStringLiteral("%1 %2   %3").arg(mark, toQt(kindOf(kind)->shortName), place));
         m_entries.push_back({kind, index});

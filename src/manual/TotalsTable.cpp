@@ -17,15 +17,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTotal = 1070;
-constexpr int kPlayerName = 1023;
-constexpr int kMadeShort = 1342;
-constexpr int kAttemptedShort = 1343;
-constexpr int kPointsScored = 1708;
-constexpr int kTableName = 2295;
-constexpr int kTableKeys = 2296;
-constexpr int kFieldGoalHint = 2302;
-
 constexpr int kHeaderRows = 3; // group, made or attempted, button
 constexpr int kCountsFrom = 2; // column of the first counts in the layout
 constexpr int kNumberWidth = 34;
@@ -53,8 +44,8 @@ TotalsTable::TotalsTable(ManualGame& game, const Settings& settings, const Texts
     : QWidget(parent), m_game(game), m_settings(settings), m_texts(texts) {
   setObjectName(QStringLiteral("tblTOTALS"));
   setFocusPolicy(Qt::StrongFocus);
-  setAccessibleNumber(*this, kTableName);
-  setToolTipNumber(*this, kTableKeys);
+  setAccessibleNumber(*this, Text::TableName);
+  setToolTipNumber(*this, Text::TableKeys);
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(0);
@@ -74,7 +65,7 @@ TotalsTable::TotalsTable(ManualGame& game, const Settings& settings, const Texts
 void TotalsTable::makeHeader() {
   auto* grid = qobject_cast<QGridLayout*>(layout());
   m_nameHeader = new PlainLabel(this);
-  setTextNumber(*m_nameHeader, kPlayerName);
+  setTextNumber(*m_nameHeader, Text::PlayerName);
   grid->addWidget(m_nameHeader, 0, 0, kHeaderRows, 2, Qt::AlignBottom);
   for (int column = 0; column < kColumns; ++column) {
     const auto at = static_cast<std::size_t>(column);
@@ -94,7 +85,7 @@ void TotalsTable::makeHeader() {
       auto* made = new PlainLabel(this);
       made->setAlignment(Qt::AlignCenter);
       made->setForegroundRole(QPalette::PlaceholderText);
-      setTextNumber(*made, counted.isMade ? kMadeShort : kAttemptedShort);
+      setTextNumber(*made, counted.isMade ? Text::MadeShort : Text::AttemptedShort);
       grid->addWidget(made, 1, place);
       m_captions[at] = made;
     }
@@ -115,7 +106,7 @@ void TotalsTable::makeHeader() {
   }
   m_pointsHeader = new PlainLabel(QStringLiteral("PTS"), this);
   m_pointsHeader->setAlignment(Qt::AlignCenter | Qt::AlignBottom);
-  setToolTipNumber(*m_pointsHeader, kPointsScored);
+  setToolTipNumber(*m_pointsHeader, Text::PointsScored);
   grid->addWidget(m_pointsHeader, 0, kCountsFrom + kColumns, kHeaderRows, 1);
 }
 
@@ -139,7 +130,7 @@ TotalsTable::Row TotalsTable::makeRow(int slot) {
     label->setMaximumHeight(CountCell::kLargestHeight);
   }
   if (isTotal) {
-    setTextNumber(*row.name, kTotal);
+    setTextNumber(*row.name, Text::Total);
     row.name->setFont(row.number->font());
   }
   grid->addWidget(row.number, place, 0);
@@ -269,15 +260,17 @@ TableContent TotalsTable::tableContent() const {
   const GameDetails& details = m_game.details();
   content.title = toQt(details.abbreviation[m_team]) + QStringLiteral(" – ") + toQt(details.name[m_team]);
   content.columns = {{QStringLiteral("No"), QStringLiteral("No"), {}, true},
-                     {caption(m_texts, kPlayerName), QStringLiteral("Name"), {}, true}};
+                     {caption(m_texts, Text::PlayerName), QStringLiteral("Name"), {}, true}};
   for (int column = 0; column < kColumns; ++column) {
     const ManualColumn& counted = columnAt(column);
     const QString name = toQt(kindOf(counted.code)->shortName);
     const QString header =
-        isShot(counted) ? name + caption(m_texts, counted.isMade ? kMadeShort : kAttemptedShort) : name;
+        isShot(counted) ? name + caption(m_texts, counted.isMade ? Text::MadeShort : Text::AttemptedShort)
+                        : name;
     content.columns.push_back({header, header, words(column)});
   }
-  content.columns.push_back({QStringLiteral("PTS"), QStringLiteral("PTS"), caption(m_texts, kPointsScored)});
+  content.columns.push_back(
+      {QStringLiteral("PTS"), QStringLiteral("PTS"), caption(m_texts, Text::PointsScored)});
   const auto add = [&](const QString& number, const QString& name, const Counters& counts) -> auto& {
     TableContent::Row& row = content.rows.emplace_back();
     row.cells = {{number}, {name}};
@@ -290,7 +283,7 @@ TableContent TotalsTable::tableContent() const {
     const RosterPlayer& player = *m_game.roster(m_team).player(slot);
     add(toQt(player.jersey), toQt(player.name), m_game.totals.slot(m_team, slot).counts());
   }
-  add({}, caption(m_texts, kTotal), m_game.totals.teamCounts(m_team)).isTotal = true;
+  add({}, caption(m_texts, Text::Total), m_game.totals.teamCounts(m_team)).isTotal = true;
   return content;
 }
 
@@ -298,7 +291,8 @@ void TotalsTable::relabelTable() {
   for (int column = 0; column < kColumns; ++column) {
     const auto at = static_cast<std::size_t>(column);
     const ManualColumn& counted = columnAt(column);
-    const QString hint = counted.button == nullptr ? u'\n' + caption(m_texts, kFieldGoalHint) : QString();
+    const QString hint =
+        counted.button == nullptr ? u'\n' + caption(m_texts, Text::FieldGoalHint) : QString();
     if (m_groups[at] != nullptr)
       m_groups[at]->setToolTip(words(column) + hint);
     if (m_captions[at] != nullptr)

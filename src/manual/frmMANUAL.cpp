@@ -33,41 +33,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kErrorTitle = 1060;
-constexpr int kWarningTitle = 1139;
-constexpr int kScanFilter = 1209;
-constexpr int kSelectForm = 1210;
-constexpr int kOpenForm = 1237;
-constexpr int kWindowTitle = 1243;
-constexpr int kHeldElsewhere = 2382;
-constexpr int kOtherNames = 2387;
-constexpr int kRewritten = 2392;
-constexpr int kKeptAs = 2393;
-constexpr int kTakenOver = 2455;
-constexpr int kTotalsStand = 2456;
-constexpr int kForReadingOnly = 1914;
-constexpr int kSaveFirst = 2280;
-constexpr int kClearTeam = 2281;
-constexpr int kLinesBeside = 2282;
-constexpr int kNotOnDisk = 2283;
-constexpr int kLeaveUnwritten = 2284;
-constexpr int kSaved = 2285;
-constexpr int kChoosePlayer = 2291;
-constexpr int kUnderMade = 2292;
-constexpr int kUnderPlaced = 2293;
-constexpr int kOutOfRange = 2294;
-constexpr int kTeamEntered = 2299;
-constexpr int kEveryScanFilter = 2303;
-constexpr int kMoreScanFilters = 2304;
-constexpr int kLeavePages = 2334;
-constexpr int kImported = 2335;
-constexpr int kImportValues = 1232;
-constexpr int kResetToZero = 1239;
-constexpr int kUndo = 2796;
-constexpr int kRedo = 2798; // each with its tool tip behind it
-constexpr int kUndone = 2800;
-constexpr int kRedone = 2801;
-
 constexpr auto kRetryInterval = 2s;
 constexpr int kMostChanges = 500; // that can be taken back
 constexpr int kMargin = 8;
@@ -123,8 +88,8 @@ QWidget* frmMANUAL::makeHead(QWidget* page) {
   m_teams = new QComboBox(head);
   m_teams->setObjectName(QStringLiteral("cmbTEAM"));
   m_teams->setFixedWidth(kTeamWidth);
-  setAccessibleNumber(*m_teams, kTeamEntered);
-  setToolTipNumber(*m_teams, kTeamEntered);
+  setAccessibleNumber(*m_teams, Text::TeamEntered);
+  setToolTipNumber(*m_teams, Text::TeamEntered);
   m_score = new ScoreCheck(m_game, m_texts, head);
   auto* layout = new QHBoxLayout(head);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -132,10 +97,10 @@ QWidget* frmMANUAL::makeHead(QWidget* page) {
   layout->addWidget(m_teams);
   layout->addWidget(m_score);
   layout->addStretch();
-  layout->addWidget(iconButton("cmdUNDO", kUndo, kUndo + 1, "undo", head));
-  layout->addWidget(iconButton("cmdREDO", kRedo, kRedo + 1, "redo", head));
-  layout->addWidget(iconButton("cmdFORM", kOpenForm, kOpenForm + 1, "openform", head));
-  layout->addWidget(iconButton("cmdZERO", 1239, 1240, "clear", head));
+  layout->addWidget(iconButton("cmdUNDO", Text::Undo, Text::UndoTip, "undo", head));
+  layout->addWidget(iconButton("cmdREDO", Text::Redo, Text::RedoTip, "redo", head));
+  layout->addWidget(iconButton("cmdFORM", Text::OpenForm, Text::OpenScannedForm, "openform", head));
+  layout->addWidget(iconButton("cmdZERO", Text::ResetToZero, Text::SetAllToZero, "clear", head));
   return head;
 }
 
@@ -153,7 +118,7 @@ QWidget* frmMANUAL::makePlayerBar(QWidget* page) {
   auto* layout = new QHBoxLayout(bar);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kMargin);
-  layout->addWidget(iconButton("cmdNEXT", 1222, 1223, "switch", bar));
+  layout->addWidget(iconButton("cmdNEXT", Text::Next, Text::NextEntry, "switch", bar));
   layout->addWidget(m_player, 1);
   layout->addWidget(m_hint, 2);
   return bar;
@@ -186,7 +151,7 @@ void frmMANUAL::connectEverything() {
   connect(m_table, &TotalsTable::typedRefused, this, &frmMANUAL::showRefusal);
   connect(m_shots, &ShotPanel::totalsChanged, this, [this] { keepChange(m_player->text()); });
   connect(m_shots, &ShotPanel::playerMissing, this,
-          [this] { showHint(caption(m_texts, kChoosePlayer), Theme::missed()); });
+          [this] { showHint(caption(m_texts, Text::ChoosePlayer), Theme::missed()); });
   connect(&m_retryOfWrites, &QTimer::timeout, this, &frmMANUAL::settle);
   connect(m_hold, &GameHold::fileChanged, this, &frmMANUAL::settle);
   connect(m_hold, &GameHold::taken, this, [this] { (void)open(path()); });
@@ -214,8 +179,8 @@ bool frmMANUAL::open(const QString& path, GameLock lock) {
   if (access == GameHold::Access::Ours) {
     m_game.setOwnership([this] { return m_hold->isStillOurs(); });
     if (m_hold->lock().names() > 1)
-      m_dialogs.inform(this, toQt(m_texts.text(kWarningTitle)),
-                       toQt(m_texts.withPlaceholder(kOtherNames, m_hold->lock().game())));
+      m_dialogs.inform(this, toQt(m_texts.text(Text::WarningTitle)),
+                       toQt(m_texts.withPlaceholder(Text::OtherNames, m_hold->lock().game())));
   }
   m_before = m_game.totals;
   m_changes.clear();
@@ -249,17 +214,17 @@ void frmMANUAL::chooseTeam(int team) {
 void frmMANUAL::clearTeam() {
   m_table->takeTyped();
   if (m_game.isForReading() ||
-      !m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)),
-                     toQt(m_texts.withPlaceholder(kClearTeam, fromQt(m_teams->currentText())))))
+      !m_dialogs.ask(this, toQt(m_texts.text(Text::WarningTitle)),
+                     toQt(m_texts.withPlaceholder(Text::ClearTeam, fromQt(m_teams->currentText())))))
     return;
   m_game.totals.clear(m_team);
   m_forms->forgetTaken();
-  keepChange(caption(m_texts, kResetToZero));
+  keepChange(caption(m_texts, Text::ResetToZero));
 }
 
 void frmMANUAL::import(int team) {
   chooseTeam(team);
-  keepChange(caption(m_texts, kImportValues));
+  keepChange(caption(m_texts, Text::ImportValues));
 }
 
 void frmMANUAL::keepChange(const QString& words) {
@@ -282,16 +247,19 @@ void frmMANUAL::go(Step step) {
   if (change->team() != m_team)
     chooseTeam(change->team());
   showTotals();
-  showHint(toQt(m_texts.withPlaceholder(isBack ? kUndone : kRedone, fromQt(change->text()))), Theme::muted());
+  showHint(
+      toQt(m_texts.withPlaceholder(isBack ? Text::TakenBack : Text::MadeOnceMore, fromQt(change->text()))),
+      Theme::muted());
 }
 
 void frmMANUAL::openForms() {
   if (m_game.isForReading() || !m_table->takeTyped())
     return;
-  const auto text = [this](int number) { return toQt(m_texts.text(number)); };
-  const QStringList files = m_dialogs.chooseFiles(
-      this, text(kSelectForm), toQt(m_settings.lastScanFolder),
-      fileFilter(text(kEveryScanFilter) + u'|' + text(kScanFilter) + u'|' + text(kMoreScanFilters)));
+  const auto text = [this](Text which) { return toQt(m_texts.text(which)); };
+  const QStringList files =
+      m_dialogs.chooseFiles(this, text(Text::SelectForm), toQt(m_settings.lastScanFolder),
+                            fileFilter(text(Text::EveryScanFilter) + u'|' + text(Text::ScanFilter) + u'|' +
+                                       text(Text::MoreScanFilters)));
   if (files.isEmpty())
     return;
   m_settings.lastScanFolder = fromQt(QFileInfo(files.first()).absolutePath());
@@ -304,7 +272,7 @@ void frmMANUAL::endForms(int imported) {
   showTotals();
   m_table->setFocus();
   if (imported > 0)
-    showHint(toQt(m_texts.withPlaceholder(kImported, std::to_string(imported))), Theme::made());
+    showHint(toQt(m_texts.withPlaceholder(Text::FormsImported, std::to_string(imported))), Theme::made());
 }
 
 void frmMANUAL::save() {
@@ -312,7 +280,7 @@ void frmMANUAL::save() {
     return;
   if (m_game.save()) {
     emit saved();
-    emit reported(toQt(m_texts.withPlaceholder(kSaved, fromQt(QFileInfo(path()).fileName()))));
+    emit reported(toQt(m_texts.withPlaceholder(Text::TotalsSaved, fromQt(QFileInfo(path()).fileName()))));
   }
   showTotals();
 }
@@ -321,12 +289,13 @@ bool frmMANUAL::mayClose() {
   if (!m_table->takeTyped())
     return false;
   if (const int left = m_forms->pagesLeft();
-      left > 0 && !m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)),
-                                 toQt(m_texts.withPlaceholder(kLeavePages, std::to_string(left)))))
+      left > 0 && !m_dialogs.ask(this, toQt(m_texts.text(Text::WarningTitle)),
+                                 toQt(m_texts.withPlaceholder(Text::LeavePages, std::to_string(left)))))
     return false;
   if (!m_game.isSaved()) {
-    const QString question = toQt(m_texts.withPlaceholder(kSaveFirst, fromQt(QFileInfo(path()).fileName())));
-    switch (m_dialogs.askToSave(this, toQt(m_texts.text(kWarningTitle)), question)) {
+    const QString question =
+        toQt(m_texts.withPlaceholder(Text::SaveFirst, fromQt(QFileInfo(path()).fileName())));
+    switch (m_dialogs.askToSave(this, toQt(m_texts.text(Text::WarningTitle)), question)) {
     case SaveChoice::Stay: return false;
     case SaveChoice::Save: save(); break;
     case SaveChoice::Discard: break;
@@ -335,7 +304,8 @@ bool frmMANUAL::mayClose() {
   if (m_game.settle())
     return true;
   showDisk();
-  return m_dialogs.ask(this, toQt(m_texts.text(kErrorTitle)), caption(m_texts, kLeaveUnwritten));
+  return m_dialogs.ask(this, toQt(m_texts.text(Text::ErrorTitle)),
+                       caption(m_texts, Text::LeaveUnsavedTotals));
 }
 
 // --- What is shown
@@ -361,7 +331,7 @@ void frmMANUAL::showPlayer() {
       player == nullptr ? QString() : QStringLiteral("%1  %2").arg(toQt(player->jersey), toQt(player->name)));
   m_shots->showShots(m_team, slot);
   if (player == nullptr)
-    return showHint(caption(m_texts, kChoosePlayer), Theme::muted());
+    return showHint(caption(m_texts, Text::ChoosePlayer), Theme::muted());
   showHint({}, Theme::muted());
 }
 
@@ -370,11 +340,11 @@ void frmMANUAL::showRefusal(ManualTotals::Typed reason, const ManualColumn& colu
   const int made = slot.counts()[kindOf(column.code)->counter];
   QString text;
   if (reason == ManualTotals::Typed::UnderMade)
-    text = toQt(m_texts.withPlaceholder(kUnderMade, std::to_string(made)));
+    text = toQt(m_texts.withPlaceholder(Text::UnderMade, std::to_string(made)));
   else if (reason == ManualTotals::Typed::UnderPlaced)
-    text = caption(m_texts, kUnderPlaced);
+    text = caption(m_texts, Text::UnderPlaced);
   else
-    text = toQt(m_texts.withPlaceholder(kOutOfRange, std::to_string(ManualTotals::kLargestCount)));
+    text = toQt(m_texts.withPlaceholder(Text::CountRange, std::to_string(ManualTotals::kLargestCount)));
   showHint(text, Theme::missed());
 }
 
@@ -398,21 +368,21 @@ void frmMANUAL::showTeams() {
 
 QString frmMANUAL::diskWords() const {
   if (m_isHeldElsewhere)
-    return toQt(m_texts.withPlaceholder(kHeldElsewhere, fromQt(m_hold->ownerWords())));
+    return toQt(m_texts.withPlaceholder(Text::HeldElsewhere, fromQt(m_hold->ownerWords())));
   if (m_game.isForReading())
-    return toQt(m_texts.withPlaceholder(kForReadingOnly, m_game.path()));
+    return toQt(m_texts.withPlaceholder(Text::ForReadingOnly, m_game.path()));
   if (m_game.isLost())
-    return toQt(m_texts.withPlaceholder(kTakenOver, fromQt(m_hold->ownerWords())));
-  return m_game.isOnDisk() ? QString() : caption(m_texts, kNotOnDisk);
+    return toQt(m_texts.withPlaceholder(Text::TotalsTakenOver, fromQt(m_hold->ownerWords())));
+  return m_game.isOnDisk() ? QString() : caption(m_texts, Text::TotalsNotOnDisk);
 }
 
 void frmMANUAL::tellForeignHands() {
   const ManualGame::ForeignHands hands = m_game.takeForeignHands();
   if (!hands.isRewritten && !hands.gaveWay)
     return;
-  std::string words(m_texts.text(hands.isRewritten ? kRewritten : kTotalsStand));
+  std::string words(m_texts.text(hands.isRewritten ? Text::FileRewritten : Text::TotalsStand));
   if (!hands.keptAs.empty())
-    words += ' ' + m_texts.withPlaceholder(kKeptAs, hands.keptAs);
+    words += ' ' + m_texts.withPlaceholder(Text::KeptAs, hands.keptAs);
   m_foreign->tell(toQt(words));
 }
 
@@ -429,8 +399,8 @@ void frmMANUAL::showDisk() {
   const GameDetails& details = m_game.details();
   const auto points = [this](int team) { return QString::number(pointsOf(m_game.totals.teamCounts(team))); };
   const QString title = QStringLiteral("%1 - %2 %3 - %4 %5")
-                            .arg(toQt(m_texts.text(kWindowTitle)), toQt(details.abbreviation[0]), points(0),
-                                 points(1), toQt(details.abbreviation[1]));
+                            .arg(toQt(m_texts.text(Text::ManualTitle)), toQt(details.abbreviation[0]),
+                                 points(0), points(1), toQt(details.abbreviation[1]));
   setWindowTitle(asTitle(title) + QStringLiteral("[*]"));
   setWindowModified(!m_game.isSaved());
 }
@@ -439,7 +409,7 @@ void frmMANUAL::relabelWindow() {
   relabel(*this, m_texts);
   showTeams();
   const std::size_t beside = m_game.totals.linesBeside();
-  m_notice->setText(toQt(m_texts.withPlaceholder(kLinesBeside, std::to_string(beside))));
+  m_notice->setText(toQt(m_texts.withPlaceholder(Text::LinesBeside, std::to_string(beside))));
   m_notice->setVisible(beside > 0);
   m_table->relabelTable();
   m_shots->relabelPanel();

@@ -5,7 +5,6 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "printing/Printers.h"
-#include "report/PrintTexts.h"
 
 #include <QBoxLayout>
 #include <QDir>
@@ -27,11 +26,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kErrorTitle = 1060;
-constexpr int kWarningTitle = 1139;
-constexpr int kPrinterError = 1402;
-constexpr int kReplaceFile = 1836;
-
 constexpr auto kPollInterval = 50ms;
 constexpr auto kShownAfter = 300ms;
 constexpr auto kOfferedFor = 60s; // to open what was saved
@@ -41,27 +35,29 @@ constexpr qsizetype kLongestName =
 
 struct Form {
   ReportForm form;
-  int text;
-  int filter;
+  Text text;
+  Text filter;
 };
-constexpr Form kForms[] = {
-    {ReportForm::Pdf, kSavePdf, kPdfFilter},    {ReportForm::Xlsx, kSaveXlsx, kXlsxFilter},
-    {ReportForm::Csv, kSaveCsv, kCsvFilter},    {ReportForm::CsvFrench, kSaveCsvFrench, kCsvFilter},
-    {ReportForm::Html, kSaveHtml, kHtmlFilter}, {ReportForm::Png, kSavePictures, kPngFilter}};
+constexpr Form kForms[] = {{ReportForm::Pdf, Text::SavePdf, Text::PdfFilter},
+                           {ReportForm::Xlsx, Text::SaveXlsx, Text::XlsxFilter},
+                           {ReportForm::Csv, Text::SaveCsv, Text::CsvFilter},
+                           {ReportForm::CsvFrench, Text::SaveCsvFrench, Text::CsvFilter},
+                           {ReportForm::Html, Text::SaveHtml, Text::HtmlFilter},
+                           {ReportForm::Png, Text::SavePictures, Text::PngFilter}};
 
 const Form& formOf(ReportForm form) {
   return *std::ranges::find(kForms, form, &Form::form);
 }
 
-int textOfProblem(WriteProblem problem) {
+Text textOfProblem(WriteProblem problem) {
   switch (problem) {
-  case WriteProblem::IsFolder: return kPathIsFolder;
-  case WriteProblem::NoFolder: return kFolderIsMissing;
-  case WriteProblem::NoRight: return kNoRightToWrite;
-  case WriteProblem::NoRoom: return kNoRoomOnDisk;
+  case WriteProblem::IsFolder: return Text::PathIsFolder;
+  case WriteProblem::NoFolder: return Text::FolderIsMissing;
+  case WriteProblem::NoRight: return Text::NoRightToWrite;
+  case WriteProblem::NoRoom: return Text::NoRoomOnDisk;
   case WriteProblem::Unknown: break;
   }
-  return kReportNotWritten;
+  return Text::ReportNotWritten;
 }
 
 } // namespace
@@ -69,9 +65,9 @@ int textOfProblem(WriteProblem problem) {
 ReportOutput::ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& files, QWidget* parent)
     : QWidget(parent), m_texts(texts), m_dialogs(dialogs), m_files(files), m_what(new PlainLabel(this)),
       m_progress(new QProgressBar(this)),
-      m_cancel(iconButton("cmdCANCELREPORT", kCancelReport, kCancelReport, "clear", this)),
-      m_open(iconButton("cmdOPENREPORT", kOpenSaved, kOpenSaved, "vwopen", this)),
-      m_showFolder(iconButton("cmdSHOWREPORT", kShowSaved, kShowSaved, "export", this)) {
+      m_cancel(iconButton("cmdCANCELREPORT", Text::CancelReport, Text::CancelReport, "clear", this)),
+      m_open(iconButton("cmdOPENREPORT", Text::OpenSaved, Text::OpenSaved, "vwopen", this)),
+      m_showFolder(iconButton("cmdSHOWREPORT", Text::ShowInFolder, Text::ShowInFolder, "export", this)) {
   setObjectName(QStringLiteral("reportOutput"));
   m_what->setObjectName(QStringLiteral("lblREPORT"));
   m_progress->setObjectName(QStringLiteral("reportProgress"));
@@ -99,7 +95,8 @@ ReportOutput::ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& fil
   connect(&m_poll, &QTimer::timeout, this, &ReportOutput::showProgress);
   connect(&m_delay, &QTimer::timeout, this, &QWidget::show);
   connect(m_cancel, &QPushButton::clicked, this, &ReportOutput::cancel);
-  connect(&m_work, &BackgroundWork::failed, this, [this] { complain(kNoMemoryForReport, {}, window()); });
+  connect(&m_work, &BackgroundWork::failed, this,
+          [this] { complain(Text::NoMemoryForReport, {}, window()); });
   connect(&m_work, &BackgroundWork::finished, this, &ReportOutput::end);
   hooptab::relabel(*this, texts);
 }
@@ -107,7 +104,7 @@ ReportOutput::ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& fil
 // What is under way is finished first: the user has asked for it.
 ReportOutput::~ReportOutput() = default;
 
-int ReportOutput::textOf(ReportForm form) {
+Text ReportOutput::textOf(ReportForm form) {
   return formOf(form).text;
 }
 
@@ -137,8 +134,8 @@ bool ReportOutput::mayReplace(const QString& path, const std::vector<std::string
   return std::ranges::all_of(suffixes, [&](const std::string& suffix) {
     const QFileInfo target(toQt(pathOf(fromQt(path), suffix)));
     return !target.exists() || target.isDir() || // a folder is refused with its own words
-           m_dialogs.ask(asker, caption(m_texts, kWarningTitle),
-                         toQt(m_texts.withPlaceholder(kReplaceFile,
+           m_dialogs.ask(asker, caption(m_texts, Text::WarningTitle),
+                         toQt(m_texts.withPlaceholder(Text::ReplaceFile,
                                                       fromQt(QDir::toNativeSeparators(target.filePath())))));
   });
 }
@@ -180,7 +177,7 @@ void ReportOutput::savePicture(const QString& fileName, std::string png, QWidget
 }
 
 void ReportOutput::write(const QString& path, Make make, QWidget* asker) {
-  start(toQt(m_texts.withPlaceholder(kWritingReport, fromQt(QFileInfo(path).fileName()))),
+  start(toQt(m_texts.withPlaceholder(Text::WritingReport, fromQt(QFileInfo(path).fileName()))),
         [this, path, make = std::move(make), &files = m_files,
          watch = m_watch = std::make_shared<ReportWatch>(),
          asker = QPointer(asker)]() -> BackgroundWork::Delivery {
@@ -202,10 +199,10 @@ void ReportOutput::tell(const Outcome& outcome, const QString& path, QWidget* as
   if (!outcome.failed.empty())
     return complain(textOfProblem(outcome.problem), toQt(outcome.failed), asker);
   if (!outcome.isMade && !m_watch->isCancelled)
-    return complain(kNoRoomForTemporary, QDir::tempPath(), asker);
+    return complain(Text::NoRoomForTemporary, QDir::tempPath(), asker);
   if (outcome.isMade)
     m_saved = path;
-  emit reported(toQt(m_texts.withPlaceholder(outcome.isMade ? kReportSaved : kReportCancelled,
+  emit reported(toQt(m_texts.withPlaceholder(outcome.isMade ? Text::ReportSaved : Text::ReportCancelled,
                                              fromQt(QDir::toNativeSeparators(path)))));
 }
 
@@ -214,16 +211,16 @@ void ReportOutput::print(Report report, const PageFormat& format, std::shared_pt
   if (isBusy())
     return emit reported(m_what->text());
   printer->setDocName(toQt(report.fileName));
-  start(toQt(m_texts.withPlaceholder(kPrintingReport, report.fileName)),
+  start(toQt(m_texts.withPlaceholder(Text::PrintingReport, report.fileName)),
         [this, report = std::make_shared<const Report>(std::move(report)), format,
          printer = std::move(printer), watch = m_watch = std::make_shared<ReportWatch>(),
          asker = QPointer(asker)]() -> BackgroundWork::Delivery {
           const bool isPrinted = printReport(*printer, *report, format, watch.get());
           return [this, report, isPrinted, watch, asker] {
             if (!isPrinted && !watch->isCancelled)
-              return complain(kNotPrinted, {}, asker);
-            emit reported(toQt(
-                m_texts.withPlaceholder(isPrinted ? kSentToPrinter : kReportCancelled, report->fileName)));
+              return complain(Text::NotPrinted, {}, asker);
+            emit reported(toQt(m_texts.withPlaceholder(
+                isPrinted ? Text::SentToPrinter : Text::ReportCancelled, report->fileName)));
           };
         });
 }
@@ -270,14 +267,14 @@ void ReportOutput::showParts(bool isSaved) {
 
 void ReportOutput::openSaved(const QString& path) {
   if (!QFileInfo::exists(path))
-    complain(kSavedIsGone, path, window());
+    complain(Text::SavedIsGone, path, window());
   else if (!m_dialogs.openDocument(QUrl::fromLocalFile(path)))
-    complain(kSavedNotOpened, path, window());
+    complain(Text::NoProgram, path, window());
 }
 
-void ReportOutput::complain(int text, const QString& path, QWidget* asker) {
+void ReportOutput::complain(Text text, const QString& path, QWidget* asker) {
   m_dialogs.complain(asker == nullptr ? window() : asker,
-                     caption(m_texts, text == kNotPrinted ? kPrinterError : kErrorTitle),
+                     caption(m_texts, text == Text::NotPrinted ? Text::PrinterError : Text::ErrorTitle),
                      toQt(m_texts.withPlaceholder(text, fromQt(QDir::toNativeSeparators(path)))));
 }
 

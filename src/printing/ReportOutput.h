@@ -42,7 +42,7 @@ class ReportOutput : public QWidget {
   void cancel();
 
   // Of the menu entry that saves in that form.
-  static int textOf(ReportForm form);
+  static Text textOf(ReportForm form);
 
  signals:
   void reported(const QString& message);
@@ -67,7 +67,7 @@ class ReportOutput : public QWidget {
   void showParts(bool isSaved);
   void openSaved(const QString& path);
   void end();
-  void complain(int text, const QString& path, QWidget* asker);
+  void complain(Text text, const QString& path, QWidget* asker);
 
   const Texts& m_texts;
   Dialogs& m_dialogs;

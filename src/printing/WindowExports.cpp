@@ -7,7 +7,6 @@
 #include "appearance/relabel.h"
 #include "printing/ReportOutput.h"
 #include "printing/TableReport.h"
-#include "report/PrintTexts.h"
 #include "scorecard/FrozenTableView.h"
 #include "storage/Module1.h"
 
@@ -24,9 +23,6 @@
 namespace hooptab {
 
 namespace {
-
-constexpr int kCopyTable = 1559;
-constexpr int kTableCopied = 1720;
 
 struct Entry {
   ReportForm form;
@@ -51,7 +47,7 @@ QList<QWidget*> tablesOf(QWidget& window) {
   return tables;
 }
 
-QAction* addAction(QWidget& widget, const char* name, int text, const char* iconName = nullptr) {
+QAction* addAction(QWidget& widget, const char* name, Text text, const char* iconName = nullptr) {
   auto* action = new QAction(&widget);
   action->setObjectName(QLatin1String(name));
   if (iconName != nullptr)
@@ -137,7 +133,7 @@ void WindowExports::serve(ChildWindow& window) {
 
 void WindowExports::addActions(QWidget& table) {
   table.setProperty("hooptabExports", true);
-  QAction* copied = addAction(table, "tableCOPY", kCopyTable, "copy");
+  QAction* copied = addAction(table, "tableCOPY", Text::CopyTable, "copy");
   if (!copiesByItself(table)) {
     copied->setShortcut(QKeySequence::Copy);
     copied->setShortcutContext(Qt::WidgetShortcut);
@@ -146,7 +142,7 @@ void WindowExports::addActions(QWidget& table) {
   auto* menu = new QMenu(&table);
   menu->menuAction()->setObjectName(QStringLiteral("tableEXPORT"));
   menu->menuAction()->setIcon(icon(QStringLiteral("export")));
-  setTextNumber(*menu->menuAction(), kExportTable);
+  setTextNumber(*menu->menuAction(), Text::ExportTable);
   for (const Entry& entry : kEntries) {
     QAction* action = addAction(*menu, entry.name, ReportOutput::textOf(entry.form));
     connect(action, &QAction::triggered, this, [this, &table, &entry] { exportTable(table, entry.form); });
@@ -156,9 +152,9 @@ void WindowExports::addActions(QWidget& table) {
 }
 
 void WindowExports::addPictureActions(QWidget& widget) {
-  QAction* copied = addAction(widget, "pictureCOPY", kCopyPicture, "copy");
+  QAction* copied = addAction(widget, "pictureCOPY", Text::CopyPicture, "copy");
   connect(copied, &QAction::triggered, this, [this, &widget] { copyPicture(widget); });
-  QAction* saved = addAction(widget, "picturePNG", kSavePicture, "export");
+  QAction* saved = addAction(widget, "picturePNG", Text::SavePicture, "export");
   connect(saved, &QAction::triggered, this, [this, &widget] { savePicture(widget); });
   widget.setContextMenuPolicy(Qt::ActionsContextMenu);
 }
@@ -192,8 +188,8 @@ void WindowExports::fillWithPictures(QMenu& menu, ChildWindow& window) {
       menu.addSeparator();
     isFirst = false;
     const QString name = widget->accessibleName().isEmpty() ? exportTitle(*widget) : widget->accessibleName();
-    for (const auto& [text, act] : {std::pair(kCopyPicture, &WindowExports::copyPicture),
-                                    std::pair(kSavePicture, &WindowExports::savePicture)}) {
+    for (const auto& [text, act] : {std::pair(Text::CopyPicture, &WindowExports::copyPicture),
+                                    std::pair(Text::SavePicture, &WindowExports::savePicture)}) {
       const QString words =
           caption(m_texts, text) + (name.isEmpty() ? QString() : QStringLiteral(" – ") + name);
       connect(menu.addAction(words), &QAction::triggered, widget,
@@ -203,8 +199,8 @@ void WindowExports::fillWithPictures(QMenu& menu, ChildWindow& window) {
 }
 
 void WindowExports::fillWith(QMenu& menu, QWidget& table) {
-  connect(menu.addAction(icon(QStringLiteral("copy")), caption(m_texts, kCopyTable)), &QAction::triggered,
-          &table, [this, &table] { copy(table); });
+  connect(menu.addAction(icon(QStringLiteral("copy")), caption(m_texts, Text::CopyTable)),
+          &QAction::triggered, &table, [this, &table] { copy(table); });
   menu.addSeparator();
   for (const Entry& entry : kEntries) {
     QAction* action = menu.addAction(caption(m_texts, ReportOutput::textOf(entry.form)));
@@ -215,7 +211,7 @@ void WindowExports::fillWith(QMenu& menu, QWidget& table) {
 
 void WindowExports::copy(const QWidget& table) {
   copyTable(table);
-  emit reported(caption(m_texts, kTableCopied));
+  emit reported(caption(m_texts, Text::TableCopied));
 }
 
 void WindowExports::exportTable(const QWidget& table, ReportForm form) {
@@ -228,7 +224,7 @@ void WindowExports::copyPicture(const QWidget& widget) {
   if (!picture->hasPicture())
     return;
   QApplication::clipboard()->setImage(pictureOf(*picture, fullTitle(widget)));
-  emit reported(caption(m_texts, kPictureCopied));
+  emit reported(caption(m_texts, Text::PictureCopied));
 }
 
 void WindowExports::savePicture(const QWidget& widget) {

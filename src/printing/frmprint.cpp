@@ -9,7 +9,6 @@
 #include "printing/Printers.h"
 #include "printing/ReportLayout.h"
 #include "printing/ReportOutput.h"
-#include "report/PrintTexts.h"
 #include "report/ReportWords.h"
 
 #include <QBoxLayout>
@@ -31,11 +30,6 @@
 namespace hooptab {
 
 namespace {
-
-constexpr int kPreview = 1310;
-constexpr int kPrint = 1311;
-constexpr int kTitle = 1438;
-constexpr int kPrinterError = 1402;
 
 constexpr int kMargin = 8;
 // Of what is kept; before it there was none, and the page width that was kept then was nobody's choice.
@@ -70,9 +64,9 @@ frmprint::frmprint(const Texts& texts, Dialogs& dialogs, Printers& printers, Rep
     : ChildWindow(parent), m_texts(texts), m_dialogs(dialogs), m_printers(printers), m_output(output),
       m_view(new PageView(this)) {
   setObjectName(QStringLiteral("frmprint"));
-  setTextNumber(*this, kPreview);
+  setTextNumber(*this, Text::PrintPreview);
   m_view->setObjectName(QStringLiteral("pages"));
-  setAccessibleNumber(*m_view, kPreview);
+  setAccessibleNumber(*m_view, Text::PrintPreview);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->setSpacing(kMargin);
@@ -88,7 +82,7 @@ frmprint::frmprint(const Texts& texts, Dialogs& dialogs, Printers& printers, Rep
 
 frmprint::~frmprint() = default;
 
-QComboBox* frmprint::addChoice(const char* name, int label, QWidget* parent) {
+QComboBox* frmprint::addChoice(const char* name, Text label, QWidget* parent) {
   auto* choice = new QComboBox(parent);
   choice->setObjectName(QLatin1String(name));
   choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -97,7 +91,7 @@ QComboBox* frmprint::addChoice(const char* name, int label, QWidget* parent) {
   return choice;
 }
 
-QToolButton* frmprint::addButton(const char* name, int text, const char* iconName, QWidget* parent) {
+QToolButton* frmprint::addButton(const char* name, Text text, const char* iconName, QWidget* parent) {
   auto* button = new QToolButton(parent);
   button->setObjectName(QLatin1String(name));
   if (iconName != nullptr)
@@ -109,15 +103,15 @@ QToolButton* frmprint::addButton(const char* name, int text, const char* iconNam
 
 QWidget* frmprint::makeReportRow() {
   auto* row = new QWidget(this);
-  m_choice = addChoice("cmbREPORT", kWhichReport, row);
+  m_choice = addChoice("cmbREPORT", Text::WhichReport, row);
   m_title = new QLineEdit(row);
   m_title->setObjectName(QStringLiteral("txtTITLE"));
   m_title->setMaxLength(kLongestTitle);
   m_title->setMinimumWidth(kTitleWidth);
   auto* exports = new QPushButton(icon(QStringLiteral("export")), QString(), row);
   exports->setObjectName(QStringLiteral("cmdEXPORT"));
-  setTextNumber(*exports, kExport);
-  setToolTipNumber(*exports, kExport);
+  setTextNumber(*exports, Text::Export);
+  setToolTipNumber(*exports, Text::Export);
   auto* menu = new QMenu(exports);
   for (const Export& each : kExports) {
     auto* action = menu->addAction(QString());
@@ -129,61 +123,63 @@ QWidget* frmprint::makeReportRow() {
 
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(captionFor(*m_choice, kWhichReport));
+  layout->addWidget(captionFor(*m_choice, Text::WhichReport));
   layout->addWidget(m_choice);
   layout->addSpacing(kMargin);
-  layout->addWidget(captionFor(*m_title, kTitle));
+  layout->addWidget(captionFor(*m_title, Text::PersonTitle));
   layout->addWidget(m_title, 1);
   layout->addSpacing(kMargin);
-  layout->addWidget(iconButton("cmdPRINT", kPrint, kPrint, "vwprint", row));
-  layout->addWidget(iconButton("cmdPDF", kSavePdf, kSavePdf, "savemanual", row));
+  layout->addWidget(iconButton("cmdPRINT", Text::Print, Text::Print, "vwprint", row));
+  layout->addWidget(iconButton("cmdPDF", Text::SavePdf, Text::SavePdf, "savemanual", row));
   layout->addWidget(exports);
-  layout->addWidget(iconButton("cmdCLOSE", 1294, kClosePreview, "vwclose", row));
+  layout->addWidget(iconButton("cmdCLOSE", Text::CloseButton, Text::ClosePreview, "vwclose", row));
   return row;
 }
 
 QWidget* frmprint::makePageRow() {
   auto* row = new QWidget(this);
-  m_paper = addChoice("cmbPAPER", kPaper, row);
-  m_turn = addChoice("cmbTURN", kOrientation, row);
-  m_zoom = addChoice("cmbZOOM", kZoom, row);
-  m_rows = addChoice("cmbROWS", kRows, row);
-  m_facing = addButton("cmdFACING", kFacingPages, nullptr, row);
+  m_paper = addChoice("cmbPAPER", Text::Paper, row);
+  m_turn = addChoice("cmbTURN", Text::Orientation, row);
+  m_zoom = addChoice("cmbZOOM", Text::Zoom, row);
+  m_rows = addChoice("cmbROWS", Text::Rows, row);
+  m_facing = addButton("cmdFACING", Text::FacingPages, nullptr, row);
   m_facing->setCheckable(true);
-  setTextNumber(*m_facing, kFacingPages);
+  setTextNumber(*m_facing, Text::FacingPages);
   m_page = new QSpinBox(row);
   m_page->setObjectName(QStringLiteral("txtPAGE"));
   m_page->setMinimum(1);
-  setToolTipNumber(*m_page, kShownPage);
-  setAccessibleNumber(*m_page, kShownPage);
+  setToolTipNumber(*m_page, Text::ShownPage);
+  setAccessibleNumber(*m_page, Text::ShownPage);
   m_pageCount = new PlainLabel(row);
   m_pageCount->setObjectName(QStringLiteral("lblPAGES"));
 
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  for (auto [choice, label] :
-       {std::pair(m_paper, kPaper), {m_turn, kOrientation}, {m_zoom, kZoom}, {m_rows, kRows}}) {
+  for (auto [choice, label] : {std::pair(m_paper, Text::Paper),
+                               {m_turn, Text::Orientation},
+                               {m_zoom, Text::Zoom},
+                               {m_rows, Text::Rows}}) {
     layout->addWidget(captionFor(*choice, label));
     layout->addWidget(choice);
     layout->addSpacing(kMargin);
   }
   layout->addWidget(m_facing);
   layout->addStretch();
-  const auto addStep = [&](const char* name, int text, const QString& sign, auto target) {
+  const auto addStep = [&](const char* name, Text text, const QString& sign, auto target) {
     QToolButton* button = addButton(name, text, nullptr, row);
     button->setText(sign);
     connect(button, &QToolButton::clicked, this, [this, target] { m_view->goTo(target(m_view->page())); });
     layout->addWidget(button);
   };
   const auto across = [this] { return m_view->isFacing() ? 2 : 1; };
-  addStep("cmdFIRST", kFirstPage, QStringLiteral("|◀"), [](int) { return 1; });
-  addStep("cmdPREVIOUS", kPreviousPage, QStringLiteral("◀"),
+  addStep("cmdFIRST", Text::FirstPage, QStringLiteral("|◀"), [](int) { return 1; });
+  addStep("cmdPREVIOUS", Text::PreviousPage, QStringLiteral("◀"),
           [across](int page) { return std::max(1, page - across()); });
   layout->addWidget(m_page);
   layout->addWidget(m_pageCount);
-  addStep("cmdNEXT", kNextPage, QStringLiteral("▶"),
+  addStep("cmdNEXT", Text::NextPage, QStringLiteral("▶"),
           [this, across](int page) { return std::min(m_page->maximum(), page + across()); });
-  addStep("cmdLAST", kLastPage, QStringLiteral("▶|"), [this](int) { return m_page->maximum(); });
+  addStep("cmdLAST", Text::LastPage, QStringLiteral("▶|"), [this](int) { return m_page->maximum(); });
   return row;
 }
 
@@ -242,16 +238,16 @@ void frmprint::fillChoices() {
 
 void frmprint::relabelWindow() {
   relabel(*this, m_texts);
-  m_paper->setItemText(static_cast<int>(Paper::Letter), caption(m_texts, kPaperLetter));
-  m_turn->setItemText(0, caption(m_texts, kAsItFits));
-  m_turn->setItemText(1, caption(m_texts, kUpright));
-  m_turn->setItemText(2, caption(m_texts, kAcross));
-  m_rows->setItemText(0, caption(m_texts, kAllRows));
+  m_paper->setItemText(static_cast<int>(Paper::Letter), caption(m_texts, Text::PaperLetter));
+  m_turn->setItemText(0, caption(m_texts, Text::AsItFits));
+  m_turn->setItemText(1, caption(m_texts, Text::Upright));
+  m_turn->setItemText(2, caption(m_texts, Text::Across));
+  m_rows->setItemText(0, caption(m_texts, Text::AllRows));
   for (std::size_t i = 0; i < std::size(kRowCounts); ++i)
     m_rows->setItemText(static_cast<int>(i) + 1,
-                        toQt(m_texts.withPlaceholder(kBestRows, std::to_string(kRowCounts[i]))));
-  m_zoom->setItemText(kFitPageEntry, caption(m_texts, kFitPage));
-  m_zoom->setItemText(kFitWidthEntry, caption(m_texts, kFitWidth));
+                        toQt(m_texts.withPlaceholder(Text::BestRows, std::to_string(kRowCounts[i]))));
+  m_zoom->setItemText(kFitPageEntry, caption(m_texts, Text::WholePage));
+  m_zoom->setItemText(kFitWidthEntry, caption(m_texts, Text::PageWidth));
   for (std::size_t i = 0; i < m_offers.size(); ++i)
     m_choice->setItemText(static_cast<int>(i), toQt(m_offers[i].name()));
   if (!m_offers.empty())
@@ -337,7 +333,7 @@ void frmprint::showPage() {
   m_page->setMaximum(pages);
   m_page->setValue(m_view->page());
   m_pageCount->setText(
-      toQt(m_texts.withPlaceholder(kPagesInAll, m_layout->isDone() ? std::to_string(pages) : "…")));
+      toQt(m_texts.withPlaceholder(Text::PagesInAll, m_layout->isDone() ? std::to_string(pages) : "…")));
 }
 
 void frmprint::showZoom() {
@@ -360,7 +356,7 @@ void frmprint::chooseZoom(int choice) {
 
 void frmprint::print() {
   if (!m_printers.hasAny())
-    return m_dialogs.complain(this, caption(m_texts, kPrinterError), caption(m_texts, kNoPrinter));
+    return m_dialogs.complain(this, caption(m_texts, Text::PrinterError), caption(m_texts, Text::NoPrinter));
   finishLayout();
   std::shared_ptr<QPrinter> printer =
       m_printers.choose(this, m_layout->pageLayout(), static_cast<int>(m_layout->pages().size()));

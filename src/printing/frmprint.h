@@ -57,8 +57,8 @@ class frmprint : public ChildWindow {
  private:
   QWidget* makeReportRow();
   QWidget* makePageRow();
-  QComboBox* addChoice(const char* name, int label, QWidget* parent);
-  QToolButton* addButton(const char* name, int text, const char* iconName, QWidget* parent);
+  QComboBox* addChoice(const char* name, Text label, QWidget* parent);
+  QToolButton* addButton(const char* name, Text text, const char* iconName, QWidget* parent);
   void connectEverything();
   void fillChoices();
 

@@ -5,19 +5,13 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kPeriod = 1087;
-constexpr int kSix = 1874;
-constexpr int kTwice = 1875;
-
-} // namespace
+namespace {} // namespace
 
 std::string placeWords(const EventPlace& place, const Game& game, const Texts& texts) {
   const EventWords words(game, texts);
   for (std::size_t event = 0; event < game.events.size(); ++event) {
     if (game.events[event].period == place.period && game.events[event].key == place.key)
-      return words.clock(event) + " (" + std::string(texts.text(kPeriod)) + ' ' +
+      return words.clock(event) + " (" + std::string(texts.text(Text::Period)) + ' ' +
              words.periodText(place.period) + ')';
   }
   return {};
@@ -31,7 +25,7 @@ std::string wordsOf(const CourtConflict& conflict, const Game& game, const Texts
     if (player != nullptr && (conflict.players >> entry & 1U) != 0)
       players += (players.empty() ? "" : ", ") + player->jersey;
   }
-  return withPlaceholders(texts.text(conflict.isTwice ? kTwice : kSix),
+  return withPlaceholders(texts.text(conflict.isTwice ? Text::SubstitutedTwice : Text::SixOnCourt),
                           placeWords(conflict.event, game, texts),
                           words.team(static_cast<int>(conflict.team)), players);
 }

@@ -13,12 +13,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kIsShooter = 2469;
-constexpr int kOfOtherTeam = 2470;
-constexpr int kNobodys = 2471;
-constexpr int kCannotRecord = 2530;
-constexpr int kWhose = 2535;
-constexpr int kNoLongerFits = 2536;
 constexpr std::size_t kMostDigits = 4; // one more than any jersey: a slip is seen, and shown
 
 bool canBeCorrected(const GameEvent& event) {
@@ -95,8 +89,9 @@ bool EventCorrection::canToggleThree() const {
 }
 
 std::string EventCorrection::question(const Texts& texts) const {
-  return isActive() ? texts.withPlaceholder(kWhose, EventWords(m_game->game(), texts).words(index()))
-                    : std::string();
+  return isActive()
+             ? texts.withPlaceholder(Text::WhoseNumber, EventWords(m_game->game(), texts).words(index()))
+             : std::string();
 }
 
 // --- What follows a shot
@@ -148,7 +143,7 @@ EventCorrection::Outcome EventCorrection::refuse(Refusal refusal) {
 
 EventCorrection::Outcome EventCorrection::take(const EditPlan& plan) {
   if (!m_game->take(plan))
-    return refuse({.text = kCannotRecord});
+    return refuse({.text = Text::CannotRecord});
   m_typed.clear();
   return Outcome::Changed;
 }
@@ -195,7 +190,7 @@ EventCorrection::Outcome EventCorrection::takePlayer(const Who& who) {
     return Outcome::None;
   const RosterPlayer* player = rosterOf(*m_game, who.team).player(who.player);
   if (player == nullptr)
-    return refuse({.text = kNobodys, .jersey = m_typed});
+    return refuse({.text = Text::NobodyHereHasNumber, .jersey = m_typed});
   if (who == this->player()) {
     m_asked.reset();
     m_typed.clear();
@@ -210,9 +205,9 @@ EventCorrection::Outcome EventCorrection::takePlayer(const Who& who) {
     const Said shot = saidBy(events[*before]);
     const bool didFit = fits(shot, old);
     if (didFit && old.code == EventCode::SA && isSamePlayer(shot, wanted))
-      return refuse({.text = kIsShooter, .jersey = wanted.jersey});
+      return refuse({.text = Text::IsShooter, .jersey = wanted.jersey});
     if (didFit && old.code == EventCode::SA && shot.team != wanted.team)
-      return refuse({.text = kOfOtherTeam,
+      return refuse({.text = Text::OfOtherTeam,
                      .jersey = wanted.jersey,
                      .team = m_game->game().details.abbreviation[static_cast<std::size_t>(wanted.team)]});
     if (didFit && old.code != EventCode::SA)
@@ -239,7 +234,7 @@ EventCorrection::Outcome EventCorrection::toggleThree() {
 
 std::string EventCorrection::followUpQuestion(const Texts& texts) const {
   const auto found = m_asked ? indexOf(*m_game, m_asked->followUp) : std::nullopt;
-  return found ? texts.withPlaceholder(kNoLongerFits, EventWords(m_game->game(), texts).words(*found))
+  return found ? texts.withPlaceholder(Text::NoLongerFits, EventWords(m_game->game(), texts).words(*found))
                : std::string();
 }
 
@@ -309,7 +304,7 @@ EventCorrection::Outcome EventCorrection::enter() {
   if (m_typed.empty() || !isActive())
     return Outcome::None;
   const auto who = meant();
-  return who ? takeTyped(*who) : refuse({.text = kNobodys, .jersey = m_typed});
+  return who ? takeTyped(*who) : refuse({.text = Text::NobodyHereHasNumber, .jersey = m_typed});
 }
 
 void EventCorrection::takeBackDigit() {

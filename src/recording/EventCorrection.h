@@ -96,7 +96,7 @@ class EventCorrection {
     std::optional<Said> adapted;
   };
   struct Refusal {
-    int text = 0; // with the number for XXX and the team for YYY
+    Text text = Text::None; // with the number for XXX and the team for YYY
     std::string jersey = {};
     std::string team = {};
   };

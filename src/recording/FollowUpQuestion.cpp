@@ -8,12 +8,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kOnBenchAssist = 2466;
-constexpr int kOnBenchRebound = 2467;
-constexpr int kHasFouledOut = 2468;
-constexpr int kIsShooter = 2469;
-constexpr int kOfOtherTeam = 2470;
-constexpr int kNobodys = 2471;
 constexpr std::size_t kMostDigits = 4; // one more than any jersey: a slip is seen, and shown
 
 } // namespace
@@ -149,7 +143,7 @@ void FollowUpQuestion::moveMark(int step) {
 
 // Whose number it is, among those who are not offered; the teams of the question first.
 void FollowUpQuestion::refuse() {
-  m_refusal = Refusal{.text = kNobodys};
+  m_refusal = Refusal{.text = Text::NobodyHereHasNumber};
   std::vector<Answer> strangers;
   for (const int team : {m_shooterTeam, 1 - m_shooterTeam}) {
     const auto side = static_cast<std::size_t>(team);
@@ -163,14 +157,14 @@ void FollowUpQuestion::refuse() {
   const auto side = static_cast<std::size_t>(m_shooterTeam);
   const std::size_t other = 1 - side;
   if (m_isAssist && m_shooter > 0 && m_game->game().roster[side].entryOf(m_typed) == m_shooter)
-    m_refusal = Refusal{.text = kIsShooter};
+    m_refusal = Refusal{.text = Text::IsShooter};
   else if (m_isAssist && strangers.empty() && m_game->game().roster[other].entryOf(m_typed) > 0)
-    m_refusal = Refusal{.text = kOfOtherTeam, .team = m_game->game().details.abbreviation[other]};
+    m_refusal = Refusal{.text = Text::OfOtherTeam, .team = m_game->game().details.abbreviation[other]};
   else if (!strangers.empty()) {
     const bool isOut = m_game->isFouledOut(strangers[0].team, strangers[0].player);
-    m_refusal = Refusal{.text = isOut        ? kHasFouledOut
-                                : m_isAssist ? kOnBenchAssist
-                                             : kOnBenchRebound,
+    m_refusal = Refusal{.text = isOut        ? Text::HasFouledOut
+                                : m_isAssist ? Text::OnBenchAssist
+                                             : Text::OnBenchRebound,
                         .stranger = strangers.size() == 1 ? std::optional(strangers[0]) : std::nullopt,
                         .canComeIn = strangers.size() == 1 && !isOut};
   }

@@ -32,7 +32,7 @@ class FollowUpQuestion {
   };
   // Why a number is not taken: a text, with the number for XXX and a team for YYY.
   struct Refusal {
-    int text = 0;
+    Text text = Text::None;
     std::string team = {};
     std::optional<Answer> stranger = std::nullopt; // who could be meant all the same
     bool canComeIn = false;

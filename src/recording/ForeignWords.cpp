@@ -6,12 +6,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTouched = 2388;
-constexpr int kAdded = 2389;
-constexpr int kRestored = 2390;
-constexpr int kGaveWay = 2391;
-constexpr int kRewritten = 2392;
-constexpr int kKeptAs = 2393;
 constexpr std::size_t kMostNamed = 5;
 
 std::string keysOf(const std::vector<GameMerge::GivenWay>& lines) {
@@ -25,21 +19,21 @@ std::string keysOf(const std::vector<GameMerge::GivenWay>& lines) {
 
 std::string foreignWords(const ForeignHands& hands, const Texts& texts) {
   std::string words;
-  const auto add = [&](int text, const std::string& value) {
+  const auto add = [&](Text text, const std::string& value) {
     words += (words.empty() ? "" : " ") + texts.withPlaceholder(text, value);
   };
   if (hands.isRewritten)
-    add(kRewritten, {});
+    add(Text::FileRewritten, {});
   else if (hands.added > 0 || hands.restored > 0 || !hands.gaveWay.empty())
-    add(kTouched, {});
+    add(Text::FileTouched, {});
   if (hands.restored > 0)
-    add(kRestored, std::to_string(hands.restored));
+    add(Text::EventsRestored, std::to_string(hands.restored));
   if (hands.added > 0)
-    add(kAdded, std::to_string(hands.added));
+    add(Text::EventsAdded, std::to_string(hands.added));
   if (!hands.gaveWay.empty())
-    add(kGaveWay, keysOf(hands.gaveWay));
+    add(Text::GaveWay, keysOf(hands.gaveWay));
   if (!hands.keptAs.empty())
-    add(kKeptAs, hands.keptAs.substr(hands.keptAs.rfind('/') + 1)); // beside the game
+    add(Text::KeptAs, hands.keptAs.substr(hands.keptAs.rfind('/') + 1)); // beside the game
   return words;
 }
 

@@ -11,12 +11,8 @@ namespace hooptab {
 namespace {
 
 constexpr int kSecondsPerMinute = 60;
-constexpr int kDeletion = 1910;
-constexpr int kRestoring = 1911;
-constexpr int kEditing = 1912;
-constexpr int kInsertion = 1965;
 
-EditPlan planOf(int text, const EventEdit& edit, bool isWhole) {
+EditPlan planOf(Text text, const EventEdit& edit, bool isWhole) {
   return {text, isWhole && !edit.steps().empty(), edit.steps(), edit.back(), edit.conflict()};
 }
 
@@ -39,7 +35,7 @@ EditPlan GameEditing::deletion(std::span<const EventPlace> events, bool isDelete
                        withDeletion(*findLine(edit.lines(), start->period, start->key), isDeleted)}));
   };
   const bool isWhole = std::ranges::all_of(events, mark);
-  return planOf(isDeleted ? kDeletion : kRestoring, edit, isWhole);
+  return planOf(isDeleted ? Text::Deletion : Text::Restoring, edit, isWhole);
 }
 
 // A time of the period, as far as its length is known: that of an overtime is in no file.
@@ -88,12 +84,12 @@ EditPlan GameEditing::replacement(const EventPlace& event, int clock, const std:
   if (isWhole && before != behind)
     isWhole = edit.moveCarryingOn(event, before);
   if (!isWhole || !start)
-    return planOf(kEditing, edit, isWhole);
+    return planOf(Text::Edit, edit, isWhole);
   const std::string startLine = withDeletion(Module1::clockText(clock) + startText(), line->starts_with('E'));
   isWhole = edit.take({EventChange::Kind::Replace, start->period, start->key, startLine});
   if (isWhole && before != behind)
     isWhole = edit.take({EventChange::Kind::Move, start->period, start->key, {}, before});
-  return planOf(kEditing, edit, isWhole);
+  return planOf(Text::Edit, edit, isWhole);
 }
 
 EditPlan GameEditing::newTime(const EventPlace& event, int clock) const {
@@ -116,7 +112,7 @@ EditPlan GameEditing::insertion(const EventPlace& at, Where where, int clock, co
   EventEdit edit(m_log.lines(), m_log.rosters());
   const bool isWhole =
       edit.take({EventChange::Kind::Add, at.period, keyOfNew(0), Module1::clockText(clock) + text, before});
-  return planOf(kInsertion, edit, isWhole);
+  return planOf(Text::Insertion, edit, isWhole);
 }
 
 // Where the clock runs it is started again at the same time, as by a substitution that is recorded.
@@ -135,9 +131,9 @@ EditPlan GameEditing::substitution(const EventPlace& at, Where where, const OnCo
     const unsigned twice = (out[team] & ~lists[team]) | (in[team] & lists[team]);
     lists[team] = (lists[team] & ~out[team]) | in[team];
     if (twice != 0)
-      return {.text = kInsertion, .conflict = CourtConflict{at, team, twice, true}};
+      return {.text = Text::Insertion, .conflict = CourtConflict{at, team, twice, true}};
     if (std::popcount(lists[team]) > kMostOnCourt)
-      return {.text = kInsertion, .conflict = CourtConflict{at, team, lists[team]}};
+      return {.text = Text::Insertion, .conflict = CourtConflict{at, team, lists[team]}};
   }
   const std::string before = where == Where::Before ? at.key : keyBehind(m_log.lines(), at);
   const std::string clock = Module1::clockText(event.clockSeconds);
@@ -149,7 +145,7 @@ EditPlan GameEditing::substitution(const EventPlace& at, Where where, const OnCo
   bool isWhole = edit.takeCarryingOn(added(0, stopText(lists, rosters)));
   if (isWhole && isRunning)
     isWhole = edit.take(added(1, startText()));
-  return planOf(kInsertion, edit, isWhole);
+  return planOf(Text::Insertion, edit, isWhole);
 }
 
 EditPlan GameEditing::newLists(const EventPlace& stop, const OnCourt& onCourt) const {

@@ -15,7 +15,7 @@
 namespace hooptab {
 
 struct EditPlan {
-  int text = 0; // number of the text that names the edit
+  Text text = Text::None; // names the edit
   bool isPossible = false;
   std::vector<EventChange> steps = {};
   std::vector<EventChange> back = {}; // that take it back

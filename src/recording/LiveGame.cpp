@@ -17,7 +17,6 @@ namespace {
 constexpr int kSecondsPerMinute = 60;
 constexpr int kStartLock = 3;                               // seconds
 constexpr int kBehindAll = std::numeric_limits<int>::max(); // every period that a file can have
-constexpr int kSubstitution = 1561;
 
 // The new events of these steps, marked as deleted.
 std::vector<EventChange> deletionOf(const std::vector<EventChange>& steps) {
@@ -460,7 +459,7 @@ const std::pair<std::string, std::string>* LiveGame::openSubstitution(int clockS
 bool LiveGame::recordOnCourt(int clockSeconds) {
   if (const auto* open = openSubstitution(clockSeconds)) {
     const std::pair<std::string, std::string> old = *open;
-    return done(kSubstitution,
+    return done(Text::Substitution,
                 {replacement(m_period, old.first, withLists(old.second, onCourt(), m_log.rosters()))},
                 {replacement(m_period, old.first, old.second)});
   }
@@ -468,11 +467,11 @@ bool LiveGame::recordOnCourt(int clockSeconds) {
   std::vector<EventChange> steps = {added(clock + stopText(onCourt(), m_log.rosters()))};
   if (m_phase == Phase::Running)
     steps.push_back(added(clock + startText()));
-  return done(kSubstitution, steps, deletionOf(steps));
+  return done(Text::Substitution, steps, deletionOf(steps));
 }
 
 // One action of the user, done by these steps and taken back by those.
-bool LiveGame::done(int text, const std::vector<EventChange>& steps, std::vector<EventChange> back) {
+bool LiveGame::done(Text text, const std::vector<EventChange>& steps, std::vector<EventChange> back) {
   if (!m_log.change(steps))
     return false;
   m_history.add({text, {steps[0].period, steps[0].key}, std::move(back), m_log.nextNumber()});
@@ -481,7 +480,7 @@ bool LiveGame::done(int text, const std::vector<EventChange>& steps, std::vector
 
 // --- What is counted
 
-bool LiveGame::record(const std::string& eventText, int text) {
+bool LiveGame::record(const std::string& eventText, Text text) {
   if (!canRecord())
     return false;
   writePending();

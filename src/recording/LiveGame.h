@@ -190,7 +190,7 @@ class LiveGame {
   // To be looked at again. Of what is recorded, not of the clock's own events.
   [[nodiscard]] std::optional<EventPlace> lastRecorded() const;
   bool setDoubtful(const EventPlace& event, bool isDoubtful);
-  // A finding that is right as it is, by the number of its text, until the event is changed.
+  // A finding that is right as it is, by its kind as a number, until the event is changed.
   bool acceptFinding(const EventPlace& event, int finding);
   // Of the last plan that was refused.
   const std::optional<CourtConflict>& conflict() const { return m_conflict; }
@@ -202,7 +202,7 @@ class LiveGame {
   [[nodiscard]] int secondsSinceLists(std::size_t team) const;
   std::string lineOf(const std::string& eventText) const; // at the present clock
   EventChange added(const std::string& line);
-  bool record(const std::string& eventText, int text);
+  bool record(const std::string& eventText, Text text);
   void recordStop();
   void checkCounts() const;
   void leavePeriod();
@@ -215,7 +215,7 @@ class LiveGame {
   bool changeByClick(const OnCourt& wanted);
   bool isWhole(const OnCourt& wanted) const;
   bool recordOnCourt(int clockSeconds);
-  bool done(int text, const std::vector<EventChange>& steps, std::vector<EventChange> back);
+  bool done(Text text, const std::vector<EventChange>& steps, std::vector<EventChange> back);
   [[nodiscard]] const std::pair<std::string, std::string>* openSubstitution(int clockSeconds) const;
   [[nodiscard]] std::optional<LiveAction> startToTakeBack() const;
   bool takeStartBack(LiveAction start);

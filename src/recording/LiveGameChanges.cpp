@@ -13,8 +13,6 @@ namespace hooptab {
 namespace {
 
 constexpr int kBehindAll = std::numeric_limits<int>::max(); // every period that a file can have
-constexpr int kSubstitution = 1561;
-constexpr int kDoubt = 2464;
 
 } // namespace
 
@@ -82,8 +80,8 @@ void LiveGame::offerEarlier() {
       continue;
     EditPlan plan = editing().deletion(std::span(&place, 1), true);
     if (plan.isPossible)
-      m_history.addEarlier({kind == nullptr ? kSubstitution : kind->wordsText, place, std::move(plan.steps),
-                            m_log.nextNumber()});
+      m_history.addEarlier({kind == nullptr ? Text::Substitution : kind->wordsText, place,
+                            std::move(plan.steps), m_log.nextNumber()});
     if (plan.isPossible || plan.conflict)
       return;
   }
@@ -191,7 +189,7 @@ bool LiveGame::setDoubtful(const EventPlace& event, bool isDoubtful) {
   if (line == nullptr || !canRecord())
     return false;
   const std::string marked = withDoubt(*line, isDoubtful);
-  return marked != *line && take({.text = kDoubt,
+  return marked != *line && take({.text = Text::MarkOfDoubt,
                                   .isPossible = true,
                                   .steps = {replacement(event.period, event.key, marked)},
                                   .back = {replacement(event.period, event.key, *line)}});

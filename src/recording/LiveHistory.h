@@ -5,6 +5,7 @@
 
 #include "recording/GameClock.h"
 #include "recording/OnCourt.h"
+#include "settings/Text.h"
 
 #include <optional>
 #include <string>
@@ -14,7 +15,7 @@
 namespace hooptab {
 
 struct LiveAction {
-  int text = 0; // number of the text that names the kind of action in words
+  Text text = Text::None; // names the kind of action in words
   EventPlace event = {};
   std::vector<EventChange> steps = {}; // that take it back; of one that was taken back, that do it again
   int nextNumber = 0; // of events when it was done: what has this number or a higher one came later

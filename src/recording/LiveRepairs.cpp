@@ -9,13 +9,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kDelete = 1081;
-constexpr int kEdit = 1912;
-constexpr int kChangeLists = 1880;
-constexpr int kComesIn = 1881;
-constexpr int kInsertHere = 1882;
-constexpr int kChangePlayer = 1883;
-
 using What = PastSubstitution::What;
 
 EventPlace placeOf(const Game& game, std::size_t event) {
@@ -28,22 +21,22 @@ bool isStop(const GameEvent& event) {
 
 LiveRepair insertionBefore(const Game& game, std::size_t event) {
   return {.kind = LiveRepair::Kind::Substitution,
-          .text = kInsertHere,
+          .text = Text::InsertHere,
           .past = {What::InsertBefore, placeOf(game, event)}};
 }
 
 LiveRepair otherLists(const Game& game, std::size_t stop) {
   return {.kind = LiveRepair::Kind::Substitution,
-          .text = kChangeLists,
+          .text = Text::ChangeLists,
           .past = {What::Change, placeOf(game, stop)}};
 }
 
-LiveRepair change(const Game& game, std::size_t event, int text) {
+LiveRepair change(const Game& game, std::size_t event, Text text) {
   return {.kind = LiveRepair::Kind::Change, .text = text, .event = placeOf(game, event)};
 }
 
 LiveRepair deletion(const Game& game, std::size_t event) {
-  return {.kind = LiveRepair::Kind::Deletion, .text = kDelete, .event = placeOf(game, event)};
+  return {.kind = LiveRepair::Kind::Deletion, .text = Text::Delete, .event = placeOf(game, event)};
 }
 
 // Who starts: the lists of the stop that sent them there, or a substitution where there is none.
@@ -75,8 +68,8 @@ std::vector<LiveRepair> repairsOf(const Finding& finding, const Game& game) {
     substitution.team = finding.team;
     substitution.player = game.roster[team].entryOf(finding.jersey);
     if (substitution.player > 0)
-      substitution.text = kComesIn;
-    return {substitution, change(game, finding.event, kChangePlayer)};
+      substitution.text = Text::SubstitutionBefore;
+    return {substitution, change(game, finding.event, Text::ChangePlayer)};
   }
   case FindingKind::FewerThanFive:
   case FindingKind::MoreThanFive: return {fiveAt(game, finding.event)};
@@ -85,15 +78,16 @@ std::vector<LiveRepair> repairsOf(const Finding& finding, const Game& game) {
   case FindingKind::OnCourtNotInRoster: return {otherLists(game, finding.event)};
   case FindingKind::FouledOutBefore:
   case FindingKind::NotInRoster:
-    return {change(game, finding.event, kChangePlayer), deletion(game, finding.event)};
+    return {change(game, finding.event, Text::ChangePlayer), deletion(game, finding.event)};
   case FindingKind::AssistWithoutBasket:
   case FindingKind::ReboundAfterMade:
-  case FindingKind::AfterClose: return {change(game, finding.event, kEdit), deletion(game, finding.event)};
+  case FindingKind::AfterClose:
+    return {change(game, finding.event, Text::Edit), deletion(game, finding.event)};
   case FindingKind::ClockRises:
   case FindingKind::ClockAbovePeriod:
   case FindingKind::Swapped:
   case FindingKind::TwoFromThree:
-  case FindingKind::ThreeFromInside: return {change(game, finding.event, kEdit)};
+  case FindingKind::ThreeFromInside: return {change(game, finding.event, Text::Edit)};
   case FindingKind::Burst: return {deletion(game, finding.event)};
   default: return {};
   }

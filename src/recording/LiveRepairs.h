@@ -15,8 +15,8 @@ namespace hooptab {
 struct LiveRepair {
   enum class Kind { Substitution, Change, Deletion };
   Kind kind = Kind::Change;
-  int text = 0;          // number of its words; XXX is the player who comes in
-  EventPlace event = {}; // to change or delete
+  Text text = Text::None; // its words; XXX is the player who comes in
+  EventPlace event = {};  // to change or delete
   PastSubstitution past = {};
   int team = 0;
   int player = 0; // entry of who comes in; 0: the user chooses

@@ -12,29 +12,21 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kToGive = 2537;
-constexpr int kShootTwo = 2538;
-constexpr int kFirst = 2539;
-constexpr int kSecond = 2540;
-constexpr int kThird = 2541;
-constexpr int kLater = 2542;
-constexpr int kOfTeam = 2543;
-
 bool counts(const GameEvent& event) {
   return event.isUnderstood && !event.isDeleted && event.kind() != nullptr;
 }
 
 // French has one for the first alone.
-int ordinalOf(int number, Language language) {
+Text ordinalOf(int number, Language language) {
   if (language == Language::French)
-    return number == 1 ? kFirst : kLater;
+    return number == 1 ? Text::OrdinalFirst : Text::OrdinalLater;
   if (number % 100 / 10 == 1) // 11th to 13th, too
-    return kLater;
+    return Text::OrdinalLater;
   switch (number % 10) {
-  case 1: return kFirst;
-  case 2: return kSecond;
-  case 3: return kThird;
-  default: return kLater;
+  case 1: return Text::OrdinalFirst;
+  case 2: return Text::OrdinalSecond;
+  case 3: return Text::OrdinalThird;
+  default: return Text::OrdinalLater;
   }
 }
 
@@ -45,8 +37,8 @@ std::string foulWords(const LiveGame& game, int team, const Texts& texts) {
   if (limit <= 0)
     return {};
   if (game.isInBonus(team))
-    return texts.withPlaceholder(kShootTwo, EventWords(game.game(), texts).team(1 - team));
-  return texts.withPlaceholder(kToGive, std::to_string(limit - game.teamFouls(team)));
+    return texts.withPlaceholder(Text::ShootTwo, EventWords(game.game(), texts).team(1 - team));
+  return texts.withPlaceholder(Text::ToGive, std::to_string(limit - game.teamFouls(team)));
 }
 
 std::optional<ScoringRun> lastRun(const EventList& events) {
@@ -98,7 +90,7 @@ std::string ordinalText(int number, const Texts& texts) {
 std::string foulText(const FoulNumber& foul, const Texts& texts) {
   if (foul.ofPlayer == 0)
     return {};
-  return withPlaceholders(texts.text(kOfTeam), ordinalText(foul.ofPlayer, texts),
+  return withPlaceholders(texts.text(Text::OfTeam), ordinalText(foul.ofPlayer, texts),
                           std::to_string(foul.ofTeam));
 }
 

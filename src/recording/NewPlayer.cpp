@@ -12,13 +12,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kInvalidNumber = 1171;
-constexpr int kCannotRecord = 2530;
-constexpr int kNumberTaken = 2531;
-constexpr int kRosterFull = 2532;
-constexpr int kNameTooLong = 2533;
-constexpr int kAdded = 2534;
-
 // As it comes back from the file.
 std::string storedName(std::string_view name) {
   std::string text(name);
@@ -57,15 +50,15 @@ std::string NewPlayer::words(const Game& game, const Texts& texts) const {
   switch (problem) {
   case Problem::None: {
     const std::string shown(Module1::trimmed(player.jersey + ' ' + player.name));
-    return withPlaceholders(texts.text(kAdded), abbreviation, shown);
+    return withPlaceholders(texts.text(Text::PlayerAdded), abbreviation, shown);
   }
-  case Problem::CannotRecord: return std::string(texts.text(kCannotRecord));
-  case Problem::NoNumber: return std::string(texts.text(kInvalidNumber));
-  case Problem::NumberTaken: return withPlaceholders(texts.text(kNumberTaken), jersey, wearer);
-  case Problem::RosterFull: return texts.withPlaceholder(kRosterFull, abbreviation);
+  case Problem::CannotRecord: return std::string(texts.text(Text::CannotRecord));
+  case Problem::NoNumber: return std::string(texts.text(Text::InvalidNumber));
+  case Problem::NumberTaken: return withPlaceholders(texts.text(Text::NumberWorn), jersey, wearer);
+  case Problem::RosterFull: return texts.withPlaceholder(Text::RosterFull, abbreviation);
   case Problem::NameTooLong: break;
   }
-  return std::string(texts.text(kNameTooLong));
+  return std::string(texts.text(Text::NameTooLong));
 }
 
 } // namespace hooptab

@@ -12,8 +12,6 @@ namespace {
 
 constexpr std::string_view kNoTime = "--:--";
 constexpr std::string_view kOver = "---";
-constexpr int kStart = 1075;
-constexpr int kStop = 1080;
 constexpr std::size_t kLengthOfClock = 5; // mm:ss
 
 std::string timeShown(const LiveGame& game, int seconds) {
@@ -36,14 +34,14 @@ std::string periodShown(const LiveGame& game, const Texts& texts) {
 
 std::string startShown(const LiveGame& game, const Texts& texts) {
   switch (game.phase()) {
-  case LiveGame::Phase::Running: return texts.caption(kStop);
+  case LiveGame::Phase::Running: return texts.caption(Text::Stop);
   case LiveGame::Phase::Decided:
   case LiveGame::Phase::Finished:
   case LiveGame::Phase::ReadOnly: return std::string(kOver);
   case LiveGame::Phase::Stopped:
   case LiveGame::Phase::OvertimeAsked: break;
   }
-  return texts.caption(kStart);
+  return texts.caption(Text::Start);
 }
 
 ScoreByPeriod scoreByPeriod(const LiveGame& game, const Texts& texts) {

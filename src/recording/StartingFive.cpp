@@ -10,9 +10,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kMissing = 2548;
-constexpr int kNobodyOnCourt = 2549;
-
 int onCourtOf(const LiveGame& game, int team) {
   return std::popcount(game.onCourt()[static_cast<std::size_t>(team)]);
 }
@@ -36,7 +33,7 @@ std::string missingWords(const LiveGame& game, const Texts& texts) {
     const int missing = missingOfFive(game, team);
     if (missing == 0)
       continue;
-    const int text = onCourtOf(game, team) == 0 ? kNobodyOnCourt : kMissing;
+    const Text text = onCourtOf(game, team) == 0 ? Text::NobodyOnCourt : Text::OfTheFiveMissing;
     words += words.empty() ? "" : "; ";
     words += withPlaceholders(texts.text(text), EventWords(game.game(), texts).team(team),
                               std::to_string(missing));

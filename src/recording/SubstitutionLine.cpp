@@ -7,16 +7,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kSubjectAndWords = 1801;
-constexpr int kLeaves = 1959;
-constexpr int kComesIn = 1960;
-constexpr int kNobodys = 2471;
-constexpr int kSeveral = 2510;
-constexpr int kAsBefore = 2511;
-
-} // namespace
+namespace {} // namespace
 
 SubstitutionLine::SubstitutionLine(const LiveGame& game, Substitution& choice)
     : m_game(game), m_choice(choice), m_team(game.game().details.mainTeam) {}
@@ -61,7 +52,7 @@ void SubstitutionLine::type(int digit) {
 
 // Takes a number that cannot go on; one that is nobody's stays, and is refused.
 void SubstitutionLine::narrow() {
-  m_refusal = 0;
+  m_refusal = Text::None;
   const auto goesOn = [this](const Player& player) {
     return canBecome(
         m_typed, m_game.game().roster[static_cast<std::size_t>(player.team)].player(player.entry)->jersey);
@@ -72,7 +63,7 @@ void SubstitutionLine::narrow() {
 
 bool SubstitutionLine::take(const std::optional<Player>& player) {
   if (!player) {
-    m_refusal = kNobodys;
+    m_refusal = Text::NobodyHereHasNumber;
     return false;
   }
   m_choice.toggle(player->team, player->entry);
@@ -97,7 +88,7 @@ void SubstitutionLine::takeBack() {
   if (m_typed.empty())
     return m_choice.takeBack();
   m_typed.pop_back();
-  m_refusal = 0; // also where it could be taken now: the next key says
+  m_refusal = Text::None; // also where it could be taken now: the next key says
 }
 
 bool SubstitutionLine::enter() {
@@ -109,7 +100,7 @@ bool SubstitutionLine::enter() {
   if (players.size() == 1)
     take(players.front());
   else
-    m_refusal = players.empty() ? kNobodys : kSeveral;
+    m_refusal = players.empty() ? Text::NobodyHereHasNumber : Text::SeveralNumbers;
   return false;
 }
 
@@ -126,8 +117,8 @@ std::string SubstitutionLine::words(const Texts& texts) const {
   if (m_taken) {
     const bool stays = m_choice.isChosen(m_taken->team, m_taken->entry);
     const bool wasThere = m_choice.wasOnCourt(m_taken->team, m_taken->entry);
-    const int move = stays == wasThere ? kAsBefore : stays ? kComesIn : kLeaves;
-    return withPlaceholders(texts.text(kSubjectAndWords), nameOf(*m_taken), texts.text(move));
+    const Text move = stays == wasThere ? Text::AsBefore : stays ? Text::ComesIn : Text::Leaves;
+    return withPlaceholders(texts.text(Text::SubjectAndWords), nameOf(*m_taken), texts.text(move));
   }
   std::string names;
   for (const Player& player : fitting())

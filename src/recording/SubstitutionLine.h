@@ -21,7 +21,7 @@ class SubstitutionLine {
   const std::string& typed() const { return m_typed; }
   // Whether the number of that player begins with what is typed.
   [[nodiscard]] bool fits(int team, int player) const;
-  bool isRefused() const { return m_refusal != 0; }
+  bool isRefused() const { return m_refusal != Text::None; }
   // Why the number is not taken; else the names of whom it can mean, or with nothing typed what became of the
   // last number.
   [[nodiscard]] std::string words(const Texts& texts) const;
@@ -52,7 +52,7 @@ class SubstitutionLine {
   Substitution& m_choice;
   int m_team;
   std::string m_typed;
-  int m_refusal = 0; // a text
+  Text m_refusal = Text::None;
   std::optional<Player> m_taken;
 };
 

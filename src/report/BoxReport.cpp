@@ -1,6 +1,5 @@
 #include "report/BoxReport.h"
 
-#include "report/PrintTexts.h"
 #include "report/ReportWords.h"
 #include "scorecard/ColumnWords.h"
 
@@ -17,15 +16,13 @@ bool isShotPart(std::string_view name) {
   return name == "M" || name == "A" || name == "%" || name == "PTS";
 }
 
-constexpr int kLine = 1026;
-
 struct Group {
   std::string_view kind; // of shots; empty for all of them together
-  int title = 0;         // 0 for none
+  Text title = Text::None;
 };
 Group groupOf(std::string_view column) {
   if (isShotPart(column))
-    return {{}, kEveryShot};
+    return {{}, Text::EveryShot};
   for (const EventKind& kind : eventKinds()) {
     if (kind.isShot && column.starts_with(kind.shortName) && isShotPart(column.substr(kind.shortName.size())))
       return {kind.shortName, kind.wordsText};
@@ -69,16 +66,16 @@ ReportTable boxTable(const Game& game, const GameState& state, int team, const S
     });
   };
   std::vector<const BoxColumn*> shown;
-  int openGroup = -1;
+  std::optional<Text> openGroup;
   for (const int index : boxDisplayOrder()) {
     const BoxColumn& column = boxColumns()[static_cast<std::size_t>(index - 1)];
     if (!choice.isShown(column))
       continue;
     shown.push_back(&column);
     const bool isLine = column.name == "Name" && choice.view() == BoxView::Lines;
-    const std::string header(isLine                  ? texts.text(kLine)
-                             : column.headerText > 0 ? texts.text(column.headerText)
-                                                     : column.header);
+    const std::string header(isLine                            ? texts.text(Text::Line)
+                             : column.headerText != Text::None ? texts.text(column.headerText)
+                                                               : column.header);
     const bool isRepeated = std::ranges::find(kRepeatedColumns, column.name) != std::end(kRepeatedColumns);
     table.columns.push_back({header, std::string(column.name),
                              columnWords(index, game.details.statisticLabel, settings, texts),

@@ -4,11 +4,9 @@
 #include "game/Glossary.h"
 #include "game/RunningScore.h"
 #include "report/BoxReport.h"
-#include "report/PrintTexts.h"
 #include "report/ReportWords.h"
 #include "scorecard/ColumnWords.h"
 #include "scorecard/Scoreboard.h"
-#include "scorecard/ScorecardTexts.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 
@@ -19,16 +17,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kRating = 1005;
-constexpr int kPlace = 1016;
-constexpr int kGameType = 1122;
-constexpr int kStatistician = 1069;
-constexpr int kTotal = 1070;
-constexpr int kTeam = 1305;
-constexpr int kTied = 1021;
-constexpr int kTime = 1024;
-constexpr int kTimes = 1508;
-constexpr int kPeriod = 1087;
 constexpr int kSecondsPerMinute = 60;
 
 // The columns whose best players are named; rebounds are those of both kinds.
@@ -38,19 +26,19 @@ constexpr const char* kBlank = "\u00A0"; // where no line may end
 constexpr const char* kDash = "\u00A0–\u00A0";
 
 // Rules of the game, in the words of the window that shows them.
-constexpr std::pair<int, int GameDetails::*> kRules[] = {
-    {1123, &GameDetails::periods},
-    {1124, &GameDetails::minutesPerPeriod},
-    {1125, &GameDetails::bonus},
-    {1126, &GameDetails::personalFoulLimit},
-    {1127, &GameDetails::technicalFoulLimit},
+constexpr std::pair<Text, int GameDetails::*> kRules[] = {
+    {Text::PeriodCount, &GameDetails::periods},
+    {Text::MinutesPerPeriod, &GameDetails::minutesPerPeriod},
+    {Text::BonusAfter, &GameDetails::bonus},
+    {Text::FoulLimit, &GameDetails::personalFoulLimit},
+    {Text::TechnicalLimit, &GameDetails::technicalFoulLimit},
 };
 
-std::string text(const Texts& texts, int number) {
-  return std::string(texts.text(number));
+std::string text(const Texts& texts, Text which) {
+  return std::string(texts.text(which));
 }
 
-Report reportOf(const Game& game, const GameState& state, int title, const Texts& texts) {
+Report reportOf(const Game& game, const GameState& state, Text title, const Texts& texts) {
   const GameDetails& details = game.details;
   Report report;
   report.title = text(texts, title);
@@ -60,7 +48,7 @@ Report reportOf(const Game& game, const GameState& state, int title, const Texts
     report.subject += ", " + details.date;
   if (!details.place.empty())
     report.subject += ", " + details.place;
-  report.pageWords = text(texts, kPageOf);
+  report.pageWords = text(texts, Text::PageOf);
   const std::size_t slash = game.path.rfind('/');
   const std::string file = game.path.substr(slash == std::string::npos ? 0 : slash + 1);
   report.fileName = proposedFileName(file.substr(0, file.rfind('.')) + ' ' + report.title);
@@ -76,15 +64,15 @@ void addHead(Report& report, const Game& game, const GameState& state, const Tex
   report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading,
                                           team(0) + "  " + std::to_string(state.points(0)) + kDash +
                                               std::to_string(state.points(1)) + "  " + team(1)});
-  std::string words = text(texts, details.isFinished ? kFinished : kInProgress);
-  const auto add = [&](int label, std::string_view value) {
+  std::string words = text(texts, details.isFinished ? Text::Final : Text::InProgress);
+  const auto add = [&](Text label, std::string_view value) {
     if (!value.empty())
       words += ".  " + labelled(label, value, texts);
   };
-  add(kGameDate, details.date);
-  add(kPlace, details.place);
-  add(kGameType, gameTypeText(details.type, texts));
-  add(kStatistician, details.statistician);
+  add(Text::Date, details.date);
+  add(Text::Location, details.place);
+  add(Text::GameType, gameTypeText(details.type, texts));
+  add(Text::Statistician, details.statistician);
   for (const auto& [label, rule] : kRules)
     add(label, details.*rule > 0 ? std::to_string(details.*rule) : std::string());
   report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, std::move(words)});
@@ -94,14 +82,14 @@ void addHead(Report& report, const Game& game, const GameState& state, const Tex
 enum class ByPeriod { Points, Fouls };
 ReportTable periodTable(const Scoreboard& board, ByPeriod content, const Texts& texts) {
   ReportTable table;
-  table.title = text(texts, content == ByPeriod::Points ? kPointsByPeriod : kTeamFouls);
+  table.title = text(texts, content == ByPeriod::Points ? Text::PointsByPeriod : Text::TeamFouls);
   table.isSummary = true;
   table.standsBeside = content == ByPeriod::Fouls;
-  table.columns.push_back({text(texts, kTeam), "Team", {}, true, true});
+  table.columns.push_back({text(texts, Text::Team), "Team", {}, true, true});
   for (const Scoreboard::Period& period : board.periods)
     table.columns.push_back({period.label, period.label});
   if (content == ByPeriod::Points)
-    table.columns.push_back({text(texts, kTotal), "Total"});
+    table.columns.push_back({text(texts, Text::Total), "Total"});
   for (std::size_t team = 0; team < 2; ++team) {
     ReportRow& row = table.rows.emplace_back();
     row.cells.push_back(textCell(board.teams[team].abbreviation));
@@ -117,13 +105,14 @@ ReportTable periodTable(const Scoreboard& board, ByPeriod content, const Texts& 
 
 ReportTable leadTable(const Scoreboard& board, const GameState& state, const Texts& texts) {
   ReportTable table;
-  table.title = text(texts, kTimeInLead);
+  table.title = text(texts, Text::TimeInLead);
   table.isSummary = true;
   table.standsBeside = true;
-  table.columns = {{text(texts, kTeam), "Team", {}, true, true},
-                   {text(texts, kTime), "Time"},
-                   {capitalised(text(texts, kTimes)), "Times"}};
-  const std::string names[] = {board.teams[0].abbreviation, board.teams[1].abbreviation, text(texts, kTied)};
+  table.columns = {{text(texts, Text::Team), "Team", {}, true, true},
+                   {text(texts, Text::Time), "Time"},
+                   {capitalised(text(texts, Text::Times)), "Times"}};
+  const std::string names[] = {board.teams[0].abbreviation, board.teams[1].abbreviation,
+                               text(texts, Text::LeadTied)};
   for (const std::size_t lead : {0U, 2U, 1U}) {
     ReportCell time = {board.leads[lead].time, ReportCell::Kind::Time,
                        static_cast<double>(std::max(0, state.lead.seconds[lead]))};
@@ -145,7 +134,7 @@ std::string leaderWords(std::string_view column, const Game& game, const Setting
   if (column == "TR")
     return text(texts, termWords(column));
   if (column == "rating") // whose words are its formula
-    return text(texts, kRating);
+    return text(texts, Text::RatingWord);
   return capitalised(columnWords(std::ranges::find(boxColumns(), column, &BoxColumn::name)->index,
                                  game.details.statisticLabel, settings, texts));
 }
@@ -160,22 +149,22 @@ std::string leaders(const std::vector<BoxRow>& rows, std::string_view column, in
     names += (count > 0 ? ", " : "") + row.number + ' ' + row.name;
     ++count;
   }
-  return count > kMostNamed ? texts.withPlaceholder(kManyPlayers, std::to_string(count)) : names;
+  return count > kMostNamed ? texts.withPlaceholder(Text::ManyPlayers, std::to_string(count)) : names;
 }
 
 ReportTable leaderTable(const Game& game, const GameState& state, const Settings& settings,
                         const Texts& texts) {
   ReportTable table;
-  table.title = text(texts, kGameLeaders);
+  table.title = text(texts, Text::GameLeaders);
   table.isSummary = true;
-  table.columns.push_back({text(texts, kStatistic), "Statistic", {}, true, true});
+  table.columns.push_back({text(texts, Text::Statistic), "Statistic", {}, true, true});
   table.groups.push_back({"", 1});
   std::vector<BoxRow> rows[2];
   for (int team = 0; team < 2; ++team) {
     rows[team] = boxRows(game, state, team, BoxView::Players, texts);
     const std::string side = std::to_string(team);
-    table.columns.push_back({text(texts, kPlayerName), "Name" + side, {}, true});
-    table.columns.push_back({text(texts, kValue), "Value" + side});
+    table.columns.push_back({text(texts, Text::PlayerName), "Name" + side, {}, true});
+    table.columns.push_back({text(texts, Text::Value), "Value" + side});
     table.groups.push_back({game.details.abbreviation[team], 2});
   }
   for (const std::string_view name : kLeaderColumns) {
@@ -257,7 +246,7 @@ std::string shotCaption(const std::vector<Shot>& shots, const Texts& texts) {
   std::string words = part(std::string(kTwoPointers), summary.twoPoints) + "   " +
                       part(std::string(kThreePointers), summary.threePoints);
   if (const ZoneSum sum = shotSums(shots).withoutPlace; sum.attempted > 0)
-    words += "   " + fractionText(sum) + ' ' + text(texts, kWithoutPlace);
+    words += "   " + fractionText(sum) + ' ' + text(texts, Text::WithoutPlace);
   return words;
 }
 
@@ -271,7 +260,7 @@ std::string chosenRows(const ScorecardView& choice, const Texts& texts) {
     else if (choice.checkMark(row) == ScorecardView::CheckMark::All)
       names += (names.empty() ? "" : ", ") + (row.number.empty() ? row.name : row.number);
   }
-  return isAll ? std::string() : "\n" + texts.withPlaceholder(kShotsOf, names.empty() ? "–" : names);
+  return isAll ? std::string() : "\n" + texts.withPlaceholder(Text::ShotsOf, names.empty() ? "–" : names);
 }
 
 void addShotCharts(Report& report, const Game& game, ScorecardView choice, const Texts& texts) {
@@ -286,14 +275,14 @@ void addShotCharts(Report& report, const Game& game, ScorecardView choice, const
       if (shot.hasPlace)
         byShot.marks.push_back({{shot.x, shot.y}, shot.isMade});
     }
-    const std::string title = game.details.abbreviation[team] + " – " + text(texts, kShotChart);
+    const std::string title = game.details.abbreviation[team] + " – " + text(texts, Text::ShotChart);
     const std::string caption = shotCaption(shots, texts) + chosenRows(choice, texts);
     const std::string signs =
-        std::string("●") + kBlank + text(texts, kMadeShots) + "   ✕" + kBlank + text(texts, kMissedShots);
-    report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByShot), std::move(byShot),
+        std::string("●") + kBlank + text(texts, Text::Made) + "   ✕" + kBlank + text(texts, Text::Missed);
+    report.blocks.push_back(ReportPicture{title + ", " + text(texts, Text::ByShot), std::move(byShot),
                                           signs + "   " + caption, std::exchange(hasPicture, true)});
     if (auto zones = zoneWords(shotSums(shots)); !zones.empty())
-      report.blocks.push_back(ReportPicture{title + ", " + text(texts, kByZone),
+      report.blocks.push_back(ReportPicture{title + ", " + text(texts, Text::ByZone),
                                             ShotDrawing{{}, std::move(zones)}, caption, true});
   }
 }
@@ -304,7 +293,7 @@ Report scorecardReport(const Game& game, const GameState& state, ScorecardView c
                        const Settings& settings, const Texts& texts) {
   choice.show(game, state);
   const Scoreboard board = scoreboard(game, state, texts);
-  Report report = reportOf(game, state, kScorecard, texts);
+  Report report = reportOf(game, state, Text::Scorecard, texts);
   addHead(report, game, state, texts);
   report.blocks.push_back(periodTable(board, ByPeriod::Points, texts));
   report.blocks.push_back(periodTable(board, ByPeriod::Fouls, texts));
@@ -317,24 +306,25 @@ Report scorecardReport(const Game& game, const GameState& state, ScorecardView c
   if (ReportTable leaders = leaderTable(game, state, settings, texts); !leaders.rows.empty())
     report.blocks.push_back(std::move(leaders));
   if (board.hasTime && state.points(0) + state.points(1) > 0)
-    report.blocks.push_back(ReportPicture{text(texts, kScoreDiagram), ScoreDiagram(game, texts).drawing()});
+    report.blocks.push_back(
+        ReportPicture{text(texts, Text::ScoreDiagram), ScoreDiagram(game, texts).drawing()});
   addShotCharts(report, game, choice, texts);
   if (!game.details.notes.empty()) {
-    report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading, text(texts, kGameNotes)});
+    report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading, text(texts, Text::GameNotes)});
     report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, game.details.notes});
   }
   return report;
 }
 
 Report playByPlayReport(const Game& game, const GameState& state, const Texts& texts) {
-  Report report = reportOf(game, state, kPlayByPlay, texts);
+  Report report = reportOf(game, state, Text::PlayByPlay, texts);
   ReportTable table;
-  table.title = text(texts, kEvents);
+  table.title = text(texts, Text::Events);
   const EventWords words(game, texts);
-  table.columns = {{text(texts, kPeriod), "Period", {}, true},
-                   {text(texts, kTime), "Time"},
+  table.columns = {{text(texts, Text::Period), "Period", {}, true},
+                   {text(texts, Text::Time), "Time"},
                    {std::string(words.team(0)), "Team0", {}, true},
-                   {text(texts, kScore), "Score", {}, false, false, true},
+                   {text(texts, Text::Score), "Score", {}, false, false, true},
                    {std::string(words.team(1)), "Team1", {}, true}};
   const std::vector<std::array<int, 2>> scores = runningScore(game.events);
   int period = 0;

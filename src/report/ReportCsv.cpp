@@ -9,11 +9,9 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTitleColumn = 2750;
-
 std::string titleColumn(CsvReader reader) {
   return std::string(
-      Texts().text(kTitleColumn, reader == CsvReader::French ? Language::French : Language::English));
+      Texts().text(Text::Table, reader == CsvReader::French ? Language::French : Language::English));
 }
 
 // Where several columns have one head, their names tell them apart.

@@ -1,6 +1,5 @@
 #include "report/ReportWords.h"
 
-#include "report/PrintTexts.h"
 #include "storage/Placeholders.h"
 
 #include <algorithm>
@@ -16,10 +15,10 @@ constexpr std::string_view kNoLabel = "---"; // of a statistic of the user's own
 
 std::string labelled(std::string_view label, std::string_view value, const Texts& texts) {
   const std::string_view bare = label.substr(0, label.find_last_not_of('.') + 1);
-  return withPlaceholders(texts.text(kLabelAndValue), bare, value);
+  return withPlaceholders(texts.text(Text::SubjectAndWords), bare, value);
 }
 
-std::string labelled(int labelText, std::string_view value, const Texts& texts) {
+std::string labelled(Text labelText, std::string_view value, const Texts& texts) {
   return labelled(texts.text(labelText), value, texts);
 }
 
@@ -48,8 +47,8 @@ void keepBest(Report& report, std::size_t most, const Texts& texts) {
     auto* table = std::get_if<ReportTable>(&block);
     if (table == nullptr || !table->isRanked || table->rows.size() <= most)
       continue;
-    const std::string words =
-        withPlaceholders(texts.text(kFirstRows), std::to_string(most), std::to_string(table->rows.size()));
+    const std::string words = withPlaceholders(texts.text(Text::FirstRows), std::to_string(most),
+                                               std::to_string(table->rows.size()));
     table->title += (table->title.empty() ? "" : " – ") + words;
     std::size_t place = 0;
     std::erase_if(table->rows, [&](const ReportRow& row) {
@@ -87,7 +86,7 @@ void addNotes(Report& report, const ReportTable& table, const Texts& texts) {
   if (!codes.empty())
     add(std::move(codes));
   if (!untried.empty())
-    add(texts.withPlaceholder(kNobodyTried, untried));
+    add(texts.withPlaceholder(Text::NobodyTried, untried));
 }
 
 } // namespace hooptab

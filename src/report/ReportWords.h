@@ -12,7 +12,7 @@ namespace hooptab {
 // "Date: 2026-03-01", with the blanks of the language, and without the dots of a label that asks for
 // something.
 [[nodiscard]] std::string labelled(std::string_view label, std::string_view value, const Texts& texts);
-[[nodiscard]] std::string labelled(int labelText, std::string_view value, const Texts& texts);
+[[nodiscard]] std::string labelled(Text labelText, std::string_view value, const Texts& texts);
 // With a large first letter, for the begin of a row or a heading.
 [[nodiscard]] std::string capitalised(std::string words);
 // As the name of a file, without blanks that follow each other.

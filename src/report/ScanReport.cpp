@@ -1,6 +1,5 @@
 #include "report/ScanReport.h"
 
-#include "report/PrintTexts.h"
 #include "report/ReportWords.h"
 #include "storage/Module1.h"
 #include "totals/CounterWords.h"
@@ -11,25 +10,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kPlayerNumber = 1065;
-constexpr int kPlayerName = 1023;
-constexpr int kVerification = 1398;
-constexpr int kMadeShort = 1342;
-constexpr int kAttemptedShort = 1343;
-constexpr int kMade = 1241;
-constexpr int kMissed = 1242;
-constexpr int kLeftOut = 2309;
-constexpr int kNotReadable = 2310;
-constexpr int kNoNumber = 2311;
-constexpr int kSigns = 2336;
-constexpr int kDoubtsAndChanges = 2337;
-constexpr int kReadAs = 2338;
-constexpr int kNow = 2339;
-constexpr int kCell = 2340;
-constexpr int kFirstPlace = 2345;
-constexpr int kTicked = 2348;
-constexpr int kNotTicked = 2349;
-
 class ScanReport {
  public:
   ScanReport(const ScannedTotals& scanned, const GameDetails& game, const Settings& settings,
@@ -39,15 +19,15 @@ class ScanReport {
   // A table for the shots and one for the rest: side by side they would not fit the paper.
   ReportTable counts(bool ofShots) const {
     ReportTable table;
-    table.columns = {{text(kPlayerNumber), "No", {}, true, true},
-                     {text(kPlayerName), "Name", {}, true, true}};
+    table.columns = {{text(Text::PlayerNumber), "No", {}, true, true},
+                     {text(Text::PlayerName), "Name", {}, true, true}};
     table.groups = {{"", 2}};
     for (const ManualColumn& column : kManualColumns) {
       const EventKind& kind = *kindOf(column.code);
       if (kind.isShot != ofShots)
         continue;
       const std::string name(kind.shortName);
-      table.columns.push_back({!ofShots ? name : text(column.isMade ? kMadeShort : kAttemptedShort),
+      table.columns.push_back({!ofShots ? name : text(column.isMade ? Text::MadeShort : Text::AttemptedShort),
                                std::string(counterName(column.counter)),
                                counterWords(column, m_game, m_settings, m_texts)});
       if (!ofShots || column.isMade)
@@ -66,10 +46,11 @@ class ScanReport {
 
   ReportTable cells() const {
     ReportTable table;
-    table.title = text(kDoubtsAndChanges);
-    table.columns = {{text(kPlayerNumber), "No", {}, true, true}, {text(kPlayerName), "Name", {}, true, true},
-                     {text(kStatistic), "Statistic", {}, true},   {text(kCell), "Cell"},
-                     {text(kReadAs), "Read", {}, true},           {text(kNow), "Now", {}, true}};
+    table.title = text(Text::DoubtsAndChanges);
+    table.columns = {
+        {text(Text::PlayerNumber), "No", {}, true, true}, {text(Text::PlayerName), "Name", {}, true, true},
+        {text(Text::Statistic), "Statistic", {}, true},   {text(Text::Cell), "Cell"},
+        {text(Text::ReadAs), "Read", {}, true},           {text(Text::Now), "Now", {}, true}};
     for (int player = 0; player < FormLayout::kPlayers; ++player) {
       for (std::size_t cell = 0; cell < m_sheet.cellCount(); ++cell) {
         if (m_sheet.cell(cell).player == player && (m_sheet.isDoubtful(cell) || m_sheet.isCorrected(cell)))
@@ -86,8 +67,8 @@ class ScanReport {
   }
 
  private:
-  std::string text(int number) const { return std::string(m_texts.text(number)); }
-  std::string state(bool isTicked) const { return text(isTicked ? kTicked : kNotTicked); }
+  std::string text(Text which) const { return std::string(m_texts.text(which)); }
+  std::string state(bool isTicked) const { return text(isTicked ? Text::TickedWord : Text::NotTickedWord); }
 
   static ReportCell countCell(const CheckedSheet::Count& count) {
     ReportCell cell = numberCell(count.value);
@@ -100,24 +81,24 @@ class ScanReport {
     const CheckedSheet::Jersey jersey = m_sheet.jersey(player);
     using State = CheckedSheet::Jersey::State;
     const std::string read = jersey.state == State::Readable     ? jersey.number
-                             : jersey.state == State::Unreadable ? text(kNotReadable)
-                             : m_sheet.hasCounts(player)         ? text(kNoNumber)
+                             : jersey.state == State::Unreadable ? text(Text::NotReadable)
+                             : m_sheet.hasCounts(player)         ? text(Text::NoNumber)
                                                                  : std::string();
     return read + (jersey.isOpen ? "?" : jersey.isCorrected ? "*" : "");
   }
   std::string playerName(int player) const {
     if (const RosterPlayer* found = m_scanned.roster().player(m_scanned.slot(player)))
       return found->name;
-    return m_sheet.hasCounts(player) ? text(kLeftOut) : std::string();
+    return m_sheet.hasCounts(player) ? text(Text::LeftOutInBrackets) : std::string();
   }
 
   std::string rowWords(const FormCell& cell) const {
     if (cell.kind == FormCell::Kind::JerseyDigit)
-      return text(kPlayerNumber) + ", " + text(kFirstPlace + cell.place);
+      return text(Text::PlayerNumber) + ", " + text(kDigitPlaces[cell.place]);
     const auto kind = std::ranges::find(eventKinds(), cell.counter, &EventKind::counter);
     std::string words(kind->shortName);
     if (cell.kind != FormCell::Kind::Count)
-      words += ' ' + text(cell.kind == FormCell::Kind::Made ? kMade : kMissed);
+      words += ' ' + text(cell.kind == FormCell::Kind::Made ? Text::MadeCapitals : Text::MissCapitals);
     return words;
   }
   // As somebody counts the cells of a row; of a number the digit itself.
@@ -137,13 +118,14 @@ class ScanReport {
 Report verificationReport(const ScannedTotals& scanned, const GameDetails& game, const std::string& source,
                           const Settings& settings, const Texts& texts) {
   Report report;
-  report.title = texts.text(kVerification);
+  report.title = texts.text(Text::VerificationReport);
   report.subject =
       game.abbreviation[0] + " – " + game.abbreviation[1] + ": " + game.abbreviation[scanned.team()];
-  report.pageWords = texts.text(kPageOf);
+  report.pageWords = texts.text(Text::PageOf);
   report.fileName = proposedFileName(source + ' ' + report.title);
   report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading, source});
-  report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, std::string(texts.text(kSigns))});
+  report.blocks.push_back(
+      ReportParagraph{ReportParagraph::Style::Body, std::string(texts.text(Text::VerificationSigns))});
   const ScanReport made(scanned, game, settings, texts);
   report.blocks.push_back(made.counts(true));
   report.blocks.push_back(made.counts(false));

@@ -1,9 +1,7 @@
 #include "report/SeasonReports.h"
 
 #include "game/Glossary.h"
-#include "report/PrintTexts.h"
 #include "report/ReportWords.h"
-#include "scorecard/ScorecardTexts.h"
 #include "season/GameColumns.h"
 #include "season/GameSeries.h"
 #include "season/Leaders.h"
@@ -21,41 +19,26 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTeam = 1305;
-constexpr int kRating = 2145;
-constexpr int kGames = 1181;
-constexpr int kTeamStatistics = 1363;
-constexpr int kPersonalRecords = 1405;
-constexpr int kLineRecords = 1412;
-constexpr int kPlayerPerformance = 1413;
-constexpr int kLinePerformance = 1414;
-constexpr int kResultsByGame = 1415;
-constexpr int kWinLossTie[] = {1195, 1196, 1197};
-constexpr int kSeasonShots = 2138;
-constexpr int kGamesPlayed = 2144;
-constexpr int kOneGamePlayed = 2741;
-constexpr int kDifferenceLegend = 2139;
-constexpr int kAverage = 2137;
-constexpr int kPoints = 2754;
-constexpr int kPerForty = 2720;
-constexpr int kViewTitles[] = {1070, 1177, 1179, kPerForty}; // by SeasonView
+constexpr Text kWinLossTie[] = {Text::Wins1, Text::Losses1, Text::Ties1};
+constexpr Text kViewTitles[] = {Text::Total, Text::AveragePerGame, Text::AveragePerMinute,
+                                Text::PerForty}; // by SeasonView
 
 constexpr SeasonReportName kReports[] = {
-    {SeasonReport::TeamSummary, "StLISTGAMES", 1421, "team-summary"},
-    {SeasonReport::TeamDetail, "StLISTGAMESSOMM", 1422, "team-detail"},
-    {SeasonReport::PlayerShots, "stSTATJOUEURS", 1423, "player-shots"},
-    {SeasonReport::LineShots, "stSTATLIGNES", 1424, "line-shots"},
-    {SeasonReport::PlayerOther, "stSTATJOUEURSAUTRES", 1425, "player-other"},
-    {SeasonReport::LineOther, "stSTATLIGNESAUTRES", 1426, "line-other"},
-    {SeasonReport::LeadersTotal, "stMENEURSTOT", 1427, "leaders"},
-    {SeasonReport::LeadersPerGame, "stMENEURSMOY", 1428, "leaders-per-game"},
-    {SeasonReport::LeadersPerMinute, "stMENEURSMIN", 1429, "leaders-per-minute"},
-    {SeasonReport::Player, "stRAPJOUEUR", 1430, "player"},
-    {SeasonReport::Line, "stRAPLIGNE", 1431, "line"},
+    {SeasonReport::TeamSummary, "StLISTGAMES", Text::TeamSummary, "team-summary"},
+    {SeasonReport::TeamDetail, "StLISTGAMESSOMM", Text::TeamDetail, "team-detail"},
+    {SeasonReport::PlayerShots, "stSTATJOUEURS", Text::PlayerShots, "player-shots"},
+    {SeasonReport::LineShots, "stSTATLIGNES", Text::LineShots, "line-shots"},
+    {SeasonReport::PlayerOther, "stSTATJOUEURSAUTRES", Text::PlayerOther, "player-other"},
+    {SeasonReport::LineOther, "stSTATLIGNESAUTRES", Text::LineOther, "line-other"},
+    {SeasonReport::LeadersTotal, "stMENEURSTOT", Text::LeadersTotal, "leaders"},
+    {SeasonReport::LeadersPerGame, "stMENEURSMOY", Text::LeadersPerGame, "leaders-per-game"},
+    {SeasonReport::LeadersPerMinute, "stMENEURSMIN", Text::LeadersPerMinute, "leaders-per-minute"},
+    {SeasonReport::Player, "stRAPJOUEUR", Text::PlayerReport, "player"},
+    {SeasonReport::Line, "stRAPLIGNE", Text::LineReport, "line"},
 };
 
-std::string text(const Texts& texts, int number) {
-  return std::string(texts.text(number));
+std::string text(const Texts& texts, Text which) {
+  return std::string(texts.text(which));
 }
 
 // Of the counted columns, those of shots; the others are fouls, rating and what was counted beside shots.
@@ -76,7 +59,7 @@ std::string_view kindOf(int column) {
 // The title over the columns of a kind.
 std::string titleOfKind(std::string_view kind, const Texts& texts) {
   if (kind == "TG")
-    return text(texts, kEveryShot);
+    return text(texts, Text::EveryShot);
   if (kind == "FG") // two- and three-pointers together
     return std::string(kind);
   return capitalised(text(texts, termWords(kind == "F2" ? "FG" : kind)));
@@ -113,7 +96,7 @@ class SeasonReportMaker {
     const auto* name = std::ranges::find(kReports, which, &SeasonReportName::report);
     m_report.title = text(m_texts, name->text);
     m_report.subject = subject();
-    m_report.pageWords = text(m_texts, kPageOf);
+    m_report.pageWords = text(m_texts, Text::PageOf);
     switch (which) {
     case SeasonReport::TeamSummary: addGames(); break;
     case SeasonReport::TeamDetail:
@@ -139,11 +122,11 @@ class SeasonReportMaker {
  private:
   // "LYNX-AAA, 34 Games, 2026-10-02 – 2027-03-14".
   std::string subject() {
-    m_whose = m_choice.team ? m_catalogue.teams()[*m_choice.team].key : text(m_texts, 1045);
+    m_whose = m_choice.team ? m_catalogue.teams()[*m_choice.team].key : text(m_texts, Text::SeasonTitle);
     return m_whose + ", " + selection();
   }
   std::string selection() const {
-    std::string words = labelled(kGames, std::to_string(m_statistics.games().size()), m_texts);
+    std::string words = labelled(Text::GamesWord, std::to_string(m_statistics.games().size()), m_texts);
     std::string first;
     std::string last;
     for (const std::size_t place : m_statistics.games()) {
@@ -158,11 +141,11 @@ class SeasonReportMaker {
 
   void addGames() {
     ReportTable table;
-    table.title = text(m_texts, kGames);
+    table.title = text(m_texts, Text::GamesWord);
     for (const GameColumn& column : gameColumns()) {
       if (column.widthTwips > 0)
         table.columns.push_back(
-            {std::string(column.headerText > 0 ? m_texts.text(column.headerText) : column.header),
+            {std::string(column.headerText != Text::None ? m_texts.text(column.headerText) : column.header),
              std::string(column.name),
              {},
              column.isLeftAligned || gameColumnIsText(column.index),
@@ -226,18 +209,18 @@ class SeasonReportMaker {
   }
 
   void addTeams() {
-    std::vector<ReportColumn> begin = {repeated(text(m_texts, kTeam), "Team")};
+    std::vector<ReportColumn> begin = {repeated(text(m_texts, Text::Team), "Team")};
     for (std::size_t i = 0; i < 3; ++i)
       begin.push_back({text(m_texts, kWinLossTie[i]), std::string(1, "WLT"[i])});
-    begin.push_back({"+", "PointsFor", text(m_texts, kPointsFor)});
-    begin.push_back({"-", "PointsAgainst", text(m_texts, kPointsAgainst)});
+    begin.push_back({"+", "PointsFor", text(m_texts, Text::PointsFor)});
+    begin.push_back({"-", "PointsAgainst", text(m_texts, Text::PointsAgainst)});
     std::vector<int> columns = {kGamesColumn};
     for (int column = kFirstCountColumn; column <= kLastCountColumn; ++column)
       columns.push_back(column);
     const ReportTable empty = tableOf(begin, columns);
     for (const SeasonView view : {SeasonView::Totals, SeasonView::PerGame}) {
       ReportTable table = empty;
-      table.title = text(m_texts, kTeamStatistics) + " – " + titleOf(view);
+      table.title = text(m_texts, Text::TeamStatistics) + " – " + titleOf(view);
       for (const SeasonTeamRow& team : m_statistics.teams()) {
         SeasonRow sums; // a team's sums, as a row of the season tables
         sums.games = team.games;
@@ -305,7 +288,7 @@ class SeasonReportMaker {
     std::vector<ReportColumn> begin = {repeated("No", "No"),
                                        repeated(seasonHeader(kNameColumn, which, m_texts), "Name")};
     if (!m_choice.team)
-      begin.insert(begin.begin(), repeated(text(m_texts, kTeam), "Team"));
+      begin.insert(begin.begin(), repeated(text(m_texts, Text::Team), "Team"));
     return tableOf(std::move(begin), columnsOf(ofShots));
   }
   ReportRow reportRow(const SeasonRow& row, bool ofShots, SeasonView view, bool isMarked) const {
@@ -333,13 +316,13 @@ class SeasonReportMaker {
       table.title = wordsOf(statistic.column);
       table.standsBeside = !m_report.blocks.empty();
       table.isInGrid = true;
-      table.columns = {{"#", "Rank"}, repeated(text(m_texts, kPlayerName), "Name"), {header, "Value"}};
+      table.columns = {{"#", "Rank"}, repeated(text(m_texts, Text::PlayerName), "Name"), {header, "Value"}};
       const bool hasForty =
           view == SeasonView::PerMinute && attemptsColumnOf(statistic.column) == 0; // beside per minute
       if (hasForty)
-        table.columns.push_back({text(m_texts, kPerForty), "Per40"});
+        table.columns.push_back({text(m_texts, Text::PerForty), "Per40"});
       if (!m_choice.team)
-        table.columns.insert(table.columns.begin() + 2, {text(m_texts, kTeam), "Team", {}, true});
+        table.columns.insert(table.columns.begin() + 2, {text(m_texts, Text::Team), "Team", {}, true});
       for (const Leader& leader : statistic.leaders) {
         ReportRow& row = table.rows.emplace_back();
         if (m_choice.chosen == leader.row->id)
@@ -358,7 +341,7 @@ class SeasonReportMaker {
 
   void addPerformance(SeasonTable which) {
     const bool isPlayer = which == SeasonTable::Players;
-    m_report.title = text(m_texts, isPlayer ? kPlayerPerformance : kLinePerformance);
+    m_report.title = text(m_texts, isPlayer ? Text::PlayerPerformance : Text::LinePerformance);
     const auto rows = isPlayer ? m_statistics.players() : m_statistics.lines();
     const auto row =
         std::ranges::find_if(rows, [&](const SeasonRow& each) { return m_choice.chosen == each.id; });
@@ -368,9 +351,9 @@ class SeasonReportMaker {
     m_whose = m_catalogue.teams()[row->team].key + ' ' + name;
     m_report.subject = m_whose + ", " + selection();
     m_report.blocks.push_back(ReportParagraph{
-        ReportParagraph::Style::Heading,
-        name + " – " + m_catalogue.teams()[row->team].key + ", " +
-            countWords(static_cast<std::size_t>(row->games), kOneGamePlayed, kGamesPlayed, m_texts)});
+        ReportParagraph::Style::Heading, name + " – " + m_catalogue.teams()[row->team].key + ", " +
+                                             countWords(static_cast<std::size_t>(row->games),
+                                                        Text::OneGamePlayed, Text::GamesPlayed, m_texts)});
     const std::vector<GameResult> results =
         isPlayer ? m_statistics.resultsOfPlayer(row->id) : m_statistics.resultsOfLine(row->id);
     addSums(*row, isPlayer);
@@ -385,7 +368,8 @@ class SeasonReportMaker {
     for (const bool ofShots : {true, false}) {
       ReportTable table = tableOf({repeated("", "View")}, columnsOf(ofShots));
       table.standsBeside = !ofShots;
-      table.title = text(m_texts, isPlayer ? (ofShots ? 1423 : 1425) : (ofShots ? 1424 : 1426));
+      table.title = text(m_texts, isPlayer ? (ofShots ? Text::PlayerShots : Text::PlayerOther)
+                                           : (ofShots ? Text::LineShots : Text::LineOther));
       for (const SeasonView view : kSeasonViews) {
         ReportRow& line = table.rows.emplace_back();
         line.cells.push_back(textCell(titleOf(view)));
@@ -401,11 +385,11 @@ class SeasonReportMaker {
     for (const GameResult& result : results)
       records.add(m_catalogue, result, m_texts);
     ReportTable table;
-    table.title = text(m_texts, isPlayer ? kPersonalRecords : kLineRecords);
+    table.title = text(m_texts, isPlayer ? Text::PersonalRecords : Text::LineRecords);
     table.columns = {repeated("", "Code"),
-                     {text(m_texts, kStatistic), "Statistic", {}, true},
-                     {text(m_texts, kValue), "Value"},
-                     {text(m_texts, 1304), "Where", {}, true}};
+                     {text(m_texts, Text::Statistic), "Statistic", {}, true},
+                     {text(m_texts, Text::Value), "Value"},
+                     {text(m_texts, Text::WhereCriterion), "Where", {}, true}};
     for (const Record& record : records.records()) {
       const bool isTime = record.column == kTimeColumn;
       ReportCell value =
@@ -420,12 +404,12 @@ class SeasonReportMaker {
   // A column in words, short enough for a title.
   std::string wordsOf(int column) const {
     if (seasonColumn(column).name == "rating") // whose words are its formula
-      return text(m_texts, kRating);
+      return text(m_texts, Text::RatingCapital);
     const std::string_view name = seasonColumn(column).name;
     if (!kindOf(column).empty() && !name.ends_with("PTS"))
-      return m_texts.withPlaceholder(name.ends_with('M')   ? kMadeOf
-                                     : name.ends_with('A') ? kAttemptsOf
-                                                           : kPercentageOf,
+      return m_texts.withPlaceholder(name.ends_with('M')   ? Text::MadeOf
+                                     : name.ends_with('A') ? Text::AttemptsOf
+                                                           : Text::PercentageOf,
                                      titleOfKind(kindOf(column), m_texts));
     return capitalised(seasonColumnWords(column, m_settings, m_texts, m_statistics.labels()));
   }
@@ -440,8 +424,8 @@ class SeasonReportMaker {
       const auto zone = static_cast<std::size_t>(words.zone);
       drawing.differences.push_back(differenceInPoints(shots.zones[zone], average.zones[zone]));
     }
-    m_report.blocks.push_back(ReportPicture{text(m_texts, kSeasonShots), std::move(drawing),
-                                            text(m_texts, kDifferenceLegend), true});
+    m_report.blocks.push_back(ReportPicture{text(m_texts, Text::SeasonShotChart), std::move(drawing),
+                                            text(m_texts, Text::DifferenceLegend), true});
   }
 
   // Points game by game, with their average across.
@@ -461,15 +445,15 @@ class SeasonReportMaker {
     }
     const auto end = static_cast<double>(results.size());
     drawing.ticks.push_back({end, {}});
-    drawing.lines[0].name = text(m_texts, kPoints);
+    drawing.lines[0].name = text(m_texts, Text::Points);
     drawing.lines[1].points = {{0, *series.average}, {end, *series.average}};
     int sum = 0;
     for (const GameResult& result : results)
       sum += result.numbers.points();
     drawing.lines[1].name = m_texts.withPlaceholder(
-        kAverage, Module1::quotientText(sum, static_cast<std::int64_t>(results.size()), 1));
-    m_report.blocks.push_back(
-        ReportPicture{text(m_texts, kResultsByGame) + " – " + text(m_texts, kPoints), std::move(drawing)});
+        Text::Average, Module1::quotientText(sum, static_cast<std::int64_t>(results.size()), 1));
+    m_report.blocks.push_back(ReportPicture{
+        text(m_texts, Text::ResultsByGame) + " – " + text(m_texts, Text::Points), std::move(drawing)});
   }
 
   void addResults(const std::vector<GameResult>& results) {
@@ -483,7 +467,7 @@ class SeasonReportMaker {
     for (int column = kResultOpponentColumn + 1; column <= kResultColumnCount; ++column)
       columns.push_back(seasonColumnOfResult(column));
     ReportTable table = tableOf(std::move(begin), columns);
-    table.title = text(m_texts, kResultsByGame);
+    table.title = text(m_texts, Text::ResultsByGame);
     for (const GameResult& result : results) {
       const SeasonRow row = rowOfResult(result);
       ReportRow& line = table.rows.emplace_back();

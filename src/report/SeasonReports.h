@@ -32,7 +32,7 @@ enum class SeasonReport : std::uint8_t {
 struct SeasonReportName {
   SeasonReport report;
   std::string_view command; // key of the menu entry: "StLISTGAMES"
-  int text;                 // of the menu entry
+  Text text;                // of the menu entry
   std::string_view word;    // on the command line: "team-summary"
 };
 [[nodiscard]] std::span<const SeasonReportName> seasonReports();

@@ -1,6 +1,5 @@
 #include "report/TeamReports.h"
 
-#include "report/PrintTexts.h"
 #include "report/ReportWords.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
@@ -13,31 +12,19 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTeam = 1305;
-constexpr int kDate = 1550;
-constexpr int kHeight = 1320;
-constexpr int kWeight = 1321;
-constexpr int kAge = 1322;
-constexpr int kGrade = 1323;
-constexpr int kPlayers = 1824;
-constexpr int kMade = 1241;
-constexpr int kMissed = 1242;
-constexpr int kPreparedForms = 1399;
-constexpr int kBlankForms = 1400;
-
 // Rules of the team, as the team editor names them.
-constexpr std::pair<int, std::string TeamRecord::*> kRules[] = {
-    {1123, &TeamRecord::periods},
-    {1124, &TeamRecord::minutesPerPeriod},
-    {1125, &TeamRecord::bonus},
-    {1126, &TeamRecord::personalFoulLimit},
-    {1127, &TeamRecord::technicalFoulLimit},
+constexpr std::pair<Text, std::string TeamRecord::*> kRules[] = {
+    {Text::PeriodCount, &TeamRecord::periods},
+    {Text::MinutesPerPeriod, &TeamRecord::minutesPerPeriod},
+    {Text::BonusAfter, &TeamRecord::bonus},
+    {Text::FoulLimit, &TeamRecord::personalFoulLimit},
+    {Text::TechnicalLimit, &TeamRecord::technicalFoulLimit},
 };
 
 constexpr std::string_view kToWrite = "________________"; // a line for a pen
 
-std::string text(const Texts& texts, int number) {
-  return std::string(texts.text(number));
+std::string text(const Texts& texts, Text which) {
+  return std::string(texts.text(which));
 }
 
 // "LYNX – AAA", without what is empty.
@@ -51,7 +38,7 @@ Report reportOf(std::string title, std::string subject, const Texts& texts) {
   report.fileName = proposedFileName(subject.empty() ? title : subject + ' ' + title);
   report.title = std::move(title);
   report.subject = std::move(subject);
-  report.pageWords = text(texts, kPageOf);
+  report.pageWords = text(texts, Text::PageOf);
   return report;
 }
 
@@ -59,18 +46,18 @@ FormSheet sheetOf(FormIdentifier identifier, int sheets, const std::string& titl
   FormSheet sheet;
   sheet.identifier = identifier;
   sheet.title = title;
-  sheet.hint = text(texts, kFormHint);
-  sheet.made = text(texts, kMade);
-  sheet.missed = text(texts, kMissed);
-  sheet.sheet =
-      withPlaceholders(texts.text(kFormSheet), std::to_string(identifier.sheet + 1), std::to_string(sheets));
+  sheet.hint = text(texts, Text::FormHint);
+  sheet.made = text(texts, Text::MadeCapitals);
+  sheet.missed = text(texts, Text::MissCapitals);
+  sheet.sheet = withPlaceholders(texts.text(Text::FormSheet), std::to_string(identifier.sheet + 1),
+                                 std::to_string(sheets));
   return sheet;
 }
 
 } // namespace
 
 Report rosterReport(const TeamRecord& team, const std::vector<TeamPlayer>& players, const Texts& texts) {
-  Report report = reportOf(text(texts, kTeamRoster), nameOf(team), texts);
+  Report report = reportOf(text(texts, Text::TeamRoster), nameOf(team), texts);
   if (const std::string_view name = Module1::trimmed(team.name); !name.empty())
     report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading, std::string(name)});
   std::string words;
@@ -79,14 +66,14 @@ Report rosterReport(const TeamRecord& team, const std::vector<TeamPlayer>& playe
   report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, std::move(words)});
 
   ReportTable table;
-  table.title = texts.withPlaceholder(kPlayers, std::to_string(players.size()));
+  table.title = texts.withPlaceholder(Text::PlayerCount, std::to_string(players.size()));
   table.columns = {{"No", "No", {}, true, true},
-                   {text(texts, kPlayerName), "Name", {}, true, true},
+                   {text(texts, Text::PlayerName), "Name", {}, true, true},
                    {"Pos", "Position", {}, true},
-                   {text(texts, kHeight), "Height", {}, true},
-                   {text(texts, kWeight), "Weight", {}, true},
-                   {text(texts, kAge), "Age", {}, true},
-                   {text(texts, kGrade), "Grade", {}, true}};
+                   {text(texts, Text::Height), "Height", {}, true},
+                   {text(texts, Text::Weight), "Weight", {}, true},
+                   {text(texts, Text::Age), "Age", {}, true},
+                   {text(texts, Text::Grade), "Grade", {}, true}};
   for (const TeamPlayer& player : players) {
     const PlayerRecord& record = player.record;
     table.rows.push_back(
@@ -98,7 +85,7 @@ Report rosterReport(const TeamRecord& team, const std::vector<TeamPlayer>& playe
 }
 
 Report preparedForms(const TeamRecord& team, const std::vector<TeamPlayer>& players, const Texts& texts) {
-  Report report = reportOf(text(texts, kPreparedForms), nameOf(team), texts);
+  Report report = reportOf(text(texts, Text::PreparedForms), nameOf(team), texts);
   std::vector<const TeamPlayer*> able;
   for (const TeamPlayer& player : players) {
     if (isJersey(player.number) && able.size() < FormLayout::kPlayers * FormIdentifier::kMostSheets)
@@ -107,8 +94,8 @@ Report preparedForms(const TeamRecord& team, const std::vector<TeamPlayer>& play
   const int sheets =
       std::max(1, (static_cast<int>(able.size()) + FormLayout::kPlayers - 1) / FormLayout::kPlayers);
   const int number = FormIdentifier::teamNumber(team.abbreviation, Module1::trimmed(team.category));
-  const std::string title = text(texts, kInputForm) + "  " + nameOf(team);
-  const std::string blanks = labelled(kDate, kToWrite, texts);
+  const std::string title = text(texts, Text::InputForm) + "  " + nameOf(team);
+  const std::string blanks = labelled(Text::Date, kToWrite, texts);
   for (int sheet = 0; sheet < sheets; ++sheet) {
     FormSheet page = sheetOf({sheet, true, number}, sheets, title, texts);
     page.blanks = blanks;
@@ -125,10 +112,11 @@ Report preparedForms(const TeamRecord& team, const std::vector<TeamPlayer>& play
 }
 
 Report blankForms(const Texts& texts) {
-  Report report = reportOf(text(texts, kBlankForms), {}, texts);
-  const std::string blanks = labelled(kTeam, kToWrite, texts) + "  " + labelled(kDate, kToWrite, texts);
+  Report report = reportOf(text(texts, Text::BlankForms), {}, texts);
+  const std::string blanks =
+      labelled(Text::Team, kToWrite, texts) + "  " + labelled(Text::Date, kToWrite, texts);
   for (int sheet = 0; sheet < FormLayout::kSheets; ++sheet) {
-    FormSheet page = sheetOf({sheet, false, 0}, FormLayout::kSheets, text(texts, kInputForm), texts);
+    FormSheet page = sheetOf({sheet, false, 0}, FormLayout::kSheets, text(texts, Text::InputForm), texts);
     page.blanks = blanks;
     report.blocks.push_back(std::move(page));
   }

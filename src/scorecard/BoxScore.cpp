@@ -32,34 +32,27 @@ struct Content {
   Counter counter = Counter::FGM; // Count: which; KindPercent and KindPoints: the kind's made counter
 };
 
-constexpr int kTextName = 1023;
-constexpr int kTextTime = 1024;
-constexpr int kTextRating = 1025;
-constexpr int kTextTotal = 1070;
-constexpr int kTextOthers = 1502;
-constexpr int kTextOtherLines = 1503;
-
 constexpr int kNarrow = 1058;
 constexpr int kPercentWidth = 1499;
 constexpr int kPointsWidth = 1147;
 
 constexpr BoxColumn count(int index, std::string_view name) {
-  return {index, name, 0, kNarrow, false, false, name};
+  return {index, name, Text::None, kNarrow, false, false, name};
 }
 constexpr BoxColumn pair(int index, std::string_view name) {
-  return {index, name, 0, kNarrow, false, true, name};
+  return {index, name, Text::None, kNarrow, false, true, name};
 }
 constexpr BoxColumn percent(int index, std::string_view name) {
-  return {index, name, 0, kPercentWidth, false, false, name};
+  return {index, name, Text::None, kPercentWidth, false, false, name};
 }
 constexpr BoxColumn points(int index, std::string_view name) {
-  return {index, "PTS", 0, kPointsWidth, false, false, name};
+  return {index, "PTS", Text::None, kPointsWidth, false, false, name};
 }
 
 constexpr std::array<BoxColumn, kBoxColumnCount> kColumns = {{
-    {1, "No", 0, kNarrow, true, false, "No"},
-    {2, "Nom", kTextName, 3528, true, false, "Name"},
-    {3, "Temps", kTextTime, 1587, false, false, "Time"},
+    {1, "No", Text::None, kNarrow, true, false, "No"},
+    {2, "Nom", Text::PlayerName, 3528, true, false, "Name"},
+    {3, "Temps", Text::Time, 1587, false, false, "Time"},
     count(4, "PF"),
     pair(5, "M"),
     pair(6, "A"),
@@ -89,8 +82,8 @@ constexpr std::array<BoxColumn, kBoxColumnCount> kColumns = {{
     count(30, "DR"),
     count(31, "S1"),
     count(32, "S2"),
-    {33, "TempsInv", 0, 0, false, false, "seconds"},
-    {34, "Eff", kTextRating, 1235, false, false, "rating"},
+    {33, "TempsInv", Text::None, 0, false, false, "seconds"},
+    {34, "Eff", Text::Rating, 1235, false, false, "rating"},
     pair(35, "LRM"),
     pair(36, "LRA"),
     percent(37, "LR%"),
@@ -99,7 +92,7 @@ constexpr std::array<BoxColumn, kBoxColumnCount> kColumns = {{
     pair(40, "PBA"),
     percent(41, "PB%"),
     points(42, "PBPTS"),
-    {43, "Pos", 0, 1764, false, false, "Pos"},
+    {43, "Pos", Text::None, 1764, false, false, "Pos"},
     pair(44, "DKM"),
     pair(45, "DKA"),
     percent(46, "DK%"),
@@ -228,7 +221,7 @@ class Rows {
   }
   std::vector<BoxRow> withTotal(const Texts& texts) && {
     m_rows.push_back(
-        {BoxRowKind::Total, -1, {}, std::string(texts.text(kTextTotal)), kPositionWithoutName, m_total});
+        {BoxRowKind::Total, -1, {}, std::string(texts.text(Text::Total)), kPositionWithoutName, m_total});
     return std::move(m_rows);
   }
 
@@ -292,7 +285,7 @@ std::vector<BoxRow> boxRows(const Game& game, const GameState& state, int team, 
             players[static_cast<std::size_t>(i)], true);
     }
     rows.add(
-        {BoxRowKind::OtherPlayers, 0, {}, std::string(texts.text(kTextOthers)), kPositionWithoutName, {}},
+        {BoxRowKind::OtherPlayers, 0, {}, std::string(texts.text(Text::Others)), kPositionWithoutName, {}},
         players[0], players[0].counters.hasAny());
   } else {
     for (int i = 1; i <= state.usedLines[side]; ++i) {
@@ -302,7 +295,7 @@ std::vector<BoxRow> boxRows(const Game& game, const GameState& state, int team, 
           line, line.seconds > 0 || line.counters.hasAny());
     }
     rows.add(
-        {BoxRowKind::OtherLines, 0, {}, std::string(texts.text(kTextOtherLines)), kPositionWithoutName, {}},
+        {BoxRowKind::OtherLines, 0, {}, std::string(texts.text(Text::OtherLines)), kPositionWithoutName, {}},
         lines[0], lines[0].counters.hasAny());
   }
   return std::move(rows).withTotal(texts);

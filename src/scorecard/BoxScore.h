@@ -79,8 +79,8 @@ enum class BoxView : std::uint8_t { Players, Lines };
 // The 48 columns, by creation index 1..48.
 struct BoxColumn {
   int index;               // 1..48
-  std::string_view header; // short, the same in both languages, where headerText is 0
-  int headerText;          // 1023, 1024, 1025 or 0
+  std::string_view header; // short, the same in both languages, where headerText is none
+  Text headerText;         // none for most
   int widthTwips;          // 0: hidden
   bool isLeftAligned;
   bool isMadeOrAttempted; // hidden by "Statistics without Made and Attempt"

@@ -18,10 +18,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kCheckOfGame = 2699;
-constexpr int kShow = 2700;
-constexpr int kFindings = 2701;
-constexpr int kMore = 2696;
 constexpr int kGap = 6;
 constexpr int kShownRows = 6;
 constexpr std::size_t kMostOfAKind = 50;
@@ -37,12 +33,12 @@ CheckStrip::CheckStrip(const Texts& texts, QWidget* parent)
   m_show->setObjectName(QStringLiteral("cmdCHECK"));
   m_show->setCheckable(true);
   m_show->setToolButtonStyle(Qt::ToolButtonTextOnly);
-  setTextNumber(*m_show, kShow);
-  setToolTipNumber(*m_show, kFindings);
+  setTextNumber(*m_show, Text::ShowFindings);
+  setToolTipNumber(*m_show, Text::Findings);
   m_list->setObjectName(QStringLiteral("lvwCHECK"));
   m_list->setTabKeyNavigation(false);
   m_list->hide();
-  setAccessibleNumber(*m_list, kFindings);
+  setAccessibleNumber(*m_list, Text::Findings);
 
   auto* line = new QHBoxLayout;
   line->setSpacing(kGap);
@@ -75,7 +71,8 @@ void CheckStrip::showFindings(const Scorecard& card) {
               (clock.empty() ? QStringLiteral("--:--") : toQt(clock)) + QStringLiteral("   ") + words;
     }
     if (more > 0)
-      words += QStringLiteral(" (") + toQt(m_texts.withPlaceholder(kMore, std::to_string(more))) + u')';
+      words += QStringLiteral(" (") +
+               toQt(m_texts.withPlaceholder(Text::MoreOfThisKind, std::to_string(more))) + u')';
     auto* item = new QListWidgetItem(words, m_list);
     item->setToolTip(words);
     if (finding.isWrong())
@@ -84,7 +81,7 @@ void CheckStrip::showFindings(const Scorecard& card) {
       item->setData(kEventRole, QVariant::fromValue(static_cast<qulonglong>(finding.event)));
   }
   m_list->setCurrentRow(std::min(current, m_list->count() - 1));
-  m_counts->setText(toQt(m_texts.withPlaceholder(kCheckOfGame, countsText(summary, m_texts))));
+  m_counts->setText(toQt(m_texts.withPlaceholder(Text::CheckOfGame, countsText(summary, m_texts))));
   open(m_show->isChecked());
   setVisible(m_list->count() > 0);
 }

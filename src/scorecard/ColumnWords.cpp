@@ -2,7 +2,6 @@
 
 #include "game/Glossary.h"
 #include "scorecard/BoxScore.h"
-#include "scorecard/ScorecardTexts.h"
 
 #include <algorithm>
 #include <optional>
@@ -13,14 +12,14 @@ namespace {
 
 struct NamedText {
   std::string_view column;
-  int text;
+  Text text;
 };
 // What a group of shot columns holds, by the end of the column's name.
 constexpr NamedText kShotColumns[] = {
-    {"M", kMadeOf},
-    {"A", kAttemptsOf},
-    {"%", kPercentageOf},
-    {"PTS", kPointsOf},
+    {"M", Text::MadeOf},
+    {"A", Text::AttemptsOf},
+    {"%", Text::PercentageOf},
+    {"PTS", Text::PointsOf},
 };
 
 std::optional<std::string> shotWords(std::string_view ending, std::string_view kind, const Texts& texts) {
@@ -35,7 +34,8 @@ std::string ownStatistic(std::size_t index, const std::string (&gameLabels)[2], 
   std::string label = Settings::shownLabel(gameLabels[index]);
   if (label.empty())
     label = Settings::shownLabel(settings.statisticLabel[index]);
-  std::string words = texts.withPlaceholder(index == 0 ? kFirstOwnStatistic : kSecondOwnStatistic, label);
+  std::string words =
+      texts.withPlaceholder(index == 0 ? Text::FirstOwnStatistic : Text::SecondOwnStatistic, label);
   if (label.empty())
     words.resize(words.find_last_not_of(" :") + 1); // nothing stands behind the colon
   return words;
@@ -50,7 +50,7 @@ std::string columnWords(int column, const std::string (&gameLabels)[2], const Se
     return ownStatistic(0, gameLabels, settings, texts);
   if (name == "S2")
     return ownStatistic(1, gameLabels, settings, texts);
-  if (const int words = termWords(name); words != 0)
+  if (const Text words = termWords(name); words != Text::None)
     return std::string(texts.text(words));
   for (const EventKind& kind : eventKinds()) {
     if (kind.isShot && name.starts_with(kind.shortName)) {
@@ -58,7 +58,7 @@ std::string columnWords(int column, const std::string (&gameLabels)[2], const Se
         return *words;
     }
   }
-  return shotWords(name, texts.text(kAllShots), texts).value_or(std::string(name));
+  return shotWords(name, texts.text(Text::AllShots), texts).value_or(std::string(name));
 }
 
 } // namespace hooptab

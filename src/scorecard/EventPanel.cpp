@@ -3,7 +3,6 @@
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "scorecard/BoxHeader.h"
-#include "scorecard/ScorecardTexts.h"
 
 #include <QBoxLayout>
 #include <QIcon>
@@ -28,13 +27,13 @@ EventPanel::EventPanel(const Texts& texts, QWidget* parent)
   m_search->setObjectName(QStringLiteral("txtSEARCH"));
   m_search->setClearButtonEnabled(true);
   m_search->setFixedWidth(kSearchWidth);
-  setAccessibleNumber(*m_search, kSearchEvents);
+  setAccessibleNumber(*m_search, Text::SearchEvents);
 
   m_found.setSourceModel(&m_model);
   m_found.setFilterKeyColumn(EventListModel::Action);
   m_found.setFilterCaseSensitivity(Qt::CaseInsensitive);
   m_list->setObjectName(QStringLiteral("lvwEVENT"));
-  setAccessibleNumber(*m_list, kEvents);
+  setAccessibleNumber(*m_list, Text::Events);
   m_list->setModel(&m_found);
   m_list->setHorizontalHeader(new BoxHeader(m_list));
   m_list->horizontalHeader()->setSectionsClickable(false);

@@ -2,7 +2,6 @@
 
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
-#include "scorecard/ScorecardTexts.h"
 #include "settings/ChoiceTexts.h"
 
 #include <QGridLayout>
@@ -32,24 +31,24 @@ GameDetailsPanel::GameDetailsPanel(QWidget* parent) : QWidget(parent), m_layout(
   m_layout->setContentsMargins(10, 8, 10, 8);
   m_layout->setVerticalSpacing(2);
   m_layout->setHorizontalSpacing(8);
-  m_date = addField("txtDATE", kGameDate, 0, 0);
-  m_type = addField("txtTYPEPARTIE", 1122, 1, 0);
-  m_place = addField("txtENDROIT", 1016, 2, 0);
-  m_statistician = addField("txtSAISIEPAR", 1069, 3, 0);
-  m_periods = addField("txtNBPER", 1123, 0, 3);
-  m_minutes = addField("txtMINPER", 1124, 1, 3);
-  m_bonus = addField("txtBONUSAPRES", 1125, 2, 3);
-  m_personalFouls = addField("txtPFMAX", 1126, 3, 3);
-  m_technicalFouls = addField("txtTFMAX", 1127, 4, 3);
+  m_date = addField("txtDATE", Text::Date, 0, 0);
+  m_type = addField("txtTYPEPARTIE", Text::GameType, 1, 0);
+  m_place = addField("txtENDROIT", Text::Location, 2, 0);
+  m_statistician = addField("txtSAISIEPAR", Text::Statistician, 3, 0);
+  m_periods = addField("txtNBPER", Text::PeriodCount, 0, 3);
+  m_minutes = addField("txtMINPER", Text::MinutesPerPeriod, 1, 3);
+  m_bonus = addField("txtBONUSAPRES", Text::BonusAfter, 2, 3);
+  m_personalFouls = addField("txtPFMAX", Text::FoulLimit, 3, 3);
+  m_technicalFouls = addField("txtTFMAX", Text::TechnicalLimit, 4, 3);
 
   auto* caption = new PlainLabel(this);
   caption->setForegroundRole(QPalette::PlaceholderText);
-  setTextNumber(*caption, kGameNotes);
+  setTextNumber(*caption, Text::GameNotes);
   m_notes = new QPlainTextEdit(this);
   m_notes->setObjectName(QStringLiteral("txtNOTES"));
   m_notes->setReadOnly(true);
   m_notes->setTabChangesFocus(true);
-  setAccessibleNumber(*m_notes, kGameNotes);
+  setAccessibleNumber(*m_notes, Text::GameNotes);
   caption->setBuddy(m_notes);
   m_layout->addWidget(caption, 0, 6);
   m_layout->addWidget(m_notes, 1, 6, 5, 1);
@@ -61,7 +60,7 @@ GameDetailsPanel::GameDetailsPanel(QWidget* parent) : QWidget(parent), m_layout(
   m_layout->setRowStretch(5, 1);
 }
 
-QLineEdit* GameDetailsPanel::addField(const char* name, int text, int row, int column) {
+QLineEdit* GameDetailsPanel::addField(const char* name, Text text, int row, int column) {
   auto* label = new PlainLabel(this);
   label->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*label, text);
@@ -78,7 +77,7 @@ QLineEdit* GameDetailsPanel::addField(const char* name, int text, int row, int c
 }
 
 void GameDetailsPanel::showDetails(const GameDetails& details, const Texts& texts) {
-  setField(*m_type, caption(texts, kFirstGameTypeText + gameTypeOf(details.type)));
+  setField(*m_type, caption(texts, textBehind(kFirstGameTypeText, gameTypeOf(details.type))));
   setField(*m_date, toQt(details.date));
   setField(*m_place, toQt(details.place));
   setField(*m_statistician, toQt(details.statistician));

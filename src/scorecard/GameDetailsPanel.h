@@ -21,7 +21,7 @@ class GameDetailsPanel : public QWidget {
   void showDetails(const GameDetails& details, const Texts& texts);
 
  private:
-  QLineEdit* addField(const char* name, int text, int row, int column);
+  QLineEdit* addField(const char* name, Text text, int row, int column);
 
   QGridLayout* m_layout;
   QLineEdit* m_type;

@@ -4,7 +4,6 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "scorecard/ScorecardTexts.h"
 
 #include <QGridLayout>
 
@@ -19,14 +18,14 @@ constexpr std::array<int, 3> kOrder = {0, kTied, 1}; // the tie between the two 
 
 LeadGrid::LeadGrid(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("lead"));
-  setToolTipNumber(*this, kTimeInLeadHint);
+  setToolTipNumber(*this, Text::TimeInLeadHint);
   auto* layout = new QGridLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setHorizontalSpacing(10);
   layout->setVerticalSpacing(0);
   auto* title = new PlainLabel(this);
   title->setForegroundRole(QPalette::PlaceholderText);
-  setTextNumber(*title, kTimeInLead);
+  setTextNumber(*title, Text::TimeInLead);
   layout->addWidget(title, 0, 0, 1, -1);
   for (std::size_t place = 0; place < kOrder.size(); ++place) {
     const int state = kOrder[place];
@@ -49,7 +48,8 @@ LeadGrid::LeadGrid(QWidget* parent) : QWidget(parent) {
 void LeadGrid::showLead(const Scoreboard& board, const Texts& texts) {
   for (std::size_t state = 0; state < m_rows.size(); ++state) {
     const bool isTied = state == static_cast<std::size_t>(kTied);
-    m_rows[state].name->setText(isTied ? caption(texts, 1021) : toQt(board.teams[state].abbreviation));
+    m_rows[state].name->setText(isTied ? caption(texts, Text::LeadTied)
+                                       : toQt(board.teams[state].abbreviation));
     m_rows[state].time->setText(board.hasTime ? toQt(board.leads[state].time) : QStringLiteral("--:--"));
     m_rows[state].times->setText(u'×' + QString::number(board.leads[state].times));
   }

@@ -18,7 +18,7 @@ constexpr int kMostPeriods = static_cast<int>(GameState::kPeriodRows) - 1;
 
 } // namespace
 
-PeriodGrid::PeriodGrid(Content content, const QString& name, int title, QWidget* parent)
+PeriodGrid::PeriodGrid(Content content, const QString& name, Text title, QWidget* parent)
     : QWidget(parent), m_content(content) {
   setObjectName(name);
   auto* layout = new QGridLayout(this);

@@ -5,7 +5,6 @@
 #include "appearance/relabel.h"
 #include "scorecard/LeadGrid.h"
 #include "scorecard/PeriodGrid.h"
-#include "scorecard/ScorecardTexts.h"
 #include "scorecard/TeamPlate.h"
 
 #include <QBoxLayout>
@@ -22,17 +21,17 @@ constexpr int kGap = 18;
 } // namespace
 
 ScoreboardStrip::ScoreboardStrip(QWidget* parent)
-    : QWidget(parent), m_plates{new TeamPlate(0, 1027, this), new TeamPlate(1, 1028, this)},
+    : QWidget(parent), m_plates{new TeamPlate(0, Text::Visitor, this), new TeamPlate(1, Text::Home, this)},
       m_clock(new PlainLabel(this)), m_period(new PlainLabel(this)), m_status(new PlainLabel(this)),
-      m_points(
-          new PeriodGrid(PeriodGrid::Content::Points, QStringLiteral("lblPOINTS"), kPointsByPeriod, this)),
-      m_fouls(new PeriodGrid(PeriodGrid::Content::Fouls, QStringLiteral("lblFOULS"), kTeamFouls, this)),
+      m_points(new PeriodGrid(PeriodGrid::Content::Points, QStringLiteral("lblPOINTS"), Text::PointsByPeriod,
+                              this)),
+      m_fouls(new PeriodGrid(PeriodGrid::Content::Fouls, QStringLiteral("lblFOULS"), Text::TeamFouls, this)),
       m_lead(new LeadGrid(this)) {
   m_clock->setObjectName(QStringLiteral("lbltemps"));
   Theme::setType(*m_clock, Type::Points);
   m_clock->setText(QStringLiteral("00:00"));
-  setToolTipNumber(*m_clock, kLastClock);
-  setToolTipNumber(*m_fouls, kTeamFoulsHint);
+  setToolTipNumber(*m_clock, Text::LastClock);
+  setToolTipNumber(*m_fouls, Text::TeamFoulsHint);
   m_period->setObjectName(QStringLiteral("lblPERIODE"));
   m_status->setObjectName(QStringLiteral("lblSTATUS"));
   m_status->setForegroundRole(QPalette::PlaceholderText);
@@ -67,8 +66,8 @@ void ScoreboardStrip::showBoard(const Scoreboard& board, const Texts& texts) {
   for (std::size_t team = 0; team < 2; ++team)
     m_plates[team]->showTeam(board.teams[team]);
   m_clock->setText(toQt(board.clock));
-  m_period->setText(toQt(texts.withPlaceholder(kPeriodNumber, board.period)));
-  m_status->setText(caption(texts, board.isFinished ? kFinished : kInProgress));
+  m_period->setText(toQt(texts.withPlaceholder(Text::PeriodNumber, board.period)));
+  m_status->setText(caption(texts, board.isFinished ? Text::Final : Text::InProgress));
   m_points->showPeriods(board);
   m_fouls->showPeriods(board);
   m_lead->showLead(board, texts);

@@ -7,8 +7,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSelected = 1014;
-
 void add(BoxNumbers& sum, const BoxNumbers& numbers) {
   using Limits = std::numeric_limits<std::int16_t>;
   for (std::size_t i = 0; i < kCounterCount; ++i) {
@@ -108,7 +106,7 @@ void ScorecardView::fill() {
     }
   }
   m_rows.back().numbers = sum;
-  m_rows.back().name = std::string(m_texts.text(kSelected)) + " (" + std::to_string(selected) + ')';
+  m_rows.back().name = std::string(m_texts.text(Text::Selected)) + " (" + std::to_string(selected) + ')';
 }
 
 ShotSummary shotSummary(const std::vector<Shot>& shots) {

@@ -7,7 +7,6 @@
 #include "court/CourtColourChoice.h"
 #include "court/CourtView.h"
 #include "game/Glossary.h"
-#include "scorecard/ScorecardTexts.h"
 #include "settings/Settings.h"
 #include "storage/Module1.h"
 
@@ -43,14 +42,14 @@ ShotChartPanel::ShotChartPanel(const Settings& settings, const Texts& texts, QWi
       m_all(addChoice("cmdALL", false)), m_byShot(addChoice("cmdBYSHOT", true)),
       m_byZone(addChoice("cmdBYZONE", false)), m_court(new CourtView(this)), m_numbers(new PlainLabel(this)),
       m_withoutPlace(new PlainLabel(this)) {
-  setTextNumber(*m_checked, 1014);
-  setToolTipNumber(*m_checked, 1333);
-  setTextNumber(*m_all, 1015);
-  setToolTipNumber(*m_all, 1334);
-  setTextNumber(*m_byShot, kByShot);
-  setTextNumber(*m_byZone, kByZone);
-  setToolTipNumber(*m_byShot, 1410);
-  setToolTipNumber(*m_byZone, 1410);
+  setTextNumber(*m_checked, Text::Selected);
+  setToolTipNumber(*m_checked, Text::ShowSelectedPlayers);
+  setTextNumber(*m_all, Text::All);
+  setToolTipNumber(*m_all, Text::ShowAllPlayers);
+  setTextNumber(*m_byShot, Text::ByShot);
+  setTextNumber(*m_byZone, Text::ByZone);
+  setToolTipNumber(*m_byShot, Text::ShotOrZone);
+  setToolTipNumber(*m_byZone, Text::ShotOrZone);
   auto* scope = new QButtonGroup(this);
   scope->addButton(m_checked);
   scope->addButton(m_all);
@@ -59,7 +58,7 @@ ShotChartPanel::ShotChartPanel(const Settings& settings, const Texts& texts, QWi
   kind->addButton(m_byZone);
 
   m_court->setObjectName(QStringLiteral("courtstat"));
-  setAccessibleNumber(*m_court, kShotChart);
+  setAccessibleNumber(*m_court, Text::ShotChart);
   m_court->setMinimumSize(160, 160);
   m_court->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   m_court->installEventFilter(this);
@@ -160,7 +159,7 @@ void ShotChartPanel::showZones() {
   }
   m_court->setZones(std::move(zones));
   m_withoutPlace->setVisible(sums.withoutPlace.attempted > 0);
-  m_withoutPlace->setText(fraction(sums.withoutPlace) + u' ' + caption(m_texts, kWithoutPlace));
+  m_withoutPlace->setText(fraction(sums.withoutPlace) + u' ' + caption(m_texts, Text::WithoutPlace));
 }
 
 void ShotChartPanel::showNumbers() {
@@ -172,9 +171,9 @@ void ShotChartPanel::showNumbers() {
         .arg(name, fraction(sum), toQt(Module1::percentText(sum.made, sum.attempted)));
   };
   const QString gap = QStringLiteral(" &nbsp; ");
-  m_numbers->setText(coloured(QStringLiteral("●"), Theme::made()) + u' ' + caption(m_texts, kMadeShots) +
+  m_numbers->setText(coloured(QStringLiteral("●"), Theme::made()) + u' ' + caption(m_texts, Text::Made) +
                      u' ' + QString::number(made) + gap + coloured(QStringLiteral("✕"), Theme::missed()) +
-                     u' ' + caption(m_texts, kMissedShots) + u' ' + QString::number(missed) +
+                     u' ' + caption(m_texts, Text::Missed) + u' ' + QString::number(missed) +
                      QStringLiteral("<br>") + line(toQt(kTwoPointers), summary.twoPoints) + gap +
                      line(toQt(kThreePointers), summary.threePoints));
 }

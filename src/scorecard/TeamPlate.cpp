@@ -9,7 +9,7 @@
 
 namespace hooptab {
 
-TeamPlate::TeamPlate(int team, int side, QWidget* parent)
+TeamPlate::TeamPlate(int team, Text side, QWidget* parent)
     : QWidget(parent), m_side(new PlainLabel(this)), m_name(new ElidedLabel(this)),
       m_abbreviation(new ElidedLabel(this)), m_score(new PlainLabel(this)) {
   setObjectName(QStringLiteral("plate(%1)").arg(team));

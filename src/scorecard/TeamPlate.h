@@ -15,8 +15,8 @@ class TeamPlate : public QWidget {
   Q_OBJECT
 
  public:
-  // `side` is the number of the text that says which side it is.
-  TeamPlate(int team, int side, QWidget* parent = nullptr);
+  // `side` says which side it is.
+  TeamPlate(int team, Text side, QWidget* parent = nullptr);
 
   void showTeam(const Scoreboard::Team& team);
 

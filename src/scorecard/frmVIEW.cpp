@@ -13,7 +13,6 @@
 #include "scorecard/GameDetailsPanel.h"
 #include "scorecard/Scoreboard.h"
 #include "scorecard/ScoreboardStrip.h"
-#include "scorecard/ScorecardTexts.h"
 #include "scorecard/ShotChartPanel.h"
 #include "settings/Settings.h"
 #include "storage/Placeholders.h"
@@ -42,8 +41,6 @@ constexpr int kChartShare = 320;
 constexpr int kTableShare = 65;
 constexpr int kEventShare = 35;
 constexpr int kTeamWidth = 280;
-constexpr int kByPlayer = 1071;
-constexpr int kByLine = 1072;
 
 } // namespace
 
@@ -90,7 +87,8 @@ frmVIEW::frmVIEW(cinifile& store, const Settings& settings, const Texts& texts, 
     m_events->choose(event);
   });
   connect(m_events, &EventPanel::eventChosen, m_chart, &ShotChartPanel::highlight);
-  connect(m_events, &EventPanel::copied, this, [this] { emit reported(caption(m_texts, kTableCopied)); });
+  connect(m_events, &EventPanel::copied, this,
+          [this] { emit reported(caption(m_texts, Text::TableCopied)); });
   relabelWindow();
 }
 
@@ -102,17 +100,17 @@ QWidget* frmVIEW::makeTables() {
   m_team->setObjectName(QStringLiteral("cmbTEAM"));
   m_team->setMinimumWidth(kTeamWidth);
   m_team->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  setAccessibleNumber(*m_team, kShownTeam);
-  setToolTipNumber(*m_team, kShownTeam);
+  setAccessibleNumber(*m_team, Text::ShownTeam);
+  setToolTipNumber(*m_team, Text::ShownTeam);
   auto* copy = new QToolButton(panel);
   copy->setObjectName(QStringLiteral("cmdCOPY"));
   copy->setIcon(icon(QStringLiteral("copy")));
-  setToolTipNumber(*copy, kCopyTable);
-  setAccessibleNumber(*copy, kCopyTable);
+  setToolTipNumber(*copy, Text::CopyTable);
+  setAccessibleNumber(*copy, Text::CopyTable);
   m_kind = new PlainLabel(panel);
   m_kind->setObjectName(QStringLiteral("lblVIEW"));
   m_kind->setForegroundRole(QPalette::PlaceholderText);
-  setTextNumber(*m_kind, kByPlayer);
+  setTextNumber(*m_kind, Text::SummaryByPlayer);
   m_stack = new QStackedWidget(panel);
   for (std::size_t i = 0; i < m_tables.size(); ++i) {
     m_tables[i] = new BoxTable(QStringLiteral("lvwSTAT(%1)").arg(i), m_stack);
@@ -122,10 +120,11 @@ QWidget* frmVIEW::makeTables() {
       showTable();
       showChart();
     });
-    connect(m_tables[i], &BoxTable::copied, this, [this] { emit reported(caption(m_texts, kTableCopied)); });
+    connect(m_tables[i], &BoxTable::copied, this,
+            [this] { emit reported(caption(m_texts, Text::TableCopied)); });
   }
-  setAccessibleNumber(*m_tables[0], kByPlayer);
-  setAccessibleNumber(*m_tables[1], kByLine);
+  setAccessibleNumber(*m_tables[0], Text::SummaryByPlayer);
+  setAccessibleNumber(*m_tables[1], Text::ByLine);
 
   auto* head = new QHBoxLayout;
   head->addWidget(m_team);
@@ -145,7 +144,7 @@ QWidget* frmVIEW::makeTables() {
   });
   connect(copy, &QToolButton::clicked, this, [this] {
     copyTable(table());
-    emit reported(caption(m_texts, kTableCopied));
+    emit reported(caption(m_texts, Text::TableCopied));
   });
   return panel;
 }
@@ -194,7 +193,7 @@ void frmVIEW::refresh() {
   readAgain();
   if (m_problem == GameFileProblem::None)
     emit reported(toQt(m_texts.withPlaceholder(
-        kLastRefresh, fromQt(QTime::currentTime().toString(QStringLiteral("hh:mm:ss"))))));
+        Text::LastRefresh, fromQt(QTime::currentTime().toString(QStringLiteral("hh:mm:ss"))))));
 }
 
 void frmVIEW::refreshOnTimer() {
@@ -226,7 +225,7 @@ void frmVIEW::setByLine(bool byLine) {
     return;
   m_view.setView(byLine ? BoxView::Lines : BoxView::Players);
   m_stack->setCurrentWidget(&table());
-  setTextNumber(*m_kind, byLine ? kByLine : kByPlayer);
+  setTextNumber(*m_kind, byLine ? Text::ByLine : Text::SummaryByPlayer);
   relabel(*m_kind, m_texts);
   showTable();
   showChart();
@@ -243,15 +242,15 @@ void frmVIEW::setHidesMadeAttempted(bool hides) {
 
 void frmVIEW::relabelWindow() {
   relabel(*this, m_texts);
-  m_tabs->setTabText(0, caption(m_texts, kEvents));
-  m_tabs->setTabText(1, caption(m_texts, kGameDetails));
-  m_events->searchField().setPlaceholderText(caption(m_texts, kSearchEvents));
+  m_tabs->setTabText(0, caption(m_texts, Text::Events));
+  m_tabs->setTabText(1, caption(m_texts, Text::GameDetails));
+  m_events->searchField().setPlaceholderText(caption(m_texts, Text::SearchEvents));
   m_events->relabel();
   showHeaders();
   if (m_card != nullptr)
     showGame(false);
   else
-    setWindowTitle(caption(m_texts, 1029));
+    setWindowTitle(caption(m_texts, Text::ViewGameScorecard));
 }
 
 void frmVIEW::applyColours() {
@@ -329,10 +328,10 @@ void frmVIEW::showHeaders() {
   static const std::string kNoLabels[2];
   const auto& labels = m_card == nullptr ? kNoLabels : m_card->game().details.statisticLabel;
   for (const BoxColumn& column : boxColumns()) {
-    headers << (column.headerText > 0 ? caption(m_texts, column.headerText) : toQt(column.header));
+    headers << (column.headerText != Text::None ? caption(m_texts, column.headerText) : toQt(column.header));
     toolTips << toQt(columnWords(column.index, labels, m_settings, m_texts));
   }
-  toolTips.first() += u'\n' + caption(m_texts, kCheckHint);
+  toolTips.first() += u'\n' + caption(m_texts, Text::CheckHint);
   for (BoxTable* each : m_tables)
     each->relabel(headers, toolTips);
 }
@@ -342,10 +341,10 @@ void frmVIEW::showNotice() {
   const std::string file = fromQt(QFileInfo(path()).fileName());
   if (m_problem != GameFileProblem::None) {
     notice = toQt(m_texts.withPlaceholder(
-        m_problem == GameFileProblem::Absent ? kFileIsGone : kFileCannotBeRead, file));
+        m_problem == GameFileProblem::Absent ? Text::FileIsGone : Text::FileCannotBeReadNow, file));
   } else if (m_card != nullptr && m_card->outOfRange()) {
     const CountOutOfRange& count = *m_card->outOfRange();
-    notice = toQt(withPlaceholders(m_texts.text(kCountOutOfRange), file,
+    notice = toQt(withPlaceholders(m_texts.text(Text::CountOutOfRange), file,
                                    m_card->game().details.abbreviation[count.team] + ' ' + count.what));
   }
   m_notice->setText(notice);

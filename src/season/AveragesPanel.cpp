@@ -3,7 +3,6 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "season/SeasonTables.h"
-#include "season/SeasonTexts.h"
 #include "season/ViewSwitch.h"
 #include "settings/CountWords.h"
 
@@ -18,7 +17,7 @@ AveragesPanel::AveragesPanel(SeasonTable kind, const Settings& settings, const T
       m_scope(new PlainLabel(this)), m_warning(new PlainLabel(this)), m_stack(new QStackedWidget(this)) {
   constexpr int kFrozen = 2; // number and name
   auto* title = new PlainLabel(this);
-  setTextNumber(*title, kind == SeasonTable::Lines ? kLineTitle : kPlayerTitle);
+  setTextNumber(*title, kind == SeasonTable::Lines ? Text::LineStatistics : Text::PlayerTitle);
   QFont bold = title->font();
   bold.setBold(true);
   title->setFont(bold);
@@ -30,7 +29,7 @@ AveragesPanel::AveragesPanel(SeasonTable kind, const Settings& settings, const T
     const QString name = kind == SeasonTable::Lines ? QStringLiteral("lvwSTATlignes(%1)")
                                                     : QStringLiteral("lvwSTATjoueurs(%1)");
     m_tables[i] = new SeasonTableView(name.arg(i), kFrozen, m_stack);
-    setAccessibleNumber(*m_tables[i], kind == SeasonTable::Lines ? kLineTitle : kPlayerTitle);
+    setAccessibleNumber(*m_tables[i], kind == SeasonTable::Lines ? Text::LineStatistics : Text::PlayerTitle);
     m_stack->addWidget(m_tables[i]);
     connect(m_tables[i], &SeasonTableView::rowAsked, this, [this](int row) {
       const SeasonStatistics& statistics = m_season->statistics();
@@ -79,10 +78,11 @@ void AveragesPanel::showColumns() {
 
 void AveragesPanel::relabelPanel() {
   showColumns();
-  constexpr int kViews[] = {kTotals, kPerGame, kPerMinute, kPerForty};
+  constexpr Text kViews[] = {Text::Totals, Text::PerGame, Text::PerMinute, Text::PerForty};
   for (std::size_t i = 0; i < m_tables.size(); ++i)
-    setExportTitle(*m_tables[i], caption(m_texts, m_kind == SeasonTable::Lines ? kLineTitle : kPlayerTitle) +
-                                     QStringLiteral(" – ") + caption(m_texts, kViews[i]));
+    setExportTitle(*m_tables[i],
+                   caption(m_texts, m_kind == SeasonTable::Lines ? Text::LineStatistics : Text::PlayerTitle) +
+                       QStringLiteral(" – ") + caption(m_texts, kViews[i]));
   showTexts();
 }
 
@@ -95,9 +95,9 @@ void AveragesPanel::showView(SeasonView view) {
 }
 
 void AveragesPanel::showTexts() {
-  m_scope->setText(m_season == nullptr ? caption(m_texts, kNotGenerated)
-                                       : toQt(countWords(m_season->statistics().games().size(), kOfOneGame,
-                                                         kOfGames, m_texts)));
+  m_scope->setText(m_season == nullptr ? caption(m_texts, Text::NotGenerated)
+                                       : toQt(countWords(m_season->statistics().games().size(),
+                                                         Text::OfOneGame, Text::OfGames, m_texts)));
   if (m_season != nullptr)
     m_warning->setText(toQt(markWords(m_season->minimum(), m_kind, m_switch->view(), m_texts)));
   m_warning->setVisible(m_season != nullptr && !m_warning->text().isEmpty());

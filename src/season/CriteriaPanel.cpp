@@ -2,7 +2,6 @@
 
 #include "appearance/Fields.h"
 #include "appearance/relabel.h"
-#include "season/SeasonTexts.h"
 #include "settings/ChoiceTexts.h"
 
 #include <QBoxLayout>
@@ -48,7 +47,7 @@ void fill(QComboBox& choice, const QString& everything,
   choice.setCurrentIndex(before.isValid() ? std::max(choice.findData(before), 0) : 0);
 }
 
-std::vector<std::pair<QString, QVariant>> offered(int firstText, const Texts& texts) {
+std::vector<std::pair<QString, QVariant>> offered(Text firstText, const Texts& texts) {
   std::vector<std::pair<QString, QVariant>> entries;
   for (const int index : offeredChoices(firstText, texts))
     entries.emplace_back(toQt(choiceName(firstText, index, texts)), index);
@@ -62,18 +61,19 @@ CriteriaPanel::CriteriaPanel(const Texts& texts, QWidget* parent)
   m_grid->setContentsMargins(0, 0, 0, 0);
   m_grid->setHorizontalSpacing(6);
   m_grid->setVerticalSpacing(2);
-  m_team = addChoice("lstequipes", kTeamCriterion, kTeamWidth);
-  m_where = addChoice("lstOU", kWhereCriterion, kChoiceWidth);
+  m_team = addChoice("lstequipes", Text::Team, kTeamWidth);
+  m_where = addChoice("lstOU", Text::WhereCriterion, kChoiceWidth);
   m_where->setEnabled(false); // home and away are those of a team
-  m_type = addChoice("lstTYPEPARTIE", kTypeCriterion, kChoiceWidth);
-  m_input = addChoice("lstSAISIE", kInputCriterion, kChoiceWidth);
-  m_position = addChoice("lstposition", kPositionCriterion, kChoiceWidth);
+  m_type = addChoice("lstTYPEPARTIE", Text::GameType, kChoiceWidth);
+  m_input = addChoice("lstSAISIE", Text::InputWord, kChoiceWidth);
+  m_position = addChoice("lstposition", Text::Position, kChoiceWidth);
 
   m_withDate = new QCheckBox(this);
   m_withDate->setObjectName(QStringLiteral("chkdate"));
-  setTextNumber(*m_withDate, kDateCriterion);
-  setToolTipNumber(*m_withDate, kDateCriterion);
-  constexpr std::pair<const char*, int> kDates[] = {{"lbldatedu", kFromDate}, {"lbldateau", kToDate}};
+  setTextNumber(*m_withDate, Text::Date);
+  setToolTipNumber(*m_withDate, Text::Date);
+  constexpr std::pair<const char*, Text> kDates[] = {{"lbldatedu", Text::FromDate},
+                                                     {"lbldateau", Text::ToDate}};
   auto* captions = new QHBoxLayout;
   captions->addWidget(m_withDate);
   captions->addStretch();
@@ -109,8 +109,8 @@ CriteriaPanel::CriteriaPanel(const Texts& texts, QWidget* parent)
   m_leaveOutWrong->setObjectName(QStringLiteral("chkWRONG"));
   for (QCheckBox* box : {m_countOnce, m_leaveOutWrong})
     box->hide();
-  m_apply = iconButton("cmdFILTER", kApply, kApplyHint, "filter", this);
-  m_generate = iconButton("cmdGENERATE", kGenerate, kGenerateHint, "stats", this);
+  m_apply = iconButton("cmdFILTER", Text::Apply, Text::ApplyHint, "filter", this);
+  m_generate = iconButton("cmdGENERATE", Text::Generate, Text::GenerateHint, "stats", this);
   QFont bold = m_generate->font();
   bold.setBold(true);
   m_generate->setFont(bold);
@@ -130,7 +130,7 @@ CriteriaPanel::CriteriaPanel(const Texts& texts, QWidget* parent)
   connect(m_generate, &QPushButton::clicked, this, &CriteriaPanel::generateAsked);
 }
 
-QComboBox* CriteriaPanel::addChoice(const char* name, int text, int width) {
+QComboBox* CriteriaPanel::addChoice(const char* name, Text text, int width) {
   auto* choice = new QComboBox(this);
   choice->setObjectName(QLatin1String(name));
   choice->setMinimumWidth(width);
@@ -165,7 +165,7 @@ void CriteriaPanel::showDesk(const SeasonDesk& desk) {
   std::vector<std::pair<QString, QVariant>> teams;
   for (const SeasonTeam& team : desk.catalogue()->teams())
     teams.emplace_back(toQt(team.key), toQt(team.key));
-  fill(*m_team, caption(m_texts, kAnything), teams);
+  fill(*m_team, caption(m_texts, Text::All), teams);
 
   const auto games = desk.catalogue()->games();
   if (!m_hasDates && !games.empty() && games.front().day) { // valid dates come first, in order
@@ -179,10 +179,10 @@ void CriteriaPanel::showDesk(const SeasonDesk& desk) {
   }
   const auto copies = desk.catalogue()->copies();
   m_countOnce->setVisible(copies > 0);
-  m_countOnce->setText(toQt(m_texts.withPlaceholder(kCountOnce, std::to_string(copies))));
+  m_countOnce->setText(toQt(m_texts.withPlaceholder(Text::CountOnce, std::to_string(copies))));
   const auto wrong = desk.catalogue()->wrongGames();
   m_leaveOutWrong->setVisible(wrong > 0);
-  m_leaveOutWrong->setText(toQt(m_texts.withPlaceholder(kLeaveOutWrong, std::to_string(wrong))));
+  m_leaveOutWrong->setText(toQt(m_texts.withPlaceholder(Text::LeaveOutWrong, std::to_string(wrong))));
 }
 
 void CriteriaPanel::leaveOutWrong() {
@@ -194,21 +194,21 @@ void CriteriaPanel::showWhatIsOffered(const SeasonDesk& desk, bool isBusy) {
   m_generate->setEnabled(!isBusy && desk.canGenerate());
   const bool hasTeam = m_team->currentIndex() > 0;
   m_where->setEnabled(hasTeam);
-  m_where->setToolTip(caption(m_texts, hasTeam ? kWhereCriterion : kNeedsTeam));
+  m_where->setToolTip(caption(m_texts, hasTeam ? Text::WhereCriterion : Text::NeedsTeam));
 }
 
 void CriteriaPanel::relabelPanel() {
-  const QString everything = caption(m_texts, kAnything);
+  const QString everything = caption(m_texts, Text::All);
   fill(*m_type, everything, offered(kFirstGameTypeText, m_texts));
   fill(*m_position, everything, offered(kFirstPositionText, m_texts));
   using Where = GameCriteria::Where;
   fill(*m_where, everything,
-       {{caption(m_texts, kHome), static_cast<int>(Where::Home)},
-        {caption(m_texts, kAway), static_cast<int>(Where::Away)}});
+       {{caption(m_texts, Text::AtHome), static_cast<int>(Where::Home)},
+        {caption(m_texts, Text::Away), static_cast<int>(Where::Away)}});
   fill(*m_input, everything,
-       {{caption(m_texts, 1272), static_cast<int>(InputKind::Live)},
-        {caption(m_texts, 1302), static_cast<int>(InputKind::LiveWithoutTime)},
-        {caption(m_texts, 1271), static_cast<int>(InputKind::Manual)}});
+       {{caption(m_texts, Text::Live), static_cast<int>(InputKind::Live)},
+        {caption(m_texts, Text::LiveWithoutTime), static_cast<int>(InputKind::LiveWithoutTime)},
+        {caption(m_texts, Text::Manual), static_cast<int>(InputKind::Manual)}});
   if (m_team->count() == 0)
     m_team->addItem(everything);
   m_team->setItemText(0, everything);

@@ -35,7 +35,7 @@ class CriteriaPanel : public QWidget {
   void generateAsked();
 
  private:
-  QComboBox* addChoice(const char* name, int text, int width);
+  QComboBox* addChoice(const char* name, Text text, int width);
 
   const Texts& m_texts;
   QGridLayout* m_grid;

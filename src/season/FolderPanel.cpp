@@ -4,7 +4,6 @@
 #include "appearance/Icons.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
-#include "season/SeasonTexts.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -17,19 +16,19 @@ namespace hooptab {
 
 FolderPanel::FolderPanel(const Texts& texts, QWidget* parent)
     : QWidget(parent), m_folder(new QLineEdit(this)), m_withSubfolders(new QCheckBox(this)),
-      m_browse(iconButton("cmdDIR", kBrowseFolders, kBrowseFolders, "vwopen", this)),
+      m_browse(iconButton("cmdDIR", Text::BrowseFolders, Text::BrowseFolders, "vwopen", this)),
       m_read(new QToolButton(this)), m_listed(new PlainLabel(this)), m_notRead(new QToolButton(this)),
       m_progressText(new PlainLabel(this)), m_progress(new QProgressBar(this)),
-      m_cancel(iconButton("cmdCANCEL", kCancelReading, kCancelReading, "clear", this)) {
+      m_cancel(iconButton("cmdCANCEL", Text::CancelReading, Text::CancelReading, "clear", this)) {
   constexpr int kBarWidth = 160;
   m_folder->setObjectName(QStringLiteral("txtDIR"));
   m_withSubfolders->setObjectName(QStringLiteral("chkSUBFOLDERS"));
-  setTextNumber(*m_withSubfolders, kWithSubfolders);
-  setToolTipNumber(*m_withSubfolders, kWithSubfolders);
+  setTextNumber(*m_withSubfolders, Text::WithSubfolders);
+  setToolTipNumber(*m_withSubfolders, Text::WithSubfolders);
   m_read->setObjectName(QStringLiteral("cmdREAD"));
   m_read->setIcon(icon(QStringLiteral("vwrefresh")));
-  setToolTipNumber(*m_read, kReadAgain);
-  setAccessibleNumber(*m_read, kReadAgain);
+  setToolTipNumber(*m_read, Text::ReadAgain);
+  setAccessibleNumber(*m_read, Text::ReadAgain);
   m_listed->setObjectName(QStringLiteral("lblGAMES"));
   m_notRead->setObjectName(QStringLiteral("cmdNOTREAD"));
   m_notRead->setAutoRaise(true);
@@ -46,7 +45,7 @@ FolderPanel::FolderPanel(const Texts& texts, QWidget* parent)
   }
 
   auto* first = new QHBoxLayout;
-  first->addWidget(captionFor(*m_folder, kGamesFolder));
+  first->addWidget(captionFor(*m_folder, Text::GamesFolder));
   first->addWidget(m_folder, 1);
   first->addWidget(m_browse);
   first->addWidget(m_withSubfolders);

@@ -9,20 +9,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTextLocation = 1016;
-constexpr int kTextWin = 1195;
-constexpr int kTextLoss = 1196;
-constexpr int kTextTie = 1197;
-constexpr int kTextOpponent = 1198;
-constexpr int kTextWhere = 1199;
-constexpr int kTextHome = 1200;
-constexpr int kTextAway = 1201;
-constexpr int kTextResults = 1202;
-constexpr int kTextManual = 1271;
-constexpr int kTextLive = 1272;
-constexpr int kTextLiveWithoutTime = 1302;
-constexpr int kTextInput = 1303;
-
 enum Column {
   Date = 1,
   Type,
@@ -44,30 +30,30 @@ enum Column {
 };
 
 constexpr std::array<GameColumn, kGameColumnCount> kColumns = {{
-    {Date, "Date", 0, 2558, true, "Date"},
-    {Type, "Type", 0, 2205, false, "Type"},
-    {Result, {}, kTextResults, 1764, false, "Result"},
-    {Visitor, {}, kTextAway, 3881, true, "Visitor"},
-    {VisitorPoints, "PTS", 0, 1058, false, "VisitorPTS"},
-    {Home, {}, kTextHome, 3881, true, "Home"},
-    {HomePoints, "PTS", 0, 1058, false, "HomePTS"},
-    {Input, {}, kTextInput, 1764, false, "Input"},
-    {Location, {}, kTextLocation, 6174, true, "Location"},
-    {File, "GAMEFILE", 0, 0, true, "File"},
-    {TeamIds, "TEAMID", 0, 0, true, "TeamIds"},
-    {VisitorWin, "Vis", 0, 0, false, "VisitorWin"},
-    {VisitorLead, "Temps", 0, 0, false, "VisitorLead"},
-    {Tie, "Tie", 0, 0, false, "Tie"},
-    {TiedTime, "Temps", 0, 0, false, "TiedTime"},
-    {HomeWin, "Rec", 0, 0, false, "HomeWin"},
-    {HomeLead, "Temps", 0, 0, false, "HomeLead"},
+    {Date, "Date", Text::None, 2558, true, "Date"},
+    {Type, "Type", Text::None, 2205, false, "Type"},
+    {Result, {}, Text::Results, 1764, false, "Result"},
+    {Visitor, {}, Text::Away, 3881, true, "Visitor"},
+    {VisitorPoints, "PTS", Text::None, 1058, false, "VisitorPTS"},
+    {Home, {}, Text::AtHome, 3881, true, "Home"},
+    {HomePoints, "PTS", Text::None, 1058, false, "HomePTS"},
+    {Input, {}, Text::InputWord, 1764, false, "Input"},
+    {Location, {}, Text::Location, 6174, true, "Location"},
+    {File, "GAMEFILE", Text::None, 0, true, "File"},
+    {TeamIds, "TEAMID", Text::None, 0, true, "TeamIds"},
+    {VisitorWin, "Vis", Text::None, 0, false, "VisitorWin"},
+    {VisitorLead, "Temps", Text::None, 0, false, "VisitorLead"},
+    {Tie, "Tie", Text::None, 0, false, "Tie"},
+    {TiedTime, "Temps", Text::None, 0, false, "TiedTime"},
+    {HomeWin, "Rec", Text::None, 0, false, "HomeWin"},
+    {HomeLead, "Temps", Text::None, 0, false, "HomeLead"},
 }};
 
 std::string_view inputText(InputKind input, const Texts& texts) {
   switch (input) {
-  case InputKind::Live: return texts.text(kTextLive);
-  case InputKind::LiveWithoutTime: return texts.text(kTextLiveWithoutTime);
-  case InputKind::Manual: return texts.text(kTextManual);
+  case InputKind::Live: return texts.text(Text::Live);
+  case InputKind::LiveWithoutTime: return texts.text(Text::LiveWithoutTime);
+  case InputKind::Manual: return texts.text(Text::Manual);
   case InputKind::Other: break;
   }
   return {};
@@ -83,7 +69,7 @@ std::string resultFor(const GameCatalogue& catalogue, const ListedGame& game,
     return {};
   }
   const std::optional<int> winner = game.winner();
-  return winner ? catalogue.teams()[game.team[*winner]].name : std::string(texts.text(kTextTie));
+  return winner ? catalogue.teams()[game.team[*winner]].name : std::string(texts.text(Text::Ties1));
 }
 
 // The number of a column that has one.
@@ -147,7 +133,7 @@ bool gameColumnIsText(int column) {
 
 std::string resultText(const ListedGame& game, int side, const Texts& texts) {
   const std::optional<int> winner = game.winner();
-  const int text = !winner ? kTextTie : *winner == side ? kTextWin : kTextLoss;
+  const Text text = !winner ? Text::Ties1 : *winner == side ? Text::Wins1 : Text::Losses1;
   return std::string(texts.text(text)) + " " + std::to_string(game.points[side]) + "-" +
          std::to_string(game.points[1 - side]);
 }
@@ -168,9 +154,9 @@ int seasonColumnOfResult(int column) {
 std::string resultHeader(int column, const Texts& texts) {
   switch (column) {
   case 1: return "Date";
-  case 2: return std::string(texts.text(kTextWhere));
-  case 3: return std::string(texts.text(kTextResults));
-  case kResultOpponentColumn: return std::string(texts.text(kTextOpponent));
+  case 2: return std::string(texts.text(Text::Where));
+  case 3: return std::string(texts.text(Text::Results));
+  case kResultOpponentColumn: return std::string(texts.text(Text::Opponent));
   default: break;
   }
   return seasonHeader(seasonColumnOfResult(column), SeasonTable::Players, texts);
@@ -181,7 +167,7 @@ std::string resultCell(const GameCatalogue& catalogue, const GameResult& result,
   const ListedGame& game = catalogue.games()[result.game];
   switch (column) {
   case 1: return game.date;
-  case 2: return std::string(texts.text(result.side == 0 ? kTextAway : kTextHome));
+  case 2: return std::string(texts.text(result.side == 0 ? Text::Away : Text::AtHome));
   case 3: return resultText(game, result.side, texts);
   case kResultOpponentColumn: return catalogue.teams()[game.team[1 - result.side]].name;
   default: return seasonCell(rowOfResult(result), seasonColumnOfResult(column), SeasonView::Totals, texts);

@@ -14,8 +14,8 @@ namespace hooptab {
 // The list of games, by creation index 1..17.
 struct GameColumn {
   int index;
-  std::string_view header; // where headerText is 0
-  int headerText;
+  std::string_view header; // where headerText is none
+  Text headerText;
   int widthTwips; // 0: hidden
   bool isLeftAligned;
   std::string_view name; // unique, the same in both languages, for files

@@ -3,7 +3,6 @@
 #include "appearance/relabel.h"
 #include "season/GameColumns.h"
 #include "season/SeasonTables.h"
-#include "season/SeasonTexts.h"
 
 namespace hooptab {
 
@@ -23,7 +22,7 @@ QString averageText(double average, Unit unit, const Texts& texts) {
     number = QString::number(average, 'f', 1);
   else if (unit == Unit::Percent)
     number = QString::number(average * 100, 'f', 1) + u'%';
-  return toQt(texts.withPlaceholder(kAverageIs, fromQt(number)));
+  return toQt(texts.withPlaceholder(Text::Average, fromQt(number)));
 }
 
 QString opponentOf(const GameCatalogue& catalogue, const ListedGame& game, int side) {
@@ -65,7 +64,8 @@ SeriesWithToolTips pictureOfMargins(const GameSeries& margins, SeasonId team, co
   SeriesWithToolTips picture;
   SeriesDrawing& drawing = picture.drawing;
   drawing.style = SeriesDrawing::Style::Margins;
-  drawing.title = toQt(catalogue.teams()[team].key) + QStringLiteral(" – ") + caption(texts, kMargins);
+  drawing.title =
+      toQt(catalogue.teams()[team].key) + QStringLiteral(" – ") + caption(texts, Text::ScoreMargins);
   drawing.average = margins.average;
   if (margins.average)
     drawing.averageText = averageText(*margins.average, drawing.unit, texts);
@@ -76,7 +76,7 @@ SeriesWithToolTips pictureOfMargins(const GameSeries& margins, SeasonId team, co
     drawing.labels << shortDate(game);
     picture.toolTips << toQt(game.date) + QStringLiteral("  ") + opponentOf(catalogue, game, side) +
                             QStringLiteral("  ") + toQt(resultText(game, side, texts)) + u'\n' +
-                            caption(texts, kOpensGame);
+                            caption(texts, Text::OpensGame);
   }
   return picture;
 }

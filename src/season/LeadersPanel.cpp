@@ -4,7 +4,6 @@
 #include "appearance/relabel.h"
 #include "season/MinimumBox.h"
 #include "season/SeasonTables.h"
-#include "season/SeasonTexts.h"
 #include "season/ViewSwitch.h"
 
 #include <QBoxLayout>
@@ -34,8 +33,8 @@ LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget
   QFont bold = m_title->font();
   bold.setBold(true);
   m_title->setFont(bold);
-  setAccessibleNumber(*m_first, kLeadersTab);
-  setAccessibleNumber(*m_leaders, kLeadersTab);
+  setAccessibleNumber(*m_first, Text::LeadersTab);
+  setAccessibleNumber(*m_leaders, Text::LeadersTab);
   auto* head = new QHBoxLayout;
   head->addWidget(m_title);
   m_rule->setObjectName(QStringLiteral("lblMINIMUM"));
@@ -128,7 +127,7 @@ void LeadersPanel::showLeaders() {
 void LeadersPanel::showTitle() {
   m_rule->setText(toQt(minimumWords(m_minimum->minimum(), m_switch->view(), m_texts)));
   if (m_season == nullptr)
-    return m_title->setText(caption(m_texts, kNotGenerated));
+    return m_title->setText(caption(m_texts, Text::NotGenerated));
   const int column = m_season->leaders(m_switch->view()).statistics()[statistic()].column;
   m_title->setText(statisticName(column, m_settings, m_texts, m_season->statistics().labels()));
   setExportTitle(*m_leaders, m_title->text());

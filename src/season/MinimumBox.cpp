@@ -2,7 +2,6 @@
 
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
-#include "season/SeasonTexts.h"
 
 #include <QBoxLayout>
 #include <QSignalBlocker>
@@ -10,12 +9,19 @@
 
 namespace hooptab {
 
+namespace {
+
+constexpr Text kUnits[] = {Text::PercentOfGames, Text::MinutesAGame, Text::AttemptsAGame};
+constexpr Text kHints[] = {Text::GamesMinimumTip, Text::MinutesMinimumTip, Text::AttemptsMinimumTip};
+
+} // namespace
+
 MinimumBox::MinimumBox(QWidget* parent) : QWidget(parent) {
   constexpr const char* kNames[] = {"txtMINGAMES", "txtMINMINUTES", "txtMINATTEMPTS"};
   constexpr int kMost[] = {Qualification::kMostPercent, Qualification::kMostMinutes,
                            Qualification::kMostAttempts};
   auto* label = new PlainLabel(this);
-  setTextNumber(*label, kMinimum);
+  setTextNumber(*label, Text::Minimum);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(4);
@@ -25,8 +31,8 @@ MinimumBox::MinimumBox(QWidget* parent) : QWidget(parent) {
     field->setObjectName(QLatin1String(kNames[i]));
     field->setRange(0, kMost[i]);
     field->setKeyboardTracking(false); // a number is whole before it counts
-    setAccessibleNumber(*field, kMinimumHints[i]);
-    setToolTipNumber(*field, kMinimumHints[i]);
+    setAccessibleNumber(*field, kHints[i]);
+    setToolTipNumber(*field, kHints[i]);
     layout->addWidget(field);
   }
   showMinimum({});
@@ -48,7 +54,7 @@ void MinimumBox::showMinimum(const Qualification& minimum) {
 
 void MinimumBox::relabelBox(const Texts& texts) {
   for (std::size_t i = 0; i < m_fields.size(); ++i)
-    m_fields[i]->setSuffix(u' ' + caption(texts, kMinimumUnits[i]));
+    m_fields[i]->setSuffix(u' ' + caption(texts, kUnits[i]));
 }
 
 } // namespace hooptab

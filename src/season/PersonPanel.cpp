@@ -5,7 +5,6 @@
 #include "appearance/relabel.h"
 #include "season/GamePictures.h"
 #include "season/SeasonTables.h"
-#include "season/SeasonTexts.h"
 #include "season/SeriesView.h"
 #include "season/ZoneChart.h"
 #include "settings/CountWords.h"
@@ -43,9 +42,9 @@ PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* 
   head->addStretch();
 
   auto* resultTitle = inBold(new PlainLabel(this), "lblRESULTS");
-  setTextNumber(*resultTitle, kResultsByGame);
+  setTextNumber(*resultTitle, Text::ResultsByGame);
   m_results = new SeasonTableView(QStringLiteral("lvwRESULTS"), kFrozen, this);
-  setAccessibleNumber(*m_results, kResultsByGame);
+  setAccessibleNumber(*m_results, Text::ResultsByGame);
   auto* results = new QWidget(this);
   auto* resultRoom = new QVBoxLayout(results);
   resultRoom->setContentsMargins(0, 0, 0, 0);
@@ -98,8 +97,8 @@ QWidget* PersonPanel::makePictures() {
   auto* games = new QWidget(part);
   m_statistic = new QComboBox(games);
   m_statistic->setObjectName(QStringLiteral("lstSTATISTIC"));
-  setAccessibleNumber(*m_statistic, kShownStatistic);
-  setToolTipNumber(*m_statistic, kShownStatistic);
+  setAccessibleNumber(*m_statistic, Text::ShownStatistic);
+  setToolTipNumber(*m_statistic, Text::ShownStatistic);
   m_picture = new SeriesView(QStringLiteral("picGAMES"), games);
   auto* layout = new QVBoxLayout(games);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -153,20 +152,21 @@ void PersonPanel::applyColours() {
 
 void PersonPanel::showTexts() {
   const bool isLine = m_person != nullptr && m_person->isLine;
-  m_recordTitle->setText(caption(m_texts, isLine ? kLineRecords : kPersonalRecords));
+  m_recordTitle->setText(caption(m_texts, isLine ? Text::LineRecords : Text::PersonalRecords));
   m_records->setAccessibleName(m_recordTitle->text());
   m_number->setText(m_person == nullptr ? QString() : toQt(m_person->row.number));
   m_name->setText(m_person == nullptr
-                      ? caption(m_texts, kChooseSomebody)
+                      ? caption(m_texts, Text::ChooseSomebody)
                       : toQt(m_person->row.players.empty() ? m_person->row.name : m_person->row.players));
   if (m_person == nullptr)
     return m_games->clear();
   const SeasonTeam& team = m_person->season->catalogue().teams()[m_person->row.team];
-  m_games->setText(toQt(team.key) + QStringLiteral("  ·  ") +
-                   toQt(countWords(m_person->results.size(), kOnePersonGame, kPersonGames, m_texts)));
+  m_games->setText(
+      toQt(team.key) + QStringLiteral("  ·  ") +
+      toQt(countWords(m_person->results.size(), Text::OneGamePlayed, Text::GamesPlayed, m_texts)));
   const QString who = m_number->text() + u' ' + m_name->text();
   for (const auto& [widget, title] : {std::pair<QWidget*, QString>(m_records, m_recordTitle->text()),
-                                      {m_results, caption(m_texts, kResultsByGame)},
+                                      {m_results, caption(m_texts, Text::ResultsByGame)},
                                       {m_picture, {}},
                                       {m_shots, {}}})
     setExportTitle(*widget, title.isEmpty() ? who : title + QStringLiteral(" – ") + who);
@@ -186,7 +186,7 @@ void PersonPanel::showShots() {
   else if (m_person->shots)
     m_shots->showShots(*m_person->shots, m_person->season->shots());
   else
-    m_shots->showReason(caption(m_texts, kNoShots));
+    m_shots->showReason(caption(m_texts, Text::NoShotsByLine));
 }
 
 } // namespace hooptab

@@ -11,11 +11,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kTextName = 1023;
-constexpr int kTextTime = 1024;
-constexpr int kTextRating = 1025;
-constexpr int kTextLine = 1026;
-constexpr int kTextGames = 1194;
 // What divides the counts of a row without time, so that its averages show as zero.
 constexpr std::int64_t kDivisorWithoutTime = 9'999'999;
 
@@ -53,29 +48,29 @@ struct Column {
 };
 
 constexpr Column count(int index, std::string_view name, Counter counter) {
-  return {{index, name, 0, 1058, false, name}, Cell::Count, 0, counter};
+  return {{index, name, Text::None, 1058, false, name}, Cell::Count, 0, counter};
 }
 constexpr Column made(int index, std::string_view name, ShotKinds kinds) {
-  return {{index, name, 0, 1058, false, name}, Cell::Made, kinds};
+  return {{index, name, Text::None, 1058, false, name}, Cell::Made, kinds};
 }
 constexpr Column attempted(int index, std::string_view name, ShotKinds kinds) {
-  return {{index, name, 0, 1058, false, name}, Cell::Attempted, kinds};
+  return {{index, name, Text::None, 1058, false, name}, Cell::Attempted, kinds};
 }
 constexpr Column percent(int index, std::string_view name, ShotKinds kinds) {
-  return {{index, name, 0, 1499, false, name}, Cell::Percent, kinds};
+  return {{index, name, Text::None, 1499, false, name}, Cell::Percent, kinds};
 }
 constexpr Column points(int index, std::string_view name, ShotKinds kinds) {
-  return {{index, "PTS", 0, 1323, false, name}, Cell::Points, kinds};
+  return {{index, "PTS", Text::None, 1323, false, name}, Cell::Points, kinds};
 }
 
 constexpr std::array<Column, kSeasonColumnCount> kColumns = {{
-    {{1, "No", 0, 794, true, "No"}, Cell::Number},
-    {{2, "Nom", kTextName, 3704, true, "Name"}, Cell::Name},
-    {{3, "Temps", kTextTime, 1411, false, "Time"}, Cell::Time},
-    {{4, "P", kTextGames, 706, false, "G"}, Cell::Games},
+    {{1, "No", Text::None, 794, true, "No"}, Cell::Number},
+    {{2, "Nom", Text::PlayerName, 3704, true, "Name"}, Cell::Name},
+    {{3, "Temps", Text::Time, 1411, false, "Time"}, Cell::Time},
+    {{4, "P", Text::Games, 706, false, "G"}, Cell::Games},
     count(5, "PF", Counter::PF),
     count(6, "TF", Counter::TF),
-    {{7, "Eff", kTextRating, 1235, false, "rating"}, Cell::Rating},
+    {{7, "Eff", Text::Rating, 1235, false, "rating"}, Cell::Rating},
     made(8, "TGM", kAllShotKinds),
     attempted(9, "TGA", kAllShotKinds),
     percent(10, "%", kAllShotKinds),
@@ -118,12 +113,12 @@ constexpr std::array<Column, kSeasonColumnCount> kColumns = {{
     count(47, "TO", Counter::TO),
     count(48, "OR", Counter::OR),
     count(49, "DR", Counter::DR),
-    {{50, "TR", 0, 1058, false, "TR"}, Cell::TotalRebounds},
+    {{50, "TR", Text::None, 1058, false, "TR"}, Cell::TotalRebounds},
     count(51, "U1", Counter::S1),
     count(52, "U2", Counter::S2),
-    {{53, "#", 0, 706, false, "#"}, Cell::Rank},
-    {{54, "Pos", 0, 1764, false, "Pos"}, Cell::Position},
-    {{55, "PosHist", 0, 0, false, "PosHist"}, Cell::PositionHistory},
+    {{53, "#", Text::None, 706, false, "#"}, Cell::Rank},
+    {{54, "Pos", Text::None, 1764, false, "Pos"}, Cell::Position},
+    {{55, "PosHist", Text::None, 0, false, "PosHist"}, Cell::PositionHistory},
 }};
 
 constexpr auto kShownColumns = [] {
@@ -181,8 +176,8 @@ std::span<const SeasonColumn, kSeasonColumnCount> seasonColumns() {
 std::string seasonHeader(int column, SeasonTable table, const Texts& texts) {
   const SeasonColumn& shown = seasonColumn(column);
   if (column == kNameColumn && table == SeasonTable::Lines)
-    return std::string(texts.text(kTextLine));
-  return std::string(shown.headerText != 0 ? texts.text(shown.headerText) : shown.header);
+    return std::string(texts.text(Text::Line));
+  return std::string(shown.headerText != Text::None ? texts.text(shown.headerText) : shown.header);
 }
 
 int seasonWidthTwips(int column, SeasonTable table) {

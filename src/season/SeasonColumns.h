@@ -24,8 +24,8 @@ inline constexpr std::size_t kSeasonViewCount = std::size(kSeasonViews);
 // By creation index 1..55.
 struct SeasonColumn {
   int index;
-  std::string_view header; // short, the same in both languages, where headerText is 0
-  int headerText;
+  std::string_view header; // short, the same in both languages, where headerText is none
+  Text headerText;
   int widthTwips; // of the players' table; 0: hidden
   bool isLeftAligned;
   std::string_view name; // unique, for command line and export: "No", "TGM", "F2PTS", "rating"

@@ -2,7 +2,6 @@
 
 #include "appearance/relabel.h"
 #include "season/SeasonDesk.h"
-#include "season/SeasonTexts.h"
 #include "season/SeasonWords.h"
 #include "storage/Module1.h"
 
@@ -76,7 +75,7 @@ const StatisticLeaders& leadersAt(const Season& season, SeasonView view, std::si
 
 QString statisticName(int column, const Settings& settings, const Texts& texts, const OwnLabels& labels) {
   if (column == seasonColumn("rating").index) // its words are the whole formula
-    return caption(texts, kRating);
+    return caption(texts, Text::RatingCapital);
   QString words = toQt(seasonColumnWords(column, settings, texts, labels));
   words.front() = words.front().toUpper();
   return words;
@@ -86,7 +85,7 @@ std::vector<TableColumn> gameListColumns(const Texts& texts) {
   std::vector<TableColumn> columns;
   for (const GameColumn& column : gameColumns()) {
     TableColumn& shown = columns.emplace_back();
-    shown.header = column.headerText != 0 ? caption(texts, column.headerText) : toQt(column.header);
+    shown.header = column.headerText != Text::None ? caption(texts, column.headerText) : toQt(column.header);
     shown.name = toQt(column.name);
     shown.isText = gameColumnIsText(column.index);
     shown.isLeftAligned = column.isLeftAligned;
@@ -122,13 +121,13 @@ TableRows gameListRows(std::shared_ptr<const GameCatalogue> catalogue, std::vect
       words += u'\n' + toQt(copyWords(*catalogue, shown, texts));
     if (!shown.outOfRange.empty())
       words += u'\n' + toQt(shown.outOfRange);
-    return words + u'\n' + caption(texts, kOpensGame);
+    return words + u'\n' + caption(texts, Text::OpensGame);
   };
   return rows;
 }
 
 std::vector<TableColumn> skippedColumns(const Texts& texts) {
-  return {textColumn(caption(texts, kFileColumn)), textColumn(caption(texts, kReasonColumn))};
+  return {textColumn(caption(texts, Text::FileWord)), textColumn(caption(texts, Text::ReasonColumn))};
 }
 
 TableRows skippedRows(std::shared_ptr<const GameCatalogue> catalogue, const Texts& texts) {
@@ -148,7 +147,7 @@ std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view, c
   for (int index = 1; index <= (kind == SeasonTable::Lines ? kSeasonLineColumnCount : kSeasonColumnCount);
        ++index)
     columns.push_back(columnOf(index, kind, view, settings, texts, labels));
-  TableColumn& team = columns.emplace_back(textColumn(caption(texts, kTeamCriterion)));
+  TableColumn& team = columns.emplace_back(textColumn(caption(texts, Text::Team)));
   team.name = QStringLiteral("Team");
   team.isHidden = season == nullptr || season->statistics().teams().size() < 2;
   return columns;
@@ -181,14 +180,14 @@ TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind
     const SeasonRow& shown = rowOf(*season, kind, row);
     return toQt(season->catalogue().teams()[shown.team].key) + QStringLiteral("  ") + toQt(shown.number) +
            u' ' + toQt(shown.players.empty() ? shown.name : shown.players) + u'\n' +
-           caption(texts, kOpensPerson);
+           caption(texts, Text::OpensPerson);
   };
   return rows;
 }
 
 std::vector<TableColumn> firstLeaderColumns(const Texts& texts) {
-  return {textColumn(caption(texts, kStatisticColumn)), textColumn(caption(texts, kLeaderColumn)),
-          numberColumn(caption(texts, kValueColumn), QStringLiteral("0000:00"))};
+  return {textColumn(caption(texts, Text::StatisticColumn)), textColumn(caption(texts, Text::LeaderColumn)),
+          numberColumn(caption(texts, Text::Value), QStringLiteral("0000:00"))};
 }
 
 TableRows firstLeaderRows(std::shared_ptr<const Season> season, SeasonView view, const Settings& settings,
@@ -219,17 +218,15 @@ TableRows firstLeaderRows(std::shared_ptr<const Season> season, SeasonView view,
 }
 
 std::vector<TableColumn> leaderColumns(const Texts& texts) {
-  constexpr int kNameText = 1023;
-  constexpr int kGamesText = 1194;
   TableColumn jersey = numberColumn(QStringLiteral("No"), QStringLiteral("000"));
   jersey.isLeftAligned = true;
-  TableColumn value = numberColumn(caption(texts, kValueColumn), QStringLiteral("0000:00"));
+  TableColumn value = numberColumn(caption(texts, Text::Value), QStringLiteral("0000:00"));
   value.isBold = true;
   return {numberColumn(QStringLiteral("#"), QStringLiteral("000")),
-          textColumn(caption(texts, kTeamTab)),
+          textColumn(caption(texts, Text::Team)),
           jersey,
-          textColumn(caption(texts, kNameText)),
-          numberColumn(caption(texts, kGamesText)),
+          textColumn(caption(texts, Text::PlayerName)),
+          numberColumn(caption(texts, Text::Games)),
           value};
 }
 
@@ -260,7 +257,7 @@ TableRows leaderRows(std::shared_ptr<const Season> season, SeasonView view, std:
     default: return seasonSortValue(*shown.row, leadersAt(*season, view, statistic).column, view);
     }
   };
-  rows.toolTip = [&texts](int) { return caption(texts, kOpensPerson); };
+  rows.toolTip = [&texts](int) { return caption(texts, Text::OpensPerson); };
   return rows;
 }
 
@@ -312,7 +309,7 @@ TableRows resultRows(std::shared_ptr<const SeasonPerson> person, const Texts& te
   rows.sortValue = [person, result](int row, int column) {
     return resultSortValue(person->season->catalogue(), result(row), column + 1);
   };
-  rows.toolTip = [&texts](int) { return caption(texts, kOpensGame); };
+  rows.toolTip = [&texts](int) { return caption(texts, Text::OpensGame); };
   return rows;
 }
 

@@ -3,8 +3,6 @@
 #include "game/Glossary.h"
 #include "scorecard/BoxScore.h"
 #include "scorecard/ColumnWords.h"
-#include "scorecard/ScorecardTexts.h"
-#include "season/SeasonTexts.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 
@@ -16,8 +14,8 @@ namespace hooptab {
 namespace {
 
 // Two- and three-point field goals together, which have a column for each end of the name.
-constexpr std::pair<std::string_view, int> kFieldGoalColumns[] = {
-    {"FGM", kMadeOf}, {"FGA", kAttemptsOf}, {"FG%", kPercentageOf}, {"FGPTS", kPointsOf}};
+constexpr std::pair<std::string_view, Text> kFieldGoalColumns[] = {
+    {"FGM", Text::MadeOf}, {"FGA", Text::AttemptsOf}, {"FG%", Text::PercentageOf}, {"FGPTS", Text::PointsOf}};
 // The names of the same columns in a single game's table, where they differ.
 constexpr std::pair<std::string_view, std::string_view> kBoxNames[] = {
     {"TGM", "M"},   {"TGA", "A"},       {"F2M", "FGM"}, {"F2A", "FGA"},
@@ -35,7 +33,7 @@ std::string seasonColumnWords(int column, const Settings& settings, const Texts&
                               const OwnLabels& labels) {
   const std::string_view name = seasonColumn(column).name;
   if (const auto* goals = found(kFieldGoalColumns, name))
-    return texts.withPlaceholder(goals->second, texts.text(kFieldGoals));
+    return texts.withPlaceholder(goals->second, texts.text(Text::FieldGoals));
   const auto* other = found(kBoxNames, name);
   const std::string_view boxName = other == nullptr ? name : other->second;
   const auto box = std::ranges::find(boxColumns(), boxName, &BoxColumn::name);
@@ -48,26 +46,26 @@ std::string seasonColumnWords(int column, const Settings& settings, const Texts&
 std::string markWords(const Qualification& minimum, SeasonTable table, SeasonView view, const Texts& texts) {
   const bool isOfTime = view == SeasonView::PerMinute || view == SeasonView::PerForty;
   if (table == SeasonTable::Lines)
-    return std::string(isOfTime ? texts.text(kShortTimeWarning) : std::string_view());
+    return std::string(isOfTime ? texts.text(Text::ShortTimeWarning) : std::string_view());
   if (isOfTime)
-    return texts.withPlaceholder(kUnderMinutes, std::to_string(minimum.minutes));
+    return texts.withPlaceholder(Text::UnderMinutes, std::to_string(minimum.minutes));
   return view == SeasonView::PerGame
-             ? texts.withPlaceholder(kUnderGames, std::to_string(minimum.gamesPercent))
+             ? texts.withPlaceholder(Text::UnderGames, std::to_string(minimum.gamesPercent))
              : std::string();
 }
 
 std::string minimumWords(const Qualification& minimum, SeasonView view, const Texts& texts) {
-  int text = kMinimumOfTotals;
+  Text text = Text::MinimumOfTotals;
   int least = 0;
   switch (view) {
   case SeasonView::Totals: break;
   case SeasonView::PerGame:
-    text = kMinimumPerGame;
+    text = Text::MinimumPerGame;
     least = minimum.gamesPercent;
     break;
   case SeasonView::PerMinute:
   case SeasonView::PerForty:
-    text = kMinimumPerTime;
+    text = Text::MinimumPerTime;
     least = minimum.minutes;
     break;
   }
@@ -78,8 +76,8 @@ std::string copyWords(const GameCatalogue& catalogue, const ListedGame& game, co
   if (!game.copyOf)
     return {};
   const ListedGame& other = catalogue.games()[*game.copyOf];
-  return texts.withPlaceholder(game.fingerprint == other.fingerprint ? kSameGameAs : kSameGameOtherEvents,
-                               other.path);
+  return texts.withPlaceholder(
+      game.fingerprint == other.fingerprint ? Text::SameGameAs : Text::SameGameOtherEvents, other.path);
 }
 
 } // namespace hooptab

@@ -4,7 +4,6 @@
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "season/GamePictures.h"
-#include "season/SeasonTexts.h"
 #include "season/SeriesView.h"
 #include "season/ZoneChart.h"
 #include "settings/CountWords.h"
@@ -20,15 +19,15 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kShownTeam = 1719;
 constexpr int kTeamWidth = 200;
 
 QString balanceText(const SeasonTeamRow& team, const Texts& texts) {
-  const auto count = [&](int number, int one, int many) {
+  const auto count = [&](int number, Text one, Text many) {
     return countWords(static_cast<std::size_t>(number), one, many, texts);
   };
-  return toQt(count(team.wins, kOneWin, kWins) + ", " + count(team.losses, kOneLoss, kLosses) + ", " +
-              count(team.ties, kOneTie, kTies)) +
+  return toQt(count(team.wins, Text::OneWin, Text::TeamWins) + ", " +
+              count(team.losses, Text::OneLoss, Text::TeamLosses) + ", " +
+              count(team.ties, Text::OneTie, Text::TeamTies)) +
          QStringLiteral("  ·  ") + toQt(Module1::quotientText(team.pointsFor, team.games, 1)) +
          QStringLiteral(" – ") + toQt(Module1::quotientText(team.pointsAgainst, team.games, 1));
 }
@@ -39,8 +38,8 @@ TeamPanel::TeamPanel(const Texts& texts, QWidget* parent)
     : QWidget(parent), m_texts(texts), m_team(new QComboBox(this)), m_balance(new PlainLabel(this)) {
   m_team->setObjectName(QStringLiteral("lstTEAM"));
   m_team->setMinimumWidth(kTeamWidth);
-  setAccessibleNumber(*m_team, kShownTeam);
-  setToolTipNumber(*m_team, kShownTeam);
+  setAccessibleNumber(*m_team, Text::ShownTeam);
+  setToolTipNumber(*m_team, Text::ShownTeam);
   m_balance->setObjectName(QStringLiteral("lblBALANCE"));
   auto* parts = new QSplitter(Qt::Horizontal, this);
   parts->setObjectName(QStringLiteral("teamParts"));
@@ -92,7 +91,7 @@ void TeamPanel::applyColours() {
 
 void TeamPanel::showTeam() {
   if (m_season == nullptr || m_team->currentIndex() < 0) {
-    m_balance->setText(caption(m_texts, kNotGenerated));
+    m_balance->setText(caption(m_texts, Text::NotGenerated));
     m_picture->show({}, {});
     return m_shots->showShots({}, {});
   }

@@ -1,7 +1,6 @@
 #include "season/ViewSwitch.h"
 
 #include "appearance/relabel.h"
-#include "season/SeasonTexts.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
@@ -10,10 +9,10 @@
 namespace hooptab {
 
 ViewSwitch::ViewSwitch(QWidget* parent) : QWidget(parent), m_buttons(new QButtonGroup(this)) {
-  constexpr std::pair<const char*, int> kButtons[] = {{"cmdTOTALS", kTotals},
-                                                      {"cmdPERGAME", kPerGame},
-                                                      {"cmdPERMINUTE", kPerMinute},
-                                                      {"cmdPERFORTY", kPerForty}};
+  constexpr std::pair<const char*, Text> kButtons[] = {{"cmdTOTALS", Text::Totals},
+                                                       {"cmdPERGAME", Text::PerGame},
+                                                       {"cmdPERMINUTE", Text::PerMinute},
+                                                       {"cmdPERFORTY", Text::PerForty}};
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(2);

@@ -3,7 +3,6 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "court/CourtView.h"
-#include "season/SeasonTexts.h"
 #include "storage/Module1.h"
 
 #include <QBoxLayout>
@@ -22,7 +21,6 @@ using Turn = CourtPicture::Turn;
 constexpr QColor kWarm(0xC2, 0x41, 0x0C);
 constexpr QColor kCold(0x1F, 0x5F, 0xA8);
 constexpr double kPalest = 0.08;
-constexpr int kWithoutPlaceText = 1513;
 
 QString fraction(const ZoneSum& sum) {
   return QString::number(sum.made) + u'/' + QString::number(sum.attempted);
@@ -112,7 +110,7 @@ void paintZoneChart(QPainter& painter, const QRectF& area, const ShotSums& shots
   paintDifferenceLegend(painter, {area.left(), area.bottom() - 2 * line, area.width(), line}, Qt::black);
   painter.setPen(Qt::black);
   painter.drawText(QRectF(area.left(), area.bottom() - line, area.width(), line), Qt::AlignCenter,
-                   toQt(texts.text(kDifferenceLegend)));
+                   toQt(texts.text(Text::DifferenceLegend)));
 }
 
 ZoneChart::ZoneChart(const QString& name, const Texts& texts, QWidget* parent)
@@ -124,9 +122,9 @@ ZoneChart::ZoneChart(const QString& name, const Texts& texts, QWidget* parent)
   m_court->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   m_court->showZones();
   m_court->installEventFilter(this);
-  setAccessibleNumber(*m_court, kSeasonChart);
-  setAccessibleNumber(*m_legend, kDifferenceLegend);
-  setTextNumber(*m_caption, kDifferenceLegend);
+  setAccessibleNumber(*m_court, Text::SeasonShotChart);
+  setAccessibleNumber(*m_legend, Text::DifferenceLegend);
+  setTextNumber(*m_caption, Text::DifferenceLegend);
   m_caption->setWordWrap(true);
   m_caption->setAlignment(Qt::AlignCenter);
   m_caption->setForegroundRole(QPalette::PlaceholderText);
@@ -162,7 +160,7 @@ void ZoneChart::showShots(const ShotSums& shots, const ShotSums& average) {
       fraction(all) + QStringLiteral("  ") + toQt(Module1::percentText(all.made, all.attempted));
   if (shots.withoutPlace.attempted > 0)
     numbers +=
-        QStringLiteral("   + ") + fraction(shots.withoutPlace) + u' ' + caption(m_texts, kWithoutPlaceText);
+        QStringLiteral("   + ") + fraction(shots.withoutPlace) + u' ' + caption(m_texts, Text::WithoutPlace);
   m_numbers->setText(numbers);
 }
 

@@ -12,7 +12,6 @@
 #include "season/LeadersPanel.h"
 #include "season/PersonPanel.h"
 #include "season/SeasonTables.h"
-#include "season/SeasonTexts.h"
 #include "season/TeamPanel.h"
 #include "settings/CountWords.h"
 #include "storage/Module1.h"
@@ -40,8 +39,6 @@ using namespace std::chrono_literals;
 
 constexpr int kMargin = 8;
 constexpr auto kPollInterval = 50ms;
-constexpr int kCopyTable = 1559;
-constexpr int kTableCopied = 1720;
 
 } // namespace
 
@@ -57,21 +54,22 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
   setObjectName(QStringLiteral("frmSTATS"));
   m_tabs->setObjectName(QStringLiteral("tabs"));
   m_folder->showFolder(toQt(settings.lastGameFolder), false);
-  const std::pair<QWidget*, int> pages[] = {
-      {makeGames(), kGamesTab}, {m_players, kPlayersTab}, {m_lines, kLinesTab},    {m_leaders, kLeadersTab},
-      {m_person, kPersonTab},   {m_team, kTeamTab},       {m_notRead, kNotReadTab}};
+  const std::pair<QWidget*, Text> pages[] = {{makeGames(), Text::GamesTitle}, {m_players, Text::Players},
+                                             {m_lines, Text::Lines},          {m_leaders, Text::LeadersTab},
+                                             {m_person, Text::PersonTab},     {m_team, Text::Team},
+                                             {m_notRead, Text::NotReadTab}};
   for (const auto& [page, text] : pages) {
     m_tabs->addTab(page, QString());
     setTabTextNumber(*page, text);
   }
-  setAccessibleNumber(*m_notRead, kNotReadTab);
+  setAccessibleNumber(*m_notRead, Text::NotReadTab);
   m_tabs->setTabVisible(m_tabs->indexOf(m_notRead), false);
   auto* copy = new QToolButton(m_tabs);
   copy->setObjectName(QStringLiteral("cmdCOPY"));
   copy->setAutoRaise(true);
   copy->setIcon(icon(QStringLiteral("copy")));
-  setToolTipNumber(*copy, kCopyTable);
-  setAccessibleNumber(*copy, kCopyTable);
+  setToolTipNumber(*copy, Text::CopyTable);
+  setAccessibleNumber(*copy, Text::CopyTable);
   m_tabs->setCornerWidget(copy);
 
   auto* layout = new QVBoxLayout(this);
@@ -83,7 +81,7 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
 
   m_poll.setInterval(kPollInterval);
   connect(&m_poll, &QTimer::timeout, this, &frmSTATS::showProgress);
-  connect(&m_work, &BackgroundWork::failed, this, [this] { m_problem = kNoMemory; });
+  connect(&m_work, &BackgroundWork::failed, this, [this] { m_problem = Text::NoMemoryForSeason; });
   connect(&m_work, &BackgroundWork::finished, this, &frmSTATS::endWork);
   connect(m_folder, &FolderPanel::browseAsked, this, &frmSTATS::browse);
   connect(m_folder, &FolderPanel::readAsked, this, qOverload<>(&frmSTATS::readFolder));
@@ -107,7 +105,8 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
   connect(m_team, &TeamPanel::gameAsked, this, &frmSTATS::openGame);
   connect(copy, &QToolButton::clicked, this, &frmSTATS::copyShownTable);
   for (SeasonTableView* table : findChildren<SeasonTableView*>()) {
-    connect(table, &SeasonTableView::copied, this, [this] { emit reported(caption(m_texts, kTableCopied)); });
+    connect(table, &SeasonTableView::copied, this,
+            [this] { emit reported(caption(m_texts, Text::TableCopied)); });
     connect(table, &SeasonTableView::focused, this, [this, table] { m_lastTable = table; });
   }
   relabelWindow();
@@ -123,7 +122,7 @@ QWidget* frmSTATS::makeGames() {
   auto* page = new QWidget(m_tabs);
   m_criteria = new CriteriaPanel(m_texts, page);
   m_games = new SeasonTableView(QStringLiteral("lvwGAMES"), 0, page);
-  setAccessibleNumber(*m_games, kGamesTab);
+  setAccessibleNumber(*m_games, Text::GamesTitle);
   auto* layout = new QVBoxLayout(page);
   layout->setContentsMargins(4, 4, 4, 4);
   layout->setSpacing(6);
@@ -139,7 +138,8 @@ QWidget* frmSTATS::makeGames() {
 }
 
 void frmSTATS::browse() {
-  const QString folder = m_dialogs.chooseFolder(this, caption(m_texts, kBrowseFolders), m_folder->folder());
+  const QString folder =
+      m_dialogs.chooseFolder(this, caption(m_texts, Text::BrowseFolders), m_folder->folder());
   if (!folder.isEmpty())
     readFolder(folder, m_folder->withSubfolders());
 }
@@ -155,7 +155,7 @@ void frmSTATS::readFolder() {
   ScanRequest request;
   request.folder = fromQt(QDir::cleanPath(m_folder->folder()));
   request.withSubfolders = m_folder->withSubfolders();
-  startWork(kLoadingOneGame, kLoadingGames,
+  startWork(Text::LoadingOneGame, Text::LoadingGames,
             [this, &files = m_files, request, watch = m_watch = std::make_shared<ScanWatch>()] {
               auto catalogue = std::make_shared<GameCatalogue>(files);
               const ScanOutcome outcome = catalogue->scan(request, *watch);
@@ -166,12 +166,12 @@ void frmSTATS::readFolder() {
 void frmSTATS::takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue> catalogue) {
   switch (outcome) {
   case ScanOutcome::Done: break;
-  case ScanOutcome::Cancelled: m_problem = kReadingCancelled; return;
-  case ScanOutcome::FolderMissing: m_problem = kFolderMissing; return;
-  case ScanOutcome::FolderUnreadable: m_problem = kFolderUnreadable; return;
+  case ScanOutcome::Cancelled: m_problem = Text::ReadingCancelled; return;
+  case ScanOutcome::FolderMissing: m_problem = Text::NoSuchFolder; return;
+  case ScanOutcome::FolderUnreadable: m_problem = Text::FolderCannotBeRead; return;
   }
   if (catalogue->games().empty())
-    m_problem = kNoGames;
+    m_problem = Text::NoFinishedGame;
   m_countedWrong.clear();
   m_desk.takeCatalogue(std::move(catalogue));
   showCatalogue();
@@ -187,13 +187,13 @@ void frmSTATS::generate() {
   if (isBusy() || !mayCountWrong())
     return;
   m_progressCount = m_desk.listed().size();
-  startWork(kGeneratingOfOne, kGeneratingStatistics,
+  startWork(Text::GeneratingOfOne, Text::GeneratingStatistics,
             [this, order = m_desk.order(), texts = m_texts, // its own: the user may change the language
              watch = m_watch = std::make_shared<ScanWatch>()]() -> BackgroundWork::Delivery {
               auto season = order.carryOut(texts, &watch->isCancelled);
               return [this, order, season, watch] {
                 if (season == nullptr || watch->isCancelled) {
-                  m_problem = kReadingCancelled;
+                  m_problem = Text::ReadingCancelled;
                   return;
                 }
                 m_desk.takeSeason(season, order, m_texts);
@@ -213,7 +213,7 @@ bool frmSTATS::mayCountWrong() {
                        [&](std::size_t place) { return catalogue.games()[place].wrongCount > 0; });
   if (wrong.empty() || wrong == m_countedWrong)
     return true;
-  QString text = toQt(m_texts.withPlaceholder(kCountWrongToo, std::to_string(wrong.size())));
+  QString text = toQt(m_texts.withPlaceholder(Text::CountWrongToo, std::to_string(wrong.size())));
   for (std::size_t i = 0; i < std::min(wrong.size(), kToldGames); ++i) {
     const ListedGame& game = catalogue.games()[wrong[i]];
     text += u'\n' + QFileInfo(toQt(game.path)).fileName() + u'\n' + QStringLiteral("    ") +
@@ -221,7 +221,7 @@ bool frmSTATS::mayCountWrong() {
   }
   if (wrong.size() > kToldGames)
     text += QStringLiteral("\n…");
-  if (m_dialogs.ask(this, caption(m_texts, kSeasonTitle), text)) {
+  if (m_dialogs.ask(this, caption(m_texts, Text::SeasonTitle), text)) {
     m_countedWrong = std::move(wrong);
     return true;
   }
@@ -237,7 +237,7 @@ void frmSTATS::showPerson(const SeasonRow& row, bool isLine) {
   if (isBusy())
     return;
   m_progressCount = static_cast<std::size_t>(row.games);
-  startWork(kLoadingOneOfPerson, kLoadingPerson,
+  startWork(Text::LoadingOneOfPerson, Text::LoadingPerson,
             [this, season = m_desk.season(), row, isLine, texts = m_texts,
              watch = m_watch = std::make_shared<ScanWatch>()]() -> BackgroundWork::Delivery {
               auto person = std::make_shared<const SeasonPerson>(season, row, isLine, texts);
@@ -272,8 +272,8 @@ void frmSTATS::openGame(std::size_t game) {
   emit gameAsked(toQt(m_desk.catalogue()->games()[game].path));
 }
 
-void frmSTATS::startWork(int one, int text, std::function<BackgroundWork::Delivery()> work) {
-  m_problem = 0;
+void frmSTATS::startWork(Text one, Text text, std::function<BackgroundWork::Delivery()> work) {
+  m_problem = Text::None;
   m_progressOne = one;
   m_progressText = text;
   m_work.start(std::move(work));
@@ -284,7 +284,7 @@ void frmSTATS::startWork(int one, int text, std::function<BackgroundWork::Delive
 }
 
 void frmSTATS::showProgress() {
-  const bool isScan = m_progressText == kLoadingGames;
+  const bool isScan = m_progressText == Text::LoadingGames;
   const std::size_t found = isScan ? m_watch->filesFound.load() : m_progressCount;
   m_folder->showProgress(
       toQt(m_texts.withPlaceholder(found == 1 ? m_progressOne : m_progressText, std::to_string(found))),
@@ -309,7 +309,7 @@ void frmSTATS::showCatalogue() {
 void frmSTATS::showList() {
   m_games->showRows(gameListRows(m_desk.catalogue(), m_desk.listed(), m_desk.chosenTeam(), m_texts));
   const GameCatalogue& catalogue = *m_desk.catalogue();
-  const int listedText = catalogue.games().size() == 1 ? kListedOfOne : kListedGames;
+  const Text listedText = catalogue.games().size() == 1 ? Text::ListedOfOne : Text::ListedGames;
   const std::string listed =
       withPlaceholders(m_texts.text(listedText), std::to_string(m_desk.listed().size()),
                        std::to_string(catalogue.games().size()));
@@ -318,9 +318,9 @@ void frmSTATS::showList() {
       std::ranges::count(catalogue.skipped(), SkipReason::NotFinished, &SkippedFile::reason));
   QStringList leftOut;
   if (unfinished > 0)
-    leftOut << toQt(countWords(unfinished, kOneGameNotFinished, kGamesNotFinished, m_texts));
+    leftOut << toQt(countWords(unfinished, Text::OneGameNotFinished, Text::GamesNotFinished, m_texts));
   if (const std::size_t unread = catalogue.skipped().size() - unfinished; unread > 0)
-    leftOut << toQt(countWords(unread, kOneFileNotRead, kFilesNotRead, m_texts));
+    leftOut << toQt(countWords(unread, Text::OneFileNotRead, Text::FilesNotRead, m_texts));
   m_folder->showCounts(toQt(listed), leftOut.join(QStringLiteral("  ·  ")));
   m_criteria->showWhatIsOffered(m_desk, isBusy());
   showNotice();
@@ -336,11 +336,11 @@ void frmSTATS::showSeason() {
 
 void frmSTATS::showNotice() {
   QString notice;
-  if (m_problem != 0)
+  if (m_problem != Text::None)
     notice = toQt(m_texts.withPlaceholder(m_problem, fromQt(m_folder->folder())));
   else if (m_desk.hasCatalogue() && m_desk.isOutdated())
-    notice =
-        toQt(countWords(m_desk.season()->statistics().games().size(), kOutdatedOfOne, kOutdated, m_texts));
+    notice = toQt(countWords(m_desk.season()->statistics().games().size(), Text::OutdatedOfOne,
+                             Text::CriteriaChanged, m_texts));
   m_notice->setText(notice);
   m_notice->setVisible(!notice.isEmpty());
 }
@@ -355,12 +355,12 @@ void frmSTATS::copyShownTable() {
   if (shown == nullptr)
     return;
   copyTable(*shown);
-  emit reported(caption(m_texts, kTableCopied));
+  emit reported(caption(m_texts, Text::TableCopied));
 }
 
 void frmSTATS::relabelWindow() {
   relabel(*this, m_texts);
-  setWindowTitle(caption(m_texts, kSeasonTitle));
+  setWindowTitle(caption(m_texts, Text::SeasonTitle));
   m_criteria->relabelPanel();
   m_games->showColumns(gameListColumns(m_texts));
   m_notRead->showColumns(skippedColumns(m_texts));

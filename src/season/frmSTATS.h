@@ -67,7 +67,7 @@ class frmSTATS : public ChildWindow {
   void takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue> catalogue);
 
   // The texts are for one and for several games.
-  void startWork(int one, int text, std::function<BackgroundWork::Delivery()> work);
+  void startWork(Text one, Text text, std::function<BackgroundWork::Delivery()> work);
   void showProgress();
   void endWork();
   void showCatalogue();
@@ -82,11 +82,11 @@ class frmSTATS : public ChildWindow {
   Dialogs& m_dialogs;
   SeasonDesk m_desk;
   std::shared_ptr<ScanWatch> m_watch;      // of the scan under way
-  int m_progressText = 0;                  // of the work under way
-  int m_progressOne = 0;                   // the same for one game
+  Text m_progressText = Text::None;        // of the work under way
+  Text m_progressOne = Text::None;         // the same for one game
   std::size_t m_progressCount = 0;         // of games in it, where it is no scan
   std::vector<std::size_t> m_countedWrong; // games that the user counts although they cannot be right
-  int m_problem = 0;                       // text of what went wrong last; 0: nothing
+  Text m_problem = Text::None;             // what went wrong last
   QTimer m_poll;
 
   FolderPanel* m_folder;

@@ -8,10 +8,10 @@ constexpr std::string_view kNotOffered = "---";
 
 } // namespace
 
-std::string_view choiceName(int firstText, int index, const Texts& texts) {
+std::string_view choiceName(Text firstText, int index, const Texts& texts) {
   if (index < 0 || index >= kChoiceCount)
     return {};
-  const std::string_view name = texts.text(firstText + index);
+  const std::string_view name = texts.text(textBehind(firstText, index));
   return name == kNotOffered ? std::string_view() : name;
 }
 
@@ -24,7 +24,7 @@ std::string positionText(int position, const Texts& texts) {
   return std::string(name.empty() ? kPositionWithoutName : name);
 }
 
-std::vector<int> offeredChoices(int firstText, const Texts& texts) {
+std::vector<int> offeredChoices(Text firstText, const Texts& texts) {
   std::vector<int> offered;
   for (int index = 0; index < kChoiceCount; ++index) {
     if (!choiceName(firstText, index, texts).empty())
@@ -33,7 +33,7 @@ std::vector<int> offeredChoices(int firstText, const Texts& texts) {
   return offered;
 }
 
-int nextChoice(int firstText, int index, const Texts& texts) {
+int nextChoice(Text firstText, int index, const Texts& texts) {
   int next = index < 0 || index >= kChoiceCount ? kChoiceCount - 1 : index;
   for (int tried = 0; tried < kChoiceCount; ++tried) {
     next = (next + 1) % kChoiceCount;

@@ -11,18 +11,18 @@
 namespace hooptab {
 
 inline constexpr int kChoiceCount = 10;
-inline constexpr int kFirstGameTypeText = 1250;
-inline constexpr int kFirstPositionText = 1260;
+inline constexpr Text kFirstGameTypeText = Text::Practice;
+inline constexpr Text kFirstPositionText = Text::PositionCentre;
 inline constexpr int kNoPosition = 9;
 inline constexpr int kOtherGameType = 9;
 inline constexpr const char* kPositionWithoutName = "na"; // in every language
 
 // Ascending.
-[[nodiscard]] std::vector<int> offeredChoices(int firstText, const Texts& texts);
+[[nodiscard]] std::vector<int> offeredChoices(Text firstText, const Texts& texts);
 // The name of an index in the language in use; empty for one that is not offered or out of range.
-[[nodiscard]] std::string_view choiceName(int firstText, int index, const Texts& texts);
+[[nodiscard]] std::string_view choiceName(Text firstText, int index, const Texts& texts);
 // The next one offered, from 9 back to 0. Out of range counts as 9.
-[[nodiscard]] int nextChoice(int firstText, int index, const Texts& texts);
+[[nodiscard]] int nextChoice(Text firstText, int index, const Texts& texts);
 
 // The type that a game counts as: one without a name is "other".
 [[nodiscard]] constexpr int gameTypeOf(int stored) {

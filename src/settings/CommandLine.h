@@ -21,10 +21,10 @@ namespace hooptab {
 
 // Why a command line is not understood: a text and what stands in its places; no text where it is.
 struct WrongUse {
-  int text = 0;
+  Text text = Text::None;
   std::string x = {};
   std::string y = {};
-  explicit operator bool() const { return text != 0; }
+  explicit operator bool() const { return text != Text::None; }
 };
 [[nodiscard]] std::string inWords(const WrongUse& wrong, const Texts& texts);
 

@@ -9,7 +9,7 @@
 
 namespace hooptab {
 
-// `one` and `many` are numbers of texts; "XXX" of them is the count.
-[[nodiscard]] std::string countWords(std::size_t count, int one, int many, const Texts& texts);
+// "XXX" of both texts is the count.
+[[nodiscard]] std::string countWords(std::size_t count, Text one, Text many, const Texts& texts);
 
 } // namespace hooptab

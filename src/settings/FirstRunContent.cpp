@@ -126,8 +126,8 @@ ProfileBatch firstRunContent(const Texts& texts, const std::string& folder) {
   batch.set("CONFIGURATION", "COULEURBOX", std::to_string(kFirstColours.box));
   batch.set("CONFIGURATION", "COULEUR3PTS", std::to_string(kFirstColours.threePoints));
   batch.set("CONFIGURATION", "COULEURBUT", std::to_string(kFirstColours.buttons));
-  batch.set("CONFIGURATION", "STATU1", std::string("U1-").append(texts.text(1292)));
-  batch.set("CONFIGURATION", "STATU2", std::string("U2-").append(texts.text(1293)));
+  batch.set("CONFIGURATION", "STATU1", std::string("U1-").append(texts.text(Text::OwnStatisticOne)));
+  batch.set("CONFIGURATION", "STATU2", std::string("U2-").append(texts.text(Text::OwnStatisticTwo)));
   add(batch, "CONFIGURATION", choices);
   add(batch, "TEAM", kTeams);
   add(batch, "1", kLynx);

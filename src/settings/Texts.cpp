@@ -17,8 +17,8 @@ struct Entry {
   std::string_view text;
 };
 
-// `1001 "text"`: the text ends at the last quote, so that quotes inside need no escaping. Anything else is no
-// entry.
+// `1001 Name "text"`: the text ends at the last quote, so that quotes inside need no escaping. Anything else
+// is no entry.
 bool readEntry(std::string_view line, Entry& entry) {
   const auto digits = std::from_chars(line.data(), line.data() + line.size(), entry.number);
   if (digits.ec != std::errc{})
@@ -57,22 +57,23 @@ void Texts::load(std::string_view table, Language language) {
   }
 }
 
-std::string_view Texts::text(int number, Language language) const {
+std::string_view Texts::text(Text text, Language language) const {
   const std::vector<std::string>& texts = m_texts[static_cast<std::size_t>(language)];
+  const int number = static_cast<int>(text);
   if (number < kFirstNumber || static_cast<std::size_t>(number - kFirstNumber) >= kSize)
     return {};
   return texts[static_cast<std::size_t>(number - kFirstNumber)];
 }
 
-std::string Texts::withPlaceholder(int number, std::string_view replacement) const {
-  return Module1::withPlaceholder(text(number), replacement);
+std::string Texts::withPlaceholder(Text text, std::string_view replacement) const {
+  return Module1::withPlaceholder(this->text(text), replacement);
 }
 
-std::string Texts::caption(int number) const {
+std::string Texts::caption(Text text) const {
   std::string result;
   if (m_showsNumbers)
-    result = std::to_string(number + offset()) + ' ';
-  return result.append(text(number));
+    result = std::to_string(static_cast<int>(text) + offset()) + ' ';
+  return result.append(this->text(text));
 }
 
 std::vector<int> Texts::numbers() const {

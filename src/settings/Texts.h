@@ -1,7 +1,9 @@
-// The string table: every caption and message by number, English from 1001, French 4000 higher. Holds the
-// language in use; a number without text gives the empty text. The tables themselves are
-// src/resources/texts_en.txt and texts_fr.txt.
+// The string table: every caption and message, in English and French. Holds the language in use; a text that
+// a table lacks is empty. The tables themselves are src/resources/texts_en.txt and texts_fr.txt; their names
+// are the values of Text, their numbers go from 1001 in English and are 4000 higher in French.
 #pragma once
+
+#include "settings/Text.h"
 
 #include <cstdint>
 #include <string>
@@ -9,6 +11,11 @@
 #include <vector>
 
 namespace hooptab {
+
+// The text that stands `count` numbers behind `first`, for the rows of choices that the table keeps together.
+[[nodiscard]] constexpr Text textBehind(Text first, int count) {
+  return static_cast<Text>(static_cast<int>(first) + count);
+}
 
 enum class Language : std::uint8_t { English, French };
 
@@ -24,14 +31,14 @@ class Texts {
   void setLanguage(Language language) { m_language = language; }
   int offset() const { return m_language == Language::French ? kFrenchOffset : 0; }
 
-  // `number` is the English one (1001 and up). UTF-8; the view holds as long as the table.
-  [[nodiscard]] std::string_view text(int number) const { return text(number, m_language); }
-  [[nodiscard]] std::string_view text(int number, Language language) const;
-  [[nodiscard]] std::string withPlaceholder(int number, std::string_view replacement) const; // for "XXX"
+  // UTF-8; the view holds as long as the table.
+  [[nodiscard]] std::string_view text(Text which) const { return text(which, m_language); }
+  [[nodiscard]] std::string_view text(Text text, Language language) const;
+  [[nodiscard]] std::string withPlaceholder(Text text, std::string_view replacement) const; // for "XXX"
 
   // Diagnostic display: while it is on, captions are shown with their number in front.
   void showNumbers(bool show) { m_showsNumbers = show; }
-  [[nodiscard]] std::string caption(int number) const;
+  [[nodiscard]] std::string caption(Text text) const;
 
   [[nodiscard]] std::vector<int> numbers() const; // of the English table, ascending
 

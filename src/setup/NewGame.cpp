@@ -15,26 +15,9 @@ namespace {
 
 constexpr std::string_view kEnding = ".GAM";
 
-constexpr int kInvalidMinutes = 1130;
-constexpr int kInvalidPeriods = 1131;
-constexpr int kInvalidBonus = 1132;
-constexpr int kInvalidPersonalFouls = 1133;
-constexpr int kInvalidTechnicalFouls = 1134;
-constexpr int kChooseTeams = 1135;
-constexpr int kChooseInputType = 1205;
-constexpr int kTooManyPlayers[2] = {1274, 1275};
-constexpr int kSideNames[2] = {1027, 1028};
-constexpr int kOwnAbbreviations[2] = {2558, 2559};
-constexpr int kInvalidNumber = 1171;
-constexpr int kSameTeam = 1406;
-constexpr int kFinishedGameIsLost = 1860;
-constexpr int kUnfinishedGameIsLost = 1861;
-constexpr int kOtherFileIsLost = 1862;
-constexpr int kEnterDate = 1869;
-constexpr int kChooseGameType = 1870;
-constexpr int kChooseMainTeam = 1871;
-constexpr int kNumberTaken = 2531;
-constexpr int kNameTooLong = 2533;
+constexpr Text kTooManyPlayers[2] = {Text::VisitorsTooMany, Text::HomeTooMany};
+constexpr Text kSideNames[2] = {Text::Visitor, Text::Home};
+constexpr Text kOwnAbbreviations[2] = {Text::VisitorCapitals, Text::HomeCapitals};
 
 // Of a team without a record, by side: told apart at a glance.
 constexpr std::uint32_t kOwnColours[2] = {0x8C7A1F, kDefaultTeamColour};
@@ -175,7 +158,7 @@ NewGame::Player* NewGame::wearerOf(int side, std::string_view number) {
 
 QuickRoster NewGame::takeNumbers(int side, std::string_view typed) {
   QuickRoster roster = quickRoster(typed);
-  if (roster.problem != 0 || roster.jerseys.empty())
+  if (roster.problem != Text::None || roster.jerseys.empty())
     return roster;
   if (sides[side].team == kNone)
     chooseOwnTeam(side);
@@ -195,15 +178,15 @@ QuickRoster NewGame::takeNumbers(int side, std::string_view typed) {
 std::string NewGame::addPlayer(int side, std::string_view number, std::string_view name) {
   const std::string jersey(Module1::trimmed(number));
   if (!isJersey(jersey))
-    return std::string(m_texts.text(kInvalidNumber));
+    return std::string(m_texts.text(Text::InvalidNumber));
   if (const Player* wearer = wearerOf(side, jersey)) {
     const std::string shown(Module1::trimmed(wearer->number + ' ' + wearer->name));
-    return withPlaceholders(m_texts.text(kNumberTaken), jersey, shown);
+    return withPlaceholders(m_texts.text(Text::NumberWorn), jersey, shown);
   }
   Player player{
       .number = jersey, .name = std::string(Module1::trimmed(name)), .isChecked = true, .isAdded = true};
   if (!fitsInValue(playerValue(RosterPlayer{player.number, player.position, player.name})))
-    return std::string(m_texts.text(kNameTooLong));
+    return std::string(m_texts.text(Text::NameTooLong));
   if (sides[side].team == kNone)
     chooseOwnTeam(side);
   sides[side].players.push_back(std::move(player));
@@ -220,46 +203,46 @@ void NewGame::stepPosition(int side, std::size_t player) {
   position = nextChoice(kFirstPositionText, position, m_texts);
 }
 
-int NewGame::missing() const {
+Text NewGame::missing() const {
   if (sides[0].team == kNone || sides[1].team == kNone)
-    return kChooseTeams;
+    return Text::ChooseTeams;
   if (Module1::trimmed(date).empty())
-    return kEnterDate;
+    return Text::EnterDate;
   if (gameType == kNone)
-    return kChooseGameType;
+    return Text::ChooseGameType;
   if (inputType == kNone)
-    return kChooseInputType;
+    return Text::ChooseInputType;
   if (kInputTypes.at(static_cast<std::size_t>(inputType)).usesKeypad && mainTeam == kNone)
-    return kChooseMainTeam;
-  return 0;
+    return Text::ChooseMainTeam;
+  return Text::None;
 }
 
-int NewGame::problem() const {
+Text NewGame::problem() const {
   // No minutes at all are a game without time.
   const int minutes = Module1::leadingNumber(rules.minutesPerPeriod);
   if (minutes < 0 || minutes > kMostMinutes)
-    return kInvalidMinutes;
+    return Text::InvalidMinutes;
   if (Module1::leadingNumber(rules.periods) <= 0)
-    return kInvalidPeriods;
+    return Text::InvalidPeriods;
   const bool isOfThisGame =
       std::ranges::any_of(m_ownTeams, [](const OwnTeam& own) { return own.team != kNone; });
   if (sides[0].team == sides[1].team || (isOfThisGame && listText(0) == listText(1)))
-    return kSameTeam;
+    return Text::SameTeam;
   if (Module1::leadingNumber(rules.bonus) <= 0)
-    return kInvalidBonus;
+    return Text::InvalidBonus;
   if (inputType == kNone)
-    return kChooseInputType;
+    return Text::ChooseInputType;
   if (Module1::leadingNumber(rules.personalFoulLimit) <= 0)
-    return kInvalidPersonalFouls;
+    return Text::InvalidPersonalFouls;
   if (Module1::leadingNumber(rules.technicalFoulLimit) <= 0)
-    return kInvalidTechnicalFouls;
+    return Text::InvalidTechnicalFouls;
   if (sides[0].team == kNone || sides[1].team == kNone)
-    return kChooseTeams;
+    return Text::ChooseTeams;
   for (int side = 0; side < 2; ++side) {
     if (sides[side].checkedPlayers() > kMostPlayers)
       return kTooManyPlayers[side];
   }
-  return 0;
+  return Text::None;
 }
 
 const TeamEntry* NewGame::entry(int side) const {
@@ -288,10 +271,10 @@ std::string NewGame::overwriteQuestion(const std::string& path) const {
   if (problem == GameFileProblem::Absent)
     return {};
   if (problem != GameFileProblem::None)
-    return m_texts.withPlaceholder(kOtherFileIsLost, path);
+    return m_texts.withPlaceholder(Text::OtherFileIsLost, path);
   const std::string game = lost.abbreviation[0] + " - " + lost.abbreviation[1] + " (" + lost.date + ')';
-  return withPlaceholders(m_texts.text(lost.isFinished ? kFinishedGameIsLost : kUnfinishedGameIsLost), path,
-                          game);
+  return withPlaceholders(
+      m_texts.text(lost.isFinished ? Text::FinishedGameIsLost : Text::UnfinishedGameIsLost), path, game);
 }
 
 GameDetails NewGame::details() const {

@@ -20,12 +20,12 @@ namespace hooptab {
 
 // An input type by its position in the list. Live input with and without the keypad is the same in the file.
 struct InputType {
-  int text;
+  Text text;
   int stored;
   bool usesKeypad;
 };
 inline constexpr std::array<InputType, 3> kInputTypes = {
-    {{1272, 0, false}, {1273, 0, true}, {1271, 1, false}}};
+    {{Text::Live, 0, false}, {Text::LiveAndKeypad, 0, true}, {Text::Manual, 1, false}}};
 
 // What the next game begins with.
 struct LastChoices {
@@ -98,11 +98,11 @@ class NewGame {
   // One player more for this game alone, with or without a name. Returns why he cannot be; else nothing.
   [[nodiscard]] std::string addPlayer(int side, std::string_view number, std::string_view name);
 
-  // The text that names what has to be chosen before the game can be accepted; 0 for nothing.
-  [[nodiscard]] int missing() const;
-  [[nodiscard]] bool canAccept() const { return missing() == 0; }
-  // The text of the first thing that is wrong; 0 for nothing.
-  [[nodiscard]] int problem() const;
+  // The text that names what has to be chosen before the game can be accepted; none for nothing.
+  [[nodiscard]] Text missing() const;
+  [[nodiscard]] bool canAccept() const { return missing() == Text::None; }
+  // The first thing that is wrong; none for nothing.
+  [[nodiscard]] Text problem() const;
 
   [[nodiscard]] std::string proposedFileName() const; // bare, fit for a file name
   // What has to be asked before a file is written over: names the game that would be lost. Empty where

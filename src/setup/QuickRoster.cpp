@@ -8,14 +8,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kNoNumber = 2544;
-constexpr int kTwice = 2545;
-constexpr int kWrittenOtherwise = 2546;
-constexpr int kTooMany = 2547;
-
-} // namespace
+namespace {} // namespace
 
 QuickRoster quickRoster(std::string_view typed) {
   constexpr std::string_view kSeparators = " ,;\t\r\n";
@@ -24,19 +17,19 @@ QuickRoster quickRoster(std::string_view typed) {
   while ((begin = typed.find_first_not_of(kSeparators, begin)) != std::string_view::npos) {
     const std::string_view part =
         typed.substr(begin, std::min(typed.find_first_of(kSeparators, begin), typed.size()) - begin);
-    const auto wrong = [&](int problem, std::string other = {}) {
+    const auto wrong = [&](Text problem, std::string other = {}) {
       return QuickRoster{
           .problem = problem, .part = std::string(part), .place = begin, .other = std::move(other)};
     };
     if (!isJersey(part))
-      return wrong(kNoNumber);
+      return wrong(Text::NoSuchNumber);
     const auto same = std::ranges::find_if(roster.jerseys, [&](const std::string& jersey) {
       return jersey == part || Roster::areOneNumber(jersey, part);
     });
     if (same != roster.jerseys.end())
-      return wrong(*same == part ? kTwice : kWrittenOtherwise, *same);
+      return wrong(*same == part ? Text::NumberTwice : Text::WrittenOtherwise, *same);
     if (roster.jerseys.size() == QuickRoster::kMostPlayers)
-      return wrong(kTooMany);
+      return wrong(Text::OneTooMany);
     roster.jerseys.emplace_back(part);
     begin += part.size();
   }
@@ -44,7 +37,7 @@ QuickRoster quickRoster(std::string_view typed) {
 }
 
 std::string QuickRoster::words(const Texts& texts) const {
-  return problem == 0 ? std::string() : withPlaceholders(texts.text(problem), part, other);
+  return problem == Text::None ? std::string() : withPlaceholders(texts.text(problem), part, other);
 }
 
 } // namespace hooptab

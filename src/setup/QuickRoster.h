@@ -14,7 +14,7 @@ struct QuickRoster {
   static constexpr std::size_t kMostPlayers = 15;
 
   std::vector<std::string> jerseys = {}; // as typed, in their order; none with a problem
-  int problem = 0;                       // number of a text; 0 where all is well
+  Text problem = Text::None;             // none where all is well
   // Of the problem: the first part of what was typed that is wrong, and where it stands, in bytes.
   std::string part = {};
   std::size_t place = 0;

@@ -30,7 +30,7 @@ void BandChoice::paintEvent(QPaintEvent*) {
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
 }
 
-SideBand::SideBand(int caption, BandChoice& choice, QWidget* parent)
+SideBand::SideBand(Text caption, BandChoice& choice, QWidget* parent)
     : ColourBand(parent), m_side(new PlainLabel(this)), m_name(new ElidedLabel(this)) {
   const Measure& measure = Theme::measure();
   setTextNumber(*m_side, caption);

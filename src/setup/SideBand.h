@@ -3,6 +3,7 @@
 #pragma once
 
 #include "appearance/ColourBand.h"
+#include "settings/Text.h"
 
 #include <QRadioButton>
 
@@ -22,8 +23,8 @@ class BandChoice : public QRadioButton {
 
 class SideBand : public ColourBand {
  public:
-  // `caption` is the number of the side's text. The choice becomes a part of the band.
-  SideBand(int caption, BandChoice& choice, QWidget* parent);
+  // `caption` is the side's. The choice becomes a part of the band.
+  SideBand(Text caption, BandChoice& choice, QWidget* parent);
 
   void showTeam(const QString& name, const QColor& colour); // an invalid colour: no team
 

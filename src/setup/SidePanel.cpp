@@ -20,28 +20,7 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSideNames[2] = {1027, 1028};
-constexpr int kActivePlayers = 1121;
-constexpr int kMainTeam = 1129;
-constexpr int kFullName = 1157;
-constexpr int kLevel = 1159;
-constexpr int kCheckAll = 1557;
-constexpr int kUncheckAll = 1558;
-constexpr int kCount = 1864;
-constexpr int kTooMany = 1865;
-constexpr int kRowHint = 1866;
-constexpr int kCountHint = 1873;
-constexpr int kPlayersTonight = 2550;
-constexpr int kNumbersHint = 2551;
-constexpr int kNumbersToolTip = 2552;
-constexpr int kChooseTeam = 2553;
-constexpr int kOtherTeam = 2554;
-constexpr int kOtherTeamHint = 2555;
-constexpr int kPlayer = 2556;
-constexpr int kPlayerHint = 2557;
-constexpr int kJersey = 2587;
-constexpr int kPlayerName = 2588;
-constexpr int kNumbers = 2600;
+constexpr Text kSideNames[2] = {Text::Visitor, Text::Home};
 constexpr int kLongestNumber = 3;
 constexpr int kWarningSign = 0x26A0;
 
@@ -53,8 +32,8 @@ SidePanel::SidePanel(NewGame& game, int side, const Texts& texts, QWidget* paren
       m_teams(new TeamList(named("lstequipes"), QStringLiteral("-"), this)) {
   setAccessibleNumber(*this, kSideNames[side]);
   m_main->setObjectName(named("Option1"));
-  setTextNumber(*m_main, kMainTeam);
-  setToolTipNumber(*m_main, kMainTeam);
+  setTextNumber(*m_main, Text::MainTeam);
+  setToolTipNumber(*m_main, Text::MainTeam);
   // Enter in the search goes to the list, in the list nowhere.
   m_teams->installEventFilter(new KeepsEnter(this));
 
@@ -98,7 +77,7 @@ QString SidePanel::named(const char* name) const {
   return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(m_side);
 }
 
-QLineEdit* SidePanel::addField(const char* name, int text) {
+QLineEdit* SidePanel::addField(const char* name, Text text) {
   auto* field = new QLineEdit(this);
   field->setObjectName(named(name));
   setAccessibleNumber(*field, text);
@@ -109,7 +88,7 @@ QLayout* SidePanel::makeFields() {
   auto* layout = new QGridLayout;
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setVerticalSpacing(Theme::measure()(2));
-  const auto addText = [&](const char* name, int text, int row, int columns) {
+  const auto addText = [&](const char* name, Text text, int row, int columns) {
     QLineEdit* field = addField(name, text);
     QLabel* label = captionFor(*field, text);
     label->setFont(Theme::font(Type::Small));
@@ -120,8 +99,8 @@ QLayout* SidePanel::makeFields() {
     connect(field, &QLineEdit::textEdited, this, &SidePanel::takeNames);
     return field;
   };
-  m_name = addText("txtNOMEQUIPE", kFullName, 0, 2);
-  m_category = addText("txtCATEGORIE", kLevel, 2, 1);
+  m_name = addText("txtNOMEQUIPE", Text::FullName, 0, 2);
+  m_category = addText("txtCATEGORIE", Text::Level, 2, 1);
   connect(m_name, &QLineEdit::textChanged, this, [this](const QString& typed) {
     m_game.sides[m_side].name = fromQt(typed);
     showBand();
@@ -131,8 +110,8 @@ QLayout* SidePanel::makeFields() {
   auto* other = new QPushButton(this);
   other->setObjectName(named("cmdOTHER"));
   other->setAutoDefault(false);
-  setTextNumber(*other, kOtherTeam);
-  setToolTipNumber(*other, kOtherTeamHint);
+  setTextNumber(*other, Text::OtherTeam);
+  setToolTipNumber(*other, Text::OtherTeamHint);
   connect(other, &QPushButton::clicked, this, &SidePanel::takeOwnTeam);
   layout->addWidget(other, 3, 1);
   layout->setColumnStretch(0, 1);
@@ -143,12 +122,12 @@ QLayout* SidePanel::makeFields() {
 QLayout* SidePanel::makePlayers() {
   auto* title = new PlainLabel(this);
   title->setFont(Theme::font(Type::Name));
-  setTextNumber(*title, kPlayersTonight);
+  setTextNumber(*title, Text::PlayersTonight);
   auto* head = new QWidget(this);
   head->installEventFilter(new KeepsEnter(head));
-  m_numbers = addField("txtNUMBERS", kNumbers);
-  setPlaceholderNumber(*m_numbers, kNumbersHint);
-  setToolTipNumber(*m_numbers, kNumbersToolTip);
+  m_numbers = addField("txtNUMBERS", Text::Numbers);
+  setPlaceholderNumber(*m_numbers, Text::NumbersHint);
+  setToolTipNumber(*m_numbers, Text::NumbersToolTip);
   connect(m_numbers, &QLineEdit::editingFinished, this, &SidePanel::takeNumbers);
   connect(m_numbers, &QLineEdit::textEdited, this, [this] { m_problem->clear(); });
   auto* row = new QHBoxLayout(head);
@@ -158,8 +137,8 @@ QLayout* SidePanel::makePlayers() {
 
   m_table = new SidePlayersTable(m_model, named("lvwJOUEURS"), this);
   title->setBuddy(m_table);
-  setAccessibleNumber(*m_table, kActivePlayers);
-  setToolTipNumber(*m_table, kRowHint);
+  setAccessibleNumber(*m_table, Text::ActivePlayers);
+  setToolTipNumber(*m_table, Text::RowHint);
 
   auto* layout = new QVBoxLayout;
   layout->setSpacing(Theme::measure()(4));
@@ -178,18 +157,20 @@ QLayout* SidePanel::makeFoot() {
 
   auto* adding = new QWidget(this);
   adding->installEventFilter(new KeepsEnter(adding));
-  m_jersey = addField("txtJERSEY", kJersey);
+  m_jersey = addField("txtJERSEY", Text::Jersey);
   m_jersey->setMaxLength(kLongestNumber);
   m_jersey->setFixedWidth(measure(72, 88));
-  m_player = addField("txtPLAYER", kPlayerName);
+  m_player = addField("txtPLAYER", Text::NameMayBeEmpty);
   limitField(*m_player, m_texts, cinifile::kLongestValue - std::string_view("9,").size());
-  for (const auto& [field, hint] : {std::pair(m_jersey, kJersey), std::pair(m_player, kPlayerName)}) {
+  for (const auto& [field, hint] :
+       {std::pair(m_jersey, Text::Jersey), std::pair(m_player, Text::NameMayBeEmpty)}) {
     setPlaceholderNumber(*field, hint);
     setToolTipNumber(*field, hint);
     connect(field, &QLineEdit::returnPressed, this, &SidePanel::addPlayer);
     connect(field, &QLineEdit::textEdited, this, [this] { m_problem->clear(); });
   }
-  QPushButton* add = iconButton(fromQt(named("cmdADD")).c_str(), kPlayer, kPlayerHint, "add", adding);
+  QPushButton* add =
+      iconButton(fromQt(named("cmdADD")).c_str(), Text::PlayerHead, Text::PlayerHint, "add", adding);
   connect(add, &QPushButton::clicked, this, &SidePanel::addPlayer);
   auto* row = new QHBoxLayout(adding);
   row->setContentsMargins(0, 0, 0, 0);
@@ -200,9 +181,9 @@ QLayout* SidePanel::makeFoot() {
   auto* foot = new QHBoxLayout;
   m_count = new ElidedLabel(this);
   m_count->setObjectName(named("lblCOUNT"));
-  setToolTipNumber(*m_count, kCountHint);
+  setToolTipNumber(*m_count, Text::CountHint);
   foot->addWidget(m_count, 1);
-  const auto addButton = [&](const char* name, int text, bool isChecked) {
+  const auto addButton = [&](const char* name, Text text, bool isChecked) {
     auto* button = new QPushButton(this);
     button->setObjectName(named(name));
     button->setAutoDefault(false);
@@ -211,8 +192,8 @@ QLayout* SidePanel::makeFoot() {
     foot->addWidget(button);
     connect(button, &QPushButton::clicked, &m_model, [this, isChecked] { m_model.checkAll(isChecked); });
   };
-  addButton("cmdALL", kCheckAll, true);
-  addButton("cmdNONE", kUncheckAll, false);
+  addButton("cmdALL", Text::CheckAll, true);
+  addButton("cmdNONE", Text::UncheckAll, false);
 
   auto* layout = new QVBoxLayout;
   layout->setSpacing(measure(4));
@@ -273,7 +254,7 @@ void SidePanel::takeNumbers() {
   const bool hadTeam = m_game.sides[m_side].team != NewGame::kNone;
   const QuickRoster roster = m_game.takeNumbers(m_side, fromQt(m_numbers->text()));
   m_problem->setText(toQt(roster.words(m_texts)));
-  if (roster.problem != 0) // before which stand digits and separators alone, a byte each
+  if (roster.problem != Text::None) // before which stand digits and separators alone, a byte each
     return m_numbers->setSelection(static_cast<int>(roster.place),
                                    static_cast<int>(toQt(roster.part).size()));
   m_numbersTaken = fromQt(m_numbers->text());
@@ -333,7 +314,7 @@ void SidePanel::showPlayers() {
 void SidePanel::showBand() {
   const NewGame::Side& side = m_game.sides[m_side];
   if (side.team == NewGame::kNone)
-    m_band->showTeam(caption(m_texts, kChooseTeam), {});
+    m_band->showTeam(caption(m_texts, Text::ChooseTeam), {});
   else
     m_band->showTeam(toQt(side.name), colourOf(side.colour));
 }
@@ -344,8 +325,8 @@ void SidePanel::showCount() {
   const int checked = side.checkedPlayers();
   const bool isTooMany = checked > NewGame::kMostPlayers;
   const QString count =
-      toQt(withPlaceholders(m_texts.caption(isTooMany ? kTooMany : kCount), std::to_string(checked),
-                            std::to_string(NewGame::kMostPlayers)));
+      toQt(withPlaceholders(m_texts.caption(isTooMany ? Text::TooManyPlayers : Text::CountOf),
+                            std::to_string(checked), std::to_string(NewGame::kMostPlayers)));
   m_count->setText(isTooMany ? QChar(kWarningSign) + QStringLiteral(" ") + count : count);
   m_count->setForegroundRole(isTooMany ? QPalette::BrightText : QPalette::WindowText);
   QFont font = this->font();

@@ -40,7 +40,7 @@ class SidePanel : public Card {
   QLayout* makeFields();
   QLayout* makePlayers();
   QLayout* makeFoot();
-  QLineEdit* addField(const char* name, int text);
+  QLineEdit* addField(const char* name, Text text);
   void takeNames();
   void takeOwnTeam();
   void takeNumbers();

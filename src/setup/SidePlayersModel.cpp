@@ -9,20 +9,17 @@ namespace hooptab {
 namespace {
 
 // By column; the index of a position is for readers of the model alone.
-constexpr int kHeaders[SidePlayersModel::ColumnCount] = {1838, 1839, 1023, 1839};
-constexpr int kRowHint = 1866;
-constexpr int kNoJersey = 1867;
-constexpr int kNumberTaken = 1868;
-constexpr int kNumberOtherwise = 2462;
+constexpr Text kHeaders[SidePlayersModel::ColumnCount] = {Text::Number, Text::Position, Text::PlayerName,
+                                                          Text::Position};
 
-int hint(const NewGame::Player& player) {
+Text hint(const NewGame::Player& player) {
   switch (player.eligibility) {
-  case NewGame::Eligibility::NoJersey: return kNoJersey;
-  case NewGame::Eligibility::NumberTaken: return kNumberTaken;
-  case NewGame::Eligibility::NumberWrittenOtherwise: return kNumberOtherwise;
+  case NewGame::Eligibility::NoJersey: return Text::NoJersey;
+  case NewGame::Eligibility::NumberTaken: return Text::NumberAbove;
+  case NewGame::Eligibility::NumberWrittenOtherwise: return Text::NumberOtherwise;
   case NewGame::Eligibility::CanPlay: break;
   }
-  return kRowHint;
+  return Text::RowHint;
 }
 
 } // namespace

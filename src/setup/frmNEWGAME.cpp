@@ -36,14 +36,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kGames = 1058;
-constexpr int kErrorTitle = 1060;
-constexpr int kSaveGameAs = 1138;
-constexpr int kWarningTitle = 1139;
-constexpr int kWriteFailed = 1863;
-
-constexpr int kRecordedElsewhere = 1913;
-
 constexpr QSize kRoomyWindow(1480, 880);
 constexpr QSize kRoomyWideWindow(1720, 960);
 constexpr QSize kAroundWindow(26, 68); // title bar and edges
@@ -61,7 +53,7 @@ frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts,
     : QDialog(parent), m_settings(settings), m_texts(texts), m_dialogs(dialogs), m_claim(std::move(claim)),
       m_game(teams, settings, texts, fromQt(QDate::currentDate().toString(dateFormat())), last) {
   setObjectName(QStringLiteral("frmNEWGAME"));
-  setTextNumber(*this, 1140);
+  setTextNumber(*this, Text::NewGame);
   setModal(true);
 
   const Measure& measure = Theme::measure();
@@ -132,7 +124,7 @@ QWidget* frmNEWGAME::makeColumn() {
   return column;
 }
 
-QGridLayout* frmNEWGAME::addCard(Card& card, int title) {
+QGridLayout* frmNEWGAME::addCard(Card& card, Text title) {
   const Measure& measure = Theme::measure();
   setAccessibleNumber(card, title);
   auto* head = new PlainLabel(&card);
@@ -158,7 +150,7 @@ QLineEdit* frmNEWGAME::addField(const char* name, std::string& target,
   return field;
 }
 
-void frmNEWGAME::place(QGridLayout& card, QWidget& field, int text, Place place) {
+void frmNEWGAME::place(QGridLayout& card, QWidget& field, Text text, Place place) {
   const int columns = place == Place::Whole ? 2 : 1;
   const int column = place == Place::Right ? 1 : 0;
   const int row = place == Place::Right ? card.rowCount() - 2 : card.rowCount();
@@ -171,7 +163,7 @@ void frmNEWGAME::place(QGridLayout& card, QWidget& field, int text, Place place)
 
 QWidget* frmNEWGAME::makeGameFields() {
   auto* card = new Card(this);
-  QGridLayout& layout = *addCard(*card, 1551);
+  QGridLayout& layout = *addCard(*card, Text::GameCard);
 
   m_date = addField("txtDATE", m_game.date);
   m_picker = new QDateEdit(card);
@@ -184,16 +176,16 @@ QWidget* frmNEWGAME::makeGameFields() {
   calendar->setMinimumSize(kCalendar);
   for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
     calendar->setWeekdayTextFormat(day, {}); // Qt's own red is unreadable on dark ground
-  setAccessibleNumber(*m_picker, 1872);
-  setToolTipNumber(*m_picker, 1872);
-  place(layout, *m_date, 1550, Place::Left);
+  setAccessibleNumber(*m_picker, Text::CalendarTip);
+  setToolTipNumber(*m_picker, Text::CalendarTip);
+  place(layout, *m_date, Text::Date, Place::Left);
   auto* date = new QHBoxLayout;
   date->setSpacing(Theme::measure()(4));
   date->addWidget(m_date);
   date->addWidget(m_picker);
   layout.addLayout(date, layout.rowCount() - 1, 0);
 
-  const auto addChoice = [&](const char* name, int text, int& target, Place where) {
+  const auto addChoice = [&](const char* name, Text text, int& target, Place where) {
     auto* choice = new QComboBox(card);
     choice->setObjectName(QLatin1String(name));
     place(layout, *choice, text, where);
@@ -203,13 +195,13 @@ QWidget* frmNEWGAME::makeGameFields() {
     });
     return choice;
   };
-  m_type = addChoice("lstTYPEPARTIE", 1122, m_game.gameType, Place::Right);
-  m_input = addChoice("typeinput", 1206, m_game.inputType, Place::Whole);
-  place(layout, *addField("txtENDROIT", m_game.place), 1016, Place::Whole);
-  place(layout, *addField("txtBY", m_game.statistician), 1069, Place::Whole);
+  m_type = addChoice("lstTYPEPARTIE", Text::GameType, m_game.gameType, Place::Right);
+  m_input = addChoice("typeinput", Text::InputType, m_game.inputType, Place::Whole);
+  place(layout, *addField("txtENDROIT", m_game.place), Text::Location, Place::Whole);
+  place(layout, *addField("txtBY", m_game.statistician), Text::Statistician, Place::Whole);
   QLineEdit* notes = addField("txtNOTES", m_game.notes);
   notes->installEventFilter(new KeepsEnter(notes));
-  place(layout, *notes, 1716, Place::Whole);
+  place(layout, *notes, Text::GameNotes, Place::Whole);
 
   const auto writeDate = [this](const QDate& day) { m_date->setText(day.toString(dateFormat())); };
   connect(m_picker, &QDateEdit::dateChanged, this, writeDate);
@@ -226,17 +218,17 @@ QWidget* frmNEWGAME::makeGameFields() {
 
 QWidget* frmNEWGAME::makeRuleFields() {
   auto* card = new Card(this);
-  QGridLayout& layout = *addCard(*card, 1064);
-  const auto addRule = [&](const char* name, int text, std::string& target, Place where) {
+  QGridLayout& layout = *addCard(*card, Text::Parameters);
+  const auto addRule = [&](const char* name, Text text, std::string& target, Place where) {
     QLineEdit* field = addField(name, target, [](const std::string& typed) { return fitsInValue(typed); });
     place(layout, *field, text, where);
     return field;
   };
-  m_periods = addRule("txtNBREPERIODE", 1123, m_game.rules.periods, Place::Left);
-  m_minutes = addRule("txtDUREE", 1124, m_game.rules.minutesPerPeriod, Place::Right);
-  m_bonus = addRule("txtBONUS", 1125, m_game.rules.bonus, Place::Left);
-  m_personalFouls = addRule("txtPF", 1126, m_game.rules.personalFoulLimit, Place::Right);
-  m_technicalFouls = addRule("txtTF", 1127, m_game.rules.technicalFoulLimit, Place::Left);
+  m_periods = addRule("txtNBREPERIODE", Text::PeriodCount, m_game.rules.periods, Place::Left);
+  m_minutes = addRule("txtDUREE", Text::MinutesPerPeriod, m_game.rules.minutesPerPeriod, Place::Right);
+  m_bonus = addRule("txtBONUS", Text::BonusAfter, m_game.rules.bonus, Place::Left);
+  m_personalFouls = addRule("txtPF", Text::FoulLimit, m_game.rules.personalFoulLimit, Place::Right);
+  m_technicalFouls = addRule("txtTF", Text::TechnicalLimit, m_game.rules.technicalFoulLimit, Place::Left);
   return card;
 }
 
@@ -254,13 +246,13 @@ QWidget* frmNEWGAME::makeAnswers() {
   m_ok->setDefault(true);
   m_ok->setFont(Theme::font(Type::Name));
   m_ok->setMinimumHeight(measure(38, 46));
-  setToolTipNumber(*m_ok, 1336);
+  setToolTipNumber(*m_ok, Text::SaveNewGame);
   auto* cancel = new QPushButton(card);
   cancel->setObjectName(QStringLiteral("CancelButton"));
   cancel->setAutoDefault(false);
   cancel->setMinimumHeight(measure(38, 46));
-  setTextNumber(*cancel, 1128);
-  setToolTipNumber(*cancel, 1337);
+  setTextNumber(*cancel, Text::Cancel);
+  setToolTipNumber(*cancel, Text::CancelNewGame);
   connect(m_ok, &QPushButton::clicked, this, &frmNEWGAME::accept);
   connect(cancel, &QPushButton::clicked, this, &frmNEWGAME::reject);
 
@@ -296,7 +288,7 @@ void frmNEWGAME::fillChoices() {
   const QSignalBlocker quietInput(m_input);
   m_type->clear();
   for (const int type : offeredChoices(kFirstGameTypeText, m_texts))
-    m_type->addItem(caption(m_texts, kFirstGameTypeText + type), type);
+    m_type->addItem(caption(m_texts, textBehind(kFirstGameTypeText, type)), type);
   m_type->setCurrentIndex(m_type->findData(m_game.gameType));
   m_input->clear();
   for (const InputType& input : kInputTypes)
@@ -322,26 +314,26 @@ void frmNEWGAME::showMainTeam() {
 }
 
 void frmNEWGAME::showAcceptance() {
-  const int missing = m_game.missing();
-  m_ok->setEnabled(missing == 0);
-  m_warning->setVisible(missing != 0);
-  m_missing->setText(missing == 0 ? QString() : caption(m_texts, missing));
+  const Text missing = m_game.missing();
+  m_ok->setEnabled(missing == Text::None);
+  m_warning->setVisible(missing != Text::None);
+  m_missing->setText(missing == Text::None ? QString() : caption(m_texts, missing));
 }
 
-void frmNEWGAME::focusOn(int problem) {
+void frmNEWGAME::focusOn(Text problem) {
   const struct {
-    int problem;
+    Text problem;
     QWidget* widget;
-  } places[] = {{1130, m_minutes},
-                {1131, m_periods},
-                {1132, m_bonus},
-                {1133, m_personalFouls},
-                {1134, m_technicalFouls},
-                {1205, m_input},
-                {1135, &m_sides[m_game.sides[0].team == NewGame::kNone ? 0 : 1]->teams().list()},
-                {1274, &m_sides[0]->players()},
-                {1275, &m_sides[1]->players()},
-                {1406, &m_sides[1]->teams().list()}};
+  } places[] = {{Text::InvalidMinutes, m_minutes},
+                {Text::InvalidPeriods, m_periods},
+                {Text::InvalidBonus, m_bonus},
+                {Text::InvalidPersonalFouls, m_personalFouls},
+                {Text::InvalidTechnicalFouls, m_technicalFouls},
+                {Text::ChooseInputType, m_input},
+                {Text::ChooseTeams, &m_sides[m_game.sides[0].team == NewGame::kNone ? 0 : 1]->teams().list()},
+                {Text::VisitorsTooMany, &m_sides[0]->players()},
+                {Text::HomeTooMany, &m_sides[1]->players()},
+                {Text::SameTeam, &m_sides[1]->teams().list()}};
   for (const auto& place : places) {
     if (place.problem == problem)
       place.widget->setFocus(Qt::OtherFocusReason);
@@ -349,7 +341,7 @@ void frmNEWGAME::focusOn(int problem) {
 }
 
 void frmNEWGAME::accept() {
-  const QString warning = caption(m_texts, kWarningTitle);
+  const QString warning = caption(m_texts, Text::WarningTitle);
   for (SidePanel* side : m_sides) {
     if (!side->takeTypedPlayer())
       return; // the panel says why
@@ -359,29 +351,29 @@ void frmNEWGAME::accept() {
       return;
     }
   }
-  if (const int problem = m_game.problem(); problem != 0) {
+  if (const Text problem = m_game.problem(); problem != Text::None) {
     m_dialogs.warn(this, warning, caption(m_texts, problem));
     focusOn(problem);
     return;
   }
   const QString proposed = QDir(toQt(m_settings.lastGameFolder)).filePath(toQt(m_game.proposedFileName()));
   const QString chosen =
-      m_dialogs.chooseFileToSave(this, caption(m_texts, kSaveGameAs), proposed,
-                                 fileFilter(toQt(m_texts.text(kGames))), QStringLiteral("GAM"));
+      m_dialogs.chooseFileToSave(this, caption(m_texts, Text::SaveGameAs), proposed,
+                                 fileFilter(toQt(m_texts.text(Text::GameFilter))), QStringLiteral("GAM"));
   if (chosen.isEmpty())
     return;
   const std::string path = withGameEnding(fromQt(chosen));
   if (const QString owner = m_claim(toQt(path)); !owner.isEmpty()) {
-    m_dialogs.warn(this, caption(m_texts, kErrorTitle),
-                   toQt(m_texts.withPlaceholder(kRecordedElsewhere, fromQt(owner))));
+    m_dialogs.warn(this, caption(m_texts, Text::ErrorTitle),
+                   toQt(m_texts.withPlaceholder(Text::RecordedElsewhere, fromQt(owner))));
     return;
   }
   const QString question = toQt(m_game.overwriteQuestion(path));
   if (!question.isEmpty() && !m_dialogs.ask(this, warning, question))
     return;
   if (m_game.create(path) != GameFileProblem::None) {
-    m_dialogs.complain(this, caption(m_texts, kErrorTitle),
-                       toQt(m_texts.withPlaceholder(kWriteFailed, path)));
+    m_dialogs.complain(this, caption(m_texts, Text::ErrorTitle),
+                       toQt(m_texts.withPlaceholder(Text::WriteFailed, path)));
     return;
   }
   m_path = toQt(path);

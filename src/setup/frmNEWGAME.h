@@ -52,15 +52,15 @@ class frmNEWGAME : public QDialog {
   QWidget* makeGameFields();
   QWidget* makeRuleFields();
   QWidget* makeAnswers();
-  QGridLayout* addCard(Card& card, int title);
+  QGridLayout* addCard(Card& card, Text title);
   QLineEdit* addField(const char* name, std::string& target,
                       const std::function<bool(const std::string&)>& fits = fitsInValue);
-  void place(QGridLayout& card, QWidget& field, int text, Place place);
+  void place(QGridLayout& card, QWidget& field, Text text, Place place);
   void fillChoices();
   void showRules();
   void showMainTeam();
   void showAcceptance();
-  void focusOn(int problem);
+  void focusOn(Text problem);
 
   const Settings& m_settings;
   const Texts& m_texts;

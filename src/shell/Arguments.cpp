@@ -11,14 +11,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kNoOption = 2843;
-constexpr int kNeedsValue = 2844;
-constexpr int kCannotBe = 2845;
-constexpr int kIsMissing = 2846;
-constexpr int kNeeds = 2847;
-constexpr int kNotTogether = 2849;
-constexpr int kOneGame = 2848;
-
 std::string absolutePath(const std::string& path, const std::string& currentFolder) {
   return (std::filesystem::path(currentFolder) / path).lexically_normal().string();
 }
@@ -74,7 +66,7 @@ class Parser {
       option = "--output";
     const bool isOfReport = std::ranges::find(kReportOptions, option) != std::end(kReportOptions);
     if (option != "--folder" && option != "--lang" && !isOfReport) {
-      m_result.wrong = {kNoOption, *m_word};
+      m_result.wrong = {Text::NoOption, *m_word};
       return;
     }
     std::string value;
@@ -83,7 +75,7 @@ class Parser {
     else if (std::next(m_word) != m_end)
       value = *++m_word;
     if (value.empty())
-      m_result.wrong = {kNeedsValue, option};
+      m_result.wrong = {Text::NeedsValue, option};
     else if (isOfReport)
       takeOfReport(option, value);
     else if (option == "--lang")
@@ -94,7 +86,7 @@ class Parser {
   void takeLanguage(const std::string& value) {
     m_result.language = languageNamed(value);
     if (!m_result.language)
-      m_result.wrong = {kCannotBe, "--lang", value};
+      m_result.wrong = {Text::CannotBe, "--lang", value};
   }
   static bool isUpTo(const std::string& value, int most) {
     const int number = Module1::wholeNumber(value);
@@ -129,7 +121,7 @@ class Parser {
     else if (option == "--min-attempts" && isUpTo(value, Qualification::kMostAttempts))
       report.minimum.attempts = Module1::wholeNumber(value);
     else
-      m_result.wrong = {kCannotBe, option, value};
+      m_result.wrong = {Text::CannotBe, option, value};
   }
 
   std::vector<std::string>::const_iterator m_word;
@@ -143,17 +135,17 @@ void completeReport(Arguments& arguments) {
   ReportRequest& report = *arguments.report;
   report.language = arguments.language;
   if (report.kind.empty())
-    arguments.wrong = {kIsMissing, "--report"};
+    arguments.wrong = {Text::IsMissing, "--report"};
   else if (report.output.empty())
-    arguments.wrong = {kNeeds, "--report", "-o"};
+    arguments.wrong = {Text::OptionNeeds, "--report", "-o"};
   else if (arguments.games.size() > 1)
-    arguments.wrong = {kOneGame};
+    arguments.wrong = {Text::OneGame};
   else if (!arguments.games.empty())
     report.source = arguments.games.front();
   if (report.format.empty() && report.isForFrenchSpreadsheets)
     report.format = "csv";
   else if (report.isForFrenchSpreadsheets && report.format != "csv")
-    arguments.wrong = {kNotTogether, "--csv-for", "--format " + report.format};
+    arguments.wrong = {Text::NotTogether, "--csv-for", "--format " + report.format};
   if (report.format.empty())
     report.format = std::filesystem::path(report.output).extension().string().erase(0, 1);
 }

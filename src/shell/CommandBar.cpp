@@ -18,36 +18,31 @@ namespace {
 // would not fit side by side. Printing and closing, known by their icons, give up their words first.
 struct ShortCaption {
   std::string_view key;
-  int text;
+  Text text;
 };
-constexpr int kPrint = 1224;
-constexpr int kClose = 1294;
-constexpr int kMore = 2892;
 // clang-format off
 constexpr ShortCaption kShortCaptions[] = {
-    {"VIEW", 1601}, {"VwREFRESH", 1602}, {"VwLIGNE", 1603}, {"VwMA", 1605},
-    {"vwPRINT", kPrint}, {"VwCLOSE", kClose},
-    {"STATS", 1252}, {"stPRINT", kPrint}, {"stCLOSE", kClose},
-    {"LIVE", 1526}, {"LIVEKpad", 1606}, {"LIVEMouse", 1607}, {"SWITCH", 1608}, {"GAMEOVER", 1613},
-    {"livePRINT", kPrint}, {"saveMANUAL", 1596}, {"CLOSELIVEMANUAL", kClose}, {"SETTINGS", 1528},
+    {"VIEW", Text::ScorecardShort}, {"VwREFRESH", Text::RefreshShort}, {"VwLIGNE", Text::ByLineShort}, {"VwMA", Text::MadeAttempted},
+    {"vwPRINT", Text::PrintWord}, {"VwCLOSE", Text::CloseButton},
+    {"STATS", Text::Season}, {"stPRINT", Text::PrintWord}, {"stCLOSE", Text::CloseButton},
+    {"LIVE", Text::Input}, {"LIVEKpad", Text::KeypadShort}, {"LIVEMouse", Text::ReboundsShort}, {"SWITCH", Text::Sides}, {"GAMEOVER", Text::EndGameShort},
+    {"livePRINT", Text::PrintWord}, {"saveMANUAL", Text::SaveShort}, {"CLOSELIVEMANUAL", Text::CloseButton}, {"SETTINGS", Text::Settings},
 };
 // clang-format on
-constexpr int kViewByPlayer = 1033;
-constexpr int kByPlayer = 1604;
 
-int shortCaption(const Command& command, const CommandState& state) {
-  if (state.text == kViewByPlayer)
-    return kByPlayer;
+Text shortCaption(const Command& command, const CommandState& state) {
+  if (state.text == Text::ViewByPlayer)
+    return Text::ByPlayer;
   const auto* found = std::ranges::find(kShortCaptions, command.key, &ShortCaption::key);
   return found == std::end(kShortCaptions) ? state.text : found->text;
 }
 
-int textOfRefresh(const Modes& modes) {
+Text textOfRefresh(const Modes& modes) {
   const auto isInForce = [&](const Command& command) {
     return command.parent == "VwREFRESH" && stateOf(command, modes).isChecked;
   };
   const auto found = std::ranges::find_if(commands(), isInForce);
-  return found == commands().end() ? 0 : found->text;
+  return found == commands().end() ? Text::None : found->text;
 }
 
 bool hasEntries(const Command& command) {
@@ -66,8 +61,8 @@ CommandBar::CommandBar(QMainWindow& window) : QObject(&window), m_window(window)
 
   m_moreMenu = new QMenu(&window);
   m_moreMenu->setToolTipsVisible(true);
-  setTextNumber(*m_moreMenu->menuAction(), kMore);
-  setToolTipNumber(*m_moreMenu->menuAction(), kMore);
+  setTextNumber(*m_moreMenu->menuAction(), Text::MoreCommands);
+  setToolTipNumber(*m_moreMenu->menuAction(), Text::MoreCommands);
 
   // Drop-downs first, since an entry may stand in the table of one that is itself an entry.
   for (const Command& command : commands()) {
@@ -175,8 +170,8 @@ void CommandBar::placeButtons(const Modes& modes) {
       m_others << key;
     if (!isOfFront || command.key == "SETTINGS" || command.key == "HELP")
       continue;
-    const int words = shortCaption(command, stateOf(command, modes));
-    (words == kPrint || words == kClose ? m_wordedLast : m_worded) << key;
+    const Text words = shortCaption(command, stateOf(command, modes));
+    (words == Text::PrintWord || words == Text::CloseButton ? m_wordedLast : m_worded) << key;
   }
   layOut();
 }

@@ -28,7 +28,7 @@ struct Modes {
 struct CommandState {
   bool isEnabled = false;
   bool isChecked = false;
-  int text = 0;
+  Text text = Text::None;
   std::string_view icon;
   std::string_view shortcut; // empty while its key means something else, or nothing
 };

@@ -3,6 +3,8 @@
 // main window's.
 #pragma once
 
+#include "settings/Text.h"
+
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -31,13 +33,13 @@ enum class CommandGroup : std::uint8_t {
 struct Command {
   std::string_view key;    // also the object name of its action
   std::string_view parent; // key of the button whose drop-down shows it; empty for a button of the tool bar
-  int text = 0;
+  Text text = Text::None;
   std::string_view icon; // file name without ending
   CommandGroup group = CommandGroup::Always;
   CommandKind kind = CommandKind::Action;
   std::string_view shortcut = {}; // portable form, empty for none
   bool separatorBefore = false;
-  int otherText = 0; // of a Swap
+  Text otherText = Text::None; // of a Swap
   std::string_view otherIcon = {};
 };
 

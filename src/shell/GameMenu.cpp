@@ -14,11 +14,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kNoGames = 1609;
-
-} // namespace
+namespace {} // namespace
 
 std::vector<GameEntry> recentGames(WindowMemory& memory) {
   std::vector<GameEntry> games;
@@ -64,7 +60,7 @@ void GameMenu::fill() {
     connect(entry, &QAction::triggered, this, [this, path = game.path] { emit chosen(path); });
   }
   if (isEmpty())
-    addAction(caption(m_texts, kNoGames))->setEnabled(false);
+    addAction(caption(m_texts, Text::NoGamesYet))->setEnabled(false);
 }
 
 } // namespace hooptab

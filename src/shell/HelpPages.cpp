@@ -10,14 +10,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kGuideNotFound = 1538;
-constexpr int kGuideNotFoundTitle = 1539;
-constexpr int kErrorTitle = 1060;
-constexpr int kNoProgram = 2842;
-
-} // namespace
+namespace {} // namespace
 
 HelpPages::HelpPages(Dialogs& dialogs, const SharedFiles& files, const Settings& settings, const Texts& texts)
     : m_dialogs(dialogs), m_files(files), m_settings(settings), m_texts(texts) {}
@@ -27,8 +20,8 @@ void HelpPages::openGuide(QWidget* parent) {
   if (!QFileInfo(guide).isFile()) // the one that was installed
     guide = toQt(m_files.find("guide.pdf").value_or(std::string()));
   if (!QFileInfo(guide).isFile())
-    return m_dialogs.warn(parent, toQt(m_texts.text(kGuideNotFoundTitle)),
-                          toQt(m_texts.text(kGuideNotFound)));
+    return m_dialogs.warn(parent, toQt(m_texts.text(Text::GuideNotFoundTitle)),
+                          toQt(m_texts.text(Text::GuideNotFound)));
   open(QUrl::fromLocalFile(guide), parent);
 }
 
@@ -40,8 +33,8 @@ void HelpPages::open(const QUrl& document, QWidget* parent) {
   const QString shown =
       document.isLocalFile() ? QDir::toNativeSeparators(document.toLocalFile()) : document.toDisplayString();
   if (!m_dialogs.openDocument(document))
-    m_dialogs.warn(parent, toQt(m_texts.text(kErrorTitle)),
-                   toQt(m_texts.withPlaceholder(kNoProgram, fromQt(shown))));
+    m_dialogs.warn(parent, toQt(m_texts.text(Text::ErrorTitle)),
+                   toQt(m_texts.withPlaceholder(Text::NoProgram, fromQt(shown))));
 }
 
 QUrl HelpPages::webPage() const {

@@ -19,9 +19,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kIsOpen = 1436;
-constexpr int kLooking = 2452;
-constexpr int kNoSignOfLife = 2453;
 constexpr int kLooks = 25; // while it is watched
 
 } // namespace
@@ -45,7 +42,7 @@ bool InstanceLock::admits(const Texts& texts, Dialogs& dialogs, std::chrono::mil
   case Outcome::IsHeldElsewhere: return watchOther(texts, dialogs, patience);
   case Outcome::IsRunning: break;
   }
-  dialogs.inform(nullptr, QStringLiteral("HOOPTAB"), caption(texts, kIsOpen));
+  dialogs.inform(nullptr, QStringLiteral("HOOPTAB"), caption(texts, Text::IsOpen));
   return false;
 }
 
@@ -53,7 +50,7 @@ bool InstanceLock::watchOther(const Texts& texts, Dialogs& dialogs, std::chrono:
   const LockFile::Owner owner = LockFile::ownerOf(m_file.look());
   QProgressDialog progress;
   progress.setWindowTitle(QStringLiteral("HOOPTAB"));
-  progress.setLabel(new PlainLabel(toQt(texts.withPlaceholder(kLooking, owner.computer))));
+  progress.setLabel(new PlainLabel(toQt(texts.withPlaceholder(Text::FolderInUse, owner.computer))));
   progress.setRange(0, kLooks);
   progress.setMinimumDuration(0);
   LockWatch watch(patience);
@@ -64,13 +61,14 @@ bool InstanceLock::watchOther(const Texts& texts, Dialogs& dialogs, std::chrono:
     case LockWatch::State::Free: return m_file.acquire() != LockFile::Outcome::HeldElsewhere;
     case LockWatch::State::Renewed:
       progress.close();
-      dialogs.inform(nullptr, QStringLiteral("HOOPTAB"), caption(texts, kIsOpen));
+      dialogs.inform(nullptr, QStringLiteral("HOOPTAB"), caption(texts, Text::IsOpen));
       return false;
     case LockWatch::State::StandsStill: {
       progress.close();
       const QString since =
           QDateTime::fromSecsSinceEpoch(owner.renewedSeconds).toString(QStringLiteral("yyyy-MM-dd hh:mm"));
-      const std::string question = withPlaceholders(texts.text(kNoSignOfLife), owner.computer, fromQt(since));
+      const std::string question =
+          withPlaceholders(texts.text(Text::FolderNoSignOfLife), owner.computer, fromQt(since));
       return dialogs.ask(nullptr, QStringLiteral("HOOPTAB"), toQt(question)) &&
              m_file.takeOver(watch.sight()) != LockFile::Outcome::HeldElsewhere;
     }

@@ -60,27 +60,6 @@ using namespace std::chrono_literals;
 
 constexpr int kStatusMargin = 8;
 constexpr int kTopMargin = 6;
-constexpr int kHighlight = 1416;
-constexpr int kReportOption = 1417;
-constexpr int kErrorTitle = 1060;
-constexpr int kWarningTitle = 1139;
-constexpr int kNoTeam = 1174;
-constexpr int kGames = 1058;
-constexpr int kNotSaved = 1521;
-constexpr int kReplaceFile = 1836;
-constexpr int kSaveCopy = 2395;
-constexpr int kCopySaved = 2397;
-constexpr int kCopyFailed = 2398;
-constexpr int kOwnFile = 2399;
-constexpr int kSettingsRestored = 2450;
-constexpr int kSettingsKeptAs = 2451;
-constexpr int kInternalFailure = 2454;
-constexpr int kOldSettingsKept = 1522;
-constexpr int kSettingsUnreadable = 1598;
-constexpr int kSettingsNotSaved = 2841;
-constexpr int kRecentGames = 1530;
-constexpr int kSampleGames = 1531;
-constexpr int kFolderNotOpened = 2634;
 
 constexpr auto kRetryInterval = 2s;
 constexpr auto kMessageTime = 8s;
@@ -117,12 +96,12 @@ MDI::MDI(const Workshop& workshop)
   auto* recent = new GameMenu([this] { return recentGames(m_workshop.memory); }, m_workshop.texts, this);
   recent->menuAction()->setObjectName(QStringLiteral("recentGames"));
   recent->setIcon(icon(QStringLiteral("recent")));
-  setTextNumber(*recent->menuAction(), kRecentGames);
+  setTextNumber(*recent->menuAction(), Text::RecentGames);
   auto* samples = new GameMenu([this] { return sampleGames(m_workshop.files, m_workshop.store); },
                                m_workshop.texts, this);
   samples->menuAction()->setObjectName(QStringLiteral("sampleGames"));
   samples->setIcon(icon(QStringLiteral("samples")));
-  setTextNumber(*samples->menuAction(), kSampleGames);
+  setTextNumber(*samples->menuAction(), Text::SampleGames);
   m_commands = new CommandBar(*this);
   m_output = new ReportOutput(m_workshop.texts, m_workshop.dialogs, m_workshop.store.files(), this);
   m_output->proposeFolder(toQt(m_workshop.memory.exportFolder()));
@@ -373,20 +352,20 @@ void MDI::carryOut(const QString& key) {
   showCommands();
 }
 
-QString MDI::askForGame(int title) {
+QString MDI::askForGame(Text title) {
   const Texts& texts = m_workshop.texts;
   return m_workshop.dialogs.chooseFile(this, toQt(texts.text(title)),
                                        toQt(m_workshop.settings.lastGameFolder),
-                                       fileFilter(toQt(texts.text(kGames))));
+                                       fileFilter(toQt(texts.text(Text::GameFilter))));
 }
 
 void MDI::chooseGame() {
-  if (const QString path = askForGame(1030); !path.isEmpty())
+  if (const QString path = askForGame(Text::OpenAGame); !path.isEmpty())
     openGame(path);
 }
 
 void MDI::chooseGameForInput() {
-  if (const QString path = askForGame(1039); !path.isEmpty())
+  if (const QString path = askForGame(Text::OpenAnExistingGame); !path.isEmpty())
     openForInput(path);
 }
 
@@ -578,22 +557,23 @@ void MDI::saveCopy() {
   const auto save = [this](auto& window) {
     const Texts& texts = m_workshop.texts;
     const QFileInfo game(window.path());
-    const QString error = toQt(texts.text(kErrorTitle));
+    const QString error = toQt(texts.text(Text::ErrorTitle));
     const QString path = m_workshop.dialogs.chooseFileToSave(
-        this, caption(texts, kSaveCopy),
+        this, caption(texts, Text::SaveCopy),
         game.dir().filePath(game.completeBaseName() + QStringLiteral(" 2.GAM")),
-        fileFilter(toQt(texts.text(kGames))), QStringLiteral("GAM"));
+        fileFilter(toQt(texts.text(Text::GameFilter))), QStringLiteral("GAM"));
     if (path.isEmpty())
       return;
     if (QFileInfo(path) == game)
-      return m_workshop.dialogs.warn(this, error, toQt(texts.withPlaceholder(kOwnFile, fromQt(path))));
+      return m_workshop.dialogs.warn(this, error, toQt(texts.withPlaceholder(Text::OwnFile, fromQt(path))));
     if (QFileInfo::exists(path) &&
-        !m_workshop.dialogs.ask(this, toQt(texts.text(kWarningTitle)),
-                                toQt(texts.withPlaceholder(kReplaceFile, fromQt(path)))))
+        !m_workshop.dialogs.ask(this, toQt(texts.text(Text::WarningTitle)),
+                                toQt(texts.withPlaceholder(Text::ReplaceFile, fromQt(path)))))
       return;
     if (!window.writeCopy(path))
-      return m_workshop.dialogs.complain(this, error, toQt(texts.withPlaceholder(kCopyFailed, fromQt(path))));
-    showMessage(toQt(texts.withPlaceholder(kCopySaved, fromQt(QDir::toNativeSeparators(path)))));
+      return m_workshop.dialogs.complain(this, error,
+                                         toQt(texts.withPlaceholder(Text::CopyFailed, fromQt(path))));
+    showMessage(toQt(texts.withPlaceholder(Text::CopySaved, fromQt(QDir::toNativeSeparators(path)))));
   };
   if (frmLIVE* window = live())
     save(*window);
@@ -607,8 +587,8 @@ void MDI::tellFailure(const QString& what) {
   if (frmMANUAL* window = manual())
     window->writePending();
   (void)m_workshop.settings.retry();
-  m_workshop.dialogs.complain(this, toQt(m_workshop.texts.text(kErrorTitle)),
-                              toQt(m_workshop.texts.withPlaceholder(kInternalFailure, fromQt(what))));
+  m_workshop.dialogs.complain(this, toQt(m_workshop.texts.text(Text::ErrorTitle)),
+                              toQt(m_workshop.texts.withPlaceholder(Text::InternalFailure, fromQt(what))));
 }
 
 void MDI::openTeams() {
@@ -628,8 +608,8 @@ void MDI::openTeams() {
 
 void MDI::preview(std::vector<ReportOffer> offers) {
   if (offers.empty())
-    return m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(kWarningTitle)),
-                                   toQt(m_workshop.texts.text(kNoTeam)));
+    return m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(Text::WarningTitle)),
+                                   toQt(m_workshop.texts.text(Text::SelectTeamFirst)));
   if (qobject_cast<frmprint*>(m_area->front()) == nullptr)
     m_previewedFrom = m_area->currentSubWindow();
   for (ChildWindow* child : m_area->windows()) {
@@ -663,20 +643,21 @@ void MDI::openSeason() {
 
 void MDI::printSeason(frmSTATS& window) {
   SeasonOffer offer{window.statistics(), window.chosenTeam(), window.chosenPerson()};
-  const auto question = [this](int text) { return toQt(m_workshop.texts.text(text)); };
-  if (const int missing = missingFor(m_seasonReport, offer))
-    return m_workshop.dialogs.inform(this, question(kReportOption), question(missing));
+  const auto question = [this](Text text) { return toQt(m_workshop.texts.text(text)); };
+  if (const Text missing = missingFor(m_seasonReport, offer); missing != Text::None)
+    return m_workshop.dialogs.inform(this, question(Text::ReportOption), question(missing));
   if (offer.person && canHighlight(m_seasonReport, *offer.person))
-    offer.highlightsPerson = m_workshop.dialogs.ask(this, question(kReportOption), question(kHighlight));
+    offer.highlightsPerson =
+        m_workshop.dialogs.ask(this, question(Text::ReportOption), question(Text::Highlight));
   preview(seasonOffers(offer, m_seasonReport, m_workshop.settings, m_workshop.texts));
 }
 
 void MDI::openFolder(const QString& path) {
   const QString folder = QFileInfo(path).absolutePath();
   if (!m_workshop.dialogs.openDocument(QUrl::fromLocalFile(folder)))
-    m_workshop.dialogs.warn(
-        this, toQt(m_workshop.texts.text(kErrorTitle)),
-        toQt(m_workshop.texts.withPlaceholder(kFolderNotOpened, fromQt(QDir::toNativeSeparators(folder)))));
+    m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(Text::ErrorTitle)),
+                            toQt(m_workshop.texts.withPlaceholder(Text::FolderNotOpened,
+                                                                  fromQt(QDir::toNativeSeparators(folder)))));
 }
 
 void MDI::openColours() {
@@ -726,7 +707,7 @@ void MDI::addScorecard(frmVIEW* view) {
 }
 
 void MDI::refuse(GameFileProblem problem, const QString& path) {
-  m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(kErrorTitle)), refusal(problem, path));
+  m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(Text::ErrorTitle)), refusal(problem, path));
 }
 
 QString MDI::refusal(GameFileProblem problem, const QString& path) const {
@@ -825,19 +806,20 @@ void MDI::switchColours(ColourScheme scheme) {
 void MDI::report(Settings::Preparation preparation) {
   const Texts& texts = m_workshop.texts;
   if (preparation == Settings::Preparation::FirstRunKeptOld)
-    m_workshop.dialogs.warn(this, toQt(texts.text(kWarningTitle)),
-                            toQt(texts.withPlaceholder(kOldSettingsKept, m_workshop.settings.keptAs())));
+    m_workshop.dialogs.warn(this, toQt(texts.text(Text::WarningTitle)),
+                            toQt(texts.withPlaceholder(Text::OldSettingsKept, m_workshop.settings.keptAs())));
   if (preparation == Settings::Preparation::CannotBeRead)
-    m_workshop.dialogs.warn(this, toQt(texts.text(kWarningTitle)),
-                            toQt(texts.withPlaceholder(kSettingsUnreadable, m_workshop.settings.path())));
+    m_workshop.dialogs.warn(
+        this, toQt(texts.text(Text::WarningTitle)),
+        toQt(texts.withPlaceholder(Text::SettingsUnreadable, m_workshop.settings.path())));
   showWhatIsUnsaved();
 }
 
 void MDI::showWhatIsUnsaved() {
   if (const auto restored = m_workshop.settings.takeRestored()) {
-    std::string words(m_workshop.texts.text(kSettingsRestored));
+    std::string words(m_workshop.texts.text(Text::SettingsRestored));
     if (!restored->keptAs.empty())
-      words += ' ' + m_workshop.texts.withPlaceholder(kSettingsKeptAs, restored->keptAs);
+      words += ' ' + m_workshop.texts.withPlaceholder(Text::SettingsKeptAs, restored->keptAs);
     if (groupInFront() == CommandGroup::Live)
       live()->tell(toQt(words));
     else
@@ -856,7 +838,7 @@ void MDI::showWhatIsUnsaved() {
 }
 
 QString MDI::notSaved() const {
-  return toQt(m_workshop.texts.withPlaceholder(kNotSaved, m_workshop.settings.path()));
+  return toQt(m_workshop.texts.withPlaceholder(Text::NotSaved, m_workshop.settings.path()));
 }
 
 void MDI::restorePlace() {
@@ -893,8 +875,8 @@ bool MDI::mayLeaveSettings() {
   const Texts& texts = m_workshop.texts;
   do {
     switch (m_workshop.dialogs.askToSave(
-        this, toQt(texts.text(kErrorTitle)),
-        toQt(texts.withPlaceholder(kSettingsNotSaved, m_workshop.settings.path())))) {
+        this, toQt(texts.text(Text::ErrorTitle)),
+        toQt(texts.withPlaceholder(Text::SettingsNotSaved, m_workshop.settings.path())))) {
     case SaveChoice::Save: break;
     case SaveChoice::Discard: return true;
     case SaveChoice::Stay: showWhatIsUnsaved(); return false;

@@ -87,7 +87,7 @@ class MDI : public QMainWindow {
   [[nodiscard]] GameFileProblem showGame(const QString& path);
   void rememberPlace(const QString& path);
   [[nodiscard]] bool mayLeaveSettings();
-  [[nodiscard]] QString askForGame(int title); // empty when cancelled
+  [[nodiscard]] QString askForGame(Text title); // empty when cancelled
   void chooseGame();
   void chooseGameForInput();
   // In the live window, or in manual entry for a game of totals. One window for input at a time: it takes the

@@ -20,29 +20,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kFile = 1524;
-constexpr int kView = 1525;
-constexpr int kInput = 1526;
-constexpr int kTeams = 1527;
-constexpr int kSeason = 1252;
-constexpr int kSettings = 1528;
-constexpr int kWindow = 1529;
-constexpr int kHelp = 1380;
-constexpr int kExportTable = 2350;
-constexpr int kLeave = 1532;
-constexpr int kColours = 1591;
-constexpr int kLight = 1542;
-constexpr int kDark = 1543;
-constexpr int kNextWindow = 1610;
-constexpr int kPreviousWindow = 1611;
-constexpr int kTile = 1533;
-constexpr int kCascade = 1534;
-constexpr int kCloseAll = 1535;
-constexpr int kClose = 2598;
-constexpr int kZoom = 2572;
-constexpr int kLarger = 2573;
-constexpr int kSmaller = 2574;
-constexpr int kFill = 2575;
 constexpr int kZooms[] = {90, 100, 110, 125, 150};
 
 } // namespace
@@ -52,37 +29,37 @@ MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const C
     : QObject(&window), m_window(window), m_bar(bar), m_commands(commands) {
   constexpr const char* kSeparator = "";
 
-  QMenu& file = addMenu(kFile, {"VwOPEN"});
+  QMenu& file = addMenu(Text::FileWord, {"VwOPEN"});
   file.addMenu(&recent);
   file.addSeparator();
   tables.menuAction()->setObjectName(QStringLiteral("exportTable"));
   tables.setIcon(icon(QStringLiteral("export")));
-  setTextNumber(*tables.menuAction(), kExportTable);
+  setTextNumber(*tables.menuAction(), Text::ExportTable);
   file.addMenu(&tables);
   file.addAction(&commands.action("saveCOPY"));
   connect(&file, &QMenu::aboutToShow, this, &MainMenu::fileMenuShown);
   file.addSeparator();
-  QAction& leave = addAction(file, "QUIT", kLeave, QStringLiteral("Ctrl+Q"));
+  QAction& leave = addAction(file, "QUIT", Text::Quit, QStringLiteral("Ctrl+Q"));
   leave.setIcon(icon(QStringLiteral("quit")));
   leave.setMenuRole(QAction::QuitRole);
   connect(&leave, &QAction::triggered, &window, &QWidget::close);
 
-  addMenu(kView, {"VwREFRESH", "VwREFSEC00", "VwREFSEC10", "VwREFSEC30", "VwREFSEC60", kSeparator, "VwLIGNE",
-                  "VwMA", kSeparator, "vwPRINT", "VwCLOSE"});
-  addMenu(kInput, {"LIVENew", "LIVEOpen", kSeparator, "LIVEKpad", "LIVEMouse", "SWITCH", "GAMEOVER",
-                   kSeparator, "openFORM", "saveMANUAL", "livePRINT", "FORMS", "CLOSELIVEMANUAL"});
-  addMenu(kTeams, {"gEQUIPE"});
-  addMenu(kSeason,
+  addMenu(Text::ViewMenu, {"VwREFRESH", "VwREFSEC00", "VwREFSEC10", "VwREFSEC30", "VwREFSEC60", kSeparator,
+                           "VwLIGNE", "VwMA", kSeparator, "vwPRINT", "VwCLOSE"});
+  addMenu(Text::Input, {"LIVENew", "LIVEOpen", kSeparator, "LIVEKpad", "LIVEMouse", "SWITCH", "GAMEOVER",
+                        kSeparator, "openFORM", "saveMANUAL", "livePRINT", "FORMS", "CLOSELIVEMANUAL"});
+  addMenu(Text::Teams, {"gEQUIPE"});
+  addMenu(Text::Season,
           {"STATS", kSeparator, "StLISTGAMES", "StLISTGAMESSOMM", kSeparator, "stSTATJOUEURS", "stSTATLIGNES",
            "stSTATJOUEURSAUTRES", "stSTATLIGNESAUTRES", kSeparator, "stMENEURSTOT", "stMENEURSMOY",
            "stMENEURSMIN", kSeparator, "stRAPJOUEUR", "stRAPLIGNE", kSeparator, "stPRINT", "stCLOSE"});
-  QMenu& settings = addMenu(kSettings, {"tbTERRAIN", "tbKEYPAD", kSeparator, "tbLANGUE"});
+  QMenu& settings = addMenu(Text::Settings, {"tbTERRAIN", "tbKEYPAD", kSeparator, "tbLANGUE"});
   QMenu& colours = coloursMenu();
   settings.addMenu(&colours);
   QMenu& zooms = zoomMenu();
   settings.addMenu(&zooms);
   addWindowMenu(area);
-  QMenu& help = addMenu(kHelp, {"AidHELP", "AidWEB"});
+  QMenu& help = addMenu(Text::Help, {"AidHELP", "AidWEB"});
   help.addMenu(&samples);
   help.addSeparator();
   help.addAction(&commands.action("AidABOUT"));
@@ -104,7 +81,7 @@ void MainMenu::giveLetters() {
   giveMnemonics(m_bar.actions());
 }
 
-QMenu& MainMenu::addMenu(int text, std::initializer_list<const char*> keys) {
+QMenu& MainMenu::addMenu(Text text, std::initializer_list<const char*> keys) {
   QMenu* menu = m_bar.addMenu(QString());
   menu->setToolTipsVisible(true);
   setTextNumber(*menu->menuAction(), text);
@@ -117,7 +94,7 @@ QMenu& MainMenu::addMenu(int text, std::initializer_list<const char*> keys) {
   return *menu;
 }
 
-QAction& MainMenu::addAction(QMenu& menu, const char* name, int text, const QString& shortcut) {
+QAction& MainMenu::addAction(QMenu& menu, const char* name, Text text, const QString& shortcut) {
   QAction* action = menu.addAction(QString());
   action->setObjectName(QLatin1String(name));
   action->setShortcut(QKeySequence(shortcut));
@@ -128,10 +105,10 @@ QAction& MainMenu::addAction(QMenu& menu, const char* name, int text, const QStr
 QMenu& MainMenu::coloursMenu() {
   auto* menu = new QMenu(&m_window);
   menu->setIcon(icon(QStringLiteral("theme")));
-  setTextNumber(*menu->menuAction(), kColours);
+  setTextNumber(*menu->menuAction(), Text::ColourTheme);
   auto* choice = new QActionGroup(this);
-  m_light = &addAction(*menu, "coloursLight", kLight);
-  m_dark = &addAction(*menu, "coloursDark", kDark);
+  m_light = &addAction(*menu, "coloursLight", Text::LightColours);
+  m_dark = &addAction(*menu, "coloursDark", Text::DarkColours);
   for (QAction* action : {m_light, m_dark}) {
     action->setCheckable(true);
     choice->addAction(action);
@@ -154,7 +131,7 @@ QMenu& MainMenu::zoomMenu() {
   auto* menu = new QMenu(&m_window);
   menu->setObjectName(QStringLiteral("zoom"));
   menu->setIcon(icon(QStringLiteral("theme")));
-  setTextNumber(*menu->menuAction(), kZoom);
+  setTextNumber(*menu->menuAction(), Text::ZoomMenu);
   m_zooms = new QActionGroup(this);
   for (const int percent : kZooms) {
     QAction* action = menu->addAction(QStringLiteral("%1 %").arg(percent));
@@ -166,7 +143,7 @@ QMenu& MainMenu::zoomMenu() {
   connect(m_zooms, &QActionGroup::triggered, this,
           [this](QAction* action) { emit zoomChosen(action->data().toInt()); });
   menu->addSeparator();
-  const auto addStep = [&](const char* name, int text, const QString& key, int step) {
+  const auto addStep = [&](const char* name, Text text, const QString& key, int step) {
     QAction& action = addAction(*menu, name, text, key);
     connect(&action, &QAction::triggered, this, [this, step] {
       const QList<QAction*> zooms = m_zooms->actions();
@@ -174,8 +151,8 @@ QMenu& MainMenu::zoomMenu() {
       zooms[std::clamp<qsizetype>(now + step, 0, zooms.size() - 1)]->trigger();
     });
   };
-  addStep("zoomLarger", kLarger, QStringLiteral("Ctrl++"), 1);
-  addStep("zoomSmaller", kSmaller, QStringLiteral("Ctrl+-"), -1);
+  addStep("zoomLarger", Text::Larger, QStringLiteral("Ctrl++"), 1);
+  addStep("zoomSmaller", Text::Smaller, QStringLiteral("Ctrl+-"), -1);
   return *menu;
 }
 
@@ -189,15 +166,16 @@ void MainMenu::showColours(ColourScheme scheme) {
 }
 
 void MainMenu::addWindowMenu(WindowArea& area) {
-  QMenu& menu = addMenu(kWindow, {});
-  QAction& next = addAction(menu, "windowNext", kNextWindow, QStringLiteral("Ctrl+F6"));
-  QAction& previous = addAction(menu, "windowPrevious", kPreviousWindow, QStringLiteral("Ctrl+Shift+F6"));
+  QMenu& menu = addMenu(Text::Window, {});
+  QAction& next = addAction(menu, "windowNext", Text::NextWindow, QStringLiteral("Ctrl+F6"));
+  QAction& previous =
+      addAction(menu, "windowPrevious", Text::PreviousWindow, QStringLiteral("Ctrl+Shift+F6"));
   menu.addSeparator();
-  QAction& fill = addAction(menu, "windowFill", kFill);
-  QAction& tile = addAction(menu, "windowTile", kTile);
-  QAction& cascade = addAction(menu, "windowCascade", kCascade);
-  m_close = &addAction(menu, "windowClose", kClose);
-  QAction& closeAll = addAction(menu, "windowCloseAll", kCloseAll);
+  QAction& fill = addAction(menu, "windowFill", Text::Fill);
+  QAction& tile = addAction(menu, "windowTile", Text::Tile);
+  QAction& cascade = addAction(menu, "windowCascade", Text::Cascade);
+  m_close = &addAction(menu, "windowClose", Text::CloseWindow);
+  QAction& closeAll = addAction(menu, "windowCloseAll", Text::CloseAll);
   QAction* beforeWindows = menu.addSeparator();
   connect(&next, &QAction::triggered, &area, &QMdiArea::activateNextSubWindow);
   connect(&previous, &QAction::triggered, &area, &QMdiArea::activatePreviousSubWindow);

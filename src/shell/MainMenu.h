@@ -4,6 +4,7 @@
 #pragma once
 
 #include "appearance/ColourScheme.h"
+#include "settings/Text.h"
 
 #include <QObject>
 
@@ -39,11 +40,11 @@ class MainMenu : public QObject {
   void fileMenuShown(); // about to be, so that `tables` can be filled
 
  private:
-  QMenu& addMenu(int text, std::initializer_list<const char*> keys);
+  QMenu& addMenu(Text text, std::initializer_list<const char*> keys);
   QMenu& coloursMenu();
   QMenu& zoomMenu();
   void addWindowMenu(WindowArea& area);
-  QAction& addAction(QMenu& menu, const char* name, int text, const QString& shortcut = {});
+  QAction& addAction(QMenu& menu, const char* name, Text text, const QString& shortcut = {});
 
   QMainWindow& m_window;
   QMenuBar& m_bar;

@@ -1,7 +1,6 @@
 #include "shell/PrintOffers.h"
 
 #include "report/GameReports.h"
-#include "report/PrintTexts.h"
 #include "report/ScanReport.h"
 #include "report/TeamReports.h"
 
@@ -12,11 +11,7 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kVerification = 1398;
-constexpr int kPreparedForms = 1399;
-constexpr int kBlankForms = 1400;
-
-ReportOffer named(int text, const Texts& texts, std::function<Report()> make) {
+ReportOffer named(Text text, const Texts& texts, std::function<Report()> make) {
   return {[text, &texts] { return std::string(texts.text(text)); }, std::move(make)};
 }
 
@@ -30,20 +25,21 @@ struct Team {
 std::vector<ReportOffer> gameReports(const Game& game, const GameState& state, const ScorecardView& choice,
                                      const Settings& settings, const Texts& texts) {
   const auto kept = std::make_shared<const std::pair<Game, GameState>>(game, state);
-  return {
-      named(kScorecard, texts,
-            [=, &settings, &texts] {
-              return scorecardReport(kept->first, kept->second, choice, settings, texts);
-            }),
-      named(kPlayByPlay, texts, [=, &texts] { return playByPlayReport(kept->first, kept->second, texts); })};
+  return {named(Text::Scorecard, texts,
+                [=, &settings, &texts] {
+                  return scorecardReport(kept->first, kept->second, choice, settings, texts);
+                }),
+          named(Text::PlayByPlay, texts,
+                [=, &texts] { return playByPlayReport(kept->first, kept->second, texts); })};
 }
 
 std::vector<ReportOffer> teamReports(const TeamRecord& team, const std::vector<TeamPlayer>& players,
                                      const Texts& texts) {
   const auto kept = std::make_shared<const Team>(Team{team, players});
   std::vector<ReportOffer> offers = {
-      named(kTeamRoster, texts, [=, &texts] { return rosterReport(kept->record, kept->players, texts); }),
-      named(kPreparedForms, texts,
+      named(Text::TeamRoster, texts,
+            [=, &texts] { return rosterReport(kept->record, kept->players, texts); }),
+      named(Text::PreparedForms, texts,
             [=, &texts] { return preparedForms(kept->record, kept->players, texts); })};
   offers.push_back(emptyForms(texts).front());
   return offers;
@@ -63,7 +59,7 @@ std::vector<ReportOffer> scanReports(const ScannedTotals& scanned, const GameDet
                                      const std::string& source, const Settings& settings,
                                      const Texts& texts) {
   const auto kept = std::make_shared<const std::pair<ScannedTotals, GameDetails>>(scanned, game);
-  return {named(kVerification, texts, [=, &settings, &texts] {
+  return {named(Text::VerificationReport, texts, [=, &settings, &texts] {
     return verificationReport(kept->first, kept->second, source, settings, texts);
   })};
 }
@@ -104,21 +100,20 @@ SeasonReport reportOfPage(frmSTATS::Page page, SeasonView leaders, const SeasonP
   return SeasonReport::TeamSummary;
 }
 
-int missingFor(SeasonReport report, const SeasonOffer& offer) {
-  constexpr int kChoosePerson = 2135;
-  constexpr int kGenerateFirst = 2146;
+Text missingFor(SeasonReport report, const SeasonOffer& offer) {
   if (!offer.season)
-    return kGenerateFirst;
+    return Text::GenerateFirst;
   const bool isOfPerson = report == SeasonReport::Player || report == SeasonReport::Line;
   const bool isOfLine = report == SeasonReport::Line;
-  return isOfPerson && (!offer.person || offer.person->isLine != isOfLine) ? kChoosePerson : 0;
+  return isOfPerson && (!offer.person || offer.person->isLine != isOfLine) ? Text::ChooseSomebody
+                                                                           : Text::None;
 }
 
 std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first, const Settings& settings,
                                       const Texts& texts) {
   std::vector<ReportOffer> offers;
   for (const SeasonReportName& name : seasonReports()) {
-    if (missingFor(name.report, offer) != 0)
+    if (missingFor(name.report, offer) != Text::None)
       continue;
     const bool isOfPerson = name.report == SeasonReport::Player || name.report == SeasonReport::Line;
     SeasonReportChoice choice;
@@ -136,7 +131,7 @@ std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport fir
 }
 
 std::vector<ReportOffer> emptyForms(const Texts& texts) {
-  return {named(kBlankForms, texts, [&texts] { return blankForms(texts); })};
+  return {named(Text::BlankForms, texts, [&texts] { return blankForms(texts); })};
 }
 
 } // namespace hooptab

@@ -38,8 +38,8 @@ struct SeasonOffer {
   std::shared_ptr<const SeasonPerson> person; // null: nobody is chosen
   bool highlightsPerson = false;
 };
-// Number of the text that says what must be done before that report can be made; 0 for nothing.
-[[nodiscard]] int missingFor(SeasonReport report, const SeasonOffer& offer);
+// What must be done before that report can be made; none for nothing.
+[[nodiscard]] Text missingFor(SeasonReport report, const SeasonOffer& offer);
 [[nodiscard]] std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first,
                                                     const Settings& settings, const Texts& texts);
 // The report of what a season's window shows; of a player or line where one is chosen.

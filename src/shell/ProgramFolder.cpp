@@ -69,13 +69,16 @@ ProgramFolder findProgramFolder(const ProgramFolderSources& sources) {
 std::string message(const ProgramFolder& folder, const Texts& texts) {
   switch (folder.problem) {
   case ProgramFolderProblem::None: return {};
-  case ProgramFolderProblem::Absent: return texts.withPlaceholder(2872, folder.path);
-  case ProgramFolderProblem::NotAFolder: return texts.withPlaceholder(2873, folder.path);
-  case ProgramFolderProblem::CannotMake: return texts.withPlaceholder(2874, folder.path);
-  case ProgramFolderProblem::CannotRead: return texts.withPlaceholder(2875, folder.path);
+  case ProgramFolderProblem::Absent: return texts.withPlaceholder(Text::ProgramFolderMissing, folder.path);
+  case ProgramFolderProblem::NotAFolder:
+    return texts.withPlaceholder(Text::ProgramFolderNoFolder, folder.path);
+  case ProgramFolderProblem::CannotMake:
+    return texts.withPlaceholder(Text::ProgramFolderNotMade, folder.path);
+  case ProgramFolderProblem::CannotRead:
+    return texts.withPlaceholder(Text::ProgramFolderUnreadable, folder.path);
   case ProgramFolderProblem::NoHome: break;
   }
-  return std::string(texts.text(2876));
+  return std::string(texts.text(Text::ProgramFolderNoPlace));
 }
 
 } // namespace hooptab

@@ -11,12 +11,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kFinal = 1552;
-constexpr int kPeriod = 1590;
-constexpr int kNotFinished = 2051;
-constexpr int kCannotBeRead = 2632;
-constexpr int kMayBeCut = 2702;
-
 bool isInOvertime(const RecentGame& game) {
   return game.hasPeriods && game.regularPeriods > 0 && game.period > game.regularPeriods;
 }
@@ -32,15 +26,15 @@ QString dayText(const RecentGame& game, const Texts& texts) {
 
 QString periodText(const RecentGame& game, const Texts& texts) {
   return isInOvertime(game) ? toQt(periodName(game.period, game.regularPeriods, texts))
-                            : toQt(texts.withPlaceholder(kPeriod, std::to_string(game.period)));
+                            : toQt(texts.withPlaceholder(Text::PeriodNumber, std::to_string(game.period)));
 }
 
 QString stateText(const RecentGame& game, const Texts& texts) {
   if (game.problem != GameFileProblem::None)
-    return caption(texts, kCannotBeRead);
-  QString state = caption(texts, game.isFinished ? kFinal : kNotFinished);
+    return caption(texts, Text::RecentCannotBeRead);
+  QString state = caption(texts, game.isFinished ? Text::Final : Text::NotFinished);
   if (game.mayBeCut)
-    state += QStringLiteral(", ") + caption(texts, kMayBeCut);
+    state += QStringLiteral(", ") + caption(texts, Text::MayBeCut);
   return isInOvertime(game)
              ? QStringLiteral("%1, %2").arg(state, toQt(periodName(game.period, game.regularPeriods, texts)))
              : state;

@@ -2,17 +2,17 @@
 
 namespace hooptab {
 
-int refusalText(GameFileProblem problem) {
+Text refusalText(GameFileProblem problem) {
   switch (problem) {
-  case GameFileProblem::None: return 0;
+  case GameFileProblem::None: return Text::None;
   case GameFileProblem::Absent:
-  case GameFileProblem::Unreadable: return 1519;
-  case GameFileProblem::TooLarge: return 1560;
-  case GameFileProblem::InvalidFormat: return 1059;
-  case GameFileProblem::WriteFailed: return 1521;
-  case GameFileProblem::UnknownEvent: return 1518;
+  case GameFileProblem::Unreadable: return Text::FileCannotBeRead;
+  case GameFileProblem::TooLarge: return Text::FileTooLarge;
+  case GameFileProblem::InvalidFormat: return Text::NotAGame;
+  case GameFileProblem::WriteFailed: return Text::NotSaved;
+  case GameFileProblem::UnknownEvent: return Text::NotUnderstood;
   }
-  return 0;
+  return Text::None;
 }
 
 } // namespace hooptab

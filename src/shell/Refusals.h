@@ -6,7 +6,8 @@
 
 namespace hooptab {
 
-// 0 for no problem. "XXX" in the text stands for the file. Shown under text 1060 with an exclamation mark.
-[[nodiscard]] int refusalText(GameFileProblem problem);
+// None for no problem. "XXX" in it stands for the file. Shown under Text::ErrorTitle with an exclamation
+// mark.
+[[nodiscard]] Text refusalText(GameFileProblem problem);
 
 } // namespace hooptab

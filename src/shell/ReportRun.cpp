@@ -20,9 +20,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSubjectAndWords = 1801; // "XXX: YYY"
-constexpr int kCountedAllTheSame = 2709;
-
 enum ExitStatus { kGood = 0, kFailed = 1, kWrongUse = 2 };
 
 int complain(ExitStatus status, const std::string& text) {
@@ -30,12 +27,12 @@ int complain(ExitStatus status, const std::string& text) {
   return status;
 }
 
-int reasonOf(GameFileProblem problem) {
+Text reasonOf(GameFileProblem problem) {
   switch (problem) {
-  case GameFileProblem::Absent: return 2860;
-  case GameFileProblem::TooLarge: return 2861;
-  case GameFileProblem::InvalidFormat: return 1059;
-  default: return 2863;
+  case GameFileProblem::Absent: return Text::NoSuchFile;
+  case GameFileProblem::TooLarge: return Text::TooLargeToBeAGame;
+  case GameFileProblem::InvalidFormat: return Text::NotAGame;
+  default: return Text::CannotBeReadGiveAFile;
   }
 }
 
@@ -53,7 +50,7 @@ class ReportRun {
     if (form == ReportForm::Csv && m_request.isForFrenchSpreadsheets)
       form = ReportForm::CsvFrench;
     if (!form)
-      return complain(kWrongUse, words(2877, m_request.format));
+      return complain(kWrongUse, words(Text::UnknownFormat, m_request.format));
     if (isOfGame() && std::filesystem::is_directory(m_request.source, m_ignored))
       return writeEachGame(*form);
     Report report;
@@ -63,17 +60,17 @@ class ReportRun {
   }
 
  private:
-  std::string words(int text, const std::string& x = {}, const std::string& y = {}) const {
+  std::string words(Text text, const std::string& x = {}, const std::string& y = {}) const {
     return withPlaceholders(m_texts.text(text), x, y);
   }
-  std::string withReason(const std::string& path, int text) const {
-    return words(kSubjectAndWords, path, words(text));
+  std::string withReason(const std::string& path, Text text) const {
+    return words(Text::SubjectAndWords, path, words(text));
   }
-  int complainOf(ExitStatus status, const std::string& path, int text) const {
+  int complainOf(ExitStatus status, const std::string& path, Text text) const {
     return complain(status, withReason(path, text));
   }
   int complainOfMissing(const std::string& what) const {
-    return complain(kWrongUse, words(2847, "--report " + m_request.kind, what));
+    return complain(kWrongUse, words(Text::OptionNeeds, "--report " + m_request.kind, what));
   }
 
   bool isOfGame() const {
@@ -85,11 +82,11 @@ class ReportRun {
   // game that cannot be reported does not keep the others from it.
   int writeEachGame(ReportForm form) {
     if (!std::filesystem::is_directory(m_request.output, m_ignored))
-      return complainOf(kWrongUse, m_request.output, 2878);
+      return complainOf(kWrongUse, m_request.output, Text::OutputMustBeFolder);
     ScanWatch watch;
     const FoundGames games = findGames(m_files, {m_request.source}, watch);
     if (games.outcome != ScanOutcome::Done || games.paths.empty())
-      return complainOf(kFailed, m_request.source, 2879);
+      return complainOf(kFailed, m_request.source, Text::NoGameInFolder);
     ExitStatus status = kGood;
     for (const std::string& game : games.paths) {
       Report report;
@@ -105,15 +102,15 @@ class ReportRun {
     if (!m_request.title.empty())
       report.title = m_request.title;
     if (!canBe(report, form))
-      return complain(kWrongUse, words(2880, m_request.format));
+      return complain(kWrongUse, words(Text::NoSuchFormat, m_request.format));
     PageFormat format;
     format.paper = m_request.isLetter ? Paper::Letter : Paper::A4;
     const char* language = m_texts.language() == Language::French ? "fr" : "en";
     const auto contents = filesOf(report, form, format, language);
     if (!contents)
-      return complain(kFailed, words(2881));
+      return complain(kFailed, words(Text::ReportNotMade));
     const std::string failed = writeFiles(m_files, output, *contents);
-    return failed.empty() ? kGood : complainOf(kFailed, failed, 2882);
+    return failed.empty() ? kGood : complainOf(kFailed, failed, Text::CannotBeWritten);
   }
 
   int make(Report& report) {
@@ -130,32 +127,33 @@ class ReportRun {
       if (name.word == kind)
         return makeOfSeason(name.report, report);
     }
-    return complain(kWrongUse, words(2859, words(2883, kind), "hooptab --help"));
+    return complain(kWrongUse, words(Text::SeeUsage, words(Text::UnknownReport, kind), "hooptab --help"));
   }
   int makeOfSeason(SeasonReport which, Report& report) {
     if (m_request.source.empty())
-      return complainOfMissing(words(2884));
+      return complainOfMissing(words(Text::AFolderOfGames));
     GameCatalogue catalogue(m_files);
     ScanWatch watch;
     if (catalogue.scan({m_request.source}, watch) != ScanOutcome::Done)
-      return complainOf(kFailed, m_request.source, 2886);
+      return complainOf(kFailed, m_request.source, Text::NoFolderOrUnreadable);
     for (const SkippedFile& skipped : catalogue.skipped())
-      (void)complain(kGood, words(2891, withReason(skipped.path, skipReasonText(skipped.reason))));
+      (void)complain(kGood,
+                     words(Text::LeftOutWhat, withReason(skipped.path, skipReasonText(skipped.reason))));
     if (catalogue.games().empty())
-      return complainOf(kFailed, m_request.source, 2887);
+      return complainOf(kFailed, m_request.source, Text::NoFinishedGameThere);
     GameCriteria criteria;
     criteria.team = m_request.team;
     SeasonReportChoice choice;
     choice.minimum = m_request.minimum;
     choice.team = catalogue.teamOf(m_request.team);
     if (!m_request.team.empty() && !choice.team)
-      return complain(kWrongUse, words(2888, m_request.team, m_request.source));
+      return complain(kWrongUse, words(Text::NoTeamIn, m_request.team, m_request.source));
     const std::vector<std::size_t> games = catalogue.select(criteria);
     for (const std::size_t game : games) {
       const ListedGame& told = catalogue.games()[game];
       if (told.wrongCount > 0)
-        (void)complain(kGood, words(kSubjectAndWords, told.path,
-                                    words(kCountedAllTheSame, catalogue.whyWrong(told, m_texts))));
+        (void)complain(kGood, words(Text::SubjectAndWords, told.path,
+                                    words(Text::OneCountedAllTheSame, catalogue.whyWrong(told, m_texts))));
     }
     const SeasonStatistics statistics(catalogue, games, {m_request.team, std::nullopt});
     const bool isOfLines =
@@ -164,12 +162,13 @@ class ReportRun {
     const auto named = isOfLines ? &SeasonRow::name : &SeasonRow::number;
     const auto chosen = std::ranges::find(rows, m_request.player, named);
     if (chosen != rows.end() && std::ranges::count(rows, m_request.player, named) > 1)
-      return complain(kWrongUse, words(2889, m_request.player));
+      return complain(kWrongUse, words(Text::SeveralHaveTheNumber, m_request.player));
     if (chosen != rows.end())
       choice.chosen = chosen->id;
     else if (!m_request.player.empty() || which == SeasonReport::Player || which == SeasonReport::Line)
-      return m_request.player.empty() ? complainOfMissing("--player|--line")
-                                      : complain(kWrongUse, words(2890, m_request.player));
+      return m_request.player.empty()
+                 ? complainOfMissing("--player|--line")
+                 : complain(kWrongUse, words(Text::NobodyHasTheNumber, m_request.player));
     report = seasonReport(which, statistics, choice, m_settings, m_texts);
     const bool isTooLong = m_request.format == "pdf" && rankedRows(report) > kLongestList;
     const int proposed = isTooLong ? static_cast<int>(kProposedRows) : 0;
@@ -179,7 +178,7 @@ class ReportRun {
   }
   int makeOfGame(const std::string& path, Report& report) {
     if (path.empty())
-      return complainOfMissing(words(2885));
+      return complainOfMissing(words(Text::AGameOrAFolder));
     Scorecard card(m_store, path);
     if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None)
       return complainOf(kFailed, path, reasonOf(problem));
@@ -204,8 +203,9 @@ class ReportRun {
                                           : preparedForms(team, players, m_texts);
       return kGood;
     }
-    return m_request.team.empty() ? complainOfMissing("--team")
-                                  : complain(kWrongUse, words(2888, m_request.team, m_settings.path()));
+    return m_request.team.empty()
+               ? complainOfMissing("--team")
+               : complain(kWrongUse, words(Text::NoTeamIn, m_request.team, m_settings.path()));
   }
 
   const ReportRequest& m_request;

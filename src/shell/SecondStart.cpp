@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QLocalServer>
 #include <QLocalSocket>
 #include <QThread>
 #include <unistd.h>
@@ -35,13 +36,13 @@ bool isWhole(const QByteArray& message) {
 
 } // namespace
 
-SecondStart::SecondStart(const QString& programFolder) {
+SecondStart::SecondStart(const QString& programFolder) : m_server(new QLocalServer(this)) {
   const QString path = socketPath(programFolder);
   QLocalServer::removeServer(path); // left by one that was killed: the folder is ours now
-  m_server.setSocketOptions(QLocalServer::UserAccessOption);
-  m_server.listen(path);
-  connect(&m_server, &QLocalServer::newConnection, this, [this] {
-    while (QLocalSocket* other = m_server.nextPendingConnection()) {
+  m_server->setSocketOptions(QLocalServer::UserAccessOption);
+  m_server->listen(path);
+  connect(m_server, &QLocalServer::newConnection, this, [this] {
+    while (QLocalSocket* other = m_server->nextPendingConnection()) {
       connect(other, &QLocalSocket::disconnected, other, &QObject::deleteLater);
       connect(other, &QLocalSocket::readyRead, this, [this, other] { serve(other); });
       serve(other);

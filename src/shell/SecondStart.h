@@ -3,12 +3,15 @@
 // is InstanceLock's to know.
 #pragma once
 
-#include <QLocalServer>
+#include <QObject>
 #include <QStringList>
 
 #include <chrono>
 #include <string>
 #include <vector>
+
+class QLocalServer;
+class QLocalSocket;
 
 namespace hooptab {
 
@@ -31,7 +34,7 @@ class SecondStart : public QObject {
  private:
   void serve(QLocalSocket* other);
 
-  QLocalServer m_server;
+  QLocalServer* m_server;
 };
 
 } // namespace hooptab

@@ -29,7 +29,7 @@ struct Lengths {
 
 } // namespace
 
-StartCard::StartCard(QAction& action, int line, const Texts& texts, QWidget* parent)
+StartCard::StartCard(QAction& action, Text line, const Texts& texts, QWidget* parent)
     : PageButton(parent), m_action(action), m_line(line), m_texts(texts) {
   setObjectName(QStringLiteral("card_") + action.objectName());
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -39,7 +39,7 @@ StartCard::StartCard(QAction& action, int line, const Texts& texts, QWidget* par
   follow();
 }
 
-StartCard::StartCard(QMenu& menu, int line, const Texts& texts, QWidget* parent)
+StartCard::StartCard(QMenu& menu, Text line, const Texts& texts, QWidget* parent)
     : StartCard(*menu.menuAction(), line, texts, parent) {
   connect(this, &QAbstractButton::clicked, &menu,
           [this, &menu] { menu.popup(mapToGlobal(rect().bottomLeft())); });

@@ -14,8 +14,8 @@ class StartCard : public PageButton {
   Q_OBJECT
  public:
   // Looks and is called like the action. `line` is the number of the line's text.
-  StartCard(QAction& action, int line, const Texts& texts, QWidget* parent);
-  StartCard(QMenu& menu, int line, const Texts& texts, QWidget* parent);
+  StartCard(QAction& action, Text line, const Texts& texts, QWidget* parent);
+  StartCard(QMenu& menu, Text line, const Texts& texts, QWidget* parent);
 
   void relabelCard();
   QSize sizeHint() const override;
@@ -30,7 +30,7 @@ class StartCard : public PageButton {
   [[nodiscard]] QString keyText() const;
 
   QAction& m_action;
-  int m_line;
+  Text m_line;
   const Texts& m_texts;
 };
 

@@ -18,11 +18,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kNotFinished = 2626;
-constexpr int kSaved = 2627;
-constexpr int kContinue = 2628;
-constexpr int kScorecard = 2629;
-constexpr int kFolder = 2630;
 constexpr double kRadius = 8;
 
 struct Heights {
@@ -36,9 +31,11 @@ struct Heights {
 } // namespace
 
 UnfinishedPlate::UnfinishedPlate(const Texts& texts, QWidget* parent)
-    : QWidget(parent), m_texts(texts), m_buttons{iconButton("cmdCONTINUE", kContinue, kContinue, "", this),
-                                                 iconButton("cmdSCORECARD", kScorecard, kScorecard, "", this),
-                                                 iconButton("cmdFOLDER", kFolder, kFolder, "", this)} {
+    : QWidget(parent),
+      m_texts(texts), m_buttons{
+                          iconButton("cmdCONTINUE", Text::Continue, Text::Continue, "", this),
+                          iconButton("cmdSCORECARD", Text::OpenAsScorecard, Text::OpenAsScorecard, "", this),
+                          iconButton("cmdFOLDER", Text::ShowInFolder, Text::ShowInFolder, "", this)} {
   setObjectName(QStringLiteral("unfinished"));
   auto* buttons = new QHBoxLayout;
   for (QPushButton* button : m_buttons)
@@ -107,7 +104,7 @@ void UnfinishedPlate::paintEvent(QPaintEvent*) {
   const int room = width() - 2 * side;
   painter.setFont(Theme::font(Type::Body, QFont::Bold));
   painter.setPen(look.clockStands);
-  const QString state = caption(m_texts, kNotFinished);
+  const QString state = caption(m_texts, Text::NotFinishedCapital);
   QRect line(side, heights.margin, room, heights.line);
   painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, state);
   line.setLeft(line.left() + painter.fontMetrics().horizontalAdvance(state) + measure(12));
@@ -117,7 +114,7 @@ void UnfinishedPlate::paintEvent(QPaintEvent*) {
   const QString written =
       locale.toString(QDateTime::fromSecsSinceEpoch(m_game.changed), QStringLiteral("d MMM yyyy, HH:mm"));
   const QString saved =
-      toQt(withPlaceholders(m_texts.text(kSaved), std::to_string(m_game.events), fromQt(written)));
+      toQt(withPlaceholders(m_texts.text(Text::EventsSaved), std::to_string(m_game.events), fromQt(written)));
   painter.drawText(line, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine,
                    painter.fontMetrics().elidedText(saved, Qt::ElideRight, line.width()));
 

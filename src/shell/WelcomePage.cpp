@@ -23,18 +23,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kLanguageName = 1074; // of the other language, as each table has it
-constexpr int kRecentGames = 1530;
-constexpr int kDropHint = 1545;
-constexpr int kLineNew = 2620;
-constexpr int kLineOpen = 2621;
-constexpr int kLineSeason = 2622;
-constexpr int kLineTeams = 2623;
-constexpr int kLineSamples = 2624;
-constexpr int kLineGuide = 2625;
-constexpr int kNoGamesYet = 2631;
-constexpr int kLanguageTip = 2633;
-
 constexpr int kWideMarginZoom = 110; // percent; above, texts need the room
 
 constexpr Language kLanguages[] = {Language::English, Language::French};
@@ -114,9 +102,9 @@ QBoxLayout* WelcomePage::makeHead(const StartCommands& commands) {
     m_languages[i] = button;
     button->setObjectName(QStringLiteral("optLANGUAGE(%1)").arg(i));
     button->setCheckable(true);
-    setToolTipNumber(*button, kLanguageTip);
+    setToolTipNumber(*button, Text::LanguageTip);
     const Language other = kLanguages[1 - i];
-    button->setText(toQt(m_texts.text(kLanguageName, other)));
+    button->setText(toQt(m_texts.text(Text::LanguageName, other)));
     connect(button, &QPushButton::clicked, &commands.language, [this, i, &language = commands.language] {
       if (m_texts.language() != kLanguages[i])
         language.trigger();
@@ -142,13 +130,13 @@ QBoxLayout* WelcomePage::makeGames() {
 
   auto* card = new Card(this);
   m_listTitle = new PlainLabel(card);
-  setTextNumber(*m_listTitle, kRecentGames);
+  setTextNumber(*m_listTitle, Text::RecentGames);
   m_nothing = new PlainLabel(card);
   m_nothing->setObjectName(QStringLiteral("lblNOTHING"));
   m_nothing->setForegroundRole(QPalette::PlaceholderText);
   m_nothing->setWordWrap(true);
   m_nothing->hide(); // until it is known
-  setTextNumber(*m_nothing, kNoGamesYet);
+  setTextNumber(*m_nothing, Text::GamesWillBeListed);
   m_listLayout = new QVBoxLayout(card);
   m_listLayout->setSpacing(0);
   m_listLayout->addWidget(m_listTitle);
@@ -156,7 +144,7 @@ QBoxLayout* WelcomePage::makeGames() {
 
   auto* hint = new DropHint(this);
   hint->setObjectName(QStringLiteral("lblHINT"));
-  setTextNumber(*hint, kDropHint);
+  setTextNumber(*hint, Text::DropHint);
 
   m_left = new QVBoxLayout;
   m_left->addWidget(m_unfinished);
@@ -167,12 +155,12 @@ QBoxLayout* WelcomePage::makeGames() {
 }
 
 QBoxLayout* WelcomePage::makeCards(const StartCommands& commands) {
-  m_cards = {new StartCard(commands.newGame, kLineNew, m_texts, this),
-             new StartCard(commands.openGame, kLineOpen, m_texts, this),
-             new StartCard(commands.season, kLineSeason, m_texts, this),
-             new StartCard(commands.teams, kLineTeams, m_texts, this),
-             new StartCard(commands.sampleGames, kLineSamples, m_texts, this),
-             new StartCard(commands.guide, kLineGuide, m_texts, this)};
+  m_cards = {new StartCard(commands.newGame, Text::LineNew, m_texts, this),
+             new StartCard(commands.openGame, Text::LineOpen, m_texts, this),
+             new StartCard(commands.season, Text::LineSeason, m_texts, this),
+             new StartCard(commands.teams, Text::LineTeams, m_texts, this),
+             new StartCard(commands.sampleGames, Text::LineSamples, m_texts, this),
+             new StartCard(commands.guide, Text::LineGuide, m_texts, this)};
   m_right = new QVBoxLayout;
   for (StartCard* card : m_cards)
     m_right->addWidget(card);

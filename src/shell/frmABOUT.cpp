@@ -12,9 +12,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kPurpose = 1541;
-constexpr int kVersion = 1540;
-constexpr int kLicence = 1612;
 constexpr int kIconSize = 96;
 constexpr int kTextWidth = 340;
 constexpr int kNamePoints = 16;
@@ -23,7 +20,7 @@ constexpr int kNamePoints = 16;
 
 frmABOUT::frmABOUT(const Texts& texts, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmABOUT"));
-  setTextNumber(*this, 1382);
+  setTextNumber(*this, Text::About);
   auto* layout = new QGridLayout(this);
   layout->setContentsMargins(24, 24, 24, 16);
   layout->setHorizontalSpacing(24);
@@ -33,7 +30,7 @@ frmABOUT::frmABOUT(const Texts& texts, QWidget* parent) : QDialog(parent) {
   layout->addWidget(picture, 0, 0, 5, 1, Qt::AlignTop);
 
   int row = 0;
-  const auto addLine = [&](const char* name, int text) {
+  const auto addLine = [&](const char* name, Text text) {
     auto* label = new PlainLabel(this);
     label->setObjectName(QLatin1String(name));
     label->setWordWrap(true);
@@ -42,23 +39,23 @@ frmABOUT::frmABOUT(const Texts& texts, QWidget* parent) : QDialog(parent) {
     layout->addWidget(label, row++, 1);
     return label;
   };
-  QLabel* name = addLine("lblNAME", 0);
+  QLabel* name = addLine("lblNAME", Text::None);
   name->setText(QStringLiteral("HOOPTAB Basketball"));
   QFont large = name->font();
   large.setPointSize(kNamePoints);
   large.setBold(true);
   name->setFont(large);
-  addLine("lblPURPOSE", kPurpose);
-  QLabel* version = addLine("lblVERSION", 0);
+  addLine("lblPURPOSE", Text::Purpose);
+  QLabel* version = addLine("lblVERSION", Text::None);
   version->setTextInteractionFlags(Qt::TextSelectableByMouse); // for a message to whoever helps
-  addLine("lblLICENCE", kLicence);
+  addLine("lblLICENCE", Text::QtLicence);
 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   layout->addWidget(buttons, 5, 0, 1, 2);
 
   relabel(*this, texts);
-  version->setText(caption(texts, kVersion) + u' ' + QCoreApplication::applicationVersion() +
+  version->setText(caption(texts, Text::Version) + u' ' + QCoreApplication::applicationVersion() +
                    QStringLiteral("\nQt ") + QString::fromLatin1(qVersion()));
 }
 

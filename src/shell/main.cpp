@@ -35,8 +35,6 @@ using namespace hooptab;
 namespace {
 
 constexpr int kWrongUse = 2;
-constexpr int kNoDisplay = 2840;
-constexpr int kFailed = 2871;
 
 void complain(const std::string& sentence) {
   std::cerr << "hooptab: " << printable(sentence) << '\n';
@@ -156,7 +154,7 @@ int start(int argc, char** argv) {
   // Finding the fonts takes as long as reaching the display: both at once make the start a good deal shorter.
   std::thread fonts([] { FcInit(); });
   const bool hasFolder = folder.problem == ProgramFolderProblem::None;
-  obstacle = hasFolder ? std::string(texts.text(kNoDisplay)) : message(folder, texts);
+  obstacle = hasFolder ? std::string(texts.text(Text::NoDisplay)) : message(folder, texts);
   const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
   Application application(argc, argv);
   qInstallMessageHandler(usual);
@@ -186,7 +184,7 @@ int main(int argc, char** argv) {
   } catch (const std::exception& failure) {
     Texts texts;
     texts.setLanguage(environmentLanguage());
-    complain(texts.withPlaceholder(kFailed, failure.what()));
+    complain(texts.withPlaceholder(Text::WentWrong, failure.what()));
     return EXIT_FAILURE;
   }
 }

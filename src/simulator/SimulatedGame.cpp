@@ -1,18 +1,13 @@
 #include "simulator/SimulatedGame.h"
 
-#include "settings/Texts.h"
+#include "settings/ChoiceTexts.h"
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kFirstGameType = 1250; // texts of the game types, by index
-
-} // namespace
-
 std::string SimulatedGame::fileName() const {
   static const Texts texts;
-  std::string name = details.date + " " + std::string(texts.text(kFirstGameType + details.type));
+  std::string name =
+      details.date + " " + std::string(texts.text(textBehind(kFirstGameTypeText, details.type)));
   for (std::size_t team = 0; team < 2; ++team)
     name += " " + details.abbreviation[team] + "-" + details.category[team];
   return name + ".GAM";

@@ -16,16 +16,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kInvalidNumber = 1171;
-constexpr int kNoName = 1173;
-constexpr int kTooLong = 1817;
-constexpr int kLine = 1840;
-constexpr int kUnknownPosition = 1841;
-constexpr int kNumberAgain = 1842;
-constexpr int kOpenQuote = 1843;
-constexpr int kNumberOtherwise = 2461;
-constexpr int kIncompleteHeader = 1844;
-constexpr int kTooManyRows = 1845;
 constexpr std::size_t kMostPlayers = 1000;
 constexpr std::size_t kLongestDetail = 40;
 
@@ -35,8 +25,8 @@ constexpr std::size_t kFirstName = kColumns;
 constexpr std::size_t kLastName = kColumns + 1;
 constexpr std::size_t kColumnsRead = kColumns + 2;
 // The header's name of each column; others by which people call it, and the number's caption elsewhere.
-constexpr std::array<int, kColumns> kHeaders = {1838, 1839, 1023, 1320, 1321, 1322, 1323};
-constexpr int kJerseyNumber = 1705;
+constexpr std::array<Text, kColumns> kHeaders = {Text::Number, Text::Position, Text::PlayerName, Text::Height,
+                                                 Text::Weight, Text::Age,      Text::Grade};
 constexpr std::pair<std::string_view, std::size_t> kOtherNames[] = {{"no", kNumber},
                                                                     {"no.", kNumber},
                                                                     {"n°", kNumber},
@@ -76,7 +66,7 @@ std::optional<std::size_t> columnOf(std::string_view cell, const Texts& texts) {
     }
   }
   for (const Language language : {Language::English, Language::French}) {
-    if (isSame(cell, texts.text(kJerseyNumber, language)))
+    if (isSame(cell, texts.text(Text::JerseyNumber, language)))
       return kNumber;
   }
   for (const auto& [name, column] : kOtherNames) {
@@ -95,7 +85,7 @@ std::optional<int> positionOf(std::string_view cell, const Texts& texts) {
     if (choiceName(kFirstPositionText, index, texts).empty())
       continue;
     for (const Language language : {Language::English, Language::French}) {
-      const std::string_view name = texts.text(kFirstPositionText + index, language);
+      const std::string_view name = texts.text(textBehind(kFirstPositionText, index), language);
       if (isSame(cell, name) || (index != kNoPosition && cell.size() == 1 && isSame(cell, name.substr(0, 1))))
         return index;
     }
@@ -141,32 +131,32 @@ class RowReader {
   RowReader(const Texts& texts, const Places& places) : m_texts(texts), m_places(places) {}
 
   void read(const DelimitedRow& row, CsvPlayers& into) const {
-    const auto refuse = [&](int text, const std::string& detail) {
+    const auto refuse = [&](Text text, const std::string& detail) {
       into.problems.push_back(
           {row.line, text, codepage::toUtf8(codepage::fromUtf8(detail).substr(0, kLongestDetail))});
     };
     if (row.hasOpenQuote)
-      return refuse(kOpenQuote, {});
+      return refuse(Text::OpenQuote, {});
     const std::string number = cell(row, kNumber);
     if (!isJersey(number))
-      return refuse(kInvalidNumber, number);
+      return refuse(Text::InvalidNumber, number);
     const std::optional<int> position = positionOf(cell(row, kPosition), m_texts);
     if (!position)
-      return refuse(kUnknownPosition, cell(row, kPosition));
+      return refuse(Text::UnknownPosition, cell(row, kPosition));
     TeamPlayer player{
         number,
         {*position, name(row), cell(row, kHeight), cell(row, kWeight), cell(row, kAge), cell(row, kGrade)},
         {}};
     if (player.record.name.empty())
-      return refuse(kNoName, {});
+      return refuse(Text::NoName, {});
     if (std::ranges::find(into.players, number, &TeamPlayer::number) != into.players.end())
-      return refuse(kNumberAgain, number);
+      return refuse(Text::NumberAgain, number);
     if (std::ranges::any_of(into.players, [&](const TeamPlayer& other) {
           return Roster::areOneNumber(other.number, number);
         }))
-      return refuse(kNumberOtherwise, number);
+      return refuse(Text::NumberWrittenOtherwise, number);
     if (!fitsInValue(playerValue(player.record)))
-      return refuse(kTooLong, {});
+      return refuse(Text::PlayerTooLong, {});
     into.players.push_back(std::move(player));
   }
 
@@ -196,7 +186,7 @@ CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts) {
     return result;
   const std::optional<Places> header = headerIn(rows.front(), texts);
   if (header && (!(*header)[kNumber] || (!(*header)[kName] && !(*header)[kLastName]))) {
-    result.problems.push_back({rows.front().line, kIncompleteHeader, {}});
+    result.problems.push_back({rows.front().line, Text::IncompleteHeader, {}});
     return result;
   }
   const Places places = header ? *header : placesInOrder(rows);
@@ -208,7 +198,7 @@ CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts) {
   const RowReader reader(texts, places);
   for (std::size_t row = header ? 1 : 0; row < rows.size(); ++row) {
     if (result.players.size() == kMostPlayers) {
-      result.problems.push_back({rows[row].line, kTooManyRows, std::to_string(kMostPlayers)});
+      result.problems.push_back({rows[row].line, Text::TooManyRows, std::to_string(kMostPlayers)});
       break;
     }
     reader.read(rows[row], result);
@@ -218,14 +208,14 @@ CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts) {
 
 std::string problemText(const CsvProblem& problem, const Texts& texts) {
   std::string words = texts.withPlaceholder(problem.text, problem.detail);
-  if (problem.text == kInvalidNumber && !problem.detail.empty())
+  if (problem.text == Text::InvalidNumber && !problem.detail.empty())
     words += " (" + problem.detail + ")";
-  return withPlaceholders(texts.text(kLine), std::to_string(problem.line), words);
+  return withPlaceholders(texts.text(Text::LineRefused), std::to_string(problem.line), words);
 }
 
 std::string playersCsv(const std::vector<TeamPlayer>& players, const Texts& texts) {
   std::vector<std::string> fields;
-  for (const int header : kHeaders)
+  for (const Text header : kHeaders)
     fields.emplace_back(texts.text(header));
   std::string csv = csvRow(fields);
   for (const TeamPlayer& player : players) {

@@ -14,9 +14,9 @@
 namespace hooptab {
 
 struct CsvProblem {
-  int line = 0;       // of the text, from 1, where the row begins
-  int text = 0;       // number of the text that says what is wrong
-  std::string detail; // the value meant, for "XXX" in it
+  int line = 0;           // of the text, from 1, where the row begins
+  Text text = Text::None; // what is wrong
+  std::string detail;     // the value meant, for "XXX" in it
 };
 
 struct CsvPlayers {

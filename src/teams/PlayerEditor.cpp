@@ -18,22 +18,21 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kInvalidNumber = 1171;
-constexpr int kNoPositionChosen = 1172;
-constexpr int kPositionText = 1839;
 constexpr int kGap = 8;
 constexpr int kLongestPosition = 8; // letters, of its name
 constexpr int kButtonRow = 36;
 
 constexpr struct {
   const char* name;
-  int text;
+  Text text;
   std::string PlayerFields::*part;
   int stretch;
 } kFreeTexts[] = {
-    {"txtJOUEURNOM", 1023, &PlayerFields::name, 5}, {"txtGRANDEUR", 1320, &PlayerFields::height, 2},
-    {"txtPOIDS", 1321, &PlayerFields::weight, 2},   {"txtAGE", 1322, &PlayerFields::age, 1},
-    {"txtGRADE", 1323, &PlayerFields::grade, 2},
+    {"txtJOUEURNOM", Text::PlayerName, &PlayerFields::name, 5},
+    {"txtGRANDEUR", Text::Height, &PlayerFields::height, 2},
+    {"txtPOIDS", Text::Weight, &PlayerFields::weight, 2},
+    {"txtAGE", Text::Age, &PlayerFields::age, 1},
+    {"txtGRADE", Text::Grade, &PlayerFields::grade, 2},
 };
 
 } // namespace
@@ -45,15 +44,15 @@ PlayerEditor::PlayerEditor(const TeamSheet& sheet, const Texts& texts, QWidget* 
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setHorizontalSpacing(kGap);
   layout->setVerticalSpacing(2);
-  m_number = addField(*layout, 0, "txtJOUEURNO", 1838);
+  m_number = addField(*layout, 0, "txtJOUEURNO", Text::Number);
   // A validator, which lets a longer number from a file changed by hand be shown whole.
   m_number->setValidator(
       new QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,3}")), m_number));
   m_position = new QComboBox(this); // behind the number: the tab key goes in the order of making
   m_position->setObjectName(QStringLiteral("cmbPOSITION"));
   m_position->setMinimumContentsLength(kLongestPosition);
-  layout->addWidget(captionFor(*m_position, kPositionText), 0, 1);
-  setToolTipNumber(*m_position, kNoPositionChosen);
+  layout->addWidget(captionFor(*m_position, Text::Position), 0, 1);
+  setToolTipNumber(*m_position, Text::NoPositionChosen);
   layout->addWidget(m_position, 1, 1);
   layout->setColumnStretch(0, 1);
   layout->setColumnStretch(1, 1);
@@ -72,9 +71,9 @@ PlayerEditor::PlayerEditor(const TeamSheet& sheet, const Texts& texts, QWidget* 
 
   m_announcement->setObjectName(QStringLiteral("lblANNOUNCE"));
   m_announcement->setWordWrap(true);
-  auto* add = iconButton("cmdAJOUTERJOUEUR", 1165, 1166, "", this);
-  auto* clear = iconButton("cmdCLEAR", 1188, 1837, "clear", this);
-  auto* remove = iconButton("cmdEFFACER", 1167, 1167, "delete", this);
+  auto* add = iconButton("cmdAJOUTERJOUEUR", Text::AddOrSave, Text::AddOrSavePlayer, "", this);
+  auto* clear = iconButton("cmdCLEAR", Text::ClearKey, Text::ClearPlayer, "clear", this);
+  auto* remove = iconButton("cmdEFFACER", Text::DeletePlayer, Text::DeletePlayer, "delete", this);
   add->setDefault(true); // in the accent
   m_changing = {add, remove};
   auto* last = new QHBoxLayout;
@@ -95,7 +94,7 @@ PlayerEditor::PlayerEditor(const TeamSheet& sheet, const Texts& texts, QWidget* 
   connect(escape, &QShortcut::activated, this, &PlayerEditor::clearAsked);
 }
 
-QLineEdit* PlayerEditor::addField(QGridLayout& layout, int column, const char* name, int text) {
+QLineEdit* PlayerEditor::addField(QGridLayout& layout, int column, const char* name, Text text) {
   auto* field = new QLineEdit(this);
   field->setObjectName(QLatin1String(name));
   layout.addWidget(captionFor(*field, text), 0, column);
@@ -148,10 +147,10 @@ void PlayerEditor::focusNumber() {
   m_number->selectAll();
 }
 
-void PlayerEditor::focusOn(int problem) {
-  if (problem == kInvalidNumber)
+void PlayerEditor::focusOn(Text problem) {
+  if (problem == Text::InvalidNumber)
     focusNumber();
-  else if (problem == kNoPositionChosen)
+  else if (problem == Text::NoPositionChosen)
     m_position->setFocus(Qt::OtherFocusReason);
   else
     m_free[0]->setFocus(Qt::OtherFocusReason);

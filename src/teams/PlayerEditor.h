@@ -30,7 +30,7 @@ class PlayerEditor : public QWidget {
   void setHasTeam(bool hasTeam); // without one nothing is announced
   void setEditable(bool isEditable);
   void focusNumber();
-  void focusOn(int problem); // the field that a text of TeamSheet::problem speaks of
+  void focusOn(Text problem); // the field that a text of TeamSheet::problem speaks of
   void relabelPanel();
 
  signals:
@@ -39,7 +39,7 @@ class PlayerEditor : public QWidget {
   void deleteAsked();
 
  private:
-  QLineEdit* addField(QGridLayout& layout, int column, const char* name, int text);
+  QLineEdit* addField(QGridLayout& layout, int column, const char* name, Text text);
   void showAnnouncement();
 
   const TeamSheet& m_sheet;

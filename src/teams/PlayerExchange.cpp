@@ -20,19 +20,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kErrorTitle = 1060;
-constexpr int kWarningTitle = 1139;
-constexpr int kCannotBeRead = 1519;
-constexpr int kNotWritten = 1820;
-constexpr int kImportTip = 1826;
-constexpr int kExportTip = 1830;
-constexpr int kTableFilter = 1831;
-constexpr int kTaken = 1832;
-constexpr int kLeftOut = 1833;
-constexpr int kAndMore = 1834;
-constexpr int kReplaceFile = 1836;
-constexpr int kNoPlayers = 1802;
-constexpr int kOthersNow = 2803;
 constexpr qsizetype kMostLinesShown = 12; // of each list
 
 // What the table does not say of a player stays as it is.
@@ -68,15 +55,16 @@ PlayerExchange::PlayerExchange(FileSystem& files, const Texts& texts, Dialogs& d
     : m_files(files), m_texts(texts), m_dialogs(dialogs) {}
 
 bool PlayerExchange::importFile(QWidget* parent, TeamSheet& sheet, const QString& folder) {
-  const QString path = m_dialogs.chooseFile(parent, toQt(m_texts.text(kImportTip)), folder,
-                                            fileFilter(toQt(m_texts.text(kTableFilter))));
+  const QString path = m_dialogs.chooseFile(parent, toQt(m_texts.text(Text::ImportTip)), folder,
+                                            fileFilter(toQt(m_texts.text(Text::TableFilter))));
   if (path.isEmpty())
     return false;
   std::string bytes;
   FileStamp stamp;
   if (readWholeFile(m_files, fromQt(path), bytes, stamp) != ReadOutcome::Read) {
-    m_dialogs.complain(parent, toQt(m_texts.text(kErrorTitle)),
-                       toQt(m_texts.withPlaceholder(kCannotBeRead, fromQt(QDir::toNativeSeparators(path)))));
+    m_dialogs.complain(
+        parent, toQt(m_texts.text(Text::ErrorTitle)),
+        toQt(m_texts.withPlaceholder(Text::FileCannotBeRead, fromQt(QDir::toNativeSeparators(path)))));
     return false;
   }
   return take(parent, sheet, decodedText(QByteArray::fromStdString(bytes)));
@@ -106,9 +94,9 @@ bool PlayerExchange::take(QWidget* parent, TeamSheet& sheet, const QString& text
   }
 
   QString message = taken == 0 && problems.isEmpty()
-                        ? toQt(m_texts.text(kNoPlayers))
-                        : toQt(m_texts.withPlaceholder(kTaken, std::to_string(taken)));
-  const auto list = [&](int title, const QStringList& lines) {
+                        ? toQt(m_texts.text(Text::NoPlayers))
+                        : toQt(m_texts.withPlaceholder(Text::PlayersTakenOver, std::to_string(taken)));
+  const auto list = [&](Text title, const QStringList& lines) {
     if (lines.isEmpty())
       return;
     message += QStringLiteral("\n\n") + toQt(m_texts.text(title));
@@ -116,35 +104,35 @@ bool PlayerExchange::take(QWidget* parent, TeamSheet& sheet, const QString& text
       message += QStringLiteral("\n• ") + line;
     if (lines.size() > kMostLinesShown)
       message += QStringLiteral("\n• ") +
-                 toQt(m_texts.withPlaceholder(kAndMore, std::to_string(lines.size() - kMostLinesShown)));
+                 toQt(m_texts.withPlaceholder(Text::AndMore, std::to_string(lines.size() - kMostLinesShown)));
   };
-  list(kOthersNow, others);
-  list(kLeftOut, problems);
+  list(Text::OthersNow, others);
+  list(Text::LeftOut, problems);
   if (problems.isEmpty() && others.isEmpty() && taken > 0)
-    m_dialogs.inform(parent, toQt(m_texts.text(kImportTip)), message);
+    m_dialogs.inform(parent, toQt(m_texts.text(Text::ImportTip)), message);
   else
-    m_dialogs.warn(parent, toQt(m_texts.text(kWarningTitle)), message);
+    m_dialogs.warn(parent, toQt(m_texts.text(Text::WarningTitle)), message);
   return taken > 0;
 }
 
 void PlayerExchange::exportFile(QWidget* parent, const TeamSheet& sheet, const QString& folder,
                                 const QString& name) {
   const QString path = m_dialogs.chooseFileToSave(
-      parent, toQt(m_texts.text(kExportTip)),
+      parent, toQt(m_texts.text(Text::ExportTip)),
       folder + u'/' + toQt(Module1::asFileName(fromQt(name))) + QStringLiteral(".csv"),
-      fileFilter(toQt(m_texts.text(kTableFilter))), QStringLiteral("csv"));
+      fileFilter(toQt(m_texts.text(Text::TableFilter))), QStringLiteral("csv"));
   if (path.isEmpty())
     return;
   const std::string shown = fromQt(QDir::toNativeSeparators(path));
   FileStamp stamp;
   if (m_files.stamp(fromQt(path), stamp) &&
-      !m_dialogs.ask(parent, toQt(m_texts.text(kWarningTitle)),
-                     toQt(m_texts.withPlaceholder(kReplaceFile, shown))))
+      !m_dialogs.ask(parent, toQt(m_texts.text(Text::WarningTitle)),
+                     toQt(m_texts.withPlaceholder(Text::ReplaceFile, shown))))
     return;
   // With a byte order mark, by which spreadsheets know that it is UTF-8.
   if (!replaceWholeFile(m_files, fromQt(path), "\xEF\xBB\xBF" + playersCsv(sheet.players(), m_texts), stamp))
-    m_dialogs.complain(parent, toQt(m_texts.text(kErrorTitle)),
-                       toQt(m_texts.withPlaceholder(kNotWritten, shown)));
+    m_dialogs.complain(parent, toQt(m_texts.text(Text::ErrorTitle)),
+                       toQt(m_texts.withPlaceholder(Text::NotWritten, shown)));
 }
 
 } // namespace hooptab

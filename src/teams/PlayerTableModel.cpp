@@ -11,7 +11,8 @@ namespace hooptab {
 namespace {
 
 // By PlayerColumn.
-constexpr int kHeaders[kPlayerColumns] = {1838, 1023, 1839, 1839, 1320, 1321, 1322, 1323};
+constexpr Text kHeaders[kPlayerColumns] = {Text::Number, Text::PlayerName, Text::Position, Text::Position,
+                                           Text::Height, Text::Weight,     Text::Age,      Text::Grade};
 
 bool isFigure(PlayerColumn column) {
   using enum PlayerColumn;

@@ -9,12 +9,7 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kSearchTeams = 1811;
-constexpr int kTeamList = 1156;
-
-} // namespace
+namespace {} // namespace
 
 TeamList::TeamList(const QString& listName, const QString& separator, QWidget* parent)
     : QWidget(parent), m_separator(separator), m_search(new QLineEdit(this)), m_list(new QListWidget(this)) {
@@ -22,12 +17,12 @@ TeamList::TeamList(const QString& listName, const QString& separator, QWidget* p
   m_list->setUniformItemSizes(true);
   m_list->setSpacing(1);
   m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setAccessibleNumber(*m_list, kTeamList);
+  setAccessibleNumber(*m_list, Text::TeamList);
   m_search->setObjectName(QString(listName).replace(QStringLiteral("lst"), QStringLiteral("txtSEARCH")));
   m_search->setClearButtonEnabled(true);
-  setAccessibleNumber(*m_search, kSearchTeams);
-  setToolTipNumber(*m_search, kSearchTeams);
-  setPlaceholderNumber(*m_search, kSearchTeams);
+  setAccessibleNumber(*m_search, Text::SearchTeams);
+  setToolTipNumber(*m_search, Text::SearchTeams);
+  setPlaceholderNumber(*m_search, Text::SearchTeams);
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

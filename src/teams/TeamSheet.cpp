@@ -14,17 +14,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kAdds = 1812;
-constexpr int kChanges = 1813;
-constexpr int kRenumbers = 1814;
-constexpr int kRenames = 1815;
-constexpr int kConflicts = 1816;
-constexpr int kPlayerTooLong = 1817;
-constexpr int kWritesOtherwise = 2460;
-constexpr int kInvalidNumber = 1171;
-constexpr int kNoPositionChosen = 1172;
-constexpr int kNoName = 1173;
-
 // What a field becomes in the file.
 std::string stored(const std::string& text) {
   return std::string(Module1::trimmed(codepage::storedForm(withoutCommas(text))));
@@ -43,9 +32,9 @@ std::string_view trimmed(const std::string& text) {
   return Module1::trimmed(text);
 }
 
-std::string inWords(const Texts& texts, int number, std::string_view x, std::string_view y,
+std::string inWords(const Texts& texts, Text which, std::string_view x, std::string_view y,
                     std::string_view z = {}) {
-  return withPlaceholders(texts.text(number), x, y, z);
+  return withPlaceholders(texts.text(which), x, y, z);
 }
 
 } // namespace
@@ -99,28 +88,30 @@ std::string TeamSheet::announcement(const PlayerFields& fields, const Texts& tex
     return m_players[static_cast<std::size_t>(row)];
   };
   switch (target.effect) {
-  case Effect::Adds: return inWords(texts, kAdds, number, name);
-  case Effect::Changes: return inWords(texts, kChanges, number, name);
-  case Effect::Renumbers: return inWords(texts, kRenumbers, name, player(target.row).number, number);
-  case Effect::Renames: return inWords(texts, kRenames, number, player(target.row).record.name, name);
+  case Effect::Adds: return inWords(texts, Text::AddsPlayer, number, name);
+  case Effect::Changes: return inWords(texts, Text::ChangesPlayer, number, name);
+  case Effect::Renumbers:
+    return inWords(texts, Text::RenumbersPlayer, name, player(target.row).number, number);
+  case Effect::Renames:
+    return inWords(texts, Text::RenamesPlayer, number, player(target.row).record.name, name);
   case Effect::Conflicts:
-    return inWords(texts, kConflicts, number, player(target.row).record.name,
+    return inWords(texts, Text::NumberAndNameConflict, number, player(target.row).record.name,
                    player(target.otherRow).number + ' ' + name);
   case Effect::WritesOtherwise:
-    return inWords(texts, kWritesOtherwise, number, player(target.row).number,
+    return inWords(texts, Text::WritesOtherwise, number, player(target.row).number,
                    player(target.row).record.name);
   }
   return {};
 }
 
-int TeamSheet::problem(const PlayerFields& fields) {
+Text TeamSheet::problem(const PlayerFields& fields) {
   if (!isJersey(trimmed(fields.number)))
-    return kInvalidNumber;
+    return Text::InvalidNumber;
   if (!fields.position)
-    return kNoPositionChosen;
+    return Text::NoPositionChosen;
   if (stored(fields.name).empty())
-    return kNoName;
-  return fits(fields) ? 0 : kPlayerTooLong;
+    return Text::NoName;
+  return fits(fields) ? Text::None : Text::PlayerTooLong;
 }
 
 bool TeamSheet::fits(const PlayerFields& fields) {

@@ -51,9 +51,9 @@ class TeamSheet {
   [[nodiscard]] Target target(const PlayerFields& fields) const;
   // In words, for the line beside the button and as message of a conflict; empty without number or name.
   [[nodiscard]] std::string announcement(const PlayerFields& fields, const Texts& texts) const;
-  // The number of the first text that stands against adding; 0 when nothing does. What is refused for another
+  // The first thing that stands against adding; none when nothing does. What is refused for another
   // row has no text of its own: see announcement().
-  [[nodiscard]] static int problem(const PlayerFields& fields);
+  [[nodiscard]] static Text problem(const PlayerFields& fields);
   // Whether the record will be read back whole.
   [[nodiscard]] static bool fits(const PlayerFields& fields);
 

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::string_view kTeams = "TEAM";
 constexpr std::size_t kLongestAbsent = 3; // a value no longer than this is no team
-constexpr int kNewTeamText = 1245;
 constexpr int kLargestId = 999'999'999;
 
 // The id that a key stands for; 0 for one that is no positive whole number as ids are written.
@@ -122,8 +121,9 @@ std::optional<int> TeamStore::create(const Texts& texts) {
   const int id = freeId();
   ProfileBatch batch;
   batch.set(std::string(kTeams), std::to_string(id),
-            std::string(texts.text(kNewTeamText)) + ", , ," + withoutCommas(m_settings.statisticLabel[0]) +
-                ',' + withoutCommas(m_settings.statisticLabel[1]) + ",8,4,5,5,2");
+            std::string(texts.text(Text::NewTeamText)) + ", , ," +
+                withoutCommas(m_settings.statisticLabel[0]) + ',' +
+                withoutCommas(m_settings.statisticLabel[1]) + ",8,4,5,5,2");
   return m_settings.saveOfOthers(batch) ? std::optional(id) : std::nullopt;
 }
 
@@ -153,8 +153,8 @@ int newestTeam(const std::vector<TeamEntry>& teams, const Texts& texts) {
   for (std::size_t position = 0; position < teams.size(); ++position) {
     const TeamEntry& team = teams[position];
     const std::string entry = (team.abbreviation + " - " + team.category).substr(0, kCompared);
-    if (entry == texts.text(kNewTeamText, Language::English) ||
-        entry == texts.text(kNewTeamText, Language::French))
+    if (entry == texts.text(Text::NewTeamText, Language::English) ||
+        entry == texts.text(Text::NewTeamText, Language::French))
       newest = static_cast<int>(position);
   }
   return newest;

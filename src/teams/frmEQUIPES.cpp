@@ -38,22 +38,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kErrorTitle = 1060;
-constexpr int kWarningTitle = 1139;
-constexpr int kSelectTeamFirst = 1174;
-constexpr int kReallyDelete = 1175;
-constexpr int kTeamSaved = 1803;
-constexpr int kUnsavedTeam = 1818;
-constexpr int kUnsavedPlayer = 1819;
-constexpr int kNotWritten = 1820;
-constexpr int kKeptInMemory = 1521;
-constexpr int kRepeatedNumber = 1821;
-constexpr int kReadOnly = 1822;
-constexpr int kTeamTooLong = 1823;
-constexpr int kPlayerCount = 1824;
-constexpr int kPrintTip = 2253;
-constexpr int kWhiteText = 2636;
-constexpr int kBlackText = 2637;
 constexpr int kRulesInARow = 3;
 constexpr int kLeastRows = 6; // of the table that stay in sight, its head among them
 
@@ -62,15 +46,15 @@ constexpr int kSwatch = 16;
 // Fields of the rules, by their order in the record.
 constexpr struct {
   const char* name;
-  int text;
+  Text text;
   std::string TeamRecord::*rule;
   int digits; // minutes are those of a clock that shows mm:ss
 } kRules[] = {
-    {"txtDUREE", 1124, &TeamRecord::minutesPerPeriod, 2},
-    {"txtNBREPERIODE", 1123, &TeamRecord::periods, 3},
-    {"txtBONUS", 1125, &TeamRecord::bonus, 3},
-    {"txtPF", 1126, &TeamRecord::personalFoulLimit, 3},
-    {"txtTF", 1127, &TeamRecord::technicalFoulLimit, 3},
+    {"txtDUREE", Text::MinutesPerPeriod, &TeamRecord::minutesPerPeriod, 2},
+    {"txtNBREPERIODE", Text::PeriodCount, &TeamRecord::periods, 3},
+    {"txtBONUS", Text::BonusAfter, &TeamRecord::bonus, 3},
+    {"txtPF", Text::FoulLimit, &TeamRecord::personalFoulLimit, 3},
+    {"txtTF", Text::TechnicalLimit, &TeamRecord::technicalFoulLimit, 3},
 };
 
 } // namespace
@@ -81,7 +65,7 @@ frmEQUIPES::frmEQUIPES(TeamStore& teams, const Texts& texts, Dialogs& dialogs, Q
       m_list(new TeamList(QStringLiteral("lstequipes"), QStringLiteral(" - "), this)),
       m_model(new PlayerTableModel(m_sheet, texts, this)), m_notice(noticeLabel(this)) {
   setObjectName(QStringLiteral("frmEQUIPES"));
-  setTextNumber(*this, 1048);
+  setTextNumber(*this, Text::TeamManagement);
 
   auto* content = new QWidget;
   m_editor = new QVBoxLayout(content);
@@ -108,7 +92,7 @@ frmEQUIPES::frmEQUIPES(TeamStore& teams, const Texts& texts, Dialogs& dialogs, Q
   listTeams();
 }
 
-QLabel* frmEQUIPES::title(int text, QWidget* parent) {
+QLabel* frmEQUIPES::title(Text text, QWidget* parent) {
   auto* label = new PlainLabel(parent);
   setTextNumber(*label, text);
   m_titles.push_back(label);
@@ -118,16 +102,16 @@ QLabel* frmEQUIPES::title(int text, QWidget* parent) {
 QWidget* frmEQUIPES::makeTeams() {
   m_teamsCard = new Card(this);
   auto* layout = new QVBoxLayout(m_teamsCard);
-  layout->addWidget(title(1156, m_teamsCard));
-  layout->addWidget(iconButton("cmdAJOUTEREQUIPE", 1163, 1163, "add", this));
+  layout->addWidget(title(Text::TeamList, m_teamsCard));
+  layout->addWidget(iconButton("cmdAJOUTEREQUIPE", Text::AddTeam, Text::AddTeam, "add", this));
   layout->addWidget(m_list, 1);
-  layout->addWidget(iconButton("cmdEFFACEREQUIPE", 1161, 1161, "delete", this));
+  layout->addWidget(iconButton("cmdEFFACEREQUIPE", Text::DeleteTeam, Text::DeleteTeam, "delete", this));
   m_list->list().setFrameShape(QFrame::NoFrame);
   m_list->list().setItemDelegate(new TeamDelegate(&m_list->list()));
   return m_teamsCard;
 }
 
-QLineEdit* frmEQUIPES::addField(QGridLayout& layout, int row, int column, const char* name, int text) {
+QLineEdit* frmEQUIPES::addField(QGridLayout& layout, int row, int column, const char* name, Text text) {
   auto* field = new QLineEdit(this);
   field->setObjectName(QLatin1String(name));
   QLabel* label = captionFor(*field, text);
@@ -141,14 +125,14 @@ QLineEdit* frmEQUIPES::addField(QGridLayout& layout, int row, int column, const 
 QWidget* frmEQUIPES::makeTeamFields() {
   auto* card = new Card(this);
   m_band = new TeamBand(card);
-  QPushButton* save = iconButton("cmdSAVEEQUIPE", 1164, 1326, "savemanual", this);
+  QPushButton* save = iconButton("cmdSAVEEQUIPE", Text::Save, Text::SaveTeam, "savemanual", this);
   save->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
   m_band->addButton(*save);
 
   auto* names = new QGridLayout;
-  m_abbreviation = addField(*names, 0, 0, "txtABB", 1170);
-  m_category = addField(*names, 0, 1, "txtCATEGORIE", 1159);
-  m_name = addField(*names, 0, 2, "txtNOMEQUIPE", 1157);
+  m_abbreviation = addField(*names, 0, 0, "txtABB", Text::TeamNameQuestion);
+  m_category = addField(*names, 0, 1, "txtCATEGORIE", Text::Level);
+  m_name = addField(*names, 0, 2, "txtNOMEQUIPE", Text::FullName);
   names->setColumnStretch(2, 1);
   limitField(*m_abbreviation, m_texts, kLongestAbbreviation);
   for (const auto& [field, part] :
@@ -171,12 +155,12 @@ QWidget* frmEQUIPES::makeTeamFields() {
   m_contrast->setWordWrap(true);
   auto* colour = new QHBoxLayout;
   colour->addWidget(m_swatches);
-  colour->addWidget(iconButton("cmdCOUL", 1248, 1168, "theme", this));
+  colour->addWidget(iconButton("cmdCOUL", Text::Colour, Text::TeamBackground, "theme", this));
   colour->addWidget(m_contrast, 1);
   m_isMain = new QCheckBox(card);
   m_isMain->setObjectName(QStringLiteral("chkMAIN"));
-  setTextNumber(*m_isMain, 1169);
-  setToolTipNumber(*m_isMain, 1169);
+  setTextNumber(*m_isMain, Text::MainTeamKeypad);
+  setToolTipNumber(*m_isMain, Text::MainTeamKeypad);
 
   auto* rules = new QGridLayout;
   for (std::size_t i = 0; i < m_rules.size(); ++i) {
@@ -212,7 +196,7 @@ QWidget* frmEQUIPES::makePlayers() {
   auto* card = new Card(this);
   m_table = new QTableView(card);
   m_table->setObjectName(QStringLiteral("lvwJOUEURS"));
-  setAccessibleNumber(*m_table, 1160);
+  setAccessibleNumber(*m_table, Text::PlayersList);
   m_table->setModel(m_model);
   m_table->setFrameShape(QFrame::NoFrame);
   m_table->setShowGrid(false);
@@ -238,13 +222,13 @@ QWidget* frmEQUIPES::makePlayers() {
   m_count->setObjectName(QStringLiteral("lblCOUNT"));
   m_count->setForegroundRole(QPalette::PlaceholderText);
   m_playersHead = new QHBoxLayout;
-  m_playersHead->addWidget(title(1160, card));
+  m_playersHead->addWidget(title(Text::PlayersList, card));
   m_playersHead->addWidget(m_count);
   m_playersHead->addStretch();
-  m_playersHead->addWidget(iconButton("cmdIMPORT", 1825, 1826, "import", this));
-  m_playersHead->addWidget(iconButton("cmdPASTE", 1827, 1828, "copy", this));
-  m_playersHead->addWidget(iconButton("cmdEXPORT", 1829, 1830, "export", this));
-  m_playersHead->addWidget(iconButton("cmdPRINT", 1311, kPrintTip, "vwprint", this));
+  m_playersHead->addWidget(iconButton("cmdIMPORT", Text::Import, Text::ImportTip, "import", this));
+  m_playersHead->addWidget(iconButton("cmdPASTE", Text::Paste, Text::PasteTip, "copy", this));
+  m_playersHead->addWidget(iconButton("cmdEXPORT", Text::ExportTeams, Text::ExportTip, "export", this));
+  m_playersHead->addWidget(iconButton("cmdPRINT", Text::Print, Text::PrintTip, "vwprint", this));
   auto* layout = new QVBoxLayout(card);
   layout->setContentsMargins(1, 0, 1, 0); // beside the card's border
   layout->setSpacing(0);
@@ -268,7 +252,8 @@ void frmEQUIPES::connectEverything() {
   onClick("cmdEXPORT", &frmEQUIPES::exportPlayers);
   onClick("cmdPRINT", [this] {
     if (team() == nullptr)
-      return m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), toQt(m_texts.text(kSelectTeamFirst)));
+      return m_dialogs.complain(this, toQt(m_texts.text(Text::ErrorTitle)),
+                                toQt(m_texts.text(Text::SelectTeamFirst)));
     emit printAsked(teamFields(), m_sheet.players());
   });
   connect(m_swatches, &ColourSwatches::chosen, this, &frmEQUIPES::setColour);
@@ -351,12 +336,13 @@ void frmEQUIPES::showTeam(int position) {
 void frmEQUIPES::showNotice() {
   m_notice->setVisible(isReadOnly());
   if (isReadOnly())
-    m_notice->setText(toQt(m_texts.withPlaceholder(kReadOnly, team()->key)));
+    m_notice->setText(toQt(m_texts.withPlaceholder(Text::ReadOnly, team()->key)));
 }
 
 void frmEQUIPES::showPlayers() {
   m_model->changed();
-  m_count->setText(toQt(m_texts.withPlaceholder(kPlayerCount, std::to_string(m_sheet.players().size()))));
+  m_count->setText(
+      toQt(m_texts.withPlaceholder(Text::PlayerCount, std::to_string(m_sheet.players().size()))));
 }
 
 void frmEQUIPES::showColour() {
@@ -368,7 +354,7 @@ void frmEQUIPES::showColour() {
   const QColor text = textOn(colour);
   const QLocale locale(m_texts.language() == Language::French ? QLocale::French : QLocale::English);
   const QString measured = locale.toString(contrast(text, colour), 'f', 1);
-  const int words = text == QColor(Qt::white) ? kWhiteText : kBlackText;
+  const Text words = text == QColor(Qt::white) ? Text::WhiteText : Text::BlackText;
   m_contrast->setText(hasTeam ? toQt(m_texts.withPlaceholder(words, fromQt(measured))) : QString());
   QPixmap swatch(kSwatch, kSwatch);
   swatch.fill(colour);
@@ -409,12 +395,12 @@ bool frmEQUIPES::saveTeam() {
     field->setText(toQt(codepage::storedForm(withoutCommas(fromQt(field->text())))));
   TeamRecord record = teamFields();
   if (!fitsInValue(teamValue(record, m_teams.settings().statisticLabel))) {
-    warn(caption(m_texts, kTeamTooLong));
+    warn(caption(m_texts, Text::TeamTooLong));
     m_name->setFocus(Qt::OtherFocusReason);
     return false;
   }
   if (const std::string number = m_sheet.repeatedNumber(); !number.empty()) {
-    warn(toQt(m_texts.withPlaceholder(kRepeatedNumber, number)));
+    warn(toQt(m_texts.withPlaceholder(Text::RepeatedNumber, number)));
     m_player->focusNumber();
     return false;
   }
@@ -424,7 +410,7 @@ bool frmEQUIPES::saveTeam() {
   }
   m_loadedTeam = record;
   takeWritten();
-  tellSaved(toQt(m_texts.withPlaceholder(kTeamSaved, record.abbreviation)));
+  tellSaved(toQt(m_texts.withPlaceholder(Text::TeamSaved, record.abbreviation)));
   return true;
 }
 
@@ -443,9 +429,10 @@ void frmEQUIPES::takeWritten() {
 
 void frmEQUIPES::deleteTeam() {
   if (team() == nullptr)
-    return m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), toQt(m_texts.text(kSelectTeamFirst)));
+    return m_dialogs.complain(this, toQt(m_texts.text(Text::ErrorTitle)),
+                              toQt(m_texts.text(Text::SelectTeamFirst)));
   if (isReadOnly() ||
-      !m_dialogs.ask(this, toQt(m_texts.text(kWarningTitle)), toQt(m_texts.text(kReallyDelete))))
+      !m_dialogs.ask(this, toQt(m_texts.text(Text::WarningTitle)), toQt(m_texts.text(Text::ReallyDelete))))
     return;
   if (!m_teams.remove(team()->id))
     return tellNotWritten();
@@ -455,13 +442,13 @@ void frmEQUIPES::deleteTeam() {
 
 bool frmEQUIPES::addPlayer() {
   if (team() == nullptr) {
-    m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), toQt(m_texts.text(kSelectTeamFirst)));
+    m_dialogs.complain(this, toQt(m_texts.text(Text::ErrorTitle)), toQt(m_texts.text(Text::SelectTeamFirst)));
     return false;
   }
   if (isReadOnly())
     return false;
   const PlayerFields fields = m_player->fields();
-  if (const int problem = TeamSheet::problem(fields)) {
+  if (const Text problem = TeamSheet::problem(fields); problem != Text::None) {
     warn(toQt(m_texts.text(problem)));
     m_player->focusOn(problem);
     return false;
@@ -475,7 +462,7 @@ bool frmEQUIPES::addPlayer() {
     return false;
   }
   if (const std::string number = changed.repeatedNumber(); !number.empty()) {
-    warn(toQt(m_texts.withPlaceholder(kRepeatedNumber, number)));
+    warn(toQt(m_texts.withPlaceholder(Text::RepeatedNumber, number)));
     m_player->focusNumber();
     return false;
   }
@@ -501,7 +488,8 @@ void frmEQUIPES::deletePlayer() {
 }
 
 void frmEQUIPES::chooseColour() {
-  const QColor chosen = m_dialogs.chooseColour(this, toQt(m_texts.text(1835)), colourOf(m_colour));
+  const QColor chosen =
+      m_dialogs.chooseColour(this, toQt(m_texts.text(Text::SelectColour)), colourOf(m_colour));
   if (chosen.isValid())
     setColour(chosen);
 }
@@ -554,7 +542,8 @@ void frmEQUIPES::showRow(const TeamPlayer& player) {
 
 void frmEQUIPES::takePlayers(bool (frmEQUIPES::*from)()) {
   if (team() == nullptr)
-    return m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), toQt(m_texts.text(kSelectTeamFirst)));
+    return m_dialogs.complain(this, toQt(m_texts.text(Text::ErrorTitle)),
+                              toQt(m_texts.text(Text::SelectTeamFirst)));
   if (!isReadOnly() && mayLeavePlayer() && (this->*from)()) {
     showPlayers();
     m_player->show({});
@@ -571,7 +560,8 @@ bool frmEQUIPES::pastePlayers() {
 
 void frmEQUIPES::exportPlayers() {
   if (team() == nullptr)
-    return m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)), toQt(m_texts.text(kSelectTeamFirst)));
+    return m_dialogs.complain(this, toQt(m_texts.text(Text::ErrorTitle)),
+                              toQt(m_texts.text(Text::SelectTeamFirst)));
   m_exchange.exportFile(this, m_sheet, toQt(m_teams.settings().folder()),
                         toQt(team()->abbreviation + '-' + team()->category).trimmed());
 }
@@ -585,7 +575,7 @@ bool frmEQUIPES::isPlayerChanged() const {
 }
 
 bool frmEQUIPES::askAndSave(const QString& question, bool (frmEQUIPES::*save)()) {
-  switch (m_dialogs.askToSave(this, toQt(m_texts.text(kWarningTitle)), question)) {
+  switch (m_dialogs.askToSave(this, toQt(m_texts.text(Text::WarningTitle)), question)) {
   case SaveChoice::Save: return (this->*save)();
   case SaveChoice::Discard: return true;
   case SaveChoice::Stay: return false;
@@ -597,7 +587,7 @@ bool frmEQUIPES::mayLeavePlayer() {
   if (!isPlayerChanged())
     return true;
   const PlayerFields fields = m_player->fields();
-  return askAndSave(toQt(m_texts.withPlaceholder(kUnsavedPlayer, fields.number + ' ' + fields.name)),
+  return askAndSave(toQt(m_texts.withPlaceholder(Text::UnsavedPlayer, fields.number + ' ' + fields.name)),
                     &frmEQUIPES::addPlayer);
 }
 
@@ -605,25 +595,25 @@ bool frmEQUIPES::mayLeaveTeam() {
   if (!mayLeavePlayer())
     return false;
   return !isTeamChanged() ||
-         askAndSave(toQt(m_texts.withPlaceholder(kUnsavedTeam, fromQt(m_abbreviation->text()))),
+         askAndSave(toQt(m_texts.withPlaceholder(Text::UnsavedTeam, fromQt(m_abbreviation->text()))),
                     &frmEQUIPES::saveTeam);
 }
 
 void frmEQUIPES::warn(const QString& text) {
-  m_dialogs.warn(this, toQt(m_texts.text(kWarningTitle)), text);
+  m_dialogs.warn(this, toQt(m_texts.text(Text::WarningTitle)), text);
 }
 
 // What waits for the disk is more than what was done.
 void frmEQUIPES::tellSaved(const QString& done) {
   if (!m_teams.settings().isOnDisk())
-    emit reported(toQt(m_texts.withPlaceholder(kKeptInMemory, m_teams.settings().path())));
+    emit reported(toQt(m_texts.withPlaceholder(Text::NotSaved, m_teams.settings().path())));
   else if (!done.isEmpty())
     emit reported(done);
 }
 
 void frmEQUIPES::tellNotWritten() {
-  m_dialogs.complain(this, toQt(m_texts.text(kErrorTitle)),
-                     toQt(m_texts.withPlaceholder(kNotWritten, m_teams.settings().path())));
+  m_dialogs.complain(this, toQt(m_texts.text(Text::ErrorTitle)),
+                     toQt(m_texts.withPlaceholder(Text::NotWritten, m_teams.settings().path())));
 }
 
 void frmEQUIPES::relabelWindow() {

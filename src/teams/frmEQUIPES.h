@@ -50,8 +50,8 @@ class frmEQUIPES : public ChildWindow {
   QWidget* makeTeams();
   QWidget* makeTeamFields();
   QWidget* makePlayers();
-  QLabel* title(int text, QWidget* parent);
-  QLineEdit* addField(QGridLayout& layout, int row, int column, const char* name, int text);
+  QLabel* title(Text text, QWidget* parent);
+  QLineEdit* addField(QGridLayout& layout, int row, int column, const char* name, Text text);
   void placeGroups();
   void widenColumns();
   void connectEverything();

@@ -2,18 +2,13 @@
 
 namespace hooptab {
 
-namespace {
-
-constexpr int kMadeOf = 1700;
-constexpr int kAttemptsOf = 1701;
-
-} // namespace
+namespace {} // namespace
 
 std::string counterWords(const ManualColumn& column, const GameDetails& game, const Settings& settings,
                          const Texts& texts) {
   const EventKind& kind = *kindOf(column.code);
   if (kind.isShot)
-    return texts.withPlaceholder(column.isMade ? kMadeOf : kAttemptsOf, texts.text(kind.wordsText));
+    return texts.withPlaceholder(column.isMade ? Text::MadeOf : Text::AttemptsOf, texts.text(kind.wordsText));
   if (column.code == EventCode::SU1 || column.code == EventCode::SU2) {
     const std::size_t which = column.code == EventCode::SU1 ? 0 : 1;
     std::string label = Settings::shownLabel(game.statisticLabel[which]);

@@ -15,35 +15,35 @@ struct ManualColumn {
   int page;    // 1 or 2
   const char* label;
   const char* button; // null for field goals, which have none: they are placed on the court
-  int buttonWords;    // number of the text of its tool tip
+  Text buttonWords;   // its tool tip
 };
 
 inline constexpr int kManualPages = 2;
 inline constexpr std::array<ManualColumn, kCounterCount> kManualColumns = {{
-    {Counter::FGM, EventCode::GFG, true, 1, "lblFG", nullptr, 0},
-    {Counter::FGA, EventCode::GFG, false, 1, "lblFGA", nullptr, 0},
-    {Counter::F3M, EventCode::GF3, true, 1, "lblF3", nullptr, 0},
-    {Counter::F3A, EventCode::GF3, false, 1, "lblF3a", nullptr, 0},
-    {Counter::FTM, EventCode::GFT, true, 1, "lblFT", "cmdBUTFT(0)", 1212},
-    {Counter::FTA, EventCode::GFT, false, 1, "lblFTa", "cmdBUTFT(1)", 1217},
-    {Counter::LLM, EventCode::GLG, true, 1, "lblLUG", "cmdBUTLUG(0)", 1213},
-    {Counter::LLA, EventCode::GLG, false, 1, "lblLUGa", "cmdBUTLUG(1)", 1218},
-    {Counter::LRM, EventCode::GLD, true, 1, "lblLUD", "cmdBUTLUD(0)", 1214},
-    {Counter::LRA, EventCode::GLD, false, 1, "lblLUDa", "cmdBUTLUD(1)", 1219},
-    {Counter::PBM, EventCode::GPB, true, 1, "lblPB", "cmdBUTPB(0)", 1215},
-    {Counter::PBA, EventCode::GPB, false, 1, "lblPBa", "cmdBUTPB(1)", 1220},
-    {Counter::DKM, EventCode::GDK, true, 1, "lblDK", "cmdBUTDK(0)", 1216},
-    {Counter::DKA, EventCode::GDK, false, 1, "lblDKA", "cmdBUTDK(1)", 1221},
-    {Counter::Ast, EventCode::SA, true, 2, "lblA", "cmdBUTA", 1392},
-    {Counter::OR, EventCode::SOR, true, 2, "lblORB", "cmdBUTORB", 1385},
-    {Counter::DR, EventCode::SDR, true, 2, "lblDRB", "cmdBUTDRB", 1386},
-    {Counter::BS, EventCode::SBS, true, 2, "lblBS", "cmdBUTBS", 1388},
-    {Counter::ST, EventCode::SST, true, 2, "lblST", "cmdBUTST", 1387},
-    {Counter::TO, EventCode::STO, true, 2, "lblTO", "cmdBUTTO", 1389},
-    {Counter::PF, EventCode::SPF, true, 2, "lblFAUTE", "cmdBUTF", 1390},
-    {Counter::TF, EventCode::STF, true, 2, "lblTFAUTE", "cmdBUTTF", 1391},
-    {Counter::S1, EventCode::SU1, true, 2, "lblAUTRE", "cmdBUTU1", 1393},
-    {Counter::S2, EventCode::SU2, true, 2, "lblAUTRE2", "cmdBUTU2", 1393},
+    {Counter::FGM, EventCode::GFG, true, 1, "lblFG", nullptr, Text::None},
+    {Counter::FGA, EventCode::GFG, false, 1, "lblFGA", nullptr, Text::None},
+    {Counter::F3M, EventCode::GF3, true, 1, "lblF3", nullptr, Text::None},
+    {Counter::F3A, EventCode::GF3, false, 1, "lblF3a", nullptr, Text::None},
+    {Counter::FTM, EventCode::GFT, true, 1, "lblFT", "cmdBUTFT(0)", Text::FreeThrowMadeCount},
+    {Counter::FTA, EventCode::GFT, false, 1, "lblFTa", "cmdBUTFT(1)", Text::FreeThrowMissedCount},
+    {Counter::LLM, EventCode::GLG, true, 1, "lblLUG", "cmdBUTLUG(0)", Text::LayupLeftMadeCount},
+    {Counter::LLA, EventCode::GLG, false, 1, "lblLUGa", "cmdBUTLUG(1)", Text::LayupLeftMissedCount},
+    {Counter::LRM, EventCode::GLD, true, 1, "lblLUD", "cmdBUTLUD(0)", Text::LayupRightMadeCount},
+    {Counter::LRA, EventCode::GLD, false, 1, "lblLUDa", "cmdBUTLUD(1)", Text::LayupRightMissedCount},
+    {Counter::PBM, EventCode::GPB, true, 1, "lblPB", "cmdBUTPB(0)", Text::PutBackMadeCount},
+    {Counter::PBA, EventCode::GPB, false, 1, "lblPBa", "cmdBUTPB(1)", Text::PutBackMissedCount},
+    {Counter::DKM, EventCode::GDK, true, 1, "lblDK", "cmdBUTDK(0)", Text::DunkMadeCount},
+    {Counter::DKA, EventCode::GDK, false, 1, "lblDKA", "cmdBUTDK(1)", Text::DunkMissedCount},
+    {Counter::Ast, EventCode::SA, true, 2, "lblA", "cmdBUTA", Text::ACount},
+    {Counter::OR, EventCode::SOR, true, 2, "lblORB", "cmdBUTORB", Text::ORCount},
+    {Counter::DR, EventCode::SDR, true, 2, "lblDRB", "cmdBUTDRB", Text::DRCount},
+    {Counter::BS, EventCode::SBS, true, 2, "lblBS", "cmdBUTBS", Text::BSCount},
+    {Counter::ST, EventCode::SST, true, 2, "lblST", "cmdBUTST", Text::STCount},
+    {Counter::TO, EventCode::STO, true, 2, "lblTO", "cmdBUTTO", Text::TOCount},
+    {Counter::PF, EventCode::SPF, true, 2, "lblFAUTE", "cmdBUTF", Text::PFCount},
+    {Counter::TF, EventCode::STF, true, 2, "lblTFAUTE", "cmdBUTTF", Text::TFCount},
+    {Counter::S1, EventCode::SU1, true, 2, "lblAUTRE", "cmdBUTU1", Text::OwnCount},
+    {Counter::S2, EventCode::SU2, true, 2, "lblAUTRE2", "cmdBUTU2", Text::OwnCount},
 }};
 
 } // namespace hooptab

@@ -63,9 +63,9 @@ TEST(Mnemonics, ReachButtonsAndFieldsInBothLanguages) {
   QWidget window;
   auto* layout = new QGridLayout(&window);
   auto* save = new QPushButton(&window);
-  setTextNumber(*save, 1164);
+  setTextNumber(*save, Text::Save);
   auto* label = new QLabel(&window);
-  setTextNumber(*label, 1159);
+  setTextNumber(*label, Text::Level);
   auto* field = new QLineEdit(&window);
   label->setBuddy(field);
   layout->addWidget(save, 0, 0);
@@ -76,7 +76,7 @@ TEST(Mnemonics, ReachButtonsAndFieldsInBothLanguages) {
     relabel(window, texts);
     giveMnemonics(window);
     EXPECT_EQ(save->shortcut(), QKeySequence(Qt::ALT | Qt::Key_S));
-    EXPECT_EQ(label->text().remove(u'&'), toQt(texts.text(1159)));
+    EXPECT_EQ(label->text().remove(u'&'), toQt(texts.text(Text::Level)));
     EXPECT_TRUE(label->text().contains(u'&'));
   }
   window.show();

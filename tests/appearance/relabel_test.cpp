@@ -40,9 +40,9 @@ TEST_F(RelabelTest, WritesEveryKindOfCaptionInTheLanguageInUse) {
   for (QWidget* const widget :
        {static_cast<QWidget*>(&label), static_cast<QWidget*>(&button), static_cast<QWidget*>(&group),
         static_cast<QWidget*>(&dock), static_cast<QWidget*>(&menu), &window})
-    setTextNumber(*widget, 1001);
-  setTabTextNumber(*page, 1002);
-  setAccessibleNumber(tabs, 1002);
+    setTextNumber(*widget, Text::LiveTitle);
+  setTabTextNumber(*page, Text::GameScoreboard);
+  setAccessibleNumber(tabs, Text::GameScoreboard);
 
   for (const Language language : {Language::French, Language::English}) {
     say(language);
@@ -65,14 +65,14 @@ TEST_F(RelabelTest, WritesEveryKindOfCaptionInTheLanguageInUse) {
 TEST_F(RelabelTest, NamesTheKeyInToolTips) {
   QAction action(&window);
   action.setShortcut(QKeySequence(QStringLiteral("Ctrl+O")));
-  setTextNumber(action, 1001);
-  setToolTipNumber(action, 1001);
+  setTextNumber(action, Text::LiveTitle);
+  setToolTipNumber(action, Text::LiveTitle);
   QPushButton button(&window);
   button.setShortcut(QKeySequence(QStringLiteral("F5")));
-  setTextNumber(button, 1002);
-  setToolTipNumber(button, 1002);
+  setTextNumber(button, Text::GameScoreboard);
+  setToolTipNumber(button, Text::GameScoreboard);
   QPushButton keyless(&window);
-  setToolTipNumber(keyless, 1002);
+  setToolTipNumber(keyless, Text::GameScoreboard);
 
   for (int times = 0; times < 2; ++times) {
     say(Language::French);
@@ -91,8 +91,8 @@ TEST_F(RelabelTest, ShowsAnAmpersandOfTheTable) {
   QLabel label(&window);
   for (QObject* const object :
        {static_cast<QObject*>(&action), static_cast<QObject*>(&button), static_cast<QObject*>(&label)})
-    setTextNumber(*object, 1003);
-  setToolTipNumber(action, 1003);
+    setTextNumber(*object, Text::FoulShort);
+  setToolTipNumber(action, Text::FoulShort);
   say(Language::English);
   EXPECT_EQ(action.text(), QStringLiteral("Save && Close"));
   EXPECT_EQ(button.text(), QStringLiteral("Save && Close"));
@@ -104,9 +104,9 @@ TEST_F(RelabelTest, ShowsAnAmpersandOfTheTable) {
 TEST_F(RelabelTest, PutsNumbersInFrontInTheDiagnosticDisplay) {
   QLabel label(&window);
   QAction action(&window);
-  setTextNumber(label, 1001);
-  setTextNumber(action, 1002);
-  setToolTipNumber(action, 1001);
+  setTextNumber(label, Text::LiveTitle);
+  setTextNumber(action, Text::GameScoreboard);
+  setToolTipNumber(action, Text::LiveTitle);
   texts.showNumbers(true);
   say(Language::French);
   EXPECT_EQ(label.text(), QStringLiteral("5001 Ouvrir une partie"));
@@ -121,8 +121,8 @@ TEST_F(RelabelTest, LeavesAloneWhatHasNoNumberOrNoLonger) {
   QLabel label(QStringLiteral("12 : 08"), &window);
   QLabel former(&window);
   QLabel missing(QStringLiteral("old"), &window);
-  setTextNumber(former, 1001);
-  setTextNumber(missing, 1900);
+  setTextNumber(former, Text::LiveTitle);
+  setTextNumber(missing, Text::AskToSaveColours);
   say(Language::English);
   setTextNumber(former, 0);
   say(Language::French);

@@ -4,14 +4,11 @@
 set -u
 cd "$(dirname "$0")/../../src" || exit 1
 
-# Reached by counting on from a number that the source names.
-counted="2052 2053 2054 2055 2316 2318 2320 2323 2346 2347 2797 2799"
-
-asked=$(grep -rhoE --include='*.cpp' --include='*.h' '\b[12][0-9]{3}\b' . | sort -u)
-unused=$(sed -nE 's/^([0-9]+) ".*/\1/p' resources/texts_en.txt | awk '$1 > 1500' | sort -u |
-  comm -23 - <(printf '%s\n' "$asked" $counted | sort -u))
+asked=$(grep -rhoE --include='*.cpp' --include='*.h' '\bText::[A-Za-z0-9]+' . | sed 's/.*:://' | sort -u)
+unused=$(sed -nE 's/^([0-9]+) ([A-Za-z0-9]+) ".*/\1 \2/p' resources/texts_en.txt | awk '$1 > 1500 { print $2 }' | sort |
+  comm -23 - <(printf '%s\n' "$asked"))
 [ -z "$unused" ] && echo "Every text is asked for." && exit 0
-for number in $unused; do
-  echo "nothing asks for text $number: $(grep "^$number " resources/texts_en.txt)"
+for name in $unused; do
+  echo "nothing asks for this text: $(grep -E "^[0-9]+ $name " resources/texts_en.txt)"
 done
 exit 1

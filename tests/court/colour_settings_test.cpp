@@ -118,7 +118,8 @@ TEST_F(ColourSettingsTest, ZonesOfOneColourAreRefusedWholly) {
     dialogs.shown.clear();
     choose(pair.button, pair.taken);
     click("cmdAPPLIQUER");
-    EXPECT_EQ(dialogs.shown, (std::vector<ScriptedDialogs::Shown>{{Kind::Warn, text(1139), text(1291)}}));
+    EXPECT_EQ(dialogs.shown, (std::vector<ScriptedDialogs::Shown>{
+                                 {Kind::Warn, text(Text::WarningTitle), text(Text::ThreeDifferentColours)}}));
     EXPECT_EQ(folder.read("CONFIG.INI"), kOldFile);
     choose(pair.button, pair.own);
   }
@@ -168,7 +169,8 @@ TEST_F(ColourSettingsTest, ClosingAsksOnlyAboutChanges) {
   EXPECT_FALSE(window->isVisible());
   EXPECT_TRUE(dialogs.shown.empty());
 
-  const std::vector<ScriptedDialogs::Shown> question = {{Kind::AskToSave, text(1146), text(1900)}};
+  const std::vector<ScriptedDialogs::Shown> question = {
+      {Kind::AskToSave, text(Text::ColourSettings), text(Text::AskToSaveColours)}};
   start(kOldFile);
   type("txtSTATU1", "Dives");
   dialogs.nextSaveChoice = SaveChoice::Stay;
@@ -198,8 +200,9 @@ TEST_F(ColourSettingsTest, WhatTheDiskDoesNotTakeIsToldAndWrittenLater) {
   disk.staysBroken = true;
   QSignalSpy applied(window.get(), &frmCOULEURS::applied);
   click("cmdAPPLIQUER");
-  const QString told = toQt(texts.withPlaceholder(1521, folder.path("CONFIG.INI")));
-  EXPECT_EQ(dialogs.shown, (std::vector<ScriptedDialogs::Shown>{{Kind::Warn, text(1139), told}}));
+  const QString told = toQt(texts.withPlaceholder(Text::NotSaved, folder.path("CONFIG.INI")));
+  EXPECT_EQ(dialogs.shown,
+            (std::vector<ScriptedDialogs::Shown>{{Kind::Warn, text(Text::WarningTitle), told}}));
   EXPECT_EQ(applied.count(), 1);
   EXPECT_EQ(settings.buttonColour, 7U);
   EXPECT_TRUE(window->close()) << "kept, so nothing is lost";

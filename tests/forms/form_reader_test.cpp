@@ -405,13 +405,19 @@ TEST(FormReader, TellsHowFarItIsAndStops) {
 }
 
 TEST(FormReader, NamesItsProblems) {
-  constexpr std::pair<ScanProblem, int> kTexts[] = {
-      {ScanProblem::None, 0},           {ScanProblem::Cancelled, 0},
-      {ScanProblem::NotAPicture, 1407}, {ScanProblem::TooCoarse, 1408},
-      {ScanProblem::NoTop, 1226},       {ScanProblem::NoUpperLeftMark, 1225},
-      {ScanProblem::NoLeft, 1227},      {ScanProblem::NoRight, 1234},
-      {ScanProblem::NoBottom, 1235},    {ScanProblem::NotReadable, 1228},
-      {ScanProblem::NotThisForm, 1236}, {ScanProblem::TooFaint, 2790},
+  constexpr std::pair<ScanProblem, Text> kTexts[] = {
+      {ScanProblem::None, Text::None},
+      {ScanProblem::Cancelled, Text::None},
+      {ScanProblem::NotAPicture, Text::NotAPicture},
+      {ScanProblem::TooCoarse, Text::TooCoarse},
+      {ScanProblem::NoTop, Text::NoTopPosition},
+      {ScanProblem::NoUpperLeftMark, Text::NoUpperLeftMark},
+      {ScanProblem::NoLeft, Text::NoLeftPosition},
+      {ScanProblem::NoRight, Text::NoRightPosition},
+      {ScanProblem::NoBottom, Text::NoBottomPosition},
+      {ScanProblem::NotReadable, Text::ReadError},
+      {ScanProblem::NotThisForm, Text::InvalidFormat},
+      {ScanProblem::TooFaint, Text::ScanTooFaint},
   };
   for (const auto& [problem, text] : kTexts)
     EXPECT_EQ(textOf(problem), text);

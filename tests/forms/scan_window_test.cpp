@@ -127,7 +127,7 @@ TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
   QTest::keyClicks(&doubts, QStringLiteral("+"));
   EXPECT_EQ(doubts.currentRow(), 1);
   QTest::keyClicks(&doubts, QStringLiteral("-"));
-  EXPECT_EQ(shown("lblDOUBT"), text(2314));
+  EXPECT_EQ(shown("lblDOUBT"), text(Text::NoDoubtLeft));
   EXPECT_EQ(QString::fromStdString(form(2, Counter::DR)).remove(u'*').toInt(), 1);
   EXPECT_EQ(QString::fromStdString(form(3, Counter::FTM)).remove(u'*').toInt(), 0);
   press("cmdADDSCAN");
@@ -139,7 +139,7 @@ TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
   EXPECT_EQ(game().events.size(), 0u) << "nothing is saved yet";
   press("cmdADDSCAN");
   ASSERT_TRUE(showsTotals());
-  EXPECT_EQ(shown("lblHINT"), texts.withPlaceholder(2335, "2"));
+  EXPECT_EQ(shown("lblHINT"), texts.withPlaceholder(Text::FormsImported, "2"));
   EXPECT_TRUE(window->isWindowModified());
   window->save();
   const GameState counted = tallied(game());
@@ -155,7 +155,7 @@ TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
   ASSERT_TRUE(showsSheet());
   press("cmdADDSCAN");
   ASSERT_EQ(dialogs.shown.size(), 2u) << "the same sheet once more";
-  EXPECT_TRUE(dialogs.shown[1].text.contains(toQt(text(2795)))) << fromQt(dialogs.shown[1].text);
+  EXPECT_TRUE(dialogs.shown[1].text.contains(toQt(text(Text::AddedBefore)))) << fromQt(dialogs.shown[1].text);
   EXPECT_TRUE(showsSheet());
 }
 
@@ -259,7 +259,7 @@ TEST_F(ScanWindowTest, TakesThePagesOfOneFileInTurnAndLeavesOnlyAfterAQuestion) 
   EXPECT_EQ(form(0, Counter::ST), "") << "the second page is empty";
   EXPECT_FALSE(window->agreesToClose()) << "two pages wait";
   ASSERT_EQ(dialogs.shown.size(), 1u);
-  EXPECT_EQ(fromQt(dialogs.shown[0].text), texts.withPlaceholder(2334, "2"));
+  EXPECT_EQ(fromQt(dialogs.shown[0].text), texts.withPlaceholder(Text::LeavePages, "2"));
   press("cmdCANCELSCAN");
   EXPECT_TRUE(showsSheet()) << "the answer was no";
   dialogs.nextAnswer = true;
@@ -308,26 +308,26 @@ TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
   wide.fill(1);
   EXPECT_TRUE(wide.save(toQt(file("wide.png"))));
 
-  const std::string kinds = text(1407) + ". " + text(2401);
+  const std::string kinds = text(Text::NotAPicture) + ". " + text(Text::KindsRead);
   const struct {
     std::string file;
     std::string reason;
   } cases[] = {
       {write("notes.tif", "these are words"), kinds},
       {write("empty.bmp", ""), kinds},
-      {write("cut.tif", tif.left(tif.size() / 2)), text(2402)},
-      {write("cut.bmp", bmp.left(bmp.size() - 1000)), text(2402)},
-      {write("torn.tif", tif.chopped(200) + QByteArray(200, '\xFF')), text(2402)},
-      {write("locked.pdf", lockedPdf()), text(2804)},
-      {write("directories.tif", tifOfDirectories(1001)), texts.withPlaceholder(2403, "1000")},
-      {write("head.jpg", QByteArray("\xff\xd8\xff\xe0", 4)), text(2402)},
-      {file("absent.png"), text(2400)},
-      {folder.path(), text(2400)},
-      {file("dot.png"), text(1408)},
-      {file("coarse.png"), text(1408)},
-      {file("wide.png"), text(2305)},
-      {file("photo.jpg"), text(1225) + ". " + text(2791)},
-      {file("theirs.bmp"), text(1236)},
+      {write("cut.tif", tif.left(tif.size() / 2)), text(Text::PictureDamaged)},
+      {write("cut.bmp", bmp.left(bmp.size() - 1000)), text(Text::PictureDamaged)},
+      {write("torn.tif", tif.chopped(200) + QByteArray(200, '\xFF')), text(Text::PictureDamaged)},
+      {write("locked.pdf", lockedPdf()), text(Text::PasswordAsked)},
+      {write("directories.tif", tifOfDirectories(1001)), texts.withPlaceholder(Text::TooManyPages, "1000")},
+      {write("head.jpg", QByteArray("\xff\xd8\xff\xe0", 4)), text(Text::PictureDamaged)},
+      {file("absent.png"), text(Text::CannotOpen)},
+      {folder.path(), text(Text::CannotOpen)},
+      {file("dot.png"), text(Text::TooCoarse)},
+      {file("coarse.png"), text(Text::TooCoarse)},
+      {file("wide.png"), text(Text::PictureTooLarge)},
+      {file("photo.jpg"), text(Text::NoUpperLeftMark) + ". " + text(Text::ScanNoBottom)},
+      {file("theirs.bmp"), text(Text::InvalidFormat)},
   };
   std::vector<std::string> all;
   for (const auto& bad : cases)
@@ -344,7 +344,7 @@ TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
   EXPECT_NE(fromQt(told.last()).find("PAN"), std::string::npos) << "which teams it could be of";
   EXPECT_NE(fromQt(told.last()).find("OLY"), std::string::npos);
   EXPECT_FALSE(window->isWindowModified());
-  EXPECT_EQ(shown("lblHINT"), text(2291)) << "nothing was imported";
+  EXPECT_EQ(shown("lblHINT"), text(Text::ChoosePlayer)) << "nothing was imported";
 }
 
 // A script in the place of the process that decodes: it does as the file's name says, or decodes.
@@ -376,10 +376,10 @@ TEST_F(ScanWindowTest, GoesOnWithTheNextPageWhateverThePictureDoesToItsDecoder) 
   EXPECT_EQ(form(0, Counter::ST), "2");
   EXPECT_NE(shown("lblPAGE").find("2 of 2"), std::string::npos) << shown("lblPAGE");
   ASSERT_EQ(dialogs.shown.size(), 1u);
-  const std::string broken = ": " + text(2404) + '\n';
-  EXPECT_EQ(fromQt(dialogs.shown[0].text) + '\n', "crash.png" + broken + "garbage.png" + broken +
-                                                      "hang.png: " + texts.withPlaceholder(2405, "10") +
-                                                      "\npages.tif (1/2)" + broken);
+  const std::string broken = ": " + text(Text::BrokeOff) + '\n';
+  EXPECT_EQ(fromQt(dialogs.shown[0].text) + '\n',
+            "crash.png" + broken + "garbage.png" + broken +
+                "hang.png: " + texts.withPlaceholder(Text::TookTooLong, "10") + "\npages.tif (1/2)" + broken);
   press("cmdSKIP");
   wait();
   ASSERT_TRUE(showsSheet());
@@ -403,8 +403,9 @@ TEST_F(ScanWindowTest, GoesOnWithTheNextPageWhateverThePictureDoesToItsDecoder) 
   ASSERT_EQ(dialogs.shown.size(), 1u);
   const QStringList told = dialogs.shown[0].text.split(u'\n');
   ASSERT_EQ(told.size(), 21);
-  EXPECT_EQ(fromQt(told.first()), "good.png: " + texts.withPlaceholder(2406, std::strerror(ENOENT)));
-  EXPECT_EQ(fromQt(told.last()), texts.withPlaceholder(2407, "5"));
+  EXPECT_EQ(fromQt(told.first()),
+            "good.png: " + texts.withPlaceholder(Text::CannotStart, std::strerror(ENOENT)));
+  EXPECT_EQ(fromQt(told.last()), texts.withPlaceholder(Text::MoreRefused, "5"));
 }
 
 TEST(ScanReport, NamesWhatIsDoubtfulAndWhatWasChanged) {
@@ -434,7 +435,7 @@ TEST(ScanReport, NamesWhatIsDoubtfulAndWhatWasChanged) {
   for (const Language language : {Language::English, Language::French}) {
     texts.setLanguage(language);
     const Report report = verificationReport(scanned, game.details, "one.tif", settings, texts);
-    EXPECT_EQ(report.title, texts.text(1398));
+    EXPECT_EQ(report.title, texts.text(Text::VerificationReport));
     std::string all;
     for (const ReportBlock& block : report.blocks) {
       if (const auto* table = std::get_if<ReportTable>(&block)) {
@@ -451,8 +452,9 @@ TEST(ScanReport, NamesWhatIsDoubtfulAndWhatWasChanged) {
              std::string(texts.text(now)) + ' ' + signs[1] + '|';
     };
     EXPECT_NE(all.find("Ann Able"), std::string::npos);
-    EXPECT_NE(all.find(line(2348, 2348, "ST|1|", "??")), std::string::npos) << all;
-    EXPECT_NE(all.find(line(2349, 2348, "FT " + std::string(texts.text(1242)) + "|4|", " *")),
+    EXPECT_NE(all.find(line(Text::TickedWord, Text::TickedWord, "ST|1|", "??")), std::string::npos) << all;
+    EXPECT_NE(all.find(line(Text::NotTickedWord, Text::TickedWord,
+                            "FT " + std::string(texts.text(Text::MissCapitals)) + "|4|", " *")),
               std::string::npos)
         << all;
     EXPECT_NE(all.find("|1?|"), std::string::npos) << "the count of steals";

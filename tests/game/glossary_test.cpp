@@ -86,11 +86,12 @@ TEST(Glossary, IsTheOneOfTheGuide) {
   const std::regex row(R"(\| \*\*([A-Za-z0-9]+)\*\* \| ([^|]+) \| [^|]+ \|)");
   for (const Case& of : kCases) {
     const std::string guide = guideText(of);
-    std::set<int> explained;
+    std::set<Text> explained;
     for (std::sregex_iterator found(guide.begin(), guide.end(), row), end; found != end; ++found) {
       const std::string shown = (*found)[1];
-      const std::string abbreviation = shown == carried().text(1194, of.language) ? "G" : shown; // games
-      const int words = termWords(abbreviation);
+      const std::string abbreviation =
+          shown == carried().text(Text::Games, of.language) ? "G" : shown; // games
+      const Text words = termWords(abbreviation);
       EXPECT_EQ(lower(carried().text(words, of.language)), std::string((*found)[2])) << shown;
       explained.insert(words);
     }
@@ -111,12 +112,12 @@ TEST(Glossary, IsKeptByEveryText) {
     int compared = 0;
     std::string all = lower(guideText(of));
     for (const int number : carried().numbers()) {
-      const std::string text(carried().text(number, of.language));
+      const std::string text(carried().text(static_cast<Text>(number), of.language));
       all += lower(text) + '\n';
       std::smatch pair;
       if (!std::regex_search(text, pair, behind) && !std::regex_search(text, pair, before))
         continue;
-      if (const int words = termWords(pair[1].str()); words != 0) {
+      if (const Text words = termWords(pair[1].str()); words != Text::None) {
         EXPECT_TRUE(isShortFor(pair[2].str(), carried().text(words, of.language))) << number << ": " << text;
         ++compared;
       }

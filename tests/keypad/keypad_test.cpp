@@ -197,9 +197,9 @@ TEST_F(KeypadInputTest, PlayersComeAndLeaveAndWhatDoesNotFitIsRefused) {
     press("+");
     return why;
   };
-  EXPECT_EQ(reason("0/<"), (KeypadReason{1994, {"PAN"}})) << "five are on court";
-  EXPECT_EQ(reason("12/<"), (KeypadReason{1992, {"12", "PAN"}}));
-  EXPECT_EQ(reason("8*-"), (KeypadReason{1993, {"8", "OLY"}}));
+  EXPECT_EQ(reason("0/<"), (KeypadReason{Text::CourtIsFull, {"PAN"}})) << "five are on court";
+  EXPECT_EQ(reason("12/<"), (KeypadReason{Text::OnCourtAlready, {"12", "PAN"}}));
+  EXPECT_EQ(reason("8*-"), (KeypadReason{Text::IsNotOnCourt, {"8", "OLY"}}));
   press("12*<");
   press("00/<");
   press("22/-");
@@ -207,8 +207,8 @@ TEST_F(KeypadInputTest, PlayersComeAndLeaveAndWhatDoesNotFitIsRefused) {
   press("0<");
   EXPECT_EQ(live.onCourt()[0], 0U);
   EXPECT_NE(live.onCourt()[1], 0U);
-  EXPECT_EQ(reason("0<"), (KeypadReason{1997, {"PAN"}}));
-  EXPECT_EQ(reason("120<").text, 1989);
+  EXPECT_EQ(reason("0<"), (KeypadReason{Text::NobodyIsOnCourt, {"PAN"}}));
+  EXPECT_EQ(reason("120<").text, Text::AllAlone);
 }
 
 TEST_F(KeypadInputTest, AKeyOfInOrOutBetweenTwoNumbersExchangesThemInOneStep) {
@@ -243,7 +243,7 @@ TEST_F(KeypadInputTest, WithoutTheBoundKeysTheLineIsLeft) {
   for (const char* keys : {"1", "0", "+", "E", "-", ".", "|\n", "|\b", "|\x1b"})
     EXPECT_EQ(press(keys), Outcome::NotMine) << keys;
   EXPECT_EQ(press("|129\n"), Outcome::Refused);
-  EXPECT_EQ(input.reason(), KeypadReason{1987}) << "a digit of a shot, and no foul";
+  EXPECT_EQ(input.reason(), KeypadReason{Text::NoShotKind}) << "a digit of a shot, and no foul";
   EXPECT_EQ(press("|123X\b\n"), Outcome::Confirmed);
 }
 
@@ -283,27 +283,27 @@ TEST_F(KeypadInputTest, WhatIsNotUnderstoodIsSaidAndNothingIsRecorded) {
     const char* keys;
     KeypadReason reason;
   } cases[] = {
-      {"<", {1984}},
-      {"9<", {1985}},
-      {".<", {1985}},
-      {".2<", {1985}},
-      {"..2-", {1985}},
-      {".129<", {1987}},
-      {".128<", {1987}},
-      {".120<", {1987}},
-      {"...122<", {1988}},
-      {"1/29/<", {1988}},
-      {"00*12<", {1993, {"00", "PAN"}}},
-      {"12*5<", {1992, {"5", "PAN"}}},
-      {"12*012<", {2508, {"12"}}},
-      {"12*99<", {1990, {"99", "PAN", "OLY"}}},
-      {"7*22<", {1991, {"7", "PAN", "OLY"}}},
-      {"12*22<", {1990, {"22", "PAN", "OLY"}}}, // no team has both
-      {".1/2<", {1988}},
-      {"999<", {1990, {"99", "PAN", "OLY"}}},
-      {"229<", {1991, {"22", "PAN", "OLY"}}},
-      {"129-", {1991, {"12", "OLY", "PAN"}}},
-      {"123456789", {1996}},
+      {"<", {Text::NothingTyped}},
+      {"9<", {Text::NumberMissing}},
+      {".<", {Text::NumberMissing}},
+      {".2<", {Text::NumberMissing}},
+      {"..2-", {Text::NumberMissing}},
+      {".129<", {Text::NoShotKind}},
+      {".128<", {Text::NoShotKind}},
+      {".120<", {Text::NoShotKind}},
+      {"...122<", {Text::InputNotUnderstood}},
+      {"1/29/<", {Text::InputNotUnderstood}},
+      {"00*12<", {Text::IsNotOnCourt, {"00", "PAN"}}},
+      {"12*5<", {Text::OnCourtAlready, {"5", "PAN"}}},
+      {"12*012<", {Text::SameTwice, {"12"}}},
+      {"12*99<", {Text::NoSuchPlayer, {"99", "PAN", "OLY"}}},
+      {"7*22<", {Text::OnlyInOtherTeam, {"7", "PAN", "OLY"}}},
+      {"12*22<", {Text::NoSuchPlayer, {"22", "PAN", "OLY"}}}, // no team has both
+      {".1/2<", {Text::InputNotUnderstood}},
+      {"999<", {Text::NoSuchPlayer, {"99", "PAN", "OLY"}}},
+      {"229<", {Text::OnlyInOtherTeam, {"22", "PAN", "OLY"}}},
+      {"129-", {Text::OnlyInOtherTeam, {"12", "OLY", "PAN"}}},
+      {"123456789", {Text::TooManyKeys}},
   };
   const std::size_t before = lines();
   for (const auto& c : cases) {
@@ -316,7 +316,7 @@ TEST_F(KeypadInputTest, WhatIsNotUnderstoodIsSaidAndNothingIsRecorded) {
   }
   EXPECT_EQ(press("|12"), Outcome::Typed);
   EXPECT_EQ(press("<"), Outcome::Refused) << "on the keypad a digit of the upper row is never a shot";
-  EXPECT_EQ(input.reason(), KeypadReason{1986});
+  EXPECT_EQ(input.reason(), KeypadReason{Text::ActionMissing});
   EXPECT_EQ(lines(), before);
   press("+");
 
@@ -336,7 +336,7 @@ TEST_F(KeypadInputTest, TheMainTeamIsThatOfTheGame) {
   press("129-");
   EXPECT_EQ(lastLine(), "10:00,SPF,0-12");
   press("|12F\n");
-  EXPECT_EQ(input.reason(), (KeypadReason{1991, {"12", "OLY", "PAN"}}));
+  EXPECT_EQ(input.reason(), (KeypadReason{Text::OnlyInOtherTeam, {"12", "OLY", "PAN"}}));
 }
 
 TEST_F(KeypadInputTest, ALineOfTheMainKeyboardEndsWithEnter) {
@@ -417,7 +417,7 @@ TEST_F(KeypadInputTest, ShowsWhatIsTypedAndWhatItWillDo) {
   EXPECT_EQ(input.preview(live.game(), texts),
             "All players of PAN leave the court\nAll players of OLY leave the court");
   press("+|4");
-  EXPECT_EQ(input.preview(live.game(), texts), texts.text(1985));
+  EXPECT_EQ(input.preview(live.game(), texts), texts.text(Text::NumberMissing));
   press("|2");
   EXPECT_EQ(input.preview(live.game(), texts), "● 2 points\nPAN 4 Ann Able");
   press("+12*8");
@@ -432,7 +432,7 @@ TEST_F(KeypadInputTest, AClosedGameTakesNothing) {
   live.finish("");
   const std::size_t before = lines();
   EXPECT_EQ(press("129<"), Outcome::Refused);
-  EXPECT_EQ(input.reason(), KeypadReason{1995});
+  EXPECT_EQ(input.reason(), KeypadReason{Text::GameIsClosed});
   EXPECT_EQ(lines(), before);
 }
 

@@ -163,7 +163,7 @@ TEST_F(LiveKeysTest, RecordsAndShowsIt) {
   // On the bench: recorded, and said.
   pad("09<");
   EXPECT_EQ(lines(), "2=10:00,SPF,0-12|3=10:00,SPF,0-0|");
-  EXPECT_TRUE(label("lblACTION").text().contains(toQt(texts.text(1998))));
+  EXPECT_TRUE(label("lblACTION").text().contains(toQt(texts.text(Text::NotOnCourt))));
 }
 
 TEST_F(LiveKeysTest, TheClockAndTheKeypadComeBeforeAnyButtonAndNeverInATextField) {
@@ -236,7 +236,7 @@ TEST_F(LiveKeysTest, SeveralAtOnceAreTypedAsTheirNumbers) {
   pad("<99");
   press(Qt::Key_Return);
   EXPECT_TRUE(several->isVisible()) << "what is red is not passed over";
-  EXPECT_EQ(label("lblTYPEDWORDS").text(), toQt(texts.withPlaceholder(2471, "99")));
+  EXPECT_EQ(label("lblTYPEDWORDS").text(), toQt(texts.withPlaceholder(Text::NobodyHereHasNumber, "99")));
   pad("<</");
   EXPECT_EQ(label("lblTYPEDTEAM").text(), QStringLiteral("OLY"));
   press(Qt::Key_Space);
@@ -443,7 +443,7 @@ TEST_F(ConfigurationTest, AKeyBoundTwiceIsShownAtOnceAndMustBeSolved) {
   EXPECT_FALSE(button("Command1").isEnabled());
   auto* notice = window->findChild<QLabel*>(QStringLiteral("lblNOTICE"));
   EXPECT_TRUE(notice->isVisible());
-  EXPECT_EQ(notice->text(), text(2003));
+  EXPECT_EQ(notice->text(), text(Text::KeysTwice));
   EXPECT_EQ(box(KeypadAction::BS).palette(), box(KeypadAction::PF).palette());
   EXPECT_NE(box(KeypadAction::BS).palette(), box(KeypadAction::CLOCK).palette());
   dialogs.nextSaveChoice = SaveChoice::Save;
@@ -457,7 +457,7 @@ TEST_F(ConfigurationTest, AKeyBoundTwiceIsShownAtOnceAndMustBeSolved) {
   EXPECT_TRUE(button("Command1").isEnabled());
   EXPECT_FALSE(notice->isVisible());
   QTest::keyClick(&box(KeypadAction::A), Qt::Key_1, kPad);
-  EXPECT_EQ(notice->text(), text(2012));
+  EXPECT_EQ(notice->text(), text(Text::KeyBeginsNoShot));
   EXPECT_TRUE(button("Command1").isEnabled());
 }
 
@@ -475,7 +475,7 @@ TEST_F(ConfigurationTest, DefaultsLettersAndUnsavedChanges) {
   QTest::keyClick(miss, Qt::Key_Escape);
   EXPECT_TRUE(window->isVisible());
   ASSERT_EQ(dialogs.shown.size(), 1U);
-  EXPECT_EQ(dialogs.shown[0].text, text(2008));
+  EXPECT_EQ(dialogs.shown[0].text, text(Text::AskToSaveKeys));
   QTest::mouseClick(&button("Command1"), Qt::LeftButton);
   EXPECT_EQ(window->saved().letters.letter(LetterAssignment::kMiss), 'Q');
 

@@ -278,7 +278,7 @@ TEST_F(PlayerPanelTest, AnEmptyPanelIsAFrameAndSaysNothing) {
   }
   EXPECT_EQ(shots.count() + actions.count() + places.count(), 0);
   EXPECT_FALSE(find(empty, "CourtJ(4)").isVisible());
-  EXPECT_EQ(empty.accessibleName(), toQt(texts.text(1117)));
+  EXPECT_EQ(empty.accessibleName(), toQt(texts.text(Text::Nobody)));
 
   ASSERT_TRUE(live.toggleOnCourt(0, 4));
   full.showGame(live);

@@ -73,7 +73,7 @@ TEST_F(ScorePanelTest, ShowsScoreFoulsAndLead) {
   EXPECT_EQ(text("lblBONUS(1)"), QStringLiteral("PAN shoot 2"));
   EXPECT_EQ(find("lblFTE1")->palette().color(QPalette::WindowText), Theme::missed());
   EXPECT_NE(find("lblFTE0")->palette().color(QPalette::WindowText), Theme::missed());
-  EXPECT_TRUE(find("lblFTE1")->toolTip().contains(toQt(texts.text(1943))));
+  EXPECT_TRUE(find("lblFTE1")->toolTip().contains(toQt(texts.text(Text::InBonus))));
   EXPECT_EQ(text("txtPOSTemps(0)") + text("txtPOSNb(0)"), QStringLiteral("01:30×1"));
   EXPECT_EQ(text("txtPOSTemps(2)"), QStringLiteral("01:00"));
   EXPECT_EQ(find<QWidget>("pictTEAM(0)")->grab().toImage().pixelColor(50, 55), QColor(255, 0, 0));
@@ -166,7 +166,7 @@ TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
 TEST_F(ScorePanelTest, OffersTheSidesAtHalfTime) {
   const auto offers = [this] {
     return button("cmdSWITCH")->palette().color(QPalette::Button) == Theme::look().warningGround &&
-           button("cmdSWITCH")->toolTip().startsWith(toQt(texts.text(2381)));
+           button("cmdSWITCH")->toolTip().startsWith(toQt(texts.text(Text::HalfTime)));
   };
   open("[PERIODE1]\n1=00:00,ARRET,IN-,IN-\n");
   EXPECT_FALSE(offers()) << "after one of four";
@@ -221,7 +221,7 @@ TEST_F(ScorePanelTest, WithoutTimeOffersNoClock) {
   EXPECT_EQ(text("txtPOSTemps(2)"), QStringLiteral("--:--"));
   for (const char* name : {"cmdSTART", "cmdTEMPS(0)", "cmdTEMPS(1)"}) {
     EXPECT_FALSE(button(name)->isEnabled()) << name;
-    EXPECT_EQ(button(name)->toolTip(), toQt(texts.text(1383)).trimmed()) << name;
+    EXPECT_EQ(button(name)->toolTip(), toQt(texts.text(Text::NoTime)).trimmed()) << name;
   }
   EXPECT_TRUE(button("UpDoPERIOD(0)")->isEnabled());
 }
@@ -287,8 +287,8 @@ class GameOver : public testing::Test {
 
 TEST_F(GameOver, ClosesOrContinuesWithTheNotesOnOneLine) {
   frmGAMEOVER closing(details, texts, dialogs);
-  EXPECT_EQ(captionOf(closing, "cmd1"), toQt(texts.text(1145)));
-  EXPECT_EQ(captionOf(closing, "cmd2"), toQt(texts.text(1144)));
+  EXPECT_EQ(captionOf(closing, "cmd1"), toQt(texts.text(Text::SaveAndClose)));
+  EXPECT_EQ(captionOf(closing, "cmd2"), toQt(texts.text(Text::SaveAndContinue)));
   auto* notes = child<QPlainTextEdit>(closing, "txtNOTES");
   EXPECT_EQ(notes->toPlainText(), QStringLiteral("Before"));
   notes->setPlainText(QStringLiteral("One\ntwo"));

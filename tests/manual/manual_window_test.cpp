@@ -165,7 +165,7 @@ TEST_F(ManualWindowTest, PlacesReviewsAndDeletesShots) {
   auto& list = find<QListWidget>("fsSHOT");
   placeShot(20, 100, Qt::LeftButton);
   EXPECT_EQ(list.count(), 0);
-  EXPECT_EQ(shown("lblHINT"), fromQt(text(2291)));
+  EXPECT_EQ(shown("lblHINT"), fromQt(text(Text::ChoosePlayer)));
   clickRow(1);
   placeShot(20, 100, Qt::LeftButton);
   placeShot(120, 100, Qt::LeftButton);
@@ -209,10 +209,10 @@ TEST_F(ManualWindowTest, SwitchesTheTeamClearsItOnlyWhenAskedAndChecksTheFinalSc
   EXPECT_FALSE(find<QLabel>("lblFINAL(1)").isVisible());
   find<QLineEdit>("txtFINAL(1)").setFocus();
   QTest::keyClicks(&find<QLineEdit>("txtFINAL(1)"), QStringLiteral("5"));
-  EXPECT_NE(shown("lblFINAL(1)").find(texts.withPlaceholder(2289, "3")), std::string::npos);
+  EXPECT_NE(shown("lblFINAL(1)").find(texts.withPlaceholder(Text::PointsMissing, "3")), std::string::npos);
   QTest::keyClick(&find<QLineEdit>("txtFINAL(1)"), Qt::Key_Backspace);
   QTest::keyClicks(&find<QLineEdit>("txtFINAL(1)"), QStringLiteral("2"));
-  EXPECT_NE(shown("lblFINAL(1)").find(texts.text(2288)), std::string::npos);
+  EXPECT_NE(shown("lblFINAL(1)").find(texts.text(Text::PointsAgree)), std::string::npos);
 
   press("cmdZERO");
   EXPECT_EQ(shown("lblDK(5)"), "1") << "the answer was no";
@@ -307,7 +307,7 @@ TEST_F(ManualWindowTest, KeepsStrangeLinesWithANoticeAndOnlyReadsAGameThatIsOpen
 
   fs::permissions(path, fs::perms::owner_read);
   ASSERT_TRUE(window->open(toQt(path)));
-  EXPECT_EQ(shown("lblNOTONDISK"), texts.withPlaceholder(1914, path)) << "for reading";
+  EXPECT_EQ(shown("lblNOTONDISK"), texts.withPlaceholder(Text::ForReadingOnly, path)) << "for reading";
   clickRow(1);
   keys(QStringLiteral("5+"));
   placeShot(20, 100, Qt::LeftButton);
@@ -319,8 +319,8 @@ TEST_F(ManualWindowTest, KeepsStrangeLinesWithANoticeAndOnlyReadsAGameThatIsOpen
 
   texts.setLanguage(Language::French);
   window->relabelWindow();
-  EXPECT_EQ(shown("lblNOTICE"), texts.withPlaceholder(2282, "1"));
-  EXPECT_NE(fromQt(find<QPushButton>("cmdBUTF").toolTip()), texts.text(1390, Language::English));
+  EXPECT_EQ(shown("lblNOTICE"), texts.withPlaceholder(Text::LinesBeside, "1"));
+  EXPECT_NE(fromQt(find<QPushButton>("cmdBUTF").toolTip()), texts.text(Text::PFCount, Language::English));
 }
 
 TEST_F(ManualWindowTest, WhatOthersWriteGivesWayToTotalsThatAreSaved) {

@@ -3,7 +3,6 @@
 #include "printing/ReportOutput.h"
 #include "printing/TableReport.h"
 #include "printing/WindowExports.h"
-#include "report/PrintTexts.h"
 
 #include "appearance/ChildWindow.h"
 #include "appearance/relabel.h"
@@ -92,19 +91,19 @@ TEST_F(ReportOutputTest, EveryPlaceThatTakesNoFileIsNamedWithItsReason) {
   dialogs.nextAnswer = true; // to replace
   fs::create_directory(folder.path("folder.html"));
   save(folder.path("folder.html"));
-  EXPECT_EQ(complaint(), texts.withPlaceholder(kPathIsFolder, folder.path("folder.html")));
+  EXPECT_EQ(complaint(), texts.withPlaceholder(Text::PathIsFolder, folder.path("folder.html")));
   save(folder.path("missing/x.html"));
-  EXPECT_EQ(complaint(), texts.withPlaceholder(kFolderIsMissing, folder.path("missing/x.html")));
+  EXPECT_EQ(complaint(), texts.withPlaceholder(Text::FolderIsMissing, folder.path("missing/x.html")));
 
   (void)folder.write("locked.html", "mine");
   fs::permissions(folder.path("locked.html"), fs::perms::owner_read);
   save(folder.path("locked.html"));
-  EXPECT_EQ(complaint(), texts.withPlaceholder(kNoRightToWrite, folder.path("locked.html")));
+  EXPECT_EQ(complaint(), texts.withPlaceholder(Text::NoRightToWrite, folder.path("locked.html")));
   EXPECT_EQ(folder.read("locked.html"), "mine");
 
   save(folder.path(std::string(300, 'n') + ".html"));
   EXPECT_EQ(complaint(),
-            texts.withPlaceholder(kReportNotWritten, folder.path(std::string(300, 'n') + ".html")));
+            texts.withPlaceholder(Text::ReportNotWritten, folder.path(std::string(300, 'n') + ".html")));
   for (const char* odd : {"é ü – ‘x’.html", "a\nb\tc.html", "-o ; rm $HOME.html", "%s%n.html"}) {
     save(folder.path(odd));
     EXPECT_EQ(complaint(), "") << odd;
@@ -129,7 +128,7 @@ TEST_F(ReportOutputTest, AFullDiskKeepsTheOldFileAndLeavesNothingHalfWritten) {
     const std::string old = folder.read("disk/long.html");
     const auto count = std::distance(fs::directory_iterator(disk), fs::directory_iterator());
     QProcess::execute(QStringLiteral("umount"), {toQt(disk)});
-    EXPECT_EQ(complaint(), texts.withPlaceholder(kNoRoomOnDisk, disk + "/long.html"));
+    EXPECT_EQ(complaint(), texts.withPlaceholder(Text::NoRoomOnDisk, disk + "/long.html"));
     EXPECT_EQ(old, "old");
     EXPECT_EQ(count, 1) << "nothing half written";
   }
@@ -161,7 +160,8 @@ TEST_F(ReportOutputTest, CancellingLeavesNothingAndTheWindowAnswersMeanwhile) {
     wait();
     EXPECT_FALSE(output.isVisible());
     ASSERT_EQ(reported.size(), 2) << "what it was at, and what came of it";
-    EXPECT_EQ(reported[1][0].toString(), toQt(texts.withPlaceholder(kReportCancelled, folder.path(name))));
+    EXPECT_EQ(reported[1][0].toString(),
+              toQt(texts.withPlaceholder(Text::ReportCancelled, folder.path(name))));
   }
   EXPECT_TRUE(dialogs.shown.size() == 1) << "the question whether to replace, and no complaint";
   EXPECT_EQ(entries(), std::vector<std::string>{"long.pdf"});
@@ -184,8 +184,9 @@ TEST_F(ReportOutputTest, APrintJobIsCancelledAsAWholeOrNotAtAll) {
     output.cancel();
     wait();
     ASSERT_EQ(reported.size(), 1);
-    EXPECT_EQ(reported[0][0].toString(),
-              toQt(texts.withPlaceholder(waitsForPages ? kSentToPrinter : kReportCancelled, "Long")));
+    EXPECT_EQ(
+        reported[0][0].toString(),
+        toQt(texts.withPlaceholder(waitsForPages ? Text::SentToPrinter : Text::ReportCancelled, "Long")));
     EXPECT_EQ(folder.holds(file), waitsForPages);
   }
   EXPECT_TRUE(dialogs.shown.empty());

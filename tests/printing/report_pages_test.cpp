@@ -7,7 +7,6 @@
 #include "printing/frmprint.h"
 #include "report/BoxReport.h"
 #include "report/GameReports.h"
-#include "report/PrintTexts.h"
 #include "report/ReportText.h"
 #include "report/SeasonReports.h"
 #include "report/TeamReports.h"
@@ -196,7 +195,7 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheBoxScoreSays) {
     const std::string path = folder.write("box.pdf", reportPdf(scorecard(game), kA4));
     const std::string text =
         output("pdftotext", {QStringLiteral("-layout"), toQt(path), QStringLiteral("-")});
-    EXPECT_NE(text.find(texts.text(kScorecard)), std::string::npos);
+    EXPECT_NE(text.find(texts.text(Text::Scorecard)), std::string::npos);
     for (int team = 0; team < 2; ++team) {
       for (const BoxRow& row : boxRows(game, state, team, BoxView::Players, texts)) {
         // The row may stand in parts; their numbers follow each other in the order of the columns. Kinds of
@@ -470,7 +469,7 @@ class PreviewTest : public ReportPagesTest {
     window = std::make_unique<frmprint>(texts, dialogs, printers, output);
     window->resize(1000, 700);
     window->offer(
-        {{[this] { return std::string(texts.text(kScorecard)); }, [this] { return scorecard(game); }},
+        {{[this] { return std::string(texts.text(Text::Scorecard)); }, [this] { return scorecard(game); }},
          {[] { return std::string("events"); },
           [this] { return playByPlayReport(shorter, tallied(shorter), texts); }},
          {[] { return std::string("forms"); }, [this] { return blankForms(texts); }}});
@@ -533,10 +532,10 @@ TEST_F(PreviewTest, ShowsPagesAndGoesThroughThem) {
 }
 
 TEST_F(PreviewTest, TheTitleIsTheUsersAndTheRestFollowsTheLanguage) {
-  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(kScorecard)));
+  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(Text::Scorecard)));
   texts.setLanguage(Language::French);
   window->relabelWindow();
-  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(kScorecard)));
+  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(Text::Scorecard)));
   find<QLineEdit>("txtTITLE").setFocus();
   find<QLineEdit>("txtTITLE").selectAll();
   QTest::keyClicks(&find<QLineEdit>("txtTITLE"), QStringLiteral("Final of the cup"));
@@ -547,7 +546,7 @@ TEST_F(PreviewTest, TheTitleIsTheUsersAndTheRestFollowsTheLanguage) {
   clickAndWait<QAction>("mnuHTML");
   EXPECT_NE(folder.read("x.html").find("<h1>Final of the cup</h1>"), std::string::npos);
   find<QComboBox>("cmbREPORT").setCurrentIndex(1);
-  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(kPlayByPlay)))
+  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(Text::PlayByPlay)))
       << "another report, another title";
 }
 
@@ -591,12 +590,12 @@ TEST_F(PreviewTest, PrintsTheChosenPagesAndTellsWhenThePrinterRefuses) {
   printers.file = toQt(folder.path("missing/printed.pdf"));
   clickAndWait<QPushButton>("cmdPRINT");
   ASSERT_EQ(dialogs.shown.size(), 1U);
-  EXPECT_EQ(dialogs.shown[0].title, toQt(texts.text(1402)));
-  EXPECT_EQ(dialogs.shown[0].text, toQt(texts.text(kNotPrinted)));
+  EXPECT_EQ(dialogs.shown[0].title, toQt(texts.text(Text::PrinterError)));
+  EXPECT_EQ(dialogs.shown[0].text, toQt(texts.text(Text::NotPrinted)));
   printers.isInstalled = false;
   printers.asked = 0;
   clickAndWait<QPushButton>("cmdPRINT");
-  EXPECT_EQ(dialogs.shown.back().text, toQt(texts.text(kNoPrinter)));
+  EXPECT_EQ(dialogs.shown.back().text, toQt(texts.text(Text::NoPrinter)));
   EXPECT_EQ(printers.asked, 0);
 }
 

@@ -129,7 +129,7 @@ TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
   ASSERT_NE(ann, nullptr);
   const Report report =
       seasonReport(SeasonReport::Player, season, {std::nullopt, ann->id, {}}, settings, texts);
-  EXPECT_EQ(report.title, texts.text(1413));
+  EXPECT_EQ(report.title, texts.text(Text::PlayerPerformance));
   const ReportTable& results = *tables(report).back();
   ASSERT_EQ(results.rows.size(), 2U);
   EXPECT_EQ(cell(results, results.rows[0], "Date").text, "2026-10-02");

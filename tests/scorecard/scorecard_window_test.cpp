@@ -113,7 +113,7 @@ TEST_F(ScorecardWindowTest, ShowsTheGameAsItIs) {
   EXPECT_EQ(find<QLabel>("lblLEAD(0)").text(), QStringLiteral("00:20"));
   EXPECT_EQ(find<QLabel>("lbltemps").text(), QStringLiteral("09:00"));
   EXPECT_EQ(find<QLineEdit>("txtENDROIT").text(), QStringLiteral("Main gym"));
-  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(1252)));
+  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(Text::Season)));
   EXPECT_EQ(find<QLineEdit>("txtBONUSAPRES").text(), QStringLiteral("2"));
   EXPECT_EQ(find<QComboBox>("cmbTEAM").count(), 2);
 
@@ -377,7 +377,7 @@ TEST_F(ScorecardWindowTest, AFileThatIsGoneOrBrokenKeepsWhatWasShownAndSaysSo) {
   fs::remove(path);
   tick();
   EXPECT_TRUE(notice().isVisible());
-  EXPECT_EQ(notice().text(), toQt(texts.withPlaceholder(1520, "seen.GAM")));
+  EXPECT_EQ(notice().text(), toQt(texts.withPlaceholder(Text::FileIsGone, "seen.GAM")));
   EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("4"));
   EXPECT_EQ(table(0).model()->rowCount(), 5);
   EXPECT_EQ(marks(), 3U);
@@ -385,7 +385,7 @@ TEST_F(ScorecardWindowTest, AFileThatIsGoneOrBrokenKeepsWhatWasShownAndSaysSo) {
   game.folder.write("seen.GAM", "not a game");
   tick();
   EXPECT_TRUE(notice().isVisible());
-  EXPECT_NE(notice().text(), toQt(texts.withPlaceholder(1520, "seen.GAM")));
+  EXPECT_NE(notice().text(), toQt(texts.withPlaceholder(Text::FileIsGone, "seen.GAM")));
   EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("4"));
   window->relabelWindow();
   EXPECT_TRUE(notice().isVisible()) << "a language switch is no recovery";
@@ -433,7 +433,7 @@ TEST_F(ScorecardWindowTest, AnotherLanguageChangesThreeHeadersAndTheWords) {
   EXPECT_EQ(changed, (QList<int>{2, 3, 34}));
   EXPECT_NE(cell(events(), 7, EventListModel::Action), foul);
   EXPECT_NE(rows.headerData(kFieldGoalsMade, Qt::Horizontal, Qt::ToolTipRole).toString(), hint);
-  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(1252)));
+  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(Text::Season)));
 }
 
 TEST_F(ScorecardWindowTest, CopiesTheColumnsThatAreShownInTheirOrder) {
@@ -501,7 +501,7 @@ TEST_F(OddGameTest, AGameWithoutAnythingOpens) {
   show(game.folder.write("empty.GAM", details()));
   watchModels();
   EXPECT_EQ(events().model()->rowCount(), 0);
-  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(1259)));
+  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(Text::OtherType)));
   window->setByLine(true);
   EXPECT_EQ(table(1).model()->rowCount(), 1);
   window->grab();

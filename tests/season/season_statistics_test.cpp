@@ -207,7 +207,7 @@ TEST(SeasonColumns, AreThoseOfTheTables) {
             "No Player Name Time G PF TF Rat. TGM TGA % PTS F2M F2A F2% PTS F3M F3A F3% PTS FTM FTA FT% PTS "
             "FGM FGA FG% PTS LLM LLA LL% PTS LRM LRA LR% PTS PBM PBA PB% PTS DKM DKA DK% PTS "
             "Ast BS ST TO OR DR TR U1 U2 # Pos PosHist ");
-  EXPECT_EQ(seasonHeader(kNameColumn, SeasonTable::Lines, texts), texts.text(1026));
+  EXPECT_EQ(seasonHeader(kNameColumn, SeasonTable::Lines, texts), texts.text(Text::Line));
   EXPECT_EQ(seasonWidthTwips(kNameColumn, SeasonTable::Lines), 3087);
 }
 

@@ -134,7 +134,7 @@ TEST_F(SeasonWindowTest, ListsTheGamesOfAFolder) {
   ASSERT_EQ(rows("lvwNOTREAD"), 1);
   EXPECT_TRUE(table("lvwNOTREAD").isVisible());
   EXPECT_TRUE(cell("lvwNOTREAD", 0, 0).endsWith(QStringLiteral("broken.GAM")));
-  EXPECT_EQ(cell("lvwNOTREAD", 0, 1), caption(texts, 2052));
+  EXPECT_EQ(cell("lvwNOTREAD", 0, 1), caption(texts, Text::NoHooptabGame));
 
   find<QCheckBox>("chkSUBFOLDERS").click();
   wait();
@@ -174,14 +174,14 @@ TEST_F(SeasonWindowTest, CriteriaNarrowTheListWhenTheyAreApplied) {
   for (int row = 0; row < ofTeam; ++row)
     EXPECT_TRUE(cell("lvwGAMES", row, 2).contains(u'-')) << "the team's own result: W 87-80";
 
-  choose("lstOU", caption(texts, 1200));
+  choose("lstOU", caption(texts, Text::AtHome));
   click("cmdFILTER");
   const int atHome = rows("lvwGAMES");
-  choose("lstOU", caption(texts, 1201));
+  choose("lstOU", caption(texts, Text::Away));
   click("cmdFILTER");
   EXPECT_EQ(atHome + rows("lvwGAMES"), ofTeam);
-  choose("lstOU", caption(texts, 1015));
-  choose("lstequipes", caption(texts, 1015));
+  choose("lstOU", caption(texts, Text::All));
+  choose("lstequipes", caption(texts, Text::All));
 
   find<QCheckBox>("chkCOPIES").click();
   click("cmdFILTER");
@@ -302,7 +302,7 @@ TEST_F(SeasonWindowTest, ShowsAPlayerGameByGame) {
 
   emit table("lvwSTATlignes(0)").rowAsked(0);
   wait();
-  EXPECT_EQ(find<QLabel>("lblRECORDS").text(), caption(texts, 1412));
+  EXPECT_EQ(find<QLabel>("lblRECORDS").text(), caption(texts, Text::LineRecords));
   EXPECT_FALSE(find<QWidget>("picSHOTS").findChild<CourtView*>()->isVisible()) << "no shots are kept by line";
 }
 
@@ -406,7 +406,7 @@ TEST_F(SeasonWindowTest, SaysWhatIsWrongWithAFolder) {
   click("cmdDIR");
   wait();
   EXPECT_EQ(find<QLineEdit>("txtDIR").text(), toQt(empty.path()));
-  EXPECT_EQ(find<QLabel>("lblPROGRESS").text(), toQt(texts.withPlaceholder(1374, "0")));
+  EXPECT_EQ(find<QLabel>("lblPROGRESS").text(), toQt(texts.withPlaceholder(Text::LoadingGames, "0")));
   EXPECT_TRUE(find<QLabel>("lblNOTICE").text().contains(toQt(empty.path())));
   EXPECT_FALSE(find<QPushButton>("cmdGENERATE").isEnabled());
 
@@ -427,10 +427,10 @@ TEST_F(SeasonWindowTest, SpeaksTheOtherLanguageAtOnce) {
   window->relabelWindow();
   EXPECT_EQ(currentPage(), QStringLiteral("Joueurs"));
   EXPECT_EQ(table("lvwSTATjoueurs(0)").model()->headerData(1, Qt::Horizontal).toString(),
-            caption(texts, 1023));
+            caption(texts, Text::PlayerName));
   EXPECT_EQ(cell("lvwSTATjoueurs(0)", 0, 1), first) << "sorted as before";
   EXPECT_EQ(find<QLabel>("lblGAMES").text(), QStringLiteral("25 des 25 parties"));
-  EXPECT_EQ(find<QComboBox>("lstequipes").itemText(0), caption(texts, 1015));
+  EXPECT_EQ(find<QComboBox>("lstequipes").itemText(0), caption(texts, Text::All));
   EXPECT_EQ(find<QComboBox>("lstequipes").count(), 5);
   window->applyColours();
 }

@@ -10,6 +10,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace hooptab {
 namespace {
@@ -20,10 +21,10 @@ const Texts& carried() {
 }
 
 std::string_view english(int number) {
-  return carried().text(number, Language::English);
+  return carried().text(static_cast<Text>(number), Language::English);
 }
 std::string_view french(int number) {
-  return carried().text(number, Language::French);
+  return carried().text(static_cast<Text>(number), Language::French);
 }
 
 std::size_t occurrences(std::string_view text, std::string_view part) {
@@ -55,18 +56,18 @@ std::multiset<std::string> placeholders(std::string_view text) {
   return found;
 }
 
-// The numbers that a table's lines carry, as often as they occur.
-std::multiset<int> numbersOf(std::string_view table) {
-  std::multiset<int> numbers;
+// The English numbers and the names that a table's lines carry, as often as they occur.
+std::multiset<std::pair<int, std::string>> namesOf(std::string_view table, int offset) {
+  std::multiset<std::pair<int, std::string>> names;
   std::size_t begin = 0;
   while (begin < table.size()) {
     const std::size_t end = std::min(table.find('\n', begin), table.size());
     const std::string line(table.substr(begin, end - begin));
     if (!line.empty() && line[0] >= '0' && line[0] <= '9')
-      numbers.insert(std::stoi(line));
+      names.emplace(std::stoi(line) - offset, line.substr(5, line.find(' ', 5) - 5));
     begin = end + 1;
   }
-  return numbers;
+  return names;
 }
 
 TEST(TextTables, HoldEveryNumberOnceInBothLanguagesAndFillNoGap) {
@@ -82,11 +83,9 @@ TEST(TextTables, HoldEveryNumberOnceInBothLanguagesAndFillNoGap) {
   }
   EXPECT_EQ(original, 423U);
 
-  std::multiset<int> expected;
-  for (const int number : numbersOf(englishTable()))
-    expected.insert(number + Texts::kFrenchOffset);
-  EXPECT_EQ(numbersOf(frenchTable()), expected);
-  EXPECT_EQ(expected.size(), carried().numbers().size()) << "a number twice, or a line without a text";
+  const auto names = namesOf(englishTable(), 0);
+  EXPECT_EQ(namesOf(frenchTable(), Texts::kFrenchOffset), names);
+  EXPECT_EQ(names.size(), carried().numbers().size()) << "a number twice, or a line without a text";
 }
 
 TEST(TextTables, KeepThePartsThatProgramsReadEqualInBothLanguages) {
@@ -126,7 +125,7 @@ TEST(TextTables, SayTheSameMouseHintInTheSameWords) {
 TEST(TextTables, UseOnlyLettersOfTheFilesCodePage) {
   for (const int number : carried().numbers())
     for (const Language language : {Language::English, Language::French}) {
-      const std::string_view text = carried().text(number, language);
+      const std::string_view text = carried().text(static_cast<Text>(number), language);
       EXPECT_EQ(codepage::storedForm(text), text) << number;
       EXPECT_TRUE(std::ranges::none_of(text, [](char c) { return static_cast<unsigned char>(c) < ' '; }))
           << number;
@@ -187,31 +186,31 @@ TEST(TextTables, HoldTheFixedFrenchTexts) {
 
 TEST(Texts, AreReadFromATableAsItsFormSays) {
   const Texts texts(
-      "# a comment\n\n1001 \"One\"\n1002 \"Say \"\"two\"\" \"  # the text ends at the last quote\n"
-      "1003\n1004 \"\"\nword \"x\"\n900 \"low\"\n99999999999 \"high\"\n4001 \"beyond\"\n1005 \"last\"",
+      "# a comment\n\n1001 One \"One\"\n1002 \"Say \"\"two\"\" \"  # the text ends at the last quote\n"
+      "1003 Three\n1004 \"\"\nword \"x\"\n900 \"low\"\n99999999999 \"high\"\n4001 \"beyond\"\n1005 \"last\"",
       "5001 \"Un\"\r\n5002 \"Deux\"\n1005 \"English number\"");
-  EXPECT_EQ(texts.text(1001), "One");
-  EXPECT_EQ(texts.text(1002), "Say \"\"two\"\" ");
-  EXPECT_EQ(texts.text(1005), "last") << "the last line needs no line end";
+  EXPECT_EQ(texts.text(static_cast<Text>(1001)), "One");
+  EXPECT_EQ(texts.text(static_cast<Text>(1002)), "Say \"\"two\"\" ");
+  EXPECT_EQ(texts.text(static_cast<Text>(1005)), "last") << "the last line needs no line end";
   EXPECT_EQ(texts.numbers(), (std::vector<int>{1001, 1002, 1005}));
-  EXPECT_EQ(texts.text(1001, Language::French), "Un");
+  EXPECT_EQ(texts.text(static_cast<Text>(1001), Language::French), "Un");
   for (const int number : {-1, 0, 900, 1000, 1003, 1004, 2500, 4001, 6501})
-    EXPECT_EQ(texts.text(number), "") << number;
-  EXPECT_EQ(texts.text(1005, Language::French), "");
+    EXPECT_EQ(texts.text(static_cast<Text>(number)), "") << number;
+  EXPECT_EQ(texts.text(static_cast<Text>(1005), Language::French), "");
 }
 
 TEST(Texts, FollowTheLanguageInUse) {
   Texts texts;
-  EXPECT_EQ(texts.text(1075), "START");
+  EXPECT_EQ(texts.text(Text::Start), "START");
   texts.setLanguage(Language::French);
-  EXPECT_EQ(texts.text(1075), "DÉPART");
+  EXPECT_EQ(texts.text(Text::Start), "DÉPART");
   EXPECT_EQ(texts.offset(), 4000);
-  EXPECT_EQ(texts.caption(1075), "DÉPART");
+  EXPECT_EQ(texts.caption(Text::Start), "DÉPART");
   texts.showNumbers(true);
-  EXPECT_EQ(texts.caption(1075), "5075 DÉPART");
+  EXPECT_EQ(texts.caption(Text::Start), "5075 DÉPART");
   texts.setLanguage(Language::English);
-  EXPECT_EQ(texts.caption(1075), "1075 START");
-  EXPECT_EQ(texts.withPlaceholder(1374, "12"), "Loading the 12 Games Found...");
+  EXPECT_EQ(texts.caption(Text::Start), "1075 START");
+  EXPECT_EQ(texts.withPlaceholder(Text::LoadingGames, "12"), "Loading the 12 Games Found...");
 }
 
 TEST(Texts, FillEveryPlaceOnceWhateverIsPutIn) {

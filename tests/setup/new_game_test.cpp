@@ -139,9 +139,9 @@ TEST_F(NewGameTest, NumbersAloneMakeTheSideAndLeaveTheTeam) {
   const std::string chosen = shown();
   for (const char* wrong : {"4 x", "7 07", " "})
     EXPECT_EQ(game.takeNumbers(0, wrong).jerseys.size(), 0U);
-  EXPECT_EQ(game.addPlayer(0, "x", ""), texts.text(1171));
+  EXPECT_EQ(game.addPlayer(0, "x", ""), texts.text(Text::InvalidNumber));
   EXPECT_EQ(game.addPlayer(0, "04", "Zoë"), "Number 04 is worn by 4 Ann Able.");
-  EXPECT_EQ(game.addPlayer(0, "8", std::string(260, 'W')), texts.text(2533));
+  EXPECT_EQ(game.addPlayer(0, "8", std::string(260, 'W')), texts.text(Text::NameTooLong));
   EXPECT_EQ(shown(), chosen) << "nothing of what is wrong";
 
   EXPECT_EQ(game.addPlayer(0, " 9 ", " Zoë "), "");
@@ -204,21 +204,21 @@ TEST_F(NewGameTest, AGameNeedsNoTeamOfTheList) {
 
   game.chooseTeam(0, 1);
   EXPECT_EQ(game.sides[0].name, "Home") << "by its position as any other";
-  EXPECT_EQ(game.problem(), 1406);
+  EXPECT_EQ(game.problem(), Text::SameTeam);
 }
 
 TEST_F(NewGameTest, IsAcceptedOnceEverythingIsChosen) {
   const struct {
     void (*spoil)(NewGame&);
-    int missing;
+    Text missing;
   } cases[] = {
-      {[](NewGame&) {}, 0},
-      {[](NewGame& g) { g.sides[0].team = NewGame::kNone; }, 1135},
-      {[](NewGame& g) { g.sides[1].team = NewGame::kNone; }, 1135},
-      {[](NewGame& g) { g.date.clear(); }, 1869},
-      {[](NewGame& g) { g.gameType = NewGame::kNone; }, 1870},
-      {[](NewGame& g) { g.inputType = NewGame::kNone; }, 1205},
-      {[](NewGame& g) { g.inputType = 1, g.mainTeam = NewGame::kNone; }, 1871},
+      {[](NewGame&) {}, Text::None},
+      {[](NewGame& g) { g.sides[0].team = NewGame::kNone; }, Text::ChooseTeams},
+      {[](NewGame& g) { g.sides[1].team = NewGame::kNone; }, Text::ChooseTeams},
+      {[](NewGame& g) { g.date.clear(); }, Text::EnterDate},
+      {[](NewGame& g) { g.gameType = NewGame::kNone; }, Text::ChooseGameType},
+      {[](NewGame& g) { g.inputType = NewGame::kNone; }, Text::ChooseInputType},
+      {[](NewGame& g) { g.inputType = 1, g.mainTeam = NewGame::kNone; }, Text::ChooseMainTeam},
       {[](NewGame& g) { g.inputType = 1, g.mainTeam = 0; }, 0},
       {[](NewGame& g) { g.inputType = 2, g.mainTeam = NewGame::kNone; }, 0},
   };
@@ -236,21 +236,22 @@ TEST_F(NewGameTest, TellsTheFirstThingThatIsWrong) {
   game.rules = {"0", "100", "-5", "none", ""}; // minutes that no clock of mm:ss shows
   game.inputType = NewGame::kNone;
   const struct {
-    int problem;
+    Text problem;
     void (*mend)(NewGame&);
   } cases[] = {
-      {1130, [](NewGame& g) { g.rules.minutesPerPeriod = "-1"; }},
-      {1130, [](NewGame& g) { g.rules.minutesPerPeriod = "abc"; }},
-      {1131, [](NewGame& g) { g.rules.periods = "4 quarters"; }},
-      {1406, [](NewGame& g) { g.chooseTeam(0, 3), g.rules.bonus = "0"; }},
-      {1132, [](NewGame& g) { g.rules.bonus = "1"; }},
-      {1205, [](NewGame& g) { g.inputType = 0, g.rules.personalFoulLimit = "0"; }},
-      {1133, [](NewGame& g) { g.rules.personalFoulLimit = "5", g.rules.technicalFoulLimit = "0"; }},
-      {1134, [](NewGame& g) { g.rules.technicalFoulLimit = "2"; }},
-      {1135, [](NewGame& g) { g.chooseTeam(1, 3), g.chooseTeam(0, 3); }},
-      {1406, [](NewGame& g) { g.chooseTeam(1, 1); }},
-      {1274, [](NewGame& g) { g.setChecked(0, 3, false); }},
-      {1275, [](NewGame& g) { g.setChecked(1, 0, false); }},
+      {Text::InvalidMinutes, [](NewGame& g) { g.rules.minutesPerPeriod = "-1"; }},
+      {Text::InvalidMinutes, [](NewGame& g) { g.rules.minutesPerPeriod = "abc"; }},
+      {Text::InvalidPeriods, [](NewGame& g) { g.rules.periods = "4 quarters"; }},
+      {Text::SameTeam, [](NewGame& g) { g.chooseTeam(0, 3), g.rules.bonus = "0"; }},
+      {Text::InvalidBonus, [](NewGame& g) { g.rules.bonus = "1"; }},
+      {Text::ChooseInputType, [](NewGame& g) { g.inputType = 0, g.rules.personalFoulLimit = "0"; }},
+      {Text::InvalidPersonalFouls,
+       [](NewGame& g) { g.rules.personalFoulLimit = "5", g.rules.technicalFoulLimit = "0"; }},
+      {Text::InvalidTechnicalFouls, [](NewGame& g) { g.rules.technicalFoulLimit = "2"; }},
+      {Text::ChooseTeams, [](NewGame& g) { g.chooseTeam(1, 3), g.chooseTeam(0, 3); }},
+      {Text::SameTeam, [](NewGame& g) { g.chooseTeam(1, 1); }},
+      {Text::VisitorsTooMany, [](NewGame& g) { g.setChecked(0, 3, false); }},
+      {Text::HomeTooMany, [](NewGame& g) { g.setChecked(1, 0, false); }},
       {0, [](NewGame&) {}},
   };
   for (const auto& c : cases) {
@@ -270,7 +271,7 @@ TEST_F(NewGameTest, ProposesANameThatEveryFileSystemTakes) {
   game.chooseTeam(1, 2);
   game.date = "1/3:\"*?<>|\\\t\x7F";
   EXPECT_EQ(game.proposedFileName(),
-            "1-3---------- " + std::string(texts.text(1252)) + " LYNX-AAA  A-B-C-D.GAM");
+            "1-3---------- " + std::string(texts.text(Text::Season)) + " LYNX-AAA  A-B-C-D.GAM");
 
   EXPECT_EQ(withGameEnding("/a/b"), "/a/b.GAM");
   EXPECT_EQ(withGameEnding("/a/b.gAm"), "/a/b.gAm");
@@ -347,7 +348,7 @@ TEST_F(NewGameTest, NamesTheGameThatWouldBeLostAndLeavesNothingOfIt) {
   EXPECT_NE(game.overwriteQuestion(path).find("not finished"), std::string::npos);
   folder.write("note.GAM", "a shopping list");
   EXPECT_EQ(game.overwriteQuestion(folder.path("note.GAM")),
-            texts.withPlaceholder(1862, folder.path("note.GAM")));
+            texts.withPlaceholder(Text::OtherFileIsLost, folder.path("note.GAM")));
 
   ASSERT_EQ(game.create(path), GameFileProblem::None);
   ASSERT_EQ(game.create(folder.path("new.GAM")), GameFileProblem::None);

@@ -88,10 +88,10 @@ class NewGameWindowTest : public testing::Test {
 };
 
 TEST_F(NewGameWindowTest, OkWaitsForEverythingAndTheWindowSaysForWhat) {
-  EXPECT_EQ(window->windowTitle(), text(1140));
+  EXPECT_EQ(window->windowTitle(), text(Text::NewGame));
   const auto& missing = find<QLabel>("lblMISSING");
   EXPECT_FALSE(ok().isEnabled());
-  EXPECT_EQ(missing.text(), text(1135));
+  EXPECT_EQ(missing.text(), text(Text::ChooseTeams));
   for (const char* list : {"lstequipes(1)", "lstequipes(0)"}) {
     find<QListWidget>(list).setFocus(Qt::TabFocusReason);
     EXPECT_TRUE(find<QListWidget>(list).selectedItems().isEmpty()) << "passing through chooses nothing";
@@ -106,7 +106,7 @@ TEST_F(NewGameWindowTest, OkWaitsForEverythingAndTheWindowSaysForWhat) {
 
   find<QComboBox>("typeinput").setCurrentIndex(1);
   EXPECT_FALSE(ok().isEnabled());
-  EXPECT_EQ(missing.text(), text(1871));
+  EXPECT_EQ(missing.text(), text(Text::ChooseMainTeam));
   find<QRadioButton>("Option1(0)").click();
   EXPECT_TRUE(ok().isEnabled());
   choose(1, kOwl);
@@ -163,12 +163,12 @@ TEST_F(NewGameWindowTest, PlayersAreCheckedAndTheirPositionsStepByMouseAndKey) {
   EXPECT_TRUE(table.isColumnHidden(Column::PositionIndex));
   EXPECT_EQ(table.palette().color(QPalette::Base), colourOf(255));
   EXPECT_FALSE(cell(0, 2, Column::Number, Qt::CheckStateRole).isValid()) << "AB is no jersey";
-  EXPECT_TRUE(cell(0, 2, Column::Name, Qt::ToolTipRole).toString().contains(text(1867)));
+  EXPECT_TRUE(cell(0, 2, Column::Name, Qt::ToolTipRole).toString().contains(text(Text::NoJersey)));
 
   const QPoint name = table.visualRect(table.model()->index(1, Column::Name)).center();
   QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, name);
   QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, name);
-  EXPECT_EQ(cell(0, 1, Column::Position).toString(), text(1269)) << "after the guard";
+  EXPECT_EQ(cell(0, 1, Column::Position).toString(), text(Text::NotApplicable)) << "after the guard";
   EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 9);
   QTest::keyClick(&table, Qt::Key_F2);
   EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 0);
@@ -262,7 +262,8 @@ TEST_F(NewGameWindowTest, TheCountWarnsBeforeOkDoes) {
       << "fifteen are seen without scrolling";
   ok().click();
   ASSERT_EQ(dialogs.shown.size(), 1U);
-  EXPECT_EQ(dialogs.shown[0], (ScriptedDialogs::Shown{Kind::Warn, text(1139), text(1274)}));
+  EXPECT_EQ(dialogs.shown[0],
+            (ScriptedDialogs::Shown{Kind::Warn, text(Text::WarningTitle), text(Text::VisitorsTooMany)}));
   EXPECT_TRUE(isOpen());
   EXPECT_TRUE(players(0).hasFocus()) << "where the fault is";
   EXPECT_EQ(dialogs.lastProposed, QString()) << "no file was asked for";
@@ -284,7 +285,7 @@ TEST_F(NewGameWindowTest, EnterPressesOkOnlyWhereItIsMeant) {
   auto& place = find<QLineEdit>("txtENDROIT");
   place.setFocus();
   QTest::keyClick(&place, Qt::Key_Return);
-  EXPECT_EQ(dialogs.lastFilter, fileFilter(text(1058)));
+  EXPECT_EQ(dialogs.lastFilter, fileFilter(text(Text::GameFilter)));
   EXPECT_TRUE(dialogs.lastProposed.endsWith(QStringLiteral(" Season FOX-B OWL-AA.GAM")));
   EXPECT_TRUE(dialogs.lastProposed.startsWith(toQt(folder.path()) + QStringLiteral("/20")));
   EXPECT_TRUE(isOpen()) << "the file dialog was cancelled";
@@ -299,10 +300,10 @@ TEST_F(NewGameWindowTest, TheLanguageFollowsAtOnceAndTheChoicesStay) {
   EXPECT_EQ(asked.count(), 1);
   texts.setLanguage(Language::French);
   window->relabelWindow();
-  EXPECT_EQ(window->windowTitle(), text(1140));
-  EXPECT_EQ(find<QComboBox>("lstTYPEPARTIE").currentText(), text(1259));
+  EXPECT_EQ(window->windowTitle(), text(Text::NewGame));
+  EXPECT_EQ(find<QComboBox>("lstTYPEPARTIE").currentText(), text(Text::OtherType));
   EXPECT_EQ(find<QComboBox>("lstTYPEPARTIE").count(), 7);
-  EXPECT_EQ(find<QComboBox>("typeinput").currentText(), text(1273));
+  EXPECT_EQ(find<QComboBox>("typeinput").currentText(), text(Text::LiveAndKeypad));
   EXPECT_EQ(cell(0, 0, Column::Position).toString(), QStringLiteral("Centre"));
   EXPECT_TRUE(find<QLabel>("lblCOUNT(0)").text().contains(QStringLiteral("20 sur 15")));
   EXPECT_EQ(window->choices(), (LastChoices{{1, 2}, "", "", 9, 1}));
@@ -345,7 +346,7 @@ TEST_F(NewGameWindowTest, AsksBeforeAGameIsLostAndSaysWhatCouldNotBeWritten) {
   ok().click();
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_EQ(dialogs.shown[0].kind, Kind::Ask);
-  EXPECT_EQ(dialogs.shown[0].title, text(1139));
+  EXPECT_EQ(dialogs.shown[0].title, text(Text::WarningTitle));
   EXPECT_TRUE(
       dialogs.shown[0].text.contains(QStringLiteral("CAT - DOG (2024-03-01), which is not finished")));
   EXPECT_TRUE(isOpen());
@@ -355,7 +356,7 @@ TEST_F(NewGameWindowTest, AsksBeforeAGameIsLostAndSaysWhatCouldNotBeWritten) {
   ok().click();
   ASSERT_EQ(dialogs.shown.size(), 2U);
   EXPECT_EQ(dialogs.shown[1].kind, Kind::Complain);
-  EXPECT_EQ(dialogs.shown[1].title, text(1060));
+  EXPECT_EQ(dialogs.shown[1].title, text(Text::ErrorTitle));
   EXPECT_TRUE(dialogs.shown[1].text.contains(dialogs.nextFileToSave));
   EXPECT_TRUE(isOpen());
   EXPECT_EQ(find<QLineEdit>("txtENDROIT").text(), QStringLiteral("Gym"));

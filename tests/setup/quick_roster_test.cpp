@@ -9,7 +9,7 @@ TEST(QuickRoster, TakesNumbersWithAnySeparatorsInTheirOrder) {
   using Jerseys = std::vector<std::string>;
   EXPECT_EQ(quickRoster("\n 23,7;;00 ,0\t105\r\n").jerseys, (Jerseys{"23", "7", "00", "0", "105"}));
   EXPECT_EQ(quickRoster("1 2 3 4 5 6 7 8 9 10 11 12 13 14 15").jerseys.size(), 15U);
-  EXPECT_TRUE(quickRoster(" ,\n").jerseys.empty() && quickRoster("").problem == 0);
+  EXPECT_TRUE(quickRoster(" ,\n").jerseys.empty() && quickRoster("").problem == Text::None);
 }
 
 TEST(QuickRoster, NamesTheFirstPartThatIsWrongAndWhereItStands) {

@@ -53,8 +53,8 @@ TEST(Commands, EachHasItsTextsItsIconAndAShortcutOfItsOwn) {
     SCOPED_TRACE(command.key);
     EXPECT_FALSE(texts.text(command.text).empty());
     EXPECT_TRUE(hasIcon(command.icon)) << command.icon;
-    EXPECT_EQ(command.kind == CommandKind::Swap, command.otherText != 0);
-    if (command.otherText != 0) {
+    EXPECT_EQ(command.kind == CommandKind::Swap, command.otherText != Text::None);
+    if (command.otherText != Text::None) {
       EXPECT_NE(texts.text(command.text), texts.text(command.otherText));
       EXPECT_TRUE(hasIcon(command.otherIcon));
     }
@@ -106,8 +106,10 @@ TEST(CommandState, EachModeEnablesItsCommands) {
 
 TEST(CommandState, WhatIsOnIsCheckedOrShowsTheWayBack) {
   for (const Modes& modes : allModes()) {
-    EXPECT_EQ(state("VwLIGNE", modes).text, modes.scorecardByLine ? 1033 : 1032);
-    EXPECT_EQ(state("VwMA", modes).text, modes.scorecardHidesMadeAttempted ? 1035 : 1034);
+    EXPECT_EQ(state("VwLIGNE", modes).text, modes.scorecardByLine ? Text::ViewByPlayer : Text::ViewByLine);
+    EXPECT_EQ(state("VwMA", modes).text, modes.scorecardHidesMadeAttempted
+                                             ? Text::StatisticsWithMadeAndAttempt
+                                             : Text::StatisticsWithoutMadeAndAttempt);
     EXPECT_EQ(state("VwLIGNE", modes).icon, modes.scorecardByLine ? "vwplayer" : "vwligne");
     EXPECT_EQ(state("LIVEMouse", modes).isChecked, modes.asksRebounds);
     EXPECT_EQ(state("LIVEKpad", modes).isChecked, modes.keypadIsActive);

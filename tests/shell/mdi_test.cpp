@@ -132,7 +132,7 @@ class MainWindowTest : public testing::Test {
   }
   QMdiArea& area() { return *window->findChild<QMdiArea*>(); }
   QList<frmVIEW*> scorecards() { return area().findChildren<frmVIEW*>(); }
-  QString text(int number) { return toQt(texts.text(number)); }
+  QString text(Text which) { return toQt(texts.text(which)); }
   std::string setting(const char* key) {
     store.Path(settings->path());
     store.Section("CONFIGURATION");
@@ -264,25 +264,25 @@ TEST_F(MainWindowTest, EveryPrintCommandLeadsToOnePreview) {
   };
   window->openGame(makeGame("one.GAM"));
   action("vwPRINT").trigger();
-  EXPECT_EQ(title(), text(2200));
+  EXPECT_EQ(title(), text(Text::Scorecard));
   action("viergePRINT").trigger();
-  EXPECT_EQ(title(), text(1400));
+  EXPECT_EQ(title(), text(Text::BlankForms));
   action("blankPRINT").trigger();
-  EXPECT_EQ(title(), text(1399));
+  EXPECT_EQ(title(), text(Text::PreparedForms));
   EXPECT_EQ(area().findChild<frmprint*>()->findChild<QComboBox*>(QStringLiteral("cmbREPORT"))->count(), 6)
       << "the six teams of the first start";
   action("gEQUIPE").trigger();
   auto* teams = area().findChild<frmEQUIPES*>();
   auto* print = teams->findChild<QPushButton*>(QStringLiteral("cmdPRINT"));
   print->click();
-  EXPECT_EQ(dialogs.shown.back().text, text(1174)) << "no team is chosen";
+  EXPECT_EQ(dialogs.shown.back().text, text(Text::SelectTeamFirst)) << "no team is chosen";
   teams->findChild<QListWidget*>(QStringLiteral("lstequipes"))->setCurrentRow(0);
   print->click();
-  EXPECT_EQ(title(), text(2204));
+  EXPECT_EQ(title(), text(Text::TeamRoster));
   dialogs.nextFile = makeGame("two.GAM");
   action("LIVEOpen").trigger();
   action("livePRINT").trigger();
-  EXPECT_EQ(title(), text(2200));
+  EXPECT_EQ(title(), text(Text::Scorecard));
 }
 
 TEST_F(MainWindowTest, EveryCommandStandsInTheMenusAndIsDisabledUntilItsWindowExists) {
@@ -391,13 +391,13 @@ TEST_F(MainWindowTest, OpensAGameByKeyAndServesItsScorecard) {
 
   click("VwLIGNE");
   EXPECT_TRUE(view.isByLine());
-  EXPECT_EQ(action("VwLIGNE").text(), text(1033));
+  EXPECT_EQ(action("VwLIGNE").text(), text(Text::ViewByPlayer));
   click("VwMA");
   EXPECT_TRUE(view.hidesMadeAttempted());
-  EXPECT_EQ(action("VwMA").text(), text(1035));
+  EXPECT_EQ(action("VwMA").text(), text(Text::StatisticsWithMadeAndAttempt));
   click("VwLIGNE");
   EXPECT_FALSE(view.isByLine());
-  EXPECT_EQ(action("VwLIGNE").text(), text(1032));
+  EXPECT_EQ(action("VwLIGNE").text(), text(Text::ViewByLine));
 
   action("VwREFSEC30").trigger();
   EXPECT_EQ(view.refreshMode(), frmVIEW::RefreshMode::Every30);
@@ -420,12 +420,13 @@ TEST_F(MainWindowTest, TheStartPageLeadsIntoTheGamesAndBack) {
   const auto row = [&](const char* name) { return window->findChild<QAbstractButton*>(QLatin1String(name)); };
   ASSERT_TRUE(QTest::qWaitFor([&] { return plate->isVisible() && row("recent(0)") != nullptr; }));
   EXPECT_TRUE(plate->accessibleName().contains(QStringLiteral("LYNX 3 – 0 PUMA")));
-  EXPECT_TRUE(row("recent(0)")->accessibleName().contains(text(2632))) << "the wrong file says so";
+  EXPECT_TRUE(row("recent(0)")->accessibleName().contains(text(Text::RecentCannotBeRead)))
+      << "the wrong file says so";
   EXPECT_EQ(row("recent(1)"), nullptr);
   QTest::mouseClick(row("recent(0)"), Qt::LeftButton);
-  EXPECT_EQ(dialogs.shown.back().text, text(1059));
+  EXPECT_EQ(dialogs.shown.back().text, text(Text::NotAGame));
   QTest::mouseClick(row("optLANGUAGE(1)"), Qt::LeftButton);
-  EXPECT_EQ(row("card_LIVENew")->text(), toQt(texts.text(1038, Language::French)));
+  EXPECT_EQ(row("card_LIVENew")->text(), toQt(texts.text(Text::CreateANewGame, Language::French)));
   EXPECT_TRUE(row("optLANGUAGE(1)")->isChecked());
   QTest::mouseClick(row("cmdFOLDER"), Qt::LeftButton);
   EXPECT_EQ(dialogs.opened.back(), QUrl::fromLocalFile(games.path()));
@@ -464,7 +465,7 @@ TEST_F(MainWindowTest, RefusesAWrongFileAndKeepsTheOpenGame) {
 
   window->openGame(fileIn(games, "MISSING.GAM"));
   ASSERT_EQ(dialogs.shown.size(), 2u);
-  EXPECT_NE(dialogs.shown[1].text, text(1059)) << "a missing file is no wrong file";
+  EXPECT_NE(dialogs.shown[1].text, text(Text::NotAGame)) << "a missing file is no wrong file";
   EXPECT_TRUE(dialogs.shown[1].text.contains(QStringLiteral("MISSING.GAM")));
 
   dialogs.nextFile.clear();
@@ -511,7 +512,7 @@ TEST_F(MainWindowTest, SwitchesTheLanguageOfEverythingThatIsOpen) {
   QTest::keyClick(window.get(), Qt::Key_F12);
   EXPECT_EQ(texts.language(), Language::French);
   EXPECT_EQ(setting("LANGUE"), "4000");
-  EXPECT_EQ(action("VwOPEN").text(), toQt(texts.text(1030, Language::French)));
+  EXPECT_EQ(action("VwOPEN").text(), toQt(texts.text(Text::OpenAGame, Language::French)));
   EXPECT_NE(action("VwOPEN").toolTip(), englishToolTip);
   EXPECT_EQ(action("tbLANGUE").text(), QStringLiteral("English"));
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"))
@@ -561,7 +562,7 @@ TEST_F(MainWindowTest, OpensOneTeamEditorThatAsksBeforeTheProgramEnds) {
   editor->findChild<QListWidget*>(QStringLiteral("lstequipes"))->setCurrentRow(0);
   editor->findChild<QLineEdit*>(QStringLiteral("txtNOMEQUIPE"))->setText(QStringLiteral("Bees"));
   action("tbLANGUE").trigger();
-  EXPECT_EQ(editor->windowTitle(), toQt(texts.text(1048, Language::French)));
+  EXPECT_EQ(editor->windowTitle(), toQt(texts.text(Text::TeamManagement, Language::French)));
   window->openGame(makeGame("ONE.GAM"));
   dialogs.nextSaveChoice = SaveChoice::Stay;
   EXPECT_FALSE(window->close());
@@ -687,7 +688,7 @@ TEST_F(MainWindowTest, EntersTotalsInTheirOwnWindowWhichMakesRoomForALiveGame) {
   auto* report = area().findChild<frmprint*>();
   ASSERT_NE(report, nullptr);
   EXPECT_EQ(report->findChild<QComboBox*>(QStringLiteral("cmbREPORT"))->currentText(),
-            toQt(texts.text(1398)));
+            toQt(texts.text(Text::VerificationReport)));
   report->parentWidget()->close();
 
   count();
@@ -746,14 +747,14 @@ TEST_F(MainWindowTest, OpensOneSeasonWindowWhoseGamesBecomeScorecards) {
   dialogs.shown.clear();
   action("stPRINT").trigger();
   ASSERT_EQ(dialogs.shown.size(), 1U);
-  EXPECT_EQ(dialogs.shown[0].text, text(2146));
+  EXPECT_EQ(dialogs.shown[0].text, text(Text::GenerateFirst));
   dialogs.nextAnswer = true; // the game is not whole
   season.findChild<QAbstractButton*>(QStringLiteral("cmdGENERATE"))->click();
   ASSERT_TRUE(QTest::qWaitFor([&] { return !season.isBusy() && season.statistics(); }));
   dialogs.shown.pop_back(); // the question
   action("stRAPLIGNE").trigger();
   ASSERT_EQ(dialogs.shown.size(), 2U);
-  EXPECT_EQ(dialogs.shown[1].text, text(2135)) << "no line is chosen";
+  EXPECT_EQ(dialogs.shown[1].text, text(Text::ChooseSomebody)) << "no line is chosen";
   EXPECT_EQ(area().findChildren<frmprint*>().size(), 0);
   action("stSTATJOUEURS").trigger();
   EXPECT_EQ(area().findChildren<frmprint*>().size(), 1);
@@ -763,7 +764,7 @@ TEST_F(MainWindowTest, OpensOneSeasonWindowWhoseGamesBecomeScorecards) {
   EXPECT_EQ(scorecards()[0]->path(), path);
   EXPECT_TRUE(action("stCLOSE").isEnabled()) << "behind the scorecard it is still there";
   action("tbLANGUE").trigger();
-  EXPECT_EQ(season.windowTitle(), text(1045));
+  EXPECT_EQ(season.windowTitle(), text(Text::SeasonTitle));
   action("stCLOSE").trigger();
   EXPECT_TRUE(QTest::qWaitFor([&] { return seasons().isEmpty() && !action("stCLOSE").isEnabled(); }));
   EXPECT_EQ(scorecards().size(), 1);

@@ -20,7 +20,7 @@ TEST(Refusals, EveryProblemHasATextAndAFileThatWasChosenIsNamed) {
   const std::set<int> different = {refusalText(Unreadable), refusalText(TooLarge), refusalText(InvalidFormat),
                                    refusalText(WriteFailed)};
   EXPECT_EQ(different.size(), 4U);
-  EXPECT_EQ(refusalText(InvalidFormat), 1059);
+  EXPECT_EQ(refusalText(InvalidFormat), Text::NotAGame);
   EXPECT_EQ(refusalText(None), 0);
 }
 

@@ -14,7 +14,7 @@ std::string players(const CsvPlayers& read) {
 std::string problems(const CsvPlayers& read) {
   std::string text;
   for (const CsvProblem& problem : read.problems)
-    text += std::to_string(problem.line) + ':' + std::to_string(problem.text) + ' ';
+    text += std::to_string(problem.line) + ':' + std::to_string(static_cast<int>(problem.text)) + ' ';
   return text;
 }
 
@@ -72,7 +72,7 @@ TEST(PlayerCsv, StopsAtTooManyPlayers) {
   const CsvPlayers read = parsePlayersCsv(text, Texts());
   EXPECT_EQ(read.players.size(), 1000U);
   ASSERT_FALSE(read.problems.empty());
-  EXPECT_EQ(read.problems.back().text, 1845);
+  EXPECT_EQ(read.problems.back().text, Text::TooManyRows);
 }
 
 TEST(PlayerCsv, WhatWasExportedIsReadInEitherLanguage) {

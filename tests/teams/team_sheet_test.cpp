@@ -68,16 +68,16 @@ TEST_F(TeamSheetTest, LettersThatTheFileLacksAreComparedAsItKeepsThem) {
 
 TEST_F(TeamSheetTest, WhatStandsAgainstAddingComesInOrder) {
   PlayerFields fields;
-  EXPECT_EQ(TeamSheet::problem(fields), 1171);
+  EXPECT_EQ(TeamSheet::problem(fields), Text::InvalidNumber);
   for (const char* number : {"x", "-1", "1234", "1.5", "A1"}) {
     fields.number = number;
-    EXPECT_EQ(TeamSheet::problem(fields), 1171) << number;
+    EXPECT_EQ(TeamSheet::problem(fields), Text::InvalidNumber) << number;
   }
   fields.number = "00";
-  EXPECT_EQ(TeamSheet::problem(fields), 1172);
+  EXPECT_EQ(TeamSheet::problem(fields), Text::NoPositionChosen);
   fields.position = 9;
   fields.name = " ";
-  EXPECT_EQ(TeamSheet::problem(fields), 1173);
+  EXPECT_EQ(TeamSheet::problem(fields), Text::NoName);
   fields.name = std::string(247, 'n');
   EXPECT_EQ(TeamSheet::problem(fields), 0) << "254 with position and commas";
   fields.age = "1";

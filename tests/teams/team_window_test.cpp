@@ -93,7 +93,7 @@ class TeamWindowTest : public testing::Test {
     dialogs.shown.clear();
     return text;
   }
-  QString text(int number) const { return toQt(texts.text(number)); }
+  QString text(Text which) const { return toQt(texts.text(which)); }
 
   TemporaryFolder folder;
   FileSystem disk;
@@ -150,21 +150,23 @@ TEST_F(TeamWindowTest, TheTabKeyGoesFromTheTeamToThePlayer) {
 TEST_F(TeamWindowTest, MessagesComeInTheirOrder) {
   click("cmdAJOUTERJOUEUR");
   ASSERT_EQ(dialogs.shown.size(), 1U);
-  EXPECT_EQ(dialogs.shown[0], (ScriptedDialogs::Shown{Kind::Complain, text(1060), text(1174)}));
+  EXPECT_EQ(dialogs.shown[0],
+            (ScriptedDialogs::Shown{Kind::Complain, text(Text::ErrorTitle), text(Text::SelectTeamFirst)}));
   dialogs.shown.clear();
   click("cmdEFFACEREQUIPE");
-  EXPECT_EQ(said(), text(1174));
+  EXPECT_EQ(said(), text(Text::SelectTeamFirst));
   click("cmdSAVEEQUIPE");
   EXPECT_EQ(said(), QString()) << "nothing happens";
   choose(0);
   click("cmdAJOUTERJOUEUR");
-  EXPECT_EQ(dialogs.shown[0], (ScriptedDialogs::Shown{Kind::Warn, text(1139), text(1171)}));
+  EXPECT_EQ(dialogs.shown[0],
+            (ScriptedDialogs::Shown{Kind::Warn, text(Text::WarningTitle), text(Text::InvalidNumber)}));
   type("txtJOUEURNO", "7");
   click("cmdAJOUTERJOUEUR");
-  EXPECT_EQ(said(), text(1172));
+  EXPECT_EQ(said(), text(Text::NoPositionChosen));
   choosePosition(1);
   click("cmdAJOUTERJOUEUR");
-  EXPECT_EQ(said(), text(1173));
+  EXPECT_EQ(said(), text(Text::NoName));
   EXPECT_FALSE(holds("7=1,,,,,,"));
 }
 
@@ -215,7 +217,7 @@ TEST_F(TeamWindowTest, ATeamIsMadeSavedAndDeletedAndItsIdReused) {
   choose(1);
   dialogs.nextAnswer = false;
   click("cmdEFFACEREQUIPE");
-  EXPECT_EQ(said(), text(1175));
+  EXPECT_EQ(said(), text(Text::ReallyDelete));
   EXPECT_EQ(list().count(), 3);
   dialogs.nextAnswer = true;
   click("cmdEFFACEREQUIPE");
@@ -251,7 +253,8 @@ TEST_F(TeamWindowTest, AColourIsChosenWithOnePressAndTheListShowsWhatIsSaved) {
   EXPECT_TRUE(yellow.isChecked());
   const QColor colour = table().palette().color(QPalette::Base);
   const QString measured = QString::number(contrast(Qt::black, colour), 'f', 1);
-  EXPECT_EQ(find<QLabel>("lblCONTRAST").text(), toQt(texts.withPlaceholder(2637, fromQt(measured))));
+  EXPECT_EQ(find<QLabel>("lblCONTRAST").text(),
+            toQt(texts.withPlaceholder(Text::BlackText, fromQt(measured))));
   EXPECT_EQ(colourOf(listed(TeamRole::Colour).toUInt()), QColor(255, 0, 0));
   type("txtJOUEURNO", "7");
   choosePosition(1);
@@ -411,7 +414,7 @@ TEST_F(TeamWindowTest, PlayersArePastedImportedAndExported) {
   QApplication::clipboard()->setText(QStringLiteral("Name,Number\nAnn,6\nEve,8\n"));
   click("cmdPASTE");
   const QString told = said();
-  EXPECT_TRUE(told.contains(text(2803))) << fromQt(told);
+  EXPECT_TRUE(told.contains(text(Text::OthersNow))) << fromQt(told);
   EXPECT_TRUE(told.contains(QStringLiteral("Eve in place of Dee"))) << fromQt(told);
   click("cmdSAVEEQUIPE");
   EXPECT_TRUE(holds("6=2,Ann,6ft,,,,")) << folder.read("CONFIG.INI");

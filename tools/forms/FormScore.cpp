@@ -155,7 +155,7 @@ void FormScore::print(std::FILE* file) const {
       std::fprintf(file, ": %d missed, %d invented, %d certain, %d doubtful\n", score.missed, score.invented,
                    score.wrongCertain, score.doubtful);
     else
-      std::fprintf(file, ": not found (text %d)\n", textOf(page.problem));
+      std::fprintf(file, ": not found (text %d)\n", static_cast<int>(textOf(page.problem)));
   }
   if (!m_faults.empty())
     std::fprintf(file, "\nwrong without a doubt\n");

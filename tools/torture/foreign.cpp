@@ -4,6 +4,7 @@
 // somewhere. One line of counts; exit status 1 when anything was lost or hung.
 #include "Amount.h"
 #include "Table.h"
+#include "settings/Text.h"
 #include "support/TemporaryFolder.h"
 
 #include <chrono>
@@ -168,8 +169,7 @@ int run(const std::string& program, const Amount& amount) {
 
 int main(int argc, char** argv) {
   try {
-    constexpr int kMoments = 1150; // 23 kinds, 50 times each
-    return run(argv[1], Amount(wordsBehind(2, argc, argv), kMoments));
+    return run(argv[1], Amount(wordsBehind(2, argc, argv), 1150));
   } catch (const std::exception& failure) {
     std::cout << "FAILED: " << failure.what() << '\n';
     return EXIT_FAILURE;

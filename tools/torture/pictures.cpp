@@ -86,7 +86,7 @@ class Window {
     m_isOpen = m_window->open(toQt(game));
     m_dialogs.nextAnswer = true; // leaves the pages that are left
     m_broken = toQt(explained({PageRefusal::Reason::BrokeOff}, m_texts));
-    m_late = toQt(m_texts.withPlaceholder(2405, "#")).section(u'#', 0, 0);
+    m_late = toQt(m_texts.withPlaceholder(Text::TookTooLong, "#")).section(u'#', 0, 0);
   }
   [[nodiscard]] bool isOpen() const { return m_isOpen; }
 
@@ -118,7 +118,7 @@ class Window {
   // told.
   void count(const QString& name, Answers& answers) {
     for (const ScriptedDialogs::Shown& shown : m_dialogs.shown) {
-      const QString more = toQt(m_texts.withPlaceholder(2407, "#")).section(u'#', 0, 0);
+      const QString more = toQt(m_texts.withPlaceholder(Text::MoreRefused, "#")).section(u'#', 0, 0);
       for (const QString& line : shown.text.split(u'\n')) {
         if (line.startsWith(more))
           answers.refused += line.mid(more.size()).section(u' ', 0, 0).toInt();
