@@ -36,6 +36,13 @@ endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(hooptab_flags INTERFACE -fpch-preprocess) # lets ccache see compiled headers
 endif()
+if(HOOPTAB_TRACE)
+  add_library(hooptab_trace SHARED "${CMAKE_SOURCE_DIR}/tools/mutate/trace.cpp")
+  target_link_libraries(hooptab_trace PRIVATE ${CMAKE_DL_LIBS})
+  target_compile_options(hooptab_trace PRIVATE -O2 -fvisibility-inlines-hidden) # or it would call what calls it
+  target_compile_options(hooptab_flags INTERFACE -fsanitize-coverage=trace-pc)
+  target_link_libraries(hooptab_flags INTERFACE hooptab_trace)
+endif()
 if(HOOPTAB_FUZZ)
   target_compile_options(hooptab_flags INTERFACE -fsanitize=fuzzer-no-link) # or the fuzzer would search blindly
 endif()
