@@ -23,8 +23,6 @@ class NoThreads {
     pthread_setattr_default_np(&m_before);
     pthread_attr_destroy(&m_before);
   }
-  NoThreads(const NoThreads&) = delete;
-  NoThreads& operator=(const NoThreads&) = delete;
 
  private:
   pthread_attr_t m_before;

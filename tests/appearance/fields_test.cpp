@@ -8,18 +8,17 @@
 #include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
-#include <set>
 
 namespace hooptab {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 TEST(Fields, SelectTheirContentOnFocusByMouseToo) {
   QWidget window;
-  auto* layout = new QGridLayout(&window);
-  auto* one = new QLineEdit(QStringLiteral("Long"), &window);
-  auto* other = new QLineEdit(QStringLiteral("5"), &window);
-  layout->addWidget(other, 0, 0);
-  layout->addWidget(one, 1, 0);
+  auto* one = new QLineEdit(u"Long"_s, &window);
+  auto* other = new QLineEdit(u"5"_s, &window);
+  other->move(0, 100);
   selectOnFocus(window);
   window.show();
   window.activateWindow();
@@ -27,7 +26,7 @@ TEST(Fields, SelectTheirContentOnFocusByMouseToo) {
   other->setFocus();
   QTest::mouseClick(one, Qt::LeftButton);
   QCoreApplication::processEvents();
-  EXPECT_EQ(one->selectedText(), QStringLiteral("Long"));
+  EXPECT_EQ(one->selectedText(), u"Long"_s);
   QTest::mouseClick(other, Qt::LeftButton);
   QCoreApplication::processEvents();
   EXPECT_EQ(other->selectedText(), QString()) << "one character is not worth it";
@@ -37,25 +36,23 @@ TEST(Fields, TakeNoMoreThanTheFileGivesBack) {
   const Texts texts;
   QLineEdit field;
   limitField(field, texts, 4);
-  QTest::keyClicks(&field, QStringLiteral("abcde"));
-  EXPECT_EQ(field.text(), QStringLiteral("abcd"));
+  QTest::keyClicks(&field, u"abcde"_s);
+  EXPECT_EQ(field.text(), u"abcd"_s);
   field.selectAll();
-  field.insert(QStringLiteral("éèêë"));
-  EXPECT_EQ(field.text(), QStringLiteral("éèêë")) << "letters, as the file counts them";
+  field.insert(u"éèêë"_s);
+  EXPECT_EQ(field.text(), u"éèêë"_s) << "letters, as the file counts them";
   field.selectAll();
-  field.insert(QStringLiteral("too long"));
-  EXPECT_EQ(field.text(), QStringLiteral("éèêë"));
-  field.setText(QStringLiteral("from a file"));
+  field.insert(u"too long"_s);
+  EXPECT_EQ(field.text(), u"éèêë"_s);
+  field.setText(u"from a file"_s);
   QTest::keyClick(&field, Qt::Key_Backspace);
-  EXPECT_EQ(field.text(), QStringLiteral("from a fil")) << "a longer one can be shortened";
+  EXPECT_EQ(field.text(), u"from a fil"_s) << "a longer one can be shortened";
 }
 
 TEST(Mnemonics, GiveEachCaptionALetterOfItsOwn) {
-  const QStringList captions = {QStringLiteral("Save"),         QStringLiteral("Select a Color"),
-                                QStringLiteral("Sac"),          QStringLiteral("Éa"),
-                                QStringLiteral("Live&&Keypad"), QString()};
-  const std::vector<qsizetype> places = mnemonicPlaces(captions);
-  EXPECT_EQ(places, (std::vector<qsizetype>{0, 1, 2, 1, 0, -1}));
+  const QStringList captions = {u"Save"_s, u"Select a Color"_s, u"Sac"_s,
+                                u"Éa"_s,   u"Live&&Keypad"_s,   QString()};
+  EXPECT_EQ(mnemonicPlaces(captions), (std::vector<qsizetype>{0, 1, 2, 1, 0, -1}));
 }
 
 TEST(Mnemonics, ReachButtonsAndFieldsInBothLanguages) {
@@ -68,9 +65,8 @@ TEST(Mnemonics, ReachButtonsAndFieldsInBothLanguages) {
   setTextNumber(*label, Text::Level);
   auto* field = new QLineEdit(&window);
   label->setBuddy(field);
-  layout->addWidget(save, 0, 0);
-  layout->addWidget(label, 1, 0);
-  layout->addWidget(field, 2, 0);
+  for (QWidget* widget : std::initializer_list<QWidget*>{save, label, field})
+    layout->addWidget(widget);
   for (const Language language : {Language::English, Language::French}) {
     texts.setLanguage(language);
     relabel(window, texts);

@@ -12,6 +12,8 @@
 namespace hooptab {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 // Relative luminance and contrast as WCAG 2 defines them, written out once more to check the program by.
 double luminance(const QColor& colour) {
   const auto linear = [](double channel) {
@@ -61,6 +63,7 @@ TEST_P(ThemeTest, IsReadableWhereverTextStands) {
     reads(line, look.surface, kRecognisable);
   reads(look.edge, look.raised, kRecognisable); // of what is disabled
   reads(kMadeMark, kMadeRing, kRecognisable);
+  reads(kMadeMark, kMissedMark, 2.5); // on the court, where only the shape helps besides
   reads(kMissedMark, GetParam() == ColourScheme::Light ? QColor(Qt::white) : look.desk, kRecognisable);
   const QPalette palette = QApplication::palette();
   EXPECT_EQ(palette.color(QPalette::Window), look.desk);
@@ -81,10 +84,6 @@ TEST_P(ThemeTest, ShiftsColoursUntilTheyAreSeen) {
     }
   }
   EXPECT_EQ(lineOn(look.ink, look.surface, kReadable), look.ink) << "what is seen stays as it is";
-}
-
-TEST_P(ThemeTest, TellsMadeFromMissedByLightnessToo) {
-  EXPECT_GE(measured(kMadeMark, kMissedMark), 2.5); // on the court, where only the shape helps besides
 }
 
 TEST_P(ThemeTest, ReachesWindowsThatAreOpen) {
@@ -113,22 +112,18 @@ TEST_P(ThemeTest, ShowsCheckBoxesAndWhetherTheyAreChecked) {
         table.viewport()->grab(table.visualItemRect(table.item(row, 0)).adjusted(1, 1, -1, -1)).toImage();
   const QColor background = QApplication::palette().color(QPalette::Base);
   double strongest = 1;
-  for (int y = 0; y < cells[0].height(); ++y) {
+  for (int y = 0; y < cells[0].height(); ++y)
     for (int x = 0; x < cells[0].width(); ++x)
       strongest = std::max(strongest, measured(cells[0].pixelColor(x, y), background));
-  }
   EXPECT_GE(strongest, 3);
-  EXPECT_NE(cells[0], cells[1]);
-  EXPECT_NE(cells[1], cells[2]);
-  EXPECT_NE(cells[0], cells[2]);
+  EXPECT_TRUE(cells[0] != cells[1] && cells[1] != cells[2] && cells[0] != cells[2]);
 }
 
 // Clock and counts do not move, and the fonts come with the program.
 TEST_P(ThemeTest, HasFiguresOfOneWidth) {
   for (const Type type : {Type::Dense, Type::Body, Type::Count, Type::Clock}) {
     const QFont font = Theme::font(type);
-    EXPECT_TRUE(QFontInfo(font).family().startsWith(QStringLiteral("HOOPTAB")))
-        << QFontInfo(font).family().toStdString();
+    EXPECT_TRUE(QFontInfo(font).family().startsWith(u"HOOPTAB"_s)) << QFontInfo(font).family().toStdString();
     for (char digit = '1'; digit <= '9'; ++digit)
       EXPECT_EQ(QFontMetricsF(font).horizontalAdvance(QLatin1Char(digit)),
                 QFontMetricsF(font).horizontalAdvance(QLatin1Char('0')));
@@ -143,17 +138,11 @@ TEST(Colours, ComeBackAsTheyWereStored) {
 }
 
 TEST(Colours, CarryTheTextThatReadsBetter) {
-  EXPECT_EQ(textOn(Qt::white), QColor(Qt::black));
-  EXPECT_EQ(textOn(Qt::black), QColor(Qt::white));
   EXPECT_EQ(textOn(QColor(255, 255, 0)), QColor(Qt::black));
   EXPECT_EQ(textOn(QColor(0, 0, 255)), QColor(Qt::white));
-  for (int red = 0; red <= 255; red += 17) {
-    for (int green = 0; green <= 255; green += 17) {
-      for (int blue = 0; blue <= 255; blue += 17) {
-        const QColor background(red, green, blue);
-        ASSERT_GE(measured(textOn(background), background), kReadable) << background.name().toStdString();
-      }
-    }
+  for (int step = 0; step < 16 * 16 * 16; ++step) {
+    const QColor background(step / 256 * 17, step / 16 % 16 * 17, step % 16 * 17);
+    ASSERT_GE(measured(textOn(background), background), kReadable) << background.name().toStdString();
   }
 }
 

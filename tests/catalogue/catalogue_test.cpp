@@ -61,7 +61,6 @@ TEST(Catalogue, SaysOfEachFileThatIsLeftOutWhy) {
   const std::string closed = season.folder().write("closed.GAM", "[DETAILS]\nVERSION=2.0\nTERMINE=1\n");
   fs::resize_file(season.folder().write("huge.GAM", "x"), 17 * 1024 * 1024);
   fs::permissions(closed, fs::perms::none);
-
   const GameCatalogue& catalogue = season.scan();
   EXPECT_EQ(season.outcome(), ScanOutcome::Done);
   std::map<std::string, SkipReason> reasons;
@@ -111,16 +110,6 @@ TEST(Catalogue, FoldersThatAreNoneLeaveWhatWasThere) {
   ScanWatch fresh;
   EXPECT_EQ(catalogue.scan({folder.path()}, fresh), ScanOutcome::Done);
   EXPECT_TRUE(catalogue.games().empty());
-}
-
-// Thousands of files of other kinds are passed by unread.
-TEST(Catalogue, OtherFilesAreNeitherReadNorCounted) {
-  SeasonFolder season;
-  for (int i = 0; i < 2000; ++i)
-    season.add("photo" + std::to_string(i) + ".jpg", "");
-  season.addGame("one.GAM", "2026-01-01", kStart);
-  EXPECT_EQ(allNames(season.scan()), (Names{"one.GAM"}));
-  EXPECT_TRUE(season.scan().skipped().empty());
 }
 
 TEST(Catalogue, TwoFilesOfOneGameAreFoundAndCountedOnceOnRequest) {

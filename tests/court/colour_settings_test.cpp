@@ -20,6 +20,7 @@ namespace hooptab {
 namespace {
 
 using Kind = ScriptedDialogs::Kind;
+using Shown = std::vector<ScriptedDialogs::Shown>;
 
 constexpr const char* kOldFile =
     "[CONFIGURATION]\r\nCOULEUR2PTS=1\r\nCOULEURBOX=2\r\nCOULEUR3PTS=3\r\nCOULEURBUT=255\r\n"
@@ -36,26 +37,26 @@ class ColourSettingsTest : public testing::Test {
     window = std::make_unique<frmCOULEURS>(settings, texts, dialogs);
     window->show();
   }
-  void click(const char* name) {
-    auto* button = window->findChild<QPushButton*>(QLatin1String(name));
-    ASSERT_NE(button, nullptr) << name;
-    QTest::mouseClick(button, Qt::LeftButton);
-  }
+  void click(const char* name) { QTest::mouseClick(find<QPushButton>(name), Qt::LeftButton); }
   void choose(const char* button, const QColor& colour) {
     dialogs.nextColour = colour;
     click(button);
   }
   void type(const char* field, const char* text) {
-    auto* edit = window->findChild<QLineEdit*>(QLatin1String(field));
+    auto* edit = find<QLineEdit>(field);
     edit->selectAll();
     for (const QChar letter : QString::fromUtf8(text)) { // QTest types no accents
       QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, letter);
       QCoreApplication::sendEvent(edit, &press);
     }
   }
-  QString shown(const char* field) { return window->findChild<QLineEdit*>(QLatin1String(field))->text(); }
-  QString onButton(const char* name) { return window->findChild<QPushButton*>(QLatin1String(name))->text(); }
-  QString text(int number) { return toQt(texts.text(number)); }
+  template <class Widget>
+  Widget* find(const char* name) {
+    return window->findChild<Widget*>(QLatin1String(name));
+  }
+  QString shown(const char* field) { return find<QLineEdit>(field)->text(); }
+  QString onButton(const char* name) { return find<QPushButton>(name)->text(); }
+  QString text(Text words) { return toQt(texts.text(words)); }
 
   TemporaryFolder folder;
   FaultyFileSystem disk;
@@ -94,7 +95,7 @@ TEST_F(ColourSettingsTest, ALabelIsShownWithoutItsPrefixAndNeverSavedWithoutIt) 
   EXPECT_EQ(shown("txtSTATU1"), QStringLiteral("Charges taken all season")) << "longer than can be typed";
   EXPECT_EQ(shown("txtSTATU2"), QStringLiteral("Deflections"));
   type("txtSTATU1", "");
-  QTest::keyClick(window->findChild<QLineEdit*>(QStringLiteral("txtSTATU1")), Qt::Key_Delete);
+  QTest::keyClick(find<QLineEdit>("txtSTATU1"), Qt::Key_Delete);
   type("txtSTATU2", "123456789 123456789 123");
   click("cmdAPPLIQUER");
   EXPECT_EQ(settings.statisticLabel[0], "U1-");
@@ -107,21 +108,18 @@ TEST_F(ColourSettingsTest, ALabelIsShownWithoutItsPrefixAndNeverSavedWithoutIt) 
 
 TEST_F(ColourSettingsTest, ZonesOfOneColourAreRefusedWholly) {
   const QColor first(1, 0, 0), second(2, 0, 0), third(3, 0, 0);
-  const struct {
-    const char* button;
-    QColor taken, own;
-  } pairs[] = {
-      {"cmdCOULEUR2PTS", second, first}, {"cmdCOULEURBOX", third, second}, {"cmdCOULEUR3PTS", first, third}};
   type("txtSTATU1", "Dives");
-  for (const auto& pair : pairs) {
-    SCOPED_TRACE(pair.button);
+  for (const auto& [button, taken, own] :
+       {std::tuple("cmdCOULEUR2PTS", second, first), std::tuple("cmdCOULEURBOX", third, second),
+        std::tuple("cmdCOULEUR3PTS", first, third)}) {
+    SCOPED_TRACE(button);
     dialogs.shown.clear();
-    choose(pair.button, pair.taken);
+    choose(button, taken);
     click("cmdAPPLIQUER");
-    EXPECT_EQ(dialogs.shown, (std::vector<ScriptedDialogs::Shown>{
-                                 {Kind::Warn, text(Text::WarningTitle), text(Text::ThreeDifferentColours)}}));
+    EXPECT_EQ(dialogs.shown,
+              (Shown{{Kind::Warn, text(Text::WarningTitle), text(Text::ThreeDifferentColours)}}));
     EXPECT_EQ(folder.read("CONFIG.INI"), kOldFile);
-    choose(pair.button, pair.own);
+    choose(button, own);
   }
   dialogs.shown.clear();
   choose("cmdCOULEURBUT", first); // buttons may have the colour of a zone
@@ -141,8 +139,8 @@ TEST_F(ColourSettingsTest, DefaultsComeBackInTheWindowAndLabelsStay) {
 }
 
 TEST_F(ColourSettingsTest, ThePictureFollowsEachChoiceAtOnce) {
-  auto* court = window->findChild<CourtView*>(QStringLiteral("court"));
-  auto* sample = window->findChild<QPushButton*>(QStringLiteral("cmdEXEMPLE"));
+  auto* court = find<CourtView>("court");
+  auto* sample = find<QPushButton>("cmdEXEMPLE");
   const auto holds = [](QWidget* widget, const QColor& colour) {
     const QImage picture = widget->grab().toImage();
     int count = 0;
@@ -168,9 +166,7 @@ TEST_F(ColourSettingsTest, ClosingAsksOnlyAboutChanges) {
   QTest::keyClick(window.get(), Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
   EXPECT_TRUE(dialogs.shown.empty());
-
-  const std::vector<ScriptedDialogs::Shown> question = {
-      {Kind::AskToSave, text(Text::ColourSettings), text(Text::AskToSaveColours)}};
+  const Shown question = {{Kind::AskToSave, text(Text::ColourSettings), text(Text::AskToSaveColours)}};
   start(kOldFile);
   type("txtSTATU1", "Dives");
   dialogs.nextSaveChoice = SaveChoice::Stay;
@@ -184,7 +180,6 @@ TEST_F(ColourSettingsTest, ClosingAsksOnlyAboutChanges) {
   EXPECT_EQ(dialogs.shown, question);
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(folder.read("CONFIG.INI"), kOldFile);
-
   start(kOldFile);
   choose("cmdCOULEURBOX", QColor(1, 0, 0));
   dialogs.nextSaveChoice = SaveChoice::Save;
@@ -201,8 +196,7 @@ TEST_F(ColourSettingsTest, WhatTheDiskDoesNotTakeIsToldAndWrittenLater) {
   QSignalSpy applied(window.get(), &frmCOULEURS::applied);
   click("cmdAPPLIQUER");
   const QString told = toQt(texts.withPlaceholder(Text::NotSaved, folder.path("CONFIG.INI")));
-  EXPECT_EQ(dialogs.shown,
-            (std::vector<ScriptedDialogs::Shown>{{Kind::Warn, text(Text::WarningTitle), told}}));
+  EXPECT_EQ(dialogs.shown, (Shown{{Kind::Warn, text(Text::WarningTitle), told}}));
   EXPECT_EQ(applied.count(), 1);
   EXPECT_EQ(settings.buttonColour, 7U);
   EXPECT_TRUE(window->close()) << "kept, so nothing is lost";

@@ -21,6 +21,12 @@ class CourtViewTest : public testing::Test {
     QTest::mouseMove(&view, QPoint(2, 2)); // a move to where the pointer is already would be none
   }
 
+  static QList<int> placesOf(const QSignalSpy& hovered) {
+    QList<int> places;
+    for (const QList<QVariant>& arguments : hovered)
+      places << arguments[0].toInt();
+    return places;
+  }
   // Where a mark is drawn, read off the picture.
   QPoint drawn(const CourtMark& mark) {
     view.setMarks({}, {});
@@ -64,10 +70,7 @@ TEST_F(CourtViewTest, SaysWhichMarkThePointerIsAtAndWhenItLeaves) {
   QTest::mouseMove(&view, first + QPoint(1, 1)); // still the same: not said again
   QTest::mouseMove(&view, second);
   QTest::mouseMove(&view, QPoint(view.width() - 2, 2));
-  ASSERT_EQ(hovered.count(), 3);
-  EXPECT_EQ(hovered[0][0].toInt(), 0);
-  EXPECT_EQ(hovered[1][0].toInt(), 1);
-  EXPECT_EQ(hovered[2][0].toInt(), -1);
+  EXPECT_EQ(placesOf(hovered), (QList<int>{0, 1, -1}));
 }
 
 TEST_F(CourtViewTest, ForgetsAMarkThatIsTakenAway) {
@@ -79,8 +82,7 @@ TEST_F(CourtViewTest, ForgetsAMarkThatIsTakenAway) {
   view.setMarks(more, toolTips + QStringList(QStringLiteral("fourth")));
   EXPECT_EQ(hovered.count(), 0); // the same shot stands at the same place
   view.setMarks({marks[0]}, {toolTips[0]});
-  ASSERT_EQ(hovered.count(), 1);
-  EXPECT_EQ(hovered[0][0].toInt(), -1);
+  EXPECT_EQ(placesOf(hovered), QList<int>{-1});
 }
 
 TEST_F(CourtViewTest, LetsTheArrowKeysGoThroughTheMarks) {
@@ -88,10 +90,7 @@ TEST_F(CourtViewTest, LetsTheArrowKeysGoThroughTheMarks) {
   QSignalSpy hovered(&view, &CourtView::markHovered);
   for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left})
     QTest::keyClick(&view, key);
-  ASSERT_EQ(hovered.count(), 5);
-  const int expected[] = {0, 1, 2, 0, 2};
-  for (qsizetype i = 0; i < hovered.count(); ++i)
-    EXPECT_EQ(hovered[i][0].toInt(), expected[i]);
+  EXPECT_EQ(placesOf(hovered), (QList<int>{0, 1, 2, 0, 2}));
   EXPECT_EQ(view.accessibleDescription(), QStringLiteral("third"));
   view.setMarks({}, {});
   QTest::keyClick(&view, Qt::Key_Right); // nothing to go to
@@ -99,11 +98,7 @@ TEST_F(CourtViewTest, LetsTheArrowKeysGoThroughTheMarks) {
 }
 
 TEST_F(CourtViewTest, ShowsMarksOrZones) {
-  view.setMarks({}, {});
-  const QImage empty = view.grab().toImage();
-  view.setMarks(marks, toolTips);
   const QImage withMarks = view.grab().toImage();
-  EXPECT_NE(withMarks, empty);
   view.setZones({{court::ChartZone::Top, QStringLiteral("2/5"), QStringLiteral("40.0%"), 1}});
   EXPECT_EQ(view.grab().toImage(), withMarks); // until they are asked for
   const QPoint first = drawn(marks[0]);

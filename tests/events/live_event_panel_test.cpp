@@ -2,32 +2,22 @@
 #include "events/LiveEventDelegate.h"
 #include "events/LiveEventPanel.h"
 
-#include "appearance/relabel.h"
 #include "events/EventRequests.h"
 #include "events/frmEDIT.h"
 #include "events/frmSUBST.h"
+#include "live/LiveRoom.h"
 #include "live/frmLIVE.h"
-#include "recording/LiveGame.h"
-#include "recording/ManualTime.h"
-#include "settings/Settings.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TemporaryFolder.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QElapsedTimer>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QSignalSpy>
 #include <QTableView>
-#include <QTest>
-#include <gtest/gtest.h>
 
 namespace hooptab {
 namespace {
@@ -37,17 +27,20 @@ class UnsyncedFileSystem : public FileSystem {
   int sync(int) override { return 0; }
 };
 
-class LiveEventPanelTest : public testing::Test {
+class LiveEventPanelTest : public LiveRoom<UnsyncedFileSystem> {
  protected:
   void SetUp() override {
     GameDetails details;
-    details.periods = 4;
-    details.minutesPerPeriod = 10;
     details.abbreviation[0] = "LYNX";
     details.abbreviation[1] = "PUMA";
-    const std::vector<RosterPlayer> players = {{"4", 0, "Ann"},  {"5", 1, "Bea"},  {"10", 2, "Cleo"},
-                                               {"12", 2, "Dee"}, {"15", 1, "Eve"}, {"7", 1, "Fay"}};
-    ASSERT_EQ(GameFile(store, path).create(details, players, players), GameFileProblem::None);
+    makeGame(path,
+             {{"4", 0, "Ann"},
+              {"5", 1, "Bea"},
+              {"10", 2, "Cleo"},
+              {"12", 2, "Dee"},
+              {"15", 1, "Eve"},
+              {"7", 1, "Fay"}},
+             details);
     ASSERT_EQ(live.open(path), GameFileProblem::None);
     ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
     live.start();
@@ -63,9 +56,7 @@ class LiveEventPanelTest : public testing::Test {
   }
   template <class Found>
   Found& find(const char* name) {
-    auto* found = panel.findChild<Found*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
+    return LiveRoom::find<Found>(panel, name);
   }
   QTableView& list() { return find<QTableView>("lvwEVENT"); }
   QAction& action(const char* name) { return find<QAction>(name); }
@@ -74,15 +65,9 @@ class LiveEventPanelTest : public testing::Test {
   void select(int row, QItemSelectionModel::SelectionFlags how = QItemSelectionModel::ClearAndSelect) {
     list().selectionModel()->setCurrentIndex(cell(row, 0), how | QItemSelectionModel::Rows);
   }
-  static constexpr unsigned kFive = 0b111110; // entries 1 to 5
 
-  TemporaryFolder folder;
-  UnsyncedFileSystem disk;
-  cinifile store{disk};
-  ManualTime time;
   std::string path = folder.path("live.GAM");
   LiveGame live{store, time};
-  Texts texts;
   LiveEventPanel panel{texts};
 };
 
@@ -94,9 +79,10 @@ TEST_F(LiveEventPanelTest, ShowsTheNewestFirstAndWhatBelongsTogether) {
   EXPECT_EQ(words(2), "LYNX 4 ● left layup");
   EXPECT_EQ(cell(2, EventListModel::Score).data().toString(), QStringLiteral("2-0"));
   EXPECT_EQ(words(4), "LYNX: in 4, 5, 10, 12, 15 - PUMA: in 4, 5, 10, 12, 15");
-  EXPECT_TRUE(
-      cell(2, EventListModel::Action).data(Qt::ToolTipRole).toString().contains(QLatin1String("Ann")));
-
+  const auto tip = [this](int row) {
+    return fromQt(cell(row, EventListModel::Action).data(Qt::ToolTipRole).toString());
+  };
+  EXPECT_NE(tip(2).find("Ann"), std::string::npos);
   live.recordShot(1, 1, EventCode::GFT, false);
   panel.showGame(live);
   EXPECT_EQ(words(0), "PUMA 4 ✕ free throw");
@@ -113,8 +99,7 @@ TEST_F(LiveEventPanelTest, ShowsTheNewestFirstAndWhatBelongsTogether) {
   EXPECT_EQ(checks.text(), QStringLiteral("⚠ 1"));
   checks.click();
   EXPECT_EQ(list().currentIndex().row(), 2);
-  EXPECT_TRUE(
-      cell(2, EventListModel::Action).data(Qt::ToolTipRole).toString().contains(QLatin1String("LYNX 5 Bea")));
+  EXPECT_NE(tip(2).find("LYNX 5 Bea"), std::string::npos);
   live.undo();
   panel.showGame(live);
   EXPECT_FALSE(checks.isEnabled());
@@ -137,7 +122,6 @@ TEST_F(LiveEventPanelTest, TakesAGameThatHasBecomeShorter) {
   EXPECT_EQ(words(0), "PUMA 10: personal foul");
 }
 
-// The same events once more, for a second screen.
 TEST_F(LiveEventPanelTest, StandsInAWindowOfItsOwnThatTakesNoKeys) {
   QSignalSpy corrections(&panel, &LiveEventPanel::correctionAsked);
   action("cmdDETACH").trigger();
@@ -162,7 +146,6 @@ TEST_F(LiveEventPanelTest, StandsInAWindowOfItsOwnThatTakesNoKeys) {
   const QPoint row = second.visualRect(cell(0, EventListModel::Action)).center();
   QTest::mouseDClick(second.viewport(), Qt::LeftButton, {}, row);
   EXPECT_EQ(corrections.count(), 1);
-
   window.move(30, 40);
   const QByteArray place = panel.windowPlace();
   action("cmdDETACH").trigger();
@@ -182,7 +165,6 @@ TEST_F(LiveEventPanelTest, AsksForWhatIsToBeDone) {
   action("cmdDELETE").trigger();
   ASSERT_EQ(deletions.count(), 1);
   EXPECT_EQ(places(0), (std::vector<EventPlace>{{1, "6"}}));
-
   select(2); // a shot with its assist
   action("cmdDELETE").trigger();
   ASSERT_EQ(deletions.count(), 1) << "asks first";
@@ -194,7 +176,6 @@ TEST_F(LiveEventPanelTest, AsksForWhatIsToBeDone) {
   select(1, QItemSelectionModel::Select);
   action("cmdDELETE").trigger();
   ASSERT_EQ(deletions.count(), 3) << "both are selected";
-
   select(4); // the last stop while the clock runs may go, for a start is behind it
   EXPECT_TRUE(action("cmdDELETE").isEnabled());
   EXPECT_FALSE(action("cmdUNDELETE").isEnabled());
@@ -223,8 +204,7 @@ TEST_F(LiveEventPanelTest, TheSelectionStaysWithItsEventUntilItIsTakenBack) {
   ASSERT_TRUE(live.undo()); // the foul
   panel.showGame(live);
   panel.leaveDeleted();
-  EXPECT_FALSE(list().selectionModel()->hasSelection());
-  EXPECT_FALSE(action("cmdDELETE").isEnabled());
+  EXPECT_FALSE(list().selectionModel()->hasSelection() || action("cmdDELETE").isEnabled());
 }
 
 TEST_F(LiveEventPanelTest, LeadsToWhatMendsAFinding) {
@@ -248,7 +228,6 @@ TEST_F(LiveEventPanelTest, LeadsToWhatMendsAFinding) {
   menu->actions()[2]->trigger();
   EXPECT_EQ(edits.count(), 1);
   EXPECT_EQ(menu->actions().back()->text(), QStringLiteral("Next to Check"));
-
   // Any other key closes it and does what it does without a menu.
   int pressed = 0;
   auto* shortcut = new QShortcut(Qt::Key_Space, &panel);
@@ -258,7 +237,6 @@ TEST_F(LiveEventPanelTest, LeadsToWhatMendsAFinding) {
   EXPECT_FALSE(menu->isVisible());
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_EQ(asked.size() + static_cast<std::size_t>(edits.count()), 2U);
-
   const QRect row = list().visualRect(cell(0, EventListModel::Action));
   QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, {row.left() + 60, row.center().y()});
   EXPECT_EQ(panel.findChild<QMenu*>(QStringLiteral("mnuREPAIR")), nullptr) << "beside the mark";
@@ -270,40 +248,34 @@ TEST_F(LiveEventPanelTest, LeadsToWhatMendsAFinding) {
 
 TEST_F(LiveEventPanelTest, AForgottenSubstitutionIsChosenAtItsPlace) {
   QWidget window;
-  const Settings settings(store, folder.path(""));
-  ScriptedDialogs dialogs;
   const EventRequests requests(live, panel, settings, texts, dialogs, window);
   const auto dialog = [&window]() -> frmSUBST& { return *window.findChild<frmSUBST*>(); };
-  const auto press = [](QWidget& in, const char* name) {
-    QTest::mouseClick(in.findChild<QAbstractButton*>(QLatin1String(name)), Qt::LeftButton);
+  const auto press = [&](const char* name) {
+    QTest::mouseClick(&LiveRoom::find(dialog(), name), Qt::LeftButton);
   };
   live.setOnCourt({kFive, 0b1111100}); // PUMA 7 for 4 at 9:50
   panel.showGame(live);
   emit panel.substitutionAsked({PastSubstitution::What::InsertBefore, {1, "4"}}, 1, 6);
-  auto* conflict = dialog().findChild<QLabel*>(QStringLiteral("lblCONFLICT"));
-  auto* accept = dialog().findChild<QPushButton*>(QStringLiteral("cmdOK"));
-  EXPECT_EQ(dialog().findChild<QLabel*>(QStringLiteral("lblPLACE"))->text(),
-            QStringLiteral("Substitution at 09:50 (Period 1)"));
-  EXPECT_FALSE(accept->isEnabled()) << "six";
-  press(dialog(), "cmdJERSEY(16)"); // PUMA 5 leaves: 7 would come twice
-  EXPECT_EQ(conflict->text(), QStringLiteral("09:50 (Period 1): 7 of PUMA would come in or leave twice"));
-  EXPECT_FALSE(accept->isEnabled());
-  press(dialog(), "cmdJERSEY(16)");
-  press(dialog(), "cmdJERSEY(15)"); // for 4, as it was to be
-  EXPECT_TRUE(conflict->text().isEmpty());
-  press(dialog(), "cmdOK");
+  const auto& accept = LiveRoom::find<QPushButton>(dialog(), "cmdOK");
+  EXPECT_EQ(textOf(dialog(), "lblPLACE"), "Substitution at 09:50 (Period 1)");
+  EXPECT_FALSE(accept.isEnabled()) << "six";
+  press("cmdJERSEY(16)"); // PUMA 5 leaves: 7 would come twice
+  EXPECT_EQ(textOf(dialog(), "lblCONFLICT"), "09:50 (Period 1): 7 of PUMA would come in or leave twice");
+  EXPECT_FALSE(accept.isEnabled());
+  press("cmdJERSEY(16)");
+  press("cmdJERSEY(15)"); // for 4, as it was to be
+  EXPECT_EQ(textOf(dialog(), "lblCONFLICT"), "");
+  press("cmdOK");
   EXPECT_EQ(*findLine(live.log().lines(), 1, "9"), "09:50,ARRET,IN-04-05-10-12-15,IN-05-07-10-12-15");
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-
   emit panel.editAsked({1, "9"}); // others
-  EXPECT_FALSE(dialog().findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled()) << "as it stands";
-  press(dialog(), "cmdJERSEY(0)");
-  press(dialog(), "cmdJERSEY(5)"); // LYNX 7 for 4
-  press(dialog(), "cmdOK");
+  EXPECT_FALSE(LiveRoom::find<QPushButton>(dialog(), "cmdOK").isEnabled()) << "as it stands";
+  press("cmdJERSEY(0)");
+  press("cmdJERSEY(5)"); // LYNX 7 for 4
+  press("cmdOK");
   EXPECT_EQ(live.onCourt(), (OnCourt{0b1111100, 0b1111100}));
   EXPECT_TRUE(dialogs.shown.empty());
-  EXPECT_TRUE(live.undo());
-  EXPECT_TRUE(live.undo());
+  EXPECT_TRUE(live.undo() && live.undo());
   EXPECT_EQ(live.onCourt(), (OnCourt{kFive, 0b1111100}));
 }
 
@@ -324,7 +296,6 @@ TEST_F(LiveEventPanelTest, FiltersAndKeepsItsPlace) {
   EXPECT_EQ(words(list().currentIndex().row()), "LYNX 4 ● left layup") << "shown again";
   action("cmdFILTER").setChecked(false);
   EXPECT_EQ(list().model()->rowCount(), 8);
-
   for (int event = 0; event < 60; ++event)
     live.recordAction(0, 1, EventCode::STO);
   panel.showGame(live);
@@ -335,33 +306,28 @@ TEST_F(LiveEventPanelTest, FiltersAndKeepsItsPlace) {
   const int value = list().verticalScrollBar()->value();
   live.recordAction(1, 1, EventCode::SBS);
   panel.showGame(live);
-  EXPECT_EQ(list().verticalScrollBar()->value(), value + list().rowHeight(0))
-      << "who reads stays where he reads";
+  EXPECT_EQ(list().verticalScrollBar()->value(), value + list().rowHeight(0));
   EXPECT_EQ(words(list().indexAt({0, 0}).row()), top);
 }
 
 TEST_F(LiveEventPanelTest, TheEditingPanelChangesWhatItShows) {
   live.recordShot(1, 2, EventCode::GF3, false, {{10, 20}});
-  Settings settings(store, folder.path(""));
-  settings.twoPointColour = kFirstColours.twoPoints;
-  settings.boxColour = kFirstColours.box;
-  settings.threePointColour = kFirstColours.threePoints;
   frmEDIT shot(live, {1, "7"}, frmEDIT::Purpose::Change, settings, texts);
   EXPECT_EQ(shot.clockSeconds(), 590);
-  auto& made = *shot.findChild<QCheckBox*>(QStringLiteral("chkMADE"));
+  auto& made = LiveRoom::find<QCheckBox>(shot, "chkMADE");
   EXPECT_FALSE(made.isChecked());
   made.setChecked(true);
-  auto& clock = *shot.findChild<QLineEdit*>(QStringLiteral("txtTEMPS"));
+  auto& clock = LiveRoom::find<QLineEdit>(shot, "txtTEMPS");
+  const auto& accept = LiveRoom::find<QPushButton>(shot, "cmdOK");
   clock.setText(QStringLiteral("9:"));
-  EXPECT_FALSE(shot.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled());
+  EXPECT_FALSE(accept.isEnabled());
   QTest::keyClicks(&clock, QStringLiteral("51"));
   EXPECT_EQ(shot.clockSeconds(), 591) << "as one types a clock, without the leading nought";
   clock.clear();
   QTest::keyClicks(&clock, QStringLiteral("9x51"));
   EXPECT_EQ(shot.clockSeconds(), 591) << "nor the colon";
-  EXPECT_TRUE(shot.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled());
-  shot.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&shot));
+  EXPECT_TRUE(accept.isEnabled());
+  showActive(shot);
   QSignalSpy asked(&shot, &frmEDIT::clockAsked);
   clock.setFocus();
   QTest::keyClick(&clock, Qt::Key_Space);
@@ -370,33 +336,30 @@ TEST_F(LiveEventPanelTest, TheEditingPanelChangesWhatItShows) {
   ASSERT_TRUE(shot.counted());
   ASSERT_TRUE(live.editEvent({1, "7"}, shot.clockSeconds(), *shot.counted()));
   EXPECT_EQ(*findLine(live.log().lines(), 1, "7"), "09:51,GF3,1-5,10,20");
-  const auto press = [&shot](const char* name, Qt::MouseButton button) {
-    QTest::mouseClick(shot.findChild<QWidget*>(QLatin1String(name)), button);
-  };
-  const auto* xy = shot.findChild<QLabel*>(QStringLiteral("lblxy"));
-  auto* kinds = shot.findChild<QComboBox*>(QStringLiteral("cmbKIND"));
-  EXPECT_TRUE(xy->text().contains(QLatin1String("other zone")));
-  kinds->setCurrentIndex(kinds->findData(static_cast<int>(EventCode::GFG)));
-  EXPECT_EQ(xy->text(), QStringLiteral("10, 20"));
-  press("cmdBUTFT(10)", Qt::RightButton);
+  auto& kinds = LiveRoom::find<QComboBox>(shot, "cmbKIND");
+  EXPECT_NE(textOf(shot, "lblxy").find("other zone"), std::string::npos);
+  kinds.setCurrentIndex(kinds.findData(static_cast<int>(EventCode::GFG)));
+  EXPECT_EQ(textOf(shot, "lblxy"), "10, 20");
+  QTest::mouseClick(&LiveRoom::find(shot, "cmdBUTFT(10)"), Qt::RightButton);
   EXPECT_EQ(shot.counted()->kind, EventCode::GFT);
   EXPECT_FALSE(shot.counted()->isMade);
-  EXPECT_TRUE(xy->text().isEmpty());
-  press("cmdBUTORB(10)", Qt::LeftButton);
+  EXPECT_EQ(textOf(shot, "lblxy"), "");
+  QTest::mouseClick(&LiveRoom::find(shot, "cmdBUTORB(10)"), Qt::LeftButton);
   EXPECT_EQ(shot.counted()->kind, EventCode::SOR);
   EXPECT_EQ(live.game().events.size(), 7U) << "nothing is recorded";
   frmEDIT stop(live, {1, "2"}, frmEDIT::Purpose::Change, settings, texts);
   EXPECT_FALSE(stop.counted()) << "its time alone";
+}
 
-  // Nobody is put in unseen, and what is pressed is shown before somebody is named.
-  frmEDIT fresh(live, {1, "7"}, frmEDIT::Purpose::Insert, settings, texts);
-  const auto* accept = fresh.findChild<QPushButton*>(QStringLiteral("cmdOK"));
-  EXPECT_FALSE(accept->isEnabled());
-  QTest::mouseClick(fresh.findChild<QWidget*>(QStringLiteral("cmdBUTDK(10)")), Qt::LeftButton);
-  EXPECT_FALSE(fresh.findChild<QLabel*>(QStringLiteral("lbleditshot"))->text().isEmpty());
-  EXPECT_FALSE(accept->isEnabled());
-  fresh.findChild<QComboBox*>(QStringLiteral("cmbPLAYER"))->setCurrentIndex(0);
-  EXPECT_TRUE(accept->isEnabled());
+TEST_F(LiveEventPanelTest, ANewEventIsOfNobodyUntilSomebodyIsNamed) {
+  frmEDIT fresh(live, {1, "6"}, frmEDIT::Purpose::Insert, settings, texts);
+  const auto& accept = LiveRoom::find<QPushButton>(fresh, "cmdOK");
+  EXPECT_FALSE(accept.isEnabled());
+  QTest::mouseClick(&LiveRoom::find(fresh, "cmdBUTDK(10)"), Qt::LeftButton);
+  EXPECT_NE(textOf(fresh, "lbleditshot"), "");
+  EXPECT_FALSE(accept.isEnabled());
+  LiveRoom::find<QComboBox>(fresh, "cmbPLAYER").setCurrentIndex(0);
+  EXPECT_TRUE(accept.isEnabled());
   EXPECT_EQ(fresh.counted()->kind, EventCode::GDK);
 }
 
@@ -414,19 +377,15 @@ TEST_F(LiveEventPanelTest, KeepsWhatCannotBeUnderstood) {
 }
 
 TEST_F(LiveEventPanelTest, IsUndoneByKeyInTheWindow) {
-  Settings settings(store, folder.path(""));
-  ScriptedDialogs dialogs;
   frmLIVE window(store, settings, texts, dialogs, time);
   ASSERT_EQ(window.open(toQt(path)), frmLIVE::Opening::Opened);
-  window.show();
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  showActive(window);
   const auto event = [&] {
     Game game;
     EXPECT_EQ(GameFile(store, path).read(game), GameFileProblem::None);
     return std::string(game.events[5].line);
   };
-  auto* events = window.findChild<QTableView*>(QStringLiteral("lvwEVENT"));
+  auto* events = &LiveRoom::find<QTableView>(window, "lvwEVENT");
   events->setFocus();
   events->selectRow(0);
   QTest::keyClick(events, Qt::Key_Delete);

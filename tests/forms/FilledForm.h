@@ -32,24 +32,15 @@ class FilledForm {
 
   // The first cells of a row; of shots by the made counter.
   void tick(int player, FormCell::Kind kind, Counter counter, int count, const QColor& pen = Qt::black) {
-    for (const FormCell& cell : m_layout.cells()) {
-      if (cell.player == player && cell.kind == kind && cell.counter == counter && cell.number < count)
-        cross(cell.rect, pen);
-    }
+    for (int number = 0; number < count; ++number)
+      cross({{}, kind, player, counter, 0, number}, pen);
   }
   void tickDigit(int player, int place, int digit) {
-    for (const FormCell& cell : m_layout.cells()) {
-      if (cell.player == player && cell.kind == FormCell::Kind::JerseyDigit && cell.place == place &&
-          cell.number == digit)
-        cross(cell.rect, Qt::black);
-    }
+    cross({{}, FormCell::Kind::JerseyDigit, player, Counter::FGM, place, digit}, Qt::black);
   }
-  // A cross much fainter than those of the black pen: nobody can be sure of it.
+  // Much fainter than the crosses of the black pen: nobody can be sure of it.
   void hint(int player, FormCell::Kind kind, Counter counter, int number) {
-    for (const FormCell& cell : m_layout.cells()) {
-      if (cell.player == player && cell.kind == kind && cell.counter == counter && cell.number == number)
-        cross(cell.rect, QColor(0x98, 0x98, 0x98));
-    }
+    cross({{}, kind, player, counter, 0, number}, QColor(0x98, 0x98, 0x98));
   }
 
   const QImage& picture() const { return m_picture; }
@@ -64,12 +55,18 @@ class FilledForm {
     return {m_picture.width() / 2.0 + (x - FormLayout::kWidth / 2) * kPixels,
             m_picture.height() / 2.0 + (y - FormLayout::kHeight / 2) * kPixels};
   }
-  void cross(const FormRect& rect, const QColor& colour) {
+  void cross(const FormCell& wanted, const QColor& colour) {
     QPainter painter(&m_picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour, 5));
-    painter.drawLine(at(rect.x + 0.4, rect.y + 0.4), at(rect.right() - 0.4, rect.bottom() - 0.4));
-    painter.drawLine(at(rect.right() - 0.4, rect.y + 0.4), at(rect.x + 0.4, rect.bottom() - 0.4));
+    for (const FormCell& cell : m_layout.cells()) {
+      const FormRect& rect = cell.rect;
+      if (cell.player != wanted.player || cell.kind != wanted.kind || cell.counter != wanted.counter ||
+          cell.number != wanted.number || cell.place != wanted.place)
+        continue;
+      painter.drawLine(at(rect.x + 0.4, rect.y + 0.4), at(rect.right() - 0.4, rect.bottom() - 0.4));
+      painter.drawLine(at(rect.right() - 0.4, rect.y + 0.4), at(rect.x + 0.4, rect.bottom() - 0.4));
+    }
   }
 
   FormLayout m_layout;

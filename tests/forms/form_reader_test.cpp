@@ -1,15 +1,132 @@
 // The reader of scanned forms: pages turned, moved and stretched, hands of all kinds, and what is no form.
 #include "forms/FormReader.h"
 
-#include "forms/DrawnForm.h"
 #include "forms/PictureSums.h"
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
+#include <numbers>
 #include <random>
 
 namespace hooptab {
 namespace {
+
+// Only what a test asks for is wrong with pictures of this scanner.
+struct IdealScan {
+  double dots = 300;             // per inch
+  double turn = 0;               // degrees, clockwise
+  double shiftX = 0, shiftY = 0; // millimetres
+  double stretchX = 1, stretchY = 1;
+  double perspective = 0; // how much smaller the right edge is
+  int lightest = 255, darkest = 0;
+  double paperWidth = 210, paperHeight = 297;
+};
+
+// A clean form, drawn without fonts.
+class DrawnForm {
+ public:
+  explicit DrawnForm(const FormIdentifier& identifier) {
+    m_paper.width = static_cast<int>(kPaperWidth * kDots);
+    m_paper.height = static_cast<int>(kPaperHeight * kDots);
+    m_paper.pixels.assign(static_cast<std::size_t>(m_paper.width) * static_cast<std::size_t>(m_paper.height),
+                          255);
+    for (const FormRect& mark : m_layout.marks())
+      fill(mark, 0);
+    fill(m_layout.markHole(), 255);
+    const auto bits = identifier.bits();
+    for (std::size_t bit = 0; bit < bits.size(); ++bit) {
+      frame(m_layout.identifier()[bit], 0.25, 0);
+      if (bits[bit])
+        fill(m_layout.identifier()[bit], 0);
+    }
+    for (int player = 0; player < FormLayout::kPlayers; ++player)
+      frame(m_layout.block(player), 0.5, 0);
+    for (const FormCell& cell : m_layout.cells())
+      frame(cell.rect, 0.25, 0x80);
+    for (const FormLabel& label : m_layout.labels()) // words
+      fill({label.rect.x + 1, label.rect.y + 1, label.rect.width - 2, 0.4}, 0);
+  }
+
+  [[nodiscard]] const FormLayout& layout() const { return m_layout; }
+
+  void fill(const FormRect& rect, int shade) {
+    for (int y = pixel(rect.y); y < pixel(rect.bottom()); ++y) {
+      for (int x = pixel(rect.x); x < pixel(rect.right()); ++x)
+        set(x, y, shade);
+    }
+  }
+  // A stroke of a pen with a round point.
+  void stroke(double x0, double y0, double x1, double y1, double width, int shade) {
+    const double length = std::max(1e-9, std::hypot(x1 - x0, y1 - y0));
+    for (int y = pixel(std::min(y0, y1) - width); y <= pixel(std::max(y0, y1) + width); ++y) {
+      for (int x = pixel(std::min(x0, x1) - width); x <= pixel(std::max(x0, x1) + width); ++x) {
+        const double dx = (x + 0.5) / kDots - x0;
+        const double dy = (y + 0.5) / kDots - y0;
+        const double along = std::clamp((dx * (x1 - x0) + dy * (y1 - y0)) / length, 0.0, length);
+        if (std::hypot(dx - along * (x1 - x0) / length, dy - along * (y1 - y0) / length) <= width / 2)
+          set(x, y, shade);
+      }
+    }
+  }
+  void frame(const FormRect& rect, double line, int shade) {
+    const double half = line / 2;
+    fill({rect.x - half, rect.y - half, rect.width + line, line}, shade);
+    fill({rect.x - half, rect.bottom() - half, rect.width + line, line}, shade);
+    fill({rect.x - half, rect.y - half, line, rect.height + line}, shade);
+    fill({rect.right() - half, rect.y - half, line, rect.height + line}, shade);
+  }
+
+  [[nodiscard]] GrayPicture scanned(const IdealScan& scan = {}) const {
+    const double dots = scan.dots / 25.4;
+    GrayPicture result;
+    result.width = static_cast<int>(scan.paperWidth * dots);
+    result.height = static_cast<int>(scan.paperHeight * dots);
+    result.pixels.reserve(static_cast<std::size_t>(result.width) * static_cast<std::size_t>(result.height));
+    const double turn = scan.turn * std::numbers::pi / 180;
+    const double across = std::cos(turn) * kDots;
+    const double down = std::sin(turn) * kDots;
+    for (int y = 0; y < result.height; ++y) {
+      for (int x = 0; x < result.width; ++x) {
+        int sum = 0;
+        for (const double part : {0.25, 0.75}) {
+          // Back from the picture to the paper's middle.
+          const double u0 = (x + part) / dots - scan.paperWidth / 2 - scan.shiftX;
+          const double depth = 1 - scan.perspective * u0 / scan.paperWidth;
+          const double u = u0 / (depth * scan.stretchX);
+          const double v = ((y + part) / dots - scan.paperHeight / 2 - scan.shiftY) / (depth * scan.stretchY);
+          sum += shade(static_cast<int>(u * across + v * down + kPaperWidth * kDots / 2),
+                       static_cast<int>(v * across - u * down + kPaperHeight * kDots / 2));
+        }
+        result.pixels.push_back(
+            static_cast<std::uint8_t>(scan.darkest + (scan.lightest - scan.darkest) * sum / 2 / 255));
+      }
+    }
+    return result;
+  }
+
+ private:
+  static constexpr double kDots = 16; // on a millimetre
+  static constexpr double kPaperWidth = 230;
+  static constexpr double kPaperHeight = 310;
+
+  static int pixel(double millimetres) { return static_cast<int>(std::floor(millimetres * kDots + 0.5)); }
+  // The form's own area stands in the middle of the paper.
+  void set(int x, int y, int shade) {
+    x += pixel((kPaperWidth - FormLayout::kWidth) / 2);
+    y += pixel((kPaperHeight - FormLayout::kHeight) / 2);
+    if (x >= 0 && y >= 0 && x < m_paper.width && y < m_paper.height)
+      m_paper.pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_paper.width) +
+                     static_cast<std::size_t>(x)] = static_cast<std::uint8_t>(shade);
+  }
+  [[nodiscard]] int shade(int x, int y) const {
+    return x < 0 || y < 0 || x >= m_paper.width || y >= m_paper.height ? 255 : m_paper.at(x, y);
+  }
+
+  FormLayout m_layout;
+  GrayPicture m_paper;
+};
 
 const FormIdentifier kSheet{1, false, 77};
 const IdealScan kQuick{.dots = 200};
@@ -112,8 +229,7 @@ TEST(FormReader, ReadsAPageHoweverItLay) {
       {.dots = 200, .lightest = 145, .darkest = 105},
       {.dots = 200, .turn = 180, .shiftX = 4},
       {.dots = 200, .turn = 92, .paperWidth = 297, .paperHeight = 210},
-      {.dots = 200, .turn = -90, .perspective = 0.03, .paperWidth = 310, .paperHeight = 230},
-  };
+      {.dots = 200, .turn = -90, .perspective = 0.03, .paperWidth = 310, .paperHeight = 230}};
   for (const IdealScan& scan : scans) {
     SCOPED_TRACE(&scan - scans);
     const GrayPicture picture = page.form.scanned(scan);
@@ -128,29 +244,17 @@ TEST(FormReader, ReadsAPageHoweverItLay) {
                         std::clamp(static_cast<int>(at.y), 0, upright.height - 1)) <
              (scan.lightest + scan.darkest) / 2;
     };
-    EXPECT_TRUE(isDark(5.8, 5.8));
-    EXPECT_FALSE(isDark(3.5, 3.5));
-    EXPECT_TRUE(isDark(187, 253));
-    EXPECT_FALSE(isDark(184, 253));
-    EXPECT_TRUE(isDark(96, FormLayout().block(2).y));
+    EXPECT_TRUE(isDark(5.8, 5.8) && isDark(187, 253) && isDark(96, FormLayout().block(2).y));
+    EXPECT_FALSE(isDark(3.5, 3.5) || isDark(184, 253));
   }
 }
 
 TEST(FormReader, KnowsEveryHand) {
-  const std::pair<const char*, Hand> hands[] = {
-      {"cross, pen", cross(0x10)},
-      {"cross, pencil", cross(0x90)},
-      {"stroke, pen", stroke(0x30)},
-      {"stroke, pencil", stroke(0x80)},
-      {"check mark, felt", checkMark(0)},
-      {"check mark, pencil", checkMark(0x80)},
-      {"dot, pen", dot(0x20)},
-      {"dot, pencil", dot(0x90)},
-      {"half filled", filled(0x70, 1.7)},
-      {"filled", filled(0)},
-  };
-  for (const auto& [name, hand] : hands) {
-    SCOPED_TRACE(name);
+  // With pens, pencils and a felt pen.
+  const Hand hands[] = {cross(0x10),     cross(0x90), stroke(0x30), stroke(0x80),      checkMark(0),
+                        checkMark(0x80), dot(0x20),   dot(0x90),    filled(0x70, 1.7), filled(0)};
+  for (const Hand& hand : hands) {
+    SCOPED_TRACE(&hand - hands);
     FilledForm page;
     page.tick(hand, 10);
     // Rubbed out again, and dirt.
@@ -175,32 +279,17 @@ TEST(FormReader, SaysWhereItIsNotSure) {
   FilledForm two;
   two.tick(cross(0), 12);
   two.tick(stroke(0x90), 60, 2);
-  const auto faults = two.faults(readOf(two.form));
-  EXPECT_EQ(faults.sure, 0);
-
+  EXPECT_EQ(two.faults(readOf(two.form)).sure, 0);
   // Neither a tick nor none.
   FilledForm page;
   page.tick(cross(0x10), 12);
   const std::size_t cell = static_cast<std::size_t>(
       std::find(page.truth.begin() + 40, page.truth.end(), false) - page.truth.begin());
   page.touch(cell, dot(0x98));
-  FormReading reading = readOf(page.form);
+  const FormReading reading = readOf(page.form);
   ASSERT_EQ(reading.problem, ScanProblem::None);
   EXPECT_TRUE(reading.cells[cell].isDoubtful);
   EXPECT_EQ(page.faults(reading).doubtful, 1);
-}
-
-// Marks in order, so many in each second row, but for the cells that a test keeps.
-void fillRows(FilledForm& page, const Hand& hand, std::size_t count) {
-  const std::span<const FormCell> cells = page.form.layout().cells();
-  for (std::size_t cell = 0; cell < cells.size(); ++cell) {
-    const auto row = static_cast<int>(cells[cell].rect.y);
-    if (cells[cell].kind == FormCell::Kind::JerseyDigit || row % 2 != 0 ||
-        cells[cell].number >= static_cast<int>(count))
-      continue;
-    page.truth[cell] = true;
-    page.touch(cell, hand);
-  }
 }
 
 TEST(FormReader, ReadsALightPencilOrSaysThatItCannot) {
@@ -208,7 +297,13 @@ TEST(FormReader, ReadsALightPencilOrSaysThatItCannot) {
   for (const int shade : {0xA8, 0xC4, 0xD4, 0xE8}) {
     SCOPED_TRACE(shade);
     FilledForm page;
-    fillRows(page, stroke(shade), 5);
+    for (std::size_t cell = 0; cell < page.truth.size(); ++cell) { // five marks in each second row
+      const FormCell& at = page.form.layout().cells()[cell];
+      if (at.kind == FormCell::Kind::JerseyDigit || static_cast<int>(at.rect.y) % 2 != 0 || at.number >= 5)
+        continue;
+      page.truth[cell] = true;
+      page.touch(cell, stroke(shade));
+    }
     GrayPicture picture = page.form.scanned(kQuick);
     for (std::size_t at = 0; at < picture.pixels.size(); ++at) { // tinted paper under a lamp, and noise
       const double light = 0.75 + 0.2 * static_cast<double>(at) / static_cast<double>(picture.pixels.size());
@@ -229,13 +324,10 @@ TEST(FormReader, DoubtsWhatIsNotInOrder) {
   FilledForm page;
   const auto row = [&](Counter counter) { // of the third player
     const auto cells = page.form.layout().cells();
-    return static_cast<std::size_t>(std::ranges::find_if(cells,
-                                                         [counter](const FormCell& cell) {
-                                                           return cell.player == 2 &&
-                                                                  cell.counter == counter &&
-                                                                  cell.kind == FormCell::Kind::Count;
-                                                         }) -
-                                    cells.begin());
+    const auto isFirst = [counter](const FormCell& cell) {
+      return cell.player == 2 && cell.counter == counter && cell.kind == FormCell::Kind::Count;
+    };
+    return static_cast<std::size_t>(std::ranges::find_if(cells, isFirst) - cells.begin());
   };
   for (const std::size_t number : {0U, 1U, 2U, 4U, 5U})
     page.touch(row(Counter::PF) + number, cross(0x40));
@@ -247,8 +339,8 @@ TEST(FormReader, DoubtsWhatIsNotInOrder) {
     if (reading.cells[cell].isDoubtful)
       doubtful.push_back(cell);
   }
-  EXPECT_EQ(doubtful, (std::vector{row(Counter::PF) + 3, row(Counter::TF) + 9}))
-      << "the hole, and one mark far from the left";
+  // The hole, and one mark far from the left.
+  EXPECT_EQ(doubtful, (std::vector{row(Counter::PF) + 3, row(Counter::TF) + 9}));
 }
 
 TEST(FormReader, NeedsNoCertainNumberOfTicks) {
@@ -259,14 +351,12 @@ TEST(FormReader, NeedsNoCertainNumberOfTicks) {
   page.expectRight(readOf(page.form));
   page.tick(cross(0x50), 1);
   page.expectRight(readOf(page.form));
-
   FilledForm smudged; // what is left of an eraser may be all that there is
   smudged.touch(100, stroke(0xB0));
   const ReadCell cell = readOf(smudged.form).cells.at(100);
   EXPECT_TRUE(!cell.isTicked || cell.isDoubtful);
 }
 
-// The places of a mark, from its upper left corner.
 FormRect markAt(int mark) {
   return FormLayout().marks()[static_cast<std::size_t>(mark)];
 }
@@ -300,19 +390,15 @@ TEST(FormReader, SaysWhatIsMissing) {
   EXPECT_EQ(without({1, 3}), ScanProblem::NoRight);
   EXPECT_EQ(without({2, 3}), ScanProblem::NoBottom);
   EXPECT_EQ(without({0, 1, 2, 3}), ScanProblem::NoUpperLeftMark);
-
   DrawnForm form(kSheet);
-  // Half a page.
   EXPECT_EQ(readOf(form, {.dots = 300, .shiftY = 74, .paperHeight = 148}).problem, ScanProblem::NoBottom);
   EXPECT_EQ(readOf(form, {.dots = 300, .shiftX = 52, .paperWidth = 105}).problem, ScanProblem::NoRight);
   EXPECT_EQ(readOf(form, {.dots = 300, .shiftX = -52, .paperWidth = 105}).problem,
             ScanProblem::NoUpperLeftMark);
   EXPECT_EQ(readOf(form, {.dots = 72}).problem, ScanProblem::TooCoarse);
   EXPECT_EQ(readOf(form, {.dots = 120}).problem, ScanProblem::TooCoarse);
-
-  form.fill(form.layout().identifier()[12], 0);
-  form.fill(form.layout().identifier()[13], 0);
-  form.fill(form.layout().identifier()[14], 0);
+  for (const std::size_t square : {12U, 13U, 14U})
+    form.fill(form.layout().identifier()[square], 0);
   EXPECT_EQ(readOf(form).problem, ScanProblem::NotThisForm);
   for (int player = 0; player < FormLayout::kPlayers; ++player) {
     const FormRect block = form.layout().block(player);
@@ -352,16 +438,14 @@ TEST(FormReader, RefusesWhatIsNoForm) {
 }
 
 TEST(FormReader, SurvivesAnyDamage) {
-  DrawnForm form(kSheet);
-  const GrayPicture clean = form.scanned({.dots = 150});
+  const GrayPicture clean = DrawnForm(kSheet).scanned({.dots = 150});
   std::minstd_rand random(5);
   const auto upTo = [&](int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); };
   int refused = 0;
   for (int round = 0; round < 15; ++round) {
     GrayPicture picture = clean;
     for (int patch = 0; patch < 1 + round; ++patch) {
-      const int left = upTo(picture.width);
-      const int top = upTo(picture.height);
+      const int left = upTo(picture.width), top = upTo(picture.height);
       const int right = std::min(picture.width, left + upTo(400));
       const int bottom = std::min(picture.height, top + upTo(400));
       const int from = upTo(picture.width * picture.height / 2);
@@ -377,9 +461,7 @@ TEST(FormReader, SurvivesAnyDamage) {
     const FormReading reading = readOf(picture);
     refused += reading.problem != ScanProblem::None ? 1 : 0;
     EXPECT_EQ(reading.cells.empty(), reading.problem != ScanProblem::None);
-    if (reading.problem == ScanProblem::None) {
-      EXPECT_EQ(reading.identifier, kSheet);
-    }
+    EXPECT_TRUE(reading.problem != ScanProblem::None || reading.identifier == kSheet);
   }
   EXPECT_GT(refused, 0);
 }
@@ -405,21 +487,16 @@ TEST(FormReader, TellsHowFarItIsAndStops) {
 }
 
 TEST(FormReader, NamesItsProblems) {
-  constexpr std::pair<ScanProblem, Text> kTexts[] = {
-      {ScanProblem::None, Text::None},
-      {ScanProblem::Cancelled, Text::None},
-      {ScanProblem::NotAPicture, Text::NotAPicture},
-      {ScanProblem::TooCoarse, Text::TooCoarse},
-      {ScanProblem::NoTop, Text::NoTopPosition},
-      {ScanProblem::NoUpperLeftMark, Text::NoUpperLeftMark},
-      {ScanProblem::NoLeft, Text::NoLeftPosition},
-      {ScanProblem::NoRight, Text::NoRightPosition},
-      {ScanProblem::NoBottom, Text::NoBottomPosition},
-      {ScanProblem::NotReadable, Text::ReadError},
-      {ScanProblem::NotThisForm, Text::InvalidFormat},
-      {ScanProblem::TooFaint, Text::ScanTooFaint},
-  };
-  for (const auto& [problem, text] : kTexts)
+  for (const ScanProblem none : {ScanProblem::None, ScanProblem::Cancelled})
+    EXPECT_EQ(textOf(none), Text::None);
+  using Texts = std::vector<std::pair<ScanProblem, Text>>;
+  const Texts texts = {
+      {ScanProblem::NotAPicture, Text::NotAPicture},   {ScanProblem::TooCoarse, Text::TooCoarse},
+      {ScanProblem::NoTop, Text::NoTopPosition},       {ScanProblem::NoUpperLeftMark, Text::NoUpperLeftMark},
+      {ScanProblem::NoLeft, Text::NoLeftPosition},     {ScanProblem::NoRight, Text::NoRightPosition},
+      {ScanProblem::NoBottom, Text::NoBottomPosition}, {ScanProblem::NotReadable, Text::ReadError},
+      {ScanProblem::NotThisForm, Text::InvalidFormat}, {ScanProblem::TooFaint, Text::ScanTooFaint}};
+  for (const auto& [problem, text] : texts)
     EXPECT_EQ(textOf(problem), text);
 }
 

@@ -76,7 +76,6 @@ TEST(FormScoreTest, EveryKindOfFaultIsCounted) {
   };
   EXPECT_TRUE(isGood(right));
   EXPECT_FALSE(FormScore(layout()).isGood()) << "nothing was read";
-
   for (const std::size_t cell : {4U, 5U, 6U}) {
     FormReading wrong = right;
     wrong.cells[cell].isTicked = !wrong.cells[cell].isTicked;
@@ -96,15 +95,6 @@ TEST(FormScoreTest, EveryKindOfFaultIsCounted) {
   FormReading failed;
   failed.problem = ScanProblem::NoTop;
   EXPECT_FALSE(isGood(failed));
-}
-
-// The same number gives the same page; another one, another page.
-TEST(ScannedSheetTest, APageIsMadeOfItsNumber) {
-  const ScannedSheet first = scannedSheet(3, layout());
-  const ScannedSheet again = scannedSheet(3, layout());
-  EXPECT_EQ(first.picture.pixels, again.picture.pixels);
-  EXPECT_EQ(first.cells, again.cells);
-  EXPECT_NE(first.cells, scannedSheet(4, layout()).cells);
 }
 
 } // namespace

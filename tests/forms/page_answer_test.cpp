@@ -62,37 +62,26 @@ TEST(PageAnswer, IsTakenInWhateverPiecesItComes) {
 TEST(PageAnswer, IsNotBelievedWhenItCannotBe) {
   const std::uint32_t count = PageAnswer::countRecord(1)[0];
   const std::uint32_t page = PageAnswer::pageRecord({})[0];
-  const struct {
-    const char* what;
-    Words words;
-    bool isWhole;
-  } cases[] = {
-      {"a refusal", {count, 1, page, static_cast<std::uint32_t>(Reason::Damaged), 0, 0, 0}, true},
+  const auto number = [](Reason reason) { return static_cast<std::uint32_t>(reason); };
+  const auto damaged = number(Reason::Damaged);
+  const std::tuple<const char*, Words, bool> cases[] = {
+      {"a refusal", {count, 1, page, damaged, 0, 0, 0}, true},
       {"no answer at all", {0x20656854, 0x7463697a}, false},
       {"too many pages", {count, ScannedPage::kMostPages + 1}, false},
       {"a count below 0", {count, 0xFFFFFFFF}, false},
       {"another mark", {count, 1, count, 0, 0, 2, 2}, false},
       {"a reason that is none", {count, 1, page, 99, 0, 0, 0}, false},
-      {"a reason that is not its own",
-       {count, 1, page, static_cast<std::uint32_t>(Reason::CannotStart), 0, 0, 0},
-       false},
-      {"a stop that nobody asked for",
-       {count, 1, page, static_cast<std::uint32_t>(Reason::Cancelled), 0, 0, 0},
-       false},
-      {"a refusal with a picture",
-       {count, 1, page, static_cast<std::uint32_t>(Reason::Damaged), 0, 2, 2},
-       false},
+      {"a reason that is not its own", {count, 1, page, number(Reason::CannotStart), 0, 0, 0}, false},
+      {"a stop that nobody asked for", {count, 1, page, number(Reason::Cancelled), 0, 0, 0}, false},
+      {"a refusal with a picture", {count, 1, page, damaged, 0, 2, 2}, false},
       {"a picture without dots", {count, 1, page, 0, 0, 100, 0}, false},
       {"more dots than there may be", {count, 1, page, 0, 0, 0x10000, 0x10000}, false},
       {"a size that wraps", {count, 1, page, 0, 0, 0xFFFFFFFF, 0xFFFFFFFF}, false},
-      {"a number beyond all",
-       {count, 1, page, static_cast<std::uint32_t>(Reason::Damaged), 0x80000000, 0, 0},
-       false},
-  };
-  for (const auto& given : cases) {
-    const Taken taken(bytesOf(given.words), 64);
-    EXPECT_EQ(taken.answer.isWhole(), given.isWhole) << given.what;
-    EXPECT_EQ(taken.isBroken, !given.isWhole) << given.what;
+      {"a number beyond all", {count, 1, page, damaged, 0x80000000, 0, 0}, false}};
+  for (const auto& [what, words, isWhole] : cases) {
+    const Taken taken(bytesOf(words), 64);
+    EXPECT_EQ(taken.answer.isWhole(), isWhole) << what;
+    EXPECT_EQ(taken.isBroken, !isWhole) << what;
   }
 }
 
@@ -118,11 +107,7 @@ std::string tiff(bool isBigEndian, bool isBig, const std::vector<std::uint64_t>&
 
 TEST(TiffPages, AreCountedAlongTheirLinks) {
   const std::uint64_t beyond = 0xFFFFFFF0;
-  const struct {
-    const char* what;
-    std::string bytes;
-    int pages;
-  } cases[] = {
+  const std::tuple<const char*, std::string, int> cases[] = {
       {"none", tiff(false, false, {}), 0},
       {"three", tiff(false, false, {20, 100, 60}), 3},
       {"the other order", tiff(true, false, {20, 100, 60}), 3},
@@ -135,11 +120,10 @@ TEST(TiffPages, AreCountedAlongTheirLinks) {
       {"more than asked", tiff(false, false, {20, 40, 60, 80, 100, 120, 140, 160}), 6},
       {"to nothing", tiff(false, false, {20, 100}).replace(100, 1, 1, '\0'), 1},
       {"cut off", "II\x2a", 0},
-      {"nothing", "", 0},
-  };
-  for (const auto& given : cases) {
-    std::istringstream file(given.bytes);
-    EXPECT_EQ(countTiffPages(file, 5), given.pages) << given.what;
+      {"nothing", "", 0}};
+  for (const auto& [what, bytes, pages] : cases) {
+    std::istringstream file(bytes);
+    EXPECT_EQ(countTiffPages(file, 5), pages) << what;
   }
 }
 

@@ -57,7 +57,6 @@ TEST_F(PageDecoderTest, MakesFineScansCoarserAndKeepsTheirShades) {
   EXPECT_EQ(fine.picture.width, 3000);
   EXPECT_EQ(fine.picture.height, 4000);
   EXPECT_EQ(fine.picture.at(1234, 2345), 200);
-
   QImage colour(4960, 7016, QImage::Format_RGB32); // A4 of 600 dots per inch
   colour.fill(qRgb(90, 90, 90));
   for (const char* name : {"colour.jpg", "colour.tif"}) {
@@ -90,10 +89,7 @@ TEST_F(PageDecoderTest, RefusesPicturesThatAreTooMuchOrNone) {
   strip.fill(1);
   strip.setDotsPerMeterX(11811); // 300 dots per inch
   strip.setDotsPerMeterY(11811);
-  const struct {
-    std::string file;
-    Reason reason;
-  } cases[] = {
+  const std::pair<std::string, Reason> cases[] = {
       {write("head.jpg", QByteArray("\xff\xd8\xff\xe0", 4)), Reason::Damaged},
       {write("giant.png", pngOfSize(60000, 60000, 16, 6, 1)), Reason::TooLarge},
       {write("cut.png", pngOfSize(9000, 9000, 8, 0, 0)), Reason::Damaged},
@@ -104,14 +100,12 @@ TEST_F(PageDecoderTest, RefusesPicturesThatAreTooMuchOrNone) {
       {write("card.pdf", pdfOf({strip}, {55, 85})), Reason::TooCoarse},
       {write("directories.tif", tifOfDirectories(500'000)), Reason::TooManyPages},
       {folder.path("absent.tif"), Reason::CannotOpen},
-      {"/dev/zero", Reason::CannotOpen},
-  };
-  for (const auto& bad : cases) {
-    const ScannedPage page = decode(bad.file);
-    EXPECT_EQ(static_cast<int>(page.refusal.reason), static_cast<int>(bad.reason)) << bad.file;
+      {"/dev/zero", Reason::CannotOpen}};
+  for (const auto& [file, reason] : cases) {
+    const ScannedPage page = decode(file);
+    EXPECT_EQ(page.refusal.reason, reason) << file;
     EXPECT_TRUE(page.picture.pixels.empty());
   }
-  EXPECT_LT(QFile(QString::fromStdString(folder.path("giant.png"))).size(), 200);
 }
 
 TEST_F(PageDecoderTest, TellsWhyThereIsNoAnswer) {
@@ -119,11 +113,7 @@ TEST_F(PageDecoderTest, TellsWhyThereIsNoAnswer) {
   const ScannedPage none = PageDecoder{folder.path("absent"), 60s}.decode("page.tif", 0, isStopped);
   EXPECT_EQ(none.refusal.reason, Reason::CannotStart);
   EXPECT_EQ(none.refusal.number, ENOENT);
-  const struct {
-    const char* lines;
-    std::chrono::seconds patience;
-    PageRefusal refusal;
-  } scripts[] = {
+  const std::tuple<const char*, std::chrono::seconds, PageRefusal> scripts[] = {
       {"kill -SEGV $$", 60s, {Reason::BrokeOff}},
       {"exit 0", 60s, {Reason::BrokeOff}},
       {"exec >&-; sleep 100", 60s, {Reason::BrokeOff}},
@@ -131,13 +121,12 @@ TEST_F(PageDecoderTest, TellsWhyThereIsNoAnswer) {
       {"echo These are words, and no picture at all", 60s, {Reason::BrokeOff}},
       {"printf 'HTPX\\0\\0\\0\\0\\0\\0\\0\\0\\2\\0\\0\\0\\2\\0\\0\\0cut'", 60s, {Reason::BrokeOff}},
       {"exec sleep 100", 1s, {Reason::TookTooLong, 1}},
-      {"ulimit -S -t 1; while :; do :; done", 60s, {Reason::TookTooLong, DecoderLimits{}.processorSeconds}},
-  };
-  for (const auto& given : scripts) {
-    const ScannedPage page = scripted(counted + given.lines, given.patience).decode("page.tif", 0, isStopped);
-    EXPECT_EQ(page.refusal.reason, given.refusal.reason) << given.lines;
-    EXPECT_EQ(page.refusal.number, given.refusal.number) << given.lines;
-    EXPECT_EQ(page.pagesInFile, 3) << given.lines;
+      {"ulimit -S -t 1; while :; do :; done", 60s, {Reason::TookTooLong, DecoderLimits{}.processorSeconds}}};
+  for (const auto& [lines, patience, refusal] : scripts) {
+    const ScannedPage page = scripted(counted + lines, patience).decode("page.tif", 0, isStopped);
+    EXPECT_EQ(page.refusal.reason, refusal.reason) << lines;
+    EXPECT_EQ(page.refusal.number, refusal.number) << lines;
+    EXPECT_EQ(page.pagesInFile, 3) << lines;
     EXPECT_TRUE(page.picture.pixels.empty());
   }
   EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "no process is left";

@@ -10,19 +10,12 @@
 #include "report/ScanReport.h"
 #include "totals/ManualColumns.h"
 
-#include <QApplication>
-#include <QComboBox>
 #include <QFile>
 #include <QFileInfo>
-#include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
-#include <QTest>
 #include <cstring>
-#include <gtest/gtest.h>
-#include <memory>
 
 namespace hooptab {
 namespace {
@@ -44,6 +37,15 @@ std::vector<TeamPlayer> players(const std::vector<std::string>& numbers) {
   return list;
 }
 
+// Of the first player.
+std::size_t placeOf(const FormLayout& layout, Kind kind, Counter counter, int number) {
+  const auto cells = layout.cells();
+  std::size_t place = 0;
+  while (cells[place].kind != kind || cells[place].counter != counter || cells[place].number != number)
+    ++place;
+  return place;
+}
+
 class ScanWindowTest : public OpenManualGame {
  protected:
   void press(const char* button) const { QTest::mouseClick(&find<QPushButton>(button), Qt::LeftButton); }
@@ -60,28 +62,27 @@ class ScanWindowTest : public OpenManualGame {
   void wait() const {
     EXPECT_TRUE(QTest::qWaitFor([this] { return showsSheet() || showsTotals(); }, kPatience));
   }
-  std::string cell(int player, ScannedModel::Line line, Counter counter) const {
-    const QAbstractItemModel& model = *find<QTableView>("tblSCAN").model();
-    for (std::size_t column = 0; column < kManualColumns.size(); ++column) {
-      if (kManualColumns[column].counter == counter)
-        return fromQt(model
-                          .index(player * ScannedModel::kLines + line,
-                                 ScannedModel::kFirstCount + static_cast<int>(column))
-                          .data()
-                          .toString());
-    }
-    return {};
+  // The count of the form, as the table shows it.
+  QModelIndex cell(int player, Counter counter) const {
+    int column = 0;
+    while (kManualColumns[static_cast<std::size_t>(column)].counter != counter)
+      ++column;
+    return find<QTableView>("tblSCAN").model()->index(player * ScannedModel::kLines + ScannedModel::FormTotal,
+                                                      ScannedModel::kFirstCount + column);
   }
-  std::string form(int player, Counter counter) const {
-    return cell(player, ScannedModel::FormTotal, counter);
+  std::string form(int player, Counter first, auto... others) const {
+    return (fromQt(cell(player, first).data().toString()) + ... + ("|" + form(player, others)));
   }
   Game game() {
     Game read;
     EXPECT_EQ(GameFile(store, path).read(read), GameFileProblem::None);
     return read;
   }
-  std::string text(int number) const { return std::string(texts.text(number)); }
+  std::string text(Text which) const { return std::string(texts.text(which)); }
   std::string file(const char* name) const { return folder.path(name); }
+  std::string write(const char* name, const QByteArray& bytes) const {
+    return folder.write(name, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  }
 };
 
 TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
@@ -97,24 +98,18 @@ TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
   second.tick(2, Kind::Count, Counter::Ast, 14);
   first.save(file("one.tif"));
   second.save(file("two.bmp"));
-
   choose({file("one.tif"), file("two.bmp")});
   EXPECT_EQ(settings.lastScanFolder, folder.path());
-  EXPECT_TRUE(dialogs.lastFilter.contains(QStringLiteral("*.TIF")) &&
-              dialogs.lastFilter.contains(QStringLiteral("*.bmp")) &&
-              dialogs.lastFilter.contains(QStringLiteral("*.pdf")))
-      << fromQt(dialogs.lastFilter);
+  for (const char* kind : {"*.TIF", "*.bmp", "*.pdf"})
+    EXPECT_TRUE(dialogs.lastFilter.contains(QLatin1String(kind))) << fromQt(dialogs.lastFilter);
   ASSERT_TRUE(showsSheet());
   EXPECT_TRUE(dialogs.shown.empty());
   EXPECT_EQ(find<QComboBox>("cmbFORMTEAM").currentIndex(), 0);
   EXPECT_FALSE(find<QComboBox>("cmbFORMTEAM").isEnabled()) << "the sheet says whose it is";
   EXPECT_EQ(find<QComboBox>("cmbSCANNED(2)").currentIndex(), 3);
-  EXPECT_EQ(form(0, Counter::FGM), "5");
-  EXPECT_EQ(form(0, Counter::FGA), "8");
+  EXPECT_EQ(form(0, Counter::FGM, Counter::FGA), "5|8");
   EXPECT_EQ(form(1, Counter::F3A), "2");
   EXPECT_EQ(form(3, Counter::PF), "4");
-
-  // The doubtful ones, with the keys alone.
   auto& doubts = find<QListWidget>("lstDOUBT");
   ASSERT_EQ(doubts.count(), 2);
   EXPECT_TRUE(doubts.hasFocus());
@@ -133,7 +128,6 @@ TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
   press("cmdADDSCAN");
   EXPECT_EQ(dialogs.shown.size(), 1u) << "no question any more";
   wait();
-
   ASSERT_TRUE(showsSheet()) << "the second file";
   EXPECT_EQ(form(2, Counter::Ast), "14");
   EXPECT_EQ(game().events.size(), 0u) << "nothing is saved yet";
@@ -143,14 +137,15 @@ TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
   EXPECT_TRUE(window->isWindowModified());
   window->save();
   const GameState counted = tallied(game());
-  EXPECT_EQ(counted.players[0][1].counters[Counter::FGA], 8);
-  EXPECT_EQ(counted.players[0][2].counters[Counter::F3M], 2);
-  EXPECT_EQ(counted.players[0][3].counters[Counter::DR], 1);
-  EXPECT_EQ(counted.players[0][4].counters[Counter::PF], 4);
-  EXPECT_EQ(counted.players[0][7].counters[Counter::Ast], 14) << "00, not 0";
+  const std::tuple<std::size_t, Counter, int> counts[] = {{1, Counter::FGA, 8},
+                                                          {2, Counter::F3M, 2},
+                                                          {3, Counter::DR, 1},
+                                                          {4, Counter::PF, 4},
+                                                          {7, Counter::Ast, 14}};
+  for (const auto& [player, counter, count] : counts) // the last has number 00, not 0
+    EXPECT_EQ(counted.players[0][player].counters[counter], count) << player;
   EXPECT_EQ(counted.points(0), 5 * 2 + 2 * 3);
   EXPECT_EQ(counted.points(1), 0);
-
   choose({file("two.bmp")});
   ASSERT_TRUE(showsSheet());
   press("cmdADDSCAN");
@@ -175,37 +170,24 @@ TEST_F(ScanWindowTest, LetsABlankSheetBeCorrectedByHandAndReplaceWhatWasThere) {
   EXPECT_EQ(find<QComboBox>("cmbSCANNED(0)").currentIndex(), 2);
   EXPECT_NE(shown("lblSCANNED(1)").find("99"), std::string::npos);
   EXPECT_FALSE(find<QPushButton>("cmdSKIP").isVisible()) << "it is the only page";
-
   // A click on a cell of the page; typing into the table; back to what is ticked.
   auto& view = find<ScanView>("picSCAN");
-  std::size_t third = 0;
-  const FormLayout layout;
-  while (layout.cells()[third].kind != Kind::Made || layout.cells()[third].counter != Counter::FTM ||
-         layout.cells()[third].number != 2)
-    ++third;
+  const std::size_t third = placeOf(FormLayout(), Kind::Made, Counter::FTM, 2);
   view.goTo(third);
   QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.positionOf(third));
-  EXPECT_EQ(form(0, Counter::FTM), "3*");
-  EXPECT_EQ(form(0, Counter::FTA), "4*");
+  EXPECT_EQ(form(0, Counter::FTM, Counter::FTA), "3*|4*");
   view.setFocus();
   QTest::keyClick(&view, Qt::Key_Left);
   QTest::keyClick(&view, Qt::Key_Space);
   EXPECT_EQ(form(0, Counter::FTM), "2*") << "the one before it";
-  auto& table = find<QTableView>("tblSCAN");
-  const QModelIndex steals = [&] {
-    std::size_t column = 0;
-    while (kManualColumns[column].counter != Counter::ST)
-      ++column;
-    return table.model()->index(ScannedModel::kLines + ScannedModel::FormTotal,
-                                ScannedModel::kFirstCount + static_cast<int>(column));
-  }();
-  EXPECT_TRUE(table.model()->setData(steals, QStringLiteral("15")));
+  const QModelIndex steals = cell(1, Counter::ST);
+  auto& model = *find<QTableView>("tblSCAN").model();
+  EXPECT_TRUE(model.setData(steals, QStringLiteral("15")));
   EXPECT_EQ(form(1, Counter::ST), "15*");
-  EXPECT_FALSE(table.model()->setData(steals, QStringLiteral("1000")));
+  EXPECT_FALSE(model.setData(steals, QStringLiteral("1000")));
   EXPECT_NE(shown("lblSCANHINT"), "");
   press("cmdRECALC");
   EXPECT_EQ(form(1, Counter::ST), "3");
-
   // 99 is nobody: named in the question, and left out or given to somebody.
   press("cmdREPLACESCAN");
   ASSERT_EQ(dialogs.shown.size(), 1u);
@@ -220,10 +202,7 @@ TEST_F(ScanWindowTest, LetsABlankSheetBeCorrectedByHandAndReplaceWhatWasThere) {
   press("cmdREPLACESCAN");
   ASSERT_TRUE(showsTotals());
   EXPECT_EQ(dialogs.shown.size(), 1u);
-  EXPECT_EQ(shown("lblFT(2)"), "2");
-  EXPECT_EQ(shown("lblFTa(2)"), "3");
-  EXPECT_EQ(shown("lblST(1)"), "3");
-
+  EXPECT_EQ(shown("lblFT(2)", "lblFTa(2)", "lblST(1)"), "2|3|3");
   choose({file("blank.png")}); // once more, by mistake: nothing doubles
   press("cmdREPLACESCAN");
   EXPECT_EQ(dialogs.shown.size(), 2u) << "99 again";
@@ -239,11 +218,7 @@ TEST_F(ScanWindowTest, TakesThePagesOfOneFileInTurnAndLeavesOnlyAfterAQuestion) 
   filled.tick(0, Kind::Count, Counter::ST, 2);
   filled.hint(0, Kind::Count, Counter::BS, 3);
   filled.save(file("page.png"));
-  QFile pages(toQt(file("pages.pdf")));
-  ASSERT_TRUE(pages.open(QIODevice::WriteOnly));
-  pages.write(pdfOf({filled.picture(), FilledForm(prepared).picture()}));
-  pages.close();
-  choose({file("pages.pdf"), file("page.png")});
+  choose({write("pages.pdf", pdfOf({filled.picture(), FilledForm(prepared).picture()})), file("page.png")});
   ASSERT_TRUE(showsSheet());
   EXPECT_EQ(form(0, Counter::ST), "2");
   EXPECT_NE(shown("lblPAGE").find("1 of 2"), std::string::npos) << shown("lblPAGE");
@@ -268,7 +243,6 @@ TEST_F(ScanWindowTest, TakesThePagesOfOneFileInTurnAndLeavesOnlyAfterAQuestion) 
   EXPECT_EQ(shown("lblSCORE(0)"), "0");
   EXPECT_FALSE(window->isWindowModified());
   EXPECT_TRUE(window->agreesToClose());
-
   // While a page is being read: stopped, and another one started at once.
   dialogs.nextFiles = {toQt(file("page.png"))};
   press("cmdFORM");
@@ -282,21 +256,13 @@ TEST_F(ScanWindowTest, TakesThePagesOfOneFileInTurnAndLeavesOnlyAfterAQuestion) 
 }
 
 TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
-  const auto write = [this](const char* name, const QByteArray& bytes) {
-    QFile out(toQt(file(name)));
-    EXPECT_TRUE(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size());
-    return file(name);
-  };
-  const auto bytesOf = [](const std::string& name) {
-    QFile in(toQt(name));
-    EXPECT_TRUE(in.open(QIODevice::ReadOnly));
-    return in.readAll();
-  };
   TeamRecord others = panthers();
   others.category = "AAA"; // the game's have none
   const FilledForm theirs(preparedForms(others, players({"4"}), texts));
-  const QByteArray tif = bytesOf(theirs.save(file("theirs.tif")));
-  const QByteArray bmp = bytesOf(theirs.save(file("theirs.bmp")));
+  theirs.save(file("theirs.tif"));
+  theirs.save(file("theirs.bmp"));
+  const auto tif = QByteArray::fromStdString(folder.read("theirs.tif"));
+  const auto bmp = QByteArray::fromStdString(folder.read("theirs.bmp"));
   QImage photo(2480, 3508, QImage::Format_RGB32);
   photo.fill(Qt::darkCyan);
   EXPECT_TRUE(photo.save(toQt(file("photo.jpg"))));
@@ -307,12 +273,8 @@ TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
   QImage wide(20000, 14000, QImage::Format_Mono);
   wide.fill(1);
   EXPECT_TRUE(wide.save(toQt(file("wide.png"))));
-
   const std::string kinds = text(Text::NotAPicture) + ". " + text(Text::KindsRead);
-  const struct {
-    std::string file;
-    std::string reason;
-  } cases[] = {
+  const std::pair<std::string, std::string> cases[] = {
       {write("notes.tif", "these are words"), kinds},
       {write("empty.bmp", ""), kinds},
       {write("cut.tif", tif.left(tif.size() / 2)), text(Text::PictureDamaged)},
@@ -327,19 +289,18 @@ TEST_F(ScanWindowTest, SaysWhyAPictureIsOfNoUseAndChangesNothing) {
       {file("coarse.png"), text(Text::TooCoarse)},
       {file("wide.png"), text(Text::PictureTooLarge)},
       {file("photo.jpg"), text(Text::NoUpperLeftMark) + ". " + text(Text::ScanNoBottom)},
-      {file("theirs.bmp"), text(Text::InvalidFormat)},
-  };
+      {file("theirs.bmp"), text(Text::InvalidFormat)}};
   std::vector<std::string> all;
   for (const auto& bad : cases)
-    all.push_back(bad.file);
+    all.push_back(bad.first);
   choose(all);
   ASSERT_TRUE(showsTotals());
   ASSERT_EQ(dialogs.shown.size(), 1u) << "told once";
   const QStringList told = dialogs.shown[0].text.split(u'\n');
   ASSERT_EQ(told.size(), static_cast<qsizetype>(std::size(cases)) + 1) << fromQt(dialogs.shown[0].text);
   for (std::size_t bad = 0; bad < std::size(cases); ++bad) {
-    const std::string name = fromQt(QFileInfo(toQt(cases[bad].file)).fileName());
-    EXPECT_EQ(fromQt(told[static_cast<qsizetype>(bad)]), name + ": " + cases[bad].reason);
+    const std::string name = fromQt(QFileInfo(toQt(cases[bad].first)).fileName());
+    EXPECT_EQ(fromQt(told[static_cast<qsizetype>(bad)]), name + ": " + cases[bad].second);
   }
   EXPECT_NE(fromQt(told.last()).find("PAN"), std::string::npos) << "which teams it could be of";
   EXPECT_NE(fromQt(told.last()).find("OLY"), std::string::npos);
@@ -367,11 +328,8 @@ TEST_F(ScanWindowTest, GoesOnWithTheNextPageWhateverThePictureDoesToItsDecoder) 
   FilledForm filled(preparedForms(panthers(), players({"4"}), texts));
   filled.tick(0, Kind::Count, Counter::ST, 2);
   filled.save(file("good.png"));
-  QFile pages(toQt(file("pages.tif")));
-  ASSERT_TRUE(pages.open(QIODevice::WriteOnly));
-  pages.write(tifOf({filled.picture(), filled.picture()}));
-  pages.close();
-  choose({"crash.png", "garbage.png", "hang.png", file("pages.tif"), file("good.png")});
+  choose({"crash.png", "garbage.png", "hang.png",
+          write("pages.tif", tifOf({filled.picture(), filled.picture()})), file("good.png")});
   ASSERT_TRUE(showsSheet());
   EXPECT_EQ(form(0, Counter::ST), "2");
   EXPECT_NE(shown("lblPAGE").find("2 of 2"), std::string::npos) << shown("lblPAGE");
@@ -384,7 +342,6 @@ TEST_F(ScanWindowTest, GoesOnWithTheNextPageWhateverThePictureDoesToItsDecoder) 
   wait();
   ASSERT_TRUE(showsSheet());
   press("cmdCANCELSCAN");
-
   // Stopped while the process hangs: at once, and it is gone.
   forms.decodeWith({script, std::chrono::seconds(60)});
   QFile::remove(toQt(file("process")));
@@ -395,7 +352,6 @@ TEST_F(ScanWindowTest, GoesOnWithTheNextPageWhateverThePictureDoesToItsDecoder) 
   EXPECT_TRUE(showsTotals());
   const QString process = u"/proc/" + toQt(folder.read("process")).trimmed();
   EXPECT_TRUE(QTest::qWaitFor([&] { return !QFileInfo::exists(process); }, 10000));
-
   forms.decodeWith({file("absent"), std::chrono::seconds(60)});
   dialogs.shown.clear();
   choose(std::vector<std::string>(25, file("good.png")));
@@ -412,21 +368,13 @@ TEST(ScanReport, NamesWhatIsDoubtfulAndWhatWasChanged) {
   const auto layout = std::make_shared<FormLayout>();
   FormReading reading;
   reading.cells.resize(layout->cells().size());
-  const auto place = [&](Kind kind, Counter counter, int number) {
-    std::size_t found = 0;
-    while (layout->cells()[found].kind != kind || layout->cells()[found].counter != counter ||
-           layout->cells()[found].number != number)
-      ++found;
-    return found;
-  };
-  const std::size_t doubtful = place(Kind::Count, Counter::ST, 0);
-  const std::size_t changed = place(Kind::Missed, Counter::FTM, 3);
+  const std::size_t doubtful = placeOf(*layout, Kind::Count, Counter::ST, 0);
+  const std::size_t changed = placeOf(*layout, Kind::Missed, Counter::FTM, 3);
   reading.cells[doubtful].isTicked = reading.cells[doubtful].isDoubtful = true;
   const Game game = gameOfText(textOfGame(""));
   ScannedTotals scanned(CheckedSheet(layout, reading), 0, game.roster[0]);
   scanned.sheet.settle(changed, true);
   scanned.assign(0, 1);
-
   const TemporaryFolder folder;
   FileSystem files;
   cinifile store(files);
@@ -447,7 +395,7 @@ TEST(ScanReport, NamesWhatIsDoubtfulAndWhatWasChanged) {
         }
       }
     }
-    const auto line = [&](int read, int now, const std::string& row, const char* signs) {
+    const auto line = [&](Text read, Text now, const std::string& row, const char* signs) {
       return row + std::string(texts.text(read)) + (signs[0] == '?' ? " ?|" : "|") +
              std::string(texts.text(now)) + ' ' + signs[1] + '|';
     };

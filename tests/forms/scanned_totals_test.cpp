@@ -18,14 +18,10 @@ class ScannedTotalsTest : public testing::Test {
   ScannedTotalsTest() { reading.cells.resize(layout->cells().size()); }
 
   std::size_t place(int player, FormCell::Kind kind, Counter counter, int number) const {
-    const auto cells = layout->cells();
-    for (std::size_t index = 0; index < cells.size(); ++index) {
-      const FormCell& cell = cells[index];
-      if (cell.player == player && cell.kind == kind && cell.counter == counter && cell.number == number)
-        return index;
-    }
-    ADD_FAILURE() << "no such cell";
-    return 0;
+    const auto isMeant = [&](const FormCell& cell) {
+      return cell.player == player && cell.kind == kind && cell.counter == counter && cell.number == number;
+    };
+    return static_cast<std::size_t>(std::ranges::find_if(layout->cells(), isMeant) - layout->cells().begin());
   }
   void tick(int player, FormCell::Kind kind, Counter counter, int count) {
     for (int number = 0; number < count; ++number)
@@ -43,9 +39,8 @@ class ScannedTotalsTest : public testing::Test {
         reading.cells[index].isTicked = true;
     }
   }
-  ScannedTotals scanned(int team = 0) const {
-    return ScannedTotals(CheckedSheet(layout, reading), team, game.roster[team]);
-  }
+  ScannedTotals scanned() const { return ScannedTotals(CheckedSheet(layout, reading), 0, game.roster[0]); }
+  static std::vector<int> of(const Counters& counts, auto... counters) { return {counts[counters]...}; }
 
   std::shared_ptr<const FormLayout> layout = std::make_shared<FormLayout>();
   FormReading reading;
@@ -58,17 +53,11 @@ class ScannedTotalsTest : public testing::Test {
 };
 
 TEST_F(ScannedTotalsTest, ReadsNumbersAsTheirDigitsAreTicked) {
-  const struct {
-    std::string_view digits;
-    State state;
-    std::string_view number;
-    int slot;
-  } cases[] = {
+  const std::tuple<std::string_view, State, std::string_view, int> cases[] = {
       {"", State::None, "", 0},           {"4", State::Readable, "4", 1},   {"04", State::Readable, "04", 1},
       {"15", State::Readable, "15", 5},   {"0", State::Readable, "0", 6},   {"00", State::Readable, "00", 7},
       {"015", State::Readable, "015", 5}, {"99", State::Readable, "99", 0}, {"1 ", State::Unreadable, "", 0},
-      {"1 5", State::Unreadable, "", 0},  {"1*", State::Unreadable, "", 0},
-  };
+      {"1 5", State::Unreadable, "", 0},  {"1*", State::Unreadable, "", 0}};
   for (const auto& [digits, state, expected, slot] : cases) {
     reading.cells.assign(layout->cells().size(), {});
     number(2, digits);
@@ -85,13 +74,12 @@ TEST_F(ScannedTotalsTest, CountsTheTickedCellsOfEachRow) {
   tick(1, FormCell::Kind::Missed, Counter::DKM, 1);
   tick(1, FormCell::Kind::Count, Counter::OR, 5);
   reading.cells[place(1, FormCell::Kind::Count, Counter::OR, 2)].isTicked = false; // a gap
-  const Counters counts = CheckedSheet(layout, reading).counts(1);
   Counters expected;
   expected[Counter::F3M] = 3;
   expected[Counter::F3A] = 17;
   expected[Counter::DKA] = 1;
   expected[Counter::OR] = 4;
-  EXPECT_EQ(counts, expected);
+  EXPECT_EQ(CheckedSheet(layout, reading).counts(1), expected);
   EXPECT_FALSE(CheckedSheet(layout, reading).hasCounts(0));
 }
 
@@ -103,12 +91,10 @@ TEST_F(ScannedTotalsTest, KeepsDoubtsUntilTheUserHasLooked) {
   reading.cells[units].isDoubtful = reading.cells[units].isTicked = true;
   CheckedSheet sheet(layout, reading);
   EXPECT_EQ(sheet.doubtfulCells(), (std::vector<std::size_t>{third, units}));
-  EXPECT_TRUE(sheet.count(0, Counter::FTM).isOpen);
-  EXPECT_TRUE(sheet.count(0, Counter::FTA).isOpen);
+  EXPECT_TRUE(sheet.count(0, Counter::FTM).isOpen && sheet.count(0, Counter::FTA).isOpen);
   EXPECT_FALSE(sheet.count(0, Counter::F3M).isOpen);
   EXPECT_TRUE(sheet.jersey(3).isOpen);
   EXPECT_FALSE(sheet.hasCorrections());
-
   sheet.settle(third, false); // as it was read
   EXPECT_EQ(sheet.openCells(), 1);
   EXPECT_FALSE(sheet.count(0, Counter::FTM).isOpen || sheet.count(0, Counter::FTM).isCorrected);
@@ -157,22 +143,16 @@ TEST_F(ScannedTotalsTest, AddsOrReplacesForThePlayersOfTheSheetAlone) {
   ASSERT_TRUE(totals.press(0, 2, EventCode::SPF, true, ManualTotals::Step::Up));
   ASSERT_TRUE(totals.press(0, 4, EventCode::SA, true, ManualTotals::Step::Up));
   ASSERT_TRUE(totals.press(0, 1, EventCode::SA, true, ManualTotals::Step::Up));
-
   const ScannedTotals read = scanned();
   const auto added = read.outcome(Way::Add, totals);
-  Counters counts = added.totals.slot(0, 2).counts();
-  EXPECT_EQ(counts[Counter::FGM], 3);
-  EXPECT_EQ(counts[Counter::FGA], 4);
-  EXPECT_EQ(counts[Counter::PF], 4);
+  EXPECT_EQ(of(added.totals.slot(0, 2).counts(), Counter::FGM, Counter::FGA, Counter::PF),
+            (std::vector{3, 4, 4}));
   EXPECT_EQ(added.totals.slot(0, 2).twoPointers.front().place, "10,20");
   EXPECT_EQ(added.totals.slot(0, 4).counts()[Counter::Ast], 1);
   EXPECT_EQ(added.placedShotsGone, 0);
-
   const auto replaced = read.outcome(Way::Replace, totals);
-  counts = replaced.totals.slot(0, 2).counts();
-  EXPECT_EQ(counts[Counter::FGM], 2);
-  EXPECT_EQ(counts[Counter::FGA], 3);
-  EXPECT_EQ(counts[Counter::PF], 3);
+  EXPECT_EQ(of(replaced.totals.slot(0, 2).counts(), Counter::FGM, Counter::FGA, Counter::PF),
+            (std::vector{2, 3, 3}));
   EXPECT_EQ(replaced.totals.slot(0, 2).twoPointers.front().place, "10,20") << "the place stays known";
   EXPECT_EQ(replaced.totals.slot(0, 4).counts()[Counter::Ast], 0) << "on the sheet, with nothing";
   EXPECT_EQ(replaced.totals.slot(0, 1).counts()[Counter::Ast], 1) << "not on the sheet";
@@ -207,7 +187,6 @@ TEST_F(ScannedTotalsTest, NamesWhomItDoesNotKnowAndAddsWhoIsThereTwice) {
   EXPECT_TRUE(outcome.unknown.empty());
   EXPECT_EQ(outcome.twice, (std::vector<int>{3}));
   EXPECT_EQ(outcome.totals.slot(0, 3).counts()[Counter::ST], 5);
-
   // Corrected digits find another player; who was assigned stays.
   for (std::size_t index = 0; index < layout->cells().size(); ++index) {
     const FormCell& cell = layout->cells()[index];

@@ -43,24 +43,21 @@ TEST_P(Truth, LinesPeriodsAndLeadAddUp) {
   }
   EXPECT_GE(played, m_game.details.periods * m_game.details.minutesPerPeriod * 60);
   EXPECT_EQ(m_state.lead.seconds[0] + m_state.lead.seconds[1] + m_state.lead.seconds[2], played);
+  const auto sum = [](const auto& entries) {
+    std::pair<int, Counters> all; // of seconds and counts
+    for (const auto& entry : entries) {
+      all.first += entry.seconds;
+      for (std::size_t i = 0; i < kCounterCount; ++i)
+        all.second.counts[i] = static_cast<std::int16_t>(all.second.counts[i] + entry.counters.counts[i]);
+    }
+    return all;
+  };
   for (std::size_t team = 0; team < 2; ++team) {
-    int ofPlayers = 0;
-    int ofLines = 0;
-    Counters players;
-    Counters lines;
-    for (const PlayerEntry& player : m_state.players[team]) {
-      ofPlayers += player.seconds;
-      for (std::size_t i = 0; i < kCounterCount; ++i)
-        players.counts[i] = static_cast<std::int16_t>(players.counts[i] + player.counters.counts[i]);
-    }
-    for (const LineEntry& line : m_state.lines[team]) {
-      ofLines += line.seconds;
-      for (std::size_t i = 0; i < kCounterCount; ++i)
-        lines.counts[i] = static_cast<std::int16_t>(lines.counts[i] + line.counters.counts[i]);
-    }
-    EXPECT_EQ(ofPlayers, played * 5);
-    EXPECT_EQ(ofLines, played);
-    EXPECT_EQ(players, lines);
+    const auto players = sum(m_state.players[team]);
+    const auto lines = sum(m_state.lines[team]);
+    EXPECT_EQ(players.first, played * 5);
+    EXPECT_EQ(lines.first, played);
+    EXPECT_EQ(players.second, lines.second);
   }
 }
 

@@ -1,27 +1,16 @@
-#include "appearance/relabel.h"
 #include "events/FollowUpBar.h"
 #include "keypad/KeyCodes.h"
 #include "keypad/KeyField.h"
 #include "keypad/QtKeys.h"
 #include "keypad/frmConfiguration.h"
+#include "live/LiveRoom.h"
 #include "live/frmLIVE.h"
-#include "recording/ManualTime.h"
 #include "support/FaultyFileSystem.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TemporaryFolder.h"
 #include "support/TextGame.h"
 
-#include <QApplication>
-#include <QCheckBox>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
 #include <QTabWidget>
-#include <QTest>
-#include <fstream>
-#include <gtest/gtest.h>
 
 namespace hooptab {
 namespace {
@@ -33,74 +22,49 @@ KeyPress pressOf(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 TEST(QtKeysTest, EveryKeyHasItsVirtualKeyCodeWithNumLockOnAndOff) {
-  const struct {
-    int key;
-    Qt::KeyboardModifiers modifiers;
-    int code;
-  } cases[] = {
-      {Qt::Key_0, kPad, 96},
-      {Qt::Key_9, kPad, 105},
-      {Qt::Key_0, Qt::NoModifier, 48},
-      {Qt::Key_Insert, kPad, 45},
-      {Qt::Key_End, kPad, 35},
-      {Qt::Key_Down, kPad, 40},
-      {Qt::Key_PageDown, kPad, 34},
-      {Qt::Key_Left, kPad, 37},
-      {Qt::Key_Clear, kPad, 12},
-      {Qt::Key_Right, kPad, 39},
-      {Qt::Key_Home, kPad, 36},
-      {Qt::Key_Up, kPad, 38},
-      {Qt::Key_PageUp, kPad, 33},
-      {Qt::Key_Delete, kPad, 46},
-      {Qt::Key_Period, kPad, 110},
-      {Qt::Key_Comma, kPad, 110},
-      {Qt::Key_Plus, kPad, 107},
-      {Qt::Key_Plus, Qt::NoModifier, 187},
-      {Qt::Key_Minus, kPad, 109},
-      {Qt::Key_Minus, Qt::NoModifier, 189},
-      {Qt::Key_Asterisk, kPad, 106},
-      {Qt::Key_Slash, kPad, 111},
-      {Qt::Key_Enter, kPad, 13},
-      {Qt::Key_Return, Qt::NoModifier, 13},
-      {Qt::Key_Backspace, Qt::NoModifier, 8},
-      {Qt::Key_NumLock, kPad, 144},
-      {Qt::Key_NumLock, Qt::NoModifier, 144},
-      {Qt::Key_A, Qt::ShiftModifier, 65},
-      {Qt::Key_F1, Qt::NoModifier, 112},
-      {Qt::Key_A, Qt::ControlModifier, 0},
-      {Qt::Key_1, Qt::AltModifier | kPad, 0},
-      {Qt::Key_Shift, Qt::ShiftModifier, 0},
-      {Qt::Key_Exclam, Qt::ShiftModifier, 0},
+  using Codes = std::vector<std::pair<int, int>>;
+  const Codes ofKeypad = {{Qt::Key_0, 96},      {Qt::Key_9, 105},      {Qt::Key_Insert, 45},
+                          {Qt::Key_End, 35},    {Qt::Key_Down, 40},    {Qt::Key_PageDown, 34},
+                          {Qt::Key_Left, 37},   {Qt::Key_Clear, 12},   {Qt::Key_Right, 39},
+                          {Qt::Key_Home, 36},   {Qt::Key_Up, 38},      {Qt::Key_PageUp, 33},
+                          {Qt::Key_Delete, 46}, {Qt::Key_Period, 110}, {Qt::Key_Comma, 110},
+                          {Qt::Key_Plus, 107},  {Qt::Key_Minus, 109},  {Qt::Key_Asterisk, 106},
+                          {Qt::Key_Slash, 111}, {Qt::Key_Enter, 13},   {Qt::Key_NumLock, 144}};
+  const Codes others = {{Qt::Key_0, 48},      {Qt::Key_Plus, 187},    {Qt::Key_Minus, 189},
+                        {Qt::Key_Return, 13}, {Qt::Key_Backspace, 8}, {Qt::Key_NumLock, 144},
+                        {Qt::Key_F1, 112}};
+  const auto expectCodes = [](const Codes& codes, Qt::KeyboardModifiers modifiers) {
+    for (const auto& [key, code] : codes) {
+      EXPECT_EQ(pressOf(key, modifiers).code, code) << key;
+      EXPECT_EQ(pressOf(key, modifiers).isKeypad, modifiers.testFlag(kPad)) << key;
+    }
   };
-  for (const auto& c : cases) {
-    const KeyPress press = pressOf(c.key, c.modifiers);
-    EXPECT_EQ(press.code, c.code) << c.key;
-    EXPECT_EQ(press.isKeypad, c.modifiers.testFlag(kPad)) << c.key;
-  }
+  expectCodes(ofKeypad, kPad);
+  expectCodes(others, {});
+  expectCodes({{Qt::Key_A, 65}, {Qt::Key_Shift, 0}, {Qt::Key_Exclam, 0}}, Qt::ShiftModifier);
+  expectCodes({{Qt::Key_A, 0}}, Qt::ControlModifier);
+  expectCodes({{Qt::Key_1, 0}}, Qt::AltModifier | kPad);
   for (int code = 1; code < 256; ++code) {
     const QtKey key = qtKeyOf(code);
-    if (key.key != Qt::Key_unknown) {
-      EXPECT_EQ(pressOf(key.key, key.isKeypad ? Qt::KeyboardModifiers(kPad) : Qt::NoModifier).code, code);
-    }
+    if (key.key != Qt::Key_unknown)
+      expectCodes({{key.key, code}}, key.isKeypad ? kPad : Qt::NoModifier);
   }
   for (const std::string& text : firstKeypadKeyTexts())
     EXPECT_NE(qtKeyOf(keys::code(text)).key, Qt::Key_unknown) << text;
 }
 
-class LiveKeysTest : public testing::Test {
+class LiveKeysTest : public LiveRoom<> {
  protected:
   void SetUp() override {
     settings.keypadIsActive = true;
     settings.asksRebounds = true;
-    const std::string path = folder.path("keys.GAM");
-    std::ofstream(path) << textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n");
+    const std::string path = folder.write(
+        "keys.GAM", textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n"));
     ASSERT_EQ(window.open(toQt(path)), frmLIVE::Opening::Opened);
     KeypadSetup quiet;
     quiet.sounds = false;
     window.setKeypad(quiet);
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    showActive(window);
     window.setFocus();
   }
   // "129<": keys of the keypad as they are printed, "<" Backspace, "E" Enter.
@@ -125,24 +89,16 @@ class LiveKeysTest : public testing::Test {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
   }
   std::string lines() {
-    const std::string text = folder.read("keys.GAM");
-    std::string result;
-    const std::size_t begin = text.find("1=10:00,ARRET");
-    for (const char byte : text.substr(text.find('\n', begin) + 1))
-      result += byte == '\n' ? std::string("|") : byte == '\r' ? std::string() : std::string(1, byte);
-    return result.substr(0, result.find("[") == std::string::npos ? result.size() : result.find("["));
+    std::string text = folder.read("keys.GAM");
+    text = text.substr(text.find('\n', text.find("1=10:00,ARRET")) + 1);
+    std::erase(text, '\r');
+    std::ranges::replace(text, '\n', '|');
+    return text.substr(0, text.find('['));
   }
-  QLabel& label(const char* name) { return *window.findChild<QLabel*>(QLatin1String(name)); }
+  QLabel& label(const char* name) { return find<QLabel>(window, name); }
   FollowUpBar& followUp() { return *window.findChild<FollowUpBar*>(); }
   bool isDisplayed() { return label("lblACTION").isVisible(); }
 
-  TemporaryFolder folder;
-  FileSystem disk;
-  cinifile store{disk};
-  Settings settings{store, folder.path()};
-  Texts texts;
-  ScriptedDialogs dialogs;
-  ManualTime time;
   frmLIVE window{store, settings, texts, dialogs, time};
 };
 
@@ -160,8 +116,7 @@ TEST_F(LiveKeysTest, RecordsAndShowsIt) {
   EXPECT_EQ(lines(), "2=10:00,SPF,0-12|");
   pad("+");
   EXPECT_FALSE(isDisplayed());
-  // On the bench: recorded, and said.
-  pad("09<");
+  pad("09<"); // on the bench
   EXPECT_EQ(lines(), "2=10:00,SPF,0-12|3=10:00,SPF,0-0|");
   EXPECT_TRUE(label("lblACTION").text().contains(toQt(texts.text(Text::NotOnCourt))));
 }
@@ -172,7 +127,7 @@ TEST_F(LiveKeysTest, TheClockAndTheKeypadComeBeforeAnyButtonAndNeverInATextField
   pause();
   press(Qt::Key_Space);
   EXPECT_FALSE(window.isRunning());
-  auto* button = window.findChild<QPushButton*>(QStringLiteral("cmdOUTALL(0)"));
+  auto* button = &find<QPushButton>(window, "cmdOUTALL(0)");
   button->setFocus();
   pause();
   press(Qt::Key_Return);
@@ -181,10 +136,8 @@ TEST_F(LiveKeysTest, TheClockAndTheKeypadComeBeforeAnyButtonAndNeverInATextField
   pause();
   press(Qt::Key_Space);
   EXPECT_FALSE(window.isRunning());
-
   const std::string before = lines();
-  auto* clock = window.findChild<QLabel*>(QStringLiteral("lblTEMPS"));
-  QTest::mouseDClick(clock, Qt::LeftButton);
+  QTest::mouseDClick(&label("lblTEMPS"), Qt::LeftButton);
   auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
   ASSERT_NE(field, nullptr);
   pad("129");
@@ -226,8 +179,7 @@ TEST_F(LiveKeysTest, AHeldKeyCountsOnceAndOfASwitchedOffKeypadTheLineIsLeft) {
 
 TEST_F(LiveKeysTest, SeveralAtOnceAreTypedAsTheirNumbers) {
   press(Qt::Key_F4);
-  auto* several = window.findChild<QDialog*>(QStringLiteral("frmSUBST"));
-  ASSERT_NE(several, nullptr);
+  auto* several = &find(window, "frmSUBST");
   ASSERT_TRUE(QTest::qWaitFor([&] { return several->isAncestorOf(QApplication::focusWidget()); }));
   pad("10");
   press(Qt::Key_0); // or 00
@@ -254,18 +206,14 @@ TEST_F(LiveKeysTest, FollowUpsAreAnsweredByTheWholeNumberAndSkippedByGoingOn) {
   pad("2");
   EXPECT_FALSE(followUp().isOpen());
   EXPECT_EQ(lines(), "2=10:00,GFG,0-4|3=10:00,SA,0-12|");
-  // A number is typed to its end: nothing of it is left over for the next input.
   pad("..42<22");
-  EXPECT_FALSE(followUp().isOpen());
-  EXPECT_FALSE(label("txtACTION").isVisible());
+  EXPECT_FALSE(followUp().isOpen() || label("txtACTION").isVisible());
   EXPECT_TRUE(lines().ends_with("5=10:00,SDR,1-22|")) << lines();
-  // Number and confirm key of the team that takes it.
   pad("..42<1-");
   EXPECT_TRUE(lines().ends_with("6=10:00,GFGA,0-4|")) << "1 fits several of both teams";
   ASSERT_TRUE(followUp().isOpen());
   pad("1-");
   EXPECT_TRUE(lines().ends_with("7=10:00,SDR,1-11|"));
-
   // Skipped: clear, confirm with nothing typed, Esc; the clock and an action are carried out.
   for (const char* key : {"+", "<"}) {
     pad(".42<");
@@ -286,24 +234,20 @@ TEST_F(LiveKeysTest, FollowUpsAreAnsweredByTheWholeNumberAndSkippedByGoingOn) {
   EXPECT_TRUE(window.isRunning());
 }
 
-TEST_F(LiveKeysTest, BothZerosOfADoubleZeroBelongToTheAnswer) {
+TEST_F(LiveKeysTest, BothZerosOfADoubleZeroBelongToTheAnswerAndEnterEndsItWithTheKeypadSwitchedOffToo) {
   pad("4*<00/<");
   pad(".52<00");
-  EXPECT_FALSE(followUp().isOpen());
-  EXPECT_FALSE(label("txtACTION").isVisible()) << "0 and a team key would take everybody out";
+  EXPECT_FALSE(followUp().isOpen() || label("txtACTION").isVisible())
+      << "0 and a team key would take everybody out";
   EXPECT_TRUE(lines().ends_with("4=10:00,SA,0-00|")) << lines();
   pad(".52<0<");
   EXPECT_TRUE(lines().ends_with("6=10:00,SA,0-00|")) << lines();
-}
-
-TEST_F(LiveKeysTest, EnterIsGoingOnWithTheKeypadSwitchedOffToo) {
-  pad(".42<");
+  pad(".52<");
   ASSERT_TRUE(followUp().isOpen());
   settings.keypadIsActive = false;
   press(Qt::Key_Return);
-  EXPECT_FALSE(followUp().isOpen());
-  EXPECT_FALSE(window.isRunning());
-  EXPECT_EQ(lines(), "2=10:00,GFG,0-4|");
+  EXPECT_FALSE(followUp().isOpen() || window.isRunning());
+  EXPECT_TRUE(lines().ends_with("6=10:00,SA,0-00|7=10:00,GFG,0-5|")) << lines();
 }
 
 TEST_F(LiveKeysTest, ALineOfTheMainKeyboardRecordsForBothTeams) {
@@ -350,15 +294,14 @@ TEST_F(LiveKeysTest, TheCheatSheetShowsTheKeysInUseAndTakesNone) {
   setup.letters.bind(static_cast<std::size_t>(KeypadAction::PF), 'P');
   setup.keys.bind(KeypadAction::PF, 144);
   window.setKeypad(setup);
-  auto* sheet = window.findChild<QWidget*>(QStringLiteral("KeySheet"));
+  auto* sheet = &find(window, "KeySheet");
   press(Qt::Key_F1);
   ASSERT_TRUE(sheet->isVisible());
   EXPECT_TRUE(window.rect().contains(sheet->geometry()));
   EXPECT_EQ(label("lblLETTERS").textFormat(), Qt::RichText) << "else the marks of its table are read out";
   EXPECT_TRUE(label("lblLETTERS").text().contains(QStringLiteral("<b>P</b>")));
   EXPECT_FALSE(label("lblLETTERS").text().contains(QStringLiteral("<b>F</b>")));
-  EXPECT_TRUE(
-      sheet->findChild<QPushButton*>(QStringLiteral("key(144)"))->text().endsWith(QStringLiteral("PF")));
+  EXPECT_TRUE(find<QPushButton>(*sheet, "key(144)").text().endsWith(QStringLiteral("PF")));
   texts.setLanguage(Language::French);
   window.relabelWindow();
   EXPECT_TRUE(label("lblLETTERS").text().contains(QStringLiteral("faute personnelle")));
@@ -371,7 +314,7 @@ TEST_F(LiveKeysTest, TheCheatSheetShowsTheKeysInUseAndTakesNone) {
   EXPECT_FALSE(sheet->isVisible());
 }
 
-class ConfigurationTest : public testing::Test {
+class ConfigurationTest : public LiveRoom<FaultyFileSystem> {
  protected:
   void SetUp() override {
     folder.write("CONFIG.INI",
@@ -380,22 +323,14 @@ class ConfigurationTest : public testing::Test {
     KeypadSetup setup;
     setup.keys = KeypadAssignment(settings.keypadKeyTexts);
     window = std::make_unique<frmConfiguration>(setup, settings, texts, dialogs);
-    window->show();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    showActive(*window);
   }
   KeyField& box(KeypadAction action) {
-    return *window->findChild<KeyField*>(QStringLiteral("txtTOUCHE(%1)").arg(static_cast<int>(action)));
+    return find<KeyField>(*window, QStringLiteral("txtTOUCHE(%1)").arg(static_cast<int>(action)));
   }
-  QPushButton& button(const char* name) { return *window->findChild<QPushButton*>(QLatin1String(name)); }
-  QString text(int number) { return toQt(texts.text(number)); }
+  QPushButton& button(const char* name) { return find<QPushButton>(*window, name); }
+  QString text(Text which) { return toQt(texts.text(which)); }
 
-  TemporaryFolder folder;
-  FaultyFileSystem disk;
-  cinifile store{disk};
-  Texts texts;
-  Settings settings{store, folder.path()};
-  ScriptedDialogs dialogs;
   std::unique_ptr<frmConfiguration> window;
 };
 
@@ -403,22 +338,16 @@ TEST_F(ConfigurationTest, ABoxTakesTheKeyAndSavingWritesWhatWasBound) {
   QSignalSpy applied(window.get(), &frmConfiguration::applied);
   EXPECT_EQ(box(KeypadAction::CLOCK).text(), QStringLiteral("13-ENTER"));
   EXPECT_EQ(box(KeypadAction::TF).text(), QStringLiteral("spare"));
-  const struct {
-    KeypadAction action;
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-    const char* text;
-  } cases[] = {
+  const std::tuple<KeypadAction, Qt::Key, Qt::KeyboardModifiers, const char*> cases[] = {
       {KeypadAction::All, Qt::Key_0, kPad, "96-0-INS"},
       {KeypadAction::IN, Qt::Key_Insert, kPad, "45-0-INS"},
       {KeypadAction::ST, Qt::Key_PageDown, kPad, "34-3-HOME"},
       {KeypadAction::OUT, Qt::Key_H, {}, "72-"},
       {KeypadAction::OK0, Qt::Key_Enter, kPad, "13-ENTER"},
-      {KeypadAction::CLOCK, Qt::Key_Backspace, {}, "8-BACK"},
-  };
-  for (const auto& c : cases) {
-    QTest::keyClick(&box(c.action), c.key, c.modifiers);
-    EXPECT_EQ(box(c.action).text(), QLatin1String(c.text));
+      {KeypadAction::CLOCK, Qt::Key_Backspace, {}, "8-BACK"}};
+  for (const auto& [action, key, modifiers, text] : cases) {
+    QTest::keyClick(&box(action), key, modifiers);
+    EXPECT_EQ(box(action).text(), QLatin1String(text));
   }
   for (const Qt::Key kept : {Qt::Key_Space, Qt::Key_F5, Qt::Key_Shift})
     QTest::keyClick(&box(KeypadAction::U1), kept);
@@ -441,7 +370,7 @@ TEST_F(ConfigurationTest, AKeyBoundTwiceIsShownAtOnceAndMustBeSolved) {
   const std::string before = folder.read("CONFIG.INI");
   QTest::keyClick(&box(KeypadAction::BS), Qt::Key_9, kPad);
   EXPECT_FALSE(button("Command1").isEnabled());
-  auto* notice = window->findChild<QLabel*>(QStringLiteral("lblNOTICE"));
+  auto* notice = &find<QLabel>(*window, "lblNOTICE");
   EXPECT_TRUE(notice->isVisible());
   EXPECT_EQ(notice->text(), text(Text::KeysTwice));
   EXPECT_EQ(box(KeypadAction::BS).palette(), box(KeypadAction::PF).palette());
@@ -450,7 +379,6 @@ TEST_F(ConfigurationTest, AKeyBoundTwiceIsShownAtOnceAndMustBeSolved) {
   QTest::mouseClick(&button("Command2"), Qt::LeftButton);
   EXPECT_TRUE(window->isVisible()) << "it cannot be saved";
   EXPECT_EQ(folder.read("CONFIG.INI"), before);
-  // With the picture of the keypad.
   box(KeypadAction::PF).setFocus();
   QTest::mouseClick(&button("key(103)"), Qt::LeftButton);
   EXPECT_EQ(box(KeypadAction::PF).text(), QStringLiteral("103-7-HOME"));
@@ -463,8 +391,7 @@ TEST_F(ConfigurationTest, AKeyBoundTwiceIsShownAtOnceAndMustBeSolved) {
 
 TEST_F(ConfigurationTest, DefaultsLettersAndUnsavedChanges) {
   window->findChild<QTabWidget*>()->setCurrentIndex(1);
-  auto* miss = window->findChild<KeyField*>(QStringLiteral("txtLETTRE(17)"));
-  ASSERT_NE(miss, nullptr);
+  auto* miss = &find<KeyField>(*window, "txtLETTRE(17)");
   QTest::keyClick(miss, Qt::Key_7, kPad);
   EXPECT_EQ(miss->text(), QStringLiteral("X")) << "letters alone";
   QTest::keyClick(miss, Qt::Key_F);
@@ -478,7 +405,6 @@ TEST_F(ConfigurationTest, DefaultsLettersAndUnsavedChanges) {
   EXPECT_EQ(dialogs.shown[0].text, text(Text::AskToSaveKeys));
   QTest::mouseClick(&button("Command1"), Qt::LeftButton);
   EXPECT_EQ(window->saved().letters.letter(LetterAssignment::kMiss), 'Q');
-
   QTest::mouseClick(&button("cmdDEFAUT"), Qt::LeftButton);
   EXPECT_EQ(miss->text(), QStringLiteral("X"));
   EXPECT_EQ(box(KeypadAction::TF).text(), QStringLiteral("102-6-RIGHT"));

@@ -1,30 +1,20 @@
 // The live window as a whole, under hands that slip, disks that fail and games that come and go.
+#include "events/JerseyButton.h"
 #include "events/frmSUBST.h"
 #include "game/EventListModel.h"
-#include "live/frmLIVE.h"
-
-#include "appearance/relabel.h"
-#include "events/JerseyButton.h"
 #include "live/BenchPanel.h"
-#include "recording/ManualTime.h"
-#include "settings/Settings.h"
+#include "live/LiveRoom.h"
+#include "live/frmLIVE.h"
 #include "support/FaultyFileSystem.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TemporaryFolder.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QDropEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QTableView>
-#include <QTest>
 #include <QToolButton>
 #include <fstream>
-#include <gtest/gtest.h>
 
 namespace hooptab {
 namespace {
@@ -32,71 +22,59 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-class LiveWindowTest : public testing::Test {
+class LiveWindowTest : public LiveRoom<FaultyFileSystem> {
  protected:
   void SetUp() override {
-    settings.twoPointColour = kFirstColours.twoPoints;
-    settings.boxColour = kFirstColours.box;
-    settings.threePointColour = kFirstColours.threePoints;
-    settings.buttonColour = kFirstColours.buttons;
     settings.asksRebounds = false;
     fs::create_directory(folder.path("stick"));
     makeGame(path);
-    ASSERT_EQ(window->open(toQt(path)), frmLIVE::Opening::Opened);
+    open(path);
     show();
     EXPECT_TRUE(asksFives);
-    for (const int index : {0, 1, 2, 3, 4, 15, 16, 17, 18, 19})
-      putOn(index);
+    for (const int index : {0, 1, 2, 3, 4, 15, 16, 17, 18, 19}) {
+      if (!find<BenchPanel>("picBENCH").isSubstituting())
+        key(Qt::Key_F6);
+      press(jerseyButtonName(index));
+      key(Qt::Key_F6);
+    }
   }
-  void makeGame(const std::string& where) {
-    GameDetails details;
-    details.periods = 4;
-    details.minutesPerPeriod = 10;
-    const std::vector<RosterPlayer> players = {{"4", 0, "Ann"},  {"5", 1, "Bea"},  {"10", 2, "Cleo"},
-                                               {"12", 2, "Dot"}, {"15", 1, "Eve"}, {"20", 1, "Fay"}};
-    cinifile own{plain};
-    ASSERT_EQ(GameFile(own, where).create(details, players, players), GameFileProblem::None);
+  static void makeGame(const std::string& where) {
+    LiveRoom::makeGame(where, {{"4", 0, "Ann"},
+                               {"5", 1, "Bea"},
+                               {"10", 2, "Cleo"},
+                               {"12", 2, "Dot"},
+                               {"15", 1, "Eve"},
+                               {"20", 1, "Fay"}});
+  }
+  void open(const std::string& game) { ASSERT_EQ(window->open(toQt(game)), frmLIVE::Opening::Opened); }
+  // A game that was left while its clock ran.
+  void openAgain(const std::string& game) {
+    window = std::make_unique<frmLIVE>(store, settings, texts, dialogs, time);
+    open(game);
+    show();
+    ASSERT_TRUE(find("picLOSTSTOP").isVisible());
   }
   void show() {
     window->resize(1366, 700);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    leaveFives();
-  }
-  // A game that has not begun asks for both of them.
-  void leaveFives() {
+    // A game that has not begun asks for both of them.
     QCoreApplication::processEvents();
     const auto asked = window->findChildren<frmSUBST*>();
     for (frmSUBST* several : asked)
       several->reject();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     asksFives = !asked.isEmpty();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  }
-  bool asksFives = false;
-  void putOn(int index) {
-    if (!find<BenchPanel>("picBENCH").isSubstituting())
-      QTest::keyClick(window.get(), Qt::Key_F6);
-    press(jerseyButtonName(index));
-    QTest::keyClick(window.get(), Qt::Key_F6);
+    showActive(*window);
   }
   template <class Widget = QWidget>
-  Widget& find(const QString& name) {
-    auto* found = window->findChild<Widget*>(name);
-    EXPECT_NE(found, nullptr) << name.toStdString();
-    return *found;
+  Widget& find(QAnyStringView name) {
+    return LiveRoom::find<Widget>(*window, name);
   }
-  template <class Widget = QWidget>
-  Widget& find(const char* name) {
-    return find<Widget>(QString::fromLatin1(name));
-  }
-  void press(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
+  void press(QAnyStringView name, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseClick(&find(name), button);
   }
-  void press(const char* name, Qt::MouseButton button = Qt::LeftButton) {
-    press(QString::fromLatin1(name), button);
-  }
+  void key(Qt::Key code) { QTest::keyClick(window.get(), code); }
   // Presses the court where it counts, or on a line, as its pointer says.
   void pressCourt(const char* name, bool onLine) {
     QWidget& picture = find(name);
@@ -109,14 +87,22 @@ class LiveWindowTest : public testing::Test {
     }
     FAIL() << "no such place";
   }
+  void pressWith(const char* name, Qt::MouseButton button, Qt::MouseButtons down, quint64 moment,
+                 int below = 0) {
+    QWidget& widget = find(name);
+    const QPointF place = widget.rect().center() + QPoint(0, below);
+    QMouseEvent press(QEvent::MouseButtonPress, place, widget.mapToGlobal(place), button, down, {});
+    press.setTimestamp(moment);
+    QApplication::sendEvent(&widget, &press);
+  }
   // When the clock's key or button is no second press any more.
   void toggleClock() {
     QTest::qWait(ToggleGuard::kAfterToggle + 10);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
   }
-  std::string label(const char* name) { return find<QLabel>(name).text().toStdString(); }
-  // The events of a period on disk behind those that put the fives on court: clock and code.
+  std::string label(auto... names) { return textOf(*window, names...); }
   std::string events(int period = 1) { return eventsOf(path, period); }
+  // The events of a period on disk behind those that put the fives on court: clock and code.
   std::string eventsOf(const std::string& where, int period = 1) {
     cinifile own{plain};
     EventLines found;
@@ -131,14 +117,8 @@ class LiveWindowTest : public testing::Test {
     return text;
   }
 
-  TemporaryFolder folder;
+  bool asksFives = false;
   FileSystem plain;
-  FaultyFileSystem disk;
-  cinifile store{disk};
-  ManualTime time;
-  Texts texts;
-  Settings settings{store, folder.path()};
-  ScriptedDialogs dialogs;
   std::string path = folder.path("stick/A.GAM");
   std::unique_ptr<frmLIVE> window = std::make_unique<frmLIVE>(store, settings, texts, dialogs, time);
 };
@@ -146,38 +126,27 @@ class LiveWindowTest : public testing::Test {
 TEST_F(LiveWindowTest, EveryPressCountsAndNoSlipDoes) {
   // The display's clock, which a test moves on by half a second with each click, tells a double press.
   const auto pressTwice = [this](const char* name) {
-    QWidget& button = find(name);
-    const QPointF place = button.rect().center();
     static quint64 now = 1'000'000;
     now += 10'000;
-    for (const quint64 moment : {now, now + 120}) {
-      QMouseEvent press(QEvent::MouseButtonPress, place, button.mapToGlobal(place), Qt::LeftButton,
-                        Qt::LeftButton, {});
-      press.setTimestamp(moment);
-      QApplication::sendEvent(&button, &press);
-    }
+    for (const quint64 moment : {now, now + 120})
+      pressWith(name, Qt::LeftButton, Qt::LeftButton, moment);
   };
   pressTwice("cmdBUTF(0)");
   EXPECT_EQ(events(), "10:00,SPF,0-4");
   EXPECT_EQ(label("lblSAID"), "Two presses at one spot: counted once.");
-  QTest::keyClick(window.get(), Qt::Key_F2);
+  key(Qt::Key_F2);
   EXPECT_EQ(events(), "10:00,SPF,0-4 10:00,SPF,0-4");
   pressTwice("cmdBUTFT(1)");
   EXPECT_EQ(events(), "10:00,SPF,0-4 10:00,SPF,0-4 10:00,GFT,0-5 10:00,GFT,0-5") << "free throws";
   pressTwice("cmdBUTLUG(5)");
   EXPECT_TRUE(find("Assist").isVisible()) << "and the question of the first one stays";
-  QTest::keyClick(window.get(), Qt::Key_Escape);
+  key(Qt::Key_Escape);
   press("cmdBUTFT(1)", Qt::RightButton);
   EXPECT_TRUE(events().ends_with(" 10:00,GFT,0-5 10:00,GLG,1-4 10:00,GFTA,0-5")) << events();
   const std::string before = events();
   press("cmdBUTF(0)", Qt::RightButton);
-  for (const char* name : {"cmdBUTFT(0)", "CourtJ(0)", "cmdJERSEY(0)"}) { // both buttons at once
-    QWidget& widget = find(name);
-    const QPointF place = QPointF(widget.rect().center()) + QPointF(0, 10);
-    QMouseEvent both(QEvent::MouseButtonPress, place, widget.mapToGlobal(place), Qt::RightButton,
-                     Qt::LeftButton | Qt::RightButton, {});
-    QApplication::sendEvent(&widget, &both);
-  }
+  for (const char* name : {"cmdBUTFT(0)", "CourtJ(0)", "cmdJERSEY(0)"})
+    pressWith(name, Qt::RightButton, Qt::LeftButton | Qt::RightButton, 0, 10); // both buttons at once
   pressCourt("CourtJ(0)", true);
   EXPECT_EQ(events(), before);
   pressCourt("CourtJ(0)", false);
@@ -202,7 +171,7 @@ TEST_F(LiveWindowTest, GoingOnClosesAFollowUpAsNobodyAndHappens) {
   window->hide(); // a game that another start of the program hands over comes up and goes behind
   window->show();
   EXPECT_TRUE(find("Assist").isVisible());
-  QTest::keyClick(window.get(), Qt::Key_Escape);
+  key(Qt::Key_Escape);
   EXPECT_FALSE(find("Assist").isVisible());
   const std::string found = events();
   EXPECT_EQ(found.find(",SA"), std::string::npos) << found;
@@ -216,9 +185,8 @@ TEST_F(LiveWindowTest, SpaceIsTheClocksOnceAPress) {
   ASSERT_TRUE(allOut.hasFocus());
   QTest::keyClick(&allOut, Qt::Key_Space);
   EXPECT_TRUE(window->isRunning());
-  QTest::keyClick(&allOut, Qt::Key_Space);
-  EXPECT_TRUE(window->isRunning()) << "a second press within a moment";
-  EXPECT_TRUE(find("lblSAID").isVisible());
+  QTest::keyClick(&allOut, Qt::Key_Space); // within a moment
+  EXPECT_TRUE(window->isRunning() && find("lblSAID").isVisible());
   for (int repeat = 0; repeat < 3; ++repeat)
     QTest::simulateEvent(&allOut, true, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
   EXPECT_TRUE(window->isRunning());
@@ -240,17 +208,13 @@ TEST_F(LiveWindowTest, ClosingWhileTheClockRunsIsAskedAndStopsIt) {
   dialogs.nextAnswer = true;
   EXPECT_TRUE(window->close());
   EXPECT_EQ(events(), "10:00,DEPART 08:45,ARRET");
-
   // Half a minute later.
   std::string text = folder.read("stick/A.GAM");
   const std::size_t mark = text.find(' ', text.find("QUITTE="));
   const std::size_t end = text.find('\r', mark);
   text.replace(mark + 1, end - mark - 1, std::to_string(std::stoll(text.substr(mark + 1, end - mark)) - 30));
   folder.write("stick/A.GAM", text);
-  window = std::make_unique<frmLIVE>(store, settings, texts, dialogs, time);
-  ASSERT_EQ(window->open(toQt(path)), frmLIVE::Opening::Opened);
-  show();
-  ASSERT_TRUE(find("picLOSTSTOP").isVisible());
+  openAgain(path);
   press("cmdRUNONCLOCK");
   const std::string clock = label("lblTEMPS");
   EXPECT_TRUE(clock == "08:15" || clock == "08:14") << clock;
@@ -261,13 +225,13 @@ TEST_F(LiveWindowTest, ABenchPlayersShotComesWithItsRepair) {
   press(jerseyButtonName(5));
   press("cmdSELSHOT");
   ASSERT_TRUE(find("picBENCHSHOT").isVisible());
-  QTest::mouseClick(find("picBENCHSHOT").findChild<QWidget*>(QStringLiteral("cmdBUTDK")), Qt::LeftButton);
+  QTest::mouseClick(&LiveRoom::find(find("picBENCHSHOT"), "cmdBUTDK"), Qt::LeftButton);
   EXPECT_EQ(events(), "10:00,GDK,0-20");
   EXPECT_FALSE(find("picBENCHSHOT").isVisible());
-  EXPECT_TRUE(find(QStringLiteral("cmdJERSEY(4)")).isVisible()) << "all five can have assisted";
-  QTest::keyClick(window.get(), Qt::Key_Escape);
-  EXPECT_TRUE(label("lblSAID").find("20 Fay was not on court") != std::string::npos) << label("lblSAID");
-  QTest::keyClick(window.get(), Qt::Key_F2);
+  EXPECT_TRUE(find("cmdJERSEY(4)").isVisible()) << "all five can have assisted";
+  key(Qt::Key_Escape);
+  EXPECT_NE(label("lblSAID").find("20 Fay was not on court"), std::string::npos) << label("lblSAID");
+  key(Qt::Key_F2);
   EXPECT_TRUE(QTest::qWaitFor([this] { return window->findChild<QWidget*>(QStringLiteral("frmSUBST")); }));
 }
 
@@ -338,12 +302,11 @@ TEST_F(LiveWindowTest, AnotherGameWaitsForTheFirst) {
   const QString sides = find<QToolButton>("cmdCOUL(0)").text();
   press("cmdSWITCH");
   ASSERT_NE(find<QToolButton>("cmdCOUL(0)").text(), sides);
-  ASSERT_EQ(window->open(toQt(other)), frmLIVE::Opening::Opened);
+  open(other);
   EXPECT_EQ(events(), "10:00,DEPART 09:40,ARRET 09:40,SPF,0-4");
   EXPECT_FALSE(folder.holds("stick/A.GAM.lock"));
   EXPECT_TRUE(folder.holds("B.GAM.lock"));
-  EXPECT_EQ(label("lblNO"), "");
-  EXPECT_EQ(label("lblTEMPS"), "10:00");
+  EXPECT_EQ(label("lblNO", "lblTEMPS"), "|10:00");
   EXPECT_EQ(find<QToolButton>("cmdCOUL(0)").text(), sides) << "a game begins with its own sides";
   GameLock elsewhere;
   ASSERT_EQ(elsewhere.acquire(plain, path), GameLock::Outcome::Held);
@@ -357,7 +320,6 @@ TEST_F(LiveWindowTest, AnotherGameWaitsForTheFirst) {
   GameFile file(theirs, path);
   ASSERT_EQ(file.append(1, 500, file.nextNumber(), {",GF3,1-4,60,80"}), GameFileProblem::None);
   EXPECT_TRUE(QTest::qWaitFor([&] { return label("lblPTS1") == "3"; }, 8000)) << "it follows the file";
-
   // Its lock stands still, so it is offered, refused, and taken when it has stood still once more.
   EXPECT_TRUE(QTest::qWaitFor([&] { return dialogs.shown.back().kind == ScriptedDialogs::Kind::Ask; }, 5000));
   EXPECT_TRUE(find("lblREADONLY").isVisible());
@@ -378,7 +340,6 @@ TEST_F(LiveWindowTest, TellsWhatOthersDidToTheFileAndWhoHasTakenIt) {
   fs::remove(path);
   EXPECT_TRUE(QTest::qWaitFor([&] { return find("picFOREIGN").isVisible(); }, 8000)) << "without a click";
   EXPECT_TRUE(fs::exists(path));
-
   LockFile thief(path + ".lock");
   ASSERT_EQ(thief.takeOver(thief.look()), LockFile::Outcome::Held);
   const std::string before = folder.read("stick/A.GAM");
@@ -396,12 +357,11 @@ TEST_F(LiveWindowTest, TellsWhatOthersDidToTheFileAndWhoHasTakenIt) {
 TEST_F(LiveWindowTest, PeriodsThatNoClockShowsAreRefused) {
   const std::string longest = folder.path("long.GAM");
   makeGame(longest);
-  for (const auto& [minutes, opening] :
-       {std::pair("100", frmLIVE::Opening::Refused), std::pair("99999999", frmLIVE::Opening::Refused),
-        std::pair("99", frmLIVE::Opening::Opened)}) {
+  for (const std::string minutes : {"100", "99999999", "99"}) {
+    const bool isShown = minutes == "99";
     ASSERT_EQ(GameFile(store, longest).setDetails({{"DUREE", minutes}}), GameFileProblem::None);
-    EXPECT_EQ(window->open(toQt(longest)), opening) << minutes;
-    EXPECT_EQ(window->path() == toQt(longest), opening == frmLIVE::Opening::Opened);
+    EXPECT_EQ(window->open(toQt(longest)), isShown ? frmLIVE::Opening::Opened : frmLIVE::Opening::Refused);
+    EXPECT_EQ(window->path() == toQt(longest), isShown);
   }
   ASSERT_EQ(dialogs.shown.size(), 2U);
   EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("100")));
@@ -410,13 +370,12 @@ TEST_F(LiveWindowTest, PeriodsThatNoClockShowsAreRefused) {
 TEST_F(LiveWindowTest, ACountThatIsTooLargeIsNamed) {
   const std::string many = folder.path("many.GAM");
   makeGame(many);
-  std::vector<std::string> turnovers(32'768, "10:00,STO,0-4");
   ProfileBatch batch;
-  GameFile::planLines(1, turnovers, batch);
+  GameFile::planLines(1, std::vector<std::string>(32'768, "10:00,STO,0-4"), batch);
   batch.set("DETAILS", "TERMINE", "0");
   store.Path(many);
   ASSERT_TRUE(store.write(batch));
-  ASSERT_EQ(window->open(toQt(many)), frmLIVE::Opening::Opened);
+  open(many);
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("many.GAM")));
   EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("4 TO"))) << dialogs.shown[0].text.toStdString();
@@ -434,26 +393,25 @@ TEST_F(LiveWindowTest, WhatCannotBeWrittenOpensForReading) {
   for (const std::string& name : {longName, std::string("protected.GAM")}) {
     SCOPED_TRACE(name.size());
     const std::string before = folder.read(name);
-    ASSERT_EQ(window->open(toQt(folder.path(name))), frmLIVE::Opening::Opened);
+    open(folder.path(name));
     EXPECT_FALSE(folder.holds("stick/A.GAM.lock"));
     const auto& reading = find<QLabel>("lblREADONLY");
     EXPECT_TRUE(reading.isVisible());
     EXPECT_LE(reading.fontMetrics().horizontalAdvance(reading.text()), reading.width());
-    EXPECT_EQ(label("lblPTS0"), "1");
-    EXPECT_EQ(label("lblNom(0)"), "Ann");
+    EXPECT_EQ(label("lblPTS0", "lblNom(0)"), "1|Ann");
     EXPECT_FALSE(find("cmdSTART").isEnabled() || find("cmdBUTF(0)").isEnabled() ||
                  find("CourtJ(0)").isEnabled() || find("cmdSUBST").isEnabled() ||
                  find("cmdOUTALL(0)").isEnabled() || find("UpDoPERIOD(0)").isEnabled());
     press("cmdBUTF(0)");
     press("CourtJ(0)");
-    QTest::keyClick(window.get(), Qt::Key_Space);
+    key(Qt::Key_Space);
     press(jerseyButtonName(5));
     EXPECT_FALSE(find("picSELECTED").isVisible());
     window->gameOver();
     EXPECT_TRUE(dialogs.shown.back().text.contains(toQt(name)));
     EXPECT_EQ(folder.read(name), before);
   }
-  ASSERT_EQ(window->open(toQt(path)), frmLIVE::Opening::Opened);
+  open(path);
   EXPECT_FALSE(find("lblREADONLY").isVisible());
   press("cmdBUTF(0)");
   EXPECT_EQ(events(), "10:00,GFT,0-4 10:00,SPF,0-4");
@@ -467,34 +425,27 @@ TEST_F(LiveWindowTest, AfterACrashOneClickTakesEitherClock) {
   const auto findCrashed = [&](std::chrono::seconds ago) {
     fs::copy_file(path, copy, fs::copy_options::overwrite_existing);
     fs::last_write_time(copy, fs::file_time_type::clock::now() - ago);
-    window = std::make_unique<frmLIVE>(store, settings, texts, dialogs, time);
-    EXPECT_EQ(window->open(toQt(copy)), frmLIVE::Opening::Opened);
-    show();
+    openAgain(copy);
     EXPECT_FALSE(window->isRunning());
-    EXPECT_EQ(label("lblTEMPS"), "08:30");
-    EXPECT_EQ(label("lblNom(0)"), "Ann") << "everyone is on court";
-    EXPECT_TRUE(find("picLOSTSTOP").isVisible());
+    EXPECT_EQ(label("lblTEMPS", "lblNom(0)"), "08:30|Ann");
     window->findChild<QAction*>(QStringLiteral("cmdFILTER"))->trigger();
     QLabel& notOnDisk = find<QLabel>("lblNOTONDISK");
     notOnDisk.show();
     EXPECT_LE(window->minimumSizeHint().height(), 645) << "768 lines would cut off what is below";
     notOnDisk.hide();
   };
-  using std::chrono::seconds;
-  findCrashed(seconds(32));
+  findCrashed(32s);
   EXPECT_TRUE(find<QPushButton>("cmdLASTCLOCK").text().endsWith(QStringLiteral("08:30")));
   press("cmdRUNONCLOCK");
   EXPECT_FALSE(find("picLOSTSTOP").isVisible());
   const std::string clock = label("lblTEMPS");
   EXPECT_TRUE(clock == "07:58" || clock == "07:57") << clock;
   EXPECT_EQ(eventsOf(copy), "10:00,DEPART 08:30,SPF,0-4 " + clock + ",ARRET");
-
-  findCrashed(seconds(32));
+  findCrashed(32s);
   press("cmdLASTCLOCK");
   EXPECT_FALSE(find("picLOSTSTOP").isVisible());
   EXPECT_EQ(eventsOf(copy), "10:00,DEPART 08:30,SPF,0-4 08:30,ARRET");
-
-  for (const seconds ago : {seconds(7'200), seconds(-7'200)}) { // the period is over; the file is of tomorrow
+  for (const auto ago : {2h, -2h}) { // the period is over; the file is of tomorrow
     findCrashed(ago);
     EXPECT_FALSE(find("cmdRUNONCLOCK").isVisible());
     press("cmdSTART");
@@ -505,12 +456,11 @@ TEST_F(LiveWindowTest, AfterACrashOneClickTakesEitherClock) {
 
 TEST_F(LiveWindowTest, TheBenchActsByClickAndDropAndAllAtOnce) {
   press(jerseyButtonName(5));
-  QTest::mouseClick(&find("cmdSELTF"), Qt::LeftButton);
+  press("cmdSELTF");
   EXPECT_EQ(events(), "10:00,STF,0-20");
   press(jerseyButtonName(5));
-  QTest::keyClick(window.get(), Qt::Key_Escape);
+  key(Qt::Key_Escape);
   EXPECT_EQ(label("lblNO"), "");
-
   const auto drop = [this](const char* player, const char* panel) {
     QMimeData data;
     data.setData(playerMimeType(), player);
@@ -534,9 +484,7 @@ TEST_F(LiveWindowTest, TheBenchActsByClickAndDropAndAllAtOnce) {
   press(jerseyButtonName(5)); // as a drag begins
   drop("0-6", "fraPLAYER(0)");
   EXPECT_EQ(events(), "10:00,STF,0-20 10:00,ARRET");
-  EXPECT_EQ(label("lblNO"), "");
-  EXPECT_EQ(label("lblNom(4)"), "Fay");
-  EXPECT_EQ(label("lblNom(0)"), "Bea");
+  EXPECT_EQ(label("lblNO", "lblNom(4)", "lblNom(0)"), "|Fay|Bea");
   press("cmdOUTALL(1)");
   EXPECT_EQ(label("lblID(5)"), "0");
   EXPECT_FALSE(find("cmdOUTALL(1)").isEnabled());
@@ -546,15 +494,15 @@ TEST_F(LiveWindowTest, TheClocksKeyIsTheClocksWhileSeveralAreChosen) {
   press("cmdSEVERAL");
   QWidget& several = find("frmSUBST");
   ASSERT_TRUE(QTest::qWaitForWindowActive(&several));
-  const auto chosen = [&several](int player) {
-    return several.findChild<JerseyButton*>(jerseyButtonName(player))->isChecked();
+  const auto jersey = [&](int player) {
+    return &LiveRoom::find<JerseyButton>(several, jerseyButtonName(player));
   };
-  QTest::mouseClick(several.findChild<QWidget*>(jerseyButtonName(0)), Qt::LeftButton);
-  QTest::mouseClick(several.findChild<QWidget*>(jerseyButtonName(5)), Qt::LeftButton);
-  several.findChild<QWidget*>(jerseyButtonName(1))->setFocus();
+  QTest::mouseClick(jersey(0), Qt::LeftButton);
+  QTest::mouseClick(jersey(5), Qt::LeftButton);
+  jersey(1)->setFocus();
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
   EXPECT_TRUE(window->isRunning());
-  EXPECT_TRUE(chosen(1)) << "the key presses nobody";
+  EXPECT_TRUE(jersey(1)->isChecked()) << "the key presses nobody";
   time.now += 3;
   QTest::keyClick(&several, Qt::Key_Return);
   EXPECT_EQ(events(), "10:00,DEPART 09:57,ARRET 09:57,DEPART");
@@ -578,11 +526,11 @@ TEST_F(LiveWindowTest, FreeThrowsAfterTheBuzzerGoToTheEndedPeriod) {
   EXPECT_TRUE(find("lblSAID").isVisible());
   time.now += 4;
   EXPECT_TRUE(QTest::qWaitFor([this] { return find("cmdNEXT").isEnabled(); }));
-  QTest::keyClick(window.get(), Qt::Key_Escape);
+  key(Qt::Key_Escape);
   EXPECT_FALSE(find("picPERIODEND").isVisible());
-  QTest::keyClick(window.get(), Qt::Key_F3);
+  key(Qt::Key_F3);
   EXPECT_EQ(label("lblTEMPS"), "00:00");
-  QTest::keyClick(window.get(), Qt::Key_F3);
+  key(Qt::Key_F3);
   EXPECT_EQ(label("lblTEMPS"), "00:00") << "there is nothing to return to";
   press("cmdBUTFT(0)");
   toggleClock();
@@ -625,8 +573,7 @@ TEST_F(LiveWindowTest, WhoIsSelectedComesIntoAnEmptyPlace) {
   window->restoreArrangement("rows-change places-stay");
   press(jerseyButtonName(4));
   press("fraPLAYER(3)");
-  EXPECT_EQ(label("lblNom(3)"), "Eve") << "where places stay";
-  EXPECT_EQ(label("lblNom(0)"), "Fay");
+  EXPECT_EQ(label("lblNom(3)", "lblNom(0)"), "Eve|Fay") << "where places stay";
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "court/CourtView.h"
+#include "manual/TotalsTable.h"
 #include "manual/frmMANUAL.h"
 #include "settings/Settings.h"
 #include "support/ScriptedDialogs.h"
@@ -10,7 +12,9 @@
 #include "support/TextGame.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <memory>
@@ -22,7 +26,8 @@ class OpenManualGame : public testing::Test {
   void SetUp() override {
     Theme::apply(*qApp, ColourScheme::Light);
     (void)settings.prepare(texts);
-    path = folder.write("A.GAM", textOfGame("", "INPUTTYPE=1\n"));
+    path = folder.path("A.GAM");
+    ASSERT_NO_FATAL_FAILURE(makeGame());
     window = std::make_unique<frmMANUAL>(store, settings, texts, dialogs);
     window->resize(1350, 640);
     window->show();
@@ -30,14 +35,19 @@ class OpenManualGame : public testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     ASSERT_TRUE(window->open(toQt(path)));
   }
-
+  virtual void makeGame() { folder.write("A.GAM", textOfGame("", "INPUTTYPE=1\n")); }
   template <class Widget>
-  Widget& find(const char* name) const {
-    auto* found = window->findChild<Widget*>(QLatin1String(name));
+  Widget& find(const std::string& name) const {
+    auto* found = window->findChild<Widget*>(toQt(name));
     EXPECT_NE(found, nullptr) << name;
     return *found;
   }
-  std::string shown(const char* label) const { return fromQt(find<QLabel>(label).text()); }
+  QLabel& nameOf(int slot) const { return find<QLabel>("lblNom(" + std::to_string(slot) + ")"); }
+  TotalsTable& table() const { return find<TotalsTable>("tblTOTALS"); }
+  // Texts of labels, with a stroke between two of them.
+  std::string shown(const char* first, auto... others) const {
+    return (fromQt(find<QLabel>(first).text()) + ... + ("|" + fromQt(find<QLabel>(others).text())));
+  }
 
   TemporaryFolder folder;
   std::string path;

@@ -1,53 +1,24 @@
 // Real games, entered as totals through the window with clicks and keys as from a paper sheet, must give the
 // official box score to every reader of the file.
-#include "manual/frmMANUAL.h"
+#include "manual/OpenManualGame.h"
 
-#include "appearance/Theme.h"
-#include "appearance/relabel.h"
-#include "court/CourtView.h"
 #include "game/CourtClick.h"
-#include "manual/TotalsTable.h"
-#include "settings/Settings.h"
 #include "support/OfficialBox.h"
-#include "support/ScriptedDialogs.h"
 #include "support/SharedGames.h"
-#include "support/TemporaryFolder.h"
-#include "support/TextGame.h"
-
-#include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QTest>
-#include <gtest/gtest.h>
 
 namespace hooptab {
 namespace {
 
-class ManualTruth : public testing::TestWithParam<std::filesystem::path> {
+class ManualTruth : public OpenManualGame, public testing::WithParamInterface<std::filesystem::path> {
  protected:
-  void SetUp() override {
-    Theme::apply(*qApp, ColourScheme::Light);
-    (void)settings.prepare(texts);
+  void makeGame() override {
     ASSERT_EQ(GameFile(store, GetParam().string()).read(played), GameFileProblem::None);
     counted = tallied(played);
     GameDetails details = played.details;
     details.inputType = 1;
-    path = folder.path("entered.GAM");
     ASSERT_EQ(GameFile(store, path).create(details, played.roster[0].players(), played.roster[1].players()),
               GameFileProblem::None);
-    window.resize(1350, 640);
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    ASSERT_TRUE(window.open(toQt(path)));
   }
-
-  template <class Widget>
-  Widget& find(const std::string& name) const {
-    return *window.findChild<Widget*>(toQt(name));
-  }
-  TotalsTable& table() const { return find<TotalsTable>("tblTOTALS"); }
-
   // Whatever the zones of the court take for what it was: the rest is typed.
   void placeShots(std::uint8_t team, int player) {
     auto& view = find<CourtView>("Court");
@@ -59,32 +30,29 @@ class ManualTruth : public testing::TestWithParam<std::filesystem::path> {
       if (shot.team != team || shot.player != player || !shot.hasPlace || !click || !isInPicture ||
           (click->kind == EventCode::GF3) != shot.isThree)
         continue;
-      const QPoint spot = pixelOf(view, place);
-      QTest::mouseClick(&view, shot.isMade ? Qt::LeftButton : Qt::RightButton, {}, spot);
+      QTest::mouseClick(&view, shot.isMade ? Qt::LeftButton : Qt::RightButton, {}, pixelOf(view, place));
       ++placed;
     }
   }
   static QPoint pixelOf(const CourtView& court, court::Place place) {
-    const auto unitAt = [&](int x, int y) { return court.placeAt(QPointF(x, y)); };
+    const auto unitAt = [&](QPoint spot) { return *court.placeAt(QPointF(spot)); };
     QPoint spot = court.rect().center();
-    while (unitAt(spot.x(), spot.y())->x < place.x)
+    while (unitAt(spot).x < place.x)
       spot.rx() += 1;
-    while (unitAt(spot.x(), spot.y())->x >= place.x + 1)
+    while (unitAt(spot).x >= place.x + 1)
       spot.rx() -= 1;
-    while (unitAt(spot.x(), spot.y())->y < place.y)
+    while (unitAt(spot).y < place.y)
       spot.ry() += 1;
-    while (unitAt(spot.x(), spot.y())->y >= place.y + 1)
+    while (unitAt(spot).y >= place.y + 1)
       spot.ry() -= 1;
     return spot;
   }
-
   void enter(std::size_t team, int player) {
     const Counters& counts = counted.players[team][static_cast<std::size_t>(player)].counters;
-    const auto& name = find<QLabel>("lblNom(" + std::to_string(player) + ")");
     const auto& first =
         find<QLabel>((table().page() == 1 ? "lblFG(" : "lblA(") + std::to_string(player) + ")");
     QTest::mouseClick(&table(), Qt::LeftButton, {},
-                      QPoint(first.geometry().center().x(), name.geometry().center().y()));
+                      QPoint(first.geometry().center().x(), nameOf(player).geometry().center().y()));
     for (const ManualColumn& column : kManualColumns) {
       if (column.page != table().page())
         continue;
@@ -94,16 +62,8 @@ class ManualTruth : public testing::TestWithParam<std::filesystem::path> {
     }
   }
 
-  TemporaryFolder folder;
-  FileSystem files;
-  cinifile store{files};
-  Texts texts;
-  Settings settings{store, folder.path()};
-  ScriptedDialogs dialogs;
-  frmMANUAL window{store, settings, texts, dialogs};
   Game played;
   GameState counted;
-  std::string path;
   int placed = 0;
 };
 
@@ -114,8 +74,7 @@ TEST_P(ManualTruth, EnteredByHandGivesTheOfficialBox) {
         std::min<int>(static_cast<int>(played.roster[team].players().size()), Roster::kLargestEntry);
     for (int page = 1; page <= kManualPages; ++page) {
       for (int player = 1; player <= players; ++player) {
-        const auto& name = find<QLabel>("lblNom(" + std::to_string(player) + ")");
-        QTest::mouseClick(&table(), Qt::LeftButton, {}, name.geometry().center());
+        QTest::mouseClick(&table(), Qt::LeftButton, {}, nameOf(player).geometry().center());
         if (page == 1)
           placeShots(static_cast<std::uint8_t>(team), player);
         enter(team, player);
@@ -124,9 +83,8 @@ TEST_P(ManualTruth, EnteredByHandGivesTheOfficialBox) {
     }
   }
   EXPECT_GT(placed, 50);
-  window.save();
+  window->save();
   EXPECT_TRUE(dialogs.shown.empty());
-
   Game entered;
   ASSERT_EQ(GameFile(store, path).read(entered), GameFileProblem::None);
   EXPECT_TRUE(entered.details.isFinished);

@@ -38,7 +38,6 @@
 #include <map>
 #include <regex>
 #include <set>
-#include <type_traits>
 
 namespace hooptab {
 namespace {
@@ -59,12 +58,20 @@ class ReportPagesTest : public testing::Test {
   Report scorecard(const Game& game) {
     return scorecardReport(game, tallied(game), ScorecardView(texts), settings, texts);
   }
-  Game realGame() {
-    Game game;
-    if (const auto games = sharedGames(); !games.empty()) {
-      EXPECT_EQ(GameFile(store, games.front().string()).read(game), GameFileProblem::None);
+  // What pdftotext reads of a report.
+  std::string pdfText(const Report& report) {
+    const std::string path = folder.write("report.pdf", reportPdf(report, kA4));
+    return output("pdftotext", {QStringLiteral("-layout"), toQt(path), QStringLiteral("-")});
+  }
+  // What stands behind a name in all lines in which at least so many words follow it.
+  static std::string behind(const std::string& name, const std::string& text, int words) {
+    std::string all;
+    for (std::size_t at = text.find(name); at != std::string::npos; at = text.find(name, at + 1)) {
+      const std::string line = text.substr(at, text.find('\n', at) - at).substr(name.size());
+      const std::string single = std::regex_replace(line, std::regex(" +"), " ");
+      all += std::ranges::count(single, ' ') >= words ? single : "";
     }
-    return game;
+    return all;
   }
   std::vector<Report> everyReport() {
     const Game shorter = crowdedGame(1); // a list of events needs no counters of three digits
@@ -103,8 +110,7 @@ class ReportPagesTest : public testing::Test {
   Settings settings{store, folder.path()};
 };
 
-// Whatever the paper: all texts on the page, none on another one, and each row once in each part of its
-// table.
+// Whatever the paper: all texts on the page, none on another one.
 TEST_F(ReportPagesTest, NothingLeavesThePageAndNothingOverlaps) {
   for (const Report& report : everyReport()) {
     for (const Paper paper : {Paper::A4, Paper::Letter}) {
@@ -171,10 +177,6 @@ TEST_F(ReportPagesTest, EveryRowStandsOnceInEachPartOfAWideTable) {
     EXPECT_GE(numbers, 2U) << "a total does not stand alone";
   }
   EXPECT_GE(parts, 2U);
-  QElapsedTimer time;
-  time.start();
-  EXPECT_FALSE(reportPdf(report, kA4).empty());
-  RecordProperty("milliseconds", static_cast<int>(time.elapsed()));
   for (int row = 0; row < 300; ++row) {
     EXPECT_EQ(found[QStringLiteral("R%1").arg(row)], static_cast<int>(parts)) << row;
     for (int column = 0; column < 60; ++column)
@@ -184,22 +186,20 @@ TEST_F(ReportPagesTest, EveryRowStandsOnceInEachPartOfAWideTable) {
 
 // What pdftotext reads of the page is what the box score says, in both languages.
 TEST_F(ReportPagesTest, ThePdfSaysWhatTheBoxScoreSays) {
-  const Game game = realGame();
-  if (game.path.empty() || isMissing("pdftotext"))
+  if (sharedGames().empty() || isMissing("pdftotext"))
     GTEST_SKIP() << "no real game, or no pdftotext";
+  Game game;
+  ASSERT_EQ(GameFile(store, sharedGames().front().string()).read(game), GameFileProblem::None);
   const GameState state = tallied(game);
   ScorecardView view(texts);
   view.show(game, state);
   for (const Language language : {Language::English, Language::French}) {
     texts.setLanguage(language);
-    const std::string path = folder.write("box.pdf", reportPdf(scorecard(game), kA4));
-    const std::string text =
-        output("pdftotext", {QStringLiteral("-layout"), toQt(path), QStringLiteral("-")});
+    const std::string text = pdfText(scorecard(game));
     EXPECT_NE(text.find(texts.text(Text::Scorecard)), std::string::npos);
     for (int team = 0; team < 2; ++team) {
       for (const BoxRow& row : boxRows(game, state, team, BoxView::Players, texts)) {
-        // The row may stand in parts; their numbers follow each other in the order of the columns. Kinds of
-        // shots that nobody tried are left out.
+        // The row may stand in parts that follow each other. Kinds of shots that nobody tried are left out.
         const ReportTable table = boxTable(game, state, team, view, settings, texts);
         std::set<std::string> untried;
         std::size_t first = 0;
@@ -216,15 +216,7 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheBoxScoreSays) {
           } else if (column != kTimeSortColumn && name != "No" && name != "Name")
             cells += (cells.empty() ? "" : " ") + boxCell(row, column);
         }
-        std::string printed;
-        for (std::size_t at = text.find(row.name); at != std::string::npos;
-             at = text.find(row.name, at + 1)) {
-          const std::string line =
-              text.substr(at + row.name.size(), text.find('\n', at) - at - row.name.size());
-          std::string words = std::regex_replace(line, std::regex(" +"), " ");
-          if (std::count(words.begin(), words.end(), ' ') >= 10) // a row of a box, no leader
-            printed += words;
-        }
+        const std::string printed = behind(row.name, text, 10); // in rows of a box, not among leaders
         EXPECT_NE(printed.find(cells), std::string::npos) << cells << "\n" << printed;
       }
     }
@@ -247,9 +239,7 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheTablesOfTheSeasonSay) {
     texts.setLanguage(language);
     for (const SeasonReport which : {SeasonReport::PlayerShots, SeasonReport::PlayerOther}) {
       const Report report = seasonReport(which, season, {}, settings, texts);
-      const std::string path = folder.write("season.pdf", reportPdf(report, kA4));
-      const std::string text =
-          output("pdftotext", {QStringLiteral("-layout"), toQt(path), QStringLiteral("-")});
+      const std::string text = pdfText(report);
       for (const SeasonRow& row : season.players()) {
         std::string cells;
         for (const SeasonView table : kSeasonViews) {
@@ -258,20 +248,13 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheTablesOfTheSeasonSay) {
               cells += ' ' + seasonCell(row, seasonColumn(column.name).index, table, texts);
           }
         }
-        std::string printed;
-        for (std::size_t at = text.find(row.name); at != std::string::npos;
-             at = text.find(row.name, at + 1)) {
-          const std::size_t end = at + row.name.size();
-          printed += std::regex_replace(text.substr(end, text.find('\n', end) - end), std::regex(" +"), " ");
-        }
-        EXPECT_EQ(printed, cells) << row.name;
+        EXPECT_EQ(behind(row.name, text, 0), cells) << row.name;
       }
     }
   }
 }
 
-// Names of sixty letters take more lines rather than one more part of the table; what nobody tried takes no
-// room, but stands in files; and leaders stand below each other.
+// What nobody tried takes no room, but stands in files; leaders stand below each other.
 TEST_F(ReportPagesTest, ReportsTakeNoMoreRoomThanTheyNeed) {
   const auto textsOf = [](const Report& report) {
     ReportLayout layout(report, kA4);
@@ -287,7 +270,6 @@ TEST_F(ReportPagesTest, ReportsTakeNoMoreRoomThanTheyNeed) {
   const std::vector<PageText> crowded = textsOf(scorecard(crowdedGame()));
   EXPECT_TRUE(holds(crowded, "(2/2)"));
   EXPECT_FALSE(holds(crowded, "/3)"));
-
   const Report few =
       scorecard(gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=08:00,GDKA,1-3\n")));
   const std::vector<PageText> page = textsOf(few);
@@ -295,7 +277,6 @@ TEST_F(ReportPagesTest, ReportsTakeNoMoreRoomThanTheyNeed) {
   EXPECT_TRUE(holds(page, "DKM")) << "one that was missed was tried";
   EXPECT_FALSE(holds(page, "LLM"));
   EXPECT_NE(reportCsv(few).front().bytes.find("LLM"), std::string::npos);
-
   SeasonFolder games;
   games.addGame("a.GAM", "2026-10-02",
                 "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40,50\n3=08:00,GF3,0-5\n"
@@ -315,8 +296,7 @@ TEST_F(ReportPagesTest, AScorecardIsAPdfInLessThanThreeTenthsOfASecond) {
   (void)reportPdf(report, kA4); // fonts are found once
   QElapsedTimer time;
   time.start();
-  EXPECT_EQ(reportPdf(report, kA4).substr(0, 5), "%PDF-");
-  RecordProperty("milliseconds", static_cast<int>(time.elapsed()));
+  EXPECT_FALSE(reportPdf(report, kA4).empty());
   EXPECT_LT(time.elapsed(), 1500) << "asked for are 300 ms; this machine may be busy";
 }
 
@@ -329,22 +309,17 @@ TEST_F(ReportPagesTest, AWorkbookHoldsNumbersAsNumbersAndNamesAsText) {
   const auto part = [&](const char* name) {
     return output("unzip", {QStringLiteral("-p"), path, QLatin1String(name)});
   };
-  std::string box;
   for (int sheet = 1; sheet <= 6; ++sheet) {
     const std::string xml = part(("xl/worksheets/sheet" + std::to_string(sheet) + ".xml").c_str());
     ASSERT_FALSE(xml.empty()) << "a sheet for each of the six tables";
     EXPECT_EQ(xml.find("<f>"), std::string::npos) << "no formula anywhere";
     EXPECT_NE(xml.find("state=\"frozen\""), std::string::npos);
-    if (sheet == 5)
-      box = xml;
+    // The second team's fifth player made one three of one: F3% stands as 1 in the format of percentages.
+    EXPECT_TRUE(sheet != 5 || std::regex_search(xml, std::regex("<c r=\"[A-Z]+8\" s=\"\\d+\"><v>1</v></c>")));
   }
   const std::string strings = part("xl/sharedStrings.xml");
   for (const char* name : {"=SUM(A1)", "&lt;script&gt;", "+Plus", "-Minus", "@At"})
     EXPECT_NE(strings.find(name), std::string::npos) << name;
-  // The second team's fifth player made one three of one: F3% stands as 1 in the format of percentages.
-  EXPECT_TRUE(std::regex_search(box, std::regex("<c r=\"[A-Z]+8\" s=\"\\d+\"><v>1</v></c>")))
-      << box.substr(0, 2000);
-  EXPECT_NE(part("xl/styles.xml").find("0.0%"), std::string::npos);
 }
 
 // The disk fails at the n-th call: the old file stands whole, or the new one.
@@ -419,8 +394,7 @@ TEST_F(ReportPagesTest, APrintedFormHasItsMarksAndDigitsWhereTheLayoutSays) {
     painter.end();
     const QPointF origin((image.width() / kDotsPerMillimetre - FormLayout::kWidth) / 2,
                          (image.height() / kDotsPerMillimetre - FormLayout::kHeight) / 2);
-    EXPECT_GE(origin.x(), 5);
-    EXPECT_GE(origin.y(), 5);
+    EXPECT_GE(std::min(origin.x(), origin.y()), 5);
     const auto isBlack = [&](const FormRect& rect) {
       const QPointF centre =
           (origin + QPointF(rect.x + rect.width / 2, rect.y + rect.height / 2)) * kDotsPerMillimetre;
@@ -488,17 +462,12 @@ class PreviewTest : public ReportPagesTest {
     ASSERT_TRUE(
         QTest::qWaitFor([&] { return std::exchange(before, pages()) == pages() && pages() > 1; }, 20000));
   }
-
   // Files and printers are served on another thread.
   void waitForOutput() {
     ASSERT_TRUE(QTest::qWaitFor([&] { return !output.isBusy(); }, 30000));
   }
-  template <class Widget>
   void clickAndWait(const char* name) {
-    if constexpr (std::is_same_v<Widget, QAction>)
-      find<QAction>(name).trigger();
-    else
-      find<Widget>(name).click();
+    find<QPushButton>(name).click();
     waitForOutput();
   }
 
@@ -512,13 +481,14 @@ class PreviewTest : public ReportPagesTest {
 
 TEST_F(PreviewTest, ShowsPagesAndGoesThroughThem) {
   waitForPages();
+  auto& page = find<QSpinBox>("txtPAGE");
   find<QToolButton>("cmdLAST").click();
-  EXPECT_EQ(find<QSpinBox>("txtPAGE").value(), pages());
+  EXPECT_EQ(page.value(), pages());
   find<QToolButton>("cmdFIRST").click();
-  EXPECT_EQ(find<QSpinBox>("txtPAGE").value(), 1);
-  find<QSpinBox>("txtPAGE").setValue(2);
+  EXPECT_EQ(page.value(), 1);
+  page.setValue(2);
   find<QToolButton>("cmdNEXT").click();
-  EXPECT_EQ(find<QSpinBox>("txtPAGE").value(), 3);
+  EXPECT_EQ(page.value(), 3);
   find<QToolButton>("cmdFACING").setChecked(true);
   find<QComboBox>("cmbZOOM").setCurrentIndex(4);
   emit find<QComboBox>("cmbZOOM").activated(4);
@@ -532,43 +502,44 @@ TEST_F(PreviewTest, ShowsPagesAndGoesThroughThem) {
 }
 
 TEST_F(PreviewTest, TheTitleIsTheUsersAndTheRestFollowsTheLanguage) {
-  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(Text::Scorecard)));
+  auto& title = find<QLineEdit>("txtTITLE");
+  EXPECT_EQ(title.text(), toQt(texts.text(Text::Scorecard)));
   texts.setLanguage(Language::French);
   window->relabelWindow();
-  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(Text::Scorecard)));
-  find<QLineEdit>("txtTITLE").setFocus();
-  find<QLineEdit>("txtTITLE").selectAll();
-  QTest::keyClicks(&find<QLineEdit>("txtTITLE"), QStringLiteral("Final of the cup"));
+  EXPECT_EQ(title.text(), toQt(texts.text(Text::Scorecard)));
+  title.setFocus();
+  title.selectAll();
+  QTest::keyClicks(&title, QStringLiteral("Final of the cup"));
   texts.setLanguage(Language::English);
   window->relabelWindow();
-  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), QStringLiteral("Final of the cup"));
+  EXPECT_EQ(title.text(), QStringLiteral("Final of the cup"));
   dialogs.nextFileToSave = toQt(folder.path("x.html"));
-  clickAndWait<QAction>("mnuHTML");
+  find<QAction>("mnuHTML").trigger();
+  waitForOutput();
   EXPECT_NE(folder.read("x.html").find("<h1>Final of the cup</h1>"), std::string::npos);
   find<QComboBox>("cmbREPORT").setCurrentIndex(1);
-  EXPECT_EQ(find<QLineEdit>("txtTITLE").text(), toQt(texts.text(Text::PlayByPlay)))
-      << "another report, another title";
+  EXPECT_EQ(title.text(), toQt(texts.text(Text::PlayByPlay)));
 }
 
 TEST_F(PreviewTest, SavesEveryFormAndAsksBeforeItReplaces) {
   QSignalSpy reported(&output, &ReportOutput::reported);
   for (const char* ending : {"XLSX", "CSV", "HTML", "PNG"}) {
     dialogs.nextFileToSave = toQt(folder.path(std::string("box.") + ending));
-    clickAndWait<QAction>((std::string("mnu") + ending).c_str());
+    find<QAction>((std::string("mnu") + ending).c_str()).trigger();
+    waitForOutput();
     EXPECT_TRUE(folder.holds(std::string("box.") + ending)) << ending;
   }
   EXPECT_EQ(reported.size(), 4);
   (void)folder.write("box.pdf", "mine");
   dialogs.nextFileToSave = toQt(folder.path("box.pdf"));
-  clickAndWait<QPushButton>("cmdPDF");
+  clickAndWait("cmdPDF");
   EXPECT_EQ(folder.read("box.pdf"), "mine") << "asked, and answered with No";
   EXPECT_EQ(dialogs.shown.back().kind, ScriptedDialogs::Kind::Ask);
   dialogs.nextAnswer = true;
-  clickAndWait<QPushButton>("cmdPDF");
+  clickAndWait("cmdPDF");
   EXPECT_EQ(folder.read("box.pdf").substr(0, 5), "%PDF-");
-
   dialogs.nextFileToSave = toQt(folder.path("missing/box.pdf"));
-  clickAndWait<QPushButton>("cmdPDF");
+  clickAndWait("cmdPDF");
   EXPECT_EQ(dialogs.shown.back().kind, ScriptedDialogs::Kind::Complain);
   find<QComboBox>("cmbREPORT").setCurrentIndex(2);
   EXPECT_FALSE(find<QAction>("mnuCSV").isEnabled()) << "a form has no table";
@@ -576,25 +547,25 @@ TEST_F(PreviewTest, SavesEveryFormAndAsksBeforeItReplaces) {
 }
 
 TEST_F(PreviewTest, PrintsTheChosenPagesAndTellsWhenThePrinterRefuses) {
-  clickAndWait<QPushButton>("cmdPRINT");
+  clickAndWait("cmdPRINT");
   EXPECT_GT(printers.asked, 1) << "all pages are counted before the printer is chosen";
   EXPECT_TRUE(dialogs.shown.empty()) << "cancelled";
   printers.file = toQt(folder.path("printed.pdf"));
   printers.from = 2;
   printers.to = 3;
-  clickAndWait<QPushButton>("cmdPRINT");
+  clickAndWait("cmdPRINT");
   EXPECT_TRUE(dialogs.shown.empty());
   const std::string pdf = folder.read("printed.pdf");
   const std::regex page("/Type\\s*/Page[^s]");
   EXPECT_EQ(std::distance(std::sregex_iterator(pdf.begin(), pdf.end(), page), {}), 2);
   printers.file = toQt(folder.path("missing/printed.pdf"));
-  clickAndWait<QPushButton>("cmdPRINT");
+  clickAndWait("cmdPRINT");
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_EQ(dialogs.shown[0].title, toQt(texts.text(Text::PrinterError)));
   EXPECT_EQ(dialogs.shown[0].text, toQt(texts.text(Text::NotPrinted)));
   printers.isInstalled = false;
   printers.asked = 0;
-  clickAndWait<QPushButton>("cmdPRINT");
+  clickAndWait("cmdPRINT");
   EXPECT_EQ(dialogs.shown.back().text, toQt(texts.text(Text::NoPrinter)));
   EXPECT_EQ(printers.asked, 0);
 }

@@ -1,4 +1,4 @@
-// A live game that begins with the text of its file, for tests of what is done at the scorer's table.
+// A live game and its file, for tests of what is done at the scorer's table.
 #pragma once
 
 #include "recording/LiveGame.h"
@@ -11,12 +11,48 @@
 
 namespace hooptab {
 
+class TableDisk : public FaultyFileSystem {
+ public:
+  bool syncs = true; // where a test has very many writes, and nothing looks at what a power cut would leave
+  int sync(int descriptor) override { return syncs ? FaultyFileSystem::sync(descriptor) : 0; }
+};
+
 class LiveTableTest : public testing::Test {
  protected:
+  using Phase = LiveGame::Phase;
+
   // PAN 4 5 10 12 15 0 00, OLY 3 7 8 11 22.
   void open(const std::string& game) {
     path = folder.write("live.GAM", game);
     ASSERT_EQ(live.open(path), GameFileProblem::None);
+  }
+  // Four periods of ten minutes.
+  static GameDetails regular() {
+    GameDetails details;
+    details.periods = 4;
+    details.minutesPerPeriod = 10;
+    return details;
+  }
+  // A new game of "Player 4" and so on.
+  void create(const GameDetails& details, const std::string& visitors, const std::string& home) {
+    const auto wearing = [](const std::string& jerseys) {
+      std::vector<RosterPlayer> players;
+      std::istringstream numbers(jerseys);
+      for (std::string jersey; numbers >> jersey;)
+        players.push_back({jersey, 0, "Player " + jersey});
+      return players;
+    };
+    ASSERT_EQ(GameFile(store, path).create(details, wearing(visitors), wearing(home)), GameFileProblem::None);
+    ASSERT_EQ(live.open(path), GameFileProblem::None);
+  }
+  void putFives() { ASSERT_TRUE(live.setOnCourt({kFive, kFive})); }
+  void pass(int seconds) {
+    time.now += seconds;
+    live.tick();
+  }
+  void run(int seconds) {
+    live.start();
+    pass(seconds);
   }
   std::string places(LiveGame& game, int team = 0) const {
     std::string text;
@@ -29,15 +65,28 @@ class LiveTableTest : public testing::Test {
     EXPECT_EQ(GameFile(store, path).read(game), GameFileProblem::None);
     return game;
   }
+  // The lines of a period on disk, keys left out, each behind a blank; all or the last ones.
+  std::string lines(int period = 1, std::size_t last = SIZE_MAX) {
+    EventLines found;
+    EXPECT_EQ(GameFile(store, path).readLines(found), GameFileProblem::None);
+    const PeriodLines& all = found[period];
+    std::string text;
+    for (std::size_t place = all.size() - std::min(last, all.size()); place < all.size(); ++place)
+      text += ' ' + all[place].second;
+    return text;
+  }
+  std::string last(std::size_t count) { return lines(1, count); }
   static constexpr unsigned kFive = 0b111110; // entries 1 to 5
+  static inline const std::string kFives = ",ARRET,IN-04-05-10-12-15,IN-04-05-10-12-15";
   static inline const std::string kBegin = "[PERIODE1]\n1=10:00,ARRET,IN-,IN-\n";
 
   TemporaryFolder folder;
-  FaultyFileSystem disk;
+  TableDisk disk;
   cinifile store{disk};
   ManualTime time;
-  std::string path;
+  std::string path = folder.path("live.GAM");
   LiveGame live{store, time};
+  Texts texts;
 };
 
 } // namespace hooptab

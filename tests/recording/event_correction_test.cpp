@@ -25,7 +25,6 @@ class EventCorrectionTest : public LiveTableTest {
   }
 
   EventCorrection correction;
-  Texts texts;
 };
 
 TEST_F(EventCorrectionTest, EachStepIsOneToUndoAndLeavesClockAndPlaceInTheGame) {

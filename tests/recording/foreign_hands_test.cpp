@@ -1,33 +1,22 @@
 // What becomes of a game that is being recorded when others change its file.
-#include "recording/LiveGame.h"
-#include "recording/ManualTime.h"
-#include "support/FaultyFileSystem.h"
-#include "support/TemporaryFolder.h"
+#include "recording/LiveTable.h"
 
 #include <filesystem>
 #include <functional>
-#include <gtest/gtest.h>
 
 namespace hooptab {
 namespace {
 
 namespace fs = std::filesystem;
 
-class ForeignHandsTest : public testing::Test {
+class ForeignHandsTest : public LiveTableTest {
  protected:
   void SetUp() override {
-    GameDetails details;
-    details.periods = 4;
-    details.minutesPerPeriod = 10;
-    const std::vector<RosterPlayer> players = {{"4", 0, "A"},  {"5", 1, "B"},  {"10", 2, "C"},
-                                               {"12", 2, "D"}, {"15", 1, "E"}, {"7", 1, "F"}};
-    ASSERT_EQ(GameFile(store, path).create(details, players, players), GameFileProblem::None);
-    ASSERT_EQ(live.open(path), GameFileProblem::None);
+    create(regular(), "4 5 10 12 15 7", "4 5 10 12 15 7");
     live.disk().setRescueFolder(rescue.path());
-    constexpr unsigned kFive = 0b111110;
-    ASSERT_TRUE(live.setOnCourt({kFive, kFive})); // 2
-    score();                                      // 3
-    score();                                      // 4
+    putFives(); // 2
+    score();    // 3
+    score();    // 4
   }
   void score() { ASSERT_TRUE(live.recordShot(0, 1, EventCode::GFT, true)); }
   // Another program's way of adding a line, as a text editor would save it.
@@ -38,17 +27,17 @@ class ForeignHandsTest : public testing::Test {
     folder.write("live.GAM", text.replace(text.find(what), what.size(), by));
   }
   // Period 1 as another reader finds it: number and code of each.
-  std::string onDisk(const std::string& file) {
+  std::string found() { return found(path); }
+  std::string found(const std::string& file) {
     FileSystem own;
     cinifile fresh(own);
-    EventLines lines;
-    EXPECT_EQ(GameFile(fresh, file).readLines(lines), GameFileProblem::None);
+    EventLines read;
+    EXPECT_EQ(GameFile(fresh, file).readLines(read), GameFileProblem::None);
     std::string text;
-    for (const auto& [key, line] : lines[1])
+    for (const auto& [key, line] : read[1])
       text += key + line.substr(5, line.starts_with("10:00,ARRET") ? 6 : 20) + ' ';
     return text;
   }
-  std::string onDisk() { return onDisk(path); }
   // What is counted here is what anybody finds who opens the file.
   void expectTruth() {
     FileSystem own;
@@ -63,14 +52,8 @@ class ForeignHandsTest : public testing::Test {
     EXPECT_TRUE(live.log().countsAgree());
     EXPECT_GE(game.details.nextEventNumber, live.log().nextNumber());
   }
-
   static constexpr const char* kOurs = "1,ARRET 2,ARRET 3,GFT,0-4 4,GFT,0-4 ";
-  TemporaryFolder folder, rescue;
-  FaultyFileSystem files;
-  cinifile store{files};
-  ManualTime time;
-  std::string path = folder.path("live.GAM");
-  LiveGame live{store, time};
+  TemporaryFolder rescue;
 };
 
 TEST_F(ForeignHandsTest, AnEventOfTheNextNumberIsTakenInAtTheNextLookAndCollidesAfterwards) {
@@ -86,14 +69,13 @@ TEST_F(ForeignHandsTest, AnEventOfTheNextNumberIsTakenInAtTheNextLookAndCollides
   append("4=10:00,SST,1-5");
   score(); // 7, before anybody has looked
   const ForeignHands hands = live.takeForeignHands();
-  EXPECT_EQ(hands.added, 1);
-  EXPECT_EQ(hands.restored, 0);
+  EXPECT_EQ(std::pair(hands.added, hands.restored), std::pair(1, 0));
   EXPECT_EQ(hands.gaveWay, (std::vector<GameMerge::GivenWay>{{1, "4"}, {1, "7"}, {1, "0"}}));
   const std::string kept = folder.read(fs::path(hands.keptAs).filename().string());
   EXPECT_NE(kept.find("7=10:00,GFT,1-5"), std::string::npos);
   EXPECT_NE(kept.find("4=10:00,SST,1-5"), std::string::npos) << "behind the line of that number that is read";
   score(); // 9: 8 is theirs
-  EXPECT_EQ(onDisk(), std::string(kOurs) + "5,GFT,1-5 6,GFT,0-4 7,GFT,0-4 8,SST,1-5 9,GFT,0-4 ");
+  EXPECT_EQ(found(), std::string(kOurs) + "5,GFT,1-5 6,GFT,0-4 7,GFT,0-4 8,SST,1-5 9,GFT,0-4 ");
   expectTruth();
   EXPECT_TRUE(live.undo() && live.undo()) << "what others added takes nothing away from undoing";
   EXPECT_EQ(live.state().points(0), 3);
@@ -114,7 +96,6 @@ TEST_F(ForeignHandsTest, AnOlderVersionLosesNothingOfOurs) {
   EXPECT_EQ(live.game().details.notes, "Notes of ours");
   EXPECT_EQ(live.game().details.teamColour[0], 255U);
   expectTruth();
-
   // What others say now is theirs, if it is not what the file said before.
   replace("NOTES=Notes of ours", "NOTES=Theirs");
   EXPECT_TRUE(live.settle());
@@ -126,16 +107,15 @@ TEST_F(ForeignHandsTest, AnOlderVersionLosesNothingOfOurs) {
 
 TEST_F(ForeignHandsTest, PlayersDetailsAndUnknownSectionsAreTheirs) {
   append("; a comment of theirs\r\n[ELSEWHERE]\r\nA=b");
-  replace("[0]\r\n4=0,A\r\n", "[0]\r\n9=1,New\r\n");
-  replace("5=1,B\r\n10=2,C", "5=1,Bea\r\n10=2,C");
+  replace("[0]\r\n4=0,Player 4\r\n", "[0]\r\n9=1,New\r\n");
+  replace("5=0,Player 5\r\n10=", "5=1,Bea\r\n10=");
   score();
   (void)live.takeForeignHands();
   const Roster& visitors = live.game().roster[0];
   EXPECT_EQ(visitors.player(1)->jersey, "9");
   EXPECT_EQ(visitors.player(visitors.entryOf("5"))->name, "Bea");
   ASSERT_GT(visitors.entryOf("4"), 0) << "who has scored cannot be missed";
-  EXPECT_EQ(live.slotOf(0, visitors.entryOf("4")).has_value(), true) << "he is still on court";
-  EXPECT_FALSE(live.slotOf(0, 1)) << "and the new one is not";
+  EXPECT_TRUE(live.slotOf(0, visitors.entryOf("4")) && !live.slotOf(0, 1)) << "nor leave the court";
   EXPECT_NE(folder.read("live.GAM").find("; a comment of theirs\r\n[ELSEWHERE]\r\nA=b"), std::string::npos);
   expectTruth();
 }
@@ -167,7 +147,7 @@ TEST_F(ForeignHandsTest, AFileThatCannotBeUsedIsWrittenAgainAndTheForeignOneKept
     score();
     all += std::to_string(number++) + ",GFT,0-4 ";
     EXPECT_TRUE(live.log().isOnDisk());
-    EXPECT_EQ(onDisk(), all);
+    EXPECT_EQ(found(), all);
     EXPECT_NE(folder.read("live.GAM").find("A=b"), std::string::npos) << "what others had added before";
     const ForeignHands hands = live.takeForeignHands();
     EXPECT_TRUE(hands.isRewritten || hands.restored > 0);
@@ -186,9 +166,8 @@ TEST_F(ForeignHandsTest, WhatTheDiskRefusesStandsInARescueFileUntilItTakesIt) {
   EXPECT_EQ(live.log().waiting(), 2U);
   const std::string rescued = live.disk().rescuedAs();
   ASSERT_EQ(fs::path(rescued).parent_path(), rescue.path());
-  EXPECT_EQ(onDisk(rescued), std::string(kOurs) + "5,GFT,0-4 6,GFT,0-4 ");
-  EXPECT_EQ(onDisk(), kOurs);
-
+  EXPECT_EQ(found(rescued), std::string(kOurs) + "5,GFT,0-4 6,GFT,0-4 ");
+  EXPECT_EQ(found(), kOurs);
   fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
   append("5=10:00,SST,1-5"); // and somebody has been there meanwhile
   EXPECT_TRUE(live.settle());
@@ -208,9 +187,9 @@ TEST_F(ForeignHandsTest, WhoeverHasLostTheFileWritesNothingThereAnyMore) {
   score();
   EXPECT_TRUE(live.disk().isLost());
   EXPECT_EQ(folder.read("live.GAM"), before);
-  EXPECT_EQ(onDisk(live.disk().rescuedAs()), std::string(kOurs) + "5,GFT,0-4 6,GFT,0-4 7,GFT,0-4 ");
+  EXPECT_EQ(found(live.disk().rescuedAs()), std::string(kOurs) + "5,GFT,0-4 6,GFT,0-4 7,GFT,0-4 ");
   EXPECT_TRUE(live.writeCopy(folder.path("copy.GAM")));
-  EXPECT_EQ(onDisk(folder.path("copy.GAM")), onDisk(live.disk().rescuedAs()));
+  EXPECT_EQ(found(folder.path("copy.GAM")), found(live.disk().rescuedAs()));
 }
 
 // As editors save: another file takes the name, at any moment of our own look and write. Only between the
@@ -219,17 +198,16 @@ TEST_F(ForeignHandsTest, WhatComesWhileWritingIsNotCovered) {
   int disturbed = 0;
   for (int call = 0;; ++call) {
     const std::string theirs = "SST,1-5,M" + std::to_string(call) + 'M';
-    files.calls = 0;
-    files.disturbedAt = call;
-    const int renames = files.renames;
+    disk.calls = 0;
+    disk.disturbedAt = call;
+    const int renames = disk.renames;
     bool isChangeOfNames = false;
     bool hasHappened = false;
-    files.disturbance = [&] {
+    disk.disturbance = [&] {
       hasHappened = true;
-      isChangeOfNames = files.renames > renames;
-      const std::string text =
-          folder.read("live.GAM") + std::to_string(1000 * (call + 1)) + "=10:00," + theirs;
-      folder.write("saved", text + "\r\n");
+      isChangeOfNames = disk.renames > renames;
+      const std::string number = std::to_string(1000 * (call + 1));
+      folder.write("saved", folder.read("live.GAM") + number + "=10:00," + theirs + "\r\n");
       fs::rename(folder.path("saved"), path);
     };
     score();
@@ -253,11 +231,11 @@ TEST_F(ForeignHandsTest, AnyFailureWhileBringingTogetherLosesNeitherSide) {
   for (int call = 0; failed; ++call) {
     const std::string number = std::to_string(live.log().nextNumber());
     append(number + "=10:00,SST,1-5," + number);
-    files.reset();
-    files.failAt = call;
+    disk.reset();
+    disk.failAt = call;
     score();
-    failed = files.hasFailed;
-    files.reset();
+    failed = disk.hasFailed;
+    disk.reset();
     EXPECT_TRUE(live.settle());
     bool isKept = false;
     for (const auto& entry : fs::directory_iterator(folder.path())) {

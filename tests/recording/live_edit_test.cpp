@@ -1,14 +1,8 @@
 // Editing a recorded game: events put in, changed, moved and deleted, with all that depends on them.
 #include "game/ShotFollowUp.h"
 #include "recording/ConflictWords.h"
-#include "recording/LiveGame.h"
-#include "recording/OnCourt.h"
+#include "recording/LiveTable.h"
 
-#include "recording/ManualTime.h"
-#include "support/TemporaryFolder.h"
-#include "support/TextGame.h"
-
-#include <gtest/gtest.h>
 #include <random>
 
 namespace hooptab {
@@ -16,41 +10,25 @@ namespace {
 
 using Where = LiveGame::Where;
 
-class UnsyncedFileSystem : public FileSystem {
- public:
-  int sync(int) override { return 0; }
-};
-
-class LiveEditTest : public testing::Test {
+class LiveEditTest : public LiveTableTest {
  protected:
   void SetUp() override {
-    GameDetails details;
-    details.periods = 4;
-    details.minutesPerPeriod = 10;
-    const std::vector<RosterPlayer> players = {{"4", 0, "A"},  {"5", 1, "B"}, {"10", 2, "C"}, {"12", 2, "D"},
-                                               {"15", 1, "E"}, {"7", 1, "F"}, {"8", 1, "G"}};
-    ASSERT_EQ(GameFile(store, path).create(details, players, players), GameFileProblem::None);
-    ASSERT_EQ(live.open(path), GameFileProblem::None);
-    ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
-  }
-  void pass(int seconds) {
-    time.now += seconds;
-    live.tick();
+    disk.syncs = false;
+    create(regular(), "4 5 10 12 15 7 8", "4 5 10 12 15 7 8");
+    putFives();
   }
   // 3 start, 4 basket at 9:50, 5 assist, 6 foul at 9:30, 7 stop, 8 start, 9 stop at 9:00.
   void play() {
-    live.start();
-    pass(10);
+    run(10);
     live.recordShot(0, 1, EventCode::GLG, true);
     live.recordAction(0, 2, EventCode::SA);
     pass(20);
     live.recordAction(1, 3, EventCode::SPF);
     live.stop();
-    live.start();
-    pass(30);
+    run(30);
     live.stop();
   }
-  // Keys and lines of the file, "4=09:50,GLG,0-4", from a key on.
+  // Keys and lines of the file, "4=09:50,GLG,0-4".
   std::vector<std::string> lines() {
     std::vector<std::string> text;
     EventLines found;
@@ -60,22 +38,16 @@ class LiveEditTest : public testing::Test {
       text.push_back(key + '=' + line);
     return text;
   }
+  bool setDeleted(std::vector<EventPlace> events, bool isDeleted) {
+    return live.setDeleted(events, isDeleted);
+  }
   int seconds(int team, int player) const { return live.secondsOnCourt(team, player); }
-  static constexpr unsigned kFive = 0b111110; // entries 1 to 5
-
-  TemporaryFolder folder;
-  UnsyncedFileSystem disk;
-  cinifile store{disk};
-  ManualTime time;
-  std::string path = folder.path("live.GAM");
-  LiveGame live{store, time};
 };
 
 TEST_F(LiveEditTest, EventsArePutInChangedAndMoved) {
   play();
   EXPECT_TRUE(live.insertEvent({1, "6"}, Where::Before, 570, {EventCode::GF3, false, 1, 3, {{20, 30}}}));
-  EXPECT_TRUE(live.insertEvent({1, "6"}, Where::Behind, 590, {EventCode::SST, false, 1, 4}))
-      << "another time";
+  EXPECT_TRUE(live.insertEvent({1, "6"}, Where::Behind, 590, {EventCode::SST, false, 1, 4}));
   auto found = lines();
   EXPECT_EQ(found[5], "11=09:50,SST,1-12") << "behind the last of its time";
   EXPECT_EQ(found[6], "10=09:30,GF3A,1-10,20,30");
@@ -92,7 +64,6 @@ TEST_F(LiveEditTest, EventsArePutInChangedAndMoved) {
   EXPECT_EQ(lines()[5], "11=E09:50,SST,1-12") << "no line is lost";
   EXPECT_TRUE(live.redo());
   EXPECT_EQ(live.state().players[1][3].counters[Counter::F3A], 1);
-
   EXPECT_FALSE(live.setTime({1, "4"}, 601)) << "longer than the period";
   EXPECT_FALSE(live.insertEvent({1, "99"}, Where::Before, 500, {EventCode::SST, false, 0, 1}));
   EXPECT_FALSE(live.insertEvent({1, "4"}, Where::Before, 590, {EventCode::SST, false, 0, 9})) << "nobody";
@@ -105,22 +76,18 @@ TEST_F(LiveEditTest, AForgottenSubstitutionIsCarriedOn) {
   EXPECT_EQ(found[5], "10=09:30,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15");
   EXPECT_EQ(found[6], "11=09:30,DEPART") << "the clock ran";
   EXPECT_EQ(found.back(), "9=09:00,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15");
-  EXPECT_EQ(seconds(0, 1), 30);
-  EXPECT_EQ(seconds(0, 6), 30);
+  EXPECT_EQ(std::pair(seconds(0, 1), seconds(0, 6)), std::pair(30, 30));
   EXPECT_EQ(live.onCourt()[0], 0b1111100U);
   // Out a second time, or in twice.
   EXPECT_FALSE(live.insertSubstitution({1, "6"}, Where::Behind, {1U << 1U, 0}, {1U << 7U, 0}));
   EXPECT_EQ(live.conflict(), (CourtConflict{{1, "6"}, 0, 1U << 1U, true}));
   EXPECT_FALSE(live.insertSubstitution({1, "6"}, Where::Behind, {}, {1U << 7U, 0})) << "a sixth";
-  EXPECT_EQ(wordsOf(*live.conflict(), live.game(), Texts()),
+  EXPECT_EQ(wordsOf(*live.conflict(), live.game(), texts),
             "09:30 (Period 1): too many players of Visitor would be on court (5, 10, 12, 15, 7, 8)");
-
   // Earlier by its time: the players go with it.
   EXPECT_TRUE(live.setTime({1, "10"}, 595));
-  EXPECT_EQ(seconds(0, 1), 5);
-  EXPECT_EQ(seconds(0, 6), 55);
-  EXPECT_TRUE(live.undo());
-  EXPECT_TRUE(live.undo());
+  EXPECT_EQ(std::pair(seconds(0, 1), seconds(0, 6)), std::pair(5, 55));
+  EXPECT_TRUE(live.undo() && live.undo());
   EXPECT_EQ(seconds(0, 1), 60);
   EXPECT_EQ(live.onCourt()[0], kFive);
 }
@@ -130,17 +97,16 @@ TEST_F(LiveEditTest, AStartOfTheClockGoesWithItsSubstitution) {
   ASSERT_TRUE(live.insertSubstitution({1, "5"}, Where::Behind, {1U << 1U, 0}, {1U << 6U, 0}));
   const auto running = lines();
   EXPECT_EQ(seconds(0, 6), 50);
-  ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "10"}}, true));
+  ASSERT_TRUE(setDeleted({{1, "10"}}, true));
   EXPECT_EQ(lines()[5], "10=E09:50,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15");
   EXPECT_EQ(lines()[6], "11=E09:50,DEPART");
   EXPECT_EQ(seconds(0, 1), 60);
-  ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "10"}, {1, "11"}}, false));
+  ASSERT_TRUE(setDeleted({{1, "10"}, {1, "11"}}, false));
   EXPECT_EQ(lines(), running);
   EXPECT_TRUE(live.undo());
   EXPECT_EQ(lines()[6], "11=E09:50,DEPART") << "one step";
   EXPECT_TRUE(live.undo());
   EXPECT_EQ(lines(), running);
-
   ASSERT_TRUE(live.setTime({1, "10"}, 575)) << "and to another time";
   EXPECT_EQ(lines()[5], "10=09:35,ARRET,IN-05-07-10-12-15,IN-04-05-10-12-15");
   EXPECT_EQ(lines()[6], "11=09:35,DEPART");
@@ -151,7 +117,7 @@ TEST_F(LiveEditTest, AStartOfTheClockGoesWithItsSubstitution) {
   EXPECT_TRUE(live.undo());
   // A substitution while the clock stands leaves the start to whom started it.
   ASSERT_TRUE(live.insertSubstitution({1, "7"}, Where::Behind, {0, 1U << 1U}, {0, 1U << 6U}));
-  ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "12"}}, true));
+  ASSERT_TRUE(setDeleted({{1, "12"}}, true));
   EXPECT_FALSE(findLine(live.log().lines(), 1, "8")->starts_with('E'));
   EXPECT_TRUE(live.log().countsAgree());
 }
@@ -163,14 +129,12 @@ TEST_F(LiveEditTest, AnotherPlayerWentIn) {
   const EventPlace stop{1, "10"};
   // 8 instead of 7: at 9:00 he would come a second time, for one who is not there.
   EXPECT_FALSE(live.take(live.editing().newLists(stop, {0b10111100, kFive})));
-  EXPECT_EQ(wordsOf(*live.conflict(), live.game(), Texts()),
+  EXPECT_EQ(wordsOf(*live.conflict(), live.game(), texts),
             "09:00 (Period 1): 8 of Visitor would come in or leave twice");
   ASSERT_TRUE(live.take(live.editing().newLists(stop, {0b1110110, kFive}))) << "for 10";
   EXPECT_EQ(lines()[5], "10=09:30,ARRET,IN-04-05-07-12-15,IN-04-05-10-12-15");
   EXPECT_EQ(live.onCourt()[0], 0b11110010U) << "and later 8 for 5";
-  EXPECT_EQ(seconds(0, 1), 60);
-  EXPECT_EQ(seconds(0, 3), 30);
-  EXPECT_EQ(seconds(0, 6), 30);
+  EXPECT_EQ(std::tuple(seconds(0, 1), seconds(0, 3), seconds(0, 6)), std::tuple(60, 30, 30));
   EXPECT_TRUE(live.log().countsAgree());
   EXPECT_TRUE(live.undo());
   EXPECT_EQ(seconds(0, 1), 30);
@@ -179,12 +143,10 @@ TEST_F(LiveEditTest, AnotherPlayerWentIn) {
 TEST_F(LiveEditTest, ASubstitutionThatStopsHaveFollowedIsTakenBackThroughThem) {
   play();
   EXPECT_TRUE(live.insertSubstitution({1, "6"}, Where::Before, {1U << 1U, 0}, {1U << 6U, 0}));
-  live.start();
-  pass(540); // the stop came later, and is no action of the user
+  run(540); // the stop came later, and is no action of the user
   EXPECT_TRUE(live.insertEvent({1, "4"}, Where::Before, 595, {EventCode::STO, false, 1, 1}));
-  EXPECT_TRUE(live.undo());
-  EXPECT_TRUE(live.undo());
-  EXPECT_EQ(lines().back(), "13=00:00,ARRET,IN-04-05-10-12-15,IN-04-05-10-12-15");
+  EXPECT_TRUE(live.undo() && live.undo());
+  EXPECT_EQ(lines().back(), "13=00:00" + kFives);
   EXPECT_EQ(seconds(0, 1), 600);
   EXPECT_TRUE(live.redo());
   EXPECT_EQ(seconds(0, 1), 30);
@@ -198,23 +160,18 @@ TEST_F(LiveEditTest, AStopWithoutListsGetsThemBehindItsCode) {
 
 // As another program may have left it: what is there can be edited, and recording goes on within the limit.
 TEST_F(LiveEditTest, EventsOfAPeriodBehindTheLastAreEditedWhereTheyStand) {
-  const std::string file =
-      folder.write("late.GAM", textOfGame("[PERIODE300]\n1=05:00,SA,0-4\n2=04:00,ARRET,IN-04,IN-03\n"));
-  LiveGame late(store, time);
-  ASSERT_EQ(late.open(file), GameFileProblem::None);
-  EXPECT_EQ(late.period(), 255);
-  EXPECT_EQ(late.onCourt(), (OnCourt{0b10, 0b10}));
-  EXPECT_TRUE(late.editEvent({300, "1"}, 290, {EventCode::STO, false, 0, 2}));
-  EventLines found;
-  ASSERT_EQ(GameFile(store, file).readLines(found), GameFileProblem::None);
-  EXPECT_EQ(found[300].front().second, "04:50,STO,0-5");
-  EXPECT_EQ(late.game().events[0].period, 300);
+  open(textOfGame("[PERIODE300]\n1=05:00,SA,0-4\n2=04:00,ARRET,IN-04,IN-03\n"));
+  EXPECT_EQ(live.period(), 255);
+  EXPECT_EQ(live.onCourt(), (OnCourt{0b10, 0b10}));
+  EXPECT_TRUE(live.editEvent({300, "1"}, 290, {EventCode::STO, false, 0, 2}));
+  EXPECT_EQ(LiveTableTest::lines(300), " 04:50,STO,0-5 04:00,ARRET,IN-04,IN-03");
+  EXPECT_EQ(live.game().events[0].period, 300);
 }
 
 TEST_F(LiveEditTest, TheStopThatEndsAPeriodStays) {
   play();
   EXPECT_FALSE(live.canDelete({1, "9"}));
-  EXPECT_FALSE(live.setDeleted(std::vector<EventPlace>{{1, "4"}, {1, "9"}}, true));
+  EXPECT_FALSE(setDeleted({{1, "4"}, {1, "9"}}, true));
   EXPECT_EQ(lines()[3], "4=09:50,GLG,0-4") << "all or nothing";
   EXPECT_TRUE(live.canDelete({1, "7"}));
   EXPECT_TRUE(live.setTime({1, "9"}, 530));
@@ -233,9 +190,9 @@ TEST_F(LiveEditTest, AnAssistOrReboundBelongsToItsShot) {
   live.insertEvent({1, "4"}, Where::Behind, 590, {EventCode::GFT, false, 0, 1});
   EXPECT_EQ(followUpOf(live.game().events, 3), std::nullopt) << "another shot between";
   EXPECT_EQ(shotOf(live.game().events, 5), 4U);
-  live.setDeleted(std::vector<EventPlace>{{1, "10"}}, true);
+  setDeleted({{1, "10"}}, true);
   EXPECT_EQ(followUpOf(live.game().events, 3), 5U) << "which is deleted";
-  EXPECT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "4"}, {1, "5"}}, true));
+  EXPECT_TRUE(setDeleted({{1, "4"}, {1, "5"}}, true));
   EXPECT_EQ(live.state().players[0][2].counters[Counter::Ast], 0);
   EXPECT_TRUE(live.undo());
   EXPECT_EQ(live.state().players[0][2].counters[Counter::Ast], 1) << "one action";
@@ -244,6 +201,7 @@ TEST_F(LiveEditTest, AnAssistOrReboundBelongsToItsShot) {
 // Whatever is edited, in whatever order: memory and file agree, and taking all back brings all counts back.
 TEST_F(LiveEditTest, RandomEditsCanAllBeTakenBack) {
   for (unsigned seed = 1; seed <= 8; ++seed) {
+    SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     const auto roll = [&random](int sides) {
       return static_cast<int>(random() % static_cast<unsigned>(sides));
@@ -293,31 +251,29 @@ TEST_F(LiveEditTest, RandomEditsCanAllBeTakenBack) {
       case 5: changes += live.redo() ? 1 : 0; break;
       default: changes += live.setDeleted(std::vector{place}, !event.isDeleted) ? 1 : 0;
       }
-      ASSERT_TRUE(live.log().countsAgree()) << seed;
+      ASSERT_TRUE(live.log().countsAgree());
     }
-    EXPECT_GT(changes, 8) << seed;
+    EXPECT_GT(changes, 8);
     LiveGame again(store, time);
     ASSERT_EQ(again.open(path), GameFileProblem::None);
-    EXPECT_EQ(again.log().lines(), live.log().lines()) << seed;
-
+    EXPECT_EQ(again.log().lines(), live.log().lines());
     for (; changes > 0; --changes)
-      ASSERT_TRUE(live.undo()) << seed;
+      ASSERT_TRUE(live.undo());
     EventLines left = live.log().lines();
     for (auto& [period, events] : left)
       std::erase_if(events, [&before](const auto& event) {
         return findLine(before, 1, event.first) == nullptr && findLine(before, 2, event.first) == nullptr;
       });
-    EXPECT_EQ(left, before) << seed;
-    EXPECT_EQ(live.onCourt(), onCourt) << seed;
-    for (std::size_t team = 0; team < 2; ++team) {
-      for (std::size_t entry = 0; entry < counted.players[team].size(); ++entry) {
-        EXPECT_EQ(live.state().players[team][entry].counters, counted.players[team][entry].counters);
-        EXPECT_EQ(live.state().players[team][entry].seconds, counted.players[team][entry].seconds);
-      }
+    EXPECT_EQ(left, before);
+    EXPECT_EQ(live.onCourt(), onCourt);
+    for (std::size_t place = 0; place < 2 * counted.players[0].size(); ++place) {
+      const PlayerEntry& now = live.state().players[place % 2][place / 2];
+      EXPECT_EQ(now.counters, counted.players[place % 2][place / 2].counters);
+      EXPECT_EQ(now.seconds, counted.players[place % 2][place / 2].seconds);
     }
-    while (live.redo()) {
-    }
-    ASSERT_TRUE(live.log().countsAgree()) << seed;
+    while (live.redo())
+      continue;
+    ASSERT_TRUE(live.log().countsAgree());
   }
 }
 

@@ -1,29 +1,19 @@
 // Real games, recorded once more event by event through the live game with a clock that the test turns, must
 // come out with the counts of the originals.
-#include "recording/LiveGame.h"
-
-#include "recording/ManualTime.h"
+#include "recording/LiveTable.h"
 #include "support/SharedGames.h"
-#include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
 #include <map>
 
 namespace hooptab {
 namespace {
 
-// A game has hundreds of writes, and nothing here looks at what a power cut would leave.
-class UnsyncedFileSystem : public FileSystem {
- public:
-  int sync(int) override { return 0; }
-};
-
 class Replay {
  public:
   explicit Replay(const Game& original) : m_original(original) {
-    m_path = m_folder.path("replay.GAM");
-    GameFile file(m_store, m_path);
-    EXPECT_EQ(file.create(original.details, original.roster[0].players(), original.roster[1].players()),
+    m_disk.syncs = false;
+    EXPECT_EQ(GameFile(m_store, m_path)
+                  .create(original.details, original.roster[0].players(), original.roster[1].players()),
               GameFileProblem::None);
     EXPECT_EQ(live.open(m_path), GameFileProblem::None);
   }
@@ -96,7 +86,7 @@ class Replay {
     const bool isRecorded =
         event.isShot()
             ? live.recordShot(team, entry, event.code, event.isMade,
-                              event.hasPlace ? std::optional(std::pair<double, double>(event.x, event.y))
+                              event.hasPlace ? std::optional(std::pair(double{event.x}, double{event.y}))
                                              : std::nullopt)
             : live.recordAction(team, entry, event.code);
     EXPECT_TRUE(isRecorded) << event.line;
@@ -104,20 +94,14 @@ class Replay {
 
   const Game& m_original;
   TemporaryFolder m_folder;
-  UnsyncedFileSystem m_disk;
+  TableDisk m_disk;
   cinifile m_store{m_disk};
   ManualTime m_time;
-  std::string m_path;
+  std::string m_path = m_folder.path("replay.GAM");
 
  public:
   LiveGame live{m_store, m_time};
 };
-
-GameState counted(const Game& game) {
-  GameState state;
-  (void)Tally::run(state, game.events, game.roster[0], game.roster[1]);
-  return state;
-}
 
 // Lines with anything to show, by their list.
 std::map<std::string, std::pair<int, Counters>> linesOf(const GameState& state, std::size_t team) {
@@ -138,16 +122,14 @@ TEST_P(LiveReplay, ComesOutAsTheOriginal) {
   ASSERT_EQ(GameFile(store, GetParam().string()).read(original), GameFileProblem::None);
   Replay replay(original);
   replay.play();
-  EXPECT_TRUE(replay.live.log().countsAgree());
-  EXPECT_TRUE(replay.live.log().isOnDisk());
-  const GameState wanted = counted(original);
-  const GameState found = counted(replay.recorded());
+  EXPECT_TRUE(replay.live.log().countsAgree() && replay.live.log().isOnDisk());
+  const GameState wanted = tallied(original);
+  const GameState found = tallied(replay.recorded());
   for (std::size_t team = 0; team < 2; ++team) {
     for (std::size_t entry = 0; entry < wanted.players[team].size(); ++entry) {
-      EXPECT_EQ(found.players[team][entry].counters, wanted.players[team][entry].counters)
-          << team << ' ' << entry;
-      EXPECT_EQ(found.players[team][entry].seconds, wanted.players[team][entry].seconds)
-          << team << ' ' << entry;
+      SCOPED_TRACE(testing::Message() << team << ' ' << entry);
+      EXPECT_EQ(found.players[team][entry].counters, wanted.players[team][entry].counters);
+      EXPECT_EQ(found.players[team][entry].seconds, wanted.players[team][entry].seconds);
     }
     EXPECT_EQ(linesOf(found, team), linesOf(wanted, team));
     for (std::size_t row = 0; row < wanted.periods[team].size(); ++row) {

@@ -1,67 +1,27 @@
 // Slips of the hand that the recorder forgives or refuses: what it keeps, and what it says.
 #include "checks/GameCheck.h"
 #include "recording/FollowUpQuestion.h"
-#include "recording/LiveGame.h"
-#include "recording/ManualTime.h"
+#include "recording/LiveTable.h"
 #include "recording/ToggleGuard.h"
-#include "support/TemporaryFolder.h"
-#include "support/TextGame.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace hooptab {
 namespace {
 
-using Phase = LiveGame::Phase;
-
-class SlipsTest : public testing::Test {
+class SlipsTest : public LiveTableTest {
  protected:
   void SetUp() override {
-    GameDetails details;
+    GameDetails details = regular();
     details.periods = 2;
-    details.minutesPerPeriod = 10;
     details.personalFoulLimit = 2;
     details.abbreviation[0] = "PAN";
     details.abbreviation[1] = "OLY";
-    ASSERT_EQ(GameFile(store, path)
-                  .create(details, players({"3", "4", "10", "13", "30", "23", "1"}),
-                          players({"7", "9", "09", "12", "15", "3", "44"})),
-              GameFileProblem::None);
-    ASSERT_EQ(live.open(path), GameFileProblem::None);
-    ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
+    create(details, "3 4 10 13 30 23 1", "7 9 09 12 15 3 44");
+    putFives();
+    begun = lines().size();
   }
-  static std::vector<RosterPlayer> players(const std::vector<std::string>& jerseys) {
-    std::vector<RosterPlayer> roster;
-    for (const std::string& jersey : jerseys)
-      roster.push_back({jersey, 0, "Player " + jersey});
-    return roster;
-  }
-  void pass(int seconds) {
-    time.now += seconds;
-    live.tick();
-  }
-  // The lines of a period behind the one that put the fives on court.
-  std::string lines(int period = 1) {
-    std::string text;
-    EventLines found;
-    EXPECT_EQ(GameFile(store, path).readLines(found), GameFileProblem::None);
-    for (const auto& [key, line] : found[period]) {
-      if (period > 1 || std::stoi(key) > 2)
-        text += (text.empty() ? "" : " ") + line;
-    }
-    return text;
-  }
-  static constexpr unsigned kFive = 0b111110; // entries 1 to 5
-
-  TemporaryFolder folder;
-  FileSystem disk;
-  cinifile store{disk};
-  ManualTime time;
-  Texts texts;
-  std::string path = folder.path("slips.GAM");
-  LiveGame live{store, time};
+  // What was recorded in the first period since.
+  std::string since() { return lines().substr(begun); }
+  std::size_t begun = 0;
 };
 
 // Types digits; '<' takes one back, '!' is Enter, 'r' and 'l' move the mark. What comes of it: the jersey of
@@ -93,35 +53,27 @@ TEST_F(SlipsTest, ANumberIsTakenWholeOrStaysWithItsReason) {
     }
     return came + question.typed() + (question.refusal() ? ": " + question.reason(texts) : "");
   };
-  const struct {
-    bool isAssist;
-    const char* keys;
-    const char* came;
-  } cases[] = {
-      {true, "4", "0-4 4"},
-      {true, "13", "0-13 13"},
-      {true, "1!", "1: 1 has fouled out."}, // 10 and 13 begin so, and are not taken for it
-      {true, "30", "0-30 30"},
-      {true, "3", "3"}, // the shooter's own number, with which 30 begins
-      {true, "3!", "3: 3 has made the basket himself."},
-      {true, "23", "23: 23 is on the bench: assist all the same, or put him in"},
-      {true, "23!", "23: 23 is on the bench: assist all the same, or put him in"}, // a habit is no choice
-      {true, "23r!", "0-23* 23: 23 is on the bench: assist all the same, or put him in"},
-      {true, "23l!", "0-23+ 23: 23 is on the bench: assist all the same, or put him in"},
-      {true, "213<<<4", "0-4 4"},
-      {true, "213", "213: Nobody here has number 213."},
-      {true, "7", "7: 7 plays for OLY."},
-      {true, "99999", "9999: Nobody here has number 9999."},
-      {false, "7", "1-7 7"},
-      {false, "9!", "1-9 9"}, // and the zero of 09 could come no more
-      {false, "09", "1-09 09"},
-      {false, "4", "4"}, // 44 sits on the bench, and could be meant
-      {false, "4!", "0-4 4"},
-      {false, "44!", "44: 44 is on the bench: rebound all the same, or put him in"},
-      {false, "12", "1-12 12"},
+  const std::tuple<bool, const char*, const char*> taken[] = {
+      {true, "4", "0-4 4"}, {true, "13", "0-13 13"}, {true, "30", "0-30 30"}, {true, "213<<<4", "0-4 4"},
+      {true, "3", "3"},     {false, "7", "1-7 7"},   {false, "9!", "1-9 9"},  {false, "09", "1-09 09"},
+      {false, "4", "4"},    {false, "4!", "0-4 4"},  {false, "12", "1-12 12"}};
+  for (const auto& [isAssist, keys, came] : taken)
+    EXPECT_EQ(type(isAssist, keys), came) << keys;
+  EXPECT_EQ(type(false, "44!"), "44: 44 is on the bench: rebound all the same, or put him in");
+  const std::string onBench = "23: 23 is on the bench: assist all the same, or put him in";
+  const std::pair<const char*, std::string> refused[] = {
+      {"1!", "1: 1 has fouled out."}, // 10 and 13 begin so, and are not taken for it
+      {"3!", "3: 3 has made the basket himself."},
+      {"23", onBench},
+      {"23!", onBench}, // a habit is no choice
+      {"23r!", "0-23* " + onBench},
+      {"23l!", "0-23+ " + onBench},
+      {"213", "213: Nobody here has number 213."},
+      {"7", "7: 7 plays for OLY."},
+      {"99999", "9999: Nobody here has number 9999."},
   };
-  for (const auto& each : cases)
-    EXPECT_EQ(type(each.isAssist, each.keys), each.came) << each.keys;
+  for (const auto& [keys, came] : refused)
+    EXPECT_EQ(type(true, keys), came) << keys;
 }
 
 TEST_F(SlipsTest, TheClockIsNotTurnedTwiceByOnePress) {
@@ -129,15 +81,12 @@ TEST_F(SlipsTest, TheClockIsNotTurnedTwiceByOnePress) {
   EXPECT_TRUE(guard.mayToggle(1000));
   EXPECT_FALSE(guard.mayToggle(1149));
   EXPECT_TRUE(guard.mayToggle(1220)) << "a start by mistake is stopped at once";
-  bool isAnyTaken = false;
   for (int now = 1260; now < 3000; now += 40) // a held key whose repeats look like presses
-    isAnyTaken = isAnyTaken || guard.mayToggle(now);
-  EXPECT_FALSE(isAnyTaken);
+    EXPECT_FALSE(guard.mayToggle(now)) << now;
 }
 
 TEST_F(SlipsTest, NobodyStartsAPeriodByReactingToTheHorn) {
-  live.start();
-  pass(600);
+  run(600);
   ASSERT_EQ(live.period(), 2);
   for (int second = 0; second <= 3; ++second, pass(1)) {
     live.toggleClock();
@@ -146,25 +95,22 @@ TEST_F(SlipsTest, NobodyStartsAPeriodByReactingToTheHorn) {
   EXPECT_EQ(live.startLock(), 0);
   live.toggleClock();
   EXPECT_EQ(live.phase(), Phase::Running);
-  EXPECT_EQ(lines(2), "10:00,DEPART");
+  EXPECT_EQ(lines(2), " 10:00,DEPART");
 }
 
 TEST_F(SlipsTest, UndoTakesAStartBackAndRedoLetsTheClockGoOn) {
-  live.start();
-  pass(600);
+  run(600);
   pass(5);
-  live.start();
-  pass(4);
+  run(4);
   live.stop();
   ASSERT_TRUE(live.undo());
-  EXPECT_EQ(lines(2), "E10:00,DEPART E09:56,ARRET,IN-03-04-10-13-30,IN-07-9-09-12-15");
+  EXPECT_EQ(lines(2), " E10:00,DEPART E09:56,ARRET,IN-03-04-10-13-30,IN-07-9-09-12-15");
   EXPECT_EQ(std::pair(live.clockSeconds(), live.period()), std::pair(600, 2));
   EXPECT_TRUE(live.isHalfTime() && live.canReturnToEndedPeriod()) << "as before it";
   EXPECT_EQ(live.secondsOnCourt(0, 1), 600);
   LiveGame again(store, time);
   ASSERT_EQ(again.open(path), GameFileProblem::None);
   EXPECT_EQ(std::pair(again.clockSeconds(), again.period()), std::pair(600, 2));
-
   ASSERT_TRUE(live.redo());
   EXPECT_EQ(live.clockSeconds(), 596);
   ASSERT_TRUE(live.undo());
@@ -184,47 +130,41 @@ TEST_F(SlipsTest, UndoTakesAStartBackAndRedoLetsTheClockGoOn) {
 }
 
 TEST_F(SlipsTest, HalfASubstitutionWaitsForItsOtherHalf) {
-  live.start();
-  pass(10);
+  run(10);
   ASSERT_TRUE(live.toggleOnCourt(0, 1));
-  EXPECT_EQ(lines(), "10:00,DEPART") << "four on court are nobody's wish";
+  EXPECT_EQ(since(), " 10:00,DEPART") << "four on court are nobody's wish";
   pass(7);
   ASSERT_TRUE(live.toggleOnCourt(0, 6));
-  EXPECT_EQ(lines(), "10:00,DEPART 09:50,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15 09:50,DEPART");
+  EXPECT_EQ(since(), " 10:00,DEPART 09:50,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15 09:50,DEPART");
   ASSERT_TRUE(live.toggleOnCourt(1, 1));
   ASSERT_TRUE(live.toggleOnCourt(1, 1));
   EXPECT_FALSE(live.pending()) << "clicked back";
   ASSERT_TRUE(live.toggleOnCourt(1, 2));
   pass(5);
   ASSERT_TRUE(live.recordAction(0, 2, EventCode::STO)); // what comes next is behind it
-  EXPECT_TRUE(lines().ends_with("09:43,ARRET,IN-04-10-13-23-30,IN-07-09-12-15 09:43,DEPART 09:38,STO,0-4"))
-      << lines();
+  EXPECT_EQ(last(3), " 09:43,ARRET,IN-04-10-13-23-30,IN-07-09-12-15 09:43,DEPART 09:38,STO,0-4");
   ASSERT_TRUE(live.toggleOnCourt(1, 6));
   ASSERT_TRUE(live.toggleOnCourt(0, 6));
   pass(LiveGame::kLongestPending);
   EXPECT_FALSE(live.pending());
-  EXPECT_TRUE(lines().ends_with("09:38,ARRET,IN-04-10-13-30,IN-03-07-09-12-15 09:38,DEPART")) << lines();
+  EXPECT_EQ(last(2), " 09:38,ARRET,IN-04-10-13-30,IN-03-07-09-12-15 09:38,DEPART");
   ASSERT_TRUE(live.toggleOnCourt(0, 3));
   EXPECT_FALSE(live.toUndo()->start) << "the half that was clicked is taken back first";
   live.stop();
-  EXPECT_TRUE(lines().ends_with("09:18,DEPART 09:18,ARRET,IN-04-13-30,IN-03-07-09-12-15")) << lines();
+  EXPECT_EQ(last(2), " 09:18,DEPART 09:18,ARRET,IN-04-13-30,IN-03-07-09-12-15");
   EXPECT_TRUE(live.log().countsAgree());
 }
 
 TEST_F(SlipsTest, WhoHasFouledOutIsNotWaitedFor) {
-  for (const int player : {6, 7, 1}) {
+  for (const int player : {6, 7, 1, 6, 7, 1})
     live.recordAction(0, player, EventCode::SPF);
-    live.recordAction(0, player, EventCode::SPF);
-  }
-  live.start();
-  pass(10);
+  run(10);
   ASSERT_TRUE(live.toggleOnCourt(0, 1));
   EXPECT_FALSE(live.pending()) << "four are all who can play";
 }
 
 TEST_F(SlipsTest, AGameThatWasClosedInPlaySaysSoUntilItGoesOn) {
-  live.start();
-  pass(60);
+  run(60);
   live.stopForClosing(1'763'790'000);
   LiveGame again(store, time);
   ASSERT_EQ(again.open(path), GameFileProblem::None);
@@ -235,25 +175,21 @@ TEST_F(SlipsTest, AGameThatWasClosedInPlaySaysSoUntilItGoesOn) {
   EXPECT_FALSE(again.wasClosedInPlay());
 }
 
-// The roster has a 9 and a 09, which is a finding of no event.
-std::ptrdiff_t findingsOfEvents(const Game& game) {
-  const std::vector<Finding> findings = checkGame(game);
-  return std::ranges::count_if(findings, &Finding::hasEvent);
-}
-
 TEST_F(SlipsTest, DoubtsAndAcceptedFindingsStandInTheFileUntilTheEventChanges) {
+  // The roster has a 9 and a 09, which is a finding of no event.
+  const auto findingsOfEvents = [](const Game& game) {
+    return std::ranges::count_if(checkGame(game), &Finding::hasEvent);
+  };
   ASSERT_TRUE(live.recordShot(0, 1, EventCode::GFG, true)); // without a place
   ASSERT_TRUE(live.setDoubtful(*live.lastRecorded(), true));
   ASSERT_TRUE(live.recordAction(0, 6, EventCode::STO)); // who sits on the bench
   const EventPlace turnover = *live.lastRecorded();
   ASSERT_TRUE(live.setOnCourt({kFive ^ 0b1000010U, kFive}));
   ASSERT_TRUE(live.setDoubtful(*live.lastRecorded(), true));
-  EXPECT_EQ(lines(), "10:00,GFG,0-3,?=1 10:00,STO,0-23 10:00,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15,?=1");
+  EXPECT_EQ(since(), " 10:00,GFG,0-3,?=1 10:00,STO,0-23 10:00,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15,?=1");
   ASSERT_EQ(findingsOfEvents(live.game()), 1);
   ASSERT_TRUE(live.acceptFinding(turnover, static_cast<int>(FindingKind::NotOnCourt)));
-
-  Game read;
-  ASSERT_EQ(GameFile(store, path).read(read), GameFileProblem::None);
+  const Game read = onDisk();
   EXPECT_EQ(findingsOfEvents(read), 0);
   EXPECT_TRUE(read.events[2].isDoubtful && !read.events[3].isDoubtful && read.events[4].isDoubtful);
   EXPECT_EQ(tallied(read).players[0][1].counters[Counter::FGM], 1) << "counts as before";
@@ -263,7 +199,7 @@ TEST_F(SlipsTest, DoubtsAndAcceptedFindingsStandInTheFileUntilTheEventChanges) {
   EXPECT_EQ(bare, "05:00,ARRET,,,?=1") << "behind both lists, be they missing";
   EXPECT_TRUE(GameEvent::parse(1, "1", bare).isUnderstood && GameEvent::parse(1, "1", bare).isDoubtful);
   ASSERT_TRUE(live.setDoubtful({1, "3"}, false));
-  EXPECT_TRUE(lines().starts_with("10:00,GFG,0-3 ")) << lines();
+  EXPECT_TRUE(since().starts_with(" 10:00,GFG,0-3 ")) << since();
 }
 
 } // namespace

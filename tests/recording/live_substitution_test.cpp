@@ -1,62 +1,42 @@
 #include "recording/JerseyMatch.h"
-#include "recording/ManualTime.h"
+#include "recording/LiveTable.h"
 #include "recording/SubstitutionLine.h"
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
 
 namespace hooptab {
 namespace {
 
-class SubstitutionTest : public testing::Test {
+class SubstitutionTest : public LiveTableTest {
  protected:
   void SetUp() override {
-    GameDetails details;
-    details.periods = 4;
-    details.minutesPerPeriod = 10;
+    GameDetails details = regular();
     details.personalFoulLimit = 5;
-    std::vector<RosterPlayer> players;
-    for (int number = 1; number <= 12; ++number)
-      players.push_back({std::to_string(number == 12 ? 0 : number), 1, "P"});
-    const std::string path = folder.path("bench.GAM");
-    ASSERT_EQ(GameFile(store, path).create(details, players, players), GameFileProblem::None);
-    ASSERT_EQ(live.open(path), GameFileProblem::None);
+    create(details, "1 2 3 4 5 6 7 8 9 10 11 0", "1 2 3 4 5 6 7 8 9 10 11 0");
   }
   void play(unsigned visitors, int seconds) {
-    ASSERT_TRUE(live.setOnCourt({visitors, kFirstFive}));
-    live.start();
-    time.now += seconds;
+    ASSERT_TRUE(live.setOnCourt({visitors, kFive}));
+    run(seconds);
     live.stop();
   }
-  static constexpr unsigned kFirstFive = 0b111110;
-  static constexpr unsigned kNextFive = kFirstFive << 5;
-
-  TemporaryFolder folder;
-  FileSystem disk;
-  cinifile store{disk};
-  ManualTime time;
-  LiveGame live{store, time};
+  static constexpr unsigned kNextFive = kFive << 5;
 };
 
 TEST_F(SubstitutionTest, FiveAreExchangedInElevenClicksInAnyOrder) {
-  ASSERT_TRUE(live.setOnCourt({kFirstFive, kFirstFive}));
+  putFives();
   for (const bool comeFirst : {false, true}) {
     Substitution choice(live);
     EXPECT_FALSE(choice.canAccept()) << "nothing is changed yet";
-    int clicks = 1; // OK
     for (const bool comes : {comeFirst, !comeFirst}) {
-      for (int player = 1; player <= 5; ++player, ++clicks)
+      for (int player = 1; player <= 5; ++player) // ten clicks, and OK
         choice.toggle(0, comes ? player + 5 : player);
       EXPECT_EQ(choice.canAccept(), choice.count(0) <= 5) << choice.count(0);
     }
-    EXPECT_EQ(clicks, 11);
-    EXPECT_EQ(choice.onCourt(), (OnCourt{kNextFive, kFirstFive}));
+    EXPECT_EQ(choice.onCourt(), (OnCourt{kNextFive, kFive}));
     EXPECT_TRUE(choice.wasOnCourt(0, 1) && !choice.isChosen(0, 1) && choice.isChosen(0, 6));
   }
 }
 
 TEST_F(SubstitutionTest, TooManyAreRefusedAndFewerAreNot) {
-  ASSERT_TRUE(live.setOnCourt({kFirstFive, kFirstFive}));
+  putFives();
   Substitution choice(live);
   choice.toggle(1, 13); // nobody
   EXPECT_EQ(choice.count(1), 5);
@@ -81,9 +61,8 @@ TEST_F(SubstitutionTest, LinesThatHavePlayedAreOfferedMostPlayedFirst) {
   EXPECT_TRUE(choice.lines(1).empty()) << "only those who stand there";
   choice.toggle(0, 12);
   choice.takeLine(0, 1);
-  EXPECT_EQ(choice.onCourt(), (OnCourt{choice.lines(0)[1].players, kFirstFive}));
+  EXPECT_EQ(choice.onCourt(), (OnCourt{choice.lines(0)[1].players, kFive}));
   EXPECT_TRUE(choice.canAccept());
-
   for (int foul = 0; foul < 5; ++foul)
     EXPECT_TRUE(live.recordAction(0, 11, EventCode::SPF));
   EXPECT_EQ(Substitution(live).lines(0)[0].jerseys, "1 2 3 4 10") << "without the one who fouled out";
@@ -95,15 +74,8 @@ TEST_F(SubstitutionTest, LinesThatHavePlayedAreOfferedMostPlayedFirst) {
 TEST_F(SubstitutionTest, ANumberIsTakenWhenItCannotGoOnAndElseByASeparatorOrEnter) {
   GameDetails details;
   details.mainTeam = 1;
-  std::array<std::vector<RosterPlayer>, 2> teams;
-  for (const char* number : {"4", "14", "21", "22", "23", "24", "30", "77", "9"})
-    teams[0].push_back({number, 1, "P"});
-  for (const char* number : {"1", "12", "13", "14", "15", "00", "0", "32", "50", "7"})
-    teams[1].push_back({number, 1, "P"});
-  const std::string path = folder.path("line.GAM");
-  ASSERT_EQ(GameFile(store, path).create(details, teams[0], teams[1]), GameFileProblem::None);
-  ASSERT_EQ(live.open(path), GameFileProblem::None);
-  ASSERT_TRUE(live.setOnCourt({kFirstFive, kFirstFive}));
+  create(details, "4 14 21 22 23 24 30 77 9", "1 12 13 14 15 00 0 32 50 7");
+  putFives();
   const auto typed = [this](std::string_view keys) {
     Substitution choice(live);
     SubstitutionLine line(live, choice);
@@ -124,30 +96,28 @@ TEST_F(SubstitutionTest, ANumberIsTakenWhenItCannotGoOnAndElseByASeparatorOrEnte
     }
     return result + line.typed() + (line.isRefused() ? "?" : "") + (mayAccept ? "!" : "");
   };
-  const std::pair<const char*, const char*> cases[] = {
-      {"121315325000", "1-12 1-13 1-15 1+00 1+32 1+50 "},
-      {"1", "1"},
-      {"1|", "1-1 "},
-      {"1=", "1-1 !"},
-      {"0|", "1+0 "},
-      {"00", "1+00 "},
-      {"7", "7"},
-      {"7=", "1+7 !"},
-      {"77", "0+77 "},
-      {"09", "0+9 "},
-      {"14", "1-14 "},
-      {"/14/14", "0-14 1-14 "},
-      {"1212", ""},
-      {"5=", "1+50 "},
-      {"3=", "3?"},
-      {"2|", "2?"},
-      {"2|1", "0-21 "},
-      {"8=", "8?"},
-      {"812345", "8123?"},
-      {"812<<<12", "1-12 "},
-      {"1232<", "1-12 "},
-      {"1232<<<", ""},
-  };
+  const std::pair<const char*, const char*> cases[] = {{"121315325000", "1-12 1-13 1-15 1+00 1+32 1+50 "},
+                                                       {"1", "1"},
+                                                       {"1|", "1-1 "},
+                                                       {"1=", "1-1 !"},
+                                                       {"0|", "1+0 "},
+                                                       {"00", "1+00 "},
+                                                       {"7", "7"},
+                                                       {"7=", "1+7 !"},
+                                                       {"77", "0+77 "},
+                                                       {"09", "0+9 "},
+                                                       {"14", "1-14 "},
+                                                       {"/14/14", "0-14 1-14 "},
+                                                       {"1212", ""},
+                                                       {"5=", "1+50 "},
+                                                       {"3=", "3?"},
+                                                       {"2|", "2?"},
+                                                       {"2|1", "0-21 "},
+                                                       {"8=", "8?"},
+                                                       {"812345", "8123?"},
+                                                       {"812<<<12", "1-12 "},
+                                                       {"1232<", "1-12 "},
+                                                       {"1232<<<", ""}};
   for (const auto& [keys, result] : cases)
     EXPECT_EQ(typed(keys), result) << keys;
 }

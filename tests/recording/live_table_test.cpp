@@ -8,14 +8,13 @@ namespace {
 
 TEST_F(LiveTableTest, WhoComesTakesThePlaceOfWhoHasLeftWherePlacesAreKept) {
   open(textOfGame(kBegin));
-  ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
+  putFives();
   live.setKeepsPlaces(true);
   ASSERT_TRUE(live.setOnCourt({0b11101100, kFive})); // 6 and 7 for 1 and 4
   EXPECT_EQ(places(live), "6 2 3 7 5");
   ASSERT_TRUE(live.undo());
   EXPECT_EQ(places(live), "1 2 3 4 5");
-  live.start();
-  time.now += 10;
+  run(10);
   for (const int player : {3, 7, 1, 4}) // clicks while the clock runs
     ASSERT_TRUE(live.toggleOnCourt(0, player));
   EXPECT_FALSE(live.putInSlot(1, 6) || live.putInSlot(3, 7)) << "taken, and on court";
@@ -23,7 +22,6 @@ TEST_F(LiveTableTest, WhoComesTakesThePlaceOfWhoHasLeftWherePlacesAreKept) {
   ASSERT_TRUE(live.putInSlot(3, 6));
   EXPECT_EQ(places(live), "0 2 7 6 5");
   live.stop();
-
   LiveGame again(store, time);
   again.setKeepsPlaces(true);
   ASSERT_EQ(again.open(path), GameFileProblem::None);
@@ -42,18 +40,17 @@ TEST_F(LiveTableTest, APlayerWhoComesLateIsInTheFileAndCountsFromThen) {
   EXPECT_EQ(places(live), "1 2 3 4 0");
   const NewPlayer added = live.addPlayer(0, " 33 ", "Zoë\nZłoty, Jr. ");
   EXPECT_EQ(added.entry, 8);
-  EXPECT_EQ(added.words(live.game(), Texts()), "PAN: 33 Zoë Zloty, Jr. can play now.");
+  EXPECT_EQ(added.words(live.game(), texts), "PAN: 33 Zoë Zloty, Jr. can play now.");
   EXPECT_EQ(places(live), "1 2 3 4 8") << "whom the list named before he was known";
   EXPECT_EQ(live.state().players[0][8].counters[Counter::Ast], 1);
   EXPECT_EQ(onDisk().roster[0].player(8)->name, "Zoë Zloty, Jr.");
   EXPECT_TRUE(live.log().countsAgree());
-
   const auto problem = [&](int team, std::string_view jersey, const std::string& name = {}) {
     return live.addPlayer(team, jersey, name).problem;
   };
   for (const char* jersey : {"", "1234", "a", "-1", "1 2"})
     EXPECT_EQ(problem(0, jersey), Problem::NoNumber) << jersey;
-  EXPECT_EQ(live.addPlayer(0, "05", "").words(live.game(), Texts()), "Number 05 is worn by 5 Bea Baker.");
+  EXPECT_EQ(live.addPlayer(0, "05", "").words(live.game(), texts), "Number 05 is worn by 5 Bea Baker.");
   EXPECT_EQ(problem(1, "5", std::string(252, 'x')), Problem::None);
   EXPECT_EQ(problem(1, "6", std::string(126, 'x') + std::string(127, 'y')), Problem::NameTooLong);
   for (int number = 50; number < 59; ++number)
@@ -93,7 +90,6 @@ TEST_F(LiveTableTest, AZeroBesideADoubleZeroTakesNobodysPlace) {
 }
 
 TEST_F(LiveTableTest, StartSaysWhoIsMissingAndTheGameWaitsUntilSomethingHappens) {
-  const Texts texts;
   open(textOfGame(kBegin));
   EXPECT_TRUE(awaitsFive(live, 0) && awaitsFive(live, 1));
   EXPECT_EQ(missingWords(live, texts), "PAN: nobody on court; OLY: nobody on court");

@@ -1,8 +1,11 @@
-// Words and figures beside the scoreboard: fouls, runs, periods, and who plays well together.
+// Words and figures beside the scoreboard: fouls, runs, periods, who plays well together, and which dialogs
+// are offered for what a check has found.
 #include "recording/LiveWords.h"
 
+#include "checks/GameCheck.h"
 #include "game/RunningScore.h"
 #include "recording/Fives.h"
+#include "recording/LiveRepairs.h"
 #include "recording/LiveTable.h"
 #include "recording/ScoreText.h"
 #include "support/SharedGames.h"
@@ -20,7 +23,6 @@ class LiveWordsTest : public LiveTableTest {
       text += foul.ofPlayer == 0 ? "" : foulText(foul, texts) + "; ";
     return text;
   }
-  Texts texts;
 };
 
 TEST_F(LiveWordsTest, FoulsNameWhoProfitsAndWhichOneEachIs) {
@@ -47,9 +49,8 @@ TEST_F(LiveWordsTest, FoulsNameWhoProfitsAndWhichOneEachIs) {
 TEST_F(LiveWordsTest, TheRunAndTheFiveFollowTheGame) {
   open(textOfGame(kBegin));
   EXPECT_FALSE(lastRun(live.game().events));
-  ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
-  live.start();
-  time.now += 59;
+  putFives();
+  run(59);
   ASSERT_TRUE(live.recordShot(0, 1, EventCode::GF3, true) && live.recordShot(1, 1, EventCode::GDK, true));
   EXPECT_EQ(Fives::of(live).current[0], (FivePlay{kFive, "4 5 10 12 15", 59, 3, 2}));
   EXPECT_FALSE(Fives::of(live).best[0]);
@@ -57,13 +58,31 @@ TEST_F(LiveWordsTest, TheRunAndTheFiveFollowTheGame) {
   EXPECT_EQ(Fives::of(live).best[0]->plusMinus(), 1);
   live.stop();
   ASSERT_TRUE(live.setOnCourt({0b1111010, kFive}));
-  live.start();
-  time.now += 100;
+  run(100);
   ASSERT_TRUE(live.recordShot(1, 1, EventCode::GFT, true) && live.recordShot(0, 1, EventCode::GF3, false));
   EXPECT_EQ(lastRun(live.game().events), (ScoringRun{1, 3}));
   EXPECT_EQ(runText(*lastRun(live.game().events)), "3–0");
   EXPECT_EQ(Fives::of(live).current[0], (FivePlay{0b1111010, "0 4 10 12 15", 100, 0, 1}));
   EXPECT_EQ(Fives::of(live).best[0]->seconds, 60);
+}
+
+TEST_F(LiveWordsTest, RepairsLeadToTheEventThatIsToBlame) {
+  const Game game = gameOfText(textOfGame(
+      "[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=10:00,DEPART\n3=09:50,SA,0-5\n"
+      "4=09:40,SST,0-0\n5=09:00,ARRET,IN-04-05-10-12,IN-03-03-07-08-11-22\n6=09:00,DEPART\n"
+      "7=08:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n8=08:00,DEPART\n"));
+  std::vector<std::string> words; // "Words > key of the event" of what mends each finding
+  for (const Finding& finding : checkGame(game)) {
+    for (const LiveRepair& repair : repairsOf(finding, game)) {
+      const bool isSubstitution = repair.kind == LiveRepair::Kind::Substitution;
+      words.push_back(wordsOf(repair, game, texts) + " > " +
+                      (isSubstitution ? repair.past.event.key : repair.event.key));
+    }
+  }
+  EXPECT_EQ(words, (std::vector<std::string>{
+                       "Edit > 3", "Delete > 3", "Substitution Before: 0 Fay Ford Comes In > 4",
+                       "Change Player > 4", "Change Players In and Out > 5", "Change Players In and Out > 5",
+                       "Change Players In and Out > 5", "Change Players In and Out > 5"}));
 }
 
 // Counted here from the lists as they are written and from the score as it grew.

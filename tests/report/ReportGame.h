@@ -1,13 +1,22 @@
-// A game whose every text and number is as long as a file can hold: names of 60 letters, 15 players with
-// counters of three digits, 30 lines, notes of 254 characters, and names that a spreadsheet or a web page
-// could take for something else.
+// The tables of a report, and a game whose every text and number is as long as a file can hold, with names
+// that a spreadsheet or a web page could take for something else.
 #pragma once
 
+#include "report/Report.h"
 #include "support/TextGame.h"
 
 #include <string>
 
 namespace hooptab {
+
+inline std::vector<const ReportTable*> tables(const Report& report) {
+  std::vector<const ReportTable*> found;
+  for (const ReportBlock& block : report.blocks) {
+    if (const auto* table = std::get_if<ReportTable>(&block))
+      found.push_back(table);
+  }
+  return found;
+}
 
 // `each` is how often every player does everything in each of four periods.
 inline std::string crowdedText(int each = 26) {

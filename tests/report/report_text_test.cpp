@@ -19,14 +19,6 @@ class ReportTextTest : public testing::Test {
   Report scorecard(const Game& game) {
     return scorecardReport(game, tallied(game), ScorecardView(texts), settings, texts);
   }
-  static std::vector<const ReportTable*> tables(const Report& report) {
-    std::vector<const ReportTable*> found;
-    for (const ReportBlock& block : report.blocks) {
-      if (const auto* table = std::get_if<ReportTable>(&block))
-        found.push_back(table);
-    }
-    return found;
-  }
 
   FileSystem files;
   cinifile store{files};
@@ -84,7 +76,6 @@ TEST_F(ReportTextTest, NamesStayTextInATableAndInAPage) {
     }
   }
   EXPECT_NE(csv.front().bytes.find("\"'@At\"\"quote\""), std::string::npos);
-
   const std::string html =
       reportHtml(report, "en", [](const ReportPicture&) { return std::string("\x89PNG"); });
   EXPECT_EQ(html.find("<script"), std::string::npos);
@@ -101,12 +92,10 @@ TEST_F(ReportTextTest, PercentagesAndTimesAreNumbersBehindTheirText) {
       gameOfText(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05,IN-03-07\n2=09:00,GFG,0-4,40,50\n"
                             "3=08:00,GFGA,0-4,40,50\n4=07:00,STO,0-5\n5=05:00,ARRET,IN-04,IN-03\n"));
   const Report report = scorecard(game);
-  const ReportTable* box = nullptr;
-  for (const ReportTable* table : tables(report)) {
-    if (!table->isSummary && box == nullptr)
-      box = table;
-  }
-  ASSERT_NE(box, nullptr);
+  const auto all = tables(report);
+  const auto first = std::ranges::find(all, false, &ReportTable::isSummary);
+  ASSERT_NE(first, all.end());
+  const ReportTable* const box = *first;
   const auto cell = [&](std::size_t row, std::string_view column) {
     const auto found = std::ranges::find(box->columns, column, &ReportColumn::name);
     return box->rows[row].cells[static_cast<std::size_t>(found - box->columns.begin())];
@@ -127,8 +116,8 @@ TEST_F(ReportTextTest, PercentagesAndTimesAreNumbersBehindTheirText) {
 
 // The chart follows the check marks, the tables hold everybody.
 TEST_F(ReportTextTest, TheChartShowsTheCheckedPlayersOnly) {
-  const Game game = gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=08:00,GFGA,0-5,60,50\n3=07:"
-                                          "00,GF3,1-3,100,90\n4=E06:30,GFG,0-4,1,1\n"));
+  const Game game = gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=08:00,GFGA,0-5,60,50\n"
+                                          "3=07:00,GF3,1-3,100,90\n4=E06:30,GFG,0-4,1,1\n"));
   const GameState state = tallied(game);
   ScorecardView view(texts);
   view.show(game, state);
@@ -174,8 +163,7 @@ TEST_F(ReportTextTest, ThePlayByPlayLeavesOutWhatIsDeletedAndEndsWithTheScore) {
   EXPECT_EQ(cells(0), (Words{"1", "09:00", "4 Ann Able: 2 points made", "2-0", ""}));
   EXPECT_NE(table.rows[1].cells[2].text.find("what is this"), std::string::npos);
   EXPECT_EQ(cells(2), (Words{"2", "05:00", "", "2-1", "3 Hana Hart: free throw made"}));
-  EXPECT_EQ(cells(3), (Words{"2", "04:00", "in 4 Ann Able", "", "in 3 Hana Hart"}))
-      << "a start tells nothing";
+  EXPECT_EQ(cells(3), (Words{"2", "04:00", "in 4 Ann Able", "", "in 3 Hana Hart"}));
   EXPECT_TRUE(table.rows[2].beginsSection);
 }
 

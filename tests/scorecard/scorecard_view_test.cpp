@@ -40,9 +40,12 @@ using Scope = ScorecardView::Scope;
 
 TEST_F(ScorecardViewTest, EverybodyIsCheckedAtFirstAndAMarkDecidesOverChartAndTotal) {
   EXPECT_EQ(view.checkMark(total()), CheckMark::All);
-  EXPECT_EQ(view.shots().size(), 3U);
+  const ShotSummary summary = shotSummary(view.shots());
+  EXPECT_EQ(summary.twoPoints.made, 2);
+  EXPECT_EQ(summary.twoPoints.attempted, 2);
+  EXPECT_EQ(summary.threePoints.made, 0);
+  EXPECT_EQ(summary.threePoints.attempted, 1);
   EXPECT_EQ(total().numbers.points(), 4);
-
   view.check(rowOf("12"), false);
   EXPECT_EQ(view.checkMark(rowOf("12")), CheckMark::None);
   EXPECT_EQ(view.checkMark(rowOf("4")), CheckMark::All);
@@ -51,21 +54,11 @@ TEST_F(ScorecardViewTest, EverybodyIsCheckedAtFirstAndAMarkDecidesOverChartAndTo
   EXPECT_EQ(total().numbers.points(), 2);
   EXPECT_EQ(total().name, "Selected (3)");
   EXPECT_EQ(total().numbers.counters[Counter::PF], 0) << "both fouls were number 12's";
-
   view.setScope(Scope::All);
   EXPECT_EQ(view.shots().size(), 3U);
   EXPECT_EQ(total().name, "TOTAL");
   EXPECT_EQ(total().numbers.points(), 4);
   EXPECT_EQ(view.checkMark(rowOf("12")), CheckMark::None) << "the mark itself stays";
-}
-
-TEST_F(ScorecardViewTest, TheTotalsMarkIsEverybodys) {
-  view.check(total(), false);
-  EXPECT_EQ(view.checkMark(total()), CheckMark::None);
-  EXPECT_TRUE(view.shots().empty());
-  EXPECT_EQ(total().numbers.points(), 0);
-  view.check(total(), true);
-  EXPECT_EQ(view.shots().size(), 3U);
 }
 
 TEST_F(ScorecardViewTest, MarksAreKeptByTeamAndViewAndThroughANewReading) {
@@ -87,27 +80,8 @@ TEST_F(ScorecardViewTest, MarksAreKeptByTeamAndViewAndThroughANewReading) {
   EXPECT_EQ(view.checkMark(rowOf("3")), CheckMark::All) << "a new line is checked";
   view.setView(BoxView::Players);
   EXPECT_EQ(view.checkMark(rowOf("4")), CheckMark::None);
-
   view.forgetChecks();
   EXPECT_EQ(view.checkMark(total()), CheckMark::All);
-}
-
-TEST_F(ScorecardViewTest, HidesMadeAndAttemptedOfAllKindsAndNothingElse) {
-  const auto shown = [&] {
-    return std::ranges::count_if(boxColumns(), [&](const BoxColumn& column) { return view.isShown(column); });
-  };
-  EXPECT_EQ(shown(), 47) << "the sort key of the time is never shown";
-  view.setHidesMadeAttempted(true);
-  EXPECT_EQ(shown(), 47 - 16) << "seven kinds and their sum";
-  EXPECT_TRUE(view.isShown(boxColumns()[7])) << "points";
-}
-
-TEST_F(ScorecardViewTest, SumsTheFieldGoalsOfTheChart) {
-  const ShotSummary summary = shotSummary(view.shots());
-  EXPECT_EQ(summary.twoPoints.made, 2);
-  EXPECT_EQ(summary.twoPoints.attempted, 2);
-  EXPECT_EQ(summary.threePoints.made, 0);
-  EXPECT_EQ(summary.threePoints.attempted, 1);
 }
 
 TEST_F(ScorecardViewTest, TheBoardShowsScorePeriodsFoulsAndLead) {
@@ -130,7 +104,6 @@ TEST_F(ScorecardViewTest, TheBoardShowsScorePeriodsFoulsAndLead) {
   EXPECT_EQ(board.leads[2].time, "00:10");
   EXPECT_EQ(board.leads[0].times, 2);
   EXPECT_EQ(board.leads[1].times, 1);
-
   game.add(5, 300, {",GFT,1-7"});
   readAgain();
   board = scoreboard(card.game(), card.state(), texts);
@@ -161,11 +134,10 @@ TEST_F(ScorecardViewTest, EveryColumnHasItsOwnWords) {
     EXPECT_EQ(words.size(), 47U);
     EXPECT_FALSE(words.contains("PTS"));
   }
-  EXPECT_NE(columnWords(31, labels, settings, texts).find("Charges"), std::string::npos)
-      << "the game's label";
-  EXPECT_EQ(columnWords(31, labels, settings, texts).find("U1-"), std::string::npos) << "without its prefix";
-  EXPECT_NE(columnWords(32, labels, settings, texts).find("Deflections"), std::string::npos)
-      << "the settings' label";
+  const std::string ofGame = columnWords(31, labels, settings, texts);
+  EXPECT_NE(ofGame.find("Charges"), std::string::npos);
+  EXPECT_EQ(ofGame.find("U1-"), std::string::npos) << "without its prefix";
+  EXPECT_NE(columnWords(32, labels, settings, texts).find("Deflections"), std::string::npos);
   const std::string none[2];
   settings.statisticLabel[0].clear();
   EXPECT_EQ(columnWords(31, none, settings, texts), "Première statistique personnalisée") << "and no colon";
@@ -181,7 +153,6 @@ TEST(FileChangeTest, SeesWritingRemovalAndReturn) {
   EXPECT_TRUE(change.mayHaveChanged()) << "never read";
   change.remember();
   EXPECT_TRUE(change.mayHaveChanged()) << "written a moment ago: an equal stamp proves nothing yet";
-
   fs::last_write_time(path, fs::file_time_type::clock::now() - 10s);
   change.remember();
   EXPECT_FALSE(change.mayHaveChanged());

@@ -57,30 +57,24 @@ TEST(ShotSelection, TakesTheTeamsShotsOfTheChosenPlayersOrLines) {
 
 TEST(ShotSums, CountAShotOfTheOtherKindInTheNearestZoneOfItsOwn) {
   const auto y = static_cast<float>(court::kBasketY);
-  struct Case {
-    Shot shot;
-    ChartZone zone;
-  };
-  const Case cases[] = {
+  const std::pair<Shot, ChartZone> cases[] = {
       {shotAt(21, y, false), ChartZone::UnderBasket},
       {shotAt(118, y, true), ChartZone::Top},
       {shotAt(118, y, false), ChartZone::MidRangeCentre}, // just outside the line, said to be two
       {shotAt(104, y, true), ChartZone::Top},             // just inside, said to be three
       {shotAt(500, -50, true), court::chartZone(court::atEdge({500, -50}))},
   };
-  for (const Case& each : cases) {
-    const ShotSums sums = shotSums({each.shot});
-    EXPECT_EQ(sums.zones[static_cast<std::size_t>(each.zone)].made, 1) << each.shot.x << ',' << each.shot.y;
-    EXPECT_EQ(sumOf(sums, each.shot.isThree).attempted, 1);
+  for (const auto& [shot, zone] : cases) {
+    const ShotSums sums = shotSums({shot});
+    EXPECT_EQ(sums.zones[static_cast<std::size_t>(zone)].made, 1) << shot.x << ',' << shot.y;
+    EXPECT_EQ(sumOf(sums, shot.isThree).attempted, 1);
   }
-  // Both corners: a three from just inside the straight line belongs to the corner on its side, not to the
-  // top.
+  // A three from just inside the straight line belongs to the corner on its side, not to the top.
   const ShotSums low = shotSums({shotAt(10, 14, true)});
   const ShotSums high = shotSums({shotAt(10, static_cast<float>(court::kWidth) - 14, true)});
   EXPECT_EQ(low.zones[static_cast<std::size_t>(court::chartZone({10, 5}))].made, 1);
   EXPECT_EQ(high.zones[static_cast<std::size_t>(court::chartZone({10, court::kWidth - 5}))].made, 1);
   EXPECT_NE(court::chartZone({10, 5}), court::chartZone({10, court::kWidth - 5}));
-
   Shot keypad = shotAt(0, 0, true);
   keypad.hasPlace = false;
   EXPECT_EQ(shotSums({keypad}).withoutPlace.attempted, 1);

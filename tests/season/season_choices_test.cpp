@@ -1,29 +1,10 @@
-// Every choice of the season's window after every other: what was chosen in a list must not be taken for a
-// place in the list that comes after it.
-#include "season/frmSTATS.h"
-
-#include "appearance/relabel.h"
-#include "season/SeasonTableView.h"
-#include "settings/Settings.h"
-#include "simulator/SampleSeason.h"
-#include "storage/cinifile.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TemporaryFolder.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
-#include <QToolButton>
+// What was chosen in a list must not be taken for a place in the list that comes after it.
 #include <functional>
-#include <gtest/gtest.h>
+
+#include "SeasonWindow.h"
 
 namespace hooptab {
 namespace {
-
-constexpr int kGames = 4;
 
 // A control and its values: each is chosen by a call.
 struct Control {
@@ -31,35 +12,14 @@ struct Control {
   std::vector<std::function<void()>> values;
 };
 
-class SeasonChoicesTest : public testing::Test {
+class SeasonChoicesTest : public SeasonWindow {
  protected:
   void SetUp() override {
-    const SampleSeason season(kGames, 7);
-    for (int i = 0; i < kGames; ++i) {
-      store.Path(folder.path(std::to_string(i) + ".GAM"));
-      ASSERT_TRUE(store.write(season.game(i).batch()));
-    }
-    window.resize(1350, 640);
-    window.show();
-    window.readFolder(toQt(folder.path()), false);
-    wait();
-    press("cmdGENERATE");
-    wait();
-    ASSERT_GT(table("lvwFIRST").model()->rowCount(), 0);
-  }
-  void wait() {
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !window.isBusy(); }, 60000));
-  }
-  void press(const char* name) { find<QPushButton>(name).click(); }
-  template <class Widget>
-  Widget& find(const char* name) const {
-    auto* found = window.findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
-  }
-  SeasonTableView& table(const char* name) const { return find<SeasonTableView>(name); }
-  static QString cell(const QTableView& view, int row, int column) {
-    return view.model()->index(row, column).data().toString();
+    writeGames(folder, 4, 7);
+    makeWindow();
+    read(folder.path());
+    generate();
+    ASSERT_GT(rows("lvwFIRST"), 0);
   }
   // The page on which a widget stands.
   QWidget& pageWith(const char* name) const {
@@ -73,7 +33,6 @@ class SeasonChoicesTest : public testing::Test {
     emit table("lvwSTATjoueurs(0)").rowAsked(0);
     wait();
   }
-
   // Of a long list the ends and some between; of a short one all.
   static std::vector<int> someOf(int count) {
     constexpr int kMost = 24;
@@ -122,7 +81,7 @@ class SeasonChoicesTest : public testing::Test {
       ASSERT_LT(view->currentRow(), rows) << fromQt(view->objectName());
       for (const int row : {0, rows - 1}) {
         for (int column = 0; rows > 0 && column < view->model()->columnCount(); ++column)
-          (void)cell(*view, row, column);
+          (void)view->model()->index(row, column).data();
       }
     }
   }
@@ -149,31 +108,23 @@ class SeasonChoicesTest : public testing::Test {
     }
   }
 
-  TemporaryFolder folder, programFolder;
-  FileSystem files;
-  cinifile store{files};
-  Settings settings{store, programFolder.path()};
-  Texts texts;
-  ScriptedDialogs dialogs;
-  frmSTATS window{files, settings, texts, dialogs};
+  TemporaryFolder folder;
 };
 
 TEST_F(SeasonChoicesTest, LeadersKeepTheirStatisticInEveryView) {
   QWidget& page = pageWith("lvwLEADERS");
   const SeasonTableView& first = table("lvwFIRST");
-  const SeasonTableView& leaders = table("lvwLEADERS");
   const auto& title = find<QLabel>("lblSTATISTIC");
   walk(page, [&] {
     const int row = first.currentIndex().row();
     ASSERT_GE(row, 0);
-    ASSERT_EQ(title.text(), cell(first, row, 0));
-    const QString best = cell(first, row, 1);
-    bool isLeader = best.isEmpty() && leaders.model()->rowCount() == 0;
-    for (int i = 0; i < leaders.model()->rowCount(); ++i)
-      isLeader = isLeader || cell(leaders, i, 3) == best;
+    ASSERT_EQ(title.text(), cell("lvwFIRST", row, 0));
+    const QString best = cell("lvwFIRST", row, 1);
+    bool isLeader = best.isEmpty() && rows("lvwLEADERS") == 0;
+    for (int i = 0; i < rows("lvwLEADERS"); ++i)
+      isLeader = isLeader || cell("lvwLEADERS", i, 3) == best;
     ASSERT_TRUE(isLeader) << fromQt(title.text());
   });
-
   // Time, which the averages per minute do not have, is there again with the other views.
   table("lvwFIRST").clearSort();
   const auto show = [&](const char* view) {
@@ -181,7 +132,7 @@ TEST_F(SeasonChoicesTest, LeadersKeepTheirStatisticInEveryView) {
     return title.text();
   };
   (void)show("cmdTOTALS");
-  const int last = first.model()->rowCount() - 1;
+  const int last = rows("lvwFIRST") - 1;
   for (const int row : {last, last / 2, 0}) {
     (void)show("cmdTOTALS");
     table("lvwFIRST").setCurrentIndex(first.model()->index(row, 0));
@@ -195,20 +146,16 @@ TEST_F(SeasonChoicesTest, EveryPageTakesEveryChoiceAfterEveryOther) {
   choosePerson();
   for (const char* name : {"lvwSTATjoueurs(0)", "lvwSTATlignes(0)", "lvwRECORD", "picMARGINS"})
     walk(pageWith(name));
-  walk(pageWith("lvwGAMES"), [this] {
-    if (find<QPushButton>("cmdFILTER").isEnabled())
-      press("cmdFILTER");
-  });
+  walk(pageWith("lvwGAMES"), [this] { find<QPushButton>("cmdFILTER").click(); });
 }
 
 // Other statistics come under pages whose last entries are chosen.
 TEST_F(SeasonChoicesTest, EveryPageTakesOtherStatistics) {
-  const std::vector<Control> criteria = controlsOf(pageWith("lvwGAMES"));
   const auto& tabs = find<QTabWidget>("tabs");
-  for (const Control& control : criteria) {
+  for (const Control& control : controlsOf(pageWith("lvwGAMES"))) {
     SCOPED_TRACE(fromQt(control.name));
     for (const auto& value : control.values) {
-      if (table("lvwSTATjoueurs(0)").model()->rowCount() > 0)
+      if (rows("lvwSTATjoueurs(0)") > 0)
         choosePerson();
       for (int page = 0; page < tabs.count(); ++page) {
         if (tabs.widget(page) == &pageWith("lvwGAMES"))
@@ -219,12 +166,9 @@ TEST_F(SeasonChoicesTest, EveryPageTakesOtherStatistics) {
         }
       }
       value();
-      if (find<QPushButton>("cmdFILTER").isEnabled())
-        press("cmdFILTER");
-      if (find<QPushButton>("cmdGENERATE").isEnabled()) {
-        press("cmdGENERATE");
-        wait();
-      }
+      find<QPushButton>("cmdFILTER").click();
+      find<QPushButton>("cmdGENERATE").click();
+      wait();
       for (int page = 0; page < tabs.count(); ++page)
         look(*tabs.widget(page));
       ASSERT_FALSE(HasFatalFailure());

@@ -32,6 +32,10 @@ class SeasonDeskTest : public testing::Test {
     EXPECT_EQ(catalogue->scan({of.folder().path(), false, 1}, watch), ScanOutcome::Done);
     return catalogue;
   }
+  void readAndGenerate() {
+    desk.takeCatalogue(scanned(folder));
+    generate();
+  }
   void generate() {
     const SeasonDesk::Order order = desk.order();
     desk.takeSeason(order.carryOut(texts), order, texts);
@@ -82,8 +86,7 @@ TEST_F(SeasonDeskTest, KnowsWhenStatisticsAreOfAnotherSelection) {
 }
 
 TEST_F(SeasonDeskTest, AnotherFolderKeepsTheCriteriaThatHoldThere) {
-  desk.takeCatalogue(scanned(folder));
-  generate();
+  readAndGenerate();
   SeasonChoice choice;
   choice.games.team = "PAN-A";
   choice.games.countsCopiesOnce = true;
@@ -98,56 +101,50 @@ TEST_F(SeasonDeskTest, AnotherFolderKeepsTheCriteriaThatHoldThere) {
 }
 
 TEST_F(SeasonDeskTest, SumsShotsByZone) {
-  desk.takeCatalogue(scanned(folder));
-  generate();
+  readAndGenerate();
   const Season& season = *desk.season();
-  const auto games = season.statistics().games();
   const auto zone = [](const ShotSums& sums, court::ChartZone which) {
     return sums.zones[static_cast<std::size_t>(which)];
   };
   using court::ChartZone;
   EXPECT_EQ(zone(season.shots(), ChartZone::UnderBasket).attempted, 2);
   EXPECT_EQ(zone(season.shots(), ChartZone::UnderBasket).made, 1);
-  const ShotSums visitors = shotsOfTeam(season.catalogue(), games, *season.catalogue().teamOf("PAN-A"));
-  const ShotSums home = shotsOfTeam(season.catalogue(), games, *season.catalogue().teamOf("OLY-A"));
+  const auto ofTeam = [&](const char* key) {
+    return shotsOfTeam(season.catalogue(), season.statistics().games(), *season.catalogue().teamOf(key));
+  };
+  const ShotSums visitors = ofTeam("PAN-A"), home = ofTeam("OLY-A");
   EXPECT_EQ(zone(visitors, ChartZone::UnderBasket).attempted, 2);
   EXPECT_EQ(zone(home, ChartZone::UnderBasket).attempted, 0);
   EXPECT_EQ(zone(home, ChartZone::RightCorner).made + zone(home, ChartZone::LeftCorner).made, 2);
   for (std::size_t i = 0; i < home.zones.size(); ++i)
     EXPECT_EQ(visitors.zones[i].attempted + home.zones[i].attempted, season.shots().zones[i].attempted) << i;
-
   const SeasonRow* able = rowOf(season.statistics().players(), "Ann Able");
   ASSERT_NE(able, nullptr);
   const SeasonPerson person(desk.season(), *able, false, texts);
   ASSERT_TRUE(person.shots);
   EXPECT_EQ(zone(*person.shots, ChartZone::UnderBasket).made, 1);
   EXPECT_EQ(person.results.size(), 3U);
-
   EXPECT_DOUBLE_EQ(differenceInPoints({3, 4}, {1, 2}), 25);
   EXPECT_DOUBLE_EQ(differenceInPoints({0, 4}, {1, 2}), -50);
   EXPECT_DOUBLE_EQ(differenceInPoints({0, 0}, {1, 2}), 0) << "no attempts say nothing";
 }
 
 TEST_F(SeasonDeskTest, FollowsAStatisticGameByGame) {
-  desk.takeCatalogue(scanned(folder));
-  generate();
+  readAndGenerate();
   const SeasonStatistics& statistics = desk.season()->statistics();
   const SeasonRow* able = rowOf(statistics.players(), "Ann Able");
   ASSERT_NE(able, nullptr);
   const auto results = statistics.resultsOfPlayer(able->id);
-
   const GameSeries points = seriesOfStatistic(results, seasonColumn("PTS").index);
   ASSERT_EQ(points.points.size(), 3U);
   EXPECT_EQ(points.points[0].value, 2);
   EXPECT_EQ(points.points[2].value, 1);
   EXPECT_DOUBLE_EQ(*points.average, 4 / 3.0);
-
   const GameSeries percent = seriesOfStatistic(results, seasonColumn("F2%").index);
   EXPECT_EQ(percent.points[0].value, 0.5);
   EXPECT_FALSE(percent.points[1].value) << "no attempts in that game";
   EXPECT_DOUBLE_EQ(*percent.average, 0.5) << "of all attempts, not of the games' percentages";
   EXPECT_FALSE(seriesOfStatistic(results, seasonColumn("DK%").index).average);
-
   const GameSeries margins = seriesOfMargins(statistics, *desk.catalogue()->teamOf("OLY-A"));
   ASSERT_EQ(margins.points.size(), 3U);
   EXPECT_EQ(margins.points[0].value, -2);

@@ -93,7 +93,6 @@ TEST(ZoneChart, ColoursZonesByTheirDifference) {
   EXPECT_EQ(zones[0].upper, QStringLiteral("90.0%"));
   EXPECT_EQ(zones[0].lower, QStringLiteral("9/10"));
   EXPECT_TRUE(zones[1].toolTip.contains(QStringLiteral("-40.0"))) << "said in numbers too";
-
   // On paper: court, legend and the words below, nothing outside.
   QImage image = paper();
   QPainter painter(&image);

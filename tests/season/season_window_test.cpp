@@ -1,34 +1,19 @@
-#include "season/frmSTATS.h"
-
-#include "appearance/relabel.h"
 #include "catalogue/SeasonFolder.h"
 #include "court/CourtView.h"
-#include "season/SeasonTableView.h"
 #include "season/SeriesView.h"
-#include "settings/Settings.h"
-#include "simulator/SampleSeason.h"
-#include "storage/cinifile.h"
-#include "support/ScriptedDialogs.h"
 #include "support/SharedGames.h"
-#include "support/TemporaryFolder.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
-#include <QCheckBox>
 #include <QClipboard>
-#include <QComboBox>
 #include <QDateEdit>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTabWidget>
-#include <QTest>
-#include <QToolButton>
 #include <filesystem>
-#include <gtest/gtest.h>
+
+#include "SeasonWindow.h"
 
 namespace hooptab {
 namespace {
@@ -41,17 +26,11 @@ constexpr int kPoints = 10; // columns of the season tables, from 0
 constexpr int kTime = 2;
 
 // The window on a folder of simulated games, one of them twice, with a file that is no game.
-class SeasonWindowTest : public testing::Test {
+class SeasonWindowTest : public SeasonWindow {
  protected:
   static void SetUpTestSuite() {
     s_season = std::make_unique<TemporaryFolder>();
-    FileSystem files;
-    cinifile store{files};
-    const SampleSeason season(kGames, 11);
-    for (int i = 0; i < kGames; ++i) {
-      store.Path(s_season->path(std::to_string(i) + ".GAM"));
-      ASSERT_TRUE(store.write(season.game(i).batch()));
-    }
+    writeGames(*s_season, kGames, 11);
     fs::copy_file(s_season->path("3.GAM"), s_season->path("copy.GAM"));
     (void)s_season->write("broken.GAM", "no game");
     fs::create_directory(s_season->path("more"));
@@ -62,51 +41,23 @@ class SeasonWindowTest : public testing::Test {
   void SetUp() override {
     settings.lastGameFolder = s_season->path();
     makeWindow();
-  }
-  void makeWindow() {
-    window = std::make_unique<frmSTATS>(files, settings, texts, dialogs);
     for (SeasonTableView* table : window->findChildren<SeasonTableView*>())
       new QAbstractItemModelTester(&table->content(), Fatal::Fatal, &table->content());
-    window->resize(1350, 640);
-    window->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
   }
-  void wait() {
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !window->isBusy(); }, 60000));
-  }
+  using SeasonWindow::read;
   void read() {
     window->readFolder();
     EXPECT_TRUE(window->isBusy());
-    wait();
-  }
-  void generate() {
-    click("cmdGENERATE");
     wait();
   }
   void readAndGenerate() {
     read();
     generate();
   }
-  void click(const char* name) {
-    auto& button = find<QPushButton>(name);
-    ASSERT_TRUE(button.isEnabled()) << name;
-    button.click();
-  }
   void choose(const char* name, const QString& entry) {
     auto& choice = find<QComboBox>(name);
     ASSERT_GE(choice.findText(entry), 0) << name << fromQt(entry);
     choice.setCurrentIndex(choice.findText(entry));
-  }
-  template <class Widget>
-  Widget& find(const char* name) const {
-    auto* found = window->findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
-  }
-  SeasonTableView& table(const char* name) const { return find<SeasonTableView>(name); }
-  int rows(const char* name) const { return table(name).model()->rowCount(); }
-  QString cell(const char* name, int row, int column) const {
-    return table(name).model()->index(row, column).data().toString();
   }
   QString currentPage() const {
     const auto& tabs = find<QTabWidget>("tabs");
@@ -114,13 +65,6 @@ class SeasonWindowTest : public testing::Test {
   }
 
   static inline std::unique_ptr<TemporaryFolder> s_season;
-  TemporaryFolder programFolder;
-  FileSystem files;
-  cinifile store{files};
-  Settings settings{store, programFolder.path()};
-  Texts texts;
-  ScriptedDialogs dialogs;
-  std::unique_ptr<frmSTATS> window;
 };
 
 TEST_F(SeasonWindowTest, ListsTheGamesOfAFolder) {
@@ -135,7 +79,6 @@ TEST_F(SeasonWindowTest, ListsTheGamesOfAFolder) {
   EXPECT_TRUE(table("lvwNOTREAD").isVisible());
   EXPECT_TRUE(cell("lvwNOTREAD", 0, 0).endsWith(QStringLiteral("broken.GAM")));
   EXPECT_EQ(cell("lvwNOTREAD", 0, 1), caption(texts, Text::NoHooptabGame));
-
   find<QCheckBox>("chkSUBFOLDERS").click();
   wait();
   EXPECT_EQ(rows("lvwGAMES"), kGames + 2);
@@ -173,7 +116,6 @@ TEST_F(SeasonWindowTest, CriteriaNarrowTheListWhenTheyAreApplied) {
   EXPECT_LT(ofTeam, kGames);
   for (int row = 0; row < ofTeam; ++row)
     EXPECT_TRUE(cell("lvwGAMES", row, 2).contains(u'-')) << "the team's own result: W 87-80";
-
   choose("lstOU", caption(texts, Text::AtHome));
   click("cmdFILTER");
   const int atHome = rows("lvwGAMES");
@@ -182,7 +124,6 @@ TEST_F(SeasonWindowTest, CriteriaNarrowTheListWhenTheyAreApplied) {
   EXPECT_EQ(atHome + rows("lvwGAMES"), ofTeam);
   choose("lstOU", caption(texts, Text::All));
   choose("lstequipes", caption(texts, Text::All));
-
   find<QCheckBox>("chkCOPIES").click();
   click("cmdFILTER");
   EXPECT_EQ(rows("lvwGAMES"), kGames);
@@ -217,7 +158,6 @@ TEST_F(SeasonWindowTest, GeneratesTheTablesInTheirInstances) {
   EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, 1).contains(u',')) << "its players by name";
   EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, 53).contains(u'-')) << "its team";
   EXPECT_GT(rows("lvwSTATlignes(2)"), rows("lvwSTATjoueurs(0)"));
-
   // By rank: the most points first; and each instance the same row divided.
   const double total = cell("lvwSTATjoueurs(0)", 0, kPoints).toDouble();
   const double games = cell("lvwSTATjoueurs(0)", 0, 3).toDouble();
@@ -225,7 +165,6 @@ TEST_F(SeasonWindowTest, GeneratesTheTablesInTheirInstances) {
   EXPECT_NEAR(cell("lvwSTATjoueurs(1)", 0, kPoints).toDouble(), total / games, 0.051);
   EXPECT_EQ(cell("lvwSTATjoueurs(2)", 0, kTime), QStringLiteral("--"));
   EXPECT_EQ(cell("lvwSTATjoueurs(0)", 0, 52), QStringLiteral("1"));
-
   QWidget& page = *find<QTabWidget>("tabs").currentWidget();
   auto& warning = *page.findChild<QLabel*>(QStringLiteral("lblMINWarning"));
   EXPECT_FALSE(warning.isVisible());
@@ -233,12 +172,10 @@ TEST_F(SeasonWindowTest, GeneratesTheTablesInTheirInstances) {
   page.findChild<QToolButton*>(QStringLiteral("cmdPERMINUTE"))->click();
   EXPECT_TRUE(warning.isVisible());
   EXPECT_EQ(table("lvwSTATjoueurs(2)").currentRow(), 2) << "the player stays chosen";
-
   // Short rows bear a star, and only they.
   bool hasStar = false;
   for (int row = 0; row < rows("lvwSTATlignes(2)"); ++row) {
-    const QStringList clock = cell("lvwSTATlignes(0)", row, kTime).split(u':');
-    const bool isShort = clock.first().toInt() < 10;
+    const bool isShort = cell("lvwSTATlignes(0)", row, kTime).split(u':').first().toInt() < 10;
     hasStar = hasStar || isShort;
     EXPECT_EQ(cell("lvwSTATlignes(2)", row, 1).endsWith(u'*'), isShort) << row;
     EXPECT_FALSE(cell("lvwSTATlignes(0)", row, 1).endsWith(u'*'));
@@ -272,7 +209,6 @@ TEST_F(SeasonWindowTest, ShowsAPlayerGameByGame) {
   EXPECT_EQ(rows("lvwRESULTS"), games);
   ASSERT_EQ(rows("lvwRECORD"), 22);
   EXPECT_EQ(cell("lvwRECORD", 0, 0), QStringLiteral("PT"));
-
   // The record is the most of the games, and says where.
   int most = 0;
   QString where;
@@ -286,12 +222,10 @@ TEST_F(SeasonWindowTest, ShowsAPlayerGameByGame) {
   }
   EXPECT_EQ(cell("lvwRECORD", 0, 1), QString::number(most));
   EXPECT_EQ(cell("lvwRECORD", 0, 2), where);
-
   auto& picture = find<SeriesView>("picGAMES");
   ASSERT_EQ(static_cast<int>(picture.drawing().values.size()), games);
   EXPECT_EQ(*std::ranges::max_element(picture.drawing().values), most);
   EXPECT_TRUE(picture.drawing().title.contains(QStringLiteral("Points")));
-
   QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
   emit table("lvwRESULTS").rowAsked(0);
   QTest::keyClick(&picture, Qt::Key_Right);
@@ -409,9 +343,7 @@ TEST_F(SeasonWindowTest, SaysWhatIsWrongWithAFolder) {
   EXPECT_EQ(find<QLabel>("lblPROGRESS").text(), toQt(texts.withPlaceholder(Text::LoadingGames, "0")));
   EXPECT_TRUE(find<QLabel>("lblNOTICE").text().contains(toQt(empty.path())));
   EXPECT_FALSE(find<QPushButton>("cmdGENERATE").isEnabled());
-
-  window->readFolder(toQt(empty.path("gone")), false);
-  wait();
+  read(empty.path("gone"));
   EXPECT_TRUE(find<QLabel>("lblNOTICE").text().contains(QStringLiteral("does not exist")));
   EXPECT_EQ(rows("lvwGAMES"), 0);
   dialogs.nextFolder.clear(); // the user cancels
@@ -439,8 +371,7 @@ TEST_F(SeasonWindowTest, FolderAndColumnWidthsAreRemembered) {
   const TemporaryFolder other;
   read();
   table("lvwGAMES").setColumnWidth(8, 333);
-  window->readFolder(toQt(other.path()), true);
-  wait();
+  read(other.path(), true);
   const QByteArray left = window->arrangement();
   makeWindow();
   window->restoreArrangement(left);
@@ -455,8 +386,7 @@ TEST_F(SeasonWindowTest, AsksBeforeAGameThatCannotBeRightEntersTheTotals) {
   const std::string events = "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=09:00,GFG,0-4,30,100\n";
   season.addGame("cut.GAM", "2026-01-01", events, "EVENUM=3\n");
   season.addGame("whole.GAM", "2026-01-02", events, "EVENUM=3\nNBREPERIODE=1\n");
-  window->readFolder(toQt(season.folder().path()), false);
-  wait();
+  read(season.folder().path());
   ASSERT_EQ(rows("lvwGAMES"), 2);
   dialogs.nextAnswer = true;
   generate();
@@ -464,9 +394,7 @@ TEST_F(SeasonWindowTest, AsksBeforeAGameThatCannotBeRightEntersTheTotals) {
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("cut.GAM"))) << fromQt(dialogs.shown[0].text);
   EXPECT_EQ(cell("lvwSTATjoueurs(0)", 0, kPoints), QStringLiteral("4"));
-
-  window->readFolder(toQt(season.folder().path()), false);
-  wait();
+  read(season.folder().path());
   dialogs.nextAnswer = false;
   generate();
   EXPECT_TRUE(find<QCheckBox>("chkWRONG").isChecked());
@@ -477,8 +405,7 @@ TEST_F(SeasonWindowTest, AsksBeforeAGameThatCannotBeRightEntersTheTotals) {
 TEST_F(SeasonWindowTest, ReadsRealGames) {
   if (sharedGames().empty())
     GTEST_SKIP() << "no shared games";
-  window->readFolder(toQt((sharedFolder() / "games").string()), true);
-  wait();
+  read((sharedFolder() / "games").string(), true);
   EXPECT_GE(rows("lvwGAMES"), 1);
   generate();
   int points = 0;
@@ -490,14 +417,10 @@ TEST_F(SeasonWindowTest, ReadsRealGames) {
   EXPECT_EQ(ofPlayers, points) << "every point is some player's";
 }
 
-// Lines and names sort in the order of the language, alike ones in the order in which they came, and the
-// chosen row stays chosen.
-TEST(SeasonTableViewTest, SortsTextsAndNumbers) {
-  const QStringList lines = {QStringLiteral("05-07"), QStringLiteral("04-11-12-23-45 *"),
-                             QStringLiteral("04-11-12-23-45"), QStringLiteral("04-07-12-23-45"),
-                             QStringLiteral("05")};
-  const QStringList names = {QStringLiteral("Zoé"), QStringLiteral("émile"), QStringLiteral("Eve"),
-                             QStringLiteral("04-07"), QStringLiteral("émile")};
+TEST(SeasonTableViewTest, SortsTextsAsTheLanguageDoesAndNumbersAndKeepsTheOrderOfEqualOnes) {
+  const QStringList lines =
+      QStringLiteral("05-07,04-11-12-23-45 *,04-11-12-23-45,04-07-12-23-45,05").split(u',');
+  const QStringList names = QStringLiteral("Zoé,émile,Eve,04-07,émile").split(u',');
   SeasonTableView table(QStringLiteral("mixed"), 1);
   table.showColumns({{.header = QStringLiteral("Line"), .isText = true},
                      {.header = QStringLiteral("Name"), .isText = true},

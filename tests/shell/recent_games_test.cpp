@@ -31,16 +31,13 @@ TEST_F(RecentGamesTest, TheFirstGameThatGoesOnStandsApartAndTheOthersKeepTheirOr
   const std::string goesOn = game("2.GAM", false);
   const std::string older = game("3.GAM", false, 1);
   const RecentGames games = read({final, folder.path("gone.GAM"), goesOn, older});
-  ASSERT_TRUE(games.unfinished.has_value());
-  const RecentGame& found = *games.unfinished;
+  const RecentGame& found = games.unfinished.value();
   EXPECT_EQ(found.path, goesOn);
   EXPECT_EQ(found.date, "2026-11-20");
   EXPECT_EQ(found.teams[0], (RecentGame::Team{"ANTS", 255, 3}));
   EXPECT_EQ(found.teams[1].points, 2) << "a deleted shot counts nothing";
   EXPECT_EQ(found.events, 3U);
-  EXPECT_EQ(found.period, 3);
-  EXPECT_EQ(found.regularPeriods, 2);
-  EXPECT_EQ(found.clockSeconds, 41);
+  EXPECT_EQ((std::vector{found.period, found.regularPeriods, found.clockSeconds}), (std::vector{3, 2, 41}));
   EXPECT_TRUE(found.hasTime && !found.isFinished);
   EXPECT_GT(found.changed, 0);
   ASSERT_EQ(games.others.size(), 2U) << "a file that is gone is not among them";

@@ -17,11 +17,11 @@ TEST(Refusals, EveryProblemHasATextAndAFileThatWasChosenIsNamed) {
   for (const GameFileProblem problem : {Absent, Unreadable, TooLarge, WriteFailed})
     for (const Language language : {Language::English, Language::French})
       EXPECT_NE(texts.text(refusalText(problem), language).find("XXX"), std::string_view::npos);
-  const std::set<int> different = {refusalText(Unreadable), refusalText(TooLarge), refusalText(InvalidFormat),
-                                   refusalText(WriteFailed)};
+  const std::set<Text> different = {refusalText(Unreadable), refusalText(TooLarge),
+                                    refusalText(InvalidFormat), refusalText(WriteFailed)};
   EXPECT_EQ(different.size(), 4U);
   EXPECT_EQ(refusalText(InvalidFormat), Text::NotAGame);
-  EXPECT_EQ(refusalText(None), 0);
+  EXPECT_EQ(refusalText(None), Text::None);
 }
 
 } // namespace

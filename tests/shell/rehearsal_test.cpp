@@ -1,7 +1,6 @@
 // What a rehearsal answers, over pipes as the program has them.
 #include "shell/Rehearsal.h"
 
-#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 
@@ -13,6 +12,8 @@
 
 namespace hooptab {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 class RehearsalTest : public testing::Test {
  protected:
@@ -56,9 +57,8 @@ class RehearsalTest : public testing::Test {
 };
 
 TEST_F(RehearsalTest, TimeGoesForwardOnly) {
-  EXPECT_EQ(ask("time 36000"), "ok\n");
-  EXPECT_EQ(time.seconds(), 36000);
-  EXPECT_EQ(ask("time 36000"), "ok\n");
+  for (int times = 0; times < 2; ++times)
+    EXPECT_EQ(ask("time 36000"), "ok\n");
   for (const char* wrong : {"35999", "", "-1", "1e9", "soon", "99999999999999999999"})
     EXPECT_EQ(ask(std::string("time ") + wrong), std::string("error: no later time: ") + wrong + "\n");
   EXPECT_EQ(time.seconds(), 36000);
@@ -66,10 +66,10 @@ TEST_F(RehearsalTest, TimeGoesForwardOnly) {
 
 TEST_F(RehearsalTest, TellsWhereControlsStandAndWhatTheyShow) {
   QWidget window;
-  window.setWindowTitle(QStringLiteral("A window\nof two lines"));
-  window.setObjectName(QStringLiteral("window"));
+  window.setWindowTitle(u"A window\nof two lines"_s);
+  window.setObjectName(u"window"_s);
   const auto add = [](const char* name, QWidget* parent) {
-    auto* button = new QPushButton(QStringLiteral("in ") + parent->objectName(), parent);
+    auto* button = new QPushButton(u"in "_s + parent->objectName(), parent);
     button->setObjectName(QLatin1String(name));
     button->setGeometry(3, 4, 50, 20);
     return button;
@@ -77,7 +77,7 @@ TEST_F(RehearsalTest, TellsWhereControlsStandAndWhatTheyShow) {
   QWidget* groups[2];
   for (int i = 0; i < 2; ++i) {
     groups[i] = new QWidget(&window);
-    groups[i]->setObjectName(QStringLiteral("group(%1)").arg(i));
+    groups[i]->setObjectName(u"group(%1)"_s.arg(i));
     groups[i]->setGeometry(10, 100 * i, 80, 90);
     add("cmd", groups[i]);
   }
@@ -88,8 +88,7 @@ TEST_F(RehearsalTest, TellsWhereControlsStandAndWhatTheyShow) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   const auto place = [&](int x, int y, const char* state) {
     const QPoint corner = window.mapToGlobal(QPoint(x, y));
-    return QStringLiteral("%1 %2 50 20 %3 active\n")
-        .arg(corner.x())
+    return u"%1 %2 50 20 %3 active\n"_s.arg(corner.x())
         .arg(corner.y())
         .arg(QLatin1String(state))
         .toStdString();
@@ -112,9 +111,8 @@ TEST_F(RehearsalTest, TakesLinesAsTheyComeAndRefusesTheRest) {
   EXPECT_EQ(ask(""), "error: unknown command: \n");
   EXPECT_EQ(ask("click cmd"), "error: unknown command: click\n");
   say(std::string(2000, 'x'));
-  QCoreApplication::processEvents();
-  QCoreApplication::processEvents();
-  QCoreApplication::processEvents();
+  for (int turn = 0; turn < 3; ++turn)
+    QCoreApplication::processEvents();
   EXPECT_NE(heard().find("too long"), std::string::npos);
   close(); // and the program goes on
   QCoreApplication::processEvents();

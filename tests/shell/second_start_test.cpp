@@ -9,6 +9,7 @@
 namespace hooptab {
 namespace {
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 TEST(SecondStartTest, LeavesItsGamesToTheProgramThatRunsOnItsFolder) {
@@ -23,9 +24,7 @@ TEST(SecondStartTest, LeavesItsGamesToTheProgramThatRunsOnItsFolder) {
   QSignalSpy asked(running.get(), &SecondStart::asked);
   ASSERT_TRUE(QTest::qWaitFor([&] { return asked.size() == 1; }, 20000));
   EXPECT_TRUE(early.get());
-  EXPECT_EQ(asked[0][0].toStringList(),
-            (QStringList{QStringLiteral("/games/A \n B.GAM"), QStringLiteral("/games/Été 💡.GAM")}));
-
+  EXPECT_EQ(asked[0][0].toStringList(), (QStringList{u"/games/A \n B.GAM"_s, u"/games/Été 💡.GAM"_s}));
   auto bare = handOver({});
   ASSERT_TRUE(QTest::qWaitFor([&] { return asked.size() == 2; }, 20000));
   EXPECT_TRUE(bare.get());

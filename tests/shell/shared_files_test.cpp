@@ -1,55 +1,42 @@
 #include "shell/SharedFiles.h"
 
-#include <filesystem>
-#include <fstream>
+#include "support/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 namespace hooptab {
 namespace {
 
-namespace fs = std::filesystem;
-
 class SharedFilesTest : public testing::Test {
  protected:
-  SharedFilesTest() { fs::create_directories(root / "bin"); }
-  ~SharedFilesTest() override { fs::remove_all(root); }
-  void write(const fs::path& file, const std::string& text) {
-    fs::create_directories(file.parent_path());
-    std::ofstream(file) << text;
-  }
-  std::string read(const fs::path& file) {
-    std::ifstream stream(file);
-    return {std::istreambuf_iterator<char>(stream), {}};
+  SharedFilesTest() {
+    for (const char* name : {"bin", "share/hooptab"})
+      std::filesystem::create_directories(root.path(name));
   }
 
-  const fs::path root = fs::temp_directory_path() / ("hooptab_shared_files_" + std::to_string(getpid()));
-  const SharedFiles files{(root / "bin").string()};
+  const TemporaryFolder root;
+  const SharedFiles files{root.path("bin")};
 };
 
 TEST_F(SharedFilesTest, LooksBesideTheExecutableBeforeTheInstalledFolder) {
   EXPECT_EQ(files.find("guide.pdf"), std::nullopt);
-
-  write(root / "share/hooptab/guide.pdf", "installed");
-  EXPECT_EQ(files.find("guide.pdf"), (root / "share/hooptab/guide.pdf").string());
-
-  write(root / "bin/guide.pdf", "portable");
-  EXPECT_EQ(files.find("guide.pdf"), (root / "bin/guide.pdf").string());
+  root.write("share/hooptab/guide.pdf", "installed");
+  EXPECT_EQ(files.find("guide.pdf"), root.path("share/hooptab/guide.pdf"));
+  root.write("bin/guide.pdf", "portable");
+  EXPECT_EQ(files.find("guide.pdf"), root.path("bin/guide.pdf"));
 }
 
 TEST_F(SharedFilesTest, ProvidesAFileOnceAndNeverReplacesTheUsersOwn) {
-  const fs::path folder = root / "program";
-  EXPECT_FALSE(files.provide("guide.pdf", folder.string())) << "nothing is shipped";
-
-  write(root / "share/hooptab/guide.pdf", "guide");
-  EXPECT_FALSE(files.provide("guide.pdf", folder.string())) << "the folder is missing";
-  fs::create_directories(folder);
-  EXPECT_TRUE(files.provide("guide.pdf", folder.string()));
-  EXPECT_EQ(read(folder / "guide.pdf"), "guide");
-
-  write(folder / "guide.pdf", "the user's own");
-  EXPECT_TRUE(files.provide("guide.pdf", folder.string()));
-  EXPECT_EQ(read(folder / "guide.pdf"), "the user's own");
+  const std::string folder = root.path("program");
+  EXPECT_FALSE(files.provide("guide.pdf", folder)) << "nothing is shipped";
+  root.write("share/hooptab/guide.pdf", "guide");
+  EXPECT_FALSE(files.provide("guide.pdf", folder)) << "the folder is missing";
+  std::filesystem::create_directory(folder);
+  EXPECT_TRUE(files.provide("guide.pdf", folder));
+  EXPECT_EQ(root.read("program/guide.pdf"), "guide");
+  root.write("program/guide.pdf", "the user's own");
+  EXPECT_TRUE(files.provide("guide.pdf", folder));
+  EXPECT_EQ(root.read("program/guide.pdf"), "the user's own");
 }
 
 } // namespace

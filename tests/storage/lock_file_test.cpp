@@ -65,7 +65,6 @@ TEST(LockFileTest, IsRenewedMadeAgainAndLostToWhoeverTakesIt) {
   fs::remove(path);
   EXPECT_TRUE(lock.isStillOurs());
   EXPECT_TRUE(fs::exists(path)) << "made again";
-
   LockFile other(path, 1h);
   EXPECT_EQ(other.takeOver(first), Outcome::HeldElsewhere) << "it has changed since";
   Outcome outcome = Outcome::HeldElsewhere;
@@ -96,8 +95,7 @@ TEST(LockFileTest, AGameIsLockedByWhatItsFileIs) {
   EXPECT_EQ(made.game(), folder.path("games/new.GAM"));
   fs::create_hard_link(game, folder.path("hard.GAM"));
   GameLock hard;
-  EXPECT_EQ(hard.acquire(files, folder.path("hard.GAM")), GameLock::Outcome::Held)
-      << "the first save parts them";
+  EXPECT_EQ(hard.acquire(files, folder.path("hard.GAM")), GameLock::Outcome::Held);
   EXPECT_EQ(hard.names(), 2u);
 }
 

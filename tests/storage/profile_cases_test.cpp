@@ -1,6 +1,5 @@
 // The behaviour of the store as scripts: a file's bytes, operations on it, and what must come of them. One
-// operation a line, fields separated by TAB, escapes \t \n \r \\ \xNN. Some are written here; where the
-// shared folder is, all of its cases run, too.
+// operation a line, fields separated by TAB, escapes \t \n \r \\ \xNN.
 #include "storage/cinifile.h"
 #include "storage/codepage.h"
 #include "support/SharedGames.h"
@@ -93,11 +92,7 @@ class Script {
   cinifile store{files};
 };
 
-struct OwnCase {
-  const char* name;
-  const char* script;
-};
-constexpr OwnCase kOwnCases[] = {
+constexpr std::pair<const char*, const char*> kOwnCases[] = {
     {"ReadsByNameWithoutRegardToCase", R"(INIT	[D\xe9tails]\r\n Name = A, b = c \r\nname=2\r\n;name=3\r\n
 GET	D\xc9TAILS	NAME	?	=>	A, b = c
 GET	D\xe9tails	none	?	=>	?
@@ -138,12 +133,12 @@ FILE	=>	[A]\r\nk\x00l=5\x006\r\n
 )"},
 };
 
-class OwnCases : public testing::TestWithParam<OwnCase> {};
-TEST_P(OwnCases, Behaves) {
-  Script().run(GetParam().script);
+TEST(Profile, BehavesAsOurOwnCasesSay) {
+  for (const auto& [name, script] : kOwnCases) {
+    SCOPED_TRACE(name);
+    Script().run(script);
+  }
 }
-INSTANTIATE_TEST_SUITE_P(Profile, OwnCases, testing::ValuesIn(kOwnCases),
-                         [](const auto& test) { return std::string(test.param.name); });
 
 // The buffer of 9,999 bytes keeps two for the NULs that close a list.
 TEST(Profile, KeyListsThatLeaveNoRoomForTheirEndAreCut) {
@@ -163,33 +158,21 @@ TEST(Profile, KeyListsThatLeaveNoRoomForTheirEndAreCut) {
   }
 }
 
-std::vector<std::filesystem::path> sharedCases() {
-  std::vector<std::filesystem::path> cases;
+TEST(Profile, BehavesAsTheSharedCasesSay) {
+  int cases = 0;
   std::error_code missing;
-  for (const auto& entry : std::filesystem::directory_iterator(sharedFolder() / "profile" / "cases", missing))
-    cases.push_back(entry.path());
-  std::ranges::sort(cases);
-  if (cases.empty())
-    cases.emplace_back("missing");
-  return cases;
-}
-
-class SharedCases : public testing::TestWithParam<std::filesystem::path> {};
-TEST_P(SharedCases, Behaves) {
-  std::ifstream file(GetParam(), std::ios::binary);
-  if (!file)
+  for (const auto& entry :
+       std::filesystem::directory_iterator(sharedFolder() / "profile" / "cases", missing)) {
+    SCOPED_TRACE(entry.path().filename());
+    std::ostringstream script;
+    script << std::ifstream(entry.path(), std::ios::binary).rdbuf();
+    ASSERT_NE(script.str().find("=>"), std::string::npos) << "a case that checks nothing";
+    Script().run(script.str());
+    ++cases;
+  }
+  if (cases == 0)
     GTEST_SKIP() << "the shared folder of profile cases is not there";
-  std::ostringstream script;
-  script << file.rdbuf();
-  ASSERT_NE(script.str().find("=>"), std::string::npos) << "a case that checks nothing";
-  Script().run(script.str());
 }
-INSTANTIATE_TEST_SUITE_P(Profile, SharedCases, testing::ValuesIn(sharedCases()), [](const auto& test) {
-  std::string name = test.param.stem().string();
-  std::ranges::replace_if(
-      name, [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-  return name;
-});
 
 } // namespace
 } // namespace hooptab

@@ -3,15 +3,12 @@
 #include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 namespace hooptab {
 namespace {
 
-// A drive whose clock counts in steps of two seconds, as those of USB sticks do, at the worst moment: the
-// step has just begun.
+// A drive whose clock counts in steps of two seconds, as those of USB sticks do, and has just ticked.
 class CoarseFileSystem : public FileSystem {
  public:
   bool stamp(const std::string& path, FileStamp& result) override {
@@ -32,14 +29,7 @@ class CoarseFileSystem : public FileSystem {
 
 class ProfileCopy : public testing::Test {
  protected:
-  // The clock of the file is set back, as if it had not been touched for a while.
-  void age(std::int64_t seconds = 10) {
-    timespec times[2] = {};
-    ::clock_gettime(CLOCK_REALTIME, &times[0]);
-    times[0].tv_sec -= seconds;
-    times[1] = times[0];
-    ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
-  }
+  ProfileCopy() { store.Path(path); }
   static std::string value(cinifile& store) {
     store.Section("A");
     store.Key("k");
@@ -47,13 +37,13 @@ class ProfileCopy : public testing::Test {
   }
   TemporaryFolder folder;
   std::string path = folder.write("A.GAM", "[A]\nk=1\n");
+  FaultyFileSystem files;
+  cinifile store{files};
 };
 
 TEST_F(ProfileCopy, SeesEveryChangeFromOutside) {
-  FaultyFileSystem files;
-  cinifile store(files);
-  store.Path(path);
-  age();
+  using std::filesystem::file_time_type;
+  std::filesystem::last_write_time(path, file_time_type::clock::now() - std::chrono::seconds(10));
   EXPECT_EQ(value(store), "1");
   files.reads = 0;
   EXPECT_EQ(value(store), "1");
@@ -78,25 +68,22 @@ TEST_F(ProfileCopy, SeesEveryChangeFromOutside) {
 }
 
 TEST_F(ProfileCopy, TrustsACoarseClockOnlyAfterItMustHaveTicked) {
-  CoarseFileSystem files;
-  cinifile store(files);
-  store.Path(path);
-  EXPECT_EQ(value(store), "1");
-  store.Value("6");
+  CoarseFileSystem coarse;
+  cinifile onDrive(coarse);
+  onDrive.Path(path);
+  EXPECT_EQ(value(onDrive), "1");
+  onDrive.Value("6");
   folder.write("A.GAM", "[A]\nk=7\r\n");
-  EXPECT_EQ(value(store), "7") << "right after a write of our own";
-  files.now += 1'999'999'999;
+  EXPECT_EQ(value(onDrive), "7") << "right after a write of our own";
+  coarse.now += 1'999'999'999;
   folder.write("A.GAM", "[A]\nk=2\n");
-  EXPECT_EQ(value(store), "2");
+  EXPECT_EQ(value(onDrive), "2");
   folder.write("A.GAM", "[A]\nk=3\n");
-  files.now += 1; // from now on a change would show in the stamp
-  EXPECT_EQ(value(store), "3");
+  coarse.now += 1; // from now on a change would show in the stamp
+  EXPECT_EQ(value(onDrive), "3");
 }
 
 TEST_F(ProfileCopy, WritesOnTopOfWhatOthersWrote) {
-  FileSystem files;
-  cinifile store(files);
-  store.Path(path);
   EXPECT_EQ(value(store), "1");
   folder.write("A.GAM", "[A]\nj=2\n");
   store.Value("3");
@@ -104,9 +91,6 @@ TEST_F(ProfileCopy, WritesOnTopOfWhatOthersWrote) {
 }
 
 TEST_F(ProfileCopy, AnUnchangedValueTouchesNothing) {
-  FaultyFileSystem files;
-  cinifile store(files);
-  store.Path(path);
   EXPECT_EQ(value(store), "1");
   store.Value("1");
   EXPECT_NE(store.LastReturnCode(), 0);
@@ -115,9 +99,6 @@ TEST_F(ProfileCopy, AnUnchangedValueTouchesNothing) {
 }
 
 TEST_F(ProfileCopy, AFailedWriteIsNotInTheCopy) {
-  FaultyFileSystem files;
-  cinifile store(files);
-  store.Path(path);
   EXPECT_EQ(value(store), "1");
   files.failAt = files.calls + 12;
   files.staysBroken = true;
@@ -129,8 +110,6 @@ TEST_F(ProfileCopy, AFailedWriteIsNotInTheCopy) {
 }
 
 TEST_F(ProfileCopy, ManyFilesDoNotDisturbEachOther) {
-  FaultyFileSystem files;
-  cinifile store(files);
   for (int round = 0; round < 2; ++round) {
     for (int file = 0; file < 200; ++file) {
       const std::string name = std::to_string(file) + ".GAM";

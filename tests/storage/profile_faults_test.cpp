@@ -23,12 +23,14 @@ ProfileBatch oneEvent() {
 
 class ProfileFaults : public testing::Test {
  protected:
+  ProfileFaults() { store.Path(folder.path("A.GAM")); }
   std::string fileOrAbsent() const { return folder.holds("A.GAM") ? folder.read("A.GAM") : "absent"; }
   std::size_t filesInFolder() const {
     return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder.path()), {}));
   }
   TemporaryFolder folder;
   FaultyFileSystem files;
+  cinifile store{files};
 };
 
 // Every call fails in turn, with every kind of failure: once, or for good.
@@ -45,27 +47,25 @@ TEST_F(ProfileFaults, LeaveTheOldFileOrTheNewOne) {
           if (existsBefore)
             folder.write("A.GAM", kOld);
           files.reset();
-          cinifile store(files);
-          store.Path(folder.path("A.GAM"));
+          cinifile fresh(files);
+          fresh.Path(folder.path("A.GAM"));
           files.failAt = call;
           files.error = error;
           files.staysBroken = staysBroken;
-          ProfileBatch batch = oneEvent();
-          if (!existsBefore) {
-            batch = {};
-            batch.set("DETAILS", "EVENUM", "3");
-          }
+          ProfileBatch batch;
+          batch.set("DETAILS", "EVENUM", "3");
+          if (existsBefore)
+            batch = oneEvent();
           const std::string wanted(existsBefore ? kNew : "[DETAILS]\r\nEVENUM=3\r\n");
-          const bool isWritten = store.write(batch);
+          const bool isWritten = fresh.write(batch);
           const bool hasFailed = files.hasFailed;
-          EXPECT_EQ(isWritten, store.LastReturnCode() != 0);
+          EXPECT_EQ(isWritten, fresh.LastReturnCode() != 0);
           const std::string standing = fileOrAbsent();
           EXPECT_TRUE(standing == wanted || (standing == old && !isWritten)) << standing;
           EXPECT_TRUE(staysBroken || filesInFolder() <= 1) << "a temporary file was left";
-
           // The disk works again: the same data are taken, and what had been left is gone.
           files.reset();
-          EXPECT_TRUE(store.write(batch));
+          EXPECT_TRUE(fresh.write(batch));
           EXPECT_EQ(fileOrAbsent(), wanted);
           EXPECT_EQ(filesInFolder(), 1u);
           failures += isWritten ? 0 : 1;
@@ -83,12 +83,12 @@ TEST_F(ProfileFaults, ReadsThatFailGiveDefaultsAndNeverStaleOrHalfAFile) {
   for (int call = 0;; ++call) {
     files.reset();
     files.failAt = call;
-    cinifile store(files);
-    store.Path(folder.path("A.GAM"));
-    store.Section("DETAILS");
-    store.Key("EVENUM");
-    const std::string value = store.Value();
-    EXPECT_EQ(value, store.readOutcome() == ReadOutcome::Read ? "2" : "") << call;
+    cinifile fresh(files);
+    fresh.Path(folder.path("A.GAM"));
+    fresh.Section("DETAILS");
+    fresh.Key("EVENUM");
+    const std::string value = fresh.Value(); // before what came of it is asked
+    EXPECT_EQ(value, fresh.readOutcome() == ReadOutcome::Read ? "2" : "") << call;
     if (!files.hasFailed)
       break;
   }
@@ -98,23 +98,17 @@ TEST_F(ProfileFaults, ShortAndInterruptedCallsAreContinued) {
   folder.write("A.GAM", kOld);
   files.interrupts = true;
   files.mostBytes = 7;
-  cinifile store(files);
-  store.Path(folder.path("A.GAM"));
   EXPECT_TRUE(store.write(oneEvent()));
   EXPECT_EQ(fileOrAbsent(), kNew);
 }
 
-// When only the folder's fsync failed the new bytes are there, but not safe: the same write must not count as
-// done.
+// When only the folder's fsync failed the new bytes are there, but not safe.
 TEST_F(ProfileFaults, AReplacementThatMayNotLastIsRepeated) {
   folder.write("A.GAM", kOld);
   files.failAt = INT_MAX;
-  cinifile store(files);
-  store.Path(folder.path("A.GAM"));
   ASSERT_TRUE(store.write(oneEvent()));
   folder.write("A.GAM", kOld);
-  const int closesAfterSync = 1; // of the folder
-  files.failAt = files.calls * 2 - 1 - closesAfterSync;
+  files.failAt = files.calls * 2 - 2; // behind the folder's fsync it is only closed
   ASSERT_FALSE(store.write(oneEvent()));
   ASSERT_EQ(fileOrAbsent(), kNew) << "the call that failed was not the folder's fsync";
   files.reset();
@@ -125,7 +119,6 @@ TEST_F(ProfileFaults, AReplacementThatMayNotLastIsRepeated) {
 }
 
 TEST_F(ProfileFaults, AreWhatMayNotBeWritten) {
-  cinifile store(files);
   const auto isRefused = [&](const std::string& path) {
     store.Path(path);
     return !store.write(oneEvent()) && store.LastReturnCode() == 0;
@@ -134,11 +127,9 @@ TEST_F(ProfileFaults, AreWhatMayNotBeWritten) {
   EXPECT_TRUE(isRefused(folder.path())) << "a folder";
   EXPECT_TRUE(isRefused("")) << "no path";
   EXPECT_TRUE(isRefused("/dev/null")) << "a device";
-
   ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
   EXPECT_TRUE(isRefused(folder.path("pipe")));
   EXPECT_EQ(store.readOutcome(), ReadOutcome::Failed);
-
   ASSERT_EQ(::chmod(folder.write("A.GAM", kOld).c_str(), 0444), 0);
   EXPECT_TRUE(isRefused(folder.path("A.GAM"))) << "no write permission bit";
   EXPECT_EQ(fileOrAbsent(), kOld);
@@ -146,13 +137,11 @@ TEST_F(ProfileFaults, AreWhatMayNotBeWritten) {
   std::filesystem::create_symlink(folder.path("taken out"), folder.path("link"));
   EXPECT_TRUE(isRefused(folder.path("link"))) << "a link that leads nowhere";
   EXPECT_TRUE(std::filesystem::is_symlink(folder.path("link")));
-
   folder.write("large", "[A]");
   std::filesystem::resize_file(folder.path("large"), std::uintmax_t{kLargestProfileFile} + 1);
   EXPECT_TRUE(isRefused(folder.path("large")));
   EXPECT_EQ(store.readOutcome(), ReadOutcome::TooLarge);
   EXPECT_EQ(std::filesystem::file_size(folder.path("large")), std::uintmax_t{kLargestProfileFile} + 1);
-
   std::filesystem::remove(folder.path("A.GAM"));
   store.Path(folder.path("B.GAM"));
   store.Section("A");
@@ -167,8 +156,6 @@ TEST_F(ProfileFaults, ReplacementKeepsModeLinkAndNeighbours) {
   ASSERT_EQ(::chmod(folder.path("real.GAM").c_str(), 0640), 0);
   std::filesystem::create_symlink("real.GAM", folder.path("A.GAM"));
   folder.write(".real.GAM.hooptab-new", "left by a kill");
-  cinifile store(files);
-  store.Path(folder.path("A.GAM"));
   EXPECT_TRUE(store.write(oneEvent()));
   EXPECT_TRUE(std::filesystem::is_symlink(folder.path("A.GAM")));
   EXPECT_EQ(folder.read("real.GAM"), kNew);
@@ -176,9 +163,7 @@ TEST_F(ProfileFaults, ReplacementKeepsModeLinkAndNeighbours) {
   struct stat status = {};
   ASSERT_EQ(::stat(folder.path("real.GAM").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777U, 0640U);
-
-  const std::string longest = folder.path(std::string(251, 'x') + ".GAM");
-  store.Path(longest);
+  store.Path(folder.path(std::string(251, 'x') + ".GAM"));
   EXPECT_TRUE(store.write(oneEvent())) << "the longest name that a file can have";
 }
 

@@ -1,5 +1,4 @@
-// A writer that is killed at a random moment loses no event that it had acknowledged, and leaves nothing
-// torn.
+// A writer killed at a random moment loses no event that it had acknowledged, and leaves nothing torn.
 #include "storage/cinifile.h"
 #include "support/TemporaryFolder.h"
 
@@ -17,8 +16,7 @@ std::string lineOf(int number) {
          std::to_string(number);
 }
 
-// Appends events from where the file ends, as fast as it can; each is acknowledged once its write has
-// returned.
+// Appends events from where the file ends; each is acknowledged once its write has returned.
 [[noreturn]] void appendUntilKilled(const std::string& path, int acknowledgements) {
   FileSystem files;
   cinifile store(files);
@@ -38,13 +36,11 @@ std::string lineOf(int number) {
 TEST(ProfileKill, LosesNoAcknowledgedEventAndTearsNothing) {
   constexpr int kRounds = 300;
   constexpr int kRoundsPerFile = 20; // so that files stay as long as real ones
-  constexpr int kLongestMicroseconds = 20'000;
   TemporaryFolder folder;
   FileSystem files;
-  std::mt19937 random(20240107); // fixed, so that a failure can be looked into
-  std::uniform_int_distribution<useconds_t> moment(0, kLongestMicroseconds);
-  int last = 0;
-  int total = 0;
+  std::mt19937 random(20240107);                               // fixed, so that a failure can be looked into
+  std::uniform_int_distribution<useconds_t> moment(0, 20'000); // in microseconds
+  int last = 0, total = 0;
   for (int round = 0; round < kRounds; ++round) {
     SCOPED_TRACE(round);
     if (round % kRoundsPerFile == 0) {
@@ -69,7 +65,6 @@ TEST(ProfileKill, LosesNoAcknowledgedEventAndTearsNothing) {
     for (int number = 0; ::read(ends[0], &number, sizeof number) == sizeof number;)
       acknowledged = number;
     ::close(ends[0]);
-
     // The file holds the acknowledged events, and at most the one that was just being written.
     const ProfileText text(folder.holds("A.GAM") ? folder.read("A.GAM") : "");
     const auto next = text.value("DETAILS", "EVENUM");
@@ -88,7 +83,6 @@ TEST(ProfileKill, LosesNoAcknowledgedEventAndTearsNothing) {
     last = written;
   }
   EXPECT_GT(total, kRounds) << "too slow a disk to have tested anything";
-
   // What the last kill may have left is gone with the next write.
   cinifile store(files);
   store.Path(folder.path("A.GAM"));

@@ -30,8 +30,9 @@ void expectEqualValuesChangeNothing(const std::string& bytes) {
     }
 }
 
-TEST(ProfileText, LoadAndSaveGivesEqualBytes) {
+TEST(ProfileText, LoadAndSaveGivesEqualBytesAndEachSectionOnce) {
   expectEqualValuesChangeNothing(kSample);
+  EXPECT_EQ(ProfileText(kSample).sectionNames(), (std::vector<std::string_view>{"DETAILS", "0", "PERIODE1"}));
   for (const auto& path : sharedGames()) {
     std::ostringstream bytes;
     bytes << std::ifstream(path, std::ios::binary).rdbuf();
@@ -40,7 +41,7 @@ TEST(ProfileText, LoadAndSaveGivesEqualBytes) {
   }
 }
 
-// Whatever the bytes, a value that was set reads back, and so does everything else that could be read before.
+// Whatever the bytes, a value that was set reads back, and so does everything that could be read before.
 void expectTakesAValue(const std::string& bytes) {
   const ProfileText before(bytes);
   const ProfileText after = before.withValue("PERIODE1", "3", "E09:20,SPF,1-8");
@@ -74,8 +75,7 @@ std::string described(const ProfileText& text) {
   return all.str();
 }
 
-// An edit parses only what it changes: whatever the edits, and whatever was wrong with the file, the text
-// must be the one that a reader of its bytes has.
+// An edit parses only what it changes, but the text must be the one that a reader of its bytes has.
 TEST(ProfileText, EditedTextsAreThoseOfTheirBytes) {
   const std::string kNames[] = {"DETAILS", "0", "periode1", "new", "[odd", "]", ""};
   const std::string kKeys[] = {"VERSION", "1", "alone", "e", "[x", ";y", "n", ""};
@@ -102,8 +102,7 @@ TEST(ProfileText, EditedTextsAreThoseOfTheirBytes) {
   }
 }
 
-// Line ends of one kind, lines without end and names without number: these take hundredths of a second, in
-// quadratic time a minute.
+// These take hundredths of a second, in quadratic time a minute.
 TEST(ProfileText, TakesLinearTime) {
   constexpr std::size_t kSize = 2 * 1024 * 1024;
   for (const std::string_view piece : {"\r", "\n", "x\r", "x=1\n", "[", "[a]\n", ";", "=", "\x1A"}) {
@@ -122,19 +121,13 @@ TEST(ProfileText, TakesLinearTime) {
   EXPECT_EQ(text.value("A", "199")->size(), 70'000u);
 }
 
-TEST(ProfileText, SectionNamesAreGivenOnceInFileOrder) {
-  EXPECT_EQ(ProfileText(kSample).sectionNames(), (std::vector<std::string_view>{"DETAILS", "0", "PERIODE1"}));
-}
-
-struct SectionLinesCase {
-  const char* why;
-  const char* before;
-  ProfileText::KeyValues lines;
-  const char* after;
-};
-
 TEST(ProfileText, WritesASectionsLinesInAGivenOrder) {
-  const SectionLinesCase kCases[] = {
+  const struct {
+    const char* why;
+    const char* before;
+    ProfileText::KeyValues lines;
+    const char* after;
+  } kCases[] = {
       {"inserted: all other lines stay byte for byte",
        "[P]\n 1 = a\n2=b\r\n\n[Q]\nq=1",
        {{"1", "a"}, {"7", "n"}, {"2", "b"}},
@@ -154,7 +147,7 @@ TEST(ProfileText, WritesASectionsLinesInAGivenOrder) {
       {"emptied", "[P]\r\n1=a\r\n\r\n[Q]", {}, "[P]\r\n\r\n[Q]"},
       {"nothing to change", "[P]\n1 =a\n;x\n[Q]", {{"1", "a"}}, "[P]\n1 =a\n;x\n[Q]"},
   };
-  for (const SectionLinesCase& test : kCases)
+  for (const auto& test : kCases)
     EXPECT_EQ(ProfileText(test.before).withSectionLines("p", test.lines).bytes(), test.after) << test.why;
 }
 

@@ -18,11 +18,9 @@ std::string problems(const CsvPlayers& read) {
   return text;
 }
 
-TEST(PlayerCsv, ReadsWhatSpreadsheetsWrite) {
+TEST(PlayerCsv, ReadsWhatSpreadsheetsWriteNamesProblemsByLineAndStopsAtTooManyPlayers) {
   const struct {
-    std::string text;
-    std::string players;
-    std::string problems;
+    std::string text, players, problems;
   } cases[] = {
       {"", "", ""},
       {"5,G,Ann,6ft,170,18,Senior\n", "5=2,Ann,6ft,170,18,Senior, ", ""},
@@ -48,31 +46,24 @@ TEST(PlayerCsv, ReadsWhatSpreadsheetsWrite) {
        "1:1171 2:1171 3:1171 4:1171 5:1173 7:1842 8:2461 9:1841 "},
       {"5,,Ann," + std::string(250, 'h') + "\n6,,Bo\x01\x7F\n", "6=9,Bo,,,,, ", "1:1817 "},
   };
-  const Texts texts;
+  Texts texts;
   for (const auto& each : cases) {
     const CsvPlayers read = parsePlayersCsv(each.text, texts);
     EXPECT_EQ(players(read), each.players) << each.text;
     EXPECT_EQ(problems(read), each.problems) << each.text;
   }
-}
-
-TEST(PlayerCsv, NamesAProblemByLineInTheLanguageInUse) {
-  Texts texts;
-  texts.setLanguage(Language::French);
-  const CsvPlayers read = parsePlayersCsv("1,x,Ann", texts);
-  ASSERT_EQ(read.problems.size(), 1U);
-  EXPECT_EQ(problemText(read.problems[0], texts), "Ligne 1 : Position inconnue : x");
-}
-
-TEST(PlayerCsv, StopsAtTooManyPlayers) {
-  std::string text;
+  std::string many;
   for (int number = 0; number < 1200; ++number)
-    text +=
+    many +=
         std::to_string(number) + ",,P" + std::to_string(number) + "\n0" + std::to_string(number) + ",,Q\n";
-  const CsvPlayers read = parsePlayersCsv(text, Texts());
-  EXPECT_EQ(read.players.size(), 1000U);
-  ASSERT_FALSE(read.problems.empty());
-  EXPECT_EQ(read.problems.back().text, Text::TooManyRows);
+  const CsvPlayers first = parsePlayersCsv(many, texts);
+  EXPECT_EQ(first.players.size(), 1000U);
+  ASSERT_FALSE(first.problems.empty());
+  EXPECT_EQ(first.problems.back().text, Text::TooManyRows);
+  texts.setLanguage(Language::French);
+  const CsvPlayers wrong = parsePlayersCsv("1,x,Ann", texts);
+  ASSERT_EQ(wrong.problems.size(), 1U);
+  EXPECT_EQ(problemText(wrong.problems[0], texts), "Ligne 1 : Position inconnue : x");
 }
 
 TEST(PlayerCsv, WhatWasExportedIsReadInEitherLanguage) {
@@ -85,10 +76,8 @@ TEST(PlayerCsv, WhatWasExportedIsReadInEitherLanguage) {
   Texts texts;
   const std::string english = playersCsv(exported, texts);
   EXPECT_TRUE(english.starts_with(
-      "Number,Position,Player Name,Height,Weight,Age,Grade\r\n00,Guard,\"Ann \"\"Ace\"\" Long\","))
-      << english;
-  EXPECT_NE(english.find("\r\n7,N/A,'=cmd|' /C calc'!A0,'+6ft,-170,''=1,'''@x\r\n"), std::string::npos)
-      << english;
+      "Number,Position,Player Name,Height,Weight,Age,Grade\r\n00,Guard,\"Ann \"\"Ace\"\" Long\","));
+  EXPECT_NE(english.find("\r\n7,N/A,'=cmd|' /C calc'!A0,'+6ft,-170,''=1,'''@x\r\n"), std::string::npos);
   for (const Language language : {Language::French, Language::English}) {
     texts.setLanguage(language);
     EXPECT_EQ(parsePlayersCsv(english, texts).players, exported);

@@ -31,8 +31,7 @@ TEST_F(TeamSheetTest, APlayerIsRenumberedByNameAndRenamedByNumber) {
   const struct {
     PlayerFields fields;
     Effect effect;
-    const char* words;
-    const char* after;
+    const char *words, *after;
   } cases[] = {
       {player("7", "Cy"), Effect::Adds, "Adds a player: 7 Cy", "5 Ann 2; 10 Bo 0; 7 Cy 1; "},
       {player("5", "Ann"), Effect::Changes, "Changes 5 Ann", "5 Ann 1; 10 Bo 0; "},
@@ -58,9 +57,7 @@ TEST_F(TeamSheetTest, APlayerIsRenumberedByNameAndRenamedByNumber) {
     EXPECT_EQ(sheet.isChanged(), isPut);
   }
   EXPECT_EQ(sheet.announcement(player("", "Ann"), texts), "");
-}
-
-TEST_F(TeamSheetTest, LettersThatTheFileLacksAreComparedAsItKeepsThem) {
+  // Letters that the file lacks are compared as it keeps them.
   sheet.put(player("77", "Đorđe Čić"));
   EXPECT_EQ(sheet.players().back().record.name, "Dorde Cic");
   EXPECT_EQ(sheet.target(player("7", "Đorđe Čić")).effect, Effect::Renumbers);
@@ -79,9 +76,9 @@ TEST_F(TeamSheetTest, WhatStandsAgainstAddingComesInOrder) {
   fields.name = " ";
   EXPECT_EQ(TeamSheet::problem(fields), Text::NoName);
   fields.name = std::string(247, 'n');
-  EXPECT_EQ(TeamSheet::problem(fields), 0) << "254 with position and commas";
+  EXPECT_EQ(TeamSheet::problem(fields), Text::None) << "254 with position and commas";
   fields.age = "1";
-  EXPECT_NE(TeamSheet::problem(fields), 0);
+  EXPECT_NE(TeamSheet::problem(fields), Text::None);
 }
 
 TEST_F(TeamSheetTest, RemovedAndSortedPlayers) {
@@ -95,16 +92,12 @@ TEST_F(TeamSheetTest, RemovedAndSortedPlayers) {
   EXPECT_TRUE(sheet.isChanged());
 }
 
-TEST_F(TeamSheetTest, APositionWithoutANameReadsNa) {
+TEST_F(TeamSheetTest, APositionWithoutANameReadsNaAndARepeatedNumberCanBeMended) {
   sheet.load({{"5", {4, "Ann", "", "", "", ""}, ""},
               {"6", {12, "Bo", "", "", "", ""}, ""},
               {"7", {9, "Cy", "", "", "", ""}, ""}});
-  EXPECT_EQ(sheet.text(0, PlayerColumn::Position, texts), "na");
-  EXPECT_EQ(sheet.text(1, PlayerColumn::Position, texts), "na");
-  EXPECT_EQ(sheet.text(2, PlayerColumn::Position, texts), "N/A");
-}
-
-TEST_F(TeamSheetTest, ARepeatedNumberIsFoundAndCanBeMended) {
+  for (const auto& [row, shown] : {std::pair(0, "na"), std::pair(1, "na"), std::pair(2, "N/A")})
+    EXPECT_EQ(sheet.text(row, PlayerColumn::Position, texts), shown);
   sheet.load({{"5", {2, "Ann", "", "", "", ""}, ""}, {"5", {0, "Bo", "", "", "", ""}, ""}});
   EXPECT_EQ(sheet.repeatedNumber(), "5");
   EXPECT_EQ(sheet.target(player("5", "Bo")).row, 1);

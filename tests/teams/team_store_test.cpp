@@ -28,7 +28,7 @@ class TeamStoreTest : public testing::Test {
   TeamStore teams{store, settings};
 };
 
-TEST_F(TeamStoreTest, FreedIdsAreTakenFirstInFileOrder) {
+TEST_F(TeamStoreTest, FreedIdsAreTakenFirstInFileOrderAndTheLastNewTeamIsTheNewest) {
   write("");
   EXPECT_EQ(teams.create(texts), 1) << "no section at all";
   EXPECT_TRUE(holds("1=Newteam, , ,U1-One,U2-Two,8,4,5,5,2")) << file();
@@ -41,6 +41,10 @@ TEST_F(TeamStoreTest, FreedIdsAreTakenFirstInFileOrder) {
   texts.setLanguage(Language::French);
   EXPECT_EQ(teams.create(texts), 5);
   EXPECT_TRUE(holds("5=Nouveau, , ,U1-One,U2-Two,8,4,5,5,2")) << file();
+  EXPECT_EQ(newestTeam({}, texts), -1);
+  EXPECT_EQ(newestTeam({{"1", 1, "LYNX", "AAA "}}, texts), -1);
+  EXPECT_EQ(newestTeam({{"1", 1, "Newteam", ""}, {"2", 2, "Nouveau2", ""}, {"3", 3, "NEWTEAM", ""}}, texts),
+            1);
 }
 
 TEST_F(TeamStoreTest, KeysThatAreNoNumbersAreShownAndLeftAlone) {
@@ -48,10 +52,8 @@ TEST_F(TeamStoreTest, KeysThatAreNoNumbersAreShownAndLeftAlone) {
         "CONFIGURATION=EVIL,A,x\r\n999999999=0\r\n");
   const std::vector<TeamEntry> list = teams.list();
   ASSERT_EQ(list.size(), 3U) << "three characters are no team, and a second equal key is nobody's";
-  EXPECT_EQ(list[0].abbreviation, "ODD");
-  EXPECT_FALSE(list[0].isEditable());
-  EXPECT_EQ(list[1].id, 4);
-  EXPECT_EQ(list[1].abbreviation, "BEES");
+  EXPECT_TRUE(list[0].abbreviation == "ODD" && !list[0].isEditable());
+  EXPECT_TRUE(list[1].abbreviation == "BEES" && list[1].id == 4);
   EXPECT_TRUE(teams.players("CONFIGURATION").empty());
   const std::string before = file();
   EXPECT_EQ(teams.create(texts), 999'999'999) << "the only freed id";
@@ -93,8 +95,7 @@ TEST_F(TeamStoreTest, PlayersAreRewrittenInTheirOrderAndUneditedOnesLetterForLet
   ASSERT_TRUE(teams.savePlayers(3, players));
   EXPECT_TRUE(file().ends_with("[OTHER]\r\na=b\r\n[3]\r\n5=1,Bo,,,,,by hand\r\n"
                                "00=2,Ann Long,6ft  2in,176lbs,18,Senior,\r\nx=" +
-                               longLine + "\r\n"))
-      << file();
+                               longLine + "\r\n"));
   ASSERT_TRUE(teams.remove(3));
   EXPECT_TRUE(file().ends_with("[TEAM]\r\n3=0\r\n[OTHER]\r\na=b\r\n")) << file();
 }
@@ -120,13 +121,6 @@ TEST_F(TeamStoreTest, AFailedWriteLeavesTheFileAndIsMadeUpFor) {
     folder.write("CONFIG.INI", before);
   }
   EXPECT_NE(file(), before);
-}
-
-TEST_F(TeamStoreTest, TheLastOfTheNewTeamsIsTheNewest) {
-  EXPECT_EQ(newestTeam({}, texts), -1);
-  EXPECT_EQ(newestTeam({{"1", 1, "LYNX", "AAA "}}, texts), -1);
-  EXPECT_EQ(newestTeam({{"1", 1, "Newteam", ""}, {"2", 2, "Nouveau2", ""}, {"3", 3, "NEWTEAM", ""}}, texts),
-            1);
 }
 
 } // namespace
