@@ -55,6 +55,8 @@ TEST(Catalogue, SaysOfEachFileThatIsLeftOutWhy) {
   season.addGame("left.GAM", "2026-01-02", kStart, "TERMINE=0\n");
   season.add("other.GAM", "[DETAILS]\nVERSION=2.00\nTERMINE=1\n");
   season.add("empty.GAM", "");
+  season.add("photo.jpg", ""); // passed by unread
+  season.add("good.GAM.lock", "");
   season.add("noise.GAM", std::string("\0\xFF\x1A[DET", 7));
   fs::create_directory(season.folder().path("folder.GAM"));
   fs::create_symlink("nowhere", season.folder().path("dangling.GAM"));

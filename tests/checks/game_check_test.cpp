@@ -135,7 +135,8 @@ TEST(GameCheck, NamesPeriodsThatAreMissingOrNotClosed) {
       named(textOfGame("[PERIODE1]\n1=00:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=00:00,STO,0-4\n"
                        "[PERIODE2]\n3=00:00,STO,0-4\n",
                        "DUREE=0\n")),
-      Named{});
+      Named{})
+      << "a game without time closes nothing";
 }
 
 TEST(GameCheck, KnowsPeriodsThatNoGameHas) {
@@ -181,7 +182,8 @@ TEST(GameCheck, NamesAClockThatRisesAndNeighboursThatAreSwapped) {
   EXPECT_EQ(
       named(textOfGame(std::string(kOnCourt) + "4" + kStop + "[PERIODE2]\n5" + kStop + "[PERIODE3]\n6" +
                        kStop + "[PERIODE4]\n7" + kStop + "[PERIODE5]\n8=45:00,DEPART\n9=45:01,STO,0-4\n")),
-      Named{"9: The neighbours 8 and 9 are swapped"});
+      Named{"9: The neighbours 8 and 9 are swapped"})
+      << "an overtime is as long as it begins";
 }
 
 TEST(GameCheck, NamesLineUpsAtTheStopThatCausedThem) {

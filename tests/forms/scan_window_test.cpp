@@ -65,7 +65,7 @@ class ScanWindowTest : public OpenManualGame {
   // The count of the form, as the table shows it.
   QModelIndex cell(int player, Counter counter) const {
     int column = 0;
-    while (kManualColumns[static_cast<std::size_t>(column)].counter != counter)
+    while (kManualColumns.at(static_cast<std::size_t>(column)).counter != counter)
       ++column;
     return find<QTableView>("tblSCAN").model()->index(player * ScannedModel::kLines + ScannedModel::FormTotal,
                                                       ScannedModel::kFirstCount + column);

@@ -25,7 +25,7 @@ class ScannedTotalsTest : public testing::Test {
   }
   void tick(int player, FormCell::Kind kind, Counter counter, int count) {
     for (int number = 0; number < count; ++number)
-      reading.cells[place(player, kind, counter, number)].isTicked = true;
+      reading.cells.at(place(player, kind, counter, number)).isTicked = true;
   }
   // Digits from the units on; a blank is a place without one, '*' two of them.
   void number(int player, std::string_view digits) {

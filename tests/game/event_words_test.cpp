@@ -55,13 +55,15 @@ TEST(EventWords, TellWhoWentInAndOut) {
   EXPECT_EQ(english[3], "STOP") << "the same players in another order, and the deleted lists do not count";
   EXPECT_EQ(english[4],
             "Substitution - PAN: in 0 Fay Ford; out 4 Ann Able - OLY: in 99 unknown player; out 22 Lea Lang");
-  EXPECT_EQ(english[5], "Substitution - PAN: in 00 Gia Grant; out 0 Fay Ford");
+  EXPECT_EQ(english[5], "Substitution - PAN: in 00 Gia Grant; out 0 Fay Ford")
+      << "0 is listed as 00, and 00 as 000";
   const Game tooMany = gameOfText(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-04-05-10-12-15,IN14\n"
                                              "2=10:00,ARRET,IN-04-04-05-10-12-00-15,IN-\n"));
   EXPECT_EQ(allWords(tooMany, Language::English),
             (std::vector<std::string>{
                 "10:00,ARRET,IN-04-04-05-10-12-15,IN14",
-                "Substitution - PAN: in 4 Ann Able, 5 Bea Baker, 10 Cleo Carter, 12 Dana Dunn"}));
+                "Substitution - PAN: in 4 Ann Able, 5 Bea Baker, 10 Cleo Carter, 12 Dana Dunn"}))
+      << "the first five count, each once";
   EXPECT_EQ(allWords(game, Language::French)[2], "Remplacement - PAN : entrée 0 Fay Ford; sortie 4 Ann Able");
 }
 

@@ -266,10 +266,11 @@ TEST_F(LiveEditTest, RandomEditsCanAllBeTakenBack) {
       });
     EXPECT_EQ(left, before);
     EXPECT_EQ(live.onCourt(), onCourt);
-    for (std::size_t place = 0; place < 2 * counted.players[0].size(); ++place) {
-      const PlayerEntry& now = live.state().players[place % 2][place / 2];
-      EXPECT_EQ(now.counters, counted.players[place % 2][place / 2].counters);
-      EXPECT_EQ(now.seconds, counted.players[place % 2][place / 2].seconds);
+    for (std::size_t team = 0; team < 2; ++team) {
+      for (std::size_t entry = 0; entry < counted.players[team].size(); ++entry) {
+        EXPECT_EQ(live.state().players[team][entry].counters, counted.players[team][entry].counters);
+        EXPECT_EQ(live.state().players[team][entry].seconds, counted.players[team][entry].seconds);
+      }
     }
     while (live.redo())
       continue;

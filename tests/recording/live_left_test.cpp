@@ -40,10 +40,13 @@ class LeftGameTest : public LiveTableTest {
   // Both fives on court, a minute played, a basket at 09:00; and then the power goes.
   void leaveRunning() {
     make();
-    putFives();
-    run(60);
-    ASSERT_TRUE(live.recordShot(0, 2, EventCode::GLG, true));
-    findAgain();
+    found = std::make_unique<LiveGame>(store, time);
+    ASSERT_EQ(found->open(path), GameFileProblem::None);
+    ASSERT_TRUE(found->setOnCourt({kFive, kFive}));
+    found->start();
+    time.now += 60;
+    ASSERT_TRUE(found->recordShot(0, 2, EventCode::GLG, true));
+    findAgain(); // which ends it
   }
   void findAgain(LiveGame::Access access = LiveGame::Access::Recording) {
     time.now += 5'000; // by another start of the machine

@@ -1,8 +1,11 @@
-// A season against a truth that shares no code with it: a simple, slow count of the event lines.
+// A season against truths that share no code with it: the sums of official box scores, and a simple, slow
+// count of the event lines.
 #include "catalogue/SeasonFolder.h"
 #include "season/Leaders.h"
 #include "simulator/SampleSeason.h"
 #include "storage/codepage.h"
+#include "support/OfficialBox.h"
+#include "support/SharedGames.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -10,6 +13,47 @@
 using namespace hooptab;
 
 namespace {
+
+TEST(OfficialSeason, EveryPlayersCountersAreTheSumsOfTheOfficialBoxes) {
+  if (sharedGames().empty())
+    GTEST_SKIP() << "the folder of real games is missing";
+  TemporaryFolder folder;
+  std::map<std::string, std::map<std::string, int>> official, ours; // by team and jersey
+  for (const auto& game : sharedGames()) {
+    std::filesystem::copy_file(game, folder.path(game.filename().string()));
+    const Json box = Json::ofFile(std::filesystem::path(game).replace_extension(".json").string());
+    for (const Json& team : box["teams"].array()) {
+      for (const Json& player : team["players"].array()) {
+        bool hasPlayed = player["seconds"].isNull() ? player["minutes_rounded"].number() > 0
+                                                    : player["seconds"].integer() > 0;
+        for (const auto& count : OfficialBox::kCounts)
+          hasPlayed = hasPlayed || player[count.name].integer() != 0;
+        if (!hasPlayed)
+          continue;
+        auto& sums = official[team["abb"].text() + "|" + player["jersey"].text()];
+        ++sums["games"];
+        for (const auto& count : OfficialBox::kCounts)
+          sums[count.name] += player[count.name].integer();
+      }
+    }
+  }
+  FileSystem files;
+  GameCatalogue catalogue(files);
+  ScanWatch watch;
+  ASSERT_EQ(catalogue.scan({folder.path()}, watch), ScanOutcome::Done);
+  const SeasonStatistics statistics(catalogue, catalogue.select({}), {});
+  for (const SeasonRow& row : statistics.players()) {
+    auto& sums = ours[catalogue.teams()[row.team].abbreviation + "|" + row.number];
+    sums["games"] += row.games; // two players of one jersey are one in this comparison
+    Counters counters;          // those of a few games fit in a single game's
+    std::ranges::transform(row.numbers.counters.counts, counters.counts.begin(),
+                           [](int count) { return static_cast<std::int16_t>(count); });
+    for (const auto& count : OfficialBox::kCounts)
+      sums[count.name] += count.ours(counters);
+  }
+  EXPECT_GT(ours.size(), 50U);
+  EXPECT_EQ(ours, official);
+}
 
 // The independent count: text only, no class of the program.
 std::vector<std::string> split(const std::string& text, char separator) {

@@ -258,5 +258,12 @@ TEST_F(SettingsTest, TheDiagnosticDisplayIsAskedForByTheFirstLabel) {
   }
 }
 
+TEST(CustomColours, AreSixteenDifferentOnes) {
+  const std::set<std::uint32_t> colours(customColours().begin(), customColours().end());
+  EXPECT_EQ(colours.size(), 16U);
+  EXPECT_EQ(customColours().front(), 8438015U);
+  EXPECT_EQ(customColours().back(), 16749608U);
+}
+
 } // namespace
 } // namespace hooptab

@@ -239,8 +239,8 @@ TEST_F(NewGameWindowTest, TeamsOfThisGameAloneStandInBothLists) {
   QCoreApplication::processEvents(); // the lists follow when no click is on its way to them
   for (const char* list : {"lstequipes(0)", "lstequipes(1)"}) {
     ASSERT_EQ(find<QListWidget>(list).count(), 5) << list;
-    EXPECT_EQ(find<QListWidget>(list).item(3)->text() + find<QListWidget>(list).item(4)->text(),
-              u"Pikes-Storks-"_s);
+    EXPECT_EQ(find<QListWidget>(list).item(3)->text() + u'|' + find<QListWidget>(list).item(4)->text(),
+              u"Pikes-|Storks-"_s);
   }
   EXPECT_EQ(line("txtDUREE").text(), u"10"_s);
   EXPECT_TRUE(ok().isEnabled());
@@ -319,7 +319,7 @@ TEST_F(NewGameWindowTest, MakesAGameOfEachInputType) {
     ASSERT_EQ(GameFile(profile, fromQt(window->path())).read(game), GameFileProblem::None);
     EXPECT_EQ(game.details.inputType, input == 2 ? 1 : 0);
     EXPECT_EQ(game.details.mainTeam, 1);
-    EXPECT_EQ(game.details.name[0] + game.details.notes, "RenardsFinal");
+    EXPECT_EQ(game.details.name[0] + '|' + game.details.notes, "Renards|Final");
     EXPECT_EQ(game.roster[1].players().size(), 2U);
     EXPECT_EQ(game.events.size(), input == 2 ? 0U : 1U);
     EXPECT_NE(folder.read("game" + std::to_string(input) + ".GAM").find("PFMAX=04\r\n"), std::string::npos);

@@ -4,7 +4,7 @@
 #include "shell/CommandState.h"
 
 #include <algorithm>
-
+#include <cctype>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
@@ -25,7 +25,9 @@ std::vector<Modes> allModes() {
 }
 
 CommandState state(std::string_view key, const Modes& modes) {
-  return stateOf(*findCommand(key), modes);
+  const Command* command = findCommand(key);
+  EXPECT_NE(command, nullptr) << key;
+  return command == nullptr ? CommandState() : stateOf(*command, modes);
 }
 
 TEST(Commands, EachIsFoundByItsKeyStandsBehindItsParentAndHasTextsAndIcon) {
@@ -40,7 +42,11 @@ TEST(Commands, EachIsFoundByItsKeyStandsBehindItsParentAndHasTextsAndIcon) {
     EXPECT_TRUE(command.kind != CommandKind::Menu ||
                 std::ranges::count(commands(), command.key, &Command::parent) > 0)
         << "has no entries";
-
+    std::string icon(command.key);
+    std::ranges::transform(icon, icon.begin(),
+                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    EXPECT_EQ(command.icon, icon);
+    EXPECT_TRUE(std::filesystem::exists(icons + icon + ".svg"));
     EXPECT_EQ(command.kind == CommandKind::Swap, command.otherText != Text::None);
     EXPECT_TRUE(command.otherText == Text::None ||
                 (texts.text(command.text) != texts.text(command.otherText) &&

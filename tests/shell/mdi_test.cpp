@@ -370,7 +370,8 @@ TEST_F(MainWindowTest, OpensAGameByKeyServesItsScorecardAndRemembersItsFolder) {
   EXPECT_TRUE(view.isVisible());
   EXPECT_TRUE(area().currentSubWindow()->isMaximized());
   EXPECT_EQ(memory->recentFiles(), std::vector{fromQt(dialogs.nextFile)});
-  for (const char* key : {"VwREFRESH", "VwREFSEC00", "VwREFSEC60", "VwLIGNE", "VwMA", "VwCLOSE", "vwPRINT"})
+  for (const char* key :
+       {"VwREFRESH", "VwREFSEC00", "VwREFSEC10", "VwREFSEC60", "VwLIGNE", "VwMA", "VwCLOSE", "vwPRINT"})
     EXPECT_TRUE(action(key).isEnabled()) << key;
   EXPECT_TRUE(action("VwREFSEC00").isChecked());
   for (const bool isByLine : {true, false}) {

@@ -95,7 +95,8 @@ TEST(LockFileTest, AGameIsLockedByWhatItsFileIs) {
   EXPECT_EQ(made.game(), folder.path("games/new.GAM"));
   fs::create_hard_link(game, folder.path("hard.GAM"));
   GameLock hard;
-  EXPECT_EQ(hard.acquire(files, folder.path("hard.GAM")), GameLock::Outcome::Held);
+  EXPECT_EQ(hard.acquire(files, folder.path("hard.GAM")), GameLock::Outcome::Held)
+      << "the first save parts them";
   EXPECT_EQ(hard.names(), 2u);
 }
 

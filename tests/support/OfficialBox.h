@@ -17,6 +17,33 @@ namespace hooptab {
 
 class OfficialBox {
  public:
+  // What boxes name of each player, and how we count it.
+  struct Count {
+    const char* name;
+    int (*ours)(const Counters&);
+  };
+  static constexpr Count kCounts[] = {
+      {"fg2m",
+       [](const Counters& c) {
+         return c[Counter::FGM] + c[Counter::LLM] + c[Counter::LRM] + c[Counter::PBM] + c[Counter::DKM];
+       }},
+      {"fg2a",
+       [](const Counters& c) {
+         return c[Counter::FGA] + c[Counter::LLA] + c[Counter::LRA] + c[Counter::PBA] + c[Counter::DKA];
+       }},
+      {"fg3m", [](const Counters& c) { return int{c[Counter::F3M]}; }},
+      {"fg3a", [](const Counters& c) { return int{c[Counter::F3A]}; }},
+      {"ftm", [](const Counters& c) { return int{c[Counter::FTM]}; }},
+      {"fta", [](const Counters& c) { return int{c[Counter::FTA]}; }},
+      {"oreb", [](const Counters& c) { return int{c[Counter::OR]}; }},
+      {"dreb", [](const Counters& c) { return int{c[Counter::DR]}; }},
+      {"ast", [](const Counters& c) { return int{c[Counter::Ast]}; }},
+      {"stl", [](const Counters& c) { return int{c[Counter::ST]}; }},
+      {"blk", [](const Counters& c) { return int{c[Counter::BS]}; }},
+      {"tov", [](const Counters& c) { return int{c[Counter::TO]}; }},
+      {"pts", [](const Counters& c) { return pointsOf(c); }},
+  };
+
   // Beside the game stand its box and, for the folder, the players whose official seconds contradict their
   // own substitutions, as "BAR 08 -60".
   explicit OfficialBox(const std::filesystem::path& game)
@@ -87,32 +114,6 @@ class OfficialBox {
         lines.push_back("line " + list);
     }
   }
-
-  struct Count {
-    const char* name;
-    int (*ours)(const Counters&);
-  };
-  static constexpr Count kCounts[] = {
-      {"fg2m",
-       [](const Counters& c) {
-         return c[Counter::FGM] + c[Counter::LLM] + c[Counter::LRM] + c[Counter::PBM] + c[Counter::DKM];
-       }},
-      {"fg2a",
-       [](const Counters& c) {
-         return c[Counter::FGA] + c[Counter::LLA] + c[Counter::LRA] + c[Counter::PBA] + c[Counter::DKA];
-       }},
-      {"fg3m", [](const Counters& c) { return int{c[Counter::F3M]}; }},
-      {"fg3a", [](const Counters& c) { return int{c[Counter::F3A]}; }},
-      {"ftm", [](const Counters& c) { return int{c[Counter::FTM]}; }},
-      {"fta", [](const Counters& c) { return int{c[Counter::FTA]}; }},
-      {"oreb", [](const Counters& c) { return int{c[Counter::OR]}; }},
-      {"dreb", [](const Counters& c) { return int{c[Counter::DR]}; }},
-      {"ast", [](const Counters& c) { return int{c[Counter::Ast]}; }},
-      {"stl", [](const Counters& c) { return int{c[Counter::ST]}; }},
-      {"blk", [](const Counters& c) { return int{c[Counter::BS]}; }},
-      {"tov", [](const Counters& c) { return int{c[Counter::TO]}; }},
-      {"pts", [](const Counters& c) { return pointsOf(c); }},
-  };
 
   Json m_box;
   std::map<std::string, int> m_known;
