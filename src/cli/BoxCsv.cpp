@@ -3,8 +3,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 std::string boxCsv(const Scorecard& card, const Texts& texts, CsvReader reader) {
   const bool isFrench = reader == CsvReader::French;
   std::vector<std::string> header = {isFrench ? std::string(texts.text(Text::Team)) : "team"};

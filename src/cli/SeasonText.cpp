@@ -72,7 +72,7 @@ class SeasonText {
   std::string teamTable() const {
     TextTable table;
     table.addColumn(word(Text::Team), Align::Left);
-    for (const Text text : {Text::Games, Text::Wins1, Text::Losses1, Text::Ties1})
+    for (const Text text : {Text::Games, Text::WinShort, Text::LossShort, Text::TieShort})
       table.addColumn(word(text), Align::Right);
     table.addColumn("PTS", Align::Right);
     for (const SeasonTeamRow& row : m_statistics.teams())

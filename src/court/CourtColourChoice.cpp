@@ -6,8 +6,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 CourtColourChoice CourtColourChoice::of(const Settings& settings) {
   CourtColourChoice choice;
   choice.colours = {settings.twoPointColour, settings.boxColour, settings.threePointColour,

@@ -8,8 +8,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 EventRequests::EventRequests(LiveGame& game, LiveEventPanel& panel, const Settings& settings,
                              const Texts& texts, Dialogs& dialogs, QWidget& window)
     : QObject(&window), m_game(game), m_panel(panel), m_settings(settings), m_texts(texts),

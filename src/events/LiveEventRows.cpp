@@ -9,8 +9,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 LiveEventRows::LiveEventRows(const Texts& texts, QObject* parent)
     : QSortFilterProxyModel(parent), m_texts(texts), m_events(texts, EventListModel::Words::Short) {
   setSourceModel(&m_events);

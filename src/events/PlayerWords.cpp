@@ -9,8 +9,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 void showPlayerWords(QWidget& widget, const LiveGame& game, int team, int player, const Texts& texts) {
   const RosterPlayer* const entry = game.game().roster[team].player(player);
   if (entry == nullptr)

@@ -15,8 +15,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 frmPLAYER::frmPLAYER(const QString& team, Add add, const Texts& texts, QWidget* parent)
     : QDialog(parent), m_add(std::move(add)), m_jersey(new QLineEdit(this)), m_name(new QLineEdit(this)),
       m_problem(new PlainLabel(this)) {

@@ -4,8 +4,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 std::string explained(const PageRefusal& refusal, const Texts& texts) {
   using Reason = PageRefusal::Reason;
   switch (refusal.reason) {

@@ -2,8 +2,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 std::string periodName(int period, int regularPeriods, const Texts& texts) {
   if (regularPeriods < 1 || period <= regularPeriods)
     return std::to_string(period);

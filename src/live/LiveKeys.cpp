@@ -12,8 +12,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 LiveKeys::LiveKeys(LiveGame& game, const Settings& settings, const Texts& texts, FollowUpBar& followUp,
                    QWidget& displayPlace, QWidget& window)
     : QObject(&window), m_game(game), m_settings(settings), m_texts(texts), m_window(window) {

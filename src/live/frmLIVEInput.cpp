@@ -26,8 +26,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 void frmLIVE::connectShots() {
   connect(m_followUp, &FollowUpBar::chosen, this, &frmLIVE::followUp);
   connect(m_followUp, &FollowUpBar::pressIgnored, this, [this] { say(Text::SecondPress); });

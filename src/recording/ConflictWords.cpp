@@ -5,8 +5,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 std::string placeWords(const EventPlace& place, const Game& game, const Texts& texts) {
   const EventWords words(game, texts);
   for (std::size_t event = 0; event < game.events.size(); ++event) {

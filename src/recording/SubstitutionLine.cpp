@@ -7,8 +7,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 SubstitutionLine::SubstitutionLine(const LiveGame& game, Substitution& choice)
     : m_game(game), m_choice(choice), m_team(game.game().details.mainTeam) {}
 

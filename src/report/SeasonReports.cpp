@@ -19,7 +19,7 @@ namespace hooptab {
 
 namespace {
 
-constexpr Text kWinLossTie[] = {Text::Wins1, Text::Losses1, Text::Ties1};
+constexpr Text kWinLossTie[] = {Text::WinShort, Text::LossShort, Text::TieShort};
 constexpr Text kViewTitles[] = {Text::Total, Text::AveragePerGame, Text::AveragePerMinute,
                                 Text::PerForty}; // by SeasonView
 

@@ -69,7 +69,7 @@ std::string resultFor(const GameCatalogue& catalogue, const ListedGame& game,
     return {};
   }
   const std::optional<int> winner = game.winner();
-  return winner ? catalogue.teams()[game.team[*winner]].name : std::string(texts.text(Text::Ties1));
+  return winner ? catalogue.teams()[game.team[*winner]].name : std::string(texts.text(Text::TieShort));
 }
 
 // The number of a column that has one.
@@ -133,7 +133,7 @@ bool gameColumnIsText(int column) {
 
 std::string resultText(const ListedGame& game, int side, const Texts& texts) {
   const std::optional<int> winner = game.winner();
-  const Text text = !winner ? Text::Ties1 : *winner == side ? Text::Wins1 : Text::Losses1;
+  const Text text = !winner ? Text::TieShort : *winner == side ? Text::WinShort : Text::LossShort;
   return std::string(texts.text(text)) + " " + std::to_string(game.points[side]) + "-" +
          std::to_string(game.points[1 - side]);
 }

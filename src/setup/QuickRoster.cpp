@@ -8,8 +8,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 QuickRoster quickRoster(std::string_view typed) {
   constexpr std::string_view kSeparators = " ,;\t\r\n";
   QuickRoster roster;

@@ -14,8 +14,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 std::vector<GameEntry> recentGames(WindowMemory& memory) {
   std::vector<GameEntry> games;
   for (const std::string& path : memory.recentFiles()) {

@@ -10,8 +10,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 HelpPages::HelpPages(Dialogs& dialogs, const SharedFiles& files, const Settings& settings, const Texts& texts)
     : m_dialogs(dialogs), m_files(files), m_settings(settings), m_texts(texts) {}
 

@@ -9,8 +9,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 TeamList::TeamList(const QString& listName, const QString& separator, QWidget* parent)
     : QWidget(parent), m_separator(separator), m_search(new QLineEdit(this)), m_list(new QListWidget(this)) {
   m_list->setObjectName(listName);

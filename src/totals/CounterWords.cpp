@@ -2,8 +2,6 @@
 
 namespace hooptab {
 
-namespace {} // namespace
-
 std::string counterWords(const ManualColumn& column, const GameDetails& game, const Settings& settings,
                          const Texts& texts) {
   const EventKind& kind = *kindOf(column.code);
