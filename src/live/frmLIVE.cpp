@@ -1,7 +1,6 @@
 #include "live/frmLIVE.h"
 
 #include "appearance/Dialogs.h"
-#include "appearance/PlainLabel.h"
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
@@ -14,9 +13,11 @@
 #include "events/MessageLine.h"
 #include "live/BenchPanel.h"
 #include "live/HeldKeys.h"
+#include "live/LiveFile.h"
 #include "live/LiveKeys.h"
 #include "live/LiveNotices.h"
 #include "live/NowStrip.h"
+#include "live/PanelGrid.h"
 #include "live/PeriodEndCard.h"
 #include "live/PlayerPanel.h"
 #include "live/RepeatedPress.h"
@@ -25,7 +26,6 @@
 #include "live/SideSwitch.h"
 #include "live/frmGAMEOVER.h"
 #include "live/frmOVERTIME.h"
-#include "recording/ForeignWords.h"
 #include "settings/Settings.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
@@ -35,7 +35,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
-#include <QGridLayout>
+#include <QLabel>
 #include <QMimeData>
 #include <QScrollArea>
 #include <bit>
@@ -55,27 +55,22 @@ constexpr const char* kEventsOpen = "events-open"; // and in the next word where
 constexpr const char* kEventsClosed = "events-closed";
 
 constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
-constexpr auto kRetryInterval = 2s;
 constexpr auto kLockTick = 200ms;
-constexpr int kPanelRows = 2;   // of the grid, for each team: its roster and its panels
-constexpr int kPathWidth = 380; // so that what can be done about it stands beside it on a small screen
 
 } // namespace
 
 frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs, TimeSource& time,
                  QWidget* parent)
     : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_dialogs(dialogs),
-      m_game(store, time), m_hold(new GameHold(store.files(), texts, dialogs, *this)) {
+      m_game(store, time) {
   m_game.disk().setRescueFolder(settings.folder());
   setObjectName(QStringLiteral("frmLIVE"));
   setAcceptDrops(true);
   setFocusPolicy(Qt::StrongFocus); // so that the clock's key is ours from the start
   m_timer.setObjectName(QStringLiteral("Timer1"));
   m_timer.setInterval(kTick);
-  m_retryOfWrites.setInterval(kRetryInterval);
   m_lock.setInterval(kLockTick);
   m_sinceBegin.start();
-  m_readOnly = makeReadOnly();
 
   m_parts = new QHBoxLayout;
   m_panelScroll = makeScroll(makePanels());
@@ -87,11 +82,12 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  layout->addWidget(m_readOnly);
   layout->addLayout(m_parts, 1);
   layout->addWidget(m_now);
   m_card = new PeriodEndCard(m_texts, this);
   m_notices = new LiveNotices(m_texts, this);
+  m_file = new LiveFile(m_game, m_store.files(), m_texts, m_dialogs, *m_now, *m_notices, *this);
+  layout->insertWidget(0, &m_file->strip());
   m_followUp = new FollowUpBar(m_texts, this);
   m_benchShot = new BenchShot(m_settings, m_texts, this);
   // Each sees what comes from keyboard and mouse before those that were made before it.
@@ -104,16 +100,6 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
 
 frmLIVE::~frmLIVE() = default;
 
-QLabel* frmLIVE::makeReadOnly() {
-  auto* strip = new PlainLabel(this);
-  strip->setObjectName(QStringLiteral("lblREADONLY"));
-  strip->setAutoFillBackground(true);
-  strip->setAlignment(Qt::AlignCenter);
-  strip->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // no wider than the window, whoever's path
-  strip->hide();
-  return strip;
-}
-
 // What does not fit, as on a small screen or with a large zoom, can be scrolled.
 QScrollArea* frmLIVE::makeScroll(QWidget* content) {
   auto* area = new QScrollArea(this);
@@ -124,32 +110,12 @@ QScrollArea* frmLIVE::makeScroll(QWidget* content) {
   return area;
 }
 
-// The visitors' roster and five above the home team's.
 QWidget* frmLIVE::makePanels() {
-  m_panelArea = new QWidget(this);
-  m_panelGrid = new QGridLayout(m_panelArea);
-  m_panelGrid->setContentsMargins(0, 0, 0, 0);
+  m_panels = new PanelGrid(this);
   m_sides = new SideSwitch(m_texts, this);
-  m_bench = new BenchPanel(m_texts, m_panelArea, m_sides, this);
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot)
-    m_panels[static_cast<std::size_t>(slot)] = new PlayerPanel(slot, m_settings, m_texts, m_panelArea);
-  for (int column = 0; column < LiveGame::kSlotsOfTeam; ++column)
-    m_panelGrid->setColumnStretch(column, 1);
-  placeRows();
-  return m_panelArea;
-}
-
-// With the sides the rows change, too, unless whoever records has asked them to stay.
-void frmLIVE::placeRows() {
-  const bool areTurned = m_isSwitched && !m_rowsStay;
-  for (int team = 0; team < 2; ++team) {
-    const int row = (areTurned ? 1 - team : team) * kPanelRows;
-    m_panelGrid->addWidget(&m_bench->strip(team), row, 0, 1, LiveGame::kSlotsOfTeam);
-    for (int place = 0; place < LiveGame::kSlotsOfTeam; ++place)
-      m_panelGrid->addWidget(m_panels[static_cast<std::size_t>(team * LiveGame::kSlotsOfTeam + place)],
-                             row + 1, place);
-    m_panelGrid->setRowStretch(row + 1, 1);
-  }
+  m_bench = new BenchPanel(m_texts, m_panels, m_sides, this);
+  m_panels->fill({&m_bench->strip(0), &m_bench->strip(1)}, m_settings, m_texts);
+  return m_panels;
 }
 
 QWidget* frmLIVE::makeSide() {
@@ -166,10 +132,9 @@ QWidget* frmLIVE::makeSide() {
 
 void frmLIVE::connectEverything() {
   connect(&m_timer, &QTimer::timeout, this, &frmLIVE::tick);
-  connect(&m_retryOfWrites, &QTimer::timeout, this, &frmLIVE::lookAtFile);
-  connect(m_hold, &GameHold::fileChanged, this, &frmLIVE::lookAtFile);
-  connect(m_hold, &GameHold::taken, this, [this] { (void)open(path()); });
-  for (PlayerPanel* panel : m_panels) {
+  connect(m_file, &LiveFile::changed, this, &frmLIVE::showGame);
+  connect(m_file, &LiveFile::taken, this, [this] { (void)open(path()); });
+  for (PlayerPanel* panel : m_panels->panels()) {
     connect(panel, &PlayerPanel::courtPressed, this, &frmLIVE::pressCourt);
     connect(panel, &PlayerPanel::shotPressed, this,
             [this](int slot, EventCode kind, bool isMade) { shoot(slot, kind, isMade); });
@@ -255,8 +220,7 @@ void frmLIVE::applyMeasure() {
   const int gap = measure(5, 9);
   m_parts->setContentsMargins(edge, edge, edge, edge);
   m_parts->setSpacing(edge);
-  m_panelGrid->setHorizontalSpacing(gap);
-  m_panelGrid->setVerticalSpacing(measure(3, 6));
+  m_panels->applyMeasure();
   m_side->layout()->setSpacing(gap);
   const int column = measure(276, 384);
   m_sideScroll->setFixedWidth(column);
@@ -278,22 +242,9 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   m_afterQuestion = {};
   m_followUp->dismiss();
   const qint64 fileTime = QFileInfo(path).lastModified().toSecsSinceEpoch();
-  const GameHold::Access access = m_hold->request(path, std::move(lock));
-  m_problem =
-      m_game.open(fromQt(QFileInfo(path).absoluteFilePath()),
-                  access == GameHold::Access::Ours ? LiveGame::Access::Recording : LiveGame::Access::Reading);
-  if (m_problem != GameFileProblem::None) {
-    m_hold->drop();
+  m_problem = m_file->open(path, std::move(lock));
+  if (m_problem != GameFileProblem::None)
     return Opening::Problem;
-  }
-  m_hold->keep();
-  m_isHeldElsewhere = access == GameHold::Access::HeldElsewhere;
-  if (access == GameHold::Access::Ours) {
-    m_game.disk().setOwnership([this] { return m_hold->isStillOurs(); });
-    if (m_hold->lock().names() > 1)
-      m_dialogs.inform(this, toQt(m_texts.text(Text::WarningTitle)),
-                       toQt(m_texts.withPlaceholder(Text::OtherNames, m_hold->lock().game())));
-  }
   m_notices->forget();
   m_card->hide();
   m_endedPeriod = m_game.endedPeriod(); // an end of another day is no news
@@ -326,14 +277,17 @@ bool frmLIVE::writeCopy(const QString& path) {
   return m_game.writeCopy(fromQt(path));
 }
 
+GameHold& frmLIVE::hold() const {
+  return m_file->hold();
+}
+
 QString frmLIVE::path() const {
   return toQt(m_game.game().path);
 }
 
 void frmLIVE::showGame() {
-  takeForeignHands();
-  for (PlayerPanel* panel : m_panels)
-    panel->showGame(m_game);
+  m_file->takeForeignHands();
+  m_panels->showGame(m_game);
   m_score->showGame(m_game);
   m_sides->showGame(m_game);
   m_bench->showGame(m_game);
@@ -342,7 +296,7 @@ void frmLIVE::showGame() {
   m_correction->gameChanged();
   showSelected();
   m_events->showGame(m_game);
-  showDisk();
+  m_file->show();
   m_offersClock = m_offersClock && (m_game.isStopLost() || m_game.wasClosedInPlay());
   m_notices->showLostStop(m_offersClock);
   showPeriodEnd();
@@ -363,17 +317,15 @@ void frmLIVE::showGame() {
 // For the next action, or whom a question is about: an assist, a rebound, whose an event is.
 void frmLIVE::showSelected() {
   const EventCorrection::Who asked = m_correction->isActive() ? m_correction->whose() : m_askedAbout;
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
+  m_panels->setSelected([&](int slot) {
     const int team = LiveGame::teamOf(slot);
     const int player = m_game.playerIn(slot);
-    m_panels[static_cast<std::size_t>(slot)]->setSelected(
-        m_bench->isSelected(team, player) || (player > 0 && asked == EventCorrection::Who{team, player}));
-  }
+    return m_bench->isSelected(team, player) || (player > 0 && asked == EventCorrection::Who{team, player});
+  });
 }
 
 void frmLIVE::showTime() {
-  for (PlayerPanel* panel : m_panels)
-    panel->showTime(m_game);
+  m_panels->showTime(m_game);
   m_score->showTime(m_game);
   m_bench->showTime(m_game);
   m_now->showTime(m_game);
@@ -393,56 +345,6 @@ QString frmLIVE::pendingWords() const {
   }
   return toQt(withPlaceholders(m_texts.text(Text::SubstitutionPending), counts,
                                Module1::clockText(pending->clockSeconds)));
-}
-
-void frmLIVE::showDisk() {
-  const GameOnDisk& disk = m_game.disk();
-  const std::string waiting = std::to_string(disk.waiting());
-  m_now->showDisk(disk.isOnDisk(), disk.waiting());
-  showReadOnly();
-  if (disk.isOnDisk()) {
-    m_retryOfWrites.stop();
-    return m_notices->showNotOnDisk({});
-  }
-  const Text text = disk.isLost()              ? Text::TakenOver
-                    : disk.rescuedAs().empty() ? Text::ChangesNotOnDisk
-                                               : Text::NotOnDiskButRescued;
-  const std::string words = withPlaceholders(
-      m_texts.text(text), disk.isLost() ? fromQt(m_hold->ownerWords()) : waiting, disk.rescuedAs());
-  m_notices->showNotOnDisk(toQt(words));
-  if (!m_retryOfWrites.isActive())
-    m_retryOfWrites.start();
-}
-
-void frmLIVE::showReadOnly() {
-  m_readOnly->setVisible(m_game.phase() == LiveGame::Phase::ReadOnly);
-  const Text text = m_isHeldElsewhere ? Text::HeldElsewhere : Text::ForReadingOnly;
-  const QString whom = m_isHeldElsewhere ? m_hold->ownerWords() : path();
-  const QString shown = m_readOnly->fontMetrics().elidedText(whom, Qt::ElideMiddle, kPathWidth);
-  m_readOnly->setText(toQt(m_texts.withPlaceholder(text, fromQt(shown))));
-  m_readOnly->setToolTip(toQt(m_texts.withPlaceholder(text, fromQt(whom))));
-}
-
-// Between two actions, when nothing refers to events that may move.
-void frmLIVE::takeForeignHands() {
-  const std::string words = foreignWords(m_game.takeForeignHands(), m_texts);
-  if (!words.empty())
-    m_notices->tellForeign(toQt(words));
-}
-
-// Also after this window's own writes: then it is as it was left, and nothing is shown anew.
-void frmLIVE::lookAtFile() {
-  if (m_game.phase() == LiveGame::Phase::ReadOnly) {
-    if (m_isHeldElsewhere &&
-        m_game.open(m_game.game().path, LiveGame::Access::Reading) == GameFileProblem::None)
-      showGame();
-    return;
-  }
-  m_game.settle();
-  if (m_game.disk().hasForeignHands())
-    showGame();
-  else
-    showDisk();
 }
 
 // --- Clock
@@ -518,7 +420,7 @@ void frmLIVE::askOvertime() {
 
 void frmLIVE::gameOver() {
   if (m_game.phase() == LiveGame::Phase::ReadOnly)
-    return m_dialogs.inform(this, toQt(m_texts.text(Text::WarningTitle)), m_readOnly->toolTip());
+    return m_dialogs.inform(this, toQt(m_texts.text(Text::WarningTitle)), m_file->strip().toolTip());
   if (isRunning()) {
     if (!m_dialogs.ask(this, toQt(m_texts.text(Text::WarningTitle)),
                        toQt(m_texts.text(Text::GameOverInPlay))))
@@ -563,9 +465,9 @@ void frmLIVE::switchSides() {
 }
 
 void frmLIVE::showSides() {
-  placeRows();
+  m_panels->setTurned(m_isSwitched && !m_rowsStay); // with the sides, unless they were asked to stay
   for (int slot = 0; slot < LiveGame::kSlots; ++slot)
-    m_panels[static_cast<std::size_t>(slot)]->setPlaysRight(playsRight(slot));
+    m_panels->panel(slot).setPlaysRight(playsRight(slot));
   m_score->setSides(m_isSwitched, m_rowsStay);
   m_sides->setSides(m_isSwitched, m_rowsStay);
   for (int team = 0; team < 2; ++team)
@@ -609,8 +511,7 @@ void frmLIVE::chooseColour(int team) {
 
 void frmLIVE::relabelWindow() {
   relabel(*this, m_texts);
-  for (PlayerPanel* panel : m_panels)
-    panel->relabelPanel();
+  m_panels->relabelPanels();
   m_notices->relabelNotices();
   m_card->relabelCard();
   m_score->relabelPanel();
@@ -627,8 +528,7 @@ void frmLIVE::applyColours() {
   m_notices->applyColours();
   m_card->applyColours();
   m_benchShot->applyColours();
-  for (PlayerPanel* panel : m_panels)
-    panel->applyColours();
+  m_panels->applyColours();
   m_score->applyColours();
   m_sides->applyColours();
   m_bench->applyColours();
@@ -647,27 +547,23 @@ void frmLIVE::dropEvent(QDropEvent* event) {
   const std::string dropped = event->mimeData()->data(playerMimeType()).toStdString();
   const int team = Module1::leadingNumber(Module1::field(dropped, 1, '-'));
   const int player = Module1::leadingNumber(Module1::field(dropped, 2, '-'));
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
-    const PlayerPanel* panel = m_panels[static_cast<std::size_t>(slot)];
-    const QPoint place = panel->mapFrom(this, event->position().toPoint());
-    if (LiveGame::teamOf(slot) != team || !panel->rect().contains(place) || player < 1 ||
-        player > Roster::kLargestEntry)
-      continue;
-    if (m_game.playerIn(slot) == 0) {
-      m_bench->clearSelection();
-      event->acceptProposedAction();
-      (void)m_game.putInSlot(slot, player);
-      return showGame();
-    }
-    OnCourt wanted = m_game.onCourt();
-    unsigned& entries = wanted[static_cast<std::size_t>(team)];
-    if (const int leaving = m_game.playerIn(slot); leaving > 0)
-      entries &= ~(1U << static_cast<unsigned>(leaving));
-    entries |= 1U << static_cast<unsigned>(player);
-    event->acceptProposedAction();
-    m_bench->clearSelection(); // which the press that began the drag has made
-    return setOnCourt(wanted);
+  const std::optional<int> slot =
+      m_panels->slotAt(team, m_panels->mapFrom(this, event->position().toPoint()));
+  if (!slot || player < 1 || player > Roster::kLargestEntry)
+    return;
+  event->acceptProposedAction();
+  m_bench->clearSelection(); // which the press that began the drag has made
+  const int leaving = m_game.playerIn(*slot);
+  if (leaving == 0) {
+    (void)m_game.putInSlot(*slot, player);
+    return showGame();
   }
+  OnCourt wanted = m_game.onCourt();
+  unsigned& entries = wanted[static_cast<std::size_t>(team)];
+  if (leaving > 0)
+    entries &= ~(1U << static_cast<unsigned>(leaving));
+  entries |= 1U << static_cast<unsigned>(player);
+  setOnCourt(wanted);
 }
 
 bool frmLIVE::mayClose() {
@@ -677,14 +573,7 @@ bool frmLIVE::mayClose() {
     return false;
   m_game.stopForClosing(QDateTime::currentSecsSinceEpoch());
   showGame();
-  if (m_game.settle())
-    return true;
-  showDisk();
-  const std::string& rescued = m_game.disk().rescuedAs();
-  const std::string question =
-      withPlaceholders(m_texts.text(rescued.empty() ? Text::LeaveUnwritten : Text::LeaveRescued),
-                       std::to_string(m_game.log().waiting()), rescued);
-  return m_dialogs.ask(this, toQt(m_texts.text(Text::ErrorTitle)), toQt(question));
+  return m_file->mayLeave();
 }
 
 } // namespace hooptab

@@ -3,23 +3,20 @@
 #pragma once
 
 #include "appearance/ChildWindow.h"
-#include "appearance/GameHold.h"
 #include "appearance/WidgetsFirst.h"
 #include "court/ZoneMap.h"
 #include "recording/EventCorrection.h"
 #include "recording/FollowUpQuestion.h"
 #include "recording/LiveGame.h"
 #include "recording/ToggleGuard.h"
+#include "storage/GameLock.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include <array>
 #include <functional>
 
 class QBoxLayout;
-class QGridLayout;
-class QLabel;
 class QScrollArea;
 
 namespace hooptab {
@@ -31,11 +28,13 @@ class Dialogs;
 class EventRequests;
 class FollowUpBar;
 class LiveEventPanel;
+class GameHold;
+class LiveFile;
 class LiveKeys;
 class LiveNotices;
 class NowStrip;
 class PeriodEndCard;
-class PlayerPanel;
+class PanelGrid;
 class RepeatedPress;
 class ScorePanel;
 class Settings;
@@ -60,7 +59,7 @@ class frmLIVE : public ChildWindow {
   void setWatching(bool isOn) { m_game.disk().setWatching(isOn); }
   bool writeCopy(const QString& path);
   void writePending() { m_game.settle(); }
-  GameHold& hold() { return *m_hold; }
+  [[nodiscard]] GameHold& hold() const;
   GameFileProblem problem() const { return m_problem; } // after Problem
   QString path() const;
   const Game& game() const { return m_game.game(); } // as recorded so far
@@ -90,7 +89,6 @@ class frmLIVE : public ChildWindow {
   void commandStateChanged(); // the clock was started or stopped
 
  private:
-  QLabel* makeReadOnly();
   QWidget* makePanels();
   QWidget* makeSide();
   void connectEverything();
@@ -105,7 +103,6 @@ class frmLIVE : public ChildWindow {
   void proposeFives(frmSUBST& several);
   void tellMissing();
   void placeOverlays();
-  void placeRows();
   QScrollArea* makeScroll(QWidget* content);
   void applyMeasure();
   [[nodiscard]] QString pendingWords() const;
@@ -113,10 +110,6 @@ class frmLIVE : public ChildWindow {
   void showGame();
   void showSelected();
   void showTime();
-  void showDisk();
-  void showReadOnly();
-  void takeForeignHands();
-  void lookAtFile();
   void tick();
   void toggleClock();
   void refuseClock(Text text);
@@ -147,7 +140,6 @@ class frmLIVE : public ChildWindow {
   Dialogs& m_dialogs;
   LiveGame m_game;
   GameFileProblem m_problem = GameFileProblem::None;
-  GameHold* m_hold;
   bool m_isSwitched = false;
   bool m_rowsStay = false; // of panels, plates and benches, where the sides are switched
   int m_endedPeriod = 0;   // shown last
@@ -158,19 +150,15 @@ class frmLIVE : public ChildWindow {
   std::function<void()> m_afterQuestion;
   QTimer m_timer; // Timer1
   QTimer m_lock;  // while the clock cannot be started
-  QTimer m_retryOfWrites;
-  bool m_isHeldElsewhere = false;
 
-  QLabel* m_readOnly = nullptr;
+  LiveFile* m_file = nullptr;
   LiveNotices* m_notices = nullptr;
   QBoxLayout* m_parts = nullptr;
   QScrollArea* m_panelScroll = nullptr;
   QScrollArea* m_sideScroll = nullptr;
   NowStrip* m_now = nullptr;
   SideSwitch* m_sides = nullptr;
-  QWidget* m_panelArea = nullptr;
-  QGridLayout* m_panelGrid = nullptr;
-  std::array<PlayerPanel*, LiveGame::kSlots> m_panels = {};
+  PanelGrid* m_panels = nullptr;
   ScorePanel* m_score = nullptr;
   BenchPanel* m_bench = nullptr;
   LiveEventPanel* m_events = nullptr;

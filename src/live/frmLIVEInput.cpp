@@ -14,6 +14,7 @@
 #include "live/BenchPanel.h"
 #include "live/LiveKeys.h"
 #include "live/LiveNotices.h"
+#include "live/PanelGrid.h"
 #include "live/PeriodEndCard.h"
 #include "live/PlayerPanel.h"
 #include "live/RepeatedPress.h"
@@ -130,9 +131,8 @@ void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
   const auto placeOf = [](const QWidget& widget) {
     return QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size());
   };
-  m_followUp->ask(m_game, followUps, team, player,
-                  slot ? placeOf(*m_panels[static_cast<std::size_t>(*slot)]) : QRect(),
-                  placeOf(*m_panelArea));
+  m_followUp->ask(m_game, followUps, team, player, slot ? placeOf(m_panels->panel(*slot)) : QRect(),
+                  placeOf(*m_panels));
   m_askedAbout = m_followUp->isOpen() ? EventCorrection::Who{team, player} : EventCorrection::Who();
   showSelected();
   if (slot)

@@ -12,6 +12,7 @@
 #include "live/BenchPanel.h"
 #include "live/LiveNotices.h"
 #include "live/NowStrip.h"
+#include "live/PanelGrid.h"
 #include "live/PlayerPanel.h"
 #include "live/RosterStrip.h"
 #include "live/SideSwitch.h"
@@ -42,7 +43,7 @@ void frmLIVE::connectPlayers() {
   connect(m_bench, &BenchPanel::placesStayAsked, this, [this](bool stay) { m_game.setKeepsPlaces(stay); });
   connect(m_bench, &BenchPanel::severalShown, this, &frmLIVE::proposeFives);
   connect(m_events, &LiveEventPanel::correctionAsked, this, &frmLIVE::correct);
-  for (PlayerPanel* panel : m_panels) {
+  for (PlayerPanel* panel : m_panels->panels()) {
     connect(panel, &PlayerPanel::headPressed, this,
             [this](int slot) { m_correction->takePlayer(LiveGame::teamOf(slot), m_game.playerIn(slot)); });
     connect(panel, &PlayerPanel::emptyPressed, this, &frmLIVE::putInPlace);

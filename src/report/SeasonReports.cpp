@@ -24,17 +24,17 @@ constexpr Text kViewTitles[] = {Text::Total, Text::AveragePerGame, Text::Average
                                 Text::PerForty}; // by SeasonView
 
 constexpr SeasonReportName kReports[] = {
-    {SeasonReport::TeamSummary, "StLISTGAMES", Text::TeamSummary, "team-summary"},
-    {SeasonReport::TeamDetail, "StLISTGAMESSOMM", Text::TeamDetail, "team-detail"},
-    {SeasonReport::PlayerShots, "stSTATJOUEURS", Text::PlayerShots, "player-shots"},
-    {SeasonReport::LineShots, "stSTATLIGNES", Text::LineShots, "line-shots"},
-    {SeasonReport::PlayerOther, "stSTATJOUEURSAUTRES", Text::PlayerOther, "player-other"},
-    {SeasonReport::LineOther, "stSTATLIGNESAUTRES", Text::LineOther, "line-other"},
-    {SeasonReport::LeadersTotal, "stMENEURSTOT", Text::LeadersTotal, "leaders"},
-    {SeasonReport::LeadersPerGame, "stMENEURSMOY", Text::LeadersPerGame, "leaders-per-game"},
-    {SeasonReport::LeadersPerMinute, "stMENEURSMIN", Text::LeadersPerMinute, "leaders-per-minute"},
-    {SeasonReport::Player, "stRAPJOUEUR", Text::PlayerReport, "player"},
-    {SeasonReport::Line, "stRAPLIGNE", Text::LineReport, "line"},
+    {SeasonReport::TeamSummary, Text::TeamSummary, "team-summary"},
+    {SeasonReport::TeamDetail, Text::TeamDetail, "team-detail"},
+    {SeasonReport::PlayerShots, Text::PlayerShots, "player-shots"},
+    {SeasonReport::LineShots, Text::LineShots, "line-shots"},
+    {SeasonReport::PlayerOther, Text::PlayerOther, "player-other"},
+    {SeasonReport::LineOther, Text::LineOther, "line-other"},
+    {SeasonReport::LeadersTotal, Text::LeadersTotal, "leaders"},
+    {SeasonReport::LeadersPerGame, Text::LeadersPerGame, "leaders-per-game"},
+    {SeasonReport::LeadersPerMinute, Text::LeadersPerMinute, "leaders-per-minute"},
+    {SeasonReport::Player, Text::PlayerReport, "player"},
+    {SeasonReport::Line, Text::LineReport, "line"},
 };
 
 std::string text(const Texts& texts, Text which) {

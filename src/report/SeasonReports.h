@@ -31,9 +31,8 @@ enum class SeasonReport : std::uint8_t {
 // How a report is asked for.
 struct SeasonReportName {
   SeasonReport report;
-  std::string_view command; // key of the menu entry: "StLISTGAMES"
-  Text text;                // of the menu entry
-  std::string_view word;    // on the command line: "team-summary"
+  Text text;             // of the menu entry
+  std::string_view word; // on the command line: "team-summary"
 };
 [[nodiscard]] std::span<const SeasonReportName> seasonReports();
 

@@ -9,6 +9,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
+#include <utility>
 
 namespace hooptab {
 
@@ -17,36 +18,36 @@ namespace {
 // The words beside the icons of the mode that is on: the whole captions, which menus and tool tips show,
 // would not fit side by side. Printing and closing, known by their icons, give up their words first.
 struct ShortCaption {
-  std::string_view key;
+  CommandId id;
   Text text;
 };
 // clang-format off
 constexpr ShortCaption kShortCaptions[] = {
-    {"VIEW", Text::ScorecardShort}, {"VwREFRESH", Text::RefreshShort}, {"VwLIGNE", Text::ByLineShort}, {"VwMA", Text::MadeAttempted},
-    {"vwPRINT", Text::PrintWord}, {"VwCLOSE", Text::CloseButton},
-    {"STATS", Text::Season}, {"stPRINT", Text::PrintWord}, {"stCLOSE", Text::CloseButton},
-    {"LIVE", Text::Input}, {"LIVEKpad", Text::KeypadShort}, {"LIVEMouse", Text::ReboundsShort}, {"SWITCH", Text::Sides}, {"GAMEOVER", Text::EndGameShort},
-    {"livePRINT", Text::PrintWord}, {"saveMANUAL", Text::SaveShort}, {"CLOSELIVEMANUAL", Text::CloseButton}, {"SETTINGS", Text::Settings},
+    {CommandId::ViewMenu, Text::ScorecardShort}, {CommandId::Refresh, Text::RefreshShort}, {CommandId::ByLine, Text::ByLineShort}, {CommandId::MadeAttempted, Text::MadeAttempted},
+    {CommandId::PrintScorecard, Text::PrintWord}, {CommandId::CloseScorecard, Text::CloseButton},
+    {CommandId::OpenSeason, Text::Season}, {CommandId::PrintSeason, Text::PrintWord}, {CommandId::CloseSeason, Text::CloseButton},
+    {CommandId::InputMenu, Text::Input}, {CommandId::Keypad, Text::KeypadShort}, {CommandId::AskRebounds, Text::ReboundsShort}, {CommandId::SwitchSides, Text::Sides}, {CommandId::GameOver, Text::EndGameShort},
+    {CommandId::PrintGame, Text::PrintWord}, {CommandId::SaveTotals, Text::SaveShort}, {CommandId::CloseInput, Text::CloseButton}, {CommandId::SettingsMenu, Text::Settings},
 };
 // clang-format on
 
 Text shortCaption(const Command& command, const CommandState& state) {
   if (state.text == Text::ViewByPlayer)
     return Text::ByPlayer;
-  const auto* found = std::ranges::find(kShortCaptions, command.key, &ShortCaption::key);
+  const auto* found = std::ranges::find(kShortCaptions, command.id, &ShortCaption::id);
   return found == std::end(kShortCaptions) ? state.text : found->text;
 }
 
 Text textOfRefresh(const Modes& modes) {
   const auto isInForce = [&](const Command& command) {
-    return command.parent == "VwREFRESH" && stateOf(command, modes).isChecked;
+    return command.parent == CommandId::Refresh && stateOf(command, modes).isChecked;
   };
   const auto found = std::ranges::find_if(commands(), isInForce);
   return found == commands().end() ? Text::None : found->text;
 }
 
 bool hasEntries(const Command& command) {
-  return std::ranges::any_of(commands(), [&](const Command& entry) { return entry.parent == command.key; });
+  return std::ranges::any_of(commands(), [&](const Command& entry) { return entry.parent == command.id; });
 }
 
 } // namespace
@@ -70,21 +71,21 @@ CommandBar::CommandBar(QMainWindow& window) : QObject(&window), m_window(window)
       continue;
     auto* menu = new QMenu(&window);
     menu->setToolTipsVisible(true);
-    m_dropDowns.insert(toQt(command.key), menu);
+    m_dropDowns[index(command.id)] = menu;
   }
-  QHash<QString, QActionGroup*> choices;
+  std::array<QActionGroup*, kCommandCount> choices = {};
   for (const Command& command : commands()) {
     QAction* action = makeAction(command);
-    m_actions.insert(toQt(command.key), action);
+    m_actions[index(command.id)] = action;
     if (command.kind == CommandKind::Choice) {
-      QActionGroup*& group = choices[toQt(command.parent)];
+      QActionGroup*& group = choices[index(command.parent)];
       if (group == nullptr)
         group = new QActionGroup(this);
       group->addAction(action);
     }
-    if (command.parent.empty()) {
+    if (command.parent == CommandId::None) {
       if (command.kind != CommandKind::Menu && hasEntries(command))
-        dropDown(command.key).addAction(action);
+        dropDown(command.id).addAction(action);
       continue;
     }
     QMenu& parent = dropDown(command.parent);
@@ -94,36 +95,38 @@ CommandBar::CommandBar(QMainWindow& window) : QObject(&window), m_window(window)
   }
 }
 
-QAction& CommandBar::action(std::string_view key) const {
-  return *m_actions.value(toQt(key));
+QAction& CommandBar::action(CommandId id) const {
+  return *m_actions[index(id)];
 }
 
-QMenu& CommandBar::dropDown(std::string_view key) const {
-  return *m_dropDowns.value(toQt(key));
+QMenu& CommandBar::dropDown(CommandId id) const {
+  return *m_dropDowns[index(id)];
+}
+
+void CommandBar::serve(CommandId id, QObject* owner, std::function<void()> handler) {
+  connect(&action(id), &QAction::triggered, owner, [handler = std::move(handler)] { handler(); });
+  m_isServed[index(id)] = true;
 }
 
 QAction* CommandBar::makeAction(const Command& command) {
-  const QString key = toQt(command.key);
   QAction* action =
-      command.kind == CommandKind::Menu ? dropDown(command.key).menuAction() : new QAction(&m_window);
-  action->setObjectName(key);
+      command.kind == CommandKind::Menu ? dropDown(command.id).menuAction() : new QAction(&m_window);
+  action->setObjectName(toQt(command.key));
   action->setCheckable(command.kind == CommandKind::Toggle || command.kind == CommandKind::Choice);
-  if (command.kind != CommandKind::Menu)
-    connect(action, &QAction::triggered, this, [this, key] { emit asked(key); });
   return action;
 }
 
 void CommandBar::addButton(const Command& command) {
   if (command.separatorBefore)
     m_toolBar->addSeparator();
-  QAction& action = this->action(command.key);
+  QAction& action = this->action(command.id);
   m_toolBar->addAction(&action);
   auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(&action));
   button->setObjectName(QStringLiteral("button_") + toQt(command.key));
   if (command.kind == CommandKind::Menu) {
     button->setPopupMode(QToolButton::InstantPopup);
   } else if (hasEntries(command)) {
-    button->setMenu(&dropDown(command.key));
+    button->setMenu(&dropDown(command.id));
     button->setPopupMode(QToolButton::MenuButtonPopup);
   }
 }
@@ -131,7 +134,7 @@ void CommandBar::addButton(const Command& command) {
 void CommandBar::show(const Modes& modes, const Texts& texts) {
   for (const Command& command : commands()) {
     const CommandState state = stateOf(command, modes);
-    QAction& action = this->action(command.key);
+    QAction& action = this->action(command.id);
     action.setEnabled(state.isEnabled);
     if (action.isCheckable())
       action.setChecked(state.isChecked);
@@ -141,7 +144,7 @@ void CommandBar::show(const Modes& modes, const Texts& texts) {
     setToolTipNumber(action, state.text);
     relabel(action, texts);
     action.setIconText(caption(texts, shortCaption(command, state)));
-    if (command.key == "VwREFRESH" && modes.refreshSeconds > 0) { // that it goes on by itself
+    if (command.id == CommandId::Refresh && modes.refreshSeconds > 0) { // that it goes on by itself
       action.setIconText(action.iconText() + QStringLiteral(" (%1 s)").arg(modes.refreshSeconds));
       action.setToolTip(action.toolTip() + QStringLiteral(": ") + caption(texts, textOfRefresh(modes)));
       action.setStatusTip(action.toolTip());
@@ -160,18 +163,17 @@ void CommandBar::placeButtons(const Modes& modes) {
   for (const Command& command : commands()) {
     if (!hasButton(command, modes))
       continue;
-    const QString key = toQt(command.key);
-    m_buttons << key;
+    m_buttons << command.id;
     // The window in front has its commands in words; with none, those that lead to a first one have.
     const bool isOfFront = command.group == modes.inFront ||
                            (command.group == CommandGroup::LiveOrManual &&
                             (modes.inFront == CommandGroup::Live || modes.inFront == CommandGroup::Manual));
     if (!isOfFront && command.group != CommandGroup::Always)
-      m_others << key;
-    if (!isOfFront || command.key == "SETTINGS" || command.key == "HELP")
+      m_others << command.id;
+    if (!isOfFront || command.id == CommandId::SettingsMenu || command.id == CommandId::HelpMenu)
       continue;
     const Text words = shortCaption(command, stateOf(command, modes));
-    (words == Text::PrintWord || words == Text::CloseButton ? m_wordedLast : m_worded) << key;
+    (words == Text::PrintWord || words == Text::CloseButton ? m_wordedLast : m_worded) << command.id;
   }
   layOut();
 }
@@ -185,9 +187,9 @@ void CommandBar::setRoom(int width) {
 QStringList CommandBar::measures() const {
   QStringList measures{QString::number(m_room), QString::number(m_toolBar->iconSize().width()),
                        m_toolBar->font().toString()};
-  for (const QString& key : m_buttons)
-    measures << m_actions.value(key)->iconText() << QString::number(m_worded.contains(key))
-             << QString::number(m_others.contains(key));
+  for (const CommandId id : m_buttons)
+    measures << action(id).iconText() << QString::number(m_worded.contains(id))
+             << QString::number(m_others.contains(id));
   return measures;
 }
 
@@ -197,13 +199,13 @@ void CommandBar::layOut() {
     return;
   m_laidOut = now;
   putIn(m_buttons);
-  for (const QStringList& worded : {m_worded + m_wordedLast, m_worded, QStringList()}) {
+  for (const QList<CommandId>& worded : {m_worded + m_wordedLast, m_worded, QList<CommandId>()}) {
     showWords(worded);
     if (fits())
       return;
   }
   // Commands of windows behind the one in front, the last first.
-  QStringList shown = m_buttons;
+  QList<CommandId> shown = m_buttons;
   for (qsizetype last = m_others.size(); last > 0 && !fits(); --last) {
     shown.removeOne(m_others[last - 1]);
     putIn(shown);
@@ -216,15 +218,14 @@ bool CommandBar::fits() const {
 }
 
 // The others stand in a menu at the end.
-void CommandBar::putIn(const QStringList& keys) {
+void CommandBar::putIn(const QList<CommandId>& buttons) {
   m_toolBar->clear();
   m_moreMenu->clear();
   for (const Command& command : commands()) {
-    const QString key = toQt(command.key);
-    if (keys.contains(key))
+    if (buttons.contains(command.id))
       addButton(command);
-    else if (m_buttons.contains(key))
-      m_moreMenu->addAction(m_actions.value(key));
+    else if (m_buttons.contains(command.id))
+      m_moreMenu->addAction(&action(command.id));
   }
   if (m_moreMenu->isEmpty())
     return;
@@ -235,10 +236,11 @@ void CommandBar::putIn(const QStringList& keys) {
   button->setToolButtonStyle(Qt::ToolButtonIconOnly);
 }
 
-void CommandBar::showWords(const QStringList& keys) {
-  for (const QString& key : m_buttons) {
-    if (auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(m_actions.value(key))))
-      button->setToolButtonStyle(keys.contains(key) ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+void CommandBar::showWords(const QList<CommandId>& buttons) {
+  for (const CommandId id : m_buttons) {
+    if (auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(&action(id))))
+      button->setToolButtonStyle(buttons.contains(id) ? Qt::ToolButtonTextBesideIcon
+                                                      : Qt::ToolButtonIconOnly);
   }
 }
 

@@ -23,28 +23,28 @@ bool isOn(CommandGroup group, const Modes& modes) {
 bool isEnabled(const Command& command, const Modes& modes) {
   if (command.kind == CommandKind::Menu)
     return std::ranges::any_of(commands(), [&](const Command& entry) {
-      return entry.parent == command.key && isEnabled(entry, modes);
+      return entry.parent == command.id && isEnabled(entry, modes);
     });
   return isOn(command.group, modes);
 }
 
 // Whether what a Toggle, Swap or Choice stands for is so at present.
-bool isSo(std::string_view key, const Modes& modes) {
-  if (key == "VwLIGNE")
+bool isSo(CommandId id, const Modes& modes) {
+  if (id == CommandId::ByLine)
     return modes.scorecardByLine;
-  if (key == "VwMA")
+  if (id == CommandId::MadeAttempted)
     return modes.scorecardHidesMadeAttempted;
-  if (key == "LIVEMouse")
+  if (id == CommandId::AskRebounds)
     return modes.asksRebounds;
-  if (key == "LIVEKpad")
+  if (id == CommandId::Keypad)
     return modes.keypadIsActive;
-  if (key == "VwREFSEC10")
+  if (id == CommandId::Refresh10)
     return modes.refreshSeconds == 10;
-  if (key == "VwREFSEC30")
+  if (id == CommandId::Refresh30)
     return modes.refreshSeconds == 30;
-  if (key == "VwREFSEC60")
+  if (id == CommandId::Refresh60)
     return modes.refreshSeconds == 60;
-  return key == "VwREFSEC00" && modes.refreshSeconds == 0;
+  return id == CommandId::RefreshByHand && modes.refreshSeconds == 0;
 }
 
 } // namespace
@@ -52,16 +52,16 @@ bool isSo(std::string_view key, const Modes& modes) {
 CommandState stateOf(const Command& command, const Modes& modes) {
   CommandState state{isEnabled(command, modes), false, command.text, command.icon, command.shortcut};
   // The key saves what is in front; totals behind another window are saved by their button.
-  if (command.key == "saveMANUAL" && modes.inFront != CommandGroup::Manual)
+  if (command.id == CommandId::SaveTotals && modes.inFront != CommandGroup::Manual)
     state.shortcut = {};
-  const bool so = isSo(command.key, modes);
+  const bool so = isSo(command.id, modes);
   if (command.kind == CommandKind::Swap && so) {
     state.text = command.otherText;
     state.icon = command.otherIcon;
   } else if (command.kind == CommandKind::Toggle || command.kind == CommandKind::Choice) {
     state.isChecked = so;
   }
-  if (command.key == "VwREFRESH" && modes.refreshSeconds > 0)
+  if (command.id == CommandId::Refresh && modes.refreshSeconds > 0)
     state.icon = modes.refreshSeconds == 10   ? "vwrefsec10"
                  : modes.refreshSeconds == 30 ? "vwrefsec30"
                                               : "vwrefsec60";
@@ -69,7 +69,7 @@ CommandState stateOf(const Command& command, const Modes& modes) {
 }
 
 bool hasButton(const Command& command, const Modes& modes) {
-  if (!command.parent.empty())
+  if (command.parent != CommandId::None)
     return false;
   const bool hasLive = modes.live != LiveClock::NoGame;
   switch (command.group) {

@@ -5,11 +5,67 @@
 
 #include "settings/Text.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
 
 namespace hooptab {
+
+// In the order of the table.
+enum class CommandId : std::uint8_t {
+  ViewMenu,
+  OpenScorecard,
+  Refresh,
+  RefreshByHand,
+  Refresh10,
+  Refresh30,
+  Refresh60,
+  ByLine,
+  MadeAttempted,
+  PrintScorecard,
+  CloseScorecard,
+  OpenSeason,
+  TeamSummary,
+  TeamDetail,
+  PlayerShots,
+  LineShots,
+  PlayerOther,
+  LineOther,
+  LeadersTotal,
+  LeadersPerGame,
+  LeadersPerMinute,
+  PlayerReport,
+  LineReport,
+  PrintSeason,
+  CloseSeason,
+  InputMenu,
+  NewGame,
+  OpenForInput,
+  OpenForms,
+  SaveCopy,
+  Keypad,
+  AskRebounds,
+  SwitchSides,
+  GameOver,
+  PrintGame,
+  SaveTotals,
+  CloseInput,
+  SettingsMenu,
+  OpenTeams,
+  CourtColours,
+  OpenKeys,
+  FormsMenu,
+  PreparedForms,
+  BlankForms,
+  Language,
+  HelpMenu,
+  Guide,
+  WebSite,
+  About,
+  None // of no command
+};
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::None);
 
 enum class CommandKind : std::uint8_t {
   Action,
@@ -31,8 +87,10 @@ enum class CommandGroup : std::uint8_t {
 };
 
 struct Command {
-  std::string_view key;    // also the object name of its action
-  std::string_view parent; // key of the button whose drop-down shows it; empty for a button of the tool bar
+  CommandId id = CommandId::None;
+  std::string_view key; // the object name of its action
+  CommandId parent =
+      CommandId::None; // the button whose drop-down shows it; None for a button of the tool bar
   Text text = Text::None;
   std::string_view icon; // file name without ending
   CommandGroup group = CommandGroup::Always;
@@ -45,6 +103,6 @@ struct Command {
 
 // A button with entries that is no Menu acts itself; its own action is also the first entry of its drop-down.
 [[nodiscard]] std::span<const Command> commands();
-[[nodiscard]] const Command* findCommand(std::string_view key); // letter for letter; null when there is none
+[[nodiscard]] const Command& commandOf(CommandId id); // not None
 
 } // namespace hooptab

@@ -2,28 +2,26 @@
 
 #include "appearance/ChildWindow.h"
 #include "appearance/Dialogs.h"
-#include "appearance/GameHold.h"
 #include "appearance/Icons.h"
-#include "appearance/PlainLabel.h"
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "court/frmCOULEURS.h"
-#include "keypad/frmConfiguration.h"
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
 #include "printing/ReportOutput.h"
 #include "printing/WindowExports.h"
-#include "printing/frmprint.h"
 #include "scorecard/frmVIEW.h"
 #include "season/frmSTATS.h"
-#include "setup/frmNEWGAME.h"
 #include "shell/CommandBar.h"
+#include "shell/GameDialogs.h"
 #include "shell/GameMenu.h"
+#include "shell/InputDesk.h"
 #include "shell/MainMenu.h"
+#include "shell/PreviewDesk.h"
 #include "shell/PrintOffers.h"
-#include "shell/Refusals.h"
 #include "shell/SharedFiles.h"
+#include "shell/UnsavedSettings.h"
 #include "shell/WelcomePage.h"
 #include "shell/WindowArea.h"
 #include "shell/WindowMemory.h"
@@ -61,16 +59,15 @@ using namespace std::chrono_literals;
 constexpr int kStatusMargin = 8;
 constexpr int kTopMargin = 6;
 
-constexpr auto kRetryInterval = 2s;
 constexpr auto kMessageTime = 8s;
 constexpr QSize kFirstSize(1366, 860);
 constexpr std::string_view kLayoutName = "MDI";
 
-constexpr std::pair<const char*, frmVIEW::RefreshMode> kRefreshModes[] = {
-    {"VwREFSEC00", frmVIEW::RefreshMode::Manual},
-    {"VwREFSEC10", frmVIEW::RefreshMode::Every10},
-    {"VwREFSEC30", frmVIEW::RefreshMode::Every30},
-    {"VwREFSEC60", frmVIEW::RefreshMode::Every60},
+constexpr std::pair<CommandId, frmVIEW::RefreshMode> kRefreshModes[] = {
+    {CommandId::RefreshByHand, frmVIEW::RefreshMode::Manual},
+    {CommandId::Refresh10, frmVIEW::RefreshMode::Every10},
+    {CommandId::Refresh30, frmVIEW::RefreshMode::Every30},
+    {CommandId::Refresh60, frmVIEW::RefreshMode::Every60},
 };
 
 QStringList localFiles(const QMimeData& data) {
@@ -107,6 +104,8 @@ MDI::MDI(const Workshop& workshop)
   m_output->proposeFolder(toQt(m_workshop.memory.exportFolder()));
   connect(m_output, &ReportOutput::folderChosen, this,
           [this](const QString& folder) { m_workshop.memory.rememberExportFolder(fromQt(folder)); });
+  m_previews = new PreviewDesk(m_workshop, m_teams, *m_area, *m_output, *this);
+  m_input = new InputDesk(m_workshop, m_teams, *m_area, *m_previews, *this);
   m_exports = new WindowExports(*m_output, m_workshop.texts, this);
   auto* tables = new QMenu(this);
   auto* bar = new QMenuBar;
@@ -120,35 +119,48 @@ MDI::MDI(const Workshop& workshop)
 
   m_pages = new QStackedWidget(this);
   m_welcome = new WelcomePage(
-      {m_commands->action("LIVENew"), m_commands->action("VwOPEN"), m_commands->action("STATS"),
-       m_commands->action("gEQUIPE"), m_commands->action("AidHELP"), m_commands->action("tbLANGUE"),
-       *samples},
+      {m_commands->action(CommandId::NewGame), m_commands->action(CommandId::OpenScorecard),
+       m_commands->action(CommandId::OpenSeason), m_commands->action(CommandId::OpenTeams),
+       m_commands->action(CommandId::Guide), m_commands->action(CommandId::Language), *samples},
       [this] { return m_workshop.memory.rememberedFiles(); }, m_workshop.store.files(), m_workshop.texts,
       this);
   m_pages->addWidget(m_welcome);
   m_pages->addWidget(m_area);
   setCentralWidget(m_pages);
 
-  m_unsaved = new PlainLabel(this);
-  m_unsaved->setObjectName(QStringLiteral("lblUNSAVED"));
-  m_unsaved->hide();
+  m_unsaved = new UnsavedSettings(m_workshop, this);
   statusBar()->addPermanentWidget(m_output);
   statusBar()->addPermanentWidget(m_unsaved);
   // Its room is always taken: a hint that comes and goes must not move what is being pressed.
   statusBar()->setMinimumHeight(statusBar()->fontMetrics().height() + kStatusMargin);
-  m_retryOfWrites.setInterval(kRetryInterval);
 
-  connect(m_commands, &CommandBar::asked, this, &MDI::carryOut);
+  serveCommands();
   connect(m_menu, &MainMenu::coloursChosen, this, &MDI::switchColours);
   connect(m_menu, &MainMenu::zoomChosen, this, &MDI::switchZoom);
   connect(recent, &GameMenu::chosen, this, &MDI::openGame);
   connect(samples, &GameMenu::chosen, this, &MDI::openGame);
   connect(m_welcome, &WelcomePage::gameAsked, this, &MDI::openGame);
-  connect(m_welcome, &WelcomePage::inputAsked, this, &MDI::openForInput);
+  connect(m_welcome, &WelcomePage::inputAsked, m_input, &InputDesk::open);
   connect(m_welcome, &WelcomePage::folderAsked, this, &MDI::openFolder);
   connect(m_menu, &MainMenu::fileMenuShown, this, [this, tables] {
     m_exports->fill(*tables, m_area->front());
     tables->setEnabled(!tables->isEmpty());
+  });
+  connect(m_input, &InputDesk::opened, this, &MDI::rememberPlace);
+  connect(m_input, &InputDesk::reported, this, &MDI::showMessage);
+  connect(m_input, &InputDesk::languageAsked, this, &MDI::switchLanguage);
+  connect(m_input, &InputDesk::commandStateChanged, this, &MDI::showCommands);
+  connect(m_input, &InputDesk::settingsSaved, m_unsaved, &UnsavedSettings::refresh);
+  connect(m_unsaved, &UnsavedSettings::refreshed, this, &MDI::showStatusBar);
+  connect(m_unsaved, &UnsavedSettings::restored, this, [this](const QString& words) {
+    if (groupInFront() == CommandGroup::Live)
+      m_input->live()->tell(words);
+    else
+      statusBar()->showMessage(words); // until it is read: something else takes its place
+  });
+  connect(m_unsaved, &UnsavedSettings::waits, this, [this](const QString& words) {
+    if (groupInFront() == CommandGroup::Live)
+      m_input->live()->tell(words);
   });
   connect(m_output, &ReportOutput::reported, this, &MDI::showMessage);
   connect(m_exports, &WindowExports::reported, this, &MDI::showMessage);
@@ -157,19 +169,13 @@ MDI::MDI(const Workshop& workshop)
   connect(m_area, &WindowArea::added, this, [this](ChildWindow& child) {
     connect(&child, &ChildWindow::reported, this, [this](const QString& message) {
       showMessage(message);
-      showWhatIsUnsaved();
+      m_unsaved->refresh();
     });
     m_exports->serve(child);
     child.relabelWindow(); // it did not know yet which letters are the menus'
     m_pages->setCurrentWidget(m_area);
   });
-  connect(&m_retryOfWrites, &QTimer::timeout, this, [this] {
-    m_workshop.settings.retry();
-    showWhatIsUnsaved();
-  });
 
-  m_keypad.keys = KeypadAssignment(m_workshop.settings.keypadKeyTexts);
-  m_keypad.take(m_workshop.memory.keyChoices());
   relabelEverything();
   restorePlace();
   qApp->installEventFilter(this);
@@ -204,7 +210,7 @@ bool MDI::eventFilter(QObject* object, QEvent* event) {
   const auto* widget = qobject_cast<const QWidget*>(object);
   const auto* key = static_cast<const QKeyEvent*>(event);
   if (widget == nullptr || widget->window() != this ||
-      m_commands->action("gEQUIPE").shortcut() != QKeySequence(key->keyCombination()))
+      m_commands->action(CommandId::OpenTeams).shortcut() != QKeySequence(key->keyCombination()))
     return false;
   event->ignore();
   return true;
@@ -251,219 +257,48 @@ MDI::~MDI() {
   m_area->disconnect(this);
 }
 
-void MDI::carryOut(const QString& key) {
-  if (key == u"VwOPEN")
-    return chooseGame();
-  if (key == u"LIVENew")
-    return makeGame();
-  if (key == u"LIVEOpen")
-    return chooseGameForInput();
-  if (key == u"saveCOPY")
-    return saveCopy();
-  if (key == u"LIVEMouse") {
-    m_workshop.settings.saveAsksRebounds(!m_workshop.settings.asksRebounds);
-    showWhatIsUnsaved();
-    return showCommands();
-  }
-  if (key == u"LIVEKpad")
-    return switchKeypad();
-  if (frmLIVE* window = live()) {
-    if (key == u"SWITCH")
-      return window->switchSides();
-    if (key == u"GAMEOVER")
-      return window->gameOver();
-    if (key == u"livePRINT")
-      return preview(gameReports(window->game(), window->state(), ScorecardView(m_workshop.texts),
-                                 m_workshop.settings, m_workshop.texts));
-    if (key == u"CLOSELIVEMANUAL") {
+void MDI::serveCommands() {
+  m_input->serve(*m_commands);
+  m_previews->serve(*m_commands);
+  m_commands->serve(CommandId::OpenScorecard, this, [this] {
+    if (const QString path = askForGame(m_workshop, this, Text::OpenAGame); !path.isEmpty())
+      openGame(path);
+  });
+  m_commands->serve(CommandId::OpenTeams, this, [this] { openTeams(); });
+  m_commands->serve(CommandId::OpenSeason, this, [this] { openSeason(); });
+  m_commands->serve(CommandId::CloseSeason, this, [this] {
+    if (frmSTATS* window = season())
       window->parentWidget()->close();
-      return;
-    }
-  }
-  if (frmMANUAL* window = manual()) {
-    if (key == u"openFORM") {
-      m_area->bringToFront(*window);
-      return window->openForms();
-    }
-    if (key == u"saveMANUAL")
-      return window->save();
-    if (key == u"CLOSELIVEMANUAL") {
-      window->parentWidget()->close();
-      return;
-    }
-  }
-  if (key == u"gEQUIPE")
-    return openTeams();
-  if (key == u"STATS")
-    return openSeason();
-  if (frmSTATS* window = season()) {
-    if (key == u"stCLOSE") {
-      window->parentWidget()->close();
-      return;
-    }
-    const auto report = std::ranges::find(seasonReports(), fromQt(key), &SeasonReportName::command);
-    if (report != seasonReports().end())
-      m_seasonReport = report->report;
-    else if (key == u"stPRINT")
-      m_seasonReport =
-          reportOfPage(window->shownPage(), window->shownLeaders(), window->chosenPerson().get());
-    if (report != seasonReports().end() || key == u"stPRINT")
-      return printSeason(*window);
-  }
-  if (key == u"blankPRINT")
-    return preview(teamForms(m_teams, m_workshop.texts));
-  if (key == u"viergePRINT")
-    return preview(emptyForms(m_workshop.texts));
-  if (key == u"tbTERRAIN")
-    return openColours();
-  if (key == u"tbKEYPAD")
-    return openKeys();
-  if (key == u"tbLANGUE")
-    return switchLanguage();
-  if (key == u"AidHELP")
-    return m_help.openGuide(this);
-  if (key == u"AidWEB")
-    return m_help.openWebPage(this);
-  if (key == u"AidABOUT") {
-    frmABOUT(m_workshop.texts, this).exec();
-    return;
-  }
+  });
+  m_commands->serve(CommandId::CourtColours, this, [this] { openColours(); });
+  m_commands->serve(CommandId::Language, this, [this] { switchLanguage(); });
+  m_commands->serve(CommandId::Guide, this, [this] { m_help.openGuide(this); });
+  m_commands->serve(CommandId::WebSite, this, [this] { m_help.openWebPage(this); });
+  m_commands->serve(CommandId::About, this, [this] { frmABOUT(m_workshop.texts, this).exec(); });
 
-  frmVIEW* view = scorecard();
-  if (view == nullptr)
-    return;
-  if (key == u"VwREFRESH")
-    view->refresh();
-  else if (key == u"VwLIGNE")
-    view->setByLine(!view->isByLine());
-  else if (key == u"VwMA")
-    view->setHidesMadeAttempted(!view->hidesMadeAttempted());
-  else if (key == u"vwPRINT")
-    preview(gameReports(view->card().game(), view->card().state(), view->choice(), m_workshop.settings,
-                        m_workshop.texts));
-  else if (key == u"VwCLOSE")
-    m_area->closeActiveSubWindow();
-  for (const auto& [modeKey, mode] : kRefreshModes) {
-    if (key == QLatin1String(modeKey)) {
-      view->setRefreshMode(mode);
-      m_workshop.memory.rememberRefreshSeconds(static_cast<int>(mode));
-    }
-  }
-  showCommands();
-}
-
-QString MDI::askForGame(Text title) {
-  const Texts& texts = m_workshop.texts;
-  return m_workshop.dialogs.chooseFile(this, toQt(texts.text(title)),
-                                       toQt(m_workshop.settings.lastGameFolder),
-                                       fileFilter(toQt(texts.text(Text::GameFilter))));
-}
-
-void MDI::chooseGame() {
-  if (const QString path = askForGame(Text::OpenAGame); !path.isEmpty())
-    openGame(path);
-}
-
-void MDI::chooseGameForInput() {
-  if (const QString path = askForGame(Text::OpenAnExistingGame); !path.isEmpty())
-    openForInput(path);
-}
-
-void MDI::openForInput(const QString& path) {
-  if (manualAgreesToClose())
-    replaceInput(path);
-}
-
-// What is not saved of the totals that are open is asked for before another game takes their place.
-bool MDI::manualAgreesToClose() {
-  frmMANUAL* window = manual();
-  if (window == nullptr)
-    return true;
-  const bool agrees = window->agreesToClose();
-  window->stay(); // should it not come to that, closing it asks again
-  return agrees;
-}
-
-void MDI::replaceInput(const QString& path, GameLock lock) {
-  GameDetails details;
-  if (const GameFileProblem problem = GameFile(m_workshop.store, fromQt(path)).readDetails(details);
-      problem != GameFileProblem::None)
-    return refuse(problem, path);
-  if (details.inputType == 0)
-    openLive(path, std::move(lock));
-  else
-    openManual(path, std::move(lock));
-}
-
-// The window for the other kind of input makes room; at once, so that it gives up the lock on its game.
-void MDI::closeInput(ChildWindow* window) {
-  if (window != nullptr)
-    delete window->parentWidget();
-}
-
-void MDI::openLive(const QString& path, GameLock lock) {
-  if (manual() != nullptr && QFileInfo(manual()->path()) == QFileInfo(path)) // it was made anew
-    closeInput(manual());
-  frmLIVE* open = live();
-  std::unique_ptr<frmLIVE> fresh;
-  if (open == nullptr) {
-    fresh = std::make_unique<frmLIVE>(m_workshop.store, m_workshop.settings, m_workshop.texts,
-                                      m_workshop.dialogs, m_workshop.time);
-    fresh->setKeypad(m_keypad);
-    connect(fresh.get(), &frmLIVE::commandStateChanged, this, &MDI::showCommands);
-  }
-  frmLIVE& window = open == nullptr ? *fresh : *open;
-  switch (window.open(path, std::move(lock))) {
-  case frmLIVE::Opening::Opened: break;
-  case frmLIVE::Opening::Refused: return;
-  case frmLIVE::Opening::Problem: return refuse(window.problem(), path);
-  }
-  closeInput(manual());
-  showInput(path, window, std::move(fresh));
-}
-
-void MDI::openManual(const QString& path, GameLock lock) {
-  if (frmLIVE* other = live()) {
-    const bool agrees = other->agreesToClose();
-    other->stay();
-    if (!agrees)
-      return;
-    if (QFileInfo(other->path()) == QFileInfo(path)) // it was made anew
-      closeInput(other);
-  }
-  frmMANUAL* open = manual();
-  std::unique_ptr<frmMANUAL> fresh;
-  if (open == nullptr) {
-    fresh = std::make_unique<frmMANUAL>(m_workshop.store, m_workshop.settings, m_workshop.texts,
-                                        m_workshop.dialogs);
-    connect(fresh.get(), &frmMANUAL::saved, this, [this, window = fresh.get()] {
-      if (frmVIEW* view = m_area->scorecardOf(window->path()))
-        view->refresh();
+  const auto ofScorecard = [this](CommandId id, auto act) {
+    m_commands->serve(id, this, [this, act] {
+      if (frmVIEW* view = scorecard())
+        act(*view);
+      showCommands();
     });
-    connect(fresh.get(), &frmMANUAL::scanReportAsked, this,
-            [this, window = fresh.get()](const ScannedTotals& scanned, const QString& source) {
-              preview(scanReports(scanned, window->details(), fromQt(source), m_workshop.settings,
-                                  m_workshop.texts));
-            });
+  };
+  ofScorecard(CommandId::Refresh, [](frmVIEW& view) { view.refresh(); });
+  ofScorecard(CommandId::ByLine, [](frmVIEW& view) { view.setByLine(!view.isByLine()); });
+  ofScorecard(CommandId::MadeAttempted,
+              [](frmVIEW& view) { view.setHidesMadeAttempted(!view.hidesMadeAttempted()); });
+  ofScorecard(CommandId::CloseScorecard, [this](const frmVIEW&) { m_area->closeActiveSubWindow(); });
+  for (const auto& [id, mode] : kRefreshModes) {
+    ofScorecard(id, [this, mode = mode](frmVIEW& view) {
+      view.setRefreshMode(mode);
+      m_workshop.memory.rememberRefreshSeconds(static_cast<int>(mode));
+    });
   }
-  frmMANUAL& window = open == nullptr ? *fresh : *open;
-  if (!window.open(path, std::move(lock)))
-    return refuse(window.problem(), path);
-  closeInput(live());
-  showInput(path, window, std::move(fresh));
-}
-
-// `fresh` owns the window where it is not in the area yet.
-void MDI::showInput(const QString& path, ChildWindow& window, std::unique_ptr<ChildWindow> fresh) {
-  rememberPlace(path);
-  if (fresh == nullptr)
-    return m_area->bringToFront(window);
-  m_area->add(*fresh.release());
 }
 
 void MDI::openGame(const QString& path) {
   if (const GameFileProblem problem = showGame(path); problem != GameFileProblem::None)
-    refuse(problem, path);
+    refuse(m_workshop, this, problem, path);
 }
 
 GameFileProblem MDI::showGame(const QString& path) {
@@ -495,9 +330,9 @@ void MDI::openFromElsewhere(const QStringList& games) {
   for (const QString& game : games) {
     const GameFileProblem problem = showGame(game);
     if (problem != GameFileProblem::None && front != nullptr)
-      live()->tell(refusal(problem, game));
+      m_input->live()->tell(refusal(m_workshop, problem, game));
     else if (problem != GameFileProblem::None)
-      refuse(problem, game);
+      refuse(m_workshop, this, problem, game);
   }
   if (front != nullptr) {
     m_area->setActiveSubWindow(front);
@@ -509,83 +344,8 @@ void MDI::openFromElsewhere(const QStringList& games) {
   activateWindow();
 }
 
-void MDI::makeGame() {
-  if (!manualAgreesToClose())
-    return;
-  m_workshop.settings.settle();
-  GameLock lock; // of the file that the game goes to; the window that records it gets it
-  const auto claim = [this, &lock](const QString& path) -> QString {
-    const auto isOpenIn = [&path](const auto* window) {
-      return window != nullptr && QFileInfo(window->path()) == QFileInfo(path);
-    };
-    if (isOpenIn(live()) || isOpenIn(manual()) ||
-        lock.acquire(m_workshop.store.files(), fromQt(path)) != GameLock::Outcome::HeldElsewhere)
-      return {};
-    return GameHold::ownerWords(lock, m_workshop.texts);
-  };
-  frmNEWGAME window(m_teams, m_workshop.settings, m_workshop.texts, m_workshop.dialogs, claim,
-                    m_workshop.memory.lastGame(), this);
-  connect(&window, &frmNEWGAME::languageAsked, this, [this, &window] {
-    switchLanguage();
-    window.relabelWindow();
-  });
-  watchInput(false); // the new game may take the place of the one that is open
-  const bool isMade = window.exec() == QDialog::Accepted;
-  showWhatIsUnsaved();
-  const auto isReplaced = [&](const QString& path) {
-    return isMade && QFileInfo(path) == QFileInfo(window.path());
-  };
-  if (!(live() != nullptr && isReplaced(live()->path())) &&
-      !(manual() != nullptr && isReplaced(manual()->path())))
-    watchInput(true);
-  if (!isMade)
-    return;
-  m_workshop.memory.rememberLastGame(window.choices());
-  if (frmVIEW* old = m_area->scorecardOf(window.path())) // of the game that was written over
-    old->refresh();
-  replaceInput(window.path(), std::move(lock));
-}
-
-void MDI::watchInput(bool isOn) {
-  if (frmLIVE* window = live())
-    window->setWatching(isOn);
-  if (frmMANUAL* window = manual())
-    window->setWatching(isOn);
-}
-
-void MDI::saveCopy() {
-  const auto save = [this](auto& window) {
-    const Texts& texts = m_workshop.texts;
-    const QFileInfo game(window.path());
-    const QString error = toQt(texts.text(Text::ErrorTitle));
-    const QString path = m_workshop.dialogs.chooseFileToSave(
-        this, caption(texts, Text::SaveCopy),
-        game.dir().filePath(game.completeBaseName() + QStringLiteral(" 2.GAM")),
-        fileFilter(toQt(texts.text(Text::GameFilter))), QStringLiteral("GAM"));
-    if (path.isEmpty())
-      return;
-    if (QFileInfo(path) == game)
-      return m_workshop.dialogs.warn(this, error, toQt(texts.withPlaceholder(Text::OwnFile, fromQt(path))));
-    if (QFileInfo::exists(path) &&
-        !m_workshop.dialogs.ask(this, toQt(texts.text(Text::WarningTitle)),
-                                toQt(texts.withPlaceholder(Text::ReplaceFile, fromQt(path)))))
-      return;
-    if (!window.writeCopy(path))
-      return m_workshop.dialogs.complain(this, error,
-                                         toQt(texts.withPlaceholder(Text::CopyFailed, fromQt(path))));
-    showMessage(toQt(texts.withPlaceholder(Text::CopySaved, fromQt(QDir::toNativeSeparators(path)))));
-  };
-  if (frmLIVE* window = live())
-    save(*window);
-  else if (frmMANUAL* entry = manual())
-    save(*entry);
-}
-
 void MDI::tellFailure(const QString& what) {
-  if (frmLIVE* window = live())
-    window->writePending();
-  if (frmMANUAL* window = manual())
-    window->writePending();
+  m_input->writePending();
   (void)m_workshop.settings.retry();
   m_workshop.dialogs.complain(this, toQt(m_workshop.texts.text(Text::ErrorTitle)),
                               toQt(m_workshop.texts.withPlaceholder(Text::InternalFailure, fromQt(what))));
@@ -593,7 +353,7 @@ void MDI::tellFailure(const QString& what) {
 
 void MDI::openTeams() {
   m_workshop.settings.settle();
-  showWhatIsUnsaved();
+  m_unsaved->refresh();
   for (ChildWindow* child : m_area->windows()) {
     if (qobject_cast<frmEQUIPES*>(child) != nullptr)
       return m_area->bringToFront(*child);
@@ -601,34 +361,9 @@ void MDI::openTeams() {
   auto* window = new frmEQUIPES(m_teams, m_workshop.texts, m_workshop.dialogs);
   connect(window, &frmEQUIPES::printAsked, this,
           [this](const TeamRecord& team, const std::vector<TeamPlayer>& players) {
-            preview(teamReports(team, players, m_workshop.texts));
+            m_previews->show(teamReports(team, players, m_workshop.texts));
           });
   m_area->add(*window);
-}
-
-void MDI::preview(std::vector<ReportOffer> offers) {
-  if (offers.empty())
-    return m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(Text::WarningTitle)),
-                                   toQt(m_workshop.texts.text(Text::SelectTeamFirst)));
-  if (qobject_cast<frmprint*>(m_area->front()) == nullptr)
-    m_previewedFrom = m_area->currentSubWindow();
-  for (ChildWindow* child : m_area->windows()) {
-    if (auto* open = qobject_cast<frmprint*>(child)) {
-      open->offer(std::move(offers));
-      return m_area->bringToFront(*open);
-    }
-  }
-  auto* window = new frmprint(m_workshop.texts, m_workshop.dialogs, m_workshop.printers, *m_output);
-  window->offer(std::move(offers));
-  m_area->add(*window);
-  // Later: closing, the area chooses a window of its own.
-  connect(
-      window, &QObject::destroyed, this,
-      [this] {
-        if (m_previewedFrom != nullptr)
-          m_area->setActiveSubWindow(m_previewedFrom);
-      },
-      Qt::QueuedConnection);
 }
 
 void MDI::openSeason() {
@@ -639,17 +374,6 @@ void MDI::openSeason() {
   connect(window, &frmSTATS::gameAsked, this, &MDI::openGame);
   m_area->add(*window);
   window->readFolder();
-}
-
-void MDI::printSeason(frmSTATS& window) {
-  SeasonOffer offer{window.statistics(), window.chosenTeam(), window.chosenPerson()};
-  const auto question = [this](Text text) { return toQt(m_workshop.texts.text(text)); };
-  if (const Text missing = missingFor(m_seasonReport, offer); missing != Text::None)
-    return m_workshop.dialogs.inform(this, question(Text::ReportOption), question(missing));
-  if (offer.person && canHighlight(m_seasonReport, *offer.person))
-    offer.highlightsPerson =
-        m_workshop.dialogs.ask(this, question(Text::ReportOption), question(Text::Highlight));
-  preview(seasonOffers(offer, m_seasonReport, m_workshop.settings, m_workshop.texts));
 }
 
 void MDI::openFolder(const QString& path) {
@@ -676,56 +400,16 @@ void MDI::openColours() {
   window.exec();
 }
 
-void MDI::openKeys() {
-  frmConfiguration window(m_keypad, m_workshop.settings, m_workshop.texts, m_workshop.dialogs, this);
-  connect(&window, &frmConfiguration::languageAsked, this, [this, &window] {
-    switchLanguage();
-    window.relabelWindow();
-  });
-  connect(&window, &frmConfiguration::applied, this, [this, &window] {
-    m_keypad = window.saved();
-    m_workshop.memory.rememberKeyChoices(m_keypad.choices());
-    if (frmLIVE* recording = live())
-      recording->setKeypad(m_keypad);
-    showWhatIsUnsaved();
-  });
-  window.exec();
-}
-
-void MDI::switchKeypad() {
-  m_workshop.settings.saveKeypadIsActive(!m_workshop.settings.keypadIsActive);
-  if (frmLIVE* recording = live())
-    recording->keypadSwitched();
-  showWhatIsUnsaved();
-  showCommands();
-}
-
 void MDI::addScorecard(frmVIEW* view) {
   view->setRefreshMode(static_cast<frmVIEW::RefreshMode>(m_workshop.memory.refreshSeconds()));
   connect(view, &frmVIEW::commandStateChanged, this, &MDI::showCommands);
   m_area->add(*view);
 }
 
-void MDI::refuse(GameFileProblem problem, const QString& path) {
-  m_workshop.dialogs.warn(this, toQt(m_workshop.texts.text(Text::ErrorTitle)), refusal(problem, path));
-}
-
-QString MDI::refusal(GameFileProblem problem, const QString& path) const {
-  return toQt(m_workshop.texts.withPlaceholder(refusalText(problem), fromQt(QDir::toNativeSeparators(path))));
-}
-
 void MDI::showMessage(const QString& message) {
   if (groupInFront() == CommandGroup::Live)
-    return live()->tell(message);
+    return m_input->live()->tell(message);
   statusBar()->showMessage(message, static_cast<int>(std::chrono::milliseconds(kMessageTime).count()));
-}
-
-frmLIVE* MDI::live() const {
-  return m_area->first<frmLIVE>();
-}
-
-frmMANUAL* MDI::manual() const {
-  return m_area->first<frmMANUAL>();
 }
 
 frmSTATS* MDI::season() const {
@@ -764,9 +448,9 @@ void MDI::showCommands() {
     modes.scorecardHidesMadeAttempted = view->hidesMadeAttempted();
     modes.refreshSeconds = static_cast<int>(view->refreshMode());
   }
-  if (const frmLIVE* window = live())
+  if (const frmLIVE* window = m_input->live())
     modes.live = window->isRunning() ? LiveClock::Running : LiveClock::Stopped;
-  modes.hasManual = manual() != nullptr;
+  modes.hasManual = m_input->manual() != nullptr;
   modes.inFront = groupInFront();
   modes.hasSeason = season() != nullptr;
   modes.asksRebounds = m_workshop.settings.asksRebounds;
@@ -782,7 +466,7 @@ void MDI::switchLanguage() {
   texts.setLanguage(texts.language() == Language::French ? Language::English : Language::French);
   relabelEverything();
   m_workshop.settings.saveLanguage(texts.language());
-  showWhatIsUnsaved();
+  m_unsaved->refresh();
 }
 
 void MDI::relabelEverything() {
@@ -793,7 +477,7 @@ void MDI::relabelEverything() {
   m_welcome->relabelPage();
   for (ChildWindow* child : m_area->windows())
     child->relabelWindow();
-  showWhatIsUnsaved();
+  m_unsaved->refresh();
   showCommands();
 }
 
@@ -804,41 +488,7 @@ void MDI::switchColours(ColourScheme scheme) {
 }
 
 void MDI::report(Settings::Preparation preparation) {
-  const Texts& texts = m_workshop.texts;
-  if (preparation == Settings::Preparation::FirstRunKeptOld)
-    m_workshop.dialogs.warn(this, toQt(texts.text(Text::WarningTitle)),
-                            toQt(texts.withPlaceholder(Text::OldSettingsKept, m_workshop.settings.keptAs())));
-  if (preparation == Settings::Preparation::CannotBeRead)
-    m_workshop.dialogs.warn(
-        this, toQt(texts.text(Text::WarningTitle)),
-        toQt(texts.withPlaceholder(Text::SettingsUnreadable, m_workshop.settings.path())));
-  showWhatIsUnsaved();
-}
-
-void MDI::showWhatIsUnsaved() {
-  if (const auto restored = m_workshop.settings.takeRestored()) {
-    std::string words(m_workshop.texts.text(Text::SettingsRestored));
-    if (!restored->keptAs.empty())
-      words += ' ' + m_workshop.texts.withPlaceholder(Text::SettingsKeptAs, restored->keptAs);
-    if (groupInFront() == CommandGroup::Live)
-      live()->tell(toQt(words));
-    else
-      statusBar()->showMessage(toQt(words)); // until it is read: something else takes its place
-  }
-  const bool isUnsaved = !m_workshop.settings.isOnDisk();
-  if (isUnsaved && m_unsaved->isHidden() && groupInFront() == CommandGroup::Live)
-    live()->tell(notSaved());
-  m_unsaved->setText(notSaved());
-  m_unsaved->setVisible(isUnsaved);
-  showStatusBar();
-  if (!isUnsaved)
-    m_retryOfWrites.stop();
-  else if (!m_retryOfWrites.isActive())
-    m_retryOfWrites.start();
-}
-
-QString MDI::notSaved() const {
-  return toQt(m_workshop.texts.withPlaceholder(Text::NotSaved, m_workshop.settings.path()));
+  m_unsaved->report(preparation);
 }
 
 void MDI::restorePlace() {
@@ -857,7 +507,7 @@ void MDI::restorePlace() {
 void MDI::closeEvent(QCloseEvent* event) {
   // All are asked before the first one closes.
   const QList<ChildWindow*> windows = m_area->windows();
-  if (!std::ranges::all_of(windows, &ChildWindow::agreesToClose) || !mayLeaveSettings()) {
+  if (!std::ranges::all_of(windows, &ChildWindow::agreesToClose) || !m_unsaved->mayLeave()) {
     for (ChildWindow* child : windows)
       child->stay();
     event->ignore();
@@ -866,23 +516,6 @@ void MDI::closeEvent(QCloseEvent* event) {
   m_area->closeAllSubWindows();
   m_workshop.memory.rememberLayout(kLayoutName, saveGeometry().toBase64().toStdString());
   event->accept();
-}
-
-// They are on disk, or the user lets them go.
-bool MDI::mayLeaveSettings() {
-  if (m_workshop.settings.saveLastFolders())
-    return true;
-  const Texts& texts = m_workshop.texts;
-  do {
-    switch (m_workshop.dialogs.askToSave(
-        this, toQt(texts.text(Text::ErrorTitle)),
-        toQt(texts.withPlaceholder(Text::SettingsNotSaved, m_workshop.settings.path())))) {
-    case SaveChoice::Save: break;
-    case SaveChoice::Discard: return true;
-    case SaveChoice::Stay: showWhatIsUnsaved(); return false;
-    }
-  } while (!m_workshop.settings.retry());
-  return true;
 }
 
 void MDI::dragEnterEvent(QDragEnterEvent* event) {

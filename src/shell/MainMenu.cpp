@@ -27,16 +27,16 @@ constexpr int kZooms[] = {90, 100, 110, 125, 150};
 MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const CommandBar& commands,
                    GameMenu& recent, GameMenu& samples, QMenu& tables)
     : QObject(&window), m_window(window), m_bar(bar), m_commands(commands) {
-  constexpr const char* kSeparator = "";
+  constexpr CommandId kSeparator = CommandId::None;
 
-  QMenu& file = addMenu(Text::FileWord, {"VwOPEN"});
+  QMenu& file = addMenu(Text::FileWord, {CommandId::OpenScorecard});
   file.addMenu(&recent);
   file.addSeparator();
   tables.menuAction()->setObjectName(QStringLiteral("exportTable"));
   tables.setIcon(icon(QStringLiteral("export")));
   setTextNumber(*tables.menuAction(), Text::ExportTable);
   file.addMenu(&tables);
-  file.addAction(&commands.action("saveCOPY"));
+  file.addAction(&commands.action(CommandId::SaveCopy));
   connect(&file, &QMenu::aboutToShow, this, &MainMenu::fileMenuShown);
   file.addSeparator();
   QAction& leave = addAction(file, "QUIT", Text::Quit, QStringLiteral("Ctrl+Q"));
@@ -44,31 +44,37 @@ MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const C
   leave.setMenuRole(QAction::QuitRole);
   connect(&leave, &QAction::triggered, &window, &QWidget::close);
 
-  addMenu(Text::ViewMenu, {"VwREFRESH", "VwREFSEC00", "VwREFSEC10", "VwREFSEC30", "VwREFSEC60", kSeparator,
-                           "VwLIGNE", "VwMA", kSeparator, "vwPRINT", "VwCLOSE"});
-  addMenu(Text::Input, {"LIVENew", "LIVEOpen", kSeparator, "LIVEKpad", "LIVEMouse", "SWITCH", "GAMEOVER",
-                        kSeparator, "openFORM", "saveMANUAL", "livePRINT", "FORMS", "CLOSELIVEMANUAL"});
-  addMenu(Text::Teams, {"gEQUIPE"});
-  addMenu(Text::Season,
-          {"STATS", kSeparator, "StLISTGAMES", "StLISTGAMESSOMM", kSeparator, "stSTATJOUEURS", "stSTATLIGNES",
-           "stSTATJOUEURSAUTRES", "stSTATLIGNESAUTRES", kSeparator, "stMENEURSTOT", "stMENEURSMOY",
-           "stMENEURSMIN", kSeparator, "stRAPJOUEUR", "stRAPLIGNE", kSeparator, "stPRINT", "stCLOSE"});
-  QMenu& settings = addMenu(Text::Settings, {"tbTERRAIN", "tbKEYPAD", kSeparator, "tbLANGUE"});
+  addMenu(Text::ViewMenu,
+          {CommandId::Refresh, CommandId::RefreshByHand, CommandId::Refresh10, CommandId::Refresh30,
+           CommandId::Refresh60, kSeparator, CommandId::ByLine, CommandId::MadeAttempted, kSeparator,
+           CommandId::PrintScorecard, CommandId::CloseScorecard});
+  addMenu(Text::Input,
+          {CommandId::NewGame, CommandId::OpenForInput, kSeparator, CommandId::Keypad, CommandId::AskRebounds,
+           CommandId::SwitchSides, CommandId::GameOver, kSeparator, CommandId::OpenForms,
+           CommandId::SaveTotals, CommandId::PrintGame, CommandId::FormsMenu, CommandId::CloseInput});
+  addMenu(Text::Teams, {CommandId::OpenTeams});
+  addMenu(Text::Season, {CommandId::OpenSeason, kSeparator, CommandId::TeamSummary, CommandId::TeamDetail,
+                         kSeparator, CommandId::PlayerShots, CommandId::LineShots, CommandId::PlayerOther,
+                         CommandId::LineOther, kSeparator, CommandId::LeadersTotal, CommandId::LeadersPerGame,
+                         CommandId::LeadersPerMinute, kSeparator, CommandId::PlayerReport,
+                         CommandId::LineReport, kSeparator, CommandId::PrintSeason, CommandId::CloseSeason});
+  QMenu& settings = addMenu(Text::Settings,
+                            {CommandId::CourtColours, CommandId::OpenKeys, kSeparator, CommandId::Language});
   QMenu& colours = coloursMenu();
   settings.addMenu(&colours);
   QMenu& zooms = zoomMenu();
   settings.addMenu(&zooms);
   addWindowMenu(area);
-  QMenu& help = addMenu(Text::Help, {"AidHELP", "AidWEB"});
+  QMenu& help = addMenu(Text::Help, {CommandId::Guide, CommandId::WebSite});
   help.addMenu(&samples);
   help.addSeparator();
-  help.addAction(&commands.action("AidABOUT"));
+  help.addAction(&commands.action(CommandId::About));
 
   // The drop-downs of the tool bar offer the same.
-  commands.dropDown("VIEW").addMenu(&recent);
-  commands.dropDown("SETTINGS").addMenu(&colours);
-  commands.dropDown("SETTINGS").addMenu(&zooms);
-  commands.dropDown("HELP").insertMenu(&commands.action("AidABOUT"), &samples);
+  commands.dropDown(CommandId::ViewMenu).addMenu(&recent);
+  commands.dropDown(CommandId::SettingsMenu).addMenu(&colours);
+  commands.dropDown(CommandId::SettingsMenu).addMenu(&zooms);
+  commands.dropDown(CommandId::HelpMenu).insertMenu(&commands.action(CommandId::About), &samples);
 
   // Entries get theirs when they are shown: captions change with what they stand for.
   for (const QMenu* menu : window.findChildren<QMenu*>() + bar.findChildren<QMenu*>())
@@ -81,15 +87,15 @@ void MainMenu::giveLetters() {
   giveMnemonics(m_bar.actions());
 }
 
-QMenu& MainMenu::addMenu(Text text, std::initializer_list<const char*> keys) {
+QMenu& MainMenu::addMenu(Text text, std::initializer_list<CommandId> ids) {
   QMenu* menu = m_bar.addMenu(QString());
   menu->setToolTipsVisible(true);
   setTextNumber(*menu->menuAction(), text);
-  for (const std::string_view key : keys) {
-    if (key.empty())
+  for (const CommandId id : ids) {
+    if (id == CommandId::None)
       menu->addSeparator();
     else
-      menu->addAction(&m_commands.action(key));
+      menu->addAction(&m_commands.action(id));
   }
   return *menu;
 }

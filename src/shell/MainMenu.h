@@ -5,8 +5,11 @@
 
 #include "appearance/ColourScheme.h"
 #include "settings/Text.h"
+#include "shell/Commands.h"
 
 #include <QObject>
+
+#include <initializer_list>
 
 class QAction;
 class QActionGroup;
@@ -40,7 +43,7 @@ class MainMenu : public QObject {
   void fileMenuShown(); // about to be, so that `tables` can be filled
 
  private:
-  QMenu& addMenu(Text text, std::initializer_list<const char*> keys);
+  QMenu& addMenu(Text text, std::initializer_list<CommandId> ids);
   QMenu& coloursMenu();
   QMenu& zoomMenu();
   void addWindowMenu(WindowArea& area);

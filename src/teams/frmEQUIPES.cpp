@@ -8,26 +8,19 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "storage/codepage.h"
-#include "teams/ColourSwatches.h"
 #include "teams/PlayerDelegate.h"
 #include "teams/PlayerEditor.h"
 #include "teams/PlayerTableModel.h"
-#include "teams/TeamBand.h"
 #include "teams/TeamColours.h"
 #include "teams/TeamDelegate.h"
+#include "teams/TeamFields.h"
 #include "teams/TeamList.h"
 
 #include <QBoxLayout>
-#include <QCheckBox>
 #include <QFrame>
-#include <QGridLayout>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QLocale>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -38,24 +31,7 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kRulesInARow = 3;
 constexpr int kLeastRows = 6; // of the table that stay in sight, its head among them
-
-constexpr int kSwatch = 16;
-
-// Fields of the rules, by their order in the record.
-constexpr struct {
-  const char* name;
-  Text text;
-  std::string TeamRecord::*rule;
-  int digits; // minutes are those of a clock that shows mm:ss
-} kRules[] = {
-    {"txtDUREE", Text::MinutesPerPeriod, &TeamRecord::minutesPerPeriod, 2},
-    {"txtNBREPERIODE", Text::PeriodCount, &TeamRecord::periods, 3},
-    {"txtBONUS", Text::BonusAfter, &TeamRecord::bonus, 3},
-    {"txtPF", Text::FoulLimit, &TeamRecord::personalFoulLimit, 3},
-    {"txtTF", Text::TechnicalLimit, &TeamRecord::technicalFoulLimit, 3},
-};
 
 } // namespace
 
@@ -71,7 +47,8 @@ frmEQUIPES::frmEQUIPES(TeamStore& teams, const Texts& texts, Dialogs& dialogs, Q
   m_editor = new QVBoxLayout(content);
   m_editor->setContentsMargins(0, 0, 0, 0);
   m_editor->addWidget(m_notice);
-  m_editor->addWidget(makeTeamFields());
+  m_fields = new TeamFields(teams, texts, this);
+  m_editor->addWidget(m_fields);
   m_editor->addWidget(makePlayers(), 1);
   // What a large zoom leaves no room for is a turn of the wheel away.
   auto* scroll = new QScrollArea(this);
@@ -109,87 +86,6 @@ QWidget* frmEQUIPES::makeTeams() {
   m_list->list().setFrameShape(QFrame::NoFrame);
   m_list->list().setItemDelegate(new TeamDelegate(&m_list->list()));
   return m_teamsCard;
-}
-
-QLineEdit* frmEQUIPES::addField(QGridLayout& layout, int row, int column, const char* name, Text text) {
-  auto* field = new QLineEdit(this);
-  field->setObjectName(QLatin1String(name));
-  QLabel* label = captionFor(*field, text);
-  label->setForegroundRole(QPalette::PlaceholderText);
-  layout.addWidget(label, 2 * row, column);
-  layout.addWidget(field, 2 * row + 1, column);
-  connect(field, &QLineEdit::returnPressed, this, &frmEQUIPES::saveTeam);
-  return field;
-}
-
-QWidget* frmEQUIPES::makeTeamFields() {
-  auto* card = new Card(this);
-  m_band = new TeamBand(card);
-  QPushButton* save = iconButton("cmdSAVEEQUIPE", Text::Save, Text::SaveTeam, "savemanual", this);
-  save->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
-  m_band->addButton(*save);
-
-  auto* names = new QGridLayout;
-  m_abbreviation = addField(*names, 0, 0, "txtABB", Text::TeamNameQuestion);
-  m_category = addField(*names, 0, 1, "txtCATEGORIE", Text::Level);
-  m_name = addField(*names, 0, 2, "txtNOMEQUIPE", Text::FullName);
-  names->setColumnStretch(2, 1);
-  limitField(*m_abbreviation, m_texts, kLongestAbbreviation);
-  for (const auto& [field, part] :
-       {std::pair(m_category, &TeamRecord::category), {m_name, &TeamRecord::name}}) {
-    const auto fits = [this, part = part](const std::string& text) {
-      TeamRecord record = teamFields();
-      record.*part = text;
-      return fitsInValue(teamValue(record, m_teams.settings().statisticLabel));
-    };
-    limitField(*field, fits, m_texts);
-  }
-  for (QLineEdit* field : {m_abbreviation, m_name})
-    connect(field, &QLineEdit::textChanged, this,
-            [this] { m_band->showTeam(m_abbreviation->text(), m_name->text()); });
-
-  m_swatches = new ColourSwatches(card);
-  m_contrast = new PlainLabel(card);
-  m_contrast->setObjectName(QStringLiteral("lblCONTRAST"));
-  m_contrast->setForegroundRole(QPalette::PlaceholderText);
-  m_contrast->setWordWrap(true);
-  auto* colour = new QHBoxLayout;
-  colour->addWidget(m_swatches);
-  colour->addWidget(iconButton("cmdCOUL", Text::Colour, Text::TeamBackground, "theme", this));
-  colour->addWidget(m_contrast, 1);
-  m_isMain = new QCheckBox(card);
-  m_isMain->setObjectName(QStringLiteral("chkMAIN"));
-  setTextNumber(*m_isMain, Text::MainTeamKeypad);
-  setToolTipNumber(*m_isMain, Text::MainTeamKeypad);
-
-  auto* rules = new QGridLayout;
-  for (std::size_t i = 0; i < m_rules.size(); ++i) {
-    m_rules[i] = addField(*rules, static_cast<int>(i) / kRulesInARow, static_cast<int>(i) % kRulesInARow,
-                          kRules[i].name, kRules[i].text);
-    m_rules[i]->setValidator(new QRegularExpressionValidator(
-        QRegularExpression(QStringLiteral("\\d{0,%1}").arg(kRules[i].digits)), m_rules[i]));
-  }
-
-  rules->setRowStretch(rules->rowCount(), 1); // on a level with the names
-
-  auto* left = new QVBoxLayout;
-  left->addLayout(names);
-  left->addLayout(colour);
-  left->addWidget(m_isMain);
-  m_line = new QFrame(card);
-  m_line->setFrameShape(QFrame::VLine);
-  m_line->setForegroundRole(QPalette::Mid);
-  m_line->setFrameShadow(QFrame::Plain);
-  m_groups = new QHBoxLayout;
-  m_groups->addLayout(left, 1);
-  m_groups->addWidget(m_line);
-  m_groups->addLayout(rules);
-  auto* layout = new QVBoxLayout(card);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  layout->addWidget(m_band);
-  layout->addLayout(m_groups);
-  return card;
 }
 
 QWidget* frmEQUIPES::makePlayers() {
@@ -245,8 +141,6 @@ void frmEQUIPES::connectEverything() {
   };
   onClick("cmdAJOUTEREQUIPE", &frmEQUIPES::addTeam);
   onClick("cmdEFFACEREQUIPE", &frmEQUIPES::deleteTeam);
-  onClick("cmdSAVEEQUIPE", &frmEQUIPES::saveTeam);
-  onClick("cmdCOUL", &frmEQUIPES::chooseColour);
   onClick("cmdIMPORT", [this] { takePlayers(&frmEQUIPES::importPlayers); });
   onClick("cmdPASTE", [this] { takePlayers(&frmEQUIPES::pastePlayers); });
   onClick("cmdEXPORT", &frmEQUIPES::exportPlayers);
@@ -254,9 +148,13 @@ void frmEQUIPES::connectEverything() {
     if (team() == nullptr)
       return m_dialogs.complain(this, toQt(m_texts.text(Text::ErrorTitle)),
                                 toQt(m_texts.text(Text::SelectTeamFirst)));
-    emit printAsked(teamFields(), m_sheet.players());
+    emit printAsked(m_fields->record(), m_sheet.players());
   });
-  connect(m_swatches, &ColourSwatches::chosen, this, &frmEQUIPES::setColour);
+  connect(m_fields, &TeamFields::saveAsked, this, &frmEQUIPES::saveTeam);
+  connect(m_fields, &TeamFields::colourAsked, this, &frmEQUIPES::chooseColour);
+  connect(m_fields, &TeamFields::coloured, this, [this] {
+    showTeamColour(*m_table, m_fields->hasTeam() ? m_fields->colour() : palette().color(QPalette::Base));
+  });
   connect(m_player, &PlayerEditor::addAsked, this, &frmEQUIPES::addPlayer);
   connect(m_player, &PlayerEditor::deleteAsked, this, &frmEQUIPES::deletePlayer);
   connect(m_player, &PlayerEditor::clearAsked, this, &frmEQUIPES::clearPlayer);
@@ -306,29 +204,21 @@ void frmEQUIPES::showTeam(int position) {
   m_position = position;
   m_list->setPosition(position);
   const TeamEntry* entry = team();
-  const TeamRecord record = entry == nullptr ? TeamRecord() : m_teams.read(entry->key);
   m_sheet.load(entry == nullptr ? std::vector<TeamPlayer>() : m_teams.players(entry->key));
-  // Bare texts, past the limits: a longer one from a file changed by hand is shown whole.
-  m_abbreviation->setText(toQt(record.abbreviation));
-  m_category->setText(toQt(record.category));
-  m_name->setText(toQt(record.name));
-  for (QLineEdit* field : {m_category, m_name})
-    field->setCursorPosition(0); // the beginning of a long one is in sight
-  for (std::size_t i = 0; i < m_rules.size(); ++i)
-    m_rules[i]->setText(toQt(record.*kRules[i].rule));
-  m_isMain->setChecked(record.isMain);
-  m_colour = record.colour();
-  m_loadedTeam = teamFields();
+  if (entry == nullptr)
+    m_fields->clear();
+  else
+    m_fields->show(m_teams.read(entry->key));
+  m_loadedTeam = m_fields->record();
   m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder); // the file's order
   m_player->setHasTeam(entry != nullptr);
   m_player->show({});
   showPlayers();
-  showColour();
 
   const bool canChange = !isReadOnly();
-  for (const char* name : {"cmdEFFACEREQUIPE", "cmdSAVEEQUIPE", "cmdCOUL", "cmdIMPORT", "cmdPASTE"})
+  for (const char* name : {"cmdEFFACEREQUIPE", "cmdIMPORT", "cmdPASTE"})
     findChild<QPushButton*>(QLatin1String(name))->setEnabled(canChange);
-  m_swatches->setEnabled(canChange);
+  m_fields->setEditable(canChange);
   m_player->setEditable(canChange);
   showNotice();
 }
@@ -345,34 +235,6 @@ void frmEQUIPES::showPlayers() {
       toQt(m_texts.withPlaceholder(Text::PlayerCount, std::to_string(m_sheet.players().size()))));
 }
 
-void frmEQUIPES::showColour() {
-  const QColor colour = colourOf(m_colour);
-  const bool hasTeam = team() != nullptr;
-  showTeamColour(*m_table, hasTeam ? colour : palette().color(QPalette::Base));
-  m_band->setColour(hasTeam ? colour : QColor());
-  m_swatches->showColour(hasTeam ? colour : QColor());
-  const QColor text = textOn(colour);
-  const QLocale locale(m_texts.language() == Language::French ? QLocale::French : QLocale::English);
-  const QString measured = locale.toString(contrast(text, colour), 'f', 1);
-  const Text words = text == QColor(Qt::white) ? Text::WhiteText : Text::BlackText;
-  m_contrast->setText(hasTeam ? toQt(m_texts.withPlaceholder(words, fromQt(measured))) : QString());
-  QPixmap swatch(kSwatch, kSwatch);
-  swatch.fill(colour);
-  findChild<QPushButton*>(QStringLiteral("cmdCOUL"))->setIcon(swatch);
-}
-
-TeamRecord frmEQUIPES::teamFields() const {
-  TeamRecord record;
-  record.abbreviation = fromQt(m_abbreviation->text());
-  record.category = fromQt(m_category->text());
-  record.name = fromQt(m_name->text());
-  for (std::size_t i = 0; i < m_rules.size(); ++i)
-    record.*kRules[i].rule = m_rules[i] == nullptr ? std::string() : fromQt(m_rules[i]->text());
-  record.isMain = m_isMain->isChecked();
-  record.storedColour = m_colour;
-  return record;
-}
-
 void frmEQUIPES::addTeam() {
   if (!mayLeaveTeam())
     return;
@@ -384,19 +246,17 @@ void frmEQUIPES::addTeam() {
   const auto made = std::ranges::find(m_entries, *id, &TeamEntry::id);
   if (made != m_entries.end())
     showTeam(static_cast<int>(made - m_entries.begin()));
-  m_abbreviation->setFocus(Qt::OtherFocusReason);
+  m_fields->focusAbbreviation();
 }
 
 bool frmEQUIPES::saveTeam() {
   if (team() == nullptr || isReadOnly())
     return false;
-  // The fields show what the file will hold.
-  for (QLineEdit* field : {m_category, m_abbreviation, m_name})
-    field->setText(toQt(codepage::storedForm(withoutCommas(fromQt(field->text())))));
-  TeamRecord record = teamFields();
+  m_fields->takeStoredForm();
+  const TeamRecord record = m_fields->record();
   if (!fitsInValue(teamValue(record, m_teams.settings().statisticLabel))) {
     warn(caption(m_texts, Text::TeamTooLong));
-    m_name->setFocus(Qt::OtherFocusReason);
+    m_fields->focusName();
     return false;
   }
   if (const std::string number = m_sheet.repeatedNumber(); !number.empty()) {
@@ -489,14 +349,9 @@ void frmEQUIPES::deletePlayer() {
 
 void frmEQUIPES::chooseColour() {
   const QColor chosen =
-      m_dialogs.chooseColour(this, toQt(m_texts.text(Text::SelectColour)), colourOf(m_colour));
+      m_dialogs.chooseColour(this, toQt(m_texts.text(Text::SelectColour)), m_fields->colour());
   if (chosen.isValid())
-    setColour(chosen);
-}
-
-void frmEQUIPES::setColour(const QColor& colour) {
-  m_colour = storedColour(colour);
-  showColour();
+    m_fields->setColour(chosen);
 }
 
 void frmEQUIPES::clearPlayer() {
@@ -567,7 +422,7 @@ void frmEQUIPES::exportPlayers() {
 }
 
 bool frmEQUIPES::isTeamChanged() const {
-  return team() != nullptr && !isReadOnly() && (teamFields() != m_loadedTeam || m_sheet.isChanged());
+  return team() != nullptr && !isReadOnly() && (m_fields->record() != m_loadedTeam || m_sheet.isChanged());
 }
 
 bool frmEQUIPES::isPlayerChanged() const {
@@ -595,7 +450,7 @@ bool frmEQUIPES::mayLeaveTeam() {
   if (!mayLeavePlayer())
     return false;
   return !isTeamChanged() ||
-         askAndSave(toQt(m_texts.withPlaceholder(Text::UnsavedTeam, fromQt(m_abbreviation->text()))),
+         askAndSave(toQt(m_texts.withPlaceholder(Text::UnsavedTeam, m_fields->record().abbreviation)),
                     &frmEQUIPES::saveTeam);
 }
 
@@ -622,7 +477,7 @@ void frmEQUIPES::relabelWindow() {
   m_player->relabelPanel();
   showPlayers();
   showNotice();
-  showColour();
+  m_fields->showColour();
   widenColumns();
   placeGroups();
 }
@@ -636,28 +491,18 @@ void frmEQUIPES::applyColours() {
   m_teamsCard->setFixedWidth(measure(270, 330));
   m_teamsCard->layout()->setContentsMargins(gap, gap, gap, gap);
   const int side = measure(14);
-  m_groups->setContentsMargins(side, measure(8), side, measure(8));
-  m_groups->setSpacing(measure(14));
   m_playersHead->setContentsMargins(side, measure(6), measure(10), measure(6));
   m_player->setContentsMargins(side, measure(4), side, measure(4));
   for (QLabel* label : m_titles)
     label->setFont(Theme::font(Type::Count, QFont::DemiBold));
-  m_band->applyMeasure();
-  m_abbreviation->setMinimumWidth(measure(96));
-  m_category->setMinimumWidth(measure(80));
-  m_name->setMinimumWidth(measure(140));
-  for (QLineEdit* field : m_rules)
-    field->setMinimumWidth(measure(56));
   m_playersHead->setSpacing(measure(8));
-  for (QGridLayout* fields : m_groups->parentWidget()->findChildren<QGridLayout*>())
-    fields->setVerticalSpacing(measure(2));
+  m_fields->applyMeasure();
   const int row = measure(24, 30);
   m_table->verticalHeader()->setMinimumSectionSize(row);
   m_table->verticalHeader()->setDefaultSectionSize(row);
   m_table->setMinimumHeight(row * kLeastRows);
   widenColumns();
   m_list->list().doItemsLayout(); // another measure, other heights
-  showColour();
   placeGroups();
 }
 
@@ -675,16 +520,8 @@ void frmEQUIPES::widenColumns() {
   }
 }
 
-// Names and rules beside each other, or below where they need more room than there is.
 void frmEQUIPES::placeGroups() {
-  const QMargins margins = m_groups->contentsMargins();
-  int need = margins.left() + margins.right();
-  for (int i = 0; i < m_groups->count(); ++i)
-    need += m_groups->itemAt(i)->minimumSize().width() + (i > 0 ? m_groups->spacing() : 0);
-  const int room = width() - m_teamsCard->width() - 3 * m_whole->spacing();
-  const bool fits = need <= room;
-  m_groups->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-  m_line->setFrameShape(fits ? QFrame::VLine : QFrame::HLine);
+  m_fields->place(width() - m_teamsCard->width() - 3 * m_whole->spacing());
 }
 
 QByteArray frmEQUIPES::arrangement() const {

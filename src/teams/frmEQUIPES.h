@@ -7,24 +7,17 @@
 #include "appearance/WidgetsFirst.h"
 #include "teams/PlayerExchange.h"
 #include "teams/TeamSheet.h"
-
-#include <array>
-#include <cstdint>
+#include "teams/TeamStore.h"
 
 class QBoxLayout;
-class QCheckBox;
-class QFrame;
-class QGridLayout;
 class QLabel;
-class QLineEdit;
 class QTableView;
 
 namespace hooptab {
 
-class ColourSwatches;
 class PlayerEditor;
 class PlayerTableModel;
-class TeamBand;
+class TeamFields;
 class TeamList;
 
 class frmEQUIPES : public ChildWindow {
@@ -48,10 +41,8 @@ class frmEQUIPES : public ChildWindow {
 
  private:
   QWidget* makeTeams();
-  QWidget* makeTeamFields();
   QWidget* makePlayers();
   QLabel* title(Text text, QWidget* parent);
-  QLineEdit* addField(QGridLayout& layout, int row, int column, const char* name, Text text);
   void placeGroups();
   void widenColumns();
   void connectEverything();
@@ -61,7 +52,6 @@ class frmEQUIPES : public ChildWindow {
   void showTeam(int position);
   void showPlayers();
   void showNotice();
-  void showColour();
 
   void addTeam();
   bool saveTeam();
@@ -70,7 +60,6 @@ class frmEQUIPES : public ChildWindow {
   bool addPlayer();
   void deletePlayer();
   void chooseColour();
-  void setColour(const QColor& colour);
   void clearPlayer();
   void selectPlayer();
   void sortPlayers(int column);
@@ -88,7 +77,6 @@ class frmEQUIPES : public ChildWindow {
   [[nodiscard]] bool isPlayerChanged() const;
   [[nodiscard]] const TeamEntry* team() const; // the one chosen, or null
   [[nodiscard]] bool isReadOnly() const;
-  [[nodiscard]] TeamRecord teamFields() const;
   void warn(const QString& text);
   void tellSaved(const QString& done = {});
   void tellNotWritten();
@@ -101,28 +89,18 @@ class frmEQUIPES : public ChildWindow {
   int m_position = -1; // of the team chosen
   TeamSheet m_sheet;
   TeamRecord m_loadedTeam;
-  std::uint32_t m_colour = kDefaultTeamColour;
 
   TeamList* m_list;
   PlayerTableModel* m_model;
   QLabel* m_notice;
   PlayerEditor* m_player = nullptr;
-  QLineEdit* m_abbreviation = nullptr;
-  QLineEdit* m_category = nullptr;
-  QLineEdit* m_name = nullptr;
-  std::array<QLineEdit*, 5> m_rules = {}; // minutes, periods, bonus, personal and technical fouls
-  QCheckBox* m_isMain = nullptr;
+  TeamFields* m_fields = nullptr;
   QTableView* m_table = nullptr;
   QLabel* m_count = nullptr;
-  TeamBand* m_band = nullptr;
-  ColourSwatches* m_swatches = nullptr;
-  QLabel* m_contrast = nullptr; // of the text on the team's colour
   QWidget* m_teamsCard = nullptr;
-  QFrame* m_line = nullptr; // between names and rules
   std::vector<QLabel*> m_titles;
   QBoxLayout* m_whole = nullptr;
   QBoxLayout* m_editor = nullptr;
-  QBoxLayout* m_groups = nullptr;
   QBoxLayout* m_playersHead = nullptr;
   WidgetsFirst m_widgetsFirst{*this}; // stays the last member
 };

@@ -1,4 +1,5 @@
 // The live window as a whole, under hands that slip, disks that fail and games that come and go.
+#include "appearance/GameHold.h"
 #include "events/JerseyButton.h"
 #include "events/frmSUBST.h"
 #include "game/EventListModel.h"

@@ -24,23 +24,22 @@ std::vector<Modes> allModes() {
   return all;
 }
 
-CommandState state(std::string_view key, const Modes& modes) {
-  const Command* command = findCommand(key);
-  EXPECT_NE(command, nullptr) << key;
-  return command == nullptr ? CommandState() : stateOf(*command, modes);
+CommandState state(CommandId id, const Modes& modes) {
+  return stateOf(commandOf(id), modes);
 }
 
-TEST(Commands, EachIsFoundByItsKeyStandsBehindItsParentAndHasTextsAndIcon) {
+TEST(Commands, EachHasAKeyOfItsOwnStandsBehindItsParentAndHasTextsAndIcon) {
   const Texts texts;
   std::set<std::string_view> keys;
+  std::set<CommandId> ids;
   const std::string icons = HOOPTAB_TESTS "/../src/resources/icons/";
   for (const Command& command : commands()) {
     SCOPED_TRACE(command.key);
-    EXPECT_TRUE(command.parent.empty() || keys.contains(command.parent));
+    EXPECT_TRUE(command.parent == CommandId::None || ids.contains(command.parent));
     EXPECT_TRUE(keys.insert(command.key).second) << "twice";
-    EXPECT_EQ(findCommand(command.key), &command);
+    ids.insert(command.id);
     EXPECT_TRUE(command.kind != CommandKind::Menu ||
-                std::ranges::count(commands(), command.key, &Command::parent) > 0)
+                std::ranges::count(commands(), command.id, &Command::parent) > 0)
         << "has no entries";
     std::string icon(command.key);
     std::ranges::transform(icon, icon.begin(),
@@ -52,8 +51,6 @@ TEST(Commands, EachIsFoundByItsKeyStandsBehindItsParentAndHasTextsAndIcon) {
                 (texts.text(command.text) != texts.text(command.otherText) &&
                  std::filesystem::exists(icons + std::string(command.otherIcon) + ".svg")));
   }
-  for (const char* unknown : {"vwOPEN", "", "tbVOICE"})
-    EXPECT_EQ(findCommand(unknown), nullptr);
 }
 
 TEST(CommandState, EachModeEnablesItsCommandsAGroupAsAWhole) {
@@ -61,31 +58,32 @@ TEST(CommandState, EachModeEnablesItsCommandsAGroupAsAWhole) {
     std::map<CommandGroup, std::set<bool>> states;
     for (const Command& command : commands())
       if (command.kind != CommandKind::Menu)
-        states[command.group].insert(state(command.key, modes).isEnabled);
+        states[command.group].insert(state(command.id, modes).isEnabled);
     for (const auto& [group, values] : states)
       EXPECT_EQ(values.size(), 1U) << static_cast<int>(group);
     const bool hasLive = modes.live != LiveClock::NoGame;
-    EXPECT_TRUE(state("VwOPEN", modes).isEnabled);
-    EXPECT_TRUE(state("VIEW", modes).isEnabled);
-    EXPECT_EQ(state("VwCLOSE", modes).isEnabled, modes.hasScorecard);
-    EXPECT_EQ(state("stCLOSE", modes).isEnabled, modes.hasSeason);
-    EXPECT_EQ(state("SWITCH", modes).isEnabled, hasLive);
-    EXPECT_EQ(state("saveMANUAL", modes).isEnabled, modes.hasManual);
-    EXPECT_EQ(state("CLOSELIVEMANUAL", modes).isEnabled, hasLive || modes.hasManual);
-    EXPECT_EQ(state("LIVEOpen", modes).isEnabled, modes.live != LiveClock::Running);
-    EXPECT_EQ(state("LIVENew", modes).isEnabled, modes.live != LiveClock::Running);
+    EXPECT_TRUE(state(CommandId::OpenScorecard, modes).isEnabled);
+    EXPECT_TRUE(state(CommandId::ViewMenu, modes).isEnabled);
+    EXPECT_EQ(state(CommandId::CloseScorecard, modes).isEnabled, modes.hasScorecard);
+    EXPECT_EQ(state(CommandId::CloseSeason, modes).isEnabled, modes.hasSeason);
+    EXPECT_EQ(state(CommandId::SwitchSides, modes).isEnabled, hasLive);
+    EXPECT_EQ(state(CommandId::SaveTotals, modes).isEnabled, modes.hasManual);
+    EXPECT_EQ(state(CommandId::CloseInput, modes).isEnabled, hasLive || modes.hasManual);
+    EXPECT_EQ(state(CommandId::OpenForInput, modes).isEnabled, modes.live != LiveClock::Running);
+    EXPECT_EQ(state(CommandId::NewGame, modes).isEnabled, modes.live != LiveClock::Running);
   }
 }
 
 TEST(CommandState, WhatIsOnIsCheckedOrShowsTheWayBack) {
   for (const Modes& modes : allModes()) {
-    EXPECT_EQ(state("VwLIGNE", modes).text, modes.scorecardByLine ? Text::ViewByPlayer : Text::ViewByLine);
-    EXPECT_EQ(state("VwMA", modes).text, modes.scorecardHidesMadeAttempted
-                                             ? Text::StatisticsWithMadeAndAttempt
-                                             : Text::StatisticsWithoutMadeAndAttempt);
-    EXPECT_EQ(state("VwLIGNE", modes).icon, modes.scorecardByLine ? "vwplayer" : "vwligne");
-    EXPECT_EQ(state("LIVEMouse", modes).isChecked, modes.asksRebounds);
-    EXPECT_EQ(state("LIVEKpad", modes).isChecked, modes.keypadIsActive);
+    EXPECT_EQ(state(CommandId::ByLine, modes).text,
+              modes.scorecardByLine ? Text::ViewByPlayer : Text::ViewByLine);
+    EXPECT_EQ(state(CommandId::MadeAttempted, modes).text, modes.scorecardHidesMadeAttempted
+                                                               ? Text::StatisticsWithMadeAndAttempt
+                                                               : Text::StatisticsWithoutMadeAndAttempt);
+    EXPECT_EQ(state(CommandId::ByLine, modes).icon, modes.scorecardByLine ? "vwplayer" : "vwligne");
+    EXPECT_EQ(state(CommandId::AskRebounds, modes).isChecked, modes.asksRebounds);
+    EXPECT_EQ(state(CommandId::Keypad, modes).isChecked, modes.keypadIsActive);
     int checkedRefreshModes = 0;
     for (const Command& command : commands()) {
       const CommandState now = stateOf(command, modes);
@@ -96,10 +94,11 @@ TEST(CommandState, WhatIsOnIsCheckedOrShowsTheWayBack) {
     }
     EXPECT_EQ(checkedRefreshModes, 1);
   }
-  EXPECT_TRUE(state("VwREFSEC30", {.refreshSeconds = 30}).isChecked);
-  EXPECT_TRUE(state("VwREFSEC00", {}).isChecked);
-  EXPECT_EQ(state("VwREFRESH", {.refreshSeconds = 30}).icon, "vwrefsec30") << "it is seen that it goes on";
-  EXPECT_EQ(state("saveMANUAL", {.inFront = CommandGroup::Season, .hasManual = true}).shortcut, "");
+  EXPECT_TRUE(state(CommandId::Refresh30, {.refreshSeconds = 30}).isChecked);
+  EXPECT_TRUE(state(CommandId::RefreshByHand, {}).isChecked);
+  EXPECT_EQ(state(CommandId::Refresh, {.refreshSeconds = 30}).icon, "vwrefsec30")
+      << "it is seen that it goes on";
+  EXPECT_EQ(state(CommandId::SaveTotals, {.inFront = CommandGroup::Season, .hasManual = true}).shortcut, "");
 }
 
 } // namespace

@@ -18,7 +18,7 @@
 #include "season/frmSTATS.h"
 #include "settings/Settings.h"
 #include "setup/frmNEWGAME.h"
-#include "shell/Commands.h"
+#include "shell/CommandBar.h"
 #include "shell/InstanceLock.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
@@ -281,13 +281,15 @@ TEST_F(MainWindowTest, EveryPrintCommandLeadsToOnePreview) {
   EXPECT_EQ(title(), text(Text::Scorecard));
 }
 
-TEST_F(MainWindowTest, EveryCommandStandsInTheMenusAndIsDisabledUntilItsWindowExists) {
+TEST_F(MainWindowTest, EveryCommandIsServedStandsInTheMenusAndIsDisabledUntilItsWindowExists) {
+  const auto* bar = window->findChild<CommandBar*>();
   std::set<QString> inMenus;
   collect(find<QMenuBar>("menuBar")->actions(), inMenus);
   std::set<QString> usedKeys;
   for (const Command& command : commands()) {
     const QAction& shown = action(std::string(command.key).c_str());
     SCOPED_TRACE(command.key);
+    EXPECT_NE(bar->isServed(command.id), command.kind == CommandKind::Menu);
     const bool isUsable =
         command.group == CommandGroup::Always || command.group == CommandGroup::StartOfInput;
     EXPECT_TRUE(command.kind == CommandKind::Menu ||

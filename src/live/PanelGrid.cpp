@@ -1,0 +1,78 @@
+#include "live/PanelGrid.h"
+
+#include "appearance/Theme.h"
+#include "live/PlayerPanel.h"
+
+#include <QGridLayout>
+
+namespace hooptab {
+
+namespace {
+
+constexpr int kTeamRows = 2; // of the grid: the roster and the panels
+
+} // namespace
+
+PanelGrid::PanelGrid(QWidget* parent) : QWidget(parent), m_grid(new QGridLayout(this)) {
+  m_grid->setContentsMargins(0, 0, 0, 0);
+}
+
+void PanelGrid::fill(const std::array<QWidget*, 2>& rosters, const Settings& settings, const Texts& texts) {
+  m_rosters = rosters;
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot)
+    m_panels[static_cast<std::size_t>(slot)] = new PlayerPanel(slot, settings, texts, this);
+  for (int column = 0; column < LiveGame::kSlotsOfTeam; ++column)
+    m_grid->setColumnStretch(column, 1);
+  setTurned(false);
+}
+
+std::optional<int> PanelGrid::slotAt(int team, const QPoint& place) const {
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
+    if (LiveGame::teamOf(slot) == team && panel(slot).geometry().contains(place))
+      return slot;
+  }
+  return std::nullopt;
+}
+
+void PanelGrid::setTurned(bool isTurned) {
+  for (int team = 0; team < 2; ++team) {
+    const int row = (isTurned ? 1 - team : team) * kTeamRows;
+    m_grid->addWidget(m_rosters[static_cast<std::size_t>(team)], row, 0, 1, LiveGame::kSlotsOfTeam);
+    for (int place = 0; place < LiveGame::kSlotsOfTeam; ++place)
+      m_grid->addWidget(&panel(team * LiveGame::kSlotsOfTeam + place), row + 1, place);
+    m_grid->setRowStretch(row + 1, 1);
+  }
+}
+
+void PanelGrid::setSelected(const std::function<bool(int slot)>& isSelected) {
+  for (int slot = 0; slot < LiveGame::kSlots; ++slot)
+    panel(slot).setSelected(isSelected(slot));
+}
+
+void PanelGrid::showGame(const LiveGame& game) {
+  for (PlayerPanel* panel : m_panels)
+    panel->showGame(game);
+}
+
+void PanelGrid::showTime(const LiveGame& game) {
+  for (PlayerPanel* panel : m_panels)
+    panel->showTime(game);
+}
+
+void PanelGrid::relabelPanels() {
+  for (PlayerPanel* panel : m_panels)
+    panel->relabelPanel();
+}
+
+void PanelGrid::applyColours() {
+  for (PlayerPanel* panel : m_panels)
+    panel->applyColours();
+}
+
+void PanelGrid::applyMeasure() {
+  const Measure& measure = Theme::measure();
+  m_grid->setHorizontalSpacing(measure(5, 9));
+  m_grid->setVerticalSpacing(measure(3, 6));
+}
+
+} // namespace hooptab

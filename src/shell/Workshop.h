@@ -1,0 +1,26 @@
+// What the main window and its desks work with; made by main, which keeps it alive.
+#pragma once
+
+namespace hooptab {
+
+class Dialogs;
+class Printers;
+class Settings;
+class SharedFiles;
+class Texts;
+class TimeSource;
+class WindowMemory;
+class cinifile;
+
+struct Workshop {
+  cinifile& store;
+  Settings& settings;
+  Texts& texts;
+  WindowMemory& memory;
+  Dialogs& dialogs;
+  const SharedFiles& files;
+  TimeSource& time;
+  Printers& printers;
+};
+
+} // namespace hooptab
