@@ -61,6 +61,24 @@ TableContent::Column columnOf(const QAbstractItemModel& model, int column) {
   return shown;
 }
 
+// What stands where there is no number.
+bool isBlank(const QString& text) {
+  return std::ranges::all_of(text,
+                             [](QChar letter) { return letter == u'-' || letter == u'–' || letter == u'—'; });
+}
+
+TableContent::Cell cellOf(const QModelIndex& index) {
+  TableContent::Cell cell{index.data().toString()};
+  const QVariant kind = index.data(kTableKindRole);
+  if (!kind.isValid() || isBlank(cell.text))
+    return cell;
+  cell.kind = static_cast<TableKind>(kind.toInt());
+  cell.value = index.data(kTableSortRole).toDouble();
+  if (cell.kind == TableKind::Percent)
+    cell.value = std::max(cell.value, 0.0); // without attempts it sorts below 0 %
+  return cell;
+}
+
 } // namespace
 
 TableContent tableContent(const QTableView& view, TableExtent extent) {
@@ -74,10 +92,7 @@ TableContent tableContent(const QTableView& view, TableExtent extent) {
     TableContent::Row& line = content.rows.emplace_back();
     for (const int column : columns) {
       const QModelIndex index = model.index(row, column);
-      TableContent::Cell& cell = line.cells.emplace_back(TableContent::Cell{index.data().toString()});
-      const QVariant value = index.data(kTableSortRole);
-      if (value.typeId() == QMetaType::Double)
-        cell.value = value.toDouble();
+      line.cells.push_back(cellOf(index));
       line.isTotal = line.isTotal || index.data(kTableTotalRole).toBool();
     }
   }

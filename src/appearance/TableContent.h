@@ -18,7 +18,11 @@ enum TableRole {
   kTableSortRole = Qt::UserRole, // of a cell: the exact number behind its text, or a text
   kTableTotalRole,               // of a cell: whether its row sums up the others
   kTableNameRole,                // of a header: a name that is unique in its table, for files
+  kTableKindRole,                // of a cell: a TableKind; a text where it tells none
 };
+
+// What a cell holds, so that a spreadsheet calculates with it.
+enum class TableKind { Text, Number, Percent, Time };
 
 struct TableContent {
   struct Column {
@@ -29,7 +33,8 @@ struct TableContent {
   };
   struct Cell {
     QString text;
-    std::optional<double> value = {}; // of kTableSortRole
+    TableKind kind = TableKind::Text;
+    double value = 0; // exactly; of a percentage a part of 1, of a time its seconds
   };
   struct Row {
     std::vector<Cell> cells;

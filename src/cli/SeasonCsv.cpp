@@ -1,6 +1,8 @@
 #include "cli/SeasonReports.h"
 #include "season/SeasonColumns.h"
 
+#include <algorithm>
+
 namespace hooptab {
 
 namespace {
@@ -35,15 +37,17 @@ class SeasonCsv {
   }
   void addRows(SeasonTable table) {
     const bool isOfLines = table == SeasonTable::Lines;
-    const int columns = isOfLines ? kSeasonLineColumnCount : kSeasonColumnCount;
+    const std::vector<int>& columns = seasonTableColumns(table);
     for (const SeasonView view : kSeasonViews) {
       const std::string viewName = word(seasonViewName(view), kViews[static_cast<std::size_t>(view)]);
       for (const SeasonRow& row : isOfLines ? m_statistics.lines() : m_statistics.players()) {
         std::vector<std::string> cells = {isOfLines ? word("lines", Text::Lines)
                                                     : word("players", Text::Players),
                                           viewName, m_statistics.catalogue().teams()[row.team].key};
-        for (int column = 1; column <= kSeasonColumnCount; ++column)
-          cells.push_back(column <= columns ? seasonCell(row, column, view, m_texts) : std::string());
+        for (const SeasonColumn& column : seasonColumns())
+          cells.push_back(std::ranges::find(columns, column.index) == columns.end()
+                              ? std::string()
+                              : seasonCell(row, column.index, view, m_texts));
         cells.emplace_back(m_minimum.isUnder(row, table, view) ? "1" : "0");
         m_csv += csvRow(cells, m_reader);
       }

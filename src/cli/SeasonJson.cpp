@@ -109,7 +109,10 @@ class SeasonJson {
   void writeSums(const SeasonRow& row, SeasonTable table) {
     m_json.member("games", row.games);
     writeNumbers(m_json, row.numbers);
-    m_json.member("TR", row.numbers.rebounds());
+    for (const Statistic& statistic : statistics()) {
+      if (statistic.boxColumn == 0 && statistic.group == nullptr)
+        m_json.member(statistic.name, static_cast<int>(statistic.value(row.numbers).numerator));
+    }
     m_json.member("rank", row.rank);
     for (const SeasonView view : {SeasonView::PerGame, SeasonView::PerMinute, SeasonView::PerForty})
       writeAverages(row, table, view);
@@ -118,11 +121,8 @@ class SeasonJson {
     m_json.name(seasonViewName(view));
     m_json.beginObject();
     m_json.member("underMinimum", m_minimum.isUnder(row, table, view));
-    for (const SeasonColumn& column : seasonColumns()) {
-      if (column.index == kTimeColumn ||
-          (column.index >= kFirstCountColumn && column.index <= kLastCountColumn))
-        m_json.member(column.name, seasonCell(row, column.index, view, m_english));
-    }
+    for (const Statistic& statistic : statistics())
+      m_json.member(statistic.name, seasonCell(row, statistic.seasonColumn, view, m_english));
     m_json.endObject();
   }
   void writeLeaders() {

@@ -85,8 +85,8 @@ class SeasonText {
   std::string table(SeasonTable kind, SeasonView view) const {
     std::vector<int> columns;
     for (const std::string_view name : kColumns) {
-      if (const int column = seasonColumn(name).index;
-          kind == SeasonTable::Players || column <= kSeasonLineColumnCount)
+      const int column = seasonColumn(name).index;
+      if (std::ranges::find(seasonTableColumns(kind), column) != seasonTableColumns(kind).end())
         columns.push_back(column);
     }
     TextTable table;

@@ -84,6 +84,14 @@ QString EventListModel::text(std::size_t event, int column) const {
   return score == before ? QString() : QString::number(score[0]) + u'-' + QString::number(score[1]);
 }
 
+// An overtime is a name.
+TableKind EventListModel::kindOf(std::size_t event, int column) const {
+  if (column == Clock)
+    return TableKind::Time;
+  const bool isNumber = column == Period && m_game.events[event].period <= m_game.details.periods;
+  return isNumber ? TableKind::Number : TableKind::Text;
+}
+
 QVariant EventListModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid())
     return {};
@@ -91,6 +99,9 @@ QVariant EventListModel::data(const QModelIndex& index, int role) const {
   const GameEvent& event = m_game.events[place];
   switch (role) {
   case Qt::DisplayRole: return text(place, index.column());
+  case kTableKindRole:
+    return static_cast<int>(event.isUnderstood ? kindOf(place, index.column()) : TableKind::Text);
+  case kTableSortRole: return index.column() == Clock ? double(event.clockSeconds) : double(event.period);
   case Qt::AccessibleTextRole:
   case Qt::ToolTipRole: return index.column() == Action ? toQt(m_words.words(place)) : QVariant();
   case Qt::TextAlignmentRole: return alignment(index.column());

@@ -3,6 +3,7 @@
 // scroll survive.
 #pragma once
 
+#include "appearance/TableContent.h"
 #include "game/EventWords.h"
 #include "game/GameFile.h"
 
@@ -38,6 +39,7 @@ class EventListModel : public QAbstractTableModel {
 
  private:
   QString text(std::size_t event, int column) const;
+  TableKind kindOf(std::size_t event, int column) const;
 
   const Texts& m_texts;
   Words m_length;

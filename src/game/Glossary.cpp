@@ -1,5 +1,7 @@
 #include "game/Glossary.h"
 
+#include "game/Statistics.h"
+
 #include <algorithm>
 
 namespace hooptab {
@@ -9,13 +11,9 @@ namespace {
 constexpr Term kOtherTerms[] = {
     {kTwoPointers, Text::TwoPointer},
     {kThreePointers, Text::ThreePointer},
-    {"TR", Text::TotalRebounds},
-    {"PTS", Text::PointsScored},
-    {"rating", Text::RatingFormula},
     {"No", Text::JerseyNumber},
     {"Name", Text::PlayerName},
     {"Pos", Text::PositionTip},
-    {"Time", Text::TimeToolTip},
     {"G", Text::GamesPlayedTip},
     {"#", Text::RankTip},
     {"PosHist", Text::PositionsHeld},
@@ -27,6 +25,10 @@ std::vector<Term> glossary() {
   std::vector<Term> terms;
   for (const EventKind& kind : eventKinds())
     terms.push_back({kind.shortName, kind.wordsText});
+  for (const Statistic& statistic : statistics()) {
+    if (statistic.words != Text::None)
+      terms.push_back({statistic.name, statistic.words});
+  }
   terms.insert(terms.end(), std::begin(kOtherTerms), std::end(kOtherTerms));
   return terms;
 }

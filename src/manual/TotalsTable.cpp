@@ -271,12 +271,15 @@ TableContent TotalsTable::tableContent() const {
   }
   content.columns.push_back(
       {QStringLiteral("PTS"), QStringLiteral("PTS"), caption(m_texts, Text::PointsScored)});
+  const auto numberCell = [](int number) {
+    return TableContent::Cell{QString::number(number), TableKind::Number, static_cast<double>(number)};
+  };
   const auto add = [&](const QString& number, const QString& name, const Counters& counts) -> auto& {
     TableContent::Row& row = content.rows.emplace_back();
     row.cells = {{number}, {name}};
     for (const ManualColumn& column : kManualColumns)
-      row.cells.push_back({QString::number(counts[column.counter])});
-    row.cells.push_back({QString::number(pointsOf(counts))});
+      row.cells.push_back(numberCell(counts[column.counter]));
+    row.cells.push_back(numberCell(pointsOf(counts)));
     return row;
   };
   for (int slot = 1; slot <= players(); ++slot) {

@@ -12,42 +12,13 @@ namespace {
 
 constexpr std::string_view kRepeatedColumns[] = {"No", "Name"};
 
-bool isShotPart(std::string_view name) {
-  return name == "M" || name == "A" || name == "%" || name == "PTS";
-}
-
-struct Group {
-  std::string_view kind; // of shots; empty for all of them together
-  Text title = Text::None;
-};
-Group groupOf(std::string_view column) {
-  if (isShotPart(column))
-    return {{}, Text::EveryShot};
-  for (const EventKind& kind : eventKinds()) {
-    if (kind.isShot && column.starts_with(kind.shortName) && isShotPart(column.substr(kind.shortName.size())))
-      return {kind.shortName, kind.wordsText};
-  }
-  return {};
-}
-
-int indexOf(const std::string& column) {
-  return std::ranges::find(boxColumns(), column, &BoxColumn::name)->index;
-}
-
 ReportCell cellOf(const BoxRow& row, const BoxColumn& column) {
   ReportCell cell = textCell(boxCell(row, column.index));
-  // Jerseys are texts: "00" is not 0.
-  if (boxColumnIsText(column.index) || column.name == "No")
+  if (column.statistic == nullptr) // jerseys are texts: "00" is not 0
     return cell;
-  cell.value = std::max(0.0, boxSortValue(row, column.index));
-  if (column.name == "Time")
-    cell.kind = ReportCell::Kind::Time;
-  else if (column.name.ends_with('%'))
-    cell.kind = ReportCell::Kind::Percent;
-  else {
-    cell.kind = ReportCell::Kind::Number;
-    cell.value = boxSortValue(row, column.index); // a rating may be below 0
-  }
+  const StatisticValue value = column.statistic->value(row.numbers);
+  cell.kind = kindOfCell(column.statistic->kind);
+  cell.value = value.denominator == 0 ? 0 : sortValue(value);
   return cell;
 }
 
@@ -60,15 +31,16 @@ ReportTable boxTable(const Game& game, const GameState& state, int team, const S
   // Of both teams, so that their tables have the same columns.
   const BoxRow totals[2] = {boxRows(game, state, 0, BoxView::Players, texts).back(),
                             boxRows(game, state, 1, BoxView::Players, texts).back()};
-  const auto isUntried = [&](const Group& group) {
-    return !group.kind.empty() && std::ranges::all_of(totals, [&](const BoxRow& total) {
-      return boxSortValue(total, indexOf(std::string(group.kind) + 'A')) == 0;
-    });
+  // Of one kind of shots: all of them stay where nobody tried any.
+  const auto isUntried = [&](const ShotGroup* group) {
+    return group != nullptr && group != shotGroups().data() &&
+           std::ranges::all_of(
+               totals, [&](const BoxRow& total) { return total.numbers.attempted(group->kinds) == 0; });
   };
   std::vector<const BoxColumn*> shown;
-  std::optional<Text> openGroup;
+  std::optional<const ShotGroup*> openGroup;
   for (const int index : boxDisplayOrder()) {
-    const BoxColumn& column = boxColumns()[static_cast<std::size_t>(index - 1)];
+    const BoxColumn& column = boxColumn(index);
     if (!choice.isShown(column))
       continue;
     shown.push_back(&column);
@@ -80,11 +52,12 @@ ReportTable boxTable(const Game& game, const GameState& state, int team, const S
     table.columns.push_back({header, std::string(column.name),
                              columnWords(index, game.details.statisticLabel, settings, texts),
                              column.isLeftAligned || boxColumnIsText(index), isRepeated});
-    const Group group = groupOf(column.name);
-    if (group.title != openGroup)
-      table.groups.push_back({capitalised(std::string(texts.text(group.title))), 0, isUntried(group)});
+    const ShotGroup* group = column.statistic == nullptr ? nullptr : column.statistic->group;
+    if (group != openGroup)
+      table.groups.push_back(
+          {group == nullptr ? std::string() : groupTitle(*group, texts), 0, isUntried(group)});
     ++table.groups.back().columns;
-    openGroup = group.title;
+    openGroup = group;
   }
   for (const BoxRow& row : boxRows(game, state, team, choice.view(), texts)) {
     ReportRow& line = table.rows.emplace_back();

@@ -19,8 +19,9 @@ namespace {
 
 constexpr int kSecondsPerMinute = 60;
 
-// The columns whose best players are named; rebounds are those of both kinds.
-constexpr std::string_view kLeaderColumns[] = {"PTS", "F3M", "FTM", "Ast", "TR", "OR", "ST", "BS", "rating"};
+// Whose best players are named; rebounds are those of both kinds.
+constexpr std::string_view kLeaderStatistics[] = {"PTS", "F3M", "FTM", "Ast",   "TR",
+                                                  "OR",  "ST",  "BS",  "rating"};
 constexpr std::size_t kMostNamed = 3;
 constexpr const char* kBlank = "\u00A0"; // where no line may end
 constexpr const char* kDash = "\u00A0–\u00A0";
@@ -121,30 +122,17 @@ ReportTable leadTable(const Scoreboard& board, const GameState& state, const Tex
   return table;
 }
 
-// What a player has of a leader column.
-int valueOf(const BoxRow& row, std::string_view column) {
-  if (column == "TR")
-    return row.numbers.rebounds();
-  return static_cast<int>(
-      boxSortValue(row, std::ranges::find(boxColumns(), column, &BoxColumn::name)->index));
+int valueOf(const BoxRow& row, const Statistic& statistic) {
+  return static_cast<int>(statistic.value(row.numbers).numerator);
 }
 
-std::string leaderWords(std::string_view column, const Game& game, const Settings& settings,
-                        const Texts& texts) {
-  if (column == "TR")
-    return text(texts, termWords(column));
-  if (column == "rating") // whose words are its formula
-    return text(texts, Text::RatingWord);
-  return capitalised(columnWords(std::ranges::find(boxColumns(), column, &BoxColumn::name)->index,
-                                 game.details.statisticLabel, settings, texts));
-}
-
-// Who has most of a column, by name; "5 players" where too many share it.
-std::string leaders(const std::vector<BoxRow>& rows, std::string_view column, int best, const Texts& texts) {
+// Who has most of it, by name; "5 players" where too many share it.
+std::string leaders(const std::vector<BoxRow>& rows, const Statistic& statistic, int best,
+                    const Texts& texts) {
   std::string names;
   std::size_t count = 0;
   for (const BoxRow& row : rows) {
-    if (row.kind != BoxRowKind::Player || valueOf(row, column) != best)
+    if (row.kind != BoxRowKind::Player || valueOf(row, statistic) != best)
       continue;
     names += (count > 0 ? ", " : "") + row.number + ' ' + row.name;
     ++count;
@@ -167,17 +155,19 @@ ReportTable leaderTable(const Game& game, const GameState& state, const Settings
     table.columns.push_back({text(texts, Text::Value), "Value" + side});
     table.groups.push_back({game.details.abbreviation[team], 2});
   }
-  for (const std::string_view name : kLeaderColumns) {
+  for (const std::string_view name : kLeaderStatistics) {
+    const Statistic& statistic = statisticNamed(name);
     ReportRow line;
     bool isLed = false;
-    line.cells.push_back(textCell(leaderWords(name, game, settings, texts)));
+    line.cells.push_back(
+        textCell(capitalised(statisticTitle(statistic, game.details.statisticLabel, settings, texts))));
     for (const std::vector<BoxRow>& players : rows) {
       int best = 0;
       for (const BoxRow& row : players) {
         if (row.kind == BoxRowKind::Player)
-          best = std::max(best, valueOf(row, name));
+          best = std::max(best, valueOf(row, statistic));
       }
-      line.cells.push_back(textCell(best > 0 ? leaders(players, name, best, texts) : std::string()));
+      line.cells.push_back(textCell(best > 0 ? leaders(players, statistic, best, texts) : std::string()));
       line.cells.push_back(best > 0 ? numberCell(best) : textCell({}));
       isLed = isLed || best > 0;
     }

@@ -34,6 +34,20 @@ std::string capitalised(std::string words) {
   return words;
 }
 
+std::string groupTitle(const ShotGroup& group, const Texts& texts) {
+  return group.title == Text::None ? std::string(group.name)
+                                   : capitalised(std::string(texts.text(group.title)));
+}
+
+ReportCell::Kind kindOfCell(ValueKind kind) {
+  switch (kind) {
+  case ValueKind::Count: break;
+  case ValueKind::Time: return ReportCell::Kind::Time;
+  case ValueKind::Percent: return ReportCell::Kind::Percent;
+  }
+  return ReportCell::Kind::Number;
+}
+
 std::string proposedFileName(std::string words) {
   std::string name = Module1::asFileName(std::move(words));
   const auto rest =

@@ -1,6 +1,7 @@
-// Words that several kinds of reports are made of. Knows no game and no season.
+// Words that several kinds of reports are made of. Knows neither games nor seasons.
 #pragma once
 
+#include "game/Statistics.h"
 #include "report/Report.h"
 #include "settings/Texts.h"
 
@@ -15,6 +16,9 @@ namespace hooptab {
 [[nodiscard]] std::string labelled(Text labelText, std::string_view value, const Texts& texts);
 // With a large first letter, for the begin of a row or a heading.
 [[nodiscard]] std::string capitalised(std::string words);
+// Over the columns of a group of shots.
+[[nodiscard]] std::string groupTitle(const ShotGroup& group, const Texts& texts);
+[[nodiscard]] ReportCell::Kind kindOfCell(ValueKind kind);
 // As the name of a file, without blanks that follow each other.
 [[nodiscard]] std::string proposedFileName(std::string words);
 // Of a list with more rows than this its first ones are proposed for paper.

@@ -1,7 +1,7 @@
 #include "report/SeasonReports.h"
 
-#include "game/Glossary.h"
 #include "report/ReportWords.h"
+#include "scorecard/ColumnWords.h"
 #include "season/GameColumns.h"
 #include "season/GameSeries.h"
 #include "season/Leaders.h"
@@ -41,47 +41,23 @@ std::string text(const Texts& texts, Text which) {
   return std::string(texts.text(which));
 }
 
-// Of the counted columns, those of shots; the others are fouls, rating and what was counted beside shots.
-bool isOfShots(int column) {
-  const std::string_view name = seasonColumn(column).name;
-  return name.ends_with('M') || name.ends_with("PTS") || name.ends_with('%') ||
-         (name.size() == 3 && name.ends_with('A'));
-}
-
-// The kind of a column of shots, empty for any other. The bare "%" and "PTS" are those of all shots.
-std::string_view kindOf(int column) {
-  if (column > kLastCountColumn || column < kFirstCountColumn || !isOfShots(column))
-    return {};
-  const std::string_view name = seasonColumn(column).name;
-  return name == "%" || name == "PTS" ? "TG" : name.substr(0, 2);
-}
-
-// The title over the columns of a kind.
-std::string titleOfKind(std::string_view kind, const Texts& texts) {
-  if (kind == "TG")
-    return text(texts, Text::EveryShot);
-  if (kind == "FG") // two- and three-pointers together
-    return std::string(kind);
-  return capitalised(text(texts, termWords(kind == "F2" ? "FG" : kind)));
+const ShotGroup* groupOf(int column) {
+  const Statistic* statistic = seasonColumn(column).statistic;
+  return statistic == nullptr ? nullptr : statistic->group;
 }
 
 // A cell that is shown as the season's table shows it, with the exact number behind it.
 ReportCell cellOf(const SeasonRow& row, int column, SeasonView view, const Texts& texts) {
   ReportCell cell = textCell(seasonCell(row, column, view, texts));
-  const bool isTime = column == kTimeColumn;
+  const Statistic* statistic = seasonColumn(column).statistic;
   const bool isPerTime = view == SeasonView::PerMinute || view == SeasonView::PerForty;
-  if (column == kNumberColumn || seasonColumnIsText(column) || (isTime && isPerTime))
+  if (column == kNumberColumn || seasonColumnIsText(column) ||
+      (statistic != nullptr && statistic->kind == ValueKind::Time && isPerTime))
     return cell;
-  cell.kind = ReportCell::Kind::Number;
-  cell.value = seasonSortValue(row, column, view);
-  const std::string_view name = seasonColumn(column).name;
-  if (isTime || name.ends_with('%')) {
-    const SeasonValue value = seasonValue(row, column, view);
-    cell.kind = isTime ? ReportCell::Kind::Time : ReportCell::Kind::Percent;
-    cell.value = value.denominator == 0
-                     ? 0
-                     : static_cast<double>(value.numerator) / static_cast<double>(value.denominator);
-  }
+  cell.kind = statistic == nullptr ? ReportCell::Kind::Number : kindOfCell(statistic->kind);
+  cell.value = statistic != nullptr && seasonValue(row, column, view).denominator == 0
+                   ? 0
+                   : seasonSortValue(row, column, view);
   return cell;
 }
 
@@ -173,33 +149,31 @@ class SeasonReportMaker {
     ReportTable table;
     table.columns = std::move(begin);
     table.groups.push_back({"", table.columns.size()});
-    std::string_view open;
+    const ShotGroup* open = nullptr;
     for (const int index : columns) {
       const SeasonColumn& column = seasonColumn(index);
       table.columns.push_back({seasonHeader(index, SeasonTable::Players, m_texts), std::string(column.name),
                                seasonColumnWords(index, m_settings, m_texts, m_statistics.labels()),
                                seasonColumnIsText(index)});
-      const std::string_view kind = kindOf(index);
-      if (kind != open || table.groups.size() == 1)
-        table.groups.push_back({titleOfKind(kind, m_texts), 0, !isTried(kind)});
+      const ShotGroup* group = groupOf(index);
+      if (group != open || table.groups.size() == 1)
+        table.groups.push_back(
+            {group == nullptr ? std::string() : groupTitle(*group, m_texts), 0, !isTried(group)});
       ++table.groups.back().columns;
-      open = kind;
+      open = group;
     }
     return table;
   }
   // Whether anybody of the season tried such a shot, so that all its tables have the same columns.
-  bool isTried(std::string_view kind) const {
-    return kind.empty() || std::ranges::any_of(m_statistics.teams(), [&](const SeasonTeamRow& team) {
-             SeasonRow sums;
-             sums.numbers = team.numbers;
-             return seasonValue(sums, seasonColumn(std::string(kind) + 'A').index, SeasonView::Totals)
-                        .numerator > 0;
+  bool isTried(const ShotGroup* group) const {
+    return group == nullptr || std::ranges::any_of(m_statistics.teams(), [&](const SeasonTeamRow& team) {
+             return team.numbers.attempted(group->kinds) > 0;
            });
   }
   static std::vector<int> columnsOf(bool ofShots) {
     std::vector<int> columns = {kTimeColumn, kGamesColumn};
-    for (int column = kFirstCountColumn; column <= kLastCountColumn; ++column) {
-      if (isOfShots(column) == ofShots)
+    for (const int column : countColumns()) {
+      if ((groupOf(column) != nullptr) == ofShots)
         columns.push_back(column);
     }
     return columns;
@@ -215,8 +189,7 @@ class SeasonReportMaker {
     begin.push_back({"+", "PointsFor", text(m_texts, Text::PointsFor)});
     begin.push_back({"-", "PointsAgainst", text(m_texts, Text::PointsAgainst)});
     std::vector<int> columns = {kGamesColumn};
-    for (int column = kFirstCountColumn; column <= kLastCountColumn; ++column)
-      columns.push_back(column);
+    columns.insert(columns.end(), countColumns().begin(), countColumns().end());
     const ReportTable empty = tableOf(begin, columns);
     for (const SeasonView view : {SeasonView::Totals, SeasonView::PerGame}) {
       ReportTable table = empty;
@@ -317,8 +290,8 @@ class SeasonReportMaker {
       table.standsBeside = !m_report.blocks.empty();
       table.isInGrid = true;
       table.columns = {{"#", "Rank"}, repeated(text(m_texts, Text::PlayerName), "Name"), {header, "Value"}};
-      const bool hasForty =
-          view == SeasonView::PerMinute && attemptsColumnOf(statistic.column) == 0; // beside per minute
+      const bool hasForty = view == SeasonView::PerMinute && seasonColumn(statistic.column).statistic->kind !=
+                                                                 ValueKind::Percent; // beside per minute
       if (hasForty)
         table.columns.push_back({text(m_texts, Text::PerForty), "Per40"});
       if (!m_choice.team)
@@ -391,11 +364,11 @@ class SeasonReportMaker {
                      {text(m_texts, Text::Value), "Value"},
                      {text(m_texts, Text::WhereCriterion), "Where", {}, true}};
     for (const Record& record : records.records()) {
-      const bool isTime = record.column == kTimeColumn;
-      ReportCell value =
-          record.value == 0 ? textCell({})
-          : isTime ? ReportCell{record.text(), ReportCell::Kind::Time, static_cast<double>(record.value)}
-                   : ReportCell{record.text(), ReportCell::Kind::Number, static_cast<double>(record.value)};
+      ReportCell value = textCell(record.text());
+      if (record.value != 0) {
+        value.kind = kindOfCell(seasonColumn(record.column).statistic->kind);
+        value.value = record.value;
+      }
       table.rows.push_back({{textCell(std::string(record.what)), textCell(wordsOf(record.column)),
                              std::move(value), textCell(record.where)}});
     }
@@ -403,15 +376,13 @@ class SeasonReportMaker {
   }
   // A column in words, short enough for a title.
   std::string wordsOf(int column) const {
-    if (seasonColumn(column).name == "rating") // whose words are its formula
-      return text(m_texts, Text::RatingCapital);
-    const std::string_view name = seasonColumn(column).name;
-    if (!kindOf(column).empty() && !name.ends_with("PTS"))
-      return m_texts.withPlaceholder(name.ends_with('M')   ? Text::MadeOf
-                                     : name.ends_with('A') ? Text::AttemptsOf
-                                                           : Text::PercentageOf,
-                                     titleOfKind(kindOf(column), m_texts));
-    return capitalised(seasonColumnWords(column, m_settings, m_texts, m_statistics.labels()));
+    const Statistic& statistic = *seasonColumn(column).statistic;
+    if (statistic.group == nullptr || statistic.part == ShotPart::Points)
+      return capitalised(statisticTitle(statistic, m_statistics.labels(), m_settings, m_texts));
+    return m_texts.withPlaceholder(statistic.part == ShotPart::Made        ? Text::MadeOf
+                                   : statistic.part == ShotPart::Attempted ? Text::AttemptsOf
+                                                                           : Text::PercentageOf,
+                                   groupTitle(*statistic.group, m_texts));
   }
 
   // Beside the records, where there is room.
@@ -464,7 +435,7 @@ class SeasonReportMaker {
     constexpr const char* kNames[] = {"Date", "Where", "Result", "Opponent"};
     for (std::size_t i = 0; i < begin.size(); ++i)
       begin[i].name = kNames[i];
-    for (int column = kResultOpponentColumn + 1; column <= kResultColumnCount; ++column)
+    for (int column = kResultOpponentColumn + 1; column <= resultColumnCount(); ++column)
       columns.push_back(seasonColumnOfResult(column));
     ReportTable table = tableOf(std::move(begin), columns);
     table.title = text(m_texts, Text::ResultsByGame);

@@ -1,56 +1,20 @@
 // The rows of the scorecard table: per player or per line of players, and the team's total, computed from a
-// game's counters. Derived numbers (points, percentages, rating) stand here and nowhere else. Knows the
-// columns, not how they look.
+// game's counters; and its columns, those of the statistics between the few that are texts. Knows not how
+// they look.
 #pragma once
 
 #include "game/GameFile.h"
 #include "game/GameState.h"
+#include "game/Statistics.h"
 #include "settings/Texts.h"
 
-#include <array>
 #include <cstdint>
-#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace hooptab {
-
-// The counts of a row, wide enough for the sum of a whole team's 16-bit counts.
-struct BoxCounters {
-  std::array<std::int32_t, kCounterCount> counts = {};
-
-  std::int32_t operator[](Counter counter) const { return counts[static_cast<std::size_t>(counter)]; }
-  BoxCounters& operator+=(const Counters& added);
-  friend bool operator==(const BoxCounters&, const BoxCounters&) = default;
-};
-
-// Some of the shot kinds, as bits: bit n for the kind at place n of the table of kinds.
-using ShotKinds = unsigned;
-[[nodiscard]] constexpr ShotKinds shotKinds(std::initializer_list<EventCode> codes) {
-  ShotKinds kinds = 0;
-  for (std::size_t i = 0; i < kEventKinds.size(); ++i) {
-    for (const EventCode code : codes)
-      kinds |= kEventKinds[i].isShot && kEventKinds[i].code == code ? 1U << i : 0U;
-  }
-  return kinds;
-}
-inline constexpr ShotKinds kAllShotKinds =
-    shotKinds({EventCode::GFG, EventCode::GF3, EventCode::GFT, EventCode::GLG, EventCode::GLD, EventCode::GPB,
-               EventCode::GDK});
-
-// Numbers of a row, whatever it stands for.
-struct BoxNumbers {
-  BoxCounters counters;
-  std::int32_t seconds = 0; // not below 0
-
-  [[nodiscard]] int made(ShotKinds kinds = kAllShotKinds) const;
-  [[nodiscard]] int attempted(ShotKinds kinds = kAllShotKinds) const;
-  [[nodiscard]] int points(ShotKinds kinds = kAllShotKinds) const;
-  [[nodiscard]] int rebounds() const; // OR + DR
-  [[nodiscard]] int rating() const;   // PTS + OR + DR + Ast + ST + BS - ((A - M) + TO)
-};
 
 enum class BoxRowKind : std::uint8_t { Player, OtherPlayers, Line, OtherLines, Total };
 
@@ -76,21 +40,24 @@ enum class BoxView : std::uint8_t { Players, Lines };
 [[nodiscard]] std::vector<BoxRow> boxRows(const Game& game, const GameState& state, int team, BoxView view,
                                           const Texts& texts);
 
-// The 48 columns, by creation index 1..48.
+// By creation index, from 1.
 struct BoxColumn {
-  int index;               // 1..48
+  int index;
   std::string_view header; // short, the same in both languages, where headerText is none
   Text headerText;         // none for most
   int widthTwips;          // 0: hidden
   bool isLeftAligned;
-  bool isMadeOrAttempted; // hidden by "Statistics without Made and Attempt"
-  std::string_view name;  // unique, for command line and export: "No", "Name", "FGM", "FGPTS", "rating"
+  bool isMadeOrAttempted;     // hidden by "Statistics without Made and Attempt"
+  std::string_view name;      // unique, for command line and export: "No", "Name", "FGM", "FGPTS", "rating"
+  const Statistic* statistic; // null: a text, or the time by which another column sorts
 };
-inline constexpr int kBoxColumnCount = 48;
 inline constexpr int kTimeSortColumn = 33;
-[[nodiscard]] std::span<const BoxColumn, kBoxColumnCount> boxColumns();
-[[nodiscard]] const std::array<int, kBoxColumnCount>&
-boxDisplayOrder(); // creation indexes from left to right
+[[nodiscard]] std::span<const BoxColumn> boxColumns();
+[[nodiscard]] inline int boxColumnCount() {
+  return static_cast<int>(boxColumns().size());
+}
+[[nodiscard]] const BoxColumn& boxColumn(int index);
+[[nodiscard]] const std::vector<int>& boxDisplayOrder(); // creation indexes from left to right
 
 // The text of a cell, and the number by which its column sorts (text columns sort by their text). A
 // percentage sorts by its exact ratio, without attempts below 0%; jerseys by number, "0" before "00", those

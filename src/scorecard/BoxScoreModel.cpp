@@ -2,6 +2,7 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "game/TableKinds.h"
 
 #include <QBrush>
 #include <QFont>
@@ -15,14 +16,16 @@ namespace {
 
 constexpr int kNumberColumn = 0;
 constexpr int kNameColumn = 1;
-constexpr int kPointsColumn = 7;   // the total of all kinds, in bold
-constexpr int kFirstShotPlace = 7; // display places of the groups of four: all shots, then seven kinds
-constexpr int kGroupSize = 4;
-constexpr int kGroupCount = 8;
 
 QVariant alignment(int column) {
-  const bool isLeft = boxColumns()[static_cast<std::size_t>(column)].isLeftAligned;
+  const bool isLeft = boxColumn(column + 1).isLeftAligned;
   return QVariant::fromValue(Qt::Alignment(isLeft ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
+}
+
+// The points of all shots, in bold.
+bool isPoints(int column) {
+  const Statistic* statistic = boxColumn(column + 1).statistic;
+  return statistic != nullptr && statistic->isShotPart(ShotPart::Points) && statistic->isOfAllShots();
 }
 
 // A percentage without attempts sorts below 0; a rating below 0 is no zero.
@@ -68,7 +71,7 @@ void BoxScoreModel::showRows(std::vector<Row> rows, bool sameTable) {
       endInsertRows();
     } else if (!isEqual(m_rows[i], rows[i])) {
       m_rows[i] = std::move(rows[i]);
-      emit dataChanged(index(static_cast<int>(i), 0), index(static_cast<int>(i), kBoxColumnCount - 1));
+      emit dataChanged(index(static_cast<int>(i), 0), index(static_cast<int>(i), boxColumnCount() - 1));
     }
   }
   if (m_rows.size() > rows.size()) {
@@ -81,7 +84,7 @@ void BoxScoreModel::showRows(std::vector<Row> rows, bool sameTable) {
 void BoxScoreModel::showHeaders(const QStringList& headers, const QStringList& toolTips) {
   m_headers = headers;
   m_toolTips = toolTips;
-  emit headerDataChanged(Qt::Horizontal, 0, kBoxColumnCount - 1);
+  emit headerDataChanged(Qt::Horizontal, 0, boxColumnCount() - 1);
 }
 
 int BoxScoreModel::rowCount(const QModelIndex& parent) const {
@@ -89,13 +92,21 @@ int BoxScoreModel::rowCount(const QModelIndex& parent) const {
 }
 
 int BoxScoreModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : kBoxColumnCount;
+  return parent.isValid() ? 0 : boxColumnCount();
 }
 
 bool BoxScoreModel::isShaded(int column) {
-  const auto& order = boxDisplayOrder();
-  const auto place = static_cast<int>(std::ranges::find(order, column + 1) - order.begin());
-  return place >= kFirstShotPlace && std::min((place - kFirstShotPlace) / kGroupSize, kGroupCount) % 2 == 0;
+  int groups = 0;
+  const ShotGroup* open = nullptr;
+  for (const int index : boxDisplayOrder()) {
+    const Statistic* statistic = boxColumn(index).statistic;
+    const ShotGroup* group = statistic == nullptr ? nullptr : statistic->group;
+    groups += group != open ? 1 : 0;
+    open = group;
+    if (index == column + 1)
+      break;
+  }
+  return groups % 2 == 1;
 }
 
 QVariant BoxScoreModel::data(const QModelIndex& index, int role) const {
@@ -108,12 +119,16 @@ QVariant BoxScoreModel::data(const QModelIndex& index, int role) const {
   case Qt::DisplayRole: return toQt(boxCell(row.box, column));
   case SortRole:
     return boxColumnIsText(column) ? QVariant(toQt(boxCell(row.box, column))) : boxSortValue(row.box, column);
+  case kTableKindRole: {
+    const Statistic* statistic = boxColumn(column).statistic;
+    return statistic == nullptr ? QVariant() : static_cast<int>(tableKind(statistic->kind));
+  }
   case TotalRole: return isTotal;
   case Qt::CheckStateRole: return index.column() == kNumberColumn ? QVariant(row.check) : QVariant();
   case Qt::ToolTipRole: return index.column() == kNameColumn ? toQt(row.box.name) : QVariant();
   case Qt::TextAlignmentRole: return alignment(index.column());
   case Qt::FontRole: {
-    if (!isTotal && index.column() != kPointsColumn)
+    if (!isTotal && !isPoints(index.column()))
       return {};
     QFont bold;
     bold.setBold(true);
@@ -142,12 +157,12 @@ bool BoxScoreModel::setData(const QModelIndex& index, const QVariant& value, int
 }
 
 QVariant BoxScoreModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || section < 0 || section >= kBoxColumnCount)
+  if (orientation != Qt::Horizontal || section < 0 || section >= boxColumnCount())
     return {};
   switch (role) {
   case Qt::DisplayRole: return m_headers.value(section);
   case Qt::ToolTipRole: return m_toolTips.value(section);
-  case kTableNameRole: return toQt(boxColumns()[static_cast<std::size_t>(section)].name);
+  case kTableNameRole: return toQt(boxColumn(section + 1).name);
   case Qt::TextAlignmentRole: return alignment(section);
   // Whoever sorts by a number wants the best first.
   case Qt::InitialSortOrderRole:

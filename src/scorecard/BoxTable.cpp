@@ -27,10 +27,10 @@ Qt::CheckState checkState(ScorecardView::CheckMark mark) {
 }
 
 // The longest text that a game leaves in a column of numbers.
-QString longestText(const BoxColumn& column) {
-  if (column.name == "Time")
+QString longestText(const Statistic* statistic) {
+  if (statistic != nullptr && statistic->kind == ValueKind::Time)
     return QStringLiteral("000:00");
-  if (column.name.ends_with('%'))
+  if (statistic != nullptr && statistic->kind == ValueKind::Percent)
     return QStringLiteral("100.0%");
   return QStringLiteral("000");
 }
@@ -43,7 +43,7 @@ BoxTable::BoxTable(const QString& name, QWidget* parent) : FrozenTableView(kFroz
   setModel(&m_sorted);
   setRowHeight(kLowestRow);
   const auto& order = boxDisplayOrder();
-  for (int place = 0; place < kBoxColumnCount; ++place)
+  for (int place = 0; place < boxColumnCount(); ++place)
     horizontalHeader()->moveSection(
         horizontalHeader()->visualIndex(order[static_cast<std::size_t>(place)] - 1), place);
   connect(&m_model, &BoxScoreModel::checkAsked, this,
@@ -83,7 +83,7 @@ void BoxTable::relabel(const QStringList& headers, const QStringList& toolTips) 
 int BoxTable::numberWidth(int column) const {
   QFont bold = font();
   bold.setBold(true); // as in the total
-  return QFontMetrics(bold).horizontalAdvance(longestText(boxColumns()[static_cast<std::size_t>(column)]));
+  return QFontMetrics(bold).horizontalAdvance(longestText(boxColumn(column + 1).statistic));
 }
 
 // Columns of numbers are as wide as they ever need, so that nothing moves when counts grow; those of texts
@@ -91,7 +91,7 @@ int BoxTable::numberWidth(int column) const {
 void BoxTable::fitColumns() {
   const auto* header = static_cast<const BoxHeader*>(horizontalHeader());
   const int box = style()->pixelMetric(QStyle::PM_IndicatorWidth) + kPadding;
-  for (int column = 0; column < kBoxColumnCount; ++column) {
+  for (int column = 0; column < boxColumnCount(); ++column) {
     int width = header->textWidth(m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
     if (boxColumnIsText(column + 1) || column < kFrozenColumns) {
       QFont bold = font();

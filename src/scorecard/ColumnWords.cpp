@@ -3,35 +3,15 @@
 #include "game/Glossary.h"
 #include "scorecard/BoxScore.h"
 
-#include <algorithm>
-#include <optional>
-
 namespace hooptab {
 
 namespace {
 
-struct NamedText {
-  std::string_view column;
-  Text text;
-};
-// What a group of shot columns holds, by the end of the column's name.
-constexpr NamedText kShotColumns[] = {
-    {"M", Text::MadeOf},
-    {"A", Text::AttemptsOf},
-    {"%", Text::PercentageOf},
-    {"PTS", Text::PointsOf},
-};
+constexpr Text kPartTexts[] = {Text::MadeOf, Text::AttemptsOf, Text::PercentageOf, Text::PointsOf};
 
-std::optional<std::string> shotWords(std::string_view ending, std::string_view kind, const Texts& texts) {
-  const auto* found = std::ranges::find(kShotColumns, ending, &NamedText::column);
-  if (found == std::end(kShotColumns))
-    return std::nullopt;
-  return texts.withPlaceholder(found->text, kind);
-}
-
-std::string ownStatistic(std::size_t index, const std::string (&gameLabels)[2], const Settings& settings,
+std::string ownStatistic(std::size_t index, StatisticLabels labels, const Settings& settings,
                          const Texts& texts) {
-  std::string label = Settings::shownLabel(gameLabels[index]);
+  std::string label = Settings::shownLabel(labels[index]);
   if (label.empty())
     label = Settings::shownLabel(settings.statisticLabel[index]);
   std::string words =
@@ -43,22 +23,30 @@ std::string ownStatistic(std::size_t index, const std::string (&gameLabels)[2], 
 
 } // namespace
 
-std::string columnWords(int column, const std::string (&gameLabels)[2], const Settings& settings,
-                        const Texts& texts) {
-  const std::string_view name = boxColumns()[static_cast<std::size_t>(column - 1)].name;
-  if (name == "S1")
-    return ownStatistic(0, gameLabels, settings, texts);
-  if (name == "S2")
-    return ownStatistic(1, gameLabels, settings, texts);
-  if (const Text words = termWords(name); words != Text::None)
-    return std::string(texts.text(words));
-  for (const EventKind& kind : eventKinds()) {
-    if (kind.isShot && name.starts_with(kind.shortName)) {
-      if (auto words = shotWords(name.substr(kind.shortName.size()), texts.text(kind.wordsText), texts))
-        return *words;
-    }
-  }
-  return shotWords(name, texts.text(Text::AllShots), texts).value_or(std::string(name));
+std::string statisticWords(const Statistic& statistic, StatisticLabels labels, const Settings& settings,
+                           const Texts& texts) {
+  if (statistic.own >= 0)
+    return ownStatistic(static_cast<std::size_t>(statistic.own), labels, settings, texts);
+  if (statistic.words != Text::None)
+    return std::string(texts.text(statistic.words));
+  if (statistic.group != nullptr)
+    return texts.withPlaceholder(kPartTexts[static_cast<std::size_t>(statistic.part)],
+                                 texts.text(statistic.group->words));
+  return std::string(texts.text(termWords(statistic.name)));
+}
+
+std::string statisticTitle(const Statistic& statistic, StatisticLabels labels, const Settings& settings,
+                           const Texts& texts) {
+  return statistic.title != Text::None ? std::string(texts.text(statistic.title))
+                                       : statisticWords(statistic, labels, settings, texts);
+}
+
+std::string columnWords(int column, StatisticLabels labels, const Settings& settings, const Texts& texts) {
+  const BoxColumn& shown = boxColumn(column);
+  if (shown.statistic != nullptr)
+    return statisticWords(*shown.statistic, labels, settings, texts);
+  const Text words = termWords(shown.name);
+  return words == Text::None ? std::string(shown.name) : std::string(texts.text(words));
 }
 
 } // namespace hooptab

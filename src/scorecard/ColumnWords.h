@@ -1,16 +1,25 @@
-// The columns of the box score in words, for tool tips: the short headers say little to whoever sees them
+// Statistics in words, for tool tips and for choosing one: the short headers say little to whoever sees them
 // first, and eight of them read "PTS".
 #pragma once
 
+#include "game/Statistics.h"
 #include "settings/Settings.h"
 
+#include <span>
 #include <string>
 
 namespace hooptab {
 
-// `column` is a creation index, 1..48. The two statistics of the user's own carry the game's labels, or where
-// those are empty the settings'.
-[[nodiscard]] std::string columnWords(int column, const std::string (&gameLabels)[2],
-                                      const Settings& settings, const Texts& texts);
+// What the user's own two are called; empty: as in the settings.
+using StatisticLabels = std::span<const std::string, 2>;
+
+[[nodiscard]] std::string statisticWords(const Statistic& statistic, StatisticLabels labels,
+                                         const Settings& settings, const Texts& texts);
+// Short enough for a title: not a whole formula.
+[[nodiscard]] std::string statisticTitle(const Statistic& statistic, StatisticLabels labels,
+                                         const Settings& settings, const Texts& texts);
+// `column` is a creation index of a game's table.
+[[nodiscard]] std::string columnWords(int column, StatisticLabels labels, const Settings& settings,
+                                      const Texts& texts);
 
 } // namespace hooptab

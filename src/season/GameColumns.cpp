@@ -148,7 +148,7 @@ SeasonRow rowOfResult(const GameResult& result) {
 int seasonColumnOfResult(int column) {
   if (column <= kResultOpponentColumn)
     return 0;
-  return column == kResultOpponentColumn + 1 ? kTimeColumn : column - 1;
+  return statistics()[static_cast<std::size_t>(column - kResultOpponentColumn - 1)].seasonColumn;
 }
 
 std::string resultHeader(int column, const Texts& texts) {

@@ -34,10 +34,12 @@ inline constexpr int kGameColumnCount = 17;
 // "W 87-80": win, loss or tie of a side, its own points first.
 [[nodiscard]] std::string resultText(const ListedGame& game, int side, const Texts& texts);
 
-// The results by game of a player or line: date, where, result, opponent, then columns 3 and 5 to 52 of the
-// season tables. By index 1..53.
-inline constexpr int kResultColumnCount = 53;
+// The results by game of a player or line: date, where, result, opponent, then all statistics. By index
+// from 1.
 inline constexpr int kResultOpponentColumn = 4;
+[[nodiscard]] inline int resultColumnCount() {
+  return kResultOpponentColumn + static_cast<int>(statistics().size());
+}
 // The game as a row of the season tables, without names: what fills the columns they share.
 [[nodiscard]] SeasonRow rowOfResult(const GameResult& result);
 // The season column of a result column; 0 for the first four.

@@ -29,6 +29,15 @@ QString opponentOf(const GameCatalogue& catalogue, const ListedGame& game, int s
   return toQt(catalogue.teams()[game.team[1 - side]].name);
 }
 
+Unit unitOf(ValueKind kind) {
+  switch (kind) {
+  case ValueKind::Count: break;
+  case ValueKind::Time: return Unit::Time;
+  case ValueKind::Percent: return Unit::Percent;
+  }
+  return Unit::Count;
+}
+
 } // namespace
 
 SeriesWithToolTips pictureOfStatistic(const SeasonPerson& person, int column, const Settings& settings,
@@ -39,9 +48,7 @@ SeriesWithToolTips pictureOfStatistic(const SeasonPerson& person, int column, co
   SeriesDrawing& drawing = picture.drawing;
   const QString name = statisticName(column, settings, texts, person.season->statistics().labels());
   drawing.title = toQt(person.row.number) + u' ' + toQt(person.row.name) + QStringLiteral(" – ") + name;
-  drawing.unit = column == kTimeColumn                      ? Unit::Time
-                 : seasonColumn(column).name.ends_with('%') ? Unit::Percent
-                                                            : Unit::Count;
+  drawing.unit = unitOf(seasonColumn(column).statistic->kind);
   drawing.average = series.average;
   if (series.average)
     drawing.averageText = averageText(*series.average, drawing.unit, texts);

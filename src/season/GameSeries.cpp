@@ -6,7 +6,7 @@ namespace hooptab {
 
 namespace {
 
-std::optional<double> quotient(const SeasonValue& value) {
+std::optional<double> quotient(const StatisticValue& value) {
   if (value.denominator <= 0)
     return std::nullopt;
   return static_cast<double>(value.numerator) / static_cast<double>(value.denominator);
@@ -16,9 +16,9 @@ std::optional<double> quotient(const SeasonValue& value) {
 
 GameSeries seriesOfStatistic(std::span<const GameResult> results, int column) {
   GameSeries series;
-  SeasonValue sum = {0, 0};
+  StatisticValue sum = {0, 0};
   for (const GameResult& result : results) {
-    const SeasonValue value = seasonValue(rowOfResult(result), column, SeasonView::Totals);
+    const StatisticValue value = seasonValue(rowOfResult(result), column, SeasonView::Totals);
     series.points.push_back({result.game, quotient(value)});
     sum.numerator += value.numerator;
     sum.denominator += value.denominator; // one for each game, or the attempts of a percentage

@@ -8,21 +8,15 @@ namespace hooptab {
 
 namespace {
 
-// What one leads in: everything but attempts.
-constexpr std::string_view kStatistics[] = {"Time", "PF",  "TF",  "rating", "TGM", "%",   "PTS", "F2M",
-                                            "F2%",  "F3M", "F3%", "FTM",    "FT%", "FGM", "FG%", "LLM",
-                                            "LL%",  "LRM", "LR%", "PBM",    "PB%", "DKM", "DK%", "Ast",
-                                            "BS",   "ST",  "TO",  "OR",     "DR",  "TR",  "U1",  "U2"};
-
 struct Candidate {
   const SeasonRow* row;
-  SeasonValue value; // denominator above 0
+  StatisticValue value; // denominator above 0
 };
 
-bool isGreater(const SeasonValue& left, const SeasonValue& right) {
+bool isGreater(const StatisticValue& left, const StatisticValue& right) {
   return left.numerator * right.denominator > right.numerator * left.denominator;
 }
-bool isEqual(const SeasonValue& left, const SeasonValue& right) {
+bool isEqual(const StatisticValue& left, const StatisticValue& right) {
   return !isGreater(left, right) && !isGreater(right, left);
 }
 
@@ -43,7 +37,7 @@ StatisticLeaders leadersOf(int column, std::span<const SeasonRow> rows, SeasonVi
                            const Qualification& minimum) {
   std::vector<Candidate> candidates;
   for (const SeasonRow& row : rows) {
-    const SeasonValue value = seasonValue(row, column, view);
+    const StatisticValue value = seasonValue(row, column, view);
     const bool hasTime = !isPerTime(view) || row.numbers.seconds > 0;
     if (value.numerator > 0 && hasTime && minimum.isMet(row, column, view))
       candidates.push_back({&row, value});
@@ -51,7 +45,7 @@ StatisticLeaders leadersOf(int column, std::span<const SeasonRow> rows, SeasonVi
   if (candidates.size() > Leaders::kShown) { // a season has thousands of players
     const auto last = candidates.begin() + (Leaders::kShown - 1);
     std::ranges::nth_element(candidates, last, leadsBefore);
-    const SeasonValue least = last->value;
+    const StatisticValue least = last->value;
     std::erase_if(candidates, [&](const Candidate& each) { return isGreater(least, each.value); });
   }
   std::ranges::sort(candidates, leadsBefore);
@@ -68,11 +62,10 @@ StatisticLeaders leadersOf(int column, std::span<const SeasonRow> rows, SeasonVi
 
 Leaders::Leaders(std::span<const SeasonRow> rows, SeasonView view, const Texts& texts,
                  const Qualification& minimum) {
-  for (const std::string_view name : kStatistics) {
-    const int column = seasonColumn(name).index;
-    if (column == kTimeColumn && isPerTime(view))
+  for (const Statistic& statistic : hooptab::statistics()) {
+    if (!statistic.hasLeaders() || (statistic.kind == ValueKind::Time && isPerTime(view)))
       continue; // everybody plays a minute a minute
-    m_statistics.push_back(leadersOf(column, rows, view, texts, minimum));
+    m_statistics.push_back(leadersOf(statistic.seasonColumn, rows, view, texts, minimum));
   }
 }
 

@@ -139,9 +139,9 @@ void PersonPanel::showStatistics() {
   const QSignalBlocker quiet(m_statistic);
   const QVariant chosen = m_statistic->count() == 0 ? seasonColumn("PTS").index : m_statistic->currentData();
   m_statistic->clear();
-  m_statistic->addItem(statisticName(kTimeColumn, m_settings, m_texts), kTimeColumn);
-  for (int column = kFirstCountColumn; column <= kLastCountColumn; ++column)
-    m_statistic->addItem(statisticName(column, m_settings, m_texts, labels), column);
+  for (const Statistic& statistic : statistics())
+    m_statistic->addItem(statisticName(statistic.seasonColumn, m_settings, m_texts, labels),
+                         statistic.seasonColumn);
   m_statistic->setCurrentIndex(m_statistic->findData(chosen));
 }
 

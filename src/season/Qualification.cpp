@@ -9,8 +9,8 @@ constexpr std::int64_t kSecondsPerMinute = 60;
 } // namespace
 
 bool Qualification::isMet(const SeasonRow& row, int column, SeasonView view) const {
-  if (const int ofKind = attemptsColumnOf(column); ofKind != 0) {
-    const std::int64_t tried = seasonValue(row, ofKind, SeasonView::Totals).numerator;
+  if (const Statistic& led = *seasonColumn(column).statistic; led.isShotPart(ShotPart::Percent)) {
+    const std::int64_t tried = led.value(row.numbers).denominator;
     return tried >= std::int64_t{attempts} * row.teamGames;
   }
   return !isUnder(row, SeasonTable::Players, view);

@@ -1,7 +1,5 @@
 #include "season/Records.h"
 
-#include "storage/Module1.h"
-
 namespace hooptab {
 
 namespace {
@@ -23,7 +21,7 @@ constexpr std::array<Row, Records::kCount> kRows = {{
 std::string Record::text() const {
   if (value == 0)
     return {};
-  return column == kTimeColumn ? Module1::clockText(value) : std::to_string(value);
+  return valueText({value}, seasonColumn(column).statistic->kind);
 }
 
 Records::Records() {

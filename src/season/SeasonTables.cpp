@@ -1,6 +1,8 @@
 #include "season/SeasonTables.h"
 
 #include "appearance/relabel.h"
+#include "game/TableKinds.h"
+#include "scorecard/ColumnWords.h"
 #include "season/SeasonDesk.h"
 #include "season/SeasonWords.h"
 #include "storage/Module1.h"
@@ -17,21 +19,21 @@ const SeasonRow& rowOf(const Season& season, SeasonTable kind, int row) {
 }
 
 // The longest text that a column of numbers is likely to hold.
-QString longestText(const SeasonColumn& column, SeasonView view) {
-  if (column.index == kTimeColumn)
-    return QStringLiteral("00000:00");
-  if (column.name.ends_with('%'))
-    return QStringLiteral("100.0%");
-  if (column.index < kFirstCountColumn || column.index > kLastCountColumn)
+QString longestText(const Statistic* statistic, SeasonView view) {
+  if (statistic == nullptr)
     return QStringLiteral("000");
+  switch (statistic->kind) {
+  case ValueKind::Time: return QStringLiteral("00000:00");
+  case ValueKind::Percent: return QStringLiteral("100.0%");
+  case ValueKind::Count: break;
+  }
   return view == SeasonView::Totals ? QStringLiteral("00000") : QStringLiteral("00.00");
 }
 
 // Groups of four, so that their equal "PTS" headers stay apart: every other one is tinted.
-bool isShaded(int column) {
-  constexpr int kFirst = 8;
-  constexpr int kLast = 43;
-  return column >= kFirst && column <= kLast && (column - kFirst) / 4 % 2 == 0;
+bool isShaded(const Statistic* statistic) {
+  return statistic != nullptr && statistic->group != nullptr &&
+         (statistic->group - shotGroups().data()) % 2 == 0;
 }
 
 TableColumn columnOf(int index, SeasonTable kind, SeasonView view, const Settings& settings,
@@ -44,9 +46,13 @@ TableColumn columnOf(int index, SeasonTable kind, SeasonView view, const Setting
   shown.isText = seasonColumnIsText(index);
   shown.isLeftAligned = column.isLeftAligned;
   if (!shown.isText && !shown.isLeftAligned)
-    shown.longest = longestText(column, view);
+    shown.longest = longestText(column.statistic, view);
+  if (column.statistic != nullptr)
+    shown.kind = tableKind(column.statistic->kind);
+  else if (!shown.isText && !shown.isLeftAligned)
+    shown.kind = TableKind::Number;
   shown.isHidden = column.widthTwips == 0;
-  shown.isShaded = isShaded(index);
+  shown.isShaded = isShaded(column.statistic);
   shown.isBold = column.name == "PTS";
   shown.name = toQt(column.name);
   return shown;
@@ -64,7 +70,18 @@ TableColumn numberColumn(const QString& header, const QString& longest = QString
   TableColumn column;
   column.header = header;
   column.longest = longest;
+  column.kind = TableKind::Number;
   return column;
+}
+
+// The season column at a place of the window's table; 0 for the team, which stands last.
+int seasonColumnAt(SeasonTable table, int place) {
+  const std::vector<int>& columns = seasonTableColumns(table);
+  return place < static_cast<int>(columns.size()) ? columns[static_cast<std::size_t>(place)] : 0;
+}
+
+TableKind kindOf(int column) {
+  return tableKind(seasonColumn(column).statistic->kind);
 }
 
 const StatisticLeaders& leadersAt(const Season& season, SeasonView view, std::size_t statistic) {
@@ -74,9 +91,7 @@ const StatisticLeaders& leadersAt(const Season& season, SeasonView view, std::si
 } // namespace
 
 QString statisticName(int column, const Settings& settings, const Texts& texts, const OwnLabels& labels) {
-  if (column == seasonColumn("rating").index) // its words are the whole formula
-    return caption(texts, Text::RatingCapital);
-  QString words = toQt(seasonColumnWords(column, settings, texts, labels));
+  QString words = toQt(statisticTitle(*seasonColumn(column).statistic, labels, settings, texts));
   words.front() = words.front().toUpper();
   return words;
 }
@@ -92,8 +107,10 @@ std::vector<TableColumn> gameListColumns(const Texts& texts) {
     shown.isHidden = column.widthTwips == 0;
     if (column.index == 1)
       shown.longest = QStringLiteral("0000-00-000000"); // with the mark of one that cannot be right
-    else if (!shown.isText)
+    else if (!shown.isText) {
       shown.longest = QStringLiteral("0000");
+      shown.kind = TableKind::Number;
+    }
   }
   return columns;
 }
@@ -144,8 +161,7 @@ std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view, c
                                             const Settings& settings, const Texts& texts) {
   const OwnLabels labels = season == nullptr ? OwnLabels() : season->statistics().labels();
   std::vector<TableColumn> columns;
-  for (int index = 1; index <= (kind == SeasonTable::Lines ? kSeasonLineColumnCount : kSeasonColumnCount);
-       ++index)
+  for (const int index : seasonTableColumns(kind))
     columns.push_back(columnOf(index, kind, view, settings, texts, labels));
   TableColumn& team = columns.emplace_back(textColumn(caption(texts, Text::Team)));
   team.name = QStringLiteral("Team");
@@ -164,17 +180,18 @@ TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind
   };
   rows.text = [season, kind, view, isMarked = rows.isMuted, &texts](int row, int column) -> QString {
     const SeasonRow& shown = rowOf(*season, kind, row);
-    if (column == (kind == SeasonTable::Lines ? kSeasonLineColumnCount : kSeasonColumnCount))
+    const int shownColumn = seasonColumnAt(kind, column);
+    if (shownColumn == 0)
       return toQt(season->catalogue().teams()[shown.team].key);
-    QString text = toQt(seasonCell(shown, column + 1, view, texts));
-    return column + 1 == kNameColumn && isMarked(row) ? text + QStringLiteral(" *") : text;
+    QString text = toQt(seasonCell(shown, shownColumn, view, texts));
+    return shownColumn == kNameColumn && isMarked(row) ? text + QStringLiteral(" *") : text;
   };
   // Names without their mark; a season has tens of thousands of lines, whose jerseys sort faster than names.
   rows.sortText = [season, kind, text = rows.text](int row, int column) -> QString {
     return column + 1 == kNameColumn ? toQt(rowOf(*season, kind, row).name) : text(row, column);
   };
   rows.sortValue = [season, kind, view](int row, int column) {
-    return seasonSortValue(rowOf(*season, kind, row), column + 1, view);
+    return seasonSortValue(rowOf(*season, kind, row), seasonColumnAt(kind, column), view);
   };
   rows.toolTip = [season, kind, &texts](int row) -> QString {
     const SeasonRow& shown = rowOf(*season, kind, row);
@@ -214,12 +231,17 @@ TableRows firstLeaderRows(std::shared_ptr<const Season> season, SeasonView view,
                : seasonSortValue(*leader->row, leadersAt(*season, view, static_cast<std::size_t>(row)).column,
                                  view);
   };
+  rows.kind = [season, view](int row, int column) {
+    return column == 2 ? kindOf(leadersAt(*season, view, static_cast<std::size_t>(row)).column)
+                       : TableKind::Text;
+  };
   return rows;
 }
 
 std::vector<TableColumn> leaderColumns(const Texts& texts) {
   TableColumn jersey = numberColumn(QStringLiteral("No"), QStringLiteral("000"));
   jersey.isLeftAligned = true;
+  jersey.kind = TableKind::Text;
   TableColumn value = numberColumn(caption(texts, Text::Value), QStringLiteral("0000:00"));
   value.isBold = true;
   return {numberColumn(QStringLiteral("#"), QStringLiteral("000")),
@@ -257,6 +279,13 @@ TableRows leaderRows(std::shared_ptr<const Season> season, SeasonView view, std:
     default: return seasonSortValue(*shown.row, leadersAt(*season, view, statistic).column, view);
     }
   };
+  const TableKind valueKind = kindOf(leadersAt(*season, view, statistic).column);
+  rows.kind = [valueKind](int, int column) {
+    constexpr int kValueColumn = 5;
+    return column == kValueColumn       ? valueKind
+           : column == 0 || column == 4 ? TableKind::Number
+                                        : TableKind::Text;
+  };
   rows.toolTip = [&texts](int) { return caption(texts, Text::OpensPerson); };
   return rows;
 }
@@ -279,13 +308,16 @@ TableRows recordRows(std::shared_ptr<const SeasonPerson> person) {
     return column == 0 ? toQt(shown.what) : column == 1 ? toQt(shown.text()) : toQt(shown.where);
   };
   rows.sortValue = [record](int row, int) -> double { return record(row).value; };
+  rows.kind = [record](int row, int column) {
+    return column == 1 ? kindOf(record(row).column) : TableKind::Text;
+  };
   return rows;
 }
 
 std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& texts,
                                        const OwnLabels& labels) {
   std::vector<TableColumn> columns;
-  for (int index = 1; index <= kResultColumnCount; ++index) {
+  for (int index = 1; index <= resultColumnCount(); ++index) {
     const int shared = seasonColumnOfResult(index);
     if (shared != 0) {
       columns.push_back(columnOf(shared, SeasonTable::Players, SeasonView::Totals, settings, texts, labels));

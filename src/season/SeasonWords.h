@@ -11,7 +11,7 @@ namespace hooptab {
 
 // What the games call the user's own two statistics; empty: as the settings do.
 using OwnLabels = std::array<std::string, 2>;
-// `column` is a creation index, 1..55.
+// `column` is a creation index.
 [[nodiscard]] std::string seasonColumnWords(int column, const Settings& settings, const Texts& texts,
                                             const OwnLabels& labels = {});
 

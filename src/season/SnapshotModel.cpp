@@ -126,6 +126,7 @@ QVariant SnapshotModel::data(const QModelIndex& index, int role) const {
   case kSortRole:
     return shown.isText ? QVariant(m_rows.text(row, index.column()))
                         : QVariant(m_rows.sortValue(row, index.column()));
+  case kTableKindRole: return static_cast<int>(m_rows.kind ? m_rows.kind(row, index.column()) : shown.kind);
   case Qt::ToolTipRole: {
     if (m_rows.toolTip) {
       if (const QString own = m_rows.toolTip(row); !own.isEmpty())

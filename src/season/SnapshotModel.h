@@ -22,6 +22,7 @@ struct TableColumn {
   bool isShaded = false; // tinted, to tell groups of columns apart
   bool isBold = false;
   QString name = {}; // unique in its table, for files; empty: the header
+  TableKind kind = TableKind::Text;
 };
 
 // Rows and columns count from 0. What a function refers to must live as long as the model shows it.
@@ -29,6 +30,8 @@ struct TableRows {
   int count = 0;
   std::function<QString(int row, int column)> text;
   std::function<double(int row, int column)> sortValue = {}; // of columns that are no text
+  // Of columns that hold now one, now another; else the column's.
+  std::function<TableKind(int row, int column)> kind = {};
   // Of columns of text, where they do not sort by what they show.
   std::function<QString(int row, int column)> sortText = {};
   std::function<bool(int row)> isMuted = {};

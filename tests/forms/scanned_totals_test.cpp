@@ -4,6 +4,7 @@
 #include "game/GameFile.h"
 #include "support/TextGame.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string_view>
 

@@ -128,7 +128,7 @@ TEST_F(ScorecardWindowTest, ShowsTheGameAsItIs) {
 
 TEST_F(ScorecardWindowTest, TheColumnsStandInTheirDisplayOrder) {
   const QHeaderView& header = *table(0).horizontalHeader();
-  for (int place = 0; place < kBoxColumnCount; ++place)
+  for (int place = 0; place < boxColumnCount(); ++place)
     EXPECT_EQ(header.logicalIndex(place), boxDisplayOrder()[static_cast<std::size_t>(place)] - 1) << place;
   EXPECT_TRUE(table(0).isColumnHidden(kTimeSortColumn - 1));
   EXPECT_FALSE(table(0).isColumnHidden(kFieldGoalsMade));
@@ -147,7 +147,7 @@ TEST_F(ScorecardWindowTest, TheTotalStaysLastWhateverTheSort) {
     window->setByLine(view == 1);
     const QAbstractItemModel& rows = *table(view).model();
     const int last = rows.rowCount() - 1;
-    for (int column = 0; column < kBoxColumnCount; ++column) {
+    for (int column = 0; column < boxColumnCount(); ++column) {
       for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
         table(view).sortByColumn(column, order);
         EXPECT_TRUE(rows.index(last, 0).data(BoxScoreModel::TotalRole).toBool())
@@ -401,7 +401,7 @@ TEST_F(ScorecardWindowTest, AnotherLanguageChangesThreeHeadersAndTheWords) {
   const QAbstractItemModel& rows = *table(0).model();
   const auto headers = [&] {
     QStringList result;
-    for (int column = 0; column < kBoxColumnCount; ++column)
+    for (int column = 0; column < boxColumnCount(); ++column)
       result << rows.headerData(column, Qt::Horizontal).toString();
     return result;
   };
@@ -414,7 +414,7 @@ TEST_F(ScorecardWindowTest, AnotherLanguageChangesThreeHeadersAndTheWords) {
   window->relabelWindow();
   const QStringList french = headers();
   QList<int> changed;
-  for (int column = 0; column < kBoxColumnCount; ++column) {
+  for (int column = 0; column < boxColumnCount(); ++column) {
     if (english[column] != french[column])
       changed << column + 1;
   }

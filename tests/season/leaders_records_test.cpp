@@ -125,7 +125,7 @@ TEST(Records, KeepTheBestAndSayWhereItWasReachedLast) {
     row += resultHeader(column, texts) + "=" + resultCell(statistics.catalogue(), results[1], column, texts) +
            "|";
   EXPECT_EQ(row, "Date=2026-01-02|Where=Away|Results=W 3-0|Opponent=Olympians|Time=01:30|PF=0|TF=0|Rat.=3|");
-  EXPECT_EQ(seasonColumnOfResult(kResultColumnCount), kLastCountColumn);
+  EXPECT_EQ(seasonColumnOfResult(resultColumnCount()), countColumns().back());
   const SeasonRow& line = *rowOf(statistics.lines(), "4-5-10-12-15");
   const std::vector<GameResult> ofLine = statistics.resultsOfLine(line.id);
   ASSERT_EQ(ofLine.size(), 4U);
