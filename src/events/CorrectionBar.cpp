@@ -29,8 +29,8 @@ bool isModifier(int key) {
 
 } // namespace
 
-CorrectionBar::CorrectionBar(LiveGame& game, const Texts& texts, QWidget* parent)
-    : QFrame(parent), m_game(game), m_texts(texts), m_words(new ElidedLabel(this)) {
+CorrectionBar::CorrectionBar(GameSession& session, const Texts& texts, QWidget* parent)
+    : QFrame(parent), m_session(session), m_texts(texts), m_words(new ElidedLabel(this)) {
   setObjectName(QStringLiteral("picCORRECTION"));
   setAutoFillBackground(true);
   m_words->setObjectName(QStringLiteral("lblCORRECTION"));
@@ -47,9 +47,12 @@ CorrectionBar::CorrectionBar(LiveGame& game, const Texts& texts, QWidget* parent
   m_enough = makeButton("cmdENOUGH", Text::EnoughFouls);
   connect(m_made, &QToolButton::pressed, this, &CorrectionBar::toggleMade);
   connect(m_three, &QToolButton::pressed, this, &CorrectionBar::toggleThree);
-  connect(m_adapt, &QToolButton::pressed, this, [this] { afterStep(m_correction.decide(Remedy::Adapt)); });
-  connect(m_delete, &QToolButton::pressed, this, [this] { afterStep(m_correction.decide(Remedy::Delete)); });
-  connect(m_keep, &QToolButton::pressed, this, [this] { afterStep(m_correction.decide(Remedy::Keep)); });
+  connect(m_adapt, &QToolButton::pressed, this,
+          [this] { step([this] { return m_correction.decide(Remedy::Adapt); }); });
+  connect(m_delete, &QToolButton::pressed, this,
+          [this] { step([this] { return m_correction.decide(Remedy::Delete); }); });
+  connect(m_keep, &QToolButton::pressed, this,
+          [this] { step([this] { return m_correction.decide(Remedy::Keep); }); });
   connect(m_enough, &QToolButton::pressed, this, &CorrectionBar::end);
   m_end.setSingleShot(true);
   m_end.setInterval(kShown);
@@ -74,7 +77,7 @@ QToolButton* CorrectionBar::makeButton(const char* name, Text text) {
 }
 
 bool CorrectionBar::begin(const EventPlace& event) {
-  if (!m_correction.begin(m_game, event))
+  if (!m_correction.begin(*m_session.change(), event))
     return false;
   showStep();
   return true;
@@ -92,30 +95,33 @@ void CorrectionBar::end() {
 bool CorrectionBar::takePlayer(int team, int player) {
   if (!isActive() || player == 0)
     return false;
-  afterStep(m_correction.takePlayer({team, player}));
+  step([&] { return m_correction.takePlayer({team, player}); });
   return true;
 }
 
 void CorrectionBar::toggleMade() {
   if (isActive())
-    afterStep(m_correction.toggleMade());
+    step([this] { return m_correction.toggleMade(); });
 }
 
 void CorrectionBar::toggleThree() {
   if (isActive())
-    afterStep(m_correction.toggleThree());
+    step([this] { return m_correction.toggleThree(); });
 }
 
 // A step that was taken shows what the event is now; the next one may follow.
-void CorrectionBar::afterStep(Outcome outcome) {
-  if (outcome == Outcome::Changed)
-    emit changed();
+void CorrectionBar::step(const std::function<Outcome()>& take) {
+  {
+    const auto change = m_session.change();
+    (void)take();
+  }
   showStep();
 }
 
 // Whose it is has been answered: the digits that follow are the next event's.
-void CorrectionBar::afterNumber(Outcome outcome) {
-  afterStep(outcome);
+void CorrectionBar::number(const std::function<Outcome()>& take) {
+  Outcome outcome{};
+  step([&] { return outcome = take(); });
   if (outcome == Outcome::Changed || outcome == Outcome::Same)
     end();
 }
@@ -161,12 +167,12 @@ void CorrectionBar::relabelBar() {
 
 bool CorrectionBar::takeKey(int key) {
   if (key >= Qt::Key_0 && key <= Qt::Key_9) {
-    afterNumber(m_correction.type(key - Qt::Key_0));
+    number([&] { return m_correction.type(key - Qt::Key_0); });
     return true;
   }
   switch (key) {
   case Qt::Key_Return:
-  case Qt::Key_Enter: afterNumber(m_correction.enter()); return true;
+  case Qt::Key_Enter: number([this] { return m_correction.enter(); }); return true;
   case Qt::Key_Backspace:
     m_correction.takeBackDigit();
     showStep();

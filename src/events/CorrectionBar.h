@@ -4,6 +4,7 @@
 #pragma once
 
 #include "recording/EventCorrection.h"
+#include "recording/GameSession.h"
 
 #include <QFrame>
 #include <QTimer>
@@ -20,7 +21,7 @@ class CorrectionBar : public QFrame {
   Q_OBJECT
  public:
   // Both must outlive it.
-  CorrectionBar(LiveGame& game, const Texts& texts, QWidget* parent);
+  CorrectionBar(GameSession& session, const Texts& texts, QWidget* parent);
   ~CorrectionBar() override;
 
   // False where such an event cannot be corrected.
@@ -39,7 +40,6 @@ class CorrectionBar : public QFrame {
   void relabelBar(); // behind relabel(), and for other colours
 
  signals:
-  void changed(); // the game
   void closed();
 
  protected:
@@ -47,12 +47,12 @@ class CorrectionBar : public QFrame {
 
  private:
   QToolButton* makeButton(const char* name, Text text);
-  void afterStep(EventCorrection::Outcome outcome);
-  void afterNumber(EventCorrection::Outcome outcome);
+  void step(const std::function<EventCorrection::Outcome()>& take);
+  void number(const std::function<EventCorrection::Outcome()>& take);
   bool takeKey(int key);
   void showStep();
 
-  LiveGame& m_game;
+  GameSession& m_session;
   const Texts& m_texts;
   EventCorrection m_correction;
   std::function<bool(const QWidget&)> m_isPlayer;

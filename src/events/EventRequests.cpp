@@ -8,16 +8,16 @@
 
 namespace hooptab {
 
-EventRequests::EventRequests(LiveGame& game, LiveEventPanel& panel, const Settings& settings,
+EventRequests::EventRequests(GameSession& session, LiveEventPanel& panel, const Settings& settings,
                              const Texts& texts, Dialogs& dialogs, QWidget& window)
-    : QObject(&window), m_game(game), m_panel(panel), m_settings(settings), m_texts(texts),
+    : QObject(&window), m_session(session), m_panel(panel), m_settings(settings), m_texts(texts),
       m_dialogs(dialogs), m_window(window) {
   connect(&panel, &LiveEventPanel::undoAsked, this, [this] { takeBack(&LiveGame::undo); });
   connect(&panel, &LiveEventPanel::redoAsked, this, [this] { takeBack(&LiveGame::redo); });
   connect(&panel, &LiveEventPanel::deleteAsked, this,
           [this](const std::vector<EventPlace>& events, bool isDeleted) {
-            m_game.writePending(); // what is planned comes behind it
-            take(m_game.editing().deletion(events, isDeleted));
+            m_session.change()->writePending(); // what is planned comes behind it
+            take(game().editing().deletion(events, isDeleted));
           });
   connect(&panel, &LiveEventPanel::editAsked, this, &EventRequests::change);
   connect(&panel, &LiveEventPanel::timeAsked, this,
@@ -27,12 +27,10 @@ EventRequests::EventRequests(LiveGame& game, LiveEventPanel& panel, const Settin
   });
   connect(&panel, &LiveEventPanel::substitutionAsked, this, &EventRequests::askWho);
   connect(&panel, &LiveEventPanel::acceptAsked, this, [this](const EventPlace& event, int finding) {
-    m_game.acceptFinding(event, finding);
-    emit gameChanged();
+    m_session.change()->acceptFinding(event, finding);
   });
   connect(&panel, &LiveEventPanel::doubtAsked, this, [this](const EventPlace& event, bool isDoubtful) {
-    m_game.setDoubtful(event, isDoubtful);
-    emit gameChanged();
+    m_session.change()->setDoubtful(event, isDoubtful);
   });
 }
 
@@ -41,22 +39,19 @@ void EventRequests::putIn(const EventPlace& event, int team, int player) {
 }
 
 void EventRequests::take(const EditPlan& plan) {
-  const bool isTaken = m_game.take(plan);
-  emit gameChanged();
-  if (isTaken)
+  if (m_session.change()->take(plan))
     return;
   QString words = caption(m_texts, Text::DoesNotFit);
   if (plan.conflict)
-    words += QStringLiteral("\n\n") + toQt(wordsOf(*plan.conflict, m_game.game(), m_texts));
+    words += QStringLiteral("\n\n") + toQt(wordsOf(*plan.conflict, game().game(), m_texts));
   m_dialogs.warn(&m_window, caption(m_texts, Text::WarningTitle), words);
 }
 
 void EventRequests::takeBack(bool (LiveGame::*step)()) {
-  m_game.writePending();
-  const std::optional<LiveAction> undone = m_game.toUndo();
+  m_session.change()->writePending();
+  const std::optional<LiveAction> undone = game().toUndo();
   const bool isStart = step == &LiveGame::undo && undone && undone->start;
-  const bool isDone = (m_game.*step)();
-  emit gameChanged();
+  const bool isDone = (*m_session.change().*step)();
   m_panel.leaveDeleted();
   if (isStart && isDone)
     emit startTakenBack();
@@ -64,7 +59,7 @@ void EventRequests::takeBack(bool (LiveGame::*step)()) {
 
 // Of a substitution who goes in and out, of anything else what frmEDIT can change.
 void EventRequests::change(const EventPlace& event) {
-  const LiveLog& log = m_game.log();
+  const LiveLog& log = game().log();
   if (isSubstitution(log.lines(), event.period, event.key, log.rosters()))
     askWho({PastSubstitution::What::Change, event}, 0, 0);
   else
@@ -72,14 +67,14 @@ void EventRequests::change(const EventPlace& event) {
 }
 
 void EventRequests::ask(const EventPlace& event, frmEDIT::Purpose purpose, LiveGame::Where where) {
-  frmEDIT window(m_game, event, purpose, m_settings, m_texts, &m_window);
+  frmEDIT window(game(), event, purpose, m_settings, m_texts, &m_window);
   connect(&window, &frmEDIT::clockAsked, this, &EventRequests::clockAsked);
   if (window.exec() != QDialog::Accepted)
     return;
-  m_game.writePending(); // what is planned comes behind it
+  m_session.change()->writePending(); // what is planned comes behind it
   const auto counted = window.counted();
   const int clock = window.clockSeconds();
-  const GameEditing editing = m_game.editing();
+  const GameEditing editing = game().editing();
   if (!counted)
     take(editing.newTime(event, clock));
   else if (purpose == frmEDIT::Purpose::Change)
@@ -89,13 +84,13 @@ void EventRequests::ask(const EventPlace& event, frmEDIT::Purpose purpose, LiveG
 }
 
 void EventRequests::askWho(const PastSubstitution& past, int team, int player) {
-  auto* window = new frmSUBST(m_game, past, m_texts, &m_window);
+  auto* window = new frmSUBST(game(), past, m_texts, &m_window);
   window->setAttribute(Qt::WA_DeleteOnClose);
   if (player > 0)
     window->toggle(team, player);
   connect(window, &frmSUBST::clockAsked, this, &EventRequests::clockAsked);
   connect(window, &QDialog::accepted, this, [this, window] {
-    m_game.writePending();
+    m_session.change()->writePending();
     take(window->plan());
   });
   window->openBeside(m_panel);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "events/frmEDIT.h"
+#include "recording/GameSession.h"
 #include "recording/Substitution.h"
 
 #include <QObject>
@@ -20,25 +21,25 @@ class EventRequests : public QObject {
   Q_OBJECT
  public:
   // All must outlive it.
-  EventRequests(LiveGame& game, LiveEventPanel& panel, const Settings& settings, const Texts& texts,
+  EventRequests(GameSession& session, LiveEventPanel& panel, const Settings& settings, const Texts& texts,
                 Dialogs& dialogs, QWidget& window);
 
   // A forgotten substitution before an event, with who has to be in it.
   void putIn(const EventPlace& event, int team, int player);
 
  signals:
-  void gameChanged();
   void startTakenBack();
   void clockAsked(); // by its key, while a dialog is in front
 
  private:
   void take(const EditPlan& plan);
   void takeBack(bool (LiveGame::*step)());
+  [[nodiscard]] const LiveGame& game() const { return m_session.game(); }
   void change(const EventPlace& event);
   void ask(const EventPlace& event, frmEDIT::Purpose purpose, LiveGame::Where where);
   void askWho(const PastSubstitution& past, int team, int player);
 
-  LiveGame& m_game;
+  GameSession& m_session;
   LiveEventPanel& m_panel;
   const Settings& m_settings;
   const Texts& m_texts;

@@ -6,7 +6,6 @@
 #include "live/LiveNotices.h"
 #include "live/NowStrip.h"
 #include "recording/ForeignWords.h"
-#include "recording/LiveGame.h"
 #include "storage/Placeholders.h"
 
 #include <QFileInfo>
@@ -34,10 +33,11 @@ QLabel& makeStrip(QWidget& window) {
 
 } // namespace
 
-LiveFile::LiveFile(LiveGame& game, FileSystem& files, const Texts& texts, Dialogs& dialogs, NowStrip& now,
-                   LiveNotices& notices, QWidget& window)
-    : QObject(&window), m_game(game), m_texts(texts), m_dialogs(dialogs), m_now(now), m_notices(notices),
-      m_window(window), m_strip(makeStrip(window)), m_hold(*new GameHold(files, texts, dialogs, window)) {
+LiveFile::LiveFile(GameSession& session, FileSystem& files, const Texts& texts, Dialogs& dialogs,
+                   NowStrip& now, LiveNotices& notices, QWidget& window)
+    : QObject(&window), m_session(session), m_game(session.game()), m_texts(texts), m_dialogs(dialogs),
+      m_now(now), m_notices(notices), m_window(window), m_strip(makeStrip(window)),
+      m_hold(*new GameHold(files, texts, dialogs, window)) {
   m_retry.setInterval(kRetryInterval);
   connect(&m_retry, &QTimer::timeout, this, &LiveFile::look);
   connect(&m_hold, &GameHold::fileChanged, this, &LiveFile::look);
@@ -46,9 +46,9 @@ LiveFile::LiveFile(LiveGame& game, FileSystem& files, const Texts& texts, Dialog
 
 GameFileProblem LiveFile::open(const QString& path, GameLock lock) {
   const GameHold::Access access = m_hold.request(path, std::move(lock));
-  const GameFileProblem problem =
-      m_game.open(fromQt(QFileInfo(path).absoluteFilePath()),
-                  access == GameHold::Access::Ours ? LiveGame::Access::Recording : LiveGame::Access::Reading);
+  const GameFileProblem problem = m_session.change()->open(
+      fromQt(QFileInfo(path).absoluteFilePath()),
+      access == GameHold::Access::Ours ? LiveGame::Access::Recording : LiveGame::Access::Reading);
   if (problem != GameFileProblem::None) {
     m_hold.drop();
     return problem;
@@ -56,7 +56,7 @@ GameFileProblem LiveFile::open(const QString& path, GameLock lock) {
   m_hold.keep();
   m_isHeldElsewhere = access == GameHold::Access::HeldElsewhere;
   if (access == GameHold::Access::Ours) {
-    m_game.disk().setOwnership([this] { return m_hold.isStillOurs(); });
+    m_session.change()->disk().setOwnership([this] { return m_hold.isStillOurs(); });
     if (m_hold.lock().names() > 1)
       m_dialogs.inform(&m_window, toQt(m_texts.text(Text::WarningTitle)),
                        toQt(m_texts.withPlaceholder(Text::OtherNames, m_hold.lock().game())));
@@ -64,25 +64,20 @@ GameFileProblem LiveFile::open(const QString& path, GameLock lock) {
   return GameFileProblem::None;
 }
 
-void LiveFile::takeForeignHands() {
-  const std::string words = foreignWords(m_game.takeForeignHands(), m_texts);
+void LiveFile::tell(const ForeignHands& foreign) {
+  const std::string words = foreignWords(foreign, m_texts);
   if (!words.empty())
     m_notices.tellForeign(toQt(words));
 }
 
 // Also after this window's own writes: then it is as it was left, and nothing is shown anew.
 void LiveFile::look() {
-  if (m_game.phase() == LiveGame::Phase::ReadOnly) {
-    if (m_isHeldElsewhere &&
-        m_game.open(m_game.game().path, LiveGame::Access::Reading) == GameFileProblem::None)
-      emit changed();
-    return;
-  }
-  m_game.settle();
-  if (m_game.disk().hasForeignHands())
-    emit changed();
-  else
+  if (m_game.phase() != LiveGame::Phase::ReadOnly) {
+    m_session.change()->settle();
     show();
+  } else if (m_isHeldElsewhere) {
+    (void)m_session.change()->open(m_game.game().path, LiveGame::Access::Reading);
+  }
 }
 
 void LiveFile::show() {
@@ -114,7 +109,7 @@ void LiveFile::showStrip() {
 }
 
 bool LiveFile::mayLeave() {
-  if (m_game.settle())
+  if (m_session.change()->settle())
     return true;
   show();
   const std::string& rescued = m_game.disk().rescuedAs();

@@ -4,6 +4,7 @@
 
 #include "appearance/GameHold.h"
 #include "game/GameFile.h"
+#include "recording/GameSession.h"
 
 #include <QObject>
 #include <QTimer>
@@ -13,7 +14,6 @@ class QLabel;
 namespace hooptab {
 
 class Dialogs;
-class LiveGame;
 class LiveNotices;
 class NowStrip;
 class Texts;
@@ -22,13 +22,12 @@ class LiveFile : public QObject {
   Q_OBJECT
  public:
   // All must outlive it, but the strip that it shows above the window's parts.
-  LiveFile(LiveGame& game, FileSystem& files, const Texts& texts, Dialogs& dialogs, NowStrip& now,
+  LiveFile(GameSession& session, FileSystem& files, const Texts& texts, Dialogs& dialogs, NowStrip& now,
            LiveNotices& notices, QWidget& window);
 
   // On every problem what was open stays. A lock that was taken before is handed over.
   [[nodiscard]] GameFileProblem open(const QString& path, GameLock lock);
-  // Takes in what others wrote. Between two actions, when nothing refers to events that may move.
-  void takeForeignHands();
+  void tell(const ForeignHands& foreign); // what others wrote
   void show();
   // What waits is written, or the user lets it go.
   [[nodiscard]] bool mayLeave();
@@ -37,14 +36,14 @@ class LiveFile : public QObject {
   [[nodiscard]] GameHold& hold() { return m_hold; }
 
  signals:
-  void changed(); // by others; show the game anew
-  void taken();   // from here on it is ours; open it once more
+  void taken(); // from here on it is ours; open it once more
 
  private:
   void look();
   void showStrip();
 
-  LiveGame& m_game;
+  GameSession& m_session;
+  const LiveGame& m_game;
   const Texts& m_texts;
   Dialogs& m_dialogs;
   NowStrip& m_now;

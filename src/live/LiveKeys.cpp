@@ -12,9 +12,10 @@
 
 namespace hooptab {
 
-LiveKeys::LiveKeys(LiveGame& game, const Settings& settings, const Texts& texts, FollowUpBar& followUp,
+LiveKeys::LiveKeys(GameSession& session, const Settings& settings, const Texts& texts, FollowUpBar& followUp,
                    QWidget& displayPlace, QWidget& window)
-    : QObject(&window), m_game(game), m_settings(settings), m_texts(texts), m_window(window) {
+    : QObject(&window), m_session(session), m_game(session.game()), m_settings(settings), m_texts(texts),
+      m_window(window) {
   m_display = new KeypadDisplay(&displayPlace);
   m_sheet = new KeySheet(texts, &window);
   followUp.setKeyReader([this](const QKeyEvent& event) { return followUpKey(event); });
@@ -150,7 +151,7 @@ void LiveKeys::carryOutOrder() {
   const KeypadOrder order = m_input.order();
   const bool isOnCourt = order.player == 0 || m_game.slotOf(order.team, order.player).has_value();
   const bool comesOrGoes = order.kind != KeypadOrder::Kind::Shot && order.kind != KeypadOrder::Kind::Action;
-  if (!carryOut(m_game, order))
+  if (!carryOut(*m_session.change(), order))
     return refuse(std::string(m_texts.text(Text::NothingRecorded)));
   std::string words = "✓ " + KeypadInput::words(order, m_game.game(), m_texts);
   if (!isOnCourt && !comesOrGoes)

@@ -6,6 +6,7 @@
 
 #include "events/FollowUpBar.h"
 #include "keypad/KeypadInput.h"
+#include "recording/GameSession.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -20,7 +21,7 @@ class LiveKeys : public QObject {
   Q_OBJECT
  public:
   // All must outlive it. The display lies over `displayPlace`.
-  LiveKeys(LiveGame& game, const Settings& settings, const Texts& texts, FollowUpBar& followUp,
+  LiveKeys(GameSession& session, const Settings& settings, const Texts& texts, FollowUpBar& followUp,
            QWidget& displayPlace, QWidget& window);
   ~LiveKeys() override;
 
@@ -47,7 +48,8 @@ class LiveKeys : public QObject {
   void carryOutOrder();
   void refuse(const std::string& why);
 
-  LiveGame& m_game;
+  GameSession& m_session;
+  const LiveGame& m_game;
   const Settings& m_settings;
   const Texts& m_texts;
   QWidget& m_window;

@@ -30,6 +30,7 @@
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QDateTime>
 #include <QDragEnterEvent>
@@ -62,8 +63,8 @@ constexpr auto kLockTick = 200ms;
 frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs, TimeSource& time,
                  QWidget* parent)
     : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_dialogs(dialogs),
-      m_game(store, time) {
-  m_game.disk().setRescueFolder(settings.folder());
+      m_session(store, time) {
+  m_session.change()->disk().setRescueFolder(settings.folder());
   setObjectName(QStringLiteral("frmLIVE"));
   setAcceptDrops(true);
   setFocusPolicy(Qt::StrongFocus); // so that the clock's key is ours from the start
@@ -86,16 +87,22 @@ frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialog
   layout->addWidget(m_now);
   m_card = new PeriodEndCard(m_texts, this);
   m_notices = new LiveNotices(m_texts, this);
-  m_file = new LiveFile(m_game, m_store.files(), m_texts, m_dialogs, *m_now, *m_notices, *this);
+  m_file = new LiveFile(m_session, m_store.files(), m_texts, m_dialogs, *m_now, *m_notices, *this);
   layout->insertWidget(0, &m_file->strip());
   m_followUp = new FollowUpBar(m_texts, this);
   m_benchShot = new BenchShot(m_settings, m_texts, this);
   // Each sees what comes from keyboard and mouse before those that were made before it.
-  m_keys = new LiveKeys(m_game, m_settings, m_texts, *m_followUp, *m_events, *this);
+  m_keys = new LiveKeys(m_session, m_settings, m_texts, *m_followUp, *m_events, *this);
   m_repeats = new RepeatedPress(*this);
   new HeldKeys(this);
-  m_requests = new EventRequests(m_game, *m_events, m_settings, m_texts, m_dialogs, *this);
+  m_requests = new EventRequests(m_session, *m_events, m_settings, m_texts, m_dialogs, *this);
   connectEverything();
+  m_listening = m_session.listen([this](const GameNews& news) { hear(news); });
+  // To where what is thrown in an event of the window goes.
+  m_session.onFailure([](const std::exception_ptr& failure) {
+    QMetaObject::invokeMethod(
+        qApp, [failure] { std::rethrow_exception(failure); }, Qt::QueuedConnection);
+  });
 }
 
 frmLIVE::~frmLIVE() = default;
@@ -132,7 +139,6 @@ QWidget* frmLIVE::makeSide() {
 
 void frmLIVE::connectEverything() {
   connect(&m_timer, &QTimer::timeout, this, &frmLIVE::tick);
-  connect(m_file, &LiveFile::changed, this, &frmLIVE::showGame);
   connect(m_file, &LiveFile::taken, this, [this] { (void)open(path()); });
   for (PlayerPanel* panel : m_panels->panels()) {
     connect(panel, &PlayerPanel::courtPressed, this, &frmLIVE::pressCourt);
@@ -141,41 +147,33 @@ void frmLIVE::connectEverything() {
     connect(panel, &PlayerPanel::actionPressed, this, &frmLIVE::act);
   }
   connect(m_score, &ScorePanel::startAsked, this, &frmLIVE::toggleClock);
-  connect(m_score, &ScorePanel::returnAsked, this, [this] { edit(&LiveGame::returnToEndedPeriod); });
+  connect(m_score, &ScorePanel::returnAsked, this, [this] { m_session.change()->returnToEndedPeriod(); });
   connect(m_sides, &SideSwitch::asked, this, &frmLIVE::switchSides);
   connect(m_score, &ScorePanel::periodAsked, this, [this](int period) {
-    m_game.setPeriod(period);
-    showGame();
+    m_session.change()->setPeriod(period);
+    showGame(); // also where it was refused
   });
   connect(m_score, &ScorePanel::clockAsked, this, [this](int seconds) {
-    m_game.setClock(seconds);
-    showGame();
+    m_session.change()->setClock(seconds);
+    showGame(); // also where it was refused
   });
   connect(m_notices, &LiveNotices::clockChosen, this, [this](int seconds) {
-    const LiveGame::Phase before = m_game.phase();
     m_offersClock = false;
-    if (!m_game.settleStop(seconds))
-      m_game.setClock(seconds); // it was stopped when the window was closed
-    afterClock(before);
+    const auto change = m_session.change();
+    if (!change->settleStop(seconds))
+      change->setClock(seconds); // it was stopped when the window was closed
   });
   connect(m_score, &ScorePanel::colourAsked, this, &frmLIVE::chooseColour);
   connect(m_bench, &BenchPanel::toggled, this, [this](int team, int player) {
     m_notices->message().withdraw();
-    m_game.toggleOnCourt(team, player);
-    showGame();
+    m_session.change()->toggleOnCourt(team, player);
   });
-  connect(m_bench, &BenchPanel::allOutAsked, this, [this](int team) {
-    m_game.takeAllOut(team);
-    showGame();
-  });
+  connect(m_bench, &BenchPanel::allOutAsked, this,
+          [this](int team) { m_session.change()->takeAllOut(team); });
   connect(m_bench, &BenchPanel::onCourtAsked, this, &frmLIVE::setOnCourt);
   connect(m_bench, &BenchPanel::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_bench, &BenchPanel::selected, this, &frmLIVE::showSelected);
   connect(m_bench, &BenchPanel::actionAsked, this, &frmLIVE::record);
-  connect(m_requests, &EventRequests::gameChanged, this, [this] {
-    m_notices->message().withdraw();
-    showGame();
-  });
   connect(m_requests, &EventRequests::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_requests, &EventRequests::startTakenBack, this, [this] { say(Text::StartTakenBack); });
   connect(m_sides, &SideSwitch::rowsStayAsked, this, [this](bool stay) {
@@ -242,7 +240,9 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   m_afterQuestion = {};
   m_followUp->dismiss();
   const qint64 fileTime = QFileInfo(path).lastModified().toSecsSinceEpoch();
+  m_isOpening = true;
   m_problem = m_file->open(path, std::move(lock));
+  m_isOpening = false;
   if (m_problem != GameFileProblem::None)
     return Opening::Problem;
   m_notices->forget();
@@ -274,7 +274,7 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
 }
 
 bool frmLIVE::writeCopy(const QString& path) {
-  return m_game.writeCopy(fromQt(path));
+  return m_session.change()->writeCopy(fromQt(path));
 }
 
 GameHold& frmLIVE::hold() const {
@@ -285,8 +285,18 @@ QString frmLIVE::path() const {
   return toQt(m_game.game().path);
 }
 
+void frmLIVE::hear(const GameNews& news) {
+  m_file->tell(news.foreign);
+  if (m_isOpening)
+    return;
+  if (!news.isOfGame())
+    return m_file->show();
+  if (!news.foreign.isTouched && (news.hasEvents() || news.phase || news.details))
+    m_notices->message().withdraw(); // what it was about is over
+  showGame();
+}
+
 void frmLIVE::showGame() {
-  m_file->takeForeignHands();
   m_panels->showGame(m_game);
   m_score->showGame(m_game);
   m_sides->showGame(m_game);
@@ -362,8 +372,7 @@ void frmLIVE::toggleClock() {
     return refuseClock(Text::PeriodJustEnded);
   if (before == LiveGame::Phase::OvertimeAsked)
     return askOvertime();
-  m_game.toggleClock();
-  afterClock(before);
+  m_session.change()->toggleClock();
   tellMissing();
 }
 
@@ -381,19 +390,8 @@ void frmLIVE::tell(const QString& words) {
 }
 
 void frmLIVE::tick() {
-  const LiveGame::Phase before = m_game.phase();
-  const bool wasPending = m_game.pending().has_value();
-  m_game.tick();
-  if (m_game.phase() == before && m_game.pending().has_value() == wasPending)
-    showTime();
-  else
-    afterClock(before);
-}
-
-void frmLIVE::afterClock(LiveGame::Phase before) {
-  if (m_game.phase() != before)
-    m_notices->message().withdraw(); // what it was about is over
-  showGame();
+  m_session.change()->tick();
+  showTime();
 }
 
 // The card comes with the end of a period, and goes when the next one begins.
@@ -414,8 +412,7 @@ void frmLIVE::askOvertime() {
   frmOVERTIME window(m_game.game().details, m_texts, this);
   if (window.exec() != QDialog::Accepted)
     return;
-  m_game.beginOvertime(window.minutes(), window.keepsFouls());
-  showGame();
+  m_session.change()->beginOvertime(window.minutes(), window.keepsFouls());
 }
 
 void frmLIVE::gameOver() {
@@ -425,29 +422,21 @@ void frmLIVE::gameOver() {
     if (!m_dialogs.ask(this, toQt(m_texts.text(Text::WarningTitle)),
                        toQt(m_texts.text(Text::GameOverInPlay))))
       return;
-    m_game.stop();
-    showGame();
+    m_session.change()->stop();
   }
   frmGAMEOVER window(m_game.game().details, m_texts, m_dialogs, this);
   window.exec();
   switch (window.choice()) {
   case frmGAMEOVER::Choice::None: break;
-  case frmGAMEOVER::Choice::Close: m_game.finish(window.notes()); break;
-  case frmGAMEOVER::Choice::Continue: m_game.saveNotes(window.notes()); break;
-  case frmGAMEOVER::Choice::Reopen: m_game.reopen(); break;
+  case frmGAMEOVER::Choice::Close: m_session.change()->finish(window.notes()); break;
+  case frmGAMEOVER::Choice::Continue: m_session.change()->saveNotes(window.notes()); break;
+  case frmGAMEOVER::Choice::Reopen: m_session.change()->reopen(); break;
   }
-  showGame();
 }
 
 void frmLIVE::setOnCourt(const OnCourt& onCourt) {
   m_notices->message().withdraw();
-  m_game.setOnCourt(onCourt);
-  showGame();
-}
-
-void frmLIVE::edit(bool (LiveGame::*step)()) {
-  (m_game.*step)();
-  showGame();
+  m_session.change()->setOnCourt(onCourt);
 }
 
 void frmLIVE::setKeypad(const KeypadSetup& setup) {
@@ -490,7 +479,7 @@ void frmLIVE::restoreArrangement(const QByteArray& arrangement) {
   const bool hasWindow = kept.contains(kEventsOpen);
   if (const qsizetype at = kept.indexOf(hasWindow ? kEventsOpen : kEventsClosed); at >= 0)
     m_events->restoreWindow(QByteArray::fromBase64(kept.value(at + 1)), hasWindow);
-  m_game.setKeepsPlaces(m_bench->placesStay());
+  m_session.change()->setKeepsPlaces(m_bench->placesStay());
   showSides();
 }
 
@@ -502,9 +491,8 @@ void frmLIVE::chooseColour(int team) {
       m_dialogs.chooseColour(this, toQt(m_texts.text(Text::SelectColour)), colourOf(colour));
   if (!chosen.isValid())
     return;
-  m_game.setTeamColour(team, storedColour(chosen));
+  m_session.change()->setTeamColour(team, storedColour(chosen));
   applyColours();
-  showGame();
 }
 
 // --- The window
@@ -555,8 +543,8 @@ void frmLIVE::dropEvent(QDropEvent* event) {
   m_bench->clearSelection(); // which the press that began the drag has made
   const int leaving = m_game.playerIn(*slot);
   if (leaving == 0) {
-    (void)m_game.putInSlot(*slot, player);
-    return showGame();
+    (void)m_session.change()->putInSlot(*slot, player);
+    return;
   }
   OnCourt wanted = m_game.onCourt();
   unsigned& entries = wanted[static_cast<std::size_t>(team)];
@@ -571,8 +559,7 @@ bool frmLIVE::mayClose() {
   if (isRunning() &&
       !m_dialogs.ask(this, toQt(m_texts.text(Text::WarningTitle)), toQt(m_texts.text(Text::CloseInPlay))))
     return false;
-  m_game.stopForClosing(QDateTime::currentSecsSinceEpoch());
-  showGame();
+  m_session.change()->stopForClosing(QDateTime::currentSecsSinceEpoch());
   return m_file->mayLeave();
 }
 

@@ -7,7 +7,7 @@
 #include "court/ZoneMap.h"
 #include "recording/EventCorrection.h"
 #include "recording/FollowUpQuestion.h"
-#include "recording/LiveGame.h"
+#include "recording/GameSession.h"
 #include "recording/ToggleGuard.h"
 #include "storage/GameLock.h"
 
@@ -56,9 +56,9 @@ class frmLIVE : public ChildWindow {
   enum class Opening { Opened, Refused, Problem };
   [[nodiscard]] Opening open(const QString& path, GameLock lock = {});
   // Whether the file is looked after; not while a new game may take its place.
-  void setWatching(bool isOn) { m_game.disk().setWatching(isOn); }
+  void setWatching(bool isOn) { m_session.change()->disk().setWatching(isOn); }
   bool writeCopy(const QString& path);
-  void writePending() { m_game.settle(); }
+  void writePending() { m_session.change()->settle(); }
   [[nodiscard]] GameHold& hold() const;
   GameFileProblem problem() const { return m_problem; } // after Problem
   QString path() const;
@@ -115,14 +115,13 @@ class frmLIVE : public ChildWindow {
   void refuseClock(Text text);
   void say(Text text);
   void setOnCourt(const OnCourt& onCourt);
-  void afterClock(LiveGame::Phase before);
+  void hear(const GameNews& news);
   void afterShot(int team, int player, EventCode kind, bool isMade);
   void offerToPutIn(const EventPlace& event, int team, int player);
   void askBenchShot(int team, int player, const QPoint& place);
   void shootFromBench(EventCode kind, bool isMade, std::optional<std::pair<double, double>> place);
   void markDoubtful();
   void showPeriodEnd();
-  void edit(bool (LiveGame::*step)());
   void askOvertime();
   void shoot(int slot, EventCode kind, bool isMade,
              std::optional<std::pair<double, double>> place = std::nullopt);
@@ -138,7 +137,10 @@ class frmLIVE : public ChildWindow {
   Settings& m_settings;
   const Texts& m_texts;
   Dialogs& m_dialogs;
-  LiveGame m_game;
+  GameSession m_session;
+  const LiveGame& m_game = m_session.game();
+  GameSession::Listening m_listening;
+  bool m_isOpening = false; // what is shown meanwhile is shown again
   GameFileProblem m_problem = GameFileProblem::None;
   bool m_isSwitched = false;
   bool m_rowsStay = false; // of panels, plates and benches, where the sides are switched

@@ -78,8 +78,6 @@ void frmLIVE::connectCard() {
 void frmLIVE::connectKeys() {
   connect(m_keys, &LiveKeys::clockPressed, this, &frmLIVE::toggleClock);
   connect(m_keys, &LiveKeys::recorded, this, [this](const KeypadOrder& order) {
-    m_notices->message().withdraw();
-    showGame();
     if (order.kind == KeypadOrder::Kind::Shot)
       afterShot(order.team, order.player, order.code, order.isMade);
   });
@@ -112,12 +110,11 @@ void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pa
   const int team = LiveGame::teamOf(slot);
   const int player = m_game.playerIn(slot);
   m_notices->message().withdraw(); // what it offers was about the event before
-  if (!m_game.recordShot(team, player, kind, isMade, place))
+  if (!m_session.change()->recordShot(team, player, kind, isMade, place))
     return;
   m_repeats->noteRecorded();
   if (m_bench->isSelected(team, player))
     m_bench->clearSelection();
-  showGame();
   afterShot(team, player, kind, isMade);
 }
 
@@ -166,18 +163,16 @@ void frmLIVE::askBenchShot(int team, int player, const QPoint& place) {
 void frmLIVE::shootFromBench(EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
   m_followUp->ignoreSecondPress(QCursor::pos());
   m_notices->message().withdraw();
-  if (!m_game.recordShot(m_benchTeam, m_benchPlayer, kind, isMade, place))
+  if (!m_session.change()->recordShot(m_benchTeam, m_benchPlayer, kind, isMade, place))
     return;
   m_bench->clearSelection();
-  showGame();
   afterShot(m_benchTeam, m_benchPlayer, kind, isMade);
 }
 
 void frmLIVE::followUp(const FollowUpQuestion::Answer& answer, EventCode kind) {
   const EventPlace shot = m_game.lastShot();
-  if (!m_game.recordFollowUp(answer.team, answer.player, kind))
+  if (!m_session.change()->recordFollowUp(answer.team, answer.player, kind))
     return;
-  showGame();
   if (answer.comesIn)
     m_requests->putIn(shot, answer.team, answer.player);
   else if (!answer.isOnCourt)
@@ -192,16 +187,15 @@ void frmLIVE::act(int slot, EventCode kind) {
 // A player is selected for one action: a finger that slips onto the button twice gives no second foul.
 bool frmLIVE::record(int team, int player, EventCode kind) {
   m_notices->message().withdraw();
-  const bool isRecorded = m_game.recordAction(team, player, kind);
+  const bool isRecorded = m_session.change()->recordAction(team, player, kind);
   if (m_bench->isSelected(team, player))
     m_bench->clearSelection();
-  showGame();
   return isRecorded;
 }
 
 // The last of what was recorded; once more, and it is in doubt no longer.
 void frmLIVE::markDoubtful() {
-  m_game.writePending();
+  m_session.change()->writePending();
   const auto last = m_game.lastRecorded();
   if (!last)
     return;
@@ -211,9 +205,8 @@ void frmLIVE::markDoubtful() {
   const bool isDoubtful = !event->isDoubtful;
   const EventWords words(m_game.game(), m_texts);
   const std::string name = words.shortWords(static_cast<std::size_t>(event - events.begin()));
-  if (!m_game.setDoubtful(*last, isDoubtful))
+  if (!m_session.change()->setDoubtful(*last, isDoubtful))
     return;
-  showGame();
   m_notices->message().say(
       toQt(m_texts.withPlaceholder(isDoubtful ? Text::NowDoubtful : Text::NoLongerDoubtful, name)));
 }

@@ -31,16 +31,16 @@ constexpr Qt::Key kCorrect = Qt::Key_F11;
 } // namespace
 
 void frmLIVE::connectPlayers() {
-  m_correction = new CorrectionBar(m_game, m_texts, this);
+  m_correction = new CorrectionBar(m_session, m_texts, this);
   m_correction->setPlayers([](const QWidget& widget) {
     return dynamic_cast<const JerseyButton*>(&widget) != nullptr || PlayerPanel::isHead(widget);
   });
-  connect(m_correction, &CorrectionBar::changed, this, &frmLIVE::showGame);
   connect(m_correction, &CorrectionBar::closed, this, &frmLIVE::showSelected);
   connect(&m_notices->message(), &MessageLine::changed, m_correction, &QWidget::raise); // in one place
   m_bench->setTaker([this](int team, int player) { return m_correction->takePlayer(team, player); });
   connect(m_bench, &BenchPanel::playerAsked, this, &frmLIVE::addPlayer);
-  connect(m_bench, &BenchPanel::placesStayAsked, this, [this](bool stay) { m_game.setKeepsPlaces(stay); });
+  connect(m_bench, &BenchPanel::placesStayAsked, this,
+          [this](bool stay) { m_session.change()->setKeepsPlaces(stay); });
   connect(m_bench, &BenchPanel::severalShown, this, &frmLIVE::proposeFives);
   connect(m_events, &LiveEventPanel::correctionAsked, this, &frmLIVE::correct);
   for (PlayerPanel* panel : m_panels->panels()) {
@@ -69,7 +69,7 @@ void frmLIVE::connectPlayers() {
 }
 
 void frmLIVE::correct(const EventPlace& event) {
-  m_game.writePending();
+  m_session.change()->writePending();
   m_notices->message().withdraw();
   m_bench->clearSelection();
   if (m_correction->begin(event)) {
@@ -82,11 +82,10 @@ void frmLIVE::addPlayer(int team) {
   if (!m_game.canRecord())
     return;
   const auto add = [this, team](const std::string& jersey, const std::string& name) {
-    const NewPlayer added = m_game.addPlayer(team, jersey, name);
+    const NewPlayer added = m_session.change()->addPlayer(team, jersey, name);
     const QString words = toQt(added.words(m_game.game(), m_texts));
     if (!added.isAdded())
       return words;
-    showGame();
     m_notices->message().say(words);
     return QString();
   };
@@ -98,10 +97,8 @@ void frmLIVE::putInPlace(int slot) {
   const int player = m_bench->selectedOf(LiveGame::teamOf(slot));
   if (player == 0)
     return m_bench->askSeveral();
-  if (!m_game.putInSlot(slot, player))
-    return;
-  m_bench->clearSelection();
-  showGame();
+  if (m_session.change()->putInSlot(slot, player))
+    m_bench->clearSelection();
 }
 
 // A game that has not begun opens on the choice of both fives.

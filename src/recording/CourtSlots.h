@@ -29,6 +29,8 @@ class CourtSlots {
   // Who stands in one of two places of a team stands in the other.
   void exchange(int slot, int other);
 
+  friend bool operator==(const CourtSlots&, const CourtSlots&) = default;
+
  private:
   bool m_keepsPlaces = false;
   std::array<int, kSlots> m_players = {};

@@ -27,6 +27,8 @@ class GameClock {
     return elapsed >= m_atStart ? 0 : m_atStart - static_cast<int>(elapsed);
   }
 
+  friend bool operator==(const GameClock&, const GameClock&) = default;
+
  private:
   int m_atStart = 0;
   std::int64_t m_startTime = 0;

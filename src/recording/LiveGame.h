@@ -35,12 +35,15 @@ class LiveGame {
   const Game& game() const { return m_log.game(); }
   const GameState& state() const { return m_log.state(); }
   const LiveLog& log() const { return m_log; }
+  const GameOnDisk& disk() const { return m_log.disk(); }
   GameOnDisk& disk() { return m_log.disk(); }
   // Looks at the file, brings it back to what was recorded and writes what waits. Whether everything is on
   // disk now.
   bool settle() { return m_access == Access::Reading || m_log.settle(); }
   // Takes in what others made of the file, between two actions: what to tell the user.
   [[nodiscard]] ForeignHands takeForeignHands();
+  // What has become of events, players and details since it was last asked for.
+  [[nodiscard]] GameNews takeNews() { return m_log.takeNews(); }
   bool writeCopy(const std::string& path) { return m_log.writeCopy(path); }
 
   // --- Clock and periods
@@ -57,6 +60,7 @@ class LiveGame {
   bool hasTime() const { return m_log.game().details.minutesPerPeriod > 0; }
   int period() const { return m_period; }
   bool isOvertime() const { return m_period > m_log.game().details.periods; }
+  const GameClock& clock() const { return m_clock; }
   int clockSeconds() const; // that remain
   int fullLength() const;   // of this period, in seconds; 0 in a game without time
   bool isHalfTime() const;  // the second half is next, and nothing has happened in it yet
@@ -122,6 +126,7 @@ class LiveGame {
   // set before a game is opened that shall be shown as it was left.
   void setKeepsPlaces(bool isOn) { m_slots.setKeepsPlaces(isOn); }
   OnCourt onCourt() const { return m_slots.onCourt(); }
+  const CourtSlots& places() const { return m_slots; }
   // A player who came late, or was forgotten, behind all others of his team; on the bench. In the file at
   // once, and no action that could be taken back: his events can be, and he stays. Events and lists that name
   // his number already count for him from then on. Jersey and name come trimmed; the name may be empty.

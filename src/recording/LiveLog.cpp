@@ -44,6 +44,8 @@ GameFileProblem LiveLog::open(const std::string& path) {
   m_disk.open(path); // what another game still had to write is its own affair, and was asked about
   m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
   countAll();
+  m_news = {};
+  m_news.isOpened = true;
   return GameFileProblem::None;
 }
 
@@ -51,7 +53,22 @@ bool LiveLog::change(const std::vector<EventChange>& steps) {
   return isAppending(steps, m_lines) ? append(steps) : rewrite(steps);
 }
 
+// Before the steps are taken: what was there tells what becomes of it.
+void LiveLog::note(const std::vector<EventChange>& steps) {
+  const auto isDeleted = [](const std::string& line) { return line.starts_with('E'); };
+  for (const EventChange& step : steps) {
+    const std::string* before = findLine(m_lines, step.period, step.key);
+    const bool goes = step.kind == EventChange::Kind::Replace && isDeleted(step.line) && before != nullptr &&
+                      !isDeleted(*before);
+    (step.kind == EventChange::Kind::Add ? m_news.added
+     : goes                              ? m_news.deleted
+                                         : m_news.changed)
+        .push_back({step.period, step.key});
+  }
+}
+
 bool LiveLog::append(const std::vector<EventChange>& steps) {
+  note(steps);
   for (const EventChange& step : steps) {
     m_lines[step.period].emplace_back(step.key, step.line);
     m_game.events.appendOwned(step.period, step.key, readable(step.line));
@@ -65,6 +82,7 @@ bool LiveLog::rewrite(const std::vector<EventChange>& steps) {
   EventLines changed = m_lines;
   if (!std::ranges::all_of(steps, [&](const EventChange& step) { return applyChange(step, changed); }))
     return false;
+  note(steps);
   m_lines = std::move(changed);
   m_disk.change(steps, m_lines, forgetAccepted(steps));
   readEvents();
@@ -75,6 +93,7 @@ bool LiveLog::rewrite(const std::vector<EventChange>& steps) {
 void LiveLog::setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues) {
   for (const auto& [key, value] : keysAndValues)
     setDetail(m_game.details, key, value);
+  m_news.details = true;
   m_disk.set(kDetailsSection, keysAndValues, m_lines);
 }
 
@@ -83,6 +102,7 @@ void LiveLog::addPlayer(int team, RosterPlayer player) {
   m_game.roster[team].add(std::move(player));
   m_disk.set(rosterSection(team), value, m_lines);
   countAll();
+  m_news.hasOtherCounts = true;
 }
 
 void LiveLog::accept(int event, const std::vector<int>& findings) {
@@ -90,6 +110,7 @@ void LiveLog::accept(int event, const std::vector<int>& findings) {
   for (const int finding : findings)
     value += (value.empty() ? "" : ",") + std::to_string(finding);
   m_game.accepted[event] = findings;
+  m_news.details = true;
   m_disk.set(kAcceptedSection, {{std::to_string(event), value}}, m_lines);
 }
 
@@ -126,6 +147,8 @@ ForeignHands LiveLog::takeForeignHands() {
   readEvents();
   m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
   countAll();
+  m_news.hasOtherCounts = true;
+  m_news.details = true;
   return hands;
 }
 

@@ -7,6 +7,7 @@
 #include "game/GameFile.h"
 #include "game/GameOnDisk.h"
 #include "game/Tally.h"
+#include "recording/GameNews.h"
 #include "recording/OnCourt.h"
 
 #include <optional>
@@ -57,6 +58,9 @@ class LiveLog {
   // what to tell the user.
   [[nodiscard]] ForeignHands takeForeignHands();
 
+  // What has become of events, players and details since it was last asked for.
+  [[nodiscard]] GameNews takeNews() { return std::exchange(m_news, {}); }
+
   // In which counts all events, counted anew, differ from what counting them one by one has found; empty when
   // both agree, as they must.
   [[nodiscard]] std::string difference() const;
@@ -67,6 +71,7 @@ class LiveLog {
   GameOnDisk::Values forgetAccepted(const std::vector<EventChange>& steps);
   bool append(const std::vector<EventChange>& steps);
   bool rewrite(const std::vector<EventChange>& steps);
+  void note(const std::vector<EventChange>& steps);
   void readEvents();
   void countAll();
 
@@ -77,6 +82,7 @@ class LiveLog {
   EventLines m_lines;
   int m_nextNumber = 1;
   GameOnDisk m_disk;
+  GameNews m_news; // since it was last asked for
 };
 
 } // namespace hooptab

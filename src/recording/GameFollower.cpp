@@ -1,0 +1,74 @@
+#include "recording/GameFollower.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+namespace hooptab {
+
+namespace {
+
+constexpr std::chrono::seconds kPatience{1};
+
+} // namespace
+
+// What the thread and its owner share; it lives as long as the longer of both.
+struct GameFollower::Desk {
+  Work work;
+  std::mutex mutex;
+  std::condition_variable changed;
+  std::shared_ptr<const CountedGame> next;
+  int failures = 0;
+  bool isLeaving = false;
+  bool isDone = false;
+
+  void run() {
+    std::unique_lock lock(mutex);
+    while (true) {
+      changed.wait(lock, [this] { return isLeaving || next != nullptr; });
+      if (isLeaving)
+        break;
+      const auto game = std::exchange(next, nullptr);
+      lock.unlock();
+      bool hasThrown = false;
+      try {
+        work(game);
+      } catch (...) {
+        hasThrown = true;
+      }
+      lock.lock();
+      failures += hasThrown ? 1 : 0;
+    }
+    isDone = true;
+    changed.notify_all();
+  }
+};
+
+GameFollower::GameFollower(Work work) : m_desk(std::make_shared<Desk>()) {
+  m_desk->work = std::move(work);
+  std::thread([desk = m_desk] { desk->run(); }).detach(); // one that hangs cannot be waited for
+}
+
+GameFollower::~GameFollower() {
+  std::unique_lock lock(m_desk->mutex);
+  m_desk->isLeaving = true;
+  m_desk->changed.notify_all();
+  m_desk->changed.wait_for(lock, kPatience, [this] { return m_desk->isDone; });
+}
+
+void GameFollower::take(std::shared_ptr<const CountedGame> game) {
+  {
+    const std::scoped_lock lock(m_desk->mutex);
+    m_desk->next = std::move(game);
+  }
+  m_desk->changed.notify_all();
+}
+
+int GameFollower::failures() const {
+  const std::scoped_lock lock(m_desk->mutex);
+  return m_desk->failures;
+}
+
+} // namespace hooptab
