@@ -4,6 +4,7 @@
 #include "checks/NumberCheck.h"
 #include "court/CourtGeometry.h"
 #include "game/PlayerLookup.h"
+#include "game/Rules.h"
 #include "game/ShotFollowUp.h"
 #include "storage/Module1.h"
 
@@ -67,11 +68,6 @@ class EventCheck {
   }
 
  private:
-  struct Fouls {
-    int personal = 0;
-    int technical = 0;
-  };
-
   [[nodiscard]] bool isOfTotals() const { return m_game.details.inputType != 0; }
   [[nodiscard]] bool hasTime() const { return m_game.details.minutesPerPeriod > 0; }
   void name(Finding finding) { nameAt(m_place, std::move(finding)); }
@@ -122,7 +118,7 @@ class EventCheck {
   std::optional<std::size_t> m_afterStop; // the first that no free throw explains
   bool m_hasFreeThrowSinceStop = false;
 
-  std::array<std::array<Fouls, Roster::kLargestEntry + 1>, 2> m_fouls = {};
+  std::array<std::array<PlayerFouls, Roster::kLargestEntry + 1>, 2> m_fouls = {};
   std::array<int, kEventKinds.size()> m_atOneSecond = {};
   std::array<std::size_t, kEventKinds.size()> m_burst = {}; // its finding
 };
@@ -286,10 +282,8 @@ void EventCheck::checkFoul(const GameEvent& event) {
   const int entry = m_game.roster[team].entryOf(event.player.jersey);
   if (entry == 0)
     return;
-  const auto reached = [](int count, int limit) { return limit > 0 && count >= limit; };
-  Fouls& fouls = m_fouls[team][static_cast<std::size_t>(entry)];
-  if (reached(fouls.personal, m_game.details.personalFoulLimit) ||
-      reached(fouls.technical, m_game.details.technicalFoulLimit))
+  PlayerFouls& fouls = m_fouls[team][static_cast<std::size_t>(entry)];
+  if (isFouledOut(m_game.details, fouls))
     namePlayer(FindingKind::FouledOutBefore, event);
   ++(event.code == EventCode::SPF ? fouls.personal : fouls.technical);
 }

@@ -5,6 +5,7 @@
 #include "checks/Finding.h"
 #include "game/GameFile.h"
 #include "game/PlayerLookup.h"
+#include "game/Rules.h"
 
 #include <array>
 #include <optional>

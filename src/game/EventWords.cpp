@@ -2,6 +2,7 @@
 
 #include "game/PeriodName.h"
 #include "game/PlayerLookup.h"
+#include "game/Rules.h"
 #include "settings/Settings.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"

@@ -60,9 +60,4 @@ std::string jerseysOnCourt(std::string_view list, const Roster& roster) {
   return jerseys;
 }
 
-bool isTeamItself(const Roster& roster) {
-  const std::vector<RosterPlayer>& players = roster.players();
-  return players.size() == 1 && players[0].jersey == "0" && players[0].position == 9;
-}
-
 } // namespace hooptab

@@ -27,7 +27,4 @@ struct ListedPlayer {
 // Their numbers, as the roster writes them, with blanks between: "4 5 10".
 [[nodiscard]] std::string jerseysOnCourt(std::string_view list, const Roster& roster);
 
-// A side that was entered without players is its own one player.
-[[nodiscard]] bool isTeamItself(const Roster& roster);
-
 } // namespace hooptab

@@ -1,6 +1,6 @@
 #include "recording/LiveGame.h"
 
-#include "game/TeamFouls.h"
+#include "game/Rules.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -95,8 +95,7 @@ void LiveGame::showAsLeft() {
   const OnCourt before = onCourt();
   OnCourt whole = before;
   for (std::size_t team = 0; team < 2; ++team) {
-    const auto& players = game().roster[team].players();
-    if (players.size() == 1 && players[0].jersey == "0" && players[0].position == 9)
+    if (isTeamItself(game().roster[team]))
       whole[team] = 1U << 1U;
   }
   if (whole != before) {
@@ -583,12 +582,10 @@ bool LiveGame::isInBonus(int team) const {
 }
 
 bool LiveGame::isFouledOut(int team, int player) const {
-  const Counters& counters =
-      state().players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)].counters;
-  const GameDetails& rules = game().details;
-  const auto reached = [](int count, int limit) { return limit > 0 && count >= limit; };
-  return reached(counters[Counter::PF], rules.personalFoulLimit) ||
-         reached(counters[Counter::TF], rules.technicalFoulLimit);
+  return hooptab::isFouledOut(
+      game().details,
+      PlayerFouls::of(
+          state().players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)].counters));
 }
 
 } // namespace hooptab

@@ -1,7 +1,7 @@
 #include "recording/LiveWords.h"
 
 #include "game/EventWords.h"
-#include "game/TeamFouls.h"
+#include "game/Rules.h"
 #include "storage/Placeholders.h"
 
 #include <array>

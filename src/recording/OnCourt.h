@@ -5,6 +5,7 @@
 
 #include "game/EventChange.h"
 #include "game/Roster.h"
+#include "game/Rules.h"
 
 #include <array>
 #include <optional>
@@ -15,8 +16,6 @@ namespace hooptab {
 
 // Roster entries as bits (bit n for entry n) of both teams.
 using OnCourt = std::array<unsigned, 2>;
-
-inline constexpr int kMostOnCourt = 5;
 
 struct Rosters {
   const Roster& visitors;

@@ -41,8 +41,7 @@ std::vector<Substitution::Line> linesOf(const LiveGame& game, std::size_t team, 
 
 // Who had reached a limit of fouls at an event of the past.
 OnCourt fouledOutAt(const Game& game, const EventPlace& place) {
-  std::array<std::array<std::array<int, 2>, Roster::kLargestEntry + 1>, 2> fouls = {}; // personal, technical
-  const std::array<int, 2> limits = {game.details.personalFoulLimit, game.details.technicalFoulLimit};
+  std::array<std::array<PlayerFouls, Roster::kLargestEntry + 1>, 2> fouls = {};
   OnCourt fouledOut = {};
   for (const GameEvent& event : game.events) {
     if (event.period == place.period && event.key == place.key)
@@ -52,8 +51,9 @@ OnCourt fouledOutAt(const Game& game, const EventPlace& place) {
       continue;
     const auto team = static_cast<std::size_t>(event.player.team);
     const int entry = game.roster[team].entryOf(event.player.jersey);
-    const std::size_t kind = event.code == EventCode::SPF ? 0 : 1;
-    if (++fouls[team][static_cast<std::size_t>(entry)][kind] >= limits[kind] && limits[kind] > 0)
+    PlayerFouls& ofPlayer = fouls[team][static_cast<std::size_t>(entry)];
+    ++(event.code == EventCode::SPF ? ofPlayer.personal : ofPlayer.technical);
+    if (isFouledOut(game.details, ofPlayer))
       fouledOut[team] |= 1U << entry;
   }
   return fouledOut;

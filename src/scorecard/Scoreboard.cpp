@@ -1,7 +1,7 @@
 #include "scorecard/Scoreboard.h"
 
 #include "game/PeriodName.h"
-#include "game/TeamFouls.h"
+#include "game/Rules.h"
 #include "storage/Module1.h"
 
 #include <algorithm>

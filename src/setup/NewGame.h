@@ -5,6 +5,7 @@
 #pragma once
 
 #include "game/GameFile.h"
+#include "game/Rules.h"
 #include "settings/ChoiceTexts.h"
 #include "settings/Texts.h"
 #include "setup/QuickRoster.h"
@@ -40,7 +41,6 @@ struct LastChoices {
 class NewGame {
  public:
   static constexpr int kNone = -1;
-  static constexpr int kMostPlayers = 15; // of a side
 
   enum class Eligibility : std::uint8_t { CanPlay, NoJersey, NumberTaken, NumberWrittenOtherwise };
   struct Player {

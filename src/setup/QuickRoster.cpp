@@ -26,7 +26,7 @@ QuickRoster quickRoster(std::string_view typed) {
     });
     if (same != roster.jerseys.end())
       return wrong(*same == part ? Text::NumberTwice : Text::WrittenOtherwise, *same);
-    if (roster.jerseys.size() == QuickRoster::kMostPlayers)
+    if (roster.jerseys.size() == static_cast<std::size_t>(kMostPlayers))
       return wrong(Text::OneTooMany);
     roster.jerseys.emplace_back(part);
     begin += part.size();

@@ -1,6 +1,7 @@
 // The numbers of a team that plays without names, typed in one go: "4 5 7 10 23".
 #pragma once
 
+#include "game/Rules.h"
 #include "settings/Texts.h"
 
 #include <cstddef>
@@ -11,7 +12,6 @@
 namespace hooptab {
 
 struct QuickRoster {
-  static constexpr std::size_t kMostPlayers = 15;
 
   std::vector<std::string> jerseys = {}; // as typed, in their order; none with a problem
   Text problem = Text::None;             // none where all is well

@@ -323,10 +323,10 @@ void SidePanel::showBand() {
 void SidePanel::showCount() {
   const NewGame::Side& side = m_game.sides[m_side];
   const int checked = side.checkedPlayers();
-  const bool isTooMany = checked > NewGame::kMostPlayers;
+  const bool isTooMany = checked > kMostPlayers;
   const QString count =
       toQt(withPlaceholders(m_texts.caption(isTooMany ? Text::TooManyPlayers : Text::CountOf),
-                            std::to_string(checked), std::to_string(NewGame::kMostPlayers)));
+                            std::to_string(checked), std::to_string(kMostPlayers)));
   m_count->setText(isTooMany ? QChar(kWarningSign) + QStringLiteral(" ") + count : count);
   m_count->setForegroundRole(isTooMany ? QPalette::BrightText : QPalette::WindowText);
   QFont font = this->font();

@@ -57,13 +57,13 @@ void SidePlayersTable::fitColumns() {
 }
 
 QSize SidePlayersTable::sizeHint() const {
-  return {QTableView::sizeHint().width(), NewGame::kMostPlayers * lowestRow() + 2 * frameWidth()};
+  return {QTableView::sizeHint().width(), kMostPlayers * lowestRow() + 2 * frameWidth()};
 }
 
 // Where there is more room than fifteen players need, they take some of it.
 void SidePlayersTable::fitRows() {
   verticalHeader()->setDefaultSectionSize(
-      std::clamp(viewport()->height() / NewGame::kMostPlayers, lowestRow(), highestRow()));
+      std::clamp(viewport()->height() / kMostPlayers, lowestRow(), highestRow()));
 }
 
 void SidePlayersTable::resizeEvent(QResizeEvent* event) {

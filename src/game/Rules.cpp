@@ -1,4 +1,4 @@
-#include "game/TeamFouls.h"
+#include "game/Rules.h"
 
 namespace hooptab {
 
@@ -17,6 +17,18 @@ int teamFouls(const GameDetails& details, const GameState& state, int team, int 
 
 bool isInBonus(const GameDetails& details, int fouls) {
   return details.bonus > 0 && fouls >= details.bonus;
+}
+
+bool isFouledOut(const GameDetails& details, const PlayerFouls& fouls) {
+  const auto reached = [](int count, int limit) { return limit > 0 && count >= limit; };
+  return reached(fouls.personal, details.personalFoulLimit) ||
+         reached(fouls.technical, details.technicalFoulLimit);
+}
+
+bool isTeamItself(const Roster& roster) {
+  constexpr int kTeamPosition = 9;
+  const std::vector<RosterPlayer>& players = roster.players();
+  return players.size() == 1 && players[0].jersey == "0" && players[0].position == kTeamPosition;
 }
 
 } // namespace hooptab
