@@ -157,7 +157,7 @@ int main(int argc, char** argv) {
   if (card.load() != GameFileProblem::None)
     return EXIT_FAILURE;
   const auto scorecard = [&] {
-    return scorecardReport(card.game(), card.state(), ScorecardView(texts), settings, texts);
+    return scorecardReport(card.counted(), ScorecardView(texts), settings, texts);
   };
   measure("scorecard to PDF", [&] { return reportPdf(scorecard(), kFormat).size(); });
 

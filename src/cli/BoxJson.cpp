@@ -53,7 +53,7 @@ void writeTeam(JsonWriter& json, const Scorecard& card, int team, const Texts& t
   for (const BoxView view : {BoxView::Players, BoxView::Lines}) {
     json.name(view == BoxView::Players ? "players" : "lines");
     json.beginArray();
-    for (const BoxRow& row : boxRows(game, state, team, view, texts)) {
+    for (const BoxRow& row : boxRows(*card.counted(), team, view, texts)) {
       if (row.kind != BoxRowKind::Total)
         writeRow(json, row, state.lines[side][static_cast<std::size_t>(row.entry)].list);
     }

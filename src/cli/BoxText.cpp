@@ -19,7 +19,7 @@ class BoxText {
  public:
   BoxText(const Scorecard& card, const Texts& texts) : m_card(card), m_game(card.game()), m_texts(texts) {
     for (int team = 0; team < 2; ++team) {
-      m_rows[team] = boxRows(m_game, card.state(), team, BoxView::Players, texts);
+      m_rows[team] = boxRows(*card.counted(), team, BoxView::Players, texts);
       m_names[team] = printable(m_game.details.abbreviation[team]);
     }
   }

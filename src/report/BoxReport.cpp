@@ -24,13 +24,14 @@ ReportCell cellOf(const BoxRow& row, const BoxColumn& column) {
 
 } // namespace
 
-ReportTable boxTable(const Game& game, const GameState& state, int team, const ScorecardView& choice,
+ReportTable boxTable(const CountedGame& counted, int team, const ScorecardView& choice,
                      const Settings& settings, const Texts& texts) {
+  const Game& game = counted.game;
   ReportTable table;
   table.title = game.details.abbreviation[team] + " – " + game.details.name[team];
   // Of both teams, so that their tables have the same columns.
-  const BoxRow totals[2] = {boxRows(game, state, 0, BoxView::Players, texts).back(),
-                            boxRows(game, state, 1, BoxView::Players, texts).back()};
+  const BoxRow totals[2] = {boxRows(counted, 0, BoxView::Players, texts).back(),
+                            boxRows(counted, 1, BoxView::Players, texts).back()};
   // Of one kind of shots: all of them stay where nobody tried any.
   const auto isUntried = [&](const ShotGroup* group) {
     return group != nullptr && group != shotGroups().data() &&
@@ -59,7 +60,7 @@ ReportTable boxTable(const Game& game, const GameState& state, int team, const S
     ++table.groups.back().columns;
     openGroup = group;
   }
-  for (const BoxRow& row : boxRows(game, state, team, choice.view(), texts)) {
+  for (const BoxRow& row : boxRows(counted, team, choice.view(), texts)) {
     ReportRow& line = table.rows.emplace_back();
     if (row.kind == BoxRowKind::Total)
       line.emphasis = ReportRow::Emphasis::Total;

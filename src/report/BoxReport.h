@@ -8,7 +8,7 @@
 namespace hooptab {
 
 // In the columns and the order of the scorecard's table; `choice` says which columns are shown.
-[[nodiscard]] ReportTable boxTable(const Game& game, const GameState& state, int team,
-                                   const ScorecardView& choice, const Settings& settings, const Texts& texts);
+[[nodiscard]] ReportTable boxTable(const CountedGame& counted, int team, const ScorecardView& choice,
+                                   const Settings& settings, const Texts& texts);
 
 } // namespace hooptab

@@ -140,8 +140,8 @@ std::string leaders(const std::vector<BoxRow>& rows, const Statistic& statistic,
   return count > kMostNamed ? texts.withPlaceholder(Text::ManyPlayers, std::to_string(count)) : names;
 }
 
-ReportTable leaderTable(const Game& game, const GameState& state, const Settings& settings,
-                        const Texts& texts) {
+ReportTable leaderTable(const CountedGame& counted, const Settings& settings, const Texts& texts) {
+  const Game& game = counted.game;
   ReportTable table;
   table.title = text(texts, Text::GameLeaders);
   table.isSummary = true;
@@ -149,7 +149,7 @@ ReportTable leaderTable(const Game& game, const GameState& state, const Settings
   table.groups.push_back({"", 1});
   std::vector<BoxRow> rows[2];
   for (int team = 0; team < 2; ++team) {
-    rows[team] = boxRows(game, state, team, BoxView::Players, texts);
+    rows[team] = boxRows(counted, team, BoxView::Players, texts);
     const std::string side = std::to_string(team);
     table.columns.push_back({text(texts, Text::PlayerName), "Name" + side, {}, true});
     table.columns.push_back({text(texts, Text::Value), "Value" + side});
@@ -279,21 +279,22 @@ void addShotCharts(Report& report, const Game& game, ScorecardView choice, const
 
 } // namespace
 
-Report scorecardReport(const Game& game, const GameState& state, ScorecardView choice,
+Report scorecardReport(const std::shared_ptr<const CountedGame>& counted, ScorecardView choice,
                        const Settings& settings, const Texts& texts) {
-  choice.show(game, state);
-  const Scoreboard board = scoreboard(game, state, texts);
+  const auto& [game, state] = *counted;
+  choice.show(counted);
+  const Scoreboard board = scoreboard(*counted, texts);
   Report report = reportOf(game, state, Text::Scorecard, texts);
   addHead(report, game, state, texts);
   report.blocks.push_back(periodTable(board, ByPeriod::Points, texts));
   report.blocks.push_back(periodTable(board, ByPeriod::Fouls, texts));
   if (board.hasTime)
     report.blocks.push_back(leadTable(board, state, texts));
-  const ReportTable boxes[] = {boxTable(game, state, 0, choice, settings, texts),
-                               boxTable(game, state, 1, choice, settings, texts)};
+  const ReportTable boxes[] = {boxTable(*counted, 0, choice, settings, texts),
+                               boxTable(*counted, 1, choice, settings, texts)};
   report.blocks.insert(report.blocks.end(), std::begin(boxes), std::end(boxes));
   addNotes(report, boxes[0], texts);
-  if (ReportTable leaders = leaderTable(game, state, settings, texts); !leaders.rows.empty())
+  if (ReportTable leaders = leaderTable(*counted, settings, texts); !leaders.rows.empty())
     report.blocks.push_back(std::move(leaders));
   if (board.hasTime && state.points(0) + state.points(1) > 0)
     report.blocks.push_back(
@@ -306,7 +307,8 @@ Report scorecardReport(const Game& game, const GameState& state, ScorecardView c
   return report;
 }
 
-Report playByPlayReport(const Game& game, const GameState& state, const Texts& texts) {
+Report playByPlayReport(const CountedGame& counted, const Texts& texts) {
+  const auto& [game, state] = counted;
   Report report = reportOf(game, state, Text::PlayByPlay, texts);
   ReportTable table;
   table.title = text(texts, Text::Events);

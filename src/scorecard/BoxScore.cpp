@@ -84,8 +84,8 @@ double jerseySortValue(std::string_view jersey) {
   return kBehindNumbers + letters;
 }
 
-std::vector<BoxRow> boxRows(const Game& game, const GameState& state, int team, BoxView view,
-                            const Texts& texts) {
+std::vector<BoxRow> boxRows(const CountedGame& counted, int team, BoxView view, const Texts& texts) {
+  const auto& [game, state] = counted;
   const auto side = static_cast<std::size_t>(team);
   const Roster& roster = game.roster[side];
   const auto& players = state.players[side];

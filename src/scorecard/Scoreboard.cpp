@@ -42,7 +42,8 @@ std::vector<Scoreboard::Period> periods(const Game& game, const GameState& state
 
 } // namespace
 
-Scoreboard scoreboard(const Game& game, const GameState& state, const Texts& texts) {
+Scoreboard scoreboard(const CountedGame& counted, const Texts& texts) {
+  const auto& [game, state] = counted;
   Scoreboard board;
   for (std::size_t team = 0; team < 2; ++team)
     board.teams[team] = {game.details.abbreviation[team], game.details.name[team],

@@ -2,8 +2,7 @@
 // and state of the game. Lays out nothing.
 #pragma once
 
-#include "game/GameFile.h"
-#include "game/GameState.h"
+#include "game/CountedGame.h"
 #include "settings/Texts.h"
 
 #include <array>
@@ -41,6 +40,6 @@ struct Scoreboard {
   bool hasTime = true;
 };
 
-[[nodiscard]] Scoreboard scoreboard(const Game& game, const GameState& state, const Texts& texts);
+[[nodiscard]] Scoreboard scoreboard(const CountedGame& counted, const Texts& texts);
 
 } // namespace hooptab

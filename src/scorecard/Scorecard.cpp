@@ -7,18 +7,19 @@ namespace hooptab {
 Scorecard::Scorecard(cinifile& store, std::string path) : m_store(store), m_path(std::move(path)) {}
 
 GameFileProblem Scorecard::load() {
-  if (const GameFileProblem problem = GameFile(m_store, m_path).read(m_game);
-      problem != GameFileProblem::None)
+  const auto read = std::make_shared<CountedGame>();
+  Game& game = read->game;
+  if (const GameFileProblem problem = GameFile(m_store, m_path).read(game); problem != GameFileProblem::None)
     return problem;
-  m_outOfRange = Tally::run(m_state, m_game.events, m_game.roster[0], m_game.roster[1]);
-  m_findings = checkGame(m_game, m_store.profile(), m_outOfRange);
-  m_hasGame = true;
+  m_outOfRange = Tally::run(read->state, game.events, game.roster[0], game.roster[1]);
+  m_findings = checkGame(game, m_store.profile(), m_outOfRange);
+  m_counted = read;
   return GameFileProblem::None;
 }
 
 std::string Scorecard::title() const {
-  const auto& names = m_game.details.abbreviation;
-  return names[0] + " " + std::to_string(m_state.points(0)) + " - " + std::to_string(m_state.points(1)) +
+  const auto& names = game().details.abbreviation;
+  return names[0] + " " + std::to_string(state().points(0)) + " - " + std::to_string(state().points(1)) +
          " " + names[1];
 }
 

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "checks/Finding.h"
-#include "game/GameFile.h"
-#include "game/GameState.h"
+#include "game/CountedGame.h"
 #include "game/Tally.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,10 +21,12 @@ class Scorecard {
   // Reads and counts the game anew. On a problem what was read last stays.
   [[nodiscard]] GameFileProblem load();
 
-  bool hasGame() const { return m_hasGame; }
+  bool hasGame() const { return m_counted != nullptr; }
   const std::string& path() const { return m_path; }
-  const Game& game() const { return m_game; }
-  const GameState& state() const { return m_state; }
+  // As they were read last; once there is a game.
+  const Game& game() const { return m_counted->game; }
+  const GameState& state() const { return m_counted->state; }
+  const std::shared_ptr<const CountedGame>& counted() const { return m_counted; }
   const std::optional<CountOutOfRange>& outOfRange() const { return m_outOfRange; }
   // What a check of the game and its file names.
   const std::vector<Finding>& findings() const { return m_findings; }
@@ -34,9 +36,7 @@ class Scorecard {
  private:
   cinifile& m_store;
   std::string m_path;
-  bool m_hasGame = false;
-  Game m_game;
-  GameState m_state;
+  std::shared_ptr<const CountedGame> m_counted;
   std::optional<CountOutOfRange> m_outOfRange;
   std::vector<Finding> m_findings;
 };

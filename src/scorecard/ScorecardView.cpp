@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace hooptab {
 
@@ -18,9 +19,8 @@ void add(BoxNumbers& sum, const BoxNumbers& numbers) {
 
 } // namespace
 
-void ScorecardView::show(const Game& game, const GameState& state) {
-  m_game = &game;
-  m_state = &state;
+void ScorecardView::show(std::shared_ptr<const CountedGame> game) {
+  m_game = std::move(game);
   fill();
 }
 
@@ -81,20 +81,20 @@ void ScorecardView::check(const BoxRow& row, bool isChecked) {
 }
 
 std::vector<Shot> ScorecardView::shots() const {
-  if (m_state == nullptr)
+  if (m_game == nullptr)
     return {};
   ShotSelection selection{m_team, m_view, m_scope == Scope::All, {}};
   for (const BoxRow& row : m_rows) {
     if (row.kind != BoxRowKind::Total && checkMark(row) == CheckMark::All)
       selection.entries.push_back(row.entry);
   }
-  return selectedShots(*m_state, selection);
+  return selectedShots(m_game->state, selection);
 }
 
 void ScorecardView::fill() {
   if (m_game == nullptr)
     return;
-  m_rows = boxRows(*m_game, *m_state, m_team, m_view, m_texts);
+  m_rows = boxRows(*m_game, m_team, m_view, m_texts);
   if (m_scope == Scope::All || m_rows.empty() || checkMark(m_rows.back()) == CheckMark::All)
     return;
   BoxNumbers sum;

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -21,9 +22,9 @@ class ScorecardView {
   enum class Scope : std::uint8_t { Checked, All };
   enum class CheckMark : std::uint8_t { None, Some, All };
 
-  // The texts must outlive it; so must the game and its state, until others are shown.
+  // The texts must outlive it.
   explicit ScorecardView(const Texts& texts) : m_texts(texts) {}
-  void show(const Game& game, const GameState& state);
+  void show(std::shared_ptr<const CountedGame> game);
   // Another game: every row is checked again.
   void forgetChecks();
 
@@ -58,8 +59,7 @@ class ScorecardView {
   void fill();
 
   const Texts& m_texts;
-  const Game* m_game = nullptr;
-  const GameState* m_state = nullptr;
+  std::shared_ptr<const CountedGame> m_game;
   int m_team = 0;
   BoxView m_view = BoxView::Players;
   Scope m_scope = Scope::Checked;

@@ -177,7 +177,7 @@ GameFileProblem frmVIEW::open(const QString& path) {
   m_change.emplace(std::move(change));
   m_problem = GameFileProblem::None;
   m_shownTeam = {-1, -1};
-  m_view.show(m_card->game(), m_card->state());
+  m_view.show(m_card->counted());
   m_view.forgetChecks();
   showGame(true);
   return GameFileProblem::None;
@@ -281,9 +281,9 @@ void frmVIEW::restoreArrangement(const QByteArray& state) {
 
 void frmVIEW::showGame(bool isNew) {
   const Game& game = m_card->game();
-  m_view.show(game, m_card->state());
+  m_view.show(m_card->counted());
   setWindowTitle(asTitle(toQt(m_card->title())));
-  m_strip->showBoard(scoreboard(game, m_card->state(), m_texts), m_texts);
+  m_strip->showBoard(scoreboard(*m_card->counted(), m_texts), m_texts);
   m_details->showDetails(game.details, m_texts);
   m_events->showGame(game, isNew);
   m_check->showFindings(*m_card);

@@ -22,15 +22,11 @@ struct Team {
 
 } // namespace
 
-std::vector<ReportOffer> gameReports(const Game& game, const GameState& state, const ScorecardView& choice,
+std::vector<ReportOffer> gameReports(std::shared_ptr<const CountedGame> game, const ScorecardView& choice,
                                      const Settings& settings, const Texts& texts) {
-  const auto kept = std::make_shared<const std::pair<Game, GameState>>(game, state);
   return {named(Text::Scorecard, texts,
-                [=, &settings, &texts] {
-                  return scorecardReport(kept->first, kept->second, choice, settings, texts);
-                }),
-          named(Text::PlayByPlay, texts,
-                [=, &texts] { return playByPlayReport(kept->first, kept->second, texts); })};
+                [=, &settings, &texts] { return scorecardReport(game, choice, settings, texts); }),
+          named(Text::PlayByPlay, texts, [=, &texts] { return playByPlayReport(*game, texts); })};
 }
 
 std::vector<ReportOffer> teamReports(const TeamRecord& team, const std::vector<TeamPlayer>& players,

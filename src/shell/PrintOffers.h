@@ -3,8 +3,7 @@
 #pragma once
 
 #include "forms/ScannedTotals.h"
-#include "game/GameFile.h"
-#include "game/GameState.h"
+#include "game/CountedGame.h"
 #include "printing/frmprint.h"
 #include "report/SeasonReports.h"
 #include "scorecard/ScorecardView.h"
@@ -19,7 +18,7 @@
 namespace hooptab {
 
 // Settings and texts must outlive the offers.
-[[nodiscard]] std::vector<ReportOffer> gameReports(const Game& game, const GameState& state,
+[[nodiscard]] std::vector<ReportOffer> gameReports(std::shared_ptr<const CountedGame> game,
                                                    const ScorecardView& choice, const Settings& settings,
                                                    const Texts& texts);
 // Roster, prepared forms, blank forms.

@@ -183,13 +183,13 @@ class ReportRun {
     if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None)
       return complainOf(kFailed, path, reasonOf(problem));
     if (m_request.kind == "play-by-play") {
-      report = playByPlayReport(card.game(), card.state(), m_texts);
+      report = playByPlayReport(*card.counted(), m_texts);
       return kGood;
     }
     ScorecardView view(m_texts);
     if (m_request.kind == "scorecard-lines")
       view.setView(BoxView::Lines);
-    report = scorecardReport(card.game(), card.state(), view, m_settings, m_texts);
+    report = scorecardReport(card.counted(), view, m_settings, m_texts);
     return kGood;
   }
   int makeOfTeam(Report& report) {

@@ -103,7 +103,7 @@ TEST_F(FormFaultsTest, OtherPagesOfOursAreRefused) {
   const Settings settings(store, folder.path());
   const Texts texts;
   const Game game = crowdedGame(1);
-  const Report report = scorecardReport(game, tallied(game), ScorecardView(texts), settings, texts);
+  const Report report = scorecardReport(counted(game), ScorecardView(texts), settings, texts);
   ReportLayout layout(report, {});
   layout.finish();
   ASSERT_GE(layout.pages().size(), 2U);

@@ -56,7 +56,7 @@ bool isMissing(const char* program) {
 class ReportPagesTest : public testing::Test {
  protected:
   Report scorecard(const Game& game) {
-    return scorecardReport(game, tallied(game), ScorecardView(texts), settings, texts);
+    return scorecardReport(counted(game), ScorecardView(texts), settings, texts);
   }
   // What pdftotext reads of a report.
   std::string pdfText(const Report& report) {
@@ -97,8 +97,8 @@ class ReportPagesTest : public testing::Test {
             ofSeason(SeasonReport::Player, player),
             ofSeason(SeasonReport::LineOther, season.lines().front().id),
             scorecard(game),
-            scorecardReport(game, tallied(game), byLine, settings, texts),
-            playByPlayReport(shorter, tallied(shorter), texts),
+            scorecardReport(counted(game), byLine, settings, texts),
+            playByPlayReport({shorter, tallied(shorter)}, texts),
             rosterReport(team, players, texts),
             rosterReport(team, {}, texts)};
   }
@@ -192,15 +192,15 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheBoxScoreSays) {
   ASSERT_EQ(GameFile(store, sharedGames().front().string()).read(game), GameFileProblem::None);
   const GameState state = tallied(game);
   ScorecardView view(texts);
-  view.show(game, state);
+  view.show(counted(game));
   for (const Language language : {Language::English, Language::French}) {
     texts.setLanguage(language);
     const std::string text = pdfText(scorecard(game));
     EXPECT_NE(text.find(texts.text(Text::Scorecard)), std::string::npos);
     for (int team = 0; team < 2; ++team) {
-      for (const BoxRow& row : boxRows(game, state, team, BoxView::Players, texts)) {
+      for (const BoxRow& row : boxRows({game, state}, team, BoxView::Players, texts)) {
         // The row may stand in parts that follow each other. Kinds of shots that nobody tried are left out.
-        const ReportTable table = boxTable(game, state, team, view, settings, texts);
+        const ReportTable table = boxTable({game, state}, team, view, settings, texts);
         std::set<std::string> untried;
         std::size_t first = 0;
         for (const ReportColumnGroup& group : table.groups) {
@@ -445,7 +445,9 @@ class PreviewTest : public ReportPagesTest {
     window->offer(
         {{[this] { return std::string(texts.text(Text::Scorecard)); }, [this] { return scorecard(game); }},
          {[] { return std::string("events"); },
-          [this] { return playByPlayReport(shorter, tallied(shorter), texts); }},
+          [this] {
+            return playByPlayReport({shorter, tallied(shorter)}, texts);
+          }},
          {[] { return std::string("forms"); }, [this] { return blankForms(texts); }}});
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));

@@ -17,7 +17,7 @@ namespace {
 class ReportTextTest : public testing::Test {
  protected:
   Report scorecard(const Game& game) {
-    return scorecardReport(game, tallied(game), ScorecardView(texts), settings, texts);
+    return scorecardReport(counted(game), ScorecardView(texts), settings, texts);
   }
 
   FileSystem files;
@@ -39,7 +39,7 @@ TEST_F(ReportTextTest, TheTableOfARealGameHoldsTheCellsOfTheBoxScore) {
     const auto rows = parseDelimited(reportCsv(scorecard(game)).front().bytes);
     std::size_t line = 1;
     for (int team = 0; team < 2; ++team) {
-      for (const BoxRow& row : boxRows(game, state, team, BoxView::Players, texts)) {
+      for (const BoxRow& row : boxRows({game, state}, team, BoxView::Players, texts)) {
         ASSERT_LT(line, rows.size());
         std::size_t field = 1;
         for (const int column : boxDisplayOrder()) {
@@ -118,12 +118,11 @@ TEST_F(ReportTextTest, PercentagesAndTimesAreNumbersBehindTheirText) {
 TEST_F(ReportTextTest, TheChartShowsTheCheckedPlayersOnly) {
   const Game game = gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=08:00,GFGA,0-5,60,50\n"
                                           "3=07:00,GF3,1-3,100,90\n4=E06:30,GFG,0-4,1,1\n"));
-  const GameState state = tallied(game);
   ScorecardView view(texts);
-  view.show(game, state);
+  view.show(counted(game));
   view.check(view.rows()[1], false);
   view.setHidesMadeAttempted(true);
-  const Report report = scorecardReport(game, state, view, settings, texts);
+  const Report report = scorecardReport(counted(game), view, settings, texts);
   std::vector<std::size_t> marks;
   for (const ReportBlock& block : report.blocks) {
     const auto* picture = std::get_if<ReportPicture>(&block);
@@ -150,7 +149,7 @@ TEST_F(ReportTextTest, ThePlayByPlayLeavesOutWhatIsDeletedAndEndsWithTheScore) {
   const Game game = gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4,40,50\n2=E08:00,GF3,1-3,40,50\n"
                                           "3=what is this\n[PERIODE2]\n4=05:00,GFT,1-3\n"
                                           "5=04:00,DEPART\n6=04:00,ARRET,IN-04,IN-03\n"));
-  const Report report = playByPlayReport(game, tallied(game), texts);
+  const Report report = playByPlayReport({game, tallied(game)}, texts);
   const ReportTable& table = *tables(report).front();
   ASSERT_EQ(table.rows.size(), 4U);
   const auto cells = [&](std::size_t row) {
@@ -176,7 +175,7 @@ TEST_F(ReportTextTest, WordsOfReportsFollowTheLanguage) {
   team.periods = "4";
   std::string words;
   for (const Report& report :
-       {scorecard(game), playByPlayReport(game, tallied(game), texts), rosterReport(team, {}, texts)}) {
+       {scorecard(game), playByPlayReport({game, tallied(game)}, texts), rosterReport(team, {}, texts)}) {
     for (const ReportBlock& block : report.blocks) {
       if (const auto* paragraph = std::get_if<ReportParagraph>(&block))
         words += paragraph->text + '\n';

@@ -22,7 +22,7 @@ class ScorecardViewTest : public testing::Test {
   void SetUp() override { readAgain(); }
   void readAgain() {
     ASSERT_EQ(card.load(), GameFileProblem::None);
-    view.show(card.game(), card.state());
+    view.show(card.counted());
   }
   const BoxRow& rowOf(std::string_view number) const {
     return *std::ranges::find(view.rows(), number, &BoxRow::number);
@@ -85,7 +85,7 @@ TEST_F(ScorecardViewTest, MarksAreKeptByTeamAndViewAndThroughANewReading) {
 }
 
 TEST_F(ScorecardViewTest, TheBoardShowsScorePeriodsFoulsAndLead) {
-  Scoreboard board = scoreboard(card.game(), card.state(), texts);
+  Scoreboard board = scoreboard(*card.counted(), texts);
   EXPECT_EQ(board.teams[0].points, 4);
   EXPECT_EQ(board.teams[1].points, 3);
   ASSERT_EQ(board.periods.size(), 4U);
@@ -106,14 +106,14 @@ TEST_F(ScorecardViewTest, TheBoardShowsScorePeriodsFoulsAndLead) {
   EXPECT_EQ(board.leads[1].times, 1);
   game.add(5, 300, {",GFT,1-7"});
   readAgain();
-  board = scoreboard(card.game(), card.state(), texts);
+  board = scoreboard(*card.counted(), texts);
   ASSERT_EQ(board.periods.size(), 5U);
   EXPECT_EQ(board.periods[4].label, "OT1") << "the only overtime has its number, as at the table";
   EXPECT_EQ(board.period, "OT1");
   game.add(6, 300, {",GFT,1-7"});
   game.add(10, 300, {",GFT,1-7"});
   readAgain();
-  board = scoreboard(card.game(), card.state(), texts);
+  board = scoreboard(*card.counted(), texts);
   ASSERT_EQ(board.periods.size(), 8U);
   EXPECT_NE(board.periods[4].label, board.periods[5].label);
   EXPECT_TRUE(board.periods[7].label.ends_with('+')) << "periods from 8 on share a column";

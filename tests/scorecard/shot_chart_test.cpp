@@ -91,8 +91,7 @@ TEST(ShotSums, AgreeWithTheBoxScoreOfRealGames) {
     ASSERT_EQ(card.load(), GameFileProblem::None) << path;
     for (int team = 0; team < 2; ++team) {
       SCOPED_TRACE(path.filename().string() + " team " + std::to_string(team));
-      const BoxNumbers total =
-          boxRows(card.game(), card.state(), team, BoxView::Players, Texts()).back().numbers;
+      const BoxNumbers total = boxRows(*card.counted(), team, BoxView::Players, Texts()).back().numbers;
       const ShotSums sums = shotSums(selectedShots(card.state(), {team, BoxView::Players, true, {}}));
       EXPECT_EQ(sums.withoutPlace.attempted, 0);
       EXPECT_EQ(sumOf(sums, false).made, total.counters[Counter::FGM]);

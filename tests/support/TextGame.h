@@ -1,9 +1,11 @@
 // A game from the text of its file, without a file: for tests of what is made of a game.
 #pragma once
 
+#include "game/CountedGame.h"
 #include "game/GameFile.h"
 #include "game/Tally.h"
 
+#include <memory>
 #include <string>
 
 namespace hooptab {
@@ -29,6 +31,9 @@ inline GameState tallied(const Game& game) {
   GameState state;
   (void)Tally::run(state, game.events, game.roster[0], game.roster[1]);
   return state;
+}
+inline std::shared_ptr<const CountedGame> counted(const Game& game) {
+  return std::make_shared<const CountedGame>(CountedGame{game, tallied(game)});
 }
 
 } // namespace hooptab
