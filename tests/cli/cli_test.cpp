@@ -188,9 +188,9 @@ TEST_F(Cli, JsonHasItsKeysInOrderAndTheSameInEveryLanguage) {
   EXPECT_EQ(json["lead"]["times"][2].integer(), 1);
 }
 
-TEST_F(Cli, JsonOfRealGamesAgreesWithTheOfficialBox) {
-  if (sharedGames().empty())
-    GTEST_SKIP() << "the folder of real games is missing: " << sharedFolder();
+class CliOfRealGames : public Cli, public testing::WithParamInterface<std::filesystem::path> {};
+
+TEST_P(CliOfRealGames, JsonAgreesWithTheOfficialBox) {
   for (const auto& path : sharedGames()) {
     SCOPED_TRACE(path.filename().string());
     const Json ours = Json::parse(run("box --json " + quoted(path.string())).output);
@@ -207,6 +207,9 @@ TEST_F(Cli, JsonOfRealGamesAgreesWithTheOfficialBox) {
     }
   }
 }
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(CliOfRealGames);
+INSTANTIATE_TEST_SUITE_P(RealGames, CliOfRealGames, testing::ValuesIn(sharedFolders("games")));
 
 TEST_F(Cli, CsvHasARowForEachPlayerAndTotalWithQuotedFields) {
   std::string text = smallGame();
@@ -442,9 +445,7 @@ TEST_F(Cli, OddValuesAreReadTheSameEverywhere) {
 }
 
 TEST_F(Cli, VerifyPassesRealGamesAndNamesFaultyOnes) {
-  if (sharedGames().empty())
-    GTEST_SKIP() << "the folder of real games is missing: " << sharedFolder();
-  for (const auto& path : sharedGames()) {
+  for (const auto& path : realOrSampleGames()) {
     const Outcome outcome = run("verify " + quoted(path.string()));
     EXPECT_EQ(outcome.status, 0) << outcome.output;
   }

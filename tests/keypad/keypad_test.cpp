@@ -202,9 +202,10 @@ TEST_F(KeypadInputTest, WithoutTheBoundKeysTheLineIsLeft) {
 }
 
 // As real teams wear their numbers: the last digit of the assist's ends it.
-TEST_F(KeypadInputTest, ABasketWithItsAssistTakesSixKeysOnTheLineAndSevenOnTheKeypad) {
-  if (sharedGames().empty())
-    GTEST_SKIP() << "the real games are not here";
+class KeypadOfRealGames : public KeypadInputTest,
+                          public testing::WithParamInterface<std::filesystem::path> {};
+
+TEST_P(KeypadOfRealGames, ABasketWithItsAssistTakesSixKeysOnTheLineAndSevenOnTheKeypad) {
   for (const auto& game : sharedGames()) {
     const std::string copy = folder.path(game.filename().string());
     std::filesystem::copy_file(game, copy);
@@ -231,6 +232,9 @@ TEST_F(KeypadInputTest, ABasketWithItsAssistTakesSixKeysOnTheLineAndSevenOnTheKe
     }
   }
 }
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(KeypadOfRealGames);
+INSTANTIATE_TEST_SUITE_P(RealGames, KeypadOfRealGames, testing::ValuesIn(sharedFolders("games")));
 
 TEST_F(KeypadInputTest, WhatIsNotUnderstoodIsSaidAndNothingIsRecorded) {
   const std::pair<KeypadReason, std::vector<const char*>> cases[] = {

@@ -82,11 +82,9 @@ TEST(ShotSums, CountAShotOfTheOtherKindInTheNearestZoneOfItsOwn) {
 }
 
 TEST(ShotSums, AgreeWithTheBoxScoreOfRealGames) {
-  if (sharedGames().empty())
-    GTEST_SKIP() << "the folder of real games is missing: " << sharedFolder();
   FileSystem files;
   cinifile store(files);
-  for (const auto& path : sharedGames()) {
+  for (const auto& path : realOrSampleGames()) {
     Scorecard card(store, path.string());
     ASSERT_EQ(card.load(), GameFileProblem::None) << path;
     for (int team = 0; team < 2; ++team) {

@@ -14,9 +14,10 @@ using namespace hooptab;
 
 namespace {
 
-TEST(OfficialSeason, EveryPlayersCountersAreTheSumsOfTheOfficialBoxes) {
-  if (sharedGames().empty())
-    GTEST_SKIP() << "the folder of real games is missing";
+class OfficialSeason : public testing::TestWithParam<std::filesystem::path> {};
+
+TEST_P(OfficialSeason, EveryPlayersCountersAreTheSumsOfTheOfficialBoxes) {
+  ASSERT_GE(sharedGames().size(), 10U) << GetParam();
   TemporaryFolder folder;
   std::map<std::string, std::map<std::string, int>> official, ours; // by team and jersey
   for (const auto& game : sharedGames()) {
@@ -54,6 +55,9 @@ TEST(OfficialSeason, EveryPlayersCountersAreTheSumsOfTheOfficialBoxes) {
   EXPECT_GT(ours.size(), 50U);
   EXPECT_EQ(ours, official);
 }
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(OfficialSeason);
+INSTANTIATE_TEST_SUITE_P(RealGames, OfficialSeason, testing::ValuesIn(sharedFolders("games")));
 
 // The independent count: text only, no class of the program.
 std::vector<std::string> split(const std::string& text, char separator) {

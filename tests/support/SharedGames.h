@@ -1,4 +1,5 @@
-// The folder of real games, which tests read where it is and skip where it is missing.
+// The folder of real games. Where it is missing, what needs any games plays the sample season that the build
+// makes, and what is about the real ones, with their official box scores, is no test.
 #pragma once
 
 #include <algorithm>
@@ -25,6 +26,27 @@ inline std::vector<std::filesystem::path> sharedGames(const std::string& subfold
   }
   std::ranges::sort(games);
   return games;
+}
+
+// The real games, or those of the sample season.
+inline std::vector<std::filesystem::path> realOrSampleGames() {
+  std::vector<std::filesystem::path> games = sharedGames();
+  if (games.empty()) {
+    for (const auto& entry : std::filesystem::directory_iterator(HOOPTAB_SAMPLES)) {
+      if (entry.path().extension() == ".GAM")
+        games.push_back(entry.path());
+    }
+    std::ranges::sort(games);
+  }
+  return games;
+}
+
+// For a test with parameters of one folder: one where it is there.
+inline std::vector<std::filesystem::path> sharedFolders(const std::string& subfolder) {
+  std::error_code missing;
+  const std::filesystem::path folder = sharedFolder() / subfolder;
+  return std::filesystem::is_directory(folder, missing) ? std::vector{folder}
+                                                        : std::vector<std::filesystem::path>();
 }
 
 } // namespace hooptab
