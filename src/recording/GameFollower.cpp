@@ -11,6 +11,7 @@ namespace hooptab {
 namespace {
 
 constexpr std::chrono::seconds kPatience{1};
+constexpr std::chrono::seconds kUntilNextTry{2};
 
 } // namespace
 
@@ -19,30 +20,38 @@ struct GameFollower::Desk {
   Work work;
   std::mutex mutex;
   std::condition_variable changed;
-  std::shared_ptr<const CountedGame> next;
-  int failures = 0;
+  std::shared_ptr<const RunningGame> next;
+  int failures = 0; // in a row
   bool isLeaving = false;
   bool isDone = false;
 
   void run() {
     std::unique_lock lock(mutex);
-    while (true) {
-      changed.wait(lock, [this] { return isLeaving || next != nullptr; });
-      if (isLeaving)
-        break;
+    while (!isLeaving || next != nullptr) {
+      if (next == nullptr) {
+        changed.wait(lock);
+        continue;
+      }
       const auto game = std::exchange(next, nullptr);
       lock.unlock();
-      bool hasThrown = false;
-      try {
-        work(game);
-      } catch (...) {
-        hasThrown = true;
-      }
+      const bool isDoneWell = succeeds(*game);
       lock.lock();
-      failures += hasThrown ? 1 : 0;
+      failures = isDoneWell ? 0 : failures + 1;
+      if (isDoneWell || isLeaving)
+        continue;
+      changed.wait_for(lock, kUntilNextTry, [this] { return isLeaving; });
+      if (next == nullptr)
+        next = game;
     }
     isDone = true;
     changed.notify_all();
+  }
+  bool succeeds(const RunningGame& game) const {
+    try {
+      return work(game);
+    } catch (...) { // whatever it is: the recorder goes on
+      return false;
+    }
   }
 };
 
@@ -58,7 +67,7 @@ GameFollower::~GameFollower() {
   m_desk->changed.wait_for(lock, kPatience, [this] { return m_desk->isDone; });
 }
 
-void GameFollower::take(std::shared_ptr<const CountedGame> game) {
+void GameFollower::take(std::shared_ptr<const RunningGame> game) {
   {
     const std::scoped_lock lock(m_desk->mutex);
     m_desk->next = std::move(game);

@@ -20,7 +20,7 @@ GameSession::Following GameSession::follow(GameFollower::Work work) {
   auto follower = std::make_shared<GameFollower>(std::move(work));
   m_followers.push_back(follower);
   if (!m_game.game().path.empty())
-    follower->take(std::make_shared<const CountedGame>(CountedGame{m_game.game(), m_game.state()}));
+    follower->take(std::make_shared<const RunningGame>(RunningGame::of(m_game)));
   return follower;
 }
 
@@ -75,7 +75,7 @@ void GameSession::tell(const GameNews& news) {
   }
   if (m_followers.empty() || !news.isOfGame())
     return;
-  const auto game = std::make_shared<const CountedGame>(CountedGame{m_game.game(), m_game.state()});
+  const auto game = std::make_shared<const RunningGame>(RunningGame::of(m_game));
   for (const auto& each : m_followers) {
     if (const auto follower = each.lock())
       follower->take(game);
