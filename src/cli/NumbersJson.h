@@ -1,11 +1,14 @@
-// The counters of a player, line or team as members of a JSON object, the same in a game and in a season.
+// The statistics of a player, line or team as members of a JSON object.
 #pragma once
 
 #include "cli/JsonWriter.h"
-#include "scorecard/BoxScore.h"
+#include "game/Statistics.h"
 
 namespace hooptab {
 
+// Those of a game's table, the same in a game and in a season.
 void writeNumbers(JsonWriter& json, const BoxNumbers& numbers);
+// Those that only a season's tables have.
+void writeSeasonNumbers(JsonWriter& json, const BoxNumbers& numbers);
 
 } // namespace hooptab

@@ -109,10 +109,7 @@ class SeasonJson {
   void writeSums(const SeasonRow& row, SeasonTable table) {
     m_json.member("games", row.games);
     writeNumbers(m_json, row.numbers);
-    for (const Statistic& statistic : statistics()) {
-      if (statistic.boxColumn == 0 && statistic.group == nullptr)
-        m_json.member(statistic.name, static_cast<int>(statistic.value(row.numbers).numerator));
-    }
+    writeSeasonNumbers(m_json, row.numbers);
     m_json.member("rank", row.rank);
     for (const SeasonView view : {SeasonView::PerGame, SeasonView::PerMinute, SeasonView::PerForty})
       writeAverages(row, table, view);

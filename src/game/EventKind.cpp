@@ -4,9 +4,10 @@ namespace hooptab {
 
 namespace {
 
-constexpr std::array<std::string_view, kCounterCount> kCounterNames = {
-    "FGM", "FGA", "FTM", "FTA", "F3M", "F3A", "LLM", "LLA", "LRM", "LRA", "PBM", "PBA",
-    "DKM", "DKA", "Ast", "BS",  "ST",  "TO",  "OR",  "DR",  "S1",  "S2",  "PF",  "TF"};
+constexpr std::string_view kCounterNames[] = {"FGM", "FGA", "FTM", "FTA", "F3M", "F3A", "LLM", "LLA",
+                                              "LRM", "LRA", "PBM", "PBA", "DKM", "DKA", "Ast", "BS",
+                                              "ST",  "TO",  "OR",  "DR",  "S1",  "S2",  "PF",  "TF"};
+static_assert(std::size(kCounterNames) == kCounterCount);
 
 } // namespace
 

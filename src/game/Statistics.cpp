@@ -59,14 +59,16 @@ constexpr StatisticValue ofShots(const BoxNumbers& of) {
 
 template <Group group, ShotPart part>
 constexpr Statistic shots(std::string_view name, std::string_view gameName, int boxColumn, int seasonColumn) {
-  return {name,
-          gameName,
-          part == ShotPart::Percent ? ValueKind::Percent : ValueKind::Count,
-          boxColumn,
-          seasonColumn,
-          ofShots<group, part>,
-          &kShotGroups[group],
-          part};
+  constexpr bool isPercent = part == ShotPart::Percent;
+  return {.name = name,
+          .gameName = gameName,
+          .kind = isPercent ? ValueKind::Percent : ValueKind::Count,
+          .boxColumn = boxColumn,
+          .seasonColumn = seasonColumn,
+          .value = ofShots<group, part>,
+          .group = &kShotGroups[group],
+          .part = part,
+          .tries = isPercent ? kShotGroups[group].kinds : 0U};
 }
 
 using enum ShotPart;
@@ -200,12 +202,6 @@ const Statistic& statisticNamed(std::string_view name) {
   if (found == std::end(kStatistics))
     throw std::invalid_argument("no statistic " + std::string(name));
   return *found;
-}
-
-const Statistic& attemptsOf(const ShotGroup& group) {
-  return *std::ranges::find_if(kStatistics, [&](const Statistic& statistic) {
-    return statistic.group == &group && statistic.part == ShotPart::Attempted;
-  });
 }
 
 } // namespace hooptab

@@ -52,7 +52,7 @@ struct BoxNumbers {
 enum class ValueKind : std::uint8_t {
   Count,   // whole; an average of it is not
   Time,    // seconds
-  Percent, // a part of the whole: 0.5 for 50 %; has no average
+  Percent, // 0.5 for 50 %; has no average
 };
 
 // Exactly, as a fraction. `denominator` 0: there is nothing to divide by.
@@ -90,6 +90,7 @@ struct Statistic {
   Text words = Text::None;  // none: of the kind of event, or of group and part
   Text title = Text::None;  // where the words are a whole formula
   int own = -1;             // which of the user's own two; -1: none of them
+  ShotKinds tries = 0;      // of a percentage: the shots that one must have tried to lead in it
 
   [[nodiscard]] bool isShotPart(ShotPart which) const { return group != nullptr && part == which; }
   [[nodiscard]] bool isOfAllShots() const { return group == shotGroups().data(); }
@@ -103,7 +104,5 @@ struct Statistic {
 [[nodiscard]] std::span<const Statistic> statistics();
 // By its name among a season's; throws std::invalid_argument for one that is in no table.
 [[nodiscard]] const Statistic& statisticNamed(std::string_view name);
-// The attempts that a percentage or points are of.
-[[nodiscard]] const Statistic& attemptsOf(const ShotGroup& group);
 
 } // namespace hooptab

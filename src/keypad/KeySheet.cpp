@@ -27,12 +27,13 @@ QString row(const QString& left, const QString& right) {
 } // namespace
 
 std::string wordsOfAction(KeypadAction action, const Texts& texts) {
-  constexpr Text kWords[kKeypadActions] = {Text::ClockKey,         Text::MainTeamKey,  Text::SecondaryTeamKey,
-                                           Text::ClearKey,         Text::PersonalFoul, Text::TechnicalFoul,
-                                           Text::BlockedShot,      Text::Steal,        Text::DefensiveRebound,
-                                           Text::OffensiveRebound, Text::Turnover,     Text::Assist,
-                                           Text::ComesIn,          Text::Leaves,       Text::AllOut,
-                                           Text::OtherOne,         Text::OtherTwo};
+  constexpr Text kWords[] = {Text::ClockKey,         Text::MainTeamKey,  Text::SecondaryTeamKey,
+                             Text::ClearKey,         Text::PersonalFoul, Text::TechnicalFoul,
+                             Text::BlockedShot,      Text::Steal,        Text::DefensiveRebound,
+                             Text::OffensiveRebound, Text::Turnover,     Text::Assist,
+                             Text::ComesIn,          Text::Leaves,       Text::AllOut,
+                             Text::OtherOne,         Text::OtherTwo};
+  static_assert(std::size(kWords) == kKeypadActions);
   return std::string(texts.text(kWords[static_cast<std::size_t>(action)]));
 }
 

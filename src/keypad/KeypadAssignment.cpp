@@ -9,7 +9,7 @@ namespace hooptab {
 
 namespace {
 
-constexpr KeypadActionWords kWords[kKeypadActions] = {
+constexpr KeypadActionWords kWords[] = {
     {Text::ClockKey, Text::ClockKeyTip},
     {Text::MainTeamKey, Text::MainConfirmTip},
     {Text::SecondaryTeamKey, Text::SecondaryConfirmTip},
@@ -28,9 +28,11 @@ constexpr KeypadActionWords kWords[kKeypadActions] = {
     {Text::None, Text::U1KeyTip},
     {Text::None, Text::U2KeyTip},
 };
+static_assert(std::size(kWords) == kKeypadActions);
 
 // Where the English word has no letter left, one that is near: V turnover, Z all, Y and W the user's own.
-constexpr const char* kFirstLetters = "FTBSDOVAIEZYWX";
+constexpr std::string_view kFirstLetters = "FTBSDOVAIEZYWX";
+static_assert(kFirstLetters.size() == LetterAssignment::kCount);
 
 } // namespace
 

@@ -39,7 +39,7 @@ constexpr int kTotalsTop = 259;
 constexpr double kRadius = 7;
 constexpr int kTeamEdge = 3;
 
-constexpr int kActionRows = static_cast<int>(kActionControls.size()) / 2;
+constexpr int kActionRows = (static_cast<int>(kActionControls.size()) + 1) / 2;
 constexpr int kShotButtons = 5;
 
 QString shortName(EventCode code) {
@@ -325,7 +325,7 @@ void PlayerPanel::layOut() {
   };
   const int left = std::max(courtRoom.left() + courtWidth + gap + 1, across(kActionsLeft));
   const QRect actions(left, courtRoom.top(), width() - left - across(kEdge), courtRoom.height());
-  for (int i = 0; i < kActionRows * 2; ++i) {
+  for (int i = 0; i < static_cast<int>(kActionControls.size()); ++i) {
     const int x = share(actions.width(), 2, i % 2);
     const int y = share(actions.height(), kActionRows, i / 2);
     m_buttons[kActionControls[static_cast<std::size_t>(i)].code]->setGeometry(

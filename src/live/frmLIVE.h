@@ -60,7 +60,8 @@ class frmLIVE : public ChildWindow {
   bool writeCopy(const QString& path);
   void writePending() { m_session.change()->settle(); }
   [[nodiscard]] GameHold& hold() const;
-  GameFileProblem problem() const { return m_problem; } // after Problem
+  [[nodiscard]] GameSession& session() { return m_session; } // for whoever listens or follows
+  GameFileProblem problem() const { return m_problem; }      // after Problem
   QString path() const;
   const Game& game() const { return m_game.game(); } // as recorded so far
   const GameState& state() const { return m_game.state(); }

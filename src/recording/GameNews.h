@@ -1,4 +1,4 @@
-// What has come of one change to a running game.
+// What has come of one change to a running game. The time that passes is none.
 #pragma once
 
 #include "game/GameOnDisk.h"

@@ -39,14 +39,15 @@ class GameSession {
   // `session.change()->recordShot(...)` is whole with its statement.
   [[nodiscard]] Change change() { return Change(*this); }
 
-  // Called where the change is made, until what is returned goes. One that throws harms no other: what it
-  // threw goes to `onFailure`. It may change the game: then all hear of that, too, afterwards.
+  // Called where the change is made, before those that follow, until what is returned goes; not for how the
+  // game stands now, which game() tells. One that throws harms no other: what it threw goes to `onFailure`.
+  // It may change the game: then all hear of that, too, afterwards.
   using Listener = std::function<void(const GameNews& news)>;
   using Listening = std::shared_ptr<const Listener>;
   [[nodiscard]] Listening listen(Listener listener);
   void onFailure(std::function<void(std::exception_ptr)> handler) { m_onFailure = std::move(handler); }
-  // For whatever may take long: gets the game, counted, after each change of events, clock, line-up or
-  // details, and as it stands now; until what is returned goes.
+  // For whatever may take long: gets the game as it stands now, where one is open, and after each change of
+  // it (GameNews::isOfGame); until what is returned goes.
   using Following = std::shared_ptr<GameFollower>;
   [[nodiscard]] Following follow(GameFollower::Work work);
 

@@ -342,4 +342,25 @@ Report playByPlayReport(const CountedGame& counted, const Texts& texts) {
   return report;
 }
 
+std::span<const GameReport> gameReports() {
+  using Counted = std::shared_ptr<const CountedGame>;
+  static constexpr GameReport kReports[] = {
+      {"scorecard", Text::Scorecard,
+       [](const Counted& counted, const ScorecardView& choice, const Settings& settings, const Texts& texts) {
+         return scorecardReport(counted, choice, settings, texts);
+       }},
+      {"scorecard-lines", Text::None,
+       [](const Counted& counted, const ScorecardView& choice, const Settings& settings, const Texts& texts) {
+         ScorecardView byLine = choice;
+         byLine.setView(BoxView::Lines);
+         return scorecardReport(counted, byLine, settings, texts);
+       }},
+      {"play-by-play", Text::PlayByPlay,
+       [](const Counted& counted, const ScorecardView&, const Settings&, const Texts& texts) {
+         return playByPlayReport(*counted, texts);
+       }},
+  };
+  return kReports;
+}
+
 } // namespace hooptab

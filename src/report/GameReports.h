@@ -7,6 +7,9 @@
 #include "scorecard/ScorecardView.h"
 #include "settings/Settings.h"
 
+#include <span>
+#include <string_view>
+
 namespace hooptab {
 
 // Both teams' box scores by player or by line, points and fouls by period, leads, leaders of the game, score
@@ -17,5 +20,14 @@ namespace hooptab {
 
 // Every event that is not deleted, with the score where it changed.
 [[nodiscard]] Report playByPlayReport(const CountedGame& counted, const Texts& texts);
+
+// The reports of one game, in the order in which they are offered.
+struct GameReport {
+  std::string_view word; // on the command line
+  Text name;             // in the preview; none: on the command line alone
+  Report (*make)(const std::shared_ptr<const CountedGame>& counted, const ScorecardView& choice,
+                 const Settings& settings, const Texts& texts);
+};
+[[nodiscard]] std::span<const GameReport> gameReports();
 
 } // namespace hooptab

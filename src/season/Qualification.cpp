@@ -9,8 +9,8 @@ constexpr std::int64_t kSecondsPerMinute = 60;
 } // namespace
 
 bool Qualification::isMet(const SeasonRow& row, int column, SeasonView view) const {
-  if (const Statistic& led = *seasonColumn(column).statistic; led.isShotPart(ShotPart::Percent)) {
-    const std::int64_t tried = led.value(row.numbers).denominator;
+  if (const Statistic& led = *seasonColumn(column).statistic; led.tries != 0) {
+    const std::int64_t tried = row.numbers.attempted(led.tries);
     return tried >= std::int64_t{attempts} * row.teamGames;
   }
   return !isUnder(row, SeasonTable::Players, view);

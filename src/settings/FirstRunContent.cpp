@@ -96,10 +96,16 @@ void add(ProfileBatch& batch, const std::string& section, std::span<const Line> 
 } // namespace
 
 const KeypadKeyTexts& firstKeypadKeyTexts() {
-  static const KeypadKeyTexts texts = {
+  static constexpr const char* kTexts[] = {
       "13-ENTER",   "8-BACK",   "109-MINUS", "107-PLUS",   "105-9-PAGEUP", "102-6-RIGHT",
       "103-7-HOME", "104-8-UP", "98-2-DOWN", "97-1-END",   "99-3-HOME",    "110-.-DELETE",
       "111-DIVISE", "106-MULT", "96-0-INS",  "100-4-LEFT", "101-5-CLEAR"};
+  static_assert(std::size(kTexts) == kKeypadKeys.size());
+  static const KeypadKeyTexts texts = [] {
+    KeypadKeyTexts all;
+    std::ranges::copy(kTexts, all.begin());
+    return all;
+  }();
   return texts;
 }
 
@@ -109,7 +115,7 @@ ProfileBatch firstRunContent(const Texts& texts, const std::string& folder) {
     return Line{kKeypadKeys[place], firstKeypadKeyTexts()[place]};
   };
   constexpr std::size_t kSecondTeam = 2; // stands behind the others, as do the user's statistics
-  constexpr std::size_t kFirstOfUser = 15;
+  constexpr std::size_t kFirstOfUser = kKeypadKeys.size() - 2;
   std::vector<Line> choices = {{"LANGUE", "0"}, {"SAVEREBOUND", "False"}};
   for (std::size_t place = 0; place < kFirstOfUser; ++place) {
     if (place != kSecondTeam)

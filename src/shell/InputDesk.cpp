@@ -64,9 +64,8 @@ void InputDesk::serve(CommandBar& commands) {
   whileLive(CommandId::SwitchSides, [](frmLIVE& window) { window.switchSides(); });
   whileLive(CommandId::GameOver, [](frmLIVE& window) { window.gameOver(); });
   whileLive(CommandId::PrintGame, [this](const frmLIVE& window) {
-    m_preview.show(
-        gameReports(std::make_shared<const CountedGame>(CountedGame{window.game(), window.state()}),
-                    ScorecardView(m_workshop.texts), m_workshop.settings, m_workshop.texts));
+    m_preview.show(gameOffers(std::make_shared<const CountedGame>(CountedGame{window.game(), window.state()}),
+                              ScorecardView(m_workshop.texts), m_workshop.settings, m_workshop.texts));
   });
   const auto whileManual = [&](CommandId id, auto act) {
     commands.serve(id, this, [this, act] {

@@ -40,7 +40,7 @@ PreviewDesk::PreviewDesk(const Workshop& workshop, TeamStore& teams, WindowArea&
 void PreviewDesk::serve(CommandBar& commands) {
   commands.serve(CommandId::PrintScorecard, this, [this] {
     if (const auto* view = qobject_cast<frmVIEW*>(m_area.front()))
-      show(gameReports(view->card().counted(), view->choice(), m_workshop.settings, m_workshop.texts));
+      show(gameOffers(view->card().counted(), view->choice(), m_workshop.settings, m_workshop.texts));
   });
   for (const auto& [command, report] : kReportCommands) {
     commands.serve(command, this, [this, report = report] {

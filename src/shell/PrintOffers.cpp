@@ -22,11 +22,16 @@ struct Team {
 
 } // namespace
 
-std::vector<ReportOffer> gameReports(std::shared_ptr<const CountedGame> game, const ScorecardView& choice,
-                                     const Settings& settings, const Texts& texts) {
-  return {named(Text::Scorecard, texts,
-                [=, &settings, &texts] { return scorecardReport(game, choice, settings, texts); }),
-          named(Text::PlayByPlay, texts, [=, &texts] { return playByPlayReport(*game, texts); })};
+std::vector<ReportOffer> gameOffers(std::shared_ptr<const CountedGame> game, const ScorecardView& choice,
+                                    const Settings& settings, const Texts& texts) {
+  std::vector<ReportOffer> offers;
+  for (const GameReport& report : gameReports()) {
+    if (report.name != Text::None)
+      offers.push_back(named(report.name, texts, [=, &settings, &texts, make = report.make] {
+        return make(game, choice, settings, texts);
+      }));
+  }
+  return offers;
 }
 
 std::vector<ReportOffer> teamReports(const TeamRecord& team, const std::vector<TeamPlayer>& players,

@@ -18,9 +18,9 @@
 namespace hooptab {
 
 // Settings and texts must outlive the offers.
-[[nodiscard]] std::vector<ReportOffer> gameReports(std::shared_ptr<const CountedGame> game,
-                                                   const ScorecardView& choice, const Settings& settings,
-                                                   const Texts& texts);
+[[nodiscard]] std::vector<ReportOffer> gameOffers(std::shared_ptr<const CountedGame> game,
+                                                  const ScorecardView& choice, const Settings& settings,
+                                                  const Texts& texts);
 // Roster, prepared forms, blank forms.
 [[nodiscard]] std::vector<ReportOffer>
 teamReports(const TeamRecord& team, const std::vector<TeamPlayer>& players, const Texts& texts);

@@ -51,7 +51,7 @@ class ReportRun {
       form = ReportForm::CsvFrench;
     if (!form)
       return complain(kWrongUse, words(Text::UnknownFormat, m_request.format));
-    if (isOfGame() && std::filesystem::is_directory(m_request.source, m_ignored))
+    if (ofGame() != nullptr && std::filesystem::is_directory(m_request.source, m_ignored))
       return writeEachGame(*form);
     Report report;
     if (const int status = make(report); status != kGood)
@@ -73,9 +73,10 @@ class ReportRun {
     return complain(kWrongUse, words(Text::OptionNeeds, "--report " + m_request.kind, what));
   }
 
-  bool isOfGame() const {
-    const std::string& kind = m_request.kind;
-    return kind == "scorecard" || kind == "scorecard-lines" || kind == "play-by-play";
+  // Of one game; null for any other.
+  const GameReport* ofGame() const {
+    const auto found = std::ranges::find(gameReports(), m_request.kind, &GameReport::word);
+    return found == gameReports().end() ? nullptr : &*found;
   }
 
   // A file for each game of the folder, finished or not, under the name that the preview would propose. One
@@ -115,7 +116,7 @@ class ReportRun {
 
   int make(Report& report) {
     const std::string& kind = m_request.kind;
-    if (isOfGame())
+    if (ofGame() != nullptr)
       return makeOfGame(m_request.source, report);
     if (kind == "blank-forms") {
       report = blankForms(m_texts);
@@ -182,14 +183,7 @@ class ReportRun {
     Scorecard card(m_store, path);
     if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None)
       return complainOf(kFailed, path, reasonOf(problem));
-    if (m_request.kind == "play-by-play") {
-      report = playByPlayReport(*card.counted(), m_texts);
-      return kGood;
-    }
-    ScorecardView view(m_texts);
-    if (m_request.kind == "scorecard-lines")
-      view.setView(BoxView::Lines);
-    report = scorecardReport(card.counted(), view, m_settings, m_texts);
+    report = ofGame()->make(card.counted(), ScorecardView(m_texts), m_settings, m_texts);
     return kGood;
   }
   int makeOfTeam(Report& report) {

@@ -45,5 +45,6 @@ inline constexpr std::array<ManualColumn, kCounterCount> kManualColumns = {{
     {Counter::S1, EventCode::SU1, true, 2, "lblAUTRE", "cmdBUTU1", Text::OwnCount},
     {Counter::S2, EventCode::SU2, true, 2, "lblAUTRE2", "cmdBUTU2", Text::OwnCount},
 }};
+static_assert(kManualColumns.back().code != EventCode::Unknown, "a counter without a column");
 
 } // namespace hooptab

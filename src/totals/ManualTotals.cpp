@@ -17,6 +17,8 @@ constexpr EventCode kCounted[] = {
     EventCode::GDK, EventCode::GPB, EventCode::GLG, EventCode::GLD, EventCode::GFT,
 };
 constexpr EventCode kPlaced[] = {EventCode::GFG, EventCode::GF3};
+static_assert(std::size(kCounted) + std::size(kPlaced) == kEventKinds.size(),
+              "a kind that would not be written");
 constexpr std::string_view kClock = "00:00";
 
 bool isFull(int count) {

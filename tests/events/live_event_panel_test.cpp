@@ -67,7 +67,8 @@ class LiveEventPanelTest : public LiveRoom<UnsyncedFileSystem> {
   }
 
   std::string path = folder.path("live.GAM");
-  LiveGame live{store, time};
+  GameSession session{store, time};
+  LiveGame& live = *session.change(); // what others do to it
   LiveEventPanel panel{texts};
 };
 
@@ -248,7 +249,7 @@ TEST_F(LiveEventPanelTest, LeadsToWhatMendsAFinding) {
 
 TEST_F(LiveEventPanelTest, AForgottenSubstitutionIsChosenAtItsPlace) {
   QWidget window;
-  const EventRequests requests(live, panel, settings, texts, dialogs, window);
+  const EventRequests requests(session, panel, settings, texts, dialogs, window);
   const auto dialog = [&window]() -> frmSUBST& { return *window.findChild<frmSUBST*>(); };
   const auto press = [&](const char* name) {
     QTest::mouseClick(&LiveRoom::find(dialog(), name), Qt::LeftButton);

@@ -101,24 +101,31 @@ TEST_F(GameSessionTest, AListenerThatThrowsChangesOrLeavesHarmsNobody) {
 TEST_F(GameSessionTest, WhoFollowsGetsTheLastGameAndNobodyWaitsForHim) {
   std::promise<void> go;
   std::promise<int> lastPoints;
-  auto mayGo = go.get_future().share();
   int games = 0;
-  const auto follower = session.follow([&, mayGo](const std::shared_ptr<const CountedGame>& game) {
+  auto follower = session.follow([&, mayGo = go.get_future().share()](const RunningGame& game) {
     mayGo.wait();
     if (++games == 1)
       throw std::runtime_error("at the first");
-    lastPoints.set_value(game->state.points(0));
+    if (games == 3)
+      lastPoints.set_value(game.counted.state.points(0) + 100 * game.clockSeconds);
+    return games > 2;
   });
   for (int shot = 0; shot < 5; ++shot)
     EXPECT_TRUE(session.change()->recordShot(0, 1, EventCode::GFT, true)) << "while he is at work";
+  session.change()->setClock(300);
   go.set_value();
-  EXPECT_EQ(lastPoints.get_future().get(), 5) << "and not one game after the other";
-  EXPECT_EQ(follower->failures(), 1);
+  EXPECT_EQ(lastPoints.get_future().get(), 30005)
+      << "and not one game after the other; again after a failure";
+  follower.reset();
+  EXPECT_EQ(games, 3);
 
   const auto begin = std::chrono::steady_clock::now();
   {
     auto never = std::make_shared<std::promise<void>>();
-    const auto hanging = session.follow([never](const auto&) { never->get_future().wait_for(1h); });
+    const auto hanging = session.follow([never](const RunningGame&) {
+      never->get_future().wait_for(1h);
+      return true;
+    });
     EXPECT_TRUE(session.change()->recordShot(0, 1, EventCode::GFT, true));
   }
   EXPECT_LT(std::chrono::steady_clock::now() - begin, 1min) << "one that hangs is left";
