@@ -1,5 +1,8 @@
 #include "cli/NumbersJson.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace hooptab {
 
 namespace {
@@ -8,6 +11,25 @@ namespace {
 bool follows(const Statistic& statistic) {
   return statistic.isShotPart(ShotPart::Percent) ||
          (statistic.isShotPart(ShotPart::Points) && !statistic.isOfAllShots());
+}
+
+// Of a game's table, in the order that readers know; what is not in it stands behind.
+const std::vector<const Statistic*>& inOrder() {
+  static const auto kInOrder = [] {
+    constexpr std::string_view kKnown[] = {"Time", "FGM", "FGA", "F3M", "F3A",   "FTM", "FTA", "LLM",
+                                           "LLA",  "LRM", "LRA", "PBM", "PBA",   "DKM", "DKA", "M",
+                                           "A",    "PTS", "Ast", "BS",  "ST",    "TO",  "OR",  "DR",
+                                           "S1",   "S2",  "PF",  "TF",  "rating"};
+    std::vector<const Statistic*> all;
+    for (const Statistic& statistic : statistics()) {
+      if (statistic.boxColumn > 0 && !follows(statistic))
+        all.push_back(&statistic);
+    }
+    std::ranges::stable_sort(
+        all, {}, [&](const Statistic* each) { return std::ranges::find(kKnown, each->gameName) - kKnown; });
+    return all;
+  }();
+  return kInOrder;
 }
 
 void write(JsonWriter& json, std::string_view name, const Statistic& statistic, const BoxNumbers& numbers) {
@@ -21,10 +43,8 @@ void write(JsonWriter& json, std::string_view name, const Statistic& statistic, 
 } // namespace
 
 void writeNumbers(JsonWriter& json, const BoxNumbers& numbers) {
-  for (const Statistic& statistic : statistics()) {
-    if (statistic.boxColumn > 0 && !follows(statistic))
-      write(json, statistic.kind == ValueKind::Time ? "seconds" : statistic.gameName, statistic, numbers);
-  }
+  for (const Statistic* statistic : inOrder())
+    write(json, statistic->kind == ValueKind::Time ? "seconds" : statistic->gameName, *statistic, numbers);
 }
 
 void writeSeasonNumbers(JsonWriter& json, const BoxNumbers& numbers) {
