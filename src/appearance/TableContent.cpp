@@ -72,8 +72,11 @@ TableContent::Cell cellOf(const QModelIndex& index) {
   const QVariant kind = index.data(kTableKindRole);
   if (!kind.isValid() || isBlank(cell.text))
     return cell;
+  const QVariant value = index.data(kTableSortRole);
+  if (value.typeId() != QMetaType::Double)
+    return cell;
   cell.kind = static_cast<TableKind>(kind.toInt());
-  cell.value = index.data(kTableSortRole).toDouble();
+  cell.value = value.toDouble();
   if (cell.kind == TableKind::Percent)
     cell.value = std::max(cell.value, 0.0); // without attempts it sorts below 0 %
   return cell;

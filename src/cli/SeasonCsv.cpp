@@ -37,7 +37,7 @@ class SeasonCsv {
   }
   void addRows(SeasonTable table) {
     const bool isOfLines = table == SeasonTable::Lines;
-    const std::vector<int>& columns = seasonTableColumns(table);
+    const std::vector<int>& columns = columnsOfTable(table);
     for (const SeasonView view : kSeasonViews) {
       const std::string viewName = word(seasonViewName(view), kViews[static_cast<std::size_t>(view)]);
       for (const SeasonRow& row : isOfLines ? m_statistics.lines() : m_statistics.players()) {

@@ -86,7 +86,7 @@ class SeasonText {
     std::vector<int> columns;
     for (const std::string_view name : kColumns) {
       const int column = seasonColumn(name).index;
-      if (std::ranges::find(seasonTableColumns(kind), column) != seasonTableColumns(kind).end())
+      if (std::ranges::find(columnsOfTable(kind), column) != columnsOfTable(kind).end())
         columns.push_back(column);
     }
     TextTable table;

@@ -77,7 +77,7 @@ QToolButton* CorrectionBar::makeButton(const char* name, Text text) {
 }
 
 bool CorrectionBar::begin(const EventPlace& event) {
-  if (!m_correction.begin(*m_session.change(), event))
+  if (!m_correction.begin(m_session, event))
     return false;
   showStep();
   return true;

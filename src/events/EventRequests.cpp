@@ -28,9 +28,11 @@ EventRequests::EventRequests(GameSession& session, LiveEventPanel& panel, const 
   connect(&panel, &LiveEventPanel::substitutionAsked, this, &EventRequests::askWho);
   connect(&panel, &LiveEventPanel::acceptAsked, this, [this](const EventPlace& event, int finding) {
     m_session.change()->acceptFinding(event, finding);
+    emit done();
   });
   connect(&panel, &LiveEventPanel::doubtAsked, this, [this](const EventPlace& event, bool isDoubtful) {
     m_session.change()->setDoubtful(event, isDoubtful);
+    emit done();
   });
 }
 
@@ -39,7 +41,9 @@ void EventRequests::putIn(const EventPlace& event, int team, int player) {
 }
 
 void EventRequests::take(const EditPlan& plan) {
-  if (m_session.change()->take(plan))
+  const bool isTaken = m_session.change()->take(plan);
+  emit done();
+  if (isTaken)
     return;
   QString words = caption(m_texts, Text::DoesNotFit);
   if (plan.conflict)
@@ -52,6 +56,7 @@ void EventRequests::takeBack(bool (LiveGame::*step)()) {
   const std::optional<LiveAction> undone = game().toUndo();
   const bool isStart = step == &LiveGame::undo && undone && undone->start;
   const bool isDone = (*m_session.change().*step)();
+  emit done();
   m_panel.leaveDeleted();
   if (isStart && isDone)
     emit startTakenBack();

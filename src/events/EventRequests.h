@@ -28,6 +28,7 @@ class EventRequests : public QObject {
   void putIn(const EventPlace& event, int team, int player);
 
  signals:
+  void done(); // or refused: the game may be another now
   void startTakenBack();
   void clockAsked(); // by its key, while a dialog is in front
 

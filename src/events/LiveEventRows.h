@@ -44,7 +44,7 @@ struct EventFilter {
 class LiveEventRows : public QSortFilterProxyModel {
   Q_OBJECT
  public:
-  enum Role { HasFinding = Qt::UserRole, Whole }; // a doubtful one has a finding, too; a LiveEventRow
+  enum Role { HasFinding = kTableKindRole + 1, Whole }; // a doubtful one has a finding, too; a LiveEventRow
 
   // `texts` must outlive it.
   explicit LiveEventRows(const Texts& texts, QObject* parent = nullptr);

@@ -86,9 +86,11 @@ QString EventListModel::text(std::size_t event, int column) const {
 
 // An overtime is a name.
 TableKind EventListModel::kindOf(std::size_t event, int column) const {
-  if (column == Clock)
+  const GameEvent& shown = m_game.events[event];
+  const GameDetails& details = m_game.details;
+  if (column == Clock && shown.isUnderstood && details.minutesPerPeriod > 0)
     return TableKind::Time;
-  const bool isNumber = column == Period && m_game.events[event].period <= m_game.details.periods;
+  const bool isNumber = column == Period && (details.periods <= 0 || shown.period <= details.periods);
   return isNumber ? TableKind::Number : TableKind::Text;
 }
 
@@ -99,8 +101,7 @@ QVariant EventListModel::data(const QModelIndex& index, int role) const {
   const GameEvent& event = m_game.events[place];
   switch (role) {
   case Qt::DisplayRole: return text(place, index.column());
-  case kTableKindRole:
-    return static_cast<int>(event.isUnderstood ? kindOf(place, index.column()) : TableKind::Text);
+  case kTableKindRole: return static_cast<int>(kindOf(place, index.column()));
   case kTableSortRole: return index.column() == Clock ? double(event.clockSeconds) : double(event.period);
   case Qt::AccessibleTextRole:
   case Qt::ToolTipRole: return index.column() == Action ? toQt(m_words.words(place)) : QVariant();

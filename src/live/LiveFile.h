@@ -21,7 +21,7 @@ class Texts;
 class LiveFile : public QObject {
   Q_OBJECT
  public:
-  // All must outlive it, but the strip that it shows above the window's parts.
+  // All must outlive it.
   LiveFile(GameSession& session, FileSystem& files, const Texts& texts, Dialogs& dialogs, NowStrip& now,
            LiveNotices& notices, QWidget& window);
 

@@ -38,6 +38,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <bit>
 #include <chrono>
@@ -158,10 +159,14 @@ void frmLIVE::connectEverything() {
     showGame(); // also where it was refused
   });
   connect(m_notices, &LiveNotices::clockChosen, this, [this](int seconds) {
+    const LiveGame::Phase before = m_game.phase();
     m_offersClock = false;
-    const auto change = m_session.change();
-    if (!change->settleStop(seconds))
-      change->setClock(seconds); // it was stopped when the window was closed
+    {
+      const auto change = m_session.change();
+      if (!change->settleStop(seconds))
+        change->setClock(seconds); // it was stopped when the window was closed
+    }
+    withdrawAfter(before);
   });
   connect(m_score, &ScorePanel::colourAsked, this, &frmLIVE::chooseColour);
   connect(m_bench, &BenchPanel::toggled, this, [this](int team, int player) {
@@ -174,6 +179,7 @@ void frmLIVE::connectEverything() {
   connect(m_bench, &BenchPanel::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_bench, &BenchPanel::selected, this, &frmLIVE::showSelected);
   connect(m_bench, &BenchPanel::actionAsked, this, &frmLIVE::record);
+  connect(m_requests, &EventRequests::done, this, [this] { m_notices->message().withdraw(); });
   connect(m_requests, &EventRequests::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_requests, &EventRequests::startTakenBack, this, [this] { say(Text::StartTakenBack); });
   connect(m_sides, &SideSwitch::rowsStayAsked, this, [this](bool stay) {
@@ -240,9 +246,10 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
   m_afterQuestion = {};
   m_followUp->dismiss();
   const qint64 fileTime = QFileInfo(path).lastModified().toSecsSinceEpoch();
-  m_isOpening = true;
-  m_problem = m_file->open(path, std::move(lock));
-  m_isOpening = false;
+  {
+    const QScopedValueRollback<bool> opening(m_isOpening, true);
+    m_problem = m_file->open(path, std::move(lock));
+  }
   if (m_problem != GameFileProblem::None)
     return Opening::Problem;
   m_notices->forget();
@@ -291,8 +298,6 @@ void frmLIVE::hear(const GameNews& news) {
     return;
   if (!news.isOfGame())
     return m_file->show();
-  if (!news.foreign.isTouched && (news.hasEvents() || news.phase || news.details))
-    m_notices->message().withdraw(); // what it was about is over
   showGame();
 }
 
@@ -373,6 +378,7 @@ void frmLIVE::toggleClock() {
   if (before == LiveGame::Phase::OvertimeAsked)
     return askOvertime();
   m_session.change()->toggleClock();
+  withdrawAfter(before);
   tellMissing();
 }
 
@@ -390,8 +396,15 @@ void frmLIVE::tell(const QString& words) {
 }
 
 void frmLIVE::tick() {
+  const LiveGame::Phase before = m_game.phase();
   m_session.change()->tick();
+  withdrawAfter(before);
   showTime();
+}
+
+void frmLIVE::withdrawAfter(LiveGame::Phase before) {
+  if (m_game.phase() != before)
+    m_notices->message().withdraw(); // what it was about is over
 }
 
 // The card comes with the end of a period, and goes when the next one begins.

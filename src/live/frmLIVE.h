@@ -117,6 +117,7 @@ class frmLIVE : public ChildWindow {
   void say(Text text);
   void setOnCourt(const OnCourt& onCourt);
   void hear(const GameNews& news);
+  void withdrawAfter(LiveGame::Phase before);
   void afterShot(int team, int player, EventCode kind, bool isMade);
   void offerToPutIn(const EventPlace& event, int team, int player);
   void askBenchShot(int team, int player, const QPoint& place);

@@ -78,6 +78,7 @@ void frmLIVE::connectCard() {
 void frmLIVE::connectKeys() {
   connect(m_keys, &LiveKeys::clockPressed, this, &frmLIVE::toggleClock);
   connect(m_keys, &LiveKeys::recorded, this, [this](const KeypadOrder& order) {
+    m_notices->message().withdraw();
     if (order.kind == KeypadOrder::Kind::Shot)
       afterShot(order.team, order.player, order.code, order.isMade);
   });

@@ -29,7 +29,10 @@ class CourtSlots {
   // Who stands in one of two places of a team stands in the other.
   void exchange(int slot, int other);
 
-  friend bool operator==(const CourtSlots&, const CourtSlots&) = default;
+  // The same players at the same places.
+  friend bool operator==(const CourtSlots& one, const CourtSlots& other) {
+    return one.m_players == other.m_players;
+  }
 
  private:
   bool m_keepsPlaces = false;

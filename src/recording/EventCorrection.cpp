@@ -45,11 +45,12 @@ std::optional<EventPlace> EventCorrection::lastOf(const LiveGame& game) {
   return EventPlace{last->period, std::string(last->key)};
 }
 
-bool EventCorrection::begin(LiveGame& game, const EventPlace& event) {
+bool EventCorrection::begin(GameSession& session, const EventPlace& event) {
   end();
-  if (!canCorrect(game, event))
+  if (!canCorrect(session.game(), event))
     return false;
-  m_game = &game;
+  m_session = &session;
+  m_game = &session.game();
   m_event = event;
   return true;
 }
@@ -142,7 +143,7 @@ EventCorrection::Outcome EventCorrection::refuse(Refusal refusal) {
 }
 
 EventCorrection::Outcome EventCorrection::take(const EditPlan& plan) {
-  if (!m_game->take(plan))
+  if (!m_session->change()->take(plan))
     return refuse({.text = Text::CannotRecord});
   m_typed.clear();
   return Outcome::Changed;
@@ -154,7 +155,7 @@ EventCorrection::Outcome EventCorrection::change(const Said& wanted) {
   const Said old = said();
   if (wanted == old)
     return Outcome::Same;
-  m_game->writePending();
+  m_session->change()->writePending();
   const EventList& events = m_game->game().events;
   if (const auto behind = followUpOf(events, index())) {
     const Said followUp = saidBy(events[*behind]);
@@ -171,7 +172,7 @@ EventCorrection::Outcome EventCorrection::decide(Remedy remedy) {
   const std::optional<Asked> asked = std::exchange(m_asked, std::nullopt);
   if (!asked || !isActive() || (remedy == Remedy::Adapt && !asked->adapted))
     return Outcome::None;
-  m_game->writePending();
+  m_session->change()->writePending();
   EditPlan plan = planOf(m_event, asked->wanted);
   if (remedy != Remedy::Keep) {
     const EditPlan more = remedy == Remedy::Delete

@@ -5,7 +5,7 @@
 // how long a correction stays open is the window's affair.
 #pragma once
 
-#include "recording/LiveGame.h"
+#include "recording/GameSession.h"
 #include "settings/Texts.h"
 
 #include <optional>
@@ -44,7 +44,7 @@ class EventCorrection {
   [[nodiscard]] static std::optional<EventPlace> lastOf(const LiveGame& game);
 
   // False, and nothing is in correction, where it cannot be. The game must outlive the correction.
-  bool begin(LiveGame& game, const EventPlace& event);
+  bool begin(GameSession& session, const EventPlace& event);
   void end();
   // No longer, too, when the event was deleted or the game closed in the meantime.
   [[nodiscard]] bool isActive() const;
@@ -113,7 +113,8 @@ class EventCorrection {
   Outcome takeTyped(const Who& who);
   Outcome refuse(Refusal refusal);
 
-  LiveGame* m_game = nullptr;
+  GameSession* m_session = nullptr;
+  const LiveGame* m_game = nullptr; // the session's
   EventPlace m_event;
   std::optional<Asked> m_asked;
   std::string m_typed;

@@ -65,6 +65,7 @@ GameFollower::~GameFollower() {
   m_desk->isLeaving = true;
   m_desk->changed.notify_all();
   m_desk->changed.wait_for(lock, kPatience, [this] { return m_desk->isDone; });
+  m_desk->next = nullptr;
 }
 
 void GameFollower::take(std::shared_ptr<const RunningGame> game) {

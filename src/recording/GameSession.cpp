@@ -49,13 +49,22 @@ void GameSession::end() noexcept {
   if (--m_changes > 0 || m_isTelling)
     return;
   m_isTelling = true;
-  for (int round = 0; round < kMostRounds; ++round) {
-    const GameNews news = takeNews();
-    if (news.isEmpty())
-      break;
-    tell(news);
+  try {
+    for (int round = 0; round < kMostRounds; ++round) {
+      const GameNews news = takeNews();
+      if (news.isEmpty())
+        break;
+      tell(news);
+    }
+  } catch (...) {
+    fail();
   }
   m_isTelling = false;
+}
+
+void GameSession::fail() const noexcept {
+  if (m_onFailure)
+    m_onFailure(std::current_exception());
 }
 
 void GameSession::tell(const GameNews& news) {
@@ -69,8 +78,7 @@ void GameSession::tell(const GameNews& news) {
     try {
       (*listener)(news);
     } catch (...) {
-      if (m_onFailure)
-        m_onFailure(std::current_exception());
+      fail();
     }
   }
   if (m_followers.empty() || !news.isOfGame())

@@ -68,6 +68,7 @@ class GameSession {
   void end() noexcept;
   [[nodiscard]] GameNews takeNews();
   void tell(const GameNews& news);
+  void fail() const noexcept; // with what was thrown
 
   LiveGame m_game;
   int m_changes = 0; // that are under way

@@ -7,6 +7,7 @@
 #include "scorecard/ScorecardView.h"
 #include "settings/Settings.h"
 
+#include <memory>
 #include <span>
 #include <string_view>
 

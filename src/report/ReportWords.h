@@ -1,4 +1,4 @@
-// Words that several kinds of reports are made of. Knows neither games nor seasons.
+// Words that several kinds of reports are made of. Knows no game and no season.
 #pragma once
 
 #include "game/Statistics.h"

@@ -71,7 +71,7 @@ std::span<const SeasonColumn> seasonColumns() {
   return kColumns;
 }
 
-const std::vector<int>& seasonTableColumns(SeasonTable table) {
+const std::vector<int>& columnsOfTable(SeasonTable table) {
   static const auto kOfTables = [] {
     std::array<std::vector<int>, 2> columns;
     for (const SeasonColumn& column : seasonColumns()) {

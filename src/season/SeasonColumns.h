@@ -39,7 +39,7 @@ inline constexpr int kGamesColumn = 4;
 [[nodiscard]] std::span<const SeasonColumn> seasonColumns();
 enum class SeasonTable : std::uint8_t { Players, Lines };
 // The columns of a table, in their order: lines have no positions.
-[[nodiscard]] const std::vector<int>& seasonTableColumns(SeasonTable table);
+[[nodiscard]] const std::vector<int>& columnsOfTable(SeasonTable table);
 // What was counted, in its order: the columns of statistics but the time.
 [[nodiscard]] const std::vector<int>& countColumns();
 // Header and width differ between the two tables in the first two columns.
@@ -55,4 +55,5 @@ enum class SeasonTable : std::uint8_t { Players, Lines };
 // The number by which a column sorts; columns of texts sort by their text.
 [[nodiscard]] double seasonSortValue(const SeasonRow& row, int column, SeasonView view);
 [[nodiscard]] bool seasonColumnIsText(int column);
+
 } // namespace hooptab

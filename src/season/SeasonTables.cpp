@@ -5,7 +5,6 @@
 #include "scorecard/ColumnWords.h"
 #include "season/SeasonDesk.h"
 #include "season/SeasonWords.h"
-#include "storage/Module1.h"
 
 #include <algorithm>
 
@@ -76,7 +75,7 @@ TableColumn numberColumn(const QString& header, const QString& longest = QString
 
 // The season column at a place of the window's table; 0 for the team, which stands last.
 int seasonColumnAt(SeasonTable table, int place) {
-  const std::vector<int>& columns = seasonTableColumns(table);
+  const std::vector<int>& columns = columnsOfTable(table);
   return place < static_cast<int>(columns.size()) ? columns[static_cast<std::size_t>(place)] : 0;
 }
 
@@ -161,7 +160,7 @@ std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view, c
                                             const Settings& settings, const Texts& texts) {
   const OwnLabels labels = season == nullptr ? OwnLabels() : season->statistics().labels();
   std::vector<TableColumn> columns;
-  for (const int index : seasonTableColumns(kind))
+  for (const int index : columnsOfTable(kind))
     columns.push_back(columnOf(index, kind, view, settings, texts, labels));
   TableColumn& team = columns.emplace_back(textColumn(caption(texts, Text::Team)));
   team.name = QStringLiteral("Team");
@@ -191,7 +190,8 @@ TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind
     return column + 1 == kNameColumn ? toQt(rowOf(*season, kind, row).name) : text(row, column);
   };
   rows.sortValue = [season, kind, view](int row, int column) {
-    return seasonSortValue(rowOf(*season, kind, row), seasonColumnAt(kind, column), view);
+    const int shown = seasonColumnAt(kind, column);
+    return shown == 0 ? 0.0 : seasonSortValue(rowOf(*season, kind, row), shown, view);
   };
   rows.toolTip = [season, kind, &texts](int row) -> QString {
     const SeasonRow& shown = rowOf(*season, kind, row);

@@ -12,7 +12,6 @@
 namespace hooptab {
 
 struct QuickRoster {
-
   std::vector<std::string> jerseys = {}; // as typed, in their order; none with a problem
   Text problem = Text::None;             // none where all is well
   // Of the problem: the first part of what was typed that is wrong, and where it stands, in bytes.

@@ -1,6 +1,6 @@
 // The one table of the program's commands, in the order of the tool bar: key, texts, icon, shortcut and the
-// mode that a command belongs to. Tool bar, menus and tool tips are made from it; what a command does is the
-// main window's.
+// mode that a command belongs to. Tool bar, menus and tool tips are made from it; what a command does is told
+// to the tool bar by whoever serves it.
 #pragma once
 
 #include "settings/Text.h"

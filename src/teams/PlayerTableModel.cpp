@@ -2,7 +2,6 @@
 
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
-#include "storage/Module1.h"
 #include "storage/NameOrder.h"
 
 #include <QCollator>
@@ -48,14 +47,13 @@ QVariant PlayerTableModel::data(const QModelIndex& index, int role) const {
     return toQt(m_sheet.text(index.row(), column, m_texts));
   if (role == Qt::TextAlignmentRole && isFigure(column))
     return int(Qt::AlignRight | Qt::AlignVCenter);
-  // Figures are typed freely: "187", or in feet and inches. A jersey is a name: "00" is not 0.
+  // Figures are typed freely: "187", "1.87", or in feet and inches. A jersey is a name: "00" is not 0.
   const bool isNumber = isFigure(column) && column != PlayerColumn::Number;
-  const int number = isNumber ? Module1::wholeNumber(m_sheet.text(index.row(), column, m_texts)) : -1;
-  if (role == kTableKindRole && number >= 0)
+  bool isPlain = false;
+  const double number = isNumber ? toQt(m_sheet.text(index.row(), column, m_texts)).toDouble(&isPlain) : 0.0;
+  if (role == kTableKindRole && isPlain)
     return static_cast<int>(TableKind::Number);
-  if (role == kTableSortRole && number >= 0)
-    return double(number);
-  return {};
+  return role == kTableSortRole && isPlain ? QVariant(number) : QVariant();
 }
 
 QVariant PlayerTableModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -191,6 +191,7 @@ TEST_F(Cli, JsonHasItsKeysInOrderAndTheSameInEveryLanguage) {
 class CliOfRealGames : public Cli, public testing::WithParamInterface<std::filesystem::path> {};
 
 TEST_P(CliOfRealGames, JsonAgreesWithTheOfficialBox) {
+  ASSERT_FALSE(sharedGames().empty()) << GetParam();
   for (const auto& path : sharedGames()) {
     SCOPED_TRACE(path.filename().string());
     const Json ours = Json::parse(run("box --json " + quoted(path.string())).output);

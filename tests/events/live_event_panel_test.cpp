@@ -2,6 +2,7 @@
 #include "events/LiveEventDelegate.h"
 #include "events/LiveEventPanel.h"
 
+#include "appearance/TableContent.h"
 #include "events/EventRequests.h"
 #include "events/frmEDIT.h"
 #include "events/frmSUBST.h"
@@ -80,6 +81,11 @@ TEST_F(LiveEventPanelTest, ShowsTheNewestFirstAndWhatBelongsTogether) {
   EXPECT_EQ(words(2), "LYNX 4 ● left layup");
   EXPECT_EQ(cell(2, EventListModel::Score).data().toString(), QStringLiteral("2-0"));
   EXPECT_EQ(words(4), "LYNX: in 4, 5, 10, 12, 15 - PUMA: in 4, 5, 10, 12, 15");
+  const TableContent content = tableContent(list());
+  const auto& foul = content.rows[0].cells; // for a spreadsheet: its clock and period as numbers
+  EXPECT_EQ(foul[EventListModel::Clock].kind, TableKind::Time);
+  EXPECT_EQ(foul[EventListModel::Clock].value, 590);
+  EXPECT_EQ(foul[EventListModel::Period].value, 1);
   const auto tip = [this](int row) {
     return fromQt(cell(row, EventListModel::Action).data(Qt::ToolTipRole).toString());
   };

@@ -206,6 +206,7 @@ class KeypadOfRealGames : public KeypadInputTest,
                           public testing::WithParamInterface<std::filesystem::path> {};
 
 TEST_P(KeypadOfRealGames, ABasketWithItsAssistTakesSixKeysOnTheLineAndSevenOnTheKeypad) {
+  ASSERT_FALSE(sharedGames().empty()) << GetParam();
   for (const auto& game : sharedGames()) {
     const std::string copy = folder.path(game.filename().string());
     std::filesystem::copy_file(game, copy);

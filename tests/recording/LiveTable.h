@@ -1,7 +1,7 @@
 // A live game and its file, for tests of what is done at the scorer's table.
 #pragma once
 
-#include "recording/LiveGame.h"
+#include "recording/GameSession.h"
 #include "recording/ManualTime.h"
 #include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"
@@ -85,7 +85,8 @@ class LiveTableTest : public testing::Test {
   cinifile store{disk};
   ManualTime time;
   std::string path = folder.path("live.GAM");
-  LiveGame live{store, time};
+  GameSession session{store, time};
+  LiveGame& live = *session.change(); // the test's own hand on it
   Texts texts;
 };
 

@@ -13,7 +13,7 @@ class EventCorrectionTest : public LiveTableTest {
  protected:
   void begin(const std::string& events, const std::string& key) {
     open(textOfGame(kBegin + "2=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n" + events));
-    ASSERT_TRUE(correction.begin(live, {1, key}));
+    ASSERT_TRUE(correction.begin(session, {1, key}));
   }
   std::string line(const std::string& key) { return *findLine(live.log().lines(), 1, key); }
   std::string both() { return line("3").substr(6) + ' ' + line("4").substr(6); }
@@ -48,7 +48,7 @@ TEST_F(EventCorrectionTest, EachStepIsOneToUndoAndLeavesClockAndPlaceInTheGame) 
   ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "4"}}, true));
   EXPECT_EQ(correction.toggleMade(), Outcome::None);
   EXPECT_EQ(EventCorrection::lastOf(live), (EventPlace{1, "5"}));
-  EXPECT_FALSE(correction.begin(live, {1, "2"}) || correction.begin(live, {1, "4"}));
+  EXPECT_FALSE(correction.begin(session, {1, "2"}) || correction.begin(session, {1, "4"}));
 }
 
 TEST_F(EventCorrectionTest, AFollowUpThatNoLongerFitsIsNeverLeftOrLostInSilence) {
@@ -84,7 +84,7 @@ TEST_F(EventCorrectionTest, AFollowUpThatNoLongerFitsIsNeverLeftOrLostInSilence)
   begin("3=09:00,GLGA,0-12\n4=09:00,SOR,0-5\n5=08:00,GLG,0-12\n6=08:00,SA,0-5\n", "4");
   EXPECT_EQ(correction.takePlayer({1, 1}), Outcome::Changed);
   EXPECT_EQ(both(), "GLGA,0-12 SDR,1-3");
-  ASSERT_TRUE(correction.begin(live, {1, "6"}));
+  ASSERT_TRUE(correction.begin(session, {1, "6"}));
   EXPECT_EQ(correction.takePlayer({0, 4}), Outcome::Refused);
   EXPECT_EQ(correction.reason(texts), "12 has made the basket himself.");
   EXPECT_EQ(correction.takePlayer({1, 1}), Outcome::Refused);

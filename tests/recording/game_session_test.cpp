@@ -14,7 +14,6 @@ class GameSessionTest : public LiveTableTest {
  protected:
   void SetUp() override {
     create(regular(), "4 5 10 12 15 7", "4 5 10 12 15 7");
-    ASSERT_EQ(session.change()->open(path), GameFileProblem::None);
     ASSERT_TRUE(session.change()->setOnCourt({kFive, kFive})); // event 2
   }
   // What is told, in short; "+3 -2 ~2 phase clock line-up details counts disk", blank behind each.
@@ -42,8 +41,6 @@ class GameSessionTest : public LiveTableTest {
     act();
     return all;
   }
-
-  GameSession session{store, time};
 };
 
 TEST_F(GameSessionTest, TellsOnceWhatAWholeChangeHasMade) {
