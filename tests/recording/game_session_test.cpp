@@ -117,8 +117,8 @@ TEST_F(GameSessionTest, WhoFollowsGetsTheLastGameAndNobodyWaitsForHim) {
   EXPECT_EQ(games, 3);
 
   const auto begin = std::chrono::steady_clock::now();
+  auto never = std::make_shared<std::promise<void>>();
   {
-    auto never = std::make_shared<std::promise<void>>();
     const auto hanging = session.follow([never](const RunningGame&) {
       never->get_future().wait_for(1h);
       return true;
@@ -126,6 +126,7 @@ TEST_F(GameSessionTest, WhoFollowsGetsTheLastGameAndNobodyWaitsForHim) {
     EXPECT_TRUE(session.change()->recordShot(0, 1, EventCode::GFT, true));
   }
   EXPECT_LT(std::chrono::steady_clock::now() - begin, 1min) << "one that hangs is left";
+  never->set_value();
 }
 
 } // namespace
