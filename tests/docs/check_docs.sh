@@ -34,7 +34,7 @@ fi
 # What the program has: the keys of its commands and those of the menus.
 shortcut='"((Ctrl|Shift|Alt)\+)*(F[0-9]+|[A-Z])"'
 mapfile -t keys < <(
-  { grep '^ *{"' src/shell/Commands.cpp; grep 'QStringLiteral("\(Ctrl\|Alt\|Shift\|F[0-9]\)' src/shell/MainMenu.cpp; } |
+  { grep '^ *{[A-Z][A-Za-z0-9]*, "' src/shell/Commands.cpp; grep 'QStringLiteral("\(Ctrl\|Alt\|Shift\|F[0-9]\)' src/shell/MainMenu.cpp; } |
     grep -oE "$shortcut" | grep -E '\+|F[0-9]' | tr -d '"' | sort -u)
 [ "${#keys[@]}" -ge 5 ] || complain "no keys found in src/shell: does this script still read them?"
 has_key() {
