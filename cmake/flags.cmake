@@ -21,7 +21,8 @@ target_compile_definitions(hooptab_flags INTERFACE "$<$<CONFIG:Release>:_GLIBCXX
 target_compile_options(hooptab_flags INTERFACE "$<$<CONFIG:Release>:-fstack-protector-strong>")
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # This compiler sees overlaps in "text" + string that cannot be (GCC bug 105651), and, optimising, endless lengths there.
-  target_compile_options(hooptab_flags INTERFACE -Wno-restrict "$<$<CONFIG:Release>:-Wno-stringop-overflow>")
+  target_compile_options(hooptab_flags INTERFACE -Wno-restrict
+                                                 "$<$<CONFIG:Release>:-Wno-stringop-overflow;-Wno-array-bounds>")
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND HOOPTAB_SANITIZERS)
   # The sanitizers' instrumentation makes this one guess wrongly inside the standard library.
