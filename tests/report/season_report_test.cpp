@@ -124,6 +124,11 @@ TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
   EXPECT_EQ(cell(results, results.rows[0], "Date").text, "2026-10-02");
   EXPECT_EQ(cell(results, results.rows[1], "F2A").text, "2");
   EXPECT_DOUBLE_EQ(cell(results, results.rows[1], "F2%").value, 0.5);
+  const auto ofAnn = tables(report);
+  const auto isOfRecords = [&](const ReportTable* table) {
+    return table->title == texts.text(Text::PersonalRecords);
+  };
+  EXPECT_TRUE(std::ranges::any_of(ofAnn, isOfRecords));
   const Report leaders = seasonReport(SeasonReport::LeadersTotal, season, ann, settings, texts);
   const auto all = tables(leaders);
   const auto of = std::ranges::find(all, "Points scored", &ReportTable::title);

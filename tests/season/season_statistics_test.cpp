@@ -138,6 +138,7 @@ TEST(SeasonRows, OthersHaveNoRowButTheTeamKeepsTheirPoints) {
   EXPECT_EQ(statistics.teams()[0].pointsFor, 5);
   EXPECT_EQ(statistics.teams()[0].wins, 1);
   EXPECT_EQ(statistics.teams()[1].losses, 1);
+  EXPECT_EQ(statistics.teams()[1].pointsAgainst, 5);
   // More different lines than a game keeps: what comes later has no row either.
   std::string roster, events;
   int number = 0;
