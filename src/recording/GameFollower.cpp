@@ -21,7 +21,6 @@ struct GameFollower::Desk {
   std::mutex mutex;
   std::condition_variable changed;
   std::shared_ptr<const RunningGame> next;
-  int failures = 0; // in a row
   bool isLeaving = false;
   bool isDone = false;
 
@@ -36,7 +35,6 @@ struct GameFollower::Desk {
       lock.unlock();
       const bool isDoneWell = succeeds(*game);
       lock.lock();
-      failures = isDoneWell ? 0 : failures + 1;
       if (isDoneWell || isLeaving)
         continue;
       changed.wait_for(lock, kUntilNextTry, [this] { return isLeaving; });
@@ -74,11 +72,6 @@ void GameFollower::take(std::shared_ptr<const RunningGame> game) {
     m_desk->next = std::move(game);
   }
   m_desk->changed.notify_all();
-}
-
-int GameFollower::failures() const {
-  const std::scoped_lock lock(m_desk->mutex);
-  return m_desk->failures;
 }
 
 } // namespace hooptab

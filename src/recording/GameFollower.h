@@ -24,8 +24,6 @@ class GameFollower {
   GameFollower& operator=(const GameFollower&) = delete;
 
   void take(std::shared_ptr<const RunningGame> game);
-  // How often in a row the work has failed; 0 once it has succeeded.
-  [[nodiscard]] int failures() const;
 
  private:
   struct Desk;

@@ -1,4 +1,4 @@
-// The box score as a table for views: 48 columns in creation order (column 0 is the first), check marks in
+// The box score as a table for views: its columns in creation order (column 0 is the first), check marks in
 // the first. Takes new rows without a reset, so that selection, sort and scroll of its views survive.
 // Computes nothing: rows and marks come from outside, cells' texts from BoxScore.
 #pragma once

@@ -1,4 +1,4 @@
-// One box score table of the scorecard: model, sort and view with the 48 columns in their display order and
+// One box score table of the scorecard: model, sort and view with the columns in their display order and
 // widths that fit what they can hold. The window owns two, for players and for lines.
 #pragma once
 

@@ -14,7 +14,7 @@ struct SeriesWithToolTips {
   QStringList toolTips;
 };
 
-// `column` is one of the season tables', 3 or 5 to 52.
+// `column` is that of a statistic in the season's tables.
 [[nodiscard]] SeriesWithToolTips pictureOfStatistic(const SeasonPerson& person, int column,
                                                     const Settings& settings, const Texts& texts);
 [[nodiscard]] SeriesWithToolTips pictureOfMargins(const GameSeries& margins, SeasonId team,

@@ -19,7 +19,7 @@ struct GameSeries {
   std::optional<double> average; // per game; of a percentage, that of all games together
 };
 
-// `column` is one of the season tables', 3 or 5 to 52; times in seconds.
+// `column` is that of a statistic in the season's tables; times in seconds.
 [[nodiscard]] GameSeries seriesOfStatistic(std::span<const GameResult> results, int column);
 // Points ahead in each game of the team, below 0 for a defeat.
 [[nodiscard]] GameSeries seriesOfMargins(const SeasonStatistics& statistics, SeasonId team);
