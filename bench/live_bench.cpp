@@ -1,8 +1,10 @@
 // From a click in the live window to the event durable on disk and every counter on the screen, for the
 // events behind the 1,500th of a game. The clicks are the window system's events from the moment they reach
-// the program; the disk is that of HOOPTAB_BENCH_FOLDER, the screen that of the display in use.
+// the program; the disk is that of HOOPTAB_BENCH_FOLDER, the screen that of the display in use. And what the
+// list of events alone takes to follow one more of them, in games of several lengths.
 #include "appearance/Dialogs.h"
 #include "appearance/Theme.h"
+#include "events/LiveEventRows.h"
 #include "live/frmLIVE.h"
 #include "live_measure.h"
 #include "settings/Settings.h"
@@ -92,11 +94,44 @@ int measureWindow(int events, const std::filesystem::path& folder) {
   return EXIT_SUCCESS;
 }
 
+int measureList(int events, const std::filesystem::path& folder) {
+  UnsyncedFileSystem files;
+  cinifile store(files);
+  const Texts texts;
+  StandingTime time;
+  LiveGame live(store, time);
+  if (live.open(liveGameOf(events, folder)) != GameFileProblem::None || !putFiveOnCourt(live))
+    return EXIT_FAILURE;
+  LiveEventRows rows(texts);
+  rows.show(live.game());
+  EventListModel model(texts);
+  model.show(live.game());
+  std::vector<double> whole;
+  std::vector<double> modelAlone;
+  for (int i = 0; i < kSamples; ++i) {
+    if (!live.recordAction(i % 2, 1 + i % 5, EventCode::SPF))
+      return EXIT_FAILURE;
+    const BenchClock::time_point start = BenchClock::now();
+    rows.show(live.game());
+    whole.push_back(milliseconds(BenchClock::now() - start));
+    const BenchClock::time_point begin = BenchClock::now();
+    model.show(live.game());
+    modelAlone.push_back(milliseconds(BenchClock::now() - begin));
+  }
+  printFigures("list of events with its checks, behind event " + std::to_string(events), std::move(whole));
+  printFigures("  its model alone", std::move(modelAlone));
+  return EXIT_SUCCESS;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   Theme::apply(application, ColourScheme::Light); // fonts and style of the program
   const std::filesystem::path folder = liveBenchFolder();
-  return measureWindow(1500, folder);
+  for (const int events : {1500, 20000}) {
+    if (measureList(events, folder) != EXIT_SUCCESS || measureWindow(events, folder) != EXIT_SUCCESS)
+      return EXIT_FAILURE;
+  }
+  return EXIT_SUCCESS;
 }

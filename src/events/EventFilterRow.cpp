@@ -70,7 +70,7 @@ void EventFilterRow::fill(QComboBox& box, Text text, const QString& key,
 }
 
 void EventFilterRow::showGame(const Game& game, const EventWords& words) {
-  const int played = game.events.size() == 0 ? 0 : game.events.events().back().period;
+  const int played = game.events.isEmpty() ? 0 : game.events[game.events.size() - 1].period;
   const int periods = std::min(std::max(game.details.periods, played), kLastPeriod);
   const QString whole = toQt(game.path) + u'|' + QString::number(game.roster[0].players().size());
   const bool isSame = whole == m_game && m_kind->count() > 0;

@@ -65,7 +65,7 @@ void EventRequests::takeBack(bool (LiveGame::*step)()) {
 // Of a substitution who goes in and out, of anything else what frmEDIT can change.
 void EventRequests::change(const EventPlace& event) {
   const LiveLog& log = game().log();
-  if (isSubstitution(log.lines(), event.period, event.key, log.rosters()))
+  if (isSubstitution(log.game().events, event.period, event.key, log.rosters()))
     askWho({PastSubstitution::What::Change, event}, 0, 0);
   else
     ask(event, frmEDIT::Purpose::Change, LiveGame::Where::Behind);

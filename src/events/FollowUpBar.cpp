@@ -6,6 +6,7 @@
 #include "events/JerseyButton.h"
 #include "events/PlayerWords.h"
 #include "game/EventWords.h"
+#include "recording/LiveFigures.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -229,7 +230,7 @@ void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, std::size_t 
                   .name = hasName ? toQt(familyName(who->name)) : QString(),
                   .colour = colourOf(game.game().details.teamColour[team]),
                   .isFilled = true,
-                  .isFouledOut = game.isFouledOut(team, choice.player)});
+                  .isFouledOut = LiveFigures(game).isFouledOut(team, choice.player)});
   button.setEnabled(true);
   showPlayerWords(button, game, team, choice.player, m_texts);
   m_buttons.push_back(&button);

@@ -333,12 +333,8 @@ void LiveEventPanel::showTurn(QAction& action, const LiveAction* turned, Text te
   action.setEnabled(turned != nullptr);
   QString words;
   if (turned != nullptr) {
-    const auto events = m_rows.game().events.events();
-    const auto found = std::ranges::find_if(events, [&](const GameEvent& event) {
-      return event.period == turned->event.period && event.key == turned->event.key;
-    });
-    if (found != events.end())
-      words = toQt(m_rows.words().shortWords(static_cast<std::size_t>(found - events.begin())));
+    if (const auto event = m_rows.game().events.indexOf(turned->event))
+      words = toQt(m_rows.words().shortWords(*event));
     constexpr std::array kNamed = {Text::Deletion, Text::Restoring, Text::Edit, Text::Insertion};
     if (words.isEmpty() || std::ranges::find(kNamed, turned->text) != kNamed.end())
       words = caption(m_texts, turned->text) + (words.isEmpty() ? words : QStringLiteral(" (%1)").arg(words));
@@ -352,10 +348,10 @@ void LiveEventPanel::showTurn(QAction& action, const LiveAction* turned, Text te
 void LiveEventPanel::select(const std::vector<EventPlace>& events, const std::optional<EventPlace>& current) {
   QItemSelection rows;
   QModelIndex now;
-  for (std::size_t event = 0; event < m_rows.game().events.size(); ++event) {
-    const EventPlace place = placeOf(event);
-    const QModelIndex row = m_rows.rowOf(event);
-    if (!row.isValid() || std::ranges::find(events, place) == events.end())
+  for (const EventPlace& place : events) {
+    const auto event = m_rows.game().events.indexOf(place);
+    const QModelIndex row = event ? m_rows.rowOf(*event) : QModelIndex();
+    if (!row.isValid())
       continue;
     rows.select(row, row);
     if (place == current)
@@ -380,8 +376,7 @@ void LiveEventPanel::showOnly(int team, int period) {
 // --- What is asked
 
 EventPlace LiveEventPanel::placeOf(std::size_t event) const {
-  const GameEvent& found = m_rows.game().events[event];
-  return {found.period, std::string(found.key)};
+  return hooptab::placeOf(m_rows.game().events[event]);
 }
 
 std::vector<EventPlace> LiveEventPanel::placesOf(const std::vector<std::size_t>& events) const {
@@ -407,10 +402,8 @@ std::optional<EventPlace> LiveEventPanel::current() const {
 }
 
 void LiveEventPanel::choose(const EventPlace& event) {
-  for (std::size_t place = 0; place < m_rows.game().events.size(); ++place) {
-    if (placeOf(place) == event)
-      return choose(place);
-  }
+  if (const auto place = m_rows.game().events.indexOf(event))
+    choose(*place);
 }
 
 void LiveEventPanel::choose(std::size_t event) {

@@ -53,8 +53,7 @@ std::vector<LiveEventRows::Row> LiveEventRows::rowsOf(const Game& game) const {
     const std::string_view written = event.line.substr(std::min(event.line.find(code), event.line.size()));
     if (written == lists) // most stops change nobody
       continue;
-    const std::string live(event.line.substr(event.isDeleted ? 1 : 0));
-    const OnCourt now = onCourtOf(event.period, live, rosters).value_or(onCourt);
+    const OnCourt now = listsOf(event, rosters);
     rows[place].changed = {onCourt[0] ^ now[0], onCourt[1] ^ now[1]};
     if (event.isDeleted)
       continue;

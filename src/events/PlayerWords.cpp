@@ -1,6 +1,7 @@
 #include "events/PlayerWords.h"
 
 #include "appearance/relabel.h"
+#include "recording/LiveFigures.h"
 #include "recording/LiveGame.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
@@ -18,14 +19,15 @@ void showPlayerWords(QWidget& widget, const LiveGame& game, int team, int player
   QString name = toQt(entry->jersey + " " + entry->name);
   name +=
       QStringLiteral(", ") + toQt(texts.text(game.slotOf(team, player) ? Text::OnCourtWord : Text::Bench));
-  if (game.isFouledOut(team, player))
+  if (LiveFigures(game).isFouledOut(team, player))
     name += QStringLiteral(", ") + toQt(texts.text(Text::FouledOut));
 
   QString counts = toQt(positionText(entry->position, texts));
   counts +=
       QStringLiteral(" \u00b7 PF %1 \u00b7 TF %2").arg(counters[Counter::PF]).arg(counters[Counter::TF]);
   if (game.hasTime())
-    counts += QStringLiteral(" \u00b7 ") + toQt(Module1::clockText(game.secondsOnCourt(team, player)));
+    counts +=
+        QStringLiteral(" \u00b7 ") + toQt(Module1::clockText(LiveFigures(game).secondsOnCourt(team, player)));
 
   const QString toolTip = name + QLatin1Char('\n') + counts;
   if (widget.toolTip() == toolTip)

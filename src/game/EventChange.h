@@ -4,7 +4,6 @@
 
 #include <map>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -20,13 +19,8 @@ struct EventChange {
   friend bool operator==(const EventChange&, const EventChange&) = default;
 };
 
-// Keys and lines of the periods, each in the order of the game.
+// Keys and lines of the periods as a file has them, each in the order of the game.
 using PeriodLines = std::vector<std::pair<std::string, std::string>>;
 using EventLines = std::map<int, PeriodLines>;
-
-// Null when the period has no event of that key.
-[[nodiscard]] const std::string* findLine(const EventLines& lines, int period, std::string_view key);
-// False, and nothing changed, when an event that the step names is not there, or a new one is.
-[[nodiscard]] bool applyChange(const EventChange& change, EventLines& lines);
 
 } // namespace hooptab

@@ -2,7 +2,6 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "game/RunningScore.h"
 
 #include <QFont>
 #include <algorithm>
@@ -10,10 +9,6 @@
 namespace hooptab {
 
 namespace {
-
-bool isEqual(const GameEvent& one, const GameEvent& other) {
-  return one.period == other.period && one.key == other.key && one.line == other.line;
-}
 
 QVariant alignment(int column) {
   return QVariant::fromValue(
@@ -26,28 +21,24 @@ EventListModel::EventListModel(const Texts& texts, Words words, QObject* parent)
     : QAbstractTableModel(parent), m_texts(texts), m_length(words), m_words(m_game, texts) {}
 
 void EventListModel::show(const Game& game) {
-  const auto before = m_game.events.events();
-  const auto after = game.events.events();
-  const std::size_t common = std::min(before.size(), after.size());
-  std::size_t head = 0;
-  while (head < common && isEqual(before[head], after[head]))
-    ++head;
-  std::size_t tail = 0;
-  while (tail < common - head && isEqual(before[before.size() - 1 - tail], after[after.size() - 1 - tail]))
-    ++tail;
+  const std::size_t before = m_game.events.size();
+  const std::size_t after = game.events.size();
+  const std::size_t common = std::min(before, after);
+  const auto [head, tail] = m_game.events.inCommonWith(game.events);
 
   // Between the equal head and the equal tail, as many as there are on both sides changed; the rest is new or
   // gone.
   const int first = static_cast<int>(common - tail);
-  const int oldCount = static_cast<int>(before.size());
-  const int newCount = static_cast<int>(after.size());
-  const bool hasChanged = head + tail < std::max(before.size(), after.size());
+  const int oldCount = static_cast<int>(before);
+  const int newCount = static_cast<int>(after);
+  const bool hasChanged = head + tail < std::max(before, after);
   if (newCount > oldCount)
     beginInsertRows({}, first, first + newCount - oldCount - 1);
   else if (newCount < oldCount)
     beginRemoveRows({}, first, first + oldCount - newCount - 1);
   m_game = game;
-  m_score = runningScore(m_game.events);
+  m_score.resize(head);
+  m_score = runningScore(m_game.events, std::move(m_score));
   if (newCount > oldCount)
     endInsertRows();
   else if (newCount < oldCount)

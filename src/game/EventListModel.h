@@ -6,11 +6,9 @@
 #include "appearance/TableContent.h"
 #include "game/EventWords.h"
 #include "game/GameFile.h"
+#include "game/RunningScore.h"
 
 #include <QAbstractTableModel>
-
-#include <array>
-#include <vector>
 
 namespace hooptab {
 
@@ -45,7 +43,7 @@ class EventListModel : public QAbstractTableModel {
   Words m_length;
   Game m_game;
   EventWords m_words;
-  std::vector<std::array<int, 2>> m_score; // after each event
+  Scores m_score;
 };
 
 } // namespace hooptab

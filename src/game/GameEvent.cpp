@@ -1,5 +1,6 @@
 #include "game/GameEvent.h"
 
+#include "game/Roster.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -88,7 +89,9 @@ inline std::string_view nextField(std::string_view& rest) {
 bool parsePlayer(std::string_view text, PlayerReference& player) {
   if (text.size() < 3 || (text[0] != '0' && text[0] != '1') || text[1] != '-')
     return false;
-  player = {text[0] - '0', text.substr(2)};
+  const int side = text[0] - '0';
+  text.remove_prefix(2);
+  player = {side, Roster::jerseyNumber(text), text};
   return true;
 }
 
@@ -222,14 +225,6 @@ std::string withDoubt(const std::string& line, bool isDoubtful) {
     changed.append(static_cast<std::size_t>(std::max<std::ptrdiff_t>(2 - fields, 0)), ',');
   }
   return changed.append(",").append(kDoubt);
-}
-
-void EventList::appendOwned(int period, std::string_view key, std::string_view line) {
-  auto text = std::make_shared<std::string>(key);
-  text->append(line);
-  const std::string_view whole = *text;
-  m_events.push_back(GameEvent::parse(period, whole.substr(0, key.size()), whole.substr(key.size())));
-  keep(std::move(text));
 }
 
 } // namespace hooptab

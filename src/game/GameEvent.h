@@ -6,12 +6,10 @@
 #include "game/EventKind.h"
 
 #include <cstdint>
-#include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 namespace hooptab {
 
@@ -19,16 +17,16 @@ namespace hooptab {
 inline constexpr int kLastPeriod = 255;
 
 struct PlayerReference {
-  int team = -1; // 0 visiting, 1 home, -1 none
+  int team = -1;   // 0 visiting, 1 home, -1 none
+  int number = -1; // as Roster::jerseyNumber reads the jersey
   std::string_view jersey;
 };
 
 struct GameEvent {
-  std::string_view key; // the event's number as the file writes it
-  std::string_view
-      line;       // the value, as every reader gets it (at most 254 bytes), "E" of a deleted event included
-  int number = 0; // of the key; 0 when it is no number
-  int period = 0; // of its section, which may lie behind kLastPeriod
+  std::string_view key;  // the event's number as the file writes it
+  std::string_view line; // the value as every reader gets it, "E" of a deleted event included
+  int number = 0;        // of the key; 0 when it is no number
+  int period = 0;        // of its section, which may lie behind kLastPeriod
   bool isDeleted = false;
   bool isUnderstood = false; // everything below holds only then
   bool isMade = false;       // shots
@@ -37,11 +35,14 @@ struct GameEvent {
   EventCode code = EventCode::Unknown;
   const EventKind* eventKind = nullptr;
   int clockSeconds = 0;
+  std::uint32_t unread = 0; // bytes of the line that stand behind, and that no reader takes; always
   PlayerReference player;
   float x = 0, y = 0; // court units, left-hand orientation
 
   // ARRET: a team's list as written; empty for nobody.
   std::string_view onCourt(std::size_t team) const;
+  // The line with what no reader takes, as it has to stay.
+  std::string_view whole() const { return {line.data(), line.size() + unread}; }
   bool isShot() const { return code >= EventCode::GFG; }
   bool isClock() const { return code == EventCode::DEPART || code == EventCode::ARRET; }
   const EventKind* kind() const { return eventKind; } // null for the clock's events
@@ -61,27 +62,5 @@ struct GameEvent {
 
 // A line with the mark that its event is doubtful behind all else, or without it.
 [[nodiscard]] std::string withDoubt(const std::string& line, bool isDoubtful);
-
-// The events of a game in the order of the file, which is the order of the game. Copies share the text.
-class EventList {
- public:
-  void reserve(std::size_t count) { m_events.reserve(count); }
-  void keep(std::shared_ptr<const std::string> text) { m_texts.push_back(std::move(text)); }
-  // Takes apart a line whose text has been kept.
-  void append(int period, std::string_view key, int keyNumber, std::string_view line) {
-    m_events.emplace_back().parseLine(period, key, keyNumber, line);
-  }
-  void appendOwned(int period, std::string_view key, std::string_view line); // copies the text
-
-  std::span<const GameEvent> events() const { return m_events; }
-  std::size_t size() const { return m_events.size(); }
-  const GameEvent& operator[](std::size_t index) const { return m_events[index]; }
-  auto begin() const { return m_events.begin(); }
-  auto end() const { return m_events.end(); }
-
- private:
-  std::vector<GameEvent> m_events;
-  std::vector<std::shared_ptr<const std::string>> m_texts;
-};
 
 } // namespace hooptab

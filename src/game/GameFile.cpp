@@ -127,13 +127,9 @@ std::vector<PeriodSection> periodsOf(const ProfileText& text) {
 }
 
 void readEvents(const ProfileText& text, EventList& events) {
-  const std::vector<PeriodSection> periods = periodsOf(text);
-  std::size_t count = 0;
-  for (const PeriodSection& period : periods)
-    count += static_cast<std::size_t>(period.section.lines.end() - period.section.lines.begin());
-  events.reserve(count);
-  for (const auto& [period, section] : periods) {
-    events.keep(section.bytes);
+  for (const auto& [period, section] : periodsOf(text)) {
+    events.beginPeriod(period, section.bytes,
+                       static_cast<std::size_t>(section.lines.end() - section.lines.begin()));
     const bool allAscii = isAscii(section.lines.bytes);
     FirstKeys keys(section.lines);
     for (const ProfileText::Line& line : section.lines) {
@@ -141,9 +137,9 @@ void readEvents(const ProfileText& text, EventList& events) {
         continue;
       const std::string_view value = readable(line.value);
       if (allAscii || (isAscii(value) && isAscii(line.name)))
-        events.append(period, line.name, keys.number(), value);
+        events.append(line.name, keys.number(), value, line.value.size() - value.size());
       else
-        events.appendOwned(period, codepage::toUtf8(line.name), codepage::toUtf8(value));
+        events.appendOwned(period, codepage::toUtf8(line.name), codepage::toUtf8(line.value));
     }
   }
 }
@@ -278,18 +274,6 @@ GameFileProblem GameFile::readDetails(GameDetails& details) {
   return GameFileProblem::None;
 }
 
-GameFileProblem GameFile::readLines(EventLines& lines) {
-  const ProfileText* text = nullptr;
-  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
-    return problem;
-  lines.clear();
-  for (const auto& [period, stored] : storedEventLines(*text)) {
-    for (const auto& [key, line] : stored)
-      lines[period].emplace_back(codepage::toUtf8(key), codepage::toUtf8(line));
-  }
-  return GameFileProblem::None;
-}
-
 namespace {
 
 // A name that stands twice, too: of its sections only the first is seen, and deleting it would bring the next
@@ -355,6 +339,36 @@ GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
   return plan(steps, *text, batch) ? write(batch) : GameFileProblem::UnknownEvent;
 }
 
+namespace {
+
+auto placeOf(PeriodLines& lines, std::string_view key) {
+  return std::ranges::find(lines, key, &PeriodLines::value_type::first);
+}
+
+bool applyChange(const EventChange& change, PeriodLines& period) {
+  const auto event = placeOf(period, change.key);
+  const bool isThere = event != period.end();
+  if (isThere == (change.kind == EventChange::Kind::Add))
+    return false;
+  if (!change.before.empty() && placeOf(period, change.before) == period.end())
+    return false;
+  if (change.kind == EventChange::Kind::Replace) {
+    event->second = change.line;
+    return true;
+  }
+  std::pair<std::string, std::string> placed(change.key, change.line);
+  if (isThere) {
+    if (change.before == change.key)
+      return true;
+    placed = std::move(*event);
+    period.erase(event);
+  }
+  period.insert(change.before.empty() ? period.end() : placeOf(period, change.before), std::move(placed));
+  return true;
+}
+
+} // namespace
+
 bool GameFile::plan(const std::vector<EventChange>& steps, const ProfileText& text, ProfileBatch& batch) {
   EventLines lines; // in bytes of the file, so that what is not changed stays as it is
   std::set<int> reordered;
@@ -375,7 +389,7 @@ bool GameFile::plan(const std::vector<EventChange>& steps, const ProfileText& te
     stored.line = codepage::fromUtf8(step.line);
     stored.key = codepage::fromUtf8(step.key);
     stored.before = codepage::fromUtf8(step.before);
-    if (!applyChange(stored, lines))
+    if (!applyChange(stored, lines[step.period]))
       return false;
   }
 

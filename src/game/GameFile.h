@@ -3,9 +3,8 @@
 // window.
 #pragma once
 
-#include "game/EventChange.h"
+#include "game/EventList.h"
 #include "game/GameDetails.h"
-#include "game/GameEvent.h"
 #include "game/Roster.h"
 #include "storage/cinifile.h"
 
@@ -52,8 +51,6 @@ class GameFile {
   // Reads everything; on a problem `game` is left untouched.
   [[nodiscard]] GameFileProblem read(Game& game);
   [[nodiscard]] GameFileProblem readDetails(GameDetails& details);
-  // The event lines of all periods, whole.
-  [[nodiscard]] GameFileProblem readLines(EventLines& lines);
 
   // Writes a new game over whatever stood at the path, as one batch: nothing of an old game remains. A side
   // without players is its own one player. A live game gets its first event, the full period length with

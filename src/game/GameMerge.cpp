@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -17,23 +18,22 @@ using Line = PeriodLines::value_type;
 
 class Merger {
  public:
-  Merger(const EventLines& ours, const ProfileText& left, const ProfileText& theirs)
+  Merger(const EventList& ours, const ProfileText& left, const ProfileText& theirs)
       : m_ours(ours), m_leftText(left), m_left(storedEventLines(left)), m_theirs(theirs) {
-    for (const auto& [period, lines] : ours) {
-      for (const auto& [key, line] : lines)
-        m_numbers.insert(Module1::wholeNumber(key));
-    }
+    m_result.events = ours;
+    for (const GameEvent& event : ours)
+      m_numbers.insert(Module1::wholeNumber(event.key));
   }
 
   GameMerge merge() {
     const EventLines stored = storedEventLines(m_theirs);
     std::set<int> periods;
-    for (const auto& [period, lines] : m_ours)
-      periods.insert(period);
+    for (const GameEvent& event : m_ours)
+      periods.insert(event.period);
     for (const auto& [period, lines] : stored)
       periods.insert(period);
     for (const int period : periods)
-      mergePeriod(period, linesOf(m_ours, period), linesOf(stored, period));
+      mergePeriod(period, m_ours.ofPeriod(period), linesOf(stored, period));
     return std::move(m_result);
   }
 
@@ -44,15 +44,16 @@ class Merger {
     return found == lines.end() ? kNone : found->second;
   }
 
-  void mergePeriod(int period, const PeriodLines& ours, const PeriodLines& stored) {
-    std::unordered_map<std::string_view, std::string_view> own(ours.begin(), ours.end());
+  void mergePeriod(int period, std::span<const GameEvent> ours, const PeriodLines& stored) {
+    std::unordered_map<std::string_view, std::string_view> own;
+    for (const GameEvent& event : ours)
+      own.emplace(event.key, event.whole());
     const PeriodLines& leftLines = linesOf(m_left, period);
     std::unordered_map<std::string_view, std::string_view> left(leftLines.begin(), leftLines.end());
     lookForHidden(period, own);
     lookForShadowed(period);
 
     // Theirs that are new stand before the first of ours that follows them in their file, or behind all.
-    std::unordered_map<std::string, PeriodLines> before;
     PeriodLines waiting;
     for (const auto& [storedKey, storedLine] : stored) {
       Line line(codepage::toUtf8(storedKey), codepage::toUtf8(storedLine));
@@ -63,7 +64,7 @@ class Merger {
       if (const auto same = own.find(line.first); same != own.end()) {
         if (same->second != line.second && !isAsLeft)
           m_result.gaveWay.push_back({period, line.first});
-        before[line.first] = std::exchange(waiting, {});
+        insert(period, std::exchange(waiting, {}), line.first);
       } else if (isNew(period, line)) {
         waiting.push_back(std::move(line));
         ++m_result.added;
@@ -71,15 +72,13 @@ class Merger {
         m_result.gaveWay.push_back({period, line.first});
       }
     }
+    insert(period, waiting, {});
     m_result.restored += static_cast<int>(left.size());
+  }
 
-    PeriodLines& lines = m_result.lines[period];
-    for (const Line& line : ours) {
-      if (const auto inserted = before.find(line.first); inserted != before.end())
-        std::ranges::move(inserted->second, std::back_inserter(lines));
-      lines.push_back(line);
-    }
-    std::ranges::move(waiting, std::back_inserter(lines));
+  void insert(int period, const PeriodLines& lines, const std::string& before) {
+    for (const auto& [key, line] : lines)
+      (void)m_result.events.apply({EventChange::Kind::Add, period, key, line, before});
   }
 
   bool isNew(int period, const Line& line) {
@@ -112,7 +111,7 @@ class Merger {
     }
   }
 
-  const EventLines& m_ours;
+  const EventList& m_ours;
   const ProfileText& m_leftText;
   const EventLines m_left;
   const ProfileText& m_theirs;
@@ -122,13 +121,12 @@ class Merger {
 
 } // namespace
 
-GameMerge mergeGame(const EventLines& ours, const ProfileText& left, const ProfileText& theirs) {
+GameMerge mergeGame(const EventList& ours, const ProfileText& left, const ProfileText& theirs) {
   return Merger(ours, left, theirs).merge();
 }
 
-bool isNamed(const EventLines& lines, int team, std::string_view jersey) {
-  const auto names = [&](const Line& line) {
-    const GameEvent event = GameEvent::parse(1, "1", line.second);
+bool isNamed(const EventList& events, int team, std::string_view jersey) {
+  return std::ranges::any_of(events, [&](const GameEvent& event) {
     if (!event.isUnderstood)
       return false;
     if (event.code != EventCode::ARRET)
@@ -139,9 +137,7 @@ bool isNamed(const EventLines& lines, int team, std::string_view jersey) {
         return true;
     }
     return false;
-  };
-  return std::ranges::any_of(lines,
-                             [&](const auto& period) { return std::ranges::any_of(period.second, names); });
+  });
 }
 
 } // namespace hooptab

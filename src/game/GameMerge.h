@@ -3,7 +3,7 @@
 // things, theirs gives way and is named. Decides alone; reads and writes nothing.
 #pragma once
 
-#include "game/EventChange.h"
+#include "game/EventList.h"
 #include "storage/ProfileText.h"
 
 #include <string>
@@ -13,24 +13,19 @@
 namespace hooptab {
 
 struct GameMerge {
-  EventLines lines; // both; UTF-8
+  EventList events; // both
   int added = 0;    // of theirs that are new here
   int restored = 0; // of ours that stood in the file and now do not, or say another thing
   // Of theirs that give way: another line under a number that is taken, or one that cannot be understood.
-  struct GivenWay {
-    int period = 1;
-    std::string key;
-    friend bool operator==(const GivenWay&, const GivenWay&) = default;
-  };
-  std::vector<GivenWay> gaveWay;
+  std::vector<EventPlace> gaveWay;
   // Their file hides a line of ours behind another without "=": it cannot be mended line by line.
   bool isHidden = false;
 };
 
 // `left` is the file as it was written last, before others touched it; ours may have gone on since.
-[[nodiscard]] GameMerge mergeGame(const EventLines& ours, const ProfileText& left, const ProfileText& theirs);
+[[nodiscard]] GameMerge mergeGame(const EventList& ours, const ProfileText& left, const ProfileText& theirs);
 
 // Whether an event names the player of that jersey: as the one who did something, or on court.
-[[nodiscard]] bool isNamed(const EventLines& lines, int team, std::string_view jersey);
+[[nodiscard]] bool isNamed(const EventList& events, int team, std::string_view jersey);
 
 } // namespace hooptab

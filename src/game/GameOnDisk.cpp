@@ -4,6 +4,8 @@
 #include "storage/codepage.h"
 
 #include <algorithm>
+#include <set>
+#include <span>
 
 namespace hooptab {
 
@@ -11,24 +13,27 @@ namespace {
 
 constexpr std::string_view kRescueEnding = ".rescue"; // not that of a game: a season would count it twice
 
-PeriodLines asStored(const PeriodLines& lines) {
+PeriodLines asStored(std::span<const GameEvent> events) {
   PeriodLines stored;
-  stored.reserve(lines.size());
-  for (const auto& [key, line] : lines)
-    stored.emplace_back(codepage::fromUtf8(key), codepage::fromUtf8(line));
+  stored.reserve(events.size());
+  for (const GameEvent& event : events)
+    stored.emplace_back(codepage::fromUtf8(event.key), codepage::fromUtf8(event.whole()));
   return stored;
 }
 
 // All events where the file of that text has others, and the number that the next one gets.
-void addLines(const EventLines& all, const ProfileText& text, ProfileBatch& batch) {
+void addLines(const EventList& all, const ProfileText& text, ProfileBatch& batch) {
   const EventLines present = storedEventLines(text);
   int highest = 0;
-  for (const auto& [period, lines] : all) {
-    for (const auto& [key, line] : lines)
-      highest = std::max(highest, Module1::leadingNumber(key));
-    PeriodLines stored = asStored(lines);
+  std::set<int> periods;
+  for (const GameEvent& event : all) {
+    highest = std::max(highest, Module1::leadingNumber(event.key));
+    periods.insert(event.period);
+  }
+  for (const int period : periods) {
+    PeriodLines stored = asStored(all.ofPeriod(period));
     const auto found = present.find(period);
-    if (found == present.end() ? !stored.empty() : stored != found->second)
+    if (found == present.end() || stored != found->second)
       batch.setStoredSectionLines(periodSection(period), std::move(stored));
   }
   if (highest > 0)
@@ -52,15 +57,14 @@ void GameOnDisk::open(const std::string& path) {
   m_foreign = {};
 }
 
-bool GameOnDisk::change(const std::vector<EventChange>& steps, const EventLines& all,
-                        const Values& accepted) {
+bool GameOnDisk::change(const std::vector<EventChange>& steps, const EventList& all, const Values& accepted) {
   note(kAcceptedSection, accepted);
   m_steps.insert(m_steps.end(), steps.begin(), steps.end());
   ++m_waiting;
   return settle(all);
 }
 
-bool GameOnDisk::set(std::string_view section, const Values& values, const EventLines& all) {
+bool GameOnDisk::set(std::string_view section, const Values& values, const EventList& all) {
   note(section, values);
   ++m_waiting;
   return settle(all);
@@ -75,7 +79,7 @@ void GameOnDisk::note(std::string_view section, const Values& values) {
   }
 }
 
-bool GameOnDisk::settle(const EventLines& all) {
+bool GameOnDisk::settle(const EventList& all) {
   if (!m_isWatching)
     return isOnDisk();
   m_isLost = m_isLost || (m_isOurs && !m_isOurs());
@@ -97,7 +101,7 @@ bool GameOnDisk::settle(const EventLines& all) {
   return true;
 }
 
-bool GameOnDisk::settleFound(const EventLines& all, FileGuard::Found found) {
+bool GameOnDisk::settleFound(const EventList& all, FileGuard::Found found) {
   switch (found) {
   case FileGuard::Found::AsLeft: return isOnDisk() || writeSteps(all);
   case FileGuard::Found::Changed: return bringTogether(all);
@@ -108,7 +112,7 @@ bool GameOnDisk::settleFound(const EventLines& all, FileGuard::Found found) {
   return false;
 }
 
-bool GameOnDisk::writeSteps(const EventLines& all) {
+bool GameOnDisk::writeSteps(const EventList& all) {
   ProfileBatch batch;
   if (!GameFile::plan(m_steps, m_guard.left(), batch)) // it holds what others added, and was not taken in yet
     return bringTogether(all);
@@ -123,7 +127,7 @@ void GameOnDisk::addValues(ProfileBatch& batch) const {
   }
 }
 
-bool GameOnDisk::bringTogether(const EventLines& all) {
+bool GameOnDisk::bringTogether(const EventList& all) {
   const ProfileText theirs = m_guard.found();
   const GameMerge merge = mergeGame(all, m_guard.left(), theirs);
   if (merge.isHidden)
@@ -133,7 +137,7 @@ bool GameOnDisk::bringTogether(const EventLines& all) {
     return false;
 
   ProfileBatch batch;
-  addLines(merge.lines, theirs, batch);
+  addLines(merge.events, theirs, batch);
   addMissingPlayers(all, batch);
   addValues(batch);
   // A file that went back to an older version has lost what was set since, too.
@@ -154,7 +158,7 @@ bool GameOnDisk::bringTogether(const EventLines& all) {
 }
 
 // A player whom the events name cannot be missed.
-void GameOnDisk::addMissingPlayers(const EventLines& all, ProfileBatch& batch) {
+void GameOnDisk::addMissingPlayers(const EventList& all, ProfileBatch& batch) {
   const ProfileText& left = m_guard.left();
   const ProfileText& theirs = m_guard.found();
   for (int team = 0; team < 2; ++team) {
@@ -169,14 +173,14 @@ void GameOnDisk::addMissingPlayers(const EventLines& all, ProfileBatch& batch) {
 }
 
 // With what others had added and was not taken in yet.
-ProfileBatch GameOnDisk::whole(const EventLines& all) const {
+ProfileBatch GameOnDisk::whole(const EventList& all) const {
   ProfileBatch batch;
-  addLines(mergeGame(all, m_guard.left(), m_guard.left()).lines, m_guard.left(), batch);
+  addLines(mergeGame(all, m_guard.left(), m_guard.left()).events, m_guard.left(), batch);
   addValues(batch);
   return batch;
 }
 
-bool GameOnDisk::rewrite(const EventLines& all) {
+bool GameOnDisk::rewrite(const EventList& all) {
   if (!m_guard.rewrite(whole(all)))
     return false;
   m_foreign.isTouched = true;
@@ -191,7 +195,7 @@ void GameOnDisk::noteWhatWasKept() {
 }
 
 // Only what waits needs rescue: all else is on disk, or was.
-void GameOnDisk::rescue(const EventLines& all) {
+void GameOnDisk::rescue(const EventList& all) {
   if (m_rescueFolder.empty() || isOnDisk() || (!m_rescuedAs.empty() && m_rescuedChanges == m_waiting))
     return;
   std::string path = m_rescuedAs;
@@ -209,7 +213,7 @@ void GameOnDisk::rescue(const EventLines& all) {
   m_rescuedChanges = m_waiting;
 }
 
-bool GameOnDisk::writeCopy(const std::string& path, const EventLines& all) {
+bool GameOnDisk::writeCopy(const std::string& path, const EventList& all) {
   return m_guard.writeCopy(path, whole(all));
 }
 

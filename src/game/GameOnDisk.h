@@ -4,7 +4,6 @@
 // no events itself: its owner brings all of them with every call.
 #pragma once
 
-#include "game/EventChange.h"
 #include "game/GameFile.h"
 #include "game/GameMerge.h"
 #include "storage/FileGuard.h"
@@ -20,12 +19,12 @@ namespace hooptab {
 
 // What others did to a game's file and what came of it; for one line to the user.
 struct ForeignHands {
-  int added = 0;                            // events of theirs that count now
-  int restored = 0;                         // events of ours that were written again
-  std::vector<GameMerge::GivenWay> gaveWay; // theirs that do not count
-  bool isRewritten = false;                 // the whole file: it was gone, cut off, or another thing
-  bool isTouched = false;                   // anything of the above, or of the details and players
-  std::string keptAs;                       // the foreign version, where something of it is not in the file
+  int added = 0;                   // events of theirs that count now
+  int restored = 0;                // events of ours that were written again
+  std::vector<EventPlace> gaveWay; // theirs that do not count
+  bool isRewritten = false;        // the whole file: it was gone, cut off, or another thing
+  bool isTouched = false;          // anything of the above, or of the details and players
+  std::string keptAs;              // the foreign version, where something of it is not in the file
 };
 
 class GameOnDisk {
@@ -47,10 +46,10 @@ class GameOnDisk {
 
   // Each returns whether everything is on disk. `all` are the events as they are now, the steps taken.
   // With steps go the keys of ACCEPTES that they change, as one write.
-  bool change(const std::vector<EventChange>& steps, const EventLines& all, const Values& accepted = {});
-  bool set(std::string_view section, const Values& values, const EventLines& all);
+  bool change(const std::vector<EventChange>& steps, const EventList& all, const Values& accepted = {});
+  bool set(std::string_view section, const Values& values, const EventList& all);
   // Looks at the file, brings it back to what was recorded, and writes what waits.
-  bool settle(const EventLines& all);
+  bool settle(const EventList& all);
 
   bool isOnDisk() const { return m_waiting == 0; }
   std::size_t waiting() const { return m_waiting; }            // changes
@@ -64,19 +63,19 @@ class GameOnDisk {
   [[nodiscard]] ForeignHands takeForeignHands() { return std::exchange(m_foreign, {}); }
 
   // The whole game in another file.
-  bool writeCopy(const std::string& path, const EventLines& all);
+  bool writeCopy(const std::string& path, const EventList& all);
 
  private:
-  bool settleFound(const EventLines& all, FileGuard::Found found);
-  bool writeSteps(const EventLines& all);
-  bool bringTogether(const EventLines& all);
-  bool rewrite(const EventLines& all);
+  bool settleFound(const EventList& all, FileGuard::Found found);
+  bool writeSteps(const EventList& all);
+  bool bringTogether(const EventList& all);
+  bool rewrite(const EventList& all);
   void noteWhatWasKept();
-  void rescue(const EventLines& all);
+  void rescue(const EventList& all);
   void note(std::string_view section, const Values& values);
   void addValues(ProfileBatch& batch) const;
-  void addMissingPlayers(const EventLines& all, ProfileBatch& batch);
-  ProfileBatch whole(const EventLines& all) const;
+  void addMissingPlayers(const EventList& all, ProfileBatch& batch);
+  ProfileBatch whole(const EventList& all) const;
 
   FileGuard m_guard;
   cinifile& m_store;

@@ -2,16 +2,16 @@
 
 namespace hooptab {
 
-std::vector<std::array<int, 2>> runningScore(const EventList& events) {
-  std::vector<std::array<int, 2>> scores;
-  scores.reserve(events.size());
-  std::array<int, 2> score = {};
-  for (const GameEvent& event : events) {
+Scores runningScore(const EventList& events, Scores known) {
+  std::array<int, 2> score = known.empty() ? std::array<int, 2>{} : known.back();
+  known.reserve(events.size());
+  for (std::size_t place = known.size(); place < events.size(); ++place) {
+    const GameEvent& event = events[place];
     if (event.isUnderstood && !event.isDeleted && event.isMade && event.isShot())
       score[static_cast<std::size_t>(event.player.team)] += event.kind()->points;
-    scores.push_back(score);
+    known.push_back(score);
   }
-  return scores;
+  return known;
 }
 
 } // namespace hooptab

@@ -1,14 +1,15 @@
 // The score as it grew: what a list of events shows beside them, and a diagram draws.
 #pragma once
 
-#include "game/GameEvent.h"
+#include "game/EventList.h"
 
 #include <array>
 #include <vector>
 
 namespace hooptab {
 
-// Both teams' points after each event of the list.
-[[nodiscard]] std::vector<std::array<int, 2>> runningScore(const EventList& events);
+// Both teams' points after each event of the list; those after its first events may be known.
+using Scores = std::vector<std::array<int, 2>>;
+[[nodiscard]] Scores runningScore(const EventList& events, Scores known = {});
 
 } // namespace hooptab

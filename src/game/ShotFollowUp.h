@@ -2,7 +2,7 @@
 // other shot and no start of the clock between. Deleted events do not count.
 #pragma once
 
-#include "game/GameEvent.h"
+#include "game/EventList.h"
 
 #include <cstddef>
 #include <optional>

@@ -163,7 +163,8 @@ std::size_t Tally::lineEntry(std::size_t team, unsigned members, const std::vect
 void Tally::count(const GameEvent& event, std::size_t eventIndex) {
   const EventKind& kind = *event.kind();
   const auto team = static_cast<std::size_t>(event.player.team);
-  const auto player = static_cast<std::size_t>(m_rosters[team]->entryOf(event.player.jersey));
+  const auto player =
+      static_cast<std::size_t>(m_rosters[team]->entryOf(event.player.jersey, event.player.number));
   const std::size_t line = m_state.currentLine[team];
   const std::size_t row = GameState::periodRow(event.period);
   Counters& ofPlayer = m_state.players[team][player].counters;
@@ -220,7 +221,7 @@ std::optional<CountOutOfRange> Tally::run(GameState& state, const EventList& eve
                                           const Roster& home) {
   Tally tally(state, visitors, home);
   std::size_t index = 0;
-  for (const GameEvent& event : events.events())
+  for (const GameEvent& event : events)
     tally.apply(event, index++);
   return tally.outOfRange();
 }

@@ -2,7 +2,7 @@
 // function serves both, so that what is shown while recording and what is read back from disk cannot differ.
 #pragma once
 
-#include "game/GameEvent.h"
+#include "game/EventList.h"
 #include "game/GameState.h"
 #include "game/Roster.h"
 

@@ -3,6 +3,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "recording/LiveFigures.h"
 #include "recording/LiveGame.h"
 #include "recording/LiveWords.h"
 #include "recording/ScoreText.h"
@@ -30,8 +31,8 @@ FoulCard::FoulCard(int team, const Texts& texts, QWidget* parent)
 
 void FoulCard::showGame(const LiveGame& game) {
   const QColor colour = colourOf(game.game().details.teamColour[m_team]);
-  const bool isInBonus = game.isInBonus(m_team);
-  m_count->setText(QString::number(game.teamFouls(m_team)));
+  const bool isInBonus = LiveFigures(game).isInBonus(m_team);
+  m_count->setText(QString::number(LiveFigures(game).teamFouls(m_team)));
   m_words->setText(toQt(foulWords(game, m_team, m_texts)));
   QString hint =
       caption(m_texts, Text::TeamFouls) + u'\n' + toQt(shownByPeriod(game, m_team, ByPeriod::Fouls, m_texts));

@@ -4,6 +4,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "recording/LiveFigures.h"
 #include "recording/LiveGame.h"
 #include "storage/Module1.h"
 
@@ -64,7 +65,7 @@ void NowStrip::showGame(const LiveGame& game) {
 
 void NowStrip::showTime(const LiveGame& game) {
   for (int team = 0; team < 2; ++team)
-    m_fives.current[static_cast<std::size_t>(team)].seconds = game.secondsOfLine(team);
+    m_fives.current[static_cast<std::size_t>(team)].seconds = LiveFigures(game).secondsOfLine(team);
   gather();
 }
 

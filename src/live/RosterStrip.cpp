@@ -5,6 +5,7 @@
 #include "appearance/relabel.h"
 #include "events/JerseyButton.h"
 #include "events/PlayerWords.h"
+#include "recording/LiveFigures.h"
 #include "recording/LiveGame.h"
 #include "recording/LivePanel.h"
 
@@ -36,7 +37,7 @@ JerseyButton::Move pendingMove(const LiveGame& game, int team, int player) {
 std::array<QString, 2> linesOf(const LiveGame& game, int team, int player) {
   const Counters& counters =
       game.state().players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)].counters;
-  const int seconds = game.secondsOnCourt(team, player);
+  const int seconds = LiveFigures(game).secondsOnCourt(team, player);
   const int points = pointsOf(counters);
   const int fouls = counters[Counter::PF];
   if (seconds == 0 && points == 0 && fouls == 0)
@@ -85,7 +86,7 @@ void RosterStrip::showPlace(const LiveGame& game, int player, const Choice& choi
     return;
   }
   const bool isOnCourt = game.slotOf(m_team, player).has_value();
-  const bool isOut = game.isFouledOut(m_team, player);
+  const bool isOut = LiveFigures(game).isFouledOut(m_team, player);
   std::array<QString, 2> lines;
   if (!isOnCourt)
     lines = linesOf(game, m_team, player);

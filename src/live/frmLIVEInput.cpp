@@ -200,12 +200,9 @@ void frmLIVE::markDoubtful() {
   const auto last = m_game.lastRecorded();
   if (!last)
     return;
-  const auto events = m_game.game().events.events();
-  const auto event = std::ranges::find_if(
-      events, [&](const GameEvent& found) { return found.period == last->period && found.key == last->key; });
-  const bool isDoubtful = !event->isDoubtful;
-  const EventWords words(m_game.game(), m_texts);
-  const std::string name = words.shortWords(static_cast<std::size_t>(event - events.begin()));
+  const std::size_t event = *m_game.game().events.indexOf(*last);
+  const bool isDoubtful = !m_game.game().events[event].isDoubtful;
+  const std::string name = EventWords(m_game.game(), m_texts).shortWords(event);
   if (!m_session.change()->setDoubtful(*last, isDoubtful))
     return;
   m_notices->message().say(

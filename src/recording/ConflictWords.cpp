@@ -7,12 +7,10 @@ namespace hooptab {
 
 std::string placeWords(const EventPlace& place, const Game& game, const Texts& texts) {
   const EventWords words(game, texts);
-  for (std::size_t event = 0; event < game.events.size(); ++event) {
-    if (game.events[event].period == place.period && game.events[event].key == place.key)
-      return words.clock(event) + " (" + std::string(texts.text(Text::Period)) + ' ' +
-             words.periodText(place.period) + ')';
-  }
-  return {};
+  const auto event = game.events.indexOf(place);
+  return event ? words.clock(*event) + " (" + std::string(texts.text(Text::Period)) + ' ' +
+                     words.periodText(place.period) + ')'
+               : std::string();
 }
 
 std::string wordsOf(const CourtConflict& conflict, const Game& game, const Texts& texts) {

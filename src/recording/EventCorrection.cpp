@@ -19,13 +19,6 @@ bool canBeCorrected(const GameEvent& event) {
   return event.isUnderstood && !event.isDeleted && event.kind() != nullptr;
 }
 
-std::optional<std::size_t> indexOf(const LiveGame& game, const EventPlace& place) {
-  const auto events = game.game().events.events();
-  const auto found = std::ranges::find_if(
-      events, [&](const GameEvent& event) { return event.period == place.period && event.key == place.key; });
-  return found == events.end() ? std::nullopt : std::optional<std::size_t>(found - events.begin());
-}
-
 const Roster& rosterOf(const LiveGame& game, int team) {
   return game.game().roster[static_cast<std::size_t>(team)];
 }
@@ -33,16 +26,16 @@ const Roster& rosterOf(const LiveGame& game, int team) {
 } // namespace
 
 bool EventCorrection::canCorrect(const LiveGame& game, const EventPlace& event) {
-  const auto found = indexOf(game, event);
-  return game.canRecord() && found && canBeCorrected(game.game().events[*found]);
+  const GameEvent* found = game.game().events.find(event);
+  return game.canRecord() && found != nullptr && canBeCorrected(*found);
 }
 
 std::optional<EventPlace> EventCorrection::lastOf(const LiveGame& game) {
-  const auto events = game.game().events.events();
+  const EventList& events = game.game().events;
   const auto last = std::find_if(events.rbegin(), events.rend(), canBeCorrected);
   if (!game.canRecord() || last == events.rend())
     return std::nullopt;
-  return EventPlace{last->period, std::string(last->key)};
+  return placeOf(*last);
 }
 
 bool EventCorrection::begin(GameSession& session, const EventPlace& event) {
@@ -64,7 +57,7 @@ bool EventCorrection::isActive() const {
 }
 
 std::size_t EventCorrection::index() const {
-  return *indexOf(*m_game, m_event);
+  return *m_game->game().events.indexOf(m_event);
 }
 
 EventCorrection::Said EventCorrection::saidBy(const GameEvent& event) {
@@ -129,11 +122,11 @@ std::optional<EventCorrection::Said> EventCorrection::adapted(const Said& old, c
 // --- Steps
 
 EditPlan EventCorrection::planOf(const EventPlace& event, const Said& wanted) const {
-  const auto found = indexOf(*m_game, event);
-  if (!found)
+  const GameEvent* found = m_game->game().events.find(event);
+  if (found == nullptr)
     return {};
   return m_game->editing().replacement(
-      event, m_game->game().events[*found].clockSeconds,
+      event, found->clockSeconds,
       eventText(wanted.code, wanted.isMade, wanted.team, wanted.jersey, wanted.place));
 }
 
@@ -160,8 +153,7 @@ EventCorrection::Outcome EventCorrection::change(const Said& wanted) {
   if (const auto behind = followUpOf(events, index())) {
     const Said followUp = saidBy(events[*behind]);
     if (fits(old, followUp) && !fits(wanted, followUp)) {
-      m_asked = Asked{
-          wanted, {events[*behind].period, std::string(events[*behind].key)}, adapted(old, wanted, followUp)};
+      m_asked = Asked{wanted, placeOf(events[*behind]), adapted(old, wanted, followUp)};
       return Outcome::Asks;
     }
   }
@@ -234,7 +226,7 @@ EventCorrection::Outcome EventCorrection::toggleThree() {
 }
 
 std::string EventCorrection::followUpQuestion(const Texts& texts) const {
-  const auto found = m_asked ? indexOf(*m_game, m_asked->followUp) : std::nullopt;
+  const auto found = m_asked ? m_game->game().events.indexOf(m_asked->followUp) : std::nullopt;
   return found ? texts.withPlaceholder(Text::NoLongerFits, EventWords(m_game->game(), texts).words(*found))
                : std::string();
 }

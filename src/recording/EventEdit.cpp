@@ -1,6 +1,5 @@
 #include "recording/EventEdit.h"
 
-#include "game/GameEvent.h"
 #include "game/PlayerLookup.h"
 
 #include <algorithm>
@@ -11,54 +10,40 @@ namespace {
 
 using Kind = EventChange::Kind;
 
-GameEvent parsed(int period, const std::string& line) {
-  return GameEvent::parse(period, "1", line);
-}
-
-bool isStop(const GameEvent& event) {
-  return event.isUnderstood && event.code == EventCode::ARRET;
-}
-
-const PeriodLines& linesOf(const EventLines& lines, int period) {
-  static const PeriodLines kNone;
-  const auto found = lines.find(period);
-  return found == lines.end() ? kNone : found->second;
-}
-
-OnCourt inForceAtPlace(const EventLines& lines, int period, const std::string& before,
+OnCourt inForceAtPlace(const EventList& events, int period, const std::string& before,
                        const Rosters& rosters) {
-  return before.empty() ? inForce(lines, period, {}, rosters) : inForceBefore(lines, period, before, rosters);
+  return before.empty() ? inForce(events, period, {}, rosters)
+                        : inForceBefore(events, period, before, rosters);
 }
 
 } // namespace
 
-std::string keyBehind(const EventLines& lines, const EventPlace& event) {
-  const PeriodLines& period = linesOf(lines, event.period);
-  const auto found = std::ranges::find(period, event.key, &PeriodLines::value_type::first);
-  return found == period.end() || found + 1 == period.end() ? std::string() : (found + 1)->first;
+std::string keyBehind(const EventList& events, const EventPlace& event) {
+  const auto behind = eventBehind(events, event);
+  return behind && behind->period == event.period ? behind->key : std::string();
 }
 
-std::string withDeletion(const std::string& line, bool isDeleted) {
+std::string withDeletion(std::string_view line, bool isDeleted) {
   if (line.starts_with('E') == isDeleted)
-    return line;
-  return isDeleted ? 'E' + line : line.substr(1);
+    return std::string(line);
+  return isDeleted ? 'E' + std::string(line) : std::string(line.substr(1));
 }
 
 // A new event cannot leave the file again: it is taken back by its mark of deletion.
 bool EventEdit::take(const EventChange& step) {
-  const std::string* old = findLine(m_lines, step.period, step.key);
+  const GameEvent* old = m_events.find(step.period, step.key);
   if ((old == nullptr) != (step.kind == Kind::Add))
     return false;
   EventChange inverse{Kind::Replace, step.period, step.key};
   switch (step.kind) {
   case Kind::Add: inverse.line = withDeletion(step.line, true); break;
-  case Kind::Replace: inverse.line = *old; break;
+  case Kind::Replace: inverse.line = old->whole(); break;
   case Kind::Move:
     inverse.kind = Kind::Move;
-    inverse.before = keyBehind(m_lines, {step.period, step.key});
+    inverse.before = keyBehind(m_events, {step.period, step.key});
     break;
   }
-  if (!applyChange(step, m_lines))
+  if (!m_events.apply(step))
     return false;
   m_back.insert(m_back.begin(), std::move(inverse));
   m_steps.push_back(step);
@@ -66,33 +51,34 @@ bool EventEdit::take(const EventChange& step) {
 }
 
 bool EventEdit::takeCarryingOn(const EventChange& step) {
-  const OnCourt before = step.kind == Kind::Add ? inForceAtPlace(m_lines, step.period, step.before, m_rosters)
-                                                : inForce(m_lines, step.period, step.key, m_rosters);
+  const OnCourt before = step.kind == Kind::Add
+                             ? inForceAtPlace(m_events, step.period, step.before, m_rosters)
+                             : inForce(m_events, step.period, step.key, m_rosters);
   if (!take(step))
     return false;
   m_conflict = tooMany(step);
   if (m_conflict)
     return false;
-  const auto behind = eventBehind(m_lines, {step.period, step.key});
+  const auto behind = eventBehind(m_events, {step.period, step.key});
   return !behind || carryOn(*behind, before);
 }
 
 // A deleted stop may have been carried on to six, and is restored.
 std::optional<CourtConflict> EventEdit::tooMany(const EventChange& step) const {
-  const auto lists = onCourtOf(step.period, step.line, m_rosters);
+  const GameEvent& event = *m_events.find(step.period, step.key);
+  const auto lists = onCourtOf(event, m_rosters);
   for (std::size_t team = 0; lists && team < 2; ++team) {
-    const GameEvent event = parsed(step.period, step.line);
     if (playersOfList(event.onCourt(team), m_rosters[team]).size() > kMostOnCourt)
-      return CourtConflict{{step.period, step.key}, team, (*lists)[team]};
+      return CourtConflict{placeOf(event), team, (*lists)[team]};
   }
   return std::nullopt;
 }
 
 bool EventEdit::carryOn(const EventPlace& from, const OnCourt& before) {
-  const OnCourt after = inForceBefore(m_lines, from.period, from.key, m_rosters);
+  const OnCourt after = inForceBefore(m_events, from.period, from.key, m_rosters);
   if (before == after)
     return true;
-  const Carried carried = hooptab::carryOn(m_lines, from, before, after, m_rosters);
+  const Carried carried = hooptab::carryOn(m_events, from, before, after, m_rosters);
   if (carried.conflict) {
     m_conflict = carried.conflict;
     return false;
@@ -101,25 +87,25 @@ bool EventEdit::carryOn(const EventPlace& from, const OnCourt& before) {
 }
 
 bool EventEdit::moveCarryingOn(const EventPlace& event, const std::string& before) {
-  const std::string* line = findLine(m_lines, event.period, event.key);
-  if (line == nullptr)
+  const GameEvent* moved = m_events.find(event);
+  if (moved == nullptr)
     return false;
   const EventChange move{Kind::Move, event.period, event.key, {}, before};
-  const auto lists = onCourtOf(event.period, *line, m_rosters);
+  const auto lists = onCourtOf(*moved, m_rosters);
   if (!lists)
     return take(move);
 
-  const std::string whole = *line;
-  const OnCourt old = inForceBefore(m_lines, event.period, event.key, m_rosters);
+  const std::string whole(moved->whole());
+  const OnCourt old = inForceBefore(m_events, event.period, event.key, m_rosters);
   if (!takeCarryingOn({Kind::Replace, event.period, event.key, withDeletion(whole, true)}) || !take(move))
     return false;
-  OnCourt now = inForceBefore(m_lines, event.period, event.key, m_rosters);
+  OnCourt now = inForceBefore(m_events, event.period, event.key, m_rosters);
   for (std::size_t team = 0; team < 2; ++team)
     now[team] = (now[team] | ((*lists)[team] & ~old[team])) & ~(old[team] & ~(*lists)[team]);
   return takeCarryingOn({Kind::Replace, event.period, event.key, withLists(whole, now, m_rosters)});
 }
 
-std::string placeForClock(const EventLines& lines, int period, const std::string& key, int clockSeconds,
+std::string placeForClock(const EventList& events, const PlacedEvent& placed, int clockSeconds,
                           const std::string& before) {
   std::optional<int> previous; // clocks of the neighbours at the place asked for
   std::optional<int> next;
@@ -129,17 +115,16 @@ std::string placeForClock(const EventLines& lines, int period, const std::string
   bool isFirst = true;
   bool hasEqual = false;
   std::string* follower = nullptr; // gets the key of the event that comes next
-  for (const auto& [eventKey, line] : linesOf(lines, period)) {
-    isBehind = isBehind || (!before.empty() && eventKey == before);
-    if (eventKey == key)
+  for (const GameEvent& event : events.ofPeriod(placed.event.period)) {
+    isBehind = isBehind || (!before.empty() && event.key == before);
+    if (event.key == placed.event.key || (placed.start && event.key == placed.start->key))
       continue;
     if (isFirst)
-      behindGreater = eventKey;
+      behindGreater = event.key;
     isFirst = false;
     if (follower != nullptr)
-      *follower = eventKey;
+      *follower = event.key;
     follower = nullptr;
-    const GameEvent event = parsed(period, line);
     if (!event.isUnderstood || event.isDeleted)
       continue;
     if (!isBehind)
@@ -162,46 +147,46 @@ std::string placeForClock(const EventLines& lines, int period, const std::string
   return behindGreater;
 }
 
-bool isRunningBefore(const EventLines& lines, int period, const std::string& before) {
+bool isRunningBefore(const EventList& events, int period, const std::string& before) {
   bool isRunning = false;
-  for (const auto& [key, line] : linesOf(lines, period)) {
-    if (!before.empty() && key == before)
+  for (const GameEvent& event : events.ofPeriod(period)) {
+    if (!before.empty() && event.key == before)
       break;
-    const GameEvent event = parsed(period, line);
     if (event.isUnderstood && !event.isDeleted && event.isClock())
       isRunning = event.code == EventCode::DEPART;
   }
   return isRunning;
 }
 
-std::optional<EventPlace> startOfSubstitution(const EventLines& lines, const EventPlace& stop,
+std::optional<EventPlace> startOfSubstitution(const EventList& events, const EventPlace& stop,
                                               const Rosters& rosters) {
-  const std::string* line = findLine(lines, stop.period, stop.key);
-  const std::string next = keyBehind(lines, stop);
-  const std::string* start = next.empty() ? nullptr : findLine(lines, stop.period, next);
-  if (line == nullptr || start == nullptr ||
-      *start != line->substr(0, std::min(line->find(','), line->size())) + startText() ||
-      !isRunningBefore(lines, stop.period, stop.key) ||
-      !isSubstitution(lines, stop.period, stop.key, rosters))
+  const auto index = events.indexOf(stop);
+  if (!index || *index + 1 >= events.size())
     return std::nullopt;
-  return EventPlace{stop.period, next};
+  const std::string_view line = events[*index].whole();
+  const GameEvent& start = events[*index + 1];
+  if (start.period != stop.period ||
+      start.whole() != std::string(line.substr(0, std::min(line.find(','), line.size()))) + startText() ||
+      !isRunningBefore(events, stop.period, stop.key) ||
+      !isSubstitution(events, stop.period, stop.key, rosters))
+    return std::nullopt;
+  return placeOf(start);
 }
 
 // Behind the last start: a stop there closes the time alone, unless one before it stands at the same clock.
-bool closesPeriod(const EventLines& lines, const EventPlace& place) {
-  std::vector<std::pair<std::string, int>> stops; // since the clock was started last: keys and clocks
-  for (const auto& [key, line] : linesOf(lines, place.period)) {
-    const GameEvent event = parsed(place.period, line);
+bool closesPeriod(const EventList& events, const EventPlace& place) {
+  std::vector<const GameEvent*> stops; // since the clock was started last
+  for (const GameEvent& event : events.ofPeriod(place.period)) {
     if (!event.isUnderstood || event.isDeleted)
       continue;
     if (event.code == EventCode::DEPART)
       stops.clear();
     else if (isStop(event))
-      stops.emplace_back(key, event.clockSeconds);
+      stops.push_back(&event);
   }
-  if (stops.empty() || stops.back().first != place.key)
+  if (stops.empty() || stops.back()->key != place.key)
     return false;
-  return stops.size() == 1 || stops[stops.size() - 2].second != stops.back().second;
+  return stops.size() == 1 || stops[stops.size() - 2]->clockSeconds != stops.back()->clockSeconds;
 }
 
 } // namespace hooptab

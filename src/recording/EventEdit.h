@@ -1,5 +1,5 @@
 // A change to a recorded game while it is put together: steps taken one after the other on a copy of the
-// lines, the lists of all stops behind a changed one carried on, and the steps that take all of it back.
+// events, the lists of all stops behind a changed one carried on, and the steps that take all of it back.
 // Writes nothing; knows no clock and no file.
 #pragma once
 
@@ -14,7 +14,7 @@ namespace hooptab {
 
 class EventEdit {
  public:
-  EventEdit(EventLines lines, const Rosters& rosters) : m_lines(std::move(lines)), m_rosters(rosters) {}
+  EventEdit(EventList events, const Rosters& rosters) : m_events(std::move(events)), m_rosters(rosters) {}
 
   // False when a step cannot be taken; what was put together then is not to be used.
   bool take(const EventChange& step); // to the letter
@@ -25,7 +25,7 @@ class EventEdit {
   // The lists in force before `from` were `before` and are others now.
   bool carryOn(const EventPlace& from, const OnCourt& before);
 
-  const EventLines& lines() const { return m_lines; }
+  const EventList& events() const { return m_events; }
   const std::vector<EventChange>& steps() const { return m_steps; }
   const std::vector<EventChange>& back() const { return m_back; } // in the order in which they are taken
   // Where six would be on court, or one of them twice.
@@ -34,32 +34,36 @@ class EventEdit {
  private:
   [[nodiscard]] std::optional<CourtConflict> tooMany(const EventChange& step) const;
 
-  EventLines m_lines;
+  EventList m_events;
   Rosters m_rosters;
   std::vector<EventChange> m_steps;
   std::vector<EventChange> m_back;
   std::optional<CourtConflict> m_conflict;
 };
 
-[[nodiscard]] inline EventChange replacement(int period, const std::string& key, std::string line) {
-  return {EventChange::Kind::Replace, period, key, std::move(line), {}};
+[[nodiscard]] inline EventChange replacement(const EventPlace& event, std::string line) {
+  return {EventChange::Kind::Replace, event.period, event.key, std::move(line), {}};
 }
 // A line with the mark of deletion, or without it.
-[[nodiscard]] std::string withDeletion(const std::string& line, bool isDeleted);
+[[nodiscard]] std::string withDeletion(std::string_view line, bool isDeleted);
 // The key behind an event of its period; empty for the last.
-[[nodiscard]] std::string keyBehind(const EventLines& lines, const EventPlace& event);
+[[nodiscard]] std::string keyBehind(const EventList& events, const EventPlace& event);
 // The key before which an event of that clock stands: `before` (empty for the end of the period) where the
-// clocks around allow it, else behind the last of equal clock, or where the clock falls. `key` is the event
-// itself, if it is there already.
-[[nodiscard]] std::string placeForClock(const EventLines& lines, int period, const std::string& key,
-                                        int clockSeconds, const std::string& before);
+// clocks around allow it, else behind the last of equal clock, or where the clock falls. Of an event that is
+// there already its own place says nothing, nor does that of the start that goes with it.
+struct PlacedEvent {
+  EventPlace event; // no key: a new one
+  std::optional<EventPlace> start;
+};
+[[nodiscard]] std::string placeForClock(const EventList& events, const PlacedEvent& placed, int clockSeconds,
+                                        const std::string& before);
 // Whether the clock runs at the place before that event (empty: at the end of the period).
-[[nodiscard]] bool isRunningBefore(const EventLines& lines, int period, const std::string& before);
+[[nodiscard]] bool isRunningBefore(const EventList& events, int period, const std::string& before);
 // The start at the same clock with which a substitution goes on while the clock runs: it belongs to the stop
 // before it, deleted or not like that.
-[[nodiscard]] std::optional<EventPlace> startOfSubstitution(const EventLines& lines, const EventPlace& stop,
+[[nodiscard]] std::optional<EventPlace> startOfSubstitution(const EventList& events, const EventPlace& stop,
                                                             const Rosters& rosters);
 // A stop that its period needs: without it, nobody would be credited with the time up to its last stop.
-[[nodiscard]] bool closesPeriod(const EventLines& lines, const EventPlace& event);
+[[nodiscard]] bool closesPeriod(const EventList& events, const EventPlace& event);
 
 } // namespace hooptab

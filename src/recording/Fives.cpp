@@ -1,6 +1,7 @@
 #include "recording/Fives.h"
 
 #include "game/PlayerLookup.h"
+#include "recording/LiveFigures.h"
 
 #include <bit>
 #include <tuple>
@@ -40,8 +41,8 @@ Fives Fives::of(const LiveGame& game) {
       const LineEntry& entry = state.lines[team][line];
       const FivePlay play{.players = state.lineMembers[team][line] & ~1U,
                           .jerseys = jerseysOnCourt(entry.list, roster),
-                          .seconds =
-                              line == onCourt ? game.secondsOfLine(static_cast<int>(team)) : entry.seconds,
+                          .seconds = line == onCourt ? LiveFigures(game).secondsOfLine(static_cast<int>(team))
+                                                     : entry.seconds,
                           .pointsFor = pointsOf(entry.counters),
                           .pointsAgainst = against[team][line]};
       if (line == onCourt)

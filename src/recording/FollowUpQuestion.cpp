@@ -1,5 +1,6 @@
 #include "recording/FollowUpQuestion.h"
 
+#include "recording/LiveFigures.h"
 #include "storage/Placeholders.h"
 
 #include <algorithm>
@@ -161,7 +162,7 @@ void FollowUpQuestion::refuse() {
   else if (m_isAssist && strangers.empty() && m_game->game().roster[other].entryOf(m_typed) > 0)
     m_refusal = Refusal{.text = Text::OfOtherTeam, .team = m_game->game().details.abbreviation[other]};
   else if (!strangers.empty()) {
-    const bool isOut = m_game->isFouledOut(strangers[0].team, strangers[0].player);
+    const bool isOut = LiveFigures(*m_game).isFouledOut(strangers[0].team, strangers[0].player);
     m_refusal = Refusal{.text = isOut        ? Text::HasFouledOut
                                 : m_isAssist ? Text::OnBenchAssist
                                              : Text::OnBenchRebound,

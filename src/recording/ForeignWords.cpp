@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t kMostNamed = 5;
 
-std::string keysOf(const std::vector<GameMerge::GivenWay>& lines) {
+std::string keysOf(const std::vector<EventPlace>& lines) {
   std::string keys;
   for (std::size_t index = 0; index < lines.size() && index < kMostNamed; ++index)
     keys += (keys.empty() ? "" : ", ") + lines[index].key;

@@ -40,7 +40,9 @@ class GameEditing {
   // Marks events as deleted or restores them. The stop that ends a period cannot be deleted. A substitution
   // while the clock runs takes its start of the clock along.
   [[nodiscard]] EditPlan deletion(std::span<const EventPlace> events, bool isDeleted) const;
-  [[nodiscard]] bool canDelete(const EventPlace& event) const { return !closesPeriod(m_log.lines(), event); }
+  [[nodiscard]] bool canDelete(const EventPlace& event) const {
+    return !closesPeriod(m_log.game().events, event);
+  }
   // A line in place of another, its mark of deletion apart. With another clock, past those of its neighbours,
   // the event moves, within its period, behind the last of equal clock.
   [[nodiscard]] EditPlan replacement(const EventPlace& event, int clockSeconds,

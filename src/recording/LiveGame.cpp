@@ -1,6 +1,7 @@
 #include "recording/LiveGame.h"
 
 #include "game/Rules.h"
+#include "recording/LiveFigures.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -15,25 +16,19 @@ namespace hooptab {
 namespace {
 
 constexpr int kSecondsPerMinute = 60;
-constexpr int kStartLock = 3;                               // seconds
 constexpr int kBehindAll = std::numeric_limits<int>::max(); // every period that a file can have
 
 // The new events of these steps, marked as deleted.
 std::vector<EventChange> deletionOf(const std::vector<EventChange>& steps) {
   std::vector<EventChange> deletion;
   for (const EventChange& step : steps)
-    deletion.push_back(replacement(step.period, step.key, withDeletion(step.line, true)));
+    deletion.push_back(replacement({step.period, step.key}, withDeletion(step.line, true)));
   return deletion;
-}
-
-bool isStop(const std::string& line) {
-  const GameEvent event = GameEvent::parse(1, "1", line);
-  return event.isUnderstood && event.code == EventCode::ARRET;
 }
 
 } // namespace
 
-LiveGame::LiveGame(cinifile& store, TimeSource& time) : m_log(store), m_time(time) {}
+LiveGame::LiveGame(cinifile& store, TimeSource& time) : m_log(store), m_time(time), m_flow(time) {}
 
 GameFileProblem LiveGame::open(const std::string& path, Access access) {
   if (const GameFileProblem problem = m_log.open(path); problem != GameFileProblem::None)
@@ -44,8 +39,7 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
   m_wasLeftRunning = false;
   m_slots.clear();
   m_pending.reset();
-  m_endedPeriod = 0;
-  m_lockedUntil = 0;
+  m_flow = GameFlow(m_time);
   m_starts.clear();
   offerEarlier();
   if (m_slots.keepsPlaces())
@@ -59,8 +53,8 @@ ForeignHands LiveGame::takeForeignHands() {
     writePending();
   ForeignHands hands = m_log.takeForeignHands();
   if (hands.isTouched) { // others may be on court, at other places of the roster
-    putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters()));
-    decideAgain();
+    putOnCourt(inForce(game().events, kBehindAll, {}, m_log.rosters()));
+    m_flow.decideAgain(isTied());
   }
   return hands;
 }
@@ -68,29 +62,27 @@ ForeignHands LiveGame::takeForeignHands() {
 // The lists of the last stop, the clock of the last event; after a stop at 00:00 as after the close of the
 // period.
 void LiveGame::showAsLeft() {
-  const GameState& counted = state();
-  m_period = std::clamp(counted.period, 1, kLastPeriod);
-  m_lengthOfPeriod = lengthOf(m_period);
-  m_clock = {};
-  m_phase = Phase::Stopped;
-  putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters()));
+  standIn(std::clamp(state().period, 1, kLastPeriod));
+  putOnCourt(inForce(game().events, kBehindAll, {}, m_log.rosters()));
 
   const GameEvent* last = nullptr;
   for (const GameEvent& event : game().events) {
     if (event.isUnderstood && !event.isDeleted)
       last = &event;
   }
-  m_clock.set(last == nullptr ? fullLength() : last->clockSeconds);
+  if (last != nullptr)
+    m_flow.setClock(last->clockSeconds);
   if (last != nullptr && last->code == EventCode::ARRET && last->clockSeconds == 0 && hasTime()) {
-    m_period = std::min(last->period, kLastPeriod); // whose next one may have had a start that was taken back
+    standIn(std::min(last->period, kLastPeriod)); // whose next one may have had a start that was taken back
+    m_flow.setClock(0);
     closePeriod();
   }
-  m_lockedUntil = 0; // that was long ago
+  m_flow.unlock(); // that was long ago
   if (m_access == Access::Reading || game().details.isFinished) {
-    m_phase = m_access == Access::Reading ? Phase::ReadOnly : Phase::Finished;
+    m_flow.close(m_access == Access::Reading ? Phase::ReadOnly : Phase::Finished);
     return;
   }
-  m_wasLeftRunning = hasTime() && isRunningBefore(m_log.lines(), m_period, {});
+  m_wasLeftRunning = hasTime() && isRunningBefore(game().events, period(), {});
   // A team that is its own one player stands on court from the beginning.
   const OnCourt before = onCourt();
   OnCourt whole = before;
@@ -106,23 +98,21 @@ void LiveGame::showAsLeft() {
 
 // Places that are kept follow from all who came and went, one after the other.
 void LiveGame::comeAndGo() {
-  for (const auto& [period, lines] : m_log.lines()) {
-    for (const auto& [key, line] : lines) {
-      if (const auto lists = onCourtOf(period, line, m_log.rosters()))
-        putOnCourt(*lists);
-    }
+  for (const GameEvent& event : game().events) {
+    if (const auto lists = onCourtOf(event, m_log.rosters()))
+      putOnCourt(*lists);
   }
 }
 
 int LiveGame::fullLength() const {
-  return hasTime() ? m_lengthOfPeriod : 0;
+  return hasTime() ? m_flow.length() : 0;
 }
 
 bool LiveGame::isHalfTime() const {
   const int periods = game().details.periods;
-  return m_phase == Phase::Stopped && periods % 2 == 0 && m_period == periods / 2 + 1 &&
+  return phase() == Phase::Stopped && periods % 2 == 0 && period() == periods / 2 + 1 &&
          std::ranges::none_of(game().events, [this](const GameEvent& event) {
-           return event.period == m_period && !event.isDeleted;
+           return event.period == period() && !event.isDeleted;
          });
 }
 
@@ -139,7 +129,7 @@ int LiveGame::lengthOf(int period) const {
 }
 
 int LiveGame::clockSeconds() const {
-  return hasTime() ? m_clock.remaining(m_time.seconds()) : 0;
+  return hasTime() ? m_flow.seconds() : 0;
 }
 
 std::string LiveGame::lineOf(const std::string& eventText) const {
@@ -147,20 +137,20 @@ std::string LiveGame::lineOf(const std::string& eventText) const {
 }
 
 EventChange LiveGame::added(const std::string& line) {
-  return {EventChange::Kind::Add, m_period, m_log.takeKey(), line};
+  return {EventChange::Kind::Add, period(), m_log.takeKey(), line};
 }
 
 // --- Clock and periods
 
 void LiveGame::toggleClock() {
-  if (m_phase == Phase::Running)
+  if (phase() == Phase::Running)
     stop();
   else
     start();
 }
 
 void LiveGame::start() {
-  if (!hasTime() || m_phase != Phase::Stopped || startLock() > 0)
+  if (!hasTime() || phase() != Phase::Stopped || startLock() > 0)
     return;
   if (isStopLost())
     recordStop();
@@ -168,52 +158,46 @@ void LiveGame::start() {
   if (clockSeconds() == 0)
     return closePeriod();
   m_history.forgetStarts();
-  m_starts[m_log.nextNumber()] = std::exchange(m_endedPeriod, 0);
+  const int number = m_log.nextNumber();
   m_log.change({added(lineOf(startText()))});
-  m_clock.start(m_time.seconds());
-  m_phase = Phase::Running;
+  m_starts[number] = m_flow.start();
 }
 
 void LiveGame::stop() {
-  if (m_phase != Phase::Running)
+  if (phase() != Phase::Running)
     return;
   writePending();
-  m_clock.stop(m_time.seconds());
-  m_phase = Phase::Stopped;
+  m_flow.stop();
   recordStop();
   if (clockSeconds() == 0)
     closePeriod();
 }
 
-int LiveGame::startLock() const {
-  return static_cast<int>(std::clamp<std::int64_t>(m_lockedUntil - m_time.seconds(), 0, kStartLock));
-}
-
 void LiveGame::stopForClosing(std::int64_t now) {
-  if (m_phase != Phase::Running)
+  if (phase() != Phase::Running)
     return;
   stop();
   m_log.setDetails({{"QUITTE", std::to_string(m_log.nextNumber() - 1) + ' ' + std::to_string(now)}});
 }
 
 bool LiveGame::wasClosedInPlay() const {
-  const auto events = game().events.events();
+  const EventList& events = game().events;
   const auto last = std::find_if(events.rbegin(), events.rend(), [](const GameEvent& event) {
     return event.isUnderstood && !event.isDeleted;
   });
-  return m_phase == Phase::Stopped && last != events.rend() && last->code == EventCode::ARRET &&
+  return phase() == Phase::Stopped && last != events.rend() && last->code == EventCode::ARRET &&
          last->clockSeconds > 0 && last->number == game().details.closedInPlay.event;
 }
 
 bool LiveGame::isStopLost() const {
-  return m_wasLeftRunning && m_phase == Phase::Stopped && isRunningBefore(m_log.lines(), m_period, {});
+  return m_wasLeftRunning && phase() == Phase::Stopped && isRunningBefore(game().events, period(), {});
 }
 
 bool LiveGame::settleStop(int clockSeconds) {
   if (!isStopLost() || clockSeconds < 0)
     return false;
   m_wasLeftRunning = false;
-  m_clock.set(clockSeconds); // of an overtime, too, whose length is in no file
+  m_flow.setClock(clockSeconds); // of an overtime, too, whose length is in no file
   recordStop();
   if (clockSeconds == 0)
     closePeriod();
@@ -240,114 +224,97 @@ void LiveGame::recordStop() {
 void LiveGame::tick() {
   if (m_pending && m_time.seconds() - m_pending->since >= kLongestPending)
     writePending();
-  if (m_phase == Phase::Running && clockSeconds() == 0)
+  if (phase() == Phase::Running && clockSeconds() == 0)
     stop();
 }
 
 bool LiveGame::setClock(int seconds) {
-  if (!hasTime() || m_phase != Phase::Stopped || seconds < 0 || seconds > fullLength())
+  if (!hasTime() || phase() != Phase::Stopped || seconds < 0 || seconds > fullLength())
     return false;
   m_history.forgetStarts();
-  m_clock.set(seconds);
+  m_flow.setClock(seconds);
   return true;
 }
 
 bool LiveGame::setPeriod(int period) {
-  if (m_phase == Phase::Running || !canRecord() || period < 1 || period > kLastPeriod)
+  if (phase() == Phase::Running || !canRecord() || period < 1 || period > kLastPeriod)
     return false;
-  if (period == m_period)
+  if (period == m_flow.period())
     return true;
   leavePeriod();
   m_history.forgetStarts();
   m_wasLeftRunning = false;
-  m_period = period;
-  m_phase = Phase::Stopped;
-  m_endedPeriod = 0;
-  m_lengthOfPeriod = lengthOf(m_period);
-  int clock = fullLength();
-  for (const GameEvent& event : game().events) {
-    if (event.period == period && event.isUnderstood && !event.isDeleted)
-      clock = event.clockSeconds;
+  m_flow.forgetEnd();
+  standIn(period);
+  for (const GameEvent& event : game().events.ofPeriod(period)) {
+    if (event.isUnderstood && !event.isDeleted)
+      m_flow.setClock(event.clockSeconds);
   }
-  m_clock.set(clock);
   return true;
 }
 
 // A period is left with a stop at the clock shown, when its last event is none; one without events needs
 // none.
 void LiveGame::leavePeriod() {
-  const auto events = m_log.lines().find(m_period);
-  if (!hasTime() || events == m_log.lines().end())
-    return;
-  const PeriodLines& lines = events->second;
-  const auto last = std::find_if(lines.rbegin(), lines.rend(),
-                                 [](const auto& event) { return !event.second.starts_with('E'); });
-  if (last != lines.rend() && !isStop(last->second))
+  const auto events = game().events.ofPeriod(period());
+  const auto last = std::find_if(events.rbegin(), events.rend(),
+                                 [](const GameEvent& event) { return !event.whole().starts_with('E'); });
+  if (hasTime() && last != events.rend() && !isStop(*last))
     recordStop();
 }
 
+void LiveGame::standIn(int period) {
+  const int length = lengthOf(period);
+  m_flow.stand(period, length, hasTime() ? length : 0);
+}
+
 void LiveGame::closePeriod() {
-  const int points[2] = {state().points(0), state().points(1)};
-  m_lockedUntil = m_time.seconds() + kStartLock + 1; // of whole seconds the present one may be at its end
   m_history.forgetStarts();
-  m_endedPeriod = m_period;
-  if (m_period >= game().details.periods) {
-    m_phase = points[0] == points[1] ? Phase::OvertimeAsked : Phase::Decided;
-    return;
-  }
-  m_phase = Phase::Stopped;
-  ++m_period;
-  m_lengthOfPeriod = lengthOf(m_period);
-  m_clock.set(fullLength());
+  const bool isLast = period() >= game().details.periods;
+  m_flow.end(isLast, isTied());
+  if (!isLast)
+    standIn(period() + 1);
 }
 
 bool LiveGame::returnToEndedPeriod() {
-  if (!canReturnToEndedPeriod() || m_phase == Phase::Running || !canRecord())
+  if (!canReturnToEndedPeriod() || phase() == Phase::Running || !canRecord())
     return false;
   m_history.forgetStarts();
-  m_period = m_endedPeriod;
-  m_lengthOfPeriod = lengthOf(m_period);
-  m_endedPeriod = 0;
-  m_lockedUntil = 0; // nobody comes here by reflex
-  m_phase = Phase::Stopped;
-  m_clock.set(0);
+  m_flow.returnToEnded(lengthOf(endedPeriod()));
   return true;
 }
 
 bool LiveGame::beginOvertime(int minutes, bool keepsFouls) {
-  if (m_phase != Phase::OvertimeAsked || minutes < 1 || minutes > kMostMinutes || m_period >= kLastPeriod)
+  if (phase() != Phase::OvertimeAsked || minutes < 1 || minutes > kMostMinutes || period() >= kLastPeriod)
     return false;
   m_log.setDetails({{"KEEPBONUS", keepsFouls ? "1" : "0"}});
-  ++m_period;
-  m_lengthOfPeriod = minutes * kSecondsPerMinute;
-  m_lockedUntil = 0; // nobody answers by reflex
-  m_clock.set(m_lengthOfPeriod);
-  m_phase = Phase::Stopped;
+  m_flow.stand(period() + 1, minutes * kSecondsPerMinute, minutes * kSecondsPerMinute);
+  m_flow.unlock(); // nobody answers by reflex
   return true;
 }
 
 void LiveGame::finish(const std::string& notes) {
-  if (m_phase == Phase::ReadOnly)
+  if (phase() == Phase::ReadOnly)
     return;
   stop();
   m_log.setDetails({{"TERMINE", "1"}, {"NOTES", notes}});
-  m_phase = Phase::Finished;
+  m_flow.close(Phase::Finished);
 }
 
 void LiveGame::saveNotes(const std::string& notes) {
-  if (m_phase != Phase::ReadOnly)
+  if (phase() != Phase::ReadOnly)
     m_log.setDetails({{"NOTES", notes}});
 }
 
 void LiveGame::reopen() {
-  if (m_phase != Phase::Finished)
+  if (phase() != Phase::Finished)
     return;
   m_log.setDetails({{"TERMINE", "0"}});
   showAsLeft();
 }
 
 void LiveGame::setTeamColour(int team, std::uint32_t colour) {
-  if (m_phase != Phase::ReadOnly)
+  if (phase() != Phase::ReadOnly)
     m_log.setDetails({{"EQUIPE" + std::to_string(team) + "COL", std::to_string(colour)}});
 }
 
@@ -381,7 +348,7 @@ bool LiveGame::mayStand(const OnCourt& wanted) const {
 }
 
 bool LiveGame::changeByClick(const OnCourt& wanted) {
-  if (m_phase != Phase::Running)
+  if (phase() != Phase::Running)
     return setOnCourt(wanted);
   if (!mayStand(wanted))
     return false;
@@ -405,10 +372,10 @@ bool LiveGame::isWhole(const OnCourt& wanted) const {
 int LiveGame::fullNumber(int team) const {
   int canPlay = 0;
   for (int player = 1; player <= Roster::kLargestEntry; ++player)
-    canPlay +=
-        game().roster[static_cast<std::size_t>(team)].player(player) != nullptr && !isFouledOut(team, player)
-            ? 1
-            : 0;
+    canPlay += game().roster[static_cast<std::size_t>(team)].player(player) != nullptr &&
+                       !LiveFigures(*this).isFouledOut(team, player)
+                   ? 1
+                   : 0;
   return std::min(kMostOnCourt, canPlay);
 }
 
@@ -435,36 +402,34 @@ bool LiveGame::setOnCourt(const OnCourt& wanted) {
 // A substitution at that clock, with nothing recorded since but the start of the clock that belongs to it:
 // what follows at once is part of it. A stop is none (its lists equal those before), nor is the game's first
 // event.
-const std::pair<std::string, std::string>* LiveGame::openSubstitution(int clockSeconds) const {
-  const auto found = m_log.lines().find(m_period);
-  if (found == m_log.lines().end() || found->second.empty())
-    return nullptr;
-  const PeriodLines& lines = found->second;
+const GameEvent* LiveGame::openSubstitution(int clockSeconds) const {
+  auto events = game().events.ofPeriod(period());
   const std::string clock = Module1::clockText(clockSeconds);
-  std::size_t last = lines.size() - 1;
-  if (m_phase == Phase::Running) {
-    if (lines[last].second != clock + startText() || last == 0)
+  if (phase() == Phase::Running && !events.empty()) {
+    if (events.back().whole() != clock + startText())
       return nullptr;
-    --last;
+    events = events.first(events.size() - 1);
   }
-  const auto& [key, line] = lines[last];
-  const auto lists = onCourtOf(m_period, line, m_log.rosters());
-  if (!lists || key == "1" || !line.starts_with(clock) ||
-      *lists == inForceBefore(m_log.lines(), m_period, key, m_log.rosters()))
+  if (events.empty())
     return nullptr;
-  return &lines[last];
+  const GameEvent& last = events.back();
+  const auto lists = onCourtOf(last, m_log.rosters());
+  if (!lists || last.key == "1" || !last.whole().starts_with(clock) ||
+      *lists == inForceBefore(game().events, period(), last.key, m_log.rosters()))
+    return nullptr;
+  return &last;
 }
 
 bool LiveGame::recordOnCourt(int clockSeconds) {
-  if (const auto* open = openSubstitution(clockSeconds)) {
-    const std::pair<std::string, std::string> old = *open;
-    return done(Text::Substitution,
-                {replacement(m_period, old.first, withLists(old.second, onCourt(), m_log.rosters()))},
-                {replacement(m_period, old.first, old.second)});
+  if (const GameEvent* open = openSubstitution(clockSeconds)) {
+    const EventPlace place = placeOf(*open);
+    const std::string old(open->whole());
+    return done(Text::Substitution, {replacement(place, withLists(old, onCourt(), m_log.rosters()))},
+                {replacement(place, old)});
   }
   const std::string clock = Module1::clockText(clockSeconds);
   std::vector<EventChange> steps = {added(clock + stopText(onCourt(), m_log.rosters()))};
-  if (m_phase == Phase::Running)
+  if (phase() == Phase::Running)
     steps.push_back(added(clock + startText()));
   return done(Text::Substitution, steps, deletionOf(steps));
 }
@@ -486,7 +451,7 @@ bool LiveGame::record(const std::string& eventText, Text text) {
   const std::vector<EventChange> steps = {added(lineOf(eventText))};
   if (!done(text, steps, deletionOf(steps)))
     return false;
-  decideAgain();
+  m_flow.decideAgain(isTied());
   return true;
 }
 
@@ -498,7 +463,7 @@ bool LiveGame::recordShot(int team, int player, EventCode kind, bool isMade,
     return false;
   if (!record(eventText(kind, isMade, team, who->jersey, place), shot->wordsText))
     return false;
-  m_lastShot = {m_period, m_log.lines().at(m_period).back().first};
+  m_lastShot = placeOf(game().events.ofPeriod(period()).back());
   return true;
 }
 
@@ -512,13 +477,11 @@ bool LiveGame::recordAction(int team, int player, EventCode kind) {
 
 bool LiveGame::recordFollowUp(int team, int player, EventCode kind) {
   writePending(); // before a number is given to what follows
-  if (m_lastShot.period == m_period)
+  if (m_lastShot.period == period())
     return recordAction(team, player, kind);
-  const std::string* shot = findLine(m_log.lines(), m_lastShot.period, m_lastShot.key);
-  if (shot == nullptr)
-    return false;
-  const int clock = GameEvent::parse(m_lastShot.period, m_lastShot.key, *shot).clockSeconds;
-  return insertEvent(m_lastShot, Where::Behind, clock, {.kind = kind, .team = team, .player = player});
+  const GameEvent* shot = game().events.find(m_lastShot);
+  return shot != nullptr && insertEvent(m_lastShot, Where::Behind, shot->clockSeconds,
+                                        {.kind = kind, .team = team, .player = player});
 }
 
 LiveGame::FollowUps LiveGame::followUps(int team, int player, EventCode kind, bool isMade,
@@ -538,54 +501,6 @@ LiveGame::FollowUps LiveGame::followUps(int team, int player, EventCode kind, bo
       (isOwn ? result.offensiveRebound : result.defensiveRebound).push_back(other);
   }
   return result;
-}
-
-// --- What is shown
-
-// What the tally has credited, and what has passed since the player's line came on court.
-int LiveGame::secondsOnCourt(int team, int player) const {
-  const auto side = static_cast<std::size_t>(team);
-  const GameState& counted = state();
-  const int seconds = counted.players[side][static_cast<std::size_t>(player)].seconds;
-  const bool isOn = std::ranges::find(counted.onCourt[side].begin(),
-                                      counted.onCourt[side].begin() + counted.onCourtCount[side],
-                                      static_cast<std::uint8_t>(player)) !=
-                    counted.onCourt[side].begin() + counted.onCourtCount[side];
-  return std::max(seconds + (isOn ? secondsSinceLists(side) : 0), 0);
-}
-
-// What the tally will credit to those on court with the next stop.
-int LiveGame::secondsSinceLists(std::size_t team) const {
-  return isTimeOpen() ? state().lineStartClock[team] - clockSeconds() : 0;
-}
-
-int LiveGame::secondsOfLine(int team) const {
-  const auto side = static_cast<std::size_t>(team);
-  const std::size_t line = state().currentLine[side];
-  return line == 0 ? 0 : std::max(state().lines[side][line].seconds + secondsSinceLists(side), 0);
-}
-
-int LiveGame::secondsInLead(LeadState which) const {
-  const LeadTracker& lead = state().lead;
-  int seconds = lead.seconds[static_cast<std::size_t>(which)];
-  if (isTimeOpen() && lead.state == which)
-    seconds += lead.previousClock - clockSeconds();
-  return std::max(seconds, 0);
-}
-
-int LiveGame::teamFouls(int team) const {
-  return hooptab::teamFouls(game().details, state(), team, m_period);
-}
-
-bool LiveGame::isInBonus(int team) const {
-  return hooptab::isInBonus(game().details, teamFouls(team));
-}
-
-bool LiveGame::isFouledOut(int team, int player) const {
-  return hooptab::isFouledOut(
-      game().details,
-      PlayerFouls::of(
-          state().players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)].counters));
 }
 
 } // namespace hooptab

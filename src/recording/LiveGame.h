@@ -4,8 +4,8 @@
 #pragma once
 
 #include "recording/CourtSlots.h"
-#include "recording/GameClock.h"
 #include "recording/GameEditing.h"
+#include "recording/GameFlow.h"
 #include "recording/LiveHistory.h"
 #include "recording/LiveLog.h"
 #include "recording/NewPlayer.h"
@@ -47,20 +47,13 @@ class LiveGame {
   bool writeCopy(const std::string& path) { return m_log.writeCopy(path); }
 
   // --- Clock and periods
-  enum class Phase {
-    Stopped,
-    Running,
-    OvertimeAsked, // the last period ended with equal scores: beginOvertime() or nothing
-    Decided,       // the last period ended with different scores: "---"
-    Finished,      // closed by the user: nothing can be recorded until it is reopened
-    ReadOnly,      // opened for reading: nothing can be recorded or reopened
-  };
-  Phase phase() const { return m_phase; }
-  bool canRecord() const { return m_phase != Phase::Finished && m_phase != Phase::ReadOnly; }
+  using Phase = GameFlow::Phase;
+  Phase phase() const { return m_flow.phase(); }
+  bool canRecord() const { return m_flow.isOpen(); }
   bool hasTime() const { return m_log.game().details.minutesPerPeriod > 0; }
-  int period() const { return m_period; }
-  bool isOvertime() const { return m_period > m_log.game().details.periods; }
-  const GameClock& clock() const { return m_clock; }
+  int period() const { return m_flow.period(); }
+  bool isOvertime() const { return period() > m_log.game().details.periods; }
+  const GameClock& clock() const { return m_flow.clock(); }
   int clockSeconds() const; // that remain
   int fullLength() const;   // of this period, in seconds; 0 in a game without time
   bool isHalfTime() const;  // the second half is next, and nothing has happened in it yet
@@ -70,7 +63,7 @@ class LiveGame {
   void stop();
   // Seconds for which nobody can start the clock, because a period has just ended: who reacts to the horn
   // with the key that stops would start the next one.
-  int startLock() const;
+  int startLock() const { return m_flow.startLock(); }
   // To be called once a second or more often while the clock runs; stops at 00:00.
   void tick();
   // Stops, and notes in the game that its window was closed in mid-play; `now` is the wall clock, in seconds
@@ -87,8 +80,10 @@ class LiveGame {
   // By hand, while the clock stands; 1 and up.
   bool setPeriod(int period);
   // After the buzzer, until START: back into the period that has ended, with its clock at 00:00.
-  bool canReturnToEndedPeriod() const { return m_endedPeriod > 0; }
-  int endedPeriod() const { return m_endedPeriod; } // the one that has ended; 0: none, since the last start
+  bool canReturnToEndedPeriod() const { return endedPeriod() > 0; }
+  int endedPeriod() const {
+    return m_flow.endedPeriod();
+  } // the one that has ended; 0: none, since the last start
   bool returnToEndedPeriod();
   // From OvertimeAsked; 1 to 99 minutes.
   bool beginOvertime(int minutes, bool keepsFouls);
@@ -151,14 +146,6 @@ class LiveGame {
   };
   FollowUps followUps(int team, int player, EventCode kind, bool isMade, bool asksRebounds) const;
 
-  // --- What is shown
-  int secondsOnCourt(int team, int player) const;
-  int secondsOfLine(int team) const; // that those on court have played together; 0 for nobody
-  int secondsInLead(LeadState state) const;
-  int teamFouls(int team) const;  // of the period; of all overtimes with the last regular period where kept
-  bool isInBonus(int team) const; // the team whose fouls have reached the limit
-  bool isFouledOut(int team, int player) const;
-
   // --- Taking back
   // A start of the clock in this session, with nothing but events of the clock behind it and its period not
   // at its end, comes before all else.
@@ -202,9 +189,8 @@ class LiveGame {
 
  private:
   [[nodiscard]] int lengthOf(int period) const;
-  // The next stop will credit what has passed, to those on court and to the lead.
-  [[nodiscard]] bool isTimeOpen() const { return m_phase == Phase::Running || isStopLost(); }
-  [[nodiscard]] int secondsSinceLists(std::size_t team) const;
+  [[nodiscard]] bool isTied() const { return state().points(0) == state().points(1); }
+  void standIn(int period);                               // the whole of it before it
   std::string lineOf(const std::string& eventText) const; // at the present clock
   EventChange added(const std::string& line);
   bool record(const std::string& eventText, Text text);
@@ -221,30 +207,24 @@ class LiveGame {
   bool isWhole(const OnCourt& wanted) const;
   bool recordOnCourt(int clockSeconds);
   bool done(Text text, const std::vector<EventChange>& steps, std::vector<EventChange> back);
-  [[nodiscard]] const std::pair<std::string, std::string>* openSubstitution(int clockSeconds) const;
+  [[nodiscard]] const GameEvent* openSubstitution(int clockSeconds) const;
   [[nodiscard]] std::optional<LiveAction> startToTakeBack() const;
   bool takeStartBack(LiveAction start);
-  void decideAgain();
   void offerEarlier();
   bool turn(const LiveAction& action, std::vector<EventChange>& inverse);
 
   LiveLog m_log;
   Access m_access = Access::Recording;
   TimeSource& m_time;
-  GameClock m_clock;
+  GameFlow m_flow;
   LiveHistory m_history;
   std::optional<CourtConflict> m_conflict;
   CourtSlots m_slots;
   std::optional<Pending> m_pending;
-  Phase m_phase = Phase::Stopped;
-  int m_period = 1;
   bool m_wasLeftRunning = false; // when it was opened; until the clock is started or the stop put in
-  int m_endedPeriod = 0;
-  std::int64_t m_lockedUntil = 0; // no start before
   std::map<int, int>
-      m_starts;             // of this session: the event's number, and the period to which one could return
-  EventPlace m_lastShot;    // of this session
-  int m_lengthOfPeriod = 0; // seconds; of an overtime its own
+      m_starts;          // of this session: the event's number, and the period to which one could return
+  EventPlace m_lastShot; // of this session
 };
 
 } // namespace hooptab

@@ -27,15 +27,9 @@ bool LiveGame::take(const EditPlan& plan) {
   }
   if (!done(plan.text, plan.steps, plan.back))
     return false;
-  putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters()));
-  decideAgain();
+  putOnCourt(inForce(game().events, kBehindAll, {}, m_log.rosters()));
+  m_flow.decideAgain(isTied());
   return true;
-}
-
-// The score with which the game ended may be another now.
-void LiveGame::decideAgain() {
-  if (m_phase == Phase::OvertimeAsked || m_phase == Phase::Decided)
-    m_phase = state().points(0) == state().points(1) ? Phase::OvertimeAsked : Phase::Decided;
 }
 
 // Takes an action's steps to the letter; only stops that came after it, which no action of the user made, are
@@ -44,7 +38,7 @@ bool LiveGame::turn(const LiveAction& action, std::vector<EventChange>& inverse)
   if (!canRecord())
     return false;
   const Rosters rosters = m_log.rosters();
-  EventEdit edit(m_log.lines(), rosters);
+  EventEdit edit(game().events, rosters);
   if (!std::ranges::all_of(action.steps, [&](const EventChange& step) { return edit.take(step); }))
     return false;
   const auto cameLater = [&](const GameEvent& event) {
@@ -53,15 +47,15 @@ bool LiveGame::turn(const LiveAction& action, std::vector<EventChange>& inverse)
   };
   const auto later = std::ranges::find_if(game().events, cameLater);
   if (later != game().events.end()) {
-    const EventPlace first{later->period, std::string(later->key)};
-    if (!edit.carryOn(first, inForceBefore(m_log.lines(), first.period, first.key, rosters)))
+    const EventPlace first = placeOf(*later);
+    if (!edit.carryOn(first, inForceBefore(game().events, first.period, first.key, rosters)))
       return false;
   }
   if (!m_log.change(edit.steps()))
     return false;
   inverse = edit.back();
-  putOnCourt(inForce(m_log.lines(), kBehindAll, {}, rosters));
-  decideAgain();
+  putOnCourt(inForce(game().events, kBehindAll, {}, rosters));
+  m_flow.decideAgain(isTied());
   return true;
 }
 
@@ -70,13 +64,13 @@ bool LiveGame::turn(const LiveAction& action, std::vector<EventChange>& inverse)
 void LiveGame::offerEarlier() {
   if (m_access == Access::Reading || m_history.toUndo() != nullptr)
     return;
-  const auto events = game().events.events();
+  const EventList& events = game().events;
   for (auto event = events.rbegin(); event != events.rend(); ++event) {
     if (!event->isUnderstood || event->isDeleted)
       continue;
-    const EventPlace place{event->period, std::string(event->key)};
+    const EventPlace place = placeOf(*event);
     const EventKind* kind = event->kind();
-    if (kind == nullptr && !isSubstitution(m_log.lines(), place.period, place.key, m_log.rosters()))
+    if (kind == nullptr && !isSubstitution(game().events, place.period, place.key, m_log.rosters()))
       continue;
     EditPlan plan = editing().deletion(std::span(&place, 1), true);
     if (plan.isPossible)
@@ -96,33 +90,30 @@ std::optional<LiveAction> LiveGame::toUndo() const {
 // Looked for in the lines, from the end: stops, and the start that is to go. What ended its period stays, and
 // what was done after it is taken back before it.
 std::optional<LiveAction> LiveGame::startToTakeBack() const {
-  const auto found = m_log.lines().find(m_period);
-  if (found == m_log.lines().end() || !canRecord() || m_pending)
+  if (!canRecord() || m_pending)
     return std::nullopt;
-  const PeriodLines& lines = found->second;
+  const auto events = game().events.ofPeriod(period());
   LiveAction action{.nextNumber = m_log.nextNumber()};
-  for (std::size_t line = lines.size(); line > 0; --line) {
-    const auto& [key, text] = lines[line - 1];
-    const GameEvent event = GameEvent::parse(m_period, key, text);
+  for (auto place = events.rbegin(); place != events.rend(); ++place) {
+    const GameEvent& event = *place;
     if (!event.isUnderstood || event.isDeleted)
       continue;
     if (action.start) { // this is the event before the start, which may be the half of a substitution
-      const EventPlace place{m_period, key};
-      if (startOfSubstitution(m_log.lines(), place, m_log.rosters()) == action.event)
+      if (startOfSubstitution(game().events, placeOf(event), m_log.rosters()) == action.event)
         return std::nullopt;
       break;
     }
     const bool isStart = event.code == EventCode::DEPART && m_starts.contains(event.number) &&
                          (m_history.toUndo() == nullptr || m_history.toUndo()->nextNumber <= event.number);
     const bool isPause = event.code == EventCode::ARRET && event.clockSeconds > 0 &&
-                         !isSubstitution(m_log.lines(), m_period, key, m_log.rosters());
+                         !isSubstitution(game().events, period(), event.key, m_log.rosters());
     if (!isPause && !isStart)
       return std::nullopt;
-    action.steps.insert(action.steps.begin(), replacement(m_period, key, withDeletion(text, true)));
+    action.steps.insert(action.steps.begin(), replacement(placeOf(event), withDeletion(event.whole(), true)));
     if (!isStart)
       continue;
-    action.event = {m_period, key};
-    action.start = LiveAction::Start{.clock = {}, .endedPeriod = m_starts.at(event.number)};
+    action.event = placeOf(event);
+    action.start = GameFlow::Stand{.clock = {}, .endedPeriod = m_starts.at(event.number)};
     action.start->clock.set(event.clockSeconds);
   }
   return action.start ? std::optional(std::move(action)) : std::nullopt;
@@ -133,10 +124,8 @@ bool LiveGame::takeStartBack(LiveAction action) {
   std::vector<EventChange> inverse;
   if (!turn(action, inverse))
     return false;
-  const LiveAction::Start before = std::exchange(*action.start, LiveAction::Start{m_clock, 0});
-  m_clock = before.clock;
-  m_endedPeriod = before.endedPeriod;
-  m_phase = Phase::Stopped;
+  const GameFlow::Stand went = m_flow.exchange(*action.start);
+  action.start = GameFlow::Stand{went.clock, 0};
   action.steps = std::move(inverse);
   m_history.addUndone(std::move(action));
   return true;
@@ -160,9 +149,7 @@ bool LiveGame::redo() {
   if (m_history.toRedo() == nullptr || !turn(*m_history.toRedo(), inverse))
     return false;
   if (const auto start = m_history.toRedo()->start) {
-    m_clock = start->clock;
-    m_endedPeriod = start->endedPeriod;
-    m_phase = m_clock.isRunning() ? Phase::Running : Phase::Stopped;
+    (void)m_flow.exchange(*start);
     m_history.dropUndone();
   } else {
     m_history.redone(std::move(inverse), m_log.nextNumber());
@@ -173,11 +160,11 @@ bool LiveGame::redo() {
 // --- To be looked at again
 
 std::optional<EventPlace> LiveGame::lastRecorded() const {
-  const auto events = game().events.events();
+  const EventList& events = game().events;
   for (auto event = events.rbegin(); event != events.rend(); ++event) {
-    EventPlace place{event->period, std::string(event->key)};
+    EventPlace place = placeOf(*event);
     if (event->isUnderstood && !event->isDeleted &&
-        (!event->isClock() || isSubstitution(m_log.lines(), place.period, place.key, m_log.rosters())))
+        (!event->isClock() || isSubstitution(game().events, place.period, place.key, m_log.rosters())))
       return place;
   }
   return std::nullopt;
@@ -185,14 +172,15 @@ std::optional<EventPlace> LiveGame::lastRecorded() const {
 
 bool LiveGame::setDoubtful(const EventPlace& event, bool isDoubtful) {
   writePending(); // which may change the line
-  const std::string* line = findLine(m_log.lines(), event.period, event.key);
-  if (line == nullptr || !canRecord())
+  const GameEvent* found = game().events.find(event);
+  if (found == nullptr || !canRecord())
     return false;
-  const std::string marked = withDoubt(*line, isDoubtful);
-  return marked != *line && take({.text = Text::MarkOfDoubt,
-                                  .isPossible = true,
-                                  .steps = {replacement(event.period, event.key, marked)},
-                                  .back = {replacement(event.period, event.key, *line)}});
+  const std::string line(found->whole());
+  const std::string marked = withDoubt(line, isDoubtful);
+  return marked != line && take({.text = Text::MarkOfDoubt,
+                                 .isPossible = true,
+                                 .steps = {replacement(event, marked)},
+                                 .back = {replacement(event, line)}});
 }
 
 bool LiveGame::acceptFinding(const EventPlace& event, int finding) {
@@ -221,7 +209,7 @@ NewPlayer LiveGame::addPlayer(int team, std::string_view jersey, std::string_vie
     m_history.clear();
     offerEarlier();
   }
-  putOnCourt(inForce(m_log.lines(), kBehindAll, {}, m_log.rosters())); // where lists named him already
+  putOnCourt(inForce(game().events, kBehindAll, {}, m_log.rosters())); // where lists named him already
   return added;
 }
 
@@ -233,27 +221,24 @@ bool LiveGame::keepListsMeaning(int team, const RosterPlayer& added) {
   Roster after = before;
   after.add(added);
   std::vector<EventChange> steps;
-  for (const auto& [period, lines] : m_log.lines()) {
-    for (const auto& [key, line] : lines) {
-      const GameEvent event = GameEvent::parse(period, key, line);
-      if (!event.isUnderstood || event.code != EventCode::ARRET)
-        continue;
-      const std::string_view list = event.onCourt(static_cast<std::size_t>(team));
-      std::string renamed;
-      bool isOther = false;
-      for (const std::string_view jersey : Module1::JerseysOfList(list)) {
-        const int entry = before.entryOfListed(jersey);
-        const bool isMoved = entry > 0 && after.entryOfListed(jersey) != entry;
-        renamed += renamed.empty() ? "IN-" : "-";
-        renamed += isMoved ? after.listedJersey(before.player(entry)->jersey) : jersey;
-        isOther = isOther || isMoved;
-      }
-      if (!isOther)
-        continue;
-      std::string whole = line;
-      whole.replace(static_cast<std::size_t>(list.data() - line.data()), list.size(), renamed);
-      steps.push_back(replacement(period, key, std::move(whole)));
+  for (const GameEvent& event : game().events) {
+    if (!isStop(event))
+      continue;
+    const std::string_view list = event.onCourt(static_cast<std::size_t>(team));
+    std::string renamed;
+    bool isOther = false;
+    for (const std::string_view jersey : Module1::JerseysOfList(list)) {
+      const int entry = before.entryOfListed(jersey);
+      const bool isMoved = entry > 0 && after.entryOfListed(jersey) != entry;
+      renamed += renamed.empty() ? "IN-" : "-";
+      renamed += isMoved ? after.listedJersey(before.player(entry)->jersey) : jersey;
+      isOther = isOther || isMoved;
     }
+    if (!isOther)
+      continue;
+    std::string whole(event.whole());
+    whole.replace(static_cast<std::size_t>(list.data() - event.line.data()), list.size(), renamed);
+    steps.push_back(replacement(placeOf(event), std::move(whole)));
   }
   return !steps.empty() && m_log.change(steps);
 }

@@ -3,7 +3,7 @@
 // again.
 #pragma once
 
-#include "recording/GameClock.h"
+#include "recording/GameFlow.h"
 #include "recording/OnCourt.h"
 #include "settings/Text.h"
 
@@ -20,11 +20,7 @@ struct LiveAction {
   std::vector<EventChange> steps = {}; // that take it back; of one that was taken back, that do it again
   int nextNumber = 0; // of events when it was done: what has this number or a higher one came later
   // Of a start of the clock that was taken back: how it went on, for doing it again as if nothing had been.
-  struct Start {
-    GameClock clock;
-    int endedPeriod = 0; // to which one could return before it
-  };
-  std::optional<Start> start = std::nullopt;
+  std::optional<GameFlow::Stand> start = std::nullopt;
 };
 
 class LiveHistory {

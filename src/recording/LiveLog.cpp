@@ -8,24 +8,14 @@ namespace hooptab {
 
 namespace {
 
-// What every reader gets of a line.
-std::string_view readable(const std::string& line) {
-  return std::string_view(line).substr(0, cinifile::kLongestValue);
-}
-
-// New events of the last period, or of one behind it. What recording does, hundreds of times a game, so it
-// takes no copy of all lines.
-bool isAppending(const std::vector<EventChange>& steps, const EventLines& lines) {
-  int period = lines.empty() ? 0 : lines.rbegin()->first;
-  std::vector<std::string_view> keys;
-  for (const EventChange& step : steps) {
-    if (step.kind != EventChange::Kind::Add || !step.before.empty() || step.period < period ||
-        findLine(lines, step.period, step.key) != nullptr || std::ranges::find(keys, step.key) != keys.end())
-      return false;
+// New events behind all others. What recording does, hundreds of times a game: counted one by one.
+bool isAppending(const std::vector<EventChange>& steps, const EventList& events) {
+  int period = events.isEmpty() ? 0 : events[events.size() - 1].period;
+  return std::ranges::all_of(steps, [&](const EventChange& step) {
+    const bool isBehind = step.kind == EventChange::Kind::Add && step.before.empty() && step.period >= period;
     period = step.period;
-    keys.push_back(step.key);
-  }
-  return true;
+    return isBehind;
+  });
 }
 
 } // namespace
@@ -35,12 +25,8 @@ GameFileProblem LiveLog::open(const std::string& path) {
   Game game;
   if (const GameFileProblem problem = file.read(game); problem != GameFileProblem::None)
     return problem;
-  EventLines lines;
-  if (const GameFileProblem problem = file.readLines(lines); problem != GameFileProblem::None)
-    return problem;
   m_nextNumber = file.nextNumber();
   m_game = std::move(game);
-  m_lines = std::move(lines);
   m_disk.open(path); // what another game still had to write is its own affair, and was asked about
   m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
   countAll();
@@ -50,16 +36,27 @@ GameFileProblem LiveLog::open(const std::string& path) {
 }
 
 bool LiveLog::change(const std::vector<EventChange>& steps) {
-  return isAppending(steps, m_lines) ? append(steps) : rewrite(steps);
+  const bool isBehind = isAppending(steps, m_game.events);
+  EventList changed = m_game.events;
+  if (!std::ranges::all_of(steps, [&](const EventChange& step) { return changed.apply(step); }))
+    return false;
+  note(steps);
+  const std::size_t before = m_game.events.size();
+  m_game.events = std::move(changed);
+  m_disk.change(steps, m_game.events, isBehind ? GameOnDisk::Values() : forgetAccepted(steps));
+  if (isBehind)
+    count(before);
+  else
+    countAll();
+  return true;
 }
 
 // Before the steps are taken: what was there tells what becomes of it.
 void LiveLog::note(const std::vector<EventChange>& steps) {
-  const auto isDeleted = [](const std::string& line) { return line.starts_with('E'); };
   for (const EventChange& step : steps) {
-    const std::string* before = findLine(m_lines, step.period, step.key);
-    const bool goes = step.kind == EventChange::Kind::Replace && isDeleted(step.line) && before != nullptr &&
-                      !isDeleted(*before);
+    const GameEvent* before = m_game.events.find(step.period, step.key);
+    const bool goes = step.kind == EventChange::Kind::Replace && step.line.starts_with('E') &&
+                      before != nullptr && !before->whole().starts_with('E');
     (step.kind == EventChange::Kind::Add ? m_news.added
      : goes                              ? m_news.deleted
                                          : m_news.changed)
@@ -67,40 +64,17 @@ void LiveLog::note(const std::vector<EventChange>& steps) {
   }
 }
 
-bool LiveLog::append(const std::vector<EventChange>& steps) {
-  note(steps);
-  for (const EventChange& step : steps) {
-    m_lines[step.period].emplace_back(step.key, step.line);
-    m_game.events.appendOwned(step.period, step.key, readable(step.line));
-    m_tally->apply(m_game.events[m_game.events.size() - 1], m_game.events.size() - 1);
-  }
-  m_disk.change(steps, m_lines);
-  return true;
-}
-
-bool LiveLog::rewrite(const std::vector<EventChange>& steps) {
-  EventLines changed = m_lines;
-  if (!std::ranges::all_of(steps, [&](const EventChange& step) { return applyChange(step, changed); }))
-    return false;
-  note(steps);
-  m_lines = std::move(changed);
-  m_disk.change(steps, m_lines, forgetAccepted(steps));
-  readEvents();
-  countAll();
-  return true;
-}
-
 void LiveLog::setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues) {
   for (const auto& [key, value] : keysAndValues)
     setDetail(m_game.details, key, value);
   m_news.details = true;
-  m_disk.set(kDetailsSection, keysAndValues, m_lines);
+  m_disk.set(kDetailsSection, keysAndValues, m_game.events);
 }
 
 void LiveLog::addPlayer(int team, RosterPlayer player) {
   const GameOnDisk::Values value = {{player.jersey, playerValue(player)}};
   m_game.roster[team].add(std::move(player));
-  m_disk.set(rosterSection(team), value, m_lines);
+  m_disk.set(rosterSection(team), value, m_game.events);
   countAll();
   m_news.hasOtherCounts = true;
 }
@@ -111,7 +85,7 @@ void LiveLog::accept(int event, const std::vector<int>& findings) {
     value += (value.empty() ? "" : ",") + std::to_string(finding);
   m_game.accepted[event] = findings;
   m_news.details = true;
-  m_disk.set(kAcceptedSection, {{std::to_string(event), value}}, m_lines);
+  m_disk.set(kAcceptedSection, {{std::to_string(event), value}}, m_game.events);
 }
 
 GameOnDisk::Values LiveLog::forgetAccepted(const std::vector<EventChange>& steps) {
@@ -138,13 +112,9 @@ ForeignHands LiveLog::takeForeignHands() {
   m_game.accepted = std::move(theirs.accepted);
   for (std::size_t team = 0; team < 2; ++team)
     m_game.roster[team] = std::move(theirs.roster[team]);
-  m_lines = mergeGame(m_lines, m_disk.text(), m_disk.text()).lines;
-  std::erase_if(m_lines, [](const auto& period) { return period.second.empty(); });
-  for (const auto& [period, lines] : m_lines) {
-    for (const auto& [key, line] : lines)
-      m_nextNumber = std::max(m_nextNumber, Module1::leadingNumber(key) + 1);
-  }
-  readEvents();
+  m_game.events = mergeGame(m_game.events, m_disk.text(), m_disk.text()).events;
+  for (const GameEvent& event : m_game.events)
+    m_nextNumber = std::max(m_nextNumber, Module1::leadingNumber(event.key) + 1);
   m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
   countAll();
   m_news.hasOtherCounts = true;
@@ -152,20 +122,14 @@ ForeignHands LiveLog::takeForeignHands() {
   return hands;
 }
 
-void LiveLog::readEvents() {
-  EventList events;
-  for (const auto& [period, lines] : m_lines) {
-    for (const auto& [key, line] : lines)
-      events.appendOwned(period, key, readable(line));
-  }
-  m_game.events = std::move(events);
+void LiveLog::count(std::size_t from) {
+  for (; from < m_game.events.size(); ++from)
+    m_tally->apply(m_game.events[from], from);
 }
 
 void LiveLog::countAll() {
   m_tally->clear();
-  std::size_t index = 0;
-  for (const GameEvent& event : m_game.events)
-    m_tally->apply(event, index++);
+  count(0);
 }
 
 std::string LiveLog::difference() const {

@@ -28,7 +28,6 @@ class LiveLog {
 
   const Game& game() const { return m_game; }
   const GameState& state() const { return m_state; }
-  const EventLines& lines() const { return m_lines; }
   Rosters rosters() const { return {m_game.roster[0], m_game.roster[1]}; }
   const std::optional<CountOutOfRange>& outOfRange() const { return m_tally->outOfRange(); }
 
@@ -52,8 +51,8 @@ class LiveLog {
   std::size_t waiting() const { return m_disk.waiting(); }
   // Looks at the file, brings it back to what was recorded and writes what waits. Whether everything is on
   // disk now.
-  bool settle() { return m_disk.settle(m_lines); }
-  bool writeCopy(const std::string& path) { return m_disk.writeCopy(path, m_lines); }
+  bool settle() { return m_disk.settle(m_game.events); }
+  bool writeCopy(const std::string& path) { return m_disk.writeCopy(path, m_game.events); }
   // Takes in what others made of the file: events, players and details. Called when nothing is being changed;
   // what to tell the user.
   [[nodiscard]] ForeignHands takeForeignHands();
@@ -69,17 +68,14 @@ class LiveLog {
  private:
   // Of events that the steps change nothing is accepted any more.
   GameOnDisk::Values forgetAccepted(const std::vector<EventChange>& steps);
-  bool append(const std::vector<EventChange>& steps);
-  bool rewrite(const std::vector<EventChange>& steps);
   void note(const std::vector<EventChange>& steps);
-  void readEvents();
+  void count(std::size_t from); // the events from that place on
   void countAll();
 
   cinifile& m_store;
   Game m_game;
   GameState m_state;
   std::optional<Tally> m_tally;
-  EventLines m_lines;
   int m_nextNumber = 1;
   GameOnDisk m_disk;
   GameNews m_news; // since it was last asked for

@@ -1,5 +1,6 @@
 #include "recording/LivePanel.h"
 
+#include "recording/LiveFigures.h"
 #include "recording/LiveGame.h"
 
 #include <algorithm>
@@ -76,13 +77,14 @@ LivePanel LivePanel::of(const LiveGame& game, int slot) {
 }
 
 LivePanel::FoulMark LivePanel::foulTrouble(const LiveGame& game, int team, int player) {
-  return game.isFouledOut(team, player) ? FoulMark::Reached : personalFoulMark(game, team, player);
+  return LiveFigures(game).isFouledOut(team, player) ? FoulMark::Reached
+                                                     : personalFoulMark(game, team, player);
 }
 
 std::string LivePanel::timeOf(const LiveGame& game, int slot) {
   const int player = game.playerIn(slot);
   return player == 0 ? std::string()
-                     : Module1::clockText(game.secondsOnCourt(LiveGame::teamOf(slot), player));
+                     : Module1::clockText(LiveFigures(game).secondsOnCourt(LiveGame::teamOf(slot), player));
 }
 
 int LivePanel::made() const {

@@ -11,37 +11,33 @@ namespace {
 
 using What = PastSubstitution::What;
 
-EventPlace placeOf(const Game& game, std::size_t event) {
-  return {game.events[event].period, std::string(game.events[event].key)};
-}
-
-bool isStop(const GameEvent& event) {
-  return event.isUnderstood && !event.isDeleted && event.code == EventCode::ARRET;
+bool isLiveStop(const GameEvent& event) {
+  return isStop(event) && !event.isDeleted;
 }
 
 LiveRepair insertionBefore(const Game& game, std::size_t event) {
   return {.kind = LiveRepair::Kind::Substitution,
           .text = Text::InsertHere,
-          .past = {What::InsertBefore, placeOf(game, event)}};
+          .past = {What::InsertBefore, placeOf(game.events[event])}};
 }
 
 LiveRepair otherLists(const Game& game, std::size_t stop) {
   return {.kind = LiveRepair::Kind::Substitution,
           .text = Text::ChangeLists,
-          .past = {What::Change, placeOf(game, stop)}};
+          .past = {What::Change, placeOf(game.events[stop])}};
 }
 
 LiveRepair change(const Game& game, std::size_t event, Text text) {
-  return {.kind = LiveRepair::Kind::Change, .text = text, .event = placeOf(game, event)};
+  return {.kind = LiveRepair::Kind::Change, .text = text, .event = placeOf(game.events[event])};
 }
 
 LiveRepair deletion(const Game& game, std::size_t event) {
-  return {.kind = LiveRepair::Kind::Deletion, .text = Text::Delete, .event = placeOf(game, event)};
+  return {.kind = LiveRepair::Kind::Deletion, .text = Text::Delete, .event = placeOf(game.events[event])};
 }
 
 // Who starts: the lists of the stop that sent them there, or a substitution where there is none.
 LiveRepair fiveAt(const Game& game, std::size_t event) {
-  return isStop(game.events[event]) ? otherLists(game, event) : insertionBefore(game, event);
+  return isLiveStop(game.events[event]) ? otherLists(game, event) : insertionBefore(game, event);
 }
 
 // The first stop of the period from which not five were on court; else before its last.
@@ -49,7 +45,7 @@ LiveRepair ofTime(const Game& game, std::size_t lastStop, std::size_t team) {
   constexpr std::size_t kFive = 5;
   for (std::size_t event = 0; event < lastStop; ++event) {
     const GameEvent& stop = game.events[event];
-    if (stop.period == game.events[lastStop].period && isStop(stop) &&
+    if (stop.period == game.events[lastStop].period && isLiveStop(stop) &&
         playersOfList(stop.onCourt(team), game.roster[team]).size() != kFive)
       return otherLists(game, event);
   }

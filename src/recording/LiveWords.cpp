@@ -2,6 +2,7 @@
 
 #include "game/EventWords.h"
 #include "game/Rules.h"
+#include "recording/LiveFigures.h"
 #include "storage/Placeholders.h"
 
 #include <array>
@@ -36,9 +37,9 @@ std::string foulWords(const LiveGame& game, int team, const Texts& texts) {
   const int limit = game.game().details.bonus;
   if (limit <= 0)
     return {};
-  if (game.isInBonus(team))
+  if (LiveFigures(game).isInBonus(team))
     return texts.withPlaceholder(Text::ShootTwo, EventWords(game.game(), texts).team(1 - team));
-  return texts.withPlaceholder(Text::ToGive, std::to_string(limit - game.teamFouls(team)));
+  return texts.withPlaceholder(Text::ToGive, std::to_string(limit - LiveFigures(game).teamFouls(team)));
 }
 
 std::optional<ScoringRun> lastRun(const EventList& events) {
@@ -73,7 +74,8 @@ std::vector<FoulNumber> foulNumbers(const Game& game) {
       ofTeam = {};
       counted = from;
     }
-    const auto& [team, jersey] = event.player;
+    const int team = event.player.team;
+    const std::string_view jersey = event.player.jersey;
     const Roster& roster = game.roster[team];
     const RosterPlayer* player = roster.player(roster.entryOf(jersey));
     number.ofPlayer =

@@ -1,6 +1,5 @@
 #include "recording/OnCourt.h"
 
-#include "game/GameEvent.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -19,68 +18,43 @@ unsigned entriesOf(std::string_view list, const Roster& roster) {
   return entries;
 }
 
-// Calls `visit(period, key, line)` for every event in the order of the game until it returns false.
-template <class Visit>
-void visitAll(const EventLines& lines, Visit visit) {
-  for (const auto& [period, events] : lines) {
-    for (const auto& [key, line] : events) {
-      if (!visit(period, key, line))
-        return;
-    }
-  }
-}
-
-struct Stop {
-  OnCourt lists = {};
-  bool isDeleted = false;
-};
-
-std::optional<Stop> stopOf(int period, const std::string& line, const Rosters& rosters) {
-  const GameEvent event = GameEvent::parse(period, "1", line);
-  if (!event.isUnderstood || event.code != EventCode::ARRET)
-    return std::nullopt;
-  return Stop{{entriesOf(event.onCourt(0), rosters[0]), entriesOf(event.onCourt(1), rosters[1])},
-              event.isDeleted};
-}
-
 } // namespace
 
-std::optional<OnCourt> onCourtOf(int period, const std::string& line, const Rosters& rosters) {
-  const auto stop = stopOf(period, line, rosters);
-  return stop && !stop->isDeleted ? std::optional(stop->lists) : std::nullopt;
+bool isStop(const GameEvent& event) {
+  return event.isUnderstood && event.code == EventCode::ARRET;
 }
 
-// Those of the last stop before an event and so many from it on; of the whole period where it has no such
-// event. Looked for from there back: the stop is near, the beginning of the game is not.
-static OnCourt lastLists(const EventLines& lines, int period, const std::string& key, std::ptrdiff_t count,
-                         const Rosters& rosters) {
-  for (auto entry = std::make_reverse_iterator(lines.upper_bound(period)); entry != lines.rend(); ++entry) {
-    const PeriodLines& events = entry->second;
-    auto end = events.end();
-    if (entry->first == period) {
-      const auto event = std::ranges::find(events, key, &PeriodLines::value_type::first);
-      end = event == events.end() ? event : event + count;
-    }
-    for (auto event = std::make_reverse_iterator(end); event != events.rend(); ++event) {
-      if (const auto lists = onCourtOf(entry->first, event->second, rosters))
-        return *lists;
-    }
+OnCourt listsOf(const GameEvent& stop, const Rosters& rosters) {
+  return {entriesOf(stop.onCourt(0), rosters[0]), entriesOf(stop.onCourt(1), rosters[1])};
+}
+
+std::optional<OnCourt> onCourtOf(const GameEvent& event, const Rosters& rosters) {
+  return isStop(event) && !event.isDeleted ? std::optional(listsOf(event, rosters)) : std::nullopt;
+}
+
+// Those of the last stop before a place. Looked for from there back: the stop is near, the beginning of the
+// game is not.
+static OnCourt lastLists(const EventList& events, std::size_t before, const Rosters& rosters) {
+  for (auto event = events.begin() + static_cast<std::ptrdiff_t>(before); event != events.begin();) {
+    if (const auto lists = onCourtOf(*--event, rosters))
+      return *lists;
   }
   return {};
 }
 
-OnCourt inForce(const EventLines& lines, int period, const std::string& key, const Rosters& rosters) {
-  return lastLists(lines, period, key, 1, rosters);
+OnCourt inForce(const EventList& events, int period, std::string_view key, const Rosters& rosters) {
+  const auto event = events.indexOf(period, key);
+  return lastLists(events, event ? *event + 1 : events.endOfPeriod(period), rosters);
 }
 
-OnCourt inForceBefore(const EventLines& lines, int period, const std::string& key, const Rosters& rosters) {
-  return lastLists(lines, period, key, 0, rosters);
+OnCourt inForceBefore(const EventList& events, int period, std::string_view key, const Rosters& rosters) {
+  return lastLists(events, events.indexOf(period, key).value_or(events.endOfPeriod(period)), rosters);
 }
 
-bool isSubstitution(const EventLines& lines, int period, const std::string& key, const Rosters& rosters) {
-  const std::string* line = findLine(lines, period, key);
-  const auto stop = line == nullptr ? std::nullopt : stopOf(period, *line, rosters);
-  return stop && stop->lists != inForceBefore(lines, period, key, rosters);
+bool isSubstitution(const EventList& events, int period, std::string_view key, const Rosters& rosters) {
+  const auto event = events.indexOf(period, key);
+  return event && isStop(events[*event]) &&
+         listsOf(events[*event], rosters) != lastLists(events, *event, rosters);
 }
 
 std::string listsText(const OnCourt& onCourt, const Rosters& rosters) {
@@ -91,28 +65,22 @@ std::string stopText(const OnCourt& onCourt, const Rosters& rosters) {
   return hooptab::stopText(rosters[0].listOf(onCourt[0]), rosters[1].listOf(onCourt[1]));
 }
 
-std::string withLists(const std::string& line, const OnCourt& lists, const Rosters& rosters) {
+std::string withLists(std::string_view line, const OnCourt& lists, const Rosters& rosters) {
   constexpr std::string_view kCode = ",ARRET"; // behind which a line of others may have no lists at all
   const std::size_t behindCode = line.find(kCode) + kCode.size();
   std::size_t behindLists = behindCode; // and what a later version may have put there
   for (int team = 0; team < 2 && behindLists < line.size(); ++team)
     behindLists = std::min(line.find(',', behindLists + 1), line.size());
-  return line.substr(0, behindCode) + ',' + listsText(lists, rosters) + line.substr(behindLists);
+  return std::string(line.substr(0, behindCode)) + ',' + listsText(lists, rosters) +
+         std::string(line.substr(behindLists));
 }
 
-std::optional<EventPlace> eventBehind(const EventLines& lines, const EventPlace& event) {
-  std::optional<EventPlace> behind;
-  bool isFound = false;
-  visitAll(lines, [&](int period, const std::string& key, const std::string&) {
-    if (isFound)
-      behind = {period, key};
-    isFound = isFound || (period == event.period && key == event.key);
-    return !behind;
-  });
-  return behind;
+std::optional<EventPlace> eventBehind(const EventList& events, const EventPlace& event) {
+  const auto index = events.indexOf(event);
+  return !index || *index + 1 >= events.size() ? std::nullopt : std::optional(placeOf(events[*index + 1]));
 }
 
-Carried carryOn(const EventLines& lines, const EventPlace& from, const OnCourt& before, const OnCourt& after,
+Carried carryOn(const EventList& events, const EventPlace& from, const OnCourt& before, const OnCourt& after,
                 const Rosters& rosters) {
   OnCourt added = {after[0] & ~before[0], after[1] & ~before[1]};
   OnCourt removed = {before[0] & ~after[0], before[1] & ~after[1]};
@@ -121,18 +89,17 @@ Carried carryOn(const EventLines& lines, const EventPlace& from, const OnCourt& 
   const auto difference = [&](std::size_t team) {
     return std::min(std::popcount(after[team]) - std::popcount(before[team]), 0);
   };
-  bool isReached = false;
   Carried carried;
-  visitAll(lines, [&](int period, const std::string& key, const std::string& line) {
-    isReached = isReached || (period == from.period && key == from.key);
-    const auto stop = isReached ? stopOf(period, line, rosters) : std::nullopt;
-    if (!stop)
-      return true;
-    OnCourt changed = stop->lists;
+  for (std::size_t index = events.indexOf(from).value_or(events.size()); index < events.size(); ++index) {
+    const GameEvent& event = events[index];
+    if (!isStop(event))
+      continue;
+    const OnCourt lists = listsOf(event, rosters);
+    OnCourt changed = lists;
     for (std::size_t team = 0; team < 2; ++team) {
-      const unsigned changedAnyway = stop->lists[team] ^ previous[team];
+      const unsigned changedAnyway = lists[team] ^ previous[team];
       changed[team] = (changed[team] | (added[team] & ~changedAnyway)) & ~(removed[team] & ~changedAnyway);
-      if (stop->isDeleted)
+      if (event.isDeleted)
         continue;
       const unsigned comesTwice = added[team] & changedAnyway;
       added[team] &= ~changedAnyway;
@@ -140,17 +107,19 @@ Carried carryOn(const EventLines& lines, const EventPlace& from, const OnCourt& 
       if (carried.conflict)
         continue;
       if (std::popcount(changed[team]) > kMostOnCourt)
-        carried.conflict = {{period, key}, team, changed[team]};
+        carried.conflict = {placeOf(event), team, changed[team]};
       else if (comesTwice != 0 &&
-               std::popcount(changed[team]) < std::popcount(stop->lists[team]) + difference(team))
-        carried.conflict = {{period, key}, team, comesTwice, true};
+               std::popcount(changed[team]) < std::popcount(lists[team]) + difference(team))
+        carried.conflict = {placeOf(event), team, comesTwice, true};
     }
-    if (!stop->isDeleted)
-      previous = stop->lists;
-    if (changed != stop->lists)
-      carried.steps.push_back({EventChange::Kind::Replace, period, key, withLists(line, changed, rosters)});
-    return (added[0] | added[1] | removed[0] | removed[1]) != 0;
-  });
+    if (!event.isDeleted)
+      previous = lists;
+    if (changed != lists)
+      carried.steps.push_back({EventChange::Kind::Replace, event.period, std::string(event.key),
+                               withLists(event.whole(), changed, rosters)});
+    if ((added[0] | added[1] | removed[0] | removed[1]) == 0)
+      break;
+  }
   return carried;
 }
 

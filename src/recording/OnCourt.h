@@ -3,13 +3,14 @@
 // later has to be carried on. Knows no clock and no file.
 #pragma once
 
-#include "game/EventChange.h"
+#include "game/EventList.h"
 #include "game/Roster.h"
 #include "game/Rules.h"
 
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace hooptab {
@@ -23,17 +24,19 @@ struct Rosters {
   const Roster& operator[](std::size_t team) const { return team == 0 ? visitors : home; }
 };
 
-// The lists of a stop's line; nothing for a line that is no stop, is deleted, or cannot be understood.
-[[nodiscard]] std::optional<OnCourt> onCourtOf(int period, const std::string& line, const Rosters& rosters);
+[[nodiscard]] bool isStop(const GameEvent& event); // deleted ones, too
+// The lists of a stop; nothing for an event that is none, or is deleted.
+[[nodiscard]] std::optional<OnCourt> onCourtOf(const GameEvent& event, const Rosters& rosters);
+[[nodiscard]] OnCourt listsOf(const GameEvent& stop, const Rosters& rosters); // of a deleted one, too
 // The lists in force behind an event: those of the last stop up to it. Nobody before the first. With `key`
 // empty behind the last event of the period and all before it.
-[[nodiscard]] OnCourt inForce(const EventLines& lines, int period, const std::string& key,
+[[nodiscard]] OnCourt inForce(const EventList& events, int period, std::string_view key,
                               const Rosters& rosters);
 // The same before that event.
-[[nodiscard]] OnCourt inForceBefore(const EventLines& lines, int period, const std::string& key,
+[[nodiscard]] OnCourt inForceBefore(const EventList& events, int period, std::string_view key,
                                     const Rosters& rosters);
 // Whether a stop, deleted or not, changes who is on court; any other stop is a pause alone.
-[[nodiscard]] bool isSubstitution(const EventLines& lines, int period, const std::string& key,
+[[nodiscard]] bool isSubstitution(const EventList& events, int period, std::string_view key,
                                   const Rosters& rosters);
 // "IN-04-05,IN-": both lists, as a stop's line has them behind its code.
 [[nodiscard]] std::string listsText(const OnCourt& onCourt, const Rosters& rosters);
@@ -42,15 +45,10 @@ struct Rosters {
 [[nodiscard]] std::string stopText(const OnCourt& onCourt, const Rosters& rosters);
 
 // A stop's line with other lists; clock, code and the mark of a deleted one stay.
-[[nodiscard]] std::string withLists(const std::string& line, const OnCourt& lists, const Rosters& rosters);
+[[nodiscard]] std::string withLists(std::string_view line, const OnCourt& lists, const Rosters& rosters);
 
-struct EventPlace {
-  int period = 0;
-  std::string key = {};
-  friend bool operator==(const EventPlace&, const EventPlace&) = default;
-};
 // The event that follows one in the order of the game; nothing behind the last.
-[[nodiscard]] std::optional<EventPlace> eventBehind(const EventLines& lines, const EventPlace& event);
+[[nodiscard]] std::optional<EventPlace> eventBehind(const EventList& events, const EventPlace& event);
 
 // A stop whose lists cannot be carried on, which is for the user to decide.
 struct CourtConflict {
@@ -67,7 +65,7 @@ struct Carried {
 // The lists in force before the event `from` were `before` and are `after` now: that event and all behind it,
 // each stop taken on by the same change, player by player, until one changes that player anyway. Deleted
 // stops follow too, so that they fit when they are restored.
-[[nodiscard]] Carried carryOn(const EventLines& lines, const EventPlace& from, const OnCourt& before,
+[[nodiscard]] Carried carryOn(const EventList& events, const EventPlace& from, const OnCourt& before,
                               const OnCourt& after, const Rosters& rosters);
 
 } // namespace hooptab

@@ -1,6 +1,7 @@
 #include "recording/ScoreText.h"
 
 #include "game/EventWords.h"
+#include "recording/LiveFigures.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -25,7 +26,7 @@ std::string clockShown(const LiveGame& game) {
 }
 
 std::string leadTimeShown(const LiveGame& game, LeadState state) {
-  return timeShown(game, game.secondsInLead(state));
+  return timeShown(game, LiveFigures(game).secondsInLead(state));
 }
 
 std::string periodShown(const LiveGame& game, const Texts& texts) {

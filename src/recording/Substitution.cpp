@@ -1,6 +1,7 @@
 #include "recording/Substitution.h"
 
 #include "game/PlayerLookup.h"
+#include "recording/LiveFigures.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -65,7 +66,7 @@ Substitution::Substitution(const LiveGame& game)
     : m_game(game), m_before(game.onCourt()), m_onCourt(m_before) {
   for (int team = 0; team < 2; ++team) {
     for (int player = 1; player <= Roster::kLargestEntry; ++player) {
-      if (game.isFouledOut(team, player))
+      if (LiveFigures(game).isFouledOut(team, player))
         m_fouledOut[static_cast<std::size_t>(team)] |= 1U << player;
     }
   }
@@ -77,10 +78,11 @@ Substitution::Substitution(const LiveGame& game, const PastSubstitution& past)
   const LiveLog& log = game.log();
   const auto& [period, key] = past.event;
   const bool isBefore = past.what != PastSubstitution::What::InsertBehind;
-  m_before = isBefore ? inForceBefore(log.lines(), period, key, log.rosters())
-                      : inForce(log.lines(), period, key, log.rosters());
-  m_onCourt = past.what == PastSubstitution::What::Change ? inForce(log.lines(), period, key, log.rosters())
-                                                          : m_before;
+  m_before = isBefore ? inForceBefore(log.game().events, period, key, log.rosters())
+                      : inForce(log.game().events, period, key, log.rosters());
+  m_onCourt = past.what == PastSubstitution::What::Change
+                  ? inForce(log.game().events, period, key, log.rosters())
+                  : m_before;
   fill();
 }
 

@@ -185,7 +185,7 @@ class ScoreDiagram {
   LineDrawing drawing() {
     for (std::size_t team = 0; team < 2; ++team)
       m_drawing.lines.push_back({m_game.details.abbreviation[team], {{0, 0}}});
-    const std::vector<std::array<int, 2>> scores = runningScore(m_game.events);
+    const Scores scores = runningScore(m_game.events);
     for (std::size_t i = 0; i < m_game.events.size(); ++i) {
       if (m_game.events[i].isUnderstood && !m_game.events[i].isDeleted)
         add(m_game.events[i], scores[i]);
@@ -318,7 +318,7 @@ Report playByPlayReport(const CountedGame& counted, const Texts& texts) {
                    {std::string(words.team(0)), "Team0", {}, true},
                    {text(texts, Text::Score), "Score", {}, false, false, true},
                    {std::string(words.team(1)), "Team1", {}, true}};
-  const std::vector<std::array<int, 2>> scores = runningScore(game.events);
+  const Scores scores = runningScore(game.events);
   int period = 0;
   std::array<int, 2> before = {};
   for (std::size_t i = 0; i < game.events.size(); ++i) {

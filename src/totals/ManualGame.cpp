@@ -7,15 +7,12 @@ GameFileProblem ManualGame::open(const std::string& path, Access access) {
   Game game;
   if (const GameFileProblem problem = file.read(game); problem != GameFileProblem::None)
     return problem;
-  EventLines lines;
-  if (const GameFileProblem problem = file.readLines(lines); problem != GameFileProblem::None)
-    return problem;
   m_path = path;
   m_access = access;
   m_details = std::move(game.details);
   for (std::size_t team = 0; team < 2; ++team)
     m_rosters[team] = std::move(game.roster[team]);
-  totals.load(m_rosters[0], m_rosters[1], lines);
+  totals.load(m_rosters[0], m_rosters[1], game.events);
   m_saved = totals;
   m_guard.begin(path);
   m_isLost = false;

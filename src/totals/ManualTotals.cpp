@@ -103,7 +103,7 @@ Counters ManualSlot::counts() const {
   return all;
 }
 
-void ManualTotals::load(const Roster& visitors, const Roster& home, const EventLines& lines) {
+void ManualTotals::load(const Roster& visitors, const Roster& home, const EventList& events) {
   *this = {};
   const Roster* const rosters[] = {&visitors, &home};
   for (int team = 0; team < 2; ++team) {
@@ -115,19 +115,16 @@ void ManualTotals::load(const Roster& visitors, const Roster& home, const EventL
       m_jerseys[index(team)][index(entry - 1)] = player->jersey;
     }
   }
-  for (const auto& [period, linesOfPeriod] : lines) {
-    if (period != kPeriod)
-      m_linesElsewhere += linesOfPeriod.size();
-    for (const auto& [key, line] : linesOfPeriod) {
-      if (period == kPeriod && !count(line, visitors, home))
-        m_kept.push_back(line);
-    }
+  m_linesElsewhere = events.size() - events.ofPeriod(kPeriod).size();
+  for (const GameEvent& event : events.ofPeriod(kPeriod)) {
+    if (!count(event, visitors, home))
+      m_kept.emplace_back(event.whole());
   }
 }
 
 // False for a line that has to be kept as it is.
-bool ManualTotals::count(std::string_view line, const Roster& visitors, const Roster& home) {
-  const GameEvent event = GameEvent::parse(1, "1", line);
+bool ManualTotals::count(const GameEvent& event, const Roster& visitors, const Roster& home) {
+  const std::string_view line = event.whole();
   if (!event.isUnderstood || event.kind() == nullptr || !line.starts_with(kClock))
     return false;
   const EventKind& kind = *event.kind();

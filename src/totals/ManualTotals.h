@@ -3,7 +3,7 @@
 // such lines. Knows no file and no window.
 #pragma once
 
-#include "game/EventChange.h"
+#include "game/EventList.h"
 #include "game/GameState.h"
 #include "game/Roster.h"
 
@@ -52,7 +52,7 @@ class ManualTotals {
   // Every player of the rosters has his slot. Counts the lines that saving would write, in any order; all
   // others (players who are in no roster or after the fifteenth, deleted events, events with a time, what
   // cannot be understood) are kept as they are.
-  void load(const Roster& visitors, const Roster& home, const EventLines& lines);
+  void load(const Roster& visitors, const Roster& home, const EventList& events);
 
   const ManualSlot& slot(int team, int slot) const { return m_slots[index(team)][index(slot - 1)]; }
   ManualSlot& slot(int team, int slot) { return m_slots[index(team)][index(slot - 1)]; }
@@ -89,7 +89,7 @@ class ManualTotals {
  private:
   static std::size_t index(int number) { return static_cast<std::size_t>(number); }
   ManualSlot& touched(int team, int slot);
-  bool count(std::string_view line, const Roster& visitors, const Roster& home);
+  bool count(const GameEvent& event, const Roster& visitors, const Roster& home);
 
   std::array<std::array<ManualSlot, kSlots>, 2> m_slots;
   std::array<std::array<std::string, kSlots>, 2> m_jerseys; // of the rosters

@@ -273,7 +273,7 @@ TEST_F(LiveEventPanelTest, AForgottenSubstitutionIsChosenAtItsPlace) {
   press("cmdJERSEY(15)"); // for 4, as it was to be
   EXPECT_EQ(textOf(dialog(), "lblCONFLICT"), "");
   press("cmdOK");
-  EXPECT_EQ(*findLine(live.log().lines(), 1, "9"), "09:50,ARRET,IN-04-05-10-12-15,IN-05-07-10-12-15");
+  EXPECT_EQ(live.game().events.find(1, "9")->whole(), "09:50,ARRET,IN-04-05-10-12-15,IN-05-07-10-12-15");
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   emit panel.editAsked({1, "9"}); // others
   EXPECT_FALSE(LiveRoom::find<QPushButton>(dialog(), "cmdOK").isEnabled()) << "as it stands";
@@ -342,7 +342,7 @@ TEST_F(LiveEventPanelTest, TheEditingPanelChangesWhatItShows) {
   EXPECT_EQ(shot.clockSeconds(), 591);
   ASSERT_TRUE(shot.counted());
   ASSERT_TRUE(live.editEvent({1, "7"}, shot.clockSeconds(), *shot.counted()));
-  EXPECT_EQ(*findLine(live.log().lines(), 1, "7"), "09:51,GF3,1-5,10,20");
+  EXPECT_EQ(live.game().events.find(1, "7")->whole(), "09:51,GF3,1-5,10,20");
   auto& kinds = LiveRoom::find<QComboBox>(shot, "cmbKIND");
   EXPECT_NE(textOf(shot, "lblxy").find("other zone"), std::string::npos);
   kinds.setCurrentIndex(kinds.findData(static_cast<int>(EventCode::GFG)));

@@ -60,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   GameState replayed;
   Tally tally(replayed, game.roster[0], game.roster[1]);
   std::size_t index = 0;
-  for (const GameEvent& event : game.events.events())
+  for (const GameEvent& event : game.events)
     tally.apply(event, index++);
   require(totalOf(replayed, false) == totalOf(state, false) && replayed.lead.seconds == state.lead.seconds);
 

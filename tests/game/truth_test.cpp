@@ -33,7 +33,7 @@ TEST_P(Truth, LinesPeriodsAndLeadAddUp) {
   int played = 0; // seconds of all periods, from the events themselves
   int length = 0;
   int period = 0;
-  for (const GameEvent& event : m_game.events.events()) {
+  for (const GameEvent& event : m_game.events) {
     if (event.period != period)
       length = event.clockSeconds;
     else

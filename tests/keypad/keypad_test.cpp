@@ -87,7 +87,7 @@ class KeypadInputTest : public LiveTableTest {
   void begin(const std::string& details = {}) {
     open(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07\n", details));
   }
-  const PeriodLines& lines() const { return live.log().lines().at(1); }
+  PeriodLines lines() const { return linesOf(live.game().events).at(1); }
   std::string lastLine() const { return lines().back().second; }
 
   // Keys of the keypad by what is printed on them ("<" Backspace, "E" Enter), those of the main keyboard

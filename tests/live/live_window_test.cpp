@@ -7,6 +7,7 @@
 #include "live/LiveRoom.h"
 #include "live/frmLIVE.h"
 #include "support/FaultyFileSystem.h"
+#include "support/TextGame.h"
 
 #include <QAction>
 #include <QDropEvent>
@@ -106,11 +107,10 @@ class LiveWindowTest : public LiveRoom<FaultyFileSystem> {
   // The events of a period on disk behind those that put the fives on court: clock and code.
   std::string eventsOf(const std::string& where, int period = 1) {
     cinifile own{plain};
-    EventLines found;
-    EXPECT_EQ(GameFile(own, where).readLines(found), GameFileProblem::None);
     std::string text;
     int number = 0;
-    for (const auto& [key, line] : found[period]) {
+    const PeriodLines lines = linesOfFile(own, where)[period];
+    for (const auto& [key, line] : lines) {
       if (period == 1 && ++number <= 2)
         continue;
       text += (text.empty() ? "" : " ") + line.substr(0, line.find(",IN"));

@@ -41,10 +41,9 @@ class ManualWindowTest : public OpenManualGame {
     ADD_FAILURE() << "no such place on the court";
   }
   std::vector<std::string> lines() {
-    EventLines all;
-    EXPECT_EQ(GameFile(store, path).readLines(all), GameFileProblem::None);
     std::vector<std::string> found;
-    for (const auto& [number, line] : all[1])
+    const PeriodLines lines = linesOfFile(store, path)[1];
+    for (const auto& [number, line] : lines)
       found.push_back(line);
     return found;
   }

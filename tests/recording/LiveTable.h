@@ -2,6 +2,7 @@
 #pragma once
 
 #include "recording/GameSession.h"
+#include "recording/LiveFigures.h"
 #include "recording/ManualTime.h"
 #include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"
@@ -67,9 +68,7 @@ class LiveTableTest : public testing::Test {
   }
   // The lines of a period on disk, keys left out, each behind a blank; all or the last ones.
   std::string lines(int period = 1, std::size_t last = SIZE_MAX) {
-    EventLines found;
-    EXPECT_EQ(GameFile(store, path).readLines(found), GameFileProblem::None);
-    const PeriodLines& all = found[period];
+    const PeriodLines all = linesOfFile(store, path)[period];
     std::string text;
     for (std::size_t place = all.size() - std::min(last, all.size()); place < all.size(); ++place)
       text += ' ' + all[place].second;

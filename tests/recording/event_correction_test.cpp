@@ -15,7 +15,7 @@ class EventCorrectionTest : public LiveTableTest {
     open(textOfGame(kBegin + "2=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n" + events));
     ASSERT_TRUE(correction.begin(session, {1, key}));
   }
-  std::string line(const std::string& key) { return *findLine(live.log().lines(), 1, key); }
+  std::string line(const std::string& key) { return std::string(live.game().events.find(1, key)->whole()); }
   std::string both() { return line("3").substr(6) + ' ' + line("4").substr(6); }
   Outcome type(const std::string& digits) {
     Outcome outcome = Outcome::None;
@@ -31,7 +31,7 @@ TEST_F(EventCorrectionTest, EachStepIsOneToUndoAndLeavesClockAndPlaceInTheGame) 
   begin("3=09:00,SPF,0-4\n4=09:30,GFG,0-12,40,50\n5=09:10,SST,1-3\n", "4"); // the clock was set back
   EXPECT_EQ(correction.question(texts), "PAN 12 Dana Dunn: 2 points made – whose?");
   EXPECT_TRUE(correction.canToggleMade() && correction.canToggleThree());
-  const EventLines before = live.log().lines();
+  const EventLines before = linesOf(live.game().events);
   const auto step = [&](Outcome outcome, const std::string& text) {
     EXPECT_EQ(outcome, Outcome::Changed) << text;
     EXPECT_EQ(line("4"), "09:30" + text);
@@ -44,7 +44,7 @@ TEST_F(EventCorrectionTest, EachStepIsOneToUndoAndLeavesClockAndPlaceInTheGame) 
   EXPECT_EQ(correction.takePlayer({0, 9}), Outcome::Refused);
   for (int steps = 0; steps < 4; ++steps)
     EXPECT_TRUE(live.undo());
-  EXPECT_EQ(live.log().lines(), before);
+  EXPECT_EQ(linesOf(live.game().events), before);
   ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "4"}}, true));
   EXPECT_EQ(correction.toggleMade(), Outcome::None);
   EXPECT_EQ(EventCorrection::lastOf(live), (EventPlace{1, "5"}));

@@ -31,10 +31,9 @@ class ForeignHandsTest : public LiveTableTest {
   std::string found(const std::string& file) {
     FileSystem own;
     cinifile fresh(own);
-    EventLines read;
-    EXPECT_EQ(GameFile(fresh, file).readLines(read), GameFileProblem::None);
     std::string text;
-    for (const auto& [key, line] : read[1])
+    const PeriodLines lines = linesOfFile(fresh, file)[1];
+    for (const auto& [key, line] : lines)
       text += key + line.substr(5, line.starts_with("10:00,ARRET") ? 6 : 20) + ' ';
     return text;
   }
@@ -70,7 +69,7 @@ TEST_F(ForeignHandsTest, AnEventOfTheNextNumberIsTakenInAtTheNextLookAndCollides
   score(); // 7, before anybody has looked
   const ForeignHands hands = live.takeForeignHands();
   EXPECT_EQ(std::pair(hands.added, hands.restored), std::pair(1, 0));
-  EXPECT_EQ(hands.gaveWay, (std::vector<GameMerge::GivenWay>{{1, "4"}, {1, "7"}, {1, "0"}}));
+  EXPECT_EQ(hands.gaveWay, (std::vector<EventPlace>{{1, "4"}, {1, "7"}, {1, "0"}}));
   const std::string kept = folder.read(fs::path(hands.keptAs).filename().string());
   EXPECT_NE(kept.find("7=10:00,GFT,1-5"), std::string::npos);
   EXPECT_NE(kept.find("4=10:00,SST,1-5"), std::string::npos) << "behind the line of that number that is read";

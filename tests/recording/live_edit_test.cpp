@@ -31,9 +31,8 @@ class LiveEditTest : public LiveTableTest {
   // Keys and lines of the file, "4=09:50,GLG,0-4".
   std::vector<std::string> lines() {
     std::vector<std::string> text;
-    EventLines found;
-    EXPECT_EQ(GameFile(store, path).readLines(found), GameFileProblem::None);
-    EXPECT_EQ(found, live.log().lines());
+    EventLines found = linesOfFile(store, path);
+    EXPECT_EQ(found, linesOf(live.game().events));
     for (const auto& [key, line] : found[1])
       text.push_back(key + '=' + line);
     return text;
@@ -41,7 +40,7 @@ class LiveEditTest : public LiveTableTest {
   bool setDeleted(std::vector<EventPlace> events, bool isDeleted) {
     return live.setDeleted(events, isDeleted);
   }
-  int seconds(int team, int player) const { return live.secondsOnCourt(team, player); }
+  int seconds(int team, int player) const { return LiveFigures(live).secondsOnCourt(team, player); }
 };
 
 TEST_F(LiveEditTest, EventsArePutInChangedAndMoved) {
@@ -118,7 +117,7 @@ TEST_F(LiveEditTest, AStartOfTheClockGoesWithItsSubstitution) {
   // A substitution while the clock stands leaves the start to whom started it.
   ASSERT_TRUE(live.insertSubstitution({1, "7"}, Where::Behind, {0, 1U << 1U}, {0, 1U << 6U}));
   ASSERT_TRUE(setDeleted({{1, "12"}}, true));
-  EXPECT_FALSE(findLine(live.log().lines(), 1, "8")->starts_with('E'));
+  EXPECT_FALSE(live.game().events.find(1, "8")->whole().starts_with('E'));
   EXPECT_TRUE(live.log().countsAgree());
 }
 
@@ -217,12 +216,12 @@ TEST_F(LiveEditTest, RandomEditsCanAllBeTakenBack) {
     }
     live.stop();
     ASSERT_EQ(live.open(path), GameFileProblem::None);
-    const EventLines before = live.log().lines();
+    const EventList before = live.game().events;
     const GameState counted = live.state();
     const OnCourt onCourt = live.onCourt();
     int changes = 0;
     for (int i = 0; i < 60; ++i) {
-      const auto events = live.game().events.events();
+      const EventList& events = live.game().events;
       const GameEvent& event = events[static_cast<std::size_t>(roll(static_cast<int>(events.size())))];
       const EventPlace place{event.period, std::string(event.key)};
       const Where where = roll(2) == 0 ? Where::Before : Where::Behind;
@@ -256,15 +255,15 @@ TEST_F(LiveEditTest, RandomEditsCanAllBeTakenBack) {
     EXPECT_GT(changes, 8);
     LiveGame again(store, time);
     ASSERT_EQ(again.open(path), GameFileProblem::None);
-    EXPECT_EQ(again.log().lines(), live.log().lines());
+    EXPECT_EQ(linesOf(again.game().events), linesOf(live.game().events));
     for (; changes > 0; --changes)
       ASSERT_TRUE(live.undo());
-    EventLines left = live.log().lines();
+    EventLines left = linesOf(live.game().events);
     for (auto& [period, events] : left)
       std::erase_if(events, [&before](const auto& event) {
-        return findLine(before, 1, event.first) == nullptr && findLine(before, 2, event.first) == nullptr;
+        return before.find(1, event.first) == nullptr && before.find(2, event.first) == nullptr;
       });
-    EXPECT_EQ(left, before);
+    EXPECT_EQ(left, linesOf(before));
     EXPECT_EQ(live.onCourt(), onCourt);
     for (std::size_t team = 0; team < 2; ++team) {
       for (std::size_t entry = 0; entry < counted.players[team].size(); ++entry) {

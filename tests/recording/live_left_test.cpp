@@ -69,28 +69,29 @@ TEST_F(LeftGameTest, StandsAtTheLastEventUntilAClockIsChosen) {
     EXPECT_EQ(found->clockSeconds(), 540);
     EXPECT_EQ(found->onCourt(), (OnCourt{kFive, kFive}));
     ASSERT_TRUE(found->isStopLost());
-    EXPECT_EQ(found->secondsOnCourt(0, 1), 60) << "though no stop has credited it";
+    EXPECT_EQ(LiveFigures(*found).secondsOnCourt(0, 1), 60) << "though no stop has credited it";
     ASSERT_TRUE(found->setClock(530));
-    EXPECT_EQ(found->secondsOnCourt(0, 1), 70);
-    EXPECT_EQ(found->secondsInLead(LeadState::Team0), 10) << "the lead lasts as long as they play";
+    EXPECT_EQ(LiveFigures(*found).secondsOnCourt(0, 1), 70);
+    EXPECT_EQ(LiveFigures(*found).secondsInLead(LeadState::Team0), 10)
+        << "the lead lasts as long as they play";
     ASSERT_TRUE(found->setClock(540));
     if (c.chosen) {
       EXPECT_TRUE(found->settleStop(*c.chosen));
       EXPECT_EQ(found->clockSeconds(), *c.chosen);
-      EXPECT_EQ(found->secondsOnCourt(0, 1), c.secondsAtOnce);
+      EXPECT_EQ(LiveFigures(*found).secondsOnCourt(0, 1), c.secondsAtOnce);
       EXPECT_FALSE(found->isStopLost());
       EXPECT_FALSE(found->settleStop(540)) << "once";
     }
     found->start();
     EXPECT_FALSE(found->isStopLost());
-    EXPECT_EQ(found->secondsOnCourt(0, 1), c.secondsAtOnce);
+    EXPECT_EQ(LiveFigures(*found).secondsOnCourt(0, 1), c.secondsAtOnce);
     time.now += found->clockSeconds() - 500;
     found->stop();
     EXPECT_EQ(found->clockSeconds(), 500);
     for (int player = 1; player <= 5; ++player)
-      EXPECT_EQ(found->secondsOnCourt(1, player), 100) << player;
-    EXPECT_EQ(found->secondsInLead(LeadState::Tied), 60);
-    EXPECT_EQ(found->secondsInLead(LeadState::Team0), 40);
+      EXPECT_EQ(LiveFigures(*found).secondsOnCourt(1, player), 100) << player;
+    EXPECT_EQ(LiveFigures(*found).secondsInLead(LeadState::Tied), 60);
+    EXPECT_EQ(LiveFigures(*found).secondsInLead(LeadState::Team0), 40);
     const std::string clock = c.chosen == 520 ? "08:40" : "09:00";
     EXPECT_EQ(last(4), " 09:00,GLG,0-5 " + clock + kFives + " " + clock + ",DEPART 08:20" + kFives);
   }
@@ -111,8 +112,8 @@ TEST_F(LeftGameTest, WhatIsRecordedFirstCountsWhereTheClockStands) {
   found->start();
   time.now += 30;
   found->stop();
-  const std::array seconds{found->secondsOnCourt(0, 1), found->secondsOnCourt(0, 6),
-                           found->secondsOnCourt(0, 2)};
+  const std::array seconds{LiveFigures(*found).secondsOnCourt(0, 1), LiveFigures(*found).secondsOnCourt(0, 6),
+                           LiveFigures(*found).secondsOnCourt(0, 2)};
   EXPECT_EQ(seconds, (std::array{60, 30, 90}));
 
   leaveRunning();
@@ -125,7 +126,7 @@ TEST_F(LeftGameTest, AtZeroThePeriodIsClosed) {
   leaveRunning();
   EXPECT_TRUE(found->settleStop(0));
   EXPECT_EQ(std::pair(found->period(), found->clockSeconds()), std::pair(2, 600));
-  EXPECT_EQ(found->secondsOnCourt(0, 1), 600);
+  EXPECT_EQ(LiveFigures(*found).secondsOnCourt(0, 1), 600);
 
   leaveRunning();
   EXPECT_TRUE(found->setClock(0)); // by hand, then START
@@ -261,7 +262,7 @@ TEST_F(LeftGameTest, AKillInABurstLeavesWholeActionsAndAGameThatGoesOn) {
     ::close(ends[0]);
 
     findAgain();
-    const PeriodLines& lines = found->log().lines().at(1);
+    const PeriodLines lines = linesOf(found->game().events).at(1);
     const int next = static_cast<int>(lines.size()) + 1;
     EXPECT_EQ(found->log().nextNumber(), next) << "no number is left out";
     EXPECT_GE(next, acknowledged);

@@ -72,7 +72,7 @@ class Replay {
 
   void stop(const GameEvent& event) {
     const Rosters rosters = live.log().rosters();
-    const OnCourt lists = *onCourtOf(event.period, std::string(event.line), rosters);
+    const OnCourt lists = *onCourtOf(event, rosters);
     if (lists == live.onCourt())
       live.stop();
     else

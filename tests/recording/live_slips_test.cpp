@@ -107,7 +107,7 @@ TEST_F(SlipsTest, UndoTakesAStartBackAndRedoLetsTheClockGoOn) {
   EXPECT_EQ(lines(2), " E10:00,DEPART E09:56,ARRET,IN-03-04-10-13-30,IN-07-9-09-12-15");
   EXPECT_EQ(std::pair(live.clockSeconds(), live.period()), std::pair(600, 2));
   EXPECT_TRUE(live.isHalfTime() && live.canReturnToEndedPeriod()) << "as before it";
-  EXPECT_EQ(live.secondsOnCourt(0, 1), 600);
+  EXPECT_EQ(LiveFigures(live).secondsOnCourt(0, 1), 600);
   LiveGame again(store, time);
   ASSERT_EQ(again.open(path), GameFileProblem::None);
   EXPECT_EQ(std::pair(again.clockSeconds(), again.period()), std::pair(600, 2));

@@ -36,4 +36,11 @@ inline std::shared_ptr<const CountedGame> counted(const Game& game) {
   return std::make_shared<const CountedGame>(CountedGame{game, tallied(game)});
 }
 
+// What the periods of a file hold: keys and whole lines.
+inline EventLines linesOfFile(cinifile& store, const std::string& path) {
+  Game game;
+  (void)GameFile(store, path).read(game);
+  return linesOf(game.events);
+}
+
 } // namespace hooptab

@@ -17,11 +17,11 @@ Game someGame() {
   return gameOfText(textOfGame(""));
 }
 ManualTotals loaded(const Game& game, const Lines& lines = {}) {
-  EventLines byPeriod;
+  EventList events;
   for (const std::string& line : lines)
-    byPeriod[1].emplace_back(std::to_string(byPeriod[1].size() + 1), line);
+    events.appendOwned(1, std::to_string(events.size() + 1), line);
   ManualTotals totals;
-  totals.load(game.roster[0], game.roster[1], byPeriod);
+  totals.load(game.roster[0], game.roster[1], events);
   return totals;
 }
 constexpr Counter kEvery[] = {Counter::Ast, Counter::S1, Counter::S2, Counter::BS, Counter::DR,
@@ -157,8 +157,10 @@ TEST(ManualTotals, KeepWhatTheyDoNotHold) {
   EXPECT_EQ(totals.lines(), wanted);
   EXPECT_EQ(loaded(game, wanted), totals);
   ManualTotals twoPeriods;
-  twoPeriods.load(game.roster[0], game.roster[1],
-                  {{1, {{"1", "00:00,SA,1-1"}}}, {2, {{"2", "00:00,SA,1-1"}}}});
+  EventList events;
+  events.appendOwned(1, "1", "00:00,SA,1-1");
+  events.appendOwned(2, "2", "00:00,SA,1-1");
+  twoPeriods.load(game.roster[0], game.roster[1], events);
   EXPECT_EQ(twoPeriods.lines().size(), 1u);
   EXPECT_EQ(twoPeriods.linesBeside(), 1u);
   const ManualTotals many = loaded(game, Lines(1001, "00:00,GFT,1-1"));

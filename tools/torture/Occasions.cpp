@@ -60,7 +60,7 @@ std::optional<OnCourt> Occasions::exchange(const GameEvent& event, const OnCourt
 }
 
 int Occasions::nextClock(std::size_t index) const {
-  const auto events = m_original.events.events();
+  const EventList& events = m_original.events;
   const auto next =
       std::find_if(events.begin() + static_cast<std::ptrdiff_t>(index) + 1, events.end(),
                    [](const GameEvent& event) { return counts(event) && event.code != EventCode::DEPART; });
@@ -68,7 +68,7 @@ int Occasions::nextClock(std::size_t index) const {
 }
 
 bool Occasions::periodGoesOnFrom(std::size_t index) const {
-  const auto events = m_original.events.events();
+  const EventList& events = m_original.events;
   return std::any_of(events.begin() + static_cast<std::ptrdiff_t>(index), events.end(),
                      [&](const GameEvent& event) {
                        return counts(event) && event.period == events[index].period && !event.isClock();
