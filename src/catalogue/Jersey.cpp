@@ -13,13 +13,11 @@ std::string canonicalJersey(std::string_view jersey) {
 }
 
 bool jerseyBefore(const std::string& left, const std::string& right) {
-  const int leftNumber = Module1::wholeNumber(left);
-  const int rightNumber = Module1::wholeNumber(right);
-  if ((leftNumber < 0) != (rightNumber < 0))
-    return rightNumber < 0;
-  if (leftNumber != rightNumber)
-    return leftNumber < rightNumber;
-  return leftNumber < 0 ? left < right : left.size() < right.size();
+  const bool isLeftNumber = Module1::wholeNumber(left) >= 0;
+  const bool isRightNumber = Module1::wholeNumber(right) >= 0;
+  if (isLeftNumber && isRightNumber)
+    return Module1::jerseyBefore(left, right);
+  return isLeftNumber || (!isRightNumber && left < right);
 }
 
 std::string lineName(const std::vector<std::string>& jerseys) {

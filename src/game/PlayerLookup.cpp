@@ -53,10 +53,13 @@ std::vector<ListedPlayer> playersOnCourt(std::string_view list, const Roster& ro
   return players;
 }
 
-std::string jerseysOnCourt(std::string_view list, const Roster& roster) {
+std::string jerseysOnCourt(std::string_view list, const Roster& roster, char between) {
   std::string jerseys;
-  for (const ListedPlayer& listed : playersOnCourt(list, roster))
-    jerseys += (jerseys.empty() ? "" : " ") + listed.jersey;
+  for (const ListedPlayer& listed : playersOnCourt(list, roster)) {
+    if (!jerseys.empty())
+      jerseys += between;
+    jerseys += listed.jersey;
+  }
   return jerseys;
 }
 

@@ -24,7 +24,7 @@ struct ListedPlayer {
 [[nodiscard]] std::vector<ListedPlayer> playersOfList(std::string_view list, const Roster& roster);
 // Those of a list who count, each once.
 [[nodiscard]] std::vector<ListedPlayer> playersOnCourt(std::string_view list, const Roster& roster);
-// Their numbers, as the roster writes them, with blanks between: "4 5 10".
-[[nodiscard]] std::string jerseysOnCourt(std::string_view list, const Roster& roster);
+// Their numbers, as the roster writes them: "4 5 10".
+[[nodiscard]] std::string jerseysOnCourt(std::string_view list, const Roster& roster, char between = ' ');
 
 } // namespace hooptab

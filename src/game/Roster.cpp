@@ -18,16 +18,9 @@ void Roster::add(RosterPlayer player) {
   }
   if (entry > kLargestEntry)
     return;
-  // By number, "0" before "00": as Module1::onCourtList sorts them.
-  const auto listsBefore = [this](std::int8_t left, std::int8_t right) {
-    const std::string& leftJersey = this->player(left)->jersey;
-    const std::string& rightJersey = this->player(right)->jersey;
-    const int leftNumber = Module1::leadingNumber(leftJersey);
-    const int rightNumber = Module1::leadingNumber(rightJersey);
-    return leftNumber != rightNumber ? leftNumber < rightNumber : leftJersey.size() < rightJersey.size();
-  };
-  const auto place =
-      std::ranges::upper_bound(m_entriesByNumber, static_cast<std::int8_t>(entry), listsBefore);
+  const auto place = std::ranges::upper_bound(
+      m_entriesByNumber, jersey, Module1::jerseyBefore,
+      [this](std::int8_t other) -> const std::string& { return this->player(other)->jersey; });
   m_entriesByNumber.insert(place, static_cast<std::int8_t>(entry));
   if (jersey == "0" && m_zeroEntry == 0)
     m_zeroEntry = entry;

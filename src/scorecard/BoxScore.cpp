@@ -1,5 +1,6 @@
 #include "scorecard/BoxScore.h"
 
+#include "game/PlayerLookup.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 
@@ -32,18 +33,6 @@ BoxColumn columnOf(const Statistic& statistic) {
           statistic.isShotPart(ShotPart::Made) || statistic.isShotPart(ShotPart::Attempted),
           statistic.gameName,
           &statistic};
-}
-
-// "4-5-10-12-15": the jerseys of an on-court list as the roster writes them.
-std::string lineName(std::string_view list, const Roster& roster) {
-  std::string name;
-  for (const std::string_view jersey : Module1::countedJerseys(list)) {
-    if (!name.empty())
-      name += '-';
-    const RosterPlayer* player = roster.player(roster.entryOfListed(jersey));
-    name += player != nullptr ? std::string_view(player->jersey) : jersey;
-  }
-  return name;
 }
 
 // Collects rows, and in the total every entry, whether it has a row or not.
@@ -104,9 +93,13 @@ std::vector<BoxRow> boxRows(const CountedGame& counted, int team, BoxView view, 
   } else {
     for (int i = 1; i <= state.usedLines[side]; ++i) {
       const LineEntry& line = lines[static_cast<std::size_t>(i)];
-      rows.add(
-          {BoxRowKind::Line, i, std::to_string(i), lineName(line.list, roster), kPositionWithoutName, {}},
-          line, line.seconds > 0 || line.counters.hasAny());
+      rows.add({BoxRowKind::Line,
+                i,
+                std::to_string(i),
+                jerseysOnCourt(line.list, roster, '-'),
+                kPositionWithoutName,
+                {}},
+               line, line.seconds > 0 || line.counters.hasAny());
     }
     rows.add(
         {BoxRowKind::OtherLines, 0, {}, std::string(texts.text(Text::OtherLines)), kPositionWithoutName, {}},

@@ -71,17 +71,19 @@ std::string clockText(int seconds) {
   return text;
 }
 
+bool jerseyBefore(std::string_view left, std::string_view right) {
+  const int leftNumber = leadingNumber(left);
+  const int rightNumber = leadingNumber(right);
+  return leftNumber != rightNumber ? leftNumber < rightNumber : left.size() < right.size();
+}
+
 std::string onCourtList(std::vector<std::string> jerseys) {
   for (std::string& jersey : jerseys) {
     if (jersey.size() < 2)
       jersey.insert(0, 2 - jersey.size(), '0');
   }
   const auto sorted = jerseys.begin() + static_cast<std::ptrdiff_t>(std::min<std::size_t>(jerseys.size(), 5));
-  std::stable_sort(jerseys.begin(), sorted, [](const std::string& left, const std::string& right) {
-    const int leftNumber = leadingNumber(left);
-    const int rightNumber = leadingNumber(right);
-    return leftNumber != rightNumber ? leftNumber < rightNumber : left.size() < right.size();
-  });
+  std::stable_sort(jerseys.begin(), sorted, jerseyBefore);
   std::string list = "IN";
   for (const std::string& jersey : jerseys)
     list += "-" + jersey;

@@ -48,6 +48,8 @@ namespace hooptab::Module1 {
   return minutes < 0 || seconds < 0 || seconds > 59 ? std::nullopt : std::optional(minutes * 60 + seconds);
 }
 
+// How lists order jerseys: by number, "0" before "00".
+[[nodiscard]] bool jerseyBefore(std::string_view left, std::string_view right);
 // "IN" and, for each jersey, "-" and the number of at least two digits, ascending; "IN-" for nobody. Ex.:
 // IN-04-05-10-12-15. At most five numbers are sorted; a list of one is written with two digits too. Jerseys
 // are texts as a list writes them.
