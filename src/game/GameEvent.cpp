@@ -89,9 +89,7 @@ inline std::string_view nextField(std::string_view& rest) {
 bool parsePlayer(std::string_view text, PlayerReference& player) {
   if (text.size() < 3 || (text[0] != '0' && text[0] != '1') || text[1] != '-')
     return false;
-  const int side = text[0] - '0';
-  text.remove_prefix(2);
-  player = {side, Roster::jerseyNumber(text), text};
+  player = PlayerReference::of(text[0] - '0', text.substr(2));
   return true;
 }
 
@@ -118,6 +116,10 @@ bool hasDoubt(std::string_view line) {
 }
 
 } // namespace
+
+PlayerReference PlayerReference::of(int team, std::string_view jersey) {
+  return {team, Roster::jerseyNumber(jersey), jersey};
+}
 
 GameEvent GameEvent::parse(int period, std::string_view key, std::string_view line) {
   GameEvent event;

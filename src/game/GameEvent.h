@@ -20,6 +20,8 @@ struct PlayerReference {
   int team = -1;   // 0 visiting, 1 home, -1 none
   int number = -1; // as Roster::jerseyNumber reads the jersey
   std::string_view jersey;
+
+  [[nodiscard]] static PlayerReference of(int team, std::string_view jersey);
 };
 
 struct GameEvent {
