@@ -163,8 +163,7 @@ int main(int argc, char** argv) {
 
   writeSeason(fromQt(folder.path()));
   GameCatalogue catalogue(files);
-  ScanWatch watch;
-  if (catalogue.scan({fromQt(folder.path())}, watch) != ScanOutcome::Done)
+  if (catalogue.scan({fromQt(folder.path())}) != ScanOutcome::Done)
     return EXIT_FAILURE;
   const SeasonStatistics statistics(catalogue, catalogue.select({}), {});
   std::printf("a season of %zu games with %zu players\n", statistics.games().size(),

@@ -33,9 +33,8 @@ int readSeason(const char* folder, unsigned threads) {
   FileSystem files;
   const Texts texts;
   GameCatalogue catalogue(files);
-  ScanWatch watch;
   const auto scanBegin = Clock::now();
-  if (catalogue.scan({folder, false, threads}, watch) != ScanOutcome::Done) {
+  if (catalogue.scan({folder, false, threads}) != ScanOutcome::Done) {
     std::fprintf(stderr, "cannot scan %s\n", folder);
     return 1;
   }

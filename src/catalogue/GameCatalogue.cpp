@@ -30,7 +30,7 @@ struct ReadFile {
 class ParallelReading {
  public:
   ParallelReading(FileSystem& files, unsigned threads, const std::vector<std::string>& paths,
-                  ScanWatch& watch)
+                  const TaskWatch& watch)
       : m_paths(paths), m_watch(watch), m_results(paths.size()), m_readers(threads, SummaryReader(files)) {}
 
   void run() {
@@ -57,7 +57,7 @@ class ParallelReading {
  private:
   void work(std::size_t reader) {
     SummaryReader& own = m_readers[reader];
-    for (std::size_t next = m_next++; next < m_paths.size() && !m_watch.isCancelled; next = m_next++) {
+    for (std::size_t next = m_next++; next < m_paths.size() && !m_watch.isCancelled(); next = m_next++) {
       ReadFile& result = m_results[next];
       result.reader = reader;
       try {
@@ -65,12 +65,12 @@ class ParallelReading {
       } catch (const std::exception&) { // no memory for one monstrous file
         result.skipped = SkipReason::Unreadable;
       }
-      ++m_watch.filesRead;
+      m_watch.advance();
     }
   }
 
   const std::vector<std::string>& m_paths;
-  ScanWatch& m_watch;
+  const TaskWatch& m_watch;
   std::vector<ReadFile> m_results;
   std::vector<SummaryReader> m_readers;
   std::atomic<std::size_t> m_next = 0;
@@ -109,7 +109,7 @@ Text skipReasonText(SkipReason reason) {
   return Text::None;
 }
 
-ScanOutcome GameCatalogue::scan(const ScanRequest& request, ScanWatch& watch) {
+ScanOutcome GameCatalogue::scan(const ScanRequest& request, const TaskWatch& watch) {
   FoundGames found = findGames(m_files, request, watch);
   if (found.outcome != ScanOutcome::Done)
     return found.outcome;
@@ -117,13 +117,16 @@ ScanOutcome GameCatalogue::scan(const ScanRequest& request, ScanWatch& watch) {
   constexpr unsigned kMostThreads = 16;
   ParallelReading reading(m_files, std::clamp(request.threads, 1U, kMostThreads), found.paths, watch);
   reading.run();
-  if (watch.isCancelled)
-    return ScanOutcome::Cancelled;
-
   std::vector<ReadFile>& files = reading.results();
   CatalogueMerger merger(reading.names());
-  for (const std::size_t i : seasonOrder(files))
+  for (const std::size_t i : seasonOrder(files)) {
+    if (watch.isCancelled())
+      break;
     merger.add(std::move(files[i].game), files[i].reader);
+  }
+  if (watch.isCancelled())
+    return ScanOutcome::Cancelled;
+
   Content content = std::move(merger).finish();
   content.folder = request.folder;
   for (std::size_t i = 0; i < files.size(); ++i) {

@@ -6,8 +6,8 @@
 #include "catalogue/ListedGame.h"
 #include "settings/Texts.h"
 #include "storage/FileSystem.h"
+#include "storage/TaskWatch.h"
 
-#include <atomic>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -56,12 +56,6 @@ struct ScanRequest {
   bool withSubfolders = false; // each folder once, wherever links lead
   unsigned threads = 2;        // the result does not depend on it
 };
-// Seen by both threads while a scan runs: how far it is, and whether it should stop.
-struct ScanWatch {
-  std::atomic<std::size_t> filesFound = 0;
-  std::atomic<std::size_t> filesRead = 0;
-  std::atomic<bool> isCancelled = false;
-};
 enum class ScanOutcome : std::uint8_t { Done, Cancelled, FolderMissing, FolderUnreadable };
 
 // What is left empty accepts every game.
@@ -85,8 +79,9 @@ class GameCatalogue {
   explicit GameCatalogue(FileSystem& files) : m_files(files) {}
 
   // Reads the finished games of a folder (*.GAM in any letter case). Whatever it held before is replaced,
-  // unless the scan was cancelled or the folder could not be listed.
-  [[nodiscard]] ScanOutcome scan(const ScanRequest& request, ScanWatch& watch);
+  // unless the scan was cancelled or the folder could not be listed. It tells the files that were read of
+  // those that were found.
+  [[nodiscard]] ScanOutcome scan(const ScanRequest& request, const TaskWatch& watch = {});
 
   const std::string& folder() const { return m_content.folder; }
   // In order of date, then file name; games without a valid date last.

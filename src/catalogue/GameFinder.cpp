@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 class Finder {
  public:
-  Finder(FileSystem& files, const ScanRequest& request, ScanWatch& watch)
+  Finder(FileSystem& files, const ScanRequest& request, const TaskWatch& watch)
       : m_files(files), m_request(request), m_watch(watch) {}
 
   FoundGames find() && {
@@ -25,13 +25,13 @@ class Finder {
                             : ScanOutcome::FolderUnreadable;
       return std::move(m_found);
     }
-    while (!m_folders.empty() && !m_watch.isCancelled) {
+    while (!m_folders.empty() && !m_watch.isCancelled()) {
       const std::string folder = std::move(m_folders.back());
       m_folders.pop_back();
       if (list(folder))
         m_found.unreadablePaths.push_back(folder);
     }
-    if (m_watch.isCancelled)
+    if (m_watch.isCancelled())
       m_found.outcome = ScanOutcome::Cancelled;
     std::ranges::sort(m_found.paths);
     return std::move(m_found);
@@ -46,12 +46,12 @@ class Finder {
     std::error_code error;
     std::vector<std::string> subfolders;
     fs::directory_iterator entry(folder, error);
-    for (const fs::directory_iterator end; !error && entry != end && !m_watch.isCancelled;
+    for (const fs::directory_iterator end; !error && entry != end && !m_watch.isCancelled();
          entry.increment(error)) {
       std::error_code vanished; // an entry that cannot be asked is neither
       if (isGameName(entry->path().native()) && entry->is_regular_file(vanished)) {
         m_found.paths.push_back(entry->path().string());
-        ++m_watch.filesFound;
+        m_watch.progress(0, m_found.paths.size());
       } else if (m_request.withSubfolders && entry->is_directory(vanished)) {
         subfolders.push_back(entry->path().string());
       }
@@ -64,7 +64,7 @@ class Finder {
 
   FileSystem& m_files;
   const ScanRequest& m_request;
-  ScanWatch& m_watch;
+  const TaskWatch& m_watch;
   FoundGames m_found;
   std::vector<std::string> m_folders; // still to be entered
   std::set<std::pair<std::uint64_t, std::uint64_t>> m_entered;
@@ -72,7 +72,7 @@ class Finder {
 
 } // namespace
 
-FoundGames findGames(FileSystem& files, const ScanRequest& request, ScanWatch& watch) {
+FoundGames findGames(FileSystem& files, const ScanRequest& request, const TaskWatch& watch) {
   return Finder(files, request, watch).find();
 }
 

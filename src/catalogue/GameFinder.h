@@ -15,6 +15,7 @@ struct FoundGames {
 };
 
 // Sub-folders, on request, are entered once each however many links lead to them.
-[[nodiscard]] FoundGames findGames(FileSystem& files, const ScanRequest& request, ScanWatch& watch);
+[[nodiscard]] FoundGames findGames(FileSystem& files, const ScanRequest& request,
+                                   const TaskWatch& watch = {});
 
 } // namespace hooptab

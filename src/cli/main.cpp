@@ -70,8 +70,7 @@ class Program {
   void season(const std::string& folder) {
     const SeasonOptions& wanted = m_options.season;
     GameCatalogue catalogue(m_files);
-    ScanWatch watch;
-    switch (catalogue.scan({folder, wanted.withSubfolders}, watch)) {
+    switch (catalogue.scan({folder, wanted.withSubfolders})) {
     case ScanOutcome::FolderMissing: fault(of(folder, words(Text::NoSuchFolderThere))); return;
     case ScanOutcome::FolderUnreadable: fault(of(folder, words(Text::FolderUnreadable))); return;
     default: break;

@@ -19,10 +19,10 @@ std::string CourtColourChoice::prefix(std::size_t which) {
   return which == 0 ? "U1-" : "U2-";
 }
 
-Text CourtColourChoice::problem() const {
+CourtColourChoice::Problem CourtColourChoice::problem() const {
   const bool areDistinct = colours.twoPoints != colours.box && colours.box != colours.threePoints &&
                            colours.threePoints != colours.twoPoints;
-  return areDistinct ? Text::None : Text::ThreeDifferentColours;
+  return areDistinct ? Problem::None : Problem::SameColours;
 }
 
 std::string CourtColourChoice::storedLabel(std::size_t which) const {

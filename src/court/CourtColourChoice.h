@@ -19,8 +19,9 @@ struct CourtColourChoice {
   [[nodiscard]] static CourtColourChoice of(const Settings& settings);
   // "U1-" or "U2-".
   [[nodiscard]] static std::string prefix(std::size_t which);
-  // What stands against applying; none when nothing does.
-  [[nodiscard]] Text problem() const;
+  // What stands against applying.
+  enum class Problem { None, SameColours }; // of two points, box and three points
+  [[nodiscard]] Problem problem() const;
   // Commas of the labels become blanks, letters what the file can hold. Whether all is on disk; see Settings.
   bool save(Settings& settings) const;
 

@@ -265,9 +265,11 @@ void frmCOULEURS::showColours() {
 }
 
 bool frmCOULEURS::apply() {
-  if (const Text problem = m_choice.problem(); problem != Text::None) {
-    m_dialogs.warn(this, caption(m_texts, Text::WarningTitle), caption(m_texts, problem));
+  switch (m_choice.problem()) {
+  case CourtColourChoice::Problem::SameColours:
+    m_dialogs.warn(this, caption(m_texts, Text::WarningTitle), caption(m_texts, Text::ThreeDifferentColours));
     return false;
+  case CourtColourChoice::Problem::None: break;
   }
   const bool isOnDisk = m_choice.save(m_settings);
   m_choice = CourtColourChoice::of(m_settings);

@@ -159,7 +159,7 @@ std::vector<Mark> bestApart(std::vector<Mark> marks) {
 }
 
 std::optional<MarksSeen> seenMarks(const GrayPicture& coarse, const MarkLook& look, double largestScale,
-                                   double smallestScale, const ScanProgress& progress) {
+                                   double smallestScale, ReadingSteps& steps) {
   constexpr int kTile = 8; // pixels
   const int across = (coarse.width + kTile - 1) / kTile;
   const int down = (coarse.height + kTile - 1) / kTile;
@@ -176,7 +176,7 @@ std::optional<MarksSeen> seenMarks(const GrayPicture& coarse, const MarkLook& lo
     const int outside = static_cast<int>(std::lround((kPaperFrom + kPaperTo) / 2 * scale));
     const int wall = static_cast<int>(std::lround((kWallFrom + kWallTo) / 2 * scale));
     for (int y = 0; y < coarse.height; ++y) {
-      if (y % 64 == 0 && !progress(part + y / scales / coarse.height))
+      if (y % 64 == 0 && !steps.reach(ReadingSteps::kMarks * (part + y / scales / coarse.height)))
         return std::nullopt;
       for (int x = 0; x < coarse.width; ++x) {
         // Four pixels tell most places from marks in no time.
@@ -396,7 +396,7 @@ ScanProblem missingEdge(const MarkSets::Set& set) {
 
 } // namespace
 
-MarkSearch findMarks(const FormLayout& layout, const GrayPicture& picture, const ScanProgress& progress) {
+MarkSearch findMarks(const FormLayout& layout, const GrayPicture& picture, ReadingSteps& steps) {
   MarkSearch result;
   // The whole form is hardly larger than the picture; where half of it is missing, it may be so in one
   // direction.
@@ -411,7 +411,7 @@ MarkSearch findMarks(const FormLayout& layout, const GrayPicture& picture, const
   const MarkLook look(sums);
   const double largest = fits / factor * 2.2;
   const double smallest = std::max(kLeastScale, fits / factor * 0.5);
-  const auto seen = seenMarks(coarse, look, largest, smallest, progress);
+  const auto seen = seenMarks(coarse, look, largest, smallest, steps);
   if (!seen) {
     result.problem = ScanProblem::Cancelled;
     return result;

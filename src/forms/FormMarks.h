@@ -4,9 +4,9 @@
 #pragma once
 
 #include "forms/FormReader.h"
+#include "forms/ReadingSteps.h"
 
 #include <array>
-#include <functional>
 #include <vector>
 
 namespace hooptab {
@@ -23,9 +23,6 @@ struct MarkSearch {
   bool showsSquares = false;               // enough of them for a form, however it lies
 };
 
-using ScanProgress = std::function<bool(double)>; // the part done, 0 to 1; false stops
-
-[[nodiscard]] MarkSearch findMarks(const FormLayout& layout, const GrayPicture& picture,
-                                   const ScanProgress& progress);
+[[nodiscard]] MarkSearch findMarks(const FormLayout& layout, const GrayPicture& picture, ReadingSteps& steps);
 
 } // namespace hooptab

@@ -4,6 +4,7 @@
 #include "forms/FormMarks.h"
 #include "forms/InkMeasure.h"
 #include "forms/PictureSums.h"
+#include "forms/ReadingSteps.h"
 #include "forms/TickRule.h"
 
 #include <algorithm>
@@ -101,7 +102,7 @@ PicturePoint FormReading::inPicture(double x, double y) const {
   return mapping.at(x, y);
 }
 
-FormReading FormReader::read(const GrayPicture& picture, const Progress& progress) const {
+FormReading FormReader::read(const GrayPicture& picture, const TaskWatch& watch) const {
   // In the order in which paper comes to lie: a broad picture is a page on its side, or a photo of one that
   // stands; in a high one a page on its side would be too small to read.
   constexpr std::array kBroad = {1, 3, 0, 2};
@@ -109,14 +110,9 @@ FormReading FormReader::read(const GrayPicture& picture, const Progress& progres
   const std::span<const int> ways =
       picture.width > picture.height ? std::span<const int>(kBroad) : std::span<const int>(kHigh);
   FormReading asItCame;
-  int farthest = 0; // progress never goes back
-  const Progress onwards = [&](int percent) {
-    farthest = std::max(farthest, percent);
-    return !progress || progress(farthest);
-  };
+  ReadingSteps steps(watch);
   for (const int way : ways) {
-    FormReading reading =
-        way == 0 ? readUpright(picture, onwards) : readUpright(turned(picture, way), onwards);
+    FormReading reading = way == 0 ? readUpright(picture, steps) : readUpright(turned(picture, way), steps);
     reading.quarters = way;
     // Another side up may make it a form, where there are the squares of one.
     if (adviceFor(reading.problem) == Text::None || !reading.showsSquares)
@@ -127,7 +123,7 @@ FormReading FormReader::read(const GrayPicture& picture, const Progress& progres
   return asItCame;
 }
 
-FormReading FormReader::readUpright(const GrayPicture& picture, const Progress& progress) const {
+FormReading FormReader::readUpright(const GrayPicture& picture, ReadingSteps& steps) const {
   FormReading result;
   const auto refused = [&](ScanProblem problem) {
     result.problem = problem;
@@ -143,15 +139,7 @@ FormReading FormReader::readUpright(const GrayPicture& picture, const Progress& 
       std::min(picture.width, picture.height) < kLeastPixels)
     return refused(ScanProblem::TooCoarse);
 
-  int lastPercent = -1;
-  const auto goesOn = [&](double percent) {
-    const int now = static_cast<int>(percent);
-    if (now == lastPercent || !progress)
-      return true;
-    lastPercent = now;
-    return progress(now);
-  };
-  if (!goesOn(0))
+  if (!steps.reach(0))
     return refused(ScanProblem::Cancelled);
   const int factor = std::max(1, static_cast<int>(std::min(across, down) * kMillimetresPerInch / kUsualDots));
   GrayPicture smaller;
@@ -159,7 +147,7 @@ FormReading FormReader::readUpright(const GrayPicture& picture, const Progress& 
     smaller = reduced(picture, factor);
   const GrayPicture& page = factor > 1 ? smaller : picture;
 
-  const MarkSearch search = findMarks(m_layout, page, [&](double part) { return goesOn(40 * part); });
+  const MarkSearch search = findMarks(m_layout, page, steps);
   result.showsSquares = search.showsSquares;
   if (search.problem != ScanProblem::None)
     return refused(search.problem);
@@ -188,7 +176,7 @@ FormReading FormReader::readUpright(const GrayPicture& picture, const Progress& 
                       std::hypot(FormLayout::kWidth, FormLayout::kHeight) * kMillimetresPerInch;
   if (dots < kLeastDots)
     return refused(ScanProblem::TooCoarse);
-  if (!goesOn(42))
+  if (!steps.reach(42))
     return refused(ScanProblem::Cancelled);
   if (!grid->followLines(m_layout, page))
     return refused(ScanProblem::NotReadable);
@@ -201,7 +189,7 @@ FormReading FormReader::readUpright(const GrayPicture& picture, const Progress& 
   std::vector<CellInk> inks;
   for (const FormCell& cell : m_layout.cells()) {
     inks.push_back(inkIn(page, *grid, cell));
-    if (!goesOn(50 + 40 * part(inks.size())))
+    if (!steps.reach(50 + 40 * part(inks.size())))
       return refused(ScanProblem::Cancelled);
   }
   const TickRule first(m_layout, inks, identifier->isPrepared, grid->border());
@@ -210,7 +198,7 @@ FormReading FormReader::readUpright(const GrayPicture& picture, const Progress& 
   for (std::size_t i = 0; i < inks.size(); ++i) {
     if (first.mayBeTicked(i))
       inks[i] = inkIn(page, *grid, m_layout.cells()[i], first.darkest());
-    if (!goesOn(90 + 10 * part(i + 1)))
+    if (!steps.reach(90 + 10 * part(i + 1)))
       return refused(ScanProblem::Cancelled);
   }
   result.cells = TickRule(m_layout, std::move(inks), identifier->isPrepared, grid->border()).read();

@@ -6,11 +6,13 @@
 #include "forms/FormLayout.h"
 #include "forms/GrayPicture.h"
 #include "forms/PageMapping.h"
+#include "storage/TaskWatch.h"
 
-#include <functional>
 #include <vector>
 
 namespace hooptab {
+
+class ReadingSteps;
 
 enum class ScanProblem {
   None,
@@ -54,13 +56,12 @@ class FormReader {
  public:
   explicit FormReader(const FormLayout& layout) : m_layout(layout) {} // must outlive it
 
-  // Progress in percent; returning false stops the reading. Needs no thread of its own and may run in any.
-  using Progress = std::function<bool(int)>;
-  // A page that lies on its side or upside down is read too.
-  [[nodiscard]] FormReading read(const GrayPicture& picture, const Progress& progress = {}) const;
+  // A page that lies on its side or upside down is read too. Tells its progress in percent. Needs no thread
+  // of its own and may run in any.
+  [[nodiscard]] FormReading read(const GrayPicture& picture, const TaskWatch& watch = {}) const;
 
  private:
-  [[nodiscard]] FormReading readUpright(const GrayPicture& picture, const Progress& progress) const;
+  [[nodiscard]] FormReading readUpright(const GrayPicture& picture, ReadingSteps& steps) const;
 
   const FormLayout& m_layout;
 };

@@ -19,7 +19,7 @@ namespace {
 using Reason = PageRefusal::Reason;
 using Clock = std::chrono::steady_clock;
 
-constexpr int kGlanceMilliseconds = 20; // from one look at `isStopped` to the next
+constexpr int kGlanceMilliseconds = 20; // from one look at the watch to the next
 
 class Pipe {
  public:
@@ -89,14 +89,13 @@ class Process {
   pid_t m_id = -1;
 };
 
-enum class Coming { Answer, Nothing, Nonsense, TooLate, Stopped };
+enum class Coming { Answer, Nothing, Nonsense, TooLate, Cancelled };
 
-Coming receive(PageAnswer& answer, int source, std::chrono::seconds patience,
-               const std::atomic<bool>& isStopped) {
+Coming receive(PageAnswer& answer, int source, std::chrono::seconds patience, const TaskWatch& watch) {
   const Clock::time_point end = Clock::now() + patience;
   while (!answer.isWhole()) {
-    if (isStopped.load())
-      return Coming::Stopped;
+    if (watch.isCancelled())
+      return Coming::Cancelled;
     if (Clock::now() > end)
       return Coming::TooLate;
     pollfd watched{source, POLLIN, 0};
@@ -128,7 +127,7 @@ ScannedPage refused(const PageRefusal& refusal, int pagesInFile = 0) {
 
 } // namespace
 
-ScannedPage PageDecoder::decode(const std::string& path, int page, const std::atomic<bool>& isStopped) const {
+ScannedPage PageDecoder::decode(const std::string& path, int page, const TaskWatch& watch) const {
   Pipe pipe;
   if (!pipe.isOpen())
     return refused({Reason::CannotStart, errno});
@@ -138,13 +137,13 @@ ScannedPage PageDecoder::decode(const std::string& path, int page, const std::at
   pipe.closeWriting();
   PageAnswer answer;
   try {
-    switch (receive(answer, pipe.reading(), patience, isStopped)) {
+    switch (receive(answer, pipe.reading(), patience, watch)) {
     case Coming::Answer: return std::move(answer.page());
     case Coming::Nothing: return refused(refusalFor(process.end()), answer.page().pagesInFile);
     case Coming::Nonsense: return refused({Reason::BrokeOff}, answer.page().pagesInFile);
     case Coming::TooLate:
       return refused({Reason::TookTooLong, static_cast<int>(patience.count())}, answer.page().pagesInFile);
-    case Coming::Stopped: return refused({Reason::Cancelled});
+    case Coming::Cancelled: return refused({Reason::Cancelled});
     }
   } catch (const std::bad_alloc&) { // here, not there
   }

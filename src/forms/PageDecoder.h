@@ -4,8 +4,8 @@
 #pragma once
 
 #include "forms/ScannedPage.h"
+#include "storage/TaskWatch.h"
 
-#include <atomic>
 #include <chrono>
 #include <string>
 
@@ -18,10 +18,9 @@ struct PageDecoder {
   // For a disk that does not answer: a picture that keeps its decoder busy is given up much sooner.
   std::chrono::seconds patience{60};
 
-  // Page from 0. Waits for the answer, in any thread; once `isStopped` is set, the process is ended at once.
+  // Page from 0. Waits for the answer, in any thread; once it is cancelled, the process is ended at once.
   // Afterwards there is none.
-  [[nodiscard]] ScannedPage decode(const std::string& path, int page,
-                                   const std::atomic<bool>& isStopped) const;
+  [[nodiscard]] ScannedPage decode(const std::string& path, int page, const TaskWatch& watch = {}) const;
 };
 
 } // namespace hooptab

@@ -238,14 +238,15 @@ void frmSCAN::connectEverything() {
   connect(m_table, &ScannedTable::cellsChosen, m_view, &ScanView::frame);
   connect(m_doubts, &DoubtList::cellChosen, m_view, &ScanView::goTo);
   connect(m_doubts, &DoubtList::judged, this, &frmSCAN::settleCurrent);
-  connect(&m_work, &BackgroundWork::failed, this, [this] {
-    if (*m_isStopped)
+  connect(&m_task, &Task::progressed, this, &frmSCAN::showProgress);
+  connect(&m_task, &Task::failed, this, [this] {
+    if (m_task.isCancelled())
       return;                                             // nobody waits for that page any more
     m_reading->refusal = {PageRefusal::Reason::NoMemory}; // the file's other pages may need less
     m_reading->picture.reset();
     m_result = m_reading;
   });
-  connect(&m_work, &BackgroundWork::finished, this, &frmSCAN::takeResult);
+  connect(&m_task, &Task::finished, this, &frmSCAN::takeResult);
 }
 
 // --- Reading page after page
@@ -283,46 +284,38 @@ void frmSCAN::startReading() {
   m_pages->setCurrentIndex(0);
   m_step->setText(toQt(m_texts.text(Text::Reading)));
   m_progress->setRange(0, 0);
-  if (m_work.isRunning()) // what was stopped comes to its end first
-    return;
-  m_isStopped = std::make_shared<std::atomic<bool>>(false);
   m_result.reset();
   m_reading = std::make_shared<Result>();
-  const auto progress = [this, isStopped = m_isStopped](int percent) {
-    QMetaObject::invokeMethod(
-        this,
-        [this, percent] {
-          m_step->setText(toQt(m_texts.text(Text::Extracting)));
-          m_progress->setRange(0, 100);
-          m_progress->setValue(percent);
-        },
-        Qt::QueuedConnection);
-    return !isStopped->load();
-  };
-  m_work.start([this, progress, decoder = m_decoder, path = fromQt(m_files.first()), page = m_page,
-                formLayout = m_layout, isStopped = m_isStopped,
-                result = m_reading]() -> BackgroundWork::Delivery {
-    ScannedPage scanned = decoder.decode(path, page, *isStopped);
+  m_task.start([this, decoder = m_decoder, path = fromQt(m_files.first()), page = m_page,
+                formLayout = m_layout, result = m_reading](const TaskWatch& watch) -> Task::Delivery {
+    ScannedPage scanned = decoder.decode(path, page, watch);
     result->refusal = scanned.refusal;
     result->pagesInFile = scanned.pagesInFile;
-    if (!scanned.picture.pixels.empty() && progress(0)) {
-      result->reading = FormReader(*formLayout).read(scanned.picture, progress);
+    if (!scanned.picture.pixels.empty() && !watch.isCancelled()) {
+      result->reading = FormReader(*formLayout).read(scanned.picture, watch);
       if (result->reading.quarters != 0)
         scanned.picture = turned(scanned.picture, result->reading.quarters);
       result->picture = std::make_shared<GrayPicture>(std::move(scanned.picture));
     }
-    return [this, result, isStopped] {
-      if (!isStopped->load())
+    return [this, result] {
+      if (!m_task.isCancelled())
         m_result = result;
     };
   });
 }
 
+// Before the page is decoded nothing is known.
+void frmSCAN::showProgress(int percent, int whole) {
+  if (whole == 0)
+    return;
+  m_step->setText(toQt(m_texts.text(Text::Extracting)));
+  m_progress->setRange(0, whole);
+  m_progress->setValue(percent);
+}
+
 void frmSCAN::takeResult() {
   if (!m_isOpen)
     return;
-  if (m_result == nullptr) // it was for what has been closed since
-    return startReading();
   if (m_result->pagesInFile > 0)
     m_pagesInFile = m_result->pagesInFile;
   if (m_result->picture == nullptr)
@@ -406,8 +399,7 @@ void frmSCAN::forgetTaken() {
 }
 
 void frmSCAN::close() {
-  if (m_isStopped != nullptr)
-    *m_isStopped = true;
+  m_task.cancel();
   m_isOpen = false;
   m_files.clear();
   m_refusals.clear();

@@ -4,7 +4,7 @@
 // here.
 #pragma once
 
-#include "appearance/BackgroundWork.h"
+#include "appearance/Task.h"
 #include "forms/PageDecoder.h"
 #include "forms/ScannedTotals.h"
 #include "settings/Settings.h"
@@ -14,7 +14,6 @@
 #include <QStringList>
 #include <QWidget>
 
-#include <atomic>
 #include <memory>
 
 class QComboBox;
@@ -73,6 +72,7 @@ class frmSCAN : public QWidget {
 
   void readNext();
   void startReading();
+  void showProgress(int percent, int whole);
   void takeResult();
   void refuse(const QString& reason); // this page; the next one is read
   void tellRefusals();
@@ -109,8 +109,7 @@ class frmSCAN : public QWidget {
   int m_pagesInFile = 1;
   std::shared_ptr<Result> m_reading; // being filled in the background
   std::shared_ptr<const Result> m_result;
-  QStringList m_refusals;                         // that were not told yet
-  std::shared_ptr<std::atomic<bool>> m_isStopped; // of the reading that runs
+  QStringList m_refusals; // that were not told yet
   ScannedTotals m_scanned;
   std::vector<CheckedSheet> m_taken; // imported into this game, by this window
 
@@ -126,7 +125,7 @@ class frmSCAN : public QWidget {
   DoubtList* m_doubts = nullptr;
   ElidedLabel* m_hint = nullptr;
   QPushButton* m_skip = nullptr;
-  BackgroundWork m_work; // goes first, before what its work refers to
+  Task m_task; // goes first, before what its work refers to
 };
 
 } // namespace hooptab

@@ -10,6 +10,8 @@ namespace hooptab {
 
 namespace {
 
+using Problem = KeypadReason::Problem;
+
 // By their digit, from 1.
 constexpr EventCode kShots[] = {EventCode::GFT, EventCode::GFG, EventCode::GF3, EventCode::GLG,
                                 EventCode::GLD, EventCode::GPB, EventCode::GDK};
@@ -61,6 +63,27 @@ std::string actionWords(const KeypadOrder& order, const Texts& texts) {
   return kind == nullptr ? std::string() : mark + std::string(texts.text(kind->wordsText));
 }
 
+Text textOf(KeypadReason::Problem problem) {
+  switch (problem) {
+  case Problem::NothingTyped: return Text::NothingTyped;
+  case Problem::NumberMissing: return Text::NumberMissing;
+  case Problem::ActionMissing: return Text::ActionMissing;
+  case Problem::NoShotKind: return Text::NoShotKind;
+  case Problem::NotUnderstood: return Text::InputNotUnderstood;
+  case Problem::TooManyKeys: return Text::TooManyKeys;
+  case Problem::AllAlone: return Text::AllAlone;
+  case Problem::GameIsClosed: return Text::GameIsClosed;
+  case Problem::NoSuchPlayer: return Text::NoSuchPlayer;
+  case Problem::OnlyInOtherTeam: return Text::OnlyInOtherTeam;
+  case Problem::SameTwice: return Text::SameTwice;
+  case Problem::OnCourtAlready: return Text::OnCourtAlready;
+  case Problem::NotOnCourt: return Text::IsNotOnCourt;
+  case Problem::CourtIsFull: return Text::CourtIsFull;
+  case Problem::NobodyOnCourt: break;
+  }
+  return Text::NobodyIsOnCourt;
+}
+
 // What stands against an order that makes sense in itself.
 std::optional<KeypadReason> objection(const KeypadOrder& order, const LiveGame& game) {
   const auto team = static_cast<std::size_t>(order.team);
@@ -74,21 +97,22 @@ std::optional<KeypadReason> objection(const KeypadOrder& order, const LiveGame& 
   switch (order.kind) {
   case KeypadOrder::Kind::Exchange:
     if (order.leaving == order.player)
-      return KeypadReason{Text::SameTwice, {jersey}};
+      return KeypadReason{Problem::SameTwice, jersey};
     if (!game.slotOf(order.team, order.leaving))
-      return KeypadReason{Text::IsNotOnCourt, {jerseyOf(order.leaving), name}};
-    return isOnCourt ? std::optional(KeypadReason{Text::OnCourtAlready, {jersey, name}}) : std::nullopt;
+      return KeypadReason{Problem::NotOnCourt, jerseyOf(order.leaving), name};
+    return isOnCourt ? std::optional(KeypadReason{Problem::OnCourtAlready, jersey, name}) : std::nullopt;
   case KeypadOrder::Kind::In:
     if (isOnCourt)
-      return KeypadReason{Text::OnCourtAlready, {jersey, name}};
+      return KeypadReason{Problem::OnCourtAlready, jersey, name};
     if (std::popcount(game.onCourt()[team]) >= kMostOnCourt)
-      return KeypadReason{Text::CourtIsFull, {name}};
+      return KeypadReason{.problem = Problem::CourtIsFull, .team = name};
     return std::nullopt;
   case KeypadOrder::Kind::Out:
-    return isOnCourt ? std::nullopt : std::optional(KeypadReason{Text::IsNotOnCourt, {jersey, name}});
+    return isOnCourt ? std::nullopt : std::optional(KeypadReason{Problem::NotOnCourt, jersey, name});
   case KeypadOrder::Kind::AllOut:
-    return game.onCourt()[team] != 0 ? std::nullopt
-                                     : std::optional(KeypadReason{Text::NobodyIsOnCourt, {name}});
+    return game.onCourt()[team] != 0
+               ? std::nullopt
+               : std::optional(KeypadReason{.problem = Problem::NobodyOnCourt, .team = name});
   default: return std::nullopt;
   }
 }
@@ -113,7 +137,8 @@ bool carryOut(LiveGame& game, const KeypadOrder& order) {
 }
 
 std::string KeypadReason::words(const Texts& texts) const {
-  return withPlaceholders(texts.text(text), parts[0], parts[1], parts[2]);
+  const bool isOfTeam = problem == Problem::CourtIsFull || problem == Problem::NobodyOnCourt;
+  return withPlaceholders(texts.text(textOf(problem)), isOfTeam ? team : jersey, team, otherTeam);
 }
 
 void KeypadInput::setSetup(const KeypadSetup& setup) {
@@ -216,7 +241,7 @@ KeypadInput::Outcome KeypadInput::press(const KeyPress& press, const LiveGame& g
   if (m_reason) // what was refused is not gone on with: a confirm key tries again, another key begins anew
     clear();
   if (m_typed.size() == kMostKeys)
-    return refuse({Text::TooManyKeys});
+    return refuse({Problem::TooManyKeys});
   m_typed.push_back(key);
   return Outcome::Typed;
 }
@@ -235,14 +260,14 @@ std::optional<std::string> KeypadInput::digits(std::size_t begin, std::size_t en
 KeypadInput::Reading KeypadInput::readShot(std::size_t begin, std::size_t end, bool isMade) const {
   std::optional<std::string> number = digits(begin, end);
   if (!number)
-    return {Text::InputNotUnderstood};
+    return {Problem::NotUnderstood};
   if (number->size() < 2)
-    return {Text::NumberMissing};
+    return {Problem::NumberMissing};
   const int kind = number->back() - '0';
   number->pop_back();
   if (kind < 1 || kind > static_cast<int>(std::size(kShots)))
-    return {Text::NoShotKind};
-  return {Text::None, {KeypadOrder::Kind::Shot, 0, 0, kShots[kind - 1], isMade}, *number};
+    return {Problem::NoShotKind};
+  return {std::nullopt, {KeypadOrder::Kind::Shot, 0, 0, kShots[kind - 1], isMade}, *number};
 }
 
 // "12 OUT 8", with or without IN behind it, and "8 IN 12" the other way round. A digit is never the key in
@@ -261,33 +286,33 @@ std::optional<KeypadInput::Reading> KeypadInput::readExchange() const {
   if (!first || !second || second->empty())
     return std::nullopt;
   const KeypadOrder order = {.kind = KeypadOrder::Kind::Exchange};
-  return middle->action == KeypadAction::IN ? Reading{Text::None, order, *first, *second}
-                                            : Reading{Text::None, order, *second, *first};
+  return middle->action == KeypadAction::IN ? Reading{std::nullopt, order, *first, *second}
+                                            : Reading{std::nullopt, order, *second, *first};
 }
 
 KeypadInput::Reading KeypadInput::read(bool isLine) const {
   if (m_typed.empty())
-    return {Text::NothingTyped};
+    return {Problem::NothingTyped};
   const std::size_t last = m_typed.size() - 1;
   const auto beginsShot = [](const Key& key) { return key.action == KeypadAction::A && !key.digit; };
   const auto shots =
       static_cast<std::size_t>(std::ranges::find_if_not(m_typed, beginsShot) - m_typed.begin());
   if (shots > 0)
-    return shots > 2 ? Reading{Text::InputNotUnderstood} : readShot(shots, m_typed.size(), shots == 1);
+    return shots > 2 ? Reading{Problem::NotUnderstood} : readShot(shots, m_typed.size(), shots == 1);
   if (auto exchange = readExchange())
     return *std::move(exchange);
   if (m_typed[last].isMiss)
     return readShot(0, last, false);
   const auto action = m_typed[last].action;
   if (!action)
-    return isLine ? readShot(0, m_typed.size(), true) : Reading{Text::ActionMissing};
+    return isLine ? readShot(0, m_typed.size(), true) : Reading{Problem::ActionMissing};
   const std::optional<std::string> number = digits(0, last);
   if (!number)
-    return {Text::InputNotUnderstood};
+    return {Problem::NotUnderstood};
   const KeypadOrder order = {kindOfOrder(*action), 0, 0, codeOf(*action), false};
   if (order.kind == KeypadOrder::Kind::AllOut)
-    return number->empty() ? Reading{Text::None, order} : Reading{Text::AllAlone};
-  return number->empty() ? Reading{Text::NumberMissing} : Reading{Text::None, order, *number};
+    return number->empty() ? Reading{std::nullopt, order} : Reading{Problem::AllAlone};
+  return number->empty() ? Reading{Problem::NumberMissing} : Reading{std::nullopt, order, *number};
 }
 
 // The players whose numbers were typed, of the order's team; the reason where it has none such.
@@ -306,18 +331,18 @@ std::optional<KeypadReason> KeypadInput::nameIn(KeypadOrder& order, const Readin
   const bool areOthers =
       others.entryOf(reading.jersey) != 0 && (!isExchange || others.entryOf(reading.leaving) != 0);
   const auto& names = game.details.abbreviation;
-  return KeypadReason{
-      areOthers ? Text::OnlyInOtherTeam : Text::NoSuchPlayer,
-      {isLeavingMissing ? reading.leaving : reading.jersey, names[order.team], names[1 - order.team]}};
+  return KeypadReason{areOthers ? Problem::OnlyInOtherTeam : Problem::NoSuchPlayer,
+                      isLeavingMissing ? reading.leaving : reading.jersey, names[order.team],
+                      names[1 - order.team]};
 }
 
 KeypadInput::Outcome KeypadInput::confirm(int team, bool isLine, const LiveGame& game) {
   m_reason.reset();
   const Reading reading = read(isLine);
-  if (reading.problem != Text::None)
-    return refuse({reading.problem});
+  if (reading.problem)
+    return refuse({*reading.problem});
   if (!game.canRecord())
-    return refuse({Text::GameIsClosed});
+    return refuse({Problem::GameIsClosed});
   KeypadOrder order = reading.order;
   order.team = team;
   if (const auto reason = nameIn(order, reading, game.game()))
@@ -344,8 +369,8 @@ std::string KeypadInput::typed() const {
 
 std::string KeypadInput::preview(const Game& game, const Texts& texts) const {
   const Reading reading = read(isLine());
-  if (isEmpty() || reading.problem != Text::None)
-    return isEmpty() ? std::string() : std::string(texts.text(reading.problem));
+  if (isEmpty() || reading.problem)
+    return isEmpty() ? std::string() : KeypadReason{*reading.problem}.words(texts);
   std::string lines = actionWords(reading.order, texts); // none where words() are a sentence
   const bool isSentence = lines.empty();
   std::string missing;
@@ -366,7 +391,7 @@ std::string KeypadInput::preview(const Game& game, const Texts& texts) const {
   for (const std::string& jersey : {reading.leaving, reading.jersey}) {
     const auto& names = game.details.abbreviation;
     if (!jersey.empty() && game.roster[0].entryOf(jersey) == 0 && game.roster[1].entryOf(jersey) == 0)
-      return KeypadReason{Text::NoSuchPlayer, {jersey, names[0] + ", " + names[1]}}.words(texts);
+      return KeypadReason{Problem::NoSuchPlayer, jersey, names[0] + ", " + names[1]}.words(texts);
   }
   return missing;
 }
@@ -375,10 +400,8 @@ std::string KeypadInput::words(const KeypadOrder& order, const Game& game, const
   if (order.kind == KeypadOrder::Kind::AllOut)
     return texts.withPlaceholder(Text::AllLeave, game.details.abbreviation[order.team]);
   if (order.kind == KeypadOrder::Kind::Exchange)
-    return KeypadReason{
-        Text::Exchanged,
-        {playerWords(game, order.team, order.leaving), numberAndName(game, order.team, order.player)}}
-        .words(texts);
+    return withPlaceholders(texts.text(Text::Exchanged), playerWords(game, order.team, order.leaving),
+                            numberAndName(game, order.team, order.player));
   return withPlaceholders(texts.text(Text::SubjectAndWords), playerWords(game, order.team, order.player),
                           actionWords(order, texts));
 }

@@ -7,7 +7,6 @@
 #include "keypad/KeypadAssignment.h"
 #include "recording/LiveGame.h"
 
-#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -34,10 +33,30 @@ struct KeypadOrder {
 // False when the game took none of it.
 bool carryOut(LiveGame& game, const KeypadOrder& order);
 
-// A text of the table with what stands for XXX, YYY and ZZZ.
+// Why nothing was recorded.
 struct KeypadReason {
-  Text text = Text::None;
-  std::array<std::string, 3> parts = {};
+  enum class Problem {
+    NothingTyped,
+    NumberMissing,
+    ActionMissing,
+    NoShotKind,
+    NotUnderstood,
+    TooManyKeys,
+    AllAlone, // a number before the key for all
+    GameIsClosed,
+    NoSuchPlayer,
+    OnlyInOtherTeam,
+    SameTwice,
+    OnCourtAlready,
+    NotOnCourt,
+    CourtIsFull,
+    NobodyOnCourt,
+  };
+  Problem problem = Problem::NothingTyped;
+  // Whom it is about, where it is about anybody.
+  std::string jersey = {};
+  std::string team = {};      // abbreviation
+  std::string otherTeam = {}; // the one that has such a player
   [[nodiscard]] std::string words(const Texts& texts) const;
   friend bool operator==(const KeypadReason&, const KeypadReason&) = default;
 };
@@ -92,7 +111,7 @@ class KeypadInput {
     bool isKeypad = false;
   };
   struct Reading {
-    Text problem = Text::None; // none when the input makes sense
+    std::optional<KeypadReason::Problem> problem = std::nullopt; // none when the input makes sense
     KeypadOrder order = {};
     std::string jersey = {};
     std::string leaving = {}; // the other jersey of an Exchange

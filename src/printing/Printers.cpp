@@ -1,7 +1,6 @@
 #include "printing/Printers.h"
 
 #include "printing/ReportPainter.h"
-#include "report/ReportWatch.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
@@ -24,15 +23,13 @@ std::unique_ptr<QPrinter> QtPrinters::choose(QWidget* parent, const QPageLayout&
   return dialog.exec() == QDialog::Accepted ? std::move(printer) : nullptr;
 }
 
-bool printReport(QPrinter& printer, const Report& report, const PageFormat& format, ReportWatch* watch) {
+bool printReport(QPrinter& printer, const Report& report, const PageFormat& format, const TaskWatch& watch) {
   ReportLayout layout(report, format);
-  while (!layout.isDone() && !isCancelled(watch)) // the foot of every page names their number
+  while (!layout.isDone() && !watch.isCancelled()) // the foot of every page names their number
     layout.step();
-  if (isCancelled(watch))
-    return false;
   // A print system prints what it has got of a job that ends early: half a report.
-  if (watch != nullptr)
-    watch->isPastCancelling = true;
+  if (!watch.commit())
+    return false;
   // The pages are laid out for this paper, whatever was chosen in the printer's own dialog.
   printer.setPageLayout(layout.pageLayout());
   QPainter painter;
@@ -43,14 +40,14 @@ bool printReport(QPrinter& printer, const Report& report, const PageFormat& form
   const int count = static_cast<int>(layout.pages().size());
   const int first = std::clamp(printer.fromPage(), 1, count);
   const int last = printer.toPage() == 0 ? count : std::clamp(printer.toPage(), first, count);
-  expect(watch, last - first + 1);
+  watch.progress(0, static_cast<std::size_t>(last - first + 1));
   for (int page = first; page <= last; ++page) {
     if (page > first && !printer.newPage()) {
       printer.abort();
       return false;
     }
     paintPage(painter, layout, static_cast<std::size_t>(page - 1));
-    advance(watch);
+    watch.advance();
   }
   return painter.end() && printer.printerState() != QPrinter::Error;
 }

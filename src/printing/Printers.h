@@ -1,6 +1,8 @@
 // The choice of a printer, behind one small interface, so that a test can bring one that works or refuses.
 #pragma once
 
+#include "storage/TaskWatch.h"
+
 #include <QPageLayout>
 
 #include <memory>
@@ -12,7 +14,6 @@ namespace hooptab {
 
 struct PageFormat;
 struct Report;
-struct ReportWatch;
 
 class Printers {
  public:
@@ -31,6 +32,6 @@ class QtPrinters : public Printers {
 // Prints the chosen pages. False when the printer refuses, then nothing more is sent to it; and when
 // cancelled, which is possible until the first page is sent.
 [[nodiscard]] bool printReport(QPrinter& printer, const Report& report, const PageFormat& format,
-                               ReportWatch* watch = nullptr);
+                               const TaskWatch& watch = {});
 
 } // namespace hooptab

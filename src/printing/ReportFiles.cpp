@@ -30,11 +30,20 @@ std::string pictureSuffix(std::size_t place) {
   return place == 0 ? std::string() : "-" + std::to_string(place + 1);
 }
 
-std::vector<ReportFile> pictures(const Report& report, ReportWatch* watch) {
+std::size_t pictureCount(const Report& report) {
+  return static_cast<std::size_t>(std::ranges::count_if(
+      report.blocks, [](const ReportBlock& block) { return std::holds_alternative<ReportPicture>(block); }));
+}
+
+std::vector<ReportFile> pictures(const Report& report, const TaskWatch& watch) {
   std::vector<ReportFile> files;
+  watch.progress(0, pictureCount(report));
   for (const ReportBlock& block : report.blocks) {
-    if (const auto* picture = std::get_if<ReportPicture>(&block); picture != nullptr && !isCancelled(watch))
-      files.push_back({pictureSuffix(files.size()), picturePng(*picture)});
+    const auto* picture = std::get_if<ReportPicture>(&block);
+    if (picture == nullptr || watch.isCancelled())
+      continue;
+    files.push_back({pictureSuffix(files.size()), picturePng(*picture)});
+    watch.advance();
   }
   return files;
 }
@@ -68,7 +77,7 @@ bool canBe(const Report& report, ReportForm form) {
 
 std::optional<std::vector<ReportFile>> filesOf(const Report& report, ReportForm form,
                                                const PageFormat& format, std::string_view language,
-                                               ReportWatch* watch) {
+                                               const TaskWatch& watch) {
   const auto one = [](std::string bytes) { return std::vector<ReportFile>{{{}, std::move(bytes)}}; };
   std::optional<std::vector<ReportFile>> files;
   switch (form) {
@@ -82,7 +91,7 @@ std::optional<std::vector<ReportFile>> filesOf(const Report& report, ReportForm 
   case ReportForm::Html: files = one(reportHtml(report, language, picturePng, watch)); break;
   case ReportForm::Png: files = pictures(report, watch); break;
   }
-  return isCancelled(watch) ? std::nullopt : std::move(files);
+  return watch.isCancelled() ? std::nullopt : std::move(files);
 }
 
 std::vector<std::string> suffixesOf(const Report& report, ReportForm form) {
@@ -90,11 +99,7 @@ std::vector<std::string> suffixesOf(const Report& report, ReportForm form) {
     return csvSuffixes(report);
   std::vector<std::string> suffixes = {{}};
   if (form == ReportForm::Png) {
-    const auto count =
-        static_cast<std::size_t>(std::ranges::count_if(report.blocks, [](const ReportBlock& block) {
-          return std::holds_alternative<ReportPicture>(block);
-        }));
-    for (std::size_t place = 1; place < count; ++place)
+    for (std::size_t place = 1; place < pictureCount(report); ++place)
       suffixes.push_back(pictureSuffix(place));
   }
   return suffixes;

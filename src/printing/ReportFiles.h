@@ -3,8 +3,8 @@
 
 #include "printing/PageFormat.h"
 #include "report/ReportText.h"
-#include "report/ReportWatch.h"
 #include "storage/FileSystem.h"
+#include "storage/TaskWatch.h"
 
 #include <functional>
 #include <optional>
@@ -29,7 +29,7 @@ enum class ReportForm { Pdf, Xlsx, Csv, CsvFrench, Html, Png };
 [[nodiscard]] std::optional<std::vector<ReportFile>> filesOf(const Report& report, ReportForm form,
                                                              const PageFormat& format,
                                                              std::string_view language,
-                                                             ReportWatch* watch = nullptr);
+                                                             const TaskWatch& watch = {});
 // Their suffixes, before they are made.
 [[nodiscard]] std::vector<std::string> suffixesOf(const Report& report, ReportForm form);
 // Where a file of the export stands: "/games/box.csv" with the suffix before the ending.
@@ -44,10 +44,10 @@ enum class WriteProblem { IsFolder, NoFolder, NoRight, NoRoom, Unknown };
 
 // Vector graphics with text that can be searched. Empty when cancelled.
 [[nodiscard]] std::string reportPdf(const Report& report, const PageFormat& format,
-                                    ReportWatch* watch = nullptr);
+                                    const TaskWatch& watch = {});
 // A sheet for each table, its head frozen; numbers, percentages and times as such. Nothing when cancelled, or
 // when temporary files could not be written.
-[[nodiscard]] std::optional<std::string> reportXlsx(const Report& report, ReportWatch* watch = nullptr);
+[[nodiscard]] std::optional<std::string> reportXlsx(const Report& report, const TaskWatch& watch = {});
 [[nodiscard]] std::string picturePng(const ReportPicture& picture);
 
 } // namespace hooptab

@@ -26,7 +26,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPollInterval = 50ms;
 constexpr auto kShownAfter = 300ms;
 constexpr auto kOfferedFor = 60s; // to open what was saved
 constexpr int kBarWidth = 160;
@@ -89,28 +88,23 @@ ReportOutput::ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& fil
   connect(m_open, &QPushButton::clicked, this, [this] { openSaved(m_saved); });
   connect(m_showFolder, &QPushButton::clicked, this,
           [this] { openSaved(QFileInfo(m_saved).absolutePath()); });
-  m_poll.setInterval(kPollInterval);
   m_delay.setInterval(kShownAfter);
   m_delay.setSingleShot(true);
-  connect(&m_poll, &QTimer::timeout, this, &ReportOutput::showProgress);
   connect(&m_delay, &QTimer::timeout, this, &QWidget::show);
   connect(m_cancel, &QPushButton::clicked, this, &ReportOutput::cancel);
-  connect(&m_work, &BackgroundWork::failed, this,
-          [this] { complain(Text::NoMemoryForReport, {}, window()); });
-  connect(&m_work, &BackgroundWork::finished, this, &ReportOutput::end);
+  connect(&m_task, &Task::progressed, this, &ReportOutput::showProgress);
+  connect(&m_task, &Task::failed, this, [this] { complain(Text::NoMemoryForReport, {}, window()); });
+  connect(&m_task, &Task::finished, this, &ReportOutput::end);
   hooptab::relabel(*this, texts);
 }
 
 // What is under way is finished first: the user has asked for it.
-ReportOutput::~ReportOutput() = default;
+ReportOutput::~ReportOutput() {
+  m_task.wait();
+}
 
 Text ReportOutput::textOf(ReportForm form) {
   return formOf(form).text;
-}
-
-void ReportOutput::cancel() {
-  if (m_watch != nullptr)
-    m_watch->isCancelled = true;
 }
 
 QString ReportOutput::choosePath(const QString& fileName, ReportForm form, QWidget* asker) {
@@ -150,7 +144,7 @@ void ReportOutput::save(Report report, ReportForm form, const PageFormat& format
   write(
       path,
       [report = std::make_shared<const Report>(std::move(report)), form, format,
-       language](ReportWatch* watch) {
+       language](const TaskWatch& watch) {
         auto files = filesOf(*report, form, format, language, watch);
         // Without the mark a spreadsheet would read the letters of another code page.
         if (files && form == ReportForm::Csv) {
@@ -170,7 +164,7 @@ void ReportOutput::savePicture(const QString& fileName, std::string png, QWidget
     return;
   write(
       path,
-      [png = std::move(png)](ReportWatch*) {
+      [png = std::move(png)](const TaskWatch&) {
         return std::optional(std::vector<ReportFile>{{{}, png}});
       },
       asker);
@@ -179,10 +173,9 @@ void ReportOutput::savePicture(const QString& fileName, std::string png, QWidget
 void ReportOutput::write(const QString& path, Make make, QWidget* asker) {
   start(toQt(m_texts.withPlaceholder(Text::WritingReport, fromQt(QFileInfo(path).fileName()))),
         [this, path, make = std::move(make), &files = m_files,
-         watch = m_watch = std::make_shared<ReportWatch>(),
-         asker = QPointer(asker)]() -> BackgroundWork::Delivery {
+         asker = QPointer(asker)](const TaskWatch& watch) -> Task::Delivery {
           Outcome outcome;
-          if (const auto contents = make(watch.get())) {
+          if (const auto contents = make(watch); contents && watch.commit()) {
             outcome.isMade = true;
             outcome.failed = writeFiles(files, fromQt(path), *contents);
             std::size_t bytes = 0;
@@ -198,7 +191,7 @@ void ReportOutput::write(const QString& path, Make make, QWidget* asker) {
 void ReportOutput::tell(const Outcome& outcome, const QString& path, QWidget* asker) {
   if (!outcome.failed.empty())
     return complain(textOfProblem(outcome.problem), toQt(outcome.failed), asker);
-  if (!outcome.isMade && !m_watch->isCancelled)
+  if (!outcome.isMade && !m_task.isCancelled())
     return complain(Text::NoRoomForTemporary, QDir::tempPath(), asker);
   if (outcome.isMade)
     m_saved = path;
@@ -213,11 +206,10 @@ void ReportOutput::print(Report report, const PageFormat& format, std::shared_pt
   printer->setDocName(toQt(report.fileName));
   start(toQt(m_texts.withPlaceholder(Text::PrintingReport, report.fileName)),
         [this, report = std::make_shared<const Report>(std::move(report)), format,
-         printer = std::move(printer), watch = m_watch = std::make_shared<ReportWatch>(),
-         asker = QPointer(asker)]() -> BackgroundWork::Delivery {
-          const bool isPrinted = printReport(*printer, *report, format, watch.get());
-          return [this, report, isPrinted, watch, asker] {
-            if (!isPrinted && !watch->isCancelled)
+         printer = std::move(printer), asker = QPointer(asker)](const TaskWatch& watch) -> Task::Delivery {
+          const bool isPrinted = printReport(*printer, *report, format, watch);
+          return [this, report, isPrinted, asker] {
+            if (!isPrinted && !m_task.isCancelled())
               return complain(Text::NotPrinted, {}, asker);
             emit reported(toQt(m_texts.withPlaceholder(
                 isPrinted ? Text::SentToPrinter : Text::ReportCancelled, report->fileName)));
@@ -225,28 +217,27 @@ void ReportOutput::print(Report report, const PageFormat& format, std::shared_pt
         });
 }
 
-void ReportOutput::start(const QString& what, std::function<BackgroundWork::Delivery()> work) {
+void ReportOutput::start(const QString& what, Task::Work work) {
   m_saved.clear();
   m_offerEnds.stop();
   showParts(false);
   hide();
   m_what->setText(what);
   m_cancel->setEnabled(true);
-  m_work.start(std::move(work));
+  m_task.start(std::move(work));
   showProgress();
-  m_poll.start();
   m_delay.start();
   emit busyChanged();
 }
 
 void ReportOutput::showProgress() {
-  m_progress->setRange(0, m_watch->most);
-  m_progress->setValue(m_watch->done);
-  m_cancel->setEnabled(!m_watch->isCancelled && !m_watch->isPastCancelling);
+  const auto [done, total] = m_task.progress();
+  m_progress->setRange(0, total);
+  m_progress->setValue(done);
+  m_cancel->setEnabled(m_task.canBeCancelled());
 }
 
 void ReportOutput::end() {
-  m_poll.stop();
   m_delay.stop();
   setVisible(!m_saved.isEmpty());
   if (!m_saved.isEmpty()) {

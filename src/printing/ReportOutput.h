@@ -4,7 +4,7 @@
 // at all.
 #pragma once
 
-#include "appearance/BackgroundWork.h"
+#include "appearance/Task.h"
 #include "printing/PageFormat.h"
 #include "printing/ReportFiles.h"
 #include "settings/Texts.h"
@@ -38,8 +38,8 @@ class ReportOutput : public QWidget {
   void print(Report report, const PageFormat& format, std::shared_ptr<QPrinter> printer, QWidget* asker);
   // For the next file, where it is there: the folder of another time.
   void proposeFolder(const QString& folder) { m_folder = folder; }
-  bool isBusy() const { return m_work.isRunning(); }
-  void cancel();
+  bool isBusy() const { return m_task.isRunning(); }
+  void cancel() { m_task.cancel(); } // until the file is written, or the first page is sent
 
   // Of the menu entry that saves in that form.
   static Text textOf(ReportForm form);
@@ -56,13 +56,13 @@ class ReportOutput : public QWidget {
     std::string failed; // the path that could not be written
     WriteProblem problem = WriteProblem::Unknown;
   };
-  using Make = std::function<std::optional<std::vector<ReportFile>>(ReportWatch* watch)>;
+  using Make = std::function<std::optional<std::vector<ReportFile>>(const TaskWatch& watch)>;
   [[nodiscard]] QString choosePath(const QString& fileName, ReportForm form, QWidget* asker);
   [[nodiscard]] bool mayReplace(const QString& path, const std::vector<std::string>& suffixes,
                                 QWidget* asker);
   void write(const QString& path, Make make, QWidget* asker);
   void tell(const Outcome& outcome, const QString& path, QWidget* asker);
-  void start(const QString& what, std::function<BackgroundWork::Delivery()> work);
+  void start(const QString& what, Task::Work work);
   void showProgress();
   void showParts(bool isSaved);
   void openSaved(const QString& path);
@@ -73,9 +73,7 @@ class ReportOutput : public QWidget {
   Dialogs& m_dialogs;
   FileSystem& m_files;
   QString m_folder; // chosen last
-  std::shared_ptr<ReportWatch> m_watch;
-  QTimer m_poll;
-  QTimer m_delay; // work that is done at once shows nothing
+  QTimer m_delay;   // work that is done at once shows nothing
 
   QLabel* m_what = nullptr;
   QProgressBar* m_progress = nullptr;
@@ -84,7 +82,7 @@ class ReportOutput : public QWidget {
   QPushButton* m_showFolder = nullptr;
   QString m_saved; // the file that can be opened
   QTimer m_offerEnds;
-  BackgroundWork m_work; // goes first, before what its work refers to
+  Task m_task; // goes first, before what its work refers to
 };
 
 } // namespace hooptab

@@ -10,11 +10,11 @@
 
 namespace hooptab {
 
-std::string reportPdf(const Report& report, const PageFormat& format, ReportWatch* watch) {
+std::string reportPdf(const Report& report, const PageFormat& format, const TaskWatch& watch) {
   ReportLayout layout(report, format);
-  while (!layout.isDone() && !isCancelled(watch)) // the foot of every page names their number
+  while (!layout.isDone() && !watch.isCancelled()) // the foot of every page names their number
     layout.step();
-  expect(watch, static_cast<int>(layout.pages().size()));
+  watch.progress(0, layout.pages().size());
   QBuffer buffer;
   QPdfWriter writer(&buffer);
   buffer.open(QIODevice::WriteOnly);
@@ -23,14 +23,14 @@ std::string reportPdf(const Report& report, const PageFormat& format, ReportWatc
   writer.setTitle(toQt(report.subject.empty() ? report.title : report.subject + " – " + report.title));
   writer.setCreator(QStringLiteral("HOOPTAB Basketball"));
   QPainter painter(&writer);
-  for (std::size_t page = 0; page < layout.pages().size() && !isCancelled(watch); ++page) {
+  for (std::size_t page = 0; page < layout.pages().size() && !watch.isCancelled(); ++page) {
     if (page > 0)
       writer.newPage();
     paintPage(painter, layout, page);
-    advance(watch);
+    watch.advance();
   }
   painter.end();
-  if (isCancelled(watch))
+  if (watch.isCancelled())
     return {};
   return buffer.data().toStdString();
 }

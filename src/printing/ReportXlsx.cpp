@@ -7,6 +7,7 @@
 #include <iterator>
 #include <set>
 #include <system_error>
+#include <utility>
 #include <xlsxwriter.h>
 
 namespace hooptab {
@@ -107,12 +108,13 @@ class Workbook {
     m_group = format(true, nullptr);
     format_set_align(m_group, LXW_ALIGN_CENTER);
   }
+  ~Workbook() { lxw_workbook_free(m_book); } // which closing has done
   Workbook(const Workbook&) = delete;
   Workbook& operator=(const Workbook&) = delete;
 
   // Cancelled, it stops in the middle: the workbook must not be used then.
   // `about` stands above the table: what it is of.
-  void add(const ReportTable& table, const std::string& about, ReportWatch* watch) {
+  void add(const ReportTable& table, const std::string& about, const TaskWatch& watch) {
     if (m_book == nullptr)
       return;
     m_sheet = workbook_add_worksheet(m_book, m_names.next(table.title).c_str());
@@ -127,10 +129,12 @@ class Workbook {
       addGroups(head++, table);
     for (std::size_t i = 0; i < table.columns.size(); ++i)
       addText(head, i, table.columns[i].header, m_head);
-    for (std::size_t row = 0; row < table.rows.size() && !isCancelled(watch); ++row) {
+    for (std::size_t row = 0; row < table.rows.size() && !watch.isCancelled(); ++row) {
       addRow(head + 1 + static_cast<lxw_row_t>(row), table.rows[row]);
-      advance(watch);
+      watch.advance();
     }
+    if (watch.isCancelled())
+      return;
     setWidths(table);
     std::size_t repeated = 0;
     while (repeated < table.columns.size() && table.columns[repeated].isRepeated)
@@ -141,7 +145,9 @@ class Workbook {
     worksheet_fit_to_pages(m_sheet, 1, 0);
   }
   // Writes it; false when it could not be.
-  bool close() { return m_book != nullptr && workbook_close(m_book) == LXW_NO_ERROR && m_isGood; }
+  bool close() {
+    return m_book != nullptr && workbook_close(std::exchange(m_book, nullptr)) == LXW_NO_ERROR && m_isGood;
+  }
 
  private:
   struct Formats {
@@ -223,7 +229,7 @@ class Workbook {
 
 } // namespace
 
-std::optional<std::string> reportXlsx(const Report& report, ReportWatch* watch) {
+std::optional<std::string> reportXlsx(const Report& report, const TaskWatch& watch) {
   const ScratchFolder scratch;
   if (scratch.path().empty())
     return std::nullopt;
@@ -232,14 +238,14 @@ std::optional<std::string> reportXlsx(const Report& report, ReportWatch* watch) 
     if (const auto* table = std::get_if<ReportTable>(&block))
       rows += table->rows.size();
   }
-  expect(watch, static_cast<int>(rows));
+  watch.progress(0, rows);
   const std::string path = scratch.path() + "/report.xlsx";
   Workbook book(path, scratch.path());
   for (const ReportBlock& block : report.blocks) {
-    if (const auto* table = std::get_if<ReportTable>(&block); table != nullptr && !isCancelled(watch))
+    if (const auto* table = std::get_if<ReportTable>(&block); table != nullptr && !watch.isCancelled())
       book.add(*table, report.subject, watch);
   }
-  if (!book.close() || isCancelled(watch)) // closing frees it in any case
+  if (watch.isCancelled() || !book.close())
     return std::nullopt;
   std::ifstream file(path, std::ios::binary);
   std::string bytes{std::istreambuf_iterator<char>(file), {}};

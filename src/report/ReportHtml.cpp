@@ -119,19 +119,19 @@ class Page {
 } // namespace
 
 std::string reportHtml(const Report& report, std::string_view language, const DrawPng& png,
-                       ReportWatch* watch) {
+                       const TaskWatch& watch) {
   std::string html = "<!DOCTYPE html>\n<html lang=\"" + std::string(language) +
                      "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
                      escaped(report.subject.empty() ? report.title : report.subject + " – " + report.title) +
                      "</title>\n<style>" + std::string(kStyle) + "</style>\n</head>\n<body>\n<h1>" +
                      escaped(report.title) + "</h1>\n<p>" + escaped(report.subject) + "</p>\n";
   Page page(html, png);
-  expect(watch, static_cast<int>(report.blocks.size()));
+  watch.progress(0, report.blocks.size());
   for (const ReportBlock& block : report.blocks) {
-    if (isCancelled(watch))
+    if (watch.isCancelled())
       return {};
     std::visit(page, block);
-    advance(watch);
+    watch.advance();
   }
   return html + "</body>\n</html>\n";
 }

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "report/Report.h"
-#include "report/ReportWatch.h"
 #include "storage/DelimitedText.h"
+#include "storage/TaskWatch.h"
 
 #include <functional>
 #include <string>
@@ -27,9 +27,9 @@ struct ReportFile {
 [[nodiscard]] std::vector<ReportFile> reportCsv(const Report& report, CsvReader reader = CsvReader::Anybody);
 [[nodiscard]] std::vector<std::string> csvSuffixes(const Report& report); // of those files
 
-// A self-contained page. `png` draws a picture; its bytes stand in the page.
+// A self-contained page. `png` draws a picture; its bytes stand in the page. Empty when cancelled.
 using DrawPng = std::function<std::string(const ReportPicture& picture)>;
 [[nodiscard]] std::string reportHtml(const Report& report, std::string_view language, const DrawPng& png,
-                                     ReportWatch* watch = nullptr);
+                                     const TaskWatch& watch = {});
 
 } // namespace hooptab

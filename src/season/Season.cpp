@@ -6,13 +6,15 @@ namespace hooptab {
 
 Season::Season(std::shared_ptr<const GameCatalogue> catalogue, std::vector<std::size_t> games,
                const SeasonStatistics::Shown& shown, const Texts& texts, const Qualification& minimum,
-               const std::atomic<bool>* isCancelled)
-    : m_catalogue(std::move(catalogue)), m_statistics(std::make_shared<const SeasonStatistics>(
-                                             *m_catalogue, std::move(games), shown, isCancelled)),
+               const TaskWatch& watch)
+    : m_catalogue(std::move(catalogue)),
+      m_statistics(std::make_shared<const SeasonStatistics>(*m_catalogue, std::move(games), shown, watch)),
       m_minimum(minimum) {
-  if (isCancelled != nullptr && *isCancelled)
+  if (watch.isCancelled())
     return;
   addLeaders(texts);
+  if (watch.isCancelled())
+    return;
   m_shots = shotsOfGames(*m_catalogue, m_statistics->games());
 }
 
@@ -28,12 +30,15 @@ void Season::addLeaders(const Texts& texts) {
 }
 
 SeasonPerson::SeasonPerson(std::shared_ptr<const Season> ofSeason, const SeasonRow& ofRow, bool isOfLine,
-                           const Texts& texts)
+                           const Texts& texts, const TaskWatch& watch)
     : season(std::move(ofSeason)), row(ofRow), isLine(isOfLine) {
   const SeasonStatistics& statistics = season->statistics();
-  results = isLine ? statistics.resultsOfLine(row.id) : statistics.resultsOfPlayer(row.id);
-  for (const GameResult& result : results)
+  results = isLine ? statistics.resultsOfLine(row.id, watch) : statistics.resultsOfPlayer(row.id, watch);
+  for (const GameResult& result : results) {
+    if (watch.isCancelled())
+      return;
     records.add(season->catalogue(), result, texts);
+  }
   if (!isLine)
     shots = shotsOfPlayer(season->catalogue(), results, row.id);
 }

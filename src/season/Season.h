@@ -19,7 +19,7 @@ class Season {
   // Cancelled, it holds some of the games only, and is worth nothing.
   Season(std::shared_ptr<const GameCatalogue> catalogue, std::vector<std::size_t> games,
          const SeasonStatistics::Shown& shown, const Texts& texts, const Qualification& minimum = {},
-         const std::atomic<bool>* isCancelled = nullptr);
+         const TaskWatch& watch = {});
   // The same season with the leaders that another minimum leaves.
   Season(const Season& other, const Qualification& minimum, const Texts& texts);
   Season(const Season&) = delete; // leaders refer to its statistics
@@ -41,10 +41,10 @@ class Season {
   ShotSums m_shots;
 };
 
-// A player or line of a season, with what is told about him game by game.
+// A player or line of a season, with what is told about him game by game. Cancelled, it lacks some of that.
 struct SeasonPerson {
   SeasonPerson(std::shared_ptr<const Season> ofSeason, const SeasonRow& ofRow, bool isOfLine,
-               const Texts& texts);
+               const Texts& texts, const TaskWatch& watch = {});
 
   std::shared_ptr<const Season> season;
   SeasonRow row;

@@ -28,10 +28,9 @@ bool SeasonDesk::isOutdated() const {
           !std::ranges::equal(m_season->statistics().games(), m_listed));
 }
 
-std::shared_ptr<const Season> SeasonDesk::Order::carryOut(const Texts& texts,
-                                                          const std::atomic<bool>* isCancelled) const {
-  auto season = std::make_shared<const Season>(catalogue, games, shown, texts, minimum, isCancelled);
-  return isCancelled != nullptr && *isCancelled ? nullptr : season;
+std::shared_ptr<const Season> SeasonDesk::Order::carryOut(const Texts& texts, const TaskWatch& watch) const {
+  auto season = std::make_shared<const Season>(catalogue, games, shown, texts, minimum, watch);
+  return watch.isCancelled() ? nullptr : season;
 }
 
 void SeasonDesk::setMinimum(const Qualification& minimum, const Texts& texts) {

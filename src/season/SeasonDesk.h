@@ -46,8 +46,8 @@ class SeasonDesk {
     Qualification minimum;
 
     // Null when it was cancelled.
-    [[nodiscard]] std::shared_ptr<const Season>
-    carryOut(const Texts& texts, const std::atomic<bool>* isCancelled = nullptr) const;
+    [[nodiscard]] std::shared_ptr<const Season> carryOut(const Texts& texts,
+                                                         const TaskWatch& watch = {}) const;
   };
   Order order() const { return {m_catalogue, m_listed, {m_choice.games.team, m_choice.position}, m_minimum}; }
   const Qualification& minimum() const { return m_minimum; }

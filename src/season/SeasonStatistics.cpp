@@ -25,15 +25,19 @@ auto rankKey(const SeasonRow& row) {
 } // namespace
 
 SeasonStatistics::SeasonStatistics(const GameCatalogue& catalogue, std::vector<std::size_t> games,
-                                   const Shown& shown, const std::atomic<bool>* isCancelled)
-    : m_catalogue(&catalogue), m_isCancelled(isCancelled), m_games(std::move(games)) {
+                                   const Shown& shown, const TaskWatch& watch)
+    : m_catalogue(&catalogue), m_games(std::move(games)) {
   const std::optional<SeasonId> team = catalogue.teamOf(shown.team);
   if (!shown.team.empty() && !team)
     return; // nobody's rows
   joinLabels();
-  sumTeams(team);
-  m_players = sumRows(&ListedGame::players, catalogue.players().size(), team);
-  m_lines = sumRows(&ListedGame::lines, catalogue.lines().size(), team);
+  constexpr std::size_t kSums = 3; // of teams, players and lines
+  watch.progress(0, kSums * m_games.size());
+  sumTeams(team, watch);
+  m_players = sumRows(&ListedGame::players, catalogue.players().size(), team, watch);
+  m_lines = sumRows(&ListedGame::lines, catalogue.lines().size(), team, watch);
+  if (watch.isCancelled())
+    return;
   for (SeasonRow& row : m_players) {
     const SeasonPlayer& player = catalogue.players()[row.id];
     row.team = player.team;
@@ -62,7 +66,6 @@ SeasonStatistics::SeasonStatistics(const GameCatalogue& catalogue, std::vector<s
     for (SeasonRow& row : *rows)
       row.rank = ++rank;
   }
-  m_isCancelled = nullptr;
 }
 
 void SeasonStatistics::joinLabels() {
@@ -76,12 +79,13 @@ void SeasonStatistics::joinLabels() {
   }
 }
 
-void SeasonStatistics::sumTeams(std::optional<SeasonId> shownTeam) {
+void SeasonStatistics::sumTeams(std::optional<SeasonId> shownTeam, const TaskWatch& watch) {
   std::vector<SeasonTeamRow> sums(m_catalogue->teams().size());
   std::vector<std::size_t> lastGame(sums.size(), kNoGame);
   for (const std::size_t index : m_games) {
-    if (isCancelled())
+    if (watch.isCancelled())
       return;
+    watch.advance();
     const ListedGame& game = m_catalogue->games()[index];
     for (const int side : {0, 1}) {
       SeasonTeamRow& sum = sums[game.team[side]];
@@ -104,14 +108,16 @@ void SeasonStatistics::sumTeams(std::optional<SeasonId> shownTeam) {
 
 // In order of first appearance; names are the caller's.
 std::vector<SeasonRow> SeasonStatistics::sumRows(Rows rows, std::size_t ids,
-                                                 std::optional<SeasonId> shownTeam) const {
+                                                 std::optional<SeasonId> shownTeam,
+                                                 const TaskWatch& watch) const {
   constexpr std::size_t kNoRow = std::numeric_limits<std::size_t>::max();
   std::vector<std::size_t> place(ids, kNoRow);
   std::vector<std::size_t> lastGame;
   std::vector<SeasonRow> sums;
   for (const std::size_t index : m_games) {
-    if (isCancelled())
+    if (watch.isCancelled())
       break;
+    watch.advance();
     const ListedGame& game = m_catalogue->games()[index];
     for (const GameRow& row : game.*rows) {
       if (row.id == kNobody || (shownTeam && game.team[row.side] != *shownTeam))
@@ -134,17 +140,19 @@ std::vector<SeasonRow> SeasonStatistics::sumRows(Rows rows, std::size_t ids,
   return sums;
 }
 
-std::vector<GameResult> SeasonStatistics::resultsOfPlayer(SeasonId player) const {
-  return resultsOf(&ListedGame::players, player);
+std::vector<GameResult> SeasonStatistics::resultsOfPlayer(SeasonId player, const TaskWatch& watch) const {
+  return resultsOf(&ListedGame::players, player, watch);
 }
 
-std::vector<GameResult> SeasonStatistics::resultsOfLine(SeasonId line) const {
-  return resultsOf(&ListedGame::lines, line);
+std::vector<GameResult> SeasonStatistics::resultsOfLine(SeasonId line, const TaskWatch& watch) const {
+  return resultsOf(&ListedGame::lines, line, watch);
 }
 
-std::vector<GameResult> SeasonStatistics::resultsOf(Rows rows, SeasonId id) const {
+std::vector<GameResult> SeasonStatistics::resultsOf(Rows rows, SeasonId id, const TaskWatch& watch) const {
   std::vector<GameResult> results;
   for (const std::size_t index : m_games) {
+    if (watch.isCancelled())
+      break;
     for (const GameRow& row : m_catalogue->games()[index].*rows) {
       if (row.id != id)
         continue;

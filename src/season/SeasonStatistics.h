@@ -5,9 +5,9 @@
 
 #include "catalogue/GameCatalogue.h"
 #include "scorecard/BoxScore.h"
+#include "storage/TaskWatch.h"
 
 #include <array>
-#include <atomic>
 #include <optional>
 #include <span>
 #include <string>
@@ -56,9 +56,10 @@ class SeasonStatistics {
     std::optional<int> position; // of players: the one in their latest selected game
   };
   // `games` are places in the catalogue's games, as its select() gives them.
-  // Cancelled, they are of some of the games only, and worth nothing.
+  // Cancelled, they are of some of the games only, and worth nothing. Each game is summed for the teams, the
+  // players and the lines: these steps are told.
   SeasonStatistics(const GameCatalogue& catalogue, std::vector<std::size_t> games, const Shown& shown,
-                   const std::atomic<bool>* isCancelled = nullptr);
+                   const TaskWatch& watch = {});
 
   const GameCatalogue& catalogue() const { return *m_catalogue; }
   std::span<const std::size_t> games() const { return m_games; }
@@ -71,21 +72,18 @@ class SeasonStatistics {
   const std::array<std::string, 2>& labels() const { return m_labels; }
 
   // The selected games of a player or of a line, in order of date.
-  [[nodiscard]] std::vector<GameResult> resultsOfPlayer(SeasonId player) const;
-  [[nodiscard]] std::vector<GameResult> resultsOfLine(SeasonId line) const;
+  [[nodiscard]] std::vector<GameResult> resultsOfPlayer(SeasonId player, const TaskWatch& watch = {}) const;
+  [[nodiscard]] std::vector<GameResult> resultsOfLine(SeasonId line, const TaskWatch& watch = {}) const;
 
  private:
   using Rows = std::vector<GameRow> ListedGame::*;
-  void sumTeams(std::optional<SeasonId> shownTeam);
+  void sumTeams(std::optional<SeasonId> shownTeam, const TaskWatch& watch);
   void joinLabels();
-  [[nodiscard]] std::vector<SeasonRow> sumRows(Rows rows, std::size_t ids,
-                                               std::optional<SeasonId> shownTeam) const;
-  [[nodiscard]] std::vector<GameResult> resultsOf(Rows rows, SeasonId id) const;
-
-  [[nodiscard]] bool isCancelled() const { return m_isCancelled != nullptr && *m_isCancelled; }
+  [[nodiscard]] std::vector<SeasonRow> sumRows(Rows rows, std::size_t ids, std::optional<SeasonId> shownTeam,
+                                               const TaskWatch& watch) const;
+  [[nodiscard]] std::vector<GameResult> resultsOf(Rows rows, SeasonId id, const TaskWatch& watch) const;
 
   const GameCatalogue* m_catalogue;
-  const std::atomic<bool>* m_isCancelled; // while they are being summed
   std::vector<std::size_t> m_games;
   std::vector<SeasonRow> m_players;
   std::vector<SeasonRow> m_lines;

@@ -28,17 +28,13 @@
 #include <QTabWidget>
 #include <QToolButton>
 #include <algorithm>
-#include <chrono>
 #include <iterator>
 
 namespace hooptab {
 
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr int kMargin = 8;
-constexpr auto kPollInterval = 50ms;
 
 } // namespace
 
@@ -79,20 +75,15 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
   layout->addWidget(m_notice);
   layout->addWidget(m_tabs, 1);
 
-  m_poll.setInterval(kPollInterval);
-  connect(&m_poll, &QTimer::timeout, this, &frmSTATS::showProgress);
-  connect(&m_work, &BackgroundWork::failed, this, [this] { m_problem = Text::NoMemoryForSeason; });
-  connect(&m_work, &BackgroundWork::finished, this, &frmSTATS::endWork);
+  connect(&m_task, &Task::progressed, this, &frmSTATS::showProgress);
+  connect(&m_task, &Task::failed, this, [this] { m_problem = Text::NoMemoryForSeason; });
+  connect(&m_task, &Task::finished, this, &frmSTATS::endWork);
   connect(m_folder, &FolderPanel::browseAsked, this, &frmSTATS::browse);
   connect(m_folder, &FolderPanel::readAsked, this, qOverload<>(&frmSTATS::readFolder));
-  const auto cancel = [this] {
-    if (m_watch != nullptr)
-      m_watch->isCancelled = true;
-  };
-  connect(m_folder, &FolderPanel::cancelAsked, this, cancel);
+  connect(m_folder, &FolderPanel::cancelAsked, &m_task, &Task::cancel);
   auto* escape =
       new QShortcut(QKeySequence(Qt::Key_Escape), this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-  connect(escape, &QShortcut::activated, this, cancel);
+  connect(escape, &QShortcut::activated, &m_task, &Task::cancel);
   connect(m_folder, &FolderPanel::notReadAsked, this, [this] { m_tabs->setCurrentWidget(m_notRead); });
   connect(m_players, &AveragesPanel::personAsked, this,
           [this](const SeasonRow& row) { showPerson(row, false); });
@@ -110,12 +101,6 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
     connect(table, &SeasonTableView::focused, this, [this, table] { m_lastTable = table; });
   }
   relabelWindow();
-}
-
-// Work under way is told to stop and waited for.
-frmSTATS::~frmSTATS() {
-  if (m_watch != nullptr)
-    m_watch->isCancelled = true;
 }
 
 QWidget* frmSTATS::makeGames() {
@@ -156,9 +141,9 @@ void frmSTATS::readFolder() {
   request.folder = fromQt(QDir::cleanPath(m_folder->folder()));
   request.withSubfolders = m_folder->withSubfolders();
   startWork(Text::LoadingOneGame, Text::LoadingGames,
-            [this, &files = m_files, request, watch = m_watch = std::make_shared<ScanWatch>()] {
+            [this, &files = m_files, request](const TaskWatch& watch) -> Task::Delivery {
               auto catalogue = std::make_shared<GameCatalogue>(files);
-              const ScanOutcome outcome = catalogue->scan(request, *watch);
+              const ScanOutcome outcome = catalogue->scan(request, watch);
               return [this, outcome, catalogue] { takeScan(outcome, catalogue); };
             });
 }
@@ -188,11 +173,11 @@ void frmSTATS::generate() {
     return;
   m_progressCount = m_desk.listed().size();
   startWork(Text::GeneratingOfOne, Text::GeneratingStatistics,
-            [this, order = m_desk.order(), texts = m_texts, // its own: the user may change the language
-             watch = m_watch = std::make_shared<ScanWatch>()]() -> BackgroundWork::Delivery {
-              auto season = order.carryOut(texts, &watch->isCancelled);
-              return [this, order, season, watch] {
-                if (season == nullptr || watch->isCancelled) {
+            [this, order = m_desk.order(), // texts of its own: the user may change the language
+             texts = m_texts](const TaskWatch& watch) -> Task::Delivery {
+              auto season = order.carryOut(texts, watch);
+              return [this, order, season] {
+                if (season == nullptr || m_task.isCancelled()) {
                   m_problem = Text::ReadingCancelled;
                   return;
                 }
@@ -238,11 +223,11 @@ void frmSTATS::showPerson(const SeasonRow& row, bool isLine) {
     return;
   m_progressCount = static_cast<std::size_t>(row.games);
   startWork(Text::LoadingOneOfPerson, Text::LoadingPerson,
-            [this, season = m_desk.season(), row, isLine, texts = m_texts,
-             watch = m_watch = std::make_shared<ScanWatch>()]() -> BackgroundWork::Delivery {
-              auto person = std::make_shared<const SeasonPerson>(season, row, isLine, texts);
-              return [this, person, watch] {
-                if (watch->isCancelled)
+            [this, season = m_desk.season(), row, isLine,
+             texts = m_texts](const TaskWatch& watch) -> Task::Delivery {
+              auto person = std::make_shared<const SeasonPerson>(season, row, isLine, texts, watch);
+              return [this, person] {
+                if (m_task.isCancelled())
                   return;
                 m_person->showPerson(person);
                 m_tabs->setCurrentWidget(m_person);
@@ -272,28 +257,25 @@ void frmSTATS::openGame(std::size_t game) {
   emit gameAsked(toQt(m_desk.catalogue()->games()[game].path));
 }
 
-void frmSTATS::startWork(Text one, Text text, std::function<BackgroundWork::Delivery()> work) {
+void frmSTATS::startWork(Text one, Text text, Task::Work work) {
   m_problem = Text::None;
   m_progressOne = one;
   m_progressText = text;
-  m_work.start(std::move(work));
+  m_task.start(std::move(work));
   showProgress();
   showNotice();
   m_criteria->showWhatIsOffered(m_desk, isBusy());
-  m_poll.start();
 }
 
 void frmSTATS::showProgress() {
-  const bool isScan = m_progressText == Text::LoadingGames;
-  const std::size_t found = isScan ? m_watch->filesFound.load() : m_progressCount;
+  const auto [done, total] = m_task.progress();
+  const auto games = m_progressText == Text::LoadingGames ? static_cast<std::size_t>(total) : m_progressCount;
   m_folder->showProgress(
-      toQt(m_texts.withPlaceholder(found == 1 ? m_progressOne : m_progressText, std::to_string(found))),
-      isScan ? static_cast<int>(m_watch->filesRead) : 0, isScan ? static_cast<int>(found) : 0);
+      toQt(m_texts.withPlaceholder(games == 1 ? m_progressOne : m_progressText, std::to_string(games))), done,
+      total);
 }
 
 void frmSTATS::endWork() {
-  m_poll.stop();
-  showProgress(); // its last number, for whoever asks later
   m_folder->endProgress();
   m_criteria->showWhatIsOffered(m_desk, isBusy());
   showNotice();

@@ -3,12 +3,10 @@
 // by SeasonDesk, and all that takes its time is done on a thread of its own, which can be cancelled.
 #pragma once
 
-#include "appearance/BackgroundWork.h"
 #include "appearance/ChildWindow.h"
+#include "appearance/Task.h"
 #include "appearance/WidgetsFirst.h"
 #include "season/SeasonDesk.h"
-
-#include <QTimer>
 
 class QLabel;
 class QTabWidget;
@@ -32,12 +30,11 @@ class frmSTATS : public ChildWindow {
   // All must outlive it.
   frmSTATS(FileSystem& files, const Settings& settings, const Texts& texts, Dialogs& dialogs,
            QWidget* parent = nullptr);
-  ~frmSTATS() override;
 
   // Reads the folder that is shown. Nothing while other work is under way.
   void readFolder();
   void readFolder(const QString& folder, bool withSubfolders);
-  bool isBusy() const { return m_work.isRunning(); }
+  bool isBusy() const { return m_task.isRunning(); }
   // What reports are made of; null before statistics were generated.
   const std::shared_ptr<const Season>& statistics() const { return m_desk.season(); }
   std::optional<SeasonId> chosenTeam() const { return m_desk.chosenTeam(); }
@@ -67,7 +64,7 @@ class frmSTATS : public ChildWindow {
   void takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue> catalogue);
 
   // The texts are for one and for several games.
-  void startWork(Text one, Text text, std::function<BackgroundWork::Delivery()> work);
+  void startWork(Text one, Text text, Task::Work work);
   void showProgress();
   void endWork();
   void showCatalogue();
@@ -81,13 +78,11 @@ class frmSTATS : public ChildWindow {
   const Texts& m_texts;
   Dialogs& m_dialogs;
   SeasonDesk m_desk;
-  std::shared_ptr<ScanWatch> m_watch;      // of the scan under way
   Text m_progressText = Text::None;        // of the work under way
   Text m_progressOne = Text::None;         // the same for one game
   std::size_t m_progressCount = 0;         // of games in it, where it is no scan
   std::vector<std::size_t> m_countedWrong; // games that the user counts although they cannot be right
   Text m_problem = Text::None;             // what went wrong last
-  QTimer m_poll;
 
   FolderPanel* m_folder;
   QLabel* m_notice;
@@ -101,7 +96,7 @@ class frmSTATS : public ChildWindow {
   PersonPanel* m_person;
   TeamPanel* m_team;
   const SeasonTableView* m_lastTable = nullptr; // that the user was in
-  BackgroundWork m_work;                        // goes before what its work refers to
+  Task m_task;                                  // goes before what its work refers to
   WidgetsFirst m_widgetsFirst{*this};           // stays the last member
 };
 

@@ -15,7 +15,6 @@ namespace {
 
 constexpr std::string_view kEnding = ".GAM";
 
-constexpr Text kTooManyPlayers[2] = {Text::VisitorsTooMany, Text::HomeTooMany};
 constexpr Text kSideNames[2] = {Text::Visitor, Text::Home};
 constexpr Text kOwnAbbreviations[2] = {Text::VisitorCapitals, Text::HomeCapitals};
 
@@ -158,7 +157,7 @@ NewGame::Player* NewGame::wearerOf(int side, std::string_view number) {
 
 QuickRoster NewGame::takeNumbers(int side, std::string_view typed) {
   QuickRoster roster = quickRoster(typed);
-  if (roster.problem != Text::None || roster.jerseys.empty())
+  if (roster.problem != QuickRoster::Problem::None || roster.jerseys.empty())
     return roster;
   if (sides[side].team == kNone)
     chooseOwnTeam(side);
@@ -175,22 +174,21 @@ QuickRoster NewGame::takeNumbers(int side, std::string_view typed) {
   return roster;
 }
 
-std::string NewGame::addPlayer(int side, std::string_view number, std::string_view name) {
+NewGame::AddedPlayer NewGame::addPlayer(int side, std::string_view number, std::string_view name) {
+  using enum AddedPlayer::Problem;
   const std::string jersey(Module1::trimmed(number));
   if (!isJersey(jersey))
-    return std::string(m_texts.text(Text::InvalidNumber));
-  if (const Player* wearer = wearerOf(side, jersey)) {
-    const std::string shown(Module1::trimmed(wearer->number + ' ' + wearer->name));
-    return withPlaceholders(m_texts.text(Text::NumberWorn), jersey, shown);
-  }
+    return {NoJersey, jersey};
+  if (const Player* wearer = wearerOf(side, jersey))
+    return {NumberWorn, jersey, std::string(Module1::trimmed(wearer->number + ' ' + wearer->name))};
   Player player{
       .number = jersey, .name = std::string(Module1::trimmed(name)), .isChecked = true, .isAdded = true};
   if (!fitsInValue(playerValue(RosterPlayer{player.number, player.position, player.name})))
-    return std::string(m_texts.text(Text::NameTooLong));
+    return {TooLong, jersey};
   if (sides[side].team == kNone)
     chooseOwnTeam(side);
   sides[side].players.push_back(std::move(player));
-  return {};
+  return {None, jersey};
 }
 
 void NewGame::setChecked(int side, std::size_t player, bool isChecked) {
@@ -203,46 +201,54 @@ void NewGame::stepPosition(int side, std::size_t player) {
   position = nextChoice(kFirstPositionText, position, m_texts);
 }
 
-Text NewGame::missing() const {
-  if (sides[0].team == kNone || sides[1].team == kNone)
-    return Text::ChooseTeams;
-  if (Module1::trimmed(date).empty())
-    return Text::EnterDate;
-  if (gameType == kNone)
-    return Text::ChooseGameType;
-  if (inputType == kNone)
-    return Text::ChooseInputType;
-  if (kInputTypes.at(static_cast<std::size_t>(inputType)).usesKeypad && mainTeam == kNone)
-    return Text::ChooseMainTeam;
-  return Text::None;
+NewGame::Objection NewGame::missingTeam() const {
+  for (int side = 0; side < 2; ++side) {
+    if (sides[side].team == kNone)
+      return {Problem::NoTeam, side};
+  }
+  return {};
 }
 
-Text NewGame::problem() const {
+NewGame::Objection NewGame::missing() const {
+  if (const Objection team = missingTeam(); team != Objection())
+    return team;
+  if (Module1::trimmed(date).empty())
+    return {Problem::NoDate};
+  if (gameType == kNone)
+    return {Problem::NoGameType};
+  if (inputType == kNone)
+    return {Problem::NoInputType};
+  if (kInputTypes.at(static_cast<std::size_t>(inputType)).usesKeypad && mainTeam == kNone)
+    return {Problem::NoMainTeam};
+  return {};
+}
+
+NewGame::Objection NewGame::problem() const {
   // No minutes at all are a game without time.
   const int minutes = Module1::leadingNumber(rules.minutesPerPeriod);
   if (minutes < 0 || minutes > kMostMinutes)
-    return Text::InvalidMinutes;
+    return {Problem::Minutes};
   if (Module1::leadingNumber(rules.periods) <= 0)
-    return Text::InvalidPeriods;
+    return {Problem::Periods};
   const bool isOfThisGame =
       std::ranges::any_of(m_ownTeams, [](const OwnTeam& own) { return own.team != kNone; });
   if (sides[0].team == sides[1].team || (isOfThisGame && listText(0) == listText(1)))
-    return Text::SameTeam;
+    return {Problem::SameTeam};
   if (Module1::leadingNumber(rules.bonus) <= 0)
-    return Text::InvalidBonus;
+    return {Problem::Bonus};
   if (inputType == kNone)
-    return Text::ChooseInputType;
+    return {Problem::NoInputType};
   if (Module1::leadingNumber(rules.personalFoulLimit) <= 0)
-    return Text::InvalidPersonalFouls;
+    return {Problem::PersonalFouls};
   if (Module1::leadingNumber(rules.technicalFoulLimit) <= 0)
-    return Text::InvalidTechnicalFouls;
-  if (sides[0].team == kNone || sides[1].team == kNone)
-    return Text::ChooseTeams;
+    return {Problem::TechnicalFouls};
+  if (const Objection team = missingTeam(); team != Objection())
+    return team;
   for (int side = 0; side < 2; ++side) {
     if (sides[side].checkedPlayers() > kMostPlayers)
-      return kTooManyPlayers[side];
+      return {Problem::TooManyPlayers, side};
   }
-  return Text::None;
+  return {};
 }
 
 const TeamEntry* NewGame::entry(int side) const {

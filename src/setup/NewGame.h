@@ -42,6 +42,35 @@ class NewGame {
  public:
   static constexpr int kNone = -1;
 
+  // What stands against the game; SetupWords has the sentences.
+  enum class Problem : std::uint8_t {
+    None,
+    NoTeam, // of a side
+    NoDate,
+    NoGameType,
+    NoInputType,
+    NoMainTeam, // whose keypad it is
+    Minutes,
+    Periods,
+    SameTeam,
+    Bonus,
+    PersonalFouls,
+    TechnicalFouls,
+    TooManyPlayers, // of a side
+  };
+  struct Objection {
+    Problem problem = Problem::None;
+    int side = kNone; // where it is of one
+    friend bool operator==(const Objection&, const Objection&) = default;
+  };
+  // What became of a player for this game alone.
+  struct AddedPlayer {
+    enum class Problem : std::uint8_t { None, NoJersey, NumberWorn, TooLong };
+    Problem problem = Problem::None; // with any, he was not added
+    std::string jersey = {};
+    std::string wearer = {}; // of a number that is worn: "4 Ann Able"
+  };
+
   enum class Eligibility : std::uint8_t { CanPlay, NoJersey, NumberTaken, NumberWrittenOtherwise };
   struct Player {
     std::string number = {};
@@ -95,14 +124,14 @@ class NewGame {
   // that nobody has is a player without a name, for this game alone. Without a team, the side gets its own.
   // Nothing changes with a problem, nor where nothing is typed.
   QuickRoster takeNumbers(int side, std::string_view typed);
-  // One player more for this game alone, with or without a name. Returns why he cannot be; else nothing.
-  [[nodiscard]] std::string addPlayer(int side, std::string_view number, std::string_view name);
+  // One player more for this game alone, with or without a name.
+  [[nodiscard]] AddedPlayer addPlayer(int side, std::string_view number, std::string_view name);
 
-  // The text that names what has to be chosen before the game can be accepted; none for nothing.
-  [[nodiscard]] Text missing() const;
-  [[nodiscard]] bool canAccept() const { return missing() == Text::None; }
-  // The first thing that is wrong; none for nothing.
-  [[nodiscard]] Text problem() const;
+  // The first thing that has to be chosen before the game can be accepted.
+  [[nodiscard]] Objection missing() const;
+  [[nodiscard]] bool canAccept() const { return missing() == Objection(); }
+  // The first thing that is wrong.
+  [[nodiscard]] Objection problem() const;
 
   [[nodiscard]] std::string proposedFileName() const; // bare, fit for a file name
   // What has to be asked before a file is written over: names the game that would be lost. Empty where
@@ -122,6 +151,7 @@ class NewGame {
 
   [[nodiscard]] OwnTeam* ownTeam(int team);
   [[nodiscard]] Player* wearerOf(int side, std::string_view number);
+  [[nodiscard]] Objection missingTeam() const;
   [[nodiscard]] const TeamEntry* entry(int side) const;
   [[nodiscard]] std::string listText(int side) const;
   [[nodiscard]] std::string abbreviation(int side) const;

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "game/Rules.h"
-#include "settings/Texts.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,14 +12,14 @@
 namespace hooptab {
 
 struct QuickRoster {
+  enum class Problem : std::uint8_t { None, NoJersey, Twice, WrittenOtherwise, OneTooMany };
+
   std::vector<std::string> jerseys = {}; // as typed, in their order; none with a problem
-  Text problem = Text::None;             // none where all is well
+  Problem problem = Problem::None;
   // Of the problem: the first part of what was typed that is wrong, and where it stands, in bytes.
   std::string part = {};
   std::size_t place = 0;
   std::string other = {}; // a number that it repeats, as typed before
-
-  [[nodiscard]] std::string words(const Texts& texts) const; // of the problem; else empty
 };
 
 // Between numbers stand blanks, commas, semicolons or new lines, however many; nothing typed is an empty

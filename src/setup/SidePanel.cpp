@@ -5,6 +5,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "setup/KeepsEnter.h"
+#include "setup/SetupWords.h"
 #include "setup/SideBand.h"
 #include "setup/SidePlayersTable.h"
 #include "storage/Placeholders.h"
@@ -242,7 +243,7 @@ bool SidePanel::takeTypedPlayer() {
 }
 
 QString SidePanel::wrongNumbers() const {
-  return toQt(quickRoster(fromQt(m_numbers->text())).words(m_texts));
+  return toQt(wordsOf(quickRoster(fromQt(m_numbers->text())), m_texts));
 }
 
 // Once for what was typed: what is checked by hand afterwards stays. What is wrong stays to be mended, and
@@ -253,8 +254,9 @@ void SidePanel::takeNumbers() {
   m_numbers->setModified(false);
   const bool hadTeam = m_game.sides[m_side].team != NewGame::kNone;
   const QuickRoster roster = m_game.takeNumbers(m_side, fromQt(m_numbers->text()));
-  m_problem->setText(toQt(roster.words(m_texts)));
-  if (roster.problem != Text::None) // before which stand digits and separators alone, a byte each
+  m_problem->setText(toQt(wordsOf(roster, m_texts)));
+  if (roster.problem !=
+      QuickRoster::Problem::None) // before which stand digits and separators alone, a byte each
     return m_numbers->setSelection(static_cast<int>(roster.place),
                                    static_cast<int>(toQt(roster.part).size()));
   m_numbersTaken = fromQt(m_numbers->text());
@@ -267,10 +269,11 @@ void SidePanel::takeNumbers() {
 
 void SidePanel::addPlayer() {
   const bool hadTeam = m_game.sides[m_side].team != NewGame::kNone;
-  const std::string problem = m_game.addPlayer(m_side, fromQt(m_jersey->text()), fromQt(m_player->text()));
-  m_problem->setText(toQt(problem));
+  const NewGame::AddedPlayer added =
+      m_game.addPlayer(m_side, fromQt(m_jersey->text()), fromQt(m_player->text()));
+  m_problem->setText(toQt(wordsOf(added, m_texts)));
   m_jersey->setFocus(Qt::OtherFocusReason);
-  if (!problem.empty())
+  if (added.problem != NewGame::AddedPlayer::Problem::None)
     return;
   m_jersey->clear();
   m_player->clear();

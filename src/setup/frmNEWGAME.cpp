@@ -9,6 +9,7 @@
 #include "appearance/WarningChip.h"
 #include "appearance/relabel.h"
 #include "setup/KeepsEnter.h"
+#include "setup/SetupWords.h"
 #include "setup/SidePanel.h"
 #include "setup/SidePlayersTable.h"
 #include "storage/Module1.h"
@@ -314,30 +315,31 @@ void frmNEWGAME::showMainTeam() {
 }
 
 void frmNEWGAME::showAcceptance() {
-  const Text missing = m_game.missing();
+  const Text missing = textOf(m_game.missing());
   m_ok->setEnabled(missing == Text::None);
   m_warning->setVisible(missing != Text::None);
   m_missing->setText(missing == Text::None ? QString() : caption(m_texts, missing));
 }
 
-void frmNEWGAME::focusOn(Text problem) {
-  const struct {
-    Text problem;
-    QWidget* widget;
-  } places[] = {{Text::InvalidMinutes, m_minutes},
-                {Text::InvalidPeriods, m_periods},
-                {Text::InvalidBonus, m_bonus},
-                {Text::InvalidPersonalFouls, m_personalFouls},
-                {Text::InvalidTechnicalFouls, m_technicalFouls},
-                {Text::ChooseInputType, m_input},
-                {Text::ChooseTeams, &m_sides[m_game.sides[0].team == NewGame::kNone ? 0 : 1]->teams().list()},
-                {Text::VisitorsTooMany, &m_sides[0]->players()},
-                {Text::HomeTooMany, &m_sides[1]->players()},
-                {Text::SameTeam, &m_sides[1]->teams().list()}};
-  for (const auto& place : places) {
-    if (place.problem == problem)
-      place.widget->setFocus(Qt::OtherFocusReason);
+void frmNEWGAME::focusOn(const NewGame::Objection& objection) {
+  using enum NewGame::Problem;
+  QWidget* place = nullptr;
+  switch (objection.problem) {
+  case Minutes: place = m_minutes; break;
+  case Periods: place = m_periods; break;
+  case Bonus: place = m_bonus; break;
+  case PersonalFouls: place = m_personalFouls; break;
+  case TechnicalFouls: place = m_technicalFouls; break;
+  case NoInputType: place = m_input; break;
+  case NoTeam: place = &m_sides[objection.side]->teams().list(); break;
+  case SameTeam: place = &m_sides[1]->teams().list(); break;
+  case TooManyPlayers: place = &m_sides[objection.side]->players(); break;
+  case NoDate:
+  case NoGameType:
+  case NoMainTeam:
+  case None: return; // OK cannot be pressed without them
   }
+  place->setFocus(Qt::OtherFocusReason);
 }
 
 void frmNEWGAME::accept() {
@@ -351,9 +353,9 @@ void frmNEWGAME::accept() {
       return;
     }
   }
-  if (const Text problem = m_game.problem(); problem != Text::None) {
-    m_dialogs.warn(this, warning, caption(m_texts, problem));
-    focusOn(problem);
+  if (const NewGame::Objection objection = m_game.problem(); objection != NewGame::Objection()) {
+    m_dialogs.warn(this, warning, caption(m_texts, textOf(objection)));
+    focusOn(objection);
     return;
   }
   const QString proposed = QDir(toQt(m_settings.lastGameFolder)).filePath(toQt(m_game.proposedFileName()));

@@ -60,7 +60,7 @@ class frmNEWGAME : public QDialog {
   void showRules();
   void showMainTeam();
   void showAcceptance();
-  void focusOn(Text problem);
+  void focusOn(const NewGame::Objection& objection);
 
   const Settings& m_settings;
   const Texts& m_texts;

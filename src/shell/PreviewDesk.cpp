@@ -84,8 +84,11 @@ void PreviewDesk::show(std::vector<ReportOffer> offers) {
 void PreviewDesk::printSeason(frmSTATS& window, SeasonReport first) {
   SeasonOffer offer{window.statistics(), window.chosenTeam(), window.chosenPerson()};
   const auto question = [this](Text text) { return toQt(m_workshop.texts.text(text)); };
-  if (const Text missing = missingFor(first, offer); missing != Text::None)
-    return m_workshop.dialogs.inform(&m_window, question(Text::ReportOption), question(missing));
+  if (const MissingForReport missing = missingFor(first, offer); missing != MissingForReport::Nothing) {
+    const bool isPerson = missing == MissingForReport::Person;
+    return m_workshop.dialogs.inform(&m_window, question(Text::ReportOption),
+                                     question(isPerson ? Text::ChooseSomebody : Text::GenerateFirst));
+  }
   if (offer.person && canHighlight(first, *offer.person))
     offer.highlightsPerson =
         m_workshop.dialogs.ask(&m_window, question(Text::ReportOption), question(Text::Highlight));

@@ -101,20 +101,20 @@ SeasonReport reportOfPage(frmSTATS::Page page, SeasonView leaders, const SeasonP
   return SeasonReport::TeamSummary;
 }
 
-Text missingFor(SeasonReport report, const SeasonOffer& offer) {
+MissingForReport missingFor(SeasonReport report, const SeasonOffer& offer) {
   if (!offer.season)
-    return Text::GenerateFirst;
+    return MissingForReport::Statistics;
   const bool isOfPerson = report == SeasonReport::Player || report == SeasonReport::Line;
   const bool isOfLine = report == SeasonReport::Line;
-  return isOfPerson && (!offer.person || offer.person->isLine != isOfLine) ? Text::ChooseSomebody
-                                                                           : Text::None;
+  return isOfPerson && (!offer.person || offer.person->isLine != isOfLine) ? MissingForReport::Person
+                                                                           : MissingForReport::Nothing;
 }
 
 std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first, const Settings& settings,
                                       const Texts& texts) {
   std::vector<ReportOffer> offers;
   for (const SeasonReportName& name : seasonReports()) {
-    if (missingFor(name.report, offer) != Text::None)
+    if (missingFor(name.report, offer) != MissingForReport::Nothing)
       continue;
     const bool isOfPerson = name.report == SeasonReport::Player || name.report == SeasonReport::Line;
     SeasonReportChoice choice;

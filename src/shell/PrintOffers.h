@@ -37,8 +37,9 @@ struct SeasonOffer {
   std::shared_ptr<const SeasonPerson> person; // null: nobody is chosen
   bool highlightsPerson = false;
 };
-// What must be done before that report can be made; none for nothing.
-[[nodiscard]] Text missingFor(SeasonReport report, const SeasonOffer& offer);
+// What that report cannot be made without.
+enum class MissingForReport { Nothing, Statistics, Person };
+[[nodiscard]] MissingForReport missingFor(SeasonReport report, const SeasonOffer& offer);
 [[nodiscard]] std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first,
                                                     const Settings& settings, const Texts& texts);
 // The report of what a season's window shows; of a player or line where one is chosen.

@@ -55,12 +55,12 @@ RecentGame readOne(cinifile& store, const std::string& path, GameState& state) {
 } // namespace
 
 RecentGames readRecentGames(FileSystem& files, const std::vector<std::string>& paths,
-                            const std::atomic<bool>& isGivenUp) {
+                            const TaskWatch& watch) {
   RecentGames result;
   cinifile store(files);
   const auto state = std::make_unique<GameState>();
   for (const std::string& path : paths) {
-    if (isGivenUp || result.others.size() == RecentGames::kMostOthers)
+    if (watch.isCancelled() || result.others.size() == RecentGames::kMostOthers)
       break;
     RecentGame game = readOne(store, path, *state);
     if (game.problem == GameFileProblem::Absent)

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "game/GameFile.h"
+#include "storage/TaskWatch.h"
 
 #include <array>
-#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -45,8 +45,8 @@ struct RecentGames {
   friend bool operator==(const RecentGames&, const RecentGames&) = default;
 };
 
-// Files that are not there are passed over. Stops between two files once `isGivenUp`.
+// Files that are not there are passed over. Stops between two files once it is cancelled.
 [[nodiscard]] RecentGames readRecentGames(FileSystem& files, const std::vector<std::string>& paths,
-                                          const std::atomic<bool>& isGivenUp);
+                                          const TaskWatch& watch = {});
 
 } // namespace hooptab

@@ -84,8 +84,7 @@ class ReportRun {
   int writeEachGame(ReportForm form) {
     if (!std::filesystem::is_directory(m_request.output, m_ignored))
       return complainOf(kWrongUse, m_request.output, Text::OutputMustBeFolder);
-    ScanWatch watch;
-    const FoundGames games = findGames(m_files, {m_request.source}, watch);
+    const FoundGames games = findGames(m_files, {m_request.source});
     if (games.outcome != ScanOutcome::Done || games.paths.empty())
       return complainOf(kFailed, m_request.source, Text::NoGameInFolder);
     ExitStatus status = kGood;
@@ -134,8 +133,7 @@ class ReportRun {
     if (m_request.source.empty())
       return complainOfMissing(words(Text::AFolderOfGames));
     GameCatalogue catalogue(m_files);
-    ScanWatch watch;
-    if (catalogue.scan({m_request.source}, watch) != ScanOutcome::Done)
+    if (catalogue.scan({m_request.source}) != ScanOutcome::Done)
       return complainOf(kFailed, m_request.source, Text::NoFolderOrUnreadable);
     for (const SkippedFile& skipped : catalogue.skipped())
       (void)complain(kGood,

@@ -75,15 +75,7 @@ WelcomePage::WelcomePage(const StartCommands& commands, RecentPaths recentPaths,
     if (now != nullptr && content->isAncestorOf(now))
       m_scroll->ensureWidgetVisible(now);
   });
-  connect(&m_work, &BackgroundWork::finished, this, [this] {
-    if (std::exchange(m_isReadAgain, false))
-      read();
-  });
   applyLook();
-}
-
-WelcomePage::~WelcomePage() {
-  m_isLeaving = true;
 }
 
 QBoxLayout* WelcomePage::makeHead(const StartCommands& commands) {
@@ -175,12 +167,8 @@ void WelcomePage::showEvent(QShowEvent* event) {
 }
 
 void WelcomePage::read() {
-  if (m_work.isRunning()) {
-    m_isReadAgain = true;
-    return;
-  }
-  m_work.start([this, paths = m_recentPaths()]() -> BackgroundWork::Delivery {
-    return [this, games = readRecentGames(m_files, paths, m_isLeaving)] { showGames(games); };
+  m_task.start([this, &files = m_files, paths = m_recentPaths()](const TaskWatch& watch) -> Task::Delivery {
+    return [this, games = readRecentGames(files, paths, watch)] { showGames(games); };
   });
 }
 

@@ -4,14 +4,13 @@
 // hold up the page. Closing the program waits for the file that is being read.
 #pragma once
 
-#include "appearance/BackgroundWork.h"
+#include "appearance/Task.h"
 #include "settings/Texts.h"
 #include "shell/RecentGames.h"
 
 #include <QWidget>
 
 #include <array>
-#include <atomic>
 #include <functional>
 #include <string>
 #include <vector>
@@ -43,7 +42,6 @@ class WelcomePage : public QWidget {
   // All must outlive it.
   WelcomePage(const StartCommands& commands, RecentPaths recentPaths, FileSystem& files, const Texts& texts,
               QWidget* parent = nullptr);
-  ~WelcomePage() override;
 
   void relabelPage(); // behind relabel()
   void applyLook();   // colours and measure
@@ -67,8 +65,6 @@ class WelcomePage : public QWidget {
   RecentPaths m_recentPaths;
   FileSystem& m_files;
   const Texts& m_texts;
-  std::atomic<bool> m_isLeaving = false;
-  bool m_isReadAgain = false; // it was shown anew while the games were read
   RecentGames m_games;
   std::vector<RecentGameRow*> m_rows;
   std::vector<StartCard*> m_cards;
@@ -87,7 +83,7 @@ class WelcomePage : public QWidget {
   QBoxLayout* m_body = nullptr;
   QBoxLayout* m_left = nullptr;
   QBoxLayout* m_right = nullptr;
-  BackgroundWork m_work; // the last: it waits for its thread before all else goes
+  Task m_task; // the last: it waits for its thread before all else goes
 };
 
 } // namespace hooptab

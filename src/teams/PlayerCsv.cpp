@@ -126,37 +126,54 @@ Places placesInOrder(const std::vector<DelimitedRow>& rows) {
   return places;
 }
 
+Text textOf(CsvProblem::Kind kind) {
+  using enum CsvProblem::Kind;
+  switch (kind) {
+  case IncompleteHeader: return Text::IncompleteHeader;
+  case TooManyRows: return Text::TooManyRows;
+  case OpenQuote: return Text::OpenQuote;
+  case NoJersey: return Text::InvalidNumber;
+  case UnknownPosition: return Text::UnknownPosition;
+  case NoName: return Text::NoName;
+  case NumberAgain: return Text::NumberAgain;
+  case NumberWrittenOtherwise: return Text::NumberWrittenOtherwise;
+  case TooLong: break;
+  }
+  return Text::PlayerTooLong;
+}
+
 class RowReader {
  public:
   RowReader(const Texts& texts, const Places& places) : m_texts(texts), m_places(places) {}
 
   void read(const DelimitedRow& row, CsvPlayers& into) const {
-    const auto refuse = [&](Text text, const std::string& detail) {
+    using enum CsvProblem::Kind;
+    const auto refuse = [&](CsvProblem::Kind kind, const std::string& detail) {
       into.problems.push_back(
-          {row.line, text, codepage::toUtf8(codepage::fromUtf8(detail).substr(0, kLongestDetail))});
+          {row.line, kind, codepage::toUtf8(codepage::fromUtf8(detail).substr(0, kLongestDetail))});
     };
     if (row.hasOpenQuote)
-      return refuse(Text::OpenQuote, {});
+      return refuse(OpenQuote, {});
     const std::string number = cell(row, kNumber);
     if (!isJersey(number))
-      return refuse(Text::InvalidNumber, number);
+      return refuse(NoJersey, number);
     const std::optional<int> position = positionOf(cell(row, kPosition), m_texts);
     if (!position)
-      return refuse(Text::UnknownPosition, cell(row, kPosition));
+      return refuse(UnknownPosition, cell(row, kPosition));
     TeamPlayer player{
         number,
         {*position, name(row), cell(row, kHeight), cell(row, kWeight), cell(row, kAge), cell(row, kGrade)},
         {}};
     if (player.record.name.empty())
-      return refuse(Text::NoName, {});
+      return refuse(NoName, {});
     if (std::ranges::find(into.players, number, &TeamPlayer::number) != into.players.end())
-      return refuse(Text::NumberAgain, number);
+      return refuse(NumberAgain, number);
     if (std::ranges::any_of(into.players, [&](const TeamPlayer& other) {
           return Roster::areOneNumber(other.number, number);
         }))
-      return refuse(Text::NumberWrittenOtherwise, number);
+      return refuse(NumberWrittenOtherwise, number);
     if (!fitsInValue(playerValue(player.record)))
-      return refuse(Text::PlayerTooLong, {});
+      return refuse(TooLong, {});
     into.players.push_back(std::move(player));
   }
 
@@ -186,7 +203,7 @@ CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts) {
     return result;
   const std::optional<Places> header = headerIn(rows.front(), texts);
   if (header && (!(*header)[kNumber] || (!(*header)[kName] && !(*header)[kLastName]))) {
-    result.problems.push_back({rows.front().line, Text::IncompleteHeader, {}});
+    result.problems.push_back({rows.front().line, CsvProblem::Kind::IncompleteHeader, {}});
     return result;
   }
   const Places places = header ? *header : placesInOrder(rows);
@@ -198,7 +215,8 @@ CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts) {
   const RowReader reader(texts, places);
   for (std::size_t row = header ? 1 : 0; row < rows.size(); ++row) {
     if (result.players.size() == kMostPlayers) {
-      result.problems.push_back({rows[row].line, Text::TooManyRows, std::to_string(kMostPlayers)});
+      result.problems.push_back(
+          {rows[row].line, CsvProblem::Kind::TooManyRows, std::to_string(kMostPlayers)});
       break;
     }
     reader.read(rows[row], result);
@@ -207,8 +225,8 @@ CsvPlayers parsePlayersCsv(std::string_view text, const Texts& texts) {
 }
 
 std::string problemText(const CsvProblem& problem, const Texts& texts) {
-  std::string words = texts.withPlaceholder(problem.text, problem.detail);
-  if (problem.text == Text::InvalidNumber && !problem.detail.empty())
+  std::string words = texts.withPlaceholder(textOf(problem.kind), problem.detail);
+  if (problem.kind == CsvProblem::Kind::NoJersey && !problem.detail.empty())
     words += " (" + problem.detail + ")";
   return withPlaceholders(texts.text(Text::LineRefused), std::to_string(problem.line), words);
 }

@@ -14,9 +14,20 @@
 namespace hooptab {
 
 struct CsvProblem {
-  int line = 0;           // of the text, from 1, where the row begins
-  Text text = Text::None; // what is wrong
-  std::string detail;     // the value meant, for "XXX" in it
+  enum class Kind {
+    IncompleteHeader, // the whole table is left out
+    TooManyRows,      // so are this row and all behind it
+    OpenQuote,
+    NoJersey,
+    UnknownPosition,
+    NoName,
+    NumberAgain,
+    NumberWrittenOtherwise,
+    TooLong,
+  };
+  int line = 0; // of the text, from 1, where the row begins
+  Kind kind = Kind::NoName;
+  std::string detail; // the value that is wrong, of too many rows how many are taken; of others empty
 };
 
 struct CsvPlayers {

@@ -147,10 +147,10 @@ void PlayerEditor::focusNumber() {
   m_number->selectAll();
 }
 
-void PlayerEditor::focusOn(Text problem) {
-  if (problem == Text::InvalidNumber)
+void PlayerEditor::focusOn(TeamSheet::Problem problem) {
+  if (problem == TeamSheet::Problem::NoJersey)
     focusNumber();
-  else if (problem == Text::NoPositionChosen)
+  else if (problem == TeamSheet::Problem::NoPosition)
     m_position->setFocus(Qt::OtherFocusReason);
   else
     m_free[0]->setFocus(Qt::OtherFocusReason);

@@ -30,7 +30,7 @@ class PlayerEditor : public QWidget {
   void setHasTeam(bool hasTeam); // without one nothing is announced
   void setEditable(bool isEditable);
   void focusNumber();
-  void focusOn(Text problem); // the field that a text of TeamSheet::problem speaks of
+  void focusOn(TeamSheet::Problem problem); // the field that it is about
   void relabelPanel();
 
  signals:

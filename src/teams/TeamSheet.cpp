@@ -104,14 +104,14 @@ std::string TeamSheet::announcement(const PlayerFields& fields, const Texts& tex
   return {};
 }
 
-Text TeamSheet::problem(const PlayerFields& fields) {
+TeamSheet::Problem TeamSheet::problem(const PlayerFields& fields) {
   if (!isJersey(trimmed(fields.number)))
-    return Text::InvalidNumber;
+    return Problem::NoJersey;
   if (!fields.position)
-    return Text::NoPositionChosen;
+    return Problem::NoPosition;
   if (stored(fields.name).empty())
-    return Text::NoName;
-  return fits(fields) ? Text::None : Text::PlayerTooLong;
+    return Problem::NoName;
+  return fits(fields) ? Problem::None : Problem::TooLong;
 }
 
 bool TeamSheet::fits(const PlayerFields& fields) {

@@ -51,9 +51,10 @@ class TeamSheet {
   [[nodiscard]] Target target(const PlayerFields& fields) const;
   // In words, for the line beside the button and as message of a conflict; empty without number or name.
   [[nodiscard]] std::string announcement(const PlayerFields& fields, const Texts& texts) const;
-  // The first thing that stands against adding; none when nothing does. What is refused for another
-  // row has no text of its own: see announcement().
-  [[nodiscard]] static Text problem(const PlayerFields& fields);
+  // The first thing that stands against adding these fields. What is refused for another row is none of
+  // them: see target().
+  enum class Problem { None, NoJersey, NoPosition, NoName, TooLong };
+  [[nodiscard]] static Problem problem(const PlayerFields& fields);
   // Whether the record will be read back whole.
   [[nodiscard]] static bool fits(const PlayerFields& fields);
 

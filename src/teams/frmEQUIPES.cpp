@@ -31,6 +31,17 @@ namespace hooptab {
 
 namespace {
 
+Text textOf(TeamSheet::Problem problem) {
+  switch (problem) {
+  case TeamSheet::Problem::NoJersey: return Text::InvalidNumber;
+  case TeamSheet::Problem::NoPosition: return Text::NoPositionChosen;
+  case TeamSheet::Problem::NoName: return Text::NoName;
+  case TeamSheet::Problem::TooLong: return Text::PlayerTooLong;
+  case TeamSheet::Problem::None: break;
+  }
+  return Text::None;
+}
+
 constexpr int kLeastRows = 6; // of the table that stay in sight, its head among them
 
 } // namespace
@@ -308,8 +319,8 @@ bool frmEQUIPES::addPlayer() {
   if (isReadOnly())
     return false;
   const PlayerFields fields = m_player->fields();
-  if (const Text problem = TeamSheet::problem(fields); problem != Text::None) {
-    warn(toQt(m_texts.text(problem)));
+  if (const auto problem = TeamSheet::problem(fields); problem != TeamSheet::Problem::None) {
+    warn(toQt(m_texts.text(textOf(problem))));
     m_player->focusOn(problem);
     return false;
   }

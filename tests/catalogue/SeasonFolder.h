@@ -23,8 +23,7 @@ class SeasonFolder {
   void add(const std::string& name, const std::string& text) { (void)m_folder.write(name, text); }
 
   const GameCatalogue& scan(unsigned threads = 2, bool withSubfolders = false) {
-    ScanWatch watch;
-    m_outcome = m_catalogue.scan({m_folder.path(), withSubfolders, threads}, watch);
+    m_outcome = m_catalogue.scan({m_folder.path(), withSubfolders, threads});
     return m_catalogue;
   }
   ScanOutcome outcome() const { return m_outcome; }

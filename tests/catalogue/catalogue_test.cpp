@@ -100,17 +100,15 @@ TEST(Catalogue, FoldersThatAreNoneLeaveWhatWasThere) {
   season.addGame("one.GAM", "2026-01-01", kStart);
   FileSystem files;
   GameCatalogue catalogue(files);
-  ScanWatch watch;
+  const TaskWatch watch;
   ASSERT_EQ(catalogue.scan({season.folder().path()}, watch), ScanOutcome::Done);
-  EXPECT_EQ(watch.filesFound, 1U);
-  EXPECT_EQ(watch.filesRead, 1U);
+  EXPECT_EQ(watch.progress(), (TaskWatch::Progress{1, 1})) << "read and found";
   EXPECT_EQ(catalogue.scan({folder.path("missing")}, watch), ScanOutcome::FolderMissing);
   EXPECT_EQ(catalogue.scan({season.folder().path("one.GAM")}, watch), ScanOutcome::FolderMissing);
-  watch.isCancelled = true;
+  watch.cancel();
   EXPECT_EQ(catalogue.scan({folder.path()}, watch), ScanOutcome::Cancelled);
   EXPECT_EQ(catalogue.games().size(), 1U);
-  ScanWatch fresh;
-  EXPECT_EQ(catalogue.scan({folder.path()}, fresh), ScanOutcome::Done);
+  EXPECT_EQ(catalogue.scan({folder.path()}), ScanOutcome::Done);
   EXPECT_TRUE(catalogue.games().empty());
 }
 

@@ -35,7 +35,7 @@ class PageDecoderTest : public testing::Test {
     return folder.path(name);
   }
   ScannedPage decode(const std::string& path, int page = 0) const {
-    return PageDecoder().decode(path, page, isStopped);
+    return PageDecoder().decode(path, page, watch);
   }
   // With a shell script in the place of the process.
   PageDecoder scripted(const std::string& lines, std::chrono::seconds patience = 60s) const {
@@ -45,7 +45,7 @@ class PageDecoderTest : public testing::Test {
   }
 
   TemporaryFolder folder;
-  std::atomic<bool> isStopped = false;
+  TaskWatch watch;
 };
 
 TEST_F(PageDecoderTest, MakesFineScansCoarserAndKeepsTheirShades) {
@@ -110,7 +110,7 @@ TEST_F(PageDecoderTest, RefusesPicturesThatAreTooMuchOrNone) {
 
 TEST_F(PageDecoderTest, TellsWhyThereIsNoAnswer) {
   const std::string counted = "printf 'HTPG\\003\\000\\000\\000'\n";
-  const ScannedPage none = PageDecoder{folder.path("absent"), 60s}.decode("page.tif", 0, isStopped);
+  const ScannedPage none = PageDecoder{folder.path("absent"), 60s}.decode("page.tif", 0, watch);
   EXPECT_EQ(none.refusal.reason, Reason::CannotStart);
   EXPECT_EQ(none.refusal.number, ENOENT);
   const std::tuple<const char*, std::chrono::seconds, PageRefusal> scripts[] = {
@@ -123,7 +123,7 @@ TEST_F(PageDecoderTest, TellsWhyThereIsNoAnswer) {
       {"exec sleep 100", 1s, {Reason::TookTooLong, 1}},
       {"ulimit -S -t 1; while :; do :; done", 60s, {Reason::TookTooLong, DecoderLimits{}.processorSeconds}}};
   for (const auto& [lines, patience, refusal] : scripts) {
-    const ScannedPage page = scripted(counted + lines, patience).decode("page.tif", 0, isStopped);
+    const ScannedPage page = scripted(counted + lines, patience).decode("page.tif", 0, watch);
     EXPECT_EQ(page.refusal.reason, refusal.reason) << lines;
     EXPECT_EQ(page.refusal.number, refusal.number) << lines;
     EXPECT_EQ(page.pagesInFile, 3) << lines;
@@ -137,10 +137,10 @@ TEST_F(PageDecoderTest, EndsTheProcessAtOnceWhenItIsStopped) {
   const PageDecoder decoder = scripted("exec sleep 100");
   std::thread user([this] {
     std::this_thread::sleep_for(100ms);
-    isStopped = true;
+    watch.cancel();
   });
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(decoder.decode("page.tif", 0, isStopped).refusal.reason, Reason::Cancelled);
+  EXPECT_EQ(decoder.decode("page.tif", 0, watch).refusal.reason, Reason::Cancelled);
   EXPECT_LT(std::chrono::steady_clock::now() - start, 10s);
   user.join();
   EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "no process is left";
@@ -151,7 +151,7 @@ TEST_F(PageDecoderTest, GivesTheProcessNothingThatIsOpenHere) {
   ASSERT_TRUE(kept.open(QIODevice::WriteOnly));
   const int inherited = ::dup(kept.handle()); // not closed on exec
   ASSERT_GT(inherited, STDERR_FILENO);
-  (void)scripted("ls /proc/self/fd > " + folder.path("open")).decode("page.tif", 0, isStopped);
+  (void)scripted("ls /proc/self/fd > " + folder.path("open")).decode("page.tif", 0, watch);
   ::close(inherited);
   EXPECT_EQ(folder.read("open"), "0\n1\n2\n3\n") << "the last one is the folder that is listed";
 }

@@ -2,6 +2,7 @@
 #include "keypad/KeypadInput.h"
 #include "recording/FollowUpQuestion.h"
 #include "recording/LiveTable.h"
+#include "storage/Placeholders.h"
 #include "support/SharedGames.h"
 
 #include <set>
@@ -9,6 +10,7 @@
 namespace hooptab {
 namespace {
 
+using Problem = KeypadReason::Problem;
 using Outcome = KeypadInput::Outcome;
 using Kind = KeypadOrder::Kind;
 
@@ -151,9 +153,9 @@ TEST_F(KeypadInputTest, PlayersComeAndLeaveAndWhatDoesNotFitIsRefused) {
     press("+");
     return why;
   };
-  EXPECT_EQ(reason("0/<"), (KeypadReason{Text::CourtIsFull, {"PAN"}})) << "five are on court";
-  EXPECT_EQ(reason("12/<"), (KeypadReason{Text::OnCourtAlready, {"12", "PAN"}}));
-  EXPECT_EQ(reason("8*-"), (KeypadReason{Text::IsNotOnCourt, {"8", "OLY"}}));
+  EXPECT_EQ(reason("0/<").words(texts), "Five of PAN are on court: one must leave first");
+  EXPECT_EQ(reason("12/<"), (KeypadReason{Problem::OnCourtAlready, "12", "PAN"}));
+  EXPECT_EQ(reason("8*-"), (KeypadReason{Problem::NotOnCourt, "8", "OLY"}));
   press("12*<");
   press("00/<");
   press("22/-");
@@ -161,8 +163,8 @@ TEST_F(KeypadInputTest, PlayersComeAndLeaveAndWhatDoesNotFitIsRefused) {
   press("0<");
   EXPECT_EQ(live.onCourt()[0], 0U);
   EXPECT_NE(live.onCourt()[1], 0U);
-  EXPECT_EQ(reason("0<"), (KeypadReason{Text::NobodyIsOnCourt, {"PAN"}}));
-  EXPECT_EQ(reason("120<").text, Text::AllAlone);
+  EXPECT_EQ(reason("0<").words(texts), "Nobody of PAN is on court");
+  EXPECT_EQ(reason("120<").words(texts), texts.text(Text::AllAlone));
 }
 
 TEST_F(KeypadInputTest, AKeyOfInOrOutBetweenTwoNumbersExchangesThemInOneStep) {
@@ -197,7 +199,7 @@ TEST_F(KeypadInputTest, WithoutTheBoundKeysTheLineIsLeft) {
   for (const char* keys : {"1", "0", "+", "E", "-", ".", "|\n", "|\b", "|\x1b"})
     EXPECT_EQ(press(keys), Outcome::NotMine) << keys;
   EXPECT_EQ(press("|129\n"), Outcome::Refused);
-  EXPECT_EQ(input.reason(), KeypadReason{Text::NoShotKind}) << "a digit of a shot, and no foul";
+  EXPECT_EQ(input.reason(), KeypadReason{Problem::NoShotKind}) << "a digit of a shot, and no foul";
   EXPECT_EQ(press("|123X\b\n"), Outcome::Confirmed);
 }
 
@@ -238,35 +240,36 @@ GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(KeypadOfRealGames);
 INSTANTIATE_TEST_SUITE_P(RealGames, KeypadOfRealGames, testing::ValuesIn(sharedFolders("games")));
 
 TEST_F(KeypadInputTest, WhatIsNotUnderstoodIsSaidAndNothingIsRecorded) {
-  const std::pair<KeypadReason, std::vector<const char*>> cases[] = {
-      {{Text::NothingTyped}, {"<"}},
-      {{Text::NumberMissing}, {"9<", ".<", ".2<", "..2-"}},
-      {{Text::NoShotKind}, {".129<", ".128<", ".120<"}},
-      {{Text::InputNotUnderstood}, {"...122<", "1/29/<", ".1/2<"}},
-      {{Text::TooManyKeys}, {"123456789"}},
-      {{Text::IsNotOnCourt, {"00", "PAN"}}, {"00*12<"}},
-      {{Text::OnCourtAlready, {"5", "PAN"}}, {"12*5<"}},
-      {{Text::SameTwice, {"12"}}, {"12*012<"}},
-      {{Text::NoSuchPlayer, {"99", "PAN", "OLY"}}, {"12*99<", "999<"}},
-      {{Text::NoSuchPlayer, {"22", "PAN", "OLY"}}, {"12*22<"}}, // no team has both
-      {{Text::OnlyInOtherTeam, {"7", "PAN", "OLY"}}, {"7*22<"}},
-      {{Text::OnlyInOtherTeam, {"22", "PAN", "OLY"}}, {"229<"}},
-      {{Text::OnlyInOtherTeam, {"12", "OLY", "PAN"}}, {"129-"}},
+  const std::tuple<KeypadReason, Text, std::vector<const char*>> cases[] = {
+      {{Problem::NothingTyped}, Text::NothingTyped, {"<"}},
+      {{Problem::NumberMissing}, Text::NumberMissing, {"9<", ".<", ".2<", "..2-"}},
+      {{Problem::NoShotKind}, Text::NoShotKind, {".129<", ".128<", ".120<"}},
+      {{Problem::NotUnderstood}, Text::InputNotUnderstood, {"...122<", "1/29/<", ".1/2<"}},
+      {{Problem::TooManyKeys}, Text::TooManyKeys, {"123456789"}},
+      {{Problem::NotOnCourt, "00", "PAN"}, Text::IsNotOnCourt, {"00*12<"}},
+      {{Problem::OnCourtAlready, "5", "PAN"}, Text::OnCourtAlready, {"12*5<"}},
+      {{Problem::SameTwice, "12"}, Text::SameTwice, {"12*012<"}},
+      {{Problem::NoSuchPlayer, "99", "PAN", "OLY"}, Text::NoSuchPlayer, {"12*99<", "999<"}},
+      {{Problem::NoSuchPlayer, "22", "PAN", "OLY"}, Text::NoSuchPlayer, {"12*22<"}}, // no team has both
+      {{Problem::OnlyInOtherTeam, "7", "PAN", "OLY"}, Text::OnlyInOtherTeam, {"7*22<"}},
+      {{Problem::OnlyInOtherTeam, "22", "PAN", "OLY"}, Text::OnlyInOtherTeam, {"229<"}},
+      {{Problem::OnlyInOtherTeam, "12", "OLY", "PAN"}, Text::OnlyInOtherTeam, {"129-"}},
   };
   const std::size_t before = lines().size();
-  for (const auto& [reason, inputs] : cases) {
+  for (const auto& [reason, text, inputs] : cases) {
     for (const char* keys : inputs) {
       SCOPED_TRACE(keys);
       EXPECT_EQ(press(keys), Outcome::Refused);
       EXPECT_EQ(input.reason(), reason);
-      EXPECT_EQ(input.reason()->words(texts).find("XXX"), std::string::npos);
+      EXPECT_EQ(input.reason()->words(texts),
+                withPlaceholders(texts.text(text), reason.jersey, reason.team, reason.otherTeam));
       EXPECT_EQ(press("+"), Outcome::Cleared);
       EXPECT_TRUE(input.isEmpty() && !input.reason());
     }
   }
   EXPECT_EQ(press("|12"), Outcome::Typed);
   EXPECT_EQ(press("<"), Outcome::Refused) << "on the keypad a digit of the upper row is never a shot";
-  EXPECT_EQ(input.reason(), KeypadReason{Text::ActionMissing});
+  EXPECT_EQ(input.reason()->words(texts), "Action key missing");
   EXPECT_EQ(lines().size(), before);
   press("+");
   // What was refused can be confirmed for the other team, or something new begins.
@@ -285,7 +288,7 @@ TEST_F(KeypadInputTest, TheMainTeamIsThatOfTheGame) {
   press("129-");
   EXPECT_EQ(lastLine(), "10:00,SPF,0-12");
   press("|12F\n");
-  EXPECT_EQ(input.reason(), (KeypadReason{Text::OnlyInOtherTeam, {"12", "OLY", "PAN"}}));
+  EXPECT_EQ(input.reason(), (KeypadReason{Problem::OnlyInOtherTeam, "12", "OLY", "PAN"}));
 }
 
 TEST_F(KeypadInputTest, ALineOfTheMainKeyboardEndsWithEnter) {
@@ -372,7 +375,7 @@ TEST_F(KeypadInputTest, AClosedGameTakesNothing) {
   live.finish("");
   const std::size_t before = lines().size();
   EXPECT_EQ(press("129<"), Outcome::Refused);
-  EXPECT_EQ(input.reason(), KeypadReason{Text::GameIsClosed});
+  EXPECT_EQ(input.reason()->words(texts), texts.text(Text::GameIsClosed));
   EXPECT_EQ(lines().size(), before);
 }
 

@@ -28,8 +28,7 @@ class SeasonDeskTest : public testing::Test {
   }
   std::shared_ptr<const GameCatalogue> scanned(const SeasonFolder& of) {
     auto catalogue = std::make_shared<GameCatalogue>(files);
-    ScanWatch watch;
-    EXPECT_EQ(catalogue->scan({of.folder().path(), false, 1}, watch), ScanOutcome::Done);
+    EXPECT_EQ(catalogue->scan({of.folder().path(), false, 1}), ScanOutcome::Done);
     return catalogue;
   }
   void readAndGenerate() {

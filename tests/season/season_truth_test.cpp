@@ -40,8 +40,7 @@ TEST_P(OfficialSeason, EveryPlayersCountersAreTheSumsOfTheOfficialBoxes) {
   }
   FileSystem files;
   GameCatalogue catalogue(files);
-  ScanWatch watch;
-  ASSERT_EQ(catalogue.scan({folder.path()}, watch), ScanOutcome::Done);
+  ASSERT_EQ(catalogue.scan({folder.path()}), ScanOutcome::Done);
   const SeasonStatistics statistics(catalogue, catalogue.select({}), {});
   for (const SeasonRow& row : statistics.players()) {
     auto& sums = ours[catalogue.teams()[row.team].abbreviation + "|" + row.number];
@@ -227,8 +226,7 @@ TEST(SimulatedSeason, TablesAgreeWithASlowCountOfTheEventLines) {
     plain.add(folder.read(name));
   }
   GameCatalogue catalogue(files);
-  ScanWatch watch;
-  ASSERT_EQ(catalogue.scan({folder.path()}, watch), ScanOutcome::Done);
+  ASSERT_EQ(catalogue.scan({folder.path()}), ScanOutcome::Done);
   ASSERT_EQ(std::ssize(catalogue.games()), kGames);
   const SeasonStatistics statistics(catalogue, catalogue.select({}), {});
   EXPECT_EQ(statistics.players().size(), plain.players.size());
@@ -244,7 +242,7 @@ TEST(SimulatedSeason, TablesAgreeWithASlowCountOfTheEventLines) {
   // The same on one thread and on four: chance decides nothing.
   for (const unsigned threads : {1U, 4U}) {
     GameCatalogue other(files);
-    ASSERT_EQ(other.scan({folder.path(), false, threads}, watch), ScanOutcome::Done);
+    ASSERT_EQ(other.scan({folder.path(), false, threads}), ScanOutcome::Done);
     ASSERT_EQ(other.games().size(), catalogue.games().size());
     for (std::size_t i = 0; i < other.games().size(); ++i) {
       EXPECT_EQ(other.games()[i].path, catalogue.games()[i].path);

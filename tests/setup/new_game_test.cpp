@@ -1,4 +1,4 @@
-#include "setup/NewGame.h"
+#include "setup/SetupWords.h"
 
 #include "storage/codepage.h"
 #include "support/FaultyFileSystem.h"
@@ -9,6 +9,9 @@
 
 namespace hooptab {
 namespace {
+
+using Problem = NewGame::Problem;
+using Objection = NewGame::Objection;
 
 constexpr const char* kToday = "2026-11-21";
 
@@ -130,20 +133,23 @@ TEST_F(NewGameTest, NumbersAloneMakeTheSideAndLeaveTheTeam) {
       text += (player.isChecked ? "+" : "-") + player.number + ' ' + player.name + '|';
     return text;
   };
-  EXPECT_EQ(game.takeNumbers(0, "23 004 7").problem, Text::None);
+  const auto added = [&](int side, std::string_view number, std::string_view name) {
+    return wordsOf(game.addPlayer(side, number, name), texts);
+  };
+  EXPECT_EQ(game.takeNumbers(0, "23 004 7").problem, QuickRoster::Problem::None);
   EXPECT_EQ(shown(), "+4 Ann Able|-00 Bea Baker|-1234 Cleo Carter|-AB Dana Dunn|-4 Eve Ellis|+23 |+7 |");
   const std::string chosen = shown();
   for (const char* wrong : {"4 x", "7 07", " "})
     EXPECT_EQ(game.takeNumbers(0, wrong).jerseys.size(), 0U);
-  EXPECT_EQ(game.addPlayer(0, "x", ""), texts.text(Text::InvalidNumber));
-  EXPECT_EQ(game.addPlayer(0, "04", "Zoë"), "Number 04 is worn by 4 Ann Able.");
-  EXPECT_EQ(game.addPlayer(0, "8", std::string(260, 'W')), texts.text(Text::NameTooLong));
+  EXPECT_EQ(added(0, "x", ""), texts.text(Text::InvalidNumber));
+  EXPECT_EQ(added(0, "04", "Zoë"), "Number 04 is worn by 4 Ann Able.");
+  EXPECT_EQ(added(0, "8", std::string(260, 'W')), texts.text(Text::NameTooLong));
   EXPECT_EQ(shown(), chosen) << "nothing of what is wrong";
-  EXPECT_EQ(game.addPlayer(0, " 9 ", " Zoë "), "");
-  EXPECT_EQ(game.takeNumbers(0, "00,7").problem, Text::None);
+  EXPECT_EQ(added(0, " 9 ", " Zoë "), "");
+  EXPECT_EQ(game.takeNumbers(0, "00,7").problem, QuickRoster::Problem::None);
   EXPECT_EQ(shown(), "-4 Ann Able|+00 Bea Baker|-1234 Cleo Carter|-AB Dana Dunn|-4 Eve Ellis|-9 Zoë|+7 |");
   game.chooseTeam(1, 1);
-  EXPECT_EQ(game.takeNumbers(1, "1").problem, Text::None);
+  EXPECT_EQ(game.takeNumbers(1, "1").problem, QuickRoster::Problem::None);
   ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
   EXPECT_TRUE(holds("a.GAM", "[0]\r\n00=2,Bea Baker\r\n7=9,\r\n[1]\r\n1=9,Player 1\r\n"));
   EXPECT_EQ(folder.read("CONFIG.INI").substr(folder.read("CONFIG.INI").find("[TEAM]")),
@@ -153,9 +159,9 @@ TEST_F(NewGameTest, NumbersAloneMakeTheSideAndLeaveTheTeam) {
 TEST_F(NewGameTest, AGameNeedsNoTeamOfTheList) {
   folder.write("CONFIG.INI", "[CONFIGURATION]\r\nLANGUE=0\r\n");
   NewGame game = made();
-  EXPECT_EQ(game.takeNumbers(0, "4 5").problem, Text::None);
-  EXPECT_EQ(game.addPlayer(1, "7", "Zoë"), "");
-  EXPECT_TRUE(game.missing() == Text::None && game.problem() == Text::None);
+  EXPECT_EQ(game.takeNumbers(0, "4 5").problem, QuickRoster::Problem::None);
+  EXPECT_EQ(game.addPlayer(1, "7", "Zoë").problem, NewGame::AddedPlayer::Problem::None);
+  EXPECT_TRUE(game.canAccept() && game.problem() == Objection());
   EXPECT_NE(game.sides[0].colour, game.sides[1].colour);
 
   const std::pair<const char*, const char*> names[] = {{"", "HOME"},
@@ -190,29 +196,33 @@ TEST_F(NewGameTest, AGameNeedsNoTeamOfTheList) {
   EXPECT_EQ(game.choices().teamId[1], 0) << "the next game does not find it again";
   game.chooseTeam(0, 1);
   EXPECT_EQ(game.sides[0].name, "Home") << "by its position as any other";
-  EXPECT_EQ(game.problem(), Text::SameTeam);
+  EXPECT_EQ(game.problem(), (Objection{Problem::SameTeam}));
 }
 
 TEST_F(NewGameTest, IsAcceptedOnceEverythingIsChosen) {
   const struct {
     void (*spoil)(NewGame&);
-    Text missing;
+    Objection missing;
+    Text text;
   } cases[] = {
-      {[](NewGame&) {}, Text::None},
-      {[](NewGame& g) { g.sides[0].team = NewGame::kNone; }, Text::ChooseTeams},
-      {[](NewGame& g) { g.sides[1].team = NewGame::kNone; }, Text::ChooseTeams},
-      {[](NewGame& g) { g.date.clear(); }, Text::EnterDate},
-      {[](NewGame& g) { g.gameType = NewGame::kNone; }, Text::ChooseGameType},
-      {[](NewGame& g) { g.inputType = NewGame::kNone; }, Text::ChooseInputType},
-      {[](NewGame& g) { g.inputType = 1, g.mainTeam = NewGame::kNone; }, Text::ChooseMainTeam},
-      {[](NewGame& g) { g.inputType = 1, g.mainTeam = 0; }, Text::None},
-      {[](NewGame& g) { g.inputType = 2, g.mainTeam = NewGame::kNone; }, Text::None},
+      {[](NewGame&) {}, {}, Text::None},
+      {[](NewGame& g) { g.sides[0].team = NewGame::kNone; }, {Problem::NoTeam, 0}, Text::ChooseTeams},
+      {[](NewGame& g) { g.sides[1].team = NewGame::kNone; }, {Problem::NoTeam, 1}, Text::ChooseTeams},
+      {[](NewGame& g) { g.date.clear(); }, {Problem::NoDate}, Text::EnterDate},
+      {[](NewGame& g) { g.gameType = NewGame::kNone; }, {Problem::NoGameType}, Text::ChooseGameType},
+      {[](NewGame& g) { g.inputType = NewGame::kNone; }, {Problem::NoInputType}, Text::ChooseInputType},
+      {[](NewGame& g) { g.inputType = 1, g.mainTeam = NewGame::kNone; },
+       {Problem::NoMainTeam},
+       Text::ChooseMainTeam},
+      {[](NewGame& g) { g.inputType = 1, g.mainTeam = 0; }, {}, Text::None},
+      {[](NewGame& g) { g.inputType = 2, g.mainTeam = NewGame::kNone; }, {}, Text::None},
   };
   for (const auto& c : cases) {
     NewGame game = ready();
     c.spoil(game);
     EXPECT_EQ(game.missing(), c.missing) << &c - cases;
-    EXPECT_EQ(game.canAccept(), c.missing == Text::None);
+    EXPECT_EQ(textOf(game.missing()), c.text) << &c - cases;
+    EXPECT_EQ(game.canAccept(), c.text == Text::None);
   }
 }
 
@@ -241,11 +251,11 @@ TEST_F(NewGameTest, TellsTheFirstThingThatIsWrong) {
       {Text::None, [](NewGame&) {}},
   };
   for (const auto& c : cases) {
-    EXPECT_EQ(game.problem(), c.problem) << &c - cases;
+    EXPECT_EQ(textOf(game.problem()), c.problem) << &c - cases;
     c.mend(game);
   }
   game.rules.minutesPerPeriod = "0";
-  EXPECT_EQ(game.problem(), Text::None) << "a game without time";
+  EXPECT_EQ(game.problem(), Objection()) << "a game without time";
 }
 
 TEST_F(NewGameTest, ProposesANameThatEveryFileSystemTakes) {

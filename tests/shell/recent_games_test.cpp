@@ -19,11 +19,11 @@ class RecentGamesTest : public testing::Test {
                             "\r\n[0]\r\n4=1,Ann\r\n[1]\r\n5=1,Bo\r\n[PERIODE1]\r\n1=10:00,ARRET,IN-,IN-\r\n"
                             "2=09:10,GF3,0-4\r\n3=E08:00,GFG,1-5\r\n[PERIODE3]\r\n4=00:41,GFG,1-5\r\n");
   }
-  RecentGames read(const std::vector<std::string>& paths) { return readRecentGames(disk, paths, isGivenUp); }
+  RecentGames read(const std::vector<std::string>& paths) { return readRecentGames(disk, paths, watch); }
 
   TemporaryFolder folder;
   FileSystem disk;
-  std::atomic<bool> isGivenUp = false;
+  TaskWatch watch;
 };
 
 TEST_F(RecentGamesTest, TheFirstGameThatGoesOnStandsApartAndTheOthersKeepTheirOrder) {
@@ -66,7 +66,7 @@ TEST_F(RecentGamesTest, AFewAreReadAndNoneOnceThePageIsGone) {
   const RecentGames games = read(paths);
   ASSERT_EQ(games.others.size(), RecentGames::kMostOthers);
   EXPECT_EQ(games.others.back().path, paths[11]);
-  isGivenUp = true;
+  watch.cancel();
   EXPECT_EQ(read(paths), RecentGames());
 }
 

@@ -64,21 +64,22 @@ TEST_F(TeamSheetTest, APlayerIsRenumberedByNameAndRenamedByNumber) {
 }
 
 TEST_F(TeamSheetTest, WhatStandsAgainstAddingComesInOrder) {
+  using Problem = TeamSheet::Problem;
   PlayerFields fields;
-  EXPECT_EQ(TeamSheet::problem(fields), Text::InvalidNumber);
+  EXPECT_EQ(TeamSheet::problem(fields), Problem::NoJersey);
   for (const char* number : {"x", "-1", "1234", "1.5", "A1"}) {
     fields.number = number;
-    EXPECT_EQ(TeamSheet::problem(fields), Text::InvalidNumber) << number;
+    EXPECT_EQ(TeamSheet::problem(fields), Problem::NoJersey) << number;
   }
   fields.number = "00";
-  EXPECT_EQ(TeamSheet::problem(fields), Text::NoPositionChosen);
+  EXPECT_EQ(TeamSheet::problem(fields), Problem::NoPosition);
   fields.position = 9;
   fields.name = " ";
-  EXPECT_EQ(TeamSheet::problem(fields), Text::NoName);
+  EXPECT_EQ(TeamSheet::problem(fields), Problem::NoName);
   fields.name = std::string(247, 'n');
-  EXPECT_EQ(TeamSheet::problem(fields), Text::None) << "254 with position and commas";
+  EXPECT_EQ(TeamSheet::problem(fields), Problem::None) << "254 with position and commas";
   fields.age = "1";
-  EXPECT_NE(TeamSheet::problem(fields), Text::None);
+  EXPECT_EQ(TeamSheet::problem(fields), Problem::TooLong);
 }
 
 TEST_F(TeamSheetTest, RemovedAndSortedPlayers) {
