@@ -89,7 +89,8 @@ void frmEDIT::makeFields() {
     for (int entry = 1; entry < kEntries; ++entry) {
       const RosterPlayer* player = m_game.roster[team].player(entry);
       if (player != nullptr)
-        m_player->addItem(toQt(words.team(team)) + u' ' + toQt(words.player({team, player->jersey})),
+        m_player->addItem(toQt(words.team(team)) + u' ' +
+                              toQt(words.player(PlayerReference::of(team, player->jersey))),
                           team * kEntries + entry);
     }
   }
