@@ -43,7 +43,7 @@ void showAll() {
 
 int measureWindow(int events, const std::filesystem::path& folder) {
   TimedFileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   Texts texts;
   Settings settings(store, folder.string());
   settings.asksRebounds = false;

@@ -8,6 +8,7 @@
 #include "game/GameFile.h"
 #include "game/GameMerge.h"
 #include "storage/FileGuard.h"
+#include "storage/PendingWrites.h"
 
 #include <functional>
 #include <map>
@@ -32,10 +33,10 @@ class GameOnDisk {
  public:
   using Values = std::vector<std::pair<std::string, std::string>>; // keys and their values
 
-  explicit GameOnDisk(cinifile& store) : m_guard(store, isGame), m_store(store) {}
+  explicit GameOnDisk(ProfileStore& store) : m_guard(store, isGame), m_store(store) {}
 
-  // The game that the store has just read.
-  void open(const std::string& path);
+  // The game whose file was just read so.
+  void open(const std::string& path, const ProfileText& text);
   // Where a copy of everything goes while the file cannot be written; empty for nowhere.
   void setRescueFolder(std::string folder) { m_rescueFolder = std::move(folder); }
   // Asked before each write: false when somebody else writes this file now. From then on nothing more goes
@@ -52,8 +53,9 @@ class GameOnDisk {
   // Looks at the file, brings it back to what was recorded, and writes what waits.
   bool settle(const EventLines& all);
 
-  bool isOnDisk() const { return m_waiting == 0; }
-  std::size_t waiting() const { return m_waiting; }            // changes
+  bool isOnDisk() const { return m_pending.isEmpty(); }
+  std::size_t waiting() const { return m_pending.size(); } // changes
+  const PendingWrites& pending() const { return m_pending; }
   bool isLost() const { return m_isLost; }                     // somebody else writes this file
   const std::string& rescuedAs() const { return m_rescuedAs; } // empty without a rescue file
 
@@ -67,10 +69,10 @@ class GameOnDisk {
   bool writeCopy(const std::string& path, const EventLines& all);
 
  private:
-  bool settleFound(const EventLines& all, FileGuard::Found found);
-  bool writeSteps(const EventLines& all);
-  bool bringTogether(const EventLines& all);
-  bool rewrite(const EventLines& all);
+  WriteResult settleFound(const EventLines& all, FileGuard::Found found);
+  WriteResult writeSteps(const EventLines& all);
+  WriteResult bringTogether(const EventLines& all);
+  WriteResult rewrite(const EventLines& all);
   void noteWhatWasKept();
   void rescue(const EventLines& all);
   void note(std::string_view section, const Values& values);
@@ -79,7 +81,7 @@ class GameOnDisk {
   ProfileBatch whole(const EventLines& all) const;
 
   FileGuard m_guard;
-  cinifile& m_store;
+  ProfileStore& m_store;
   std::string m_rescueFolder;
   std::string m_rescuedAs;
   std::size_t m_rescuedChanges = 0;
@@ -94,8 +96,8 @@ class GameOnDisk {
     bool isWaiting = true;
   };
   std::map<std::pair<std::string, std::string>, Value>
-      m_values; // by section and key; set since the game was opened
-  std::size_t m_waiting = 0;
+      m_values;            // by section and key; set since the game was opened
+  PendingWrites m_pending; // counts the changes
   ForeignHands m_foreign;
 };
 

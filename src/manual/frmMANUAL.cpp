@@ -42,7 +42,7 @@ constexpr int kShotShare = 3;
 
 } // namespace
 
-frmMANUAL::frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
+frmMANUAL::frmMANUAL(ProfileStore& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
                      QWidget* parent)
     : ChildWindow(parent), m_settings(settings), m_texts(texts), m_dialogs(dialogs), m_game(store),
       m_hold(new GameHold(store.files(), texts, dialogs, *this)), m_notice(noticeLabel(this)),

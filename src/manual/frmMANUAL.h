@@ -33,7 +33,7 @@ class frmMANUAL : public ChildWindow {
   Q_OBJECT
  public:
   // All must outlive it.
-  frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
+  frmMANUAL(ProfileStore& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
             QWidget* parent = nullptr);
 
   // A game that is recorded elsewhere, or cannot be written, is shown for reading. A lock that was taken

@@ -33,7 +33,7 @@ bool isStop(const std::string& line) {
 
 } // namespace
 
-LiveGame::LiveGame(cinifile& store, TimeSource& time) : m_log(store), m_time(time) {}
+LiveGame::LiveGame(ProfileStore& store, TimeSource& time) : m_log(store), m_time(time) {}
 
 GameFileProblem LiveGame::open(const std::string& path, Access access) {
   if (const GameFileProblem problem = m_log.open(path); problem != GameFileProblem::None)

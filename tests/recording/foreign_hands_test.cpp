@@ -30,7 +30,7 @@ class ForeignHandsTest : public LiveTableTest {
   std::string found() { return found(path); }
   std::string found(const std::string& file) {
     FileSystem own;
-    cinifile fresh(own);
+    ProfileStore fresh(own);
     EventLines read;
     EXPECT_EQ(GameFile(fresh, file).readLines(read), GameFileProblem::None);
     std::string text;
@@ -41,7 +41,7 @@ class ForeignHandsTest : public LiveTableTest {
   // What is counted here is what anybody finds who opens the file.
   void expectTruth() {
     FileSystem own;
-    cinifile fresh(own);
+    ProfileStore fresh(own);
     Game game;
     ASSERT_EQ(GameFile(fresh, path).read(game), GameFileProblem::None);
     ASSERT_EQ(game.events.size(), live.game().events.size());

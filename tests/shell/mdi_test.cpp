@@ -22,6 +22,7 @@
 #include "shell/InstanceLock.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
+#include "storage/cinifile.h"
 #include "support/ScriptedDialogs.h"
 #include "teams/frmEQUIPES.h"
 
@@ -147,15 +148,16 @@ class MainWindowTest : public testing::Test {
   QList<frmVIEW*> scorecards() { return area().findChildren<frmVIEW*>(); }
   QString text(Text number) { return toQt(texts.text(number)); }
   std::string setting(const char* key) {
-    store.Path(settings->path());
-    store.Section("CONFIGURATION");
-    store.Key(key);
-    return store.Value();
+    cinifile file(store);
+    file.Path(settings->path());
+    file.Section("CONFIGURATION");
+    file.Key(key);
+    return file.Value();
   }
 
   QTemporaryDir programFolder, games, installed;
   FileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   Texts texts;
   ScriptedDialogs dialogs;
   SystemTime time;
