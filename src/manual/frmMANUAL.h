@@ -6,10 +6,10 @@
 #include "appearance/ChildWindow.h"
 #include "appearance/GameHold.h"
 #include "appearance/WidgetsFirst.h"
+#include "appearance/WriteRetry.h"
 #include "totals/ManualColumns.h"
 #include "totals/ManualGame.h"
 
-#include <QTimer>
 #include <QUndoStack>
 
 class QComboBox;
@@ -81,6 +81,7 @@ class frmMANUAL : public ChildWindow {
   void showPlayer();
   void showTeams();
   void showDisk();
+  void showBanner();
   QString diskWords() const; // empty when all is well
   void settle();
   void tellForeignHands();
@@ -97,7 +98,7 @@ class frmMANUAL : public ChildWindow {
   int m_team = 0;
   ManualTotals m_before; // the totals before the change that is being made
   QUndoStack m_changes;
-  QTimer m_retryOfWrites;
+  WriteRetry m_retry;
 
   QLabel* m_notice = nullptr; // lines that the table does not show
   QLabel* m_banner = nullptr; // not on disk, or for reading only

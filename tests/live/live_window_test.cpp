@@ -245,6 +245,7 @@ TEST_F(LiveWindowTest, AFolderThatIsGoneForAWhileLosesNothing) {
     press(name);
   }
   EXPECT_TRUE(find("lblNOTONDISK").isVisible());
+  EXPECT_EQ(find("lblNOTONDISK").toolTip(), toQt(texts.withPlaceholder(Text::WhyPlaceGone, path)));
   EXPECT_EQ(label("lblFAUTE(0)"), "1") << "input goes on";
   toggleClock();
   dialogs.nextAnswer = false;

@@ -816,6 +816,8 @@ TEST_F(MainWindowTest, SaysWhatIsNotOnDiskAndWritesItWhenItCan) {
   action("tbLANGUE").trigger();
   EXPECT_TRUE(unsaved.isVisible());
   EXPECT_FALSE(unsaved.text().isEmpty());
+  EXPECT_EQ(unsaved.accessibleDescription(),
+            toQt(texts.withPlaceholder(Text::WhyNotPermitted, settings->path())));
   EXPECT_EQ(texts.language(), Language::French) << "the choice counts all the same";
   EXPECT_EQ(setting("LANGUE"), "0");
   EXPECT_FALSE(window->close()) << "the user stays";
