@@ -45,7 +45,7 @@ void appendEvent(benchmark::State& state) {
   const std::filesystem::path path = folder() / "append.GAM";
   std::filesystem::copy_file(gameToMeasure(), path, std::filesystem::copy_options::overwrite_existing);
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   GameFile file(store, path.string());
   const int number = file.nextNumber();
   int clock = 0;

@@ -10,7 +10,7 @@ namespace {
 
 void measureCore(int events, const std::filesystem::path& folder) {
   UnsyncedFileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   StandingTime time;
   LiveGame live(store, time);
   if (live.open(liveGameOf(events, folder)) != GameFileProblem::None || !putFiveOnCourt(live))

@@ -2,7 +2,7 @@
 
 #include "simulator/GameSimulator.h"
 #include "simulator/SampleTeams.h"
-#include "storage/cinifile.h"
+#include "storage/ProfileStore.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -18,9 +18,8 @@ std::string gameToMeasure() {
   const SimulatedGame game = GameSimulator(teams[0], teams[1], 7).play();
   std::filesystem::remove(path);
   FileSystem files;
-  cinifile store(files);
-  store.Path(path);
-  if (!store.write(game.batch()))
+  ProfileStore store(files);
+  if (!store.write(path, game.batch()).isOnDisk())
     throw std::runtime_error("cannot write " + path);
   return path;
 }

@@ -45,7 +45,7 @@ void showAll() {
 
 int measureWindow(int events, const std::filesystem::path& folder) {
   TimedFileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   Texts texts;
   Settings settings(store, folder.string());
   settings.asksRebounds = false;
@@ -96,7 +96,7 @@ int measureWindow(int events, const std::filesystem::path& folder) {
 
 int measureList(int events, const std::filesystem::path& folder) {
   UnsyncedFileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   const Texts texts;
   StandingTime time;
   LiveGame live(store, time);

@@ -44,9 +44,8 @@ std::string liveGameOf(int events, const std::filesystem::path& folder) {
   const std::string path = folder / ("live-" + std::to_string(events) + ".GAM");
   std::filesystem::remove(path);
   UnsyncedFileSystem files;
-  cinifile store(files);
-  store.Path(path);
-  if (!store.write(game.batch())) {
+  ProfileStore store(files);
+  if (!store.write(path, game.batch()).isOnDisk()) {
     std::fprintf(stderr, "cannot write %s\n", path.c_str());
     std::exit(EXIT_FAILURE);
   }

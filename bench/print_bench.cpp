@@ -69,7 +69,7 @@ class UnsyncedFileSystem : public FileSystem {
 // As many teams as make so many players, each against the next one, four times.
 void writeSeason(const std::string& folder) {
   UnsyncedFileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   const auto samples = sampleTeams();
   std::vector<SampleTeam> teams;
   for (std::size_t players = 0; players < kPlayers; players += teams.back().players.size()) {
@@ -79,8 +79,10 @@ void writeSeason(const std::string& folder) {
   for (std::size_t game = 0; game < 4 * teams.size(); ++game) {
     const SampleTeam& visitors = teams[game % teams.size()];
     const SampleTeam& home = teams[(game + 1) % teams.size()];
-    store.Path(folder + "/" + std::to_string(game) + ".GAM");
-    if (!store.write(GameSimulator(visitors, home, game).play().batch()))
+    if (!store
+             .write(folder + "/" + std::to_string(game) + ".GAM",
+                    GameSimulator(visitors, home, game).play().batch())
+             .isOnDisk())
       std::exit(EXIT_FAILURE);
   }
 }
@@ -149,7 +151,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QTemporaryDir folder;
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   Texts texts;
   Settings settings(store, fromQt(folder.path()));
 

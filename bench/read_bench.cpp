@@ -40,7 +40,7 @@ void readAndTally(benchmark::State& state) {
   GameState counters;
   int points = 0;
   for (auto _ : state) {
-    cinifile store(files);
+    ProfileStore store(files);
     Game game;
     if (GameFile(store, gamePath()).read(game) != GameFileProblem::None)
       state.SkipWithError("cannot read the game");
@@ -54,7 +54,7 @@ BENCHMARK(readAndTally);
 
 void tallyAlone(benchmark::State& state) {
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   Game game;
   if (GameFile(store, gamePath()).read(game) != GameFileProblem::None)
     state.SkipWithError("cannot read the game");

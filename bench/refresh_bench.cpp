@@ -17,7 +17,7 @@ void refreshScorecard(benchmark::State& state) {
   const auto path = std::filesystem::temp_directory_path() / "hooptab-bench-refresh.GAM";
   std::filesystem::copy_file(gameToMeasure(), path, std::filesystem::copy_options::overwrite_existing);
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   Texts texts;
   Settings settings(store, std::filesystem::temp_directory_path().string());
   frmVIEW view(store, settings, texts);

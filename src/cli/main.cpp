@@ -169,7 +169,7 @@ class Program {
   Texts m_texts;
   Output m_output;
   FileSystem m_files;
-  cinifile m_store{m_files};
+  ProfileStore m_store{m_files};
   JsonWriter m_json; // of all files that are verified
   int m_status = kGood;
 };

@@ -1,6 +1,7 @@
 #include "game/GameFile.h"
 
 #include "storage/Module1.h"
+#include "storage/cinifile.h"
 #include "storage/codepage.h"
 
 #include <algorithm>
@@ -230,47 +231,47 @@ bool isGameName(std::string_view name) {
                             [](char left, char right) { return (left | 0x20) == (right | 0x20); });
 }
 
-GameFile::GameFile(cinifile& store, std::string path) : m_store(store), m_path(std::move(path)) {}
+GameFile::GameFile(ProfileStore& store, std::string path) : m_store(store), m_path(std::move(path)) {}
 
-GameFileProblem GameFile::open(const ProfileText*& text) {
-  m_store.Path(m_path);
-  text = &m_store.profile();
-  switch (m_store.readOutcome()) {
+GameFileProblem GameFile::open() {
+  m_read = m_store.read(m_path);
+  switch (m_read.outcome) {
   case ReadOutcome::Absent: return GameFileProblem::Absent;
   case ReadOutcome::TooLarge: return GameFileProblem::TooLarge;
   case ReadOutcome::Failed: return GameFileProblem::Unreadable;
   case ReadOutcome::Read: break;
   }
-  return isGame(*text) ? GameFileProblem::None : GameFileProblem::InvalidFormat;
+  return isGame(text()) ? GameFileProblem::None : GameFileProblem::InvalidFormat;
 }
 
 // Every batch is decided upon what the file holds, which has been read just before.
 GameFileProblem GameFile::write(const ProfileBatch& batch) {
-  return m_store.writeBehindReading(batch) ? GameFileProblem::None : GameFileProblem::WriteFailed;
+  const ProfileWrite written = m_store.write(m_path, batch, m_read);
+  if (!written.isOnDisk())
+    return GameFileProblem::WriteFailed;
+  m_read = written.left();
+  return GameFileProblem::None;
 }
 
 GameFileProblem GameFile::validate() {
-  const ProfileText* text = nullptr;
-  return open(text);
+  return open();
 }
 
 GameFileProblem GameFile::read(Game& game) {
-  const ProfileText* text = nullptr;
-  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
+  if (const GameFileProblem problem = open(); problem != GameFileProblem::None)
     return problem;
   Game fresh;
   fresh.path = m_path;
-  readGame(*text, fresh);
+  readGame(text(), fresh);
   game = std::move(fresh);
   return GameFileProblem::None;
 }
 
 GameFileProblem GameFile::readDetails(GameDetails& details) {
-  const ProfileText* text = nullptr;
-  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
+  if (const GameFileProblem problem = open(); problem != GameFileProblem::None)
     return problem;
   details = {};
-  hooptab::readDetails(*text, details);
+  hooptab::readDetails(text(), details);
   return GameFileProblem::None;
 }
 
@@ -288,14 +289,14 @@ void deleteWholly(std::string_view section, ProfileText text, ProfileBatch& batc
 GameFileProblem GameFile::create(const GameDetails& details, const std::vector<RosterPlayer>& visitors,
                                  const std::vector<RosterPlayer>& home) {
   ProfileBatch batch;
-  m_store.Path(m_path);
-  for (const PeriodSection& period : periodsOf(m_store.profile()))
-    deleteWholly(period.section.name, m_store.profile(), batch);
+  m_read = m_store.read(m_path);
+  for (const PeriodSection& period : periodsOf(text()))
+    deleteWholly(period.section.name, text(), batch);
   // With those that another version may have written for the game that stood here.
   for (const std::string_view section :
        {kRosterSections[0], kRosterSections[1], kDetailsSection, kAcceptedSection,
         std::string_view("HORLOGE"), std::string_view("JOUEURS0"), std::string_view("JOUEURS1")})
-    deleteWholly(section, m_store.profile(), batch);
+    deleteWholly(section, text(), batch);
 
   GameDetails written = details;
   written.version = kVersion;
@@ -315,8 +316,7 @@ GameFileProblem GameFile::create(const GameDetails& details, const std::vector<R
 }
 
 int GameFile::nextNumber() {
-  const ProfileText* text = nullptr;
-  return open(text) == GameFileProblem::None ? highestNumber(*text) + 1 : 0;
+  return open() == GameFileProblem::None ? highestNumber(text()) + 1 : 0;
 }
 
 GameFileProblem GameFile::append(int period, int clockSeconds, int firstNumber,
@@ -332,11 +332,10 @@ GameFileProblem GameFile::append(int period, int clockSeconds, int firstNumber,
 }
 
 GameFileProblem GameFile::change(const std::vector<EventChange>& steps) {
-  const ProfileText* text = nullptr;
-  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
+  if (const GameFileProblem problem = open(); problem != GameFileProblem::None)
     return problem;
   ProfileBatch batch;
-  return plan(steps, *text, batch) ? write(batch) : GameFileProblem::UnknownEvent;
+  return plan(steps, text(), batch) ? write(batch) : GameFileProblem::UnknownEvent;
 }
 
 namespace {
@@ -427,13 +426,12 @@ GameFileProblem GameFile::setDetails(const std::vector<std::pair<std::string, st
 }
 
 GameFileProblem GameFile::setDeleted(const std::vector<EventKey>& events, bool deleted) {
-  const ProfileText* text = nullptr;
-  if (const GameFileProblem problem = open(text); problem != GameFileProblem::None)
+  if (const GameFileProblem problem = open(); problem != GameFileProblem::None)
     return problem;
   ProfileBatch batch;
   for (const EventKey& event : events) {
     const std::string section = periodSection(event.period);
-    const auto stored = text->value(section, codepage::fromUtf8(event.key));
+    const auto stored = text().value(section, codepage::fromUtf8(event.key));
     if (!stored)
       return GameFileProblem::UnknownEvent;
     std::string line = codepage::toUtf8(*stored); // whole, however long

@@ -6,7 +6,7 @@
 #include "game/EventList.h"
 #include "game/GameDetails.h"
 #include "game/Roster.h"
-#include "storage/cinifile.h"
+#include "storage/ProfileStore.h"
 
 #include <cstdint>
 #include <map>
@@ -44,8 +44,10 @@ class GameFile {
  public:
   static constexpr std::string_view kVersion = "2.0";
 
-  GameFile(cinifile& store, std::string path);
+  GameFile(ProfileStore& store, std::string path);
   const std::string& path() const { return m_path; }
+  // The file as it was read or written last, here.
+  const ProfileText& text() const { return m_read.text; }
 
   [[nodiscard]] GameFileProblem validate();
   // Reads everything; on a problem `game` is left untouched.
@@ -88,11 +90,12 @@ class GameFile {
   setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
 
  private:
-  [[nodiscard]] GameFileProblem open(const ProfileText*& text);
+  [[nodiscard]] GameFileProblem open();
   [[nodiscard]] GameFileProblem write(const ProfileBatch& batch);
 
-  cinifile& m_store;
+  ProfileStore& m_store;
   std::string m_path;
+  ProfileReading m_read;
 };
 
 // The parts of reading for callers that have the parsed file already: everything, the event lines of all

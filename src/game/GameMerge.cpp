@@ -2,6 +2,7 @@
 
 #include "game/GameFile.h"
 #include "storage/Module1.h"
+#include "storage/cinifile.h"
 #include "storage/codepage.h"
 
 #include <algorithm>

@@ -46,27 +46,27 @@ std::string_view nameOf(std::string_view path) {
 
 } // namespace
 
-void GameOnDisk::open(const std::string& path) {
-  m_guard.begin(path);
+void GameOnDisk::open(const std::string& path, const ProfileText& text) {
+  m_guard.begin(path, text);
   m_rescuedAs.clear();
   m_isLost = false;
   m_isWatching = true;
   m_steps.clear();
   m_values.clear();
-  m_waiting = 0;
+  m_pending.clear();
   m_foreign = {};
 }
 
 bool GameOnDisk::change(const std::vector<EventChange>& steps, const EventList& all, const Values& accepted) {
   note(kAcceptedSection, accepted);
   m_steps.insert(m_steps.end(), steps.begin(), steps.end());
-  ++m_waiting;
+  m_pending.add();
   return settle(all);
 }
 
 bool GameOnDisk::set(std::string_view section, const Values& values, const EventList& all) {
   note(section, values);
-  ++m_waiting;
+  m_pending.add();
   return settle(all);
 }
 
@@ -83,17 +83,22 @@ bool GameOnDisk::settle(const EventList& all) {
   if (!m_isWatching)
     return isOnDisk();
   m_isLost = m_isLost || (m_isOurs && !m_isOurs());
-  bool isWritten = !m_isLost && settleFound(all, m_guard.look());
-  if (!isWritten && !m_isLost && m_guard.look() == FileGuard::Found::Changed) // while it was being written
-    isWritten = settleFound(all, FileGuard::Found::Changed);
-  if (!isWritten) {
+  if (m_isLost) {
+    rescue(all);
+    return isOnDisk();
+  }
+  WriteResult written = settleFound(all, m_guard.look());
+  if (!written.isOnDisk() && m_guard.look() == FileGuard::Found::Changed) // while it was being written
+    written = settleFound(all, FileGuard::Found::Changed);
+  if (!written.isOnDisk()) {
+    m_pending.refuse(written.error(), m_store.files().nowNanoseconds());
     rescue(all);
     return isOnDisk();
   }
   m_steps.clear();
   for (auto& [place, value] : m_values)
     value.isWaiting = false;
-  m_waiting = 0;
+  m_pending.clear();
   if (!m_rescuedAs.empty()) { // the game stands where it belongs
     m_store.files().remove(m_rescuedAs);
     m_rescuedAs.clear();
@@ -101,18 +106,18 @@ bool GameOnDisk::settle(const EventList& all) {
   return true;
 }
 
-bool GameOnDisk::settleFound(const EventList& all, FileGuard::Found found) {
+WriteResult GameOnDisk::settleFound(const EventList& all, FileGuard::Found found) {
   switch (found) {
-  case FileGuard::Found::AsLeft: return isOnDisk() || writeSteps(all);
+  case FileGuard::Found::AsLeft: return isOnDisk() ? WriteResult() : writeSteps(all);
   case FileGuard::Found::Changed: return bringTogether(all);
   case FileGuard::Found::Gone:
   case FileGuard::Found::Unusable: return rewrite(all);
   case FileGuard::Found::OutOfReach: break;
   }
-  return false;
+  return m_guard.obstacle();
 }
 
-bool GameOnDisk::writeSteps(const EventList& all) {
+WriteResult GameOnDisk::writeSteps(const EventList& all) {
   ProfileBatch batch;
   if (!GameFile::plan(m_steps, m_guard.left(), batch)) // it holds what others added, and was not taken in yet
     return bringTogether(all);
@@ -127,14 +132,16 @@ void GameOnDisk::addValues(ProfileBatch& batch) const {
   }
 }
 
-bool GameOnDisk::bringTogether(const EventList& all) {
+WriteResult GameOnDisk::bringTogether(const EventList& all) {
   const ProfileText theirs = m_guard.found();
   const GameMerge merge = mergeGame(all, m_guard.left(), theirs);
   if (merge.isHidden)
     return rewrite(all);
   // Kept before it is changed: what cannot be kept is not overwritten.
-  if (!merge.gaveWay.empty() && !m_guard.keepFound())
-    return false;
+  if (!merge.gaveWay.empty()) {
+    if (WriteResult kept = m_guard.keepFound(); !kept.isOnDisk())
+      return kept;
+  }
 
   ProfileBatch batch;
   addLines(merge.events, theirs, batch);
@@ -147,14 +154,14 @@ bool GameOnDisk::bringTogether(const EventList& all) {
     if (!value.isWaiting && now != value.value && (merge.restored > 0 || now == value.before))
       batch.set(place.first, place.second, value.value);
   }
-  if (!m_guard.write(batch))
-    return false;
+  if (WriteResult written = m_guard.write(batch); !written.isOnDisk())
+    return written;
   m_foreign.isTouched = true;
   m_foreign.added += merge.added;
   m_foreign.restored += merge.restored;
   m_foreign.gaveWay.insert(m_foreign.gaveWay.end(), merge.gaveWay.begin(), merge.gaveWay.end());
   noteWhatWasKept();
-  return true;
+  return {};
 }
 
 // A player whom the events name cannot be missed.
@@ -180,13 +187,13 @@ ProfileBatch GameOnDisk::whole(const EventList& all) const {
   return batch;
 }
 
-bool GameOnDisk::rewrite(const EventList& all) {
-  if (!m_guard.rewrite(whole(all)))
-    return false;
+WriteResult GameOnDisk::rewrite(const EventList& all) {
+  if (WriteResult written = m_guard.rewrite(whole(all)); !written.isOnDisk())
+    return written;
   m_foreign.isTouched = true;
   m_foreign.isRewritten = true;
   noteWhatWasKept();
-  return true;
+  return {};
 }
 
 void GameOnDisk::noteWhatWasKept() {
@@ -196,7 +203,7 @@ void GameOnDisk::noteWhatWasKept() {
 
 // Only what waits needs rescue: all else is on disk, or was.
 void GameOnDisk::rescue(const EventList& all) {
-  if (m_rescueFolder.empty() || isOnDisk() || (!m_rescuedAs.empty() && m_rescuedChanges == m_waiting))
+  if (m_rescueFolder.empty() || isOnDisk() || (!m_rescuedAs.empty() && m_rescuedChanges == waiting()))
     return;
   std::string path = m_rescuedAs;
   if (path.empty()) {
@@ -207,14 +214,14 @@ void GameOnDisk::rescue(const EventList& all) {
     if (m_store.files().stamp(path, taken))
       path = freeNameBeside(m_store.files(), path);
   }
-  if (path.empty() || !m_guard.writeCopy(path, whole(all)))
+  if (path.empty() || !m_guard.writeCopy(path, whole(all)).isOnDisk())
     return;
   m_rescuedAs = path;
-  m_rescuedChanges = m_waiting;
+  m_rescuedChanges = waiting();
 }
 
 bool GameOnDisk::writeCopy(const std::string& path, const EventList& all) {
-  return m_guard.writeCopy(path, whole(all));
+  return m_guard.writeCopy(path, whole(all)).isOnDisk();
 }
 
 } // namespace hooptab

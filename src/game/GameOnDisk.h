@@ -7,6 +7,7 @@
 #include "game/GameFile.h"
 #include "game/GameMerge.h"
 #include "storage/FileGuard.h"
+#include "storage/PendingWrites.h"
 
 #include <functional>
 #include <map>
@@ -31,10 +32,10 @@ class GameOnDisk {
  public:
   using Values = std::vector<std::pair<std::string, std::string>>; // keys and their values
 
-  explicit GameOnDisk(cinifile& store) : m_guard(store, isGame), m_store(store) {}
+  explicit GameOnDisk(ProfileStore& store) : m_guard(store, isGame), m_store(store) {}
 
-  // The game that the store has just read.
-  void open(const std::string& path);
+  // The game whose file was just read so.
+  void open(const std::string& path, const ProfileText& text);
   // Where a copy of everything goes while the file cannot be written; empty for nowhere.
   void setRescueFolder(std::string folder) { m_rescueFolder = std::move(folder); }
   // Asked before each write: false when somebody else writes this file now. From then on nothing more goes
@@ -51,8 +52,9 @@ class GameOnDisk {
   // Looks at the file, brings it back to what was recorded, and writes what waits.
   bool settle(const EventList& all);
 
-  bool isOnDisk() const { return m_waiting == 0; }
-  std::size_t waiting() const { return m_waiting; }            // changes
+  bool isOnDisk() const { return m_pending.isEmpty(); }
+  std::size_t waiting() const { return m_pending.size(); } // changes
+  const PendingWrites& pending() const { return m_pending; }
   bool isLost() const { return m_isLost; }                     // somebody else writes this file
   const std::string& rescuedAs() const { return m_rescuedAs; } // empty without a rescue file
 
@@ -66,10 +68,10 @@ class GameOnDisk {
   bool writeCopy(const std::string& path, const EventList& all);
 
  private:
-  bool settleFound(const EventList& all, FileGuard::Found found);
-  bool writeSteps(const EventList& all);
-  bool bringTogether(const EventList& all);
-  bool rewrite(const EventList& all);
+  WriteResult settleFound(const EventList& all, FileGuard::Found found);
+  WriteResult writeSteps(const EventList& all);
+  WriteResult bringTogether(const EventList& all);
+  WriteResult rewrite(const EventList& all);
   void noteWhatWasKept();
   void rescue(const EventList& all);
   void note(std::string_view section, const Values& values);
@@ -78,7 +80,7 @@ class GameOnDisk {
   ProfileBatch whole(const EventList& all) const;
 
   FileGuard m_guard;
-  cinifile& m_store;
+  ProfileStore& m_store;
   std::string m_rescueFolder;
   std::string m_rescuedAs;
   std::size_t m_rescuedChanges = 0;
@@ -93,8 +95,8 @@ class GameOnDisk {
     bool isWaiting = true;
   };
   std::map<std::pair<std::string, std::string>, Value>
-      m_values; // by section and key; set since the game was opened
-  std::size_t m_waiting = 0;
+      m_values;            // by section and key; set since the game was opened
+  PendingWrites m_pending; // counts the changes
   ForeignHands m_foreign;
 };
 

@@ -9,16 +9,12 @@
 #include "storage/Placeholders.h"
 
 #include <QFileInfo>
-#include <chrono>
 #include <utility>
 
 namespace hooptab {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr auto kRetryInterval = 2s;
 constexpr int kPathWidth = 380; // so that what can be done about it stands beside it on a small screen
 
 QLabel& makeStrip(QWidget& window) {
@@ -37,9 +33,11 @@ LiveFile::LiveFile(GameSession& session, FileSystem& files, const Texts& texts, 
                    NowStrip& now, LiveNotices& notices, QWidget& window)
     : QObject(&window), m_session(session), m_game(session.game()), m_texts(texts), m_dialogs(dialogs),
       m_now(now), m_notices(notices), m_window(window), m_strip(makeStrip(window)),
-      m_hold(*new GameHold(files, texts, dialogs, window)) {
-  m_retry.setInterval(kRetryInterval);
-  connect(&m_retry, &QTimer::timeout, this, &LiveFile::look);
+      m_hold(*new GameHold(files, texts, dialogs, window)),
+      m_retry(session.game().disk().pending(), files, this) {
+  connect(&m_retry, &WriteRetry::due, this, &LiveFile::look);
+  connect(&m_retry, &WriteRetry::waits, this, &LiveFile::showWaiting);
+  connect(&m_retry, &WriteRetry::allIsOnDisk, this, [this] { m_notices.showNotOnDisk({}, {}); });
   connect(&m_hold, &GameHold::fileChanged, this, &LiveFile::look);
   connect(&m_hold, &GameHold::taken, this, &LiveFile::taken);
 }
@@ -81,22 +79,20 @@ void LiveFile::look() {
 }
 
 void LiveFile::show() {
+  m_now.showDisk(m_game.disk().pending());
+  showStrip();
+  m_retry.refresh();
+}
+
+void LiveFile::showWaiting() {
   const GameOnDisk& disk = m_game.disk();
   const std::string waiting = std::to_string(disk.waiting());
-  m_now.showDisk(disk.isOnDisk(), disk.waiting());
-  showStrip();
-  if (disk.isOnDisk()) {
-    m_retry.stop();
-    return m_notices.showNotOnDisk({});
-  }
   const Text text = disk.isLost()              ? Text::TakenOver
                     : disk.rescuedAs().empty() ? Text::ChangesNotOnDisk
                                                : Text::NotOnDiskButRescued;
   const std::string words = withPlaceholders(
       m_texts.text(text), disk.isLost() ? fromQt(m_hold.ownerWords()) : waiting, disk.rescuedAs());
-  m_notices.showNotOnDisk(toQt(words));
-  if (!m_retry.isActive())
-    m_retry.start();
+  m_notices.showNotOnDisk(toQt(words), disk.isLost() ? QString() : m_retry.reason(m_texts));
 }
 
 void LiveFile::showStrip() {

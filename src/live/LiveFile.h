@@ -3,11 +3,11 @@
 #pragma once
 
 #include "appearance/GameHold.h"
+#include "appearance/WriteRetry.h"
 #include "game/GameFile.h"
 #include "recording/GameSession.h"
 
 #include <QObject>
-#include <QTimer>
 
 class QLabel;
 
@@ -41,6 +41,7 @@ class LiveFile : public QObject {
  private:
   void look();
   void showStrip();
+  void showWaiting();
 
   GameSession& m_session;
   const LiveGame& m_game;
@@ -51,7 +52,7 @@ class LiveFile : public QObject {
   QWidget& m_window;
   QLabel& m_strip;
   GameHold& m_hold;
-  QTimer m_retry;
+  WriteRetry m_retry;
   bool m_isHeldElsewhere = false;
 };
 

@@ -3,6 +3,7 @@
 #include "appearance/NoticeStrip.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
+#include "appearance/WriteRetry.h"
 #include "events/MessageLine.h"
 #include "live/LostStopStrip.h"
 
@@ -42,8 +43,9 @@ LiveNotices::LiveNotices(const Texts& texts, QWidget* parent)
   hide();
 }
 
-void LiveNotices::showNotOnDisk(const QString& words) {
+void LiveNotices::showNotOnDisk(const QString& words, const QString& reason) {
   m_notOnDisk->setText(words);
+  showReason(*m_notOnDisk, reason);
   m_notOnDisk->setVisible(!words.isEmpty());
   place();
 }

@@ -22,7 +22,8 @@ class LiveNotices : public QWidget {
   // `texts` must outlive it.
   LiveNotices(const Texts& texts, QWidget* parent);
 
-  void showNotOnDisk(const QString& words); // empty: all is
+  // Nothing where all is on disk; the reason is for whoever rests on the words.
+  void showNotOnDisk(const QString& words, const QString& reason);
   void tellForeign(const QString& words);
   void offerClock(const LostStop& lost, bool wasClosed);
   void showLostStop(bool isLost);

@@ -6,6 +6,7 @@
 #include "appearance/relabel.h"
 #include "recording/LiveFigures.h"
 #include "recording/LiveGame.h"
+#include "settings/StorageWords.h"
 #include "storage/Module1.h"
 
 #include <QBoxLayout>
@@ -121,14 +122,23 @@ QColor NowStrip::teamColour(std::size_t team) const {
   return colourOf(m_game->game().details.teamColour[team]);
 }
 
-void NowStrip::showDisk(bool isOnDisk, std::size_t waiting) {
-  m_isOnDisk = isOnDisk;
-  m_waiting = waiting;
+void NowStrip::showDisk(const PendingWrites& pending) {
+  m_waiting = pending.size();
+  m_why = pending.why();
+  sayDisk();
+}
+
+void NowStrip::sayDisk() {
+  const bool isOnDisk = m_waiting == 0;
   const Look& look = Theme::look();
   m_disk->setText(caption(m_texts, Text::Saved) + (isOnDisk ? QStringLiteral(" ✓") : QStringLiteral(" ✕")));
-  m_disk->setToolTip(isOnDisk ? caption(m_texts, Text::OnDisk)
-                              : toQt(m_texts.withPlaceholder(Text::NotOnDiskHint, std::to_string(waiting))));
-  m_disk->setAccessibleName(m_disk->toolTip());
+  const QString hint = isOnDisk
+                           ? caption(m_texts, Text::OnDisk)
+                           : toQt(m_texts.withPlaceholder(Text::NotOnDiskHint, std::to_string(m_waiting)));
+  const QString reason = toQt(storageWords(m_why, m_texts));
+  m_disk->setToolTip(reason.isEmpty() ? hint : hint + u'\n' + reason);
+  m_disk->setAccessibleName(hint);
+  m_disk->setAccessibleDescription(reason);
   QPalette colours = palette();
   colours.setColor(QPalette::WindowText, isOnDisk ? look.made : look.missed);
   m_disk->setPalette(colours);
@@ -142,7 +152,7 @@ void NowStrip::showPending(const QString& words) {
 }
 
 void NowStrip::relabelStrip() {
-  showDisk(m_isOnDisk, m_waiting);
+  sayDisk();
   if (m_game != nullptr)
     gather();
 }

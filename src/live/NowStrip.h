@@ -4,6 +4,7 @@
 
 #include "recording/Fives.h"
 #include "recording/LiveWords.h"
+#include "storage/PendingWrites.h"
 
 #include <QWidget>
 
@@ -24,7 +25,7 @@ class NowStrip : public QWidget {
 
   void showGame(const LiveGame& game);
   void showTime(const LiveGame& game); // how long the fives have played
-  void showDisk(bool isOnDisk, std::size_t waiting);
+  void showDisk(const PendingWrites& pending);
   void showPending(const QString& words); // of a substitution; empty: none
   void relabelStrip();                    // behind relabel()
   void applyColours();
@@ -52,6 +53,7 @@ class NowStrip : public QWidget {
   };
   void gather();
   void addFive(std::size_t team);
+  void sayDisk();
   [[nodiscard]] QColor teamColour(std::size_t team) const;
   void addWords(const QString& words, const QColor& colour, bool isBold = false);
 
@@ -60,8 +62,8 @@ class NowStrip : public QWidget {
   Fives m_fives;
   std::optional<ScoringRun> m_run;
   std::vector<Run> m_runs;
-  bool m_isOnDisk = true;
-  std::size_t m_waiting = 0;
+  std::size_t m_waiting = 0; // changes, for the disk
+  StorageError m_why;
   QToolButton* m_keys = nullptr;
   QLabel* m_disk = nullptr;
   QLabel* m_pending = nullptr;

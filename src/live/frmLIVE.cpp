@@ -61,8 +61,8 @@ constexpr auto kLockTick = 200ms;
 
 } // namespace
 
-frmLIVE::frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs, TimeSource& time,
-                 QWidget* parent)
+frmLIVE::frmLIVE(ProfileStore& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
+                 TimeSource& time, QWidget* parent)
     : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_dialogs(dialogs),
       m_session(store, time) {
   m_session.change()->disk().setRescueFolder(settings.folder());

@@ -47,7 +47,7 @@ class frmLIVE : public ChildWindow {
   Q_OBJECT
  public:
   // All must outlive it.
-  frmLIVE(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs, TimeSource& time,
+  frmLIVE(ProfileStore& store, Settings& settings, const Texts& texts, Dialogs& dialogs, TimeSource& time,
           QWidget* parent = nullptr);
   ~frmLIVE() override;
 
@@ -135,7 +135,7 @@ class frmLIVE : public ChildWindow {
   bool playsRight(int slot) const { return playsRightOf(LiveGame::teamOf(slot)); }
   void chooseColour(int team);
 
-  cinifile& m_store;
+  ProfileStore& m_store;
   Settings& m_settings;
   const Texts& m_texts;
   Dialogs& m_dialogs;

@@ -24,16 +24,12 @@
 #include <QSignalBlocker>
 #include <QStackedLayout>
 
-#include <chrono>
 #include <utility>
 
 namespace hooptab {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr auto kRetryInterval = 2s;
 constexpr int kMostChanges = 500; // that can be taken back
 constexpr int kMargin = 8;
 constexpr int kTeamWidth = 240;
@@ -42,14 +38,14 @@ constexpr int kShotShare = 3;
 
 } // namespace
 
-frmMANUAL::frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
+frmMANUAL::frmMANUAL(ProfileStore& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
                      QWidget* parent)
     : ChildWindow(parent), m_settings(settings), m_texts(texts), m_dialogs(dialogs), m_game(store),
-      m_hold(new GameHold(store.files(), texts, dialogs, *this)), m_notice(noticeLabel(this)),
+      m_hold(new GameHold(store.files(), texts, dialogs, *this)),
+      m_retry(m_game.pending(), store.files(), this), m_notice(noticeLabel(this)),
       m_banner(noticeLabel(this)) {
   setObjectName(QStringLiteral("frmMANUAL"));
   m_banner->setObjectName(QStringLiteral("lblNOTONDISK"));
-  m_retryOfWrites.setInterval(kRetryInterval);
   m_changes.setUndoLimit(kMostChanges);
   m_foreign = new NoticeStrip("picFOREIGN", this);
   m_pages = new QStackedLayout;
@@ -152,7 +148,9 @@ void frmMANUAL::connectEverything() {
   connect(m_shots, &ShotPanel::totalsChanged, this, [this] { keepChange(m_player->text()); });
   connect(m_shots, &ShotPanel::playerMissing, this,
           [this] { showHint(caption(m_texts, Text::ChoosePlayer), Theme::missed()); });
-  connect(&m_retryOfWrites, &QTimer::timeout, this, &frmMANUAL::settle);
+  connect(&m_retry, &WriteRetry::due, this, &frmMANUAL::settle);
+  connect(&m_retry, &WriteRetry::waits, this, &frmMANUAL::showBanner);
+  connect(&m_retry, &WriteRetry::allIsOnDisk, this, &frmMANUAL::showBanner);
   connect(m_hold, &GameHold::fileChanged, this, &frmMANUAL::settle);
   connect(m_hold, &GameHold::taken, this, [this] { (void)open(path()); });
 }
@@ -386,16 +384,17 @@ void frmMANUAL::tellForeignHands() {
   m_foreign->tell(toQt(words));
 }
 
-void frmMANUAL::showDisk() {
-  tellForeignHands();
+void frmMANUAL::showBanner() {
   const QString words = diskWords();
   m_banner->setText(words);
+  showReason(*m_banner, m_game.isLost() ? QString() : m_retry.reason(m_texts));
   m_banner->setVisible(!words.isEmpty());
+}
+
+void frmMANUAL::showDisk() {
+  tellForeignHands();
+  m_retry.refresh();
   findChild<QPushButton*>(QStringLiteral("cmdFORM"))->setEnabled(!m_game.isForReading());
-  if (m_game.isOnDisk())
-    m_retryOfWrites.stop();
-  else if (!m_retryOfWrites.isActive())
-    m_retryOfWrites.start();
   const GameDetails& details = m_game.details();
   const auto points = [this](int team) { return QString::number(pointsOf(m_game.totals.teamCounts(team))); };
   const QString title = QStringLiteral("%1 - %2 %3 - %4 %5")

@@ -6,10 +6,10 @@
 #include "appearance/ChildWindow.h"
 #include "appearance/GameHold.h"
 #include "appearance/WidgetsFirst.h"
+#include "appearance/WriteRetry.h"
 #include "totals/ManualColumns.h"
 #include "totals/ManualGame.h"
 
-#include <QTimer>
 #include <QUndoStack>
 
 class QComboBox;
@@ -33,7 +33,7 @@ class frmMANUAL : public ChildWindow {
   Q_OBJECT
  public:
   // All must outlive it.
-  frmMANUAL(cinifile& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
+  frmMANUAL(ProfileStore& store, Settings& settings, const Texts& texts, Dialogs& dialogs,
             QWidget* parent = nullptr);
 
   // A game that is recorded elsewhere, or cannot be written, is shown for reading. A lock that was taken
@@ -81,6 +81,7 @@ class frmMANUAL : public ChildWindow {
   void showPlayer();
   void showTeams();
   void showDisk();
+  void showBanner();
   QString diskWords() const; // empty when all is well
   void settle();
   void tellForeignHands();
@@ -97,7 +98,7 @@ class frmMANUAL : public ChildWindow {
   int m_team = 0;
   ManualTotals m_before; // the totals before the change that is being made
   QUndoStack m_changes;
-  QTimer m_retryOfWrites;
+  WriteRetry m_retry;
 
   QLabel* m_notice = nullptr; // lines that the table does not show
   QLabel* m_banner = nullptr; // not on disk, or for reading only

@@ -116,7 +116,7 @@ std::string writeFiles(FileSystem& files, const std::string& path, const std::ve
   for (const ReportFile& content : contents) {
     FileStamp stamp;
     const std::string target = pathOf(path, content.suffix);
-    if (!replaceWholeFile(files, target, content.bytes, stamp))
+    if (!replaceWholeFile(files, target, content.bytes, stamp).isOnDisk())
       return target;
   }
   return {};

@@ -16,7 +16,7 @@ namespace hooptab {
 class GameSession {
  public:
   // Both must outlive it.
-  GameSession(cinifile& store, TimeSource& time) : m_game(store, time) {}
+  GameSession(ProfileStore& store, TimeSource& time) : m_game(store, time) {}
   GameSession(const GameSession&) = delete;
   GameSession& operator=(const GameSession&) = delete;
 

@@ -28,7 +28,7 @@ std::vector<EventChange> deletionOf(const std::vector<EventChange>& steps) {
 
 } // namespace
 
-LiveGame::LiveGame(cinifile& store, TimeSource& time) : m_log(store), m_time(time), m_flow(time) {}
+LiveGame::LiveGame(ProfileStore& store, TimeSource& time) : m_log(store), m_time(time), m_flow(time) {}
 
 GameFileProblem LiveGame::open(const std::string& path, Access access) {
   if (const GameFileProblem problem = m_log.open(path); problem != GameFileProblem::None)

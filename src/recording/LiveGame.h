@@ -26,7 +26,7 @@ class LiveGame {
   static constexpr int kSlotsOfTeam = CourtSlots::kSlotsOfTeam;
 
   // Both must outlive it.
-  LiveGame(cinifile& store, TimeSource& time);
+  LiveGame(ProfileStore& store, TimeSource& time);
 
   // Shows the game as it was left. On a problem the game that was open stays.
   enum class Access { Recording, Reading };

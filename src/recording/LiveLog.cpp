@@ -27,7 +27,8 @@ GameFileProblem LiveLog::open(const std::string& path) {
     return problem;
   m_nextNumber = file.nextNumber();
   m_game = std::move(game);
-  m_disk.open(path); // what another game still had to write is its own affair, and was asked about
+  m_disk.open(path,
+              file.text()); // what another game still had to write is its own affair, and was asked about
   m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
   countAll();
   m_news = {};

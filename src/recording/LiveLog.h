@@ -19,7 +19,7 @@ namespace hooptab {
 
 class LiveLog {
  public:
-  explicit LiveLog(cinifile& store) : m_store(store), m_disk(store) {}
+  explicit LiveLog(ProfileStore& store) : m_store(store), m_disk(store) {}
   LiveLog(const LiveLog&) = delete; // the tally refers to the counters of this object
   LiveLog& operator=(const LiveLog&) = delete;
 
@@ -72,7 +72,7 @@ class LiveLog {
   void count(std::size_t from); // the events from that place on
   void countAll();
 
-  cinifile& m_store;
+  ProfileStore& m_store;
   Game m_game;
   GameState m_state;
   std::optional<Tally> m_tally;

@@ -4,15 +4,16 @@
 
 namespace hooptab {
 
-Scorecard::Scorecard(cinifile& store, std::string path) : m_store(store), m_path(std::move(path)) {}
+Scorecard::Scorecard(ProfileStore& store, std::string path) : m_store(store), m_path(std::move(path)) {}
 
 GameFileProblem Scorecard::load() {
   const auto read = std::make_shared<CountedGame>();
   Game& game = read->game;
-  if (const GameFileProblem problem = GameFile(m_store, m_path).read(game); problem != GameFileProblem::None)
+  GameFile file(m_store, m_path);
+  if (const GameFileProblem problem = file.read(game); problem != GameFileProblem::None)
     return problem;
   m_outOfRange = Tally::run(read->state, game.events, game.roster[0], game.roster[1]);
-  m_findings = checkGame(game, m_store.profile(), m_outOfRange);
+  m_findings = checkGame(game, file.text(), m_outOfRange);
   m_counted = read;
   return GameFileProblem::None;
 }

@@ -16,7 +16,7 @@ namespace hooptab {
 class Scorecard {
  public:
   // The store must outlive it.
-  Scorecard(cinifile& store, std::string path);
+  Scorecard(ProfileStore& store, std::string path);
 
   // Reads and counts the game anew. On a problem what was read last stays.
   [[nodiscard]] GameFileProblem load();
@@ -34,7 +34,7 @@ class Scorecard {
   [[nodiscard]] std::string title() const;
 
  private:
-  cinifile& m_store;
+  ProfileStore& m_store;
   std::string m_path;
   std::shared_ptr<const CountedGame> m_counted;
   std::optional<CountOutOfRange> m_outOfRange;

@@ -44,7 +44,7 @@ constexpr int kTeamWidth = 280;
 
 } // namespace
 
-frmVIEW::frmVIEW(cinifile& store, const Settings& settings, const Texts& texts, QWidget* parent)
+frmVIEW::frmVIEW(ProfileStore& store, const Settings& settings, const Texts& texts, QWidget* parent)
     : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_view(texts),
       m_notice(noticeLabel(this)), m_check(new CheckStrip(texts, this)), m_strip(new ScoreboardStrip(this)) {
   setObjectName(QStringLiteral("frmVIEW"));

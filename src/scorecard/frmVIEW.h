@@ -37,7 +37,7 @@ class frmVIEW : public ChildWindow {
   enum class RefreshMode { Manual = 0, Every10 = 10, Every30 = 30, Every60 = 60 }; // seconds
 
   // Store, settings and texts must outlive it.
-  frmVIEW(cinifile& store, const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
+  frmVIEW(ProfileStore& store, const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
   ~frmVIEW() override;
 
   // Reads and shows a game; on a problem what was shown stays.
@@ -78,7 +78,7 @@ class frmVIEW : public ChildWindow {
   void showHeaders();
   void showNotice();
 
-  cinifile& m_store;
+  ProfileStore& m_store;
   const Settings& m_settings;
   const Texts& m_texts;
   std::unique_ptr<Scorecard> m_card;

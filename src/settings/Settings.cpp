@@ -4,6 +4,7 @@
 #include "storage/BatchText.h"
 #include "storage/Module1.h"
 #include "storage/PathText.h"
+#include "storage/cinifile.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -66,7 +67,7 @@ const std::vector<std::uint32_t>& customColours() {
   return colours;
 }
 
-Settings::Settings(cinifile& store, std::string folder)
+Settings::Settings(ProfileStore& store, std::string folder)
     : m_store(store), m_folder(std::move(folder)), m_guard(store, isSettings) {}
 
 std::string Settings::path() const {
@@ -80,8 +81,8 @@ Settings::Preparation Settings::prepare(const Texts& texts) {
   }
   const ProfileBatch content = firstRunContent(texts, m_folder);
   const bool isReadable = canBeRead();
-  m_waiting.push_back(content);
-  if (!m_writes.write([this, content] { return complete(content) && isWritten(); })) {
+  if (!m_pending.write(
+          content, [this](const ProfileBatch& batch) { return complete(batch); }, now())) {
     take([&content](std::string_view key) { return valueIn(content, key); });
     return isReadable ? Preparation::WriteFailed : Preparation::CannotBeRead;
   }
@@ -91,55 +92,53 @@ Settings::Preparation Settings::prepare(const Texts& texts) {
 
 // A file that is there but cannot be read may hold all the user's teams: it is left alone.
 bool Settings::canBeRead() {
-  m_store.Path(path());
-  (void)m_store.profile();
-  return m_store.readOutcome() == ReadOutcome::Read || m_store.readOutcome() == ReadOutcome::Absent;
-}
-
-// The oldest of what waits.
-bool Settings::isWritten() {
-  m_waiting.pop_front();
-  return true;
+  return m_store.read(path()).isKnown();
 }
 
 bool Settings::isComplete() {
-  m_store.Path(path());
-  return isSettings(m_store.profile());
+  return isSettings(m_store.read(path()).text);
 }
 
-bool Settings::complete(const ProfileBatch& content) {
-  if (isComplete())
-    return true;
-  if (!canBeRead())
-    return false;
-  const std::string found = m_store.profile().bytes();
-  if ((!found.empty() && !keep(found)) || !m_store.write(content))
-    return false;
-  m_guard.begin(path());
-  return true;
+WriteResult Settings::complete(const ProfileBatch& content) {
+  const ProfileReading found = m_store.read(path());
+  if (isSettings(found.text))
+    return {};
+  if (!found.isKnown())
+    return found.error;
+  if (const std::string bytes = found.text.bytes(); !bytes.empty()) {
+    if (WriteResult kept = keep(bytes); !kept.isOnDisk())
+      return kept;
+  }
+  const ProfileWrite written = m_store.write(path(), content, found);
+  if (written.isOnDisk())
+    m_guard.begin(path(), written.left().text);
+  return written;
 }
 
-bool Settings::keep(const std::string& bytes) {
+WriteResult Settings::keep(const std::string& bytes) {
   if (!m_keptAs.empty())
-    return true;
+    return {};
+  StorageError error;
+  const std::string copy = freeNameBeside(m_store.files(), path(), &error);
+  if (copy.empty())
+    return error;
   FileStamp stamp;
-  const std::string copy = freeNameBeside(m_store.files(), path());
-  if (copy.empty() || !replaceWholeFile(m_store.files(), copy, bytes, stamp))
-    return false;
-  m_keptAs = copy;
-  return true;
+  WriteResult written = replaceWholeFile(m_store.files(), copy, bytes, stamp);
+  if (written.isOnDisk())
+    m_keptAs = copy;
+  return written;
 }
 
 void Settings::read() {
-  m_store.Path(path());
-  m_store.Section(kSection);
-  m_store.Default("");
-  take([this](std::string_view key) {
-    m_store.Key(std::string(key));
-    return m_store.Value();
+  cinifile file(m_store);
+  file.Path(path());
+  file.Section(kSection);
+  take([&file](std::string_view key) {
+    file.Key(std::string(key));
+    return file.Value();
   });
-  if (isComplete())
-    m_guard.begin(path());
+  if (const ProfileReading found = m_store.read(path()); isSettings(found.text))
+    m_guard.begin(path(), found.text);
 }
 
 void Settings::take(const std::function<std::string(std::string_view key)>& value) {
@@ -226,40 +225,43 @@ bool Settings::saveOfOthers(const ProfileBatch& batch) {
 }
 
 // Of a file that cannot be read nothing is known; what waits for it is no picture of it.
-const ProfileText& Settings::content() {
-  m_content = {};
-  if (!canBeRead())
-    return m_content;
-  m_content = m_store.profile();
-  for (const ProfileBatch& batch : m_waiting)
-    m_content = withBatch(std::move(m_content), batch);
-  return m_content;
+ProfileText Settings::content() {
+  const ProfileReading found = m_store.read(path());
+  if (!found.isKnown())
+    return {};
+  ProfileText content = found.text;
+  for (const PendingWrites::Waiting& each : m_pending.waiting())
+    content = withBatch(std::move(content), each.batch);
+  return content;
+}
+
+bool Settings::retry() {
+  return m_pending.retry(now());
 }
 
 void Settings::settle() {
-  if (m_writes.retry())
+  if (retry())
     (void)write({});
 }
 
-bool Settings::write(const ProfileBatch& batch) {
-  if (!m_guard.isWatching()) { // there is no file yet that could be missed
-    m_store.Path(path());
-    return m_store.write(batch);
-  }
+WriteResult Settings::write(const ProfileBatch& batch) {
+  if (!m_guard.isWatching()) // there is no file yet that could be missed
+    return m_store.write(path(), batch);
   const FileGuard::Found found = m_guard.look();
   if (found == FileGuard::Found::OutOfReach)
-    return batch.isEmpty();
+    return batch.isEmpty() ? WriteResult() : m_guard.obstacle();
   const bool isOlder = found == FileGuard::Found::Changed && m_older.contains(hashOf(m_guard.found()));
   const bool isLost = found == FileGuard::Found::Gone || found == FileGuard::Found::Unusable || isOlder;
   const std::size_t before = hashOf(m_guard.left());
   const auto theirs = isOlder ? FileGuard::Theirs::NotMissed : FileGuard::Theirs::Kept;
-  if (isLost ? !m_guard.rewrite(batch, theirs) : !m_guard.write(batch))
-    return false;
+  WriteResult written = isLost ? m_guard.rewrite(batch, theirs) : m_guard.write(batch);
+  if (!written.isOnDisk())
+    return written;
   m_older.insert(before);
   m_older.erase(hashOf(m_guard.left()));
   if (isLost)
     m_restored = Restored{m_guard.takeKeptAs()};
-  return true;
+  return written;
 }
 
 bool Settings::save(const char* key, std::string value) {
@@ -269,8 +271,8 @@ bool Settings::save(const char* key, std::string value) {
 }
 
 bool Settings::save(const ProfileBatch& batch) {
-  m_waiting.push_back(batch);
-  return m_writes.write([this, batch] { return write(batch) && isWritten(); });
+  return m_pending.write(
+      batch, [this](const ProfileBatch& own) { return write(own); }, now());
 }
 
 } // namespace hooptab

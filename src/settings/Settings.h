@@ -5,12 +5,11 @@
 
 #include "settings/Texts.h"
 #include "storage/FileGuard.h"
-#include "storage/WriteQueue.h"
-#include "storage/cinifile.h"
+#include "storage/PendingWrites.h"
+#include "storage/ProfileStore.h"
 
 #include <array>
 #include <cstdint>
-#include <deque>
 #include <functional>
 #include <optional>
 #include <set>
@@ -44,7 +43,7 @@ using KeypadKeyTexts = std::array<std::string, kKeypadKeys.size()>;
 class Settings {
  public:
   // `folder` is the program folder; CONFIG.INI stands in it.
-  Settings(cinifile& store, std::string folder);
+  Settings(ProfileStore& store, std::string folder);
   Settings(const Settings&) = delete; // what waits to be written refers to this object
   Settings& operator=(const Settings&) = delete;
 
@@ -92,9 +91,9 @@ class Settings {
   // What others keep in the same file (teams), behind what waits: on disk now, or kept like a setting. False
   // where the file is there and cannot be read: nobody knows what the change would meet.
   [[nodiscard]] bool saveOfOthers(const ProfileBatch& batch);
-  // The file with all that waits to go there; holds until the next call.
-  [[nodiscard]] const ProfileText& content();
-  bool retry() { return m_writes.retry(); }
+  // The file with all that waits to go there.
+  [[nodiscard]] ProfileText content();
+  bool retry();
   // Looks at the file: one that is gone, damaged or of another kind is written again as it was left, and so
   // is one that went back to an older version. To be called before what others keep there is read.
   void settle();
@@ -104,25 +103,24 @@ class Settings {
     std::string keptAs;
   };
   [[nodiscard]] std::optional<Restored> takeRestored() { return std::exchange(m_restored, std::nullopt); }
-  bool isOnDisk() const { return m_writes.isEmpty(); }
+  bool isOnDisk() const { return m_pending.isEmpty(); }
+  const PendingWrites& pending() const { return m_pending; }
 
  private:
   bool canBeRead();
-  bool isWritten();
   bool isComplete();
-  bool complete(const ProfileBatch& content);
-  bool keep(const std::string& bytes);
+  WriteResult complete(const ProfileBatch& content);
+  WriteResult keep(const std::string& bytes);
   void take(const std::function<std::string(std::string_view key)>& value);
   bool save(const char* key, std::string value);
   bool save(const ProfileBatch& batch);
-  bool write(const ProfileBatch& batch);
+  WriteResult write(const ProfileBatch& batch);
+  [[nodiscard]] std::int64_t now() const { return m_store.files().nowNanoseconds(); }
 
-  cinifile& m_store;
+  ProfileStore& m_store;
   std::string m_folder;
   std::string m_keptAs;
-  WriteQueue m_writes;
-  std::deque<ProfileBatch> m_waiting; // what those writes are
-  ProfileText m_content;
+  PendingWrites m_pending;
   FileGuard m_guard;
   std::set<std::size_t> m_older; // of what was left there before, by its bytes
   std::optional<Restored> m_restored;

@@ -23,7 +23,7 @@ std::vector<GameEntry> recentGames(WindowMemory& memory) {
   return games;
 }
 
-std::vector<GameEntry> sampleGames(const SharedFiles& files, cinifile& store) {
+std::vector<GameEntry> sampleGames(const SharedFiles& files, ProfileStore& store) {
   std::vector<std::pair<std::string, GameEntry>> dated;
   if (const std::optional<std::string> folder = files.find("samples")) {
     // Name filters of a folder pay no regard to letter case.

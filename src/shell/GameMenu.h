@@ -8,7 +8,7 @@
 
 namespace hooptab {
 
-class cinifile;
+class ProfileStore;
 class SharedFiles;
 class Texts;
 class WindowMemory;
@@ -20,7 +20,7 @@ struct GameEntry {
 
 [[nodiscard]] std::vector<GameEntry> recentGames(WindowMemory& memory);
 // Named by teams and date, oldest first; what is no game is left out.
-[[nodiscard]] std::vector<GameEntry> sampleGames(const SharedFiles& files, cinifile& store);
+[[nodiscard]] std::vector<GameEntry> sampleGames(const SharedFiles& files, ProfileStore& store);
 
 class GameMenu : public QMenu {
   Q_OBJECT

@@ -23,11 +23,12 @@ bool lacksItsEnd(const Finding& finding) {
 }
 
 // `state` is large, and kept for the next game.
-RecentGame readOne(cinifile& store, const std::string& path, GameState& state) {
+RecentGame readOne(ProfileStore& store, const std::string& path, GameState& state) {
   RecentGame result;
   result.path = path;
   Game game;
-  result.problem = GameFile(store, path).read(game);
+  GameFile file(store, path);
+  result.problem = file.read(game);
   if (result.problem != GameFileProblem::None)
     return result;
   (void)Tally::run(state, game.events, game.roster[0],
@@ -38,8 +39,7 @@ RecentGame readOne(cinifile& store, const std::string& path, GameState& state) {
     result.teams[team] = {details.abbreviation[team], details.teamColour[team],
                           state.points(static_cast<int>(team))};
   result.isFinished = details.isFinished;
-  result.mayBeCut =
-      details.isFinished && std::ranges::any_of(checkGame(game, store.profile(), {}), lacksItsEnd);
+  result.mayBeCut = details.isFinished && std::ranges::any_of(checkGame(game, file.text(), {}), lacksItsEnd);
   result.hasPeriods = details.inputType == 0;
   result.hasTime = result.hasPeriods && details.minutesPerPeriod > 0;
   result.period = state.period;
@@ -57,7 +57,7 @@ RecentGame readOne(cinifile& store, const std::string& path, GameState& state) {
 RecentGames readRecentGames(FileSystem& files, const std::vector<std::string>& paths,
                             const TaskWatch& watch) {
   RecentGames result;
-  cinifile store(files);
+  ProfileStore store(files);
   const auto state = std::make_unique<GameState>();
   for (const std::string& path : paths) {
     if (watch.isCancelled() || result.others.size() == RecentGames::kMostOthers)

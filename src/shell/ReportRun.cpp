@@ -202,7 +202,7 @@ class ReportRun {
 
   const ReportRequest& m_request;
   FileSystem m_files;
-  cinifile m_store{m_files};
+  ProfileStore m_store{m_files};
   Settings m_settings;
   Texts m_texts;
   std::error_code m_ignored; // what is no folder is taken for a file

@@ -3,28 +3,27 @@
 #include "appearance/Dialogs.h"
 #include "appearance/relabel.h"
 #include "settings/Texts.h"
-
-#include <chrono>
+#include "storage/ProfileStore.h"
 
 namespace hooptab {
 
-namespace {
-
-using namespace std::chrono_literals;
-
-constexpr auto kRetryInterval = 2s;
-
-} // namespace
-
 UnsavedSettings::UnsavedSettings(const Workshop& workshop, QWidget* parent)
-    : PlainLabel(parent), m_workshop(workshop) {
+    : PlainLabel(parent), m_workshop(workshop),
+      m_retry(workshop.settings.pending(), workshop.store.files(), this) {
   setObjectName(QStringLiteral("lblUNSAVED"));
   hide();
-  m_retry.setInterval(kRetryInterval);
-  connect(&m_retry, &QTimer::timeout, this, [this] {
+  connect(&m_retry, &WriteRetry::due, this, [this] {
     m_workshop.settings.retry();
     refresh();
   });
+  connect(&m_retry, &WriteRetry::waits, this, [this](bool isNew) {
+    if (isNew)
+      emit waits(words());
+    setText(words());
+    showReason(*this, m_retry.reason(m_workshop.texts));
+    show();
+  });
+  connect(&m_retry, &WriteRetry::allIsOnDisk, this, &QWidget::hide);
 }
 
 QString UnsavedSettings::words() const {
@@ -38,15 +37,7 @@ void UnsavedSettings::refresh() {
       words += ' ' + m_workshop.texts.withPlaceholder(Text::SettingsKeptAs, found->keptAs);
     emit restored(toQt(words));
   }
-  const bool isUnsaved = !m_workshop.settings.isOnDisk();
-  if (isUnsaved && isHidden())
-    emit waits(words());
-  setText(words());
-  setVisible(isUnsaved);
-  if (!isUnsaved)
-    m_retry.stop();
-  else if (!m_retry.isActive())
-    m_retry.start();
+  m_retry.refresh();
   emit refreshed();
 }
 

@@ -3,10 +3,9 @@
 #pragma once
 
 #include "appearance/PlainLabel.h"
+#include "appearance/WriteRetry.h"
 #include "settings/Settings.h"
 #include "shell/Workshop.h"
-
-#include <QTimer>
 
 namespace hooptab {
 
@@ -31,7 +30,7 @@ class UnsavedSettings : public PlainLabel {
   [[nodiscard]] QString words() const;
 
   Workshop m_workshop;
-  QTimer m_retry;
+  WriteRetry m_retry;
 };
 
 } // namespace hooptab

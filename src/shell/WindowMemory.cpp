@@ -20,7 +20,7 @@ constexpr const char* kLastGame = "LASTGAME";
 
 } // namespace
 
-WindowMemory::WindowMemory(cinifile& store, const std::string& programFolder)
+WindowMemory::WindowMemory(ProfileStore& store, const std::string& programFolder)
     : m_store(store), m_path((std::filesystem::path(programFolder) / "WINDOWS.INI").string()) {}
 
 std::string WindowMemory::layout(std::string_view name) {
@@ -60,8 +60,7 @@ void WindowMemory::rememberFile(const std::string& path) {
     lines.emplace_back(std::to_string(i + 1), escapedPath(paths[i]));
   ProfileBatch batch;
   batch.setSectionLines(kRecentFiles, std::move(lines));
-  m_store.Path(m_path);
-  m_store.write(batch);
+  (void)m_store.write(m_path, batch);
 }
 
 std::optional<ColourScheme> WindowMemory::colourScheme() {
@@ -141,22 +140,20 @@ void WindowMemory::rememberLastGame(const LastChoices& choices) {
   batch.set(kLastGame, "STATISTICIAN", choices.statistician);
   batch.set(kLastGame, "TYPE", std::to_string(choices.gameType));
   batch.set(kLastGame, "INPUT", std::to_string(choices.inputType));
-  m_store.Path(m_path);
-  m_store.write(batch);
+  (void)m_store.write(m_path, batch);
 }
 
 // Read whole: the state of a wide table is longer than a value of the store may be.
 std::string WindowMemory::value(std::string_view section, std::string_view key) {
-  m_store.Path(m_path);
-  const std::optional<std::string_view> stored = m_store.profile().value(section, key);
+  const ProfileReading file = m_store.read(m_path);
+  const std::optional<std::string_view> stored = file.text.value(section, key);
   return stored ? codepage::toUtf8(*stored) : std::string();
 }
 
 void WindowMemory::write(std::string section, std::string_view key, std::string_view value) {
   ProfileBatch batch;
   batch.set(std::move(section), std::string(key), std::string(value));
-  m_store.Path(m_path);
-  m_store.write(batch);
+  (void)m_store.write(m_path, batch);
 }
 
 } // namespace hooptab

@@ -5,7 +5,7 @@
 
 #include "appearance/ColourScheme.h"
 #include "setup/NewGame.h"
-#include "storage/cinifile.h"
+#include "storage/ProfileStore.h"
 
 #include <optional>
 #include <string>
@@ -18,7 +18,7 @@ class WindowMemory {
  public:
   static constexpr std::size_t kMostRecentFiles = 10;
 
-  WindowMemory(cinifile& store, const std::string& programFolder);
+  WindowMemory(ProfileStore& store, const std::string& programFolder);
 
   // How a window or a table was left, as a text without line breaks that only its owner understands; empty
   // when never.
@@ -55,7 +55,7 @@ class WindowMemory {
   std::string value(std::string_view section, std::string_view key);
   void write(std::string section, std::string_view key, std::string_view value);
 
-  cinifile& m_store;
+  ProfileStore& m_store;
   std::string m_path;
 };
 

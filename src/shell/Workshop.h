@@ -5,15 +5,15 @@ namespace hooptab {
 
 class Dialogs;
 class Printers;
+class ProfileStore;
 class Settings;
 class SharedFiles;
 class Texts;
 class TimeSource;
 class WindowMemory;
-class cinifile;
 
 struct Workshop {
-  cinifile& store;
+  ProfileStore& store;
   Settings& settings;
   Texts& texts;
   WindowMemory& memory;

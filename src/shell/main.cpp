@@ -82,7 +82,7 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
 int run(Application& application, const Arguments& arguments, QtDialogs& dialogs, const ProgramFolder& folder,
         const std::string& executableFolder) {
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   Texts texts;
   Settings settings(store, folder.path);
   settings.read();

@@ -1,6 +1,6 @@
 // hooptab-simulate: writes games that the simulator played, as files of the program.
 #include "simulator/SampleSeason.h"
-#include "storage/cinifile.h"
+#include "storage/ProfileStore.h"
 
 #include <charconv>
 #include <filesystem>
@@ -69,14 +69,13 @@ class GameWriter {
     for (int i = 2; !m_written.insert(path).second; ++i)
       path = m_folder / (name.stem().string() + std::to_string(i) + name.extension().string());
     std::filesystem::remove(path); // of an earlier run
-    m_store.Path(path.string());
-    return m_store.write(game.batch());
+    return m_store.write(path.string(), game.batch()).isOnDisk();
   }
 
  private:
   std::filesystem::path m_folder;
   UnsyncedFileSystem m_files;
-  cinifile m_store{m_files};
+  ProfileStore m_store{m_files};
   std::set<std::filesystem::path> m_written;
 };
 

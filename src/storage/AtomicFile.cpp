@@ -7,6 +7,8 @@
 namespace hooptab {
 namespace {
 
+using Call = StorageError::Call;
+
 // An open file that is closed on every way out. Where the outcome of close matters, close() is called.
 class Descriptor {
  public:
@@ -36,11 +38,14 @@ class Descriptor {
   int m_value = -1;
 };
 
+// A write that takes nothing, and says no error, would do so forever.
 bool writeAll(FileSystem& files, int descriptor, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t written = files.write(descriptor, bytes.data(), bytes.size());
     if (written < 0 && errno == EINTR)
       continue;
+    if (written == 0)
+      errno = ENOSPC;
     if (written <= 0)
       return false;
     bytes.remove_prefix(static_cast<std::size_t>(written));
@@ -86,66 +91,91 @@ Place placeOf(const std::string& target) {
 
 // Writes `bytes` durably to the temporary file, which must not exist. `old` is the file that it will replace,
 // if any, and stands at `target`.
-bool writeTemporary(FileSystem& files, const std::string& path, std::string_view bytes, const FileStamp* old,
-                    const std::string& target, FileStamp& stamp) {
+WriteResult writeTemporary(FileSystem& files, const std::string& path, std::string_view bytes,
+                           const FileStamp* old, const std::string& target, FileStamp& stamp) {
   Descriptor file(files, path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, old ? 0600 : 0666);
   if (!file.isOpen())
-    return false;
+    return StorageError::ofCall(Call::Open, target);
   if (old != nullptr) { // before the mode, which a change of owner cuts
     files.keepOwner(file.get(), *old);
     files.keepAttributes(file.get(), target);
   }
-  const bool isWritten = writeAll(files, file.get(), bytes) &&
-                         (!old || files.setMode(file.get(), old->mode) == 0) && syncFile(files, file.get()) &&
-                         files.stamp(file.get(), stamp);
-  return file.close() && isWritten;
+  if (!writeAll(files, file.get(), bytes))
+    return StorageError::ofCall(Call::Write, target);
+  if (old != nullptr && files.setMode(file.get(), old->mode) != 0)
+    return StorageError::ofCall(Call::SetMode, target);
+  if (!syncFile(files, file.get()))
+    return StorageError::ofCall(Call::Sync, target);
+  if (!files.stamp(file.get(), stamp))
+    return StorageError::ofCall(Call::Stamp, target);
+  return file.close() ? WriteResult() : StorageError::ofCall(Call::Close, target);
 }
 
 // Another process that writes the same file could have put its own temporary file, half written, under our
 // name.
-bool isStillOurs(FileSystem& files, const std::string& path, const FileStamp& written) {
+WriteResult isStillOurs(FileSystem& files, const std::string& path, const FileStamp& written,
+                        const std::string& target) {
   FileStamp standing;
-  return files.stamp(path, standing) && standing.device == written.device && standing.inode == written.inode;
+  if (!files.stamp(path, standing))
+    return StorageError::ofCall(Call::Stamp, target);
+  if (standing.device != written.device || standing.inode != written.inode)
+    return StorageError{Call::ChangedMeanwhile, 0, target};
+  return {};
 }
 
 // Writing takes its time, most of all on a stick: what others have done to the file meanwhile is not covered.
-bool isAsItWas(FileSystem& files, const std::string& target, const FileStamp* old) {
+WriteResult isAsItWas(FileSystem& files, const std::string& target, const FileStamp* old) {
   FileStamp now;
   const bool isThere = files.stamp(target, now);
-  return old != nullptr ? isThere && now == *old : !isThere && errno == ENOENT;
+  if (!isThere && errno != ENOENT)
+    return StorageError::ofCall(Call::Stamp, target);
+  if (isThere ? old == nullptr || now != *old : old != nullptr)
+    return StorageError{Call::ChangedMeanwhile, 0, target};
+  return {};
 }
 
-} // namespace
+// The whole way of the new bytes to their place, but for the folder's own fsync.
+WriteResult putInPlace(FileSystem& files, const Place& place, const std::string& target,
+                       std::string_view bytes, const FileStamp* old, FileStamp& written) {
+  if (WriteResult result = writeTemporary(files, place.temporary, bytes, old, target, written);
+      !result.isOnDisk())
+    return result;
+  if (WriteResult result = isStillOurs(files, place.temporary, written, target); !result.isOnDisk())
+    return result;
+  if (WriteResult result = isAsItWas(files, target, old); !result.isOnDisk())
+    return result;
+  return files.rename(place.temporary, target) == 0 ? WriteResult()
+                                                    : StorageError::ofCall(Call::Rename, target);
+}
 
-ReadOutcome readWholeFile(FileSystem& files, const std::string& path, std::string& bytes, FileStamp& stamp) {
-  bytes.clear();
-  // Without O_NONBLOCK a pipe would hold the program until somebody writes to it.
-  Descriptor file(files, path, O_RDONLY | O_NONBLOCK | O_NOCTTY);
-  if (!file.isOpen())
-    return errno == ENOENT || errno == ENOTDIR ? ReadOutcome::Absent : ReadOutcome::Failed;
-  // The stamp is taken before the bytes: a change made meanwhile shows as a different stamp later.
-  if (!files.stamp(file.get(), stamp) || !stamp.isRegular)
-    return ReadOutcome::Failed;
-  if (stamp.size > kLargestProfileFile)
-    return ReadOutcome::TooLarge;
+// Whether the file that stands there may be replaced. Replacing asks rights of the folder alone; whoever may
+// not write the file itself must not replace it either.
+WriteResult mayBeReplaced(FileSystem& files, const std::string& target, const FileStamp& old) {
+  constexpr std::uint32_t kAnyWriteBit = 0222;
+  if (!old.isRegular)
+    return StorageError{Call::NotAFile, 0, target};
+  if ((old.mode & kAnyWriteBit) == 0)
+    return StorageError{Call::WriteProtected, 0, target};
+  if (!Descriptor(files, target, O_WRONLY | O_NONBLOCK | O_NOCTTY).isOpen())
+    return StorageError::ofCall(Call::Open, target);
+  return {};
+}
 
+// Into `bytes`, from a file that is open; whatever it holds where that is not the outcome.
+ReadOutcome readAll(FileSystem& files, int descriptor, std::int64_t size, std::string& bytes) {
   std::size_t length = 0;
-  bytes.resize(static_cast<std::size_t>(stamp.size) + 1); // one more, so that the end is seen without growing
+  bytes.resize(static_cast<std::size_t>(size) + 1); // one more, so that the end is seen without growing
   while (true) {
-    const ssize_t count = files.read(file.get(), bytes.data() + length, bytes.size() - length);
+    const ssize_t count = files.read(descriptor, bytes.data() + length, bytes.size() - length);
     if (count < 0 && errno == EINTR)
       continue;
-    if (count < 0) {
-      bytes.clear();
+    if (count < 0)
       return ReadOutcome::Failed;
-    }
     if (count == 0)
       break;
     length += static_cast<std::size_t>(count);
-    if (length > static_cast<std::size_t>(kLargestProfileFile)) {
-      bytes.clear();
+    if (length > static_cast<std::size_t>(kLargestProfileFile))
       return ReadOutcome::TooLarge;
-    }
     if (length == bytes.size())
       bytes.resize(bytes.size() * 2);
   }
@@ -153,56 +183,92 @@ ReadOutcome readWholeFile(FileSystem& files, const std::string& path, std::strin
   return ReadOutcome::Read;
 }
 
-bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_view bytes, FileStamp& stamp,
-                      const FileStamp* read) {
+ReadOutcome readOpened(FileSystem& files, const std::string& path, std::string& bytes, FileStamp& stamp,
+                       StorageError& error) {
+  // Without O_NONBLOCK a pipe would hold the program until somebody writes to it.
+  Descriptor file(files, path, O_RDONLY | O_NONBLOCK | O_NOCTTY);
+  if (!file.isOpen()) {
+    error = StorageError::ofCall(Call::Open, path);
+    return error.number == ENOENT || error.number == ENOTDIR ? ReadOutcome::Absent : ReadOutcome::Failed;
+  }
+  // The stamp is taken before the bytes: a change made meanwhile shows as a different stamp later.
+  if (!files.stamp(file.get(), stamp)) {
+    error = StorageError::ofCall(Call::Stamp, path);
+    return ReadOutcome::Failed;
+  }
+  if (!stamp.isRegular) {
+    error = {Call::NotAFile, 0, path};
+    return ReadOutcome::Failed;
+  }
+  const ReadOutcome outcome = stamp.size > kLargestProfileFile
+                                  ? ReadOutcome::TooLarge
+                                  : readAll(files, file.get(), stamp.size, bytes);
+  if (outcome == ReadOutcome::Failed)
+    error = StorageError::ofCall(Call::Read, path);
+  else if (outcome == ReadOutcome::TooLarge)
+    error = {Call::TooLarge, 0, path};
+  return outcome;
+}
+
+} // namespace
+
+ReadOutcome readWholeFile(FileSystem& files, const std::string& path, std::string& bytes, FileStamp& stamp,
+                          StorageError* error) {
+  bytes.clear();
+  StorageError why;
+  const ReadOutcome outcome = readOpened(files, path, bytes, stamp, why);
+  if (outcome != ReadOutcome::Read)
+    bytes.clear();
+  if (error != nullptr)
+    *error = std::move(why);
+  return outcome;
+}
+
+WriteResult replaceWholeFile(FileSystem& files, const std::string& path, std::string_view bytes,
+                             FileStamp& stamp, const FileStamp* read) {
   std::string target;
   if (!files.resolve(path, target))
-    return false;
+    return StorageError::ofCall(Call::Resolve, path);
 
   FileStamp old;
   const bool exists = files.stamp(target, old);
   if (!exists && errno != ENOENT)
-    return false;
+    return StorageError::ofCall(Call::Stamp, target);
   if (read != nullptr && old != *read)
-    return false;
+    return StorageError{Call::ChangedMeanwhile, 0, target};
   if (exists) {
-    constexpr std::uint32_t kAnyWriteBit = 0222;
-    if (!old.isRegular || (old.mode & kAnyWriteBit) == 0)
-      return false;
-    // Replacing asks rights of the folder alone; whoever may not write the file itself must not replace it
-    // either.
-    if (!Descriptor(files, target, O_WRONLY | O_NONBLOCK | O_NOCTTY).isOpen())
-      return false;
+    if (WriteResult result = mayBeReplaced(files, target, old); !result.isOnDisk())
+      return result;
   }
 
   const Place place = placeOf(target);
   Descriptor folder(files, place.folder, O_RDONLY | O_DIRECTORY);
   if (!folder.isOpen())
-    return false;
+    return StorageError::ofCall(Call::Open, place.folder);
 
   files.remove(place.temporary);
   FileStamp written;
-  const bool isReplaced =
-      writeTemporary(files, place.temporary, bytes, exists ? &old : nullptr, target, written) &&
-      isStillOurs(files, place.temporary, written) && isAsItWas(files, target, exists ? &old : nullptr) &&
-      files.rename(place.temporary, target) == 0;
-  if (!isReplaced) {
+  if (WriteResult result = putInPlace(files, place, target, bytes, exists ? &old : nullptr, written);
+      !result.isOnDisk()) {
     files.remove(place.temporary);
-    return false;
+    return result;
   }
   stamp = written;
-  return syncFolder(files, folder.get());
+  return syncFolder(files, folder.get()) ? WriteResult() : StorageError::ofCall(Call::Sync, place.folder);
 }
 
-std::string freeNameBeside(FileSystem& files, const std::string& path) {
+std::string freeNameBeside(FileSystem& files, const std::string& path, StorageError* error) {
   FileStamp taken;
   std::string target;
   for (int number = 1;; ++number) {
     std::string name = path + '.' + std::to_string(number);
     if (files.stamp(name, taken))
       continue;
-    if (errno != ENOENT)
+    if (errno != ENOENT) {
+      if (error != nullptr)
+        *error = StorageError::ofCall(Call::Stamp, name);
       return {};
+    }
     if (files.resolve(name, target)) // a link that leads nowhere has the name, too
       return name;
   }

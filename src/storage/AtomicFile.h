@@ -4,6 +4,7 @@
 #pragma once
 
 #include "storage/FileSystem.h"
+#include "storage/StorageError.h"
 
 #include <string>
 #include <string_view>
@@ -15,22 +16,24 @@ enum class ReadOutcome { Read, Absent, TooLarge, Failed };
 // Files larger than this are no profile files of ours; they are refused unread.
 inline constexpr std::int64_t kLargestProfileFile = 16 * 1024 * 1024;
 
-// Fills `bytes` and `stamp` (the state that was read). `bytes` is empty unless the outcome is Read.
+// Fills `bytes` and `stamp` (the state that was read). `bytes` is empty unless the outcome is Read; else
+// `error`, where one is given, says why.
 [[nodiscard]] ReadOutcome readWholeFile(FileSystem& files, const std::string& path, std::string& bytes,
-                                        FileStamp& stamp);
+                                        FileStamp& stamp, StorageError* error = nullptr);
 
-// True when the new bytes are durably in place; then `stamp` is the state written. On failure the old file
+// On disk when the new bytes are durably in place; then `stamp` is the state written. On failure the old file
 // stands as it was and `stamp` is left alone; or, when only the folder's own fsync failed, the new file
 // stands and `stamp` is its state. No temporary file is left. Fails for a file without any write permission
 // bit, even for a user whom the system would let write. Keeps mode bits and a symbolic link's target, and
 // owner, group and extended attributes where the system lets. Fails, too, where the file changed while the
 // new one was written; with `read` (FileStamp{} for a file that was not there) also where it changed since it
 // was in that state, so that bytes which were decided upon what it held cover nothing that nobody has read.
-[[nodiscard]] bool replaceWholeFile(FileSystem& files, const std::string& path, std::string_view bytes,
-                                    FileStamp& stamp, const FileStamp* read = nullptr);
+WriteResult replaceWholeFile(FileSystem& files, const std::string& path, std::string_view bytes,
+                             FileStamp& stamp, const FileStamp* read = nullptr);
 
 // A name for another version of a file, beside it: its own and ".1", ".2", ..., the first that nothing has.
-// Empty when the folder cannot be looked into.
-[[nodiscard]] std::string freeNameBeside(FileSystem& files, const std::string& path);
+// Empty when the folder cannot be looked into; `error`, where one is given, says why.
+[[nodiscard]] std::string freeNameBeside(FileSystem& files, const std::string& path,
+                                         StorageError* error = nullptr);
 
 } // namespace hooptab

@@ -15,18 +15,18 @@ std::string folderOf(const std::string& path) {
 
 } // namespace
 
-void FileGuard::begin(std::string path) {
+void FileGuard::begin(std::string path, ProfileText left) {
   m_path = std::move(path);
-  m_store.Path(m_path);
-  m_left = m_store.known();
+  m_left = std::move(left);
+  m_found = {};
   m_keptAs.clear();
 }
 
 FileGuard::Found FileGuard::look() {
-  m_store.Path(m_path);
-  const ProfileText& text = m_store.profile();
-  if (m_store.readOutcome() != ReadOutcome::Read)
+  m_found = m_store.read(m_path);
+  if (m_found.outcome != ReadOutcome::Read)
     return lookAtWhatCannotBeRead();
+  const ProfileText& text = m_found.text;
   if (text.isSameAs(m_left))
     return Found::AsLeft;
   // The beginning of what was left is no version that anybody made.
@@ -36,7 +36,7 @@ FileGuard::Found FileGuard::look() {
 
 FileGuard::Found FileGuard::lookAtWhatCannotBeRead() const {
   FileStamp stamp;
-  if (m_store.readOutcome() == ReadOutcome::TooLarge)
+  if (m_found.outcome == ReadOutcome::TooLarge)
     return Found::Unusable;
   if (m_store.files().stamp(m_path, stamp))
     return stamp.isRegular ? Found::OutOfReach : Found::Unusable;
@@ -44,55 +44,58 @@ FileGuard::Found FileGuard::lookAtWhatCannotBeRead() const {
   return isGone && m_store.files().stamp(folderOf(m_path), stamp) ? Found::Gone : Found::OutOfReach;
 }
 
-const ProfileText& FileGuard::found() {
-  m_store.Path(m_path);
-  return m_store.known();
+WriteResult FileGuard::write(const ProfileBatch& batch) {
+  return take(m_store.write(m_path, batch, m_found));
 }
 
-bool FileGuard::write(const ProfileBatch& batch) {
-  m_store.Path(m_path);
-  if (!m_store.writeBehindReading(batch))
-    return false;
-  m_left = m_store.known();
-  return true;
+WriteResult FileGuard::rewrite(const ProfileBatch& batch, Theirs theirs) {
+  if (theirs == Theirs::Kept) {
+    if (WriteResult kept = keepWhatStandsInTheWay(); !kept.isOnDisk())
+      return kept;
+  }
+  return take(m_store.replace(m_path, m_left, batch));
 }
 
-bool FileGuard::rewrite(const ProfileBatch& batch, Theirs theirs) {
-  m_store.Path(m_path);
-  if ((theirs == Theirs::Kept && !keepWhatStandsInTheWay()) || !m_store.replace(m_left, batch))
-    return false;
-  m_left = m_store.known();
-  return true;
+WriteResult FileGuard::take(const ProfileWrite& write) {
+  if (write.isOnDisk()) {
+    m_found = write.left();
+    m_left = m_found.text;
+  }
+  return write;
 }
 
 // The rest of a file that was cut off says nothing that is not ours.
-bool FileGuard::keepWhatStandsInTheWay() {
-  const ProfileText& text = m_store.profile();
+WriteResult FileGuard::keepWhatStandsInTheWay() {
+  const ProfileReading standing = m_store.read(m_path);
   std::string target; // a link that leads nowhere has none
-  if ((m_store.readOutcome() == ReadOutcome::Absent && m_store.files().resolve(m_path, target)) ||
-      (m_store.readOutcome() == ReadOutcome::Read && m_left.bytes().starts_with(text.bytes())))
-    return true;
-  const std::string kept = freeNameBeside(m_store.files(), m_path);
-  if (kept.empty() || m_store.files().rename(m_path, kept) != 0)
-    return false;
+  if ((standing.outcome == ReadOutcome::Absent && m_store.files().resolve(m_path, target)) ||
+      (standing.outcome == ReadOutcome::Read && m_left.bytes().starts_with(standing.text.bytes())))
+    return {};
+  StorageError error;
+  const std::string kept = freeNameBeside(m_store.files(), m_path, &error);
+  if (kept.empty())
+    return error;
+  if (m_store.files().rename(m_path, kept) != 0)
+    return StorageError::ofCall(StorageError::Call::Rename, m_path);
   m_keptAs = kept;
-  return true;
+  return {};
 }
 
-bool FileGuard::keepFound() {
-  m_store.Path(m_path);
-  const std::string bytes = m_store.known().bytes();
-  const std::string kept = freeNameBeside(m_store.files(), m_path);
+WriteResult FileGuard::keepFound() {
+  const std::string bytes = m_found.text.bytes();
+  StorageError error;
+  const std::string kept = freeNameBeside(m_store.files(), m_path, &error);
+  if (kept.empty())
+    return error;
   FileStamp stamp;
-  if (kept.empty() || !replaceWholeFile(m_store.files(), kept, bytes, stamp))
-    return false;
-  m_keptAs = kept;
-  return true;
+  WriteResult written = replaceWholeFile(m_store.files(), kept, bytes, stamp);
+  if (written.isOnDisk())
+    m_keptAs = kept;
+  return written;
 }
 
-bool FileGuard::writeCopy(const std::string& path, const ProfileBatch& batch) {
-  m_store.Path(path);
-  return m_store.replace(m_left, batch);
+WriteResult FileGuard::writeCopy(const std::string& path, const ProfileBatch& batch) {
+  return m_store.replace(path, m_left, batch);
 }
 
 } // namespace hooptab

@@ -4,12 +4,11 @@
 // changed, line by line, is its owner's affair.
 #pragma once
 
-#include "storage/ProfileBatch.h"
-#include "storage/ProfileText.h"
-#include "storage/cinifile.h"
+#include "storage/ProfileStore.h"
 
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace hooptab {
 
@@ -18,10 +17,10 @@ class FileGuard {
   // Whether a text is one of the kind that is guarded.
   using IsOne = bool (*)(const ProfileText& text);
 
-  FileGuard(cinifile& store, IsOne isOne) : m_store(store), m_isOne(isOne) {}
+  FileGuard(ProfileStore& store, IsOne isOne) : m_store(store), m_isOne(isOne) {}
 
-  // Watches over `path` from now on, as the store has just read or written it.
-  void begin(std::string path);
+  // Watches over `path` from now on, which was just read or written so.
+  void begin(std::string path, ProfileText left);
   const std::string& path() const { return m_path; }
   bool isWatching() const { return !m_path.empty(); }
   // As this program left it.
@@ -35,32 +34,35 @@ class FileGuard {
     OutOfReach, // the disk's own no: no right, no folder, a failure
   };
   [[nodiscard]] Found look();
-  // What is there; after Changed, until the next call on the store.
-  const ProfileText& found();
+  // What was there when it was looked at or written last, and why it could not be read.
+  const ProfileText& found() const { return m_found.text; }
+  const StorageError& obstacle() const { return m_found.error; }
 
-  // Each returns whether the disk has taken it; what is left is what it holds then.
-  // Into the file as it is, for AsLeft and Changed.
-  bool write(const ProfileBatch& batch);
+  // What is left is what the disk has taken.
+  // Into the file as it was found, for AsLeft and Changed.
+  WriteResult write(const ProfileBatch& batch);
   // The whole file, as it was left, with this; for Gone and Unusable. What stands in the way is kept, but for
   // a file of which nothing would be missing.
   enum class Theirs { Kept, NotMissed };
-  bool rewrite(const ProfileBatch& batch, Theirs theirs = Theirs::Kept);
+  WriteResult rewrite(const ProfileBatch& batch, Theirs theirs = Theirs::Kept);
   // Keeps a copy of what is there, for Changed.
-  bool keepFound();
+  WriteResult keepFound();
   // The whole file, as it was left, with this, in another place; this one is watched as before.
-  bool writeCopy(const std::string& path, const ProfileBatch& batch);
+  WriteResult writeCopy(const std::string& path, const ProfileBatch& batch);
 
   // The path under which a foreign version was kept last, until it is asked for; empty when there is none.
   [[nodiscard]] std::string takeKeptAs() { return std::exchange(m_keptAs, {}); }
 
  private:
   [[nodiscard]] Found lookAtWhatCannotBeRead() const;
-  bool keepWhatStandsInTheWay();
+  WriteResult keepWhatStandsInTheWay();
+  WriteResult take(const ProfileWrite& write);
 
-  cinifile& m_store;
+  ProfileStore& m_store;
   IsOne m_isOne;
   std::string m_path;
   ProfileText m_left;
+  ProfileReading m_found;
   std::string m_keptAs;
 };
 

@@ -1,7 +1,7 @@
 // The bytes of one profile file, parsed into sections and lines, and the edits that keep every other byte as
 // it is. An edit parses the section that it changes and shares all others with the text that it comes from,
-// so that it costs the same in a long file. Works on bytes of the code page and knows no file: cinifile reads
-// and writes it. The behaviour is described in docs/formats/profile.md.
+// so that it costs the same in a long file. Works on bytes of the code page and knows no file: ProfileStore
+// reads and writes it. The behaviour is described in docs/formats/profile.md.
 #pragma once
 
 #include <cstdint>

@@ -1,20 +1,15 @@
-// The profile-file store: the only way in which settings and games reach the disk. Callers set Path, Section
-// and Key and then read or assign Value; every write is on disk (fsync included) before it returns. Keeps a
-// parsed copy per file, which is never older than the file. Text is UTF-8 here and Windows-1252 in the file.
-// Lives on the main thread; no locking.
+// One value of a profile file at a time, by sticky Path, Section and Key, over the store. Cheap: whoever
+// wants key by key makes one of its own, so that nobody else moves its place. Whole files, and what belongs
+// together, go through the store itself. Text is UTF-8 here and Windows-1252 in the file.
 #pragma once
 
-#include "storage/AtomicFile.h"
-#include "storage/FileSystem.h"
-#include "storage/ProfileBatch.h"
-#include "storage/ProfileText.h"
+#include "storage/ProfileStore.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
-#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace hooptab {
 
@@ -24,8 +19,7 @@ class cinifile {
   static constexpr std::size_t kLongestValue = 254;
   static constexpr std::size_t kLongestKeyList = 9999;
 
-  explicit cinifile(FileSystem& files);
-  FileSystem& files() const { return m_files; }
+  explicit cinifile(ProfileStore& store) : m_store(store) {}
 
   // Sticky: each keeps its text until a caller changes it.
   const std::string& Path() const { return m_path; }
@@ -51,44 +45,13 @@ class cinifile {
   // Non-zero when the last write-type operation is on disk, 0 when it failed or none was made.
   std::int32_t LastReturnCode() const { return m_lastReturnCode; }
 
-  // Applies all operations to Path as one replacement, or none of them. Sets LastReturnCode and returns
-  // whether it is non-zero.
-  bool write(const ProfileBatch& batch);
-  // The same for operations that were decided upon what profile() has just returned: the file is not read
-  // once more between reading and writing, and a file that others changed in between is left as it is.
-  bool writeBehindReading(const ProfileBatch& batch);
-
-  // Makes the file `base` with all operations applied to it, whatever stands there now; a folder or another
-  // thing that is no file stays, and is a failure. Sets LastReturnCode and returns whether it is non-zero.
-  bool replace(const ProfileText& base, const ProfileBatch& batch);
-
-  // The file as it is now, for readers that go through many keys (events, rosters). Empty where Path cannot
-  // be read; `readOutcome` says why. The reference holds until the next call on this store.
-  const ProfileText& profile();
-  ReadOutcome readOutcome() const { return m_readOutcome; }
-  // Path as it was last read or written, without a look at the file; empty when that failed.
-  const ProfileText& known() const;
-
  private:
-  struct Copy {
-    ProfileText text;
-    FileStamp stamp;
-    bool isSettled = false; // false: changed so shortly before that an equal stamp proves nothing
-    std::uint64_t lastUse = 0;
-  };
-  Copy& copyOfPath();
-  [[nodiscard]] FileStamp knownStamp() const;
-  bool put(const ProfileText& before, ProfileText after);
+  void write(const ProfileBatch& batch);
   [[nodiscard]] std::string defaultText() const;
 
-  FileSystem& m_files;
+  ProfileStore& m_store;
   std::string m_path, m_section, m_key, m_default;
   std::int32_t m_lastReturnCode = 0;
-  ReadOutcome m_readOutcome = ReadOutcome::Absent;
-  std::map<std::string, Copy, std::less<>> m_copies;
-  std::uint64_t m_uses = 0;
-  std::set<std::string, std::less<>> m_undurable; // replaced, but the fsync of the folder failed
-  const ProfileText m_nothing;
 };
 
 } // namespace hooptab

@@ -130,7 +130,8 @@ void PlayerExchange::exportFile(QWidget* parent, const TeamSheet& sheet, const Q
                      toQt(m_texts.withPlaceholder(Text::ReplaceFile, shown))))
     return;
   // With a byte order mark, by which spreadsheets know that it is UTF-8.
-  if (!replaceWholeFile(m_files, fromQt(path), "\xEF\xBB\xBF" + playersCsv(sheet.players(), m_texts), stamp))
+  const std::string content = "\xEF\xBB\xBF" + playersCsv(sheet.players(), m_texts);
+  if (!replaceWholeFile(m_files, fromQt(path), content, stamp).isOnDisk())
     m_dialogs.complain(parent, toQt(m_texts.text(Text::ErrorTitle)),
                        toQt(m_texts.withPlaceholder(Text::NotWritten, shown)));
 }

@@ -1,6 +1,7 @@
 #include "teams/TeamStore.h"
 
 #include "storage/Module1.h"
+#include "storage/cinifile.h"
 #include "storage/codepage.h"
 
 #include <algorithm>
@@ -65,15 +66,15 @@ std::vector<ProfileText::Line> playerLines(const ProfileText& file, std::string_
 
 } // namespace
 
-TeamStore::TeamStore(cinifile& store, Settings& settings) : m_store(store), m_settings(settings) {}
+TeamStore::TeamStore(ProfileStore& store, Settings& settings) : m_store(store), m_settings(settings) {}
 
-const ProfileText& TeamStore::file() {
+ProfileText TeamStore::file() {
   return m_settings.content();
 }
 
 std::vector<TeamEntry> TeamStore::list() {
   std::vector<TeamEntry> teams;
-  const ProfileText& text = file();
+  const ProfileText text = file();
   for (const ProfileText::Line& line : teamLines(text)) {
     if (line.value.size() <= kLongestAbsent)
       continue;
@@ -85,13 +86,15 @@ std::vector<TeamEntry> TeamStore::list() {
 }
 
 TeamRecord TeamStore::read(std::string_view key) {
-  const auto value = file().value(kTeams, codepage::fromUtf8(key));
+  const ProfileText text = file();
+  const auto value = text.value(kTeams, codepage::fromUtf8(key));
   return parseTeam(value ? readable(*value) : std::string());
 }
 
 std::vector<TeamPlayer> TeamStore::players(std::string_view key) {
   std::vector<TeamPlayer> players;
-  for (const ProfileText::Line& line : playerLines(file(), codepage::fromUtf8(key))) {
+  const ProfileText text = file();
+  for (const ProfileText::Line& line : playerLines(text, codepage::fromUtf8(key))) {
     std::string stored = codepage::toUtf8(line.value);
     PlayerRecord record = recordOf(stored);
     players.push_back({codepage::toUtf8(line.name), std::move(record), std::move(stored)});
@@ -101,7 +104,8 @@ std::vector<TeamPlayer> TeamStore::players(std::string_view key) {
 
 int TeamStore::freeId() {
   std::set<int> taken;
-  for (const ProfileText::Line& line : teamLines(file())) {
+  const ProfileText text = file();
+  for (const ProfileText::Line& line : teamLines(text)) {
     const int id = idOf(line.name);
     if (id > 0 && Module1::trimmed(line.value) == "0")
       return id;

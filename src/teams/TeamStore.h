@@ -38,7 +38,7 @@ struct TeamPlayer {
 
 class TeamStore {
  public:
-  TeamStore(cinifile& store, Settings& settings);
+  TeamStore(ProfileStore& store, Settings& settings);
 
   // In file order, without values of three characters or fewer.
   [[nodiscard]] std::vector<TeamEntry> list();
@@ -57,13 +57,13 @@ class TeamStore {
   [[nodiscard]] bool remove(int id);
 
   const Settings& settings() const { return m_settings; }
-  cinifile& store() const { return m_store; }
+  ProfileStore& store() const { return m_store; }
 
  private:
-  [[nodiscard]] const ProfileText& file();
+  [[nodiscard]] ProfileText file();
   [[nodiscard]] int freeId();
 
-  cinifile& m_store;
+  ProfileStore& m_store;
   Settings& m_settings;
 };
 

@@ -14,11 +14,11 @@ GameFileProblem ManualGame::open(const std::string& path, Access access) {
     m_rosters[team] = std::move(game.roster[team]);
   totals.load(m_rosters[0], m_rosters[1], game.events);
   m_saved = totals;
-  m_guard.begin(path);
+  m_guard.begin(path, file.text());
   m_isLost = false;
   m_isWatching = true;
   m_hasSaved = false;
-  m_isWaiting = false;
+  m_pending.clear();
   m_foreign = {};
   return GameFileProblem::None;
 }
@@ -28,7 +28,8 @@ bool ManualGame::save() {
     return false;
   m_saved = totals;
   m_hasSaved = true;
-  m_isWaiting = true;
+  if (m_pending.isEmpty())
+    m_pending.add();
   return settle();
 }
 
@@ -36,27 +37,38 @@ bool ManualGame::settle() {
   if (isForReading() || !m_isWatching)
     return isOnDisk();
   m_isLost = m_isLost || (m_isOurs && !m_isOurs());
-  const FileGuard::Found found = m_isLost ? FileGuard::Found::OutOfReach : m_guard.look();
+  if (m_isLost)
+    return isOnDisk();
+  const FileGuard::Found found = m_guard.look();
+  const std::int64_t now = m_store.files().nowNanoseconds();
+  if (found == FileGuard::Found::OutOfReach)
+    m_pending.refuse(m_guard.obstacle(), now);
   const bool isGone = found == FileGuard::Found::Gone || found == FileGuard::Found::Unusable;
   const bool isMissing = isGone || (m_hasSaved && isTouched(found)); // of what this window left there
-  if (found == FileGuard::Found::OutOfReach || (!m_isWaiting && !isMissing))
+  if (found == FileGuard::Found::OutOfReach || (isOnDisk() && !isMissing))
     return isOnDisk();
 
   ProfileBatch batch;
   if (m_hasSaved)
     GameFile::planLines(ManualTotals::kPeriod, m_saved.lines(), batch);
-  bool isWritten = false;
+  WriteResult written;
   if (isGone) {
-    isWritten = m_guard.rewrite(batch);
-    m_foreign.isRewritten = m_foreign.isRewritten || isWritten;
+    written = m_guard.rewrite(batch);
+    m_foreign.isRewritten = m_foreign.isRewritten || written.isOnDisk();
   } else {
     const bool gaveWay = isTouched(found);
-    isWritten = (!gaveWay || m_guard.keepFound()) && m_guard.write(batch);
-    m_foreign.gaveWay = m_foreign.gaveWay || (gaveWay && isWritten);
+    if (gaveWay)
+      written = m_guard.keepFound();
+    if (written.isOnDisk())
+      written = m_guard.write(batch);
+    m_foreign.gaveWay = m_foreign.gaveWay || (gaveWay && written.isOnDisk());
   }
   if (std::string kept = m_guard.takeKeptAs(); !kept.empty())
     m_foreign.keptAs = std::move(kept);
-  m_isWaiting = m_isWaiting && !isWritten;
+  if (written.isOnDisk())
+    m_pending.clear();
+  else
+    m_pending.refuse(written.error(), now);
   return isOnDisk();
 }
 
@@ -69,7 +81,7 @@ bool ManualGame::isTouched(FileGuard::Found found) {
 bool ManualGame::writeCopy(const std::string& path) {
   ProfileBatch batch;
   GameFile::planLines(ManualTotals::kPeriod, totals.lines(), batch);
-  return m_guard.writeCopy(path, batch);
+  return m_guard.writeCopy(path, batch).isOnDisk();
 }
 
 } // namespace hooptab

@@ -5,6 +5,7 @@
 
 #include "game/GameFile.h"
 #include "storage/FileGuard.h"
+#include "storage/PendingWrites.h"
 #include "totals/ManualTotals.h"
 
 #include <functional>
@@ -15,7 +16,7 @@ namespace hooptab {
 
 class ManualGame {
  public:
-  explicit ManualGame(cinifile& store) : m_store(store), m_guard(store, isGame) {}
+  explicit ManualGame(ProfileStore& store) : m_store(store), m_guard(store, isGame) {}
   ManualGame(const ManualGame&) = delete; // what waits to be written refers to this object
   ManualGame& operator=(const ManualGame&) = delete;
 
@@ -31,7 +32,8 @@ class ManualGame {
 
   // Everything was handed over to be saved; it may still wait for the disk.
   bool isSaved() const { return totals == m_saved; }
-  bool isOnDisk() const { return !m_isWaiting; }
+  bool isOnDisk() const { return m_pending.isEmpty(); }
+  const PendingWrites& pending() const { return m_pending; }
   // Both return whether everything that was saved is on disk. The second also brings back what was saved when
   // the file has lost it.
   bool save();
@@ -54,7 +56,7 @@ class ManualGame {
  private:
   [[nodiscard]] bool isTouched(FileGuard::Found found);
 
-  cinifile& m_store;
+  ProfileStore& m_store;
   std::string m_path;
   Access m_access = Access::Entering;
   GameDetails m_details;
@@ -65,7 +67,7 @@ class ManualGame {
   bool m_isLost = false;
   bool m_isWatching = true;
   bool m_hasSaved = false;
-  bool m_isWaiting = false; // what was saved, for the disk
+  PendingWrites m_pending; // what was saved last, and nothing older
   ForeignHands m_foreign;
 };
 

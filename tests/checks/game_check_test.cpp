@@ -258,14 +258,15 @@ TEST(GameCheck, SumsUpWhatComesOften) {
 // Recorded by people who did it well: a check that cries wolf would be of no use at the table.
 TEST(GameCheckOfRealGames, IsQuiet) {
   FileSystem disk;
-  cinifile store(disk);
+  ProfileStore store(disk);
   std::size_t events = 0;
   std::size_t doubtful = 0;
   for (const auto& path : sharedGames()) {
     Game game;
-    ASSERT_EQ(GameFile(store, path.string()).read(game), GameFileProblem::None);
+    GameFile file(store, path.string());
+    ASSERT_EQ(file.read(game), GameFileProblem::None);
     events += game.events.size();
-    for (const Finding& finding : checkGame(game, store.profile(), {})) {
+    for (const Finding& finding : checkGame(game, file.text(), {})) {
       EXPECT_FALSE(finding.isWrong()) << path << ": " << words(game, {finding})[0];
       ++doubtful;
     }

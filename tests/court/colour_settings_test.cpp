@@ -60,7 +60,7 @@ class ColourSettingsTest : public testing::Test {
 
   TemporaryFolder folder;
   FaultyFileSystem disk;
-  cinifile store{disk};
+  ProfileStore store{disk};
   Texts texts;
   Settings settings{store, folder.path()};
   ScriptedDialogs dialogs;

@@ -99,7 +99,7 @@ TEST_F(FormFaultsTest, PaperWithoutAFormIsRefused) {
 TEST_F(FormFaultsTest, OtherPagesOfOursAreRefused) {
   const TemporaryFolder folder;
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   const Settings settings(store, folder.path());
   const Texts texts;
   const Game game = crowdedGame(1);

@@ -377,7 +377,7 @@ TEST(ScanReport, NamesWhatIsDoubtfulAndWhatWasChanged) {
   scanned.assign(0, 1);
   const TemporaryFolder folder;
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   const Settings settings(store, folder.path());
   Texts texts;
   for (const Language language : {Language::English, Language::French}) {

@@ -29,7 +29,7 @@ class GameFileTest : public testing::Test {
   }
   TemporaryFolder m_folder;
   FileSystem m_files;
-  cinifile m_store{m_files};
+  ProfileStore m_store{m_files};
   GameFile m_file{m_store, m_folder.path("g.GAM")};
 };
 
@@ -86,7 +86,7 @@ TEST_F(GameFileTest, AppendingAdvancesTheCounter) {
 TEST_F(GameFileTest, AnEventReadsItsFileOnce) {
   gameWith(fiveAside("1=10:00,DEPART\r\n"));
   FaultyFileSystem counting;
-  cinifile store(counting);
+  ProfileStore store(counting);
   GameFile file(store, m_file.path());
   int number = file.nextNumber();
   for (int event = 0; event < 3; ++event, ++number) {

@@ -14,7 +14,7 @@ namespace {
 class Truth : public testing::TestWithParam<std::filesystem::path> {
  protected:
   void SetUp() override {
-    cinifile store(m_files);
+    ProfileStore store(m_files);
     GameFile file(store, GetParam().string());
     ASSERT_EQ(file.read(m_game), GameFileProblem::None);
     ASSERT_EQ(Tally::run(m_state, m_game.events, m_game.roster[0], m_game.roster[1]), std::nullopt);

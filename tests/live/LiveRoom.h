@@ -33,7 +33,7 @@ class LiveRoom : public testing::Test {
     details.periods = 4;
     details.minutesPerPeriod = 10;
     FileSystem plain;
-    cinifile own{plain};
+    ProfileStore own{plain};
     ASSERT_EQ(GameFile(own, path).create(details, players, players), GameFileProblem::None);
   }
   static void showActive(QWidget& window) {
@@ -55,7 +55,7 @@ class LiveRoom : public testing::Test {
 
   TemporaryFolder folder;
   Disk disk;
-  cinifile store{disk};
+  ProfileStore store{disk};
   ManualTime time;
   Texts texts;
   Settings settings{store, folder.path()};

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSpinBox>
+#include <cerrno>
 
 namespace hooptab {
 namespace {
@@ -201,7 +202,11 @@ TEST_F(ScorePanelTest, SaysInWordsWhatIsNotOnDiskInTheLanguageInUse) {
   NowStrip strip(texts);
   strip.showGame(live);
   const auto* said = strip.findChild<QLabel*>(QStringLiteral("lblDISK"));
-  strip.showDisk(false, 3);
+  PendingWrites pending;
+  for (int change = 0; change < 3; ++change)
+    pending.add();
+  pending.refuse({StorageError::Call::Write, ENOSPC, "/stick/A.GAM"}, 0);
+  strip.showDisk(pending);
   EXPECT_EQ(said->text(), QStringLiteral("Saved ✕"));
   EXPECT_EQ(said->palette().color(QPalette::WindowText), Theme::missed());
   texts.setLanguage(Language::French);
@@ -210,8 +215,11 @@ TEST_F(ScorePanelTest, SaysInWordsWhatIsNotOnDiskInTheLanguageInUse) {
   relabel(strip, texts);
   strip.relabelStrip();
   EXPECT_TRUE(said->toolTip().contains(QStringLiteral("disque : 3")));
+  EXPECT_EQ(said->accessibleDescription(), QStringLiteral("Raison : le disque est plein (/stick/A.GAM)."));
+  EXPECT_TRUE(said->toolTip().endsWith(said->accessibleDescription()));
   EXPECT_EQ(button("cmdSTART")->text(), QStringLiteral("DÉPART"));
-  strip.showDisk(true, 0);
+  pending.clear();
+  strip.showDisk(pending);
   EXPECT_EQ(said->text(), QStringLiteral("Sauvegardé ✓"));
 }
 

@@ -106,7 +106,7 @@ class LiveWindowTest : public LiveRoom<FaultyFileSystem> {
   std::string events(int period = 1) { return eventsOf(path, period); }
   // The events of a period on disk behind those that put the fives on court: clock and code.
   std::string eventsOf(const std::string& where, int period = 1) {
-    cinifile own{plain};
+    ProfileStore own{plain};
     std::string text;
     int number = 0;
     const PeriodLines lines = linesOfFile(own, where)[period];
@@ -245,6 +245,7 @@ TEST_F(LiveWindowTest, AFolderThatIsGoneForAWhileLosesNothing) {
     press(name);
   }
   EXPECT_TRUE(find("lblNOTONDISK").isVisible());
+  EXPECT_EQ(find("lblNOTONDISK").toolTip(), toQt(texts.withPlaceholder(Text::WhyPlaceGone, path)));
   EXPECT_EQ(label("lblFAUTE(0)"), "1") << "input goes on";
   toggleClock();
   dialogs.nextAnswer = false;
@@ -318,7 +319,7 @@ TEST_F(LiveWindowTest, AnotherGameWaitsForTheFirst) {
   const std::string before = eventsOf(path);
   press("cmdBUTTF(0)");
   EXPECT_EQ(eventsOf(path), before);
-  cinifile theirs{plain};
+  ProfileStore theirs{plain};
   GameFile file(theirs, path);
   ASSERT_EQ(file.append(1, 500, file.nextNumber(), {",GF3,1-4,60,80"}), GameFileProblem::None);
   EXPECT_TRUE(QTest::qWaitFor([&] { return label("lblPTS1") == "3"; }, 8000)) << "it follows the file";
@@ -375,8 +376,7 @@ TEST_F(LiveWindowTest, ACountThatIsTooLargeIsNamed) {
   ProfileBatch batch;
   GameFile::planLines(1, std::vector<std::string>(32'768, "10:00,STO,0-4"), batch);
   batch.set("DETAILS", "TERMINE", "0");
-  store.Path(many);
-  ASSERT_TRUE(store.write(batch));
+  ASSERT_TRUE(store.write(many, batch).isOnDisk());
   open(many);
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_TRUE(dialogs.shown[0].text.contains(QStringLiteral("many.GAM")));

@@ -52,7 +52,7 @@ class OpenManualGame : public testing::Test {
   TemporaryFolder folder;
   std::string path;
   FileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   Texts texts;
   Settings settings{store, folder.path()};
   ScriptedDialogs dialogs;

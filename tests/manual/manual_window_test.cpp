@@ -239,6 +239,8 @@ TEST_F(ManualWindowTest, LosesNothingWithoutAQuestion) {
   dialogs.nextSaveChoice = SaveChoice::Save;
   EXPECT_FALSE(window->agreesToClose());
   EXPECT_TRUE(find<QLabel>("lblNOTONDISK").isVisible());
+  EXPECT_EQ(fromQt(find<QLabel>("lblNOTONDISK").toolTip()),
+            texts.withPlaceholder(Text::WhyNotPermitted, path));
   EXPECT_EQ(dialogs.shown.back().kind, Kind::Ask);
   QSignalSpy saved(window.get(), &frmMANUAL::saved);
   fs::permissions(path, fs::perms::owner_all);

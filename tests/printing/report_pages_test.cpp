@@ -107,7 +107,7 @@ class ReportPagesTest : public testing::Test {
 
   TemporaryFolder folder;
   FileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   Texts texts;
   Settings settings{store, folder.path()};
 };

@@ -81,7 +81,7 @@ class LiveTableTest : public testing::Test {
 
   TemporaryFolder folder;
   TableDisk disk;
-  cinifile store{disk};
+  ProfileStore store{disk};
   ManualTime time;
   std::string path = folder.path("live.GAM");
   GameSession session{store, time};

@@ -30,7 +30,7 @@ class ForeignHandsTest : public LiveTableTest {
   std::string found() { return found(path); }
   std::string found(const std::string& file) {
     FileSystem own;
-    cinifile fresh(own);
+    ProfileStore fresh(own);
     std::string text;
     const PeriodLines lines = linesOfFile(fresh, file)[1];
     for (const auto& [key, line] : lines)
@@ -40,7 +40,7 @@ class ForeignHandsTest : public LiveTableTest {
   // What is counted here is what anybody finds who opens the file.
   void expectTruth() {
     FileSystem own;
-    cinifile fresh(own);
+    ProfileStore fresh(own);
     Game game;
     ASSERT_EQ(GameFile(fresh, path).read(game), GameFileProblem::None);
     ASSERT_EQ(game.events.size(), live.game().events.size());

@@ -206,7 +206,7 @@ TEST_F(LeftGameTest, AStopWithWrongCountsIsLoud) {
 // once the call has returned.
 [[noreturn]] void recordUntilKilled(const std::string& path, int acknowledgements) {
   FileSystem disk;
-  cinifile store(disk);
+  ProfileStore store(disk);
   ManualTime time;
   LiveGame live(store, time);
   if (live.open(path) != GameFileProblem::None)

@@ -95,7 +95,7 @@ class Replay {
   const Game& m_original;
   TemporaryFolder m_folder;
   TableDisk m_disk;
-  cinifile m_store{m_disk};
+  ProfileStore m_store{m_disk};
   ManualTime m_time;
   std::string m_path = m_folder.path("replay.GAM");
 
@@ -117,7 +117,7 @@ class LiveReplay : public testing::TestWithParam<std::filesystem::path> {};
 
 TEST_P(LiveReplay, ComesOutAsTheOriginal) {
   FileSystem disk;
-  cinifile store(disk);
+  ProfileStore store(disk);
   Game original;
   ASSERT_EQ(GameFile(store, GetParam().string()).read(original), GameFileProblem::None);
   Replay replay(original);

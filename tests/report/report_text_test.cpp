@@ -4,7 +4,7 @@
 #include "storage/DelimitedText.h"
 
 #include "report/ReportGame.h"
-#include "storage/cinifile.h"
+#include "storage/ProfileStore.h"
 #include "support/SharedGames.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ class ReportTextTest : public testing::Test {
   }
 
   FileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   Texts texts;
   Settings settings{store, "/nowhere"};
 };

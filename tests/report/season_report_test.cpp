@@ -34,7 +34,7 @@ class SeasonReportTest : public testing::Test {
 
   SeasonFolder folder;
   FileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   Settings settings{store, "/nowhere"};
   Texts texts;
 };

@@ -3,7 +3,7 @@
 
 #include "game/GameFile.h"
 #include "storage/FileSystem.h"
-#include "storage/cinifile.h"
+#include "storage/ProfileStore.h"
 #include "support/TemporaryFolder.h"
 
 #include <string>
@@ -50,7 +50,7 @@ class ViewedGame {
 
   TemporaryFolder folder;
   FileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   GameFile file;
 };
 

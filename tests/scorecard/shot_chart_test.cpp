@@ -83,7 +83,7 @@ TEST(ShotSums, CountAShotOfTheOtherKindInTheNearestZoneOfItsOwn) {
 
 TEST(ShotSums, AgreeWithTheBoxScoreOfRealGames) {
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   for (const auto& path : realOrSampleGames()) {
     Scorecard card(store, path.string());
     ASSERT_EQ(card.load(), GameFileProblem::None) << path;

@@ -7,7 +7,7 @@
 #include "season/SeasonTableView.h"
 #include "settings/Settings.h"
 #include "simulator/SampleSeason.h"
-#include "storage/cinifile.h"
+#include "storage/ProfileStore.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 
@@ -26,11 +26,10 @@ class SeasonWindow : public testing::Test {
  protected:
   static void writeGames(const TemporaryFolder& into, int count, unsigned seed) {
     FileSystem files;
-    cinifile store{files};
+    ProfileStore store{files};
     const SampleSeason season(count, seed);
     for (int i = 0; i < count; ++i) {
-      store.Path(into.path(std::to_string(i) + ".GAM"));
-      ASSERT_TRUE(store.write(season.game(i).batch()));
+      ASSERT_TRUE(store.write(into.path(std::to_string(i) + ".GAM"), season.game(i).batch()).isOnDisk());
     }
   }
   void makeWindow() {
@@ -69,7 +68,7 @@ class SeasonWindow : public testing::Test {
 
   TemporaryFolder programFolder;
   FileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   Settings settings{store, programFolder.path()};
   Texts texts;
   ScriptedDialogs dialogs;

@@ -155,7 +155,7 @@ TEST_F(SeasonDeskTest, FollowsAStatisticGameByGame) {
 TEST(SeasonWords, TellTheColumnsApart) {
   const TemporaryFolder place;
   FileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   const Settings settings(store, place.path());
   Texts texts;
   for (const Language language : {Language::English, Language::French}) {

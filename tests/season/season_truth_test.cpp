@@ -217,12 +217,11 @@ TEST(SimulatedSeason, TablesAgreeWithASlowCountOfTheEventLines) {
   const SampleSeason simulated(kGames, 99);
   TemporaryFolder folder;
   UnsyncedFileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   PlainSeason plain;
   for (int i = 0; i < kGames; ++i) {
     const std::string name = std::to_string(i) + ".GAM";
-    store.Path(folder.path(name));
-    ASSERT_TRUE(store.write(simulated.game(i).batch()));
+    ASSERT_TRUE(store.write(folder.path(name), simulated.game(i).batch()).isOnDisk());
     plain.add(folder.read(name));
   }
   GameCatalogue catalogue(files);

@@ -2,6 +2,7 @@
 
 #include "storage/Module1.h"
 #include "storage/PathText.h"
+#include "storage/cinifile.h"
 #include "storage/codepage.h"
 #include "support/TemporaryFolder.h"
 
@@ -35,9 +36,11 @@ class Disk : public FileSystem {
 
 class SettingsTest : public testing::Test {
  protected:
+  SettingsTest() { file.Path(folder.path("CONFIG.INI")); }
   TemporaryFolder folder;
   Disk disk;
-  cinifile store{disk};
+  ProfileStore store{disk};
+  cinifile file{store};
   Texts texts;
   Settings settings{store, folder.path()};
 
@@ -46,11 +49,9 @@ class SettingsTest : public testing::Test {
     return {settings.twoPointColour, settings.boxColour, settings.threePointColour, settings.buttonColour};
   }
   std::string value(const std::string& section, const std::string& key) {
-    store.Path(folder.path("CONFIG.INI"));
-    store.Section(section);
-    store.Key(key);
-    store.Default("");
-    return store.Value();
+    file.Section(section);
+    file.Key(key);
+    return file.Value();
   }
 };
 
@@ -100,8 +101,8 @@ TEST_F(SettingsTest, AFirstStartWritesFiftyOnePlayersWhoseRecordsHaveAllFields) 
   int otherGrades = 0;
   for (const auto& [id, jerseysAndGrade] : teams) {
     const auto& [expected, grade] = jerseysAndGrade;
-    store.Section(id);
-    std::string jerseys = store.INISection();
+    file.Section(id);
+    std::string jerseys = file.INISection();
     std::ranges::replace(jerseys, '\0', ' ');
     EXPECT_EQ(jerseys, expected) << id;
     std::istringstream list(jerseys);
@@ -184,7 +185,7 @@ TEST_F(SettingsTest, SavedChoicesAndFoldersAreThereAtTheNextStart) {
     settings.lastGameFolder = folder.path(name);
     std::filesystem::create_directory(settings.lastGameFolder);
     ASSERT_TRUE(settings.saveLastFolders());
-    cinifile otherStore(disk);
+    ProfileStore otherStore(disk);
     Settings next(otherStore, folder.path());
     EXPECT_EQ(next.prepare(texts), Settings::Preparation::AlreadyThere);
     EXPECT_EQ(next.lastGameFolder, folder.path(name));

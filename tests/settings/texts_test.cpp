@@ -1,3 +1,4 @@
+#include "settings/StorageWords.h"
 #include "settings/Texts.h"
 
 #include "resources/tables.h"
@@ -6,6 +7,7 @@
 #include "storage/codepage.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <map>
@@ -13,6 +15,7 @@
 #include <sstream>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace hooptab {
 namespace {
@@ -188,6 +191,23 @@ TEST(Texts, FollowTheLanguageInUseAndFillEveryPlaceOnce) {
   EXPECT_EQ(texts.withPlaceholder(Text::LoadingGames, "12"), "Loading the 12 Games Found...");
   EXPECT_EQ(withPlaceholders(english(1801), "YYY", "XXX"), "YYY: XXX");
   EXPECT_EQ(withPlaceholders("ZZZ of XXX, XXXX, YY", "YYYY", "-", "XXX"), "XXX of YYYY, YYYYX, YY");
+}
+
+TEST(Texts, SayWhyTheDiskRefused) {
+  using Call = StorageError::Call;
+  const Texts texts;
+  EXPECT_EQ(storageWords({}, texts), "");
+  EXPECT_EQ(storageWords({Call::Read, EIO, "/a"}, texts), "Reason: Input/output error (/a).");
+  const std::vector<std::pair<std::string, std::vector<StorageError>>> kinds = {
+      {"full", {{Call::Write, ENOSPC, "/a"}, {Call::Sync, EDQUOT, "/a"}}},
+      {"permit", {{Call::Open, EACCES, "/a"}, {Call::Rename, EPERM, "/a"}, {Call::WriteProtected, 0, "/a"}}},
+      {"read-only", {{Call::Open, EROFS, "/a"}}},
+      {"no longer there",
+       {{Call::Open, ENOENT, "/a"}, {Call::Stamp, ENODEV, "/a"}, {Call::Open, ENOTDIR, "/a"}}}};
+  for (const auto& [word, errors] : kinds) {
+    for (const StorageError& error : errors)
+      EXPECT_NE(storageWords(error, texts).find(word), std::string::npos) << storageWords(error, texts);
+  }
 }
 
 TEST(Texts, TakeTheOldOffsetForFrench) {

@@ -60,7 +60,7 @@ class NewGameTest : public testing::Test {
 
   TemporaryFolder folder;
   FaultyFileSystem files;
-  cinifile profile{files};
+  ProfileStore profile{files};
   Texts texts;
   Settings settings{profile, folder.path()};
   TeamStore store{profile, settings};

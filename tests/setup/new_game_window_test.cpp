@@ -80,7 +80,7 @@ class NewGameWindowTest : public testing::Test {
 
   TemporaryFolder folder;
   FileSystem files;
-  cinifile profile{files};
+  ProfileStore profile{files};
   Texts texts;
   Settings settings{profile, folder.path()};
   TeamStore store{profile, settings};

@@ -22,6 +22,7 @@
 #include "shell/InstanceLock.h"
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
+#include "storage/cinifile.h"
 #include "support/ScriptedDialogs.h"
 #include "teams/frmEQUIPES.h"
 
@@ -147,15 +148,16 @@ class MainWindowTest : public testing::Test {
   QList<frmVIEW*> scorecards() { return area().findChildren<frmVIEW*>(); }
   QString text(Text number) { return toQt(texts.text(number)); }
   std::string setting(const char* key) {
-    store.Path(settings->path());
-    store.Section("CONFIGURATION");
-    store.Key(key);
-    return store.Value();
+    cinifile file(store);
+    file.Path(settings->path());
+    file.Section("CONFIGURATION");
+    file.Key(key);
+    return file.Value();
   }
 
   QTemporaryDir programFolder, games, installed;
   FileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   Texts texts;
   ScriptedDialogs dialogs;
   SystemTime time;
@@ -814,6 +816,8 @@ TEST_F(MainWindowTest, SaysWhatIsNotOnDiskAndWritesItWhenItCan) {
   action("tbLANGUE").trigger();
   EXPECT_TRUE(unsaved.isVisible());
   EXPECT_FALSE(unsaved.text().isEmpty());
+  EXPECT_EQ(unsaved.accessibleDescription(),
+            toQt(texts.withPlaceholder(Text::WhyNotPermitted, settings->path())));
   EXPECT_EQ(texts.language(), Language::French) << "the choice counts all the same";
   EXPECT_EQ(setting("LANGUE"), "0");
   EXPECT_FALSE(window->close()) << "the user stays";

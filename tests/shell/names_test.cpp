@@ -179,7 +179,7 @@ class NamesTest : public testing::Test {
 
   TemporaryFolder folder, games;
   FileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   Texts texts;
   Settings settings{store, folder.path()};
   ScriptedDialogs dialogs;

@@ -11,7 +11,7 @@ class WindowMemoryTest : public testing::Test {
  protected:
   TemporaryFolder folder;
   FileSystem disk;
-  cinifile store{disk};
+  ProfileStore store{disk};
   WindowMemory memory{store, folder.path()};
 
   // What the next start of the program finds.

@@ -207,14 +207,13 @@ TEST(TallyOfSimulatedGames, SumsAgree) {
 class SimulatedGameFile : public testing::Test {
  protected:
   std::string write(const SimulatedGame& game, const std::string& name) {
-    m_store.Path(m_folder.path(name));
-    EXPECT_TRUE(m_store.write(game.batch()));
+    EXPECT_TRUE(m_store.write(m_folder.path(name), game.batch()).isOnDisk());
     return m_folder.path(name);
   }
 
   TemporaryFolder m_folder;
   FileSystem m_files;
-  cinifile m_store{m_files};
+  ProfileStore m_store{m_files};
 };
 
 TEST_F(SimulatedGameFile, ReadsAsItWasPlayed) {

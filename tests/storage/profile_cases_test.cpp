@@ -89,7 +89,8 @@ class Script {
 
   TemporaryFolder folder;
   FileSystem files;
-  cinifile store{files};
+  ProfileStore profiles{files};
+  cinifile store{profiles};
 };
 
 constexpr std::pair<const char*, const char*> kOwnCases[] = {
@@ -144,7 +145,8 @@ TEST(Profile, BehavesAsOurOwnCasesSay) {
 TEST(Profile, KeyListsThatLeaveNoRoomForTheirEndAreCut) {
   TemporaryFolder folder;
   FileSystem files;
-  cinifile store(files);
+  ProfileStore profiles(files);
+  cinifile store(profiles);
   for (const std::size_t length : {9'996U, 9'997U, 9'998U, 9'999U, 10'000U}) {
     std::string whole;
     for (char name = 'a'; whole.size() < length; ++name)

@@ -38,7 +38,8 @@ class ProfileCopy : public testing::Test {
   TemporaryFolder folder;
   std::string path = folder.write("A.GAM", "[A]\nk=1\n");
   FaultyFileSystem files;
-  cinifile store{files};
+  ProfileStore profiles{files};
+  cinifile store{profiles};
 };
 
 TEST_F(ProfileCopy, SeesEveryChangeFromOutside) {
@@ -62,14 +63,15 @@ TEST_F(ProfileCopy, SeesEveryChangeFromOutside) {
   EXPECT_EQ(value(store), "3");
   std::filesystem::remove(path);
   EXPECT_EQ(value(store), "");
-  EXPECT_EQ(store.readOutcome(), ReadOutcome::Absent);
+  EXPECT_EQ(profiles.read(path).outcome, ReadOutcome::Absent);
   folder.write("A.GAM", "[A]\nk=4\n");
   EXPECT_EQ(value(store), "4");
 }
 
 TEST_F(ProfileCopy, TrustsACoarseClockOnlyAfterItMustHaveTicked) {
   CoarseFileSystem coarse;
-  cinifile onDrive(coarse);
+  ProfileStore drive(coarse);
+  cinifile onDrive(drive);
   onDrive.Path(path);
   EXPECT_EQ(value(onDrive), "1");
   onDrive.Value("6");
@@ -88,6 +90,21 @@ TEST_F(ProfileCopy, WritesOnTopOfWhatOthersWrote) {
   folder.write("A.GAM", "[A]\nj=2\n");
   store.Value("3");
   EXPECT_EQ(folder.read("A.GAM"), "[A]\nj=2\nk=3\r\n");
+}
+
+TEST_F(ProfileCopy, WritesNothingUponWhatIsNoLongerThere) {
+  const ProfileReading before = profiles.read(path);
+  folder.write("A.GAM", "[A]\nk=10\n");
+  for (const char* value : {"2", "1"}) { // the second one would change nothing in what was read
+    ProfileBatch batch;
+    batch.set("A", "k", value);
+    const ProfileWrite written = profiles.write(path, batch, before);
+    EXPECT_EQ(written.error(), (StorageError{StorageError::Call::ChangedMeanwhile, 0, path})) << value;
+    EXPECT_EQ(folder.read("A.GAM"), "[A]\nk=10\n");
+    EXPECT_TRUE(profiles.write(path, batch, profiles.read(path)).isOnDisk());
+    EXPECT_EQ(before.text.value("A", "k"), "1") << "what was read stays as it was";
+    folder.write("A.GAM", "[A]\nk=10\n");
+  }
 }
 
 TEST_F(ProfileCopy, AnUnchangedValueTouchesNothing) {

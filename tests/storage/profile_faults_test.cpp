@@ -1,5 +1,6 @@
-// Whatever the disk refuses, afterwards the file is the old one or the new one, and the return code tells.
-#include "storage/cinifile.h"
+// Whatever the disk refuses, afterwards the file is the old one or the new one, and the result tells which
+// call it was.
+#include "storage/ProfileStore.h"
 #include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"
 
@@ -23,14 +24,14 @@ ProfileBatch oneEvent() {
 
 class ProfileFaults : public testing::Test {
  protected:
-  ProfileFaults() { store.Path(folder.path("A.GAM")); }
   std::string fileOrAbsent() const { return folder.holds("A.GAM") ? folder.read("A.GAM") : "absent"; }
   std::size_t filesInFolder() const {
     return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder.path()), {}));
   }
   TemporaryFolder folder;
   FaultyFileSystem files;
-  cinifile store{files};
+  const std::string path = folder.path("A.GAM");
+  ProfileStore store{files};
 };
 
 // Every call fails in turn, with every kind of failure: once, or for good.
@@ -47,8 +48,7 @@ TEST_F(ProfileFaults, LeaveTheOldFileOrTheNewOne) {
           if (existsBefore)
             folder.write("A.GAM", kOld);
           files.reset();
-          cinifile fresh(files);
-          fresh.Path(folder.path("A.GAM"));
+          ProfileStore fresh(files);
           files.failAt = call;
           files.error = error;
           files.staysBroken = staysBroken;
@@ -57,15 +57,16 @@ TEST_F(ProfileFaults, LeaveTheOldFileOrTheNewOne) {
           if (existsBefore)
             batch = oneEvent();
           const std::string wanted(existsBefore ? kNew : "[DETAILS]\r\nEVENUM=3\r\n");
-          const bool isWritten = fresh.write(batch);
+          const ProfileWrite result = fresh.write(path, batch);
+          const bool isWritten = result.isOnDisk();
           const bool hasFailed = files.hasFailed;
-          EXPECT_EQ(isWritten, fresh.LastReturnCode() != 0);
+          EXPECT_EQ(result.error().number, isWritten ? 0 : error) << "cleaning up failed in other ways";
           const std::string standing = fileOrAbsent();
           EXPECT_TRUE(standing == wanted || (standing == old && !isWritten)) << standing;
           EXPECT_TRUE(staysBroken || filesInFolder() <= 1) << "a temporary file was left";
           // The disk works again: the same data are taken, and what had been left is gone.
           files.reset();
-          EXPECT_TRUE(fresh.write(batch));
+          EXPECT_TRUE(fresh.write(path, batch).isOnDisk());
           EXPECT_EQ(fileOrAbsent(), wanted);
           EXPECT_EQ(filesInFolder(), 1u);
           failures += isWritten ? 0 : 1;
@@ -83,12 +84,11 @@ TEST_F(ProfileFaults, ReadsThatFailGiveDefaultsAndNeverStaleOrHalfAFile) {
   for (int call = 0;; ++call) {
     files.reset();
     files.failAt = call;
-    cinifile fresh(files);
-    fresh.Path(folder.path("A.GAM"));
-    fresh.Section("DETAILS");
-    fresh.Key("EVENUM");
-    const std::string value = fresh.Value(); // before what came of it is asked
-    EXPECT_EQ(value, fresh.readOutcome() == ReadOutcome::Read ? "2" : "") << call;
+    ProfileStore fresh(files);
+    const ProfileReading reading = fresh.read(path);
+    const bool isRead = reading.outcome == ReadOutcome::Read;
+    EXPECT_EQ(reading.text.bytes(), isRead ? kOld : "") << call;
+    EXPECT_EQ(reading.error.number, isRead ? 0 : files.error) << call;
     if (!files.hasFailed)
       break;
   }
@@ -98,7 +98,7 @@ TEST_F(ProfileFaults, ShortAndInterruptedCallsAreContinued) {
   folder.write("A.GAM", kOld);
   files.interrupts = true;
   files.mostBytes = 7;
-  EXPECT_TRUE(store.write(oneEvent()));
+  EXPECT_TRUE(store.write(path, oneEvent()).isOnDisk());
   EXPECT_EQ(fileOrAbsent(), kNew);
 }
 
@@ -106,48 +106,47 @@ TEST_F(ProfileFaults, ShortAndInterruptedCallsAreContinued) {
 TEST_F(ProfileFaults, AReplacementThatMayNotLastIsRepeated) {
   folder.write("A.GAM", kOld);
   files.failAt = INT_MAX;
-  ASSERT_TRUE(store.write(oneEvent()));
+  ASSERT_TRUE(store.write(path, oneEvent()).isOnDisk());
   folder.write("A.GAM", kOld);
   files.failAt = files.calls * 2 - 2; // behind the folder's fsync it is only closed
-  ASSERT_FALSE(store.write(oneEvent()));
+  ASSERT_FALSE(store.write(path, oneEvent()).isOnDisk());
   ASSERT_EQ(fileOrAbsent(), kNew) << "the call that failed was not the folder's fsync";
   files.reset();
-  EXPECT_TRUE(store.write(oneEvent()));
+  EXPECT_TRUE(store.write(path, oneEvent()).isOnDisk());
   EXPECT_EQ(files.renames, 1);
-  EXPECT_TRUE(store.write(oneEvent()));
+  EXPECT_TRUE(store.write(path, oneEvent()).isOnDisk());
   EXPECT_EQ(files.renames, 1) << "what is on disk is not written again";
 }
 
 TEST_F(ProfileFaults, AreWhatMayNotBeWritten) {
-  const auto isRefused = [&](const std::string& path) {
-    store.Path(path);
-    return !store.write(oneEvent()) && store.LastReturnCode() == 0;
+  using Call = StorageError::Call;
+  const auto refusal = [&](const std::string& where) {
+    const ProfileWrite result = store.write(where, oneEvent());
+    EXPECT_FALSE(result.isOnDisk()) << where;
+    return std::pair(result.error().call, result.error().number);
   };
-  EXPECT_TRUE(isRefused(folder.path("none/A.GAM"))) << "a folder that is missing";
-  EXPECT_TRUE(isRefused(folder.path())) << "a folder";
-  EXPECT_TRUE(isRefused("")) << "no path";
-  EXPECT_TRUE(isRefused("/dev/null")) << "a device";
+  EXPECT_EQ(refusal(folder.path("none/A.GAM")), std::pair(Call::Open, ENOENT)) << "a folder that is missing";
+  EXPECT_EQ(refusal(folder.path()), std::pair(Call::NotAFile, 0)) << "a folder";
+  EXPECT_EQ(refusal(""), std::pair(Call::Rename, ENOENT)) << "no path";
+  EXPECT_EQ(refusal("/dev/null"), std::pair(Call::NotAFile, 0)) << "a device";
   ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
-  EXPECT_TRUE(isRefused(folder.path("pipe")));
-  EXPECT_EQ(store.readOutcome(), ReadOutcome::Failed);
+  EXPECT_EQ(refusal(folder.path("pipe")), std::pair(Call::NotAFile, 0));
+  EXPECT_EQ(store.read(folder.path("pipe")).outcome, ReadOutcome::Failed);
   ASSERT_EQ(::chmod(folder.write("A.GAM", kOld).c_str(), 0444), 0);
-  EXPECT_TRUE(isRefused(folder.path("A.GAM"))) << "no write permission bit";
+  EXPECT_EQ(refusal(path), std::pair(Call::WriteProtected, 0));
   EXPECT_EQ(fileOrAbsent(), kOld);
 
   std::filesystem::create_symlink(folder.path("taken out"), folder.path("link"));
-  EXPECT_TRUE(isRefused(folder.path("link"))) << "a link that leads nowhere";
+  EXPECT_EQ(refusal(folder.path("link")), std::pair(Call::Resolve, ENOENT)) << "a link that leads nowhere";
   EXPECT_TRUE(std::filesystem::is_symlink(folder.path("link")));
   folder.write("large", "[A]");
   std::filesystem::resize_file(folder.path("large"), std::uintmax_t{kLargestProfileFile} + 1);
-  EXPECT_TRUE(isRefused(folder.path("large")));
-  EXPECT_EQ(store.readOutcome(), ReadOutcome::TooLarge);
+  EXPECT_EQ(refusal(folder.path("large")), std::pair(Call::TooLarge, 0));
   EXPECT_EQ(std::filesystem::file_size(folder.path("large")), std::uintmax_t{kLargestProfileFile} + 1);
-  std::filesystem::remove(folder.path("A.GAM"));
-  store.Path(folder.path("B.GAM"));
-  store.Section("A");
-  store.Key("k");
-  store.Value(std::string(static_cast<std::size_t>(kLargestProfileFile), 'x'));
-  EXPECT_EQ(store.LastReturnCode(), 0) << "more than could be read again";
+  ProfileBatch tooMuch;
+  tooMuch.set("A", "k", std::string(static_cast<std::size_t>(kLargestProfileFile), 'x'));
+  EXPECT_EQ(store.write(folder.path("B.GAM"), tooMuch).error().call, Call::TooLarge)
+      << "more than could be read again";
   EXPECT_FALSE(folder.holds("B.GAM"));
 }
 
@@ -156,15 +155,15 @@ TEST_F(ProfileFaults, ReplacementKeepsModeLinkAndNeighbours) {
   ASSERT_EQ(::chmod(folder.path("real.GAM").c_str(), 0640), 0);
   std::filesystem::create_symlink("real.GAM", folder.path("A.GAM"));
   folder.write(".real.GAM.hooptab-new", "left by a kill");
-  EXPECT_TRUE(store.write(oneEvent()));
+  EXPECT_TRUE(store.write(path, oneEvent()).isOnDisk());
   EXPECT_TRUE(std::filesystem::is_symlink(folder.path("A.GAM")));
   EXPECT_EQ(folder.read("real.GAM"), kNew);
   EXPECT_EQ(filesInFolder(), 2u);
   struct stat status = {};
   ASSERT_EQ(::stat(folder.path("real.GAM").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777U, 0640U);
-  store.Path(folder.path(std::string(251, 'x') + ".GAM"));
-  EXPECT_TRUE(store.write(oneEvent())) << "the longest name that a file can have";
+  EXPECT_TRUE(store.write(folder.path(std::string(251, 'x') + ".GAM"), oneEvent()).isOnDisk())
+      << "the longest name that a file can have";
 }
 
 } // namespace

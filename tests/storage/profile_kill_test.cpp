@@ -19,16 +19,18 @@ std::string lineOf(int number) {
 // Appends events from where the file ends; each is acknowledged once its write has returned.
 [[noreturn]] void appendUntilKilled(const std::string& path, int acknowledgements) {
   FileSystem files;
-  cinifile store(files);
-  store.Path(path);
-  store.Section("DETAILS");
-  store.Key("EVENUM");
-  const std::string first = store.Value();
+  ProfileStore store(files);
+  cinifile key(store);
+  key.Path(path);
+  key.Section("DETAILS");
+  key.Key("EVENUM");
+  const std::string first = key.Value();
   for (int number = first.empty() ? 1 : std::stoi(first);; ++number) {
     ProfileBatch batch;
     batch.set("PERIODE1", std::to_string(number), lineOf(number));
     batch.set("DETAILS", "EVENUM", std::to_string(number + 1));
-    if (!store.write(batch) || ::write(acknowledgements, &number, sizeof number) != sizeof number)
+    if (!store.write(path, batch).isOnDisk() ||
+        ::write(acknowledgements, &number, sizeof number) != sizeof number)
       ::_exit(1);
   }
 }
@@ -84,7 +86,8 @@ TEST(ProfileKill, LosesNoAcknowledgedEventAndTearsNothing) {
   }
   EXPECT_GT(total, kRounds) << "too slow a disk to have tested anything";
   // What the last kill may have left is gone with the next write.
-  cinifile store(files);
+  ProfileStore profiles(files);
+  cinifile store(profiles);
   store.Path(folder.path("A.GAM"));
   store.Section("DETAILS");
   store.Key("TERMINE");

@@ -37,7 +37,7 @@ inline std::shared_ptr<const CountedGame> counted(const Game& game) {
 }
 
 // What the periods of a file hold: keys and whole lines.
-inline EventLines linesOfFile(cinifile& store, const std::string& path) {
+inline EventLines linesOfFile(ProfileStore& store, const std::string& path) {
   Game game;
   (void)GameFile(store, path).read(game);
   return linesOf(game.events);

@@ -22,7 +22,7 @@ class TeamStoreTest : public testing::Test {
 
   TemporaryFolder folder;
   FaultyFileSystem disk;
-  cinifile store{disk};
+  ProfileStore store{disk};
   Texts texts;
   Settings settings{store, folder.path()};
   TeamStore teams{store, settings};

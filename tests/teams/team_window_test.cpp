@@ -112,7 +112,7 @@ class TeamWindowTest : public testing::Test {
 
   TemporaryFolder folder;
   FileSystem disk;
-  cinifile store{disk};
+  ProfileStore store{disk};
   Texts texts;
   Settings settings{store, folder.path()};
   TeamStore teams{store, settings};

@@ -27,7 +27,7 @@ class ManualGameTest : public testing::Test {
 
   TemporaryFolder folder;
   FaultyFileSystem files;
-  cinifile store{files};
+  ProfileStore store{files};
   ManualGame game{store};
 };
 

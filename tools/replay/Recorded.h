@@ -30,7 +30,7 @@ class Recorded {
 
  private:
   FileSystem m_files;
-  cinifile m_store{m_files};
+  ProfileStore m_store{m_files};
   std::string m_path;
   Game m_game;
 };

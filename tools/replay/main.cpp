@@ -117,7 +117,7 @@ void openForInput(const Table& table) {
 
 int run(const Options& options) {
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   Game original;
   if (GameFile(store, options.game.string()).read(original) != GameFileProblem::None) {
     std::cout << "skipped: there is no game " << options.game << '\n';

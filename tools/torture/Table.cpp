@@ -7,7 +7,7 @@ namespace hooptab {
 
 void makeGame(const std::string& path) {
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   GameDetails details;
   details.periods = 4;
   details.minutesPerPeriod = 10;
@@ -24,7 +24,7 @@ void makeGame(const std::string& path) {
 
 int pointsIn(const std::string& path) {
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   Game game;
   if (GameFile(store, path).read(game) != GameFileProblem::None)
     return -1;

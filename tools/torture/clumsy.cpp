@@ -41,7 +41,7 @@ std::vector<fs::path> realGames(unsigned seed) {
 
 Game read(const fs::path& path) {
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   Game game;
   if (GameFile(store, path.string()).read(game) != GameFileProblem::None)
     throw ReplayFailure("the game cannot be read: " + path.string());
@@ -50,7 +50,7 @@ Game read(const fs::path& path) {
 
 void makeEmpty(const std::string& path, const Game& original) {
   FileSystem files;
-  cinifile store(files);
+  ProfileStore store(files);
   GameDetails details = original.details;
   details.isFinished = false;
   if (GameFile(store, path).create(details, original.roster[0].players(), original.roster[1].players()) !=

@@ -135,7 +135,7 @@ class Window {
 
   TemporaryFolder m_folder;
   FileSystem m_files;
-  cinifile m_store{m_files};
+  ProfileStore m_store{m_files};
   Texts m_texts;
   Settings m_settings{m_store, m_folder.path()};
   ScriptedDialogs m_dialogs;
