@@ -13,7 +13,7 @@ OnCourt Recorded::onCourt() const {
   const Rosters rosters{m_game.roster[0], m_game.roster[1]};
   OnCourt lists = {};
   for (const GameEvent& event : m_game.events) {
-    if (const auto own = onCourtOf(event.period, std::string(event.line), rosters))
+    if (const auto own = onCourtOf(event, rosters))
       lists = *own;
   }
   return lists;

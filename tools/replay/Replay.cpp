@@ -212,7 +212,7 @@ void Replay::toggleClock() {
 // The original's lists are a substitution or a stop.
 void Replay::stop(const GameEvent& event) {
   const Rosters rosters{m_original.roster[0], m_original.roster[1]};
-  const OnCourt wanted = *onCourtOf(event.period, std::string(event.line), rosters);
+  const OnCourt wanted = *onCourtOf(event, rosters);
   if (wanted == m_table.recorded.onCourt()) {
     if (m_isRunning)
       toggleClock();

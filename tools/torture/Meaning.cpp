@@ -35,7 +35,7 @@ Course courseOf(const Game& game) {
       course.isRunning = event.code == EventCode::DEPART;
     else
       course.deeds.push_back({&event, course.onCourt});
-    if (const auto lists = onCourtOf(event.period, std::string(event.line), rosters))
+    if (const auto lists = onCourtOf(event, rosters))
       course.onCourt = *lists;
   }
   return course;

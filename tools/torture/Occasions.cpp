@@ -48,7 +48,7 @@ std::optional<OnCourt> Occasions::exchange(const GameEvent& event, const OnCourt
   if (event.code != EventCode::ARRET)
     return std::nullopt;
   const Rosters rosters{m_original.roster[0], m_original.roster[1]};
-  const auto wanted = onCourtOf(event.period, std::string(event.line), rosters);
+  const auto wanted = onCourtOf(event, rosters);
   constexpr int kOneByOne = 2;
   int coming = 0;
   for (std::size_t team = 0; wanted && team < 2; ++team) {
