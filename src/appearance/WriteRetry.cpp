@@ -3,6 +3,8 @@
 #include "appearance/relabel.h"
 #include "settings/StorageWords.h"
 
+#include <QPointer>
+#include <QTextDocument>
 #include <QWidget>
 #include <chrono>
 #include <utility>
@@ -14,8 +16,10 @@ WriteRetry::WriteRetry(const PendingWrites& pending, FileSystem& files, QObject*
   m_timer.setSingleShot(true);
   m_timer.setTimerType(Qt::PreciseTimer); // one that comes too early would try twice
   connect(&m_timer, &QTimer::timeout, this, [this] {
+    const QPointer<WriteRetry> self(this); // what is written may end what waits for it
     emit due();
-    wait();
+    if (self != nullptr)
+      wait();
   });
 }
 
@@ -42,7 +46,8 @@ QString WriteRetry::reason(const Texts& texts) const {
 }
 
 void showReason(QWidget& widget, const QString& reason) {
-  widget.setToolTip(reason);
+  const bool looksLikeMarkup = Qt::mightBeRichText(reason); // a path may hold anything
+  widget.setToolTip(looksLikeMarkup ? QStringLiteral("<qt>%1</qt>").arg(reason.toHtmlEscaped()) : reason);
   widget.setAccessibleDescription(reason);
 }
 

@@ -10,19 +10,6 @@ namespace hooptab {
 
 namespace {
 
-// How many bytes of a line readers get: as many characters as the code page has bytes for.
-std::size_t readableLength(std::string_view line) {
-  if (line.size() <= cinifile::kLongestValue)
-    return line.size();
-  std::size_t characters = 0;
-  for (std::size_t place = 0; place < line.size(); ++place) {
-    const bool isContinued = (static_cast<unsigned char>(line[place]) & 0xC0U) == 0x80U;
-    if (!isContinued && ++characters > cinifile::kLongestValue)
-      return place;
-  }
-  return line.size();
-}
-
 struct OwnedEvent {
   std::shared_ptr<const std::string> text;
   GameEvent event;
@@ -31,7 +18,7 @@ OwnedEvent ownedEvent(int period, std::string_view key, std::string_view line) {
   auto text = std::make_shared<std::string>(key);
   text->append(line);
   const std::string_view all = *text;
-  const std::size_t length = readableLength(line);
+  const std::size_t length = readablePart(line).size();
   OwnedEvent owned{text, GameEvent::parse(period, all.substr(0, key.size()), all.substr(key.size(), length))};
   owned.event.unread = static_cast<std::uint32_t>(line.size() - length);
   return owned;
@@ -46,6 +33,18 @@ bool isEqual(const GameEvent& one, const GameEvent& other) {
 }
 
 } // namespace
+
+std::string_view readablePart(std::string_view line) {
+  if (line.size() <= cinifile::kLongestValue)
+    return line;
+  std::size_t characters = 0;
+  for (std::size_t place = 0; place < line.size(); ++place) {
+    const bool isContinued = (static_cast<unsigned char>(line[place]) & 0xC0U) == 0x80U;
+    if (!isContinued && ++characters > cinifile::kLongestValue)
+      return line.substr(0, place);
+  }
+  return line;
+}
 
 std::size_t EventList::partOf(std::size_t index) const {
   return static_cast<std::size_t>(std::ranges::upper_bound(m_periods, index, {}, &Part::end) -
@@ -129,7 +128,8 @@ EventList::Period& EventList::changed(int period) {
   if (place == m_periods.end() || place->period->number != period) {
     auto made = std::make_shared<Period>();
     made->number = period;
-    return *m_periods.insert(place, {std::move(made), 0})->period;
+    const std::size_t end = place == m_periods.begin() ? 0 : std::prev(place)->end;
+    return *m_periods.insert(place, {std::move(made), end})->period;
   }
   if (place->period.use_count() > 1)
     place->period = std::make_shared<Period>(*place->period);
@@ -166,6 +166,18 @@ void EventList::appendOwned(int period, std::string_view key, std::string_view l
   setEnds();
 }
 
+void EventList::setPeriod(int period, const PeriodLines& lines) {
+  Period& kept = changed(period);
+  kept.events.clear();
+  kept.texts.clear();
+  for (const auto& [key, line] : lines) {
+    OwnedEvent owned = ownedEvent(period, key, line);
+    kept.events.push_back(owned.event);
+    kept.texts.push_back(std::move(owned.text));
+  }
+  setEnds();
+}
+
 bool EventList::apply(const EventChange& change) {
   const bool isThere = find(change.period, change.key) != nullptr;
   if (isThere == (change.kind == EventChange::Kind::Add) ||
@@ -196,13 +208,6 @@ bool EventList::apply(const EventChange& change) {
                        owned.event);
   setEnds();
   return true;
-}
-
-EventLines linesOf(const EventList& events) {
-  EventLines lines;
-  for (const GameEvent& event : events)
-    lines[event.period].emplace_back(event.key, event.whole());
-  return lines;
 }
 
 } // namespace hooptab

@@ -103,8 +103,8 @@ class EventList {
     void seek(std::size_t index);
 
     const EventList* m_list = nullptr;
-    std::size_t m_begin =
-        0; // of the period, which goes from m_first to m_last; behind the last one it is null
+    // The period of the index, and the first of its events; behind the last one it is null.
+    std::size_t m_begin = 0;
     const GameEvent* m_first = nullptr;
     const GameEvent* m_last = nullptr;
     const GameEvent* m_here = nullptr;
@@ -124,13 +124,15 @@ class EventList {
 
   // --- Changing
 
-  // The events of a period that follow come from that text, at most so many.
+  // The events of a period that follow come from that text, at most so many; periods ascend.
   void beginPeriod(int period, std::shared_ptr<const std::string> text, std::size_t most);
   // One of the period that was begun last; the views point into its text. `line` is cut to what readers get,
   // `unread` bytes stand behind it.
   void append(std::string_view key, int keyNumber, std::string_view line, std::size_t unread);
   // At the end of a period; copies the text.
   void appendOwned(int period, std::string_view key, std::string_view line);
+  // The events of a period become these.
+  void setPeriod(int period, const PeriodLines& lines);
   // False, and nothing changed, when an event that the step names is not there, or a new one is.
   [[nodiscard]] bool apply(const EventChange& change);
 
@@ -147,7 +149,7 @@ class EventList {
   std::vector<Part> m_periods; // ascending
 };
 
-// Keys and whole lines, as a file has them.
-[[nodiscard]] EventLines linesOf(const EventList& events);
+// What readers get of a line in UTF-8: as many letters as the file may have bytes.
+[[nodiscard]] std::string_view readablePart(std::string_view line);
 
 } // namespace hooptab

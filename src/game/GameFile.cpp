@@ -137,7 +137,7 @@ void readEvents(const ProfileText& text, EventList& events) {
       if (!keys.isFirst(line) || line.kind != ProfileText::Line::Kind::KeyValue)
         continue;
       const std::string_view value = readable(line.value);
-      if (allAscii || (isAscii(value) && isAscii(line.name)))
+      if (allAscii || (isAscii(line.value) && isAscii(line.name)))
         events.append(line.name, keys.number(), value, line.value.size() - value.size());
       else
         events.appendOwned(period, codepage::toUtf8(line.name), codepage::toUtf8(line.value));
@@ -207,6 +207,10 @@ EventLines storedEventLines(const ProfileText& text) {
       lines[period].push_back(std::move(line));
   }
   return lines;
+}
+
+int nextNumberOf(const ProfileText& text) {
+  return highestNumber(text) + 1;
 }
 
 bool isGame(const ProfileText& text) {
@@ -316,7 +320,7 @@ GameFileProblem GameFile::create(const GameDetails& details, const std::vector<R
 }
 
 int GameFile::nextNumber() {
-  return open() == GameFileProblem::None ? highestNumber(text()) + 1 : 0;
+  return open() == GameFileProblem::None ? nextNumberOf(text()) : 0;
 }
 
 GameFileProblem GameFile::append(int period, int clockSeconds, int firstNumber,

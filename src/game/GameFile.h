@@ -103,6 +103,7 @@ class GameFile {
 void readGame(const ProfileText& text, Game& game);
 [[nodiscard]] AcceptedFindings readAccepted(const ProfileText& text);
 [[nodiscard]] EventLines storedEventLines(const ProfileText& text);
+[[nodiscard]] int nextNumberOf(const ProfileText& text); // as GameFile::nextNumber
 [[nodiscard]] bool isGame(const ProfileText& text);
 // The period whose events a section of that name holds; nothing for any other section.
 [[nodiscard]] std::optional<int> periodOfSection(std::string_view section);

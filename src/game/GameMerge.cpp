@@ -2,7 +2,6 @@
 
 #include "game/GameFile.h"
 #include "storage/Module1.h"
-#include "storage/cinifile.h"
 #include "storage/codepage.h"
 
 #include <algorithm>
@@ -55,17 +54,19 @@ class Merger {
     lookForShadowed(period);
 
     // Theirs that are new stand before the first of ours that follows them in their file, or behind all.
+    std::unordered_map<std::string, PeriodLines> before;
     PeriodLines waiting;
+    const int known = m_result.added;
     for (const auto& [storedKey, storedLine] : stored) {
       Line line(codepage::toUtf8(storedKey), codepage::toUtf8(storedLine));
-      const auto known = left.find(storedKey);
-      const bool isAsLeft = known != left.end() && known->second == storedLine;
+      const auto asItWas = left.find(storedKey);
+      const bool isAsLeft = asItWas != left.end() && asItWas->second == storedLine;
       if (isAsLeft)
-        left.erase(known);
+        left.erase(asItWas);
       if (const auto same = own.find(line.first); same != own.end()) {
         if (same->second != line.second && !isAsLeft)
           m_result.gaveWay.push_back({period, line.first});
-        insert(period, std::exchange(waiting, {}), line.first);
+        before[line.first] = std::exchange(waiting, {});
       } else if (isNew(period, line)) {
         waiting.push_back(std::move(line));
         ++m_result.added;
@@ -73,19 +74,23 @@ class Merger {
         m_result.gaveWay.push_back({period, line.first});
       }
     }
-    insert(period, waiting, {});
     m_result.restored += static_cast<int>(left.size());
-  }
+    if (m_result.added == known)
+      return;
 
-  void insert(int period, const PeriodLines& lines, const std::string& before) {
-    for (const auto& [key, line] : lines)
-      (void)m_result.events.apply({EventChange::Kind::Add, period, key, line, before});
+    PeriodLines both;
+    for (const GameEvent& event : ours) {
+      if (const auto inserted = before.find(std::string(event.key)); inserted != before.end())
+        std::ranges::move(inserted->second, std::back_inserter(both));
+      both.emplace_back(event.key, event.whole());
+    }
+    std::ranges::move(waiting, std::back_inserter(both));
+    m_result.events.setPeriod(period, both);
   }
 
   bool isNew(int period, const Line& line) {
     const int number = Module1::wholeNumber(line.first);
-    const std::string_view readable = std::string_view(line.second).substr(0, cinifile::kLongestValue);
-    return number > 0 && GameEvent::parse(period, line.first, readable).isUnderstood &&
+    return number > 0 && GameEvent::parse(period, line.first, readablePart(line.second)).isUnderstood &&
            m_numbers.insert(number).second;
   }
 

@@ -72,11 +72,8 @@ void LiveGame::showAsLeft() {
   }
   if (last != nullptr)
     m_flow.setClock(last->clockSeconds);
-  if (last != nullptr && last->code == EventCode::ARRET && last->clockSeconds == 0 && hasTime()) {
-    standIn(std::min(last->period, kLastPeriod)); // whose next one may have had a start that was taken back
-    m_flow.setClock(0);
+  if (last != nullptr && last->code == EventCode::ARRET && last->clockSeconds == 0 && hasTime())
     closePeriod();
-  }
   m_flow.unlock(); // that was long ago
   if (m_access == Access::Reading || game().details.isFinished) {
     m_flow.close(m_access == Access::Reading ? Phase::ReadOnly : Phase::Finished);

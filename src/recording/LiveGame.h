@@ -81,9 +81,8 @@ class LiveGame {
   bool setPeriod(int period);
   // After the buzzer, until START: back into the period that has ended, with its clock at 00:00.
   bool canReturnToEndedPeriod() const { return endedPeriod() > 0; }
-  int endedPeriod() const {
-    return m_flow.endedPeriod();
-  } // the one that has ended; 0: none, since the last start
+  // The one that has ended; 0: none, since the last start.
+  int endedPeriod() const { return m_flow.endedPeriod(); }
   bool returnToEndedPeriod();
   // From OvertimeAsked; 1 to 99 minutes.
   bool beginOvertime(int minutes, bool keepsFouls);

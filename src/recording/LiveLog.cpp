@@ -25,10 +25,10 @@ GameFileProblem LiveLog::open(const std::string& path) {
   Game game;
   if (const GameFileProblem problem = file.read(game); problem != GameFileProblem::None)
     return problem;
-  m_nextNumber = file.nextNumber();
+  m_nextNumber = nextNumberOf(file.text());
   m_game = std::move(game);
-  m_disk.open(path,
-              file.text()); // what another game still had to write is its own affair, and was asked about
+  // What another game still had to write is its own affair, and was asked about.
+  m_disk.open(path, file.text());
   m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
   countAll();
   m_news = {};

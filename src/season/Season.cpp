@@ -12,6 +12,7 @@ Season::Season(std::shared_ptr<const GameCatalogue> catalogue, std::vector<std::
       m_minimum(minimum) {
   if (watch.isCancelled())
     return;
+  watch.progress(0, 0); // nobody can tell how long what follows takes
   addLeaders(texts);
   if (watch.isCancelled())
     return;
@@ -39,7 +40,7 @@ SeasonPerson::SeasonPerson(std::shared_ptr<const Season> ofSeason, const SeasonR
       return;
     records.add(season->catalogue(), result, texts);
   }
-  if (!isLine)
+  if (!isLine && !watch.isCancelled())
     shots = shotsOfPlayer(season->catalogue(), results, row.id);
 }
 

@@ -3,7 +3,6 @@
 #include "storage/Placeholders.h"
 
 #include <cerrno>
-#include <system_error>
 
 namespace hooptab {
 
@@ -26,6 +25,7 @@ Text reasonOf(const StorageError& error) {
   case ENOENT:
   case ENODEV:
   case ENOTDIR: return Text::WhyPlaceGone;
+  case EIO: return Text::WhyDiskFails;
   default: return Text::WhyOther;
   }
 }
@@ -35,8 +35,7 @@ Text reasonOf(const StorageError& error) {
 std::string storageWords(const StorageError& error, const Texts& texts) {
   if (error.call == StorageError::Call::None)
     return {};
-  return withPlaceholders(texts.text(reasonOf(error)), error.path,
-                          std::generic_category().message(error.number));
+  return withPlaceholders(texts.text(reasonOf(error)), error.path, std::to_string(error.number));
 }
 
 } // namespace hooptab

@@ -54,6 +54,10 @@ WelcomePage::WelcomePage(const StartCommands& commands, RecentPaths recentPaths,
     : QWidget(parent), m_recentPaths(std::move(recentPaths)), m_files(files), m_texts(texts),
       m_scroll(new QScrollArea(this)) {
   setObjectName(QStringLiteral("welcome"));
+  connect(&m_task, &Task::finished, this, [this] {
+    if (m_isStale)
+      read();
+  });
   m_scroll->setFrameShape(QFrame::NoFrame);
   m_scroll->setWidgetResizable(true);
   m_scroll->setFocusPolicy(Qt::NoFocus);
@@ -167,6 +171,9 @@ void WelcomePage::showEvent(QShowEvent* event) {
 }
 
 void WelcomePage::read() {
+  m_isStale = m_task.isRunning(); // on a slow disk what is being read is shown first
+  if (m_isStale)
+    return;
   m_task.start([this, &files = m_files, paths = m_recentPaths()](const TaskWatch& watch) -> Task::Delivery {
     return [this, games = readRecentGames(files, paths, watch)] { showGames(games); };
   });

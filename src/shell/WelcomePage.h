@@ -83,7 +83,8 @@ class WelcomePage : public QWidget {
   QBoxLayout* m_body = nullptr;
   QBoxLayout* m_left = nullptr;
   QBoxLayout* m_right = nullptr;
-  Task m_task; // the last: it waits for its thread before all else goes
+  bool m_isStale = false; // to be read once more
+  Task m_task;            // the last: it waits for its thread before all else goes
 };
 
 } // namespace hooptab

@@ -117,7 +117,8 @@ void ManualTotals::load(const Roster& visitors, const Roster& home, const EventL
   }
   m_linesElsewhere = events.size() - events.ofPeriod(kPeriod).size();
   for (const GameEvent& event : events.ofPeriod(kPeriod)) {
-    if (!count(event, visitors, home))
+    // Under whatever key: saving numbers all lines anew.
+    if (!count(GameEvent::parse(kPeriod, "1", event.whole()), visitors, home))
       m_kept.emplace_back(event.whole());
   }
 }

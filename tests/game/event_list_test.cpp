@@ -1,4 +1,5 @@
 #include "game/EventList.h"
+#include "support/TextGame.h"
 
 #include <gtest/gtest.h>
 
@@ -123,6 +124,22 @@ TEST(EventList, KeepsWhatNoReaderTakes) {
   events.appendOwned(1, "2", accents + behind);
   EXPECT_EQ(events[1].line, accents) << "a letter is one byte of the file";
   EXPECT_EQ(events[1].whole(), accents + behind);
+  const std::string stored = "09:00,SA,0-4," + std::string(250, 'x');
+  const EventList read = gameOfText("[DETAILS]\nVERSION=2.0\n[PERIODE1]\n1=" + stored + "\xE9\n").events;
+  EXPECT_EQ(read[0].whole(), stored + "\u00e9") << "also where only the rest has such letters";
+}
+
+// A period that was begun and has no event hides none of the others.
+TEST(EventList, ReadsPeriodsWithoutEvents) {
+  const std::string one = "[PERIODE2]\n1=10:00,SA,0-4\n2=09:00,SA,0-5\n";
+  const std::string other = "[PERIODE4]\n3=08:00,SA,0-4\n";
+  for (const std::string& periods : {"[PERIODE1]\n" + one + other, one + "[PERIODE3]\n; nothing\n" + other,
+                                     one + other + "[PERIODE5]\n"}) {
+    EventList events = gameOfText(textOfGame(periods)).events;
+    expectSame(events, {{2, {{"1", "10:00,SA,0-4"}, {"2", "09:00,SA,0-5"}}}, {4, {{"3", "08:00,SA,0-4"}}}});
+    EXPECT_TRUE(events.apply({EventChange::Kind::Add, 3, "4", "07:00,SA,0-4", {}}));
+    EXPECT_EQ(events[2].key, "4") << periods;
+  }
 }
 
 } // namespace

@@ -36,6 +36,13 @@ inline std::shared_ptr<const CountedGame> counted(const Game& game) {
   return std::make_shared<const CountedGame>(CountedGame{game, tallied(game)});
 }
 
+// Keys and whole lines, as a file has them.
+inline EventLines linesOf(const EventList& events) {
+  EventLines lines;
+  for (const GameEvent& event : events)
+    lines[event.period].emplace_back(event.key, event.whole());
+  return lines;
+}
 // What the periods of a file hold: keys and whole lines.
 inline EventLines linesOfFile(ProfileStore& store, const std::string& path) {
   Game game;
