@@ -140,13 +140,18 @@ std::string_view ProfileText::Piece::bytesOf(const Line& line) const {
   return std::string_view(parsed->bytes).substr(line.begin, line.end - line.begin);
 }
 
-ProfileText::ProfileText() : ProfileText(std::string()) {}
+ProfileText::ProfileText() {
+  static const ProfileText empty{std::string()};
+  m_shared = empty.m_shared;
+}
 
 ProfileText::ProfileText(std::string bytes) {
   const auto parsed = std::make_shared<const Parsed>(std::move(bytes));
-  m_pieces.reserve(parsed->sections.size());
+  std::vector<Piece> pieces;
+  pieces.reserve(parsed->sections.size());
   for (std::uint32_t section = 0; section < parsed->sections.size(); ++section)
-    m_pieces.push_back({parsed, section});
+    pieces.push_back({parsed, section});
+  m_shared = std::make_shared<const std::vector<Piece>>(std::move(pieces));
 }
 
 void ProfileText::Parsed::parse() {
@@ -208,8 +213,8 @@ void ProfileText::Parsed::parse() {
 
 // 0 is what comes before the first header.
 std::size_t ProfileText::find(std::string_view section) const {
-  for (std::size_t place = 1; place < m_pieces.size(); ++place)
-    if (codepage::equalNames((*m_pieces[place]).name, section))
+  for (std::size_t place = 1; place < pieces().size(); ++place)
+    if (codepage::equalNames((*pieces()[place]).name, section))
       return place;
   return 0;
 }
@@ -223,17 +228,17 @@ const ProfileText::Line* ProfileText::findKey(const SectionView& section, std::s
 
 std::string ProfileText::bytes() const {
   std::size_t size = 0;
-  for (const Piece& piece : m_pieces)
+  for (const Piece& piece : pieces())
     size += piece.view().bytes.size();
   std::string all;
   all.reserve(size);
-  for (const Piece& piece : m_pieces)
+  for (const Piece& piece : pieces())
     all += piece.view().bytes;
   return all;
 }
 
 bool ProfileText::hasBytes(std::string_view bytes) const {
-  for (const Piece& piece : m_pieces) {
+  for (const Piece& piece : pieces()) {
     const std::string_view own = piece.view().bytes;
     if (!bytes.starts_with(own))
       return false;
@@ -246,7 +251,8 @@ bool ProfileText::isSameAs(const ProfileText& other) const {
   const auto isShared = [](const Piece& left, const Piece& right) {
     return left.parsed == right.parsed && left.section == right.section;
   };
-  return std::ranges::equal(m_pieces, other.m_pieces, isShared) || hasBytes(other.bytes());
+  return m_shared == other.m_shared || std::ranges::equal(pieces(), other.pieces(), isShared) ||
+         hasBytes(other.bytes());
 }
 
 bool ProfileText::hasSection(std::string_view section) const {
@@ -255,14 +261,14 @@ bool ProfileText::hasSection(std::string_view section) const {
 
 ProfileText::SectionView ProfileText::section(std::string_view section) const {
   const std::size_t place = find(section);
-  return place > 0 ? m_pieces[place].view() : SectionView{};
+  return place > 0 ? pieces()[place].view() : SectionView{};
 }
 
 std::shared_ptr<const std::string> ProfileText::sharedBytes(std::string_view section) const {
   const std::size_t place = find(section);
   if (place == 0)
     return nullptr;
-  const auto& parsed = m_pieces[place].parsed;
+  const auto& parsed = pieces()[place].parsed;
   return {parsed, &parsed->bytes};
 }
 
@@ -275,16 +281,16 @@ std::vector<std::string_view> ProfileText::sectionNames() const {
 
 std::vector<std::string_view> ProfileText::headers() const {
   std::vector<std::string_view> headers;
-  for (std::size_t place = 1; place < m_pieces.size(); ++place)
-    headers.push_back((*m_pieces[place]).name);
+  for (std::size_t place = 1; place < pieces().size(); ++place)
+    headers.push_back((*pieces()[place]).name);
   return headers;
 }
 
 std::vector<ProfileText::NamedSection> ProfileText::sections() const {
   std::vector<NamedSection> sections;
   std::unordered_set<std::string> seen;
-  for (std::size_t place = 1; place < m_pieces.size(); ++place) {
-    const Piece& piece = m_pieces[place];
+  for (std::size_t place = 1; place < pieces().size(); ++place) {
+    const Piece& piece = pieces()[place];
     const std::string_view name = (*piece).name;
     std::string folded(name);
     for (char& character : folded)
@@ -312,23 +318,26 @@ std::string ProfileText::keyList(std::string_view section) const {
 
 // The text with these bytes in the place of so many pieces.
 ProfileText ProfileText::withPieces(std::size_t first, std::size_t count, std::string bytes) const {
-  ProfileText inserted(std::move(bytes));
-  if (first > 0) // the bytes begin with a header
-    inserted.m_pieces.erase(inserted.m_pieces.begin());
-  const auto place = m_pieces.begin() + static_cast<std::ptrdiff_t>(first);
-  inserted.m_pieces.insert(inserted.m_pieces.begin(), m_pieces.begin(), place);
-  inserted.m_pieces.insert(inserted.m_pieces.end(), place + static_cast<std::ptrdiff_t>(count),
-                           m_pieces.end());
-  return inserted;
+  const auto parsed = std::make_shared<const Parsed>(std::move(bytes));
+  std::vector<Piece> together;
+  together.reserve(pieces().size() + parsed->sections.size());
+  const auto place = pieces().begin() + static_cast<std::ptrdiff_t>(first);
+  together.assign(pieces().begin(), place);
+  for (std::uint32_t section = first > 0 ? 1 : 0; section < parsed->sections.size(); ++section)
+    together.push_back({parsed, section}); // behind other pieces the bytes begin with a header
+  together.insert(together.end(), place + static_cast<std::ptrdiff_t>(count), pieces().end());
+  ProfileText text;
+  text.m_shared = std::make_shared<const std::vector<Piece>>(std::move(together));
+  return text;
 }
 
 ProfileText ProfileText::withNewSection(std::string_view section, const KeyValues& lines) const {
-  std::string bytes(m_pieces.back().view().bytes);
+  std::string bytes(pieces().back().view().bytes);
   endLine(bytes);
   bytes.append("[").append(section).append("]").append(kLineEnd);
   for (const auto& [name, value] : lines)
     appendKeyLine(bytes, name, value);
-  return withPieces(m_pieces.size() - 1, 1, std::move(bytes));
+  return withPieces(pieces().size() - 1, 1, std::move(bytes));
 }
 
 ProfileText ProfileText::withValue(std::string_view section, std::string_view key,
@@ -337,9 +346,9 @@ ProfileText ProfileText::withValue(std::string_view section, std::string_view ke
   if (place == 0)
     return withNewSection(section, {{std::string(key), std::string(value)}});
 
-  const SectionView lines = m_pieces[place].view();
-  const std::uint32_t begin = (*m_pieces[place]).begin;
-  std::uint32_t from = (*m_pieces[place]).headerEnd; // what gives way to the line
+  const SectionView lines = pieces()[place].view();
+  const std::uint32_t begin = (*pieces()[place]).begin;
+  std::uint32_t from = (*pieces()[place]).headerEnd; // what gives way to the line
   std::uint32_t to = from;
   std::string_view name = key;
   if (const Line* const line = findKey(lines, key)) {
@@ -366,10 +375,10 @@ ProfileText ProfileText::withoutSection(std::string_view section) const {
   const std::size_t place = find(section);
   if (place == 0)
     return *this;
-  std::string bytes(m_pieces[place - 1].view().bytes);
-  for (const Line& line : m_pieces[place].view())
+  std::string bytes(pieces()[place - 1].view().bytes);
+  for (const Line& line : pieces()[place].view())
     if (line.kind == Line::Kind::Comment)
-      bytes += m_pieces[place].bytesOf(line);
+      bytes += pieces()[place].bytesOf(line);
   return withPieces(place - 1, 2, std::move(bytes));
 }
 
@@ -378,7 +387,7 @@ ProfileText ProfileText::withSectionLines(std::string_view section, const KeyVal
   if (place == 0)
     return withNewSection(section, newLines);
 
-  const Piece& piece = m_pieces[place];
+  const Piece& piece = pieces()[place];
   const SectionView view = piece.view();
   const Line* const behindKeys = behindLastKey(view);
   std::string bytes(view.bytes.substr(0, (*piece).headerEnd - (*piece).begin));

@@ -33,7 +33,7 @@ class ProfileText {
 
   ProfileText();
   explicit ProfileText(std::string bytes);
-  // Movable and cheaply copyable: the bytes are shared and never change.
+  // A copy shares everything with its original; neither ever changes.
 
   [[nodiscard]] std::string bytes() const; // of the whole file
   [[nodiscard]] bool hasBytes(std::string_view bytes) const;
@@ -93,7 +93,9 @@ class ProfileText {
   ProfileText withPieces(std::size_t first, std::size_t count, std::string bytes) const;
   ProfileText withNewSection(std::string_view section, const KeyValues& lines) const;
 
-  std::vector<Piece> m_pieces; // the file from its first byte to its last
+  const std::vector<Piece>& pieces() const { return *m_shared; }
+
+  std::shared_ptr<const std::vector<Piece>> m_shared; // the file from its first byte to its last
 };
 
 } // namespace hooptab
