@@ -83,14 +83,9 @@ bool GameOnDisk::settle(const EventList& all) {
   if (!m_isWatching)
     return isOnDisk();
   m_isLost = m_isLost || (m_isOurs && !m_isOurs());
-  if (m_isLost) {
-    rescue(all);
-    return isOnDisk();
-  }
-  WriteResult written = settleFound(all, m_guard.look());
-  if (!written.isOnDisk() && m_guard.look() == FileGuard::Found::Changed) // while it was being written
-    written = settleFound(all, FileGuard::Found::Changed);
-  if (!written.isOnDisk()) {
+  // A file that is lost is not written: the disk has no reason to give.
+  const WriteResult written = m_isLost ? WriteResult() : lookAndSettle(all);
+  if (!written.isOnDisk() || m_isLost) {
     m_pending.refuse(written.error(), m_store.files().nowNanoseconds());
     rescue(all);
     return isOnDisk();
@@ -104,6 +99,13 @@ bool GameOnDisk::settle(const EventList& all) {
     m_rescuedAs.clear();
   }
   return true;
+}
+
+WriteResult GameOnDisk::lookAndSettle(const EventList& all) {
+  WriteResult written = settleFound(all, m_guard.look());
+  if (!written.isOnDisk() && m_guard.look() == FileGuard::Found::Changed) // while it was being written
+    written = settleFound(all, FileGuard::Found::Changed);
+  return written;
 }
 
 WriteResult GameOnDisk::settleFound(const EventList& all, FileGuard::Found found) {

@@ -68,6 +68,7 @@ class GameOnDisk {
   bool writeCopy(const std::string& path, const EventList& all);
 
  private:
+  WriteResult lookAndSettle(const EventList& all);
   WriteResult settleFound(const EventList& all, FileGuard::Found found);
   WriteResult writeSteps(const EventList& all);
   WriteResult bringTogether(const EventList& all);

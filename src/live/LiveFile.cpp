@@ -92,7 +92,7 @@ void LiveFile::showWaiting() {
                                                : Text::NotOnDiskButRescued;
   const std::string words = withPlaceholders(
       m_texts.text(text), disk.isLost() ? fromQt(m_hold.ownerWords()) : waiting, disk.rescuedAs());
-  m_notices.showNotOnDisk(toQt(words), disk.isLost() ? QString() : m_retry.reason(m_texts));
+  m_notices.showNotOnDisk(toQt(words), m_retry.reason(m_texts));
 }
 
 void LiveFile::showStrip() {

@@ -387,7 +387,7 @@ void frmMANUAL::tellForeignHands() {
 void frmMANUAL::showBanner() {
   const QString words = diskWords();
   m_banner->setText(words);
-  showReason(*m_banner, m_game.isLost() ? QString() : m_retry.reason(m_texts));
+  showReason(*m_banner, m_retry.reason(m_texts));
   m_banner->setVisible(!words.isEmpty());
 }
 

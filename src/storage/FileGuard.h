@@ -6,7 +6,6 @@
 
 #include "storage/ProfileStore.h"
 
-#include <functional>
 #include <string>
 #include <utility>
 

@@ -40,9 +40,8 @@ class PendingWrites {
   bool isEmpty() const { return m_waiting.empty(); }
   std::size_t size() const { return m_waiting.size(); }
   const std::deque<Waiting>& waiting() const { return m_waiting; } // oldest first
-  // Of the last failure; none when nothing waits.
+  // Of the last failure; none when nothing waits, or not for the disk.
   const StorageError& why() const { return m_why; }
-  std::int64_t since() const { return m_since; } // of the first failure, once something waits
   // How long from `now` to the next try; whatever the clock was set to meanwhile, no longer than the
   // interval.
   [[nodiscard]] std::int64_t untilRetry(std::int64_t now) const;
@@ -50,7 +49,7 @@ class PendingWrites {
  private:
   std::deque<Waiting> m_waiting;
   StorageError m_why;
-  std::int64_t m_since = 0;
+  std::int64_t m_since = 0; // the first failure, once something waits
   bool m_isRefused = false;
 };
 

@@ -15,7 +15,6 @@
 #include <map>
 #include <set>
 #include <string>
-#include <string_view>
 #include <utility>
 
 namespace hooptab {

@@ -28,8 +28,8 @@ struct StorageError {
   };
   Call call = Call::None;
   int number = 0; // errno, as it was directly behind the call
-  std::string
-      path; // of the file or the folder; for the temporary file that of the file that it is to replace
+  // Of the file or the folder; for the temporary file that of the file that it is to replace.
+  std::string path;
 
   // With errno as it is now: nothing may come between the call and this.
   [[nodiscard]] static StorageError ofCall(Call call, const std::string& path);
@@ -44,7 +44,6 @@ class [[nodiscard]] WriteResult {
   WriteResult(StorageError error) : m_error(std::move(error)) {}
 
   bool isOnDisk() const { return m_error.call == StorageError::Call::None; }
-  bool isChangedMeanwhile() const { return m_error.call == StorageError::Call::ChangedMeanwhile; }
   const StorageError& error() const { return m_error; } // none where it is on disk
 
  private:

@@ -37,12 +37,10 @@ bool ManualGame::settle() {
   if (isForReading() || !m_isWatching)
     return isOnDisk();
   m_isLost = m_isLost || (m_isOurs && !m_isOurs());
-  if (m_isLost)
-    return isOnDisk();
-  const FileGuard::Found found = m_guard.look();
+  const FileGuard::Found found = m_isLost ? FileGuard::Found::OutOfReach : m_guard.look();
   const std::int64_t now = m_store.files().nowNanoseconds();
-  if (found == FileGuard::Found::OutOfReach)
-    m_pending.refuse(m_guard.obstacle(), now);
+  if (found == FileGuard::Found::OutOfReach) // of a file that is lost the disk has said nothing
+    m_pending.refuse(m_isLost ? StorageError() : m_guard.obstacle(), now);
   const bool isGone = found == FileGuard::Found::Gone || found == FileGuard::Found::Unusable;
   const bool isMissing = isGone || (m_hasSaved && isTouched(found)); // of what this window left there
   if (found == FileGuard::Found::OutOfReach || (isOnDisk() && !isMissing))
