@@ -4,7 +4,6 @@
 #include "settings/StorageWords.h"
 
 #include <QPointer>
-#include <QTextDocument>
 #include <QWidget>
 #include <chrono>
 #include <utility>
@@ -46,8 +45,7 @@ QString WriteRetry::reason(const Texts& texts) const {
 }
 
 void showReason(QWidget& widget, const QString& reason) {
-  const bool looksLikeMarkup = Qt::mightBeRichText(reason); // a path may hold anything
-  widget.setToolTip(looksLikeMarkup ? QStringLiteral("<qt>%1</qt>").arg(reason.toHtmlEscaped()) : reason);
+  widget.setToolTip(reason);
   widget.setAccessibleDescription(reason);
 }
 

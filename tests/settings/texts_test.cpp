@@ -197,11 +197,12 @@ TEST(Texts, SayWhyTheDiskRefused) {
   using Call = StorageError::Call;
   const Texts texts;
   EXPECT_EQ(storageWords({}, texts), "");
-  EXPECT_EQ(storageWords({Call::Read, EIO, "/a"}, texts), "Reason: Input/output error (/a).");
+  EXPECT_EQ(storageWords({Call::Read, ENXIO, "/a"}, texts), "Reason: error 6 of the system (/a).");
   const std::vector<std::pair<std::string, std::vector<StorageError>>> kinds = {
       {"full", {{Call::Write, ENOSPC, "/a"}, {Call::Sync, EDQUOT, "/a"}}},
       {"permit", {{Call::Open, EACCES, "/a"}, {Call::Rename, EPERM, "/a"}, {Call::WriteProtected, 0, "/a"}}},
       {"read-only", {{Call::Open, EROFS, "/a"}}},
+      {"fails", {{Call::Read, EIO, "/a"}}},
       {"no longer there",
        {{Call::Open, ENOENT, "/a"}, {Call::Stamp, ENODEV, "/a"}, {Call::Open, ENOTDIR, "/a"}}}};
   for (const auto& [word, errors] : kinds) {
