@@ -140,7 +140,7 @@ void ReportOutput::save(Report report, ReportForm form, const PageFormat& format
   const QString path = choosePath(toQt(report.fileName), form, asker);
   if (path.isEmpty() || !mayReplace(path, suffixesOf(report, form), asker))
     return;
-  const char* language = m_texts.language() == Language::French ? "fr" : "en";
+  const std::string_view language = factsOf(m_texts.language()).code;
   write(
       path,
       [report = std::make_shared<const Report>(std::move(report)), form, format,

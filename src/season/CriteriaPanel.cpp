@@ -1,6 +1,7 @@
 #include "season/CriteriaPanel.h"
 
 #include "appearance/Fields.h"
+#include "appearance/LanguageLocale.h"
 #include "appearance/relabel.h"
 #include "settings/ChoiceTexts.h"
 
@@ -212,8 +213,7 @@ void CriteriaPanel::relabelPanel() {
   if (m_team->count() == 0)
     m_team->addItem(everything);
   m_team->setItemText(0, everything);
-  const bool isFrench = m_texts.language() == Language::French;
-  const QLocale locale(isFrench ? QLocale::French : QLocale::English, QLocale::Canada);
+  const QLocale locale = canadianLocaleOf(m_texts.language());
   for (QDateEdit* date : m_dates) {
     date->setLocale(locale);
     date->calendarWidget()->setLocale(locale); // names of months and days

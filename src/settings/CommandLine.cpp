@@ -2,23 +2,21 @@
 
 #include "storage/Placeholders.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace hooptab {
 
 std::optional<Language> languageNamed(std::string_view name) {
-  if (name == "en")
-    return Language::English;
-  if (name == "fr")
-    return Language::French;
-  return std::nullopt;
+  const auto found = std::ranges::find(kLanguages, name, &LanguageFacts::code);
+  return found == kLanguages.end() ? std::nullopt : std::optional(found->language);
 }
 
 Language environmentLanguage() {
   for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
     const char* const value = std::getenv(name);
     if (value != nullptr && *value != '\0')
-      return std::string_view(value).starts_with("fr") ? Language::French : Language::English;
+      return languageNamed(std::string_view(value).substr(0, 2)).value_or(Language::English);
   }
   return Language::English;
 }

@@ -155,8 +155,8 @@ void Settings::take(const std::function<std::string(std::string_view key)>& valu
     keypadKeyTexts[place] = value(kKeypadKeys[place]);
   lastGameFolder = existingFolder(value("LASTPATHGAME"), m_folder);
   lastScanFolder = existingFolder(value("LASTPATHBMP"), m_folder);
-  webPage[0] = presentText(value("SITEEN"));
-  webPage[1] = presentText(value("SITEFR"));
+  for (const LanguageFacts& facts : kLanguages)
+    webPage[indexOf(facts.language)] = presentText(value(facts.webPage));
 }
 
 std::string Settings::shownLabel(std::string_view label) {
@@ -170,7 +170,7 @@ bool Settings::asksForTextNumbers() const {
 
 bool Settings::saveLanguage(Language chosen) {
   language = chosen;
-  return save("LANGUE", std::to_string(chosen == Language::French ? Texts::kFrenchOffset : 0));
+  return save("LANGUE", std::to_string(factsOf(chosen).offset));
 }
 
 bool Settings::saveAsksRebounds(bool on) {

@@ -71,7 +71,7 @@ class Settings {
   KeypadKeyTexts keypadKeyTexts; // as stored
   std::string lastGameFolder;    // LASTPATHGAME, in the form of PathText; the program folder when it is none
   std::string lastScanFolder;    // LASTPATHBMP
-  std::optional<std::string> webPage[2]; // SITEEN, SITEFR, when there
+  std::array<std::optional<std::string>, kLanguages.size()> webPage; // SITEEN, SITEFR, when there
 
   // The label of a user-defined statistic without its prefix; the open game's own label first, these
   // settings' where it is empty.

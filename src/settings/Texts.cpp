@@ -42,9 +42,9 @@ Texts::Texts(std::string_view english, std::string_view french) {
 }
 
 void Texts::load(std::string_view table, Language language) {
-  std::vector<std::string>& texts = m_texts[static_cast<std::size_t>(language)];
+  std::vector<std::string>& texts = m_texts[indexOf(language)];
   texts.resize(kSize);
-  const int firstNumber = kFirstNumber + (language == Language::French ? kFrenchOffset : 0);
+  const int firstNumber = kFirstNumber + factsOf(language).offset;
   while (!table.empty()) {
     const std::string_view line = table.substr(0, table.find('\n'));
     table.remove_prefix(std::min(line.size() + 1, table.size()));
@@ -58,7 +58,7 @@ void Texts::load(std::string_view table, Language language) {
 }
 
 std::string_view Texts::text(Text text, Language language) const {
-  const std::vector<std::string>& texts = m_texts[static_cast<std::size_t>(language)];
+  const std::vector<std::string>& texts = m_texts[indexOf(language)];
   const int number = static_cast<int>(text);
   if (number < kFirstNumber || static_cast<std::size_t>(number - kFirstNumber) >= kSize)
     return {};
@@ -78,7 +78,7 @@ std::string Texts::caption(Text text) const {
 
 std::vector<int> Texts::numbers() const {
   std::vector<int> result;
-  const std::vector<std::string>& english = m_texts[static_cast<std::size_t>(Language::English)];
+  const std::vector<std::string>& english = m_texts[indexOf(Language::English)];
   for (std::size_t index = 0; index < kSize; ++index)
     if (!english[index].empty())
       result.push_back(kFirstNumber + static_cast<int>(index));
@@ -86,7 +86,11 @@ std::vector<int> Texts::numbers() const {
 }
 
 Language Texts::languageOfOffset(int offset) {
-  return offset == kFrenchOffset || offset == 1000 ? Language::French : Language::English;
+  constexpr int kOlderFrenchOffset = 1000;
+  const auto found = std::ranges::find(kLanguages, offset, &LanguageFacts::offset);
+  return found != kLanguages.end()      ? found->language
+         : offset == kOlderFrenchOffset ? Language::French
+                                        : Language::English;
 }
 
 } // namespace hooptab

@@ -1,11 +1,13 @@
 // The string table: every caption and message, in English and French. Holds the language in use; a text that
 // a table lacks is empty. The tables themselves are src/resources/texts_en.txt and texts_fr.txt; their names
-// are the values of Text, their numbers go from 1001 in English and are 4000 higher in French.
+// are the values of Text, their numbers go from 1001 in English, and above that by the offset of the
+// language.
 #pragma once
 
+#include "settings/Language.h"
 #include "settings/Text.h"
 
-#include <cstdint>
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,19 +19,15 @@ namespace hooptab {
   return static_cast<Text>(static_cast<int>(first) + count);
 }
 
-enum class Language : std::uint8_t { English, French };
-
 class Texts {
  public:
-  static constexpr int kFrenchOffset = 4000;
-
   Texts(); // parses the tables the program carries
   // For tests: tables of one's own, in the files' form.
   Texts(std::string_view english, std::string_view french);
 
   Language language() const { return m_language; }
   void setLanguage(Language language) { m_language = language; }
-  int offset() const { return m_language == Language::French ? kFrenchOffset : 0; }
+  int offset() const { return factsOf(m_language).offset; }
 
   // UTF-8; the view holds as long as the table.
   [[nodiscard]] std::string_view text(Text which) const { return text(which, m_language); }
@@ -49,7 +47,7 @@ class Texts {
   void load(std::string_view table, Language language);
 
   static constexpr std::size_t kSize = 3000;
-  std::vector<std::string> m_texts[2]; // index number - 1001
+  std::array<std::vector<std::string>, kLanguages.size()> m_texts; // index number - 1001
   Language m_language = Language::English;
   bool m_showsNumbers = false;
 };

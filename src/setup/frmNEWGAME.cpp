@@ -3,6 +3,7 @@
 #include "appearance/Card.h"
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
+#include "appearance/LanguageLocale.h"
 #include "appearance/Mnemonics.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
@@ -273,8 +274,7 @@ QWidget* frmNEWGAME::makeAnswers() {
 void frmNEWGAME::relabelWindow() {
   relabel(*this, m_texts);
   giveMnemonics(*this);
-  const bool isFrench = m_texts.language() == Language::French;
-  const QLocale locale(isFrench ? QLocale::French : QLocale::English, QLocale::Canada);
+  const QLocale locale = canadianLocaleOf(m_texts.language());
   m_picker->setLocale(locale);
   m_picker->calendarWidget()->setLocale(locale); // names of months and days
   for (SidePanel* side : m_sides)

@@ -1,21 +1,23 @@
 #include "shell/DialogLanguage.h"
 
+#include "appearance/relabel.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 
 namespace hooptab {
 
 DialogLanguage::~DialogLanguage() {
-  QCoreApplication::removeTranslator(&m_french);
+  QCoreApplication::removeTranslator(&m_texts);
 }
 
 void DialogLanguage::set(Language language) {
-  QCoreApplication::removeTranslator(&m_french);
-  if (language != Language::French)
+  QCoreApplication::removeTranslator(&m_texts);
+  if (language == Language::English) // Qt's own
     return;
   const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-  if (!m_french.isEmpty() || m_french.load(QStringLiteral("qtbase_fr"), folder))
-    QCoreApplication::installTranslator(&m_french);
+  if (m_texts.load(QStringLiteral("qtbase_") + toQt(factsOf(language).code), folder))
+    QCoreApplication::installTranslator(&m_texts);
 }
 
 } // namespace hooptab

@@ -17,7 +17,7 @@ class DialogLanguage {
   void set(Language language);
 
  private:
-  QTranslator m_french; // Qt's own language is English
+  QTranslator m_texts;
 };
 
 } // namespace hooptab

@@ -36,10 +36,10 @@ void HelpPages::open(const QUrl& document, QWidget* parent) {
 }
 
 QUrl HelpPages::webPage() const {
-  const bool isFrench = m_texts.language() == Language::French;
-  if (const std::optional<std::string>& address = m_settings.webPage[isFrench ? 1 : 0])
+  const Language language = m_texts.language();
+  if (const std::optional<std::string>& address = m_settings.webPage[indexOf(language)])
     return QUrl::fromUserInput(toQt(*address));
-  const char* name = isFrench ? "help/fr.html" : "help/en.html";
+  const std::string name = "help/" + std::string(factsOf(language).code) + ".html";
   return QUrl::fromLocalFile(toQt(m_files.find(name).value_or(m_files.candidates(name).back())));
 }
 

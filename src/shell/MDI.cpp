@@ -463,7 +463,7 @@ void MDI::showCommands() {
 
 void MDI::switchLanguage() {
   Texts& texts = m_workshop.texts;
-  texts.setLanguage(texts.language() == Language::French ? Language::English : Language::French);
+  texts.setLanguage(nextLanguage(texts.language()));
   relabelEverything();
   m_workshop.settings.saveLanguage(texts.language());
   m_unsaved->refresh();

@@ -1,5 +1,6 @@
 #include "shell/RecentGameWords.h"
 
+#include "appearance/LanguageLocale.h"
 #include "appearance/relabel.h"
 #include "game/PeriodName.h"
 
@@ -20,7 +21,7 @@ bool isInOvertime(const RecentGame& game) {
 QString dayText(const RecentGame& game, const Texts& texts) {
   const QString stored = toQt(game.date);
   const QDate day = QDate::fromString(stored, Qt::ISODate);
-  const QLocale locale(texts.language() == Language::French ? QLocale::French : QLocale::English);
+  const QLocale locale = localeOf(texts.language());
   return day.isValid() ? locale.toString(day, QStringLiteral("d MMM yyyy")) : stored;
 }
 

@@ -105,8 +105,7 @@ class ReportRun {
       return complain(kWrongUse, words(Text::NoSuchFormat, m_request.format));
     PageFormat format;
     format.paper = m_request.isLetter ? Paper::Letter : Paper::A4;
-    const char* language = m_texts.language() == Language::French ? "fr" : "en";
-    const auto contents = filesOf(report, form, format, language);
+    const auto contents = filesOf(report, form, format, factsOf(m_texts.language()).code);
     if (!contents)
       return complain(kFailed, words(Text::ReportNotMade));
     const std::string failed = writeFiles(m_files, output, *contents);

@@ -1,6 +1,7 @@
 #include "shell/UnfinishedPlate.h"
 
 #include "appearance/Fields.h"
+#include "appearance/LanguageLocale.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "shell/RecentGameWords.h"
@@ -110,7 +111,7 @@ void UnfinishedPlate::paintEvent(QPaintEvent*) {
   line.setLeft(line.left() + painter.fontMetrics().horizontalAdvance(state) + measure(12));
   painter.setFont(Theme::font(Type::Body));
   painter.setPen(look.plateMuted);
-  const QLocale locale(m_texts.language() == Language::French ? QLocale::French : QLocale::English);
+  const QLocale locale = localeOf(m_texts.language());
   const QString written =
       locale.toString(QDateTime::fromSecsSinceEpoch(m_game.changed), QStringLiteral("d MMM yyyy, HH:mm"));
   const QString saved =

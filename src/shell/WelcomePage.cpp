@@ -25,8 +25,6 @@ namespace {
 
 constexpr int kWideMarginZoom = 110; // percent; above, texts need the room
 
-constexpr Language kLanguages[] = {Language::English, Language::French};
-
 // Where games can be dropped; the main window takes them wherever they fall.
 class DropHint : public PlainLabel {
  public:
@@ -99,10 +97,10 @@ QBoxLayout* WelcomePage::makeHead(const StartCommands& commands) {
     button->setObjectName(QStringLiteral("optLANGUAGE(%1)").arg(i));
     button->setCheckable(true);
     setToolTipNumber(*button, Text::LanguageTip);
-    const Language other = kLanguages[1 - i];
-    button->setText(toQt(m_texts.text(Text::LanguageName, other)));
-    connect(button, &QPushButton::clicked, &commands.language, [this, i, &language = commands.language] {
-      if (m_texts.language() != kLanguages[i])
+    const Language own = kLanguages[i].language;
+    button->setText(toQt(m_texts.text(Text::LanguageName, nextLanguage(own))));
+    connect(button, &QPushButton::clicked, &commands.language, [this, own, &language = commands.language] {
+      if (m_texts.language() != own)
         language.trigger();
       showLanguage();
     });
@@ -215,7 +213,7 @@ void WelcomePage::showGames(const RecentGames& games) {
 
 void WelcomePage::showLanguage() {
   for (std::size_t i = 0; i < m_languages.size(); ++i) {
-    const bool isOn = m_texts.language() == kLanguages[i];
+    const bool isOn = m_texts.language() == kLanguages[i].language;
     m_languages[i]->setChecked(isOn);
     m_languages[i]->setDefault(isOn); // in the accent
   }

@@ -73,7 +73,7 @@ class WelcomePage : public QWidget {
   QLabel* m_ball = nullptr;
   QLabel* m_title = nullptr;
   QLabel* m_tongues = nullptr;
-  std::array<QPushButton*, 2> m_languages = {};
+  std::array<QPushButton*, kLanguages.size()> m_languages = {};
   UnfinishedPlate* m_unfinished = nullptr;
   QLabel* m_listTitle = nullptr;
   QLabel* m_nothing = nullptr;

@@ -60,13 +60,13 @@ bool isSame(std::string_view left, std::string_view right) {
 
 std::optional<std::size_t> columnOf(std::string_view cell, const Texts& texts) {
   for (std::size_t column = 0; column < kColumns; ++column) {
-    for (const Language language : {Language::English, Language::French}) {
-      if (isSame(cell, texts.text(kHeaders[column], language)))
+    for (const LanguageFacts& facts : kLanguages) {
+      if (isSame(cell, texts.text(kHeaders[column], facts.language)))
         return column;
     }
   }
-  for (const Language language : {Language::English, Language::French}) {
-    if (isSame(cell, texts.text(Text::JerseyNumber, language)))
+  for (const LanguageFacts& facts : kLanguages) {
+    if (isSame(cell, texts.text(Text::JerseyNumber, facts.language)))
       return kNumber;
   }
   for (const auto& [name, column] : kOtherNames) {
@@ -84,8 +84,8 @@ std::optional<int> positionOf(std::string_view cell, const Texts& texts) {
       return index;
     if (choiceName(kFirstPositionText, index, texts).empty())
       continue;
-    for (const Language language : {Language::English, Language::French}) {
-      const std::string_view name = texts.text(textBehind(kFirstPositionText, index), language);
+    for (const LanguageFacts& facts : kLanguages) {
+      const std::string_view name = texts.text(textBehind(kFirstPositionText, index), facts.language);
       if (isSame(cell, name) || (index != kNoPosition && cell.size() == 1 && isSame(cell, name.substr(0, 1))))
         return index;
     }

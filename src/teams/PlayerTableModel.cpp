@@ -1,5 +1,6 @@
 #include "teams/PlayerTableModel.h"
 
+#include "appearance/LanguageLocale.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
 #include "storage/NameOrder.h"
@@ -70,7 +71,7 @@ void PlayerTableModel::sort(int column, Qt::SortOrder order) {
   if (column < 0 || column >= kPlayerColumns)
     return;
   // Of a language, whatever the system's is: without one there are no numbers in texts.
-  QCollator collator{QLocale(m_texts.language() == Language::French ? QLocale::French : QLocale::English)};
+  QCollator collator{localeOf(m_texts.language())};
   collator.setNumericMode(true);
   collator.setCaseSensitivity(Qt::CaseInsensitive);
   emit layoutAboutToBeChanged();

@@ -1,6 +1,7 @@
 #include "teams/TeamFields.h"
 
 #include "appearance/Fields.h"
+#include "appearance/LanguageLocale.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
@@ -200,7 +201,7 @@ void TeamFields::showColour() {
   m_band->setColour(m_hasTeam ? shown : QColor());
   m_swatches->showColour(m_hasTeam ? shown : QColor());
   const QColor text = textOn(shown);
-  const QLocale locale(m_texts.language() == Language::French ? QLocale::French : QLocale::English);
+  const QLocale locale = localeOf(m_texts.language());
   const QString measured = locale.toString(contrast(text, shown), 'f', 1);
   const Text words = text == QColor(Qt::white) ? Text::WhiteText : Text::BlackText;
   m_contrast->setText(m_hasTeam ? toQt(m_texts.withPlaceholder(words, fromQt(measured))) : QString());

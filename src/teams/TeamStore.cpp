@@ -157,8 +157,10 @@ int newestTeam(const std::vector<TeamEntry>& teams, const Texts& texts) {
   for (std::size_t position = 0; position < teams.size(); ++position) {
     const TeamEntry& team = teams[position];
     const std::string entry = (team.abbreviation + " - " + team.category).substr(0, kCompared);
-    if (entry == texts.text(Text::NewTeamText, Language::English) ||
-        entry == texts.text(Text::NewTeamText, Language::French))
+    const auto isNewTeam = [&](const LanguageFacts& facts) {
+      return entry == texts.text(Text::NewTeamText, facts.language);
+    };
+    if (std::ranges::any_of(kLanguages, isNewTeam))
       newest = static_cast<int>(position);
   }
   return newest;

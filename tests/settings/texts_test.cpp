@@ -56,12 +56,12 @@ TEST(TextTables, HoldEveryNumberOnceInBothLanguagesAndFillNoGap) {
   for (const int number : carried().numbers()) {
     EXPECT_FALSE(gaps.contains(number)) << number;
     EXPECT_TRUE(number <= 1438 || number >= 1501) << number;
-    EXPECT_FALSE(french(number).empty()) << number + Texts::kFrenchOffset;
+    EXPECT_FALSE(french(number).empty()) << number + factsOf(Language::French).offset;
     original += number <= 1438;
   }
   EXPECT_EQ(original, 423);
   const auto names = namesOf(englishTable(), 0);
-  EXPECT_EQ(namesOf(frenchTable(), Texts::kFrenchOffset), names);
+  EXPECT_EQ(namesOf(frenchTable(), factsOf(Language::French).offset), names);
   EXPECT_EQ(names.size(), carried().numbers().size()) << "a number twice, or a line without a text";
 }
 
@@ -150,7 +150,7 @@ TEST(TextTables, HoldTheFixedTexts) {
       {1303, "Saisie"},
   };
   for (const auto& [number, text] : fixed)
-    EXPECT_EQ(french(number), text) << number + Texts::kFrenchOffset;
+    EXPECT_EQ(french(number), text) << number + factsOf(Language::French).offset;
   EXPECT_EQ(english(1074), "Français");
 
   // The first English texts never change: another sum (FNV-1a) means that one was reworded.
