@@ -33,6 +33,8 @@ Finding whyNotUnderstood(const GameEvent& event) {
   const std::string_view code = Module1::field(event.line, 2);
   if (code == "ARRET")
     return {.kind = FindingKind::UnknownList};
+  if (std::ranges::find(kTeamKinds, code, &EventKind::text) != kTeamKinds.end())
+    return {.kind = FindingKind::UnknownPlayer};
   const GameEvent withPlayer =
       GameEvent::parse(event.period, event.key, "00:00," + std::string(code) + ",0-1,0,0");
   if (withPlayer.isUnderstood)
@@ -59,6 +61,8 @@ class EventCheck {
         continue;
       if (!event.isUnderstood)
         name(whyNotUnderstood(event));
+      else if (event.isOfTeam())
+        checkOfTeam(event);
       else if (isOfTotals())
         checkOfTotals(event);
       else
@@ -83,6 +87,13 @@ class EventCheck {
   void checkOfTotals(const GameEvent& event) {
     if (!event.isClock())
       playerOf(event);
+  }
+  // It moves no clock of a count, and stands where it happened.
+  void checkOfTeam(const GameEvent& event) {
+    if (event.period == m_period && event.clockSeconds > m_clock && !isOfTotals())
+      name({.kind = FindingKind::ClockRises,
+            .subject = Module1::clockText(m_clock),
+            .found = Module1::clockText(event.clockSeconds)});
   }
   void check(const GameEvent& event);
   void endPeriod(bool isLast);
@@ -223,7 +234,7 @@ const GameEvent* EventCheck::next() const {
     const GameEvent& event = m_game.events[place];
     if (event.period != m_game.events[m_place].period)
       return nullptr;
-    if (event.isUnderstood && !event.isDeleted)
+    if (event.isUnderstood && !event.isDeleted && !event.isOfTeam())
       return &event;
   }
   return nullptr;

@@ -8,7 +8,8 @@ namespace hooptab {
 
 namespace {
 
-void writeRow(JsonWriter& json, const BoxRow& row, std::string_view line) {
+// `extras` of a player; null for a line.
+void writeRow(JsonWriter& json, const BoxRow& row, std::string_view line, const PlayerExtras* extras) {
   json.beginObject();
   json.beginLine();
   if (row.kind == BoxRowKind::Line || row.kind == BoxRowKind::OtherLines) {
@@ -19,6 +20,10 @@ void writeRow(JsonWriter& json, const BoxRow& row, std::string_view line) {
     json.member("position", row.position);
   }
   writeNumbers(json, row.numbers);
+  if (extras != nullptr) {
+    json.member("FD", extras->foulsDrawn);
+    json.member("BA", extras->blocksAgainst);
+  }
   json.endObject();
   json.endLine();
 }
@@ -30,6 +35,19 @@ void writeNumberList(JsonWriter& json, std::string_view name, const std::vector<
   for (const int number : numbers)
     json.value(number);
   json.endArray();
+  json.endLine();
+}
+
+void writeTeamRow(JsonWriter& json, const TeamRow& row) {
+  json.name("teamRow");
+  json.beginObject();
+  json.beginLine();
+  json.member("OR", row.offensiveRebounds);
+  json.member("DR", row.defensiveRebounds);
+  json.member("TO", row.turnovers);
+  json.member("CF", row.benchTechnicals);
+  json.member("timeouts", row.timeOuts);
+  json.endObject();
   json.endLine();
 }
 
@@ -55,10 +73,13 @@ void writeTeam(JsonWriter& json, const Scorecard& card, int team, const Texts& t
     json.beginArray();
     for (const BoxRow& row : boxRows(*card.counted(), team, view, texts)) {
       if (row.kind != BoxRowKind::Total)
-        writeRow(json, row, state.lines[side][static_cast<std::size_t>(row.entry)].list);
+        writeRow(json, row, state.lines[side][static_cast<std::size_t>(row.entry)].list,
+                 view == BoxView::Players ? &state.extras[side][static_cast<std::size_t>(row.entry)]
+                                          : nullptr);
     }
     json.endArray();
   }
+  writeTeamRow(json, state.teamRows[side]);
   json.endObject();
 }
 

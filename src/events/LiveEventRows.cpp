@@ -127,7 +127,7 @@ LiveEventRow LiveEventRows::whole(std::size_t place) const {
   row.score = m_events.index(static_cast<int>(place), EventListModel::Score).data().toString();
   row.score.replace(u'-', u'–');
   row.isUnderstood = event.isUnderstood;
-  if (event.isUnderstood && parts.jersey.empty() && parts.name.empty()) {
+  if (event.isUnderstood && event.isClock()) {
     const bool changes = m_ofEvents[place].changed != OnCourt{};
     row.action.prepend(event.code == EventCode::DEPART ? QStringLiteral("▸ ")
                        : changes                       ? QStringLiteral("⇄ ")

@@ -208,7 +208,7 @@ void frmEDIT::makeLayout() {
 }
 
 void frmEDIT::fill(const GameEvent& event) {
-  m_isCounted = event.kind() != nullptr;
+  m_isCounted = event.isOfPlayer();
   for (QWidget* field : {static_cast<QWidget*>(m_player), static_cast<QWidget*>(m_kind),
                          static_cast<QWidget*>(m_made), static_cast<QWidget*>(m_court)})
     field->setEnabled(m_isCounted);
@@ -287,7 +287,8 @@ std::optional<LiveGame::Counted> frmEDIT::counted() const {
   const int player = m_player->currentData().toInt();
   const auto code = static_cast<EventCode>(m_kind->currentData().toInt());
   return LiveGame::Counted{code, kindOf(code)->isShot && m_made->isChecked(), player / kEntries,
-                           player % kEntries, kindOf(code)->hasPlace ? m_place : std::nullopt};
+                           player % kEntries,
+                           kindOf(code)->isShot && code != EventCode::GFT ? m_place : std::nullopt};
 }
 
 } // namespace hooptab

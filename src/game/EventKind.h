@@ -1,5 +1,6 @@
 // The one table of what can happen in a game: shot kinds and counted actions with their code, counters,
-// points, labels and follow-up. Buttons, keypad, tally, box score, manual entry and reports all read it.
+// points, labels and follow-up, and what happens to a team as a whole. Buttons, keypad, tally, box score,
+// manual entry and reports all read it.
 #pragma once
 
 #include "settings/Text.h"
@@ -57,6 +58,13 @@ enum class EventCode : std::uint8_t {
   STO,
   SU1,
   SU2,
+  XTO,
+  XOR,
+  XDR,
+  XTV,
+  XCF,
+  XJB,
+  XAR,
   GFG,
   GF3,
   GFT,
@@ -83,6 +91,7 @@ struct EventKind {
   FollowUp followUpWhenMade;
   std::string_view shortName; // the same in both languages: "FG", "Ast"
   Text wordsText;             // its name in words
+  bool isOfTeam = false;      // no player's: has none of the counters, and moves no clock of a count
 };
 
 namespace detail {
@@ -95,9 +104,13 @@ constexpr EventKind action(EventCode code, std::string_view text, Counter counte
                            std::string_view shortName, Text words) {
   return {code, text, counter, counter, 0, false, false, isTeamFoul, FollowUp::None, shortName, words};
 }
+constexpr EventKind ofTeam(EventCode code, std::string_view text, std::string_view shortName, Text words) {
+  return {code,  text,  Counter::FGM,   Counter::FGM, 0,     false,
+          false, false, FollowUp::None, shortName,    words, true};
+}
 } // namespace detail
 
-// All kinds but the clock's, shots first, each in the order of the counters.
+// What players do, shots first, each in the order of the counters.
 inline constexpr std::array kEventKinds = {
     detail::shot(EventCode::GFG, "GFG", Counter::FGM, Counter::FGA, 2, true, FollowUp::Assist, "FG",
                  Text::TwoPoints),
@@ -124,12 +137,26 @@ inline constexpr std::array kEventKinds = {
     detail::action(EventCode::SPF, "SPF", Counter::PF, true, "PF", Text::PersonalFoul),
     detail::action(EventCode::STF, "STF", Counter::TF, true, "TF", Text::TechnicalFoul),
 };
+// What teams do. Older readers keep these, and do not count them.
+inline constexpr std::array kTeamKinds = {
+    detail::ofTeam(EventCode::XTO, "XTO", "", Text::TimeOut),
+    detail::ofTeam(EventCode::XOR, "XOR", "OR", Text::TeamOffensiveRebound),
+    detail::ofTeam(EventCode::XDR, "XDR", "DR", Text::TeamDefensiveRebound),
+    detail::ofTeam(EventCode::XTV, "XTV", "TO", Text::TeamTurnover),
+    detail::ofTeam(EventCode::XCF, "XCF", "CF", Text::BenchTechnical),
+    detail::ofTeam(EventCode::XJB, "XJB", "", Text::JumpBall),
+    detail::ofTeam(EventCode::XAR, "XAR", "", Text::PossessionArrow),
+};
 [[nodiscard]] constexpr std::span<const EventKind> eventKinds() {
   return kEventKinds;
 }
-// The kind of a code; null for Unknown, DEPART and ARRET.
+// The kind of a code, a player's or a team's; null for Unknown, DEPART and ARRET.
 [[nodiscard]] constexpr const EventKind* kindOf(EventCode code) {
   for (const EventKind& kind : kEventKinds) {
+    if (kind.code == code)
+      return &kind;
+  }
+  for (const EventKind& kind : kTeamKinds) {
     if (kind.code == code)
       return &kind;
   }

@@ -1,5 +1,7 @@
 #include "game/EventWords.h"
 
+#include "game/DetailWords.h"
+#include "game/EventDetails.h"
 #include "game/PeriodName.h"
 #include "game/PlayerLookup.h"
 #include "game/Rules.h"
@@ -81,6 +83,8 @@ std::string EventWords::words(std::size_t eventIndex, Length length) const {
   }
   default: break;
   }
+  if (event.isOfTeam())
+    return wordsOfTeam(event, length);
   std::string who(team(event.player.team));
   const bool isTeam = isTeamItself(m_game.roster[event.player.team]);
   const std::string name =
@@ -89,7 +93,25 @@ std::string EventWords::words(std::size_t eventIndex, Length length) const {
     who += ' ' + name;
   if (length == Length::Short && event.isShot())
     return who + (event.isMade ? " ● " : " ✕ ") + std::string(m_texts.text(event.kind()->wordsText));
-  return sentence(m_texts, who, action(event));
+  const std::string more = length == Length::Whole ? detailWords(event, *this, m_texts) : std::string();
+  return sentence(m_texts, who, action(event) + (more.empty() ? "" : ", ") + more);
+}
+
+// Nobody's time-out and a jump ball have no team in front.
+std::string EventWords::wordsOfTeam(const GameEvent& event, Length length) const {
+  std::string words = action(event);
+  if (event.code == EventCode::XJB) {
+    std::string jumpers;
+    for (int side = 0; side < 2; ++side) {
+      const PlayerReference jumper = event.jumper(side);
+      jumpers += (side == 0 ? "" : " – ") + std::string(team(side)) + ' ' +
+                 (length == Length::Short ? std::string(jumper.jersey) : player(jumper));
+    }
+    words = sentence(m_texts, words, jumpers);
+  }
+  const std::string more = length == Length::Whole ? detailWords(event, *this, m_texts) : std::string();
+  words += (more.empty() ? "" : ", ") + more;
+  return event.player.team < 0 ? words : sentence(m_texts, team(event.player.team), words);
 }
 
 EventWords::Parts EventWords::parts(std::size_t eventIndex) const {
@@ -106,6 +128,9 @@ EventWords::Parts EventWords::parts(std::size_t eventIndex) const {
     } else {
       parts.action = words(eventIndex, Length::Short);
     }
+  } else if (event.isOfTeam()) {
+    parts.team = event.player.team;
+    parts.action = event.code == EventCode::XJB ? words(eventIndex, Length::Short) : action(event);
   } else {
     parts.team = event.player.team;
     const Roster& roster = m_game.roster[event.player.team];
@@ -141,6 +166,10 @@ std::string EventWords::player(const PlayerReference& reference) const {
 
 std::string EventWords::action(const GameEvent& event) const {
   const EventKind& kind = *event.kind();
+  if (event.code == EventCode::XTO && event.player.team < 0)
+    return std::string(m_texts.text(Text::MediaTimeOut));
+  if (event.code == EventCode::XCF && event.detail(detail_key::kKind) == "C")
+    return std::string(m_texts.text(Text::CoachTechnical));
   std::string words(m_texts.text(kind.wordsText));
   if (kind.isShot)
     return words + ' ' + std::string(m_texts.text(event.isMade ? Text::Made : Text::Missed));
@@ -160,7 +189,13 @@ std::string EventWords::wordsOfSide(std::size_t eventIndex, int side) const {
     return {};
   if (event.code == EventCode::ARRET)
     return changesOf(eventIndex, static_cast<std::size_t>(side), Length::Whole);
-  return event.player.team == side ? sentence(m_texts, player(event.player), action(event)) : std::string();
+  const std::string more = detailWords(event, *this, m_texts);
+  const std::string what = action(event) + (more.empty() ? "" : ", ") + more;
+  if (event.code == EventCode::XJB)
+    return sentence(m_texts, player(event.jumper(side)), what);
+  if (event.player.team != side)
+    return {};
+  return event.isOfTeam() ? what : sentence(m_texts, player(event.player), what);
 }
 
 std::string EventWords::changesOf(std::size_t eventIndex, std::size_t side, Length length) const {

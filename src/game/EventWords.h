@@ -51,6 +51,7 @@ class EventWords {
   [[nodiscard]] std::string substitution(std::size_t eventIndex, Length length) const;
   [[nodiscard]] std::string changesOf(std::size_t eventIndex, std::size_t side, Length length) const;
   [[nodiscard]] std::string action(const GameEvent& event) const;
+  [[nodiscard]] std::string wordsOfTeam(const GameEvent& event, Length length) const;
 
   const Game& m_game;
   const Texts& m_texts;

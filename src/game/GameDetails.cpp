@@ -39,6 +39,7 @@ struct Detail {
   std::string_view key;
   void (*read)(GameDetails&, std::string_view value);
   std::string (*write)(const GameDetails&); // null for what a new game does not get
+  bool isOptional = false;                  // a new game gets it only where it says something
 };
 
 // In the order in which a game is written, so that reading finds each key where the one before ended.
@@ -99,6 +100,8 @@ constexpr std::array kDetails = std::to_array<Detail>({
      [](const GameDetails& d) { return std::to_string(d.type); }},
     {"NOTES", [](GameDetails& d, std::string_view value) { d.notes = textOf(value); },
      [](const GameDetails& d) { return d.notes; }},
+    {"IDPARTIE", [](GameDetails& d, std::string_view value) { d.id = textOf(value); },
+     [](const GameDetails& d) { return d.id; }, true},
     {"EVENUM", [](GameDetails& d, std::string_view value) { d.nextEventNumber = numberOf(value); }, nullptr},
     {"LIGNE3",
      [](GameDetails& d, std::string_view value) {
@@ -112,6 +115,11 @@ constexpr std::array kDetails = std::to_array<Detail>({
          d.threePointCorner = corner;
      },
      nullptr},
+    {"DUREEPROL",
+     [](GameDetails& d, std::string_view value) {
+       d.overtimeMinutes = std::clamp(numberOf(value), 0, kMostMinutes);
+     },
+     nullptr},
     {"KEEPBONUS", [](GameDetails& d, std::string_view value) { d.keepsBonus = Module1::flag(value); },
      nullptr},
     {"TERMINE", [](GameDetails& d, std::string_view value) { d.isFinished = value == "1"; }, nullptr},
@@ -122,7 +130,8 @@ constexpr std::array kDetails = std::to_array<Detail>({
 } // namespace
 
 void readDetails(const ProfileText& text, GameDetails& details) {
-  std::uint32_t seen = 0; // the first of two equal keys wins, also one without a value
+  static_assert(kDetails.size() <= 64);
+  std::uint64_t seen = 0; // the first of two equal keys wins, also one without a value
   std::size_t next = 0;
   for (const ProfileText::Line& line : text.section(kDetailsSection)) {
     if (line.name.empty())
@@ -131,9 +140,9 @@ void readDetails(const ProfileText& text, GameDetails& details) {
       const std::size_t place = (next + tried) % kDetails.size();
       if (!codepage::equalNames(kDetails[place].key, line.name))
         continue;
-      if ((seen & (1U << place)) == 0 && line.kind == ProfileText::Line::Kind::KeyValue)
+      if ((seen & (std::uint64_t{1} << place)) == 0 && line.kind == ProfileText::Line::Kind::KeyValue)
         kDetails[place].read(details, line.value.substr(0, cinifile::kLongestValue));
-      seen |= 1U << place;
+      seen |= std::uint64_t{1} << place;
       next = place + 1;
       break;
     }
@@ -148,8 +157,11 @@ void setDetail(GameDetails& details, std::string_view key, std::string_view valu
 
 void writeNewDetails(const GameDetails& details, ProfileBatch& batch) {
   for (const Detail& detail : kDetails) {
-    if (detail.write != nullptr)
-      batch.set(std::string(kDetailsSection), std::string(detail.key), detail.write(details));
+    if (detail.write == nullptr)
+      continue;
+    std::string value = detail.write(details);
+    if (!detail.isOptional || !value.empty())
+      batch.set(std::string(kDetailsSection), std::string(detail.key), std::move(value));
   }
 }
 

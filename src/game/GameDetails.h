@@ -47,6 +47,9 @@ struct GameDetails {
   int technicalFoulLimit = 0;
   int type = 0;
   std::string notes;
+  // IDPARTIE: 32 hexadecimal digits that no other game has; empty in a game of an older program.
+  std::string id;
+  int overtimeMinutes = 0; // DUREEPROL: of the last overtime; 0: there was none, or nobody knows
   int nextEventNumber = 0; // EVENUM; 0 when absent
   // LIGNE3 and LIGNE3COIN, in centimetres: how far from the basket the three-point line was drawn, and from
   // the court's axis its straight parts in the corners.

@@ -1,5 +1,6 @@
 #include "game/GameEvent.h"
 
+#include "game/EventDetails.h"
 #include "game/Roster.h"
 #include "storage/Module1.h"
 
@@ -12,8 +13,6 @@ namespace hooptab {
 namespace {
 
 constexpr std::size_t kClockLength = 5;
-constexpr std::string_view kDoubt =
-    "?=1"; // a field behind those of the grammar, which older readers pass over
 
 struct Code {
   EventCode code = EventCode::Unknown;
@@ -29,6 +28,16 @@ constexpr std::uint32_t packed(std::string_view text) {
   return number;
 }
 
+constexpr auto kAllKinds = [] {
+  std::array<const EventKind*, kEventKinds.size() + kTeamKinds.size()> all = {};
+  std::size_t count = 0;
+  for (const EventKind& kind : kEventKinds)
+    all[count++] = &kind;
+  for (const EventKind& kind : kTeamKinds)
+    all[count++] = &kind;
+  return all;
+}();
+
 // A table in which each code has a place of its own, found by one multiplication: reading a season looks up
 // millions of codes.
 struct CodeTable {
@@ -41,8 +50,8 @@ struct CodeTable {
   }
   constexpr bool place() {
     places.fill(-1);
-    for (std::size_t i = 0; i < kEventKinds.size(); ++i) {
-      std::int8_t& place = places[slot(packed(kEventKinds[i].text))];
+    for (std::size_t i = 0; i < kAllKinds.size(); ++i) {
+      std::int8_t& place = places[slot(packed(kAllKinds[i]->text))];
       if (place >= 0)
         return false;
       place = static_cast<std::int8_t>(i);
@@ -68,7 +77,7 @@ Code codeOf(std::string_view text) {
   const int place = kCodes.places[kCodes.slot(wanted)];
   if (place < 0)
     return {};
-  const EventKind& kind = kEventKinds[static_cast<std::size_t>(place)];
+  const EventKind& kind = *kAllKinds[static_cast<std::size_t>(place)];
   if (packed(kind.text) != wanted)
     return {};
   return {kind.code, &kind, kind.isShot && !isMiss};
@@ -82,15 +91,6 @@ inline std::string_view nextField(std::string_view& rest) {
   const std::string_view field = rest.substr(0, length);
   rest.remove_prefix(length < rest.size() ? length + 1 : length);
   return field;
-}
-
-// "0-12": side, "-", jersey. A jersey is never empty and holds no further rule: it is looked up in the
-// roster.
-bool parsePlayer(std::string_view text, PlayerReference& player) {
-  if (text.size() < 3 || (text[0] != '0' && text[0] != '1') || text[1] != '-')
-    return false;
-  player = PlayerReference::of(text[0] - '0', text.substr(2));
-  return true;
 }
 
 // A place as our writers make it is a short whole number; others may carry a fraction behind a point.
@@ -108,17 +108,25 @@ bool parseCoordinate(std::string_view text, float& value) {
   return true;
 }
 
-// Among the fields behind those that an event of that kind has.
-bool hasDoubt(std::string_view line) {
-  const std::size_t place = line.rfind(kDoubt);
-  return place != std::string_view::npos && place > 0 && line[place - 1] == ',' &&
-         (place + kDoubt.size() == line.size() || line[place + kDoubt.size()] == ',');
+// "0", "1", or nothing for nobody's.
+bool parseSide(std::string_view text, bool mayBeNobody, PlayerReference& player) {
+  if (text != "0" && text != "1")
+    return text.empty() && mayBeNobody;
+  player.team = text[0] - '0';
+  return true;
 }
 
 } // namespace
 
 PlayerReference PlayerReference::of(int team, std::string_view jersey) {
   return {team, Roster::jerseyNumber(jersey), jersey};
+}
+
+// Side, "-", jersey. A jersey is never empty and holds no further rule: it is looked up in the roster.
+std::optional<PlayerReference> PlayerReference::read(std::string_view text) {
+  if (text.size() < 3 || (text[0] != '0' && text[0] != '1') || text[1] != '-')
+    return std::nullopt;
+  return of(text[0] - '0', text.substr(2));
 }
 
 GameEvent GameEvent::parse(int period, std::string_view key, std::string_view line) {
@@ -160,17 +168,57 @@ void GameEvent::parseLine(int eventPeriod, std::string_view eventKey, int keyNum
       if (!list.empty() && !Module1::isOnCourtList(list))
         return;
     }
-  } else if (found.kind != nullptr) {
-    if (!parsePlayer(nextField(rest), player))
+  } else if (found.code == EventCode::XJB) {
+    const auto first = PlayerReference::read(nextField(rest));
+    const auto second = PlayerReference::read(nextField(rest));
+    if (!first || !second || first->team != 0 || second->team != 1)
       return;
+  } else if (isOfTeam()) {
+    if (!parseSide(nextField(rest), found.code == EventCode::XTO, player))
+      return;
+  } else if (found.kind != nullptr) {
+    const auto who = PlayerReference::read(nextField(rest));
+    if (!who)
+      return;
+    player = *who;
     if (found.kind->hasPlace) {
-      const std::string_view xText = nextField(rest);
-      hasPlace = parseCoordinate(xText, x) && parseCoordinate(nextField(rest), y);
+      std::string_view behind = rest;
+      const std::string_view xText = nextField(behind);
+      hasPlace = parseCoordinate(xText, x) && parseCoordinate(nextField(behind), y);
+      if (hasPlace)
+        rest = behind;
     }
   }
   isUnderstood = true;
-  const bool lacksPlace = found.kind != nullptr && found.kind->hasPlace && !hasPlace;
-  isDoubtful = (!rest.empty() || lacksPlace) && hasDoubt(eventLine); // which costs no look at most lines
+  if (rest.empty()) // nearly all lines
+    return;
+  detailsAt = static_cast<std::uint16_t>(eventLine.size() - rest.size());
+  isDoubtful = detail(detail_key::kDoubtful) == "1";
+  if (isShot() && !found.kind->hasPlace && found.code != EventCode::GFT)
+    hasPlace = parseCoordinate(detail(detail_key::kX).value_or(""), x) &&
+               parseCoordinate(detail(detail_key::kY).value_or(""), y);
+}
+
+std::optional<std::string_view> GameEvent::detail(std::string_view detailKey) const {
+  if (detailsAt == 0)
+    return std::nullopt;
+  for (std::string_view rest = line.substr(detailsAt); !rest.empty();) {
+    const std::string_view field = nextField(rest);
+    if (field.size() > detailKey.size() && field.starts_with(detailKey) && field[detailKey.size()] == '=')
+      return field.substr(detailKey.size() + 1);
+  }
+  return std::nullopt;
+}
+
+PlayerReference GameEvent::jumper(int team) const {
+  const std::size_t begin = line.find(",XJB,");
+  if (code != EventCode::XJB || begin == std::string_view::npos)
+    return {};
+  std::string_view rest = line.substr(begin + std::string_view(",XJB,").size());
+  std::string_view found;
+  for (int side = 0; side <= team; ++side)
+    found = nextField(rest);
+  return PlayerReference::read(found).value_or(PlayerReference());
 }
 
 std::string_view GameEvent::onCourt(std::size_t team) const {
@@ -194,11 +242,11 @@ std::string eventText(EventCode code, bool made, int team, std::string_view jers
   text += static_cast<char>('0' + team);
   text += '-';
   text += jersey;
-  if (place) {
-    text += "," + std::to_string(static_cast<int>(place->first));
-    text += "," + std::to_string(static_cast<int>(place->second));
-  }
-  return text;
+  if (!place)
+    return text;
+  const std::string x = std::to_string(static_cast<int>(place->first));
+  const std::string y = std::to_string(static_cast<int>(place->second));
+  return text + (kind->hasPlace ? "," + x + "," + y : ",X=" + x + ",Y=" + y);
 }
 
 std::string startText() {
@@ -211,22 +259,6 @@ std::string stopText(std::string_view list0, std::string_view list1) {
   text += ',';
   text += list1;
   return text;
-}
-
-std::string withDoubt(const std::string& line, bool isDoubtful) {
-  std::string changed = line;
-  if (hasDoubt(line))
-    changed.erase(line.rfind(kDoubt) - 1, kDoubt.size() + 1);
-  if (!isDoubtful)
-    return changed;
-  // Behind both lists of a stop, be they missing.
-  constexpr std::string_view kStop = ",ARRET";
-  if (const std::size_t stop = changed.find(kStop); stop != std::string::npos) {
-    const auto fields =
-        std::count(changed.begin() + static_cast<std::ptrdiff_t>(stop) + 1, changed.end(), ',');
-    changed.append(static_cast<std::size_t>(std::max<std::ptrdiff_t>(2 - fields, 0)), ',');
-  }
-  return changed.append(",").append(kDoubt);
 }
 
 } // namespace hooptab

@@ -17,11 +17,12 @@ namespace hooptab {
 inline constexpr int kLastPeriod = 255;
 
 struct PlayerReference {
-  int team = -1;   // 0 visiting, 1 home, -1 none
+  int team = -1;   // 0 visiting, 1 home, -1 none; alone, of what a team did
   int number = -1; // as Roster::jerseyNumber reads the jersey
   std::string_view jersey;
 
   [[nodiscard]] static PlayerReference of(int team, std::string_view jersey);
+  [[nodiscard]] static std::optional<PlayerReference> read(std::string_view text); // "0-12"
 };
 
 struct GameEvent {
@@ -30,10 +31,11 @@ struct GameEvent {
   int number = 0;        // of the key; 0 when it is no number
   int period = 0;        // of its section, which may lie behind kLastPeriod
   bool isDeleted = false;
-  bool isUnderstood = false; // everything below holds only then
-  bool isMade = false;       // shots
-  bool hasPlace = false;     // x and y were given
-  bool isDoubtful = false;   // marked while recording, to be looked at again
+  bool isUnderstood = false;   // everything below holds only then
+  bool isMade = false;         // shots
+  bool hasPlace = false;       // x and y were given
+  bool isDoubtful = false;     // marked while recording, to be looked at again
+  std::uint16_t detailsAt = 0; // where in the line the fields begin that stand behind those of the grammar
   EventCode code = EventCode::Unknown;
   const EventKind* eventKind = nullptr;
   int clockSeconds = 0;
@@ -41,12 +43,18 @@ struct GameEvent {
   PlayerReference player;
   float x = 0, y = 0; // court units, left-hand orientation
 
+  // The value of a field "KEY=VALUE" behind those of the grammar, in whatever order they stand.
+  [[nodiscard]] std::optional<std::string_view> detail(std::string_view detailKey) const;
+  // XJB: the player of that side.
+  [[nodiscard]] PlayerReference jumper(int team) const;
   // ARRET: a team's list as written; empty for nobody.
   std::string_view onCourt(std::size_t team) const;
   // The line with what no reader takes, as it has to stay.
   std::string_view whole() const { return {line.data(), line.size() + unread}; }
   bool isShot() const { return code >= EventCode::GFG; }
   bool isClock() const { return code == EventCode::DEPART || code == EventCode::ARRET; }
+  bool isOfPlayer() const { return eventKind != nullptr && !eventKind->isOfTeam; }
+  bool isOfTeam() const { return eventKind != nullptr && eventKind->isOfTeam; }
   const EventKind* kind() const { return eventKind; } // null for the clock's events
 
   // Takes apart one line; `key`, `period` and `line` are kept as given.
@@ -55,14 +63,11 @@ struct GameEvent {
   void parseLine(int eventPeriod, std::string_view eventKey, int keyNumber, std::string_view eventLine);
 };
 
-// The event text behind the clock, as the writer takes it: ",GFG,0-12,42,51". Places are truncated to whole
-// units.
+// The event text behind the clock, as the writer takes it: ",GFG,0-12,42,51", and ",GDK,0-12,X=42,Y=51" of a
+// kind that has no place of its own. Places are truncated to whole units.
 [[nodiscard]] std::string eventText(EventCode code, bool made, int team, std::string_view jersey,
                                     std::optional<std::pair<double, double>> place = std::nullopt);
 [[nodiscard]] std::string startText();
 [[nodiscard]] std::string stopText(std::string_view list0, std::string_view list1);
-
-// A line with the mark that its event is doubtful behind all else, or without it.
-[[nodiscard]] std::string withDoubt(const std::string& line, bool isDoubtful);
 
 } // namespace hooptab

@@ -1,5 +1,6 @@
 #include "game/GameFile.h"
 
+#include "game/WallClock.h"
 #include "storage/Module1.h"
 #include "storage/cinifile.h"
 #include "storage/codepage.h"
@@ -296,14 +297,16 @@ GameFileProblem GameFile::create(const GameDetails& details, const std::vector<R
   m_read = m_store.read(m_path);
   for (const PeriodSection& period : periodsOf(text()))
     deleteWholly(period.section.name, text(), batch);
-  // With those that another version may have written for the game that stood here.
+  // With those that a later version may have written for the game that stood here.
   for (const std::string_view section :
-       {kRosterSections[0], kRosterSections[1], kDetailsSection, kAcceptedSection,
-        std::string_view("HORLOGE"), std::string_view("JOUEURS0"), std::string_view("JOUEURS1")})
+       {kRosterSections[0], kRosterSections[1], kDetailsSection, kAcceptedSection, kWallClockSection,
+        std::string_view("JOUEURS0"), std::string_view("JOUEURS1")})
     deleteWholly(section, text(), batch);
 
   GameDetails written = details;
   written.version = kVersion;
+  if (written.id.empty())
+    written.id = newGameId();
   writeNewDetails(written, batch);
 
   const std::vector<RosterPlayer>* rosters[2] = {&visitors, &home};

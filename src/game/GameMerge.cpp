@@ -1,5 +1,6 @@
 #include "game/GameMerge.h"
 
+#include "game/EventDetails.h"
 #include "game/GameFile.h"
 #include "storage/Module1.h"
 #include "storage/codepage.h"
@@ -136,7 +137,9 @@ bool isNamed(const EventList& events, int team, std::string_view jersey) {
     if (!event.isUnderstood)
       return false;
     if (event.code != EventCode::ARRET)
-      return event.player.team == team && event.player.jersey == jersey;
+      return std::ranges::any_of(playersNamedBy(event), [&](const PlayerReference& named) {
+        return named.team == team && named.jersey == jersey;
+      });
     for (const std::string_view other :
          Module1::JerseysOfList(event.onCourt(static_cast<std::size_t>(team)))) {
       if (other == jersey || Module1::leadingNumber(other) == Module1::wholeNumber(jersey))

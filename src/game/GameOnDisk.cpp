@@ -1,5 +1,6 @@
 #include "game/GameOnDisk.h"
 
+#include "game/WallClock.h"
 #include "storage/Module1.h"
 #include "storage/codepage.h"
 
@@ -57,8 +58,9 @@ void GameOnDisk::open(const std::string& path, const ProfileText& text) {
   m_foreign = {};
 }
 
-bool GameOnDisk::change(const std::vector<EventChange>& steps, const EventList& all, const Values& accepted) {
-  note(kAcceptedSection, accepted);
+bool GameOnDisk::change(const std::vector<EventChange>& steps, const EventList& all, const Sections& more) {
+  for (const auto& [section, values] : more)
+    note(section, values);
   m_steps.insert(m_steps.end(), steps.begin(), steps.end());
   m_pending.add();
   return settle(all);
@@ -123,13 +125,23 @@ WriteResult GameOnDisk::writeSteps(const EventList& all) {
   ProfileBatch batch;
   if (!GameFile::plan(m_steps, m_guard.left(), batch)) // it holds what others added, and was not taken in yet
     return bringTogether(all);
-  addValues(batch);
+  addValues(m_guard.left(), batch);
   return m_guard.write(batch);
 }
 
-void GameOnDisk::addValues(ProfileBatch& batch) const {
+void GameOnDisk::addValues(const ProfileText& text, ProfileBatch& batch) const {
+  // Times of the game that stood in this file before are none of this one's. Whose they are stands first.
+  const std::string section(kWallClockSection);
+  const auto owner = m_values.find({section, std::string(kWallClockOwner)});
+  const auto stored = text.value(section, kWallClockOwner);
+  const bool isOthers = owner != m_values.end() && stored != owner->second.value;
+  if (isOthers) {
+    if (text.hasSection(section))
+      batch.deleteSection(section);
+    batch.set(section, owner->first.second, owner->second.value);
+  }
   for (const auto& [place, value] : m_values) {
-    if (value.isWaiting)
+    if (value.isWaiting || (isOthers && place.first == section))
       batch.set(place.first, place.second, value.value);
   }
 }
@@ -148,7 +160,7 @@ WriteResult GameOnDisk::bringTogether(const EventList& all) {
   ProfileBatch batch;
   addLines(merge.events, theirs, batch);
   addMissingPlayers(all, batch);
-  addValues(batch);
+  addValues(theirs, batch);
   // A file that went back to an older version has lost what was set since, too.
   for (const auto& [place, value] : m_values) {
     const auto stored = theirs.value(place.first, place.second);
@@ -185,7 +197,7 @@ void GameOnDisk::addMissingPlayers(const EventList& all, ProfileBatch& batch) {
 ProfileBatch GameOnDisk::whole(const EventList& all) const {
   ProfileBatch batch;
   addLines(mergeGame(all, m_guard.left(), m_guard.left()).events, m_guard.left(), batch);
-  addValues(batch);
+  addValues(m_guard.left(), batch);
   return batch;
 }
 

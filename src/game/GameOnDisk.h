@@ -31,6 +31,7 @@ struct ForeignHands {
 class GameOnDisk {
  public:
   using Values = std::vector<std::pair<std::string, std::string>>; // keys and their values
+  using Sections = std::map<std::string_view, Values>;
 
   explicit GameOnDisk(ProfileStore& store) : m_guard(store, isGame), m_store(store) {}
 
@@ -46,8 +47,8 @@ class GameOnDisk {
   void setWatching(bool isOn) { m_isWatching = isOn; }
 
   // Each returns whether everything is on disk. `all` are the events as they are now, the steps taken.
-  // With steps go the keys of ACCEPTES that they change, as one write.
-  bool change(const std::vector<EventChange>& steps, const EventList& all, const Values& accepted = {});
+  // With steps go the keys of other sections that change with them, as one write.
+  bool change(const std::vector<EventChange>& steps, const EventList& all, const Sections& more = {});
   bool set(std::string_view section, const Values& values, const EventList& all);
   // Looks at the file, brings it back to what was recorded, and writes what waits.
   bool settle(const EventList& all);
@@ -76,7 +77,7 @@ class GameOnDisk {
   void noteWhatWasKept();
   void rescue(const EventList& all);
   void note(std::string_view section, const Values& values);
-  void addValues(ProfileBatch& batch) const;
+  void addValues(const ProfileText& text, ProfileBatch& batch) const;
   void addMissingPlayers(const EventList& all, ProfileBatch& batch);
   ProfileBatch whole(const EventList& all) const;
 

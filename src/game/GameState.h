@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,7 +39,24 @@ struct PeriodEntry {
   std::int16_t points = 0;
 };
 
-// A two- or three-point field goal, for the shot chart.
+// What counts for a player beside the columns of a box score.
+struct PlayerExtras {
+  std::int16_t foulsDrawn = 0;
+  std::int16_t blocksAgainst = 0; // his shots that were blocked
+  friend bool operator==(const PlayerExtras&, const PlayerExtras&) = default;
+};
+
+// What counts for a team and none of its players.
+struct TeamRow {
+  std::int16_t offensiveRebounds = 0;
+  std::int16_t defensiveRebounds = 0;
+  std::int16_t turnovers = 0;
+  std::int16_t benchTechnicals = 0; // of coach and bench
+  std::int16_t timeOuts = 0;        // taken
+  friend bool operator==(const TeamRow&, const TeamRow&) = default;
+};
+
+// A field goal with its place, or of a kind that should have one, for the shot chart.
 struct Shot {
   std::uint8_t team = 0;
   std::uint8_t player = 0; // entry
@@ -74,6 +92,9 @@ struct GameState {
   std::array<std::array<std::uint16_t, kLineEntries>, 2> lineMembers = {};
   std::array<std::uint16_t, 2> wereOnCourt = {}; // bit n: player entry n was on court at some time
   LeadTracker lead;
+  std::array<std::array<PlayerExtras, kPlayerEntries>, 2> extras = {};
+  std::array<TeamRow, 2> teamRows = {};
+  std::optional<int> arrow; // the side that gets the next ball after a held one, once it was said
   std::vector<Shot> shots;
   int period = 1;
   int clockSeconds = 0; // of the last event

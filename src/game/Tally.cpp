@@ -1,5 +1,6 @@
 #include "game/Tally.h"
 
+#include "game/EventDetails.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -43,6 +44,9 @@ void Tally::clear() {
   m_state.usedLines = {};
   m_state.wereOnCourt = {};
   m_state.lead = {};
+  m_state.extras = {};
+  m_state.teamRows = {};
+  m_state.arrow.reset();
   m_state.shots.clear();
   m_state.period = 1;
   m_state.clockSeconds = 0;
@@ -56,6 +60,9 @@ void Tally::clear() {
 void Tally::apply(const GameEvent& event, std::size_t eventIndex) {
   if (event.isDeleted || !event.isUnderstood)
     return;
+  // What a team did moves no clock, so that readers who pass it over have the same times.
+  if (event.isOfTeam())
+    return countOfTeam(event);
   trackClock(event);
   if (event.code == EventCode::ARRET)
     changeLines(event);
@@ -193,10 +200,47 @@ void Tally::count(const GameEvent& event, std::size_t eventIndex) {
     add(ofPeriod.points, kind.points);
     addPoints(team, kind.points);
   }
-  if (kind.hasPlace)
+  if (event.detailsAt > 0)
+    countExtras(event);
+  if (kind.hasPlace || event.hasPlace)
     m_state.shots.push_back({static_cast<std::uint8_t>(team), static_cast<std::uint8_t>(player),
                              static_cast<std::uint8_t>(line), kind.points == 3, event.isMade, event.hasPlace,
                              event.x, event.y, static_cast<std::uint32_t>(eventIndex)});
+}
+
+// Of whoever is named beside the player; a count that is full stays.
+void Tally::countExtras(const GameEvent& event) {
+  const bool isFoul = event.code == EventCode::SPF || event.code == EventCode::STF;
+  if (!isFoul && event.code != EventCode::SBS)
+    return;
+  const auto named = event.detail(isFoul ? detail_key::kDrawnBy : detail_key::kShooter);
+  const auto other = PlayerReference::read(named.value_or(""));
+  if (!other || other->team == event.player.team)
+    return;
+  const auto team = static_cast<std::size_t>(other->team);
+  PlayerExtras& extras =
+      m_state.extras[team][static_cast<std::size_t>(m_rosters[team]->entryOf(other->jersey, other->number))];
+  if (std::int16_t& count = isFoul ? extras.foulsDrawn : extras.blocksAgainst; !isFull(count, 1))
+    add(count, 1);
+}
+
+void Tally::countOfTeam(const GameEvent& event) {
+  if (event.code == EventCode::XAR)
+    m_state.arrow = event.player.team;
+  if (event.player.team < 0)
+    return;
+  TeamRow& row = m_state.teamRows[static_cast<std::size_t>(event.player.team)];
+  std::int16_t* count = nullptr;
+  switch (event.code) {
+  case EventCode::XTO: count = &row.timeOuts; break;
+  case EventCode::XOR: count = &row.offensiveRebounds; break;
+  case EventCode::XDR: count = &row.defensiveRebounds; break;
+  case EventCode::XTV: count = &row.turnovers; break;
+  case EventCode::XCF: count = &row.benchTechnicals; break;
+  default: return;
+  }
+  if (!isFull(*count, 1))
+    add(*count, 1);
 }
 
 void Tally::leaveOut(std::size_t team, std::string_view row, std::string_view count) {

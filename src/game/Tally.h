@@ -45,6 +45,8 @@ class Tally {
                                       const std::vector<std::string>& strangers);
   void creditTime(std::size_t team, int clockSeconds);
   void count(const GameEvent& event, std::size_t eventIndex);
+  void countExtras(const GameEvent& event);
+  void countOfTeam(const GameEvent& event);
   void leaveOut(std::size_t team, std::string_view row, std::string_view count);
   void addPoints(std::size_t team, int points);
 

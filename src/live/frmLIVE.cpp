@@ -422,6 +422,10 @@ void frmLIVE::showPeriodEnd() {
 }
 
 void frmLIVE::askOvertime() {
+  if (const GameDetails& details = m_game.game().details; details.overtimeMinutes > 0) { // as the one before
+    (void)m_session.change()->beginOvertime(details.overtimeMinutes, details.keepsBonus);
+    return;
+  }
   frmOVERTIME window(m_game.game().details, m_texts, this);
   if (window.exec() != QDialog::Accepted)
     return;

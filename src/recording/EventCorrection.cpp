@@ -1,5 +1,6 @@
 #include "recording/EventCorrection.h"
 
+#include "game/EventDetails.h"
 #include "game/EventWords.h"
 #include "game/ShotFollowUp.h"
 #include "recording/JerseyMatch.h"
@@ -16,7 +17,7 @@ namespace {
 constexpr std::size_t kMostDigits = 4; // one more than any jersey: a slip is seen, and shown
 
 bool canBeCorrected(const GameEvent& event) {
-  return event.isUnderstood && !event.isDeleted && event.kind() != nullptr;
+  return event.isUnderstood && !event.isDeleted && event.isOfPlayer();
 }
 
 const Roster& rosterOf(const LiveGame& game, int team) {
@@ -127,7 +128,8 @@ EditPlan EventCorrection::planOf(const EventPlace& event, const Said& wanted) co
     return {};
   return m_game->editing().replacement(
       event, found->clockSeconds,
-      eventText(wanted.code, wanted.isMade, wanted.team, wanted.jersey, wanted.place));
+      withDetailsOf(*found, eventText(wanted.code, wanted.isMade, wanted.team, wanted.jersey, wanted.place),
+                    wanted.code, wanted.team));
 }
 
 EventCorrection::Outcome EventCorrection::refuse(Refusal refusal) {

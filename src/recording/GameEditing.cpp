@@ -1,5 +1,6 @@
 #include "recording/GameEditing.h"
 
+#include "game/EventDetails.h"
 #include "recording/GameClock.h"
 #include "storage/Module1.h"
 
@@ -49,10 +50,9 @@ std::string GameEditing::textOf(const Counted& counted) const {
   const RosterPlayer* who =
       m_log.game().roster[static_cast<std::size_t>(counted.team)].player(counted.player);
   const EventKind* kind = kindOf(counted.kind);
-  if (who == nullptr || kind == nullptr)
+  if (who == nullptr || kind == nullptr || kind->isOfTeam)
     return {};
-  return eventText(counted.kind, counted.isMade, counted.team, who->jersey,
-                   kind->hasPlace ? counted.place : std::nullopt);
+  return eventText(counted.kind, counted.isMade, counted.team, who->jersey, counted.place);
 }
 
 std::string GameEditing::keyOfNew(int number) const {
@@ -95,7 +95,10 @@ EditPlan GameEditing::newTime(const EventPlace& event, int clock) const {
 
 EditPlan GameEditing::change(const EventPlace& event, int clock, const Counted& counted) const {
   const std::string text = textOf(counted);
-  return text.empty() ? EditPlan{} : replacement(event, clock, text);
+  const GameEvent* old = m_log.game().events.find(event);
+  return text.empty() || old == nullptr
+             ? EditPlan{}
+             : replacement(event, clock, withDetailsOf(*old, text, counted.kind, counted.team));
 }
 
 EditPlan GameEditing::insertion(const EventPlace& at, Where where, int clock, const Counted& counted) const {

@@ -34,6 +34,7 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
   if (const GameFileProblem problem = m_log.open(path); problem != GameFileProblem::None)
     return problem;
   m_access = access;
+  m_time.layOnUtc();
   m_history.clear();
   m_lastShot = {};
   m_wasLeftRunning = false;
@@ -113,20 +114,27 @@ bool LiveGame::isHalfTime() const {
          });
 }
 
-// The length of an overtime is in no file: of one that has begun it is the highest clock seen in it.
+// Of an overtime that an older program recorded the length is in no file: it is the highest clock seen in it.
 int LiveGame::lengthOf(int period) const {
+  const GameDetails& details = game().details;
   int longest = 0;
-  if (period > game().details.periods) {
-    for (const GameEvent& event : game().events) {
-      if (event.period == period && event.isUnderstood)
+  if (period > details.periods) {
+    longest = details.overtimeMinutes * kSecondsPerMinute;
+    for (const GameEvent& event : game().events.ofPeriod(period)) {
+      if (event.isUnderstood)
         longest = std::max(longest, event.clockSeconds);
     }
   }
-  return longest > 0 ? longest : game().details.minutesPerPeriod * kSecondsPerMinute;
+  return longest > 0 ? longest : details.minutesPerPeriod * kSecondsPerMinute;
 }
 
 int LiveGame::clockSeconds() const {
   return hasTime() ? m_flow.seconds() : 0;
+}
+
+std::optional<std::int64_t> LiveGame::wallClock() const {
+  const std::int64_t now = m_time.utcMilliseconds();
+  return now > 0 ? std::optional(now) : std::nullopt;
 }
 
 std::string LiveGame::lineOf(const std::string& eventText) const {
@@ -156,7 +164,7 @@ void LiveGame::start() {
     return closePeriod();
   m_history.forgetStarts();
   const int number = m_log.nextNumber();
-  m_log.change({added(lineOf(startText()))});
+  m_log.change({added(lineOf(startText()))}, wallClock());
   m_starts[number] = m_flow.start();
 }
 
@@ -214,7 +222,7 @@ void LiveGame::checkCounts() const {
 }
 
 void LiveGame::recordStop() {
-  m_log.change({added(lineOf(stopText(onCourt(), m_log.rosters())))});
+  m_log.change({added(lineOf(stopText(onCourt(), m_log.rosters())))}, wallClock());
   checkCounts();
 }
 
@@ -284,7 +292,7 @@ bool LiveGame::returnToEndedPeriod() {
 bool LiveGame::beginOvertime(int minutes, bool keepsFouls) {
   if (phase() != Phase::OvertimeAsked || minutes < 1 || minutes > kMostMinutes || period() >= kLastPeriod)
     return false;
-  m_log.setDetails({{"KEEPBONUS", keepsFouls ? "1" : "0"}});
+  m_log.setDetails({{"KEEPBONUS", keepsFouls ? "1" : "0"}, {"DUREEPROL", std::to_string(minutes)}});
   m_flow.stand(period() + 1, minutes * kSecondsPerMinute, minutes * kSecondsPerMinute);
   m_flow.unlock(); // nobody answers by reflex
   return true;
@@ -350,7 +358,7 @@ bool LiveGame::changeByClick(const OnCourt& wanted) {
   if (!mayStand(wanted))
     return false;
   if (!m_pending)
-    m_pending = {onCourt(), clockSeconds(), m_time.seconds()};
+    m_pending = {onCourt(), clockSeconds(), m_time.seconds(), wallClock()};
   putOnCourt(wanted);
   return !isWhole(wanted) || writePending();
 }
@@ -380,7 +388,7 @@ bool LiveGame::writePending() {
   if (!m_pending)
     return true;
   const Pending pending = *std::exchange(m_pending, std::nullopt);
-  return onCourt() == pending.before || recordOnCourt(pending.clockSeconds);
+  return onCourt() == pending.before || recordOnCourt(pending.clockSeconds, pending.wallClock);
 }
 
 bool LiveGame::setOnCourt(const OnCourt& wanted) {
@@ -390,7 +398,7 @@ bool LiveGame::setOnCourt(const OnCourt& wanted) {
     return writePending();
   const CourtSlots slots = m_slots;
   putOnCourt(wanted);
-  if (m_pending ? writePending() : recordOnCourt(clockSeconds()))
+  if (m_pending ? writePending() : recordOnCourt(clockSeconds(), wallClock()))
     return true;
   m_slots = slots;
   return false;
@@ -417,7 +425,7 @@ const GameEvent* LiveGame::openSubstitution(int clockSeconds) const {
   return &last;
 }
 
-bool LiveGame::recordOnCourt(int clockSeconds) {
+bool LiveGame::recordOnCourt(int clockSeconds, std::optional<std::int64_t> wallClock) {
   if (const GameEvent* open = openSubstitution(clockSeconds)) {
     const EventPlace place = placeOf(*open);
     const std::string old(open->whole());
@@ -428,12 +436,13 @@ bool LiveGame::recordOnCourt(int clockSeconds) {
   std::vector<EventChange> steps = {added(clock + stopText(onCourt(), m_log.rosters()))};
   if (phase() == Phase::Running)
     steps.push_back(added(clock + startText()));
-  return done(Text::Substitution, steps, deletionOf(steps));
+  return done(Text::Substitution, steps, deletionOf(steps), wallClock);
 }
 
 // One action of the user, done by these steps and taken back by those.
-bool LiveGame::done(Text text, const std::vector<EventChange>& steps, std::vector<EventChange> back) {
-  if (!m_log.change(steps))
+bool LiveGame::done(Text text, const std::vector<EventChange>& steps, std::vector<EventChange> back,
+                    std::optional<std::int64_t> wallClock) {
+  if (!m_log.change(steps, wallClock))
     return false;
   m_history.add({text, {steps[0].period, steps[0].key}, std::move(back), m_log.nextNumber()});
   return true;
@@ -446,7 +455,8 @@ bool LiveGame::record(const std::string& eventText, Text text) {
     return false;
   writePending();
   const std::vector<EventChange> steps = {added(lineOf(eventText))};
-  if (!done(text, steps, deletionOf(steps)))
+  // While the clock runs it tells what the wall's would.
+  if (!done(text, steps, deletionOf(steps), phase() == Phase::Running ? std::nullopt : wallClock()))
     return false;
   m_flow.decideAgain(isTied());
   return true;
@@ -467,7 +477,7 @@ bool LiveGame::recordShot(int team, int player, EventCode kind, bool isMade,
 bool LiveGame::recordAction(int team, int player, EventCode kind) {
   const EventKind* action = kindOf(kind);
   const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
-  if (action == nullptr || action->isShot || who == nullptr)
+  if (action == nullptr || action->isShot || action->isOfTeam || who == nullptr)
     return false;
   return record(eventText(kind, false, team, who->jersey), action->wordsText);
 }

@@ -103,7 +103,8 @@ class LiveGame {
   struct Pending {
     OnCourt before = {};
     int clockSeconds = 0;
-    std::int64_t since = 0; // the time of its first click
+    std::int64_t since = 0;                               // the time of its first click
+    std::optional<std::int64_t> wallClock = std::nullopt; // then
   };
   static constexpr int kLongestPending = 20; // seconds
   const std::optional<Pending>& pending() const { return m_pending; }
@@ -204,8 +205,10 @@ class LiveGame {
   bool mayStand(const OnCourt& wanted) const;
   bool changeByClick(const OnCourt& wanted);
   bool isWhole(const OnCourt& wanted) const;
-  bool recordOnCourt(int clockSeconds);
-  bool done(Text text, const std::vector<EventChange>& steps, std::vector<EventChange> back);
+  bool recordOnCourt(int clockSeconds, std::optional<std::int64_t> wallClock);
+  bool done(Text text, const std::vector<EventChange>& steps, std::vector<EventChange> back,
+            std::optional<std::int64_t> wallClock = std::nullopt);
+  [[nodiscard]] std::optional<std::int64_t> wallClock() const;
   [[nodiscard]] const GameEvent* openSubstitution(int clockSeconds) const;
   [[nodiscard]] std::optional<LiveAction> startToTakeBack() const;
   bool takeStartBack(LiveAction start);

@@ -2,6 +2,7 @@
 // clock that was a mistake, marks of doubt, accepted findings, and players who are added.
 #include "recording/LiveGame.h"
 
+#include "game/EventDetails.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -176,7 +177,7 @@ bool LiveGame::setDoubtful(const EventPlace& event, bool isDoubtful) {
   if (found == nullptr || !canRecord())
     return false;
   const std::string line(found->whole());
-  const std::string marked = withDoubt(line, isDoubtful);
+  const std::string marked = withDetail(line, detail_key::kDoubtful, isDoubtful ? "1" : "");
   return marked != line && take({.text = Text::MarkOfDoubt,
                                  .isPossible = true,
                                  .steps = {replacement(event, marked)},

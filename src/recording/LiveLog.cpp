@@ -1,5 +1,6 @@
 #include "recording/LiveLog.h"
 
+#include "game/WallClock.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -36,7 +37,7 @@ GameFileProblem LiveLog::open(const std::string& path) {
   return GameFileProblem::None;
 }
 
-bool LiveLog::change(const std::vector<EventChange>& steps) {
+bool LiveLog::change(const std::vector<EventChange>& steps, std::optional<std::int64_t> wallClock) {
   const bool isBehind = isAppending(steps, m_game.events);
   EventList changed = m_game.events;
   if (!std::ranges::all_of(steps, [&](const EventChange& step) { return changed.apply(step); }))
@@ -44,7 +45,16 @@ bool LiveLog::change(const std::vector<EventChange>& steps) {
   note(steps);
   const std::size_t before = m_game.events.size();
   m_game.events = std::move(changed);
-  m_disk.change(steps, m_game.events, isBehind ? GameOnDisk::Values() : forgetAccepted(steps));
+  GameOnDisk::Sections more;
+  if (!isBehind)
+    more[kAcceptedSection] = forgetAccepted(steps);
+  if (m_game.details.id.empty()) { // of a game that an older program made
+    m_game.details.id = newGameId();
+    more[kDetailsSection] = {{"IDPARTIE", m_game.details.id}};
+  }
+  if (wallClock)
+    more[kWallClockSection] = timesOf(steps, *wallClock);
+  m_disk.change(steps, m_game.events, more);
   if (isBehind)
     count(before);
   else
@@ -99,6 +109,15 @@ GameOnDisk::Values LiveLog::forgetAccepted(const std::vector<EventChange>& steps
     gone.emplace_back(std::to_string(accepted->first), std::string());
   }
   return gone;
+}
+
+GameOnDisk::Values LiveLog::timesOf(const std::vector<EventChange>& steps, std::int64_t wallClock) const {
+  GameOnDisk::Values times = {{std::string(kWallClockOwner), m_game.details.id}};
+  for (const EventChange& step : steps) {
+    if (step.kind == EventChange::Kind::Add)
+      times.emplace_back(step.key, std::to_string(wallClock));
+  }
+  return times;
 }
 
 ForeignHands LiveLog::takeForeignHands() {

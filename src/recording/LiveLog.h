@@ -34,8 +34,9 @@ class LiveLog {
   // The number of the next new event; each is given out once.
   int nextNumber() const { return m_nextNumber; }
   [[nodiscard]] std::string takeKey() { return std::to_string(m_nextNumber++); }
-  // False, and nothing changed, when one of the steps cannot be taken.
-  bool change(const std::vector<EventChange>& steps);
+  // False, and nothing changed, when one of the steps cannot be taken. `wallClock` is when the new events
+  // happened, in milliseconds of UTC; of those put in later nobody knows it.
+  bool change(const std::vector<EventChange>& steps, std::optional<std::int64_t> wallClock = std::nullopt);
   // Keys of DETAILS and their values; the details in memory follow.
   void setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
   // One player more, behind all others, who counts from the first event on that names him.
@@ -68,6 +69,7 @@ class LiveLog {
  private:
   // Of events that the steps change nothing is accepted any more.
   GameOnDisk::Values forgetAccepted(const std::vector<EventChange>& steps);
+  GameOnDisk::Values timesOf(const std::vector<EventChange>& steps, std::int64_t wallClock) const;
   void note(const std::vector<EventChange>& steps);
   void count(std::size_t from); // the events from that place on
   void countAll();

@@ -14,7 +14,7 @@ namespace hooptab {
 namespace {
 
 bool counts(const GameEvent& event) {
-  return event.isUnderstood && !event.isDeleted && event.kind() != nullptr;
+  return event.isUnderstood && !event.isDeleted && event.isOfPlayer();
 }
 
 // French has one for the first alone.

@@ -26,7 +26,20 @@ std::int64_t sinceMidnight() {
 
 } // namespace
 
-SystemTime::SystemTime() : m_offsetNanoseconds(sinceMidnight() - sinceBoot()) {}
+SystemTime::SystemTime() : m_offsetNanoseconds(sinceMidnight() - sinceBoot()) {
+  layOnUtc();
+}
+
+std::int64_t SystemTime::utcMilliseconds() {
+  constexpr std::int64_t kMillisecond = 1'000'000;
+  return (sinceBoot() + m_utcNanoseconds) / kMillisecond;
+}
+
+void SystemTime::layOnUtc() {
+  timespec time = {};
+  ::clock_gettime(CLOCK_REALTIME, &time);
+  m_utcNanoseconds = time.tv_sec * kSecond + time.tv_nsec - sinceBoot();
+}
 
 std::int64_t SystemTime::seconds() {
   return (sinceBoot() + m_offsetNanoseconds) / kSecond;

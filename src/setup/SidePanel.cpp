@@ -255,8 +255,8 @@ void SidePanel::takeNumbers() {
   const bool hadTeam = m_game.sides[m_side].team != NewGame::kNone;
   const QuickRoster roster = m_game.takeNumbers(m_side, fromQt(m_numbers->text()));
   m_problem->setText(toQt(wordsOf(roster, m_texts)));
-  if (roster.problem !=
-      QuickRoster::Problem::None) // before which stand digits and separators alone, a byte each
+  // Before what is wrong stand digits and separators alone, a byte each.
+  if (roster.problem != QuickRoster::Problem::None)
     return m_numbers->setSelection(static_cast<int>(roster.place),
                                    static_cast<int>(toQt(roster.part).size()));
   m_numbersTaken = fromQt(m_numbers->text());

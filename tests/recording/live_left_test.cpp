@@ -156,8 +156,8 @@ TEST_F(LeftGameTest, AnOvertimeKeepsItsLength) {
     EXPECT_EQ(std::pair(found->period(), found->fullLength()), std::pair(5, minutes * 60));
     EXPECT_FALSE(found->setClock(minutes * 60 + 1));
     EXPECT_TRUE(found->setClock(minutes * 60));
-    // Before its first event nobody knows the length of the sixth.
-    for (const auto& [period, length] : {std::pair(4, 600), {5, minutes * 60}, {6, 600}}) {
+    // Before its first event the sixth is taken to be as long.
+    for (const auto& [period, length] : {std::pair(4, 600), {5, minutes * 60}, {6, minutes * 60}}) {
       EXPECT_TRUE(found->setPeriod(period));
       EXPECT_EQ(found->fullLength(), length) << period;
     }

@@ -146,11 +146,13 @@ void Replay::beginNextPeriod(const GameEvent& first) {
       letBuzzerPass();
       m_hand.toggleClock();
     }
-    m_table.program.waitUntilActive("frmOVERTIME");
-    m_table.camera.take("overtime");
-    m_table.person.type(std::to_string(first.clockSeconds / kSecondsPerMinute));
-    m_table.person.press("Return");
-    m_table.program.waitUntilActive("frmLIVE");
+    if (m_period == m_original.details.periods) { // those that follow are as long as the first
+      m_table.program.waitUntilActive("frmOVERTIME");
+      m_table.camera.take("overtime");
+      m_table.person.type(std::to_string(first.clockSeconds / kSecondsPerMinute));
+      m_table.person.press("Return");
+      m_table.program.waitUntilActive("frmLIVE");
+    }
     m_clock = first.clockSeconds;
   }
   m_isClosed = false;
