@@ -4,6 +4,7 @@
 #include "game/Glossary.h"
 #include "game/RunningScore.h"
 #include "report/BoxReport.h"
+#include "report/LeagueBox.h"
 #include "report/ReportWords.h"
 #include "scorecard/ColumnWords.h"
 #include "scorecard/Scoreboard.h"
@@ -307,6 +308,19 @@ Report scorecardReport(const std::shared_ptr<const CountedGame>& counted, Scorec
   return report;
 }
 
+Report leagueReport(const CountedGame& counted, const Texts& texts) {
+  const auto& [game, state] = counted;
+  Report report = reportOf(game, state, Text::LeagueBox, texts);
+  addHead(report, game, state, texts);
+  for (int team = 0; team < 2; ++team) {
+    report.blocks.push_back(leagueTable(counted, team, texts));
+    const std::string taken = std::to_string(state.teamRows[static_cast<std::size_t>(team)].timeOuts);
+    report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Note,
+                                            capitalised(texts.withPlaceholder(Text::TimeOutsTaken, taken))});
+  }
+  return report;
+}
+
 Report playByPlayReport(const CountedGame& counted, const Texts& texts) {
   const auto& [game, state] = counted;
   Report report = reportOf(game, state, Text::PlayByPlay, texts);
@@ -323,7 +337,8 @@ Report playByPlayReport(const CountedGame& counted, const Texts& texts) {
   std::array<int, 2> before = {};
   for (std::size_t i = 0; i < game.events.size(); ++i) {
     const GameEvent& event = game.events[i];
-    const std::string sides[] = {event.isUnderstood ? words.wordsOfSide(i, 0) : words.words(i),
+    const bool isOfNobody = event.code == EventCode::XTO && event.player.team < 0;
+    const std::string sides[] = {event.isUnderstood && !isOfNobody ? words.wordsOfSide(i, 0) : words.words(i),
                                  words.wordsOfSide(i, 1)};
     if (event.isDeleted || (sides[0].empty() && sides[1].empty()))
       continue;
@@ -354,6 +369,10 @@ std::span<const GameReport> gameReports() {
          ScorecardView byLine = choice;
          byLine.setView(BoxView::Lines);
          return scorecardReport(counted, byLine, settings, texts);
+       }},
+      {"league", Text::LeagueBox,
+       [](const Counted& counted, const ScorecardView&, const Settings&, const Texts& texts) {
+         return leagueReport(*counted, texts);
        }},
       {"play-by-play", Text::PlayByPlay,
        [](const Counted& counted, const ScorecardView&, const Settings&, const Texts& texts) {

@@ -19,6 +19,9 @@ namespace hooptab {
 [[nodiscard]] Report scorecardReport(const std::shared_ptr<const CountedGame>& counted, ScorecardView choice,
                                      const Settings& settings, const Texts& texts);
 
+// Both teams' box scores as a league's sheet has them, and the time-outs that they took.
+[[nodiscard]] Report leagueReport(const CountedGame& counted, const Texts& texts);
+
 // Every event that is not deleted, with the score where it changed.
 [[nodiscard]] Report playByPlayReport(const CountedGame& counted, const Texts& texts);
 
