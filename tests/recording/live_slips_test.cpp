@@ -1,5 +1,6 @@
 // Slips of the hand that the recorder forgives or refuses: what it keeps, and what it says.
 #include "checks/GameCheck.h"
+#include "game/EventDetails.h"
 #include "recording/FollowUpQuestion.h"
 #include "recording/LiveTable.h"
 #include "recording/ToggleGuard.h"
@@ -186,7 +187,7 @@ TEST_F(SlipsTest, DoubtsAndAcceptedFindingsStandInTheFileUntilTheEventChanges) {
   const EventPlace turnover = *live.lastRecorded();
   ASSERT_TRUE(live.setOnCourt({kFive ^ 0b1000010U, kFive}));
   ASSERT_TRUE(live.setDoubtful(*live.lastRecorded(), true));
-  EXPECT_EQ(since(), " 10:00,GFG,0-3,?=1 10:00,STO,0-23 10:00,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15,?=1");
+  EXPECT_EQ(since(), " 10:00,GFG,0-3,,,?=1 10:00,STO,0-23 10:00,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15,?=1");
   ASSERT_EQ(findingsOfEvents(live.game()), 1);
   ASSERT_TRUE(live.acceptFinding(turnover, static_cast<int>(FindingKind::NotOnCourt)));
   const Game read = onDisk();
@@ -195,7 +196,7 @@ TEST_F(SlipsTest, DoubtsAndAcceptedFindingsStandInTheFileUntilTheEventChanges) {
   EXPECT_EQ(tallied(read).players[0][1].counters[Counter::FGM], 1) << "counts as before";
   ASSERT_TRUE(live.editEvent(turnover, 590, {.kind = EventCode::SPF, .team = 0, .player = 7}));
   EXPECT_EQ(findingsOfEvents(live.game()), 1) << "another event, another finding";
-  const std::string bare = withDoubt("05:00,ARRET", true);
+  const std::string bare = withDetail("05:00,ARRET", detail_key::kDoubtful, "1");
   EXPECT_EQ(bare, "05:00,ARRET,,,?=1") << "behind both lists, be they missing";
   EXPECT_TRUE(GameEvent::parse(1, "1", bare).isUnderstood && GameEvent::parse(1, "1", bare).isDoubtful);
   ASSERT_TRUE(live.setDoubtful({1, "3"}, false));
