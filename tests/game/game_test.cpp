@@ -42,7 +42,7 @@ std::string fiveAside(const std::string& events) {
 TEST_F(GameFileTest, NewGameIsWrittenInOrderAndLeavesNothingOfTheOld) {
   m_folder.write("g.GAM",
                  std::string(kHead) +
-                     "EVENUM=9\r\nTERMINE=1\r\nKEEPBONUS=1\r\n[0]\r\n99=0,Old\r\n[PERIODE1]\r\n1=x\r\n"
+                     "EVENUM=9\r\nTERMINE=1\r\nKEEPBONUS=1\r\nDUREEPROL=5\r\nIDPARTIE=old\r\n[HORLOGE]\r\n1=5\r\n[0]\r\n99=0,Old\r\n[PERIODE1]\r\n1=x\r\n"
                      "[PERIODE12]\r\n2=y\r\n");
   GameDetails details;
   details.date = "2026-03-01";
@@ -52,13 +52,14 @@ TEST_F(GameFileTest, NewGameIsWrittenInOrderAndLeavesNothingOfTheOld) {
   details.periods = 4;
   details.minutesPerPeriod = 8;
   details.notes = "Été, œuf";
+  details.id = "ab12"; // else drawn at random
   ASSERT_EQ(m_file.create(details, {{"5", 2, "Zoé"}}, {}), GameFileProblem::None);
   EXPECT_EQ(m_folder.read("g.GAM"),
             "[DETAILS]\r\nVERSION=2.0\r\nINPUTTYPE=0\r\nDATE=2026-03-01\r\nOKPRINCIPAL=0\r\nEQUIPE0ID=0\r\n"
             "EQUIPE1ID=0\r\nEQUIPE0COL=0\r\nEQUIPE1COL=0\r\nEQUIPE0ABB=LYNX\r\nEQUIPE1ABB=PUMA\r\n"
             "EQUIPE0NOM=\r\nEQUIPE1NOM=\r\nEQUIPE0CAT=AAA \r\nEQUIPE1CAT=\r\nSUPP0=\r\nSUPP1=\r\nENDROIT=\r\n"
             "SAISIEPAR=\r\nNBREPERIODE=4\r\nDUREE=8\r\nBONUS=0\r\nPFMAX=0\r\nTFMAX=0\r\nTYPE=0\r\n"
-            "NOTES=\xC9t\xE9, \x9Cuf\r\n[0]\r\n5=2,Zo\xE9\r\n[1]\r\n0=9,PUMA\r\n[PERIODE1]\r\n"
+            "NOTES=\xC9t\xE9, \x9Cuf\r\nIDPARTIE=ab12\r\n[0]\r\n5=2,Zo\xE9\r\n[1]\r\n0=9,PUMA\r\n[PERIODE1]\r\n"
             "1=08:00,ARRET,IN-,IN-\r\n");
   EXPECT_EQ(m_file.nextNumber(), 2);
 }
