@@ -255,11 +255,13 @@ TEST(TableReportTest, AWorkbookTellsNumbersPercentagesTimesAndTextsApart) {
   ReportTable table;
   table.title = "T";
   table.columns = {{"Name", "Name", {}, true, true}, {"N", "N"}, {"P", "P"}, {"T", "T"}, {"A", "A"}};
-  table.rows.push_back({{textCell("=1+1"),
+  table.rows.push_back({{textCell("=1+1 <b>"),
                          {"-3", Kind::Number, -3},
                          {"6.3%", Kind::Percent, 0.0625},
                          {"90:00", Kind::Time, 5400},
                          {"2.33", Kind::Number, 7.0 / 3}}});
+  report.blocks.emplace_back(table);
+  table.title = "a sheet of its own";
   report.blocks.emplace_back(table);
   const auto bytes = reportXlsx(report);
   ASSERT_TRUE(bytes);
@@ -270,6 +272,8 @@ TEST(TableReportTest, AWorkbookTellsNumbersPercentagesTimesAndTextsApart) {
     return process.waitForFinished(20000) ? process.readAllStandardOutput().toStdString() : std::string();
   };
   const std::string sheet = part("xl/worksheets/sheet1.xml");
+  EXPECT_NE(part("xl/worksheets/sheet2.xml"), "");
+  EXPECT_NE(part("xl/sharedStrings.xml").find("=1+1 &lt;b&gt;"), std::string::npos);
   const std::string styles = part("xl/styles.xml");
   EXPECT_EQ(sheet.find("<f>"), std::string::npos);
   EXPECT_NE(sheet.find("xSplit=\"1\" ySplit=\"1\" topLeftCell=\"B2\""), std::string::npos) << sheet;

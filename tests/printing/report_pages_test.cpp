@@ -22,7 +22,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QImage>
 #include <QLineEdit>
 #include <QPrinter>
@@ -291,37 +290,6 @@ TEST_F(ReportPagesTest, ReportsTakeNoMoreRoomThanTheyNeed) {
   }
   EXPECT_GE(edges.size(), 3U);
   EXPECT_LE(edges.size(), 5U);
-}
-
-TEST_F(ReportPagesTest, AScorecardIsAPdfInLessThanThreeTenthsOfASecond) {
-  const Report report = scorecard(crowdedGame());
-  (void)reportPdf(report, kA4); // fonts are found once
-  QElapsedTimer time;
-  time.start();
-  EXPECT_FALSE(reportPdf(report, kA4).empty());
-  EXPECT_LT(time.elapsed(), 1500) << "asked for are 300 ms; this machine may be busy";
-}
-
-TEST_F(ReportPagesTest, AWorkbookHoldsNumbersAsNumbersAndNamesAsText) {
-  if (isMissing("unzip"))
-    GTEST_SKIP() << "no unzip";
-  const auto bytes = reportXlsx(scorecard(crowdedGame()));
-  ASSERT_TRUE(bytes);
-  const QString path = toQt(folder.write("box.xlsx", *bytes));
-  const auto part = [&](const char* name) {
-    return output("unzip", {QStringLiteral("-p"), path, QLatin1String(name)});
-  };
-  for (int sheet = 1; sheet <= 6; ++sheet) {
-    const std::string xml = part(("xl/worksheets/sheet" + std::to_string(sheet) + ".xml").c_str());
-    ASSERT_FALSE(xml.empty()) << "a sheet for each of the six tables";
-    EXPECT_EQ(xml.find("<f>"), std::string::npos) << "no formula anywhere";
-    EXPECT_NE(xml.find("state=\"frozen\""), std::string::npos);
-    // The second team's fifth player made one three of one: F3% stands as 1 in the format of percentages.
-    EXPECT_TRUE(sheet != 5 || std::regex_search(xml, std::regex("<c r=\"[A-Z]+8\" s=\"\\d+\"><v>1</v></c>")));
-  }
-  const std::string strings = part("xl/sharedStrings.xml");
-  for (const char* name : {"=SUM(A1)", "&lt;script&gt;", "+Plus", "-Minus", "@At"})
-    EXPECT_NE(strings.find(name), std::string::npos) << name;
 }
 
 // The disk fails at the n-th call: the old file stands whole, or the new one.
