@@ -12,12 +12,6 @@
 
 namespace hooptab {
 
-class TableDisk : public FaultyFileSystem {
- public:
-  bool syncs = true; // where a test has very many writes, and nothing looks at what a power cut would leave
-  int sync(int descriptor) override { return syncs ? FaultyFileSystem::sync(descriptor) : 0; }
-};
-
 class LiveTableTest : public testing::Test {
  protected:
   using Phase = LiveGame::Phase;
@@ -80,7 +74,7 @@ class LiveTableTest : public testing::Test {
   static inline const std::string kBegin = "[PERIODE1]\n1=10:00,ARRET,IN-,IN-\n";
 
   TemporaryFolder folder;
-  TableDisk disk;
+  FaultyFileSystem disk;
   ProfileStore store{disk};
   ManualTime time;
   std::string path = folder.path("live.GAM");

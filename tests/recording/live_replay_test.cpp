@@ -94,7 +94,7 @@ class Replay {
 
   const Game& m_original;
   TemporaryFolder m_folder;
-  TableDisk m_disk;
+  FaultyFileSystem m_disk;
   ProfileStore m_store{m_disk};
   ManualTime m_time;
   std::string m_path = m_folder.path("replay.GAM");

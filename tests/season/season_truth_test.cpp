@@ -4,6 +4,7 @@
 #include "season/Leaders.h"
 #include "simulator/SampleSeason.h"
 #include "storage/codepage.h"
+#include "support/FaultyFileSystem.h"
 #include "support/OfficialBox.h"
 #include "support/SharedGames.h"
 
@@ -206,18 +207,14 @@ void expectEqual(const SeasonRow& row, std::map<std::string, Plain>& all, const 
   }
 }
 
-// Nothing here has to outlast a power cut.
-class UnsyncedFileSystem : public FileSystem {
- public:
-  int sync(int) override { return 0; }
-};
-
 TEST(SimulatedSeason, TablesAgreeWithASlowCountOfTheEventLines) {
   constexpr int kGames = 200;
   const SampleSeason simulated(kGames, 99);
   TemporaryFolder folder;
-  UnsyncedFileSystem files;
-  ProfileStore store(files);
+  FileSystem files;
+  FaultyFileSystem disk;
+  disk.syncs = false;
+  ProfileStore store(disk);
   PlainSeason plain;
   for (int i = 0; i < kGames; ++i) {
     const std::string name = std::to_string(i) + ".GAM";
