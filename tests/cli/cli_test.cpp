@@ -174,11 +174,14 @@ TEST_F(Cli, JsonHasItsKeysInOrderAndTheSameInEveryLanguage) {
   const Json& team = json["teams"][0];
   EXPECT_EQ(team["name"].text(), "Panthères");
   EXPECT_EQ(team["periods"].array().size(), 3U);
+  EXPECT_EQ(team["points"].integer(), 4);
   EXPECT_EQ(team["periods"][1].integer(), 2);
   EXPECT_EQ(team["players"].array().size(), 2U) << "the total is no player";
   EXPECT_EQ(team["players"][0]["name"].text(), "Zoé Cœur");
   EXPECT_EQ(team["players"][0]["position"].text(), "Center");
   EXPECT_EQ(team["players"][1]["rating"].integer(), -1);
+  EXPECT_EQ(team["players"][0]["PTS"].integer(), 4);
+  EXPECT_EQ(team["lines"][0]["PTS"].integer(), 4);
   EXPECT_EQ(team["lines"][0]["line"].text(), "IN-04-05");
   EXPECT_EQ(team["lines"][0]["seconds"].integer(), 1500);
   EXPECT_EQ(json["teams"][1]["fouls"][1].integer(), 1);
@@ -187,30 +190,6 @@ TEST_F(Cli, JsonHasItsKeysInOrderAndTheSameInEveryLanguage) {
             1500);
   EXPECT_EQ(json["lead"]["times"][2].integer(), 1);
 }
-
-class CliOfRealGames : public Cli, public testing::WithParamInterface<std::filesystem::path> {};
-
-TEST_P(CliOfRealGames, JsonAgreesWithTheOfficialBox) {
-  ASSERT_FALSE(sharedGames().empty()) << GetParam();
-  for (const auto& path : sharedGames()) {
-    SCOPED_TRACE(path.filename().string());
-    const Json ours = Json::parse(run("box --json " + quoted(path.string())).output);
-    const Json official = Json::ofFile(std::filesystem::path(path).replace_extension(".json").string());
-    for (std::size_t side = 0; side < 2; ++side) {
-      const Json& team = ours["teams"][side];
-      EXPECT_EQ(team["points"].integer(), official["teams"][side]["points"].integer());
-      for (const char* list : {"periods", "players", "lines"}) {
-        int sum = 0;
-        for (const Json& each : team[list].array())
-          sum += std::string_view(list) == "periods" ? each.integer() : each["PTS"].integer();
-        EXPECT_EQ(sum, team["points"].integer()) << list;
-      }
-    }
-  }
-}
-
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(CliOfRealGames);
-INSTANTIATE_TEST_SUITE_P(RealGames, CliOfRealGames, testing::ValuesIn(sharedFolders("games")));
 
 TEST_F(Cli, CsvHasARowForEachPlayerAndTotalWithQuotedFields) {
   std::string text = smallGame();
@@ -225,13 +204,16 @@ TEST_F(Cli, CsvHasARowForEachPlayerAndTotalWithQuotedFields) {
     begin = end + 2;
   }
   ASSERT_EQ(lines.size(), 6U);
-  EXPECT_TRUE(lines[0].starts_with("team,No,Name,Pos,Time,PF,TF,rating,M,A,%,PTS,FGM,")) << lines[0];
+  EXPECT_EQ(lines[0],
+            "team,No,Name,Pos,Time,PF,TF,rating,M,A,%,PTS,FGM,FGA,FG%,FGPTS,F3M,F3A,F3%,F3PTS,FTM,FTA,FT%,"
+            "FTPTS,LLM,LLA,LL%,LLPTS,LRM,LRA,LR%,LRPTS,PBM,PBA,PB%,PBPTS,DKM,DKA,DK%,DKPTS,Ast,BS,ST,TO,OR,"
+            "DR,S1,S2,seconds");
   EXPECT_TRUE(lines[1].starts_with("\"P,N\",4,Zoé Cœur,Center,25:00,0,0,4,2,2,100.0%,4,2,2,100.0%,4,"));
   EXPECT_TRUE(lines[2].starts_with("\"P,N\",5,\"Bea \"\"B\"\" Baker\",Forward,")) << lines[2];
   EXPECT_TRUE(lines[3].starts_with("\"P,N\",,TOTAL,na,50:00,")) << lines[3];
   EXPECT_TRUE(lines[5].starts_with("OLY,,TOTAL,")) << lines[5];
-  for (const std::size_t line : {std::size_t{0}, std::size_t{4}, std::size_t{5}})
-    EXPECT_EQ(std::ranges::count(lines[line], ','), 48) << lines[line];
+  for (const std::size_t line : {std::size_t{4}, std::size_t{5}})
+    EXPECT_EQ(std::ranges::count(lines[line], ','), std::ranges::count(lines[0], ',')) << lines[line];
 }
 
 // Names that a spreadsheet would run and that would command a terminal, in every output.
@@ -367,6 +349,11 @@ TEST_F(Cli, SeasonTellsTheSameNumbersAsTextJsonAndCsv) {
             run("season --json --team OLY-A " + folder).output);
 
   const std::string csv = run("season --csv " + folder).output;
+  EXPECT_TRUE(csv.starts_with(
+      "table,view,team,No,Name,Time,G,PF,TF,rating,TGM,TGA,%,PTS,F2M,F2A,F2%,F2PTS,F3M,F3A,F3%,F3PTS,FTM,FTA,"
+      "FT%,FTPTS,FGM,FGA,FG%,FGPTS,LLM,LLA,LL%,LLPTS,LRM,LRA,LR%,LRPTS,PBM,PBA,PB%,PBPTS,DKM,DKA,DK%,DKPTS,"
+      "Ast,BS,ST,TO,OR,DR,TR,U1,U2,#,Pos,PosHist,underMinimum\r\n"))
+      << csv;
   EXPECT_EQ(linesOf(csv), 1 + 4 * (10 + 2)) << "totals, per game, per minute, per 40 minutes";
   EXPECT_TRUE(holds(csv, "\r\nplayers,perGame,PAN-A,4,Ann Able,05:00,2,0.0,0.0,2.5,1.0,1.0,100.0%,2.5,"));
   const std::string french = run("season --csv-for fr " + folder).output;

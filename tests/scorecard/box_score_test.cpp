@@ -101,17 +101,6 @@ TEST(BoxCells, SortByWhatTheyStandFor) {
   EXPECT_EQ(texts, (std::set<std::string_view>{"Name", "Pos"}));
 }
 
-TEST(BoxColumns, StandInTheOrderInWhichTheyAreRead) {
-  std::string shown;
-  for (const int column : boxDisplayOrder())
-    shown.append(boxColumns()[static_cast<std::size_t>(column - 1)].name).append(" ");
-  EXPECT_EQ(
-      shown,
-      "No Name Pos Time PF TF rating M A % PTS FGM FGA FG% FGPTS F3M F3A F3% F3PTS FTM FTA FT% FTPTS LLM "
-      "LLA LL% LLPTS LRM LRA LR% LRPTS PBM PBA PB% PBPTS DKM DKA DK% DKPTS Ast BS ST TO OR DR S1 S2 "
-      "seconds ");
-}
-
 TEST(BoxColumns, HideOnlyTheSortKeyAndMarkEveryMadeAndAttempted) {
   const std::set<int> madeOrAttempted = {5, 6, 9, 10, 13, 14, 17, 18, 21, 22, 35, 36, 39, 40, 44, 45};
   int index = 0;

