@@ -1,9 +1,7 @@
 #include "keypad/KeyCodes.h"
 #include "keypad/KeypadInput.h"
-#include "recording/FollowUpQuestion.h"
 #include "recording/LiveTable.h"
 #include "storage/Placeholders.h"
-#include "support/SharedGames.h"
 
 #include <set>
 
@@ -202,42 +200,6 @@ TEST_F(KeypadInputTest, WithoutTheBoundKeysTheLineIsLeft) {
   EXPECT_EQ(input.reason(), KeypadReason{Problem::NoShotKind}) << "a digit of a shot, and no foul";
   EXPECT_EQ(press("|123X\b\n"), Outcome::Confirmed);
 }
-
-// As real teams wear their numbers: the last digit of the assist's ends it.
-class KeypadOfRealGames : public KeypadInputTest,
-                          public testing::WithParamInterface<std::filesystem::path> {};
-
-TEST_P(KeypadOfRealGames, ABasketWithItsAssistTakesSixKeysOnTheLineAndSevenOnTheKeypad) {
-  ASSERT_FALSE(sharedGames().empty()) << GetParam();
-  for (const auto& game : sharedGames()) {
-    const std::string copy = folder.path(game.filename().string());
-    std::filesystem::copy_file(game, copy);
-    ASSERT_EQ(live.open(copy), GameFileProblem::None);
-    live.reopen();
-    for (int team = 0; team < 2; ++team) {
-      const auto players = live.game().roster[team].players();
-      const bool isMain = team == live.game().details.mainTeam;
-      for (unsigned mate = 2; mate <= players.size(); ++mate) {
-        const std::string& assist = players[mate - 1].jersey;
-        OnCourt onCourt = {};
-        onCourt[static_cast<std::size_t>(team)] = 1U << 1U | 1U << mate;
-        ASSERT_TRUE(live.setOnCourt(onCourt));
-        for (const std::string& keys : {"|" + players[0].jersey + (isMain ? "2\n" : "2\t"),
-                                        "." + players[0].jersey + (isMain ? "2<" : "2-")}) {
-          EXPECT_EQ(press(keys), Outcome::Confirmed) << keys;
-          EXPECT_EQ(keys.size() + assist.size(), 7U) << "and none for the mark of the line";
-        }
-        FollowUpQuestion question;
-        question.ask(live, live.followUps(team, 1, EventCode::GFG, true, false), team, 1);
-        EXPECT_FALSE(question.type(assist[0] - '0'));
-        EXPECT_TRUE(question.type(assist[1] - '0')) << game << ' ' << assist;
-      }
-    }
-  }
-}
-
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(KeypadOfRealGames);
-INSTANTIATE_TEST_SUITE_P(RealGames, KeypadOfRealGames, testing::ValuesIn(sharedFolders("games")));
 
 TEST_F(KeypadInputTest, WhatIsNotUnderstoodIsSaidAndNothingIsRecorded) {
   const std::tuple<KeypadReason, Text, std::vector<const char*>> cases[] = {

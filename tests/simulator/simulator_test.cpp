@@ -261,30 +261,4 @@ TEST_F(SimulatedGameFile, RecordedEventByEventHasTheSameEventLines) {
   EXPECT_EQ(fromRosters("recorded.GAM"), fromRosters("whole.GAM"));
 }
 
-TEST_F(SimulatedGameFile, DeletingAndRestoringBringsEveryCounterBack) {
-  for (const std::size_t index : {std::size_t{1}, std::size_t{30}}) {
-    const SimulatedGame& simulated = games()[index];
-    const std::string name = std::to_string(index) + ".GAM";
-    GameFile file(m_store, write(simulated, name));
-    const std::string bytes = m_folder.read(name);
-    Game game;
-    ASSERT_EQ(file.read(game), GameFileProblem::None);
-    const auto before = everyCounter(tallied(game));
-    for (std::size_t i = 5; i < game.events.size(); i += 23) {
-      const GameEvent& event = game.events[i];
-      if (event.isDeleted || event.isClock())
-        continue;
-      const GameFile::EventKey key{event.period, std::string(event.key)};
-      Game changed;
-      ASSERT_EQ(file.setDeleted({key}, true), GameFileProblem::None);
-      ASSERT_EQ(file.read(changed), GameFileProblem::None);
-      EXPECT_NE(everyCounter(tallied(changed)), before) << event.line;
-      ASSERT_EQ(file.setDeleted({key}, false), GameFileProblem::None);
-      ASSERT_EQ(file.read(changed), GameFileProblem::None);
-      EXPECT_EQ(everyCounter(tallied(changed)), before) << event.line;
-    }
-    EXPECT_EQ(m_folder.read(name), bytes);
-  }
-}
-
 } // namespace
