@@ -49,6 +49,7 @@
 #include <QTest>
 #include <QToolButton>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <set>
 #include <sys/wait.h>
@@ -95,29 +96,24 @@ class MainWindowTest : public testing::Test {
     return place.filePath(QLatin1String(name));
   }
 
-  // A game with one made shot, 3 : 0.
-  QString makeGame(const char* name, const char* visitors = "LYNX") {
+  QString write(const char* name, const std::string& text) {
     const QString path = fileIn(games, name);
-    GameDetails details;
-    details.version = GameFile::kVersion;
-    details.date = "2026-11-05";
-    details.abbreviation[0] = visitors;
-    details.abbreviation[1] = "PUMA";
-    details.name[0] = "Basketball College";
-    details.name[1] = "Very Small School";
-    details.periods = 4;
-    details.minutesPerPeriod = 10;
-    GameFile file(store, fromQt(path));
-    EXPECT_EQ(file.create(details, {{"4", 0, "Ann Able"}}, {{"5", 1, "Bea Baker"}}), GameFileProblem::None);
-    EXPECT_EQ(file.append(1, 500, file.nextNumber(), {",GF3,0-4,60,80"}), GameFileProblem::None);
+    std::ofstream(fromQt(path)) << text;
     return path;
   }
-  QString makeWrongFile() {
-    const QString path = fileIn(games, "WRONG.GAM");
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[DETAILS]\r\nVERSION=1.0\r\n");
-    return path;
+  // A game with one made shot, 3 : 0.
+  QString makeGame(const char* name, const std::string& visitors = "LYNX") {
+    return write(name, "[DETAILS]\nVERSION=2.0\nDATE=2026-11-05\nEQUIPE0ABB=" + visitors +
+                           "\nEQUIPE1ABB=PUMA\nEQUIPE0NOM=Basketball College\nEQUIPE1NOM=Very Small School\n"
+                           "NBREPERIODE=4\nDUREE=10\nEVENUM=3\n[0]\n4=0,Ann Able\n[1]\n5=1,Bea Baker\n"
+                           "[PERIODE1]\n1=10:00,ARRET,IN-,IN-\n2=08:20,GF3,0-4,60,80\n");
+  }
+  QString makeWrongFile() { return write("WRONG.GAM", "[DETAILS]\r\nVERSION=1.0\r\n"); }
+  // Opens it for input; null when that is no live game.
+  frmLIVE* record(const QString& game) {
+    dialogs.nextFile = game;
+    action("LIVEOpen").trigger();
+    return area().findChild<frmLIVE*>();
   }
 
   QAction& action(const char* key) {
@@ -179,8 +175,7 @@ void collect(const QList<QAction*>& actions, std::set<QString>& names) {
 
 // "[*]" in a title is Qt's mark of what is not saved, "&" in a menu that of a key.
 TEST_F(MainWindowTest, TitlesAndMenusShowNamesAsTheyAre) {
-  dialogs.nextFile = makeGame("LIVE.GAM", "[*]&<b>");
-  action("LIVEOpen").trigger();
+  record(makeGame("LIVE.GAM", "[*]&<b>"));
   window->openGame(dialogs.nextFile);
   const QString score = u"[*]&<b> 3 - 0 PUMA"_s;
   EXPECT_TRUE(window->windowTitle().contains(asTitle(score))) << fromQt(window->windowTitle());
@@ -236,19 +231,9 @@ TEST_F(MainWindowTest, EveryTableOfEveryWindowIsExportedFromItsOwnPlace) {
               u"lvwSTATlignes(0)"_s, u"lvwLEADERS"_s, u"lvwFIRST"_s, u"lvwRECORD"_s, u"lvwRESULTS"_s});
   action("gEQUIPE").trigger();
   everyTable(*window->findChild<frmEQUIPES*>(), {u"lvwJOUEURS"_s});
-  dialogs.nextFile = game;
-  action("LIVEOpen").trigger();
-  EXPECT_TRUE(
-      exported(*window->findChild<frmLIVE*>()->findChild<QTableView*>(u"lvwEVENT"_s)).contains(u"3-0"_s));
-
-  GameDetails totals;
-  totals.version = GameFile::kVersion;
-  totals.inputType = 1;
-  totals.abbreviation[0] = "LYNX";
-  dialogs.nextFile = fileIn(games, "M.GAM");
-  ASSERT_EQ(GameFile(store, fromQt(dialogs.nextFile)).create(totals, {{"00", 0, "=Ann"}}, {}),
-            GameFileProblem::None);
-  action("LIVEOpen").trigger();
+  EXPECT_TRUE(exported(*record(game)->findChild<QTableView*>(u"lvwEVENT"_s)).contains(u"3-0"_s));
+  record(
+      write("M.GAM", "[DETAILS]\nVERSION=2.0\nINPUTTYPE=1\nEQUIPE0ABB=LYNX\n[0]\n00=0,=Ann\n[1]\n0=9,B\n"));
   const QString manual = exported(*find<QWidget>("tblTOTALS"));
   EXPECT_TRUE(manual.contains(u"\r\n00,'=Ann,0,"_s)) << fromQt(manual);
   emit qobject_cast<QMenu*>(action("QUIT").parent())->aboutToShow();
@@ -277,8 +262,7 @@ TEST_F(MainWindowTest, EveryPrintCommandLeadsToOnePreview) {
   teams->findChild<QListWidget*>(u"lstequipes"_s)->setCurrentRow(0);
   print->click();
   EXPECT_EQ(title(), text(Text::TeamRoster));
-  dialogs.nextFile = makeGame("two.GAM");
-  action("LIVEOpen").trigger();
+  record(makeGame("two.GAM"));
   action("livePRINT").trigger();
   EXPECT_EQ(title(), text(Text::Scorecard));
 }
@@ -351,8 +335,7 @@ TEST_F(MainWindowTest, ShowsMenusAndToolsInOneRowOfASmallScreenInBothLanguages) 
   };
   fits("none");
   EXPECT_EQ(find<QToolButton>("button_SWITCH"), nullptr) << "no game is recorded";
-  dialogs.nextFile = makeGame("two.GAM");
-  action("LIVEOpen").trigger();
+  record(makeGame("two.GAM"));
   EXPECT_NE(find<QToolButton>("button_SWITCH"), nullptr);
   fits("live");
   action("STATS").trigger();
@@ -374,10 +357,7 @@ TEST_F(MainWindowTest, OpensAGameByKeyServesItsScorecardAndRemembersItsFolder) {
   EXPECT_TRUE(view.isVisible());
   EXPECT_TRUE(area().currentSubWindow()->isMaximized());
   EXPECT_EQ(memory->recentFiles(), std::vector{fromQt(dialogs.nextFile)});
-  for (const char* key :
-       {"VwREFRESH", "VwREFSEC00", "VwREFSEC10", "VwREFSEC60", "VwLIGNE", "VwMA", "VwCLOSE", "vwPRINT"})
-    EXPECT_TRUE(action(key).isEnabled()) << key;
-  EXPECT_TRUE(action("VwREFSEC00").isChecked());
+  EXPECT_TRUE(action("VwREFRESH").isEnabled() && action("VwREFSEC00").isChecked());
   for (const bool isByLine : {true, false}) {
     click("VwLIGNE");
     EXPECT_EQ(view.isByLine(), isByLine);
@@ -385,11 +365,9 @@ TEST_F(MainWindowTest, OpensAGameByKeyServesItsScorecardAndRemembersItsFolder) {
   }
   click("VwMA");
   EXPECT_TRUE(view.hidesMadeAttempted());
-  EXPECT_EQ(action("VwMA").text(), text(Text::StatisticsWithMadeAndAttempt));
   action("VwREFSEC30").trigger();
   EXPECT_EQ(view.refreshMode(), frmVIEW::RefreshMode::Every30);
-  EXPECT_TRUE(action("VwREFSEC30").isChecked());
-  EXPECT_FALSE(action("VwREFSEC00").isChecked());
+  EXPECT_TRUE(action("VwREFSEC30").isChecked() && !action("VwREFSEC00").isChecked());
   click("VwCLOSE");
   EXPECT_TRUE(QTest::qWaitFor([&] { return scorecards().isEmpty() && !action("VwREFRESH").isEnabled(); }));
   EXPECT_TRUE(find<QWidget>("welcome")->isVisible());
@@ -463,8 +441,7 @@ TEST_F(MainWindowTest, RefusesAWrongFileAndKeepsTheOpenGame) {
 
 TEST_F(MainWindowTest, GamesOfASecondStartLeaveTheLiveWindowInFront) {
   const QString card = makeGame("CARD.GAM");
-  dialogs.nextFile = makeGame("LIVE.GAM");
-  action("LIVEOpen").trigger();
+  const frmLIVE* live = record(makeGame("LIVE.GAM"));
   settings->lastGameFolder = folder();
   const QWidget* focused = QApplication::focusWidget();
   window->openFromElsewhere({makeWrongFile()});
@@ -472,7 +449,7 @@ TEST_F(MainWindowTest, GamesOfASecondStartLeaveTheLiveWindowInFront) {
   window->openFromElsewhere({card});
   EXPECT_TRUE(dialogs.shown.empty()) << "what was refused is told beside the game";
   ASSERT_EQ(scorecards().size(), 1);
-  EXPECT_EQ(area().currentSubWindow()->widget(), area().findChild<frmLIVE*>());
+  EXPECT_EQ(area().currentSubWindow()->widget(), live);
   EXPECT_EQ(QApplication::focusWidget(), focused);
   EXPECT_EQ(settings->lastGameFolder, fromQt(games.path()));
   leave("CLOSELIVEMANUAL");
@@ -574,9 +551,7 @@ TEST_F(MainWindowTest, MakesAGameAndOpensItAndBeginsTheNextOneWithItsChoices) {
 
 TEST_F(MainWindowTest, RecordsAGameAndStopsTheClockBeforeItCloses) {
   const QString path = makeGame("LIVE.GAM");
-  dialogs.nextFile = path;
-  action("LIVEOpen").trigger();
-  auto* live = area().findChild<frmLIVE*>();
+  frmLIVE* live = record(path);
   ASSERT_NE(live, nullptr);
   EXPECT_TRUE(isHeld(path));
   EXPECT_TRUE(action("SWITCH").isEnabled() && action("GAMEOVER").isEnabled());
@@ -602,10 +577,6 @@ TEST_F(MainWindowTest, EntersTotalsInTheirOwnWindowWhichMakesRoomForALiveGame) {
   for (const QString& manual : {path, second})
     ASSERT_EQ(GameFile(store, fromQt(manual)).setDetails({{"INPUTTYPE", "1"}}), GameFileProblem::None);
   const QString live = makeGame("LIVE.GAM");
-  const auto open = [this](const QString& game) {
-    dialogs.nextFile = game;
-    action("LIVEOpen").trigger();
-  };
   const auto pathOfManual = [this] {
     const auto* manual = area().findChild<frmMANUAL*>();
     return manual == nullptr ? QString() : manual->path();
@@ -616,7 +587,7 @@ TEST_F(MainWindowTest, EntersTotalsInTheirOwnWindowWhichMakesRoomForALiveGame) {
     QTest::keyClicks(table, u"+"_s);
   };
   EXPECT_FALSE(action("saveMANUAL").isEnabled());
-  open(path);
+  record(path);
   EXPECT_EQ(pathOfManual(), path);
   EXPECT_TRUE(action("saveMANUAL").isEnabled() && action("CLOSELIVEMANUAL").isEnabled());
   EXPECT_FALSE(action("GAMEOVER").isEnabled() || action("SWITCH").isEnabled());
@@ -649,26 +620,22 @@ TEST_F(MainWindowTest, EntersTotalsInTheirOwnWindowWhichMakesRoomForALiveGame) {
   ASSERT_EQ(GameFile(store, fromQt(path)).read(game), GameFileProblem::None);
   EXPECT_EQ(game.events.size(), 3u) << "the key is not for what is behind";
   for (const QString& other : {second, live}) {
-    open(other);
+    record(other);
     EXPECT_EQ(pathOfManual(), path) << "stays while the totals are not saved";
     EXPECT_EQ(dialogs.shown.back().kind, Kind::AskToSave);
   }
   action("LIVENew").trigger();
   EXPECT_EQ(dialogs.shown.size(), 3u) << "asked before a new game is even begun";
   dialogs.nextSaveChoice = SaveChoice::Save;
-  open(second);
+  record(second);
   EXPECT_EQ(pathOfManual(), second);
   ASSERT_EQ(GameFile(store, fromQt(path)).read(game), GameFileProblem::None);
   EXPECT_EQ(game.events.size(), 4u);
-  open(live);
+  ASSERT_NE(record(live), nullptr);
   EXPECT_EQ(pathOfManual(), QString()) << "makes room";
-  EXPECT_FALSE(isHeld(second));
-  EXPECT_FALSE(action("saveMANUAL").isEnabled());
-  ASSERT_NE(area().findChild<frmLIVE*>(), nullptr);
-  open(makeWrongFile());
-  EXPECT_NE(area().findChild<frmLIVE*>(), nullptr) << "a file that is no game closes nothing";
-  open(path);
-  EXPECT_EQ(area().findChild<frmLIVE*>(), nullptr);
+  EXPECT_FALSE(isHeld(second) || action("saveMANUAL").isEnabled());
+  EXPECT_NE(record(makeWrongFile()), nullptr) << "a file that is no game closes nothing";
+  EXPECT_EQ(record(path), nullptr);
 
   leave("CLOSELIVEMANUAL");
   EXPECT_EQ(pathOfManual(), QString());
@@ -749,9 +716,7 @@ TEST_F(MainWindowTest, ColoursOfProgramAndCourtAreRememberedAndReachOpenWindowsA
 }
 
 TEST_F(MainWindowTest, KeysThatAreBoundAnewActAtOnceAndAfterTheNextStart) {
-  dialogs.nextFile = makeGame("KEYS.GAM");
-  action("LIVEOpen").trigger();
-  auto* live = area().findChild<frmLIVE*>();
+  frmLIVE* live = record(makeGame("KEYS.GAM"));
   ASSERT_NE(live, nullptr);
   ASSERT_TRUE(action("LIVEKpad").isChecked()) << "as on a first start";
   const auto bind = [this](const char* box, Qt::Key key) {
