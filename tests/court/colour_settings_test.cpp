@@ -1,20 +1,13 @@
 #include "appearance/Theme.h"
-#include "appearance/relabel.h"
 #include "court/CourtView.h"
 #include "court/frmCOULEURS.h"
 #include "storage/codepage.h"
 #include "support/FaultyFileSystem.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TemporaryFolder.h"
+#include "support/WindowRoom.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace hooptab {
 namespace {
@@ -26,7 +19,7 @@ constexpr const char* kOldFile =
     "[CONFIGURATION]\r\nCOULEUR2PTS=1\r\nCOULEURBOX=2\r\nCOULEUR3PTS=3\r\nCOULEURBUT=255\r\n"
     "STATU1=U1-Charges taken all season\r\nSTATU2=Deflections\r\nLANGUE=0\r\n";
 
-class ColourSettingsTest : public testing::Test {
+class ColourSettingsTest : public WindowTest<frmCOULEURS, FaultyFileSystem> {
  protected:
   void SetUp() override { start(kOldFile); }
 
@@ -37,34 +30,20 @@ class ColourSettingsTest : public testing::Test {
     window = std::make_unique<frmCOULEURS>(settings, texts, dialogs);
     window->show();
   }
-  void click(const char* name) { QTest::mouseClick(find<QPushButton>(name), Qt::LeftButton); }
   void choose(const char* button, const QColor& colour) {
     dialogs.nextColour = colour;
     click(button);
   }
   void type(const char* field, const char* text) {
-    auto* edit = find<QLineEdit>(field);
+    auto* edit = &find<QLineEdit>(field);
     edit->selectAll();
     for (const QChar letter : QString::fromUtf8(text)) { // QTest types no accents
       QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, letter);
       QCoreApplication::sendEvent(edit, &press);
     }
   }
-  template <class Widget>
-  Widget* find(const char* name) {
-    return window->findChild<Widget*>(QLatin1String(name));
-  }
-  QString shown(const char* field) { return find<QLineEdit>(field)->text(); }
-  QString onButton(const char* name) { return find<QPushButton>(name)->text(); }
-  QString text(Text words) { return toQt(texts.text(words)); }
-
-  TemporaryFolder folder;
-  FaultyFileSystem disk;
-  ProfileStore store{disk};
-  Texts texts;
-  Settings settings{store, folder.path()};
-  ScriptedDialogs dialogs;
-  std::unique_ptr<frmCOULEURS> window;
+  QString shown(const char* field) { return find<QLineEdit>(field).text(); }
+  QString onButton(const char* name) { return find<QPushButton>(name).text(); }
 };
 
 TEST_F(ColourSettingsTest, ApplyWritesWhatWasChosenAndNothingElse) {
@@ -95,7 +74,7 @@ TEST_F(ColourSettingsTest, ALabelIsShownWithoutItsPrefixAndNeverSavedWithoutIt) 
   EXPECT_EQ(shown("txtSTATU1"), QStringLiteral("Charges taken all season")) << "longer than can be typed";
   EXPECT_EQ(shown("txtSTATU2"), QStringLiteral("Deflections"));
   type("txtSTATU1", "");
-  QTest::keyClick(find<QLineEdit>("txtSTATU1"), Qt::Key_Delete);
+  QTest::keyClick(&find<QLineEdit>("txtSTATU1"), Qt::Key_Delete);
   type("txtSTATU2", "123456789 123456789 123");
   click("cmdAPPLIQUER");
   EXPECT_EQ(settings.statisticLabel[0], "U1-");
@@ -139,8 +118,8 @@ TEST_F(ColourSettingsTest, DefaultsComeBackInTheWindowAndLabelsStay) {
 }
 
 TEST_F(ColourSettingsTest, ThePictureFollowsEachChoiceAtOnce) {
-  auto* court = find<CourtView>("court");
-  auto* sample = find<QPushButton>("cmdEXEMPLE");
+  auto* court = &find<CourtView>("court");
+  auto* sample = &find<QPushButton>("cmdEXEMPLE");
   const auto holds = [](QWidget* widget, const QColor& colour) {
     const QImage picture = widget->grab().toImage();
     int count = 0;

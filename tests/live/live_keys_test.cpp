@@ -329,7 +329,6 @@ class ConfigurationTest : public LiveRoom<FaultyFileSystem> {
     return find<KeyField>(*window, QStringLiteral("txtTOUCHE(%1)").arg(static_cast<int>(action)));
   }
   QPushButton& button(const char* name) { return find<QPushButton>(*window, name); }
-  QString text(Text which) { return toQt(texts.text(which)); }
 
   std::unique_ptr<frmConfiguration> window;
 };

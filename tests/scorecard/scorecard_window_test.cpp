@@ -1,26 +1,21 @@
 #include "appearance/TableContent.h"
-#include "appearance/relabel.h"
 #include "court/CourtView.h"
 #include "game/EventListModel.h"
 #include "scorecard/BoxTable.h"
 #include "scorecard/FrozenTableView.h"
 #include "scorecard/frmVIEW.h"
-#include "settings/Settings.h"
+#include "support/WindowRoom.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTest>
 #include <QToolButton>
-#include <algorithm>
 #include <filesystem>
-#include <gtest/gtest.h>
 
 #include "ViewedGame.h"
 
@@ -35,7 +30,7 @@ constexpr int kPoints = 7; // columns of the table, from 0
 constexpr int kFieldGoalsMade = 8;
 
 // The window on a small game that grows; its models are watched the whole time.
-class ScorecardWindowTest : public testing::Test {
+class ScorecardWindowTest : public WindowTest<frmVIEW> {
  protected:
   void SetUp() override {
     QApplication::clipboard()->clear();
@@ -55,12 +50,6 @@ class ScorecardWindowTest : public testing::Test {
       new QAbstractItemModelTester(proxy, Fatal::Fatal, proxy);
       new QAbstractItemModelTester(proxy->sourceModel(), Fatal::Fatal, proxy);
     }
-  }
-  template <class Widget>
-  Widget& find(const char* name) const {
-    auto* found = window->findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
   }
   FrozenTableView& table(int view) const {
     return find<FrozenTableView>(view == 0 ? "lvwSTAT(0)" : "lvwSTAT(1)");
@@ -98,9 +87,6 @@ class ScorecardWindowTest : public testing::Test {
   }
 
   ViewedGame game;
-  Texts texts;
-  Settings settings{game.store, game.folder.path()};
-  std::unique_ptr<frmVIEW> window;
 };
 
 TEST_F(ScorecardWindowTest, ShowsTheGameAsItIs) {

@@ -15,9 +15,9 @@ struct Control {
 class SeasonChoicesTest : public SeasonWindow {
  protected:
   void SetUp() override {
-    writeGames(folder, 4, 7);
+    writeGames(games, 4, 7);
     makeWindow();
-    read(folder.path());
+    read(games.path());
     generate();
     ASSERT_GT(rows("lvwFIRST"), 0);
   }
@@ -108,7 +108,7 @@ class SeasonChoicesTest : public SeasonWindow {
     }
   }
 
-  TemporaryFolder folder;
+  TemporaryFolder games;
 };
 
 TEST_F(SeasonChoicesTest, LeadersKeepTheirStatisticInEveryView) {

@@ -1,24 +1,17 @@
 #include "setup/frmNEWGAME.h"
 
 #include "appearance/Theme.h"
-#include "appearance/relabel.h"
 #include "setup/SidePlayersTable.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TemporaryFolder.h"
+#include "support/WindowRoom.h"
 
 #include <QAbstractItemModelTester>
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QDateEdit>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
-#include <QTest>
-#include <gtest/gtest.h>
-#include <memory>
 
 namespace hooptab {
 namespace {
@@ -30,7 +23,7 @@ using Kind = ScriptedDialogs::Kind;
 enum { kLynx, kOwl, kFox }; // positions in the lists
 
 // Lynx has twenty players, Owl is a main team with two, and one more who cannot play.
-std::string teams() {
+std::string teamsText() {
   std::string text =
       "[CONFIGURATION]\r\nLANGUE=0\r\n[TEAM]\r\n"
       "1=LYNX,AAA ,Basketball College,U1,U2,2,4,5,5,2,8438015,0\r\n"
@@ -40,25 +33,19 @@ std::string teams() {
   return text + "[2]\r\n4=0,Ann Able,,,,,\r\n5=2,Bea Baker,,,,,\r\nAB=1,Cleo Carter,,,,,\r\n";
 }
 
-class NewGameWindowTest : public testing::Test {
+class NewGameWindowTest : public WindowTest<frmNEWGAME> {
  protected:
   NewGameWindowTest() {
-    folder.write("CONFIG.INI", teams());
+    folder.write("CONFIG.INI", teamsText());
     settings.read();
     open({});
   }
   void open(const LastChoices& last) {
     window = std::make_unique<frmNEWGAME>(
-        store, settings, texts, dialogs, [](const QString&) { return QString(); }, last);
+        teams, settings, texts, dialogs, [](const QString&) { return QString(); }, last);
     window->resize(1340, 700);
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  }
-  template <class Widget>
-  Widget& find(const char* name) const {
-    auto* found = window->findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
   }
   void choose(int side, int team) const {
     auto& list = find<QListWidget>(side == 0 ? "lstequipes(0)" : "lstequipes(1)");
@@ -74,19 +61,10 @@ class NewGameWindowTest : public testing::Test {
   int mark(int row) const { return cell(0, row, Column::Number, Qt::CheckStateRole).toInt(); }
 
   QString count() const { return find<QLabel>("lblCOUNT(0)").text(); }
-  QString text(Text number) const { return toQt(texts.text(number)); }
   QPushButton& ok() const { return find<QPushButton>("OKButton"); }
   bool isOpen() const { return window->isVisible(); }
 
-  TemporaryFolder folder;
-  FileSystem files;
-  ProfileStore profile{files};
-  Texts texts;
-  Settings settings{profile, folder.path()};
-  TeamStore store{profile, settings};
-  ScriptedDialogs dialogs;
-
-  std::unique_ptr<frmNEWGAME> window;
+  TeamStore teams{store, settings};
 };
 
 TEST_F(NewGameWindowTest, OkWaitsForEverythingAndTheWindowSaysForWhat) {
@@ -316,7 +294,7 @@ TEST_F(NewGameWindowTest, MakesAGameOfEachInputType) {
     EXPECT_TRUE(!isOpen() && window->result() == QDialog::Accepted);
     EXPECT_EQ(window->path(), dialogs.nextFileToSave + u".GAM"_s);
     Game game;
-    ASSERT_EQ(GameFile(profile, fromQt(window->path())).read(game), GameFileProblem::None);
+    ASSERT_EQ(GameFile(store, fromQt(window->path())).read(game), GameFileProblem::None);
     EXPECT_EQ(game.details.inputType, input == 2 ? 1 : 0);
     EXPECT_EQ(game.details.mainTeam, 1);
     EXPECT_EQ(game.details.name[0] + '|' + game.details.notes, "Renards|Final");

@@ -1,17 +1,14 @@
 // Names are text: whatever letters the teams and players of a file have, every window shows them as they are.
 #include "appearance/Dialogs.h"
 #include "appearance/Theme.h"
-#include "appearance/relabel.h"
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
 #include "recording/TimeSource.h"
 #include "scorecard/frmVIEW.h"
 #include "season/SeasonTableView.h"
 #include "season/frmSTATS.h"
-#include "settings/Settings.h"
 #include "setup/frmNEWGAME.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TemporaryFolder.h"
+#include "support/WindowRoom.h"
 #include "teams/TeamStore.h"
 #include "teams/frmEQUIPES.h"
 
@@ -21,16 +18,13 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QSet>
-#include <QTest>
 #include <QTimer>
 #include <QToolTip>
 #include <algorithm>
 #include <array>
-#include <gtest/gtest.h>
 #include <set>
 
 namespace hooptab {
@@ -44,7 +38,7 @@ constexpr const char* kAnd = "A&B";
 constexpr const char* kMark = "[*]";
 constexpr const char* kNames[] = {kBold, kImage, kAnd, kMark};
 
-class NamesTest : public testing::Test {
+class NamesTest : public WindowRoom<> {
  protected:
   void SetUp() override {
     Theme::apply(*qApp, ColourScheme::Light);
@@ -177,12 +171,7 @@ class NamesTest : public testing::Test {
     })) << fromQt(text);
   }
 
-  TemporaryFolder folder, games;
-  FileSystem files;
-  ProfileStore store{files};
-  Texts texts;
-  Settings settings{store, folder.path()};
-  ScriptedDialogs dialogs;
+  TemporaryFolder games;
   SystemTime time;
   std::set<std::string> m_seen; // of the names
   QSet<QString> m_tips;
@@ -208,7 +197,7 @@ TEST_F(NamesTest, TheWindowOfTotalsShowsThem) {
 
 TEST_F(NamesTest, TheSeasonShowsThem) {
   finish(makeGame("1.GAM"));
-  frmSTATS window(files, settings, texts, dialogs);
+  frmSTATS window(disk, settings, texts, dialogs);
   readAndGenerate(window);
   expectPlain(window, 4);
 }
@@ -237,7 +226,7 @@ TEST_F(NamesTest, LongOnesPushNothingApart) {
   ASSERT_EQ(live.open(path), frmLIVE::Opening::Opened);
   show(live);
   finish(path);
-  frmSTATS season(files, settings, texts, dialogs);
+  frmSTATS season(disk, settings, texts, dialogs);
   readAndGenerate(season);
   show(season);
   frmMANUAL manual(store, settings, texts, dialogs);

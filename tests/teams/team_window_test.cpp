@@ -1,8 +1,5 @@
 #include "appearance/Theme.h"
-#include "appearance/relabel.h"
-#include "settings/Settings.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TemporaryFolder.h"
+#include "support/WindowRoom.h"
 #include "teams/PlayerTableModel.h"
 #include "teams/TeamList.h"
 #include "teams/frmEQUIPES.h"
@@ -13,14 +10,9 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QTableView>
-#include <QTest>
-#include <gtest/gtest.h>
-#include <memory>
 
 namespace hooptab {
 namespace {
@@ -29,7 +21,7 @@ using namespace Qt::StringLiterals;
 using Kind = ScriptedDialogs::Kind;
 using Shown = ScriptedDialogs::Shown;
 
-class TeamWindowTest : public testing::Test {
+class TeamWindowTest : public WindowTest<frmEQUIPES> {
  protected:
   void SetUp() override {
     folder.write(
@@ -40,22 +32,13 @@ class TeamWindowTest : public testing::Test {
     settings.read();
     window = std::make_unique<frmEQUIPES>(teams, texts, dialogs);
     window->resize(1350, 650);
-    window->show();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    ASSERT_NO_FATAL_FAILURE(showActive(*window));
     auto* model = window->findChild<PlayerTableModel*>();
     new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::Fatal, model);
-  }
-  template <class Widget>
-  Widget& find(const char* name) const {
-    auto* found = window->findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
   }
   QLineEdit& field(const char* name) const { return find<QLineEdit>(name); }
   QListWidget& list() const { return find<QListWidget>("lstequipes"); }
   QTableView& table() const { return find<QTableView>("lvwJOUEURS"); }
-  void click(const char* button) const { QTest::mouseClick(&find<QPushButton>(button), Qt::LeftButton); }
   static void clickAt(QWidget& widget, QPoint place) {
     QTest::mouseClick(&widget, Qt::LeftButton, {}, place);
     QCoreApplication::processEvents();
@@ -108,16 +91,8 @@ class TeamWindowTest : public testing::Test {
     click(button);
     return said();
   }
-  QString text(Text number) const { return toQt(texts.text(number)); }
 
-  TemporaryFolder folder;
-  FileSystem disk;
-  ProfileStore store{disk};
-  Texts texts;
-  Settings settings{store, folder.path()};
   TeamStore teams{store, settings};
-  ScriptedDialogs dialogs;
-  std::unique_ptr<frmEQUIPES> window;
 };
 
 TEST_F(TeamWindowTest, ShowsTheTeamThatIsChosen) {
