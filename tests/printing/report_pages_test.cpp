@@ -11,14 +11,12 @@
 #include "report/SeasonReports.h"
 #include "report/TeamReports.h"
 
-#include "appearance/relabel.h"
 #include "catalogue/SeasonFolder.h"
 #include "report/ReportGame.h"
 #include "season/SeasonColumns.h"
 #include "support/FaultyFileSystem.h"
-#include "support/ScriptedDialogs.h"
 #include "support/SharedGames.h"
-#include "support/TemporaryFolder.h"
+#include "support/WindowRoom.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -26,14 +24,11 @@
 #include <QLineEdit>
 #include <QPrinter>
 #include <QProcess>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStandardPaths>
-#include <QTest>
 #include <QToolButton>
 #include <algorithm>
-#include <gtest/gtest.h>
 #include <map>
 #include <regex>
 #include <set>
@@ -52,7 +47,7 @@ bool isMissing(const char* program) {
   return QStandardPaths::findExecutable(QLatin1String(program)).isEmpty();
 }
 
-class ReportPagesTest : public testing::Test {
+class ReportPagesTest : public WindowRoom<> {
  protected:
   Report scorecard(const Game& game) {
     return scorecardReport(counted(game), ScorecardView(texts), settings, texts);
@@ -103,12 +98,6 @@ class ReportPagesTest : public testing::Test {
             rosterReport(team, players, texts),
             rosterReport(team, {}, texts)};
   }
-
-  TemporaryFolder folder;
-  FileSystem files;
-  ProfileStore store{files};
-  Texts texts;
-  Settings settings{store, folder.path()};
 };
 
 // Whatever the paper: all texts on the page, none on another one.
@@ -315,7 +304,7 @@ TEST_F(ReportPagesTest, AFailedWriteLeavesTheOldFileWhole) {
       EXPECT_EQ(entry.path().filename(), "report.pdf") << "nothing half written is left";
   }
   EXPECT_GE(failures, 4);
-  EXPECT_EQ(writeFiles(files, folder.path("missing/x.pdf"), contents), folder.path("missing/x.pdf"));
+  EXPECT_EQ(writeFiles(disk, folder.path("missing/x.pdf"), contents), folder.path("missing/x.pdf"));
   EXPECT_EQ(pathOf("/a.b/box.csv", " Points"), "/a.b/box Points.csv");
   EXPECT_EQ(pathOf("/a.b/box", " Points"), "/a.b/box Points");
 }
@@ -424,9 +413,7 @@ class PreviewTest : public ReportPagesTest {
   }
   template <class Widget>
   Widget& find(const char* name) {
-    auto* found = window->findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
+    return ReportPagesTest::find<Widget>(*window, name);
   }
   int pages() { return find<QSpinBox>("txtPAGE").maximum(); }
   void waitForPages() {
@@ -445,9 +432,8 @@ class PreviewTest : public ReportPagesTest {
 
   const Game game = crowdedGame();
   const Game shorter = crowdedGame(1);
-  ScriptedDialogs dialogs;
   ScriptedPrinters printers;
-  ReportOutput output{texts, dialogs, files};
+  ReportOutput output{texts, dialogs, disk};
   std::unique_ptr<frmprint> window;
 };
 

@@ -43,11 +43,7 @@ class ForeignHandsTest : public LiveTableTest {
     ProfileStore fresh(own);
     Game game;
     ASSERT_EQ(GameFile(fresh, path).read(game), GameFileProblem::None);
-    ASSERT_EQ(game.events.size(), live.game().events.size());
-    for (std::size_t index = 0; index < game.events.size(); ++index) {
-      EXPECT_EQ(game.events[index].key, live.game().events[index].key);
-      EXPECT_EQ(game.events[index].line, live.game().events[index].line);
-    }
+    EXPECT_EQ(linesOf(game.events), linesOf(live.game().events));
     EXPECT_TRUE(live.log().countsAgree());
     EXPECT_GE(game.details.nextEventNumber, live.log().nextNumber());
   }

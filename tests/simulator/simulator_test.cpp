@@ -2,9 +2,9 @@
 // and the game file, on games nobody has tuned by hand.
 #include "checks/FindingWords.h"
 #include "checks/GameCheck.h"
-#include "game/Tally.h"
 #include "simulator/SampleSeason.h"
 #include "support/TemporaryFolder.h"
+#include "support/TextGame.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -27,12 +27,6 @@ const std::vector<SimulatedGame>& games() {
     return all;
   }();
   return played;
-}
-
-GameState tallied(const Game& game) {
-  GameState state;
-  EXPECT_EQ(Tally::run(state, game.events, game.roster[0], game.roster[1]), std::nullopt);
-  return state;
 }
 
 // Every counter that a tally fills, as text that can be compared.
@@ -176,7 +170,9 @@ TEST(SimulatedGames, StopWhereTheyWereInterrupted) {
 TEST(TallyOfSimulatedGames, SumsAgree) {
   for (const SimulatedGame& simulated : games()) {
     SCOPED_TRACE(simulated.fileName());
-    const GameState state = tallied(simulated.inMemory());
+    const Game game = simulated.inMemory();
+    GameState state;
+    ASSERT_EQ(Tally::run(state, game.events, game.roster[0], game.roster[1]), std::nullopt);
     const int overtimes = static_cast<int>(simulated.periods.size()) - GameSimulator::kPeriods;
     const int length = 60 * (GameSimulator::kPeriods * GameSimulator::kMinutesPerPeriod +
                              overtimes * GameSimulator::kOvertimeMinutes);
@@ -223,11 +219,7 @@ TEST_F(SimulatedGameFile, ReadsAsItWasPlayed) {
     Game read;
     ASSERT_EQ(file.read(read), GameFileProblem::None);
     const Game played = simulated.inMemory();
-    ASSERT_EQ(read.events.size(), played.events.size());
-    for (std::size_t i = 0; i < read.events.size(); ++i) {
-      EXPECT_EQ(read.events[i].line, played.events[i].line);
-      EXPECT_EQ(read.events[i].number, played.events[i].number);
-    }
+    ASSERT_EQ(linesOf(read.events), linesOf(played.events));
     EXPECT_EQ(everyCounter(tallied(read)), everyCounter(tallied(played)));
     EXPECT_EQ(file.nextNumber(), simulated.details.nextEventNumber);
     EXPECT_EQ(read.details.nextEventNumber, simulated.details.nextEventNumber);
