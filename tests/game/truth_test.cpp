@@ -11,22 +11,16 @@ using namespace hooptab;
 
 namespace {
 
-class Truth : public testing::TestWithParam<std::filesystem::path> {
- protected:
-  void SetUp() override {
-    ProfileStore store(m_files);
-    GameFile file(store, GetParam().string());
-    ASSERT_EQ(file.read(m_game), GameFileProblem::None);
-    ASSERT_EQ(Tally::run(m_state, m_game.events, m_game.roster[0], m_game.roster[1]), std::nullopt);
-  }
-
-  FileSystem m_files;
-  Game m_game;
-  GameState m_state;
-};
+class Truth : public testing::TestWithParam<std::filesystem::path> {};
 
 TEST_P(Truth, AgreesWithTheOfficialBox) {
-  EXPECT_EQ(OfficialBox(GetParam()).differences(m_game, m_state), std::vector<std::string>{});
+  FileSystem files;
+  ProfileStore store(files);
+  Game game;
+  GameState state;
+  ASSERT_EQ(GameFile(store, GetParam().string()).read(game), GameFileProblem::None);
+  ASSERT_EQ(Tally::run(state, game.events, game.roster[0], game.roster[1]), std::nullopt);
+  EXPECT_EQ(OfficialBox(GetParam()).differences(game, state), std::vector<std::string>{});
 }
 
 INSTANTIATE_TEST_SUITE_P(RealGames, Truth, testing::ValuesIn(sharedGames()), [](const auto& game) {

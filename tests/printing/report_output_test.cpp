@@ -25,7 +25,6 @@
 #include <QStandardItemModel>
 #include <QStandardPaths>
 #include <QTest>
-#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <regex>
@@ -233,18 +232,6 @@ TEST(TableReportTest, NumbersAreToldFromNames) {
   EXPECT_EQ(lines[1].fields[2], "-3") << "a negative number is one";
   EXPECT_EQ(lines[2].fields[1], "'=A1") << "a name is no formula";
   EXPECT_EQ(lines[2].fields[0], "00");
-}
-
-TEST(TableReportTest, CellsThatCouldBeTakenForSeveralAreQuoted) {
-  Report report;
-  ReportTable table;
-  table.columns = {{"Text", "Text, \"with\" all"}, {"Number", "Number"}};
-  for (const char* text : {"a,b", "a \"quoted\" b", "two\r\nlines", "semi;colon", "é’“”", "plain", "x\ty"})
-    table.rows.push_back({{textCell(text), numberCell(-7)}});
-  report.blocks.emplace_back(table);
-  EXPECT_EQ(reportCsv(report).front().bytes,
-            "\"Text, \"\"with\"\" all\",Number\r\n\"a,b\",-7\r\n\"a \"\"quoted\"\" b\",-7\r\n"
-            "\"two\r\nlines\",-7\r\n\"semi;colon\",-7\r\né’“”,-7\r\nplain,-7\r\n\"x\ty\",-7\r\n");
 }
 
 TEST(TableReportTest, AWorkbookTellsNumbersPercentagesTimesAndTextsApart) {

@@ -50,6 +50,7 @@
 #include <QToolButton>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 #include <set>
 #include <sys/wait.h>
@@ -139,6 +140,13 @@ class MainWindowTest : public testing::Test {
     action(key).trigger();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
+  }
+  // What its command opens until it is answered.
+  template <class Form>
+  void useDialog(const char* key, const std::function<void(Form&)>& act) {
+    QTimer::singleShot(0, window.get(),
+                       [act] { act(dynamic_cast<Form&>(*QApplication::activeModalWidget())); });
+    action(key).trigger();
   }
   QMdiArea& area() { return *window->findChild<QMdiArea*>(); }
   QList<frmVIEW*> scorecards() { return area().findChildren<frmVIEW*>(); }
@@ -517,12 +525,7 @@ TEST_F(MainWindowTest, OpensOneTeamEditorThatAsksBeforeTheProgramEnds) {
 TEST_F(MainWindowTest, MakesAGameAndOpensItAndBeginsTheNextOneWithItsChoices) {
   const QString path = fileIn(games, "NEW.GAM");
   dialogs.nextFileToSave = path;
-  const auto useWindow = [this](auto&& act) {
-    QTimer::singleShot(0, window.get(),
-                       [act] { act(dynamic_cast<frmNEWGAME&>(*QApplication::activeModalWidget())); });
-    action("LIVENew").trigger();
-  };
-  useWindow([](frmNEWGAME& form) {
+  useDialog<frmNEWGAME>("LIVENew", [](frmNEWGAME& form) {
     form.findChild<QListWidget*>(u"lstequipes(0)"_s)->setCurrentRow(3);
     form.findChild<QListWidget*>(u"lstequipes(1)"_s)->setCurrentRow(2);
     form.findChild<QLineEdit*>(u"txtENDROIT"_s)->setText(u"Main gym"_s);
@@ -541,7 +544,7 @@ TEST_F(MainWindowTest, MakesAGameAndOpensItAndBeginsTheNextOneWithItsChoices) {
   fives->reject();
   EXPECT_TRUE(live->windowTitle().endsWith(u"LION 0 - 0 JAGUAR"_s)) << fromQt(live->windowTitle());
   EXPECT_EQ(settings->lastGameFolder, fromQt(games.path()));
-  useWindow([](frmNEWGAME& form) {
+  useDialog<frmNEWGAME>("LIVENew", [](frmNEWGAME& form) {
     EXPECT_EQ(form.findChild<QLineEdit*>(u"txtNOMEQUIPE(0)"_s)->text(), u"Somewhere College "_s);
     EXPECT_EQ(form.findChild<QLineEdit*>(u"txtENDROIT"_s)->text(), u"Main gym"_s);
     form.reject();
@@ -697,16 +700,13 @@ TEST_F(MainWindowTest, ColoursOfProgramAndCourtAreRememberedAndReachOpenWindowsA
   }
   window->openGame(makeGame("ONE.GAM"));
   dialogs.nextColour = QColor(1, 2, 3);
-  QTimer::singleShot(0, window.get(), [] {
-    auto* form = qobject_cast<frmCOULEURS*>(QApplication::activeModalWidget());
-    ASSERT_NE(form, nullptr);
-    QTest::mouseClick(form->findChild<QPushButton*>(u"cmdCOULEUR2PTS"_s), Qt::LeftButton);
-    auto* apply = form->findChild<QPushButton*>(u"cmdAPPLIQUER"_s);
-    QTest::mouseClick(apply, Qt::LeftButton);
+  useDialog<frmCOULEURS>("tbTERRAIN", [](frmCOULEURS& form) {
+    form.findChild<QPushButton*>(u"cmdCOULEUR2PTS"_s)->click();
+    auto* apply = form.findChild<QPushButton*>(u"cmdAPPLIQUER"_s);
+    apply->click();
     EXPECT_TRUE(apply->text().contains(u'&')) << "its Alt key is there still";
-    form->reject();
+    form.reject();
   });
-  action("tbTERRAIN").trigger();
   EXPECT_EQ(setting("COULEUR2PTS"), "197121");
   const QImage chart = scorecards()[0]->findChild<CourtView*>()->grab().toImage();
   int x = 0;
@@ -720,14 +720,11 @@ TEST_F(MainWindowTest, KeysThatAreBoundAnewActAtOnceAndAfterTheNextStart) {
   ASSERT_NE(live, nullptr);
   ASSERT_TRUE(action("LIVEKpad").isChecked()) << "as on a first start";
   const auto bind = [this](const char* box, Qt::Key key) {
-    QTimer::singleShot(0, window.get(), [box, key] {
-      auto* form = qobject_cast<frmConfiguration*>(QApplication::activeModalWidget());
-      ASSERT_NE(form, nullptr);
-      QTest::keyClick(form->findChild<QWidget*>(QLatin1String(box)), key);
-      QTest::mouseClick(form->findChild<QPushButton*>(u"Command1"_s), Qt::LeftButton);
-      form->reject();
+    useDialog<frmConfiguration>("tbKEYPAD", [box, key](frmConfiguration& form) {
+      QTest::keyClick(form.findChild<QWidget*>(QLatin1String(box)), key);
+      form.findChild<QPushButton*>(u"Command1"_s)->click();
+      form.reject();
     });
-    action("tbKEYPAD").trigger();
   };
   bind("txtTOUCHE(0)", Qt::Key_G);
   EXPECT_EQ(setting("CLOCK"), "71-");

@@ -17,7 +17,8 @@ TEST(DelimitedText, DisarmsFormulasAndLeavesNumbersWithTheirSign) {
     EXPECT_EQ(csvRow({text}), text + "\r\n");
     EXPECT_EQ(heldByCell(text), text);
   }
-  EXPECT_EQ(csvRow({"-3,2"}), "\"-3,2\"\r\n");
+  EXPECT_EQ(csvRow({"-3,2", "a \"b\"", "x\ty", "semi;colon", "é’“”"}),
+            "\"-3,2\",\"a \"\"b\"\"\",\"x\ty\",\"semi;colon\",é’“”\r\n");
 }
 
 TEST(DelimitedText, FrenchSpreadsheetsTakeSemicolonsAndDecimalCommas) {

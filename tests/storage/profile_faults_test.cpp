@@ -4,7 +4,6 @@
 #include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
