@@ -3,6 +3,7 @@
 #include "appearance/Theme.h"
 #include "events/MiniCourt.h"
 #include "events/StatButton.h"
+#include "events/StatControls.h"
 #include "live/LiveRoom.h"
 
 namespace hooptab {
@@ -137,12 +138,10 @@ TEST_F(PlayerPanelTest, ButtonsSayWhatTheyRecordWhenTheyArePressed) {
   QSignalSpy shots(&full, &PlayerPanel::shotPressed);
   QSignalSpy actions(&full, &PlayerPanel::actionPressed);
   const auto lastKind = [](QSignalSpy& spy) { return spy.last().at(1).value<EventCode>(); };
-  using Buttons = std::vector<std::pair<const char*, EventCode>>;
-  for (const auto& [name, code] : Buttons{{"cmdBUTFT(3)", EventCode::GFT},
-                                          {"cmdBUTLUG(3)", EventCode::GLG},
-                                          {"cmdBUTLUD(3)", EventCode::GLD},
-                                          {"cmdBUTPB(3)", EventCode::GPB},
-                                          {"cmdBUTDK(3)", EventCode::GDK}}) {
+  for (const ShotControls& controls : kShotControls) {
+    if (controls.button == nullptr)
+      continue; // the court
+    const std::string name = std::string(controls.button) + "(3)";
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
       const qsizetype before = shots.count();
       QTest::mousePress(&find(full, name), button);
@@ -150,23 +149,19 @@ TEST_F(PlayerPanelTest, ButtonsSayWhatTheyRecordWhenTheyArePressed) {
       QTest::mouseRelease(&find(full, name), button);
       EXPECT_EQ(shots.count(), before + 1) << name;
       EXPECT_EQ(shots.last().at(0).toInt(), 3);
-      EXPECT_EQ(lastKind(shots), code) << name;
+      EXPECT_EQ(lastKind(shots), controls.code) << name;
       EXPECT_EQ(shots.last().at(2).toBool(), button == Qt::LeftButton);
     }
   }
-  const Buttons actionButtons = {{"cmdBUTA(3)", EventCode::SA},    {"cmdBUTBS(3)", EventCode::SBS},
-                                 {"cmdBUTDRB(3)", EventCode::SDR}, {"cmdBUTORB(3)", EventCode::SOR},
-                                 {"cmdBUTF(3)", EventCode::SPF},   {"cmdBUTTF(3)", EventCode::STF},
-                                 {"cmdBUTST(3)", EventCode::SST},  {"cmdBUTTO(3)", EventCode::STO},
-                                 {"cmdBUTU1(3)", EventCode::SU1},  {"cmdBUTU2(3)", EventCode::SU2}};
-  for (const auto& [name, code] : actionButtons) {
+  for (const ActionControls& controls : kActionControls) {
+    const std::string name = std::string(controls.button) + "(3)";
     const qsizetype before = actions.count();
     QTest::mouseClick(&find(full, name), Qt::RightButton);
     EXPECT_EQ(actions.count(), before) << name;
     QTest::mousePress(&find(full, name), Qt::LeftButton);
     ASSERT_EQ(actions.count(), before + 1) << name;
     QTest::mouseRelease(&find(full, name), Qt::LeftButton);
-    EXPECT_EQ(lastKind(actions), code) << name;
+    EXPECT_EQ(lastKind(actions), controls.code) << name;
   }
   const qsizetype before = actions.count();
   QTest::mouseClick(&find(full, "cmdBUTST(3)"), Qt::LeftButton);
