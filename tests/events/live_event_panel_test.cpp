@@ -28,14 +28,7 @@ class LiveEventPanelTest : public LiveRoom<> {
     GameDetails details;
     details.abbreviation[0] = "LYNX";
     details.abbreviation[1] = "PUMA";
-    makeGame(path,
-             {{"4", 0, "Ann"},
-              {"5", 1, "Bea"},
-              {"10", 2, "Cleo"},
-              {"12", 2, "Dee"},
-              {"15", 1, "Eve"},
-              {"7", 1, "Fay"}},
-             details);
+    makeGame(path, "4=0,Ann\n5=1,Bea\n10=2,Cleo\n12=2,Dee\n15=1,Eve\n7=1,Fay\n", details);
     ASSERT_EQ(live.open(path), GameFileProblem::None);
     ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
     live.start();

@@ -4,6 +4,7 @@
 
 #include "recording/LiveGame.h"
 #include "recording/ManualTime.h"
+#include "support/TextGame.h"
 #include "support/WindowRoom.h"
 
 #include <QApplication>
@@ -20,9 +21,10 @@ class LiveRoom : public WindowRoom<Disk> {
     this->settings.threePointColour = kFirstColours.threePoints;
     this->settings.buttonColour = kFirstColours.buttons;
   }
-  // Four periods of ten minutes; both teams have these players.
-  static void makeGame(const std::string& path, const std::vector<RosterPlayer>& players,
-                       GameDetails details = {}) {
+  // Four periods of ten minutes; both teams have these players, "4=0,Ann\n5=1,Bea".
+  static void makeGame(const std::string& path, const std::string& listed, GameDetails details = {}) {
+    const Game game = gameOfText("[DETAILS]\nVERSION=2.0\n[0]\n" + listed);
+    const std::vector<RosterPlayer>& players = game.roster[0].players();
     details.periods = 4;
     details.minutesPerPeriod = 10;
     FileSystem plain;

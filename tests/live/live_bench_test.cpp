@@ -26,12 +26,7 @@ class BenchTest : public LiveRoom<> {
     details.teamColour[0] = 255; // red
     const std::string path = folder.path("bench.GAM");
     makeGame(path,
-             {{"1", 0, "Ann Able"},
-              {"12", 1, "Bea Baker"},
-              {"30", 2, "Cleo Carter"},
-              {"31", 2, "Dana Dunn"},
-              {"45", 1, "Eve Ellis"},
-              {"6", 1, "Fay Ford"}},
+             "1=0,Ann Able\n12=1,Bea Baker\n30=2,Cleo Carter\n31=2,Dana Dunn\n45=1,Eve Ellis\n6=1,Fay Ford\n",
              details);
     ASSERT_EQ(live.open(path), GameFileProblem::None);
     ASSERT_TRUE(live.setOnCourt({kFive, kFive}));

@@ -18,10 +18,7 @@ class PlayerPanelTest : public LiveRoom<> {
     details.personalFoulLimit = 2;
     details.statisticLabel[0] = "U1-Charge";
     const std::string path = folder.path("panel.GAM");
-    makeGame(
-        path,
-        {{"4", 0, "A"}, {"5", 1, "B"}, {"6", 1, "C"}, {"7", 1, "Deborah Dunn-Dickinson of the Long Names"}},
-        details);
+    makeGame(path, "4=0,A\n5=1,B\n6=1,C\n7=1,Deborah Dunn-Dickinson of the Long Names\n", details);
     ASSERT_EQ(live.open(path), GameFileProblem::None);
     ASSERT_TRUE(live.setOnCourt({0b11110, 0}));
     for (PlayerPanel* panel : {&full, &empty}) {

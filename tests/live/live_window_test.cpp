@@ -7,7 +7,6 @@
 #include "live/LiveRoom.h"
 #include "live/frmLIVE.h"
 #include "support/FaultyFileSystem.h"
-#include "support/TextGame.h"
 
 #include <QAction>
 #include <QDropEvent>
@@ -41,12 +40,7 @@ class LiveWindowTest : public LiveRoom<FaultyFileSystem> {
     }
   }
   static void makeGame(const std::string& where) {
-    LiveRoom::makeGame(where, {{"4", 0, "Ann"},
-                               {"5", 1, "Bea"},
-                               {"10", 2, "Cleo"},
-                               {"12", 2, "Dot"},
-                               {"15", 1, "Eve"},
-                               {"20", 1, "Fay"}});
+    LiveRoom::makeGame(where, "4=0,Ann\n5=1,Bea\n10=2,Cleo\n12=2,Dot\n15=1,Eve\n20=1,Fay\n");
   }
   void open(const std::string& game) { ASSERT_EQ(window->open(toQt(game)), frmLIVE::Opening::Opened); }
   // A game that was left while its clock ran.

@@ -61,31 +61,20 @@ class NamesTest : public WindowRoom<> {
   }
   QString makeGame(const char* file, int inputType = 0,
                    const std::array<std::string, 4>& names = {kBold, kImage, kAnd, kMark}) {
-    GameDetails details;
-    details.version = GameFile::kVersion;
-    details.inputType = inputType;
-    details.date = "2026-11-05";
-    details.periods = 4;
-    details.minutesPerPeriod = 10;
-    details.abbreviation[0] = names[0];
-    details.abbreviation[1] = names[3];
-    for (const int team : {0, 1}) {
-      details.name[team] = names[1];
-      details.category[team] = names[2];
-      details.statisticLabel[team] = std::string(team == 0 ? "U1-" : "U2-") + kAnd;
-    }
-    details.place = kBold;
-    const std::vector<RosterPlayer> players = {
-        {"4", 0, names[0]}, {"5", 1, names[1]}, {"6", 2, names[2]}, {"7", 2, names[3]}};
-    GameFile made(store, games.path(file));
-    EXPECT_EQ(made.create(details, players, players), GameFileProblem::None);
-    const std::vector<std::string> events = {stopText("IN-04-05-06-07", "IN-04-05-06-07"),
-                                             startText(),
-                                             ",GF3,0-4,60,80",
-                                             ",GFG,1-5,40,50",
-                                             ",SA,1-6",
-                                             ",SPF,0-7"};
-    EXPECT_TRUE(inputType != 0 || made.append(1, 500, made.nextNumber(), events) == GameFileProblem::None);
+    std::string text = "[DETAILS]\nVERSION=2.0\nINPUTTYPE=" + std::to_string(inputType) +
+                       "\nDATE=2026-11-05\nNBREPERIODE=4\nDUREE=10\nENDROIT=" + kBold +
+                       "\nEQUIPE0ABB=" + names[0] + "\nEQUIPE1ABB=" + names[3] + "\n";
+    for (const std::string team : {"0", "1"})
+      text += "EQUIPE" + team + "NOM=" + names[1] + "\nEQUIPE" + team + "CAT=" + names[2] + "\nSUPP" + team +
+              (team == "0" ? "=U1-" : "=U2-") + kAnd + "\n";
+    for (const char* roster : {"[0]\n", "[1]\n"})
+      text += roster + ("4=0," + names[0]) + "\n5=1," + names[1] + "\n6=2," + names[2] + "\n7=2," + names[3] +
+              "\n";
+    if (inputType == 0)
+      text +=
+          "[PERIODE1]\n1=10:00,ARRET,IN-,IN-\n2=08:20,ARRET,IN-04-05-06-07,IN-04-05-06-07\n3=08:20,DEPART\n"
+          "4=08:20,GF3,0-4,60,80\n5=08:20,GFG,1-5,40,50\n6=08:20,SA,1-6\n7=08:20,SPF,0-7\n";
+    (void)games.write(file, text);
     return toQt(games.path(file));
   }
 
