@@ -3,6 +3,7 @@
 #include "checks/LineUpCheck.h"
 #include "checks/NumberCheck.h"
 #include "court/CourtGeometry.h"
+#include "game/EventDetails.h"
 #include "game/PlayerLookup.h"
 #include "game/Rules.h"
 #include "game/ShotFollowUp.h"
@@ -12,6 +13,7 @@
 #include <array>
 #include <cmath>
 #include <optional>
+#include <span>
 
 namespace hooptab {
 
@@ -53,8 +55,9 @@ class EventCheck {
         m_threePointCornerX(court::threePointCornerX(m_threePointRadius, m_threePointFromAxis)) {}
 
   void run() {
-    for (m_place = 0; m_place < m_game.events.size(); ++m_place) {
-      const GameEvent& event = m_game.events[m_place];
+    m_place = 0;
+    for (auto each = m_game.events.begin(); each != m_game.events.end(); ++each, ++m_place) {
+      const GameEvent& event = *each;
       if (event.period != m_section)
         enterSection(event.period);
       if (event.isDeleted)
@@ -88,13 +91,8 @@ class EventCheck {
     if (!event.isClock())
       playerOf(event);
   }
-  // It moves no clock of a count, and stands where it happened.
-  void checkOfTeam(const GameEvent& event) {
-    if (event.period == m_period && event.clockSeconds > m_clock && !isOfTotals())
-      name({.kind = FindingKind::ClockRises,
-            .subject = Module1::clockText(m_clock),
-            .found = Module1::clockText(event.clockSeconds)});
-  }
+  void checkOfTeam(const GameEvent& event);
+  void checkNamed(const GameEvent& event);
   void check(const GameEvent& event);
   void endPeriod(bool isLast);
   void finish();
@@ -122,8 +120,9 @@ class EventCheck {
   int m_period = 0;
   std::size_t m_last = 0; // place of the latest
   int m_clock = 0;
-  int m_clockBefore = 0; // of the one before it in the period
-  bool m_hasTwo = false; // there is one before it
+  std::optional<int> m_teamClock; // of the last event of a team in the section
+  int m_clockBefore = 0;          // of the one before it in the period
+  bool m_hasTwo = false;          // there is one before it
   EventCode m_lastClockEvent = EventCode::Unknown;
   int m_stopClock = 0;
   std::optional<std::size_t> m_afterStop; // the first that no free throw explains
@@ -137,10 +136,39 @@ class EventCheck {
 void EventCheck::enterSection(int period) {
   const int before = m_section;
   m_section = period;
+  m_teamClock.reset();
   if (period > kLastPeriod)
     return name({.kind = FindingKind::PeriodBehindLast, .subject = periodSection(period)});
   if (!isOfTotals() && period > before + 1)
     name({.kind = FindingKind::PeriodMissing, .subject = rangeText(before + 1, period - 1)});
+}
+
+// It moves no clock of a count, and stands where it happened.
+void EventCheck::checkOfTeam(const GameEvent& event) {
+  checkNamed(event);
+  if (isOfTotals())
+    return;
+  const bool isBehindOther = event.period == m_period && (!m_teamClock || m_clock < *m_teamClock);
+  const std::optional<int> before = isBehindOther ? std::optional(m_clock) : m_teamClock;
+  const int length = m_game.details.minutesPerPeriod * 60;
+  if (event.period <= m_game.details.periods && hasTime() && event.clockSeconds > length)
+    name({.kind = FindingKind::ClockAbovePeriod,
+          .subject = Module1::clockText(event.clockSeconds),
+          .found = Module1::clockText(length)});
+  else if (before && event.clockSeconds > *before)
+    name({.kind = FindingKind::ClockRises,
+          .subject = Module1::clockText(*before),
+          .found = Module1::clockText(event.clockSeconds)});
+  m_teamClock = event.clockSeconds;
+}
+
+// Those whom an event names beside the one who did it.
+void EventCheck::checkNamed(const GameEvent& event) {
+  const std::vector<PlayerReference> all = playersNamedBy(event);
+  for (const PlayerReference& named : std::span(all).subspan(event.isOfPlayer() ? 1 : 0)) {
+    if (findPlayer(m_game.roster[named.team], named.jersey) == nullptr)
+      name({.kind = FindingKind::NotInRoster, .team = named.team, .jersey = std::string(named.jersey)});
+  }
 }
 
 void EventCheck::check(const GameEvent& event) {
@@ -274,6 +302,8 @@ void EventCheck::checkAction(const GameEvent& event) {
   if (!m_hasFreeThrowSinceStop && !m_afterStop)
     m_afterStop = m_place;
   checkBurst(event);
+  if (event.detailsAt > 0)
+    checkNamed(event);
   // The bench is given technical fouls too.
   const RosterPlayer* const player = playerOf(event);
   if (player != nullptr && event.code != EventCode::STF && !m_lineUps.isOnCourt(event.player.team, *player))

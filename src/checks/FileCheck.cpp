@@ -1,5 +1,6 @@
 #include "checks/FileCheck.h"
 
+#include "game/WallClock.h"
 #include "storage/Module1.h"
 #include "storage/codepage.h"
 
@@ -50,7 +51,7 @@ std::optional<std::string> meant(std::string_view section) {
                : std::nullopt;
   if (zeros < name.size() && isOneLetterOff(name.substr(0, digits), kPeriod))
     return std::string(kPeriod) + name.substr(zeros);
-  for (const std::string_view ours : {kDetailsSection, kAcceptedSection}) {
+  for (const std::string_view ours : {kDetailsSection, kAcceptedSection, kWallClockSection}) {
     if (isOneLetterOff(name, ours))
       return std::string(ours);
   }
@@ -60,7 +61,7 @@ std::optional<std::string> meant(std::string_view section) {
 bool isOurs(std::string_view section) {
   const auto isSame = [section](std::string_view ours) { return codepage::equalNames(section, ours); };
   return periodOfSection(section) ||
-         std::ranges::any_of(std::array{kDetailsSection, kAcceptedSection}, isSame) ||
+         std::ranges::any_of(std::array{kDetailsSection, kAcceptedSection, kWallClockSection}, isSame) ||
          isSame(rosterSection(0)) || isSame(rosterSection(1));
 }
 

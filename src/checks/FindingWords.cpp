@@ -15,8 +15,7 @@ std::string whoOf(const Finding& finding, const Game& game, const Texts& texts) 
   if (finding.jersey.empty())
     return who;
   const bool isKnown = findPlayer(game.roster[finding.team], finding.jersey) != nullptr;
-  const std::string player =
-      isKnown ? words.player(PlayerReference::of(finding.team, finding.jersey)) : finding.jersey;
+  const std::string player = isKnown ? words.player({finding.team, finding.jersey}) : finding.jersey;
   return player == who ? who : who + ' ' + player;
 }
 

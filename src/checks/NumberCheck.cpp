@@ -23,8 +23,9 @@ void checkNumbers(const Game& game, std::vector<Finding>& findings) {
   };
   std::vector<Numbered> events;
   events.reserve(game.events.size());
-  for (std::size_t place = 0; place < game.events.size(); ++place) {
-    if (const int number = game.events[place].number; number > 0)
+  std::size_t place = 0;
+  for (auto event = game.events.begin(); event != game.events.end(); ++event, ++place) {
+    if (const int number = event->number; number > 0)
       events.push_back({number, place});
   }
   if (!std::ranges::is_sorted(events, {}, &Numbered::number))

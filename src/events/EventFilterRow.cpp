@@ -88,8 +88,7 @@ void EventFilterRow::showGame(const Game& game, const EventWords& words) {
     players.clear();
     for (int entry = 1; entry < kEntries; ++entry) {
       if (const RosterPlayer* player = game.roster[team].player(entry))
-        players.emplace_back(toQt(words.team(team)) + u' ' +
-                                 toQt(words.player(PlayerReference::of(team, player->jersey))),
+        players.emplace_back(toQt(words.team(team)) + u' ' + toQt(words.player({team, player->jersey})),
                              team * kEntries + entry);
     }
   }

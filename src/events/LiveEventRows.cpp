@@ -42,8 +42,9 @@ std::vector<LiveEventRows::Row> LiveEventRows::rowsOf(const Game& game) const {
   const Rosters rosters{game.roster[0], game.roster[1]};
   OnCourt onCourt = {};
   std::string_view lists; // of the last stop that counts, as written
-  for (std::size_t place = 0; place < rows.size(); ++place) {
-    const GameEvent& event = game.events[place];
+  std::size_t place = 0;
+  for (auto each = game.events.begin(); each != game.events.end(); ++each, ++place) {
+    const GameEvent& event = *each;
     if (!event.isUnderstood)
       continue;
     rows[place].foul = fouls[place];

@@ -89,8 +89,7 @@ void frmEDIT::makeFields() {
     for (int entry = 1; entry < kEntries; ++entry) {
       const RosterPlayer* player = m_game.roster[team].player(entry);
       if (player != nullptr)
-        m_player->addItem(toQt(words.team(team)) + u' ' +
-                              toQt(words.player(PlayerReference::of(team, player->jersey))),
+        m_player->addItem(toQt(words.team(team)) + u' ' + toQt(words.player({team, player->jersey})),
                           team * kEntries + entry);
     }
   }
@@ -255,7 +254,7 @@ void frmEDIT::showShot() {
   const EventKind* kind =
       m_isCounted ? kindOf(static_cast<EventCode>(m_kind->currentData().toInt())) : nullptr;
   const bool isMade = m_made->isChecked();
-  const bool hasPlace = kind != nullptr && kind->hasPlace && m_place;
+  const bool hasPlace = kind != nullptr && kind->isShot && kind->code != EventCode::GFT && m_place;
   m_made->setEnabled(kind != nullptr && kind->isShot);
   m_shot->setText(kind == nullptr || !kind->isShot
                       ? QString()
@@ -263,7 +262,7 @@ void frmEDIT::showShot() {
                             QStringLiteral(" (%1)").arg(caption(m_texts, kind->wordsText)));
   m_xy->setText(hasPlace ? QStringLiteral("%1, %2").arg(int(m_place->first)).arg(int(m_place->second))
                          : QString());
-  if (hasPlace && !fitsZone(kind->code))
+  if (hasPlace && kind->hasPlace && !fitsZone(kind->code))
     m_xy->setText(m_xy->text() + QStringLiteral(" \u2013 ") + caption(m_texts, Text::OtherZone));
   std::vector<LivePanel::ShotMark> marks;
   if (hasPlace)

@@ -29,16 +29,21 @@ constexpr KindWord kShots[] = {{"JUMP", Text::JumpShot},   {"HOOK", Text::HookSh
                                {"FLOATER", Text::Floater}, {"ALLEYOOP", Text::AlleyOop},
                                {"TIPIN", Text::TipIn},     {"LAYUP", Text::Layup},
                                {"DUNK", Text::Dunk},       {"FADEAWAY", Text::Fadeaway}};
-// Those of a team's events are in their names.
-constexpr KindWord kTeams[] = {
-    {"FULL", Text::None}, {"SHORT", Text::None}, {"MEDIA", Text::None}, {"C", Text::None}, {"B", Text::None}};
+// Most of those of a team's events are in their names.
+constexpr KindWord kTeams[] = {{"FULL", Text::None},
+                               {"SHORT", Text::ShortTimeOut},
+                               {"MEDIA", Text::None},
+                               {"C", Text::None},
+                               {"B", Text::None}};
 
 std::span<const KindWord> kindsOf(const GameEvent& event) {
   if (event.code == EventCode::SPF)
     return kFouls;
   if (event.code == EventCode::STO || event.code == EventCode::XTV)
     return kTurnovers;
-  return event.isShot() ? std::span<const KindWord>(kShots) : std::span<const KindWord>(kTeams);
+  if (event.isShot())
+    return kShots;
+  return event.isOfTeam() ? std::span<const KindWord>(kTeams) : std::span<const KindWord>();
 }
 
 } // namespace

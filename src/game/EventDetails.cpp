@@ -19,21 +19,59 @@ std::vector<std::string_view> fieldsOf(std::string_view line) {
   }
 }
 
-// How many fields the grammar has for a code, clock and code included.
-std::size_t grammarFields(std::string_view code) {
+// Of a code, clock and code included: without these there is no event, and all that the grammar has.
+struct GrammarFields {
+  std::size_t least = 0;
+  std::size_t most = 0;
+};
+GrammarFields grammarOf(std::string_view code) {
   constexpr std::size_t kClockAndCode = 2;
   if (code == "DEPART")
-    return kClockAndCode;
-  if (code == "ARRET" || code == "XJB")
-    return kClockAndCode + 2;
+    return {kClockAndCode, kClockAndCode};
+  if (code == "ARRET")
+    return {kClockAndCode, kClockAndCode + 2};
+  if (code == "XJB")
+    return {kClockAndCode + 2, kClockAndCode + 2};
   const bool hasPlace = std::ranges::any_of(
       kEventKinds, [&](const EventKind& kind) { return kind.hasPlace && code.starts_with(kind.text); });
-  return kClockAndCode + (hasPlace ? 3 : 1);
+  return {kClockAndCode + 1, kClockAndCode + (hasPlace ? 3 : 1)};
 }
 
 bool isDetail(std::string_view field) {
   return field.find('=') != std::string_view::npos;
 }
+std::string_view keyOf(std::string_view field) {
+  return field.substr(0, field.find('='));
+}
+
+// A line apart: what the grammar has of it, and all that stands behind.
+struct SplitLine {
+  std::vector<std::string_view> grammar;
+  std::vector<std::string_view> behind;
+
+  explicit SplitLine(std::string_view line) : grammar(fieldsOf(line)) {
+    if (grammar.size() < 2)
+      return;
+    const auto [least, most] = grammarOf(grammar[1]);
+    std::size_t count = std::min(least, grammar.size());
+    while (count < std::min(most, grammar.size()) && !isDetail(grammar[count]))
+      ++count;
+    behind.assign(grammar.begin() + static_cast<std::ptrdiff_t>(count), grammar.end());
+    grammar.resize(count);
+  }
+  [[nodiscard]] std::string text() && {
+    const auto [least, most] = grammar.size() < 2 ? GrammarFields() : grammarOf(grammar[1]);
+    if (!behind.empty())
+      grammar.resize(std::max(grammar.size(), most));
+    while (behind.empty() && grammar.size() > std::max<std::size_t>(least, 3) && grammar.back().empty())
+      grammar.pop_back(); // that stood before the detail alone
+    grammar.insert(grammar.end(), behind.begin(), behind.end());
+    std::string text(grammar.front());
+    for (const std::string_view field : std::span(grammar).subspan(1))
+      text.append(",").append(field);
+    return text;
+  }
+};
 
 bool isFoul(EventCode code) {
   return code == EventCode::SPF || code == EventCode::STF;
@@ -44,39 +82,13 @@ bool isFieldGoal(EventCode code) {
 
 } // namespace
 
-bool isDetailValue(std::string_view text) {
-  return !text.empty() && std::ranges::all_of(text, [](char letter) {
-    return letter > ' ' && letter <= '~' && letter != ',' && letter != '=';
-  });
-}
-
 std::string withDetail(std::string_view line, std::string_view key, std::string_view value) {
-  std::vector<std::string_view> fields = fieldsOf(line);
-  if (fields.size() < 2)
-    return std::string(line);
-  const std::size_t most = std::min(grammarFields(fields[1]), fields.size());
-  auto details = fields.begin() + 2;
-  while (details != fields.begin() + static_cast<std::ptrdiff_t>(most) && !isDetail(*details))
-    ++details;
-  std::vector<std::string_view> kept(details, fields.end());
-  fields.erase(details, fields.end());
-  std::erase_if(kept, [&](std::string_view field) {
-    return field.size() > key.size() && field.starts_with(key) && field[key.size()] == '=';
-  });
+  SplitLine split(line);
+  std::erase_if(split.behind, [&](std::string_view field) { return isDetail(field) && keyOf(field) == key; });
   const std::string added = std::string(key) + '=' + std::string(value);
   if (!value.empty())
-    kept.push_back(added);
-  if (kept.empty()) {
-    while (fields.size() > 3 && fields.back().empty()) // that stood before the detail alone
-      fields.pop_back();
-  } else {
-    fields.resize(std::max(fields.size(), grammarFields(fields[1])));
-  }
-  fields.insert(fields.end(), kept.begin(), kept.end());
-  std::string text(fields.front());
-  for (const std::string_view field : std::span(fields).subspan(1))
-    text.append(",").append(field);
-  return text;
+    split.behind.push_back(added);
+  return std::move(split).text();
 }
 
 std::vector<PlayerReference> playersNamedBy(const GameEvent& event) {
@@ -97,16 +109,19 @@ std::string withDetailsOf(const GameEvent& old, std::string text, EventCode kind
       kind == old.code || (isFieldGoal(kind) && isFieldGoal(old.code)) || (isFoul(kind) && isFoul(old.code));
   if (!isOfOne || old.detailsAt == 0)
     return text;
-  for (const std::string_view field : fieldsOf(old.line.substr(old.detailsAt))) {
-    if (!isDetail(field))
-      continue;
-    const std::string_view key = field.substr(0, field.find('='));
-    const bool namesOpponent = key == detail_key::kDrawnBy || key == detail_key::kShooter;
+  std::vector<std::string_view> fields = SplitLine(old.line).behind;
+  if (old.unread > 0 && !fields.empty()) // of which nobody knows the end
+    fields.pop_back();
+  SplitLine split(text);
+  for (const std::string_view field : fields) {
+    const std::string_view key = isDetail(field) ? keyOf(field) : std::string_view();
+    const bool isOfOpponent = key == detail_key::kDrawnBy || key == detail_key::kShooter;
+    const bool isOfKind = key == detail_key::kKind && isFoul(kind) && kind != old.code;
     const bool isSettled = key == detail_key::kDoubtful || key == detail_key::kX || key == detail_key::kY;
-    if (!isSettled && (!namesOpponent || team == old.player.team))
-      text = withDetail(text, key, field.substr(key.size() + 1));
+    if (!field.empty() && !isSettled && !isOfKind && (!isOfOpponent || team == old.player.team))
+      split.behind.push_back(field);
   }
-  return text;
+  return std::move(split).text();
 }
 
 } // namespace hooptab

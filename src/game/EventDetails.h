@@ -23,9 +23,6 @@ inline constexpr std::string_view kWonBy = "W";         // of a jump ball: "0" o
 inline constexpr std::string_view kDoubtful = "?";      // of any event: "1"
 } // namespace detail_key
 
-// Whether a text can be a value: ASCII without control characters, blank, comma or "=", and not empty.
-[[nodiscard]] bool isDetailValue(std::string_view text);
-
 // A line (or what stands behind its clock) with that detail behind all else, in place of the one that it had;
 // an empty value takes it away. What the grammar has before it and the line lacks (the lists of a stop, the
 // place of a shot) stays empty.
@@ -35,8 +32,9 @@ inline constexpr std::string_view kDoubtful = "?";      // of any event: "1"
 [[nodiscard]] std::vector<PlayerReference> playersNamedBy(const GameEvent& event);
 
 // The text of an event of that kind and team that takes the place of another, with the details of that one
-// that still hold: those of a shot while it stays one, those of a foul likewise; who drew it or whose shot it
-// was, while the team stays. A doubt is settled by the change, and the place is the new text's own.
+// that still hold: those of a field goal while it stays one, those of a foul likewise, but for its kind where
+// it becomes a technical one; who drew it or whose shot it was, while the team stays. A doubt is settled by
+// the change, and the place is the new text's own.
 [[nodiscard]] std::string withDetailsOf(const GameEvent& old, std::string text, EventCode kind, int team);
 
 } // namespace hooptab

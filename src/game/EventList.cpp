@@ -144,18 +144,28 @@ void EventList::setEnds() {
     part.end = end += part.period->events.size();
 }
 
-void EventList::beginPeriod(int period, std::shared_ptr<const std::string> text, std::size_t most) {
-  Period& begun = changed(period);
-  begun.texts.push_back(std::move(text));
-  begun.events.reserve(begun.events.size() + most);
+EventList::Filling::Filling(EventList& list, int period, std::shared_ptr<const std::string> text,
+                            std::size_t most)
+    : m_list(list), m_period(list.changed(period)) {
+  m_period.texts.push_back(std::move(text));
+  m_period.events.reserve(m_period.events.size() + most);
 }
 
-void EventList::append(std::string_view key, int keyNumber, std::string_view line, std::size_t unread) {
-  Part& last = m_periods.back();
-  GameEvent& event = last.period->events.emplace_back();
-  event.parseLine(last.period->number, key, keyNumber, line);
-  event.unread = static_cast<std::uint32_t>(unread);
-  last.end = (m_periods.size() == 1 ? 0 : m_periods[m_periods.size() - 2].end) + last.period->events.size();
+// A file may have very many periods, and they come one behind the other.
+EventList::Filling::~Filling() {
+  std::vector<Part>& parts = m_list.m_periods;
+  if (parts.back().period.get() != &m_period) {
+    m_list.setEnds();
+    return;
+  }
+  const std::size_t before = parts.size() == 1 ? 0 : parts[parts.size() - 2].end;
+  parts.back().end = before + m_period.events.size();
+}
+
+void EventList::Filling::appendOwned(std::string_view key, std::string_view line) {
+  OwnedEvent owned = ownedEvent(m_period.number, key, line);
+  m_period.events.push_back(owned.event);
+  m_period.texts.push_back(std::move(owned.text));
 }
 
 void EventList::appendOwned(int period, std::string_view key, std::string_view line) {

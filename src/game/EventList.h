@@ -124,11 +124,26 @@ class EventList {
 
   // --- Changing
 
-  // The events of a period that follow come from that text, at most so many; periods ascend.
-  void beginPeriod(int period, std::shared_ptr<const std::string> text, std::size_t most);
-  // One of the period that was begun last; the views point into its text. `line` is cut to what readers get,
-  // `unread` bytes stand behind it.
-  void append(std::string_view key, int keyNumber, std::string_view line, std::size_t unread);
+  // Puts the events of a period behind those that it has, from a text of which it keeps hold. The list is as
+  // it should be when the filling goes; until then nobody else asks it.
+  class Filling {
+   public:
+    Filling(EventList& list, int period, std::shared_ptr<const std::string> text, std::size_t most);
+    ~Filling();
+    Filling(const Filling&) = delete;
+    Filling& operator=(const Filling&) = delete;
+    // The views point into the text. `line` is cut to what readers get, `unread` bytes stand behind it.
+    void append(std::string_view key, int keyNumber, std::string_view line, std::size_t unread) {
+      GameEvent& event = m_period.events.emplace_back();
+      event.parseLine(m_period.number, key, keyNumber, line);
+      event.unread = static_cast<std::uint32_t>(unread);
+    }
+    void appendOwned(std::string_view key, std::string_view line); // copies both
+
+   private:
+    EventList& m_list;
+    Period& m_period;
+  };
   // At the end of a period; copies the text.
   void appendOwned(int period, std::string_view key, std::string_view line);
   // The events of a period become these.

@@ -1,7 +1,6 @@
 #include "game/GameEvent.h"
 
 #include "game/EventDetails.h"
-#include "game/Roster.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -108,6 +107,10 @@ bool parseCoordinate(std::string_view text, float& value) {
   return true;
 }
 
+bool isPlayer(std::string_view text) {
+  return text.size() >= 3 && (text[0] == '0' || text[0] == '1') && text[1] == '-';
+}
+
 // "0", "1", or nothing for nobody's.
 bool parseSide(std::string_view text, bool mayBeNobody, PlayerReference& player) {
   if (text != "0" && text != "1")
@@ -118,15 +121,9 @@ bool parseSide(std::string_view text, bool mayBeNobody, PlayerReference& player)
 
 } // namespace
 
-PlayerReference PlayerReference::of(int team, std::string_view jersey) {
-  return {team, Roster::jerseyNumber(jersey), jersey};
-}
-
 // Side, "-", jersey. A jersey is never empty and holds no further rule: it is looked up in the roster.
 std::optional<PlayerReference> PlayerReference::read(std::string_view text) {
-  if (text.size() < 3 || (text[0] != '0' && text[0] != '1') || text[1] != '-')
-    return std::nullopt;
-  return of(text[0] - '0', text.substr(2));
+  return isPlayer(text) ? std::optional(PlayerReference{text[0] - '0', text.substr(2)}) : std::nullopt;
 }
 
 GameEvent GameEvent::parse(int period, std::string_view key, std::string_view line) {
@@ -177,10 +174,10 @@ void GameEvent::parseLine(int eventPeriod, std::string_view eventKey, int keyNum
     if (!parseSide(nextField(rest), found.code == EventCode::XTO, player))
       return;
   } else if (found.kind != nullptr) {
-    const auto who = PlayerReference::read(nextField(rest));
-    if (!who)
+    const std::string_view who = nextField(rest);
+    if (!isPlayer(who))
       return;
-    player = *who;
+    player = {who[0] - '0', who.substr(2)};
     if (found.kind->hasPlace) {
       std::string_view behind = rest;
       const std::string_view xText = nextField(behind);

@@ -17,11 +17,9 @@ namespace hooptab {
 inline constexpr int kLastPeriod = 255;
 
 struct PlayerReference {
-  int team = -1;   // 0 visiting, 1 home, -1 none; alone, of what a team did
-  int number = -1; // as Roster::jerseyNumber reads the jersey
+  int team = -1; // 0 visiting, 1 home, -1 none; alone, of what a team did
   std::string_view jersey;
 
-  [[nodiscard]] static PlayerReference of(int team, std::string_view jersey);
   [[nodiscard]] static std::optional<PlayerReference> read(std::string_view text); // "0-12"
 };
 

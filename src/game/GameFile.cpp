@@ -130,8 +130,8 @@ std::vector<PeriodSection> periodsOf(const ProfileText& text) {
 
 void readEvents(const ProfileText& text, EventList& events) {
   for (const auto& [period, section] : periodsOf(text)) {
-    events.beginPeriod(period, section.bytes,
-                       static_cast<std::size_t>(section.lines.end() - section.lines.begin()));
+    EventList::Filling filling(events, period, section.bytes,
+                               static_cast<std::size_t>(section.lines.end() - section.lines.begin()));
     const bool allAscii = isAscii(section.lines.bytes);
     FirstKeys keys(section.lines);
     for (const ProfileText::Line& line : section.lines) {
@@ -139,9 +139,9 @@ void readEvents(const ProfileText& text, EventList& events) {
         continue;
       const std::string_view value = readable(line.value);
       if (allAscii || (isAscii(line.value) && isAscii(line.name)))
-        events.append(line.name, keys.number(), value, line.value.size() - value.size());
+        filling.append(line.name, keys.number(), value, line.value.size() - value.size());
       else
-        events.appendOwned(period, codepage::toUtf8(line.name), codepage::toUtf8(line.value));
+        filling.appendOwned(codepage::toUtf8(line.name), codepage::toUtf8(line.value));
     }
   }
 }

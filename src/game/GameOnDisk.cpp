@@ -168,6 +168,7 @@ WriteResult GameOnDisk::bringTogether(const EventList& all) {
     if (!value.isWaiting && now != value.value && (merge.restored > 0 || now == value.before))
       batch.set(place.first, place.second, value.value);
   }
+  addTimes(merge, theirs, batch);
   if (WriteResult written = m_guard.write(batch); !written.isOnDisk())
     return written;
   m_foreign.isTouched = true;
@@ -176,6 +177,31 @@ WriteResult GameOnDisk::bringTogether(const EventList& all) {
   m_foreign.gaveWay.insert(m_foreign.gaveWay.end(), merge.gaveWay.begin(), merge.gaveWay.end());
   noteWhatWasKept();
   return {};
+}
+
+// Times go with their events: those of lines that come back, too, and those of lines that gave way stay with
+// none of ours.
+void GameOnDisk::addTimes(const GameMerge& merge, const ProfileText& theirs, ProfileBatch& batch) const {
+  const std::string section(kWallClockSection);
+  const ProfileText& left = m_guard.left();
+  const auto owner = m_values.find({section, std::string(kWallClockOwner)});
+  const bool areOurs = owner == m_values.end() || left.value(section, kWallClockOwner) == owner->second.value;
+  if (merge.restored > 0 && areOurs) {
+    for (const ProfileText::Line& line : left.section(section)) {
+      if (line.kind == ProfileText::Line::Kind::KeyValue && !theirs.value(section, line.name))
+        batch.set(section, codepage::toUtf8(line.name), codepage::toUtf8(line.value));
+    }
+  }
+  for (const EventPlace& event : merge.gaveWay) {
+    if (!theirs.value(section, event.key))
+      continue;
+    const auto own = m_values.find({section, event.key});
+    const auto before = left.value(section, event.key);
+    batch.set(section, event.key,
+              own != m_values.end() ? own->second.value
+              : before && areOurs   ? std::string(*before)
+                                    : "0");
+  }
 }
 
 // A player whom the events name cannot be missed.

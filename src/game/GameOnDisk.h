@@ -78,6 +78,7 @@ class GameOnDisk {
   void rescue(const EventList& all);
   void note(std::string_view section, const Values& values);
   void addValues(const ProfileText& text, ProfileBatch& batch) const;
+  void addTimes(const GameMerge& merge, const ProfileText& theirs, ProfileBatch& batch) const;
   void addMissingPlayers(const EventList& all, ProfileBatch& batch);
   ProfileBatch whole(const EventList& all) const;
 

@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -94,7 +93,6 @@ struct GameState {
   LeadTracker lead;
   std::array<std::array<PlayerExtras, kPlayerEntries>, 2> extras = {};
   std::array<TeamRow, 2> teamRows = {};
-  std::optional<int> arrow; // the side that gets the next ball after a held one, once it was said
   std::vector<Shot> shots;
   int period = 1;
   int clockSeconds = 0; // of the last event

@@ -38,9 +38,8 @@ class Roster {
   // 1..15 in the order of the section's keys; 0 for everybody else ("others").
   // As events write it: same text first, else equal number. Inline: it is asked for every event and for every
   // player of every list of a season.
-  [[nodiscard]] int entryOf(std::string_view jersey) const { return entryOf(jersey, jerseyNumber(jersey)); }
-  // The same with the number that the jersey is.
-  [[nodiscard]] int entryOf(std::string_view jersey, int number) const {
+  [[nodiscard]] int entryOf(std::string_view jersey) const {
+    const int number = jerseyNumber(jersey);
     // A number that one player alone wears is his, however it is written.
     if (number >= 0 && !m_byNumber[static_cast<std::size_t>(number)].isAmbiguous)
       return m_byNumber[static_cast<std::size_t>(number)].entry;

@@ -46,7 +46,6 @@ void Tally::clear() {
   m_state.lead = {};
   m_state.extras = {};
   m_state.teamRows = {};
-  m_state.arrow.reset();
   m_state.shots.clear();
   m_state.period = 1;
   m_state.clockSeconds = 0;
@@ -170,8 +169,7 @@ std::size_t Tally::lineEntry(std::size_t team, unsigned members, const std::vect
 void Tally::count(const GameEvent& event, std::size_t eventIndex) {
   const EventKind& kind = *event.kind();
   const auto team = static_cast<std::size_t>(event.player.team);
-  const auto player =
-      static_cast<std::size_t>(m_rosters[team]->entryOf(event.player.jersey, event.player.number));
+  const auto player = static_cast<std::size_t>(m_rosters[team]->entryOf(event.player.jersey));
   const std::size_t line = m_state.currentLine[team];
   const std::size_t row = GameState::periodRow(event.period);
   Counters& ofPlayer = m_state.players[team][player].counters;
@@ -219,14 +217,12 @@ void Tally::countExtras(const GameEvent& event) {
     return;
   const auto team = static_cast<std::size_t>(other->team);
   PlayerExtras& extras =
-      m_state.extras[team][static_cast<std::size_t>(m_rosters[team]->entryOf(other->jersey, other->number))];
+      m_state.extras[team][static_cast<std::size_t>(m_rosters[team]->entryOf(other->jersey))];
   if (std::int16_t& count = isFoul ? extras.foulsDrawn : extras.blocksAgainst; !isFull(count, 1))
     add(count, 1);
 }
 
 void Tally::countOfTeam(const GameEvent& event) {
-  if (event.code == EventCode::XAR)
-    m_state.arrow = event.player.team;
   if (event.player.team < 0)
     return;
   TeamRow& row = m_state.teamRows[static_cast<std::size_t>(event.player.team)];

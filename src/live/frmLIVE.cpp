@@ -422,7 +422,9 @@ void frmLIVE::showPeriodEnd() {
 }
 
 void frmLIVE::askOvertime() {
-  if (const GameDetails& details = m_game.game().details; details.overtimeMinutes > 0) { // as the one before
+  // One overtime is behind; until then a slip of the hand can be mended by being asked again.
+  if (const GameDetails& details = m_game.game().details;
+      details.overtimeMinutes > 0 && m_game.isOvertime()) {
     (void)m_session.change()->beginOvertime(details.overtimeMinutes, details.keepsBonus);
     return;
   }

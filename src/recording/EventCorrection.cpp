@@ -237,8 +237,7 @@ std::string EventCorrection::adaptedWords(const Texts& texts) const {
   if (!canAdapt())
     return {};
   const Said& wanted = *m_asked->adapted;
-  const std::string player =
-      EventWords(m_game->game(), texts).player(PlayerReference::of(wanted.team, wanted.jersey));
+  const std::string player = EventWords(m_game->game(), texts).player({wanted.team, wanted.jersey});
   return player + ": " + std::string(texts.text(kindOf(wanted.code)->wordsText));
 }
 

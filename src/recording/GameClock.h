@@ -27,6 +27,11 @@ class GameClock {
     return elapsed >= m_atStart ? 0 : m_atStart - static_cast<int>(elapsed);
   }
 
+  int beyondEnd(std::int64_t now) const {
+    const std::int64_t elapsed = m_isRunning ? now - m_startTime : 0;
+    return static_cast<int>(std::max<std::int64_t>(elapsed - m_atStart, 0));
+  }
+
   friend bool operator==(const GameClock&, const GameClock&) = default;
 
  private:

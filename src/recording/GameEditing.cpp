@@ -37,7 +37,7 @@ EditPlan GameEditing::deletion(std::span<const EventPlace> events, bool isDelete
   return planOf(isDeleted ? Text::Deletion : Text::Restoring, edit, isWhole);
 }
 
-// A time of the period, as far as its length is known: that of an overtime is in no file.
+// A time of the period, as far as its length is known: each overtime may have its own.
 bool GameEditing::isClock(int period, int clock) const {
   const GameDetails& details = m_log.game().details;
   if (details.minutesPerPeriod <= 0 || clock < 0)

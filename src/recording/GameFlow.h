@@ -30,6 +30,8 @@ class GameFlow {
   int length() const { return m_length; } // of the period, in seconds
   const GameClock& clock() const { return m_clock; }
   int seconds() const { return m_clock.remaining(m_time->seconds()); } // that remain
+  // That have passed since a clock that runs would have been at 00:00.
+  int secondsBeyondEnd() const { return m_clock.beyondEnd(m_time->seconds()); }
   // The period that has ended since the last start; 0: none.
   int endedPeriod() const { return m_endedPeriod; }
   // Seconds for which nobody can start the clock, because a period has just ended.

@@ -34,7 +34,8 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
   if (const GameFileProblem problem = m_log.open(path); problem != GameFileProblem::None)
     return problem;
   m_access = access;
-  m_time.layOnUtc();
+  if (access == Access::Recording)
+    m_time.layOnUtc();
   m_history.clear();
   m_lastShot = {};
   m_wasLeftRunning = false;
@@ -63,17 +64,21 @@ ForeignHands LiveGame::takeForeignHands() {
 // The lists of the last stop, the clock of the last event; after a stop at 00:00 as after the close of the
 // period.
 void LiveGame::showAsLeft() {
-  standIn(std::clamp(state().period, 1, kLastPeriod));
-  putOnCourt(inForce(game().events, kBehindAll, {}, m_log.rosters()));
-
   const GameEvent* last = nullptr;
+  const GameEvent* lastOfPlay = nullptr; // what a team does may stand behind the stop that closes a period
   for (const GameEvent& event : game().events) {
-    if (event.isUnderstood && !event.isDeleted)
-      last = &event;
+    if (!event.isUnderstood || event.isDeleted)
+      continue;
+    last = &event;
+    if (!event.isOfTeam())
+      lastOfPlay = &event;
   }
+  standIn(last == nullptr ? 1 : std::clamp(last->period, 1, kLastPeriod));
+  putOnCourt(inForce(game().events, kBehindAll, {}, m_log.rosters()));
   if (last != nullptr)
     m_flow.setClock(last->clockSeconds);
-  if (last != nullptr && last->code == EventCode::ARRET && last->clockSeconds == 0 && hasTime())
+  if (lastOfPlay != nullptr && lastOfPlay->period == last->period && lastOfPlay->code == EventCode::ARRET &&
+      lastOfPlay->clockSeconds == 0 && hasTime())
     closePeriod();
   m_flow.unlock(); // that was long ago
   if (m_access == Access::Reading || game().details.isFinished) {
@@ -90,7 +95,7 @@ void LiveGame::showAsLeft() {
   }
   if (whole != before) {
     putOnCourt(whole);
-    recordStop(); // nobody's action
+    recordStop(std::nullopt); // nobody's action
   }
 }
 
@@ -114,18 +119,18 @@ bool LiveGame::isHalfTime() const {
          });
 }
 
-// Of an overtime that an older program recorded the length is in no file: it is the highest clock seen in it.
+// Of an overtime that has begun it is the highest clock seen in it: each may have had its own.
 int LiveGame::lengthOf(int period) const {
   const GameDetails& details = game().details;
+  if (period <= details.periods)
+    return details.minutesPerPeriod * kSecondsPerMinute;
   int longest = 0;
-  if (period > details.periods) {
-    longest = details.overtimeMinutes * kSecondsPerMinute;
-    for (const GameEvent& event : game().events.ofPeriod(period)) {
-      if (event.isUnderstood)
-        longest = std::max(longest, event.clockSeconds);
-    }
+  for (const GameEvent& event : game().events.ofPeriod(period)) {
+    if (event.isUnderstood)
+      longest = std::max(longest, event.clockSeconds);
   }
-  return longest > 0 ? longest : details.minutesPerPeriod * kSecondsPerMinute;
+  const int minutes = details.overtimeMinutes > 0 ? details.overtimeMinutes : details.minutesPerPeriod;
+  return longest > 0 ? longest : minutes * kSecondsPerMinute;
 }
 
 int LiveGame::clockSeconds() const {
@@ -158,7 +163,7 @@ void LiveGame::start() {
   if (!hasTime() || phase() != Phase::Stopped || startLock() > 0)
     return;
   if (isStopLost())
-    recordStop();
+    recordStop(std::nullopt);
   m_wasLeftRunning = false;
   if (clockSeconds() == 0)
     return closePeriod();
@@ -172,8 +177,12 @@ void LiveGame::stop() {
   if (phase() != Phase::Running)
     return;
   writePending();
+  // A machine that slept, or a late tick, stops behind the horn.
+  std::optional<std::int64_t> when = wallClock();
+  if (when)
+    *when -= 1000 * m_flow.secondsBeyondEnd();
   m_flow.stop();
-  recordStop();
+  recordStop(when);
   if (clockSeconds() == 0)
     closePeriod();
 }
@@ -202,8 +211,8 @@ bool LiveGame::settleStop(int clockSeconds) {
   if (!isStopLost() || clockSeconds < 0)
     return false;
   m_wasLeftRunning = false;
-  m_flow.setClock(clockSeconds); // of an overtime, too, whose length is in no file
-  recordStop();
+  m_flow.setClock(clockSeconds); // of an overtime, too, whose length may be in no file
+  recordStop(std::nullopt);      // nobody knows when
   if (clockSeconds == 0)
     closePeriod();
   return true;
@@ -221,8 +230,8 @@ void LiveGame::checkCounts() const {
 #endif
 }
 
-void LiveGame::recordStop() {
-  m_log.change({added(lineOf(stopText(onCourt(), m_log.rosters())))}, wallClock());
+void LiveGame::recordStop(std::optional<std::int64_t> when) {
+  m_log.change({added(lineOf(stopText(onCourt(), m_log.rosters())))}, when);
   checkCounts();
 }
 
@@ -265,7 +274,7 @@ void LiveGame::leavePeriod() {
   const auto last = std::find_if(events.rbegin(), events.rend(),
                                  [](const GameEvent& event) { return !event.whole().starts_with('E'); });
   if (hasTime() && last != events.rend() && !isStop(*last))
-    recordStop();
+    recordStop(std::nullopt);
 }
 
 void LiveGame::standIn(int period) {

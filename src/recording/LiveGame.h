@@ -194,7 +194,7 @@ class LiveGame {
   std::string lineOf(const std::string& eventText) const; // at the present clock
   EventChange added(const std::string& line);
   bool record(const std::string& eventText, Text text);
-  void recordStop();
+  void recordStop(std::optional<std::int64_t> when);
   void checkCounts() const;
   void leavePeriod();
   void closePeriod();

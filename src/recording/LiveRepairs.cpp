@@ -92,8 +92,7 @@ std::vector<LiveRepair> repairsOf(const Finding& finding, const Game& game) {
 std::string wordsOf(const LiveRepair& repair, const Game& game, const Texts& texts) {
   const RosterPlayer* player = game.roster[static_cast<std::size_t>(repair.team)].player(repair.player);
   const std::string who =
-      player == nullptr ? std::string()
-                        : EventWords(game, texts).player(PlayerReference::of(repair.team, player->jersey));
+      player == nullptr ? std::string() : EventWords(game, texts).player({repair.team, player->jersey});
   return texts.withPlaceholder(repair.text, who);
 }
 

@@ -89,7 +89,7 @@ std::vector<BoxRow> boxRows(const CountedGame& counted, int team, BoxView view, 
     }
     rows.add(
         {BoxRowKind::OtherPlayers, 0, {}, std::string(texts.text(Text::Others)), kPositionWithoutName, {}},
-        players[0], players[0].counters.hasAny());
+        players[0], players[0].counters.hasAny() || state.extras[side][0] != PlayerExtras());
   } else {
     for (int i = 1; i <= state.usedLines[side]; ++i) {
       const LineEntry& line = lines[static_cast<std::size_t>(i)];

@@ -118,7 +118,7 @@ void ManualTotals::load(const Roster& visitors, const Roster& home, const EventL
   m_linesElsewhere = events.size() - events.ofPeriod(kPeriod).size();
   for (const GameEvent& event : events.ofPeriod(kPeriod)) {
     // Under whatever key: saving numbers all lines anew.
-    if (!count(GameEvent::parse(kPeriod, "1", event.whole()), visitors, home))
+    if (event.unread > 0 || !count(GameEvent::parse(kPeriod, "1", event.whole()), visitors, home))
       m_kept.emplace_back(event.whole());
   }
 }
@@ -126,7 +126,7 @@ void ManualTotals::load(const Roster& visitors, const Roster& home, const EventL
 // False for a line that has to be kept as it is.
 bool ManualTotals::count(const GameEvent& event, const Roster& visitors, const Roster& home) {
   const std::string_view line = event.whole();
-  if (!event.isUnderstood || !event.isOfPlayer() || event.unread > 0 || !line.starts_with(kClock))
+  if (!event.isUnderstood || !event.isOfPlayer() || !line.starts_with(kClock))
     return false;
   const EventKind& kind = *event.kind();
   const int entry = (event.player.team == 0 ? visitors : home).entryOf(event.player.jersey);

@@ -49,6 +49,37 @@ TEST_F(WallClockTest, OfASubstitutionIsThatOfItsFirstClick) {
   EXPECT_EQ(times(), (std::map<int, std::int64_t>{{3, 0}, {4, 10}, {5, 10}}));
 }
 
+// A machine that slept stops behind the horn, and of a stop that was lost nobody knows when it was.
+TEST_F(WallClockTest, OfAStopIsWhenItWas) {
+  open(textOfGame(kBegin + "2=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n"));
+  run(0);
+  pass(2400);
+  EXPECT_EQ(times(), (std::map<int, std::int64_t>{{3, 0}, {4, 600}}));
+  pass(5);
+  live.start(); // 5
+  ASSERT_EQ(live.open(path), GameFileProblem::None);
+  pass(86'400);
+  ASSERT_TRUE(live.settleStop(500));
+  EXPECT_EQ(times().size(), 3U);
+}
+
+// What others wrote under our number gives way with its time, and a time comes back with its line.
+TEST_F(WallClockTest, GoesWithItsEventUnderOtherHands) {
+  open(textOfGame(kBegin + "2=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n"));
+  run(10);
+  const std::string before = folder.read("live.GAM");
+  folder.write("live.GAM", before + "4=700\r\n[PERIODE2]\r\n4=09:00,SA,0-4\r\n");
+  live.recordAction(0, 1, EventCode::SPF);
+  EXPECT_EQ(times(), (std::map<int, std::int64_t>{{3, 0}}));
+  live.stop();
+  ASSERT_EQ(live.open(path), GameFileProblem::None);
+  const std::map<int, std::int64_t> all = times();
+  ASSERT_TRUE(all.contains(5));
+  folder.write("live.GAM", before);
+  ASSERT_TRUE(live.settle());
+  EXPECT_EQ(times(), all);
+}
+
 TEST_F(WallClockTest, OfTheGameThatStoodThereBeforeIsDropped) {
   open(textOfGame(kBegin) + "[HORLOGE]\n1=5\nPARTIE=old\n3=6\n");
   EXPECT_TRUE(times().empty());
