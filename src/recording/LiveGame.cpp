@@ -271,8 +271,9 @@ bool LiveGame::setPeriod(int period) {
 // none.
 void LiveGame::leavePeriod() {
   const auto events = game().events.ofPeriod(period());
-  const auto last = std::find_if(events.rbegin(), events.rend(),
-                                 [](const GameEvent& event) { return !event.whole().starts_with('E'); });
+  const auto last = std::find_if(events.rbegin(), events.rend(), [](const GameEvent& event) {
+    return !event.whole().starts_with('E') && !event.isOfTeam();
+  });
   if (hasTime() && last != events.rend() && !isStop(*last))
     recordStop(std::nullopt);
 }
