@@ -35,6 +35,17 @@ GameDetails::ClosedInPlay closedInPlayOf(std::string_view value) {
   return error == std::errc() && closed.event > 0 ? closed : GameDetails::ClosedInPlay();
 }
 
+constexpr std::string_view kLevels[] = {"BASIC", "LEAGUE", "FULL"};
+
+std::optional<RecordingLevel> levelOf(std::string_view value) {
+  const auto known = std::ranges::find(kLevels, value);
+  return known == std::end(kLevels) ? std::nullopt
+                                    : std::optional(static_cast<RecordingLevel>(known - kLevels));
+}
+std::string positive(int number) {
+  return number > 0 ? std::to_string(number) : std::string();
+}
+
 struct Detail {
   std::string_view key;
   void (*read)(GameDetails&, std::string_view value);
@@ -102,6 +113,29 @@ constexpr std::array kDetails = std::to_array<Detail>({
      [](const GameDetails& d) { return d.notes; }},
     {"IDPARTIE", [](GameDetails& d, std::string_view value) { d.id = textOf(value); },
      [](const GameDetails& d) { return d.id; }, true},
+    {"REGLES", [](GameDetails& d, std::string_view value) { d.ruleSet = textOf(value); },
+     [](const GameDetails& d) { return d.ruleSet; }, true},
+    {"NIVEAU", [](GameDetails& d, std::string_view value) { d.level = levelOf(value); },
+     [](const GameDetails& d) { return d.level ? std::string(levelKey(*d.level)) : std::string(); }, true},
+    {"COMPETITION", [](GameDetails& d, std::string_view value) { d.competition = textOf(value); },
+     [](const GameDetails& d) { return d.competition; }, true},
+    {"RONDE", [](GameDetails& d, std::string_view value) { d.round = textOf(value); },
+     [](const GameDetails& d) { return d.round; }, true},
+    {"ARBITRES", [](GameDetails& d, std::string_view value) { d.referees = textOf(value); },
+     [](const GameDetails& d) { return d.referees; }, true},
+    {"ASSISTANCE", [](GameDetails& d, std::string_view value) { d.attendance = textOf(value); },
+     [](const GameDetails& d) { return d.attendance; }, true},
+    {"ENTRAINEUR0", [](GameDetails& d, std::string_view value) { d.coach[0] = textOf(value); },
+     [](const GameDetails& d) { return d.coach[0]; }, true},
+    {"ENTRAINEUR1", [](GameDetails& d, std::string_view value) { d.coach[1] = textOf(value); },
+     [](const GameDetails& d) { return d.coach[1]; }, true},
+    {"CAPITAINE0", [](GameDetails& d, std::string_view value) { d.captain[0] = textOf(value); },
+     [](const GameDetails& d) { return d.captain[0]; }, true},
+    {"CAPITAINE1", [](GameDetails& d, std::string_view value) { d.captain[1] = textOf(value); },
+     [](const GameDetails& d) { return d.captain[1]; }, true},
+    {"SCORECIBLE",
+     [](GameDetails& d, std::string_view value) { d.targetScore = std::max(numberOf(value), 0); },
+     [](const GameDetails& d) { return positive(d.targetScore); }, true},
     {"EVENUM", [](GameDetails& d, std::string_view value) { d.nextEventNumber = numberOf(value); }, nullptr},
     {"LIGNE3",
      [](GameDetails& d, std::string_view value) {
@@ -119,7 +153,7 @@ constexpr std::array kDetails = std::to_array<Detail>({
      [](GameDetails& d, std::string_view value) {
        d.overtimeMinutes = std::clamp(numberOf(value), 0, kMostMinutes);
      },
-     nullptr},
+     [](const GameDetails& d) { return positive(d.overtimeMinutes); }, true},
     {"KEEPBONUS", [](GameDetails& d, std::string_view value) { d.keepsBonus = Module1::flag(value); },
      nullptr},
     {"TERMINE", [](GameDetails& d, std::string_view value) { d.isFinished = value == "1"; }, nullptr},
@@ -153,6 +187,10 @@ void setDetail(GameDetails& details, std::string_view key, std::string_view valu
   const auto detail = std::ranges::find(kDetails, key, &Detail::key);
   if (detail != kDetails.end())
     detail->read(details, codepage::fromUtf8(value));
+}
+
+std::string_view levelKey(RecordingLevel level) {
+  return kLevels[static_cast<std::size_t>(level)];
 }
 
 void writeNewDetails(const GameDetails& details, ProfileBatch& batch) {

@@ -24,6 +24,10 @@ struct TypedRules {
   std::string technicalFoulLimit;
 };
 
+// How much is asked for while a game is recorded: what a box score needs, what a league's sheet has, or
+// everything that the file can hold.
+enum class RecordingLevel : std::uint8_t { Basic, League, Full };
+
 // Section DETAILS. Numbers are read leniently; texts are as stored (trailing blanks of a category are lost on
 // disk).
 struct GameDetails {
@@ -49,6 +53,15 @@ struct GameDetails {
   std::string notes;
   // IDPARTIE: 32 hexadecimal digits that no other game has; empty in a game of an older program.
   std::string id;
+  std::string ruleSet; // REGLES: the key of one of kRuleSets; else the game is checked by none
+  std::optional<RecordingLevel> level; // NIVEAU; none in a game for which nobody chose
+  std::string competition;
+  std::string round;
+  std::string referees;
+  std::string attendance; // as it was typed
+  std::string coach[2];
+  std::string captain[2];  // the jersey
+  int targetScore = 0;     // SCORECIBLE: who reaches it has won; 0: the clock decides
   int overtimeMinutes = 0; // DUREEPROL: of the last overtime; 0: there was none, or nobody knows
   int nextEventNumber = 0; // EVENUM; 0 when absent
   // LIGNE3 and LIGNE3COIN, in centimetres: how far from the basket the three-point line was drawn, and from
@@ -71,6 +84,8 @@ struct GameDetails {
 void readDetails(const ProfileText& text, GameDetails& details);
 // Sets what one key holds, as reading it would; nothing for a key that is none of the section's.
 void setDetail(GameDetails& details, std::string_view key, std::string_view value);
+// The value of NIVEAU.
+[[nodiscard]] std::string_view levelKey(RecordingLevel level);
 // The keys that a new game gets, in their order. EVENUM, KEEPBONUS and TERMINE come while it is recorded.
 void writeNewDetails(const GameDetails& details, ProfileBatch& batch);
 

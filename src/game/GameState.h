@@ -36,6 +36,7 @@ struct LineEntry {
 struct PeriodEntry {
   std::int16_t fouls = 0;
   std::int16_t points = 0;
+  std::int16_t benchTechnicals = 0; // of coach and bench; not among the fouls
 };
 
 // What counts for a player beside the columns of a box score.

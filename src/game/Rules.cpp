@@ -1,5 +1,7 @@
 #include "game/Rules.h"
 
+#include "game/RuleSets.h"
+
 namespace hooptab {
 
 int firstPeriodOfFouls(const GameDetails& details, int period) {
@@ -8,10 +10,12 @@ int firstPeriodOfFouls(const GameDetails& details, int period) {
 
 int teamFouls(const GameDetails& details, const GameState& state, int team, int period) {
   const auto& periods = state.periods[static_cast<std::size_t>(team)];
+  const RuleSet* const set = ruleSetOf(details.ruleSet);
+  const bool countsBench = set != nullptr && set->countsBench;
   int fouls = 0;
   for (std::size_t row = GameState::periodRow(firstPeriodOfFouls(details, period));
        row <= GameState::periodRow(period); ++row)
-    fouls += periods[row].fouls;
+    fouls += periods[row].fouls + (countsBench ? periods[row].benchTechnicals : 0);
   return fouls;
 }
 

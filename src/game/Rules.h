@@ -14,6 +14,7 @@ inline constexpr int kMostPlayers = Roster::kLargestEntry; // of a team in a gam
 // The period from which on the team fouls count together that are in force in `period`: in overtime of a game
 // that keeps them, the last regular one.
 [[nodiscard]] int firstPeriodOfFouls(const GameDetails& details, int period);
+// Those of players, and of coach and bench where the rules of the game count them.
 [[nodiscard]] int teamFouls(const GameDetails& details, const GameState& state, int team, int period);
 // Whether so many have reached the limit, so that the other team shoots bonus free throws.
 [[nodiscard]] bool isInBonus(const GameDetails& details, int fouls);

@@ -227,16 +227,25 @@ void Tally::countOfTeam(const GameEvent& event) {
     return;
   TeamRow& row = m_state.teamRows[static_cast<std::size_t>(event.player.team)];
   std::int16_t* count = nullptr;
+  std::int16_t* inPeriod = nullptr;
   switch (event.code) {
   case EventCode::XTO: count = &row.timeOuts; break;
   case EventCode::XOR: count = &row.offensiveRebounds; break;
   case EventCode::XDR: count = &row.defensiveRebounds; break;
   case EventCode::XTV: count = &row.turnovers; break;
-  case EventCode::XCF: count = &row.benchTechnicals; break;
+  case EventCode::XCF:
+    count = &row.benchTechnicals;
+    inPeriod =
+        &m_state.periods[static_cast<std::size_t>(event.player.team)][GameState::periodRow(event.period)]
+             .benchTechnicals;
+    break;
   default: return;
   }
-  if (!isFull(*count, 1))
-    add(*count, 1);
+  if (isFull(*count, 1))
+    return;
+  add(*count, 1);
+  if (inPeriod != nullptr)
+    add(*inPeriod, 1);
 }
 
 void Tally::leaveOut(std::size_t team, std::string_view row, std::string_view count) {

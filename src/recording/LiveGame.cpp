@@ -328,9 +328,15 @@ void LiveGame::reopen() {
   showAsLeft();
 }
 
+bool LiveGame::setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues) {
+  if (phase() == Phase::ReadOnly)
+    return false;
+  m_log.setDetails(keysAndValues);
+  return true;
+}
+
 void LiveGame::setTeamColour(int team, std::uint32_t colour) {
-  if (phase() != Phase::ReadOnly)
-    m_log.setDetails({{"EQUIPE" + std::to_string(team) + "COL", std::to_string(colour)}});
+  setDetails({{"EQUIPE" + std::to_string(team) + "COL", std::to_string(colour)}});
 }
 
 // --- Players

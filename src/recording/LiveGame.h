@@ -90,6 +90,10 @@ class LiveGame {
   void saveNotes(const std::string& notes);
   void reopen();
   void setTeamColour(int team, std::uint32_t colour); // as files keep colours
+  // Keys of the game's details with their values, which an empty one clears; what belongs to nobody's action.
+  bool setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
+  // How much is asked for; it can be changed at any time, and what was recorded stays.
+  RecordingLevel level() const { return game().details.level.value_or(RecordingLevel::Basic); }
 
   // --- Players
   static int teamOf(int slot) { return CourtSlots::teamOf(slot); }
