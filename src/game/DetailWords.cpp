@@ -11,11 +11,7 @@ namespace hooptab {
 
 namespace {
 
-struct KindWord {
-  std::string_view value;
-  Text text; // None: the usual one, of which nothing is said
-};
-constexpr KindWord kFouls[] = {{"P", Text::None},
+constexpr KindWord kFouls[] = {{"P", Text::KindPersonal, false},
                                {"S", Text::FoulShooting},
                                {"O", Text::FoulOffensive},
                                {"U", Text::FoulUnsportsmanlike},
@@ -29,24 +25,23 @@ constexpr KindWord kShots[] = {{"JUMP", Text::JumpShot},   {"HOOK", Text::HookSh
                                {"FLOATER", Text::Floater}, {"ALLEYOOP", Text::AlleyOop},
                                {"TIPIN", Text::TipIn},     {"LAYUP", Text::Layup},
                                {"DUNK", Text::Dunk},       {"FADEAWAY", Text::Fadeaway}};
-// Most of those of a team's events are in their names.
-constexpr KindWord kTeams[] = {{"FULL", Text::None},
-                               {"SHORT", Text::ShortTimeOut},
-                               {"MEDIA", Text::None},
-                               {"C", Text::None},
-                               {"B", Text::None}};
-
-std::span<const KindWord> kindsOf(const GameEvent& event) {
-  if (event.code == EventCode::SPF)
-    return kFouls;
-  if (event.code == EventCode::STO || event.code == EventCode::XTV)
-    return kTurnovers;
-  if (event.isShot())
-    return kShots;
-  return event.isOfTeam() ? std::span<const KindWord>(kTeams) : std::span<const KindWord>();
-}
+constexpr KindWord kTimeOuts[] = {
+    {"FULL", Text::FullTimeOut, false}, {"SHORT", Text::ShortTimeOut}, {"MEDIA", Text::MediaTimeOut, false}};
+constexpr KindWord kTechnicals[] = {{"C", Text::OfCoach, false}, {"B", Text::OfBench, false}};
 
 } // namespace
+
+std::span<const KindWord> detailKinds(EventCode code) {
+  switch (code) {
+  case EventCode::SPF: return kFouls;
+  case EventCode::STO:
+  case EventCode::XTV: return kTurnovers;
+  case EventCode::XTO: return kTimeOuts;
+  case EventCode::XCF: return kTechnicals;
+  case EventCode::GFT: return {};
+  default: return code >= EventCode::GFG ? std::span<const KindWord>(kShots) : std::span<const KindWord>();
+  }
+}
 
 std::string detailWords(const GameEvent& event, const EventWords& words, const Texts& texts) {
   std::string all;
@@ -61,9 +56,9 @@ std::string detailWords(const GameEvent& event, const EventWords& words, const T
   if (event.detailsAt == 0)
     return all;
   if (const auto kind = event.detail(detail_key::kKind)) {
-    const auto kinds = kindsOf(event);
+    const auto kinds = detailKinds(event.code);
     const auto known = std::ranges::find(kinds, *kind, &KindWord::value);
-    add(known == kinds.end() ? *kind : known->text == Text::None ? "" : texts.text(known->text));
+    add(known == kinds.end() ? *kind : known->isSaid ? texts.text(known->text) : "");
   }
   if (event.detail(detail_key::kFastBreak) == "F")
     add(texts.text(Text::OnFastBreak));

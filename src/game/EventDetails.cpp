@@ -73,7 +73,7 @@ struct SplitLine {
   }
 };
 
-bool isFoul(EventCode code) {
+bool isFoulOfPlayer(EventCode code) {
   return code == EventCode::SPF || code == EventCode::STF;
 }
 bool isFieldGoal(EventCode code) {
@@ -105,8 +105,8 @@ std::vector<PlayerReference> playersNamedBy(const GameEvent& event) {
 }
 
 std::string withDetailsOf(const GameEvent& old, std::string text, EventCode kind, int team) {
-  const bool isOfOne =
-      kind == old.code || (isFieldGoal(kind) && isFieldGoal(old.code)) || (isFoul(kind) && isFoul(old.code));
+  const bool isOfOne = kind == old.code || (isFieldGoal(kind) && isFieldGoal(old.code)) ||
+                       (isFoulOfPlayer(kind) && isFoulOfPlayer(old.code));
   if (!isOfOne || old.detailsAt == 0)
     return text;
   std::vector<std::string_view> fields = SplitLine(old.line).behind;
@@ -116,7 +116,9 @@ std::string withDetailsOf(const GameEvent& old, std::string text, EventCode kind
   for (const std::string_view field : fields) {
     const std::string_view key = isDetail(field) ? keyOf(field) : std::string_view();
     const bool isOfOpponent = key == detail_key::kDrawnBy || key == detail_key::kShooter;
-    const bool isOfKind = key == detail_key::kKind && isFoul(kind) && kind != old.code;
+    const bool isOtherFoul = isFoulOfPlayer(kind) && kind != old.code;
+    const bool isOfNobody = kind == EventCode::XTO && (team < 0 || old.player.team < 0);
+    const bool isOfKind = key == detail_key::kKind && (isOtherFoul || isOfNobody);
     const bool isSettled = key == detail_key::kDoubtful || key == detail_key::kX || key == detail_key::kY;
     if (!field.empty() && !isSettled && !isOfKind && (!isOfOpponent || team == old.player.team))
       split.behind.push_back(field);

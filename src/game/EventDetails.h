@@ -33,8 +33,8 @@ inline constexpr std::string_view kDoubtful = "?";      // of any event: "1"
 
 // The text of an event of that kind and team that takes the place of another, with the details of that one
 // that still hold: those of a field goal while it stays one, those of a foul likewise, but for its kind where
-// it becomes a technical one; who drew it or whose shot it was, while the team stays. A doubt is settled by
-// the change, and the place is the new text's own.
+// it becomes a technical one, and that of a time-out which is or was nobody's; who drew it or whose shot it
+// was, while the team stays. A doubt is settled by the change, and the place is the new text's own.
 [[nodiscard]] std::string withDetailsOf(const GameEvent& old, std::string text, EventCode kind, int team);
 
 } // namespace hooptab

@@ -150,6 +150,10 @@ inline constexpr std::array kTeamKinds = {
 [[nodiscard]] constexpr std::span<const EventKind> eventKinds() {
   return kEventKinds;
 }
+// Of a player, and of coach and bench: what free throws follow.
+[[nodiscard]] constexpr bool isFoul(EventCode code) {
+  return code == EventCode::SPF || code == EventCode::STF || code == EventCode::XCF;
+}
 // The kind of a code, a player's or a team's; null for Unknown, DEPART and ARRET.
 [[nodiscard]] constexpr const EventKind* kindOf(EventCode code) {
   for (const EventKind& kind : kEventKinds) {

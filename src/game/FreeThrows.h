@@ -1,5 +1,5 @@
-// Which foul has awarded which free throw: those at one clock, in the order of the fouls. Follows a game
-// event by event.
+// Which foul has awarded which free throw: those at one clock, fouls of which the award is known first, else
+// in the order of the fouls. A throw may stand before its foul. Follows a game event by event.
 #pragma once
 
 #include "game/GameEvent.h"
@@ -10,14 +10,22 @@
 
 namespace hooptab {
 
+// Seconds by which a clock is stopped behind the foul that stops it.
+inline constexpr int kLongestReaction = 5;
+// Seconds by which it can be elsewhere when throws of which the number is known are taken.
+inline constexpr int kLongestOwed = 15;
+// What nobody does while free throws are shot.
+[[nodiscard]] bool isBallInPlay(const GameEvent& event);
+
 class FreeThrows {
  public:
   struct Award {
     std::size_t foul = 0;            // place in the list
     int team = 0;                    // who shoots
     std::optional<int> awarded = {}; // none: nobody said how many
-    int taken = 0;
-    PlayerReference shooter = {}; // who drew the foul; team -1: nobody knows
+    int taken = 0;                   // of them
+    int beyond = 0;                  // after all that were awarded
+    PlayerReference shooter = {};    // who drew the foul; team -1: nobody knows
     [[nodiscard]] bool isOpen() const { return !awarded || taken < *awarded; }
   };
   // Of a throw.
@@ -29,20 +37,41 @@ class FreeThrows {
     std::optional<int> awarded = {}; // how many there are
     [[nodiscard]] bool isLast() const { return !awarded || number >= *awarded; }
   };
+  // One that counts for no foul, as far as the game is known.
+  struct LooseThrow {
+    std::size_t place = 0;
+    int team = 0;
+    Link link;
+  };
+  struct Stand {
+    std::vector<Award> awards;
+    std::vector<LooseThrow> loose;
+  };
 
   // Without time, an award lasts until the ball is in play again.
   explicit FreeThrows(bool hasTime) : m_hasTime(hasTime) {}
 
   // The next event of the list; of a free throw that counts its foul.
   std::optional<Link> take(const GameEvent& event, std::size_t place);
-  // The next throw that this team would take at that clock; null when there is none.
-  [[nodiscard]] const Award* next(int team, int period, int clockSeconds) const;
+  // From which a throw of that player would be at that clock; null when there is none.
+  [[nodiscard]] const Award* next(const PlayerReference& thrower, int period, int clockSeconds) const;
+  // At the clock of the last event.
+  [[nodiscard]] const Stand& stand() const { return m_now; }
+  // What the last event has ended, by another clock or, without time, by the ball's being in play.
+  [[nodiscard]] const Stand& ended() const { return m_ended; }
 
  private:
+  void move(const GameEvent& event);
+  [[nodiscard]] bool isOwed() const;
+  void award(const GameEvent& foul, std::size_t place);
+  [[nodiscard]] Link link(const GameEvent& shot, std::size_t place);
+
   bool m_hasTime;
   int m_period = 0;
   int m_clock = 0;
-  std::vector<Award> m_awards; // at that clock
+  bool m_isDead = false; // a foul has been called, and the ball was not in play since
+  Stand m_now;
+  Stand m_ended;
 };
 
 } // namespace hooptab

@@ -37,11 +37,6 @@ GameDetails::ClosedInPlay closedInPlayOf(std::string_view value) {
 
 constexpr std::string_view kLevels[] = {"BASIC", "LEAGUE", "FULL"};
 
-std::optional<RecordingLevel> levelOf(std::string_view value) {
-  const auto known = std::ranges::find(kLevels, value);
-  return known == std::end(kLevels) ? std::nullopt
-                                    : std::optional(static_cast<RecordingLevel>(known - kLevels));
-}
 std::string positive(int number) {
   return number > 0 ? std::to_string(number) : std::string();
 }
@@ -191,6 +186,12 @@ void setDetail(GameDetails& details, std::string_view key, std::string_view valu
 
 std::string_view levelKey(RecordingLevel level) {
   return kLevels[static_cast<std::size_t>(level)];
+}
+
+std::optional<RecordingLevel> levelOf(std::string_view value) {
+  const auto known = std::ranges::find(kLevels, value);
+  return known == std::end(kLevels) ? std::nullopt
+                                    : std::optional(static_cast<RecordingLevel>(known - kLevels));
 }
 
 void writeNewDetails(const GameDetails& details, ProfileBatch& batch) {

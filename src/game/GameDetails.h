@@ -55,6 +55,7 @@ struct GameDetails {
   std::string id;
   std::string ruleSet; // REGLES: the key of one of kRuleSets; else the game is checked by none
   std::optional<RecordingLevel> level; // NIVEAU; none in a game for which nobody chose
+  RecordingLevel recordingLevel() const { return level.value_or(RecordingLevel::Basic); }
   std::string competition;
   std::string round;
   std::string referees;
@@ -84,8 +85,9 @@ struct GameDetails {
 void readDetails(const ProfileText& text, GameDetails& details);
 // Sets what one key holds, as reading it would; nothing for a key that is none of the section's.
 void setDetail(GameDetails& details, std::string_view key, std::string_view value);
-// The value of NIVEAU.
+// The value of NIVEAU, and what it says: nothing for any other text.
 [[nodiscard]] std::string_view levelKey(RecordingLevel level);
+[[nodiscard]] std::optional<RecordingLevel> levelOf(std::string_view value);
 // The keys that a new game gets, in their order. EVENUM, KEEPBONUS and TERMINE come while it is recorded.
 void writeNewDetails(const GameDetails& details, ProfileBatch& batch);
 

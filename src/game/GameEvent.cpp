@@ -246,6 +246,11 @@ std::string eventText(EventCode code, bool made, int team, std::string_view jers
   return text + (kind->hasPlace ? "," + x + "," + y : ",X=" + x + ",Y=" + y);
 }
 
+std::string teamEventText(EventCode code, int team) {
+  const std::string text = "," + std::string(kindOf(code)->text) + ",";
+  return team < 0 ? text + ",K=MEDIA" : text + std::to_string(team);
+}
+
 std::string startText() {
   return ",DEPART";
 }

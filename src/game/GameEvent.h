@@ -65,6 +65,8 @@ struct GameEvent {
 // kind that has no place of its own. Places are truncated to whole units.
 [[nodiscard]] std::string eventText(EventCode code, bool made, int team, std::string_view jersey,
                                     std::optional<std::pair<double, double>> place = std::nullopt);
+// The same of what a team does, but for a jump ball: ",XOR,1"; -1 is a time-out of nobody's.
+[[nodiscard]] std::string teamEventText(EventCode code, int team);
 [[nodiscard]] std::string startText();
 [[nodiscard]] std::string stopText(std::string_view list0, std::string_view list1);
 

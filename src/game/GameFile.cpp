@@ -1,5 +1,6 @@
 #include "game/GameFile.h"
 
+#include "game/PlayerIds.h"
 #include "game/WallClock.h"
 #include "storage/Module1.h"
 #include "storage/cinifile.h"
@@ -297,11 +298,12 @@ GameFileProblem GameFile::create(const GameDetails& details, const std::vector<R
   m_read = m_store.read(m_path);
   for (const PeriodSection& period : periodsOf(text()))
     deleteWholly(period.section.name, text(), batch);
-  // With those that a later version may have written for the game that stood here.
+  // With all that was written for the game that stood here.
   for (const std::string_view section :
-       {kRosterSections[0], kRosterSections[1], kDetailsSection, kAcceptedSection, kWallClockSection,
-        std::string_view("JOUEURS0"), std::string_view("JOUEURS1")})
+       {kRosterSections[0], kRosterSections[1], kDetailsSection, kAcceptedSection, kWallClockSection})
     deleteWholly(section, text(), batch);
+  for (const int team : {0, 1})
+    deleteWholly(playerIdSection(team), text(), batch);
 
   GameDetails written = details;
   written.version = kVersion;

@@ -30,6 +30,7 @@ struct RuleSet {
   int technicalFouls;  // the same
   int coachTechnicals; // of his own, with which a coach is out
   int benchTechnicals; // the same, of coach and bench together
+  bool keepsFouls;     // an overtime goes on with the team fouls of the last period
   bool countsBench;    // technical fouls of coach and bench count as team fouls for the bonus
   TimeOutRules timeOuts;
 };
@@ -42,10 +43,22 @@ struct RuleSet {
 // the rules of FIBA, with periods of eight and overtimes of four minutes as federations set them for
 // under 13.
 inline constexpr std::array kRuleSets = std::to_array<RuleSet>({
-    {"FIBA", Text::RulesFiba, 4, 10, 5, 4, 5, 2, 2, 3, false, {{2, 3}, 0, 0, 120, 2, 1, false}},
-    {"NBA", Text::RulesNba, 4, 12, 5, 4, 6, 2, 2, 0, false, {{7, 7}, 7, 4, 180, 2, 2, false}},
-    {"NCAA", Text::RulesNcaa, 2, 20, 5, 6, 5, 2, 2, 3, true, {{4, 3}, 4, 0, 0, 0, 1, true}},
-    {"FIBAJEUNES", Text::RulesFibaYouth, 4, 8, 4, 4, 5, 2, 2, 3, false, {{2, 3}, 0, 0, 120, 2, 1, false}},
+    {"FIBA", Text::RulesFiba, 4, 10, 5, 4, 5, 2, 2, 3, true, false, {{2, 3}, 0, 0, 120, 2, 1, false}},
+    {"NBA", Text::RulesNba, 4, 12, 5, 4, 6, 2, 2, 0, false, false, {{7, 7}, 7, 4, 180, 2, 2, false}},
+    {"NCAA", Text::RulesNcaa, 2, 20, 5, 6, 5, 2, 2, 3, true, true, {{4, 3}, 4, 0, 0, 0, 1, true}},
+    {"FIBAJEUNES",
+     Text::RulesFibaYouth,
+     4,
+     8,
+     4,
+     4,
+     5,
+     2,
+     2,
+     3,
+     true,
+     false,
+     {{2, 3}, 0, 0, 120, 2, 1, false}},
 });
 
 // Null for a key that is none of them, as for none.

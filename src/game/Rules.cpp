@@ -1,5 +1,6 @@
 #include "game/Rules.h"
 
+#include "game/EventDetails.h"
 #include "game/RuleSets.h"
 
 namespace hooptab {
@@ -27,6 +28,27 @@ bool isFouledOut(const GameDetails& details, const PlayerFouls& fouls) {
   const auto reached = [](int count, int limit) { return limit > 0 && count >= limit; };
   return reached(fouls.personal, details.personalFoulLimit) ||
          reached(fouls.technical, details.technicalFoulLimit);
+}
+
+void BenchTechnicals::take(const GameEvent& event) {
+  ++all;
+  ofCoach += event.detail(detail_key::kKind) == "C" ? 1 : 0;
+}
+
+BenchTechnicals benchTechnicalsOf(const EventList& events, int team) {
+  BenchTechnicals technicals;
+  for (const GameEvent& event : events) {
+    if (event.code == EventCode::XCF && !event.isDeleted && event.player.team == team)
+      technicals.take(event);
+  }
+  return technicals;
+}
+
+bool isCoachOut(const GameDetails& details, const BenchTechnicals& technicals) {
+  const RuleSet* const set = ruleSetOf(details.ruleSet);
+  const auto isReached = [](int count, int limit) { return limit > 0 && count >= limit; };
+  return set != nullptr && (isReached(technicals.ofCoach, set->coachTechnicals) ||
+                            isReached(technicals.all, set->benchTechnicals));
 }
 
 bool isTeamItself(const Roster& roster) {

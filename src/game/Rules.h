@@ -2,6 +2,7 @@
 // bonus, who is out.
 #pragma once
 
+#include "game/EventList.h"
 #include "game/GameDetails.h"
 #include "game/GameState.h"
 #include "game/Roster.h"
@@ -29,6 +30,17 @@ struct PlayerFouls {
 };
 // Either limit is reached; 0 is none.
 [[nodiscard]] bool isFouledOut(const GameDetails& details, const PlayerFouls& fouls);
+
+// Technical fouls of a coach, and of him and his bench together.
+struct BenchTechnicals {
+  int ofCoach = 0;
+  int all = 0;
+
+  void take(const GameEvent& event); // an XCF
+};
+[[nodiscard]] BenchTechnicals benchTechnicalsOf(const EventList& events, int team);
+// With two of his own, or three of all, as the rules may have it; never in a game that names none.
+[[nodiscard]] bool isCoachOut(const GameDetails& details, const BenchTechnicals& technicals);
 
 // A side that was entered without players is its own one player.
 [[nodiscard]] bool isTeamItself(const Roster& roster);

@@ -25,46 +25,57 @@ class Least {
 
 } // namespace
 
-std::optional<TimeOuts> timeOutsOf(const GameDetails& details, const EventList& events, int team, int period,
-                                   int clockSeconds, std::optional<std::size_t> before) {
-  const RuleSet* const set = ruleSetOf(details.ruleSet);
-  if (set == nullptr)
+TimeOutCount::TimeOutCount(const GameDetails& details)
+    : m_set(ruleSetOf(details.ruleSet)),
+      m_periods(details.periods > 0 || m_set == nullptr ? details.periods : m_set->periods),
+      m_hasTime(details.minutesPerPeriod > 0) {}
+
+void TimeOutCount::take(const GameEvent& event) {
+  if (m_set == nullptr || event.code != EventCode::XTO || event.isDeleted || event.player.team < 0)
+    return;
+  OfTeam& team = m_taken[static_cast<std::size_t>(event.player.team)];
+  ++(event.period <= m_periods ? team.inHalf[halfOf(event.period)] : team.inOvertimes);
+  OfPeriod& period = team.inPeriod[event.period];
+  ++period.all;
+  period.inLastSeconds += event.clockSeconds <= m_set->timeOuts.lastSeconds ? 1 : 0;
+}
+
+std::optional<TimeOuts> TimeOutCount::of(int team, int period, int clockSeconds) const {
+  if (m_set == nullptr)
     return std::nullopt;
-  const TimeOutRules& rules = set->timeOuts;
-  const int periods = details.periods > 0 ? details.periods : set->periods;
-  const auto halfOf = [periods](int ofPeriod) { return 2 * ofPeriod <= periods ? 0 : 1; };
-  int inGame = 0;
-  int inHalf = 0;
-  int inPeriod = 0;
-  int inLastSeconds = 0;
-  const std::size_t end = std::min(before.value_or(events.size()), events.size());
-  for (std::size_t place = 0; place < end; ++place) {
-    const GameEvent& event = events[place];
-    if (event.code != EventCode::XTO || event.isDeleted || event.player.team != team)
-      continue;
-    const bool isRegular = event.period <= periods;
-    inGame += isRegular ? 1 : 0;
-    inHalf += isRegular && halfOf(event.period) == halfOf(period) ? 1 : 0;
-    inPeriod += event.period == period ? 1 : 0;
-    inLastSeconds += event.period == period && event.clockSeconds <= rules.lastSeconds ? 1 : 0;
-  }
+  const TimeOutRules& rules = m_set->timeOuts;
+  const OfTeam& taken = m_taken[static_cast<std::size_t>(team)];
+  const auto found = taken.inPeriod.find(period);
+  const OfPeriod inPeriod = found == taken.inPeriod.end() ? OfPeriod() : found->second;
+  const int inGame = taken.inHalf[0] + taken.inHalf[1];
   Least least;
-  if (period > periods) {
-    const int kept = rules.isKept ? std::max(rules.inGame - inGame, 0) : 0;
-    // What was kept, and was taken in an earlier overtime, is not known apart from that one's own.
-    least.limit(inPeriod, rules.inOvertime + kept);
+  if (period > m_periods) {
+    if (rules.isKept)
+      least.limit(inGame + taken.inOvertimes, rules.inGame + rules.inOvertime * (period - m_periods));
+    else
+      least.limit(inPeriod.all, rules.inOvertime);
     return least.result();
   }
-  least.limit(inHalf, rules.inHalf[static_cast<std::size_t>(halfOf(period))]);
+  least.limit(taken.inHalf[halfOf(period)], rules.inHalf[halfOf(period)]);
   if (rules.inGame > 0)
     least.limit(inGame, rules.inGame);
-  if (rules.inLastPeriod > 0 && period == periods)
-    least.limit(inPeriod, rules.inLastPeriod);
+  if (period < m_periods)
+    return least.result();
+  if (rules.inLastPeriod > 0)
+    least.limit(inPeriod.all, rules.inLastPeriod);
   // The clock of a game without time tells nothing.
-  if (rules.inLastSeconds > 0 && period == periods && details.minutesPerPeriod > 0 &&
-      clockSeconds <= rules.lastSeconds)
-    least.limit(inLastSeconds, rules.inLastSeconds);
+  if (rules.inLastSeconds > 0 && m_hasTime && clockSeconds <= rules.lastSeconds)
+    least.limit(inPeriod.inLastSeconds, rules.inLastSeconds);
   return least.result();
+}
+
+std::optional<TimeOuts> timeOutsOf(const GameDetails& details, const EventList& events, int team, int period,
+                                   int clockSeconds, std::optional<std::size_t> before) {
+  TimeOutCount count(details);
+  const std::size_t end = std::min(before.value_or(events.size()), events.size());
+  for (std::size_t place = 0; place < end; ++place)
+    count.take(events[place]);
+  return count.of(team, period, clockSeconds);
 }
 
 } // namespace hooptab

@@ -4,14 +4,44 @@
 #include "game/EventList.h"
 #include "game/GameDetails.h"
 
+#include <array>
+#include <map>
 #include <optional>
 
 namespace hooptab {
+
+struct RuleSet;
 
 struct TimeOuts {
   int taken = 0; // of those that count together with the ones that are left
   int left = 0;  // never below 0
   friend bool operator==(const TimeOuts&, const TimeOuts&) = default;
+};
+
+// Follows a game event by event.
+class TimeOutCount {
+ public:
+  explicit TimeOutCount(const GameDetails& details);
+  void take(const GameEvent& event);
+  // In `period` with so much of it left. Nothing in a game that names no rules.
+  [[nodiscard]] std::optional<TimeOuts> of(int team, int period, int clockSeconds) const;
+
+ private:
+  struct OfPeriod {
+    int all = 0;
+    int inLastSeconds = 0; // those of which the rules speak
+  };
+  struct OfTeam {
+    std::array<int, 2> inHalf = {};
+    int inOvertimes = 0;
+    std::map<int, OfPeriod> inPeriod = {};
+  };
+  [[nodiscard]] std::size_t halfOf(int period) const { return 2 * period <= m_periods ? 0 : 1; }
+
+  const RuleSet* m_set;
+  int m_periods; // regular ones
+  bool m_hasTime;
+  std::array<OfTeam, 2> m_taken = {};
 };
 
 // In `period` with so much of it left, before the event at `before` (all events where none is given). Nothing

@@ -1,7 +1,9 @@
 // What is known of an event beyond the grammar of older readers, and events of teams that they do not count.
 #include "game/DetailWords.h"
 #include "game/EventDetails.h"
+#include "game/PlayerIds.h"
 #include "game/WallClock.h"
+#include "storage/BatchText.h"
 #include "support/TextGame.h"
 
 #include <gtest/gtest.h>
@@ -148,6 +150,21 @@ TEST(WallClock, CountsForTheGameThatItIsOf) {
   EXPECT_TRUE(readWallClock(text, "cd").empty()) << "left over from another game";
   EXPECT_TRUE(readWallClock(ProfileText("[HORLOGE]\r\n1=5\r\n"), "").empty());
   EXPECT_NE(newGameId(), newGameId());
+}
+
+TEST(PlayerIds, AreKeptBesideWhatALaterVersionWrote) {
+  ProfileText text("[JOUEURS1]\r\n07=X=1,LIC=QC-1,new,ID=\xC9\x37\r\n8=\r\n07=LIC=2\r\n");
+  const PlayerIds ids = readPlayerIds(text, 1);
+  EXPECT_EQ(ids, (PlayerIds{{"07", {"QC-1", "É7"}}, {"8", {}}}));
+  EXPECT_TRUE(readPlayerIds(text, 0).empty());
+  ProfileBatch batch;
+  EXPECT_FALSE(planPlayerId(text, 1, "8", {"a,b", ""}, batch));
+  EXPECT_FALSE(planPlayerId(text, 1, "07", {std::string(250, '1'), ""}, batch)) << "with what is there";
+  EXPECT_TRUE(batch.isEmpty());
+  EXPECT_TRUE(planPlayerId(text, 1, "07", {"", "Ü9"}, batch) && planPlayerId(text, 0, "4", {"L", ""}, batch));
+  text = withBatch(text, batch);
+  EXPECT_EQ(text.value("JOUEURS1", "07"), "ID=\xDC\x39,X=1,new");
+  EXPECT_EQ(readPlayerIds(text, 0), (PlayerIds{{"4", {"L", ""}}}));
 }
 
 } // namespace
