@@ -2,6 +2,7 @@
 
 #include "checks/LineUpCheck.h"
 #include "checks/NumberCheck.h"
+#include "checks/RuleCheck.h"
 #include "court/CourtGeometry.h"
 #include "game/EventDetails.h"
 #include "game/PlayerLookup.h"
@@ -48,7 +49,7 @@ Finding whyNotUnderstood(const GameEvent& event) {
 class EventCheck {
  public:
   EventCheck(const Game& game, std::vector<Finding>& findings)
-      : m_game(game), m_findings(findings), m_lineUps(game, findings),
+      : m_game(game), m_findings(findings), m_lineUps(game, findings), m_rules(game, findings),
         m_threePointRadius(court::units(game.details.threePointRadius / 100.0)),
         m_threePointFromAxis(
             std::min(court::units(game.details.threePointCorner / 100.0), m_threePointRadius)),
@@ -62,6 +63,8 @@ class EventCheck {
         enterSection(event.period);
       if (event.isDeleted)
         continue;
+      if (event.isUnderstood && !isOfTotals())
+        m_rules.take(event, m_place);
       if (!event.isUnderstood)
         name(whyNotUnderstood(event));
       else if (event.isOfTeam())
@@ -112,6 +115,7 @@ class EventCheck {
   const Game& m_game;
   std::vector<Finding>& m_findings;
   LineUpCheck m_lineUps;
+  RuleCheck m_rules;
   double m_threePointRadius, m_threePointFromAxis, m_threePointCornerX; // units
 
   std::size_t m_place = 0;
@@ -225,6 +229,7 @@ void EventCheck::finish() {
   if (m_period > 0)
     endPeriod(true);
   m_lineUps.finish();
+  m_rules.finish();
   const GameDetails& details = m_game.details;
   if (details.isFinished && m_section < details.periods)
     m_findings.push_back({.kind = FindingKind::TooFewPeriods,

@@ -6,7 +6,8 @@
 namespace hooptab {
 
 bool Finding::isWrong() const {
-  return kind == FindingKind::Twice || kind >= FindingKind::UnknownClock;
+  return kind == FindingKind::Twice ||
+         (kind >= FindingKind::UnknownClock && kind <= FindingKind::CountOutOfRange);
 }
 
 FindingSummary summaryOf(const std::vector<Finding>& findings, std::size_t shownOfAKind) {

@@ -40,6 +40,12 @@ enum class FindingKind {
   Burst = int(Text::FindsBurst),               // subject: how many at one second
   NearlyOurs = int(Text::FindsNearlyOurs),     // subject: the section; found: ours
   SectionTwice = int(Text::FindsSectionTwice), // subject: the section
+  // Doubtful by the sheet or the rules of the game:
+  ThrowWithoutFoul = int(Text::FindsThrowWithoutFoul),
+  ThrowBeyondAward = int(Text::FindsThrowBeyondAward), // found: which throw; wanted: how many were awarded
+  ThrowsMissing = int(Text::FindsThrowsMissing),       // found: how many were taken; wanted: awarded
+  TimeOutTooMany = int(Text::FindsTimeOutTooMany),     // found: how many were taken before
+  CoachOutBefore = int(Text::FindsCoachOutBefore),
   // Wrong:
   Twice = int(Text::FindsTwice),
   UnknownClock = int(Text::FindsUnknownClock),

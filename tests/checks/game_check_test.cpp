@@ -207,7 +207,8 @@ TEST(GameCheck, KnowsWhatBelongsToAShot) {
   EXPECT_EQ(
       namedAfterTipOff("4=09:50,GFG,0-4,30,100\n5=09:50,SA,0-5\n6=09:50,SA,0-10\n" // a second one
                        "7=09:30,GFTA,1-3\n8=09:30,SA,1-7\n"
-                       "9=09:20,GFT,1-3\n10=09:20,GFTA,1-3\n11=09:20,SA,1-7\n" // for the one that was made
+                       "9=09:20,GFT,1-3\n18=09:20,XTO,0\n19=09:20,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n"
+                       "10=09:20,GFTA,1-3\n11=09:20,SA,1-7\n20=09:20,DEPART\n" // for the one that was made
                        "12=09:10,GDK,1-3\n13=09:10,SA,1-3\n"                   // his own basket
                        "14=09:00,GDK,1-3\n15=09:00,SDR,0-4\n16=08:00,GFTA,1-3\n17=08:00,SOR,1-3\n"),
       (Named{"6: Assist by PAN 10 Cleo Carter without a basket just before",
@@ -241,6 +242,30 @@ TEST(GameCheck, NamesFoulsOfWhoIsOutAndWhatNobodyCanType) {
   }
   EXPECT_EQ(namedAfterTipOff(events), Named{"16: 15 of this kind at one second"});
   EXPECT_EQ(named(textOfGame(withoutTime, "DUREE=0\n")), Named{}) << "there all is at one second";
+}
+
+TEST(GameCheck, HoldsThrowsAgainstTheFoulsThatAwardedThemWhereTheSheetAsksForBoth) {
+  const std::string events =
+      "4=09:00,SPF,0-4,F=2\n5=09:00,GFT,1-3\n6=09:00,GFT,1-3\n7=09:00,GFTA,1-3\n8=08:00,SPF,0-4,F=3\n"
+      "9=08:00,GFT,1-7\n10=08:00,GFTA,1-7\n11=07:00,GFT,0-5\n12=06:30,GFT,1-8\n13=06:30,SPF,0-4,F=1\n"
+      "14=06:00,SPF,0-5,F=2\n15=06:00,GFT,1-3\n";
+  const Named named = {"7: OLY 3 Hana Hart takes free throw 3 of a foul that awarded 2",
+                       "8: OLY: of the free throws that this foul awarded (3), 2 taken",
+                       "11: Free throw by PAN 5 Bea Baker that no foul explains"};
+  EXPECT_EQ(namedAfterTipOff(events, "NIVEAU=LEAGUE\n"), named) << "the last one is still to come";
+  EXPECT_EQ(namedAfterTipOff(events), Named{});
+  const std::string over = namedAfterTipOff(events + "16" + kStop, "NIVEAU=FULL\n").back();
+  EXPECT_EQ(over, "14: OLY: of the free throws that this foul awarded (2), 1 taken");
+}
+
+TEST(GameCheck, KnowsWhatTheRulesOfTheGameLeave) {
+  const std::string events = "4=09:00,XTO,0\n5=08:00,XTO,0,K=FULL\n6=07:00,XTO,1\n7=06:00,XTO,,K=MEDIA\n"
+                             "8=05:00,XTO,0\n9=04:00,XCF,1,K=B\n10=04:00,XCF,1,K=C\n11=04:00,XCF,1,K=C\n"
+                             "12=03:00,XCF,1,K=C\n";
+  EXPECT_EQ(namedAfterTipOff(events, "REGLES=FIBA\n"),
+            (Named{"8: Time-out of PAN where the rules leave none; taken before: 2",
+                   "12: Technical foul of the coach of OLY, who is already out"}));
+  EXPECT_EQ(namedAfterTipOff(events), Named{});
 }
 
 TEST(GameCheck, SumsUpWhatComesOften) {
