@@ -76,6 +76,11 @@ KeySheet::KeySheet(const Texts& texts, QWidget* parent) : QFrame(parent), m_text
   grid->addWidget(m_letters, 3, 1);
   grid->addWidget(text(Text::FollowUps), 4, 0, 1, 2);
   grid->addWidget(text(Text::SeveralAtOnce), 5, 0, 1, 2);
+  auto* league = new PlainLabel(this); // its keys are in no table of letters
+  league->setObjectName(QStringLiteral("lblLEAGUE"));
+  league->setWordWrap(true);
+  m_league = league;
+  grid->addWidget(league, 6, 0, 1, 2);
   Theme::setType(*m_off, Type::Body, QFont::Bold);
   hide();
 }
@@ -87,6 +92,7 @@ void KeySheet::showSetup(const KeypadSetup& setup, bool keypadIsActive) {
   red.setColor(QPalette::WindowText, Theme::missed());
   m_off->setPalette(red);
   m_picture->showKeys(setup, m_texts);
+  m_league->setText(toQt(withPlaceholders(m_texts.text(Text::LeagueKeys), "Ctrl+← →", "Ctrl+↑")));
   const auto sentence = [this](Text which, const QString& part) {
     return toQt(m_texts.withPlaceholder(which, fromQt(part)));
   };

@@ -26,6 +26,7 @@ class KeySheet : public QFrame {
  private:
   const Texts& m_texts;
   KeypadPicture* m_picture = nullptr;
+  QLabel* m_league = nullptr;
   QLabel* m_letters = nullptr;
   QLabel* m_off = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "keypad/KeypadInput.h"
 
+#include "game/EventDetails.h"
 #include "keypad/KeyCodes.h"
 #include "storage/Placeholders.h"
 
@@ -28,6 +29,17 @@ EventCode codeOf(KeypadAction action) {
   case KeypadAction::A: return EventCode::SA;
   case KeypadAction::U1: return EventCode::SU1;
   case KeypadAction::U2: return EventCode::SU2;
+  default: return EventCode::Unknown;
+  }
+}
+
+// What of it a team can do without any of its players; Unknown where it can not.
+EventCode ofTeam(EventCode code) {
+  switch (code) {
+  case EventCode::SOR: return EventCode::XOR;
+  case EventCode::SDR: return EventCode::XDR;
+  case EventCode::STO: return EventCode::XTV;
+  case EventCode::STF: return EventCode::XCF;
   default: return EventCode::Unknown;
   }
 }
@@ -123,6 +135,10 @@ bool carryOut(LiveGame& game, const KeypadOrder& order) {
   switch (order.kind) {
   case KeypadOrder::Kind::Shot: return game.recordShot(order.team, order.player, order.code, order.isMade);
   case KeypadOrder::Kind::Action: return game.recordAction(order.team, order.player, order.code);
+  case KeypadOrder::Kind::OfTeam:
+    return game.recordOfTeam(order.team, order.code,
+                             order.code == EventCode::XCF ? LiveGame::Details{{detail_key::kKind, "C"}}
+                                                          : LiveGame::Details());
   case KeypadOrder::Kind::In:
   case KeypadOrder::Kind::Out: return game.toggleOnCourt(order.team, order.player);
   case KeypadOrder::Kind::AllOut: return game.takeAllOut(order.team);
@@ -190,6 +206,11 @@ KeypadInput::Meaning KeypadInput::meaningOf(const KeyPress& press) const {
   if (key.digit)
     return Meaning::Digit;
   return key.action || key.isMiss ? Meaning::Other : Meaning::None;
+}
+
+EventCode KeypadInput::recordedBy(const KeyPress& press) const {
+  const Key key = keyOf(press);
+  return key.action && !key.digit ? codeOf(*key.action) : EventCode::Unknown;
 }
 
 std::optional<int> KeypadInput::teamOf(const KeyPress& press, const Game& game) const {
@@ -290,7 +311,7 @@ std::optional<KeypadInput::Reading> KeypadInput::readExchange() const {
                                             : Reading{std::nullopt, order, *second, *first};
 }
 
-KeypadInput::Reading KeypadInput::read(bool isLine) const {
+KeypadInput::Reading KeypadInput::read(bool isLine, const Game& game) const {
   if (m_typed.empty())
     return {Problem::NothingTyped};
   const std::size_t last = m_typed.size() - 1;
@@ -312,13 +333,18 @@ KeypadInput::Reading KeypadInput::read(bool isLine) const {
   const KeypadOrder order = {kindOfOrder(*action), 0, 0, codeOf(*action), false};
   if (order.kind == KeypadOrder::Kind::AllOut)
     return number->empty() ? Reading{std::nullopt, order} : Reading{Problem::AllAlone};
-  return number->empty() ? Reading{Problem::NumberMissing} : Reading{std::nullopt, order, *number};
+  if (!number->empty())
+    return {std::nullopt, order, *number};
+  const EventCode code = ofTeam(order.code);
+  if (code == EventCode::Unknown || game.details.recordingLevel() == RecordingLevel::Basic)
+    return {Problem::NumberMissing};
+  return {std::nullopt, {.kind = KeypadOrder::Kind::OfTeam, .code = code}};
 }
 
 // The players whose numbers were typed, of the order's team; the reason where it has none such.
 std::optional<KeypadReason> KeypadInput::nameIn(KeypadOrder& order, const Reading& reading,
                                                 const Game& game) {
-  if (order.kind == KeypadOrder::Kind::AllOut)
+  if (order.kind == KeypadOrder::Kind::AllOut || order.kind == KeypadOrder::Kind::OfTeam)
     return std::nullopt;
   const bool isExchange = order.kind == KeypadOrder::Kind::Exchange;
   const Roster& roster = game.roster[order.team];
@@ -338,7 +364,7 @@ std::optional<KeypadReason> KeypadInput::nameIn(KeypadOrder& order, const Readin
 
 KeypadInput::Outcome KeypadInput::confirm(int team, bool isLine, const LiveGame& game) {
   m_reason.reset();
-  const Reading reading = read(isLine);
+  const Reading reading = read(isLine, game.game());
   if (reading.problem)
     return refuse({*reading.problem});
   if (!game.canRecord())
@@ -368,7 +394,7 @@ std::string KeypadInput::typed() const {
 }
 
 std::string KeypadInput::preview(const Game& game, const Texts& texts) const {
-  const Reading reading = read(isLine());
+  const Reading reading = read(isLine(), game);
   if (isEmpty() || reading.problem)
     return isEmpty() ? std::string() : KeypadReason{*reading.problem}.words(texts);
   std::string lines = actionWords(reading.order, texts); // none where words() are a sentence

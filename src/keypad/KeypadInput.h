@@ -21,10 +21,10 @@ struct KeyPress {
 
 // What a confirmed input asks for.
 struct KeypadOrder {
-  enum class Kind { Shot, Action, In, Out, Exchange, AllOut };
+  enum class Kind { Shot, Action, OfTeam, In, Out, Exchange, AllOut };
   Kind kind = Kind::Action;
   int team = 0;
-  int player = 0; // entry; 0 for AllOut
+  int player = 0; // entry; 0 for OfTeam and AllOut
   EventCode code = EventCode::Unknown;
   bool isMade = false; // shots
   int leaving = 0;     // entry; of an Exchange, in which `player` comes in
@@ -78,6 +78,8 @@ class KeypadInput {
   enum class Meaning { None, Digit, Confirm, Clear, Clock, Other };
   [[nodiscard]] Meaning meaningOf(const KeyPress& key) const;
   [[nodiscard]] std::optional<int> digitOf(const KeyPress& key) const;
+  // What the key of an action records; Unknown for any other.
+  [[nodiscard]] EventCode recordedBy(const KeyPress& key) const;
   // The team of a confirm key.
   [[nodiscard]] std::optional<int> teamOf(const KeyPress& key, const Game& game) const;
 
@@ -118,7 +120,8 @@ class KeypadInput {
   };
   [[nodiscard]] Key keyOf(const KeyPress& press) const;
   [[nodiscard]] bool isLine() const; // typed on the main keyboard alone
-  [[nodiscard]] Reading read(bool isLine) const;
+  // In a game that asks for what teams do, an action without a number is the team's.
+  [[nodiscard]] Reading read(bool isLine, const Game& game) const;
   [[nodiscard]] Reading readShot(std::size_t begin, std::size_t end, bool isMade) const;
   [[nodiscard]] std::optional<Reading> readExchange() const;
   [[nodiscard]] std::optional<std::string> digits(std::size_t begin, std::size_t end) const;

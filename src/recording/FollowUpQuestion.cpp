@@ -13,17 +13,24 @@ constexpr std::size_t kMostDigits = 4; // one more than any jersey: a slip is se
 
 } // namespace
 
-void FollowUpQuestion::ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team,
-                           int shooter) {
+void FollowUpQuestion::ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team, int shooter,
+                           EventCode kind) {
   m_game = &game;
-  m_isAssist = !followUps.assist.empty();
+  m_asks = !followUps.assist.empty()                          ? Asks::Assist
+           : followUps.opponents.empty()                      ? Asks::Rebound
+           : kind == EventCode::STO                           ? Asks::Steal
+           : kind == EventCode::STF || kind == EventCode::XCF ? Asks::Shooter
+                                                              : Asks::DrawnBy;
+  m_hasTeam = followUps.asksTeam;
+  m_canBlock = followUps.asksBlock;
+  m_isBlock = false;
   m_shooterTeam = team;
   m_shooter = shooter;
   m_choices.clear();
   m_typed.clear();
   for (const std::vector<int>* slots :
-       {&followUps.assist, &followUps.offensiveRebound, &followUps.defensiveRebound}) {
-    if (m_isAssist && slots != &followUps.assist)
+       {&followUps.assist, &followUps.offensiveRebound, &followUps.defensiveRebound, &followUps.opponents}) {
+    if (isAssist() && slots != &followUps.assist)
       continue;
     for (const int slot : *slots) {
       const int player = game.playerIn(slot);
@@ -36,10 +43,32 @@ void FollowUpQuestion::ask(const LiveGame& game, const LiveGame::FollowUps& foll
   narrow();
 }
 
-EventCode FollowUpQuestion::codeFor(int team) const {
-  if (m_isAssist)
-    return EventCode::SA;
-  return team == m_shooterTeam ? EventCode::SOR : EventCode::SDR;
+EventCode FollowUpQuestion::codeFor(const Answer& answer) const {
+  const bool isOffensive = answer.team == m_shooterTeam;
+  switch (m_asks) {
+  case Asks::Assist: return EventCode::SA;
+  case Asks::Steal: return answer.player == 0 ? EventCode::XTV : EventCode::SST;
+  case Asks::DrawnBy:
+  case Asks::Shooter: return EventCode::Unknown;
+  case Asks::Rebound: break;
+  }
+  if (m_isBlock)
+    return EventCode::SBS;
+  if (answer.player == 0)
+    return isOffensive ? EventCode::XOR : EventCode::XDR;
+  return isOffensive ? EventCode::SOR : EventCode::SDR;
+}
+
+std::optional<FollowUpQuestion::Answer> FollowUpQuestion::teamOf(int team) const {
+  if (!m_hasTeam || m_isBlock || (m_asks == Asks::Steal && team != m_shooterTeam))
+    return std::nullopt;
+  return Answer{.team = team};
+}
+
+void FollowUpQuestion::askBlock(bool isOn) {
+  m_isBlock = isOn && m_canBlock;
+  m_typed.clear();
+  narrow();
 }
 
 // The defensive rebound is the more frequent one: of two equal numbers Enter takes his.
@@ -49,6 +78,10 @@ void FollowUpQuestion::narrow() {
   std::vector<std::string> jerseys;
   std::ranges::transform(m_choices, std::back_inserter(jerseys), &Choice::jersey);
   m_fitting = fittingJerseys(jerseys, m_typed);
+  if (m_isBlock)
+    std::erase_if(m_fitting, [this](const FittingJersey& fitting) {
+      return m_choices[fitting.place].team() == m_shooterTeam;
+    });
   std::ranges::stable_sort(m_fitting, [&](const FittingJersey& left, const FittingJersey& right) {
     return left.isWhole && right.isWhole && m_choices[left.place].team() != m_shooterTeam &&
            m_choices[right.place].team() == m_shooterTeam;
@@ -68,7 +101,7 @@ std::optional<std::size_t> FollowUpQuestion::marked() const {
 bool FollowUpQuestion::canGoOn() const {
   std::vector<std::string> jerseys;
   for (int team = 0; team < 2; ++team) {
-    if (!m_isAssist || team == m_shooterTeam)
+    if (!isOfOneTeam() || team == teamAsked())
       std::ranges::transform(m_game->game().roster[static_cast<std::size_t>(team)].players(),
                              std::back_inserter(jerseys), &RosterPlayer::jersey);
   }
@@ -106,6 +139,8 @@ std::optional<FollowUpQuestion::Answer> FollowUpQuestion::enter(std::optional<in
 }
 
 std::optional<FollowUpQuestion::Answer> FollowUpQuestion::choose(std::size_t choice) const {
+  if (m_isBlock && m_choices[choice].team() == m_shooterTeam)
+    return std::nullopt;
   return Answer{m_choices[choice].team(), m_choices[choice].player};
 }
 
@@ -151,23 +186,29 @@ void FollowUpQuestion::refuse() {
     const int player = m_game->game().roster[side].entryOf(m_typed);
     if (player == 0 || m_game->slotOf(team, player))
       continue;
-    if (m_isAssist && team != m_shooterTeam)
+    if (isOfOneTeam() && team != teamAsked())
       continue;
     strangers.push_back({.team = team, .player = player, .isOnCourt = false});
   }
   const auto side = static_cast<std::size_t>(m_shooterTeam);
-  const std::size_t other = 1 - side;
-  if (m_isAssist && m_shooter > 0 && m_game->game().roster[side].entryOf(m_typed) == m_shooter)
+  const auto other = static_cast<std::size_t>(isOfOneTeam() ? 1 - teamAsked() : 1 - m_shooterTeam);
+  if (isAssist() && m_shooter > 0 && m_game->game().roster[side].entryOf(m_typed) == m_shooter)
     m_refusal = Refusal{.text = Text::IsShooter};
-  else if (m_isAssist && strangers.empty() && m_game->game().roster[other].entryOf(m_typed) > 0)
+  else if (isOfOneTeam() && strangers.empty() && m_game->game().roster[other].entryOf(m_typed) > 0)
     m_refusal = Refusal{.text = Text::OfOtherTeam, .team = m_game->game().details.abbreviation[other]};
   else if (!strangers.empty()) {
     const bool isOut = LiveFigures(*m_game).isFouledOut(strangers[0].team, strangers[0].player);
-    m_refusal = Refusal{.text = isOut        ? Text::HasFouledOut
-                                : m_isAssist ? Text::OnBenchAssist
-                                             : Text::OnBenchRebound,
+    m_refusal = Refusal{.text = isOut ? Text::HasFouledOut : onBenchText(),
                         .stranger = strangers.size() == 1 ? std::optional(strangers[0]) : std::nullopt,
                         .canComeIn = strangers.size() == 1 && !isOut};
+  }
+}
+
+Text FollowUpQuestion::onBenchText() const {
+  switch (m_isBlock ? Asks::Steal : m_asks) {
+  case Asks::Assist: return Text::OnBenchAssist;
+  case Asks::Rebound: return Text::OnBenchRebound;
+  default: return Text::OnBench;
   }
 }
 

@@ -1,7 +1,7 @@
-// Who assisted, who took the rebound: whom the question after a shot offers, and what a number typed into it
-// means. A number is held whole: it is taken with its last digit only where nothing could follow, else by
-// Enter; one that fits nobody who is offered stays, with the reason, and is never taken for another's. Knows
-// no window.
+// Who assisted, who took the rebound, who drew the foul: whom the question after an event offers, and what a
+// number typed into it means. A number is held whole: it is taken with its last digit only where nothing
+// could follow, else by Enter; one that fits nobody who is offered stays, with the reason, and is never taken
+// for another's. Knows no window.
 #pragma once
 
 #include "recording/JerseyMatch.h"
@@ -22,10 +22,12 @@ class FollowUpQuestion {
     std::string jersey = {};
     int team() const { return LiveGame::teamOf(slot); }
   };
+  // Who is asked for. The shooter is the one for a technical foul.
+  enum class Asks { Assist, Rebound, DrawnBy, Shooter, Steal };
   // Who gets it.
   struct Answer {
     int team = 0;
-    int player = 0;       // entry
+    int player = 0;       // entry; 0: the team, and nobody in particular
     bool comesIn = false; // he stands on the bench, and it was forgotten that he came
     bool isOnCourt = true;
     friend bool operator==(const Answer&, const Answer&) = default;
@@ -42,13 +44,23 @@ class FollowUpQuestion {
   enum class WayOut { AllTheSame, ComesIn };
 
   // The game must live until it is closed.
-  void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team, int shooter);
+  void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team, int shooter,
+           EventCode kind = EventCode::Unknown);
 
-  bool isAssist() const { return m_isAssist; }
-  int shooterTeam() const { return m_shooterTeam; }
-  // Of an assist in the order of the places on court; of a rebound the shooter's team first.
+  Asks asks() const { return m_asks; }
+  bool isAssist() const { return m_asks == Asks::Assist; }
+  bool isRebound() const { return m_asks == Asks::Rebound; }
+  int shooterTeam() const { return m_shooterTeam; } // of whoever it happened to: shot, foul, turnover
+  // Of one team in the order of the places on court; of a rebound the shooter's team first.
   const std::vector<Choice>& choices() const { return m_choices; }
-  EventCode codeFor(int team) const;
+  // What an answer is recorded as; Unknown for one that is a detail of the event.
+  EventCode codeFor(const Answer& answer) const;
+  // That it was the team's: of a rebound which one's. None where it can be nobody's but a player's.
+  std::optional<Answer> teamOf(int team) const;
+  // Of a rebound, where the shot can have been blocked: for the next answer the defence is asked who did.
+  bool canAskBlock() const { return m_canBlock; }
+  bool isAskingBlock() const { return m_isBlock; }
+  void askBlock(bool isOn);
 
   const std::string& typed() const { return m_typed; }
   // Places in choices() whose numbers begin so, and which of them Enter would take.
@@ -71,11 +83,19 @@ class FollowUpQuestion {
  private:
   void narrow();
   void refuse();
+  [[nodiscard]] Text onBenchText() const;
   [[nodiscard]] bool canGoOn() const;
+  [[nodiscard]] bool isOfOneTeam() const { return m_asks != Asks::Rebound || m_isBlock; }
+  [[nodiscard]] int teamAsked() const { // where only one is
+    return isAssist() ? m_shooterTeam : 1 - m_shooterTeam;
+  }
   [[nodiscard]] Answer answer(const FittingJersey& fitting) const;
 
   const LiveGame* m_game = nullptr;
-  bool m_isAssist = false;
+  Asks m_asks = Asks::Rebound;
+  bool m_hasTeam = false;
+  bool m_canBlock = false;
+  bool m_isBlock = false;
   int m_shooterTeam = 0;
   int m_shooter = 0;
   std::vector<Choice> m_choices;

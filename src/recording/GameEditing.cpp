@@ -46,13 +46,33 @@ bool GameEditing::isClock(int period, int clock) const {
   return clock <= (isRegular ? details.minutesPerPeriod : kMostMinutes) * kSecondsPerMinute;
 }
 
-std::string GameEditing::textOf(const Counted& counted) const {
-  const RosterPlayer* who =
-      m_log.game().roster[static_cast<std::size_t>(counted.team)].player(counted.player);
+// Who jumps is not changed.
+std::string GameEditing::textOf(const Counted& counted, const GameEvent* old) const {
   const EventKind* kind = kindOf(counted.kind);
-  if (who == nullptr || kind == nullptr || kind->isOfTeam)
+  const bool isTimeOut = counted.kind == EventCode::XTO;
+  const bool isJump = counted.kind == EventCode::XJB;
+  if (kind == nullptr || (counted.team < 0 && !isTimeOut) ||
+      (isJump && (old == nullptr || old->code != EventCode::XJB)))
     return {};
-  return eventText(counted.kind, counted.isMade, counted.team, who->jersey, counted.place);
+  std::string text;
+  if (isJump) {
+    text = withDetail(old->whole().substr(old->whole().find(',')), detail_key::kDoubtful, {});
+  } else if (kind->isOfTeam) {
+    text = teamEventText(counted.kind, counted.team);
+  } else {
+    const RosterPlayer* who =
+        m_log.game().roster[static_cast<std::size_t>(counted.team)].player(counted.player);
+    if (who == nullptr)
+      return {};
+    text = eventText(counted.kind, counted.isMade, counted.team, who->jersey, counted.place);
+  }
+  if (old != nullptr && !isJump)
+    text = withDetailsOf(*old, text, counted.kind, counted.team);
+  for (const auto& [key, value] : counted.details)
+    text = withDetail(text, key, value);
+  // What would be cut off is not written: the longest line has a mark of deletion and a clock in front.
+  const std::string longest = "E00:00" + text;
+  return counted.details.empty() || readablePart(longest).size() == longest.size() ? text : std::string();
 }
 
 std::string GameEditing::keyOfNew(int number) const {
@@ -94,11 +114,9 @@ EditPlan GameEditing::newTime(const EventPlace& event, int clock) const {
 }
 
 EditPlan GameEditing::change(const EventPlace& event, int clock, const Counted& counted) const {
-  const std::string text = textOf(counted);
   const GameEvent* old = m_log.game().events.find(event);
-  return text.empty() || old == nullptr
-             ? EditPlan{}
-             : replacement(event, clock, withDetailsOf(*old, text, counted.kind, counted.team));
+  const std::string text = old == nullptr ? std::string() : textOf(counted, old);
+  return text.empty() ? EditPlan{} : replacement(event, clock, text);
 }
 
 EditPlan GameEditing::insertion(const EventPlace& at, Where where, int clock, const Counted& counted) const {

@@ -29,9 +29,11 @@ class GameEditing {
   struct Counted {
     EventCode kind = EventCode::Unknown;
     bool isMade = false; // shots
-    int team = 0;
-    int player = 0; // entry
+    int team = 0;        // of a time-out also -1, nobody's
+    int player = 0;      // entry; of what a team does 0
     std::optional<std::pair<double, double>> place = std::nullopt;
+    // Keys and values that become others; an empty value takes one away.
+    std::vector<std::pair<std::string, std::string>> details = {};
   };
 
   // For one edit: after a change to the log, ask a new one.
@@ -61,8 +63,9 @@ class GameEditing {
 
  private:
   [[nodiscard]] bool isClock(int period, int clockSeconds) const;
-  [[nodiscard]] std::string textOf(const Counted& counted) const; // empty: no such player or kind
-  [[nodiscard]] std::string keyOfNew(int number) const;           // of the new events of a plan, from 0
+  // Empty: no such player or kind, or an event of which nobody knows more.
+  [[nodiscard]] std::string textOf(const Counted& counted, const GameEvent* old = nullptr) const;
+  [[nodiscard]] std::string keyOfNew(int number) const; // of the new events of a plan, from 0
 
   const LiveLog& m_log;
 };

@@ -38,6 +38,7 @@ GameFileProblem LiveGame::open(const std::string& path, Access access) {
     m_time.layOnUtc();
   m_history.clear();
   m_lastShot = {};
+  m_lastAdded = {};
   m_wasLeftRunning = false;
   m_slots.clear();
   m_pending.reset();
@@ -168,8 +169,12 @@ void LiveGame::start() {
   if (clockSeconds() == 0)
     return closePeriod();
   m_history.forgetStarts();
+  std::vector<EventChange> steps;
+  if (turnsArrow())
+    steps.push_back(added(lineOf(teamEventText(EventCode::XAR, 1 - *arrow()))));
   const int number = m_log.nextNumber();
-  m_log.change({added(lineOf(startText()))}, wallClock());
+  steps.push_back(added(lineOf(startText())));
+  m_log.change(steps, wallClock());
   m_starts[number] = m_flow.start();
 }
 
@@ -474,6 +479,7 @@ bool LiveGame::record(const std::string& eventText, Text text) {
   // While the clock runs it tells what the wall's would.
   if (!done(text, steps, deletionOf(steps), phase() == Phase::Running ? std::nullopt : wallClock()))
     return false;
+  m_lastAdded = {steps[0].period, steps[0].key};
   m_flow.decideAgain(isTied());
   return true;
 }
@@ -484,9 +490,12 @@ bool LiveGame::recordShot(int team, int player, EventCode kind, bool isMade,
   const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
   if (shot == nullptr || !shot->isShot || who == nullptr)
     return false;
-  if (!record(eventText(kind, isMade, team, who->jersey, place), shot->wordsText))
+  std::string text = eventText(kind, isMade, team, who->jersey, place);
+  if (kind == EventCode::GFT)
+    text = withNumberOfThrow(std::move(text), {team, who->jersey});
+  if (!record(text, shot->wordsText))
     return false;
-  m_lastShot = placeOf(game().events.ofPeriod(period()).back());
+  m_lastShot = m_lastAdded;
   return true;
 }
 
@@ -495,35 +504,20 @@ bool LiveGame::recordAction(int team, int player, EventCode kind) {
   const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
   if (action == nullptr || action->isShot || action->isOfTeam || who == nullptr)
     return false;
-  return record(eventText(kind, false, team, who->jersey), action->wordsText);
+  std::string text = eventText(kind, false, team, who->jersey);
+  if (kind == EventCode::SBS)
+    text = withBlockedShot(std::move(text), team);
+  return record(text, action->wordsText);
 }
 
-bool LiveGame::recordFollowUp(int team, int player, EventCode kind) {
-  writePending(); // before a number is given to what follows
-  if (m_lastShot.period == period())
+bool LiveGame::recordFollowUp(const EventPlace& event, int team, int player, EventCode kind) {
+  const EventPlace place = event; // which what is recorded replaces
+  writePending();                 // before a number is given to what follows
+  if (place.period == period())
     return recordAction(team, player, kind);
-  const GameEvent* shot = game().events.find(m_lastShot);
-  return shot != nullptr && insertEvent(m_lastShot, Where::Behind, shot->clockSeconds,
-                                        {.kind = kind, .team = team, .player = player});
-}
-
-LiveGame::FollowUps LiveGame::followUps(int team, int player, EventCode kind, bool isMade,
-                                        bool asksRebounds) const {
-  FollowUps result;
-  const EventKind* shot = kindOf(kind);
-  if (shot == nullptr || !shot->isShot)
-    return result;
-  const bool asksAssist = isMade && shot->followUpWhenMade == FollowUp::Assist;
-  for (int other = 0; other < kSlots; ++other) {
-    if (playerIn(other) == 0)
-      continue;
-    const bool isOwn = teamOf(other) == team;
-    if (asksAssist && isOwn && playerIn(other) != player)
-      result.assist.push_back(other);
-    if (!isMade && asksRebounds)
-      (isOwn ? result.offensiveRebound : result.defensiveRebound).push_back(other);
-  }
-  return result;
+  const GameEvent* found = game().events.find(place);
+  return found != nullptr && insertEvent(place, Where::Behind, found->clockSeconds,
+                                         {.kind = kind, .team = team, .player = player});
 }
 
 } // namespace hooptab

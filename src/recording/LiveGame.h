@@ -3,6 +3,7 @@
 // be, when the call returns. Decides for the live window and knows none.
 #pragma once
 
+#include "game/FreeThrows.h"
 #include "recording/CourtSlots.h"
 #include "recording/GameEditing.h"
 #include "recording/GameFlow.h"
@@ -93,7 +94,7 @@ class LiveGame {
   // Keys of the game's details with their values, which an empty one clears; what belongs to nobody's action.
   bool setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
   // How much is asked for; it can be changed at any time, and what was recorded stays.
-  RecordingLevel level() const { return game().details.level.value_or(RecordingLevel::Basic); }
+  RecordingLevel level() const { return game().details.recordingLevel(); }
 
   // --- Players
   static int teamOf(int slot) { return CourtSlots::teamOf(slot); }
@@ -138,15 +139,44 @@ class LiveGame {
   bool recordShot(int team, int player, EventCode kind, bool isMade,
                   std::optional<std::pair<double, double>> place = std::nullopt);
   bool recordAction(int team, int player, EventCode kind);
-  // The assist or rebound of the shot that was recorded last: behind it when its period has ended since.
-  bool recordFollowUp(int team, int player, EventCode kind);
+  // The assist or rebound of the shot that was recorded last, or what follows another event: behind it when
+  // its period has ended since.
+  bool recordFollowUp(int team, int player, EventCode kind) {
+    return recordFollowUp(m_lastShot, team, player, kind);
+  }
+  bool recordFollowUp(const EventPlace& event, int team, int player, EventCode kind);
   const EventPlace& lastShot() const { return m_lastShot; } // that was recorded here; period 0: none
+  // What was recorded here last, a shot or anything else.
+  const EventPlace& lastAdded() const { return m_lastAdded; }
+
+  // --- What a league's sheet holds beside that
+  // Keys of details with their values.
+  using Details = std::vector<std::pair<std::string_view, std::string>>;
+  // What a team does and none of its players; team -1: nobody's time-out.
+  bool recordOfTeam(int team, EventCode kind, const Details& details = {});
+  // What more is known of an event; an empty value takes a detail away. Is taken back with the event while
+  // that is the last action.
+  bool setDetailsOf(const EventPlace& event, const Details& details);
+  // The throw of that number, where it is known: two fouls at one clock are not always shot in their order.
+  bool recordFreeThrow(int team, int player, bool isMade, int number, int awarded);
+  // The turnover that was recorded last was nobody's in particular, but his team's.
+  bool giveToTeam(const EventPlace& turnover);
+  [[nodiscard]] std::optional<int>
+  arrow() const; // whose the next held ball is; nobody knows before the first
+  // The free throws of the period, as far as they were taken.
+  [[nodiscard]] FreeThrows freeThrows() const;
   // What such a shot asks for; the players who can be chosen, as slots.
   struct FollowUps {
     std::vector<int> assist;           // of the shooter's team, without him
     std::vector<int> offensiveRebound; // of the shooter's team
     std::vector<int> defensiveRebound; // of the other
-    bool isEmpty() const { return assist.empty() && offensiveRebound.empty() && defensiveRebound.empty(); }
+    // Of the other team: who drew the foul, who shoots for a technical one, who stole the ball.
+    std::vector<int> opponents = {};
+    bool asksTeam = false;  // the rebound or turnover can be the team's
+    bool asksBlock = false; // the shot can have been blocked
+    bool isEmpty() const {
+      return assist.empty() && offensiveRebound.empty() && defensiveRebound.empty() && opponents.empty();
+    }
   };
   FollowUps followUps(int team, int player, EventCode kind, bool isMade, bool asksRebounds) const;
 
@@ -198,6 +228,10 @@ class LiveGame {
   std::string lineOf(const std::string& eventText) const; // at the present clock
   EventChange added(const std::string& line);
   bool record(const std::string& eventText, Text text);
+  [[nodiscard]] std::string withNumberOfThrow(std::string eventText, const PlayerReference& thrower) const;
+  [[nodiscard]] std::string withBlockedShot(std::string eventText, int team) const;
+  [[nodiscard]] bool turnsArrow() const;
+  [[nodiscard]] bool isLastThrow() const;
   void recordStop(std::optional<std::int64_t> when);
   void checkCounts() const;
   void leavePeriod();
@@ -230,7 +264,8 @@ class LiveGame {
   bool m_wasLeftRunning = false; // when it was opened; until the clock is started or the stop put in
   std::map<int, int>
       m_starts;          // of this session: the event's number, and the period to which one could return
-  EventPlace m_lastShot; // of this session
+  EventPlace m_lastShot; // of this session, as the next
+  EventPlace m_lastAdded;
 };
 
 } // namespace hooptab

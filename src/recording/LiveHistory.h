@@ -29,6 +29,19 @@ class LiveHistory {
     m_done.push_back(std::move(action));
     m_undone.clear();
   }
+  // More has become known of the event that the last action has recorded or edited: it is taken back with
+  // that. `deletion` marks the event as it is now. False where the last action is another.
+  bool amend(const EventChange& deletion) {
+    if (m_done.empty() || m_done.back().steps.size() != 1)
+      return false;
+    EventChange& back = m_done.back().steps[0];
+    if (back.period != deletion.period || back.key != deletion.key)
+      return false;
+    if (back.line.starts_with('E')) // it was recorded; the way back of an edit leads behind this one as well
+      back = deletion;
+    m_undone.clear();
+    return true;
+  }
   // Taken back, though it was never added: a start of the clock is found in the lines alone.
   void addUndone(LiveAction action) { m_undone.push_back(std::move(action)); }
   void dropUndone() { m_undone.pop_back(); }

@@ -78,12 +78,17 @@ std::vector<LiveRepair> repairsOf(const Finding& finding, const Game& game) {
   case FindingKind::AssistWithoutBasket:
   case FindingKind::ReboundAfterMade:
   case FindingKind::AfterClose:
+  case FindingKind::ThrowWithoutFoul:
+  case FindingKind::ThrowBeyondAward:
+  case FindingKind::TimeOutTooMany:
+  case FindingKind::CoachOutBefore:
     return {change(game, finding.event, Text::Edit), deletion(game, finding.event)};
   case FindingKind::ClockRises:
   case FindingKind::ClockAbovePeriod:
   case FindingKind::Swapped:
   case FindingKind::TwoFromThree:
-  case FindingKind::ThreeFromInside: return {change(game, finding.event, Text::Edit)};
+  case FindingKind::ThreeFromInside:
+  case FindingKind::ThrowsMissing: return {change(game, finding.event, Text::Edit)};
   case FindingKind::Burst: return {deletion(game, finding.event)};
   default: return {};
   }

@@ -68,6 +68,28 @@ TEST_F(LiveEditTest, EventsArePutInChangedAndMoved) {
   EXPECT_FALSE(live.insertEvent({1, "4"}, Where::Before, 590, {EventCode::SST, false, 0, 9})) << "nobody";
 }
 
+TEST_F(LiveEditTest, WhatTeamsDoAndDetailsAreEditedAsOneStep) {
+  play();
+  ASSERT_TRUE(live.insertEvent({1, "6"}, Where::Before, 570, {EventCode::XTO, false, -1, 0}));
+  const auto line = [this](const char* key) { return std::string(live.game().events.find(1, key)->whole()); };
+  EXPECT_EQ(line("10"), "09:30,XTO,,K=MEDIA");
+  ASSERT_TRUE(live.editEvent({1, "10"}, 590, {EventCode::XTO, false, 1, 0, {}, {{"K", "SHORT"}}}));
+  EXPECT_EQ(lines()[5], "10=09:50,XTO,1,K=SHORT") << "and moves like any other";
+  ASSERT_TRUE(live.editEvent({1, "10"}, 590, {EventCode::XTV, false, 1, 0}));
+  EXPECT_EQ(line("10"), "09:50,XTV,1");
+  EXPECT_EQ(live.state().teamRows[1].turnovers, 1);
+  EXPECT_TRUE(live.undo() && live.undo());
+  EXPECT_EQ(lines()[5], "10=09:30,XTO,,K=MEDIA");
+  EXPECT_FALSE(live.insertEvent({1, "6"}, Where::Before, 570, {EventCode::XOR, false, -1, 0}));
+  EXPECT_FALSE(live.insertEvent({1, "6"}, Where::Before, 570, {EventCode::XJB, false, 0, 0}));
+  const std::string foul = "09:30,SPF,1-10";
+  ASSERT_TRUE(live.editEvent({1, "6"}, 570, {EventCode::SPF, false, 1, 3, {}, {{"D", "0-4"}, {"F", "2"}}}));
+  ASSERT_TRUE(live.editEvent({1, "6"}, 570, {EventCode::SPF, false, 1, 4, {}, {{"F", ""}, {"K", "S"}}}));
+  EXPECT_EQ(line("6"), "09:30,SPF,1-12,D=0-4,K=S");
+  EXPECT_TRUE(live.undo() && live.undo());
+  EXPECT_EQ(line("6"), foul);
+}
+
 TEST_F(LiveEditTest, AForgottenSubstitutionIsCarriedOn) {
   play();
   EXPECT_TRUE(live.insertSubstitution({1, "6"}, Where::Before, {1U << 1U, 0}, {1U << 6U, 0}));
@@ -228,7 +250,11 @@ TEST_F(LiveEditTest, RandomEditsCanAllBeTakenBack) {
       const LiveGame::Counted shot{
           EventCode::GF3, roll(2) == 0, roll(2), 1 + roll(7), {{roll(126), roll(200)}}};
       switch (roll(7)) {
-      case 0: changes += live.insertEvent(place, where, roll(601), shot) ? 1 : 0; break;
+      case 0: {
+        const LiveGame::Counted timeOut{EventCode::XTO, false, roll(3) - 1, 0};
+        changes += live.insertEvent(place, where, roll(601), roll(2) == 0 ? shot : timeOut) ? 1 : 0;
+        break;
+      }
       case 1: {
         const std::size_t team = static_cast<std::size_t>(roll(2));
         OnCourt out = {};
