@@ -5,10 +5,12 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "events/DetailBoxes.h"
 #include "events/MiniCourt.h"
 #include "events/StatButton.h"
 #include "events/StatControls.h"
 #include "game/CourtClick.h"
+#include "game/EventDetails.h"
 #include "game/EventWords.h"
 #include "recording/ScoreText.h"
 #include "settings/Settings.h"
@@ -23,6 +25,9 @@
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QShortcut>
+#include <QSignalBlocker>
+
+#include <algorithm>
 
 namespace hooptab {
 
@@ -32,6 +37,7 @@ constexpr int kMargin = 12;
 constexpr int kGap = 8;
 constexpr int kMostSeconds = 99 * 60 + 59; // that can be typed; the game knows its periods
 constexpr int kEntries = Roster::kLargestEntry + 1;
+constexpr int kNoTeam = -2; // no box has it
 
 } // namespace
 
@@ -41,15 +47,19 @@ frmEDIT::frmEDIT(const LiveGame& game, const EventPlace& place, Purpose purpose,
   setObjectName(QStringLiteral("frmEDIT"));
   setTextNumber(*this, purpose == Purpose::Change ? Text::Edit : Text::Insertion);
   setModal(true);
+  const GameEvent* const event = m_game.events.find(place);
+  const bool isUnderstood = event != nullptr && event->isUnderstood;
+  if (isUnderstood && purpose == Purpose::Change) {
+    m_key = event->key;
+    m_line = event->line;
+    m_event = GameEvent::parse(place.period, m_key, m_line);
+  }
   makeFields();
   makeLayout();
-  for (const GameEvent& event : m_game.events) {
-    if (event.period != place.period || event.key != place.key || !event.isUnderstood)
-      continue;
-    m_time->setText(toQt(Module1::clockText(event.clockSeconds)));
-    if (purpose == Purpose::Change)
-      fill(event);
-  }
+  if (isUnderstood)
+    m_time->setText(toQt(Module1::clockText(event->clockSeconds)));
+  if (m_event.isUnderstood)
+    fill();
   if (purpose == Purpose::Insert)
     m_player->setCurrentIndex(-1); // a guess would be accepted unseen
   m_before = typed();
@@ -84,19 +94,11 @@ void frmEDIT::makeFields() {
   setToolTipNumber(*m_time, Text::ClockFormTip);
   m_player = new QComboBox(this);
   m_player->setObjectName(QStringLiteral("cmbPLAYER"));
-  const EventWords words(m_game, m_texts);
-  for (int team = 0; team < 2; ++team) {
-    for (int entry = 1; entry < kEntries; ++entry) {
-      const RosterPlayer* player = m_game.roster[team].player(entry);
-      if (player != nullptr)
-        m_player->addItem(toQt(words.team(team)) + u' ' + toQt(words.player({team, player->jersey})),
-                          team * kEntries + entry);
-    }
-  }
+  m_player->setSizeAdjustPolicy(QComboBox::AdjustToContents); // teams give way to players
+  fillWho();
   m_kind = new QComboBox(this);
   m_kind->setObjectName(QStringLiteral("cmbKIND"));
-  for (const EventKind& kind : eventKinds())
-    m_kind->addItem(caption(m_texts, kind.wordsText), static_cast<int>(kind.code));
+  fillKinds();
   m_made = new QCheckBox(this);
   m_made->setObjectName(QStringLiteral("chkMADE"));
   m_made->setChecked(true);
@@ -121,11 +123,114 @@ void frmEDIT::makeFields() {
   setTextNumber(*m_accept, Text::Accept);
 
   connect(m_court, &MiniCourt::pressed, this, &frmEDIT::pressCourt);
+  connect(m_player, &QComboBox::currentIndexChanged, this, &frmEDIT::showDetails);
   connect(m_player, &QComboBox::currentIndexChanged, this, &frmEDIT::showAccept);
   connect(m_kind, &QComboBox::currentIndexChanged, this, &frmEDIT::showShot);
   connect(m_made, &QCheckBox::toggled, this, &frmEDIT::showShot);
   connect(m_accept, &QPushButton::clicked, this, &QDialog::accept);
   connect(m_time, &QLineEdit::textChanged, this, &frmEDIT::showAccept);
+}
+
+// What teams do, where the game has it or its level asks for it.
+void frmEDIT::fillKinds() {
+  const auto add = [this](const EventKind& kind) {
+    m_kind->addItem(caption(m_texts, kind.wordsText), static_cast<int>(kind.code));
+  };
+  std::ranges::for_each(kEventKinds, add);
+  const bool isAsked = m_game.details.recordingLevel() != RecordingLevel::Basic;
+  if (!isAsked && !std::ranges::any_of(m_game.events, &GameEvent::isOfTeam))
+    return;
+  for (const EventKind& kind : kTeamKinds) {
+    if (kind.code != EventCode::XJB || m_event.code == EventCode::XJB) // a new one would need both players
+      add(kind);
+  }
+}
+
+// --- Whose it is
+
+frmEDIT::Who frmEDIT::whoDoes(EventCode kind) const {
+  const EventKind* const found = kindOf(kind);
+  if (found == nullptr || !found->isOfTeam)
+    return Who::Player;
+  return kind == EventCode::XTO ? Who::TeamOrNobody : kind == EventCode::XJB ? Who::Jumpers : Who::Team;
+}
+
+void frmEDIT::fillWho() {
+  const EventWords words(m_game, m_texts);
+  const auto named = [&](const PlayerReference& player) -> QString {
+    return toQt(words.team(player.team)) + u' ' + toQt(words.player(player));
+  };
+  m_player->clear();
+  if (m_who == Who::Jumpers)
+    m_player->addItem(named(m_event.jumper(0)) + QStringLiteral(" \u2013 ") + named(m_event.jumper(1)), 0);
+  for (int team = 0; team < 2 && m_who != Who::Jumpers; ++team) {
+    if (m_who != Who::Player)
+      m_player->addItem(toQt(words.team(team)), team * kEntries);
+    for (int entry = 1; entry < kEntries && m_who == Who::Player; ++entry) {
+      const RosterPlayer* player = m_game.roster[team].player(entry);
+      if (player != nullptr)
+        m_player->addItem(named({team, player->jersey}), team * kEntries + entry);
+    }
+  }
+  if (m_who == Who::TeamOrNobody)
+    m_player->addItem(caption(m_texts, Text::MediaTimeOut), -kEntries);
+}
+
+// Another kind may be another's; the team stays, and so does the player until another team is chosen.
+void frmEDIT::showWho() {
+  const Who who = whoDoes(kind());
+  if (who == m_who)
+    return;
+  const std::optional<int> chosen = team();
+  if (m_who == Who::Player)
+    m_lastPlayer = m_player->currentData();
+  m_who = who;
+  const QSignalBlocker quiet(m_player);
+  fillWho();
+  const bool isSameTeam = m_lastPlayer.isValid() && m_lastPlayer.toInt() / kEntries == chosen;
+  const QVariant wanted = who != Who::Player ? QVariant(chosen.value_or(kNoTeam) * kEntries)
+                          : isSameTeam       ? m_lastPlayer
+                                             : QVariant();
+  m_player->setCurrentIndex(wanted.isValid() ? m_player->findData(wanted) : -1);
+  const Text name = who == Who::Team || who == Who::TeamOrNobody ? Text::TeamWord : Text::Player;
+  setTextNumber(*m_whoCaption, name);
+  setToolTipNumber(*m_player, name);
+  setAccessibleNumber(*m_player, name);
+  relabel(*this, m_texts);
+  giveMnemonics(*this);
+}
+
+std::optional<int> frmEDIT::team() const {
+  if (const QVariant chosen = m_player->currentData(); chosen.isValid())
+    return chosen.toInt() / kEntries;
+  return m_event.isOfPlayer() ? std::optional(m_event.player.team) : std::nullopt;
+}
+
+// --- Its details
+
+// The event as it would be, as far as its details go.
+std::string frmEDIT::lineAsChosen(int team) const {
+  if (kind() == EventCode::XJB)
+    return m_line;
+  const std::string text =
+      whoDoes(kind()) == Who::Player ? eventText(kind(), true, team, "0") : teamEventText(kind(), team);
+  const std::string line = Module1::clockText(0);
+  return line + (m_event.isUnderstood ? withDetailsOf(m_event, text, kind(), team) : text);
+}
+
+void frmEDIT::showDetails() {
+  const std::pair now(kind(), team());
+  if (!m_isCounted || now == m_detailsOf)
+    return;
+  m_detailsOf = now;
+  std::vector<DetailChoice> choices;
+  if (now.second) {
+    const std::string line = lineAsChosen(*now.second);
+    choices = detailChoices(m_game, GameEvent::parse(1, "1", line), m_texts);
+  }
+  m_details->show(choices);
+  relabel(*this, m_texts);
+  giveMnemonics(*this);
 }
 
 // A player who is in no roster, or behind its fifteenth, has to be named before more than the time can
@@ -181,14 +286,18 @@ void frmEDIT::makeLayout() {
   auto* fields = new QGridLayout;
   fields->setSpacing(kGap);
   int row = 0;
-  for (const auto& [field, text] : {std::pair<QWidget*, Text>(m_time, Text::Time),
-                                    {m_player, Text::Player},
-                                    {m_kind, Text::KindOfEvent}}) {
-    fields->addWidget(captionFor(*field, text), row, 0);
+  m_whoCaption = captionFor(*m_player, Text::Player);
+  for (const auto& [field, label] : {std::pair<QWidget*, QLabel*>(m_time, captionFor(*m_time, Text::Time)),
+                                     {m_player, m_whoCaption},
+                                     {m_kind, captionFor(*m_kind, Text::KindOfEvent)}}) {
+    fields->addWidget(label, row, 0);
     fields->addWidget(field, row++, 1);
   }
   fields->addLayout(makeButtons(), row++, 1);
   fields->addWidget(m_made, row++, 1);
+  m_details = new DetailBoxes(*fields, row, *m_made, *this);
+  row += DetailBoxes::kMostRows;
+  connect(m_details, &DetailBoxes::changed, this, &frmEDIT::showAccept);
   fields->addWidget(m_shot, row++, 0, 1, 2);
   fields->addWidget(m_xy, row++, 0, 1, 2);
   fields->addWidget(m_nameFirst, row++, 0, 1, 2);
@@ -206,26 +315,32 @@ void frmEDIT::makeLayout() {
   layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void frmEDIT::fill(const GameEvent& event) {
-  m_isCounted = event.isOfPlayer();
+void frmEDIT::fill() {
+  const GameEvent& event = m_event;
+  m_isCounted = !event.isClock();
+  const bool isChosen = m_isCounted && event.code != EventCode::XJB;
   for (QWidget* field : {static_cast<QWidget*>(m_player), static_cast<QWidget*>(m_kind),
                          static_cast<QWidget*>(m_made), static_cast<QWidget*>(m_court)})
-    field->setEnabled(m_isCounted);
+    field->setEnabled(isChosen);
   for (StatButton* button : m_buttons)
-    button->setEnabled(m_isCounted);
+    button->setEnabled(isChosen);
   if (!m_isCounted)
     return;
-  const int entry = m_game.roster[event.player.team].entryOf(event.player.jersey);
+  m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(event.code)));
+  if (event.isOfTeam())
+    m_lastPlayer = {}; // whoever stood in the box while the window was made was nobody's choice
+  m_made->setChecked(event.isMade || !event.isShot());
+  if (event.hasPlace)
+    m_place = {event.x, event.y};
+  if (event.code == EventCode::XJB)
+    return;
+  const int entry = event.isOfTeam() ? 0 : m_game.roster[event.player.team].entryOf(event.player.jersey);
   m_player->setCurrentIndex(m_player->findData(event.player.team * kEntries + entry));
   if (m_player->currentIndex() < 0) {
     const EventWords words(m_game, m_texts);
     m_player->setPlaceholderText(toQt(words.team(event.player.team)) + u' ' +
                                  toQt(words.player(event.player)));
   }
-  m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(event.code)));
-  m_made->setChecked(event.isMade || !event.isShot());
-  if (event.hasPlace)
-    m_place = {event.x, event.y};
 }
 
 // The place decides between two and three points.
@@ -251,8 +366,10 @@ bool frmEDIT::fitsZone(EventCode kind) const {
 }
 
 void frmEDIT::showShot() {
-  const EventKind* kind =
-      m_isCounted ? kindOf(static_cast<EventCode>(m_kind->currentData().toInt())) : nullptr;
+  if (m_isCounted)
+    showWho();
+  showDetails();
+  const EventKind* kind = m_isCounted ? kindOf(this->kind()) : nullptr;
   const bool isMade = m_made->isChecked();
   const bool hasPlace = kind != nullptr && kind->isShot && kind->code != EventCode::GFT && m_place;
   m_made->setEnabled(kind != nullptr && kind->isShot);
@@ -272,22 +389,31 @@ void frmEDIT::showShot() {
 }
 
 frmEDIT::Typed frmEDIT::typed() const {
-  return {m_kind->currentData().toInt(), m_made->isChecked(), m_place};
+  return {m_player->currentData(), m_kind->currentData().toInt(), m_made->isChecked(), m_place,
+          m_details->changes()};
+}
+
+EventCode frmEDIT::kind() const {
+  return static_cast<EventCode>(m_kind->currentData().toInt());
 }
 
 int frmEDIT::clockSeconds() const {
   return typedClock(fromQt(m_time->text()), kMostSeconds).value_or(0);
 }
 
-// Nothing where the time alone can have changed.
+// Nothing where the time alone has changed: all else of the line stays, also what no box shows.
 std::optional<LiveGame::Counted> frmEDIT::counted() const {
-  if (!m_isCounted || !m_player->currentData().isValid())
+  const bool isTimeAlone = m_purpose == Purpose::Change && typed() == m_before;
+  if (!m_isCounted || !m_player->currentData().isValid() || isTimeAlone)
     return std::nullopt;
   const int player = m_player->currentData().toInt();
-  const auto code = static_cast<EventCode>(m_kind->currentData().toInt());
-  return LiveGame::Counted{code, kindOf(code)->isShot && m_made->isChecked(), player / kEntries,
+  const EventCode code = kind();
+  return LiveGame::Counted{code,
+                           kindOf(code)->isShot && m_made->isChecked(),
+                           player / kEntries,
                            player % kEntries,
-                           kindOf(code)->isShot && code != EventCode::GFT ? m_place : std::nullopt};
+                           kindOf(code)->isShot && code != EventCode::GFT ? m_place : std::nullopt,
+                           m_details->changes()};
 }
 
 } // namespace hooptab

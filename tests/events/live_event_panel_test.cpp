@@ -15,6 +15,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTableView>
@@ -343,6 +344,65 @@ TEST_F(LiveEventPanelTest, TheEditingPanelChangesWhatItShows) {
   EXPECT_EQ(live.game().events.size(), 7U) << "nothing is recorded";
   frmEDIT stop(live, {1, "2"}, frmEDIT::Purpose::Change, settings, texts);
   EXPECT_FALSE(stop.counted()) << "its time alone";
+}
+
+TEST_F(LiveEventPanelTest, TheEditingPanelAsksForDetailsWhereTheGameDoes) {
+  const auto boxesOf = [](const frmEDIT& window) {
+    std::string names;
+    for (const QComboBox* box :
+         window.findChildren<QComboBox*>(QRegularExpression(QStringLiteral("^cmbDETAIL"))))
+      names += fromQt(box->objectName()).at(10);
+    return names;
+  };
+  const auto box = [](frmEDIT& window, const char* name) -> QComboBox& {
+    return LiveRoom::find<QComboBox>(window, name);
+  };
+  const auto foul = [&] { return std::string(live.game().events.find(1, "6")->whole()); };
+  const auto changeFoul = [&](auto change) {
+    frmEDIT window(live, {1, "6"}, frmEDIT::Purpose::Change, settings, texts);
+    change(window);
+    const auto counted = window.counted(); // none where nothing was chosen
+    return !counted || live.editEvent({1, "6"}, window.clockSeconds(), *counted);
+  };
+  EXPECT_TRUE(changeFoul([&](frmEDIT& window) {
+    EXPECT_EQ(boxesOf(window), "");
+    EXPECT_EQ(box(window, "cmbKIND").findText(QStringLiteral("time-out")), -1);
+  }));
+  ASSERT_TRUE(live.replaceEvent({1, "6"}, 590, ",SPF,1-10,Z=9,F=5"));
+  EXPECT_TRUE(changeFoul([&](frmEDIT& window) {
+    EXPECT_EQ(boxesOf(window), "F") << "the game is of no level, and the foul has this one";
+    EXPECT_EQ(box(window, "cmbDETAIL(F)").currentText(), QStringLiteral("5"));
+  }));
+  ASSERT_TRUE(live.setDetails({{"NIVEAU", "LEAGUE"}}));
+  EXPECT_TRUE(changeFoul([&](frmEDIT& window) {
+    EXPECT_EQ(boxesOf(window), "KDF");
+    box(window, "cmbDETAIL(K)").setCurrentText(QStringLiteral("shooting"));
+    box(window, "cmbDETAIL(D)").setCurrentText(QStringLiteral("7 Fay"));
+  }));
+  EXPECT_EQ(foul(), "09:50,SPF,1-10,Z=9,F=5,K=S,D=0-7");
+  EXPECT_TRUE(changeFoul([&](frmEDIT& window) {
+    box(window, "cmbDETAIL(F)").setCurrentText(QStringLiteral("2"));
+    box(window, "cmbPLAYER").setCurrentIndex(1); // of the other team
+    EXPECT_EQ(box(window, "cmbDETAIL(D)").currentText(), QStringLiteral("–"));
+    EXPECT_EQ(box(window, "cmbDETAIL(F)").currentText(), QStringLiteral("2")) << "as it was chosen";
+  }));
+  EXPECT_EQ(foul(), "09:50,SPF,0-5,Z=9,K=S,F=2");
+  EXPECT_TRUE(live.undo() && live.undo());
+  EXPECT_EQ(foul(), "09:50,SPF,1-10,Z=9,F=5");
+
+  frmEDIT fresh(live, {1, "6"}, frmEDIT::Purpose::Insert, settings, texts);
+  auto& who = box(fresh, "cmbPLAYER");
+  who.setCurrentIndex(who.findText(QStringLiteral("PUMA 5 Bea")));
+  box(fresh, "cmbKIND").setCurrentText(QStringLiteral("time-out"));
+  EXPECT_EQ(who.currentText(), QStringLiteral("PUMA"));
+  EXPECT_EQ(boxesOf(fresh), "K");
+  EXPECT_EQ(box(fresh, "cmbDETAIL(K)").count(), 3) << "full or short";
+  box(fresh, "cmbKIND").setCurrentText(QStringLiteral("steal"));
+  EXPECT_EQ(who.currentText(), QStringLiteral("PUMA 5 Bea"));
+  box(fresh, "cmbKIND").setCurrentText(QStringLiteral("team turnover"));
+  who.setCurrentIndex(0);
+  ASSERT_TRUE(live.insertEvent({1, "6"}, LiveGame::Where::Behind, fresh.clockSeconds(), *fresh.counted()));
+  EXPECT_EQ(live.game().events.find(1, "7")->whole(), "09:50,XTV,0");
 }
 
 TEST_F(LiveEventPanelTest, ANewEventIsOfNobodyUntilSomebodyIsNamed) {
