@@ -11,10 +11,6 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QKeyEvent>
-#include <QMouseEvent>
-#include <QPainter>
-#include <QPainterPath>
 #include <QPushButton>
 
 #include <algorithm>
@@ -25,53 +21,26 @@ namespace {
 
 constexpr int kMates = 2;      // buttons side by side, with names
 constexpr int kRebounders = 3; // the same, without
-constexpr int kMargin = 9;
 constexpr int kGap = 4;
 constexpr int kBandMargin = 3;
-constexpr double kRadius = 8;
-constexpr int kArrow = 10;     // length
-constexpr int kArrowFoot = 10; // half of it
-constexpr int kBetween = 5;    // two panels
-constexpr int kFlash = 400;    // milliseconds
-constexpr int kSamePlace = 12; // pixels
-
-bool isDigit(const QKeyEvent& event) {
-  return event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
-}
-
-bool isModifier(int key) {
-  switch (key) {
-  case Qt::Key_Shift:
-  case Qt::Key_Control:
-  case Qt::Key_Alt:
-  case Qt::Key_AltGr:
-  case Qt::Key_Meta:
-  case Qt::Key_CapsLock:
-  case Qt::Key_NumLock:
-  case Qt::Key_ScrollLock: return true;
-  default: return false;
-  }
-}
 
 } // namespace
 
-FollowUpBar::FollowUpBar(const Texts& texts, QWidget* parent) : QWidget(parent), m_texts(texts) {
+FollowUpBar::FollowUpBar(const Texts& texts, QWidget* parent) : Bubble(parent), m_texts(texts) {
   m_assist = makeAssist();
   m_rebound = makeRebound();
   m_reasonRow = makeReason();
-  m_flash.setSingleShot(true);
-  m_flash.setInterval(kFlash);
-  connect(&m_flash, &QTimer::timeout, this, qOverload<>(&FollowUpBar::update));
   m_goingOn.setSingleShot(true);
   m_goingOn.setInterval(kMayGoOn);
   connect(&m_goingOn, &QTimer::timeout, this, &FollowUpBar::settle);
   setObjectName(QStringLiteral("FollowUp"));
-  // A click between the buttons is no click on what lies below.
-  setAttribute(Qt::WA_NoMousePropagation);
+  m_chips = new DetailChips(this);
+  connect(m_chips, &DetailChips::chosen, this, &FollowUpBar::chipChosen);
   auto* layout = new QVBoxLayout(this);
   layout->setSpacing(kGap);
   layout->addWidget(m_assist);
   layout->addWidget(m_rebound);
+  layout->addWidget(m_chips);
   layout->addWidget(m_reasonRow);
   relabel(*this, texts);
   hide();
@@ -148,6 +117,37 @@ JerseyButton* FollowUpBar::makeButton(QWidget* form, int index) {
   return button;
 }
 
+// Nobody in particular, but one of that team.
+QPushButton* FollowUpBar::makeTeam(QWidget* form, TeamButton which) {
+  auto* button = new QPushButton(form);
+  button->setObjectName(QStringLiteral("cmdTEAM(%1)").arg(which));
+  button->setFocusPolicy(Qt::TabFocus);
+  setTextNumber(*button, Text::OfTheTeam);
+  setToolTipNumber(*button, Text::OfTheTeamHint);
+  connect(button, &QPushButton::pressed, this, [this, button, which] {
+    button->setDown(false);
+    const int asked = m_question.shooterTeam();
+    answer(m_question.teamOf(which == OfOthers ? 1 - asked : asked));
+  });
+  m_teams[which] = button;
+  return button;
+}
+
+QPushButton* FollowUpBar::makeBlock(QWidget* form) {
+  m_block = new QPushButton(form);
+  m_block->setObjectName(QStringLiteral("cmdBLOCK"));
+  m_block->setCheckable(true);
+  m_block->setFocusPolicy(Qt::TabFocus);
+  setTextNumber(*m_block, Text::BlockedBy);
+  setToolTipNumber(*m_block, Text::BlockedByHint);
+  connect(m_block, &QPushButton::pressed, this, [this] {
+    m_block->setDown(false);
+    m_question.askBlock(!m_question.isAskingBlock());
+    showTyped();
+  });
+  return m_block;
+}
+
 QPushButton* FollowUpBar::makeNobody(QWidget* form, const char* name) {
   auto* nobody = new QPushButton(form);
   nobody->setObjectName(QLatin1String(name));
@@ -174,9 +174,13 @@ QWidget* FollowUpBar::makeAssist() {
   grid->addWidget(m_shooters, 1, 0, 1, kMates);
   for (int index = 0; index < kGroup; ++index) {
     m_mates[static_cast<std::size_t>(index)] = makeButton(form, index);
-    if (index < 2 * kMates) // the shooter is left out: four at most
-      grid->addWidget(m_mates[static_cast<std::size_t>(index)], 2 + index / kMates, index % kMates);
+    grid->addWidget(m_mates[static_cast<std::size_t>(index)], 2 + index / kMates, index % kMates);
   }
+  // The shooter is left out of his mates: the fifth stands there for opponents alone.
+  QSizePolicy fifth = m_mates.back()->sizePolicy();
+  fifth.setRetainSizeWhenHidden(false);
+  m_mates.back()->setSizePolicy(fifth);
+  grid->addWidget(makeTeam(form, InOneGroup), 4, 1);
   grid->addWidget(makeNobody(form, "cmdNOASS"), 5, 0, 1, kMates);
   return form;
 }
@@ -200,15 +204,17 @@ QWidget* FollowUpBar::makeRebound() {
       grid->addWidget(m_rebounders[static_cast<std::size_t>(index)], 2 + kRows * group + place / kRebounders,
                       place % kRebounders);
     }
+    grid->addWidget(makeTeam(form, group == 0 ? OfShooters : OfOthers), 3 + kRows * group, kRebounders - 1);
   }
-  grid->addWidget(makeNobody(form, "cmdNOREB"), 1 + 2 * kRows, 0, 1, kRebounders);
+  grid->addWidget(makeBlock(form), 1 + 2 * kRows, 0, 1, kRebounders);
+  grid->addWidget(makeNobody(form, "cmdNOREB"), 2 + 2 * kRows, 0, 1, kRebounders);
   return form;
 }
 
 // As wide as a panel of the live window: what lies beside it stays in reach.
 void FollowUpBar::setPanelWidth(int panel) {
   const Measure& measure = Theme::measure();
-  m_innerWidth = (panel > 0 ? panel : measure(210, 294)) - 2 * kMargin;
+  m_innerWidth = widthFor(panel);
   for (QLabel* band : {m_reason, m_shooters, m_groups[0], m_groups[1]})
     band->setFixedWidth(m_innerWidth);
   for (QLabel* number : m_numbers)
@@ -219,13 +225,16 @@ void FollowUpBar::setPanelWidth(int panel) {
   const QSize rebounder((m_innerWidth - (kRebounders - 1) * kGap) / kRebounders, measure(34, 44));
   for (JerseyButton* button : m_rebounders)
     button->setFixedSize(rebounder);
+  m_teams[OfShooters]->setFixedSize(rebounder);
+  m_teams[OfOthers]->setFixedSize(rebounder);
+  m_teams[InOneGroup]->setFixedSize(mate);
 }
 
 void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, std::size_t place) {
   const FollowUpQuestion::Choice& choice = m_question.choices()[place];
   const int team = choice.team();
   const RosterPlayer* who = game.game().roster[team].player(choice.player);
-  const bool hasName = m_question.isAssist() && who != nullptr;
+  const bool hasName = !m_question.isRebound() && who != nullptr;
   button.setLook({.jersey = toQt(choice.jersey),
                   .name = hasName ? toQt(familyName(who->name)) : QString(),
                   .colour = colourOf(game.game().details.teamColour[team]),
@@ -247,10 +256,18 @@ void FollowUpBar::nameTeam(const LiveGame& game, QLabel& band, const QString& wo
   band.setPalette(colours);
 }
 
-void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team, int shooter,
+void FollowUpBar::offerChips(std::vector<DetailChip> chips, int columns) {
+  m_nextChips = std::move(chips);
+  m_chipColumns = columns;
+}
+
+void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps, const Asked& asked,
                       const QRect& panel, const QRect& room) {
   dismiss();
-  m_question.ask(game, followUps, team, shooter);
+  m_sinceBlock.invalidate();
+  const std::vector<DetailChip> chips = std::exchange(m_nextChips, {});
+  const int team = asked.team;
+  m_question.ask(game, followUps, team, asked.player, asked.kind);
   if (m_question.choices().empty())
     return;
   setPanelWidth(panel.width());
@@ -265,55 +282,40 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
   };
   clear(m_mates);
   clear(m_rebounders);
-  std::array<std::size_t, 2> used = {}; // of the shooter's team, and of the other
+  const bool isRebound = m_question.isRebound();
+  std::array<std::size_t, 2> used = {}; // of the first team, and of the other
   for (std::size_t choice = 0; choice < m_question.choices().size(); ++choice) {
-    const std::size_t group = m_question.choices()[choice].team() == team ? 0 : 1;
+    const std::size_t group = !isRebound || m_question.choices()[choice].team() == team ? 0 : 1;
     if (used[group] == kGroup)
       continue;
     const std::size_t place = group * kGroup + used[group]++;
-    offer(game, m_question.isAssist() ? *m_mates[place] : *m_rebounders[place], choice);
+    offer(game, isRebound ? *m_rebounders[place] : *m_mates[place], choice);
   }
-  if (m_question.isAssist()) {
-    const RosterPlayer* who = game.game().roster[team].player(shooter);
-    nameTeam(game, *m_shooters,
-             QStringLiteral("● ") +
-                 (who != nullptr ? toQt(who->jersey + ' ' + familyName(who->name)) : QString()),
-             team);
-  } else {
+  if (isRebound) {
     const auto named = [&](Text text, int ofTeam) -> QString {
       return toQt(m_texts.text(text)) + QLatin1Char(' ') + toQt(game.game().details.name[ofTeam]);
     };
     nameTeam(game, *m_groups[0], named(Text::Offensive, team), team);
     nameTeam(game, *m_groups[1], named(Text::Defensive, 1 - team), 1 - team);
+  } else {
+    const RosterPlayer* who = game.game().roster[team].player(asked.player);
+    const std::string name =
+        who != nullptr ? who->jersey + ' ' + familyName(who->name) : game.game().details.abbreviation[team];
+    nameTeam(game, *m_shooters, QStringLiteral("● ") + toQt(name), team);
   }
-  m_assist->setVisible(m_question.isAssist());
-  m_rebound->setVisible(!m_question.isAssist());
+  m_assist->setVisible(!isRebound);
+  m_rebound->setVisible(isRebound);
+  m_teams[OfShooters]->setVisible(m_question.teamOf(team).has_value());
+  m_teams[OfOthers]->setVisible(m_question.teamOf(1 - team).has_value());
+  m_teams[InOneGroup]->setVisible(m_question.teamOf(team).has_value());
+  m_block->setVisible(m_question.canAskBlock());
+  m_chips->offer(chips, m_chipColumns, m_innerWidth);
   showTyped();
   placeBeside(panel, room);
   raise();
   show();
   m_isOpen = true;
   m_sinceOpened.start();
-}
-
-// On the panel of a neighbour, with an arrow to the shooter: the right one, and of the last the left one.
-void FollowUpBar::placeBeside(const QRect& panel, const QRect& room) {
-  const QRect inner(parentWidget()->mapFromGlobal(room.topLeft()), room.size());
-  const QRect beside(parentWidget()->mapFromGlobal(panel.topLeft()), panel.size());
-  const bool fitsRight = beside.right() + kBetween + m_innerWidth + 2 * kMargin <= inner.right() + 1;
-  m_points = panel.isEmpty() ? Points::Nowhere : fitsRight ? Points::Left : Points::Right;
-  layout()->setContentsMargins(kMargin + (m_points == Points::Left ? kArrow : 0), kMargin,
-                               kMargin + (m_points == Points::Right ? kArrow : 0), kMargin);
-  adjustSize();
-  QPoint corner = inner.center() - rect().center();
-  if (!panel.isEmpty())
-    corner = {fitsRight ? beside.right() + 1 + kBetween - kArrow
-                        : beside.left() - kBetween + kArrow - width(),
-              beside.center().y() - height() / 2};
-  const QSize free = parentWidget()->size() - size();
-  move(std::clamp(corner.x(), 0, std::max(free.width(), 0)),
-       std::clamp(corner.y(), 0, std::max(free.height(), 0)));
-  m_shooterAt = beside.center().y();
 }
 
 void FollowUpBar::settle() {
@@ -346,9 +348,20 @@ void FollowUpBar::answer(std::optional<FollowUpQuestion::Answer> answer) {
     showTyped();
     return;
   }
-  const EventCode code = m_question.codeFor(answer->team);
+  const EventCode code = m_question.codeFor(*answer);
+  if (m_question.isAskingBlock()) { // the rebound is still to come
+    if (!m_question.typed().empty())
+      m_sinceBlock.start();
+    m_question.askBlock(false);
+    showTyped();
+    emit chosen(*answer, code);
+    return;
+  }
   dismiss();
-  emit chosen(*answer, code);
+  if (code == EventCode::Unknown)
+    emit named(*answer);
+  else
+    emit chosen(*answer, code);
 }
 
 void FollowUpBar::refuse(Text text) {
@@ -357,16 +370,25 @@ void FollowUpBar::refuse(Text text) {
   flash();
 }
 
-void FollowUpBar::flash() {
-  m_flash.start();
-  update();
+Text FollowUpBar::titleText() const {
+  if (m_question.isAskingBlock())
+    return Text::BlockedBy;
+  switch (m_question.asks()) {
+  case FollowUpQuestion::Asks::Assist: return Text::AssistTitle;
+  case FollowUpQuestion::Asks::DrawnBy: return Text::DrawnByTitle;
+  case FollowUpQuestion::Asks::Shooter: return Text::ShooterTitle;
+  case FollowUpQuestion::Asks::Steal: return Text::StealTitle;
+  case FollowUpQuestion::Asks::Rebound: break;
+  }
+  return Text::ReboundTitle;
 }
 
 // The number, whom it leaves, and why it is not taken.
 void FollowUpBar::showTyped() {
-  const std::size_t form = m_question.isAssist() ? 0 : 1;
+  const std::size_t form = m_question.isRebound() ? 1 : 0;
   const bool isRefused = m_question.refusal().has_value();
-  m_titles[form]->setText(caption(m_texts, m_question.isAssist() ? Text::AssistTitle : Text::ReboundTitle));
+  m_titles[form]->setText(caption(m_texts, titleText()));
+  m_block->setChecked(m_question.isAskingBlock());
   const std::string& typed = m_question.typed();
   m_numbers[form]->setText(typed.empty() ? QString() : toQt(typed) + QLatin1Char('_'));
   QPalette colours = QApplication::palette();
@@ -381,9 +403,8 @@ void FollowUpBar::showTyped() {
   m_waysOut[0]->setVisible(hasWays);
   m_waysOut[1]->setVisible(hasWays && m_question.refusal()->canComeIn);
   m_reasonRow->setVisible(!m_reason->text().isEmpty());
-  adjustSize();
   if (m_isOpen)
-    move(x(), std::clamp(y(), 0, std::max(parentWidget()->height() - height(), 0)));
+    keepInParent();
   showMarks();
 }
 
@@ -404,155 +425,6 @@ void FollowUpBar::showMarks() {
     }
     m_waysOut[way]->setPalette(colours);
   }
-}
-
-// Enter is the question's, whatever it is bound to; the clock's keys stay the clock's. Backspace takes back
-// what was typed on the main keyboard: no keypad of 17 keys has one, and those that have use it to confirm.
-FollowUpKey FollowUpBar::meaningOf(const QKeyEvent& event) const {
-  using Kind = FollowUpKey::Kind;
-  const bool isPlain = (event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) == Qt::NoModifier;
-  if (event.key() == Qt::Key_Backspace && isPlain && !m_question.typed().empty() && !m_isTypedOnKeypad)
-    return {Kind::TakeBack};
-  const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  if (isEnter && isPlain && !event.modifiers().testFlag(Qt::KeypadModifier))
-    return {Kind::Take};
-  if (m_readKey) {
-    if (const auto bound = m_readKey(event))
-      return *bound;
-  }
-  if (!isPlain)
-    return {};
-  if (isEnter)
-    return {Kind::Take};
-  if (event.key() == Qt::Key_Space && event.modifiers() == Qt::NoModifier)
-    return {Kind::Clock};
-  if (event.key() == Qt::Key_Escape)
-    return {Kind::Clear};
-  return isDigit(event) ? FollowUpKey{Kind::Digit, event.key() - Qt::Key_0} : FollowUpKey{};
-}
-
-bool FollowUpBar::ownsKey(const QKeyEvent& event) const {
-  switch (meaningOf(event).kind) {
-  case FollowUpKey::Kind::Digit:
-  case FollowUpKey::Kind::Take:
-  case FollowUpKey::Kind::TakeBack:
-  case FollowUpKey::Kind::Clear: return true;
-  case FollowUpKey::Kind::Clock: return false;
-  case FollowUpKey::Kind::GoOn: break;
-  }
-  if (m_readKey && m_readKey(event))
-    return false;
-  return (event.key() == Qt::Key_Left || event.key() == Qt::Key_Right) && event.modifiers() == Qt::NoModifier;
-}
-
-void FollowUpBar::takeKey(const QKeyEvent& event) {
-  const FollowUpKey meaning = meaningOf(event);
-  m_ownRefusal = Text::None;
-  m_goingOn.stop();
-  m_whole.reset(); // Enter takes it by its mark, all other keys have another mind
-  switch (meaning.kind) {
-  case FollowUpKey::Kind::Digit:
-    m_isTypedOnKeypad = event.modifiers().testFlag(Qt::KeypadModifier);
-    m_whole = m_question.type(meaning.digit);
-    if (m_whole)
-      m_goingOn.start();
-    return showTyped();
-  case FollowUpKey::Kind::Take:
-    if (m_question.typed().empty() && !m_question.marked())
-      return dismiss();
-    return answer(m_question.enter(meaning.team));
-  case FollowUpKey::Kind::TakeBack: m_question.takeBackDigit(); return showTyped();
-  case FollowUpKey::Kind::Clear:
-    if (event.key() == Qt::Key_Escape || m_question.typed().empty())
-      return dismiss();
-    m_question.clearTyped();
-    return showTyped();
-  case FollowUpKey::Kind::Clock:
-  case FollowUpKey::Kind::GoOn: break;
-  }
-  m_question.moveMark(event.key() == Qt::Key_Left ? -1 : 1);
-  showTyped();
-}
-
-// What is pressed elsewhere closes it; true for a press that goes no further.
-bool FollowUpBar::takePress(QWidget& widget, const QMouseEvent& event) {
-  const bool isInside = &widget == this || isAncestorOf(&widget);
-  const QPoint at = event.globalPosition().toPoint();
-  const bool isSecond = m_sinceAnswer.isValid() && !m_sinceAnswer.hasExpired(kSecondPress) &&
-                        (at - m_answeredAt).manhattanLength() < kSamePlace && widget.window() == window();
-  m_sinceAnswer.invalidate();
-  if (isSecond)
-    emit pressIgnored();
-  if (isSecond || !m_isOpen)
-    return isSecond;
-  if (!isInside) {
-    dismiss();
-    return false;
-  }
-  if (!m_sinceOpened.hasExpired(kDeafFor)) {
-    refuse(Text::TooSoon);
-    return true;
-  }
-  ignoreSecondPress(at);
-  return false;
-}
-
-void FollowUpBar::ignoreSecondPress(const QPoint& globalPlace) {
-  m_sinceAnswer.start();
-  m_answeredAt = globalPlace;
-}
-
-// Sees every event of the program. Only its own keys stay here.
-bool FollowUpBar::eventFilter(QObject* watched, QEvent* event) {
-  auto* const widget = qobject_cast<QWidget*>(watched);
-  // What is typed or pressed in the window in front is no answer to a question that lies behind it.
-  if (widget == nullptr || (m_isOpen && !isVisible()))
-    return false;
-  const QEvent::Type type = event->type();
-  if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick)
-    return takePress(*widget, static_cast<const QMouseEvent&>(*event));
-  if (!m_isOpen || (type != QEvent::KeyPress && type != QEvent::ShortcutOverride))
-    return false;
-  auto& key = static_cast<QKeyEvent&>(*event);
-  const bool isOwn = ownsKey(key) && widget->window() == window();
-  if (!isOwn) {
-    if (!isModifier(key.key()) && !key.isAutoRepeat() && meaningOf(key).kind != FollowUpKey::Kind::Clock)
-      dismiss();
-    return false;
-  }
-  // Otherwise a shortcut of the same key would come first.
-  if (type == QEvent::ShortcutOverride)
-    event->accept();
-  else if (!key.isAutoRepeat() || key.key() == Qt::Key_Backspace)
-    takeKey(key);
-  return true;
-}
-
-void FollowUpBar::paintEvent(QPaintEvent*) {
-  const Look& look = Theme::look();
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double width = m_flash.isActive() ? 4 : 2;
-  painter.setPen(QPen(m_flash.isActive() ? look.missed : look.accent, width));
-  painter.setBrush(look.surface);
-  const double left = m_points == Points::Left ? kArrow : width / 2;
-  const double right = m_points == Points::Right ? kArrow : width / 2;
-  const QRectF body = QRectF(rect()).adjusted(left, width / 2, -right, -width / 2);
-  QPainterPath shape;
-  shape.addRoundedRect(body, kRadius, kRadius);
-  if (m_points != Points::Nowhere) {
-    const double foot = m_points == Points::Left ? body.left() : body.right();
-    const double tip = m_points == Points::Left ? foot - kArrow + width : foot + kArrow - width;
-    const double middle =
-        std::clamp<double>(m_shooterAt - y(), kRadius + kArrow, height() - kRadius - kArrow);
-    QPainterPath arrow;
-    arrow.addPolygon(QPolygonF({{foot, middle - kArrowFoot},
-                                {tip, middle},
-                                {foot, middle + kArrowFoot},
-                                {foot, middle - kArrowFoot}}));
-    shape = shape.united(arrow);
-  }
-  painter.drawPath(shape);
 }
 
 } // namespace hooptab

@@ -1,16 +1,16 @@
-// Who assisted, who took the rebound: asked beside the shooter's panel right after the shot, and never in the
-// way. Answered by a click or the jersey's number; whatever is done elsewhere closes it as "Nobody" and is
-// then carried out as what it was, but for the clock, which can be stopped. Says who was chosen; records
-// nothing.
+// Who assisted, who took the rebound, who drew the foul: asked beside the player's panel right after the
+// event, and never in the way. Answered by a click or the jersey's number; whatever is done elsewhere closes
+// it as "Nobody" and is then carried out as what it was, but for the clock, which can be stopped. Says who
+// was chosen and what else was; records nothing.
 #pragma once
 
+#include "events/Bubble.h"
+#include "events/DetailChips.h"
 #include "recording/FollowUpQuestion.h"
 
 #include <QElapsedTimer>
 #include <QPoint>
 #include <QTimer>
-#include <QWidget>
-
 #include <array>
 #include <functional>
 #include <optional>
@@ -29,13 +29,15 @@ class Texts;
 
 // What a key that is bound elsewhere means to the question.
 struct FollowUpKey {
-  enum class Kind { Digit, Take, TakeBack, Clear, Clock, GoOn };
+  enum class Kind { Digit, Take, TakeBack, Clear, Clock, Action, Chip, GoOn };
   Kind kind = Kind::GoOn;
   int digit = 0;
   std::optional<int> team = std::nullopt; // of two equal numbers Take takes the one of this team
+  EventCode code = EventCode::Unknown;    // of an Action: what it records elsewhere
+  std::size_t chip = 0;                   // of a Chip
 };
 
-class FollowUpBar : public QWidget {
+class FollowUpBar : public Bubble {
   Q_OBJECT
  public:
   // Lies over `parent`, the live window. `texts` must outlive it.
@@ -52,8 +54,19 @@ class FollowUpBar : public QWidget {
   // Opens beside the shooter's panel and inside `room`, both in global coordinates: what he is recorded with
   // stays free. For one who is not on court `panel` is empty, and it opens in the middle of the room. One
   // that was open closes as "Nobody". With nobody to choose, nothing opens.
-  void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team, int shooter,
-           const QRect& panel, const QRect& room);
+  struct Asked {
+    int team = 0;
+    int player = 0;                      // entry; 0: the team
+    EventCode kind = EventCode::Unknown; // what he did
+  };
+  void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, const Asked& asked, const QRect& panel,
+           const QRect& room);
+  // What else can be chosen of the event that the next question is about; with letters of their own where the
+  // captions are letters.
+  void offerChips(std::vector<DetailChip> chips, int columns);
+  // Whom a press outside names, where the question is about an opponent.
+  using PlayerFinder = std::function<std::optional<FollowUpQuestion::Answer>(const QWidget& pressed)>;
+  void setPlayerFinder(PlayerFinder finder) { m_findPlayer = std::move(finder); }
   // Asked first for every key; nothing for one that means here what it always does.
   using KeyReader = std::function<std::optional<FollowUpKey>(const QKeyEvent& event)>;
   void setKeyReader(KeyReader reader) { m_readKey = std::move(reader); }
@@ -67,6 +80,9 @@ class FollowUpBar : public QWidget {
  signals:
   // After closed(), so that a further question can be asked.
   void chosen(const hooptab::FollowUpQuestion::Answer& answer, hooptab::EventCode code);
+  // Who drew the foul, or shoots for it: no event of its own.
+  void named(const hooptab::FollowUpQuestion::Answer& answer);
+  void chipChosen(std::string_view key, const std::string& value);
   void closed();                   // in any case
   void pressIgnored();             // a second one where one has just answered
   void numberTyped(bool onKeypad); // its last digit has chosen a player
@@ -74,10 +90,10 @@ class FollowUpBar : public QWidget {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void hideEvent(QHideEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
 
  private:
   static constexpr int kGroup = LiveGame::kSlotsOfTeam;
+  enum TeamButton : std::size_t { OfShooters, OfOthers, InOneGroup };
 
   QWidget* makeAssist();
   QWidget* makeRebound();
@@ -86,10 +102,15 @@ class FollowUpBar : public QWidget {
   QPushButton* makeNobody(QWidget* form, const char* name);
   QWidget* makeReason();
   JerseyButton* makeButton(QWidget* form, int index);
+  QPushButton* makeTeam(QWidget* form, TeamButton which);
+  QPushButton* makeBlock(QWidget* form);
   void setPanelWidth(int panel);
   void offer(const LiveGame& game, JerseyButton& button, std::size_t choice);
   void nameTeam(const LiveGame& game, QLabel& band, const QString& words, int team);
-  void placeBeside(const QRect& panel, const QRect& room);
+  [[nodiscard]] Text titleText() const;
+  [[nodiscard]] std::optional<FollowUpQuestion::Answer> teamMeantBy(EventCode code) const;
+  [[nodiscard]] bool takesAction(EventCode code) const;
+  [[nodiscard]] std::optional<std::size_t> chipOf(const QKeyEvent& event) const;
   [[nodiscard]] FollowUpKey meaningOf(const QKeyEvent& event) const;
   bool ownsKey(const QKeyEvent& event) const;
   void takeKey(const QKeyEvent& event);
@@ -97,10 +118,10 @@ class FollowUpBar : public QWidget {
   void answer(std::optional<FollowUpQuestion::Answer> answer);
   void showTyped();
   void showMarks();
-  void flash();
 
   const Texts& m_texts;
   KeyReader m_readKey;
+  PlayerFinder m_findPlayer;
   QWidget* m_assist = nullptr;
   QWidget* m_rebound = nullptr;
   QWidget* m_reasonRow = nullptr;
@@ -111,10 +132,12 @@ class FollowUpBar : public QWidget {
   std::array<QLabel*, 2> m_titles = {};
   std::array<QLabel*, 2> m_numbers = {};
   QLabel* m_reason = nullptr;
-  int m_innerWidth = 0; // between the margins
-  enum class Points { Nowhere, Left, Right };
-  Points m_points = Points::Nowhere;          // to the shooter
-  int m_shooterAt = 0;                        // his height in the parent
+  std::array<QPushButton*, 3> m_teams = {}; // by TeamButton
+  QPushButton* m_block = nullptr;
+  DetailChips* m_chips = nullptr;
+  std::vector<DetailChip> m_nextChips; // of the next question
+  int m_chipColumns = 1;
+  int m_innerWidth = 0;                       // between the margins
   std::array<QPushButton*, 2> m_waysOut = {}; // in the order of FollowUpQuestion::WayOut
 
   FollowUpQuestion m_question;
@@ -126,8 +149,8 @@ class FollowUpBar : public QWidget {
   Text m_ownRefusal = Text::None; // text of refuse()
   QElapsedTimer m_sinceOpened;
   QElapsedTimer m_sinceAnswer; // by a press
+  QElapsedTimer m_sinceBlock;  // typed; until the next key
   QPoint m_answeredAt;         // global
-  QTimer m_flash;
 };
 
 } // namespace hooptab

@@ -75,7 +75,11 @@ std::optional<FollowUpKey> LiveKeys::followUpKey(const QKeyEvent& event) {
   case KeypadInput::Meaning::Clear: return FollowUpKey{FollowUpKey::Kind::Clear};
   case KeypadInput::Meaning::Clock:
     return FollowUpKey{press.code == keys::kEnter ? FollowUpKey::Kind::Take : FollowUpKey::Kind::Clock};
-  case KeypadInput::Meaning::Other: return FollowUpKey{FollowUpKey::Kind::GoOn};
+  case KeypadInput::Meaning::Other: {
+    const EventCode code = m_input.recordedBy(press);
+    return code == EventCode::Unknown ? FollowUpKey{FollowUpKey::Kind::GoOn}
+                                      : FollowUpKey{.kind = FollowUpKey::Kind::Action, .code = code};
+  }
   case KeypadInput::Meaning::None: break;
   }
   return std::nullopt;
@@ -150,14 +154,16 @@ void LiveKeys::take(const KeyPress& press) {
 void LiveKeys::carryOutOrder() {
   const KeypadOrder order = m_input.order();
   const bool isOnCourt = order.player == 0 || m_game.slotOf(order.team, order.player).has_value();
-  const bool comesOrGoes = order.kind != KeypadOrder::Kind::Shot && order.kind != KeypadOrder::Kind::Action;
-  if (!carryOut(*m_session.change(), order))
+  const bool isOfPlayer = order.kind == KeypadOrder::Kind::Shot || order.kind == KeypadOrder::Kind::Action;
+  const bool isTaken = m_taker && m_taker(order);
+  if (!isTaken && !carryOut(*m_session.change(), order))
     return refuse(std::string(m_texts.text(Text::NothingRecorded)));
   std::string words = "✓ " + KeypadInput::words(order, m_game.game(), m_texts);
-  if (!isOnCourt && !comesOrGoes)
+  if (!isOnCourt && isOfPlayer)
     words.append(" (").append(m_texts.text(Text::NotOnCourt)).append(")");
   m_display->show({}, toQt(words), KeypadDisplay::Tone::Recorded, m_input.setup().flashes);
-  emit recorded(order);
+  if (!isTaken)
+    emit recorded(order);
 }
 
 void LiveKeys::refuse(const std::string& why) {

@@ -11,6 +11,8 @@
 #include <QElapsedTimer>
 #include <QObject>
 
+#include <functional>
+
 namespace hooptab {
 
 class KeypadDisplay;
@@ -29,6 +31,9 @@ class LiveKeys : public QObject {
   void forget();      // another game, or the keypad was switched off
   void relabelKeys(); // the language has changed
   void showSheet();   // or hides it
+  // Carries an order out in another way than the game would; false where it does not.
+  void setTaker(std::function<bool(const KeypadOrder& order)> taker) { m_taker = std::move(taker); }
+  [[nodiscard]] bool isTyping() const { return !m_input.isEmpty(); }
 
  signals:
   void clockPressed();
@@ -53,6 +58,7 @@ class LiveKeys : public QObject {
   const Settings& m_settings;
   const Texts& m_texts;
   QWidget& m_window;
+  std::function<bool(const KeypadOrder&)> m_taker;
   KeypadInput m_input;
   QElapsedTimer m_sinceAnswer; // typed on the main keyboard; until the next key
   KeypadDisplay* m_display = nullptr;

@@ -11,6 +11,7 @@
 #include "events/JerseyButton.h"
 #include "events/LiveEventPanel.h"
 #include "events/MessageLine.h"
+#include "game/RuleSets.h"
 #include "live/BenchPanel.h"
 #include "live/HeldKeys.h"
 #include "live/LiveFile.h"
@@ -22,10 +23,10 @@
 #include "live/PlayerPanel.h"
 #include "live/RepeatedPress.h"
 #include "live/RosterStrip.h"
-#include "live/ScorePanel.h"
 #include "live/SideSwitch.h"
 #include "live/frmGAMEOVER.h"
 #include "live/frmOVERTIME.h"
+#include "scoreboard/ScorePanel.h"
 #include "settings/Settings.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
@@ -198,6 +199,7 @@ void frmLIVE::connectEverything() {
   connectCard();
   connectKeys();
   connectPlayers();
+  connectLeague();
 }
 
 void frmLIVE::resizeEvent(QResizeEvent*) {
@@ -254,6 +256,8 @@ frmLIVE::Opening frmLIVE::open(const QString& path, GameLock lock) {
     return Opening::Problem;
   m_notices->forget();
   m_card->hide();
+  m_throws.end();
+  m_score->endTimeOuts();
   m_endedPeriod = m_game.endedPeriod(); // an end of another day is no news
   m_isSwitched = false;
   m_correction->end();
@@ -311,6 +315,7 @@ void frmLIVE::showGame() {
   m_correction->gameChanged();
   showSelected();
   m_events->showGame(m_game);
+  showLeague();
   m_file->show();
   m_offersClock = m_offersClock && (m_game.isStopLost() || m_game.wasClosedInPlay());
   m_notices->showLostStop(m_offersClock);
@@ -422,10 +427,14 @@ void frmLIVE::showPeriodEnd() {
 }
 
 void frmLIVE::askOvertime() {
-  // One overtime is behind; until then a slip of the hand can be mended by being asked again.
-  if (const GameDetails& details = m_game.game().details;
-      details.overtimeMinutes > 0 && m_game.isOvertime()) {
-    (void)m_session.change()->beginOvertime(details.overtimeMinutes, details.keepsBonus);
+  // By the rules, or as the overtime before; until then a slip of the hand can be mended by being asked
+  // again.
+  const GameDetails& details = m_game.game().details;
+  const RuleSet* const rules = ruleSetOf(details.ruleSet);
+  const bool isFirst = !m_game.isOvertime();
+  const int minutes = !isFirst ? details.overtimeMinutes : rules != nullptr ? rules->overtimeMinutes : 0;
+  if (minutes > 0) {
+    (void)m_session.change()->beginOvertime(minutes, isFirst ? rules->keepsFouls : details.keepsBonus);
     return;
   }
   frmOVERTIME window(m_game.game().details, m_texts, this);
@@ -470,6 +479,7 @@ void frmLIVE::keypadSwitched() {
 void frmLIVE::switchSides() {
   m_isSwitched = !m_isSwitched;
   showSides();
+  showThrows();
 }
 
 void frmLIVE::showSides() {

@@ -7,6 +7,7 @@
 #include "court/ZoneMap.h"
 #include "recording/EventCorrection.h"
 #include "recording/FollowUpQuestion.h"
+#include "recording/FoulThrows.h"
 #include "recording/GameSession.h"
 #include "recording/ToggleGuard.h"
 #include "storage/GameLock.h"
@@ -18,6 +19,7 @@
 
 class QBoxLayout;
 class QScrollArea;
+class QShortcut;
 
 namespace hooptab {
 
@@ -27,6 +29,7 @@ class CorrectionBar;
 class Dialogs;
 class EventRequests;
 class FollowUpBar;
+class FreeThrowBar;
 class LiveEventPanel;
 class GameHold;
 class LiveFile;
@@ -97,6 +100,7 @@ class frmLIVE : public ChildWindow {
   void connectCard();
   void connectKeys();
   void connectPlayers();
+  void connectLeague();
   void correct(const EventPlace& event);
   void addPlayer(int team);
   void putInPlace(int slot);
@@ -119,6 +123,21 @@ class frmLIVE : public ChildWindow {
   void hear(const GameNews& news);
   void withdrawAfter(LiveGame::Phase before);
   void afterShot(int team, int player, EventCode kind, bool isMade);
+  void tellTarget(int team, EventCode kind, bool isMade);
+  void afterAction(int team, int player, EventCode kind);
+  void ask(int team, int player, EventCode kind, bool isMade);
+  void offerChips(EventCode kind);
+  void nameOpponent(const FollowUpQuestion::Answer& answer);
+  void showThrows();
+  void throwFree(bool isMade);
+  [[nodiscard]] bool isOwed(int team, int player, EventCode kind) const; // on the strip
+  void showLeague();
+  [[nodiscard]] bool isSlip(EventCode kind, int team);
+  void noteOfTeam(EventCode kind, int team);
+  void takeTimeOut(int team, const std::string& kind = {});
+  void setArrow(int team);
+  void showTeamMenu(int team, const QPoint& place);
+  bool recordOfTeam(int team, EventCode kind, const std::string& detail);
   void offerToPutIn(const EventPlace& event, int team, int player);
   void askBenchShot(int team, int player, const QPoint& place);
   void shootFromBench(EventCode kind, bool isMade, std::optional<std::pair<double, double>> place);
@@ -167,6 +186,12 @@ class frmLIVE : public ChildWindow {
   BenchPanel* m_bench = nullptr;
   LiveEventPanel* m_events = nullptr;
   FollowUpBar* m_followUp = nullptr;
+  FreeThrowBar* m_throwBar = nullptr;
+  FoulThrows m_throws;
+  std::vector<QShortcut*> m_leagueKeys;
+  QElapsedTimer m_sinceOfTeam; // the last of m_lastOfTeam
+  std::pair<EventCode, int> m_lastOfTeam = {EventCode::Unknown, 0};
+  EventPlace m_asked;        // the event that the questions are about
   QWidget* m_side = nullptr; // the column beside the panels
   LiveKeys* m_keys = nullptr;
   RepeatedPress* m_repeats = nullptr;

@@ -81,6 +81,8 @@ void frmLIVE::connectKeys() {
     m_notices->message().withdraw();
     if (order.kind == KeypadOrder::Kind::Shot)
       afterShot(order.team, order.player, order.code, order.isMade);
+    else if (order.kind == KeypadOrder::Kind::Action || order.kind == KeypadOrder::Kind::OfTeam)
+      afterAction(order.team, order.player, order.code);
   });
 
   // Ahead of any focused button, which Ctrl+Space presses.
@@ -111,6 +113,8 @@ void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pa
   const int team = LiveGame::teamOf(slot);
   const int player = m_game.playerIn(slot);
   m_notices->message().withdraw(); // what it offers was about the event before
+  if (isOwed(team, player, kind))
+    return throwFree(isMade);
   if (!m_session.change()->recordShot(team, player, kind, isMade, place))
     return;
   m_repeats->noteRecorded();
@@ -124,16 +128,9 @@ void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
   m_correction->end();
   if (!isMade && !m_settings.asksRebounds && !std::exchange(m_hasMissed, true))
     say(Text::MissedAskRebound);
-  const auto followUps = m_game.followUps(team, player, kind, isMade, m_settings.asksRebounds);
-  const auto slot = m_game.slotOf(team, player);
-  const auto placeOf = [](const QWidget& widget) {
-    return QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size());
-  };
-  m_followUp->ask(m_game, followUps, team, player, slot ? placeOf(m_panels->panel(*slot)) : QRect(),
-                  placeOf(*m_panels));
-  m_askedAbout = m_followUp->isOpen() ? EventCorrection::Who{team, player} : EventCorrection::Who();
-  showSelected();
-  if (slot)
+  ask(team, player, kind, isMade);
+  tellTarget(team, kind, isMade);
+  if (m_game.slotOf(team, player))
     return;
   const EventPlace shot = m_game.lastShot();
   m_afterQuestion = [this, shot, team, player] { offerToPutIn(shot, team, player); };
@@ -171,13 +168,21 @@ void frmLIVE::shootFromBench(EventCode kind, bool isMade, std::optional<std::pai
 }
 
 void frmLIVE::followUp(const FollowUpQuestion::Answer& answer, EventCode kind) {
-  const EventPlace shot = m_game.lastShot();
-  if (!m_session.change()->recordFollowUp(answer.team, answer.player, kind))
+  const EventPlace event = m_asked;
+  const EventKind* what = kindOf(kind);
+  if (what != nullptr && what->isOfTeam) {
+    if (kind == EventCode::XTV)
+      (void)m_session.change()->giveToTeam(event);
+    else if (event.period == m_game.period()) // no team has the rebound of a shot that the period ended with
+      (void)m_session.change()->recordOfTeam(answer.team, kind);
+    return;
+  }
+  if (!m_session.change()->recordFollowUp(event, answer.team, answer.player, kind))
     return;
   if (answer.comesIn)
-    m_requests->putIn(shot, answer.team, answer.player);
+    m_requests->putIn(event, answer.team, answer.player);
   else if (!answer.isOnCourt)
-    offerToPutIn(shot, answer.team, answer.player);
+    offerToPutIn(event, answer.team, answer.player);
 }
 
 void frmLIVE::act(int slot, EventCode kind) {
@@ -191,6 +196,8 @@ bool frmLIVE::record(int team, int player, EventCode kind) {
   const bool isRecorded = m_session.change()->recordAction(team, player, kind);
   if (m_bench->isSelected(team, player))
     m_bench->clearSelection();
+  if (isRecorded)
+    afterAction(team, player, kind);
   return isRecorded;
 }
 

@@ -16,7 +16,7 @@ floors=(
   "teams checks totals"
   "setup forms recording catalogue scorecard simulator"
   "keypad manual season"
-  "events report"
+  "events report scoreboard"
   "live printing"
   "shell"
 )

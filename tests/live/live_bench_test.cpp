@@ -177,8 +177,8 @@ class FollowUpTest : public BenchTest {
       QObject::connect(shortcut, &QShortcut::activated, [this] { answers += bar.isOpen() ? "!" : "s"; });
     }
   }
-  void askAssist() { bar.ask(live, live.followUps(0, 1, EventCode::GFG, true, true), 0, 1, {}, room()); }
-  void askRebound() { bar.ask(live, live.followUps(1, 1, EventCode::GFG, false, true), 1, 1, {}, room()); }
+  void askAssist() { bar.ask(live, live.followUps(0, 1, EventCode::GFG, true, true), {0, 1}, {}, room()); }
+  void askRebound() { bar.ask(live, live.followUps(1, 1, EventCode::GFG, false, true), {1, 1}, {}, room()); }
   QRect room() const { return {window.mapToGlobal(QPoint(0, 0)), window.size()}; }
   // When it has been open for long enough.
   static void pressLater(QWidget& widget) {
@@ -226,11 +226,11 @@ TEST_F(FollowUpTest, IsAnsweredByAClickThatIsMeant) {
   askRebound();
   pressLater(jersey(rebound, 5));
   EXPECT_EQ(taken(), ".O12.D01");
-  bar.ask(live, live.followUps(0, 6, EventCode::GFG, true, true), 0, 6, {}, room());
+  bar.ask(live, live.followUps(0, 6, EventCode::GFG, true, true), {0, 6}, {}, room());
   EXPECT_TRUE(jersey(assist, 4).isVisible()) << "of one who is not on court all five are offered";
   pressLater(find<QPushButton>(bar, "cmdNOASS"));
   EXPECT_EQ(taken(), ".");
-  bar.ask(live, {}, 0, 1, {}, room());
+  bar.ask(live, {}, {0, 1}, {}, room());
   EXPECT_FALSE(bar.isOpen()) << "nobody to choose";
 }
 
@@ -296,7 +296,7 @@ TEST_F(FollowUpTest, AnythingElsewhereClosesItAndHappensButForTheClock) {
 TEST_F(FollowUpTest, StandsBesideTheShooter) {
   for (const int left : {0, 220, 480}) {
     const QRect panel(window.mapToGlobal(QPoint(left, 10)), QSize(210, 300));
-    bar.ask(live, live.followUps(0, 1, EventCode::GFG, false, true), 0, 1, panel, room());
+    bar.ask(live, live.followUps(0, 1, EventCode::GFG, false, true), {0, 1}, panel, room());
     const QRect place(bar.mapToGlobal(QPoint(0, 0)), bar.size());
     EXPECT_TRUE(window.rect().contains(bar.geometry())) << left;
     constexpr int kEdge = 5; // of a panel, beside its buttons: as far as the arrow reaches

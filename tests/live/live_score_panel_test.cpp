@@ -1,10 +1,10 @@
 #include "appearance/Theme.h"
 #include "live/LiveRoom.h"
 #include "live/NowStrip.h"
-#include "live/ScorePanel.h"
 #include "live/SideSwitch.h"
 #include "live/frmGAMEOVER.h"
 #include "live/frmOVERTIME.h"
+#include "scoreboard/ScorePanel.h"
 #include "support/TextGame.h"
 
 #include <QCheckBox>

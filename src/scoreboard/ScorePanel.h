@@ -39,6 +39,9 @@ class ScorePanel : public QWidget {
   void showRefused();        // a press on the clock's button or key that did nothing
   void relabelPanel();       // behind relabel()
   void applyColours();
+  void beginTimeOut(int team); // its seconds run on its card
+  void endTimeOuts();
+  [[nodiscard]] int teamOnTheLeft() const { return m_areTurned ? 1 : 0; }
 
  signals:
   void startAsked();
@@ -46,6 +49,9 @@ class ScorePanel : public QWidget {
   void periodAsked(int period);
   void clockAsked(int seconds);
   void colourAsked(int team);
+  void timeOutAsked(int team);
+  void arrowAsked(int team);
+  void teamMenuAsked(int team, const QPoint& place); // of the screen
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -65,6 +71,7 @@ class ScorePanel : public QWidget {
   void makeTeam(int team);
   void makeClock();
   void makePeriod();
+  void setHeight();
   void layOut();
   void showTeam(std::size_t team);
   void showClockButtons();
@@ -79,6 +86,7 @@ class ScorePanel : public QWidget {
   const LiveGame* m_game = nullptr; // shown last
   bool m_team0PlaysRight = false;
   bool m_areTurned = false; // team 0 stands on the right
+  int m_foulsHeight = 0;
   QTimer m_refused;
   std::array<Side, 2> m_sides;
   QRect m_plate;

@@ -1,4 +1,4 @@
-#include "live/PeriodScores.h"
+#include "scoreboard/PeriodScores.h"
 
 #include "appearance/ElidedLabel.h"
 #include "appearance/Theme.h"

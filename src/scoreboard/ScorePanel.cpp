@@ -1,13 +1,13 @@
-#include "live/ScorePanel.h"
+#include "scoreboard/ScorePanel.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "live/FoulCard.h"
-#include "live/PeriodScores.h"
-#include "live/StartButton.h"
 #include "recording/ScoreText.h"
+#include "scoreboard/FoulCard.h"
+#include "scoreboard/PeriodScores.h"
+#include "scoreboard/StartButton.h"
 #include "storage/Module1.h"
 
 #include <QApplication>
@@ -33,7 +33,6 @@ constexpr Both kPlateHeight{140, 198};
 constexpr Both kTeamHeight{60, 82};
 constexpr Both kCentre{54, 70}; // of the plate, for the period
 constexpr Both kStartHeight{38, 48};
-constexpr Both kFoulsHeight{44, 54};
 constexpr Both kPeriodsHeight{70, 82};
 constexpr Both kGap{5, 9};
 constexpr Both kMargin{8, 12};
@@ -124,6 +123,9 @@ void ScorePanel::makeTeam(int team) {
   side.points = label(QStringLiteral("lblPTS%1").arg(team));
   side.points->setParent(side.plate);
   side.fouls = new FoulCard(team, m_texts, this);
+  connect(side.fouls, &FoulCard::timeOutAsked, this, &ScorePanel::timeOutAsked);
+  connect(side.fouls, &FoulCard::arrowAsked, this, &ScorePanel::arrowAsked);
+  connect(side.fouls, &FoulCard::menuAsked, this, &ScorePanel::teamMenuAsked);
 }
 
 void ScorePanel::makeClock() {
@@ -189,7 +191,7 @@ void ScorePanel::layOut() {
     side.points->setAlignment((isLeft ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     const int half = (width() - gap) / 2;
     side.fouls->setGeometry(isLeft ? 0 : width() - half, kPlateHeight.now() + kStartHeight.now() + 2 * gap,
-                            half, kFoulsHeight.now());
+                            half, m_foulsHeight);
   }
   const QRect centre(margin + teamWidth, margin, width() - 2 * (margin + teamWidth), kTeamHeight.now());
   const int title = QFontMetrics(Theme::font(Type::Small)).height();
@@ -216,7 +218,7 @@ void ScorePanel::layOut() {
 
   int top = kPlateHeight.now() + gap;
   m_start->setGeometry(0, top, width(), kStartHeight.now());
-  top += kStartHeight.now() + gap + kFoulsHeight.now() + gap;
+  top += kStartHeight.now() + gap + m_foulsHeight + gap;
   m_periods->setGeometry(0, top, width(), kPeriodsHeight.now());
   showSides();
 }
@@ -240,6 +242,8 @@ void ScorePanel::tip(QWidget& widget, Text text) {
 
 void ScorePanel::showGame(const LiveGame& game) {
   m_game = &game;
+  if (FoulCard::heightFor(game) != m_foulsHeight)
+    setHeight();
   for (std::size_t team = 0; team < 2; ++team)
     showTeam(team);
   m_period->setText(toQt(periodShown(game, m_texts)));
@@ -347,6 +351,7 @@ void ScorePanel::showSides() {
     const int room = most - plate.fontMetrics().horizontalAdvance(QStringLiteral("◂ mm"));
     const QString name = withoutMnemonic(plate.fontMetrics().elidedText(
         toQt(m_game->game().details.abbreviation[team]), Qt::ElideRight, room));
+    m_sides[team].fouls->setSide((team == 0) != m_areTurned, playsRight, *m_game);
     plate.setText(playsRight ? name + QStringLiteral(" ▸") : QStringLiteral("◂ ") + name);
     // Above its score, on the outside.
     const int width = std::min(plate.fontMetrics().horizontalAdvance(plate.text()) + 2 * kMargin.now(), most);
@@ -388,11 +393,25 @@ void ScorePanel::applyColours() {
     side.fouls->applyColours();
   }
   m_periods->applyColours();
-  setFixedHeight(kPlateHeight.now() + kStartHeight.now() + kFoulsHeight.now() + kPeriodsHeight.now() +
-                 3 * kGap.now());
-  layOut();
+  setHeight();
   update();
   relabelPanel();
+}
+
+void ScorePanel::setHeight() {
+  m_foulsHeight = m_game == nullptr ? 0 : FoulCard::heightFor(*m_game);
+  setFixedHeight(kPlateHeight.now() + kStartHeight.now() + m_foulsHeight + kPeriodsHeight.now() +
+                 3 * kGap.now());
+  layOut();
+}
+
+void ScorePanel::endTimeOuts() {
+  for (const Side& side : m_sides)
+    side.fouls->endTimeOut();
+}
+
+void ScorePanel::beginTimeOut(int team) {
+  m_sides[static_cast<std::size_t>(team)].fouls->beginTimeOut();
 }
 
 // --- The clock by hand

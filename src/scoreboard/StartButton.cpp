@@ -1,4 +1,4 @@
-#include "live/StartButton.h"
+#include "scoreboard/StartButton.h"
 
 #include "appearance/Theme.h"
 
