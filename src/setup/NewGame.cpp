@@ -1,5 +1,6 @@
 #include "setup/NewGame.h"
 
+#include "game/RuleSets.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 #include "storage/codepage.h"
@@ -20,6 +21,19 @@ constexpr Text kOwnAbbreviations[2] = {Text::VisitorCapitals, Text::HomeCapitals
 
 // Of a team without a record, by side: told apart at a glance.
 constexpr std::uint32_t kOwnColours[2] = {0x8C7A1F, kDefaultTeamColour};
+
+// What a set of rules says of one of the typed ones.
+struct RuleOfSet {
+  std::string TypedRules::*typed;
+  int RuleSet::*number;
+};
+constexpr RuleOfSet kRulesOfSet[] = {
+    {&TypedRules::periods, &RuleSet::periods},
+    {&TypedRules::minutesPerPeriod, &RuleSet::minutes},
+    {&TypedRules::bonus, &RuleSet::bonus},
+    {&TypedRules::personalFoulLimit, &RuleSet::personalFouls},
+    {&TypedRules::technicalFoulLimit, &RuleSet::technicalFouls},
+};
 
 std::vector<NewGame::Player> playersOf(const std::vector<TeamPlayer>& stored) {
   using enum NewGame::Eligibility;
@@ -57,7 +71,7 @@ int NewGame::Side::checkedPlayers() const {
 NewGame::NewGame(TeamStore& store, Settings& settings, const Texts& texts, std::string today,
                  const LastChoices& last)
     : date(today), place(last.place), statistician(last.statistician), m_store(store), m_settings(settings),
-      m_texts(texts), m_today(std::move(today)), m_teams(store.list()) {
+      m_texts(texts), m_today(std::move(today)), m_teams(store.list()), m_habits(last.habits) {
   const std::vector<int> types = offeredChoices(kFirstGameTypeText, texts);
   gameType = std::ranges::find(types, last.gameType) != types.end() ? last.gameType : kNone;
   const bool isInputType = last.inputType >= 0 && last.inputType < static_cast<int>(kInputTypes.size());
@@ -73,6 +87,10 @@ void NewGame::chooseTeam(int side, int team) {
   const TeamEntry& chosen = m_teams.at(static_cast<std::size_t>(team));
   const OwnTeam* own = ownTeam(team);
   const TeamRecord record = own != nullptr ? own->record : m_store.read(chosen.key);
+  // What was said of no team yet, or of one that was only typed, is said of this one.
+  const bool hadTeam = sides[side].team != kNone && !hasOwnTeam(side);
+  if (hadTeam && sides[side].team != team)
+    sheet.coach[side] = sheet.captain[side] = {};
   sides[side] = {team, record.name, record.category, record.storedColour,
                  own != nullptr ? std::vector<Player>() : playersOf(m_store.players(chosen.key))};
   if (record.isMain)
@@ -118,9 +136,7 @@ void NewGame::chooseOwnTeam(int side) {
   chooseTeam(side, own.team);
   date = day;
   // What stands there was typed, or is another team's: only what is missing is filled in.
-  for (std::string TypedRules::*rule :
-       {&TypedRules::periods, &TypedRules::minutesPerPeriod, &TypedRules::bonus,
-        &TypedRules::personalFoulLimit, &TypedRules::technicalFoulLimit}) {
+  for (const auto& [rule, ofSet] : kRulesOfSet) {
     if (!(typed.*rule).empty())
       rules.*rule = typed.*rule;
   }
@@ -199,6 +215,58 @@ void NewGame::setChecked(int side, std::size_t player, bool isChecked) {
 void NewGame::stepPosition(int side, std::size_t player) {
   int& position = sides[side].players.at(player).position;
   position = nextChoice(kFirstPositionText, position, m_texts);
+}
+
+void NewGame::chooseRules(std::string_view key) {
+  const RuleSet* const set = ruleSetOf(key);
+  m_chosenRules = set == nullptr ? std::string() : std::string(key);
+  if (set == nullptr)
+    return;
+  for (const auto& [rule, number] : kRulesOfSet)
+    rules.*rule = std::to_string(set->*number);
+}
+
+std::string NewGame::ruleSet() const {
+  return m_chosenRules.value_or(habit().ruleSet);
+}
+
+bool NewGame::differsFromRules() const {
+  const RuleSet* const set = ruleSetOf(ruleSet());
+  return set != nullptr && std::ranges::any_of(kRulesOfSet, [&](const RuleOfSet& rule) {
+           return Module1::leadingNumber(rules.*rule.typed) != set->*rule.number;
+         });
+}
+
+RecordingLevel NewGame::level() const {
+  return m_chosenLevel.value_or(habit().level);
+}
+
+TeamHabit NewGame::habitOf(int team) const {
+  const auto found = m_habits.find(team);
+  if (found == m_habits.end())
+    return {};
+  TeamHabit habit = found->second;
+  if (ruleSetOf(habit.ruleSet) == nullptr) // of a later program
+    habit.ruleSet.clear();
+  return habit;
+}
+
+TeamHabit NewGame::habit() const {
+  const TeamEntry* const team = entry(mainTeam == kNone ? 1 : mainTeam);
+  return team == nullptr ? TeamHabit() : habitOf(team->id);
+}
+
+bool NewGame::isLive() const {
+  return inputType != kNone && kInputTypes.at(static_cast<std::size_t>(inputType)).stored == 0;
+}
+
+std::vector<RosterPlayer> NewGame::roster(int side) const {
+  std::vector<RosterPlayer> roster;
+  for (const Player& player : sides[side].players) {
+    if (player.isChecked)
+      roster.push_back({player.number, player.position, player.name});
+  }
+  return roster;
 }
 
 NewGame::Objection NewGame::missingTeam() const {
@@ -304,20 +372,30 @@ GameDetails NewGame::details() const {
   details.typedRules = rules;
   details.type = gameType;
   details.notes = notes;
+  details.ruleSet = ruleSet();
+  if (const RuleSet* const set = ruleSetOf(details.ruleSet))
+    details.overtimeMinutes = set->overtimeMinutes;
+  // A game for which nobody chose says nothing.
+  if (isLive() && (level() != RecordingLevel::Basic || habit().level != RecordingLevel::Basic))
+    details.level = level();
+  GameSheet written = sheet;
+  for (int side = 0; side < 2; ++side) {
+    // Somebody who was taken out of the game since leads nobody.
+    const std::vector<RosterPlayer> players = roster(side);
+    if (std::ranges::find(players, written.captain[side], &RosterPlayer::jersey) == players.end())
+      written.captain[side].clear();
+  }
+  for (const auto& [key, value] : written.changedFrom({}))
+    setDetail(details, key, value);
   return details;
 }
 
 GameFileProblem NewGame::create(const std::string& path) {
-  std::vector<RosterPlayer> rosters[2];
-  for (int side = 0; side < 2; ++side) {
-    for (const Player& player : sides[side].players) {
-      if (player.isChecked)
-        rosters[side].push_back({player.number, player.position, player.name});
-    }
-  }
-  const GameFileProblem problem = GameFile(m_store.store(), path).create(details(), rosters[0], rosters[1]);
+  const GameFileProblem problem = GameFile(m_store.store(), path).create(details(), roster(0), roster(1));
   if (problem != GameFileProblem::None)
     return problem;
+  m_chosenRules = ruleSet(); // whoever becomes the main team
+  m_chosenLevel = level();
   if (mainTeam == kNone)
     mainTeam = 0;
   m_settings.lastGameFolder = std::filesystem::path(path).parent_path().string();
@@ -333,6 +411,10 @@ LastChoices NewGame::choices() const {
   choices.statistician = statistician;
   choices.gameType = gameType;
   choices.inputType = inputType;
+  for (const int team : choices.teamId) {
+    if (team > 0)
+      choices.habits[team] = {ruleSet(), isLive() ? level() : habitOf(team).level};
+  }
   return choices;
 }
 

@@ -8,11 +8,14 @@
 #include "game/Rules.h"
 #include "settings/ChoiceTexts.h"
 #include "settings/Texts.h"
+#include "setup/GameSheet.h"
 #include "setup/QuickRoster.h"
 #include "teams/TeamStore.h"
 
 #include <array>
 #include <cstdint>
+#include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,13 +31,21 @@ struct InputType {
 inline constexpr std::array<InputType, 3> kInputTypes = {
     {{Text::Live, 0, false}, {Text::LiveAndKeypad, 0, true}, {Text::Manual, 1, false}}};
 
+// By what a team's last game was recorded.
+struct TeamHabit {
+  std::string ruleSet; // a key of kRuleSets; empty for none
+  RecordingLevel level = RecordingLevel::Basic;
+  friend bool operator==(const TeamHabit&, const TeamHabit&) = default;
+};
+
 // What the next game begins with.
 struct LastChoices {
   int teamId[2] = {}; // visitors, home; 0 for none
   std::string place;
   std::string statistician;
-  int gameType = 2;  // Season
-  int inputType = 0; // position; Live
+  int gameType = 2;                     // Season
+  int inputType = 0;                    // position; Live
+  std::map<int, TeamHabit> habits = {}; // by the ids of the teams
   friend bool operator==(const LastChoices&, const LastChoices&) = default;
 };
 
@@ -103,10 +114,26 @@ class NewGame {
   std::string place;
   std::string statistician;
   std::string notes;
+  // Without its rules and level, which are asked for by what follows.
+  GameSheet sheet;
+
+  // A set of rules by its key, none for another one. It sets the typed rules, and what is typed afterwards,
+  // or comes with a team, holds above it. Until one is chosen, it is that of the last game of the main team,
+  // or of the home team where none is the main one.
+  void chooseRules(std::string_view key);
+  [[nodiscard]] std::string ruleSet() const;
+  // Whether one of the typed rules is not the set's.
+  [[nodiscard]] bool differsFromRules() const;
+  // How much is asked for in a live game; the same team's until it is chosen.
+  void chooseLevel(RecordingLevel level) { m_chosenLevel = level; }
+  [[nodiscard]] RecordingLevel level() const;
+  [[nodiscard]] bool isLive() const; // by its input type
+  // Who plays.
+  [[nodiscard]] std::vector<RosterPlayer> roster(int side) const;
 
   const std::vector<TeamEntry>& teams() const { return m_teams; }
   // Takes over name, category, colour, main team and players. The home team and the main team also set the
-  // rules, and the date to today.
+  // rules, and the date to today. Another team has another coach and captain.
   void chooseTeam(int side, int team);
   void setChecked(int side, std::size_t player, bool isChecked); // nothing for one who cannot play
   void stepPosition(int side, std::size_t player);
@@ -155,6 +182,8 @@ class NewGame {
   [[nodiscard]] const TeamEntry* entry(int side) const;
   [[nodiscard]] std::string listText(int side) const;
   [[nodiscard]] std::string abbreviation(int side) const;
+  [[nodiscard]] TeamHabit habitOf(int team) const; // by its id
+  [[nodiscard]] TeamHabit habit() const;
   [[nodiscard]] GameDetails details() const;
 
   TeamStore& m_store;
@@ -163,6 +192,9 @@ class NewGame {
   std::string m_today;
   std::vector<TeamEntry> m_teams;
   OwnTeam m_ownTeams[2]; // by the side that made them
+  std::map<int, TeamHabit> m_habits;
+  std::optional<std::string> m_chosenRules;
+  std::optional<RecordingLevel> m_chosenLevel;
 };
 
 // The path, with the ending of game files where it has none (in any letter case).

@@ -9,10 +9,13 @@
 #include "appearance/Theme.h"
 #include "appearance/WarningChip.h"
 #include "appearance/relabel.h"
+#include "game/RuleSets.h"
 #include "setup/KeepsEnter.h"
+#include "setup/RuleChoices.h"
 #include "setup/SetupWords.h"
 #include "setup/SidePanel.h"
 #include "setup/SidePlayersTable.h"
+#include "setup/frmSHEET.h"
 #include "storage/Module1.h"
 #include "teams/TeamList.h"
 
@@ -42,10 +45,40 @@ constexpr QSize kRoomyWindow(1480, 880);
 constexpr QSize kRoomyWideWindow(1720, 960);
 constexpr QSize kAroundWindow(26, 68); // title bar and edges
 constexpr QSize kCalendar(300, 200);
-constexpr int kPickerWidth = 20; // its button alone: the date stands beside it as text
+constexpr int kLargestZoomOfHead = 120; // percent
+constexpr int kPickerWidth = 20;        // its button alone: the date stands beside it as text
 
 QString dateFormat() {
   return QStringLiteral("yyyy-MM-dd");
+}
+
+// The wheel scrolls the column, and chooses no other rules on its way.
+class LeavesWheel : public QObject {
+ public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::Wheel)
+      return false;
+    event->ignore();
+    return true;
+  }
+};
+
+QLabel* quietCaption(QWidget& field, Text text) {
+  QLabel* label = captionFor(field, text);
+  label->setFont(Theme::font(Type::Small));
+  label->setForegroundRole(QPalette::PlaceholderText);
+  return label;
+}
+
+QWidget* besideTitle(QComboBox& choice) {
+  auto* beside = new QWidget(choice.parentWidget());
+  auto* layout = new QHBoxLayout(beside);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(quietCaption(choice, Text::RulesOfGame));
+  layout->addWidget(&choice);
+  return beside;
 }
 
 } // namespace
@@ -85,6 +118,7 @@ frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts,
 
   connect(&m_mainTeam, &QButtonGroup::idClicked, this, [this](int side) {
     m_game.mainTeam = side;
+    showRuleSet();
     showAcceptance();
   });
   connect(new QShortcut(QKeySequence(Qt::Key_F12), this), &QShortcut::activated, this,
@@ -126,7 +160,7 @@ QWidget* frmNEWGAME::makeColumn() {
   return column;
 }
 
-QGridLayout* frmNEWGAME::addCard(Card& card, Text title) {
+QGridLayout* frmNEWGAME::addCard(Card& card, Text title, QWidget* beside) {
   const Measure& measure = Theme::measure();
   setAccessibleNumber(card, title);
   auto* head = new PlainLabel(&card);
@@ -136,7 +170,11 @@ QGridLayout* frmNEWGAME::addCard(Card& card, Text title) {
   layout->setContentsMargins(measure(12), measure(8), measure(12), measure(12));
   layout->setHorizontalSpacing(measure(10));
   layout->setVerticalSpacing(measure(4));
-  layout->addWidget(head, 0, 0, 1, 2);
+  auto* top = new QHBoxLayout;
+  top->addWidget(head, 1);
+  if (beside != nullptr)
+    top->addWidget(beside);
+  layout->addLayout(top, 0, 0, 1, 2);
   for (const int column : {0, 1})
     layout->setColumnStretch(column, 1);
   return layout;
@@ -156,16 +194,19 @@ void frmNEWGAME::place(QGridLayout& card, QWidget& field, Text text, Place place
   const int columns = place == Place::Whole ? 2 : 1;
   const int column = place == Place::Right ? 1 : 0;
   const int row = place == Place::Right ? card.rowCount() - 2 : card.rowCount();
-  QLabel* label = captionFor(field, text);
-  label->setFont(Theme::font(Type::Small));
-  label->setForegroundRole(QPalette::PlaceholderText);
-  card.addWidget(label, row, column, 1, columns);
+  card.addWidget(quietCaption(field, text), row, column, 1, columns);
   card.addWidget(&field, row + 1, column, 1, columns);
 }
 
 QWidget* frmNEWGAME::makeGameFields() {
   auto* card = new Card(this);
-  QGridLayout& layout = *addCard(*card, Text::GameCard);
+  auto* details = new QPushButton(card);
+  details->setObjectName(QStringLiteral("cmdSHEET"));
+  details->setAutoDefault(false);
+  setTextNumber(*details, Text::GameSheet);
+  setToolTipNumber(*details, Text::GameSheetHint);
+  connect(details, &QPushButton::clicked, this, &frmNEWGAME::openSheet);
+  QGridLayout& layout = *addCard(*card, Text::GameCard, details);
 
   m_date = addField("txtDATE", m_game.date);
   m_picker = new QDateEdit(card);
@@ -193,6 +234,7 @@ QWidget* frmNEWGAME::makeGameFields() {
     place(layout, *choice, text, where);
     connect(choice, &QComboBox::currentIndexChanged, this, [this, choice, &target] {
       target = choice->currentIndex() < 0 ? NewGame::kNone : choice->currentData().toInt();
+      m_level->setEnabled(m_game.isLive());
       showAcceptance();
     });
     return choice;
@@ -220,10 +262,17 @@ QWidget* frmNEWGAME::makeGameFields() {
 
 QWidget* frmNEWGAME::makeRuleFields() {
   auto* card = new Card(this);
-  QGridLayout& layout = *addCard(*card, Text::Parameters);
+  makeRuleSets();
+  // Beside the title, where they cost no row; in large type there is no room.
+  const bool isLarge = Theme::measure().zoom() > kLargestZoomOfHead;
+  QGridLayout& layout = *addCard(*card, Text::Parameters, isLarge ? nullptr : besideTitle(*m_rules));
+  if (isLarge)
+    place(layout, *m_rules, Text::RulesOfGame, Place::Whole);
+  setToolTipNumber(*m_rules, Text::RuleSetHint);
   const auto addRule = [&](const char* name, Text text, std::string& target, Place where) {
     QLineEdit* field = addField(name, target, [](const std::string& typed) { return fitsInValue(typed); });
     place(layout, *field, text, where);
+    connect(field, &QLineEdit::textChanged, this, &frmNEWGAME::showAcceptance);
     return field;
   };
   m_periods = addRule("txtNBREPERIODE", Text::PeriodCount, m_game.rules.periods, Place::Left);
@@ -231,7 +280,26 @@ QWidget* frmNEWGAME::makeRuleFields() {
   m_bonus = addRule("txtBONUS", Text::BonusAfter, m_game.rules.bonus, Place::Left);
   m_personalFouls = addRule("txtPF", Text::FoulLimit, m_game.rules.personalFoulLimit, Place::Right);
   m_technicalFouls = addRule("txtTF", Text::TechnicalLimit, m_game.rules.technicalFoulLimit, Place::Left);
+  m_level = new QComboBox(card);
+  m_level->setObjectName(QStringLiteral("lstNIVEAU"));
+  m_level->installEventFilter(new LeavesWheel(m_level));
+  place(layout, *m_level, Text::RecordingLevelWord, Place::Right);
+  setToolTipNumber(*m_level, Text::RecordingLevelHint);
+  connect(m_level, &QComboBox::activated, this,
+          [this] { m_game.chooseLevel(static_cast<RecordingLevel>(m_level->currentData().toInt())); });
   return card;
+}
+
+// Choosing what is chosen already brings its rules back.
+void frmNEWGAME::makeRuleSets() {
+  m_rules = new QComboBox(this);
+  m_rules->setObjectName(QStringLiteral("lstREGLES"));
+  m_rules->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  m_rules->installEventFilter(new LeavesWheel(m_rules));
+  connect(m_rules, &QComboBox::activated, this, [this] {
+    m_game.chooseRules(fromQt(m_rules->currentData().toString()));
+    showRules();
+  });
 }
 
 QWidget* frmNEWGAME::makeAnswers() {
@@ -295,6 +363,22 @@ void frmNEWGAME::fillChoices() {
   for (const InputType& input : kInputTypes)
     m_input->addItem(caption(m_texts, input.text), m_input->count());
   m_input->setCurrentIndex(m_input->findData(m_game.inputType));
+  showRuleSet();
+}
+
+// Those of the team, until others are chosen.
+void frmNEWGAME::showRuleSet() {
+  fillRuleSets(*m_rules, m_game.ruleSet(), m_texts);
+  fillLevels(*m_level, m_game.level(), m_texts);
+  m_level->setEnabled(m_game.isLive());
+}
+
+void frmNEWGAME::openSheet() {
+  frmSHEET window(m_game.sheet,
+                  {{m_game.sides[0].name, m_game.roster(0)}, {m_game.sides[1].name, m_game.roster(1)}},
+                  frmSHEET::Asks::WithoutRules, m_texts, this);
+  if (window.exec() == QDialog::Accepted)
+    m_game.sheet = window.sheet();
 }
 
 void frmNEWGAME::showRules() {
@@ -305,6 +389,7 @@ void frmNEWGAME::showRules() {
   m_personalFouls->setText(toQt(rules.personalFoulLimit));
   m_technicalFouls->setText(toQt(rules.technicalFoulLimit));
   m_date->setText(toQt(m_game.date));
+  showRuleSet();
 }
 
 void frmNEWGAME::showMainTeam() {
@@ -318,7 +403,16 @@ void frmNEWGAME::showAcceptance() {
   const Text missing = textOf(m_game.missing());
   m_ok->setEnabled(missing == Text::None);
   m_warning->setVisible(missing != Text::None);
-  m_missing->setText(missing == Text::None ? QString() : caption(m_texts, missing));
+  m_missing->setText(missing != Text::None ? caption(m_texts, missing) : differenceWords());
+  m_missing->setForegroundRole(missing != Text::None ? QPalette::WindowText : QPalette::PlaceholderText);
+}
+
+// What a team brought, or somebody typed, is no fault; but it is seen that the set's name does not tell all.
+QString frmNEWGAME::differenceWords() const {
+  if (!m_game.differsFromRules())
+    return {};
+  return toQt(
+      m_texts.withPlaceholder(Text::OtherThanRules, m_texts.caption(ruleSetOf(m_game.ruleSet())->name)));
 }
 
 void frmNEWGAME::focusOn(const NewGame::Objection& objection) {

@@ -52,14 +52,18 @@ class frmNEWGAME : public QDialog {
   QWidget* makeGameFields();
   QWidget* makeRuleFields();
   QWidget* makeAnswers();
-  QGridLayout* addCard(Card& card, Text title);
+  QGridLayout* addCard(Card& card, Text title, QWidget* beside);
   QLineEdit* addField(const char* name, std::string& target,
                       const std::function<bool(const std::string&)>& fits = fitsInValue);
   void place(QGridLayout& card, QWidget& field, Text text, Place place);
+  void makeRuleSets();
   void fillChoices();
+  void openSheet();
   void showRules();
   void showMainTeam();
+  void showRuleSet();
   void showAcceptance();
+  [[nodiscard]] QString differenceWords() const;
   void focusOn(const NewGame::Objection& objection);
 
   const Settings& m_settings;
@@ -75,6 +79,8 @@ class frmNEWGAME : public QDialog {
   QDateEdit* m_picker;
   QComboBox* m_type;
   QComboBox* m_input;
+  QComboBox* m_rules;
+  QComboBox* m_level;
   QLineEdit* m_minutes;
   QLineEdit* m_periods;
   QLineEdit* m_bonus;

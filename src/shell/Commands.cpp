@@ -46,6 +46,7 @@ constexpr Command kCommands[] = {
       {OpenForInput, "LIVEOpen", InputMenu, Text::OpenAnExistingGame, "liveopen", StartOfInput, Action, "Ctrl+Shift+O"},
       {OpenForms, "openFORM", InputMenu, Text::OpenScannedForm, "openform", Manual, Action, "Ctrl+I", kSeparator},
       {SaveCopy, "saveCOPY", InputMenu, Text::SaveCopy, "savecopy", LiveOrManual, Action, "Ctrl+Shift+S", kSeparator},
+      {GameSheet, "SHEET", InputMenu, Text::GameSheet, "sheet", Live, Action},
     {Keypad, "LIVEKpad", None, Text::KeypadActivation, "livekpad", Live, Toggle, "F7"},
     {AskRebounds, "LIVEMouse", None, Text::InputReboundsWithMouse, "livemouse", Live, Toggle, "F8"},
     {SwitchSides, "SWITCH", None, Text::SwitchSides, "switch", Live, Action, "F9"},

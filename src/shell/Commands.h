@@ -44,6 +44,7 @@ enum class CommandId : std::uint8_t {
   OpenForInput,
   OpenForms,
   SaveCopy,
+  GameSheet,
   Keypad,
   AskRebounds,
   SwitchSides,

@@ -3,12 +3,14 @@
 #include "appearance/Dialogs.h"
 #include "appearance/GameHold.h"
 #include "appearance/relabel.h"
+#include "game/Rules.h"
 #include "keypad/frmConfiguration.h"
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
 #include "scorecard/frmVIEW.h"
 #include "settings/Settings.h"
 #include "setup/frmNEWGAME.h"
+#include "setup/frmSHEET.h"
 #include "shell/CommandBar.h"
 #include "shell/GameDialogs.h"
 #include "shell/PreviewDesk.h"
@@ -18,6 +20,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 #include <utility>
 
 namespace hooptab {
@@ -62,6 +65,7 @@ void InputDesk::serve(CommandBar& commands) {
     });
   };
   whileLive(CommandId::SwitchSides, [](frmLIVE& window) { window.switchSides(); });
+  whileLive(CommandId::GameSheet, [this](frmLIVE& window) { openSheet(window); });
   whileLive(CommandId::GameOver, [](frmLIVE& window) { window.gameOver(); });
   whileLive(CommandId::PrintGame, [this](const frmLIVE& window) {
     m_preview.show(gameOffers(std::make_shared<const CountedGame>(CountedGame{window.game(), window.state()}),
@@ -224,6 +228,28 @@ void InputDesk::makeGame() {
   if (frmVIEW* old = m_area.scorecardOf(window.path())) // of the game that was written over
     old->refresh();
   replace(window.path(), std::move(lock));
+}
+
+void InputDesk::openSheet(frmLIVE& recording) {
+  if (recording.session().game().phase() == LiveGame::Phase::ReadOnly)
+    return m_workshop.dialogs.inform(&m_window, toQt(m_workshop.texts.text(Text::WarningTitle)),
+                                     toQt(m_workshop.texts.text(Text::SheetForReading)));
+  const GameSheet before = GameSheet::of(recording.game().details);
+  const auto team = [&](int side) {
+    const Game& game = recording.game();
+    const Roster& roster = game.roster[side];
+    return frmSHEET::Team{game.details.name[side],
+                          isTeamItself(roster) ? std::vector<RosterPlayer>() : roster.players()};
+  };
+  frmSHEET sheet(before, {team(0), team(1)}, frmSHEET::Asks::WithRules, m_workshop.texts, &m_window);
+  const QPointer<frmLIVE> still(&recording);
+  if (sheet.exec() != QDialog::Accepted || still == nullptr)
+    return;
+  // The game can have become somebody else's meanwhile.
+  if (const GameSheet::KeysAndValues changes = sheet.sheet().changedFrom(before);
+      !changes.empty() && !recording.session().change()->setDetails(changes))
+    m_workshop.dialogs.inform(&m_window, toQt(m_workshop.texts.text(Text::WarningTitle)),
+                              toQt(m_workshop.texts.text(Text::SheetForReading)));
 }
 
 void InputDesk::watch(bool isOn) {

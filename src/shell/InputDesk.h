@@ -55,6 +55,7 @@ class InputDesk : public QObject {
   static void makeRoom(ChildWindow* window);
   void show(const QString& path, ChildWindow& window, std::unique_ptr<ChildWindow> fresh);
   void makeGame();
+  void openSheet(frmLIVE& recording);
   void watch(bool isOn); // the file of the game that is open
   template <class Window>
   void saveCopy(Window& window);

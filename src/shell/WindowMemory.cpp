@@ -17,6 +17,18 @@ constexpr const char* kLayouts = "LAYOUT";
 constexpr const char* kRecentFiles = "RECENT";
 constexpr const char* kChoices = "CHOICES";
 constexpr const char* kLastGame = "LASTGAME";
+constexpr const char* kHabits = "TEAMGAMES";
+
+// "FIBA,LEAGUE".
+std::string habitText(const TeamHabit& habit) {
+  return habit.ruleSet + ',' + std::string(levelKey(habit.level));
+}
+
+TeamHabit habitOf(std::string_view text) {
+  const std::size_t comma = std::min(text.find(','), text.size());
+  const std::optional<RecordingLevel> level = levelOf(text.substr(std::min(comma + 1, text.size())));
+  return {std::string(text.substr(0, comma)), level.value_or(RecordingLevel::Basic)};
+}
 
 } // namespace
 
@@ -129,6 +141,7 @@ LastChoices WindowMemory::lastGame() {
   choices.statistician = value(kLastGame, "STATISTICIAN");
   choices.gameType = number("TYPE");
   choices.inputType = number("INPUT");
+  choices.habits = habits();
   return choices;
 }
 
@@ -140,7 +153,22 @@ void WindowMemory::rememberLastGame(const LastChoices& choices) {
   batch.set(kLastGame, "STATISTICIAN", choices.statistician);
   batch.set(kLastGame, "TYPE", std::to_string(choices.gameType));
   batch.set(kLastGame, "INPUT", std::to_string(choices.inputType));
+  std::map<int, TeamHabit> known = habits();
+  for (const auto& [team, habit] : choices.habits) {
+    if (known[team] != habit)
+      batch.set(kHabits, std::to_string(team), habitText(habit));
+  }
   (void)m_store.write(m_path, batch);
+}
+
+std::map<int, TeamHabit> WindowMemory::habits() {
+  std::map<int, TeamHabit> habits;
+  const ProfileReading file = m_store.read(m_path);
+  for (const ProfileText::Line& line : file.text.section(kHabits)) {
+    if (const int team = Module1::wholeNumber(line.name); team > 0)
+      habits.try_emplace(team, habitOf(line.value));
+  }
+  return habits;
 }
 
 // Read whole: the state of a wide table is longer than a value of the store may be.

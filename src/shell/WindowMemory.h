@@ -7,6 +7,7 @@
 #include "setup/NewGame.h"
 #include "storage/ProfileStore.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -52,6 +53,7 @@ class WindowMemory {
   void rememberLastGame(const LastChoices& choices);
 
  private:
+  [[nodiscard]] std::map<int, TeamHabit> habits();
   std::string value(std::string_view section, std::string_view key);
   void write(std::string section, std::string_view key, std::string_view value);
 

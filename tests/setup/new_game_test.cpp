@@ -72,7 +72,7 @@ TEST_F(NewGameTest, BeginsWithTheLastChoicesThatAreStillThere) {
   EXPECT_EQ(game.sides[1].name, "Aigles");
   EXPECT_EQ(game.rules.minutesPerPeriod, "10x");
   EXPECT_EQ(game.place, "Main gym");
-  EXPECT_EQ(game.choices(), (LastChoices{{1, 3}, "Main gym", "Camille", 4, 2}));
+  EXPECT_EQ(game.choices(), (LastChoices{{1, 3}, "Main gym", "Camille", 4, 2, {{1, {}}, {3, {}}}}));
   const NewGame fresh = made({{0, 77}, "", "", 7, 9});
   EXPECT_EQ(fresh.sides[0].team, NewGame::kNone) << "a key without a number is not team 0";
   for (const int choice : {fresh.sides[1].team, fresh.gameType, fresh.inputType})
@@ -102,6 +102,76 @@ TEST_F(NewGameTest, HomeTeamAndMainTeamSetRulesAndDate) {
   EXPECT_EQ(game.mainTeam, 1) << "one at most";
   game.chooseTeam(1, 0);
   EXPECT_EQ(game.mainTeam, NewGame::kNone);
+}
+
+TEST_F(NewGameTest, ASetOfRulesIsFilledInAndWhatComesAfterwardsHolds) {
+  NewGame game = ready();
+  EXPECT_FALSE(game.differsFromRules());
+  game.chooseRules("NBA");
+  game.chooseRules("FIBA");
+  const TypedRules& rules = game.rules;
+  EXPECT_EQ(rules.periods + ' ' + rules.minutesPerPeriod + ' ' + rules.bonus + ' ' + rules.personalFoulLimit +
+                ' ' + rules.technicalFoulLimit,
+            "4 10 4 5 2");
+  EXPECT_FALSE(game.differsFromRules());
+  game.rules.personalFoulLimit = "06";
+  EXPECT_TRUE(game.differsFromRules());
+  ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
+  for (const char* part : {"DUREE=10\r\nBONUS=4\r\nPFMAX=06\r\n", "REGLES=FIBA\r\n", "DUREEPROL=5\r\n"})
+    EXPECT_TRUE(holds("a.GAM", part)) << part;
+  game.chooseTeam(1, 0);
+  EXPECT_EQ(game.rules.minutesPerPeriod, "2") << "the team's, as ever";
+  EXPECT_EQ(game.ruleSet(), "FIBA");
+  EXPECT_TRUE(game.differsFromRules());
+  game.chooseRules("LATER");
+  EXPECT_EQ(game.ruleSet() + game.rules.minutesPerPeriod, "2");
+}
+
+TEST_F(NewGameTest, RulesAndLevelAreThoseOfTheTeamsLastGameUntilOthersAreChosen) {
+  using enum RecordingLevel;
+  LastChoices last{{3, 1}, "", "", 2, 0};
+  last.habits = {{1, {"NBA", Full}}, {2, {"FIBA", League}}, {4, {"LATER", Basic}}};
+  NewGame game = made(last);
+  EXPECT_EQ(game.ruleSet(), "NBA") << "of the home team, where nobody is the main one";
+  EXPECT_EQ(game.rules.minutesPerPeriod, "2") << "which the team alone says";
+  EXPECT_EQ(game.level(), Full);
+  ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
+  EXPECT_TRUE(holds("a.GAM", "REGLES=NBA\r\nNIVEAU=FULL\r\n"));
+  EXPECT_EQ(game.choices().habits, (std::map<int, TeamHabit>{{1, {"NBA", Full}}, {3, {"NBA", Full}}}))
+      << "though the visitors became the main team";
+  NewGame next = made(last);
+  next.chooseTeam(0, 1);
+  EXPECT_EQ(next.ruleSet(), "FIBA") << "the visitors are the main team";
+  next.setChecked(0, 0, false);
+  next.chooseRules("");
+  next.chooseLevel(Basic);
+  ASSERT_EQ(next.create(folder.path("b.GAM")), GameFileProblem::None);
+  EXPECT_TRUE(holds("b.GAM", "NIVEAU=BASIC\r\n")) << "chosen against the habit";
+  EXPECT_FALSE(holds("b.GAM", "REGLES") || holds("b.GAM", "DUREEPROL"));
+  next.inputType = 2;
+  ASSERT_EQ(next.create(folder.path("c.GAM")), GameFileProblem::None);
+  EXPECT_FALSE(holds("c.GAM", "NIVEAU")) << "nothing is asked for in totals";
+  EXPECT_EQ(next.choices().habits.at(2), (TeamHabit{"", League}));
+  EXPECT_EQ(made({{0, 4}, "", "", 2, 0, last.habits}).ruleSet(), "") << "a set that nobody knows";
+}
+
+TEST_F(NewGameTest, TheSheetGoesWithTheGameAndItsTeams) {
+  NewGame game = ready();
+  game.sheet.competition = "Élite";
+  for (const int side : {0, 1}) {
+    game.sheet.coach[side] = side == 0 ? "Zoë" : "Bo";
+    game.sheet.captain[side] = side == 0 ? "4" : "2";
+  }
+  game.sheet.targetScore = "30";
+  game.chooseTeam(1, 1);
+  game.setChecked(1, 15, false);
+  EXPECT_EQ(game.sheet.captain[1], "2") << "the same team once more";
+  game.setChecked(1, 1, false); // number 2
+  ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
+  EXPECT_TRUE(holds("a.GAM", codepage::fromUtf8("COMPETITION=Élite\r\nENTRAINEUR0=Zoë\r\nENTRAINEUR1=Bo\r\n"
+                                                "CAPITAINE0=4\r\nSCORECIBLE=30\r\n")));
+  game.chooseTeam(1, 2);
+  EXPECT_EQ(game.sheet.coach[0] + '|' + game.sheet.coach[1] + game.sheet.captain[1], "Zoë|");
 }
 
 TEST_F(NewGameTest, OnlyAJerseyThatNobodyAboveWearsCanPlay) {

@@ -2,6 +2,7 @@
 
 #include "appearance/Theme.h"
 #include "setup/SidePlayersTable.h"
+#include "setup/frmSHEET.h"
 #include "support/WindowRoom.h"
 
 #include <QAbstractItemModelTester>
@@ -12,6 +13,7 @@
 #include <QListWidget>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QTimer>
 
 namespace hooptab {
 namespace {
@@ -224,6 +226,50 @@ TEST_F(NewGameWindowTest, TeamsOfThisGameAloneStandInBothLists) {
   EXPECT_TRUE(ok().isEnabled());
 }
 
+TEST_F(NewGameWindowTest, ASetOfRulesStaysNamedWhenSomethingElseIsTyped) {
+  open({{3, 2}, "", "", 2, 0, {{2, {"FIBA", RecordingLevel::League}}}});
+  auto& sets = find<QComboBox>("lstREGLES");
+  auto& level = find<QComboBox>("lstNIVEAU");
+  const auto& words = find<QLabel>("lblMISSING");
+  EXPECT_EQ(sets.currentText() + level.currentText(), text(Text::RulesFiba) + text(Text::LevelLeague));
+  EXPECT_NE(words.text(), QString()) << "the team's bonus is another one";
+  EXPECT_TRUE(ok().isEnabled());
+  QTest::keyClick(&sets, Qt::Key_Down);
+  EXPECT_EQ(line("txtDUREE").text() + line("txtPF").text(), u"126"_s) << "of the NBA";
+  EXPECT_EQ(words.text(), QString());
+  line("txtPF").setText(u"5"_s);
+  EXPECT_TRUE(words.text().contains(text(Text::RulesNba)));
+  choose(1, kFox);
+  EXPECT_EQ(line("txtDUREE").text(), u"8"_s);
+  EXPECT_EQ(sets.currentText(), text(Text::RulesNba));
+  EXPECT_EQ(level.currentText(), text(Text::LevelBasic)) << "that nobody chose";
+  find<QComboBox>("typeinput").setCurrentIndex(2);
+  EXPECT_FALSE(level.isEnabled()) << "totals ask for nothing";
+}
+
+TEST_F(NewGameWindowTest, DetailsAreAskedForInAWindowOfTheirOwn) {
+  open({{3, 2}, "", "", 2, 0});
+  for (const bool accepts : {true, false}) {
+    QTimer::singleShot(0, window.get(), [&] {
+      auto* sheet = window->findChild<frmSHEET*>();
+      ASSERT_NE(sheet, nullptr);
+      const auto field = [sheet](const QString& name) { return sheet->findChild<QLineEdit*>(name); };
+      field(u"txtRONDE"_s)->setText(accepts ? u"final"_s : u"semi-final"_s);
+      QTest::keyClicks(field(u"txtENTRAINEUR(0)"_s), QString(300, u'W'));
+      QTest::keyClicks(field(u"txtSCORECIBLE"_s), u"2x1000"_s);
+      auto* captain = sheet->findChild<QComboBox*>(u"lstCAPITAINE(1)"_s);
+      captain->setCurrentIndex(captain->findText(u"5 Bea Baker"_s));
+      accepts ? sheet->accept() : sheet->reject();
+    });
+    click("cmdSHEET");
+  }
+  dialogs.nextFileToSave = toQt(folder.path("a.GAM"));
+  ok().click();
+  EXPECT_NE(folder.read("a.GAM").find("RONDE=final\r\nENTRAINEUR0=" + std::string(254, 'W') +
+                                      "\r\nCAPITAINE1=5\r\nSCORECIBLE=210\r\n"),
+            std::string::npos);
+}
+
 TEST_F(NewGameWindowTest, TheCountWarnsBeforeOkDoes) {
   open({{1, 2}, "", "", 2, 0});
   const auto& count = find<QLabel>("lblCOUNT(0)");
@@ -277,7 +323,7 @@ TEST_F(NewGameWindowTest, TheLanguageFollowsAtOnceAndTheChoicesStay) {
   EXPECT_EQ(find<QComboBox>("typeinput").currentText(), text(Text::LiveAndKeypad));
   EXPECT_EQ(cell(0, 0, Column::Position).toString(), u"Centre"_s);
   EXPECT_TRUE(count().contains(u"20 sur 15"_s));
-  EXPECT_EQ(window->choices(), (LastChoices{{1, 2}, "", "", 9, 1}));
+  EXPECT_EQ(window->choices(), (LastChoices{{1, 2}, "", "", 9, 1, {{1, {}}, {2, {}}}}));
 }
 
 TEST_F(NewGameWindowTest, MakesAGameOfEachInputType) {

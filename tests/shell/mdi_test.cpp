@@ -18,6 +18,7 @@
 #include "season/frmSTATS.h"
 #include "settings/Settings.h"
 #include "setup/frmNEWGAME.h"
+#include "setup/frmSHEET.h"
 #include "shell/CommandBar.h"
 #include "shell/InstanceLock.h"
 #include "shell/SharedFiles.h"
@@ -564,6 +565,14 @@ TEST_F(MainWindowTest, RecordsAGameAndStopsTheClockBeforeItCloses) {
   EXPECT_FALSE(action("LIVEOpen").isEnabled() || action("LIVENew").isEnabled()) << "not while the clock runs";
   action("LIVEMouse").trigger();
   EXPECT_EQ(setting("SAVEREBOUND"), "True");
+  for (const QString& referees : {u"A. Whistle"_s, QString()}) {
+    useDialog<frmSHEET>("SHEET", [&](frmSHEET& sheet) {
+      sheet.findChild<QLineEdit*>(u"txtARBITRES"_s)->setText(referees);
+      sheet.findChild<QComboBox*>(u"lstNIVEAU"_s)->setCurrentIndex(2);
+      sheet.accept();
+    });
+    EXPECT_EQ(live->game().details.referees, fromQt(referees));
+  }
   dialogs.nextAnswer = true;
   leave("CLOSELIVEMANUAL");
   EXPECT_EQ(area().findChild<frmLIVE*>(), nullptr);
@@ -572,6 +581,8 @@ TEST_F(MainWindowTest, RecordsAGameAndStopsTheClockBeforeItCloses) {
   Game game;
   ASSERT_EQ(GameFile(store, fromQt(path)).read(game), GameFileProblem::None);
   EXPECT_EQ(game.events[game.events.size() - 1].code, EventCode::ARRET);
+  EXPECT_EQ(game.details.referees, "") << "emptied again";
+  EXPECT_EQ(game.details.level, RecordingLevel::Full);
 }
 
 TEST_F(MainWindowTest, EntersTotalsInTheirOwnWindowWhichMakesRoomForALiveGame) {

@@ -35,10 +35,16 @@ TEST_F(WindowMemoryTest, LayoutsAndChoicesAreThereAtTheNextStart) {
   memory.rememberLayout("frmVIEW.columns", long_);
   memory.rememberColourScheme(ColourScheme::Dark);
   memory.rememberRefreshSeconds(30);
-  const LastChoices choices{{12, 3}, "Main gym, É", "A. Scorer", 9, 2};
+  LastChoices choices{{12, 3}, "Main gym, É", "A. Scorer", 9, 2};
+  choices.habits[3] = {"", RecordingLevel::Basic};
   EXPECT_EQ(memory.lastGame(), LastChoices());
   memory.rememberLastGame(choices);
+  EXPECT_EQ(folder.read("WINDOWS.INI").find("TEAMGAMES"), std::string::npos) << "where nobody chose";
+  choices.habits = {{3, {"FIBA", RecordingLevel::League}}, {12, {"", RecordingLevel::Full}}};
+  memory.rememberLastGame(choices);
   EXPECT_EQ(next().lastGame(), choices);
+  memory.rememberLastGame({{3, 0}, "", "", 2, 0, {{3, {}}}});
+  EXPECT_EQ(next().lastGame().habits, (std::map<int, TeamHabit>{{3, {}}, {12, {"", RecordingLevel::Full}}}));
   EXPECT_EQ(next().layout("MDI"), "AdnQywADAAA=");
   EXPECT_EQ(next().layout("frmVIEW.columns"), long_) << "longer than a setting may be";
   EXPECT_EQ(next().colourScheme(), ColourScheme::Dark);
