@@ -308,12 +308,35 @@ Report scorecardReport(const std::shared_ptr<const CountedGame>& counted, Scorec
   return report;
 }
 
+namespace {
+
+void addLabelled(Report& report, ReportParagraph::Style style,
+                 std::initializer_list<std::pair<Text, std::string_view>> labels, const Texts& texts) {
+  std::string words;
+  for (const auto& [label, value] : labels) {
+    if (!value.empty())
+      words += (words.empty() ? "" : ".  ") + labelled(label, value, texts);
+  }
+  if (!words.empty())
+    report.blocks.push_back(ReportParagraph{style, std::move(words)});
+}
+
+} // namespace
+
 Report leagueReport(const CountedGame& counted, const Texts& texts) {
   const auto& [game, state] = counted;
+  const GameDetails& details = game.details;
   Report report = reportOf(game, state, Text::LeagueBox, texts);
   addHead(report, game, state, texts);
+  addLabelled(report, ReportParagraph::Style::Body,
+              {{Text::Competition, details.competition},
+               {Text::Round, details.round},
+               {Text::Referees, details.referees},
+               {Text::Attendance, details.attendance}},
+              texts);
   for (int team = 0; team < 2; ++team) {
     report.blocks.push_back(leagueTable(counted, team, texts));
+    addLabelled(report, ReportParagraph::Style::Note, {{Text::Coach, details.coach[team]}}, texts);
     const std::string taken = std::to_string(state.teamRows[static_cast<std::size_t>(team)].timeOuts);
     report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Note,
                                             capitalised(texts.withPlaceholder(Text::TimeOutsTaken, taken))});

@@ -42,20 +42,22 @@ class Rows {
   void add(BoxRow row, const Entry& entry, bool isShown) {
     row.numbers.counters += entry.counters;
     row.numbers.seconds = std::max(entry.seconds, 0);
-    m_total.counters += entry.counters;
-    m_total.seconds += row.numbers.seconds;
+    m_total.numbers.counters += entry.counters;
+    m_total.numbers.seconds += row.numbers.seconds;
+    m_total.foulsDrawn += row.foulsDrawn;
+    m_total.blocksAgainst += row.blocksAgainst;
     if (isShown)
       m_rows.push_back(std::move(row));
   }
   std::vector<BoxRow> withTotal(const Texts& texts) && {
-    m_rows.push_back(
-        {BoxRowKind::Total, -1, {}, std::string(texts.text(Text::Total)), kPositionWithoutName, m_total});
+    m_total.name = texts.text(Text::Total);
+    m_rows.push_back(std::move(m_total));
     return std::move(m_rows);
   }
 
  private:
   std::vector<BoxRow> m_rows;
-  BoxNumbers m_total;
+  BoxRow m_total{BoxRowKind::Total, -1, {}, {}, kPositionWithoutName, {}};
 };
 
 } // namespace
@@ -81,15 +83,20 @@ std::vector<BoxRow> boxRows(const CountedGame& counted, int team, BoxView view, 
   const auto& lines = state.lines[side];
   Rows rows;
   if (view == BoxView::Players) {
+    const auto& extras = state.extras[side];
+    const auto add = [&](BoxRow row, bool isShown) {
+      const auto entry = static_cast<std::size_t>(row.entry);
+      row.foulsDrawn = extras[entry].foulsDrawn;
+      row.blocksAgainst = extras[entry].blocksAgainst;
+      rows.add(std::move(row), players[entry], isShown);
+    };
     for (int i = 1; i <= Roster::kLargestEntry; ++i) {
       if (const RosterPlayer* player = roster.player(i))
-        rows.add(
-            {BoxRowKind::Player, i, player->jersey, player->name, positionText(player->position, texts), {}},
-            players[static_cast<std::size_t>(i)], true);
+        add({BoxRowKind::Player, i, player->jersey, player->name, positionText(player->position, texts), {}},
+            true);
     }
-    rows.add(
-        {BoxRowKind::OtherPlayers, 0, {}, std::string(texts.text(Text::Others)), kPositionWithoutName, {}},
-        players[0], players[0].counters.hasAny() || state.extras[side][0] != PlayerExtras());
+    add({BoxRowKind::OtherPlayers, 0, {}, std::string(texts.text(Text::Others)), kPositionWithoutName, {}},
+        players[0].counters.hasAny() || extras[0] != PlayerExtras());
   } else {
     for (int i = 1; i <= state.usedLines[side]; ++i) {
       const LineEntry& line = lines[static_cast<std::size_t>(i)];

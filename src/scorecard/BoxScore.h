@@ -15,16 +15,19 @@
 
 namespace hooptab {
 
-enum class BoxRowKind : std::uint8_t { Player, OtherPlayers, Line, OtherLines, Total };
+// A team's row is one of a league's sheet.
+enum class BoxRowKind : std::uint8_t { Player, OtherPlayers, Line, OtherLines, Team, Total };
 
 struct BoxRow {
   BoxRowKind kind = BoxRowKind::Player;
-  int entry = 0;        // player or line entry; -1 for the total
+  int entry = 0;        // player or line entry; -1 for team and total
   std::string number;   // jersey; a line's entry number; empty for others and total
   std::string name;     // player's name; a line's jerseys as the roster writes them, "4-5-10-12-15"; text of
                         // others or total
   std::string position; // in the language in use; "na" where there is none
   BoxNumbers numbers;
+  int foulsDrawn = 0;    // of players, and their total
+  int blocksAgainst = 0; // their shots that were blocked
 };
 
 // What a row is known by, beside its kind, when the game is read anew: entries are places, and another line

@@ -17,21 +17,15 @@ namespace {
 constexpr int kNumberColumn = 0;
 constexpr int kNameColumn = 1;
 
-QVariant alignment(int column) {
-  const bool isLeft = boxColumn(column + 1).isLeftAligned;
-  return QVariant::fromValue(Qt::Alignment(isLeft ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
-}
-
-// The points of all shots, in bold.
-bool isPoints(int column) {
-  const Statistic* statistic = boxColumn(column + 1).statistic;
-  return statistic != nullptr && statistic->isShotPart(ShotPart::Points) && statistic->isOfAllShots();
+QVariant alignment(const BoxTableColumn& column) {
+  return QVariant::fromValue(Qt::Alignment(column.isLeftAligned ? Qt::AlignLeft : Qt::AlignHCenter) |
+                             Qt::AlignVCenter);
 }
 
 // A percentage without attempts sorts below 0; a rating below 0 is no zero.
-bool isZero(const BoxRow& row, int column) {
-  const double value = boxSortValue(row, column);
-  return value == 0 || (value < 0 && boxCell(row, column) == "0.0%");
+bool isZero(const BoxRow& row, const BoxTableColumn& column) {
+  const double value = column.sortValue(row);
+  return value == 0 || (value < 0 && column.text(row) == QLatin1String("0.0%"));
 }
 
 bool isSameRow(const BoxRow& one, const BoxRow& other) {
@@ -43,7 +37,8 @@ bool isEqual(const BoxScoreModel::Row& one, const BoxScoreModel::Row& other) {
   const BoxRow& b = other.box;
   return one.check == other.check && a.entry == b.entry && a.number == b.number && a.name == b.name &&
          a.position == b.position && a.numbers.seconds == b.numbers.seconds &&
-         a.numbers.counters == b.numbers.counters;
+         a.numbers.counters == b.numbers.counters && a.foulsDrawn == b.foulsDrawn &&
+         a.blocksAgainst == b.blocksAgainst;
 }
 
 } // namespace
@@ -71,7 +66,7 @@ void BoxScoreModel::showRows(std::vector<Row> rows, bool sameTable) {
       endInsertRows();
     } else if (!isEqual(m_rows[i], rows[i])) {
       m_rows[i] = std::move(rows[i]);
-      emit dataChanged(index(static_cast<int>(i), 0), index(static_cast<int>(i), boxColumnCount() - 1));
+      emit dataChanged(index(static_cast<int>(i), 0), index(static_cast<int>(i), columnCount() - 1));
     }
   }
   if (m_rows.size() > rows.size()) {
@@ -84,7 +79,7 @@ void BoxScoreModel::showRows(std::vector<Row> rows, bool sameTable) {
 void BoxScoreModel::showHeaders(const QStringList& headers, const QStringList& toolTips) {
   m_headers = headers;
   m_toolTips = toolTips;
-  emit headerDataChanged(Qt::Horizontal, 0, boxColumnCount() - 1);
+  emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
 int BoxScoreModel::rowCount(const QModelIndex& parent) const {
@@ -92,81 +87,62 @@ int BoxScoreModel::rowCount(const QModelIndex& parent) const {
 }
 
 int BoxScoreModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : boxColumnCount();
-}
-
-bool BoxScoreModel::isShaded(int column) {
-  int groups = 0;
-  const ShotGroup* open = nullptr;
-  for (const int index : boxDisplayOrder()) {
-    const Statistic* statistic = boxColumn(index).statistic;
-    const ShotGroup* group = statistic == nullptr ? nullptr : statistic->group;
-    groups += group != open ? 1 : 0;
-    open = group;
-    if (index == column + 1)
-      break;
-  }
-  return groups % 2 == 1;
+  return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
 }
 
 QVariant BoxScoreModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid())
     return {};
   const Row& row = m_rows[static_cast<std::size_t>(index.row())];
-  const int column = index.column() + 1;
+  const BoxTableColumn& column = this->column(index.column());
   const bool isTotal = row.box.kind == BoxRowKind::Total;
   switch (role) {
-  case Qt::DisplayRole: return toQt(boxCell(row.box, column));
-  case SortRole:
-    return boxColumnIsText(column) ? QVariant(toQt(boxCell(row.box, column))) : boxSortValue(row.box, column);
-  case kTableKindRole: {
-    const Statistic* statistic = boxColumn(column).statistic;
-    return statistic == nullptr ? QVariant() : static_cast<int>(tableKind(statistic->kind));
-  }
+  case Qt::DisplayRole: return column.text(row.box);
+  case SortRole: return column.isText ? QVariant(column.text(row.box)) : column.sortValue(row.box);
+  case kTableKindRole: return column.kind ? static_cast<int>(tableKind(*column.kind)) : QVariant();
   case TotalRole: return isTotal;
-  case Qt::CheckStateRole: return index.column() == kNumberColumn ? QVariant(row.check) : QVariant();
+  case Qt::CheckStateRole:
+    return index.column() == kNumberColumn && row.check ? QVariant(*row.check) : QVariant();
   case Qt::ToolTipRole: return index.column() == kNameColumn ? toQt(row.box.name) : QVariant();
-  case Qt::TextAlignmentRole: return alignment(index.column());
+  case Qt::TextAlignmentRole: return alignment(column);
   case Qt::FontRole: {
-    if (!isTotal && !isPoints(index.column()))
+    if (!isTotal && !column.isBold)
       return {};
     QFont bold;
     bold.setBold(true);
     return bold;
   }
   // Most cells of a box score are 0: muted, they let the others stand out.
-  case Qt::ForegroundRole: {
-    const bool isNumber = !boxColumnIsText(column) && index.column() != kNumberColumn;
-    return isNumber && !isTotal && isZero(row.box, column) ? QVariant(Theme::muted()) : QVariant();
-  }
+  case Qt::ForegroundRole:
+    return column.kind && !isTotal && isZero(row.box, column) ? QVariant(Theme::muted()) : QVariant();
   case Qt::BackgroundRole: {
     const QPalette palette = QGuiApplication::palette();
     if (isTotal)
       return palette.brush(QPalette::Button);
-    return isShaded(index.column()) ? palette.brush(QPalette::AlternateBase) : QVariant();
+    return column.isShaded ? palette.brush(QPalette::AlternateBase) : QVariant();
   }
   default: return {};
   }
 }
 
 bool BoxScoreModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-  if (role != Qt::CheckStateRole || !index.isValid() || index.column() != kNumberColumn)
+  if (role != Qt::CheckStateRole || !index.isValid() || index.column() != kNumberColumn ||
+      !m_rows[static_cast<std::size_t>(index.row())].check)
     return false;
   emit checkAsked(index.row(), value.toInt() != Qt::Unchecked);
   return true;
 }
 
 QVariant BoxScoreModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || section < 0 || section >= boxColumnCount())
+  if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
     return {};
   switch (role) {
   case Qt::DisplayRole: return m_headers.value(section);
   case Qt::ToolTipRole: return m_toolTips.value(section);
-  case kTableNameRole: return toQt(boxColumn(section + 1).name);
-  case Qt::TextAlignmentRole: return alignment(section);
+  case kTableNameRole: return column(section).name;
+  case Qt::TextAlignmentRole: return alignment(column(section));
   // Whoever sorts by a number wants the best first.
-  case Qt::InitialSortOrderRole:
-    return boxColumnIsText(section + 1) ? Qt::AscendingOrder : Qt::DescendingOrder;
+  case Qt::InitialSortOrderRole: return column(section).isText ? Qt::AscendingOrder : Qt::DescendingOrder;
   default: return {};
   }
 }
@@ -175,7 +151,8 @@ Qt::ItemFlags BoxScoreModel::flags(const QModelIndex& index) const {
   if (!index.isValid())
     return {};
   const Qt::ItemFlags usual = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
-  return index.column() == kNumberColumn ? usual | Qt::ItemIsUserCheckable : usual;
+  const bool isCheckable = index.data(Qt::CheckStateRole).isValid();
+  return isCheckable ? usual | Qt::ItemIsUserCheckable : usual;
 }
 
 } // namespace hooptab

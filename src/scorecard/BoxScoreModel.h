@@ -1,14 +1,14 @@
-// The box score as a table for views: its columns in creation order (column 0 is the first), check marks in
-// the first. Takes new rows without a reset, so that selection, sort and scroll of its views survive.
-// Computes nothing: rows and marks come from outside, cells' texts from BoxScore.
+// A box score as a table for views: the columns that it was made with, check marks in the first where its
+// rows have any. Takes new rows without a reset, so that selection, sort and scroll of its views survive.
+// Computes nothing: rows and marks come from outside, cells' texts from the columns.
 #pragma once
 
 #include "appearance/TableContent.h"
-#include "scorecard/BoxScore.h"
-#include "scorecard/ScorecardView.h"
+#include "scorecard/BoxTableColumn.h"
 
 #include <QAbstractTableModel>
 
+#include <optional>
 #include <vector>
 
 namespace hooptab {
@@ -22,15 +22,17 @@ class BoxScoreModel : public QAbstractTableModel {
     TotalRole = kTableTotalRole,
   };
 
-  explicit BoxScoreModel(QObject* parent = nullptr) : QAbstractTableModel(parent) {}
+  explicit BoxScoreModel(std::vector<BoxTableColumn> columns, QObject* parent = nullptr)
+      : QAbstractTableModel(parent), m_columns(std::move(columns)) {}
+  const std::vector<BoxTableColumn>& columns() const { return m_columns; }
 
   struct Row {
     BoxRow box;
-    Qt::CheckState check = Qt::Checked;
+    std::optional<Qt::CheckState> check = {};
   };
   // `sameTable` says whether these are the rows shown before, read anew; else everything starts afresh.
   void showRows(std::vector<Row> rows, bool sameTable);
-  // Three headers and all tool tips depend on the language.
+  // Some headers and all tool tips depend on the language.
   void showHeaders(const QStringList& headers, const QStringList& toolTips);
   const BoxRow& row(int row) const { return m_rows[static_cast<std::size_t>(row)].box; }
 
@@ -41,15 +43,14 @@ class BoxScoreModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-  // Whether a column's group is tinted: groups of four alternate, so that their equal "PTS" headers stay
-  // apart.
-  static bool isShaded(int column);
-
  signals:
   // The user's wish; the mark changes when rows are shown again.
   void checkAsked(int row, bool isChecked);
 
  private:
+  const BoxTableColumn& column(int column) const { return m_columns[static_cast<std::size_t>(column)]; }
+
+  const std::vector<BoxTableColumn> m_columns;
   std::vector<Row> m_rows;
   QStringList m_headers;
   QStringList m_toolTips;

@@ -1,10 +1,11 @@
-// One box score table of the scorecard: model, sort and view with the columns in their display order and
-// widths that fit what they can hold. The window owns two, for players and for lines.
+// One box score table of the scorecard: model, sort and view with widths that fit what the columns can hold.
+// The window owns three, for players, for lines, and for a league's sheet.
 #pragma once
 
 #include "scorecard/BoxScoreModel.h"
 #include "scorecard/BoxSortProxy.h"
 #include "scorecard/FrozenTableView.h"
+#include "scorecard/ScorecardView.h"
 
 #include <QString>
 
@@ -14,10 +15,13 @@ class BoxTable : public FrozenTableView {
   Q_OBJECT
 
  public:
-  explicit BoxTable(const QString& name, QWidget* parent = nullptr);
+  BoxTable(const QString& name, std::vector<BoxTableColumn> columns, QWidget* parent = nullptr);
+  // All columns, counted from 1, from left to right; else they stand as they are given.
+  void setOrder(const std::vector<int>& order);
 
-  // Shows the rows of the view; `sameTable` keeps selection, sort and scroll.
-  void showRows(const ScorecardView& view, bool sameTable);
+  // `sameTable` keeps selection, sort and scroll.
+  void showRows(std::vector<BoxScoreModel::Row> rows, bool sameTable);
+  void hideMadeAttempted(bool hides);
   void relabel(const QStringList& headers, const QStringList& toolTips);
 
  signals:
@@ -25,10 +29,10 @@ class BoxTable : public FrozenTableView {
   void checkAsked(const BoxRow& row, bool isChecked);
 
  protected:
+  void fitToFont() override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  int numberWidth(int column) const;
   void fitColumns();
   void fitRows();
 

@@ -9,6 +9,10 @@ namespace {
 
 constexpr Text kPartTexts[] = {Text::MadeOf, Text::AttemptsOf, Text::PercentageOf, Text::PointsOf};
 
+std::string partWords(ShotPart part, Text shots, const Texts& texts) {
+  return texts.withPlaceholder(kPartTexts[static_cast<std::size_t>(part)], texts.text(shots));
+}
+
 std::string ownStatistic(std::size_t index, StatisticLabels labels, const Settings& settings,
                          const Texts& texts) {
   std::string label = Settings::shownLabel(labels[index]);
@@ -30,8 +34,7 @@ std::string statisticWords(const Statistic& statistic, StatisticLabels labels, c
   if (statistic.words != Text::None)
     return std::string(texts.text(statistic.words));
   if (statistic.group != nullptr)
-    return texts.withPlaceholder(kPartTexts[static_cast<std::size_t>(statistic.part)],
-                                 texts.text(statistic.group->words));
+    return partWords(statistic.part, statistic.group->words, texts);
   return std::string(texts.text(termWords(statistic.name)));
 }
 
@@ -47,6 +50,11 @@ std::string columnWords(int column, StatisticLabels labels, const Settings& sett
     return statisticWords(*shown.statistic, labels, settings, texts);
   const Text words = termWords(shown.name);
   return words == Text::None ? std::string(shown.name) : std::string(texts.text(words));
+}
+
+std::string leagueColumnWords(const LeagueColumn& column, const Texts& texts) {
+  return column.shots != 0 ? partWords(column.part, column.words, texts)
+                           : std::string(texts.text(column.words));
 }
 
 } // namespace hooptab

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/Statistics.h"
+#include "scorecard/LeagueSheet.h"
 #include "settings/Settings.h"
 
 #include <span>
@@ -21,5 +22,6 @@ using StatisticLabels = std::span<const std::string, 2>;
 // `column` is a creation index of a game's table.
 [[nodiscard]] std::string columnWords(int column, StatisticLabels labels, const Settings& settings,
                                       const Texts& texts);
+[[nodiscard]] std::string leagueColumnWords(const LeagueColumn& column, const Texts& texts);
 
 } // namespace hooptab

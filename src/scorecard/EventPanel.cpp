@@ -1,10 +1,12 @@
 #include "scorecard/EventPanel.h"
 
 #include "appearance/TableContent.h"
+#include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "scorecard/BoxHeader.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QIcon>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -41,10 +43,8 @@ EventPanel::EventPanel(const Texts& texts, QWidget* parent)
   m_list->horizontalHeader()->moveSection(m_list->horizontalHeader()->visualIndex(EventListModel::Score), 2);
   m_list->horizontalHeader()->setStretchLastSection(true);
   m_list->verticalHeader()->hide();
-  m_list->verticalHeader()->setMinimumSectionSize(kRowHeight);
-  m_list->verticalHeader()->setDefaultSectionSize(kRowHeight);
   m_list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  m_list->setIconSize({kColourWidth, kRowHeight - 4});
+  fitRows();
   m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
   m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
   m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -65,6 +65,21 @@ EventPanel::EventPanel(const Texts& texts, QWidget* parent)
   });
   connect(m_search, &QLineEdit::textChanged, &m_found, &QSortFilterProxyModel::setFilterFixedString);
   connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &EventPanel::tellChosen);
+}
+
+void EventPanel::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) {
+    fitRows();
+    fitColumns();
+  }
+}
+
+void EventPanel::fitRows() {
+  const int height = Theme::measure()(kRowHeight);
+  m_list->verticalHeader()->setMinimumSectionSize(height);
+  m_list->verticalHeader()->setDefaultSectionSize(height);
+  m_list->setIconSize({kColourWidth, height - 4});
 }
 
 void EventPanel::tellChosen() {

@@ -34,8 +34,12 @@ class EventPanel : public QWidget {
   void eventChosen(std::optional<std::uint32_t> event);
   void copied();
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   void tellChosen();
+  void fitRows();
   void fitColumns();
 
   EventListModel m_model;

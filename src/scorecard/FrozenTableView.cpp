@@ -37,8 +37,6 @@ FrozenTableView::FrozenTableView(int frozenColumns, QWidget* parent)
   setSortingEnabled(true);
   m_frozen->setObjectName(QStringLiteral("frozen"));
   m_frozen->setFrameShape(QFrame::NoFrame);
-  m_frozen->setStyleSheet(
-      QStringLiteral("QTableView#frozen { border: none; }")); // against the program's own frame
   m_frozen->setFocusProxy(this);
   m_frozen->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   m_frozen->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -107,6 +105,13 @@ void FrozenTableView::layOutFrozen() {
   m_frozen->horizontalHeader()->setFixedHeight(horizontalHeader()->height());
   m_frozen->setGeometry(frameWidth(), frameWidth(), frozenWidth(),
                         viewport()->height() + horizontalHeader()->height());
+}
+
+// By now the headers and the frozen part have the new font, too.
+void FrozenTableView::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::FontChange)
+    fitToFont();
 }
 
 void FrozenTableView::resizeEvent(QResizeEvent* event) {

@@ -1,6 +1,6 @@
 // A table whose first columns stay in sight while the others scroll sideways: a second view of the same model
 // and selection lies over them. Space turns the check marks of the selected rows; Ctrl+C copies what is
-// shown. Knows nothing of basketball.
+// shown. How wide columns are is for whoever fills it. Knows nothing of basketball.
 #pragma once
 
 #include <QTableView>
@@ -25,6 +25,10 @@ class FrozenTableView : public QTableView {
   void copied();
 
  protected:
+  // Asked for whenever the font is another.
+  virtual void fitToFont() {}
+
+  void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;

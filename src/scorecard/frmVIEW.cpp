@@ -11,6 +11,7 @@
 #include "scorecard/ColumnWords.h"
 #include "scorecard/EventPanel.h"
 #include "scorecard/GameDetailsPanel.h"
+#include "scorecard/LeagueSheet.h"
 #include "scorecard/Scoreboard.h"
 #include "scorecard/ScoreboardStrip.h"
 #include "scorecard/ShotChartPanel.h"
@@ -41,6 +42,20 @@ constexpr int kChartShare = 320;
 constexpr int kTableShare = 65;
 constexpr int kEventShare = 35;
 constexpr int kTeamWidth = 280;
+
+// The tables of box scores.
+constexpr std::size_t kLeagueSheet = 2;
+constexpr Text kTableTexts[] = {Text::SummaryByPlayer, Text::ByLine, Text::SummaryForLeague};
+constexpr const char* kTableNames[] = {"lvwSTAT(0)", "lvwSTAT(1)", "lvwLEAGUE"};
+
+Qt::CheckState checkState(ScorecardView::CheckMark mark) {
+  switch (mark) {
+  case ScorecardView::CheckMark::None: return Qt::Unchecked;
+  case ScorecardView::CheckMark::Some: return Qt::PartiallyChecked;
+  case ScorecardView::CheckMark::All: break;
+  }
+  return Qt::Checked;
+}
 
 } // namespace
 
@@ -111,9 +126,19 @@ QWidget* frmVIEW::makeTables() {
   m_kind->setObjectName(QStringLiteral("lblVIEW"));
   m_kind->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*m_kind, Text::SummaryByPlayer);
+  m_league = new QToolButton(panel);
+  m_league->setObjectName(QStringLiteral("cmdLEAGUE"));
+  m_league->setCheckable(true);
+  setTextNumber(*m_league, Text::LeagueSheet);
+  setToolTipNumber(*m_league, Text::LeagueSheetTip);
+  connect(m_league, &QToolButton::clicked, this, &frmVIEW::setShowsLeagueSheet);
   m_stack = new QStackedWidget(panel);
   for (std::size_t i = 0; i < m_tables.size(); ++i) {
-    m_tables[i] = new BoxTable(QStringLiteral("lvwSTAT(%1)").arg(i), m_stack);
+    m_tables[i] = new BoxTable(QLatin1String(kTableNames[i]),
+                               i == kLeagueSheet ? leagueTableColumns() : boxTableColumns(), m_stack);
+    if (i != kLeagueSheet)
+      m_tables[i]->setOrder(boxDisplayOrder());
+    setAccessibleNumber(*m_tables[i], kTableTexts[i]);
     m_stack->addWidget(m_tables[i]);
     connect(m_tables[i], &BoxTable::checkAsked, this, [this](const BoxRow& row, bool isChecked) {
       m_view.check(row, isChecked);
@@ -123,11 +148,10 @@ QWidget* frmVIEW::makeTables() {
     connect(m_tables[i], &BoxTable::copied, this,
             [this] { emit reported(caption(m_texts, Text::TableCopied)); });
   }
-  setAccessibleNumber(*m_tables[0], Text::SummaryByPlayer);
-  setAccessibleNumber(*m_tables[1], Text::ByLine);
 
   auto* head = new QHBoxLayout;
   head->addWidget(m_team);
+  head->addWidget(m_league);
   head->addWidget(m_kind);
   head->addStretch();
   head->addWidget(copy);
@@ -176,7 +200,7 @@ GameFileProblem frmVIEW::open(const QString& path) {
   m_card = std::move(card);
   m_change.emplace(std::move(change));
   m_problem = GameFileProblem::None;
-  m_shownTeam = {-1, -1};
+  m_shownTeam.fill(-1);
   m_view.show(m_card->counted());
   m_view.forgetChecks();
   showGame(true);
@@ -221,11 +245,25 @@ void frmVIEW::setRefreshMode(RefreshMode mode) {
 }
 
 void frmVIEW::setByLine(bool byLine) {
-  if (byLine == isByLine())
+  showAs(byLine ? BoxView::Lines : BoxView::Players, false);
+}
+
+void frmVIEW::setShowsLeagueSheet(bool shows) {
+  showAs(BoxView::Players, shows);
+}
+
+std::size_t frmVIEW::shownTable() const {
+  return m_showsLeagueSheet ? kLeagueSheet : static_cast<std::size_t>(m_view.view());
+}
+
+void frmVIEW::showAs(BoxView view, bool asLeagueSheet) {
+  if (view == m_view.view() && asLeagueSheet == m_showsLeagueSheet)
     return;
-  m_view.setView(byLine ? BoxView::Lines : BoxView::Players);
+  m_view.setView(view);
+  m_showsLeagueSheet = asLeagueSheet;
+  m_league->setChecked(asLeagueSheet);
   m_stack->setCurrentWidget(&table());
-  setTextNumber(*m_kind, byLine ? Text::ByLine : Text::SummaryByPlayer);
+  setTextNumber(*m_kind, kTableTexts[shownTable()]);
   relabel(*m_kind, m_texts);
   showTable();
   showChart();
@@ -309,8 +347,17 @@ void frmVIEW::showTeams() {
 }
 
 void frmVIEW::showTable() {
-  int& shownTeam = m_shownTeam[static_cast<std::size_t>(m_view.view())];
-  table().showRows(m_view, shownTeam == m_view.team());
+  std::vector<BoxScoreModel::Row> rows;
+  if (!m_showsLeagueSheet) {
+    for (const BoxRow& row : m_view.rows())
+      rows.push_back({row, checkState(m_view.checkMark(row))});
+  } else if (m_card != nullptr) {
+    for (BoxRow& row : leagueRows(*m_card->counted(), m_view.team(), m_texts))
+      rows.push_back({std::move(row)});
+  }
+  int& shownTeam = m_shownTeam[shownTable()];
+  table().hideMadeAttempted(m_view.hidesMadeAttempted());
+  table().showRows(std::move(rows), shownTeam == m_view.team());
   setExportTitle(table(), m_team->currentText());
   shownTeam = m_view.team();
 }
@@ -331,9 +378,16 @@ void frmVIEW::showHeaders() {
     headers << (column.headerText != Text::None ? caption(m_texts, column.headerText) : toQt(column.header));
     toolTips << toQt(columnWords(column.index, labels, m_settings, m_texts));
   }
+  QStringList leagueHeaders = headers.first(2); // number and name
+  QStringList leagueToolTips = toolTips.first(2);
+  for (const LeagueColumn& column : leagueColumns()) {
+    leagueHeaders << toQt(leagueHeader(column, m_texts));
+    leagueToolTips << toQt(leagueColumnWords(column, m_texts));
+  }
+  m_tables[kLeagueSheet]->relabel(leagueHeaders, leagueToolTips);
   toolTips.first() += u'\n' + caption(m_texts, Text::CheckHint);
-  for (BoxTable* each : m_tables)
-    each->relabel(headers, toolTips);
+  for (const BoxView view : {BoxView::Players, BoxView::Lines})
+    m_tables[static_cast<std::size_t>(view)]->relabel(headers, toolTips);
 }
 
 void frmVIEW::showNotice() {

@@ -19,6 +19,7 @@ class QComboBox;
 class QLabel;
 class QStackedWidget;
 class QTabWidget;
+class QToolButton;
 
 namespace hooptab {
 
@@ -53,7 +54,10 @@ class frmVIEW : public ChildWindow {
   RefreshMode refreshMode() const { return m_refreshMode; }
 
   bool isByLine() const { return m_view.view() == BoxView::Lines; }
-  void setByLine(bool byLine);
+  void setByLine(bool byLine); // leaves a league's sheet
+  bool showsLeagueSheet() const { return m_showsLeagueSheet; }
+  // Of the players, in place of their table.
+  void setShowsLeagueSheet(bool shows);
   bool hidesMadeAttempted() const { return m_view.hidesMadeAttempted(); }
   void setHidesMadeAttempted(bool hides);
 
@@ -68,7 +72,10 @@ class frmVIEW : public ChildWindow {
  private:
   QWidget* makeTables();
   QWidget* makeEventsAndDetails();
-  BoxTable& table() const { return *m_tables[static_cast<std::size_t>(m_view.view())]; }
+  // Among the tables.
+  std::size_t shownTable() const;
+  BoxTable& table() const { return *m_tables[shownTable()]; }
+  void showAs(BoxView view, bool asLeagueSheet);
   void refreshOnTimer();
   void readAgain();
   void showGame(bool isNew);
@@ -92,10 +99,12 @@ class frmVIEW : public ChildWindow {
   CheckStrip* m_check;
   ScoreboardStrip* m_strip;
   QComboBox* m_team;
-  QLabel* m_kind; // by player or by line
+  QToolButton* m_league;
+  QLabel* m_kind; // by player, by line, or a league's
   QStackedWidget* m_stack;
-  std::array<BoxTable*, 2> m_tables; // by BoxView
-  std::array<int, 2> m_shownTeam = {-1, -1};
+  bool m_showsLeagueSheet = false;
+  std::array<BoxTable*, 3> m_tables; // by BoxView; a league's sheet
+  std::array<int, 3> m_shownTeam = {-1, -1, -1};
   QTabWidget* m_tabs;
   EventPanel* m_events;
   GameDetailsPanel* m_details;

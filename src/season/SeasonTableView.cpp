@@ -1,5 +1,6 @@
 #include "season/SeasonTableView.h"
 
+#include "appearance/Theme.h"
 #include "scorecard/BoxHeader.h"
 
 #include <QShortcut>
@@ -20,7 +21,7 @@ SeasonTableView::SeasonTableView(const QString& name, int frozenColumns, QWidget
     : FrozenTableView(frozenColumns, parent) {
   setObjectName(name);
   setModel(&m_model);
-  setRowHeight(kRowHeight);
+  setRowHeight(Theme::measure()(kRowHeight));
   setTabKeyNavigation(false);
   connect(this, &QAbstractItemView::doubleClicked, this,
           [this](const QModelIndex& index) { emit rowAsked(m_model.sourceRow(index.row())); });
@@ -54,6 +55,11 @@ void SeasonTableView::showRows(TableRows rows) {
 void SeasonTableView::focusInEvent(QFocusEvent* event) {
   FrozenTableView::focusInEvent(event);
   emit focused();
+}
+
+void SeasonTableView::fitToFont() {
+  setRowHeight(Theme::measure()(kRowHeight));
+  fitColumns();
 }
 
 void SeasonTableView::fitColumns() {

@@ -30,6 +30,7 @@ class SeasonTableView : public FrozenTableView {
   void focused(); // it has received the focus
 
  protected:
+  void fitToFont() override;
   void focusInEvent(QFocusEvent* event) override;
 
  private:

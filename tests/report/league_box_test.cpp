@@ -1,5 +1,6 @@
 #include "report/LeagueBox.h"
 
+#include "report/GameReports.h"
 #include "support/TextGame.h"
 
 #include <gtest/gtest.h>
@@ -30,6 +31,23 @@ TEST(LeagueBox, HasARowForWhatNoPlayerDidAndATotalWithIt) {
   EXPECT_EQ(rowText(table.rows[0]), "3 Hana Hart 03:00 2 1 1 0 1 0 0 0 0 0 0 0 0 0 1 2 1");
   EXPECT_EQ(rowText(table.rows[5]), "- Team / Coach - 0 0 0 0 0 0 0 1 1 2 0 1 0 0 0 1 0");
   EXPECT_EQ(rowText(table.rows[6]), "- TOTAL 15:00 2 1 1 0 1 0 0 1 2 3 0 1 0 0 1 3 1");
+}
+
+TEST(LeagueBox, NamesTheOfficialsTheCoachesAndTheCaptain) {
+  const auto game =
+      counted(gameOfText(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-05,IN-\n",
+                                    "COMPETITION=Coupe\nRONDE=\nARBITRES=A. Whistle\nASSISTANCE=120\n"
+                                    "ENTRAINEUR1=Bo Tactic\nCAPITAINE0=05\n")));
+  std::string words;
+  for (const ReportBlock& block : leagueReport(*game, Texts()).blocks) {
+    if (const auto* paragraph = std::get_if<ReportParagraph>(&block))
+      words += paragraph->text + '|';
+  }
+  EXPECT_NE(words.find("|Competition: Coupe.  Referees: A. Whistle.  Attendance: 120|"), std::string::npos)
+      << words;
+  EXPECT_NE(words.find("|Coach: Bo Tactic|"), std::string::npos) << words;
+  EXPECT_EQ(leagueTable(*game, 0, Texts()).rows[1].cells[1].text, "Bea Baker (C)");
+  EXPECT_EQ(leagueTable(*game, 1, Texts()).rows[0].cells[1].text, "Hana Hart");
 }
 
 } // namespace

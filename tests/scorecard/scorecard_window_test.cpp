@@ -45,14 +45,15 @@ class ScorecardWindowTest : public WindowTest<frmVIEW> {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
   }
   void watchModels() {
-    for (auto* view : {&find<QTableView>("lvwSTAT(0)"), &find<QTableView>("lvwSTAT(1)"), &events()}) {
+    for (auto* view : {&find<QTableView>("lvwSTAT(0)"), &find<QTableView>("lvwSTAT(1)"),
+                       &find<QTableView>("lvwLEAGUE"), &events()}) {
       auto* proxy = qobject_cast<QAbstractProxyModel*>(view->model());
       new QAbstractItemModelTester(proxy, Fatal::Fatal, proxy);
       new QAbstractItemModelTester(proxy->sourceModel(), Fatal::Fatal, proxy);
     }
   }
   FrozenTableView& table(int view) const {
-    return find<FrozenTableView>(view == 0 ? "lvwSTAT(0)" : "lvwSTAT(1)");
+    return find<FrozenTableView>(view == 0 ? "lvwSTAT(0)" : view == 1 ? "lvwSTAT(1)" : "lvwLEAGUE");
   }
   QTableView& events() const { return find<QTableView>("lvwEVENT"); }
   QTimer& timer() const { return find<QTimer>("TimerCoach"); }
@@ -125,17 +126,42 @@ TEST_F(ScorecardWindowTest, TheColumnsStandInTheirDisplayOrder) {
   EXPECT_FALSE(table(1).isColumnHidden(kFieldGoalsMade));
 }
 
-TEST_F(ScorecardWindowTest, TheTotalStaysLastWhateverTheSort) {
+TEST_F(ScorecardWindowTest, AnotherFontFindsRoomInEveryColumn) {
+  QFont larger = window->font();
+  larger.setPointSizeF(larger.pointSizeF() * 1.5);
+  window->setFont(larger);
+  larger.setBold(true);
+  const QFontMetrics metrics(larger);
   for (const int view : {0, 1}) {
+    const QAbstractItemModel& rows = *table(view).model();
+    const auto* frozen = table(view).findChild<QTableView*>(QStringLiteral("frozen"));
+    EXPECT_EQ(frozen->font().pointSizeF(), larger.pointSizeF());
+    for (int column = 0; column < rows.columnCount(); ++column) {
+      if (table(view).isColumnHidden(column))
+        continue;
+      QStringList words(rows.headerData(column, Qt::Horizontal).toString());
+      for (int row = 0; row < rows.rowCount(); ++row)
+        words << cell(table(view), row, column);
+      for (const QString& word : words)
+        EXPECT_GE(table(view).columnWidth(column), metrics.horizontalAdvance(word)) << fromQt(word);
+    }
+    EXPECT_EQ(frozen->columnWidth(1), table(view).columnWidth(1));
+  }
+}
+
+TEST_F(ScorecardWindowTest, TheTotalStaysLastWhateverTheSort) {
+  for (const int view : {0, 1, 2}) {
     window->setByLine(view == 1);
+    window->setShowsLeagueSheet(view == 2);
+    const auto isText = [&](int column) { return column == 1 || (view < 2 && boxColumnIsText(column + 1)); };
     const QAbstractItemModel& rows = *table(view).model();
     const int last = rows.rowCount() - 1;
-    for (int column = 0; column < boxColumnCount(); ++column) {
+    for (int column = 0; column < rows.columnCount(); ++column) {
       for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
         table(view).sortByColumn(column, order);
         EXPECT_TRUE(rows.index(last, 0).data(BoxScoreModel::TotalRole).toBool())
             << view << ' ' << column << ' ' << order;
-        for (int row = 1; row < last && !boxColumnIsText(column + 1); ++row) {
+        for (int row = 1; row < last && !isText(column); ++row) {
           const double before = rows.index(row - 1, column).data(BoxScoreModel::SortRole).toDouble();
           const double after = rows.index(row, column).data(BoxScoreModel::SortRole).toDouble();
           EXPECT_TRUE(order == Qt::AscendingOrder ? before <= after : before >= after)
@@ -144,8 +170,47 @@ TEST_F(ScorecardWindowTest, TheTotalStaysLastWhateverTheSort) {
       }
     }
     table(view).clearSort();
-    EXPECT_EQ(cell(table(view), 0, 0), view == 0 ? QStringLiteral("4") : QStringLiteral("1"));
+    EXPECT_EQ(cell(table(view), 0, 0), view == 1 ? QStringLiteral("1") : QStringLiteral("4"));
   }
+}
+
+TEST_F(ScorecardWindowTest, ALeaguesSheetStandsInThePlaceOfThePlayers) {
+  const auto line = [&](int row) {
+    QStringList cells;
+    for (int column = 0; column < table(2).model()->columnCount(); ++column)
+      cells << cell(table(2), row, column);
+    return fromQt(cells.join(u' '));
+  };
+  game.add(1, 530, {",XDR,0", ",XTV,0", ",XCF,0,K=C"});
+  window->refresh();
+  window->setByLine(true);
+  find<QToolButton>("cmdLEAGUE").click();
+  EXPECT_FALSE(window->isByLine());
+  ASSERT_TRUE(table(2).isVisible());
+  ASSERT_EQ(table(2).model()->rowCount(), 6);
+  EXPECT_EQ(line(2), "12 Cleo Carter 00:00 1 1 100.0% 1 1 100.0% 0 0 0.0% 0 0 0.0% 0 0 0 0 0 0 0 0 2 0 2");
+  EXPECT_EQ(line(4), " Team / Coach  0 0 0.0% 0 0 0.0% 0 0 0.0% 0 0 0.0% 0 1 1 0 1 0 0 0 1 0 0");
+  EXPECT_EQ(line(5), " TOTAL 01:40 2 3 66.7% 2 2 100.0% 0 1 0.0% 0 0 0.0% 0 1 1 0 1 0 0 0 3 0 4");
+  EXPECT_FALSE(table(2).model()->index(0, 0).data(Qt::CheckStateRole).isValid());
+
+  game.add(1, 520, {",GF3,0-12,110,90", ",XOR,0"});
+  table(2).selectRow(2);
+  window->refresh();
+  EXPECT_TRUE(line(4).ends_with("1 1 2 0 1 0 0 0 1 0 0")) << line(4);
+  ASSERT_EQ(table(2).selectionModel()->selectedRows().size(), 1);
+  find<QComboBox>("cmbTEAM").setCurrentIndex(1);
+  EXPECT_EQ(line(2), " Team / Coach  0 0 0.0% 0 0 0.0% 0 0 0.0% 0 0 0.0% 0 0 0 0 0 0 0 0 0 0 0")
+      << "where a team did nothing, too";
+  window->setHidesMadeAttempted(true);
+  texts.setLanguage(Language::French);
+  window->relabelWindow();
+  find<QToolButton>("cmdCOPY").click();
+  EXPECT_EQ(fromQt(QApplication::clipboard()->text().section(u'\n', 0, 0)),
+            "No\tNom du joueur\tTemps\tFG%\t2P%\t3P%\tFT%\tOR\tDR\tTR\tAst\tTO\tST\tBS\tCS\tPF\tFP\tPTS");
+
+  window->setByLine(true);
+  EXPECT_TRUE(table(1).isVisible());
+  EXPECT_FALSE(find<QToolButton>("cmdLEAGUE").isChecked());
 }
 
 TEST_F(ScorecardWindowTest, AClickOnTheFrozenHeaderSortsAndOnAFrozenCheckBoxTurnsTheMark) {
