@@ -40,6 +40,17 @@ void addTeam(Counts& counts, const GameState& state, const Roster& roster, std::
     counts[which + " points"] = state.periods[team][row].points;
     counts[which + " fouls"] = state.periods[team][row].fouls;
   }
+  for (std::size_t entry = 0; entry < state.extras[team].size(); ++entry) {
+    const std::string which = side + " entry " + std::to_string(entry);
+    counts[which + " fouls drawn"] = state.extras[team][entry].foulsDrawn;
+    counts[which + " blocks against"] = state.extras[team][entry].blocksAgainst;
+  }
+  const TeamRow& row = state.teamRows[team];
+  counts[side + " offensive rebounds of the team"] = row.offensiveRebounds;
+  counts[side + " defensive rebounds of the team"] = row.defensiveRebounds;
+  counts[side + " turnovers of the team"] = row.turnovers;
+  counts[side + " technicals of the bench"] = row.benchTechnicals;
+  counts[side + " time-outs"] = row.timeOuts;
 }
 
 Counts counted(const Game& game) {

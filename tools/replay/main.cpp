@@ -5,6 +5,7 @@
 #include "support/TemporaryFolder.h"
 #include "tools/replay/Comparison.h"
 #include "tools/replay/KeypadHand.h"
+#include "tools/replay/LeagueHand.h"
 #include "tools/replay/MouseHand.h"
 #include "tools/replay/Replay.h"
 
@@ -143,6 +144,8 @@ int run(const Options& options) {
   std::unique_ptr<Hand> hand;
   if (options.isByKeys)
     hand = std::make_unique<KeypadHand>(table);
+  else if (original.details.recordingLevel() != RecordingLevel::Basic)
+    hand = std::make_unique<LeagueHand>(table);
   else
     hand = std::make_unique<MouseHand>(table);
   Replay replay(original, table, *hand);
