@@ -68,13 +68,21 @@ std::optional<int> LiveGame::arrow() const {
   return last == events.rend() ? std::nullopt : std::optional(last->player.team);
 }
 
-// Every period but the first begins with the ball for the team that has the arrow, which then turns.
+// Every period but the first begins with the ball for the team that has the arrow, which then turns: once,
+// also where that start was taken back, and whoever had set it right before.
 bool LiveGame::turnsArrow() const {
-  return level() != RecordingLevel::Basic && period() > 1 && arrow() &&
-         std::ranges::none_of(game().events.ofPeriod(period()), [](const GameEvent& event) {
-           return event.isUnderstood && !event.isDeleted &&
-                  (event.code == EventCode::DEPART || event.code == EventCode::XAR);
-         });
+  if (level() == RecordingLevel::Basic || period() == 1 || !arrow())
+    return false;
+  const auto events = game().events.ofPeriod(period());
+  for (std::size_t place = 0; place < events.size(); ++place) {
+    const GameEvent& event = events[place];
+    const bool isStart = event.code == EventCode::DEPART && !event.isDeleted;
+    const bool hasTurned = event.code == EventCode::XAR && !event.isDeleted && place + 1 < events.size() &&
+                           events[place + 1].code == EventCode::DEPART;
+    if (isStart || hasTurned)
+      return false;
+  }
+  return true;
 }
 
 FreeThrows LiveGame::freeThrows() const {

@@ -133,6 +133,12 @@ TEST_F(LiveLeagueTest, WhatTeamsDo) {
   EXPECT_EQ(lines(2), " 10:00,XAR,0 E10:00,DEPART");
   live.start();
   EXPECT_EQ(live.arrow(), 0);
+  pass(601);
+  pass(5);
+  ASSERT_EQ(live.period(), 3);
+  EXPECT_TRUE(live.recordOfTeam(1, EventCode::XAR)) << "set right in the interval";
+  live.start();
+  EXPECT_EQ(lines(3), " 10:00,XAR,1 10:00,XAR,0 10:00,DEPART");
   EXPECT_TRUE(live.log().countsAgree());
 }
 
