@@ -4,6 +4,7 @@
 #include "appearance/relabel.h"
 #include "checks/FindingWords.h"
 #include "checks/GameCheck.h"
+#include "game/EventDetails.h"
 
 #include <algorithm>
 
@@ -137,7 +138,10 @@ LiveEventRow LiveEventRows::whole(std::size_t place) const {
   if (const FoulNumber& foul = m_ofEvents[place].foul; foul.ofPlayer > 0) {
     row.action = caption(m_texts, event.code == EventCode::STF ? Text::Technical : Text::Foul);
     row.extra = toQt(ordinalText(foul.ofPlayer, m_texts));
-    row.tail = toQt(m_texts.withPlaceholder(Text::TeamFoul, std::to_string(foul.ofTeam)));
+    // Who drew it is asked for to be looked at again; the team's count stands on its card as well.
+    const auto drawnBy = PlayerReference::read(event.detail(detail_key::kDrawnBy).value_or(""));
+    row.tail = toQt(drawnBy ? m_texts.withPlaceholder(Text::DrawnBy, drawnBy->jersey)
+                            : m_texts.withPlaceholder(Text::TeamFoul, std::to_string(foul.ofTeam)));
   }
   row.isShot = event.isUnderstood && event.isShot();
   row.isMade = event.isMade;
