@@ -94,8 +94,10 @@ bool isOnCourtList(std::string_view text) {
   if (!text.starts_with("IN"))
     return false;
   text.remove_prefix(2);
+  const auto areDashes = [](char left, char right) { return left == '-' && right == '-'; };
   return text.empty() || text == "-" ||
-         (text.front() == '-' && text.back() != '-' && text.find("--") == std::string_view::npos);
+         (text.front() == '-' && text.back() != '-' &&
+          std::ranges::adjacent_find(text, areDashes) == text.end());
 }
 
 JerseysOfList::JerseysOfList(std::string_view list, int most) : m_most(most) {

@@ -2,6 +2,7 @@
 // are shown. One place each, so that every window and file reads and writes the same forms.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <iterator>
@@ -63,19 +64,26 @@ class JerseysOfList {
  public:
   class Iterator {
    public:
-    Iterator(std::string_view rest, int left) : m_rest(rest), m_left(left) {}
-    std::string_view operator*() const { return m_rest.substr(0, m_rest.find('-')); }
+    Iterator(std::string_view rest, int left) : m_rest(rest), m_left(left) { measure(); }
+    std::string_view operator*() const { return m_rest.substr(0, m_length); }
     Iterator& operator++() {
-      const std::size_t dash = m_rest.find('-');
-      m_rest.remove_prefix(dash == std::string_view::npos ? m_rest.size() : dash + 1);
+      m_rest.remove_prefix(std::min(m_length + 1, m_rest.size()));
       --m_left;
+      measure();
       return *this;
     }
     bool operator==(std::default_sentinel_t) const { return m_rest.empty() || m_left == 0; }
 
    private:
+    // A jersey is so short that no search is worth its call.
+    void measure() {
+      for (m_length = 0; m_length < m_rest.size() && m_rest[m_length] != '-'; ++m_length) {
+      }
+    }
+
     std::string_view m_rest;
     int m_left;
+    std::size_t m_length = 0; // of the first of the rest
   };
   // Nobody for a text that is no list.
   explicit JerseysOfList(std::string_view list, int most = std::numeric_limits<int>::max());
