@@ -72,7 +72,9 @@ void EventFilterRow::fill(QComboBox& box, Text text, const QString& key,
 void EventFilterRow::showGame(const Game& game, const EventWords& words) {
   const int played = game.events.isEmpty() ? 0 : game.events[game.events.size() - 1].period;
   const int periods = std::min(std::max(game.details.periods, played), kLastPeriod);
-  const QString whole = toQt(game.path) + u'|' + QString::number(game.roster[0].players().size());
+  const bool hasTeamKinds = game.details.recordingLevel() != RecordingLevel::Basic;
+  const QString whole = toQt(game.path) + u'|' + QString::number(game.roster[0].players().size()) +
+                        (hasTeamKinds ? u"|teams" : u"");
   const bool isSame = whole == m_game && m_kind->count() > 0;
   m_game = whole;
   std::vector<std::pair<QString, int>> items;
@@ -97,7 +99,12 @@ void EventFilterRow::showGame(const Game& game, const EventWords& words) {
   for (const EventKind& kind : eventKinds())
     items.emplace_back(caption(m_texts, kind.wordsText), static_cast<int>(kind.code));
   items.emplace_back(caption(m_texts, Text::Substitution), static_cast<int>(EventCode::ARRET));
-  fill(*m_kind, Text::KindOfEvent, QStringLiteral("kinds"), items);
+  for (const EventKind& kind : kTeamKinds) {
+    if (hasTeamKinds)
+      items.emplace_back(caption(m_texts, kind.wordsText), static_cast<int>(kind.code));
+  }
+  fill(*m_kind, Text::KindOfEvent, hasTeamKinds ? QStringLiteral("kinds of teams") : QStringLiteral("kinds"),
+       items);
 }
 
 void EventFilterRow::relabelRow(const Game& game, const EventWords& words) {

@@ -287,6 +287,12 @@ TEST_F(LiveEventPanelTest, FiltersAndKeepsItsPlace) {
   live.recordAction(1, 4, EventCode::SPF);
   panel.showGame(live);
   EXPECT_EQ(list().model()->rowCount(), 2);
+  const auto timeOuts = [&] { return find<QComboBox>("cmbKIND").findText(QStringLiteral("time-out")); };
+  EXPECT_LT(timeOuts(), 0);
+  ASSERT_TRUE(live.setDetails({{"NIVEAU", "LEAGUE"}}));
+  panel.showGame(live);
+  EXPECT_GT(timeOuts(), 0) << "where the game asks for them";
+  EXPECT_EQ(list().model()->rowCount(), 2) << "what was chosen stays";
   panel.choose(EventPlace{1, "4"});
   EXPECT_EQ(words(list().currentIndex().row()), "LYNX 4 ● left layup") << "shown again";
   action("cmdFILTER").setChecked(false);
