@@ -30,7 +30,6 @@ namespace {
 
 constexpr int kKindColumns = 2;
 constexpr std::string_view kFastBreak = "F";
-constexpr std::string_view kOffensive = "O";
 constexpr qint64 kSlip = 1000; // milliseconds
 
 QRect placeOf(const QWidget& widget) {
@@ -60,8 +59,6 @@ void frmLIVE::connectLeague() {
   });
   connect(m_throwBar, &FreeThrowBar::kindAsked, this, [this](const std::string& kind) {
     m_throws.setKind(*m_session.change(), kind);
-    if (kind == kOffensive)
-      m_throws.end();
     showThrows();
   });
   connect(m_throwBar, &FreeThrowBar::closeAsked, this, [this] {
@@ -180,9 +177,6 @@ void frmLIVE::nameOpponent(const FollowUpQuestion::Answer& answer) {
     return;
   if (answer.comesIn)
     m_requests->putIn(place, answer.team, answer.player);
-  const GameEvent* now = m_game.game().events.find(place);
-  if (now == nullptr || now->detail(detail_key::kKind) == kOffensive) // no free throws for it
-    return;
   m_throws.begin(m_game, place, answer.team, answer.player);
   const auto slot = m_game.slotOf(answer.team, answer.player);
   m_throwBar->open(m_game, m_throws, slot ? placeOf(m_panels->panel(*slot)) : QRect(), placeOf(*m_panels));

@@ -11,6 +11,7 @@ namespace hooptab {
 namespace {
 
 constexpr std::string_view kShooting = "S";
+constexpr std::string_view kOffensive = "O"; // for which nobody shoots
 
 } // namespace
 
@@ -59,6 +60,7 @@ void FoulThrows::gameChanged(const LiveGame& game) {
   if (!m_isOpen)
     return;
   m_kind = foul->detail(detail_key::kKind).value_or("");
+  m_isOpen = m_kind != kOffensive;
   m_taken.clear();
   m_places.clear();
   FreeThrows throws(game.hasTime());

@@ -19,8 +19,8 @@ class FoulThrows {
   void begin(const LiveGame& game, const EventPlace& foul, int team, int shooter);
   void end() { m_isOpen = false; }
   bool isOpen() const { return m_isOpen; }
-  // After a change of the game: ends with the last throw, and when the foul is gone or the ball in play. What
-  // happens between two throws, substitutions and time-outs, does not disturb.
+  // After a change of the game: ends with the last throw, and when the foul is gone or an offensive one, or
+  // the ball in play. What happens between two throws, substitutions and time-outs, does not disturb.
   void gameChanged(const LiveGame& game);
 
   int team() const { return m_team; } // who shoots

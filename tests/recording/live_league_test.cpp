@@ -81,6 +81,11 @@ TEST_F(LiveLeagueTest, ProposesHowManyThrowsAndAsksForTheReboundOfTheLastAlone) 
   foul(1, 2, "+");
   EXPECT_EQ(last(2), " 10:00,SPF,0-4,D=1-5,F=2 10:00,GFT,1-5,N=1/2")
       << "in the bonus any foul is shot; the one before, of three throws, is still open";
+  foul(3, 4, "");
+  EXPECT_TRUE(throws.isOpen() && throws.setKind(live, "O"));
+  throws.gameChanged(live);
+  EXPECT_FALSE(throws.isOpen()) << "nobody shoots for an offensive foul";
+  foul(3, 5, "");
   live.start();
   throws.gameChanged(live);
   EXPECT_FALSE(throws.isOpen());
