@@ -20,7 +20,7 @@ void measureCore(int events, const std::filesystem::path& folder) {
   for (int i = 0; i < kSamples; ++i) {
     files.spent = {};
     const BenchClock::time_point start = BenchClock::now();
-    const bool isRecorded = live.recordAction(i % 2, 1 + i % 5, EventCode::SPF);
+    const bool isRecorded = live.recordAction(*sideOf(i % 2), 1 + i % 5, EventCode::SPF);
     const BenchClock::duration spent = BenchClock::now() - start;
     whole.push_back(milliseconds(spent));
     own.push_back(milliseconds(spent - files.spent));

@@ -109,7 +109,7 @@ int measureList(int events, const std::filesystem::path& folder) {
   std::vector<double> whole;
   std::vector<double> modelAlone;
   for (int i = 0; i < kSamples; ++i) {
-    if (!live.recordAction(i % 2, 1 + i % 5, EventCode::SPF))
+    if (!live.recordAction(*sideOf(i % 2), 1 + i % 5, EventCode::SPF))
       return EXIT_FAILURE;
     const BenchClock::time_point start = BenchClock::now();
     rows.show(live.game());

@@ -44,9 +44,9 @@ void readAndTally(benchmark::State& state) {
     Game game;
     if (GameFile(store, gamePath()).read(game) != GameFileProblem::None)
       state.SkipWithError("cannot read the game");
-    if (Tally::run(counters, game.events, game.roster[0], game.roster[1]))
+    if (Tally::run(counters, game.events, game.roster[Side::Visitor], game.roster[Side::Home]))
       state.SkipWithError("count out of range");
-    points = counters.points(0) + counters.points(1);
+    points = counters.points(Side::Visitor) + counters.points(Side::Home);
   }
   state.counters["points"] = points;
 }
@@ -60,7 +60,8 @@ void tallyAlone(benchmark::State& state) {
     state.SkipWithError("cannot read the game");
   GameState counters;
   for (auto _ : state)
-    benchmark::DoNotOptimize(Tally::run(counters, game.events, game.roster[0], game.roster[1]));
+    benchmark::DoNotOptimize(
+        Tally::run(counters, game.events, game.roster[Side::Visitor], game.roster[Side::Home]));
   state.counters["events"] = static_cast<double>(game.events.size());
 }
 BENCHMARK(tallyAlone);

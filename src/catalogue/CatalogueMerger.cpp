@@ -101,7 +101,7 @@ void CatalogueMerger::noteCopies() {
   for (std::size_t i = 0; i < games.size(); ++i) {
     const ListedGame& game = games[i];
     if (game.beginning != 0) // games without events are alike without being one
-      tellings[keyOf(game.team[0], std::to_string(game.team[1]) + "\n" + game.date,
+      tellings[keyOf(game.team[Side::Visitor], std::to_string(game.team[Side::Home]) + "\n" + game.date,
                      std::to_string(game.beginning))]
           .push_back(i);
   }

@@ -155,7 +155,7 @@ std::optional<SeasonId> GameCatalogue::teamOf(std::string_view key) const {
 
 std::string GameCatalogue::whyWrong(const ListedGame& game, const Texts& texts) const {
   Game names; // rosters are not kept: a player is his number
-  for (std::size_t side = 0; side < 2; ++side)
+  for (const Side side : kSides)
     names.details.abbreviation[side] = teams()[game.team[side]].abbreviation;
   std::string text;
   for (const Finding& finding : game.wrong)
@@ -180,8 +180,8 @@ std::vector<std::size_t> GameCatalogue::select(const GameCriteria& criteria) con
   const std::optional<SeasonId> team = teamOf(criteria.team);
   const auto accepts = [&](const ListedGame& game) {
     if (!criteria.team.empty()) {
-      const bool isAway = game.team[0] == team;
-      const bool isHome = game.team[1] == team;
+      const bool isAway = game.team[Side::Visitor] == team;
+      const bool isHome = game.team[Side::Home] == team;
       const bool isWanted = criteria.where == GameCriteria::Where::Away   ? isAway
                             : criteria.where == GameCriteria::Where::Home ? isHome
                                                                           : isAway || isHome;

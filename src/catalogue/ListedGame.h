@@ -4,6 +4,7 @@
 
 #include "checks/Finding.h"
 #include "game/GameState.h"
+#include "game/Side.h"
 
 #include <array>
 #include <cstdint>
@@ -24,7 +25,7 @@ struct GameRow {
   SeasonId id = kNobody;
   std::int32_t seconds = 0; // not below 0
   Counters counters;
-  std::uint8_t side = 0;     // 0 visiting, 1 home
+  Side side = Side::Visitor;
   std::uint8_t position = 9; // players: index of the position; 10 for one out of range
 };
 
@@ -47,9 +48,9 @@ struct ListedGame {
   std::string place;
   int type = 0; // index of the game type, one that has a name
   InputKind input = InputKind::Live;
-  SeasonId team[2] = {kNobody, kNobody};
-  int teamNumber[2] = {}; // the teams' identifiers in the settings of whoever recorded the game
-  int points[2] = {};
+  PerSide<SeasonId> team = {kNobody, kNobody};
+  PerSide<int> teamNumber = {}; // the teams' identifiers in the settings of whoever recorded the game
+  PerSide<int> points = {};
   std::array<std::int32_t, 3> leadSeconds = {}; // team 0 ahead, team 1 ahead, tied; not below 0
   std::array<std::string, 2> label;             // of the user's own statistics; empty for none
   std::uint64_t fingerprint = 0;                // of its events; 0 without any
@@ -68,10 +69,10 @@ struct ListedGame {
   std::vector<SeasonShot> shots;
 
   // The side that won, nothing for a tie.
-  [[nodiscard]] std::optional<int> winner() const {
-    if (points[0] == points[1])
+  [[nodiscard]] std::optional<Side> winner() const {
+    if (points[Side::Visitor] == points[Side::Home])
       return std::nullopt;
-    return points[0] > points[1] ? 0 : 1;
+    return points[Side::Visitor] > points[Side::Home] ? Side::Visitor : Side::Home;
   }
 };
 

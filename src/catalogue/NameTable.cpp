@@ -44,7 +44,7 @@ void NameTable::growLineSlots() {
     m_lineSlots[slotOf(m_lineKeys[id])] = static_cast<SeasonId>(id);
 }
 
-SeasonId NameTable::team(const GameDetails& details, std::size_t side) {
+SeasonId NameTable::team(const GameDetails& details, Side side) {
   const std::string& abbreviation = details.abbreviation[side];
   const std::string& category = details.category[side];
   const std::string& name = details.name[side];

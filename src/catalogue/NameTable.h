@@ -5,6 +5,7 @@
 
 #include "catalogue/ListedGame.h"
 #include "game/GameDetails.h"
+#include "game/Side.h"
 
 #include <array>
 #include <functional>
@@ -29,7 +30,7 @@ class NameTable {
     std::vector<std::string> jerseys; // canonical, in no order
   };
 
-  SeasonId team(const GameDetails& details, std::size_t side);
+  SeasonId team(const GameDetails& details, Side side);
   SeasonId player(SeasonId team, std::string_view jersey, std::string_view name);
 
   // A jersey as a number: equal for jerseys that are the same one.

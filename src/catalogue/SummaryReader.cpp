@@ -103,7 +103,8 @@ void SummaryReader::check(const Game& source, const ProfileText& text,
 
 std::optional<CountOutOfRange> SummaryReader::summarise(const Game& source, ListedGame& game) {
   const GameDetails& details = source.details;
-  const auto outOfRange = Tally::run(m_state, source.events, source.roster[0], source.roster[1]);
+  const auto outOfRange =
+      Tally::run(m_state, source.events, source.roster[Side::Visitor], source.roster[Side::Home]);
   if (outOfRange)
     game.outOfRange = details.abbreviation[outOfRange->team] + " " + outOfRange->what;
   game.date = details.date;
@@ -120,13 +121,14 @@ std::optional<CountOutOfRange> SummaryReader::summarise(const Game& source, List
   game.beginning = game.input == InputKind::Live && prints.beginning != 0 ? prints.beginning : prints.whole;
   for (std::size_t i = 0; i < game.leadSeconds.size(); ++i)
     game.leadSeconds[i] = std::max(m_state.lead.seconds[i], 0);
-  const auto usedLines = static_cast<std::size_t>(m_state.usedLines[0] + m_state.usedLines[1]);
+  const auto usedLines =
+      static_cast<std::size_t>(m_state.usedLines[Side::Visitor] + m_state.usedLines[Side::Home]);
   game.players.reserve(2 * GameState::kPlayerEntries);
   game.lines.reserve(usedLines);
-  for (std::size_t side = 0; side < 2; ++side) {
+  for (const Side side : kSides) {
     game.team[side] = m_names.team(details, side);
     game.teamNumber[side] = details.teamId[side];
-    game.points[side] = m_state.points(static_cast<int>(side));
+    game.points[side] = m_state.points(side);
     addPlayers(source.roster[side], side, game);
     addLines(source.roster[side], side, game);
   }
@@ -134,7 +136,7 @@ std::optional<CountOutOfRange> SummaryReader::summarise(const Game& source, List
   return outOfRange;
 }
 
-void SummaryReader::addPlayers(const Roster& roster, std::size_t side, ListedGame& game) {
+void SummaryReader::addPlayers(const Roster& roster, Side side, ListedGame& game) {
   for (std::size_t entry = 0; entry < GameState::kPlayerEntries; ++entry) {
     const RosterPlayer* player = roster.player(static_cast<int>(entry));
     const PlayerEntry& counted = m_state.players[side][entry];
@@ -146,7 +148,7 @@ void SummaryReader::addPlayers(const Roster& roster, std::size_t side, ListedGam
     GameRow& row = game.players.emplace_back();
     row.seconds = std::max(counted.seconds, 0);
     row.counters = counted.counters;
-    row.side = static_cast<std::uint8_t>(side);
+    row.side = side;
     if (player != nullptr) {
       row.id = m_names.player(game.team[side], player->jersey, player->name);
       const bool isKnown = player->position >= 0 && player->position < kChoiceCount;
@@ -155,7 +157,7 @@ void SummaryReader::addPlayers(const Roster& roster, std::size_t side, ListedGam
   }
 }
 
-void SummaryReader::addLines(const Roster& roster, std::size_t side, ListedGame& game) {
+void SummaryReader::addLines(const Roster& roster, Side side, ListedGame& game) {
   for (std::size_t i = 1; i <= static_cast<std::size_t>(m_state.usedLines[side]); ++i) {
     const LineEntry& line = m_state.lines[side][i];
     if (line.seconds <= 0 && !line.counters.hasAny())
@@ -164,12 +166,11 @@ void SummaryReader::addLines(const Roster& roster, std::size_t side, ListedGame&
     row.id = m_names.line(lineKey(roster, side, i, game.team[side]));
     row.seconds = std::max(line.seconds, 0);
     row.counters = line.counters;
-    row.side = static_cast<std::uint8_t>(side);
+    row.side = side;
   }
 }
 
-NameTable::LineKey SummaryReader::lineKey(const Roster& roster, std::size_t side, std::size_t line,
-                                          SeasonId team) {
+NameTable::LineKey SummaryReader::lineKey(const Roster& roster, Side side, std::size_t line, SeasonId team) {
   NameTable::LineKey key;
   key.team = team;
   // At its place in ascending order, once.

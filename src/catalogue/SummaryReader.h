@@ -5,6 +5,7 @@
 #include "catalogue/GameCatalogue.h"
 #include "catalogue/NameTable.h"
 #include "game/GameFile.h"
+#include "game/Side.h"
 #include "game/Tally.h"
 
 #include <optional>
@@ -24,18 +25,17 @@ class SummaryReader {
   std::optional<CountOutOfRange> summarise(const Game& source, ListedGame& game);
   static void check(const Game& source, const ProfileText& text,
                     const std::optional<CountOutOfRange>& outOfRange, ListedGame& game);
-  void addPlayers(const Roster& roster, std::size_t side, ListedGame& game);
-  void addLines(const Roster& roster, std::size_t side, ListedGame& game);
+  void addPlayers(const Roster& roster, Side side, ListedGame& game);
+  void addLines(const Roster& roster, Side side, ListedGame& game);
   void addShots(ListedGame& game) const;
-  [[nodiscard]] NameTable::LineKey lineKey(const Roster& roster, std::size_t side, std::size_t line,
-                                           SeasonId team);
+  [[nodiscard]] NameTable::LineKey lineKey(const Roster& roster, Side side, std::size_t line, SeasonId team);
 
   FileSystem& m_files;
   NameTable m_names;
   GameState m_state; // kept for its memory
   // Of the game being read: each entry's jersey, and where its row stands.
-  std::array<std::array<NameTable::JerseyCode, GameState::kPlayerEntries>, 2> m_codes = {};
-  std::array<std::array<std::uint8_t, GameState::kPlayerEntries>, 2> m_rows = {};
+  PerSide<std::array<NameTable::JerseyCode, GameState::kPlayerEntries>> m_codes = {};
+  PerSide<std::array<std::uint8_t, GameState::kPlayerEntries>> m_rows = {};
 };
 
 } // namespace hooptab

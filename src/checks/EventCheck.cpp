@@ -132,7 +132,7 @@ class EventCheck {
   std::optional<std::size_t> m_afterStop; // the first that no free throw explains
   bool m_hasFreeThrowSinceStop = false;
 
-  std::array<std::array<PlayerFouls, Roster::kLargestEntry + 1>, 2> m_fouls = {};
+  PerSide<std::array<PlayerFouls, Roster::kLargestEntry + 1>> m_fouls = {};
   std::array<int, kEventKinds.size()> m_atOneSecond = {};
   std::array<std::size_t, kEventKinds.size()> m_burst = {}; // its finding
 };
@@ -170,7 +170,7 @@ void EventCheck::checkOfTeam(const GameEvent& event) {
 void EventCheck::checkNamed(const GameEvent& event) {
   const std::vector<PlayerReference> all = playersNamedBy(event);
   for (const PlayerReference& named : std::span(all).subspan(event.isOfPlayer() ? 1 : 0)) {
-    if (findPlayer(m_game.roster[named.team], named.jersey) == nullptr)
+    if (findPlayer(m_game.roster[*named.team], named.jersey) == nullptr)
       name({.kind = FindingKind::NotInRoster, .team = named.team, .jersey = std::string(named.jersey)});
   }
 }
@@ -292,7 +292,7 @@ void EventCheck::checkBurst(const GameEvent& event) {
 
 // Null, and named, where he is not in the roster.
 const RosterPlayer* EventCheck::playerOf(const GameEvent& event) {
-  const RosterPlayer* const player = findPlayer(m_game.roster[event.player.team], event.player.jersey);
+  const RosterPlayer* const player = findPlayer(m_game.roster[*event.player.team], event.player.jersey);
   if (player == nullptr)
     namePlayer(FindingKind::NotInRoster, event);
   return player;
@@ -311,7 +311,7 @@ void EventCheck::checkAction(const GameEvent& event) {
     checkNamed(event);
   // The bench is given technical fouls too.
   const RosterPlayer* const player = playerOf(event);
-  if (player != nullptr && event.code != EventCode::STF && !m_lineUps.isOnCourt(event.player.team, *player))
+  if (player != nullptr && event.code != EventCode::STF && !m_lineUps.isOnCourt(*event.player.team, *player))
     namePlayer(FindingKind::NotOnCourt, event);
   switch (event.code) {
   case EventCode::SPF:
@@ -324,7 +324,7 @@ void EventCheck::checkAction(const GameEvent& event) {
 }
 
 void EventCheck::checkFoul(const GameEvent& event) {
-  const auto team = static_cast<std::size_t>(event.player.team);
+  const Side team = *event.player.team;
   const int entry = m_game.roster[team].entryOf(event.player.jersey);
   if (entry == 0)
     return;

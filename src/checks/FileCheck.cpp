@@ -62,7 +62,7 @@ bool isOurs(std::string_view section) {
   const auto isSame = [section](std::string_view ours) { return codepage::equalNames(section, ours); };
   return periodOfSection(section) ||
          std::ranges::any_of(std::array{kDetailsSection, kAcceptedSection, kWallClockSection}, isSame) ||
-         isSame(rosterSection(0)) || isSame(rosterSection(1));
+         isSame(rosterSection(Side::Visitor)) || isSame(rosterSection(Side::Home));
 }
 
 class FileCheck {
@@ -128,7 +128,8 @@ void FileCheck::checkLines(const ProfileText::NamedSection& section) {
 // The second of two lines of one name is not read.
 void FileCheck::checkRepeated(const ProfileText::NamedSection& section) {
   const std::optional<int> period = periodOfSection(section.name);
-  const bool isRoster = section.name == rosterSection(0) || section.name == rosterSection(1);
+  const bool isRoster =
+      section.name == rosterSection(Side::Visitor) || section.name == rosterSection(Side::Home);
   if (!period && !isRoster)
     return;
   std::unordered_set<std::string> seen;
@@ -137,7 +138,7 @@ void FileCheck::checkRepeated(const ProfileText::NamedSection& section) {
       continue;
     if (isRoster)
       name({.kind = FindingKind::JerseyTwice,
-            .team = section.name == rosterSection(0) ? 0 : 1,
+            .team = section.name == rosterSection(Side::Visitor) ? Side::Visitor : Side::Home,
             .subject = codepage::toUtf8(line.name)});
     else
       name({.kind = FindingKind::NumberTwice,

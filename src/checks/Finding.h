@@ -2,10 +2,12 @@
 // no game can be, or doubtful, which is worth a look.
 #pragma once
 
+#include "game/Side.h"
 #include "settings/Text.h"
 
 #include <cstddef>
 #include <limits>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -71,9 +73,9 @@ struct Finding {
   static constexpr std::size_t kNoEvent = std::numeric_limits<std::size_t>::max();
 
   FindingKind kind = FindingKind::NotOnCourt;
-  std::size_t event = kNoEvent; // place in the list of events
-  int team = -1;                // whose
-  std::string jersey = {};      // and which player's; empty for the team as a whole
+  std::size_t event = kNoEvent;  // place in the list of events
+  std::optional<Side> team = {}; // whose
+  std::string jersey = {};       // and which player's; empty for the team as a whole
   std::string subject = {};
   std::string found = {};
   std::string wanted = {};

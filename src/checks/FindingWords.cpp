@@ -11,10 +11,10 @@ namespace {
 // The team, and the player as far as he is known.
 std::string whoOf(const Finding& finding, const Game& game, const Texts& texts) {
   const EventWords words(game, texts);
-  std::string who(words.team(finding.team));
+  std::string who(words.team(*finding.team));
   if (finding.jersey.empty())
     return who;
-  const bool isKnown = findPlayer(game.roster[finding.team], finding.jersey) != nullptr;
+  const bool isKnown = findPlayer(game.roster[*finding.team], finding.jersey) != nullptr;
   const std::string player = isKnown ? words.player({finding.team, finding.jersey}) : finding.jersey;
   return player == who ? who : who + ' ' + player;
 }
@@ -23,7 +23,7 @@ std::string whoOf(const Finding& finding, const Game& game, const Texts& texts) 
 
 std::string wordsOf(const Finding& finding, const Game& game, const Texts& texts) {
   // A team or player comes first where there is one; what else is said of it then follows.
-  const bool hasWho = finding.team >= 0;
+  const bool hasWho = finding.team.has_value();
   const std::string& found = hasWho && finding.found.empty() ? finding.subject : finding.found;
   return withPlaceholders(texts.text(static_cast<Text>(finding.kind)),
                           hasWho ? whoOf(finding, game, texts) : finding.subject, found, finding.wanted);

@@ -11,7 +11,7 @@ namespace hooptab {
 namespace {
 
 void checkRosters(const Game& game, std::vector<Finding>& findings) {
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const std::vector<RosterPlayer>& players = game.roster[team].players();
     if (players.empty())
       findings.push_back({.kind = FindingKind::NoRoster, .team = team});
@@ -28,7 +28,7 @@ void checkRosters(const Game& game, std::vector<Finding>& findings) {
   }
 }
 
-int pointsOf(const EventList& events, int team) {
+int pointsOf(const EventList& events, Side team) {
   int points = 0;
   for (const GameEvent& event : events) {
     if (event.isUnderstood && !event.isDeleted && event.isShot() && event.isMade && event.player.team == team)
@@ -49,12 +49,12 @@ void checkDetails(const Game& game, std::vector<Finding>& findings) {
     findings.push_back({.kind = FindingKind::ImpossibleDate, .subject = details.date});
   if (!details.isFinished)
     return;
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     if (details.abbreviation[team].empty() && details.name[team].empty())
       findings.push_back({.kind = FindingKind::NoTeam, .team = team});
   }
-  const int points = pointsOf(game.events, 0);
-  if (points == pointsOf(game.events, 1))
+  const int points = pointsOf(game.events, Side::Visitor);
+  if (points == pointsOf(game.events, Side::Home))
     findings.push_back(
         {.kind = FindingKind::Tied, .subject = std::to_string(points) + '-' + std::to_string(points)});
 }

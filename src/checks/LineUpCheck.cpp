@@ -27,7 +27,7 @@ void LineUpCheck::stop(std::size_t event) {
   const GameEvent& stop = m_game.events[event];
   m_stop = event;
   m_lastClock = stop.clockSeconds;
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     Court& court = m_courts[team];
     court.playersSeconds += court.timed * (court.since - stop.clockSeconds);
     court.since = stop.clockSeconds;
@@ -38,7 +38,7 @@ void LineUpCheck::stop(std::size_t event) {
   }
 }
 
-void LineUpCheck::readList(std::size_t team, std::size_t event) {
+void LineUpCheck::readList(Side team, std::size_t event) {
   Court& court = m_courts[team];
   court.list = m_game.events[event].onCourt(team);
   court.players.clear();
@@ -47,8 +47,7 @@ void LineUpCheck::readList(std::size_t team, std::size_t event) {
   std::vector<ListedPlayer> told;
   for (ListedPlayer& listed : playersOfList(court.list, m_game.roster[team])) {
     const auto name = [&](FindingKind kind) {
-      m_findings.push_back(
-          {.kind = kind, .event = event, .team = static_cast<int>(team), .jersey = listed.jersey});
+      m_findings.push_back({.kind = kind, .event = event, .team = team, .jersey = listed.jersey});
     };
     if (std::ranges::find(court.players, listed) == court.players.end()) {
       if (listed.player == nullptr)
@@ -66,7 +65,7 @@ void LineUpCheck::readList(std::size_t team, std::size_t event) {
 
 // It is told at the stop that sent them there, once.
 void LineUpCheck::start(std::size_t event) {
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     Court& court = m_courts[team];
     const std::size_t count = court.players.size();
     if (!isFollowed(team) || count == kFive || court.isTold)
@@ -74,28 +73,27 @@ void LineUpCheck::start(std::size_t event) {
     court.isTold = true;
     m_findings.push_back({.kind = count > kFive ? FindingKind::MoreThanFive : FindingKind::FewerThanFive,
                           .event = m_stop.value_or(event),
-                          .team = static_cast<int>(team),
+                          .team = team,
                           .found = std::to_string(count)});
   }
 }
 
-bool LineUpCheck::isOnCourt(int team, const RosterPlayer& player) const {
-  const auto side = static_cast<std::size_t>(team);
-  return !isFollowed(side) ||
-         std::ranges::any_of(m_courts[side].players,
+bool LineUpCheck::isOnCourt(Side team, const RosterPlayer& player) const {
+  return !isFollowed(team) ||
+         std::ranges::any_of(m_courts[team].players,
                              [&player](const ListedPlayer& listed) { return listed.player == &player; });
 }
 
 // Up to the last stop of the period.
 void LineUpCheck::checkTimes() {
   const int wanted = (m_firstClock - m_lastClock) * static_cast<int>(kFive);
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const Court& court = m_courts[team];
     if (!court.lastCredit || !isFollowed(team) || court.playersSeconds == wanted)
       continue;
     m_findings.push_back({.kind = FindingKind::OtherTime,
                           .event = *court.lastCredit,
-                          .team = static_cast<int>(team),
+                          .team = team,
                           .found = Module1::clockText(court.playersSeconds),
                           .wanted = Module1::clockText(wanted)});
   }

@@ -6,6 +6,7 @@
 #include "game/GameFile.h"
 #include "game/PlayerLookup.h"
 #include "game/Rules.h"
+#include "game/Side.h"
 
 #include <array>
 #include <optional>
@@ -25,7 +26,7 @@ class LineUpCheck {
   void finish() { checkTimes(); }
 
   // True too for a side without players, which is always there.
-  [[nodiscard]] bool isOnCourt(int team, const RosterPlayer& player) const;
+  [[nodiscard]] bool isOnCourt(Side team, const RosterPlayer& player) const;
 
  private:
   struct Court {
@@ -38,13 +39,13 @@ class LineUpCheck {
     std::optional<std::size_t> lastCredit; // the stop up to which it was counted
   };
 
-  [[nodiscard]] bool isFollowed(std::size_t team) const { return !isTeamItself(m_game.roster[team]); }
-  void readList(std::size_t team, std::size_t event);
+  [[nodiscard]] bool isFollowed(Side team) const { return !isTeamItself(m_game.roster[team]); }
+  void readList(Side team, std::size_t event);
   void checkTimes();
 
   const Game& m_game;
   std::vector<Finding>& m_findings;
-  std::array<Court, 2> m_courts;
+  PerSide<Court> m_courts;
   std::optional<std::size_t> m_stop; // the latest
   int m_firstClock = 0;              // of the period
   int m_lastClock = 0;               // of its last stop

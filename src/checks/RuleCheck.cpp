@@ -17,7 +17,7 @@ void RuleCheck::take(const GameEvent& event, std::size_t place) {
   }
   if (m_rules == nullptr)
     return;
-  if (event.code == EventCode::XTO && event.player.team >= 0)
+  if (event.code == EventCode::XTO && event.player.team)
     checkTimeOut(event, place);
   else if (event.code == EventCode::XCF)
     checkTechnical(event, place);
@@ -51,7 +51,7 @@ void RuleCheck::checkThrows(const FreeThrows::Stand& stand, IsOver isOver) {
 }
 
 void RuleCheck::checkTimeOut(const GameEvent& event, std::size_t place) {
-  const int team = event.player.team;
+  const Side team = *event.player.team;
   const auto before = m_timeOuts.of(team, event.period, event.clockSeconds);
   m_timeOuts.take(event);
   if (before && before->left == 0)
@@ -63,7 +63,7 @@ void RuleCheck::checkTimeOut(const GameEvent& event, std::size_t place) {
 
 // The bench can be given more than the coach.
 void RuleCheck::checkTechnical(const GameEvent& event, std::size_t place) {
-  BenchTechnicals& technicals = m_technicals[static_cast<std::size_t>(event.player.team)];
+  BenchTechnicals& technicals = m_technicals[*event.player.team];
   const bool isOfCoach = event.detail(detail_key::kKind) == "C";
   if (isOfCoach && isCoachOut(m_game.details, technicals))
     m_findings.push_back({.kind = FindingKind::CoachOutBefore, .event = place, .team = event.player.team});

@@ -6,6 +6,7 @@
 #include "game/FreeThrows.h"
 #include "game/GameFile.h"
 #include "game/Rules.h"
+#include "game/Side.h"
 #include "game/TimeOuts.h"
 
 #include <array>
@@ -35,7 +36,7 @@ class RuleCheck {
   bool m_hasAwards;       // the sheet asks for them
   FreeThrows m_throws;
   TimeOutCount m_timeOuts;
-  std::array<BenchTechnicals, 2> m_technicals = {};
+  PerSide<BenchTechnicals> m_technicals = {};
 };
 
 } // namespace hooptab

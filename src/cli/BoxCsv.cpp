@@ -13,7 +13,7 @@ std::string boxCsv(const Scorecard& card, const Texts& texts, CsvReader reader) 
   }
   std::string csv(isFrench ? kByteOrderMark : std::string_view());
   csv += csvRow(header, reader);
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     for (const BoxRow& row : boxRows(*card.counted(), team, BoxView::Players, texts)) {
       std::vector<std::string> cells = {card.game().details.abbreviation[team]};
       for (const int column : boxDisplayOrder())

@@ -51,14 +51,13 @@ void writeTeamRow(JsonWriter& json, const TeamRow& row) {
   json.endLine();
 }
 
-void writeTeam(JsonWriter& json, const Scorecard& card, int team, const Texts& texts) {
+void writeTeam(JsonWriter& json, const Scorecard& card, Side team, const Texts& texts) {
   const Game& game = card.game();
   const GameState& state = card.state();
-  const auto side = static_cast<std::size_t>(team);
   std::vector<int> points;
   std::vector<int> fouls;
   for (int period = 1; period <= shownPeriods(game); ++period) {
-    const PeriodEntry& entry = state.periods[side][GameState::periodRow(period)];
+    const PeriodEntry& entry = state.periods[team][GameState::periodRow(period)];
     points.push_back(entry.points);
     fouls.push_back(entry.fouls);
   }
@@ -73,13 +72,13 @@ void writeTeam(JsonWriter& json, const Scorecard& card, int team, const Texts& t
     json.beginArray();
     for (const BoxRow& row : boxRows(*card.counted(), team, view, texts)) {
       if (row.kind != BoxRowKind::Total)
-        writeRow(json, row, state.lines[side][static_cast<std::size_t>(row.entry)].list,
-                 view == BoxView::Players ? &state.extras[side][static_cast<std::size_t>(row.entry)]
+        writeRow(json, row, state.lines[team][static_cast<std::size_t>(row.entry)].list,
+                 view == BoxView::Players ? &state.extras[team][static_cast<std::size_t>(row.entry)]
                                           : nullptr);
     }
     json.endArray();
   }
-  writeTeamRow(json, state.teamRows[side]);
+  writeTeamRow(json, state.teamRows[team]);
   json.endObject();
 }
 
@@ -93,7 +92,7 @@ std::string boxJson(const Scorecard& card) {
   json.member("version", card.game().details.version);
   json.name("teams");
   json.beginArray();
-  for (int team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     writeTeam(json, card, team, english);
   json.endArray();
   json.name("lead");

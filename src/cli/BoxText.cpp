@@ -18,7 +18,7 @@ using Row = std::vector<std::string>;
 class BoxText {
  public:
   BoxText(const Scorecard& card, const Texts& texts) : m_card(card), m_game(card.game()), m_texts(texts) {
-    for (int team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       m_rows[team] = boxRows(*card.counted(), team, BoxView::Players, texts);
       m_names[team] = printable(m_game.details.abbreviation[team]);
     }
@@ -29,7 +29,7 @@ class BoxText {
     text += periodTable(Text::PointsByPeriod, &PeriodEntry::points) + '\n';
     text += periodTable(Text::Fouls, &PeriodEntry::fouls) + '\n';
     text += leadTable();
-    for (int team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       text += '\n' + m_names[team];
       if (const std::string& name = m_game.details.name[team]; !name.empty())
         text += " - " + printable(name);
@@ -61,7 +61,7 @@ class BoxText {
     for (int period = 1; period <= periods; ++period)
       table.addColumn(words.periodText(period), Align::Right);
     table.addColumn(word(Text::Total), Align::Right);
-    for (std::size_t team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       Row row = {m_names[team]};
       int sum = 0;
       for (int period = 1; period <= periods; ++period) {
@@ -81,7 +81,7 @@ class BoxText {
     table.addColumn(word(Text::TimeInLead), Align::Left);
     table.addColumn(word(Text::Time), Align::Right);
     table.addColumn(word(Text::Times), Align::Right);
-    const std::string names[] = {m_names[0], m_names[1], word(Text::LeadTied)};
+    const std::string names[] = {m_names[Side::Visitor], m_names[Side::Home], word(Text::LeadTied)};
     for (std::size_t state = 0; state < 3; ++state)
       table.addRow(
           {names[state], Module1::clockText(lead.seconds[state]), std::to_string(lead.times[state])});
@@ -95,7 +95,7 @@ class BoxText {
     });
   }
 
-  std::string playerTable(int team) const {
+  std::string playerTable(Side team) const {
     constexpr EventCode kShots[] = {EventCode::GFG, EventCode::GF3, EventCode::GFT, EventCode::GLG,
                                     EventCode::GLD, EventCode::GPB, EventCode::GDK};
     constexpr Counter kCounts[] = {Counter::OR, Counter::DR, Counter::Ast, Counter::BS,
@@ -153,8 +153,8 @@ class BoxText {
   const Scorecard& m_card;
   const Game& m_game;
   const Texts& m_texts;
-  std::vector<BoxRow> m_rows[2];
-  std::string m_names[2];
+  PerSide<std::vector<BoxRow>> m_rows;
+  PerSide<std::string> m_names;
 };
 
 } // namespace

@@ -56,10 +56,10 @@ class SeasonJson {
       m_json.member("file", game.path);
       m_json.member("date", game.date);
       m_json.member("type", game.type);
-      m_json.member("visitor", m_catalogue.teams()[game.team[0]].key);
-      m_json.member("visitorPoints", game.points[0]);
-      m_json.member("home", m_catalogue.teams()[game.team[1]].key);
-      m_json.member("homePoints", game.points[1]);
+      m_json.member("visitor", m_catalogue.teams()[game.team[Side::Visitor]].key);
+      m_json.member("visitorPoints", game.points[Side::Visitor]);
+      m_json.member("home", m_catalogue.teams()[game.team[Side::Home]].key);
+      m_json.member("homePoints", game.points[Side::Home]);
       m_json.member("result", resultOf(game));
       m_json.endObject();
       m_json.endLine();
@@ -68,7 +68,7 @@ class SeasonJson {
   }
   // Without a team, the winner's abbreviation.
   std::string resultOf(const ListedGame& game) const {
-    if (const std::optional<int> winner = game.winner(); winner && !m_team)
+    if (const std::optional<Side> winner = game.winner(); winner && !m_team)
       return m_catalogue.teams()[game.team[*winner]].abbreviation;
     return gameCell(m_catalogue, game, kResultColumn, m_team, m_english);
   }

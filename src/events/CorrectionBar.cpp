@@ -92,7 +92,7 @@ void CorrectionBar::end() {
   emit closed();
 }
 
-bool CorrectionBar::takePlayer(int team, int player) {
+bool CorrectionBar::takePlayer(Side team, int player) {
   if (!isActive() || player == 0)
     return false;
   step([&] { return m_correction.takePlayer({team, player}); });

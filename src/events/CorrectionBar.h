@@ -3,6 +3,7 @@
 // ends it, and so do Esc and ten seconds without a step.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/EventCorrection.h"
 #include "recording/GameSession.h"
 
@@ -31,7 +32,7 @@ class CorrectionBar : public QFrame {
   // Whose the event is; nobody's where none is in correction.
   EventCorrection::Who whose() const { return isActive() ? m_correction.player() : EventCorrection::Who(); }
   // A press on a player; false where nothing is in correction.
-  bool takePlayer(int team, int player);
+  bool takePlayer(Side team, int player);
   void gameChanged(); // by something else: the event may be gone
   void toggleMade();
   void toggleThree();

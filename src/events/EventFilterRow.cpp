@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kPadding = 8;
 constexpr int kFewestLetters = 6;
-constexpr int kEntries = Roster::kLargestEntry + 1; // a player is chosen as team * kEntries + entry
+constexpr int kEntries = Roster::kLargestEntry + 1; // a player is chosen as numberOf(team) * kEntries + entry
 
 } // namespace
 
@@ -73,7 +73,8 @@ void EventFilterRow::showGame(const Game& game, const EventWords& words) {
   const int played = game.events.isEmpty() ? 0 : game.events[game.events.size() - 1].period;
   const int periods = std::min(std::max(game.details.periods, played), kLastPeriod);
   const bool hasTeamKinds = game.details.recordingLevel() != RecordingLevel::Basic;
-  const QString whole = toQt(game.path) + u'|' + QString::number(game.roster[0].players().size()) +
+  const QString whole = toQt(game.path) + u'|' +
+                        QString::number(game.roster[Side::Visitor].players().size()) +
                         (hasTeamKinds ? u"|teams" : u"");
   const bool isSame = whole == m_game && m_kind->count() > 0;
   m_game = whole;
@@ -84,14 +85,16 @@ void EventFilterRow::showGame(const Game& game, const EventWords& words) {
   if (isSame)
     return;
 
-  fill(*m_team, Text::TeamWord, whole, {{toQt(words.team(0)), 0}, {toQt(words.team(1)), 1}});
-  for (int team = 0; team < 2; ++team) {
-    auto& players = m_players[static_cast<std::size_t>(team)];
+  fill(*m_team, Text::TeamWord, whole,
+       {{toQt(words.team(Side::Visitor)), numberOf(Side::Visitor)},
+        {toQt(words.team(Side::Home)), numberOf(Side::Home)}});
+  for (const Side team : kSides) {
+    auto& players = m_players[team];
     players.clear();
     for (int entry = 1; entry < kEntries; ++entry) {
       if (const RosterPlayer* player = game.roster[team].player(entry))
         players.emplace_back(toQt(words.team(team)) + u' ' + toQt(words.player({team, player->jersey})),
-                             team * kEntries + entry);
+                             numberOf(team) * kEntries + entry);
     }
   }
   fillPlayers();
@@ -118,9 +121,9 @@ void EventFilterRow::relabelRow(const Game& game, const EventWords& words) {
 void EventFilterRow::fillPlayers() {
   const QVariant team = m_team->currentData();
   std::vector<std::pair<QString, int>> items;
-  for (int side = 0; side < 2; ++side) {
-    const auto& players = m_players[static_cast<std::size_t>(side)];
-    if (!team.isValid() || team.toInt() == side)
+  for (const Side side : kSides) {
+    const auto& players = m_players[side];
+    if (!team.isValid() || team.toInt() == numberOf(side))
       items.insert(items.end(), players.begin(), players.end());
   }
   fill(*m_player, Text::Player, m_game + u'|' + team.toString(), items);
@@ -129,10 +132,10 @@ void EventFilterRow::fillPlayers() {
 EventFilter EventFilterRow::filter() const {
   EventFilter filter;
   if (m_team->currentData().isValid())
-    filter.team = m_team->currentData().toInt();
+    filter.team = sideOf(m_team->currentData().toInt());
   filter.period = m_period->currentData().toInt();
   if (const QVariant player = m_player->currentData(); player.isValid()) {
-    filter.team = player.toInt() / kEntries;
+    filter.team = sideOf(player.toInt() / kEntries);
     filter.player = player.toInt() % kEntries;
   }
   filter.kind = static_cast<EventCode>(m_kind->currentData().toInt());
@@ -151,10 +154,10 @@ void EventFilterRow::clear() {
   emit changed();
 }
 
-void EventFilterRow::choose(int team, int period) {
+void EventFilterRow::choose(Side team, int period) {
   clear();
   m_period->setCurrentIndex(std::max(m_period->findData(period), 0));
-  m_team->setCurrentIndex(std::max(m_team->findData(team), 0));
+  m_team->setCurrentIndex(std::max(m_team->findData(numberOf(team)), 0));
 }
 
 } // namespace hooptab

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "events/LiveEventRows.h"
+#include "game/Side.h"
 
 #include <QWidget>
 
@@ -25,8 +26,8 @@ class EventFilterRow : public QWidget {
   void showGame(const Game& game, const EventWords& words);
   void relabelRow(const Game& game, const EventWords& words);
   [[nodiscard]] EventFilter filter() const;
-  void clear();                      // everything is shown again
-  void choose(int team, int period); // that alone
+  void clear();                       // everything is shown again
+  void choose(Side team, int period); // that alone
 
  signals:
   void changed();
@@ -42,8 +43,8 @@ class EventFilterRow : public QWidget {
   QComboBox* m_period = nullptr;
   QComboBox* m_player = nullptr;
   QComboBox* m_kind = nullptr;
-  QCheckBox* m_deleted = nullptr;                                // whether they are shown
-  std::array<std::vector<std::pair<QString, int>>, 2> m_players; // words and choice, of each team
+  QCheckBox* m_deleted = nullptr;                          // whether they are shown
+  PerSide<std::vector<std::pair<QString, int>>> m_players; // words and choice, of each team
 };
 
 } // namespace hooptab

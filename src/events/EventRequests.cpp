@@ -36,7 +36,7 @@ EventRequests::EventRequests(GameSession& session, LiveEventPanel& panel, const 
   });
 }
 
-void EventRequests::putIn(const EventPlace& event, int team, int player) {
+void EventRequests::putIn(const EventPlace& event, Side team, int player) {
   askWho({PastSubstitution::What::InsertBefore, event}, team, player);
 }
 
@@ -66,7 +66,7 @@ void EventRequests::takeBack(bool (LiveGame::*step)()) {
 void EventRequests::change(const EventPlace& event) {
   const LiveLog& log = game().log();
   if (isSubstitution(log.game().events, event.period, event.key, log.rosters()))
-    askWho({PastSubstitution::What::Change, event}, 0, 0);
+    askWho({PastSubstitution::What::Change, event}, Side::Visitor, 0);
   else
     ask(event, frmEDIT::Purpose::Change, LiveGame::Where::Behind);
 }
@@ -88,7 +88,7 @@ void EventRequests::ask(const EventPlace& event, frmEDIT::Purpose purpose, LiveG
     take(editing.insertion(event, where, clock, *counted));
 }
 
-void EventRequests::askWho(const PastSubstitution& past, int team, int player) {
+void EventRequests::askWho(const PastSubstitution& past, Side team, int player) {
   auto* window = new frmSUBST(game(), past, m_texts, &m_window);
   window->setAttribute(Qt::WA_DeleteOnClose);
   if (player > 0)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "events/frmEDIT.h"
+#include "game/Side.h"
 #include "recording/GameSession.h"
 #include "recording/Substitution.h"
 
@@ -25,7 +26,7 @@ class EventRequests : public QObject {
                 Dialogs& dialogs, QWidget& window);
 
   // A forgotten substitution before an event, with who has to be in it.
-  void putIn(const EventPlace& event, int team, int player);
+  void putIn(const EventPlace& event, Side team, int player);
 
  signals:
   void done(); // or refused: the game may be another now
@@ -38,7 +39,7 @@ class EventRequests : public QObject {
   [[nodiscard]] const LiveGame& game() const { return m_session.game(); }
   void change(const EventPlace& event);
   void ask(const EventPlace& event, frmEDIT::Purpose purpose, LiveGame::Where where);
-  void askWho(const PastSubstitution& past, int team, int player);
+  void askWho(const PastSubstitution& past, Side team, int player);
 
   GameSession& m_session;
   LiveEventPanel& m_panel;

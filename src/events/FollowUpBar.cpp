@@ -126,8 +126,8 @@ QPushButton* FollowUpBar::makeTeam(QWidget* form, TeamButton which) {
   setToolTipNumber(*button, Text::OfTheTeamHint);
   connect(button, &QPushButton::pressed, this, [this, button, which] {
     button->setDown(false);
-    const int asked = m_question.shooterTeam();
-    answer(m_question.teamOf(which == OfOthers ? 1 - asked : asked));
+    const Side asked = m_question.shooterTeam();
+    answer(m_question.teamOf(which == OfOthers ? otherSide(asked) : asked));
   });
   m_teams[which] = button;
   return button;
@@ -232,7 +232,7 @@ void FollowUpBar::setPanelWidth(int panel) {
 
 void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, std::size_t place) {
   const FollowUpQuestion::Choice& choice = m_question.choices()[place];
-  const int team = choice.team();
+  const Side team = choice.team();
   const RosterPlayer* who = game.game().roster[team].player(choice.player);
   const bool hasName = !m_question.isRebound() && who != nullptr;
   button.setLook({.jersey = toQt(choice.jersey),
@@ -246,7 +246,7 @@ void FollowUpBar::offer(const LiveGame& game, JerseyButton& button, std::size_t 
 }
 
 // Words on a team's colour.
-void FollowUpBar::nameTeam(const LiveGame& game, QLabel& band, const QString& words, int team) {
+void FollowUpBar::nameTeam(const LiveGame& game, QLabel& band, const QString& words, Side team) {
   band.setText(band.fontMetrics().elidedText(words, Qt::ElideRight, m_innerWidth - 2 * kBandMargin));
   band.setToolTip(words);
   const QColor colour = colourOf(game.game().details.teamColour[team]);
@@ -266,7 +266,7 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
   dismiss();
   m_sinceBlock.invalidate();
   const std::vector<DetailChip> chips = std::exchange(m_nextChips, {});
-  const int team = asked.team;
+  const Side team = asked.team;
   m_question.ask(game, followUps, team, asked.player, asked.kind);
   if (m_question.choices().empty())
     return;
@@ -292,11 +292,11 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
     offer(game, isRebound ? *m_rebounders[place] : *m_mates[place], choice);
   }
   if (isRebound) {
-    const auto named = [&](Text text, int ofTeam) -> QString {
+    const auto named = [&](Text text, Side ofTeam) -> QString {
       return toQt(m_texts.text(text)) + QLatin1Char(' ') + toQt(game.game().details.name[ofTeam]);
     };
     nameTeam(game, *m_groups[0], named(Text::Offensive, team), team);
-    nameTeam(game, *m_groups[1], named(Text::Defensive, 1 - team), 1 - team);
+    nameTeam(game, *m_groups[1], named(Text::Defensive, otherSide(team)), otherSide(team));
   } else {
     const RosterPlayer* who = game.game().roster[team].player(asked.player);
     const std::string name =
@@ -306,7 +306,7 @@ void FollowUpBar::ask(const LiveGame& game, const LiveGame::FollowUps& followUps
   m_assist->setVisible(!isRebound);
   m_rebound->setVisible(isRebound);
   m_teams[OfShooters]->setVisible(m_question.teamOf(team).has_value());
-  m_teams[OfOthers]->setVisible(m_question.teamOf(1 - team).has_value());
+  m_teams[OfOthers]->setVisible(m_question.teamOf(otherSide(team)).has_value());
   m_teams[InOneGroup]->setVisible(m_question.teamOf(team).has_value());
   m_block->setVisible(m_question.canAskBlock());
   m_chips->offer(chips, m_chipColumns, m_innerWidth);

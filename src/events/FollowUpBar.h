@@ -6,6 +6,7 @@
 
 #include "events/Bubble.h"
 #include "events/DetailChips.h"
+#include "game/Side.h"
 #include "recording/FollowUpQuestion.h"
 
 #include <QElapsedTimer>
@@ -32,9 +33,9 @@ struct FollowUpKey {
   enum class Kind { Digit, Take, TakeBack, Clear, Clock, Action, Chip, GoOn };
   Kind kind = Kind::GoOn;
   int digit = 0;
-  std::optional<int> team = std::nullopt; // of two equal numbers Take takes the one of this team
-  EventCode code = EventCode::Unknown;    // of an Action: what it records elsewhere
-  std::size_t chip = 0;                   // of a Chip
+  std::optional<Side> team = std::nullopt; // of two equal numbers Take takes the one of this team
+  EventCode code = EventCode::Unknown;     // of an Action: what it records elsewhere
+  std::size_t chip = 0;                    // of a Chip
 };
 
 class FollowUpBar : public Bubble {
@@ -55,7 +56,7 @@ class FollowUpBar : public Bubble {
   // stays free. For one who is not on court `panel` is empty, and it opens in the middle of the room. One
   // that was open closes as "Nobody". With nobody to choose, nothing opens.
   struct Asked {
-    int team = 0;
+    Side team = Side::Visitor;
     int player = 0;                      // entry; 0: the team
     EventCode kind = EventCode::Unknown; // what he did
   };
@@ -106,7 +107,7 @@ class FollowUpBar : public Bubble {
   QPushButton* makeBlock(QWidget* form);
   void setPanelWidth(int panel);
   void offer(const LiveGame& game, JerseyButton& button, std::size_t choice);
-  void nameTeam(const LiveGame& game, QLabel& band, const QString& words, int team);
+  void nameTeam(const LiveGame& game, QLabel& band, const QString& words, Side team);
   [[nodiscard]] Text titleText() const;
   [[nodiscard]] std::optional<FollowUpQuestion::Answer> teamMeantBy(EventCode code) const;
   [[nodiscard]] bool takesAction(EventCode code) const;

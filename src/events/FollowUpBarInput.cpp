@@ -82,7 +82,7 @@ std::optional<FollowUpQuestion::Answer> FollowUpBar::teamMeantBy(EventCode code)
   const bool isRebound = m_question.isRebound();
   if (isRebound && (code == EventCode::SOR || code == EventCode::SDR))
     return m_question.teamOf(code == EventCode::SOR ? m_question.shooterTeam()
-                                                    : 1 - m_question.shooterTeam());
+                                                    : otherSide(m_question.shooterTeam()));
   return !isRebound && code == EventCode::STO ? m_question.teamOf(m_question.shooterTeam()) : std::nullopt;
 }
 

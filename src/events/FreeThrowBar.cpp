@@ -185,7 +185,7 @@ void FreeThrowBar::open(const LiveGame& game, const FoulThrows& throws, const QR
                         const QRect& room) {
   relabel(*this, m_texts);
   applyMeasure(panel.width());
-  const auto team = static_cast<std::size_t>(throws.team());
+  const auto team = throws.team();
   const RosterPlayer* who = game.game().roster[team].player(throws.shooter());
   const QString name = who == nullptr ? QString() : toQt(who->jersey + ' ' + familyName(who->name));
   const QColor colour = colourOf(game.game().details.teamColour[team]);

@@ -106,9 +106,10 @@ void LiveEventPanel::showWindow(bool isOpen) {
 void LiveEventPanel::nameWindow() {
   if (m_window == nullptr)
     return;
-  const std::string* names = m_rows.game().details.abbreviation;
+  const PerSide<std::string>& names = m_rows.game().details.abbreviation;
   const QString words =
-      QStringLiteral("%1: %2 – %3").arg(caption(m_texts, Text::Events), toQt(names[0]), toQt(names[1]));
+      QStringLiteral("%1: %2 – %3")
+          .arg(caption(m_texts, Text::Events), toQt(names[Side::Visitor]), toQt(names[Side::Home]));
   m_window->setWindowTitle(asTitle(words));
 }
 
@@ -200,10 +201,10 @@ QWidget* LiveEventPanel::makeButtons() {
   });
   using enum PastSubstitution::What;
   ask(m_substituteBefore, [this](const EventPlace& event) {
-    emit substitutionAsked({InsertBefore, event}, 0, 0);
+    emit substitutionAsked({InsertBefore, event}, Side::Visitor, 0);
   });
   ask(m_substituteAfter, [this](const EventPlace& event) {
-    emit substitutionAsked({InsertBehind, event}, 0, 0);
+    emit substitutionAsked({InsertBehind, event}, Side::Visitor, 0);
   });
   connect(m_undo, &QAction::triggered, this, &LiveEventPanel::undoAsked);
   connect(m_redo, &QAction::triggered, this, &LiveEventPanel::redoAsked);
@@ -368,7 +369,7 @@ void LiveEventPanel::leaveDeleted() {
     select({}, std::nullopt);
 }
 
-void LiveEventPanel::showOnly(int team, int period) {
+void LiveEventPanel::showOnly(Side team, int period) {
   m_filter->setChecked(true);
   m_filters->choose(team, period);
 }

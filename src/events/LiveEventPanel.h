@@ -4,6 +4,7 @@
 #pragma once
 
 #include "events/LiveEventRows.h"
+#include "game/Side.h"
 #include "recording/LiveRepairs.h"
 
 #include <QWidget>
@@ -35,9 +36,9 @@ class LiveEventPanel : public QWidget {
   void applyColours();
   // An event that is filtered out is shown again.
   void choose(const EventPlace& event);
-  void leaveDeleted();                 // what is selected and deleted now is so no more
-  void showOnly(int team, int period); // as by the filters
-  void leadToCheck();                  // to the first event to look at, and from it to the next
+  void leaveDeleted();                  // what is selected and deleted now is so no more
+  void showOnly(Side team, int period); // as by the filters
+  void leadToCheck();                   // to the first event to look at, and from it to the next
   // The window of their own: where it stands, or was left; empty when never.
   bool hasWindow() const { return m_window != nullptr; }
   QByteArray windowPlace() const;
@@ -54,7 +55,7 @@ class LiveEventPanel : public QWidget {
   void insertAsked(const hooptab::EventPlace& event, bool isBefore);
   void timeAsked(const hooptab::EventPlace& event);
   // Put in at an event, or another choice for one that is recorded; `player` (0: nobody) is to come in.
-  void substitutionAsked(const hooptab::PastSubstitution& past, int team, int player);
+  void substitutionAsked(const hooptab::PastSubstitution& past, hooptab::Side team, int player);
   void undoAsked();
   void redoAsked();
 

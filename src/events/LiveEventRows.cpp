@@ -40,7 +40,7 @@ void LiveEventRows::show(const Game& game) {
 std::vector<LiveEventRows::Row> LiveEventRows::rowsOf(const Game& game) const {
   std::vector<Row> rows(game.events.size());
   const std::vector<FoulNumber> fouls = foulNumbers(game);
-  const Rosters rosters{game.roster[0], game.roster[1]};
+  const Rosters rosters{game.roster[Side::Visitor], game.roster[Side::Home]};
   OnCourt onCourt = {};
   std::string_view lists; // of the last stop that counts, as written
   std::size_t place = 0;
@@ -56,7 +56,8 @@ std::vector<LiveEventRows::Row> LiveEventRows::rowsOf(const Game& game) const {
     if (written == lists) // most stops change nobody
       continue;
     const OnCourt now = listsOf(event, rosters);
-    rows[place].changed = {onCourt[0] ^ now[0], onCourt[1] ^ now[1]};
+    rows[place].changed = {onCourt[Side::Visitor] ^ now[Side::Visitor],
+                           onCourt[Side::Home] ^ now[Side::Home]};
     if (event.isDeleted)
       continue;
     onCourt = now;
@@ -121,8 +122,8 @@ LiveEventRow LiveEventRows::whole(std::size_t place) const {
   const EventWords::Parts parts = words().parts(place);
   LiveEventRow row;
   row.clock = toQt(words().clock(place));
-  if (parts.team >= 0)
-    row.team = colourOf(game().details.teamColour[parts.team]);
+  if (parts.team)
+    row.team = colourOf(game().details.teamColour[*parts.team]);
   row.number = toQt(parts.jersey);
   row.name = toQt(parts.name);
   row.action = toQt(parts.action);
@@ -164,13 +165,13 @@ bool LiveEventRows::filterAcceptsRow(int row, const QModelIndex&) const {
   if (m_filter.kind != EventCode::Unknown && event.code != m_filter.kind)
     return false;
   const OnCourt& changed = m_ofEvents[place].changed;
-  if (m_filter.team < 0)
+  if (!m_filter.team)
     return m_filter.kind != EventCode::ARRET || changed != OnCourt{};
-  const auto team = static_cast<std::size_t>(m_filter.team);
+  const Side team = *m_filter.team;
   if (event.code == EventCode::ARRET)
     return m_filter.player > 0 ? (changed[team] & (1U << static_cast<unsigned>(m_filter.player))) != 0
                                : changed[team] != 0;
-  return event.player.team == m_filter.team &&
+  return event.player.team == team &&
          (m_filter.player == 0 || game().roster[team].entryOf(event.player.jersey) == m_filter.player);
 }
 

@@ -4,6 +4,7 @@
 
 #include "checks/Finding.h"
 #include "game/EventListModel.h"
+#include "game/Side.h"
 #include "recording/LiveWords.h"
 #include "recording/OnCourt.h"
 
@@ -33,7 +34,7 @@ struct LiveEventRow {
 };
 
 struct EventFilter {
-  int team = -1;                       // any
+  std::optional<Side> team = {};       // any
   int period = 0;                      // any
   int player = 0;                      // entry, of `team`; 0: any
   EventCode kind = EventCode::Unknown; // any; ARRET: who went in and out

@@ -10,12 +10,11 @@
 
 namespace hooptab {
 
-void showPlayerWords(QWidget& widget, const LiveGame& game, int team, int player, const Texts& texts) {
+void showPlayerWords(QWidget& widget, const LiveGame& game, Side team, int player, const Texts& texts) {
   const RosterPlayer* const entry = game.game().roster[team].player(player);
   if (entry == nullptr)
     return;
-  const Counters& counters =
-      game.state().players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)].counters;
+  const Counters& counters = game.state().players[team][static_cast<std::size_t>(player)].counters;
   QString name = toQt(entry->jersey + " " + entry->name);
   name +=
       QStringLiteral(", ") + toQt(texts.text(game.slotOf(team, player) ? Text::OnCourtWord : Text::Bench));

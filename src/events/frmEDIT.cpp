@@ -37,7 +37,7 @@ constexpr int kMargin = 12;
 constexpr int kGap = 8;
 constexpr int kMostSeconds = 99 * 60 + 59; // that can be typed; the game knows its periods
 constexpr int kEntries = Roster::kLargestEntry + 1;
-constexpr int kNoTeam = -2; // no box has it
+constexpr int kNobodys = -kEntries; // of a time-out
 
 } // namespace
 
@@ -158,22 +158,26 @@ frmEDIT::Who frmEDIT::whoDoes(EventCode kind) const {
 void frmEDIT::fillWho() {
   const EventWords words(m_game, m_texts);
   const auto named = [&](const PlayerReference& player) -> QString {
-    return toQt(words.team(player.team)) + u' ' + toQt(words.player(player));
+    return toQt(words.team(*player.team)) + u' ' + toQt(words.player(player));
   };
   m_player->clear();
   if (m_who == Who::Jumpers)
-    m_player->addItem(named(m_event.jumper(0)) + QStringLiteral(" \u2013 ") + named(m_event.jumper(1)), 0);
-  for (int team = 0; team < 2 && m_who != Who::Jumpers; ++team) {
+    m_player->addItem(named(m_event.jumper(Side::Visitor)) + QStringLiteral(" \u2013 ") +
+                          named(m_event.jumper(Side::Home)),
+                      0);
+  for (const Side team : kSides) {
+    if (m_who == Who::Jumpers)
+      break;
     if (m_who != Who::Player)
-      m_player->addItem(toQt(words.team(team)), team * kEntries);
+      m_player->addItem(toQt(words.team(team)), numberOf(team) * kEntries);
     for (int entry = 1; entry < kEntries && m_who == Who::Player; ++entry) {
       const RosterPlayer* player = m_game.roster[team].player(entry);
       if (player != nullptr)
-        m_player->addItem(named({team, player->jersey}), team * kEntries + entry);
+        m_player->addItem(named({team, player->jersey}), numberOf(team) * kEntries + entry);
     }
   }
   if (m_who == Who::TeamOrNobody)
-    m_player->addItem(caption(m_texts, Text::MediaTimeOut), -kEntries);
+    m_player->addItem(caption(m_texts, Text::MediaTimeOut), kNobodys);
 }
 
 // Another kind may be another's; the team stays, and so does the player until another team is chosen.
@@ -181,15 +185,16 @@ void frmEDIT::showWho() {
   const Who who = whoDoes(kind());
   if (who == m_who)
     return;
-  const std::optional<int> chosen = team();
+  const std::optional<Side> chosen = team();
   if (m_who == Who::Player)
     m_lastPlayer = m_player->currentData();
   m_who = who;
   const QSignalBlocker quiet(m_player);
   fillWho();
-  const bool isSameTeam = m_lastPlayer.isValid() && m_lastPlayer.toInt() / kEntries == chosen;
-  const QVariant wanted = who != Who::Player ? QVariant(chosen.value_or(kNoTeam) * kEntries)
-                          : isSameTeam       ? m_lastPlayer
+  const bool isSameTeam =
+      chosen && m_lastPlayer.isValid() && m_lastPlayer.toInt() / kEntries == numberOf(*chosen);
+  const QVariant wanted = who == Who::Player ? (isSameTeam ? m_lastPlayer : QVariant())
+                          : chosen           ? QVariant(numberOf(*chosen) * kEntries)
                                              : QVariant();
   m_player->setCurrentIndex(wanted.isValid() ? m_player->findData(wanted) : -1);
   const Text name = who == Who::Team || who == Who::TeamOrNobody ? Text::TeamWord : Text::Player;
@@ -200,16 +205,16 @@ void frmEDIT::showWho() {
   giveMnemonics(*this);
 }
 
-std::optional<int> frmEDIT::team() const {
+std::optional<Side> frmEDIT::team() const {
   if (const QVariant chosen = m_player->currentData(); chosen.isValid())
-    return chosen.toInt() / kEntries;
-  return m_event.isOfPlayer() ? std::optional(m_event.player.team) : std::nullopt;
+    return sideOf(chosen.toInt() / kEntries);
+  return m_event.isOfPlayer() ? m_event.player.team : std::nullopt;
 }
 
 // --- Its details
 
 // The event as it would be, as far as its details go.
-std::string frmEDIT::lineAsChosen(int team) const {
+std::string frmEDIT::lineAsChosen(Side team) const {
   if (kind() == EventCode::XJB)
     return m_line;
   const std::string text =
@@ -334,11 +339,12 @@ void frmEDIT::fill() {
     m_place = {event.x, event.y};
   if (event.code == EventCode::XJB)
     return;
-  const int entry = event.isOfTeam() ? 0 : m_game.roster[event.player.team].entryOf(event.player.jersey);
-  m_player->setCurrentIndex(m_player->findData(event.player.team * kEntries + entry));
+  const int entry = event.isOfTeam() ? 0 : m_game.roster[*event.player.team].entryOf(event.player.jersey);
+  m_player->setCurrentIndex(
+      m_player->findData(event.player.team ? numberOf(*event.player.team) * kEntries + entry : kNobodys));
   if (m_player->currentIndex() < 0) {
     const EventWords words(m_game, m_texts);
-    m_player->setPlaceholderText(toQt(words.team(event.player.team)) + u' ' +
+    m_player->setPlaceholderText(toQt(words.team(*event.player.team)) + u' ' +
                                  toQt(words.player(event.player)));
   }
 }
@@ -410,7 +416,7 @@ std::optional<LiveGame::Counted> frmEDIT::counted() const {
   const EventCode code = kind();
   return LiveGame::Counted{code,
                            kindOf(code)->isShot && m_made->isChecked(),
-                           player / kEntries,
+                           sideOf(player / kEntries),
                            player % kEntries,
                            kindOf(code)->isShot && code != EventCode::GFT ? m_place : std::nullopt,
                            m_details->changes()};

@@ -3,6 +3,7 @@
 // as well as a new one; changes nothing itself.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/LiveGame.h"
 
 #include <QDialog>
@@ -71,8 +72,8 @@ class frmEDIT : public QDialog {
   bool fitsZone(EventCode kind) const;
   [[nodiscard]] EventCode kind() const;
   [[nodiscard]] Who whoDoes(EventCode kind) const;
-  [[nodiscard]] std::optional<int> team() const; // as chosen, else the event's
-  [[nodiscard]] std::string lineAsChosen(int team) const;
+  [[nodiscard]] std::optional<Side> team() const; // as chosen, else the event's
+  [[nodiscard]] std::string lineAsChosen(Side team) const;
 
   const Purpose m_purpose;
   const Game& m_game;
@@ -94,7 +95,7 @@ class frmEDIT : public QDialog {
   QCheckBox* m_made = nullptr;
   MiniCourt* m_court = nullptr;
   DetailBoxes* m_details = nullptr;
-  std::pair<EventCode, std::optional<int>> m_detailsOf; // kind and team
+  std::pair<EventCode, std::optional<Side>> m_detailsOf; // kind and team
   QLabel* m_shot = nullptr;
   QLabel* m_xy = nullptr;
   QLabel* m_nameFirst = nullptr;

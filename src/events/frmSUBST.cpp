@@ -38,7 +38,7 @@ int lineHeight() {
   return Theme::measure()(26, 33);
 }
 
-void colourBand(QLabel& band, const LiveGame& game, int team) {
+void colourBand(QLabel& band, const LiveGame& game, Side team) {
   const QColor colour = colourOf(game.game().details.teamColour[team]);
   QPalette colours = band.palette();
   colours.setColor(QPalette::Window, colour);
@@ -47,7 +47,7 @@ void colourBand(QLabel& band, const LiveGame& game, int team) {
 }
 
 // A team's name on its colour.
-QLabel* bandOf(const LiveGame& game, int team, const QString& name, QWidget* parent) {
+QLabel* bandOf(const LiveGame& game, Side team, const QString& name, QWidget* parent) {
   auto* band = new PlainLabel(name, parent);
   colourBand(*band, game, team);
   band->setAutoFillBackground(true);
@@ -91,14 +91,14 @@ void frmSUBST::makeContents() {
   } else {
     auto* title = new PlainLabel(this);
     Theme::setType(*title, Type::Count, QFont::DemiBold);
-    const bool isBeginning = m_choice.count(0) + m_choice.count(1) == 0;
+    const bool isBeginning = m_choice.count(Side::Visitor) + m_choice.count(Side::Home) == 0;
     setTextNumber(*title, isBeginning ? Text::WhoBegins : Text::SeveralTitle);
     layout->addWidget(title);
   }
   auto* teams = new QGridLayout;
   teams->setHorizontalSpacing(kMargin);
   teams->setColumnStretch(1, 1);
-  for (int team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     addTeam(*teams, team);
   layout->addLayout(teams);
   if (m_past) {
@@ -134,23 +134,22 @@ void frmSUBST::addPlace(QBoxLayout& layout) {
   layout.addWidget(place);
 }
 
-void frmSUBST::toggle(int team, int player) {
+void frmSUBST::toggle(Side team, int player) {
   m_choice.toggle(team, player);
   showChoice();
 }
 
-void frmSUBST::addTeam(QGridLayout& layout, int team) {
-  const auto t = static_cast<std::size_t>(team);
+void frmSUBST::addTeam(QGridLayout& layout, Side team) {
   const int row = layout.rowCount();
-  m_counts[t] = new PlainLabel(this);
-  m_counts[t]->setObjectName(QStringLiteral("lblCOUNT(%1)").arg(team));
-  Theme::setType(*m_counts[t], Type::Count, QFont::Bold);
-  setToolTipNumber(*m_counts[t], Text::CountName);
-  m_counts[t]->setFixedWidth(Theme::measure()(52, 66)); // 5/5 and 10/5 alike
-  m_counts[t]->setAlignment(Qt::AlignCenter);
+  m_counts[team] = new PlainLabel(this);
+  m_counts[team]->setObjectName(QStringLiteral("lblCOUNT(%1)").arg(numberOf(team)));
+  Theme::setType(*m_counts[team], Type::Count, QFont::Bold);
+  setToolTipNumber(*m_counts[team], Text::CountName);
+  m_counts[team]->setFixedWidth(Theme::measure()(52, 66)); // 5/5 and 10/5 alike
+  m_counts[team]->setAlignment(Qt::AlignCenter);
   auto* head = new QHBoxLayout;
   head->addWidget(bandOf(m_game, team, toQt(m_game.game().details.name[team]), this), 1);
-  head->addWidget(m_counts[t]);
+  head->addWidget(m_counts[team]);
   layout.addLayout(head, row, 0);
   auto* title = new PlainLabel(this);
   setTextNumber(*title, Text::LinesPlayed);
@@ -162,29 +161,30 @@ void frmSUBST::addTeam(QGridLayout& layout, int team) {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kGap);
   for (int place = 0; place < kPlaces; ++place) {
-    auto* button = new JerseyButton(jerseyButtonName(team * kPlaces + place), playerSize(), roster);
+    auto* button = new JerseyButton(jerseyButtonName(numberOf(team) * kPlaces + place), playerSize(), roster);
     button->setCheckable(true);
     connect(button, &JerseyButton::pressed, this, [this, team, place] { toggle(team, place + 1); });
     showPlayerWords(*button, m_game, team, place + 1, m_texts);
     grid->addWidget(button, place / kColumns, place % kColumns);
-    m_players[t][static_cast<std::size_t>(place)] = button;
+    m_players[team][static_cast<std::size_t>(place)] = button;
   }
   layout.addWidget(roster, row + 1, 0);
   layout.addWidget(makeLines(team), row + 1, 1);
 }
 
-QWidget* frmSUBST::makeLines(int team) {
+QWidget* frmSUBST::makeLines(Side team) {
   auto* column = new QWidget(this);
   column->setMinimumWidth(Theme::measure()(170, 220));
   auto* layout = new QVBoxLayout(column);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
-  m_lines[static_cast<std::size_t>(team)] = layout;
+  m_lines[team] = layout;
   const std::vector<Substitution::Line>& lines = m_choice.lines(team);
   for (std::size_t line = 0; line < lines.size(); ++line) {
     auto* button = new QPushButton(toQt(lines[line].jerseys), column);
     button->setObjectName(
-        QStringLiteral("cmdLINE(%1)").arg(static_cast<std::size_t>(team) * Substitution::kMostLines + line));
+        QStringLiteral("cmdLINE(%1)")
+            .arg(static_cast<std::size_t>(numberOf(team)) * Substitution::kMostLines + line));
     button->setAutoDefault(false);
     button->setFixedHeight(lineHeight());
     button->setToolTip(
@@ -199,9 +199,9 @@ QWidget* frmSUBST::makeLines(int team) {
   return column;
 }
 
-void frmSUBST::propose(int team, unsigned players, const QString& words, const QString& hint) {
+void frmSUBST::propose(Side team, unsigned players, const QString& words, const QString& hint) {
   auto* button = new QPushButton(words, this);
-  button->setObjectName(QStringLiteral("cmdPROPOSED(%1)").arg(team));
+  button->setObjectName(QStringLiteral("cmdPROPOSED(%1)").arg(numberOf(team)));
   button->setAutoDefault(false);
   button->setFixedHeight(lineHeight());
   button->setToolTip(hint);
@@ -209,7 +209,7 @@ void frmSUBST::propose(int team, unsigned players, const QString& words, const Q
     m_choice.take(team, players);
     showChoice();
   });
-  m_lines[static_cast<std::size_t>(team)]->insertWidget(0, button);
+  m_lines[team]->insertWidget(0, button);
 }
 
 // The team, the number as it is typed, and what it means: nothing moves when they speak.
@@ -304,8 +304,7 @@ QWidget* frmSUBST::makeAnswers() {
 }
 
 void frmSUBST::showChoice() {
-  for (int team = 0; team < 2; ++team) {
-    const auto t = static_cast<std::size_t>(team);
+  for (const Side team : kSides) {
     const Roster& roster = m_game.game().roster[team];
     for (int player = 1; player <= kPlaces; ++player) {
       const RosterPlayer* entry = roster.player(player);
@@ -314,7 +313,7 @@ void frmSUBST::showChoice() {
       const bool stays = m_choice.isChosen(team, player);
       const bool wasThere = m_choice.wasOnCourt(team, player);
       using enum JerseyButton::Move;
-      JerseyButton& button = *m_players[t][static_cast<std::size_t>(player - 1)];
+      JerseyButton& button = *m_players[team][static_cast<std::size_t>(player - 1)];
       button.setLook({.jersey = toQt(entry->jersey),
                       .name = toQt(entry->name),
                       .colour = colourOf(m_game.game().details.teamColour[team]),
@@ -329,11 +328,11 @@ void frmSUBST::showChoice() {
           stays == wasThere ? QString() : caption(m_texts, stays ? Text::ComesIn : Text::Leaves));
     }
     const int count = m_choice.count(team);
-    m_counts[t]->setText(QStringLiteral("%1/%2").arg(count).arg(kMostOnCourt));
+    m_counts[team]->setText(QStringLiteral("%1/%2").arg(count).arg(kMostOnCourt));
     QPalette colours = palette();
     if (count != kMostOnCourt)
       colours.setColor(QPalette::WindowText, Theme::missed());
-    m_counts[t]->setPalette(colours);
+    m_counts[team]->setPalette(colours);
   }
   if (m_conflict != nullptr) {
     const auto conflict = m_choice.plan().conflict;
@@ -349,9 +348,10 @@ void frmSUBST::showChoice() {
 void frmSUBST::showTyped() {
   const auto& names = m_game.game().details.abbreviation;
   m_typedTeam->setText(toQt(names[m_line.team()]));
-  m_typedTeam->setFixedWidth(std::max(m_typedTeam->fontMetrics().horizontalAdvance(toQt(names[0])),
-                                      m_typedTeam->fontMetrics().horizontalAdvance(toQt(names[1]))) +
-                             4 * kGap);
+  m_typedTeam->setFixedWidth(
+      std::max(m_typedTeam->fontMetrics().horizontalAdvance(toQt(names[Side::Visitor])),
+               m_typedTeam->fontMetrics().horizontalAdvance(toQt(names[Side::Home]))) +
+      4 * kGap);
   colourBand(*m_typedTeam, m_game, m_line.team());
   m_typed->setText(toQt(m_line.typed()) + QLatin1Char('_'));
   const std::string words = m_line.words(m_texts);

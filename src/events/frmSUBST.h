@@ -3,6 +3,7 @@
 // was chosen is for the caller to write as one event. What would not fit later in the game is said before.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/Substitution.h"
 #include "recording/SubstitutionLine.h"
 
@@ -32,8 +33,8 @@ class frmSUBST : public QDialog {
   frmSUBST(const LiveGame& game, const PastSubstitution& past, const Texts& texts, QWidget* parent = nullptr);
 
   // A line to be taken with one click, above those that have played in this game.
-  void propose(int team, unsigned players, const QString& words, const QString& hint);
-  void toggle(int team, int player);
+  void propose(Side team, unsigned players, const QString& words, const QString& hint);
+  void toggle(Side team, int player);
   EditPlan plan() const { return m_choice.plan(); } // in the past
   const OnCourt& onCourt() const { return m_choice.onCourt(); }
   // Modal, over the panel it was called from, without waiting for the answer.
@@ -50,8 +51,8 @@ class frmSUBST : public QDialog {
   static constexpr int kPlaces = 15; // of a team
   void makeContents();
   void addPlace(QBoxLayout& layout);
-  void addTeam(QGridLayout& layout, int team);
-  QWidget* makeLines(int team);
+  void addTeam(QGridLayout& layout, Side team);
+  QWidget* makeLines(Side team);
   QWidget* makeTyped();
   QWidget* makeAnswers();
   bool takeKey(const QKeyEvent& key);
@@ -63,9 +64,9 @@ class frmSUBST : public QDialog {
   std::optional<PastSubstitution> m_past;
   Substitution m_choice;
   SubstitutionLine m_line{m_game, m_choice};
-  std::array<std::array<JerseyButton*, kPlaces>, 2> m_players = {};
-  std::array<QLabel*, 2> m_counts = {};
-  std::array<QBoxLayout*, 2> m_lines = {};
+  PerSide<std::array<JerseyButton*, kPlaces>> m_players = {};
+  PerSide<QLabel*> m_counts = {};
+  PerSide<QBoxLayout*> m_lines = {};
   QLabel* m_typedTeam = nullptr;
   QLabel* m_typed = nullptr;
   QLabel* m_words = nullptr;

@@ -16,21 +16,21 @@ void add(Counters& sum, const Counters& more) {
 
 } // namespace
 
-std::array<bool, 2> teamsOf(const FormIdentifier& identifier, const GameDetails& details) {
+PerSide<bool> teamsOf(const FormIdentifier& identifier, const GameDetails& details) {
   if (!identifier.isPrepared)
     return {true, true};
-  std::array<bool, 2> mayBe = {};
-  for (std::size_t team = 0; team < 2; ++team)
+  PerSide<bool> mayBe = {};
+  for (const Side team : kSides)
     mayBe[team] = identifier.team == FormIdentifier::teamNumber(details.abbreviation[team],
                                                                 Module1::trimmed(details.category[team]));
   return mayBe;
 }
 
-ScannedTotals::ScannedTotals(CheckedSheet read, int team, Roster roster) : sheet(std::move(read)) {
+ScannedTotals::ScannedTotals(CheckedSheet read, Side team, Roster roster) : sheet(std::move(read)) {
   setTeam(team, std::move(roster));
 }
 
-void ScannedTotals::setTeam(int team, Roster roster) {
+void ScannedTotals::setTeam(Side team, Roster roster) {
   m_team = team;
   m_roster = std::move(roster);
   m_players = {};

@@ -5,6 +5,7 @@
 #include "forms/CheckedSheet.h"
 #include "game/GameDetails.h"
 #include "game/Roster.h"
+#include "game/Side.h"
 #include "totals/ManualTotals.h"
 
 #include <array>
@@ -14,19 +15,19 @@
 namespace hooptab {
 
 // Which of a game's two teams a sheet can be of: a prepared one says, a blank one may be of both.
-[[nodiscard]] std::array<bool, 2> teamsOf(const FormIdentifier& identifier, const GameDetails& details);
+[[nodiscard]] PerSide<bool> teamsOf(const FormIdentifier& identifier, const GameDetails& details);
 
 class ScannedTotals {
  public:
   static constexpr int kNobody = 0; // no slot
 
   ScannedTotals() = default;
-  ScannedTotals(CheckedSheet read, int team, Roster roster);
+  ScannedTotals(CheckedSheet read, Side team, Roster roster);
 
   CheckedSheet sheet; // the user's to correct; then match()
   void match();       // numbers may have changed: every player whom nobody has assigned is found again
-  void setTeam(int team, Roster roster); // what was assigned goes
-  int team() const { return m_team; }
+  void setTeam(Side team, Roster roster); // what was assigned goes
+  Side team() const { return m_team; }
   const Roster& roster() const { return m_roster; }
 
   // The slot that a player of the sheet counts for: of his number, or as the user says, kNobody to leave him
@@ -56,7 +57,7 @@ class ScannedTotals {
     int slot = kNobody;
     bool isAssigned = false; // by the user
   };
-  int m_team = 0;
+  Side m_team = Side::Visitor;
   Roster m_roster;
   std::array<Player, FormLayout::kPlayers> m_players;
 };

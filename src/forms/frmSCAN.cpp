@@ -231,7 +231,10 @@ void frmSCAN::connectEverything() {
 
   m_view->installEventFilter(m_doubts); // the same keys say on the page what a cell is
   connect(m_view, &ScanView::cellPressed, this, &frmSCAN::toggle);
-  connect(m_teams, &QComboBox::currentIndexChanged, this, &frmSCAN::chooseTeam);
+  connect(m_teams, &QComboBox::currentIndexChanged, this, [this](int index) {
+    if (const auto team = sideOf(index))
+      chooseTeam(*team);
+  });
   connect(m_table, &ScannedTable::assigned, this, &frmSCAN::assign);
   connect(m_table, &ScannedTable::typed, this, &frmSCAN::showSheet);
   connect(m_table, &ScannedTable::refused, m_hint, &QLabel::setText);
@@ -251,7 +254,7 @@ void frmSCAN::connectEverything() {
 
 // --- Reading page after page
 
-void frmSCAN::read(const QStringList& files, int team) {
+void frmSCAN::read(const QStringList& files, Side team) {
   const bool isIdle = !m_isOpen;
   m_files += files;
   if (!isIdle)
@@ -325,16 +328,17 @@ void frmSCAN::takeResult() {
     return refuse(toQt(m_texts.text(textOf(problem))) +
                   (advice == Text::None ? QString() : u". " + toQt(m_texts.text(advice))));
   }
-  const std::array<bool, 2> teams = teamsOf(m_result->reading.identifier, m_game.details());
-  if (!teams[0] && !teams[1]) {
-    const auto nameOf = [this](int team) {
+  const PerSide<bool> teams = teamsOf(m_result->reading.identifier, m_game.details());
+  if (!teams[Side::Visitor] && !teams[Side::Home]) {
+    const auto nameOf = [this](Side team) {
       return m_game.details().abbreviation[team] + " - " + m_game.details().category[team];
     };
     return refuse(toQt(m_texts.text(Text::InvalidFormat)) + u'\n' +
-                  toQt(m_texts.withPlaceholder(Text::FormOfOtherTeam, nameOf(0) + ", " + nameOf(1))));
+                  toQt(m_texts.withPlaceholder(Text::FormOfOtherTeam,
+                                               nameOf(Side::Visitor) + ", " + nameOf(Side::Home))));
   }
-  const bool mayBeEither = teams[0] && teams[1];
-  const int team = mayBeEither ? m_team : teams[0] ? 0 : 1;
+  const bool mayBeEither = teams[Side::Visitor] && teams[Side::Home];
+  const Side team = mayBeEither ? m_team : teams[Side::Visitor] ? Side::Visitor : Side::Home;
   m_scanned = ScannedTotals(CheckedSheet(m_layout, m_result->reading), team, m_game.roster(team));
   m_teams->setEnabled(mayBeEither);
   m_view->showPage(m_result->picture, m_scanned.sheet);
@@ -436,7 +440,7 @@ void frmSCAN::settleCurrent(bool isTicked) {
     m_doubts->goToOpen(DoubtList::From::Selected);
 }
 
-void frmSCAN::chooseTeam(int team) {
+void frmSCAN::chooseTeam(Side team) {
   m_team = team;
   m_scanned.setTeam(team, m_game.roster(team));
   showSheet();
@@ -503,10 +507,10 @@ void frmSCAN::showSheet() {
   m_skip->setVisible(pagesLeft() > 1);
   const QSignalBlocker quiet(m_teams);
   m_teams->clear();
-  for (int team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     m_teams->addItem(QStringLiteral("%1 - %2").arg(toQt(m_game.details().abbreviation[team]),
                                                    toQt(m_game.details().name[team])));
-  m_teams->setCurrentIndex(m_scanned.team());
+  m_teams->setCurrentIndex(numberOf(m_scanned.team()));
   m_hint->setText(m_scanned.sheet.hasMarks() ? QString() : toQt(m_texts.text(Text::NoMark)));
   m_table->showTotals();
   m_doubts->showDoubts();

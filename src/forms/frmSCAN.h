@@ -7,6 +7,7 @@
 #include "appearance/Task.h"
 #include "forms/PageDecoder.h"
 #include "forms/ScannedTotals.h"
+#include "game/Side.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"
 #include "totals/ManualGame.h"
@@ -41,7 +42,7 @@ class frmSCAN : public QWidget {
   ~frmSCAN() override;
 
   // Behind those that wait already. A blank form is taken for that team's until the user says otherwise.
-  void read(const QStringList& files, int team);
+  void read(const QStringList& files, Side team);
   bool isOpen() const { return m_isOpen; }
   void beginGame();      // another one: nothing was imported into it yet
   void forgetTaken();    // the totals are others than its imports made them
@@ -57,8 +58,8 @@ class frmSCAN : public QWidget {
   void restoreArrangement(const QByteArray& state);
 
  signals:
-  void imported(int team);     // its totals have changed
-  void finished(int imported); // pages; the totals are to be shown again
+  void imported(hooptab::Side team); // its totals have changed
+  void finished(int imported);       // pages; the totals are to be shown again
   void reportAsked(const ScannedTotals& scanned, const QString& source);
 
  private:
@@ -84,7 +85,7 @@ class frmSCAN : public QWidget {
   void toggle(std::size_t cell);
   void settle(std::size_t cell, bool isTicked);
   void settleCurrent(bool isTicked);
-  void chooseTeam(int team);
+  void chooseTeam(Side team);
   void assign(int player, int choice);
   void recount();
   void import(ScannedTotals::Way way);
@@ -101,7 +102,7 @@ class frmSCAN : public QWidget {
   std::shared_ptr<const FormLayout> m_layout;
   PageDecoder m_decoder;
   bool m_isOpen = false;
-  int m_team = 0; // of blank forms
+  Side m_team = Side::Visitor; // of blank forms
   int m_imported = 0;
 
   QStringList m_files; // those that wait; the first is being read

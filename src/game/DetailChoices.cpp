@@ -73,9 +73,10 @@ class Choices {
       }
       break;
     case From::Opponents: {
-      const int side = 1 - m_event.player.team;
+      const Side side = otherSide(*m_event.player.team);
       for (const RosterPlayer& player : m_game.roster[side].players())
-        values.push_back({std::to_string(side) + '-' + player.jersey, m_words.player({side, player.jersey})});
+        values.push_back(
+            {std::to_string(numberOf(side)) + '-' + player.jersey, m_words.player({side, player.jersey})});
       break;
     }
     case From::Awards:
@@ -91,8 +92,8 @@ class Choices {
       break;
     case From::FastBreak: values.push_back({"F", std::string(m_texts.text(Text::OnFastBreak))}); break;
     case From::Teams:
-      for (int side = 0; side < 2; ++side)
-        values.push_back({std::to_string(side), std::string(m_words.team(side))});
+      for (const Side side : kSides)
+        values.push_back({std::to_string(numberOf(side)), std::string(m_words.team(side))});
       break;
     }
   }
@@ -108,8 +109,8 @@ class Choices {
     const auto one = PlayerReference::read(value);
     const auto other = PlayerReference::read(held);
     return one && other && one->team == other->team &&
-           findPlayer(m_game.roster[one->team], one->jersey) ==
-               findPlayer(m_game.roster[one->team], other->jersey);
+           findPlayer(m_game.roster[*one->team], one->jersey) ==
+               findPlayer(m_game.roster[*one->team], other->jersey);
   }
 
   const Game& m_game;
@@ -121,7 +122,7 @@ class Choices {
 } // namespace
 
 std::vector<DetailChoice> detailChoices(const Game& game, const GameEvent& event, const Texts& texts) {
-  if (event.code == EventCode::XTO && event.player.team < 0) // of which there is one kind
+  if (event.code == EventCode::XTO && !event.player.team) // of which there is one kind
     return {};
   const RecordingLevel level = game.details.recordingLevel();
   const Choices choices(game, event, texts);

@@ -72,7 +72,7 @@ std::string detailWords(const GameEvent& event, const EventWords& words, const T
                          number->substr(std::min(slash + 1, number->size()))));
   }
   if (const auto winner = event.detail(detail_key::kWonBy); winner == "0" || winner == "1")
-    add(texts.withPlaceholder(Text::WonBy, words.team(*winner == "0" ? 0 : 1)));
+    add(texts.withPlaceholder(Text::WonBy, words.team(*winner == "0" ? Side::Visitor : Side::Home)));
   return all;
 }
 

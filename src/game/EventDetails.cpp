@@ -96,7 +96,7 @@ std::vector<PlayerReference> playersNamedBy(const GameEvent& event) {
   if (event.isOfPlayer())
     named.push_back(event.player);
   if (event.code == EventCode::XJB)
-    named.insert(named.end(), {event.jumper(0), event.jumper(1)});
+    named.insert(named.end(), {event.jumper(Side::Visitor), event.jumper(Side::Home)});
   for (const std::string_view key : {detail_key::kDrawnBy, detail_key::kShooter}) {
     if (const auto other = PlayerReference::read(event.detail(key).value_or("")))
       named.push_back(*other);
@@ -104,7 +104,7 @@ std::vector<PlayerReference> playersNamedBy(const GameEvent& event) {
   return named;
 }
 
-std::string withDetailsOf(const GameEvent& old, std::string text, EventCode kind, int team) {
+std::string withDetailsOf(const GameEvent& old, std::string text, EventCode kind, std::optional<Side> team) {
   const bool isOfOne = kind == old.code || (isFieldGoal(kind) && isFieldGoal(old.code)) ||
                        (isFoulOfPlayer(kind) && isFoulOfPlayer(old.code));
   if (!isOfOne || old.detailsAt == 0)
@@ -117,7 +117,7 @@ std::string withDetailsOf(const GameEvent& old, std::string text, EventCode kind
     const std::string_view key = isDetail(field) ? keyOf(field) : std::string_view();
     const bool isOfOpponent = key == detail_key::kDrawnBy || key == detail_key::kShooter;
     const bool isOtherFoul = isFoulOfPlayer(kind) && kind != old.code;
-    const bool isOfNobody = kind == EventCode::XTO && (team < 0 || old.player.team < 0);
+    const bool isOfNobody = kind == EventCode::XTO && (!team || !old.player.team);
     const bool isOfKind = key == detail_key::kKind && (isOtherFoul || isOfNobody);
     const bool isSettled = key == detail_key::kDoubtful || key == detail_key::kX || key == detail_key::kY;
     if (!field.empty() && !isSettled && !isOfKind && (!isOfOpponent || team == old.player.team))

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/GameEvent.h"
+#include "game/Side.h"
 
 #include <string>
 #include <string_view>
@@ -35,6 +36,7 @@ inline constexpr std::string_view kDoubtful = "?";      // of any event: "1"
 // that still hold: those of a field goal while it stays one, those of a foul likewise, but for its kind where
 // it becomes a technical one, and that of a time-out which is or was nobody's; who drew it or whose shot it
 // was, while the team stays. A doubt is settled by the change, and the place is the new text's own.
-[[nodiscard]] std::string withDetailsOf(const GameEvent& old, std::string text, EventCode kind, int team);
+[[nodiscard]] std::string withDetailsOf(const GameEvent& old, std::string text, EventCode kind,
+                                        std::optional<Side> team);
 
 } // namespace hooptab

@@ -70,9 +70,10 @@ QString EventListModel::text(std::size_t event, int column) const {
   case Period: return toQt(m_words.periodText(m_game.events[event].period));
   default: break;
   }
-  const std::array<int, 2>& score = m_score[event];
-  const std::array<int, 2> before = event == 0 ? std::array<int, 2>{} : m_score[event - 1];
-  return score == before ? QString() : QString::number(score[0]) + u'-' + QString::number(score[1]);
+  const PerSide<int>& score = m_score[event];
+  const PerSide<int> before = event == 0 ? PerSide<int>() : m_score[event - 1];
+  return score == before ? QString()
+                         : QString::number(score[Side::Visitor]) + u'-' + QString::number(score[Side::Home]);
 }
 
 // An overtime is a name.
@@ -98,9 +99,9 @@ QVariant EventListModel::data(const QModelIndex& index, int role) const {
   case Qt::ToolTipRole: return index.column() == Action ? toQt(m_words.words(place)) : QVariant();
   case Qt::TextAlignmentRole: return alignment(index.column());
   case Qt::DecorationRole:
-    if (index.column() != Action || !event.isUnderstood || event.player.team < 0)
+    if (index.column() != Action || !event.isUnderstood || !event.player.team)
       return {};
-    return colourOf(m_game.details.teamColour[event.player.team]);
+    return colourOf(m_game.details.teamColour[*event.player.team]);
   case Qt::FontRole: {
     QFont font;
     font.setStrikeOut(event.isDeleted);

@@ -16,7 +16,7 @@ namespace hooptab {
 
 namespace {
 
-constexpr Text kSideNames[2] = {Text::Visitor, Text::Home};
+constexpr PerSide<Text> kSideNames = {Text::Visitor, Text::Home};
 
 std::string sentence(const Texts& texts, std::string_view subject, std::string_view words) {
   return withPlaceholders(texts.text(Text::SubjectAndWords), subject, words);
@@ -85,8 +85,8 @@ std::string EventWords::words(std::size_t eventIndex, Length length) const {
   }
   if (event.isOfTeam())
     return wordsOfTeam(event, length);
-  std::string who(team(event.player.team));
-  const bool isTeam = isTeamItself(m_game.roster[event.player.team]);
+  std::string who(team(*event.player.team));
+  const bool isTeam = isTeamItself(m_game.roster[*event.player.team]);
   const std::string name =
       length == Length::Short && !isTeam ? std::string(event.player.jersey) : player(event.player);
   if (name != who)
@@ -102,16 +102,16 @@ std::string EventWords::wordsOfTeam(const GameEvent& event, Length length) const
   std::string words = action(event);
   if (event.code == EventCode::XJB) {
     std::string jumpers;
-    for (int side = 0; side < 2; ++side) {
+    for (const Side side : kSides) {
       const PlayerReference jumper = event.jumper(side);
-      jumpers += (side == 0 ? "" : " – ") + std::string(team(side)) + ' ' +
+      jumpers += (side == Side::Visitor ? "" : " – ") + std::string(team(side)) + ' ' +
                  (length == Length::Short ? std::string(jumper.jersey) : player(jumper));
     }
     words = sentence(m_texts, words, jumpers);
   }
   const std::string more = length == Length::Whole ? detailWords(event, *this, m_texts) : std::string();
   words += (more.empty() ? "" : ", ") + more;
-  return event.player.team < 0 ? words : sentence(m_texts, team(event.player.team), words);
+  return event.player.team ? sentence(m_texts, team(*event.player.team), words) : words;
 }
 
 EventWords::Parts EventWords::parts(std::size_t eventIndex) const {
@@ -120,11 +120,12 @@ EventWords::Parts EventWords::parts(std::size_t eventIndex) const {
   if (!event.isUnderstood || event.code == EventCode::DEPART) {
     parts.action = words(eventIndex, Length::Short);
   } else if (event.code == EventCode::ARRET) {
-    const std::array changes = {changesOf(eventIndex, 0, Length::Short),
-                                changesOf(eventIndex, 1, Length::Short)};
-    if (changes[0].empty() != changes[1].empty()) {
-      parts.team = changes[0].empty() ? 1 : 0;
-      parts.action = changes[static_cast<std::size_t>(parts.team)];
+    const PerSide<std::string> changes = {changesOf(eventIndex, Side::Visitor, Length::Short),
+                                          changesOf(eventIndex, Side::Home, Length::Short)};
+    if (changes[Side::Visitor].empty() != changes[Side::Home].empty()) {
+      const Side changed = changes[Side::Visitor].empty() ? Side::Home : Side::Visitor;
+      parts.team = changed;
+      parts.action = changes[changed];
     } else {
       parts.action = words(eventIndex, Length::Short);
     }
@@ -133,7 +134,7 @@ EventWords::Parts EventWords::parts(std::size_t eventIndex) const {
     parts.action = event.code == EventCode::XJB ? words(eventIndex, Length::Short) : action(event);
   } else {
     parts.team = event.player.team;
-    const Roster& roster = m_game.roster[event.player.team];
+    const Roster& roster = m_game.roster[*event.player.team];
     if (const RosterPlayer* who = findPlayer(roster, event.player.jersey); who != nullptr)
       parts.name = isTeamItself(roster) ? who->name : familyName(who->name);
     if (!isTeamItself(roster))
@@ -160,13 +161,13 @@ std::string EventWords::clock(std::size_t eventIndex) const {
 }
 
 std::string EventWords::player(const PlayerReference& reference) const {
-  const Roster& roster = m_game.roster[reference.team];
+  const Roster& roster = m_game.roster[*reference.team];
   return shownPlayer(findPlayer(roster, reference.jersey), reference.jersey, isTeamItself(roster), m_texts);
 }
 
 std::string EventWords::action(const GameEvent& event) const {
   const EventKind& kind = *event.kind();
-  if (event.code == EventCode::XTO && event.player.team < 0)
+  if (event.code == EventCode::XTO && !event.player.team)
     return std::string(m_texts.text(Text::MediaTimeOut));
   if (event.code == EventCode::XCF && event.detail(detail_key::kKind) == "C")
     return std::string(m_texts.text(Text::CoachTechnical));
@@ -183,12 +184,12 @@ std::string EventWords::action(const GameEvent& event) const {
   return words;
 }
 
-std::string EventWords::wordsOfSide(std::size_t eventIndex, int side) const {
+std::string EventWords::wordsOfSide(std::size_t eventIndex, Side side) const {
   const GameEvent& event = m_game.events[eventIndex];
   if (!event.isUnderstood || event.code == EventCode::DEPART)
     return {};
   if (event.code == EventCode::ARRET)
-    return changesOf(eventIndex, static_cast<std::size_t>(side), Length::Whole);
+    return changesOf(eventIndex, side, Length::Whole);
   const std::string more = detailWords(event, *this, m_texts);
   const std::string what = action(event) + (more.empty() ? "" : ", ") + more;
   if (event.code == EventCode::XJB)
@@ -198,7 +199,7 @@ std::string EventWords::wordsOfSide(std::size_t eventIndex, int side) const {
   return event.isOfTeam() ? what : sentence(m_texts, player(event.player), what);
 }
 
-std::string EventWords::changesOf(std::size_t eventIndex, std::size_t side, Length length) const {
+std::string EventWords::changesOf(std::size_t eventIndex, Side side, Length length) const {
   const GameEvent* const stop = stopBefore(m_game.events, eventIndex);
   const Roster& roster = m_game.roster[side];
   const bool isTeam = isTeamItself(roster);
@@ -216,16 +217,16 @@ std::string EventWords::changesOf(std::size_t eventIndex, std::size_t side, Leng
 
 std::string EventWords::substitution(std::size_t eventIndex, Length length) const {
   std::string words;
-  for (std::size_t side = 0; side < 2; ++side) {
+  for (const Side side : kSides) {
     if (const std::string changes = changesOf(eventIndex, side, length); !changes.empty())
-      words += " - " + sentence(m_texts, team(static_cast<int>(side)), changes);
+      words += " - " + sentence(m_texts, team(side), changes);
   }
   if (words.empty() || length == Length::Short)
     return words.substr(std::min(words.size(), std::string_view(" - ").size()));
   return std::string(m_texts.text(Text::Substitution)) + words;
 }
 
-std::string_view EventWords::team(int team) const {
+std::string_view EventWords::team(Side team) const {
   const std::string& abbreviation = m_game.details.abbreviation[team];
   return abbreviation.empty() ? m_texts.text(kSideNames[team]) : std::string_view(abbreviation);
 }

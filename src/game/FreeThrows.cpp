@@ -23,7 +23,7 @@ bool isBeside(const GameEvent& event) {
 }
 
 // "2/3": which throw of how many; zeros where it is none.
-std::pair<int, int> numberOf(std::string_view detail) {
+std::pair<int, int> throwOf(std::string_view detail) {
   const std::size_t slash = std::min(detail.find('/'), detail.size());
   return {Module1::wholeNumber(detail.substr(0, slash)),
           Module1::wholeNumber(detail.substr(std::min(slash + 1, detail.size())))};
@@ -94,7 +94,7 @@ void FreeThrows::move(const GameEvent& event) {
 }
 
 void FreeThrows::award(const GameEvent& foul, std::size_t place) {
-  Award award{.foul = place, .team = 1 - foul.player.team};
+  Award award{.foul = place, .team = otherSide(*foul.player.team)};
   if (const auto number = foul.detail(detail_key::kFreeThrows))
     award.awarded = std::max(Module1::wholeNumber(*number), 0);
   if (const auto drawnBy = PlayerReference::read(foul.detail(detail_key::kDrawnBy).value_or("")))
@@ -113,9 +113,9 @@ void FreeThrows::award(const GameEvent& foul, std::size_t place) {
 }
 
 FreeThrows::Link FreeThrows::link(const GameEvent& shot, std::size_t place) {
-  const int team = shot.player.team;
+  const Side team = *shot.player.team;
   std::vector<Award>& awards = m_now.awards;
-  const auto number = numberOf(shot.detail(detail_key::kNumberOfThrow).value_or(""));
+  const auto number = throwOf(shot.detail(detail_key::kNumberOfThrow).value_or(""));
   if (const auto open = awardOf(awards, shot.player, number); open != awards.end()) {
     ++open->taken;
     return {Link::Kind::OfFoul, open->foul, open->taken, open->awarded};

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/GameEvent.h"
+#include "game/Side.h"
 
 #include <cstddef>
 #include <optional>
@@ -21,11 +22,11 @@ class FreeThrows {
  public:
   struct Award {
     std::size_t foul = 0;            // place in the list
-    int team = 0;                    // who shoots
+    Side team = Side::Visitor;       // who shoots
     std::optional<int> awarded = {}; // none: nobody said how many
     int taken = 0;                   // of them
     int beyond = 0;                  // after all that were awarded
-    PlayerReference shooter = {};    // who drew the foul; team -1: nobody knows
+    PlayerReference shooter = {};    // who drew the foul; without a team: nobody knows
     [[nodiscard]] bool isOpen() const { return !awarded || taken < *awarded; }
   };
   // Of a throw.
@@ -40,7 +41,7 @@ class FreeThrows {
   // One that counts for no foul, as far as the game is known.
   struct LooseThrow {
     std::size_t place = 0;
-    int team = 0;
+    Side team = Side::Visitor;
     Link link;
   };
   struct Stand {

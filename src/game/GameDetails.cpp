@@ -15,11 +15,11 @@ namespace {
 std::string textOf(std::string_view value) {
   return codepage::toUtf8(value);
 }
-int numberOf(std::string_view value) {
+int intOf(std::string_view value) {
   return Module1::leadingNumber(value);
 }
 std::uint32_t colourOf(std::string_view value) {
-  return static_cast<std::uint32_t>(std::clamp(numberOf(value), 0, 0xFFFFFF));
+  return static_cast<std::uint32_t>(std::clamp(intOf(value), 0, 0xFFFFFF));
 }
 std::string typedOr(const GameDetails& details, std::string TypedRules::*rule, int number) {
   return details.typedRules ? (*details.typedRules).*rule : std::to_string(number);
@@ -52,32 +52,32 @@ struct Detail {
 constexpr std::array kDetails = std::to_array<Detail>({
     {"VERSION", [](GameDetails& d, std::string_view value) { d.version = textOf(value); },
      [](const GameDetails& d) { return d.version; }},
-    {"INPUTTYPE", [](GameDetails& d, std::string_view value) { d.inputType = numberOf(value); },
+    {"INPUTTYPE", [](GameDetails& d, std::string_view value) { d.inputType = intOf(value); },
      [](const GameDetails& d) { return std::to_string(d.inputType); }},
     {"DATE", [](GameDetails& d, std::string_view value) { d.date = textOf(value); },
      [](const GameDetails& d) { return d.date; }},
-    {"OKPRINCIPAL", [](GameDetails& d, std::string_view value) { d.mainTeam = numberOf(value) != 0 ? 1 : 0; },
-     [](const GameDetails& d) { return std::to_string(d.mainTeam); }},
-    {"EQUIPE0ID", [](GameDetails& d, std::string_view value) { d.teamId[0] = numberOf(value); },
-     [](const GameDetails& d) { return std::to_string(d.teamId[0]); }},
-    {"EQUIPE1ID", [](GameDetails& d, std::string_view value) { d.teamId[1] = numberOf(value); },
-     [](const GameDetails& d) { return std::to_string(d.teamId[1]); }},
-    {"EQUIPE0COL", [](GameDetails& d, std::string_view value) { d.teamColour[0] = colourOf(value); },
-     [](const GameDetails& d) { return std::to_string(d.teamColour[0]); }},
-    {"EQUIPE1COL", [](GameDetails& d, std::string_view value) { d.teamColour[1] = colourOf(value); },
-     [](const GameDetails& d) { return std::to_string(d.teamColour[1]); }},
-    {"EQUIPE0ABB", [](GameDetails& d, std::string_view value) { d.abbreviation[0] = textOf(value); },
-     [](const GameDetails& d) { return d.abbreviation[0]; }},
-    {"EQUIPE1ABB", [](GameDetails& d, std::string_view value) { d.abbreviation[1] = textOf(value); },
-     [](const GameDetails& d) { return d.abbreviation[1]; }},
-    {"EQUIPE0NOM", [](GameDetails& d, std::string_view value) { d.name[0] = textOf(value); },
-     [](const GameDetails& d) { return d.name[0]; }},
-    {"EQUIPE1NOM", [](GameDetails& d, std::string_view value) { d.name[1] = textOf(value); },
-     [](const GameDetails& d) { return d.name[1]; }},
-    {"EQUIPE0CAT", [](GameDetails& d, std::string_view value) { d.category[0] = textOf(value); },
-     [](const GameDetails& d) { return d.category[0]; }},
-    {"EQUIPE1CAT", [](GameDetails& d, std::string_view value) { d.category[1] = textOf(value); },
-     [](const GameDetails& d) { return d.category[1]; }},
+    {"OKPRINCIPAL", [](GameDetails& d, std::string_view value) { d.mainTeam = intOf(value) != 0 ? Side::Home : Side::Visitor; },
+     [](const GameDetails& d) { return std::to_string(numberOf(d.mainTeam)); }},
+    {"EQUIPE0ID", [](GameDetails& d, std::string_view value) { d.teamId[Side::Visitor] = intOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.teamId[Side::Visitor]); }},
+    {"EQUIPE1ID", [](GameDetails& d, std::string_view value) { d.teamId[Side::Home] = intOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.teamId[Side::Home]); }},
+    {"EQUIPE0COL", [](GameDetails& d, std::string_view value) { d.teamColour[Side::Visitor] = colourOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.teamColour[Side::Visitor]); }},
+    {"EQUIPE1COL", [](GameDetails& d, std::string_view value) { d.teamColour[Side::Home] = colourOf(value); },
+     [](const GameDetails& d) { return std::to_string(d.teamColour[Side::Home]); }},
+    {"EQUIPE0ABB", [](GameDetails& d, std::string_view value) { d.abbreviation[Side::Visitor] = textOf(value); },
+     [](const GameDetails& d) { return d.abbreviation[Side::Visitor]; }},
+    {"EQUIPE1ABB", [](GameDetails& d, std::string_view value) { d.abbreviation[Side::Home] = textOf(value); },
+     [](const GameDetails& d) { return d.abbreviation[Side::Home]; }},
+    {"EQUIPE0NOM", [](GameDetails& d, std::string_view value) { d.name[Side::Visitor] = textOf(value); },
+     [](const GameDetails& d) { return d.name[Side::Visitor]; }},
+    {"EQUIPE1NOM", [](GameDetails& d, std::string_view value) { d.name[Side::Home] = textOf(value); },
+     [](const GameDetails& d) { return d.name[Side::Home]; }},
+    {"EQUIPE0CAT", [](GameDetails& d, std::string_view value) { d.category[Side::Visitor] = textOf(value); },
+     [](const GameDetails& d) { return d.category[Side::Visitor]; }},
+    {"EQUIPE1CAT", [](GameDetails& d, std::string_view value) { d.category[Side::Home] = textOf(value); },
+     [](const GameDetails& d) { return d.category[Side::Home]; }},
     {"SUPP0", [](GameDetails& d, std::string_view value) { d.statisticLabel[0] = textOf(value); },
      [](const GameDetails& d) { return d.statisticLabel[0]; }},
     {"SUPP1", [](GameDetails& d, std::string_view value) { d.statisticLabel[1] = textOf(value); },
@@ -86,23 +86,23 @@ constexpr std::array kDetails = std::to_array<Detail>({
      [](const GameDetails& d) { return d.place; }},
     {"SAISIEPAR", [](GameDetails& d, std::string_view value) { d.statistician = textOf(value); },
      [](const GameDetails& d) { return d.statistician; }},
-    {"NBREPERIODE", [](GameDetails& d, std::string_view value) { d.periods = numberOf(value); },
+    {"NBREPERIODE", [](GameDetails& d, std::string_view value) { d.periods = intOf(value); },
      [](const GameDetails& d) { return typedOr(d, &TypedRules::periods, d.periods); }},
     {"DUREE",
      [](GameDetails& d, std::string_view value) {
-       const int minutes = numberOf(value);
+       const int minutes = intOf(value);
        d.minutesPerPeriod = std::clamp(minutes, 0, kMostMinutes);
        const bool isPossible = d.minutesPerPeriod == minutes;
        d.impossibleMinutes = isPossible ? std::nullopt : std::optional(minutes);
      },
      [](const GameDetails& d) { return typedOr(d, &TypedRules::minutesPerPeriod, d.minutesPerPeriod); }},
-    {"BONUS", [](GameDetails& d, std::string_view value) { d.bonus = numberOf(value); },
+    {"BONUS", [](GameDetails& d, std::string_view value) { d.bonus = intOf(value); },
      [](const GameDetails& d) { return typedOr(d, &TypedRules::bonus, d.bonus); }},
-    {"PFMAX", [](GameDetails& d, std::string_view value) { d.personalFoulLimit = numberOf(value); },
+    {"PFMAX", [](GameDetails& d, std::string_view value) { d.personalFoulLimit = intOf(value); },
      [](const GameDetails& d) { return typedOr(d, &TypedRules::personalFoulLimit, d.personalFoulLimit); }},
-    {"TFMAX", [](GameDetails& d, std::string_view value) { d.technicalFoulLimit = numberOf(value); },
+    {"TFMAX", [](GameDetails& d, std::string_view value) { d.technicalFoulLimit = intOf(value); },
      [](const GameDetails& d) { return typedOr(d, &TypedRules::technicalFoulLimit, d.technicalFoulLimit); }},
-    {"TYPE", [](GameDetails& d, std::string_view value) { d.type = numberOf(value); },
+    {"TYPE", [](GameDetails& d, std::string_view value) { d.type = intOf(value); },
      [](const GameDetails& d) { return std::to_string(d.type); }},
     {"NOTES", [](GameDetails& d, std::string_view value) { d.notes = textOf(value); },
      [](const GameDetails& d) { return d.notes; }},
@@ -120,33 +120,33 @@ constexpr std::array kDetails = std::to_array<Detail>({
      [](const GameDetails& d) { return d.referees; }, true},
     {"ASSISTANCE", [](GameDetails& d, std::string_view value) { d.attendance = textOf(value); },
      [](const GameDetails& d) { return d.attendance; }, true},
-    {"ENTRAINEUR0", [](GameDetails& d, std::string_view value) { d.coach[0] = textOf(value); },
-     [](const GameDetails& d) { return d.coach[0]; }, true},
-    {"ENTRAINEUR1", [](GameDetails& d, std::string_view value) { d.coach[1] = textOf(value); },
-     [](const GameDetails& d) { return d.coach[1]; }, true},
-    {"CAPITAINE0", [](GameDetails& d, std::string_view value) { d.captain[0] = textOf(value); },
-     [](const GameDetails& d) { return d.captain[0]; }, true},
-    {"CAPITAINE1", [](GameDetails& d, std::string_view value) { d.captain[1] = textOf(value); },
-     [](const GameDetails& d) { return d.captain[1]; }, true},
+    {"ENTRAINEUR0", [](GameDetails& d, std::string_view value) { d.coach[Side::Visitor] = textOf(value); },
+     [](const GameDetails& d) { return d.coach[Side::Visitor]; }, true},
+    {"ENTRAINEUR1", [](GameDetails& d, std::string_view value) { d.coach[Side::Home] = textOf(value); },
+     [](const GameDetails& d) { return d.coach[Side::Home]; }, true},
+    {"CAPITAINE0", [](GameDetails& d, std::string_view value) { d.captain[Side::Visitor] = textOf(value); },
+     [](const GameDetails& d) { return d.captain[Side::Visitor]; }, true},
+    {"CAPITAINE1", [](GameDetails& d, std::string_view value) { d.captain[Side::Home] = textOf(value); },
+     [](const GameDetails& d) { return d.captain[Side::Home]; }, true},
     {"SCORECIBLE",
-     [](GameDetails& d, std::string_view value) { d.targetScore = std::max(numberOf(value), 0); },
+     [](GameDetails& d, std::string_view value) { d.targetScore = std::max(intOf(value), 0); },
      [](const GameDetails& d) { return positive(d.targetScore); }, true},
-    {"EVENUM", [](GameDetails& d, std::string_view value) { d.nextEventNumber = numberOf(value); }, nullptr},
+    {"EVENUM", [](GameDetails& d, std::string_view value) { d.nextEventNumber = intOf(value); }, nullptr},
     {"LIGNE3",
      [](GameDetails& d, std::string_view value) {
-       if (const int radius = numberOf(value); radius > 0)
+       if (const int radius = intOf(value); radius > 0)
          d.threePointRadius = radius;
      },
      nullptr},
     {"LIGNE3COIN",
      [](GameDetails& d, std::string_view value) {
-       if (const int corner = numberOf(value); corner > 0)
+       if (const int corner = intOf(value); corner > 0)
          d.threePointCorner = corner;
      },
      nullptr},
     {"DUREEPROL",
      [](GameDetails& d, std::string_view value) {
-       d.overtimeMinutes = std::clamp(numberOf(value), 0, kMostMinutes);
+       d.overtimeMinutes = std::clamp(intOf(value), 0, kMostMinutes);
      },
      [](const GameDetails& d) { return positive(d.overtimeMinutes); }, true},
     {"KEEPBONUS", [](GameDetails& d, std::string_view value) { d.keepsBonus = Module1::flag(value); },

@@ -2,6 +2,7 @@
 // whose keys are described in docs/formats/game.md.
 #pragma once
 
+#include "game/Side.h"
 #include "storage/ProfileBatch.h"
 #include "storage/ProfileText.h"
 
@@ -32,14 +33,14 @@ enum class RecordingLevel : std::uint8_t { Basic, League, Full };
 // disk).
 struct GameDetails {
   std::string version;
-  int inputType = 0; // 0 live, anything else entry of totals
-  std::string date;  // yyyy-mm-dd
-  int mainTeam = 0;  // OKPRINCIPAL
-  int teamId[2] = {};
-  std::uint32_t teamColour[2] = {}; // red + 256 * green + 65536 * blue
-  std::string abbreviation[2];
-  std::string name[2];
-  std::string category[2];
+  int inputType = 0;             // 0 live, anything else entry of totals
+  std::string date;              // yyyy-mm-dd
+  Side mainTeam = Side::Visitor; // OKPRINCIPAL
+  PerSide<int> teamId = {};
+  PerSide<std::uint32_t> teamColour = {}; // red + 256 * green + 65536 * blue
+  PerSide<std::string> abbreviation;
+  PerSide<std::string> name;
+  PerSide<std::string> category;
   std::string statisticLabel[2]; // SUPP0, SUPP1, with their "U1-" / "U2-" prefix
   std::string place;
   std::string statistician;
@@ -60,11 +61,11 @@ struct GameDetails {
   std::string round;
   std::string referees;
   std::string attendance; // as it was typed
-  std::string coach[2];
-  std::string captain[2];  // the jersey
-  int targetScore = 0;     // SCORECIBLE: who reaches it has won; 0: the clock decides
-  int overtimeMinutes = 0; // DUREEPROL: of the last overtime; 0: there was none, or nobody knows
-  int nextEventNumber = 0; // EVENUM; 0 when absent
+  PerSide<std::string> coach;
+  PerSide<std::string> captain; // the jersey
+  int targetScore = 0;          // SCORECIBLE: who reaches it has won; 0: the clock decides
+  int overtimeMinutes = 0;      // DUREEPROL: of the last overtime; 0: there was none, or nobody knows
+  int nextEventNumber = 0;      // EVENUM; 0 when absent
   // LIGNE3 and LIGNE3COIN, in centimetres: how far from the basket the three-point line was drawn, and from
   // the court's axis its straight parts in the corners.
   int threePointRadius = 675;

@@ -115,7 +115,7 @@ bool isPlayer(std::string_view text) {
 bool parseSide(std::string_view text, bool mayBeNobody, PlayerReference& player) {
   if (text != "0" && text != "1")
     return text.empty() && mayBeNobody;
-  player.team = text[0] - '0';
+  player.team = sideOf(text[0] - '0');
   return true;
 }
 
@@ -123,7 +123,8 @@ bool parseSide(std::string_view text, bool mayBeNobody, PlayerReference& player)
 
 // Side, "-", jersey. A jersey is never empty and holds no further rule: it is looked up in the roster.
 std::optional<PlayerReference> PlayerReference::read(std::string_view text) {
-  return isPlayer(text) ? std::optional(PlayerReference{text[0] - '0', text.substr(2)}) : std::nullopt;
+  return isPlayer(text) ? std::optional(PlayerReference{sideOf(text[0] - '0'), text.substr(2)})
+                        : std::nullopt;
 }
 
 GameEvent GameEvent::parse(int period, std::string_view key, std::string_view line) {
@@ -160,7 +161,7 @@ void GameEvent::parseLine(int eventPeriod, std::string_view eventKey, int keyNum
   clockSeconds = *clock;
 
   if (found.code == EventCode::ARRET) {
-    for (int team = 0; team < 2; ++team) {
+    for (std::size_t lists = 0; lists < kSides.size(); ++lists) {
       const std::string_view list = nextField(rest);
       if (!list.empty() && !Module1::isOnCourtList(list))
         return;
@@ -168,7 +169,7 @@ void GameEvent::parseLine(int eventPeriod, std::string_view eventKey, int keyNum
   } else if (found.code == EventCode::XJB) {
     const auto first = PlayerReference::read(nextField(rest));
     const auto second = PlayerReference::read(nextField(rest));
-    if (!first || !second || first->team != 0 || second->team != 1)
+    if (!first || !second || first->team != Side::Visitor || second->team != Side::Home)
       return;
   } else if (isOfTeam()) {
     if (!parseSide(nextField(rest), found.code == EventCode::XTO, player))
@@ -177,7 +178,7 @@ void GameEvent::parseLine(int eventPeriod, std::string_view eventKey, int keyNum
     const std::string_view who = nextField(rest);
     if (!isPlayer(who))
       return;
-    player = {who[0] - '0', who.substr(2)};
+    player = {sideOf(who[0] - '0'), who.substr(2)};
     if (found.kind->hasPlace) {
       std::string_view behind = rest;
       const std::string_view xText = nextField(behind);
@@ -207,28 +208,28 @@ std::optional<std::string_view> GameEvent::detail(std::string_view detailKey) co
   return std::nullopt;
 }
 
-PlayerReference GameEvent::jumper(int team) const {
+PlayerReference GameEvent::jumper(Side team) const {
   const std::size_t begin = line.find(",XJB,");
   if (code != EventCode::XJB || begin == std::string_view::npos)
     return {};
   std::string_view rest = line.substr(begin + std::string_view(",XJB,").size());
-  std::string_view found;
-  for (int side = 0; side <= team; ++side)
+  std::string_view found = nextField(rest);
+  if (team == Side::Home)
     found = nextField(rest);
   return PlayerReference::read(found).value_or(PlayerReference());
 }
 
-std::string_view GameEvent::onCourt(std::size_t team) const {
+std::string_view GameEvent::onCourt(Side team) const {
   constexpr std::size_t kBeforeLists = kClockLength + std::string_view(",ARRET,").size();
   std::string_view rest = line.substr(std::min(kBeforeLists + (isDeleted ? 1 : 0), line.size()));
   const std::size_t end = std::min(rest.find(','), rest.size());
-  if (team == 0)
+  if (team == Side::Visitor)
     return rest.substr(0, end);
   rest.remove_prefix(std::min(end + 1, rest.size()));
   return rest.substr(0, rest.find(','));
 }
 
-std::string eventText(EventCode code, bool made, int team, std::string_view jersey,
+std::string eventText(EventCode code, bool made, Side team, std::string_view jersey,
                       std::optional<std::pair<double, double>> place) {
   const EventKind* kind = kindOf(code);
   std::string text = ",";
@@ -236,7 +237,7 @@ std::string eventText(EventCode code, bool made, int team, std::string_view jers
   if (kind->isShot && !made)
     text += 'A';
   text += ',';
-  text += static_cast<char>('0' + team);
+  text += static_cast<char>('0' + numberOf(team));
   text += '-';
   text += jersey;
   if (!place)
@@ -246,9 +247,9 @@ std::string eventText(EventCode code, bool made, int team, std::string_view jers
   return text + (kind->hasPlace ? "," + x + "," + y : ",X=" + x + ",Y=" + y);
 }
 
-std::string teamEventText(EventCode code, int team) {
+std::string teamEventText(EventCode code, std::optional<Side> team) {
   const std::string text = "," + std::string(kindOf(code)->text) + ",";
-  return team < 0 ? text + ",K=MEDIA" : text + std::to_string(team);
+  return team ? text + std::to_string(numberOf(*team)) : text + ",K=MEDIA";
 }
 
 std::string startText() {

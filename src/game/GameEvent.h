@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/EventKind.h"
+#include "game/Side.h"
 
 #include <cstdint>
 #include <optional>
@@ -17,7 +18,7 @@ namespace hooptab {
 inline constexpr int kLastPeriod = 255;
 
 struct PlayerReference {
-  int team = -1; // 0 visiting, 1 home, -1 none; alone, of what a team did
+  std::optional<Side> team = {}; // alone, of what a team did; none: of the clock, or nobody's
   std::string_view jersey;
 
   [[nodiscard]] static std::optional<PlayerReference> read(std::string_view text); // "0-12"
@@ -44,9 +45,9 @@ struct GameEvent {
   // The value of a field "KEY=VALUE" behind those of the grammar, in whatever order they stand.
   [[nodiscard]] std::optional<std::string_view> detail(std::string_view detailKey) const;
   // XJB: the player of that side.
-  [[nodiscard]] PlayerReference jumper(int team) const;
+  [[nodiscard]] PlayerReference jumper(Side team) const;
   // ARRET: a team's list as written; empty for nobody.
-  std::string_view onCourt(std::size_t team) const;
+  std::string_view onCourt(Side team) const;
   // The line with what no reader takes, as it has to stay.
   std::string_view whole() const { return {line.data(), line.size() + unread}; }
   bool isShot() const { return code >= EventCode::GFG; }
@@ -63,10 +64,10 @@ struct GameEvent {
 
 // The event text behind the clock, as the writer takes it: ",GFG,0-12,42,51", and ",GDK,0-12,X=42,Y=51" of a
 // kind that has no place of its own. Places are truncated to whole units.
-[[nodiscard]] std::string eventText(EventCode code, bool made, int team, std::string_view jersey,
+[[nodiscard]] std::string eventText(EventCode code, bool made, Side team, std::string_view jersey,
                                     std::optional<std::pair<double, double>> place = std::nullopt);
-// The same of what a team does, but for a jump ball: ",XOR,1"; -1 is a time-out of nobody's.
-[[nodiscard]] std::string teamEventText(EventCode code, int team);
+// The same of what a team does, but for a jump ball: ",XOR,1"; without a team, a time-out of nobody's.
+[[nodiscard]] std::string teamEventText(EventCode code, std::optional<Side> team);
 [[nodiscard]] std::string startText();
 [[nodiscard]] std::string stopText(std::string_view list0, std::string_view list1);
 

@@ -17,7 +17,7 @@ namespace hooptab {
 namespace {
 
 constexpr std::string_view kPeriodPrefix = "PERIODE";
-constexpr std::string_view kRosterSections[2] = {"0", "1"};
+constexpr PerSide<std::string_view> kRosterSections = {"0", "1"};
 constexpr int kHighestPeriodRead = 999'999'999; // whatever longer number a section has
 
 } // namespace
@@ -26,7 +26,7 @@ std::string periodSection(int period) {
   return std::string(kPeriodPrefix) + std::to_string(period);
 }
 
-std::string rosterSection(int team) {
+std::string rosterSection(Side team) {
   return std::string(kRosterSections[team]);
 }
 
@@ -179,7 +179,7 @@ std::string eventLine(int clockSeconds, const std::string& eventText) {
 
 void readGame(const ProfileText& text, Game& game) {
   hooptab::readDetails(text, game.details);
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     readRoster(text, kRosterSections[team], game.roster[team]);
   readEvents(text, game.events);
   game.accepted = readAccepted(text);
@@ -299,10 +299,10 @@ GameFileProblem GameFile::create(const GameDetails& details, const std::vector<R
   for (const PeriodSection& period : periodsOf(text()))
     deleteWholly(period.section.name, text(), batch);
   // With all that was written for the game that stood here.
-  for (const std::string_view section :
-       {kRosterSections[0], kRosterSections[1], kDetailsSection, kAcceptedSection, kWallClockSection})
+  for (const std::string_view section : {kRosterSections[Side::Visitor], kRosterSections[Side::Home],
+                                         kDetailsSection, kAcceptedSection, kWallClockSection})
     deleteWholly(section, text(), batch);
-  for (const int team : {0, 1})
+  for (const Side team : kSides)
     deleteWholly(playerIdSection(team), text(), batch);
 
   GameDetails written = details;
@@ -311,8 +311,8 @@ GameFileProblem GameFile::create(const GameDetails& details, const std::vector<R
     written.id = newGameId();
   writeNewDetails(written, batch);
 
-  const std::vector<RosterPlayer>* rosters[2] = {&visitors, &home};
-  for (std::size_t team = 0; team < 2; ++team) {
+  const PerSide<const std::vector<RosterPlayer>*> rosters = {&visitors, &home};
+  for (const Side team : kSides) {
     const std::string section(kRosterSections[team]);
     for (const RosterPlayer& player : *rosters[team])
       batch.set(section, player.jersey, playerValue(player));

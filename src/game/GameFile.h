@@ -6,6 +6,7 @@
 #include "game/EventList.h"
 #include "game/GameDetails.h"
 #include "game/Roster.h"
+#include "game/Side.h"
 #include "storage/ProfileStore.h"
 
 #include <cstdint>
@@ -24,7 +25,7 @@ inline constexpr std::string_view kAcceptedSection = "ACCEPTES";
 struct Game {
   std::string path;
   GameDetails details;
-  Roster roster[2];
+  PerSide<Roster> roster;
   EventList events;
   // Findings that the user has looked at and accepted: the event's number, and the numbers of their texts.
   AcceptedFindings accepted;
@@ -111,7 +112,7 @@ void readGame(const ProfileText& text, Game& game);
 [[nodiscard]] bool isGameName(std::string_view name);
 // The name of a period's section, and of a team's.
 [[nodiscard]] std::string periodSection(int period);
-[[nodiscard]] std::string rosterSection(int team);
+[[nodiscard]] std::string rosterSection(Side team);
 // What stands behind a player's jersey there: "1,Ann Able".
 [[nodiscard]] std::string playerValue(const RosterPlayer& player);
 

@@ -132,7 +132,7 @@ GameMerge mergeGame(const EventList& ours, const ProfileText& left, const Profil
   return Merger(ours, left, theirs).merge();
 }
 
-bool isNamed(const EventList& events, int team, std::string_view jersey) {
+bool isNamed(const EventList& events, Side team, std::string_view jersey) {
   return std::ranges::any_of(events, [&](const GameEvent& event) {
     if (!event.isUnderstood)
       return false;
@@ -140,8 +140,7 @@ bool isNamed(const EventList& events, int team, std::string_view jersey) {
       return std::ranges::any_of(playersNamedBy(event), [&](const PlayerReference& named) {
         return named.team == team && named.jersey == jersey;
       });
-    for (const std::string_view other :
-         Module1::JerseysOfList(event.onCourt(static_cast<std::size_t>(team)))) {
+    for (const std::string_view other : Module1::JerseysOfList(event.onCourt(team))) {
       if (other == jersey || Module1::leadingNumber(other) == Module1::wholeNumber(jersey))
         return true;
     }

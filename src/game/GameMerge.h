@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/EventList.h"
+#include "game/Side.h"
 #include "storage/ProfileText.h"
 
 #include <string>
@@ -26,6 +27,6 @@ struct GameMerge {
 [[nodiscard]] GameMerge mergeGame(const EventList& ours, const ProfileText& left, const ProfileText& theirs);
 
 // Whether an event names the player of that jersey: as the one who did something, or on court.
-[[nodiscard]] bool isNamed(const EventList& events, int team, std::string_view jersey);
+[[nodiscard]] bool isNamed(const EventList& events, Side team, std::string_view jersey);
 
 } // namespace hooptab

@@ -208,7 +208,7 @@ void GameOnDisk::addTimes(const GameMerge& merge, const ProfileText& theirs, Pro
 void GameOnDisk::addMissingPlayers(const EventList& all, ProfileBatch& batch) {
   const ProfileText& left = m_guard.left();
   const ProfileText& theirs = m_guard.found();
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const std::string section = rosterSection(team);
     for (const ProfileText::Line& line : left.section(section)) {
       if (line.kind != ProfileText::Line::Kind::KeyValue || theirs.value(section, line.name))

@@ -17,9 +17,9 @@ int pointsOf(const Counters& counters) {
   return points;
 }
 
-int GameState::points(int team) const {
+int GameState::points(Side team) const {
   int sum = 0;
-  for (const PeriodEntry& entry : periods[static_cast<std::size_t>(team)])
+  for (const PeriodEntry& entry : periods[team])
     sum += entry.points;
   return sum;
 }

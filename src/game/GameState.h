@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/EventKind.h"
+#include "game/Side.h"
 
 #include <array>
 #include <cstdint>
@@ -58,7 +59,7 @@ struct TeamRow {
 
 // A field goal with its place, or of a kind that should have one, for the shot chart.
 struct Shot {
-  std::uint8_t team = 0;
+  Side team = Side::Visitor;
   std::uint8_t player = 0; // entry
   std::uint8_t line = 0;   // entry of the team's line on court
   bool isThree = false;
@@ -83,31 +84,31 @@ struct GameState {
   static constexpr std::size_t kLineEntries = 101;  // 0 is "nobody" and "other lines"
   static constexpr std::size_t kPeriodRows = 9;     // 1..7, 8 for period 8 and later; 0 is unused
 
-  std::array<std::array<PlayerEntry, kPlayerEntries>, 2> players;
-  std::array<std::array<LineEntry, kLineEntries>, 2> lines;
-  std::array<std::array<PeriodEntry, kPeriodRows>, 2> periods = {};
-  std::array<int, 2> usedLines = {}; // entries 1..usedLines are in use
+  PerSide<std::array<PlayerEntry, kPlayerEntries>> players;
+  PerSide<std::array<LineEntry, kLineEntries>> lines;
+  PerSide<std::array<PeriodEntry, kPeriodRows>> periods = {};
+  PerSide<int> usedLines = {}; // entries 1..usedLines are in use
   // Who belongs to each line in use, as bits: bit n for player entry n; bit 0 for somebody who is in no
   // roster, then the line's list tells who.
-  std::array<std::array<std::uint16_t, kLineEntries>, 2> lineMembers = {};
-  std::array<std::uint16_t, 2> wereOnCourt = {}; // bit n: player entry n was on court at some time
+  PerSide<std::array<std::uint16_t, kLineEntries>> lineMembers = {};
+  PerSide<std::uint16_t> wereOnCourt = {}; // bit n: player entry n was on court at some time
   LeadTracker lead;
-  std::array<std::array<PlayerExtras, kPlayerEntries>, 2> extras = {};
-  std::array<TeamRow, 2> teamRows = {};
+  PerSide<std::array<PlayerExtras, kPlayerEntries>> extras = {};
+  PerSide<TeamRow> teamRows = {};
   std::vector<Shot> shots;
   int period = 1;
   int clockSeconds = 0; // of the last event
 
   // Who is on court now: player entries (0 for a jersey that is in no roster) and the line's entry.
-  std::array<std::array<std::uint8_t, 5>, 2> onCourt = {};
-  std::array<std::uint8_t, 2> onCourtCount = {};
-  std::array<std::uint8_t, 2> currentLine = {};
-  std::array<int, 2> lineStartClock = {};
+  PerSide<std::array<std::uint8_t, 5>> onCourt = {};
+  PerSide<std::uint8_t> onCourtCount = {};
+  PerSide<std::uint8_t> currentLine = {};
+  PerSide<int> lineStartClock = {};
 
   [[nodiscard]] static std::size_t periodRow(int period) {
     return period > 8 ? 8U : static_cast<std::size_t>(period);
   }
-  [[nodiscard]] int points(int team) const;
+  [[nodiscard]] int points(Side team) const;
 };
 
 // Points of a made-shot count: 1, 2 or 3 a shot.

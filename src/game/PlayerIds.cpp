@@ -45,11 +45,11 @@ void add(std::string& line, std::string_view key, std::string_view value) {
 
 } // namespace
 
-std::string playerIdSection(int team) {
-  return "JOUEURS" + std::to_string(team);
+std::string playerIdSection(Side team) {
+  return "JOUEURS" + std::to_string(numberOf(team));
 }
 
-PlayerIds readPlayerIds(const ProfileText& text, int team) {
+PlayerIds readPlayerIds(const ProfileText& text, Side team) {
   PlayerIds ids;
   for (const ProfileText::Line& line : text.section(playerIdSection(team))) {
     if (line.kind != ProfileText::Line::Kind::KeyValue || line.name.empty())
@@ -62,7 +62,7 @@ PlayerIds readPlayerIds(const ProfileText& text, int team) {
   return ids;
 }
 
-bool planPlayerId(const ProfileText& text, int team, std::string_view jersey, const PlayerId& id,
+bool planPlayerId(const ProfileText& text, Side team, std::string_view jersey, const PlayerId& id,
                   ProfileBatch& batch) {
   if (id.licence.find(',') != std::string::npos || id.foreignId.find(',') != std::string::npos)
     return false;

@@ -3,6 +3,7 @@
 // game needs none of it, so it is read where it is asked for alone.
 #pragma once
 
+#include "game/Side.h"
 #include "storage/ProfileBatch.h"
 #include "storage/ProfileText.h"
 
@@ -21,11 +22,11 @@ struct PlayerId {
 // By the jersey, as the roster writes it.
 using PlayerIds = std::map<std::string, PlayerId, std::less<>>;
 
-[[nodiscard]] std::string playerIdSection(int team);
-[[nodiscard]] PlayerIds readPlayerIds(const ProfileText& text, int team);
+[[nodiscard]] std::string playerIdSection(Side team);
+[[nodiscard]] PlayerIds readPlayerIds(const ProfileText& text, Side team);
 // Adds to a batch for the file of that text what one player is known by; an empty part clears. What else his
 // line says stays. False, and nothing added, for a part with a comma, or a line that no value holds.
-[[nodiscard]] bool planPlayerId(const ProfileText& text, int team, std::string_view jersey,
+[[nodiscard]] bool planPlayerId(const ProfileText& text, Side team, std::string_view jersey,
                                 const PlayerId& id, ProfileBatch& batch);
 
 } // namespace hooptab

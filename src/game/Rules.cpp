@@ -9,8 +9,8 @@ int firstPeriodOfFouls(const GameDetails& details, int period) {
   return details.keepsBonus && details.periods > 0 && period > details.periods ? details.periods : period;
 }
 
-int teamFouls(const GameDetails& details, const GameState& state, int team, int period) {
-  const auto& periods = state.periods[static_cast<std::size_t>(team)];
+int teamFouls(const GameDetails& details, const GameState& state, Side team, int period) {
+  const auto& periods = state.periods[team];
   const RuleSet* const set = ruleSetOf(details.ruleSet);
   const bool countsBench = set != nullptr && set->countsBench;
   int fouls = 0;
@@ -35,7 +35,7 @@ void BenchTechnicals::take(const GameEvent& event) {
   ofCoach += event.detail(detail_key::kKind) == "C" ? 1 : 0;
 }
 
-BenchTechnicals benchTechnicalsOf(const EventList& events, int team) {
+BenchTechnicals benchTechnicalsOf(const EventList& events, Side team) {
   BenchTechnicals technicals;
   for (const GameEvent& event : events) {
     if (event.code == EventCode::XCF && !event.isDeleted && event.player.team == team)

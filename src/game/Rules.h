@@ -6,6 +6,7 @@
 #include "game/GameDetails.h"
 #include "game/GameState.h"
 #include "game/Roster.h"
+#include "game/Side.h"
 
 namespace hooptab {
 
@@ -16,7 +17,7 @@ inline constexpr int kMostPlayers = Roster::kLargestEntry; // of a team in a gam
 // that keeps them, the last regular one.
 [[nodiscard]] int firstPeriodOfFouls(const GameDetails& details, int period);
 // Those of players, and of coach and bench where the rules of the game count them.
-[[nodiscard]] int teamFouls(const GameDetails& details, const GameState& state, int team, int period);
+[[nodiscard]] int teamFouls(const GameDetails& details, const GameState& state, Side team, int period);
 // Whether so many have reached the limit, so that the other team shoots bonus free throws.
 [[nodiscard]] bool isInBonus(const GameDetails& details, int fouls);
 
@@ -38,7 +39,7 @@ struct BenchTechnicals {
 
   void take(const GameEvent& event); // an XCF
 };
-[[nodiscard]] BenchTechnicals benchTechnicalsOf(const EventList& events, int team);
+[[nodiscard]] BenchTechnicals benchTechnicalsOf(const EventList& events, Side team);
 // With two of his own, or three of all, as the rules may have it; never in a game that names none.
 [[nodiscard]] bool isCoachOut(const GameDetails& details, const BenchTechnicals& technicals);
 

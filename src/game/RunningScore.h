@@ -2,14 +2,14 @@
 #pragma once
 
 #include "game/EventList.h"
+#include "game/Side.h"
 
-#include <array>
 #include <vector>
 
 namespace hooptab {
 
 // Both teams' points after each event of the list; those after its first events may be known.
-using Scores = std::vector<std::array<int, 2>>;
+using Scores = std::vector<PerSide<int>>;
 [[nodiscard]] Scores runningScore(const EventList& events, Scores known = {});
 
 } // namespace hooptab

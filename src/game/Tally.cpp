@@ -33,7 +33,7 @@ Tally::Tally(GameState& state, const Roster& visitors, const Roster& home)
 
 void Tally::clear() {
   m_state.players = {};
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     // Entry 0 counts too; those past the used ones were never touched.
     const auto used = static_cast<std::size_t>(m_state.usedLines[team]);
     std::fill_n(m_state.lines[team].begin(), used + 1, LineEntry());
@@ -74,7 +74,7 @@ void Tally::trackClock(const GameEvent& event) {
   LeadTracker& lead = m_state.lead;
   if (event.period != m_state.period) {
     m_state.period = event.period;
-    m_state.lineStartClock.fill(event.clockSeconds);
+    m_state.lineStartClock = {event.clockSeconds, event.clockSeconds};
     lead.previousClock = event.clockSeconds;
   }
   if (lead.isStarted)
@@ -85,14 +85,14 @@ void Tally::trackClock(const GameEvent& event) {
 }
 
 void Tally::changeLines(const GameEvent& event) {
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     creditTime(team, event.clockSeconds);
     setLine(team, event.onCourt(team));
   }
 }
 
 // The time since the line came on court goes to it and to its players; entry 0, of either, gets none.
-void Tally::creditTime(std::size_t team, int clockSeconds) {
+void Tally::creditTime(Side team, int clockSeconds) {
   const int played = m_state.lineStartClock[team] - clockSeconds;
   m_state.lineStartClock[team] = clockSeconds;
   if (const std::size_t line = m_state.currentLine[team]; line > 0)
@@ -103,7 +103,7 @@ void Tally::creditTime(std::size_t team, int clockSeconds) {
   }
 }
 
-void Tally::setLine(std::size_t team, std::string_view list) {
+void Tally::setLine(Side team, std::string_view list) {
   if (m_lastList[team] == list)
     return;
   m_lastList[team] = list;
@@ -135,7 +135,7 @@ void Tally::setLine(std::size_t team, std::string_view list) {
 
 // The entry of this set of players: the one it had before, else the next free one, else entry 0 ("other
 // lines").
-std::size_t Tally::lineEntry(std::size_t team, unsigned members, const std::vector<std::string>& strangers) {
+std::size_t Tally::lineEntry(Side team, unsigned members, const std::vector<std::string>& strangers) {
   auto& lines = m_state.lines[team];
   auto& known = m_state.lineMembers[team];
   const auto used = static_cast<std::size_t>(m_state.usedLines[team]);
@@ -168,7 +168,7 @@ std::size_t Tally::lineEntry(std::size_t team, unsigned members, const std::vect
 // players, lines and periods always have equal sums.
 void Tally::count(const GameEvent& event, std::size_t eventIndex) {
   const EventKind& kind = *event.kind();
-  const auto team = static_cast<std::size_t>(event.player.team);
+  const Side team = *event.player.team;
   const auto player = static_cast<std::size_t>(m_rosters[team]->entryOf(event.player.jersey));
   const std::size_t line = m_state.currentLine[team];
   const std::size_t row = GameState::periodRow(event.period);
@@ -201,9 +201,9 @@ void Tally::count(const GameEvent& event, std::size_t eventIndex) {
   if (event.detailsAt > 0)
     countExtras(event);
   if (kind.hasPlace || event.hasPlace)
-    m_state.shots.push_back({static_cast<std::uint8_t>(team), static_cast<std::uint8_t>(player),
-                             static_cast<std::uint8_t>(line), kind.points == 3, event.isMade, event.hasPlace,
-                             event.x, event.y, static_cast<std::uint32_t>(eventIndex)});
+    m_state.shots.push_back({team, static_cast<std::uint8_t>(player), static_cast<std::uint8_t>(line),
+                             kind.points == 3, event.isMade, event.hasPlace, event.x, event.y,
+                             static_cast<std::uint32_t>(eventIndex)});
 }
 
 // Of whoever is named beside the player; a count that is full stays.
@@ -215,7 +215,7 @@ void Tally::countExtras(const GameEvent& event) {
   const auto other = PlayerReference::read(named.value_or(""));
   if (!other || other->team == event.player.team)
     return;
-  const auto team = static_cast<std::size_t>(other->team);
+  const Side team = *other->team;
   PlayerExtras& extras =
       m_state.extras[team][static_cast<std::size_t>(m_rosters[team]->entryOf(other->jersey))];
   if (std::int16_t& count = isFoul ? extras.foulsDrawn : extras.blocksAgainst; !isFull(count, 1))
@@ -223,9 +223,9 @@ void Tally::countExtras(const GameEvent& event) {
 }
 
 void Tally::countOfTeam(const GameEvent& event) {
-  if (event.player.team < 0)
+  if (!event.player.team)
     return;
-  TeamRow& row = m_state.teamRows[static_cast<std::size_t>(event.player.team)];
+  TeamRow& row = m_state.teamRows[*event.player.team];
   std::int16_t* count = nullptr;
   std::int16_t* inPeriod = nullptr;
   switch (event.code) {
@@ -235,9 +235,7 @@ void Tally::countOfTeam(const GameEvent& event) {
   case EventCode::XTV: count = &row.turnovers; break;
   case EventCode::XCF:
     count = &row.benchTechnicals;
-    inPeriod =
-        &m_state.periods[static_cast<std::size_t>(event.player.team)][GameState::periodRow(event.period)]
-             .benchTechnicals;
+    inPeriod = &m_state.periods[*event.player.team][GameState::periodRow(event.period)].benchTechnicals;
     break;
   default: return;
   }
@@ -248,18 +246,17 @@ void Tally::countOfTeam(const GameEvent& event) {
     add(*inPeriod, 1);
 }
 
-void Tally::leaveOut(std::size_t team, std::string_view row, std::string_view count) {
+void Tally::leaveOut(Side team, std::string_view row, std::string_view count) {
   if (!m_outOfRange)
-    m_outOfRange = {static_cast<int>(team), std::string(row) + ' ' + std::string(count)};
+    m_outOfRange = {team, std::string(row) + ' ' + std::string(count)};
 }
 
-void Tally::addPoints(std::size_t team, int points) {
+void Tally::addPoints(Side team, int points) {
   m_points[team] += points;
 
   LeadTracker& lead = m_state.lead;
-  const LeadState state = m_points[0] == m_points[1]  ? LeadState::Tied
-                          : m_points[0] > m_points[1] ? LeadState::Team0
-                                                      : LeadState::Team1;
+  const int margin = m_points[Side::Visitor] - m_points[Side::Home];
+  const LeadState state = margin == 0 ? LeadState::Tied : margin > 0 ? LeadState::Team0 : LeadState::Team1;
   if (state != lead.state) {
     lead.state = state;
     ++lead.times[static_cast<std::size_t>(state)];

@@ -5,6 +5,7 @@
 #include "game/EventList.h"
 #include "game/GameState.h"
 #include "game/Roster.h"
+#include "game/Side.h"
 
 #include <optional>
 #include <span>
@@ -16,7 +17,7 @@ namespace hooptab {
 // A count that would have left the 16-bit range. The tally goes on without the events that do not fit; the
 // caller tells the user.
 struct CountOutOfRange {
-  int team = 0;
+  Side team = Side::Visitor;
   // Whose count and which: "12 PF" of a player, "IN-04-05 PF" of a line ("IN-": of all without one),
   // "PERIODE1 PTS" of the team in a period.
   std::string what;
@@ -40,20 +41,19 @@ class Tally {
  private:
   void trackClock(const GameEvent& event);
   void changeLines(const GameEvent& event);
-  void setLine(std::size_t team, std::string_view list);
-  [[nodiscard]] std::size_t lineEntry(std::size_t team, unsigned members,
-                                      const std::vector<std::string>& strangers);
-  void creditTime(std::size_t team, int clockSeconds);
+  void setLine(Side team, std::string_view list);
+  [[nodiscard]] std::size_t lineEntry(Side team, unsigned members, const std::vector<std::string>& strangers);
+  void creditTime(Side team, int clockSeconds);
   void count(const GameEvent& event, std::size_t eventIndex);
   void countExtras(const GameEvent& event);
   void countOfTeam(const GameEvent& event);
-  void leaveOut(std::size_t team, std::string_view row, std::string_view count);
-  void addPoints(std::size_t team, int points);
+  void leaveOut(Side team, std::string_view row, std::string_view count);
+  void addPoints(Side team, int points);
 
   GameState& m_state;
-  const Roster* m_rosters[2];
-  std::string m_lastList[2]; // as written: an equal list is the same line
-  int m_points[2] = {};
+  PerSide<const Roster*> m_rosters;
+  PerSide<std::string> m_lastList; // as written: an equal list is the same line
+  PerSide<int> m_points = {};
   std::optional<CountOutOfRange> m_outOfRange;
 };
 

@@ -31,20 +31,20 @@ TimeOutCount::TimeOutCount(const GameDetails& details)
       m_hasTime(details.minutesPerPeriod > 0) {}
 
 void TimeOutCount::take(const GameEvent& event) {
-  if (m_set == nullptr || event.code != EventCode::XTO || event.isDeleted || event.player.team < 0)
+  if (m_set == nullptr || event.code != EventCode::XTO || event.isDeleted || !event.player.team)
     return;
-  OfTeam& team = m_taken[static_cast<std::size_t>(event.player.team)];
+  OfTeam& team = m_taken[*event.player.team];
   ++(event.period <= m_periods ? team.inHalf[halfOf(event.period)] : team.inOvertimes);
   OfPeriod& period = team.inPeriod[event.period];
   ++period.all;
   period.inLastSeconds += event.clockSeconds <= m_set->timeOuts.lastSeconds ? 1 : 0;
 }
 
-std::optional<TimeOuts> TimeOutCount::of(int team, int period, int clockSeconds) const {
+std::optional<TimeOuts> TimeOutCount::of(Side team, int period, int clockSeconds) const {
   if (m_set == nullptr)
     return std::nullopt;
   const TimeOutRules& rules = m_set->timeOuts;
-  const OfTeam& taken = m_taken[static_cast<std::size_t>(team)];
+  const OfTeam& taken = m_taken[team];
   const auto found = taken.inPeriod.find(period);
   const OfPeriod inPeriod = found == taken.inPeriod.end() ? OfPeriod() : found->second;
   const int inGame = taken.inHalf[0] + taken.inHalf[1];
@@ -69,7 +69,7 @@ std::optional<TimeOuts> TimeOutCount::of(int team, int period, int clockSeconds)
   return least.result();
 }
 
-std::optional<TimeOuts> timeOutsOf(const GameDetails& details, const EventList& events, int team, int period,
+std::optional<TimeOuts> timeOutsOf(const GameDetails& details, const EventList& events, Side team, int period,
                                    int clockSeconds, std::optional<std::size_t> before) {
   TimeOutCount count(details);
   const std::size_t end = std::min(before.value_or(events.size()), events.size());

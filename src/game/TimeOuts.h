@@ -3,6 +3,7 @@
 
 #include "game/EventList.h"
 #include "game/GameDetails.h"
+#include "game/Side.h"
 
 #include <array>
 #include <map>
@@ -24,7 +25,7 @@ class TimeOutCount {
   explicit TimeOutCount(const GameDetails& details);
   void take(const GameEvent& event);
   // In `period` with so much of it left. Nothing in a game that names no rules.
-  [[nodiscard]] std::optional<TimeOuts> of(int team, int period, int clockSeconds) const;
+  [[nodiscard]] std::optional<TimeOuts> of(Side team, int period, int clockSeconds) const;
 
  private:
   struct OfPeriod {
@@ -41,13 +42,13 @@ class TimeOutCount {
   const RuleSet* m_set;
   int m_periods; // regular ones
   bool m_hasTime;
-  std::array<OfTeam, 2> m_taken = {};
+  PerSide<OfTeam> m_taken = {};
 };
 
 // In `period` with so much of it left, before the event at `before` (all events where none is given). Nothing
 // in a game that names no rules.
 [[nodiscard]] std::optional<TimeOuts> timeOutsOf(const GameDetails& details, const EventList& events,
-                                                 int team, int period, int clockSeconds,
+                                                 Side team, int period, int clockSeconds,
                                                  std::optional<std::size_t> before = std::nullopt);
 
 } // namespace hooptab

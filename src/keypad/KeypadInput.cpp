@@ -54,12 +54,12 @@ KeypadOrder::Kind kindOfOrder(KeypadAction action) {
 }
 
 // "12 Dana Dunn"
-std::string numberAndName(const Game& game, int team, int player) {
+std::string numberAndName(const Game& game, Side team, int player) {
   const RosterPlayer* who = game.roster[team].player(player);
   return who == nullptr ? std::string() : who->jersey + ' ' + who->name;
 }
 
-std::string playerWords(const Game& game, int team, int player) {
+std::string playerWords(const Game& game, Side team, int player) {
   const std::string who = numberAndName(game, team, player);
   return game.details.abbreviation[team] + (who.empty() ? "" : " ") + who;
 }
@@ -98,7 +98,7 @@ Text textOf(KeypadReason::Problem problem) {
 
 // What stands against an order that makes sense in itself.
 std::optional<KeypadReason> objection(const KeypadOrder& order, const LiveGame& game) {
-  const auto team = static_cast<std::size_t>(order.team);
+  const Side team = order.team;
   const std::string& name = game.game().details.abbreviation[team];
   const bool isOnCourt = game.slotOf(order.team, order.player).has_value();
   const auto jerseyOf = [&](int player) {
@@ -144,7 +144,7 @@ bool carryOut(LiveGame& game, const KeypadOrder& order) {
   case KeypadOrder::Kind::AllOut: return game.takeAllOut(order.team);
   case KeypadOrder::Kind::Exchange: {
     OnCourt wanted = game.onCourt();
-    unsigned& five = wanted[static_cast<std::size_t>(order.team)];
+    unsigned& five = wanted[order.team];
     five = (five & ~(1U << static_cast<unsigned>(order.leaving))) | 1U << static_cast<unsigned>(order.player);
     return game.setOnCourt(wanted);
   }
@@ -213,11 +213,11 @@ EventCode KeypadInput::recordedBy(const KeyPress& press) const {
   return key.action && !key.digit ? codeOf(*key.action) : EventCode::Unknown;
 }
 
-std::optional<int> KeypadInput::teamOf(const KeyPress& press, const Game& game) const {
+std::optional<Side> KeypadInput::teamOf(const KeyPress& press, const Game& game) const {
   const auto action = keyOf(press).action;
   if (action == KeypadAction::OK0)
     return game.details.mainTeam;
-  return action == KeypadAction::OK1 ? std::optional(1 - game.details.mainTeam) : std::nullopt;
+  return action == KeypadAction::OK1 ? std::optional(otherSide(game.details.mainTeam)) : std::nullopt;
 }
 
 KeypadInput::Outcome KeypadInput::refuse(KeypadReason reason) {
@@ -241,9 +241,9 @@ KeypadInput::Outcome KeypadInput::press(const KeyPress& press, const LiveGame& g
   if (!owns(press))
     return Outcome::NotMine;
   if (isLine() && !press.isKeypad) {
-    const int mainTeam = game.game().details.mainTeam;
+    const Side mainTeam = game.game().details.mainTeam;
     if (press.code == keys::kEnter)
-      return confirm(press.hasShift ? 1 - mainTeam : mainTeam, true, game);
+      return confirm(press.hasShift ? otherSide(mainTeam) : mainTeam, true, game);
     if (press.code == keys::kBackspace) {
       m_typed.pop_back();
       m_reason.reset();
@@ -288,7 +288,8 @@ KeypadInput::Reading KeypadInput::readShot(std::size_t begin, std::size_t end, b
   number->pop_back();
   if (kind < 1 || kind > static_cast<int>(std::size(kShots)))
     return {Problem::NoShotKind};
-  return {std::nullopt, {KeypadOrder::Kind::Shot, 0, 0, kShots[kind - 1], isMade}, *number};
+  return {
+      std::nullopt, {.kind = KeypadOrder::Kind::Shot, .code = kShots[kind - 1], .isMade = isMade}, *number};
 }
 
 // "12 OUT 8", with or without IN behind it, and "8 IN 12" the other way round. A digit is never the key in
@@ -330,7 +331,7 @@ KeypadInput::Reading KeypadInput::read(bool isLine, const Game& game) const {
   const std::optional<std::string> number = digits(0, last);
   if (!number)
     return {Problem::NotUnderstood};
-  const KeypadOrder order = {kindOfOrder(*action), 0, 0, codeOf(*action), false};
+  const KeypadOrder order = {kindOfOrder(*action), Side::Visitor, 0, codeOf(*action), false};
   if (order.kind == KeypadOrder::Kind::AllOut)
     return number->empty() ? Reading{std::nullopt, order} : Reading{Problem::AllAlone};
   if (!number->empty())
@@ -348,7 +349,7 @@ std::optional<KeypadReason> KeypadInput::nameIn(KeypadOrder& order, const Readin
     return std::nullopt;
   const bool isExchange = order.kind == KeypadOrder::Kind::Exchange;
   const Roster& roster = game.roster[order.team];
-  const Roster& others = game.roster[1 - order.team];
+  const Roster& others = game.roster[otherSide(order.team)];
   order.player = roster.entryOf(reading.jersey);
   order.leaving = isExchange ? roster.entryOf(reading.leaving) : 0;
   const bool isLeavingMissing = isExchange && order.leaving == 0;
@@ -359,10 +360,10 @@ std::optional<KeypadReason> KeypadInput::nameIn(KeypadOrder& order, const Readin
   const auto& names = game.details.abbreviation;
   return KeypadReason{areOthers ? Problem::OnlyInOtherTeam : Problem::NoSuchPlayer,
                       isLeavingMissing ? reading.leaving : reading.jersey, names[order.team],
-                      names[1 - order.team]};
+                      names[otherSide(order.team)]};
 }
 
-KeypadInput::Outcome KeypadInput::confirm(int team, bool isLine, const LiveGame& game) {
+KeypadInput::Outcome KeypadInput::confirm(Side team, bool isLine, const LiveGame& game) {
   m_reason.reset();
   const Reading reading = read(isLine, game.game());
   if (reading.problem)
@@ -402,7 +403,7 @@ std::string KeypadInput::preview(const Game& game, const Texts& texts) const {
   std::string missing;
   const auto add = [](std::string& to, const std::string& line) { to += (to.empty() ? "" : "\n") + line; };
   bool isAnybody = false;
-  for (const int team : {game.details.mainTeam, 1 - game.details.mainTeam}) {
+  for (const Side team : {game.details.mainTeam, otherSide(game.details.mainTeam)}) {
     KeypadOrder order = reading.order;
     order.team = team;
     if (const auto reason = nameIn(order, reading, game)) {
@@ -416,8 +417,10 @@ std::string KeypadInput::preview(const Game& game, const Texts& texts) const {
     return lines;
   for (const std::string& jersey : {reading.leaving, reading.jersey}) {
     const auto& names = game.details.abbreviation;
-    if (!jersey.empty() && game.roster[0].entryOf(jersey) == 0 && game.roster[1].entryOf(jersey) == 0)
-      return KeypadReason{Problem::NoSuchPlayer, jersey, names[0] + ", " + names[1]}.words(texts);
+    if (!jersey.empty() && game.roster[Side::Visitor].entryOf(jersey) == 0 &&
+        game.roster[Side::Home].entryOf(jersey) == 0)
+      return KeypadReason{Problem::NoSuchPlayer, jersey, names[Side::Visitor] + ", " + names[Side::Home]}
+          .words(texts);
   }
   return missing;
 }

@@ -4,6 +4,7 @@
 // orders is carried out by whoever feeds it with keys.
 #pragma once
 
+#include "game/Side.h"
 #include "keypad/KeypadAssignment.h"
 #include "recording/LiveGame.h"
 
@@ -23,7 +24,7 @@ struct KeyPress {
 struct KeypadOrder {
   enum class Kind { Shot, Action, OfTeam, In, Out, Exchange, AllOut };
   Kind kind = Kind::Action;
-  int team = 0;
+  Side team = Side::Visitor;
   int player = 0; // entry; 0 for OfTeam and AllOut
   EventCode code = EventCode::Unknown;
   bool isMade = false; // shots
@@ -81,7 +82,7 @@ class KeypadInput {
   // What the key of an action records; Unknown for any other.
   [[nodiscard]] EventCode recordedBy(const KeyPress& key) const;
   // The team of a confirm key.
-  [[nodiscard]] std::optional<int> teamOf(const KeyPress& key, const Game& game) const;
+  [[nodiscard]] std::optional<Side> teamOf(const KeyPress& key, const Game& game) const;
 
   enum class Outcome {
     NotMine, // no key of ours: whoever else may have it
@@ -125,7 +126,7 @@ class KeypadInput {
   [[nodiscard]] Reading readShot(std::size_t begin, std::size_t end, bool isMade) const;
   [[nodiscard]] std::optional<Reading> readExchange() const;
   [[nodiscard]] std::optional<std::string> digits(std::size_t begin, std::size_t end) const;
-  Outcome confirm(int team, bool isLine, const LiveGame& game);
+  Outcome confirm(Side team, bool isLine, const LiveGame& game);
   Outcome refuse(KeypadReason reason);
 
   [[nodiscard]] static std::optional<KeypadReason> nameIn(KeypadOrder& order, const Reading& reading,

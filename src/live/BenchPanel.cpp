@@ -32,12 +32,12 @@ QToolButton* buttonFor(QAction& action, const char* name, QWidget* parent) {
 BenchPanel::BenchPanel(const Texts& texts, QWidget* stripParent, QWidget* sides, QWidget* parent)
     : QWidget(parent), m_texts(texts) {
   setObjectName(QStringLiteral("picBENCH"));
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     auto* strip = new RosterStrip(team, texts, stripParent);
     connect(strip, &RosterStrip::pressed, this, &BenchPanel::press);
     connect(strip, &RosterStrip::allOutAsked, this, &BenchPanel::allOutAsked);
     connect(strip, &RosterStrip::playerAsked, this, &BenchPanel::playerAsked);
-    m_strips[static_cast<std::size_t>(team)] = strip;
+    m_strips[team] = strip;
   }
   m_pages = new QStackedLayout(this);
   m_pages->addWidget(makeCommands(sides));
@@ -101,7 +101,7 @@ void BenchPanel::setPlacesStay(bool stay) {
   m_placesStay->setChecked(stay);
 }
 
-void BenchPanel::press(int team, int player) {
+void BenchPanel::press(Side team, int player) {
   if (m_taker && m_taker(team, player))
     return;
   if (isSubstituting())
@@ -123,7 +123,7 @@ void BenchPanel::askSeveral() {
   several->openBeside(*this);
 }
 
-void BenchPanel::select(int team, int player) {
+void BenchPanel::select(Side team, int player) {
   m_selectedTeam = team;
   m_selectedPlayer = player;
   showStrips();
@@ -134,7 +134,7 @@ void BenchPanel::select(int team, int player) {
 void BenchPanel::showStrips() {
   if (m_game == nullptr)
     return;
-  for (int team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     strip(team).showGame(*m_game, {team == m_selectedTeam ? m_selectedPlayer : 0, isSubstituting()});
 }
 
@@ -147,7 +147,7 @@ void BenchPanel::showGame(const LiveGame& game) {
 }
 
 void BenchPanel::showTime(const LiveGame& game) {
-  for (int team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     strip(team).showTime(game);
 }
 

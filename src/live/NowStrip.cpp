@@ -65,8 +65,8 @@ void NowStrip::showGame(const LiveGame& game) {
 }
 
 void NowStrip::showTime(const LiveGame& game) {
-  for (int team = 0; team < 2; ++team)
-    m_fives.current[static_cast<std::size_t>(team)].seconds = LiveFigures(game).secondsOfLine(team);
+  for (const Side team : kSides)
+    m_fives.current[team].seconds = LiveFigures(game).secondsOfLine(team);
   gather();
 }
 
@@ -75,7 +75,7 @@ void NowStrip::addWords(const QString& words, const QColor& colour, bool isBold)
 }
 
 // "■ 4 5 7 12 14 together 00:25 +0 (0–0)"
-void NowStrip::addFive(std::size_t team) {
+void NowStrip::addFive(Side team) {
   const Look& look = Theme::look();
   const FivePlay& five = m_fives.current[team];
   if (five.players == 0)
@@ -97,15 +97,15 @@ void NowStrip::addFive(std::size_t team) {
 void NowStrip::gather() {
   const Look& look = Theme::look();
   const std::vector<Run> before = std::exchange(m_runs, {});
-  for (const std::size_t team : {0U, 1U})
+  for (const Side team : kSides)
     addFive(team);
   if (m_run) {
     m_runs.push_back(
         {.text = caption(m_texts, Text::RunOfPoints), .colour = look.muted, .beginsGroup = true});
-    m_runs.push_back({.colour = teamColour(static_cast<std::size_t>(m_run->team)), .isChip = true});
+    m_runs.push_back({.colour = teamColour(m_run->team), .isChip = true});
     addWords(toQt(runText(*m_run)), look.ink, true);
   }
-  for (const std::size_t team : {0U, 1U}) {
+  for (const Side team : kSides) {
     const std::optional<FivePlay>& best = m_fives.best[team];
     if (!best || best->plusMinus() <= 0)
       continue;
@@ -118,7 +118,7 @@ void NowStrip::gather() {
     update();
 }
 
-QColor NowStrip::teamColour(std::size_t team) const {
+QColor NowStrip::teamColour(Side team) const {
   return colourOf(m_game->game().details.teamColour[team]);
 }
 

@@ -2,6 +2,7 @@
 // five, and whether all is on disk. A message lies over its middle for a while.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/Fives.h"
 #include "recording/LiveWords.h"
 #include "storage/PendingWrites.h"
@@ -52,9 +53,9 @@ class NowStrip : public QWidget {
     friend bool operator==(const Run&, const Run&) = default;
   };
   void gather();
-  void addFive(std::size_t team);
+  void addFive(Side team);
   void sayDisk();
-  [[nodiscard]] QColor teamColour(std::size_t team) const;
+  [[nodiscard]] QColor teamColour(Side team) const;
   void addWords(const QString& words, const QColor& colour, bool isBold = false);
 
   const Texts& m_texts;

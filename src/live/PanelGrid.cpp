@@ -17,7 +17,7 @@ PanelGrid::PanelGrid(QWidget* parent) : QWidget(parent), m_grid(new QGridLayout(
   m_grid->setContentsMargins(0, 0, 0, 0);
 }
 
-void PanelGrid::fill(const std::array<QWidget*, 2>& rosters, const Settings& settings, const Texts& texts) {
+void PanelGrid::fill(const PerSide<QWidget*>& rosters, const Settings& settings, const Texts& texts) {
   m_rosters = rosters;
   for (int slot = 0; slot < LiveGame::kSlots; ++slot)
     m_panels[static_cast<std::size_t>(slot)] = new PlayerPanel(slot, settings, texts, this);
@@ -26,7 +26,7 @@ void PanelGrid::fill(const std::array<QWidget*, 2>& rosters, const Settings& set
   setTurned(false);
 }
 
-std::optional<int> PanelGrid::slotAt(int team, const QPoint& place) const {
+std::optional<int> PanelGrid::slotAt(Side team, const QPoint& place) const {
   for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
     if (LiveGame::teamOf(slot) == team && panel(slot).geometry().contains(place))
       return slot;
@@ -35,11 +35,11 @@ std::optional<int> PanelGrid::slotAt(int team, const QPoint& place) const {
 }
 
 void PanelGrid::setTurned(bool isTurned) {
-  for (int team = 0; team < 2; ++team) {
-    const int row = (isTurned ? 1 - team : team) * kTeamRows;
-    m_grid->addWidget(m_rosters[static_cast<std::size_t>(team)], row, 0, 1, LiveGame::kSlotsOfTeam);
+  for (const Side team : kSides) {
+    const int row = numberOf(isTurned ? otherSide(team) : team) * kTeamRows;
+    m_grid->addWidget(m_rosters[team], row, 0, 1, LiveGame::kSlotsOfTeam);
     for (int place = 0; place < LiveGame::kSlotsOfTeam; ++place)
-      m_grid->addWidget(&panel(team * LiveGame::kSlotsOfTeam + place), row + 1, place);
+      m_grid->addWidget(&panel(numberOf(team) * LiveGame::kSlotsOfTeam + place), row + 1, place);
     m_grid->setRowStretch(row + 1, 1);
   }
 }

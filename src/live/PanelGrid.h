@@ -1,6 +1,7 @@
 // The ten players on court: for each team a row of five panels below its roster.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/LiveGame.h"
 
 #include <QWidget>
@@ -24,12 +25,12 @@ class PanelGrid : public QWidget {
 
   explicit PanelGrid(QWidget* parent);
   // Once, before anything else: the rosters are children of the grid that others make.
-  void fill(const std::array<QWidget*, 2>& rosters, const Settings& settings, const Texts& texts);
+  void fill(const PerSide<QWidget*>& rosters, const Settings& settings, const Texts& texts);
 
   [[nodiscard]] const Panels& panels() const { return m_panels; } // by slot
   [[nodiscard]] PlayerPanel& panel(int slot) const { return *m_panels[static_cast<std::size_t>(slot)]; }
   // The panel of that team at that place of the grid.
-  [[nodiscard]] std::optional<int> slotAt(int team, const QPoint& place) const;
+  [[nodiscard]] std::optional<int> slotAt(Side team, const QPoint& place) const;
 
   // The home team stands above the visitors.
   void setTurned(bool isTurned);
@@ -42,7 +43,7 @@ class PanelGrid : public QWidget {
 
  private:
   QGridLayout* m_grid;
-  std::array<QWidget*, 2> m_rosters = {};
+  PerSide<QWidget*> m_rosters = {};
   Panels m_panels = {};
 };
 

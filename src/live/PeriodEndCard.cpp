@@ -65,7 +65,10 @@ PeriodEndCard::PeriodEndCard(const Texts& texts, QWidget* parent)
   setToolTipNumber(*m_substitute, Text::SubstitutionsTip);
   m_next = makeButton("cmdNEXT", Text::None);
   Theme::setType(*m_next, Type::Body, QFont::Bold);
-  connect(m_events, &QPushButton::clicked, this, [this] { emit eventsAsked(m_differs); });
+  connect(m_events, &QPushButton::clicked, this, [this] {
+    if (m_differs)
+      emit eventsAsked(*m_differs);
+  });
   connect(m_check, &QPushButton::clicked, this, &PeriodEndCard::checkAsked);
   connect(m_switch, &QPushButton::clicked, this, &PeriodEndCard::switchAsked);
   connect(m_substitute, &QPushButton::clicked, this, &PeriodEndCard::substitutionAsked);
@@ -121,10 +124,10 @@ QWidget* PeriodEndCard::makeScore() {
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     m_names[team] = new PlainLabel(row);
     m_scores[team] = new QLineEdit(row);
-    m_scores[team]->setObjectName(QStringLiteral("txtSCORE(%1)").arg(team));
+    m_scores[team]->setObjectName(QStringLiteral("txtSCORE(%1)").arg(numberOf(team)));
     m_scores[team]->setValidator(new QIntValidator(0, kHighestScore, m_scores[team]));
     m_scores[team]->setAlignment(Qt::AlignCenter);
     Theme::setType(*m_scores[team], Type::Count, QFont::Bold);
@@ -151,7 +154,7 @@ QLayout* PeriodEndCard::makeAnswers() {
   connect(m_another, &QPushButton::clicked, this, [this] {
     for (QLineEdit* score : m_scores)
       score->clear();
-    m_scores[0]->setFocus();
+    m_scores[Side::Visitor]->setFocus();
   });
   row->addWidget(same, 1);
   row->addWidget(m_another, 1);
@@ -192,9 +195,9 @@ void PeriodEndCard::relabelCard() {
     return;
   const EventWords words(m_game->game(), m_texts);
   m_title->setText(toQt(m_texts.withPlaceholder(Text::PeriodEndTitle, words.periodText(m_period))));
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     m_names[team]->setText(toQt(m_game->game().details.abbreviation[team]));
-    m_scores[team]->setPlaceholderText(QString::number(m_game->state().points(static_cast<int>(team))));
+    m_scores[team]->setPlaceholderText(QString::number(m_game->state().points(team)));
   }
   compare();
   const bool isAny = m_findings + m_doubtful > 0;
@@ -229,11 +232,13 @@ void PeriodEndCard::relabelCard() {
 
 // A score that nobody has typed is not looked at.
 void PeriodEndCard::compare() {
-  m_differs = -1;
+  m_differs.reset();
   bool isSame = true;
   QString words;
-  for (int team = 0; team < 2 && m_game != nullptr; ++team) {
-    const QString typed = m_scores[static_cast<std::size_t>(team)]->text();
+  for (const Side team : kSides) {
+    if (m_game == nullptr)
+      break;
+    const QString typed = m_scores[team]->text();
     isSame = isSame && !typed.isEmpty();
     const int more = typed.isEmpty() ? 0 : typed.toInt() - m_game->state().points(team);
     if (more == 0)
@@ -243,15 +248,15 @@ void PeriodEndCard::compare() {
     words = toQt(withPlaceholders(m_texts.text(more > 0 ? Text::MoreOnBoard : Text::FewerOnBoard),
                                   m_game->game().details.abbreviation[team], std::to_string(std::abs(more))));
   }
-  if (m_differs < 0)
+  if (!m_differs)
     words = caption(m_texts, isSame ? Text::SameScore : Text::ScoreToCompare);
   m_compared->setText(words);
   QPalette colours = palette();
-  if (isSame || m_differs >= 0)
+  if (isSame || m_differs)
     colours.setColor(QPalette::WindowText, isSame ? Theme::made() : Theme::missed());
   m_compared->setPalette(colours);
-  m_events->setVisible(m_differs >= 0);
-  m_another->setVisible(m_differs < 0);
+  m_events->setVisible(m_differs.has_value());
+  m_another->setVisible(!m_differs);
 }
 
 void PeriodEndCard::applyColours() {
@@ -296,8 +301,8 @@ bool PeriodEndCard::eventFilter(QObject* watched, QEvent* event) {
   event->accept();
   if (event->type() == QEvent::ShortcutOverride)
     return true;
-  if (isEnd && watched == m_scores[0])
-    m_scores[1]->setFocus();
+  if (isEnd && watched == m_scores[Side::Visitor])
+    m_scores[Side::Home]->setFocus();
   else
     parentWidget()->setFocus();
   if (!isEnd)

@@ -3,6 +3,7 @@
 // it has to be filled in. Shows, and says what was asked for.
 #pragma once
 
+#include "game/Side.h"
 #include "settings/Texts.h"
 
 #include <QWidget>
@@ -32,8 +33,8 @@ class PeriodEndCard : public QWidget {
   void applyColours();
 
  signals:
-  void nextAsked();           // the start of the next period, the overtime, or the end of the game
-  void eventsAsked(int team); // the score on the board is another
+  void nextAsked();                     // the start of the next period, the overtime, or the end of the game
+  void eventsAsked(hooptab::Side team); // the score on the board is another
   void checkAsked();
   void switchAsked();
   void substitutionAsked();
@@ -59,8 +60,8 @@ class PeriodEndCard : public QWidget {
   std::size_t m_doubtful = 0;
   QWidget* m_head = nullptr;
   QLabel* m_title = nullptr;
-  std::array<QLabel*, 2> m_names = {};
-  std::array<QLineEdit*, 2> m_scores = {};
+  PerSide<QLabel*> m_names = {};
+  PerSide<QLineEdit*> m_scores = {};
   QLabel* m_compared = nullptr;
   QPushButton* m_another = nullptr;
   QPushButton* m_events = nullptr;
@@ -70,7 +71,7 @@ class PeriodEndCard : public QWidget {
   QPushButton* m_substitute = nullptr;
   QBoxLayout* m_both = nullptr; // what can be done before the next period
   QPushButton* m_next = nullptr;
-  int m_differs = -1; // team whose score is another on the board
+  std::optional<Side> m_differs; // team whose score is another on the board
 };
 
 } // namespace hooptab

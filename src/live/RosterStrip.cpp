@@ -23,10 +23,10 @@ constexpr int kNameWidth = 78;
 constexpr int kMargin = 4;
 constexpr double kRadius = 7;
 
-JerseyButton::Move pendingMove(const LiveGame& game, int team, int player) {
+JerseyButton::Move pendingMove(const LiveGame& game, Side team, int player) {
   if (!game.pending())
     return JerseyButton::Move::None;
-  const bool wasOn = (game.pending()->before[static_cast<std::size_t>(team)] >> player & 1U) != 0;
+  const bool wasOn = (game.pending()->before[team] >> player & 1U) != 0;
   const bool isOn = game.slotOf(team, player).has_value();
   return wasOn == isOn ? JerseyButton::Move::None
          : isOn        ? JerseyButton::Move::Comes
@@ -34,9 +34,8 @@ JerseyButton::Move pendingMove(const LiveGame& game, int team, int player) {
 }
 
 // "8 p" and "2f 15′"; a dash for one who has not played.
-std::array<QString, 2> linesOf(const LiveGame& game, int team, int player) {
-  const Counters& counters =
-      game.state().players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)].counters;
+std::array<QString, 2> linesOf(const LiveGame& game, Side team, int player) {
+  const Counters& counters = game.state().players[team][static_cast<std::size_t>(player)].counters;
   const int seconds = LiveFigures(game).secondsOnCourt(team, player);
   const int points = pointsOf(counters);
   const int fouls = counters[Counter::PF];
@@ -48,21 +47,21 @@ std::array<QString, 2> linesOf(const LiveGame& game, int team, int player) {
 
 } // namespace
 
-RosterStrip::RosterStrip(int team, const Texts& texts, QWidget* parent)
+RosterStrip::RosterStrip(Side team, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_team(team), m_texts(texts) {
-  setObjectName(QStringLiteral("picROSTER(%1)").arg(team));
+  setObjectName(QStringLiteral("picROSTER(%1)").arg(numberOf(team)));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   m_allOut = new QPushButton(this);
-  m_allOut->setObjectName(QStringLiteral("cmdOUTALL(%1)").arg(team));
+  m_allOut->setObjectName(QStringLiteral("cmdOUTALL(%1)").arg(numberOf(team)));
   setTextNumber(*m_allOut, Text::AllOut);
   connect(m_allOut, &QPushButton::clicked, this, [this] { emit allOutAsked(m_team); });
   m_add = new QPushButton(QStringLiteral("+"), this);
-  m_add->setObjectName(QStringLiteral("cmdADDPLAYER(%1)").arg(team));
+  m_add->setObjectName(QStringLiteral("cmdADDPLAYER(%1)").arg(numberOf(team)));
   setToolTipNumber(*m_add, Text::AddPlayer);
   setAccessibleNumber(*m_add, Text::AddPlayer);
   connect(m_add, &QPushButton::clicked, this, [this] { emit playerAsked(m_team); });
   for (int place = 0; place < kPlaces; ++place) {
-    auto* button = new JerseyButton(jerseyButtonName(team * kPlaces + place), {}, this);
+    auto* button = new JerseyButton(jerseyButtonName(numberOf(team) * kPlaces + place), {}, this);
     connect(button, &JerseyButton::pressed, this, [this, place] { emit pressed(m_team, place + 1); });
     m_players[static_cast<std::size_t>(place)] = button;
   }
@@ -104,13 +103,12 @@ void RosterStrip::showPlace(const LiveGame& game, int player, const Choice& choi
                   .move = pendingMove(game, m_team, player)});
   // In substitution mode the press itself puts a player in, so that nothing is left to drag.
   const bool canBeDragged = !isOnCourt && !choice.isSubstituting;
-  button.setDragText(canBeDragged ? QStringLiteral("%1-%2").arg(m_team).arg(player) : QString());
+  button.setDragText(canBeDragged ? QStringLiteral("%1-%2").arg(numberOf(m_team)).arg(player) : QString());
   showPlayerWords(button, game, m_team, player, m_texts);
 }
 
 void RosterStrip::showGame(const LiveGame& game, const Choice& choice) {
   const GameDetails& details = game.game().details;
-  const auto team = static_cast<std::size_t>(m_team);
   const QString name = toQt(details.abbreviation[m_team]);
   const QColor colour = colourOf(details.teamColour[m_team]);
   const int free = m_firstFree;
@@ -121,7 +119,7 @@ void RosterStrip::showGame(const LiveGame& game, const Choice& choice) {
     update();
   }
   setToolTip(toQt(details.name[m_team]));
-  m_allOut->setEnabled(game.canRecord() && game.onCourt()[team] != 0);
+  m_allOut->setEnabled(game.canRecord() && game.onCourt()[m_team] != 0);
   m_allOut->setToolTip(toQt(m_texts.withPlaceholder(Text::AllLeave, details.name[m_team])));
   m_allOut->setAccessibleName(m_allOut->toolTip());
   m_firstFree = kPlaces + 1;

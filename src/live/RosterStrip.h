@@ -2,6 +2,8 @@
 // colour, of the bench points, fouls and minutes. Shows, and says what was pressed; changes no game.
 #pragma once
 
+#include "game/Side.h"
+
 #include <QWidget>
 
 #include <array>
@@ -18,7 +20,7 @@ class RosterStrip : public QWidget {
   Q_OBJECT
  public:
   // `texts` must outlive it.
-  RosterStrip(int team, const Texts& texts, QWidget* parent = nullptr);
+  RosterStrip(Side team, const Texts& texts, QWidget* parent = nullptr);
 
   // What the choice of a player means for the next press is its owner's.
   struct Choice {
@@ -35,9 +37,9 @@ class RosterStrip : public QWidget {
   QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
  signals:
-  void pressed(int team, int player);
-  void allOutAsked(int team);
-  void playerAsked(int team); // one who is not in the roster yet
+  void pressed(hooptab::Side team, int player);
+  void allOutAsked(hooptab::Side team);
+  void playerAsked(hooptab::Side team); // one who is not in the roster yet
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -49,7 +51,7 @@ class RosterStrip : public QWidget {
   [[nodiscard]] QRect placeRect(int place) const;
   void layOut();
 
-  int m_team;
+  Side m_team;
   const Texts& m_texts;
   QString m_name;
   QColor m_colour;

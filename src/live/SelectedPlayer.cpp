@@ -106,7 +106,7 @@ QToolButton* SelectedPlayer::makeMenu() {
   return button;
 }
 
-void SelectedPlayer::showPlayer(const LiveGame& game, int team, int player) {
+void SelectedPlayer::showPlayer(const LiveGame& game, Side team, int player) {
   const RosterPlayer* entry = game.game().roster[team].player(player);
   if (entry == nullptr)
     return showNobody();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/EventKind.h"
+#include "game/Side.h"
 
 #include <QWidget>
 
@@ -22,7 +23,7 @@ class SelectedPlayer : public QWidget {
   explicit SelectedPlayer(const Texts& texts, QWidget* parent = nullptr);
 
   // A place without a player is nobody.
-  void showPlayer(const LiveGame& game, int team, int player);
+  void showPlayer(const LiveGame& game, Side team, int player);
   void showNobody();
   void applyColours(); // and lengths
 

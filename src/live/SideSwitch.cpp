@@ -101,9 +101,9 @@ void SideSwitch::showGame(const LiveGame& game) {
   m_game = &game;
   m_isHalfTimeOver = m_isHalfTimeOver && game.isHalfTime();
   const bool isOffered = game.isHalfTime() && !m_isHalfTimeOver;
-  const std::size_t left = m_team0PlaysRight ? 1 : 0;
+  const Side left = m_team0PlaysRight ? Side::Home : Side::Visitor;
   const GameDetails& details = game.game().details;
-  m_court->showColours({colourOf(details.teamColour[left]), colourOf(details.teamColour[1 - left])});
+  m_court->showColours({colourOf(details.teamColour[left]), colourOf(details.teamColour[otherSide(left)])});
   m_name->setText(QStringLiteral("◂") + toQt(details.abbreviation[left]));
   const QString hint = caption(m_texts, isOffered ? Text::HalfTime : Text::SwitchSides) + u'\n' +
                        toQt(m_texts.withPlaceholder(Text::PlaysLeft, details.abbreviation[left]));

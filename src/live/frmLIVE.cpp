@@ -123,7 +123,7 @@ QWidget* frmLIVE::makePanels() {
   m_panels = new PanelGrid(this);
   m_sides = new SideSwitch(m_texts, this);
   m_bench = new BenchPanel(m_texts, m_panels, m_sides, this);
-  m_panels->fill({&m_bench->strip(0), &m_bench->strip(1)}, m_settings, m_texts);
+  m_panels->fill({&m_bench->strip(Side::Visitor), &m_bench->strip(Side::Home)}, m_settings, m_texts);
   return m_panels;
 }
 
@@ -170,12 +170,12 @@ void frmLIVE::connectEverything() {
     withdrawAfter(before);
   });
   connect(m_score, &ScorePanel::colourAsked, this, &frmLIVE::chooseColour);
-  connect(m_bench, &BenchPanel::toggled, this, [this](int team, int player) {
+  connect(m_bench, &BenchPanel::toggled, this, [this](Side team, int player) {
     m_notices->message().withdraw();
     m_session.change()->toggleOnCourt(team, player);
   });
   connect(m_bench, &BenchPanel::allOutAsked, this,
-          [this](int team) { m_session.change()->takeAllOut(team); });
+          [this](Side team) { m_session.change()->takeAllOut(team); });
   connect(m_bench, &BenchPanel::onCourtAsked, this, &frmLIVE::setOnCourt);
   connect(m_bench, &BenchPanel::clockAsked, this, &frmLIVE::toggleClock);
   connect(m_bench, &BenchPanel::selected, this, &frmLIVE::showSelected);
@@ -328,17 +328,18 @@ void frmLIVE::showGame() {
     emit commandStateChanged();
   }
   const auto& details = m_game.game().details;
-  setWindowTitle(asTitle(QStringLiteral("%1 - %2 %3 - %4 %5")
-                             .arg(toQt(m_texts.text(Text::LiveTitle)), toQt(details.abbreviation[0]),
-                                  QString::number(m_game.state().points(0)),
-                                  QString::number(m_game.state().points(1)), toQt(details.abbreviation[1]))));
+  setWindowTitle(asTitle(
+      QStringLiteral("%1 - %2 %3 - %4 %5")
+          .arg(toQt(m_texts.text(Text::LiveTitle)), toQt(details.abbreviation[Side::Visitor]),
+               QString::number(m_game.state().points(Side::Visitor)),
+               QString::number(m_game.state().points(Side::Home)), toQt(details.abbreviation[Side::Home]))));
 }
 
 // For the next action, or whom a question is about: an assist, a rebound, whose an event is.
 void frmLIVE::showSelected() {
   const EventCorrection::Who asked = m_correction->isActive() ? m_correction->whose() : m_askedAbout;
   m_panels->setSelected([&](int slot) {
-    const int team = LiveGame::teamOf(slot);
+    const Side team = LiveGame::teamOf(slot);
     const int player = m_game.playerIn(slot);
     return m_bench->isSelected(team, player) || (player > 0 && asked == EventCorrection::Who{team, player});
   });
@@ -357,7 +358,7 @@ QString frmLIVE::pendingWords() const {
   if (!pending)
     return {};
   std::string counts;
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const OnCourt now = m_game.onCourt();
     if (now[team] != pending->before[team])
       counts += (counts.empty() ? "" : ", ") + m_game.game().details.abbreviation[team] + " " +
@@ -488,7 +489,7 @@ void frmLIVE::showSides() {
     m_panels->panel(slot).setPlaysRight(playsRight(slot));
   m_score->setSides(m_isSwitched, m_rowsStay);
   m_sides->setSides(m_isSwitched, m_rowsStay);
-  for (int team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     m_bench->strip(team).setPlaysRight(playsRightOf(team));
 }
 
@@ -512,7 +513,7 @@ void frmLIVE::restoreArrangement(const QByteArray& arrangement) {
   showSides();
 }
 
-void frmLIVE::chooseColour(int team) {
+void frmLIVE::chooseColour(Side team) {
   if (m_game.phase() == LiveGame::Phase::ReadOnly)
     return;
   const std::uint32_t colour = m_game.game().details.teamColour[team];
@@ -562,10 +563,10 @@ void frmLIVE::dragEnterEvent(QDragEnterEvent* event) {
 
 void frmLIVE::dropEvent(QDropEvent* event) {
   const std::string dropped = event->mimeData()->data(playerMimeType()).toStdString();
-  const int team = Module1::leadingNumber(Module1::field(dropped, 1, '-'));
+  const std::optional<Side> team = sideOf(Module1::leadingNumber(Module1::field(dropped, 1, '-')));
   const int player = Module1::leadingNumber(Module1::field(dropped, 2, '-'));
   const std::optional<int> slot =
-      m_panels->slotAt(team, m_panels->mapFrom(this, event->position().toPoint()));
+      team ? m_panels->slotAt(*team, m_panels->mapFrom(this, event->position().toPoint())) : std::nullopt;
   if (!slot || player < 1 || player > Roster::kLargestEntry)
     return;
   event->acceptProposedAction();
@@ -576,7 +577,7 @@ void frmLIVE::dropEvent(QDropEvent* event) {
     return;
   }
   OnCourt wanted = m_game.onCourt();
-  unsigned& entries = wanted[static_cast<std::size_t>(team)];
+  unsigned& entries = wanted[*team];
   if (leaving > 0)
     entries &= ~(1U << static_cast<unsigned>(leaving));
   entries |= 1U << static_cast<unsigned>(player);

@@ -5,6 +5,7 @@
 #include "appearance/ChildWindow.h"
 #include "appearance/WidgetsFirst.h"
 #include "court/ZoneMap.h"
+#include "game/Side.h"
 #include "recording/EventCorrection.h"
 #include "recording/FollowUpQuestion.h"
 #include "recording/FoulThrows.h"
@@ -102,7 +103,7 @@ class frmLIVE : public ChildWindow {
   void connectPlayers();
   void connectLeague();
   void correct(const EventPlace& event);
-  void addPlayer(int team);
+  void addPlayer(Side team);
   void putInPlace(int slot);
   void askFives();
   void proposeFives(frmSUBST& several);
@@ -122,37 +123,37 @@ class frmLIVE : public ChildWindow {
   void setOnCourt(const OnCourt& onCourt);
   void hear(const GameNews& news);
   void withdrawAfter(LiveGame::Phase before);
-  void afterShot(int team, int player, EventCode kind, bool isMade);
-  void tellTarget(int team, EventCode kind, bool isMade);
-  void afterAction(int team, int player, EventCode kind);
-  void ask(int team, int player, EventCode kind, bool isMade);
+  void afterShot(Side team, int player, EventCode kind, bool isMade);
+  void tellTarget(Side team, EventCode kind, bool isMade);
+  void afterAction(Side team, int player, EventCode kind);
+  void ask(Side team, int player, EventCode kind, bool isMade);
   void offerChips(EventCode kind);
   void nameOpponent(const FollowUpQuestion::Answer& answer);
   void showThrows();
   void throwFree(bool isMade);
-  [[nodiscard]] bool isOwed(int team, int player, EventCode kind) const; // on the strip
+  [[nodiscard]] bool isOwed(Side team, int player, EventCode kind) const; // on the strip
   void showLeague();
-  [[nodiscard]] bool isSlip(EventCode kind, int team);
-  void noteOfTeam(EventCode kind, int team);
-  void takeTimeOut(int team, const std::string& kind = {});
-  void setArrow(int team);
-  void showTeamMenu(int team, const QPoint& place);
-  bool recordOfTeam(int team, EventCode kind, const std::string& detail);
-  void offerToPutIn(const EventPlace& event, int team, int player);
-  void askBenchShot(int team, int player, const QPoint& place);
+  [[nodiscard]] bool isSlip(EventCode kind, Side team);
+  void noteOfTeam(EventCode kind, Side team);
+  void takeTimeOut(Side team, const std::string& kind = {});
+  void setArrow(Side team);
+  void showTeamMenu(Side team, const QPoint& place);
+  bool recordOfTeam(std::optional<Side> team, EventCode kind, const std::string& detail);
+  void offerToPutIn(const EventPlace& event, Side team, int player);
+  void askBenchShot(Side team, int player, const QPoint& place);
   void shootFromBench(EventCode kind, bool isMade, std::optional<std::pair<double, double>> place);
   void markDoubtful();
   void showPeriodEnd();
   void askOvertime();
   void shoot(int slot, EventCode kind, bool isMade,
              std::optional<std::pair<double, double>> place = std::nullopt);
-  bool playsRightOf(int team) const { return (team == 1) != m_isSwitched; }
+  bool playsRightOf(Side team) const { return (team == Side::Home) != m_isSwitched; }
   void pressCourt(int slot, const QPointF& place, bool isMade);
   void act(int slot, EventCode kind);
   void followUp(const FollowUpQuestion::Answer& answer, EventCode kind);
-  bool record(int team, int player, EventCode kind);
+  bool record(Side team, int player, EventCode kind);
   bool playsRight(int slot) const { return playsRightOf(LiveGame::teamOf(slot)); }
-  void chooseColour(int team);
+  void chooseColour(Side team);
 
   ProfileStore& m_store;
   Settings& m_settings;
@@ -190,7 +191,7 @@ class frmLIVE : public ChildWindow {
   FoulThrows m_throws;
   std::vector<QShortcut*> m_leagueKeys;
   QElapsedTimer m_sinceOfTeam; // the last of m_lastOfTeam
-  std::pair<EventCode, int> m_lastOfTeam = {EventCode::Unknown, 0};
+  std::pair<EventCode, Side> m_lastOfTeam = {EventCode::Unknown, Side::Visitor};
   EventPlace m_asked;        // the event that the questions are about
   QWidget* m_side = nullptr; // the column beside the panels
   LiveKeys* m_keys = nullptr;
@@ -200,7 +201,7 @@ class frmLIVE : public ChildWindow {
   CorrectionBar* m_correction = nullptr;
   EventCorrection::Who m_askedAbout; // by the follow-up
   BenchShot* m_benchShot = nullptr;
-  int m_benchTeam = 0; // whose shot m_benchShot asks for
+  Side m_benchTeam = Side::Visitor; // whose shot m_benchShot asks for
   int m_benchPlayer = 0;
   WidgetsFirst m_widgetsFirst{*this}; // stays the last member
 };

@@ -58,7 +58,7 @@ void frmLIVE::connectCard() {
     else
       toggleClock();
   });
-  connect(m_card, &PeriodEndCard::eventsAsked, this, [this](int team) {
+  connect(m_card, &PeriodEndCard::eventsAsked, this, [this](Side team) {
     m_events->showOnly(team, m_game.endedPeriod());
     m_card->hide();
   });
@@ -110,7 +110,7 @@ void frmLIVE::pressCourt(int slot, const QPointF& place, bool isMade) {
 }
 
 void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
-  const int team = LiveGame::teamOf(slot);
+  const Side team = LiveGame::teamOf(slot);
   const int player = m_game.playerIn(slot);
   m_notices->message().withdraw(); // what it offers was about the event before
   if (isOwed(team, player, kind))
@@ -124,7 +124,7 @@ void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pa
 }
 
 // Beside the shooter's panel. Of one who is not on court it was forgotten that he came in.
-void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
+void frmLIVE::afterShot(Side team, int player, EventCode kind, bool isMade) {
   m_correction->end();
   if (!isMade && !m_settings.asksRebounds && !std::exchange(m_hasMissed, true))
     say(Text::MissedAskRebound);
@@ -138,19 +138,18 @@ void frmLIVE::afterShot(int team, int player, EventCode kind, bool isMade) {
     std::exchange(m_afterQuestion, {})();
 }
 
-void frmLIVE::offerToPutIn(const EventPlace& event, int team, int player) {
-  const auto side = static_cast<std::size_t>(team);
-  const RosterPlayer* who = m_game.game().roster[side].player(player);
+void frmLIVE::offerToPutIn(const EventPlace& event, Side team, int player) {
+  const RosterPlayer* who = m_game.game().roster[team].player(player);
   if (who == nullptr)
     return;
-  const std::string name = m_game.game().details.abbreviation[side] + " " + who->jersey + " " + who->name;
+  const std::string name = m_game.game().details.abbreviation[team] + " " + who->jersey + " " + who->name;
   m_notices->message().offer(toQt(m_texts.withPlaceholder(Text::WasNotOnCourt, name)),
                              caption(m_texts, Text::PutIn),
                              [this, event, team, player] { m_requests->putIn(event, team, player); });
 }
 
-void frmLIVE::askBenchShot(int team, int player, const QPoint& place) {
-  const RosterPlayer* who = m_game.game().roster[static_cast<std::size_t>(team)].player(player);
+void frmLIVE::askBenchShot(Side team, int player, const QPoint& place) {
+  const RosterPlayer* who = m_game.game().roster[team].player(player);
   if (who == nullptr || !m_game.canRecord())
     return;
   m_benchTeam = team;
@@ -191,7 +190,7 @@ void frmLIVE::act(int slot, EventCode kind) {
 }
 
 // A player is selected for one action: a finger that slips onto the button twice gives no second foul.
-bool frmLIVE::record(int team, int player, EventCode kind) {
+bool frmLIVE::record(Side team, int player, EventCode kind) {
   m_notices->message().withdraw();
   const bool isRecorded = m_session.change()->recordAction(team, player, kind);
   if (m_bench->isSelected(team, player))

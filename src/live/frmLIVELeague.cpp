@@ -82,7 +82,7 @@ void frmLIVE::connectLeague() {
     }
     return std::nullopt;
   });
-  connect(m_score, &ScorePanel::timeOutAsked, this, [this](int team) { takeTimeOut(team); });
+  connect(m_score, &ScorePanel::timeOutAsked, this, [this](Side team) { takeTimeOut(team); });
   connect(m_score, &ScorePanel::arrowAsked, this, &frmLIVE::setArrow);
   connect(m_score, &ScorePanel::teamMenuAsked, this, &frmLIVE::showTeamMenu);
   const auto onKey = [this](const QKeySequence& key, auto step) {
@@ -94,11 +94,11 @@ void frmLIVE::connectLeague() {
     m_leagueKeys.push_back(shortcut);
   };
   onKey(Qt::CTRL | Qt::Key_Left, [this] { takeTimeOut(m_score->teamOnTheLeft()); });
-  onKey(Qt::CTRL | Qt::Key_Right, [this] { takeTimeOut(1 - m_score->teamOnTheLeft()); });
+  onKey(Qt::CTRL | Qt::Key_Right, [this] { takeTimeOut(otherSide(m_score->teamOnTheLeft())); });
   // A held ball turns the arrow; the first one of a game is set by a click.
   onKey(Qt::CTRL | Qt::Key_Up, [this] {
     if (const auto arrow = m_game.arrow())
-      setArrow(1 - *arrow);
+      setArrow(otherSide(*arrow));
     else
       say(Text::ArrowUnknown);
   });
@@ -106,7 +106,7 @@ void frmLIVE::connectLeague() {
 
 // --- Questions
 
-void frmLIVE::ask(int team, int player, EventCode kind, bool isMade) {
+void frmLIVE::ask(Side team, int player, EventCode kind, bool isMade) {
   m_followUp->dismiss(); // which may answer what was asked before
   m_asked = m_game.lastAdded();
   const auto followUps = m_game.followUps(team, player, kind, isMade, m_settings.asksRebounds);
@@ -141,7 +141,7 @@ void frmLIVE::offerChips(EventCode kind) {
   m_followUp->offerChips(std::move(chips), kKindColumns);
 }
 
-void frmLIVE::afterAction(int team, int player, EventCode kind) {
+void frmLIVE::afterAction(Side team, int player, EventCode kind) {
   if (m_game.level() == RecordingLevel::Basic)
     return;
   m_correction->end();
@@ -153,7 +153,7 @@ void frmLIVE::afterAction(int team, int player, EventCode kind) {
 }
 
 // The clock decides no game that is played to a score.
-void frmLIVE::tellTarget(int team, EventCode kind, bool isMade) {
+void frmLIVE::tellTarget(Side team, EventCode kind, bool isMade) {
   const int target = m_game.game().details.targetScore;
   const EventKind* shot = kindOf(kind);
   const int points = m_game.state().points(team);
@@ -167,13 +167,14 @@ void frmLIVE::tellTarget(int team, EventCode kind, bool isMade) {
 
 void frmLIVE::nameOpponent(const FollowUpQuestion::Answer& answer) {
   const GameEvent* foul = m_game.game().events.find(m_asked);
-  const RosterPlayer* who = m_game.game().roster[static_cast<std::size_t>(answer.team)].player(answer.player);
+  const RosterPlayer* who = m_game.game().roster[answer.team].player(answer.player);
   if (foul == nullptr || who == nullptr)
     return;
   const bool isPersonal = foul->code == EventCode::SPF;
   const EventPlace place = m_asked; // the answer may put the player in, which is an event of its own
-  if (isPersonal && !m_session.change()->setDetailsOf(
-                        place, {{detail_key::kDrawnBy, std::to_string(answer.team) + '-' + who->jersey}}))
+  if (isPersonal &&
+      !m_session.change()->setDetailsOf(
+          place, {{detail_key::kDrawnBy, std::to_string(numberOf(answer.team)) + '-' + who->jersey}}))
     return;
   if (answer.comesIn)
     m_requests->putIn(place, answer.team, answer.player);
@@ -182,7 +183,7 @@ void frmLIVE::nameOpponent(const FollowUpQuestion::Answer& answer) {
   m_throwBar->open(m_game, m_throws, slot ? placeOf(m_panels->panel(*slot)) : QRect(), placeOf(*m_panels));
 }
 
-bool frmLIVE::isOwed(int team, int player, EventCode kind) const {
+bool frmLIVE::isOwed(Side team, int player, EventCode kind) const {
   return kind == EventCode::GFT && m_throws.isOpen() && team == m_throws.team() &&
          player == m_throws.shooter();
 }
@@ -204,7 +205,7 @@ void frmLIVE::showLeague() {
 
 void frmLIVE::throwFree(bool isMade) {
   m_notices->message().withdraw();
-  const int team = m_throws.team();
+  const Side team = m_throws.team();
   const int shooter = m_throws.shooter();
   if (!m_throws.shoot(*m_session.change(), isMade)) {
     m_throws.end();
@@ -220,20 +221,20 @@ void frmLIVE::throwFree(bool isMade) {
 // --- What teams do
 
 // A second press or key within a moment: nobody takes two, or turns the arrow twice.
-bool frmLIVE::isSlip(EventCode kind, int team) {
-  const bool isSame = m_lastOfTeam == std::pair(kind, kind == EventCode::XAR ? 0 : team);
+bool frmLIVE::isSlip(EventCode kind, Side team) {
+  const bool isSame = m_lastOfTeam == std::pair(kind, kind == EventCode::XAR ? Side::Visitor : team);
   const bool isSoon = m_sinceOfTeam.isValid() && !m_sinceOfTeam.hasExpired(kSlip);
   if (isSame && isSoon)
     say(Text::SecondPress);
   return isSame && isSoon;
 }
 
-void frmLIVE::noteOfTeam(EventCode kind, int team) {
-  m_lastOfTeam = {kind, kind == EventCode::XAR ? 0 : team};
+void frmLIVE::noteOfTeam(EventCode kind, Side team) {
+  m_lastOfTeam = {kind, kind == EventCode::XAR ? Side::Visitor : team};
   m_sinceOfTeam.start();
 }
 
-void frmLIVE::takeTimeOut(int team, const std::string& kind) {
+void frmLIVE::takeTimeOut(Side team, const std::string& kind) {
   if (isSlip(EventCode::XTO, team))
     return;
   const auto left =
@@ -247,7 +248,7 @@ void frmLIVE::takeTimeOut(int team, const std::string& kind) {
     tell(toQt(m_texts.withPlaceholder(Text::NoTimeOutLeft, m_game.game().details.abbreviation[team])));
 }
 
-void frmLIVE::setArrow(int team) {
+void frmLIVE::setArrow(Side team) {
   if (m_game.arrow() == team || isSlip(EventCode::XAR, team))
     return;
   if (!recordOfTeam(team, EventCode::XAR, {}))
@@ -256,25 +257,25 @@ void frmLIVE::setArrow(int team) {
   tell(toQt(m_texts.withPlaceholder(Text::ArrowTurned, m_game.game().details.abbreviation[team])));
 }
 
-bool frmLIVE::recordOfTeam(int team, EventCode kind, const std::string& detail) {
+bool frmLIVE::recordOfTeam(std::optional<Side> team, EventCode kind, const std::string& detail) {
   m_notices->message().withdraw();
   LiveGame::Details details;
   if (!detail.empty())
     details.emplace_back(detail_key::kKind, detail);
   if (!m_session.change()->recordOfTeam(team, kind, details))
     return false;
-  if (team >= 0)
-    afterAction(team, 0, kind);
+  if (team)
+    afterAction(*team, 0, kind);
   return true;
 }
 
-void frmLIVE::showTeamMenu(int team, const QPoint& place) {
+void frmLIVE::showTeamMenu(Side team, const QPoint& place) {
   auto* menu = new PassingMenu(this);
   const auto add = [&](Text text, EventCode kind, const char* detail = "", bool isNobodys = false) {
     QString words = caption(m_texts, text); // as in the list of events, where they follow a name
     words[0] = words[0].toUpper();
     connect(menu->addAction(words), &QAction::triggered, this,
-            [=, this] { (void)recordOfTeam(isNobodys ? -1 : team, kind, detail); });
+            [=, this] { (void)recordOfTeam(isNobodys ? std::nullopt : std::optional(team), kind, detail); });
   };
   add(Text::TeamOffensiveRebound, EventCode::XOR);
   add(Text::TeamDefensiveRebound, EventCode::XDR);

@@ -37,7 +37,7 @@ void frmLIVE::connectPlayers() {
   });
   connect(m_correction, &CorrectionBar::closed, this, &frmLIVE::showSelected);
   connect(&m_notices->message(), &MessageLine::changed, m_correction, &QWidget::raise); // in one place
-  m_bench->setTaker([this](int team, int player) { return m_correction->takePlayer(team, player); });
+  m_bench->setTaker([this](Side team, int player) { return m_correction->takePlayer(team, player); });
   connect(m_bench, &BenchPanel::playerAsked, this, &frmLIVE::addPlayer);
   connect(m_bench, &BenchPanel::placesStayAsked, this,
           [this](bool stay) { m_session.change()->setKeepsPlaces(stay); });
@@ -78,7 +78,7 @@ void frmLIVE::correct(const EventPlace& event) {
   }
 }
 
-void frmLIVE::addPlayer(int team) {
+void frmLIVE::addPlayer(Side team) {
   if (!m_game.canRecord())
     return;
   const auto add = [this, team](const std::string& jersey, const std::string& name) {
@@ -103,12 +103,12 @@ void frmLIVE::putInPlace(int slot) {
 
 // A game that has not begun opens on the choice of both fives.
 void frmLIVE::askFives() {
-  if (isVisible() && awaitsFive(m_game, 0) && awaitsFive(m_game, 1))
+  if (isVisible() && awaitsFive(m_game, Side::Visitor) && awaitsFive(m_game, Side::Home))
     m_bench->askSeveral();
 }
 
 void frmLIVE::proposeFives(frmSUBST& several) {
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     if (!awaitsFive(m_game, team))
       continue;
     if (const auto last = LastFive::of(m_store.files(), m_game.game(), team))

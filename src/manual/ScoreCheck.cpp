@@ -29,11 +29,11 @@ ScoreCheck::ScoreCheck(const ManualGame& game, const Texts& texts, QWidget* pare
   layout->setSpacing(kGap);
   auto* caption = new PlainLabel(this);
   setTextNumber(*caption, Text::FinalScore);
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const auto named = [team](const char* name) {
-      return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(team);
+      return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(numberOf(team));
     };
-    Side& side = m_sides[static_cast<std::size_t>(team)];
+    TeamWidgets& side = m_sides[team];
     side.team = new ElidedLabel(this);
     side.team->setAutoFillBackground(true);
     side.team->setContentsMargins(kGap, 0, kGap, 0);
@@ -50,29 +50,29 @@ ScoreCheck::ScoreCheck(const ManualGame& game, const Texts& texts, QWidget* pare
     side.verdict->setObjectName(named("lblFINAL"));
     connect(side.typed, &QLineEdit::textChanged, this, &ScoreCheck::showPoints);
   }
-  layout->addWidget(m_sides[0].team);
-  layout->addWidget(m_sides[0].points);
+  layout->addWidget(m_sides[Side::Visitor].team);
+  layout->addWidget(m_sides[Side::Visitor].points);
   layout->addWidget(new PlainLabel(QStringLiteral("–"), this));
-  layout->addWidget(m_sides[1].points);
-  layout->addWidget(m_sides[1].team);
+  layout->addWidget(m_sides[Side::Home].points);
+  layout->addWidget(m_sides[Side::Home].team);
   layout->addSpacing(2 * kGap);
   layout->addWidget(caption);
-  for (const Side& side : m_sides) {
+  for (const TeamWidgets& side : m_sides) {
     layout->addWidget(side.typed);
     layout->addWidget(side.verdict);
   }
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
-  caption->setBuddy(m_sides[0].typed);
+  caption->setBuddy(m_sides[Side::Visitor].typed);
 }
 
 void ScoreCheck::beginGame() {
-  for (const Side& side : m_sides)
+  for (const TeamWidgets& side : m_sides)
     side.typed->clear();
 }
 
 void ScoreCheck::showPoints() {
-  for (int team = 0; team < 2; ++team) {
-    const Side& side = m_sides[static_cast<std::size_t>(team)];
+  for (const Side team : kSides) {
+    const TeamWidgets& side = m_sides[team];
     const int points = pointsOf(m_game.totals.teamCounts(team));
     side.team->setText(toQt(m_game.details().abbreviation[team]));
     const QColor colour = colourOf(m_game.details().teamColour[team]);

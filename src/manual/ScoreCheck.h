@@ -2,6 +2,8 @@
 // score sheet: says whether they agree, or how much is missing. Nothing of it is kept.
 #pragma once
 
+#include "game/Side.h"
+
 #include <QWidget>
 
 #include <array>
@@ -24,7 +26,7 @@ class ScoreCheck : public QWidget {
   void showPoints();
 
  private:
-  struct Side {
+  struct TeamWidgets {
     QLabel* team;
     QLabel* points;
     QLineEdit* typed;
@@ -32,7 +34,7 @@ class ScoreCheck : public QWidget {
   };
   const ManualGame& m_game;
   const Texts& m_texts;
-  std::array<Side, 2> m_sides = {};
+  PerSide<TeamWidgets> m_sides = {};
 };
 
 } // namespace hooptab

@@ -92,7 +92,7 @@ void ShotPanel::deleteChosen() {
   m_list->setCurrentRow(std::min(row, m_list->count() - 1));
 }
 
-void ShotPanel::showShots(int team, int player) {
+void ShotPanel::showShots(Side team, int player) {
   const bool isSame = team == m_team && player == m_player;
   const int row = isSame ? m_list->currentRow() : -1;
   m_team = team;

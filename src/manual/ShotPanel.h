@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/EventKind.h"
+#include "game/Side.h"
 
 #include <QWidget>
 
@@ -25,7 +26,7 @@ class ShotPanel : public QWidget {
   // All must outlive it.
   ShotPanel(ManualGame& game, const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
 
-  void showShots(int team, int player); // slot, 0 for nobody
+  void showShots(Side team, int player); // slot, 0 for nobody
   void relabelPanel();
   void applyColours();
 
@@ -44,7 +45,7 @@ class ShotPanel : public QWidget {
 
   ManualGame& m_game;
   const Texts& m_texts;
-  int m_team = 0;
+  Side m_team = Side::Visitor;
   int m_player = 0;
   std::vector<Entry> m_entries; // of the list, row by row
   ManualCourt* m_court;

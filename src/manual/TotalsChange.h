@@ -1,6 +1,7 @@
 // One step of what the user did to a game's totals, to be taken back and made again whole.
 #pragma once
 
+#include "game/Side.h"
 #include "totals/ManualTotals.h"
 
 #include <QUndoCommand>
@@ -10,10 +11,10 @@ namespace hooptab {
 class TotalsChange : public QUndoCommand {
  public:
   // The totals, which must outlive it, have changed already; `team` is the one that was shown.
-  TotalsChange(ManualTotals& totals, ManualTotals before, int team, const QString& words)
+  TotalsChange(ManualTotals& totals, ManualTotals before, Side team, const QString& words)
       : QUndoCommand(words), m_totals(totals), m_before(std::move(before)), m_after(totals), m_team(team) {}
 
-  int team() const { return m_team; }
+  Side team() const { return m_team; }
   void undo() override { m_totals = m_before; }
   void redo() override { m_totals = m_after; }
 
@@ -21,7 +22,7 @@ class TotalsChange : public QUndoCommand {
   ManualTotals& m_totals;
   ManualTotals m_before;
   ManualTotals m_after;
-  int m_team;
+  Side m_team;
 };
 
 } // namespace hooptab

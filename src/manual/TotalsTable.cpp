@@ -155,7 +155,7 @@ bool TotalsTable::isOnPage(int column) const {
 
 // --- What is shown
 
-void TotalsTable::setTeam(int team) {
+void TotalsTable::setTeam(Side team) {
   takeTyped();
   m_team = team;
   m_player = 0;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "appearance/TableContent.h"
+#include "game/Side.h"
 #include "totals/ManualColumns.h"
 #include "totals/ManualTotals.h"
 
@@ -28,7 +29,7 @@ class TotalsTable : public QWidget, public ShownTable {
   // All must outlive it.
   TotalsTable(ManualGame& game, const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
 
-  void setTeam(int team);                 // nobody is chosen then
+  void setTeam(Side team);                // nobody is chosen then
   int player() const { return m_player; } // slot, 0 for nobody
   int page() const { return m_page; }
   void nextPage();
@@ -77,7 +78,7 @@ class TotalsTable : public QWidget, public ShownTable {
   ManualGame& m_game;
   const Settings& m_settings;
   const Texts& m_texts;
-  int m_team = 0;
+  Side m_team = Side::Visitor;
   int m_page = 1;
   int m_player = 0;
   int m_column = 0; // index of kManualColumns

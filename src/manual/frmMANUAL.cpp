@@ -121,7 +121,10 @@ QWidget* frmMANUAL::makePlayerBar(QWidget* page) {
 }
 
 void frmMANUAL::connectEverything() {
-  connect(m_teams, &QComboBox::currentIndexChanged, this, &frmMANUAL::chooseTeam);
+  connect(m_teams, &QComboBox::currentIndexChanged, this, [this](int index) {
+    if (const auto team = sideOf(index))
+      chooseTeam(*team);
+  });
   const auto onClick = [this](const char* name, auto act) {
     connect(findChild<QPushButton*>(QLatin1String(name)), &QPushButton::clicked, this, act);
   };
@@ -186,7 +189,7 @@ bool frmMANUAL::open(const QString& path, GameLock lock) {
   m_forms->beginGame(); // its pages were for the game before
   endForms(0);
   relabelWindow();
-  chooseTeam(0);
+  chooseTeam(Side::Visitor);
   m_table->setFocus();
   return true;
 }
@@ -201,10 +204,10 @@ QString frmMANUAL::path() const {
 
 // --- What the user does
 
-void frmMANUAL::chooseTeam(int team) {
+void frmMANUAL::chooseTeam(Side team) {
   m_team = team;
   const QSignalBlocker quiet(m_teams);
-  m_teams->setCurrentIndex(team);
+  m_teams->setCurrentIndex(numberOf(team));
   m_table->setTeam(team);
   showTotals();
 }
@@ -220,7 +223,7 @@ void frmMANUAL::clearTeam() {
   keepChange(caption(m_texts, Text::ResetToZero));
 }
 
-void frmMANUAL::import(int team) {
+void frmMANUAL::import(Side team) {
   chooseTeam(team);
   keepChange(caption(m_texts, Text::ImportValues));
 }
@@ -356,12 +359,12 @@ void frmMANUAL::showHint(const QString& text, const QColor& colour) {
 void frmMANUAL::showTeams() {
   const QSignalBlocker quiet(m_teams);
   m_teams->clear();
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const GameDetails& details = m_game.details();
     m_teams->addItem(
         QStringLiteral("%1 - %2").arg(toQt(details.abbreviation[team]), toQt(details.name[team])));
   }
-  m_teams->setCurrentIndex(m_team);
+  m_teams->setCurrentIndex(numberOf(m_team));
 }
 
 QString frmMANUAL::diskWords() const {
@@ -396,10 +399,11 @@ void frmMANUAL::showDisk() {
   m_retry.refresh();
   findChild<QPushButton*>(QStringLiteral("cmdFORM"))->setEnabled(!m_game.isForReading());
   const GameDetails& details = m_game.details();
-  const auto points = [this](int team) { return QString::number(pointsOf(m_game.totals.teamCounts(team))); };
-  const QString title = QStringLiteral("%1 - %2 %3 - %4 %5")
-                            .arg(toQt(m_texts.text(Text::ManualTitle)), toQt(details.abbreviation[0]),
-                                 points(0), points(1), toQt(details.abbreviation[1]));
+  const auto points = [this](Side team) { return QString::number(pointsOf(m_game.totals.teamCounts(team))); };
+  const QString title =
+      QStringLiteral("%1 - %2 %3 - %4 %5")
+          .arg(toQt(m_texts.text(Text::ManualTitle)), toQt(details.abbreviation[Side::Visitor]),
+               points(Side::Visitor), points(Side::Home), toQt(details.abbreviation[Side::Home]));
   setWindowTitle(asTitle(title) + QStringLiteral("[*]"));
   setWindowModified(!m_game.isSaved());
 }

@@ -7,6 +7,7 @@
 #include "appearance/GameHold.h"
 #include "appearance/WidgetsFirst.h"
 #include "appearance/WriteRetry.h"
+#include "game/Side.h"
 #include "totals/ManualColumns.h"
 #include "totals/ManualGame.h"
 
@@ -68,9 +69,9 @@ class frmMANUAL : public ChildWindow {
   QWidget* makeHead(QWidget* page);
   QWidget* makePlayerBar(QWidget* page);
   void connectEverything();
-  void chooseTeam(int team);
+  void chooseTeam(Side team);
   void clearTeam();
-  void import(int team);
+  void import(Side team);
   // Everything that changes the totals ends here, with words for it; nothing when it changed nothing.
   void keepChange(const QString& words);
   enum class Step { Undo, Redo };
@@ -95,7 +96,7 @@ class frmMANUAL : public ChildWindow {
   GameFileProblem m_problem = GameFileProblem::None;
   GameHold* m_hold;
   bool m_isHeldElsewhere = false;
-  int m_team = 0;
+  Side m_team = Side::Visitor;
   ManualTotals m_before; // the totals before the change that is being made
   QUndoStack m_changes;
   WriteRetry m_retry;

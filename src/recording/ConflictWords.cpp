@@ -22,8 +22,7 @@ std::string wordsOf(const CourtConflict& conflict, const Game& game, const Texts
       players += (players.empty() ? "" : ", ") + player->jersey;
   }
   return withPlaceholders(texts.text(conflict.isTwice ? Text::SubstitutedTwice : Text::SixOnCourt),
-                          placeWords(conflict.event, game, texts),
-                          words.team(static_cast<int>(conflict.team)), players);
+                          placeWords(conflict.event, game, texts), words.team(conflict.team), players);
 }
 
 } // namespace hooptab

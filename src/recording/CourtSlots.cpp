@@ -6,8 +6,8 @@
 
 namespace hooptab {
 
-std::optional<int> CourtSlots::slotOf(int team, int player) const {
-  for (int slot = team * kSlotsOfTeam; slot < (team + 1) * kSlotsOfTeam; ++slot) {
+std::optional<int> CourtSlots::slotOf(Side team, int player) const {
+  for (int slot = firstOf(team); slot < firstOf(team) + kSlotsOfTeam; ++slot) {
     if (player > 0 && playerIn(slot) == player)
       return slot;
   }
@@ -18,21 +18,21 @@ OnCourt CourtSlots::onCourt() const {
   OnCourt entries = {};
   for (int slot = 0; slot < kSlots; ++slot) {
     if (playerIn(slot) > 0)
-      entries[static_cast<std::size_t>(teamOf(slot))] |= 1U << static_cast<unsigned>(playerIn(slot));
+      entries[teamOf(slot)] |= 1U << static_cast<unsigned>(playerIn(slot));
   }
   return entries;
 }
 
 void CourtSlots::put(const OnCourt& lists) {
-  for (int team = 0; team < 2; ++team) {
-    const auto first = m_players.begin() + team * kSlotsOfTeam;
+  for (const Side team : kSides) {
+    const auto first = m_players.begin() + firstOf(team);
     const auto last = first + kSlotsOfTeam;
-    unsigned coming = lists[static_cast<std::size_t>(team)];
+    unsigned coming = lists[team];
     std::vector<int*> free; // those that become so first
     for (auto slot = first; slot != last; ++slot) {
       const unsigned bit = *slot > 0 ? 1U << static_cast<unsigned>(*slot) : 0;
       coming &= ~bit;
-      if (bit != 0 && (lists[static_cast<std::size_t>(team)] & bit) != 0)
+      if (bit != 0 && (lists[team] & bit) != 0)
         continue;
       if (std::exchange(*slot, 0) != 0)
         free.push_back(&*slot);

@@ -3,6 +3,7 @@
 // nobody moves then: who comes takes the place of one who has just left, else the first free one.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/OnCourt.h"
 
 #include <array>
@@ -12,12 +13,13 @@ namespace hooptab {
 
 class CourtSlots {
  public:
-  static constexpr int kSlots = 10; // 0..4 of team 0, 5..9 of team 1
+  static constexpr int kSlots = 10; // 0..4 of the visitors, 5..9 of the home team
   static constexpr int kSlotsOfTeam = 5;
 
-  static int teamOf(int slot) { return slot >= kSlotsOfTeam ? 1 : 0; }
+  static Side teamOf(int slot) { return slot >= kSlotsOfTeam ? Side::Home : Side::Visitor; }
+  static int firstOf(Side team) { return team == Side::Home ? kSlotsOfTeam : 0; }
   int playerIn(int slot) const { return m_players[static_cast<std::size_t>(slot)]; } // entry; 0: nobody
-  std::optional<int> slotOf(int team, int player) const;
+  std::optional<int> slotOf(Side team, int player) const;
   OnCourt onCourt() const;
 
   // From the next who comes on; nobody moves at once.

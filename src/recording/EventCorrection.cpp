@@ -20,8 +20,8 @@ bool canBeCorrected(const GameEvent& event) {
   return event.isUnderstood && !event.isDeleted && event.isOfPlayer();
 }
 
-const Roster& rosterOf(const LiveGame& game, int team) {
-  return game.game().roster[static_cast<std::size_t>(team)];
+const Roster& rosterOf(const LiveGame& game, Side team) {
+  return game.game().roster[team];
 }
 
 } // namespace
@@ -62,7 +62,7 @@ std::size_t EventCorrection::index() const {
 }
 
 EventCorrection::Said EventCorrection::saidBy(const GameEvent& event) {
-  return {event.code, event.isShot() && event.isMade, event.player.team, std::string(event.player.jersey),
+  return {event.code, event.isShot() && event.isMade, *event.player.team, std::string(event.player.jersey),
           event.hasPlace ? std::optional(CourtPlace(event.x, event.y)) : std::nullopt};
 }
 
@@ -204,7 +204,7 @@ EventCorrection::Outcome EventCorrection::takePlayer(const Who& who) {
     if (didFit && old.code == EventCode::SA && shot.team != wanted.team)
       return refuse({.text = Text::OfOtherTeam,
                      .jersey = wanted.jersey,
-                     .team = m_game->game().details.abbreviation[static_cast<std::size_t>(wanted.team)]});
+                     .team = m_game->game().details.abbreviation[wanted.team]});
     if (didFit && old.code != EventCode::SA)
       wanted.code = wanted.team == shot.team ? EventCode::SOR : EventCode::SDR;
   }
@@ -246,18 +246,18 @@ std::string EventCorrection::adaptedWords(const Texts& texts) const {
 std::optional<EventCorrection::Who> EventCorrection::meant() const {
   if (m_typed.empty() || !isActive())
     return std::nullopt;
-  const int team = said().team;
+  const Side team = said().team;
   const OnCourt onCourt = m_game->onCourt();
   struct Group {
-    int team;
+    Side team;
     bool isWanted[2]; // on the bench, on court
   };
   for (const auto& [side, isWanted] :
-       {Group{team, {false, true}}, Group{team, {true, false}}, Group{1 - team, {true, true}}}) {
+       {Group{team, {false, true}}, Group{team, {true, false}}, Group{otherSide(team), {true, true}}}) {
     std::vector<std::string> jerseys(Roster::kLargestEntry + 1); // by entry
     for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
       const RosterPlayer* player = rosterOf(*m_game, side).player(entry);
-      if (player != nullptr && isWanted[onCourt[static_cast<std::size_t>(side)] >> entry & 1U])
+      if (player != nullptr && isWanted[onCourt[side] >> entry & 1U])
         jerseys[static_cast<std::size_t>(entry)] = player->jersey;
     }
     const std::vector<FittingJersey> fitting = fittingJerseys(jerseys, m_typed);
@@ -270,7 +270,7 @@ std::optional<EventCorrection::Who> EventCorrection::meant() const {
 
 bool EventCorrection::canGoOn() const {
   std::vector<std::string> jerseys;
-  for (int team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     std::ranges::transform(rosterOf(*m_game, team).players(), std::back_inserter(jerseys),
                            &RosterPlayer::jersey);
   return goesOn(jerseys, m_typed);

@@ -5,6 +5,7 @@
 // how long a correction stays open is the window's affair.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/GameSession.h"
 #include "settings/Texts.h"
 
@@ -26,7 +27,7 @@ class EventCorrection {
     Asks,    // followUpQuestion(), then decide()
   };
   struct Who {
-    int team = 0;
+    Side team = Side::Visitor;
     int player = 0; // entry
     friend bool operator==(const Who&, const Who&) = default;
   };
@@ -85,7 +86,7 @@ class EventCorrection {
   struct Said {
     EventCode code = EventCode::Unknown;
     bool isMade = false;
-    int team = 0;
+    Side team = Side::Visitor;
     std::string jersey = {};
     std::optional<CourtPlace> place = std::nullopt;
     friend bool operator==(const Said&, const Said&) = default;

@@ -67,7 +67,9 @@ bool EventEdit::takeCarryingOn(const EventChange& step) {
 std::optional<CourtConflict> EventEdit::tooMany(const EventChange& step) const {
   const GameEvent& event = *m_events.find(step.period, step.key);
   const auto lists = onCourtOf(event, m_rosters);
-  for (std::size_t team = 0; lists && team < 2; ++team) {
+  if (!lists)
+    return std::nullopt;
+  for (const Side team : kSides) {
     if (playersOfList(event.onCourt(team), m_rosters[team]).size() > kMostOnCourt)
       return CourtConflict{placeOf(event), team, (*lists)[team]};
   }
@@ -100,7 +102,7 @@ bool EventEdit::moveCarryingOn(const EventPlace& event, const std::string& befor
   if (!takeCarryingOn({Kind::Replace, event.period, event.key, withDeletion(whole, true)}) || !take(move))
     return false;
   OnCourt now = inForceBefore(m_events, event.period, event.key, m_rosters);
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     now[team] = (now[team] | ((*lists)[team] & ~old[team])) & ~(old[team] & ~(*lists)[team]);
   return takeCarryingOn({Kind::Replace, event.period, event.key, withLists(whole, now, m_rosters)});
 }

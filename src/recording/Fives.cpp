@@ -10,19 +10,19 @@ namespace hooptab {
 
 namespace {
 
-using PointsOfLines = std::array<std::array<int, GameState::kLineEntries>, 2>;
+using PointsOfLines = PerSide<std::array<int, GameState::kLineEntries>>;
 
 // The counters of a line have its own points alone.
 PointsOfLines pointsAgainst(const Game& game) {
   PointsOfLines points = {};
   GameState state;
-  Tally tally(state, game.roster[0], game.roster[1]);
+  Tally tally(state, game.roster[Side::Visitor], game.roster[Side::Home]);
   std::size_t index = 0;
   for (const GameEvent& event : game.events) {
     tally.apply(event, index++);
     if (!event.isUnderstood || event.isDeleted || !event.isShot() || !event.isMade)
       continue;
-    const auto other = static_cast<std::size_t>(1 - event.player.team);
+    const Side other = otherSide(*event.player.team);
     points[other][state.currentLine[other]] += event.kind()->points;
   }
   return points;
@@ -34,15 +34,14 @@ Fives Fives::of(const LiveGame& game) {
   Fives fives;
   const GameState& state = game.state();
   const PointsOfLines against = pointsAgainst(game.game());
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const Roster& roster = game.game().roster[team];
     const std::size_t onCourt = state.currentLine[team];
     for (std::size_t line = 1; line <= static_cast<std::size_t>(state.usedLines[team]); ++line) {
       const LineEntry& entry = state.lines[team][line];
       const FivePlay play{.players = state.lineMembers[team][line] & ~1U,
                           .jerseys = jerseysOnCourt(entry.list, roster),
-                          .seconds = line == onCourt ? LiveFigures(game).secondsOfLine(static_cast<int>(team))
-                                                     : entry.seconds,
+                          .seconds = line == onCourt ? LiveFigures(game).secondsOfLine(team) : entry.seconds,
                           .pointsFor = pointsOf(entry.counters),
                           .pointsAgainst = against[team][line]};
       if (line == onCourt)

@@ -2,6 +2,7 @@
 // score meanwhile. Figures alone; lays out nothing.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/LiveGame.h"
 
 #include <array>
@@ -25,10 +26,10 @@ struct Fives {
 
   // Of both teams, as their lists say: a substitution of which a part was clicked is not in it. Nobody where
   // nobody is on court, and for a line behind the hundredth, which is not counted for itself.
-  std::array<FivePlay, 2> current = {};
+  PerSide<FivePlay> current = {};
   // The five with the most points more than the other team meanwhile, of two equal ones who played longer.
   // None where no five has played long enough, so never in a game without time.
-  std::array<std::optional<FivePlay>, 2> best = {};
+  PerSide<std::optional<FivePlay>> best = {};
 
   // Goes through all events: for once a change, not for every second.
   [[nodiscard]] static Fives of(const LiveGame& game);

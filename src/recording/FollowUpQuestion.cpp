@@ -13,7 +13,7 @@ constexpr std::size_t kMostDigits = 4; // one more than any jersey: a slip is se
 
 } // namespace
 
-void FollowUpQuestion::ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team, int shooter,
+void FollowUpQuestion::ask(const LiveGame& game, const LiveGame::FollowUps& followUps, Side team, int shooter,
                            EventCode kind) {
   m_game = &game;
   m_asks = !followUps.assist.empty()                          ? Asks::Assist
@@ -34,8 +34,7 @@ void FollowUpQuestion::ask(const LiveGame& game, const LiveGame::FollowUps& foll
       continue;
     for (const int slot : *slots) {
       const int player = game.playerIn(slot);
-      const RosterPlayer* entry =
-          game.game().roster[static_cast<std::size_t>(LiveGame::teamOf(slot))].player(player);
+      const RosterPlayer* entry = game.game().roster[LiveGame::teamOf(slot)].player(player);
       if (entry != nullptr)
         m_choices.push_back({slot, player, entry->jersey});
     }
@@ -59,7 +58,7 @@ EventCode FollowUpQuestion::codeFor(const Answer& answer) const {
   return isOffensive ? EventCode::SOR : EventCode::SDR;
 }
 
-std::optional<FollowUpQuestion::Answer> FollowUpQuestion::teamOf(int team) const {
+std::optional<FollowUpQuestion::Answer> FollowUpQuestion::teamOf(Side team) const {
   if (!m_hasTeam || m_isBlock || (m_asks == Asks::Steal && team != m_shooterTeam))
     return std::nullopt;
   return Answer{.team = team};
@@ -100,10 +99,10 @@ std::optional<std::size_t> FollowUpQuestion::marked() const {
 // Whether a number of those who could be meant, on court or not, begins with what was typed and goes on.
 bool FollowUpQuestion::canGoOn() const {
   std::vector<std::string> jerseys;
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     if (!isOfOneTeam() || team == teamAsked())
-      std::ranges::transform(m_game->game().roster[static_cast<std::size_t>(team)].players(),
-                             std::back_inserter(jerseys), &RosterPlayer::jersey);
+      std::ranges::transform(m_game->game().roster[team].players(), std::back_inserter(jerseys),
+                             &RosterPlayer::jersey);
   }
   return goesOn(jerseys, m_typed);
 }
@@ -122,7 +121,7 @@ std::optional<FollowUpQuestion::Answer> FollowUpQuestion::type(int digit) {
   return std::nullopt;
 }
 
-std::optional<FollowUpQuestion::Answer> FollowUpQuestion::enter(std::optional<int> team) {
+std::optional<FollowUpQuestion::Answer> FollowUpQuestion::enter(std::optional<Side> team) {
   if (m_wayOut)
     return take(*m_wayOut);
   const auto isOfTeam = [&](const FittingJersey& fitting) {
@@ -181,18 +180,16 @@ void FollowUpQuestion::moveMark(int step) {
 void FollowUpQuestion::refuse() {
   m_refusal = Refusal{.text = Text::NobodyHereHasNumber};
   std::vector<Answer> strangers;
-  for (const int team : {m_shooterTeam, 1 - m_shooterTeam}) {
-    const auto side = static_cast<std::size_t>(team);
-    const int player = m_game->game().roster[side].entryOf(m_typed);
+  for (const Side team : {m_shooterTeam, otherSide(m_shooterTeam)}) {
+    const int player = m_game->game().roster[team].entryOf(m_typed);
     if (player == 0 || m_game->slotOf(team, player))
       continue;
     if (isOfOneTeam() && team != teamAsked())
       continue;
     strangers.push_back({.team = team, .player = player, .isOnCourt = false});
   }
-  const auto side = static_cast<std::size_t>(m_shooterTeam);
-  const auto other = static_cast<std::size_t>(isOfOneTeam() ? 1 - teamAsked() : 1 - m_shooterTeam);
-  if (isAssist() && m_shooter > 0 && m_game->game().roster[side].entryOf(m_typed) == m_shooter)
+  const Side other = otherSide(isOfOneTeam() ? teamAsked() : m_shooterTeam);
+  if (isAssist() && m_shooter > 0 && m_game->game().roster[m_shooterTeam].entryOf(m_typed) == m_shooter)
     m_refusal = Refusal{.text = Text::IsShooter};
   else if (isOfOneTeam() && strangers.empty() && m_game->game().roster[other].entryOf(m_typed) > 0)
     m_refusal = Refusal{.text = Text::OfOtherTeam, .team = m_game->game().details.abbreviation[other]};

@@ -4,6 +4,7 @@
 // for another's. Knows no window.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/JerseyMatch.h"
 #include "recording/LiveGame.h"
 #include "settings/Texts.h"
@@ -20,13 +21,13 @@ class FollowUpQuestion {
     int slot = 0;
     int player = 0; // entry
     std::string jersey = {};
-    int team() const { return LiveGame::teamOf(slot); }
+    Side team() const { return LiveGame::teamOf(slot); }
   };
   // Who is asked for. The shooter is the one for a technical foul.
   enum class Asks { Assist, Rebound, DrawnBy, Shooter, Steal };
   // Who gets it.
   struct Answer {
-    int team = 0;
+    Side team = Side::Visitor;
     int player = 0;       // entry; 0: the team, and nobody in particular
     bool comesIn = false; // he stands on the bench, and it was forgotten that he came
     bool isOnCourt = true;
@@ -44,19 +45,19 @@ class FollowUpQuestion {
   enum class WayOut { AllTheSame, ComesIn };
 
   // The game must live until it is closed.
-  void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, int team, int shooter,
+  void ask(const LiveGame& game, const LiveGame::FollowUps& followUps, Side team, int shooter,
            EventCode kind = EventCode::Unknown);
 
   Asks asks() const { return m_asks; }
   bool isAssist() const { return m_asks == Asks::Assist; }
   bool isRebound() const { return m_asks == Asks::Rebound; }
-  int shooterTeam() const { return m_shooterTeam; } // of whoever it happened to: shot, foul, turnover
+  Side shooterTeam() const { return m_shooterTeam; } // of whoever it happened to: shot, foul, turnover
   // Of one team in the order of the places on court; of a rebound the shooter's team first.
   const std::vector<Choice>& choices() const { return m_choices; }
   // What an answer is recorded as; Unknown for one that is a detail of the event.
   EventCode codeFor(const Answer& answer) const;
   // That it was the team's: of a rebound which one's. None where it can be nobody's but a player's.
-  std::optional<Answer> teamOf(int team) const;
+  std::optional<Answer> teamOf(Side team) const;
   // Of a rebound, where the shot can have been blocked: for the next answer the defence is asked who did.
   bool canAskBlock() const { return m_canBlock; }
   bool isAskingBlock() const { return m_isBlock; }
@@ -73,7 +74,7 @@ class FollowUpQuestion {
   // Each returns the answer when there is one.
   std::optional<Answer> type(int digit);
   // What is marked, or whose number was typed; of two equal ones that of `team`, where it is given.
-  std::optional<Answer> enter(std::optional<int> team);
+  std::optional<Answer> enter(std::optional<Side> team);
   std::optional<Answer> choose(std::size_t choice) const;
   std::optional<Answer> take(WayOut way) const;
   void takeBackDigit();
@@ -86,8 +87,8 @@ class FollowUpQuestion {
   [[nodiscard]] Text onBenchText() const;
   [[nodiscard]] bool canGoOn() const;
   [[nodiscard]] bool isOfOneTeam() const { return m_asks != Asks::Rebound || m_isBlock; }
-  [[nodiscard]] int teamAsked() const { // where only one is
-    return isAssist() ? m_shooterTeam : 1 - m_shooterTeam;
+  [[nodiscard]] Side teamAsked() const { // where only one is
+    return isAssist() ? m_shooterTeam : otherSide(m_shooterTeam);
   }
   [[nodiscard]] Answer answer(const FittingJersey& fitting) const;
 
@@ -96,7 +97,7 @@ class FollowUpQuestion {
   bool m_hasTeam = false;
   bool m_canBlock = false;
   bool m_isBlock = false;
-  int m_shooterTeam = 0;
+  Side m_shooterTeam = Side::Visitor;
   int m_shooter = 0;
   std::vector<Choice> m_choices;
   std::string m_typed;

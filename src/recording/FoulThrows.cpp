@@ -15,7 +15,7 @@ constexpr std::string_view kOffensive = "O"; // for which nobody shoots
 
 } // namespace
 
-void FoulThrows::begin(const LiveGame& game, const EventPlace& foul, int team, int shooter) {
+void FoulThrows::begin(const LiveGame& game, const EventPlace& foul, Side team, int shooter) {
   const GameEvent* found = game.game().events.find(foul);
   m_isOpen = found != nullptr;
   if (!m_isOpen)
@@ -40,7 +40,7 @@ int FoulThrows::usualNumber(const LiveGame& game) const {
     if (!event->isUnderstood || event->isDeleted || event->isOfTeam() || event->code == EventCode::ARRET ||
         event->code == EventCode::SA)
       continue;
-    const RosterPlayer* who = game.game().roster[static_cast<std::size_t>(m_team)].player(m_shooter);
+    const RosterPlayer* who = game.game().roster[m_team].player(m_shooter);
     const bool isHis = event->isShot() && event->code != EventCode::GFT && who != nullptr &&
                        event->player.team == m_team && event->player.jersey == who->jersey &&
                        event->clockSeconds - foul->clockSeconds <= kLongestReaction;
@@ -79,7 +79,7 @@ void FoulThrows::gameChanged(const LiveGame& game) {
 }
 
 bool FoulThrows::isInBonus(const LiveGame& game) const {
-  return hooptab::isInBonus(game.game().details, LiveFigures(game).teamFouls(1 - m_team) - 1);
+  return hooptab::isInBonus(game.game().details, LiveFigures(game).teamFouls(otherSide(m_team)) - 1);
 }
 
 // Of a foul at the buzzer they belong to the period that it has ended.

@@ -3,6 +3,7 @@
 // Knows no window.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/LiveGame.h"
 
 #include <string>
@@ -16,14 +17,14 @@ class FoulThrows {
   static constexpr int kMost = 3;
 
   // The usual number is proposed: one behind a basket or for a technical foul, three behind a missed three.
-  void begin(const LiveGame& game, const EventPlace& foul, int team, int shooter);
+  void begin(const LiveGame& game, const EventPlace& foul, Side team, int shooter);
   void end() { m_isOpen = false; }
   bool isOpen() const { return m_isOpen; }
   // After a change of the game: ends with the last throw, and when the foul is gone or an offensive one, or
   // the ball in play. What happens between two throws, substitutions and time-outs, does not disturb.
   void gameChanged(const LiveGame& game);
 
-  int team() const { return m_team; } // who shoots
+  Side team() const { return m_team; } // who shoots
   int shooter() const { return m_shooter; }
   int awarded() const { return m_awarded; }
   const std::vector<bool>& taken() const { return m_taken; } // whether each was made
@@ -42,7 +43,7 @@ class FoulThrows {
 
   bool m_isOpen = false;
   EventPlace m_foul;
-  int m_team = 0;
+  Side m_team = Side::Visitor;
   int m_shooter = 0;
   int m_awarded = 0;
   bool m_hasKinds = false;

@@ -51,7 +51,7 @@ std::string GameEditing::textOf(const Counted& counted, const GameEvent* old) co
   const EventKind* kind = kindOf(counted.kind);
   const bool isTimeOut = counted.kind == EventCode::XTO;
   const bool isJump = counted.kind == EventCode::XJB;
-  if (kind == nullptr || (counted.team < 0 && !isTimeOut) ||
+  if (kind == nullptr || (!counted.team && !isTimeOut) ||
       (isJump && (old == nullptr || old->code != EventCode::XJB)))
     return {};
   std::string text;
@@ -60,11 +60,10 @@ std::string GameEditing::textOf(const Counted& counted, const GameEvent* old) co
   } else if (kind->isOfTeam) {
     text = teamEventText(counted.kind, counted.team);
   } else {
-    const RosterPlayer* who =
-        m_log.game().roster[static_cast<std::size_t>(counted.team)].player(counted.player);
+    const RosterPlayer* who = m_log.game().roster[*counted.team].player(counted.player);
     if (who == nullptr)
       return {};
-    text = eventText(counted.kind, counted.isMade, counted.team, who->jersey, counted.place);
+    text = eventText(counted.kind, counted.isMade, *counted.team, who->jersey, counted.place);
   }
   if (old != nullptr && !isJump)
     text = withDetailsOf(*old, text, counted.kind, counted.team);
@@ -141,7 +140,7 @@ EditPlan GameEditing::substitution(const EventPlace& at, Where where, const OnCo
   const Rosters rosters = m_log.rosters();
   OnCourt lists = where == Where::Before ? inForceBefore(m_log.game().events, at.period, at.key, rosters)
                                          : inForce(m_log.game().events, at.period, at.key, rosters);
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const unsigned twice = (out[team] & ~lists[team]) | (in[team] & lists[team]);
     lists[team] = (lists[team] & ~out[team]) | in[team];
     if (twice != 0)

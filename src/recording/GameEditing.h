@@ -3,6 +3,7 @@
 // written; the live game takes a plan and remembers how it is taken back.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/EventEdit.h"
 #include "recording/LiveLog.h"
 
@@ -28,9 +29,9 @@ class GameEditing {
   enum class Where { Before, Behind };
   struct Counted {
     EventCode kind = EventCode::Unknown;
-    bool isMade = false; // shots
-    int team = 0;        // of a time-out also -1, nobody's
-    int player = 0;      // entry; of what a team does 0
+    bool isMade = false;                      // shots
+    std::optional<Side> team = Side::Visitor; // of a time-out also none: nobody's
+    int player = 0;                           // entry; of what a team does 0
     std::optional<std::pair<double, double>> place = std::nullopt;
     // Keys and values that become others; an empty value takes one away.
     std::vector<std::pair<std::string, std::string>> details = {};

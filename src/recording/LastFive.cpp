@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 struct OtherGame {
   std::string date;
   std::string name; // of the file
-  std::size_t side = 0;
+  Side side = Side::Visitor;
   ProfileText text;
 };
 
@@ -47,9 +47,9 @@ std::vector<std::string> otherGames(FileSystem& files, const std::string& path) 
 }
 
 // Which side that team was in the game; nothing where it was none.
-std::optional<std::size_t> sideOf(const ProfileText& text, const GameDetails& details, std::size_t team) {
-  for (const std::size_t side : {0U, 1U}) {
-    const std::string prefix = "EQUIPE" + std::to_string(side);
+std::optional<Side> sideIn(const ProfileText& text, const GameDetails& details, Side team) {
+  for (const Side side : kSides) {
+    const std::string prefix = "EQUIPE" + std::to_string(numberOf(side));
     const auto says = [&](const char* key, const std::string& wanted) {
       return text.value(kDetailsSection, prefix + key).value_or("") == codepage::fromUtf8(wanted);
     };
@@ -60,7 +60,7 @@ std::optional<std::size_t> sideOf(const ProfileText& text, const GameDetails& de
 }
 
 // Of the first stop that has five of that side; nobody without one.
-std::vector<ListedPlayer> firstFive(const Game& game, std::size_t side) {
+std::vector<ListedPlayer> firstFive(const Game& game, Side side) {
   for (const GameEvent& event : game.events) {
     if (!event.isUnderstood || event.isDeleted || event.code != EventCode::ARRET)
       continue;
@@ -85,9 +85,8 @@ unsigned entriesOf(const std::vector<ListedPlayer>& listed, const Roster& roster
 
 } // namespace
 
-std::optional<LastFive> LastFive::of(FileSystem& files, const Game& game, int team) {
-  const auto side = static_cast<std::size_t>(team);
-  const Roster& roster = game.roster[side];
+std::optional<LastFive> LastFive::of(FileSystem& files, const Game& game, Side team) {
+  const Roster& roster = game.roster[team];
   if (isTeamItself(roster))
     return std::nullopt;
   std::vector<OtherGame> others;
@@ -97,7 +96,7 @@ std::optional<LastFive> LastFive::of(FileSystem& files, const Game& game, int te
     if (readWholeFile(files, path, bytes, stamp) != ReadOutcome::Read)
       continue;
     ProfileText text(std::move(bytes));
-    if (const auto found = isGame(text) ? sideOf(text, game.details, side) : std::nullopt)
+    if (const auto found = isGame(text) ? sideIn(text, game.details, team) : std::nullopt)
       others.push_back({std::string(text.value(kDetailsSection, "DATE").value_or("")),
                         fs::path(path).filename().string(), *found, std::move(text)});
   }
@@ -114,7 +113,7 @@ std::optional<LastFive> LastFive::of(FileSystem& files, const Game& game, int te
     if (std::popcount(players) != kMostOnCourt)
       return std::nullopt;
     return LastFive{players, jerseysOnCourt(roster.listOf(players), roster), last.details.date,
-                    last.details.abbreviation[1 - other.side]};
+                    last.details.abbreviation[otherSide(other.side)]};
   }
   return std::nullopt;
 }

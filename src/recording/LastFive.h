@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/GameFile.h"
+#include "game/Side.h"
 #include "storage/FileSystem.h"
 
 #include <cstddef>
@@ -22,7 +23,7 @@ struct LastFive {
   // Its last game is the one of the latest date, of equal dates the last by file name, in which a team of the
   // same abbreviation and category has five on court at some stop: the first of these lists. None where there
   // is no such game, and where not all five have their numbers in this roster.
-  [[nodiscard]] static std::optional<LastFive> of(FileSystem& files, const Game& game, int team);
+  [[nodiscard]] static std::optional<LastFive> of(FileSystem& files, const Game& game, Side team);
 };
 
 } // namespace hooptab

@@ -12,24 +12,22 @@ bool LiveFigures::isTimeOpen() const {
 }
 
 // What the tally will credit to those on court with the next stop.
-int LiveFigures::secondsSinceLists(std::size_t team) const {
+int LiveFigures::secondsSinceLists(Side team) const {
   return isTimeOpen() ? m_game.state().lineStartClock[team] - m_game.clockSeconds() : 0;
 }
 
 // What the tally has credited, and what has passed since the player's line came on court.
-int LiveFigures::secondsOnCourt(int team, int player) const {
-  const auto side = static_cast<std::size_t>(team);
+int LiveFigures::secondsOnCourt(Side team, int player) const {
   const GameState& counted = m_game.state();
-  const auto onCourt = std::span(counted.onCourt[side]).first(counted.onCourtCount[side]);
+  const auto onCourt = std::span(counted.onCourt[team]).first(counted.onCourtCount[team]);
   const bool isOn = std::ranges::find(onCourt, static_cast<std::uint8_t>(player)) != onCourt.end();
-  const int seconds = counted.players[side][static_cast<std::size_t>(player)].seconds;
-  return std::max(seconds + (isOn ? secondsSinceLists(side) : 0), 0);
+  const int seconds = counted.players[team][static_cast<std::size_t>(player)].seconds;
+  return std::max(seconds + (isOn ? secondsSinceLists(team) : 0), 0);
 }
 
-int LiveFigures::secondsOfLine(int team) const {
-  const auto side = static_cast<std::size_t>(team);
-  const std::size_t line = m_game.state().currentLine[side];
-  return line == 0 ? 0 : std::max(m_game.state().lines[side][line].seconds + secondsSinceLists(side), 0);
+int LiveFigures::secondsOfLine(Side team) const {
+  const std::size_t line = m_game.state().currentLine[team];
+  return line == 0 ? 0 : std::max(m_game.state().lines[team][line].seconds + secondsSinceLists(team), 0);
 }
 
 int LiveFigures::secondsInLead(LeadState which) const {
@@ -40,19 +38,18 @@ int LiveFigures::secondsInLead(LeadState which) const {
   return std::max(seconds, 0);
 }
 
-int LiveFigures::teamFouls(int team) const {
+int LiveFigures::teamFouls(Side team) const {
   return hooptab::teamFouls(m_game.game().details, m_game.state(), team, m_game.period());
 }
 
-bool LiveFigures::isInBonus(int team) const {
+bool LiveFigures::isInBonus(Side team) const {
   return hooptab::isInBonus(m_game.game().details, teamFouls(team));
 }
 
-bool LiveFigures::isFouledOut(int team, int player) const {
-  const auto side = static_cast<std::size_t>(team);
+bool LiveFigures::isFouledOut(Side team, int player) const {
   return hooptab::isFouledOut(
       m_game.game().details,
-      PlayerFouls::of(m_game.state().players[side][static_cast<std::size_t>(player)].counters));
+      PlayerFouls::of(m_game.state().players[team][static_cast<std::size_t>(player)].counters));
 }
 
 } // namespace hooptab

@@ -2,6 +2,7 @@
 // since is added. A look at the game that holds nothing of its own.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/LiveGame.h"
 
 namespace hooptab {
@@ -10,18 +11,18 @@ class LiveFigures {
  public:
   explicit LiveFigures(const LiveGame& game) : m_game(game) {}
 
-  [[nodiscard]] int secondsOnCourt(int team, int player) const;
-  [[nodiscard]] int secondsOfLine(int team) const; // that those on court have played together; 0 for nobody
+  [[nodiscard]] int secondsOnCourt(Side team, int player) const;
+  [[nodiscard]] int secondsOfLine(Side team) const; // that those on court have played together; 0 for nobody
   [[nodiscard]] int secondsInLead(LeadState state) const;
   // Of the period; of all overtimes with the last regular period where kept.
-  [[nodiscard]] int teamFouls(int team) const;
-  [[nodiscard]] bool isInBonus(int team) const; // the team whose fouls have reached the limit
-  [[nodiscard]] bool isFouledOut(int team, int player) const;
+  [[nodiscard]] int teamFouls(Side team) const;
+  [[nodiscard]] bool isInBonus(Side team) const; // the team whose fouls have reached the limit
+  [[nodiscard]] bool isFouledOut(Side team, int player) const;
 
  private:
   // The next stop will credit what has passed, to those on court and to the lead.
   [[nodiscard]] bool isTimeOpen() const;
-  [[nodiscard]] int secondsSinceLists(std::size_t team) const;
+  [[nodiscard]] int secondsSinceLists(Side team) const;
 
   const LiveGame& m_game;
 };

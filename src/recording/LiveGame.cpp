@@ -90,7 +90,7 @@ void LiveGame::showAsLeft() {
   // A team that is its own one player stands on court from the beginning.
   const OnCourt before = onCourt();
   OnCourt whole = before;
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     if (isTeamItself(game().roster[team]))
       whole[team] = 1U << 1U;
   }
@@ -171,7 +171,7 @@ void LiveGame::start() {
   m_history.forgetStarts();
   std::vector<EventChange> steps;
   if (turnsArrow())
-    steps.push_back(added(lineOf(teamEventText(EventCode::XAR, 1 - *arrow()))));
+    steps.push_back(added(lineOf(teamEventText(EventCode::XAR, otherSide(*arrow())))));
   const int number = m_log.nextNumber();
   steps.push_back(added(lineOf(startText())));
   m_log.change(steps, wallClock());
@@ -340,23 +340,23 @@ bool LiveGame::setDetails(const std::vector<std::pair<std::string, std::string>>
   return true;
 }
 
-void LiveGame::setTeamColour(int team, std::uint32_t colour) {
-  setDetails({{"EQUIPE" + std::to_string(team) + "COL", std::to_string(colour)}});
+void LiveGame::setTeamColour(Side team, std::uint32_t colour) {
+  setDetails({{"EQUIPE" + std::to_string(numberOf(team)) + "COL", std::to_string(colour)}});
 }
 
 // --- Players
 
-bool LiveGame::toggleOnCourt(int team, int player) {
-  if (game().roster[static_cast<std::size_t>(team)].player(player) == nullptr)
+bool LiveGame::toggleOnCourt(Side team, int player) {
+  if (game().roster[team].player(player) == nullptr)
     return false;
   OnCourt wanted = onCourt();
-  wanted[static_cast<std::size_t>(team)] ^= 1U << static_cast<unsigned>(player);
+  wanted[team] ^= 1U << static_cast<unsigned>(player);
   return changeByClick(wanted);
 }
 
-bool LiveGame::takeAllOut(int team) {
+bool LiveGame::takeAllOut(Side team) {
   OnCourt wanted = onCourt();
-  wanted[static_cast<std::size_t>(team)] = 0;
+  wanted[team] = 0;
   return changeByClick(wanted);
 }
 
@@ -370,7 +370,8 @@ bool LiveGame::putInSlot(int slot, int player) {
 }
 
 bool LiveGame::mayStand(const OnCourt& wanted) const {
-  return canRecord() && std::popcount(wanted[0]) <= kMostOnCourt && std::popcount(wanted[1]) <= kMostOnCourt;
+  return canRecord() && std::popcount(wanted[Side::Visitor]) <= kMostOnCourt &&
+         std::popcount(wanted[Side::Home]) <= kMostOnCourt;
 }
 
 bool LiveGame::changeByClick(const OnCourt& wanted) {
@@ -387,19 +388,17 @@ bool LiveGame::changeByClick(const OnCourt& wanted) {
 // In each team that changes five stand, or all who may: who has fouled out cannot come. What was clicked back
 // is whole, too.
 bool LiveGame::isWhole(const OnCourt& wanted) const {
-  for (int team = 0; team < 2; ++team) {
-    const auto side = static_cast<std::size_t>(team);
-    if (wanted[side] != m_pending->before[side] && std::popcount(wanted[side]) < fullNumber(team))
+  for (const Side team : kSides) {
+    if (wanted[team] != m_pending->before[team] && std::popcount(wanted[team]) < fullNumber(team))
       return false;
   }
   return true;
 }
 
-int LiveGame::fullNumber(int team) const {
+int LiveGame::fullNumber(Side team) const {
   int canPlay = 0;
   for (int player = 1; player <= Roster::kLargestEntry; ++player)
-    canPlay += game().roster[static_cast<std::size_t>(team)].player(player) != nullptr &&
-                       !LiveFigures(*this).isFouledOut(team, player)
+    canPlay += game().roster[team].player(player) != nullptr && !LiveFigures(*this).isFouledOut(team, player)
                    ? 1
                    : 0;
   return std::min(kMostOnCourt, canPlay);
@@ -484,10 +483,10 @@ bool LiveGame::record(const std::string& eventText, Text text) {
   return true;
 }
 
-bool LiveGame::recordShot(int team, int player, EventCode kind, bool isMade,
+bool LiveGame::recordShot(Side team, int player, EventCode kind, bool isMade,
                           std::optional<std::pair<double, double>> place) {
   const EventKind* shot = kindOf(kind);
-  const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
+  const RosterPlayer* who = game().roster[team].player(player);
   if (shot == nullptr || !shot->isShot || who == nullptr)
     return false;
   std::string text = eventText(kind, isMade, team, who->jersey, place);
@@ -499,9 +498,9 @@ bool LiveGame::recordShot(int team, int player, EventCode kind, bool isMade,
   return true;
 }
 
-bool LiveGame::recordAction(int team, int player, EventCode kind) {
+bool LiveGame::recordAction(Side team, int player, EventCode kind) {
   const EventKind* action = kindOf(kind);
-  const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
+  const RosterPlayer* who = game().roster[team].player(player);
   if (action == nullptr || action->isShot || action->isOfTeam || who == nullptr)
     return false;
   std::string text = eventText(kind, false, team, who->jersey);
@@ -510,7 +509,7 @@ bool LiveGame::recordAction(int team, int player, EventCode kind) {
   return record(text, action->wordsText);
 }
 
-bool LiveGame::recordFollowUp(const EventPlace& event, int team, int player, EventCode kind) {
+bool LiveGame::recordFollowUp(const EventPlace& event, Side team, int player, EventCode kind) {
   const EventPlace place = event; // which what is recorded replaces
   writePending();                 // before a number is given to what follows
   if (place.period == period())

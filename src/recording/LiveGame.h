@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/FreeThrows.h"
+#include "game/Side.h"
 #include "recording/CourtSlots.h"
 #include "recording/GameEditing.h"
 #include "recording/GameFlow.h"
@@ -90,19 +91,19 @@ class LiveGame {
   void finish(const std::string& notes);
   void saveNotes(const std::string& notes);
   void reopen();
-  void setTeamColour(int team, std::uint32_t colour); // as files keep colours
+  void setTeamColour(Side team, std::uint32_t colour); // as files keep colours
   // Keys of the game's details with their values, which an empty one clears; what belongs to nobody's action.
   bool setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
   // How much is asked for; it can be changed at any time, and what was recorded stays.
   RecordingLevel level() const { return game().details.recordingLevel(); }
 
   // --- Players
-  static int teamOf(int slot) { return CourtSlots::teamOf(slot); }
+  static Side teamOf(int slot) { return CourtSlots::teamOf(slot); }
   int playerIn(int slot) const { return m_slots.playerIn(slot); } // 0: nobody
-  std::optional<int> slotOf(int team, int player) const { return m_slots.slotOf(team, player); }
+  std::optional<int> slotOf(Side team, int player) const { return m_slots.slotOf(team, player); }
   // IN or OUT by one click. False: no such player, five are on court, or nothing can be recorded. While the
   // clock runs, what leaves fewer on court than could play is pending.
-  bool toggleOnCourt(int team, int player);
+  bool toggleOnCourt(Side team, int player);
   // A substitution of which only a part was clicked. It is on court here, and written with the clock of its
   // first click when it is whole, before whatever is recorded next, or after some seconds.
   struct Pending {
@@ -116,9 +117,9 @@ class LiveGame {
   bool writePending();
   // Several at once, both teams as they shall stand; one event. More than five of a team is refused.
   bool setOnCourt(const OnCourt& onCourt);
-  bool takeAllOut(int team);
+  bool takeAllOut(Side team);
   // How many of a team can stand on court: five, or all who have not fouled out.
-  [[nodiscard]] int fullNumber(int team) const;
+  [[nodiscard]] int fullNumber(Side team) const;
   // IN of a player of that slot's team; where places are kept he takes exactly this one. False: he is on
   // court or nobody, the slot is taken, or nothing can be recorded.
   bool putInSlot(int slot, int player);
@@ -130,21 +131,21 @@ class LiveGame {
   // A player who came late, or was forgotten, behind all others of his team; on the bench. In the file at
   // once, and no action that could be taken back: his events can be, and he stays. Events and lists that name
   // his number already count for him from then on. Jersey and name come trimmed; the name may be empty.
-  [[nodiscard]] NewPlayer addPlayer(int team, std::string_view jersey, std::string_view name);
+  [[nodiscard]] NewPlayer addPlayer(Side team, std::string_view jersey, std::string_view name);
 
   // --- What is counted
   // Of a player on court or on the bench, who can be given a technical foul. The place in left-hand
   // orientation; none for kinds without one. False: no such player (an empty slot), or nothing can be
   // recorded.
-  bool recordShot(int team, int player, EventCode kind, bool isMade,
+  bool recordShot(Side team, int player, EventCode kind, bool isMade,
                   std::optional<std::pair<double, double>> place = std::nullopt);
-  bool recordAction(int team, int player, EventCode kind);
+  bool recordAction(Side team, int player, EventCode kind);
   // The assist or rebound of the shot that was recorded last, or what follows another event: behind it when
   // its period has ended since.
-  bool recordFollowUp(int team, int player, EventCode kind) {
+  bool recordFollowUp(Side team, int player, EventCode kind) {
     return recordFollowUp(m_lastShot, team, player, kind);
   }
-  bool recordFollowUp(const EventPlace& event, int team, int player, EventCode kind);
+  bool recordFollowUp(const EventPlace& event, Side team, int player, EventCode kind);
   const EventPlace& lastShot() const { return m_lastShot; } // that was recorded here; period 0: none
   // What was recorded here last, a shot or anything else.
   const EventPlace& lastAdded() const { return m_lastAdded; }
@@ -152,16 +153,16 @@ class LiveGame {
   // --- What a league's sheet holds beside that
   // Keys of details with their values.
   using Details = std::vector<std::pair<std::string_view, std::string>>;
-  // What a team does and none of its players; team -1: nobody's time-out.
-  bool recordOfTeam(int team, EventCode kind, const Details& details = {});
+  // What a team does and none of its players; without a team: nobody's time-out.
+  bool recordOfTeam(std::optional<Side> team, EventCode kind, const Details& details = {});
   // What more is known of an event; an empty value takes a detail away. Is taken back with the event while
   // that is the last action.
   bool setDetailsOf(const EventPlace& event, const Details& details);
   // The throw of that number, where it is known: two fouls at one clock are not always shot in their order.
-  bool recordFreeThrow(int team, int player, bool isMade, int number, int awarded);
+  bool recordFreeThrow(Side team, int player, bool isMade, int number, int awarded);
   // The turnover that was recorded last was nobody's in particular, but his team's.
   bool giveToTeam(const EventPlace& turnover);
-  [[nodiscard]] std::optional<int>
+  [[nodiscard]] std::optional<Side>
   arrow() const; // whose the next held ball is; nobody knows before the first
   // The free throws of the period, as far as they were taken.
   [[nodiscard]] FreeThrows freeThrows() const;
@@ -178,7 +179,7 @@ class LiveGame {
       return assist.empty() && offensiveRebound.empty() && defensiveRebound.empty() && opponents.empty();
     }
   };
-  FollowUps followUps(int team, int player, EventCode kind, bool isMade, bool asksRebounds) const;
+  FollowUps followUps(Side team, int player, EventCode kind, bool isMade, bool asksRebounds) const;
 
   // --- Taking back
   // A start of the clock in this session, with nothing but events of the clock behind it and its period not
@@ -223,13 +224,13 @@ class LiveGame {
 
  private:
   [[nodiscard]] int lengthOf(int period) const;
-  [[nodiscard]] bool isTied() const { return state().points(0) == state().points(1); }
+  [[nodiscard]] bool isTied() const { return state().points(Side::Visitor) == state().points(Side::Home); }
   void standIn(int period);                               // the whole of it before it
   std::string lineOf(const std::string& eventText) const; // at the present clock
   EventChange added(const std::string& line);
   bool record(const std::string& eventText, Text text);
   [[nodiscard]] std::string withNumberOfThrow(std::string eventText, const PlayerReference& thrower) const;
-  [[nodiscard]] std::string withBlockedShot(std::string eventText, int team) const;
+  [[nodiscard]] std::string withBlockedShot(std::string eventText, Side team) const;
   [[nodiscard]] bool turnsArrow() const;
   [[nodiscard]] bool isLastThrow() const;
   void recordStop(std::optional<std::int64_t> when);
@@ -239,7 +240,7 @@ class LiveGame {
   void showAsLeft();
   void putOnCourt(const OnCourt& lists) { m_slots.put(lists); }
   void comeAndGo();
-  bool keepListsMeaning(int team, const RosterPlayer& added);
+  bool keepListsMeaning(Side team, const RosterPlayer& added);
   bool mayStand(const OnCourt& wanted) const;
   bool changeByClick(const OnCourt& wanted);
   bool isWhole(const OnCourt& wanted) const;

@@ -197,7 +197,7 @@ bool LiveGame::acceptFinding(const EventPlace& event, int finding) {
 
 // --- Players who are added
 
-NewPlayer LiveGame::addPlayer(int team, std::string_view jersey, std::string_view name) {
+NewPlayer LiveGame::addPlayer(Side team, std::string_view jersey, std::string_view name) {
   NewPlayer added = NewPlayer::of(game(), team, jersey, name);
   if (!canRecord())
     added = {.problem = NewPlayer::Problem::CannotRecord, .team = team};
@@ -215,17 +215,17 @@ NewPlayer LiveGame::addPlayer(int team, std::string_view jersey, std::string_vie
 }
 
 // Lists write 00 as 000 once there is a 0, too: those before would name the newcomer in his place.
-bool LiveGame::keepListsMeaning(int team, const RosterPlayer& added) {
+bool LiveGame::keepListsMeaning(Side team, const RosterPlayer& added) {
   if (Roster::jerseyNumber(added.jersey) != 0)
     return false;
-  const Roster& before = game().roster[static_cast<std::size_t>(team)];
+  const Roster& before = game().roster[team];
   Roster after = before;
   after.add(added);
   std::vector<EventChange> steps;
   for (const GameEvent& event : game().events) {
     if (!isStop(event))
       continue;
-    const std::string_view list = event.onCourt(static_cast<std::size_t>(team));
+    const std::string_view list = event.onCourt(team);
     std::string renamed;
     bool isOther = false;
     for (const std::string_view jersey : Module1::JerseysOfList(list)) {

@@ -9,10 +9,10 @@
 
 namespace hooptab {
 
-bool LiveGame::recordOfTeam(int team, EventCode kind, const Details& details) {
+bool LiveGame::recordOfTeam(std::optional<Side> team, EventCode kind, const Details& details) {
   const EventKind* what = kindOf(kind);
   const bool needsTeam = kind != EventCode::XTO;
-  if (what == nullptr || !what->isOfTeam || kind == EventCode::XJB || (needsTeam && team < 0))
+  if (what == nullptr || !what->isOfTeam || kind == EventCode::XJB || (needsTeam && !team))
     return false;
   std::string text = teamEventText(kind, team);
   for (const auto& [key, value] : details)
@@ -39,8 +39,8 @@ bool LiveGame::setDetailsOf(const EventPlace& event, const Details& details) {
   return true;
 }
 
-bool LiveGame::recordFreeThrow(int team, int player, bool isMade, int number, int awarded) {
-  const RosterPlayer* who = game().roster[static_cast<std::size_t>(team)].player(player);
+bool LiveGame::recordFreeThrow(Side team, int player, bool isMade, int number, int awarded) {
+  const RosterPlayer* who = game().roster[team].player(player);
   if (who == nullptr ||
       !record(withDetail(eventText(EventCode::GFT, isMade, team, who->jersey), detail_key::kNumberOfThrow,
                          std::to_string(number) + '/' + std::to_string(awarded)),
@@ -60,12 +60,12 @@ bool LiveGame::giveToTeam(const EventPlace& turnover) {
   return replaceEvent(turnover, found->clockSeconds, text);
 }
 
-std::optional<int> LiveGame::arrow() const {
+std::optional<Side> LiveGame::arrow() const {
   const EventList& events = game().events;
   const auto last = std::find_if(events.rbegin(), events.rend(), [](const GameEvent& event) {
     return event.isUnderstood && !event.isDeleted && event.code == EventCode::XAR;
   });
-  return last == events.rend() ? std::nullopt : std::optional(last->player.team);
+  return last == events.rend() ? std::nullopt : last->player.team;
 }
 
 // Every period but the first begins with the ball for the team that has the arrow, which then turns: once,
@@ -103,7 +103,7 @@ std::string LiveGame::withNumberOfThrow(std::string eventText, const PlayerRefer
 }
 
 // A block follows the miss that it was, or the rebound of it, or the whistle.
-std::string LiveGame::withBlockedShot(std::string eventText, int team) const {
+std::string LiveGame::withBlockedShot(std::string eventText, Side team) const {
   if (level() == RecordingLevel::Basic)
     return eventText;
   const auto events = game().events.ofPeriod(period());
@@ -114,12 +114,13 @@ std::string LiveGame::withBlockedShot(std::string eventText, int team) const {
     if (!event->isShot() || event->isMade || event->code == EventCode::GFT || event->player.team == team)
       break;
     return withDetail(eventText, detail_key::kShooter,
-                      std::to_string(event->player.team) + '-' + std::string(event->player.jersey));
+                      std::to_string(numberOf(*event->player.team)) + '-' +
+                          std::string(event->player.jersey));
   }
   return eventText;
 }
 
-LiveGame::FollowUps LiveGame::followUps(int team, int player, EventCode kind, bool isMade,
+LiveGame::FollowUps LiveGame::followUps(Side team, int player, EventCode kind, bool isMade,
                                         bool asksRebounds) const {
   FollowUps result;
   const EventKind* what = kindOf(kind);

@@ -30,7 +30,7 @@ GameFileProblem LiveLog::open(const std::string& path) {
   m_game = std::move(game);
   // What another game still had to write is its own affair, and was asked about.
   m_disk.open(path, file.text());
-  m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
+  m_tally.emplace(m_state, m_game.roster[Side::Visitor], m_game.roster[Side::Home]);
   countAll();
   m_news = {};
   m_news.isOpened = true;
@@ -82,7 +82,7 @@ void LiveLog::setDetails(const std::vector<std::pair<std::string, std::string>>&
   m_disk.set(kDetailsSection, keysAndValues, m_game.events);
 }
 
-void LiveLog::addPlayer(int team, RosterPlayer player) {
+void LiveLog::addPlayer(Side team, RosterPlayer player) {
   const GameOnDisk::Values value = {{player.jersey, playerValue(player)}};
   m_game.roster[team].add(std::move(player));
   m_disk.set(rosterSection(team), value, m_game.events);
@@ -130,12 +130,12 @@ ForeignHands LiveLog::takeForeignHands() {
   readGame(m_disk.text(), theirs);
   m_game.details = std::move(theirs.details);
   m_game.accepted = std::move(theirs.accepted);
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     m_game.roster[team] = std::move(theirs.roster[team]);
   m_game.events = mergeGame(m_game.events, m_disk.text(), m_disk.text()).events;
   for (const GameEvent& event : m_game.events)
     m_nextNumber = std::max(m_nextNumber, Module1::leadingNumber(event.key) + 1);
-  m_tally.emplace(m_state, m_game.roster[0], m_game.roster[1]);
+  m_tally.emplace(m_state, m_game.roster[Side::Visitor], m_game.roster[Side::Home]);
   countAll();
   m_news.hasOtherCounts = true;
   m_news.details = true;
@@ -154,14 +154,14 @@ void LiveLog::countAll() {
 
 std::string LiveLog::difference() const {
   GameState fresh;
-  (void)Tally::run(fresh, m_game.events, m_game.roster[0], m_game.roster[1]);
+  (void)Tally::run(fresh, m_game.events, m_game.roster[Side::Visitor], m_game.roster[Side::Home]);
   std::string found;
   const auto compare = [&found](const std::string& what, const auto& left, const auto& right) {
     if (!(left == right))
       found += (found.empty() ? "" : ", ") + what;
   };
-  for (std::size_t team = 0; team < 2; ++team) {
-    const std::string side = "team " + std::to_string(team) + " ";
+  for (const Side team : kSides) {
+    const std::string side = "team " + std::to_string(numberOf(team)) + " ";
     const auto compareEntries = [&](const std::string& what, const auto& left, const auto& right) {
       for (std::size_t entry = 0; entry < left.size(); ++entry) {
         const std::string name = side + what + std::to_string(entry);
@@ -171,7 +171,7 @@ std::string LiveLog::difference() const {
     };
     compareEntries("player ", fresh.players[team], m_state.players[team]);
     compareEntries("line ", fresh.lines[team], m_state.lines[team]);
-    compare(side + "points", fresh.points(static_cast<int>(team)), m_state.points(static_cast<int>(team)));
+    compare(side + "points", fresh.points(team), m_state.points(team));
     for (std::size_t period = 0; period < fresh.periods[team].size(); ++period)
       compare(side + "fouls of period " + std::to_string(period), fresh.periods[team][period].fouls,
               m_state.periods[team][period].fouls);

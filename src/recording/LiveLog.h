@@ -6,6 +6,7 @@
 
 #include "game/GameFile.h"
 #include "game/GameOnDisk.h"
+#include "game/Side.h"
 #include "game/Tally.h"
 #include "recording/GameNews.h"
 #include "recording/OnCourt.h"
@@ -28,7 +29,7 @@ class LiveLog {
 
   const Game& game() const { return m_game; }
   const GameState& state() const { return m_state; }
-  Rosters rosters() const { return {m_game.roster[0], m_game.roster[1]}; }
+  Rosters rosters() const { return {m_game.roster[Side::Visitor], m_game.roster[Side::Home]}; }
   const std::optional<CountOutOfRange>& outOfRange() const { return m_tally->outOfRange(); }
 
   // The number of the next new event; each is given out once.
@@ -40,7 +41,7 @@ class LiveLog {
   // Keys of DETAILS and their values; the details in memory follow.
   void setDetails(const std::vector<std::pair<std::string, std::string>>& keysAndValues);
   // One player more, behind all others, who counts from the first event on that names him.
-  void addPlayer(int team, RosterPlayer player);
+  void addPlayer(Side team, RosterPlayer player);
   // Findings of an event that count no longer as such, by the numbers of their texts; until the event
   // changes.
   void accept(int event, const std::vector<int>& findings);

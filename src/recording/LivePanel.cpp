@@ -18,24 +18,22 @@ LivePanel::FoulMark foulMark(int count, int limit) {
   return count > 0 && count == limit - 1 ? LivePanel::FoulMark::OneLeft : LivePanel::FoulMark::None;
 }
 
-int personalFoulsOfFirstPeriod(const LiveGame& game, int team, int player) {
+int personalFoulsOfFirstPeriod(const LiveGame& game, Side team, int player) {
   int fouls = 0;
   for (const GameEvent& event : game.game().events) {
     if (event.period > 1)
       break;
     if (event.isUnderstood && !event.isDeleted && event.code == EventCode::SPF && event.player.team == team &&
-        game.game().roster[static_cast<std::size_t>(team)].entryOf(event.player.jersey) == player)
+        game.game().roster[team].entryOf(event.player.jersey) == player)
       ++fouls;
   }
   return fouls;
 }
 
-LivePanel::FoulMark personalFoulMark(const LiveGame& game, int team, int player) {
+LivePanel::FoulMark personalFoulMark(const LiveGame& game, Side team, int player) {
   constexpr int kEarlyFouls = 2;
   const GameDetails& rules = game.game().details;
-  const int count = game.state()
-                        .players[static_cast<std::size_t>(team)][static_cast<std::size_t>(player)]
-                        .counters[Counter::PF];
+  const int count = game.state().players[team][static_cast<std::size_t>(player)].counters[Counter::PF];
   const LivePanel::FoulMark mark = foulMark(count, rules.personalFoulLimit);
   const bool isFirstHalf = game.period() <= std::max(rules.periods / 2, 1);
   if (mark != LivePanel::FoulMark::None || rules.personalFoulLimit <= 0 || count < kEarlyFouls ||
@@ -58,14 +56,13 @@ int sumOfShots(const Counters& counters, Counter EventKind::*which) {
 LivePanel LivePanel::of(const LiveGame& game, int slot) {
   LivePanel panel;
   panel.team = LiveGame::teamOf(slot);
-  const auto side = static_cast<std::size_t>(panel.team);
-  const RosterPlayer* const player = game.game().roster[side].player(game.playerIn(slot));
+  const RosterPlayer* const player = game.game().roster[panel.team].player(game.playerIn(slot));
   if (player == nullptr)
     return panel;
   panel.player = game.playerIn(slot);
   panel.jersey = player->jersey;
   panel.name = player->name;
-  panel.counters = game.state().players[side][static_cast<std::size_t>(panel.player)].counters;
+  panel.counters = game.state().players[panel.team][static_cast<std::size_t>(panel.player)].counters;
   panel.personalFouls = personalFoulMark(game, panel.team, panel.player);
   panel.technicalFouls = foulMark(panel.counters[Counter::TF], game.game().details.technicalFoulLimit);
   panel.timeOnCourt = timeOf(game, slot);
@@ -76,7 +73,7 @@ LivePanel LivePanel::of(const LiveGame& game, int slot) {
   return panel;
 }
 
-LivePanel::FoulMark LivePanel::foulTrouble(const LiveGame& game, int team, int player) {
+LivePanel::FoulMark LivePanel::foulTrouble(const LiveGame& game, Side team, int player) {
   return LiveFigures(game).isFouledOut(team, player) ? FoulMark::Reached
                                                      : personalFoulMark(game, team, player);
 }

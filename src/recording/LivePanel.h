@@ -4,6 +4,7 @@
 
 #include "court/CourtGeometry.h"
 #include "game/GameState.h"
+#include "game/Side.h"
 
 #include <cstdint>
 #include <string>
@@ -28,7 +29,7 @@ struct LivePanel {
     friend bool operator==(const ShotMark&, const ShotMark&) = default;
   };
 
-  int team = 0;
+  Side team = Side::Visitor;
   int player = 0; // entry; 0: an empty panel, where nothing below holds
   std::string jersey;
   std::string name;
@@ -41,7 +42,7 @@ struct LivePanel {
   [[nodiscard]] static LivePanel of(const LiveGame& game, int slot);
   // Of a player on court or on the bench, personal and technical fouls together: Reached where he has fouled
   // out by either, else what his personal fouls say.
-  [[nodiscard]] static FoulMark foulTrouble(const LiveGame& game, int team, int player);
+  [[nodiscard]] static FoulMark foulTrouble(const LiveGame& game, Side team, int player);
   // The part that changes while the clock runs; empty for an empty panel.
   [[nodiscard]] static std::string timeOf(const LiveGame& game, int slot);
 

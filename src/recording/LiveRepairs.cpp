@@ -41,7 +41,7 @@ LiveRepair fiveAt(const Game& game, std::size_t event) {
 }
 
 // The first stop of the period from which not five were on court; else before its last.
-LiveRepair ofTime(const Game& game, std::size_t lastStop, std::size_t team) {
+LiveRepair ofTime(const Game& game, std::size_t lastStop, Side team) {
   constexpr std::size_t kFive = 5;
   for (std::size_t event = 0; event < lastStop; ++event) {
     const GameEvent& stop = game.events[event];
@@ -57,11 +57,11 @@ LiveRepair ofTime(const Game& game, std::size_t lastStop, std::size_t team) {
 std::vector<LiveRepair> repairsOf(const Finding& finding, const Game& game) {
   if (!finding.hasEvent())
     return {};
-  const auto team = static_cast<std::size_t>(std::max(finding.team, 0));
+  const Side team = finding.team.value_or(Side::Visitor);
   switch (finding.kind) {
   case FindingKind::NotOnCourt: {
     LiveRepair substitution = insertionBefore(game, finding.event);
-    substitution.team = finding.team;
+    substitution.team = *finding.team;
     substitution.player = game.roster[team].entryOf(finding.jersey);
     if (substitution.player > 0)
       substitution.text = Text::SubstitutionBefore;
@@ -95,7 +95,7 @@ std::vector<LiveRepair> repairsOf(const Finding& finding, const Game& game) {
 }
 
 std::string wordsOf(const LiveRepair& repair, const Game& game, const Texts& texts) {
-  const RosterPlayer* player = game.roster[static_cast<std::size_t>(repair.team)].player(repair.player);
+  const RosterPlayer* player = game.roster[repair.team].player(repair.player);
   const std::string who =
       player == nullptr ? std::string() : EventWords(game, texts).player({repair.team, player->jersey});
   return texts.withPlaceholder(repair.text, who);

@@ -4,6 +4,7 @@
 
 #include "checks/Finding.h"
 #include "game/GameFile.h"
+#include "game/Side.h"
 #include "recording/Substitution.h"
 #include "settings/Texts.h"
 
@@ -18,7 +19,7 @@ struct LiveRepair {
   Text text = Text::None; // its words; XXX is the player who comes in
   EventPlace event = {};  // to change or delete
   PastSubstitution past = {};
-  int team = 0;
+  Side team = Side::Visitor;
   int player = 0; // entry of who comes in; 0: the user chooses
 };
 

@@ -33,12 +33,12 @@ Text ordinalOf(int number, Language language) {
 
 } // namespace
 
-std::string foulWords(const LiveGame& game, int team, const Texts& texts) {
+std::string foulWords(const LiveGame& game, Side team, const Texts& texts) {
   const int limit = game.game().details.bonus;
   if (limit <= 0)
     return {};
   if (LiveFigures(game).isInBonus(team))
-    return texts.withPlaceholder(Text::ShootTwo, EventWords(game.game(), texts).team(1 - team));
+    return texts.withPlaceholder(Text::ShootTwo, EventWords(game.game(), texts).team(otherSide(team)));
   return texts.withPlaceholder(Text::ToGive, std::to_string(limit - LiveFigures(game).teamFouls(team)));
 }
 
@@ -50,7 +50,7 @@ std::optional<ScoringRun> lastRun(const EventList& events) {
       continue;
     if (run && run->team != event.player.team)
       break;
-    run = ScoringRun{event.player.team, (run ? run->points : 0) + event.kind()->points};
+    run = ScoringRun{*event.player.team, (run ? run->points : 0) + event.kind()->points};
   }
   return run;
 }
@@ -62,8 +62,8 @@ std::string runText(const ScoringRun& run) {
 std::vector<FoulNumber> foulNumbers(const Game& game) {
   std::vector<FoulNumber> numbers;
   numbers.reserve(game.events.size());
-  std::map<std::tuple<int, std::string, EventCode>, int> ofPlayer;
-  std::array<int, 2> ofTeam = {};
+  std::map<std::tuple<Side, std::string, EventCode>, int> ofPlayer;
+  PerSide<int> ofTeam = {};
   std::size_t counted = 0; // the row of the period from which on fouls are counted together
   for (const GameEvent& event : game.events) {
     FoulNumber& number = numbers.emplace_back();
@@ -74,13 +74,13 @@ std::vector<FoulNumber> foulNumbers(const Game& game) {
       ofTeam = {};
       counted = from;
     }
-    const int team = event.player.team;
+    const Side team = *event.player.team;
     const std::string_view jersey = event.player.jersey;
     const Roster& roster = game.roster[team];
     const RosterPlayer* player = roster.player(roster.entryOf(jersey));
     number.ofPlayer =
         ++ofPlayer[{team, player == nullptr ? std::string(jersey) : player->jersey, event.code}];
-    number.ofTeam = ++ofTeam[static_cast<std::size_t>(team)];
+    number.ofTeam = ++ofTeam[team];
   }
   return numbers;
 }

@@ -2,6 +2,7 @@
 // points without answer, and which foul of a player and of his team each one is. Lays out nothing.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/LiveGame.h"
 #include "settings/Texts.h"
 
@@ -12,11 +13,11 @@
 namespace hooptab {
 
 // Of a team's fouls: "2 to give" below the limit, "OLY shoot 2" from it on; empty without a limit.
-[[nodiscard]] std::string foulWords(const LiveGame& game, int team, const Texts& texts);
+[[nodiscard]] std::string foulWords(const LiveGame& game, Side team, const Texts& texts);
 
 // Points of one team since the other has scored last.
 struct ScoringRun {
-  int team = 0;
+  Side team = Side::Visitor;
   int points = 0; // the other has none
   friend bool operator==(const ScoringRun&, const ScoringRun&) = default;
 };

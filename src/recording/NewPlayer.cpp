@@ -22,7 +22,7 @@ std::string storedName(std::string_view name) {
 
 } // namespace
 
-NewPlayer NewPlayer::of(const Game& game, int team, std::string_view jersey, std::string_view name) {
+NewPlayer NewPlayer::of(const Game& game, Side team, std::string_view jersey, std::string_view name) {
   const Roster& roster = game.roster[team];
   NewPlayer result{.team = team, .jersey = std::string(Module1::trimmed(jersey))};
   result.player = {result.jersey, kNoPosition, storedName(name)};

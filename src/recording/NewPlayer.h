@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/GameFile.h"
+#include "game/Side.h"
 #include "settings/Texts.h"
 
 #include <cstdint>
@@ -21,7 +22,7 @@ struct NewPlayer {
     NameTooLong,  // for a value of the file
   };
   Problem problem = Problem::None;
-  int team = 0;
+  Side team = Side::Visitor;
   int entry = 0;            // that he has; 0 with a problem
   std::string jersey = {};  // as given
   std::string wearer = {};  // NumberTaken: "5 Ann Able"
@@ -32,7 +33,7 @@ struct NewPlayer {
   [[nodiscard]] std::string words(const Game& game, const Texts& texts) const;
 
   // Whether such a player could be added to a game that can be recorded.
-  [[nodiscard]] static NewPlayer of(const Game& game, int team, std::string_view jersey,
+  [[nodiscard]] static NewPlayer of(const Game& game, Side team, std::string_view jersey,
                                     std::string_view name);
 };
 

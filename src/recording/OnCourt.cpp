@@ -25,7 +25,8 @@ bool isStop(const GameEvent& event) {
 }
 
 OnCourt listsOf(const GameEvent& stop, const Rosters& rosters) {
-  return {entriesOf(stop.onCourt(0), rosters[0]), entriesOf(stop.onCourt(1), rosters[1])};
+  return {entriesOf(stop.onCourt(Side::Visitor), rosters[Side::Visitor]),
+          entriesOf(stop.onCourt(Side::Home), rosters[Side::Home])};
 }
 
 std::optional<OnCourt> onCourtOf(const GameEvent& event, const Rosters& rosters) {
@@ -58,18 +59,20 @@ bool isSubstitution(const EventList& events, int period, std::string_view key, c
 }
 
 std::string listsText(const OnCourt& onCourt, const Rosters& rosters) {
-  return rosters[0].listOf(onCourt[0]) + ',' + rosters[1].listOf(onCourt[1]);
+  return rosters[Side::Visitor].listOf(onCourt[Side::Visitor]) + ',' +
+         rosters[Side::Home].listOf(onCourt[Side::Home]);
 }
 
 std::string stopText(const OnCourt& onCourt, const Rosters& rosters) {
-  return hooptab::stopText(rosters[0].listOf(onCourt[0]), rosters[1].listOf(onCourt[1]));
+  return hooptab::stopText(rosters[Side::Visitor].listOf(onCourt[Side::Visitor]),
+                           rosters[Side::Home].listOf(onCourt[Side::Home]));
 }
 
 std::string withLists(std::string_view line, const OnCourt& lists, const Rosters& rosters) {
   constexpr std::string_view kCode = ",ARRET"; // behind which a line of others may have no lists at all
   const std::size_t behindCode = line.find(kCode) + kCode.size();
   std::size_t behindLists = behindCode; // and what a later version may have put there
-  for (int team = 0; team < 2 && behindLists < line.size(); ++team)
+  for (std::size_t passed = 0; passed < kSides.size() && behindLists < line.size(); ++passed)
     behindLists = std::min(line.find(',', behindLists + 1), line.size());
   return std::string(line.substr(0, behindCode)) + ',' + listsText(lists, rosters) +
          std::string(line.substr(behindLists));
@@ -82,11 +85,11 @@ std::optional<EventPlace> eventBehind(const EventList& events, const EventPlace&
 
 Carried carryOn(const EventList& events, const EventPlace& from, const OnCourt& before, const OnCourt& after,
                 const Rosters& rosters) {
-  OnCourt added = {after[0] & ~before[0], after[1] & ~before[1]};
-  OnCourt removed = {before[0] & ~after[0], before[1] & ~after[1]};
+  OnCourt added = {after[Side::Visitor] & ~before[Side::Visitor], after[Side::Home] & ~before[Side::Home]};
+  OnCourt removed = {before[Side::Visitor] & ~after[Side::Visitor], before[Side::Home] & ~after[Side::Home]};
   OnCourt previous = before; // as it was, before anything was carried on
   // Fewer than it makes are on court where one who has come already comes a second time.
-  const auto difference = [&](std::size_t team) {
+  const auto difference = [&](Side team) {
     return std::min(std::popcount(after[team]) - std::popcount(before[team]), 0);
   };
   Carried carried;
@@ -96,7 +99,7 @@ Carried carryOn(const EventList& events, const EventPlace& from, const OnCourt& 
       continue;
     const OnCourt lists = listsOf(event, rosters);
     OnCourt changed = lists;
-    for (std::size_t team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       const unsigned changedAnyway = lists[team] ^ previous[team];
       changed[team] = (changed[team] | (added[team] & ~changedAnyway)) & ~(removed[team] & ~changedAnyway);
       if (event.isDeleted)
@@ -117,7 +120,7 @@ Carried carryOn(const EventList& events, const EventPlace& from, const OnCourt& 
     if (changed != lists)
       carried.steps.push_back({EventChange::Kind::Replace, event.period, std::string(event.key),
                                withLists(event.whole(), changed, rosters)});
-    if ((added[0] | added[1] | removed[0] | removed[1]) == 0)
+    if ((added[Side::Visitor] | added[Side::Home] | removed[Side::Visitor] | removed[Side::Home]) == 0)
       break;
   }
   return carried;

@@ -6,6 +6,7 @@
 #include "game/EventList.h"
 #include "game/Roster.h"
 #include "game/Rules.h"
+#include "game/Side.h"
 
 #include <array>
 #include <optional>
@@ -16,12 +17,12 @@
 namespace hooptab {
 
 // Roster entries as bits (bit n for entry n) of both teams.
-using OnCourt = std::array<unsigned, 2>;
+using OnCourt = PerSide<unsigned>;
 
 struct Rosters {
   const Roster& visitors;
   const Roster& home;
-  const Roster& operator[](std::size_t team) const { return team == 0 ? visitors : home; }
+  const Roster& operator[](Side team) const { return team == Side::Visitor ? visitors : home; }
 };
 
 [[nodiscard]] bool isStop(const GameEvent& event); // deleted ones, too
@@ -53,7 +54,7 @@ struct Rosters {
 // A stop whose lists cannot be carried on, which is for the user to decide.
 struct CourtConflict {
   EventPlace event = {};
-  std::size_t team = 0;
+  Side team = Side::Visitor;
   unsigned players = 0; // six or more who would be on court, or who would come in or leave a second time
   bool isTwice = false;
   friend bool operator==(const CourtConflict&, const CourtConflict&) = default;

@@ -48,21 +48,22 @@ std::string startShown(const LiveGame& game, const Texts& texts) {
 ScoreByPeriod scoreByPeriod(const LiveGame& game, const Texts& texts) {
   constexpr int kLastRow = static_cast<int>(GameState::kPeriodRows) - 1;
   const GameState& state = game.state();
-  ScoreByPeriod score{.periods = {}, .points = {state.points(0), state.points(1)}};
+  ScoreByPeriod score{.periods = {}, .points = {state.points(Side::Visitor), state.points(Side::Home)}};
   for (int period = 1; period <= std::min(std::max<int>(state.period, game.period()), kLastRow); ++period) {
     std::string shown = EventWords(game.game(), texts).periodText(period);
     if (period == kLastRow)
       shown += '+'; // shared by all later periods
     const auto row = static_cast<std::size_t>(period);
-    score.periods.push_back({std::move(shown), {state.periods[0][row], state.periods[1][row]}});
+    score.periods.push_back(
+        {std::move(shown), {state.periods[Side::Visitor][row], state.periods[Side::Home][row]}});
   }
   return score;
 }
 
-std::string shownByPeriod(const LiveGame& game, int team, ByPeriod what, const Texts& texts) {
+std::string shownByPeriod(const LiveGame& game, Side team, ByPeriod what, const Texts& texts) {
   std::string result;
   for (const ScoreByPeriod::Row& row : scoreByPeriod(game, texts).periods) {
-    const PeriodEntry& entry = row.ofTeam[static_cast<std::size_t>(team)];
+    const PeriodEntry& entry = row.ofTeam[team];
     result += result.empty() ? "" : "   ";
     result += row.period + ": " + std::to_string(what == ByPeriod::Points ? entry.points : entry.fouls);
   }

@@ -2,6 +2,7 @@
 // points and fouls by period; and what a typed clock means. Lays out nothing.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/LiveGame.h"
 #include "settings/Texts.h"
 
@@ -22,15 +23,15 @@ namespace hooptab {
 struct ScoreByPeriod {
   struct Row {
     std::string period; // as it is shown: "2", "OT1"
-    std::array<PeriodEntry, 2> ofTeam = {};
+    PerSide<PeriodEntry> ofTeam = {};
   };
   std::vector<Row> periods; // up to the present one
-  std::array<int, 2> points = {};
+  PerSide<int> points = {};
 };
 [[nodiscard]] ScoreByPeriod scoreByPeriod(const LiveGame& game, const Texts& texts);
 enum class ByPeriod { Points, Fouls };
 // Of the periods played, "1: 20   2: 18".
-[[nodiscard]] std::string shownByPeriod(const LiveGame& game, int team, ByPeriod what, const Texts& texts);
+[[nodiscard]] std::string shownByPeriod(const LiveGame& game, Side team, ByPeriod what, const Texts& texts);
 
 // "7:05", "07:05", "705" or "0705" in seconds, and "7" or "07" as minutes alone; none for anything else and
 // for more than `longest` seconds.

@@ -10,26 +10,26 @@ namespace hooptab {
 
 namespace {
 
-int onCourtOf(const LiveGame& game, int team) {
-  return std::popcount(game.onCourt()[static_cast<std::size_t>(team)]);
+int onCourtOf(const LiveGame& game, Side team) {
+  return std::popcount(game.onCourt()[team]);
 }
 
 } // namespace
 
-bool awaitsFive(const LiveGame& game, int team) {
+bool awaitsFive(const LiveGame& game, Side team) {
   return game.canRecord() && onCourtOf(game, team) == 0 && game.fullNumber(team) > 0 &&
          std::ranges::none_of(game.game().events, [](const GameEvent& event) {
            return event.isUnderstood && !event.isDeleted && event.code != EventCode::ARRET;
          });
 }
 
-int missingOfFive(const LiveGame& game, int team) {
+int missingOfFive(const LiveGame& game, Side team) {
   return std::max(game.fullNumber(team) - onCourtOf(game, team), 0);
 }
 
 std::string missingWords(const LiveGame& game, const Texts& texts) {
   std::string words;
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const int missing = missingOfFive(game, team);
     if (missing == 0)
       continue;

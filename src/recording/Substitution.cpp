@@ -12,8 +12,7 @@ namespace hooptab {
 namespace {
 
 // The line as bits and text; nobody when it is not five players of the roster who may play.
-Substitution::Line lineOf(const LiveGame& game, std::size_t team, const LineEntry& entry,
-                          unsigned fouledOut) {
+Substitution::Line lineOf(const LiveGame& game, Side team, const LineEntry& entry, unsigned fouledOut) {
   const Roster& roster = game.game().roster[team];
   Substitution::Line line{.seconds = entry.seconds, .jerseys = jerseysOnCourt(entry.list, roster)};
   for (const std::string_view jersey : Module1::countedJerseys(entry.list)) {
@@ -25,7 +24,7 @@ Substitution::Line lineOf(const LiveGame& game, std::size_t team, const LineEntr
   return std::popcount(line.players) == kMostOnCourt ? line : Substitution::Line{};
 }
 
-std::vector<Substitution::Line> linesOf(const LiveGame& game, std::size_t team, unsigned onCourt,
+std::vector<Substitution::Line> linesOf(const LiveGame& game, Side team, unsigned onCourt,
                                         unsigned fouledOut) {
   std::vector<Substitution::Line> lines;
   const auto& entries = game.state().lines[team];
@@ -42,7 +41,7 @@ std::vector<Substitution::Line> linesOf(const LiveGame& game, std::size_t team, 
 
 // Who had reached a limit of fouls at an event of the past.
 OnCourt fouledOutAt(const Game& game, const EventPlace& place) {
-  std::array<std::array<PlayerFouls, Roster::kLargestEntry + 1>, 2> fouls = {};
+  PerSide<std::array<PlayerFouls, Roster::kLargestEntry + 1>> fouls = {};
   OnCourt fouledOut = {};
   for (const GameEvent& event : game.events) {
     if (event.period == place.period && event.key == place.key)
@@ -50,7 +49,7 @@ OnCourt fouledOutAt(const Game& game, const EventPlace& place) {
     const bool isFoul = event.code == EventCode::SPF || event.code == EventCode::STF;
     if (!isFoul || !event.isUnderstood || event.isDeleted)
       continue;
-    const auto team = static_cast<std::size_t>(event.player.team);
+    const Side team = *event.player.team;
     const int entry = game.roster[team].entryOf(event.player.jersey);
     PlayerFouls& ofPlayer = fouls[team][static_cast<std::size_t>(entry)];
     ++(event.code == EventCode::SPF ? ofPlayer.personal : ofPlayer.technical);
@@ -64,10 +63,10 @@ OnCourt fouledOutAt(const Game& game, const EventPlace& place) {
 
 Substitution::Substitution(const LiveGame& game)
     : m_game(game), m_before(game.onCourt()), m_onCourt(m_before) {
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     for (int player = 1; player <= Roster::kLargestEntry; ++player) {
       if (LiveFigures(game).isFouledOut(team, player))
-        m_fouledOut[static_cast<std::size_t>(team)] |= 1U << player;
+        m_fouledOut[team] |= 1U << player;
     }
   }
   fill();
@@ -87,7 +86,7 @@ Substitution::Substitution(const LiveGame& game, const PastSubstitution& past)
 }
 
 void Substitution::fill() {
-  for (std::size_t team = 0; team < m_lines.size(); ++team) {
+  for (const Side team : kSides) {
     for (int player = 1; player <= Roster::kLargestEntry; ++player) {
       if (m_game.game().roster[team].player(player) != nullptr)
         m_rosters[team] |= 1U << player;
@@ -104,7 +103,7 @@ EditPlan Substitution::plan() const {
     return m_game.editing().newLists(m_past->event, m_onCourt);
   OnCourt out = {};
   OnCourt in = {};
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     out[team] = m_before[team] & ~m_onCourt[team];
     in[team] = m_onCourt[team] & ~m_before[team];
   }
@@ -113,14 +112,14 @@ EditPlan Substitution::plan() const {
                                        isBefore ? LiveGame::Where::Before : LiveGame::Where::Behind, out, in);
 }
 
-void Substitution::toggle(int team, int player) {
+void Substitution::toggle(Side team, int player) {
   if (!holds(m_rosters, team, player))
     return;
   m_earlier.push_back(m_onCourt);
-  m_onCourt[static_cast<std::size_t>(team)] ^= 1U << player;
+  m_onCourt[team] ^= 1U << player;
 }
 
-void Substitution::takeLine(int team, std::size_t line) {
+void Substitution::takeLine(Side team, std::size_t line) {
   m_earlier.push_back(m_onCourt);
   take(team, lines(team).at(line).players);
 }
@@ -132,12 +131,12 @@ void Substitution::takeBack() {
   m_earlier.pop_back();
 }
 
-int Substitution::count(int team) const {
-  return std::popcount(m_onCourt[static_cast<std::size_t>(team)]);
+int Substitution::count(Side team) const {
+  return std::popcount(m_onCourt[team]);
 }
 
 bool Substitution::canAccept() const {
-  if (count(0) > kMostOnCourt || count(1) > kMostOnCourt)
+  if (count(Side::Visitor) > kMostOnCourt || count(Side::Home) > kMostOnCourt)
     return false;
   return m_past ? plan().isPossible : m_onCourt != m_before;
 }

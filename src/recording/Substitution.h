@@ -3,6 +3,7 @@
 // game; whoever shows it hands the choice on.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/LiveGame.h"
 
 #include <array>
@@ -36,19 +37,19 @@ class Substitution {
 
   // Who was to stay leaves, who was to leave or sat on the bench comes. More than five may be chosen on the
   // way, so that it does not matter who is clicked first.
-  void toggle(int team, int player);
+  void toggle(Side team, int player);
   // These alone, as in OnCourt, or a line's; what was chosen of the team before is forgotten.
-  void take(int team, unsigned players) { m_onCourt[static_cast<std::size_t>(team)] = players; }
-  void takeLine(int team, std::size_t line);
+  void take(Side team, unsigned players) { m_onCourt[team] = players; }
+  void takeLine(Side team, std::size_t line);
   // The last of these steps, as often as there are any.
   void takeBack();
 
   const OnCourt& onCourt() const { return m_onCourt; }
-  bool isChosen(int team, int player) const { return holds(m_onCourt, team, player); }
-  bool wasOnCourt(int team, int player) const { return holds(m_before, team, player); }
+  bool isChosen(Side team, int player) const { return holds(m_onCourt, team, player); }
+  bool wasOnCourt(Side team, int player) const { return holds(m_before, team, player); }
   // At the time of the substitution.
-  bool isFouledOut(int team, int player) const { return holds(m_fouledOut, team, player); }
-  int count(int team) const;
+  bool isFouledOut(Side team, int player) const { return holds(m_fouledOut, team, player); }
+  int count(Side team) const;
   // What the choice comes to in the past; its conflict is a later stop that would not fit.
   [[nodiscard]] EditPlan plan() const;
   // Something is changed, and nowhere more than five, nor later in the game: fewer can be right, when nobody
@@ -57,11 +58,11 @@ class Substitution {
 
   // Five that have played before, most played first: not those who stand on court already, and none with a
   // player who has fouled out.
-  const std::vector<Line>& lines(int team) const { return m_lines[static_cast<std::size_t>(team)]; }
+  const std::vector<Line>& lines(Side team) const { return m_lines[team]; }
 
  private:
-  static bool holds(const OnCourt& onCourt, int team, int player) {
-    return (onCourt[static_cast<std::size_t>(team)] >> player & 1U) != 0;
+  static bool holds(const OnCourt& onCourt, Side team, int player) {
+    return (onCourt[team] >> player & 1U) != 0;
   }
 
   void fill();
@@ -73,7 +74,7 @@ class Substitution {
   std::vector<OnCourt> m_earlier; // it, before each step
   OnCourt m_fouledOut = {};
   OnCourt m_rosters = {}; // who can be chosen at all
-  std::array<std::vector<Line>, 2> m_lines;
+  PerSide<std::vector<Line>> m_lines;
 };
 
 } // namespace hooptab

@@ -12,27 +12,27 @@ SubstitutionLine::SubstitutionLine(const LiveGame& game, Substitution& choice)
 
 // Whose number it is as it stands.
 std::optional<SubstitutionLine::Player> SubstitutionLine::meant() const {
-  for (const int team : {m_team, 1 - m_team}) {
-    if (const int entry = m_game.game().roster[static_cast<std::size_t>(team)].entryOf(m_typed); entry > 0)
+  for (const Side team : {m_team, otherSide(m_team)}) {
+    if (const int entry = m_game.game().roster[team].entryOf(m_typed); entry > 0)
       return Player{team, entry};
   }
   return std::nullopt;
 }
 
 // Of the other team he whose number this one has not.
-bool SubstitutionLine::fits(int team, int player) const {
+bool SubstitutionLine::fits(Side team, int player) const {
   const auto& rosters = m_game.game().roster;
-  const RosterPlayer* who = rosters[static_cast<std::size_t>(team)].player(player);
+  const RosterPlayer* who = rosters[team].player(player);
   if (who == nullptr || m_typed.empty())
     return false;
-  const bool isHidden = team != m_team && rosters[static_cast<std::size_t>(m_team)].entryOf(who->jersey) > 0;
+  const bool isHidden = team != m_team && rosters[m_team].entryOf(who->jersey) > 0;
   return !isHidden &&
          (canBecome(m_typed, who->jersey) || !fittingJerseys({&who->jersey, 1}, m_typed).empty());
 }
 
 std::vector<SubstitutionLine::Player> SubstitutionLine::fitting() const {
   std::vector<Player> players;
-  for (const int team : {m_team, 1 - m_team}) {
+  for (const Side team : {m_team, otherSide(m_team)}) {
     for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
       if (fits(team, entry))
         players.push_back({team, entry});
@@ -52,8 +52,7 @@ void SubstitutionLine::type(int digit) {
 void SubstitutionLine::narrow() {
   m_refusal = Text::None;
   const auto goesOn = [this](const Player& player) {
-    return canBecome(
-        m_typed, m_game.game().roster[static_cast<std::size_t>(player.team)].player(player.entry)->jersey);
+    return canBecome(m_typed, m_game.game().roster[player.team].player(player.entry)->jersey);
   };
   if (!m_typed.empty() && std::ranges::none_of(fitting(), goesOn))
     take(meant());
@@ -76,7 +75,7 @@ void SubstitutionLine::separate() {
 }
 
 void SubstitutionLine::changeTeam() {
-  m_team = 1 - m_team;
+  m_team = otherSide(m_team);
   m_taken.reset();
   narrow();
 }
@@ -103,10 +102,9 @@ bool SubstitutionLine::enter() {
 }
 
 std::string SubstitutionLine::nameOf(const Player& player) const {
-  const auto team = static_cast<std::size_t>(player.team);
-  const RosterPlayer& who = *m_game.game().roster[team].player(player.entry);
+  const RosterPlayer& who = *m_game.game().roster[player.team].player(player.entry);
   const std::string name = who.jersey + " " + who.name;
-  return player.team == m_team ? name : m_game.game().details.abbreviation[team] + " " + name;
+  return player.team == m_team ? name : m_game.game().details.abbreviation[player.team] + " " + name;
 }
 
 std::string SubstitutionLine::words(const Texts& texts) const {

@@ -4,6 +4,7 @@
 // Changes the choice, and knows no window.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/Substitution.h"
 #include "settings/Texts.h"
 
@@ -17,10 +18,10 @@ class SubstitutionLine {
   // Begins with the main team. Both must outlive it.
   SubstitutionLine(const LiveGame& game, Substitution& choice);
 
-  int team() const { return m_team; }
+  Side team() const { return m_team; }
   const std::string& typed() const { return m_typed; }
   // Whether the number of that player begins with what is typed.
-  [[nodiscard]] bool fits(int team, int player) const;
+  [[nodiscard]] bool fits(Side team, int player) const;
   bool isRefused() const { return m_refusal != Text::None; }
   // Why the number is not taken; else the names of whom it can mean, or with nothing typed what became of the
   // last number.
@@ -39,7 +40,7 @@ class SubstitutionLine {
  private:
   static constexpr std::size_t kMostDigits = 4; // one more than any jersey: a slip is seen, and shown
   struct Player {
-    int team = 0;
+    Side team = Side::Visitor;
     int entry = 0;
   };
   [[nodiscard]] std::optional<Player> meant() const;
@@ -50,7 +51,7 @@ class SubstitutionLine {
 
   const LiveGame& m_game;
   Substitution& m_choice;
-  int m_team;
+  Side m_team;
   std::string m_typed;
   Text m_refusal = Text::None;
   std::optional<Player> m_taken;

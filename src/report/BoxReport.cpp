@@ -24,14 +24,14 @@ ReportCell cellOf(const BoxRow& row, const BoxColumn& column) {
 
 } // namespace
 
-ReportTable boxTable(const CountedGame& counted, int team, const ScorecardView& choice,
+ReportTable boxTable(const CountedGame& counted, Side team, const ScorecardView& choice,
                      const Settings& settings, const Texts& texts) {
   const Game& game = counted.game;
   ReportTable table;
   table.title = game.details.abbreviation[team] + " – " + game.details.name[team];
   // Of both teams, so that their tables have the same columns.
-  const BoxRow totals[2] = {boxRows(counted, 0, BoxView::Players, texts).back(),
-                            boxRows(counted, 1, BoxView::Players, texts).back()};
+  const PerSide<BoxRow> totals = {boxRows(counted, Side::Visitor, BoxView::Players, texts).back(),
+                                  boxRows(counted, Side::Home, BoxView::Players, texts).back()};
   // Of one kind of shots: all of them stay where nobody tried any.
   const auto isUntried = [&](const ShotGroup* group) {
     return group != nullptr && group != shotGroups().data() &&

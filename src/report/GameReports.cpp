@@ -44,8 +44,8 @@ Report reportOf(const Game& game, const GameState& state, Text title, const Text
   const GameDetails& details = game.details;
   Report report;
   report.title = text(texts, title);
-  report.subject = details.abbreviation[0] + ' ' + std::to_string(state.points(0)) + " – " +
-                   std::to_string(state.points(1)) + ' ' + details.abbreviation[1];
+  report.subject = details.abbreviation[Side::Visitor] + ' ' + std::to_string(state.points(Side::Visitor)) +
+                   " – " + std::to_string(state.points(Side::Home)) + ' ' + details.abbreviation[Side::Home];
   if (!details.date.empty())
     report.subject += ", " + details.date;
   if (!details.place.empty())
@@ -60,12 +60,13 @@ Report reportOf(const Game& game, const GameState& state, Text title, const Text
 // Who played, with the score; and where, when and by which rules.
 void addHead(Report& report, const Game& game, const GameState& state, const Texts& texts) {
   const GameDetails& details = game.details;
-  const auto team = [&](int side) {
+  const auto team = [&](Side side) {
     return details.name[side].empty() ? details.abbreviation[side] : details.name[side];
   };
-  report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading,
-                                          team(0) + "  " + std::to_string(state.points(0)) + kDash +
-                                              std::to_string(state.points(1)) + "  " + team(1)});
+  report.blocks.push_back(
+      ReportParagraph{ReportParagraph::Style::Heading,
+                      team(Side::Visitor) + "  " + std::to_string(state.points(Side::Visitor)) + kDash +
+                          std::to_string(state.points(Side::Home)) + "  " + team(Side::Home)});
   std::string words = text(texts, details.isFinished ? Text::Final : Text::InProgress);
   const auto add = [&](Text label, std::string_view value) {
     if (!value.empty())
@@ -92,7 +93,7 @@ ReportTable periodTable(const Scoreboard& board, ByPeriod content, const Texts& 
     table.columns.push_back({period.label, period.label});
   if (content == ByPeriod::Points)
     table.columns.push_back({text(texts, Text::Total), "Total"});
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     ReportRow& row = table.rows.emplace_back();
     row.cells.push_back(textCell(board.teams[team].abbreviation));
     for (const Scoreboard::Period& period : board.periods) {
@@ -113,7 +114,7 @@ ReportTable leadTable(const Scoreboard& board, const GameState& state, const Tex
   table.columns = {{text(texts, Text::Team), "Team", {}, true, true},
                    {text(texts, Text::Time), "Time"},
                    {capitalised(text(texts, Text::Times)), "Times"}};
-  const std::string names[] = {board.teams[0].abbreviation, board.teams[1].abbreviation,
+  const std::string names[] = {board.teams[Side::Visitor].abbreviation, board.teams[Side::Home].abbreviation,
                                text(texts, Text::LeadTied)};
   for (const std::size_t lead : {0U, 2U, 1U}) {
     ReportCell time = {board.leads[lead].time, ReportCell::Kind::Time,
@@ -148,10 +149,10 @@ ReportTable leaderTable(const CountedGame& counted, const Settings& settings, co
   table.isSummary = true;
   table.columns.push_back({text(texts, Text::Statistic), "Statistic", {}, true, true});
   table.groups.push_back({"", 1});
-  std::vector<BoxRow> rows[2];
-  for (int team = 0; team < 2; ++team) {
+  PerSide<std::vector<BoxRow>> rows;
+  for (const Side team : kSides) {
     rows[team] = boxRows(counted, team, BoxView::Players, texts);
-    const std::string side = std::to_string(team);
+    const std::string side = std::to_string(numberOf(team));
     table.columns.push_back({text(texts, Text::PlayerName), "Name" + side, {}, true});
     table.columns.push_back({text(texts, Text::Value), "Value" + side});
     table.groups.push_back({game.details.abbreviation[team], 2});
@@ -184,7 +185,7 @@ class ScoreDiagram {
   ScoreDiagram(const Game& game, const Texts& texts) : m_game(game), m_words(game, texts) {}
 
   LineDrawing drawing() {
-    for (std::size_t team = 0; team < 2; ++team)
+    for (const Side team : kSides)
       m_drawing.lines.push_back({m_game.details.abbreviation[team], {{0, 0}}});
     const Scores scores = runningScore(m_game.events);
     for (std::size_t i = 0; i < m_game.events.size(); ++i) {
@@ -198,7 +199,7 @@ class ScoreDiagram {
   }
 
  private:
-  void add(const GameEvent& event, const std::array<int, 2>& score) {
+  void add(const GameEvent& event, const PerSide<int>& score) {
     if (event.period != m_period) {
       m_period = event.period;
       // A regular period takes its full length, also where its last minutes hold no event.
@@ -211,8 +212,8 @@ class ScoreDiagram {
     }
     // A clock that was set back does not turn the line round.
     m_now = std::max(m_now, m_begin + std::max(0.0, m_length - event.clockSeconds));
-    for (std::size_t team = 0; team < 2; ++team) {
-      auto& points = m_drawing.lines[team].points;
+    for (const Side team : kSides) {
+      auto& points = m_drawing.lines[team == Side::Home ? 1 : 0].points;
       if (points.back()[1] == score[team])
         continue;
       points.push_back({m_now, points.back()[1]}); // a step: the score stands until it changes
@@ -256,7 +257,7 @@ std::string chosenRows(const ScorecardView& choice, const Texts& texts) {
 
 void addShotCharts(Report& report, const Game& game, ScorecardView choice, const Texts& texts) {
   bool hasPicture = false;
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     choice.setTeam(team);
     const std::vector<Shot> shots = choice.shots();
     if (shots.empty())
@@ -291,13 +292,13 @@ Report scorecardReport(const std::shared_ptr<const CountedGame>& counted, Scorec
   report.blocks.push_back(periodTable(board, ByPeriod::Fouls, texts));
   if (board.hasTime)
     report.blocks.push_back(leadTable(board, state, texts));
-  const ReportTable boxes[] = {boxTable(*counted, 0, choice, settings, texts),
-                               boxTable(*counted, 1, choice, settings, texts)};
+  const ReportTable boxes[] = {boxTable(*counted, Side::Visitor, choice, settings, texts),
+                               boxTable(*counted, Side::Home, choice, settings, texts)};
   report.blocks.insert(report.blocks.end(), std::begin(boxes), std::end(boxes));
   addNotes(report, boxes[0], texts);
   if (ReportTable leaders = leaderTable(*counted, settings, texts); !leaders.rows.empty())
     report.blocks.push_back(std::move(leaders));
-  if (board.hasTime && state.points(0) + state.points(1) > 0)
+  if (board.hasTime && state.points(Side::Visitor) + state.points(Side::Home) > 0)
     report.blocks.push_back(
         ReportPicture{text(texts, Text::ScoreDiagram), ScoreDiagram(game, texts).drawing()});
   addShotCharts(report, game, choice, texts);
@@ -334,10 +335,10 @@ Report leagueReport(const CountedGame& counted, const Texts& texts) {
                {Text::Referees, details.referees},
                {Text::Attendance, details.attendance}},
               texts);
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     report.blocks.push_back(leagueTable(counted, team, texts));
     addLabelled(report, ReportParagraph::Style::Note, {{Text::Coach, details.coach[team]}}, texts);
-    const std::string taken = std::to_string(state.teamRows[static_cast<std::size_t>(team)].timeOuts);
+    const std::string taken = std::to_string(state.teamRows[team].timeOuts);
     report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Note,
                                             capitalised(texts.withPlaceholder(Text::TimeOutsTaken, taken))});
   }
@@ -352,23 +353,24 @@ Report playByPlayReport(const CountedGame& counted, const Texts& texts) {
   const EventWords words(game, texts);
   table.columns = {{text(texts, Text::Period), "Period", {}, true},
                    {text(texts, Text::Time), "Time"},
-                   {std::string(words.team(0)), "Team0", {}, true},
+                   {std::string(words.team(Side::Visitor)), "Team0", {}, true},
                    {text(texts, Text::Score), "Score", {}, false, false, true},
-                   {std::string(words.team(1)), "Team1", {}, true}};
+                   {std::string(words.team(Side::Home)), "Team1", {}, true}};
   const Scores scores = runningScore(game.events);
   int period = 0;
-  std::array<int, 2> before = {};
+  PerSide<int> before = {};
   for (std::size_t i = 0; i < game.events.size(); ++i) {
     const GameEvent& event = game.events[i];
-    const bool isOfNobody = event.code == EventCode::XTO && event.player.team < 0;
-    const std::string sides[] = {event.isUnderstood && !isOfNobody ? words.wordsOfSide(i, 0) : words.words(i),
-                                 words.wordsOfSide(i, 1)};
+    const bool isOfNobody = event.code == EventCode::XTO && !event.player.team;
+    const std::string sides[] = {event.isUnderstood && !isOfNobody ? words.wordsOfSide(i, Side::Visitor)
+                                                                   : words.words(i),
+                                 words.wordsOfSide(i, Side::Home)};
     if (event.isDeleted || (sides[0].empty() && sides[1].empty()))
       continue;
     ReportRow& row = table.rows.emplace_back();
-    const std::string score = scores[i] == before
-                                  ? std::string()
-                                  : std::to_string(scores[i][0]) + '-' + std::to_string(scores[i][1]);
+    const std::string score = scores[i] == before ? std::string()
+                                                  : std::to_string(scores[i][Side::Visitor]) + '-' +
+                                                        std::to_string(scores[i][Side::Home]);
     row.cells = {textCell(words.periodText(event.period)), textCell(words.clock(i)), textCell(sides[0]),
                  textCell(score), textCell(sides[1])};
     row.beginsSection = period != 0 && event.period != period;

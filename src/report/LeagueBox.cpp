@@ -24,7 +24,7 @@ constexpr const char* kCaptainMark = " (C)"; // as the sport's sheets have it, i
 
 } // namespace
 
-ReportTable leagueTable(const CountedGame& counted, int team, const Texts& texts) {
+ReportTable leagueTable(const CountedGame& counted, Side team, const Texts& texts) {
   const GameDetails& details = counted.game.details;
   ReportTable table;
   table.title = details.abbreviation[team] + " – " + details.name[team];
@@ -37,7 +37,7 @@ ReportTable leagueTable(const CountedGame& counted, int team, const Texts& texts
                                  ? std::string() // its header says it all
                                  : capitalised(std::string(texts.text(column.words)))});
   }
-  const int captain = counted.game.roster[static_cast<std::size_t>(team)].entryOf(details.captain[team]);
+  const int captain = counted.game.roster[team].entryOf(details.captain[team]);
   for (const BoxRow& row : leagueRows(counted, team, texts)) {
     ReportRow& line = table.rows.emplace_back();
     const bool isCaptain = captain > 0 && row.kind == BoxRowKind::Player && row.entry == captain;

@@ -3,11 +3,12 @@
 #pragma once
 
 #include "game/CountedGame.h"
+#include "game/Side.h"
 #include "report/Report.h"
 #include "settings/Texts.h"
 
 namespace hooptab {
 
-[[nodiscard]] ReportTable leagueTable(const CountedGame& counted, int team, const Texts& texts);
+[[nodiscard]] ReportTable leagueTable(const CountedGame& counted, Side team, const Texts& texts);
 
 } // namespace hooptab

@@ -119,8 +119,8 @@ Report verificationReport(const ScannedTotals& scanned, const GameDetails& game,
                           const Settings& settings, const Texts& texts) {
   Report report;
   report.title = texts.text(Text::VerificationReport);
-  report.subject =
-      game.abbreviation[0] + " – " + game.abbreviation[1] + ": " + game.abbreviation[scanned.team()];
+  report.subject = game.abbreviation[Side::Visitor] + " – " + game.abbreviation[Side::Home] + ": " +
+                   game.abbreviation[scanned.team()];
   report.pageWords = texts.text(Text::PageOf);
   report.fileName = proposedFileName(source + ' ' + report.title);
   report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading, source});

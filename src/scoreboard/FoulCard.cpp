@@ -26,25 +26,25 @@ constexpr int kTimeOutTick = 250; // milliseconds
 
 } // namespace
 
-FoulCard::FoulCard(int team, const Texts& texts, QWidget* parent)
+FoulCard::FoulCard(Side team, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_team(team), m_texts(texts), m_title(new PlainLabel(this)),
       m_count(new PlainLabel(this)), m_words(new PlainLabel(this)) {
-  m_count->setObjectName(QStringLiteral("lblFTE%1").arg(team));
+  m_count->setObjectName(QStringLiteral("lblFTE%1").arg(numberOf(team)));
   m_count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  m_words->setObjectName(QStringLiteral("lblBONUS(%1)").arg(team));
+  m_words->setObjectName(QStringLiteral("lblBONUS(%1)").arg(numberOf(team)));
   setTextNumber(*m_title, Text::TeamFouls);
   makeLeague();
 }
 
 void FoulCard::makeLeague() {
   m_timeOuts = new TimeOutButton(this);
-  m_timeOuts->setObjectName(QStringLiteral("cmdTIMEOUT(%1)").arg(m_team));
+  m_timeOuts->setObjectName(QStringLiteral("cmdTIMEOUT(%1)").arg(numberOf(m_team)));
   connect(m_timeOuts, &QAbstractButton::pressed, this, [this] { emit timeOutAsked(m_team); });
   m_arrow = new ArrowButton(this);
-  m_arrow->setObjectName(QStringLiteral("cmdARROW(%1)").arg(m_team));
+  m_arrow->setObjectName(QStringLiteral("cmdARROW(%1)").arg(numberOf(m_team)));
   connect(m_arrow, &QAbstractButton::pressed, this, [this] { emit arrowAsked(m_team); });
   m_menu = new QToolButton(this);
-  m_menu->setObjectName(QStringLiteral("cmdTEAMMENU(%1)").arg(m_team));
+  m_menu->setObjectName(QStringLiteral("cmdTEAMMENU(%1)").arg(numberOf(m_team)));
   m_menu->setText(QStringLiteral("…"));
   m_menu->setFocusPolicy(Qt::TabFocus);
   setToolTipNumber(*m_menu, Text::TeamMenu);
@@ -106,7 +106,7 @@ void FoulCard::showLeague(const LiveGame& game) {
   }
   if (!isOfLeague)
     return;
-  m_takenInGame = game.state().teamRows[static_cast<std::size_t>(m_team)].timeOuts;
+  m_takenInGame = game.state().teamRows[m_team].timeOuts;
   if (game.phase() == LiveGame::Phase::Running || m_takenInGame < m_takenAtBegin) // or it was taken back
     m_timeOutTick.stop();
   const auto left =

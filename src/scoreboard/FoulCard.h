@@ -2,6 +2,8 @@
 // game asks for what teams do, also its time-outs, the possession arrow, and a way to all else.
 #pragma once
 
+#include "game/Side.h"
+
 #include <QColor>
 #include <QElapsedTimer>
 #include <QTimer>
@@ -23,7 +25,7 @@ class FoulCard : public QWidget {
   Q_OBJECT
  public:
   // `texts` must outlive it.
-  FoulCard(int team, const Texts& texts, QWidget* parent = nullptr);
+  FoulCard(Side team, const Texts& texts, QWidget* parent = nullptr);
 
   void showGame(const LiveGame& game);
   void applyColours();
@@ -36,9 +38,9 @@ class FoulCard : public QWidget {
   [[nodiscard]] static int heightFor(const LiveGame& game);
 
  signals:
-  void timeOutAsked(int team);
-  void arrowAsked(int team);
-  void menuAsked(int team, const QPoint& place); // of the screen
+  void timeOutAsked(hooptab::Side team);
+  void arrowAsked(hooptab::Side team);
+  void menuAsked(hooptab::Side team, const QPoint& place); // of the screen
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -49,7 +51,7 @@ class FoulCard : public QWidget {
   void showLeague(const LiveGame& game);
   void showTimeOut();
 
-  int m_team;
+  Side m_team;
   const Texts& m_texts;
   QColor m_colour;
   bool m_isInBonus = false;

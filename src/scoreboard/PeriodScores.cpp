@@ -47,16 +47,19 @@ void PeriodScores::showGame(const LiveGame& game) {
   const ScoreByPeriod score = scoreByPeriod(game, m_texts);
   std::vector<Column> columns;
   for (const ScoreByPeriod::Row& row : score.periods)
-    columns.push_back(
-        {toQt(row.period), {QString::number(row.ofTeam[0].points), QString::number(row.ofTeam[1].points)}});
+    columns.push_back({toQt(row.period),
+                       {QString::number(row.ofTeam[Side::Visitor].points),
+                        QString::number(row.ofTeam[Side::Home].points)}});
   for (int period = static_cast<int>(columns.size()) + 1; period <= game.game().details.periods; ++period)
     columns.push_back({toQt(words.periodText(period)), {QStringLiteral("·"), QStringLiteral("·")}});
-  columns.push_back({caption(m_texts, Text::TotalColumn),
-                     {QString::number(score.points[0]), QString::number(score.points[1])}});
+  columns.push_back(
+      {caption(m_texts, Text::TotalColumn),
+       {QString::number(score.points[Side::Visitor]), QString::number(score.points[Side::Home])}});
   for (std::size_t state = 0; state < m_leads.size(); ++state) {
     Lead& lead = m_leads[state];
-    lead.title->setText(state == kTiedPlace ? caption(m_texts, Text::LeadTied)
-                                            : toQt(game.game().details.abbreviation[state]));
+    const std::optional<Side> leader = sideOf(static_cast<int>(state));
+    lead.title->setText(leader ? toQt(game.game().details.abbreviation[*leader])
+                               : caption(m_texts, Text::LeadTied));
     lead.time->setText(toQt(leadTimeShown(game, static_cast<LeadState>(state))));
     lead.times->setText(u'×' + QString::number(game.state().lead.times[state]));
   }
@@ -158,8 +161,8 @@ void PeriodScores::paintEvent(QPaintEvent*) {
     draw(0, column.name);
     painter.setPen(look.ink);
     painter.setFont(back == 0 ? bold : usual);
-    for (std::size_t team = 0; team < 2; ++team)
-      draw(1 + static_cast<int>(m_isTurned ? 1 - team : team), column.points[team]);
+    for (const Side team : kSides)
+      draw(1 + static_cast<int>(m_isTurned ? otherSide(team) : team), column.points[team]);
     right -= columnWidth;
   }
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/GameState.h"
+#include "game/Side.h"
 
 #include <QWidget>
 
@@ -35,7 +36,7 @@ class PeriodScores : public QWidget {
  private:
   struct Column {
     QString name;
-    std::array<QString, 2> points;
+    PerSide<QString> points;
     friend bool operator==(const Column&, const Column&) = default;
   };
   struct Lead {

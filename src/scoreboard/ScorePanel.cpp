@@ -82,7 +82,7 @@ ScorePanel::ScorePanel(const Texts& texts, QWidget* parent) : QWidget(parent), m
   m_refused.setSingleShot(true);
   m_refused.setInterval(kRefusedShown);
   connect(&m_refused, &QTimer::timeout, this, &ScorePanel::showStart);
-  for (int team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     makeTeam(team);
   makeClock();
   makePeriod();
@@ -110,17 +110,17 @@ QToolButton* ScorePanel::smallButton(const QString& name, const QString& text, T
   return button;
 }
 
-void ScorePanel::makeTeam(int team) {
-  Side& side = m_sides[static_cast<std::size_t>(team)];
+void ScorePanel::makeTeam(Side team) {
+  TeamWidgets& side = m_sides[team];
   side.plate = new TeamPlate(this);
-  side.plate->setObjectName(QStringLiteral("pictTEAM(%1)").arg(team));
+  side.plate->setObjectName(QStringLiteral("pictTEAM(%1)").arg(numberOf(team)));
   side.plate->installEventFilter(this);
   setToolTipNumber(*side.plate, Text::SelectColour);
-  side.name = smallButton(QStringLiteral("cmdCOUL(%1)").arg(team), {}, Text::SelectColour);
+  side.name = smallButton(QStringLiteral("cmdCOUL(%1)").arg(numberOf(team)), {}, Text::SelectColour);
   side.name->setParent(side.plate);
   side.name->setAutoRaise(true);
   connect(side.name, &QToolButton::clicked, this, [this, team] { emit colourAsked(team); });
-  side.points = label(QStringLiteral("lblPTS%1").arg(team));
+  side.points = label(QStringLiteral("lblPTS%1").arg(numberOf(team)));
   side.points->setParent(side.plate);
   side.fouls = new FoulCard(team, m_texts, this);
   connect(side.fouls, &FoulCard::timeOutAsked, this, &ScorePanel::timeOutAsked);
@@ -182,9 +182,9 @@ void ScorePanel::layOut() {
   m_plate = QRect(0, 0, width(), kPlateHeight.now());
   const int teamWidth = (width() - 2 * margin - kCentre.now()) / 2;
   const int nameHeight = QFontMetrics(Theme::font(Type::Name)).height();
-  for (std::size_t team = 0; team < 2; ++team) {
-    const Side& side = m_sides[team];
-    const bool isLeft = (team == 0) != m_areTurned;
+  for (const Side team : kSides) {
+    const TeamWidgets& side = m_sides[team];
+    const bool isLeft = (team == Side::Visitor) != m_areTurned;
     side.plate->setGeometry(isLeft ? margin : width() - margin - teamWidth, margin, teamWidth,
                             kTeamHeight.now());
     side.points->setGeometry(margin, nameHeight, teamWidth - 2 * margin, kTeamHeight.now() - nameHeight);
@@ -244,7 +244,7 @@ void ScorePanel::showGame(const LiveGame& game) {
   m_game = &game;
   if (FoulCard::heightFor(game) != m_foulsHeight)
     setHeight();
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     showTeam(team);
   m_period->setText(toQt(periodShown(game, m_texts)));
   m_periods->showGame(game);
@@ -258,16 +258,15 @@ void ScorePanel::showTime(const LiveGame& game) {
   m_periods->showTime(game);
 }
 
-void ScorePanel::showTeam(std::size_t team) {
-  const int number = static_cast<int>(team);
-  Side& side = m_sides[team];
+void ScorePanel::showTeam(Side team) {
+  TeamWidgets& side = m_sides[team];
   const QColor own = colourOf(m_game->game().details.teamColour[team]);
   static_cast<TeamPlate*>(side.plate)->setColour(own);
   wear(*side.points, textOn(own));
   wear(*side.name, textOn(own));
-  side.points->setText(QString::number(m_game->state().points(number)));
+  side.points->setText(QString::number(m_game->state().points(team)));
   side.points->setToolTip(caption(m_texts, Text::PointsByPeriod) + u'\n' +
-                          toQt(shownByPeriod(*m_game, number, ByPeriod::Points, m_texts)));
+                          toQt(shownByPeriod(*m_game, team, ByPeriod::Points, m_texts)));
   side.fouls->showGame(*m_game);
 }
 
@@ -344,18 +343,18 @@ void ScorePanel::setSides(bool team0PlaysRight, bool platesStay) {
 void ScorePanel::showSides() {
   if (m_game == nullptr)
     return;
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     QToolButton& plate = *m_sides[team].name;
-    const bool playsRight = (team == 1) != m_team0PlaysRight;
+    const bool playsRight = (team == Side::Home) != m_team0PlaysRight;
     const int most = m_sides[team].plate->width() - 2;
     const int room = most - plate.fontMetrics().horizontalAdvance(QStringLiteral("◂ mm"));
     const QString name = withoutMnemonic(plate.fontMetrics().elidedText(
         toQt(m_game->game().details.abbreviation[team]), Qt::ElideRight, room));
-    m_sides[team].fouls->setSide((team == 0) != m_areTurned, playsRight, *m_game);
+    m_sides[team].fouls->setSide((team == Side::Visitor) != m_areTurned, playsRight, *m_game);
     plate.setText(playsRight ? name + QStringLiteral(" ▸") : QStringLiteral("◂ ") + name);
     // Above its score, on the outside.
     const int width = std::min(plate.fontMetrics().horizontalAdvance(plate.text()) + 2 * kMargin.now(), most);
-    const bool isLeft = (team == 0) != m_areTurned;
+    const bool isLeft = (team == Side::Visitor) != m_areTurned;
     plate.setGeometry(isLeft ? 1 : 1 + most - width, 1, width, plate.fontMetrics().height() + 2);
   }
 }
@@ -387,7 +386,7 @@ void ScorePanel::applyColours() {
     button->setPalette(own);
     button->setFont(Theme::font(Type::Body, QFont::DemiBold));
   }
-  for (const Side& side : m_sides) {
+  for (const TeamWidgets& side : m_sides) {
     side.name->setFont(Theme::font(Type::Name));
     side.points->setFont(Theme::font(Type::Score));
     side.fouls->applyColours();
@@ -406,12 +405,12 @@ void ScorePanel::setHeight() {
 }
 
 void ScorePanel::endTimeOuts() {
-  for (const Side& side : m_sides)
+  for (const TeamWidgets& side : m_sides)
     side.fouls->endTimeOut();
 }
 
-void ScorePanel::beginTimeOut(int team) {
-  m_sides[static_cast<std::size_t>(team)].fouls->beginTimeOut();
+void ScorePanel::beginTimeOut(Side team) {
+  m_sides[team].fouls->beginTimeOut();
 }
 
 // --- The clock by hand
@@ -442,8 +441,8 @@ bool ScorePanel::eventFilter(QObject* watched, QEvent* event) {
   // Not with the left button: a click that goes astray opens no window.
   if (event->type() == QEvent::MouseButtonPress && m_game != nullptr &&
       static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
-    for (int team = 0; team < 2; ++team) {
-      if (watched == m_sides[static_cast<std::size_t>(team)].plate)
+    for (const Side team : kSides) {
+      if (watched == m_sides[team].plate)
         emit colourAsked(team);
     }
   }

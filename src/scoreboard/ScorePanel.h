@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/GameState.h"
+#include "game/Side.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -39,19 +40,19 @@ class ScorePanel : public QWidget {
   void showRefused();        // a press on the clock's button or key that did nothing
   void relabelPanel();       // behind relabel()
   void applyColours();
-  void beginTimeOut(int team); // its seconds run on its card
+  void beginTimeOut(Side team); // its seconds run on its card
   void endTimeOuts();
-  [[nodiscard]] int teamOnTheLeft() const { return m_areTurned ? 1 : 0; }
+  [[nodiscard]] Side teamOnTheLeft() const { return m_areTurned ? Side::Home : Side::Visitor; }
 
  signals:
   void startAsked();
   void returnAsked();
   void periodAsked(int period);
   void clockAsked(int seconds);
-  void colourAsked(int team);
-  void timeOutAsked(int team);
-  void arrowAsked(int team);
-  void teamMenuAsked(int team, const QPoint& place); // of the screen
+  void colourAsked(hooptab::Side team);
+  void timeOutAsked(hooptab::Side team);
+  void arrowAsked(hooptab::Side team);
+  void teamMenuAsked(hooptab::Side team, const QPoint& place); // of the screen
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -59,7 +60,7 @@ class ScorePanel : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  struct Side {
+  struct TeamWidgets {
     QWidget* plate = nullptr;
     QToolButton* name = nullptr;
     QLabel* points = nullptr;
@@ -68,12 +69,12 @@ class ScorePanel : public QWidget {
 
   QLabel* label(const QString& name);
   QToolButton* smallButton(const QString& name, const QString& text, Text toolTip);
-  void makeTeam(int team);
+  void makeTeam(Side team);
   void makeClock();
   void makePeriod();
   void setHeight();
   void layOut();
-  void showTeam(std::size_t team);
+  void showTeam(Side team);
   void showClockButtons();
   void showSides();
   void showStart();
@@ -88,7 +89,7 @@ class ScorePanel : public QWidget {
   bool m_areTurned = false; // team 0 stands on the right
   int m_foulsHeight = 0;
   QTimer m_refused;
-  std::array<Side, 2> m_sides;
+  PerSide<TeamWidgets> m_sides;
   QRect m_plate;
   QLabel* m_clock = nullptr;
   QLabel* m_state = nullptr; // RUNNING, STOPPED

@@ -75,15 +75,14 @@ double jerseySortValue(std::string_view jersey) {
   return kBehindNumbers + letters;
 }
 
-std::vector<BoxRow> boxRows(const CountedGame& counted, int team, BoxView view, const Texts& texts) {
+std::vector<BoxRow> boxRows(const CountedGame& counted, Side team, BoxView view, const Texts& texts) {
   const auto& [game, state] = counted;
-  const auto side = static_cast<std::size_t>(team);
-  const Roster& roster = game.roster[side];
-  const auto& players = state.players[side];
-  const auto& lines = state.lines[side];
+  const Roster& roster = game.roster[team];
+  const auto& players = state.players[team];
+  const auto& lines = state.lines[team];
   Rows rows;
   if (view == BoxView::Players) {
-    const auto& extras = state.extras[side];
+    const auto& extras = state.extras[team];
     const auto add = [&](BoxRow row, bool isShown) {
       const auto entry = static_cast<std::size_t>(row.entry);
       row.foulsDrawn = extras[entry].foulsDrawn;
@@ -98,7 +97,7 @@ std::vector<BoxRow> boxRows(const CountedGame& counted, int team, BoxView view, 
     add({BoxRowKind::OtherPlayers, 0, {}, std::string(texts.text(Text::Others)), kPositionWithoutName, {}},
         players[0].counters.hasAny() || extras[0] != PlayerExtras());
   } else {
-    for (int i = 1; i <= state.usedLines[side]; ++i) {
+    for (int i = 1; i <= state.usedLines[team]; ++i) {
       const LineEntry& line = lines[static_cast<std::size_t>(i)];
       rows.add({BoxRowKind::Line,
                 i,

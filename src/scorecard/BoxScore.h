@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/CountedGame.h"
+#include "game/Side.h"
 #include "game/Statistics.h"
 #include "settings/Texts.h"
 
@@ -39,7 +40,7 @@ enum class BoxView : std::uint8_t { Players, Lines };
 // Rows in the order of the entries, the team's total last: the sum of every entry, its time the sum of the
 // times shown (five times the game's for players). Players of the roster all have a row; "others" and "other
 // lines" have one only when they have any count; lines when they played a second or have any count.
-[[nodiscard]] std::vector<BoxRow> boxRows(const CountedGame& counted, int team, BoxView view,
+[[nodiscard]] std::vector<BoxRow> boxRows(const CountedGame& counted, Side team, BoxView view,
                                           const Texts& texts);
 
 // By creation index, from 1.

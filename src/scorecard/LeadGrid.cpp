@@ -47,9 +47,9 @@ LeadGrid::LeadGrid(QWidget* parent) : QWidget(parent) {
 
 void LeadGrid::showLead(const Scoreboard& board, const Texts& texts) {
   for (std::size_t state = 0; state < m_rows.size(); ++state) {
-    const bool isTied = state == static_cast<std::size_t>(kTied);
-    m_rows[state].name->setText(isTied ? caption(texts, Text::LeadTied)
-                                       : toQt(board.teams[state].abbreviation));
+    const std::optional<Side> leader = sideOf(static_cast<int>(state));
+    m_rows[state].name->setText(leader ? toQt(board.teams[*leader].abbreviation)
+                                       : caption(texts, Text::LeadTied));
     m_rows[state].time->setText(board.hasTime ? toQt(board.leads[state].time) : QStringLiteral("--:--"));
     m_rows[state].times->setText(u'×' + QString::number(board.leads[state].times));
   }

@@ -87,8 +87,8 @@ std::string leagueHeader(const LeagueColumn& column, const Texts& texts) {
   return std::string(column.header == Text::None ? column.name : texts.text(column.header));
 }
 
-std::vector<BoxRow> leagueRows(const CountedGame& counted, int team, const Texts& texts) {
-  const TeamRow& own = counted.state.teamRows[static_cast<std::size_t>(team)];
+std::vector<BoxRow> leagueRows(const CountedGame& counted, Side team, const Texts& texts) {
+  const TeamRow& own = counted.state.teamRows[team];
   Counters counters;
   counters[Counter::OR] = own.offensiveRebounds;
   counters[Counter::DR] = own.defensiveRebounds;

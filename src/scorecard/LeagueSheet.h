@@ -3,6 +3,7 @@
 // how a window or a report shows it.
 #pragma once
 
+#include "game/Side.h"
 #include "scorecard/BoxScore.h"
 
 #include <span>
@@ -30,7 +31,7 @@ struct LeagueColumn {
 [[nodiscard]] std::string leagueHeader(const LeagueColumn& column, const Texts& texts);
 
 // The players as in their table, the team's row, the total.
-[[nodiscard]] std::vector<BoxRow> leagueRows(const CountedGame& counted, int team, const Texts& texts);
+[[nodiscard]] std::vector<BoxRow> leagueRows(const CountedGame& counted, Side team, const Texts& texts);
 
 // Empty where there is nothing to tell: a team's row has no time.
 [[nodiscard]] std::string leagueCell(const BoxRow& row, const LeagueColumn& column);

@@ -28,13 +28,13 @@ PeriodGrid::PeriodGrid(Content content, const QString& name, Text title, QWidget
   caption->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*caption, title);
   layout->addWidget(caption, 0, 0, 1, -1);
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     m_teams[team] = new ElidedLabel(this);
     m_teams[team]->setContentsMargins(0, 0, 8, 0);
     QFont bold = font();
     bold.setBold(true);
     m_teams[team]->setFont(bold);
-    layout->addWidget(m_teams[team], 2 + static_cast<int>(team), 0);
+    layout->addWidget(m_teams[team], 2 + numberOf(team), 0);
   }
   for (int period = 1; period <= kMostPeriods; ++period)
     m_periods.push_back(addColumn(*layout, name, period, period));
@@ -60,32 +60,34 @@ PeriodGrid::Column PeriodGrid::addColumn(QGridLayout& layout, const QString& nam
   column.header = add(1, false);
   column.header->setForegroundRole(QPalette::PlaceholderText);
   column.header->setContentsMargins(kHeaderMargin, 0, kHeaderMargin, 0);
-  for (int team = 0; team < 2; ++team) {
-    QLabel* label = add(2 + team, period == 0);
-    label->setObjectName(QStringLiteral("%1(%2,%3)").arg(name).arg(team).arg(period));
-    column.numbers[static_cast<std::size_t>(team)] = label;
+  for (const Side team : kSides) {
+    QLabel* label = add(2 + numberOf(team), period == 0);
+    label->setObjectName(QStringLiteral("%1(%2,%3)").arg(name).arg(numberOf(team)).arg(period));
+    column.numbers[team] = label;
   }
   return column;
 }
 
 void PeriodGrid::showPeriods(const Scoreboard& board) {
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     m_teams[team]->setText(toQt(board.teams[team].abbreviation));
   for (std::size_t i = 0; i < m_periods.size(); ++i) {
     const Scoreboard::Period* period = i < board.periods.size() ? &board.periods[i] : nullptr;
     const Column& column = m_periods[i];
-    for (QLabel* label : {column.header, column.numbers[0], column.numbers[1]})
+    for (QLabel* label : {column.header, column.numbers[Side::Visitor], column.numbers[Side::Home]})
       label->setVisible(period != nullptr);
     if (period != nullptr)
       fill(column, *period);
   }
-  for (std::size_t team = 0; team < 2 && m_total.header != nullptr; ++team)
+  if (m_total.header == nullptr)
+    return;
+  for (const Side team : kSides)
     m_total.numbers[team]->setText(QString::number(board.teams[team].points));
 }
 
 void PeriodGrid::fill(const Column& column, const Scoreboard::Period& period) {
   column.header->setText(toQt(period.label));
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     QLabel& label = *column.numbers[team];
     const int number = m_content == Content::Points ? period.points[team] : period.fouls[team];
     label.setText(period.isPlayed ? QString::number(number) : QStringLiteral("–"));

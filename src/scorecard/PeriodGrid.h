@@ -2,6 +2,7 @@
 // without a total.
 #pragma once
 
+#include "game/Side.h"
 #include "scorecard/Scoreboard.h"
 
 #include <QWidget>
@@ -28,13 +29,13 @@ class PeriodGrid : public QWidget {
  private:
   struct Column {
     QLabel* header = nullptr;
-    std::array<QLabel*, 2> numbers = {};
+    PerSide<QLabel*> numbers = {};
   };
   Column addColumn(QGridLayout& layout, const QString& name, int period, int place);
   void fill(const Column& column, const Scoreboard::Period& period);
 
   const Content m_content;
-  std::array<QLabel*, 2> m_teams = {};
+  PerSide<QLabel*> m_teams = {};
   std::vector<Column> m_periods; // as many as a game can show; those not needed are hidden
   Column m_total;
 };

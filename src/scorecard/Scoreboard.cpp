@@ -30,10 +30,10 @@ std::vector<Scoreboard::Period> periods(const Game& game, const GameState& state
     period.label = periodName(number, game.details.periods, texts);
     if (number == kSharedPeriod && last > kSharedPeriod)
       period.label += '+';
-    for (std::size_t team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       const PeriodEntry& entry = state.periods[team][static_cast<std::size_t>(number)];
       period.points[team] = entry.points;
-      period.fouls[team] = teamFouls(game.details, state, static_cast<int>(team), number);
+      period.fouls[team] = teamFouls(game.details, state, team, number);
       period.isInBonus[team] = isInBonus(game.details, period.fouls[team]);
     }
   }
@@ -45,9 +45,9 @@ std::vector<Scoreboard::Period> periods(const Game& game, const GameState& state
 Scoreboard scoreboard(const CountedGame& counted, const Texts& texts) {
   const auto& [game, state] = counted;
   Scoreboard board;
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     board.teams[team] = {game.details.abbreviation[team], game.details.name[team],
-                         game.details.teamColour[team], state.points(static_cast<int>(team))};
+                         game.details.teamColour[team], state.points(team)};
   board.periods = periods(game, state, texts);
   for (std::size_t lead = 0; lead < board.leads.size(); ++lead)
     board.leads[lead] = {Module1::clockText(state.lead.seconds[lead]), state.lead.times[lead]};

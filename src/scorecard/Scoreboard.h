@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/CountedGame.h"
+#include "game/Side.h"
 #include "settings/Texts.h"
 
 #include <array>
@@ -21,17 +22,18 @@ struct Scoreboard {
   };
   struct Period {
     std::string label; // "1", "OT1", "8+"
-    int points[2] = {};
-    int fouls[2] = {};      // those in force: in overtime the last regular period's, too, where they are kept
-    bool isInBonus[2] = {}; // the other team shoots bonus free throws
-    bool isPlayed = false;  // has events; one that has not shows no numbers
+    PerSide<int> points = {};
+    PerSide<int> fouls =
+        {}; // those in force: in overtime the last regular period's, too, where they are kept
+    PerSide<bool> isInBonus = {}; // the other team shoots bonus free throws
+    bool isPlayed = false;        // has events; one that has not shows no numbers
   };
   struct Lead {
     std::string time; // mm:ss
     int times = 0;    // how often this state came about
   };
 
-  std::array<Team, 2> teams;
+  PerSide<Team> teams;
   std::vector<Period> periods; // at most 8
   std::array<Lead, 3> leads;   // in the order of LeadState
   std::string clock;           // of the last event; "--:--" in a game without time

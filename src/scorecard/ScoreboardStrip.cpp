@@ -21,7 +21,8 @@ constexpr int kGap = 18;
 } // namespace
 
 ScoreboardStrip::ScoreboardStrip(QWidget* parent)
-    : QWidget(parent), m_plates{new TeamPlate(0, Text::Visitor, this), new TeamPlate(1, Text::Home, this)},
+    : QWidget(parent), m_plates{new TeamPlate(Side::Visitor, Text::Visitor, this),
+                                new TeamPlate(Side::Home, Text::Home, this)},
       m_clock(new PlainLabel(this)), m_period(new PlainLabel(this)), m_status(new PlainLabel(this)),
       m_points(new PeriodGrid(PeriodGrid::Content::Points, QStringLiteral("lblPOINTS"), Text::PointsByPeriod,
                               this)),
@@ -52,9 +53,9 @@ ScoreboardStrip::ScoreboardStrip(QWidget* parent)
     plate->setMinimumWidth(kPlateWidth);
     plate->setMaximumWidth(kWidestPlate);
   }
-  layout->addWidget(m_plates[0], 1);
+  layout->addWidget(m_plates[Side::Visitor], 1);
   layout->addLayout(middle);
-  layout->addWidget(m_plates[1], 1);
+  layout->addWidget(m_plates[Side::Home], 1);
   layout->addStretch();
   layout->addWidget(m_points);
   layout->addWidget(m_fouls);
@@ -63,7 +64,7 @@ ScoreboardStrip::ScoreboardStrip(QWidget* parent)
 }
 
 void ScoreboardStrip::showBoard(const Scoreboard& board, const Texts& texts) {
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     m_plates[team]->showTeam(board.teams[team]);
   m_clock->setText(toQt(board.clock));
   m_period->setText(toQt(texts.withPlaceholder(Text::PeriodNumber, board.period)));

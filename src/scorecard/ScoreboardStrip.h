@@ -2,6 +2,7 @@
 // them, points and fouls by period, lead. Only lays out what Scoreboard says.
 #pragma once
 
+#include "game/Side.h"
 #include "scorecard/Scoreboard.h"
 
 #include <QWidget>
@@ -25,7 +26,7 @@ class ScoreboardStrip : public QWidget {
   void showBoard(const Scoreboard& board, const Texts& texts);
 
  private:
-  std::array<TeamPlate*, 2> m_plates;
+  PerSide<TeamPlate*> m_plates;
   QLabel* m_clock;
   QLabel* m_period;
   QLabel* m_status;

@@ -12,7 +12,7 @@ GameFileProblem Scorecard::load() {
   GameFile file(m_store, m_path);
   if (const GameFileProblem problem = file.read(game); problem != GameFileProblem::None)
     return problem;
-  m_outOfRange = Tally::run(read->state, game.events, game.roster[0], game.roster[1]);
+  m_outOfRange = Tally::run(read->state, game.events, game.roster[Side::Visitor], game.roster[Side::Home]);
   m_findings = checkGame(game, file.text(), m_outOfRange);
   m_counted = read;
   return GameFileProblem::None;
@@ -20,8 +20,8 @@ GameFileProblem Scorecard::load() {
 
 std::string Scorecard::title() const {
   const auto& names = game().details.abbreviation;
-  return names[0] + " " + std::to_string(state().points(0)) + " - " + std::to_string(state().points(1)) +
-         " " + names[1];
+  return names[Side::Visitor] + " " + std::to_string(state().points(Side::Visitor)) + " - " +
+         std::to_string(state().points(Side::Home)) + " " + names[Side::Home];
 }
 
 } // namespace hooptab

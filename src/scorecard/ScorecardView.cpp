@@ -29,8 +29,8 @@ void ScorecardView::forgetChecks() {
   fill();
 }
 
-void ScorecardView::setTeam(int team) {
-  m_team = team == 1 ? 1 : 0;
+void ScorecardView::setTeam(Side team) {
+  m_team = team;
   fill();
 }
 

@@ -3,6 +3,7 @@
 // nothing and reads nothing.
 #pragma once
 
+#include "game/Side.h"
 #include "scorecard/BoxScore.h"
 #include "scorecard/ShotChart.h"
 
@@ -28,8 +29,8 @@ class ScorecardView {
   // Another game: every row is checked again.
   void forgetChecks();
 
-  int team() const { return m_team; }
-  void setTeam(int team);
+  Side team() const { return m_team; }
+  void setTeam(Side team);
   BoxView view() const { return m_view; }
   void setView(BoxView view);
   Scope scope() const { return m_scope; }
@@ -50,22 +51,18 @@ class ScorecardView {
 
  private:
   using RowKeys = std::set<std::string, std::less<>>;
-  RowKeys& unchecked() {
-    return m_unchecked[static_cast<std::size_t>(m_team)][static_cast<std::size_t>(m_view)];
-  }
-  const RowKeys& unchecked() const {
-    return m_unchecked[static_cast<std::size_t>(m_team)][static_cast<std::size_t>(m_view)];
-  }
+  RowKeys& unchecked() { return m_unchecked[m_team][static_cast<std::size_t>(m_view)]; }
+  const RowKeys& unchecked() const { return m_unchecked[m_team][static_cast<std::size_t>(m_view)]; }
   void fill();
 
   const Texts& m_texts;
   std::shared_ptr<const CountedGame> m_game;
-  int m_team = 0;
+  Side m_team = Side::Visitor;
   BoxView m_view = BoxView::Players;
   Scope m_scope = Scope::Checked;
   bool m_hidesMadeAttempted = false;
   // Rows by team and view. Whoever comes on court later is in none of them, hence checked.
-  std::array<std::array<RowKeys, 2>, 2> m_unchecked;
+  PerSide<std::array<RowKeys, 2>> m_unchecked;
   std::vector<BoxRow> m_rows;
 };
 

@@ -3,6 +3,7 @@
 
 #include "court/CourtGeometry.h"
 #include "game/GameState.h"
+#include "game/Side.h"
 #include "scorecard/BoxScore.h"
 
 #include <array>
@@ -14,7 +15,7 @@ namespace hooptab {
 // The shots of one team, of the chosen rows: player entries in the view by player; line entries in the view
 // by line, where a mark means the team's shots while that line was on court. Includes shots without a place.
 struct ShotSelection {
-  int team = 0;
+  Side team = Side::Visitor;
   BoxView view = BoxView::Players;
   bool all = true; // else only `entries`
   std::vector<int> entries;

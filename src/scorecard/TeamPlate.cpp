@@ -9,18 +9,18 @@
 
 namespace hooptab {
 
-TeamPlate::TeamPlate(int team, Text side, QWidget* parent)
+TeamPlate::TeamPlate(Side team, Text side, QWidget* parent)
     : QWidget(parent), m_side(new PlainLabel(this)), m_name(new ElidedLabel(this)),
       m_abbreviation(new ElidedLabel(this)), m_score(new PlainLabel(this)) {
-  setObjectName(QStringLiteral("plate(%1)").arg(team));
+  setObjectName(QStringLiteral("plate(%1)").arg(numberOf(team)));
   setAutoFillBackground(true);
   setTextNumber(*m_side, side);
-  m_score->setObjectName(QStringLiteral("lblSCORE(%1)").arg(team));
+  m_score->setObjectName(QStringLiteral("lblSCORE(%1)").arg(numberOf(team)));
   Theme::setType(*m_score, Type::Score);
   Theme::setType(*m_abbreviation, Type::Title, QFont::Bold);
 
   // The scores stand next to the clock, the names outside.
-  const Qt::Alignment outside = team == 0 ? Qt::AlignLeft : Qt::AlignRight;
+  const Qt::Alignment outside = team == Side::Visitor ? Qt::AlignLeft : Qt::AlignRight;
   for (QLabel* label : {m_side, static_cast<QLabel*>(m_name), m_abbreviation})
     label->setAlignment(outside | Qt::AlignVCenter);
   m_score->setAlignment(Qt::AlignCenter);
@@ -28,7 +28,7 @@ TeamPlate::TeamPlate(int team, Text side, QWidget* parent)
   layout->setContentsMargins(12, 4, 12, 4);
   layout->setVerticalSpacing(0);
   layout->setHorizontalSpacing(8);
-  const int names = team == 0 ? 0 : 1;
+  const int names = team == Side::Visitor ? 0 : 1;
   layout->addWidget(m_side, 0, names);
   layout->addWidget(m_abbreviation, 1, names);
   layout->addWidget(m_name, 2, names);

@@ -1,6 +1,7 @@
 // One team at the head of the scorecard: its name and score on its own colour.
 #pragma once
 
+#include "game/Side.h"
 #include "scorecard/Scoreboard.h"
 
 #include <QWidget>
@@ -16,7 +17,7 @@ class TeamPlate : public QWidget {
 
  public:
   // `side` says which side it is.
-  TeamPlate(int team, Text side, QWidget* parent = nullptr);
+  TeamPlate(Side team, Text side, QWidget* parent = nullptr);
 
   void showTeam(const Scoreboard::Team& team);
 

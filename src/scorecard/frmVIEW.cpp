@@ -162,7 +162,7 @@ QWidget* frmVIEW::makeTables() {
   layout->addWidget(m_stack, 1);
 
   connect(m_team, &QComboBox::currentIndexChanged, this, [this](int team) {
-    m_view.setTeam(team);
+    m_view.setTeam(sideOf(team).value_or(Side::Visitor));
     showTable();
     showChart();
   });
@@ -200,7 +200,7 @@ GameFileProblem frmVIEW::open(const QString& path) {
   m_card = std::move(card);
   m_change.emplace(std::move(change));
   m_problem = GameFileProblem::None;
-  m_shownTeam.fill(-1);
+  m_shownTeam.fill(std::nullopt);
   m_view.show(m_card->counted());
   m_view.forgetChecks();
   showGame(true);
@@ -336,14 +336,14 @@ void frmVIEW::showGame(bool isNew) {
 void frmVIEW::showTeams() {
   const QSignalBlocker noChoice(m_team);
   const GameDetails& details = m_card->game().details;
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const QString text = toQt(details.abbreviation[team]) + QStringLiteral(" – ") + toQt(details.name[team]);
-    if (m_team->count() <= team)
+    if (m_team->count() <= numberOf(team))
       m_team->addItem(text);
     else
-      m_team->setItemText(team, text);
+      m_team->setItemText(numberOf(team), text);
   }
-  m_team->setCurrentIndex(m_view.team());
+  m_team->setCurrentIndex(numberOf(m_view.team()));
 }
 
 void frmVIEW::showTable() {
@@ -355,7 +355,7 @@ void frmVIEW::showTable() {
     for (BoxRow& row : leagueRows(*m_card->counted(), m_view.team(), m_texts))
       rows.push_back({std::move(row)});
   }
-  int& shownTeam = m_shownTeam[shownTable()];
+  std::optional<Side>& shownTeam = m_shownTeam[shownTable()];
   table().hideMadeAttempted(m_view.hidesMadeAttempted());
   table().showRows(std::move(rows), shownTeam == m_view.team());
   setExportTitle(table(), m_team->currentText());

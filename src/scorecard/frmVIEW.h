@@ -5,6 +5,7 @@
 
 #include "appearance/ChildWindow.h"
 #include "appearance/WidgetsFirst.h"
+#include "game/Side.h"
 #include "scorecard/FileChange.h"
 #include "scorecard/Scorecard.h"
 #include "scorecard/ScorecardView.h"
@@ -104,7 +105,7 @@ class frmVIEW : public ChildWindow {
   QStackedWidget* m_stack;
   bool m_showsLeagueSheet = false;
   std::array<BoxTable*, 3> m_tables; // by BoxView; a league's sheet
-  std::array<int, 3> m_shownTeam = {-1, -1, -1};
+  std::array<std::optional<Side>, 3> m_shownTeam;
   QTabWidget* m_tabs;
   EventPanel* m_events;
   GameDetailsPanel* m_details;

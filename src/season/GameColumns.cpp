@@ -62,26 +62,26 @@ std::string_view inputText(InputKind input, const Texts& texts) {
 std::string resultFor(const GameCatalogue& catalogue, const ListedGame& game,
                       std::optional<SeasonId> chosenTeam, const Texts& texts) {
   if (chosenTeam) {
-    for (const int side : {0, 1}) {
+    for (const Side side : kSides) {
       if (game.team[side] == *chosenTeam)
         return resultText(game, side, texts);
     }
     return {};
   }
-  const std::optional<int> winner = game.winner();
+  const std::optional<Side> winner = game.winner();
   return winner ? catalogue.teams()[game.team[*winner]].name : std::string(texts.text(Text::TieShort));
 }
 
 // The number of a column that has one.
 int numberOf(const ListedGame& game, int column) {
   switch (column) {
-  case VisitorPoints: return game.points[0];
-  case HomePoints: return game.points[1];
-  case VisitorWin: return game.winner() == 0 ? 1 : 0;
+  case VisitorPoints: return game.points[Side::Visitor];
+  case HomePoints: return game.points[Side::Home];
+  case VisitorWin: return game.winner() == Side::Visitor ? 1 : 0;
   case VisitorLead: return game.leadSeconds[0];
   case Tie: return game.winner() ? 0 : 1;
   case TiedTime: return game.leadSeconds[2];
-  case HomeWin: return game.winner() == 1 ? 1 : 0;
+  case HomeWin: return game.winner() == Side::Home ? 1 : 0;
   case HomeLead: return game.leadSeconds[1];
   default: return 0;
   }
@@ -103,12 +103,13 @@ std::string gameCell(const GameCatalogue& catalogue, const ListedGame& game, int
   case Date: return game.date;
   case Type: return std::string(gameTypeText(game.type, texts));
   case Result: return resultFor(catalogue, game, chosenTeam, texts);
-  case Visitor: return catalogue.teams()[game.team[0]].name;
-  case Home: return catalogue.teams()[game.team[1]].name;
+  case Visitor: return catalogue.teams()[game.team[Side::Visitor]].name;
+  case Home: return catalogue.teams()[game.team[Side::Home]].name;
   case Input: return std::string(inputText(game.input, texts));
   case Location: return game.place;
   case File: return game.path;
-  case TeamIds: return std::to_string(game.teamNumber[0]) + "-" + std::to_string(game.teamNumber[1]);
+  case TeamIds:
+    return std::to_string(game.teamNumber[Side::Visitor]) + "-" + std::to_string(game.teamNumber[Side::Home]);
   default: return std::to_string(numberOf(game, column));
   }
 }
@@ -131,11 +132,11 @@ bool gameColumnIsText(int column) {
   }
 }
 
-std::string resultText(const ListedGame& game, int side, const Texts& texts) {
-  const std::optional<int> winner = game.winner();
+std::string resultText(const ListedGame& game, Side side, const Texts& texts) {
+  const std::optional<Side> winner = game.winner();
   const Text text = !winner ? Text::TieShort : *winner == side ? Text::WinShort : Text::LossShort;
   return std::string(texts.text(text)) + " " + std::to_string(game.points[side]) + "-" +
-         std::to_string(game.points[1 - side]);
+         std::to_string(game.points[otherSide(side)]);
 }
 
 SeasonRow rowOfResult(const GameResult& result) {
@@ -167,9 +168,9 @@ std::string resultCell(const GameCatalogue& catalogue, const GameResult& result,
   const ListedGame& game = catalogue.games()[result.game];
   switch (column) {
   case 1: return game.date;
-  case 2: return std::string(texts.text(result.side == 0 ? Text::Away : Text::AtHome));
+  case 2: return std::string(texts.text(result.side == Side::Visitor ? Text::Away : Text::AtHome));
   case 3: return resultText(game, result.side, texts);
-  case kResultOpponentColumn: return catalogue.teams()[game.team[1 - result.side]].name;
+  case kResultOpponentColumn: return catalogue.teams()[game.team[otherSide(result.side)]].name;
   default: return seasonCell(rowOfResult(result), seasonColumnOfResult(column), SeasonView::Totals, texts);
   }
 }

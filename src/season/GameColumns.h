@@ -2,6 +2,7 @@
 #pragma once
 
 #include "catalogue/GameCatalogue.h"
+#include "game/Side.h"
 #include "season/SeasonColumns.h"
 
 #include <optional>
@@ -32,7 +33,7 @@ inline constexpr int kGameColumnCount = 17;
 [[nodiscard]] bool gameColumnIsText(int column);
 
 // "W 87-80": win, loss or tie of a side, its own points first.
-[[nodiscard]] std::string resultText(const ListedGame& game, int side, const Texts& texts);
+[[nodiscard]] std::string resultText(const ListedGame& game, Side side, const Texts& texts);
 
 // The results by game of a player or line: date, where, result, opponent, then all statistics. By index
 // from 1.

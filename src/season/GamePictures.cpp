@@ -25,8 +25,8 @@ QString averageText(double average, Unit unit, const Texts& texts) {
   return toQt(texts.withPlaceholder(Text::Average, fromQt(number)));
 }
 
-QString opponentOf(const GameCatalogue& catalogue, const ListedGame& game, int side) {
-  return toQt(catalogue.teams()[game.team[1 - side]].name);
+QString opponentOf(const GameCatalogue& catalogue, const ListedGame& game, Side side) {
+  return toQt(catalogue.teams()[game.team[otherSide(side)]].name);
 }
 
 Unit unitOf(ValueKind kind) {
@@ -78,7 +78,7 @@ SeriesWithToolTips pictureOfMargins(const GameSeries& margins, SeasonId team, co
     drawing.averageText = averageText(*margins.average, drawing.unit, texts);
   for (const SeriesPoint& point : margins.points) {
     const ListedGame& game = catalogue.games()[point.game];
-    const int side = game.team[0] == team ? 0 : 1;
+    const Side side = game.team[Side::Visitor] == team ? Side::Visitor : Side::Home;
     drawing.values.push_back(point.value);
     drawing.labels << shortDate(game);
     picture.toolTips << toQt(game.date) + QStringLiteral("  ") + opponentOf(catalogue, game, side) +

@@ -32,10 +32,10 @@ GameSeries seriesOfMargins(const SeasonStatistics& statistics, SeasonId team) {
   double sum = 0;
   for (const std::size_t index : statistics.games()) {
     const ListedGame& game = statistics.catalogue().games()[index];
-    for (const int side : {0, 1}) {
+    for (const Side side : kSides) {
       if (game.team[side] != team)
         continue;
-      const int margin = game.points[side] - game.points[1 - side];
+      const int margin = game.points[side] - game.points[otherSide(side)];
       series.points.push_back({index, margin});
       sum += margin;
       break; // a team that plays itself plays one game

@@ -53,7 +53,7 @@ ShotSums shotsOfTeam(const GameCatalogue& catalogue, std::span<const std::size_t
   ShotSums sums;
   for (const std::size_t index : games) {
     const ListedGame& game = catalogue.games()[index];
-    if (game.team[0] == team || game.team[1] == team)
+    if (game.team[Side::Visitor] == team || game.team[Side::Home] == team)
       addShots(sums, game, [&](const GameRow& row) { return game.team[row.side] == team; });
   }
   return sums;

@@ -87,13 +87,13 @@ void SeasonStatistics::sumTeams(std::optional<SeasonId> shownTeam, const TaskWat
       return;
     watch.advance();
     const ListedGame& game = m_catalogue->games()[index];
-    for (const int side : {0, 1}) {
+    for (const Side side : kSides) {
       SeasonTeamRow& sum = sums[game.team[side]];
       sum.games += lastGame[game.team[side]] == index ? 0 : 1; // a team that plays itself plays one game
       lastGame[game.team[side]] = index;
       sum.pointsFor += game.points[side];
-      sum.pointsAgainst += game.points[1 - side];
-      const std::optional<int> winner = game.winner();
+      sum.pointsAgainst += game.points[otherSide(side)];
+      const std::optional<Side> winner = game.winner();
       ++(!winner ? sum.ties : *winner == side ? sum.wins : sum.losses);
     }
     for (const GameRow& row : game.players)

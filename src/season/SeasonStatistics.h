@@ -4,6 +4,7 @@
 #pragma once
 
 #include "catalogue/GameCatalogue.h"
+#include "game/Side.h"
 #include "scorecard/BoxScore.h"
 #include "storage/TaskWatch.h"
 
@@ -44,7 +45,7 @@ struct SeasonTeamRow {
 // What one player or line did in one game.
 struct GameResult {
   std::size_t game = 0; // in the catalogue
-  int side = 0;
+  Side side = Side::Visitor;
   BoxNumbers numbers;
 };
 

@@ -5,6 +5,7 @@
 
 #include "game/GameDetails.h"
 #include "game/Roster.h"
+#include "game/Side.h"
 
 #include <optional>
 #include <string>
@@ -19,10 +20,10 @@ struct GameSheet {
   std::string round;
   std::string referees;
   std::string attendance;
-  std::string coach[2];
-  std::string captain[2];  // a jersey
-  std::string targetScore; // empty: the clock decides
-  std::string ruleSet;     // the key of one of kRuleSets; empty for none
+  PerSide<std::string> coach;
+  PerSide<std::string> captain; // a jersey
+  std::string targetScore;      // empty: the clock decides
+  std::string ruleSet;          // the key of one of kRuleSets; empty for none
   std::optional<RecordingLevel> level;
 
   [[nodiscard]] static GameSheet of(const GameDetails& details);

@@ -16,11 +16,11 @@ namespace {
 
 constexpr std::string_view kEnding = ".GAM";
 
-constexpr Text kSideNames[2] = {Text::Visitor, Text::Home};
-constexpr Text kOwnAbbreviations[2] = {Text::VisitorCapitals, Text::HomeCapitals};
+constexpr PerSide<Text> kSideNames = {Text::Visitor, Text::Home};
+constexpr PerSide<Text> kOwnAbbreviations = {Text::VisitorCapitals, Text::HomeCapitals};
 
 // Of a team without a record, by side: told apart at a glance.
-constexpr std::uint32_t kOwnColours[2] = {0x8C7A1F, kDefaultTeamColour};
+constexpr PerSide<std::uint32_t> kOwnColours = {0x8C7A1F, kDefaultTeamColour};
 
 // What a set of rules says of one of the typed ones.
 struct RuleOfSet {
@@ -64,7 +64,7 @@ std::string abbreviationOf(std::string_view name) {
 
 } // namespace
 
-int NewGame::Side::checkedPlayers() const {
+int NewGame::SideForm::checkedPlayers() const {
   return static_cast<int>(std::ranges::count_if(players, &Player::isChecked));
 }
 
@@ -76,14 +76,14 @@ NewGame::NewGame(TeamStore& store, Settings& settings, const Texts& texts, std::
   gameType = std::ranges::find(types, last.gameType) != types.end() ? last.gameType : kNone;
   const bool isInputType = last.inputType >= 0 && last.inputType < static_cast<int>(kInputTypes.size());
   inputType = isInputType ? last.inputType : kNone;
-  for (int side = 0; side < 2; ++side) {
+  for (const Side side : kSides) {
     const auto found = std::ranges::find(m_teams, last.teamId[side], &TeamEntry::id);
     if (last.teamId[side] > 0 && found != m_teams.end())
       chooseTeam(side, static_cast<int>(found - m_teams.begin()));
   }
 }
 
-void NewGame::chooseTeam(int side, int team) {
+void NewGame::chooseTeam(Side side, int team) {
   const TeamEntry& chosen = m_teams.at(static_cast<std::size_t>(team));
   const OwnTeam* own = ownTeam(team);
   const TeamRecord record = own != nullptr ? own->record : m_store.read(chosen.key);
@@ -96,8 +96,8 @@ void NewGame::chooseTeam(int side, int team) {
   if (record.isMain)
     mainTeam = side;
   else if (mainTeam == side)
-    mainTeam = kNone;
-  if (side == 1 || mainTeam == side) {
+    mainTeam.reset();
+  if (side == Side::Home || mainTeam == side) {
     rules = {record.periods, record.minutesPerPeriod, record.bonus, record.personalFoulLimit,
              record.technicalFoulLimit};
     date = m_today;
@@ -109,12 +109,12 @@ NewGame::OwnTeam* NewGame::ownTeam(int team) {
   return team == kNone || found == std::end(m_ownTeams) ? nullptr : &*found;
 }
 
-bool NewGame::hasOwnTeam(int side) const {
+bool NewGame::hasOwnTeam(Side side) const {
   const int team = sides[side].team;
   return team != kNone && std::ranges::find(m_ownTeams, team, &OwnTeam::team) != std::end(m_ownTeams);
 }
 
-void NewGame::chooseOwnTeam(int side) {
+void NewGame::chooseOwnTeam(Side side) {
   OwnTeam& own = m_ownTeams[side];
   if (own.team == kNone) {
     own.team = static_cast<int>(m_teams.size());
@@ -142,27 +142,29 @@ void NewGame::chooseOwnTeam(int side) {
   }
 }
 
-bool NewGame::renameOwnTeam(int side) {
+bool NewGame::renameOwnTeam(Side side) {
   OwnTeam* own = ownTeam(sides[side].team);
   if (own == nullptr)
     return false;
+  const Side maker = own == &m_ownTeams[Side::Visitor] ? Side::Visitor : Side::Home;
   TeamRecord& record = own->record;
   if (record.name != sides[side].name) {
     record.name = sides[side].name;
     record.abbreviation = abbreviationOf(record.name);
     if (record.abbreviation.empty())
-      record.abbreviation = m_texts.text(kOwnAbbreviations[own - m_ownTeams]);
+      record.abbreviation = m_texts.text(kOwnAbbreviations[maker]);
   }
   record.category = sides[side].category;
   TeamEntry& listed = m_teams.at(static_cast<std::size_t>(own->team));
   listed.abbreviation = record.abbreviation;
   listed.category = record.category;
-  if (sides[1 - side].team != kNone && listText(0) == listText(1)) // the Lions of two towns
-    listed.abbreviation = record.abbreviation = m_texts.text(kOwnAbbreviations[own - m_ownTeams]);
+  if (sides[otherSide(side)].team != kNone &&
+      listText(Side::Visitor) == listText(Side::Home)) // the Lions of two towns
+    listed.abbreviation = record.abbreviation = m_texts.text(kOwnAbbreviations[maker]);
   return true;
 }
 
-NewGame::Player* NewGame::wearerOf(int side, std::string_view number) {
+NewGame::Player* NewGame::wearerOf(Side side, std::string_view number) {
   std::vector<Player>& players = sides[side].players;
   const auto found = std::ranges::find_if(players, [&](const Player& player) {
     return player.eligibility == Eligibility::CanPlay &&
@@ -171,7 +173,7 @@ NewGame::Player* NewGame::wearerOf(int side, std::string_view number) {
   return found == players.end() ? nullptr : &*found;
 }
 
-QuickRoster NewGame::takeNumbers(int side, std::string_view typed) {
+QuickRoster NewGame::takeNumbers(Side side, std::string_view typed) {
   QuickRoster roster = quickRoster(typed);
   if (roster.problem != QuickRoster::Problem::None || roster.jerseys.empty())
     return roster;
@@ -190,7 +192,7 @@ QuickRoster NewGame::takeNumbers(int side, std::string_view typed) {
   return roster;
 }
 
-NewGame::AddedPlayer NewGame::addPlayer(int side, std::string_view number, std::string_view name) {
+NewGame::AddedPlayer NewGame::addPlayer(Side side, std::string_view number, std::string_view name) {
   using enum AddedPlayer::Problem;
   const std::string jersey(Module1::trimmed(number));
   if (!isJersey(jersey))
@@ -207,12 +209,12 @@ NewGame::AddedPlayer NewGame::addPlayer(int side, std::string_view number, std::
   return {None, jersey};
 }
 
-void NewGame::setChecked(int side, std::size_t player, bool isChecked) {
+void NewGame::setChecked(Side side, std::size_t player, bool isChecked) {
   Player& chosen = sides[side].players.at(player);
   chosen.isChecked = isChecked && chosen.eligibility == Eligibility::CanPlay;
 }
 
-void NewGame::stepPosition(int side, std::size_t player) {
+void NewGame::stepPosition(Side side, std::size_t player) {
   int& position = sides[side].players.at(player).position;
   position = nextChoice(kFirstPositionText, position, m_texts);
 }
@@ -252,7 +254,7 @@ TeamHabit NewGame::habitOf(int team) const {
 }
 
 TeamHabit NewGame::habit() const {
-  const TeamEntry* const team = entry(mainTeam == kNone ? 1 : mainTeam);
+  const TeamEntry* const team = entry(mainTeam.value_or(Side::Home));
   return team == nullptr ? TeamHabit() : habitOf(team->id);
 }
 
@@ -260,7 +262,7 @@ bool NewGame::isLive() const {
   return inputType != kNone && kInputTypes.at(static_cast<std::size_t>(inputType)).stored == 0;
 }
 
-std::vector<RosterPlayer> NewGame::roster(int side) const {
+std::vector<RosterPlayer> NewGame::roster(Side side) const {
   std::vector<RosterPlayer> roster;
   for (const Player& player : sides[side].players) {
     if (player.isChecked)
@@ -270,7 +272,7 @@ std::vector<RosterPlayer> NewGame::roster(int side) const {
 }
 
 NewGame::Objection NewGame::missingTeam() const {
-  for (int side = 0; side < 2; ++side) {
+  for (const Side side : kSides) {
     if (sides[side].team == kNone)
       return {Problem::NoTeam, side};
   }
@@ -286,7 +288,7 @@ NewGame::Objection NewGame::missing() const {
     return {Problem::NoGameType};
   if (inputType == kNone)
     return {Problem::NoInputType};
-  if (kInputTypes.at(static_cast<std::size_t>(inputType)).usesKeypad && mainTeam == kNone)
+  if (kInputTypes.at(static_cast<std::size_t>(inputType)).usesKeypad && !mainTeam)
     return {Problem::NoMainTeam};
   return {};
 }
@@ -300,7 +302,8 @@ NewGame::Objection NewGame::problem() const {
     return {Problem::Periods};
   const bool isOfThisGame =
       std::ranges::any_of(m_ownTeams, [](const OwnTeam& own) { return own.team != kNone; });
-  if (sides[0].team == sides[1].team || (isOfThisGame && listText(0) == listText(1)))
+  if (sides[Side::Visitor].team == sides[Side::Home].team ||
+      (isOfThisGame && listText(Side::Visitor) == listText(Side::Home)))
     return {Problem::SameTeam};
   if (Module1::leadingNumber(rules.bonus) <= 0)
     return {Problem::Bonus};
@@ -312,30 +315,31 @@ NewGame::Objection NewGame::problem() const {
     return {Problem::TechnicalFouls};
   if (const Objection team = missingTeam(); team != Objection())
     return team;
-  for (int side = 0; side < 2; ++side) {
+  for (const Side side : kSides) {
     if (sides[side].checkedPlayers() > kMostPlayers)
       return {Problem::TooManyPlayers, side};
   }
   return {};
 }
 
-const TeamEntry* NewGame::entry(int side) const {
+const TeamEntry* NewGame::entry(Side side) const {
   const int team = sides[side].team;
   return team == kNone ? nullptr : &m_teams.at(static_cast<std::size_t>(team));
 }
 
-std::string NewGame::listText(int side) const {
+std::string NewGame::listText(Side side) const {
   const TeamEntry* team = entry(side);
   return team == nullptr ? std::string() : team->abbreviation + '-' + team->category;
 }
 
-std::string NewGame::abbreviation(int side) const {
+std::string NewGame::abbreviation(Side side) const {
   return std::string(Module1::trimmed(Module1::field(listText(side), 1, '-')));
 }
 
 std::string NewGame::proposedFileName() const {
   const std::string_view type = choiceName(kFirstGameTypeText, gameType, m_texts);
-  return Module1::asFileName(date + ' ' + std::string(type) + ' ' + listText(0) + ' ' + listText(1)) +
+  return Module1::asFileName(date + ' ' + std::string(type) + ' ' + listText(Side::Visitor) + ' ' +
+                             listText(Side::Home)) +
          std::string(kEnding);
 }
 
@@ -346,7 +350,8 @@ std::string NewGame::overwriteQuestion(const std::string& path) const {
     return {};
   if (problem != GameFileProblem::None)
     return m_texts.withPlaceholder(Text::OtherFileIsLost, path);
-  const std::string game = lost.abbreviation[0] + " - " + lost.abbreviation[1] + " (" + lost.date + ')';
+  const std::string game =
+      lost.abbreviation[Side::Visitor] + " - " + lost.abbreviation[Side::Home] + " (" + lost.date + ')';
   return withPlaceholders(
       m_texts.text(lost.isFinished ? Text::FinishedGameIsLost : Text::UnfinishedGameIsLost), path, game);
 }
@@ -355,15 +360,15 @@ GameDetails NewGame::details() const {
   GameDetails details;
   details.inputType = kInputTypes.at(static_cast<std::size_t>(inputType)).stored;
   details.date = date;
-  details.mainTeam = mainTeam == 1 ? 1 : 0;
-  for (int side = 0; side < 2; ++side) {
+  details.mainTeam = mainTeam.value_or(Side::Visitor);
+  for (const Side side : kSides) {
     details.teamId[side] = entry(side) == nullptr ? 0 : entry(side)->id;
     details.teamColour[side] = sides[side].colour;
     details.abbreviation[side] = abbreviation(side);
     details.name[side] = sides[side].name;
     details.category[side] = sides[side].category;
-    details.statisticLabel[side] = m_settings.statisticLabel[side];
   }
+  std::ranges::copy(m_settings.statisticLabel, details.statisticLabel);
   details.place = place;
   details.statistician = statistician;
   // Its seconds have to be a number, too.
@@ -379,7 +384,7 @@ GameDetails NewGame::details() const {
   if (isLive() && (level() != RecordingLevel::Basic || habit().level != RecordingLevel::Basic))
     details.level = level();
   GameSheet written = sheet;
-  for (int side = 0; side < 2; ++side) {
+  for (const Side side : kSides) {
     // Somebody who was taken out of the game since leads nobody.
     const std::vector<RosterPlayer> players = roster(side);
     if (std::ranges::find(players, written.captain[side], &RosterPlayer::jersey) == players.end())
@@ -391,13 +396,14 @@ GameDetails NewGame::details() const {
 }
 
 GameFileProblem NewGame::create(const std::string& path) {
-  const GameFileProblem problem = GameFile(m_store.store(), path).create(details(), roster(0), roster(1));
+  const GameFileProblem problem =
+      GameFile(m_store.store(), path).create(details(), roster(Side::Visitor), roster(Side::Home));
   if (problem != GameFileProblem::None)
     return problem;
   m_chosenRules = ruleSet(); // whoever becomes the main team
   m_chosenLevel = level();
-  if (mainTeam == kNone)
-    mainTeam = 0;
+  if (!mainTeam)
+    mainTeam = Side::Visitor;
   m_settings.lastGameFolder = std::filesystem::path(path).parent_path().string();
   m_settings.saveKeypadIsActive(kInputTypes.at(static_cast<std::size_t>(inputType)).usesKeypad);
   return GameFileProblem::None;
@@ -405,7 +411,7 @@ GameFileProblem NewGame::create(const std::string& path) {
 
 LastChoices NewGame::choices() const {
   LastChoices choices;
-  for (int side = 0; side < 2; ++side)
+  for (const Side side : kSides)
     choices.teamId[side] = entry(side) == nullptr ? 0 : entry(side)->id;
   choices.place = place;
   choices.statistician = statistician;

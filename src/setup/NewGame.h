@@ -6,6 +6,7 @@
 
 #include "game/GameFile.h"
 #include "game/Rules.h"
+#include "game/Side.h"
 #include "settings/ChoiceTexts.h"
 #include "settings/Texts.h"
 #include "setup/GameSheet.h"
@@ -40,7 +41,7 @@ struct TeamHabit {
 
 // What the next game begins with.
 struct LastChoices {
-  int teamId[2] = {}; // visitors, home; 0 for none
+  PerSide<int> teamId = {}; // 0 for none
   std::string place;
   std::string statistician;
   int gameType = 2;                     // Season
@@ -71,7 +72,7 @@ class NewGame {
   };
   struct Objection {
     Problem problem = Problem::None;
-    int side = kNone; // where it is of one
+    std::optional<Side> side = {}; // where it is of one
     friend bool operator==(const Objection&, const Objection&) = default;
   };
   // What became of a player for this game alone.
@@ -91,7 +92,8 @@ class NewGame {
     bool isChecked = false; // never for one who cannot play
     bool isAdded = false;   // for this game alone: the team's list has him not
   };
-  struct Side {
+  // As it is typed and chosen for one side.
+  struct SideForm {
     int team = kNone; // position in teams()
     std::string name;
     std::string category;
@@ -105,8 +107,8 @@ class NewGame {
           const LastChoices& last);
 
   // Fields that take whatever is typed. Numbers are read leniently and written as they are.
-  Side sides[2]; // visitors, home
-  int mainTeam = kNone;
+  PerSide<SideForm> sides;
+  std::optional<Side> mainTeam;
   TypedRules rules;
   std::string date;
   int gameType = kNone;  // index, as stored
@@ -129,30 +131,30 @@ class NewGame {
   [[nodiscard]] RecordingLevel level() const;
   [[nodiscard]] bool isLive() const; // by its input type
   // Who plays.
-  [[nodiscard]] std::vector<RosterPlayer> roster(int side) const;
+  [[nodiscard]] std::vector<RosterPlayer> roster(Side side) const;
 
   const std::vector<TeamEntry>& teams() const { return m_teams; }
   // Takes over name, category, colour, main team and players. The home team and the main team also set the
   // rules, and the date to today. Another team has another coach and captain.
-  void chooseTeam(int side, int team);
-  void setChecked(int side, std::size_t player, bool isChecked); // nothing for one who cannot play
-  void stepPosition(int side, std::size_t player);
+  void chooseTeam(Side side, int team);
+  void setChecked(Side side, std::size_t player, bool isChecked); // nothing for one who cannot play
+  void stepPosition(Side side, std::size_t player);
 
   // Chooses a team that no list keeps, without players: the side's own one, added to teams() the first time.
   // Rules that are missing become the usual ones. Nothing where it is chosen already.
-  void chooseOwnTeam(int side);
-  [[nodiscard]] bool hasOwnTeam(int side) const; // one of this game alone is chosen
+  void chooseOwnTeam(Side side);
+  [[nodiscard]] bool hasOwnTeam(Side side) const; // one of this game alone is chosen
   // After a new name or category of the side: what teams() calls a team of this game follows, with the last
   // word of the name as abbreviation, or VISITOR and HOME where both would be called alike. False, and
   // nothing, for a team of the list.
-  bool renameOwnTeam(int side);
+  bool renameOwnTeam(Side side);
 
   // The players of the side, by their numbers ("4 5 7 10 23"): who is not named does not play, and a number
   // that nobody has is a player without a name, for this game alone. Without a team, the side gets its own.
   // Nothing changes with a problem, nor where nothing is typed.
-  QuickRoster takeNumbers(int side, std::string_view typed);
+  QuickRoster takeNumbers(Side side, std::string_view typed);
   // One player more for this game alone, with or without a name.
-  [[nodiscard]] AddedPlayer addPlayer(int side, std::string_view number, std::string_view name);
+  [[nodiscard]] AddedPlayer addPlayer(Side side, std::string_view number, std::string_view name);
 
   // The first thing that has to be chosen before the game can be accepted.
   [[nodiscard]] Objection missing() const;
@@ -177,11 +179,11 @@ class NewGame {
   };
 
   [[nodiscard]] OwnTeam* ownTeam(int team);
-  [[nodiscard]] Player* wearerOf(int side, std::string_view number);
+  [[nodiscard]] Player* wearerOf(Side side, std::string_view number);
   [[nodiscard]] Objection missingTeam() const;
-  [[nodiscard]] const TeamEntry* entry(int side) const;
-  [[nodiscard]] std::string listText(int side) const;
-  [[nodiscard]] std::string abbreviation(int side) const;
+  [[nodiscard]] const TeamEntry* entry(Side side) const;
+  [[nodiscard]] std::string listText(Side side) const;
+  [[nodiscard]] std::string abbreviation(Side side) const;
   [[nodiscard]] TeamHabit habitOf(int team) const; // by its id
   [[nodiscard]] TeamHabit habit() const;
   [[nodiscard]] GameDetails details() const;
@@ -191,7 +193,7 @@ class NewGame {
   const Texts& m_texts;
   std::string m_today;
   std::vector<TeamEntry> m_teams;
-  OwnTeam m_ownTeams[2]; // by the side that made them
+  PerSide<OwnTeam> m_ownTeams; // by the side that made them
   std::map<int, TeamHabit> m_habits;
   std::optional<std::string> m_chosenRules;
   std::optional<RecordingLevel> m_chosenLevel;

@@ -45,7 +45,7 @@ Text textOf(const NewGame::Objection& objection) {
   case Bonus: return Text::InvalidBonus;
   case PersonalFouls: return Text::InvalidPersonalFouls;
   case TechnicalFouls: return Text::InvalidTechnicalFouls;
-  case TooManyPlayers: return objection.side == 0 ? Text::VisitorsTooMany : Text::HomeTooMany;
+  case TooManyPlayers: return objection.side == Side::Visitor ? Text::VisitorsTooMany : Text::HomeTooMany;
   case None: break;
   }
   return Text::None;

@@ -21,13 +21,13 @@ namespace hooptab {
 
 namespace {
 
-constexpr Text kSideNames[2] = {Text::Visitor, Text::Home};
+constexpr PerSide<Text> kSideNames = {Text::Visitor, Text::Home};
 constexpr int kLongestNumber = 3;
 constexpr int kWarningSign = 0x26A0;
 
 } // namespace
 
-SidePanel::SidePanel(NewGame& game, int side, const Texts& texts, QWidget* parent)
+SidePanel::SidePanel(NewGame& game, Side side, const Texts& texts, QWidget* parent)
     : Card(parent), m_game(game), m_side(side), m_texts(texts), m_model(game, side, texts),
       m_main(new BandChoice(this)), m_band(new SideBand(kSideNames[side], *m_main, this)),
       m_teams(new TeamList(named("lstequipes"), QStringLiteral("-"), this)) {
@@ -75,7 +75,7 @@ QRadioButton& SidePanel::mainTeamChoice() const {
 }
 
 QString SidePanel::named(const char* name) const {
-  return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(m_side);
+  return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(numberOf(m_side));
 }
 
 QLineEdit* SidePanel::addField(const char* name, Text text) {
@@ -214,7 +214,7 @@ void SidePanel::relabelPanel() {
 
 // A name that is typed for a side without a team makes one.
 void SidePanel::takeNames() {
-  NewGame::Side& side = m_game.sides[m_side];
+  NewGame::SideForm& side = m_game.sides[m_side];
   const bool isNew = side.team == NewGame::kNone;
   if (isNew)
     m_game.chooseOwnTeam(m_side);
@@ -297,7 +297,7 @@ void SidePanel::showTeams() {
 }
 
 void SidePanel::showTeam() {
-  const NewGame::Side side = m_game.sides[m_side]; // a field that is set writes into the game
+  const NewGame::SideForm side = m_game.sides[m_side]; // a field that is set writes into the game
   m_name->setText(toQt(side.name));
   m_category->setText(toQt(side.category));
   for (QLineEdit* field : {m_name, m_category})
@@ -315,7 +315,7 @@ void SidePanel::showPlayers() {
 }
 
 void SidePanel::showBand() {
-  const NewGame::Side& side = m_game.sides[m_side];
+  const NewGame::SideForm& side = m_game.sides[m_side];
   if (side.team == NewGame::kNone)
     m_band->showTeam(caption(m_texts, Text::ChooseTeam), {});
   else
@@ -324,7 +324,7 @@ void SidePanel::showBand() {
 
 // Too many players are told by words, a sign and weight as much as by colour.
 void SidePanel::showCount() {
-  const NewGame::Side& side = m_game.sides[m_side];
+  const NewGame::SideForm& side = m_game.sides[m_side];
   const int checked = side.checkedPlayers();
   const bool isTooMany = checked > kMostPlayers;
   const QString count =

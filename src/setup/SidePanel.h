@@ -5,6 +5,7 @@
 #pragma once
 
 #include "appearance/Card.h"
+#include "game/Side.h"
 #include "setup/SidePlayersModel.h"
 
 class QLabel;
@@ -21,7 +22,7 @@ class TeamList;
 class SidePanel : public Card {
   Q_OBJECT
  public:
-  SidePanel(NewGame& game, int side, const Texts& texts, QWidget* parent = nullptr);
+  SidePanel(NewGame& game, Side side, const Texts& texts, QWidget* parent = nullptr);
 
   QRadioButton& mainTeamChoice() const;
   SidePlayersTable& players() const { return *m_table; }
@@ -53,7 +54,7 @@ class SidePanel : public Card {
   QString named(const char* name) const; // "NAME(SIDE)"
 
   NewGame& m_game;
-  const int m_side;
+  const Side m_side;
   const Texts& m_texts;
   SidePlayersModel m_model;
   // In the order of the Tab key.

@@ -24,7 +24,7 @@ Text hint(const NewGame::Player& player) {
 
 } // namespace
 
-SidePlayersModel::SidePlayersModel(NewGame& game, int side, const Texts& texts, QObject* parent)
+SidePlayersModel::SidePlayersModel(NewGame& game, Side side, const Texts& texts, QObject* parent)
     : QAbstractTableModel(parent), m_game(game), m_side(side), m_texts(texts) {}
 
 void SidePlayersModel::changedTeam() {

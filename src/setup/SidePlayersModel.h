@@ -2,6 +2,7 @@
 // when another team was chosen.
 #pragma once
 
+#include "game/Side.h"
 #include "setup/NewGame.h"
 
 #include <QAbstractTableModel>
@@ -14,7 +15,7 @@ class SidePlayersModel : public QAbstractTableModel {
   enum Column { Number, Position, Name, PositionIndex, ColumnCount };
 
   // Game and texts must outlive it.
-  SidePlayersModel(NewGame& game, int side, const Texts& texts, QObject* parent = nullptr);
+  SidePlayersModel(NewGame& game, Side side, const Texts& texts, QObject* parent = nullptr);
 
   void changedTeam();
   void relabel();
@@ -34,7 +35,7 @@ class SidePlayersModel : public QAbstractTableModel {
   void rowsChanged(int first, int last);
 
   NewGame& m_game;
-  const int m_side;
+  const Side m_side;
   const Texts& m_texts;
 };
 

@@ -96,9 +96,9 @@ frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts,
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(margin, margin, margin, margin);
   layout->setSpacing(margin);
-  for (int side = 0; side < 2; ++side) {
+  for (const Side side : kSides) {
     m_sides[side] = new SidePanel(m_game, side, texts, this);
-    m_mainTeam.addButton(&m_sides[side]->mainTeamChoice(), side);
+    m_mainTeam.addButton(&m_sides[side]->mainTeamChoice(), numberOf(side));
     layout->addWidget(m_sides[side], 1);
     connect(m_sides[side], &SidePanel::teamChosen, this, [this] {
       showRules();
@@ -117,7 +117,7 @@ frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts,
   layout->addWidget(makeColumn());
 
   connect(&m_mainTeam, &QButtonGroup::idClicked, this, [this](int side) {
-    m_game.mainTeam = side;
+    m_game.mainTeam = sideOf(side);
     showRuleSet();
     showAcceptance();
   });
@@ -127,7 +127,7 @@ frmNEWGAME::frmNEWGAME(TeamStore& teams, Settings& settings, const Texts& texts,
   relabelWindow();
   showRules();
   showMainTeam();
-  m_sides[0]->teams().list().setFocus();
+  m_sides[Side::Visitor]->teams().list().setFocus();
   const QSize roomy = measure.isWide() ? kRoomyWideWindow : kRoomyWindow;
   resize((roomy * measure.zoom() / 100).boundedTo(screen()->availableSize() - kAroundWindow));
 }
@@ -375,7 +375,8 @@ void frmNEWGAME::showRuleSet() {
 
 void frmNEWGAME::openSheet() {
   frmSHEET window(m_game.sheet,
-                  {{m_game.sides[0].name, m_game.roster(0)}, {m_game.sides[1].name, m_game.roster(1)}},
+                  {frmSHEET::Team{m_game.sides[Side::Visitor].name, m_game.roster(Side::Visitor)},
+                   frmSHEET::Team{m_game.sides[Side::Home].name, m_game.roster(Side::Home)}},
                   frmSHEET::Asks::WithoutRules, m_texts, this);
   if (window.exec() == QDialog::Accepted)
     m_game.sheet = window.sheet();
@@ -394,8 +395,8 @@ void frmNEWGAME::showRules() {
 
 void frmNEWGAME::showMainTeam() {
   m_mainTeam.setExclusive(false); // none may be chosen
-  for (int side = 0; side < 2; ++side)
-    m_mainTeam.button(side)->setChecked(m_game.mainTeam == side);
+  for (const Side side : kSides)
+    m_mainTeam.button(numberOf(side))->setChecked(m_game.mainTeam == side);
   m_mainTeam.setExclusive(true);
 }
 
@@ -425,9 +426,9 @@ void frmNEWGAME::focusOn(const NewGame::Objection& objection) {
   case PersonalFouls: place = m_personalFouls; break;
   case TechnicalFouls: place = m_technicalFouls; break;
   case NoInputType: place = m_input; break;
-  case NoTeam: place = &m_sides[objection.side]->teams().list(); break;
-  case SameTeam: place = &m_sides[1]->teams().list(); break;
-  case TooManyPlayers: place = &m_sides[objection.side]->players(); break;
+  case NoTeam: place = &m_sides[*objection.side]->teams().list(); break;
+  case SameTeam: place = &m_sides[Side::Home]->teams().list(); break;
+  case TooManyPlayers: place = &m_sides[*objection.side]->players(); break;
   case NoDate:
   case NoGameType:
   case NoMainTeam:

@@ -3,6 +3,7 @@
 // caller's work, and so is keeping the choices for the next time.
 #pragma once
 
+#include "game/Side.h"
 #include "setup/NewGame.h"
 
 #include <QButtonGroup>
@@ -73,7 +74,7 @@ class frmNEWGAME : public QDialog {
   NewGame m_game;
   QString m_path;
 
-  SidePanel* m_sides[2];
+  PerSide<SidePanel*> m_sides;
   QButtonGroup m_mainTeam;
   QLineEdit* m_date;
   QDateEdit* m_picker;

@@ -23,7 +23,7 @@ constexpr int kColumnsOfTeams = 2; // behind that of the labels
 
 } // namespace
 
-frmSHEET::frmSHEET(const GameSheet& sheet, const Team (&teams)[2], Asks asks, const Texts& texts,
+frmSHEET::frmSHEET(const GameSheet& sheet, const PerSide<Team>& teams, Asks asks, const Texts& texts,
                    QWidget* parent)
     : QDialog(parent), m_texts(texts), m_sheet(sheet), m_layout(new QGridLayout) {
   setObjectName(QStringLiteral("frmSHEET"));
@@ -76,23 +76,24 @@ void frmSHEET::addWideRow(Text text, QWidget& field) {
 }
 
 // Both teams side by side, under their names.
-void frmSHEET::addTeams(const Team (&teams)[2]) {
+void frmSHEET::addTeams(const PerSide<Team>& teams) {
   const int row = m_layout->rowCount();
-  for (int side = 0; side < 2; ++side) {
+  for (const Side side : kSides) {
     const Team& team = teams[side];
     auto* name = new ElidedLabel(toQt(team.name), this);
     name->setFont(Theme::font(Type::Name));
-    m_layout->addWidget(name, row, 1 + side);
-    QWidget* const fields[] = {makeField(QStringLiteral("txtENTRAINEUR(%1)").arg(side), m_sheet.coach[side]),
-                               makeCaptain(side, team.players)};
+    m_layout->addWidget(name, row, 1 + numberOf(side));
+    QWidget* const fields[] = {
+        makeField(QStringLiteral("txtENTRAINEUR(%1)").arg(numberOf(side)), m_sheet.coach[side]),
+        makeCaptain(side, team.players)};
     int below = row;
     for (const Text text : {Text::Coach, Text::Captain}) {
       QWidget& field = *fields[below - row];
       ++below;
       // One label for both: it leads to the first team's field.
-      if (side == 0)
+      if (side == Side::Visitor)
         m_layout->addWidget(captionFor(field, text), below, 0);
-      m_layout->addWidget(&field, below, 1 + side);
+      m_layout->addWidget(&field, below, 1 + numberOf(side));
       m_namesOfTeams.emplace_back(&field,
                                   QStringLiteral("%1 – %2").arg(caption(m_texts, text), toQt(team.name)));
       setToolTipNumber(field, text);
@@ -154,8 +155,8 @@ QComboBox* frmSHEET::makeChoice(const QString& name) {
   return choice;
 }
 
-QComboBox* frmSHEET::makeCaptain(int side, const std::vector<RosterPlayer>& players) {
-  QComboBox* choice = makeChoice(QStringLiteral("lstCAPITAINE(%1)").arg(side));
+QComboBox* frmSHEET::makeCaptain(Side side, const std::vector<RosterPlayer>& players) {
+  QComboBox* choice = makeChoice(QStringLiteral("lstCAPITAINE(%1)").arg(numberOf(side)));
   std::string& captain = m_sheet.captain[side];
   const std::vector<CaptainChoice> choices = captainChoices(players, captain);
   for (const CaptainChoice& one : choices)

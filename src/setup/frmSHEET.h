@@ -2,6 +2,7 @@
 // by GameSheet, and written by the caller.
 #pragma once
 
+#include "game/Side.h"
 #include "settings/Texts.h"
 #include "setup/GameSheet.h"
 
@@ -28,7 +29,7 @@ class frmSHEET : public QDialog {
   enum class Asks : std::uint8_t { WithRules, WithoutRules };
 
   // Texts must outlive it.
-  frmSHEET(const GameSheet& sheet, const Team (&teams)[2], Asks asks, const Texts& texts,
+  frmSHEET(const GameSheet& sheet, const PerSide<Team>& teams, Asks asks, const Texts& texts,
            QWidget* parent = nullptr);
 
   [[nodiscard]] const GameSheet& sheet() const { return m_sheet; } // as it stands in the fields
@@ -36,12 +37,12 @@ class frmSHEET : public QDialog {
  private:
   void addRow(Text text, QWidget& field, Text toolTip);
   void addWideRow(Text text, QWidget& field);
-  void addTeams(const Team (&teams)[2]);
+  void addTeams(const PerSide<Team>& teams);
   void addRules();
   void addAnswers();
   [[nodiscard]] QLineEdit* makeField(const QString& name, std::string& target);
   [[nodiscard]] QComboBox* makeChoice(const QString& name);
-  [[nodiscard]] QComboBox* makeCaptain(int side, const std::vector<RosterPlayer>& players);
+  [[nodiscard]] QComboBox* makeCaptain(Side side, const std::vector<RosterPlayer>& players);
 
   const Texts& m_texts;
   GameSheet m_sheet;

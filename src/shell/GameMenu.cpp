@@ -31,9 +31,9 @@ std::vector<GameEntry> sampleGames(const SharedFiles& files, ProfileStore& store
       GameDetails details;
       if (GameFile(store, fromQt(file.filePath())).readDetails(details) != GameFileProblem::None)
         continue;
-      const QString label =
-          QStringLiteral("%1   %2 - %3")
-              .arg(toQt(details.date), toQt(details.abbreviation[0]), toQt(details.abbreviation[1]));
+      const QString label = QStringLiteral("%1   %2 - %3")
+                                .arg(toQt(details.date), toQt(details.abbreviation[Side::Visitor]),
+                                     toQt(details.abbreviation[Side::Home]));
       dated.push_back({details.date, {label, file.filePath()}});
     }
   }

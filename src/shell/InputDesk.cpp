@@ -235,13 +235,14 @@ void InputDesk::openSheet(frmLIVE& recording) {
     return m_workshop.dialogs.inform(&m_window, toQt(m_workshop.texts.text(Text::WarningTitle)),
                                      toQt(m_workshop.texts.text(Text::SheetForReading)));
   const GameSheet before = GameSheet::of(recording.game().details);
-  const auto team = [&](int side) {
+  const auto team = [&](Side side) {
     const Game& game = recording.game();
     const Roster& roster = game.roster[side];
     return frmSHEET::Team{game.details.name[side],
                           isTeamItself(roster) ? std::vector<RosterPlayer>() : roster.players()};
   };
-  frmSHEET sheet(before, {team(0), team(1)}, frmSHEET::Asks::WithRules, m_workshop.texts, &m_window);
+  frmSHEET sheet(before, {team(Side::Visitor), team(Side::Home)}, frmSHEET::Asks::WithRules, m_workshop.texts,
+                 &m_window);
   const QPointer<frmLIVE> still(&recording);
   if (sheet.exec() != QDialog::Accepted || still == nullptr)
     return;

@@ -4,6 +4,7 @@
 #include "appearance/TeamTag.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "game/Side.h"
 #include "shell/RecentGameWords.h"
 
 #include <QDir>
@@ -100,16 +101,16 @@ void RecentGameRow::paintEvent(QPaintEvent*) {
   }
   write(columns.day, dayText(m_game, m_texts), look.muted, Qt::AlignLeft);
   left += columns.gap;
-  tag(m_game.teams[0]);
+  tag(m_game.teams[Side::Visitor]);
   left += columns.gap;
   painter.setFont(bold);
-  write(columns.points, QString::number(m_game.teams[0].points), look.ink, Qt::AlignRight);
+  write(columns.points, QString::number(m_game.teams[Side::Visitor].points), look.ink, Qt::AlignRight);
   painter.setFont(body);
   write(columns.dash, QStringLiteral("–"), look.muted, Qt::AlignHCenter);
   painter.setFont(bold);
-  write(columns.points, QString::number(m_game.teams[1].points), look.ink, Qt::AlignLeft);
+  write(columns.points, QString::number(m_game.teams[Side::Home].points), look.ink, Qt::AlignLeft);
   left += columns.gap;
-  tag(m_game.teams[1]);
+  tag(m_game.teams[Side::Home]);
   left += 2 * columns.gap;
   painter.setFont(body);
   const QString state = stateText(m_game, m_texts);

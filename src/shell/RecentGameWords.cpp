@@ -42,15 +42,15 @@ QString stateText(const RecentGame& game, const Texts& texts) {
 }
 
 QString scoreText(const RecentGame& game) {
-  return QStringLiteral("%1 – %2").arg(game.teams[0].points).arg(game.teams[1].points);
+  return QStringLiteral("%1 – %2").arg(game.teams[Side::Visitor].points).arg(game.teams[Side::Home].points);
 }
 
 QString wholeText(const RecentGame& game, const Texts& texts) {
   if (game.problem != GameFileProblem::None)
     return QFileInfo(toQt(game.path)).fileName() + QStringLiteral(", ") + stateText(game, texts);
   return QStringLiteral("%1, %2 %3 %4, %5")
-      .arg(dayText(game, texts), toQt(game.teams[0].abbreviation), scoreText(game),
-           toQt(game.teams[1].abbreviation), stateText(game, texts));
+      .arg(dayText(game, texts), toQt(game.teams[Side::Visitor].abbreviation), scoreText(game),
+           toQt(game.teams[Side::Home].abbreviation), stateText(game, texts));
 }
 
 } // namespace hooptab

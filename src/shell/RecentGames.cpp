@@ -31,13 +31,12 @@ RecentGame readOne(ProfileStore& store, const std::string& path, GameState& stat
   result.problem = file.read(game);
   if (result.problem != GameFileProblem::None)
     return result;
-  (void)Tally::run(state, game.events, game.roster[0],
-                   game.roster[1]); // a count at its limit is told elsewhere
+  (void)Tally::run(state, game.events, game.roster[Side::Visitor],
+                   game.roster[Side::Home]); // a count at its limit is told elsewhere
   const GameDetails& details = game.details;
   result.date = details.date;
-  for (std::size_t team = 0; team < result.teams.size(); ++team)
-    result.teams[team] = {details.abbreviation[team], details.teamColour[team],
-                          state.points(static_cast<int>(team))};
+  for (const Side team : kSides)
+    result.teams[team] = {details.abbreviation[team], details.teamColour[team], state.points(team)};
   result.isFinished = details.isFinished;
   result.mayBeCut = details.isFinished && std::ranges::any_of(checkGame(game, file.text(), {}), lacksItsEnd);
   result.hasPeriods = details.inputType == 0;

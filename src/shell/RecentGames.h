@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/GameFile.h"
+#include "game/Side.h"
 #include "storage/TaskWatch.h"
 
 #include <array>
@@ -24,7 +25,7 @@ struct RecentGame {
   std::string path;
   GameFileProblem problem = GameFileProblem::None; // what is below holds only with none
   std::string date;                                // yyyy-mm-dd, as the file has it
-  std::array<Team, 2> teams;
+  PerSide<Team> teams;
   bool isFinished = false;
   bool mayBeCut = false;   // finished, and its end is missing
   bool hasPeriods = false; // recorded event by event, not entered as totals

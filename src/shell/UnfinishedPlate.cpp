@@ -4,6 +4,7 @@
 #include "appearance/LanguageLocale.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "game/Side.h"
 #include "shell/RecentGameWords.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
@@ -126,8 +127,8 @@ void UnfinishedPlate::paintEvent(QPaintEvent*) {
   const int scores = QFontMetrics(figures).horizontalAdvance(QStringLiteral("199"));
   const int names = QFontMetrics(Theme::font(Type::Count, QFont::Bold)).horizontalAdvance(u'W') * 7;
   const int plate = std::min((room - clock) / 2, scores + names + measure(36));
-  paintTeam(painter, QRect(side, top, plate, heights.teams), 0);
-  paintTeam(painter, QRect(side + plate + clock, top, plate, heights.teams), 1);
+  paintTeam(painter, QRect(side, top, plate, heights.teams), Side::Visitor);
+  paintTeam(painter, QRect(side + plate + clock, top, plate, heights.teams), Side::Home);
   if (!m_game.hasPeriods)
     return;
   const QRect middle(side + plate, top, clock, heights.teams);
@@ -145,7 +146,7 @@ void UnfinishedPlate::paintEvent(QPaintEvent*) {
                    toQt(Module1::clockText(m_game.clockSeconds)));
 }
 
-void UnfinishedPlate::paintTeam(QPainter& painter, const QRect& rect, std::size_t team) const {
+void UnfinishedPlate::paintTeam(QPainter& painter, const QRect& rect, Side team) const {
   const QColor colour = colourOf(m_game.teams[team].colour);
   painter.setBrush(colour);
   painter.setPen(outlineOf(colour, Theme::look().plate));
@@ -154,8 +155,8 @@ void UnfinishedPlate::paintTeam(QPainter& painter, const QRect& rect, std::size_
   // The scores stand next to the clock, the names outside.
   const int side = Theme::measure()(12);
   const QRect inner = rect.adjusted(side, 0, -side, 0);
-  const Qt::Alignment outside = team == 0 ? Qt::AlignLeft : Qt::AlignRight;
-  const Qt::Alignment inside = team == 0 ? Qt::AlignRight : Qt::AlignLeft;
+  const Qt::Alignment outside = team == Side::Visitor ? Qt::AlignLeft : Qt::AlignRight;
+  const Qt::Alignment inside = team == Side::Visitor ? Qt::AlignRight : Qt::AlignLeft;
   const QString points = QString::number(m_game.teams[team].points);
   painter.setFont(Theme::font(Type::Score));
   painter.drawText(inner, static_cast<int>(inside | Qt::AlignVCenter), points);

@@ -1,6 +1,7 @@
 // The plate of the start page with the game that goes on: where it stands, and the ways back into it.
 #pragma once
 
+#include "game/Side.h"
 #include "settings/Texts.h"
 #include "shell/RecentGames.h"
 
@@ -34,7 +35,7 @@ class UnfinishedPlate : public QWidget {
 
  private:
   void widenButtons();
-  void paintTeam(QPainter& painter, const QRect& rect, std::size_t team) const;
+  void paintTeam(QPainter& painter, const QRect& rect, Side team) const;
 
   const Texts& m_texts;
   RecentGame m_game;

@@ -135,8 +135,8 @@ LastChoices WindowMemory::lastGame() {
   if (value(kLastGame, "TYPE").empty())
     return choices;
   const auto number = [this](std::string_view key) { return Module1::leadingNumber(value(kLastGame, key)); };
-  choices.teamId[0] = number("VISITORS");
-  choices.teamId[1] = number("HOME");
+  choices.teamId[Side::Visitor] = number("VISITORS");
+  choices.teamId[Side::Home] = number("HOME");
   choices.place = value(kLastGame, "PLACE");
   choices.statistician = value(kLastGame, "STATISTICIAN");
   choices.gameType = number("TYPE");
@@ -147,8 +147,8 @@ LastChoices WindowMemory::lastGame() {
 
 void WindowMemory::rememberLastGame(const LastChoices& choices) {
   ProfileBatch batch;
-  batch.set(kLastGame, "VISITORS", std::to_string(choices.teamId[0]));
-  batch.set(kLastGame, "HOME", std::to_string(choices.teamId[1]));
+  batch.set(kLastGame, "VISITORS", std::to_string(choices.teamId[Side::Visitor]));
+  batch.set(kLastGame, "HOME", std::to_string(choices.teamId[Side::Home]));
   batch.set(kLastGame, "PLACE", choices.place);
   batch.set(kLastGame, "STATISTICIAN", choices.statistician);
   batch.set(kLastGame, "TYPE", std::to_string(choices.gameType));

@@ -19,8 +19,8 @@ GameSimulator::GameSimulator(const SampleTeam& visitors, const SampleTeam& home,
                           SimulatedSide(home, home.personalFoulLimit, home.technicalFoulLimit, m_random)} {
   GameDetails& details = m_game.details;
   details.version = GameFile::kVersion;
-  const SampleTeam* const teams[2] = {&visitors, &home};
-  for (std::size_t team = 0; team < 2; ++team) {
+  const PerSide<const SampleTeam*> teams = {&visitors, &home};
+  for (const Side team : kSides) {
     details.teamId[team] = teams[team]->id;
     details.teamColour[team] = teams[team]->colour;
     details.abbreviation[team] = teams[team]->abbreviation;
@@ -41,8 +41,8 @@ GameSimulator::GameSimulator(const SampleTeam& visitors, const SampleTeam& home,
 
 SimulatedGame GameSimulator::play(std::optional<Interruption> interruption) {
   m_interruption = interruption;
-  m_firstWithBall = static_cast<std::size_t>(m_random.below(2));
-  while (!m_isInterrupted && (m_period < kPeriods || m_points[0] == m_points[1]))
+  m_firstWithBall = *sideOf(m_random.below(2));
+  while (!m_isInterrupted && (m_period < kPeriods || m_points[Side::Visitor] == m_points[Side::Home]))
     playPeriod();
   m_game.details.isFinished = !m_isInterrupted;
   return std::move(m_game);
@@ -68,7 +68,7 @@ void GameSimulator::playPeriod() {
     deadBall();
   }
   restart();
-  m_offense = (m_firstWithBall + static_cast<std::size_t>(m_period) - 1) % 2;
+  m_offense = m_period % 2 == 1 ? m_firstWithBall : otherSide(m_firstWithBall);
   while (m_clock > 0 && !m_isInterrupted) {
     playPossession();
     m_isInterrupted =
@@ -80,7 +80,7 @@ void GameSimulator::playPeriod() {
 int GameSimulator::possessionSeconds() {
   if (m_offensiveRebounder)
     return m_random.between(1, 9);
-  const int lead = m_points[m_offense] - m_points[1 - m_offense];
+  const int lead = m_points[m_offense] - m_points[otherSide(m_offense)];
   if (isLate() && m_clock < 60 && lead < 0)
     return m_random.between(4, 11);
   if (m_random.chance(140)) // a fast break
@@ -113,7 +113,7 @@ void GameSimulator::playPossession() {
     }
     advance(m_clock);
   }
-  m_offense = 1 - m_offense;
+  m_offense = otherSide(m_offense);
 }
 
 GameSimulator::Next GameSimulator::playAction() {
@@ -123,7 +123,7 @@ GameSimulator::Next GameSimulator::playAction() {
   }
   m_offensiveRebounder.reset();
 
-  const int lead = m_points[m_offense] - m_points[1 - m_offense];
+  const int lead = m_points[m_offense] - m_points[otherSide(m_offense)];
   if (isLate() && m_clock < 40 && lead > 0 && lead < 9 && m_random.chance(700))
     return defensiveFoul(); // on purpose, to stop the clock
 
@@ -143,7 +143,7 @@ GameSimulator::Next GameSimulator::turnOver() {
   action(EventCode::STO, m_offense, offense().pick(&PlayerTraits::losing, m_random));
   if (m_random.chance(520)) {
     advance(m_random.below(3));
-    action(EventCode::SST, 1 - m_offense, defense().pick(&PlayerTraits::stealing, m_random));
+    action(EventCode::SST, otherSide(m_offense), defense().pick(&PlayerTraits::stealing, m_random));
   } else if (m_clock > 0) {
     whistle();
     deadBall();
@@ -157,7 +157,7 @@ GameSimulator::Next GameSimulator::defensiveFoul() {
   if (!fouler)
     return turnOver();
   const std::size_t fouled = offense().pick(&PlayerTraits::shooting, m_random);
-  if (personalFoul(1 - m_offense, *fouler))
+  if (personalFoul(otherSide(m_offense), *fouler))
     return shootFreeThrows(fouled, 2);
   deadBall();
   restart();
@@ -198,7 +198,7 @@ GameSimulator::Shot GameSimulator::chooseShot(std::size_t shooter) {
 }
 
 GameSimulator::Next GameSimulator::attempt(std::size_t shooter, const Shot& attempted) {
-  const int home = m_offense == 1 ? kHomeAdvantage : 0;
+  const int home = m_offense == Side::Home ? kHomeAdvantage : 0;
   const int percentage =
       attempted.percentage + offense().player(shooter).traits.accuracy + offense().accuracy() + home;
   const bool isThree = attempted.code == EventCode::GF3;
@@ -210,13 +210,13 @@ GameSimulator::Next GameSimulator::attempt(std::size_t shooter, const Shot& atte
   // A shot that is missed because of a foul is no attempt.
   if (m_random.chance(isThree ? 20 : 185)) {
     if (const std::optional<std::size_t> fouler = defense().pickFouler(m_random)) {
-      personalFoul(1 - m_offense, *fouler);
+      personalFoul(otherSide(m_offense), *fouler);
       return shootFreeThrows(shooter, isThree ? 3 : 2);
     }
   }
   shot(shooter, attempted, false);
   if (m_random.chance(isThree ? 12 : 105))
-    action(EventCode::SBS, 1 - m_offense, defense().pick(&PlayerTraits::blocking, m_random));
+    action(EventCode::SBS, otherSide(m_offense), defense().pick(&PlayerTraits::blocking, m_random));
   return rebound();
 }
 
@@ -231,7 +231,7 @@ GameSimulator::Next GameSimulator::afterMade(std::size_t shooter, const Shot& ma
     return Next::OtherTeam;
   if (m_random.chance(made.code == EventCode::GF3 ? 5 : 55)) {
     if (const std::optional<std::size_t> fouler = defense().pickFouler(m_random)) {
-      personalFoul(1 - m_offense, *fouler);
+      personalFoul(otherSide(m_offense), *fouler);
       return shootFreeThrows(shooter, 1);
     }
   }
@@ -260,7 +260,7 @@ GameSimulator::Next GameSimulator::rebound() {
     action(EventCode::SOR, m_offense, *m_offensiveRebounder);
     return Next::SameTeam;
   }
-  action(EventCode::SDR, 1 - m_offense, defense().pick(&PlayerTraits::rebounding, m_random));
+  action(EventCode::SDR, otherSide(m_offense), defense().pick(&PlayerTraits::rebounding, m_random));
   return Next::OtherTeam;
 }
 
@@ -297,14 +297,14 @@ void GameSimulator::restart() {
 }
 
 bool GameSimulator::isDecisive() const {
-  return isLate() && m_clock < 240 && std::abs(m_points[0] - m_points[1]) < 12;
+  return isLate() && m_clock < 240 && std::abs(m_points[Side::Visitor] - m_points[Side::Home]) < 12;
 }
 
 void GameSimulator::deadBall(std::optional<std::size_t> kept) {
   if (m_random.chance(8))
     technicalFoul();
   bool hasChanged = false;
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const std::optional<std::size_t> keptHere = team == m_offense ? kept : std::nullopt;
     hasChanged = m_sides[team].substitute(keptHere, isDecisive()) || hasChanged;
   }
@@ -313,7 +313,7 @@ void GameSimulator::deadBall(std::optional<std::size_t> kept) {
 }
 
 void GameSimulator::technicalFoul() {
-  const std::size_t team = static_cast<std::size_t>(m_random.below(2));
+  const Side team = *sideOf(m_random.below(2));
   const std::optional<std::size_t> player = m_sides[team].pickForTechnical(m_random);
   if (!player)
     return;
@@ -321,8 +321,8 @@ void GameSimulator::technicalFoul() {
   ++m_teamFouls[team];
   action(EventCode::STF, team, *player);
 
-  const std::size_t offenseBefore = m_offense;
-  m_offense = 1 - team;
+  const Side offenseBefore = m_offense;
+  m_offense = otherSide(team);
   const std::size_t shooter = offense().bestFreeThrower();
   const int percentage = offense().player(shooter).traits.freeThrow;
   shot(shooter, {EventCode::GFT, std::nullopt, percentage}, m_random.chance(percentage));
@@ -339,7 +339,7 @@ void GameSimulator::changePlayersWhileTheClockRuns() {
   record(startText());
 }
 
-bool GameSimulator::personalFoul(std::size_t team, std::size_t player) {
+bool GameSimulator::personalFoul(Side team, std::size_t player) {
   // The whistle stops the clock; some fouls are entered before the statistician stops it too.
   const bool isEnteredFirst = m_random.chance(400);
   if (!isEnteredFirst)
@@ -356,7 +356,7 @@ void GameSimulator::shot(std::size_t player, const Shot& shot, bool made) {
   std::optional<std::pair<double, double>> place;
   if (shot.place)
     place = {shot.place->x, shot.place->y};
-  const int team = static_cast<int>(m_offense);
+  const Side team = m_offense;
   const std::string& jersey = offense().player(player).jersey;
   if (m_random.chance(6)) // the wrong button, taken back at once
     put("E" + Module1::clockText(m_clock) + eventText(shot.code, !made, team, jersey, place));
@@ -365,23 +365,23 @@ void GameSimulator::shot(std::size_t player, const Shot& shot, bool made) {
     m_points[m_offense] += kindOf(shot.code)->points;
 }
 
-void GameSimulator::action(EventCode code, std::size_t team, std::size_t player) {
+void GameSimulator::action(EventCode code, Side team, std::size_t player) {
   if (m_random.chance(6)) { // the wrong player
     const std::size_t slot = static_cast<std::size_t>(m_random.below(5));
     const std::string& wrong = m_sides[team].player(m_sides[team].onCourt()[slot]).jersey;
-    put("E" + Module1::clockText(m_clock) + eventText(code, false, static_cast<int>(team), wrong));
+    put("E" + Module1::clockText(m_clock) + eventText(code, false, team, wrong));
   }
-  record(eventText(code, false, static_cast<int>(team), m_sides[team].player(player).jersey));
+  record(eventText(code, false, team, m_sides[team].player(player).jersey));
 }
 
 void GameSimulator::countUserStatistic() {
-  const std::size_t team = m_random.chance(800) ? 1 - m_offense : m_offense;
+  const Side team = m_random.chance(800) ? otherSide(m_offense) : m_offense;
   const EventCode code = m_random.chance(850) ? EventCode::SU1 : EventCode::SU2;
   action(code, team, m_sides[team].pick(&PlayerTraits::stealing, m_random));
 }
 
 void GameSimulator::recordLists() {
-  record(stopText(m_sides[0].list(), m_sides[1].list()));
+  record(stopText(m_sides[Side::Visitor].list(), m_sides[Side::Home].list()));
 }
 
 void GameSimulator::record(const std::string& text) {

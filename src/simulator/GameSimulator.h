@@ -4,6 +4,7 @@
 // place and notes are left to whoever asks for it.
 #pragma once
 
+#include "game/Side.h"
 #include "simulator/Random.h"
 #include "simulator/ShotPlaces.h"
 #include "simulator/SimulatedGame.h"
@@ -61,29 +62,29 @@ class GameSimulator {
   void deadBall(std::optional<std::size_t> kept = std::nullopt); // what happens while it stands
   void technicalFoul();
   void changePlayersWhileTheClockRuns();
-  bool personalFoul(std::size_t team, std::size_t player); // whether the team is in bonus
+  bool personalFoul(Side team, std::size_t player); // whether the team is in bonus
   void shot(std::size_t player, const Shot& shot, bool made);
-  void action(EventCode code, std::size_t team, std::size_t player);
+  void action(EventCode code, Side team, std::size_t player);
   void countUserStatistic();
   void record(const std::string& text);
   void recordLists();
   void put(std::string line);
 
   [[nodiscard]] SimulatedSide& offense() { return m_sides[m_offense]; }
-  [[nodiscard]] SimulatedSide& defense() { return m_sides[1 - m_offense]; }
+  [[nodiscard]] SimulatedSide& defense() { return m_sides[otherSide(m_offense)]; }
   [[nodiscard]] bool isLate() const { return m_period >= kPeriods; }
   [[nodiscard]] bool isDecisive() const;
 
   Random m_random;
-  std::array<SimulatedSide, 2> m_sides;
+  PerSide<SimulatedSide> m_sides;
   SimulatedGame m_game;
   int m_period = 0;
   int m_clock = 0;
   bool m_clockRuns = false;
-  std::size_t m_offense = 0;
-  std::size_t m_firstWithBall = 0;
-  std::array<int, 2> m_points = {};
-  std::array<int, 2> m_teamFouls = {};             // of this period, or of those that count with it
+  Side m_offense = Side::Visitor;
+  Side m_firstWithBall = Side::Visitor;
+  PerSide<int> m_points = {};
+  PerSide<int> m_teamFouls = {};                   // of this period, or of those that count with it
   std::optional<std::size_t> m_offensiveRebounder; // of this possession, while he may put the ball back
   bool m_countsUserStatistics = false;
   std::optional<Interruption> m_interruption;

@@ -82,7 +82,7 @@ void SampleSeason::describe(SimulatedGame& game, int index) const {
   GameDetails& details = game.details;
   details.date = dateText(day);
   details.type = typeOn(day);
-  details.mainTeam = random.below(2);
+  details.mainTeam = *sideOf(random.below(2));
   details.place = kHalls[pairing(index).second];
   details.statistician = anyOf(kStatisticians);
   if (random.chance(500))

@@ -8,7 +8,7 @@ std::string SimulatedGame::fileName() const {
   static const Texts texts;
   std::string name =
       details.date + " " + std::string(texts.text(textBehind(kFirstGameTypeText, details.type)));
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     name += " " + details.abbreviation[team] + "-" + details.category[team];
   return name + ".GAM";
 }
@@ -28,11 +28,11 @@ ProfileBatch SimulatedGame::batch() const {
 
   ProfileBatch batch;
   batch.setSectionLines(std::string(kDetailsSection), std::move(lines));
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     std::vector<std::pair<std::string, std::string>> players;
     for (const RosterPlayer& player : roster[team])
       players.emplace_back(player.jersey, std::to_string(player.position) + "," + player.name);
-    batch.setSectionLines(std::to_string(team), std::move(players));
+    batch.setSectionLines(rosterSection(team), std::move(players));
   }
   for (std::size_t period = 0; period < periods.size(); ++period)
     batch.setSectionLines("PERIODE" + std::to_string(period + 1), periods[period]);
@@ -43,7 +43,7 @@ Game SimulatedGame::inMemory() const {
   Game game;
   game.path = fileName();
   game.details = details;
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     for (const RosterPlayer& player : roster[team])
       game.roster[team].add(player);
   }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/GameFile.h"
+#include "game/Side.h"
 #include "storage/ProfileBatch.h"
 
 #include <string>
@@ -13,7 +14,7 @@ namespace hooptab {
 
 struct SimulatedGame {
   GameDetails details;
-  std::vector<RosterPlayer> roster[2];
+  PerSide<std::vector<RosterPlayer>> roster;
   // Event lines by period, each with its number: what a period section holds.
   std::vector<std::vector<std::pair<std::string, std::string>>> periods;
 

@@ -10,9 +10,9 @@ GameFileProblem ManualGame::open(const std::string& path, Access access) {
   m_path = path;
   m_access = access;
   m_details = std::move(game.details);
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     m_rosters[team] = std::move(game.roster[team]);
-  totals.load(m_rosters[0], m_rosters[1], game.events);
+  totals.load(m_rosters[Side::Visitor], m_rosters[Side::Home], game.events);
   m_saved = totals;
   m_guard.begin(path, file.text());
   m_isLost = false;

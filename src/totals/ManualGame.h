@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/GameFile.h"
+#include "game/Side.h"
 #include "storage/FileGuard.h"
 #include "storage/PendingWrites.h"
 #include "totals/ManualTotals.h"
@@ -26,7 +27,7 @@ class ManualGame {
   bool isForReading() const { return m_access == Access::Reading; }
   const std::string& path() const { return m_path; }
   const GameDetails& details() const { return m_details; }
-  const Roster& roster(int team) const { return m_rosters[team]; }
+  const Roster& roster(Side team) const { return m_rosters[team]; }
 
   ManualTotals totals; // the window's to change
 
@@ -60,7 +61,7 @@ class ManualGame {
   std::string m_path;
   Access m_access = Access::Entering;
   GameDetails m_details;
-  Roster m_rosters[2];
+  PerSide<Roster> m_rosters;
   ManualTotals m_saved;
   FileGuard m_guard;
   std::function<bool()> m_isOurs;

@@ -85,7 +85,7 @@ int dropPlaced(std::vector<ManualShot>& shots, bool isMade, int count) {
   }));
 }
 
-void addLines(std::vector<std::string>& lines, int count, EventCode code, bool isMade, int team,
+void addLines(std::vector<std::string>& lines, int count, EventCode code, bool isMade, Side team,
               const std::string& number) {
   for (int written = 0; written < count; ++written)
     lines.push_back(std::string(kClock) + eventText(code, isMade, team, number));
@@ -105,14 +105,14 @@ Counters ManualSlot::counts() const {
 
 void ManualTotals::load(const Roster& visitors, const Roster& home, const EventList& events) {
   *this = {};
-  const Roster* const rosters[] = {&visitors, &home};
-  for (int team = 0; team < 2; ++team) {
+  const PerSide<const Roster*> rosters = {&visitors, &home};
+  for (const Side team : kSides) {
     for (int entry = 1; entry <= kSlots; ++entry) {
       const RosterPlayer* const player = rosters[team]->player(entry);
       if (player == nullptr)
         break;
       slot(team, entry).number = player->jersey;
-      m_jerseys[index(team)][index(entry - 1)] = player->jersey;
+      m_jerseys[team][index(entry - 1)] = player->jersey;
     }
   }
   m_linesElsewhere = events.size() - events.ofPeriod(kPeriod).size();
@@ -129,10 +129,10 @@ bool ManualTotals::count(const GameEvent& event, const Roster& visitors, const R
   if (!event.isUnderstood || !event.isOfPlayer() || !line.starts_with(kClock))
     return false;
   const EventKind& kind = *event.kind();
-  const int entry = (event.player.team == 0 ? visitors : home).entryOf(event.player.jersey);
+  const int entry = (event.player.team == Side::Visitor ? visitors : home).entryOf(event.player.jersey);
   if (entry == 0)
     return false;
-  ManualSlot& found = slot(event.player.team, entry);
+  ManualSlot& found = slot(*event.player.team, entry);
   const auto player = static_cast<std::size_t>(event.player.jersey.data() - line.data());
   const std::string_view rest = line.substr(player + event.player.jersey.size());
   if (kind.hasPlace) {
@@ -151,14 +151,14 @@ bool ManualTotals::count(const GameEvent& event, const Roster& visitors, const R
 }
 
 // The slot of a player for whom something is entered.
-ManualSlot& ManualTotals::touched(int team, int number) {
+ManualSlot& ManualTotals::touched(Side team, int number) {
   ManualSlot& found = slot(team, number);
   if (found.isEmpty())
-    found.number = m_jerseys[index(team)][index(number - 1)];
+    found.number = m_jerseys[team][index(number - 1)];
   return found;
 }
 
-bool ManualTotals::press(int team, int number, EventCode code, bool isMade, Step step) {
+bool ManualTotals::press(Side team, int number, EventCode code, bool isMade, Step step) {
   const EventKind& kind = *kindOf(code);
   const int by = step == Step::Up ? 1 : -1;
   Counters& counters = slot(team, number).counters;
@@ -175,7 +175,7 @@ bool ManualTotals::press(int team, int number, EventCode code, bool isMade, Step
   return true;
 }
 
-ManualTotals::Typed ManualTotals::setCount(int team, int number, Counter counter, int count) {
+ManualTotals::Typed ManualTotals::setCount(Side team, int number, Counter counter, int count) {
   if (count < 0 || count > kLargestCount)
     return Typed::OutOfRange;
   const Counters counts = slot(team, number).counts();
@@ -209,7 +209,7 @@ ManualTotals::Typed ManualTotals::setCount(int team, int number, Counter counter
   return Typed::Taken;
 }
 
-int ManualTotals::setCounts(int team, int number, const Counters& counts) {
+int ManualTotals::setCounts(Side team, int number, const Counters& counts) {
   ManualSlot& changed = counts.hasAny() ? touched(team, number) : slot(team, number);
   changed.counters = counts;
   int gone = 0;
@@ -226,25 +226,25 @@ int ManualTotals::setCounts(int team, int number, const Counters& counts) {
   return gone;
 }
 
-void ManualTotals::addShot(int team, int number, EventCode code, bool isMade, int x, int y) {
+void ManualTotals::addShot(Side team, int number, EventCode code, bool isMade, int x, int y) {
   std::vector<ManualShot>& shots = touched(team, number).shots(code);
   if (!isFull(static_cast<int>(shots.size())))
     shots.push_back({isMade, std::to_string(x) + "," + std::to_string(y)});
 }
 
-void ManualTotals::deleteShot(int team, int number, EventCode code, std::size_t place) {
+void ManualTotals::deleteShot(Side team, int number, EventCode code, std::size_t place) {
   std::vector<ManualShot>& shots = slot(team, number).shots(code);
   if (place < shots.size())
     shots.erase(shots.begin() + static_cast<std::ptrdiff_t>(place));
 }
 
-void ManualTotals::clear(int team) {
-  m_slots[index(team)].fill({});
+void ManualTotals::clear(Side team) {
+  m_slots[team].fill({});
 }
 
-Counters ManualTotals::teamCounts(int team) const {
+Counters ManualTotals::teamCounts(Side team) const {
   Counters sum;
-  for (const ManualSlot& slot : m_slots[index(team)]) {
+  for (const ManualSlot& slot : m_slots[team]) {
     const Counters counts = slot.counts();
     for (std::size_t counter = 0; counter < kCounterCount; ++counter)
       change(sum.counts[counter], counts.counts[counter]);
@@ -254,8 +254,8 @@ Counters ManualTotals::teamCounts(int team) const {
 
 std::vector<std::string> ManualTotals::lines() const {
   std::vector<std::string> lines;
-  for (int team = 0; team < 2; ++team) {
-    for (const ManualSlot& slot : m_slots[index(team)]) {
+  for (const Side team : kSides) {
+    for (const ManualSlot& slot : m_slots[team]) {
       if (slot.isEmpty())
         continue;
       for (const EventCode code : kCounted) {

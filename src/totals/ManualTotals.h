@@ -6,6 +6,7 @@
 #include "game/EventList.h"
 #include "game/GameState.h"
 #include "game/Roster.h"
+#include "game/Side.h"
 
 #include <array>
 #include <cstddef>
@@ -54,29 +55,29 @@ class ManualTotals {
   // cannot be understood) are kept as they are.
   void load(const Roster& visitors, const Roster& home, const EventList& events);
 
-  const ManualSlot& slot(int team, int slot) const { return m_slots[index(team)][index(slot - 1)]; }
-  ManualSlot& slot(int team, int slot) { return m_slots[index(team)][index(slot - 1)]; }
+  const ManualSlot& slot(Side team, int slot) const { return m_slots[team][index(slot - 1)]; }
+  ManualSlot& slot(Side team, int slot) { return m_slots[team][index(slot - 1)]; }
 
   enum class Step { Up, Down };
   // What a button says: an action; a shot that was made (attempts follow), or missed (attempts alone, never
   // under made). Whether anything changed. Not for field goals with a place.
-  bool press(int team, int slot, EventCode code, bool isMade, Step step);
+  bool press(Side team, int slot, EventCode code, bool isMade, Step step);
   // A count as typed. Made counts raise the attempts they need; attempts under made are refused, and so are
   // field goals under those that have a place: the other field goals are added and taken away without one.
   enum class Typed { Taken, UnderMade, UnderPlaced, OutOfRange };
-  [[nodiscard]] Typed setCount(int team, int slot, Counter counter, int count);
+  [[nodiscard]] Typed setCount(Side team, int slot, Counter counter, int count);
   // All counts of a player at once; none above the largest, no attempts under made. Field goals that have a
   // place stay as long as there are enough of their kind, the earliest ones first. How many had to go.
-  int setCounts(int team, int slot, const Counters& counts);
+  int setCounts(Side team, int slot, const Counters& counts);
 
   // At whole units of the court.
-  void addShot(int team, int slot, EventCode code, bool isMade, int x, int y);
-  void deleteShot(int team, int slot, EventCode code, std::size_t index);
+  void addShot(Side team, int slot, EventCode code, bool isMade, int x, int y);
+  void deleteShot(Side team, int slot, EventCode code, std::size_t index);
   // Every slot of the team becomes that of nobody, without counts. A player gets his number again with the
   // first count entered for him.
-  void clear(int team);
+  void clear(Side team);
 
-  [[nodiscard]] Counters teamCounts(int team) const;
+  [[nodiscard]] Counters teamCounts(Side team) const;
 
   // Of the one period that saving writes. In their order: visitors first, slot by slot, kind by kind; behind
   // them the lines that were kept.
@@ -88,11 +89,11 @@ class ManualTotals {
 
  private:
   static std::size_t index(int number) { return static_cast<std::size_t>(number); }
-  ManualSlot& touched(int team, int slot);
+  ManualSlot& touched(Side team, int slot);
   bool count(const GameEvent& event, const Roster& visitors, const Roster& home);
 
-  std::array<std::array<ManualSlot, kSlots>, 2> m_slots;
-  std::array<std::array<std::string, kSlots>, 2> m_jerseys; // of the rosters
+  PerSide<std::array<ManualSlot, kSlots>> m_slots;
+  PerSide<std::array<std::string, kSlots>> m_jerseys; // of the rosters
   std::vector<std::string> m_kept;
   std::size_t m_linesElsewhere = 0;
 };

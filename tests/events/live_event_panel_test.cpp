@@ -27,16 +27,16 @@ class LiveEventPanelTest : public LiveRoom<> {
  protected:
   void SetUp() override {
     GameDetails details;
-    details.abbreviation[0] = "LYNX";
-    details.abbreviation[1] = "PUMA";
+    details.abbreviation[Side::Visitor] = "LYNX";
+    details.abbreviation[Side::Home] = "PUMA";
     makeGame(path, "4=0,Ann\n5=1,Bea\n10=2,Cleo\n12=2,Dee\n15=1,Eve\n7=1,Fay\n", details);
     ASSERT_EQ(live.open(path), GameFileProblem::None);
     ASSERT_TRUE(live.setOnCourt({kFive, kFive}));
     live.start();
     time.now += 10;
-    live.recordShot(0, 1, EventCode::GLG, true);
-    live.recordAction(0, 2, EventCode::SA);
-    live.recordAction(1, 3, EventCode::SPF);
+    live.recordShot(Side::Visitor, 1, EventCode::GLG, true);
+    live.recordAction(Side::Visitor, 2, EventCode::SA);
+    live.recordAction(Side::Home, 3, EventCode::SPF);
     panel.resize(250, 400);
     panel.showGame(live);
     panel.show();
@@ -78,7 +78,7 @@ TEST_F(LiveEventPanelTest, ShowsTheNewestFirstAndWhatBelongsTogether) {
     return fromQt(cell(row, EventListModel::Action).data(Qt::ToolTipRole).toString());
   };
   EXPECT_NE(tip(2).find("Ann"), std::string::npos);
-  live.recordShot(1, 1, EventCode::GFT, false);
+  live.recordShot(Side::Home, 1, EventCode::GFT, false);
   panel.showGame(live);
   EXPECT_EQ(words(0), "PUMA 4 ✕ free throw");
   live.setDeleted(std::vector<EventPlace>{{1, "4"}}, true);
@@ -131,11 +131,11 @@ TEST_F(LiveEventPanelTest, StandsInAWindowOfItsOwnThatTakesNoKeys) {
   second.scrollTo(cell(4, EventListModel::Action), QAbstractItemView::PositionAtTop);
   const QPersistentModelIndex top = second.indexAt({0, 0});
   ASSERT_GT(top.row(), 0);
-  live.recordShot(1, 1, EventCode::GFT, false);
+  live.recordShot(Side::Home, 1, EventCode::GFT, false);
   panel.showGame(live);
   EXPECT_EQ(second.indexAt({0, 0}), top) << "what one looks at stays under the mouse";
   second.scrollToTop();
-  live.recordShot(1, 1, EventCode::GFT, false);
+  live.recordShot(Side::Home, 1, EventCode::GFT, false);
   panel.showGame(live);
   EXPECT_EQ(second.indexAt({0, 0}).row(), 0) << "and the newest comes in at the top";
   const QPoint row = second.visualRect(cell(0, EventListModel::Action)).center();
@@ -203,13 +203,13 @@ TEST_F(LiveEventPanelTest, TheSelectionStaysWithItsEventUntilItIsTakenBack) {
 }
 
 TEST_F(LiveEventPanelTest, LeadsToWhatMendsAFinding) {
-  live.recordAction(1, 6, EventCode::SBS); // from the bench
-  live.recordAction(0, 3, EventCode::SA);
+  live.recordAction(Side::Home, 6, EventCode::SBS); // from the bench
+  live.recordAction(Side::Visitor, 3, EventCode::SA);
   panel.showGame(live);
   QSignalSpy edits(&panel, &LiveEventPanel::editAsked);
   std::vector<std::pair<PastSubstitution, int>> asked;
   QObject::connect(&panel, &LiveEventPanel::substitutionAsked, &panel,
-                   [&](const PastSubstitution& past, int, int player) { asked.emplace_back(past, player); });
+                   [&](const PastSubstitution& past, Side, int player) { asked.emplace_back(past, player); });
   auto& checks = find<QPushButton>("lblCHECKS");
   checks.click();
   auto* menu = &find<QMenu>("mnuREPAIR");
@@ -250,7 +250,7 @@ TEST_F(LiveEventPanelTest, AForgottenSubstitutionIsChosenAtItsPlace) {
   };
   live.setOnCourt({kFive, 0b1111100}); // PUMA 7 for 4 at 9:50
   panel.showGame(live);
-  emit panel.substitutionAsked({PastSubstitution::What::InsertBefore, {1, "4"}}, 1, 6);
+  emit panel.substitutionAsked({PastSubstitution::What::InsertBefore, {1, "4"}}, Side::Home, 6);
   const auto& accept = LiveRoom::find<QPushButton>(dialog(), "cmdOK");
   EXPECT_EQ(textOf(dialog(), "lblPLACE"), "Substitution at 09:50 (Period 1)");
   EXPECT_FALSE(accept.isEnabled()) << "six";
@@ -283,8 +283,8 @@ TEST_F(LiveEventPanelTest, FiltersAndKeepsItsPlace) {
   choose("cmbPLAYER", 3);
   choose("cmbKIND", find<QComboBox>("cmbKIND").findText(QStringLiteral("personal foul")));
   ASSERT_EQ(list().model()->rowCount(), 1);
-  live.recordAction(1, 3, EventCode::SPF);
-  live.recordAction(1, 4, EventCode::SPF);
+  live.recordAction(Side::Home, 3, EventCode::SPF);
+  live.recordAction(Side::Home, 4, EventCode::SPF);
   panel.showGame(live);
   EXPECT_EQ(list().model()->rowCount(), 2);
   const auto timeOuts = [&] { return find<QComboBox>("cmbKIND").findText(QStringLiteral("time-out")); };
@@ -298,21 +298,21 @@ TEST_F(LiveEventPanelTest, FiltersAndKeepsItsPlace) {
   action("cmdFILTER").setChecked(false);
   EXPECT_EQ(list().model()->rowCount(), 8);
   for (int event = 0; event < 60; ++event)
-    live.recordAction(0, 1, EventCode::STO);
+    live.recordAction(Side::Visitor, 1, EventCode::STO);
   panel.showGame(live);
   EXPECT_EQ(list().indexAt({0, 0}).row(), 0);
   EXPECT_EQ(words(list().currentIndex().row()), "LYNX 4 ● left layup");
   list().verticalScrollBar()->setValue(30 * list().rowHeight(0));
   const std::string top = words(list().indexAt({0, 0}).row());
   const int value = list().verticalScrollBar()->value();
-  live.recordAction(1, 1, EventCode::SBS);
+  live.recordAction(Side::Home, 1, EventCode::SBS);
   panel.showGame(live);
   EXPECT_EQ(list().verticalScrollBar()->value(), value + list().rowHeight(0));
   EXPECT_EQ(words(list().indexAt({0, 0}).row()), top);
 }
 
 TEST_F(LiveEventPanelTest, TheEditingPanelChangesWhatItShows) {
-  live.recordShot(1, 2, EventCode::GF3, false, {{10, 20}});
+  live.recordShot(Side::Home, 2, EventCode::GF3, false, {{10, 20}});
   frmEDIT shot(live, {1, "7"}, frmEDIT::Purpose::Change, settings, texts);
   EXPECT_EQ(shot.clockSeconds(), 590);
   auto& made = LiveRoom::find<QCheckBox>(shot, "chkMADE");

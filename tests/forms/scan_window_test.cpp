@@ -143,9 +143,9 @@ TEST_F(ScanWindowTest, BringsAPrintedSheetIntoTheTotalsAndOntoTheDisk) {
                                                           {4, Counter::PF, 4},
                                                           {7, Counter::Ast, 14}};
   for (const auto& [player, counter, count] : counts) // the last has number 00, not 0
-    EXPECT_EQ(counted.players[0][player].counters[counter], count) << player;
-  EXPECT_EQ(counted.points(0), 5 * 2 + 2 * 3);
-  EXPECT_EQ(counted.points(1), 0);
+    EXPECT_EQ(counted.players[Side::Visitor][player].counters[counter], count) << player;
+  EXPECT_EQ(counted.points(Side::Visitor), 5 * 2 + 2 * 3);
+  EXPECT_EQ(counted.points(Side::Home), 0);
   choose({file("two.bmp")});
   ASSERT_TRUE(showsSheet());
   press("cmdADDSCAN");
@@ -372,7 +372,7 @@ TEST(ScanReport, NamesWhatIsDoubtfulAndWhatWasChanged) {
   const std::size_t changed = placeOf(*layout, Kind::Missed, Counter::FTM, 3);
   reading.cells[doubtful].isTicked = reading.cells[doubtful].isDoubtful = true;
   const Game game = gameOfText(textOfGame(""));
-  ScannedTotals scanned(CheckedSheet(layout, reading), 0, game.roster[0]);
+  ScannedTotals scanned(CheckedSheet(layout, reading), Side::Visitor, game.roster[Side::Visitor]);
   scanned.sheet.settle(changed, true);
   scanned.assign(0, 1);
   const TemporaryFolder folder;

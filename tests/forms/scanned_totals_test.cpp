@@ -40,7 +40,9 @@ class ScannedTotalsTest : public testing::Test {
         reading.cells[index].isTicked = true;
     }
   }
-  ScannedTotals scanned() const { return ScannedTotals(CheckedSheet(layout, reading), 0, game.roster[0]); }
+  ScannedTotals scanned() const {
+    return ScannedTotals(CheckedSheet(layout, reading), Side::Visitor, game.roster[Side::Visitor]);
+  }
   static std::vector<int> of(const Counters& counts, auto... counters) { return {counts[counters]...}; }
 
   std::shared_ptr<const FormLayout> layout = std::make_shared<FormLayout>();
@@ -48,7 +50,7 @@ class ScannedTotalsTest : public testing::Test {
   Game game = gameOfText(textOfGame(""));
   ManualTotals totals = [this] {
     ManualTotals loaded;
-    loaded.load(game.roster[0], game.roster[1], {});
+    loaded.load(game.roster[Side::Visitor], game.roster[Side::Home], {});
     return loaded;
   }();
 };
@@ -126,8 +128,8 @@ TEST_F(ScannedTotalsTest, TakesTypedCountsUntilTheCellsCountAgain) {
 }
 
 TEST_F(ScannedTotalsTest, BelongsToATeamOfTheGame) {
-  game.details.category[1] = "AAA ";
-  using Teams = std::array<bool, 2>;
+  game.details.category[Side::Home] = "AAA ";
+  using Teams = PerSide<bool>;
   EXPECT_EQ(teamsOf({0, false, 0}, game.details), (Teams{true, true}));
   EXPECT_EQ(teamsOf({1, true, FormIdentifier::teamNumber("PAN", "")}, game.details), (Teams{true, false}));
   EXPECT_EQ(teamsOf({1, true, FormIdentifier::teamNumber("OLY", "AAA")}, game.details), (Teams{false, true}));
@@ -140,36 +142,38 @@ TEST_F(ScannedTotalsTest, AddsOrReplacesForThePlayersOfTheSheetAlone) {
   tick(0, FormCell::Kind::Missed, Counter::FGM, 1);
   tick(0, FormCell::Kind::Count, Counter::PF, 3);
   number(1, "12");
-  totals.addShot(0, 2, EventCode::GFG, true, 10, 20);
-  ASSERT_TRUE(totals.press(0, 2, EventCode::SPF, true, ManualTotals::Step::Up));
-  ASSERT_TRUE(totals.press(0, 4, EventCode::SA, true, ManualTotals::Step::Up));
-  ASSERT_TRUE(totals.press(0, 1, EventCode::SA, true, ManualTotals::Step::Up));
+  totals.addShot(Side::Visitor, 2, EventCode::GFG, true, 10, 20);
+  ASSERT_TRUE(totals.press(Side::Visitor, 2, EventCode::SPF, true, ManualTotals::Step::Up));
+  ASSERT_TRUE(totals.press(Side::Visitor, 4, EventCode::SA, true, ManualTotals::Step::Up));
+  ASSERT_TRUE(totals.press(Side::Visitor, 1, EventCode::SA, true, ManualTotals::Step::Up));
   const ScannedTotals read = scanned();
   const auto added = read.outcome(Way::Add, totals);
-  EXPECT_EQ(of(added.totals.slot(0, 2).counts(), Counter::FGM, Counter::FGA, Counter::PF),
+  EXPECT_EQ(of(added.totals.slot(Side::Visitor, 2).counts(), Counter::FGM, Counter::FGA, Counter::PF),
             (std::vector{3, 4, 4}));
-  EXPECT_EQ(added.totals.slot(0, 2).twoPointers.front().place, "10,20");
-  EXPECT_EQ(added.totals.slot(0, 4).counts()[Counter::Ast], 1);
+  EXPECT_EQ(added.totals.slot(Side::Visitor, 2).twoPointers.front().place, "10,20");
+  EXPECT_EQ(added.totals.slot(Side::Visitor, 4).counts()[Counter::Ast], 1);
   EXPECT_EQ(added.placedShotsGone, 0);
   const auto replaced = read.outcome(Way::Replace, totals);
-  EXPECT_EQ(of(replaced.totals.slot(0, 2).counts(), Counter::FGM, Counter::FGA, Counter::PF),
+  EXPECT_EQ(of(replaced.totals.slot(Side::Visitor, 2).counts(), Counter::FGM, Counter::FGA, Counter::PF),
             (std::vector{2, 3, 3}));
-  EXPECT_EQ(replaced.totals.slot(0, 2).twoPointers.front().place, "10,20") << "the place stays known";
-  EXPECT_EQ(replaced.totals.slot(0, 4).counts()[Counter::Ast], 0) << "on the sheet, with nothing";
-  EXPECT_EQ(replaced.totals.slot(0, 1).counts()[Counter::Ast], 1) << "not on the sheet";
-  EXPECT_EQ(replaced.totals.slot(1, 2).counts(), Counters{});
+  EXPECT_EQ(replaced.totals.slot(Side::Visitor, 2).twoPointers.front().place, "10,20")
+      << "the place stays known";
+  EXPECT_EQ(replaced.totals.slot(Side::Visitor, 4).counts()[Counter::Ast], 0) << "on the sheet, with nothing";
+  EXPECT_EQ(replaced.totals.slot(Side::Visitor, 1).counts()[Counter::Ast], 1) << "not on the sheet";
+  EXPECT_EQ(replaced.totals.slot(Side::Home, 2).counts(), Counters{});
 }
 
 TEST_F(ScannedTotalsTest, SaysWhichPlacedShotsWouldGo) {
   number(0, "5");
   tick(0, FormCell::Kind::Made, Counter::F3M, 1);
   for (int shot = 0; shot < 3; ++shot)
-    totals.addShot(0, 2, EventCode::GF3, true, 100 + shot, 20);
-  totals.addShot(0, 2, EventCode::GF3, false, 90, 20);
-  ASSERT_EQ(totals.setCount(0, 2, Counter::F3M, 5), ManualTotals::Typed::Taken);
+    totals.addShot(Side::Visitor, 2, EventCode::GF3, true, 100 + shot, 20);
+  totals.addShot(Side::Visitor, 2, EventCode::GF3, false, 90, 20);
+  ASSERT_EQ(totals.setCount(Side::Visitor, 2, Counter::F3M, 5), ManualTotals::Typed::Taken);
   const auto replaced = scanned().outcome(Way::Replace, totals);
   EXPECT_EQ(replaced.placedShotsGone, 3) << "those without place go without a word";
-  EXPECT_EQ(replaced.totals.slot(0, 2).threePointers, (std::vector<ManualShot>{{true, "100,20"}}));
+  EXPECT_EQ(replaced.totals.slot(Side::Visitor, 2).threePointers,
+            (std::vector<ManualShot>{{true, "100,20"}}));
   EXPECT_EQ(scanned().outcome(Way::Add, totals).placedShotsGone, 0);
 }
 
@@ -187,7 +191,7 @@ TEST_F(ScannedTotalsTest, NamesWhomItDoesNotKnowAndAddsWhoIsThereTwice) {
   const auto outcome = read.outcome(Way::Replace, totals);
   EXPECT_TRUE(outcome.unknown.empty());
   EXPECT_EQ(outcome.twice, (std::vector<int>{3}));
-  EXPECT_EQ(outcome.totals.slot(0, 3).counts()[Counter::ST], 5);
+  EXPECT_EQ(outcome.totals.slot(Side::Visitor, 3).counts()[Counter::ST], 5);
   // Corrected digits find another player; who was assigned stays.
   for (std::size_t index = 0; index < layout->cells().size(); ++index) {
     const FormCell& cell = layout->cells()[index];
@@ -197,7 +201,7 @@ TEST_F(ScannedTotalsTest, NamesWhomItDoesNotKnowAndAddsWhoIsThereTwice) {
   read.match();
   EXPECT_EQ(read.slot(3), 5) << "15, no longer 10";
   EXPECT_EQ(read.slot(2), 3);
-  read.setTeam(1, game.roster[1]);
+  read.setTeam(Side::Home, game.roster[Side::Home]);
   EXPECT_EQ(read.slot(2), ScannedTotals::kNobody);
 }
 
@@ -206,7 +210,8 @@ TEST_F(ScannedTotalsTest, NeverGoesBeyondTheLargestCount) {
   tick(0, FormCell::Kind::Count, Counter::ST, 1);
   number(1, "5");
   tick(1, FormCell::Kind::Count, Counter::TO, 2);
-  ASSERT_EQ(totals.setCount(0, 2, Counter::TO, ManualTotals::kLargestCount - 1), ManualTotals::Typed::Taken);
+  ASSERT_EQ(totals.setCount(Side::Visitor, 2, Counter::TO, ManualTotals::kLargestCount - 1),
+            ManualTotals::Typed::Taken);
   const auto outcome = scanned().outcome(Way::Add, totals);
   EXPECT_EQ(outcome.tooMany, 2);
   EXPECT_EQ(outcome.totals, totals) << "for the first player neither";

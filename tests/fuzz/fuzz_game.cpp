@@ -22,7 +22,7 @@ void require(bool holds) {
 
 int totalOf(const GameState& state, bool byLine) {
   int total = 0;
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const auto add = [&](const Counters& counters) {
       for (const std::int16_t count : counters.counts)
         total += count;
@@ -50,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Game game;
   readGame(text, game);
   GameState state;
-  static_cast<void>(Tally::run(state, game.events, game.roster[0], game.roster[1]));
+  static_cast<void>(Tally::run(state, game.events, game.roster[Side::Visitor], game.roster[Side::Home]));
   require(totalOf(state, false) == totalOf(state, true));
   const Texts texts;
   for (const Finding& finding : checkGame(game, text, {}))
@@ -58,7 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   // Replaying one event at a time finds the same counts.
   GameState replayed;
-  Tally tally(replayed, game.roster[0], game.roster[1]);
+  Tally tally(replayed, game.roster[Side::Visitor], game.roster[Side::Home]);
   std::size_t index = 0;
   for (const GameEvent& event : game.events)
     tally.apply(event, index++);

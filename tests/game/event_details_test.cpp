@@ -64,26 +64,29 @@ TEST(EventDetails, AreSetAndTakenAwayWithoutTouchingTheRest) {
 // What is said of a shot holds while it stays one; who drew a foul cannot be of the team that made it.
 TEST(EventDetails, GoWithAnEventThatIsChanged) {
   const GameEvent foul = eventOf("05:00,SPF,0-4,K=S,D=1-7,F=2,?=1");
-  EXPECT_EQ(withDetailsOf(foul, ",SPF,0-5", EventCode::SPF, 0), ",SPF,0-5,K=S,D=1-7,F=2");
-  EXPECT_EQ(withDetailsOf(foul, ",STF,1-7", EventCode::STF, 1), ",STF,1-7,F=2");
-  EXPECT_EQ(withDetailsOf(eventOf("05:00,SPF,0-4,D=1-7,later,D=1-8,K="), ",SPF,0-5", EventCode::SPF, 0),
-            ",SPF,0-5,D=1-7,later,D=1-8,K=")
+  EXPECT_EQ(withDetailsOf(foul, ",SPF,0-5", EventCode::SPF, Side::Visitor), ",SPF,0-5,K=S,D=1-7,F=2");
+  EXPECT_EQ(withDetailsOf(foul, ",STF,1-7", EventCode::STF, Side::Home), ",STF,1-7,F=2");
+  EXPECT_EQ(
+      withDetailsOf(eventOf("05:00,SPF,0-4,D=1-7,later,D=1-8,K="), ",SPF,0-5", EventCode::SPF, Side::Visitor),
+      ",SPF,0-5,D=1-7,later,D=1-8,K=")
       << "what is read first stays first";
-  EXPECT_EQ(withDetailsOf(foul, ",STO,0-4", EventCode::STO, 0), ",STO,0-4");
+  EXPECT_EQ(withDetailsOf(foul, ",STO,0-4", EventCode::STO, Side::Visitor), ",STO,0-4");
   const GameEvent dunk = eventOf("05:00,GDK,0-4,X=3,Y=100,Q=F");
-  EXPECT_EQ(withDetailsOf(dunk, eventText(EventCode::GFG, false, 0, "4"), EventCode::GFG, 0),
+  EXPECT_EQ(withDetailsOf(dunk, eventText(EventCode::GFG, false, Side::Visitor, "4"), EventCode::GFG,
+                          Side::Visitor),
             ",GFGA,0-4,,,Q=F");
-  EXPECT_EQ(withDetailsOf(dunk, eventText(EventCode::GDK, true, 0, "4", {{5, 90}}), EventCode::GDK, 0),
+  EXPECT_EQ(withDetailsOf(dunk, eventText(EventCode::GDK, true, Side::Visitor, "4", {{5, 90}}),
+                          EventCode::GDK, Side::Visitor),
             ",GDK,0-4,X=5,Y=90,Q=F");
 }
 
 TEST(EventDetails, ReadsWhatTeamsDoAndNothingElseUnderTheirCodes) {
-  EXPECT_EQ(eventOf("05:00,XTO,1,K=FULL").player.team, 1);
+  EXPECT_EQ(eventOf("05:00,XTO,1,K=FULL").player.team, Side::Home);
   EXPECT_TRUE(eventOf("05:00,XTO,,K=MEDIA").isUnderstood);
   const GameEvent ball = eventOf("05:00,XJB,0-4,1-07,W=1");
-  EXPECT_EQ(ball.player.team, -1);
-  EXPECT_EQ(ball.jumper(1).jersey, "07");
-  EXPECT_EQ(ball.jumper(0).team, 0);
+  EXPECT_EQ(ball.player.team, std::nullopt);
+  EXPECT_EQ(ball.jumper(Side::Home).jersey, "07");
+  EXPECT_EQ(ball.jumper(Side::Visitor).team, Side::Visitor);
   for (const std::string_view wrong : {"05:00,XTO,2", "05:00,XOR,", "05:00,XOR,0-4", "05:00,XJB,1-4,0-7",
                                        "05:00,XJB,0-4", "05:00,XAR", "05:00,XTOA,0", "05:00,xto,0"})
     EXPECT_FALSE(eventOf(wrong).isUnderstood) << wrong;
@@ -108,7 +111,7 @@ TEST(EventDetails, CountForTeamsAndChangeNoOldCount) {
   const GameState plain = tallied(gameOfText(textOfGame(kPlain)));
   const Game game = gameOfText(textOfGame(full));
   const GameState state = tallied(game);
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     for (std::size_t entry = 0; entry < plain.players[team].size(); ++entry) {
       EXPECT_EQ(state.players[team][entry].counters, plain.players[team][entry].counters);
       EXPECT_EQ(state.players[team][entry].seconds, plain.players[team][entry].seconds);
@@ -117,10 +120,10 @@ TEST(EventDetails, CountForTeamsAndChangeNoOldCount) {
   }
   EXPECT_EQ(state.lead.seconds, plain.lead.seconds);
   EXPECT_EQ(state.clockSeconds, plain.clockSeconds);
-  EXPECT_EQ(state.teamRows[1], (TeamRow{1, 0, 0, 1, 1}));
-  EXPECT_EQ(state.teamRows[0], (TeamRow{0, 1, 1, 0, 0}));
-  EXPECT_EQ(state.extras[1][2].foulsDrawn, 1) << "07 is number 7";
-  EXPECT_EQ(state.extras[1][1].blocksAgainst, 1);
+  EXPECT_EQ(state.teamRows[Side::Home], (TeamRow{1, 0, 0, 1, 1}));
+  EXPECT_EQ(state.teamRows[Side::Visitor], (TeamRow{0, 1, 1, 0, 0}));
+  EXPECT_EQ(state.extras[Side::Home][2].foulsDrawn, 1) << "07 is number 7";
+  EXPECT_EQ(state.extras[Side::Home][1].blocksAgainst, 1);
   ASSERT_EQ(state.shots.size(), 2U) << "a dunk with its place is drawn, too";
   EXPECT_FLOAT_EQ(state.shots[1].y, 100);
 }
@@ -154,17 +157,19 @@ TEST(WallClock, CountsForTheGameThatItIsOf) {
 
 TEST(PlayerIds, AreKeptBesideWhatALaterVersionWrote) {
   ProfileText text("[JOUEURS1]\r\n07=X=1,LIC=QC-1,new,ID=\xC9\x37\r\n8=\r\n07=LIC=2\r\n");
-  const PlayerIds ids = readPlayerIds(text, 1);
+  const PlayerIds ids = readPlayerIds(text, Side::Home);
   EXPECT_EQ(ids, (PlayerIds{{"07", {"QC-1", "É7"}}, {"8", {}}}));
-  EXPECT_TRUE(readPlayerIds(text, 0).empty());
+  EXPECT_TRUE(readPlayerIds(text, Side::Visitor).empty());
   ProfileBatch batch;
-  EXPECT_FALSE(planPlayerId(text, 1, "8", {"a,b", ""}, batch));
-  EXPECT_FALSE(planPlayerId(text, 1, "07", {std::string(250, '1'), ""}, batch)) << "with what is there";
+  EXPECT_FALSE(planPlayerId(text, Side::Home, "8", {"a,b", ""}, batch));
+  EXPECT_FALSE(planPlayerId(text, Side::Home, "07", {std::string(250, '1'), ""}, batch))
+      << "with what is there";
   EXPECT_TRUE(batch.isEmpty());
-  EXPECT_TRUE(planPlayerId(text, 1, "07", {"", "Ü9"}, batch) && planPlayerId(text, 0, "4", {"L", ""}, batch));
+  EXPECT_TRUE(planPlayerId(text, Side::Home, "07", {"", "Ü9"}, batch) &&
+              planPlayerId(text, Side::Visitor, "4", {"L", ""}, batch));
   text = withBatch(text, batch);
   EXPECT_EQ(text.value("JOUEURS1", "07"), "ID=\xDC\x39,X=1,new");
-  EXPECT_EQ(readPlayerIds(text, 0), (PlayerIds{{"4", {"L", ""}}}));
+  EXPECT_EQ(readPlayerIds(text, Side::Visitor), (PlayerIds{{"4", {"L", ""}}}));
 }
 
 } // namespace

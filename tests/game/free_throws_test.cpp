@@ -74,7 +74,7 @@ TEST(FreeThrows, LastWithoutTimeUntilTheBallIsInPlay) {
 int leftAt(std::string_view rules, const std::string& periods, int period, int clockSeconds,
            const std::string& details = {}) {
   const Game game = gameOfText(textOfGame(periods, "REGLES=" + std::string(rules) + '\n' + details));
-  const auto left = timeOutsOf(game.details, game.events, 0, period, clockSeconds);
+  const auto left = timeOutsOf(game.details, game.events, Side::Visitor, period, clockSeconds);
   return left ? left->left : -1;
 }
 

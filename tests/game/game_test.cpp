@@ -23,7 +23,8 @@ class GameFileTest : public testing::Test {
   }
   static GameState tallied(const Game& game) {
     GameState state;
-    EXPECT_EQ(Tally::run(state, game.events, game.roster[0], game.roster[1]), std::nullopt);
+    EXPECT_EQ(Tally::run(state, game.events, game.roster[Side::Visitor], game.roster[Side::Home]),
+              std::nullopt);
     return state;
   }
   TemporaryFolder m_folder;
@@ -39,33 +40,35 @@ std::string fiveAside(const std::string& events) {
 }
 
 TEST_F(GameFileTest, NewGameIsWrittenInOrderAndLeavesNothingOfTheOld) {
-  m_folder.write("g.GAM",
-                 std::string(kHead) +
-                     "EVENUM=9\r\nTERMINE=1\r\nKEEPBONUS=1\r\nDUREEPROL=5\r\nIDPARTIE=old\r\n[HORLOGE]\r\n1=5\r\n[0]\r\n99=0,Old\r\n[PERIODE1]\r\n1=x\r\n"
-                     "[PERIODE12]\r\n2=y\r\n");
+  m_folder.write("g.GAM", std::string(kHead) +
+                              "EVENUM=9\r\nTERMINE=1\r\nKEEPBONUS=1\r\nDUREEPROL=5\r\nIDPARTIE=old\r\n["
+                              "HORLOGE]\r\n1=5\r\n[0]\r\n99=0,Old\r\n[PERIODE1]\r\n1=x\r\n"
+                              "[PERIODE12]\r\n2=y\r\n");
   GameDetails details;
   details.date = "2026-03-01";
-  details.abbreviation[0] = "LYNX";
-  details.abbreviation[1] = "PUMA";
-  details.category[0] = "AAA ";
+  details.abbreviation[Side::Visitor] = "LYNX";
+  details.abbreviation[Side::Home] = "PUMA";
+  details.category[Side::Visitor] = "AAA ";
   details.periods = 4;
   details.minutesPerPeriod = 8;
   details.notes = "Été, œuf";
   details.id = "ab12"; // else drawn at random
   ASSERT_EQ(m_file.create(details, {{"5", 2, "Zoé"}}, {}), GameFileProblem::None);
-  EXPECT_EQ(m_folder.read("g.GAM"),
-            "[DETAILS]\r\nVERSION=2.0\r\nINPUTTYPE=0\r\nDATE=2026-03-01\r\nOKPRINCIPAL=0\r\nEQUIPE0ID=0\r\n"
-            "EQUIPE1ID=0\r\nEQUIPE0COL=0\r\nEQUIPE1COL=0\r\nEQUIPE0ABB=LYNX\r\nEQUIPE1ABB=PUMA\r\n"
-            "EQUIPE0NOM=\r\nEQUIPE1NOM=\r\nEQUIPE0CAT=AAA \r\nEQUIPE1CAT=\r\nSUPP0=\r\nSUPP1=\r\nENDROIT=\r\n"
-            "SAISIEPAR=\r\nNBREPERIODE=4\r\nDUREE=8\r\nBONUS=0\r\nPFMAX=0\r\nTFMAX=0\r\nTYPE=0\r\n"
-            "NOTES=\xC9t\xE9, \x9Cuf\r\nIDPARTIE=ab12\r\n[0]\r\n5=2,Zo\xE9\r\n[1]\r\n0=9,PUMA\r\n[PERIODE1]\r\n"
-            "1=08:00,ARRET,IN-,IN-\r\n");
+  EXPECT_EQ(
+      m_folder.read("g.GAM"),
+      "[DETAILS]\r\nVERSION=2.0\r\nINPUTTYPE=0\r\nDATE=2026-03-01\r\nOKPRINCIPAL=0\r\nEQUIPE0ID=0\r\n"
+      "EQUIPE1ID=0\r\nEQUIPE0COL=0\r\nEQUIPE1COL=0\r\nEQUIPE0ABB=LYNX\r\nEQUIPE1ABB=PUMA\r\n"
+      "EQUIPE0NOM=\r\nEQUIPE1NOM=\r\nEQUIPE0CAT=AAA \r\nEQUIPE1CAT=\r\nSUPP0=\r\nSUPP1=\r\nENDROIT=\r\n"
+      "SAISIEPAR=\r\nNBREPERIODE=4\r\nDUREE=8\r\nBONUS=0\r\nPFMAX=0\r\nTFMAX=0\r\nTYPE=0\r\n"
+      "NOTES=\xC9t\xE9, \x9Cuf\r\nIDPARTIE=ab12\r\n[0]\r\n5=2,Zo\xE9\r\n[1]\r\n0=9,PUMA\r\n[PERIODE1]\r\n"
+      "1=08:00,ARRET,IN-,IN-\r\n");
   EXPECT_EQ(m_file.nextNumber(), 2);
 }
 
 TEST_F(GameFileTest, AppendingAdvancesTheCounter) {
   Game game = gameWith(fiveAside("57=09:00,SPF,0-4\r\n"));
-  ASSERT_EQ(m_file.append(2, 541, 58, {", SA, 0-5", eventText(EventCode::GF3, false, 1, "7", {{100.9, 44}})}),
+  ASSERT_EQ(m_file.append(2, 541, 58,
+                          {", SA, 0-5", eventText(EventCode::GF3, false, Side::Home, "7", {{100.9, 44}})}),
             GameFileProblem::None);
   ASSERT_EQ(m_file.read(game), GameFileProblem::None);
   EXPECT_EQ(game.details.nextEventNumber, 60);
@@ -181,9 +184,9 @@ TEST_F(GameFileTest, PeriodsBehindTheLastAreReadCountedAndReplacedLikeOthers) {
     order += std::to_string(event.period) + ":" + std::string(event.key) + " ";
   EXPECT_EQ(order, "1:1 8:3 256:4 300:5 300:6 999999999:9 999999999:7 ");
   const GameState state = tallied(game);
-  EXPECT_EQ(state.periods[0][1].points, 1);
-  EXPECT_EQ(state.periods[0][8].points, 1 + 3 + 2);
-  EXPECT_EQ(state.periods[0][8].fouls, 2);
+  EXPECT_EQ(state.periods[Side::Visitor][1].points, 1);
+  EXPECT_EQ(state.periods[Side::Visitor][8].points, 1 + 3 + 2);
+  EXPECT_EQ(state.periods[Side::Visitor][8].fouls, 2);
   EXPECT_EQ(m_file.nextNumber(), 10);
   ASSERT_EQ(m_file.setDeleted({{300, "6"}}, true), GameFileProblem::None);
   EXPECT_NE(m_folder.read("g.GAM").find("\r\n6=E04:00,SPF,0-4\r\n"), std::string::npos);
@@ -199,8 +202,8 @@ TEST_F(GameFileTest, AsManyPeriodsAsAFileHoldsAreReadInTimeAndMakeNoEndlessSum) 
   for (int period = 1; sections.size() < 15'000'000; ++period)
     sections += "[PERIODE" + std::to_string(period) + "]\n1=99:59,ARRET,IN-4\n2=00:00,ARRET,IN-4\n";
   const GameState state = tallied(gameWith("[0]\n4=0,Ana\n" + sections));
-  EXPECT_EQ(state.players[0][1].seconds, 255 * 6000);
-  EXPECT_EQ(state.lines[0][1].seconds, 255 * 6000);
+  EXPECT_EQ(state.players[Side::Visitor][1].seconds, 255 * 6000);
+  EXPECT_EQ(state.lines[Side::Visitor][1].seconds, 255 * 6000);
   EXPECT_EQ(state.lead.seconds[2], 255 * 6000);
 }
 
@@ -275,24 +278,27 @@ TEST_F(TallyTest, CountsPlayersLinesFoulsAndPoints) {
       "8=09:00,GFT,1-8\n9=08:30,STF,1-8\n10=08:00,ARRET,IN-15-12-10-5-16,IN-03-07-08-11-22\n11=08:00,DEPART\n"
       "12=07:00,GLG,0-16\n13=06:00,SPF,0-99\n14=05:00,ARRET,IN-04-05-10-12-15,IN-22-11-08-07-03\n"));
   const GameState state = tallied(game);
-  const std::tuple<std::size_t, std::size_t, Counter, int> counts[] = {
-      {0, 4, Counter::FGM, 1}, {0, 2, Counter::Ast, 1}, {1, 3, Counter::FTA, 2}, {1, 3, Counter::FTM, 1},
-      {1, 3, Counter::TF, 1},  {0, 6, Counter::LLM, 1}, {1, 3, Counter::PF, 0}, // a deleted foul
-      {0, 0, Counter::PF, 1}}; // nobody of the roster wears 99
+  const std::tuple<Side, std::size_t, Counter, int> counts[] = {
+      {Side::Visitor, 4, Counter::FGM, 1}, {Side::Visitor, 2, Counter::Ast, 1},
+      {Side::Home, 3, Counter::FTA, 2},    {Side::Home, 3, Counter::FTM, 1},
+      {Side::Home, 3, Counter::TF, 1},     {Side::Visitor, 6, Counter::LLM, 1},
+      {Side::Home, 3, Counter::PF, 0},     // a deleted foul
+      {Side::Visitor, 0, Counter::PF, 1}}; // nobody of the roster wears 99
   for (const auto& [team, entry, counter, wanted] : counts)
     EXPECT_EQ(state.players[team][entry].counters[counter], wanted)
-        << team << ' ' << entry << ' ' << static_cast<int>(counter);
-  EXPECT_EQ(state.periods[0][1].fouls, 1);
-  EXPECT_EQ(state.periods[1][1].fouls, 1) << "a technical is a team foul";
-  EXPECT_EQ(std::pair(state.points(0), state.points(1)), std::pair(4, 1));
-  const std::array seconds{state.players[0][0].seconds, state.players[0][1].seconds,
-                           state.players[0][2].seconds};
+        << numberOf(team) << ' ' << entry << ' ' << static_cast<int>(counter);
+  EXPECT_EQ(state.periods[Side::Visitor][1].fouls, 1);
+  EXPECT_EQ(state.periods[Side::Home][1].fouls, 1) << "a technical is a team foul";
+  EXPECT_EQ(std::pair(state.points(Side::Visitor), state.points(Side::Home)), std::pair(4, 1));
+  const std::array seconds{state.players[Side::Visitor][0].seconds, state.players[Side::Visitor][1].seconds,
+                           state.players[Side::Visitor][2].seconds};
   EXPECT_EQ(seconds, (std::array{0, 120, 300}));
-  EXPECT_EQ(state.usedLines, (std::array{2, 1}));
-  EXPECT_EQ(state.lines[0][2].list, "IN-05-10-12-15-16");
-  EXPECT_EQ(std::pair(state.lines[0][1].seconds, state.lines[0][2].seconds), std::pair(120, 180));
-  EXPECT_EQ(state.lines[0][2].counters[Counter::LLM], 1);
-  EXPECT_EQ(state.currentLine[0], 1);
+  EXPECT_EQ(state.usedLines, (PerSide<int>{2, 1}));
+  EXPECT_EQ(state.lines[Side::Visitor][2].list, "IN-05-10-12-15-16");
+  EXPECT_EQ(std::pair(state.lines[Side::Visitor][1].seconds, state.lines[Side::Visitor][2].seconds),
+            std::pair(120, 180));
+  EXPECT_EQ(state.lines[Side::Visitor][2].counters[Counter::LLM], 1);
+  EXPECT_EQ(state.currentLine[Side::Visitor], 1);
   EXPECT_EQ(state.lead.seconds, (std::array{281, 0, 19}));
   EXPECT_EQ(state.lead.times, (std::array{1, 0, 0}));
   ASSERT_EQ(state.shots.size(), 1U);
@@ -305,10 +311,10 @@ TEST_F(TallyTest, NothingIsAddedAcrossABreakAndAClockSetBackCancelsOut) {
                          "IN-04-05-10-12-15,IN-\n[PERIODE2]\n3=10:00,DEPART\n4=09:00,SA,0-4\n"
                          "5=09:30,SA,0-4\n6=08:00,ARRET,IN-,IN-\n[PERIODE9]\n7=05:00,SPF,0-4\n"));
   const GameState state = tallied(game);
-  EXPECT_EQ(state.players[0][1].seconds, 600 + 120);
+  EXPECT_EQ(state.players[Side::Visitor][1].seconds, 600 + 120);
   EXPECT_EQ(state.lead.seconds, (std::array{0, 0, 720}));
-  EXPECT_EQ(state.periods[0][8].fouls, 1);
-  EXPECT_EQ(state.lines[0][0].counters[Counter::PF], 1) << "nobody was on court";
+  EXPECT_EQ(state.periods[Side::Visitor][8].fouls, 1);
+  EXPECT_EQ(state.lines[Side::Visitor][0].counters[Counter::PF], 1) << "nobody was on court";
 }
 
 TEST_F(TallyTest, StrangersInAListMakeALineOfTheirOwn) {
@@ -316,12 +322,12 @@ TEST_F(TallyTest, StrangersInAListMakeALineOfTheirOwn) {
       fiveAside("1=10:00,ARRET,IN-04-05-10-12-77,IN-\n2=09:00,ARRET,IN-04-05-10-12-78,IN-\n"
                 "3=08:00,ARRET,IN-77-04-05-10-12,IN-\n4=07:00,ARRET,IN-04-04-05,IN-\n5=06:00,ARRET\n"));
   const GameState state = tallied(game);
-  EXPECT_EQ(state.usedLines[0], 3);
-  EXPECT_EQ(state.lines[0][1].seconds, 120);
-  EXPECT_EQ(state.lines[0][2].seconds, 60);
-  EXPECT_EQ(state.lines[0][3].list, "IN-04-05");
-  EXPECT_EQ(state.players[0][1].seconds, 240) << "twice in a list is once on court";
-  EXPECT_EQ(state.onCourtCount[0], 0);
+  EXPECT_EQ(state.usedLines[Side::Visitor], 3);
+  EXPECT_EQ(state.lines[Side::Visitor][1].seconds, 120);
+  EXPECT_EQ(state.lines[Side::Visitor][2].seconds, 60);
+  EXPECT_EQ(state.lines[Side::Visitor][3].list, "IN-04-05");
+  EXPECT_EQ(state.players[Side::Visitor][1].seconds, 240) << "twice in a list is once on court";
+  EXPECT_EQ(state.onCourtCount[Side::Visitor], 0);
 }
 
 TEST_F(TallyTest, TheHundredAndFirstLineGoesToEntryZeroWithoutTime) {
@@ -332,24 +338,24 @@ TEST_F(TallyTest, TheHundredAndFirstLineGoesToEntryZeroWithoutTime) {
   events += std::to_string(number) + "=09:00,SA,0-4\n" + std::to_string(number + 1) +
             "=08:00,ARRET,IN-04-100,IN-\n";
   const GameState state = tallied(gameWith(fiveAside(events)));
-  EXPECT_EQ(state.usedLines[0], 100);
-  EXPECT_EQ(state.lines[0][0].counters[Counter::Ast], 1);
-  EXPECT_EQ(state.lines[0][0].seconds, 0);
-  EXPECT_EQ(state.currentLine[0], 1) << "the first line finds its entry again";
-  EXPECT_EQ(state.players[0][1].seconds, 120);
+  EXPECT_EQ(state.usedLines[Side::Visitor], 100);
+  EXPECT_EQ(state.lines[Side::Visitor][0].counters[Counter::Ast], 1);
+  EXPECT_EQ(state.lines[Side::Visitor][0].seconds, 0);
+  EXPECT_EQ(state.currentLine[Side::Visitor], 1) << "the first line finds its entry again";
+  EXPECT_EQ(state.players[Side::Visitor][1].seconds, 120);
 }
 
 TEST_F(TallyTest, ACountOutOfRangeIsNamedAndStaysAtItsLimit) {
-  Roster rosters[2];
-  rosters[0].add({"4", 0, "Ana"});
+  PerSide<Roster> rosters;
+  rosters[Side::Visitor].add({"4", 0, "Ana"});
   EventList events;
   for (int i = 1; i <= 32769; ++i)
     events.appendOwned(1, std::to_string(i), "09:00,SA,0-4");
   GameState state;
-  const auto outOfRange = Tally::run(state, events, rosters[0], rosters[1]);
+  const auto outOfRange = Tally::run(state, events, rosters[Side::Visitor], rosters[Side::Home]);
   ASSERT_TRUE(outOfRange);
   EXPECT_EQ(outOfRange->what, "4 Ast");
-  EXPECT_EQ(state.players[0][1].counters[Counter::Ast], 32767);
+  EXPECT_EQ(state.players[Side::Visitor][1].counters[Counter::Ast], 32767);
 }
 
 // What is left out of one table is left out of all, and what was full is named.
@@ -367,9 +373,9 @@ TEST_F(TallyTest, TablesAgreeWhenACountIsFull) {
       {"GF3", {"4"}, 10923, "PERIODE1 PTS"},
       {"GFG", {"4", "5"}, 16384, "PERIODE1 PTS"},
   };
-  Roster rosters[2];
-  rosters[0].add({"4", 0, "Ana"});
-  rosters[0].add({"5", 0, "Bo"});
+  PerSide<Roster> rosters;
+  rosters[Side::Visitor].add({"4", 0, "Ana"});
+  rosters[Side::Visitor].add({"5", 0, "Bo"});
   for (const auto& each : cases) {
     EventList events;
     for (int i = 0; i < each.events + 5; ++i)
@@ -377,19 +383,19 @@ TEST_F(TallyTest, TablesAgreeWhenACountIsFull) {
                          std::string("09:00,") + each.code + ",0-" +
                              each.jerseys[static_cast<std::size_t>(i) % each.jerseys.size()]);
     GameState state;
-    const auto outOfRange = Tally::run(state, events, rosters[0], rosters[1]);
+    const auto outOfRange = Tally::run(state, events, rosters[Side::Visitor], rosters[Side::Home]);
     SCOPED_TRACE(each.named);
     ASSERT_TRUE(outOfRange);
     EXPECT_EQ(outOfRange->what, each.named);
     int points = 0, fouls = 0, attempts = 0;
-    for (const PlayerEntry& player : state.players[0]) {
+    for (const PlayerEntry& player : state.players[Side::Visitor]) {
       points += pointsOf(player.counters);
       fouls += player.counters[Counter::PF] + player.counters[Counter::TF];
       attempts += player.counters[Counter::FGA] + player.counters[Counter::F3A];
     }
-    EXPECT_EQ(points, state.points(0));
-    EXPECT_EQ(points, pointsOf(state.lines[0][0].counters));
-    EXPECT_EQ(fouls, state.periods[0][1].fouls);
+    EXPECT_EQ(points, state.points(Side::Visitor));
+    EXPECT_EQ(points, pointsOf(state.lines[Side::Visitor][0].counters));
+    EXPECT_EQ(fouls, state.periods[Side::Visitor][1].fouls);
     EXPECT_EQ(attempts, static_cast<int>(state.shots.size()));
   }
 }
@@ -398,11 +404,11 @@ TEST_F(TallyTest, AListOfMoreThanFiveAndOneThatIsNoneGiveTimeToThoseWhoCount) {
   const Game game = gameWith(fiveAside("1=10:00,ARRET,IN-04-05-10-12-15-16,IN-\n2=09:00,ARRET,IN14,IN-\n"
                                        "3=08:00,ARRET,IN-04,IN\n[PERIODE2]\n4=10:00,ARRET,IN-4-\n"));
   const GameState state = tallied(game);
-  EXPECT_EQ(state.players[0][1].seconds, 120) << "the second line moves no clock";
-  EXPECT_EQ(state.players[0][6].seconds, 0) << "the sixth of a list";
+  EXPECT_EQ(state.players[Side::Visitor][1].seconds, 120) << "the second line moves no clock";
+  EXPECT_EQ(state.players[Side::Visitor][6].seconds, 0) << "the sixth of a list";
   EXPECT_EQ(state.period, 1);
   EXPECT_EQ(state.clockSeconds, 480);
-  EXPECT_EQ(state.onCourtCount[0], 1);
+  EXPECT_EQ(state.onCourtCount[Side::Visitor], 1);
 }
 
 TEST_F(TallyTest, ClearingForgetsTheGameBefore) {
@@ -410,15 +416,16 @@ TEST_F(TallyTest, ClearingForgetsTheGameBefore) {
       fiveAside("1=10:00,ARRET,IN-04-05-10-12-15,IN-03\n2=09:00,GF3,0-4,100,44\n3=08:00,ARRET,IN-04,IN-\n"));
   GameState again = tallied(game);
   const GameState once = again;
-  ASSERT_EQ(Tally::run(again, game.events, game.roster[0], game.roster[1]), std::nullopt);
-  EXPECT_EQ(again.points(0), once.points(0));
+  ASSERT_EQ(Tally::run(again, game.events, game.roster[Side::Visitor], game.roster[Side::Home]),
+            std::nullopt);
+  EXPECT_EQ(again.points(Side::Visitor), once.points(Side::Visitor));
   EXPECT_EQ(again.usedLines, once.usedLines);
-  EXPECT_EQ(again.lines[0][1].seconds, once.lines[0][1].seconds);
+  EXPECT_EQ(again.lines[Side::Visitor][1].seconds, once.lines[Side::Visitor][1].seconds);
   EXPECT_EQ(again.shots.size(), 1U);
   EventList none;
-  ASSERT_EQ(Tally::run(again, none, game.roster[0], game.roster[1]), std::nullopt);
-  EXPECT_EQ(again.points(0), 0);
-  EXPECT_TRUE(again.lines[0][1].list.empty());
+  ASSERT_EQ(Tally::run(again, none, game.roster[Side::Visitor], game.roster[Side::Home]), std::nullopt);
+  EXPECT_EQ(again.points(Side::Visitor), 0);
+  EXPECT_TRUE(again.lines[Side::Visitor][1].list.empty());
 }
 
 } // namespace

@@ -19,7 +19,8 @@ TEST_P(Truth, AgreesWithTheOfficialBox) {
   Game game;
   GameState state;
   ASSERT_EQ(GameFile(store, GetParam().string()).read(game), GameFileProblem::None);
-  ASSERT_EQ(Tally::run(state, game.events, game.roster[0], game.roster[1]), std::nullopt);
+  ASSERT_EQ(Tally::run(state, game.events, game.roster[Side::Visitor], game.roster[Side::Home]),
+            std::nullopt);
   EXPECT_EQ(OfficialBox(GetParam()).differences(game, state), std::vector<std::string>{});
 }
 

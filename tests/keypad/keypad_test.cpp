@@ -159,8 +159,8 @@ TEST_F(KeypadInputTest, PlayersComeAndLeaveAndWhatDoesNotFitIsRefused) {
   press("22/-");
   EXPECT_EQ(lastLine(), "10:00,ARRET,IN-000-04-05-10-15,IN-03-07-22");
   press("0<");
-  EXPECT_EQ(live.onCourt()[0], 0U);
-  EXPECT_NE(live.onCourt()[1], 0U);
+  EXPECT_EQ(live.onCourt()[Side::Visitor], 0U);
+  EXPECT_NE(live.onCourt()[Side::Home], 0U);
   EXPECT_EQ(reason("0<").words(texts), "Nobody of PAN is on court");
   EXPECT_EQ(reason("120<").words(texts), texts.text(Text::AllAlone));
 }
@@ -186,7 +186,7 @@ TEST_F(KeypadInputTest, AKeyOfInOrOutBetweenTwoNumbersExchangesThemInOneStep) {
   EXPECT_EQ(lists(), "IN-00-05-10-15,IN-03-07");
   EXPECT_EQ(lines().size(), before + 2) << "a stop and a start";
   EXPECT_TRUE(live.undo());
-  EXPECT_EQ(live.onCourt()[0], 0b111110U);
+  EXPECT_EQ(live.onCourt()[Side::Visitor], 0b111110U);
 }
 
 TEST_F(KeypadInputTest, WithoutTheBoundKeysTheLineIsLeft) {
@@ -280,7 +280,7 @@ TEST_F(KeypadInputTest, ALineOfTheMainKeyboardEndsWithEnter) {
 TEST_F(KeypadInputTest, NumLockMakesNoDifferenceAndArrowsStayArrows) {
   for (const int code : {35, 40, 33, 8}) // 1 2 9 with Num Lock off, confirmed
     input.press({code}, live);
-  EXPECT_EQ(input.order(), (KeypadOrder{Kind::Action, 0, 4, EventCode::SPF, false}));
+  EXPECT_EQ(input.order(), (KeypadOrder{Kind::Action, Side::Visitor, 4, EventCode::SPF, false}));
   EXPECT_EQ(input.press({46}, live), Outcome::Typed);
   EXPECT_EQ(input.typed(), "A ");
   for (const KeyPress key : {KeyPress{40, false}, {46, false}, {0}})
@@ -329,7 +329,7 @@ TEST_F(KeypadInputTest, ShowsWhatIsTypedAndWhatItWillDo) {
   }
   press("+..42");
   EXPECT_EQ(input.typed(), "A A 42");
-  EXPECT_EQ(KeypadInput::words({Kind::Shot, 0, 1, EventCode::GFG, true}, live.game(), texts),
+  EXPECT_EQ(KeypadInput::words({Kind::Shot, Side::Visitor, 1, EventCode::GFG, true}, live.game(), texts),
             "PAN 4 Ann Able: ● 2 points");
 }
 

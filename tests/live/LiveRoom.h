@@ -2,6 +2,7 @@
 // that the test sets.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/LiveGame.h"
 #include "recording/ManualTime.h"
 #include "support/TextGame.h"
@@ -24,7 +25,7 @@ class LiveRoom : public WindowRoom<Disk> {
   // Four periods of ten minutes; both teams have these players, "4=0,Ann\n5=1,Bea".
   static void makeGame(const std::string& path, const std::string& listed, GameDetails details = {}) {
     const Game game = gameOfText("[DETAILS]\nVERSION=2.0\n[0]\n" + listed);
-    const std::vector<RosterPlayer>& players = game.roster[0].players();
+    const std::vector<RosterPlayer>& players = game.roster[Side::Visitor].players();
     details.periods = 4;
     details.minutesPerPeriod = 10;
     FileSystem plain;

@@ -13,17 +13,17 @@
 namespace hooptab {
 namespace {
 
-using Players = std::vector<std::pair<int, int>>; // team, player
+using Players = std::vector<std::pair<Side, int>>; // team, player
 
 class BenchTest : public LiveRoom<> {
  protected:
   void SetUp() override {
     GameDetails details;
     details.personalFoulLimit = 2;
-    details.abbreviation[0] = "PAN";
-    details.name[0] = "Pandas";
-    details.name[1] = "Olives";
-    details.teamColour[0] = 255; // red
+    details.abbreviation[Side::Visitor] = "PAN";
+    details.name[Side::Visitor] = "Pandas";
+    details.name[Side::Home] = "Olives";
+    details.teamColour[Side::Visitor] = 255; // red
     const std::string path = folder.path("bench.GAM");
     makeGame(path,
              "1=0,Ann Able\n12=1,Bea Baker\n30=2,Cleo Carter\n31=2,Dana Dunn\n45=1,Eve Ellis\n6=1,Fay Ford\n",
@@ -49,15 +49,15 @@ class BenchPanelTest : public BenchTest {
     BenchTest::SetUp();
     panel.showGame(live);
     auto* layout = new QVBoxLayout(&window);
-    layout->addWidget(&panel.strip(0));
-    layout->addWidget(&panel.strip(1));
+    layout->addWidget(&panel.strip(Side::Visitor));
+    layout->addWidget(&panel.strip(Side::Home));
     layout->addWidget(&panel);
     window.resize(1100, 200);
     showActive(window);
     QObject::connect(&panel, &BenchPanel::toggled,
-                     [this](int team, int player) { toggled.emplace_back(team, player); });
+                     [this](Side team, int player) { toggled.emplace_back(team, player); });
     QObject::connect(&panel, &BenchPanel::selected,
-                     [this](int team, int player) { selected.emplace_back(team, player); });
+                     [this](Side team, int player) { selected.emplace_back(team, player); });
   }
   QWidget window;
   BenchPanel& panel = *new BenchPanel(texts, &window, new QWidget, &window);
@@ -77,8 +77,8 @@ TEST_F(BenchPanelTest, ShowsWhoIsOnCourtSelectedAndFouledOut) {
   time.now += 65;
   panel.showTime(live);
   EXPECT_TRUE(jersey(window, 0).toolTip().endsWith(QLatin1String("01:05")));
-  live.recordAction(0, 6, EventCode::SPF);
-  live.recordAction(0, 6, EventCode::SPF);
+  live.recordAction(Side::Visitor, 6, EventCode::SPF);
+  live.recordAction(Side::Visitor, 6, EventCode::SPF);
   texts.setLanguage(Language::French);
   panel.relabelPanel();
   EXPECT_TRUE(jersey(window, 5).look().isFouledOut);
@@ -88,7 +88,7 @@ TEST_F(BenchPanelTest, ShowsWhoIsOnCourtSelectedAndFouledOut) {
 
 TEST_F(BenchPanelTest, APressSelectsAndInSubstitutionModePutsInOrOut) {
   press(jersey(window, 16));
-  EXPECT_EQ(selected, (Players{{1, 2}}));
+  EXPECT_EQ(selected, (Players{{Side::Home, 2}}));
   EXPECT_EQ(textOf(panel, "lblNO", "lblNom"), "12|Bea Baker");
   EXPECT_TRUE(jersey(window, 16).look().isSelected);
   panel.clearSelection();
@@ -96,24 +96,24 @@ TEST_F(BenchPanelTest, APressSelectsAndInSubstitutionModePutsInOrOut) {
   QTest::keyClick(&panel, Qt::Key_F6);
   ASSERT_TRUE(panel.isSubstituting());
   QTest::mousePress(&jersey(window, 5), Qt::LeftButton);
-  EXPECT_EQ(toggled, (Players{{0, 6}})) << "before the release";
+  EXPECT_EQ(toggled, (Players{{Side::Visitor, 6}})) << "before the release";
   QTest::mouseRelease(&jersey(window, 5), Qt::LeftButton);
   press(jersey(window, 0));
   QTest::mouseDClick(&jersey(window, 0), Qt::LeftButton); // the second press of a double click
-  EXPECT_EQ(toggled, (Players{{0, 6}, {0, 1}, {0, 1}}));
+  EXPECT_EQ(toggled, (Players{{Side::Visitor, 6}, {Side::Visitor, 1}, {Side::Visitor, 1}}));
   press(jersey(window, 1), Qt::RightButton);
   EXPECT_EQ(toggled.size(), 3U);
   EXPECT_EQ(selected.size(), 2U) << "one and nobody: nothing was selected in substitution mode";
   QSignalSpy allOut(&panel, &BenchPanel::allOutAsked);
   find<QPushButton>(window, "cmdOUTALL(1)").click();
   ASSERT_EQ(allOut.size(), 1);
-  EXPECT_EQ(allOut[0][0], 1);
+  EXPECT_EQ(allOut[0][0].value<Side>(), Side::Home);
 }
 
 TEST_F(BenchPanelTest, APlayerOfTheBenchIsGivenHisFoulsHere) {
   std::vector<std::string> asked;
-  QObject::connect(&panel, &BenchPanel::actionAsked, [&](int team, int player, EventCode kind) {
-    asked.push_back(std::to_string(team) + "-" + std::to_string(player) + " " +
+  QObject::connect(&panel, &BenchPanel::actionAsked, [&](Side team, int player, EventCode kind) {
+    asked.push_back(std::to_string(numberOf(team)) + "-" + std::to_string(player) + " " +
                     std::string(kindOf(kind)->text));
   });
   const auto& strip = find<QWidget>(panel, "picSELECTED");
@@ -168,7 +168,7 @@ class FollowUpTest : public BenchTest {
     elsewhere.setFocus();
     QObject::connect(&bar, &FollowUpBar::chosen, [this](const FollowUpQuestion::Answer& who, EventCode code) {
       answers += code == EventCode::SA ? "A" : code == EventCode::SOR ? "O" : "D";
-      answers += std::to_string(who.team) + std::to_string(who.player) + (who.comesIn ? "+" : "");
+      answers += std::to_string(numberOf(who.team)) + std::to_string(who.player) + (who.comesIn ? "+" : "");
     });
     QObject::connect(&bar, &FollowUpBar::closed, [this] { answers += "."; });
     QObject::connect(&elsewhere, &QPushButton::pressed, [this] { answers += bar.isOpen() ? "!" : "b"; });
@@ -177,8 +177,13 @@ class FollowUpTest : public BenchTest {
       QObject::connect(shortcut, &QShortcut::activated, [this] { answers += bar.isOpen() ? "!" : "s"; });
     }
   }
-  void askAssist() { bar.ask(live, live.followUps(0, 1, EventCode::GFG, true, true), {0, 1}, {}, room()); }
-  void askRebound() { bar.ask(live, live.followUps(1, 1, EventCode::GFG, false, true), {1, 1}, {}, room()); }
+  void askAssist() {
+    bar.ask(live, live.followUps(Side::Visitor, 1, EventCode::GFG, true, true), {Side::Visitor, 1}, {},
+            room());
+  }
+  void askRebound() {
+    bar.ask(live, live.followUps(Side::Home, 1, EventCode::GFG, false, true), {Side::Home, 1}, {}, room());
+  }
   QRect room() const { return {window.mapToGlobal(QPoint(0, 0)), window.size()}; }
   // When it has been open for long enough.
   static void pressLater(QWidget& widget) {
@@ -226,11 +231,11 @@ TEST_F(FollowUpTest, IsAnsweredByAClickThatIsMeant) {
   askRebound();
   pressLater(jersey(rebound, 5));
   EXPECT_EQ(taken(), ".O12.D01");
-  bar.ask(live, live.followUps(0, 6, EventCode::GFG, true, true), {0, 6}, {}, room());
+  bar.ask(live, live.followUps(Side::Visitor, 6, EventCode::GFG, true, true), {Side::Visitor, 6}, {}, room());
   EXPECT_TRUE(jersey(assist, 4).isVisible()) << "of one who is not on court all five are offered";
   pressLater(find<QPushButton>(bar, "cmdNOASS"));
   EXPECT_EQ(taken(), ".");
-  bar.ask(live, {}, {0, 1}, {}, room());
+  bar.ask(live, {}, {Side::Visitor, 1}, {}, room());
   EXPECT_FALSE(bar.isOpen()) << "nobody to choose";
 }
 
@@ -296,7 +301,8 @@ TEST_F(FollowUpTest, AnythingElsewhereClosesItAndHappensButForTheClock) {
 TEST_F(FollowUpTest, StandsBesideTheShooter) {
   for (const int left : {0, 220, 480}) {
     const QRect panel(window.mapToGlobal(QPoint(left, 10)), QSize(210, 300));
-    bar.ask(live, live.followUps(0, 1, EventCode::GFG, false, true), {0, 1}, panel, room());
+    bar.ask(live, live.followUps(Side::Visitor, 1, EventCode::GFG, false, true), {Side::Visitor, 1}, panel,
+            room());
     const QRect place(bar.mapToGlobal(QPoint(0, 0)), bar.size());
     EXPECT_TRUE(window.rect().contains(bar.geometry())) << left;
     constexpr int kEdge = 5; // of a panel, beside its buttons: as far as the arrow reaches

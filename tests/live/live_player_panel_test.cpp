@@ -47,12 +47,12 @@ TEST_F(PlayerPanelTest, ShowsThePlayerAndEveryCount) {
   EXPECT_TRUE(text("lblNom(3)").ends_with("…")) << "cut";
   EXPECT_TRUE(find<QLabel>(full, "lblNom(3)").toolTip().endsWith(QStringLiteral("Long Names")));
   EXPECT_EQ(text("lblTOTpct(3)"), "0.0%");
-  ASSERT_TRUE(live.recordShot(0, 4, EventCode::GFG, true, {{20, 90}}));
-  ASSERT_TRUE(live.recordShot(0, 4, EventCode::GF3, true, {{110, 90}}));
-  ASSERT_TRUE(live.recordShot(0, 4, EventCode::GDK, false));
+  ASSERT_TRUE(live.recordShot(Side::Visitor, 4, EventCode::GFG, true, {{20, 90}}));
+  ASSERT_TRUE(live.recordShot(Side::Visitor, 4, EventCode::GF3, true, {{110, 90}}));
+  ASSERT_TRUE(live.recordShot(Side::Visitor, 4, EventCode::GDK, false));
   for (const EventKind& kind : eventKinds()) {
     if (!kind.isShot) {
-      ASSERT_TRUE(live.recordAction(0, 4, kind.code));
+      ASSERT_TRUE(live.recordAction(Side::Visitor, 4, kind.code));
     }
   }
   full.showGame(live);
@@ -81,11 +81,11 @@ TEST_F(PlayerPanelTest, FoulsAreMarkedBySignAndColour) {
   const auto pips = [&] { return full.grab().toImage(); };
   const QColor usual = fillOfButton();
   const QImage none = pips();
-  ASSERT_TRUE(live.recordAction(0, 4, EventCode::SPF));
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 4, EventCode::SPF));
   full.showGame(live);
   EXPECT_EQ(fillOfButton(), Theme::look().warningGround);
   EXPECT_NE(pips(), none);
-  ASSERT_TRUE(live.recordAction(0, 4, EventCode::SPF));
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 4, EventCode::SPF));
   full.showGame(live);
   EXPECT_EQ(fillOfButton(), Theme::missed());
   ASSERT_TRUE(live.undo());
@@ -224,10 +224,10 @@ TEST_F(PlayerPanelTest, AnEmptyPanelIsAFrameAndSaysNothing) {
   EXPECT_EQ(shots.count() + actions.count() + places.count(), 0);
   EXPECT_FALSE(find(empty, "CourtJ(4)").isVisible());
   EXPECT_EQ(empty.accessibleName(), toQt(texts.text(Text::Nobody)));
-  ASSERT_TRUE(live.toggleOnCourt(0, 4));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Visitor, 4));
   full.showGame(live);
   EXPECT_FALSE(find(full, "CourtJ(3)").isVisible());
-  ASSERT_TRUE(live.toggleOnCourt(0, 4));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Visitor, 4));
   full.showGame(live);
   EXPECT_TRUE(find(full, "CourtJ(3)").isVisible());
 }

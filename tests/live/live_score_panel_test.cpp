@@ -64,7 +64,7 @@ TEST_F(ScorePanelTest, ShowsScoreFoulsAndLead) {
   time.now += 20;
   panel.showTime(live);
   EXPECT_EQ(text("lblTEMPS", "txtPOSTemps(0)"), "07:10|01:50");
-  live.recordShot(1, 1, EventCode::GF3, true);
+  live.recordShot(Side::Home, 1, EventCode::GF3, true);
   panel.showGame(live);
   time.now += 5;
   panel.showTime(live);
@@ -96,8 +96,8 @@ TEST_F(ScorePanelTest, AsksForWhatIsPressed) {
   press("pictTEAM(1)");
   QTest::mouseClick(find<QWidget>("pictTEAM(0)"), Qt::RightButton);
   ASSERT_EQ(colour.size(), 2);
-  EXPECT_EQ(colour[0].at(0), 1);
-  EXPECT_EQ(colour[1].at(0), 0);
+  EXPECT_EQ(colour[0].at(0).value<Side>(), Side::Home);
+  EXPECT_EQ(colour[1].at(0).value<Side>(), Side::Visitor);
   const QString right = QStringLiteral("▸");
   EXPECT_TRUE(button("cmdCOUL(1)")->text().endsWith(right));
   EXPECT_EQ(text("lblSWITCH"), "◂PAN");

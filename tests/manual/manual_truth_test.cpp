@@ -16,11 +16,13 @@ class ManualTruth : public OpenManualGame, public testing::WithParamInterface<st
     counted = tallied(played);
     GameDetails details = played.details;
     details.inputType = 1;
-    ASSERT_EQ(GameFile(store, path).create(details, played.roster[0].players(), played.roster[1].players()),
-              GameFileProblem::None);
+    ASSERT_EQ(
+        GameFile(store, path)
+            .create(details, played.roster[Side::Visitor].players(), played.roster[Side::Home].players()),
+        GameFileProblem::None);
   }
   // Whatever the zones of the court take for what it was: the rest is typed.
-  void placeShots(std::uint8_t team, int player) {
+  void placeShots(Side team, int player) {
     auto& view = find<CourtView>("Court");
     const ZoneMap zones = zoneMapOf(settings);
     for (const Shot& shot : counted.shots) {
@@ -47,7 +49,7 @@ class ManualTruth : public OpenManualGame, public testing::WithParamInterface<st
       spot.ry() -= 1;
     return spot;
   }
-  void enter(std::size_t team, int player) {
+  void enter(Side team, int player) {
     const Counters& counts = counted.players[team][static_cast<std::size_t>(player)].counters;
     const auto& first =
         find<QLabel>((table().page() == 1 ? "lblFG(" : "lblA(") + std::to_string(player) + ")");
@@ -68,15 +70,15 @@ class ManualTruth : public OpenManualGame, public testing::WithParamInterface<st
 };
 
 TEST_P(ManualTruth, EnteredByHandGivesTheOfficialBox) {
-  for (std::size_t team = 0; team < 2; ++team) {
-    find<QComboBox>("cmbTEAM").setCurrentIndex(static_cast<int>(team));
+  for (const Side team : kSides) {
+    find<QComboBox>("cmbTEAM").setCurrentIndex(numberOf(team));
     const int players =
         std::min<int>(static_cast<int>(played.roster[team].players().size()), Roster::kLargestEntry);
     for (int page = 1; page <= kManualPages; ++page) {
       for (int player = 1; player <= players; ++player) {
         QTest::mouseClick(&table(), Qt::LeftButton, {}, nameOf(player).geometry().center());
         if (page == 1)
-          placeShots(static_cast<std::uint8_t>(team), player);
+          placeShots(team, player);
         enter(team, player);
       }
       QTest::keyClick(&table(), Qt::Key_PageDown);
@@ -91,10 +93,10 @@ TEST_P(ManualTruth, EnteredByHandGivesTheOfficialBox) {
   GameState again = tallied(entered);
   EXPECT_EQ(again.shots.size(), counted.shots.size());
   // Totals know no time: that of the recorded game stands in for it.
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     for (std::size_t player = 0; player < GameState::kPlayerEntries; ++player) {
       EXPECT_EQ(again.players[team][player].counters, counted.players[team][player].counters)
-          << "team " << team << " player " << player;
+          << "team " << numberOf(team) << " player " << player;
       again.players[team][player].seconds = counted.players[team][player].seconds;
     }
   }

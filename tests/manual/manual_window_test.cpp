@@ -127,10 +127,10 @@ TEST_F(ManualWindowTest, IsFilledInByKeyboardLikeASpreadsheet) {
   Game game;
   ASSERT_EQ(GameFile(store, path).read(game), GameFileProblem::None);
   const GameState counted = tallied(game);
-  const Counters& counts = counted.players[0][1].counters;
+  const Counters& counts = counted.players[Side::Visitor][1].counters;
   EXPECT_EQ((std::vector<int>{counts[Counter::FGA], counts[Counter::F3A], counts[Counter::S2]}),
             (std::vector{20, 3, 2}));
-  EXPECT_EQ(counted.points(0), 12 * 2 + 4 * 3);
+  EXPECT_EQ(counted.points(Side::Visitor), 12 * 2 + 4 * 3);
   EXPECT_TRUE(game.details.isFinished);
 }
 

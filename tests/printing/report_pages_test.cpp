@@ -187,7 +187,7 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheBoxScoreSays) {
     texts.setLanguage(language);
     const std::string text = pdfText(scorecard(game));
     EXPECT_NE(text.find(texts.text(Text::Scorecard)), std::string::npos);
-    for (int team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       for (const BoxRow& row : boxRows({game, state}, team, BoxView::Players, texts)) {
         // The row may stand in parts that follow each other. Kinds of shots that nobody tried are left out.
         const ReportTable table = boxTable({game, state}, team, view, settings, texts);

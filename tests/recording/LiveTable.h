@@ -1,6 +1,7 @@
 // A live game and its file, for tests of what is done at the scorer's table.
 #pragma once
 
+#include "game/Side.h"
 #include "recording/GameSession.h"
 #include "recording/LiveFigures.h"
 #include "recording/ManualTime.h"
@@ -49,9 +50,10 @@ class LiveTableTest : public testing::Test {
     live.start();
     pass(seconds);
   }
-  std::string places(LiveGame& game, int team = 0) const {
+  std::string places(LiveGame& game, Side team = Side::Visitor) const {
     std::string text;
-    for (int slot = team * LiveGame::kSlotsOfTeam; slot < (team + 1) * LiveGame::kSlotsOfTeam; ++slot)
+    const int first = numberOf(team) * LiveGame::kSlotsOfTeam;
+    for (int slot = first; slot < first + LiveGame::kSlotsOfTeam; ++slot)
       text += (text.empty() ? "" : " ") + std::to_string(game.playerIn(slot));
     return text;
   }

@@ -38,10 +38,10 @@ TEST_F(EventCorrectionTest, EachStepIsOneToUndoAndLeavesClockAndPlaceInTheGame) 
   };
   step(correction.toggleMade(), ",GFGA,0-12,40,50");
   step(correction.toggleThree(), ",GF3A,0-12,40,50");
-  step(correction.takePlayer({1, 2}), ",GF3A,1-7,40,50");
-  step(correction.takePlayer({0, 7}), ",GF3A,0-00,40,50"); // from the bench
-  EXPECT_EQ(correction.takePlayer({0, 7}), Outcome::Same);
-  EXPECT_EQ(correction.takePlayer({0, 9}), Outcome::Refused);
+  step(correction.takePlayer({Side::Home, 2}), ",GF3A,1-7,40,50");
+  step(correction.takePlayer({Side::Visitor, 7}), ",GF3A,0-00,40,50"); // from the bench
+  EXPECT_EQ(correction.takePlayer({Side::Visitor, 7}), Outcome::Same);
+  EXPECT_EQ(correction.takePlayer({Side::Visitor, 9}), Outcome::Refused);
   for (int steps = 0; steps < 4; ++steps)
     EXPECT_TRUE(live.undo());
   EXPECT_EQ(linesOf(live.game().events), before);
@@ -53,8 +53,9 @@ TEST_F(EventCorrectionTest, EachStepIsOneToUndoAndLeavesClockAndPlaceInTheGame) 
 
 TEST_F(EventCorrectionTest, AFollowUpThatNoLongerFitsIsNeverLeftOrLostInSilence) {
   begin("3=09:00,GLG,0-12\n4=09:00,SA,0-5\n", "3");
-  EXPECT_EQ(correction.takePlayer({0, 3}), Outcome::Changed) << "another shooter, still assisted by 5";
-  EXPECT_EQ(correction.takePlayer({0, 2}), Outcome::Asks);
+  EXPECT_EQ(correction.takePlayer({Side::Visitor, 3}), Outcome::Changed)
+      << "another shooter, still assisted by 5";
+  EXPECT_EQ(correction.takePlayer({Side::Visitor, 2}), Outcome::Asks);
   EXPECT_EQ(both(), "GLG,0-10 SA,0-5") << "nothing yet";
   EXPECT_EQ(correction.followUpQuestion(texts) + correction.adaptedWords(texts),
             "PAN 5 Bea Baker: assist – that no longer fits. Delete it, too?10 Cleo Carter: assist");
@@ -70,11 +71,11 @@ TEST_F(EventCorrectionTest, AFollowUpThatNoLongerFitsIsNeverLeftOrLostInSilence)
   EXPECT_TRUE(live.undo());
   EXPECT_EQ(correction.toggleMade(), Outcome::Asks);
   EXPECT_EQ(correction.decide(Remedy::Keep), Outcome::Changed);
-  EXPECT_EQ(correction.takePlayer({1, 1}), Outcome::Changed) << "it did not fit before";
+  EXPECT_EQ(correction.takePlayer({Side::Home, 1}), Outcome::Changed) << "it did not fit before";
   EXPECT_EQ(both(), "GLGA,1-3 SA,0-5");
 
   begin("3=09:00,GLGA,0-12\n4=09:00,SOR,0-5\n", "3");
-  EXPECT_EQ(correction.takePlayer({1, 1}), Outcome::Asks);
+  EXPECT_EQ(correction.takePlayer({Side::Home, 1}), Outcome::Asks);
   EXPECT_EQ(correction.decide(Remedy::Adapt), Outcome::Changed);
   EXPECT_EQ(both(), "GLGA,1-3 SDR,0-5");
   EXPECT_EQ(correction.toggleMade(), Outcome::Asks);
@@ -82,24 +83,24 @@ TEST_F(EventCorrectionTest, AFollowUpThatNoLongerFitsIsNeverLeftOrLostInSilence)
   EXPECT_EQ(correction.decide(Remedy::Keep), Outcome::None);
 
   begin("3=09:00,GLGA,0-12\n4=09:00,SOR,0-5\n5=08:00,GLG,0-12\n6=08:00,SA,0-5\n", "4");
-  EXPECT_EQ(correction.takePlayer({1, 1}), Outcome::Changed);
+  EXPECT_EQ(correction.takePlayer({Side::Home, 1}), Outcome::Changed);
   EXPECT_EQ(both(), "GLGA,0-12 SDR,1-3");
   ASSERT_TRUE(correction.begin(session, {1, "6"}));
-  EXPECT_EQ(correction.takePlayer({0, 4}), Outcome::Refused);
+  EXPECT_EQ(correction.takePlayer({Side::Visitor, 4}), Outcome::Refused);
   EXPECT_EQ(correction.reason(texts), "12 has made the basket himself.");
-  EXPECT_EQ(correction.takePlayer({1, 1}), Outcome::Refused);
+  EXPECT_EQ(correction.takePlayer({Side::Home, 1}), Outcome::Refused);
   EXPECT_EQ(correction.reason(texts), "3 plays for OLY.");
 }
 
 TEST_F(EventCorrectionTest, ATypedNumberIsHeldWholeAndItsOwnTeamComesFirst) {
   begin("3=09:00,SPF,1-3\n", "3");
-  ASSERT_TRUE(live.addPlayer(1, "5", "Nia").isAdded());
+  ASSERT_TRUE(live.addPlayer(Side::Home, "5", "Nia").isAdded());
   EXPECT_EQ(type("5"), Outcome::Changed) << "one in each team";
   EXPECT_EQ(line("3"), "09:00,SPF,1-5");
   EXPECT_EQ(type("4"), Outcome::Changed) << "nobody's of the own team, one of the other";
   EXPECT_EQ(line("3"), "09:00,SPF,0-4");
   EXPECT_EQ(type("0"), Outcome::None) << "00 could follow";
-  EXPECT_EQ(correction.meant(), (EventCorrection::Who{0, 6}));
+  EXPECT_EQ(correction.meant(), (EventCorrection::Who{Side::Visitor, 6}));
   EXPECT_EQ(correction.enter(), Outcome::Changed);
   EXPECT_EQ(line("3"), "09:00,SPF,0-0");
   EXPECT_EQ(type("99"), Outcome::Refused);

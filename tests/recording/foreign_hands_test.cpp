@@ -18,7 +18,7 @@ class ForeignHandsTest : public LiveTableTest {
     score();    // 3
     score();    // 4
   }
-  void score() { ASSERT_TRUE(live.recordShot(0, 1, EventCode::GFT, true)); }
+  void score() { ASSERT_TRUE(live.recordShot(Side::Visitor, 1, EventCode::GFT, true)); }
   // Another program's way of adding a line, as a text editor would save it.
   void append(const std::string& line) { folder.write("live.GAM", folder.read("live.GAM") + line + "\r\n"); }
   void replace(const std::string& what, const std::string& by) {
@@ -55,7 +55,7 @@ TEST_F(ForeignHandsTest, AnEventOfTheNextNumberIsTakenInAtTheNextLookAndCollides
   append("5=10:00,GFT,1-5");
   EXPECT_TRUE(live.settle());
   EXPECT_EQ(live.takeForeignHands().added, 1);
-  EXPECT_EQ(live.state().points(1), 1);
+  EXPECT_EQ(live.state().points(Side::Home), 1);
   score(); // 6
   expectTruth();
   append("7=10:00,GFT,1-5");
@@ -73,14 +73,14 @@ TEST_F(ForeignHandsTest, AnEventOfTheNextNumberIsTakenInAtTheNextLookAndCollides
   EXPECT_EQ(found(), std::string(kOurs) + "5,GFT,1-5 6,GFT,0-4 7,GFT,0-4 8,SST,1-5 9,GFT,0-4 ");
   expectTruth();
   EXPECT_TRUE(live.undo() && live.undo()) << "what others added takes nothing away from undoing";
-  EXPECT_EQ(live.state().points(0), 3);
+  EXPECT_EQ(live.state().points(Side::Visitor), 3);
   expectTruth();
 }
 
 TEST_F(ForeignHandsTest, AnOlderVersionLosesNothingOfOurs) {
   const std::string older = folder.read("live.GAM");
   score();
-  live.setTeamColour(0, 255);
+  live.setTeamColour(Side::Visitor, 255);
   ASSERT_TRUE(live.setDeleted(std::vector<EventPlace>{{1, "3"}}, true));
   live.finish("Notes of ours");
   folder.write("live.GAM", older);
@@ -89,7 +89,7 @@ TEST_F(ForeignHandsTest, AnOlderVersionLosesNothingOfOurs) {
   EXPECT_EQ(hands.restored, 2) << "one line was gone, one not deleted";
   EXPECT_TRUE(live.game().details.isFinished);
   EXPECT_EQ(live.game().details.notes, "Notes of ours");
-  EXPECT_EQ(live.game().details.teamColour[0], 255U);
+  EXPECT_EQ(live.game().details.teamColour[Side::Visitor], 255U);
   expectTruth();
   // What others say now is theirs, if it is not what the file said before.
   replace("NOTES=Notes of ours", "NOTES=Theirs");
@@ -106,11 +106,12 @@ TEST_F(ForeignHandsTest, PlayersDetailsAndUnknownSectionsAreTheirs) {
   replace("5=0,Player 5\r\n10=", "5=1,Bea\r\n10=");
   score();
   (void)live.takeForeignHands();
-  const Roster& visitors = live.game().roster[0];
+  const Roster& visitors = live.game().roster[Side::Visitor];
   EXPECT_EQ(visitors.player(1)->jersey, "9");
   EXPECT_EQ(visitors.player(visitors.entryOf("5"))->name, "Bea");
   ASSERT_GT(visitors.entryOf("4"), 0) << "who has scored cannot be missed";
-  EXPECT_TRUE(live.slotOf(0, visitors.entryOf("4")) && !live.slotOf(0, 1)) << "nor leave the court";
+  EXPECT_TRUE(live.slotOf(Side::Visitor, visitors.entryOf("4")) && !live.slotOf(Side::Visitor, 1))
+      << "nor leave the court";
   EXPECT_NE(folder.read("live.GAM").find("; a comment of theirs\r\n[ELSEWHERE]\r\nA=b"), std::string::npos);
   expectTruth();
 }

@@ -44,30 +44,31 @@ class GameSessionTest : public LiveTableTest {
 };
 
 TEST_F(GameSessionTest, TellsOnceWhatAWholeChangeHasMade) {
-  EXPECT_EQ(told([&] { session.change()->recordShot(0, 1, EventCode::GFT, true); }), "+3 |");
-  EXPECT_EQ(told([&] { session.change()->recordShot(0, 99, EventCode::GFT, true); }), "")
+  EXPECT_EQ(told([&] { session.change()->recordShot(Side::Visitor, 1, EventCode::GFT, true); }), "+3 |");
+  EXPECT_EQ(told([&] { session.change()->recordShot(Side::Visitor, 99, EventCode::GFT, true); }), "")
       << "nothing was recorded";
   EXPECT_EQ(told([&] { session.change()->undo(); }), "-3 |");
   EXPECT_EQ(told([&] { session.change()->redo(); }), "~3 |");
   EXPECT_EQ(told([&] { session.change()->setClock(300); }), "clock |");
   EXPECT_EQ(told([&] { session.change()->start(); }), "+4 phase clock |");
-  EXPECT_EQ(told([&] { session.change()->toggleOnCourt(0, 1); }), "line-up |") << "half of a substitution";
-  EXPECT_EQ(told([&] { session.change()->toggleOnCourt(0, 6); }), "+5 +6 line-up |");
+  EXPECT_EQ(told([&] { session.change()->toggleOnCourt(Side::Visitor, 1); }), "line-up |")
+      << "half of a substitution";
+  EXPECT_EQ(told([&] { session.change()->toggleOnCourt(Side::Visitor, 6); }), "+5 +6 line-up |");
   time.now += 10;
   EXPECT_EQ(told([&] { session.change()->tick(); }), "") << "the time that passes is no news";
   time.now += 300;
   EXPECT_EQ(told([&] { session.change()->tick(); }), "+7 phase clock |") << "the period has ended";
-  EXPECT_EQ(told([&] { session.change()->setTeamColour(0, 255); }), "details |");
-  EXPECT_EQ(told([&] { (void)session.change()->addPlayer(0, "77", "Late Larry"); }), "counts |");
+  EXPECT_EQ(told([&] { session.change()->setTeamColour(Side::Visitor, 255); }), "details |");
+  EXPECT_EQ(told([&] { (void)session.change()->addPlayer(Side::Visitor, "77", "Late Larry"); }), "counts |");
   EXPECT_EQ(told([&] {
               const auto whole = session.change();
-              whole->recordAction(0, 2, EventCode::SPF);
-              session.change()->recordAction(0, 3, EventCode::SPF);
+              whole->recordAction(Side::Visitor, 2, EventCode::SPF);
+              session.change()->recordAction(Side::Visitor, 3, EventCode::SPF);
             }),
             "+8 +9 |");
   disk.failAt = disk.calls;
   disk.staysBroken = true;
-  EXPECT_EQ(told([&] { session.change()->recordAction(0, 2, EventCode::SBS); }), "+10 disk |");
+  EXPECT_EQ(told([&] { session.change()->recordAction(Side::Visitor, 2, EventCode::SBS); }), "+10 disk |");
   disk.failAt = -1;
   EXPECT_EQ(told([&] { session.change()->settle(); }), "disk |");
   folder.write("live.GAM", folder.read("live.GAM") + "900=10:00,GFT,0-5,-1,-1\r\n");
@@ -86,10 +87,10 @@ TEST_F(GameSessionTest, AListenerThatThrowsChangesOrLeavesHarmsNobody) {
   });
   const auto answering = session.listen([&](const GameNews& news) {
     if (news.added.size() == 1 && news.added[0].key == "3") // answers a shot with its assist
-      session.change()->recordFollowUp(0, 2, EventCode::SA);
+      session.change()->recordFollowUp(Side::Visitor, 2, EventCode::SA);
   });
   const auto last = session.listen([&](const GameNews& news) { heard += words(news) + '|'; });
-  EXPECT_TRUE(session.change()->recordShot(0, 1, EventCode::GFT, true));
+  EXPECT_TRUE(session.change()->recordShot(Side::Visitor, 1, EventCode::GFT, true));
   EXPECT_EQ(heard, "leaves +3 |+4 |");
   EXPECT_EQ(failures, 2);
   EXPECT_EQ(onDisk().events.size(), 4U);
@@ -104,11 +105,12 @@ TEST_F(GameSessionTest, WhoFollowsGetsTheLastGameAndNobodyWaitsForHim) {
     if (++games == 1)
       throw std::runtime_error("at the first");
     if (games == 3)
-      lastPoints.set_value(game.counted.state.points(0) + 100 * game.clockSeconds);
+      lastPoints.set_value(game.counted.state.points(Side::Visitor) + 100 * game.clockSeconds);
     return games > 2;
   });
   for (int shot = 0; shot < 5; ++shot)
-    EXPECT_TRUE(session.change()->recordShot(0, 1, EventCode::GFT, true)) << "while he is at work";
+    EXPECT_TRUE(session.change()->recordShot(Side::Visitor, 1, EventCode::GFT, true))
+        << "while he is at work";
   session.change()->setClock(300);
   go.set_value();
   EXPECT_EQ(lastPoints.get_future().get(), 30005)
@@ -123,7 +125,7 @@ TEST_F(GameSessionTest, WhoFollowsGetsTheLastGameAndNobodyWaitsForHim) {
       never->get_future().wait_for(1h);
       return true;
     });
-    EXPECT_TRUE(session.change()->recordShot(0, 1, EventCode::GFT, true));
+    EXPECT_TRUE(session.change()->recordShot(Side::Visitor, 1, EventCode::GFT, true));
   }
   EXPECT_LT(std::chrono::steady_clock::now() - begin, 1min) << "one that hangs is left";
   never->set_value();

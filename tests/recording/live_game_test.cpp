@@ -21,30 +21,31 @@ class LiveGameTest : public LiveTableTest {
 TEST_F(LiveGameTest, AnAnswerThatComesBehindTheBuzzerBelongsToItsShot) {
   putFives();
   run(597);
-  ASSERT_TRUE(live.recordShot(0, 1, EventCode::GF3, false, {{110, 20}}));
+  ASSERT_TRUE(live.recordShot(Side::Visitor, 1, EventCode::GF3, false, {{110, 20}}));
   pass(5);
   ASSERT_EQ(live.period(), 2);
-  EXPECT_TRUE(live.recordFollowUp(1, 2, EventCode::SDR));
+  EXPECT_TRUE(live.recordFollowUp(Side::Home, 2, EventCode::SDR));
   EXPECT_EQ(last(3), " 00:03,GF3A,0-4,110,20 00:03,SDR,1-5 00:00" + kFives);
   EXPECT_EQ(lines(2), "");
   EXPECT_TRUE(live.log().countsAgree());
-  EXPECT_TRUE(live.recordShot(1, 1, EventCode::GFT, false));
-  EXPECT_TRUE(live.recordFollowUp(0, 2, EventCode::SOR));
+  EXPECT_TRUE(live.recordShot(Side::Home, 1, EventCode::GFT, false));
+  EXPECT_TRUE(live.recordFollowUp(Side::Visitor, 2, EventCode::SOR));
   EXPECT_EQ(lines(2), " 10:00,GFTA,1-4 10:00,SOR,0-5");
 }
 
 TEST_F(LiveGameTest, RecordsClockSubstitutionsAndShotsAsTheFileKeepsThem) {
   for (int player = 5; player >= 1; --player)
-    EXPECT_TRUE(live.toggleOnCourt(0, player));
-  EXPECT_FALSE(live.toggleOnCourt(0, 6)) << "a sixth";
+    EXPECT_TRUE(live.toggleOnCourt(Side::Visitor, player));
+  EXPECT_FALSE(live.toggleOnCourt(Side::Visitor, 6)) << "a sixth";
   EXPECT_EQ(live.playerIn(0), 1) << "in order, whoever came first";
   run(19);
-  EXPECT_EQ(std::pair(live.clockSeconds(), LiveFigures(live).secondsOnCourt(0, 1)), std::pair(581, 19));
-  EXPECT_TRUE(live.recordShot(0, 4, EventCode::GFG, true, {{42.9, 51}}));
-  EXPECT_FALSE(live.recordShot(0, 0, EventCode::GFG, true)) << "nobody in the slot";
+  EXPECT_EQ(std::pair(live.clockSeconds(), LiveFigures(live).secondsOnCourt(Side::Visitor, 1)),
+            std::pair(581, 19));
+  EXPECT_TRUE(live.recordShot(Side::Visitor, 4, EventCode::GFG, true, {{42.9, 51}}));
+  EXPECT_FALSE(live.recordShot(Side::Visitor, 0, EventCode::GFG, true)) << "nobody in the slot";
   EXPECT_EQ(LiveFigures(live).secondsInLead(LeadState::Tied), 19);
   pass(1);
-  EXPECT_TRUE(live.recordAction(0, 7, EventCode::STF)) << "from the bench";
+  EXPECT_TRUE(live.recordAction(Side::Visitor, 7, EventCode::STF)) << "from the bench";
   live.stop();
   EXPECT_EQ(lines(),
             " 10:00,ARRET,IN-,IN- 10:00,ARRET,IN-04-05-10-12-15,IN- 10:00,DEPART 09:41,GFG,0-12,42,51"
@@ -56,21 +57,21 @@ TEST_F(LiveGameTest, RecordsClockSubstitutionsAndShotsAsTheFileKeepsThem) {
 TEST_F(LiveGameTest, SubstitutionsAtOneClockAreOneEventAndNeverTheLineOfAStop) {
   putFives();
   run(60);
-  EXPECT_TRUE(live.toggleOnCourt(0, 1)); // while the clock runs, with a start
-  EXPECT_TRUE(live.toggleOnCourt(0, 6));
-  EXPECT_TRUE(live.toggleOnCourt(1, 2));
+  EXPECT_TRUE(live.toggleOnCourt(Side::Visitor, 1)); // while the clock runs, with a start
+  EXPECT_TRUE(live.toggleOnCourt(Side::Visitor, 6));
+  EXPECT_TRUE(live.toggleOnCourt(Side::Home, 2));
   live.stop();
-  EXPECT_TRUE(live.toggleOnCourt(1, 7));
+  EXPECT_TRUE(live.toggleOnCourt(Side::Home, 7));
   EXPECT_EQ(
       lines(),
       " 10:00,ARRET,IN-,IN- 10:00" + kFives +
           " 10:00,DEPART 09:00,ARRET,IN-00-05-10-12-15,IN-04-10-12-15 09:00,DEPART"
           " 09:00,ARRET,IN-00-05-10-12-15,IN-04-10-12-15 09:00,ARRET,IN-00-05-10-12-15,IN-000-04-10-12-15");
   EXPECT_EQ(live.playerIn(5), 1);
-  EXPECT_TRUE(live.takeAllOut(1));
-  EXPECT_EQ(live.onCourt()[1], 0U);
+  EXPECT_TRUE(live.takeAllOut(Side::Home));
+  EXPECT_EQ(live.onCourt()[Side::Home], 0U);
   // A foul between: another event.
-  EXPECT_TRUE(live.recordAction(0, 2, EventCode::SPF));
+  EXPECT_TRUE(live.recordAction(Side::Visitor, 2, EventCode::SPF));
   EXPECT_TRUE(live.setOnCourt({kFive, kFive}));
   EXPECT_EQ(last(3), " 09:00,ARRET,IN-00-05-10-12-15,IN- 09:00,SPF,0-5 09:00" + kFives);
 }
@@ -86,7 +87,7 @@ TEST_F(LiveGameTest, PeriodsOvertimesAndTheEnd) {
   }
   EXPECT_EQ(lines(2, 1), " 00:00" + kFives);
   live.start();
-  live.recordAction(1, 1, EventCode::SPF);
+  live.recordAction(Side::Home, 1, EventCode::SPF);
   pass(600);
   ASSERT_EQ(live.phase(), Phase::OvertimeAsked);
   pass(kBehindHorn);
@@ -95,7 +96,7 @@ TEST_F(LiveGameTest, PeriodsOvertimesAndTheEnd) {
   // Free throws behind the buzzer decide after all.
   EXPECT_TRUE(live.returnToEndedPeriod());
   EXPECT_EQ(live.clockSeconds(), 0);
-  live.recordShot(0, 1, EventCode::GFT, true);
+  live.recordShot(Side::Visitor, 1, EventCode::GFT, true);
   live.start();
   EXPECT_EQ(live.phase(), Phase::Decided);
   EXPECT_TRUE(live.undo());
@@ -105,14 +106,14 @@ TEST_F(LiveGameTest, PeriodsOvertimesAndTheEnd) {
   EXPECT_FALSE(live.beginOvertime(0, true) || live.beginOvertime(100, true));
   EXPECT_TRUE(live.beginOvertime(5, true) && live.isOvertime());
   EXPECT_EQ(live.clockSeconds(), 300);
-  EXPECT_EQ(LiveFigures(live).teamFouls(1), 1) << "kept from the last period";
+  EXPECT_EQ(LiveFigures(live).teamFouls(Side::Home), 1) << "kept from the last period";
   run(10);
-  live.recordShot(1, 3, EventCode::GF3, true, {{1, 1}});
+  live.recordShot(Side::Home, 3, EventCode::GF3, true, {{1, 1}});
   pass(290);
   EXPECT_EQ(live.phase(), Phase::Decided);
   live.finish("Close, and loud");
   EXPECT_EQ(live.phase(), Phase::Finished);
-  EXPECT_FALSE(live.recordAction(0, 1, EventCode::SPF) || live.undo());
+  EXPECT_FALSE(live.recordAction(Side::Visitor, 1, EventCode::SPF) || live.undo());
   const GameDetails details = onDisk().details;
   EXPECT_TRUE(details.isFinished && details.keepsBonus);
   EXPECT_EQ(details.notes, "Close, and loud");
@@ -123,9 +124,9 @@ TEST_F(LiveGameTest, PeriodsOvertimesAndTheEnd) {
 TEST_F(LiveGameTest, IsOpenedAsItWasLeft) {
   putFives();
   run(125);
-  live.recordShot(0, 2, EventCode::GDK, true);
+  live.recordShot(Side::Visitor, 2, EventCode::GDK, true);
   live.stop();
-  live.toggleOnCourt(0, 1);
+  live.toggleOnCourt(Side::Visitor, 1);
   LiveGame again(store, time);
   ASSERT_EQ(again.open(path), GameFileProblem::None);
   EXPECT_EQ(std::pair(again.period(), again.clockSeconds()), std::pair(1, 475));
@@ -142,24 +143,24 @@ TEST_F(LiveGameTest, IsOpenedAsItWasLeft) {
 TEST_F(LiveGameTest, WhatAnEarlierSessionHasDoneIsTakenBackToo) {
   putFives();
   run(10);
-  live.toggleOnCourt(0, 1);
-  live.toggleOnCourt(0, 6);
+  live.toggleOnCourt(Side::Visitor, 1);
+  live.toggleOnCourt(Side::Visitor, 6);
   pass(10);
-  live.recordShot(0, 2, EventCode::GDK, true);
-  live.recordAction(0, 3, EventCode::SA);
+  live.recordShot(Side::Visitor, 2, EventCode::GDK, true);
+  live.recordAction(Side::Visitor, 3, EventCode::SA);
   live.undo();
   live.stop();
   const std::string left = lines();
   LiveGame again(store, time);
   ASSERT_EQ(again.open(path), GameFileProblem::None);
   ASSERT_TRUE(again.toUndo());
-  EXPECT_TRUE(again.recordAction(1, 3, EventCode::SPF) && again.undo() && again.undo());
-  EXPECT_EQ(again.state().points(0), 0);
+  EXPECT_TRUE(again.recordAction(Side::Home, 3, EventCode::SPF) && again.undo() && again.undo());
+  EXPECT_EQ(again.state().points(Side::Visitor), 0);
   EXPECT_TRUE(again.undo()); // the substitution, and its start of the clock
   EXPECT_EQ(again.onCourt(), (OnCourt{kFive, kFive}));
   EXPECT_EQ(last(2), " 09:40" + kFives + " E09:40,SPF,1-10");
   EXPECT_TRUE(again.redo() && again.redo());
-  EXPECT_EQ(again.state().points(0), 2);
+  EXPECT_EQ(again.state().points(Side::Visitor), 2);
   EXPECT_EQ(lines(), left + " E09:40,SPF,1-10");
   EXPECT_TRUE(again.undo() && again.undo() && again.undo());
   EXPECT_EQ(again.onCourt(), (OnCourt{0, 0}));
@@ -170,14 +171,14 @@ TEST_F(LiveGameTest, AScoreThatChangesAfterTheBuzzerDecidesAtOnce) {
   putFives();
   live.setPeriod(4);
   live.start();
-  live.recordShot(0, 1, EventCode::GFG, true, {{1, 1}});
+  live.recordShot(Side::Visitor, 1, EventCode::GFG, true, {{1, 1}});
   pass(600);
   ASSERT_EQ(live.phase(), Phase::Decided);
-  live.recordShot(1, 1, EventCode::GFT, true);
+  live.recordShot(Side::Home, 1, EventCode::GFT, true);
   EXPECT_EQ(live.phase(), Phase::Decided);
-  live.recordShot(1, 1, EventCode::GFT, true);
+  live.recordShot(Side::Home, 1, EventCode::GFT, true);
   EXPECT_EQ(live.phase(), Phase::OvertimeAsked) << "the game would stand at a tie that nothing resolves";
-  live.recordShot(1, 1, EventCode::GFT, true);
+  live.recordShot(Side::Home, 1, EventCode::GFT, true);
   EXPECT_EQ(live.phase(), Phase::Decided);
 }
 
@@ -186,20 +187,20 @@ TEST_F(LiveGameTest, ClockAndPeriodByHand) {
   live.start();
   EXPECT_FALSE(live.setClock(100) || live.setPeriod(2)) << "not while it runs";
   pass(100);
-  live.recordAction(0, 1, EventCode::STO);
+  live.recordAction(Side::Visitor, 1, EventCode::STO);
   live.stop();
   EXPECT_FALSE(live.setClock(601));
   EXPECT_TRUE(live.setClock(503));
-  live.recordAction(0, 2, EventCode::STO);
+  live.recordAction(Side::Visitor, 2, EventCode::STO);
   EXPECT_TRUE(live.setPeriod(3));
   EXPECT_EQ(live.clockSeconds(), 600);
   EXPECT_EQ(last(2), " 08:23,STO,0-5 08:23" + kFives);
-  live.recordAction(0, 3, EventCode::STO);
+  live.recordAction(Side::Visitor, 3, EventCode::STO);
   EXPECT_TRUE(live.setPeriod(1));
   EXPECT_EQ(live.clockSeconds(), 503);
-  live.recordAction(0, 4, EventCode::STO);
+  live.recordAction(Side::Visitor, 4, EventCode::STO);
   EXPECT_TRUE(live.log().countsAgree());
-  EXPECT_EQ(live.state().players[0][4].counters[Counter::TO], 1);
+  EXPECT_EQ(live.state().players[Side::Visitor][4].counters[Counter::TO], 1);
 }
 
 TEST_F(LiveGameTest, AGameWithoutTime) {
@@ -209,11 +210,11 @@ TEST_F(LiveGameTest, AGameWithoutTime) {
   live.start();
   EXPECT_EQ(live.phase(), Phase::Stopped);
   putFives();
-  live.recordShot(0, 1, EventCode::GFT, true);
+  live.recordShot(Side::Visitor, 1, EventCode::GFT, true);
   EXPECT_TRUE(live.setPeriod(2));
-  live.recordAction(1, 1, EventCode::SPF);
+  live.recordAction(Side::Home, 1, EventCode::SPF);
   EXPECT_EQ(lines(2), " 00:00,SPF,1-4");
-  EXPECT_EQ(LiveFigures(live).teamFouls(1), 1);
+  EXPECT_EQ(LiveFigures(live).teamFouls(Side::Home), 1);
   LiveGame again(store, time);
   ASSERT_EQ(again.open(path), GameFileProblem::None);
   EXPECT_EQ(again.period(), 2) << "a stop at 00:00 ends nothing";
@@ -222,28 +223,31 @@ TEST_F(LiveGameTest, AGameWithoutTime) {
 TEST_F(LiveGameTest, ATeamThatIsItsOwnPlayerStandsOnCourt) {
   create(regular(), "", "");
   EXPECT_EQ(lines(), " 10:00,ARRET,IN-,IN- 10:00,ARRET,IN-00,IN-00");
-  EXPECT_EQ(places(live) + ' ' + places(live, 1), "1 0 0 0 0 1 0 0 0 0");
+  EXPECT_EQ(places(live) + ' ' + places(live, Side::Home), "1 0 0 0 0 1 0 0 0 0");
   EXPECT_FALSE(live.toUndo());
 }
 
 TEST_F(LiveGameTest, FoulsBonusAndFollowUps) {
   putFives();
   for (int foul = 1; foul <= 5; ++foul) {
-    EXPECT_FALSE(LiveFigures(live).isInBonus(0) || LiveFigures(live).isFouledOut(0, 1)) << foul;
-    live.recordAction(0, 1, EventCode::SPF);
+    EXPECT_FALSE(LiveFigures(live).isInBonus(Side::Visitor) ||
+                 LiveFigures(live).isFouledOut(Side::Visitor, 1))
+        << foul;
+    live.recordAction(Side::Visitor, 1, EventCode::SPF);
   }
-  EXPECT_TRUE(LiveFigures(live).isInBonus(0) && LiveFigures(live).isFouledOut(0, 1));
-  live.recordAction(0, 2, EventCode::STF);
-  EXPECT_FALSE(LiveFigures(live).isFouledOut(0, 2));
-  live.recordAction(0, 2, EventCode::STF);
-  EXPECT_TRUE(LiveFigures(live).isFouledOut(0, 2));
-  EXPECT_EQ(LiveFigures(live).teamFouls(0), 7) << "technical ones too";
-  EXPECT_EQ(live.followUps(0, 2, EventCode::GFG, true, true).assist, (std::vector<int>{0, 2, 3, 4}));
-  EXPECT_TRUE(live.followUps(0, 2, EventCode::GFT, true, true).isEmpty());
-  const auto rebounds = live.followUps(1, 2, EventCode::GFT, false, true);
+  EXPECT_TRUE(LiveFigures(live).isInBonus(Side::Visitor) && LiveFigures(live).isFouledOut(Side::Visitor, 1));
+  live.recordAction(Side::Visitor, 2, EventCode::STF);
+  EXPECT_FALSE(LiveFigures(live).isFouledOut(Side::Visitor, 2));
+  live.recordAction(Side::Visitor, 2, EventCode::STF);
+  EXPECT_TRUE(LiveFigures(live).isFouledOut(Side::Visitor, 2));
+  EXPECT_EQ(LiveFigures(live).teamFouls(Side::Visitor), 7) << "technical ones too";
+  EXPECT_EQ(live.followUps(Side::Visitor, 2, EventCode::GFG, true, true).assist,
+            (std::vector<int>{0, 2, 3, 4}));
+  EXPECT_TRUE(live.followUps(Side::Visitor, 2, EventCode::GFT, true, true).isEmpty());
+  const auto rebounds = live.followUps(Side::Home, 2, EventCode::GFT, false, true);
   EXPECT_EQ(rebounds.offensiveRebound, (std::vector<int>{5, 6, 7, 8, 9}));
   EXPECT_EQ(rebounds.defensiveRebound, (std::vector<int>{0, 1, 2, 3, 4}));
-  EXPECT_TRUE(live.followUps(1, 2, EventCode::GFT, false, false).isEmpty());
+  EXPECT_TRUE(live.followUps(Side::Home, 2, EventCode::GFT, false, false).isEmpty());
 }
 
 TEST_F(LiveGameTest, TakingBackASubstitutionCarriesTheStopsBehindIt) {
@@ -254,16 +258,17 @@ TEST_F(LiveGameTest, TakingBackASubstitutionCarriesTheStopsBehindIt) {
   run(590);
   ASSERT_EQ(live.period(), 2) << "a start in a period that has ended stays";
   EXPECT_TRUE(live.undo());
-  EXPECT_EQ(live.onCourt()[0], kFive);
+  EXPECT_EQ(live.onCourt()[Side::Visitor], kFive);
   EXPECT_EQ(last(3), " E09:50,ARRET,IN-00-05-10-12-15,IN-04-05-10-12-15 09:50,DEPART 00:00" + kFives);
-  EXPECT_EQ(LiveFigures(live).secondsOnCourt(0, 1), 600);
+  EXPECT_EQ(LiveFigures(live).secondsOnCourt(Side::Visitor, 1), 600);
   EXPECT_TRUE(live.redo());
-  EXPECT_EQ(std::pair(LiveFigures(live).secondsOnCourt(0, 1), LiveFigures(live).secondsOnCourt(0, 6)),
+  EXPECT_EQ(std::pair(LiveFigures(live).secondsOnCourt(Side::Visitor, 1),
+                      LiveFigures(live).secondsOnCourt(Side::Visitor, 6)),
             std::pair(10, 590));
   // The same by hand, in the list of events.
   const std::vector<EventPlace> substitution = {{1, "5"}};
   EXPECT_TRUE(live.setDeleted(substitution, true));
-  EXPECT_EQ(live.onCourt()[0], kFive);
+  EXPECT_EQ(live.onCourt()[Side::Visitor], kFive);
   EXPECT_TRUE(live.setDeleted(substitution, false));
   EXPECT_EQ(last(1), " 00:00,ARRET,IN-00-05-10-12-15,IN-04-05-10-12-15");
 }
@@ -273,26 +278,26 @@ TEST_F(LiveGameTest, DeletingASubstitutionIsRefusedWhereAPlayerWouldComeTwice) {
   run(10);
   live.stop();
   live.setOnCourt({(kFive & ~2U) | 64U, kFive}); // 4 out, 0 in
-  live.recordAction(0, 6, EventCode::STO);
+  live.recordAction(Side::Visitor, 6, EventCode::STO);
   live.setOnCourt({(kFive & ~4U) | 64U, kFive}); // 5 out, 4 in again: without the first he is there already
   run(10);
   live.stop();
   const std::string before = lines();
   EXPECT_FALSE(live.setDeleted(std::vector<EventPlace>{{1, "5"}}, true)) << "four would be left";
-  EXPECT_EQ(live.conflict(), (CourtConflict{{1, "7"}, 0, 2U, true}));
+  EXPECT_EQ(live.conflict(), (CourtConflict{{1, "7"}, Side::Visitor, 2U, true}));
   EXPECT_EQ(lines(), before);
   EXPECT_TRUE(live.log().countsAgree());
 }
 
 TEST_F(LiveGameTest, AnEditIsRefusedThatWouldMakeSix) {
   ASSERT_TRUE(live.setOnCourt({kFive & ~2U, kFive}));
-  live.recordAction(0, 2, EventCode::STO);
+  live.recordAction(Side::Visitor, 2, EventCode::STO);
   ASSERT_TRUE(live.setOnCourt({(kFive & ~2U) | 64U, kFive}));
   const std::string before = lines();
   EXPECT_FALSE(live.replaceEvent({1, "2"}, 600, kFives));
   EXPECT_EQ(lines(), before);
   EXPECT_TRUE(live.replaceEvent({1, "3"}, 599, ",SST,0-10"));
-  EXPECT_EQ(live.state().players[0][3].counters[Counter::ST], 1);
+  EXPECT_EQ(live.state().players[Side::Visitor][3].counters[Counter::ST], 1);
 }
 
 // Whatever is done: the file read anew is what the window shows; all taken back is as it began, and done
@@ -311,9 +316,9 @@ TEST_F(LiveGameTest, EverythingCanBeTakenBackAndDoneAgain) {
       switch (roll(7)) {
       case 0: pass(roll(9)); break;
       case 1: live.toggleClock(); break;
-      case 2: live.toggleOnCourt(roll(2), 1 + roll(7)); break;
+      case 2: live.toggleOnCourt(*sideOf(roll(2)), 1 + roll(7)); break;
       case 3: live.undo(); break;
-      case 4: live.recordAction(roll(2), 1 + roll(7), EventCode::SPF); break;
+      case 4: live.recordAction(*sideOf(roll(2)), 1 + roll(7), EventCode::SPF); break;
       case 5: {
         const EventList& events = live.game().events;
         const GameEvent& event =
@@ -322,7 +327,9 @@ TEST_F(LiveGameTest, EverythingCanBeTakenBackAndDoneAgain) {
           live.setDeleted(std::vector<EventPlace>{{event.period, std::string(event.key)}}, !event.isDeleted);
         break;
       }
-      default: live.recordShot(roll(2), 1 + roll(5), EventCode::GFG, roll(2) == 0, {{roll(126), roll(200)}});
+      default:
+        live.recordShot(*sideOf(roll(2)), 1 + roll(5), EventCode::GFG, roll(2) == 0,
+                        {{roll(126), roll(200)}});
       }
     }
     ASSERT_TRUE(live.log().countsAgree());
@@ -353,11 +360,11 @@ TEST_F(LiveGameTest, WhatTheDiskDoesNotTakeIsWrittenInOrderLater) {
   disk.failAt = disk.calls;
   disk.staysBroken = true;
   run(5);
-  live.recordShot(0, 1, EventCode::GFT, true);
+  live.recordShot(Side::Visitor, 1, EventCode::GFT, true);
   live.undo();
   live.stop();
   EXPECT_FALSE(live.log().isOnDisk());
-  EXPECT_EQ(live.state().players[0][1].counters[Counter::FTM], 0);
+  EXPECT_EQ(live.state().players[Side::Visitor][1].counters[Counter::FTM], 0);
   EXPECT_FALSE(live.settle());
   disk.reset();
   EXPECT_TRUE(live.settle());

@@ -18,11 +18,11 @@ class LiveLeagueTest : public LiveTableTest {
   }
   // A foul of that visitor on a player of the home team, with the throws behind it: "+-" made and missed.
   void foul(int player, int on, std::string_view shots, int awarded = 0) {
-    ASSERT_TRUE(live.recordAction(0, player, EventCode::SPF));
+    ASSERT_TRUE(live.recordAction(Side::Visitor, player, EventCode::SPF));
     const EventPlace place = live.lastAdded();
-    ASSERT_TRUE(
-        live.setDetailsOf(place, {{detail_key::kDrawnBy, "1-" + live.game().roster[1].player(on)->jersey}}));
-    throws.begin(live, place, 1, on);
+    ASSERT_TRUE(live.setDetailsOf(
+        place, {{detail_key::kDrawnBy, "1-" + live.game().roster[Side::Home].player(on)->jersey}}));
+    throws.begin(live, place, Side::Home, on);
     EXPECT_TRUE(awarded == 0 || throws.setAwarded(live, awarded));
     for (const char shot : shots) {
       EXPECT_TRUE(throws.shoot(live, shot == '+'));
@@ -41,42 +41,43 @@ TEST_F(LiveLeagueTest, AFoulItsThrowsAndWhatIsTakenBackOfThem) {
       << "not in the bonus: a shooting one";
   EXPECT_TRUE(throws.isOpen());
   ASSERT_TRUE(live.setOnCourt({kFive, (kFive & ~2U) | 1U << 6U})) << "between two throws";
-  ASSERT_TRUE(live.recordOfTeam(1, EventCode::XTO));
+  ASSERT_TRUE(live.recordOfTeam(Side::Home, EventCode::XTO));
   throws.gameChanged(live);
   EXPECT_TRUE(throws.isOpen() && throws.taken().size() == 1);
   EXPECT_TRUE(throws.shoot(live, false));
   throws.gameChanged(live);
   EXPECT_FALSE(throws.isOpen());
   EXPECT_EQ(last(1), " 09:30,GFTA,1-5,N=2/2");
-  EXPECT_FALSE(live.followUps(1, 2, EventCode::GFT, false, true).isEmpty()) << "the last one is rebounded";
+  EXPECT_FALSE(live.followUps(Side::Home, 2, EventCode::GFT, false, true).isEmpty())
+      << "the last one is rebounded";
   for (int step = 0; step < 4; ++step)
     EXPECT_TRUE(live.undo());
-  EXPECT_EQ(live.state().teamRows[1].timeOuts, 0);
-  EXPECT_EQ(live.state().extras[1][2].foulsDrawn, 1);
+  EXPECT_EQ(live.state().teamRows[Side::Home].timeOuts, 0);
+  EXPECT_EQ(live.state().extras[Side::Home][2].foulsDrawn, 1);
   EXPECT_TRUE(live.undo());
-  EXPECT_EQ(live.state().extras[1][2].foulsDrawn, 0) << "in one step with what was said of it";
+  EXPECT_EQ(live.state().extras[Side::Home][2].foulsDrawn, 0) << "in one step with what was said of it";
   for (int step = 0; step < 5; ++step)
     EXPECT_TRUE(live.redo());
-  EXPECT_EQ(live.state().extras[1][2].foulsDrawn, 1);
+  EXPECT_EQ(live.state().extras[Side::Home][2].foulsDrawn, 1);
   EXPECT_EQ(last(1), " 09:30,GFTA,1-5,N=2/2");
   EXPECT_TRUE(live.log().countsAgree());
 }
 
 TEST_F(LiveLeagueTest, ProposesHowManyThrowsAndAsksForTheReboundOfTheLastAlone) {
-  ASSERT_TRUE(live.recordShot(1, 2, EventCode::GFG, true, {{20, 90}}));
-  ASSERT_TRUE(live.recordFollowUp(1, 1, EventCode::SA));
+  ASSERT_TRUE(live.recordShot(Side::Home, 2, EventCode::GFG, true, {{20, 90}}));
+  ASSERT_TRUE(live.recordFollowUp(Side::Home, 1, EventCode::SA));
   foul(1, 2, "");
   EXPECT_EQ(throws.awarded(), 1) << "behind a basket";
   foul(1, 3, "-");
   EXPECT_EQ(throws.awarded(), 2);
-  EXPECT_TRUE(live.followUps(1, 3, EventCode::GFT, false, true).isEmpty());
+  EXPECT_TRUE(live.followUps(Side::Home, 3, EventCode::GFT, false, true).isEmpty());
   EXPECT_TRUE(throws.setAwarded(live, 1));
-  EXPECT_FALSE(live.followUps(1, 3, EventCode::GFT, false, true).isEmpty()) << "it was the last";
-  ASSERT_TRUE(live.recordAction(0, 2, EventCode::STF));
-  throws.begin(live, live.lastAdded(), 1, 4);
+  EXPECT_FALSE(live.followUps(Side::Home, 3, EventCode::GFT, false, true).isEmpty()) << "it was the last";
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 2, EventCode::STF));
+  throws.begin(live, live.lastAdded(), Side::Home, 4);
   EXPECT_EQ(throws.awarded(), 1);
   EXPECT_TRUE(throws.shoot(live, false));
-  EXPECT_TRUE(live.followUps(1, 4, EventCode::GFT, false, true).isEmpty()) << "a throw-in follows";
+  EXPECT_TRUE(live.followUps(Side::Home, 4, EventCode::GFT, false, true).isEmpty()) << "a throw-in follows";
   foul(1, 2, "", 3); // the fourth team foul
   foul(1, 2, "+");
   EXPECT_EQ(last(2), " 10:00,SPF,0-4,D=1-5,F=2 10:00,GFT,1-5,N=1/2")
@@ -112,20 +113,20 @@ TEST_F(LiveLeagueTest, ThrowsStayWithTheirFoulWhateverTheClockDoes) {
 }
 
 TEST_F(LiveLeagueTest, WhatTeamsDo) {
-  EXPECT_FALSE(live.recordOfTeam(0, EventCode::XJB));
-  EXPECT_FALSE(live.recordOfTeam(-1, EventCode::XOR));
-  EXPECT_TRUE(live.recordOfTeam(-1, EventCode::XTO, {{detail_key::kKind, "MEDIA"}}));
-  EXPECT_TRUE(live.recordOfTeam(1, EventCode::XAR));
-  EXPECT_TRUE(live.recordAction(0, 1, EventCode::STO));
+  EXPECT_FALSE(live.recordOfTeam(Side::Visitor, EventCode::XJB));
+  EXPECT_FALSE(live.recordOfTeam(std::nullopt, EventCode::XOR));
+  EXPECT_TRUE(live.recordOfTeam(std::nullopt, EventCode::XTO, {{detail_key::kKind, "MEDIA"}}));
+  EXPECT_TRUE(live.recordOfTeam(Side::Home, EventCode::XAR));
+  EXPECT_TRUE(live.recordAction(Side::Visitor, 1, EventCode::STO));
   EXPECT_TRUE(live.giveToTeam(live.lastAdded()));
   EXPECT_EQ(last(3), " 10:00,XTO,,K=MEDIA 10:00,XAR,1 10:00,XTV,0");
-  EXPECT_EQ(live.state().players[0][1].counters[Counter::TO], 0);
+  EXPECT_EQ(live.state().players[Side::Visitor][1].counters[Counter::TO], 0);
   EXPECT_TRUE(live.undo());
-  EXPECT_EQ(live.state().players[0][1].counters[Counter::TO], 1);
+  EXPECT_EQ(live.state().players[Side::Visitor][1].counters[Counter::TO], 1);
   // A block is of the shot before it, whose rebound may stand between.
-  EXPECT_TRUE(live.recordShot(0, 3, EventCode::GLG, false));
-  EXPECT_TRUE(live.recordFollowUp(1, 2, EventCode::SDR));
-  EXPECT_TRUE(live.recordAction(1, 4, EventCode::SBS));
+  EXPECT_TRUE(live.recordShot(Side::Visitor, 3, EventCode::GLG, false));
+  EXPECT_TRUE(live.recordFollowUp(Side::Home, 2, EventCode::SDR));
+  EXPECT_TRUE(live.recordAction(Side::Home, 4, EventCode::SBS));
   EXPECT_EQ(last(1), " 10:00,SBS,1-12,S=0-10");
   // The arrow turns with the first start of each further period, once.
   run(601);
@@ -137,11 +138,11 @@ TEST_F(LiveLeagueTest, WhatTeamsDo) {
   EXPECT_EQ(live.phase(), Phase::Stopped) << "the start";
   EXPECT_EQ(lines(2), " 10:00,XAR,0 E10:00,DEPART");
   live.start();
-  EXPECT_EQ(live.arrow(), 0);
+  EXPECT_EQ(live.arrow(), Side::Visitor);
   pass(601);
   pass(5);
   ASSERT_EQ(live.period(), 3);
-  EXPECT_TRUE(live.recordOfTeam(1, EventCode::XAR)) << "set right in the interval";
+  EXPECT_TRUE(live.recordOfTeam(Side::Home, EventCode::XAR)) << "set right in the interval";
   live.start();
   EXPECT_EQ(lines(3), " 10:00,XAR,1 10:00,XAR,0 10:00,DEPART");
   EXPECT_TRUE(live.log().countsAgree());
@@ -150,25 +151,25 @@ TEST_F(LiveLeagueTest, WhatTeamsDo) {
 TEST_F(LiveLeagueTest, QuestionsOfOpponents) {
   FollowUpQuestion question;
   const auto follow = [&](EventCode kind, bool isMade = false) {
-    question.ask(live, live.followUps(0, 1, kind, isMade, true), 0, 1, kind);
+    question.ask(live, live.followUps(Side::Visitor, 1, kind, isMade, true), Side::Visitor, 1, kind);
   };
   follow(EventCode::STO);
   EXPECT_EQ(question.choices().size(), 5U);
-  EXPECT_EQ(question.codeFor({1, 2}), EventCode::SST);
-  EXPECT_EQ(question.codeFor(*question.teamOf(0)), EventCode::XTV);
-  EXPECT_FALSE(question.teamOf(1));
+  EXPECT_EQ(question.codeFor({Side::Home, 2}), EventCode::SST);
+  EXPECT_EQ(question.codeFor(*question.teamOf(Side::Visitor)), EventCode::XTV);
+  EXPECT_FALSE(question.teamOf(Side::Home));
   EXPECT_FALSE(question.type(0)) << "of the bench, and 00 begins so";
   EXPECT_EQ(question.refusal()->text, Text::OnBench);
   follow(EventCode::GFG);
-  EXPECT_EQ(question.codeFor(*question.teamOf(1)), EventCode::XDR);
+  EXPECT_EQ(question.codeFor(*question.teamOf(Side::Home)), EventCode::XDR);
   question.askBlock(true);
   EXPECT_EQ(question.fitting().size(), 5U) << "the defence alone";
   EXPECT_EQ(question.codeFor(*question.type(4)), EventCode::SBS);
   follow(EventCode::SPF);
-  EXPECT_EQ(question.codeFor({1, 2}), EventCode::Unknown);
+  EXPECT_EQ(question.codeFor({Side::Home, 2}), EventCode::Unknown);
   EXPECT_TRUE(live.setDetails({{"NIVEAU", "BASIC"}}));
   for (const EventCode kind : {EventCode::SPF, EventCode::STO, EventCode::STF})
-    EXPECT_TRUE(live.followUps(0, 1, kind, false, true).isEmpty()) << "of today, nothing more";
+    EXPECT_TRUE(live.followUps(Side::Visitor, 1, kind, false, true).isEmpty()) << "of today, nothing more";
 }
 
 } // namespace

@@ -45,7 +45,7 @@ class LeftGameTest : public LiveTableTest {
     ASSERT_TRUE(found->setOnCourt({kFive, kFive}));
     found->start();
     time.now += 60;
-    ASSERT_TRUE(found->recordShot(0, 2, EventCode::GLG, true));
+    ASSERT_TRUE(found->recordShot(Side::Visitor, 2, EventCode::GLG, true));
     findAgain(); // which ends it
   }
   void findAgain(LiveGame::Access access = LiveGame::Access::Recording) {
@@ -69,27 +69,27 @@ TEST_F(LeftGameTest, StandsAtTheLastEventUntilAClockIsChosen) {
     EXPECT_EQ(found->clockSeconds(), 540);
     EXPECT_EQ(found->onCourt(), (OnCourt{kFive, kFive}));
     ASSERT_TRUE(found->isStopLost());
-    EXPECT_EQ(LiveFigures(*found).secondsOnCourt(0, 1), 60) << "though no stop has credited it";
+    EXPECT_EQ(LiveFigures(*found).secondsOnCourt(Side::Visitor, 1), 60) << "though no stop has credited it";
     ASSERT_TRUE(found->setClock(530));
-    EXPECT_EQ(LiveFigures(*found).secondsOnCourt(0, 1), 70);
+    EXPECT_EQ(LiveFigures(*found).secondsOnCourt(Side::Visitor, 1), 70);
     EXPECT_EQ(LiveFigures(*found).secondsInLead(LeadState::Team0), 10)
         << "the lead lasts as long as they play";
     ASSERT_TRUE(found->setClock(540));
     if (c.chosen) {
       EXPECT_TRUE(found->settleStop(*c.chosen));
       EXPECT_EQ(found->clockSeconds(), *c.chosen);
-      EXPECT_EQ(LiveFigures(*found).secondsOnCourt(0, 1), c.secondsAtOnce);
+      EXPECT_EQ(LiveFigures(*found).secondsOnCourt(Side::Visitor, 1), c.secondsAtOnce);
       EXPECT_FALSE(found->isStopLost());
       EXPECT_FALSE(found->settleStop(540)) << "once";
     }
     found->start();
     EXPECT_FALSE(found->isStopLost());
-    EXPECT_EQ(LiveFigures(*found).secondsOnCourt(0, 1), c.secondsAtOnce);
+    EXPECT_EQ(LiveFigures(*found).secondsOnCourt(Side::Visitor, 1), c.secondsAtOnce);
     time.now += found->clockSeconds() - 500;
     found->stop();
     EXPECT_EQ(found->clockSeconds(), 500);
     for (int player = 1; player <= 5; ++player)
-      EXPECT_EQ(LiveFigures(*found).secondsOnCourt(1, player), 100) << player;
+      EXPECT_EQ(LiveFigures(*found).secondsOnCourt(Side::Home, player), 100) << player;
     EXPECT_EQ(LiveFigures(*found).secondsInLead(LeadState::Tied), 60);
     EXPECT_EQ(LiveFigures(*found).secondsInLead(LeadState::Team0), 40);
     const std::string clock = c.chosen == 520 ? "08:40" : "09:00";
@@ -99,7 +99,7 @@ TEST_F(LeftGameTest, StandsAtTheLastEventUntilAClockIsChosen) {
 
 TEST_F(LeftGameTest, WhatIsRecordedFirstCountsWhereTheClockStands) {
   leaveRunning();
-  EXPECT_TRUE(found->recordAction(0, 3, EventCode::SPF));
+  EXPECT_TRUE(found->recordAction(Side::Visitor, 3, EventCode::SPF));
   EXPECT_TRUE(found->isStopLost()) << "a foul has stopped no clock";
   EXPECT_TRUE(found->settleStop(530));
   EXPECT_EQ(last(2), " 09:00,SPF,0-10 08:50" + kFives);
@@ -112,8 +112,9 @@ TEST_F(LeftGameTest, WhatIsRecordedFirstCountsWhereTheClockStands) {
   found->start();
   time.now += 30;
   found->stop();
-  const std::array seconds{LiveFigures(*found).secondsOnCourt(0, 1), LiveFigures(*found).secondsOnCourt(0, 6),
-                           LiveFigures(*found).secondsOnCourt(0, 2)};
+  const std::array seconds{LiveFigures(*found).secondsOnCourt(Side::Visitor, 1),
+                           LiveFigures(*found).secondsOnCourt(Side::Visitor, 6),
+                           LiveFigures(*found).secondsOnCourt(Side::Visitor, 2)};
   EXPECT_EQ(seconds, (std::array{60, 30, 90}));
 
   leaveRunning();
@@ -126,7 +127,7 @@ TEST_F(LeftGameTest, AtZeroThePeriodIsClosed) {
   leaveRunning();
   EXPECT_TRUE(found->settleStop(0));
   EXPECT_EQ(std::pair(found->period(), found->clockSeconds()), std::pair(2, 600));
-  EXPECT_EQ(LiveFigures(*found).secondsOnCourt(0, 1), 600);
+  EXPECT_EQ(LiveFigures(*found).secondsOnCourt(Side::Visitor, 1), 600);
 
   leaveRunning();
   EXPECT_TRUE(found->setClock(0)); // by hand, then START
@@ -137,7 +138,7 @@ TEST_F(LeftGameTest, AtZeroThePeriodIsClosed) {
 
   make(0);
   findAgain();
-  EXPECT_TRUE(found->recordAction(0, 1, EventCode::SPF));
+  EXPECT_TRUE(found->recordAction(Side::Visitor, 1, EventCode::SPF));
   findAgain();
   EXPECT_FALSE(found->isStopLost()) << "no time, no stop";
 }
@@ -171,20 +172,21 @@ TEST_F(LeftGameTest, ForReadingEverythingIsShownAndNothingWritten) {
   EXPECT_EQ(found->phase(), Phase::ReadOnly);
   EXPECT_FALSE(found->canRecord());
   EXPECT_EQ(found->clockSeconds(), 540);
-  EXPECT_EQ(found->state().points(0), 2);
+  EXPECT_EQ(found->state().points(Side::Visitor), 2);
   EXPECT_EQ(found->onCourt(), (OnCourt{kFive, kFive}));
   const std::vector<EventPlace> shot = {{1, "4"}};
   found->toggleClock();
   found->tick();
   found->stop();
   EXPECT_FALSE(found->settleStop(500) || found->setClock(500) || found->setPeriod(2) ||
-               found->returnToEndedPeriod() || found->beginOvertime(5, true) || found->toggleOnCourt(0, 6) ||
-               found->setOnCourt({kOther, kOther}) || found->takeAllOut(0) ||
-               found->recordShot(0, 1, EventCode::GFT, true) || found->recordAction(0, 1, EventCode::SPF) ||
-               found->undo() || found->redo() || found->setDeleted(shot, true) ||
-               found->setTime(shot[0], 530) ||
+               found->returnToEndedPeriod() || found->beginOvertime(5, true) ||
+               found->toggleOnCourt(Side::Visitor, 6) || found->setOnCourt({kOther, kOther}) ||
+               found->takeAllOut(Side::Visitor) ||
+               found->recordShot(Side::Visitor, 1, EventCode::GFT, true) ||
+               found->recordAction(Side::Visitor, 1, EventCode::SPF) || found->undo() || found->redo() ||
+               found->setDeleted(shot, true) || found->setTime(shot[0], 530) ||
                found->insertSubstitution(shot[0], LiveGame::Where::Before, {2, 0}, {64, 0}));
-  found->setTeamColour(0, 1);
+  found->setTeamColour(Side::Visitor, 1);
   found->saveNotes("notes");
   found->finish("notes");
   found->reopen();
@@ -197,7 +199,7 @@ TEST_F(LeftGameTest, AStopWithWrongCountsIsLoud) {
   leaveRunning();
   ASSERT_TRUE(found->settleStop(540));
   found->start();
-  const_cast<GameState&>(found->state()).players[1][3].counters[Counter::DR] = 7;
+  const_cast<GameState&>(found->state()).players[Side::Home][3].counters[Counter::DR] = 7;
   EXPECT_DEATH(found->stop(), "live.GAM differ from its events: team 1 player 3 counts");
 }
 #endif
@@ -218,12 +220,12 @@ TEST_F(LeftGameTest, AStopWithWrongCountsIsLoud) {
   };
   live.start();
   acknowledge();
-  for (bool isOther = live.onCourt()[0] == kFive;; isOther = !isOther) {
+  for (bool isOther = live.onCourt()[Side::Visitor] == kFive;; isOther = !isOther) {
     ++time.now;
     if (!live.setOnCourt({isOther ? kOther : kFive, kFive}))
       ::_exit(1);
     acknowledge();
-    if (!live.recordShot(0, 2, EventCode::GFG, true, {{40, 100}}))
+    if (!live.recordShot(Side::Visitor, 2, EventCode::GFG, true, {{40, 100}}))
       ::_exit(1);
     acknowledge();
   }
@@ -269,7 +271,7 @@ TEST_F(LeftGameTest, AKillInABurstLeavesWholeActionsAndAGameThatGoesOn) {
     EXPECT_LE(next, acknowledged + 2) << "one action more, a substitution with its start";
     EXPECT_TRUE(found->isStopLost()) << "every substitution has its start: " << lines.back().second;
     EXPECT_TRUE(found->settleStop(found->clockSeconds()));
-    EXPECT_TRUE(found->recordAction(1, 1, EventCode::SPF));
+    EXPECT_TRUE(found->recordAction(Side::Home, 1, EventCode::SPF));
     EXPECT_TRUE(found->log().isOnDisk() && found->log().countsAgree());
   }
 }

@@ -50,11 +50,11 @@ class LivePanelTest : public LiveTableTest {
 
 TEST_F(LivePanelTest, ShowsWhatTheCountersHoldOfThePlayerInTheSlot) {
   run(75);
-  ASSERT_TRUE(live.recordShot(0, 2, EventCode::GF3, true, {{100, 30}}));
-  ASSERT_TRUE(live.recordShot(0, 2, EventCode::GFG, false, {{20, 90}}));
-  ASSERT_TRUE(live.recordShot(0, 2, EventCode::GFT, true));
-  ASSERT_TRUE(live.recordShot(1, 2, EventCode::GFG, true, {{40, 40}}));
-  ASSERT_TRUE(live.recordAction(0, 2, EventCode::SST));
+  ASSERT_TRUE(live.recordShot(Side::Visitor, 2, EventCode::GF3, true, {{100, 30}}));
+  ASSERT_TRUE(live.recordShot(Side::Visitor, 2, EventCode::GFG, false, {{20, 90}}));
+  ASSERT_TRUE(live.recordShot(Side::Visitor, 2, EventCode::GFT, true));
+  ASSERT_TRUE(live.recordShot(Side::Home, 2, EventCode::GFG, true, {{40, 40}}));
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 2, EventCode::SST));
   const LivePanel panel = LivePanel::of(live, 1);
   EXPECT_EQ(panel.player, 2);
   EXPECT_EQ(panel.jersey + ' ' + panel.name + ' ' + panel.timeOnCourt, "5 Player 5 01:15");
@@ -64,33 +64,35 @@ TEST_F(LivePanelTest, ShowsWhatTheCountersHoldOfThePlayerInTheSlot) {
   const std::vector<LivePanel::ShotMark> expected = {{{100, 30}, true}, {{20, 90}, false}};
   EXPECT_EQ(panel.shots, expected) << "his own, free throws apart";
   const LivePanel other = LivePanel::of(live, 5);
-  EXPECT_EQ(other.team, 1);
+  EXPECT_EQ(other.team, Side::Home);
   EXPECT_EQ(other.shots.size(), 1U);
   ASSERT_TRUE(live.undo());
   EXPECT_EQ(count(1, Counter::ST), 0);
   const LivePanel nobody = LivePanel::of(live, 6);
-  EXPECT_EQ(std::pair(nobody.team, nobody.player), std::pair(1, 0));
+  EXPECT_EQ(std::pair(nobody.team, nobody.player), std::pair(Side::Home, 0));
   EXPECT_TRUE(nobody.timeOnCourt.empty() && nobody.shots.empty());
 }
 
 TEST_F(LivePanelTest, WarnsOfTwoEarlyFoulsAndOfOneBeforeTheLimit) {
   using Mark = LivePanel::FoulMark;
-  ASSERT_TRUE(live.recordAction(0, 2, EventCode::SPF) && live.recordAction(0, 2, EventCode::SPF));
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 2, EventCode::SPF) &&
+              live.recordAction(Side::Visitor, 2, EventCode::SPF));
   for (const auto& [period, mark] :
        {std::pair(1, Mark::EarlyTwo), {2, Mark::EarlyTwo}, {3, Mark::None}, {1, Mark::EarlyTwo}}) {
     ASSERT_TRUE(live.setPeriod(period));
-    EXPECT_EQ(LivePanel::foulTrouble(live, 0, 2), mark) << period;
+    EXPECT_EQ(LivePanel::foulTrouble(live, Side::Visitor, 2), mark) << period;
   }
-  ASSERT_TRUE(live.recordAction(0, 2, EventCode::STF) && live.recordAction(0, 2, EventCode::STF));
-  EXPECT_EQ(LivePanel::foulTrouble(live, 0, 2), Mark::Reached);
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 2, EventCode::STF) &&
+              live.recordAction(Side::Visitor, 2, EventCode::STF));
+  EXPECT_EQ(LivePanel::foulTrouble(live, Side::Visitor, 2), Mark::Reached);
   EXPECT_EQ(LivePanel::of(live, 1).personalFouls, Mark::EarlyTwo);
   ASSERT_TRUE(live.setPeriod(2));
   for (const Mark mark : {Mark::None, Mark::None, Mark::None, Mark::OneLeft, Mark::Reached, Mark::Reached}) {
-    ASSERT_TRUE(live.recordAction(0, 1, EventCode::SPF));
+    ASSERT_TRUE(live.recordAction(Side::Visitor, 1, EventCode::SPF));
     EXPECT_EQ(LivePanel::of(live, 0).personalFouls, mark) << count(0, Counter::PF);
   }
   EXPECT_EQ(LivePanel::of(live, 0).technicalFouls, Mark::None) << "without a single one";
-  ASSERT_TRUE(live.recordAction(0, 1, EventCode::STF));
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 1, EventCode::STF));
   EXPECT_EQ(LivePanel::of(live, 0).technicalFouls, Mark::OneLeft);
 }
 
@@ -111,16 +113,17 @@ TEST_F(ScoreTextTest, SaysPeriodClockAndWhatTheButtonDoes) {
   EXPECT_EQ(shown(), "4 00:00 START") << "which asks for the overtime again";
   ASSERT_TRUE(live.beginOvertime(5, true));
   EXPECT_EQ(shown(), "OT1 05:00 START");
-  EXPECT_EQ(shownByPeriod(live, 0, ByPeriod::Points, texts), "1: 0   2: 0   3: 0   4: 1   OT1: 0");
+  EXPECT_EQ(shownByPeriod(live, Side::Visitor, ByPeriod::Points, texts),
+            "1: 0   2: 0   3: 0   4: 1   OT1: 0");
   texts.setLanguage(Language::French);
   EXPECT_EQ(shown(), "PROL.1 05:00 DÉPART");
   pass(4); // behind the horn
   live.start();
-  ASSERT_TRUE(live.recordShot(1, 1, EventCode::GFT, true));
-  ASSERT_TRUE(live.recordAction(1, 1, EventCode::STF));
+  ASSERT_TRUE(live.recordShot(Side::Home, 1, EventCode::GFT, true));
+  ASSERT_TRUE(live.recordAction(Side::Home, 1, EventCode::STF));
   pass(300);
   EXPECT_EQ(shown(), "PROL.1 00:00 ---");
-  EXPECT_EQ(shownByPeriod(live, 1, ByPeriod::Fouls, texts), "1: 0   2: 0   3: 0   4: 0   PROL.1: 1");
+  EXPECT_EQ(shownByPeriod(live, Side::Home, ByPeriod::Fouls, texts), "1: 0   2: 0   3: 0   4: 0   PROL.1: 1");
   live.finish("");
   EXPECT_EQ(startShown(live, texts), "---");
 }

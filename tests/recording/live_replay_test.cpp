@@ -13,7 +13,8 @@ class Replay {
   explicit Replay(const Game& original) : m_original(original) {
     m_disk.syncs = false;
     EXPECT_EQ(GameFile(m_store, m_path)
-                  .create(original.details, original.roster[0].players(), original.roster[1].players()),
+                  .create(original.details, original.roster[Side::Visitor].players(),
+                          original.roster[Side::Home].players()),
               GameFileProblem::None);
     EXPECT_EQ(live.open(m_path), GameFileProblem::None);
   }
@@ -81,8 +82,8 @@ class Replay {
   }
 
   void record(const GameEvent& event) {
-    const int team = event.player.team;
-    const int entry = live.game().roster[static_cast<std::size_t>(team)].entryOf(event.player.jersey);
+    const Side team = *event.player.team;
+    const int entry = live.game().roster[team].entryOf(event.player.jersey);
     const bool isRecorded =
         event.isShot()
             ? live.recordShot(team, entry, event.code, event.isMade,
@@ -104,7 +105,7 @@ class Replay {
 };
 
 // Lines with anything to show, by their list.
-std::map<std::string, std::pair<int, Counters>> linesOf(const GameState& state, std::size_t team) {
+std::map<std::string, std::pair<int, Counters>> linesOf(const GameState& state, Side team) {
   std::map<std::string, std::pair<int, Counters>> lines;
   for (const LineEntry& line : state.lines[team]) {
     if (line.seconds != 0 || line.counters.hasAny())
@@ -125,9 +126,9 @@ TEST_P(LiveReplay, ComesOutAsTheOriginal) {
   EXPECT_TRUE(replay.live.log().countsAgree() && replay.live.log().isOnDisk());
   const GameState wanted = tallied(original);
   const GameState found = tallied(replay.recorded());
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     for (std::size_t entry = 0; entry < wanted.players[team].size(); ++entry) {
-      SCOPED_TRACE(testing::Message() << team << ' ' << entry);
+      SCOPED_TRACE(testing::Message() << numberOf(team) << ' ' << entry);
       EXPECT_EQ(found.players[team][entry].counters, wanted.players[team][entry].counters);
       EXPECT_EQ(found.players[team][entry].seconds, wanted.players[team][entry].seconds);
     }

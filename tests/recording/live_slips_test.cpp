@@ -14,8 +14,8 @@ class SlipsTest : public LiveTableTest {
     GameDetails details = regular();
     details.periods = 2;
     details.personalFoulLimit = 2;
-    details.abbreviation[0] = "PAN";
-    details.abbreviation[1] = "OLY";
+    details.abbreviation[Side::Visitor] = "PAN";
+    details.abbreviation[Side::Home] = "OLY";
     create(details, "3 4 10 13 30 23 1", "7 9 09 12 15 3 44");
     putFives();
     begun = lines().size();
@@ -28,11 +28,11 @@ class SlipsTest : public LiveTableTest {
 // Types digits; '<' takes one back, '!' is Enter, 'r' and 'l' move the mark. What comes of it: the jersey of
 // who is taken, then what is left of the number, and why.
 TEST_F(SlipsTest, ANumberIsTakenWholeOrStaysWithItsReason) {
-  ASSERT_TRUE(live.recordAction(0, 7, EventCode::SPF));
-  ASSERT_TRUE(live.recordAction(0, 7, EventCode::SPF)); // jersey 1 has fouled out
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 7, EventCode::SPF));
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 7, EventCode::SPF)); // jersey 1 has fouled out
   const auto type = [&](bool isAssist, std::string_view keys) {
     FollowUpQuestion question;
-    question.ask(live, live.followUps(0, 1, EventCode::GFG, isAssist, true), 0, 1);
+    question.ask(live, live.followUps(Side::Visitor, 1, EventCode::GFG, isAssist, true), Side::Visitor, 1);
     std::string came;
     for (const char key : keys) {
       std::optional<FollowUpQuestion::Answer> answer;
@@ -45,8 +45,8 @@ TEST_F(SlipsTest, ANumberIsTakenWholeOrStaysWithItsReason) {
       else
         answer = question.type(key - '0');
       if (answer)
-        came += std::to_string(answer->team) + "-" +
-                live.game().roster[static_cast<std::size_t>(answer->team)].player(answer->player)->jersey +
+        came += std::to_string(numberOf(answer->team)) + "-" +
+                live.game().roster[answer->team].player(answer->player)->jersey +
                 (answer->isOnCourt ? ""
                  : answer->comesIn ? "+"
                                    : "*") +
@@ -108,7 +108,7 @@ TEST_F(SlipsTest, UndoTakesAStartBackAndRedoLetsTheClockGoOn) {
   EXPECT_EQ(lines(2), " E10:00,DEPART E09:56,ARRET,IN-03-04-10-13-30,IN-07-9-09-12-15");
   EXPECT_EQ(std::pair(live.clockSeconds(), live.period()), std::pair(600, 2));
   EXPECT_TRUE(live.isHalfTime() && live.canReturnToEndedPeriod()) << "as before it";
-  EXPECT_EQ(LiveFigures(live).secondsOnCourt(0, 1), 600);
+  EXPECT_EQ(LiveFigures(live).secondsOnCourt(Side::Visitor, 1), 600);
   LiveGame again(store, time);
   ASSERT_EQ(again.open(path), GameFileProblem::None);
   EXPECT_EQ(std::pair(again.clockSeconds(), again.period()), std::pair(600, 2));
@@ -124,7 +124,7 @@ TEST_F(SlipsTest, UndoTakesAStartBackAndRedoLetsTheClockGoOn) {
   ASSERT_TRUE(live.redo());
   EXPECT_EQ(live.phase(), Phase::Running);
   EXPECT_EQ(live.clockSeconds(), 580) << "as if it had never been taken back";
-  ASSERT_TRUE(live.recordAction(0, 1, EventCode::STO));
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 1, EventCode::STO));
   ASSERT_TRUE(live.undo()) << "behind anything else the start stays";
   EXPECT_EQ(live.phase(), Phase::Running);
   EXPECT_TRUE(live.log().countsAgree());
@@ -132,24 +132,24 @@ TEST_F(SlipsTest, UndoTakesAStartBackAndRedoLetsTheClockGoOn) {
 
 TEST_F(SlipsTest, HalfASubstitutionWaitsForItsOtherHalf) {
   run(10);
-  ASSERT_TRUE(live.toggleOnCourt(0, 1));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Visitor, 1));
   EXPECT_EQ(since(), " 10:00,DEPART") << "four on court are nobody's wish";
   pass(7);
-  ASSERT_TRUE(live.toggleOnCourt(0, 6));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Visitor, 6));
   EXPECT_EQ(since(), " 10:00,DEPART 09:50,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15 09:50,DEPART");
-  ASSERT_TRUE(live.toggleOnCourt(1, 1));
-  ASSERT_TRUE(live.toggleOnCourt(1, 1));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Home, 1));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Home, 1));
   EXPECT_FALSE(live.pending()) << "clicked back";
-  ASSERT_TRUE(live.toggleOnCourt(1, 2));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Home, 2));
   pass(5);
-  ASSERT_TRUE(live.recordAction(0, 2, EventCode::STO)); // what comes next is behind it
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 2, EventCode::STO)); // what comes next is behind it
   EXPECT_EQ(last(3), " 09:43,ARRET,IN-04-10-13-23-30,IN-07-09-12-15 09:43,DEPART 09:38,STO,0-4");
-  ASSERT_TRUE(live.toggleOnCourt(1, 6));
-  ASSERT_TRUE(live.toggleOnCourt(0, 6));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Home, 6));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Visitor, 6));
   pass(LiveGame::kLongestPending);
   EXPECT_FALSE(live.pending());
   EXPECT_EQ(last(2), " 09:38,ARRET,IN-04-10-13-30,IN-03-07-09-12-15 09:38,DEPART");
-  ASSERT_TRUE(live.toggleOnCourt(0, 3));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Visitor, 3));
   EXPECT_FALSE(live.toUndo()->start) << "the half that was clicked is taken back first";
   live.stop();
   EXPECT_EQ(last(2), " 09:18,DEPART 09:18,ARRET,IN-04-13-30,IN-03-07-09-12-15");
@@ -158,9 +158,9 @@ TEST_F(SlipsTest, HalfASubstitutionWaitsForItsOtherHalf) {
 
 TEST_F(SlipsTest, WhoHasFouledOutIsNotWaitedFor) {
   for (const int player : {6, 7, 1, 6, 7, 1})
-    live.recordAction(0, player, EventCode::SPF);
+    live.recordAction(Side::Visitor, player, EventCode::SPF);
   run(10);
-  ASSERT_TRUE(live.toggleOnCourt(0, 1));
+  ASSERT_TRUE(live.toggleOnCourt(Side::Visitor, 1));
   EXPECT_FALSE(live.pending()) << "four are all who can play";
 }
 
@@ -181,20 +181,21 @@ TEST_F(SlipsTest, DoubtsAndAcceptedFindingsStandInTheFileUntilTheEventChanges) {
   const auto findingsOfEvents = [](const Game& game) {
     return std::ranges::count_if(checkGame(game), &Finding::hasEvent);
   };
-  ASSERT_TRUE(live.recordShot(0, 1, EventCode::GFG, true)); // without a place
+  ASSERT_TRUE(live.recordShot(Side::Visitor, 1, EventCode::GFG, true)); // without a place
   ASSERT_TRUE(live.setDoubtful(*live.lastRecorded(), true));
-  ASSERT_TRUE(live.recordAction(0, 6, EventCode::STO)); // who sits on the bench
+  ASSERT_TRUE(live.recordAction(Side::Visitor, 6, EventCode::STO)); // who sits on the bench
   const EventPlace turnover = *live.lastRecorded();
   ASSERT_TRUE(live.setOnCourt({kFive ^ 0b1000010U, kFive}));
   ASSERT_TRUE(live.setDoubtful(*live.lastRecorded(), true));
-  EXPECT_EQ(since(), " 10:00,GFG,0-3,,,?=1 10:00,STO,0-23 10:00,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15,?=1");
+  EXPECT_EQ(since(),
+            " 10:00,GFG,0-3,,,?=1 10:00,STO,0-23 10:00,ARRET,IN-04-10-13-23-30,IN-07-9-09-12-15,?=1");
   ASSERT_EQ(findingsOfEvents(live.game()), 1);
   ASSERT_TRUE(live.acceptFinding(turnover, static_cast<int>(FindingKind::NotOnCourt)));
   const Game read = onDisk();
   EXPECT_EQ(findingsOfEvents(read), 0);
   EXPECT_TRUE(read.events[2].isDoubtful && !read.events[3].isDoubtful && read.events[4].isDoubtful);
-  EXPECT_EQ(tallied(read).players[0][1].counters[Counter::FGM], 1) << "counts as before";
-  ASSERT_TRUE(live.editEvent(turnover, 590, {.kind = EventCode::SPF, .team = 0, .player = 7}));
+  EXPECT_EQ(tallied(read).players[Side::Visitor][1].counters[Counter::FGM], 1) << "counts as before";
+  ASSERT_TRUE(live.editEvent(turnover, 590, {.kind = EventCode::SPF, .team = Side::Visitor, .player = 7}));
   EXPECT_EQ(findingsOfEvents(live.game()), 1) << "another event, another finding";
   const std::string bare = withDetail("05:00,ARRET", detail_key::kDoubtful, "1");
   EXPECT_EQ(bare, "05:00,ARRET,,,?=1") << "behind both lists, be they missing";

@@ -27,24 +27,25 @@ TEST_F(SubstitutionTest, FiveAreExchangedInElevenClicksInAnyOrder) {
     EXPECT_FALSE(choice.canAccept()) << "nothing is changed yet";
     for (const bool comes : {comeFirst, !comeFirst}) {
       for (int player = 1; player <= 5; ++player) // ten clicks, and OK
-        choice.toggle(0, comes ? player + 5 : player);
-      EXPECT_EQ(choice.canAccept(), choice.count(0) <= 5) << choice.count(0);
+        choice.toggle(Side::Visitor, comes ? player + 5 : player);
+      EXPECT_EQ(choice.canAccept(), choice.count(Side::Visitor) <= 5) << choice.count(Side::Visitor);
     }
     EXPECT_EQ(choice.onCourt(), (OnCourt{kNextFive, kFive}));
-    EXPECT_TRUE(choice.wasOnCourt(0, 1) && !choice.isChosen(0, 1) && choice.isChosen(0, 6));
+    EXPECT_TRUE(choice.wasOnCourt(Side::Visitor, 1) && !choice.isChosen(Side::Visitor, 1) &&
+                choice.isChosen(Side::Visitor, 6));
   }
 }
 
 TEST_F(SubstitutionTest, TooManyAreRefusedAndFewerAreNot) {
   putFives();
   Substitution choice(live);
-  choice.toggle(1, 13); // nobody
-  EXPECT_EQ(choice.count(1), 5);
-  choice.toggle(1, 12);
-  EXPECT_EQ(choice.count(1), 6);
-  choice.toggle(0, 1);
+  choice.toggle(Side::Home, 13); // nobody
+  EXPECT_EQ(choice.count(Side::Home), 5);
+  choice.toggle(Side::Home, 12);
+  EXPECT_EQ(choice.count(Side::Home), 6);
+  choice.toggle(Side::Visitor, 1);
   EXPECT_FALSE(choice.canAccept());
-  choice.toggle(1, 12);
+  choice.toggle(Side::Home, 12);
   EXPECT_TRUE(choice.canAccept()) << "four of the visitors";
   EXPECT_TRUE(live.setOnCourt(choice.onCourt()));
 }
@@ -55,17 +56,18 @@ TEST_F(SubstitutionTest, LinesThatHavePlayedAreOfferedMostPlayedFirst) {
   play(0b11110, 60); // four players are no line to take
   play(kNextFive, 5);
   Substitution choice(live);
-  ASSERT_EQ(choice.lines(0).size(), Substitution::kMostLines);
-  EXPECT_EQ(choice.lines(0)[0], (Substitution::Line{0b11110U | 1U << 11U, 16, "1 2 3 4 11"}));
-  EXPECT_EQ(choice.lines(0)[1].jerseys, "1 2 3 4 10");
-  EXPECT_TRUE(choice.lines(1).empty()) << "only those who stand there";
-  choice.toggle(0, 12);
-  choice.takeLine(0, 1);
-  EXPECT_EQ(choice.onCourt(), (OnCourt{choice.lines(0)[1].players, kFive}));
+  ASSERT_EQ(choice.lines(Side::Visitor).size(), Substitution::kMostLines);
+  EXPECT_EQ(choice.lines(Side::Visitor)[0], (Substitution::Line{0b11110U | 1U << 11U, 16, "1 2 3 4 11"}));
+  EXPECT_EQ(choice.lines(Side::Visitor)[1].jerseys, "1 2 3 4 10");
+  EXPECT_TRUE(choice.lines(Side::Home).empty()) << "only those who stand there";
+  choice.toggle(Side::Visitor, 12);
+  choice.takeLine(Side::Visitor, 1);
+  EXPECT_EQ(choice.onCourt(), (OnCourt{choice.lines(Side::Visitor)[1].players, kFive}));
   EXPECT_TRUE(choice.canAccept());
   for (int foul = 0; foul < 5; ++foul)
-    EXPECT_TRUE(live.recordAction(0, 11, EventCode::SPF));
-  EXPECT_EQ(Substitution(live).lines(0)[0].jerseys, "1 2 3 4 10") << "without the one who fouled out";
+    EXPECT_TRUE(live.recordAction(Side::Visitor, 11, EventCode::SPF));
+  EXPECT_EQ(Substitution(live).lines(Side::Visitor)[0].jerseys, "1 2 3 4 10")
+      << "without the one who fouled out";
 }
 
 // "|" ends a number, "/" changes the team, "<" takes back, "=" is Enter. Gives who moves, "1-12 1+32 " for
@@ -73,7 +75,7 @@ TEST_F(SubstitutionTest, LinesThatHavePlayedAreOfferedMostPlayedFirst) {
 // accept.
 TEST_F(SubstitutionTest, ANumberIsTakenWhenItCannotGoOnAndElseByASeparatorOrEnter) {
   GameDetails details;
-  details.mainTeam = 1;
+  details.mainTeam = Side::Home;
   create(details, "4 14 21 22 23 24 30 77 9", "1 12 13 14 15 00 0 32 50 7");
   putFives();
   const auto typed = [this](std::string_view keys) {
@@ -88,10 +90,10 @@ TEST_F(SubstitutionTest, ANumberIsTakenWhenItCannotGoOnAndElseByASeparatorOrEnte
     }
     std::string result;
     for (int place = 1; place <= 20; ++place) {
-      const int team = place > 10 ? 1 : 0;
-      const int player = place - 10 * team;
+      const Side team = place > 10 ? Side::Home : Side::Visitor;
+      const int player = place - 10 * numberOf(team);
       if (choice.isChosen(team, player) != choice.wasOnCourt(team, player))
-        result += std::to_string(team) + (choice.isChosen(team, player) ? '+' : '-') +
+        result += std::to_string(numberOf(team)) + (choice.isChosen(team, player) ? '+' : '-') +
                   live.game().roster[team].player(player)->jersey + ' ';
     }
     return result + line.typed() + (line.isRefused() ? "?" : "") + (mayAccept ? "!" : "");

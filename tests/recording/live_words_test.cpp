@@ -34,16 +34,18 @@ TEST_F(LiveWordsTest, FoulsNameWhoProfitsAndWhichOneEachIs) {
   EXPECT_EQ(fouls(),
             "1st, team 1; 1st, team 2; 1st, team 1; 2nd, team 3; 1st, team 1; 3rd, team 2; 2nd, team 1; "
             "1st, team 2; 2nd, team 3; ");
-  EXPECT_EQ(foulWords(live, 0, texts) + ' ' + foulWords(live, 1, texts), "OLY shoot 2 3 to give");
+  EXPECT_EQ(foulWords(live, Side::Visitor, texts) + ' ' + foulWords(live, Side::Home, texts),
+            "OLY shoot 2 3 to give");
   texts.setLanguage(Language::French);
-  EXPECT_EQ(foulWords(live, 0, texts) + ' ' + foulWords(live, 1, texts), "2 lancers : OLY 3 à donner");
+  EXPECT_EQ(foulWords(live, Side::Visitor, texts) + ' ' + foulWords(live, Side::Home, texts),
+            "2 lancers : OLY 3 à donner");
   EXPECT_EQ(ordinalText(1, texts) + ordinalText(2, texts) + ordinalText(21, texts), "1re2e21e");
   texts.setLanguage(Language::English);
   EXPECT_EQ(ordinalText(11, texts) + ordinalText(13, texts) + ordinalText(22, texts), "11th13th22nd");
   open(textOfGame("[PERIODE3]\n1=05:00,SPF,0-4\n[PERIODE4]\n2=05:00,SST,0-4\n[PERIODE5]\n3=04:00,SPF,0-4\n",
                   "KEEPBONUS=1\n"));
   EXPECT_EQ(fouls(), "1st, team 1; 2nd, team 1; ") << "none of the last regular period";
-  EXPECT_EQ(foulWords(live, 0, texts), "") << "no limit";
+  EXPECT_EQ(foulWords(live, Side::Visitor, texts), "") << "no limit";
 }
 
 TEST_F(LiveWordsTest, TheRunAndTheFiveFollowTheGame) {
@@ -51,19 +53,21 @@ TEST_F(LiveWordsTest, TheRunAndTheFiveFollowTheGame) {
   EXPECT_FALSE(lastRun(live.game().events));
   putFives();
   run(59);
-  ASSERT_TRUE(live.recordShot(0, 1, EventCode::GF3, true) && live.recordShot(1, 1, EventCode::GDK, true));
-  EXPECT_EQ(Fives::of(live).current[0], (FivePlay{kFive, "4 5 10 12 15", 59, 3, 2}));
-  EXPECT_FALSE(Fives::of(live).best[0]);
+  ASSERT_TRUE(live.recordShot(Side::Visitor, 1, EventCode::GF3, true) &&
+              live.recordShot(Side::Home, 1, EventCode::GDK, true));
+  EXPECT_EQ(Fives::of(live).current[Side::Visitor], (FivePlay{kFive, "4 5 10 12 15", 59, 3, 2}));
+  EXPECT_FALSE(Fives::of(live).best[Side::Visitor]);
   time.now += 1;
-  EXPECT_EQ(Fives::of(live).best[0]->plusMinus(), 1);
+  EXPECT_EQ(Fives::of(live).best[Side::Visitor]->plusMinus(), 1);
   live.stop();
   ASSERT_TRUE(live.setOnCourt({0b1111010, kFive}));
   run(100);
-  ASSERT_TRUE(live.recordShot(1, 1, EventCode::GFT, true) && live.recordShot(0, 1, EventCode::GF3, false));
-  EXPECT_EQ(lastRun(live.game().events), (ScoringRun{1, 3}));
+  ASSERT_TRUE(live.recordShot(Side::Home, 1, EventCode::GFT, true) &&
+              live.recordShot(Side::Visitor, 1, EventCode::GF3, false));
+  EXPECT_EQ(lastRun(live.game().events), (ScoringRun{Side::Home, 3}));
   EXPECT_EQ(runText(*lastRun(live.game().events)), "3–0");
-  EXPECT_EQ(Fives::of(live).current[0], (FivePlay{0b1111010, "0 4 10 12 15", 100, 0, 1}));
-  EXPECT_EQ(Fives::of(live).best[0]->seconds, 60);
+  EXPECT_EQ(Fives::of(live).current[Side::Visitor], (FivePlay{0b1111010, "0 4 10 12 15", 100, 0, 1}));
+  EXPECT_EQ(Fives::of(live).best[Side::Visitor]->seconds, 60);
 }
 
 TEST_F(LiveWordsTest, RepairsLeadToTheEventThatIsToBlame) {
@@ -93,28 +97,28 @@ TEST_F(LiveWordsTest, RealGamesAddUp) {
     const Game& game = live.game();
     const auto score = runningScore(game.events);
     const auto fouls = foulNumbers(game);
-    std::array<std::string, 2> lists;
-    std::array<std::map<std::string, int>, 2> plusMinus;
-    std::array<std::map<int, int>, 2> personal;        // by entry
-    std::array<std::map<std::size_t, int>, 2> ofTeams; // by period
+    PerSide<std::string> lists;
+    PerSide<std::map<std::string, int>> plusMinus;
+    PerSide<std::map<int, int>> personal;        // by entry
+    PerSide<std::map<std::size_t, int>> ofTeams; // by period
     for (std::size_t place = 1; place < game.events.size(); ++place) {
       const GameEvent& event = game.events[place];
-      for (std::size_t team = 0; team < 2; ++team) {
+      for (const Side team : kSides) {
         if (event.code == EventCode::ARRET)
           lists[team] = event.onCourt(team);
-        plusMinus[team][lists[team]] +=
-            score[place][team] - score[place - 1][team] - score[place][1 - team] + score[place - 1][1 - team];
+        plusMinus[team][lists[team]] += score[place][team] - score[place - 1][team] -
+                                        score[place][otherSide(team)] + score[place - 1][otherSide(team)];
       }
       if (fouls[place].ofTeam == 0)
         continue;
-      const auto team = static_cast<std::size_t>(event.player.team);
+      const Side team = *event.player.team;
       ofTeams[team][static_cast<std::size_t>(event.period)] = fouls[place].ofTeam;
       if (event.code == EventCode::SPF)
         personal[team][game.roster[team].entryOf(event.player.jersey)] = fouls[place].ofPlayer;
     }
     const ScoreByPeriod byPeriod = scoreByPeriod(live, texts);
     const Fives fives = Fives::of(live);
-    for (std::size_t team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       for (const auto& [entry, count] : personal[team])
         EXPECT_EQ(count,
                   live.state().players[team].at(static_cast<std::size_t>(entry)).counters[Counter::PF]);

@@ -22,18 +22,19 @@ class WallClockTest : public LiveTableTest {
 TEST_F(WallClockTest, StandsForStartsAndStopsAndWhatIsRecordedBetween) {
   open(textOfGame(kBegin + "2=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n"));
   EXPECT_TRUE(live.game().details.id.empty()) << "of an older program";
-  run(10);                                 // 3
-  live.recordAction(0, 1, EventCode::SPF); // 4, while the game's clock tells it
+  run(10);                                             // 3
+  live.recordAction(Side::Visitor, 1, EventCode::SPF); // 4, while the game's clock tells it
   pass(5);
   live.stop(); // 5
   pass(20);
-  live.recordShot(1, 1, EventCode::GFT, true); // 6
+  live.recordShot(Side::Home, 1, EventCode::GFT, true); // 6
   EXPECT_EQ(live.game().details.id.size(), 32U);
   EXPECT_EQ(onDisk().details.id, live.game().details.id);
   const std::map<int, std::int64_t> before = times();
   EXPECT_EQ(before, (std::map<int, std::int64_t>{{3, 0}, {5, 15}, {6, 35}}));
   pass(60);
-  ASSERT_TRUE(live.insertEvent({1, "5"}, LiveGame::Where::Before, 590, {EventCode::STO, false, 0, 2}));
+  ASSERT_TRUE(
+      live.insertEvent({1, "5"}, LiveGame::Where::Before, 590, {EventCode::STO, false, Side::Visitor, 2}));
   ASSERT_TRUE(live.setTime({1, "5"}, 580));
   ASSERT_TRUE(live.undo());
   EXPECT_EQ(times(), before) << "what is put in later has no time, what is rewritten keeps its first";
@@ -43,9 +44,9 @@ TEST_F(WallClockTest, StandsForStartsAndStopsAndWhatIsRecordedBetween) {
 TEST_F(WallClockTest, OfASubstitutionIsThatOfItsFirstClick) {
   open(textOfGame(kBegin + "2=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n"));
   run(10);
-  live.toggleOnCourt(0, 5);
+  live.toggleOnCourt(Side::Visitor, 5);
   pass(4);
-  live.toggleOnCourt(0, 6);
+  live.toggleOnCourt(Side::Visitor, 6);
   EXPECT_EQ(times(), (std::map<int, std::int64_t>{{3, 0}, {4, 10}, {5, 10}}));
 }
 
@@ -69,7 +70,7 @@ TEST_F(WallClockTest, GoesWithItsEventUnderOtherHands) {
   run(10);
   const std::string before = folder.read("live.GAM");
   folder.write("live.GAM", before + "4=700\r\n[PERIODE2]\r\n4=09:00,SA,0-4\r\n");
-  live.recordAction(0, 1, EventCode::SPF);
+  live.recordAction(Side::Visitor, 1, EventCode::SPF);
   EXPECT_EQ(times(), (std::map<int, std::int64_t>{{3, 0}}));
   live.stop();
   ASSERT_EQ(live.open(path), GameFileProblem::None);

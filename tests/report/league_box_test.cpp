@@ -22,7 +22,7 @@ TEST(LeagueBox, HasARowForWhatNoPlayerDidAndATotalWithIt) {
           "4=08:50,SPF,0-4,D=1-3\n5=08:40,SPF,1-3\n6=08:30,STF,1-3\n7=08:20,SDR,1-7\n8=08:10,XDR,1\n"
           "9=08:00,XOR,1\n10=07:50,XTV,1\n11=07:40,XCF,1,K=B\n12=07:30,GF3A,1-3\n13=07:30,SBS,0-4,S=1-3\n"
           "14=07:00,ARRET,IN-,IN-03-07-08-11-22\n"))),
-      1, Texts());
+      Side::Home, Texts());
   std::string headers;
   for (const ReportColumn& column : table.columns)
     headers += column.header + ' ';
@@ -46,8 +46,8 @@ TEST(LeagueBox, NamesTheOfficialsTheCoachesAndTheCaptain) {
   EXPECT_NE(words.find("|Competition: Coupe.  Referees: A. Whistle.  Attendance: 120|"), std::string::npos)
       << words;
   EXPECT_NE(words.find("|Coach: Bo Tactic|"), std::string::npos) << words;
-  EXPECT_EQ(leagueTable(*game, 0, Texts()).rows[1].cells[1].text, "Bea Baker (C)");
-  EXPECT_EQ(leagueTable(*game, 1, Texts()).rows[0].cells[1].text, "Hana Hart");
+  EXPECT_EQ(leagueTable(*game, Side::Visitor, Texts()).rows[1].cells[1].text, "Bea Baker (C)");
+  EXPECT_EQ(leagueTable(*game, Side::Home, Texts()).rows[0].cells[1].text, "Hana Hart");
 }
 
 } // namespace

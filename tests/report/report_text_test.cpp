@@ -35,7 +35,7 @@ TEST_F(ReportTextTest, TheTableOfARealGameHoldsTheCellsOfTheBoxScore) {
     const GameState state = tallied(game);
     const auto rows = parseDelimited(reportCsv(scorecard(game)).front().bytes);
     std::size_t line = 1;
-    for (int team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       for (const BoxRow& row : boxRows({game, state}, team, BoxView::Players, texts)) {
         ASSERT_LT(line, rows.size());
         std::size_t field = 1;

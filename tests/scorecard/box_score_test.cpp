@@ -125,7 +125,7 @@ TEST(BoxRows, OfPlayersShowTheWholeRosterThenOthersThenTheTotal) {
   const Game game = gameOfText(textOfGame(kTwoLines));
   const GameState state = tallied(game);
   Texts texts;
-  const auto rows = boxRows({game, state}, 0, BoxView::Players, texts);
+  const auto rows = boxRows({game, state}, Side::Visitor, BoxView::Players, texts);
   std::vector<std::string> shown;
   for (const BoxRow& row : rows)
     shown.push_back(row.number + "|" + row.name + "|" + row.position + "|" + cell(row, "Time") + "|" +
@@ -139,7 +139,7 @@ TEST(BoxRows, OfPlayersShowTheWholeRosterThenOthersThenTheTotal) {
   EXPECT_EQ(rows.back().entry, -1);
   EXPECT_EQ(cell(rows.back(), "PF") + cell(rows.back(), "TF"), "11");
   texts.setLanguage(Language::French);
-  const auto french = boxRows({game, state}, 0, BoxView::Players, texts);
+  const auto french = boxRows({game, state}, Side::Visitor, BoxView::Players, texts);
   EXPECT_EQ(french[0].position, "Centre");
   EXPECT_EQ(french[3].position, "N/D");
   EXPECT_EQ(french[7].name, "autres");
@@ -148,25 +148,25 @@ TEST(BoxRows, OfPlayersShowTheWholeRosterThenOthersThenTheTotal) {
 TEST(BoxRows, OfLinesAddUpToTheSameTotal) {
   const Game game = gameOfText(textOfGame(kTwoLines));
   const GameState state = tallied(game);
-  const auto rows = boxRows({game, state}, 0, BoxView::Lines, Texts());
+  const auto rows = boxRows({game, state}, Side::Visitor, BoxView::Lines, Texts());
   std::vector<std::string> shown;
   for (const BoxRow& row : rows)
     shown.push_back(row.number + "|" + row.name + "|" + cell(row, "Time") + "|" + cell(row, "PTS"));
   EXPECT_EQ(shown, (std::vector<std::string>{"1|4-5-10-12-15|03:00|2", "2|0-4-5-10-12|02:00|3",
                                              "|other lines|00:00|0", "|TOTAL|05:00|5"}));
   EXPECT_EQ(rows.back().numbers.counters,
-            boxRows({game, state}, 0, BoxView::Players, Texts()).back().numbers.counters);
+            boxRows({game, state}, Side::Visitor, BoxView::Players, Texts()).back().numbers.counters);
 }
 
 TEST(BoxRows, TotalIsWiderThanASingleCount) {
   const Game game = gameOfText(textOfGame(""));
   GameState state = tallied(game);
-  for (PlayerEntry& player : state.players[0]) {
+  for (PlayerEntry& player : state.players[Side::Visitor]) {
     player.counters[Counter::F3M] = 32767;
     player.seconds = -5; // a clock that was set back; nobody plays less than nothing
   }
-  state.players[0][1].seconds = 90;
-  const BoxRow total = boxRows({game, state}, 0, BoxView::Players, Texts()).back();
+  state.players[Side::Visitor][1].seconds = 90;
+  const BoxRow total = boxRows({game, state}, Side::Visitor, BoxView::Players, Texts()).back();
   EXPECT_EQ(total.numbers.counters[Counter::F3M], 8 * 32767) << "seven players and the others";
   EXPECT_EQ(cell(total, "PTS"), std::to_string(8 * 32767 * 3));
   EXPECT_EQ(cell(total, "Time"), "01:30") << "the sum of the times shown";
@@ -175,7 +175,7 @@ TEST(BoxRows, TotalIsWiderThanASingleCount) {
 TEST(BoxRows, OfLinesLeaveOutThoseThatNeitherPlayedNorCounted) {
   const Game game = gameOfText(textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-\n"
                                           "2=10:00,ARRET,IN-00-04-05-10-12,IN-\n3=09:00,ARRET,IN-,IN-\n"));
-  const auto rows = boxRows({game, tallied(game)}, 0, BoxView::Lines, Texts());
+  const auto rows = boxRows({game, tallied(game)}, Side::Visitor, BoxView::Lines, Texts());
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(rows[0].name + " " + cell(rows[0], "Time"), "0-4-5-10-12 01:00");
   EXPECT_EQ(rows[1].kind, BoxRowKind::Total);

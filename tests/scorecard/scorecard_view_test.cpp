@@ -59,10 +59,10 @@ TEST_F(ScorecardViewTest, EverybodyIsCheckedAtFirstAndAMarkDecidesOverChartAndTo
 
 TEST_F(ScorecardViewTest, MarksAreKeptByTeamAndViewAndThroughANewReading) {
   view.check(rowOf("4"), false);
-  view.setTeam(1);
+  view.setTeam(Side::Home);
   EXPECT_EQ(view.checkMark(total()), CheckMark::All);
   EXPECT_EQ(view.shots().size(), 1U);
-  view.setTeam(0);
+  view.setTeam(Side::Visitor);
   view.setView(BoxView::Lines);
   ASSERT_EQ(view.rows().size(), 3U) << "two lines and the total";
   view.check(rowOf("1"), false);
@@ -82,12 +82,12 @@ TEST_F(ScorecardViewTest, MarksAreKeptByTeamAndViewAndThroughANewReading) {
 
 TEST_F(ScorecardViewTest, TheBoardShowsScorePeriodsFoulsAndLead) {
   Scoreboard board = scoreboard(*card.counted(), texts);
-  EXPECT_EQ(std::pair(board.teams[0].points, board.teams[1].points), std::pair(4, 3));
+  EXPECT_EQ(std::pair(board.teams[Side::Visitor].points, board.teams[Side::Home].points), std::pair(4, 3));
   ASSERT_EQ(board.periods.size(), 4U);
-  EXPECT_EQ(board.periods[0].points[0], 4);
-  EXPECT_EQ(board.periods[0].fouls[0], 2);
-  EXPECT_TRUE(board.periods[0].isInBonus[0]);
-  EXPECT_FALSE(board.periods[0].isInBonus[1]);
+  EXPECT_EQ(board.periods[0].points[Side::Visitor], 4);
+  EXPECT_EQ(board.periods[0].fouls[Side::Visitor], 2);
+  EXPECT_TRUE(board.periods[0].isInBonus[Side::Visitor]);
+  EXPECT_FALSE(board.periods[0].isInBonus[Side::Home]);
   EXPECT_TRUE(board.periods[0].isPlayed);
   EXPECT_FALSE(board.periods[1].isPlayed);
   EXPECT_EQ(board.clock, "09:00");
@@ -109,7 +109,7 @@ TEST_F(ScorecardViewTest, TheBoardShowsScorePeriodsFoulsAndLead) {
   ASSERT_EQ(board.periods.size(), 8U);
   EXPECT_NE(board.periods[4].label, board.periods[5].label);
   EXPECT_TRUE(board.periods[7].label.ends_with('+')) << "periods from 8 on share a column";
-  EXPECT_EQ(board.periods[7].points[1], 1);
+  EXPECT_EQ(board.periods[7].points[Side::Home], 1);
 }
 
 TEST_F(ScorecardViewTest, EveryColumnHasItsOwnWords) {

@@ -45,12 +45,12 @@ TEST(ShotSelection, TakesTheTeamsShotsOfTheChosenPlayersOrLines) {
     return events;
   };
   using Events = std::vector<std::uint32_t>;
-  EXPECT_EQ(eventsOf({0, BoxView::Players, true, {}}), (Events{1, 2, 5}));
-  EXPECT_EQ(eventsOf({1, BoxView::Players, true, {}}), (Events{3}));
-  EXPECT_EQ(eventsOf({0, BoxView::Players, false, {1}}), (Events{1, 5}));
-  EXPECT_EQ(eventsOf({0, BoxView::Players, false, {}}), Events{});
-  EXPECT_EQ(eventsOf({0, BoxView::Lines, false, {1}}), (Events{1, 2}));
-  EXPECT_EQ(eventsOf({0, BoxView::Lines, false, {2}}), (Events{5}));
+  EXPECT_EQ(eventsOf({Side::Visitor, BoxView::Players, true, {}}), (Events{1, 2, 5}));
+  EXPECT_EQ(eventsOf({Side::Home, BoxView::Players, true, {}}), (Events{3}));
+  EXPECT_EQ(eventsOf({Side::Visitor, BoxView::Players, false, {1}}), (Events{1, 5}));
+  EXPECT_EQ(eventsOf({Side::Visitor, BoxView::Players, false, {}}), Events{});
+  EXPECT_EQ(eventsOf({Side::Visitor, BoxView::Lines, false, {1}}), (Events{1, 2}));
+  EXPECT_EQ(eventsOf({Side::Visitor, BoxView::Lines, false, {2}}), (Events{5}));
 }
 
 TEST(ShotSums, CountAShotOfTheOtherKindInTheNearestZoneOfItsOwn) {

@@ -9,7 +9,7 @@ TEST(GameSheet, TellsWhatIsNewAndClearsWhatWasEmptied) {
   GameDetails details;
   details.competition = "Coupe ";
   details.referees = "A. Whistle, B. Card";
-  details.coach[1] = "Zoë Tactic";
+  details.coach[Side::Home] = "Zoë Tactic";
   details.targetScore = 21;
   details.level = RecordingLevel::League;
   const GameSheet before = GameSheet::of(details);
@@ -20,8 +20,8 @@ TEST(GameSheet, TellsWhatIsNewAndClearsWhatWasEmptied) {
   EXPECT_EQ(sheet.changedFrom(before), GameSheet::KeysAndValues()) << "as the file has it already";
   sheet.referees = " ";
   sheet.round = " final ";
-  sheet.coach[1].clear();
-  sheet.captain[0] = "7";
+  sheet.coach[Side::Home].clear();
+  sheet.captain[Side::Visitor] = "7";
   sheet.targetScore.clear();
   sheet.ruleSet = "NBA";
   sheet.level = RecordingLevel::Basic;

@@ -48,9 +48,9 @@ class NewGameTest : public testing::Test {
   // Lynx against Cougar with 15 players; nothing is wrong.
   NewGame ready() {
     NewGame game = made();
-    game.chooseTeam(0, 0);
-    game.chooseTeam(1, 1);
-    game.setChecked(1, 15, false);
+    game.chooseTeam(Side::Visitor, 0);
+    game.chooseTeam(Side::Home, 1);
+    game.setChecked(Side::Home, 15, false);
     return game;
   }
 
@@ -68,14 +68,14 @@ class NewGameTest : public testing::Test {
 
 TEST_F(NewGameTest, BeginsWithTheLastChoicesThatAreStillThere) {
   const NewGame game = made({{1, 3}, "Main gym", "Camille", 4, 2});
-  EXPECT_EQ(game.sides[0].team, 0);
-  EXPECT_EQ(game.sides[1].name, "Aigles");
+  EXPECT_EQ(game.sides[Side::Visitor].team, 0);
+  EXPECT_EQ(game.sides[Side::Home].name, "Aigles");
   EXPECT_EQ(game.rules.minutesPerPeriod, "10x");
   EXPECT_EQ(game.place, "Main gym");
   EXPECT_EQ(game.choices(), (LastChoices{{1, 3}, "Main gym", "Camille", 4, 2, {{1, {}}, {3, {}}}}));
   const NewGame fresh = made({{0, 77}, "", "", 7, 9});
-  EXPECT_EQ(fresh.sides[0].team, NewGame::kNone) << "a key without a number is not team 0";
-  for (const int choice : {fresh.sides[1].team, fresh.gameType, fresh.inputType})
+  EXPECT_EQ(fresh.sides[Side::Visitor].team, NewGame::kNone) << "a key without a number is not team 0";
+  for (const int choice : {fresh.sides[Side::Home].team, fresh.gameType, fresh.inputType})
     EXPECT_EQ(choice, NewGame::kNone);
   EXPECT_EQ(fresh.teams().size(), 5U);
 }
@@ -83,25 +83,25 @@ TEST_F(NewGameTest, BeginsWithTheLastChoicesThatAreStillThere) {
 TEST_F(NewGameTest, HomeTeamAndMainTeamSetRulesAndDate) {
   NewGame game = made();
   game.date = "typed";
-  game.chooseTeam(0, 0);
+  game.chooseTeam(Side::Visitor, 0);
   EXPECT_EQ(game.rules.periods, "") << "visitors who are not the main team";
   EXPECT_EQ(game.date, "typed");
-  EXPECT_EQ(game.sides[0].name, "Basketball College ");
-  EXPECT_EQ(game.sides[0].colour, 8438015U);
-  game.chooseTeam(1, 2);
+  EXPECT_EQ(game.sides[Side::Visitor].name, "Basketball College ");
+  EXPECT_EQ(game.sides[Side::Visitor].colour, 8438015U);
+  game.chooseTeam(Side::Home, 2);
   EXPECT_EQ(game.rules.minutesPerPeriod, "10x");
   EXPECT_EQ(game.date, kToday);
-  EXPECT_EQ(game.sides[1].colour, 0U) << "no default here";
-  EXPECT_EQ(game.mainTeam, NewGame::kNone);
+  EXPECT_EQ(game.sides[Side::Home].colour, 0U) << "no default here";
+  EXPECT_EQ(game.mainTeam, std::nullopt);
   game.date = "typed";
-  game.chooseTeam(0, 3);
-  EXPECT_EQ(game.mainTeam, 0);
+  game.chooseTeam(Side::Visitor, 3);
+  EXPECT_EQ(game.mainTeam, Side::Visitor);
   EXPECT_EQ(game.rules.minutesPerPeriod, "0") << "visitors who are";
   EXPECT_EQ(game.date, kToday);
-  game.chooseTeam(1, 1);
-  EXPECT_EQ(game.mainTeam, 1) << "one at most";
-  game.chooseTeam(1, 0);
-  EXPECT_EQ(game.mainTeam, NewGame::kNone);
+  game.chooseTeam(Side::Home, 1);
+  EXPECT_EQ(game.mainTeam, Side::Home) << "one at most";
+  game.chooseTeam(Side::Home, 0);
+  EXPECT_EQ(game.mainTeam, std::nullopt);
 }
 
 TEST_F(NewGameTest, ASetOfRulesIsFilledInAndWhatComesAfterwardsHolds) {
@@ -119,7 +119,7 @@ TEST_F(NewGameTest, ASetOfRulesIsFilledInAndWhatComesAfterwardsHolds) {
   ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
   for (const char* part : {"DUREE=10\r\nBONUS=4\r\nPFMAX=06\r\n", "REGLES=FIBA\r\n", "DUREEPROL=5\r\n"})
     EXPECT_TRUE(holds("a.GAM", part)) << part;
-  game.chooseTeam(1, 0);
+  game.chooseTeam(Side::Home, 0);
   EXPECT_EQ(game.rules.minutesPerPeriod, "2") << "the team's, as ever";
   EXPECT_EQ(game.ruleSet(), "FIBA");
   EXPECT_TRUE(game.differsFromRules());
@@ -140,9 +140,9 @@ TEST_F(NewGameTest, RulesAndLevelAreThoseOfTheTeamsLastGameUntilOthersAreChosen)
   EXPECT_EQ(game.choices().habits, (std::map<int, TeamHabit>{{1, {"NBA", Full}}, {3, {"NBA", Full}}}))
       << "though the visitors became the main team";
   NewGame next = made(last);
-  next.chooseTeam(0, 1);
+  next.chooseTeam(Side::Visitor, 1);
   EXPECT_EQ(next.ruleSet(), "FIBA") << "the visitors are the main team";
-  next.setChecked(0, 0, false);
+  next.setChecked(Side::Visitor, 0, false);
   next.chooseRules("");
   next.chooseLevel(Basic);
   ASSERT_EQ(next.create(folder.path("b.GAM")), GameFileProblem::None);
@@ -158,37 +158,39 @@ TEST_F(NewGameTest, RulesAndLevelAreThoseOfTheTeamsLastGameUntilOthersAreChosen)
 TEST_F(NewGameTest, TheSheetGoesWithTheGameAndItsTeams) {
   NewGame game = ready();
   game.sheet.competition = "Élite";
-  for (const int side : {0, 1}) {
-    game.sheet.coach[side] = side == 0 ? "Zoë" : "Bo";
-    game.sheet.captain[side] = side == 0 ? "4" : "2";
+  for (const Side side : kSides) {
+    game.sheet.coach[side] = side == Side::Visitor ? "Zoë" : "Bo";
+    game.sheet.captain[side] = side == Side::Visitor ? "4" : "2";
   }
   game.sheet.targetScore = "30";
-  game.chooseTeam(1, 1);
-  game.setChecked(1, 15, false);
-  EXPECT_EQ(game.sheet.captain[1], "2") << "the same team once more";
-  game.setChecked(1, 1, false); // number 2
+  game.chooseTeam(Side::Home, 1);
+  game.setChecked(Side::Home, 15, false);
+  EXPECT_EQ(game.sheet.captain[Side::Home], "2") << "the same team once more";
+  game.setChecked(Side::Home, 1, false); // number 2
   ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
   EXPECT_TRUE(holds("a.GAM", codepage::fromUtf8("COMPETITION=Élite\r\nENTRAINEUR0=Zoë\r\nENTRAINEUR1=Bo\r\n"
                                                 "CAPITAINE0=4\r\nSCORECIBLE=30\r\n")));
-  game.chooseTeam(1, 2);
-  EXPECT_EQ(game.sheet.coach[0] + '|' + game.sheet.coach[1] + game.sheet.captain[1], "Zoë|");
+  game.chooseTeam(Side::Home, 2);
+  EXPECT_EQ(game.sheet.coach[Side::Visitor] + '|' + game.sheet.coach[Side::Home] +
+                game.sheet.captain[Side::Home],
+            "Zoë|");
 }
 
 TEST_F(NewGameTest, OnlyAJerseyThatNobodyAboveWearsCanPlay) {
   NewGame game = made();
-  game.chooseTeam(0, 0);
+  game.chooseTeam(Side::Visitor, 0);
   using enum NewGame::Eligibility;
   const NewGame::Eligibility expected[] = {CanPlay, CanPlay, NoJersey, NoJersey, NumberTaken};
-  auto& players = game.sides[0].players;
+  auto& players = game.sides[Side::Visitor].players;
   ASSERT_EQ(players.size(), std::size(expected));
   for (std::size_t i = 0; i < players.size(); ++i) {
     EXPECT_EQ(players[i].eligibility, expected[i]) << i;
     EXPECT_EQ(players[i].isChecked, expected[i] == CanPlay) << i;
-    game.setChecked(0, i, true);
+    game.setChecked(Side::Visitor, i, true);
   }
-  EXPECT_EQ(game.sides[0].checkedPlayers(), 2);
+  EXPECT_EQ(game.sides[Side::Visitor].checkedPlayers(), 2);
   for (const int position : {1, 2, 9, 0}) {
-    game.stepPosition(0, 0);
+    game.stepPosition(Side::Visitor, 0);
     EXPECT_EQ(players[0].position, position);
   }
 }
@@ -196,30 +198,30 @@ TEST_F(NewGameTest, OnlyAJerseyThatNobodyAboveWearsCanPlay) {
 TEST_F(NewGameTest, NumbersAloneMakeTheSideAndLeaveTheTeam) {
   const std::string before = folder.read("CONFIG.INI");
   NewGame game = made();
-  game.chooseTeam(0, 0); // wears 4 and 00
+  game.chooseTeam(Side::Visitor, 0); // wears 4 and 00
   const auto shown = [&] {
     std::string text;
-    for (const NewGame::Player& player : game.sides[0].players)
+    for (const NewGame::Player& player : game.sides[Side::Visitor].players)
       text += (player.isChecked ? "+" : "-") + player.number + ' ' + player.name + '|';
     return text;
   };
-  const auto added = [&](int side, std::string_view number, std::string_view name) {
+  const auto added = [&](Side side, std::string_view number, std::string_view name) {
     return wordsOf(game.addPlayer(side, number, name), texts);
   };
-  EXPECT_EQ(game.takeNumbers(0, "23 004 7").problem, QuickRoster::Problem::None);
+  EXPECT_EQ(game.takeNumbers(Side::Visitor, "23 004 7").problem, QuickRoster::Problem::None);
   EXPECT_EQ(shown(), "+4 Ann Able|-00 Bea Baker|-1234 Cleo Carter|-AB Dana Dunn|-4 Eve Ellis|+23 |+7 |");
   const std::string chosen = shown();
   for (const char* wrong : {"4 x", "7 07", " "})
-    EXPECT_EQ(game.takeNumbers(0, wrong).jerseys.size(), 0U);
-  EXPECT_EQ(added(0, "x", ""), texts.text(Text::InvalidNumber));
-  EXPECT_EQ(added(0, "04", "Zoë"), "Number 04 is worn by 4 Ann Able.");
-  EXPECT_EQ(added(0, "8", std::string(260, 'W')), texts.text(Text::NameTooLong));
+    EXPECT_EQ(game.takeNumbers(Side::Visitor, wrong).jerseys.size(), 0U);
+  EXPECT_EQ(added(Side::Visitor, "x", ""), texts.text(Text::InvalidNumber));
+  EXPECT_EQ(added(Side::Visitor, "04", "Zoë"), "Number 04 is worn by 4 Ann Able.");
+  EXPECT_EQ(added(Side::Visitor, "8", std::string(260, 'W')), texts.text(Text::NameTooLong));
   EXPECT_EQ(shown(), chosen) << "nothing of what is wrong";
-  EXPECT_EQ(added(0, " 9 ", " Zoë "), "");
-  EXPECT_EQ(game.takeNumbers(0, "00,7").problem, QuickRoster::Problem::None);
+  EXPECT_EQ(added(Side::Visitor, " 9 ", " Zoë "), "");
+  EXPECT_EQ(game.takeNumbers(Side::Visitor, "00,7").problem, QuickRoster::Problem::None);
   EXPECT_EQ(shown(), "-4 Ann Able|+00 Bea Baker|-1234 Cleo Carter|-AB Dana Dunn|-4 Eve Ellis|-9 Zoë|+7 |");
-  game.chooseTeam(1, 1);
-  EXPECT_EQ(game.takeNumbers(1, "1").problem, QuickRoster::Problem::None);
+  game.chooseTeam(Side::Home, 1);
+  EXPECT_EQ(game.takeNumbers(Side::Home, "1").problem, QuickRoster::Problem::None);
   ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
   EXPECT_TRUE(holds("a.GAM", "[0]\r\n00=2,Bea Baker\r\n7=9,\r\n[1]\r\n1=9,Player 1\r\n"));
   EXPECT_EQ(folder.read("CONFIG.INI").substr(folder.read("CONFIG.INI").find("[TEAM]")),
@@ -229,33 +231,33 @@ TEST_F(NewGameTest, NumbersAloneMakeTheSideAndLeaveTheTeam) {
 TEST_F(NewGameTest, AGameNeedsNoTeamOfTheList) {
   folder.write("CONFIG.INI", "[CONFIGURATION]\r\nLANGUE=0\r\n");
   NewGame game = made();
-  EXPECT_EQ(game.takeNumbers(0, "4 5").problem, QuickRoster::Problem::None);
-  EXPECT_EQ(game.addPlayer(1, "7", "Zoë").problem, NewGame::AddedPlayer::Problem::None);
+  EXPECT_EQ(game.takeNumbers(Side::Visitor, "4 5").problem, QuickRoster::Problem::None);
+  EXPECT_EQ(game.addPlayer(Side::Home, "7", "Zoë").problem, NewGame::AddedPlayer::Problem::None);
   EXPECT_TRUE(game.canAccept() && game.problem() == Objection());
-  EXPECT_NE(game.sides[0].colour, game.sides[1].colour);
+  EXPECT_NE(game.sides[Side::Visitor].colour, game.sides[Side::Home].colour);
 
   const std::pair<const char*, const char*> names[] = {{"", "HOME"},
                                                        {" Quarry Hill Otters ", "Otters"},
                                                        {"Équipe Saint-Élie", "SaintÉl"},
                                                        {"-", "HOME"},
                                                        {"Home", "Home"}};
-  const auto rename = [&game](int side, const char* name) {
+  const auto rename = [&game](Side side, const char* name) {
     game.sides[side].name = name;
     game.renameOwnTeam(side);
   };
   for (const auto& [name, abbreviation] : names) {
-    rename(1, name);
+    rename(Side::Home, name);
     EXPECT_EQ(game.teams()[1].abbreviation, abbreviation);
   }
-  rename(0, "Valley Lions");
-  rename(1, "City Lions");
+  rename(Side::Visitor, "Valley Lions");
+  rename(Side::Home, "City Lions");
   EXPECT_EQ(game.teams()[1].abbreviation, "HOME") << "two of one name would be one team in a season";
-  rename(0, "");
-  rename(1, "Home");
-  game.sides[1].category = "AA";
-  game.renameOwnTeam(1);
-  game.chooseOwnTeam(1);
-  EXPECT_EQ(game.sides[1].players.size(), 1U) << "it is chosen already";
+  rename(Side::Visitor, "");
+  rename(Side::Home, "Home");
+  game.sides[Side::Home].category = "AA";
+  game.renameOwnTeam(Side::Home);
+  game.chooseOwnTeam(Side::Home);
+  EXPECT_EQ(game.sides[Side::Home].players.size(), 1U) << "it is chosen already";
   EXPECT_EQ(game.teams().size(), 2U);
   EXPECT_TRUE(game.proposedFileName().ends_with(" VISITOR- Home-AA.GAM")) << game.proposedFileName();
   ASSERT_EQ(game.create(folder.path("a.GAM")), GameFileProblem::None);
@@ -263,9 +265,9 @@ TEST_F(NewGameTest, AGameNeedsNoTeamOfTheList) {
        {"EQUIPE1ABB=Home\r\n", "NBREPERIODE=4\r\nDUREE=10\r\nBONUS=5\r\nPFMAX=5\r\nTFMAX=2\r\n",
         "[0]\r\n4=9,\r\n5=9,\r\n[1]\r\n7=9,Zo"})
     EXPECT_TRUE(holds("a.GAM", part)) << part;
-  EXPECT_EQ(game.choices().teamId[1], 0) << "the next game does not find it again";
-  game.chooseTeam(0, 1);
-  EXPECT_EQ(game.sides[0].name, "Home") << "by its position as any other";
+  EXPECT_EQ(game.choices().teamId[Side::Home], 0) << "the next game does not find it again";
+  game.chooseTeam(Side::Visitor, 1);
+  EXPECT_EQ(game.sides[Side::Visitor].name, "Home") << "by its position as any other";
   EXPECT_EQ(game.problem(), (Objection{Problem::SameTeam}));
 }
 
@@ -276,16 +278,20 @@ TEST_F(NewGameTest, IsAcceptedOnceEverythingIsChosen) {
     Text text;
   } cases[] = {
       {[](NewGame&) {}, {}, Text::None},
-      {[](NewGame& g) { g.sides[0].team = NewGame::kNone; }, {Problem::NoTeam, 0}, Text::ChooseTeams},
-      {[](NewGame& g) { g.sides[1].team = NewGame::kNone; }, {Problem::NoTeam, 1}, Text::ChooseTeams},
+      {[](NewGame& g) { g.sides[Side::Visitor].team = NewGame::kNone; },
+       {Problem::NoTeam, Side::Visitor},
+       Text::ChooseTeams},
+      {[](NewGame& g) { g.sides[Side::Home].team = NewGame::kNone; },
+       {Problem::NoTeam, Side::Home},
+       Text::ChooseTeams},
       {[](NewGame& g) { g.date.clear(); }, {Problem::NoDate}, Text::EnterDate},
       {[](NewGame& g) { g.gameType = NewGame::kNone; }, {Problem::NoGameType}, Text::ChooseGameType},
       {[](NewGame& g) { g.inputType = NewGame::kNone; }, {Problem::NoInputType}, Text::ChooseInputType},
-      {[](NewGame& g) { g.inputType = 1, g.mainTeam = NewGame::kNone; },
+      {[](NewGame& g) { g.inputType = 1, g.mainTeam = std::nullopt; },
        {Problem::NoMainTeam},
        Text::ChooseMainTeam},
-      {[](NewGame& g) { g.inputType = 1, g.mainTeam = 0; }, {}, Text::None},
-      {[](NewGame& g) { g.inputType = 2, g.mainTeam = NewGame::kNone; }, {}, Text::None},
+      {[](NewGame& g) { g.inputType = 1, g.mainTeam = Side::Visitor; }, {}, Text::None},
+      {[](NewGame& g) { g.inputType = 2, g.mainTeam = std::nullopt; }, {}, Text::None},
   };
   for (const auto& c : cases) {
     NewGame game = ready();
@@ -308,16 +314,16 @@ TEST_F(NewGameTest, TellsTheFirstThingThatIsWrong) {
       {Text::InvalidMinutes, [](NewGame& g) { g.rules.minutesPerPeriod = "-1"; }},
       {Text::InvalidMinutes, [](NewGame& g) { g.rules.minutesPerPeriod = "abc"; }},
       {Text::InvalidPeriods, [](NewGame& g) { g.rules.periods = "4 quarters"; }},
-      {Text::SameTeam, [](NewGame& g) { g.chooseTeam(0, 3), g.rules.bonus = "0"; }},
+      {Text::SameTeam, [](NewGame& g) { g.chooseTeam(Side::Visitor, 3), g.rules.bonus = "0"; }},
       {Text::InvalidBonus, [](NewGame& g) { g.rules.bonus = "1"; }},
       {Text::ChooseInputType, [](NewGame& g) { g.inputType = 0, g.rules.personalFoulLimit = "0"; }},
       {Text::InvalidPersonalFouls,
        [](NewGame& g) { g.rules.personalFoulLimit = "5", g.rules.technicalFoulLimit = "0"; }},
       {Text::InvalidTechnicalFouls, [](NewGame& g) { g.rules.technicalFoulLimit = "2"; }},
-      {Text::ChooseTeams, [](NewGame& g) { g.chooseTeam(1, 3), g.chooseTeam(0, 3); }},
-      {Text::SameTeam, [](NewGame& g) { g.chooseTeam(1, 1); }},
-      {Text::VisitorsTooMany, [](NewGame& g) { g.setChecked(0, 3, false); }},
-      {Text::HomeTooMany, [](NewGame& g) { g.setChecked(1, 0, false); }},
+      {Text::ChooseTeams, [](NewGame& g) { g.chooseTeam(Side::Home, 3), g.chooseTeam(Side::Visitor, 3); }},
+      {Text::SameTeam, [](NewGame& g) { g.chooseTeam(Side::Home, 1); }},
+      {Text::VisitorsTooMany, [](NewGame& g) { g.setChecked(Side::Visitor, 3, false); }},
+      {Text::HomeTooMany, [](NewGame& g) { g.setChecked(Side::Home, 0, false); }},
       {Text::None, [](NewGame&) {}},
   };
   for (const auto& c : cases) {
@@ -330,11 +336,11 @@ TEST_F(NewGameTest, TellsTheFirstThingThatIsWrong) {
 
 TEST_F(NewGameTest, ProposesANameThatEveryFileSystemTakes) {
   NewGame game = ready();
-  game.chooseTeam(1, 3);
+  game.chooseTeam(Side::Home, 3);
   game.date = "2024-03-01";
   EXPECT_EQ(game.proposedFileName(), "2024-03-01 Season LYNX-AAA  PUMA-CCC .GAM");
   texts.setLanguage(Language::French);
-  game.chooseTeam(1, 2);
+  game.chooseTeam(Side::Home, 2);
   game.date = "1/3:\"*?<>|\\\t\x7F";
   EXPECT_EQ(game.proposedFileName(),
             "1-3---------- " + std::string(texts.text(Text::Season)) + " LYNX-AAA  A-B-C-D.GAM");
@@ -355,30 +361,31 @@ std::string withoutId(std::string text) {
 
 TEST_F(NewGameTest, WritesTheWholeGameAndAHugePeriodAndAnOddKeyAllTheSame) {
   const struct {
-    int input, mainTeam;
+    int input;
+    std::optional<Side> mainTeam;
     const char *stored, *period, *keypad;
   } cases[] = {
-      {0, NewGame::kNone, "0", "[PERIODE1]\r\n1=10:00,ARRET,IN-,IN-\r\n", "False"},
-      {1, 1, "0", "[PERIODE1]\r\n1=10:00,ARRET,IN-,IN-\r\n", "True"},
-      {2, 0, "1", "", "False"},
+      {0, std::nullopt, "0", "[PERIODE1]\r\n1=10:00,ARRET,IN-,IN-\r\n", "False"},
+      {1, Side::Home, "0", "[PERIODE1]\r\n1=10:00,ARRET,IN-,IN-\r\n", "True"},
+      {2, Side::Visitor, "1", "", "False"},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.input);
     NewGame game = made();
-    game.chooseTeam(0, 0);
-    game.chooseTeam(1, 2);
+    game.chooseTeam(Side::Visitor, 0);
+    game.chooseTeam(Side::Home, 2);
     game.inputType = c.input;
     game.mainTeam = c.mainTeam;
-    game.sides[1].name = "Élans";
+    game.sides[Side::Home].name = "Élans";
     game.place = "Gym, \"B\"";
     game.statistician = "Zoë";
     game.notes = "one\ntwo";
-    game.stepPosition(0, 1);
+    game.stepPosition(Side::Visitor, 1);
     const std::string name = std::to_string(c.input) + ".GAM";
     ASSERT_EQ(game.create(folder.path(name)), GameFileProblem::None);
     EXPECT_EQ(withoutId(codepage::toUtf8(folder.read(name))),
               std::string("[DETAILS]\r\nVERSION=2.0\r\nINPUTTYPE=") + c.stored +
-                  "\r\nDATE=2026-11-21\r\nOKPRINCIPAL=" + (c.mainTeam == 1 ? "1" : "0") +
+                  "\r\nDATE=2026-11-21\r\nOKPRINCIPAL=" + (c.mainTeam == Side::Home ? "1" : "0") +
                   "\r\nEQUIPE0ID=1\r\nEQUIPE1ID=3\r\nEQUIPE0COL=8438015\r\nEQUIPE1COL=0\r\n"
                   "EQUIPE0ABB=LYNX\r\nEQUIPE1ABB=A\r\nEQUIPE0NOM=Basketball College \r\nEQUIPE1NOM=Élans\r\n"
                   "EQUIPE0CAT=AAA \r\nEQUIPE1CAT=C/D\r\nSUPP0=U1-Charges\r\nSUPP1=U2-Écrans\r\n"
@@ -387,13 +394,13 @@ TEST_F(NewGameTest, WritesTheWholeGameAndAHugePeriodAndAnOddKeyAllTheSame) {
                   "PFMAX=5\r\nTFMAX=2\r\nTYPE=2\r\nNOTES=one two\r\n"
                   "[0]\r\n4=0,Ann Able\r\n00=9,Bea Baker\r\n[1]\r\n0=9,A\r\n" +
                   c.period);
-    EXPECT_EQ(game.mainTeam, c.mainTeam == 1 ? 1 : 0) << "the visitors where none was chosen";
+    EXPECT_EQ(game.mainTeam, c.mainTeam.value_or(Side::Visitor)) << "the visitors where none was chosen";
     EXPECT_EQ(settings.lastGameFolder, folder.path());
     EXPECT_TRUE(holds("CONFIG.INI", std::string("KEYPAD=") + c.keypad));
   }
   EXPECT_TRUE(holds("CONFIG.INI", "1=LYNX,AAA ,Basketball College ,U1,U2,2"));
   NewGame odd = ready();
-  odd.chooseTeam(0, 4);
+  odd.chooseTeam(Side::Visitor, 4);
   odd.rules.minutesPerPeriod = "99999999999";
   ASSERT_EQ(odd.create(folder.path("a.GAM")), GameFileProblem::None);
   for (const char* part : {"EQUIPE0ID=0\r\n", "DUREE=99999999999\r\n", ":00,ARRET,IN-,IN-"})

@@ -49,18 +49,18 @@ class NewGameWindowTest : public WindowTest<frmNEWGAME> {
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
   }
-  void choose(int side, int team) const {
-    auto& list = find<QListWidget>(side == 0 ? "lstequipes(0)" : "lstequipes(1)");
+  void choose(Side side, int team) const {
+    auto& list = find<QListWidget>(side == Side::Visitor ? "lstequipes(0)" : "lstequipes(1)");
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(team)).center());
   }
-  SidePlayersTable& players(int side) const {
-    return find<SidePlayersTable>(side == 0 ? "lvwJOUEURS(0)" : "lvwJOUEURS(1)");
+  SidePlayersTable& players(Side side) const {
+    return find<SidePlayersTable>(side == Side::Visitor ? "lvwJOUEURS(0)" : "lvwJOUEURS(1)");
   }
-  QVariant cell(int side, int row, int column, int role = Qt::DisplayRole) const {
+  QVariant cell(Side side, int row, int column, int role = Qt::DisplayRole) const {
     return players(side).model()->index(row, column).data(role);
   }
   QLineEdit& line(const char* name) const { return find<QLineEdit>(name); }
-  int mark(int row) const { return cell(0, row, Column::Number, Qt::CheckStateRole).toInt(); }
+  int mark(int row) const { return cell(Side::Visitor, row, Column::Number, Qt::CheckStateRole).toInt(); }
 
   QString count() const { return find<QLabel>("lblCOUNT(0)").text(); }
   QPushButton& ok() const { return find<QPushButton>("OKButton"); }
@@ -79,10 +79,10 @@ TEST_F(NewGameWindowTest, OkWaitsForEverythingAndTheWindowSaysForWhat) {
     EXPECT_TRUE(find<QListWidget>(list).selectedItems().isEmpty()) << "passing through chooses nothing";
   }
   EXPECT_EQ(line("txtNBREPERIODE").text(), QString());
-  choose(0, kLynx);
+  choose(Side::Visitor, kLynx);
   EXPECT_EQ(line("txtNOMEQUIPE(0)").text(), u"Basketball College"_s);
   EXPECT_FALSE(ok().isEnabled());
-  choose(1, kFox);
+  choose(Side::Home, kFox);
   EXPECT_TRUE(ok().isEnabled());
   EXPECT_EQ(missing.text(), QString());
   find<QComboBox>("typeinput").setCurrentIndex(1);
@@ -90,9 +90,9 @@ TEST_F(NewGameWindowTest, OkWaitsForEverythingAndTheWindowSaysForWhat) {
   EXPECT_EQ(missing.text(), text(Text::ChooseMainTeam));
   find<QRadioButton>("Option1(0)").click();
   EXPECT_TRUE(ok().isEnabled());
-  choose(1, kOwl);
+  choose(Side::Home, kOwl);
   EXPECT_TRUE(find<QRadioButton>("Option1(1)").isChecked()) << "the team says so";
-  choose(1, kFox);
+  choose(Side::Home, kFox);
   EXPECT_FALSE(ok().isEnabled()) << "and takes it back";
   find<QComboBox>("typeinput").setCurrentIndex(2);
   line("txtDATE").clear();
@@ -128,27 +128,29 @@ TEST_F(NewGameWindowTest, TheDateAndItsPickerKeepInStep) {
   EXPECT_EQ(date.text(), u"tomorrow"_s);
   emit picker.calendarWidget()->clicked(picker.date());
   EXPECT_EQ(date.text(), u"2023-12-31"_s) << "the same day again";
-  choose(1, kFox);
+  choose(Side::Home, kFox);
   EXPECT_EQ(date.text(), picker.text());
   EXPECT_EQ(picker.date(), QDate::currentDate());
 }
 
 TEST_F(NewGameWindowTest, PlayersAreCheckedAndTheirPositionsStepByMouseAndKey) {
-  choose(0, kOwl);
-  SidePlayersTable& table = players(0);
+  choose(Side::Visitor, kOwl);
+  SidePlayersTable& table = players(Side::Visitor);
   new QAbstractItemModelTester(table.model(), QAbstractItemModelTester::FailureReportingMode::Fatal, &table);
   ASSERT_EQ(table.model()->rowCount(), 3);
   EXPECT_TRUE(table.isColumnHidden(Column::PositionIndex));
   EXPECT_EQ(table.palette().color(QPalette::Base), colourOf(255));
-  EXPECT_FALSE(cell(0, 2, Column::Number, Qt::CheckStateRole).isValid()) << "AB is no jersey";
-  EXPECT_TRUE(cell(0, 2, Column::Name, Qt::ToolTipRole).toString().contains(text(Text::NoJersey)));
+  EXPECT_FALSE(cell(Side::Visitor, 2, Column::Number, Qt::CheckStateRole).isValid()) << "AB is no jersey";
+  EXPECT_TRUE(
+      cell(Side::Visitor, 2, Column::Name, Qt::ToolTipRole).toString().contains(text(Text::NoJersey)));
   const QPoint name = table.visualRect(table.model()->index(1, Column::Name)).center();
   QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, name);
   QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, name);
-  EXPECT_EQ(cell(0, 1, Column::Position).toString(), text(Text::NotApplicable)) << "after the guard";
-  EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 9);
+  EXPECT_EQ(cell(Side::Visitor, 1, Column::Position).toString(), text(Text::NotApplicable))
+      << "after the guard";
+  EXPECT_EQ(cell(Side::Visitor, 1, Column::PositionIndex).toInt(), 9);
   QTest::keyClick(&table, Qt::Key_F2);
-  EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 0);
+  EXPECT_EQ(cell(Side::Visitor, 1, Column::PositionIndex).toInt(), 0);
   QTest::keyClick(&table, Qt::Key_Space);
   EXPECT_EQ(mark(1), Qt::Unchecked);
   EXPECT_EQ(count(), u"1 of 15"_s);
@@ -157,7 +159,7 @@ TEST_F(NewGameWindowTest, PlayersAreCheckedAndTheirPositionsStepByMouseAndKey) {
   QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, box);
   EXPECT_EQ(mark(1), Qt::Checked);
   QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, box);
-  EXPECT_EQ(cell(0, 1, Column::PositionIndex).toInt(), 0) << "two quick clicks on a check mark";
+  EXPECT_EQ(cell(Side::Visitor, 1, Column::PositionIndex).toInt(), 0) << "two quick clicks on a check mark";
   find<QPushButton>("cmdNONE(0)").click();
   EXPECT_EQ(count(), u"0 of 15"_s);
   find<QPushButton>("cmdALL(0)").click();
@@ -165,11 +167,11 @@ TEST_F(NewGameWindowTest, PlayersAreCheckedAndTheirPositionsStepByMouseAndKey) {
 }
 
 TEST_F(NewGameWindowTest, NumbersAloneMakeTheSideOnceAndSayWhatIsWrong) {
-  choose(0, kOwl);
-  choose(1, kFox);
+  choose(Side::Visitor, kOwl);
+  choose(Side::Home, kFox);
   auto& numbers = line("txtNUMBERS(0)");
   const auto& problem = find<QLabel>("lblPROBLEM(0)");
-  const auto rows = [this] { return players(0).model()->rowCount(); };
+  const auto rows = [this] { return players(Side::Visitor).model()->rowCount(); };
   numbers.setFocus();
   numbers.insert(u"5 é 23"_s);
   QTest::keyClick(&numbers, Qt::Key_Return);
@@ -187,8 +189,10 @@ TEST_F(NewGameWindowTest, NumbersAloneMakeTheSideOnceAndSayWhatIsWrong) {
   QTest::keyClick(&numbers, Qt::Key_Tab);
   EXPECT_EQ(rows(), 5) << "7 and 23 came along";
   EXPECT_EQ(mark(0), Qt::Unchecked);
-  EXPECT_EQ(cell(0, 4, Column::Number).toString(), u"23"_s);
-  players(0).model()->setData(players(0).model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
+  EXPECT_EQ(cell(Side::Visitor, 4, Column::Number).toString(), u"23"_s);
+  players(Side::Visitor)
+      .model()
+      ->setData(players(Side::Visitor).model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
   numbers.setFocus();
   QTest::keyClick(&numbers, Qt::Key_Tab);
   EXPECT_EQ(count(), u"4 of 15"_s) << "what is empty changes nothing";
@@ -203,16 +207,16 @@ TEST_F(NewGameWindowTest, NumbersAloneMakeTheSideOnceAndSayWhatIsWrong) {
   QTest::keyClicks(&name, u"Zoe"_s);
   QTest::keyClick(&name, Qt::Key_Tab);
   QTest::keyClick(window->focusWidget(), Qt::Key_Return);
-  EXPECT_EQ(cell(0, 5, Column::Name).toString(), u"Zoe"_s);
+  EXPECT_EQ(cell(Side::Visitor, 5, Column::Name).toString(), u"Zoe"_s);
   EXPECT_EQ(jersey.text() + name.text() + problem.text(), QString());
   EXPECT_EQ(dialogs.lastProposed, QString()) << "Enter adds, and no more";
 }
 
 TEST_F(NewGameWindowTest, TeamsOfThisGameAloneStandInBothLists) {
-  choose(0, kOwl);
+  choose(Side::Visitor, kOwl);
   find<QPushButton>("cmdOTHER(0)").click();
   EXPECT_TRUE(line("txtNOMEQUIPE(0)").hasFocus());
-  EXPECT_EQ(players(0).model()->rowCount(), 0);
+  EXPECT_EQ(players(Side::Visitor).model()->rowCount(), 0);
   QTest::keyClicks(&line("txtNOMEQUIPE(0)"), u"Harbour Pikes"_s);
   QTest::keyClicks(&line("txtNOMEQUIPE(1)"), u"Storks"_s);
   EXPECT_EQ(line("txtNOMEQUIPE(1)").text(), u"Storks"_s) << "what is typed stays";
@@ -239,7 +243,7 @@ TEST_F(NewGameWindowTest, ASetOfRulesStaysNamedWhenSomethingElseIsTyped) {
   EXPECT_EQ(words.text(), QString());
   line("txtPF").setText(u"5"_s);
   EXPECT_TRUE(words.text().contains(text(Text::RulesNba)));
-  choose(1, kFox);
+  choose(Side::Home, kFox);
   EXPECT_EQ(line("txtDUREE").text(), u"8"_s);
   EXPECT_EQ(sets.currentText(), text(Text::RulesNba));
   EXPECT_EQ(level.currentText(), text(Text::LevelBasic)) << "that nobody chose";
@@ -276,16 +280,18 @@ TEST_F(NewGameWindowTest, TheCountWarnsBeforeOkDoes) {
   EXPECT_TRUE(count.text().contains(u"20 of 15"_s));
   EXPECT_TRUE(count.text().startsWith(QChar(0x26A0)));
   EXPECT_TRUE(count.font().bold());
-  EXPECT_GE(players(0).rowAt(players(0).viewport()->height() - 1), 14);
+  EXPECT_GE(players(Side::Visitor).rowAt(players(Side::Visitor).viewport()->height() - 1), 14);
   ok().click();
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_EQ(dialogs.shown[0],
             (ScriptedDialogs::Shown{Kind::Warn, text(Text::WarningTitle), text(Text::VisitorsTooMany)}));
   EXPECT_TRUE(isOpen());
-  EXPECT_TRUE(players(0).hasFocus()) << "where the fault is";
+  EXPECT_TRUE(players(Side::Visitor).hasFocus()) << "where the fault is";
   EXPECT_EQ(dialogs.lastProposed, QString()) << "no file was asked for";
   for (int row = 0; row < 5; ++row)
-    players(0).model()->setData(players(0).model()->index(row, 0), Qt::Unchecked, Qt::CheckStateRole);
+    players(Side::Visitor)
+        .model()
+        ->setData(players(Side::Visitor).model()->index(row, 0), Qt::Unchecked, Qt::CheckStateRole);
   EXPECT_EQ(count.text(), u"15 of 15"_s);
   EXPECT_FALSE(count.font().bold());
 }
@@ -321,7 +327,7 @@ TEST_F(NewGameWindowTest, TheLanguageFollowsAtOnceAndTheChoicesStay) {
   EXPECT_EQ(find<QComboBox>("lstTYPEPARTIE").currentText(), text(Text::OtherType));
   EXPECT_EQ(find<QComboBox>("lstTYPEPARTIE").count(), 7);
   EXPECT_EQ(find<QComboBox>("typeinput").currentText(), text(Text::LiveAndKeypad));
-  EXPECT_EQ(cell(0, 0, Column::Position).toString(), u"Centre"_s);
+  EXPECT_EQ(cell(Side::Visitor, 0, Column::Position).toString(), u"Centre"_s);
   EXPECT_TRUE(count().contains(u"20 sur 15"_s));
   EXPECT_EQ(window->choices(), (LastChoices{{1, 2}, "", "", 9, 1, {{1, {}}, {2, {}}}}));
 }
@@ -334,7 +340,7 @@ TEST_F(NewGameWindowTest, MakesAGameOfEachInputType) {
     line("txtNOMEQUIPE(0)").setText(u"Renards"_s);
     line("txtNOTES").setText(u"Final"_s);
     line("txtPF").setText(u"04"_s);
-    QTest::keyClick(&players(1), Qt::Key_F2);
+    QTest::keyClick(&players(Side::Home), Qt::Key_F2);
     dialogs.nextFileToSave = toQt(folder.path("game" + std::to_string(input)));
     ok().click();
     EXPECT_TRUE(!isOpen() && window->result() == QDialog::Accepted);
@@ -342,9 +348,9 @@ TEST_F(NewGameWindowTest, MakesAGameOfEachInputType) {
     Game game;
     ASSERT_EQ(GameFile(store, fromQt(window->path())).read(game), GameFileProblem::None);
     EXPECT_EQ(game.details.inputType, input == 2 ? 1 : 0);
-    EXPECT_EQ(game.details.mainTeam, 1);
-    EXPECT_EQ(game.details.name[0] + '|' + game.details.notes, "Renards|Final");
-    EXPECT_EQ(game.roster[1].players().size(), 2U);
+    EXPECT_EQ(game.details.mainTeam, Side::Home);
+    EXPECT_EQ(game.details.name[Side::Visitor] + '|' + game.details.notes, "Renards|Final");
+    EXPECT_EQ(game.roster[Side::Home].players().size(), 2U);
     EXPECT_EQ(game.events.size(), input == 2 ? 0U : 1U);
     EXPECT_NE(folder.read("game" + std::to_string(input) + ".GAM").find("PFMAX=04\r\n"), std::string::npos);
     EXPECT_EQ(settings.keypadIsActive, input == 1);

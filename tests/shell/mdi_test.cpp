@@ -622,7 +622,7 @@ TEST_F(MainWindowTest, EntersTotalsInTheirOwnWindowWhichMakesRoomForALiveGame) {
   FormReading reading;
   reading.cells.resize(layout->cells().size());
   emit area().findChild<frmMANUAL*>()->scanReportAsked(
-      ScannedTotals(CheckedSheet(layout, reading), 0, game.roster[0]), u"scan.tif"_s);
+      ScannedTotals(CheckedSheet(layout, reading), Side::Visitor, game.roster[Side::Visitor]), u"scan.tif"_s);
   auto* report = area().findChild<frmprint*>();
   ASSERT_NE(report, nullptr);
   EXPECT_EQ(report->findChild<QComboBox*>(u"cmbREPORT"_s)->currentText(), text(Text::VerificationReport));

@@ -34,8 +34,8 @@ TEST_F(RecentGamesTest, TheFirstGameThatGoesOnStandsApartAndTheOthersKeepTheirOr
   const RecentGame& found = games.unfinished.value();
   EXPECT_EQ(found.path, goesOn);
   EXPECT_EQ(found.date, "2026-11-20");
-  EXPECT_EQ(found.teams[0], (RecentGame::Team{"ANTS", 255, 3}));
-  EXPECT_EQ(found.teams[1].points, 2) << "a deleted shot counts nothing";
+  EXPECT_EQ(found.teams[Side::Visitor], (RecentGame::Team{"ANTS", 255, 3}));
+  EXPECT_EQ(found.teams[Side::Home].points, 2) << "a deleted shot counts nothing";
   EXPECT_EQ(found.events, 3U);
   EXPECT_EQ((std::vector{found.period, found.regularPeriods, found.clockSeconds}), (std::vector{3, 2, 41}));
   EXPECT_TRUE(found.hasTime && !found.isFinished);
@@ -55,7 +55,7 @@ TEST_F(RecentGamesTest, WhatCannotBeReadSaysSoAndBlocksNothing) {
   EXPECT_EQ(games.others[0].problem, GameFileProblem::Unreadable);
   EXPECT_EQ(games.others[1].problem, GameFileProblem::InvalidFormat);
   EXPECT_EQ(games.others[2].problem, GameFileProblem::Unreadable) << "a folder";
-  EXPECT_EQ(games.others[3].teams[0].points, 3);
+  EXPECT_EQ(games.others[3].teams[Side::Visitor].points, 3);
   EXPECT_FALSE(games.unfinished.has_value());
 }
 

@@ -36,7 +36,7 @@ std::vector<std::int64_t> everyCounter(const GameState& state) {
     all.insert(all.end(), entry.counters.counts.begin(), entry.counters.counts.end());
     all.push_back(entry.seconds);
   };
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     for (const PlayerEntry& entry : state.players[team])
       add(entry);
     for (const LineEntry& entry : state.lines[team])
@@ -73,9 +73,9 @@ TEST(SimulatedGames, ArePlausible) {
     overtimeGames += hasOvertime ? 1 : 0;
     EXPECT_GE(game.events.size(), 400U);
     EXPECT_LE(game.events.size(), hasOvertime ? 700U : 600U);
-    EXPECT_NE(state.points(0), state.points(1));
-    for (std::size_t team = 0; team < 2; ++team) {
-      const int points = state.points(static_cast<int>(team));
+    EXPECT_NE(state.points(Side::Visitor), state.points(Side::Home));
+    for (const Side team : kSides) {
+      const int points = state.points(team);
       totalPoints += points;
       EXPECT_TRUE(points >= 45 && points <= 110) << points;
       const auto played = std::ranges::count_if(state.players[team],
@@ -108,12 +108,12 @@ TEST(SimulatedGames, GoOnWithoutWhoFouledOutAndCountOneByOneAsAllAtOnce) {
              entry.counters[Counter::TF] >= game.details.technicalFoulLimit;
     };
     GameState state;
-    Tally tally(state, game.roster[0], game.roster[1]);
+    Tally tally(state, game.roster[Side::Visitor], game.roster[Side::Home]);
     for (std::size_t i = 0; i < game.events.size(); ++i) {
       tally.apply(game.events[i], i);
       if (game.events[i].code != EventCode::DEPART)
         continue;
-      for (std::size_t team = 0; team < 2; ++team) {
+      for (const Side team : kSides) {
         for (const std::uint8_t entry : state.onCourt[team])
           EXPECT_FALSE(isOut(state.players[team][entry])) << game.path << " " << game.events[i].key;
       }
@@ -172,12 +172,13 @@ TEST(TallyOfSimulatedGames, SumsAgree) {
     SCOPED_TRACE(simulated.fileName());
     const Game game = simulated.inMemory();
     GameState state;
-    ASSERT_EQ(Tally::run(state, game.events, game.roster[0], game.roster[1]), std::nullopt);
+    ASSERT_EQ(Tally::run(state, game.events, game.roster[Side::Visitor], game.roster[Side::Home]),
+              std::nullopt);
     const int overtimes = static_cast<int>(simulated.periods.size()) - GameSimulator::kPeriods;
     const int length = 60 * (GameSimulator::kPeriods * GameSimulator::kMinutesPerPeriod +
                              overtimes * GameSimulator::kOvertimeMinutes);
     EXPECT_EQ(state.lead.seconds[0] + state.lead.seconds[1] + state.lead.seconds[2], length);
-    for (std::size_t team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       const auto& [players, playerSeconds] = sumOf(state.players[team]);
       const auto& [lines, lineSeconds] = sumOf(state.lines[team]);
       EXPECT_FALSE(state.players[team][0].counters.hasAny());
@@ -190,7 +191,7 @@ TEST(TallyOfSimulatedGames, SumsAgree) {
       }
       EXPECT_EQ(playerSeconds, 5 * length);
       EXPECT_EQ(lineSeconds, length);
-      EXPECT_EQ(points, state.points(static_cast<int>(team)));
+      EXPECT_EQ(points, state.points(team));
       EXPECT_EQ(points, pointsOf(players));
       EXPECT_EQ(fouls, players[Counter::PF] + players[Counter::TF]);
       EXPECT_LE(players[Counter::Ast], players[Counter::FGM] + players[Counter::F3M] + players[Counter::LLM] +
@@ -225,7 +226,7 @@ TEST_F(SimulatedGameFile, ReadsAsItWasPlayed) {
     EXPECT_EQ(read.details.nextEventNumber, simulated.details.nextEventNumber);
     EXPECT_TRUE(read.details.isFinished);
     EXPECT_EQ(read.details.notes, simulated.details.notes);
-    EXPECT_EQ(read.roster[0].players().back().name, simulated.roster[0].back().name);
+    EXPECT_EQ(read.roster[Side::Visitor].players().back().name, simulated.roster[Side::Visitor].back().name);
   }
 }
 
@@ -235,7 +236,8 @@ TEST_F(SimulatedGameFile, RecordedEventByEventHasTheSameEventLines) {
   const SimulatedGame& game = games().front();
   const std::string whole = write(game, "whole.GAM");
   GameFile file(m_store, m_folder.path("recorded.GAM"));
-  ASSERT_EQ(file.create(game.details, game.roster[0], game.roster[1]), GameFileProblem::None);
+  ASSERT_EQ(file.create(game.details, game.roster[Side::Visitor], game.roster[Side::Home]),
+            GameFileProblem::None);
   const Game played = game.inMemory();
   for (std::size_t i = 1; i < played.events.size(); ++i) {
     const GameEvent& event = played.events[i];

@@ -3,6 +3,7 @@
 
 #include "game/GameFile.h"
 #include "game/GameState.h"
+#include "game/Side.h"
 #include "support/Json.h"
 
 #include <algorithm>
@@ -68,9 +69,9 @@ class OfficialBox {
       if (ours != official)
         lines.push_back(line.str());
     };
-    for (std::size_t team = 0; team < 2; ++team) {
-      const Json& box = m_box["teams"][team];
-      compare(box["abb"].text() + " points", state.points(static_cast<int>(team)), box["points"].integer());
+    for (const Side team : kSides) {
+      const Json& box = m_box["teams"][static_cast<std::size_t>(numberOf(team))];
+      compare(box["abb"].text() + " points", state.points(team), box["points"].integer());
       if (state.players[team][0].counters.hasAny())
         lines.push_back(box["abb"].text() + ": somebody counts as not in the roster");
       for (const Json& player : box["players"].array()) {
@@ -108,7 +109,7 @@ class OfficialBox {
       return;
     for (const Json& lineup : m_box["lineups"].array()) {
       const std::string list = "IN-" + lineup["five"].text();
-      const auto& ours = state.lines[static_cast<std::size_t>(lineup["team"].integer())];
+      const auto& ours = state.lines[*sideOf(lineup["team"].integer())];
       const auto line = std::ranges::find(ours, list, &LineEntry::list);
       if (line == ours.end() || std::abs(line->seconds - lineup["seconds"].integer()) > 1)
         lines.push_back("line " + list);

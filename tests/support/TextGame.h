@@ -3,6 +3,7 @@
 
 #include "game/CountedGame.h"
 #include "game/GameFile.h"
+#include "game/Side.h"
 #include "game/Tally.h"
 
 #include <memory>
@@ -29,7 +30,7 @@ inline Game gameOfText(const std::string& text) {
 
 inline GameState tallied(const Game& game) {
   GameState state;
-  (void)Tally::run(state, game.events, game.roster[0], game.roster[1]);
+  (void)Tally::run(state, game.events, game.roster[Side::Visitor], game.roster[Side::Home]);
   return state;
 }
 inline std::shared_ptr<const CountedGame> counted(const Game& game) {

@@ -39,13 +39,13 @@ TEST_F(ManualGameTest, SavesItsLinesAndWhetherItIsFinished) {
   EXPECT_NE(written().find("TERMINE=0\n"), std::string::npos);
   EXPECT_TRUE(written().ends_with("[PERIODE1]\n")) << "an empty section";
 
-  game.totals.press(0, 1, EventCode::SA, true, kUp);
+  game.totals.press(Side::Visitor, 1, EventCode::SA, true, kUp);
   EXPECT_FALSE(game.isSaved());
   EXPECT_TRUE(game.save());
   EXPECT_TRUE(game.isSaved());
   EXPECT_NE(written().find("TERMINE=1\n"), std::string::npos);
   EXPECT_TRUE(written().ends_with("[PERIODE1]\n1=00:00,SA,0-4\n"));
-  game.totals.clear(0);
+  game.totals.clear(Side::Visitor);
   EXPECT_TRUE(game.save());
   EXPECT_NE(written().find("TERMINE=0\n"), std::string::npos);
 }
@@ -54,7 +54,7 @@ TEST_F(ManualGameTest, ReopenedAndSavedItIsTheSameFile) {
   const std::string path =
       open("TERMINE=1\n[PERIODE1]\n1=00:00,SA,0-4\n2=00:00,GF3,1-3,40,7\n3=00:00,SA,0-77\n");
   ManualGame again(store);
-  game.totals.press(0, 2, EventCode::STO, true, kUp);
+  game.totals.press(Side::Visitor, 2, EventCode::STO, true, kUp);
   EXPECT_TRUE(game.save());
   EXPECT_TRUE(written().ends_with(
       "[PERIODE1]\n1=00:00,SA,0-4\n2=00:00,STO,0-5\n3=00:00,GF3,1-3,40,7\n4=00:00,SA,0-77\n"));
@@ -75,7 +75,7 @@ TEST_F(ManualGameTest, FaultsLeaveTheOldTotalsOrTheNewOnes) {
     SCOPED_TRACE(call);
     files.reset();
     open(old);
-    game.totals.press(1, 1, EventCode::SPF, true, kUp);
+    game.totals.press(Side::Home, 1, EventCode::SPF, true, kUp);
     files.calls = 0;
     files.failAt = call;
     files.staysBroken = true;
@@ -90,7 +90,7 @@ TEST_F(ManualGameTest, FaultsLeaveTheOldTotalsOrTheNewOnes) {
 
     // What was counted meanwhile and saved again waits with it, and the last of it is written.
     files.failAt = isOnDisk ? -1 : 0;
-    game.totals.press(1, 1, EventCode::SPF, true, kUp);
+    game.totals.press(Side::Home, 1, EventCode::SPF, true, kUp);
     EXPECT_EQ(game.save(), isOnDisk);
     files.reset();
     EXPECT_TRUE(game.settle());

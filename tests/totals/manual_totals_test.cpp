@@ -21,7 +21,7 @@ ManualTotals loaded(const Game& game, const Lines& lines = {}) {
   for (const std::string& line : lines)
     events.appendOwned(1, std::to_string(events.size() + 1), line);
   ManualTotals totals;
-  totals.load(game.roster[0], game.roster[1], events);
+  totals.load(game.roster[Side::Visitor], game.roster[Side::Home], events);
   return totals;
 }
 constexpr Counter kEvery[] = {Counter::Ast, Counter::S1, Counter::S2, Counter::BS, Counter::DR,
@@ -29,7 +29,7 @@ constexpr Counter kEvery[] = {Counter::Ast, Counter::S1, Counter::S2, Counter::B
 
 TEST(ManualTotals, WriteTheLinesOfAPlayerInTheirOrder) {
   ManualTotals totals = loaded(someGame());
-  ManualSlot& slot = totals.slot(1, 3); // number 8
+  ManualSlot& slot = totals.slot(Side::Home, 3); // number 8
   for (const Counter counter : kEvery)
     slot.counters[counter] = 1;
   for (const EventCode code :
@@ -54,14 +54,14 @@ TEST(ManualTotals, WriteTheLinesOfAPlayerInTheirOrder) {
   // Visitors come first, slots decide within a team; 0 and 00 are two players.
   totals = loaded(someGame());
   for (const int entry : {7, 6, 1})
-    totals.press(0, entry, EventCode::SA, true, Step::Up);
-  totals.press(1, 1, EventCode::SA, true, Step::Up);
+    totals.press(Side::Visitor, entry, EventCode::SA, true, Step::Up);
+  totals.press(Side::Home, 1, EventCode::SA, true, Step::Up);
   EXPECT_EQ(totals.lines(), (Lines{"00:00,SA,0-4", "00:00,SA,0-0", "00:00,SA,0-00", "00:00,SA,1-3"}));
-  totals.slot(0, 6).number = ManualSlot::kNobody;
+  totals.slot(Side::Visitor, 6).number = ManualSlot::kNobody;
   EXPECT_EQ(totals.lines(), (Lines{"00:00,SA,0-4", "00:00,SA,0-00", "00:00,SA,1-3"}));
-  totals.slot(0, 1).counters = {};
-  totals.slot(0, 1).counters[Counter::DKM] = 2;
-  totals.slot(0, 1).counters[Counter::DKA] = 1;
+  totals.slot(Side::Visitor, 1).counters = {};
+  totals.slot(Side::Visitor, 1).counters[Counter::DKM] = 2;
+  totals.slot(Side::Visitor, 1).counters[Counter::DKA] = 1;
   EXPECT_EQ(totals.lines().size(), 4u) << "more made than attempted: no line of a miss";
   EXPECT_TRUE(loaded(someGame()).lines().empty());
 }
@@ -80,22 +80,24 @@ TEST(ManualTotals, CountUpAndDownByButton) {
   };
   for (const Press& press : presses) {
     const ManualTotals before = totals;
-    const bool isChanged = totals.press(0, 1, EventCode::GFT, press.isMade, press.step);
+    const bool isChanged = totals.press(Side::Visitor, 1, EventCode::GFT, press.isMade, press.step);
     EXPECT_EQ(isChanged, totals != before);
-    const Counters& counts = totals.slot(0, 1).counters;
+    const Counters& counts = totals.slot(Side::Visitor, 1).counters;
     EXPECT_EQ(counts[Counter::FTM], press.madeAfter) << "press " << (&press - presses);
     EXPECT_EQ(counts[Counter::FTA], press.attemptsAfter) << "press " << (&press - presses);
   }
-  EXPECT_FALSE(totals.press(0, 1, EventCode::SPF, true, Step::Down));
-  totals.slot(0, 1).counters[Counter::PF] = ManualTotals::kLargestCount;
-  EXPECT_FALSE(totals.press(0, 1, EventCode::SPF, true, Step::Up));
-  EXPECT_FALSE(totals.press(0, 1, EventCode::GFG, true, Step::Up)) << "placed on the court";
+  EXPECT_FALSE(totals.press(Side::Visitor, 1, EventCode::SPF, true, Step::Down));
+  totals.slot(Side::Visitor, 1).counters[Counter::PF] = ManualTotals::kLargestCount;
+  EXPECT_FALSE(totals.press(Side::Visitor, 1, EventCode::SPF, true, Step::Up));
+  EXPECT_FALSE(totals.press(Side::Visitor, 1, EventCode::GFG, true, Step::Up)) << "placed on the court";
 }
 
 TEST(ManualTotals, TakeTypedCountsThatCanBe) {
   ManualTotals totals = loaded(someGame());
-  const auto type = [&](Counter counter, int count) { return totals.setCount(0, 1, counter, count); };
-  const auto counts = [&](Counter counter) { return int{totals.slot(0, 1).counts()[counter]}; };
+  const auto type = [&](Counter counter, int count) {
+    return totals.setCount(Side::Visitor, 1, counter, count);
+  };
+  const auto counts = [&](Counter counter) { return int{totals.slot(Side::Visitor, 1).counts()[counter]}; };
   EXPECT_EQ(type(Counter::FTM, 3), Typed::Taken);
   EXPECT_EQ(counts(Counter::FTA), 3) << "made needs attempts";
   EXPECT_EQ(type(Counter::FTA, 2), Typed::UnderMade);
@@ -106,8 +108,8 @@ TEST(ManualTotals, TakeTypedCountsThatCanBe) {
   EXPECT_EQ(type(Counter::Ast, 1000), Typed::OutOfRange);
   EXPECT_EQ(type(Counter::Ast, 999), Typed::Taken);
   // Field goals: those with a place stay, the rest comes and goes without one.
-  totals.addShot(0, 1, EventCode::GFG, true, 10, 20);
-  totals.addShot(0, 1, EventCode::GFG, false, 30, 40);
+  totals.addShot(Side::Visitor, 1, EventCode::GFG, true, 10, 20);
+  totals.addShot(Side::Visitor, 1, EventCode::GFG, false, 30, 40);
   EXPECT_EQ(type(Counter::FGM, 4), Typed::Taken);
   EXPECT_EQ(std::pair(counts(Counter::FGM), counts(Counter::FGA)), std::pair(4, 5));
   EXPECT_EQ(type(Counter::FGA, 9), Typed::Taken);
@@ -116,28 +118,29 @@ TEST(ManualTotals, TakeTypedCountsThatCanBe) {
   EXPECT_EQ(type(Counter::FGM, 0), Typed::UnderPlaced);
   EXPECT_EQ(type(Counter::FGM, 1), Typed::Taken);
   EXPECT_EQ(type(Counter::FGA, 2), Typed::Taken);
-  EXPECT_EQ(totals.slot(0, 1).twoPointers, (std::vector<ManualShot>{{true, "10,20"}, {false, "30,40"}}));
+  EXPECT_EQ(totals.slot(Side::Visitor, 1).twoPointers,
+            (std::vector<ManualShot>{{true, "10,20"}, {false, "30,40"}}));
   EXPECT_EQ(type(Counter::F3A, 1), Typed::Taken);
-  EXPECT_EQ(totals.slot(0, 1).threePointers, (std::vector<ManualShot>{{false, ""}}));
-  totals.deleteShot(0, 1, EventCode::GFG, 1);
-  totals.deleteShot(0, 1, EventCode::GFG, 1);
-  EXPECT_EQ(totals.slot(0, 1).twoPointers.size(), 1u);
-  EXPECT_EQ(pointsOf(totals.teamCounts(0)), 2 + 1);
+  EXPECT_EQ(totals.slot(Side::Visitor, 1).threePointers, (std::vector<ManualShot>{{false, ""}}));
+  totals.deleteShot(Side::Visitor, 1, EventCode::GFG, 1);
+  totals.deleteShot(Side::Visitor, 1, EventCode::GFG, 1);
+  EXPECT_EQ(totals.slot(Side::Visitor, 1).twoPointers.size(), 1u);
+  EXPECT_EQ(pointsOf(totals.teamCounts(Side::Visitor)), 2 + 1);
 }
 
 TEST(ManualTotals, ClearedPlayersComeBackWithTheirFirstCount) {
   ManualTotals totals = loaded(someGame(), {"00:00,SA,0-4", "00:00,GF3,0-00,5,5", "00:00,SA,1-3"});
-  totals.clear(0);
+  totals.clear(Side::Visitor);
   for (int entry = 1; entry <= ManualTotals::kSlots; ++entry)
-    EXPECT_EQ(totals.slot(0, entry), ManualSlot());
+    EXPECT_EQ(totals.slot(Side::Visitor, entry), ManualSlot());
   EXPECT_EQ(totals.lines(), (Lines{"00:00,SA,1-3"}));
-  totals.press(0, 7, EventCode::SPF, true, Step::Up);
-  EXPECT_EQ(totals.setCount(0, 2, Counter::FTA, 1), Typed::Taken);
-  totals.addShot(0, 1, EventCode::GF3, true, 90, 1);
-  EXPECT_EQ(totals.setCount(0, 3, Counter::FTA, 0), Typed::Taken);
+  totals.press(Side::Visitor, 7, EventCode::SPF, true, Step::Up);
+  EXPECT_EQ(totals.setCount(Side::Visitor, 2, Counter::FTA, 1), Typed::Taken);
+  totals.addShot(Side::Visitor, 1, EventCode::GF3, true, 90, 1);
+  EXPECT_EQ(totals.setCount(Side::Visitor, 3, Counter::FTA, 0), Typed::Taken);
   EXPECT_EQ(totals.lines(),
             (Lines{"00:00,GF3,0-4,90,1", "00:00,GFTA,0-5", "00:00,SPF,0-00", "00:00,SA,1-3"}));
-  EXPECT_TRUE(totals.slot(0, 3).isEmpty()) << "no count, no number";
+  EXPECT_TRUE(totals.slot(Side::Visitor, 3).isEmpty()) << "no count, no number";
 }
 
 TEST(ManualTotals, KeepWhatTheyDoNotHold) {
@@ -160,11 +163,11 @@ TEST(ManualTotals, KeepWhatTheyDoNotHold) {
   EventList events;
   events.appendOwned(1, "1", "00:00,SA,1-1");
   events.appendOwned(2, "2", "00:00,SA,1-1");
-  twoPeriods.load(game.roster[0], game.roster[1], events);
+  twoPeriods.load(game.roster[Side::Visitor], game.roster[Side::Home], events);
   EXPECT_EQ(twoPeriods.lines().size(), 1u);
   EXPECT_EQ(twoPeriods.linesBeside(), 1u);
   const ManualTotals many = loaded(game, Lines(1001, "00:00,GFT,1-1"));
-  EXPECT_EQ(many.slot(1, 1).counters[Counter::FTA], ManualTotals::kLargestCount);
+  EXPECT_EQ(many.slot(Side::Home, 1).counters[Counter::FTA], ManualTotals::kLargestCount);
   EXPECT_EQ(many.lines().size(), 1001u) << "more than a cell holds";
 }
 
@@ -176,10 +179,9 @@ TEST(ManualTotals, OfSimulatedGamesComeBackFromTheirLines) {
     const Game played = season.game(number).inMemory();
     const GameState counted = tallied(played);
     ManualTotals totals = loaded(played);
-    for (int team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       for (int entry = 1; entry <= ManualTotals::kSlots; ++entry) {
-        totals.slot(team, entry).counters =
-            counted.players[static_cast<std::size_t>(team)][static_cast<std::size_t>(entry)].counters;
+        totals.slot(team, entry).counters = counted.players[team][static_cast<std::size_t>(entry)].counters;
         for (const Counter counter : {Counter::FGM, Counter::FGA, Counter::F3M, Counter::F3A})
           totals.slot(team, entry).counters[counter] = 0;
       }
@@ -196,8 +198,8 @@ TEST(ManualTotals, OfSimulatedGamesComeBackFromTheirLines) {
     for (const std::string& line : lines)
       entered.events.appendOwned(1, "1", line);
     const GameState again = tallied(entered);
-    for (std::size_t team = 0; team < 2; ++team) {
-      EXPECT_EQ(again.points(static_cast<int>(team)), counted.points(static_cast<int>(team)));
+    for (const Side team : kSides) {
+      EXPECT_EQ(again.points(team), counted.points(team));
       for (std::size_t entry = 0; entry < GameState::kPlayerEntries; ++entry)
         EXPECT_EQ(again.players[team][entry].counters, counted.players[team][entry].counters);
     }

@@ -21,8 +21,8 @@ void addCounters(Counts& counts, const std::string& whose, const Counters& count
   }
 }
 
-void addTeam(Counts& counts, const GameState& state, const Roster& roster, std::size_t team) {
-  const std::string side = "team " + std::to_string(team);
+void addTeam(Counts& counts, const GameState& state, const Roster& roster, Side team) {
+  const std::string side = "team " + std::to_string(numberOf(team));
   for (std::size_t entry = 0; entry < state.players[team].size(); ++entry) {
     const RosterPlayer* player = roster.player(static_cast<int>(entry));
     const std::string who = side + " player " + (player == nullptr ? "?" : player->jersey);
@@ -56,20 +56,23 @@ void addTeam(Counts& counts, const GameState& state, const Roster& roster, std::
 Counts counted(const Game& game) {
   Counts counts;
   GameState state;
-  Tally tally(state, game.roster[0], game.roster[1]);
+  Tally tally(state, game.roster[Side::Visitor], game.roster[Side::Home]);
   tally.clear();
-  std::array<int, 2> before = {};
+  PerSide<int> before = {};
   for (std::size_t index = 0; index < game.events.size(); ++index) {
     tally.apply(game.events[index], index);
-    const std::array<int, 2> now = {state.points(0), state.points(1)};
-    const int gain = (now[0] - before[0]) - (now[1] - before[1]);
-    for (std::size_t team = 0; team < 2 && gain != 0; ++team) {
+    const PerSide<int> now = {state.points(Side::Visitor), state.points(Side::Home)};
+    const int gain = (now[Side::Visitor] - before[Side::Visitor]) - (now[Side::Home] - before[Side::Home]);
+    for (const Side team : kSides) {
+      if (gain == 0)
+        break;
       const std::string& list = state.lines[team][state.currentLine[team]].list;
-      counts["team " + std::to_string(team) + " line " + list + " plus minus"] += team == 0 ? gain : -gain;
+      counts["team " + std::to_string(numberOf(team)) + " line " + list + " plus minus"] +=
+          team == Side::Visitor ? gain : -gain;
     }
     before = now;
   }
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     addTeam(counts, state, game.roster[team], team);
   for (std::size_t lead = 0; lead < state.lead.seconds.size(); ++lead) {
     counts["seconds in lead " + std::to_string(lead)] = state.lead.seconds[lead];

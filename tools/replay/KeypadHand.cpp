@@ -82,7 +82,7 @@ void KeypadHand::press(KeypadAction action) {
   m_table.person.press(key->name);
 }
 
-void KeypadHand::confirm(int team) {
+void KeypadHand::confirm(Side team) {
   press(team == m_table.recorded.game().details.mainTeam ? KeypadAction::OK0 : KeypadAction::OK1);
 }
 
@@ -100,14 +100,14 @@ void KeypadHand::clearQuestion() {
 }
 
 // "9" for 09, where no other player has it.
-std::string KeypadHand::numberOf(int team, std::string_view jersey) const {
+std::string KeypadHand::numberOf(Side team, std::string_view jersey) const {
   const Roster& roster = m_table.recorded.game().roster[team];
   const std::size_t first = std::min(jersey.find_first_not_of('0'), jersey.size() - 1);
   const std::string_view number = jersey.substr(first);
   return std::string(roster.entryOf(number) == roster.entryOf(jersey) ? number : jersey);
 }
 
-std::vector<std::string> KeypadHand::numbersOf(int team, unsigned entries) const {
+std::vector<std::string> KeypadHand::numbersOf(Side team, unsigned entries) const {
   std::vector<std::string> numbers;
   for (const int entry : entriesOf(entries))
     numbers.push_back(numberOf(team, m_table.recorded.game().roster[team].player(entry)->jersey));
@@ -122,10 +122,10 @@ std::string KeypadHand::record(const GameEvent& event) {
   if (isFollowUp(event.code) && m_table.program.isShown(form) && isOffered(event, form))
     return answer(event, form);
   clearQuestion();
-  type(numberOf(event.player.team, event.player.jersey));
+  type(numberOf(*event.player.team, event.player.jersey));
   press(std::ranges::find(kActions, event.code, &ActionKey::code)->action);
   m_table.camera.take("typed");
-  confirm(event.player.team);
+  confirm(*event.player.team);
   if (!isFollowUp(event.code))
     return "action";
   return isAssist ? "assist, not asked for" : "rebound, not asked for";
@@ -137,9 +137,9 @@ std::string KeypadHand::shoot(const GameEvent& event) {
   press(KeypadAction::A);
   if (!event.isMade)
     press(KeypadAction::A);
-  type(numberOf(event.player.team, event.player.jersey) + std::to_string(kind - kShots.begin() + 1));
+  type(numberOf(*event.player.team, event.player.jersey) + std::to_string(kind - kShots.begin() + 1));
   m_table.camera.take(event.isMade ? "typed-made" : "typed-missed");
-  confirm(event.player.team);
+  confirm(*event.player.team);
   return event.isMade ? "shot made" : "shot missed";
 }
 
@@ -157,7 +157,7 @@ bool KeypadHand::isOffered(const GameEvent& event, const std::string& form) {
 // The team's key as well where the question is open still: a player of the other team has the number, or
 // another number begins so.
 std::string KeypadHand::answer(const GameEvent& event, const std::string& form) {
-  const std::string number = numberOf(event.player.team, event.player.jersey);
+  const std::string number = numberOf(*event.player.team, event.player.jersey);
   type(number);
   Program& program = m_table.program;
   const auto isOpen = [&] { return program.isShown(form); };
@@ -169,7 +169,7 @@ std::string KeypadHand::answer(const GameEvent& event, const std::string& form) 
   const bool isClear = !isOpen();
   if (!isClear) {
     m_table.camera.take("equal-numbers");
-    confirm(event.player.team);
+    confirm(*event.player.team);
     program.waitUntilGone("FollowUp");
   }
   const std::string asked = event.code == EventCode::SA ? "assist asked for" : "rebound asked for";
@@ -182,8 +182,8 @@ std::string KeypadHand::substitute(const OnCourt& wanted) {
   clearQuestion();
   const OnCourt before = m_table.recorded.onCourt();
   int coming = 0;
-  for (int team = 0; team < 2; ++team) {
-    const auto place = static_cast<std::size_t>(team);
+  for (const Side team : kSides) {
+    const auto place = team;
     const auto all = numbersOf(team, wanted[place]);
     const auto leaving = numbersOf(team, before[place] & ~wanted[place]);
     const auto arriving = numbersOf(team, wanted[place] & ~before[place]);
@@ -207,7 +207,7 @@ std::string KeypadHand::substitute(const OnCourt& wanted) {
   return "substitution of " + std::to_string(coming);
 }
 
-void KeypadHand::exchange(int team, const std::string& leaving, const std::string& arriving) {
+void KeypadHand::exchange(Side team, const std::string& leaving, const std::string& arriving) {
   type(leaving);
   press(KeypadAction::OUT);
   type(arriving);
@@ -215,7 +215,7 @@ void KeypadHand::exchange(int team, const std::string& leaving, const std::strin
   confirm(team);
 }
 
-void KeypadHand::move(int team, const std::vector<std::string>& numbers, KeypadAction action) {
+void KeypadHand::move(Side team, const std::vector<std::string>& numbers, KeypadAction action) {
   for (const std::string& number : numbers) {
     type(number);
     press(action);

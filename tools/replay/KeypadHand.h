@@ -3,6 +3,7 @@
 // him, or five who come after all have left, where that is shorter.
 #pragma once
 
+#include "game/Side.h"
 #include "keypad/KeypadAssignment.h"
 #include "tools/replay/Hand.h"
 
@@ -28,15 +29,15 @@ class KeypadHand : public Hand {
 
  private:
   void press(KeypadAction action);
-  void confirm(int team);
+  void confirm(Side team);
   void type(const std::string& digits);
-  [[nodiscard]] std::string numberOf(int team, std::string_view jersey) const;
-  [[nodiscard]] std::vector<std::string> numbersOf(int team, unsigned entries) const;
+  [[nodiscard]] std::string numberOf(Side team, std::string_view jersey) const;
+  [[nodiscard]] std::vector<std::string> numbersOf(Side team, unsigned entries) const;
   std::string shoot(const GameEvent& event);
   std::string answer(const GameEvent& event, const std::string& form);
   [[nodiscard]] bool isOffered(const GameEvent& event, const std::string& form);
-  void exchange(int team, const std::string& leaving, const std::string& arriving);
-  void move(int team, const std::vector<std::string>& numbers, KeypadAction action);
+  void exchange(Side team, const std::string& leaving, const std::string& arriving);
+  void move(Side team, const std::vector<std::string>& numbers, KeypadAction action);
 
   Table m_table;
   KeypadAssignment m_keys = KeypadAssignment(firstKeypadKeyTexts());

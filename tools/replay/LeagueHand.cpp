@@ -42,7 +42,7 @@ std::string LeagueHand::foul(const GameEvent& event) {
     return how;
   table().program.waitUntilShown("FollowUp");
   const bool isImplied = kind.empty() || (kind == "S" && event.detail(detail_key::kFreeThrows) &&
-                                          !wasInBonus(event.player.team));
+                                          !wasInBonus(*event.player.team));
   if (!isImplied) {
     std::this_thread::sleep_for(kQuestionIsRead);
     table().person.clickAt(table().program.where("FollowUp/cmdKIND(" + kind + ")"));
@@ -66,10 +66,10 @@ std::string LeagueHand::foul(const GameEvent& event) {
 }
 
 // Before the foul that was recorded last.
-bool LeagueHand::wasInBonus(int team) {
+bool LeagueHand::wasInBonus(Side team) {
   const Game& game = table().recorded.game();
   GameState state;
-  (void)Tally::run(state, game.events, game.roster[0], game.roster[1]);
+  (void)Tally::run(state, game.events, game.roster[Side::Visitor], game.roster[Side::Home]);
   const bool isCounted = game.events[game.events.size() - 1].code == EventCode::SPF;
   return isInBonus(game.details, teamFouls(game.details, state, team, state.period) - (isCounted ? 1 : 0));
 }
@@ -140,11 +140,11 @@ std::string LeagueHand::ofTeam(const GameEvent& event) {
   }
   switch (event.code) {
   case EventCode::XTO:
-    if (event.player.team < 0)
+    if (!event.player.team)
       break;
-    click(element("cmdTIMEOUT", event.player.team));
+    click(element("cmdTIMEOUT", numberOf(*event.player.team)));
     return "time-out";
-  case EventCode::XAR: click(element("cmdARROW", event.player.team)); return "possession arrow";
+  case EventCode::XAR: click(element("cmdARROW", numberOf(*event.player.team))); return "possession arrow";
   default: break;
   }
   const std::string line = lineOf(event);

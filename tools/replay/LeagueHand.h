@@ -2,6 +2,7 @@
 // blocks and steals by their questions, time-outs, the arrow, and what a team does.
 #pragma once
 
+#include "game/Side.h"
 #include "tools/replay/MouseHand.h"
 
 namespace hooptab {
@@ -17,7 +18,7 @@ class LeagueHand : public MouseHand {
   std::string ofTeam(const GameEvent& event);
   std::optional<std::string> freeThrow(const GameEvent& event);
   std::optional<std::string> answerByClick(const GameEvent& event);
-  [[nodiscard]] bool wasInBonus(int team);
+  [[nodiscard]] bool wasInBonus(Side team);
   [[nodiscard]] std::string lineOf(const GameEvent& event);
   void clickJersey(const std::string& form, int first, int count, std::string_view jersey);
 };

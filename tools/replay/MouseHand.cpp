@@ -1,5 +1,6 @@
 #include "tools/replay/MouseHand.h"
 
+#include "game/Side.h"
 #include "settings/Settings.h"
 #include "tools/replay/SeveralPanel.h"
 
@@ -118,7 +119,7 @@ void MouseHand::press(const std::string& control, EventCode kind, Person::Button
 std::optional<int> MouseHand::slotOf(const GameEvent& event) {
   const std::string entry = std::to_string(entryOf(event));
   for (int place = 0; place < kSlotsOfTeam; ++place) {
-    const int slot = event.player.team * kSlotsOfTeam + place;
+    const int slot = numberOf(*event.player.team) * kSlotsOfTeam + place;
     if (m_table.program.text(element("lblID", slot)) == entry)
       return slot;
   }
@@ -126,7 +127,7 @@ std::optional<int> MouseHand::slotOf(const GameEvent& event) {
 }
 
 int MouseHand::entryOf(const GameEvent& event) const {
-  return m_table.recorded.game().roster[event.player.team].entryOf(event.player.jersey);
+  return m_table.recorded.game().roster[*event.player.team].entryOf(event.player.jersey);
 }
 
 std::string MouseHand::record(const GameEvent& event) {
@@ -151,8 +152,8 @@ std::string MouseHand::recordOnBench(const GameEvent& event) {
   const bool isTechnical = event.code == EventCode::STF;
   if (!isTechnical && event.code != EventCode::SPF)
     throw ReplayFailure("he is not on court");
-  click(element("picROSTER", event.player.team) + "/" +
-        element("cmdJERSEY", event.player.team * kPlaces + entryOf(event) - 1));
+  click(element("picROSTER", numberOf(*event.player.team)) + "/" +
+        element("cmdJERSEY", numberOf(*event.player.team) * kPlaces + entryOf(event) - 1));
   m_table.program.waitUntilShown("picSELECTED");
   click(isTechnical ? "cmdSELTF" : "cmdSELPF");
   return "foul of the bench";
@@ -168,7 +169,7 @@ std::string MouseHand::shoot(const GameEvent& event, int slot) {
   }
   const Program::Place court = m_table.program.where(element("CourtJ", slot));
   const Pixel pixel = courtPixel(court.width, court.height, {event.x, event.y}, event.code,
-                                 playsRight(event.player.team), m_zones);
+                                 playsRight(*event.player.team), m_zones);
   clearAway(court.x + pixel.x, court.y + pixel.y);
   press({court.x + pixel.x, court.y + pixel.y, button, event.code});
   return "shot on the court";
@@ -243,7 +244,7 @@ void MouseHand::typeAnswer(const std::string& form, const std::string& jersey) {
 std::string MouseHand::substitute(const OnCourt& wanted) {
   const OnCourt before = m_table.recorded.onCourt();
   int coming = 0;
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     coming += std::popcount(wanted[team] & ~before[team]);
   if (coming <= kOneByOne) {
     substituteOneByOne(wanted);
@@ -258,7 +259,7 @@ std::string MouseHand::substitute(const OnCourt& wanted) {
 void MouseHand::substituteOneByOne(const OnCourt& wanted) {
   m_table.person.press("F6");
   const OnCourt before = m_table.recorded.onCourt();
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     clickRoster(team, before[team] & ~wanted[team]);
     clickRoster(team, wanted[team] & ~before[team]);
   }
@@ -267,9 +268,9 @@ void MouseHand::substituteOneByOne(const OnCourt& wanted) {
   m_table.person.press("F6");
 }
 
-void MouseHand::clickRoster(std::size_t team, unsigned entries) {
+void MouseHand::clickRoster(Side team, unsigned entries) {
   for (const int entry : entriesOf(entries)) {
-    const int side = static_cast<int>(team);
+    const int side = numberOf(team);
     click(element("picROSTER", side) + "/" + element("cmdJERSEY", side * kPlaces + entry - 1));
     std::this_thread::sleep_for(kLook);
   }

@@ -3,6 +3,7 @@
 // panel for several, with a line that has played before where there is one. Space turns the clock.
 #pragma once
 
+#include "game/Side.h"
 #include "tools/replay/CourtPixel.h"
 #include "tools/replay/Hand.h"
 
@@ -43,10 +44,10 @@ class MouseHand : public Hand {
   void clearAway(int x, int y);
   // Of a panel, as far as they are shown: its buttons and its court.
   [[nodiscard]] std::vector<Program::Place> targetsOf(int slot);
-  void clickRoster(std::size_t team, unsigned entries);
+  void clickRoster(Side team, unsigned entries);
   Table& table() { return m_table; }
   const ZoneMap& zones() const { return m_zones; }
-  [[nodiscard]] bool playsRight(int team) const { return (team == 1) != m_isSwitched; }
+  [[nodiscard]] bool playsRight(Side team) const { return (team == Side::Home) != m_isSwitched; }
 
  private:
   [[nodiscard]] int entryOf(const GameEvent& event) const;

@@ -1,5 +1,7 @@
 #include "tools/replay/Recorded.h"
 
+#include "game/Side.h"
+
 namespace hooptab {
 
 void Recorded::read() {
@@ -10,7 +12,7 @@ void Recorded::read() {
 }
 
 OnCourt Recorded::onCourt() const {
-  const Rosters rosters{m_game.roster[0], m_game.roster[1]};
+  const Rosters rosters{m_game.roster[Side::Visitor], m_game.roster[Side::Home]};
   OnCourt lists = {};
   for (const GameEvent& event : m_game.events) {
     if (const auto own = onCourtOf(event, rosters))

@@ -1,5 +1,6 @@
 #include "tools/replay/Replay.h"
 
+#include "game/Side.h"
 #include "settings/Settings.h"
 #include "storage/Module1.h"
 
@@ -36,7 +37,7 @@ std::string inWords(const GameEvent& event) {
 Replay::Replay(const Game& original, const Table& table, Hand& hand)
     : m_original(original), m_table(table), m_hand(hand),
       m_zones(kFirstColours.twoPoints, kFirstColours.box, kFirstColours.threePoints),
-      m_tally(m_counted, original.roster[0], original.roster[1]),
+      m_tally(m_counted, original.roster[Side::Visitor], original.roster[Side::Home]),
       m_clock(original.details.minutesPerPeriod * kSecondsPerMinute) {
   m_tally.clear();
 }
@@ -167,7 +168,8 @@ void Replay::beginNextPeriod(const GameEvent& first) {
 
 void Replay::returnToEndedPeriod() {
   const Effort before = m_table.person.effort();
-  if (isLastRegular() && m_counted.points(0) == m_counted.points(1) && overtimeIsAsked()) {
+  if (isLastRegular() && m_counted.points(Side::Visitor) == m_counted.points(Side::Home) &&
+      overtimeIsAsked()) {
     m_table.person.press("Escape");
     m_table.program.waitUntilActive("frmLIVE");
   }
@@ -213,7 +215,7 @@ void Replay::toggleClock() {
 
 // The original's lists are a substitution or a stop.
 void Replay::stop(const GameEvent& event) {
-  const Rosters rosters{m_original.roster[0], m_original.roster[1]};
+  const Rosters rosters{m_original.roster[Side::Visitor], m_original.roster[Side::Home]};
   const OnCourt wanted = *onCourtOf(event, rosters);
   if (wanted == m_table.recorded.onCourt()) {
     if (m_isRunning)
@@ -228,9 +230,10 @@ void Replay::stop(const GameEvent& event) {
 
 // The score as the window has it, when the clock stands; and the clock.
 void Replay::checkScoreboard() {
-  for (int team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     const std::string points = std::to_string(m_counted.points(team));
-    if (const std::string shown = m_table.program.text("lblPTS" + std::to_string(team)); shown != points)
+    if (const std::string shown = m_table.program.text("lblPTS" + std::to_string(numberOf(team)));
+        shown != points)
       throw ReplayFailure("the score shown is " + shown + ", not " + points);
   }
   if (const std::string shown = m_table.program.text("lblTEMPS");

@@ -1,5 +1,7 @@
 #include "tools/replay/SeveralPanel.h"
 
+#include "game/Side.h"
+
 #include <bit>
 #include <sstream>
 
@@ -17,14 +19,14 @@ bool SeveralPanel::substitute(const OnCourt& wanted) {
   m_table.person.press("F4");
   m_table.program.waitUntilActive(kForm + "cmdOK");
   bool isLineOfUse = false;
-  for (std::size_t team = 0; team < 2; ++team) {
+  for (const Side team : kSides) {
     if (std::popcount(wanted[team] & ~before[team]) > 1 && takeKnownLine(team, wanted[team])) {
       isLineOfUse = true;
       continue;
     }
     int chosen = std::popcount(before[team]);
     for (const int entry : entriesOf(wanted[team] ^ before[team])) {
-      click(element("cmdJERSEY", static_cast<int>(team) * kPlaces + entry - 1));
+      click(element("cmdJERSEY", numberOf(team) * kPlaces + entry - 1));
       chosen += (wanted[team] >> entry & 1U) != 0 ? 1 : -1;
       waitForCount(team, chosen);
     }
@@ -42,16 +44,16 @@ void SeveralPanel::click(const std::string& button) {
 }
 
 // As one looks at the panel before one confirms.
-void SeveralPanel::waitForCount(std::size_t team, int count) {
-  const std::string label = element("lblCOUNT", static_cast<int>(team));
+void SeveralPanel::waitForCount(Side team, int count) {
+  const std::string label = element("lblCOUNT", numberOf(team));
   const std::string shown = std::to_string(count) + "/5";
   waitUntil(label + " shows " + shown, [&] { return m_table.program.text(label) == shown; });
 }
 
-bool SeveralPanel::takeKnownLine(std::size_t team, unsigned wanted) {
+bool SeveralPanel::takeKnownLine(Side team, unsigned wanted) {
   const Roster& roster = m_table.recorded.game().roster[team];
   for (int line = 0; line < kMostLines; ++line) {
-    const std::string button = element("cmdLINE", static_cast<int>(team) * kMostLines + line);
+    const std::string button = element("cmdLINE", numberOf(team) * kMostLines + line);
     if (!m_table.program.isShown(kForm + button))
       return false;
     std::istringstream jerseys(m_table.program.text(kForm + button));

@@ -2,6 +2,7 @@
 // where there is one, and everybody else player by player.
 #pragma once
 
+#include "game/Side.h"
 #include "tools/replay/Hand.h"
 
 namespace hooptab {
@@ -15,8 +16,8 @@ class SeveralPanel {
 
  private:
   void click(const std::string& button);
-  void waitForCount(std::size_t team, int count);
-  bool takeKnownLine(std::size_t team, unsigned wanted);
+  void waitForCount(Side team, int count);
+  bool takeKnownLine(Side team, unsigned wanted);
 
   Table m_table;
 };

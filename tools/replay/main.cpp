@@ -128,7 +128,8 @@ int run(const Options& options) {
   const std::string path = folder.path("replay.GAM");
   GameDetails details = original.details;
   details.isFinished = false;
-  if (GameFile(store, path).create(details, original.roster[0].players(), original.roster[1].players()) !=
+  if (GameFile(store, path)
+          .create(details, original.roster[Side::Visitor].players(), original.roster[Side::Home].players()) !=
       GameFileProblem::None)
     throw ReplayFailure("the game cannot be made: " + path);
 
@@ -157,7 +158,8 @@ int run(const Options& options) {
 
   recorded.read();
   GameState state;
-  (void)Tally::run(state, recorded.game().events, recorded.game().roster[0], recorded.game().roster[1]);
+  (void)Tally::run(state, recorded.game().events, recorded.game().roster[Side::Visitor],
+                   recorded.game().roster[Side::Home]);
   std::vector<std::string> wrong = differences(recorded.game(), original);
   const bool hasBox = exists(std::filesystem::path(options.game).replace_extension(".json")); // real ones do
   if (hasBox) {

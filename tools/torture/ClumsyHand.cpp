@@ -77,7 +77,7 @@ void ClumsyHand::pressBeside() {
   case 0:
   case 1: pressGap(slot); break;
   case 2: pressLine(slot); break;
-  default: pressPlate(slot / kSlotsOfTeam); break;
+  default: pressPlate(slot < kSlotsOfTeam ? Side::Visitor : Side::Home); break;
   }
 }
 
@@ -119,9 +119,9 @@ void ClumsyHand::pressLine(int slot) {
 }
 
 // Which asks for a colour: who did not mean it, closes that.
-void ClumsyHand::pressPlate(int team) {
+void ClumsyHand::pressPlate(Side team) {
   Program& program = table().program;
-  table().person.clickAt(program.where(element("pictTEAM", team)));
+  table().person.clickAt(program.where(element("pictTEAM", numberOf(team))));
   slipped();
   const auto end = std::chrono::steady_clock::now() + 600ms;
   while (program.where("frmLIVE").isActive && std::chrono::steady_clock::now() < end)
@@ -148,13 +148,13 @@ void ClumsyHand::actByMistake(int slot) {
 
 void ClumsyHand::beginSubstitution(const OnCourt& before, const OnCourt& wanted) {
   table().person.press("F6");
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     clickRoster(team, before[team] & ~wanted[team]);
   slipped();
 }
 
 void ClumsyHand::endSubstitution(const OnCourt& before, const OnCourt& wanted) {
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     clickRoster(team, wanted[team] & ~before[team]);
   sleepFor(kGlance);
   m_screen.look();
@@ -195,8 +195,8 @@ std::string ClumsyHand::wrongNumber(const std::string& jersey) {
   const Game& game = table().recorded.game();
   const OnCourt onCourt = table().recorded.onCourt();
   const auto isOnCourt = [&](const std::string& number) { // with either team: it would be a right answer
-    for (int team = 0; team < 2; ++team) {
-      if ((onCourt[static_cast<std::size_t>(team)] >> game.roster[team].entryOf(number) & 1U) != 0)
+    for (const Side team : kSides) {
+      if ((onCourt[team] >> game.roster[team].entryOf(number) & 1U) != 0)
         return true;
     }
     return false;
@@ -204,7 +204,7 @@ std::string ClumsyHand::wrongNumber(const std::string& jersey) {
   const int way = m_dice.between(0, 2);
   if (way == 0) {
     std::vector<std::string> bench;
-    for (int team = 0; team < 2; ++team) {
+    for (const Side team : kSides) {
       const Roster& roster = game.roster[team];
       if (roster.entryOf(jersey) == 0)
         continue;
@@ -220,7 +220,7 @@ std::string ClumsyHand::wrongNumber(const std::string& jersey) {
   if (way == 1) {
     for (int tries = 0; tries < 100; ++tries) {
       const std::string number = std::to_string(m_dice.between(10, 99));
-      if (game.roster[0].entryOf(number) == 0 && game.roster[1].entryOf(number) == 0)
+      if (game.roster[Side::Visitor].entryOf(number) == 0 && game.roster[Side::Home].entryOf(number) == 0)
         return number;
     }
   }

@@ -6,6 +6,7 @@
 #include "Dice.h"
 #include "Screen.h"
 #include "Slip.h"
+#include "game/Side.h"
 #include "tools/replay/MouseHand.h"
 
 namespace hooptab {
@@ -40,7 +41,7 @@ class ClumsyHand : public MouseHand {
   void pressBeside();
   void pressGap(int slot);
   void pressLine(int slot);
-  void pressPlate(int team);
+  void pressPlate(Side team);
   [[nodiscard]] std::string wrongNumber(const std::string& jersey);
   void typeByHeart(const std::string& digits);
   void lookAndAnswer(const std::string& form, const std::string& jersey);

@@ -1,5 +1,6 @@
 #include "Meaning.h"
 
+#include "game/Side.h"
 #include "storage/Module1.h"
 #include "tools/replay/Comparison.h"
 
@@ -26,7 +27,7 @@ struct Course {
 };
 
 Course courseOf(const Game& game) {
-  const Rosters rosters{game.roster[0], game.roster[1]};
+  const Rosters rosters{game.roster[Side::Visitor], game.roster[Side::Home]};
   Course course;
   for (const GameEvent& event : game.events) {
     if (!event.isUnderstood || event.isDeleted)
@@ -58,16 +59,17 @@ std::string inWords(const std::vector<Deed>& deeds, std::size_t index) {
 }
 
 std::string inWords(const OnCourt& onCourt, const Game& game) {
-  return listsText(onCourt, Rosters{game.roster[0], game.roster[1]});
+  return listsText(onCourt, Rosters{game.roster[Side::Visitor], game.roster[Side::Home]});
 }
 
 // As if the clock were stopped now: seconds are only counted then.
 Game stopped(const Game& game, const Course& course, const Meaning::Moment& now) {
   Game copy = game;
   if (course.isRunning || now.isRunning) // the original may tell of the start behind a substitution later
-    copy.events.appendOwned(now.period, "1",
-                            Module1::clockText(now.clock) +
-                                stopText(course.onCourt, Rosters{game.roster[0], game.roster[1]}));
+    copy.events.appendOwned(
+        now.period, "1",
+        Module1::clockText(now.clock) +
+            stopText(course.onCourt, Rosters{game.roster[Side::Visitor], game.roster[Side::Home]}));
   return copy;
 }
 
@@ -75,7 +77,7 @@ Game stopped(const Game& game, const Course& course, const Meaning::Moment& now)
 
 Meaning::Meaning(const Game& original) {
   m_meant.details = original.details;
-  for (std::size_t team = 0; team < 2; ++team)
+  for (const Side team : kSides)
     m_meant.roster[team] = original.roster[team];
 }
 

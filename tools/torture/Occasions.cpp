@@ -1,5 +1,7 @@
 #include "Occasions.h"
 
+#include "game/Side.h"
+
 #include <algorithm>
 #include <bit>
 
@@ -47,11 +49,13 @@ bool Occasions::isPairOfFreeThrows(std::size_t index) const {
 std::optional<OnCourt> Occasions::exchange(const GameEvent& event, const OnCourt& before) const {
   if (event.code != EventCode::ARRET)
     return std::nullopt;
-  const Rosters rosters{m_original.roster[0], m_original.roster[1]};
+  const Rosters rosters{m_original.roster[Side::Visitor], m_original.roster[Side::Home]};
   const auto wanted = onCourtOf(event, rosters);
   constexpr int kOneByOne = 2;
   int coming = 0;
-  for (std::size_t team = 0; wanted && team < 2; ++team) {
+  if (!wanted)
+    return std::nullopt;
+  for (const Side team : kSides) {
     coming += std::popcount((*wanted)[team] & ~before[team]);
     if (std::popcount((*wanted)[team]) != std::popcount(before[team]))
       return std::nullopt;

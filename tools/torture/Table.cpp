@@ -11,8 +11,8 @@ void makeGame(const std::string& path) {
   GameDetails details;
   details.periods = 4;
   details.minutesPerPeriod = 10;
-  details.abbreviation[0] = "PAN";
-  details.abbreviation[1] = "OLY";
+  details.abbreviation[Side::Visitor] = "PAN";
+  details.abbreviation[Side::Home] = "OLY";
   const std::vector<RosterPlayer> players = {{"4", 0, "Ann Able"},    {"5", 1, "Bea Baker"},
                                              {"6", 2, "Cleo Carter"}, {"7", 2, "Dana Dunn"},
                                              {"8", 1, "Eve Ellis"},   {"9", 1, "Fay Ford"}};
@@ -29,8 +29,8 @@ int pointsIn(const std::string& path) {
   if (GameFile(store, path).read(game) != GameFileProblem::None)
     return -1;
   GameState state;
-  (void)Tally::run(state, game.events, game.roster[0], game.roster[1]);
-  return state.points(0);
+  (void)Tally::run(state, game.events, game.roster[Side::Visitor], game.roster[Side::Home]);
+  return state.points(Side::Visitor);
 }
 
 ScorersTable::ScorersTable(const std::string& program, const std::string& programFolder,

@@ -53,7 +53,8 @@ void makeEmpty(const std::string& path, const Game& original) {
   ProfileStore store(files);
   GameDetails details = original.details;
   details.isFinished = false;
-  if (GameFile(store, path).create(details, original.roster[0].players(), original.roster[1].players()) !=
+  if (GameFile(store, path)
+          .create(details, original.roster[Side::Visitor].players(), original.roster[Side::Home].players()) !=
       GameFileProblem::None)
     throw ReplayFailure("the game cannot be made: " + path);
 }
