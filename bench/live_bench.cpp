@@ -7,6 +7,7 @@
 #include "events/LiveEventRows.h"
 #include "live/frmLIVE.h"
 #include "live_measure.h"
+#include "recording/Slot.h"
 #include "settings/Settings.h"
 
 #include <QApplication>
@@ -26,14 +27,14 @@ struct Press {
 };
 std::vector<Press> pressesOf(frmLIVE& window) {
   std::vector<Press> presses;
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
+  for (const Slot slot : kSlots) {
     const auto press = [&](const char* name, Qt::MouseButton button) {
-      const QString objectName = QLatin1String(name) + QStringLiteral("(%1)").arg(slot);
+      const QString objectName = QLatin1String(name) + QStringLiteral("(%1)").arg(slot.number());
       presses.push_back({window.findChild<QWidget*>(objectName), button});
     };
     for (const char* name : {"cmdBUTDRB", "cmdBUTF", "cmdBUTTO"})
       press(name, Qt::LeftButton);
-    press("cmdBUTFT", slot % 2 == 0 ? Qt::LeftButton : Qt::RightButton);
+    press("cmdBUTFT", slot.number() % 2 == 0 ? Qt::LeftButton : Qt::RightButton);
   }
   return presses;
 }

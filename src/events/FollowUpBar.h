@@ -8,6 +8,7 @@
 #include "events/DetailChips.h"
 #include "game/Side.h"
 #include "recording/FollowUpQuestion.h"
+#include "recording/Slot.h"
 
 #include <QElapsedTimer>
 #include <QPoint>
@@ -93,7 +94,7 @@ class FollowUpBar : public Bubble {
   void hideEvent(QHideEvent* event) override;
 
  private:
-  static constexpr int kGroup = LiveGame::kSlotsOfTeam;
+  static constexpr int kGroup = Slot::kOfTeam;
   enum TeamButton : std::size_t { OfShooters, OfOthers, InOneGroup };
 
   QWidget* makeAssist();

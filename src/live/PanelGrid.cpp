@@ -19,16 +19,16 @@ PanelGrid::PanelGrid(QWidget* parent) : QWidget(parent), m_grid(new QGridLayout(
 
 void PanelGrid::fill(const PerSide<QWidget*>& rosters, const Settings& settings, const Texts& texts) {
   m_rosters = rosters;
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot)
-    m_panels[static_cast<std::size_t>(slot)] = new PlayerPanel(slot, settings, texts, this);
-  for (int column = 0; column < LiveGame::kSlotsOfTeam; ++column)
+  for (const Slot slot : kSlots)
+    m_panels[slot.index()] = new PlayerPanel(slot, settings, texts, this);
+  for (int column = 0; column < Slot::kOfTeam; ++column)
     m_grid->setColumnStretch(column, 1);
   setTurned(false);
 }
 
-std::optional<int> PanelGrid::slotAt(Side team, const QPoint& place) const {
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
-    if (LiveGame::teamOf(slot) == team && panel(slot).geometry().contains(place))
+std::optional<Slot> PanelGrid::slotAt(Side team, const QPoint& place) const {
+  for (const Slot slot : kSlots) {
+    if (slot.team() == team && panel(slot).geometry().contains(place))
       return slot;
   }
   return std::nullopt;
@@ -37,15 +37,15 @@ std::optional<int> PanelGrid::slotAt(Side team, const QPoint& place) const {
 void PanelGrid::setTurned(bool isTurned) {
   for (const Side team : kSides) {
     const int row = numberOf(isTurned ? otherSide(team) : team) * kTeamRows;
-    m_grid->addWidget(m_rosters[team], row, 0, 1, LiveGame::kSlotsOfTeam);
-    for (int place = 0; place < LiveGame::kSlotsOfTeam; ++place)
-      m_grid->addWidget(&panel(numberOf(team) * LiveGame::kSlotsOfTeam + place), row + 1, place);
+    m_grid->addWidget(m_rosters[team], row, 0, 1, Slot::kOfTeam);
+    for (int place = 0; place < Slot::kOfTeam; ++place)
+      m_grid->addWidget(&panel(Slot(team, place)), row + 1, place);
     m_grid->setRowStretch(row + 1, 1);
   }
 }
 
-void PanelGrid::setSelected(const std::function<bool(int slot)>& isSelected) {
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot)
+void PanelGrid::setSelected(const std::function<bool(Slot slot)>& isSelected) {
+  for (const Slot slot : kSlots)
     panel(slot).setSelected(isSelected(slot));
 }
 

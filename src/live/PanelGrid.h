@@ -3,6 +3,7 @@
 
 #include "game/Side.h"
 #include "recording/LiveGame.h"
+#include "recording/Slot.h"
 
 #include <QWidget>
 
@@ -21,20 +22,20 @@ class Texts;
 class PanelGrid : public QWidget {
   Q_OBJECT
  public:
-  using Panels = std::array<PlayerPanel*, LiveGame::kSlots>;
+  using Panels = std::array<PlayerPanel*, kSlots.size()>;
 
   explicit PanelGrid(QWidget* parent);
   // Once, before anything else: the rosters are children of the grid that others make.
   void fill(const PerSide<QWidget*>& rosters, const Settings& settings, const Texts& texts);
 
   [[nodiscard]] const Panels& panels() const { return m_panels; } // by slot
-  [[nodiscard]] PlayerPanel& panel(int slot) const { return *m_panels[static_cast<std::size_t>(slot)]; }
+  [[nodiscard]] PlayerPanel& panel(Slot slot) const { return *m_panels[slot.index()]; }
   // The panel of that team at that place of the grid.
-  [[nodiscard]] std::optional<int> slotAt(Side team, const QPoint& place) const;
+  [[nodiscard]] std::optional<Slot> slotAt(Side team, const QPoint& place) const;
 
   // The home team stands above the visitors.
   void setTurned(bool isTurned);
-  void setSelected(const std::function<bool(int slot)>& isSelected);
+  void setSelected(const std::function<bool(Slot slot)>& isSelected);
   void showGame(const LiveGame& game);
   void showTime(const LiveGame& game);
   void relabelPanels();

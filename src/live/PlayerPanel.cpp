@@ -66,7 +66,7 @@ void setTextColour(QWidget& widget, const QColor& colour) {
 
 } // namespace
 
-PlayerPanel::PlayerPanel(int slot, const Settings& settings, const Texts& texts, QWidget* parent)
+PlayerPanel::PlayerPanel(Slot slot, const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_slot(slot), m_settings(settings), m_texts(texts), m_content(new QWidget(this)) {
   setObjectName(named("fraPLAYER"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -100,7 +100,7 @@ QSize PlayerPanel::minimumSizeHint() const {
 }
 
 QString PlayerPanel::named(const char* name) const {
-  return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(m_slot);
+  return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(m_slot.number());
 }
 
 QLabel* PlayerPanel::headLabel(const char* name, Text toolTip) {

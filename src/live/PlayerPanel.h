@@ -4,6 +4,7 @@
 
 #include "game/EventKind.h"
 #include "recording/LivePanel.h"
+#include "recording/Slot.h"
 
 #include <QPointF>
 #include <QWidget>
@@ -28,8 +29,8 @@ class Texts;
 class PlayerPanel : public QWidget {
   Q_OBJECT
  public:
-  // Slot 0..9; settings and texts must outlive it.
-  PlayerPanel(int slot, const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
+  // Settings and texts must outlive it.
+  PlayerPanel(Slot slot, const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
 
   void showGame(const LiveGame& game); // everything
   void showTime(const LiveGame& game); // the time on court alone
@@ -44,11 +45,11 @@ class PlayerPanel : public QWidget {
 
  signals:
   // `place` is in units of the court as it is shown, not yet turned into left-hand orientation.
-  void courtPressed(int slot, QPointF place, bool isMade);
-  void shotPressed(int slot, hooptab::EventCode kind, bool isMade); // the five buttons
-  void emptyPressed(int slot);                                      // nobody stands here
-  void headPressed(int slot);                                       // number, name, points
-  void actionPressed(int slot, hooptab::EventCode kind);
+  void courtPressed(hooptab::Slot slot, QPointF place, bool isMade);
+  void shotPressed(hooptab::Slot slot, hooptab::EventCode kind, bool isMade); // the five buttons
+  void emptyPressed(hooptab::Slot slot);                                      // nobody stands here
+  void headPressed(hooptab::Slot slot);                                       // number, name, points
+  void actionPressed(hooptab::Slot slot, hooptab::EventCode kind);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -72,7 +73,7 @@ class PlayerPanel : public QWidget {
   [[nodiscard]] int across(int length) const;
   [[nodiscard]] int down(int length) const;
 
-  int m_slot;
+  Slot m_slot;
   bool m_isSelected = false;
   const Settings& m_settings;
   const Texts& m_texts;

@@ -145,7 +145,7 @@ void frmLIVE::connectEverything() {
   for (PlayerPanel* panel : m_panels->panels()) {
     connect(panel, &PlayerPanel::courtPressed, this, &frmLIVE::pressCourt);
     connect(panel, &PlayerPanel::shotPressed, this,
-            [this](int slot, EventCode kind, bool isMade) { shoot(slot, kind, isMade); });
+            [this](Slot slot, EventCode kind, bool isMade) { shoot(slot, kind, isMade); });
     connect(panel, &PlayerPanel::actionPressed, this, &frmLIVE::act);
   }
   connect(m_score, &ScorePanel::startAsked, this, &frmLIVE::toggleClock);
@@ -338,8 +338,8 @@ void frmLIVE::showGame() {
 // For the next action, or whom a question is about: an assist, a rebound, whose an event is.
 void frmLIVE::showSelected() {
   const EventCorrection::Who asked = m_correction->isActive() ? m_correction->whose() : m_askedAbout;
-  m_panels->setSelected([&](int slot) {
-    const Side team = LiveGame::teamOf(slot);
+  m_panels->setSelected([&](Slot slot) {
+    const Side team = slot.team();
     const int player = m_game.playerIn(slot);
     return m_bench->isSelected(team, player) || (player > 0 && asked == EventCorrection::Who{team, player});
   });
@@ -485,7 +485,7 @@ void frmLIVE::switchSides() {
 
 void frmLIVE::showSides() {
   m_panels->setTurned(m_isSwitched && !m_rowsStay); // with the sides, unless they were asked to stay
-  for (int slot = 0; slot < LiveGame::kSlots; ++slot)
+  for (const Slot slot : kSlots)
     m_panels->panel(slot).setPlaysRight(playsRight(slot));
   m_score->setSides(m_isSwitched, m_rowsStay);
   m_sides->setSides(m_isSwitched, m_rowsStay);
@@ -565,7 +565,7 @@ void frmLIVE::dropEvent(QDropEvent* event) {
   const std::string dropped = event->mimeData()->data(playerMimeType()).toStdString();
   const std::optional<Side> team = sideOf(Module1::leadingNumber(Module1::field(dropped, 1, '-')));
   const int player = Module1::leadingNumber(Module1::field(dropped, 2, '-'));
-  const std::optional<int> slot =
+  const std::optional<Slot> slot =
       team ? m_panels->slotAt(*team, m_panels->mapFrom(this, event->position().toPoint())) : std::nullopt;
   if (!slot || player < 1 || player > Roster::kLargestEntry)
     return;

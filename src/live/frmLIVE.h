@@ -10,6 +10,7 @@
 #include "recording/FollowUpQuestion.h"
 #include "recording/FoulThrows.h"
 #include "recording/GameSession.h"
+#include "recording/Slot.h"
 #include "recording/ToggleGuard.h"
 #include "storage/GameLock.h"
 
@@ -104,7 +105,7 @@ class frmLIVE : public ChildWindow {
   void connectLeague();
   void correct(const EventPlace& event);
   void addPlayer(Side team);
-  void putInPlace(int slot);
+  void putInPlace(Slot slot);
   void askFives();
   void proposeFives(frmSUBST& several);
   void tellMissing();
@@ -145,14 +146,14 @@ class frmLIVE : public ChildWindow {
   void markDoubtful();
   void showPeriodEnd();
   void askOvertime();
-  void shoot(int slot, EventCode kind, bool isMade,
+  void shoot(Slot slot, EventCode kind, bool isMade,
              std::optional<std::pair<double, double>> place = std::nullopt);
   bool playsRightOf(Side team) const { return (team == Side::Home) != m_isSwitched; }
-  void pressCourt(int slot, const QPointF& place, bool isMade);
-  void act(int slot, EventCode kind);
+  void pressCourt(Slot slot, const QPointF& place, bool isMade);
+  void act(Slot slot, EventCode kind);
   void followUp(const FollowUpQuestion::Answer& answer, EventCode kind);
   bool record(Side team, int player, EventCode kind);
-  bool playsRight(int slot) const { return playsRightOf(LiveGame::teamOf(slot)); }
+  bool playsRight(Slot slot) const { return playsRightOf(slot.team()); }
   void chooseColour(Side team);
 
   ProfileStore& m_store;

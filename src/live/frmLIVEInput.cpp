@@ -103,14 +103,14 @@ void frmLIVE::connectKeys() {
   });
 }
 
-void frmLIVE::pressCourt(int slot, const QPointF& place, bool isMade) {
+void frmLIVE::pressCourt(Slot slot, const QPointF& place, bool isMade) {
   const auto click = CourtClick::of({place.x(), place.y()}, playsRight(slot), zoneMapOf(m_settings));
   if (click)
     shoot(slot, click->kind, isMade, std::pair(click->place.x, click->place.y));
 }
 
-void frmLIVE::shoot(int slot, EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
-  const Side team = LiveGame::teamOf(slot);
+void frmLIVE::shoot(Slot slot, EventCode kind, bool isMade, std::optional<std::pair<double, double>> place) {
+  const Side team = slot.team();
   const int player = m_game.playerIn(slot);
   m_notices->message().withdraw(); // what it offers was about the event before
   if (isOwed(team, player, kind))
@@ -184,8 +184,8 @@ void frmLIVE::followUp(const FollowUpQuestion::Answer& answer, EventCode kind) {
     offerToPutIn(event, answer.team, answer.player);
 }
 
-void frmLIVE::act(int slot, EventCode kind) {
-  if (record(LiveGame::teamOf(slot), m_game.playerIn(slot), kind))
+void frmLIVE::act(Slot slot, EventCode kind) {
+  if (record(slot.team(), m_game.playerIn(slot), kind))
     m_repeats->noteRecorded();
 }
 

@@ -75,10 +75,10 @@ void frmLIVE::connectLeague() {
     (void)m_session.change()->setDetailsOf(m_asked, {{key, value}});
   });
   m_followUp->setPlayerFinder([this](const QWidget& pressed) -> std::optional<FollowUpQuestion::Answer> {
-    for (int slot = 0; slot < LiveGame::kSlots; ++slot) {
+    for (const Slot slot : kSlots) {
       if (const PlayerPanel& panel = m_panels->panel(slot);
           &panel == &pressed || panel.isAncestorOf(&pressed))
-        return FollowUpQuestion::Answer{.team = LiveGame::teamOf(slot), .player = m_game.playerIn(slot)};
+        return FollowUpQuestion::Answer{.team = slot.team(), .player = m_game.playerIn(slot)};
     }
     return std::nullopt;
   });

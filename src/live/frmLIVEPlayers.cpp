@@ -45,7 +45,7 @@ void frmLIVE::connectPlayers() {
   connect(m_events, &LiveEventPanel::correctionAsked, this, &frmLIVE::correct);
   for (PlayerPanel* panel : m_panels->panels()) {
     connect(panel, &PlayerPanel::headPressed, this,
-            [this](int slot) { m_correction->takePlayer(LiveGame::teamOf(slot), m_game.playerIn(slot)); });
+            [this](Slot slot) { m_correction->takePlayer(slot.team(), m_game.playerIn(slot)); });
     connect(panel, &PlayerPanel::emptyPressed, this, &frmLIVE::putInPlace);
   }
   const auto onKey = [this](const QKeySequence& key, auto step) {
@@ -93,8 +93,8 @@ void frmLIVE::addPlayer(Side team) {
 }
 
 // A player of the bench who is selected comes into an empty place; where nobody is, several can be chosen.
-void frmLIVE::putInPlace(int slot) {
-  const int player = m_bench->selectedOf(LiveGame::teamOf(slot));
+void frmLIVE::putInPlace(Slot slot) {
+  const int player = m_bench->selectedOf(slot.team());
   if (player == 0)
     return m_bench->askSeveral();
   if (m_session.change()->putInSlot(slot, player))

@@ -6,9 +6,9 @@
 
 namespace hooptab {
 
-std::optional<int> CourtSlots::slotOf(Side team, int player) const {
-  for (int slot = firstOf(team); slot < firstOf(team) + kSlotsOfTeam; ++slot) {
-    if (player > 0 && playerIn(slot) == player)
+std::optional<Slot> CourtSlots::slotOf(Side team, int player) const {
+  for (const Slot slot : kSlots) {
+    if (player > 0 && slot.team() == team && playerIn(slot) == player)
       return slot;
   }
   return std::nullopt;
@@ -16,17 +16,17 @@ std::optional<int> CourtSlots::slotOf(Side team, int player) const {
 
 OnCourt CourtSlots::onCourt() const {
   OnCourt entries = {};
-  for (int slot = 0; slot < kSlots; ++slot) {
+  for (const Slot slot : kSlots) {
     if (playerIn(slot) > 0)
-      entries[teamOf(slot)] |= 1U << static_cast<unsigned>(playerIn(slot));
+      entries[slot.team()] |= 1U << static_cast<unsigned>(playerIn(slot));
   }
   return entries;
 }
 
 void CourtSlots::put(const OnCourt& lists) {
   for (const Side team : kSides) {
-    const auto first = m_players.begin() + firstOf(team);
-    const auto last = first + kSlotsOfTeam;
+    const auto first = m_players.begin() + Slot(team, 0).number();
+    const auto last = first + Slot::kOfTeam;
     unsigned coming = lists[team];
     std::vector<int*> free; // those that become so first
     for (auto slot = first; slot != last; ++slot) {
@@ -54,8 +54,8 @@ void CourtSlots::put(const OnCourt& lists) {
   }
 }
 
-void CourtSlots::exchange(int slot, int other) {
-  std::swap(m_players[static_cast<std::size_t>(slot)], m_players[static_cast<std::size_t>(other)]);
+void CourtSlots::exchange(Slot slot, Slot other) {
+  std::swap(m_players[slot.index()], m_players[other.index()]);
 }
 
 } // namespace hooptab

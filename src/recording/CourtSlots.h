@@ -5,6 +5,7 @@
 
 #include "game/Side.h"
 #include "recording/OnCourt.h"
+#include "recording/Slot.h"
 
 #include <array>
 #include <optional>
@@ -13,13 +14,8 @@ namespace hooptab {
 
 class CourtSlots {
  public:
-  static constexpr int kSlots = 10; // 0..4 of the visitors, 5..9 of the home team
-  static constexpr int kSlotsOfTeam = 5;
-
-  static Side teamOf(int slot) { return slot >= kSlotsOfTeam ? Side::Home : Side::Visitor; }
-  static int firstOf(Side team) { return team == Side::Home ? kSlotsOfTeam : 0; }
-  int playerIn(int slot) const { return m_players[static_cast<std::size_t>(slot)]; } // entry; 0: nobody
-  std::optional<int> slotOf(Side team, int player) const;
+  int playerIn(Slot slot) const { return m_players[slot.index()]; } // entry; 0: nobody
+  std::optional<Slot> slotOf(Side team, int player) const;
   OnCourt onCourt() const;
 
   // From the next who comes on; nobody moves at once.
@@ -29,7 +25,7 @@ class CourtSlots {
   void clear() { m_players = {}; }
   void put(const OnCourt& lists); // of six or more the first five
   // Who stands in one of two places of a team stands in the other.
-  void exchange(int slot, int other);
+  void exchange(Slot slot, Slot other);
 
   // The same players at the same places.
   friend bool operator==(const CourtSlots& one, const CourtSlots& other) {
@@ -38,7 +34,7 @@ class CourtSlots {
 
  private:
   bool m_keepsPlaces = false;
-  std::array<int, kSlots> m_players = {};
+  std::array<int, kSlots.size()> m_players = {};
 };
 
 } // namespace hooptab

@@ -28,13 +28,13 @@ void FollowUpQuestion::ask(const LiveGame& game, const LiveGame::FollowUps& foll
   m_shooter = shooter;
   m_choices.clear();
   m_typed.clear();
-  for (const std::vector<int>* slots :
+  for (const std::vector<Slot>* slots :
        {&followUps.assist, &followUps.offensiveRebound, &followUps.defensiveRebound, &followUps.opponents}) {
     if (isAssist() && slots != &followUps.assist)
       continue;
-    for (const int slot : *slots) {
+    for (const Slot slot : *slots) {
       const int player = game.playerIn(slot);
-      const RosterPlayer* entry = game.game().roster[LiveGame::teamOf(slot)].player(player);
+      const RosterPlayer* entry = game.game().roster[slot.team()].player(player);
       if (entry != nullptr)
         m_choices.push_back({slot, player, entry->jersey});
     }

@@ -7,6 +7,7 @@
 #include "game/Side.h"
 #include "recording/JerseyMatch.h"
 #include "recording/LiveGame.h"
+#include "recording/Slot.h"
 #include "settings/Texts.h"
 
 #include <optional>
@@ -18,10 +19,10 @@ namespace hooptab {
 class FollowUpQuestion {
  public:
   struct Choice {
-    int slot = 0;
+    Slot slot;
     int player = 0; // entry
     std::string jersey = {};
-    Side team() const { return LiveGame::teamOf(slot); }
+    Side team() const { return slot.team(); }
   };
   // Who is asked for. The shooter is the one for a technical foul.
   enum class Asks { Assist, Rebound, DrawnBy, Shooter, Steal };

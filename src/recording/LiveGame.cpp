@@ -360,12 +360,11 @@ bool LiveGame::takeAllOut(Side team) {
   return changeByClick(wanted);
 }
 
-bool LiveGame::putInSlot(int slot, int player) {
-  if (slot < 0 || slot >= kSlots || playerIn(slot) > 0 || slotOf(teamOf(slot), player) ||
-      !toggleOnCourt(teamOf(slot), player))
+bool LiveGame::putInSlot(Slot slot, int player) {
+  if (playerIn(slot) > 0 || slotOf(slot.team(), player) || !toggleOnCourt(slot.team(), player))
     return false;
   if (m_slots.keepsPlaces())
-    m_slots.exchange(*slotOf(teamOf(slot), player), slot);
+    m_slots.exchange(*slotOf(slot.team(), player), slot);
   return true;
 }
 

@@ -11,6 +11,7 @@
 #include "recording/LiveHistory.h"
 #include "recording/LiveLog.h"
 #include "recording/NewPlayer.h"
+#include "recording/Slot.h"
 #include "recording/TimeSource.h"
 
 #include <array>
@@ -24,9 +25,6 @@ namespace hooptab {
 
 class LiveGame {
  public:
-  static constexpr int kSlots = CourtSlots::kSlots;
-  static constexpr int kSlotsOfTeam = CourtSlots::kSlotsOfTeam;
-
   // Both must outlive it.
   LiveGame(ProfileStore& store, TimeSource& time);
 
@@ -98,9 +96,8 @@ class LiveGame {
   RecordingLevel level() const { return game().details.recordingLevel(); }
 
   // --- Players
-  static Side teamOf(int slot) { return CourtSlots::teamOf(slot); }
-  int playerIn(int slot) const { return m_slots.playerIn(slot); } // 0: nobody
-  std::optional<int> slotOf(Side team, int player) const { return m_slots.slotOf(team, player); }
+  int playerIn(Slot slot) const { return m_slots.playerIn(slot); } // 0: nobody
+  std::optional<Slot> slotOf(Side team, int player) const { return m_slots.slotOf(team, player); }
   // IN or OUT by one click. False: no such player, five are on court, or nothing can be recorded. While the
   // clock runs, what leaves fewer on court than could play is pending.
   bool toggleOnCourt(Side team, int player);
@@ -122,7 +119,7 @@ class LiveGame {
   [[nodiscard]] int fullNumber(Side team) const;
   // IN of a player of that slot's team; where places are kept he takes exactly this one. False: he is on
   // court or nobody, the slot is taken, or nothing can be recorded.
-  bool putInSlot(int slot, int player);
+  bool putInSlot(Slot slot, int player);
   // Off: after an IN those on court stand in order of the roster. On: nobody moves for one who comes. To be
   // set before a game is opened that shall be shown as it was left.
   void setKeepsPlaces(bool isOn) { m_slots.setKeepsPlaces(isOn); }
@@ -166,13 +163,13 @@ class LiveGame {
   arrow() const; // whose the next held ball is; nobody knows before the first
   // The free throws of the period, as far as they were taken.
   [[nodiscard]] FreeThrows freeThrows() const;
-  // What such a shot asks for; the players who can be chosen, as slots.
+  // What such a shot asks for; the places of the players who can be chosen.
   struct FollowUps {
-    std::vector<int> assist;           // of the shooter's team, without him
-    std::vector<int> offensiveRebound; // of the shooter's team
-    std::vector<int> defensiveRebound; // of the other
+    std::vector<Slot> assist;           // of the shooter's team, without him
+    std::vector<Slot> offensiveRebound; // of the shooter's team
+    std::vector<Slot> defensiveRebound; // of the other
     // Of the other team: who drew the foul, who shoots for a technical one, who stole the ball.
-    std::vector<int> opponents = {};
+    std::vector<Slot> opponents = {};
     bool asksTeam = false;  // the rebound or turnover can be the team's
     bool asksBlock = false; // the shot can have been blocked
     bool isEmpty() const {

@@ -131,10 +131,10 @@ LiveGame::FollowUps LiveGame::followUps(Side team, int player, EventCode kind, b
   const bool asksRebound =
       what->isShot && !isMade && asksRebounds && (kind != EventCode::GFT || !isOfLeague || isLastThrow());
   const bool asksOpponent = isOfLeague && (isFoul(kind) || kind == EventCode::STO);
-  for (int other = 0; other < kSlots; ++other) {
+  for (const Slot other : kSlots) {
     if (playerIn(other) == 0)
       continue;
-    const bool isOwn = teamOf(other) == team;
+    const bool isOwn = other.team() == team;
     if (asksAssist && isOwn && playerIn(other) != player)
       result.assist.push_back(other);
     if (asksRebound)

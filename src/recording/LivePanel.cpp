@@ -53,9 +53,9 @@ int sumOfShots(const Counters& counters, Counter EventKind::*which) {
 
 } // namespace
 
-LivePanel LivePanel::of(const LiveGame& game, int slot) {
+LivePanel LivePanel::of(const LiveGame& game, Slot slot) {
   LivePanel panel;
-  panel.team = LiveGame::teamOf(slot);
+  panel.team = slot.team();
   const RosterPlayer* const player = game.game().roster[panel.team].player(game.playerIn(slot));
   if (player == nullptr)
     return panel;
@@ -78,10 +78,10 @@ LivePanel::FoulMark LivePanel::foulTrouble(const LiveGame& game, Side team, int 
                                                      : personalFoulMark(game, team, player);
 }
 
-std::string LivePanel::timeOf(const LiveGame& game, int slot) {
+std::string LivePanel::timeOf(const LiveGame& game, Slot slot) {
   const int player = game.playerIn(slot);
   return player == 0 ? std::string()
-                     : Module1::clockText(LiveFigures(game).secondsOnCourt(LiveGame::teamOf(slot), player));
+                     : Module1::clockText(LiveFigures(game).secondsOnCourt(slot.team(), player));
 }
 
 int LivePanel::made() const {

@@ -5,6 +5,7 @@
 #include "court/CourtGeometry.h"
 #include "game/GameState.h"
 #include "game/Side.h"
+#include "recording/Slot.h"
 
 #include <cstdint>
 #include <string>
@@ -39,12 +40,12 @@ struct LivePanel {
   std::string timeOnCourt;
   std::vector<ShotMark> shots; // field goals with a place, in the order of the game
 
-  [[nodiscard]] static LivePanel of(const LiveGame& game, int slot);
+  [[nodiscard]] static LivePanel of(const LiveGame& game, Slot slot);
   // Of a player on court or on the bench, personal and technical fouls together: Reached where he has fouled
   // out by either, else what his personal fouls say.
   [[nodiscard]] static FoulMark foulTrouble(const LiveGame& game, Side team, int player);
   // The part that changes while the clock runs; empty for an empty panel.
-  [[nodiscard]] static std::string timeOf(const LiveGame& game, int slot);
+  [[nodiscard]] static std::string timeOf(const LiveGame& game, Slot slot);
 
   [[nodiscard]] int made() const; // of all kinds of shot
   [[nodiscard]] int attempts() const;

@@ -38,8 +38,8 @@ class PlayerPanelTest : public LiveRoom<> {
   }
 
   LiveGame live{store, time};
-  PlayerPanel full{3, settings, texts};
-  PlayerPanel empty{4, settings, texts};
+  PlayerPanel full{{Side::Visitor, 3}, settings, texts};
+  PlayerPanel empty{{Side::Visitor, 4}, settings, texts};
 };
 
 TEST_F(PlayerPanelTest, ShowsThePlayerAndEveryCount) {
@@ -145,7 +145,7 @@ TEST_F(PlayerPanelTest, ButtonsSayWhatTheyRecordWhenTheyArePressed) {
       ASSERT_EQ(shots.count(), before + 1) << name;
       QTest::mouseRelease(&find(full, name), button);
       EXPECT_EQ(shots.count(), before + 1) << name;
-      EXPECT_EQ(shots.last().at(0).toInt(), 3);
+      EXPECT_EQ(*static_cast<const Slot*>(shots.last().at(0).constData()), Slot(Side::Visitor, 3));
       EXPECT_EQ(lastKind(shots), controls.code) << name;
       EXPECT_EQ(shots.last().at(2).toBool(), button == Qt::LeftButton);
     }

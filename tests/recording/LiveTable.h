@@ -5,6 +5,7 @@
 #include "recording/GameSession.h"
 #include "recording/LiveFigures.h"
 #include "recording/ManualTime.h"
+#include "recording/Slot.h"
 #include "support/FaultyFileSystem.h"
 #include "support/TemporaryFolder.h"
 #include "support/TextGame.h"
@@ -52,9 +53,8 @@ class LiveTableTest : public testing::Test {
   }
   std::string places(LiveGame& game, Side team = Side::Visitor) const {
     std::string text;
-    const int first = numberOf(team) * LiveGame::kSlotsOfTeam;
-    for (int slot = first; slot < first + LiveGame::kSlotsOfTeam; ++slot)
-      text += (text.empty() ? "" : " ") + std::to_string(game.playerIn(slot));
+    for (int place = 0; place < Slot::kOfTeam; ++place)
+      text += (text.empty() ? "" : " ") + std::to_string(game.playerIn({team, place}));
     return text;
   }
   Game onDisk() {

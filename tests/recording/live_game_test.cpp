@@ -37,7 +37,7 @@ TEST_F(LiveGameTest, RecordsClockSubstitutionsAndShotsAsTheFileKeepsThem) {
   for (int player = 5; player >= 1; --player)
     EXPECT_TRUE(live.toggleOnCourt(Side::Visitor, player));
   EXPECT_FALSE(live.toggleOnCourt(Side::Visitor, 6)) << "a sixth";
-  EXPECT_EQ(live.playerIn(0), 1) << "in order, whoever came first";
+  EXPECT_EQ(live.playerIn({Side::Visitor, 0}), 1) << "in order, whoever came first";
   run(19);
   EXPECT_EQ(std::pair(live.clockSeconds(), LiveFigures(live).secondsOnCourt(Side::Visitor, 1)),
             std::pair(581, 19));
@@ -67,7 +67,7 @@ TEST_F(LiveGameTest, SubstitutionsAtOneClockAreOneEventAndNeverTheLineOfAStop) {
       " 10:00,ARRET,IN-,IN- 10:00" + kFives +
           " 10:00,DEPART 09:00,ARRET,IN-00-05-10-12-15,IN-04-10-12-15 09:00,DEPART"
           " 09:00,ARRET,IN-00-05-10-12-15,IN-04-10-12-15 09:00,ARRET,IN-00-05-10-12-15,IN-000-04-10-12-15");
-  EXPECT_EQ(live.playerIn(5), 1);
+  EXPECT_EQ(live.playerIn({Side::Home, 0}), 1);
   EXPECT_TRUE(live.takeAllOut(Side::Home));
   EXPECT_EQ(live.onCourt()[Side::Home], 0U);
   // A foul between: another event.
@@ -242,11 +242,11 @@ TEST_F(LiveGameTest, FoulsBonusAndFollowUps) {
   EXPECT_TRUE(LiveFigures(live).isFouledOut(Side::Visitor, 2));
   EXPECT_EQ(LiveFigures(live).teamFouls(Side::Visitor), 7) << "technical ones too";
   EXPECT_EQ(live.followUps(Side::Visitor, 2, EventCode::GFG, true, true).assist,
-            (std::vector<int>{0, 2, 3, 4}));
+            (std::vector<Slot>{kSlots[0], kSlots[2], kSlots[3], kSlots[4]}));
   EXPECT_TRUE(live.followUps(Side::Visitor, 2, EventCode::GFT, true, true).isEmpty());
   const auto rebounds = live.followUps(Side::Home, 2, EventCode::GFT, false, true);
-  EXPECT_EQ(rebounds.offensiveRebound, (std::vector<int>{5, 6, 7, 8, 9}));
-  EXPECT_EQ(rebounds.defensiveRebound, (std::vector<int>{0, 1, 2, 3, 4}));
+  EXPECT_EQ(rebounds.offensiveRebound, std::vector<Slot>(kSlots.begin() + Slot::kOfTeam, kSlots.end()));
+  EXPECT_EQ(rebounds.defensiveRebound, std::vector<Slot>(kSlots.begin(), kSlots.begin() + Slot::kOfTeam));
   EXPECT_TRUE(live.followUps(Side::Home, 2, EventCode::GFT, false, false).isEmpty());
 }
 

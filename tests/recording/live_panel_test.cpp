@@ -45,7 +45,7 @@ class LivePanelTest : public LiveTableTest {
     create(details, "4 5", "4 5");
     ASSERT_TRUE(live.setOnCourt({0b110, 0b100}));
   }
-  int count(int slot, Counter counter) const { return LivePanel::of(live, slot).counters[counter]; }
+  int count(Slot slot, Counter counter) const { return LivePanel::of(live, slot).counters[counter]; }
 };
 
 TEST_F(LivePanelTest, ShowsWhatTheCountersHoldOfThePlayerInTheSlot) {
@@ -55,7 +55,7 @@ TEST_F(LivePanelTest, ShowsWhatTheCountersHoldOfThePlayerInTheSlot) {
   ASSERT_TRUE(live.recordShot(Side::Visitor, 2, EventCode::GFT, true));
   ASSERT_TRUE(live.recordShot(Side::Home, 2, EventCode::GFG, true, {{40, 40}}));
   ASSERT_TRUE(live.recordAction(Side::Visitor, 2, EventCode::SST));
-  const LivePanel panel = LivePanel::of(live, 1);
+  const LivePanel panel = LivePanel::of(live, {Side::Visitor, 1});
   EXPECT_EQ(panel.player, 2);
   EXPECT_EQ(panel.jersey + ' ' + panel.name + ' ' + panel.timeOnCourt, "5 Player 5 01:15");
   EXPECT_EQ(std::pair(panel.made(), panel.attempts()), std::pair(2, 3));
@@ -63,12 +63,12 @@ TEST_F(LivePanelTest, ShowsWhatTheCountersHoldOfThePlayerInTheSlot) {
   EXPECT_EQ(panel.counters[Counter::ST], 1);
   const std::vector<LivePanel::ShotMark> expected = {{{100, 30}, true}, {{20, 90}, false}};
   EXPECT_EQ(panel.shots, expected) << "his own, free throws apart";
-  const LivePanel other = LivePanel::of(live, 5);
+  const LivePanel other = LivePanel::of(live, {Side::Home, 0});
   EXPECT_EQ(other.team, Side::Home);
   EXPECT_EQ(other.shots.size(), 1U);
   ASSERT_TRUE(live.undo());
-  EXPECT_EQ(count(1, Counter::ST), 0);
-  const LivePanel nobody = LivePanel::of(live, 6);
+  EXPECT_EQ(count({Side::Visitor, 1}, Counter::ST), 0);
+  const LivePanel nobody = LivePanel::of(live, {Side::Home, 1});
   EXPECT_EQ(std::pair(nobody.team, nobody.player), std::pair(Side::Home, 0));
   EXPECT_TRUE(nobody.timeOnCourt.empty() && nobody.shots.empty());
 }
@@ -85,15 +85,16 @@ TEST_F(LivePanelTest, WarnsOfTwoEarlyFoulsAndOfOneBeforeTheLimit) {
   ASSERT_TRUE(live.recordAction(Side::Visitor, 2, EventCode::STF) &&
               live.recordAction(Side::Visitor, 2, EventCode::STF));
   EXPECT_EQ(LivePanel::foulTrouble(live, Side::Visitor, 2), Mark::Reached);
-  EXPECT_EQ(LivePanel::of(live, 1).personalFouls, Mark::EarlyTwo);
+  EXPECT_EQ(LivePanel::of(live, {Side::Visitor, 1}).personalFouls, Mark::EarlyTwo);
   ASSERT_TRUE(live.setPeriod(2));
   for (const Mark mark : {Mark::None, Mark::None, Mark::None, Mark::OneLeft, Mark::Reached, Mark::Reached}) {
     ASSERT_TRUE(live.recordAction(Side::Visitor, 1, EventCode::SPF));
-    EXPECT_EQ(LivePanel::of(live, 0).personalFouls, mark) << count(0, Counter::PF);
+    EXPECT_EQ(LivePanel::of(live, {Side::Visitor, 0}).personalFouls, mark)
+        << count({Side::Visitor, 0}, Counter::PF);
   }
-  EXPECT_EQ(LivePanel::of(live, 0).technicalFouls, Mark::None) << "without a single one";
+  EXPECT_EQ(LivePanel::of(live, {Side::Visitor, 0}).technicalFouls, Mark::None) << "without a single one";
   ASSERT_TRUE(live.recordAction(Side::Visitor, 1, EventCode::STF));
-  EXPECT_EQ(LivePanel::of(live, 0).technicalFouls, Mark::OneLeft);
+  EXPECT_EQ(LivePanel::of(live, {Side::Visitor, 0}).technicalFouls, Mark::OneLeft);
 }
 
 class ScoreTextTest : public LiveTableTest {

@@ -17,9 +17,10 @@ TEST_F(LiveTableTest, WhoComesTakesThePlaceOfWhoHasLeftWherePlacesAreKept) {
   run(10);
   for (const int player : {3, 7, 1, 4}) // clicks while the clock runs
     ASSERT_TRUE(live.toggleOnCourt(Side::Visitor, player));
-  EXPECT_FALSE(live.putInSlot(1, 6) || live.putInSlot(3, 7)) << "taken, and on court";
-  EXPECT_FALSE(live.putInSlot(3, 8) || live.putInSlot(10, 6) || live.putInSlot(-1, 6));
-  ASSERT_TRUE(live.putInSlot(3, 6));
+  EXPECT_FALSE(live.putInSlot({Side::Visitor, 1}, 6) || live.putInSlot({Side::Visitor, 3}, 7))
+      << "taken, and on court";
+  EXPECT_FALSE(live.putInSlot({Side::Visitor, 3}, 8));
+  ASSERT_TRUE(live.putInSlot({Side::Visitor, 3}, 6));
   EXPECT_EQ(places(live), "0 2 7 6 5");
   live.stop();
   LiveGame again(store, time);
@@ -30,7 +31,7 @@ TEST_F(LiveTableTest, WhoComesTakesThePlaceOfWhoHasLeftWherePlacesAreKept) {
   ASSERT_TRUE(again.setOnCourt({kFive, kFive}));
   EXPECT_EQ(places(again), "1 2 3 4 5");
   again.finish({});
-  ASSERT_TRUE(live.open(path) == GameFileProblem::None && !live.putInSlot(0, 6));
+  ASSERT_TRUE(live.open(path) == GameFileProblem::None && !live.putInSlot({Side::Visitor, 0}, 6));
 }
 
 using Problem = NewPlayer::Problem;

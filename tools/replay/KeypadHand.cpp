@@ -1,6 +1,7 @@
 #include "tools/replay/KeypadHand.h"
 
 #include "keypad/KeyCodes.h"
+#include "recording/Slot.h"
 
 #include <algorithm>
 #include <array>
@@ -10,7 +11,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSlotsOfTeam = 5;
 // Longer than the program holds a whole number back, lest a digit follow.
 constexpr std::chrono::milliseconds kUntilTaken{600};
 
@@ -144,8 +144,8 @@ std::string KeypadHand::shoot(const GameEvent& event) {
 }
 
 bool KeypadHand::isOffered(const GameEvent& event, const std::string& form) {
-  const int first = event.code == EventCode::SDR ? kSlotsOfTeam : 0;
-  const int count = event.code == EventCode::SA ? kSlotsOfTeam - 1 : kSlotsOfTeam;
+  const int first = event.code == EventCode::SDR ? Slot::kOfTeam : 0;
+  const int count = event.code == EventCode::SA ? Slot::kOfTeam - 1 : Slot::kOfTeam;
   for (int index = first; index < first + count; ++index) {
     const std::string button = form + "/" + element("cmdJERSEY", index);
     if (m_table.program.isShown(button) && m_table.program.text(button) == event.player.jersey)

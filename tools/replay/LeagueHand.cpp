@@ -50,7 +50,7 @@ std::string LeagueHand::foul(const GameEvent& event) {
   GameEvent who = event;
   who.player = *drawnBy;
   if (const auto slot = slotOf(who)) {
-    const Program::Place head = table().program.where(element("lblNom", *slot));
+    const Program::Place head = table().program.where(element("lblNom", slot->number()));
     const Program::Place question = table().program.where("FollowUp");
     if (question.holds(head.middleX(), head.middleY()))
       throw ReplayFailure("the question lies over an opponent");
@@ -79,7 +79,7 @@ std::optional<std::string> LeagueHand::freeThrow(const GameEvent& event) {
   const bool isAsked =
       program.isShown("FollowUp") && program.isShown("Assist"); // who shoots for a technical foul
   if (const auto slot = isAsked ? slotOf(event) : std::nullopt) {
-    table().person.clickAt(program.where(element("lblNom", *slot)));
+    table().person.clickAt(program.where(element("lblNom", slot->number())));
     program.waitUntilShown("FreeThrows");
   }
   if (!program.isShown("FreeThrows"))

@@ -12,7 +12,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSlotsOfTeam = 5;
 constexpr int kOneByOne = 2;     // players who come, at most
 constexpr int kClickedOneIn = 8; // answers
 
@@ -99,10 +98,10 @@ void MouseHand::press(const Mark& mark) {
   m_lastMark = mark;
 }
 
-std::vector<Program::Place> MouseHand::targetsOf(int slot) {
-  std::vector<Program::Place> targets = {m_table.program.where(element("CourtJ", slot))};
+std::vector<Program::Place> MouseHand::targetsOf(Slot slot) {
+  std::vector<Program::Place> targets = {m_table.program.where(element("CourtJ", slot.number()))};
   for (const Control& button : kButtons)
-    targets.push_back(m_table.program.where(element(button.name, slot)));
+    targets.push_back(m_table.program.where(element(button.name, slot.number())));
   std::erase_if(targets, [](const Program::Place& target) { return !target.isShown; });
   return targets;
 }
@@ -116,11 +115,11 @@ void MouseHand::press(const std::string& control, EventCode kind, Person::Button
 }
 
 // Nothing for a player on the bench.
-std::optional<int> MouseHand::slotOf(const GameEvent& event) {
+std::optional<Slot> MouseHand::slotOf(const GameEvent& event) {
   const std::string entry = std::to_string(entryOf(event));
-  for (int place = 0; place < kSlotsOfTeam; ++place) {
-    const int slot = numberOf(*event.player.team) * kSlotsOfTeam + place;
-    if (m_table.program.text(element("lblID", slot)) == entry)
+  for (int place = 0; place < Slot::kOfTeam; ++place) {
+    const Slot slot(*event.player.team, place);
+    if (m_table.program.text(element("lblID", slot.number())) == entry)
       return slot;
   }
   return std::nullopt;
@@ -140,7 +139,7 @@ std::string MouseHand::record(const GameEvent& event) {
     return shoot(event, *slot);
   for (const Control& button : kButtons) {
     if (button.code == event.code)
-      press(element(button.name, *slot), event.code);
+      press(element(button.name, slot->number()), event.code);
   }
   const bool isFollowUp =
       event.code == EventCode::SA || event.code == EventCode::SOR || event.code == EventCode::SDR;
@@ -159,15 +158,15 @@ std::string MouseHand::recordOnBench(const GameEvent& event) {
   return "foul of the bench";
 }
 
-std::string MouseHand::shoot(const GameEvent& event, int slot) {
+std::string MouseHand::shoot(const GameEvent& event, Slot slot) {
   const auto button = event.isMade ? Person::Button::Left : Person::Button::Right;
   for (const Control& shot : kButtons) {
     if (shot.code == event.code) {
-      press(element(shot.name, slot), event.code, button);
+      press(element(shot.name, slot.number()), event.code, button);
       return event.code == EventCode::GFT ? "free throw" : "shot by its button";
     }
   }
-  const Program::Place court = m_table.program.where(element("CourtJ", slot));
+  const Program::Place court = m_table.program.where(element("CourtJ", slot.number()));
   const Pixel pixel = courtPixel(court.width, court.height, {event.x, event.y}, event.code,
                                  playsRight(*event.player.team), m_zones);
   clearAway(court.x + pixel.x, court.y + pixel.y);
@@ -185,9 +184,9 @@ std::optional<std::string> MouseHand::answerQuestion(const GameEvent& event) {
     return std::nullopt;
   m_table.camera.take(isAssist ? "assist" : "rebound");
   const std::string form = isAssist ? "Assist/" : "frmRebound/";
-  const int count = isAssist ? kSlotsOfTeam - 1 : 2 * kSlotsOfTeam;
-  const int first = event.code == EventCode::SDR ? kSlotsOfTeam : 0;
-  const int last = isAssist ? count : first + kSlotsOfTeam;
+  const int count = isAssist ? Slot::kOfTeam - 1 : 2 * Slot::kOfTeam;
+  const int first = event.code == EventCode::SDR ? Slot::kOfTeam : 0;
+  const int last = isAssist ? count : first + Slot::kOfTeam;
   int offered = -1;
   int sameNumber = 0;
   for (int index = 0; index < count; ++index) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "game/Side.h"
+#include "recording/Slot.h"
 #include "tools/replay/CourtPixel.h"
 #include "tools/replay/Hand.h"
 
@@ -22,7 +23,7 @@ class MouseHand : public Hand {
   void returnToEndedPeriod() override;
   std::string record(const GameEvent& event) override;
   std::string substitute(const OnCourt& wanted) override;
-  [[nodiscard]] std::optional<int> slotOf(const GameEvent& event);
+  [[nodiscard]] std::optional<Slot> slotOf(const GameEvent& event);
 
  protected:
   // A place to press, of the screen; what two presses in a row mean depends on the kind.
@@ -43,7 +44,7 @@ class MouseHand : public Hand {
   // Closes what lies over the place: a question, or the card of an ended period.
   void clearAway(int x, int y);
   // Of a panel, as far as they are shown: its buttons and its court.
-  [[nodiscard]] std::vector<Program::Place> targetsOf(int slot);
+  [[nodiscard]] std::vector<Program::Place> targetsOf(Slot slot);
   void clickRoster(Side team, unsigned entries);
   Table& table() { return m_table; }
   const ZoneMap& zones() const { return m_zones; }
@@ -52,7 +53,7 @@ class MouseHand : public Hand {
  private:
   [[nodiscard]] int entryOf(const GameEvent& event) const;
   std::string recordOnBench(const GameEvent& event);
-  std::string shoot(const GameEvent& event, int slot);
+  std::string shoot(const GameEvent& event, Slot slot);
   std::optional<std::string> answerQuestion(const GameEvent& event);
   void clickAnswer(const std::string& button);
   void substituteOneByOne(const OnCourt& wanted);

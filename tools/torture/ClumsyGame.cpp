@@ -1,5 +1,7 @@
 #include "ClumsyGame.h"
 
+#include "recording/Slot.h"
+
 #include <algorithm>
 #include <bit>
 #include <iostream>
@@ -14,7 +16,6 @@ constexpr int kLateOfHundred = 60;   // ends of periods
 constexpr int kHalvesOfHundred = 50; // substitutions while the clock runs
 constexpr int kPausesOfHundred = 25; // fouls
 constexpr int kUndoneOfHundred = 4;
-constexpr int kSlots = 10;
 constexpr auto kSettled = 500ms;
 constexpr auto kBehindSlip = 150ms;
 
@@ -132,9 +133,9 @@ void ClumsyGame::pauseByHeldSpace() {
 void ClumsyGame::undoTwice() {
   if (!m_screen.isQuiet())
     return;
-  std::vector<int> slots;
-  for (int slot = 0; slot < kSlots; ++slot) {
-    if (table().program.isShown(element("cmdBUTTO", slot)))
+  std::vector<Slot> slots;
+  for (const Slot slot : kSlots) {
+    if (table().program.isShown(element("cmdBUTTO", slot.number())))
       slots.push_back(slot);
   }
   if (slots.empty())

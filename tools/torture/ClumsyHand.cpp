@@ -12,8 +12,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kGlance = 120ms; // at what has come of it
-constexpr int kSlots = 10;
-constexpr int kSlotsOfTeam = 5;
 constexpr int kMostDigits = 4;
 
 void sleepFor(std::chrono::milliseconds duration) {
@@ -72,17 +70,17 @@ void ClumsyHand::clickOpeningQuestion(const Mark& mark) {
 }
 
 void ClumsyHand::pressBeside() {
-  const int slot = m_dice.between(0, kSlots - 1);
+  const Slot slot = m_dice.oneOf(kSlots);
   switch (m_dice.between(0, 3)) {
   case 0:
   case 1: pressGap(slot); break;
   case 2: pressLine(slot); break;
-  default: pressPlate(slot < kSlotsOfTeam ? Side::Visitor : Side::Home); break;
+  default: pressPlate(slot.team()); break;
   }
 }
 
 // Beside a button or the court, where no other one is.
-void ClumsyHand::pressGap(int slot) {
+void ClumsyHand::pressGap(Slot slot) {
   const std::vector<Program::Place> targets = targetsOf(slot);
   std::vector<Pixel> gaps;
   for (const Program::Place& target : targets) {
@@ -101,8 +99,8 @@ void ClumsyHand::pressGap(int slot) {
 }
 
 // Where two zones meet, whichever way the court is turned: a line is a pixel wide, and turning it rounds.
-void ClumsyHand::pressLine(int slot) {
-  const Program::Place court = table().program.where(element("CourtJ", slot));
+void ClumsyHand::pressLine(Slot slot) {
+  const Program::Place court = table().program.where(element("CourtJ", slot.number()));
   std::vector<Pixel> line;
   for (int y = 0; court.isShown && y < court.height; ++y) {
     for (int x = 0; x < court.width; ++x) {
@@ -140,8 +138,8 @@ void ClumsyHand::pressClock() {
   slipped();
 }
 
-void ClumsyHand::actByMistake(int slot) {
-  MouseHand::press(element("cmdBUTTO", slot), EventCode::STO);
+void ClumsyHand::actByMistake(Slot slot) {
+  MouseHand::press(element("cmdBUTTO", slot.number()), EventCode::STO);
 }
 
 // --- Substitutions

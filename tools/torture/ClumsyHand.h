@@ -7,6 +7,7 @@
 #include "Screen.h"
 #include "Slip.h"
 #include "game/Side.h"
+#include "recording/Slot.h"
 #include "tools/replay/MouseHand.h"
 
 namespace hooptab {
@@ -25,7 +26,7 @@ class ClumsyHand : public MouseHand {
   void beginSubstitution(const OnCourt& before, const OnCourt& wanted);
   void endSubstitution(const OnCourt& before, const OnCourt& wanted);
   // A turnover for whoever stands there.
-  void actByMistake(int slot);
+  void actByMistake(Slot slot);
   void hitSpace() { pressClock(); }
 
  protected:
@@ -39,8 +40,8 @@ class ClumsyHand : public MouseHand {
   void pressAgain(const Mark& mark, std::chrono::milliseconds behind);
   void clickOpeningQuestion(const Mark& mark);
   void pressBeside();
-  void pressGap(int slot);
-  void pressLine(int slot);
+  void pressGap(Slot slot);
+  void pressLine(Slot slot);
   void pressPlate(Side team);
   [[nodiscard]] std::string wrongNumber(const std::string& jersey);
   void typeByHeart(const std::string& digits);

@@ -3,7 +3,6 @@
 
 #include <chrono>
 #include <random>
-#include <vector>
 
 namespace hooptab {
 
@@ -17,8 +16,8 @@ class Dice {
     return std::chrono::milliseconds(between(least, most));
   }
   // Of one or more.
-  template <typename Value>
-  const Value& oneOf(const std::vector<Value>& values) {
+  template <typename Values>
+  const auto& oneOf(const Values& values) {
     return values[static_cast<std::size_t>(between(0, static_cast<int>(values.size()) - 1))];
   }
 
