@@ -162,7 +162,8 @@ WriteResult mayBeReplaced(FileSystem& files, const std::string& target, const Fi
 }
 
 // Into `bytes`, from a file that is open; whatever it holds where that is not the outcome.
-ReadOutcome readAll(FileSystem& files, int descriptor, std::int64_t size, std::string& bytes) {
+ReadOutcome readAll(FileSystem& files, int descriptor, std::int64_t size, std::int64_t largest,
+                    std::string& bytes) {
   std::size_t length = 0;
   bytes.resize(static_cast<std::size_t>(size) + 1); // one more, so that the end is seen without growing
   while (true) {
@@ -174,7 +175,7 @@ ReadOutcome readAll(FileSystem& files, int descriptor, std::int64_t size, std::s
     if (count == 0)
       break;
     length += static_cast<std::size_t>(count);
-    if (length > static_cast<std::size_t>(kLargestProfileFile))
+    if (length > static_cast<std::size_t>(largest))
       return ReadOutcome::TooLarge;
     if (length == bytes.size())
       bytes.resize(bytes.size() * 2);
@@ -184,7 +185,7 @@ ReadOutcome readAll(FileSystem& files, int descriptor, std::int64_t size, std::s
 }
 
 ReadOutcome readOpened(FileSystem& files, const std::string& path, std::string& bytes, FileStamp& stamp,
-                       StorageError& error) {
+                       std::int64_t largest, StorageError& error) {
   // Without O_NONBLOCK a pipe would hold the program until somebody writes to it.
   Descriptor file(files, path, O_RDONLY | O_NONBLOCK | O_NOCTTY);
   if (!file.isOpen()) {
@@ -200,9 +201,8 @@ ReadOutcome readOpened(FileSystem& files, const std::string& path, std::string& 
     error = {Call::NotAFile, 0, path};
     return ReadOutcome::Failed;
   }
-  const ReadOutcome outcome = stamp.size > kLargestProfileFile
-                                  ? ReadOutcome::TooLarge
-                                  : readAll(files, file.get(), stamp.size, bytes);
+  const ReadOutcome outcome =
+      stamp.size > largest ? ReadOutcome::TooLarge : readAll(files, file.get(), stamp.size, largest, bytes);
   if (outcome == ReadOutcome::Failed)
     error = StorageError::ofCall(Call::Read, path);
   else if (outcome == ReadOutcome::TooLarge)
@@ -213,10 +213,10 @@ ReadOutcome readOpened(FileSystem& files, const std::string& path, std::string& 
 } // namespace
 
 ReadOutcome readWholeFile(FileSystem& files, const std::string& path, std::string& bytes, FileStamp& stamp,
-                          StorageError* error) {
+                          StorageError* error, std::int64_t largest) {
   bytes.clear();
   StorageError why;
-  const ReadOutcome outcome = readOpened(files, path, bytes, stamp, why);
+  const ReadOutcome outcome = readOpened(files, path, bytes, stamp, largest, why);
   if (outcome != ReadOutcome::Read)
     bytes.clear();
   if (error != nullptr)

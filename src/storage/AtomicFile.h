@@ -17,9 +17,10 @@ enum class ReadOutcome { Read, Absent, TooLarge, Failed };
 inline constexpr std::int64_t kLargestProfileFile = 16 * 1024 * 1024;
 
 // Fills `bytes` and `stamp` (the state that was read). `bytes` is empty unless the outcome is Read; else
-// `error`, where one is given, says why.
+// `error`, where one is given, says why. What is longer than `largest` is TooLarge.
 [[nodiscard]] ReadOutcome readWholeFile(FileSystem& files, const std::string& path, std::string& bytes,
-                                        FileStamp& stamp, StorageError* error = nullptr);
+                                        FileStamp& stamp, StorageError* error = nullptr,
+                                        std::int64_t largest = kLargestProfileFile);
 
 // On disk when the new bytes are durably in place; then `stamp` is the state written. On failure the old file
 // stands as it was and `stamp` is left alone; or, when only the folder's own fsync failed, the new file
