@@ -13,11 +13,11 @@ floors=(
   "appearance"
   "court"
   "game"
-  "teams checks totals"
-  "setup forms recording catalogue scorecard simulator"
+  "teams checks totals foreign"
+  "setup forms recording catalogue scorecard simulator livedata bbgame"
   "keypad manual season"
-  "events report scoreboard"
-  "live printing"
+  "events report scoreboard exchange extracts"
+  "live printing publish"
   "shell"
 )
 floor_of() {
