@@ -23,6 +23,10 @@ class JsonWriter {
     separate();
     m_text += truth ? "true" : "false";
   }
+  void null() {
+    separate();
+    m_text += "null";
+  }
   // A named value.
   template <class Value>
   void member(std::string_view memberName, const Value& memberValue) {

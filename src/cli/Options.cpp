@@ -1,26 +1,27 @@
 #include "cli/Options.h"
 
+#include "game/GameEvent.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/CalendarDay.h"
 #include "storage/Module1.h"
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace hooptab {
 
 namespace {
 
 std::optional<CliCommand> commandOf(std::string_view word) {
-  if (word == "box")
-    return CliCommand::Box;
-  if (word == "events")
-    return CliCommand::Events;
-  if (word == "verify")
-    return CliCommand::Verify;
-  if (word == "season")
-    return CliCommand::Season;
-  return std::nullopt;
+  constexpr std::pair<std::string_view, CliCommand> kCommands[] = {
+      {"box", CliCommand::Box},       {"events", CliCommand::Events}, {"verify", CliCommand::Verify},
+      {"season", CliCommand::Season}, {"import", CliCommand::Import}, {"export", CliCommand::Export},
+  };
+  const auto found = std::ranges::find(kCommands, word, &std::pair<std::string_view, CliCommand>::first);
+  return found == std::end(kCommands) ? std::nullopt : std::optional(found->second);
 }
 
 class Parser {
@@ -64,9 +65,66 @@ class Parser {
         m_options.wrong = {Text::CsvForNeeds};
     } else if (const auto language = valueOf(word, "--lang")) {
       setLanguage(*language);
-    } else {
+    } else if (!takeExchangeOption(word)) {
       takeSeasonOption(word);
     }
+  }
+  bool takeExchangeOption(std::string_view word) {
+    ExchangeOptions& exchange = m_options.exchange;
+    if (word == "--replace") {
+      exchange.replaces = true;
+    } else if (const auto format = valueOf(word, "--format")) {
+      exchange.formatKey = *format;
+    } else if (const auto date = valueOf(word, "--date")) {
+      exchange.date = *date;
+      if (!calendarDay(*date))
+        m_options.wrong = {Text::NeedsDate, "--date"};
+      m_importOption = word;
+    } else if (takeClipOption(word)) {
+      m_exportOption = word;
+      if (!word.starts_with("--anchor"))
+        m_filterOption = word;
+    } else {
+      return false;
+    }
+    m_exchangeOption = word;
+    return true;
+  }
+  bool takeClipOption(std::string_view word) {
+    ClipRequest& clips = m_options.exchange.clips;
+    if (const auto text = valueOf(word, "--anchor")) {
+      const std::optional<VideoAnchor> anchor = readAnchor(*text);
+      if (anchor)
+        clips.anchors.push_back(*anchor);
+      else
+        m_options.wrong = {Text::OptionNeeds, "--anchor", "312=1:04:12"};
+    } else if (const auto player = valueOf(word, "--player")) {
+      clips.filter.player = *player;
+      if (!PlayerReference::read(*player))
+        m_options.wrong = {Text::OptionNeeds, "--player", "0-12"};
+    } else if (const auto line = valueOf(word, "--line")) {
+      clips.filter.line = *line;
+      if (!isClipLine(*line))
+        m_options.wrong = {Text::OptionNeeds, "--line", "0-04-05-10-12-15"};
+    } else if (const auto kinds = valueOf(word, "--kind")) {
+      const auto read = readClipKinds(*kinds);
+      clips.filter.kinds = read.value_or(std::vector<ClipKind>());
+      if (!read)
+        m_options.wrong = {Text::OptionNeeds, "--kind", "STO,GF3A"};
+    } else if (const auto before = valueOf(word, "--before")) {
+      setVideoSeconds(clips.before, "--before", *before);
+    } else if (const auto after = valueOf(word, "--after")) {
+      setVideoSeconds(clips.after, "--after", *after);
+    } else {
+      return false;
+    }
+    return true;
+  }
+  void setVideoSeconds(VideoTime& time, const std::string& option, std::string_view text) {
+    constexpr int kMost = 600;
+    int seconds = 0;
+    setNumber(seconds, option, text, kMost);
+    time = VideoTime{seconds} * 1000;
   }
   void setFormat(OutputFormat format) {
     if (m_options.format != OutputFormat::Text && m_options.format != format)
@@ -75,6 +133,10 @@ class Parser {
   }
   void takeSeasonOption(std::string_view word) {
     SeasonOptions& season = m_options.season;
+    if (const auto to = valueOf(word, "--to")) { // a day or a folder: the command says which
+      m_to = *to;
+      return;
+    }
     m_seasonOption = word;
     if (word == "--subfolders") {
       season.withSubfolders = true;
@@ -88,8 +150,6 @@ class Parser {
         m_options.wrong = {Text::OptionNeedsTeam};
     } else if (const auto from = valueOf(word, "--from")) {
       setDay(season.fromDay, "--from", *from);
-    } else if (const auto to = valueOf(word, "--to")) {
-      setDay(season.toDay, "--to", *to);
     } else if (const auto type = valueOf(word, "--type")) {
       const int number = Module1::wholeNumber(*type);
       if (number < 0 || gameTypeOf(number) != number)
@@ -145,28 +205,85 @@ class Parser {
   }
   static bool fits(OutputFormat format, CliCommand command) {
     return format == OutputFormat::Text || command == CliCommand::Box || command == CliCommand::Season ||
-           (command == CliCommand::Verify && format == OutputFormat::Json);
+           ((command == CliCommand::Verify || command == CliCommand::Import) && format == OutputFormat::Json);
   }
   void checkWhole() {
     if (m_options.csvReader == CsvReader::French)
       m_options.language = Language::French; // its heads are French
     if (!m_command)
       m_options.wrong = {Text::CommandMissing};
-    else if (!fits(m_options.format, *m_command))
+    else if (m_to)
+      setTo(*m_to);
+    if (!m_options.wrong)
+      checkTogether();
+  }
+  void setTo(const std::string& to) {
+    if (*m_command == CliCommand::Season)
+      setDay(m_options.season.toDay, "--to", to);
+    else if (!isExchange())
+      m_options.wrong = {Text::GoesWith, "--to", "season|import|export"};
+    else if (to.empty())
+      m_options.wrong = {Text::OptionNeedsFolder, "--to"};
+    else
+      m_options.exchange.folder = to;
+  }
+  [[nodiscard]] bool isExchange() const {
+    return *m_command == CliCommand::Import || *m_command == CliCommand::Export;
+  }
+  void setExchangeFormat() {
+    ExchangeOptions& exchange = m_options.exchange;
+    const bool isExport = *m_command == CliCommand::Export;
+    const std::string keys = isExport ? exportFormatKeys() : importFormatKeys();
+    const std::optional<ExportFormat> format = exportFormatOf(exchange.formatKey);
+    if (exchange.formatKey.empty() && isExport)
+      m_options.wrong = {Text::OptionNeeds, "export --format", keys};
+    else if (isExport && format)
+      setExport(*format);
+    else if (format && format->content == ExportContent::ForeignGame)
+      exchange.importFormat = format->format;
+    else if (isExport || (!exchange.formatKey.empty() && exchange.formatKey != "auto"))
+      m_options.wrong = {Text::NoExchangeFormat, exchange.formatKey, keys};
+  }
+  void setExport(const ExportFormat& format) {
+    m_options.exchange.exportFormat = format;
+    const bool isClips = format.content == ExportContent::Clips;
+    const bool isOfVideo =
+        isClips || format.content == ExportContent::Chapters || format.content == ExportContent::Captions;
+    if (!m_exportOption.empty() && !isOfVideo)
+      m_options.wrong = {Text::GoesWith, m_exportOption, "--format clips|chapters|captions"};
+    else if (!m_filterOption.empty() && !isClips)
+      m_options.wrong = {Text::GoesWith, m_filterOption, "--format clips"};
+  }
+  void checkTogether() {
+    if (!fits(m_options.format, *m_command))
       m_options.wrong = {Text::GoesWith, m_options.format == OutputFormat::Json ? "--json" : "--csv",
-                         m_options.format == OutputFormat::Json ? "box|season|verify" : "box|season"};
+                         m_options.format == OutputFormat::Json ? "box|season|verify|import" : "box|season"};
     else if (!m_seasonOption.empty() && *m_command != CliCommand::Season)
       m_options.wrong = {Text::GoesWith, m_seasonOption, "season"};
+    else if (!m_exchangeOption.empty() && !isExchange())
+      m_options.wrong = {Text::GoesWith, m_exchangeOption, "import|export"};
+    else if (!m_importOption.empty() && *m_command != CliCommand::Import)
+      m_options.wrong = {Text::GoesWith, m_importOption, "import"};
+    else if (!m_exportOption.empty() && *m_command != CliCommand::Export)
+      m_options.wrong = {Text::GoesWith, m_exportOption, "export"};
     else if (m_options.files.empty())
       m_options.wrong = {*m_command == CliCommand::Season ? Text::FolderMissing : Text::FileMissing};
-    else if (m_options.files.size() > 1 && *m_command != CliCommand::Verify)
+    else if (m_options.files.size() > 1 && *m_command != CliCommand::Verify &&
+             *m_command != CliCommand::Import)
       m_options.wrong = {Text::OneFile};
+    else if (isExchange())
+      setExchangeFormat();
   }
 
   const std::vector<std::string>& m_words;
   std::size_t m_next = 0;
   std::optional<CliCommand> m_command;
-  std::string m_seasonOption; // the last one met
+  std::optional<std::string> m_to;
+  std::string m_seasonOption;   // the last one met
+  std::string m_exchangeOption; // the same, of either command, and of each
+  std::string m_importOption;
+  std::string m_exportOption;
+  std::string m_filterOption; // of clips alone
   bool m_isAnswered = false;
   Options m_options;
 };

@@ -1,6 +1,7 @@
 // The command line of hooptab-cli. Only takes it apart: what is asked for is done by main.
 #pragma once
 
+#include "cli/ExchangeOptions.h"
 #include "season/Qualification.h"
 #include "settings/CommandLine.h"
 #include "storage/DelimitedText.h"
@@ -12,7 +13,7 @@
 
 namespace hooptab {
 
-enum class CliCommand : std::uint8_t { Box, Events, Verify, Season, Help, Version };
+enum class CliCommand : std::uint8_t { Box, Events, Verify, Season, Import, Export, Help, Version };
 enum class OutputFormat : std::uint8_t { Text, Json, Csv };
 
 // What a season is narrowed to; empty means all.
@@ -32,6 +33,7 @@ struct Options {
   CsvReader csvReader = CsvReader::Anybody;
   Language language = Language::English;
   SeasonOptions season;
+  ExchangeOptions exchange;
   std::vector<std::string> files; // for a season its folder
   WrongUse wrong;
 };

@@ -1,4 +1,6 @@
-// hooptab-cli: box scores, events and checks of game files, for scripts and for support. Writes to no file.
+// hooptab-cli: box scores, events and checks of game files, for scripts and for support; games from other
+// systems and for them. What is given is only read.
+#include "cli/ExchangeCommands.h"
 #include "cli/Options.h"
 #include "cli/Output.h"
 #include "cli/Reports.h"
@@ -33,6 +35,8 @@ class Program {
       m_output.write(std::string(isFrench() ? commandLineUsage().french : commandLineUsage().english));
       break;
     case CliCommand::Season: season(m_options.files.front()); break;
+    case CliCommand::Import: found(importGames(m_options, m_store, m_texts, m_output, complain)); break;
+    case CliCommand::Export: found(exportGame(m_options, m_store, m_texts, m_output, complain)); break;
     case CliCommand::Version: m_output.write("hooptab-cli " HOOPTAB_VERSION "\n"); break;
     default:
       m_json.beginArray();
@@ -66,6 +70,10 @@ class Program {
   void fault(const std::string& text) {
     complain(text);
     m_status = kFound;
+  }
+  void found(bool isGood) {
+    if (!isGood)
+      m_status = kFound;
   }
   void season(const std::string& folder) {
     const SeasonOptions& wanted = m_options.season;

@@ -68,9 +68,31 @@ std::string smallGame() {
 }
 
 TEST_F(Cli, WrongUseIsStatus2AndOneClearLine) {
-  for (const char* arguments :
-       {"", "--nope", "play g.GAM", "box", "verify", "events", "box a b", "box --json --csv a",
-        "verify --csv a", "--lang de box a", "box a --lang", "box --lang= a", "--"}) {
+  for (const char* arguments : {"",
+                                "--nope",
+                                "play g.GAM",
+                                "box",
+                                "verify",
+                                "events",
+                                "box a b",
+                                "box --json --csv a",
+                                "verify --csv a",
+                                "--lang de box a",
+                                "box a --lang",
+                                "box --lang= a",
+                                "--",
+                                "import",
+                                "import --csv a",
+                                "import --format tables a",
+                                "import --anchor 1=0 a",
+                                "export a",
+                                "export --format nope a",
+                                "export --format nba --date 2026-03-01 a",
+                                "export --format clips --anchor x a",
+                                "export --format clips --kind XYZ a",
+                                "box --to x a",
+                                "verify --replace a",
+                                "import --date 2026-02-30 a"}) {
     const Outcome outcome = run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_EQ(outcome.output, "") << arguments;
@@ -405,6 +427,54 @@ TEST_F(Cli, SeasonNamesWhatItCannotTake) {
 }
 
 // What no program of ours writes: each output says the same of it, and verify names what is wrong.
+TEST_F(Cli, WhatIsExportedIsImportedAgainWithTheSameBox) {
+  const std::string path = m_folder.write(
+      "g.GAM", textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-,IN-\n"
+                          "2=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n"
+                          "3=10:00,DEPART\n4=09:00,GF3,0-4,115,100\n5=09:00,SA,0-5\n"
+                          "6=08:00,STO,1-7,K=TRAVEL\n7=00:00,ARRET,IN-04-05-10-12-15,"
+                          "IN-03-07-08-11-22\n",
+                          "DATE=2026-03-01\nTERMINE=1\nEQUIPE0NOM=Pandas\nEQUIPE1NOM=Olives\n"));
+  for (const char* format : {"fls", "euroleague", "nba", "bbgame"}) {
+    SCOPED_TRACE(format);
+    const std::string there = m_folder.path(format);
+    std::filesystem::create_directory(there);
+    const std::string way = "export " + quoted(path) + " --format " + format + " --to " + quoted(there);
+    EXPECT_EQ(run(way).status, 0);
+    EXPECT_TRUE(holds(run(way).complaint, "--replace")); // never over what is there
+    const Outcome imported =
+        run("import " + quoted(there) + " --date 2026-03-01 --json --to " + quoted(there));
+    EXPECT_EQ(imported.status, 0) << imported.complaint;
+    const Json list = Json::parse(imported.output);
+    ASSERT_EQ(list.array().size(), 1U);
+    EXPECT_EQ(list[0]["format"].text(), format);
+    EXPECT_EQ(list[0]["differences"].array().size(), 0U);
+    const std::string game = list[0]["game"].text();
+    EXPECT_TRUE(game.ends_with("2026-03-01 PAN-OLY.GAM")) << game;
+    EXPECT_TRUE(holds(run("box --csv " + quoted(game)).output, "PAN")) << game;
+    const Outcome again = run("import " + quoted(there) + " --date 2026-03-01 --json --to " + quoted(there));
+    EXPECT_EQ(again.status, 1);
+    EXPECT_TRUE(holds(again.output, "the same game is there already"));
+  }
+}
+
+TEST_F(Cli, ExportsWhatOthersWorkOnWith) {
+  const std::string path = m_folder.path("g.GAM");
+  game(smallGame());
+  const std::string to = " --to " + quoted(m_folder.path(""));
+  EXPECT_EQ(run("export --format tables " + quoted(m_folder.path("")) + to).status, 0);
+  EXPECT_EQ(linesOf(m_folder.read("games.csv")), 2);
+  EXPECT_EQ(run("export --format overlay " + quoted(path) + to).status, 0);
+  EXPECT_EQ(m_folder.read("visitor_score.txt"), "4");
+  EXPECT_EQ(
+      run("export --format clips --kind GFG --anchor 2=10 --anchor 9=1:00:00 " + quoted(path) + to).status,
+      0);
+  EXPECT_TRUE(holds(m_folder.read("g-clips.xml"), "<start>62"));
+  const Outcome few = run("export --format chapters --anchor 2=10 " + quoted(path) + to);
+  EXPECT_EQ(few.status, 1); // two periods are no list of chapters
+  EXPECT_FALSE(few.complaint.empty());
+}
+
 TEST_F(Cli, OddValuesAreReadTheSameEverywhere) {
   const std::string text =
       "[DETAILS]\nVERSION=2.0\nTERMINE=1\nDATE=2026-03-01\nTYPE=7\nNBREPERIODE=1\nDUREE=10\n"
