@@ -16,6 +16,8 @@ constexpr bool kSeparator = true;
 constexpr Command kCommands[] = {
     {ViewMenu, "VIEW", None, Text::ViewGameScorecard, "view", Always, Menu},
       {OpenScorecard, "VwOPEN", ViewMenu, Text::OpenAGame, "vwopen", Always, Action, "Ctrl+O"},
+      {ImportGames, "IMPORT", ViewMenu, Text::ImportGames, "import", Always, Action, "Ctrl+Shift+I", kSeparator},
+      {ExportGame, "EXPORT", ViewMenu, Text::ExportGame, "export", Always, Action, "Ctrl+Shift+E"},
     {Refresh, "VwREFRESH", None, Text::RefreshStatisticsDuringAGame, "vwrefresh", Scorecard, Action, "F5"},
       {RefreshByHand, "VwREFSEC00", Refresh, Text::ManualRefresh, "vwrefsec00", Scorecard, Choice, "", kSeparator},
       {Refresh10, "VwREFSEC10", Refresh, Text::EveryTenSeconds, "vwrefsec10", Scorecard, Choice, "", kSeparator},

@@ -16,6 +16,8 @@ namespace hooptab {
 enum class CommandId : std::uint8_t {
   ViewMenu,
   OpenScorecard,
+  ImportGames,
+  ExportGame,
   Refresh,
   RefreshByHand,
   Refresh10,

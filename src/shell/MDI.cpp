@@ -14,6 +14,7 @@
 #include "scorecard/frmVIEW.h"
 #include "season/frmSTATS.h"
 #include "shell/CommandBar.h"
+#include "shell/ExchangeDesk.h"
 #include "shell/GameDialogs.h"
 #include "shell/GameMenu.h"
 #include "shell/InputDesk.h"
@@ -106,6 +107,7 @@ MDI::MDI(const Workshop& workshop)
           [this](const QString& folder) { m_workshop.memory.rememberExportFolder(fromQt(folder)); });
   m_previews = new PreviewDesk(m_workshop, m_teams, *m_area, *m_output, *this);
   m_input = new InputDesk(m_workshop, m_teams, *m_area, *m_previews, *this);
+  m_exchange = new ExchangeDesk(m_workshop, m_teams, *m_area, *this);
   m_exports = new WindowExports(*m_output, m_workshop.texts, this);
   auto* tables = new QMenu(this);
   auto* bar = new QMenuBar;
@@ -151,6 +153,9 @@ MDI::MDI(const Workshop& workshop)
   connect(m_input, &InputDesk::languageAsked, this, &MDI::switchLanguage);
   connect(m_input, &InputDesk::commandStateChanged, this, &MDI::showCommands);
   connect(m_input, &InputDesk::settingsSaved, m_unsaved, &UnsavedSettings::refresh);
+  connect(m_exchange, &ExchangeDesk::gameAsked, this, &MDI::openGame);
+  connect(m_exchange, &ExchangeDesk::teamsChanged, this, &MDI::openTeams);
+  connect(m_exchange, &ExchangeDesk::reported, this, &MDI::showMessage);
   connect(m_unsaved, &UnsavedSettings::refreshed, this, &MDI::showStatusBar);
   connect(m_unsaved, &UnsavedSettings::restored, this, [this](const QString& words) {
     if (groupInFront() == CommandGroup::Live)
@@ -260,6 +265,7 @@ MDI::~MDI() {
 void MDI::serveCommands() {
   m_input->serve(*m_commands);
   m_previews->serve(*m_commands);
+  m_exchange->serve(*m_commands);
   m_commands->serve(CommandId::OpenScorecard, this, [this] {
     if (const QString path = askForGame(m_workshop, this, Text::OpenAGame); !path.isEmpty())
       openGame(path);
@@ -527,7 +533,7 @@ void MDI::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
   // Later, so that a message does not hold up the program that the files were dragged from.
   QTimer::singleShot(0, this, [this, files = localFiles(*event->mimeData())] {
-    for (const QString& file : files)
+    for (const QString& file : m_exchange->takeForeign(files))
       openGame(file);
   });
 }

@@ -21,6 +21,7 @@ class QStackedWidget;
 namespace hooptab {
 
 class CommandBar;
+class ExchangeDesk;
 class InputDesk;
 class MainMenu;
 class PreviewDesk;
@@ -99,6 +100,7 @@ class MDI : public QMainWindow {
   ReportOutput* m_output = nullptr; // in the status bar while it is at work
   PreviewDesk* m_previews = nullptr;
   InputDesk* m_input = nullptr;
+  ExchangeDesk* m_exchange = nullptr;
   WindowExports* m_exports = nullptr;
 };
 

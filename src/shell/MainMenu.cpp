@@ -32,6 +32,9 @@ MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const C
   QMenu& file = addMenu(Text::FileWord, {CommandId::OpenScorecard});
   file.addMenu(&recent);
   file.addSeparator();
+  file.addAction(&commands.action(CommandId::ImportGames));
+  file.addAction(&commands.action(CommandId::ExportGame));
+  file.addSeparator();
   tables.menuAction()->setObjectName(QStringLiteral("exportTable"));
   tables.setIcon(icon(QStringLiteral("export")));
   setTextNumber(*tables.menuAction(), Text::ExportTable);

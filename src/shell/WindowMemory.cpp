@@ -113,6 +113,14 @@ void WindowMemory::rememberExportFolder(std::string_view folder) {
   write(kChoices, "EXPORTS", escapedPath(folder));
 }
 
+std::string WindowMemory::exportKind() {
+  return value(kChoices, "EXPORTKIND");
+}
+
+void WindowMemory::rememberExportKind(std::string_view key) {
+  write(kChoices, "EXPORTKIND", key);
+}
+
 int WindowMemory::refreshSeconds() {
   const int seconds = Module1::leadingNumber(value(kChoices, "REFRESH"));
   return seconds == 10 || seconds == 30 || seconds == 60 ? seconds : 0;

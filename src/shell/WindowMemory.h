@@ -39,9 +39,12 @@ class WindowMemory {
   // Whether the court is painted calmer than its colours were set; at first it is.
   [[nodiscard]] bool courtIsCalm();
   void rememberCourtIsCalm(bool isCalm);
-  // Where a report was saved last; empty when never.
+  // Where a report or a game for another system was saved last; empty when never.
   [[nodiscard]] std::string exportFolder();
   void rememberExportFolder(std::string_view folder);
+  // As what a game was exported last; empty when never.
+  [[nodiscard]] std::string exportKind();
+  void rememberExportKind(std::string_view key);
   // Seconds between automatic refreshes of a scorecard: 10, 30, 60, or 0 for none.
   [[nodiscard]] int refreshSeconds();
   void rememberRefreshSeconds(int seconds);

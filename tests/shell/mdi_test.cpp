@@ -6,6 +6,8 @@
 #include "court/CourtView.h"
 #include "court/frmCOULEURS.h"
 #include "events/frmSUBST.h"
+#include "exchange/frmEXPORT.h"
+#include "exchange/frmIMPORT.h"
 #include "forms/ScannedTotals.h"
 #include "keypad/frmConfiguration.h"
 #include "live/frmLIVE.h"
@@ -488,7 +490,8 @@ TEST_F(MainWindowTest, SwitchesTheLanguageOfEverythingThatIsOpen) {
 
 TEST_F(MainWindowTest, OpensGamesThatAreDroppedOnIt) {
   QMimeData data;
-  data.setUrls({QUrl::fromLocalFile(makeGame("A.GAM")), QUrl::fromLocalFile(makeWrongFile())});
+  data.setUrls({QUrl::fromLocalFile(makeGame("A.GAM")), QUrl::fromLocalFile(makeWrongFile()),
+                QUrl::fromLocalFile(write("other.JSON", "{}"))});
   const auto isAccepted = [this](QMimeData& dragged) {
     QDragEnterEvent enter({100, 100}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(window.get(), &enter);
@@ -499,6 +502,10 @@ TEST_F(MainWindowTest, OpensGamesThatAreDroppedOnIt) {
   QCoreApplication::sendEvent(window.get(), &drop);
   EXPECT_TRUE(QTest::qWaitFor([&] { return dialogs.shown.size() == 1; }));
   EXPECT_EQ(scorecards().size(), 1);
+  auto* import = area().findChild<frmIMPORT*>();
+  ASSERT_NE(import, nullptr) << "what is of another system is imported";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !import->isBusy(); }));
+  EXPECT_EQ(import->findChild<QTableView*>(u"tblGAMES"_s)->model()->rowCount(), 1);
   QMimeData noFile;
   noFile.setText(u"some words"_s);
   EXPECT_FALSE(isAccepted(noFile));
@@ -521,6 +528,33 @@ TEST_F(MainWindowTest, OpensOneTeamEditorThatAsksBeforeTheProgramEnds) {
   dialogs.nextSaveChoice = SaveChoice::Save;
   EXPECT_TRUE(window->close());
   EXPECT_EQ(TeamStore(store, *settings).read("1").name, "Bees");
+}
+
+TEST_F(MainWindowTest, TakesTeamsOfImportedGamesAndExportsTheGameInFront) {
+  const QString path = makeGame("ONE.GAM");
+  action("gEQUIPE").trigger();
+  action("IMPORT").trigger();
+  Game game;
+  ASSERT_EQ(GameFile(store, fromQt(path)).read(game), GameFileProblem::None);
+  TeamsOfGames teams;
+  teams.add(game);
+  const auto playersOfLast = [&] { return TeamStore(store, *settings).list().back().players; };
+  ASSERT_EQ(playersOfLast(), 0U) << "of the first start's Pumas";
+  emit area().findChild<frmIMPORT*>()->teamsAsked(teams);
+  EXPECT_EQ(playersOfLast(), 0U) << "only after a question";
+  dialogs.nextAnswer = true;
+  emit area().findChild<frmIMPORT*>()->teamsAsked(teams);
+  EXPECT_EQ(playersOfLast(), 1U);
+  EXPECT_EQ(area().findChildren<frmEQUIPES*>().size(), 1) << "another one, which shows them";
+
+  window->openGame(path);
+  useDialog<frmEXPORT>("EXPORT", [](frmEXPORT& form) {
+    form.findChild<QComboBox*>(u"cmbFORMAT"_s)->setCurrentIndex(3);
+    form.findChild<QPushButton*>(u"cmdEXPORT"_s)->click();
+  });
+  EXPECT_TRUE(QFileInfo::exists(fileIn(games, "ONE.xml")));
+  EXPECT_EQ(memory->exportKind(), "bbgame");
+  EXPECT_EQ(memory->exportFolder(), fromQt(games.path()));
 }
 
 TEST_F(MainWindowTest, MakesAGameAndOpensItAndBeginsTheNextOneWithItsChoices) {
