@@ -92,7 +92,7 @@ bool canBeOfTeam(const EuroLeagueKind& kind, const Doer& doer) {
 
 } // namespace
 
-EuroLeagueSheet::EuroLeagueSheet(const ForeignGame& game) : m_game(game) {
+EuroLeagueSheet::EuroLeagueSheet(const ForeignGame& game) : m_game(game), m_origins(shotOrigins(game)) {
   nameTeams();
   for (const Side team : kSides) {
     namePlayers(team);
@@ -226,7 +226,6 @@ void EuroLeagueSheet::takePlay(const ForeignEvent& event) {
   EuroLeaguePlay& play = add(*kind, event, doer);
   if (isShot(kind->code))
     countShot(event, play);
-  followBall(event);
   if (hasOther && (event.code == EventCode::SPF || event.code == EventCode::STF))
     add(euroLeagueKind(EuroLeagueRow::FoulDrawn), event, event.other);
 }
@@ -249,23 +248,9 @@ void EuroLeagueSheet::countShot(const ForeignEvent& event, EuroLeaguePlay& play)
       " (" + std::to_string(made) + '/' + std::to_string(attempts) + " -  " + std::to_string(points) + " pt)";
   play.shot = &event;
   play.score = m_score;
-  play.isOfSecondChance = event.isMade && m_secondChance == event.doer.team;
-  play.isOfTurnover = event.isMade && m_fromTurnover == event.doer.team;
-}
-
-// Which possession it is: one ends with the other team's shot, a defensive rebound or a turnover.
-void EuroLeagueSheet::followBall(const ForeignEvent& event) {
-  const std::optional<Side> team = event.doer.team;
-  const EventCode code = plainCode(event.code);
-  const bool ends = code == EventCode::SDR || code == EventCode::STO;
-  if (ends || (isShot(code) && m_secondChance != team))
-    m_secondChance.reset();
-  if (ends || (isShot(code) && m_fromTurnover != team))
-    m_fromTurnover.reset();
-  if (code == EventCode::SOR)
-    m_secondChance = team;
-  if (code == EventCode::STO)
-    m_fromTurnover = otherSide(*team);
+  const ShotOrigin& origin = m_origins[static_cast<std::size_t>(&event - m_game.events.data())];
+  play.isOfSecondChance = event.isMade && origin.isSecondChance;
+  play.isOfTurnover = event.isMade && origin.isFromTurnover;
 }
 
 } // namespace hooptab

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "foreign/ForeignGame.h"
+#include "foreign/ScoreFlow.h"
 #include "livedata/EuroLeagueKinds.h"
 
 #include <map>
@@ -53,7 +54,6 @@ class EuroLeagueSheet {
   EuroLeaguePlay& add(const EuroLeagueKind& kind, const ForeignEvent& event, const Doer& doer);
   void addMarker(EuroLeagueRow row, int centiseconds);
   void countShot(const ForeignEvent& event, EuroLeaguePlay& play);
-  void followBall(const ForeignEvent& event);
 
   const ForeignGame& m_game;
   std::vector<EuroLeaguePlay> m_plays;
@@ -63,11 +63,10 @@ class EuroLeagueSheet {
   std::map<std::pair<std::optional<Side>, int>, std::map<std::string_view, int>> m_counts;
   PerSide<std::set<int>> m_onCourt = {};
   PerSide<std::vector<int>> m_points = {};
+  std::vector<ShotOrigin> m_origins; // by event
   PerSide<int> m_score = {};
   int m_period = 0;
-  bool m_hasEnded = true;             // the period
-  std::optional<Side> m_secondChance; // the team that has the ball after its offensive rebound
-  std::optional<Side> m_fromTurnover; // after a turnover of the others
+  bool m_hasEnded = true; // the period
 };
 
 } // namespace hooptab
