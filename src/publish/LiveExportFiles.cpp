@@ -32,6 +32,10 @@ std::vector<LiveExportFiles::File> LiveExportFiles::filesOf(const RunningGame& g
 }
 
 bool LiveExportFiles::write(const RunningGame& game) {
+  if (m_game.empty())
+    m_game = game.counted.game.path;
+  if (game.counted.game.path != m_game)
+    return true;
   int error = 0;
   std::vector<File> files;
   try {

@@ -28,7 +28,8 @@ class LiveExportFiles {
 
   LiveExportFiles(LiveExportTarget target, Language language);
   [[nodiscard]] LastError lastError() const { return m_lastError; }
-  // Whether all is on disk; what is not is tried again with the next call.
+  // Whether all is on disk; what is not is tried again with the next call. Of the first game alone that it is
+  // given: over the files of another one nobody was asked.
   [[nodiscard]] bool write(const RunningGame& game);
 
  private:
@@ -42,6 +43,7 @@ class LiveExportFiles {
   Texts m_texts;
   FileSystem m_files;
   ProfileStore m_store{m_files};
+  std::string m_game;                           // its file
   std::map<std::string, std::string> m_written; // by name
   LastError m_lastError = std::make_shared<std::atomic<int>>(0);
 };

@@ -35,6 +35,11 @@ TEST_F(LiveExportFilesTest, AGameOfAnotherSystemIsWhole) {
   LiveExportFiles files({folder.path("out"), GameFormat::LiveStats}, Language::English);
   ASSERT_TRUE(files.write(now()));
   EXPECT_FALSE(out("live.json").empty());
+  folder.write("out/other.json", "an original");
+  RunningGame other = now();
+  other.counted.game.path = folder.path("other.GAM"); // opened in the same window: nobody was asked
+  EXPECT_TRUE(files.write(other));
+  EXPECT_EQ(out("other.json"), "an original");
 }
 
 TEST_F(LiveExportFilesTest, WhatIsNotWrittenIsToldAndWrittenLater) {
