@@ -7,7 +7,6 @@
 #include "support/TextGame.h"
 
 #include <cmath>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -16,13 +15,6 @@ using namespace hooptab;
 namespace {
 
 const std::string kId(32, 'a');
-
-std::string fileText(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
 
 ExchangeNote problemWith(std::string_view bytes) {
   try {
@@ -252,7 +244,7 @@ TEST(BbGameTest, ReadsAGameInProgressAsFarAsItGoes) {
 TEST(BbGameTest, WhatGoesOutComesBack) {
   for (const std::filesystem::path& path : realOrSampleGames()) {
     SCOPED_TRACE(path.filename());
-    const ProfileText text(fileText(path));
+    const ProfileText text(bytesOf(path));
     Game own;
     readGame(text, own);
     if (own.details.inputType != 0)
@@ -324,7 +316,7 @@ std::vector<RealGame> realGames() {
 } // namespace
 
 TEST_P(RealBbGameTest, CountsToWhatItsOwnBoxSays) {
-  const ForeignGame game = readBbGame(XmlDocument(fileText(path())));
+  const ForeignGame game = readBbGame(XmlDocument(bytesOf(path())));
   int compared = 0;
   std::vector<Difference> differences = reconcile(game, buildGame(game, kId), &compared);
   for (Difference& difference : differences)
@@ -338,7 +330,7 @@ TEST_P(RealBbGameTest, CountsToWhatItsOwnBoxSays) {
 }
 
 TEST_P(RealBbGameTest, IsTheSameWrittenAndReadAgain) {
-  const ForeignGame game = readBbGame(XmlDocument(fileText(path())));
+  const ForeignGame game = readBbGame(XmlDocument(bytesOf(path())));
   const ForeignGame again = readBbGame(XmlDocument(writeBbGame(game)));
   EXPECT_EQ(inWords(again.events), inWords(game.events));
   for (std::size_t i = 0; i < game.events.size(); ++i)

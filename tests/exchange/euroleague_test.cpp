@@ -8,7 +8,6 @@
 #include "support/TextGame.h"
 
 #include <algorithm>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <map>
 #include <ostream>
@@ -19,13 +18,6 @@ using namespace hooptab;
 namespace {
 
 const std::string kId(32, 'a');
-
-std::string bytesOf(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
 
 // A row of a play-by-play: "CM ANA P1 09:07"; "-" for nothing. Players wear the digits of their ids.
 Json play(const std::string& text) {

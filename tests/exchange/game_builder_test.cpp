@@ -6,9 +6,7 @@
 #include "support/SharedGames.h"
 #include "support/TextGame.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 using namespace hooptab;
 
@@ -57,13 +55,6 @@ std::vector<std::string> linesOfPeriod(const BuiltGame& built, int period) {
   for (const GameEvent& event : game.events.ofPeriod(period))
     lines.emplace_back(event.line);
   return lines;
-}
-
-std::string fileText(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
 }
 
 } // namespace
@@ -224,7 +215,7 @@ TEST(GameReadingTest, WhoIsInNoRosterIsOneOfTheTeam) {
 TEST(GameReadingTest, WhatGoesOutComesBack) {
   for (const std::filesystem::path& path : realOrSampleGames()) {
     SCOPED_TRACE(path.filename());
-    const ProfileText text(fileText(path));
+    const ProfileText text(bytesOf(path));
     Game own;
     readGame(text, own);
     if (own.details.inputType != 0)

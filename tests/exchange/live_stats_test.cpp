@@ -7,17 +7,11 @@
 #include "support/SharedGames.h"
 
 #include <cmath>
-#include <fstream>
 #include <gtest/gtest.h>
 
 using namespace hooptab;
 
 namespace {
-
-std::string bytesOf(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 // A file with five players a side, numbered from 1, and rows in the order of the game.
 class MadeUpFile {

@@ -8,7 +8,6 @@
 #include "support/SharedGames.h"
 #include "support/TextGame.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -18,18 +17,11 @@ namespace {
 
 const std::string kId(32, 'a');
 
-std::string fileText(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
-
 std::filesystem::path realFolder() {
   return sharedFolder() / "exchange" / "nba-cdn";
 }
 Json realFile(const std::string& name) {
-  return parseJson(fileText(realFolder() / (name + ".json")));
+  return parseJson(bytesOf(realFolder() / (name + ".json")));
 }
 ForeignGame realGame(const std::string& id) {
   const Json box = realFile(id + "-boxscore");
@@ -198,7 +190,7 @@ TEST(NbaLiveTest, ReadsAGameAtHalfTimeAsFarAsItWent) {
 TEST(NbaLiveTest, TakesOurOwnGamesThereAndBack) {
   for (const std::filesystem::path& path : realOrSampleGames()) {
     SCOPED_TRACE(path.filename());
-    const ProfileText text(fileText(path));
+    const ProfileText text(bytesOf(path));
     Game own;
     readGame(text, own);
     if (own.details.inputType != 0)

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -13,6 +15,12 @@ namespace hooptab {
 inline std::filesystem::path sharedFolder() {
   const char* const fromEnvironment = std::getenv("HOOPTAB_SHARED");
   return fromEnvironment != nullptr ? fromEnvironment : HOOPTAB_SHARED;
+}
+
+inline std::string bytesOf(const std::filesystem::path& path) {
+  std::ostringstream bytes;
+  bytes << std::ifstream(path, std::ios::binary).rdbuf();
+  return bytes.str();
 }
 
 // The .GAM files of games/ or of a folder in it, in order of name; empty where the folder is missing.
