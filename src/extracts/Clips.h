@@ -3,7 +3,7 @@
 // those of the game.
 #pragma once
 
-#include "extracts/GameWalk.h"
+#include "insight/GameWalk.h"
 #include "extracts/VideoClock.h"
 #include "game/Side.h"
 

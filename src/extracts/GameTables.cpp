@@ -1,6 +1,6 @@
 #include "extracts/GameTables.h"
 
-#include "extracts/ShotPartners.h"
+#include "insight/ShotPartners.h"
 #include "extracts/TableColumns.h"
 #include "storage/DelimitedText.h"
 

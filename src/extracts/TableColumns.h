@@ -4,7 +4,7 @@
 #pragma once
 
 #include "extracts/ExtractSource.h"
-#include "extracts/GameWalk.h"
+#include "insight/GameWalk.h"
 #include "game/Side.h"
 #include "game/Statistics.h"
 

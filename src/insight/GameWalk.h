@@ -31,7 +31,7 @@ struct WalkedEvent {
   int elapsed = 0;          // seconds of play since the game began; 0 in a game without time
   PerSide<int> before = {}; // the score
   PerSide<int> after = {};
-  int possession = 0;                // as extracts/Possessions.h counts them; 0: none
+  int possession = 0;                // as insight/Possessions.h counts them; 0: none
   std::optional<Side> withBall = {}; // whose it is
   int stint = 0;                     // 0: nobody is on court. Of a stop that changes players, the new one
 };

@@ -1,4 +1,4 @@
-#include "extracts/Possessions.h"
+#include "insight/Possessions.h"
 
 #include "game/EventDetails.h"
 

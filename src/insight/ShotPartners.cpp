@@ -1,4 +1,4 @@
-#include "extracts/ShotPartners.h"
+#include "insight/ShotPartners.h"
 
 #include "game/EventDetails.h"
 #include "game/ShotFollowUp.h"

@@ -1,7 +1,7 @@
-#include "extracts/GameWalk.h"
+#include "insight/GameWalk.h"
 
-#include "extracts/Possessions.h"
 #include "game/PlayerLookup.h"
+#include "insight/Possessions.h"
 #include "storage/Module1.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
-// How a game stands at its events: possessions by the rules that extracts/Possessions.h gives, stints,
+// How a game stands at its events: possessions by the rules that insight/Possessions.h gives, stints,
 // elapsed time.
-#include "extracts/GameWalk.h"
+#include "insight/GameWalk.h"
 
 #include "extracts/GameTables.h"
 #include "support/Json.h"

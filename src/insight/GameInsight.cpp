@@ -1,0 +1,258 @@
+#include "insight/GameInsight.h"
+
+#include "game/EventDetails.h"
+#include "game/Tally.h"
+#include "insight/Possessions.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace hooptab {
+
+namespace {
+
+// The box with its lines, in the whole units in which places are written: 5.8 by 4.9 m.
+constexpr float kPaintLength = 77;
+constexpr float kPaintTop = 67;
+constexpr float kPaintBottom = 133;
+
+bool isInPaint(const GameEvent& shot) {
+  if (shot.code == EventCode::GF3 || shot.code == EventCode::GFT)
+    return false;
+  if (!shot.hasPlace)
+    return shot.code != EventCode::GFG;
+  return shot.x <= kPaintLength && shot.y >= kPaintTop && shot.y <= kPaintBottom;
+}
+
+// Where points come from, as far as the order of the events tells.
+class Origins {
+ public:
+  Origins(const Game& game, PerSide<PointOrigins>& origins)
+      : m_hasTime(game.details.minutesPerPeriod > 0), m_origins(origins) {}
+
+  // An event, and whose possession it belongs to.
+  void take(const GameEvent& event, const Possessions::Stand& stand) {
+    if (event.period != m_period) {
+      m_period = event.period;
+      m_gained.reset();
+      m_lastClock.reset();
+      m_fromTurnover = m_secondChance = 0;
+    }
+    if (stand.number != m_possession) {
+      m_possession = stand.number;
+      m_gained = m_lastClock;
+    }
+    if (stand.number > 0)
+      m_lastClock = event.clockSeconds;
+    if (event.code == EventCode::STO || event.code == EventCode::XTV)
+      m_fromTurnover = stand.number + 1;
+    else if (event.code == EventCode::SOR || event.code == EventCode::XOR)
+      m_secondChance = stand.number;
+    else if (event.isShot())
+      takeShot(event, stand);
+  }
+
+ private:
+  void takeShot(const GameEvent& shot, const Possessions::Stand& stand) {
+    const Side team = *shot.player.team;
+    PointOrigins& origins = m_origins[team];
+    const bool isFast = shot.detail(detail_key::kFastBreak).has_value();
+    if (isFast) {
+      for (PointOrigins& each : m_origins)
+        each.fastBreak = each.fastBreak.value_or(0);
+    }
+    if (!shot.isMade)
+      return;
+    const int points = shot.kind()->points;
+    origins.paint += isInPaint(shot) ? points : 0;
+    if (isFast)
+      *origins.fastBreak += points;
+    if (stand.team != team)
+      return; // the throw of a technical foul in the other team's possession
+    origins.fromTurnovers += stand.number == m_fromTurnover ? points : 0;
+    origins.secondChance += stand.number == m_secondChance ? points : 0;
+    if (m_hasTime && m_gained && *m_gained - shot.clockSeconds <= GameInsight::kQuickSeconds)
+      origins.quick += points;
+  }
+
+  bool m_hasTime;
+  PerSide<PointOrigins>& m_origins;
+  int m_period = 0;
+  int m_possession = 0;
+  int m_fromTurnover = 0; // the number of the possession that follows the last turnover
+  int m_secondChance = 0; // of the one with the last offensive rebound
+  std::optional<int> m_lastClock;
+  std::optional<int> m_gained; // the clock at which the ball was gained
+};
+
+class Builder {
+ public:
+  explicit Builder(const Game& game)
+      : m_game(game), m_tally(m_state, game.roster[Side::Visitor], game.roster[Side::Home]),
+        m_possessions(game.events, game.details.minutesPerPeriod > 0), m_origins(game, m_insight.origins) {
+    m_insight.isFromEvents = game.details.inputType == 0;
+  }
+
+  GameInsight build() {
+    std::size_t place = 0;
+    for (const GameEvent& event : m_game.events) {
+      if (event.isUnderstood && !event.isDeleted && m_insight.isFromEvents)
+        take(event, place);
+      m_tally.apply(event, place++);
+    }
+    std::erase_if(m_insight.matchups, [](const Matchup& matchup) { return matchup.share.isEmpty(); });
+    if (m_insight.isFromEvents)
+      countBench();
+    else
+      countTotals();
+    return std::move(m_insight);
+  }
+
+ private:
+  // Before the tally has it: who is on court belongs to the time and the events before a change.
+  void take(const GameEvent& event, std::size_t place) {
+    if (!event.isOfTeam())
+      followClock(event);
+    const Possessions::Stand stand = m_possessions.take(event, place);
+    m_origins.take(event, stand);
+    CourtShare happened;
+    happened.possessions = stand.begun;
+    if (event.isOfPlayer())
+      count(event, happened.counters[*event.player.team]);
+    if (stand.begun != PerSide<int>{} || event.isOfPlayer())
+      add(event, happened);
+    if (event.isShot() && event.isMade)
+      m_score[*event.player.team] += event.kind()->points;
+  }
+
+  static void count(const GameEvent& event, BoxCounters& counters) {
+    const EventKind& kind = *event.kind();
+    const auto add = [&counters](Counter counter) { ++counters.counts[static_cast<std::size_t>(counter)]; };
+    if (kind.isShot)
+      add(kind.attempts);
+    if (!kind.isShot || event.isMade)
+      add(kind.counter);
+  }
+
+  void followClock(const GameEvent& event) {
+    if (event.period != m_period) {
+      m_period = event.period;
+      m_since = m_clock = event.clockSeconds;
+    }
+    if (!m_hasStarted && (event.isOfPlayer() || event.clockSeconds < m_clock) && isAnybodyOnCourt()) {
+      m_hasStarted = true;
+      for (const Side team : kSides)
+        m_insight.starters[team] = membersOnCourt(team);
+    }
+    const int passed = m_clock - event.clockSeconds;
+    if (isClutch(event.period, m_clock))
+      m_insight.clutch.seconds += passed;
+    m_clock = event.clockSeconds;
+    if (event.code != EventCode::ARRET)
+      return;
+    if (isAnybodyOnCourt()) {
+      CourtShare time;
+      time.seconds = m_since - event.clockSeconds;
+      addToThoseOnCourt(time);
+    }
+    m_since = event.clockSeconds;
+  }
+
+  void add(const GameEvent& event, const CourtShare& happened) {
+    if (isClutch(event.period, event.clockSeconds))
+      m_insight.clutch += happened;
+    addToThoseOnCourt(happened);
+  }
+
+  void addToThoseOnCourt(const CourtShare& share) {
+    m_insight.whole += share;
+    matchup().share += share;
+    for (const Side team : kSides) {
+      for (std::size_t i = 0; i < m_state.onCourtCount[team]; ++i) {
+        if (const std::size_t player = m_state.onCourt[team][i]; player > 0)
+          m_insight.players[team][player] += share;
+      }
+    }
+  }
+
+  Matchup& matchup() {
+    const PerSide<int> line = {m_state.currentLine[Side::Visitor], m_state.currentLine[Side::Home]};
+    if (m_matchup < m_insight.matchups.size() && m_insight.matchups[m_matchup].line == line)
+      return m_insight.matchups[m_matchup];
+    const auto known = std::ranges::find(m_insight.matchups, line, &Matchup::line);
+    m_matchup = static_cast<std::size_t>(known - m_insight.matchups.begin());
+    if (known == m_insight.matchups.end())
+      m_insight.matchups.push_back({line, {}});
+    return m_insight.matchups[m_matchup];
+  }
+
+  [[nodiscard]] bool isClutch(int period, int clockSeconds) const {
+    const GameDetails& details = m_game.details;
+    return details.minutesPerPeriod > 0 && period >= details.periods &&
+           clockSeconds <= GameInsight::kClutchSeconds &&
+           std::abs(m_score[Side::Visitor] - m_score[Side::Home]) <= GameInsight::kClutchPoints;
+  }
+  [[nodiscard]] bool isAnybodyOnCourt() const {
+    return m_state.onCourtCount[Side::Visitor] + m_state.onCourtCount[Side::Home] > 0;
+  }
+  [[nodiscard]] std::uint16_t membersOnCourt(Side team) const {
+    unsigned members = 0;
+    for (std::size_t i = 0; i < m_state.onCourtCount[team]; ++i)
+      members |= 1U << m_state.onCourt[team][i];
+    return static_cast<std::uint16_t>(members & ~1U);
+  }
+
+  void countBench() {
+    for (const Side team : kSides) {
+      for (int player = 0; player < static_cast<int>(GameState::kPlayerEntries); ++player) {
+        if (!m_insight.isStarter(team, player))
+          m_insight.origins[team].bench +=
+              pointsOf(m_state.players[team][static_cast<std::size_t>(player)].counters);
+      }
+    }
+  }
+  void countTotals() {
+    for (const Side team : kSides) {
+      for (const PlayerEntry& player : m_state.players[team])
+        m_insight.whole.counters[team] += player.counters;
+    }
+  }
+
+  const Game& m_game;
+  GameState m_state;
+  Tally m_tally;
+  Possessions m_possessions;
+  GameInsight m_insight;
+  Origins m_origins;
+  PerSide<int> m_score = {};
+  std::size_t m_matchup = 0;
+  int m_period = 0;
+  int m_clock = 0; // of the last event
+  int m_since = 0; // from which on the time on court is not counted yet
+  bool m_hasStarted = false;
+};
+
+} // namespace
+
+CourtShare GameInsight::ofLine(Side team, int line) const {
+  CourtShare sum;
+  for (const Matchup& matchup : matchups) {
+    if (matchup.line[team] == line)
+      sum += matchup.share;
+  }
+  return sum;
+}
+
+GameInsight insightOf(const Game& game) {
+  return Builder(game).build();
+}
+
+double estimatedPossessions(const BoxNumbers& numbers, const TeamRow& ofTeam) {
+  constexpr double kThrowsThatEndOne = 0.44;
+  constexpr ShotKinds kThrows = shotKinds({EventCode::GFT});
+  return numbers.attempted(kAllShotKinds & ~kThrows) + kThrowsThatEndOne * numbers.attempted(kThrows) -
+         numbers.counters[Counter::OR] - ofTeam.offensiveRebounds + numbers.counters[Counter::TO] +
+         ofTeam.turnovers;
+}
+
+} // namespace hooptab
