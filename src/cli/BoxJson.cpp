@@ -1,15 +1,18 @@
+#include "cli/InsightReports.h"
 #include "cli/NumbersJson.h"
 #include "cli/Reports.h"
 #include "scorecard/BoxScore.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace hooptab {
 
 namespace {
 
-// `extras` of a player; null for a line.
-void writeRow(JsonWriter& json, const BoxRow& row, std::string_view line, const PlayerExtras* extras) {
+// `extras` of a player; null for a line. `plusMinus`: none of a game without line-ups.
+void writeRow(JsonWriter& json, const BoxRow& row, std::string_view line, const PlayerExtras* extras,
+              const std::optional<int>& plusMinus) {
   json.beginObject();
   json.beginLine();
   if (row.kind == BoxRowKind::Line || row.kind == BoxRowKind::OtherLines) {
@@ -24,6 +27,11 @@ void writeRow(JsonWriter& json, const BoxRow& row, std::string_view line, const 
     json.member("FD", extras->foulsDrawn);
     json.member("BA", extras->blocksAgainst);
   }
+  json.name("plusMinus");
+  if (plusMinus)
+    json.value(*plusMinus);
+  else
+    json.null();
   json.endObject();
   json.endLine();
 }
@@ -51,7 +59,8 @@ void writeTeamRow(JsonWriter& json, const TeamRow& row) {
   json.endLine();
 }
 
-void writeTeam(JsonWriter& json, const Scorecard& card, Side team, const Texts& texts) {
+void writeTeam(JsonWriter& json, const Scorecard& card, const GameInsight& insight, const MarginFlow& flow,
+               Side team, const Texts& texts) {
   const Game& game = card.game();
   const GameState& state = card.state();
   std::vector<int> points;
@@ -71,14 +80,18 @@ void writeTeam(JsonWriter& json, const Scorecard& card, Side team, const Texts& 
     json.name(view == BoxView::Players ? "players" : "lines");
     json.beginArray();
     for (const BoxRow& row : boxRows(*card.counted(), team, view, texts)) {
-      if (row.kind != BoxRowKind::Total)
-        writeRow(json, row, state.lines[team][static_cast<std::size_t>(row.entry)].list,
-                 view == BoxView::Players ? &state.extras[team][static_cast<std::size_t>(row.entry)]
-                                          : nullptr);
+      if (row.kind == BoxRowKind::Total)
+        continue;
+      const auto entry = static_cast<std::size_t>(row.entry);
+      const bool isPlayer = view == BoxView::Players;
+      const CourtShare share = isPlayer ? insight.players[team][entry] : insight.ofLine(team, row.entry);
+      writeRow(json, row, state.lines[team][entry].list, isPlayer ? &state.extras[team][entry] : nullptr,
+               insight.isFromEvents ? std::optional(share.plusMinus(team)) : std::nullopt);
     }
     json.endArray();
   }
   writeTeamRow(json, state.teamRows[team]);
+  writeTeamInsight(json, insight, flow, *card.counted(), team);
   json.endObject();
 }
 
@@ -86,6 +99,8 @@ void writeTeam(JsonWriter& json, const Scorecard& card, Side team, const Texts& 
 
 std::string boxJson(const Scorecard& card) {
   const Texts english;
+  const GameInsight insight = insightOf(card.game());
+  const MarginFlow flow = marginFlowOf(card.game());
   JsonWriter json;
   json.beginObject();
   json.member("file", card.path());
@@ -93,7 +108,7 @@ std::string boxJson(const Scorecard& card) {
   json.name("teams");
   json.beginArray();
   for (const Side team : kSides)
-    writeTeam(json, card, team, english);
+    writeTeam(json, card, insight, flow, team, english);
   json.endArray();
   json.name("lead");
   json.beginObject();
@@ -104,6 +119,7 @@ std::string boxJson(const Scorecard& card) {
   writeNumberList(json, "seconds", seconds);
   writeNumberList(json, "times", {lead.times.begin(), lead.times.end()});
   json.endObject();
+  writeFlowCounts(json, insight, flow);
   json.endObject();
   return json.text();
 }

@@ -2,6 +2,9 @@
 
 #include "storage/Utf8.h"
 
+#include <array>
+#include <charconv>
+#include <cmath>
 #include <cstdio>
 
 namespace hooptab {
@@ -21,6 +24,15 @@ void JsonWriter::value(std::string_view text) {
 void JsonWriter::value(int number) {
   separate();
   m_text += std::to_string(number);
+}
+
+void JsonWriter::value(double number) {
+  separate();
+  constexpr double kThousand = 1000;
+  std::array<char, 32> digits = {};
+  const double rounded = std::round(number * kThousand) / kThousand;
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), rounded).ptr;
+  m_text.append(digits.data(), end);
 }
 
 void JsonWriter::begin(char bracket) {

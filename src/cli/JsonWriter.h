@@ -18,6 +18,7 @@ class JsonWriter {
   void name(std::string_view name);
   void value(std::string_view text);
   void value(int number);
+  void value(double number);         // to three decimals
   template <std::same_as<bool> Bool> // a text must not be taken for one
   void value(Bool truth) {
     separate();

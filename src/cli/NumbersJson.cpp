@@ -1,6 +1,7 @@
 #include "cli/NumbersJson.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace hooptab {
@@ -51,6 +52,18 @@ void writeSeasonNumbers(JsonWriter& json, const BoxNumbers& numbers) {
   for (const Statistic& statistic : statistics()) {
     if (statistic.boxColumn == 0 && statistic.group == nullptr)
       write(json, statistic.name, statistic, numbers);
+  }
+}
+
+void writeRates(JsonWriter& json, const RateBasis& basis, bool ofPlayers) {
+  for (const Rate& rate : rates()) {
+    if (rate.isOfPlayersOnly && !ofPlayers)
+      continue;
+    json.name(rate.name);
+    if (const std::optional<double> value = rate.value(basis))
+      json.value(*value);
+    else
+      json.null();
   }
 }
 

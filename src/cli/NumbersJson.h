@@ -3,6 +3,7 @@
 
 #include "cli/JsonWriter.h"
 #include "game/Statistics.h"
+#include "insight/Rates.h"
 
 namespace hooptab {
 
@@ -10,5 +11,7 @@ namespace hooptab {
 void writeNumbers(JsonWriter& json, const BoxNumbers& numbers);
 // Those that only a season's tables have.
 void writeSeasonNumbers(JsonWriter& json, const BoxNumbers& numbers);
+// Those of the table of rates, as they are and not in percent; null where there is nothing to divide by.
+void writeRates(JsonWriter& json, const RateBasis& basis, bool ofPlayers = false);
 
 } // namespace hooptab

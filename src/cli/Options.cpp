@@ -1,5 +1,6 @@
 #include "cli/Options.h"
 
+#include "cli/InsightReports.h"
 #include "game/GameEvent.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/CalendarDay.h"
@@ -19,6 +20,7 @@ std::optional<CliCommand> commandOf(std::string_view word) {
   constexpr std::pair<std::string_view, CliCommand> kCommands[] = {
       {"box", CliCommand::Box},       {"events", CliCommand::Events}, {"verify", CliCommand::Verify},
       {"season", CliCommand::Season}, {"import", CliCommand::Import}, {"export", CliCommand::Export},
+      {"lines", CliCommand::Lines},   {"flow", CliCommand::Flow},     {"compare", CliCommand::Compare},
   };
   const auto found = std::ranges::find(kCommands, word, &std::pair<std::string_view, CliCommand>::first);
   return found == std::end(kCommands) ? std::nullopt : std::optional(found->second);
@@ -65,6 +67,11 @@ class Parser {
         m_options.wrong = {Text::CsvForNeeds};
     } else if (const auto language = valueOf(word, "--lang")) {
       setLanguage(*language);
+    } else if (const auto size = valueOf(word, "--size")) {
+      m_hasSize = true;
+      setNumber(m_options.together, "--size", *size, kMostTogether);
+      if (m_options.together == 0 && !m_options.wrong)
+        m_options.wrong = {Text::OptionNeeds, "--size", "1|2|3|4|5"};
     } else if (!takeExchangeOption(word)) {
       takeSeasonOption(word);
     }
@@ -204,8 +211,9 @@ class Parser {
       m_options.wrong = {Text::NoCommand, word};
   }
   static bool fits(OutputFormat format, CliCommand command) {
-    return format == OutputFormat::Text || command == CliCommand::Box || command == CliCommand::Season ||
-           ((command == CliCommand::Verify || command == CliCommand::Import) && format == OutputFormat::Json);
+    if (format == OutputFormat::Text || command == CliCommand::Box || command == CliCommand::Season)
+      return true;
+    return format == OutputFormat::Json && command != CliCommand::Events && command != CliCommand::Export;
   }
   void checkWhole() {
     if (m_options.csvReader == CsvReader::French)
@@ -257,7 +265,9 @@ class Parser {
   void checkTogether() {
     if (!fits(m_options.format, *m_command))
       m_options.wrong = {Text::GoesWith, m_options.format == OutputFormat::Json ? "--json" : "--csv",
-                         m_options.format == OutputFormat::Json ? "box|season|verify|import" : "box|season"};
+                         m_options.format == OutputFormat::Json
+                             ? "box|lines|flow|compare|season|verify|import"
+                             : "box|season"};
     else if (!m_seasonOption.empty() && *m_command != CliCommand::Season)
       m_options.wrong = {Text::GoesWith, m_seasonOption, "season"};
     else if (!m_exchangeOption.empty() && !isExchange())
@@ -266,6 +276,10 @@ class Parser {
       m_options.wrong = {Text::GoesWith, m_importOption, "import"};
     else if (!m_exportOption.empty() && *m_command != CliCommand::Export)
       m_options.wrong = {Text::GoesWith, m_exportOption, "export"};
+    else if (m_hasSize && *m_command != CliCommand::Lines)
+      m_options.wrong = {Text::GoesWith, "--size", "lines"};
+    else if (*m_command == CliCommand::Compare && m_options.files.size() > 1)
+      takePlayers();
     else if (m_options.files.empty())
       m_options.wrong = {*m_command == CliCommand::Season ? Text::FolderMissing : Text::FileMissing};
     else if (m_options.files.size() > 1 && *m_command != CliCommand::Verify &&
@@ -273,6 +287,15 @@ class Parser {
       m_options.wrong = {Text::OneFile};
     else if (isExchange())
       setExchangeFormat();
+  }
+
+  // Behind the game's file.
+  void takePlayers() {
+    m_options.players.assign(m_options.files.begin() + 1, m_options.files.end());
+    m_options.files.resize(1);
+    const auto isPlayer = [](const std::string& word) { return PlayerReference::read(word).has_value(); };
+    if (m_options.players.size() != 2 || !std::ranges::all_of(m_options.players, isPlayer))
+      m_options.wrong = {Text::CliCompareNeedsTwo};
   }
 
   const std::vector<std::string>& m_words;
@@ -284,6 +307,7 @@ class Parser {
   std::string m_importOption;
   std::string m_exportOption;
   std::string m_filterOption; // of clips alone
+  bool m_hasSize = false;
   bool m_isAnswered = false;
   Options m_options;
 };

@@ -13,7 +13,19 @@
 
 namespace hooptab {
 
-enum class CliCommand : std::uint8_t { Box, Events, Verify, Season, Import, Export, Help, Version };
+enum class CliCommand : std::uint8_t {
+  Box,
+  Lines,
+  Flow,
+  Compare,
+  Events,
+  Verify,
+  Season,
+  Import,
+  Export,
+  Help,
+  Version
+};
 enum class OutputFormat : std::uint8_t { Text, Json, Csv };
 
 // What a season is narrowed to; empty means all.
@@ -34,7 +46,9 @@ struct Options {
   Language language = Language::English;
   SeasonOptions season;
   ExchangeOptions exchange;
-  std::vector<std::string> files; // for a season its folder
+  int together = 5;                 // of `lines`: how many players
+  std::vector<std::string> players; // of `compare`: two as events name them ("0-12"), or none
+  std::vector<std::string> files;   // for a season its folder
   WrongUse wrong;
 };
 

@@ -1,6 +1,7 @@
 // hooptab-cli: box scores, events and checks of game files, for scripts and for support; games from other
 // systems and for them. What is given is only read.
 #include "cli/ExchangeCommands.h"
+#include "cli/InsightReports.h"
 #include "cli/Options.h"
 #include "cli/Output.h"
 #include "cli/Reports.h"
@@ -145,17 +146,51 @@ class Program {
     }
     if (card.outOfRange())
       fault(of(file, tooMany(card)));
+    if (needsEvents() && card.game().details.inputType != 0) {
+      fault(of(file, words(Text::CliNoEventsForInsight)));
+      return;
+    }
+    if (m_options.command == CliCommand::Compare) {
+      compare(card);
+      return;
+    }
     m_output.write(report(card));
   }
   std::string report(const Scorecard& card) const {
+    const bool isJson = m_options.format == OutputFormat::Json;
     if (m_options.command == CliCommand::Events)
       return eventsText(card.game(), m_texts);
+    if (m_options.command == CliCommand::Lines)
+      return isJson ? linesJson(*card.counted(), m_options.together)
+                    : linesText(*card.counted(), m_options.together, m_texts);
+    if (m_options.command == CliCommand::Flow)
+      return isJson ? flowJson(*card.counted()) : flowText(*card.counted(), m_texts);
     switch (m_options.format) {
     case OutputFormat::Json: return boxJson(card);
     case OutputFormat::Csv: return boxCsv(card, m_texts, m_options.csvReader);
     case OutputFormat::Text: break;
     }
     return boxText(card, m_texts);
+  }
+  bool needsEvents() const {
+    return m_options.command == CliCommand::Lines || m_options.command == CliCommand::Flow ||
+           m_options.command == CliCommand::Compare;
+  }
+  void compare(const Scorecard& card) {
+    ComparedPlayers players;
+    for (std::size_t i = 0; i < m_options.players.size(); ++i) {
+      const PlayerReference named = *PlayerReference::read(m_options.players[i]);
+      const int entry = card.game().roster[*named.team].entryOf(named.jersey);
+      if (entry == 0) {
+        fault(of(card.path(), words(Text::CliNoSuchPlayer, m_options.players[i])));
+        return;
+      }
+      if (!players)
+        players.emplace();
+      (*players)[i] = {*named.team, entry};
+    }
+    m_output.write(m_options.format == OutputFormat::Json ? compareJson(*card.counted(), players)
+                                                          : compareText(*card.counted(), players, m_texts));
   }
   bool isVerifiedAsJson() const {
     return m_options.command == CliCommand::Verify && m_options.format == OutputFormat::Json;

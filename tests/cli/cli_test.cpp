@@ -91,6 +91,11 @@ TEST_F(Cli, WrongUseIsStatus2AndOneClearLine) {
                                 "export --format clips --anchor x a",
                                 "export --format clips --kind XYZ a",
                                 "box --to x a",
+                                "box --size 2 a",
+                                "lines --size 6 a",
+                                "lines --csv a",
+                                "compare a 0-4",
+                                "compare a 0-4 four",
                                 "verify --replace a",
                                 "import --date 2026-02-30 a"}) {
     const Outcome outcome = run(arguments);
@@ -107,6 +112,32 @@ TEST_F(Cli, TellsItsUseAndVersion) {
   for (const char* word : {"box", "events", "verify", "--json", "--csv", "--lang", "--version"})
     EXPECT_TRUE(holds(help.output, word)) << word;
   EXPECT_EQ(run("--version").output, "hooptab-cli " HOOPTAB_VERSION "\n");
+}
+
+TEST_F(Cli, TellsLinesFlowAndComparison) {
+  const std::string file = game(smallGame());
+  const Json box = Json::parse(run("box --json " + file).output);
+  EXPECT_EQ(box["teams"][0]["players"][0]["plusMinus"].integer(), 0); // 4-4 with him on court
+  EXPECT_EQ(box["teams"][1]["lines"][0]["plusMinus"].integer(), 0);
+  EXPECT_EQ(box["teams"][0]["paint"].integer(), 4);
+  EXPECT_TRUE(box["teams"][0]["fastBreak"].isNull());
+  EXPECT_EQ(box["teams"][1]["biggestLead"]["clock"].text(), "08:00");
+  EXPECT_EQ(box["leadChanges"].integer(), 2);
+  EXPECT_EQ(box["timesTied"].integer(), 1);
+  const Json lines = Json::parse(run("lines --json --size 1 " + file).output);
+  EXPECT_EQ(lines[0]["together"][0]["players"].text(), "4");
+  EXPECT_EQ(lines[0]["together"][0]["seconds"].integer(), 1500);
+  EXPECT_EQ(lines[0]["together"][1]["onCourt"].boolean(), false);
+  const Json flow = Json::parse(run("flow --json " + file).output);
+  EXPECT_EQ(flow["steps"].array().size(), 4U);
+  EXPECT_GT(flow["steps"][1]["homeWins"].number(), flow["steps"][0]["homeWins"].number());
+  const Json compared = Json::parse(run("compare --json " + file + " 0-4 1-7").output);
+  EXPECT_EQ(compared[0]["PTS"].integer(), 4);
+  EXPECT_DOUBLE_EQ(compared[1]["usage"].number(), 1);
+  EXPECT_TRUE(holds(run("compare --lang fr " + file).output, "Dans la raquette"));
+  const Outcome stranger = run("compare " + file + " 0-4 0-99");
+  EXPECT_EQ(stranger.status, 1);
+  EXPECT_TRUE(holds(stranger.complaint, "0-99"));
 }
 
 TEST_F(Cli, SaysOfAFileThatIsNoGameWhatAndWhere) {
