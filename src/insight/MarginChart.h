@@ -1,0 +1,35 @@
+// The score difference of a game as a small chart under a line of figures: a card of its own that says at a
+// glance how the game went.
+#pragma once
+
+#include "appearance/Card.h"
+#include "game/CountedGame.h"
+#include "insight/FlowDrawing.h"
+
+#include <memory>
+
+namespace hooptab {
+
+class MarginChart : public Card {
+  Q_OBJECT
+
+ public:
+  explicit MarginChart(const Texts& texts, QWidget* parent = nullptr); // the texts must outlive it
+
+  void showGame(std::shared_ptr<const CountedGame> counted);
+  void applyColours() { update(); }
+  void relabelChart(); // in the language in use
+
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const Texts& m_texts;
+  std::shared_ptr<const CountedGame> m_counted;
+  FlowDrawing m_drawing;
+};
+
+} // namespace hooptab
