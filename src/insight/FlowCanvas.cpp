@@ -31,6 +31,8 @@ constexpr double kLastGutter = 105;
 constexpr double kLastGutterWide = 140;
 constexpr int kLeastRow = 13;
 constexpr int kLeastDrag = 4;
+constexpr int kPictureChart = 240; // heights of a picture that is saved
+constexpr int kPictureRow = 18;
 
 int px(double narrow, double wide) {
   return Theme::measure()(static_cast<int>(narrow), static_cast<int>(wide));
@@ -213,43 +215,14 @@ std::optional<FlowCanvas::Tip> FlowCanvas::tip() const {
 void FlowCanvas::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const FlowType type = this->type();
   const FlowPalette palette(Theme::look(), m_drawing.colours);
   paintCard(painter, chartCard(), *this);
-  const MarginPainter chart(m_drawing, palette, type, MarginPainter::Detail::Full);
-  if (m_counted == nullptr || !m_drawing.emptyWords.empty())
-    return chart.paint(painter, chartCard());
-  const RotationLayout rotation = this->rotation();
-  const FlowLayout time = timeLayout();
+  if (!hasPicture())
+    return MarginPainter(m_drawing, palette, type(), MarginPainter::Detail::Full).paint(painter, chartCard());
+  const double below = chartCard().bottom() + cardGap();
   if (hasRotation())
-    paintCard(painter,
-              QRectF(0, chartCard().bottom() + cardGap(), width(),
-                     rotation.bottom() - chartCard().bottom() - cardGap() + px(3)),
-              *this);
-  chart.paintGrid(painter, plot());
-  const auto span = shownSpan();
-  if (hasRotation()) {
-    const GameDetails& details = m_counted->game.details;
-    PerSide<std::string> titles;
-    for (const Side team : kSides)
-      titles[team] = details.name[team].empty() ? m_drawing.teams[team] : details.name[team];
-    RotationPainter(m_rows, time, palette, type)
-        .paint(painter, rotation,
-               {0, static_cast<double>(width()), titles, std::string(m_texts.text(Text::MinutesShort))});
-    QPen dashed(palette.look.edge, 1, Qt::CustomDashLine, Qt::FlatCap);
-    dashed.setDashPattern({2, 3});
-    painter.setPen(dashed);
-    for (std::size_t i = 1; i < m_drawing.flow.periods.size(); ++i) {
-      const double x = time.x(m_drawing.flow.periods[i].begin);
-      painter.drawLine(QPointF(x, rotation.headTop(Side::Visitor)), QPointF(x, rotation.bottom()));
-    }
-  }
-  if (span)
-    paintSpan(painter, *span);
-  chart.paintCurve(painter, plot());
-  chart.paintResult(painter, plot(), width() - px(6));
-  if (m_showsChances)
-    chart.paintChances(painter, plot(), m_chances);
+    paintCard(painter, QRectF(0, below, width(), rotation().bottom() - below + px(3)), *this);
+  paintCharts(painter, palette, {plot(), rotation(), 0, static_cast<double>(width())}, shownSpan());
   paintFigures(painter);
   paintPlay(painter);
   if (const auto tip = this->tip())
@@ -259,6 +232,56 @@ void FlowCanvas::paintEvent(QPaintEvent*) {
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(chartCard().adjusted(1, 1, -1, -1), px(7), px(7));
   }
+}
+
+void FlowCanvas::paintCharts(QPainter& painter, const FlowPalette& palette, const Places& places,
+                             const std::optional<Span>& span) const {
+  const FlowType type = this->type();
+  const MarginPainter chart(m_drawing, palette, type, MarginPainter::Detail::Full);
+  const FlowLayout time = chart.layout(places.plot);
+  chart.paintGrid(painter, places.plot);
+  if (hasRotation()) {
+    const GameDetails& details = m_counted->game.details;
+    PerSide<std::string> titles;
+    for (const Side team : kSides)
+      titles[team] = details.name[team].empty() ? m_drawing.teams[team] : details.name[team];
+    RotationPainter(m_rows, time, palette, type)
+        .paint(painter, places.rotation,
+               {places.left, places.right, titles, std::string(m_texts.text(Text::MinutesShort))});
+    QPen dashed(palette.look.edge, 1, Qt::CustomDashLine, Qt::FlatCap);
+    dashed.setDashPattern({2, 3});
+    painter.setPen(dashed);
+    for (std::size_t i = 1; i < m_drawing.flow.periods.size(); ++i) {
+      const double x = time.x(m_drawing.flow.periods[i].begin);
+      painter.drawLine(QPointF(x, places.rotation.headTop(Side::Visitor)),
+                       QPointF(x, places.rotation.bottom()));
+    }
+  }
+  if (span)
+    paintSpan(painter, *span);
+  chart.paintCurve(painter, places.plot);
+  chart.paintResult(painter, places.plot, places.right - px(6));
+  if (m_showsChances)
+    chart.paintChances(painter, places.plot, m_chances);
+}
+
+bool FlowCanvas::hasPicture() const {
+  return m_counted != nullptr && m_drawing.emptyWords.empty();
+}
+
+QSize FlowCanvas::pictureSize() const {
+  const auto rows = static_cast<int>(m_rows[Side::Visitor].size() + m_rows[Side::Home].size() + 2);
+  return {px(1100), px(kPictureChart) + (hasRotation() ? rows * px(kPictureRow) : 0)};
+}
+
+void FlowCanvas::paintPicture(QPainter& painter, const QRectF& area) const {
+  const double line = QFontMetricsF(Theme::font(Type::Small)).height();
+  const QRectF chart(area.left(), area.top(), area.width(), px(kPictureChart) - px(12));
+  const RotationLayout rows({{m_rows[Side::Visitor].size(), m_rows[Side::Home].size()}}, chart.bottom(),
+                            px(kPictureRow), px(kPictureRow));
+  const QRectF plot = chart.adjusted(leftGutter(), line + px(8), -rightGutter(), -line - px(8));
+  paintCharts(painter, FlowPalette(lookOf(ColourScheme::Light), m_drawing.colours),
+              {plot, rows, area.left(), area.right()}, std::nullopt);
 }
 
 void FlowCanvas::paintFigures(QPainter& painter) const {

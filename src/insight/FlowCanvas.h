@@ -3,6 +3,7 @@
 // it is in decides what a stretch shows.
 #pragma once
 
+#include "appearance/ShownPicture.h"
 #include "game/CountedGame.h"
 #include "insight/FlowDrawing.h"
 #include "insight/FlowLayout.h"
@@ -19,7 +20,7 @@
 
 namespace hooptab {
 
-class FlowCanvas : public QWidget {
+class FlowCanvas : public QWidget, public ShownPicture {
   Q_OBJECT
 
  public:
@@ -30,6 +31,10 @@ class FlowCanvas : public QWidget {
   void showChances(bool areShown);
   void relabelCanvas();
   [[nodiscard]] bool hasTime() const { return m_drawing.flow.hasTime && m_drawing.emptyWords.empty(); }
+
+  [[nodiscard]] bool hasPicture() const override;
+  [[nodiscard]] QSize pictureSize() const override;
+  void paintPicture(QPainter& painter, const QRectF& area) const override;
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
@@ -60,6 +65,12 @@ class FlowCanvas : public QWidget {
     std::string words;
     QPointF at; // beside which it stands
   };
+  struct Places { // of both charts
+    QRectF plot;
+    RotationLayout rotation;
+    double left = 0; // as far as names and sums may reach
+    double right = 0;
+  };
   [[nodiscard]] bool hasRotation() const;
   [[nodiscard]] FlowType type() const;
   [[nodiscard]] QRectF chartCard() const;
@@ -74,6 +85,8 @@ class FlowCanvas : public QWidget {
   [[nodiscard]] double rowBottomOf(const Stay& stay) const;
   [[nodiscard]] std::optional<Span> shownSpan() const;
   [[nodiscard]] std::optional<Tip> tip() const;
+  void paintCharts(QPainter& painter, const FlowPalette& palette, const Places& places,
+                   const std::optional<Span>& span) const;
   void paintFigures(QPainter& painter) const;
   void paintSpan(QPainter& painter, const Span& span) const;
   void paintTip(QPainter& painter, const Tip& tip) const;

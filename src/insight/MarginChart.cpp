@@ -56,6 +56,20 @@ QSize MarginChart::minimumSizeHint() const {
   return {m(260), m(100)};
 }
 
+FlowType MarginChart::type() {
+  return {Theme::font(Type::Small), Theme::font(Type::Small, QFont::Bold), Theme::measure()(10, 12) / 10.0};
+}
+
+bool MarginChart::hasPicture() const {
+  return m_counted != nullptr && m_drawing.emptyWords.empty();
+}
+
+// Larger than it is shown, hence with all its signs.
+void MarginChart::paintPicture(QPainter& painter, const QRectF& area) const {
+  const FlowPalette palette(lookOf(ColourScheme::Light), m_drawing.colours);
+  MarginPainter(m_drawing, palette, type(), MarginPainter::Detail::Full).paint(painter, area);
+}
+
 void MarginChart::paintEvent(QPaintEvent* event) {
   Card::paintEvent(event);
   const Measure& m = Theme::measure();
@@ -67,8 +81,8 @@ void MarginChart::paintEvent(QPaintEvent* event) {
   painter.setFont(strong);
   painter.setPen(look.ink);
   painter.drawText(head, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title);
-  const FlowType type{Theme::font(Type::Small), Theme::font(Type::Small, QFont::Bold), m(10, 12) / 10.0};
-  if (m_drawing.emptyWords.empty() && m_counted != nullptr) {
+  const FlowType type = this->type();
+  if (hasPicture()) {
     painter.setFont(type.text);
     painter.setPen(look.muted);
     const double room = head.width() - QFontMetricsF(strong).horizontalAdvance(title) - m(16);

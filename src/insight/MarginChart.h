@@ -3,14 +3,16 @@
 #pragma once
 
 #include "appearance/Card.h"
+#include "appearance/ShownPicture.h"
 #include "game/CountedGame.h"
 #include "insight/FlowDrawing.h"
+#include "insight/FlowPalette.h"
 
 #include <memory>
 
 namespace hooptab {
 
-class MarginChart : public Card {
+class MarginChart : public Card, public ShownPicture {
   Q_OBJECT
 
  public:
@@ -20,6 +22,10 @@ class MarginChart : public Card {
   void applyColours() { update(); }
   void relabelChart(); // in the language in use
 
+  [[nodiscard]] bool hasPicture() const override;
+  [[nodiscard]] QSize pictureSize() const override { return {800, 300}; }
+  void paintPicture(QPainter& painter, const QRectF& area) const override;
+
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -27,6 +33,8 @@ class MarginChart : public Card {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  [[nodiscard]] static FlowType type();
+
   const Texts& m_texts;
   std::shared_ptr<const CountedGame> m_counted;
   FlowDrawing m_drawing;

@@ -91,6 +91,7 @@ TEST_F(FlowPanelTest, WithoutTimeThereIsNoStretchAndOfTotalsNothingAtAll) {
   EXPECT_FALSE(find<QCheckBox>("chkCHANCES").isVisible());
   window->showGame(played("INPUTTYPE=1\n"));
   EXPECT_EQ(canvas->accessibleDescription(), text(Text::NoOrderInTotals));
+  EXPECT_FALSE(canvas->hasPicture());
   MarginChart small(texts);
   small.showGame(played());
   EXPECT_TRUE(small.accessibleDescription().contains(QStringLiteral("OLY")));
