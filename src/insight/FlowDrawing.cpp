@@ -34,6 +34,8 @@ FlowDrawing flowDrawing(const Game& game, const Texts& texts) {
     drawing.shortPeriods.push_back(name);
     drawing.periods.push_back(isNumber ? texts.withPlaceholder(Text::PeriodNumber, name) : name);
   }
+  drawing.timeWords = texts.text(Text::Time);
+  drawing.differenceWords = texts.text(Text::ScoreDifference);
   if (flow.steps.empty()) {
     drawing.emptyWords = texts.text(game.details.inputType != 0 ? Text::NoOrderInTotals : Text::NoScoreYet);
     return drawing;

@@ -14,10 +14,12 @@ namespace hooptab {
 
 struct FlowDrawing {
   MarginFlow flow;
-  PerSide<std::string> teams;            // abbreviations
-  PerSide<std::uint32_t> colours = {};   // red + 256 * green + 65536 * blue
-  PerSide<std::string> ahead;            // "HERON ahead"
-  std::string result;                    // "HERON by 4"
+  PerSide<std::string> teams;          // abbreviations
+  PerSide<std::uint32_t> colours = {}; // red + 256 * green + 65536 * blue
+  PerSide<std::string> ahead;          // "HERON ahead"
+  std::string result;                  // "HERON by 4"
+  std::string timeWords;               // of the axes, where they are columns
+  std::string differenceWords;
   std::vector<std::string> periods;      // "Period 1", one for each of the flow
   std::vector<std::string> shortPeriods; // "1"
   std::string emptyWords;                // why there is nothing to draw; empty where there is

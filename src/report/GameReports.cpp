@@ -4,6 +4,7 @@
 #include "game/Glossary.h"
 #include "game/RunningScore.h"
 #include "report/BoxReport.h"
+#include "report/GameSheet.h"
 #include "report/LeagueBox.h"
 #include "report/ReportWords.h"
 #include "scorecard/ColumnWords.h"
@@ -385,6 +386,10 @@ Report playByPlayReport(const CountedGame& counted, const Texts& texts) {
 std::span<const GameReport> gameReports() {
   using Counted = std::shared_ptr<const CountedGame>;
   static constexpr GameReport kReports[] = {
+      {"sheet", Text::GameSheetReport,
+       [](const Counted& counted, const ScorecardView&, const Settings&, const Texts& texts) {
+         return gameSheet(*counted, texts);
+       }},
       {"scorecard", Text::Scorecard,
        [](const Counted& counted, const ScorecardView& choice, const Settings& settings, const Texts& texts) {
          return scorecardReport(counted, choice, settings, texts);

@@ -1,5 +1,5 @@
-// The reports of one game: scorecard and play-by-play. Every number is taken from the classes that the
-// scorecard shows; nothing is counted here.
+// The reports of one game: the game on one page, scorecard, league's box score, play-by-play. Every number is
+// taken from the classes that the scorecard shows; nothing is counted here.
 #pragma once
 
 #include "game/CountedGame.h"

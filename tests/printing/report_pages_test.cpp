@@ -7,6 +7,7 @@
 #include "printing/frmprint.h"
 #include "report/BoxReport.h"
 #include "report/GameReports.h"
+#include "report/GameSheet.h"
 #include "report/ReportText.h"
 #include "report/SeasonReports.h"
 #include "report/TeamReports.h"
@@ -93,6 +94,7 @@ class ReportPagesTest : public WindowRoom<> {
             ofSeason(SeasonReport::Player, player),
             ofSeason(SeasonReport::LineOther, season.lines().front().id),
             scorecard(game),
+            gameSheet({game, tallied(game)}, texts),
             scorecardReport(counted(game), byLine, settings, texts),
             playByPlayReport({shorter, tallied(shorter)}, texts),
             rosterReport(team, players, texts),
@@ -241,6 +243,35 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheTablesOfTheSeasonSay) {
         EXPECT_EQ(behind(row.name, text, 0), cells) << row.name;
       }
     }
+  }
+}
+
+// Fifteen players each: all of them stand on the one page, on the smaller paper as well.
+TEST_F(ReportPagesTest, AGameOfTwoFullRostersStandsOnOnePage) {
+  std::string text = "[DETAILS]\nVERSION=2.0\nEQUIPE0ABB=PAN\nEQUIPE1ABB=OLY\nNBREPERIODE=4\nDUREE=10\n";
+  std::string events = "[PERIODE1]\n";
+  for (int team = 0; team < 2; ++team) {
+    text += '[' + std::to_string(team) + "]\n";
+    for (int player = 0; player < 15; ++player) {
+      const std::string jersey = std::to_string(100 + 100 * team + player);
+      text += jersey + "=1,Somebody With A Name " + jersey + "\n";
+      events += jersey + "=05:00,GFG," + std::to_string(team) + '-' + jersey + ",40,50\n";
+    }
+  }
+  const Game game = gameOfText(text + events);
+  const Report report = gameSheet({game, tallied(game)}, texts);
+  for (const Paper paper : {Paper::A4, Paper::Letter}) {
+    ReportLayout layout(report, {paper, PageTurn::Landscape}); // which such a report does not follow
+    layout.finish();
+    ASSERT_EQ(layout.pages().size(), 1U);
+    EXPECT_LT(layout.size().width(), layout.size().height());
+    std::set<QString> names;
+    for (const PageText& each : layout.pages().front().texts) {
+      EXPECT_TRUE(layout.body().adjusted(-1, -1, 1, 1).contains(each.box)) << each.text.toStdString();
+      if (each.text.startsWith(QStringLiteral("Somebody With A Name")))
+        names.insert(each.text);
+    }
+    EXPECT_EQ(names.size(), 30U);
   }
 }
 
