@@ -231,10 +231,15 @@ class GameSheet {
     report.blocks.push_back(std::move(picture));
   }
 
+  // Two empty courts would tell nothing.
   void addShotsAndComparison(Report& report) const {
-    report.blocks.push_back(shots(Side::Visitor));
     ReportTable comparison = this->comparison();
-    comparison.standsBeside = true;
+    comparison.standsBeside = std::ranges::any_of(m_counted.state.shots, &Shot::hasPlace);
+    if (!comparison.standsBeside) {
+      report.blocks.push_back(std::move(comparison));
+      return;
+    }
+    report.blocks.push_back(shots(Side::Visitor));
     report.blocks.push_back(std::move(comparison));
     report.blocks.push_back(shots(Side::Home));
     std::get<ReportPicture>(report.blocks.back()).standsBeside = true;
