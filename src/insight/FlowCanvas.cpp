@@ -291,11 +291,14 @@ void FlowCanvas::paintFigures(QPainter& painter) const {
   const QRectF room(left, plot().top(), leftGutter() - left - px(26), plot().height());
   double y = room.top();
   const auto line = [&](const QFont& font, const QColor& colour, const QString& words) {
+    constexpr int kFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
     painter.setFont(font);
     painter.setPen(colour);
-    QRectF taken;
-    painter.drawText(QRectF(room.left(), y, room.width(), room.bottom() - y),
-                     Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, words, &taken);
+    const QRectF taken =
+        painter.boundingRect(QRectF(room.left(), y, room.width(), room.height()), kFlags, words);
+    if (taken.bottom() > room.bottom() + px(4))
+      return; // half a line would only disturb
+    painter.drawText(taken, kFlags, words);
     y += taken.height() + px(2);
   };
   line(head, look.ink, toQt(m_texts.text(Text::ScoreDifference)));

@@ -97,17 +97,44 @@ std::vector<FlowLayout::Bracket> FlowLayout::brackets(double textWidth) const {
   return kept;
 }
 
-std::vector<int> FlowLayout::timeOutRows(double width) const {
+double FlowLayout::textPlace(Side team, double width, double height) const {
+  constexpr int kPlaces = 24;
+  const auto hides = [&](double left) {
+    double from = m_plot.left;
+    double curve = y(0);
+    const auto isHidden = [&](double to) {
+      const bool isBeyond =
+          team == Side::Visitor ? curve < m_plot.top + height : curve > m_plot.bottom() - height;
+      return isBeyond && from < left + width && to > left;
+    };
+    for (const MarginFlow::Step& step : m_flow.steps) {
+      const double to = x(step.at);
+      if (isHidden(to))
+        return true;
+      from = to;
+      curve = y(step.margin());
+    }
+    return isHidden(m_plot.right());
+  };
+  for (int place = 0; place < kPlaces; ++place) {
+    const double left = m_plot.left + (m_plot.width - width) * place / (kPlaces - 1);
+    if (!hides(left))
+      return left;
+  }
+  return m_plot.left;
+}
+
+std::vector<int> FlowLayout::timeOutRows(double width, double from, double to) const {
   std::vector<int> rows;
   std::vector<double> ends; // of the last one in each row
   for (const MarginFlow::TimeOut& timeOut : m_flow.timeOuts) {
     const double left = x(timeOut.at) - width / 2;
-    const auto free = std::ranges::find_if(ends, [&](double end) { return left >= end; });
-    rows.push_back(static_cast<int>(free - ends.begin()));
-    if (free == ends.end())
-      ends.push_back(left + width);
-    else
-      *free = left + width;
+    std::size_t row = left < to && left + width > from ? 1 : 0;
+    while (row < ends.size() && left < ends[row])
+      ++row;
+    ends.resize(std::max(ends.size(), row + 1), m_plot.left - width);
+    ends[row] = left + width;
+    rows.push_back(static_cast<int>(row));
   }
   return rows;
 }

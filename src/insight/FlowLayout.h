@@ -51,8 +51,12 @@ class FlowLayout {
   // From the last score before a run to its last one, in the order of the game. Where two would stand on each
   // other with their texts the larger run has the place; of equal ones the first.
   [[nodiscard]] std::vector<Bracket> brackets(double textWidth) const;
-  // For each time-out in which row it stands, from 0, so that none covers another.
-  [[nodiscard]] std::vector<int> timeOutRows(double width) const;
+  // Where a text of that size stands at the outer edge of the half in which a team leads: as far left as it
+  // hides nothing of the curve; at the left where it always would.
+  [[nodiscard]] double textPlace(Side team, double width, double height) const;
+  // For each time-out in which row it stands, from 0, so that none covers another. In the first row a text
+  // stands between `from` and `to`.
+  [[nodiscard]] std::vector<int> timeOutRows(double width, double from, double to) const;
   // The play at that place or nearest to it: of several at one time the last.
   [[nodiscard]] static std::optional<std::size_t> playAt(const std::vector<FlowPlay>& plays, int at);
 

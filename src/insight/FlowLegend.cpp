@@ -30,6 +30,9 @@ class Line {
     m_at += width + gap();
     return middle;
   }
+  [[nodiscard]] bool hasRoomFor(double signWidth, const QString& text) const {
+    return room() >= signWidth + gap() + m_type.metrics().horizontalAdvance(text);
+  }
   void skip(double width) { m_at += width; }
   [[nodiscard]] double room() const { return m_box.right() - m_at; }
   [[nodiscard]] double gap() const { return 5 * m_type.pixel; }
@@ -77,20 +80,27 @@ void FlowLegend::paintEvent(QPaintEvent*) {
   }
   line.words(QStringLiteral("+%1").arg(kFullPlusMinus));
   line.skip(14 * pixel);
-  paintLeadChange(painter, line.sign(8 * pixel), palette.look, pixel);
-  line.words(text(Text::LegendLeadChange));
-  paintTimeOut(painter, line.sign(12 * pixel), palette.look.raised, Theme::look().desk, type);
-  line.words(text(Text::LegendTimeOut));
-  const QPointF run = line.sign(12 * pixel);
-  painter.setPen(QPen(palette.look.muted, 2 * pixel, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-  painter.setBrush(Qt::NoBrush);
-  const QPointF corners[] = {run + QPointF(-6, 4) * pixel, run + QPointF(-6, -3) * pixel,
-                             run + QPointF(6, -3) * pixel, run + QPointF(6, 4) * pixel};
-  painter.drawPolyline(std::data(corners), std::size(corners));
-  line.words(toQt(m_texts.withPlaceholder(Text::LegendRun, std::to_string(MarginFlow::kShownRun))));
+  const auto explain = [&](double width, const QString& words, const auto& paintSign) {
+    if (!line.hasRoomFor(width * pixel, words))
+      return;
+    paintSign(line.sign(width * pixel));
+    line.words(words);
+  };
+  explain(8, text(Text::LegendLeadChange),
+          [&](QPointF at) { paintLeadChange(painter, at, palette.look, pixel); });
+  explain(12, text(Text::LegendTimeOut),
+          [&](QPointF at) { paintTimeOut(painter, at, palette.look.raised, palette.look.desk, type); });
+  explain(12, toQt(m_texts.withPlaceholder(Text::LegendRun, std::to_string(MarginFlow::kShownRun))),
+          [&](QPointF at) {
+            painter.setPen(QPen(palette.look.muted, 2 * pixel, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+            painter.setBrush(Qt::NoBrush);
+            const QPointF corners[] = {at + QPointF(-6, 4) * pixel, at + QPointF(-6, -3) * pixel,
+                                       at + QPointF(6, -3) * pixel, at + QPointF(6, 4) * pixel};
+            painter.drawPolyline(std::data(corners), std::size(corners));
+          });
   const QString hint = text(m_showsChances ? Text::WinProbabilityNote : Text::StretchHint);
-  if (const double width = type.metrics().horizontalAdvance(hint); line.room() > width) {
-    line.skip(line.room() - width);
+  if (line.hasRoomFor(0, hint)) {
+    line.skip(line.room() - type.metrics().horizontalAdvance(hint));
     line.words(hint);
   }
 }

@@ -13,7 +13,7 @@ namespace hooptab {
 
 namespace {
 
-constexpr int kSide = 10; // left and right of what is drawn
+constexpr int kSide = 2; // left and right of what is drawn
 
 // As much of the figures as there is room for, the most telling first.
 QString fitting(std::vector<std::string> parts, const QFontMetricsF& metrics, double room) {
@@ -24,7 +24,7 @@ QString fitting(std::vector<std::string> parts, const QFontMetricsF& metrics, do
 
 } // namespace
 
-MarginChart::MarginChart(const Texts& texts, QWidget* parent) : Card(parent), m_texts(texts) {
+MarginChart::MarginChart(const Texts& texts, QWidget* parent) : QWidget(parent), m_texts(texts) {
   setObjectName(QStringLiteral("picMARGIN"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
@@ -48,7 +48,7 @@ void MarginChart::relabelChart() {
 
 QSize MarginChart::sizeHint() const {
   const Measure& m = Theme::measure();
-  return {m(530, 740), m(146, 190)};
+  return {m(510, 720), m(130, 172)};
 }
 
 QSize MarginChart::minimumSizeHint() const {
@@ -70,12 +70,11 @@ void MarginChart::paintPicture(QPainter& painter, const QRectF& area) const {
   MarginPainter(m_drawing, palette, type(), MarginPainter::Detail::Full).paint(painter, area);
 }
 
-void MarginChart::paintEvent(QPaintEvent* event) {
-  Card::paintEvent(event);
+void MarginChart::paintEvent(QPaintEvent*) {
   const Measure& m = Theme::measure();
   QPainter painter(this);
   const Look& look = Theme::look();
-  const QRectF head(m(kSide), m(4), width() - 2 * m(kSide), m(22, 28));
+  const QRectF head(m(kSide), 0, width() - 2 * m(kSide), m(22, 28));
   const QFont strong = Theme::font(Type::Body, QFont::DemiBold);
   const QString title = caption(m_texts, Text::ScoreDifference);
   painter.setFont(strong);
@@ -89,7 +88,7 @@ void MarginChart::paintEvent(QPaintEvent* event) {
     painter.drawText(head, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
                      fitting(flowSummary(m_drawing, m_texts), type.metrics(), room));
   }
-  const QRectF area(m(kSide), head.bottom(), width() - 2 * m(kSide), height() - head.bottom() - m(6));
+  const QRectF area(m(kSide), head.bottom(), width() - 2 * m(kSide), height() - head.bottom());
   const FlowPalette palette(look, m_drawing.colours);
   MarginPainter(m_drawing, palette, type, MarginPainter::Detail::Small).paint(painter, area);
 }

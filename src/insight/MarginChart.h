@@ -1,18 +1,19 @@
-// The score difference of a game as a small chart under a line of figures: a card of its own that says at a
-// glance how the game went.
+// The score difference of a game as a small chart under a line of figures, which say at a glance how the game
+// went. For a card of its owner's.
 #pragma once
 
-#include "appearance/Card.h"
 #include "appearance/ShownPicture.h"
 #include "game/CountedGame.h"
 #include "insight/FlowDrawing.h"
 #include "insight/FlowPalette.h"
 
+#include <QWidget>
+
 #include <memory>
 
 namespace hooptab {
 
-class MarginChart : public Card, public ShownPicture {
+class MarginChart : public QWidget, public ShownPicture {
   Q_OBJECT
 
  public:

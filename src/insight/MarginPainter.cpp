@@ -12,6 +12,7 @@ namespace hooptab {
 namespace {
 
 constexpr double kTimeOutSize = 12;
+constexpr double kArrow = 8;   // before the words of who is ahead
 constexpr double kDiamond = 4; // from its middle to a corner
 constexpr double kBracketDrop = 5;
 constexpr double kBracketGap = 2;
@@ -165,20 +166,27 @@ void MarginPainter::paintCurve(QPainter& painter, const QRectF& plot) const {
     paintAhead(painter, plot, team);
 }
 
-// In the corner of the half in which the team leads.
+// At the edge of the half in which the team leads.
+QRectF MarginPainter::aheadBox(const FlowLayout& layout, Side team) const {
+  const QFontMetricsF metrics = m_type.strongMetrics();
+  const QSizeF size(px(kArrow + 4) + metrics.horizontalAdvance(toQt(m_drawing.ahead[team])),
+                    metrics.height());
+  const double air = px(3);
+  const double left = layout.textPlace(team, size.width() + 2 * air, size.height() + air) + air;
+  const double top =
+      team == Side::Visitor ? layout.plot().top + air : layout.plot().bottom() - air - size.height();
+  return {QPointF(left, top), size};
+}
+
 void MarginPainter::paintAhead(QPainter& painter, const QRectF& plot, Side team) const {
   const QFontMetricsF metrics = m_type.strongMetrics();
-  const bool isAbove = team == Side::Visitor;
-  const double arrow = px(8);
-  const double middle =
-      isAbove ? plot.top() + px(3) + metrics.height() / 2 : plot.bottom() - px(3) - metrics.height() / 2;
-  const QString words = toQt(m_drawing.ahead[team]);
-  const QRectF box(plot.left() + px(4), middle - metrics.height() / 2,
-                   arrow + px(4) + metrics.horizontalAdvance(words), metrics.height());
+  const QRectF box = aheadBox(layout(plot), team);
+  const double middle = box.center().y();
+  const double arrow = px(kArrow);
   QColor ground = m_palette.look.surface;
   ground.setAlphaF(0.75F); // where the curve runs there the words stay readable
   painter.fillRect(box, ground);
-  const double tip = isAbove ? -arrow / 2 : arrow / 2;
+  const double tip = team == Side::Visitor ? -arrow / 2 : arrow / 2;
   const QPointF corners[] = {
       {box.left(), middle - tip}, {box.left() + arrow, middle - tip}, {box.left() + arrow / 2, middle + tip}};
   painter.setPen(Qt::NoPen);
@@ -187,7 +195,7 @@ void MarginPainter::paintAhead(QPainter& painter, const QRectF& plot, Side team)
   painter.setPen(m_palette.words(team));
   painter.setFont(m_type.strong);
   painter.drawText(QPointF(box.left() + arrow + px(3), middle + (metrics.ascent() - metrics.descent()) / 2),
-                   words);
+                   toQt(m_drawing.ahead[team]));
 }
 
 void MarginPainter::paintResult(QPainter& painter, const QRectF& plot, double rightEnd) const {
@@ -217,7 +225,8 @@ void MarginPainter::paintBrackets(QPainter& painter, const FlowLayout& layout) c
 }
 
 void MarginPainter::paintTimeOuts(QPainter& painter, const FlowLayout& layout) const {
-  const std::vector<int> rows = layout.timeOutRows(px(kTimeOutSize + 2));
+  const QRectF words = aheadBox(layout, Side::Home);
+  const std::vector<int> rows = layout.timeOutRows(px(kTimeOutSize + 2), words.left(), words.right());
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const MarginFlow::TimeOut& timeOut = m_drawing.flow.timeOuts[i];
     const QPointF middle(layout.x(timeOut.at),

@@ -36,6 +36,7 @@ class MarginPainter {
 
  private:
   void paintAreas(QPainter& painter, const FlowLayout& layout) const;
+  [[nodiscard]] QRectF aheadBox(const FlowLayout& layout, Side team) const;
   void paintAhead(QPainter& painter, const QRectF& plot, Side team) const;
   void paintBrackets(QPainter& painter, const FlowLayout& layout) const;
   void paintTimeOuts(QPainter& painter, const FlowLayout& layout) const;

@@ -52,7 +52,20 @@ TEST(FlowLayout, OfRunsThatCoverEachOtherTheLargerIsShown) {
 TEST(FlowLayout, TimeOutsAtOneTimeStandAboveEachOther) {
   const MarginFlow flow =
       marginFlowOf(gameOf("3=06:00,XTO,0\n4=06:00,XTO,1\n5=01:00,XTO,0\n6=01:00,GFG,0-4\n"));
-  EXPECT_EQ(FlowLayout(flow, {0, 0, 600, 200}).timeOutRows(14), (std::vector<int>{0, 1, 0}));
+  const FlowLayout layout(flow, {0, 0, 600, 200});
+  EXPECT_EQ(layout.timeOutRows(14, 0, 0), (std::vector<int>{0, 1, 0}));
+  EXPECT_EQ(layout.timeOutRows(14, 100, 300), (std::vector<int>{1, 2, 0}));
+}
+
+TEST(FlowLayout, WhoLeadsIsSaidWhereTheCurveDoesNotRun) {
+  int key = 3;
+  // The visitors lead by two in the first three minutes only, the home team by ten at the end.
+  const MarginFlow flow = marginFlowOf(gameOf(run(key, "10:00", "0-4", 1) + run(key, "07:00", "1-3", 1) +
+                                              run(key, "02:00", "1-3", 5) + "90=00:00,STO,0-4\n"));
+  const FlowLayout layout(flow, {100, 10, 600, 200});
+  EXPECT_GE(layout.textPlace(Side::Visitor, 100, 30), layout.x(180));
+  EXPECT_EQ(layout.textPlace(Side::Home, 100, 30), 100);
+  EXPECT_EQ(layout.textPlace(Side::Visitor, 100, 300), 100); // nowhere free
 }
 
 TEST(FlowLayout, APlaceMeansTheNearestPlayAndOfSeveralAtOneTimeTheLast) {
