@@ -3,6 +3,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "printing/PageFormat.h"
+#include "printing/ReportLayout.h"
 
 #include <algorithm>
 
@@ -149,8 +150,11 @@ double SheetLayout::placeTable(ReportPage& page, const ReportTable& table, const
 double SheetLayout::placePicture(ReportPage& page, const ReportPicture& picture, const QRectF& column) {
   const double title =
       placeTitle(page, picture.tag, picture.tag ? std::string() : picture.title, picture.note, column);
-  const bool isCourt = std::holds_alternative<ShotDrawing>(picture.drawing);
-  const double height = isCourt ? column.width() * court::kLength / court::kWidth : kFlow.at(m_ease);
+  const auto* shots = std::get_if<ShotDrawing>(&picture.drawing);
+  double height = kFlow.at(m_ease);
+  if (shots != nullptr)
+    height = column.width() * court::kLength / court::kWidth +
+             (shots->differences.empty() ? 0 : legendHeight(column.width()));
   page.pictures.push_back({QRectF(column.left(), column.top() + title, column.width(), height), &picture});
   const double above = title + height + kTitleGap;
   return picture.caption.empty() ? above - kTitleGap

@@ -149,7 +149,13 @@ void TableLayout::spread(double room) {
   m_parts.assign(1, {});
   for (std::size_t i = 0; i < m_widths.size(); ++i)
     m_parts[0].columns.push_back(i);
-  const double width = std::accumulate(m_widths.begin(), m_widths.end(), 0.0);
+  double width = std::accumulate(m_widths.begin(), m_widths.end(), 0.0);
+  for (std::size_t i = 0; i < m_widths.size(); ++i) { // a head is one line as well
+    const double head = m_fonts.width(PageFont::BoldCell, toQt(m_table.columns[i].header)) + 2 * kPadding;
+    const double more = std::clamp(head - m_widths[i], 0.0, std::max(0.0, room - width));
+    m_widths[i] += more;
+    width += more;
+  }
   for (double& each : m_widths)
     each += (room - width) / static_cast<double>(m_widths.size());
   m_parts[0].width = room;

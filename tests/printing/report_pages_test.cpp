@@ -92,6 +92,7 @@ class ReportPagesTest : public WindowRoom<> {
     return {ofSeason(SeasonReport::TeamDetail, player),
             ofSeason(SeasonReport::LeadersPerMinute, player),
             ofSeason(SeasonReport::Player, player),
+            ofSeason(SeasonReport::PlayerSheet, player),
             ofSeason(SeasonReport::LineOther, season.lines().front().id),
             scorecard(game),
             gameSheet({game, tallied(game)}, texts),
@@ -273,6 +274,22 @@ TEST_F(ReportPagesTest, AGameOfTwoFullRostersStandsOnOnePage) {
     }
     EXPECT_EQ(names.size(), 30U);
   }
+}
+
+TEST_F(ReportPagesTest, APlayersPageOfALongSeasonIsStillOne) {
+  SeasonFolder games;
+  for (int game = 10; game < 45; ++game)
+    games.addGame(std::to_string(game) + ".GAM", "2026-10-01",
+                  "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40," +
+                      std::to_string(game) + "\n3=00:00,ARRET,IN-,IN-\n");
+  const SeasonStatistics season = games.statistics();
+  const Report report = seasonReport(SeasonReport::PlayerSheet, season,
+                                     {std::nullopt, season.players().front().id, {}}, settings, texts);
+  ReportLayout layout(report, {Paper::Letter, PageTurn::AsItFits});
+  layout.finish();
+  ASSERT_EQ(layout.pages().size(), 1U);
+  for (const PageText& each : layout.pages().front().texts)
+    EXPECT_TRUE(layout.body().adjusted(-1, -1, 1, 1).contains(each.box)) << each.text.toStdString();
 }
 
 // What nobody tried takes no room, but stands in files; leaders stand below each other.
