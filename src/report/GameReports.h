@@ -13,6 +13,9 @@
 
 namespace hooptab {
 
+// With its title and the names that it and its files go by; what it holds is still to come.
+[[nodiscard]] Report reportOf(const CountedGame& counted, Text title, const Texts& texts);
+
 // Both teams' box scores by player or by line, points and fouls by period, leads, leaders of the game, score
 // diagram, shot charts and notes. `choice` is what the scorecard shows: its view, its columns, and by its
 // check marks the shots of the charts. The tables hold all players whatever is checked.

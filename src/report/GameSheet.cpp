@@ -3,6 +3,7 @@
 #include "insight/FlowDrawing.h"
 #include "insight/GameInsight.h"
 #include "insight/Rates.h"
+#include "report/GameReports.h"
 #include "report/ReportWords.h"
 #include "scorecard/LeagueSheet.h"
 #include "scorecard/Scoreboard.h"
@@ -19,10 +20,6 @@ namespace hooptab {
 
 namespace {
 
-constexpr ShotKinds kThree = shotKinds({EventCode::GF3});
-constexpr ShotKinds kFree = shotKinds({EventCode::GFT});
-constexpr ShotKinds kField = kAllShotKinds & ~kFree;
-constexpr ShotKinds kTwo = kField & ~kThree;
 constexpr const char* kDot = " · ";
 constexpr std::string_view kCounts[] = {"OR", "DR", "TR", "Ast", "TO", "ST", "BS", "PF"};
 // What the teams are compared by, before where their points came from.
@@ -35,16 +32,8 @@ class GameSheet {
         m_board(scoreboard(counted, texts)), m_flow(flowDrawing(counted.game, texts)) {}
 
   Report report() {
-    const GameDetails& details = m_counted.game.details;
-    Report report;
+    Report report = reportOf(m_counted, Text::GameSheetReport, m_texts);
     report.isOnePage = true;
-    report.title = text(Text::GameSheetReport);
-    report.subject = score() + (details.date.empty() ? "" : ", " + details.date);
-    report.pageWords = text(Text::PageOf);
-    const std::string& path = m_counted.game.path;
-    const std::size_t slash = path.rfind('/');
-    const std::string file = path.substr(slash == std::string::npos ? 0 : slash + 1);
-    report.fileName = proposedFileName(file.substr(0, file.rfind('.')) + ' ' + report.title);
     report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Heading, score()});
     report.blocks.push_back(ReportParagraph{ReportParagraph::Style::Body, circumstances()});
     report.blocks.push_back(periodTable());
@@ -175,7 +164,7 @@ class GameSheet {
       line.cells.push_back({valueText({numbers.seconds}, ValueKind::Time), ReportCell::Kind::Time,
                             static_cast<double>(numbers.seconds)});
     line.cells.push_back(strong(numberCell(numbers.points())));
-    for (const ShotKinds kinds : {kTwo, kThree, kFree})
+    for (const ShotKinds kinds : {kTwoKinds, kThreeKinds, kThrowKinds})
       line.cells.push_back(textCell(fractionText({numbers.made(kinds), numbers.attempted(kinds)})));
     for (const std::string_view code : kCounts)
       line.cells.push_back(numberCell(static_cast<int>(leagueColumn(code).value(row).numerator)));
@@ -255,14 +244,14 @@ class GameSheet {
     const BoxNumbers numbers = m_insight.whole.numbers(team);
     ReportPicture picture = {abbreviation(team) + " – " + text(Text::ShotChart), std::move(drawing)};
     picture.tag = tag(team);
-    picture.note = m_texts.withPlaceholder(Text::SheetOfAllShots,
-                                           fractionText({numbers.made(kField), numbers.attempted(kField)}));
+    picture.note = m_texts.withPlaceholder(
+        Text::SheetOfAllShots, fractionText({numbers.made(kFieldKinds), numbers.attempted(kFieldKinds)}));
     const auto placed = static_cast<int>(std::ranges::count_if(taken, &Shot::hasPlace));
     const auto made = static_cast<int>(
         std::ranges::count_if(taken, [](const Shot& shot) { return shot.hasPlace && shot.isMade; }));
-    if (const int others = numbers.attempted(kField) - placed; others > 0)
+    if (const int others = numbers.attempted(kFieldKinds) - placed; others > 0)
       picture.caption = m_texts.withPlaceholder(Text::SheetWithoutPlace,
-                                                fractionText({numbers.made(kField) - made, others}));
+                                                fractionText({numbers.made(kFieldKinds) - made, others}));
     return picture;
   }
 

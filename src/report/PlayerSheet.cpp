@@ -23,10 +23,6 @@ namespace {
 
 constexpr std::size_t kMostGames = 30; // that have room on the page; the last ones
 constexpr std::size_t kLately = 5;
-constexpr ShotKinds kThree = shotKinds({EventCode::GF3});
-constexpr ShotKinds kFree = shotKinds({EventCode::GFT});
-constexpr ShotKinds kField = kAllShotKinds & ~kFree;
-constexpr ShotKinds kTwo = kField & ~kThree;
 
 // What is counted of a game, with its column's head.
 struct Count {
@@ -162,7 +158,7 @@ class PlayerSheet {
       row.cells.push_back(std::move(cell));
     };
     add(kPoints.of, true);
-    for (const ShotKinds kinds : {kTwo, kThree, kFree})
+    for (const ShotKinds kinds : {kTwoKinds, kThreeKinds, kThrowKinds})
       row.cells.push_back(textCell(fractionText({numbers.made(kinds), numbers.attempted(kinds)})));
     for (const Count& count : kCounts)
       add(count.of, std::string_view(count.head) != "TO");
