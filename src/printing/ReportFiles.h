@@ -45,8 +45,8 @@ enum class WriteProblem { IsFolder, NoFolder, NoRight, NoRoom, Unknown };
 // Vector graphics with text that can be searched. Empty when cancelled.
 [[nodiscard]] std::string reportPdf(const Report& report, const PageFormat& format,
                                     const TaskWatch& watch = {});
-// A sheet for each table, its head frozen; numbers, percentages and times as such. Nothing when cancelled, or
-// when temporary files could not be written.
+// A sheet for each table, its head frozen; numbers, percentages and times as such; and one for the flow of a
+// game, with a chart of it. Nothing when cancelled, or when temporary files could not be written.
 [[nodiscard]] std::optional<std::string> reportXlsx(const Report& report, const TaskWatch& watch = {});
 [[nodiscard]] std::string picturePng(const ReportPicture& picture);
 

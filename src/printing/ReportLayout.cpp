@@ -1,6 +1,7 @@
 #include "printing/ReportLayout.h"
 
 #include "appearance/relabel.h"
+#include "printing/SheetLayout.h"
 
 #include <algorithm>
 #include <cmath>
@@ -52,6 +53,11 @@ ReportLayout::ReportLayout(const Report& report, const PageFormat& format) : m_r
   m_layout = hooptab::pageLayout(format.paper, orientation(format));
   m_size = pageSize(m_layout);
   m_body = bodyOf(m_size);
+  if (report.isOnePage) {
+    m_pages.push_back(SheetLayout(report, m_fonts, m_tables, m_body).page());
+    m_isDone = true;
+    return;
+  }
   m_pages.emplace_back();
   m_y = m_body.top();
   m_row = {m_y, m_body.right(), m_y};
@@ -60,8 +66,11 @@ ReportLayout::ReportLayout(const Report& report, const PageFormat& format) : m_r
     placeLines(m_fonts.wrapped(PageFont::Title, toQt(report.title), m_body.width()), PageFont::Title);
 }
 
-// Upright, unless a table is split into fewer parts across, or more tables of a grid have room there.
+// Upright where it is meant for one page, and unless a table is split into fewer parts across, or more tables
+// of a grid have room there.
 QPageLayout::Orientation ReportLayout::orientation(const PageFormat& format) {
+  if (m_report.isOnePage)
+    return QPageLayout::Portrait;
   std::size_t parts[2] = {};
   double inGrid[2] = {};
   for (const auto turn : {QPageLayout::Portrait, QPageLayout::Landscape}) {

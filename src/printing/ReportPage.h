@@ -4,6 +4,7 @@
 
 #include "report/Report.h"
 
+#include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QHash>
@@ -48,6 +49,11 @@ struct PageText {
   QString text;
   PageFont font = PageFont::Cell;
 };
+struct PageTag { // a team's abbreviation on its colour
+  QRectF box;
+  QString text;
+  QColor colour;
+};
 struct PageFill {
   QRectF box;
   double grey = 1; // 0 black, 1 white
@@ -65,6 +71,7 @@ struct ReportPage {
   std::vector<PageFill> fills;
   std::vector<PageLine> lines;
   std::vector<PageText> texts;
+  std::vector<PageTag> tags;
   std::vector<PagePicture> pictures;
   const FormSheet* form = nullptr; // fills the page: no head, no foot
 

@@ -1,7 +1,10 @@
 #include "printing/ReportPainter.h"
 
+#include "appearance/Contrast.h"
+#include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "court/CourtPicture.h"
+#include "insight/MarginPainter.h"
 #include "printing/FormPainter.h"
 #include "season/ZoneChart.h"
 #include "storage/Module1.h"
@@ -145,6 +148,27 @@ void paintLines(QPainter& painter, const LineDrawing& drawing, const QRectF& box
   }
 }
 
+void paintFlow(QPainter& painter, const FlowDrawing& drawing, const QRectF& box, const PageFonts& fonts) {
+  const FlowPalette palette(lookOf(ColourScheme::Light), drawing.colours);
+  const FlowType type{fonts.font(PageFont::Cell), fonts.font(PageFont::BoldCell), kScreenPixel};
+  MarginPainter(drawing, palette, type, MarginPainter::Detail::Full).paint(painter, box);
+}
+
+void paintTag(QPainter& painter, const PageTag& tag, const PageFonts& fonts) {
+  constexpr double kRadius = 20;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(tag.colour);
+  painter.setPen(QPen(outlineOf(tag.colour, Qt::white), kThinLine));
+  painter.drawRoundedRect(tag.box, kRadius, kRadius);
+  painter.setFont(fonts.font(PageFont::BoldBody));
+  painter.setPen(textOn(tag.colour));
+  const double width = fonts.width(PageFont::BoldBody, tag.text);
+  painter.drawText(
+      QPointF(tag.box.center().x() - width / 2, tag.box.top() + fonts.ascent(PageFont::BoldBody)), tag.text);
+  painter.restore();
+}
+
 void paintHeadAndFoot(QPainter& painter, const ReportLayout& layout, std::size_t page) {
   const PageFonts& fonts = layout.fonts();
   const QRectF body = layout.body();
@@ -183,6 +207,8 @@ void paintDrawing(QPainter& painter, const ReportPicture& picture, const QRectF&
   painter.setRenderHint(QPainter::Antialiasing);
   if (const auto* shots = std::get_if<ShotDrawing>(&picture.drawing))
     paintShots(painter, *shots, box, fonts);
+  else if (const auto* flow = std::get_if<FlowDrawing>(&picture.drawing))
+    paintFlow(painter, *flow, box, fonts);
   else
     paintLines(painter, std::get<LineDrawing>(picture.drawing), box, fonts);
   painter.restore();
@@ -204,6 +230,8 @@ void paintPage(QPainter& painter, const ReportLayout& layout, std::size_t page) 
     painter.setPen(QPen(Qt::black, line.width, Qt::SolidLine, Qt::FlatCap));
     painter.drawLine(line.from, line.to);
   }
+  for (const PageTag& tag : content.tags)
+    paintTag(painter, tag, fonts);
   for (const PagePicture& picture : content.pictures)
     paintDrawing(painter, *picture.picture, picture.box, fonts);
   painter.setPen(Qt::black);

@@ -38,15 +38,16 @@ std::string reportPdf(const Report& report, const PageFormat& format, const Task
 std::string picturePng(const ReportPicture& picture) {
   constexpr double kScale = 0.32; // 230 dots per inch: sharp on paper too
   const bool isShotChart = std::holds_alternative<ShotDrawing>(picture.drawing);
-  constexpr double kWidth = 120 * kUnitsPerMillimetre;
-  const double height = isShotChart ? kWidth * court::kLength / court::kWidth : kWidth * 0.45;
+  const bool isFlow = std::holds_alternative<FlowDrawing>(picture.drawing);
+  const double width = (isFlow ? 186 : 120) * kUnitsPerMillimetre;
+  const double height = width * (isShotChart ? court::kLength / court::kWidth : isFlow ? 0.27 : 0.45);
   const PageFonts fonts;
-  QImage image(static_cast<int>(std::ceil(kWidth * kScale)), static_cast<int>(std::ceil(height * kScale)),
+  QImage image(static_cast<int>(std::ceil(width * kScale)), static_cast<int>(std::ceil(height * kScale)),
                QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
   painter.scale(kScale, kScale);
-  paintDrawing(painter, picture, QRectF(0, 0, kWidth, height), fonts);
+  paintDrawing(painter, picture, QRectF(0, 0, width, height), fonts);
   painter.end();
   QByteArray bytes;
   QBuffer buffer(&bytes);

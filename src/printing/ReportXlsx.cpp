@@ -144,6 +144,32 @@ class Workbook {
     worksheet_set_landscape(m_sheet);
     worksheet_fit_to_pages(m_sheet, 1, 0);
   }
+  // The score at each of its changes, and the difference as a chart beside it.
+  void add(const FlowDrawing& drawing, const std::string& title) {
+    m_sheet = m_book == nullptr ? nullptr : workbook_add_worksheet(m_book, m_names.next(title).c_str());
+    if (m_sheet == nullptr) {
+      m_isGood = false;
+      return;
+    }
+    std::size_t column = 0;
+    for (const std::string& head : {drawing.timeWords, drawing.teams[Side::Visitor],
+                                    drawing.teams[Side::Home], drawing.differenceWords})
+      addText(0, column++, head, m_head);
+    lxw_row_t row = 1;
+    const bool hasTime = drawing.flow.hasTime;
+    const auto add = [&](int at, const PerSide<int>& score) {
+      const auto& formats = m_formats[0];
+      addNumber(row, 0, hasTime ? at / kSecondsPerDay : at, hasTime ? formats.time : formats.plain);
+      addNumber(row, 1, score[Side::Visitor], formats.plain);
+      addNumber(row, 2, score[Side::Home], formats.plain);
+      addNumber(row++, 3, score[Side::Visitor] - score[Side::Home], formats.plain);
+    };
+    add(0, {});
+    for (const MarginFlow::Step& step : drawing.flow.steps)
+      add(step.at, step.score);
+    worksheet_freeze_panes(m_sheet, 1, 0);
+    addChart(drawing.differenceWords, row - 1, hasTime);
+  }
   // Writes it; false when it could not be.
   bool close() {
     return m_book != nullptr && workbook_close(std::exchange(m_book, nullptr)) == LXW_NO_ERROR && m_isGood;
@@ -157,6 +183,19 @@ class Workbook {
     lxw_format* percent = nullptr;
     lxw_format* time = nullptr;
   };
+  // The fourth column over the first, down to that row.
+  void addChart(const std::string& title, lxw_row_t last, bool hasTime) {
+    lxw_chart* chart = workbook_add_chart(m_book, LXW_CHART_SCATTER_STRAIGHT);
+    lxw_chart_series* series = chart_add_series(chart, nullptr, nullptr);
+    chart_series_set_categories(series, m_sheet->name, 1, 0, last, 0);
+    chart_series_set_values(series, m_sheet->name, 1, 3, last, 3);
+    chart_title_set_name(chart, title.c_str());
+    chart_legend_set_position(chart, LXW_CHART_LEGEND_NONE);
+    if (hasTime)
+      chart_axis_set_num_format(chart->x_axis, "[mm]:ss");
+    constexpr lxw_col_t kBeside = 5;
+    m_isGood = worksheet_insert_chart(m_sheet, 1, kBeside, chart) == LXW_NO_ERROR && m_isGood;
+  }
   lxw_format* format(bool isBold, const char* number) {
     lxw_format* result = workbook_add_format(m_book);
     if (isBold)
@@ -195,9 +234,10 @@ class Workbook {
     }
   }
   void addRow(lxw_row_t row, const ReportRow& cells) {
-    const Formats& formats = m_formats[cells.emphasis == ReportRow::Emphasis::None ? 0 : 1];
     for (std::size_t i = 0; i < cells.cells.size(); ++i) {
       const ReportCell& cell = cells.cells[i];
+      const bool isStrong = cells.emphasis != ReportRow::Emphasis::None || cell.isStrong;
+      const Formats& formats = m_formats[isStrong ? 1 : 0];
       switch (cell.kind) {
       case ReportCell::Kind::Text: addText(row, i, cell.text, formats.plain); break;
       case ReportCell::Kind::Number: addNumber(row, i, cell.value, numberFormat(formats, cell.text)); break;
@@ -209,8 +249,10 @@ class Workbook {
   void setWidths(const ReportTable& table) {
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
       std::size_t longest = lengthOf(table.columns[i].header);
-      for (const ReportRow& row : table.rows)
-        longest = std::max(longest, lengthOf(row.cells[i].text));
+      for (const ReportRow& row : table.rows) {
+        if (!row.isNote)
+          longest = std::max(longest, lengthOf(row.cells[i].text));
+      }
       const auto column = static_cast<lxw_col_t>(i);
       worksheet_set_column(m_sheet, column, column,
                            std::min(static_cast<double>(longest) + 1.5, kWidestColumn), nullptr);
@@ -244,6 +286,10 @@ std::optional<std::string> reportXlsx(const Report& report, const TaskWatch& wat
   for (const ReportBlock& block : report.blocks) {
     if (const auto* table = std::get_if<ReportTable>(&block); table != nullptr && !watch.isCancelled())
       book.add(*table, report.subject, watch);
+    const auto* picture = std::get_if<ReportPicture>(&block);
+    const auto* flow = picture == nullptr ? nullptr : std::get_if<FlowDrawing>(&picture->drawing);
+    if (flow != nullptr && flow->emptyWords.empty() && !watch.isCancelled())
+      book.add(*flow, picture->title);
   }
   if (watch.isCancelled() || !book.close())
     return std::nullopt;

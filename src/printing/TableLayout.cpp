@@ -25,7 +25,8 @@ constexpr double kShortestText = 28 * kUnitsPerMillimetre; // when a table has t
 
 } // namespace
 
-TableLayout::TableLayout(const ReportTable& table, const PageFonts& fonts) : m_table(table), m_fonts(fonts) {
+TableLayout::TableLayout(const ReportTable& table, const PageFonts& fonts)
+    : m_table(table), m_fonts(fonts), m_air(kRowAir) {
   measure();
   widenForTitles();
 }
@@ -44,8 +45,9 @@ void TableLayout::measure() {
       m_natural[i] = std::max(m_natural[i], m_fonts.width(PageFont::BoldCell, word));
   }
   for (const ReportRow& row : m_table.rows) {
-    for (std::size_t i = 0; i < m_natural.size(); ++i)
-      m_natural[i] = std::max(m_natural[i], m_fonts.width(fontOf(row), toQt(row.cells[i].text)));
+    for (std::size_t i = 0; i < m_natural.size() && !row.isNote; ++i)
+      m_natural[i] =
+          std::max(m_natural[i], m_fonts.width(fontOf(row, row.cells[i]), toQt(row.cells[i].text)));
   }
   m_whole = m_natural;
   for (std::size_t i = 0; i < m_natural.size(); ++i)
@@ -139,6 +141,27 @@ void TableLayout::fill(double room) {
   measureParts(room);
 }
 
+void TableLayout::spread(double room) {
+  m_hasSingleLines = true;
+  const double natural = naturalWidth();
+  const double spare = natural - leastWidth();
+  shrink(natural > room && spare > 0 ? std::min(1.0, (natural - room) / spare) : 0);
+  m_parts.assign(1, {});
+  for (std::size_t i = 0; i < m_widths.size(); ++i)
+    m_parts[0].columns.push_back(i);
+  double width = std::accumulate(m_widths.begin(), m_widths.end(), 0.0);
+  for (std::size_t i = 0; i < m_widths.size(); ++i) { // a head is one line as well
+    const double head = m_fonts.width(PageFont::BoldCell, toQt(m_table.columns[i].header)) + 2 * kPadding;
+    const double more = std::clamp(head - m_widths[i], 0.0, std::max(0.0, room - width));
+    m_widths[i] += more;
+    width += more;
+  }
+  for (double& each : m_widths)
+    each += (room - width) / static_cast<double>(m_widths.size());
+  m_parts[0].width = room;
+  measureParts(room);
+}
+
 double TableLayout::naturalWidth() const {
   return std::accumulate(m_natural.begin(), m_natural.end(), 0.0);
 }
@@ -206,14 +229,22 @@ void TableLayout::splitShrunk(double room, double shrunk) {
   }
 }
 
-PageFont TableLayout::fontOf(const ReportRow& row) const {
-  return row.emphasis == ReportRow::Emphasis::None ? PageFont::Cell : PageFont::BoldCell;
+PageFont TableLayout::fontOf(const ReportRow& row, const ReportCell& cell) {
+  return row.emphasis == ReportRow::Emphasis::None && !cell.isStrong ? PageFont::Cell : PageFont::BoldCell;
 }
 
 // Measured and placed alike: what is one line more when it is placed would stand on the next row.
 QStringList TableLayout::linesOf(PageFont font, const QString& text, std::size_t column) const {
   const double room = m_widths[column] - 2 * kPadding + 0.5;
-  return m_fonts.width(font, text) <= room ? QStringList{text} : m_fonts.wrapped(font, text, room);
+  if (m_fonts.width(font, text) <= room)
+    return {text};
+  return m_hasSingleLines ? QStringList{m_fonts.elided(font, text, room)} : m_fonts.wrapped(font, text, room);
+}
+
+// From the second column to the end of the part.
+QStringList TableLayout::noteLines(const Part& part, const ReportRow& row) const {
+  return m_fonts.wrapped(PageFont::Cell, toQt(row.cells[1].text),
+                         part.width - m_widths[part.columns.front()] - 2 * kPadding);
 }
 
 std::size_t TableLayout::countOfLines(PageFont font, const std::string& text, std::size_t column) const {
@@ -243,10 +274,15 @@ void TableLayout::measureParts(double room) {
     for (std::size_t row = 0; row < m_rowHeights.size(); ++row) {
       const ReportRow& cells = m_table.rows[row];
       std::size_t lines = 1;
-      for (const std::size_t column : part.columns)
-        lines = std::max(lines, countOfLines(fontOf(cells), cells.cells[column].text, column));
+      if (cells.isNote)
+        lines = static_cast<std::size_t>(noteLines(part, cells).size());
+      for (const std::size_t column : part.columns) {
+        const ReportCell& cell = cells.cells[column];
+        if (!cells.isNote)
+          lines = std::max(lines, countOfLines(fontOf(cells, cell), cell.text, column));
+      }
       m_rowHeights[row] = std::max(
-          m_rowHeights[row], static_cast<double>(lines) * m_fonts.lineHeight(PageFont::Cell) + 2 * kRowAir);
+          m_rowHeights[row], static_cast<double>(lines) * m_fonts.lineHeight(PageFont::Cell) + 2 * m_air);
     }
   }
 }
@@ -354,8 +390,22 @@ void TableLayout::placeRow(ReportPage& page, const Part& part, std::size_t row, 
   for (const std::size_t column : part.columns) {
     if (m_beginsGroup[column])
       page.lines.push_back({{x, box.top()}, {x, box.bottom()}, kThinLine / 2});
-    placeCell(page, fontOf(cells), toQt(cells.cells[column].text), column, {x, at.y() + kRowAir});
+    const ReportCell& cell = cells.cells[column];
+    if (!cells.isNote)
+      placeCell(page, fontOf(cells, cell), toQt(cell.text), column, {x, at.y() + m_air});
     x += m_widths[column];
+  }
+  if (cells.isNote)
+    placeNote(page, part, row, at);
+}
+
+void TableLayout::placeNote(ReportPage& page, const Part& part, std::size_t row, QPointF at) const {
+  const double height = m_fonts.lineHeight(PageFont::Cell);
+  QPointF place(at.x() + m_widths[part.columns.front()] + kPadding, at.y() + m_air);
+  for (const QString& line : noteLines(part, m_table.rows[row])) {
+    page.texts.push_back(
+        {QRectF(place, QSizeF(m_fonts.width(PageFont::Cell, line), height)), line, PageFont::Cell});
+    place.ry() += height;
   }
 }
 

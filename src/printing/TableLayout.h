@@ -25,6 +25,10 @@ class TableLayout {
   void fit(double room);
   // The same, the repeated columns widened where there is room left.
   void fill(double room);
+  // In one part, each text in one line, cut where it has to be; what room is left goes to all columns alike.
+  void spread(double room);
+  // Above and below the text of a row, in place of the usual.
+  void setAir(double air) { m_air = air; }
   [[nodiscard]] double naturalWidth() const;
   [[nodiscard]] double leastWidth() const; // in one part, with its texts in several lines
 
@@ -57,7 +61,9 @@ class TableLayout {
   void measureParts(double room);
   [[nodiscard]] std::vector<Unit> units() const;
   [[nodiscard]] PageFont titleFont() const;
-  [[nodiscard]] PageFont fontOf(const ReportRow& row) const;
+  [[nodiscard]] static PageFont fontOf(const ReportRow& row, const ReportCell& cell);
+  void placeNote(ReportPage& page, const Part& part, std::size_t row, QPointF at) const;
+  [[nodiscard]] QStringList noteLines(const Part& part, const ReportRow& row) const;
   void placeCell(ReportPage& page, PageFont font, const QString& text, std::size_t column, QPointF at) const;
   [[nodiscard]] QStringList linesOf(PageFont font, const QString& text, std::size_t column) const;
   [[nodiscard]] std::size_t countOfLines(PageFont font, const std::string& text, std::size_t column) const;
@@ -72,6 +78,8 @@ class TableLayout {
   std::vector<bool> m_beginsGroup; // which columns have a line at their left
   std::vector<double> m_rowHeights;
   std::vector<Part> m_parts;
+  bool m_hasSingleLines = false;
+  double m_air;
 };
 
 } // namespace hooptab

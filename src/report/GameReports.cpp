@@ -4,6 +4,7 @@
 #include "game/Glossary.h"
 #include "game/RunningScore.h"
 #include "report/BoxReport.h"
+#include "report/GameSheet.h"
 #include "report/LeagueBox.h"
 #include "report/ReportWords.h"
 #include "scorecard/ColumnWords.h"
@@ -38,23 +39,6 @@ constexpr std::pair<Text, int GameDetails::*> kRules[] = {
 
 std::string text(const Texts& texts, Text which) {
   return std::string(texts.text(which));
-}
-
-Report reportOf(const Game& game, const GameState& state, Text title, const Texts& texts) {
-  const GameDetails& details = game.details;
-  Report report;
-  report.title = text(texts, title);
-  report.subject = details.abbreviation[Side::Visitor] + ' ' + std::to_string(state.points(Side::Visitor)) +
-                   " – " + std::to_string(state.points(Side::Home)) + ' ' + details.abbreviation[Side::Home];
-  if (!details.date.empty())
-    report.subject += ", " + details.date;
-  if (!details.place.empty())
-    report.subject += ", " + details.place;
-  report.pageWords = text(texts, Text::PageOf);
-  const std::size_t slash = game.path.rfind('/');
-  const std::string file = game.path.substr(slash == std::string::npos ? 0 : slash + 1);
-  report.fileName = proposedFileName(file.substr(0, file.rfind('.')) + ' ' + report.title);
-  return report;
 }
 
 // Who played, with the score; and where, when and by which rules.
@@ -281,12 +265,30 @@ void addShotCharts(Report& report, const Game& game, ScorecardView choice, const
 
 } // namespace
 
+Report reportOf(const CountedGame& counted, Text title, const Texts& texts) {
+  const auto& [game, state] = counted;
+  const GameDetails& details = game.details;
+  Report report;
+  report.title = text(texts, title);
+  report.subject = details.abbreviation[Side::Visitor] + ' ' + std::to_string(state.points(Side::Visitor)) +
+                   " – " + std::to_string(state.points(Side::Home)) + ' ' + details.abbreviation[Side::Home];
+  if (!details.date.empty())
+    report.subject += ", " + details.date;
+  if (!details.place.empty())
+    report.subject += ", " + details.place;
+  report.pageWords = text(texts, Text::PageOf);
+  const std::size_t slash = game.path.rfind('/');
+  const std::string file = game.path.substr(slash == std::string::npos ? 0 : slash + 1);
+  report.fileName = proposedFileName(file.substr(0, file.rfind('.')) + ' ' + report.title);
+  return report;
+}
+
 Report scorecardReport(const std::shared_ptr<const CountedGame>& counted, ScorecardView choice,
                        const Settings& settings, const Texts& texts) {
   const auto& [game, state] = *counted;
   choice.show(counted);
   const Scoreboard board = scoreboard(*counted, texts);
-  Report report = reportOf(game, state, Text::Scorecard, texts);
+  Report report = reportOf(*counted, Text::Scorecard, texts);
   addHead(report, game, state, texts);
   report.blocks.push_back(periodTable(board, ByPeriod::Points, texts));
   report.blocks.push_back(periodTable(board, ByPeriod::Fouls, texts));
@@ -327,7 +329,7 @@ void addLabelled(Report& report, ReportParagraph::Style style,
 Report leagueReport(const CountedGame& counted, const Texts& texts) {
   const auto& [game, state] = counted;
   const GameDetails& details = game.details;
-  Report report = reportOf(game, state, Text::LeagueBox, texts);
+  Report report = reportOf(counted, Text::LeagueBox, texts);
   addHead(report, game, state, texts);
   addLabelled(report, ReportParagraph::Style::Body,
               {{Text::Competition, details.competition},
@@ -347,7 +349,7 @@ Report leagueReport(const CountedGame& counted, const Texts& texts) {
 
 Report playByPlayReport(const CountedGame& counted, const Texts& texts) {
   const auto& [game, state] = counted;
-  Report report = reportOf(game, state, Text::PlayByPlay, texts);
+  Report report = reportOf(counted, Text::PlayByPlay, texts);
   ReportTable table;
   table.title = text(texts, Text::Events);
   const EventWords words(game, texts);
@@ -385,6 +387,10 @@ Report playByPlayReport(const CountedGame& counted, const Texts& texts) {
 std::span<const GameReport> gameReports() {
   using Counted = std::shared_ptr<const CountedGame>;
   static constexpr GameReport kReports[] = {
+      {"sheet", Text::GameSheetReport,
+       [](const Counted& counted, const ScorecardView&, const Settings&, const Texts& texts) {
+         return gameSheet(*counted, texts);
+       }},
       {"scorecard", Text::Scorecard,
        [](const Counted& counted, const ScorecardView& choice, const Settings& settings, const Texts& texts) {
          return scorecardReport(counted, choice, settings, texts);

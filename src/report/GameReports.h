@@ -1,5 +1,5 @@
-// The reports of one game: scorecard and play-by-play. Every number is taken from the classes that the
-// scorecard shows; nothing is counted here.
+// The reports of one game: the game on one page, scorecard, league's box score, play-by-play. Every number is
+// taken from the classes that the scorecard shows; nothing is counted here.
 #pragma once
 
 #include "game/CountedGame.h"
@@ -12,6 +12,9 @@
 #include <string_view>
 
 namespace hooptab {
+
+// With its title and the names that it and its files go by; what it holds is still to come.
+[[nodiscard]] Report reportOf(const CountedGame& counted, Text title, const Texts& texts);
 
 // Both teams' box scores by player or by line, points and fouls by period, leads, leaders of the game, score
 // diagram, shot charts and notes. `choice` is what the scorecard shows: its view, its columns, and by its

@@ -5,11 +5,13 @@
 
 #include "court/CourtGeometry.h"
 #include "forms/FormLayout.h"
+#include "insight/FlowDrawing.h"
 #include "scorecard/ShotChart.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -22,6 +24,7 @@ struct ReportCell {
   std::string text; // as it is shown
   Kind kind = Kind::Text;
   double value = 0; // of a number; of a percentage 0.5 for 50 %; of a time its seconds
+  bool isStrong = false;
 };
 [[nodiscard]] ReportCell textCell(std::string text);
 [[nodiscard]] ReportCell numberCell(int number);
@@ -48,6 +51,13 @@ struct ReportRow {
   std::vector<ReportCell> cells; // as many as the table has columns
   Emphasis emphasis = Emphasis::None;
   bool beginsSection = false; // a line above it
+  bool isNote = false;        // the text of its second cell runs on over all others
+};
+
+// A team's abbreviation on its colour.
+struct ReportTag {
+  std::string words;
+  std::uint32_t colour = 0; // red + 256 * green + 65536 * blue
 };
 
 struct ReportTable {
@@ -55,10 +65,12 @@ struct ReportTable {
   std::vector<ReportColumn> columns;
   std::vector<ReportColumnGroup> groups; // of all columns, in their order; or none
   std::vector<ReportRow> rows;
-  bool standsBeside = false; // to the right of the block before it, where there is room
-  bool isInGrid = false;     // one of many of a kind, that stand beside each other in equal widths
-  bool isSummary = false;    // one of the small tables beside what the report is about
-  bool isRanked = false;     // the best rows stand first, so that the others can be left out
+  bool standsBeside = false;         // to the right of the block before it, where there is room
+  bool isInGrid = false;             // one of many of a kind, that stand beside each other in equal widths
+  bool isSummary = false;            // one of the small tables beside what the report is about
+  bool isRanked = false;             // the best rows stand first, so that the others can be left out
+  std::optional<ReportTag> tag = {}; // before the title
+  std::string note = {};             // behind the title
 };
 
 struct ReportParagraph {
@@ -96,9 +108,11 @@ struct LineDrawing {
 
 struct ReportPicture {
   std::string title;
-  std::variant<ShotDrawing, LineDrawing> drawing;
+  std::variant<ShotDrawing, LineDrawing, FlowDrawing> drawing;
   std::string caption = {};
   bool standsBeside = false;
+  std::optional<ReportTag> tag = {}; // in place of the title, on a report of one page
+  std::string note = {};             // behind it
 };
 
 struct ReportPageBreak {};
@@ -120,9 +134,10 @@ using ReportBlock = std::variant<ReportParagraph, ReportTable, ReportPicture, Re
 
 struct Report {
   std::string title;
-  std::string subject;   // which game or team it is about, for the head of each page
-  std::string pageWords; // "Page XXX of YYY"
-  std::string fileName;  // proposed for files made of it, without ending
+  std::string subject;    // which game or team it is about, for the head of each page
+  std::string pageWords;  // "Page XXX of YYY"
+  std::string fileName;   // proposed for files made of it, without ending
+  bool isOnePage = false; // whatever it holds stands on one upright page, a heading first
   std::vector<ReportBlock> blocks;
 };
 

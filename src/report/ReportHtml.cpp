@@ -1,6 +1,7 @@
 #include "report/ReportText.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace hooptab {
 
@@ -59,7 +60,7 @@ class Page {
   }
   void operator()(const ReportTable& table) {
     if (!table.title.empty())
-      element("h2", table.title);
+      heading(table.tag, table.title, table.note);
     m_html += "<div class=\"table\"><table>\n<thead>\n";
     groups(table);
     m_html += "<tr>";
@@ -76,7 +77,7 @@ class Page {
   }
   void operator()(const ReportPicture& picture) {
     m_html += "<figure>";
-    element("h2", picture.title);
+    heading({}, picture.title, picture.note);
     m_html += "<img alt=\"" + escaped(picture.title) + "\" src=\"data:image/png;base64," +
               base64(m_png(picture)) + "\">";
     if (!picture.caption.empty())
@@ -89,6 +90,11 @@ class Page {
  private:
   void element(const std::string& name, std::string_view text) {
     m_html += '<' + name + '>' + escaped(text) + "</" + name + ">\n";
+  }
+  void heading(const std::optional<ReportTag>& tag, const std::string& title, const std::string& note) {
+    element("h2", tag && tag->words != title ? tag->words + " – " + title : title);
+    if (!note.empty())
+      element("p", note);
   }
   void groups(const ReportTable& table) {
     if (table.groups.empty())
@@ -106,9 +112,16 @@ class Page {
     if (row.beginsSection)
       classes += classes.empty() ? "section" : " section";
     m_html += classes.empty() ? "<tr>" : "<tr class=\"" + classes + "\">";
-    for (std::size_t i = 0; i < row.cells.size(); ++i)
+    for (std::size_t i = 0; i < row.cells.size(); ++i) {
+      const std::string text = escaped(row.cells[i].text);
+      if (row.isNote && i > 0) {
+        m_html +=
+            "<td class=\"left\" colspan=\"" + std::to_string(row.cells.size() - 1) + "\">" + text + "</td>";
+        break;
+      }
       m_html += (table.columns[i].isLeftAligned ? "<td class=\"left\">" : "<td>") +
-                escaped(row.cells[i].text) + "</td>";
+                (row.cells[i].isStrong ? "<b>" + text + "</b>" : text) + "</td>";
+    }
     m_html += "</tr>\n";
   }
 

@@ -19,6 +19,11 @@ namespace hooptab {
 // Over the columns of a group of shots.
 [[nodiscard]] std::string groupTitle(const ShotGroup& group, const Texts& texts);
 [[nodiscard]] ReportCell::Kind kindOfCell(ValueKind kind);
+// The shots of a box score: twos are field goals of every kind.
+inline constexpr ShotKinds kThreeKinds = shotKinds({EventCode::GF3});
+inline constexpr ShotKinds kThrowKinds = shotKinds({EventCode::GFT});
+inline constexpr ShotKinds kFieldKinds = kAllShotKinds & ~kThrowKinds;
+inline constexpr ShotKinds kTwoKinds = kFieldKinds & ~kThreeKinds;
 // As the name of a file, without blanks that follow each other.
 [[nodiscard]] std::string proposedFileName(std::string words);
 // Of a list with more rows than this its first ones are proposed for paper.

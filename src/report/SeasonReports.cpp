@@ -1,5 +1,6 @@
 #include "report/SeasonReports.h"
 
+#include "report/PlayerSheet.h"
 #include "report/ReportWords.h"
 #include "scorecard/ColumnWords.h"
 #include "season/GameColumns.h"
@@ -34,6 +35,7 @@ constexpr SeasonReportName kReports[] = {
     {SeasonReport::LeadersPerGame, Text::LeadersPerGame, "leaders-per-game"},
     {SeasonReport::LeadersPerMinute, Text::LeadersPerMinute, "leaders-per-minute"},
     {SeasonReport::Player, Text::PlayerReport, "player"},
+    {SeasonReport::PlayerSheet, Text::PlayerSheetReport, "player-sheet"},
     {SeasonReport::Line, Text::LineReport, "line"},
 };
 
@@ -89,6 +91,7 @@ class SeasonReportMaker {
     case SeasonReport::LeadersPerGame: addLeaders(SeasonView::PerGame); break;
     case SeasonReport::LeadersPerMinute: addLeaders(SeasonView::PerMinute); break;
     case SeasonReport::Player: addPerformance(SeasonTable::Players); break;
+    case SeasonReport::PlayerSheet: addSheet(); break;
     case SeasonReport::Line: addPerformance(SeasonTable::Lines); break;
     }
     m_report.fileName = proposedFileName(m_whose + ' ' + m_report.title);
@@ -335,6 +338,20 @@ class SeasonReportMaker {
       addShots(shotsOfPlayer(m_catalogue, results, row->id));
     addPoints(results);
     addResults(results);
+  }
+
+  void addSheet() {
+    const auto players = m_statistics.players();
+    const auto row =
+        std::ranges::find_if(players, [&](const SeasonRow& each) { return m_choice.chosen == each.id; });
+    if (row == players.end())
+      return;
+    Report sheet = playerSheet(m_statistics, row->id, m_texts);
+    m_report.isOnePage = sheet.isOnePage;
+    m_report.blocks = std::move(sheet.blocks);
+    addPoints(m_statistics.resultsOfPlayer(row->id));
+    m_whose = m_catalogue.teams()[row->team].key + ' ' + row->number + ' ' + row->name;
+    m_report.subject = m_whose + ", " + selection();
   }
 
   void addSums(const SeasonRow& row, bool isPlayer) {

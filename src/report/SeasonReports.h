@@ -1,5 +1,5 @@
-// The eleven reports of a season: games, tables of players and lines, leaders, and the performance of one
-// player or line. All cells are those of the season's own tables; nothing is summed here.
+// The reports of a season: games, tables of players and lines, leaders, the performance of one player or
+// line, and a player's page. All cells are those of the season's own tables; nothing is summed here.
 #pragma once
 
 #include "report/Report.h"
@@ -25,6 +25,7 @@ enum class SeasonReport : std::uint8_t {
   LeadersPerGame,
   LeadersPerMinute,
   Player,
+  PlayerSheet,
   Line,
 };
 
@@ -35,6 +36,13 @@ struct SeasonReportName {
   std::string_view word; // on the command line: "team-summary"
 };
 [[nodiscard]] std::span<const SeasonReportName> seasonReports();
+// Of one player, of one line.
+[[nodiscard]] constexpr bool isOfPlayer(SeasonReport report) {
+  return report == SeasonReport::Player || report == SeasonReport::PlayerSheet;
+}
+[[nodiscard]] constexpr bool isOfPerson(SeasonReport report) {
+  return isOfPlayer(report) || report == SeasonReport::Line;
+}
 
 struct SeasonReportChoice {
   std::optional<SeasonId> team; // whose results are shown

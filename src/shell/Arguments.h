@@ -13,8 +13,8 @@ namespace hooptab {
 
 // A report to be written without a window.
 struct ReportRequest {
-  std::string kind;   // "scorecard", "scorecard-lines", "play-by-play", "roster", "forms", "blank-forms", or
-                      // one of the season's
+  std::string kind;   // "sheet", "scorecard", "scorecard-lines", "play-by-play", "roster", "forms",
+                      // "blank-forms", or one of the season's
   std::string format; // "pdf", "xlsx", "csv", "html", "png"; where none is given, the ending of the output
   std::string output; // absolute; a folder, for the reports of each game of a folder
   std::string source; // absolute; the game or a folder of games, empty for a team's report

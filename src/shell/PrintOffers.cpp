@@ -77,6 +77,7 @@ bool canHighlight(SeasonReport report, const SeasonPerson& person) {
   case SeasonReport::TeamSummary:
   case SeasonReport::TeamDetail:
   case SeasonReport::Player:
+  case SeasonReport::PlayerSheet:
   case SeasonReport::Line: break;
   }
   return false;
@@ -104,10 +105,10 @@ SeasonReport reportOfPage(frmSTATS::Page page, SeasonView leaders, const SeasonP
 MissingForReport missingFor(SeasonReport report, const SeasonOffer& offer) {
   if (!offer.season)
     return MissingForReport::Statistics;
-  const bool isOfPerson = report == SeasonReport::Player || report == SeasonReport::Line;
   const bool isOfLine = report == SeasonReport::Line;
-  return isOfPerson && (!offer.person || offer.person->isLine != isOfLine) ? MissingForReport::Person
-                                                                           : MissingForReport::Nothing;
+  return isOfPerson(report) && (!offer.person || offer.person->isLine != isOfLine)
+             ? MissingForReport::Person
+             : MissingForReport::Nothing;
 }
 
 std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first, const Settings& settings,
@@ -116,11 +117,11 @@ std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport fir
   for (const SeasonReportName& name : seasonReports()) {
     if (missingFor(name.report, offer) != MissingForReport::Nothing)
       continue;
-    const bool isOfPerson = name.report == SeasonReport::Player || name.report == SeasonReport::Line;
     SeasonReportChoice choice;
     choice.team = offer.team;
     choice.minimum = offer.season->minimum();
-    if (isOfPerson || (offer.highlightsPerson && offer.person && canHighlight(name.report, *offer.person)))
+    if (isOfPerson(name.report) ||
+        (offer.highlightsPerson && offer.person && canHighlight(name.report, *offer.person)))
       choice.chosen = offer.person->row.id;
     ReportOffer made =
         named(name.text, texts, [=, season = offer.season, report = name.report, &settings, &texts] {

@@ -30,7 +30,7 @@ teamReports(const TeamRecord& team, const std::vector<TeamPlayer>& players, cons
 [[nodiscard]] std::vector<ReportOffer> scanReports(const ScannedTotals& scanned, const GameDetails& game,
                                                    const std::string& source, const Settings& settings,
                                                    const Texts& texts);
-// The eleven reports of a season, that one first; those of one player or line only for the chosen one.
+// The reports of a season, that one first; those of one player or line only for the chosen one.
 struct SeasonOffer {
   std::shared_ptr<const Season> season; // null: not generated yet
   std::optional<SeasonId> team;

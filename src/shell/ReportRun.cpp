@@ -163,7 +163,7 @@ class ReportRun {
       return complain(kWrongUse, words(Text::SeveralHaveTheNumber, m_request.player));
     if (chosen != rows.end())
       choice.chosen = chosen->id;
-    else if (!m_request.player.empty() || which == SeasonReport::Player || which == SeasonReport::Line)
+    else if (!m_request.player.empty() || isOfPerson(which))
       return m_request.player.empty()
                  ? complainOfMissing("--player|--line")
                  : complain(kWrongUse, words(Text::NobodyHasTheNumber, m_request.player));

@@ -250,6 +250,9 @@ TEST(TableReportTest, AWorkbookTellsNumbersPercentagesTimesAndTextsApart) {
   report.blocks.emplace_back(table);
   table.title = "a sheet of its own";
   report.blocks.emplace_back(table);
+  FlowDrawing flow;
+  flow.flow.steps.push_back({0, 1, 540, 60, {2, 0}});
+  report.blocks.emplace_back(ReportPicture{"flow", flow});
   const auto bytes = reportXlsx(report);
   ASSERT_TRUE(bytes);
   const QString path = toQt(folder.write("t.xlsx", *bytes));
@@ -260,6 +263,8 @@ TEST(TableReportTest, AWorkbookTellsNumbersPercentagesTimesAndTextsApart) {
   };
   const std::string sheet = part("xl/worksheets/sheet1.xml");
   EXPECT_NE(part("xl/worksheets/sheet2.xml"), "");
+  EXPECT_TRUE(std::regex_search(part("xl/worksheets/sheet3.xml"), std::regex("<c r=\"D3\"[^>]*><v>2</v>")));
+  EXPECT_NE(part("xl/charts/chart1.xml").find("flow!$D$2:$D$3"), std::string::npos);
   EXPECT_NE(part("xl/sharedStrings.xml").find("=1+1 &lt;b&gt;"), std::string::npos);
   const std::string styles = part("xl/styles.xml");
   EXPECT_EQ(sheet.find("<f>"), std::string::npos);

@@ -7,6 +7,7 @@
 #include "printing/frmprint.h"
 #include "report/BoxReport.h"
 #include "report/GameReports.h"
+#include "report/GameSheet.h"
 #include "report/ReportText.h"
 #include "report/SeasonReports.h"
 #include "report/TeamReports.h"
@@ -91,8 +92,10 @@ class ReportPagesTest : public WindowRoom<> {
     return {ofSeason(SeasonReport::TeamDetail, player),
             ofSeason(SeasonReport::LeadersPerMinute, player),
             ofSeason(SeasonReport::Player, player),
+            ofSeason(SeasonReport::PlayerSheet, player),
             ofSeason(SeasonReport::LineOther, season.lines().front().id),
             scorecard(game),
+            gameSheet({game, tallied(game)}, texts),
             scorecardReport(counted(game), byLine, settings, texts),
             playByPlayReport({shorter, tallied(shorter)}, texts),
             rosterReport(team, players, texts),
@@ -242,6 +245,51 @@ TEST_F(ReportPagesTest, ThePdfSaysWhatTheTablesOfTheSeasonSay) {
       }
     }
   }
+}
+
+// Fifteen players each: all of them stand on the one page, on the smaller paper as well.
+TEST_F(ReportPagesTest, AGameOfTwoFullRostersStandsOnOnePage) {
+  std::string text = "[DETAILS]\nVERSION=2.0\nEQUIPE0ABB=PAN\nEQUIPE1ABB=OLY\nNBREPERIODE=4\nDUREE=10\n";
+  std::string events = "[PERIODE1]\n";
+  for (int team = 0; team < 2; ++team) {
+    text += '[' + std::to_string(team) + "]\n";
+    for (int player = 0; player < 15; ++player) {
+      const std::string jersey = std::to_string(100 + 100 * team + player);
+      text += jersey + "=1,Somebody With A Name " + jersey + "\n";
+      events += jersey + "=05:00,GFG," + std::to_string(team) + '-' + jersey + ",40,50\n";
+    }
+  }
+  const Game game = gameOfText(text + events);
+  const Report report = gameSheet({game, tallied(game)}, texts);
+  for (const Paper paper : {Paper::A4, Paper::Letter}) {
+    ReportLayout layout(report, {paper, PageTurn::Landscape}); // which such a report does not follow
+    layout.finish();
+    ASSERT_EQ(layout.pages().size(), 1U);
+    EXPECT_LT(layout.size().width(), layout.size().height());
+    std::set<QString> names;
+    for (const PageText& each : layout.pages().front().texts) {
+      EXPECT_TRUE(layout.body().adjusted(-1, -1, 1, 1).contains(each.box)) << each.text.toStdString();
+      if (each.text.startsWith(QStringLiteral("Somebody With A Name")))
+        names.insert(each.text);
+    }
+    EXPECT_EQ(names.size(), 30U);
+  }
+}
+
+TEST_F(ReportPagesTest, APlayersPageOfALongSeasonIsStillOne) {
+  SeasonFolder games;
+  for (int game = 10; game < 45; ++game)
+    games.addGame(std::to_string(game) + ".GAM", "2026-10-01",
+                  "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=09:00,GFG,0-4,40," +
+                      std::to_string(game) + "\n3=00:00,ARRET,IN-,IN-\n");
+  const SeasonStatistics season = games.statistics();
+  const Report report = seasonReport(SeasonReport::PlayerSheet, season,
+                                     {std::nullopt, season.players().front().id, {}}, settings, texts);
+  ReportLayout layout(report, {Paper::Letter, PageTurn::AsItFits});
+  layout.finish();
+  ASSERT_EQ(layout.pages().size(), 1U);
+  for (const PageText& each : layout.pages().front().texts)
+    EXPECT_TRUE(layout.body().adjusted(-1, -1, 1, 1).contains(each.box)) << each.text.toStdString();
 }
 
 // What nobody tried takes no room, but stands in files; leaders stand below each other.

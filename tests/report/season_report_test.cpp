@@ -97,7 +97,7 @@ TEST_F(SeasonReportTest, EveryReportHasItsRowsInBothLanguages) {
     texts.setLanguage(language);
     for (const SeasonReportName& name : seasonReports()) {
       const bool isOfLine = name.report == SeasonReport::Line;
-      const bool isPerformance = isOfLine || name.report == SeasonReport::Player;
+      const bool isPerformance = isOfPerson(name.report);
       choice.chosen = isOfLine ? season.lines().front().id : season.players().front().id;
       const Report report = seasonReport(name.report, season, choice, settings, texts);
       EXPECT_FALSE(tables(report).empty()) << name.word;
@@ -138,6 +138,25 @@ TEST_F(SeasonReportTest, ThePerformanceOfAPlayerHoldsHisGamesAndRecords) {
   EXPECT_EQ(reportCsv(leaders).size(), 1U) << "one table of text for all statistics";
   EXPECT_EQ(points.rows[0].emphasis, ReportRow::Emphasis::Highlighted);
   EXPECT_EQ(points.rows[1].emphasis, ReportRow::Emphasis::None);
+}
+
+TEST_F(SeasonReportTest, APlayersPageSplitsHisGamesAndMarksTheBestOfEach) {
+  const SeasonStatistics season = folder.statistics();
+  const SeasonReportChoice ann = {std::nullopt, rowOf(season.players(), "Ann Able")->id, {}};
+  const Report report = seasonReport(SeasonReport::PlayerSheet, season, ann, settings, texts);
+  EXPECT_TRUE(report.isOnePage);
+  const auto all = tables(report);
+  ASSERT_EQ(all.size(), 4U);
+  EXPECT_EQ(cell(*all[0], all[0]->rows[0], "PTS").text, "2.0");
+  EXPECT_EQ(cell(*all[0], all[0]->rows[0], "eFG%").text, "66.7%");
+  EXPECT_EQ(cell(*all[1], all[1]->rows[1], "2P").text, "1/2");
+  EXPECT_FALSE(cell(*all[1], all[1]->rows[1], "rating").isStrong);
+  EXPECT_TRUE(cell(*all[1], all[1]->rows[0], "rating").isStrong);
+  EXPECT_EQ(cell(*all[2], all[2]->rows[0], "pointsPerShot").text, "1.33");
+  std::string splits;
+  for (const ReportRow& row : all[3]->rows)
+    splits += row.cells[0].text + ' ' + row.cells[1].text + ';';
+  EXPECT_EQ(splits, "Away 2;In wins 2;");
 }
 
 TEST_F(SeasonReportTest, FilesNameTheirColumnsAndHoldNoTimeWhereNoneIsShown) {

@@ -259,7 +259,7 @@ TEST_F(MainWindowTest, EveryPrintCommandLeadsToOnePreview) {
   };
   window->openGame(makeGame("one.GAM"));
   for (const auto& [key, shown] :
-       {std::pair("vwPRINT", Text::Scorecard), std::pair("viergePRINT", Text::BlankForms),
+       {std::pair("vwPRINT", Text::GameSheetReport), std::pair("viergePRINT", Text::BlankForms),
         std::pair("blankPRINT", Text::PreparedForms)}) {
     action(key).trigger();
     EXPECT_EQ(title(), text(shown));
@@ -275,7 +275,7 @@ TEST_F(MainWindowTest, EveryPrintCommandLeadsToOnePreview) {
   EXPECT_EQ(title(), text(Text::TeamRoster));
   record(makeGame("two.GAM"));
   action("livePRINT").trigger();
-  EXPECT_EQ(title(), text(Text::Scorecard));
+  EXPECT_EQ(title(), text(Text::GameSheetReport));
 }
 
 TEST_F(MainWindowTest, EveryCommandIsServedStandsInTheMenusAndIsDisabledUntilItsWindowExists) {

@@ -38,13 +38,14 @@ class ReportRunTest : public testing::Test {
 };
 
 TEST_F(ReportRunTest, EveryKindIsWrittenInEveryFormThatItHas) {
-  std::vector<std::string> kinds = {"scorecard", "scorecard-lines", "league",     "play-by-play",
-                                    "roster",    "forms",           "blank-forms"};
+  std::vector<std::string> kinds = {"sheet",        "scorecard", "scorecard-lines", "league",
+                                    "play-by-play", "roster",    "forms",           "blank-forms"};
   for (const SeasonReportName& report : seasonReports())
     kinds.emplace_back(report.word);
   for (const std::string& kind : kinds) {
     const bool isForm = kind.ends_with("forms");
-    const bool isOfGame = kind.starts_with("scorecard") || kind == "league" || kind == "play-by-play";
+    const bool isOfGame =
+        kind == "sheet" || kind.starts_with("scorecard") || kind == "league" || kind == "play-by-play";
     request.source = isOfGame ? games.folder().path("first.GAM") : games.folder().path();
     request.team = "PAN-A";
     request.player = kind.starts_with("line") ? "4-5-10-12-15" : "4";

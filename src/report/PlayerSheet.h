@@ -1,0 +1,14 @@
+// A player's season on one page: averages, his games, where he shot from and how, and how he played at home,
+// away, in wins, in losses and lately. Sums are those of the season's statistics.
+#pragma once
+
+#include "report/Report.h"
+#include "season/SeasonStatistics.h"
+#include "settings/Texts.h"
+
+namespace hooptab {
+
+// Without that player it holds no tables.
+[[nodiscard]] Report playerSheet(const SeasonStatistics& statistics, SeasonId player, const Texts& texts);
+
+} // namespace hooptab
