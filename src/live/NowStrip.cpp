@@ -106,8 +106,8 @@ void NowStrip::gather() {
     addWords(toQt(runText(*m_run)), look.ink, true);
   }
   for (const Side team : kSides) {
-    const std::optional<FivePlay>& best = m_fives.best[team];
-    if (!best || best->plusMinus() <= 0)
+    const FivePlay* const best = m_fives.best(team);
+    if (best == nullptr || best->plusMinus() <= 0)
       continue;
     m_runs.push_back({.text = caption(m_texts, Text::BestFive), .colour = look.muted, .beginsGroup = true});
     m_runs.push_back({.colour = teamColour(team), .isChip = true});
