@@ -1,9 +1,9 @@
 // The core's own work for one event, in games of several lengths: counted, written, kept for being taken
-// back; and what is computed anew to show who plays well together. The disk takes
+// back; and what is computed anew to show who plays well together, and to tell the bench. The disk takes
 // every write at once (HOOPTAB_BENCH_FOLDER chooses it), and its share is taken out.
 #include "live_measure.h"
 
-#include "recording/Fives.h"
+#include "assistant/BenchFigures.h"
 
 #include <cstdlib>
 
@@ -21,6 +21,8 @@ void measureCore(int events, const std::filesystem::path& folder) {
   std::vector<double> whole;
   std::vector<double> own; // without the calls of the system
   std::vector<double> fives;
+  std::vector<double> bench;
+  const Texts texts;
   for (int i = 0; i < kSamples; ++i) {
     files.spent = {};
     const BenchClock::time_point start = BenchClock::now();
@@ -33,12 +35,16 @@ void measureCore(int events, const std::filesystem::path& folder) {
     const BenchClock::time_point counted = BenchClock::now();
     const bool hasFive = Fives::of(live).current[Side::Visitor].players != 0;
     fives.push_back(milliseconds(BenchClock::now() - counted));
-    if (!hasFive)
+    const BenchClock::time_point told = BenchClock::now();
+    const bool isTold = !BenchFigures::of(live, BenchRecord(live), Side::Visitor, texts).five.empty();
+    bench.push_back(milliseconds(BenchClock::now() - told));
+    if (!hasFive || !isTold)
       std::exit(EXIT_FAILURE);
   }
   printFigures(("core, behind event " + std::to_string(events)).c_str(), std::move(whole));
   printFigures("  of this its own work", std::move(own));
   printFigures("  who plays well together", std::move(fives));
+  printFigures("  what the bench is told", std::move(bench));
 }
 
 } // namespace

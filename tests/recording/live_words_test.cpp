@@ -64,7 +64,7 @@ TEST_F(LiveWordsTest, TheRunAndTheFiveFollowTheGame) {
   run(100);
   ASSERT_TRUE(live.recordShot(Side::Home, 1, EventCode::GFT, true) &&
               live.recordShot(Side::Visitor, 1, EventCode::GF3, false));
-  EXPECT_EQ(lastRun(live.game().events), (ScoringRun{Side::Home, 3}));
+  EXPECT_EQ(lastRun(live.game().events)->team, Side::Home);
   EXPECT_EQ(runText(*lastRun(live.game().events)), "3–0");
   EXPECT_EQ(Fives::of(live).current[Side::Visitor], (FivePlay{0b1111010, "0 4 10 12 15", 100, 0, 1}));
   EXPECT_EQ(Fives::of(live).best(Side::Visitor)->seconds, 60);
