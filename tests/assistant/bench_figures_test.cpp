@@ -97,6 +97,17 @@ TEST_F(BenchFiguresTest, PlayersHaveTheirTimeHereAndInAll) {
   EXPECT_TRUE(words(ours.bench).starts_with("4 Able 0f 01:30 +2 2p 06:31; "));
 }
 
+TEST_F(BenchFiguresTest, AGameWithoutTimeSaysNone) {
+  std::string game = textOfGame(kRun, kRules);
+  game.replace(game.find("DUREE=10"), 8, "DUREE=0");
+  open(game);
+  const BenchFigures ours = of(Side::Visitor);
+  EXPECT_EQ(words(ours.run), "Run · OLY | 0–7 | 3 Hart 5 | 7 Ivers 2 !");
+  EXPECT_EQ(ours.sinceTimeOut.title, "Since the last time-out (1st)");
+  EXPECT_TRUE(words(ours.five).starts_with("5 Baker 0f – −5 0p –; "));
+  EXPECT_EQ(ours.thisFive, "together  –   +/−  −7   net few");
+}
+
 TEST_F(BenchFiguresTest, WhoHasMoreFoulsThanPeriodsIsInTroubleUntilHeIsOut) {
   std::string game = kRun + "[PERIODE2]\n21=10:00,DEPART\n22=09:00,SPF,0-5\n23=09:00,SPF,0-5\n";
   open(textOfGame(game, kRules));
