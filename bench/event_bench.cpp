@@ -1,6 +1,9 @@
 // The core's own work for one event, in games of several lengths: counted, written, kept for being taken
-// back. The disk takes every write at once (HOOPTAB_BENCH_FOLDER chooses it), and its share is taken out.
+// back; and what is computed anew to show who plays well together, and to tell the bench. The disk takes
+// every write at once (HOOPTAB_BENCH_FOLDER chooses it), and its share is taken out.
 #include "live_measure.h"
+
+#include "assistant/BenchFigures.h"
 
 #include <cstdlib>
 
@@ -17,6 +20,9 @@ void measureCore(int events, const std::filesystem::path& folder) {
     std::exit(EXIT_FAILURE);
   std::vector<double> whole;
   std::vector<double> own; // without the calls of the system
+  std::vector<double> fives;
+  std::vector<double> bench;
+  const Texts texts;
   for (int i = 0; i < kSamples; ++i) {
     files.spent = {};
     const BenchClock::time_point start = BenchClock::now();
@@ -26,16 +32,26 @@ void measureCore(int events, const std::filesystem::path& folder) {
     own.push_back(milliseconds(spent - files.spent));
     if (!isRecorded)
       std::exit(EXIT_FAILURE);
+    const BenchClock::time_point counted = BenchClock::now();
+    const bool hasFive = Fives::of(live).current[Side::Visitor].players != 0;
+    fives.push_back(milliseconds(BenchClock::now() - counted));
+    const BenchClock::time_point told = BenchClock::now();
+    const bool isTold = !BenchFigures::of(live, BenchRecord(live), Side::Visitor, texts).five.empty();
+    bench.push_back(milliseconds(BenchClock::now() - told));
+    if (!hasFive || !isTold)
+      std::exit(EXIT_FAILURE);
   }
   printFigures(("core, behind event " + std::to_string(events)).c_str(), std::move(whole));
   printFigures("  of this its own work", std::move(own));
+  printFigures("  who plays well together", std::move(fives));
+  printFigures("  what the bench is told", std::move(bench));
 }
 
 } // namespace
 
 int main() {
   const std::filesystem::path folder = liveBenchFolder();
-  for (const int events : {500, 1500, 5000, 20000})
+  for (const int events : {600, 1500, 5000, 20000})
     measureCore(events, folder);
   return EXIT_SUCCESS;
 }

@@ -24,6 +24,26 @@ bool isInPaint(const GameEvent& shot) {
   return shot.x <= kPaintLength && shot.y >= kPaintTop && shot.y <= kPaintBottom;
 }
 
+// What one event adds to every share that it belongs to. Of the many counts it has one or two, and a running
+// game is counted anew after each of its events.
+struct Addition {
+  int seconds = 0;
+  PerSide<int> possessions = {};
+  Side team = Side::Visitor;
+  std::array<Counter, 2> counters = {}; // of that team, the first `count` of them
+  std::size_t count = 0;
+
+  void add(Counter counter) { counters[count++] = counter; }
+  [[nodiscard]] bool isEmpty() const { return count == 0 && seconds == 0 && possessions == PerSide<int>{}; }
+  void addTo(CourtShare& share) const {
+    share.seconds += seconds;
+    for (const Side each : kSides)
+      share.possessions[each] += possessions[each];
+    for (std::size_t i = 0; i < count; ++i)
+      ++share.counters[team].counts[static_cast<std::size_t>(counters[i])];
+  }
+};
+
 // Where points come from, as far as the order of the events tells.
 class Origins {
  public:
@@ -115,23 +135,22 @@ class Builder {
       followClock(event);
     const Possessions::Stand stand = m_possessions.take(event, place);
     m_origins.take(event, stand);
-    CourtShare happened;
-    happened.possessions = stand.begun;
+    Addition happened{.possessions = stand.begun};
     if (event.isOfPlayer())
-      count(event, happened.counters[*event.player.team]);
-    if (stand.begun != PerSide<int>{} || event.isOfPlayer())
+      count(event, happened);
+    if (!happened.isEmpty())
       add(event, happened);
     if (event.isShot() && event.isMade)
       m_score[*event.player.team] += event.kind()->points;
   }
 
-  static void count(const GameEvent& event, BoxCounters& counters) {
+  static void count(const GameEvent& event, Addition& happened) {
     const EventKind& kind = *event.kind();
-    const auto add = [&counters](Counter counter) { ++counters.counts[static_cast<std::size_t>(counter)]; };
+    happened.team = *event.player.team;
     if (kind.isShot)
-      add(kind.attempts);
+      happened.add(kind.attempts);
     if (!kind.isShot || event.isMade)
-      add(kind.counter);
+      happened.add(kind.counter);
   }
 
   void followClock(const GameEvent& event) {
@@ -150,27 +169,24 @@ class Builder {
     m_clock = event.clockSeconds;
     if (event.code != EventCode::ARRET)
       return;
-    if (isAnybodyOnCourt()) {
-      CourtShare time;
-      time.seconds = m_since - event.clockSeconds;
-      addToThoseOnCourt(time);
-    }
+    if (isAnybodyOnCourt())
+      addToThoseOnCourt({.seconds = m_since - event.clockSeconds});
     m_since = event.clockSeconds;
   }
 
-  void add(const GameEvent& event, const CourtShare& happened) {
+  void add(const GameEvent& event, const Addition& happened) {
     if (isClutch(event.period, event.clockSeconds))
-      m_insight.clutch += happened;
+      happened.addTo(m_insight.clutch);
     addToThoseOnCourt(happened);
   }
 
-  void addToThoseOnCourt(const CourtShare& share) {
-    m_insight.whole += share;
-    matchup().share += share;
+  void addToThoseOnCourt(const Addition& added) {
+    added.addTo(m_insight.whole);
+    added.addTo(matchup().share);
     for (const Side team : kSides) {
       for (std::size_t i = 0; i < m_state.onCourtCount[team]; ++i) {
         if (const std::size_t player = m_state.onCourt[team][i]; player > 0)
-          m_insight.players[team][player] += share;
+          added.addTo(m_insight.players[team][player]);
       }
     }
   }

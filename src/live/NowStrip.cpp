@@ -80,7 +80,7 @@ void NowStrip::addFive(Side team) {
   const FivePlay& five = m_fives.current[team];
   if (five.players == 0)
     return;
-  m_runs.push_back({.colour = teamColour(team), .isChip = true, .beginsGroup = true});
+  addChip(team, true);
   addWords(toQt(five.jerseys), look.ink, true);
   if (m_game->hasTime()) {
     addWords(caption(m_texts, Text::Together), look.muted);
@@ -102,24 +102,34 @@ void NowStrip::gather() {
   if (m_run) {
     m_runs.push_back(
         {.text = caption(m_texts, Text::RunOfPoints), .colour = look.muted, .beginsGroup = true});
-    m_runs.push_back({.colour = teamColour(m_run->team), .isChip = true});
+    addChip(m_run->team);
     addWords(toQt(runText(*m_run)), look.ink, true);
   }
   for (const Side team : kSides) {
-    const std::optional<FivePlay>& best = m_fives.best[team];
-    if (!best || best->plusMinus() <= 0)
+    const FivePlay* const best = m_fives.best(team);
+    if (best == nullptr || best->plusMinus() <= 0)
       continue;
     m_runs.push_back({.text = caption(m_texts, Text::BestFive), .colour = look.muted, .beginsGroup = true});
-    m_runs.push_back({.colour = teamColour(team), .isChip = true});
+    addChip(team);
     addWords(toQt(best->jerseys), look.ink);
     addWords(signedText(best->plusMinus()), look.made, true);
   }
-  if (m_runs != before)
-    update();
+  if (m_runs == before)
+    return;
+  QString words; // a line for each group, also of those that have no room
+  for (const Run& run : m_runs)
+    words += (words.isEmpty() ? u"" : run.beginsGroup ? u"\n" : u" ") + run.text;
+  setToolTip(words);
+  update();
 }
 
-QColor NowStrip::teamColour(Side team) const {
-  return colourOf(m_game->game().details.teamColour[team]);
+// Its colour, painted; its name, in words.
+void NowStrip::addChip(Side team, bool beginsGroup) {
+  const GameDetails& details = m_game->game().details;
+  m_runs.push_back({.text = toQt(details.abbreviation[team]),
+                    .colour = colourOf(details.teamColour[team]),
+                    .isChip = true,
+                    .beginsGroup = beginsGroup});
 }
 
 void NowStrip::showDisk(const PendingWrites& pending) {

@@ -55,7 +55,7 @@ class NowStrip : public QWidget {
   void gather();
   void addFive(Side team);
   void sayDisk();
-  [[nodiscard]] QColor teamColour(Side team) const;
+  void addChip(Side team, bool beginsGroup = false);
   void addWords(const QString& words, const QColor& colour, bool isBold = false);
 
   const Texts& m_texts;

@@ -4,6 +4,7 @@
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "assistant/frmBENCH.h"
 #include "events/BenchShot.h"
 #include "events/CorrectionBar.h"
 #include "events/EventRequests.h"
@@ -50,12 +51,6 @@ namespace hooptab {
 namespace {
 
 using namespace std::chrono_literals;
-
-constexpr const char* kRowsStay = "rows-stay";
-constexpr const char* kRowsChange = "rows-change";
-constexpr const char* kPlacesStay = "places-stay";
-constexpr const char* kEventsOpen = "events-open"; // and in the next word where
-constexpr const char* kEventsClosed = "events-closed";
 
 constexpr auto kTick = 250ms; // the clock is computed, not counted: a late tick loses nothing
 constexpr auto kLockTick = 200ms;
@@ -493,26 +488,6 @@ void frmLIVE::showSides() {
     m_bench->strip(team).setPlaysRight(playsRightOf(team));
 }
 
-QByteArray frmLIVE::arrangement() const {
-  QByteArrayList kept = {m_rowsStay ? kRowsStay : kRowsChange}; // never empty, which would not be remembered
-  if (m_bench->placesStay())
-    kept << kPlacesStay;
-  if (const QByteArray place = m_events->windowPlace(); !place.isEmpty())
-    kept << (m_events->hasWindow() ? kEventsOpen : kEventsClosed) << place.toBase64();
-  return kept.join(' ');
-}
-
-void frmLIVE::restoreArrangement(const QByteArray& arrangement) {
-  const QByteArrayList kept = arrangement.split(' ');
-  m_rowsStay = kept.contains(kRowsStay);
-  m_bench->setPlacesStay(kept.contains(kPlacesStay));
-  const bool hasWindow = kept.contains(kEventsOpen);
-  if (const qsizetype at = kept.indexOf(hasWindow ? kEventsOpen : kEventsClosed); at >= 0)
-    m_events->restoreWindow(QByteArray::fromBase64(kept.value(at + 1)), hasWindow);
-  m_session.change()->setKeepsPlaces(m_bench->placesStay());
-  showSides();
-}
-
 void frmLIVE::chooseColour(Side team) {
   if (m_game.phase() == LiveGame::Phase::ReadOnly)
     return;
@@ -538,6 +513,8 @@ void frmLIVE::relabelWindow() {
   m_events->relabelPanel();
   m_now->relabelStrip();
   m_keys->relabelKeys();
+  if (m_assistant != nullptr)
+    m_assistant->relabelWindow();
   applyColours();
   showGame();
 }
@@ -552,6 +529,8 @@ void frmLIVE::applyColours() {
   m_bench->applyColours();
   m_events->applyColours();
   m_now->applyColours();
+  if (m_assistant != nullptr)
+    m_assistant->applyColours();
   m_correction->relabelBar();
   applyMeasure();
 }

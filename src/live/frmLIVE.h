@@ -45,6 +45,7 @@ class ScorePanel;
 class Settings;
 class SideSwitch;
 class Texts;
+class frmBENCH;
 class frmSUBST;
 struct KeypadSetup;
 
@@ -78,6 +79,7 @@ class frmLIVE : public ChildWindow {
   void tell(const QString& words); // where it says what it has done itself
   void switchSides();
   void gameOver();
+  void switchBench(); // opens the window for the bench, or closes it
 
   void relabelWindow() override;
   void applyColours() override;
@@ -201,6 +203,9 @@ class frmLIVE : public ChildWindow {
   PeriodEndCard* m_card = nullptr;
   CorrectionBar* m_correction = nullptr;
   EventCorrection::Who m_askedAbout; // by the follow-up
+  frmBENCH* m_assistant = nullptr;   // once it was asked for
+  QByteArray m_assistantPlace;       // as it was left
+  Side m_assistantTeam = Side::Visitor;
   BenchShot* m_benchShot = nullptr;
   Side m_benchTeam = Side::Visitor; // whose shot m_benchShot asks for
   int m_benchPlayer = 0;

@@ -1,58 +1,62 @@
 #include "recording/Fives.h"
 
 #include "game/PlayerLookup.h"
+#include "insight/Rates.h"
 #include "recording/LiveFigures.h"
 
-#include <bit>
+#include <algorithm>
+#include <array>
 #include <tuple>
 
 namespace hooptab {
 
 namespace {
 
-using PointsOfLines = PerSide<std::array<int, GameState::kLineEntries>>;
+using SharesOfLines = std::array<CourtShare, GameState::kLineEntries>;
 
-// The counters of a line have its own points alone.
-PointsOfLines pointsAgainst(const Game& game) {
-  PointsOfLines points = {};
-  GameState state;
-  Tally tally(state, game.roster[Side::Visitor], game.roster[Side::Home]);
-  std::size_t index = 0;
-  for (const GameEvent& event : game.events) {
-    tally.apply(event, index++);
-    if (!event.isUnderstood || event.isDeleted || !event.isShot() || !event.isMade)
-      continue;
-    const Side other = otherSide(*event.player.team);
-    points[other][state.currentLine[other]] += event.kind()->points;
-  }
-  return points;
+// Against whomever.
+SharesOfLines sharesOfLines(const GameInsight& insight, Side team) {
+  SharesOfLines shares = {};
+  for (const Matchup& matchup : insight.matchups)
+    shares[static_cast<std::size_t>(matchup.line[team])] += matchup.share;
+  return shares;
+}
+
+std::optional<double> netOf(Side team, const CourtShare& share) {
+  static const Rate& net = rateNamed("netRating");
+  return std::ranges::min(share.possessions) < Fives::kFewestPossessions
+             ? std::nullopt
+             : net.value(RateBasis::ofAll(team, share));
 }
 
 } // namespace
 
-Fives Fives::of(const LiveGame& game) {
+Fives Fives::of(const LiveGame& game, const GameInsight& insight) {
   Fives fives;
   const GameState& state = game.state();
-  const PointsOfLines against = pointsAgainst(game.game());
   for (const Side team : kSides) {
-    const Roster& roster = game.game().roster[team];
+    const SharesOfLines shares = sharesOfLines(insight, team);
+    const auto playOf = [&](std::size_t line, int seconds) {
+      const CourtShare& share = shares[line];
+      return FivePlay{.players = state.lineMembers[team][line] & ~1U,
+                      .jerseys = jerseysOnCourt(state.lines[team][line].list, game.game().roster[team]),
+                      .seconds = seconds,
+                      .pointsFor = share.points(team),
+                      .pointsAgainst = share.points(otherSide(team)),
+                      .net = netOf(team, share)};
+    };
     const std::size_t onCourt = state.currentLine[team];
+    if (onCourt != 0)
+      fives.current[team] = playOf(onCourt, LiveFigures(game).secondsOfLine(team));
+    auto& ranked = fives.ranked[team];
     for (std::size_t line = 1; line <= static_cast<std::size_t>(state.usedLines[team]); ++line) {
-      const LineEntry& entry = state.lines[team][line];
-      const FivePlay play{.players = state.lineMembers[team][line] & ~1U,
-                          .jerseys = jerseysOnCourt(entry.list, roster),
-                          .seconds = line == onCourt ? LiveFigures(game).secondsOfLine(team) : entry.seconds,
-                          .pointsFor = pointsOf(entry.counters),
-                          .pointsAgainst = against[team][line]};
-      if (line == onCourt)
-        fives.current[team] = play;
-      const bool isFive = playersOnCourt(entry.list, roster).size() == kMostOnCourt;
-      const auto& best = fives.best[team];
-      if (isFive && play.seconds >= kShortest &&
-          (!best ||
-           std::tuple(play.plusMinus(), play.seconds) > std::tuple(best->plusMinus(), best->seconds)))
-        fives.best[team] = play;
+      const int seconds = line == onCourt ? fives.current[team].seconds : shares[line].seconds;
+      const std::string& list = state.lines[team][line].list;
+      if (seconds >= kShortest && playersOnCourt(list, game.game().roster[team]).size() == kMostOnCourt)
+        ranked.push_back(playOf(line, seconds));
     }
+    std::ranges::stable_sort(ranked, std::ranges::greater(),
+                             [](const FivePlay& play) { return std::tuple(play.plusMinus(), play.seconds); });
   }
   return fives;
 }

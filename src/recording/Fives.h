@@ -1,13 +1,14 @@
-// The players of a team who stand on court together, and those who have done so best: how long, and with what
-// score meanwhile. Figures alone; lays out nothing.
+// The players of a team who stand on court together, and those who have done so best: how long, with what
+// score meanwhile, and what that comes to for each hundred possessions. Figures alone; lays out nothing.
 #pragma once
 
 #include "game/Side.h"
+#include "insight/GameInsight.h"
 #include "recording/LiveGame.h"
 
-#include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace hooptab {
 
@@ -17,22 +18,30 @@ struct FivePlay {
   int seconds = 0;          // together, in the whole game
   int pointsFor = 0;
   int pointsAgainst = 0;
+  std::optional<double> net = {}; // net rating; none of too few possessions to say anything
   [[nodiscard]] int plusMinus() const { return pointsFor - pointsAgainst; }
   friend bool operator==(const FivePlay&, const FivePlay&) = default;
 };
 
 struct Fives {
-  static constexpr int kShortest = 60; // seconds that the best have played at least
+  static constexpr int kShortest = 60;         // seconds that those who are ranked have played at least
+  static constexpr int kFewestPossessions = 8; // of each team, for a net rating
 
   // Of both teams, as their lists say: a substitution of which a part was clicked is not in it. Nobody where
   // nobody is on court, and for a line behind the hundredth, which is not counted for itself.
   PerSide<FivePlay> current = {};
-  // The five with the most points more than the other team meanwhile, of two equal ones who played longer.
-  // None where no five has played long enough, so never in a game without time.
-  PerSide<std::optional<FivePlay>> best = {};
+  // Those of five players who have played long enough, the one on court included: by points more than the
+  // other team meanwhile, and of two equal ones by time. Nobody in a game without time.
+  PerSide<std::vector<FivePlay>> ranked = {};
+
+  [[nodiscard]] const FivePlay* best(Side team) const {
+    return ranked[team].empty() ? nullptr : &ranked[team].front();
+  }
 
   // Goes through all events: for once a change, not for every second.
-  [[nodiscard]] static Fives of(const LiveGame& game);
+  [[nodiscard]] static Fives of(const LiveGame& game) { return of(game, insightOf(game.game())); }
+  // Of a game of which that is known.
+  [[nodiscard]] static Fives of(const LiveGame& game, const GameInsight& insight);
 };
 
 } // namespace hooptab

@@ -50,7 +50,7 @@ std::optional<ScoringRun> lastRun(const EventList& events) {
       continue;
     if (run && run->team != event.player.team)
       break;
-    run = ScoringRun{*event.player.team, (run ? run->points : 0) + event.kind()->points};
+    run = ScoringRun{*event.player.team, (run ? run->points : 0) + event.kind()->points, place - 1};
   }
   return run;
 }

@@ -6,6 +6,7 @@
 #include "recording/LiveGame.h"
 #include "settings/Texts.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,7 +19,8 @@ namespace hooptab {
 // Points of one team since the other has scored last.
 struct ScoringRun {
   Side team = Side::Visitor;
-  int points = 0; // the other has none
+  int points = 0;        // the other has none
+  std::size_t first = 0; // the place of the score that began it, among the events
   friend bool operator==(const ScoringRun&, const ScoringRun&) = default;
 };
 // Of the team that scored last; none before the first points.

@@ -47,6 +47,7 @@ enum class CommandId : std::uint8_t {
   OpenForms,
   SaveCopy,
   GameSheet,
+  BenchView,
   Keypad,
   AskRebounds,
   SwitchSides,

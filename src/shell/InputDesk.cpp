@@ -66,6 +66,7 @@ void InputDesk::serve(CommandBar& commands) {
   };
   whileLive(CommandId::SwitchSides, [](frmLIVE& window) { window.switchSides(); });
   whileLive(CommandId::GameSheet, [this](frmLIVE& window) { openSheet(window); });
+  whileLive(CommandId::BenchView, [](frmLIVE& window) { window.switchBench(); });
   whileLive(CommandId::GameOver, [](frmLIVE& window) { window.gameOver(); });
   whileLive(CommandId::PrintGame, [this](const frmLIVE& window) {
     m_preview.show(gameOffers(std::make_shared<const CountedGame>(CountedGame{window.game(), window.state()}),

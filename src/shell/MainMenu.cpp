@@ -51,10 +51,11 @@ MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const C
           {CommandId::Refresh, CommandId::RefreshByHand, CommandId::Refresh10, CommandId::Refresh30,
            CommandId::Refresh60, kSeparator, CommandId::ByLine, CommandId::MadeAttempted, kSeparator,
            CommandId::PrintScorecard, CommandId::CloseScorecard});
-  addMenu(Text::Input, {CommandId::NewGame, CommandId::OpenForInput, kSeparator, CommandId::Keypad,
-                        CommandId::AskRebounds, CommandId::SwitchSides, CommandId::GameSheet,
-                        CommandId::GameOver, kSeparator, CommandId::OpenForms, CommandId::SaveTotals,
-                        CommandId::PrintGame, CommandId::FormsMenu, CommandId::CloseInput});
+  addMenu(Text::Input,
+          {CommandId::NewGame, CommandId::OpenForInput, kSeparator, CommandId::Keypad, CommandId::AskRebounds,
+           CommandId::SwitchSides, CommandId::BenchView, CommandId::GameSheet, CommandId::GameOver,
+           kSeparator, CommandId::OpenForms, CommandId::SaveTotals, CommandId::PrintGame,
+           CommandId::FormsMenu, CommandId::CloseInput});
   addMenu(Text::Teams, {CommandId::OpenTeams});
   addMenu(Text::Season, {CommandId::OpenSeason, kSeparator, CommandId::TeamSummary, CommandId::TeamDetail,
                          kSeparator, CommandId::PlayerShots, CommandId::LineShots, CommandId::PlayerOther,

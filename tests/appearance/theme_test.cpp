@@ -54,7 +54,8 @@ TEST_P(ThemeTest, IsReadableWhereverTextStands) {
     reads(look.faint, ground);
   reads(look.onAccent, look.accent);
   reads(look.onStart, look.start);
-  reads(look.warningText, look.warningGround);
+  for (const QColor& text : {look.warningText, look.made, look.missed})
+    reads(text, look.warningGround);
   reads(look.doubtfulText, look.doubtfulGround);
   for (const QColor& text : {look.plateText, look.plateMuted, look.clockStands, look.clockRuns})
     reads(text, look.plate);

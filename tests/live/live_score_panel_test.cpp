@@ -197,10 +197,14 @@ TEST_F(ScorePanelTest, WithoutTimeOffersNoClock) {
   EXPECT_TRUE(button("UpDoPERIOD(0)")->isEnabled());
 }
 
-TEST_F(ScorePanelTest, SaysInWordsWhatIsNotOnDiskInTheLanguageInUse) {
-  open("[PERIODE1]\n1=05:00,SPF,0-4\n");
+TEST_F(ScorePanelTest, SaysInWordsWhatIsShownAndNotOnDiskInTheLanguageInUse) {
+  open("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03\n2=09:00,GDK,0-4\n"
+       "3=08:00,ARRET,IN-04-05-10-12-15,IN-03\n");
   NowStrip strip(texts);
   strip.showGame(live);
+  EXPECT_EQ(strip.toolTip(), QStringLiteral("PAN 4 5 10 12 15 together 02:00 +2 (2–0)\n"
+                                            "OLY 3 together 02:00 −2 (0–2)\nRun PAN 2–0\n"
+                                            "Best five PAN 4 5 10 12 15 +2"));
   const auto* said = strip.findChild<QLabel*>(QStringLiteral("lblDISK"));
   PendingWrites pending;
   for (int change = 0; change < 3; ++change)

@@ -572,5 +572,21 @@ TEST_F(LiveWindowTest, WhoIsSelectedComesIntoAnEmptyPlace) {
   EXPECT_EQ(label("lblNom(3)", "lblNom(0)"), "Eve|Fay") << "where places stay";
 }
 
+TEST_F(LiveWindowTest, TheWindowOfTheBenchComesBackAsItWasLeft) {
+  window->switchBench();
+  QWidget& bench = find("frmBENCH");
+  bench.resize(811, 533);
+  QTest::mouseClick(&find<QToolButton>("cmdBENCHTEAM(1)"), Qt::LeftButton);
+  window->switchBench();
+  EXPECT_FALSE(bench.isVisible());
+  const QByteArray left = window->arrangement();
+  window = std::make_unique<frmLIVE>(store, settings, texts, dialogs, time);
+  open(path);
+  window->restoreArrangement(left);
+  window->switchBench();
+  EXPECT_EQ(find("frmBENCH").size(), QSize(811, 533));
+  EXPECT_TRUE(find<QToolButton>("cmdBENCHTEAM(1)").isChecked());
+}
+
 } // namespace
 } // namespace hooptab

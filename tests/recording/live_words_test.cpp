@@ -56,18 +56,18 @@ TEST_F(LiveWordsTest, TheRunAndTheFiveFollowTheGame) {
   ASSERT_TRUE(live.recordShot(Side::Visitor, 1, EventCode::GF3, true) &&
               live.recordShot(Side::Home, 1, EventCode::GDK, true));
   EXPECT_EQ(Fives::of(live).current[Side::Visitor], (FivePlay{kFive, "4 5 10 12 15", 59, 3, 2}));
-  EXPECT_FALSE(Fives::of(live).best[Side::Visitor]);
+  EXPECT_FALSE(Fives::of(live).best(Side::Visitor));
   time.now += 1;
-  EXPECT_EQ(Fives::of(live).best[Side::Visitor]->plusMinus(), 1);
+  EXPECT_EQ(Fives::of(live).best(Side::Visitor)->plusMinus(), 1);
   live.stop();
   ASSERT_TRUE(live.setOnCourt({0b1111010, kFive}));
   run(100);
   ASSERT_TRUE(live.recordShot(Side::Home, 1, EventCode::GFT, true) &&
               live.recordShot(Side::Visitor, 1, EventCode::GF3, false));
-  EXPECT_EQ(lastRun(live.game().events), (ScoringRun{Side::Home, 3}));
+  EXPECT_EQ(lastRun(live.game().events)->team, Side::Home);
   EXPECT_EQ(runText(*lastRun(live.game().events)), "3–0");
   EXPECT_EQ(Fives::of(live).current[Side::Visitor], (FivePlay{0b1111010, "0 4 10 12 15", 100, 0, 1}));
-  EXPECT_EQ(Fives::of(live).best[Side::Visitor]->seconds, 60);
+  EXPECT_EQ(Fives::of(live).best(Side::Visitor)->seconds, 60);
 }
 
 TEST_F(LiveWordsTest, RepairsLeadToTheEventThatIsToBlame) {
@@ -131,8 +131,8 @@ TEST_F(LiveWordsTest, RealGamesAddUp) {
       int best = -1000;
       for (const LineEntry& line : live.state().lines[team])
         best = std::max(best, line.seconds >= Fives::kShortest ? plusMinus[team][line.list] : best);
-      EXPECT_EQ(fives.best[team]->plusMinus(), best);
-      EXPECT_EQ(plusMinus[team][game.roster[team].listOf(fives.best[team]->players)], best);
+      EXPECT_EQ(fives.best(team)->plusMinus(), best);
+      EXPECT_EQ(plusMinus[team][game.roster[team].listOf(fives.best(team)->players)], best);
     }
   }
 }
