@@ -1,6 +1,8 @@
 // What the main window and its desks work with; made by main, which keeps it alive.
 #pragma once
 
+#include "game/OwnRating.h"
+
 namespace hooptab {
 
 class Dialogs;
@@ -21,6 +23,7 @@ struct Workshop {
   const SharedFiles& files;
   TimeSource& time;
   Printers& printers;
+  FormulaReader readFormula = {};
 };
 
 } // namespace hooptab
