@@ -24,6 +24,7 @@ struct Workshop {
   TimeSource& time;
   Printers& printers;
   FormulaReader readFormula = {};
+  std::string cacheFolder = {}; // of the user; empty: what is read is read anew each time
 };
 
 } // namespace hooptab
