@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# A simulated season read cold, beside the floor (cat of the same files into wc) and two peers: GLib's GKeyFile where it was
-# found, and a Python script with configparser. Page cache warm, all in one run; medians of whole processes. Then how the time
-# grows with the number of games. season.sh [BUILD [GAMES [ROUNDS]]]
+# A simulated season read cold, and once more with one game changed since the last scan and the rest in a cache, beside the
+# floor (cat of the same files into wc) and two peers: GLib's GKeyFile where it was found, and a Python script with configparser.
+# Page cache warm, all in one run; medians of whole processes. Then how the time grows with the number of games.
+# season.sh [BUILD [GAMES [ROUNDS]]]
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 build="${1:-$here/../build/bench}"
@@ -23,11 +24,16 @@ ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.2f", a / b }'; }
 floor() { find "$1" -name '*.GAM' -print0 | xargs -0 cat | wc -l; }
 
 "$build/bin/hooptab-simulate" season "$folder/games" --games "$games"
+changed=$(find "$folder/games" -name '*.GAM' | sort | sed -n "$((games / 2))p")
+find "$folder/games" -name '*.GAM' -exec touch -d '1 hour ago' {} + # what was written just now is not kept
+"$build/bin/bench_season" "$folder/games" 2 "$folder/cache" >/dev/null
 floor "$folder/games" >/dev/null
 for ((i = 0; i < rounds; ++i)); do
   measure "$folder/floor" floor "$folder/games"
   measure "$folder/ours" "$build/bin/bench_season" "$folder/games"
   cp "$folder/output" "$folder/figures"
+  touch "$changed"
+  measure "$folder/cached" "$build/bin/bench_season" "$folder/games" 2 "$folder/cache"
   measure "$folder/one" "$build/bin/bench_season" "$folder/games" 1
 done
 base=$(median "$folder/floor")
@@ -35,6 +41,8 @@ ours=$(median "$folder/ours")
 echo "$games games, $(du -sm --apparent-size "$folder/games" | cut -f1) MB, $(nproc) processors"
 echo "floor (cat | wc)       $base ms"
 echo "season, two threads    $ours ms, $(ratio "$ours" "$base") of the floor"
+cached=$(median "$folder/cached")
+echo "one game changed       $cached ms, $(ratio "$cached" "$base") of the floor"
 echo "season, one thread     $(median "$folder/one") ms"
 echo "  $(cat "$folder/figures")"
 if "$build/bin/bench_season" "$folder/games" --gkeyfile >/dev/null 2>&1; then

@@ -29,12 +29,12 @@ double peakMegabytes() {
   return static_cast<double>(usage.ru_maxrss) / 1024;
 }
 
-int readSeason(const char* folder, unsigned threads) {
+int readSeason(const char* folder, unsigned threads, const char* cacheFolder) {
   FileSystem files;
   const Texts texts;
   GameCatalogue catalogue(files);
   const auto scanBegin = Clock::now();
-  if (catalogue.scan({folder, false, threads}) != ScanOutcome::Done) {
+  if (catalogue.scan({folder, false, threads, cacheFolder}) != ScanOutcome::Done) {
     std::fprintf(stderr, "cannot scan %s\n", folder);
     return 1;
   }
@@ -89,10 +89,11 @@ int main(int count, char** arguments) {
   if (count == 3 && std::strcmp(arguments[2], "--gkeyfile") == 0)
     return parseWithGKeyFile(arguments[1]);
 #endif
-  if (count != 2 && count != 3) {
-    std::fprintf(stderr, "usage: bench_season FOLDER [THREADS | --gkeyfile]\n");
+  if (count < 2 || count > 4) {
+    std::fprintf(stderr, "usage: bench_season FOLDER [THREADS [CACHE FOLDER] | --gkeyfile]\n");
     return 2;
   }
-  const int threads = count == 3 ? std::atoi(arguments[2]) : 2;
-  return readSeason(arguments[1], threads > 0 ? static_cast<unsigned>(threads) : 1U);
+  const int threads = count > 2 ? std::atoi(arguments[2]) : 2;
+  return readSeason(arguments[1], threads > 0 ? static_cast<unsigned>(threads) : 1U,
+                    count > 3 ? arguments[3] : "");
 }

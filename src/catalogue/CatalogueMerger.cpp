@@ -27,11 +27,12 @@ std::string keyOf(SeasonId team, const std::string& text, const std::string& mor
 
 } // namespace
 
-CatalogueMerger::CatalogueMerger(const std::vector<const NameTable*>& readers) {
-  for (const NameTable* names : readers)
-    m_readers.push_back({names, std::vector<SeasonId>(names->teams().size(), kNobody),
-                         std::vector<SeasonId>(names->players().size(), kNobody),
-                         std::vector<SeasonId>(names->lines().size(), kNobody)});
+CatalogueMerger::CatalogueMerger(const std::vector<const NameTable::Lists*>& readers, std::size_t games) {
+  m_content.games.reserve(games);
+  for (const NameTable::Lists* names : readers)
+    m_readers.push_back({names, std::vector<SeasonId>(names->teams.size(), kNobody),
+                         std::vector<SeasonId>(names->players.size(), kNobody),
+                         std::vector<SeasonId>(names->lines.size(), kNobody)});
 }
 
 void CatalogueMerger::add(ListedGame game, std::size_t reader) {
@@ -48,7 +49,7 @@ void CatalogueMerger::add(ListedGame game, std::size_t reader) {
 SeasonId CatalogueMerger::team(Known& reader, SeasonId id) {
   SeasonId& known = reader.teams[id];
   if (known == kNobody) {
-    const NameTable::Team& team = reader.names->teams()[id];
+    const NameTable::Team& team = reader.names->teams[id];
     const std::string key = team.abbreviation + "-" + team.category;
     const auto [place, isNew] = m_teamIds.emplace(key, static_cast<SeasonId>(m_content.teams.size()));
     known = place->second;
@@ -63,7 +64,7 @@ SeasonId CatalogueMerger::team(Known& reader, SeasonId id) {
 SeasonId CatalogueMerger::player(Known& reader, SeasonId id) {
   SeasonId& known = reader.players[id];
   if (known == kNobody) {
-    const NameTable::Player& player = reader.names->players()[id];
+    const NameTable::Player& player = reader.names->players[id];
     const SeasonId ofTeam = team(reader, player.team);
     const auto [place, isNew] =
         m_playerIds.emplace(keyOf(ofTeam, canonicalJersey(player.jersey), foldedName(player.name)),
@@ -78,7 +79,7 @@ SeasonId CatalogueMerger::player(Known& reader, SeasonId id) {
 SeasonId CatalogueMerger::line(Known& reader, SeasonId id) {
   SeasonId& known = reader.lines[id];
   if (known == kNobody) {
-    const NameTable::Line& line = reader.names->lines()[id];
+    const NameTable::Line& line = reader.names->lines[id];
     std::vector<std::string> jerseys = line.jerseys;
     std::ranges::sort(jerseys, jerseyBefore);
     const SeasonId ofTeam = team(reader, line.team);

@@ -13,7 +13,7 @@ namespace hooptab {
 
 class CatalogueMerger {
  public:
-  explicit CatalogueMerger(const std::vector<const NameTable*>& readers);
+  CatalogueMerger(const std::vector<const NameTable::Lists*>& readers, std::size_t games);
 
   // The next game in order of date; `reader` is whose numbers it carries.
   void add(ListedGame game, std::size_t reader);
@@ -23,7 +23,7 @@ class CatalogueMerger {
  private:
   // The season's number of each of a reader's; kNobody while it was not met.
   struct Known {
-    const NameTable* names;
+    const NameTable::Lists* names;
     std::vector<SeasonId> teams, players, lines;
   };
   SeasonId team(Known& reader, SeasonId id);

@@ -2,6 +2,7 @@
 
 #include "catalogue/CatalogueMerger.h"
 #include "catalogue/GameFinder.h"
+#include "catalogue/SummaryCache.h"
 #include "catalogue/SummaryReader.h"
 #include "checks/FindingWords.h"
 #include "storage/codepage.h"
@@ -18,20 +19,14 @@ namespace hooptab {
 
 namespace {
 
-// What became of one file.
-struct ReadFile {
-  ListedGame game;
-  std::optional<SkipReason> skipped;
-  std::size_t reader = 0;
-};
-
-// Reads the files on several threads, each with a reader of its own. Which thread takes which file is left to
-// chance; what is made of the results is not.
+// Reads the files that are not known already, on several threads, each with a reader of its own. Which thread
+// takes which file is left to chance; what is made of the results is not.
 class ParallelReading {
  public:
   ParallelReading(FileSystem& files, unsigned threads, const std::vector<std::string>& paths,
-                  const TaskWatch& watch)
-      : m_paths(paths), m_watch(watch), m_results(paths.size()), m_readers(threads, SummaryReader(files)) {}
+                  const SummaryCache& cache, const TaskWatch& watch)
+      : m_paths(paths), m_cache(cache), m_watch(watch), m_results(paths.size()),
+        m_readers(threads, SummaryReader(files)) {}
 
   void run() {
     std::vector<std::thread> helpers;
@@ -46,22 +41,29 @@ class ParallelReading {
     for (std::thread& helper : helpers)
       helper.join();
   }
-  std::vector<ReadFile>& results() { return m_results; }
-  std::vector<const NameTable*> names() const {
-    std::vector<const NameTable*> tables;
+  std::vector<FileSummary>& results() { return m_results; }
+  // Those of each reader, and at last the cache's.
+  std::vector<const NameTable::Lists*> names() const {
+    std::vector<const NameTable::Lists*> names;
     for (const SummaryReader& reader : m_readers)
-      tables.push_back(&reader.names());
-    return tables;
+      names.push_back(&reader.names());
+    names.push_back(&m_cache.names());
+    return names;
   }
 
  private:
   void work(std::size_t reader) {
     SummaryReader& own = m_readers[reader];
     for (std::size_t next = m_next++; next < m_paths.size() && !m_watch.isCancelled(); next = m_next++) {
-      ReadFile& result = m_results[next];
-      result.reader = reader;
+      FileSummary& result = m_results[next];
       try {
-        result.skipped = own.read(m_paths[next], result.game);
+        if (m_cache.find(m_paths[next], result)) {
+          result.reader = m_readers.size();
+        } else {
+          result.reader = reader;
+          result.skipped = own.read(m_paths[next], result.game);
+          result.stamp = own.stamp();
+        }
       } catch (const std::exception&) { // no memory for one monstrous file
         result.skipped = SkipReason::Unreadable;
       }
@@ -70,8 +72,9 @@ class ParallelReading {
   }
 
   const std::vector<std::string>& m_paths;
+  const SummaryCache& m_cache;
   const TaskWatch& m_watch;
-  std::vector<ReadFile> m_results;
+  std::vector<FileSummary> m_results;
   std::vector<SummaryReader> m_readers;
   std::atomic<std::size_t> m_next = 0;
 };
@@ -81,18 +84,18 @@ std::string_view fileName(std::string_view path) {
 }
 
 // Places of the files that hold listed games, in the season's order.
-std::vector<std::size_t> seasonOrder(const std::vector<ReadFile>& files) {
-  std::vector<std::size_t> order;
+std::vector<std::size_t> seasonOrder(const std::vector<FileSummary>& files) {
+  std::vector<std::tuple<int, std::string_view, std::string_view, std::size_t>> games;
   for (std::size_t i = 0; i < files.size(); ++i) {
-    if (!files[i].skipped)
-      order.push_back(i);
-  }
-  const auto key = [&files](std::size_t i) {
     const ListedGame& game = files[i].game;
-    return std::tuple(game.day.value_or(std::numeric_limits<int>::max()), fileName(game.path),
-                      std::string_view(game.path));
-  };
-  std::ranges::sort(order, std::less(), key);
+    if (!files[i].skipped)
+      games.emplace_back(game.day.value_or(std::numeric_limits<int>::max()), fileName(game.path), game.path,
+                         i);
+  }
+  std::ranges::sort(games);
+  std::vector<std::size_t> order;
+  for (const auto& game : games)
+    order.push_back(std::get<std::size_t>(game));
   return order;
 }
 
@@ -115,11 +118,15 @@ ScanOutcome GameCatalogue::scan(const ScanRequest& request, const TaskWatch& wat
     return found.outcome;
 
   constexpr unsigned kMostThreads = 16;
-  ParallelReading reading(m_files, std::clamp(request.threads, 1U, kMostThreads), found.paths, watch);
+  const SummaryCache cache(m_files, request);
+  ParallelReading reading(m_files, std::clamp(request.threads, 1U, kMostThreads), found.paths, cache, watch);
   reading.run();
-  std::vector<ReadFile>& files = reading.results();
-  CatalogueMerger merger(reading.names());
-  for (const std::size_t i : seasonOrder(files)) {
+  std::vector<FileSummary>& files = reading.results();
+  if (!watch.isCancelled())
+    cache.keep(found.paths, files, reading.names());
+  const std::vector<std::size_t> order = seasonOrder(files);
+  CatalogueMerger merger(reading.names(), order.size());
+  for (const std::size_t i : order) {
     if (watch.isCancelled())
       break;
     merger.add(std::move(files[i].game), files[i].reader);

@@ -22,6 +22,7 @@ struct SeasonTeam {
   std::string key;          // "LYNX-AAA"
   std::string abbreviation; // "LYNX"
   std::string name;         // full name in the earliest game that has one, else the key
+  friend bool operator==(const SeasonTeam&, const SeasonTeam&) = default;
 };
 // A player is his team, jersey and name, without regard to case; 5 and 05 are one jersey, 0 and 00 two.
 struct SeasonPlayer {
@@ -29,6 +30,7 @@ struct SeasonPlayer {
   std::string number; // jersey as in his earliest game
   std::string name;
   int nameOrder = 0; // place of his name among all
+  friend bool operator==(const SeasonPlayer&, const SeasonPlayer&) = default;
 };
 // A line is its team and its set of jerseys.
 struct SeasonLine {
@@ -36,6 +38,7 @@ struct SeasonLine {
   std::string list;         // IN-04-05-10-12-15, as on-court lists write it
   std::string name;         // "4-5-10-12-15"
   std::string players = {}; // "4 Able, 5 Baker, 10 Cole, 12 Dunn, 15 Eng"
+  friend bool operator==(const SeasonLine&, const SeasonLine&) = default;
 };
 
 enum class SkipReason : std::uint8_t {
@@ -49,12 +52,15 @@ enum class SkipReason : std::uint8_t {
 struct SkippedFile {
   std::string path;
   SkipReason reason = SkipReason::Unreadable;
+  friend bool operator==(const SkippedFile&, const SkippedFile&) = default;
 };
 
 struct ScanRequest {
   std::string folder;
   bool withSubfolders = false; // each folder once, wherever links lead
   unsigned threads = 2;        // the result does not depend on it
+  // Where summaries are kept between two scans (catalogue/SummaryCache.h); empty: nowhere. Nor on this.
+  std::string cacheFolder = {};
 };
 enum class ScanOutcome : std::uint8_t { Done, Cancelled, FolderMissing, FolderUnreadable };
 
@@ -111,7 +117,12 @@ class GameCatalogue {
     std::vector<SeasonTeam> teams;
     std::vector<SeasonPlayer> players;
     std::vector<SeasonLine> lines;
+    friend bool operator==(const Content&, const Content&) = default;
   };
+  // All that a scan finds.
+  friend bool operator==(const GameCatalogue& one, const GameCatalogue& other) {
+    return one.m_content == other.m_content;
+  }
 
  private:
   FileSystem& m_files;

@@ -27,6 +27,7 @@ struct GameRow {
   Counters counters;
   Side side = Side::Visitor;
   std::uint8_t position = 9; // players: index of the position; 10 for one out of range
+  friend bool operator==(const GameRow&, const GameRow&) = default;
 };
 
 // A two- or three-point field goal for the season's shot chart. Places are whole court units, those outside
@@ -37,6 +38,7 @@ struct SeasonShot {
   bool isThree : 1 = false;
   bool isMade : 1 = false;
   bool hasPlace : 1 = false;
+  friend bool operator==(const SeasonShot&, const SeasonShot&) = default;
 };
 
 enum class InputKind : std::uint8_t { Live, LiveWithoutTime, Manual, Other };
@@ -74,6 +76,7 @@ struct ListedGame {
       return std::nullopt;
     return points[Side::Visitor] > points[Side::Home] ? Side::Visitor : Side::Home;
   }
+  friend bool operator==(const ListedGame&, const ListedGame&) = default;
 };
 
 } // namespace hooptab

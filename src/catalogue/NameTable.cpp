@@ -50,13 +50,13 @@ SeasonId NameTable::team(const GameDetails& details, Side side) {
   const std::string& name = details.name[side];
   // No text of a file holds a line break.
   m_key.assign(abbreviation).append("\n").append(category).append("\n").append(name);
-  return idOf(m_teamIds, m_key, m_teams, [&] { return Team{abbreviation, category, name}; });
+  return idOf(m_teamIds, m_key, m_lists.teams, [&] { return Team{abbreviation, category, name}; });
 }
 
 SeasonId NameTable::player(SeasonId team, std::string_view jersey, std::string_view name) {
   m_key.assign(reinterpret_cast<const char*>(&team), sizeof team);
   m_key.append(jersey).append("\n").append(name);
-  return idOf(m_playerIds, m_key, m_players, [&] {
+  return idOf(m_playerIds, m_key, m_lists.players, [&] {
     return Player{team, std::string(jersey), std::string(name)};
   });
 }
@@ -74,7 +74,7 @@ SeasonId NameTable::line(const LineKey& key) {
     growLineSlots();
   SeasonId& id = m_lineSlots[slotOf(key)];
   if (id == kNobody) {
-    id = static_cast<SeasonId>(m_lines.size());
+    id = static_cast<SeasonId>(m_lists.lines.size());
     m_lineKeys.push_back(key);
     Line line{key.team, {}};
     for (std::uint32_t i = 0; i < key.count; ++i) {
@@ -82,7 +82,7 @@ SeasonId NameTable::line(const LineKey& key) {
       line.jerseys.push_back(code < kFirstOtherCode ? std::to_string(code)
                                                     : m_jerseys[code - kFirstOtherCode]);
     }
-    m_lines.push_back(std::move(line));
+    m_lists.lines.push_back(std::move(line));
   }
   return id;
 }

@@ -30,6 +30,13 @@ class NameTable {
     std::vector<std::string> jerseys; // canonical, in no order
   };
 
+  // By number, without what finds the number of a name.
+  struct Lists {
+    std::vector<Team> teams;
+    std::vector<Player> players;
+    std::vector<Line> lines;
+  };
+
   SeasonId team(const GameDetails& details, Side side);
   SeasonId player(SeasonId team, std::string_view jersey, std::string_view name);
 
@@ -45,9 +52,7 @@ class NameTable {
   };
   SeasonId line(const LineKey& key);
 
-  const std::vector<Team>& teams() const { return m_teams; }
-  const std::vector<Player>& players() const { return m_players; }
-  const std::vector<Line>& lines() const { return m_lines; }
+  const Lists& lists() const { return m_lists; }
 
  private:
   struct TextHash {
@@ -60,9 +65,7 @@ class NameTable {
 
   using TextIds = std::unordered_map<std::string, SeasonId, TextHash, std::equal_to<>>;
 
-  std::vector<Team> m_teams;
-  std::vector<Player> m_players;
-  std::vector<Line> m_lines;
+  Lists m_lists;
   std::vector<std::string> m_jerseys; // canonical; by code less kFirstOtherCode
   TextIds m_teamIds, m_playerIds, m_jerseyCodes;
   std::vector<LineKey> m_lineKeys;

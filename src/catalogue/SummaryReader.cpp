@@ -70,12 +70,14 @@ InputKind inputOf(const GameDetails& details) {
 std::optional<SkipReason> SummaryReader::read(const std::string& path, ListedGame& game) {
   std::string bytes;
   FileStamp stamp;
+  m_stamp.reset();
   switch (readWholeFile(m_files, path, bytes, stamp)) {
   case ReadOutcome::Absent: return SkipReason::Vanished;
   case ReadOutcome::TooLarge: return SkipReason::TooLarge;
   case ReadOutcome::Failed: return SkipReason::Unreadable;
   case ReadOutcome::Read: break;
   }
+  m_stamp = stamp;
   const ProfileText text(std::move(bytes));
   if (text.value(kDetailsSection, "VERSION") != GameFile::kVersion)
     return SkipReason::OtherVersion;

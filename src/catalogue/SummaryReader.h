@@ -19,7 +19,9 @@ class SummaryReader {
 
   // Nothing when `game` was read, else why the file is left out.
   [[nodiscard]] std::optional<SkipReason> read(const std::string& path, ListedGame& game);
-  const NameTable& names() const { return m_names; }
+  // The state in which the file that was read last was; nothing of one that could not be read.
+  const std::optional<FileStamp>& stamp() const { return m_stamp; }
+  const NameTable::Lists& names() const { return m_names.lists(); }
 
  private:
   std::optional<CountOutOfRange> summarise(const Game& source, ListedGame& game);
@@ -32,6 +34,7 @@ class SummaryReader {
 
   FileSystem& m_files;
   NameTable m_names;
+  std::optional<FileStamp> m_stamp;
   GameState m_state; // kept for its memory
   // Of the game being read: each entry's jersey, and where its row stands.
   PerSide<std::array<NameTable::JerseyCode, GameState::kPlayerEntries>> m_codes = {};

@@ -82,6 +82,7 @@ struct Finding {
 
   [[nodiscard]] bool isWrong() const;
   [[nodiscard]] bool hasEvent() const { return event != kNoEvent; }
+  friend bool operator==(const Finding&, const Finding&) = default;
 };
 
 // The findings whose kind the reader has not seen often yet, and how many more of each kind there are.

@@ -9,6 +9,15 @@ namespace {
 
 constexpr Text kPartTexts[] = {Text::MadeOf, Text::AttemptsOf, Text::PercentageOf, Text::PointsOf};
 
+constexpr std::string_view kRatingColumn = "rating";
+
+// "Your own: HEART = PTS + 2 * ST".
+std::string ownRatingWords(const Settings& settings, const Texts& texts) {
+  const OwnRatingChoice& own = settings.ownRating;
+  const std::string named = own.name.empty() ? own.formula : own.name + " = " + own.formula;
+  return texts.withPlaceholder(Text::OwnRatingTip, named);
+}
+
 std::string partWords(ShotPart part, Text shots, const Texts& texts) {
   return texts.withPlaceholder(kPartTexts[static_cast<std::size_t>(part)], texts.text(shots));
 }
@@ -46,8 +55,12 @@ std::string statisticTitle(const Statistic& statistic, StatisticLabels labels, c
 
 std::string columnWords(int column, StatisticLabels labels, const Settings& settings, const Texts& texts) {
   const BoxColumn& shown = boxColumn(column);
-  if (shown.statistic != nullptr)
-    return statisticWords(*shown.statistic, labels, settings, texts);
+  if (shown.statistic != nullptr) {
+    std::string words = statisticWords(*shown.statistic, labels, settings, texts);
+    if (shown.name == kRatingColumn && !settings.ownRating.formula.empty())
+      words += "\n" + ownRatingWords(settings, texts);
+    return words;
+  }
   const Text words = termWords(shown.name);
   return words == Text::None ? std::string(shown.name) : std::string(texts.text(words));
 }

@@ -140,6 +140,7 @@ void frmSTATS::readFolder() {
   ScanRequest request;
   request.folder = fromQt(QDir::cleanPath(m_folder->folder()));
   request.withSubfolders = m_folder->withSubfolders();
+  request.cacheFolder = m_cacheFolder;
   startWork(Text::LoadingOneGame, Text::LoadingGames,
             [this, &files = m_files, request](const TaskWatch& watch) -> Task::Delivery {
               auto catalogue = std::make_shared<GameCatalogue>(files);

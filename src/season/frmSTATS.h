@@ -34,6 +34,8 @@ class frmSTATS : public ChildWindow {
   // Reads the folder that is shown. Nothing while other work is under way.
   void readFolder();
   void readFolder(const QString& folder, bool withSubfolders);
+  // Where the summaries of what was read are kept; empty, as at first: nowhere.
+  void keepSummariesIn(const std::string& folder) { m_cacheFolder = folder; }
   bool isBusy() const { return m_task.isRunning(); }
   // What reports are made of; null before statistics were generated.
   const std::shared_ptr<const Season>& statistics() const { return m_desk.season(); }
@@ -77,6 +79,7 @@ class frmSTATS : public ChildWindow {
   const Settings& m_settings;
   const Texts& m_texts;
   Dialogs& m_dialogs;
+  std::string m_cacheFolder;
   SeasonDesk m_desk;
   Text m_progressText = Text::None;        // of the work under way
   Text m_progressOne = Text::None;         // the same for one game

@@ -148,6 +148,7 @@ void Settings::take(const std::function<std::string(std::string_view key)>& valu
   buttonColour = colour(value("COULEURBUT"));
   statisticLabel[0] = value("STATU1");
   statisticLabel[1] = value("STATU2");
+  ownRating = {value("RATING"), value("RATINGNAME")};
   language = Texts::languageOfOffset(Module1::leadingNumber(value("LANGUE")));
   asksRebounds = Module1::flag(value("SAVEREBOUND"));
   keypadIsActive = Module1::flag(value("KEYPAD"));
@@ -214,6 +215,14 @@ bool Settings::saveAppearance(const ChosenColours& colours, const std::string (&
   batch.set(kSection, "COULEURBUT", std::to_string(buttonColour));
   batch.set(kSection, "STATU1", statisticLabel[0]);
   batch.set(kSection, "STATU2", statisticLabel[1]);
+  return save(batch);
+}
+
+bool Settings::saveOwnRating(const OwnRatingChoice& choice) {
+  ownRating = choice;
+  ProfileBatch batch;
+  batch.set(kSection, "RATING", choice.formula);
+  batch.set(kSection, "RATINGNAME", choice.name);
   return save(batch);
 }
 

@@ -40,6 +40,13 @@ inline constexpr std::array<const char*, 17> kKeypadKeys = {"CLOCK", "OK0", "OK1
 using KeypadKeyTexts = std::array<std::string, kKeypadKeys.size()>;
 [[nodiscard]] const KeypadKeyTexts& firstKeypadKeyTexts(); // of a first start
 
+// A rating that the user thought up; read by game/OwnRating.h and whoever reads formulas.
+struct OwnRatingChoice {
+  std::string formula; // RATING; empty: the program's rating alone
+  std::string name;    // RATINGNAME: the head of its column
+  friend bool operator==(const OwnRatingChoice&, const OwnRatingChoice&) = default;
+};
+
 class Settings {
  public:
   // `folder` is the program folder; CONFIG.INI stands in it.
@@ -65,6 +72,7 @@ class Settings {
   std::uint32_t threePointColour = 0;
   std::uint32_t buttonColour = 0;
   std::string statisticLabel[2]; // STATU1, STATU2, with their prefix
+  OwnRatingChoice ownRating;
   Language language = Language::English;
   bool asksRebounds = false;     // SAVEREBOUND
   bool keypadIsActive = false;   // KEYPAD
@@ -88,6 +96,7 @@ class Settings {
   bool saveLastFolders();
   // Colours and the labels of the user's statistics, with their prefix: all in one write.
   bool saveAppearance(const ChosenColours& colours, const std::string (&labels)[2]);
+  bool saveOwnRating(const OwnRatingChoice& choice);
   // What others keep in the same file (teams), behind what waits: on disk now, or kept like a setting. False
   // where the file is there and cannot be read: nobody knows what the change would meet.
   [[nodiscard]] bool saveOfOthers(const ProfileBatch& batch);

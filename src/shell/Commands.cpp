@@ -62,6 +62,7 @@ constexpr Command kCommands[] = {
       {OpenTeams, "gEQUIPE", SettingsMenu, Text::TeamManagement, "gequipe", Always, Action, "Ctrl+E"},
       {CourtColours, "tbTERRAIN", SettingsMenu, Text::ColourSettings, "tbterrain", Always, Action, "", kSeparator},
       {OpenKeys, "tbKEYPAD", SettingsMenu, Text::KeypadTitle, "tbkeypad", Always, Action},
+      {OpenRating, "tbRATING", SettingsMenu, Text::OwnRatingGroup, "tbrating", Always, Action},
       {FormsMenu, "FORMS", SettingsMenu, Text::PrintInputForm, "forms", Always, Menu, "", kSeparator},
         {PreparedForms, "blankPRINT", FormsMenu, Text::PreparedForms, "blankprint", Always, Action},
         {BlankForms, "viergePRINT", FormsMenu, Text::BlankForms, "viergeprint", Always, Action},

@@ -59,6 +59,7 @@ enum class CommandId : std::uint8_t {
   OpenTeams,
   CourtColours,
   OpenKeys,
+  OpenRating,
   FormsMenu,
   PreparedForms,
   BlankForms,

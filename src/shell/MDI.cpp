@@ -7,6 +7,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "court/frmCOULEURS.h"
+#include "formula/frmRATING.h"
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
 #include "printing/ReportOutput.h"
@@ -277,6 +278,7 @@ void MDI::serveCommands() {
       window->parentWidget()->close();
   });
   m_commands->serve(CommandId::CourtColours, this, [this] { openColours(); });
+  m_commands->serve(CommandId::OpenRating, this, [this] { openRating(); });
   m_commands->serve(CommandId::Language, this, [this] { switchLanguage(); });
   m_commands->serve(CommandId::Guide, this, [this] { m_help.openGuide(this); });
   m_commands->serve(CommandId::WebSite, this, [this] { m_help.openWebPage(this); });
@@ -378,6 +380,7 @@ void MDI::openSeason() {
   auto* window =
       new frmSTATS(m_workshop.store.files(), m_workshop.settings, m_workshop.texts, m_workshop.dialogs);
   connect(window, &frmSTATS::gameAsked, this, &MDI::openGame);
+  window->keepSummariesIn(m_workshop.cacheFolder);
   m_area->add(*window);
   window->readFolder();
 }
@@ -404,6 +407,16 @@ void MDI::openColours() {
     relabelEverything();
   });
   window.exec();
+}
+
+void MDI::openRating() {
+  frmRATING window(m_workshop.settings, m_workshop.readFormula, m_workshop.texts, m_workshop.dialogs, this);
+  connect(&window, &frmRATING::languageAsked, this, [this, &window] {
+    switchLanguage();
+    window.relabelWindow();
+  });
+  if (window.exec() == QDialog::Accepted)
+    relabelEverything(); // tool tips tell the formula
 }
 
 void MDI::addScorecard(frmVIEW* view) {

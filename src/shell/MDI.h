@@ -66,6 +66,7 @@ class MDI : public QMainWindow {
   void openSeason();                    // one at a time
   void openFolder(const QString& path); // of a game, with the system's own program
   void openColours();
+  void openRating();
   void switchLanguage();
   void switchColours(ColourScheme scheme);
   void switchZoom(int percent);

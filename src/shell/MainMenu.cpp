@@ -62,8 +62,8 @@ MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const C
                          CommandId::LineOther, kSeparator, CommandId::LeadersTotal, CommandId::LeadersPerGame,
                          CommandId::LeadersPerMinute, kSeparator, CommandId::PlayerReport,
                          CommandId::LineReport, kSeparator, CommandId::PrintSeason, CommandId::CloseSeason});
-  QMenu& settings = addMenu(Text::Settings,
-                            {CommandId::CourtColours, CommandId::OpenKeys, kSeparator, CommandId::Language});
+  QMenu& settings = addMenu(Text::Settings, {CommandId::CourtColours, CommandId::OpenKeys,
+                                             CommandId::OpenRating, kSeparator, CommandId::Language});
   QMenu& colours = coloursMenu();
   settings.addMenu(&colours);
   QMenu& zooms = zoomMenu();

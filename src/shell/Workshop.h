@@ -1,6 +1,8 @@
 // What the main window and its desks work with; made by main, which keeps it alive.
 #pragma once
 
+#include "game/OwnRating.h"
+
 namespace hooptab {
 
 class Dialogs;
@@ -21,6 +23,8 @@ struct Workshop {
   const SharedFiles& files;
   TimeSource& time;
   Printers& printers;
+  FormulaReader readFormula = {};
+  std::string cacheFolder = {}; // of the user; empty: what is read is read anew each time
 };
 
 } // namespace hooptab

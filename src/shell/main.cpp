@@ -5,6 +5,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "forms/DecoderProcess.h"
+#include "formula/FormulaRating.h"
 #include "printing/Printers.h"
 #include "recording/TimeSource.h"
 #include "resources/tables.h"
@@ -20,6 +21,7 @@
 #include "shell/WindowMemory.h"
 #include "storage/Utf8.h"
 
+#include <QStandardPaths>
 #include <QTimer>
 #include <csignal>
 #include <cstdio>
@@ -116,7 +118,8 @@ int run(Application& application, const Arguments& arguments, QtDialogs& dialogs
     rehearsal.emplace(rehearsalTime, STDIN_FILENO, STDOUT_FILENO);
   TimeSource& time = arguments.isRehearsal ? static_cast<TimeSource&>(rehearsalTime) : machineTime;
   QtPrinters printers;
-  MDI window({store, settings, texts, memory, dialogs, shared, time, printers});
+  MDI window({store, settings, texts, memory, dialogs, shared, time, printers, readFormula,
+              fromQt(QStandardPaths::writableLocation(QStandardPaths::CacheLocation))});
   application.setFailureHandler([&window](const QString& what) { window.tellFailure(what); });
   QObject::connect(&others, &SecondStart::asked, &window, &MDI::openFromElsewhere);
   window.show();

@@ -13,7 +13,7 @@ floors=(
   "appearance"
   "court"
   "game"
-  "teams checks totals foreign insight"
+  "teams checks totals foreign insight formula"
   "setup forms recording catalogue scorecard simulator livedata bbgame"
   "assistant keypad manual season"
   "events report scoreboard exchange extracts"

@@ -133,6 +133,8 @@ TEST_F(ScorecardViewTest, EveryColumnHasItsOwnWords) {
   const std::string none[2];
   settings.statisticLabel[0].clear();
   EXPECT_EQ(columnWords(31, none, settings, texts), "Première statistique personnalisée") << "and no colon";
+  settings.ownRating = {"PTS + 2 * ST", "MOI"};
+  EXPECT_TRUE(columnWords(34, none, settings, texts).ends_with("\nLa vôtre : MOI = PTS + 2 * ST"));
 }
 
 TEST(FileChangeTest, SeesWritingRemovalAndReturn) {
