@@ -24,7 +24,7 @@
 #include "shell/PrintOffers.h"
 #include "shell/SharedFiles.h"
 #include "shell/UnsavedSettings.h"
-#include "shell/WelcomePage.h"
+#include "welcome/WelcomePage.h"
 #include "shell/WindowArea.h"
 #include "shell/WindowMemory.h"
 #include "shell/frmABOUT.h"

@@ -14,7 +14,7 @@ floors=(
   "court"
   "game"
   "teams checks totals foreign insight formula"
-  "setup forms recording catalogue scorecard simulator livedata bbgame"
+  "setup welcome forms recording catalogue scorecard simulator livedata bbgame"
   "assistant keypad manual season"
   "events report scoreboard exchange extracts"
   "live printing publish"

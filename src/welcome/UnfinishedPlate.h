@@ -3,7 +3,7 @@
 
 #include "game/Side.h"
 #include "settings/Texts.h"
-#include "shell/RecentGames.h"
+#include "welcome/RecentGames.h"
 
 #include <QWidget>
 

@@ -1,4 +1,4 @@
-#include "shell/WelcomePage.h"
+#include "welcome/WelcomePage.h"
 
 #include "appearance/ArrowFocus.h"
 #include "appearance/Card.h"
@@ -6,9 +6,9 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
-#include "shell/RecentGameRow.h"
-#include "shell/StartCard.h"
-#include "shell/UnfinishedPlate.h"
+#include "welcome/RecentGameRow.h"
+#include "welcome/StartCard.h"
+#include "welcome/UnfinishedPlate.h"
 
 #include <QAction>
 #include <QApplication>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "settings/Texts.h"
-#include "shell/PageButton.h"
-#include "shell/RecentGames.h"
+#include "welcome/PageButton.h"
+#include "welcome/RecentGames.h"
 
 namespace hooptab {
 

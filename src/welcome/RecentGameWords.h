@@ -2,7 +2,7 @@
 #pragma once
 
 #include "settings/Texts.h"
-#include "shell/RecentGames.h"
+#include "welcome/RecentGames.h"
 
 #include <QString>
 

@@ -1,4 +1,4 @@
-#include "shell/PageButton.h"
+#include "welcome/PageButton.h"
 
 #include "appearance/Theme.h"
 

@@ -1,11 +1,11 @@
-#include "shell/UnfinishedPlate.h"
+#include "welcome/UnfinishedPlate.h"
 
 #include "appearance/Fields.h"
 #include "appearance/LanguageLocale.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "game/Side.h"
-#include "shell/RecentGameWords.h"
+#include "welcome/RecentGameWords.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 

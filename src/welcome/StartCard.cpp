@@ -1,4 +1,4 @@
-#include "shell/StartCard.h"
+#include "welcome/StartCard.h"
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"

@@ -6,7 +6,7 @@
 
 #include "appearance/Task.h"
 #include "settings/Texts.h"
-#include "shell/RecentGames.h"
+#include "welcome/RecentGames.h"
 
 #include <QWidget>
 

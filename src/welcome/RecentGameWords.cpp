@@ -1,4 +1,4 @@
-#include "shell/RecentGameWords.h"
+#include "welcome/RecentGameWords.h"
 
 #include "appearance/LanguageLocale.h"
 #include "appearance/relabel.h"

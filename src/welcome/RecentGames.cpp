@@ -1,4 +1,4 @@
-#include "shell/RecentGames.h"
+#include "welcome/RecentGames.h"
 
 #include "checks/GameCheck.h"
 #include "game/Tally.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "settings/Texts.h"
-#include "shell/PageButton.h"
+#include "welcome/PageButton.h"
 
 class QAction;
 class QMenu;

@@ -1,11 +1,11 @@
-#include "shell/RecentGameRow.h"
+#include "welcome/RecentGameRow.h"
 
 #include "appearance/Icons.h"
 #include "appearance/TeamTag.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "game/Side.h"
-#include "shell/RecentGameWords.h"
+#include "welcome/RecentGameWords.h"
 
 #include <QDir>
 #include <QFileInfo>
