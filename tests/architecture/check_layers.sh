@@ -15,7 +15,7 @@ floors=(
   "game"
   "teams checks totals foreign insight"
   "setup forms recording catalogue scorecard simulator livedata bbgame"
-  "keypad manual season"
+  "keypad manual season review"
   "events report scoreboard exchange extracts"
   "live printing publish"
   "shell"

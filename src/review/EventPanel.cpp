@@ -1,4 +1,4 @@
-#include "scorecard/EventPanel.h"
+#include "review/EventPanel.h"
 
 #include "appearance/TableContent.h"
 #include "appearance/Theme.h"

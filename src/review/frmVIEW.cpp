@@ -1,4 +1,4 @@
-#include "scorecard/frmVIEW.h"
+#include "review/frmVIEW.h"
 
 #include "appearance/Fields.h"
 #include "appearance/Icons.h"
@@ -6,10 +6,10 @@
 #include "appearance/PlainText.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
+#include "review/EventPanel.h"
 #include "scorecard/BoxTable.h"
 #include "scorecard/CheckStrip.h"
 #include "scorecard/ColumnWords.h"
-#include "scorecard/EventPanel.h"
 #include "scorecard/GameDetailsPanel.h"
 #include "scorecard/LeagueSheet.h"
 #include "scorecard/Scoreboard.h"

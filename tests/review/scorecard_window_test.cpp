@@ -1,9 +1,9 @@
 #include "appearance/TableContent.h"
 #include "court/CourtView.h"
 #include "game/EventListModel.h"
+#include "review/frmVIEW.h"
 #include "scorecard/BoxTable.h"
 #include "scorecard/FrozenTableView.h"
-#include "scorecard/frmVIEW.h"
 #include "support/WindowRoom.h"
 
 #include <QAbstractItemModelTester>
@@ -17,7 +17,7 @@
 #include <QToolButton>
 #include <filesystem>
 
-#include "ViewedGame.h"
+#include "support/ViewedGame.h"
 
 namespace hooptab {
 namespace {
