@@ -1,32 +1,34 @@
 #include "review/frmVIEW.h"
 
+#include "appearance/ElidedLabel.h"
 #include "appearance/Fields.h"
 #include "appearance/Icons.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/PlainText.h"
-#include "appearance/TableContent.h"
 #include "appearance/relabel.h"
+#include "insight/FlowPanel.h"
+#include "review/AllColumnsPage.h"
+#include "review/ColumnChooser.h"
+#include "review/ComparePage.h"
 #include "review/EventPanel.h"
-#include "scorecard/BoxTable.h"
+#include "review/GamePage.h"
+#include "review/PeriodFilter.h"
+#include "review/ShotsPage.h"
 #include "scorecard/CheckStrip.h"
-#include "scorecard/ColumnWords.h"
 #include "scorecard/GameDetailsPanel.h"
-#include "scorecard/LeagueSheet.h"
 #include "scorecard/Scoreboard.h"
 #include "scorecard/ScoreboardStrip.h"
-#include "scorecard/ShotChartPanel.h"
 #include "settings/Settings.h"
 #include "storage/Placeholders.h"
 
+#include <QAbstractItemView>
 #include <QBoxLayout>
-#include <QComboBox>
 #include <QDataStream>
 #include <QFileInfo>
-#include <QLineEdit>
-#include <QSignalBlocker>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QTabWidget>
+#include <QTabBar>
 #include <QTime>
 #include <QToolButton>
 
@@ -35,159 +37,125 @@ namespace hooptab {
 namespace {
 
 constexpr int kMargin = 8;
+constexpr int kRowGap = 4;
 constexpr int kMillisecondsPerSecond = 1000;
-// Shares of the window that its parts begin with.
-constexpr int kLeftShare = 1040;
-constexpr int kChartShare = 320;
-constexpr int kTableShare = 65;
-constexpr int kEventShare = 35;
-constexpr int kTeamWidth = 280;
 
-// The tables of box scores.
-constexpr std::size_t kLeagueSheet = 2;
-constexpr Text kTableTexts[] = {Text::SummaryByPlayer, Text::ByLine, Text::SummaryForLeague};
-constexpr const char* kTableNames[] = {"lvwSTAT(0)", "lvwSTAT(1)", "lvwLEAGUE"};
-
-Qt::CheckState checkState(ScorecardView::CheckMark mark) {
-  switch (mark) {
-  case ScorecardView::CheckMark::None: return Qt::Unchecked;
-  case ScorecardView::CheckMark::Some: return Qt::PartiallyChecked;
-  case ScorecardView::CheckMark::All: break;
-  }
-  return Qt::Checked;
-}
+constexpr Text kPageTexts[] = {Text::GameCard,   Text::AllColumnsTab, Text::FlowTab,    Text::Shots,
+                               Text::CompareTab, Text::Events,        Text::GameDetails};
 
 } // namespace
 
 frmVIEW::frmVIEW(ProfileStore& store, const Settings& settings, const Texts& texts, QWidget* parent)
-    : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_view(texts),
-      m_notice(noticeLabel(this)), m_check(new CheckStrip(texts, this)), m_strip(new ScoreboardStrip(this)) {
+    : ChildWindow(parent), m_store(store), m_settings(settings), m_texts(texts), m_notice(noticeLabel(this)),
+      m_check(new CheckStrip(texts, this)), m_strip(new ScoreboardStrip(this)), m_tabs(new QTabBar(this)),
+      m_where(new ElidedLabel(this)), m_filter(new PeriodFilter(texts, this)), m_box(new QToolButton(this)),
+      m_columns(new QToolButton(this)), m_chooser(new ColumnChooser(texts, this)),
+      m_escape(new QShortcut(Qt::Key_Escape, this)), m_pages(new QStackedWidget(this)),
+      m_gamePage(new GamePage(settings, texts, m_pages)), m_all(new AllColumnsPage(settings, texts, m_pages)),
+      m_flow(new FlowPanel(texts, m_pages)), m_shots(new ShotsPage(settings, texts, m_pages)),
+      m_compare(new ComparePage(texts, m_pages)), m_events(new EventPanel(texts, m_pages)),
+      m_details(new GameDetailsPanel(m_pages)) {
   setObjectName(QStringLiteral("frmVIEW"));
   m_timer.setObjectName(QStringLiteral("TimerCoach"));
   m_timer.setParent(this);
   m_timer.setTimerType(Qt::PreciseTimer);
-  m_chart = new ShotChartPanel(settings, texts, this);
-
-  auto* left = new QSplitter(Qt::Vertical, this);
-  left->addWidget(makeTables());
-  left->addWidget(makeEventsAndDetails());
-  left->setStretchFactor(0, kTableShare);
-  left->setStretchFactor(1, kEventShare);
-  left->setSizes({kTableShare * 10, kEventShare * 10});
-  auto* parts = new QSplitter(Qt::Horizontal, this);
-  parts->addWidget(left);
-  parts->addWidget(m_chart);
-  parts->setStretchFactor(0, 2);
-  parts->setStretchFactor(1, 1);
-  parts->setSizes({kLeftShare, kChartShare});
-  for (QSplitter* splitter : {left, parts})
-    splitter->setChildrenCollapsible(false);
+  m_escape->setContext(Qt::WidgetWithChildrenShortcut);
+  m_escape->setEnabled(false);
+  addPages();
 
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  layout->setSpacing(kMargin);
+  layout->setContentsMargins(kMargin, kRowGap, kMargin, kRowGap);
+  layout->setSpacing(kRowGap);
   layout->addWidget(m_notice);
   layout->addWidget(m_check);
   layout->addWidget(m_strip);
-  layout->addWidget(parts, 1);
+  layout->addWidget(makeBar());
+  layout->addWidget(m_pages, 1);
 
-  connect(&m_timer, &QTimer::timeout, this, &frmVIEW::refreshOnTimer);
-  connect(m_chart, &ShotChartPanel::scopeChosen, this, [this](ScorecardView::Scope scope) {
-    m_view.setScope(scope);
-    showTable();
-    showChart();
-  });
-  connect(m_check, &CheckStrip::eventAsked, this, [this](std::size_t event) {
-    m_tabs->setCurrentWidget(m_events);
-    m_events->choose(event);
-  });
-  connect(m_events, &EventPanel::eventChosen, m_chart, &ShotChartPanel::highlight);
-  connect(m_events, &EventPanel::copied, this,
-          [this] { emit reported(caption(m_texts, Text::TableCopied)); });
+  connectPages();
   relabelWindow();
 }
 
 frmVIEW::~frmVIEW() = default;
 
-QWidget* frmVIEW::makeTables() {
-  auto* panel = new QWidget(this);
-  m_team = new QComboBox(panel);
-  m_team->setObjectName(QStringLiteral("cmbTEAM"));
-  m_team->setMinimumWidth(kTeamWidth);
-  m_team->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  setAccessibleNumber(*m_team, Text::ShownTeam);
-  setToolTipNumber(*m_team, Text::ShownTeam);
-  auto* copy = new QToolButton(panel);
-  copy->setObjectName(QStringLiteral("cmdCOPY"));
-  copy->setIcon(icon(QStringLiteral("copy")));
-  setToolTipNumber(*copy, Text::CopyTable);
-  setAccessibleNumber(*copy, Text::CopyTable);
-  m_kind = new PlainLabel(panel);
-  m_kind->setObjectName(QStringLiteral("lblVIEW"));
-  m_kind->setForegroundRole(QPalette::PlaceholderText);
-  setTextNumber(*m_kind, Text::SummaryByPlayer);
-  m_league = new QToolButton(panel);
-  m_league->setObjectName(QStringLiteral("cmdLEAGUE"));
-  m_league->setCheckable(true);
-  setTextNumber(*m_league, Text::LeagueSheet);
-  setToolTipNumber(*m_league, Text::LeagueSheetTip);
-  connect(m_league, &QToolButton::clicked, this, &frmVIEW::setShowsLeagueSheet);
-  m_stack = new QStackedWidget(panel);
-  for (std::size_t i = 0; i < m_tables.size(); ++i) {
-    m_tables[i] = new BoxTable(QLatin1String(kTableNames[i]),
-                               i == kLeagueSheet ? leagueTableColumns() : boxTableColumns(), m_stack);
-    if (i != kLeagueSheet)
-      m_tables[i]->setOrder(boxDisplayOrder());
-    setAccessibleNumber(*m_tables[i], kTableTexts[i]);
-    m_stack->addWidget(m_tables[i]);
-    connect(m_tables[i], &BoxTable::checkAsked, this, [this](const BoxRow& row, bool isChecked) {
-      m_view.check(row, isChecked);
-      showTable();
-      showChart();
-    });
-    connect(m_tables[i], &BoxTable::copied, this,
-            [this] { emit reported(caption(m_texts, Text::TableCopied)); });
+void frmVIEW::addPages() {
+  QWidget* const pages[] = {m_gamePage, m_all, m_flow, m_shots, m_compare, m_events, m_details};
+  m_tabs->setObjectName(QStringLiteral("tabs"));
+  m_tabs->setDrawBase(false);
+  m_tabs->setExpanding(false);
+  m_pages->setObjectName(QStringLiteral("pages"));
+  for (QWidget* page : pages) {
+    m_pages->addWidget(page);
+    m_tabs->addTab(QString());
   }
-
-  auto* head = new QHBoxLayout;
-  head->addWidget(m_team);
-  head->addWidget(m_league);
-  head->addWidget(m_kind);
-  head->addStretch();
-  head->addWidget(copy);
-  auto* layout = new QVBoxLayout(panel);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(4);
-  layout->addLayout(head);
-  layout->addWidget(m_stack, 1);
-
-  connect(m_team, &QComboBox::currentIndexChanged, this, [this](int team) {
-    m_view.setTeam(sideOf(team).value_or(Side::Visitor));
-    showTable();
-    showChart();
-  });
-  connect(copy, &QToolButton::clicked, this, [this] {
-    copyTable(table());
-    emit reported(caption(m_texts, Text::TableCopied));
-  });
-  return panel;
 }
 
-QWidget* frmVIEW::makeEventsAndDetails() {
-  m_tabs = new QTabWidget(this);
-  m_tabs->setObjectName(QStringLiteral("tabs"));
-  m_events = new EventPanel(m_texts, m_tabs);
-  m_details = new GameDetailsPanel(m_tabs);
-  m_tabs->addTab(m_events, QString());
-  m_tabs->addTab(m_details, QString());
-  auto* corner = new QWidget(m_tabs);
-  auto* room = new QHBoxLayout(corner);
-  room->setContentsMargins(0, 0, 0, 2);
-  QLineEdit* search = &m_events->searchField();
-  room->addWidget(search);
-  m_tabs->setCornerWidget(corner);
-  connect(m_tabs, &QTabWidget::currentChanged, search, [search](int tab) { search->setVisible(tab == 0); });
-  return m_tabs;
+QWidget* frmVIEW::makeBar() {
+  m_columns->setObjectName(QStringLiteral("cmdCOLUMNS"));
+  setTextNumber(*m_columns, Text::ColumnsButton);
+  setToolTipNumber(*m_columns, Text::ColumnsTip);
+  m_box->setObjectName(QStringLiteral("cmdBOX"));
+  setTextNumber(*m_box, Text::StretchBox);
+  m_box->hide();
+  m_where->setObjectName(QStringLiteral("lblWHERE"));
+  m_where->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  m_where->setForegroundRole(QPalette::PlaceholderText);
+  auto* bar = new QWidget(this);
+  auto* layout = new QHBoxLayout(bar);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kMargin);
+  layout->addWidget(m_tabs);
+  layout->addWidget(m_where, 1);
+  layout->addWidget(m_filter);
+  layout->addWidget(m_box);
+  layout->addWidget(m_columns);
+  return bar;
+}
+
+void frmVIEW::connectPages() {
+  connect(&m_timer, &QTimer::timeout, this, &frmVIEW::refreshOnTimer);
+  connect(m_tabs, &QTabBar::currentChanged, this, [this](int page) {
+    m_pages->setCurrentIndex(page);
+    showButtons();
+    showPageInFront();
+  });
+  connect(m_filter, &PeriodFilter::asked, this, &frmVIEW::showStretch);
+  connect(m_flow, &FlowPanel::stretchChosen, this, [this](const Stretch& chosen) { showStretch(chosen); });
+  connect(m_flow, &FlowPanel::stretchCleared, this, [this] { showStretch(std::nullopt); });
+  connect(m_flow, &FlowPanel::eventAsked, this, &frmVIEW::leadTo);
+  connect(m_escape, &QShortcut::activated, this, [this] { showStretch(std::nullopt); });
+  connect(m_box, &QToolButton::clicked, this, [this] { showPage(Page::Game); });
+  connect(m_columns, &QToolButton::clicked, this,
+          [this] { m_chooser->openBelow(*m_columns, m_gamePage->columns()); });
+  connect(m_chooser, &ColumnChooser::chosen, this, [this](const CompactChoice& columns) {
+    m_gamePage->setColumns(columns);
+    if (m_game.hasGame())
+      m_gamePage->showGame(m_game);
+  });
+  connect(m_check, &CheckStrip::eventAsked, this, &frmVIEW::leadTo);
+  connect(m_events, &EventPanel::eventChosen, this, [this](std::optional<std::uint32_t> event) {
+    const auto place = event && m_game.hasGame() ? m_game.shownPlace(*event) : std::nullopt;
+    m_all->highlight(place ? std::optional(static_cast<std::uint32_t>(*place)) : std::nullopt);
+  });
+  connect(m_all, &AllColumnsPage::shownAs, this, &frmVIEW::commandStateChanged);
+  connect(m_all, &AllColumnsPage::copied, this, &frmVIEW::reportCopy);
+  connect(m_gamePage, &GamePage::copied, this, &frmVIEW::reportCopy);
+  connect(m_events, &EventPanel::copied, this, &frmVIEW::reportCopy);
+}
+
+void frmVIEW::reportCopy() {
+  emit reported(caption(m_texts, Text::TableCopied));
+}
+
+void frmVIEW::leadTo(std::size_t event) {
+  if (!m_game.shownPlace(event))
+    showStretch(std::nullopt);
+  showPage(Page::Events);
+  m_events->choose(event);
+}
+
+const ScorecardView& frmVIEW::choice() const {
+  return m_all->choice();
 }
 
 GameFileProblem frmVIEW::open(const QString& path) {
@@ -200,9 +168,8 @@ GameFileProblem frmVIEW::open(const QString& path) {
   m_card = std::move(card);
   m_change.emplace(std::move(change));
   m_problem = GameFileProblem::None;
-  m_shownTeam.fill(std::nullopt);
-  m_view.show(m_card->counted());
-  m_view.forgetChecks();
+  m_game.choose(std::nullopt);
+  m_all->forgetGame();
   showGame(true);
   return GameFileProblem::None;
 }
@@ -244,47 +211,45 @@ void frmVIEW::setRefreshMode(RefreshMode mode) {
   emit commandStateChanged();
 }
 
+void frmVIEW::showPage(Page page) {
+  m_tabs->setCurrentIndex(static_cast<int>(page));
+}
+
+void frmVIEW::showStretch(const std::optional<Stretch>& stretch) {
+  m_game.choose(stretch);
+  if (m_game.hasGame())
+    showPages();
+}
+
 void frmVIEW::setByLine(bool byLine) {
-  showAs(byLine ? BoxView::Lines : BoxView::Players, false);
+  showPage(Page::AllColumns);
+  m_all->showAs(byLine ? BoxView::Lines : BoxView::Players, false);
+}
+
+bool frmVIEW::showsLeagueSheet() const {
+  return m_all->showsLeagueSheet();
 }
 
 void frmVIEW::setShowsLeagueSheet(bool shows) {
-  showAs(BoxView::Players, shows);
-}
-
-std::size_t frmVIEW::shownTable() const {
-  return m_showsLeagueSheet ? kLeagueSheet : static_cast<std::size_t>(m_view.view());
-}
-
-void frmVIEW::showAs(BoxView view, bool asLeagueSheet) {
-  if (view == m_view.view() && asLeagueSheet == m_showsLeagueSheet)
-    return;
-  m_view.setView(view);
-  m_showsLeagueSheet = asLeagueSheet;
-  m_league->setChecked(asLeagueSheet);
-  m_stack->setCurrentWidget(&table());
-  setTextNumber(*m_kind, kTableTexts[shownTable()]);
-  relabel(*m_kind, m_texts);
-  showTable();
-  showChart();
-  emit commandStateChanged();
+  showPage(Page::AllColumns);
+  m_all->showAs(BoxView::Players, shows);
 }
 
 void frmVIEW::setHidesMadeAttempted(bool hides) {
+  showPage(Page::AllColumns);
   if (hides == hidesMadeAttempted())
     return;
-  m_view.setHidesMadeAttempted(hides);
-  showTable();
+  m_all->setHidesMadeAttempted(hides);
   emit commandStateChanged();
 }
 
 void frmVIEW::relabelWindow() {
   relabel(*this, m_texts);
-  m_tabs->setTabText(0, caption(m_texts, Text::Events));
-  m_tabs->setTabText(1, caption(m_texts, Text::GameDetails));
-  m_events->searchField().setPlaceholderText(caption(m_texts, Text::SearchEvents));
+  for (int page = 0; page < m_tabs->count(); ++page)
+    m_tabs->setTabText(page, caption(m_texts, kPageTexts[page]));
   m_events->relabel();
-  showHeaders();
+  m_flow->relabelPanel();
+  m_all->showHeaders();
   if (m_card != nullptr)
     showGame(false);
   else
@@ -292,10 +257,11 @@ void frmVIEW::relabelWindow() {
 }
 
 void frmVIEW::applyColours() {
-  findChild<QToolButton*>(QStringLiteral("cmdCOPY"))->setIcon(icon(QStringLiteral("copy")));
-  m_chart->applyColours();
+  m_all->applyColours();
+  m_gamePage->applyColours();
+  m_flow->applyColours();
+  m_shots->applyColours();
   m_check->applyColours();
-  showHeaders(); // whose tool tips name the user's statistics
   for (QWidget* view : findChildren<QAbstractItemView*>())
     view->findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"))->update();
 }
@@ -303,91 +269,72 @@ void frmVIEW::applyColours() {
 QByteArray frmVIEW::arrangement() const {
   QByteArray state;
   QDataStream stream(&state, QIODevice::WriteOnly);
-  for (const QSplitter* splitter : findChildren<QSplitter*>())
-    stream << splitter->saveState();
+  stream << m_all->splitter().saveState() << QByteArray::fromStdString(textOfChoice(m_gamePage->columns()));
   return state;
 }
 
 void frmVIEW::restoreArrangement(const QByteArray& state) {
   QDataStream stream(state);
-  for (QSplitter* splitter : findChildren<QSplitter*>()) {
-    QByteArray part;
-    stream >> part;
-    splitter->restoreState(part);
-  }
+  QByteArray parts;
+  QByteArray columns;
+  stream >> parts >> columns;
+  m_all->splitter().restoreState(parts);
+  m_gamePage->setColumns(choiceOfText(columns.toStdString()));
+  if (m_game.hasGame())
+    m_gamePage->showGame(m_game);
 }
 
 void frmVIEW::showGame(bool isNew) {
-  const Game& game = m_card->game();
-  m_view.show(m_card->counted());
+  m_game.show(m_card->counted());
+  const Scoreboard board = scoreboard(*m_card->counted(), m_texts);
   setWindowTitle(asTitle(toQt(m_card->title())));
-  m_strip->showBoard(scoreboard(*m_card->counted(), m_texts), m_texts);
-  m_details->showDetails(game.details, m_texts);
-  m_events->showGame(game, isNew);
+  m_strip->showBoard(board, m_texts);
+  const GameDetails& details = m_card->game().details;
+  m_where->setText(
+      toQt(details.date + (details.date.empty() || details.place.empty() ? "" : " · ") + details.place));
+  m_filter->showPeriods(board);
+  m_details->showDetails(details, m_texts);
+  m_flow->showGame(m_card->counted());
+  m_events->showGame(m_card->game(), isNew);
   m_check->showFindings(*m_card);
-  showTeams();
+  showPages();
   if (isNew)
-    showHeaders();
-  showTable();
-  showChart();
+    m_all->showHeaders();
   showNotice();
 }
 
-void frmVIEW::showTeams() {
-  const QSignalBlocker noChoice(m_team);
-  const GameDetails& details = m_card->game().details;
-  for (const Side team : kSides) {
-    const QString text = toQt(details.abbreviation[team]) + QStringLiteral(" – ") + toQt(details.name[team]);
-    if (m_team->count() <= numberOf(team))
-      m_team->addItem(text);
-    else
-      m_team->setItemText(numberOf(team), text);
-  }
-  m_team->setCurrentIndex(numberOf(m_view.team()));
+// What is of a stretch where one is chosen.
+void frmVIEW::showPages() {
+  const std::optional<Stretch>& stretch = m_game.stretch();
+  QString words;
+  if (stretch)
+    words = toQt(withPlaceholders(m_texts.text(Text::StretchChip),
+                                  stretchWords(m_game.whole()->game, *stretch, m_texts),
+                                  scoreWords(*m_game.shown())));
+  m_filter->showStretch(stretch, words);
+  m_escape->setEnabled(stretch.has_value());
+  showButtons();
+  m_flow->showStretch(stretch);
+  m_events->showStretch(stretch);
+  m_gamePage->showGame(m_game);
+  m_all->showGame(m_game.shown());
+  showPageInFront();
 }
 
-void frmVIEW::showTable() {
-  std::vector<BoxScoreModel::Row> rows;
-  if (!m_showsLeagueSheet) {
-    for (const BoxRow& row : m_view.rows())
-      rows.push_back({row, checkState(m_view.checkMark(row))});
-  } else if (m_card != nullptr) {
-    for (BoxRow& row : leagueRows(*m_card->counted(), m_view.team(), m_texts))
-      rows.push_back({std::move(row)});
-  }
-  std::optional<Side>& shownTeam = m_shownTeam[shownTable()];
-  table().hideMadeAttempted(m_view.hidesMadeAttempted());
-  table().showRows(std::move(rows), shownTeam == m_view.team());
-  setExportTitle(table(), m_team->currentText());
-  shownTeam = m_view.team();
+// Those that the page in front has a use for.
+void frmVIEW::showButtons() {
+  m_columns->setVisible(m_pages->currentWidget() == m_gamePage);
+  m_box->setVisible(m_pages->currentWidget() == m_flow && m_game.stretch().has_value());
 }
 
-void frmVIEW::showChart() {
-  if (m_card == nullptr)
+// Pages that nothing else asks, only while they are looked at.
+void frmVIEW::showPageInFront() {
+  if (!m_game.hasGame())
     return;
-  m_chart->showShots(m_view.shots(), m_card->game(), m_events->model().words());
-  setExportTitle(*m_chart, m_team->currentText());
-}
-
-void frmVIEW::showHeaders() {
-  QStringList headers;
-  QStringList toolTips;
-  static const std::string kNoLabels[2];
-  const auto& labels = m_card == nullptr ? kNoLabels : m_card->game().details.statisticLabel;
-  for (const BoxColumn& column : boxColumns()) {
-    headers << (column.headerText != Text::None ? caption(m_texts, column.headerText) : toQt(column.header));
-    toolTips << toQt(columnWords(column.index, labels, m_settings, m_texts));
-  }
-  QStringList leagueHeaders = headers.first(2); // number and name
-  QStringList leagueToolTips = toolTips.first(2);
-  for (const LeagueColumn& column : leagueColumns()) {
-    leagueHeaders << toQt(leagueHeader(column, m_texts));
-    leagueToolTips << toQt(leagueColumnWords(column, m_texts));
-  }
-  m_tables[kLeagueSheet]->relabel(leagueHeaders, leagueToolTips);
-  toolTips.first() += u'\n' + caption(m_texts, Text::CheckHint);
-  for (const BoxView view : {BoxView::Players, BoxView::Lines})
-    m_tables[static_cast<std::size_t>(view)]->relabel(headers, toolTips);
+  if (m_pages->currentWidget() == m_shots)
+    m_shots->showGame(m_game.shown());
+  else if (m_pages->currentWidget() == m_compare)
+    m_compare->showGame(m_game);
 }
 
 void frmVIEW::showNotice() {
