@@ -5,7 +5,6 @@
 #include "storage/Module1.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace hooptab {
 
@@ -41,7 +40,7 @@ Cell points(const CompactBasis& of) {
 }
 Cell rating(const CompactBasis& of) {
   const int value = of.row.numbers.rating();
-  return {value < 0 ? signedText(value) : std::to_string(value), static_cast<double>(value)};
+  return {withWideMinus(std::to_string(value)), static_cast<double>(value)};
 }
 Cell foulsDrawn(const CompactBasis& of) {
   return number(of.row.foulsDrawn);
@@ -95,14 +94,15 @@ Cell ofRate(const CompactBasis& of) {
   if (rate.isOfPlayersOnly && of.row.kind == BoxRowKind::Total)
     return {};
   const std::optional<double> value = rate.value(of.rates);
-  return {rateText(rate, value), value.value_or(kBehindAll), value ? Emphasis::None : Emphasis::Faint};
+  return {withWideMinus(rateText(rate, value)), value.value_or(kBehindAll),
+          value ? Emphasis::None : Emphasis::Faint};
 }
 // A whole number.
 Cell index(const CompactBasis& of) {
   if (of.row.kind == BoxRowKind::Total)
     return {};
   const auto value = static_cast<int>(rateNamed("index").value(of.rates).value_or(0));
-  return {value < 0 ? signedText(value) : std::to_string(value), static_cast<double>(value)};
+  return {withWideMinus(std::to_string(value)), static_cast<double>(value)};
 }
 
 // clang-format off
@@ -237,9 +237,13 @@ std::vector<CompactRow> compactRows(const CountedGame& counted, const GameInsigh
 }
 
 std::string signedText(int number) {
-  if (number == 0)
-    return "0";
-  return (number > 0 ? "+" : "−") + std::to_string(std::abs(number));
+  return number > 0 ? '+' + std::to_string(number) : withWideMinus(std::to_string(number));
+}
+
+std::string withWideMinus(std::string number) {
+  if (number.starts_with('-'))
+    number.replace(0, 1, "−");
+  return number;
 }
 
 } // namespace hooptab

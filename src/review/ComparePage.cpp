@@ -85,24 +85,28 @@ void ComparePage::fillBoxes() {
       m_kind->addItem(caption(m_texts, text));
     m_kind->setCurrentIndex(chosen);
   }
-  fillPlayers(*m_players[0], 0);
-  fillPlayers(*m_players[1], 1);
+  fillPlayers(*m_players[0], Side::Visitor);
+  fillPlayers(*m_players[1], Side::Home);
   fillStretches(*m_stretches[0], 0);
   fillStretches(*m_stretches[1], 1);
 }
 
-void ComparePage::fillPlayers(QComboBox& box, int usual) {
+// At first a player of each team.
+void ComparePage::fillPlayers(QComboBox& box, Side usual) {
   const QSignalBlocker noChoice(&box);
   const QVariant chosen = box.currentData();
   box.clear();
+  int first = -1;
   for (const PlayerOfGame& player : playersOf(*m_game.whole())) {
+    if (first < 0 && player.team == usual)
+      first = box.count();
     const GameDetails& details = m_game.whole()->game.details;
     const RosterPlayer& entry = *m_game.whole()->game.roster[player.team].player(player.entry);
     box.addItem(toQt(details.abbreviation[player.team]) + u' ' + toQt(entry.jersey) + u' ' + toQt(entry.name),
                 QPoint(numberOf(player.team), player.entry));
   }
   const int kept = box.findData(chosen);
-  box.setCurrentIndex(kept >= 0 ? kept : std::min(usual, box.count() - 1));
+  box.setCurrentIndex(kept >= 0 ? kept : std::clamp(first, 0, std::max(box.count() - 1, 0)));
 }
 
 void ComparePage::fillStretches(QComboBox& box, int usual) {

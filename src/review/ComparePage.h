@@ -34,7 +34,7 @@ class ComparePage : public QWidget {
   };
   QComboBox* addBox(const char* name, Text text);
   void fillBoxes();
-  void fillPlayers(QComboBox& box, int usual);
+  void fillPlayers(QComboBox& box, Side usual);
   void fillStretches(QComboBox& box, int usual);
   void showComparison();
   [[nodiscard]] SideShown playerOf(const QComboBox& box) const;

@@ -5,7 +5,7 @@
 #include "storage/Module1.h"
 
 #include <algorithm>
-#include <cmath>
+#include <cctype>
 
 namespace hooptab {
 
@@ -26,7 +26,7 @@ class Rows {
     if (rate.tip != Text::None)
       row.tip = m_texts.text(rate.tip);
     for (const Side side : kSides) {
-      row.text[side] = rateText(rate, values[side]);
+      row.text[side] = withWideMinus(rateText(rate, values[side]));
       const double shown = values[side].value_or(0) * (rate.kind == RateKind::Share ? kFullRate : 1);
       // Points for a hundred possessions and the like go beyond a hundred.
       row.share[side] = rate.kind == RateKind::Share || isOfHundred(rate) ? shown / kFullRate : shown;
@@ -39,7 +39,8 @@ class Rows {
   }
   enum class Better { More, Less, Neither };
   void addCount(Text words, int left, int right, Better better = Better::More) {
-    addNumber(words, left, right, std::to_string(left), std::to_string(right), better);
+    addNumber(words, left, right, withWideMinus(std::to_string(left)), withWideMinus(std::to_string(right)),
+              better);
   }
   void addTime(Text words, int left, int right) {
     addNumber(words, left, right, Module1::clockText(left), Module1::clockText(right), Better::Neither);
@@ -57,6 +58,8 @@ class Rows {
   ComparisonRow& begin(Text words) {
     ComparisonRow& row = m_rows.emplace_back();
     row.words = m_texts.text(words);
+    if (!row.words.empty()) // kinds of events are written small
+      row.words.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(row.words.front())));
     row.beginsGroup = std::exchange(m_beginsGroup, false);
     return row;
   }
@@ -72,10 +75,11 @@ class Rows {
     if (better != Better::Neither)
       setBetter(row, left, right, better == Better::Less);
   }
+  // What is below nothing has no bar.
   static void scaleCounts(ComparisonRow& row) {
-    const double larger = std::max(std::abs(row.share[Side::Visitor]), std::abs(row.share[Side::Home]));
+    const double larger = std::max(row.share[Side::Visitor], row.share[Side::Home]);
     for (const Side side : kSides)
-      row.share[side] = larger > 0 ? std::abs(row.share[side]) / (kRoomForCounts * larger) : 0;
+      row.share[side] = larger > 0 ? row.share[side] / (kRoomForCounts * larger) : 0;
   }
   static void limit(ComparisonRow& row) {
     for (const Side side : kSides)

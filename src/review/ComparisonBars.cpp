@@ -64,7 +64,7 @@ std::vector<QRect> ComparisonBars::rowRects() const {
   int top = headHeight();
   const auto groups = std::ranges::count(m_rows, true, &ComparisonRow::beginsGroup);
   const int room = height() - top - static_cast<int>(groups) * kGroupGap;
-  const int rowHeight = std::clamp(room / std::max(static_cast<int>(m_rows.size()), 1), leastRow(),
+  const int rowHeight = std::clamp(room / std::max(static_cast<int>(m_rows.size()), 1), leastRow() - 1,
                                    Theme::measure()(kHighestRow));
   for (const ComparisonRow& row : m_rows) {
     top += row.beginsGroup ? kGroupGap : 0;

@@ -52,6 +52,8 @@ void PeriodFilter::showPeriods(const Scoreboard& board) {
     if (!isThere)
       continue;
     m_periods[i]->setText(toQt(board.periods[i].label));
+    m_periods[i]->setAccessibleName(
+        toQt(m_texts.withPlaceholder(Text::PeriodNumber, board.periods[i].label)));
     m_periods[i]->setEnabled(board.periods[i].isPlayed);
     m_periods[i]->setPlace(i + 1 == board.periods.size() ? SegmentButton::Place::Last
                                                          : SegmentButton::Place::Middle);

@@ -1,6 +1,7 @@
 #include "review/TeamCourt.h"
 
 #include "appearance/ElidedLabel.h"
+#include "appearance/TableContent.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "court/CourtColourChoice.h"
@@ -49,6 +50,7 @@ void TeamCourt::showShots(const QString& title, const std::vector<Shot>& shots, 
     sum.made += shot.isMade ? 1 : 0;
   }
   m_title->setText(title);
+  setExportTitle(*this, title);
   m_counts->setText(marks.empty() ? caption(m_texts, Text::NoShotsYet)
                                   : toQt(m_texts.withPlaceholder(Text::ShotsWithPlace, fractionText(sum))));
   m_court->setMarks(std::move(marks), toolTips);
@@ -56,6 +58,14 @@ void TeamCourt::showShots(const QString& title, const std::vector<Shot>& shots, 
 
 void TeamCourt::applyColours() {
   m_court->setColours(wornCourt(CourtColourChoice::of(m_settings).colours));
+}
+
+void TeamCourt::paintPicture(QPainter& painter, const QRectF& area) const {
+  const double line = QFontMetricsF(painter.font(), painter.device()).height() * 1.3;
+  m_court->paintOn(painter, area.adjusted(0, 0, 0, -line));
+  painter.setPen(Qt::black);
+  painter.drawText(QRectF(area.left(), area.bottom() - line, area.width(), line), Qt::AlignCenter,
+                   m_title->text() + QStringLiteral("  ") + m_counts->text());
 }
 
 bool TeamCourt::eventFilter(QObject* object, QEvent* event) {

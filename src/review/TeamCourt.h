@@ -2,7 +2,7 @@
 // zone.
 #pragma once
 
-#include "game/EventWords.h"
+#include "appearance/ShownPicture.h"
 #include "scorecard/ShotChart.h"
 
 #include <QWidget>
@@ -17,7 +17,7 @@ class CourtView;
 class ElidedLabel;
 class Settings;
 
-class TeamCourt : public QWidget {
+class TeamCourt : public QWidget, public ShownPicture {
   Q_OBJECT
 
  public:
@@ -29,6 +29,9 @@ class TeamCourt : public QWidget {
   void showShots(const QString& title, const std::vector<Shot>& shots, const CountedGame& counted);
   CourtView& court() { return *m_court; }
   void applyColours();
+  bool hasPicture() const override { return true; } // the court
+  QSize pictureSize() const override { return {640, 430}; }
+  void paintPicture(QPainter& painter, const QRectF& area) const override;
   // It fills the room that it gets.
   bool hasHeightForWidth() const override { return false; }
 

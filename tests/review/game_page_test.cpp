@@ -125,7 +125,7 @@ TEST_F(GamePageTest, PlayersAreComparedByCountsAndRates) {
     return basisOfPlayer(*shown.shown(), shown.insight(), Side::Visitor, player);
   };
   const std::vector<ComparisonRow> players = comparePlayers(basis(1), basis(3), texts);
-  const ComparisonRow& fouls = rowOf(players, texts.text(Text::PersonalFoul));
+  const ComparisonRow& fouls = rowOf(players, "Personal foul");
   EXPECT_EQ(fouls.text[Side::Home], "2");
   EXPECT_EQ(fouls.better, Side::Visitor);
   const ComparisonRow& margin = rowOf(players, texts.text(Text::ScoreDifference));
