@@ -4,6 +4,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
+#include "game/EventWords.h"
 #include "scorecard/BoxTable.h"
 #include "scorecard/ColumnWords.h"
 #include "scorecard/LeagueSheet.h"

@@ -6,6 +6,7 @@
 #include "appearance/relabel.h"
 #include "court/CourtColourChoice.h"
 #include "court/CourtView.h"
+#include "game/EventWords.h"
 
 #include <QBoxLayout>
 #include <QEvent>
