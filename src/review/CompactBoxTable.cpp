@@ -7,13 +7,15 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <algorithm>
 
 namespace hooptab {
 
 namespace {
 
-constexpr int kPadding = 14; // left and right of a figure together
+constexpr int kPadding = 14; // left and right of a text together
+constexpr int kLeastPadding = 9;
 constexpr int kMarkWidth = 22;
 constexpr int kNumberWidth = 28;
 constexpr int kLeastName = 110;
@@ -31,7 +33,7 @@ class CompactHeader : public QHeaderView {
     setSectionResizeMode(QHeaderView::Fixed);
     setMinimumSectionSize(8);
   }
-  QSize sizeHint() const override { return {QHeaderView::sizeHint().width(), Theme::measure()(22, 30)}; }
+  QSize sizeHint() const override { return {QHeaderView::sizeHint().width(), Theme::measure()(21, 30)}; }
 
  protected:
   void paintSection(QPainter* painter, const QRect& area, int column) const override {
@@ -94,7 +96,9 @@ void CompactBoxTable::setRowHeight(int height) {
 }
 
 int CompactBoxTable::heightOf(int rowHeight) const {
-  return horizontalHeader()->sizeHint().height() + m_model.rowCount() * rowHeight;
+  const bool scrolls = horizontalScrollBar()->maximum() > 0;
+  return horizontalHeader()->sizeHint().height() + m_model.rowCount() * rowHeight +
+         (scrolls ? horizontalScrollBar()->sizeHint().height() : 0);
 }
 
 int CompactBoxTable::longestName() const {

@@ -18,7 +18,7 @@ class CompactBoxTable : public QTableView {
   // The same choice keeps selection, sort and scroll.
   void showRows(const QString& head, std::vector<CompactRow> rows, const CompactChoice& choice);
   void setRowHeight(int height);
-  // With its head, the rows that high.
+  // With its head and what it scrolls by sideways, the rows that high.
   [[nodiscard]] int heightOf(int rowHeight) const;
   // Of the longest name; both tables of a page take the longer.
   [[nodiscard]] int longestName() const;

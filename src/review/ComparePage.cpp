@@ -1,7 +1,7 @@
 #include "review/ComparePage.h"
 
 #include "appearance/Card.h"
-#include "appearance/PlainLabel.h"
+#include "appearance/ElidedLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "review/ComparisonBars.h"
@@ -20,6 +20,7 @@ constexpr int kGap = 8;
 constexpr int kInset = 12;
 constexpr int kWidest = 1000; // of the bars, which would only grow apart
 constexpr int kBoxLetters = 22;
+constexpr int kLeastBox = 90;
 constexpr double kSecondShade = 0.45; // of a colour that both sides have
 
 } // namespace
@@ -28,7 +29,7 @@ ComparePage::ComparePage(const Texts& texts, QWidget* parent)
     : QWidget(parent), m_texts(texts), m_kind(addBox("cmbCOMPARE", Text::CompareFirst)),
       m_players{addBox("cmbCOMPARED(0)", Text::ComparePlayers), addBox("cmbCOMPARED(1)", Text::CompareWith)},
       m_stretches{addBox("cmbSTRETCH(0)", Text::StretchFirst), addBox("cmbSTRETCH(1)", Text::StretchSecond)},
-      m_with(new PlainLabel(this)), m_note(new PlainLabel(this)), m_bars(new ComparisonBars(this)) {
+      m_with(new PlainLabel(this)), m_note(new ElidedLabel(this)), m_bars(new ComparisonBars(this)) {
   setObjectName(QStringLiteral("pageCOMPARE"));
   m_bars->setObjectName(QStringLiteral("picCOMPARED"));
   setAccessibleNumber(*m_bars, Text::CompareTab);
@@ -45,8 +46,8 @@ ComparePage::ComparePage(const Texts& texts, QWidget* parent)
   head->addWidget(m_with);
   head->addWidget(m_players[1]);
   head->addWidget(m_stretches[1]);
-  head->addStretch();
-  head->addWidget(m_note);
+  m_note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  head->addWidget(m_note, 1);
   auto* card = new Card(this);
   auto* inside = new QHBoxLayout(card);
   inside->setContentsMargins(kInset, kInset, kInset, kInset);
@@ -56,6 +57,7 @@ ComparePage::ComparePage(const Texts& texts, QWidget* parent)
   layout->setSpacing(kGap);
   layout->addLayout(head);
   layout->addWidget(card, 1);
+  showBoxes(Teams);
 }
 
 QComboBox* ComparePage::addBox(const char* name, Text text) {
@@ -63,6 +65,7 @@ QComboBox* ComparePage::addBox(const char* name, Text text) {
   box->setObjectName(QLatin1String(name));
   box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   box->setMinimumContentsLength(kBoxLetters);
+  box->setMinimumWidth(kLeastBox);
   setAccessibleNumber(*box, text);
   setToolTipNumber(*box, text);
   connect(box, &QComboBox::currentIndexChanged, this, &ComparePage::showComparison);
@@ -134,15 +137,19 @@ ComparePage::SideShown ComparePage::stretchOf(const QComboBox& box) const {
           colourOf(game.details.teamColour[player.team])};
 }
 
-void ComparePage::showComparison() {
-  if (!m_game.hasGame())
-    return;
-  const auto kind = static_cast<Kind>(m_kind->currentIndex());
+void ComparePage::showBoxes(Kind kind) {
   m_players[0]->setVisible(kind != Teams);
   m_players[1]->setVisible(kind == Players);
   m_with->setVisible(kind != Teams);
   for (QComboBox* box : m_stretches)
     box->setVisible(kind == Stretches);
+}
+
+void ComparePage::showComparison() {
+  if (!m_game.hasGame())
+    return;
+  const auto kind = static_cast<Kind>(m_kind->currentIndex());
+  showBoxes(kind);
   ComparisonBars::Head head{.title = m_kind->currentText()};
   if (kind == Teams) {
     const GameDetails& details = m_game.whole()->game.details;

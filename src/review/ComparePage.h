@@ -36,6 +36,7 @@ class ComparePage : public QWidget {
   void fillBoxes();
   void fillPlayers(QComboBox& box, Side usual);
   void fillStretches(QComboBox& box, int usual);
+  void showBoxes(Kind kind); // those that it needs
   void showComparison();
   [[nodiscard]] SideShown playerOf(const QComboBox& box) const;
   [[nodiscard]] SideShown stretchOf(const QComboBox& box) const;

@@ -11,13 +11,14 @@
 #include "review/TeamCourt.h"
 
 #include <QBoxLayout>
+#include <QScrollBar>
 #include <algorithm>
 
 namespace hooptab {
 
 namespace {
 
-constexpr int kGap = 6;
+constexpr int kGap = 5;
 constexpr int kInset = 10; // of a card's content
 constexpr int kEdge = 4;
 constexpr int kLeastChart = 90;
@@ -80,6 +81,7 @@ QWidget* GamePage::makeBox(Side team) {
   layout->addWidget(m_edges[team]);
   layout->addWidget(m_boxes[team], 1);
   connect(m_boxes[team], &CompactBoxTable::copied, this, &GamePage::copied);
+  connect(m_boxes[team]->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &GamePage::fitRows);
   return card;
 }
 

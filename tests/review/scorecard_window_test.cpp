@@ -664,6 +664,7 @@ TEST_F(OddGameTest, TwoRostersOfTwelveStandOnOneScreenAndOfFifteenScroll) {
     QCoreApplication::processEvents();
     const int scroll = find<QTableView>("lvwBOX(1)").verticalScrollBar()->maximum();
     EXPECT_TRUE(players == 12 ? scroll == 0 : scroll > 0) << players << ' ' << scroll;
+    EXPECT_LE(window->minimumSizeHint().width(), 1024) << "no wider than a small screen";
   }
 }
 
