@@ -11,7 +11,8 @@ namespace hooptab {
 
 namespace {
 
-constexpr double kRoomForCounts = 1.25; // times the larger
+constexpr double kRoomForCounts = 1.25;      // times the larger
+constexpr std::string_view kUsage = "usage"; // neither more of it is better nor less
 
 class Rows {
  public:
@@ -34,7 +35,7 @@ class Rows {
     if (rate.kind == RateKind::Number && !isOfHundred(rate))
       scaleCounts(row);
     limit(row);
-    if (values[Side::Visitor] && values[Side::Home])
+    if (values[Side::Visitor] && values[Side::Home] && rate.name != kUsage)
       setBetter(row, *values[Side::Visitor], *values[Side::Home], rate.isBetterLow);
   }
   enum class Better { More, Less, Neither };

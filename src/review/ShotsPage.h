@@ -25,9 +25,9 @@ class ShotsPage : public QWidget {
   ShotsPage(const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
 
   void showGame(std::shared_ptr<const CountedGame> game);
+  void applyColours();
 
  private:
-  void applyColours();
   QToolButton* addSwitch(const char* name, Text text, const char* iconName);
   QWidget* makeHalf(Side team);
   void fillPlayers(Side team);

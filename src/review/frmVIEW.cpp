@@ -260,6 +260,7 @@ void frmVIEW::applyColours() {
   m_all->applyColours();
   m_gamePage->applyColours();
   m_flow->applyColours();
+  m_shots->applyColours();
   showPageInFront();
   m_check->applyColours();
   for (QWidget* view : findChildren<QAbstractItemView*>())
