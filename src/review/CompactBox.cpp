@@ -75,7 +75,7 @@ Cell plusMinus(const CompactBasis& of) {
   if (!of.hasMargin)
     return {std::string(kNothing), kBehindAll, Emphasis::Faint};
   const int value = of.rates.meanwhile.plusMinus(of.rates.team);
-  return {signedText(value), static_cast<double>(value),
+  return {differenceText(value), static_cast<double>(value),
           value == 0  ? Emphasis::Faint
           : value > 0 ? Emphasis::Up
                       : Emphasis::Down};
@@ -236,7 +236,7 @@ std::vector<CompactRow> compactRows(const CountedGame& counted, const GameInsigh
   return rows;
 }
 
-std::string signedText(int number) {
+std::string differenceText(int number) {
   return number > 0 ? '+' + std::to_string(number) : withWideMinus(std::to_string(number));
 }
 

@@ -73,7 +73,7 @@ struct CompactRow {
                                                   const Texts& texts);
 
 // "+8", "−2", "0": with a minus as wide as the plus.
-[[nodiscard]] std::string signedText(int number);
+[[nodiscard]] std::string differenceText(int number);
 // The same minus in a number as others write it: "-2" becomes "−2".
 [[nodiscard]] std::string withWideMinus(std::string number);
 

@@ -47,7 +47,7 @@ class Rows {
     addNumber(words, left, right, Module1::clockText(left), Module1::clockText(right), Better::Neither);
   }
   void addMargin(Text words, int left, int right) {
-    addNumber(words, left, right, signedText(left), signedText(right), Better::More);
+    addNumber(words, left, right, differenceText(left), differenceText(right), Better::More);
   }
   void beginGroup() { m_beginsGroup = true; }
   std::vector<ComparisonRow> take() { return std::move(m_rows); }
