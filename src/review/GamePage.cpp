@@ -123,7 +123,7 @@ void GamePage::showGame(const ShownGame& game) {
   }
   for (CompactBoxTable* box : m_boxes)
     box->setNameWidth(name);
-  m_chart->showGame(game.shown());
+  m_chart->showGame(game.whole()); // a stretch has its place in the course of the whole
   showComparison(game);
   applyColours();
   fitRows();
