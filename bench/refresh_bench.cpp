@@ -2,7 +2,7 @@
 // drawing the window.
 #include "game/GameFile.h"
 #include "game_to_measure.h"
-#include "scorecard/frmVIEW.h"
+#include "review/frmVIEW.h"
 #include "settings/Settings.h"
 
 #include <QApplication>

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <string>
-#include <tuple>
 
 namespace hooptab {
 
@@ -22,11 +21,11 @@ class Cutter {
     for (const GameEvent& event : m_game.events) {
       if (!event.isUnderstood || event.isDeleted)
         continue;
-      if (isBehind(event)) {
+      if (m_stretch.hasEndedBefore(event.period, event.clockSeconds)) {
         m_goesOn = true;
         break;
       }
-      if (isWithin(event))
+      if (m_stretch.hasBegunBy(event.period, event.clockSeconds))
         take(event);
       else
         followLists(event);
@@ -39,14 +38,6 @@ class Cutter {
   }
 
  private:
-  [[nodiscard]] bool isBehind(const GameEvent& event) const {
-    return std::tuple(event.period, -event.clockSeconds) > std::tuple(m_stretch.toPeriod, -m_stretch.toClock);
-  }
-  [[nodiscard]] bool isWithin(const GameEvent& event) const {
-    return std::tuple(event.period, -event.clockSeconds) >
-           std::tuple(m_stretch.fromPeriod, -m_stretch.fromClock);
-  }
-
   void take(const GameEvent& event) {
     if (!m_hasBegun && m_hasLists)
       stop(event.period, event.period == m_stretch.fromPeriod

@@ -4,6 +4,8 @@
 
 #include "game/GameFile.h"
 
+#include <utility>
+
 namespace hooptab {
 
 // From one clock to another, the events at the first left out and those at the last included; the first
@@ -17,6 +19,16 @@ struct Stretch {
 
   [[nodiscard]] static Stretch ofPeriods(int first, int last) { return {first, kPeriodBegin, last, 0}; }
   [[nodiscard]] bool isWithinOnePeriod() const { return fromPeriod == toPeriod; }
+  // Whether what happened at that clock comes behind the begin, and behind the end.
+  [[nodiscard]] bool hasBegunBy(int period, int clock) const {
+    return std::pair(period, -clock) > std::pair(fromPeriod, -fromClock);
+  }
+  [[nodiscard]] bool hasEndedBefore(int period, int clock) const {
+    return std::pair(period, -clock) > std::pair(toPeriod, -toClock);
+  }
+  [[nodiscard]] bool holds(int period, int clock) const {
+    return hasBegunBy(period, clock) && !hasEndedBefore(period, clock);
+  }
   friend bool operator==(const Stretch&, const Stretch&) = default;
 };
 

@@ -23,10 +23,6 @@ LeadGrid::LeadGrid(QWidget* parent) : QWidget(parent) {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setHorizontalSpacing(10);
   layout->setVerticalSpacing(0);
-  auto* title = new PlainLabel(this);
-  title->setForegroundRole(QPalette::PlaceholderText);
-  setTextNumber(*title, Text::TimeInLead);
-  layout->addWidget(title, 0, 0, 1, -1);
   for (std::size_t place = 0; place < kOrder.size(); ++place) {
     const int state = kOrder[place];
     Row& row = m_rows[static_cast<std::size_t>(state)];
@@ -39,9 +35,9 @@ LeadGrid::LeadGrid(QWidget* parent) : QWidget(parent) {
     row.times->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     int column = 0;
     for (QLabel* label : {row.name, row.time, row.times})
-      layout->addWidget(label, static_cast<int>(place) + 1, column++);
+      layout->addWidget(label, static_cast<int>(place), column++);
   }
-  layout->setRowStretch(4, 1);
+  layout->setRowStretch(3, 1);
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
 }
 

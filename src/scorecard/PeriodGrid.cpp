@@ -27,14 +27,14 @@ PeriodGrid::PeriodGrid(Content content, const QString& name, Text title, QWidget
   auto* caption = new PlainLabel(this);
   caption->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*caption, title);
-  layout->addWidget(caption, 0, 0, 1, -1);
+  layout->addWidget(caption, 0, 0);
   for (const Side team : kSides) {
     m_teams[team] = new ElidedLabel(this);
     m_teams[team]->setContentsMargins(0, 0, 8, 0);
     QFont bold = font();
     bold.setBold(true);
     m_teams[team]->setFont(bold);
-    layout->addWidget(m_teams[team], 2 + numberOf(team), 0);
+    layout->addWidget(m_teams[team], 1 + numberOf(team), 0);
   }
   for (int period = 1; period <= kMostPeriods; ++period)
     m_periods.push_back(addColumn(*layout, name, period, period));
@@ -42,7 +42,7 @@ PeriodGrid::PeriodGrid(Content content, const QString& name, Text title, QWidget
     m_total = addColumn(*layout, name, 0, kMostPeriods + 1);
     m_total.header->setText(QStringLiteral("T"));
   }
-  layout->setRowStretch(4, 1);
+  layout->setRowStretch(3, 1);
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
 }
 
@@ -52,16 +52,16 @@ PeriodGrid::Column PeriodGrid::addColumn(QGridLayout& layout, const QString& nam
     auto* label = new PlainLabel(this);
     label->setAlignment(Qt::AlignCenter);
     label->setMinimumWidth(period == 0 ? kTotalWidth : kColumnWidth);
-    if (row > 1)
+    if (row > 0)
       Theme::setType(*label, Type::Name, isBold ? QFont::DemiBold : QFont::Normal);
     layout.addWidget(label, row, place);
     return label;
   };
-  column.header = add(1, false);
+  column.header = add(0, false);
   column.header->setForegroundRole(QPalette::PlaceholderText);
   column.header->setContentsMargins(kHeaderMargin, 0, kHeaderMargin, 0);
   for (const Side team : kSides) {
-    QLabel* label = add(2 + numberOf(team), period == 0);
+    QLabel* label = add(1 + numberOf(team), period == 0);
     label->setObjectName(QStringLiteral("%1(%2,%3)").arg(name).arg(numberOf(team)).arg(period));
     column.numbers[team] = label;
   }

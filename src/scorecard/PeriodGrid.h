@@ -21,7 +21,8 @@ class PeriodGrid : public QWidget {
  public:
   enum class Content { Points, Fouls };
 
-  // Labels are named after `name`: "lblPOINTS(0,1)" is team 0 in period 1; period 0 is the total.
+  // `title` stands before the periods' names, where there is one. Labels are named after `name`:
+  // "lblPOINTS(0,1)" is team 0 in period 1; period 0 is the total.
   PeriodGrid(Content content, const QString& name, Text title, QWidget* parent = nullptr);
 
   void showPeriods(const Scoreboard& board);

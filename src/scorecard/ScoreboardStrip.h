@@ -1,5 +1,5 @@
-// The strip at the top of the scorecard: both teams with their score, clock and state of the game between
-// them, points and fouls by period, lead. Only lays out what Scoreboard says.
+// The head of the scorecard: both teams with their score; between them state and clock of the game, points
+// and fouls by period, and who led how long. Only lays out what Scoreboard says.
 #pragma once
 
 #include "game/Side.h"

@@ -89,6 +89,11 @@ std::string fractionText(const ZoneSum& sum) {
   return std::to_string(sum.made) + '/' + std::to_string(sum.attempted);
 }
 
+std::string shotWords(const Shot& shot, const Game& game, const EventWords& words) {
+  return words.periodText(game.events[shot.eventIndex].period) + "  " + words.clock(shot.eventIndex) + "  " +
+         words.words(shot.eventIndex);
+}
+
 std::vector<ZoneWords> zoneWords(const ShotSums& sums) {
   int most = 0;
   for (const ZoneSum& sum : sums.zones)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "court/CourtGeometry.h"
+#include "game/EventWords.h"
 #include "game/GameState.h"
 #include "game/Side.h"
 #include "scorecard/BoxScore.h"
@@ -46,5 +47,7 @@ struct ZoneWords {
 };
 [[nodiscard]] std::vector<ZoneWords> zoneWords(const ShotSums& sums);
 [[nodiscard]] std::string fractionText(const ZoneSum& sum);
+// Period, clock and words of a shot of that game.
+[[nodiscard]] std::string shotWords(const Shot& shot, const Game& game, const EventWords& words);
 
 } // namespace hooptab

@@ -29,12 +29,6 @@ QString coloured(const QString& text, const QColor& colour) {
   return QStringLiteral("<span style='color:%1'>%2</span>").arg(colour.name(), text);
 }
 
-QString shotToolTip(const Shot& shot, const Game& game, const EventWords& words) {
-  const std::size_t event = shot.eventIndex;
-  return toQt(words.periodText(game.events[event].period)) + QStringLiteral("  ") + toQt(words.clock(event)) +
-         QStringLiteral("  ") + toQt(words.words(event));
-}
-
 } // namespace
 
 ShotChartPanel::ShotChartPanel(const Settings& settings, const Texts& texts, QWidget* parent)
@@ -119,7 +113,7 @@ void ShotChartPanel::showShots(std::vector<Shot> shots, const Game& game, const 
     if (!shot.hasPlace)
       continue;
     m_placed.push_back(shot);
-    m_toolTips << shotToolTip(shot, game, words);
+    m_toolTips << toQt(shotWords(shot, game, words));
   }
   showMarks();
   showZones();

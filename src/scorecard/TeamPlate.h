@@ -1,4 +1,4 @@
-// One team at the head of the scorecard: its name and score on its own colour.
+// One team at the head of the scorecard: its name and score on its own colour, the score beside the middle.
 #pragma once
 
 #include "game/Side.h"
@@ -16,15 +16,17 @@ class TeamPlate : public QWidget {
   Q_OBJECT
 
  public:
-  // `side` says which side it is.
-  TeamPlate(Side team, Text side, QWidget* parent = nullptr);
+  explicit TeamPlate(Side team, QWidget* parent = nullptr);
 
-  void showTeam(const Scoreboard::Team& team);
+  // `side` says which side it is: visitors or home.
+  void showTeam(const Scoreboard::Team& team, const QString& side);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 
  private:
-  QLabel* m_side;
   ElidedLabel* m_name;
-  QLabel* m_abbreviation;
+  ElidedLabel* m_side; // with the abbreviation
   QLabel* m_score;
 };
 

@@ -7,7 +7,7 @@
 #include "live/frmLIVE.h"
 #include "publish/ExtractKinds.h"
 #include "publish/LiveExport.h"
-#include "scorecard/frmVIEW.h"
+#include "review/frmVIEW.h"
 #include "settings/Settings.h"
 #include "shell/CommandBar.h"
 #include "shell/GameDialogs.h"

@@ -7,7 +7,7 @@
 #include "keypad/frmConfiguration.h"
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
-#include "scorecard/frmVIEW.h"
+#include "review/frmVIEW.h"
 #include "settings/Settings.h"
 #include "setup/frmNEWGAME.h"
 #include "setup/frmSHEET.h"

@@ -12,7 +12,7 @@
 #include "manual/frmMANUAL.h"
 #include "printing/ReportOutput.h"
 #include "printing/WindowExports.h"
-#include "scorecard/frmVIEW.h"
+#include "review/frmVIEW.h"
 #include "season/frmSTATS.h"
 #include "shell/CommandBar.h"
 #include "shell/ExchangeDesk.h"

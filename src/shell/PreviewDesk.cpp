@@ -3,7 +3,7 @@
 #include "appearance/Dialogs.h"
 #include "appearance/relabel.h"
 #include "printing/ReportOutput.h"
-#include "scorecard/frmVIEW.h"
+#include "review/frmVIEW.h"
 #include "season/frmSTATS.h"
 #include "shell/CommandBar.h"
 #include "shell/PrintOffers.h"

@@ -1,7 +1,7 @@
 #include "shell/WindowArea.h"
 
 #include "appearance/relabel.h"
-#include "scorecard/frmVIEW.h"
+#include "review/frmVIEW.h"
 #include "shell/WindowMemory.h"
 #include "storage/Module1.h"
 

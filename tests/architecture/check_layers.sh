@@ -15,7 +15,7 @@ floors=(
   "game"
   "teams checks totals foreign insight formula"
   "setup welcome forms recording catalogue scorecard simulator livedata bbgame"
-  "assistant keypad manual season"
+  "assistant keypad manual season review"
   "events report scoreboard exchange extracts"
   "live printing publish"
   "shell"

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ViewedGame.h"
+#include "support/ViewedGame.h"
 
 #include <algorithm>
 #include <chrono>

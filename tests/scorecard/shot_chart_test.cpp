@@ -1,6 +1,7 @@
 // Which shots a chart shows, and in which zone each is summed.
 #include "scorecard/ShotChart.h"
 
+#include "scorecard/ZoneRates.h"
 #include "support/TextGame.h"
 
 #include <gtest/gtest.h>
@@ -77,6 +78,23 @@ TEST(ShotSums, CountAShotOfTheOtherKindInTheNearestZoneOfItsOwn) {
   keypad.hasPlace = false;
   EXPECT_EQ(shotSums({keypad}).withoutPlace.attempted, 1);
   EXPECT_EQ(sumOf(shotSums({keypad}), true).attempted, 0);
+}
+
+TEST(ZoneRates, AreSetBesideTheAverageOfTheSameZone) {
+  ShotSums own;
+  own.zones[static_cast<std::size_t>(ChartZone::Paint)] = {3, 4};
+  own.zones[static_cast<std::size_t>(ChartZone::Top)] = {1, 3};
+  ShotSums average;
+  average.zones[static_cast<std::size_t>(ChartZone::Paint)] = {5, 10};
+  const std::vector<ZoneRate> rates = zoneRates(own, average);
+  ASSERT_EQ(rates.size(), 2U) << "a zone without shots has no rate";
+  EXPECT_EQ(rates[0].fraction, "3/4");
+  EXPECT_EQ(rates[0].pointsPerShot, "1.50");
+  EXPECT_DOUBLE_EQ(rates[0].aboveAverage, 0.5);
+  EXPECT_FALSE(rates[0].isFew);
+  EXPECT_EQ(rates[1].pointsPerShot, "1.00") << "three points for a shot from there";
+  EXPECT_EQ(rates[1].aboveAverage, 0) << "nobody to set it beside";
+  EXPECT_TRUE(rates[1].isFew);
 }
 
 } // namespace

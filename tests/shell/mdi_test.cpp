@@ -16,7 +16,7 @@
 #include "printing/ReportOutput.h"
 #include "printing/frmprint.h"
 #include "recording/TimeSource.h"
-#include "scorecard/frmVIEW.h"
+#include "review/frmVIEW.h"
 #include "season/frmSTATS.h"
 #include "settings/Settings.h"
 #include "setup/frmNEWGAME.h"

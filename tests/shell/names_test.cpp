@@ -4,7 +4,7 @@
 #include "live/frmLIVE.h"
 #include "manual/frmMANUAL.h"
 #include "recording/TimeSource.h"
-#include "scorecard/frmVIEW.h"
+#include "review/frmVIEW.h"
 #include "season/SeasonTableView.h"
 #include "season/frmSTATS.h"
 #include "setup/frmNEWGAME.h"

@@ -1,4 +1,4 @@
-#include "scorecard/EventPanel.h"
+#include "review/EventPanel.h"
 
 #include "appearance/TableContent.h"
 #include "appearance/Theme.h"
@@ -24,12 +24,26 @@ constexpr int kSearchWidth = 240;
 
 } // namespace
 
+void EventPanel::Found::setStretch(const std::optional<Stretch>& stretch) {
+  if (stretch == m_stretch)
+    return;
+  m_stretch = stretch;
+  invalidateFilter();
+}
+
+bool EventPanel::Found::filterAcceptsRow(int row, const QModelIndex& parent) const {
+  const GameEvent& event = m_events.game().events[static_cast<std::size_t>(row)];
+  return (!m_stretch || m_stretch->holds(event.period, event.clockSeconds)) &&
+         QSortFilterProxyModel::filterAcceptsRow(row, parent);
+}
+
 EventPanel::EventPanel(const Texts& texts, QWidget* parent)
     : QWidget(parent), m_model(texts), m_search(new QLineEdit(this)), m_list(new QTableView(this)) {
   m_search->setObjectName(QStringLiteral("txtSEARCH"));
   m_search->setClearButtonEnabled(true);
   m_search->setFixedWidth(kSearchWidth);
   setAccessibleNumber(*m_search, Text::SearchEvents);
+  setPlaceholderNumber(*m_search, Text::SearchEvents);
 
   m_found.setSourceModel(&m_model);
   m_found.setFilterKeyColumn(EventListModel::Action);
@@ -56,6 +70,8 @@ EventPanel::EventPanel(const Texts& texts, QWidget* parent)
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(4);
+  layout->addWidget(m_search, 0, Qt::AlignRight);
   layout->addWidget(m_list);
 
   auto* copy = new QShortcut(QKeySequence::Copy, m_list, nullptr, nullptr, Qt::WidgetShortcut);
@@ -101,6 +117,10 @@ void EventPanel::showGame(const Game& game, bool isNew) {
   else if (isNew)
     m_list->scrollToTop();
   tellChosen(); // others may have come before it
+}
+
+void EventPanel::showStretch(const std::optional<Stretch>& stretch) {
+  m_found.setStretch(stretch);
 }
 
 void EventPanel::choose(std::size_t event) {

@@ -1,9 +1,11 @@
 #include "appearance/TableContent.h"
 #include "court/CourtView.h"
 #include "game/EventListModel.h"
+#include "insight/FlowPanel.h"
+#include "review/ComparisonBars.h"
+#include "review/frmVIEW.h"
 #include "scorecard/BoxTable.h"
 #include "scorecard/FrozenTableView.h"
-#include "scorecard/frmVIEW.h"
 #include "support/WindowRoom.h"
 
 #include <QAbstractItemModelTester>
@@ -12,18 +14,20 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QToolButton>
 #include <filesystem>
 
-#include "ViewedGame.h"
+#include "support/ViewedGame.h"
 
 namespace hooptab {
 namespace {
 
 namespace fs = std::filesystem;
 using Mode = frmVIEW::RefreshMode;
+using Page = frmVIEW::Page;
 using Fatal = QAbstractItemModelTester::FailureReportingMode;
 
 constexpr int kPoints = 7; // columns of the table, from 0
@@ -40,13 +44,14 @@ class ScorecardWindowTest : public WindowTest<frmVIEW> {
   void show(const std::string& path) {
     window = std::make_unique<frmVIEW>(game.store, settings, texts);
     ASSERT_EQ(window->open(toQt(path)), GameFileProblem::None);
+    window->showPage(Page::AllColumns);
     window->resize(1350, 640);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
   }
   void watchModels() {
     for (auto* view : {&find<QTableView>("lvwSTAT(0)"), &find<QTableView>("lvwSTAT(1)"),
-                       &find<QTableView>("lvwLEAGUE"), &events()}) {
+                       &find<QTableView>("lvwLEAGUE"), &find<QTableView>("lvwBOX(0)"), &events()}) {
       auto* proxy = qobject_cast<QAbstractProxyModel*>(view->model());
       new QAbstractItemModelTester(proxy, Fatal::Fatal, proxy);
       new QAbstractItemModelTester(proxy->sourceModel(), Fatal::Fatal, proxy);
@@ -247,6 +252,122 @@ TEST_F(ScorecardWindowTest, NumberAndNameStayInSightWhileTheRestScrolls) {
   EXPECT_GE(table(0).visualRect(table(0).currentIndex()).left(), frozen->width());
 }
 
+TEST_F(ScorecardWindowTest, TheFirstPageHasBothTeamsWithWhoDidNotPlay) {
+  frmVIEW fresh(game.store, settings, texts);
+  ASSERT_EQ(fresh.open(toQt(game.file.path())), GameFileProblem::None);
+  fresh.resize(1600, 686);
+  fresh.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&fresh));
+  const auto& visitors = *fresh.findChild<QTableView*>(QStringLiteral("lvwBOX(0)"));
+  const auto& home = *fresh.findChild<QTableView*>(QStringLiteral("lvwBOX(1)"));
+  ASSERT_TRUE(visitors.isVisible() && home.isVisible());
+  EXPECT_EQ(visitors.verticalScrollBar()->maximum(), 0) << "all rows are in sight";
+  EXPECT_EQ(visitors.horizontalScrollBar()->maximum(), 0) << "and all columns";
+  EXPECT_EQ(cell(visitors, 3, 2), QStringLiteral("Dana Dunn"));
+  EXPECT_EQ(cell(visitors, 3, 3), toQt(texts.text(Text::DidNotPlay)));
+  EXPECT_EQ(cell(visitors, 3, 4), QString());
+  EXPECT_EQ(cell(home, 0, 4), QStringLiteral("3"));
+  table(0).setFocus();
+  fresh.grab();
+}
+
+TEST_F(ScorecardWindowTest, APeriodShowsItselfEverywhereButInTheHead) {
+  game.add(2, 590, {",GF3,0-5,110,90", ",GFG,1-8,20,20"});
+  window->refresh();
+  auto& chip = find<QAbstractButton>("cmdSTRETCH");
+  EXPECT_FALSE(chip.isVisible());
+  find<QAbstractButton>("cmdPERIOD(2)").click();
+  EXPECT_EQ(fromQt(chip.text()), "Period 2: LYNX 3–2 PUMA");
+  EXPECT_EQ(find<QLabel>("lblSCORE(0)").text(), QStringLiteral("7")) << "the head is of the whole game";
+  EXPECT_EQ(cell(table(0), 4, kPoints), QStringLiteral("3"));
+  EXPECT_EQ(cell(find<QTableView>("lvwBOX(0)"), 4, 4), QStringLiteral("3"));
+  EXPECT_EQ(marks(), 1U);
+  EXPECT_EQ(events().model()->rowCount(), 2);
+  events().setCurrentIndex(events().model()->index(0, 0));
+  EXPECT_TRUE(find<CourtView>("courtstat").marks()[0].isHighlighted) << "of its own places in the list";
+  game.add(2, 500, {",GFT,0-5"});
+  window->refresh();
+  EXPECT_EQ(cell(table(0), 4, kPoints), QStringLiteral("4")) << "and stays through a new reading";
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  QTest::keyClick(window.get(), Qt::Key_Escape);
+  EXPECT_FALSE(chip.isVisible());
+  EXPECT_EQ(cell(table(0), 4, kPoints), QStringLiteral("8"));
+  EXPECT_TRUE(find<QAbstractButton>("cmdWHOLE").isChecked());
+  EXPECT_GT(events().model()->rowCount(), 3);
+}
+
+TEST_F(ScorecardWindowTest, AStretchOfTheFlowIsShownUntilAnEventOutsideOfItIsAskedFor) {
+  auto& flow = *window->findChild<FlowPanel*>();
+  window->showPage(Page::Flow);
+  EXPECT_FALSE(find<QToolButton>("cmdBOX").isVisible());
+  emit flow.stretchChosen(Stretch{1, 560, 1, 540});
+  auto& chip = find<QAbstractButton>("cmdSTRETCH");
+  EXPECT_EQ(fromQt(chip.text()), "Period 1, 09:20 to 09:00: LYNX 2–0 PUMA");
+  EXPECT_FALSE(find<QAbstractButton>("cmdWHOLE").isChecked());
+  find<QToolButton>("cmdBOX").click();
+  EXPECT_TRUE(find<QTableView>("lvwBOX(0)").isVisible());
+  emit flow.eventAsked(3);
+  EXPECT_FALSE(chip.isVisible());
+  EXPECT_TRUE(events().isVisible());
+  EXPECT_EQ(events().currentIndex().row(), 3);
+}
+
+TEST_F(ScorecardWindowTest, ColumnsAreChosenMovedAndRemembered) {
+  window->showPage(Page::Game);
+  const auto heads = [](const frmVIEW& view) {
+    const QAbstractItemModel& rows = *view.findChild<QTableView*>(QStringLiteral("lvwBOX(0)"))->model();
+    QStringList result;
+    for (int column = 3; column < rows.columnCount(); ++column)
+      result << rows.headerData(column, Qt::Horizontal).toString();
+    return result;
+  };
+  const QStringList usual = heads(*window);
+  find<QToolButton>("cmdCOLUMNS").click();
+  auto& list = find<QListWidget>("lvwCOLUMNS");
+  ASSERT_TRUE(list.isVisible());
+  list.item(0)->setCheckState(Qt::Unchecked);
+  list.item(list.count() - 1)->setCheckState(Qt::Checked);
+  list.setCurrentRow(1);
+  find<QToolButton>("cmdDOWN").click();
+  const QStringList chosen = heads(*window);
+  EXPECT_EQ(chosen.first(2), (QStringList{QStringLiteral("2P"), QStringLiteral("PTS")}));
+  EXPECT_EQ(chosen.last(), QStringLiteral("GmSc"));
+  EXPECT_EQ(chosen.size(), usual.size());
+  frmVIEW next(game.store, settings, texts);
+  next.restoreArrangement(window->arrangement());
+  ASSERT_EQ(next.open(toQt(game.file.path())), GameFileProblem::None);
+  EXPECT_EQ(heads(next), chosen);
+  find<QToolButton>("cmdUSUAL").click();
+  EXPECT_EQ(heads(*window), usual);
+}
+
+TEST_F(ScorecardWindowTest, ShotsAndComparisonsFollowTheirChoices) {
+  window->showPage(Page::Shots);
+  const auto drawn = [&](const char* court) { return find<CourtView>(court).marks().size(); };
+  EXPECT_EQ(drawn("courtSHOTS(0)"), 3U);
+  find<QComboBox>("cmbPLAYER(0)").setCurrentIndex(3); // number 12
+  EXPECT_EQ(drawn("courtSHOTS(0)"), 1U);
+  EXPECT_EQ(drawn("courtSHOTS(1)"), 1U);
+  find<QToolButton>("cmdZONES").click();
+  EXPECT_TRUE(find<QComboBox>("cmbAVERAGE").isVisible());
+
+  window->showPage(Page::Compare);
+  const auto compared = [&](const char* words) {
+    const TableContent content = find<ComparisonBars>("picCOMPARED").tableContent();
+    for (const TableContent::Row& row : content.rows) {
+      if (row.cells[0].text == QLatin1String(words))
+        return fromQt(row.cells[1].text + u' ' + row.cells[2].text);
+    }
+    return std::string();
+  };
+  EXPECT_EQ(compared("From the bench"), "2 0");
+  find<QComboBox>("cmbCOMPARE").setCurrentIndex(1);
+  EXPECT_EQ(compared("Points scored"), "2 3");
+  find<QComboBox>("cmbCOMPARE").setCurrentIndex(2);
+  EXPECT_EQ(compared("Points scored"), "2 0") << "the halves";
+}
+
 TEST_F(ScorecardWindowTest, CheckMarksChangeTheChart) {
   setCheck(table(0), rowOf(table(0), "12"), Qt::Unchecked);
   EXPECT_EQ(marks(), 2U);
@@ -284,6 +405,7 @@ TEST_F(ScorecardWindowTest, ARefreshKeepsSelectionSortScrollAndChecks) {
   setCheck(table(0), rowOf(table(0), "5"), Qt::Unchecked);
   table(0).selectRow(rowOf(table(0), "12"));
   table(0).horizontalScrollBar()->setValue(200);
+  window->showPage(Page::Events);
   events().selectRow(5);
   events().verticalScrollBar()->setValue(40);
   QSignalSpy resets(table(0).model(), &QAbstractItemModel::modelReset);
@@ -527,6 +649,25 @@ TEST_F(OddGameTest, TenThousandEventsHundredLinesAndTwentyPlayersOpen) {
   window->grab();
 }
 
+// In the room that the smallest screen leaves of the program's window.
+TEST_F(OddGameTest, TwoRostersOfTwelveStandOnOneScreenAndOfFifteenScroll) {
+  for (const int players : {12, 15}) {
+    std::string text = details();
+    for (const char* section : {"[0]\n", "[1]\n"}) {
+      text += section;
+      for (int jersey = 1; jersey <= players; ++jersey)
+        text += std::to_string(jersey) + "=1,Somebody " + std::to_string(jersey) + "\n";
+    }
+    show(game.folder.write("full.GAM", text));
+    window->showPage(Page::Game);
+    window->resize(1600, 686);
+    QCoreApplication::processEvents();
+    const int scroll = find<QTableView>("lvwBOX(1)").verticalScrollBar()->maximum();
+    EXPECT_TRUE(players == 12 ? scroll == 0 : scroll > 0) << players << ' ' << scroll;
+    EXPECT_LE(window->minimumSizeHint().width(), 1024) << "no wider than a small screen";
+  }
+}
+
 TEST_F(OddGameTest, AGameWithoutAnythingOpens) {
   show(game.folder.write("empty.GAM", details()));
   watchModels();
@@ -534,7 +675,13 @@ TEST_F(OddGameTest, AGameWithoutAnythingOpens) {
   EXPECT_EQ(find<QLineEdit>("txtTYPEPARTIE").text(), toQt(texts.text(Text::OtherType)));
   window->setByLine(true);
   EXPECT_EQ(table(1).model()->rowCount(), 1);
-  window->grab();
+  for (const Page page :
+       {Page::Game, Page::AllColumns, Page::Flow, Page::Shots, Page::Compare, Page::Events, Page::Details}) {
+    window->showPage(page);
+    window->grab();
+  }
+  find<QComboBox>("cmbCOMPARE").setCurrentIndex(1);
+  EXPECT_TRUE(find<ComparisonBars>("picCOMPARED").tableContent().rows.empty()) << "nobody has played";
 }
 
 TEST_F(OddGameTest, ACountThatLeftItsRangeIsNamed) {

@@ -1,8 +1,9 @@
-// The list of a game's events with the field that searches in it. Keeps its place when the game is read anew,
-// and stays at the end when the user was there.
+// The list of a game's events, or of a stretch of it, with the field that searches in it. Keeps its place
+// when the game is read anew, and stays at the end when the user was there.
 #pragma once
 
 #include "game/EventListModel.h"
+#include "insight/Stretch.h"
 
 #include <QSortFilterProxyModel>
 #include <QWidget>
@@ -25,8 +26,8 @@ class EventPanel : public QWidget {
   void relabel();
   // Selects an event by its place in the game; a search that hides it is ended.
   void choose(std::size_t event);
-  // Placed by the window, which has a better place for it than above the list.
-  QLineEdit& searchField() { return *m_search; }
+  // The events of that stretch alone; nothing: all of them.
+  void showStretch(const std::optional<Stretch>& stretch);
   const EventListModel& model() const { return m_model; }
 
  signals:
@@ -42,8 +43,22 @@ class EventPanel : public QWidget {
   void fitRows();
   void fitColumns();
 
+  // Those of a stretch with the searched words.
+  class Found : public QSortFilterProxyModel {
+   public:
+    explicit Found(const EventListModel& events) : m_events(events) {}
+    void setStretch(const std::optional<Stretch>& stretch);
+
+   protected:
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
+
+   private:
+    const EventListModel& m_events;
+    std::optional<Stretch> m_stretch;
+  };
+
   EventListModel m_model;
-  QSortFilterProxyModel m_found;
+  Found m_found{m_model};
   QLineEdit* m_search;
   QTableView* m_list;
 };
