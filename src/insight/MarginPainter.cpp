@@ -7,6 +7,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include <QPainterPath>
+
 namespace hooptab {
 
 namespace {

@@ -105,6 +105,18 @@ Cell index(const CompactBasis& of) {
   return {withWideMinus(std::to_string(value)), static_cast<double>(value)};
 }
 
+Cell ownRating(const CompactBasis& of) {
+  RatedNumbers numbers{of.row.numbers};
+  if (of.row.kind != BoxRowKind::Total) {
+    numbers.extras = of.rates.extras;
+    if (of.hasMargin)
+      numbers.plusMinus = of.rates.meanwhile.plusMinus(of.rates.team);
+  }
+  const std::optional<double> value = ownRatingOf(of.ownRating, numbers);
+  return {withWideMinus(ownRatingText(value)), value.value_or(kBehindAll),
+          value ? Emphasis::None : Emphasis::Faint};
+}
+
 // clang-format off
 constexpr CompactColumn kColumns[] = {
     {"MIN", "000:00", Group::Points, Text::TimeToolTip, Text::None, minutes, true, false, true},
@@ -130,6 +142,7 @@ constexpr CompactColumn kColumns[] = {
     {"DRTG", "000.0", Group::Rates, Text::RatingDefensive, Text::RatingPerHundredTip, ofRate<kDefensive>, false},
     {"PIR", "−00", Group::Rating, Text::IndexWord, Text::IndexTip, index, false, true},
     {"GmSc", "−00.0", Group::Rating, Text::GameScoreWord, Text::GameScoreTip, ofRate<kGameScore>, false, true},
+    {kOwnRatingColumn, "−000.0", Group::Rating, Text::OwnRatingGroup, Text::None, ownRating, false, true},
 };
 // clang-format on
 
@@ -211,7 +224,8 @@ CompactChoice choiceOfText(std::string_view text) {
 }
 
 std::vector<CompactRow> compactRows(const CountedGame& counted, const GameInsight& insight, unsigned starters,
-                                    Side team, const CompactChoice& choice, const Texts& texts) {
+                                    Side team, const CompactChoice& choice, const Texts& texts,
+                                    const OwnRating& ownRating) {
   std::vector<CompactRow> rows;
   for (const BoxRow& row : boxRows(counted, team, BoxView::Players, texts)) {
     const bool isPlayer = row.kind == BoxRowKind::Player;
@@ -228,7 +242,7 @@ std::vector<CompactRow> compactRows(const CountedGame& counted, const GameInsigh
     if (shown.didNotPlay)
       continue;
     const RateBasis rates = basisOf(row, counted, insight, team);
-    const CompactBasis basis{row, rates, counted.game.details, texts, insight.isFromEvents};
+    const CompactBasis basis{row, rates, counted.game.details, texts, ownRating, insight.isFromEvents};
     for (const std::size_t column : choice)
       shown.cells.push_back(kColumns[column].cell(basis));
   }

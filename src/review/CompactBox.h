@@ -2,6 +2,7 @@
 // out; of the many columns on offer the chosen ones. Says what a cell means, and not how it looks.
 #pragma once
 
+#include "game/OwnRating.h"
 #include "insight/GameInsight.h"
 #include "insight/Rates.h"
 #include "scorecard/BoxScore.h"
@@ -29,6 +30,7 @@ struct CompactBasis {
   const RateBasis& rates;
   const GameDetails& details;
   const Texts& texts;
+  const OwnRating& ownRating;
   bool hasMargin = false; // it is known what the score did while he was on court
 };
 
@@ -45,6 +47,8 @@ struct CompactColumn {
   bool hasBest = false; // the most of a column stands out
   bool isTime = false;
 };
+// That of the user's own rating, whose head he chooses.
+inline constexpr std::string_view kOwnRatingColumn = "OWN";
 [[nodiscard]] std::span<const CompactColumn> compactColumns();
 
 // Which of them are shown, from left to right, as places among all. Kept as text: "MIN,PTS,2P".
@@ -70,7 +74,7 @@ struct CompactRow {
 // each player entry that began the whole game.
 [[nodiscard]] std::vector<CompactRow> compactRows(const CountedGame& counted, const GameInsight& insight,
                                                   unsigned starters, Side team, const CompactChoice& choice,
-                                                  const Texts& texts);
+                                                  const Texts& texts, const OwnRating& ownRating = {});
 
 // "+8", "−2", "0": with a minus as wide as the plus.
 [[nodiscard]] std::string differenceText(int number);

@@ -103,20 +103,29 @@ QString CompactBoxModel::toolTip(int section) const {
   if (section < FirstCell)
     return {};
   const CompactColumn& column = columnAt(section);
+  if (column.name == kOwnRatingColumn && !m_ownTip.isEmpty())
+    return m_ownTip;
   const QString words = caption(m_texts, column.words);
   return column.tip == Text::None ? words : words + u'\n' + caption(m_texts, column.tip);
+}
+
+void CompactBoxModel::setOwnRating(const QString& head, const QString& toolTip) {
+  m_ownHead = head;
+  m_ownTip = toolTip;
+}
+
+QString CompactBoxModel::headAt(int column) const {
+  if (column < FirstCell)
+    return column == Starter ? QString() : column == Number ? QStringLiteral("No") : m_head;
+  const CompactColumn& shown = columnAt(column);
+  return shown.name == kOwnRatingColumn && !m_ownHead.isEmpty() ? m_ownHead : toQt(shown.name);
 }
 
 QVariant CompactBoxModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
     return {};
   switch (role) {
-  case Qt::DisplayRole:
-    if (section == Starter)
-      return QString();
-    if (section < FirstCell)
-      return section == Number ? QStringLiteral("No") : m_head;
-    return toQt(columnAt(section).name);
+  case Qt::DisplayRole: return headAt(section);
   case kTableNameRole:
     if (section < FirstCell)
       return QStringList{QStringLiteral("starter"), QStringLiteral("No"), QStringLiteral("Name")}[section];

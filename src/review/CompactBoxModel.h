@@ -24,6 +24,10 @@ class CompactBoxModel : public QAbstractTableModel {
 
   // `head` stands over the names.
   void showRows(const QString& head, std::vector<CompactRow> rows, const CompactChoice& choice);
+  // Over the column of the user's own rating, and what it is; shown with the next rows.
+  void setOwnRating(const QString& head, const QString& toolTip);
+  // What stands over a column.
+  [[nodiscard]] QString headAt(int column) const;
   const CompactChoice& choice() const { return m_choice; }
   // Of a column of cells.
   const CompactColumn& columnAt(int column) const;
@@ -40,6 +44,8 @@ class CompactBoxModel : public QAbstractTableModel {
 
   const Texts& m_texts;
   QString m_head;
+  QString m_ownHead;
+  QString m_ownTip;
   std::vector<CompactRow> m_rows;
   CompactChoice m_choice;
 };

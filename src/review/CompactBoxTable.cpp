@@ -139,8 +139,8 @@ void CompactBoxTable::resizeEvent(QResizeEvent* event) {
 int CompactBoxTable::leastWidth(int column) const {
   const CompactColumn& shown = m_model.columnAt(column);
   const QFontMetrics metrics(Theme::font(Type::Body, QFont::DemiBold));
-  int width =
-      std::max(metrics.horizontalAdvance(toQt(shown.name)), metrics.horizontalAdvance(toQt(shown.widest)));
+  int width = std::max(metrics.horizontalAdvance(m_model.headAt(column)),
+                       metrics.horizontalAdvance(toQt(shown.widest)));
   if (shown.name == "PF")
     width = std::max(width,
                      metrics.horizontalAdvance(QStringLiteral("5 ") + caption(m_texts, Text::FouledOutWord)));

@@ -17,6 +17,7 @@ class CompactBoxTable : public QTableView {
 
   // The same choice keeps selection, sort and scroll.
   void showRows(const QString& head, std::vector<CompactRow> rows, const CompactChoice& choice);
+  void setOwnRating(const QString& head, const QString& toolTip) { m_model.setOwnRating(head, toolTip); }
   void setRowHeight(int height);
   // With its head and what it scrolls by sideways, the rows that high.
   [[nodiscard]] int heightOf(int rowHeight) const;

@@ -9,6 +9,7 @@
 #include "review/ComparisonBars.h"
 #include "review/SignLegend.h"
 #include "review/TeamCourt.h"
+#include "settings/Settings.h"
 
 #include <QBoxLayout>
 #include <QScrollBar>
@@ -132,9 +133,15 @@ void GamePage::showGame(const ShownGame& game) {
 void GamePage::showBox(const ShownGame& game, Side team) {
   const GameDetails& details = game.whole()->game.details;
   CompactBoxTable& box = *m_boxes[team];
-  box.showRows(toQt(details.abbreviation[team]),
-               compactRows(*game.shown(), game.insight(), game.starters(team), team, m_columns, m_texts),
-               m_columns);
+  const OwnRatingChoice& choice = m_settings.ownRating;
+  const OwnRating ownRating = m_readFormula ? m_readFormula(choice.formula).rating : OwnRating();
+  const bool isRated = ownRating != nullptr;
+  box.setOwnRating(isRated ? toQt(choice.name) : QString(),
+                   isRated ? toQt(m_texts.withPlaceholder(Text::OwnRatingTip, choice.formula)) : QString());
+  box.showRows(
+      toQt(details.abbreviation[team]),
+      compactRows(*game.shown(), game.insight(), game.starters(team), team, m_columns, m_texts, ownRating),
+      m_columns);
   box.setAccessibleName(toQt(details.name[team]));
   setExportTitle(box, toQt(details.name[team]));
   QPalette own = palette();

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <utility>
 
 namespace hooptab {
 
@@ -27,6 +28,8 @@ class GamePage : public QWidget {
   void showGame(const ShownGame& game);
   const CompactChoice& columns() const { return m_columns; }
   void setColumns(CompactChoice columns); // shown with the next game
+  // Who reads the formula of the user's own rating; without, there is none.
+  void setFormulaReader(FormulaReader reader) { m_readFormula = std::move(reader); }
   void applyColours();
 
  signals:
@@ -44,6 +47,7 @@ class GamePage : public QWidget {
 
   const Settings& m_settings;
   const Texts& m_texts;
+  FormulaReader m_readFormula;
   CompactChoice m_columns = usualCompactColumns();
   PerSide<CompactBoxTable*> m_boxes = {};
   PerSide<QWidget*> m_edges = {}; // the team's colour above its box

@@ -78,6 +78,10 @@ frmVIEW::frmVIEW(ProfileStore& store, const Settings& settings, const Texts& tex
 
 frmVIEW::~frmVIEW() = default;
 
+void frmVIEW::setFormulaReader(FormulaReader reader) {
+  m_gamePage->setFormulaReader(std::move(reader));
+}
+
 void frmVIEW::addPages() {
   QWidget* const pages[] = {m_gamePage, m_all, m_flow, m_shots, m_compare, m_events, m_details};
   m_tabs->setObjectName(QStringLiteral("tabs"));

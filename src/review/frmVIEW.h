@@ -5,6 +5,7 @@
 
 #include "appearance/ChildWindow.h"
 #include "appearance/WidgetsFirst.h"
+#include "game/OwnRating.h"
 #include "review/ShownGame.h"
 #include "scorecard/FileChange.h"
 #include "scorecard/Scorecard.h"
@@ -47,6 +48,9 @@ class frmVIEW : public ChildWindow {
   // Store, settings and texts must outlive it.
   frmVIEW(ProfileStore& store, const Settings& settings, const Texts& texts, QWidget* parent = nullptr);
   ~frmVIEW() override;
+
+  // Who reads the formula of the user's own rating.
+  void setFormulaReader(FormulaReader reader);
 
   // Reads and shows a game; on a problem what was shown stays.
   [[nodiscard]] GameFileProblem open(const QString& path);

@@ -24,11 +24,11 @@
 #include "shell/PrintOffers.h"
 #include "shell/SharedFiles.h"
 #include "shell/UnsavedSettings.h"
-#include "welcome/WelcomePage.h"
 #include "shell/WindowArea.h"
 #include "shell/WindowMemory.h"
 #include "shell/frmABOUT.h"
 #include "teams/frmEQUIPES.h"
+#include "welcome/WelcomePage.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -316,6 +316,7 @@ GameFileProblem MDI::showGame(const QString& path) {
     return GameFileProblem::None;
   }
   auto view = std::make_unique<frmVIEW>(m_workshop.store, m_workshop.settings, m_workshop.texts);
+  view->setFormulaReader(m_workshop.readFormula);
   if (const GameFileProblem problem = view->open(path); problem != GameFileProblem::None)
     return problem;
   addScorecard(view.release());

@@ -5,9 +5,9 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "game/Side.h"
-#include "welcome/RecentGameWords.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
+#include "welcome/RecentGameWords.h"
 
 #include <QBoxLayout>
 #include <QDateTime>
