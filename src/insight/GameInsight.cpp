@@ -85,12 +85,42 @@ class Origins {
   std::optional<int> m_gained; // the clock at which the ball was gained
 };
 
+// What one event adds to every share that it falls into: a few numbers of the many that a share has.
+class Happening {
+ public:
+  void pass(int seconds) { m_seconds = seconds; }
+  void begin(const PerSide<int>& possessions) { m_possessions = possessions; }
+  void count(const GameEvent& event) {
+    const EventKind& kind = *event.kind();
+    m_team = *event.player.team;
+    m_attempt = kind.isShot ? std::optional(kind.attempts) : std::nullopt;
+    m_counter = !kind.isShot || event.isMade ? std::optional(kind.counter) : std::nullopt;
+  }
+  void addTo(CourtShare& share) const {
+    share.seconds += m_seconds;
+    for (const Side team : kSides)
+      share.possessions[team] += m_possessions[team];
+    for (const std::optional<Counter>& counter : {m_attempt, m_counter}) {
+      if (counter)
+        ++share.counters[m_team].counts[static_cast<std::size_t>(*counter)];
+    }
+  }
+
+ private:
+  int m_seconds = 0;
+  PerSide<int> m_possessions = {};
+  Side m_team = Side::Visitor;
+  std::optional<Counter> m_attempt, m_counter;
+};
+
 class Builder {
  public:
   explicit Builder(const Game& game)
       : m_game(game), m_tally(m_state, game.roster[Side::Visitor], game.roster[Side::Home]),
         m_possessions(game.events, game.details.minutesPerPeriod > 0), m_origins(game, m_insight.origins) {
+    constexpr std::size_t kUsualMatchups = 64;
     m_insight.isFromEvents = game.details.inputType == 0;
+    m_insight.matchups.reserve(kUsualMatchups);
   }
 
   GameInsight build() {
@@ -100,6 +130,7 @@ class Builder {
         take(event, place);
       m_tally.apply(event, place++);
     }
+    sumMatchups();
     std::erase_if(m_insight.matchups, [](const Matchup& matchup) { return matchup.share.isEmpty(); });
     if (m_insight.isFromEvents)
       countBench();
@@ -115,23 +146,14 @@ class Builder {
       followClock(event);
     const Possessions::Stand stand = m_possessions.take(event, place);
     m_origins.take(event, stand);
-    CourtShare happened;
-    happened.possessions = stand.begun;
+    Happening happened;
+    happened.begin(stand.begun);
     if (event.isOfPlayer())
-      count(event, happened.counters[*event.player.team]);
+      happened.count(event);
     if (stand.begun != PerSide<int>{} || event.isOfPlayer())
       add(event, happened);
     if (event.isShot() && event.isMade)
       m_score[*event.player.team] += event.kind()->points;
-  }
-
-  static void count(const GameEvent& event, BoxCounters& counters) {
-    const EventKind& kind = *event.kind();
-    const auto add = [&counters](Counter counter) { ++counters.counts[static_cast<std::size_t>(counter)]; };
-    if (kind.isShot)
-      add(kind.attempts);
-    if (!kind.isShot || event.isMade)
-      add(kind.counter);
   }
 
   void followClock(const GameEvent& event) {
@@ -151,26 +173,40 @@ class Builder {
     if (event.code != EventCode::ARRET)
       return;
     if (isAnybodyOnCourt()) {
-      CourtShare time;
-      time.seconds = m_since - event.clockSeconds;
+      Happening time;
+      time.pass(m_since - event.clockSeconds);
       addToThoseOnCourt(time);
     }
     m_since = event.clockSeconds;
   }
 
-  void add(const GameEvent& event, const CourtShare& happened) {
+  void add(const GameEvent& event, const Happening& happened) {
     if (isClutch(event.period, event.clockSeconds))
-      m_insight.clutch += happened;
+      happened.addTo(m_insight.clutch);
     addToThoseOnCourt(happened);
   }
 
-  void addToThoseOnCourt(const CourtShare& share) {
-    m_insight.whole += share;
-    matchup().share += share;
+  // Players have their share from the lines in the end; of a line behind the hundredth nobody knows who it
+  // was.
+  void addToThoseOnCourt(const Happening& happened) {
+    Matchup& here = matchup();
+    happened.addTo(here.share);
     for (const Side team : kSides) {
-      for (std::size_t i = 0; i < m_state.onCourtCount[team]; ++i) {
+      for (std::size_t i = 0; here.line[team] == 0 && i < m_state.onCourtCount[team]; ++i) {
         if (const std::size_t player = m_state.onCourt[team][i]; player > 0)
-          m_insight.players[team][player] += share;
+          happened.addTo(m_insight.players[team][player]);
+      }
+    }
+  }
+  void sumMatchups() {
+    for (const Matchup& matchup : m_insight.matchups) {
+      m_insight.whole += matchup.share;
+      for (const Side team : kSides) {
+        const unsigned members = m_state.lineMembers[team][static_cast<std::size_t>(matchup.line[team])];
+        for (std::size_t player = 1; matchup.line[team] > 0 && player < GameState::kPlayerEntries; ++player) {
+          if ((members & (1U << player)) != 0)
+            m_insight.players[team][player] += matchup.share;
+        }
       }
     }
   }
