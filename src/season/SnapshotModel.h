@@ -16,6 +16,7 @@ struct TableColumn {
   QString header;
   QString toolTip = {};
   QString longest = {}; // the widest text of a column of numbers
+  int leastWidth = 0;   // of a column that shows more than its text
   bool isLeftAligned = false;
   bool isText = false; // sorts by its text
   bool isHidden = false;

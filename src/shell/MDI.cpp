@@ -12,7 +12,7 @@
 #include "printing/ReportOutput.h"
 #include "printing/WindowExports.h"
 #include "scorecard/frmVIEW.h"
-#include "season/frmSTATS.h"
+#include "studies/frmSTATS.h"
 #include "shell/CommandBar.h"
 #include "shell/ExchangeDesk.h"
 #include "shell/GameDialogs.h"

@@ -4,7 +4,7 @@
 #include "appearance/relabel.h"
 #include "printing/ReportOutput.h"
 #include "scorecard/frmVIEW.h"
-#include "season/frmSTATS.h"
+#include "studies/frmSTATS.h"
 #include "shell/CommandBar.h"
 #include "shell/PrintOffers.h"
 #include "shell/WindowArea.h"

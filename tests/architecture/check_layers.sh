@@ -16,7 +16,7 @@ floors=(
   "teams checks totals foreign insight"
   "setup forms recording catalogue scorecard simulator livedata bbgame"
   "keypad manual season"
-  "events report scoreboard exchange extracts"
+  "events report scoreboard studies exchange extracts"
   "live printing publish"
   "shell"
 )

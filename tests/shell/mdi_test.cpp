@@ -17,7 +17,7 @@
 #include "printing/frmprint.h"
 #include "recording/TimeSource.h"
 #include "scorecard/frmVIEW.h"
-#include "season/frmSTATS.h"
+#include "studies/frmSTATS.h"
 #include "settings/Settings.h"
 #include "setup/frmNEWGAME.h"
 #include "setup/frmSHEET.h"

@@ -1,4 +1,4 @@
-#include "season/CriteriaPanel.h"
+#include "studies/CriteriaPanel.h"
 
 #include "appearance/Fields.h"
 #include "appearance/LanguageLocale.h"

@@ -8,6 +8,7 @@
 #include <QDateEdit>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <filesystem>
@@ -236,6 +237,7 @@ TEST_F(SeasonWindowTest, ShowsAPlayerGameByGame) {
 TEST_F(SeasonWindowTest, OpensAGameByDoubleClickAndByEnter) {
   read();
   QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
+  find<QTabWidget>("tabs").setCurrentIndex(1);
   SeasonTableView& games = table("lvwGAMES");
   games.model()->sort(0, Qt::DescendingOrder);
   const QPoint place = games.visualRect(games.model()->index(1, 1)).center();
@@ -246,6 +248,52 @@ TEST_F(SeasonWindowTest, OpensAGameByDoubleClickAndByEnter) {
   games.setFocus();
   QTest::keyClick(&games, Qt::Key_Return);
   EXPECT_EQ(opened.size(), 2);
+}
+
+TEST_F(SeasonWindowTest, ShowsTheStandingsOfTheGamesAsSoonAsTheyAreRead) {
+  read();
+  EXPECT_EQ(currentPage(), QStringLiteral("Standings"));
+  ASSERT_EQ(rows("lvwSTANDINGS"), 4);
+  int games = 0;
+  for (int row = 0; row < 4; ++row)
+    games += cell("lvwSTANDINGS", row, 3).toInt();
+  EXPECT_EQ(games, 2 * (kGames + 1));
+  EXPECT_GE(cell("lvwSTANDINGS", 0, 6).toDouble(), cell("lvwSTANDINGS", 3, 6).toDouble());
+  auto& last = find<QListWidget>("lvwLASTGAMES");
+  QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
+  emit last.itemActivated(last.item(0));
+  ASSERT_EQ(opened.size(), 1);
+  EXPECT_EQ(opened[0][0].toString(), cell("lvwGAMES", kGames, 9)) << "the last of the list";
+  generate();
+  auto& leaders = find<QListWidget>("lvwBOARD(0)");
+  ASSERT_EQ(leaders.count(), 3);
+  EXPECT_TRUE(leaders.item(0)->text().contains(cell("lvwSTATjoueurs(1)", 0, 1)));
+  emit table("lvwSTANDINGS").rowAsked(1);
+  EXPECT_EQ(currentPage(), QStringLiteral("Team"));
+  EXPECT_TRUE(find<QComboBox>("lstTEAM").currentText().startsWith(cell("lvwSTANDINGS", 1, 1)));
+}
+
+TEST_F(SeasonWindowTest, FindsEventsOfTheSelectedGames) {
+  read();
+  auto& field = find<QLineEdit>("txtSEARCHEVENTS");
+  const auto search = [&](const char* text) {
+    field.setText(QLatin1String(text));
+    emit field.returnPressed();
+    wait();
+  };
+  search("nonsense");
+  EXPECT_EQ(currentPage(), QStringLiteral("Search"));
+  EXPECT_TRUE(find<QLabel>("lblUNDERSTOOD").text().contains(QStringLiteral("nonsense")));
+  search("3P made last minute");
+  const int found = rows("lvwFOUND");
+  ASSERT_GT(found, 0);
+  QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
+  emit table("lvwFOUND").rowAsked(0);
+  ASSERT_EQ(opened.size(), 1);
+  choose("lstequipes", find<QComboBox>("lstequipes").itemText(1));
+  click("cmdFILTER");
+  search("3P made last minute");
+  EXPECT_LT(rows("lvwFOUND"), found) << "of the selected games alone";
 }
 
 TEST_F(SeasonWindowTest, ShowsLeadersAndATeam) {
@@ -271,7 +319,7 @@ TEST_F(SeasonWindowTest, ShowsLeadersAndATeam) {
 
 TEST_F(SeasonWindowTest, TheMinimumDecidesWhoLeadsAndIsKept) {
   readAndGenerate();
-  find<QTabWidget>("tabs").setCurrentIndex(3);
+  find<QTabWidget>("tabs").setCurrentIndex(4);
   QWidget& page = *find<QTabWidget>("tabs").currentWidget();
   page.findChild<QToolButton*>(QStringLiteral("cmdPERGAME"))->click();
   const auto set = [&](const char* name, int value) { find<QSpinBox>(name).setValue(value); };

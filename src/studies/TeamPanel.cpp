@@ -1,4 +1,4 @@
-#include "season/TeamPanel.h"
+#include "studies/TeamPanel.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/TableContent.h"
@@ -78,6 +78,14 @@ void TeamPanel::showSeason(std::shared_ptr<const Season> season) {
     }
   }
   showTeam();
+}
+
+// Nothing happens where the statistics do not have it.
+void TeamPanel::chooseTeam(SeasonId team) {
+  const int place =
+      m_season == nullptr ? -1 : m_team->findText(toQt(m_season->catalogue().teams()[team].key));
+  if (place >= 0)
+    m_team->setCurrentIndex(place);
 }
 
 void TeamPanel::relabelPanel() {

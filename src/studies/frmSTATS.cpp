@@ -1,4 +1,4 @@
-#include "season/frmSTATS.h"
+#include "studies/frmSTATS.h"
 
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
@@ -6,22 +6,25 @@
 #include "appearance/Mnemonics.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
-#include "season/AveragesPanel.h"
-#include "season/CriteriaPanel.h"
-#include "season/FolderPanel.h"
-#include "season/LeadersPanel.h"
-#include "season/PersonPanel.h"
 #include "season/SeasonTables.h"
-#include "season/TeamPanel.h"
 #include "settings/CountWords.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
+#include "studies/AveragesPanel.h"
+#include "studies/CriteriaPanel.h"
+#include "studies/FolderPanel.h"
+#include "studies/LeadersPanel.h"
+#include "studies/PersonPanel.h"
+#include "studies/SearchPanel.h"
+#include "studies/StandingsPanel.h"
+#include "studies/TeamPanel.h"
 
 #include <QBoxLayout>
 #include <QDataStream>
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMap>
 #include <QShortcut>
 #include <QSplitter>
@@ -35,24 +38,32 @@ namespace hooptab {
 namespace {
 
 constexpr int kMargin = 8;
+constexpr int kSearchWidth = 220;
 
 } // namespace
 
 frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& texts, Dialogs& dialogs,
                    QWidget* parent)
     : ChildWindow(parent), m_files(files), m_settings(settings), m_texts(texts), m_dialogs(dialogs),
-      m_folder(new FolderPanel(texts, this)), m_notice(noticeLabel(this)), m_tabs(new QTabWidget(this)),
+      m_folder(new FolderPanel(texts, this)), m_search(new QLineEdit(this)), m_notice(noticeLabel(this)),
+      m_tabs(new QTabWidget(this)), m_standings(new StandingsPanel(settings, texts, m_tabs)),
       m_notRead(new SeasonTableView(QStringLiteral("lvwNOTREAD"), 0, m_tabs)),
       m_players(new AveragesPanel(SeasonTable::Players, settings, texts, m_tabs)),
       m_lines(new AveragesPanel(SeasonTable::Lines, settings, texts, m_tabs)),
       m_leaders(new LeadersPanel(settings, texts, m_tabs)),
-      m_person(new PersonPanel(settings, texts, m_tabs)), m_team(new TeamPanel(texts, m_tabs)) {
+      m_person(new PersonPanel(settings, texts, m_tabs)), m_team(new TeamPanel(texts, m_tabs)),
+      m_found(new SearchPanel(texts, m_tabs)) {
   setObjectName(QStringLiteral("frmSTATS"));
   m_tabs->setObjectName(QStringLiteral("tabs"));
   m_folder->showFolder(toQt(settings.lastGameFolder), false);
-  const std::pair<QWidget*, Text> pages[] = {{makeGames(), Text::GamesTitle}, {m_players, Text::Players},
-                                             {m_lines, Text::Lines},          {m_leaders, Text::LeadersTab},
-                                             {m_person, Text::PersonTab},     {m_team, Text::Team},
+  const std::pair<QWidget*, Text> pages[] = {{m_standings, Text::StandingsTab},
+                                             {makeGames(), Text::GamesTitle},
+                                             {m_players, Text::Players},
+                                             {m_lines, Text::Lines},
+                                             {m_leaders, Text::LeadersTab},
+                                             {m_person, Text::PersonTab},
+                                             {m_team, Text::Team},
+                                             {m_found, Text::SearchTab},
                                              {m_notRead, Text::NotReadTab}};
   for (const auto& [page, text] : pages) {
     m_tabs->addTab(page, QString());
@@ -71,7 +82,17 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->setSpacing(6);
-  layout->addWidget(m_folder);
+  m_search->setObjectName(QStringLiteral("txtSEARCHEVENTS"));
+  m_search->setMinimumWidth(kSearchWidth);
+  m_search->setClearButtonEnabled(true);
+  setPlaceholderNumber(*m_search, Text::SearchAllEvents);
+  setAccessibleNumber(*m_search, Text::SearchAllEvents);
+  setToolTipNumber(*m_search, Text::SearchEventsHint);
+  auto* head = new QHBoxLayout;
+  head->setSpacing(kMargin);
+  head->addWidget(m_folder, 1);
+  head->addWidget(m_search, 0, Qt::AlignTop);
+  layout->addLayout(head);
   layout->addWidget(m_notice);
   layout->addWidget(m_tabs, 1);
 
@@ -91,6 +112,12 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
           [this](const SeasonRow& row) { showPerson(row, false); });
   connect(m_lines, &AveragesPanel::personAsked, this,
           [this](const SeasonRow& row) { showPerson(row, true); });
+  connect(m_search, &QLineEdit::returnPressed, this, &frmSTATS::search);
+  connect(m_found, &SearchPanel::gameAsked, this, &frmSTATS::openGame);
+  connect(m_standings, &StandingsPanel::gameAsked, this, &frmSTATS::openGame);
+  connect(m_standings, &StandingsPanel::teamAsked, this, &frmSTATS::showTeam);
+  connect(m_standings, &StandingsPanel::personAsked, this,
+          [this](const SeasonRow& row) { showPerson(row, false); });
   connect(m_leaders, &LeadersPanel::minimumChosen, this, &frmSTATS::chooseMinimum);
   connect(m_person, &PersonPanel::gameAsked, this, &frmSTATS::openGame);
   connect(m_team, &TeamPanel::gameAsked, this, &frmSTATS::openGame);
@@ -159,6 +186,7 @@ void frmSTATS::takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue
     m_problem = Text::NoFinishedGame;
   m_countedWrong.clear();
   m_desk.takeCatalogue(std::move(catalogue));
+  m_found->clear();
   showCatalogue();
   showSeason();
 }
@@ -184,6 +212,28 @@ void frmSTATS::generate() {
                 m_desk.takeSeason(season, order, m_texts);
                 showSeason();
                 m_tabs->setCurrentWidget(m_players);
+              };
+            });
+}
+
+void frmSTATS::search() {
+  if (isBusy() || !m_desk.hasCatalogue() || m_search->text().trimmed().isEmpty())
+    return;
+  const std::shared_ptr<const GameCatalogue> catalogue = m_desk.catalogue();
+  const EventQuery query = parseEventQuery(fromQt(m_search->text()), catalogue->teams());
+  m_tabs->setCurrentWidget(m_found);
+  if (query.isEmpty())
+    return m_found->showUnknown(query);
+  m_progressCount = m_desk.listed().size();
+  startWork(Text::SearchingGames, Text::SearchingGames,
+            [this, &files = m_files, catalogue, games = m_desk.listed(), query,
+             texts = m_texts](const TaskWatch& watch) -> Task::Delivery {
+              FoundEvents found = searchEvents(files, *catalogue, games, query.criteria, texts, watch);
+              return [this, catalogue, query, found = std::move(found)] {
+                if (m_task.isCancelled())
+                  m_problem = Text::ReadingCancelled;
+                else
+                  m_found->showFound(catalogue, query, found);
               };
             });
 }
@@ -235,10 +285,16 @@ void frmSTATS::showPerson(const SeasonRow& row, bool isLine) {
             });
 }
 
+void frmSTATS::showTeam(SeasonId team) {
+  m_team->chooseTeam(team);
+  m_tabs->setCurrentWidget(m_team);
+}
+
 void frmSTATS::chooseMinimum(const Qualification& minimum) {
   m_desk.setMinimum(minimum, m_texts);
   m_players->showSeason(m_desk.season()); // whose marks it decides
   m_leaders->showMinimum(minimum, m_desk.season());
+  m_standings->showSeason(m_desk.season());
 }
 
 std::shared_ptr<const SeasonPerson> frmSTATS::chosenPerson() const {
@@ -290,6 +346,7 @@ void frmSTATS::showCatalogue() {
 
 void frmSTATS::showList() {
   m_games->showRows(gameListRows(m_desk.catalogue(), m_desk.listed(), m_desk.chosenTeam(), m_texts));
+  m_standings->showGames(m_desk.catalogue(), m_desk.listed());
   const GameCatalogue& catalogue = *m_desk.catalogue();
   const Text listedText = catalogue.games().size() == 1 ? Text::ListedOfOne : Text::ListedGames;
   const std::string listed =
@@ -309,6 +366,7 @@ void frmSTATS::showList() {
 }
 
 void frmSTATS::showSeason() {
+  m_standings->showSeason(m_desk.season());
   m_players->showSeason(m_desk.season());
   m_lines->showSeason(m_desk.season());
   m_leaders->showSeason(m_desk.season());
@@ -346,11 +404,13 @@ void frmSTATS::relabelWindow() {
   m_criteria->relabelPanel();
   m_games->showColumns(gameListColumns(m_texts));
   m_notRead->showColumns(skippedColumns(m_texts));
+  m_standings->relabelPanel();
   m_players->relabelPanel();
   m_lines->relabelPanel();
   m_leaders->relabelPanel();
   m_person->relabelPanel();
   m_team->relabelPanel();
+  m_found->relabelPanel();
   if (m_desk.hasCatalogue()) {
     m_criteria->showDesk(m_desk);
     showList();

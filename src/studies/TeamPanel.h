@@ -23,6 +23,7 @@ class TeamPanel : public QWidget {
   explicit TeamPanel(const Texts& texts, QWidget* parent = nullptr);
 
   void showSeason(std::shared_ptr<const Season> season); // null: none yet
+  void chooseTeam(SeasonId team);
   void relabelPanel();
   void applyColours();
 

@@ -1,4 +1,4 @@
-#include "season/PersonPanel.h"
+#include "studies/PersonPanel.h"
 
 #include "appearance/ElidedLabel.h"
 #include "appearance/PlainLabel.h"

@@ -1,10 +1,10 @@
-#include "season/AveragesPanel.h"
+#include "studies/AveragesPanel.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
 #include "season/SeasonTables.h"
-#include "season/ViewSwitch.h"
 #include "settings/CountWords.h"
+#include "studies/ViewSwitch.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>
