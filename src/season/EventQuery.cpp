@@ -1,6 +1,6 @@
 #include "catalogue/Jersey.h"
 #include "season/EventSearch.h"
-#include "storage/codepage.h"
+#include "season/FoldedText.h"
 
 #include <algorithm>
 #include <array>
@@ -130,44 +130,6 @@ bool isOneOf(const std::string_view (&words)[size], std::string_view word) {
   return std::ranges::find(words, word) != std::end(words);
 }
 
-// Lower case, without accents.
-std::string folded(std::string_view utf8) {
-  std::string text = codepage::fromUtf8(utf8);
-  for (char& letter : text) {
-    letter = static_cast<char>(codepage::foldCase(static_cast<unsigned char>(letter)));
-    switch (static_cast<unsigned char>(letter)) {
-    case 0xE0:
-    case 0xC0:
-    case 0xE2:
-    case 0xC2: letter = 'a'; break;
-    case 0xE8:
-    case 0xC8:
-    case 0xE9:
-    case 0xC9:
-    case 0xEA:
-    case 0xCA:
-    case 0xEB:
-    case 0xCB: letter = 'e'; break;
-    case 0xEE:
-    case 0xCE:
-    case 0xEF:
-    case 0xCF: letter = 'i'; break;
-    case 0xF4:
-    case 0xD4: letter = 'o'; break;
-    case 0xF9:
-    case 0xD9:
-    case 0xFB:
-    case 0xDB: letter = 'u'; break;
-    case 0xE7:
-    case 0xC7: letter = 'c'; break;
-    default:
-      if (letter >= 'A' && letter <= 'Z')
-        letter = static_cast<char>(letter - 'A' + 'a');
-    }
-  }
-  return text;
-}
-
 bool isLetterOrDigit(char letter) {
   return (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9') ||
          static_cast<unsigned char>(letter) >= 0xC0;
@@ -175,7 +137,7 @@ bool isLetterOrDigit(char letter) {
 
 std::vector<std::string> wordsOf(std::string_view text) {
   std::vector<std::string> words(1);
-  for (const char letter : folded(text)) {
+  for (const char letter : foldedText(text)) {
     if (isLetterOrDigit(letter))
       words.back() += letter;
     else if (!words.back().empty())
@@ -294,8 +256,8 @@ class Parser {
       m_next += isSign ? 1 : 0;
       return true;
     }
-    const auto team =
-        std::ranges::find(m_teams, word, [](const SeasonTeam& each) { return folded(each.abbreviation); });
+    const auto team = std::ranges::find(m_teams, word,
+                                        [](const SeasonTeam& each) { return foldedText(each.abbreviation); });
     if (team == m_teams.end())
       return false;
     criteria.team = static_cast<SeasonId>(team - m_teams.begin());

@@ -95,8 +95,9 @@ void SeasonTableView::fitColumns() {
         {shown.leastWidth, header->textWidth(shown.header), metrics.horizontalAdvance(shown.longest)});
     for (int row = 0; shown.longest.isEmpty() && row < std::min(m_model.rowCount(), kMeasuredRows); ++row)
       width = std::max(width, metrics.horizontalAdvance(m_model.index(row, column).data().toString()));
-    setColumnWidth(column,
-                   std::min(width, std::max(kWidestText, header->textWidth(shown.header))) + kPadding);
+    setColumnWidth(
+        column, std::min(width, std::max({kWidestText, shown.leastWidth, header->textWidth(shown.header)})) +
+                    kPadding);
   }
   if (m_fillsWidth && !m_hasOwnWidths)
     shareRest();

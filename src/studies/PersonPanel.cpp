@@ -2,17 +2,23 @@
 
 #include "appearance/ElidedLabel.h"
 #include "appearance/PlainLabel.h"
+#include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "season/FilterRow.h"
 #include "season/GamePictures.h"
 #include "season/SeasonTables.h"
 #include "season/SeriesView.h"
 #include "season/ZoneChart.h"
 #include "settings/CountWords.h"
+#include "studies/HexagonChart.h"
+#include "studies/StudyTables.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QTabWidget>
 
 namespace hooptab {
 
@@ -41,30 +47,23 @@ PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* 
   head->addWidget(m_games);
   head->addStretch();
 
-  auto* resultTitle = inBold(new PlainLabel(this), "lblRESULTS");
-  setTextNumber(*resultTitle, Text::ResultsByGame);
-  m_results = new SeasonTableView(QStringLiteral("lvwRESULTS"), kFrozen, this);
-  setAccessibleNumber(*m_results, Text::ResultsByGame);
-  auto* results = new QWidget(this);
-  auto* resultRoom = new QVBoxLayout(results);
-  resultRoom->setContentsMargins(0, 0, 0, 0);
-  resultRoom->setSpacing(2);
-  resultRoom->addWidget(resultTitle);
-  resultRoom->addWidget(m_results, 1);
-
   auto* right = new QSplitter(Qt::Vertical, this);
   right->setObjectName(QStringLiteral("personRight"));
-  right->addWidget(results);
-  right->addWidget(makePictures());
+  right->addWidget(makePicture());
+  right->addWidget(makeParts());
+  m_onOff = new SeasonTableView(QStringLiteral("lvwONOFF"), 0, right);
+  setAccessibleNumber(*m_onOff, Text::OnOffTitle);
+  m_onOff->fillWidth();
+  right->addWidget(m_onOff);
   right->setChildrenCollapsible(false);
-  right->setSizes({240, 260});
+  right->setSizes({140, 220, 200});
   auto* parts = new QSplitter(Qt::Horizontal, this);
   parts->setObjectName(QStringLiteral("personParts"));
-  parts->addWidget(makeRecords());
+  parts->addWidget(makeResults());
   parts->addWidget(right);
-  parts->setStretchFactor(1, 1);
+  parts->setStretchFactor(0, 1);
   parts->setChildrenCollapsible(false);
-  parts->setSizes({400, 930});
+  parts->setSizes({850, 490});
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(4, 4, 4, 4);
   layout->setSpacing(4);
@@ -78,45 +77,72 @@ PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* 
   connect(m_statistic, &QComboBox::currentIndexChanged, this, &PersonPanel::showPicture);
 }
 
-QWidget* PersonPanel::makeRecords() {
+QWidget* PersonPanel::makeResults() {
   auto* part = new QWidget(this);
-  m_recordTitle = inBold(new PlainLabel(part), "lblRECORDS");
-  m_records = new SeasonTableView(QStringLiteral("lvwRECORD"), 0, part);
+  auto* title = inBold(new PlainLabel(part), "lblRESULTS");
+  setTextNumber(*title, Text::ResultsByGame);
+  auto* high = new PlainLabel(part);
+  high->setObjectName(QStringLiteral("lblHIGH"));
+  setTextNumber(*high, Text::SeasonHigh);
+  high->setAutoFillBackground(true);
+  high->setContentsMargins(4, 0, 4, 0);
+  m_results = new SeasonTableView(QStringLiteral("lvwRESULTS"), kFrozen, part);
+  setAccessibleNumber(*m_results, Text::ResultsByGame);
+  m_averages = new SeasonTableView(QStringLiteral("lvwAVERAGES"), 1, part);
+  setAccessibleNumber(*m_averages, Text::PerGame);
+  auto* split = new QSplitter(Qt::Vertical, part);
+  split->setObjectName(QStringLiteral("personResults"));
+  split->addWidget(withFilters(*m_results, kFrozen, m_texts, split));
+  split->addWidget(m_averages);
+  split->setChildrenCollapsible(false);
+  split->setStretchFactor(0, 1);
+  split->setSizes({420, 120});
+  auto* head = new QHBoxLayout;
+  head->addWidget(title);
+  head->addStretch();
+  head->addWidget(high);
   auto* layout = new QVBoxLayout(part);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(2);
-  layout->addWidget(m_recordTitle);
-  layout->addWidget(m_records, 1);
+  layout->addLayout(head);
+  layout->addWidget(split, 1);
   return part;
 }
 
-QWidget* PersonPanel::makePictures() {
-  auto* part = new QSplitter(Qt::Horizontal, this);
-  part->setObjectName(QStringLiteral("personPictures"));
-  part->setChildrenCollapsible(false);
-  auto* games = new QWidget(part);
-  m_statistic = new QComboBox(games);
+QWidget* PersonPanel::makePicture() {
+  auto* part = new QWidget(this);
+  m_statistic = new QComboBox(part);
   m_statistic->setObjectName(QStringLiteral("lstSTATISTIC"));
   setAccessibleNumber(*m_statistic, Text::ShownStatistic);
   setToolTipNumber(*m_statistic, Text::ShownStatistic);
-  m_picture = new SeriesView(QStringLiteral("picGAMES"), games);
-  auto* layout = new QVBoxLayout(games);
+  m_picture = new SeriesView(QStringLiteral("picGAMES"), part);
+  auto* layout = new QVBoxLayout(part);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(2);
   layout->addWidget(m_statistic, 0, Qt::AlignLeft);
   layout->addWidget(m_picture, 1);
-  m_shots = new ZoneChart(QStringLiteral("picSHOTS"), m_texts, part);
-  part->addWidget(games);
-  part->addWidget(m_shots);
-  part->setStretchFactor(0, 2);
-  part->setStretchFactor(1, 1);
-  part->setSizes({640, 360});
   return part;
+}
+
+QWidget* PersonPanel::makeParts() {
+  m_parts = new QTabWidget(this);
+  m_parts->setObjectName(QStringLiteral("personTabs"));
+  m_hexagons = new HexagonChart(QStringLiteral("picHEXAGONS"), m_texts, m_parts);
+  m_shots = new ZoneChart(QStringLiteral("picSHOTS"), m_texts, m_parts);
+  m_records = new SeasonTableView(QStringLiteral("lvwRECORD"), 0, m_parts);
+  for (const auto& [page, text] : {std::pair<QWidget*, Text>(m_hexagons, Text::Shots),
+                                   {m_shots, Text::ShotChart},
+                                   {m_records, Text::PersonalRecords}}) {
+    m_parts->addTab(page, QString());
+    setTabTextNumber(*page, text);
+  }
+  return m_parts;
 }
 
 void PersonPanel::showPerson(std::shared_ptr<const SeasonPerson> person) {
   m_person = std::move(person);
   showStatistics();
+  showTables();
   m_records->showRows(m_person == nullptr ? TableRows() : recordRows(m_person));
   m_results->showRows(m_person == nullptr ? TableRows() : resultRows(m_person, m_texts));
   showTexts();
@@ -124,9 +150,20 @@ void PersonPanel::showPerson(std::shared_ptr<const SeasonPerson> person) {
   showShots();
 }
 
+void PersonPanel::showTables() {
+  StudyTable averages = averagesOf(m_person.get(), m_settings, m_texts);
+  m_averages->showColumns(std::move(averages.columns));
+  m_averages->showRows(std::move(averages.rows));
+  StudyTable onOff = onOffTable(m_person.get(), m_texts);
+  m_onOff->showColumns(std::move(onOff.columns));
+  m_onOff->showRows(std::move(onOff.rows));
+}
+
 void PersonPanel::relabelPanel() {
   m_records->showColumns(recordColumns());
   showStatistics();
+  showTables();
+  showHigh();
   showTexts();
   showPicture();
   showShots();
@@ -135,7 +172,12 @@ void PersonPanel::relabelPanel() {
 // What the user's own statistics are called depends on the games.
 void PersonPanel::showStatistics() {
   const OwnLabels labels = m_person == nullptr ? OwnLabels() : m_person->season->statistics().labels();
+  constexpr int kPlusMinusPlace = 5; // behind the time
   m_results->showColumns(resultColumns(m_settings, m_texts, labels));
+  QHeaderView& header = *m_results->horizontalHeader();
+  const int plusMinus = m_results->content().columnCount() - 1;
+  if (header.visualIndex(plusMinus) == plusMinus)
+    header.moveSection(plusMinus, kPlusMinusPlace);
   const QSignalBlocker quiet(m_statistic);
   const QVariant chosen = m_statistic->count() == 0 ? seasonColumn("PTS").index : m_statistic->currentData();
   m_statistic->clear();
@@ -145,15 +187,26 @@ void PersonPanel::showStatistics() {
   m_statistic->setCurrentIndex(m_statistic->findData(chosen));
 }
 
+// In the colour that marks one in the table.
+void PersonPanel::showHigh() {
+  auto* high = findChild<QLabel*>(QStringLiteral("lblHIGH"));
+  QPalette palette = high->palette();
+  palette.setColor(QPalette::Window, Theme::look().seasonHigh);
+  high->setPalette(palette);
+}
+
 void PersonPanel::applyColours() {
+  showHigh();
+  m_hexagons->update();
   m_shots->applyColours();
   m_picture->update();
 }
 
 void PersonPanel::showTexts() {
   const bool isLine = m_person != nullptr && m_person->isLine;
-  m_recordTitle->setText(caption(m_texts, isLine ? Text::LineRecords : Text::PersonalRecords));
-  m_records->setAccessibleName(m_recordTitle->text());
+  const QString records = caption(m_texts, isLine ? Text::LineRecords : Text::PersonalRecords);
+  m_parts->setTabText(m_parts->indexOf(m_records), records);
+  m_records->setAccessibleName(records);
   m_number->setText(m_person == nullptr ? QString() : toQt(m_person->row.number));
   m_name->setText(m_person == nullptr
                       ? caption(m_texts, Text::ChooseSomebody)
@@ -165,9 +218,10 @@ void PersonPanel::showTexts() {
       toQt(team.key) + QStringLiteral("  ·  ") +
       toQt(countWords(m_person->results.size(), Text::OneGamePlayed, Text::GamesPlayed, m_texts)));
   const QString who = m_number->text() + u' ' + m_name->text();
-  for (const auto& [widget, title] : {std::pair<QWidget*, QString>(m_records, m_recordTitle->text()),
+  for (const auto& [widget, title] : {std::pair<QWidget*, QString>(m_records, records),
                                       {m_results, caption(m_texts, Text::ResultsByGame)},
                                       {m_picture, {}},
+                                      {m_hexagons, {}},
                                       {m_shots, {}}})
     setExportTitle(*widget, title.isEmpty() ? who : title + QStringLiteral(" – ") + who);
 }
@@ -181,12 +235,18 @@ void PersonPanel::showPicture() {
 }
 
 void PersonPanel::showShots() {
-  if (m_person == nullptr)
+  if (m_person == nullptr) {
+    m_hexagons->showReason({});
     m_shots->showShots({}, {});
-  else if (m_person->shots)
-    m_shots->showShots(*m_person->shots, m_person->season->shots());
-  else
+  } else if (m_person->shots) {
+    const Season& season = *m_person->season;
+    m_hexagons->showShots(
+        hexagonsOfPlayer(season.catalogue(), m_person->results, m_person->row.id, season.shots()).hexagons());
+    m_shots->showShots(*m_person->shots, season.shots());
+  } else {
+    m_hexagons->showReason(caption(m_texts, Text::NoShotsByLine));
     m_shots->showReason(caption(m_texts, Text::NoShotsByLine));
+  }
 }
 
 } // namespace hooptab

@@ -3,6 +3,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "season/FilterRow.h"
 #include "storage/Placeholders.h"
 
 #include <QBoxLayout>
@@ -49,6 +50,7 @@ SearchPanel::SearchPanel(const Texts& texts, QWidget* parent)
   m_count->setForegroundRole(QPalette::PlaceholderText);
   setAccessibleNumber(*m_table, Text::SearchTab);
   m_table->setRowHeights(24, 30);
+  m_table->fillWidth();
   auto* head = new QHBoxLayout;
   head->addWidget(m_understood, 1);
   head->addWidget(m_count);
@@ -56,7 +58,7 @@ SearchPanel::SearchPanel(const Texts& texts, QWidget* parent)
   layout->setContentsMargins(4, 4, 4, 4);
   layout->setSpacing(4);
   layout->addLayout(head);
-  layout->addWidget(m_table, 1);
+  layout->addWidget(withFilters(*m_table, 0, m_texts, this), 1);
   connect(m_table, &SeasonTableView::rowAsked, this,
           [this](int row) { emit gameAsked(m_found->events[static_cast<std::size_t>(row)].game); });
 }

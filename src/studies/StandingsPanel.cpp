@@ -22,7 +22,8 @@ namespace hooptab {
 namespace {
 
 constexpr std::size_t kLastGames = 12;
-constexpr std::size_t kLeadersShown = 3;
+constexpr std::size_t kToCheckShown = 4; // without scrolling
+constexpr int kLeadersShown = 3;
 constexpr const char* kBoardStatistics[] = {"PTS", "TR", "Ast"};
 constexpr int kCardMargin = 10;
 
@@ -246,11 +247,14 @@ QWidget* StandingsPanel::makeSide() {
                             .row);
     });
   }
+  for (QWidget* card : {static_cast<QWidget*>(checkCard), m_leaderCard})
+    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   auto* layout = new QVBoxLayout(side);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(Theme::measure()(8, 12));
-  layout->addWidget(checkCard, 1);
-  layout->addWidget(m_leaderCard, 1);
+  layout->addWidget(checkCard);
+  layout->addWidget(m_leaderCard);
+  layout->addStretch();
   return side;
 }
 
@@ -365,6 +369,9 @@ void StandingsPanel::showToCheck() {
                             ? caption(m_texts, Text::NothingToCheck)
                             : toQt(m_texts.withPlaceholder(Text::ToCheck, std::to_string(m_wrong.size()))));
   m_toCheck->setAccessibleName(m_checkTitle->text());
+  m_toCheck->setVisible(!m_wrong.empty());
+  m_toCheck->setFixedHeight(static_cast<int>(std::min(kToCheckShown, m_wrong.size())) *
+                            m_toCheck->rowHeight());
   QStringList heads;
   QStringList reasons;
   QStringList words;
@@ -398,13 +405,14 @@ void StandingsPanel::showLeaders() {
     const int column = seasonColumn(kBoardStatistics[i]).index;
     m_boards[i].title->setText(statisticName(column, m_settings, m_texts));
     m_boards[i].list->setAccessibleName(m_boards[i].title->text());
+    m_boards[i].list->setFixedHeight(kLeadersShown * m_boards[i].list->rowHeight());
     if (m_season == nullptr) {
       m_boards[i].list->showRows({}, {});
       continue;
     }
     const auto& all = m_season->leaders(SeasonView::PerGame).statistics();
     std::vector<Leader> leaders = std::ranges::find(all, column, &StatisticLeaders::column)->leaders;
-    leaders.resize(std::min(leaders.size(), kLeadersShown));
+    leaders.resize(std::min<std::size_t>(leaders.size(), kLeadersShown));
     QStringList words;
     for (const Leader& leader : leaders)
       words << QStringLiteral("%1  %2  %3").arg(leader.rank).arg(toQt(leader.row->name), toQt(leader.value));
