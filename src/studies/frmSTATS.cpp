@@ -6,6 +6,7 @@
 #include "appearance/Mnemonics.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
+#include "season/FilterRow.h"
 #include "season/SeasonTables.h"
 #include "settings/CountWords.h"
 #include "storage/Module1.h"
@@ -15,6 +16,7 @@
 #include "studies/FolderPanel.h"
 #include "studies/LeadersPanel.h"
 #include "studies/PersonPanel.h"
+#include "studies/SavedViews.h"
 #include "studies/SearchPanel.h"
 #include "studies/StandingsPanel.h"
 #include "studies/TeamPanel.h"
@@ -23,6 +25,7 @@
 #include <QDataStream>
 #include <QDir>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMap>
@@ -71,13 +74,7 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
   }
   setAccessibleNumber(*m_notRead, Text::NotReadTab);
   m_tabs->setTabVisible(m_tabs->indexOf(m_notRead), false);
-  auto* copy = new QToolButton(m_tabs);
-  copy->setObjectName(QStringLiteral("cmdCOPY"));
-  copy->setAutoRaise(true);
-  copy->setIcon(icon(QStringLiteral("copy")));
-  setToolTipNumber(*copy, Text::CopyTable);
-  setAccessibleNumber(*copy, Text::CopyTable);
-  m_tabs->setCornerWidget(copy);
+  m_tabs->setCornerWidget(makeTools());
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -121,13 +118,39 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
   connect(m_leaders, &LeadersPanel::minimumChosen, this, &frmSTATS::chooseMinimum);
   connect(m_person, &PersonPanel::gameAsked, this, &frmSTATS::openGame);
   connect(m_team, &TeamPanel::gameAsked, this, &frmSTATS::openGame);
-  connect(copy, &QToolButton::clicked, this, &frmSTATS::copyShownTable);
   for (SeasonTableView* table : findChildren<SeasonTableView*>()) {
     connect(table, &SeasonTableView::copied, this,
             [this] { emit reported(caption(m_texts, Text::TableCopied)); });
     connect(table, &SeasonTableView::focused, this, [this, table] { m_lastTable = table; });
   }
   relabelWindow();
+}
+
+QWidget* frmSTATS::makeTools() {
+  auto* tools = new QWidget(m_tabs);
+  auto* layout = new QHBoxLayout(tools);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(2);
+  const auto add = [&](QToolButton* button, const char* name, const char* iconName, Text text) {
+    button->setObjectName(QLatin1String(name));
+    button->setAutoRaise(true);
+    button->setIcon(icon(QLatin1String(iconName)));
+    setToolTipNumber(*button, text);
+    setAccessibleNumber(*button, text);
+    layout->addWidget(button);
+    return button;
+  };
+  m_filters = add(new QToolButton(tools), "cmdFILTERS", "filter", Text::ShowFilters);
+  m_filters->setCheckable(true);
+  m_views = new SavedViews(m_texts, tools);
+  add(m_views, "cmdVIEWS", "stats", Text::SavedViews);
+  const QToolButton* copy = add(new QToolButton(tools), "cmdCOPY", "copy", Text::CopyTable);
+  connect(m_filters, &QToolButton::toggled, this, &frmSTATS::showFilters);
+  connect(m_views, &SavedViews::keepAsked, this,
+          [this](const QString& name) { m_views->keep(name, view()); });
+  connect(m_views, &SavedViews::viewAsked, this, &frmSTATS::showView);
+  connect(copy, &QToolButton::clicked, this, &frmSTATS::copyShownTable);
+  return tools;
 }
 
 QWidget* frmSTATS::makeGames() {
@@ -139,11 +162,11 @@ QWidget* frmSTATS::makeGames() {
   layout->setContentsMargins(4, 4, 4, 4);
   layout->setSpacing(6);
   layout->addWidget(m_criteria);
-  layout->addWidget(m_games, 1);
+  layout->addWidget(withFilters(*m_games, 0, m_texts, page), 1);
   connect(m_criteria, &CriteriaPanel::changed, this,
           [this] { m_criteria->showWhatIsOffered(m_desk, isBusy()); });
   connect(m_criteria, &CriteriaPanel::applyAsked, this, &frmSTATS::apply);
-  connect(m_criteria, &CriteriaPanel::generateAsked, this, &frmSTATS::generate);
+  connect(m_criteria, &CriteriaPanel::generateAsked, this, [this] { generate(*m_players); });
   connect(m_games, &SeasonTableView::rowAsked, this,
           [this](int row) { openGame(m_desk.listed()[static_cast<std::size_t>(row)]); });
   return page;
@@ -196,22 +219,22 @@ void frmSTATS::apply() {
   showList();
 }
 
-void frmSTATS::generate() {
+void frmSTATS::generate(QWidget& page) {
   if (isBusy() || !mayCountWrong())
     return;
   m_progressCount = m_desk.listed().size();
   startWork(Text::GeneratingOfOne, Text::GeneratingStatistics,
-            [this, order = m_desk.order(), // texts of its own: the user may change the language
+            [this, &page, order = m_desk.order(), // texts of its own: the user may change the language
              texts = m_texts](const TaskWatch& watch) -> Task::Delivery {
               auto season = order.carryOut(texts, watch);
-              return [this, order, season] {
+              return [this, &page, order, season] {
                 if (season == nullptr || m_task.isCancelled()) {
                   m_problem = Text::ReadingCancelled;
                   return;
                 }
                 m_desk.takeSeason(season, order, m_texts);
                 showSeason();
-                m_tabs->setCurrentWidget(m_players);
+                m_tabs->setCurrentWidget(&page);
               };
             });
 }
@@ -398,6 +421,53 @@ void frmSTATS::copyShownTable() {
   emit reported(caption(m_texts, Text::TableCopied));
 }
 
+void frmSTATS::showFilters(bool areShown) {
+  for (FilterRow* row : findChildren<FilterRow*>())
+    row->showFields(areShown);
+}
+
+QByteArray frmSTATS::view() const {
+  QMap<QString, QStringList> filters;
+  for (const FilterRow* row : findChildren<FilterRow*>())
+    filters[row->objectName()] = row->typed();
+  QMap<QString, QByteArray> columns;
+  for (const SeasonTableView* table : findChildren<SeasonTableView*>())
+    columns[table->objectName()] = table->horizontalHeader()->saveState();
+  QByteArray state;
+  QDataStream stream(&state, QIODevice::WriteOnly);
+  stream << qint32(m_tabs->currentIndex()) << m_criteria->kept() << m_filters->isChecked() << filters
+         << columns;
+  return state;
+}
+
+void frmSTATS::showView(const QByteArray& view) {
+  qint32 index = 0;
+  QByteArray criteria;
+  bool hasFilters = false;
+  QMap<QString, QStringList> filters;
+  QMap<QString, QByteArray> columns;
+  QDataStream stream(view);
+  stream >> index >> criteria >> hasFilters >> filters >> columns;
+  QWidget* page = m_tabs->widget(index);
+  if (stream.status() != QDataStream::Ok || page == nullptr || isBusy())
+    return;
+  m_criteria->restore(criteria);
+  for (FilterRow* row : findChildren<FilterRow*>())
+    row->setTyped(filters[row->objectName()]);
+  m_filters->setChecked(hasFilters);
+  for (SeasonTableView* table : findChildren<SeasonTableView*>()) {
+    if (const QByteArray header = columns[table->objectName()]; !header.isEmpty())
+      table->horizontalHeader()->restoreState(header);
+  }
+  m_tabs->setCurrentWidget(page);
+  if (!m_desk.hasCatalogue())
+    return;
+  apply();
+  const bool showsFigures = page == m_players || page == m_lines || page == m_leaders || page == m_team;
+  if (showsFigures && m_desk.canGenerate() && (m_desk.season() == nullptr || m_desk.isOutdated()))
+    generate(*page);
+}
+
 void frmSTATS::relabelWindow() {
   relabel(*this, m_texts);
   setWindowTitle(caption(m_texts, Text::SeasonTitle));
@@ -421,7 +491,9 @@ void frmSTATS::relabelWindow() {
 }
 
 void frmSTATS::applyColours() {
-  findChild<QToolButton*>(QStringLiteral("cmdCOPY"))->setIcon(icon(QStringLiteral("copy")));
+  for (const auto& [name, iconName] :
+       {std::pair("cmdCOPY", "copy"), {"cmdFILTERS", "filter"}, {"cmdVIEWS", "stats"}})
+    findChild<QToolButton*>(QLatin1String(name))->setIcon(icon(QLatin1String(iconName)));
   m_person->applyColours();
   m_team->applyColours();
   relabelWindow(); // tool tips name the user's statistics
@@ -438,7 +510,7 @@ QByteArray frmSTATS::arrangement() const {
   QDataStream stream(&state, QIODevice::WriteOnly);
   const Qualification& minimum = m_desk.minimum();
   stream << m_folder->folder() << m_folder->withSubfolders() << parts << qint32(minimum.gamesPercent)
-         << qint32(minimum.minutes) << qint32(minimum.attempts);
+         << qint32(minimum.minutes) << qint32(minimum.attempts) << m_views->views();
   return state;
 }
 
@@ -463,6 +535,10 @@ void frmSTATS::restoreArrangement(const QByteArray& state) {
     chooseMinimum({std::clamp(games, 0, Qualification::kMostPercent),
                    std::clamp(minutes, 0, Qualification::kMostMinutes),
                    std::clamp(attempts, 0, Qualification::kMostAttempts)});
+  SavedViews::Views views;
+  stream >> views;
+  if (stream.status() == QDataStream::Ok)
+    m_views->setViews(std::move(views));
 }
 
 } // namespace hooptab

@@ -11,6 +11,7 @@
 class QLabel;
 class QLineEdit;
 class QTabWidget;
+class QToolButton;
 
 namespace hooptab {
 
@@ -20,6 +21,7 @@ class Dialogs;
 class FolderPanel;
 class LeadersPanel;
 class PersonPanel;
+class SavedViews;
 class SearchPanel;
 class SeasonTableView;
 class Settings;
@@ -59,7 +61,7 @@ class frmSTATS : public ChildWindow {
   QWidget* makeGames();
   void browse();
   void apply();
-  void generate();
+  void generate(QWidget& page); // which is shown then
   void search();
   bool mayCountWrong();
   void showPerson(const SeasonRow& row, bool isLine);
@@ -77,6 +79,11 @@ class frmSTATS : public ChildWindow {
   void showSeason();
   void showNotice();
   void copyShownTable();
+  QWidget* makeTools();
+  void showFilters(bool areShown);
+  // Criteria, page, filters, and columns with their order and sort.
+  QByteArray view() const;
+  void showView(const QByteArray& view);
 
   FileSystem& m_files;
   const Settings& m_settings;
@@ -97,6 +104,8 @@ class frmSTATS : public ChildWindow {
   CriteriaPanel* m_criteria = nullptr;
   SeasonTableView* m_games = nullptr;
   SeasonTableView* m_notRead;
+  QToolButton* m_filters = nullptr;
+  SavedViews* m_views = nullptr;
   AveragesPanel* m_players;
   AveragesPanel* m_lines;
   LeadersPanel* m_leaders;
