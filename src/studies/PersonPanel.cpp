@@ -56,7 +56,7 @@ PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* 
   m_onOff->fillWidth();
   right->addWidget(m_onOff);
   right->setChildrenCollapsible(false);
-  right->setSizes({140, 220, 200});
+  right->setSizes({170, 210, 185});
   auto* parts = new QSplitter(Qt::Horizontal, this);
   parts->setObjectName(QStringLiteral("personParts"));
   parts->addWidget(makeResults());

@@ -91,7 +91,7 @@ void SearchPanel::showFound(std::shared_ptr<const GameCatalogue> catalogue, cons
     const FoundEvent& event = at(row);
     return column == kPeriod  ? event.period
            : column == kClock ? event.clockSeconds
-                              : event.score[Side::Visitor] - event.score[Side::Home];
+                              : event.score[Side::Visitor] + event.score[Side::Home];
   };
   rows.toolTip = [this](int) { return caption(m_texts, Text::OpensGame); };
   m_table->showRows(std::move(rows));

@@ -339,7 +339,7 @@ void StandingsPanel::showLastGames() {
         const Look& look = Theme::look();
         QRect area = whole;
         const auto room = [&painter](const char* text) {
-          return painter.fontMetrics().horizontalAdvance(QString::fromUtf8(text));
+          return painter.fontMetrics().horizontalAdvance(QString::fromUtf8(text)) + Theme::measure()(4);
         };
         const auto points = [&](Side side) {
           const bool isWinner = game.winner() == side;

@@ -143,7 +143,7 @@ QWidget* frmSTATS::makeTools() {
   m_filters = add(new QToolButton(tools), "cmdFILTERS", "filter", Text::ShowFilters);
   m_filters->setCheckable(true);
   m_views = new SavedViews(m_texts, tools);
-  add(m_views, "cmdVIEWS", "stats", Text::SavedViews);
+  add(m_views, "cmdVIEWS", "sheet", Text::SavedViews);
   const QToolButton* copy = add(new QToolButton(tools), "cmdCOPY", "copy", Text::CopyTable);
   connect(m_filters, &QToolButton::toggled, this, &frmSTATS::showFilters);
   connect(m_views, &SavedViews::keepAsked, this,
@@ -492,7 +492,7 @@ void frmSTATS::relabelWindow() {
 
 void frmSTATS::applyColours() {
   for (const auto& [name, iconName] :
-       {std::pair("cmdCOPY", "copy"), {"cmdFILTERS", "filter"}, {"cmdVIEWS", "stats"}})
+       {std::pair("cmdCOPY", "copy"), {"cmdFILTERS", "filter"}, {"cmdVIEWS", "sheet"}})
     findChild<QToolButton*>(QLatin1String(name))->setIcon(icon(QLatin1String(iconName)));
   m_person->applyColours();
   m_team->applyColours();
