@@ -24,6 +24,7 @@ const std::vector<EventCode> kField = {EventCode::GFG, EventCode::GLG, EventCode
                                        EventCode::GPB, EventCode::GDK, EventCode::GF3};
 const std::vector<EventCode> kThrows = {EventCode::GFT};
 const std::vector<EventCode> kLayups = {EventCode::GLG, EventCode::GLD};
+const std::vector<EventCode> kBlocks = {EventCode::SBS};
 const std::vector<EventCode> kRebounds = {EventCode::SOR, EventCode::SDR, EventCode::XOR, EventCode::XDR};
 const std::vector<EventCode> kOffensive = {EventCode::SOR, EventCode::XOR};
 const std::vector<EventCode> kDefensive = {EventCode::SDR, EventCode::XDR};
@@ -44,10 +45,12 @@ const std::vector<KindWord>& kindWords() {
       {"lancer", false, kThrows},
       {"layup", false, kLayups},
       {"lay", true, kLayups},
+      {"double", false, kLayups},
       {"dunk", false, {EventCode::GDK}},
       {"smash", false, {EventCode::GDK}},
       {"putback", false, {EventCode::GPB}},
       {"put", true, {EventCode::GPB}},
+      {"reprise", false, {EventCode::GPB}},
       {"shot", false, kField},
       {"field", true, kField},
       {"fg", false, kField},
@@ -58,6 +61,7 @@ const std::vector<KindWord>& kindWords() {
       {"turnover", false, kTurnovers},
       {"to", true, kTurnovers},
       {"revirement", false, kTurnovers},
+      {"retournement", false, kTurnovers},
       {"perte", false, kTurnovers},
       {"assist", false, {EventCode::SA}},
       {"ast", true, {EventCode::SA}},
@@ -67,9 +71,10 @@ const std::vector<KindWord>& kindWords() {
       {"interception", false, {EventCode::SST}},
       {"recuperation", false, {EventCode::SST}},
       {"vol", false, {EventCode::SST}},
-      {"block", false, {EventCode::SBS}},
-      {"bloc", false, {EventCode::SBS}},
-      {"contre", false, {EventCode::SBS}},
+      {"block", false, kBlocks},
+      {"bloc", false, kBlocks},
+      {"bloqu", false, kBlocks},
+      {"contre", false, kBlocks},
       {"offensi", false, kOffensive},
       {"ro", true, kOffensive},
       {"defensi", false, kDefensive},
@@ -101,7 +106,8 @@ constexpr std::string_view kSilent[] = {
     "avec",    "tous",   "toutes",  "sur",     "franc",     "francs",     "mort",   "morts",     "decisive",
     "balle",   "balles", "joueur",  "joueuse", "evenement", "evenements", "that",   "were",      "was",
     "game",    "partie", "parties", "games",   "team",      "equipe",     "s",      "decisives", "minute",
-    "minutes", "min",    "less",    "moins",   "ou"};
+    "minutes", "min",    "less",    "moins",   "ou",        "or",         "deux",   "pas",       "left",
+    "right",   "gauche", "droit",   "droite"};
 constexpr std::string_view kNumberSigns[] = {"number", "numbers", "no",     "num",
                                              "numero", "n",       "jersey", "chandail"};
 constexpr std::string_view kPeriodSigns[] = {"period", "periode", "quarter", "quart", "q", "p"};
@@ -293,6 +299,10 @@ class Parser {
   // "offensive rebounds" is one kind, and so is "three point shots": what both say.
   bool setKinds(const std::vector<EventCode>& kinds) {
     std::vector<EventCode>& known = m_query.criteria.kinds;
+    if ((known == kBlocks && kinds == kField) || (known == kField && kinds == kBlocks)) {
+      known = kBlocks; // a blocked shot
+      return true;
+    }
     std::vector<EventCode> both;
     std::ranges::copy_if(kinds, std::back_inserter(both),
                          [&known](EventCode code) { return std::ranges::find(known, code) != known.end(); });

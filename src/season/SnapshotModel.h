@@ -17,7 +17,6 @@ struct TableColumn {
   QString header;
   QString toolTip = {};
   QString longest = {}; // the widest text of a column of numbers
-  int leastWidth = 0;   // of a column that shows more than its text
   bool isLeftAligned = false;
   bool isText = false; // sorts by its text
   bool isHidden = false;
@@ -25,6 +24,7 @@ struct TableColumn {
   bool isBold = false;
   QString name = {}; // unique in its table, for files; empty: the header
   TableKind kind = TableKind::Text;
+  int leastWidth = 0; // of a column that shows more than its text
 };
 
 // Rows and columns count from 0. What a function refers to must live as long as the model shows it.

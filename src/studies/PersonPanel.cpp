@@ -1,6 +1,5 @@
 #include "studies/PersonPanel.h"
 
-#include "appearance/ElidedLabel.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
@@ -9,8 +8,8 @@
 #include "season/SeasonTables.h"
 #include "season/SeriesView.h"
 #include "season/ZoneChart.h"
-#include "settings/CountWords.h"
 #include "studies/HexagonChart.h"
+#include "studies/PersonHead.h"
 #include "studies/StudyTables.h"
 
 #include <QBoxLayout>
@@ -37,16 +36,7 @@ QLabel* inBold(QLabel* label, const char* name) {
 } // namespace
 
 PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* parent)
-    : QWidget(parent), m_settings(settings), m_texts(texts), m_number(inBold(new PlainLabel(this), "lblNO")),
-      m_name(inBold(new ElidedLabel(this), "lblNom")), m_games(new ElidedLabel(this)) {
-  m_games->setObjectName(QStringLiteral("jGAME"));
-  m_games->setForegroundRole(QPalette::PlaceholderText);
-  auto* head = new QHBoxLayout;
-  head->addWidget(m_number);
-  head->addWidget(m_name);
-  head->addWidget(m_games);
-  head->addStretch();
-
+    : QWidget(parent), m_settings(settings), m_texts(texts), m_head(new PersonHead(settings, texts, this)) {
   auto* right = new QSplitter(Qt::Vertical, this);
   right->setObjectName(QStringLiteral("personRight"));
   right->addWidget(makePicture());
@@ -56,7 +46,7 @@ PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* 
   m_onOff->fillWidth();
   right->addWidget(m_onOff);
   right->setChildrenCollapsible(false);
-  right->setSizes({170, 210, 185});
+  right->setSizes({140, 190, 195});
   auto* parts = new QSplitter(Qt::Horizontal, this);
   parts->setObjectName(QStringLiteral("personParts"));
   parts->addWidget(makeResults());
@@ -67,7 +57,7 @@ PersonPanel::PersonPanel(const Settings& settings, const Texts& texts, QWidget* 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(4, 4, 4, 4);
   layout->setSpacing(4);
-  layout->addLayout(head);
+  layout->addWidget(m_head);
   layout->addWidget(parts, 1);
 
   connect(m_results, &SeasonTableView::rowAsked, this,
@@ -207,17 +197,10 @@ void PersonPanel::showTexts() {
   const QString records = caption(m_texts, isLine ? Text::LineRecords : Text::PersonalRecords);
   m_parts->setTabText(m_parts->indexOf(m_records), records);
   m_records->setAccessibleName(records);
-  m_number->setText(m_person == nullptr ? QString() : toQt(m_person->row.number));
-  m_name->setText(m_person == nullptr
-                      ? caption(m_texts, Text::ChooseSomebody)
-                      : toQt(m_person->row.players.empty() ? m_person->row.name : m_person->row.players));
+  m_head->showPerson(m_person.get());
   if (m_person == nullptr)
-    return m_games->clear();
-  const SeasonTeam& team = m_person->season->catalogue().teams()[m_person->row.team];
-  m_games->setText(
-      toQt(team.key) + QStringLiteral("  ·  ") +
-      toQt(countWords(m_person->results.size(), Text::OneGamePlayed, Text::GamesPlayed, m_texts)));
-  const QString who = m_number->text() + u' ' + m_name->text();
+    return;
+  const QString who = m_head->who();
   for (const auto& [widget, title] : {std::pair<QWidget*, QString>(m_records, records),
                                       {m_results, caption(m_texts, Text::ResultsByGame)},
                                       {m_picture, {}},

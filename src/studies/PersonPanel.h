@@ -9,12 +9,12 @@
 #include <memory>
 
 class QComboBox;
-class QLabel;
 class QTabWidget;
 
 namespace hooptab {
 
 class HexagonChart;
+class PersonHead;
 class SeriesView;
 class ZoneChart;
 
@@ -48,9 +48,7 @@ class PersonPanel : public QWidget {
   const Settings& m_settings;
   const Texts& m_texts;
   std::shared_ptr<const SeasonPerson> m_person;
-  QLabel* m_number;
-  QLabel* m_name;
-  QLabel* m_games;
+  PersonHead* m_head;
   SeasonTableView* m_records;
   SeasonTableView* m_results;
   SeasonTableView* m_averages;

@@ -74,4 +74,23 @@ TEST_F(EventSearchTest, TellsHowItWasUnderstood) {
   EXPECT_TRUE(parseEventQuery("the of", catalogue.teams()).isEmpty());
 }
 
+// What the program calls things finds them.
+TEST_F(EventSearchTest, UnderstandsTheProgramsOwnWords) {
+  std::vector<EventKind> kinds(kEventKinds.begin(), kEventKinds.end());
+  std::ranges::copy_if(kTeamKinds, std::back_inserter(kinds), [](const EventKind& kind) {
+    return kind.code == EventCode::XTO || kind.code == EventCode::XJB;
+  });
+  for (const EventKind& kind : kinds) {
+    if (kind.code == EventCode::SU1 || kind.code == EventCode::SU2)
+      continue; // called as the user likes
+    for (const Language language : {Language::English, Language::French}) {
+      const std::string words(Texts().text(kind.wordsText, language));
+      const EventQuery query = parseEventQuery(words, {});
+      EXPECT_EQ(std::ranges::count(query.criteria.kinds, kind.code), 1) << words;
+      EXPECT_TRUE(query.unknown.empty()) << words;
+      EXPECT_EQ(query.criteria.margin, std::nullopt) << words;
+    }
+  }
+}
+
 } // namespace

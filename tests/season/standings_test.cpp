@@ -5,6 +5,7 @@
 #include "simulator/SampleSeason.h"
 #include "support/SharedGames.h"
 
+#include <bit>
 #include <gtest/gtest.h>
 
 using namespace hooptab;
@@ -130,6 +131,35 @@ TEST(SeasonInsight, PlayersOnCourtAreTheSumsOfTheGames) {
   expectTheSumsOfInsight(paths);
   if (sharedGames().size() > 9)
     expectTheSumsOfInsight(sharedGames());
+}
+
+// A team has a hundred lines in a game; players keep their share of those behind.
+TEST(SeasonInsight, LinesBehindTheHundredthAreThePlayersStill) {
+  std::string roster;
+  for (int jersey = 4; jersey < 14; ++jersey)
+    roster += std::to_string(jersey) + "=0,Player " + static_cast<char>('A' + jersey) + "\n";
+  std::string events;
+  int key = 0;
+  int clock = 600;
+  for (unsigned five = 0; five < 1U << 10U && clock > 450; ++five) {
+    if (std::popcount(five) != 5)
+      continue;
+    std::string list = "IN";
+    for (int i = 0; i < 10; ++i)
+      list +=
+          (five >> static_cast<unsigned>(i) & 1U) != 0 ? (i < 6 ? "-0" : "-") + std::to_string(i + 4) : "";
+    const std::string time = (clock < 600 ? "0" : "") + std::to_string(clock / 60) + ":" +
+                             (clock % 60 < 10 ? "0" : "") + std::to_string(clock % 60);
+    events += std::to_string(++key) + "=" + time + ",ARRET," + list + ",IN-07\n";
+    events += std::to_string(++key) + "=" + time + ",GFG,1-7\n";
+    --clock;
+  }
+  const TemporaryFolder folder;
+  (void)folder.write("many.GAM",
+                     "[DETAILS]\nVERSION=2.0\nTERMINE=1\nDUREE=10\nDATE=2026-01-01\nEQUIPE0ABB=PAN\n"
+                     "EQUIPE0CAT=A\nEQUIPE1ABB=OLY\nEQUIPE1CAT=A\n[0]\n" +
+                         roster + "[1]\n7=0,Ida\n[PERIODE1]\n" + events);
+  expectTheSumsOfInsight({folder.path("many.GAM")});
 }
 
 } // namespace
