@@ -437,7 +437,7 @@ QByteArray frmSTATS::view() const {
   QDataStream stream(&state, QIODevice::WriteOnly);
   stream << qint32(m_tabs->currentIndex()) << m_criteria->kept() << m_filters->isChecked() << filters
          << columns;
-  return state;
+  return qCompress(state); // the columns of many tables are much alike
 }
 
 void frmSTATS::showView(const QByteArray& view) {
@@ -446,7 +446,8 @@ void frmSTATS::showView(const QByteArray& view) {
   bool hasFilters = false;
   QMap<QString, QStringList> filters;
   QMap<QString, QByteArray> columns;
-  QDataStream stream(view);
+  const QByteArray state = qUncompress(view);
+  QDataStream stream(state);
   stream >> index >> criteria >> hasFilters >> filters >> columns;
   QWidget* page = m_tabs->widget(index);
   if (stream.status() != QDataStream::Ok || page == nullptr || isBusy())
