@@ -37,12 +37,15 @@ CatalogueMerger::CatalogueMerger(const std::vector<const NameTable::Lists*>& rea
 
 void CatalogueMerger::add(ListedGame game, std::size_t reader) {
   Known& known = m_readers[reader];
-  for (SeasonId& id : game.team)
-    id = team(known, id);
+  for (const Side side : kSides) {
+    game.team[side] = team(known, game.team[side]);
+    if (game.teamColour[side] != 0)
+      m_content.teams[game.team[side]].colour = game.teamColour[side];
+  }
   for (GameRow& row : game.players)
     row.id = row.id == kNobody ? kNobody : player(known, row.id);
-  for (GameRow& row : game.lines)
-    row.id = line(known, row.id);
+  for (LineRow& row : game.lines)
+    row.id = row.id == kNobody ? kNobody : line(known, row.id);
   m_content.games.push_back(std::move(game));
 }
 
@@ -54,7 +57,7 @@ SeasonId CatalogueMerger::team(Known& reader, SeasonId id) {
     const auto [place, isNew] = m_teamIds.emplace(key, static_cast<SeasonId>(m_content.teams.size()));
     known = place->second;
     if (isNew)
-      m_content.teams.push_back({key, team.abbreviation, team.name});
+      m_content.teams.push_back({key, team.abbreviation, team.name, 0});
     else if (m_content.teams[known].name.empty())
       m_content.teams[known].name = team.name;
   }

@@ -22,6 +22,7 @@ struct SeasonTeam {
   std::string key;          // "LYNX-AAA"
   std::string abbreviation; // "LYNX"
   std::string name;         // full name in the earliest game that has one, else the key
+  std::uint32_t colour = 0; // in the latest game that has one
   friend bool operator==(const SeasonTeam&, const SeasonTeam&) = default;
 };
 // A player is his team, jersey and name, without regard to case; 5 and 05 are one jersey, 0 and 00 two.

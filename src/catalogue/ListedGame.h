@@ -30,6 +30,16 @@ struct GameRow {
   friend bool operator==(const GameRow&, const GameRow&) = default;
 };
 
+// A line, and what the other team did while it was on court. With the id kNobody it belongs to no line of the
+// season: it has what its players saw of a game in which there were too many lines to tell all of them.
+struct LineRow : GameRow {
+  Counters opponents;
+  PerSide<std::int16_t> possessions = {}; // that began meanwhile
+  std::uint32_t members = 0;              // bit n: the row at place n of the game's `players`
+
+  [[nodiscard]] bool has(std::size_t player) const { return (members >> player & 1U) != 0; }
+};
+
 // A two- or three-point field goal for the season's shot chart. Places are whole court units, those outside
 // the court at its edge.
 struct SeasonShot {
@@ -52,7 +62,12 @@ struct ListedGame {
   InputKind input = InputKind::Live;
   PerSide<SeasonId> team = {kNobody, kNobody};
   PerSide<int> teamNumber = {}; // the teams' identifiers in the settings of whoever recorded the game
+  PerSide<std::uint32_t> teamColour = {}; // as the game has it: red + 256 * green + 65536 * blue
   PerSide<int> points = {};
+  int overtimes = 0; // periods behind those of the rules
+  PerSide<TeamRow> teamRows = {};
+  PerSide<int> possessions = {};                // that began; none in a game of totals
+  int seconds = 0;                              // with players on court
   std::array<std::int32_t, 3> leadSeconds = {}; // team 0 ahead, team 1 ahead, tied; not below 0
   std::array<std::string, 2> label;             // of the user's own statistics; empty for none
   std::uint64_t fingerprint = 0;                // of its events; 0 without any
@@ -67,9 +82,13 @@ struct ListedGame {
   std::vector<Finding> wrong;
   std::size_t wrongCount = 0;
   std::vector<GameRow> players; // those who were on court or have any count
-  std::vector<GameRow> lines;   // those that played a second or have any count
+  std::vector<LineRow> lines;   // those that played a second or have any count
   std::vector<SeasonShot> shots;
 
+  // Entered as totals it has no lines.
+  [[nodiscard]] bool isFromEvents() const {
+    return input == InputKind::Live || input == InputKind::LiveWithoutTime;
+  }
   // The side that won, nothing for a tie.
   [[nodiscard]] std::optional<Side> winner() const {
     if (points[Side::Visitor] == points[Side::Home])

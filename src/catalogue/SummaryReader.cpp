@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 
 namespace hooptab {
 
@@ -49,6 +50,22 @@ Fingerprints fingerprintsOf(const EventList& events) {
       beginning = print;
   }
   return {print, beginning};
+}
+
+// The counts of a game are as wide as the tally keeps them.
+std::int16_t narrowed(int count) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  return static_cast<std::int16_t>(
+      std::clamp(count, static_cast<int>(Limits::min()), static_cast<int>(Limits::max())));
+}
+Counters narrowed(const BoxCounters& counters) {
+  Counters result;
+  std::ranges::transform(counters.counts, result.counts.begin(),
+                         [](std::int32_t count) { return narrowed(count); });
+  return result;
+}
+PerSide<std::int16_t> narrowed(const PerSide<int>& counts) {
+  return {narrowed(counts[Side::Visitor]), narrowed(counts[Side::Home])};
 }
 
 // Empty for a label that stands for none: "---".
@@ -130,10 +147,17 @@ std::optional<CountOutOfRange> SummaryReader::summarise(const Game& source, List
   for (const Side side : kSides) {
     game.team[side] = m_names.team(details, side);
     game.teamNumber[side] = details.teamId[side];
+    game.teamColour[side] = details.teamColour[side];
     game.points[side] = m_state.points(side);
     addPlayers(source.roster[side], side, game);
-    addLines(source.roster[side], side, game);
   }
+  const GameInsight insight = insightOf(source);
+  game.overtimes = game.isFromEvents() ? std::max(m_state.period - details.periods, 0) : 0;
+  game.teamRows = m_state.teamRows;
+  game.possessions = insight.whole.possessions;
+  game.seconds = insight.whole.seconds;
+  for (const Side side : kSides)
+    addLines(source.roster[side], side, insight, game);
   addShots(game);
   return outOfRange;
 }
@@ -159,17 +183,58 @@ void SummaryReader::addPlayers(const Roster& roster, Side side, ListedGame& game
   }
 }
 
-void SummaryReader::addLines(const Roster& roster, Side side, ListedGame& game) {
-  for (std::size_t i = 1; i <= static_cast<std::size_t>(m_state.usedLines[side]); ++i) {
+void SummaryReader::addLines(const Roster& roster, Side side, const GameInsight& insight, ListedGame& game) {
+  m_ofLines.assign(GameState::kLineEntries, {});
+  for (const Matchup& matchup : insight.matchups)
+    m_ofLines[static_cast<std::size_t>(matchup.line[side])] += matchup.share;
+  const auto used = static_cast<std::size_t>(m_state.usedLines[side]);
+  for (std::size_t i = 1; i <= used; ++i) {
     const LineEntry& line = m_state.lines[side][i];
-    if (line.seconds <= 0 && !line.counters.hasAny())
+    const CourtShare& share = m_ofLines[i];
+    const bool isTold = line.seconds > 0 || line.counters.hasAny();
+    if (!isTold && share.isEmpty())
       continue;
-    GameRow& row = game.lines.emplace_back();
-    row.id = m_names.line(lineKey(roster, side, i, game.team[side]));
+    LineRow& row = game.lines.emplace_back();
+    if (isTold)
+      row.id = m_names.line(lineKey(roster, side, i, game.team[side]));
     row.seconds = std::max(line.seconds, 0);
     row.counters = line.counters;
     row.side = side;
+    row.opponents = narrowed(share.counters[otherSide(side)]);
+    row.possessions = narrowed(share.possessions);
+    row.members = rowsOf(side, m_state.lineMembers[side][i]);
   }
+  if (used + 1 == GameState::kLineEntries)
+    addUntoldLines(side, insight, game);
+}
+
+// A game has a hundred lines of a team; of those behind, each player keeps his own share.
+void SummaryReader::addUntoldLines(Side side, const GameInsight& insight, ListedGame& game) const {
+  for (std::size_t entry = 1; entry < GameState::kPlayerEntries; ++entry) {
+    CourtShare rest = insight.players[side][entry];
+    for (std::size_t i = 1; i < GameState::kLineEntries; ++i) {
+      if ((m_state.lineMembers[side][i] & (1U << entry)) != 0)
+        rest -= m_ofLines[i];
+    }
+    if (rest.isEmpty())
+      continue;
+    LineRow& row = game.lines.emplace_back();
+    row.seconds = std::max(rest.seconds, 0);
+    row.counters = narrowed(rest.counters[side]);
+    row.side = side;
+    row.opponents = narrowed(rest.counters[otherSide(side)]);
+    row.possessions = narrowed(rest.possessions);
+    row.members = rowsOf(side, 1U << entry);
+  }
+}
+
+std::uint32_t SummaryReader::rowsOf(Side side, unsigned members) const {
+  std::uint32_t rows = 0;
+  for (std::size_t entry = 1; entry < GameState::kPlayerEntries; ++entry) {
+    if ((members & (1U << entry)) != 0)
+      rows |= 1U << m_rows[side][entry];
+  }
+  return rows;
 }
 
 NameTable::LineKey SummaryReader::lineKey(const Roster& roster, Side side, std::size_t line, SeasonId team) {

@@ -1,8 +1,12 @@
 #include "cli/NumbersJson.h"
 #include "cli/SeasonReports.h"
+#include "insight/Rates.h"
 #include "season/GameColumns.h"
 #include "season/Leaders.h"
 #include "settings/ChoiceTexts.h"
+#include "storage/Module1.h"
+
+#include <cmath>
 
 namespace hooptab {
 
@@ -31,6 +35,7 @@ class SeasonJson {
       writeLine(row);
     m_json.endArray();
     writeLeaders();
+    writeTeams();
     m_json.endObject();
     return m_json.text();
   }
@@ -113,6 +118,11 @@ class SeasonJson {
     m_json.member("rank", row.rank);
     for (const SeasonView view : {SeasonView::PerGame, SeasonView::PerMinute, SeasonView::PerForty})
       writeAverages(row, table, view);
+    m_json.name("plusMinus");
+    if (const std::optional<int> plusMinus = row.plusMinus())
+      m_json.value(*plusMinus);
+    else
+      m_json.null(); // no game tells who was on court
   }
   void writeAverages(const SeasonRow& row, SeasonTable table, SeasonView view) {
     m_json.name(seasonViewName(view));
@@ -139,6 +149,38 @@ class SeasonJson {
       m_json.endObject();
     }
     m_json.endObject();
+  }
+  void writeTeams() {
+    m_json.name("teams");
+    m_json.beginArray();
+    for (const SeasonTeamRow& row : m_statistics.teams())
+      writeTeam(row);
+    m_json.endArray();
+  }
+  void writeTeam(const SeasonTeamRow& row) {
+    constexpr int kTenths = 10;
+    m_json.beginObject();
+    m_json.beginLine();
+    m_json.member("team", m_catalogue.teams()[row.team].key);
+    m_json.member("games", row.games);
+    m_json.member("wins", row.wins);
+    m_json.member("losses", row.losses);
+    m_json.member("ties", row.ties);
+    m_json.member("points", row.pointsFor);
+    m_json.member("pointsAgainst", row.pointsAgainst);
+    m_json.name("possessions");
+    m_json.beginObject();
+    m_json.member("counted", row.counted.possessions[kOwnSide]); // in the games from events
+    m_json.member("estimated",
+                  Module1::quotientText(static_cast<int>(std::lround(kTenths * row.estimatedPossessions())),
+                                        kTenths, 1));
+    m_json.endObject();
+    for (const std::string_view name : {"offRating", "defRating", "netRating", "pace"}) {
+      const Rate& rate = rateNamed(name);
+      m_json.member(name, rateText(rate, rate.value(RateBasis::ofAll(kOwnSide, row.counted))));
+    }
+    m_json.endObject();
+    m_json.endLine();
   }
   void writeLeader(const Leader& leader) {
     m_json.beginObject();

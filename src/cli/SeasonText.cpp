@@ -1,5 +1,6 @@
 #include "cli/SeasonReports.h"
 #include "cli/TextTable.h"
+#include "insight/Rates.h"
 #include "report/ReportWords.h"
 #include "season/GameColumns.h"
 #include "season/SeasonWords.h"
@@ -75,10 +76,18 @@ class SeasonText {
     for (const Text text : {Text::Games, Text::WinShort, Text::LossShort, Text::TieShort})
       table.addColumn(word(text), Align::Right);
     table.addColumn("PTS", Align::Right);
+    table.addColumn(word(Text::PossessionsWord), Align::Right);
+    for (const Text text : {Text::StandingsOffence, Text::StandingsDefence, Text::PaceWord})
+      table.addColumn(word(text), Align::Right);
+    const auto rate = [](std::string_view name, const SeasonTeamRow& row) {
+      return rateText(rateNamed(name), rateNamed(name).value(RateBasis::ofAll(kOwnSide, row.counted)));
+    };
     for (const SeasonTeamRow& row : m_statistics.teams())
       table.addRow({printable(m_catalogue.teams()[row.team].key), std::to_string(row.games),
                     std::to_string(row.wins), std::to_string(row.losses), std::to_string(row.ties),
-                    std::to_string(row.pointsFor) + "-" + std::to_string(row.pointsAgainst)});
+                    std::to_string(row.pointsFor) + "-" + std::to_string(row.pointsAgainst),
+                    std::to_string(row.counted.possessions[kOwnSide]), rate("offRating", row),
+                    rate("defRating", row), rate("pace", row)});
     return table.text();
   }
 
@@ -94,6 +103,9 @@ class SeasonText {
     for (const int column : columns)
       table.addColumn(seasonHeader(column, kind, m_texts),
                       seasonColumnIsText(column) ? Align::Left : Align::Right);
+    const bool hasPlusMinus = view == SeasonView::Totals;
+    if (hasPlusMinus)
+      table.addColumn("+/-", Align::Right);
     const auto rows = kind == SeasonTable::Players ? m_statistics.players() : m_statistics.lines();
     const auto isMarked = [&](const SeasonRow& row) { return m_minimum.isUnder(row, kind, view); };
     for (const SeasonRow& row : rows) {
@@ -103,6 +115,8 @@ class SeasonText {
         if (column == kNameColumn && isMarked(row))
           cells.back() += kMark;
       }
+      if (hasPlusMinus)
+        cells.push_back(row.plusMinus() ? std::to_string(*row.plusMinus()) : "-");
       table.addRow(std::move(cells));
     }
     return table.text() +

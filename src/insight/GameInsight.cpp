@@ -24,26 +24,6 @@ bool isInPaint(const GameEvent& shot) {
   return shot.x <= kPaintLength && shot.y >= kPaintTop && shot.y <= kPaintBottom;
 }
 
-// What one event adds to every share that it belongs to. Of the many counts it has one or two, and a running
-// game is counted anew after each of its events.
-struct Addition {
-  int seconds = 0;
-  PerSide<int> possessions = {};
-  Side team = Side::Visitor;
-  std::array<Counter, 2> counters = {}; // of that team, the first `count` of them
-  std::size_t count = 0;
-
-  void add(Counter counter) { counters[count++] = counter; }
-  [[nodiscard]] bool isEmpty() const { return count == 0 && seconds == 0 && possessions == PerSide<int>{}; }
-  void addTo(CourtShare& share) const {
-    share.seconds += seconds;
-    for (const Side each : kSides)
-      share.possessions[each] += possessions[each];
-    for (std::size_t i = 0; i < count; ++i)
-      ++share.counters[team].counts[static_cast<std::size_t>(counters[i])];
-  }
-};
-
 // Where points come from, as far as the order of the events tells.
 class Origins {
  public:
@@ -105,12 +85,42 @@ class Origins {
   std::optional<int> m_gained; // the clock at which the ball was gained
 };
 
+// What one event adds to every share that it falls into: a few numbers of the many that a share has.
+class Happening {
+ public:
+  void pass(int seconds) { m_seconds = seconds; }
+  void begin(const PerSide<int>& possessions) { m_possessions = possessions; }
+  void count(const GameEvent& event) {
+    const EventKind& kind = *event.kind();
+    m_team = *event.player.team;
+    m_attempt = kind.isShot ? std::optional(kind.attempts) : std::nullopt;
+    m_counter = !kind.isShot || event.isMade ? std::optional(kind.counter) : std::nullopt;
+  }
+  void addTo(CourtShare& share) const {
+    share.seconds += m_seconds;
+    for (const Side team : kSides)
+      share.possessions[team] += m_possessions[team];
+    for (const std::optional<Counter>& counter : {m_attempt, m_counter}) {
+      if (counter)
+        ++share.counters[m_team].counts[static_cast<std::size_t>(*counter)];
+    }
+  }
+
+ private:
+  int m_seconds = 0;
+  PerSide<int> m_possessions = {};
+  Side m_team = Side::Visitor;
+  std::optional<Counter> m_attempt, m_counter;
+};
+
 class Builder {
  public:
   explicit Builder(const Game& game)
       : m_game(game), m_tally(m_state, game.roster[Side::Visitor], game.roster[Side::Home]),
         m_possessions(game.events, game.details.minutesPerPeriod > 0), m_origins(game, m_insight.origins) {
+    constexpr std::size_t kUsualMatchups = 64;
     m_insight.isFromEvents = game.details.inputType == 0;
+    m_insight.matchups.reserve(kUsualMatchups);
   }
 
   GameInsight build() {
@@ -120,6 +130,7 @@ class Builder {
         take(event, place);
       m_tally.apply(event, place++);
     }
+    sumMatchups();
     std::erase_if(m_insight.matchups, [](const Matchup& matchup) { return matchup.share.isEmpty(); });
     if (m_insight.isFromEvents)
       countBench();
@@ -135,22 +146,14 @@ class Builder {
       followClock(event);
     const Possessions::Stand stand = m_possessions.take(event, place);
     m_origins.take(event, stand);
-    Addition happened{.possessions = stand.begun};
+    Happening happened;
+    happened.begin(stand.begun);
     if (event.isOfPlayer())
-      count(event, happened);
-    if (!happened.isEmpty())
+      happened.count(event);
+    if (stand.begun != PerSide<int>{} || event.isOfPlayer())
       add(event, happened);
     if (event.isShot() && event.isMade)
       m_score[*event.player.team] += event.kind()->points;
-  }
-
-  static void count(const GameEvent& event, Addition& happened) {
-    const EventKind& kind = *event.kind();
-    happened.team = *event.player.team;
-    if (kind.isShot)
-      happened.add(kind.attempts);
-    if (!kind.isShot || event.isMade)
-      happened.add(kind.counter);
   }
 
   void followClock(const GameEvent& event) {
@@ -169,24 +172,41 @@ class Builder {
     m_clock = event.clockSeconds;
     if (event.code != EventCode::ARRET)
       return;
-    if (isAnybodyOnCourt())
-      addToThoseOnCourt({.seconds = m_since - event.clockSeconds});
+    if (isAnybodyOnCourt()) {
+      Happening time;
+      time.pass(m_since - event.clockSeconds);
+      addToThoseOnCourt(time);
+    }
     m_since = event.clockSeconds;
   }
 
-  void add(const GameEvent& event, const Addition& happened) {
+  void add(const GameEvent& event, const Happening& happened) {
     if (isClutch(event.period, event.clockSeconds))
       happened.addTo(m_insight.clutch);
     addToThoseOnCourt(happened);
   }
 
-  void addToThoseOnCourt(const Addition& added) {
-    added.addTo(m_insight.whole);
-    added.addTo(matchup().share);
+  // Players have their share from the lines in the end; of a line behind the hundredth nobody knows who it
+  // was.
+  void addToThoseOnCourt(const Happening& happened) {
+    Matchup& here = matchup();
+    happened.addTo(here.share);
     for (const Side team : kSides) {
-      for (std::size_t i = 0; i < m_state.onCourtCount[team]; ++i) {
+      for (std::size_t i = 0; here.line[team] == 0 && i < m_state.onCourtCount[team]; ++i) {
         if (const std::size_t player = m_state.onCourt[team][i]; player > 0)
-          added.addTo(m_insight.players[team][player]);
+          happened.addTo(m_insight.players[team][player]);
+      }
+    }
+  }
+  void sumMatchups() {
+    for (const Matchup& matchup : m_insight.matchups) {
+      m_insight.whole += matchup.share;
+      for (const Side team : kSides) {
+        const unsigned members = m_state.lineMembers[team][static_cast<std::size_t>(matchup.line[team])];
+        for (std::size_t player = 1; matchup.line[team] > 0 && player < GameState::kPlayerEntries; ++player) {
+          if ((members & (1U << player)) != 0)
+            m_insight.players[team][player] += matchup.share;
+        }
       }
     }
   }

@@ -143,6 +143,7 @@ SeasonRow rowOfResult(const GameResult& result) {
   SeasonRow row;
   row.games = 1;
   row.numbers = result.numbers;
+  row.onCourt = result.onCourt;
   return row;
 }
 

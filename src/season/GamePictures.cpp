@@ -10,6 +10,8 @@ namespace {
 
 using Unit = SeriesDrawing::Unit;
 
+constexpr std::size_t kLatest = 5; // games that stand out
+
 // Month and day; the year is in the tool tip.
 QString shortDate(const ListedGame& game) {
   constexpr int kYear = 5;
@@ -48,6 +50,8 @@ SeriesWithToolTips pictureOfStatistic(const SeasonPerson& person, int column, co
   SeriesDrawing& drawing = picture.drawing;
   const QString name = statisticName(column, settings, texts, person.season->statistics().labels());
   drawing.title = toQt(person.row.number) + u' ' + toQt(person.row.name) + QStringLiteral(" – ") + name;
+  drawing.style = SeriesDrawing::Style::Bars;
+  drawing.latest = kLatest;
   drawing.unit = unitOf(seasonColumn(column).statistic->kind);
   drawing.average = series.average;
   if (series.average)

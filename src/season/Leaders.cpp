@@ -69,4 +69,22 @@ Leaders::Leaders(std::span<const SeasonRow> rows, SeasonView view, const Texts& 
   }
 }
 
+std::optional<LeaderPlace> placeOf(const SeasonRow& row, std::span<const SeasonRow> rows,
+                                   const Qualification& minimum,
+                                   const std::function<std::optional<double>(const SeasonRow&)>& value) {
+  const auto hasPlayed = [&](const SeasonRow& each) {
+    return !minimum.isUnder(each, SeasonTable::Players, SeasonView::PerGame);
+  };
+  const std::optional<double> own = value(row);
+  if (!own || !hasPlayed(row))
+    return std::nullopt;
+  LeaderPlace place{1, 0};
+  for (const SeasonRow& each : rows) {
+    const std::optional<double> other = hasPlayed(each) ? value(each) : std::nullopt;
+    place.of += other ? 1 : 0;
+    place.place += other && *other > *own ? 1 : 0;
+  }
+  return place;
+}
+
 } // namespace hooptab

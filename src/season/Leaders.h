@@ -4,6 +4,8 @@
 
 #include "season/Qualification.h"
 
+#include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -36,5 +38,15 @@ class Leaders {
  private:
   std::vector<StatisticLeaders> m_statistics;
 };
+
+// The place that a value has among those of all players who have played enough to lead per game, equal ones
+// sharing it; nothing for a player who has not, and for one without that value.
+struct LeaderPlace {
+  int place = 0;
+  int of = 0;
+};
+[[nodiscard]] std::optional<LeaderPlace>
+placeOf(const SeasonRow& row, std::span<const SeasonRow> rows, const Qualification& minimum,
+        const std::function<std::optional<double>(const SeasonRow&)>& value);
 
 } // namespace hooptab

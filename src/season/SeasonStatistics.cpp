@@ -16,6 +16,28 @@ void addTo(BoxNumbers& sum, const GameRow& row) {
   sum.seconds += row.seconds;
 }
 
+// What a line saw of a game, as part of the sums of whoever was in it.
+void addTo(CourtShare& sum, const LineRow& line) {
+  sum.seconds += line.seconds;
+  sum.counters[kOwnSide] += line.counters;
+  sum.counters[otherSide(kOwnSide)] += line.opponents;
+  sum.possessions[kOwnSide] += line.possessions[line.side];
+  sum.possessions[otherSide(kOwnSide)] += line.possessions[otherSide(line.side)];
+}
+
+// Calls for each line that was seen from the row at a place: of a player those he was in, of a line itself.
+template <class Call>
+void forLinesOf(const ListedGame& game, const std::vector<GameRow>&, std::size_t player, const Call& call) {
+  for (const LineRow& line : game.lines) {
+    if (line.has(player))
+      call(line);
+  }
+}
+template <class Call>
+void forLinesOf(const ListedGame&, const std::vector<LineRow>& lines, std::size_t line, const Call& call) {
+  call(lines[line]);
+}
+
 // Unequal for any two rows, so that the order is one.
 auto rankKey(const SeasonRow& row) {
   return std::tuple(-row.numbers.points(), -row.numbers.rating(), row.nameOrder, std::string_view(row.name),
@@ -23,6 +45,18 @@ auto rankKey(const SeasonRow& row) {
 }
 
 } // namespace
+
+CourtShare wholeOfGame(const ListedGame& game, Side side) {
+  CourtShare whole;
+  if (!game.isFromEvents())
+    return whole;
+  for (const GameRow& row : game.players)
+    whole.counters[row.side == side ? kOwnSide : otherSide(kOwnSide)] += row.counters;
+  whole.possessions[kOwnSide] = game.possessions[side];
+  whole.possessions[otherSide(kOwnSide)] = game.possessions[otherSide(side)];
+  whole.seconds = game.seconds;
+  return whole;
+}
 
 SeasonStatistics::SeasonStatistics(const GameCatalogue& catalogue, std::vector<std::size_t> games,
                                    const Shown& shown, const TaskWatch& watch)
@@ -94,10 +128,15 @@ void SeasonStatistics::sumTeams(std::optional<SeasonId> shownTeam, const TaskWat
       sum.pointsFor += game.points[side];
       sum.pointsAgainst += game.points[otherSide(side)];
       const std::optional<Side> winner = game.winner();
+      sum.ownRebounds += game.teamRows[side].offensiveRebounds;
+      sum.ownTurnovers += game.teamRows[side].turnovers;
+      sum.counted += wholeOfGame(game, side);
       ++(!winner ? sum.ties : *winner == side ? sum.wins : sum.losses);
     }
-    for (const GameRow& row : game.players)
+    for (const GameRow& row : game.players) {
       addTo(sums[game.team[row.side]].numbers, row);
+      addTo(sums[game.team[otherSide(row.side)]].opponents, row);
+    }
   }
   for (std::size_t i = 0; i < sums.size(); ++i) {
     sums[i].team = static_cast<SeasonId>(i);
@@ -107,7 +146,8 @@ void SeasonStatistics::sumTeams(std::optional<SeasonId> shownTeam, const TaskWat
 }
 
 // In order of first appearance; names are the caller's.
-std::vector<SeasonRow> SeasonStatistics::sumRows(Rows rows, std::size_t ids,
+template <class Row>
+std::vector<SeasonRow> SeasonStatistics::sumRows(std::vector<Row> ListedGame::*rows, std::size_t ids,
                                                  std::optional<SeasonId> shownTeam,
                                                  const TaskWatch& watch) const {
   constexpr std::size_t kNoRow = std::numeric_limits<std::size_t>::max();
@@ -119,7 +159,8 @@ std::vector<SeasonRow> SeasonStatistics::sumRows(Rows rows, std::size_t ids,
       break;
     watch.advance();
     const ListedGame& game = m_catalogue->games()[index];
-    for (const GameRow& row : game.*rows) {
+    for (std::size_t i = 0; i < (game.*rows).size(); ++i) {
+      const Row& row = (game.*rows)[i];
       if (row.id == kNobody || (shownTeam && game.team[row.side] != *shownTeam))
         continue;
       if (place[row.id] == kNoRow) {
@@ -130,6 +171,7 @@ std::vector<SeasonRow> SeasonStatistics::sumRows(Rows rows, std::size_t ids,
       const std::size_t at = place[row.id];
       SeasonRow& sum = sums[at];
       addTo(sum.numbers, row);
+      forLinesOf(game, game.*rows, i, [&sum](const LineRow& line) { addTo(sum.onCourt, line); });
       if (lastGame[at] != index) // 5 and 05 of one name are one player, also in one game
         ++sum.games;
       lastGame[at] = index;
@@ -148,17 +190,23 @@ std::vector<GameResult> SeasonStatistics::resultsOfLine(SeasonId line, const Tas
   return resultsOf(&ListedGame::lines, line, watch);
 }
 
-std::vector<GameResult> SeasonStatistics::resultsOf(Rows rows, SeasonId id, const TaskWatch& watch) const {
+template <class Row>
+std::vector<GameResult> SeasonStatistics::resultsOf(std::vector<Row> ListedGame::*rows, SeasonId id,
+                                                    const TaskWatch& watch) const {
   std::vector<GameResult> results;
   for (const std::size_t index : m_games) {
     if (watch.isCancelled())
       break;
-    for (const GameRow& row : m_catalogue->games()[index].*rows) {
+    const ListedGame& game = m_catalogue->games()[index];
+    for (std::size_t i = 0; i < (game.*rows).size(); ++i) {
+      const Row& row = (game.*rows)[i];
       if (row.id != id)
         continue;
       if (results.empty() || results.back().game != index)
-        results.push_back({index, row.side, {}});
-      addTo(results.back().numbers, row);
+        results.push_back({index, row.side, {}, {}});
+      GameResult& result = results.back();
+      addTo(result.numbers, row);
+      forLinesOf(game, game.*rows, i, [&result](const LineRow& line) { addTo(result.onCourt, line); });
     }
   }
   return results;

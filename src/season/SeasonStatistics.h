@@ -5,6 +5,7 @@
 
 #include "catalogue/GameCatalogue.h"
 #include "game/Side.h"
+#include "insight/GameInsight.h"
 #include "scorecard/BoxScore.h"
 #include "storage/TaskWatch.h"
 
@@ -15,6 +16,9 @@
 #include <vector>
 
 namespace hooptab {
+
+// In sums over many games, the team that they are about; the other side is whoever it played.
+inline constexpr Side kOwnSide = Side::Visitor;
 
 // A player or line of the season tables.
 struct SeasonRow {
@@ -27,12 +31,17 @@ struct SeasonRow {
   int games = 0;       // at least 1
   int teamGames = 0;   // selected games of the team
   BoxNumbers numbers;
+  CourtShare onCourt;         // what both teams did meanwhile; nothing from games of totals
   int rank = 0;               // by points, then rating, then name; from 1
   std::vector<int> positions; // players: one after another by date, each change once; the last is today's
 
   // Averages of a line over so short a time say little; they are marked where they are shown.
   static constexpr int kShortSeconds = 10 * 60;
   [[nodiscard]] bool isShort() const { return numbers.seconds < kShortSeconds; }
+  // Nothing where no game tells who was on court.
+  [[nodiscard]] std::optional<int> plusMinus() const {
+    return onCourt.isEmpty() ? std::nullopt : std::optional(onCourt.plusMinus(kOwnSide));
+  }
 };
 
 struct SeasonTeamRow {
@@ -40,6 +49,13 @@ struct SeasonTeamRow {
   int games = 0, wins = 0, losses = 0, ties = 0;
   int pointsFor = 0, pointsAgainst = 0;
   BoxNumbers numbers; // all players, those without a row of their own included; seconds are theirs together
+  BoxNumbers opponents;
+  int ownRebounds = 0, ownTurnovers = 0; // offensive rebounds and turnovers that are no player's
+  CourtShare counted;                    // both teams in the games from events, whose possessions are known
+
+  [[nodiscard]] double estimatedPossessions() const {
+    return hooptab::estimatedPossessions(numbers) - ownRebounds + ownTurnovers;
+  }
 };
 
 // What one player or line did in one game.
@@ -47,7 +63,11 @@ struct GameResult {
   std::size_t game = 0; // in the catalogue
   Side side = Side::Visitor;
   BoxNumbers numbers;
+  CourtShare onCourt; // as in SeasonRow
 };
+
+// Both teams in a game from events, seen by one of them; nothing of a game of totals.
+[[nodiscard]] CourtShare wholeOfGame(const ListedGame& game, Side side);
 
 class SeasonStatistics {
  public:
@@ -77,12 +97,15 @@ class SeasonStatistics {
   [[nodiscard]] std::vector<GameResult> resultsOfLine(SeasonId line, const TaskWatch& watch = {}) const;
 
  private:
-  using Rows = std::vector<GameRow> ListedGame::*;
   void sumTeams(std::optional<SeasonId> shownTeam, const TaskWatch& watch);
   void joinLabels();
-  [[nodiscard]] std::vector<SeasonRow> sumRows(Rows rows, std::size_t ids, std::optional<SeasonId> shownTeam,
+  template <class Row>
+  [[nodiscard]] std::vector<SeasonRow> sumRows(std::vector<Row> ListedGame::*rows, std::size_t ids,
+                                               std::optional<SeasonId> shownTeam,
                                                const TaskWatch& watch) const;
-  [[nodiscard]] std::vector<GameResult> resultsOf(Rows rows, SeasonId id, const TaskWatch& watch) const;
+  template <class Row>
+  [[nodiscard]] std::vector<GameResult> resultsOf(std::vector<Row> ListedGame::*rows, SeasonId id,
+                                                  const TaskWatch& watch) const;
 
   const GameCatalogue* m_catalogue;
   std::vector<std::size_t> m_games;

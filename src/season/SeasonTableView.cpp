@@ -5,6 +5,7 @@
 
 #include <QShortcut>
 #include <algorithm>
+#include <vector>
 
 namespace hooptab {
 
@@ -18,7 +19,7 @@ constexpr int kMeasuredRows = 200; // of a long table: the others are seldom wid
 } // namespace
 
 SeasonTableView::SeasonTableView(const QString& name, int frozenColumns, QWidget* parent)
-    : FrozenTableView(frozenColumns, parent) {
+    : FrozenTableView(frozenColumns, parent), m_narrowRow(kRowHeight), m_wideRow(kRowHeight) {
   setObjectName(name);
   setModel(&m_model);
   setRowHeight(Theme::measure()(kRowHeight));
@@ -58,8 +59,25 @@ void SeasonTableView::focusInEvent(QFocusEvent* event) {
 }
 
 void SeasonTableView::fitToFont() {
-  setRowHeight(Theme::measure()(kRowHeight));
+  setRowHeight(Theme::measure()(m_narrowRow, m_wideRow));
   fitColumns();
+}
+
+void SeasonTableView::setRowHeights(int narrow, int wide) {
+  m_narrowRow = narrow;
+  m_wideRow = wide;
+  setRowHeight(Theme::measure()(narrow, wide));
+}
+
+void SeasonTableView::fillWidth() {
+  m_fillsWidth = true;
+  fitColumns();
+}
+
+void SeasonTableView::resizeEvent(QResizeEvent* event) {
+  FrozenTableView::resizeEvent(event);
+  if (m_fillsWidth)
+    fitColumns();
 }
 
 void SeasonTableView::fitColumns() {
@@ -73,14 +91,34 @@ void SeasonTableView::fitColumns() {
     setColumnHidden(column, shown.isHidden);
     if (shown.isHidden || m_hasOwnWidths)
       continue;
-    int width = std::max(header->textWidth(shown.header), metrics.horizontalAdvance(shown.longest));
+    int width = std::max(
+        {shown.leastWidth, header->textWidth(shown.header), metrics.horizontalAdvance(shown.longest)});
     for (int row = 0; shown.longest.isEmpty() && row < std::min(m_model.rowCount(), kMeasuredRows); ++row)
       width = std::max(width, metrics.horizontalAdvance(m_model.index(row, column).data().toString()));
-    setColumnWidth(column,
-                   std::min(width, std::max(kWidestText, header->textWidth(shown.header))) + kPadding);
+    setColumnWidth(
+        column, std::min(width, std::max({kWidestText, shown.leastWidth, header->textWidth(shown.header)})) +
+                    kPadding);
   }
+  if (m_fillsWidth && !m_hasOwnWidths)
+    shareRest();
   m_isFitting = false;
   layOutFrozen();
+}
+
+void SeasonTableView::shareRest() {
+  std::vector<int> shown;
+  int rest = viewport()->width();
+  for (int column = 0; column < m_model.columnCount(); ++column) {
+    if (isColumnHidden(column))
+      continue;
+    shown.push_back(column);
+    rest -= columnWidth(column);
+  }
+  for (std::size_t i = 0; i < shown.size() && rest > 0; ++i) {
+    const int share = rest / static_cast<int>(shown.size() - i);
+    setColumnWidth(shown[i], columnWidth(shown[i]) + share);
+    rest -= share;
+  }
 }
 
 QByteArray SeasonTableView::widths() const {

@@ -16,6 +16,10 @@ class SeasonTableView : public FrozenTableView {
   SnapshotModel& content() { return m_model; }
   void showColumns(std::vector<TableColumn> columns);
   void showRows(TableRows rows);
+  // Rows that are higher than usual, in a narrow window and in a wide one.
+  void setRowHeights(int narrow, int wide);
+  // The columns share the width that they do not need, as long as the user has chosen none.
+  void fillWidth();
   // The place of the current row in the rows given; -1 for none.
   int currentRow() const;
 
@@ -32,11 +36,16 @@ class SeasonTableView : public FrozenTableView {
  protected:
   void fitToFont() override;
   void focusInEvent(QFocusEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void fitColumns();
+  void shareRest();
 
   SnapshotModel m_model;
+  int m_narrowRow;
+  int m_wideRow;
+  bool m_fillsWidth = false;
   bool m_isFitting = false;
   bool m_hasOwnWidths = false;
 };

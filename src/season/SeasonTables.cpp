@@ -5,8 +5,10 @@
 #include "scorecard/ColumnWords.h"
 #include "season/SeasonDesk.h"
 #include "season/SeasonWords.h"
+#include "season/Standings.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace hooptab {
 
@@ -73,10 +75,31 @@ TableColumn numberColumn(const QString& header, const QString& longest = QString
   return column;
 }
 
-// The season column at a place of the window's table; 0 for the team, which stands last.
+// The season column at a place of the window's table; 0 for points while on court and the team, which stand
+// last.
 int seasonColumnAt(SeasonTable table, int place) {
   const std::vector<int>& columns = columnsOfTable(table);
   return place < static_cast<int>(columns.size()) ? columns[static_cast<std::size_t>(place)] : 0;
+}
+
+bool isPlusMinus(SeasonTable table, int place) {
+  return place == static_cast<int>(columnsOfTable(table).size());
+}
+constexpr double kLeast = std::numeric_limits<double>::lowest();
+
+// Nothing where no game tells who was on court, or where there is nothing to divide by.
+std::optional<double> plusMinusOf(const SeasonRow& row, SeasonView view) {
+  const std::optional<int> sum = row.plusMinus();
+  const auto divided = [&](double count) {
+    return sum && count > 0 ? std::optional(*sum / count) : std::nullopt;
+  };
+  switch (view) {
+  case SeasonView::Totals: break;
+  case SeasonView::PerGame: return divided(row.games);
+  case SeasonView::PerMinute: return divided(row.numbers.seconds / 60.0);
+  case SeasonView::PerForty: return divided(row.numbers.seconds / 2400.0);
+  }
+  return sum;
 }
 
 TableKind kindOf(int column) {
@@ -156,12 +179,26 @@ TableRows skippedRows(std::shared_ptr<const GameCatalogue> catalogue, const Text
   return rows;
 }
 
+QString plusMinusText(const SeasonRow& row, SeasonView view) {
+  const std::optional<double> value = plusMinusOf(row, view);
+  const int decimals = view == SeasonView::Totals ? 0 : view == SeasonView::PerMinute ? 2 : 1;
+  return value ? toQt(signedText(*value, decimals)) : QStringLiteral("–");
+}
+
+TableColumn plusMinusColumn(const Texts& texts) {
+  TableColumn column = numberColumn(QStringLiteral("+/−"), QStringLiteral("+000.0"));
+  column.toolTip = caption(texts, Text::PlusMinusTip);
+  column.name = QStringLiteral("PlusMinus");
+  return column;
+}
+
 std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view, const Season* season,
                                             const Settings& settings, const Texts& texts) {
   const OwnLabels labels = season == nullptr ? OwnLabels() : season->statistics().labels();
   std::vector<TableColumn> columns;
   for (const int index : columnsOfTable(kind))
     columns.push_back(columnOf(index, kind, view, settings, texts, labels));
+  columns.push_back(plusMinusColumn(texts));
   TableColumn& team = columns.emplace_back(textColumn(caption(texts, Text::Team)));
   team.name = QStringLiteral("Team");
   team.isHidden = season == nullptr || season->statistics().teams().size() < 2;
@@ -180,6 +217,8 @@ TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind
   rows.text = [season, kind, view, isMarked = rows.isMuted, &texts](int row, int column) -> QString {
     const SeasonRow& shown = rowOf(*season, kind, row);
     const int shownColumn = seasonColumnAt(kind, column);
+    if (isPlusMinus(kind, column))
+      return plusMinusText(shown, view);
     if (shownColumn == 0)
       return toQt(season->catalogue().teams()[shown.team].key);
     QString text = toQt(seasonCell(shown, shownColumn, view, texts));
@@ -191,6 +230,8 @@ TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind
   };
   rows.sortValue = [season, kind, view](int row, int column) {
     const int shown = seasonColumnAt(kind, column);
+    if (isPlusMinus(kind, column))
+      return plusMinusOf(rowOf(*season, kind, row), view).value_or(kLeast);
     return shown == 0 ? 0.0 : seasonSortValue(rowOf(*season, kind, row), shown, view);
   };
   rows.toolTip = [season, kind, &texts](int row) -> QString {
@@ -326,6 +367,7 @@ std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& te
     TableColumn& own = columns.emplace_back(textColumn(toQt(resultHeader(index, texts))));
     own.isText = index != 1; // the date sorts by its day
   }
+  columns.push_back(plusMinusColumn(texts));
   return columns;
 }
 
@@ -336,10 +378,22 @@ TableRows resultRows(std::shared_ptr<const SeasonPerson> person, const Texts& te
     return person->results[static_cast<std::size_t>(row)];
   };
   rows.text = [person, result, &texts](int row, int column) {
-    return toQt(resultCell(person->season->catalogue(), result(row), column + 1, texts));
+    return column == resultColumnCount()
+               ? plusMinusText(rowOfResult(result(row)), SeasonView::Totals)
+               : toQt(resultCell(person->season->catalogue(), result(row), column + 1, texts));
   };
   rows.sortValue = [person, result](int row, int column) {
-    return resultSortValue(person->season->catalogue(), result(row), column + 1);
+    return column == resultColumnCount()
+               ? plusMinusOf(rowOfResult(result(row)), SeasonView::Totals).value_or(kLeast)
+               : resultSortValue(person->season->catalogue(), result(row), column + 1);
+  };
+  // The best of a season, of what there are records of; of one game there is no best.
+  rows.isHigh = [person, value = rows.sortValue](int row, int column) {
+    const int shown = column < resultColumnCount() ? seasonColumnOfResult(column + 1) : 0;
+    const auto& records = person->records.records();
+    const auto record = std::ranges::find(records, shown, &Record::column);
+    return shown != 0 && person->results.size() > 1 && record != records.end() && record->value > 0 &&
+           value(row, column) == record->value;
   };
   rows.toolTip = [&texts](int) { return caption(texts, Text::OpensGame); };
   return rows;

@@ -32,6 +32,10 @@ namespace hooptab {
 [[nodiscard]] TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind,
                                         SeasonView view, const Texts& texts);
 
+// "+6.2" of a player or line in that view, "–" where no game tells who was on court.
+[[nodiscard]] QString plusMinusText(const SeasonRow& row, SeasonView view);
+[[nodiscard]] TableColumn plusMinusColumn(const Texts& texts);
+
 // A column as the name of a statistic, to choose it by.
 [[nodiscard]] QString statisticName(int column, const Settings& settings, const Texts& texts,
                                     const OwnLabels& labels = {});

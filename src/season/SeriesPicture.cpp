@@ -18,6 +18,8 @@ namespace {
 using Unit = SeriesDrawing::Unit;
 using Style = SeriesDrawing::Style;
 
+constexpr double kPale = 0.42; // of the colour, of bars that do not stand out
+
 // The least of 1, 2, 5, 10, 20 ... (of times 60, 120, 300 ...; of percentages 10 and up) that leaves at most
 // so many steps.
 double stepOf(double span, int mostSteps, Unit unit) {
@@ -135,17 +137,25 @@ void paintLine(QPainter& painter, const SeriesColours& colours, const Layout& la
   }
 }
 
-void paintMargins(QPainter& painter, const SeriesColours& colours, const Layout& layout,
-                  const SeriesDrawing& drawing, double pixel) {
+// A bar, and its number where there is room.
+void paintBars(QPainter& painter, const SeriesColours& colours, const Layout& layout,
+               const SeriesDrawing& drawing, double pixel) {
   const double width = std::clamp(layout.slot * 0.7, 0.5 * pixel, 26 * pixel);
   const QFontMetricsF metrics(painter.font(), painter.device());
   const bool hasNumbers = layout.slot > metrics.horizontalAdvance(QStringLiteral("+00"));
+  const bool isMargins = drawing.style == Style::Margins;
+  const std::size_t latest = drawing.values.size() - std::min(drawing.latest, drawing.values.size());
   for (std::size_t i = 0; i < drawing.values.size(); ++i) {
+    if (!drawing.values[i] && !isMargins)
+      continue;
     const double value = drawing.values[i].value_or(0);
+    const QColor colour = !isMargins  ? mix(colours.line, colours.ground, i < latest ? kPale : 1)
+                          : value < 0 ? colours.below
+                                      : colours.above;
     const QRectF bar = QRectF(QPointF(layout.x(i) - width / 2, layout.y(value)),
                               QPointF(layout.x(i) + width / 2, layout.y(0)))
                            .normalized();
-    painter.fillRect(bar, value < 0 ? colours.below : colours.above);
+    painter.fillRect(bar, colour);
     if (!hasNumbers)
       continue;
     const double height = metrics.height();
@@ -153,7 +163,7 @@ void paintMargins(QPainter& painter, const SeriesColours& colours, const Layout&
                       layout.slot, height);
     painter.setPen(colours.text);
     painter.drawText(room, Qt::AlignCenter,
-                     (value > 0 ? QStringLiteral("+") : QString()) +
+                     (value > 0 && isMargins ? QStringLiteral("+") : QString()) +
                          SeriesPicture::valueText(value, drawing.unit));
   }
 }
@@ -225,8 +235,8 @@ void SeriesPicture::paint(QPainter& painter, const QRectF& area, const SeriesDra
         QRectF(layout.x(*highlighted) - width / 2, layout.plot.top(), width, layout.plot.height()), mark);
   }
   paintAxes(painter, m_colours, layout, drawing, area);
-  if (drawing.style == Style::Margins)
-    paintMargins(painter, m_colours, layout, drawing, pixel);
+  if (drawing.style != Style::Line)
+    paintBars(painter, m_colours, layout, drawing, pixel);
   else
     paintLine(painter, m_colours, layout, drawing, pixel);
   paintAverage(painter, m_colours, layout, drawing, pixel);

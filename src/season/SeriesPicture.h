@@ -1,5 +1,5 @@
-// Draws numbers game by game with a QPainter, on screen and on paper alike: a line through points with the
-// average across, or margins as bars above and below zero. Computes none of the numbers.
+// Draws numbers game by game with a QPainter, on screen and on paper alike: a line through points or bars
+// with the average across, or margins as bars above and below zero. Computes none of the numbers.
 #pragma once
 
 #include "settings/Texts.h"
@@ -15,11 +15,12 @@
 namespace hooptab {
 
 struct SeriesDrawing {
-  enum class Style : std::uint8_t { Line, Margins };
+  enum class Style : std::uint8_t { Line, Bars, Margins };
   enum class Unit : std::uint8_t { Count, Percent, Time }; // seconds
 
   Style style = Style::Line;
   Unit unit = Unit::Count;
+  std::size_t latest = 0; // of bars, how many at the end stand out
   QString title;
   QString averageText;
   std::vector<std::optional<double>> values; // a gap where there is none; a percentage as a fraction of 1

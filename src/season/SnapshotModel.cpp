@@ -11,7 +11,6 @@
 #include <QPalette>
 #include <algorithm>
 #include <cstdint>
-#include <numeric>
 #include <optional>
 
 namespace hooptab {
@@ -142,7 +141,8 @@ QVariant SnapshotModel::data(const QModelIndex& index, int role) const {
   // Most cells of statistics are 0: muted, they let the others stand out.
   case Qt::ForegroundRole: {
     const bool isZero = !shown.isText && !shown.isLeftAligned && m_rows.sortValue(row, index.column()) <= 0 &&
-                        !m_rows.text(row, index.column()).startsWith(u'-');
+                        !m_rows.text(row, index.column()).startsWith(u'-') &&
+                        !m_rows.text(row, index.column()).startsWith(QChar(0x2212));
     return isZero || (m_rows.isMuted && m_rows.isMuted(row)) ? QVariant(Theme::muted()) : QVariant();
   }
   case Qt::FontRole: {
@@ -153,6 +153,8 @@ QVariant SnapshotModel::data(const QModelIndex& index, int role) const {
     return bold;
   }
   case Qt::BackgroundRole:
+    if (m_rows.isHigh && m_rows.isHigh(row, index.column()))
+      return QBrush(Theme::look().seasonHigh);
     return shown.isShaded ? QGuiApplication::palette().brush(QPalette::AlternateBase) : QVariant();
   default: return {};
   }
@@ -175,24 +177,51 @@ QVariant SnapshotModel::headerData(int section, Qt::Orientation orientation, int
 }
 
 std::vector<int> SnapshotModel::sortedOrder() const {
-  std::vector<int> order(static_cast<std::size_t>(m_rows.count));
-  std::iota(order.begin(), order.end(), 0);
+  std::vector<int> order;
+  order.reserve(static_cast<std::size_t>(m_rows.count));
+  for (int row = 0; row < m_rows.count; ++row) {
+    if (passes(row))
+      order.push_back(row);
+  }
   if (m_sortColumn < 0 || m_sortColumn >= columnCount())
     return order;
   if (!column(m_sortColumn).isText) {
-    std::vector<double> keys;
-    keys.reserve(order.size());
+    std::vector<double> keys(static_cast<std::size_t>(m_rows.count));
     for (const int row : order)
-      keys.push_back(m_rows.sortValue(row, m_sortColumn));
+      keys[static_cast<std::size_t>(row)] = m_rows.sortValue(row, m_sortColumn);
     sortBy(order, keys, m_sortOrder);
     return order;
   }
   std::vector<QString> texts;
-  texts.reserve(order.size());
-  for (const int row : order)
+  texts.reserve(static_cast<std::size_t>(m_rows.count));
+  for (int row = 0; row < m_rows.count; ++row)
     texts.push_back((m_rows.sortText ? m_rows.sortText : m_rows.text)(row, m_sortColumn));
   sortBy(order, sortNumbers(texts), m_sortOrder);
   return order;
+}
+
+bool SnapshotModel::passes(int row) const {
+  constexpr double kPercent = 100;
+  for (int i = 0; i < std::min(static_cast<int>(m_filters.size()), columnCount()); ++i) {
+    const ColumnFilter& filter = m_filters[static_cast<std::size_t>(i)];
+    if (filter.isEmpty())
+      continue;
+    const TableKind kind = m_rows.kind ? m_rows.kind(row, i) : column(i).kind;
+    const double value = column(i).isText || !m_rows.sortValue ? 0 : m_rows.sortValue(row, i);
+    if (!filter.accepts(fromQt(m_rows.text(row, i)), kind == TableKind::Percent ? kPercent * value : value))
+      return false;
+  }
+  return true;
+}
+
+void SnapshotModel::filter(std::vector<ColumnFilter> filters) {
+  const auto isEmpty = [](const ColumnFilter& filter) { return filter.isEmpty(); };
+  if (std::ranges::all_of(filters, isEmpty) && std::ranges::all_of(m_filters, isEmpty))
+    return;
+  beginResetModel();
+  m_filters = std::move(filters);
+  m_order = sortedOrder();
+  endResetModel();
 }
 
 void SnapshotModel::sort(int column, Qt::SortOrder order) {
@@ -204,7 +233,7 @@ void SnapshotModel::sort(int column, Qt::SortOrder order) {
   for (const QModelIndex& each : before)
     sources.push_back(sourceRow(each.row()));
   m_order = sortedOrder();
-  std::vector<int> places(m_order.size());
+  std::vector<int> places(static_cast<std::size_t>(m_rows.count));
   for (std::size_t i = 0; i < m_order.size(); ++i)
     places[static_cast<std::size_t>(m_order[i])] = static_cast<int>(i);
   QModelIndexList after;

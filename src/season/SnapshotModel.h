@@ -4,6 +4,7 @@
 #pragma once
 
 #include "appearance/TableContent.h"
+#include "season/ColumnFilter.h"
 
 #include <QAbstractTableModel>
 
@@ -23,6 +24,7 @@ struct TableColumn {
   bool isBold = false;
   QString name = {}; // unique in its table, for files; empty: the header
   TableKind kind = TableKind::Text;
+  int leastWidth = 0; // of a column that shows more than its text
 };
 
 // Rows and columns count from 0. What a function refers to must live as long as the model shows it.
@@ -35,8 +37,9 @@ struct TableRows {
   // Of columns of text, where they do not sort by what they show.
   std::function<QString(int row, int column)> sortText = {};
   std::function<bool(int row)> isMuted = {};
-  std::function<bool(int row)> isMarked = {};   // with the sign that something is to be looked at
-  std::function<QString(int row)> toolTip = {}; // where the cell's own text is not enough
+  std::function<bool(int row)> isMarked = {};           // with the sign that something is to be looked at
+  std::function<bool(int row, int column)> isHigh = {}; // the best of its kind
+  std::function<QString(int row)> toolTip = {};         // where the cell's own text is not enough
 };
 
 class SnapshotModel : public QAbstractTableModel {
@@ -52,6 +55,8 @@ class SnapshotModel : public QAbstractTableModel {
   const std::vector<TableColumn>& columns() const { return m_columns; }
   // Other rows, in the order of the sort in force.
   void showRows(TableRows rows);
+  // Of the rows only those that every filter lets pass, one a column.
+  void filter(std::vector<ColumnFilter> filters);
   // The place, in the rows given, of a row shown; and the other way round, -1 for none.
   int sourceRow(int row) const { return m_order[static_cast<std::size_t>(row)]; }
   int shownRow(int sourceRow) const;
@@ -66,9 +71,11 @@ class SnapshotModel : public QAbstractTableModel {
  private:
   const TableColumn& column(int column) const { return m_columns[static_cast<std::size_t>(column)]; }
   std::vector<int> sortedOrder() const;
+  bool passes(int row) const;
 
   std::vector<TableColumn> m_columns;
   TableRows m_rows;
+  std::vector<ColumnFilter> m_filters;
   std::vector<int> m_order;
   int m_sortColumn = -1;
   Qt::SortOrder m_sortOrder = Qt::AscendingOrder;

@@ -13,7 +13,6 @@
 #include "printing/ReportOutput.h"
 #include "printing/WindowExports.h"
 #include "review/frmVIEW.h"
-#include "season/frmSTATS.h"
 #include "shell/CommandBar.h"
 #include "shell/ExchangeDesk.h"
 #include "shell/GameDialogs.h"
@@ -27,6 +26,7 @@
 #include "shell/WindowArea.h"
 #include "shell/WindowMemory.h"
 #include "shell/frmABOUT.h"
+#include "studies/frmSTATS.h"
 #include "teams/frmEQUIPES.h"
 #include "welcome/WelcomePage.h"
 

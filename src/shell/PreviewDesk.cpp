@@ -4,10 +4,10 @@
 #include "appearance/relabel.h"
 #include "printing/ReportOutput.h"
 #include "review/frmVIEW.h"
-#include "season/frmSTATS.h"
 #include "shell/CommandBar.h"
 #include "shell/PrintOffers.h"
 #include "shell/WindowArea.h"
+#include "studies/frmSTATS.h"
 
 #include <QMdiSubWindow>
 #include <utility>

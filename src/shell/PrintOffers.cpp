@@ -96,7 +96,9 @@ SeasonReport reportOfPage(frmSTATS::Page page, SeasonView leaders, const SeasonP
       return SeasonReport::PlayerShots;
     return person->isLine ? SeasonReport::Line : SeasonReport::Player;
   case frmSTATS::Page::Team: return SeasonReport::TeamDetail;
+  case frmSTATS::Page::Standings:
   case frmSTATS::Page::Games:
+  case frmSTATS::Page::Search:
   case frmSTATS::Page::LeftOut: break;
   }
   return SeasonReport::TeamSummary;

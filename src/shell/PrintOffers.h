@@ -8,7 +8,7 @@
 #include "report/SeasonReports.h"
 #include "scorecard/ScorecardView.h"
 #include "season/Season.h"
-#include "season/frmSTATS.h"
+#include "studies/frmSTATS.h"
 #include "teams/TeamStore.h"
 
 #include <memory>

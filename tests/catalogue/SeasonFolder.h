@@ -31,6 +31,7 @@ class SeasonFolder {
     scan();
     return {m_catalogue, m_catalogue.select(criteria), shown};
   }
+  const GameCatalogue& catalogue() const { return m_catalogue; }
   const TemporaryFolder& folder() const { return m_folder; }
 
  private:

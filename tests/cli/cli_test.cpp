@@ -392,6 +392,11 @@ TEST_F(Cli, SeasonTellsTheSameNumbersAsTextJsonAndCsv) {
   EXPECT_EQ(all["leaders"]["total"]["PTS"][1]["name"].text(), "Ida Ivers");
   EXPECT_EQ(all["leaders"]["perGame"]["PTS"][1]["value"].text(), "1.5");
   EXPECT_TRUE(all["leaders"]["perMinute"]["DKM"].array().empty());
+  EXPECT_EQ(ann["plusMinus"].integer(), 2) << "3-0 and 2-3";
+  EXPECT_EQ(all["lines"][0]["plusMinus"].integer(), 2);
+  EXPECT_EQ(all["teams"][0]["possessions"]["counted"].integer(), 2);
+  EXPECT_EQ(all["teams"][0]["possessions"]["estimated"].text(), "2.0");
+  EXPECT_EQ(all["teams"][0]["offRating"].text(), "250.0");
 
   const Json ofTeam =
       Json::parse(run("season --json --team OLY-A --from=2026-01-02 --type 2 " + folder).output);

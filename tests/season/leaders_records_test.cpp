@@ -40,6 +40,26 @@ TEST(Leaders, EqualValuesShareARankOrderedByFewerGamesThenName) {
   EXPECT_EQ(leadersIn("Ast", thirds, SeasonView::PerGame), "1Bea=0.3 1Cyd=0.3 3Ann=0.3 ");
 }
 
+TEST(Leaders, APlaceIsAmongThoseWhoHavePlayedEnough) {
+  std::vector<SeasonRow> rows = {player("Ann", 9, 3), player("Bea", 20, 3), player("Cyd", 9, 3),
+                                 player("Dee", 90, 1), player("Eve", 0, 3)};
+  for (SeasonRow& row : rows)
+    row.teamGames = 3; // Dee played one of three
+  const auto place = [&](std::size_t who) {
+    const auto found = placeOf(rows[who], rows, {}, [](const SeasonRow& row) -> std::optional<double> {
+      return row.name == "Eve"
+                 ? std::nullopt
+                 : std::optional(seasonSortValue(row, seasonColumn("Ast").index, SeasonView::PerGame));
+    });
+    return found ? std::to_string(found->place) + "/" + std::to_string(found->of) : "none";
+  };
+  EXPECT_EQ(place(0), "2/3");
+  EXPECT_EQ(place(1), "1/3");
+  EXPECT_EQ(place(2), "2/3");
+  EXPECT_EQ(place(3), "none");
+  EXPECT_EQ(place(4), "none");
+}
+
 TEST(Leaders, TheFirstTenAndThoseTiedWithTheTenth) {
   std::vector<SeasonRow> rows;
   for (int i = 0; i < 9; ++i)

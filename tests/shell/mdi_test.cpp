@@ -17,7 +17,6 @@
 #include "printing/frmprint.h"
 #include "recording/TimeSource.h"
 #include "review/frmVIEW.h"
-#include "season/frmSTATS.h"
 #include "settings/Settings.h"
 #include "setup/frmNEWGAME.h"
 #include "setup/frmSHEET.h"
@@ -26,6 +25,7 @@
 #include "shell/SharedFiles.h"
 #include "shell/WindowMemory.h"
 #include "storage/cinifile.h"
+#include "studies/frmSTATS.h"
 #include "support/ScriptedDialogs.h"
 #include "teams/frmEQUIPES.h"
 

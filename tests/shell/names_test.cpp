@@ -6,7 +6,7 @@
 #include "recording/TimeSource.h"
 #include "review/frmVIEW.h"
 #include "season/SeasonTableView.h"
-#include "season/frmSTATS.h"
+#include "studies/frmSTATS.h"
 #include "setup/frmNEWGAME.h"
 #include "support/WindowRoom.h"
 #include "teams/TeamStore.h"

@@ -1,5 +1,5 @@
-// The chosen player or line: records, the games one by one, a statistic as a picture, and a player's season
-// shot chart.
+// The chosen player or line: the games one by one with their averages, a statistic as a picture, where a
+// player shot from, the records, and what changes while he sits.
 #pragma once
 
 #include "season/Season.h"
@@ -9,10 +9,12 @@
 #include <memory>
 
 class QComboBox;
-class QLabel;
+class QTabWidget;
 
 namespace hooptab {
 
+class HexagonChart;
+class PersonHead;
 class SeriesView;
 class ZoneChart;
 
@@ -33,8 +35,11 @@ class PersonPanel : public QWidget {
   void gameAsked(std::size_t game); // its place in the catalogue
 
  private:
-  QWidget* makeRecords();
-  QWidget* makePictures();
+  QWidget* makeResults();
+  QWidget* makePicture();
+  QWidget* makeParts();
+  void showTables();
+  void showHigh();
   void showStatistics();
   void showTexts();
   void showPicture();
@@ -43,14 +48,15 @@ class PersonPanel : public QWidget {
   const Settings& m_settings;
   const Texts& m_texts;
   std::shared_ptr<const SeasonPerson> m_person;
-  QLabel* m_number;
-  QLabel* m_name;
-  QLabel* m_games;
-  QLabel* m_recordTitle;
+  PersonHead* m_head;
   SeasonTableView* m_records;
   SeasonTableView* m_results;
+  SeasonTableView* m_averages;
+  SeasonTableView* m_onOff;
   QComboBox* m_statistic;
   SeriesView* m_picture;
+  QTabWidget* m_parts;
+  HexagonChart* m_hexagons;
   ZoneChart* m_shots;
 };
 

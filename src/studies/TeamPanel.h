@@ -1,8 +1,10 @@
-// A team over the selected games: its balance, the margins of its games in order, and its season shot chart.
+// A team over the selected games: its balance, the margins of its games in order, its season shot chart, the
+// last games, how won and lost games differ, and which players do well together.
 #pragma once
 
 #include "season/GameSeries.h"
 #include "season/Season.h"
+#include "season/SeasonTableView.h"
 
 #include <QWidget>
 
@@ -23,6 +25,7 @@ class TeamPanel : public QWidget {
   explicit TeamPanel(const Texts& texts, QWidget* parent = nullptr);
 
   void showSeason(std::shared_ptr<const Season> season); // null: none yet
+  void chooseTeam(SeasonId team);
   void relabelPanel();
   void applyColours();
 
@@ -30,7 +33,12 @@ class TeamPanel : public QWidget {
   void gameAsked(std::size_t game); // its place in the catalogue
 
  private:
+  QWidget* makeTables();
+  QWidget* makeTogether();
   void showTeam();
+  void showTables();
+  void showTogether();
+  [[nodiscard]] SeasonId team() const;
 
   const Texts& m_texts;
   std::shared_ptr<const Season> m_season;
@@ -39,6 +47,11 @@ class TeamPanel : public QWidget {
   QLabel* m_balance;
   SeriesView* m_picture;
   ZoneChart* m_shots;
+  std::vector<std::size_t> m_games; // of the table of games, in the catalogue
+  SeasonTableView* m_lastGames;
+  SeasonTableView* m_splits;
+  QComboBox* m_together; // fives, trios, pairs
+  SeasonTableView* m_combinations;
 };
 
 } // namespace hooptab

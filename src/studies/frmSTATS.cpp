@@ -1,4 +1,4 @@
-#include "season/frmSTATS.h"
+#include "studies/frmSTATS.h"
 
 #include "appearance/Dialogs.h"
 #include "appearance/Fields.h"
@@ -6,22 +6,28 @@
 #include "appearance/Mnemonics.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
-#include "season/AveragesPanel.h"
-#include "season/CriteriaPanel.h"
-#include "season/FolderPanel.h"
-#include "season/LeadersPanel.h"
-#include "season/PersonPanel.h"
+#include "season/FilterRow.h"
 #include "season/SeasonTables.h"
-#include "season/TeamPanel.h"
 #include "settings/CountWords.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
+#include "studies/AveragesPanel.h"
+#include "studies/CriteriaPanel.h"
+#include "studies/FolderPanel.h"
+#include "studies/LeadersPanel.h"
+#include "studies/PersonPanel.h"
+#include "studies/SavedViews.h"
+#include "studies/SearchPanel.h"
+#include "studies/StandingsPanel.h"
+#include "studies/TeamPanel.h"
 
 #include <QBoxLayout>
 #include <QDataStream>
 #include <QDir>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMap>
 #include <QShortcut>
 #include <QSplitter>
@@ -35,24 +41,32 @@ namespace hooptab {
 namespace {
 
 constexpr int kMargin = 8;
+constexpr int kSearchWidth = 220;
 
 } // namespace
 
 frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& texts, Dialogs& dialogs,
                    QWidget* parent)
     : ChildWindow(parent), m_files(files), m_settings(settings), m_texts(texts), m_dialogs(dialogs),
-      m_folder(new FolderPanel(texts, this)), m_notice(noticeLabel(this)), m_tabs(new QTabWidget(this)),
+      m_folder(new FolderPanel(texts, this)), m_search(new QLineEdit(this)), m_notice(noticeLabel(this)),
+      m_tabs(new QTabWidget(this)), m_standings(new StandingsPanel(settings, texts, m_tabs)),
       m_notRead(new SeasonTableView(QStringLiteral("lvwNOTREAD"), 0, m_tabs)),
       m_players(new AveragesPanel(SeasonTable::Players, settings, texts, m_tabs)),
       m_lines(new AveragesPanel(SeasonTable::Lines, settings, texts, m_tabs)),
       m_leaders(new LeadersPanel(settings, texts, m_tabs)),
-      m_person(new PersonPanel(settings, texts, m_tabs)), m_team(new TeamPanel(texts, m_tabs)) {
+      m_person(new PersonPanel(settings, texts, m_tabs)), m_team(new TeamPanel(texts, m_tabs)),
+      m_found(new SearchPanel(texts, m_tabs)) {
   setObjectName(QStringLiteral("frmSTATS"));
   m_tabs->setObjectName(QStringLiteral("tabs"));
   m_folder->showFolder(toQt(settings.lastGameFolder), false);
-  const std::pair<QWidget*, Text> pages[] = {{makeGames(), Text::GamesTitle}, {m_players, Text::Players},
-                                             {m_lines, Text::Lines},          {m_leaders, Text::LeadersTab},
-                                             {m_person, Text::PersonTab},     {m_team, Text::Team},
+  const std::pair<QWidget*, Text> pages[] = {{m_standings, Text::StandingsTab},
+                                             {makeGames(), Text::GamesTitle},
+                                             {m_players, Text::Players},
+                                             {m_lines, Text::Lines},
+                                             {m_leaders, Text::LeadersTab},
+                                             {m_person, Text::PersonTab},
+                                             {m_team, Text::Team},
+                                             {m_found, Text::SearchTab},
                                              {m_notRead, Text::NotReadTab}};
   for (const auto& [page, text] : pages) {
     m_tabs->addTab(page, QString());
@@ -60,18 +74,22 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
   }
   setAccessibleNumber(*m_notRead, Text::NotReadTab);
   m_tabs->setTabVisible(m_tabs->indexOf(m_notRead), false);
-  auto* copy = new QToolButton(m_tabs);
-  copy->setObjectName(QStringLiteral("cmdCOPY"));
-  copy->setAutoRaise(true);
-  copy->setIcon(icon(QStringLiteral("copy")));
-  setToolTipNumber(*copy, Text::CopyTable);
-  setAccessibleNumber(*copy, Text::CopyTable);
-  m_tabs->setCornerWidget(copy);
+  m_tabs->setCornerWidget(makeTools());
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout->setSpacing(6);
-  layout->addWidget(m_folder);
+  m_search->setObjectName(QStringLiteral("txtSEARCHEVENTS"));
+  m_search->setMinimumWidth(kSearchWidth);
+  m_search->setClearButtonEnabled(true);
+  setPlaceholderNumber(*m_search, Text::SearchAllEvents);
+  setAccessibleNumber(*m_search, Text::SearchAllEvents);
+  setToolTipNumber(*m_search, Text::SearchEventsHint);
+  auto* head = new QHBoxLayout;
+  head->setSpacing(kMargin);
+  head->addWidget(m_folder, 1);
+  head->addWidget(m_search, 0, Qt::AlignTop);
+  layout->addLayout(head);
   layout->addWidget(m_notice);
   layout->addWidget(m_tabs, 1);
 
@@ -91,16 +109,48 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
           [this](const SeasonRow& row) { showPerson(row, false); });
   connect(m_lines, &AveragesPanel::personAsked, this,
           [this](const SeasonRow& row) { showPerson(row, true); });
+  connect(m_search, &QLineEdit::returnPressed, this, &frmSTATS::search);
+  connect(m_found, &SearchPanel::gameAsked, this, &frmSTATS::openGame);
+  connect(m_standings, &StandingsPanel::gameAsked, this, &frmSTATS::openGame);
+  connect(m_standings, &StandingsPanel::teamAsked, this, &frmSTATS::showTeam);
+  connect(m_standings, &StandingsPanel::personAsked, this,
+          [this](const SeasonRow& row) { showPerson(row, false); });
   connect(m_leaders, &LeadersPanel::minimumChosen, this, &frmSTATS::chooseMinimum);
   connect(m_person, &PersonPanel::gameAsked, this, &frmSTATS::openGame);
   connect(m_team, &TeamPanel::gameAsked, this, &frmSTATS::openGame);
-  connect(copy, &QToolButton::clicked, this, &frmSTATS::copyShownTable);
   for (SeasonTableView* table : findChildren<SeasonTableView*>()) {
     connect(table, &SeasonTableView::copied, this,
             [this] { emit reported(caption(m_texts, Text::TableCopied)); });
     connect(table, &SeasonTableView::focused, this, [this, table] { m_lastTable = table; });
   }
   relabelWindow();
+}
+
+QWidget* frmSTATS::makeTools() {
+  auto* tools = new QWidget(m_tabs);
+  auto* layout = new QHBoxLayout(tools);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(2);
+  const auto add = [&](QToolButton* button, const char* name, const char* iconName, Text text) {
+    button->setObjectName(QLatin1String(name));
+    button->setAutoRaise(true);
+    button->setIcon(icon(QLatin1String(iconName)));
+    setToolTipNumber(*button, text);
+    setAccessibleNumber(*button, text);
+    layout->addWidget(button);
+    return button;
+  };
+  m_filters = add(new QToolButton(tools), "cmdFILTERS", "filter", Text::ShowFilters);
+  m_filters->setCheckable(true);
+  m_views = new SavedViews(m_texts, tools);
+  add(m_views, "cmdVIEWS", "sheet", Text::SavedViews);
+  const QToolButton* copy = add(new QToolButton(tools), "cmdCOPY", "copy", Text::CopyTable);
+  connect(m_filters, &QToolButton::toggled, this, &frmSTATS::showFilters);
+  connect(m_views, &SavedViews::keepAsked, this,
+          [this](const QString& name) { m_views->keep(name, view()); });
+  connect(m_views, &SavedViews::viewAsked, this, &frmSTATS::showView);
+  connect(copy, &QToolButton::clicked, this, &frmSTATS::copyShownTable);
+  return tools;
 }
 
 QWidget* frmSTATS::makeGames() {
@@ -112,11 +162,11 @@ QWidget* frmSTATS::makeGames() {
   layout->setContentsMargins(4, 4, 4, 4);
   layout->setSpacing(6);
   layout->addWidget(m_criteria);
-  layout->addWidget(m_games, 1);
+  layout->addWidget(withFilters(*m_games, 0, m_texts, page), 1);
   connect(m_criteria, &CriteriaPanel::changed, this,
           [this] { m_criteria->showWhatIsOffered(m_desk, isBusy()); });
   connect(m_criteria, &CriteriaPanel::applyAsked, this, &frmSTATS::apply);
-  connect(m_criteria, &CriteriaPanel::generateAsked, this, &frmSTATS::generate);
+  connect(m_criteria, &CriteriaPanel::generateAsked, this, [this] { generate(*m_players); });
   connect(m_games, &SeasonTableView::rowAsked, this,
           [this](int row) { openGame(m_desk.listed()[static_cast<std::size_t>(row)]); });
   return page;
@@ -160,6 +210,7 @@ void frmSTATS::takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue
     m_problem = Text::NoFinishedGame;
   m_countedWrong.clear();
   m_desk.takeCatalogue(std::move(catalogue));
+  m_found->clear();
   showCatalogue();
   showSeason();
 }
@@ -169,22 +220,44 @@ void frmSTATS::apply() {
   showList();
 }
 
-void frmSTATS::generate() {
+void frmSTATS::generate(QWidget& page) {
   if (isBusy() || !mayCountWrong())
     return;
   m_progressCount = m_desk.listed().size();
   startWork(Text::GeneratingOfOne, Text::GeneratingStatistics,
-            [this, order = m_desk.order(), // texts of its own: the user may change the language
+            [this, &page, order = m_desk.order(), // texts of its own: the user may change the language
              texts = m_texts](const TaskWatch& watch) -> Task::Delivery {
               auto season = order.carryOut(texts, watch);
-              return [this, order, season] {
+              return [this, &page, order, season] {
                 if (season == nullptr || m_task.isCancelled()) {
                   m_problem = Text::ReadingCancelled;
                   return;
                 }
                 m_desk.takeSeason(season, order, m_texts);
                 showSeason();
-                m_tabs->setCurrentWidget(m_players);
+                m_tabs->setCurrentWidget(&page);
+              };
+            });
+}
+
+void frmSTATS::search() {
+  if (isBusy() || !m_desk.hasCatalogue() || m_search->text().trimmed().isEmpty())
+    return;
+  const std::shared_ptr<const GameCatalogue> catalogue = m_desk.catalogue();
+  const EventQuery query = parseEventQuery(fromQt(m_search->text()), catalogue->teams());
+  m_tabs->setCurrentWidget(m_found);
+  if (query.isEmpty())
+    return m_found->showUnknown(query);
+  m_progressCount = m_desk.listed().size();
+  startWork(Text::SearchingGames, Text::SearchingGames,
+            [this, &files = m_files, catalogue, games = m_desk.listed(), query,
+             texts = m_texts](const TaskWatch& watch) -> Task::Delivery {
+              FoundEvents found = searchEvents(files, *catalogue, games, query.criteria, texts, watch);
+              return [this, catalogue, query, found = std::move(found)] {
+                if (m_task.isCancelled())
+                  m_problem = Text::ReadingCancelled;
+                else
+                  m_found->showFound(catalogue, query, found);
               };
             });
 }
@@ -236,10 +309,16 @@ void frmSTATS::showPerson(const SeasonRow& row, bool isLine) {
             });
 }
 
+void frmSTATS::showTeam(SeasonId team) {
+  m_team->chooseTeam(team);
+  m_tabs->setCurrentWidget(m_team);
+}
+
 void frmSTATS::chooseMinimum(const Qualification& minimum) {
   m_desk.setMinimum(minimum, m_texts);
   m_players->showSeason(m_desk.season()); // whose marks it decides
   m_leaders->showMinimum(minimum, m_desk.season());
+  m_standings->showSeason(m_desk.season());
 }
 
 std::shared_ptr<const SeasonPerson> frmSTATS::chosenPerson() const {
@@ -291,6 +370,7 @@ void frmSTATS::showCatalogue() {
 
 void frmSTATS::showList() {
   m_games->showRows(gameListRows(m_desk.catalogue(), m_desk.listed(), m_desk.chosenTeam(), m_texts));
+  m_standings->showGames(m_desk.catalogue(), m_desk.listed());
   const GameCatalogue& catalogue = *m_desk.catalogue();
   const Text listedText = catalogue.games().size() == 1 ? Text::ListedOfOne : Text::ListedGames;
   const std::string listed =
@@ -310,6 +390,7 @@ void frmSTATS::showList() {
 }
 
 void frmSTATS::showSeason() {
+  m_standings->showSeason(m_desk.season());
   m_players->showSeason(m_desk.season());
   m_lines->showSeason(m_desk.season());
   m_leaders->showSeason(m_desk.season());
@@ -341,17 +422,67 @@ void frmSTATS::copyShownTable() {
   emit reported(caption(m_texts, Text::TableCopied));
 }
 
+void frmSTATS::showFilters(bool areShown) {
+  for (FilterRow* row : findChildren<FilterRow*>())
+    row->showFields(areShown);
+}
+
+QByteArray frmSTATS::view() const {
+  QMap<QString, QStringList> filters;
+  for (const FilterRow* row : findChildren<FilterRow*>())
+    filters[row->objectName()] = row->typed();
+  QMap<QString, QByteArray> columns;
+  for (const SeasonTableView* table : findChildren<SeasonTableView*>())
+    columns[table->objectName()] = table->horizontalHeader()->saveState();
+  QByteArray state;
+  QDataStream stream(&state, QIODevice::WriteOnly);
+  stream << qint32(m_tabs->currentIndex()) << m_criteria->kept() << m_filters->isChecked() << filters
+         << columns;
+  return qCompress(state); // the columns of many tables are much alike
+}
+
+void frmSTATS::showView(const QByteArray& view) {
+  qint32 index = 0;
+  QByteArray criteria;
+  bool hasFilters = false;
+  QMap<QString, QStringList> filters;
+  QMap<QString, QByteArray> columns;
+  const QByteArray state = qUncompress(view);
+  QDataStream stream(state);
+  stream >> index >> criteria >> hasFilters >> filters >> columns;
+  QWidget* page = m_tabs->widget(index);
+  if (stream.status() != QDataStream::Ok || page == nullptr || isBusy())
+    return;
+  m_criteria->restore(criteria);
+  for (FilterRow* row : findChildren<FilterRow*>())
+    row->setTyped(filters[row->objectName()]);
+  m_filters->setChecked(hasFilters);
+  for (SeasonTableView* table : findChildren<SeasonTableView*>()) {
+    if (const QByteArray header = columns[table->objectName()]; !header.isEmpty())
+      table->horizontalHeader()->restoreState(header);
+  }
+  m_tabs->setCurrentWidget(page);
+  if (!m_desk.hasCatalogue())
+    return;
+  apply();
+  const bool showsFigures = page == m_players || page == m_lines || page == m_leaders || page == m_team;
+  if (showsFigures && m_desk.canGenerate() && (m_desk.season() == nullptr || m_desk.isOutdated()))
+    generate(*page);
+}
+
 void frmSTATS::relabelWindow() {
   relabel(*this, m_texts);
   setWindowTitle(caption(m_texts, Text::SeasonTitle));
   m_criteria->relabelPanel();
   m_games->showColumns(gameListColumns(m_texts));
   m_notRead->showColumns(skippedColumns(m_texts));
+  m_standings->relabelPanel();
   m_players->relabelPanel();
   m_lines->relabelPanel();
   m_leaders->relabelPanel();
   m_person->relabelPanel();
   m_team->relabelPanel();
+  m_found->relabelPanel();
   if (m_desk.hasCatalogue()) {
     m_criteria->showDesk(m_desk);
     showList();
@@ -362,7 +493,9 @@ void frmSTATS::relabelWindow() {
 }
 
 void frmSTATS::applyColours() {
-  findChild<QToolButton*>(QStringLiteral("cmdCOPY"))->setIcon(icon(QStringLiteral("copy")));
+  for (const auto& [name, iconName] :
+       {std::pair("cmdCOPY", "copy"), {"cmdFILTERS", "filter"}, {"cmdVIEWS", "sheet"}})
+    findChild<QToolButton*>(QLatin1String(name))->setIcon(icon(QLatin1String(iconName)));
   m_person->applyColours();
   m_team->applyColours();
   relabelWindow(); // tool tips name the user's statistics
@@ -379,7 +512,7 @@ QByteArray frmSTATS::arrangement() const {
   QDataStream stream(&state, QIODevice::WriteOnly);
   const Qualification& minimum = m_desk.minimum();
   stream << m_folder->folder() << m_folder->withSubfolders() << parts << qint32(minimum.gamesPercent)
-         << qint32(minimum.minutes) << qint32(minimum.attempts);
+         << qint32(minimum.minutes) << qint32(minimum.attempts) << m_views->views();
   return state;
 }
 
@@ -404,6 +537,10 @@ void frmSTATS::restoreArrangement(const QByteArray& state) {
     chooseMinimum({std::clamp(games, 0, Qualification::kMostPercent),
                    std::clamp(minutes, 0, Qualification::kMostMinutes),
                    std::clamp(attempts, 0, Qualification::kMostAttempts)});
+  SavedViews::Views views;
+  stream >> views;
+  if (stream.status() == QDataStream::Ok)
+    m_views->setViews(std::move(views));
 }
 
 } // namespace hooptab

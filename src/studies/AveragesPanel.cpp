@@ -1,10 +1,11 @@
-#include "season/AveragesPanel.h"
+#include "studies/AveragesPanel.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
+#include "season/FilterRow.h"
 #include "season/SeasonTables.h"
-#include "season/ViewSwitch.h"
 #include "settings/CountWords.h"
+#include "studies/ViewSwitch.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>
@@ -30,7 +31,7 @@ AveragesPanel::AveragesPanel(SeasonTable kind, const Settings& settings, const T
                                                     : QStringLiteral("lvwSTATjoueurs(%1)");
     m_tables[i] = new SeasonTableView(name.arg(i), kFrozen, m_stack);
     setAccessibleNumber(*m_tables[i], kind == SeasonTable::Lines ? Text::LineStatistics : Text::PlayerTitle);
-    m_stack->addWidget(m_tables[i]);
+    m_stack->addWidget(withFilters(*m_tables[i], kFrozen, texts, m_stack));
     connect(m_tables[i], &SeasonTableView::rowAsked, this, [this](int row) {
       const SeasonStatistics& statistics = m_season->statistics();
       emit personAsked((m_kind == SeasonTable::Lines ? statistics.lines()
@@ -65,14 +66,17 @@ void AveragesPanel::showSeason(std::shared_ptr<const Season> season) {
 }
 
 void AveragesPanel::showColumns() {
-  constexpr int kTeamPlace = 2; // behind the name
+  constexpr int kTeamPlace = 2;      // behind the name
+  constexpr int kPlusMinusPlace = 5; // behind the games
   for (const SeasonView view : kSeasonViews) {
     SeasonTableView& table = *m_tables[static_cast<std::size_t>(view)];
     table.showColumns(seasonTableColumns(m_kind, view, m_season.get(), m_settings, m_texts));
     QHeaderView& header = *table.horizontalHeader();
     const int team = table.content().columnCount() - 1;
-    if (header.visualIndex(team) == team)
+    if (header.visualIndex(team) == team) {
       header.moveSection(team, kTeamPlace);
+      header.moveSection(header.visualIndex(team - 1), kPlusMinusPlace);
+    }
   }
 }
 
@@ -87,10 +91,10 @@ void AveragesPanel::relabelPanel() {
 }
 
 void AveragesPanel::showView(SeasonView view) {
-  const int row = static_cast<SeasonTableView*>(m_stack->currentWidget())->currentRow();
+  const int row = m_tables[static_cast<std::size_t>(m_stack->currentIndex())]->currentRow();
   m_stack->setCurrentIndex(static_cast<int>(view));
   if (row >= 0)
-    table().setCurrentIndex(table().content().index(table().content().shownRow(row), 0));
+    table().setCurrentIndex(table().content().index(table().content().shownRow(row), 0)); // none: filtered
   showTexts();
 }
 

@@ -1,4 +1,4 @@
-#include "season/ViewSwitch.h"
+#include "studies/ViewSwitch.h"
 
 #include "appearance/relabel.h"
 

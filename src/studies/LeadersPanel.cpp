@@ -1,10 +1,10 @@
-#include "season/LeadersPanel.h"
+#include "studies/LeadersPanel.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"
-#include "season/MinimumBox.h"
 #include "season/SeasonTables.h"
-#include "season/ViewSwitch.h"
+#include "studies/MinimumBox.h"
+#include "studies/ViewSwitch.h"
 
 #include <QBoxLayout>
 #include <QSignalBlocker>

@@ -1,4 +1,4 @@
-#include "season/CriteriaPanel.h"
+#include "studies/CriteriaPanel.h"
 
 #include "appearance/Fields.h"
 #include "appearance/LanguageLocale.h"
@@ -9,6 +9,7 @@
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDataStream>
 #include <QDateEdit>
 #include <QGridLayout>
 #include <QLabel>
@@ -196,6 +197,37 @@ void CriteriaPanel::showWhatIsOffered(const SeasonDesk& desk, bool isBusy) {
   const bool hasTeam = m_team->currentIndex() > 0;
   m_where->setEnabled(hasTeam);
   m_where->setToolTip(caption(m_texts, hasTeam ? Text::WhereCriterion : Text::NeedsTeam));
+}
+
+QByteArray CriteriaPanel::kept() const {
+  QByteArray kept;
+  QDataStream stream(&kept, QIODevice::WriteOnly);
+  for (const QComboBox* choice : {m_team, m_type, m_where, m_input, m_position})
+    stream << choice->currentData();
+  stream << m_dates[0]->date() << m_dates[1]->date();
+  for (const QCheckBox* box : {m_withDate, m_countOnce, m_leaveOutWrong})
+    stream << box->isChecked();
+  return kept;
+}
+
+void CriteriaPanel::restore(const QByteArray& kept) {
+  QDataStream stream(kept);
+  for (QComboBox* choice : {m_team, m_type, m_where, m_input, m_position}) {
+    QVariant value;
+    stream >> value;
+    choice->setCurrentIndex(value.isValid() ? std::max(choice->findData(value), 0) : 0);
+  }
+  for (QDateEdit* date : m_dates) {
+    QDate day;
+    stream >> day;
+    if (day.isValid())
+      date->setDate(day);
+  }
+  for (QCheckBox* box : {m_withDate, m_countOnce, m_leaveOutWrong}) {
+    bool isChecked = false;
+    stream >> isChecked;
+    box->setChecked(isChecked);
+  }
 }
 
 void CriteriaPanel::relabelPanel() {

@@ -1,6 +1,7 @@
 #include "catalogue/SeasonFolder.h"
 #include "court/CourtView.h"
 #include "season/SeriesView.h"
+#include "studies/SavedViews.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
@@ -8,6 +9,7 @@
 #include <QDateEdit>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <filesystem>
@@ -149,15 +151,15 @@ TEST_F(SeasonWindowTest, GeneratesTheTablesInTheirInstances) {
   const int columns = static_cast<int>(seasonColumns().size());
   for (const char* name :
        {"lvwSTATjoueurs(0)", "lvwSTATjoueurs(1)", "lvwSTATjoueurs(2)", "lvwSTATjoueurs(3)"}) {
-    EXPECT_EQ(table(name).model()->columnCount(), columns + 1) << name;
-    EXPECT_EQ(table(name).horizontalHeader()->visualIndex(columns), 2) << "the team, beside the name";
+    EXPECT_EQ(table(name).model()->columnCount(), columns + 2) << name;
+    EXPECT_EQ(table(name).horizontalHeader()->visualIndex(columns + 1), 2) << "the team, beside the name";
     EXPECT_TRUE(table(name).isColumnHidden(54)) << name;
     EXPECT_EQ(rows(name), rows("lvwSTATjoueurs(0)")) << name;
   }
   EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, 1).contains(u',')) << "its players by name";
   const int ofLines = columns - 2; // lines have no positions
-  EXPECT_EQ(table("lvwSTATlignes(0)").model()->columnCount(), ofLines + 1);
-  EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, ofLines).contains(u'-')) << "its team";
+  EXPECT_EQ(table("lvwSTATlignes(0)").model()->columnCount(), ofLines + 2);
+  EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, ofLines + 1).contains(u'-')) << "its team";
   EXPECT_GT(rows("lvwSTATlignes(2)"), rows("lvwSTATjoueurs(0)"));
   // By rank: the most points first; and each instance the same row divided.
   const double total = cell("lvwSTATjoueurs(0)", 0, kPoints).toDouble();
@@ -219,6 +221,18 @@ TEST_F(SeasonWindowTest, ShowsAPlayerGameByGame) {
   ASSERT_EQ(static_cast<int>(picture.drawing().values.size()), games);
   EXPECT_EQ(*std::ranges::max_element(picture.drawing().values), most);
   EXPECT_TRUE(picture.drawing().title.contains(QStringLiteral("Points")));
+  const auto high = [&](int row) {
+    const QVariant ground = table("lvwRESULTS").model()->index(row, 11).data(Qt::BackgroundRole);
+    return ground.value<QBrush>().color() == Theme::look().seasonHigh;
+  };
+  for (int row = 0; row < games; ++row)
+    EXPECT_EQ(high(row), cell("lvwRESULTS", row, 11).toInt() == most) << row;
+  ASSERT_EQ(rows("lvwAVERAGES"), 3);
+  EXPECT_EQ(cell("lvwAVERAGES", 0, 8), cell("lvwSTATjoueurs(1)", 0, kPoints));
+  ASSERT_EQ(rows("lvwONOFF"), 6);
+  EXPECT_NEAR(cell("lvwONOFF", 0, 1).toDouble() - cell("lvwONOFF", 0, 2).toDouble(),
+              cell("lvwONOFF", 0, 3).replace(QChar(0x2212), u'-').toDouble(), 0.11);
+  EXPECT_TRUE(dynamic_cast<ShownPicture&>(find<QWidget>("picHEXAGONS")).hasPicture());
   QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
   emit table("lvwRESULTS").rowAsked(0);
   QTest::keyClick(&picture, Qt::Key_Right);
@@ -229,13 +243,14 @@ TEST_F(SeasonWindowTest, ShowsAPlayerGameByGame) {
 
   emit table("lvwSTATlignes(0)").rowAsked(0);
   wait();
-  EXPECT_EQ(find<QLabel>("lblRECORDS").text(), caption(texts, Text::LineRecords));
+  EXPECT_EQ(find<QTabWidget>("personTabs").tabText(2), caption(texts, Text::LineRecords));
   EXPECT_FALSE(find<QWidget>("picSHOTS").findChild<CourtView*>()->isVisible()) << "no shots are kept by line";
 }
 
 TEST_F(SeasonWindowTest, OpensAGameByDoubleClickAndByEnter) {
   read();
   QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
+  find<QTabWidget>("tabs").setCurrentIndex(1);
   SeasonTableView& games = table("lvwGAMES");
   games.model()->sort(0, Qt::DescendingOrder);
   const QPoint place = games.visualRect(games.model()->index(1, 1)).center();
@@ -246,6 +261,97 @@ TEST_F(SeasonWindowTest, OpensAGameByDoubleClickAndByEnter) {
   games.setFocus();
   QTest::keyClick(&games, Qt::Key_Return);
   EXPECT_EQ(opened.size(), 2);
+}
+
+TEST_F(SeasonWindowTest, ShowsTheStandingsOfTheGamesAsSoonAsTheyAreRead) {
+  read();
+  EXPECT_EQ(currentPage(), QStringLiteral("Standings"));
+  ASSERT_EQ(rows("lvwSTANDINGS"), 4);
+  int games = 0;
+  for (int row = 0; row < 4; ++row)
+    games += cell("lvwSTANDINGS", row, 3).toInt();
+  EXPECT_EQ(games, 2 * (kGames + 1));
+  EXPECT_GE(cell("lvwSTANDINGS", 0, 6).toDouble(), cell("lvwSTANDINGS", 3, 6).toDouble());
+  auto& last = find<QListWidget>("lvwLASTGAMES");
+  QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
+  emit last.itemActivated(last.item(0));
+  ASSERT_EQ(opened.size(), 1);
+  EXPECT_EQ(opened[0][0].toString(), cell("lvwGAMES", kGames, 9)) << "the last of the list";
+  generate();
+  auto& leaders = find<QListWidget>("lvwBOARD(0)");
+  ASSERT_EQ(leaders.count(), 3);
+  EXPECT_TRUE(leaders.item(0)->text().contains(cell("lvwSTATjoueurs(1)", 0, 1)));
+  emit table("lvwSTANDINGS").rowAsked(1);
+  EXPECT_EQ(currentPage(), QStringLiteral("Team"));
+  EXPECT_TRUE(find<QComboBox>("lstTEAM").currentText().startsWith(cell("lvwSTANDINGS", 1, 1)));
+}
+
+TEST_F(SeasonWindowTest, FindsEventsOfTheSelectedGames) {
+  read();
+  auto& field = find<QLineEdit>("txtSEARCHEVENTS");
+  const auto search = [&](const char* text) {
+    field.setText(QLatin1String(text));
+    emit field.returnPressed();
+    wait();
+  };
+  search("nonsense");
+  EXPECT_EQ(currentPage(), QStringLiteral("Search"));
+  EXPECT_TRUE(find<QLabel>("lblUNDERSTOOD").text().contains(QStringLiteral("nonsense")));
+  search("3P made last minute");
+  const int found = rows("lvwFOUND");
+  ASSERT_GT(found, 0);
+  QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
+  emit table("lvwFOUND").rowAsked(0);
+  ASSERT_EQ(opened.size(), 1);
+  choose("lstequipes", find<QComboBox>("lstequipes").itemText(1));
+  click("cmdFILTER");
+  search("3P made last minute");
+  EXPECT_LT(rows("lvwFOUND"), found) << "of the selected games alone";
+}
+
+TEST_F(SeasonWindowTest, FiltersTypedAboveTheColumnsHoldRowsBack) {
+  readAndGenerate();
+  const int all = rows("lvwSTATjoueurs(1)");
+  auto& field = find<QLineEdit>("lvwSTATjoueurs(1)filters(10)");
+  EXPECT_FALSE(field.isVisible());
+  find<QToolButton>("cmdFILTERS").click();
+  field.setText(QStringLiteral(">10"));
+  const int some = rows("lvwSTATjoueurs(1)");
+  EXPECT_GT(some, 0);
+  EXPECT_LT(some, all);
+  table("lvwSTATjoueurs(1)").model()->sort(kPoints, Qt::AscendingOrder);
+  EXPECT_GT(cell("lvwSTATjoueurs(1)", 0, kPoints).toDouble(), 9.9);
+  const QString first = cell("lvwSTATjoueurs(1)", 0, 1);
+  const int source = table("lvwSTATjoueurs(1)").content().sourceRow(0);
+  find<QToolButton>("cmdFILTERS").click();
+  EXPECT_EQ(rows("lvwSTATjoueurs(1)"), all) << "hidden fields hold nothing back";
+  EXPECT_EQ(cell("lvwSTATjoueurs(1)", table("lvwSTATjoueurs(1)").content().shownRow(source), 1), first);
+}
+
+TEST_F(SeasonWindowTest, AViewIsKeptUnderItsName) {
+  readAndGenerate();
+  const QString team = find<QComboBox>("lstequipes").itemText(2);
+  choose("lstequipes", team);
+  click("cmdFILTER");
+  generate();
+  find<QTabWidget>("tabs").setCurrentIndex(4);
+  find<QToolButton>("cmdFILTERS").click();
+  find<QLineEdit>("lvwGAMESfilters(2)").setText(QStringLiteral("W"));
+  const int wins = rows("lvwGAMES");
+  emit find<SavedViews>("cmdVIEWS").keepAsked(QStringLiteral("Wins & more"));
+  const QByteArray kept = window->arrangement();
+  makeWindow();
+  window->restoreArrangement(kept);
+  read();
+  EXPECT_GT(rows("lvwGAMES"), wins);
+  const SavedViews::Views& views = find<SavedViews>("cmdVIEWS").views();
+  ASSERT_EQ(views.keys(), QStringList(QStringLiteral("Wins & more")));
+  emit find<SavedViews>("cmdVIEWS").viewAsked(views.first());
+  wait();
+  EXPECT_EQ(rows("lvwGAMES"), wins);
+  EXPECT_EQ(find<QComboBox>("lstequipes").currentText(), team);
+  EXPECT_EQ(currentPage(), QStringLiteral("Leaders"));
+  EXPECT_NE(window->statistics(), nullptr) << "what the page shows is made";
 }
 
 TEST_F(SeasonWindowTest, ShowsLeadersAndATeam) {
@@ -264,6 +370,12 @@ TEST_F(SeasonWindowTest, ShowsLeadersAndATeam) {
   for (const auto& margin : margins.values)
     wins += *margin > 0 ? 1 : 0;
   EXPECT_TRUE(find<QLabel>("lblBALANCE").text().startsWith(QString::number(wins) + QStringLiteral(" win")));
+  EXPECT_EQ(rows("lvwTEAMGAMES"), static_cast<int>(margins.values.size()));
+  EXPECT_EQ(cell("lvwSPLITS", 1, 1), QString::number(wins)) << "games won";
+  const int fives = rows("lvwTOGETHER");
+  find<QComboBox>("lstTOGETHER").setCurrentIndex(2);
+  EXPECT_EQ(cell("lvwTOGETHER", 0, 0).count(u','), 1) << "pairs";
+  EXPECT_NE(rows("lvwTOGETHER"), fives);
   const QString title = margins.title;
   teams.setCurrentIndex(1);
   EXPECT_NE(find<SeriesView>("picMARGINS").drawing().title, title);
@@ -271,7 +383,7 @@ TEST_F(SeasonWindowTest, ShowsLeadersAndATeam) {
 
 TEST_F(SeasonWindowTest, TheMinimumDecidesWhoLeadsAndIsKept) {
   readAndGenerate();
-  find<QTabWidget>("tabs").setCurrentIndex(3);
+  find<QTabWidget>("tabs").setCurrentIndex(4);
   QWidget& page = *find<QTabWidget>("tabs").currentWidget();
   page.findChild<QToolButton*>(QStringLiteral("cmdPERGAME"))->click();
   const auto set = [&](const char* name, int value) { find<QSpinBox>(name).setValue(value); };
@@ -311,8 +423,8 @@ TEST_F(SeasonWindowTest, EveryTableCanBeCopied) {
   find<QToolButton>("cmdCOPY").click();
   const QStringList lines = QApplication::clipboard()->text().split(u'\n');
   EXPECT_EQ(lines.size(), rows("lvwSTATjoueurs(0)") + 2) << "headers, rows, and the last line's end";
-  EXPECT_EQ(lines[0].split(u'\t').size(), std::ssize(seasonColumns()))
-      << "all but the hidden one, and the team";
+  EXPECT_EQ(lines[0].split(u'\t').size(), std::ssize(seasonColumns()) + 1)
+      << "all but the hidden one, points on court, and the team";
   EXPECT_TRUE(lines[1].contains(cell("lvwSTATjoueurs(0)", 0, 1)));
   EXPECT_EQ(reports.size(), 1);
 }

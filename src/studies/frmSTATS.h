@@ -9,7 +9,9 @@
 #include "season/SeasonDesk.h"
 
 class QLabel;
+class QLineEdit;
 class QTabWidget;
+class QToolButton;
 
 namespace hooptab {
 
@@ -19,8 +21,11 @@ class Dialogs;
 class FolderPanel;
 class LeadersPanel;
 class PersonPanel;
+class SavedViews;
+class SearchPanel;
 class SeasonTableView;
 class Settings;
+class StandingsPanel;
 class TeamPanel;
 
 class frmSTATS : public ChildWindow {
@@ -42,7 +47,7 @@ class frmSTATS : public ChildWindow {
   std::optional<SeasonId> chosenTeam() const { return m_desk.chosenTeam(); }
   std::shared_ptr<const SeasonPerson> chosenPerson() const; // player or line; null: nobody
   // What is in front, for whoever prints it.
-  enum class Page { Games, Players, Lines, Leaders, Person, Team, LeftOut };
+  enum class Page { Standings, Games, Players, Lines, Leaders, Person, Team, Search, LeftOut };
   Page shownPage() const;
   SeasonView shownLeaders() const; // the view of the leaders
 
@@ -58,9 +63,11 @@ class frmSTATS : public ChildWindow {
   QWidget* makeGames();
   void browse();
   void apply();
-  void generate();
+  void generate(QWidget& page); // which is shown then
+  void search();
   bool mayCountWrong();
   void showPerson(const SeasonRow& row, bool isLine);
+  void showTeam(SeasonId team);
   void chooseMinimum(const Qualification& minimum);
   void openGame(std::size_t game);
   void takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue> catalogue);
@@ -74,6 +81,11 @@ class frmSTATS : public ChildWindow {
   void showSeason();
   void showNotice();
   void copyShownTable();
+  QWidget* makeTools();
+  void showFilters(bool areShown);
+  // Criteria, page, filters, and columns with their order and sort.
+  QByteArray view() const;
+  void showView(const QByteArray& view);
 
   FileSystem& m_files;
   const Settings& m_settings;
@@ -88,16 +100,21 @@ class frmSTATS : public ChildWindow {
   Text m_problem = Text::None;             // what went wrong last
 
   FolderPanel* m_folder;
+  QLineEdit* m_search;
   QLabel* m_notice;
   QTabWidget* m_tabs;
+  StandingsPanel* m_standings;
   CriteriaPanel* m_criteria = nullptr;
   SeasonTableView* m_games = nullptr;
   SeasonTableView* m_notRead;
+  QToolButton* m_filters = nullptr;
+  SavedViews* m_views = nullptr;
   AveragesPanel* m_players;
   AveragesPanel* m_lines;
   LeadersPanel* m_leaders;
   PersonPanel* m_person;
   TeamPanel* m_team;
+  SearchPanel* m_found;
   const SeasonTableView* m_lastTable = nullptr; // that the user was in
   Task m_task;                                  // goes before what its work refers to
   WidgetsFirst m_widgetsFirst{*this};           // stays the last member

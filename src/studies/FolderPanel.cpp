@@ -1,4 +1,4 @@
-#include "season/FolderPanel.h"
+#include "studies/FolderPanel.h"
 
 #include "appearance/Fields.h"
 #include "appearance/Icons.h"

@@ -1,7 +1,7 @@
 // The window of the season, with ways to its widgets, and games written for it.
 #pragma once
 
-#include "season/frmSTATS.h"
+#include "studies/frmSTATS.h"
 
 #include "season/SeasonTableView.h"
 #include "simulator/SampleSeason.h"

@@ -1,4 +1,4 @@
-#include "season/MinimumBox.h"
+#include "studies/MinimumBox.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/relabel.h"

@@ -1,4 +1,4 @@
-#include "season/TeamPanel.h"
+#include "studies/TeamPanel.h"
 
 #include "appearance/PlainLabel.h"
 #include "appearance/TableContent.h"
@@ -9,6 +9,7 @@
 #include "settings/CountWords.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
+#include "studies/StudyTables.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -41,7 +42,10 @@ TeamPanel::TeamPanel(const Texts& texts, QWidget* parent)
   setAccessibleNumber(*m_team, Text::ShownTeam);
   setToolTipNumber(*m_team, Text::ShownTeam);
   m_balance->setObjectName(QStringLiteral("lblBALANCE"));
-  auto* parts = new QSplitter(Qt::Horizontal, this);
+  auto* pages = new QSplitter(Qt::Vertical, this);
+  pages->setObjectName(QStringLiteral("teamPages"));
+  pages->setChildrenCollapsible(false);
+  auto* parts = new QSplitter(Qt::Horizontal, pages);
   parts->setObjectName(QStringLiteral("teamParts"));
   parts->setChildrenCollapsible(false);
   m_picture = new SeriesView(QStringLiteral("picMARGINS"), parts);
@@ -59,10 +63,56 @@ TeamPanel::TeamPanel(const Texts& texts, QWidget* parent)
   layout->setContentsMargins(4, 4, 4, 4);
   layout->setSpacing(4);
   layout->addLayout(head);
-  layout->addWidget(parts, 1);
+  pages->addWidget(parts);
+  pages->addWidget(makeTables());
+  pages->setSizes({280, 300});
+  layout->addWidget(pages, 1);
   connect(m_team, &QComboBox::currentIndexChanged, this, &TeamPanel::showTeam);
   connect(m_picture, &SeriesView::valueAsked, this,
           [this](int value) { emit gameAsked(m_margins.points[static_cast<std::size_t>(value)].game); });
+}
+
+QWidget* TeamPanel::makeTables() {
+  auto* tables = new QSplitter(Qt::Horizontal, this);
+  tables->setObjectName(QStringLiteral("teamTables"));
+  tables->setChildrenCollapsible(false);
+  m_lastGames = new SeasonTableView(QStringLiteral("lvwTEAMGAMES"), 0, tables);
+  m_lastGames->fillWidth();
+  setAccessibleNumber(*m_lastGames, Text::LastGames);
+  m_splits = new SeasonTableView(QStringLiteral("lvwSPLITS"), 0, tables);
+  m_splits->fillWidth();
+  setAccessibleNumber(*m_splits, Text::SplitsTitle);
+  auto* right = new QSplitter(Qt::Vertical, tables);
+  right->setObjectName(QStringLiteral("teamRight"));
+  right->setChildrenCollapsible(false);
+  right->addWidget(m_splits);
+  right->addWidget(makeTogether());
+  right->setSizes({180, 180});
+  tables->addWidget(m_lastGames);
+  tables->addWidget(right);
+  tables->setSizes({600, 750});
+  connect(m_lastGames, &SeasonTableView::rowAsked, this,
+          [this](int row) { emit gameAsked(m_games[static_cast<std::size_t>(row)]); });
+  return tables;
+}
+
+QWidget* TeamPanel::makeTogether() {
+  auto* part = new QWidget(this);
+  m_together = new QComboBox(part);
+  m_together->setObjectName(QStringLiteral("lstTOGETHER"));
+  setAccessibleNumber(*m_together, Text::BestFivesTitle);
+  for (const int size : {5, 3, 2})
+    m_together->addItem({}, size);
+  m_combinations = new SeasonTableView(QStringLiteral("lvwTOGETHER"), 0, part);
+  m_combinations->fillWidth();
+  setAccessibleNumber(*m_combinations, Text::BestFivesTitle);
+  auto* layout = new QVBoxLayout(part);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(2);
+  layout->addWidget(m_together, 0, Qt::AlignLeft);
+  layout->addWidget(m_combinations, 1);
+  connect(m_together, &QComboBox::currentIndexChanged, this, &TeamPanel::showTogether);
+  return part;
 }
 
 void TeamPanel::showSeason(std::shared_ptr<const Season> season) {
@@ -80,7 +130,18 @@ void TeamPanel::showSeason(std::shared_ptr<const Season> season) {
   showTeam();
 }
 
+// Nothing happens where the statistics do not have it.
+void TeamPanel::chooseTeam(SeasonId team) {
+  const int place =
+      m_season == nullptr ? -1 : m_team->findText(toQt(m_season->catalogue().teams()[team].key));
+  if (place >= 0)
+    m_team->setCurrentIndex(place);
+}
+
 void TeamPanel::relabelPanel() {
+  constexpr Text kTogether[] = {Text::BestFivesTitle, Text::TriosTitle, Text::PairsTitle};
+  for (int i = 0; i < m_together->count(); ++i)
+    m_together->setItemText(i, caption(m_texts, kTogether[i]));
   showTeam();
 }
 
@@ -89,7 +150,33 @@ void TeamPanel::applyColours() {
   m_picture->update();
 }
 
+SeasonId TeamPanel::team() const {
+  return m_season == nullptr || m_team->currentIndex() < 0
+             ? kNobody
+             : m_season->statistics().teams()[static_cast<std::size_t>(m_team->currentIndex())].team;
+}
+
+void TeamPanel::showTables() {
+  const SeasonStatistics* statistics = team() == kNobody ? nullptr : &m_season->statistics();
+  const auto show = [](SeasonTableView& view, StudyTable table) {
+    view.showColumns(std::move(table.columns));
+    view.showRows(std::move(table.rows));
+  };
+  m_games = statistics == nullptr ? std::vector<std::size_t>() : gamesOfTeam(*statistics, team());
+  show(*m_lastGames, teamGamesTable(statistics, team(), m_texts));
+  show(*m_splits, splitsTable(statistics, team(), m_texts));
+  showTogether();
+}
+
+void TeamPanel::showTogether() {
+  const SeasonStatistics* statistics = team() == kNobody ? nullptr : &m_season->statistics();
+  StudyTable table = combinationsTable(statistics, team(), m_together->currentData().toInt(), m_texts);
+  m_combinations->showColumns(std::move(table.columns));
+  m_combinations->showRows(std::move(table.rows));
+}
+
 void TeamPanel::showTeam() {
+  showTables();
   if (m_season == nullptr || m_team->currentIndex() < 0) {
     m_balance->setText(caption(m_texts, Text::NotGenerated));
     m_picture->show({}, {});

@@ -28,6 +28,9 @@ class CriteriaPanel : public QWidget {
   void showWhatIsOffered(const SeasonDesk& desk, bool isBusy);
   void relabelPanel();
   void leaveOutWrong(); // as if the user had asked for it
+  // What is chosen, for the next time; a team that is not offered is none.
+  QByteArray kept() const;
+  void restore(const QByteArray& kept);
 
  signals:
   void changed();
