@@ -38,6 +38,7 @@ struct LineRow : GameRow {
   std::uint32_t members = 0;              // bit n: the row at place n of the game's `players`
 
   [[nodiscard]] bool has(std::size_t player) const { return (members >> player & 1U) != 0; }
+  friend bool operator==(const LineRow&, const LineRow&) = default;
 };
 
 // A two- or three-point field goal for the season's shot chart. Places are whole court units, those outside

@@ -78,7 +78,7 @@ class GameReader : public ByteReader {
 
   void team(SeasonId& id) { named(id, m_names.teams.size(), false); }
   void player(SeasonId& id) { named(id, m_names.players.size(), true); }
-  void line(SeasonId& id) { named(id, m_names.lines.size(), false); }
+  void line(SeasonId& id) { named(id, m_names.lines.size(), true); }
 
  private:
   void named(SeasonId& id, std::size_t count, bool mayBeNobody) {
@@ -121,6 +121,8 @@ class JoinedNames {
     return known;
   }
   SeasonId line(std::size_t reader, SeasonId id) {
+    if (id == kNobody)
+      return id;
     SeasonId& known = m_readers[reader].lines[id];
     if (known == kNobody) {
       NameTable::Line line = m_readers[reader].names->lines[id];

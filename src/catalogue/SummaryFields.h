@@ -68,6 +68,15 @@ void visitFinding(Archive& archive, Found& finding) {
     archive.require(!finding.team || *finding.team <= Side::Home);
 }
 
+template <class Archive, class Row>
+void visitTeamRow(Archive& archive, Row& row) {
+  archive.number(row.offensiveRebounds);
+  archive.number(row.defensiveRebounds);
+  archive.number(row.turnovers);
+  archive.number(row.benchTechnicals);
+  archive.number(row.timeOuts);
+}
+
 template <class Archive, class Game>
 void visitGame(Archive& archive, Game& game) {
   archive.text(game.date);
@@ -79,7 +88,12 @@ void visitGame(Archive& archive, Game& game) {
     archive.team(game.team[side]);
     archive.number(game.teamNumber[side]);
     archive.number(game.points[side]);
+    archive.number(game.teamColour[side]);
+    archive.number(game.possessions[side]);
+    visitTeamRow(archive, game.teamRows[side]);
   }
+  archive.number(game.overtimes);
+  archive.number(game.seconds);
   for (auto& seconds : game.leadSeconds)
     archive.number(seconds);
   for (auto& label : game.label)
@@ -97,6 +111,10 @@ void visitGame(Archive& archive, Game& game) {
   archive.list(game.lines, [&](auto& row) {
     archive.line(row.id);
     visitRow(archive, row);
+    visitCounters(archive, row.opponents);
+    for (auto& begun : row.possessions)
+      archive.number(begun);
+    archive.number(row.members);
   });
   archive.list(game.shots, [&](auto& shot) { visitShot(archive, shot); });
   if constexpr (Archive::kReads) {

@@ -71,7 +71,7 @@ std::vector<std::size_t> gamesOfTeam(const SeasonStatistics& statistics, SeasonI
 std::vector<TeamSplit> splitsOf(const SeasonStatistics& statistics, SeasonId team) {
   enum { kAll, kWins, kLosses, kHome, kAway, kLast };
   std::vector<TeamSplit> splits(kLast + 1);
-  constexpr Text kNames[] = {Text::All,           Text::SplitWins,     Text::SplitLosses,
+  constexpr Text kNames[] = {Text::CheckAllGames, Text::SplitWins,     Text::SplitLosses,
                              Text::StandingsHome, Text::StandingsAway, Text::LastFiveGames};
   for (std::size_t i = 0; i < splits.size(); ++i)
     splits[i].name = kNames[i];
