@@ -19,7 +19,8 @@ using Align = TextTable::Align;
 struct Compared {
   std::string name;
   RateBasis basis;
-  std::optional<PointOrigins> origins; // of a team
+  std::optional<PointOrigins> origins; // of a team, as what follows
+  int clutchPoints = 0;
 };
 
 std::vector<Compared> comparedOf(const CountedGame& counted, const ComparedPlayers& players) {
@@ -28,7 +29,7 @@ std::vector<Compared> comparedOf(const CountedGame& counted, const ComparedPlaye
   if (!players) {
     for (const Side team : kSides)
       both.push_back({counted.game.details.abbreviation[team], RateBasis::ofAll(team, insight.whole),
-                      insight.origins[team]});
+                      insight.origins[team], insight.clutch.points(team)});
     return both;
   }
   for (const ComparedPlayer& player : *players) {
@@ -39,7 +40,7 @@ std::vector<Compared> comparedOf(const CountedGame& counted, const ComparedPlaye
     basis.own.counters += counts.counters;
     basis.own.seconds = std::max(counts.seconds, 0);
     const RosterPlayer* known = counted.game.roster[player.team].player(player.entry);
-    both.push_back({known->jersey + ' ' + known->name, basis, std::nullopt});
+    both.push_back({known->jersey + ' ' + known->name, basis, std::nullopt, 0});
   }
   return both;
 }
@@ -114,6 +115,7 @@ std::string compareJson(const CountedGame& counted, const ComparedPlayers& playe
     if (each.origins) {
       for (const OriginRow& row : kOrigins)
         json.member(row.name, (*each.origins).*row.points);
+      json.member("clutch", each.clutchPoints);
     }
     json.endObject();
   }
