@@ -60,7 +60,9 @@ class Bench {
   [[nodiscard]] const Game& game() const { return m_game.game(); }
   [[nodiscard]] const Roster& roster(Side team) const { return game().roster[team]; }
   [[nodiscard]] bool isOnCourt(Side team, int entry) const {
-    return (m_record.fives.current[team].players >> static_cast<unsigned>(entry) & 1U) != 0;
+    const GameState& state = m_game.state();
+    const auto onCourt = std::span(state.onCourt[team]).first(state.onCourtCount[team]);
+    return std::ranges::find(onCourt, static_cast<std::uint8_t>(entry)) != onCourt.end();
   }
   [[nodiscard]] std::string period(int number) const {
     return number > game().details.periods ? m_words.periodText(number) : ordinalText(number, m_texts);
@@ -239,7 +241,7 @@ class Bench {
   void setFives(BenchFigures& figures) const {
     const FivePlay& now = m_record.fives.current[m_us];
     std::vector<FivePlay> others = m_record.fives.ranked[m_us];
-    std::erase_if(others, [&](const FivePlay& play) { return play.players == now.players; });
+    std::erase_if(others, [&](const FivePlay& play) { return play.jerseys == now.jerseys; });
     const auto add = [&](const FivePlay& play, int seconds, bool isNow) {
       figures.fives.push_back(
           {play.jerseys, time(seconds), play.plusMinus(), net(play.net), play.net.has_value(), isNow});

@@ -62,9 +62,10 @@ bool isWhole(const NameTable::Lists& names) {
 }
 
 // The program that runs, by its file: nothing else tells one that counts alike from one that does not.
-FileStamp thisProgram(FileSystem& files) {
+// Nothing where the system does not say: then nothing is kept.
+std::optional<FileStamp> thisProgram(FileSystem& files) {
   FileStamp stamp;
-  return files.stamp("/proc/self/exe", stamp) ? stamp : FileStamp();
+  return files.stamp("/proc/self/exe", stamp) ? std::optional(stamp) : std::nullopt;
 }
 
 // 0 for a game.
@@ -104,7 +105,7 @@ class JoinedNames {
     SeasonId& known = m_readers[reader].teams[id];
     if (known == kNobody) {
       const NameTable::Team& team = m_readers[reader].names->teams[id];
-      known = numberOf(m_lists.teams, team, {team.abbreviation, team.category, team.name});
+      known = numberOf(m_lists.teams, team, {"T", team.abbreviation, team.category, team.name});
     }
     return known;
   }
@@ -201,7 +202,8 @@ bool SummaryCache::read() {
   ByteReader reader(list);
   FileStamp program;
   visitStamp(reader, program);
-  if (!isSameContent(program, thisProgram(m_files)))
+  const std::optional<FileStamp> running = thisProgram(m_files);
+  if (!running || !isSameContent(program, *running))
     return false;
   visitNames(reader, m_names);
   std::uint32_t count = 0;
@@ -280,20 +282,25 @@ void SummaryCache::keep(const std::vector<std::string>& paths, const std::vector
     games += game.bytes();
   }
   ByteWriter head;
-  const FileStamp program = thisProgram(m_files);
-  visitStamp(head, program);
+  const std::optional<FileStamp> program = thisProgram(m_files);
+  if (!program)
+    return;
+  visitStamp(head, *program);
   visitNames(head, joined.lists());
   const std::string list = head.bytes() + index.bytes();
   ByteWriter file;
   file.number(hashOf(list));
   file.text(list);
-  write(std::string(kForm) + file.bytes() + games);
+  const std::string all = std::string(kForm) + file.bytes() + games;
+  if (std::int64_t(all.size()) <= kLargest) // more could not be read again
+    write(all);
 }
 
 // Names of players are in it: others have no business there.
 void SummaryCache::write(std::string_view bytes) const {
   std::error_code failed;
-  if (std::filesystem::create_directories(m_folder, failed))
+  std::filesystem::create_directories(m_folder, failed);
+  if (!failed)
     std::filesystem::permissions(m_folder, std::filesystem::perms::owner_all, failed);
   FileStamp written;
   (void)replaceWholeFile(m_files, m_path, bytes, written); // what is not kept is read again

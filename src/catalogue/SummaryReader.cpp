@@ -152,10 +152,11 @@ std::optional<CountOutOfRange> SummaryReader::summarise(const Game& source, List
     addPlayers(source.roster[side], side, game);
   }
   const GameInsight insight = insightOf(source);
-  game.overtimes = game.isFromEvents() ? std::max(m_state.period - details.periods, 0) : 0;
+  game.overtimes =
+      game.isFromEvents() && details.periods > 0 ? std::max(m_state.period - details.periods, 0) : 0;
   game.teamRows = m_state.teamRows;
   game.possessions = insight.whole.possessions;
-  game.seconds = insight.whole.seconds;
+  game.seconds = std::max(insight.whole.seconds, 0);
   for (const Side side : kSides)
     addLines(source.roster[side], side, insight, game);
   addShots(game);

@@ -85,8 +85,9 @@ void writeTeam(JsonWriter& json, const Scorecard& card, const GameInsight& insig
       const auto entry = static_cast<std::size_t>(row.entry);
       const bool isPlayer = view == BoxView::Players;
       const CourtShare share = isPlayer ? insight.players[team][entry] : insight.ofLine(team, row.entry);
+      const bool isKnown = insight.isFromEvents && state.wereOnCourt[team] != 0 && (!isPlayer || entry > 0);
       writeRow(json, row, state.lines[team][entry].list, isPlayer ? &state.extras[team][entry] : nullptr,
-               insight.isFromEvents ? std::optional(share.plusMinus(team)) : std::nullopt);
+               isKnown ? std::optional(share.plusMinus(team)) : std::nullopt);
     }
     json.endArray();
   }

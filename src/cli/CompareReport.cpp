@@ -55,7 +55,17 @@ constexpr OriginRow kOrigins[] = {
     {"fromTurnovers", Text::FromTurnovers, &PointOrigins::fromTurnovers},
     {"secondChance", Text::SecondChance, &PointOrigins::secondChance},
     {"quick", Text::QuickPoints, &PointOrigins::quick},
+};
+
+// Those that not every game tells.
+struct OptionalRow {
+  std::string_view name;
+  Text words;
+  std::optional<int> PointOrigins::*points;
+};
+constexpr OptionalRow kOptional[] = {
     {"bench", Text::FromTheBench, &PointOrigins::bench},
+    {"fastBreak", Text::FastBreakPoints, &PointOrigins::fastBreak},
 };
 
 } // namespace
@@ -97,9 +107,13 @@ std::string compareText(const CountedGame& counted, const ComparedPlayers& playe
   for (const OriginRow& row : kOrigins)
     add(std::string(texts.text(row.words)),
         [&](const Compared& each) { return std::to_string((*each.origins).*row.points); });
-  if (both[0].origins->fastBreak)
-    add(std::string(texts.text(Text::FastBreakPoints)),
-        [](const Compared& each) { return std::to_string(each.origins->fastBreak.value_or(0)); });
+  for (const OptionalRow& row : kOptional) {
+    if ((*both[0].origins).*row.points || (*both[1].origins).*row.points)
+      add(std::string(texts.text(row.words)), [&](const Compared& each) {
+        const std::optional<int>& points = (*each.origins).*row.points;
+        return points ? std::to_string(*points) : std::string("–");
+      });
+  }
   return table.text();
 }
 
@@ -115,6 +129,13 @@ std::string compareJson(const CountedGame& counted, const ComparedPlayers& playe
     if (each.origins) {
       for (const OriginRow& row : kOrigins)
         json.member(row.name, (*each.origins).*row.points);
+      for (const OptionalRow& row : kOptional) {
+        json.name(row.name);
+        if (const std::optional<int>& points = (*each.origins).*row.points)
+          json.value(*points);
+        else
+          json.null();
+      }
       json.member("clutch", each.clutchPoints);
     }
     json.endObject();

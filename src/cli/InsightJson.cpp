@@ -46,7 +46,7 @@ void writeTeamInsight(JsonWriter& json, const GameInsight& insight, const Margin
   writeNumber(json, "paint", fromEvents(origins.paint));
   writeNumber(json, "fromTurnovers", fromEvents(origins.fromTurnovers));
   writeNumber(json, "secondChance", fromEvents(origins.secondChance));
-  writeNumber(json, "bench", fromEvents(origins.bench));
+  writeNumber(json, "bench", origins.bench);
   writeNumber(json, "fastBreak", origins.fastBreak);
   writePeak(json, "biggestLead", flow.biggestLead[team]);
   writePeak(json, "biggestRun", flow.biggestRun[team]);

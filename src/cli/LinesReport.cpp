@@ -46,6 +46,7 @@ void addPlayers(std::vector<Together>& all, const CountedGame& counted, const Ga
       continue;
     all.push_back({player->jersey, split.on});
     all.push_back({player->jersey, split.off, true});
+    all.back().share.seconds = std::max(split.off.seconds, 0); // a clock that was set back
   }
 }
 

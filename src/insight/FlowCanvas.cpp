@@ -177,8 +177,12 @@ std::optional<FlowCanvas::Span> FlowCanvas::shownSpan() const {
                    : m_stretch->fromClock >= Stretch::kPeriodBegin || first->number != m_stretch->fromPeriod
                        ? first->begin
                        : elapsed.at(m_stretch->fromPeriod, m_stretch->fromClock);
-  const bool isPlayed = m_stretch->toPeriod <= periods.back().number;
-  const int to = isPlayed ? elapsed.at(m_stretch->toPeriod, m_stretch->toClock) : m_drawing.flow.length();
+  // A period of the stretch that has no events ends where the one before it does.
+  const auto behind = std::ranges::upper_bound(periods, m_stretch->toPeriod, {}, &MarginFlow::Period::number);
+  if (behind == periods.begin())
+    return std::nullopt;
+  const MarginFlow::Period& last = *std::prev(behind);
+  const int to = last.number == m_stretch->toPeriod ? elapsed.at(last.number, m_stretch->toClock) : last.end;
   return Span{std::max(from, 0), std::min(to, m_drawing.flow.length())};
 }
 

@@ -42,7 +42,8 @@ class Origins {
       m_possession = stand.number;
       m_gained = m_lastClock;
     }
-    if (stand.number > 0)
+    // A whistle after the ball has changed hands gives it to nobody anew.
+    if (stand.number > 0 && !event.isClock() && event.code != EventCode::XTO && event.code != EventCode::XAR)
       m_lastClock = event.clockSeconds;
     if (event.code == EventCode::STO || event.code == EventCode::XTV)
       m_fromTurnover = stand.number + 1;
@@ -71,7 +72,8 @@ class Origins {
       return; // the throw of a technical foul in the other team's possession
     origins.fromTurnovers += stand.number == m_fromTurnover ? points : 0;
     origins.secondChance += stand.number == m_secondChance ? points : 0;
-    if (m_hasTime && m_gained && *m_gained - shot.clockSeconds <= GameInsight::kQuickSeconds)
+    const int held = m_gained ? *m_gained - shot.clockSeconds : -1; // below 0: the clock was set back
+    if (m_hasTime && held >= 0 && held <= GameInsight::kQuickSeconds)
       origins.quick += points;
   }
 
@@ -115,12 +117,14 @@ class Happening {
 
 class Builder {
  public:
-  explicit Builder(const Game& game)
+  Builder(const Game& game, const std::optional<Starters>& starters)
       : m_game(game), m_tally(m_state, game.roster[Side::Visitor], game.roster[Side::Home]),
         m_possessions(game.events, game.details.minutesPerPeriod > 0), m_origins(game, m_insight.origins) {
     constexpr std::size_t kUsualMatchups = 64;
     m_insight.isFromEvents = game.details.inputType == 0;
     m_insight.matchups.reserve(kUsualMatchups);
+    if (starters)
+      m_insight.starters = *starters;
   }
 
   GameInsight build() {
@@ -161,14 +165,14 @@ class Builder {
       m_period = event.period;
       m_since = m_clock = event.clockSeconds;
     }
-    if (!m_hasStarted && (event.isOfPlayer() || event.clockSeconds < m_clock) && isAnybodyOnCourt()) {
-      m_hasStarted = true;
-      for (const Side team : kSides)
+    for (const Side team : kSides) {
+      if (m_insight.starters[team] == 0 && (event.isOfPlayer() || event.clockSeconds < m_clock))
         m_insight.starters[team] = membersOnCourt(team);
     }
-    const int passed = m_clock - event.clockSeconds;
-    if (isClutch(event.period, m_clock))
-      m_insight.clutch.seconds += passed;
+    const int first = std::min(m_clock, longestClutch(event.period));
+    const int last = std::min(event.clockSeconds, longestClutch(event.period));
+    if (last < first && isClutch(event.period, first))
+      m_insight.clutch.seconds += first - last;
     m_clock = event.clockSeconds;
     if (event.code != EventCode::ARRET)
       return;
@@ -215,18 +219,29 @@ class Builder {
     const PerSide<int> line = {m_state.currentLine[Side::Visitor], m_state.currentLine[Side::Home]};
     if (m_matchup < m_insight.matchups.size() && m_insight.matchups[m_matchup].line == line)
       return m_insight.matchups[m_matchup];
-    const auto known = std::ranges::find(m_insight.matchups, line, &Matchup::line);
-    m_matchup = static_cast<std::size_t>(known - m_insight.matchups.begin());
-    if (known == m_insight.matchups.end())
+    // By both lines, one behind the place: a file of many changes may have thousands of matchups.
+    if (m_places.empty())
+      m_places.resize(GameState::kLineEntries * GameState::kLineEntries);
+    std::uint16_t& place = m_places[static_cast<std::size_t>(line[Side::Visitor]) * GameState::kLineEntries +
+                                    static_cast<std::size_t>(line[Side::Home])];
+    if (place == 0) {
       m_insight.matchups.push_back({line, {}});
+      place = static_cast<std::uint16_t>(m_insight.matchups.size());
+    }
+    m_matchup = place - std::size_t{1};
     return m_insight.matchups[m_matchup];
   }
 
   [[nodiscard]] bool isClutch(int period, int clockSeconds) const {
     const GameDetails& details = m_game.details;
-    return details.minutesPerPeriod > 0 && period >= details.periods &&
-           clockSeconds <= GameInsight::kClutchSeconds &&
+    return details.minutesPerPeriod > 0 && details.periods > 0 && period >= details.periods &&
+           clockSeconds <= longestClutch(period) &&
            std::abs(m_score[Side::Visitor] - m_score[Side::Home]) <= GameInsight::kClutchPoints;
+  }
+  // All of an overtime.
+  [[nodiscard]] int longestClutch(int period) const {
+    constexpr int kWhole = 100 * 60;
+    return period > m_game.details.periods ? kWhole : GameInsight::kClutchSeconds;
   }
   [[nodiscard]] bool isAnybodyOnCourt() const {
     return m_state.onCourtCount[Side::Visitor] + m_state.onCourtCount[Side::Home] > 0;
@@ -240,10 +255,12 @@ class Builder {
 
   void countBench() {
     for (const Side team : kSides) {
+      if (m_insight.starters[team] == 0)
+        continue;
+      int& bench = m_insight.origins[team].bench.emplace(0);
       for (int player = 0; player < static_cast<int>(GameState::kPlayerEntries); ++player) {
         if (!m_insight.isStarter(team, player))
-          m_insight.origins[team].bench +=
-              pointsOf(m_state.players[team][static_cast<std::size_t>(player)].counters);
+          bench += pointsOf(m_state.players[team][static_cast<std::size_t>(player)].counters);
       }
     }
   }
@@ -262,10 +279,10 @@ class Builder {
   Origins m_origins;
   PerSide<int> m_score = {};
   std::size_t m_matchup = 0;
+  std::vector<std::uint16_t> m_places;
   int m_period = 0;
   int m_clock = 0; // of the last event
   int m_since = 0; // from which on the time on court is not counted yet
-  bool m_hasStarted = false;
 };
 
 } // namespace
@@ -279,8 +296,8 @@ CourtShare GameInsight::ofLine(Side team, int line) const {
   return sum;
 }
 
-GameInsight insightOf(const Game& game) {
-  return Builder(game).build();
+GameInsight insightOf(const Game& game, const std::optional<Starters>& starters) {
+  return Builder(game, starters).build();
 }
 
 double estimatedPossessions(const BoxNumbers& numbers, const TeamRow& ofTeam) {

@@ -25,8 +25,8 @@ struct PointOrigins {
   int paint = 0;         // field goals from inside the box; without a place those at the basket by their kind
   int fromTurnovers = 0; // in the possession that follows the other team's turnover
   int secondChance = 0;  // behind an offensive rebound of the same possession, the team's own included
-  int bench = 0;
-  int quick = 0; // within kQuickSeconds of gaining the ball
+  std::optional<int> bench = {}; // none of a team whose line-ups nobody recorded
+  int quick = 0;                 // within kQuickSeconds of gaining the ball
   // Of shots that were recorded as such; none where no shot of the game was.
   std::optional<int> fastBreak = {};
   friend bool operator==(const PointOrigins&, const PointOrigins&) = default;
@@ -53,7 +53,9 @@ struct GameInsight {
   [[nodiscard]] CourtShare ofLine(Side team, int line) const;
 };
 
-[[nodiscard]] GameInsight insightOf(const Game& game);
+// The starters of a stretch are those of the whole game, who may be given.
+using Starters = PerSide<std::uint16_t>; // bit n: player entry n
+[[nodiscard]] GameInsight insightOf(const Game& game, const std::optional<Starters>& starters = {});
 
 // FGA + 0.44 FTA - OR + TO of a team, its own rebounds and turnovers included: what is published as
 // possessions where nobody counts them.

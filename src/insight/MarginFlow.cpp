@@ -46,7 +46,7 @@ class FlowReader {
 
   void begin(int number, int at) {
     if (!m_flow.hasTime) {
-      m_flow.periods.push_back({number, at, at});
+      m_flow.periods.push_back({number, at, at, at});
       return;
     }
     int before = 0;
@@ -57,7 +57,7 @@ class FlowReader {
     const bool isRegular = number <= m_game.details.periods;
     const int end = m_elapsed.at(number, 0);
     const int begin = isRegular ? end - m_game.details.minutesPerPeriod * 60 : before;
-    m_flow.periods.push_back({number, std::max(begin, before), at});
+    m_flow.periods.push_back({number, std::max(begin, before), at, end});
   }
 
   void score(const GameEvent& event, std::size_t place, int at) {

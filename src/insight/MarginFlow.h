@@ -26,7 +26,8 @@ struct MarginFlow {
   struct Period {
     int number = 0;
     int begin = 0;
-    int end = 0;
+    int end = 0;  // of the last one, its last event so far
+    int full = 0; // where it ends, or will end
   };
   // Points of one team with none of the other, across periods; `first` and `last` are places in `steps`.
   struct Run {

@@ -23,7 +23,7 @@ std::vector<Stay> rotationOf(const Game& game) {
         const auto player = static_cast<std::size_t>(game.roster[team].entryOf(jersey));
         isOn[player] = true;
         const std::size_t last = open[team][player];
-        if (last == 0 || stays[last - 1].period != stint.period) {
+        if (last == 0 || stays[last - 1].period != stint.period || stays[last - 1].to < from) {
           stays.push_back({team, static_cast<int>(player), stint.period, from, to, margin});
           open[team][player] = stays.size();
           continue;

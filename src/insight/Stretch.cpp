@@ -22,10 +22,10 @@ class Cutter {
       if (!event.isUnderstood || event.isDeleted)
         continue;
       if (m_stretch.hasEndedBefore(event.period, event.clockSeconds)) {
-        m_goesOn = true;
+        m_goesOn = event.period == m_stretch.toPeriod; // else its last stop has ended the period
         break;
       }
-      if (m_stretch.hasBegunBy(event.period, event.clockSeconds))
+      if (m_hasBegun || m_stretch.hasBegunBy(event.period, event.clockSeconds)) // the clock may be set back
         take(event);
       else
         followLists(event);
@@ -50,7 +50,11 @@ class Cutter {
   }
   // The clock at which the period of the stretch's first event began.
   [[nodiscard]] int longestClock(const GameEvent& event) const {
-    return std::max(event.clockSeconds, m_game.events.ofPeriod(event.period).front().clockSeconds);
+    for (const GameEvent& each : m_game.events.ofPeriod(event.period)) {
+      if (each.isUnderstood && !each.isDeleted && !each.isOfTeam())
+        return std::max(event.clockSeconds, each.clockSeconds);
+    }
+    return event.clockSeconds;
   }
   void followLists(const GameEvent& event) {
     if (event.code != EventCode::ARRET)

@@ -149,7 +149,10 @@ class GameSheet {
     table.columns.push_back({text(Text::Rating), "rating", text(Text::RatingFormula)});
   }
 
-  [[nodiscard]] bool hasLineUps() const { return m_insight.isFromEvents && m_insight.whole.seconds > 0; }
+  [[nodiscard]] bool hasLineUps() const {
+    const auto& wereOnCourt = m_counted.state.wereOnCourt;
+    return m_insight.isFromEvents && wereOnCourt != PerSide<std::uint16_t>{};
+  }
   [[nodiscard]] bool isStarter(Side team, const BoxRow& row) const {
     return row.kind == BoxRowKind::Player && m_insight.isStarter(team, row.entry);
   }
@@ -290,7 +293,8 @@ class GameSheet {
     addCount(Text::SecondChance, {visitor.secondChance, home.secondChance});
     if (visitor.fastBreak && home.fastBreak)
       addCount(Text::FastBreakPoints, {*visitor.fastBreak, *home.fastBreak});
-    addCount(Text::FromTheBench, {visitor.bench, home.bench});
+    if (visitor.bench && home.bench)
+      addCount(Text::FromTheBench, {*visitor.bench, *home.bench});
     addCount(Text::BiggestLead, peaksOf(m_flow.flow.biggestLead));
     addCount(Text::BiggestRunWord, peaksOf(m_flow.flow.biggestRun));
     return table;
@@ -310,7 +314,7 @@ class GameSheet {
 
   [[nodiscard]] std::string legend() const {
     std::vector<std::string> parts = {"● " + text(Text::Made), "✕ " + text(Text::Missed)};
-    if (m_insight.isFromEvents)
+    if (hasLineUps())
       parts.push_back(text(Text::SheetStarters));
     parts.push_back(text(Text::SheetRatingFormula));
     parts.push_back(text(Text::BetterIsBold));

@@ -113,7 +113,8 @@ std::vector<ComparisonRow> compareTeams(const GameInsight& insight, const Texts&
   const PointOrigins& visitors = insight.origins[Side::Visitor];
   const PointOrigins& home = insight.origins[Side::Home];
   rows.addCount(Text::InThePaint, visitors.paint, home.paint);
-  rows.addCount(Text::FromTheBench, visitors.bench, home.bench);
+  if (visitors.bench && home.bench)
+    rows.addCount(Text::FromTheBench, *visitors.bench, *home.bench);
   rows.addCount(Text::FromTurnovers, visitors.fromTurnovers, home.fromTurnovers);
   rows.addCount(Text::SecondChance, visitors.secondChance, home.secondChance);
   if (visitors.fastBreak && home.fastBreak)

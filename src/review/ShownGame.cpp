@@ -25,7 +25,7 @@ void ShownGame::count() {
   if (!m_stretch)
     return;
   m_shown = countStretch(m_whole->game, *m_stretch);
-  m_insight = insightOf(m_shown->game);
+  m_insight = insightOf(m_shown->game, m_starters);
 }
 
 std::optional<std::size_t> ShownGame::shownPlace(std::size_t event) const {

@@ -55,6 +55,9 @@ TEST(Origins, QuickPointsComeSoonAfterTheBallAndFastBreaksWhereTheyWereRecorded)
       "8=09:10,GFG,0-4\n";
   EXPECT_EQ(origins(lines, Side::Visitor).quick, 2);
   EXPECT_FALSE(origins(lines, Side::Visitor).fastBreak.has_value());
+  const std::string whistled = "3=09:50,GFG,1-3\n4=09:30,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n"
+                               "5=09:30,XTO,1\n6=09:30,DEPART\n7=09:25,GFG,0-4\n";
+  EXPECT_EQ(origins(whistled, Side::Visitor).quick, 0);
   const GameInsight recorded =
       insightInto(lines + "9=09:00,GFGA,1-3,60,100,Q=F\n10=08:50,GF3,0-4,130,100,Q=F\n");
   EXPECT_EQ(recorded.origins[Side::Visitor].fastBreak, 3);
@@ -80,6 +83,24 @@ TEST(Insight, ClutchIsTheEndOfACloseGame) {
   const GameInsight insight = insightInto("3=09:00,GFG,1-3\n" + last);
   EXPECT_EQ(insight.clutch.points(Side::Visitor), 5); // at +5 the next basket still counts
   EXPECT_EQ(insight.clutch.points(Side::Home), 2);
+}
+
+TEST(Insight, KnowsNoBenchWhereNobodyRecordedWhoPlays) {
+  const GameInsight oneSided = insightOf(gameOfText(textOfGame(
+      "[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-\n2=10:00,DEPART\n3=09:00,GFG,0-0\n4=08:30,GFG,1-3\n"
+      "5=08:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n6=08:00,DEPART\n7=07:00,GFG,1-3\n")));
+  EXPECT_EQ(oneSided.origins[Side::Visitor].bench, 2);
+  EXPECT_EQ(oneSided.origins[Side::Home].bench, 0); // who came first starts
+  EXPECT_FALSE(
+      insightOf(gameOfText(textOfGame("[PERIODE1]\n1=09:00,GFG,0-4\n"))).origins[Side::Visitor].bench);
+}
+
+TEST(Insight, AnOvertimeIsClutchFromItsBeginning) {
+  const GameInsight insight =
+      insightInto("[PERIODE4]\n3=00:00,ARRET,,\n[PERIODE5]\n4=09:00,DEPART\n5=08:00,GFG,0-4\n");
+  EXPECT_EQ(insight.clutch.points(Side::Visitor), 2);
+  EXPECT_EQ(insight.clutch.seconds, 60);
+  EXPECT_EQ(insightInto("3=01:00,GFG,0-4\n", "NBREPERIODE=0\n").clutch.points(Side::Visitor), 0);
 }
 
 TEST(Rates, FollowTheirFormulas) {

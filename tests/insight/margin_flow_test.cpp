@@ -1,6 +1,7 @@
 // How the score of a game went: leads, runs, ties and who was on court meanwhile.
 #include "insight/MarginFlow.h"
 
+#include "insight/GameInsight.h"
 #include "insight/Rotation.h"
 #include "insight/Stretch.h"
 #include "insight/WinProbability.h"
@@ -77,12 +78,27 @@ TEST(Stretch, BeginsInThePeriodThatComesAndEndsInTheOneBefore) {
   EXPECT_EQ(stretchBetween(game, 30, 600), (Stretch{1, 570, 1, 0}));
 }
 
+TEST(Stretch, TimeOfNobodyStaysNobodysAndAClockSetBackLosesNothing) {
+  const Game closedEarly =
+      gameOf("3=01:30,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n[PERIODE2]\n4=10:00,DEPART\n"
+             "5=09:00,GFG,0-4\n");
+  EXPECT_EQ(insightOf(gameOfStretch(closedEarly, Stretch::ofPeriods(1, 1))).whole.seconds, 510);
+  const Game setBack =
+      gameOf("3=04:58,GFG,0-4\n4=05:10,ARRET,IN-00-05-10-12-15,IN-03-07-08-11-22\n5=05:05,GFG,0-0\n"
+             "6=04:40,GFG,0-0\n");
+  const Stretch fromFive{1, 5 * 60, 1, 0};
+  EXPECT_EQ(insightOf(gameOfStretch(setBack, fromFive)).whole.points(Side::Visitor), 6);
+}
+
 TEST(WinProbability, GrowsWithTheMarginAndAsTimeRunsOut) {
   EXPECT_DOUBLE_EQ(homeWinProbability(0, 0), 0.5);
   EXPECT_DOUBLE_EQ(homeWinProbability(-1, 0), 0);
   EXPECT_NEAR(homeWinProbability(0, 48 * 60), 0.62, 0.005); // as its source has it
   EXPECT_GT(homeWinProbability(5, 60), homeWinProbability(5, 600));
   EXPECT_GT(homeWinProbability(6, 600), homeWinProbability(5, 600));
+  const Game overtime = gameOf("[PERIODE5]\n3=05:00,DEPART\n4=03:00,GFG,1-7\n");
+  EXPECT_NEAR(winProbabilityOf(marginFlowOf(overtime), overtime.details).back().home,
+              homeWinProbability(2, 180), 1e-9);
 }
 
 } // namespace
