@@ -2,6 +2,7 @@
 
 #include "game/EventWords.h"
 #include "insight/Rates.h"
+#include "insight/SignedText.h"
 #include "recording/LiveFigures.h"
 #include "recording/LivePanel.h"
 #include "recording/ScoreText.h"
@@ -71,7 +72,7 @@ class Bench {
     return m_game.hasTime() ? Module1::clockText(seconds) : std::string(kNothing);
   }
   [[nodiscard]] std::string net(const std::optional<double>& value) const {
-    return value ? signedNumber(static_cast<int>(std::lround(*value)))
+    return value ? signedText(static_cast<int>(std::lround(*value)))
                  : std::string(m_texts.text(Text::FewPossessions));
   }
 
@@ -195,7 +196,7 @@ class Bench {
     if (five.players == 0)
       return {};
     return std::string(m_texts.text(Text::Together)) + "  " + time(LiveFigures(m_game).secondsOfLine(m_us)) +
-           "   +/−  " + signedNumber(five.plusMinus()) + "   " +
+           "   +/−  " + signedText(five.plusMinus()) + "   " +
            m_texts.withPlaceholder(Text::NetWord, net(five.net));
   }
 
@@ -263,10 +264,6 @@ class Bench {
 };
 
 } // namespace
-
-std::string signedNumber(int number) {
-  return (number > 0 ? "+" : number < 0 ? "−" : "") + std::to_string(std::abs(number));
-}
 
 BenchFigures BenchFigures::of(const LiveGame& game, const BenchRecord& record, Side us, const Texts& texts) {
   return Bench(game, record, us, texts).figures();

@@ -79,6 +79,4 @@ struct BenchFigures {
                                        const Texts& texts);
 };
 
-[[nodiscard]] std::string signedNumber(int number); // "+5", "−3", "0"
-
 } // namespace hooptab

@@ -2,6 +2,7 @@
 
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "insight/SignedText.h"
 
 #include <QPainter>
 
@@ -248,7 +249,7 @@ void BenchTable::setRowHeight(int height) {
 }
 
 BenchTable::Cell BenchTable::signedCell(int number) {
-  return {.text = toQt(signedNumber(number)),
+  return {.text = toQt(signedText(number)),
           .tone = number > 0   ? Tone::Good
                   : number < 0 ? Tone::Bad
                                : Tone::Usual,

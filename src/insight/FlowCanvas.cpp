@@ -6,6 +6,7 @@
 #include "insight/GameWalk.h"
 #include "insight/MarginPainter.h"
 #include "insight/RotationPainter.h"
+#include "insight/SignedText.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
 

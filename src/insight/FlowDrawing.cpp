@@ -67,8 +67,4 @@ std::string inOneLine(const std::vector<std::string>& parts) {
   return line;
 }
 
-std::string signedText(int number) {
-  return number == 0 ? "0" : (number > 0 ? "+" : "−") + std::to_string(std::abs(number));
-}
-
 } // namespace hooptab

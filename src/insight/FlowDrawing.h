@@ -31,7 +31,4 @@ struct FlowDrawing {
 // The same, its parts with a dot between two of them.
 [[nodiscard]] std::string inOneLine(const std::vector<std::string>& parts);
 
-// "+8", "−2" with the sign of a minus, "0".
-[[nodiscard]] std::string signedText(int number);
-
 } // namespace hooptab

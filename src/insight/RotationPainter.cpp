@@ -3,6 +3,7 @@
 #include "appearance/Contrast.h"
 #include "appearance/relabel.h"
 #include "insight/FlowDrawing.h"
+#include "insight/SignedText.h"
 #include "storage/Module1.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 #include "insight/FlowDrawing.h"
 #include "insight/GameInsight.h"
 #include "insight/Rates.h"
+#include "insight/SignedText.h"
 #include "report/GameReports.h"
 #include "report/ReportWords.h"
 #include "scorecard/LeagueSheet.h"

@@ -2,6 +2,7 @@
 
 #include "insight/FlowDrawing.h"
 #include "insight/Rates.h"
+#include "insight/SignedText.h"
 #include "report/ReportWords.h"
 #include "season/GameColumns.h"
 #include "season/SeasonShots.h"

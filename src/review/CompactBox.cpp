@@ -1,6 +1,7 @@
 #include "review/CompactBox.h"
 
 #include "game/Rules.h"
+#include "insight/SignedText.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 
@@ -75,7 +76,7 @@ Cell plusMinus(const CompactBasis& of) {
   if (!of.hasMargin)
     return {std::string(kNothing), kBehindAll, Emphasis::Faint};
   const int value = of.rates.meanwhile.plusMinus(of.rates.team);
-  return {differenceText(value), static_cast<double>(value),
+  return {signedText(value), static_cast<double>(value),
           value == 0  ? Emphasis::Faint
           : value > 0 ? Emphasis::Up
                       : Emphasis::Down};
@@ -248,16 +249,6 @@ std::vector<CompactRow> compactRows(const CountedGame& counted, const GameInsigh
   }
   markBest(rows, choice);
   return rows;
-}
-
-std::string differenceText(int number) {
-  return number > 0 ? '+' + std::to_string(number) : withWideMinus(std::to_string(number));
-}
-
-std::string withWideMinus(std::string number) {
-  if (number.starts_with('-'))
-    number.replace(0, 1, "−");
-  return number;
 }
 
 } // namespace hooptab

@@ -76,9 +76,4 @@ struct CompactRow {
                                                   unsigned starters, Side team, const CompactChoice& choice,
                                                   const Texts& texts, const OwnRating& ownRating = {});
 
-// "+8", "−2", "0": with a minus as wide as the plus.
-[[nodiscard]] std::string differenceText(int number);
-// The same minus in a number as others write it: "-2" becomes "−2".
-[[nodiscard]] std::string withWideMinus(std::string number);
-
 } // namespace hooptab

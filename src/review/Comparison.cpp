@@ -1,5 +1,6 @@
 #include "review/Comparison.h"
 
+#include "insight/SignedText.h"
 #include "review/CompactBox.h"
 #include "review/ShownGame.h"
 #include "storage/Module1.h"
@@ -47,7 +48,7 @@ class Rows {
     addNumber(words, left, right, Module1::clockText(left), Module1::clockText(right), Better::Neither);
   }
   void addMargin(Text words, int left, int right) {
-    addNumber(words, left, right, differenceText(left), differenceText(right), Better::More);
+    addNumber(words, left, right, signedText(left), signedText(right), Better::More);
   }
   void beginGroup() { m_beginsGroup = true; }
   std::vector<ComparisonRow> take() { return std::move(m_rows); }

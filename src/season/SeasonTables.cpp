@@ -2,6 +2,7 @@
 
 #include "appearance/relabel.h"
 #include "game/TableKinds.h"
+#include "insight/SignedText.h"
 #include "scorecard/ColumnWords.h"
 #include "season/SeasonDesk.h"
 #include "season/SeasonWords.h"

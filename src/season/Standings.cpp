@@ -158,11 +158,4 @@ std::string streakText(const Standing& standing, const Texts& texts) {
   return std::string(outcomeText(outcome, texts)) + std::to_string(std::max(std::abs(standing.streak), 1));
 }
 
-std::string signedText(double value, int decimals) {
-  const std::string text = fixed(std::abs(value), decimals);
-  if (text.find_first_not_of("0.") == std::string::npos)
-    return text;
-  return (value < 0 ? "−" : "+") + text;
-}
-
 } // namespace hooptab

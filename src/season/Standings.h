@@ -76,7 +76,5 @@ class Standings {
 [[nodiscard]] std::string streakText(const Standing& standing, const Texts& texts);
 // "W", "L" or "T".
 [[nodiscard]] std::string_view outcomeText(GameOutcome outcome, const Texts& texts);
-// "+6.2" with a minus as long as the plus.
-[[nodiscard]] std::string signedText(double value, int decimals);
 
 } // namespace hooptab

@@ -5,6 +5,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "insight/Rates.h"
+#include "insight/SignedText.h"
 #include "season/SeasonTables.h"
 #include "season/TeamStudy.h"
 #include "settings/CountWords.h"

@@ -3,6 +3,7 @@
 #include "appearance/TeamTag.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "insight/SignedText.h"
 #include "season/SeasonTableView.h"
 
 #include <QPainter>

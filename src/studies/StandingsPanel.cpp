@@ -8,6 +8,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "insight/Rates.h"
+#include "insight/SignedText.h"
 #include "season/SeasonTables.h"
 #include "studies/RowList.h"
 #include "studies/StandingsDelegate.h"

@@ -3,6 +3,7 @@
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "insight/Rates.h"
+#include "insight/SignedText.h"
 #include "season/SeasonTables.h"
 #include "storage/Module1.h"
 

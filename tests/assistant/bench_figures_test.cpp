@@ -1,6 +1,7 @@
 // What the bench is told of the running game: tiles, players, factors and fives, in words and in figures.
 #include "assistant/BenchFigures.h"
 
+#include "insight/SignedText.h"
 #include "recording/LiveTable.h"
 
 namespace hooptab {
@@ -22,7 +23,7 @@ class BenchFiguresTest : public LiveTableTest {
     for (const BenchFigures::Player& player : players) {
       if (player.hasPlayed)
         text += player.jersey + " " + player.name + " " + std::to_string(player.fouls) + "f " +
-                player.minutes + " " + signedNumber(player.plusMinus) + " " + std::to_string(player.points) +
+                player.minutes + " " + signedText(player.plusMinus) + " " + std::to_string(player.points) +
                 "p " + player.stay + (player.isLong ? " long" : "") + (player.isInTrouble ? " !" : "") + "; ";
       else
         text += player.jersey + " " + player.stay + "; ";
@@ -38,7 +39,7 @@ class BenchFiguresTest : public LiveTableTest {
   static std::string words(const std::vector<BenchFigures::Five>& fives) {
     std::string text;
     for (const BenchFigures::Five& five : fives)
-      text += five.jerseys + " " + five.minutes + " " + signedNumber(five.plusMinus) + " " + five.net +
+      text += five.jerseys + " " + five.minutes + " " + signedText(five.plusMinus) + " " + five.net +
               (five.isNow ? " now; " : "; ");
     return text;
   }

@@ -322,6 +322,11 @@ TEST_F(ScorecardWindowTest, ColumnsAreChosenMovedAndRemembered) {
       result << rows.headerData(column, Qt::Horizontal).toString();
     return result;
   };
+  const FormulaReader twicePoints = [](std::string_view) {
+    return FormulaReading{[](const RatedNumbers& of) { return std::optional(2.0 * of.box.points()); }, {}};
+  };
+  settings.ownRating = {"2 * PTS", "Mine"};
+  window->setFormulaReader(twicePoints);
   const QStringList usual = heads(*window);
   find<QToolButton>("cmdCOLUMNS").click();
   auto& list = find<QListWidget>("lvwCOLUMNS");
@@ -332,9 +337,10 @@ TEST_F(ScorecardWindowTest, ColumnsAreChosenMovedAndRemembered) {
   find<QToolButton>("cmdDOWN").click();
   const QStringList chosen = heads(*window);
   EXPECT_EQ(chosen.first(2), (QStringList{QStringLiteral("2P"), QStringLiteral("PTS")}));
-  EXPECT_EQ(chosen.last(), QStringLiteral("GmSc"));
+  EXPECT_EQ(chosen.last(), QStringLiteral("Mine"));
   EXPECT_EQ(chosen.size(), usual.size());
   frmVIEW next(game.store, settings, texts);
+  next.setFormulaReader(twicePoints);
   next.restoreArrangement(window->arrangement());
   ASSERT_EQ(next.open(toQt(game.file.path())), GameFileProblem::None);
   EXPECT_EQ(heads(next), chosen);

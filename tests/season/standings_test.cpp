@@ -1,6 +1,7 @@
 // The order of a league's table, and the insight that a season keeps of its games.
 #include "catalogue/SeasonFolder.h"
 #include "insight/GameInsight.h"
+#include "insight/SignedText.h"
 #include "season/Standings.h"
 #include "simulator/SampleSeason.h"
 #include "support/SharedGames.h"
