@@ -48,14 +48,24 @@ class Origins {
     if (event.code == EventCode::STO || event.code == EventCode::XTV)
       m_fromTurnover = stand.number + 1;
     else if (event.code == EventCode::SOR || event.code == EventCode::XOR)
-      m_secondChance = stand.number;
+      takeRebound(event, stand);
     else if (event.isShot())
       takeShot(event, stand);
   }
 
  private:
+  void takeRebound(const GameEvent& rebound, const Possessions::Stand& stand) {
+    m_before = m_secondChance;
+    m_secondChance = stand.number;
+    m_reboundOfThrow = m_isThrow ? std::optional(rebound.clockSeconds) : std::nullopt;
+  }
   void takeShot(const GameEvent& shot, const Possessions::Stand& stand) {
     const Side team = *shot.player.team;
+    m_isThrow = shot.code == EventCode::GFT;
+    // Between two throws the ball is dead: such a rebound, which some write down, is no second chance.
+    if (m_isThrow && m_reboundOfThrow == shot.clockSeconds)
+      m_secondChance = m_before;
+    m_reboundOfThrow.reset();
     PointOrigins& origins = m_origins[team];
     const bool isFast = shot.detail(detail_key::kFastBreak).has_value();
     if (isFast) {
@@ -81,8 +91,11 @@ class Origins {
   PerSide<PointOrigins>& m_origins;
   int m_period = 0;
   int m_possession = 0;
-  int m_fromTurnover = 0; // the number of the possession that follows the last turnover
-  int m_secondChance = 0; // of the one with the last offensive rebound
+  int m_fromTurnover = 0;              // the number of the possession that follows the last turnover
+  int m_secondChance = 0;              // of the one with the last offensive rebound
+  int m_before = 0;                    // the same before that rebound
+  bool m_isThrow = false;              // the last shot was a free throw
+  std::optional<int> m_reboundOfThrow; // its clock, where the last rebound was of one
   std::optional<int> m_lastClock;
   std::optional<int> m_gained; // the clock at which the ball was gained
 };
