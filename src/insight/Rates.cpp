@@ -101,16 +101,19 @@ std::optional<double> pace(const RateBasis& basis) {
   constexpr double kGame = 40 * 60;
   return ratio(kGame * (possessionsOf(basis) + possessionsAgainst(basis)) / 2, basis.meanwhile.seconds);
 }
+// Technical ones are among those that box scores publish.
+int foulsOf(const BoxNumbers& numbers) {
+  return numbers.counters[Counter::PF] + numbers.counters[Counter::TF];
+}
 std::optional<double> index(const RateBasis& basis) {
-  return basis.own.rating() + basis.extras.foulsDrawn - basis.own.counters[Counter::PF] -
-         basis.extras.blocksAgainst;
+  return basis.own.rating() + basis.extras.foulsDrawn - foulsOf(basis.own) - basis.extras.blocksAgainst;
 }
 std::optional<double> gameScore(const RateBasis& basis) {
   const BoxNumbers& own = basis.own;
   const auto of = [&own](Counter counter) { return own.counters[counter]; };
   return own.points() + 0.4 * own.made(kField) - 0.7 * own.attempted(kField) -
          0.4 * (own.attempted(kThrows) - own.made(kThrows)) + 0.7 * of(Counter::OR) + 0.3 * of(Counter::DR) +
-         of(Counter::ST) + 0.7 * of(Counter::Ast) + 0.7 * of(Counter::BS) - 0.4 * of(Counter::PF) -
+         of(Counter::ST) + 0.7 * of(Counter::Ast) + 0.7 * of(Counter::BS) - 0.4 * foulsOf(own) -
          of(Counter::TO);
 }
 
