@@ -61,7 +61,13 @@ class Origins {
   }
   void takeShot(const GameEvent& shot, const Possessions::Stand& stand) {
     const Side team = *shot.player.team;
+    // Where the ball stays with who has scored by throws, as behind an unsportsmanlike foul, what follows
+    // is a chance of its own.
+    if (m_scoredAt && m_scoredAt != shot.clockSeconds && m_scoredBy == stand.number)
+      m_fromTurnover = m_secondChance = 0;
     m_isThrow = shot.code == EventCode::GFT;
+    m_scoredAt = m_isThrow && shot.isMade ? std::optional(shot.clockSeconds) : std::nullopt;
+    m_scoredBy = stand.number;
     // Between two throws the ball is dead: such a rebound, which some write down, is no second chance.
     if (m_isThrow && m_reboundOfThrow == shot.clockSeconds)
       m_secondChance = m_before;
@@ -95,6 +101,8 @@ class Origins {
   int m_secondChance = 0;              // of the one with the last offensive rebound
   int m_before = 0;                    // the same before that rebound
   bool m_isThrow = false;              // the last shot was a free throw
+  std::optional<int> m_scoredAt;       // its clock, where it was made
+  int m_scoredBy = 0;                  // the number of its possession
   std::optional<int> m_reboundOfThrow; // its clock, where the last rebound was of one
   std::optional<int> m_lastClock;
   std::optional<int> m_gained; // the clock at which the ball was gained
