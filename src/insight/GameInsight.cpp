@@ -66,7 +66,8 @@ class Origins {
     if (m_scoredAt && m_scoredAt != shot.clockSeconds && m_scoredBy == stand.number)
       m_fromTurnover = m_secondChance = 0;
     m_isThrow = shot.code == EventCode::GFT;
-    m_scoredAt = m_isThrow && shot.isMade ? std::optional(shot.clockSeconds) : std::nullopt;
+    m_scoredAt =
+        m_isThrow && shot.isMade && !stand.isTechnicalThrow ? std::optional(shot.clockSeconds) : std::nullopt;
     m_scoredBy = stand.number;
     // Between two throws the ball is dead: such a rebound, which some write down, is no second chance.
     if (m_isThrow && m_reboundOfThrow == shot.clockSeconds)
@@ -84,8 +85,8 @@ class Origins {
     origins.paint += isInPaint(shot) ? points : 0;
     if (isFast)
       *origins.fastBreak += points;
-    if (stand.team != team)
-      return; // the throw of a technical foul in the other team's possession
+    if (stand.team != team || stand.isTechnicalThrow)
+      return; // a throw that only interrupts the possession
     origins.fromTurnovers += stand.number == m_fromTurnover ? points : 0;
     origins.secondChance += stand.number == m_secondChance ? points : 0;
     const int held = m_gained ? *m_gained - shot.clockSeconds : -1; // below 0: the clock was set back

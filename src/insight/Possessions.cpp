@@ -19,6 +19,7 @@ bool leavesBallWithShooter(const GameEvent& foul) {
 
 Possessions::Stand Possessions::take(const GameEvent& event, std::size_t place) {
   m_begun = {};
+  m_isTechnicalThrow = false;
   if (event.period != m_period) {
     m_period = event.period;
     m_team.reset();
@@ -51,7 +52,7 @@ Possessions::Stand Possessions::take(const GameEvent& event, std::size_t place) 
     else if (m_end != nullptr && !followsTheEnd(event))
       begin(otherSide(*m_team));
   }
-  return {m_team, m_team ? m_number : 0, m_begun};
+  return {m_team, m_team ? m_number : 0, m_begun, m_isTechnicalThrow};
 }
 
 void Possessions::takeShot(const GameEvent& event, const std::optional<FreeThrows::Link>& link) {
@@ -67,7 +68,8 @@ void Possessions::takeShot(const GameEvent& event, const std::optional<FreeThrow
 void Possessions::takeThrow(const GameEvent& event, const std::optional<FreeThrows::Link>& link) {
   const GameEvent* const foul =
       link && link->kind == FreeThrows::Link::Kind::OfFoul ? &m_events[link->foul] : nullptr;
-  if (foul != nullptr && isTechnical(*foul))
+  m_isTechnicalThrow = foul != nullptr && isTechnical(*foul);
+  if (m_isTechnicalThrow)
     return;
   const bool goesOn = m_end != nullptr && m_end->isShot() && m_team == event.player.team &&
                       m_end->clockSeconds - event.clockSeconds <= kLongestOwed;

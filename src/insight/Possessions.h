@@ -33,8 +33,9 @@ class Possessions {
   struct Stand {
     // Whose possession the event belongs to; none: nobody is known to have the ball.
     std::optional<Side> team = {};
-    int number = 0;          // 0 where there is no team
-    PerSide<int> begun = {}; // possessions that began with this event, by team
+    int number = 0;                // 0 where there is no team
+    PerSide<int> begun = {};       // possessions that began with this event, by team
+    bool isTechnicalThrow = false; // a free throw that a technical foul awarded
   };
   // The next event of the list that counts.
   Stand take(const GameEvent& event, std::size_t place);
@@ -53,6 +54,7 @@ class Possessions {
   std::optional<Side> m_team;
   int m_number = 0;
   PerSide<int> m_begun = {};
+  bool m_isTechnicalThrow = false;
   const GameEvent* m_end = nullptr; // what ended the possession of m_team, until the next one begins
 };
 

@@ -47,6 +47,12 @@ TEST(Origins, TurnoversAndSecondChancesLastAsLongAsThePossession) {
       "3=09:50,STO,1-3\n4=09:45,SPF,1-3,K=U,F=2\n5=09:45,GFT,0-4\n6=09:45,GFT,0-4\n"
       "7=09:35,GF3,0-4\n";
   EXPECT_EQ(origins(unsportsmanlike, Side::Visitor).fromTurnovers, 2);
+  EXPECT_EQ(
+      origins("3=09:50,STO,1-3\n4=09:45,SPF,1-3,F=2\n5=09:45,STF,1-7,F=1\n6=09:45,GFT,0-5\n7=09:45,GFT,0-4\n"
+              "8=09:45,GFT,0-4\n",
+              Side::Visitor)
+          .fromTurnovers,
+      2);
   const std::string betweenThrows = "3=09:50,SPF,1-3,F=2\n4=09:50,GFTA,0-4\n5=09:50,XOR,0\n6=09:50,GFT,0-4\n";
   EXPECT_EQ(origins(betweenThrows, Side::Visitor).secondChance, 0);
   EXPECT_EQ(origins("3=09:50,GFTA,0-4\n4=09:49,SOR,0-5\n5=09:47,GFG,0-5\n", Side::Visitor).secondChance, 2);
