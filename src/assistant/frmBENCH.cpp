@@ -1,13 +1,12 @@
 #include "assistant/frmBENCH.h"
 
 #include "appearance/ElidedLabel.h"
+#include "appearance/OtherScreen.h"
 #include "appearance/PlainText.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "assistant/BenchParts.h"
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QToolButton>
 
 #include <algorithm>
@@ -118,16 +117,7 @@ void frmBENCH::makeTeams() {
 }
 
 void frmBENCH::open(const QByteArray& geometry) {
-  if (!restoreGeometry(geometry)) {
-    const QScreen* here = parentWidget()->screen();
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    const auto other =
-        std::ranges::find_if(screens, [here](const QScreen* screen) { return screen != here; });
-    const QRect room = (other == screens.end() ? here : *other)->availableGeometry();
-    resize(kSize.boundedTo(room.size()));
-    move(room.center() - rect().center());
-  }
-  show();
+  showOnOtherScreen(*this, geometry, kSize);
 }
 
 void frmBENCH::setTeam(Side team) {

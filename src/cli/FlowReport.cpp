@@ -1,6 +1,7 @@
 #include "cli/InsightReports.h"
 #include "cli/TextTable.h"
 #include "game/PeriodName.h"
+#include "insight/SignedText.h"
 #include "insight/WinProbability.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
@@ -13,10 +14,6 @@ namespace hooptab {
 namespace {
 
 using Align = TextTable::Align;
-
-std::string signedText(int number) {
-  return (number > 0 ? "+" : "") + std::to_string(number);
-}
 
 std::string scoreText(const PerSide<int>& score) {
   return std::to_string(score[Side::Visitor]) + "-" + std::to_string(score[Side::Home]);

@@ -24,19 +24,6 @@ struct Together {
   bool isOff = false;
 };
 
-std::string jerseysOf(const Roster& roster, unsigned players) {
-  std::vector<std::string> jerseys;
-  for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
-    if ((players >> static_cast<unsigned>(entry) & 1U) != 0)
-      jerseys.push_back(roster.player(entry)->jersey);
-  }
-  std::ranges::sort(jerseys, Module1::jerseyBefore);
-  std::string text;
-  for (const std::string& jersey : jerseys)
-    text += (text.empty() ? "" : "-") + jersey;
-  return text;
-}
-
 void addPlayers(std::vector<Together>& all, const CountedGame& counted, const GameInsight& insight,
                 Side team) {
   for (int entry = 1; entry <= Roster::kLargestEntry; ++entry) {
@@ -64,6 +51,7 @@ void addLines(std::vector<Together>& all, const CountedGame& counted, const Game
 
 std::vector<Together> togetherOf(const CountedGame& counted, const GameInsight& insight, Side team,
                                  int size) {
+  const Roster& roster = counted.game.roster[team];
   std::vector<Together> all;
   if (size == 1)
     addPlayers(all, counted, insight, team);
@@ -71,7 +59,7 @@ std::vector<Together> togetherOf(const CountedGame& counted, const GameInsight& 
     addLines(all, counted, insight, team);
   else
     for (const Combination& each : combinationsOf(insight, counted.state, team, size))
-      all.push_back({jerseysOf(counted.game.roster[team], each.players), each.share});
+      all.push_back({jerseysOnCourt(roster.listOf(each.players), roster, '-'), each.share});
   return all;
 }
 

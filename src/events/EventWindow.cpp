@@ -1,11 +1,10 @@
 #include "events/EventWindow.h"
 
+#include "appearance/OtherScreen.h"
 #include "events/LiveEventList.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QGuiApplication>
-#include <QScreen>
 
 #include <algorithm>
 
@@ -36,16 +35,7 @@ void EventWindow::applyColours() {
 }
 
 void EventWindow::open(const QByteArray& geometry) {
-  if (!restoreGeometry(geometry)) {
-    const QScreen* here = parentWidget()->screen();
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    const auto other =
-        std::ranges::find_if(screens, [here](const QScreen* screen) { return screen != here; });
-    const QRect room = (other == screens.end() ? here : *other)->availableGeometry();
-    resize(kSize.boundedTo(room.size()));
-    move(room.center() - rect().center());
-  }
-  show();
+  showOnOtherScreen(*this, geometry, kSize);
 }
 
 void EventWindow::closeEvent(QCloseEvent* event) {
