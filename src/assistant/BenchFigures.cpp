@@ -30,7 +30,7 @@ constexpr std::array kFactors = {WeighedFactor{"eFG", 0.40}, WeighedFactor{"TOra
 
 class Bench {
  public:
-  Bench(const LiveGame& game, const BenchRecord& record, Side us, const Texts& texts)
+  Bench(const LiveMoment& game, const BenchRecord& record, Side us, const Texts& texts)
       : m_game(game), m_record(record), m_us(us), m_them(otherSide(us)), m_texts(texts),
         m_words(game.game(), texts) {}
 
@@ -255,7 +255,7 @@ class Bench {
       add(now, LiveFigures(m_game).secondsOfLine(m_us), true);
   }
 
-  const LiveGame& m_game;
+  LiveMoment m_game;
   const BenchRecord& m_record;
   Side m_us;
   Side m_them;
@@ -265,7 +265,8 @@ class Bench {
 
 } // namespace
 
-BenchFigures BenchFigures::of(const LiveGame& game, const BenchRecord& record, Side us, const Texts& texts) {
+BenchFigures BenchFigures::of(const LiveMoment& game, const BenchRecord& record, Side us,
+                              const Texts& texts) {
   return Bench(game, record, us, texts).figures();
 }
 

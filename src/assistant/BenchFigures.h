@@ -75,7 +75,7 @@ struct BenchFigures {
   // The best and the worst of those who played long enough, and last the one that is on court.
   std::vector<Five> fives;
 
-  [[nodiscard]] static BenchFigures of(const LiveGame& game, const BenchRecord& record, Side us,
+  [[nodiscard]] static BenchFigures of(const LiveMoment& game, const BenchRecord& record, Side us,
                                        const Texts& texts);
 };
 

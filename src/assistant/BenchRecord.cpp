@@ -1,6 +1,6 @@
 #include "assistant/BenchRecord.h"
 
-#include "recording/LiveGame.h"
+#include "recording/LiveMoment.h"
 #include "recording/OnCourt.h"
 
 #include <algorithm>
@@ -27,7 +27,7 @@ Game gameUpTo(const Game& game, const GameEvent& last) {
 
 } // namespace
 
-BenchRecord::BenchRecord(const LiveGame& game)
+BenchRecord::BenchRecord(const LiveMoment& game)
     : insight(insightOf(game.game())), fives(Fives::of(game, insight)), run(lastRun(game.game().events)),
       m_elapsed(game.game()) {
   for (const GameEvent& event : game.game().events) {
@@ -42,11 +42,11 @@ BenchRecord::BenchRecord(const LiveGame& game)
 }
 
 // Where the present period has no event yet, no time has passed since the last one.
-int BenchRecord::secondsOfPlay(const LiveGame& game) const {
+int BenchRecord::secondsOfPlay(const LiveMoment& game) const {
   return game.period() == m_lastPeriod ? m_elapsed.at(m_lastPeriod, game.clockSeconds()) : m_lastSeconds;
 }
 
-std::optional<int> BenchRecord::secondsSinceTurn(const LiveGame& game, Side team, int player) const {
+std::optional<int> BenchRecord::secondsSinceTurn(const LiveMoment& game, Side team, int player) const {
   const std::optional<int>& at = m_turns[team][static_cast<std::size_t>(player)].at;
   return at && game.hasTime() ? std::optional(std::max(secondsOfPlay(game) - *at, 0)) : std::nullopt;
 }
@@ -91,10 +91,11 @@ void BenchRecord::followRun(const Game& game) {
   std::ranges::stable_sort(scorers, std::ranges::greater(), &Scorer::points);
 }
 
-void BenchRecord::followTurns(const LiveGame& game) {
+void BenchRecord::followTurns(const LiveMoment& game) {
+  const Rosters rosters = {game.game().roster[Side::Visitor], game.game().roster[Side::Home]};
   OnCourt onCourt = {};
   for (const GameEvent& event : game.game().events) {
-    const std::optional<OnCourt> lists = onCourtOf(event, game.log().rosters());
+    const std::optional<OnCourt> lists = onCourtOf(event, rosters);
     if (!lists)
       continue;
     const int at = m_elapsed.at(event.period, event.clockSeconds);

@@ -31,7 +31,7 @@ class BenchRecord {
   };
 
   // The game need not outlive it.
-  explicit BenchRecord(const LiveGame& game);
+  explicit BenchRecord(const LiveMoment& game);
 
   GameInsight insight;
   Fives fives;
@@ -40,20 +40,20 @@ class BenchRecord {
   std::vector<Scorer> scorers; // of the run, the one with most points first
 
   // Seconds of play from the run's first score until now.
-  [[nodiscard]] int secondsOfRun(const LiveGame& game) const { return secondsOfPlay(game) - m_runBegan; }
+  [[nodiscard]] int secondsOfRun(const LiveMoment& game) const { return secondsOfPlay(game) - m_runBegan; }
   // Seconds of play since the player came on court, or left it last; none for one who has done neither. A
   // break between periods takes no time, and who comes back at the clock at which he left never was away.
-  [[nodiscard]] std::optional<int> secondsSinceTurn(const LiveGame& game, Side team, int player) const;
+  [[nodiscard]] std::optional<int> secondsSinceTurn(const LiveMoment& game, Side team, int player) const;
 
  private:
   struct Turn {
     std::optional<int> at = {};
     std::optional<int> before = {}; // of the one before, which counts again where he turns back
   };
-  [[nodiscard]] int secondsOfPlay(const LiveGame& game) const; // of the game, until now
+  [[nodiscard]] int secondsOfPlay(const LiveMoment& game) const; // of the game, until now
   void followTimeOuts(const Game& game);
   void followRun(const Game& game);
-  void followTurns(const LiveGame& game);
+  void followTurns(const LiveMoment& game);
 
   ElapsedTime m_elapsed;
   int m_lastPeriod = 0; // of the last event that counts

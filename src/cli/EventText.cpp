@@ -1,5 +1,5 @@
 #include "cli/Reports.h"
-#include "cli/TextTable.h"
+#include "feed/TextTable.h"
 #include "game/EventWords.h"
 #include "storage/Utf8.h"
 

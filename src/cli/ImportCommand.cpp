@@ -1,6 +1,6 @@
 #include "cli/ExchangeCommands.h"
-#include "cli/JsonWriter.h"
 #include "exchange/GameImport.h"
+#include "feed/JsonWriter.h"
 #include "storage/Placeholders.h"
 #include "storage/Utf8.h"
 

@@ -1,11 +1,8 @@
-// What hooptab-cli prints of the insight into a game: lines of players, the flow of the score, comparisons,
-// and what a box score in JSON says of them.
+// What hooptab-cli prints of the insight into a game: lines of players, the flow of the score, comparisons.
 #pragma once
 
-#include "cli/JsonWriter.h"
-#include "insight/GameInsight.h"
-#include "insight/MarginFlow.h"
-#include "scorecard/Scorecard.h"
+#include "game/CountedGame.h"
+#include "game/Side.h"
 #include "settings/Texts.h"
 
 #include <array>
@@ -13,16 +10,6 @@
 #include <string>
 
 namespace hooptab {
-
-// --- Members of a box score
-
-// Of a team: possessions, points by their origin, biggest lead and run; null of a game entered as totals.
-void writeTeamInsight(JsonWriter& json, const GameInsight& insight, const MarginFlow& flow,
-                      const CountedGame& counted, Side team);
-// Of a game: lead changes and ties.
-void writeFlowCounts(JsonWriter& json, const GameInsight& insight, const MarginFlow& flow);
-
-// --- Reports
 
 // Each team's sets of so many players who were on court together, with what both teams did meanwhile: 5 for
 // lines (of whatever size they were), 3 for trios, 2 for pairs, 1 for each player on court and off.

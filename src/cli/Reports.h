@@ -2,7 +2,7 @@
 // however odd it is.
 #pragma once
 
-#include "cli/JsonWriter.h"
+#include "feed/JsonWriter.h"
 #include "scorecard/Scorecard.h"
 #include "settings/Texts.h"
 #include "storage/DelimitedText.h"
@@ -13,11 +13,6 @@
 
 namespace hooptab {
 
-// Points and fouls by period, time in lead, and a table of each team's players; shots of kinds that nobody
-// took are left out.
-[[nodiscard]] std::string boxText(const Scorecard& card, const Texts& texts);
-// The same in every language: keys, and positions in English.
-[[nodiscard]] std::string boxJson(const Scorecard& card);
 // All columns of the scorecard, after the team's abbreviation (RFC 4180).
 [[nodiscard]] std::string boxCsv(const Scorecard& card, const Texts& texts, CsvReader reader);
 
@@ -28,9 +23,5 @@ namespace hooptab {
 [[nodiscard]] std::string verifyText(const Scorecard& card, const Texts& texts);
 // The same as an object with all of them; the words are those of the language.
 void writeVerified(const Scorecard& card, const Texts& texts, JsonWriter& json);
-
-// Periods of the game that have an event; those from the eighth on share their points and fouls, so at most
-// eight.
-[[nodiscard]] int shownPeriods(const Game& game);
 
 } // namespace hooptab

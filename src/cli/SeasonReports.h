@@ -13,13 +13,8 @@ namespace hooptab {
 // Games, teams, players and lines in totals, players per game and per minute, and files that were not read.
 [[nodiscard]] std::string seasonText(const SeasonStatistics& statistics, std::optional<SeasonId> team,
                                      const Qualification& minimum, const Texts& texts);
-// The same in every language: keys, positions and reasons in English.
-[[nodiscard]] std::string seasonJson(const SeasonStatistics& statistics, std::optional<SeasonId> team,
-                                     const Qualification& minimum);
 // Players and lines in each of the views, all columns; the last one is 1 for rows under the minimum.
 [[nodiscard]] std::string seasonCsv(const SeasonStatistics& statistics, const Qualification& minimum,
                                     const Texts& texts, CsvReader reader);
-
-[[nodiscard]] std::string skipReasonInEnglish(SkipReason reason);
 
 } // namespace hooptab

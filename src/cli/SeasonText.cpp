@@ -1,5 +1,5 @@
 #include "cli/SeasonReports.h"
-#include "cli/TextTable.h"
+#include "feed/TextTable.h"
 #include "insight/Rates.h"
 #include "report/ReportWords.h"
 #include "season/GameColumns.h"
@@ -145,10 +145,6 @@ class SeasonText {
 std::string seasonText(const SeasonStatistics& statistics, std::optional<SeasonId> team,
                        const Qualification& minimum, const Texts& texts) {
   return SeasonText(statistics, team, minimum, texts).text();
-}
-
-std::string skipReasonInEnglish(SkipReason reason) {
-  return std::string(Texts().text(skipReasonText(reason), Language::English));
 }
 
 } // namespace hooptab

@@ -6,6 +6,9 @@
 #include "cli/Output.h"
 #include "cli/Reports.h"
 #include "cli/SeasonReports.h"
+#include "feed/BoxJson.h"
+#include "feed/BoxText.h"
+#include "feed/SeasonJson.h"
 #include "resources/tables.h"
 #include "storage/Placeholders.h"
 #include "storage/Utf8.h"
@@ -166,11 +169,11 @@ class Program {
     if (m_options.command == CliCommand::Flow)
       return isJson ? flowJson(*card.counted()) : flowText(*card.counted(), m_texts);
     switch (m_options.format) {
-    case OutputFormat::Json: return boxJson(card);
+    case OutputFormat::Json: return boxJson(*card.counted(), card.path());
     case OutputFormat::Csv: return boxCsv(card, m_texts, m_options.csvReader);
     case OutputFormat::Text: break;
     }
-    return boxText(card, m_texts);
+    return boxText(*card.counted(), m_texts);
   }
   bool needsEvents() const {
     return m_options.command == CliCommand::Lines || m_options.command == CliCommand::Flow ||

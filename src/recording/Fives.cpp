@@ -31,7 +31,7 @@ std::optional<double> netOf(Side team, const CourtShare& share) {
 
 } // namespace
 
-Fives Fives::of(const LiveGame& game, const GameInsight& insight) {
+Fives Fives::of(const LiveMoment& game, const GameInsight& insight) {
   Fives fives;
   const GameState& state = game.state();
   for (const Side team : kSides) {

@@ -4,7 +4,7 @@
 
 #include "game/Side.h"
 #include "insight/GameInsight.h"
-#include "recording/LiveGame.h"
+#include "recording/LiveMoment.h"
 
 #include <optional>
 #include <string>
@@ -39,9 +39,9 @@ struct Fives {
   }
 
   // Goes through all events: for once a change, not for every second.
-  [[nodiscard]] static Fives of(const LiveGame& game) { return of(game, insightOf(game.game())); }
+  [[nodiscard]] static Fives of(const LiveMoment& game) { return of(game, insightOf(game.game())); }
   // Of a game of which that is known.
-  [[nodiscard]] static Fives of(const LiveGame& game, const GameInsight& insight);
+  [[nodiscard]] static Fives of(const LiveMoment& game, const GameInsight& insight);
 };
 
 } // namespace hooptab

@@ -3,13 +3,13 @@
 #pragma once
 
 #include "game/Side.h"
-#include "recording/LiveGame.h"
+#include "recording/LiveMoment.h"
 
 namespace hooptab {
 
 class LiveFigures {
  public:
-  explicit LiveFigures(const LiveGame& game) : m_game(game) {}
+  explicit LiveFigures(const LiveMoment& game) : m_game(game) {}
 
   [[nodiscard]] int secondsOnCourt(Side team, int player) const;
   [[nodiscard]] int secondsOfLine(Side team) const; // that those on court have played together; 0 for nobody
@@ -24,7 +24,7 @@ class LiveFigures {
   [[nodiscard]] bool isTimeOpen() const;
   [[nodiscard]] int secondsSinceLists(Side team) const;
 
-  const LiveGame& m_game;
+  LiveMoment m_game;
 };
 
 } // namespace hooptab

@@ -18,7 +18,7 @@ LivePanel::FoulMark foulMark(int count, int limit) {
   return count > 0 && count == limit - 1 ? LivePanel::FoulMark::OneLeft : LivePanel::FoulMark::None;
 }
 
-int personalFoulsOfFirstPeriod(const LiveGame& game, Side team, int player) {
+int personalFoulsOfFirstPeriod(const LiveMoment& game, Side team, int player) {
   int fouls = 0;
   for (const GameEvent& event : game.game().events) {
     if (event.period > 1)
@@ -30,7 +30,7 @@ int personalFoulsOfFirstPeriod(const LiveGame& game, Side team, int player) {
   return fouls;
 }
 
-LivePanel::FoulMark personalFoulMark(const LiveGame& game, Side team, int player) {
+LivePanel::FoulMark personalFoulMark(const LiveMoment& game, Side team, int player) {
   constexpr int kEarlyFouls = 2;
   const GameDetails& rules = game.game().details;
   const int count = game.state().players[team][static_cast<std::size_t>(player)].counters[Counter::PF];
@@ -73,7 +73,7 @@ LivePanel LivePanel::of(const LiveGame& game, Slot slot) {
   return panel;
 }
 
-LivePanel::FoulMark LivePanel::foulTrouble(const LiveGame& game, Side team, int player) {
+LivePanel::FoulMark LivePanel::foulTrouble(const LiveMoment& game, Side team, int player) {
   return LiveFigures(game).isFouledOut(team, player) ? FoulMark::Reached
                                                      : personalFoulMark(game, team, player);
 }

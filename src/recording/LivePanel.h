@@ -14,6 +14,7 @@
 namespace hooptab {
 
 class LiveGame;
+class LiveMoment;
 
 struct LivePanel {
   // Against a limit; None where there is none. In the order of its weight.
@@ -43,7 +44,7 @@ struct LivePanel {
   [[nodiscard]] static LivePanel of(const LiveGame& game, Slot slot);
   // Of a player on court or on the bench, personal and technical fouls together: Reached where he has fouled
   // out by either, else what his personal fouls say.
-  [[nodiscard]] static FoulMark foulTrouble(const LiveGame& game, Side team, int player);
+  [[nodiscard]] static FoulMark foulTrouble(const LiveMoment& game, Side team, int player);
   // The part that changes while the clock runs; empty for an empty panel.
   [[nodiscard]] static std::string timeOf(const LiveGame& game, Slot slot);
 

@@ -33,7 +33,7 @@ Text ordinalOf(int number, Language language) {
 
 } // namespace
 
-std::string foulWords(const LiveGame& game, Side team, const Texts& texts) {
+std::string foulWords(const LiveMoment& game, Side team, const Texts& texts) {
   const int limit = game.game().details.bonus;
   if (limit <= 0)
     return {};

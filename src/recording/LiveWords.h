@@ -3,7 +3,7 @@
 #pragma once
 
 #include "game/Side.h"
-#include "recording/LiveGame.h"
+#include "recording/LiveMoment.h"
 #include "settings/Texts.h"
 
 #include <cstddef>
@@ -14,7 +14,7 @@
 namespace hooptab {
 
 // Of a team's fouls: "2 to give" below the limit, "OLY shoot 2" from it on; empty without a limit.
-[[nodiscard]] std::string foulWords(const LiveGame& game, Side team, const Texts& texts);
+[[nodiscard]] std::string foulWords(const LiveMoment& game, Side team, const Texts& texts);
 
 // Points of one team since the other has scored last.
 struct ScoringRun {

@@ -12,9 +12,11 @@ struct RunningGame {
   int period = 1;                                   // the next one, once the one before has ended
   int clockSeconds = 0;                             // that remained; while it runs, count on from there
   OnCourt onCourt = {};
+  bool isStopLost = false; // as LiveGame has it
 
   [[nodiscard]] static RunningGame of(const LiveGame& game) {
-    return {{game.game(), game.state()}, game.phase(), game.period(), game.clockSeconds(), game.onCourt()};
+    return {{game.game(), game.state()}, game.phase(),   game.period(),
+            game.clockSeconds(),         game.onCourt(), game.isStopLost()};
   }
 };
 

@@ -15,13 +15,13 @@ constexpr std::string_view kNoTime = "--:--";
 constexpr std::string_view kOver = "---";
 constexpr std::size_t kLengthOfClock = 5; // mm:ss
 
-std::string timeShown(const LiveGame& game, int seconds) {
+std::string timeShown(const LiveMoment& game, int seconds) {
   return game.hasTime() ? Module1::clockText(seconds) : std::string(kNoTime);
 }
 
 } // namespace
 
-std::string clockShown(const LiveGame& game) {
+std::string clockShown(const LiveMoment& game) {
   return timeShown(game, game.clockSeconds());
 }
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "game/Side.h"
-#include "recording/LiveGame.h"
+#include "recording/LiveMoment.h"
 #include "settings/Texts.h"
 
 #include <array>
@@ -14,7 +14,7 @@
 
 namespace hooptab {
 
-[[nodiscard]] std::string clockShown(const LiveGame& game);                      // "--:--" without time
+[[nodiscard]] std::string clockShown(const LiveMoment& game);                    // "--:--" without time
 [[nodiscard]] std::string leadTimeShown(const LiveGame& game, LeadState state);  // the same
 [[nodiscard]] std::string periodShown(const LiveGame& game, const Texts& texts); // "2", "OT1"
 // What a press on the clock's button does: START, STOP, or "---" once the game is over.

@@ -18,10 +18,10 @@ GameFileProblem Scorecard::load() {
   return GameFileProblem::None;
 }
 
-std::string Scorecard::title() const {
-  const auto& names = game().details.abbreviation;
-  return names[Side::Visitor] + " " + std::to_string(state().points(Side::Visitor)) + " - " +
-         std::to_string(state().points(Side::Home)) + " " + names[Side::Home];
+std::string gameTitle(const CountedGame& counted) {
+  const auto& names = counted.game.details.abbreviation;
+  return names[Side::Visitor] + " " + std::to_string(counted.state.points(Side::Visitor)) + " - " +
+         std::to_string(counted.state.points(Side::Home)) + " " + names[Side::Home];
 }
 
 } // namespace hooptab

@@ -13,6 +13,9 @@
 
 namespace hooptab {
 
+// "LYNX 78 - 81 PUMA": the name of a game in windows, lists and texts.
+[[nodiscard]] std::string gameTitle(const CountedGame& counted);
+
 class Scorecard {
  public:
   // The store must outlive it.
@@ -30,8 +33,7 @@ class Scorecard {
   const std::optional<CountOutOfRange>& outOfRange() const { return m_outOfRange; }
   // What a check of the game and its file names.
   const std::vector<Finding>& findings() const { return m_findings; }
-  // "LYNX 78 - 81 PUMA": the window's and the recent list's name for the game.
-  [[nodiscard]] std::string title() const;
+  [[nodiscard]] std::string title() const { return gameTitle(*m_counted); }
 
  private:
   ProfileStore& m_store;

@@ -16,7 +16,7 @@ floors=(
   "teams checks totals foreign insight formula"
   "setup welcome forms recording catalogue scorecard simulator livedata bbgame"
   "assistant keypad manual season review"
-  "events report scoreboard studies exchange extracts"
+  "events report scoreboard studies exchange extracts feed"
   "live printing publish"
   "shell"
 )

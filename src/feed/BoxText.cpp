@@ -1,7 +1,10 @@
-#include "cli/Reports.h"
-#include "cli/TextTable.h"
+#include "feed/BoxText.h"
+
+#include "feed/BoxJson.h"
+#include "feed/TextTable.h"
 #include "game/EventWords.h"
 #include "scorecard/BoxScore.h"
+#include "scorecard/Scorecard.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 #include "storage/Utf8.h"
@@ -17,15 +20,16 @@ using Row = std::vector<std::string>;
 
 class BoxText {
  public:
-  BoxText(const Scorecard& card, const Texts& texts) : m_card(card), m_game(card.game()), m_texts(texts) {
+  BoxText(const CountedGame& counted, const Texts& texts)
+      : m_counted(counted), m_game(counted.game), m_texts(texts) {
     for (const Side team : kSides) {
-      m_rows[team] = boxRows(*card.counted(), team, BoxView::Players, texts);
+      m_rows[team] = boxRows(counted, team, BoxView::Players, texts);
       m_names[team] = printable(m_game.details.abbreviation[team]);
     }
   }
 
   std::string text() const {
-    std::string text = printable(m_card.title()) + '\n' + description() + '\n';
+    std::string text = printable(gameTitle(m_counted)) + '\n' + description() + '\n';
     text += periodTable(Text::PointsByPeriod, &PeriodEntry::points) + '\n';
     text += periodTable(Text::Fouls, &PeriodEntry::fouls) + '\n';
     text += leadTable();
@@ -65,7 +69,7 @@ class BoxText {
       Row row = {m_names[team]};
       int sum = 0;
       for (int period = 1; period <= periods; ++period) {
-        const int value = m_card.state().periods[team][GameState::periodRow(period)].*count;
+        const int value = m_counted.state.periods[team][GameState::periodRow(period)].*count;
         row.push_back(std::to_string(value));
         sum += value;
       }
@@ -76,7 +80,7 @@ class BoxText {
   }
 
   std::string leadTable() const {
-    const LeadTracker& lead = m_card.state().lead;
+    const LeadTracker& lead = m_counted.state.lead;
     TextTable table;
     table.addColumn(word(Text::TimeInLead), Align::Left);
     table.addColumn(word(Text::Time), Align::Right);
@@ -150,7 +154,7 @@ class BoxText {
     return table.text();
   }
 
-  const Scorecard& m_card;
+  const CountedGame& m_counted;
   const Game& m_game;
   const Texts& m_texts;
   PerSide<std::vector<BoxRow>> m_rows;
@@ -159,15 +163,8 @@ class BoxText {
 
 } // namespace
 
-std::string boxText(const Scorecard& card, const Texts& texts) {
-  return BoxText(card, texts).text();
-}
-
-int shownPeriods(const Game& game) {
-  int highest = 0;
-  for (const GameEvent& event : game.events)
-    highest = std::max(highest, event.period);
-  return std::min(highest, static_cast<int>(GameState::kPeriodRows) - 1);
+std::string boxText(const CountedGame& counted, const Texts& texts) {
+  return BoxText(counted, texts).text();
 }
 
 } // namespace hooptab

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <concepts>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,7 @@ class JsonWriter {
   void name(std::string_view name);
   void value(std::string_view text);
   void value(int number);
+  void value(std::int64_t number);
   void value(double number);         // to three decimals
   template <std::same_as<bool> Bool> // a text must not be taken for one
   void value(Bool truth) {

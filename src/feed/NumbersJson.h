@@ -1,7 +1,7 @@
 // The statistics of a player, line or team as members of a JSON object.
 #pragma once
 
-#include "cli/JsonWriter.h"
+#include "feed/JsonWriter.h"
 #include "game/Statistics.h"
 #include "insight/Rates.h"
 

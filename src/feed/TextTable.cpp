@@ -1,4 +1,4 @@
-#include "cli/TextTable.h"
+#include "feed/TextTable.h"
 
 #include "storage/Utf8.h"
 

@@ -1,4 +1,5 @@
-#include "cli/InsightReports.h"
+#include "feed/InsightJson.h"
+
 #include "storage/Module1.h"
 
 namespace hooptab {

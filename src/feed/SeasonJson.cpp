@@ -1,5 +1,6 @@
-#include "cli/NumbersJson.h"
-#include "cli/SeasonReports.h"
+#include "feed/SeasonJson.h"
+
+#include "feed/NumbersJson.h"
 #include "insight/Rates.h"
 #include "season/GameColumns.h"
 #include "season/Leaders.h"
@@ -207,6 +208,10 @@ class SeasonJson {
 std::string seasonJson(const SeasonStatistics& statistics, std::optional<SeasonId> team,
                        const Qualification& minimum) {
   return SeasonJson(statistics, team, minimum).text();
+}
+
+std::string skipReasonInEnglish(SkipReason reason) {
+  return std::string(Texts().text(skipReasonText(reason), Language::English));
 }
 
 } // namespace hooptab

@@ -1,4 +1,4 @@
-#include "cli/JsonWriter.h"
+#include "feed/JsonWriter.h"
 
 #include "storage/Utf8.h"
 
@@ -22,6 +22,11 @@ void JsonWriter::value(std::string_view text) {
 }
 
 void JsonWriter::value(int number) {
+  separate();
+  m_text += std::to_string(number);
+}
+
+void JsonWriter::value(std::int64_t number) {
   separate();
   m_text += std::to_string(number);
 }

@@ -1,4 +1,4 @@
-#include "cli/NumbersJson.h"
+#include "feed/NumbersJson.h"
 
 #include <algorithm>
 #include <optional>
