@@ -104,6 +104,26 @@ class FeedWriter {
     m_json.member("taken", static_cast<int>(m_state.teamRows[team].timeOuts));
     m_json.endObject();
     m_json.endLine();
+    writeScorers(team);
+  }
+  // The two with most points, in the order of the roster where they have as many.
+  void writeScorers(Side team) {
+    constexpr std::size_t kNamed = 2;
+    std::vector<std::pair<int, const RosterPlayer*>> scorers;
+    for (int entry = 1; entry <= kMostPlayers; ++entry) {
+      const int points = pointsOf(m_state.players[team][static_cast<std::size_t>(entry)].counters);
+      if (const RosterPlayer* player = m_game.roster[team].player(entry); player != nullptr && points > 0)
+        scorers.emplace_back(points, player);
+    }
+    std::ranges::stable_sort(scorers, std::ranges::greater(), [](const auto& each) { return each.first; });
+    scorers.resize(std::min(scorers.size(), kNamed));
+    writeList("scorers", scorers, [this](const auto& scorer) {
+      m_json.beginObject();
+      m_json.member("number", scorer.second->jersey);
+      m_json.member("name", toldName(scorer.second->name, m_options.names));
+      m_json.member("points", scorer.first);
+      m_json.endObject();
+    });
   }
   void writePlayer(Side team, int entry, const GameInsight& insight) {
     const unsigned bit = 1U << static_cast<unsigned>(std::max(entry, 0));
