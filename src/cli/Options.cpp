@@ -21,6 +21,7 @@ std::optional<CliCommand> commandOf(std::string_view word) {
       {"box", CliCommand::Box},       {"events", CliCommand::Events}, {"verify", CliCommand::Verify},
       {"season", CliCommand::Season}, {"import", CliCommand::Import}, {"export", CliCommand::Export},
       {"lines", CliCommand::Lines},   {"flow", CliCommand::Flow},     {"compare", CliCommand::Compare},
+      {"serve", CliCommand::Serve},
   };
   const auto found = std::ranges::find(kCommands, word, &std::pair<std::string_view, CliCommand>::first);
   return found == std::end(kCommands) ? std::nullopt : std::optional(found->second);
@@ -72,7 +73,7 @@ class Parser {
       setNumber(m_options.together, "--size", *size, kMostTogether);
       if (m_options.together == 0 && !m_options.wrong)
         m_options.wrong = {Text::OptionNeeds, "--size", "1|2|3|4|5"};
-    } else if (!takeExchangeOption(word)) {
+    } else if (!takeExchangeOption(word) && !takeServeOption(word)) {
       takeSeasonOption(word);
     }
   }
@@ -95,6 +96,27 @@ class Parser {
       return false;
     }
     m_exchangeOption = word;
+    return true;
+  }
+  bool takeServeOption(std::string_view word) {
+    ServeOptions& serve = m_options.serve;
+    if (const auto port = valueOf(word, "--port")) {
+      constexpr int kMostPort = 65535;
+      setNumber(serve.port, "--port", *port, kMostPort);
+    } else if (const auto address = valueOf(word, "--address")) {
+      serve.address = *address;
+    } else if (const auto pass = valueOf(word, "--pass")) {
+      serve.passPhrase = *pass;
+    } else if (const auto names = valueOf(word, "--names")) {
+      serve.names = *names == "number"    ? NameForm::Number
+                    : *names == "initial" ? NameForm::Initial
+                                          : NameForm::Full;
+      if (*names != "number" && *names != "initial" && *names != "full")
+        m_options.wrong = {Text::OptionNeeds, "--names", "full|initial|number"};
+    } else {
+      return false;
+    }
+    m_serveOption = word;
     return true;
   }
   bool takeClipOption(std::string_view word) {
@@ -213,7 +235,8 @@ class Parser {
   static bool fits(OutputFormat format, CliCommand command) {
     if (format == OutputFormat::Text || command == CliCommand::Box || command == CliCommand::Season)
       return true;
-    return format == OutputFormat::Json && command != CliCommand::Events && command != CliCommand::Export;
+    return format == OutputFormat::Json && command != CliCommand::Events && command != CliCommand::Export &&
+           command != CliCommand::Serve;
   }
   void checkWhole() {
     if (m_options.csvReader == CsvReader::French)
@@ -276,6 +299,8 @@ class Parser {
       m_options.wrong = {Text::GoesWith, m_importOption, "import"};
     else if (!m_exportOption.empty() && *m_command != CliCommand::Export)
       m_options.wrong = {Text::GoesWith, m_exportOption, "export"};
+    else if (!m_serveOption.empty() && *m_command != CliCommand::Serve)
+      m_options.wrong = {Text::GoesWith, m_serveOption, "serve"};
     else if (m_hasSize && *m_command != CliCommand::Lines)
       m_options.wrong = {Text::GoesWith, "--size", "lines"};
     else if (*m_command == CliCommand::Compare && m_options.files.size() > 1)
@@ -283,7 +308,7 @@ class Parser {
     else if (m_options.files.empty())
       m_options.wrong = {*m_command == CliCommand::Season ? Text::FolderMissing : Text::FileMissing};
     else if (m_options.files.size() > 1 && *m_command != CliCommand::Verify &&
-             *m_command != CliCommand::Import)
+             *m_command != CliCommand::Import && *m_command != CliCommand::Serve)
       m_options.wrong = {Text::OneFile};
     else if (isExchange())
       setExchangeFormat();
@@ -306,6 +331,7 @@ class Parser {
   std::string m_exchangeOption; // the same, of either command, and of each
   std::string m_importOption;
   std::string m_exportOption;
+  std::string m_serveOption;  // the last one met
   std::string m_filterOption; // of clips alone
   bool m_hasSize = false;
   bool m_isAnswered = false;

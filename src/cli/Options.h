@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/ExchangeOptions.h"
+#include "feed/FeedGame.h"
 #include "season/Qualification.h"
 #include "settings/CommandLine.h"
 #include "storage/DelimitedText.h"
@@ -23,6 +24,7 @@ enum class CliCommand : std::uint8_t {
   Season,
   Import,
   Export,
+  Serve,
   Help,
   Version
 };
@@ -39,6 +41,14 @@ struct SeasonOptions {
   Qualification minimum;
 };
 
+// To whom games are given over the network, and how.
+struct ServeOptions {
+  std::string address = "127.0.0.1";
+  int port = 0; // any that is free
+  std::string passPhrase;
+  NameForm names = NameForm::Full;
+};
+
 struct Options {
   CliCommand command = CliCommand::Help;
   OutputFormat format = OutputFormat::Text;
@@ -46,6 +56,7 @@ struct Options {
   Language language = Language::English;
   SeasonOptions season;
   ExchangeOptions exchange;
+  ServeOptions serve;
   int together = 5;                 // of `lines`: how many players
   std::vector<std::string> players; // of `compare`: two as events name them ("0-12"), or none
   std::vector<std::string> files;   // for a season its folder

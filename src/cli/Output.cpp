@@ -22,4 +22,13 @@ void Output::write(std::string_view text) {
   }
 }
 
+std::string gameProblemWords(GameFileProblem problem, const Texts& texts) {
+  switch (problem) {
+  case GameFileProblem::Absent: return std::string(texts.text(Text::NoSuchFile));
+  case GameFileProblem::TooLarge: return std::string(texts.text(Text::TooLargeToBeAGame));
+  case GameFileProblem::InvalidFormat: return texts.withPlaceholder(Text::NoGame, texts.text(Text::NotAGame));
+  default: return std::string(texts.text(Text::CannotBeReadGiveAFile));
+  }
+}
+
 } // namespace hooptab

@@ -2,6 +2,10 @@
 // and asks for no more; any other failure is remembered.
 #pragma once
 
+#include "game/GameFile.h"
+#include "settings/Texts.h"
+
+#include <string>
 #include <string_view>
 
 namespace hooptab {
@@ -17,5 +21,8 @@ class Output {
   bool m_isClosed = false;
   int m_error = 0;
 };
+
+// Why a file is no game, with what to do.
+[[nodiscard]] std::string gameProblemWords(GameFileProblem problem, const Texts& texts);
 
 } // namespace hooptab

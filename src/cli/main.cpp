@@ -6,6 +6,7 @@
 #include "cli/Output.h"
 #include "cli/Reports.h"
 #include "cli/SeasonReports.h"
+#include "cli/ServeCommand.h"
 #include "feed/BoxJson.h"
 #include "feed/BoxText.h"
 #include "feed/SeasonJson.h"
@@ -41,6 +42,7 @@ class Program {
     case CliCommand::Season: season(m_options.files.front()); break;
     case CliCommand::Import: found(importGames(m_options, m_store, m_texts, m_output, complain)); break;
     case CliCommand::Export: found(exportGame(m_options, m_store, m_texts, m_output, complain)); break;
+    case CliCommand::Serve: found(serveGames(m_options, m_texts, m_output, complain)); break;
     case CliCommand::Version: m_output.write("hooptab-cli " HOOPTAB_VERSION "\n"); break;
     default:
       m_json.beginArray();
@@ -62,14 +64,6 @@ class Program {
   std::string words(Text text, const std::string& x = {}) const { return m_texts.withPlaceholder(text, x); }
   std::string of(const std::string& path, const std::string& text) const {
     return withPlaceholders(m_texts.text(Text::SubjectAndWords), path, text);
-  }
-  std::string explained(GameFileProblem problem) const {
-    switch (problem) {
-    case GameFileProblem::Absent: return words(Text::NoSuchFile);
-    case GameFileProblem::TooLarge: return words(Text::TooLargeToBeAGame);
-    case GameFileProblem::InvalidFormat: return words(Text::NoGame, words(Text::NotAGame));
-    default: return words(Text::CannotBeReadGiveAFile);
-    }
   }
   void fault(const std::string& text) {
     complain(text);
@@ -140,7 +134,7 @@ class Program {
   void show(const std::string& file) {
     Scorecard card(m_store, file);
     if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None) {
-      fault(of(file, explained(problem)));
+      fault(of(file, gameProblemWords(problem, m_texts)));
       return;
     }
     if (m_options.command == CliCommand::Verify) {

@@ -29,10 +29,10 @@ WebGame::WebGame(const Texts& texts, const FeedOptions& options) : m_texts(texts
   publish({});
 }
 
-void WebGame::show(const Shown& game, std::int64_t at, bool isClockKnown) {
-  m_now = {game, at, isClockKnown};
+void WebGame::show(const Moment& moment) {
+  m_now = moment;
   m_record.reset();
-  showBenches(at);
+  showBenches(moment.at);
   if (m_options.delaySeconds == 0)
     publish(m_now);
   else
@@ -65,6 +65,11 @@ void WebGame::tick(std::int64_t now) {
   m_feed->beat(now);
   for (const Desk& desk : m_desks)
     desk.stream->beat(now);
+}
+
+bool WebGame::isHeard() const {
+  return m_feed->isHeard() ||
+         std::ranges::any_of(m_desks, [](const Desk& desk) { return desk.stream->isHeard(); });
 }
 
 void WebGame::publish(const Moment& moment) {

@@ -20,26 +20,26 @@ class WebGame {
   // `texts` must outlive it.
   WebGame(const Texts& texts, const FeedOptions& options);
 
-  // The game as it stands since `at`, in milliseconds since 1970; null: none is recorded. `isClockKnown`:
-  // whether its clock was read then (false of a file that says nothing of it).
-  using Shown = std::shared_ptr<const RunningGame>;
-  void show(const Shown& game, std::int64_t at, bool isClockKnown);
+  using Shown = std::shared_ptr<const RunningGame>; // null: none is recorded
+  struct Moment {
+    Shown game;
+    std::int64_t at = 0;       // since when it stands so, in milliseconds since 1970
+    bool isClockKnown = false; // whether its clock was read then; a file may say nothing of it
+  };
+  void show(const Moment& moment);
   void setOptions(const FeedOptions& options, std::int64_t now);
   void tick(std::int64_t now);
 
   // As the public sees it.
   [[nodiscard]] const std::shared_ptr<FeedChannel>& feed() const { return m_feed; }
   [[nodiscard]] const Shown& publicGame() const { return m_public.game; }
+  // Whether anybody follows it now.
+  [[nodiscard]] bool isHeard() const;
   // Null while no game is recorded.
   [[nodiscard]] std::shared_ptr<const std::string> bench(Side us, Language language, std::int64_t now);
   [[nodiscard]] std::shared_ptr<BenchStream> benchStream(Side us, Language language, std::int64_t now);
 
  private:
-  struct Moment {
-    Shown game;
-    std::int64_t at = 0;
-    bool isClockKnown = false;
-  };
   void publish(const Moment& moment);
   void showBenches(std::int64_t now);
   [[nodiscard]] std::string benchText(Side us, Language language, std::int64_t now);

@@ -23,6 +23,7 @@ constexpr int kMoved = 308;
 struct Page {
   std::string_view address;
   std::string_view file;
+  bool isOfGame = true;
 };
 constexpr std::array kPages = {Page{"/", "score.html"},
                                Page{"/box", "box.html"},
@@ -33,8 +34,8 @@ constexpr std::array kPages = {Page{"/", "score.html"},
                                Page{"/announcer", "announcer.html"},
                                Page{"/hall", "hall.html"},
                                Page{"/overlay", "overlay.html"},
-                               Page{"/season", "season.html"},
-                               Page{"/games", "games.html"}};
+                               Page{"/season", "season.html", false},
+                               Page{"/games", "games.html", false}};
 
 std::string_view typeOf(std::string_view file) {
   const std::string_view ending = file.substr(std::min(file.rfind('.'), file.size()));
@@ -91,33 +92,38 @@ WebSite::WebSite(Clock clock, const FeedOptions& options) : m_clock(std::move(cl
   for (const PageFile& file : pageFiles()) {
     const WebAnswer answer = constant(std::string(file.content), typeOf(file.name));
     const auto page = std::ranges::find(kPages, file.name, &Page::file);
-    m_fixed[page == kPages.end() ? "/pages/" + std::string(file.name) : std::string(page->address)] = answer;
+    if (page == kPages.end())
+      m_files["/pages/" + std::string(file.name)] = answer;
+    else
+      (page->isOfGame ? m_pages : m_files)[std::string(page->address)] = answer;
   }
   for (const LanguageFacts& facts : kLanguages)
-    m_fixed["/words/" + std::string(facts.code) + ".json"] =
+    m_files["/words/" + std::string(facts.code) + ".json"] =
         constant(wordsJson(m_texts, facts.language), kJson);
-  m_fixed["/court.json"] = constant(courtJson(), kJson);
-  m_games.push_back({{}, std::make_unique<WebGame>(m_texts, m_options)});
+  m_files["/court.json"] = constant(courtJson(), kJson);
 }
 
-void WebSite::show(const std::string& name, const WebGame::Shown& game, bool isClockKnown,
-                   std::optional<std::int64_t> at) {
-  WebGame* known = gameNamed(name);
-  if (known == nullptr && m_games.front().name.empty()) {
-    m_games.front().name = name;
-    known = m_games.front().game.get();
-  } else if (known == nullptr) {
-    m_games.push_back({name, std::make_unique<WebGame>(m_texts, m_options)});
-    known = m_games.back().game.get();
-  }
-  known->show(game, at.value_or(m_clock()), isClockKnown);
+void WebSite::show(const std::string& name, const WebGame::Moment& moment) {
+  WebGame* game = known(name);
+  (game == nullptr ? add(name) : *game).show(moment);
 }
 
-void WebSite::remove(const std::string& name) {
-  if (m_games.size() > 1)
+WebGame& WebSite::add(const std::string& name) {
+  constexpr std::size_t kMost = 64; // that are kept though nobody follows them
+  if (m_games.size() >= kMost)
+    std::erase_if(m_games, [](const Named& named) { return !named.game->isHeard(); });
+  m_games.push_back({name, std::make_unique<WebGame>(m_texts, m_options)});
+  return *m_games.back().game;
+}
+
+void WebSite::refresh(const std::string& name) {
+  WebGame* game = known(name);
+  if (game == nullptr || m_shelf == nullptr)
+    return;
+  if (const std::optional<WebGame::Moment> moment = m_shelf->load(name))
+    game->show(*moment);
+  else
     std::erase_if(m_games, [&name](const Named& named) { return named.name == name; });
-  else if (m_games.front().name == name)
-    m_games.front().game->show(nullptr, m_clock(), false);
 }
 
 void WebSite::setOptions(const FeedOptions& options) {
@@ -135,30 +141,49 @@ void WebSite::tick(std::int64_t now) {
     named.game->tick(now);
 }
 
-WebGame* WebSite::gameNamed(std::string_view name) const {
+WebGame* WebSite::known(std::string_view name) const {
   const auto found = std::ranges::find(m_games, name, &Named::name);
   return found == m_games.end() ? nullptr : found->game.get();
 }
 
-WebSite::Place WebSite::placeOf(std::string_view path) const {
+WebGame* WebSite::gameNamed(std::string_view name) {
+  WebGame* game = known(name);
+  if (game != nullptr || m_shelf == nullptr)
+    return game;
+  const std::optional<WebGame::Moment> moment = m_shelf->load(name);
+  if (!moment)
+    return nullptr;
+  game = &add(std::string(name));
+  game->show(*moment);
+  return game;
+}
+
+// The only game; where none is recorded, one that says so.
+WebGame* WebSite::atRoot() {
+  if (m_shelf != nullptr)
+    return m_shelf->games().size() == 1 ? gameNamed(m_shelf->games().front().name) : nullptr;
+  return m_games.empty() ? &add({}) : m_games.back().game.get();
+}
+
+WebSite::Place WebSite::placeOf(std::string_view path) {
   if (!path.starts_with(kGames))
-    return {m_games.front().game.get(), path};
+    return {atRoot(), path};
   const std::size_t end = path.find('/', kGames.size());
   if (end == std::string_view::npos)
-    return {};
+    return {gameNamed(path.substr(kGames.size())), {}};
   return {gameNamed(path.substr(kGames.size(), end - kGames.size())), path.substr(end)};
 }
 
 bool WebSite::isPrivate(const WebRequest& request) const {
-  return placeOf(request.path).rest.starts_with("/api/bench") || placeOf(request.path).rest == "/bench";
-}
-
-std::optional<WebAnswer> WebSite::fixed(std::string_view path) const {
-  const auto found = m_fixed.find(path);
-  return found == m_fixed.end() ? std::nullopt : std::optional(found->second);
+  std::string_view path = request.path;
+  if (path.starts_with(kGames))
+    path.remove_prefix(std::min(path.find('/', kGames.size()), path.size()));
+  return path.starts_with("/api/bench") || path == "/bench";
 }
 
 WebAnswer WebSite::answer(const WebRequest& request) {
+  if (const auto file = m_files.find(request.path); file != m_files.end())
+    return file->second;
   if (request.path == "/api/games")
     return answerOf(gamesJson(), kJson);
   if (request.path == "/api/season" && m_season) {
@@ -167,14 +192,17 @@ WebAnswer WebSite::answer(const WebRequest& request) {
     return answer;
   }
   const Place place = placeOf(request.path);
-  if (request.path.starts_with(kGames) && place.rest.empty() &&
-      gameNamed(std::string_view(request.path).substr(kGames.size())) != nullptr) {
+  if (place.game == nullptr && request.path == "/")
+    return m_files.at("/games");
+  if (place.game == nullptr)
+    return notFound();
+  if (place.rest.empty()) {
     WebAnswer moved = answerOf({}, "text/plain; charset=utf-8");
     moved.status = kMoved;
     moved.location = request.path + '/';
     return moved;
   }
-  return place.game == nullptr ? notFound() : answerOfGame(*place.game, place.rest, request);
+  return answerOfGame(*place.game, place.rest, request);
 }
 
 WebAnswer WebSite::answerOfGame(WebGame& game, std::string_view what, const WebRequest& request) {
@@ -197,7 +225,8 @@ WebAnswer WebSite::answerOfGame(WebGame& game, std::string_view what, const WebR
     m_texts.setLanguage(languageOf(request));
     return answerOf(boxText(game.publicGame()->counted, m_texts), "text/plain; charset=utf-8");
   }
-  return fixed(what).value_or(notFound());
+  const auto page = m_pages.find(what);
+  return page == m_pages.end() ? notFound() : page->second;
 }
 
 std::shared_ptr<WebStream> WebSite::stream(const WebRequest& request) {
@@ -211,26 +240,41 @@ std::shared_ptr<WebStream> WebSite::stream(const WebRequest& request) {
   return nullptr;
 }
 
+WebListing webListing(const std::string& name, const RunningGame& game) {
+  const GameDetails& details = game.counted.game.details;
+  return {name,
+          details.date,
+          std::string(feedState(game)),
+          game.period,
+          details.abbreviation,
+          details.name,
+          {game.counted.state.points(Side::Visitor), game.counted.state.points(Side::Home)}};
+}
+
 std::string WebSite::gamesJson() const {
+  std::vector<WebListing> listings;
+  if (m_shelf != nullptr)
+    listings.assign(m_shelf->games().begin(), m_shelf->games().end());
+  for (const Named& named : m_games) {
+    if (m_shelf == nullptr && named.game->publicGame())
+      listings.push_back(webListing(named.name, *named.game->publicGame()));
+  }
   JsonWriter json;
   json.beginArray();
-  for (const Named& named : m_games) {
-    const WebGame::Shown& game = named.game->publicGame();
-    if (!game)
-      continue;
+  for (const WebListing& listing : listings) {
     json.beginObject();
     json.beginLine();
-    json.member("name", named.name);
-    json.member("state", feedState(*game));
-    json.member("date", game->counted.game.details.date);
-    json.member("period", game->period);
+    json.member("name", listing.name);
+    json.member("state", listing.state);
+    json.member("date", listing.date);
+    json.member("period", listing.period);
     json.name("teams");
     json.beginArray();
     for (const Side team : kSides) {
       json.beginObject();
-      json.member("abb", game->counted.game.details.abbreviation[team]);
-      json.member("name", game->counted.game.details.name[team]);
-      json.member("points", game->counted.state.points(team));
+      json.member("abb", listing.abbreviation[team]);
+      json.member("name", listing.team[team]);
+      json.member("points", listing.points[team]);
       json.endObject();
     }
     json.endArray();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "publish/WebGame.h"
+#include "publish/WebShelf.h"
 #include "publish/WebSource.h"
 
 #include <functional>
@@ -23,9 +24,13 @@ class WebSite : public WebSource {
   WebSite(Clock clock, const FeedOptions& options);
 
   // A game by its name in addresses (letters, digits, "-" and "_" alone). The first one stands at the root.
-  void show(const std::string& name, const WebGame::Shown& game, bool isClockKnown,
-            std::optional<std::int64_t> at = std::nullopt); // now
-  void remove(const std::string& name);
+  void show(const std::string& name, const WebGame::Moment& moment);
+  // More of them, each read when somebody asks for it. With more than one, the root is their list, and none
+  // stands there.
+  void setShelf(std::unique_ptr<WebShelf> shelf) { m_shelf = std::move(shelf); }
+  [[nodiscard]] WebShelf* shelf() const { return m_shelf.get(); }
+  // Reads the game anew where somebody has asked for it; one that is gone goes.
+  void refresh(const std::string& name);
   void setOptions(const FeedOptions& options);
   void setSeason(std::shared_ptr<const std::string> json);
 
@@ -39,22 +44,27 @@ class WebSite : public WebSource {
     std::string name;
     std::unique_ptr<WebGame> game;
   };
-  // A game and what is asked of it: "/box" of "/g/NAME/box".
+  // What is asked of which game: "/box" of "/g/NAME/box".
   struct Place {
     WebGame* game = nullptr;
     std::string_view rest;
   };
-  [[nodiscard]] Place placeOf(std::string_view path) const;
-  [[nodiscard]] WebGame* gameNamed(std::string_view name) const;
+  [[nodiscard]] Place placeOf(std::string_view path);
+  [[nodiscard]] WebGame* atRoot();
+  [[nodiscard]] WebGame* known(std::string_view name) const;
+  [[nodiscard]] WebGame* gameNamed(std::string_view name);
+  WebGame& add(const std::string& name);
   [[nodiscard]] WebAnswer answerOfGame(WebGame& game, std::string_view what, const WebRequest& request);
-  [[nodiscard]] std::optional<WebAnswer> fixed(std::string_view path) const;
   [[nodiscard]] std::string gamesJson() const;
 
+  using Fixed = std::map<std::string, WebAnswer, std::less<>>;
   Clock m_clock;
   FeedOptions m_options;
   Texts m_texts;
-  std::vector<Named> m_games; // at least one, which shows no game at first
-  std::map<std::string, WebAnswer, std::less<>> m_fixed;
+  std::vector<Named> m_games;
+  std::unique_ptr<WebShelf> m_shelf;
+  Fixed m_pages; // of a game
+  Fixed m_files; // of none
   std::shared_ptr<const std::string> m_season;
 };
 
