@@ -2,7 +2,7 @@
 
 #include "catalogue/GameCatalogue.h"
 #include "feed/SeasonJson.h"
-#include "publish/FileWatch.h"
+#include "publish/FolderWatch.h"
 #include "publish/GameFiles.h"
 #include "publish/ShareWords.h"
 #include "publish/WebServer.h"
@@ -78,7 +78,7 @@ class Serving {
 
   // Until a signal ends it. What has changed is read on the server's thread, where the games are.
   void follow(WebServer& server) {
-    FileWatch watch(m_options.files);
+    FolderWatch watch(m_options.files);
     if (!watch.isWatching())
       m_complain(std::string(m_texts.text(Text::ServeCannotWatch)));
     std::signal(SIGTERM, end);

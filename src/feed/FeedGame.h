@@ -19,6 +19,7 @@ struct FeedOptions {
   NameForm names = NameForm::Full;
   int delaySeconds = 0;       // told, so that viewers know
   Side first = Side::Visitor; // the team that stands left or on top
+  friend bool operator==(const FeedOptions&, const FeedOptions&) = default;
 };
 
 // As it stands: `at` is when its clock was read, in milliseconds since 1970; nothing where nobody knows, as

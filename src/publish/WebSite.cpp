@@ -104,6 +104,9 @@ WebSite::WebSite(Clock clock, const FeedOptions& options) : m_clock(std::move(cl
 }
 
 void WebSite::show(const std::string& name, const WebGame::Moment& moment) {
+  // Who came before the first game was there sees it begin.
+  if (m_shelf == nullptr && m_games.size() == 1 && m_games.front().name.empty())
+    m_games.front().name = name;
   WebGame* game = known(name);
   (game == nullptr ? add(name) : *game).show(moment);
 }

@@ -50,6 +50,7 @@ constexpr Command kCommands[] = {
       {SaveCopy, "saveCOPY", InputMenu, Text::SaveCopy, "savecopy", LiveOrManual, Action, "Ctrl+Shift+S", kSeparator},
       {GameSheet, "SHEET", InputMenu, Text::GameSheet, "sheet", Live, Action},
       {BenchView, "LIVEBench", InputMenu, Text::BenchView, "livebench", Live, Action, "Ctrl+B"},
+      {ShareGame, "LIVEShare", InputMenu, Text::ShareCommand, "liveshare", Always, Action, "", kSeparator},
     {Keypad, "LIVEKpad", None, Text::KeypadActivation, "livekpad", Live, Toggle, "F7"},
     {AskRebounds, "LIVEMouse", None, Text::InputReboundsWithMouse, "livemouse", Live, Toggle, "F8"},
     {SwitchSides, "SWITCH", None, Text::SwitchSides, "switch", Live, Action, "F9"},

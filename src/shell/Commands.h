@@ -48,6 +48,7 @@ enum class CommandId : std::uint8_t {
   SaveCopy,
   GameSheet,
   BenchView,
+  ShareGame,
   Keypad,
   AskRebounds,
   SwitchSides,

@@ -21,6 +21,7 @@
 #include "shell/MainMenu.h"
 #include "shell/PreviewDesk.h"
 #include "shell/PrintOffers.h"
+#include "shell/ShareDesk.h"
 #include "shell/SharedFiles.h"
 #include "shell/UnsavedSettings.h"
 #include "shell/WindowArea.h"
@@ -109,6 +110,7 @@ MDI::MDI(const Workshop& workshop)
   m_previews = new PreviewDesk(m_workshop, m_teams, *m_area, *m_output, *this);
   m_input = new InputDesk(m_workshop, m_teams, *m_area, *m_previews, *this);
   m_exchange = new ExchangeDesk(m_workshop, m_teams, *m_area, *this);
+  m_share = new ShareDesk(m_workshop, *m_area, *this);
   m_exports = new WindowExports(*m_output, m_workshop.texts, this);
   auto* tables = new QMenu(this);
   auto* bar = new QMenuBar;
@@ -132,6 +134,7 @@ MDI::MDI(const Workshop& workshop)
   setCentralWidget(m_pages);
 
   m_unsaved = new UnsavedSettings(m_workshop, this);
+  statusBar()->addPermanentWidget(m_share->sign());
   statusBar()->addPermanentWidget(m_output);
   statusBar()->addPermanentWidget(m_unsaved);
   // Its room is always taken: a hint that comes and goes must not move what is being pressed.
@@ -157,6 +160,7 @@ MDI::MDI(const Workshop& workshop)
   connect(m_exchange, &ExchangeDesk::gameAsked, this, &MDI::openGame);
   connect(m_exchange, &ExchangeDesk::teamsChanged, this, &MDI::openTeams);
   connect(m_exchange, &ExchangeDesk::reported, this, &MDI::showMessage);
+  connect(m_share, &ShareDesk::changed, this, &MDI::showStatusBar);
   connect(m_unsaved, &UnsavedSettings::refreshed, this, &MDI::showStatusBar);
   connect(m_unsaved, &UnsavedSettings::restored, this, [this](const QString& words) {
     if (groupInFront() == CommandGroup::Live)
@@ -267,6 +271,7 @@ void MDI::serveCommands() {
   m_input->serve(*m_commands);
   m_previews->serve(*m_commands);
   m_exchange->serve(*m_commands);
+  m_share->serve(*m_commands);
   m_commands->serve(CommandId::OpenScorecard, this, [this] {
     if (const QString path = askForGame(m_workshop, this, Text::OpenAGame); !path.isEmpty())
       openGame(path);
@@ -452,10 +457,10 @@ CommandGroup MDI::groupInFront() const {
 }
 
 // The live window has a strip of its own for what there is to say: its room is the panels', unless a report
-// is being written.
+// is being written, or the game is shared.
 void MDI::showStatusBar() {
   const bool isLive = groupInFront() == CommandGroup::Live;
-  statusBar()->setVisible(!isLive || !m_output->isHidden());
+  statusBar()->setVisible(!isLive || !m_output->isHidden() || m_share->isSharing());
 }
 
 void MDI::showCommands() {
@@ -492,6 +497,7 @@ void MDI::switchLanguage() {
 void MDI::relabelEverything() {
   m_dialogLanguage.set(m_workshop.texts.language());
   relabel(*this, m_workshop.texts);
+  m_share->relabelDesk();
   m_menu->giveLetters();
   showRoom();
   m_welcome->relabelPage();

@@ -22,6 +22,7 @@ namespace hooptab {
 
 class CommandBar;
 class ExchangeDesk;
+class ShareDesk;
 class InputDesk;
 class MainMenu;
 class PreviewDesk;
@@ -102,6 +103,7 @@ class MDI : public QMainWindow {
   PreviewDesk* m_previews = nullptr;
   InputDesk* m_input = nullptr;
   ExchangeDesk* m_exchange = nullptr;
+  ShareDesk* m_share = nullptr;
   WindowExports* m_exports = nullptr;
 };
 

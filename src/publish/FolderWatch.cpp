@@ -1,4 +1,4 @@
-#include "publish/FileWatch.h"
+#include "publish/FolderWatch.h"
 
 #include <poll.h>
 #include <sys/inotify.h>
@@ -11,7 +11,7 @@
 
 namespace hooptab {
 
-FileWatch::FileWatch(const std::vector<std::string>& paths)
+FolderWatch::FolderWatch(const std::vector<std::string>& paths)
     : m_watch(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
   constexpr unsigned kChanges = IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE;
   for (const std::string& path : paths) {
@@ -26,12 +26,12 @@ FileWatch::FileWatch(const std::vector<std::string>& paths)
   }
 }
 
-FileWatch::~FileWatch() {
+FolderWatch::~FolderWatch() {
   if (m_watch >= 0)
     close(m_watch);
 }
 
-std::vector<std::string> FileWatch::wait(std::chrono::milliseconds longest) {
+std::vector<std::string> FolderWatch::wait(std::chrono::milliseconds longest) {
   pollfd waiting = {m_watch, POLLIN, 0};
   if (poll(&waiting, 1, static_cast<int>(longest.count())) <= 0)
     return {};

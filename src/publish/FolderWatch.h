@@ -8,13 +8,13 @@
 
 namespace hooptab {
 
-class FileWatch {
+class FolderWatch {
  public:
   // The folders themselves, and the folders of files. What cannot be watched is passed over: isWatching().
-  explicit FileWatch(const std::vector<std::string>& paths);
-  ~FileWatch();
-  FileWatch(const FileWatch&) = delete;
-  FileWatch& operator=(const FileWatch&) = delete;
+  explicit FolderWatch(const std::vector<std::string>& paths);
+  ~FolderWatch();
+  FolderWatch(const FolderWatch&) = delete;
+  FolderWatch& operator=(const FolderWatch&) = delete;
 
   [[nodiscard]] bool isWatching() const { return !m_folders.empty(); }
   // Waits so long at most, or until something has changed or a signal came: the paths of what has.
