@@ -53,8 +53,8 @@ MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const C
            CommandId::PrintScorecard, CommandId::CloseScorecard});
   addMenu(Text::Input,
           {CommandId::NewGame, CommandId::OpenForInput, kSeparator, CommandId::Keypad, CommandId::AskRebounds,
-           CommandId::SwitchSides, CommandId::BenchView, CommandId::GameSheet, CommandId::GameOver,
-           kSeparator, CommandId::OpenForms, CommandId::SaveTotals, CommandId::PrintGame,
+           CommandId::SwitchSides, CommandId::BenchView, CommandId::ShareGame, CommandId::GameSheet,
+           CommandId::GameOver, kSeparator, CommandId::OpenForms, CommandId::SaveTotals, CommandId::PrintGame,
            CommandId::FormsMenu, CommandId::CloseInput});
   addMenu(Text::Teams, {CommandId::OpenTeams});
   addMenu(Text::Season, {CommandId::OpenSeason, kSeparator, CommandId::TeamSummary, CommandId::TeamDetail,
