@@ -37,10 +37,10 @@ function keyOf(node) {
 
 function morphAttributes(have, want) {
   for (const { name } of [...have.attributes])
-    if (!want.hasAttribute(name) && name !== 'style' && name !== 'open')
+    if (!want.hasAttribute(name) && name !== 'style')
       have.removeAttribute(name);
   for (const { name, value } of want.attributes)
-    if (name !== 'style' && name !== 'open' && have.getAttribute(name) !== value)
+    if (name !== 'style' && have.getAttribute(name) !== value)
       have.setAttribute(name, value);
   if (have.style.cssText !== want.style.cssText)
     have.style.cssText = want.style.cssText;

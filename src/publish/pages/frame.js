@@ -42,13 +42,12 @@ function stateLine(feed) {
     return h('p', { class: 'state lost' }, h('span', { 'aria-hidden': 'true' }, '⚠ '), t('noConnection'));
   if (!game || game.state === 'none')
     return h('p', { class: 'state' });
-  const live = game.delay > 0 ? t('liveLate', game.delay) : t('live');
+  const late = game.delay > 0 && game.state !== 'final' && ` · ${t('late', game.delay)}`;
   if (game.state === 'running')
-    return h('p', { class: 'state live' }, h('span', { 'aria-hidden': 'true' }, '● '), live);
+    return h('p', { class: 'state live' }, h('span', { 'aria-hidden': 'true' }, '● '), t('live'), late);
   const words = game.state === 'before' ? t('notBegun') : breakText(game) || t('clockStopped');
   const isPaused = game.state === 'stopped';
-  return h('p', { class: 'state' }, isPaused && h('span', { 'aria-hidden': 'true' }, '❚❚ '), words,
-           game.delay > 0 && game.state !== 'final' && ` · ${t('late', game.delay)}`);
+  return h('p', { class: 'state' }, isPaused && h('span', { 'aria-hidden': 'true' }, '❚❚ '), words, late);
 }
 
 class Frame {
@@ -124,7 +123,6 @@ class Frame {
   #drawNav() {
     const { nav, skip } = this.#parts;
     paint(skip, t('toContent'));
-    nav.setAttribute('aria-label', t('pages'));
     paint(nav, kPages.map(([name, path, drawing]) =>
       h('a', { href: base + path, 'aria-current': name === this.#page ? 'page' : null },
         icon(drawing), h('span', null, t(`${name}Page`)))));

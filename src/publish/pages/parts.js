@@ -12,7 +12,7 @@ export function sidesOf(game) {
 
 export function abbOf(game, side) {
   const team = game.teams[side];
-  return team.abb || team.name || t(side === 0 ? 'visitors' : 'home');
+  return team.abb || team.name || '–';
 }
 
 export function scoreText(game, score) {
@@ -40,9 +40,12 @@ export function dots(left, of) {
            Array.from({ length: Math.max(of, left) }, (_, at) => h('i', { class: at < left ? 'on' : '' })));
 }
 
-// The period that ended last, while none is played.
+// The period that ended last, while none is played: the clock may stand at the next one already.
 function endedPeriod(game) {
-  return game.clock.seconds === 0 || game.clock.seconds === null ? game.clock.period : game.clock.period - 1;
+  const { period, seconds } = game.clock;
+  if (seconds !== null)
+    return seconds === 0 ? period : period - 1;
+  return game.plays?.length && game.plays.at(-1).period === period ? period : period - 1;
 }
 
 // What stands in place of the clock; empty while there is a period to play.
@@ -84,8 +87,7 @@ export function timeOutLine(game, side) {
   if (timeOuts?.left === null || timeOuts?.left === undefined)
     return null;
   return h('p', { class: 'touts' }, dots(timeOuts.left, timeOuts.of ?? timeOuts.left), ' ',
-           h('span', { 'aria-hidden': 'true' }, t('timeOutsShort')),
-           h('span', { class: 'hidden' }, t('timeOutsLeftCount', timeOuts.left)));
+           h('span', null, t('timeOuts')), h('span', { class: 'hidden' }, ` ${timeOuts.left}`));
 }
 
 function runLine(game) {
@@ -101,7 +103,7 @@ function isWide(game) {
 export function scoreHead(feed) {
   const { game } = feed;
   return h('section', { class: isWide(game) ? 'head wide' : 'head', 'data-key': 'head' },
-    h('h2', { class: 'hidden' }, t('score')),
+    h('h2', { class: 'hidden' }, t('scorePage')),
     h('div', { class: 'halves' }, sidesOf(game).map((side) =>
       h('div', { class: 'half' },
         h('h3', { class: `band side${side}` }, abbOf(game, side)),
@@ -118,7 +120,7 @@ export function smallHead(feed) {
   const band = (side) => h('h3', { class: `band side${side}` }, abbOf(game, side));
   const points = (side) => h('p', { class: 'points' }, game.teams[side].points);
   return h('section', { class: isWide(game) ? 'strip wide' : 'strip', 'data-key': 'head' },
-    h('h2', { class: 'hidden' }, t('score')),
+    h('h2', { class: 'hidden' }, t('scorePage')),
     band(left), points(left), h('p', { class: 'clock' }, clockParts(feed)), points(right), band(right));
 }
 
@@ -139,14 +141,15 @@ export function isTold(play) {
   return play.kind !== 'start' && play.kind !== 'stop';
 }
 
+// Letters of the score sheet, the same in every language, and signs: the words beside them say it all.
+const kSigns = { foul: 'F', technical: 'T', benchTechnical: 'T', turnover: '↺', rebound: '↓', timeOut: '❚❚',
+                 substitution: '⇄', jumpBall: '⇅' };
+
 function markOf(play) {
   if (isShot(play))
     return play.made ? h('span', { class: 'mark made' }, `+${play.points ?? 0}`)
                      : h('span', { class: 'mark missed', 'aria-hidden': 'true' }, '✕');
-  const signs = { foul: t('markFoul'), technical: t('markTechnical'), benchTechnical: t('markTechnical'),
-                  turnover: t('markTurnover'), rebound: t('markRebound'), timeOut: t('markTimeOut'),
-                  substitution: '⇄', jumpBall: '⇅' };
-  return h('span', { class: 'mark', 'aria-hidden': 'true' }, signs[play.kind] ?? '·');
+  return h('span', { class: 'mark', 'aria-hidden': 'true' }, kSigns[play.kind] ?? '·');
 }
 
 export function wordsOf(play) {
@@ -230,8 +233,9 @@ export function playsWithGone(feed) {
 export function versus(game, label, values, texts, most, isLessBetter = false) {
   const sides = sidesOf(game);
   const isBetter = (at) => values[at] !== values[1 - at] && values[at] > values[1 - at] !== isLessBetter;
-  const bar = (at) => h('i', { class: `bar side${sides[at]}`,
-                               vars: { '--part': most > 0 ? Math.min(1, values[at] / most) : 0 } });
-  const figure = (at) => h('td', { class: isBetter(at) ? 'better' : '' }, texts[at], bar(at));
-  return h('tr', null, figure(0), h('th', { scope: 'row' }, label), figure(1));
+  const bar = (at) => h('span', null, h('i', { class: `bar side${sides[at]}`,
+    vars: { '--part': `${most > 0 ? Math.min(100, (100 * values[at]) / most) : 0}%` } }));
+  const figure = (at) => h('td', { class: isBetter(at) ? 'better' : '' }, texts[at]);
+  return [h('tr', null, figure(0), h('th', { scope: 'row' }, label), figure(1)),
+          h('tr', { class: 'bars', 'aria-hidden': 'true' }, h('td', { colspan: 3 }, h('div', null, bar(0), bar(1))))];
 }

@@ -62,8 +62,9 @@ export function t(name, ...values) {
 
 // 5th, 5e
 export function ordinal(number) {
-  const kind = ordinals.select(number);
-  return t(`ordinal${kind[0].toUpperCase()}${kind.slice(1)}`, number);
+  const forms = t('ordinals').split(' ');
+  const at = ['one', 'two', 'few'].indexOf(ordinals.select(number));
+  return (forms[at] ?? forms.at(-1)).replace('XXX', String(number));
 }
 
 // With so many decimals, as the language writes them.
