@@ -132,7 +132,7 @@ export class Feed {
     this.#newest ??= game.id;
     if (epochOf(this.#newest) !== epochOf(game.id))
       this.#newest = game.id;
-    this.#hear();
+    this.#hear(Date.now());
     if (!isSame)
       this.#tell([]);
   }
@@ -141,9 +141,10 @@ export class Feed {
     return Date.now() - this.#beat < kSilence;
   }
 
-  #hear() {
+  // What was told then was all that there is.
+  #hear(then) {
     if (this.game && this.#newest && numberOf(this.game.id) >= numberOf(this.#newest))
-      this.#heard = Date.now();
+      this.#heard = Math.max(this.#heard, then);
   }
 
   #open() {
@@ -165,7 +166,6 @@ export class Feed {
       this.#offsets = [...this.#offsets, beat.at - Date.now()].slice(-kBeatsKept);
       if (beat.id)
         this.#newest = beat.id;
-      this.#hear();
       this.#catchUp();
     });
   }
@@ -193,7 +193,7 @@ export class Feed {
     }
     this.#waiting = this.#waiting.filter((message) => epochOf(message.id) === epochOf(this.game.id) &&
       numberOf(message.id) > numberOf(this.game.id));
-    this.#hear();
+    this.#hear(this.#beat);
     if (hasNew)
       this.#tell(corrections);
     const isBehind = this.#newest && this.#isStreaming && (epochOf(this.#newest) !== epochOf(this.game.id) ||

@@ -190,13 +190,21 @@ function titleOf(game, play) {
   return who || (play.team === null || play.team === undefined ? wordsOf(play) : abbOf(game, play.team));
 }
 
-function correctionLine(game, mark) {
+// Of a play before its correction, as much as was otherwise.
+function whatWas(game, was, now) {
+  const deed = (play) => [wordsOf(play), isShot(play) && !play.made && t('missed')].filter(Boolean).join(', ');
+  const hasTeam = was.team === 0 || was.team === 1;
+  const isOtherWho = was.number !== now.number || was.team !== now.team;
+  const bits = [was.team !== now.team && hasTeam && abbOf(game, was.team),
+                isOtherWho && personText(was.number, was.name), deed(was) !== deed(now) && deed(was),
+                was.clock !== now.clock && clockText(was.clock)].filter(Boolean);
+  return bits.length ? bits.join(' · ') : deed(was);
+}
+
+function correctionLine(game, mark, play) {
   if (!mark)
     return null;
-  const was = mark.was && [mark.was.team !== mark.now?.team && mark.was.team !== null &&
-                           mark.was.team !== undefined && abbOf(game, mark.was.team), mark.was.number,
-                           wordsOf(mark.was), isShot(mark.was) && !mark.was.made && t('missed')];
-  const text = mark.kind === 'changed' ? t('correctedWas', was.filter(Boolean).join(' ')) :
+  const text = mark.kind === 'changed' ? t('correctedWas', whatWas(game, mark.was, play)) :
     t(mark.kind === 'added' ? 'addedLater' : 'deleted');
   return h('span', { class: 'line corrected' }, h('span', { 'aria-hidden': 'true' }, '✎ '), h('b', null, text));
 }
@@ -213,7 +221,7 @@ export function playRow(feed, play) {
     h('div', { class: 'what' },
       h('b', null, titleOf(game, play)),
       isExchange ? exchangeLines(game, play) : detailLine(game, play),
-      correctionLine(game, mark && { ...mark, now: play })),
+      correctionLine(game, mark, play)),
     h('span', { class: 'after' }, play.made && play.score ? scoreText(game, play.score) : ''));
 }
 
