@@ -1,0 +1,243 @@
+// Keeps a game as the server has it: loads it, applies each change once and in order, loads it anew where
+// one is missing, asks every other second while no stream can be held, and comes back by itself. Who
+// listens gets the feed and what was corrected.
+import { base } from './dom.js';
+import { apply, epochOf, numberOf } from './apply.js';
+
+const kSilence = 6000;    // without a beat: the connection is lost
+const kPollEvery = 1500;  // while there is no stream
+const kReopenEvery = 10000;
+const kMarkFor = 30000;   // how long a correction is shown
+const kBeatsKept = 8;
+
+export class Feed {
+  game = null;
+  marks = new Map(); // corrections of the last half minute, by the play's id
+  #isWhole;
+  #listeners = [];
+  #source = null;
+  #waiting = [];   // changes that came while the game was loaded
+  #loading = null;
+  #newest = null;  // the last id that the server named
+  #heard = Date.now();
+  #beat = 0;       // when the stream last told anything
+  #opened = 0;
+  #asked = 0;
+  #failures = 0;
+  #isReset = false; // what is held counts no more
+  #offsets = [];   // the server's clock less ours, of the last beats
+  #guess = 0;
+
+  // `isWhole`: with players, flow and all plays.
+  constructor(isWhole) {
+    this.#isWhole = isWhole;
+  }
+
+  listen(listener) {
+    this.#listeners.push(listener);
+  }
+
+  start() {
+    this.#open();
+    this.load();
+    setInterval(() => this.#watch(), 500);
+    const awake = () => document.visibilityState === 'visible' && this.#wake();
+    document.addEventListener('visibilitychange', awake);
+    addEventListener('online', awake);
+    addEventListener('pageshow', awake);
+  }
+
+  get isWhole() {
+    return this.#isWhole;
+  }
+
+  // From now on with players, flow and all plays.
+  widen() {
+    if (this.#isWhole)
+      return;
+    this.#isWhole = true;
+    this.#reload();
+  }
+
+  get isLost() {
+    return this.age > kSilence;
+  }
+
+  // Milliseconds since the game was known to be what the server has.
+  get age() {
+    return Date.now() - this.#heard;
+  }
+
+  // The server's clock. A beat is never early: the largest difference is the nearest to the truth. It stands
+  // while the connection is lost, and the game's clock with it.
+  get now() {
+    const offset = this.#offsets.length ? Math.max(...this.#offsets) : this.#guess;
+    return Math.min(Date.now(), this.#heard + kSilence) + offset;
+  }
+
+  load() {
+    this.#loading ??= this.#ask().finally(() => {
+      this.#loading = null;
+      this.#catchUp();
+    });
+    return this.#loading;
+  }
+
+  // What is being loaded may have been made before.
+  #reload() {
+    if (this.#loading && !this.game)
+      return;
+    const again = () => this.load();
+    if (this.#loading)
+      this.#loading.then(again);
+    else
+      again();
+  }
+
+  async #ask() {
+    this.#asked = Date.now();
+    const isWhole = this.#isWhole;
+    try {
+      const stop = new AbortController();
+      const timer = setTimeout(() => stop.abort(), 8000);
+      const answer = await fetch(`${base}/api/game${isWhole ? '' : '?parts=score'}`, { signal: stop.signal });
+      if (!answer.ok)
+        throw new Error(String(answer.status));
+      const game = await answer.json();
+      clearTimeout(timer);
+      this.#failures = 0;
+      const date = Date.parse(answer.headers.get('Date') ?? '');
+      if (date)
+        this.#guess = date + 500 - Date.now();
+      if (isWhole === this.#isWhole)
+        this.#accept(game);
+    } catch {
+      this.#failures += 1;
+    }
+  }
+
+  #accept(game) {
+    const isOlder = this.game && !this.#isReset && epochOf(game.id) === epochOf(this.game.id) &&
+      numberOf(game.id) < numberOf(this.game.id);
+    if (isOlder && this.#newest && numberOf(this.#newest) > numberOf(game.id))
+      return; // an answer from a store on the way, behind what the stream has told
+    const isSame = this.game?.id === game.id && ('players' in (game.teams?.[0] ?? {})) ===
+      ('players' in (this.game.teams?.[0] ?? {}));
+    if (this.#isReset || (this.game && epochOf(game.id) !== epochOf(this.game.id)))
+      this.marks.clear();
+    this.#isReset = false;
+    this.game = game;
+    if (!this.#isStreaming)
+      this.#newest = game.id;
+    this.#newest ??= game.id;
+    if (epochOf(this.#newest) !== epochOf(game.id))
+      this.#newest = game.id;
+    this.#hear(Date.now());
+    if (!isSame)
+      this.#tell([]);
+  }
+
+  get #isStreaming() {
+    return Date.now() - this.#beat < kSilence;
+  }
+
+  // What was told then was all that there is.
+  #hear(then) {
+    if (this.game && this.#newest && numberOf(this.game.id) >= numberOf(this.#newest))
+      this.#heard = Math.max(this.#heard, then);
+  }
+
+  #open() {
+    this.#source?.close();
+    this.#opened = Date.now();
+    const source = new EventSource(`${base}/events`);
+    this.#source = source;
+    source.onmessage = (event) => this.#message(JSON.parse(event.data));
+    source.addEventListener('reset', () => {
+      this.#beat = Date.now();
+      this.#waiting = [];
+      this.#newest = null;
+      this.#isReset = true;
+      this.#reload();
+    });
+    source.addEventListener('beat', (event) => {
+      const beat = JSON.parse(event.data);
+      this.#beat = Date.now();
+      this.#offsets = [...this.#offsets, beat.at - Date.now()].slice(-kBeatsKept);
+      if (beat.id)
+        this.#newest = beat.id;
+      this.#catchUp();
+    });
+  }
+
+  #message(message) {
+    this.#beat = Date.now();
+    this.#newest = message.id;
+    this.#waiting.push(message);
+    this.#catchUp();
+  }
+
+  // Takes what waits, in order; where one is missing the game is loaded, which may have it already.
+  #catchUp() {
+    if (this.#loading || this.#isReset || !this.game)
+      return;
+    const corrections = [];
+    let hasNew = false;
+    for (const message of this.#waiting.sort((one, other) => numberOf(one.id) - numberOf(other.id))) {
+      const isNext = epochOf(message.id) === epochOf(this.game.id) &&
+        numberOf(message.id) === numberOf(this.game.id) + 1;
+      if (!isNext)
+        continue;
+      corrections.push(...apply(this.game, message, this.#isWhole));
+      hasNew = true;
+    }
+    this.#waiting = this.#waiting.filter((message) => epochOf(message.id) === epochOf(this.game.id) &&
+      numberOf(message.id) > numberOf(this.game.id));
+    this.#hear(this.#beat);
+    if (hasNew)
+      this.#tell(corrections);
+    const isBehind = this.#newest && this.#isStreaming && (epochOf(this.#newest) !== epochOf(this.game.id) ||
+      numberOf(this.#newest) > numberOf(this.game.id));
+    if (isBehind && Date.now() - this.#asked > 1100)
+      this.load();
+  }
+
+  #tell(corrections) {
+    const until = Date.now() + kMarkFor;
+    for (const correction of corrections)
+      this.marks.set(correction.id, { ...correction, until });
+    if (corrections.length)
+      setTimeout(() => this.#forget(), kMarkFor + 100);
+    for (const listener of this.#listeners)
+      listener(this, corrections);
+  }
+
+  #forget() {
+    for (const [id, mark] of this.marks)
+      if (mark.until <= Date.now())
+        this.marks.delete(id);
+    this.#tell([]);
+  }
+
+  #wake() {
+    if (this.#isStreaming)
+      return;
+    this.#open();
+    this.load();
+  }
+
+  #watch() {
+    const now = Date.now();
+    if ((!this.game || this.#isReset) && !this.#loading && now - this.#asked > kPollEvery)
+      this.load();
+    if (this.#isStreaming) {
+      this.#catchUp();
+      return;
+    }
+    if (now - this.#opened > kReopenEvery)
+      this.#open();
+    const pause = kPollEvery * Math.min(1 + this.#failures / 2, 4);
+    if (now - Math.max(this.#opened, this.#beat) > kSilence / 2 && !this.#loading && now - this.#asked > pause)
+      this.load();
+  }
+}
