@@ -4,6 +4,7 @@
 #include "feed/FeedPlays.h"
 #include "feed/FeedWriting.h"
 #include "game/EventWords.h"
+#include "game/RuleSets.h"
 #include "game/Rules.h"
 #include "game/TimeOuts.h"
 #include "insight/MarginFlow.h"
@@ -82,9 +83,11 @@ class FeedWriter {
     m_json.beginLine();
     m_json.member("periods", rules.periods);
     m_json.member("periodSeconds", rules.minutesPerPeriod * kSecondsPerMinute);
-    m_json.member("overtimeSeconds",
-                  (rules.overtimeMinutes > 0 ? rules.overtimeMinutes : rules.minutesPerPeriod) *
-                      kSecondsPerMinute);
+    const RuleSet* set = ruleSetOf(rules.ruleSet);
+    const int overtime = rules.overtimeMinutes > 0 ? rules.overtimeMinutes
+                         : set != nullptr          ? set->overtimeMinutes
+                                                   : rules.minutesPerPeriod;
+    m_json.member("overtimeSeconds", overtime * kSecondsPerMinute);
     m_json.member("foulLimit", rules.personalFoulLimit);
     m_json.member("bonusFouls", rules.bonus);
     m_json.endObject();

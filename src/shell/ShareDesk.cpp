@@ -50,20 +50,23 @@ void ShareDesk::serve(CommandBar& commands) {
   commands.serve(CommandId::ShareGame, this, [this] { openWindow(); });
 }
 
+const GameDetails* ShareDesk::details() const {
+  auto* live = m_area.first<frmLIVE>();
+  return live == nullptr ? nullptr : &live->session().game().game().details;
+}
+
 std::string ShareDesk::categories() const {
-  const auto* live = m_area.first<frmLIVE>();
-  return live == nullptr ? std::string() : categoriesOf(live->session().game().game().details);
+  return details() == nullptr ? std::string() : categoriesOf(*details());
 }
 
 // Names by the teams that play: what was chosen for them, else numbers alone where they are under age.
 ShareChoice ShareDesk::remembered() const {
   ShareChoice choice = m_choice != nullptr ? *m_choice : readShareChoice(m_workshop.memory.layout(kLayout));
-  const auto* live = m_area.first<frmLIVE>();
   const std::string chosen = m_workshop.memory.layout(std::string(kNames) + categories());
   if (!chosen.empty())
     choice.feed.names = readNameForm(chosen);
-  else if (live != nullptr)
-    choice.feed.names = areMinors(live->session().game().game().details) ? NameForm::Number : NameForm::Full;
+  else if (details() != nullptr)
+    choice.feed.names = areMinors(*details()) ? NameForm::Number : NameForm::Full;
   return choice;
 }
 
@@ -75,9 +78,7 @@ void ShareDesk::remember(const ShareChoice& choice) {
 
 void ShareDesk::openWindow() {
   if (m_dialog == nullptr) {
-    const auto* live = m_area.first<frmLIVE>();
-    const frmSHARE::Players players = {categories(),
-                                       live != nullptr && areMinors(live->session().game().game().details)};
+    const frmSHARE::Players players = {categories(), details() != nullptr && areMinors(*details())};
     m_dialog = new frmSHARE(m_share != nullptr ? *m_choice : remembered(), webNetworks(), players,
                             m_workshop.texts, &m_window);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);

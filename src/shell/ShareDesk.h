@@ -21,6 +21,7 @@ class GameShare;
 class WindowArea;
 class frmLIVE;
 class frmSHARE;
+struct GameDetails;
 struct ShareChoice;
 
 class ShareDesk : public QObject {
@@ -46,7 +47,8 @@ class ShareDesk : public QObject {
   void takeFeed();
   void remember(const ShareChoice& choice);
   [[nodiscard]] ShareChoice remembered() const;
-  [[nodiscard]] std::string categories() const; // of the teams that play
+  [[nodiscard]] const GameDetails* details() const; // of the game in the live window; null: none is open
+  [[nodiscard]] std::string categories() const;     // of the teams that play
   void showState();
 
   Workshop m_workshop;
