@@ -45,18 +45,18 @@ TEST_F(ShareWindowTest, TellsWhatIsChosenAndShowsTheAddressWhileItIsOn) {
   window.showShared(9000);
   window.showViewers(3);
   auto* address = in<QLineEdit>(window, "txtADDRESS");
-  EXPECT_EQ(address->text(), "http://192.168.1.20:9000/");
+  EXPECT_EQ(fromQt(address->text()), "http://192.168.1.20:9000/");
   EXPECT_FALSE(in<QComboBox>(window, "cmbNETWORK")->isEnabled()) << "it listens there";
-  EXPECT_EQ(in<QLabel>(window, "lblVIEWERS")->text(), "Viewers now: 3");
+  EXPECT_EQ(fromQt(in<QLabel>(window, "lblVIEWERS")->text()), "Viewers now: 3");
   in<QComboBox>(window, "cmbPAGE")->setCurrentIndex(1);
-  EXPECT_EQ(address->text(), "http://192.168.1.20:9000/bench");
+  EXPECT_EQ(fromQt(address->text()), "http://192.168.1.20:9000/bench");
   in<QSpinBox>(window, "spnDELAY")->setValue(5);
   EXPECT_EQ(chosen.count(), 1);
 
   window.showShared(std::nullopt);
   EXPECT_FALSE(share->isChecked());
   EXPECT_TRUE(address->text().isEmpty());
-  EXPECT_EQ(in<QLabel>(window, "lblVIEWERS")->text(), "Off: nothing listens");
+  EXPECT_EQ(fromQt(in<QLabel>(window, "lblVIEWERS")->text()), "Off: nothing listens");
 }
 
 // The network of another hall is gone; a name that is told to nobody is said to be so.
@@ -65,8 +65,8 @@ TEST_F(ShareWindowTest, OffersWhatIsThere) {
   choice.address = "10.0.0.9";
   frmSHARE window(choice, kNetworks, {"U16", true}, texts);
   EXPECT_EQ(window.choice().address, "192.168.1.20");
-  EXPECT_TRUE(in<QLabel>(window, "lblNAMES")->text().startsWith("Minors play"));
-  EXPECT_TRUE(in<QLabel>(window, "lblNAMES")->text().contains("U16"));
+  EXPECT_TRUE(fromQt(in<QLabel>(window, "lblNAMES")->text()).starts_with("Minors play"));
+  EXPECT_NE(fromQt(in<QLabel>(window, "lblNAMES")->text()).find("U16"), std::string::npos);
 }
 
 } // namespace
