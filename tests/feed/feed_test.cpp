@@ -123,11 +123,11 @@ TEST(FeedGame, NamesAreToldAsFarAsTheyMayBe) {
 }
 
 TEST(FeedGame, NobodySeesLineUpFiguresInIt) {
-  const std::string text =
-      feedGame(running("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=10:00,DEPART\n"
-                       "3=09:40,GDK,0-4\n4=09:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n",
-                       LiveGame::Phase::Stopped),
-               {}, {}, kTexts);
+  RunningGame game = running("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=10:00,DEPART\n"
+                             "3=09:40,GDK,0-4\n4=09:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n",
+                             LiveGame::Phase::Stopped);
+  game.onCourt = {0x3E, 0x3E};
+  const std::string text = feedGame(game, {}, {}, kTexts);
   EXPECT_EQ(text.find("\"lines\""), std::string::npos);
   EXPECT_NE(text.find("\"onCourt\": true"), std::string::npos);
 }
