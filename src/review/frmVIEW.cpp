@@ -82,6 +82,15 @@ void frmVIEW::setFormulaReader(FormulaReader reader) {
   m_gamePage->setFormulaReader(std::move(reader));
 }
 
+void frmVIEW::setSeasonShots(SeasonShots shots) {
+  m_shots->setSeasonShots(std::move(shots));
+}
+
+void frmVIEW::lookAtSeason() {
+  if (m_game.hasGame() && m_pages->currentWidget() == m_shots)
+    m_shots->showGame(m_game.shown());
+}
+
 void frmVIEW::addPages() {
   QWidget* const pages[] = {m_gamePage, m_all, m_flow, m_shots, m_compare, m_events, m_details};
   m_tabs->setObjectName(QStringLiteral("tabs"));

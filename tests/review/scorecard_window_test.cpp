@@ -356,7 +356,20 @@ TEST_F(ScorecardWindowTest, ShotsAndComparisonsFollowTheirChoices) {
   EXPECT_EQ(drawn("courtSHOTS(0)"), 1U);
   EXPECT_EQ(drawn("courtSHOTS(1)"), 1U);
   find<QToolButton>("cmdZONES").click();
-  EXPECT_TRUE(find<QComboBox>("cmbAVERAGE").isVisible());
+  auto& average = find<QComboBox>("cmbAVERAGE");
+  EXPECT_TRUE(average.isVisible());
+  auto& noSeason = find<QLabel>("lblNOSEASON");
+  EXPECT_FALSE(noSeason.isVisible());
+  average.setCurrentIndex(2); // the team's own season
+  EXPECT_TRUE(noSeason.isVisible()) << "says how to get one";
+  std::vector<std::optional<Side>> asked;
+  window->setSeasonShots([&](const GameDetails&, std::optional<Side> team) {
+    asked.push_back(team);
+    return std::optional<ShotSums>(std::in_place);
+  });
+  window->lookAtSeason();
+  EXPECT_FALSE(noSeason.isVisible());
+  EXPECT_EQ(asked, (std::vector<std::optional<Side>>{Side::Visitor, Side::Home}));
 
   window->showPage(Page::Compare);
   const auto compared = [&](const char* words) {
