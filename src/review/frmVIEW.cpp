@@ -142,6 +142,8 @@ void frmVIEW::connectPages() {
           [this] { m_chooser->openBelow(*m_columns, m_gamePage->columns()); });
   connect(m_chooser, &ColumnChooser::chosen, this, [this](const CompactChoice& columns) {
     m_gamePage->setColumns(columns);
+    if (columns == usualCompactColumns())
+      m_gamePage->setWidths({});
     if (m_game.hasGame())
       m_gamePage->showGame(m_game);
   });
@@ -283,7 +285,8 @@ void frmVIEW::applyColours() {
 QByteArray frmVIEW::arrangement() const {
   QByteArray state;
   QDataStream stream(&state, QIODevice::WriteOnly);
-  stream << m_all->splitter().saveState() << QByteArray::fromStdString(textOfChoice(m_gamePage->columns()));
+  stream << m_all->splitter().saveState() << QByteArray::fromStdString(textOfChoice(m_gamePage->columns()))
+         << QByteArray::fromStdString(textOfWidths(m_gamePage->widths()));
   return state;
 }
 
@@ -291,9 +294,11 @@ void frmVIEW::restoreArrangement(const QByteArray& state) {
   QDataStream stream(state);
   QByteArray parts;
   QByteArray columns;
-  stream >> parts >> columns;
+  QByteArray widths; // not kept by older versions
+  stream >> parts >> columns >> widths;
   m_all->splitter().restoreState(parts);
   m_gamePage->setColumns(choiceOfText(columns.toStdString()));
+  m_gamePage->setWidths(widthsOfText(widths.toStdString()));
   if (m_game.hasGame())
     m_gamePage->showGame(m_game);
 }

@@ -2,6 +2,7 @@
 #include "court/CourtView.h"
 #include "game/EventListModel.h"
 #include "insight/FlowPanel.h"
+#include "review/CompactWidths.h"
 #include "review/ComparisonBars.h"
 #include "review/frmVIEW.h"
 #include "scorecard/BoxTable.h"
@@ -346,6 +347,33 @@ TEST_F(ScorecardWindowTest, ColumnsAreChosenMovedAndRemembered) {
   EXPECT_EQ(heads(next), chosen);
   find<QToolButton>("cmdUSUAL").click();
   EXPECT_EQ(heads(*window), usual);
+}
+
+TEST_F(ScorecardWindowTest, AColumnKeepsTheWidthToWhichItsEdgeIsDragged) {
+  window->showPage(Page::Game);
+  window->resize(1800, 700); // more than the columns need
+  QCoreApplication::processEvents();
+  auto& box = find<QTableView>("lvwBOX(0)");
+  const auto& other = find<QTableView>("lvwBOX(1)");
+  QHeaderView& head = *box.horizontalHeader();
+  const int before = box.columnWidth(5);
+  const int beside = box.columnWidth(6);
+  const QPoint edge(head.sectionViewportPosition(5) + before - 1, head.height() / 2);
+  QTest::mousePress(head.viewport(), Qt::LeftButton, {}, edge);
+  QTest::mouseMove(head.viewport(), edge + QPoint(23, 0));
+  QTest::mouseRelease(head.viewport(), Qt::LeftButton, {}, edge + QPoint(23, 0));
+  EXPECT_EQ(box.columnWidth(5), before + 23);
+  EXPECT_EQ(other.columnWidth(5), before + 23) << "both boxes have the same columns";
+  EXPECT_EQ(box.columnWidth(6), beside);
+  window->refresh();
+  EXPECT_EQ(box.columnWidth(5), before + 23);
+  frmVIEW next(game.store, settings, texts);
+  next.restoreArrangement(window->arrangement());
+  ASSERT_EQ(next.open(toQt(game.file.path())), GameFileProblem::None);
+  EXPECT_EQ(next.findChild<QTableView*>(QStringLiteral("lvwBOX(0)"))->columnWidth(5), before + 23);
+  QTest::mouseDClick(head.viewport(), Qt::LeftButton, {}, edge + QPoint(23, 0));
+  EXPECT_LT(box.columnWidth(5), before) << "as wide as it needs, without the room that was left";
+  EXPECT_TRUE(widthsOfText("MIN=12,PTS,=900,3P=x,2P=1100,").size() == 1) << "only what can be a width";
 }
 
 TEST_F(ScorecardWindowTest, ShotsAndComparisonsFollowTheirChoices) {
