@@ -290,7 +290,9 @@ QSize FlowCanvas::pictureSize() const {
 
 void FlowCanvas::paintPicture(QPainter& painter, const QRectF& area) const {
   const double line = QFontMetricsF(Theme::font(Type::Small)).height();
-  const QRectF chart(area.left(), area.top(), area.width(), px(kPictureChart) - px(12));
+  const auto lines = static_cast<double>(m_rows[Side::Visitor].size() + m_rows[Side::Home].size() + 2);
+  const double below = hasRotation() ? lines * px(kPictureRow) : 0; // all of it, whatever stands above
+  const QRectF chart(area.left(), area.top(), area.width(), area.height() - below);
   const RotationLayout rows({{m_rows[Side::Visitor].size(), m_rows[Side::Home].size()}}, chart.bottom(),
                             px(kPictureRow), px(kPictureRow));
   const QRectF plot =
