@@ -7,6 +7,8 @@
 #include "appearance/relabel.h"
 #include "assistant/BenchParts.h"
 
+#include <QGuiApplication>
+#include <QStyleHints>
 #include <QToolButton>
 
 #include <algorithm>
@@ -118,6 +120,19 @@ void frmBENCH::makeTeams() {
 
 void frmBENCH::open(const QByteArray& geometry) {
   showOnOtherScreen(*this, geometry, kSize);
+  m_shown.start();
+}
+
+void frmBENCH::comeToFront() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  m_shown.start();
+}
+
+bool frmBENCH::isInSight() const {
+  return isVisible() && !isMinimized() &&
+         m_shown.elapsed() >= QGuiApplication::styleHints()->mouseDoubleClickInterval();
 }
 
 void frmBENCH::setTeam(Side team) {

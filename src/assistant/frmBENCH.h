@@ -9,6 +9,7 @@
 #include "recording/GameSession.h"
 #include "settings/Texts.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 
@@ -34,6 +35,10 @@ class frmBENCH : public QWidget {
 
   // Where it was left; else on another screen than the game's, where there is one.
   void open(const QByteArray& geometry);
+  // Also one that was minimized.
+  void comeToFront();
+  // For longer than a double press lasts: whoever presses twice to open it wants it open.
+  [[nodiscard]] bool isInSight() const;
   void setTeam(Side team); // whose bench it is for
   [[nodiscard]] Side team() const { return m_us; }
   void relabelWindow();
@@ -57,7 +62,8 @@ class frmBENCH : public QWidget {
   std::optional<BenchRecord> m_record; // none: the game has changed since it was counted
   GameSession::Listening m_listening;
   QTimer m_refresh;
-  QTimer m_tick; // while the clock runs
+  QTimer m_tick;         // while the clock runs
+  QElapsedTimer m_shown; // since it was brought in sight
   PerSide<QToolButton*> m_teams = {};
   BenchHead* m_head = nullptr;
   std::array<BenchTile*, 3> m_tiles = {}; // run, since the last time-out, foul trouble

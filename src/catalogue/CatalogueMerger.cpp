@@ -53,7 +53,7 @@ SeasonId CatalogueMerger::team(Known& reader, SeasonId id) {
   SeasonId& known = reader.teams[id];
   if (known == kNobody) {
     const NameTable::Team& team = reader.names->teams[id];
-    const std::string key = team.abbreviation + "-" + team.category;
+    const std::string key = seasonTeamKey(team.abbreviation, team.category);
     const auto [place, isNew] = m_teamIds.emplace(key, static_cast<SeasonId>(m_content.teams.size()));
     known = place->second;
     if (isNew)

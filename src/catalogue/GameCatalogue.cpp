@@ -147,6 +147,10 @@ ScanOutcome GameCatalogue::scan(const ScanRequest& request, const TaskWatch& wat
   return ScanOutcome::Done;
 }
 
+std::string seasonTeamKey(std::string_view abbreviation, std::string_view category) {
+  return std::string(abbreviation).append("-").append(category);
+}
+
 std::optional<SeasonId> GameCatalogue::teamOf(std::string_view key) const {
   auto found = std::ranges::find(m_content.teams, key, &SeasonTeam::key);
   if (found == m_content.teams.end()) {

@@ -25,6 +25,7 @@ struct SeasonTeam {
   std::uint32_t colour = 0; // in the latest game that has one
   friend bool operator==(const SeasonTeam&, const SeasonTeam&) = default;
 };
+[[nodiscard]] std::string seasonTeamKey(std::string_view abbreviation, std::string_view category);
 // A player is his team, jersey and name, without regard to case; 5 and 05 are one jersey, 0 and 00 two.
 struct SeasonPlayer {
   SeasonId team = kNobody;

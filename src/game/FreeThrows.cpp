@@ -1,6 +1,7 @@
 #include "game/FreeThrows.h"
 
 #include "game/EventDetails.h"
+#include "game/Roster.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -39,7 +40,8 @@ auto awardOf(Awards& awards, const PlayerReference& thrower, std::pair<int, int>
     });
   };
   const auto isHis = [&](const FreeThrows::Award& award) {
-    return award.shooter.team == thrower.team && award.shooter.jersey == thrower.jersey;
+    return award.shooter.team == thrower.team && (award.shooter.jersey == thrower.jersey ||
+                                                  Roster::areOneNumber(award.shooter.jersey, thrower.jersey));
   };
   const auto isNumbered = [&](const FreeThrows::Award& award) {
     return award.awarded == number.second && award.taken + 1 == number.first;

@@ -148,7 +148,16 @@ QRectF FlowCanvas::chartCard() const {
 
 QRectF FlowCanvas::plot() const {
   const QFontMetricsF text(Theme::font(Type::Small));
-  return chartCard().adjusted(leftGutter(), text.height() + px(8), -rightGutter(), -text.height() - px(6));
+  return chartCard().adjusted(leftGutter(), text.height() + px(8), -rightGutter() - chanceAxisWidth(),
+                              -text.height() - px(6));
+}
+
+double FlowCanvas::chanceAxisWidth() const {
+  if (!m_showsChances || m_chances.empty())
+    return 0;
+  const FlowType type = this->type();
+  return MarginPainter(m_drawing, FlowPalette(Theme::look(), {}), type, MarginPainter::Detail::Full)
+      .chanceAxisWidth();
 }
 
 const Stay* FlowCanvas::stayAt(QPointF place) const {
@@ -265,8 +274,8 @@ void FlowCanvas::paintCharts(QPainter& painter, const FlowPalette& palette, cons
   if (span)
     paintSpan(painter, *span);
   chart.paintCurve(painter, places.plot);
-  chart.paintResult(painter, places.plot, places.right - px(6));
-  if (m_showsChances)
+  chart.paintResult(painter, places.plot, places.plot.right() + chanceAxisWidth(), places.right - px(6));
+  if (m_showsChances && !m_chances.empty())
     chart.paintChances(painter, places.plot, m_chances);
 }
 
@@ -281,10 +290,13 @@ QSize FlowCanvas::pictureSize() const {
 
 void FlowCanvas::paintPicture(QPainter& painter, const QRectF& area) const {
   const double line = QFontMetricsF(Theme::font(Type::Small)).height();
-  const QRectF chart(area.left(), area.top(), area.width(), px(kPictureChart) - px(12));
+  const auto lines = static_cast<double>(m_rows[Side::Visitor].size() + m_rows[Side::Home].size() + 2);
+  const double below = hasRotation() ? lines * px(kPictureRow) : 0; // all of it, whatever stands above
+  const QRectF chart(area.left(), area.top(), area.width(), area.height() - below);
   const RotationLayout rows({{m_rows[Side::Visitor].size(), m_rows[Side::Home].size()}}, chart.bottom(),
                             px(kPictureRow), px(kPictureRow));
-  const QRectF plot = chart.adjusted(leftGutter(), line + px(8), -rightGutter(), -line - px(8));
+  const QRectF plot =
+      chart.adjusted(leftGutter(), line + px(8), -rightGutter() - chanceAxisWidth(), -line - px(8));
   paintCharts(painter, FlowPalette(lookOf(ColourScheme::Light), m_drawing.colours),
               {plot, rows, area.left(), area.right()}, std::nullopt);
 }

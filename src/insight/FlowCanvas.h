@@ -75,6 +75,7 @@ class FlowCanvas : public QWidget, public ShownPicture {
   [[nodiscard]] FlowType type() const;
   [[nodiscard]] QRectF chartCard() const;
   [[nodiscard]] QRectF plot() const;
+  [[nodiscard]] double chanceAxisWidth() const; // 0 while it is not shown
   [[nodiscard]] FlowLayout timeLayout() const { return {m_drawing.flow, plotOf(plot())}; }
   [[nodiscard]] static FlowLayout::Plot plotOf(const QRectF& box) {
     return {box.left(), box.top(), box.width(), box.height()};

@@ -34,6 +34,7 @@ FlowDrawing flowDrawing(const Game& game, const Texts& texts) {
     drawing.shortPeriods.push_back(name);
     drawing.periods.push_back(isNumber ? texts.withPlaceholder(Text::PeriodNumber, name) : name);
   }
+  drawing.chanceWords = texts.withPlaceholder(Text::WinChanceOf, drawing.teams[Side::Visitor]);
   drawing.timeWords = texts.text(Text::Time);
   drawing.differenceWords = texts.text(Text::ScoreDifference);
   if (flow.steps.empty()) {

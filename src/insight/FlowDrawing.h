@@ -18,6 +18,7 @@ struct FlowDrawing {
   PerSide<std::uint32_t> colours = {}; // red + 256 * green + 65536 * blue
   PerSide<std::string> ahead;          // "HERON ahead"
   std::string result;                  // "HERON by 4"
+  std::string chanceWords;             // "Chance of HERON to win", the visitors
   std::string timeWords;               // of the axes, where they are columns
   std::string differenceWords;
   std::vector<std::string> periods;      // "Period 1", one for each of the flow

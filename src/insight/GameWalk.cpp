@@ -129,8 +129,8 @@ std::vector<std::string> jerseysOf(std::string_view list, const Roster& roster) 
   return jerseys;
 }
 
-ElapsedTime::ElapsedTime(const Game& game) : m_hasTime(game.details.minutesPerPeriod > 0) {
-  if (!m_hasTime)
+ElapsedTime::ElapsedTime(const Game& game) {
+  if (game.details.minutesPerPeriod <= 0)
     return;
   // A game of more periods than can be played must not make a number that nobody can hold.
   constexpr std::int64_t kMost = kLastPeriod * 100 * 60;
@@ -148,7 +148,7 @@ ElapsedTime::ElapsedTime(const Game& game) : m_hasTime(game.details.minutesPerPe
       // Regular periods without events pass by, too.
       begin = std::min(end + length * (regularUpTo(event.period - 1) - regularUpTo(last)), kMost);
       end = begin + (event.period <= game.details.periods ? length : 0);
-      m_periods.push_back({event.period, 0});
+      m_periods.push_back({event.period, static_cast<int>(begin), 0});
     }
     end = std::max(end, begin + event.clockSeconds);
     m_periods.back().end = static_cast<int>(end);
@@ -156,10 +156,13 @@ ElapsedTime::ElapsedTime(const Game& game) : m_hasTime(game.details.minutesPerPe
 }
 
 int ElapsedTime::at(int period, int clockSeconds) const {
-  if (!m_hasTime)
-    return 0;
   const auto found = std::ranges::lower_bound(m_periods, period, {}, &Length::period);
   return found == m_periods.end() ? 0 : found->end - clockSeconds;
+}
+
+int ElapsedTime::beginOf(int period) const {
+  const auto found = std::ranges::lower_bound(m_periods, period, {}, &Length::period);
+  return found == m_periods.end() ? 0 : found->begin;
 }
 
 } // namespace hooptab

@@ -56,15 +56,17 @@ struct GameWalk {
 class ElapsedTime {
  public:
   explicit ElapsedTime(const Game& game);
-  [[nodiscard]] int at(int period, int clockSeconds) const; // of a period that has events
+  // Both of a period that has events.
+  [[nodiscard]] int at(int period, int clockSeconds) const;
+  [[nodiscard]] int beginOf(int period) const;
 
  private:
   struct Length {
     int period = 0;
-    int end = 0; // of the period, in seconds since the game began
+    int begin = 0; // in seconds since the game began
+    int end = 0;
   };
   std::vector<Length> m_periods; // ascending
-  bool m_hasTime;
 };
 
 } // namespace hooptab

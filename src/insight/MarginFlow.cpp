@@ -49,15 +49,9 @@ class FlowReader {
       m_flow.periods.push_back({number, at, at, at});
       return;
     }
-    int before = 0;
-    if (!m_flow.periods.empty()) {
-      MarginFlow::Period& last = m_flow.periods.back();
-      before = last.end = m_elapsed.at(last.number, 0); // somebody closed it early, or not at all
-    }
-    const bool isRegular = number <= m_game.details.periods;
-    const int end = m_elapsed.at(number, 0);
-    const int begin = isRegular ? end - m_game.details.minutesPerPeriod * 60 : before;
-    m_flow.periods.push_back({number, std::max(begin, before), at, end});
+    if (!m_flow.periods.empty())
+      m_flow.periods.back().end = m_flow.periods.back().full; // somebody closed it early, or not at all
+    m_flow.periods.push_back({number, m_elapsed.beginOf(number), at, m_elapsed.at(number, 0)});
   }
 
   void score(const GameEvent& event, std::size_t place, int at) {

@@ -20,6 +20,10 @@ constexpr double kBracketDrop = 5;
 constexpr double kBracketGap = 2;
 constexpr double kCurve = 1.6;
 constexpr double kLargeCurve = 2;
+constexpr double kTick = 4;
+const QString kCertain = QStringLiteral("100%");
+const QString kEven = QStringLiteral("50%");
+const QString kNever = QStringLiteral("0%");
 const QString kTimeOutSign = QStringLiteral("T");
 
 FlowLayout::Plot plotOf(const QRectF& box) {
@@ -200,12 +204,13 @@ void MarginPainter::paintAhead(QPainter& painter, const QRectF& plot, Side team)
                    toQt(m_drawing.ahead[team]));
 }
 
-void MarginPainter::paintResult(QPainter& painter, const QRectF& plot, double rightEnd) const {
+void MarginPainter::paintResult(QPainter& painter, const QRectF& plot, double leftEnd,
+                                double rightEnd) const {
   const QFontMetricsF metrics = m_type.strongMetrics();
   const int margin = m_drawing.flow.steps.empty() ? 0 : m_drawing.flow.steps.back().margin();
   painter.setFont(m_type.strong);
   painter.setPen(margin == 0 ? m_palette.look.ink : m_palette.words(margin > 0 ? Side::Visitor : Side::Home));
-  const double left = plot.right() + px(8);
+  const double left = leftEnd + px(8);
   painter.drawText(QPointF(left, layout(plot).y(margin) + (metrics.ascent() - metrics.descent()) / 2),
                    metrics.elidedText(toQt(m_drawing.result), Qt::ElideRight, rightEnd - left));
 }
@@ -253,6 +258,40 @@ void MarginPainter::paintChances(QPainter& painter, const QRectF& plot,
   painter.setPen(QPen(m_palette.look.accent, px(kLargeCurve), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.setBrush(Qt::NoBrush);
   painter.drawPolyline(curve);
+  paintChanceAxis(painter, plot);
+}
+
+double MarginPainter::chanceAxisWidth() const {
+  const QFontMetricsF text = m_type.metrics();
+  return px(kTick + 3) + text.horizontalAdvance(kCertain) + px(3) + 2 * text.height();
+}
+
+// In the colour of its curve. The words run down beside the labels, in two lines where one is too short.
+void MarginPainter::paintChanceAxis(QPainter& painter, const QRectF& plot) const {
+  const QFontMetricsF text = m_type.metrics();
+  const QColor colour = m_palette.look.accent;
+  const double axis = std::round(plot.right()) + px(0.5);
+  const double even = std::round(plot.center().y()) + px(0.5);
+  painter.setPen(QPen(colour, px(1), Qt::DotLine, Qt::FlatCap));
+  painter.drawLine(QPointF(plot.left(), even), QPointF(axis, even));
+  painter.setPen(penOf(colour, px(1)));
+  painter.drawLine(QPointF(axis, plot.top()), QPointF(axis, plot.bottom()));
+  painter.setFont(m_type.text);
+  const double labels = axis + px(kTick + 3);
+  const double right = labels + text.horizontalAdvance(kCertain);
+  for (const auto& [share, label] : {std::pair(0.0, kCertain), {0.5, kEven}, {1.0, kNever}}) {
+    const double y = plot.top() + plot.height() * share;
+    painter.drawLine(QPointF(axis, y), QPointF(axis + px(kTick), y));
+    painter.drawText(QPointF(right - text.horizontalAdvance(label), y + (text.ascent() - text.descent()) / 2),
+                     label);
+  }
+  painter.save();
+  painter.translate(right + px(3) + 2 * text.height(), plot.top());
+  painter.rotate(90);
+  painter.drawText(QRectF(0, 0, plot.height(), 2 * text.height()),
+                   static_cast<int>(Qt::AlignHCenter | Qt::AlignBottom) | Qt::TextWordWrap,
+                   toQt(m_drawing.chanceWords));
+  painter.restore();
 }
 
 void MarginPainter::paint(QPainter& painter, const QRectF& area) const {

@@ -25,11 +25,14 @@ class MarginPainter {
   [[nodiscard]] QRectF plotIn(const QRectF& area) const;
   [[nodiscard]] FlowLayout layout(const QRectF& plot) const;
 
-  // What lies below everything, then the curve with its signs. `rightEnd` is as far as the result may reach.
+  // What lies below everything, then the curve with its signs. The result stands between
+  // both ends, at the right of the plot.
   void paintGrid(QPainter& painter, const QRectF& plot) const;
   void paintCurve(QPainter& painter, const QRectF& plot) const;
-  void paintResult(QPainter& painter, const QRectF& plot, double rightEnd) const;
-  // How likely each team was to win: the higher, the likelier for the visitors.
+  void paintResult(QPainter& painter, const QRectF& plot, double leftEnd, double rightEnd) const;
+  // How likely each team was to win: the higher, the likelier for the visitors. Its axis stands at the right
+  // of the plot and takes that width.
+  [[nodiscard]] double chanceAxisWidth() const;
   void paintChances(QPainter& painter, const QRectF& plot, const std::vector<WinStep>& steps) const;
   // All of it with nothing chosen; or the words of a chart that has nothing to show.
   void paint(QPainter& painter, const QRectF& area) const;
@@ -40,6 +43,7 @@ class MarginPainter {
   void paintAhead(QPainter& painter, const QRectF& plot, Side team) const;
   void paintBrackets(QPainter& painter, const FlowLayout& layout) const;
   void paintTimeOuts(QPainter& painter, const FlowLayout& layout) const;
+  void paintChanceAxis(QPainter& painter, const QRectF& plot) const;
   void paintLeadChanges(QPainter& painter, const FlowLayout& layout) const;
   [[nodiscard]] double px(double pixels) const { return pixels * m_type.pixel; }
 

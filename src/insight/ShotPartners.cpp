@@ -1,6 +1,7 @@
 #include "insight/ShotPartners.h"
 
 #include "game/EventDetails.h"
+#include "game/Roster.h"
 #include "game/ShotFollowUp.h"
 
 namespace hooptab {
@@ -15,7 +16,8 @@ bool canBe(const GameEvent& block, const GameEvent& shot) {
   if (shot.code == EventCode::GFT || shot.isMade || shot.player.team == block.player.team)
     return false;
   const auto named = PlayerReference::read(block.detail(detail_key::kShooter).value_or(""));
-  return !named || named->jersey == shot.player.jersey;
+  return !named || named->jersey == shot.player.jersey ||
+         Roster::areOneNumber(named->jersey, shot.player.jersey);
 }
 
 enum class Way { Back, Forth };

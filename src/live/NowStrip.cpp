@@ -4,6 +4,7 @@
 #include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
+#include "insight/SignedText.h"
 #include "recording/LiveFigures.h"
 #include "recording/LiveGame.h"
 #include "settings/StorageWords.h"
@@ -15,7 +16,6 @@
 #include <QToolButton>
 
 #include <algorithm>
-#include <cstdlib>
 #include <numeric>
 #include <utility>
 
@@ -25,10 +25,6 @@ namespace {
 
 constexpr int kGap = 8;
 constexpr int kChip = 10;
-
-QString signedText(int number) {
-  return (number < 0 ? QStringLiteral("−") : QStringLiteral("+")) + QString::number(std::abs(number));
-}
 
 } // namespace
 
@@ -74,7 +70,7 @@ void NowStrip::addWords(const QString& words, const QColor& colour, bool isBold)
   m_runs.push_back({.text = words, .colour = colour, .isBold = isBold});
 }
 
-// "■ 4 5 7 12 14 together 00:25 +0 (0–0)"
+// "■ 4 5 7 12 14 together 00:25 0 (0–0)"
 void NowStrip::addFive(Side team) {
   const Look& look = Theme::look();
   const FivePlay& five = m_fives.current[team];
@@ -86,7 +82,7 @@ void NowStrip::addFive(Side team) {
     addWords(caption(m_texts, Text::Together), look.muted);
     addWords(toQt(Module1::clockText(five.seconds)), look.ink);
   }
-  addWords(signedText(five.plusMinus()),
+  addWords(toQt(signedText(five.plusMinus())),
            five.plusMinus() < 0   ? look.missed
            : five.plusMinus() > 0 ? look.made
                                   : look.ink,
@@ -112,7 +108,7 @@ void NowStrip::gather() {
     m_runs.push_back({.text = caption(m_texts, Text::BestFive), .colour = look.muted, .beginsGroup = true});
     addChip(team);
     addWords(toQt(best->jerseys), look.ink);
-    addWords(signedText(best->plusMinus()), look.made, true);
+    addWords(toQt(signedText(best->plusMinus())), look.made, true);
   }
   if (m_runs == before)
     return;

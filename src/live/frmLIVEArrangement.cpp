@@ -22,8 +22,10 @@ constexpr const char* kBenchOfHome = "bench-of-home";
 } // namespace
 
 void frmLIVE::switchBench() {
+  if (m_assistant != nullptr && m_assistant->isInSight())
+    return m_assistant->hide();
   if (m_assistant != nullptr)
-    return m_assistant->setVisible(!m_assistant->isVisible());
+    return m_assistant->comeToFront();
   m_assistant = new frmBENCH(m_session, m_texts, this);
   m_assistant->setTeam(m_assistantTeam);
   m_assistant->open(m_assistantPlace);

@@ -22,7 +22,13 @@ namespace hooptab {
 namespace {
 
 constexpr const char* kDot = " · ";
-constexpr std::string_view kCounts[] = {"OR", "DR", "TR", "Ast", "TO", "ST", "BS", "PF"};
+constexpr std::string_view kCounts[] = {"OR", "DR", "TR", "Ast", "TO", "ST", "BS"};
+// Not together, as a league's sheet has them: beside the page of the game the same player has the same fouls.
+constexpr struct {
+  std::string_view code;
+  Counter counter;
+  EventCode event;
+} kFouls[] = {{"PF", Counter::PF, EventCode::SPF}, {"TF", Counter::TF, EventCode::STF}};
 // What the teams are compared by, before where their points came from.
 constexpr std::string_view kRates[] = {"eFG", "TOrate", "ORpct", "FTrate"};
 
@@ -30,7 +36,11 @@ class GameSheet {
  public:
   GameSheet(const CountedGame& counted, const Texts& texts)
       : m_counted(counted), m_texts(texts), m_insight(insightOf(counted.game)),
-        m_board(scoreboard(counted, texts)), m_flow(flowDrawing(counted.game, texts)) {}
+        m_board(scoreboard(counted, texts)), m_flow(flowDrawing(counted.game, texts)) {
+    for (const Side team : kSides)
+      m_hasTechnicals =
+          m_hasTechnicals || leagueRows(counted, team, texts).back().numbers.counters[Counter::TF] > 0;
+  }
 
   Report report() {
     Report report = reportOf(m_counted, Text::GameSheetReport, m_texts);
@@ -145,11 +155,17 @@ class GameSheet {
       const LeagueColumn& column = leagueColumn(code);
       table.columns.push_back({leagueHeader(column, m_texts), std::string(code), text(column.words)});
     }
+    for (const auto& [code, counter, event] : kFouls) {
+      if (isShown(counter))
+        table.columns.push_back({std::string(code), std::string(code), text(kindOf(event)->wordsText)});
+    }
     if (hasLineUps())
       table.columns.push_back({"+/−", "plusMinus", text(Text::PlusMinusTip)});
     table.columns.push_back({text(Text::Rating), "rating", text(Text::RatingFormula)});
   }
 
+  // Most games have no technical foul.
+  [[nodiscard]] bool isShown(Counter fouls) const { return fouls != Counter::TF || m_hasTechnicals; }
   [[nodiscard]] bool hasLineUps() const {
     const auto& wereOnCourt = m_counted.state.wereOnCourt;
     return m_insight.isFromEvents && wereOnCourt != PerSide<std::uint16_t>{};
@@ -172,6 +188,10 @@ class GameSheet {
       line.cells.push_back(textCell(fractionText({numbers.made(kinds), numbers.attempted(kinds)})));
     for (const std::string_view code : kCounts)
       line.cells.push_back(numberCell(static_cast<int>(leagueColumn(code).value(row).numerator)));
+    for (const auto& [code, counter, event] : kFouls) {
+      if (isShown(counter))
+        line.cells.push_back(numberCell(numbers.counters[counter]));
+    }
     if (hasLineUps()) {
       const int plusMinus = row.kind == BoxRowKind::Player
                                 ? m_insight.players[team][static_cast<std::size_t>(row.entry)].plusMinus(team)
@@ -327,6 +347,7 @@ class GameSheet {
   GameInsight m_insight;
   Scoreboard m_board;
   FlowDrawing m_flow;
+  bool m_hasTechnicals = false;
 };
 
 } // namespace

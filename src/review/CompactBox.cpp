@@ -135,6 +135,7 @@ constexpr CompactColumn kColumns[] = {
     {"PF", "00", Group::Fouls, wordsOf(EventCode::SPF), Text::None, fouls},
     {"+/−", "−00", Group::Margin, Text::ScoreDifference, Text::PlusMinusTip, plusMinus},
     {"RAT", "000", Group::Rating, Text::RatingCapital, Text::RatingFormula, rating, true, true},
+    {"TF", "00", Group::Fouls, wordsOf(EventCode::STF), Text::None, counted<Counter::TF>, false},
     {"FD", "00", Group::Fouls, Text::FoulsDrawn, Text::None, foulsDrawn, false, true},
     {"eFG%", "100.0", Group::Rates, Text::EffectiveFieldGoals, Text::EffectiveTip, ofRate<kEffective>, false},
     {"TS%", "100.0", Group::Rates, Text::TrueShootingWord, Text::TrueShootingTip, ofRate<kTrueShooting>, false},

@@ -7,8 +7,10 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
+#include <cmath>
 
 namespace hooptab {
 
@@ -18,8 +20,11 @@ constexpr int kPadding = 14; // left and right of a text together
 constexpr int kLeastPadding = 9;
 constexpr int kMarkWidth = 22;
 constexpr int kNumberWidth = 28;
+constexpr int kLeastWidth = 16; // of a column that is dragged
 constexpr int kLeastName = 110;
 constexpr int kWidestName = 200;
+
+constexpr double kWhole = 1000; // thousandths
 
 // The head of a dense table: muted words on a raised ground; the one that is sorted by is ink with an arrow.
 class CompactHeader : public QHeaderView {
@@ -30,8 +35,7 @@ class CompactHeader : public QHeaderView {
     setSortIndicator(-1, Qt::AscendingOrder);
     setSortIndicatorShown(true);
     setSortIndicatorClearable(true);
-    setSectionResizeMode(QHeaderView::Fixed);
-    setMinimumSectionSize(8);
+    setMinimumSectionSize(kLeastWidth);
   }
   QSize sizeHint() const override { return {QHeaderView::sizeHint().width(), Theme::measure()(21, 30)}; }
 
@@ -78,6 +82,14 @@ CompactBoxTable::CompactBoxTable(const QString& name, const Texts& texts, QWidge
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   setSortingEnabled(true);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+    if (!m_isFitting)
+      keepWidth(column);
+  });
+  connect(horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this, [this](int column) {
+    if (column >= CompactBoxModel::Name)
+      setColumnWidth(column, column == CompactBoxModel::Name ? longestName() : neededWidth(column));
+  });
   setRowHeight(Theme::measure()(20, 29));
 }
 
@@ -147,21 +159,58 @@ int CompactBoxTable::leastWidth(int column) const {
   return width + Theme::measure()(kPadding);
 }
 
-// What room there is beyond that is shared by the columns of figures.
+int CompactBoxTable::neededWidth(int column) const {
+  return column == CompactBoxModel::Name ? Theme::measure()(kLeastName) : leastWidth(column);
+}
+
+std::string CompactBoxTable::keyOf(int column) const {
+  return fromQt(m_model.headerData(column, Qt::Horizontal, kTableNameRole).toString());
+}
+
+// The first column that is dragged lets all others stay as they are.
+void CompactBoxTable::keepWidth(int column) {
+  const auto keep = [this](int each) {
+    m_widths[keyOf(each)] =
+        static_cast<int>(std::lround(kWhole * columnWidth(each) / std::max(neededWidth(each), 1)));
+  };
+  if (m_widths.empty()) {
+    for (int each = CompactBoxModel::Name; each < m_model.columnCount(); ++each)
+      keep(each);
+  }
+  keep(column);
+  emit widthsChosen(m_widths);
+}
+
+void CompactBoxTable::setWidths(const CompactWidths& widths) {
+  m_widths = widths;
+  fitColumns();
+}
+
+int CompactBoxTable::chosenWidth(int column) const {
+  const auto kept = m_widths.find(keyOf(column));
+  if (kept == m_widths.end())
+    return column == CompactBoxModel::Name ? std::max(m_nameWidth, neededWidth(column)) : neededWidth(column);
+  return std::max(static_cast<int>(std::lround(neededWidth(column) * kept->second / kWhole)), kLeastWidth);
+}
+
+// What room there is beyond that is shared by the columns of figures, unless the user gave them their widths.
 void CompactBoxTable::fitColumns() {
   const Measure& measure = Theme::measure();
   if (m_model.columnCount() <= CompactBoxModel::FirstCell)
     return;
+  const QScopedValueRollback isFitting(m_isFitting, true);
+  for (const int column : {CompactBoxModel::Starter, CompactBoxModel::Number})
+    horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
   setColumnWidth(CompactBoxModel::Starter, measure(kMarkWidth));
   setColumnWidth(CompactBoxModel::Number, measure(kNumberWidth));
-  setColumnWidth(CompactBoxModel::Name, std::max(m_nameWidth, measure(kLeastName)));
+  setColumnWidth(CompactBoxModel::Name, chosenWidth(CompactBoxModel::Name));
   int needed = 0;
   for (int column = 0; column < m_model.columnCount(); ++column)
-    needed += column < CompactBoxModel::FirstCell ? columnWidth(column) : leastWidth(column);
-  int spare = std::max(viewport()->width() - needed, 0);
+    needed += column < CompactBoxModel::FirstCell ? columnWidth(column) : chosenWidth(column);
+  int spare = m_widths.empty() ? std::max(viewport()->width() - needed, 0) : 0;
   for (int column = CompactBoxModel::FirstCell; column < m_model.columnCount(); ++column) {
     const int share = spare / (m_model.columnCount() - column);
-    setColumnWidth(column, leastWidth(column) + share);
+    setColumnWidth(column, chosenWidth(column) + share);
     spare -= share;
   }
 }

@@ -1,8 +1,10 @@
 // A team's compact box as a table without a frame, a player a row of a few pixels; sorts by its heads and is
-// as high as its rows. Which rows and columns there are is decided elsewhere.
+// as high as its rows. A column has the width to which it was dragged. Which rows and columns there are is
+// decided elsewhere.
 #pragma once
 
 #include "review/CompactBoxModel.h"
+#include "review/CompactWidths.h"
 #include "scorecard/BoxSortProxy.h"
 
 #include <QTableView>
@@ -24,9 +26,11 @@ class CompactBoxTable : public QTableView {
   // Of the longest name; both tables of a page take the longer.
   [[nodiscard]] int longestName() const;
   void setNameWidth(int width);
+  void setWidths(const CompactWidths& widths);
 
  signals:
   void copied();
+  void widthsChosen(const hooptab::CompactWidths& widths);
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -35,12 +39,18 @@ class CompactBoxTable : public QTableView {
 
  private:
   void fitColumns();
+  void keepWidth(int column);
+  [[nodiscard]] int chosenWidth(int column) const;
+  [[nodiscard]] int neededWidth(int column) const; // of names: of short ones
+  [[nodiscard]] std::string keyOf(int column) const;
   [[nodiscard]] int leastWidth(int column) const;
 
   const Texts& m_texts;
   CompactBoxModel m_model;
   BoxSortProxy m_sorted;
   int m_nameWidth = 0;
+  CompactWidths m_widths;
+  bool m_isFitting = false; // else the user resizes
 };
 
 } // namespace hooptab

@@ -11,6 +11,7 @@
 #include <QPoint>
 #include <QSignalBlocker>
 #include <algorithm>
+#include <iterator>
 
 namespace hooptab {
 
@@ -157,7 +158,10 @@ void ComparePage::showComparison() {
       head.name[team] = toQt(details.abbreviation[team]);
       head.colour[team] = colourOf(details.teamColour[team]);
     }
-    return m_bars->showRows(std::move(head), compareTeams(m_game.insight(), m_texts));
+    std::vector<ComparisonRow> rows = compareTeams(m_game.insight(), m_texts);
+    if (!m_game.stretch()) // counted alone, a stretch does not know how the score stood
+      std::ranges::move(compareClutch(m_game.insight(), details, m_texts), std::back_inserter(rows));
+    return m_bars->showRows(std::move(head), std::move(rows));
   }
   if (m_players[0]->count() == 0) {
     head.title = caption(m_texts, Text::CompareEmpty);

@@ -51,6 +51,11 @@ class Rows {
     addNumber(words, left, right, signedText(left), signedText(right), Better::More);
   }
   void beginGroup() { m_beginsGroup = true; }
+  void addTitle(std::string words) {
+    ComparisonRow& row = m_rows.emplace_back();
+    row.words = std::move(words);
+    row.beginsGroup = row.isTitle = true;
+  }
   std::vector<ComparisonRow> take() { return std::move(m_rows); }
 
  private:
@@ -121,6 +126,29 @@ std::vector<ComparisonRow> compareTeams(const GameInsight& insight, const Texts&
   if (visitors.fastBreak && home.fastBreak)
     rows.addCount(Text::FastBreakPoints, *visitors.fastBreak, *home.fastBreak);
   rows.addCount(Text::QuickPoints, visitors.quick, home.quick);
+  return rows.take();
+}
+
+std::vector<ComparisonRow> compareClutch(const GameInsight& insight, const GameDetails& details,
+                                         const Texts& texts) {
+  const CourtShare& clutch = insight.clutch;
+  const bool canBeKnown = insight.isFromEvents && details.minutesPerPeriod > 0;
+  if (!canBeKnown || (clutch.isEmpty() && !details.isFinished))
+    return {};
+  Rows rows(texts);
+  const std::string title(texts.text(Text::ClutchTitle));
+  if (clutch.isEmpty()) {
+    rows.addTitle(title + ": " + std::string(texts.text(Text::ClutchNone)));
+    return rows.take();
+  }
+  rows.addTitle(title + " · " + Module1::clockText(clutch.seconds));
+  const RateBasis left = RateBasis::ofAll(Side::Visitor, clutch);
+  const RateBasis right = RateBasis::ofAll(Side::Home, clutch);
+  rows.addCount(Text::PointsScored, left.own.points(), right.own.points());
+  rows.addRate(rateNamed("eFG"), left, right);
+  rows.addCount(Text::TotalRebounds, left.own.rebounds(), right.own.rebounds());
+  rows.addCount(kindOf(EventCode::STO)->wordsText, left.own.counters[Counter::TO],
+                right.own.counters[Counter::TO], Rows::Better::Less);
   return rows.take();
 }
 

@@ -22,10 +22,15 @@ struct ComparisonRow {
   PerSide<double> share = {}; // of the room for a bar: rates on 0 to 100, counts on 1.25 times the larger
   std::optional<Side> better = {};
   bool beginsGroup = false;
+  bool isTitle = false; // words alone, over the rows below it
 };
 
 // The four factors first, then what else tells them apart, the most telling first.
 [[nodiscard]] std::vector<ComparisonRow> compareTeams(const GameInsight& insight, const Texts& texts);
+// What the teams did when it was close at the end, as docs/formats/statistics.md says; under a title that
+// says for how long, or that it never was. None of a game without events or time, or before it can be known.
+[[nodiscard]] std::vector<ComparisonRow> compareClutch(const GameInsight& insight, const GameDetails& details,
+                                                       const Texts& texts);
 // Whomever each basis is of: counts first, then his rates.
 [[nodiscard]] std::vector<ComparisonRow> comparePlayers(const RateBasis& left, const RateBasis& right,
                                                         const Texts& texts);

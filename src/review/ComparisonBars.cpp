@@ -73,6 +73,9 @@ std::vector<QRect> ComparisonBars::rowRects() const {
     rects.emplace_back(0, top, width(), rowHeight);
     top += rowHeight;
   }
+  // A title tells nothing without the rows that it is for.
+  while (!rects.empty() && rects.size() < m_rows.size() && m_rows[rects.size() - 1].isTitle)
+    rects.pop_back();
   return rects;
 }
 
@@ -110,7 +113,10 @@ void ComparisonBars::paintEvent(QPaintEvent*) {
   for (std::size_t i = 0; i < rects.size(); ++i) {
     if (m_rows[i].beginsGroup)
       painter.fillRect(QRect(0, rects[i].top() - kGroupGap / 2 - 1, width(), 1), Theme::look().line);
-    paintRow(painter, rects[i], m_rows[i], rects.size());
+    if (m_rows[i].isTitle)
+      paintTitle(painter, rects[i], m_rows[i]);
+    else
+      paintRow(painter, rects[i], m_rows[i], rects.size());
   }
 }
 
@@ -138,13 +144,21 @@ void ComparisonBars::paintHead(QPainter& painter) const {
   }
 }
 
+void ComparisonBars::paintTitle(QPainter& painter, const QRect& area, const ComparisonRow& row) {
+  painter.setFont(Theme::font(Type::Body, QFont::DemiBold));
+  painter.setPen(Theme::look().muted);
+  painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                   painter.fontMetrics().elidedText(toQt(row.words), Qt::ElideRight, area.width()));
+}
+
 void ComparisonBars::paintRow(QPainter& painter, const QRect& area, const ComparisonRow& row,
                               std::size_t shown) const {
   const Look& look = Theme::look();
   const Measure& measure = Theme::measure();
   int words = measure(100);
   for (std::size_t i = 0; i < shown; ++i)
-    words = std::max(words, QFontMetrics(wordsFont()).horizontalAdvance(toQt(m_rows[i].words)) + kGap / 2);
+    if (!m_rows[i].isTitle)
+      words = std::max(words, QFontMetrics(wordsFont()).horizontalAdvance(toQt(m_rows[i].words)) + kGap / 2);
   const int value = measure(kValueWidth);
   words = std::min(words, std::max(width() - 2 * (value + 2 * kGap + kLeastBar), 1));
   const int bar = std::max((width() - words - 2 * value) / 2 - 2 * kGap, 1);

@@ -43,6 +43,7 @@ class ComparisonBars : public QWidget, public ShownTable {
   [[nodiscard]] std::vector<QRect> rowRects() const;
   [[nodiscard]] int headHeight() const;
   void paintHead(QPainter& painter) const;
+  static void paintTitle(QPainter& painter, const QRect& area, const ComparisonRow& row);
   // One of so many that are shown.
   void paintRow(QPainter& painter, const QRect& area, const ComparisonRow& row, std::size_t shown) const;
 

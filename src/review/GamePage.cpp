@@ -82,6 +82,7 @@ QWidget* GamePage::makeBox(Side team) {
   layout->addWidget(m_edges[team]);
   layout->addWidget(m_boxes[team], 1);
   connect(m_boxes[team], &CompactBoxTable::copied, this, &GamePage::copied);
+  connect(m_boxes[team], &CompactBoxTable::widthsChosen, this, &GamePage::setWidths);
   connect(m_boxes[team]->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &GamePage::fitRows);
   return card;
 }
@@ -110,6 +111,12 @@ QWidget* GamePage::makeShots() {
 
 void GamePage::setColumns(CompactChoice columns) {
   m_columns = std::move(columns);
+}
+
+void GamePage::setWidths(const CompactWidths& widths) {
+  m_widths = widths;
+  for (CompactBoxTable* box : m_boxes)
+    box->setWidths(m_widths);
 }
 
 void GamePage::showGame(const ShownGame& game) {

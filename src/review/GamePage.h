@@ -3,6 +3,7 @@
 #pragma once
 
 #include "review/CompactBox.h"
+#include "review/CompactWidths.h"
 #include "review/ShownGame.h"
 
 #include <QWidget>
@@ -28,6 +29,8 @@ class GamePage : public QWidget {
   void showGame(const ShownGame& game);
   const CompactChoice& columns() const { return m_columns; }
   void setColumns(CompactChoice columns); // shown with the next game
+  const CompactWidths& widths() const { return m_widths; }
+  void setWidths(const CompactWidths& widths); // of the columns of both boxes
   // Who reads the formula of the user's own rating; without, there is none.
   void setFormulaReader(FormulaReader reader) { m_readFormula = std::move(reader); }
   void applyColours();
@@ -49,6 +52,7 @@ class GamePage : public QWidget {
   const Texts& m_texts;
   FormulaReader m_readFormula;
   CompactChoice m_columns = usualCompactColumns();
+  CompactWidths m_widths;
   PerSide<CompactBoxTable*> m_boxes = {};
   PerSide<QWidget*> m_edges = {}; // the team's colour above its box
   MarginChart* m_chart;

@@ -1,6 +1,7 @@
 #include "review/ShotsPage.h"
 
 #include "appearance/Card.h"
+#include "appearance/ElidedLabel.h"
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
@@ -23,8 +24,10 @@ namespace {
 
 constexpr int kGap = 8;
 constexpr int kInset = 10;
-constexpr int kOpponent = 0; // of the choices of an average
-constexpr int kTeam = 1;
+
+enum Average { Opponent, Team, OwnSeason, AllGames };
+constexpr Text kAverages[] = {Text::AgainstOpponent, Text::TeamWord, Text::AgainstOwnSeason,
+                              Text::AgainstAllGames};
 
 } // namespace
 
@@ -32,13 +35,18 @@ ShotsPage::ShotsPage(const Settings& settings, const Texts& texts, QWidget* pare
     : QWidget(parent), m_settings(settings), m_texts(texts),
       m_byShot(addSwitch("cmdSHOTS", Text::ByShot, "byshot")),
       m_byZone(addSwitch("cmdZONES", Text::ByZone, "byzone")), m_average(new QComboBox(this)),
-      m_legend(new SignLegend(this)) {
+      m_noSeason(new ElidedLabel(this)), m_legend(new SignLegend(this)) {
   setObjectName(QStringLiteral("pageSHOTS"));
   m_byShot->setChecked(true);
   m_average->setObjectName(QStringLiteral("cmbAVERAGE"));
-  m_average->addItems({QString(), QString()});
+  m_average->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  for (std::size_t i = 0; i < std::size(kAverages); ++i)
+    m_average->addItem(QString());
   setAccessibleNumber(*m_average, Text::HexagonLegend);
   setToolTipNumber(*m_average, Text::HexagonLegend);
+  m_noSeason->setObjectName(QStringLiteral("lblNOSEASON"));
+  m_noSeason->setForegroundRole(QPalette::PlaceholderText);
+  setTextNumber(*m_noSeason, Text::AgainstNeedsSeason);
   auto* kinds = new QButtonGroup(this);
   kinds->addButton(m_byShot);
   kinds->addButton(m_byZone);
@@ -48,6 +56,7 @@ ShotsPage::ShotsPage(const Settings& settings, const Texts& texts, QWidget* pare
   head->addWidget(m_byShot);
   head->addWidget(m_byZone);
   head->addWidget(m_average);
+  head->addWidget(m_noSeason, 1);
   head->addStretch();
   head->addWidget(m_legend);
   auto* halves = new QHBoxLayout;
@@ -92,12 +101,11 @@ QWidget* ShotsPage::makeHalf(Side team) {
 void ShotsPage::showGame(std::shared_ptr<const CountedGame> game) {
   m_game = std::move(game);
   const QSignalBlocker noChoice(m_average);
-  m_average->setItemText(kOpponent, caption(m_texts, Text::AgainstOpponent));
-  m_average->setItemText(kTeam, caption(m_texts, Text::TeamWord));
+  for (int i = 0; i < m_average->count(); ++i)
+    m_average->setItemText(i, caption(m_texts, kAverages[i]));
   for (const Side team : kSides)
     fillPlayers(team);
-  applyColours();
-  showShots();
+  applyColours(); // and what there is to show
 }
 
 // Whoever is chosen stays so while the game is read anew.
@@ -125,6 +133,7 @@ void ShotsPage::showShots() {
     return;
   const bool byZone = m_byZone->isChecked();
   m_average->setVisible(byZone);
+  m_noSeason->hide();
   for (const Side team : kSides) {
     m_courts[team]->showShots(toQt(m_game->game.details.name[team]), shotsOf(team, false), *m_game);
     showZones(team);
@@ -148,22 +157,33 @@ void ShotsPage::showLegend(bool byZone) {
                          {QStringLiteral("✕"), look.missed, words(Text::Missed)}});
 }
 
+std::optional<ShotSums> ShotsPage::averageFor(Side team) const {
+  const GameDetails& details = m_game->game.details;
+  switch (m_average->currentIndex()) {
+  case OwnSeason: return m_seasonShots ? m_seasonShots(details, team) : std::nullopt;
+  case AllGames: return m_seasonShots ? m_seasonShots(details, std::nullopt) : std::nullopt;
+  default: return shotSums(shotsOf(m_average->currentIndex() == Team ? team : otherSide(team), true));
+  }
+}
+
 void ShotsPage::showZones(Side team) {
   constexpr double kWholeTint = 0.8; // points per shot from which on a zone is tinted fully
   constexpr double kFewTint = 0.12;
   constexpr double kLeastTint = 0.2;
-  const bool againstTeam = m_average->currentIndex() == kTeam;
-  const ShotSums average = shotSums(shotsOf(againstTeam ? team : otherSide(team), true));
+  const std::optional<ShotSums> average = averageFor(team);
+  if (!average && m_byZone->isChecked())
+    m_noSeason->show();
   std::vector<CourtZoneText> zones;
-  for (const ZoneRate& rate : zoneRates(shotSums(shotsOf(team, false)), average)) {
+  for (const ZoneRate& rate : zoneRates(shotSums(shotsOf(team, false)), average.value_or(ShotSums()))) {
     CourtZoneText& zone = zones.emplace_back();
     zone.zone = rate.zone;
     zone.upper = toQt(rate.fraction);
     zone.lower = toQt(rate.pointsPerShot);
     zone.tint = rate.aboveAverage < 0 ? Theme::look().warningBar : Theme::look().accent;
-    zone.strength =
-        rate.isFew ? kFewTint
-                   : kLeastTint + (1 - kLeastTint) * std::min(std::abs(rate.aboveAverage) / kWholeTint, 1.0);
+    zone.strength = !average     ? 0
+                    : rate.isFew ? kFewTint
+                                 : kLeastTint + (1 - kLeastTint) *
+                                                    std::min(std::abs(rate.aboveAverage) / kWholeTint, 1.0);
     zone.toolTip = caption(m_texts, court::chartZoneText(rate.zone)) + QStringLiteral("  ") + zone.upper +
                    QStringLiteral("  ") + zone.lower + u' ' + caption(m_texts, Text::PointsPerShotWord);
   }

@@ -82,6 +82,15 @@ void frmVIEW::setFormulaReader(FormulaReader reader) {
   m_gamePage->setFormulaReader(std::move(reader));
 }
 
+void frmVIEW::setSeasonShots(SeasonShots shots) {
+  m_shots->setSeasonShots(std::move(shots));
+}
+
+void frmVIEW::lookAtSeason() {
+  if (m_game.hasGame() && m_pages->currentWidget() == m_shots)
+    m_shots->showGame(m_game.shown());
+}
+
 void frmVIEW::addPages() {
   QWidget* const pages[] = {m_gamePage, m_all, m_flow, m_shots, m_compare, m_events, m_details};
   m_tabs->setObjectName(QStringLiteral("tabs"));
@@ -133,6 +142,8 @@ void frmVIEW::connectPages() {
           [this] { m_chooser->openBelow(*m_columns, m_gamePage->columns()); });
   connect(m_chooser, &ColumnChooser::chosen, this, [this](const CompactChoice& columns) {
     m_gamePage->setColumns(columns);
+    if (columns == usualCompactColumns())
+      m_gamePage->setWidths({});
     if (m_game.hasGame())
       m_gamePage->showGame(m_game);
   });
@@ -274,7 +285,8 @@ void frmVIEW::applyColours() {
 QByteArray frmVIEW::arrangement() const {
   QByteArray state;
   QDataStream stream(&state, QIODevice::WriteOnly);
-  stream << m_all->splitter().saveState() << QByteArray::fromStdString(textOfChoice(m_gamePage->columns()));
+  stream << m_all->splitter().saveState() << QByteArray::fromStdString(textOfChoice(m_gamePage->columns()))
+         << QByteArray::fromStdString(textOfWidths(m_gamePage->widths()));
   return state;
 }
 
@@ -282,9 +294,11 @@ void frmVIEW::restoreArrangement(const QByteArray& state) {
   QDataStream stream(state);
   QByteArray parts;
   QByteArray columns;
-  stream >> parts >> columns;
+  QByteArray widths; // not kept by older versions
+  stream >> parts >> columns >> widths;
   m_all->splitter().restoreState(parts);
   m_gamePage->setColumns(choiceOfText(columns.toStdString()));
+  m_gamePage->setWidths(widthsOfText(widths.toStdString()));
   if (m_game.hasGame())
     m_gamePage->showGame(m_game);
 }

@@ -6,6 +6,7 @@
 #include "appearance/ChildWindow.h"
 #include "appearance/WidgetsFirst.h"
 #include "game/OwnRating.h"
+#include "review/SeasonAverage.h"
 #include "review/ShownGame.h"
 #include "scorecard/FileChange.h"
 #include "scorecard/Scorecard.h"
@@ -51,6 +52,9 @@ class frmVIEW : public ChildWindow {
 
   // Who reads the formula of the user's own rating.
   void setFormulaReader(FormulaReader reader);
+  // Who knows the season that is open; to be told when that may be another.
+  void setSeasonShots(SeasonShots shots);
+  void lookAtSeason();
 
   // Reads and shows a game; on a problem what was shown stays.
   [[nodiscard]] GameFileProblem open(const QString& path);

@@ -22,6 +22,19 @@ std::optional<SeasonId> SeasonDesk::chosenTeam() const {
   return m_catalogue->teamOf(m_choice.games.team);
 }
 
+std::optional<ShotSums> SeasonDesk::shotsBeside(const GameDetails& game, std::optional<Side> team) const {
+  if (m_listed.empty())
+    return std::nullopt;
+  if (!team)
+    return shotsOfGames(*m_catalogue, m_listed);
+  const auto id = m_catalogue->teamOf(seasonTeamKey(game.abbreviation[*team], game.category[*team]));
+  const bool hasPlayed = id && std::ranges::any_of(m_listed, [&](std::size_t place) {
+                           const auto& teams = m_catalogue->games()[place].team;
+                           return teams[Side::Visitor] == *id || teams[Side::Home] == *id;
+                         });
+  return hasPlayed ? std::optional(shotsOfTeam(*m_catalogue, m_listed, *id)) : std::nullopt;
+}
+
 bool SeasonDesk::isOutdated() const {
   return m_season != nullptr &&
          (m_shown.team != m_choice.games.team || m_shown.position != m_choice.position ||

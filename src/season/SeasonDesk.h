@@ -33,6 +33,9 @@ class SeasonDesk {
   const std::vector<std::size_t>& listed() const { return m_listed; }
   std::optional<SeasonId> chosenTeam() const;
   const std::shared_ptr<const Season>& season() const { return m_season; }
+  // By zone in the games listed: of a team of that game, or without one of all teams. Nothing where no game
+  // is listed, or none of that team.
+  [[nodiscard]] std::optional<ShotSums> shotsBeside(const GameDetails& game, std::optional<Side> team) const;
 
   bool canApply(const SeasonChoice& choice) const { return hasCatalogue() && choice != m_choice; }
   bool canGenerate() const { return !m_listed.empty(); }

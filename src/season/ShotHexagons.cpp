@@ -62,4 +62,17 @@ ShotHexagons hexagonsOfPlayer(const GameCatalogue& catalogue, std::span<const Ga
   return hexagons;
 }
 
+ShotHexagons hexagonsOfTeam(const GameCatalogue& catalogue, std::span<const std::size_t> games, SeasonId team,
+                            const ShotSums& usual) {
+  ShotHexagons hexagons(usual);
+  for (const std::size_t place : games) {
+    const ListedGame& game = catalogue.games()[place];
+    for (const SeasonShot& shot : game.shots) {
+      if (game.team[game.players[shot.player].side] == team)
+        hexagons.add(shot);
+    }
+  }
+  return hexagons;
+}
+
 } // namespace hooptab

@@ -40,5 +40,8 @@ class ShotHexagons {
 [[nodiscard]] ShotHexagons hexagonsOfPlayer(const GameCatalogue& catalogue,
                                             std::span<const GameResult> results, SeasonId player,
                                             const ShotSums& usual);
+// `games` are places in the catalogue's games.
+[[nodiscard]] ShotHexagons hexagonsOfTeam(const GameCatalogue& catalogue, std::span<const std::size_t> games,
+                                          SeasonId team, const ShotSums& usual);
 
 } // namespace hooptab

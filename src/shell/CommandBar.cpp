@@ -112,6 +112,7 @@ QAction* CommandBar::makeAction(const Command& command) {
   QAction* action =
       command.kind == CommandKind::Menu ? dropDown(command.id).menuAction() : new QAction(&m_window);
   action->setObjectName(toQt(command.key));
+  action->setAutoRepeat(false); // a key that is held would open and close in turn
   action->setCheckable(command.kind == CommandKind::Toggle || command.kind == CommandKind::Choice);
   return action;
 }

@@ -175,6 +175,10 @@ MDI::MDI(const Workshop& workshop)
   connect(m_output, &ReportOutput::reported, this, &MDI::showMessage);
   connect(m_exports, &WindowExports::reported, this, &MDI::showMessage);
   connect(m_area, &QMdiArea::subWindowActivated, this, &MDI::showCommands);
+  connect(m_area, &QMdiArea::subWindowActivated, this, [this] {
+    if (frmVIEW* view = scorecard())
+      view->lookAtSeason();
+  });
   connect(m_area, &WindowArea::changed, this, &MDI::showCommands);
   connect(m_area, &WindowArea::added, this, [this](ChildWindow& child) {
     connect(&child, &ChildWindow::reported, this, [this](const QString& message) {
@@ -322,6 +326,10 @@ GameFileProblem MDI::showGame(const QString& path) {
   }
   auto view = std::make_unique<frmVIEW>(m_workshop.store, m_workshop.settings, m_workshop.texts);
   view->setFormulaReader(m_workshop.readFormula);
+  view->setSeasonShots([this](const GameDetails& game, std::optional<Side> team) {
+    const frmSTATS* window = season();
+    return window == nullptr ? std::nullopt : window->shotsBeside(game, team);
+  });
   if (const GameFileProblem problem = view->open(path); problem != GameFileProblem::None)
     return problem;
   addScorecard(view.release());

@@ -9,12 +9,15 @@
 #include "settings/CountWords.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
+#include "studies/HexagonChart.h"
 #include "studies/StudyTables.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QTabWidget>
+#include <utility>
 
 namespace hooptab {
 
@@ -49,9 +52,8 @@ TeamPanel::TeamPanel(const Texts& texts, QWidget* parent)
   parts->setObjectName(QStringLiteral("teamParts"));
   parts->setChildrenCollapsible(false);
   m_picture = new SeriesView(QStringLiteral("picMARGINS"), parts);
-  m_shots = new ZoneChart(QStringLiteral("picTEAMSHOTS"), texts, parts);
   parts->addWidget(m_picture);
-  parts->addWidget(m_shots);
+  parts->addWidget(makeShots());
   parts->setStretchFactor(0, 3);
   parts->setStretchFactor(1, 2);
   parts->setSizes({760, 540});
@@ -70,6 +72,19 @@ TeamPanel::TeamPanel(const Texts& texts, QWidget* parent)
   connect(m_team, &QComboBox::currentIndexChanged, this, &TeamPanel::showTeam);
   connect(m_picture, &SeriesView::valueAsked, this,
           [this](int value) { emit gameAsked(m_margins.points[static_cast<std::size_t>(value)].game); });
+}
+
+QWidget* TeamPanel::makeShots() {
+  auto* tabs = new QTabWidget(this);
+  tabs->setObjectName(QStringLiteral("teamShots"));
+  m_hexagons = new HexagonChart(QStringLiteral("picTEAMHEXAGONS"), m_texts, tabs);
+  m_shots = new ZoneChart(QStringLiteral("picTEAMSHOTS"), m_texts, tabs);
+  for (const auto& [page, text] :
+       {std::pair<QWidget*, Text>(m_hexagons, Text::TeamShots), {m_shots, Text::ShotChart}}) {
+    tabs->addTab(page, QString());
+    setTabTextNumber(*page, text);
+  }
+  return tabs;
 }
 
 QWidget* TeamPanel::makeTables() {
@@ -146,6 +161,7 @@ void TeamPanel::relabelPanel() {
 }
 
 void TeamPanel::applyColours() {
+  m_hexagons->update();
   m_shots->applyColours();
   m_picture->update();
 }
@@ -180,16 +196,20 @@ void TeamPanel::showTeam() {
   if (m_season == nullptr || m_team->currentIndex() < 0) {
     m_balance->setText(caption(m_texts, Text::NotGenerated));
     m_picture->show({}, {});
+    m_hexagons->showReason(caption(m_texts, Text::NotGenerated));
     return m_shots->showShots({}, {});
   }
   const SeasonStatistics& statistics = m_season->statistics();
   const SeasonTeamRow& team = statistics.teams()[static_cast<std::size_t>(m_team->currentIndex())];
   m_balance->setText(balanceText(team, m_texts));
-  for (QWidget* each : {static_cast<QWidget*>(m_picture), static_cast<QWidget*>(m_shots)})
+  for (QWidget* each :
+       {static_cast<QWidget*>(m_picture), static_cast<QWidget*>(m_hexagons), static_cast<QWidget*>(m_shots)})
     setExportTitle(*each, m_team->currentText());
   m_margins = seriesOfMargins(statistics, team.team);
   SeriesWithToolTips picture = pictureOfMargins(m_margins, team.team, *m_season, m_texts);
   m_picture->show(std::move(picture.drawing), std::move(picture.toolTips));
+  m_hexagons->showShots(
+      hexagonsOfTeam(m_season->catalogue(), statistics.games(), team.team, m_season->shots()).hexagons());
   m_shots->showShots(shotsOfTeam(m_season->catalogue(), statistics.games(), team.team), m_season->shots());
 }
 

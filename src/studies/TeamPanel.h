@@ -1,5 +1,5 @@
-// A team over the selected games: its balance, the margins of its games in order, its season shot chart, the
-// last games, how won and lost games differ, and which players do well together.
+// A team over the selected games: its balance, the margins of its games in order, its shots of the
+// season, the last games, how won and lost games differ, and which players do well together.
 #pragma once
 
 #include "season/GameSeries.h"
@@ -15,6 +15,7 @@ class QLabel;
 
 namespace hooptab {
 
+class HexagonChart;
 class SeriesView;
 class ZoneChart;
 
@@ -33,6 +34,7 @@ class TeamPanel : public QWidget {
   void gameAsked(std::size_t game); // its place in the catalogue
 
  private:
+  QWidget* makeShots();
   QWidget* makeTables();
   QWidget* makeTogether();
   void showTeam();
@@ -46,7 +48,8 @@ class TeamPanel : public QWidget {
   QComboBox* m_team;
   QLabel* m_balance;
   SeriesView* m_picture;
-  ZoneChart* m_shots;
+  HexagonChart* m_hexagons = nullptr;
+  ZoneChart* m_shots = nullptr;
   std::vector<std::size_t> m_games; // of the table of games, in the catalogue
   SeasonTableView* m_lastGames;
   SeasonTableView* m_splits;

@@ -44,6 +44,10 @@ class frmSTATS : public ChildWindow {
   bool isBusy() const { return m_task.isRunning(); }
   // What reports are made of; null before statistics were generated.
   const std::shared_ptr<const Season>& statistics() const { return m_desk.season(); }
+  // What a game's shots are compared with; see SeasonDesk.
+  std::optional<ShotSums> shotsBeside(const GameDetails& game, std::optional<Side> team) const {
+    return m_desk.shotsBeside(game, team);
+  }
   std::optional<SeasonId> chosenTeam() const { return m_desk.chosenTeam(); }
   std::shared_ptr<const SeasonPerson> chosenPerson() const; // player or line; null: nobody
   // What is in front, for whoever prints it.

@@ -111,7 +111,8 @@ TEST(GameTables, TellAGameItsPlayersAndItsEvents) {
 
 TEST(GameTables, TellWhereAShotWasTakenAndWhoHadAPartInIt) {
   const Tables tables(textOfGame(
-      "[PERIODE1]\n1=09:40,GF3,0-4,21,190\n2=09:40,SPF,1-7\n3=09:40,SA,0-05\n4=09:20,SBS,0-12\n5=09:20,GFGA,"
+      "[PERIODE1]\n1=09:40,GF3,0-4,21,190\n2=09:40,SPF,1-7\n3=09:40,SA,0-05\n4=09:20,SBS,0-12,S=1-07\n5=09:"
+      "20,GFGA,"
       "1-7,21,100\n"
       "6=09:10,GFGA,1-7,61,100\n7=09:10,SDR,0-4\n8=09:09,SBS,0-10\n9=09:00,GFG,0-4\n10=09:00,GFT,0-4\n"));
   const char* const names = "event value made assisted_by blocked_by metres_out metres_right metres zone";

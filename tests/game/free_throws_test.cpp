@@ -46,6 +46,9 @@ TEST(FreeThrows, AreThoseOfTheFoulsAtTheirClock) {
                     "5=05:00,GFT,0-4\n6=05:00,GFT,1-3\n7=05:00,GFT,1-3\n"),
             "1/1@3 1/1@2 1/-@1 2/-@1 1:2/- 0")
       << "a known award before one of which nobody said how many";
+  EXPECT_EQ(linksOf("1=05:00,SPF,0-4,D=1-3\n2=05:00,SPF,0-5,D=1-07\n3=05:00,GFT,1-7\n"),
+            "1/-@2 1:0/- 2:1/- 0")
+      << "7 is who drew a foul as 07";
   EXPECT_EQ(linksOf("1=05:00,SPF,0-4,F=0\n2=E05:00,SPF,0-4,F=2\n3=05:00,GFT,1-3\n"), "? 1");
 }
 

@@ -21,6 +21,13 @@ Game gameOf(const std::string& lines, const std::string& details = {}) {
   return gameOfText(textOfGame(kStart + lines, details));
 }
 
+std::vector<std::pair<int, int>> spansOf(const MarginFlow& flow) {
+  std::vector<std::pair<int, int>> spans;
+  for (const MarginFlow::Period& period : flow.periods)
+    spans.emplace_back(period.begin, period.end);
+  return spans;
+}
+
 TEST(MarginFlow, KnowsLeadsTiesAndChanges) {
   const MarginFlow flow =
       marginFlowOf(gameOf("3=09:00,GFG,0-4\n4=08:30,GFG,1-3\n5=08:00,GF3,1-3\n6=07:00,GF3,0-4\n"
@@ -49,10 +56,14 @@ TEST(MarginFlow, PeriodsStandBesideEachOtherWhateverWasRecordedOfThem) {
   const MarginFlow flow =
       marginFlowOf(gameOf("3=04:00,GFG,0-4\n[PERIODE2]\n4=09:00,GFG,0-4\n[PERIODE4]\n5=00:00,GFG,1-3\n"
                           "[PERIODE5]\n6=05:00,DEPART\n7=03:00,GFG,1-3\n"));
-  std::vector<std::pair<int, int>> spans;
-  for (const MarginFlow::Period& period : flow.periods)
-    spans.emplace_back(period.begin, period.end);
-  EXPECT_EQ(spans, (std::vector<std::pair<int, int>>{{0, 600}, {600, 1200}, {1800, 2400}, {2400, 2520}}));
+  using Spans = std::vector<std::pair<int, int>>;
+  EXPECT_EQ(spansOf(flow), (Spans{{0, 600}, {600, 1200}, {1800, 2400}, {2400, 2520}}));
+  EXPECT_EQ(spansOf(marginFlowOf(gameOf("[PERIODE5]\n3=05:00,DEPART\n4=03:00,GFG,1-3\n"))),
+            (Spans{{0, 600}, {2400, 2520}}))
+      << "periods without events stand before an overtime, too";
+  EXPECT_EQ(spansOf(marginFlowOf(gameOf("[PERIODE2]\n3=12:00,DEPART\n4=00:00,GFG,1-3\n"))),
+            (Spans{{0, 600}, {600, 1320}}))
+      << "a clock above the rules' length";
   const MarginFlow untimed = marginFlowOf(gameOf("3=00:00,GFG,0-4\n4=00:00,GFG,1-3\n", "DUREE=0\n"));
   EXPECT_FALSE(untimed.hasTime);
   EXPECT_LT(untimed.steps[0].at, untimed.steps[1].at);

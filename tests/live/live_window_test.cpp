@@ -578,7 +578,15 @@ TEST_F(LiveWindowTest, TheWindowOfTheBenchComesBackAsItWasLeft) {
   bench.resize(811, 533);
   QTest::mouseClick(&find<QToolButton>("cmdBENCHTEAM(1)"), Qt::LeftButton);
   window->switchBench();
+  EXPECT_TRUE(bench.isVisible()) << "pressed twice, as quickly as a double press";
+  const int usual = QApplication::doubleClickInterval();
+  QApplication::setDoubleClickInterval(0);
+  bench.showMinimized();
+  window->switchBench();
+  EXPECT_TRUE(bench.isVisible() && !bench.isMinimized());
+  window->switchBench();
   EXPECT_FALSE(bench.isVisible());
+  QApplication::setDoubleClickInterval(usual);
   const QByteArray left = window->arrangement();
   window = std::make_unique<frmLIVE>(store, settings, texts, dialogs, time);
   open(path);

@@ -21,8 +21,8 @@ const std::string kGame =
 
 class GameSheetTest : public testing::Test {
  protected:
-  Report sheet(const std::string& details = {}) const {
-    const Game game = gameOfText(textOfGame(kGame, details));
+  Report sheet(const std::string& details = {}, const std::string& more = {}) const {
+    const Game game = gameOfText(textOfGame(kGame + more, details));
     return gameSheet({game, tallied(game)}, texts);
   }
   static std::string cell(const ReportTable& table, std::size_t row, std::string_view column) {
@@ -49,6 +49,11 @@ TEST_F(GameSheetTest, StartersStandFirstThenTheBenchAndWhoDidNotPlayInOneRow) {
   EXPECT_EQ(cell(box, 5, "plusMinus"), "−2");
   EXPECT_EQ(cell(box, 0, "3P"), "1/1");
   EXPECT_EQ(cell(box, 7, "PTS"), "3");
+  EXPECT_EQ(cell(box, 0, "TF"), "none");
+  const Report withTechnical = sheet({}, "12=00:00,SPF,0-5\n13=00:00,STF,0-5\n14=00:00,XCF,0,K=C\n");
+  const ReportTable& fouls = *tables(withTechnical).at(1);
+  EXPECT_EQ(cell(fouls, 0, "PF") + cell(fouls, 0, "TF"), "11");
+  EXPECT_EQ(cell(fouls, 8, "PF") + cell(fouls, 8, "TF"), "12") << "the coach's are the team's";
 }
 
 TEST_F(GameSheetTest, TheBetterValueIsStrongAlsoWhereLessIsBetter) {

@@ -120,6 +120,21 @@ TEST_F(GamePageTest, ComparedAreTheFourFactorsThenWhatElseTellsTheTeamsApart) {
   EXPECT_FALSE(rowOf(teams, texts.text(Text::TotalRebounds)).better.has_value()) << "nobody has one";
 }
 
+TEST_F(GamePageTest, TheTeamsAreComparedWhereItWasCloseAtTheEnd) {
+  const auto clutch = [this](bool isFinished) {
+    GameDetails details = shown.whole()->game.details;
+    details.isFinished = isFinished;
+    return compareClutch(shown.insight(), details, texts);
+  };
+  EXPECT_TRUE(clutch(false).empty()) << "nobody knows yet";
+  EXPECT_EQ(clutch(true).at(0).words, "Last 5 minutes, within 5 points: never");
+  game.add(4, 300, {",GFG,0-5"});
+  game.add(4, 240, {",GF3,1-7"});
+  readAgain();
+  EXPECT_EQ(clutch(false).at(0).words, "Last 5 minutes, within 5 points · 01:00");
+  EXPECT_EQ(clutch(false).at(1).text, (PerSide<std::string>{"2", "3"}));
+}
+
 TEST_F(GamePageTest, PlayersAreComparedByCountsAndRates) {
   const auto basis = [&](int player) {
     return basisOfPlayer(*shown.shown(), shown.insight(), Side::Visitor, player);

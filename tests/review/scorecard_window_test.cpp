@@ -2,6 +2,7 @@
 #include "court/CourtView.h"
 #include "game/EventListModel.h"
 #include "insight/FlowPanel.h"
+#include "review/CompactWidths.h"
 #include "review/ComparisonBars.h"
 #include "review/frmVIEW.h"
 #include "scorecard/BoxTable.h"
@@ -348,6 +349,33 @@ TEST_F(ScorecardWindowTest, ColumnsAreChosenMovedAndRemembered) {
   EXPECT_EQ(heads(*window), usual);
 }
 
+TEST_F(ScorecardWindowTest, AColumnKeepsTheWidthToWhichItsEdgeIsDragged) {
+  window->showPage(Page::Game);
+  window->resize(1800, 700); // more than the columns need
+  QCoreApplication::processEvents();
+  auto& box = find<QTableView>("lvwBOX(0)");
+  const auto& other = find<QTableView>("lvwBOX(1)");
+  QHeaderView& head = *box.horizontalHeader();
+  const int before = box.columnWidth(5);
+  const int beside = box.columnWidth(6);
+  const QPoint edge(head.sectionViewportPosition(5) + before - 1, head.height() / 2);
+  QTest::mousePress(head.viewport(), Qt::LeftButton, {}, edge);
+  QTest::mouseMove(head.viewport(), edge + QPoint(23, 0));
+  QTest::mouseRelease(head.viewport(), Qt::LeftButton, {}, edge + QPoint(23, 0));
+  EXPECT_EQ(box.columnWidth(5), before + 23);
+  EXPECT_EQ(other.columnWidth(5), before + 23) << "both boxes have the same columns";
+  EXPECT_EQ(box.columnWidth(6), beside);
+  window->refresh();
+  EXPECT_EQ(box.columnWidth(5), before + 23);
+  frmVIEW next(game.store, settings, texts);
+  next.restoreArrangement(window->arrangement());
+  ASSERT_EQ(next.open(toQt(game.file.path())), GameFileProblem::None);
+  EXPECT_EQ(next.findChild<QTableView*>(QStringLiteral("lvwBOX(0)"))->columnWidth(5), before + 23);
+  QTest::mouseDClick(head.viewport(), Qt::LeftButton, {}, edge + QPoint(23, 0));
+  EXPECT_LT(box.columnWidth(5), before) << "as wide as it needs, without the room that was left";
+  EXPECT_TRUE(widthsOfText("MIN=12,PTS,=900,3P=x,2P=1100,").size() == 1) << "only what can be a width";
+}
+
 TEST_F(ScorecardWindowTest, ShotsAndComparisonsFollowTheirChoices) {
   window->showPage(Page::Shots);
   const auto drawn = [&](const char* court) { return find<CourtView>(court).marks().size(); };
@@ -356,7 +384,20 @@ TEST_F(ScorecardWindowTest, ShotsAndComparisonsFollowTheirChoices) {
   EXPECT_EQ(drawn("courtSHOTS(0)"), 1U);
   EXPECT_EQ(drawn("courtSHOTS(1)"), 1U);
   find<QToolButton>("cmdZONES").click();
-  EXPECT_TRUE(find<QComboBox>("cmbAVERAGE").isVisible());
+  auto& average = find<QComboBox>("cmbAVERAGE");
+  EXPECT_TRUE(average.isVisible());
+  auto& noSeason = find<QLabel>("lblNOSEASON");
+  EXPECT_FALSE(noSeason.isVisible());
+  average.setCurrentIndex(2); // the team's own season
+  EXPECT_TRUE(noSeason.isVisible()) << "says how to get one";
+  std::vector<std::optional<Side>> asked;
+  window->setSeasonShots([&](const GameDetails&, std::optional<Side> team) {
+    asked.push_back(team);
+    return std::optional<ShotSums>(std::in_place);
+  });
+  window->lookAtSeason();
+  EXPECT_FALSE(noSeason.isVisible());
+  EXPECT_EQ(asked, (std::vector<std::optional<Side>>{Side::Visitor, Side::Home}));
 
   window->showPage(Page::Compare);
   const auto compared = [&](const char* words) {

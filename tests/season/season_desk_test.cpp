@@ -123,6 +123,13 @@ TEST_F(SeasonDeskTest, SumsShotsByZone) {
   ASSERT_TRUE(person.shots);
   EXPECT_EQ(zone(*person.shots, ChartZone::UnderBasket).made, 1);
   EXPECT_EQ(person.results.size(), 3U);
+  GameDetails game;
+  game.abbreviation = {"PAN", "LYNX"};
+  game.category = {"A", "A"};
+  EXPECT_EQ(zone(*desk.shotsBeside(game, Side::Visitor), ChartZone::UnderBasket).made, 1);
+  EXPECT_FALSE(desk.shotsBeside(game, Side::Home)) << "it did not play here";
+  EXPECT_EQ(zone(*desk.shotsBeside(game, std::nullopt), ChartZone::UnderBasket).attempted, 2);
+  EXPECT_FALSE(SeasonDesk().shotsBeside(game, std::nullopt));
   EXPECT_DOUBLE_EQ(differenceInPoints({3, 4}, {1, 2}), 25);
   EXPECT_DOUBLE_EQ(differenceInPoints({0, 4}, {1, 2}), -50);
   EXPECT_DOUBLE_EQ(differenceInPoints({0, 0}, {1, 2}), 0) << "no attempts say nothing";

@@ -82,6 +82,9 @@ TEST(ShotHexagons, CompareEachPlaceWithWhatAllGetFromThere) {
   EXPECT_NEAR(shots[0].difference(), 0, 1e-9) << "the only one from there";
   EXPECT_EQ(shots[1].points, 4);
   EXPECT_NEAR(shots[1].difference(), 1, 1e-9) << "two points a shot, one is usual";
+  const auto ofTeam = hexagonsOfTeam(season.catalogue(), statistics.games(), ann.team, usual);
+  EXPECT_EQ(ofTeam.mostAttempts(), 4) << "her own and those of the others";
+  EXPECT_TRUE(hexagonsOfTeam(season.catalogue(), statistics.games(), ann.team + 1, usual).hexagons().empty());
 }
 
 } // namespace

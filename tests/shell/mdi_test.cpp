@@ -599,10 +599,8 @@ TEST_F(MainWindowTest, RecordsAGameAndStopsTheClockBeforeItCloses) {
   EXPECT_FALSE(action("LIVEOpen").isEnabled() || action("LIVENew").isEnabled()) << "not while the clock runs";
   action("LIVEMouse").trigger();
   EXPECT_EQ(setting("SAVEREBOUND"), "True");
-  for (const bool isOpen : {true, false}) {
-    action("LIVEBench").trigger();
-    EXPECT_EQ(live->findChild<QWidget*>(u"frmBENCH"_s)->isVisible(), isOpen);
-  }
+  action("LIVEBench").trigger();
+  EXPECT_TRUE(live->findChild<QWidget*>(u"frmBENCH"_s)->isVisible());
   for (const QString& referees : {u"A. Whistle"_s, QString()}) {
     useDialog<frmSHEET>("SHEET", [&](frmSHEET& sheet) {
       sheet.findChild<QLineEdit*>(u"txtARBITRES"_s)->setText(referees);
