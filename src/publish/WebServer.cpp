@@ -151,7 +151,8 @@ void WebServer::Loop::take(tcp::socket socket) {
     connection->start();
     return;
   }
-  const WebReply full{wordsOfWeb(503, "There are too many connections."), true, false, {}};
+  const WebReply full{
+      wordsOfWeb(503, "There are too many connections.\nIl y a trop de connexions."), true, false, {}};
   const std::string text = headerOf(full, webNow()) + *full.answer.body;
   socket.non_blocking(true, error);
   socket.write_some(asio::buffer(text), error);
