@@ -76,10 +76,15 @@ class WebClient {
     result.body = take(bytes);
     return result;
   }
-  // Whether the server closes, whatever it says before.
-  bool seesTheEnd() {
+  // All that comes until the end.
+  std::string rest() {
     while (receive()) {
     }
+    return take(m_received.size());
+  }
+  // Whether the server closes, whatever it says before.
+  bool seesTheEnd() {
+    (void)rest();
     return m_isClosed;
   }
 
