@@ -107,6 +107,7 @@ void WebConnection::awaitRequest() {
 }
 
 void WebConnection::readHeader() {
+  m_keepsOpen = false;
   m_parser.emplace();
   m_parser->header_limit(static_cast<std::uint32_t>(m_hall.limits.headerBytes));
   http::async_read_header(

@@ -215,6 +215,8 @@ TEST_F(WebServerTest, EachListenerHasEveryMessageOnceInOrder) {
   again = nullptr;
   EXPECT_TRUE(comesTrue([&] { return server->viewers() == 1; }));
   WebClient head(server->port());
+  head.ask("GET /");
+  EXPECT_EQ(head.answer().field("Connection"), "keep-alive");
   head.ask("HEAD /events?lastEventId=1");
   EXPECT_EQ(head.answer().field("X-Accel-Buffering"), "no");
   EXPECT_TRUE(head.seesTheEnd());
