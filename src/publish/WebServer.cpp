@@ -179,7 +179,7 @@ void WebServer::Loop::tick() {
 }
 
 void WebServer::Loop::post(std::function<void(WebSource&)> work) {
-  asio::post(m_context, [this, work = std::move(work)] { guarded([&] { work(*m_source); }); });
+  asio::post(m_context, [this, work = std::move(work)] { work(*m_source); });
 }
 
 WebServer::WebServer(WebOptions options, std::unique_ptr<WebSource> source)

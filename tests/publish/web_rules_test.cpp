@@ -77,6 +77,7 @@ TEST(WebPassTest, KnowsThePhraseAlone) {
   EXPECT_EQ(pass.judge(kRight, "a", kNow), Right);
   EXPECT_EQ(pass.judge(kWrong, "a", kNow), Wrong);
   EXPECT_EQ(pass.judge("Basic eDpzZWNyZXQ6w6lz", "a", kNow), Wrong); // begins with it
+  EXPECT_EQ(pass.judge("Basic eDpzZWNyZXc6w6k=", "a", kNow), Wrong); // as long, one letter is another
   for (const char* none : {"", "Basic", "Basic ", "Bearer eDpz", "Basic ****", "Basic eHNlY3JldA=="})
     EXPECT_EQ(pass.judge(none, "a", kNow), Missing) << none;
   EXPECT_EQ(WebPass("").judge("Basic eDo=", "a", kNow), Wrong); // nobody knows what there is not

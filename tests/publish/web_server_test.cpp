@@ -138,7 +138,7 @@ TEST_F(WebServerTest, WhatItDoesNotTakeIsRefusedAndClosed) {
       {"GET /../../etc/passwd HTTP/1.1\r\n" + host + "\r\n", 400},
       {"GET http://localhost/ HTTP/1.1\r\n" + host + "\r\n", 400},
       {"GET /" + std::string(3'000, 'a') + " HTTP/1.1\r\n" + host + "\r\n", 414},
-      {"GET / HTTP/1.1\r\n" + host + "X: " + std::string(9'000, 'a') + "\r\n\r\n", 431},
+      {"GET / HTTP/1.1\r\n" + host + "X: " + std::string(40'000, 'a') + "\r\n\r\n", 431},
       {"GET / HTTP/1.1\r\nno field\r\n\r\n", 400},
       {"\x16\x03\x01 not words at all\r\n\r\n", 400},
   };
@@ -263,6 +263,12 @@ TEST_F(WebServerTest, WaitsHaveAnEnd) {
   const std::unique_ptr<WebClient> deaf = std::move(client);
   EXPECT_TRUE(comesTrue([&] { return comesIn("/"); }));
   EXPECT_LT(deaf->rest().size(), 3'000'000U);
+
+  options.limits.idleTime = 10min; // of which nothing is given to a request that has begun
+  serve();
+  EXPECT_TRUE(comesTrue([&] { return comesIn("/"); }));
+  client->send("GET");
+  EXPECT_TRUE(client->seesTheEnd());
 }
 
 TEST_F(WebServerTest, OneAddressDoesNotTakeAllConnections) {
@@ -312,7 +318,7 @@ TEST_F(WebServerTest, SaysWhyItCannotListen) {
   serve();
   const std::pair<WebOptions, WebServerProblem> cases[] = {
       {{"127.0.0.1", server->port(), {}, {}, {}}, WebServerProblem::PortTaken},
-      {{"192.0.2.1", 0, {}, {}, {}}, WebServerProblem::AddressNotHere},
+      {{"203.0.113.77", 0, {}, {}, {}}, WebServerProblem::AddressNotHere},
       {{"localhost", 0, {}, {}, {}}, WebServerProblem::NoAddress}};
   for (const auto& [asked, problem] : cases) {
     try {
