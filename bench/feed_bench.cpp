@@ -196,7 +196,7 @@ void Clients::readUntil(Done done) {
 }
 
 void Clients::read(Client& client) {
-  std::array<char, 64 * 1024> bytes; // is filled before it is read
+  std::array<char, 65'536> bytes; // is filled before it is read
   const ssize_t count = ::recv(client.socket, bytes.data(), bytes.size(), MSG_DONTWAIT);
   if (count <= 0)
     fail("a client was cut off");

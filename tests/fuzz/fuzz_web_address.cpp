@@ -2,6 +2,7 @@
 // comes out the same when it is written plainly once more.
 #include "publish/WebAddress.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace hooptab;
@@ -42,8 +43,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     again += '/' + escaped(part);
     begin = end;
   }
-  for (const unsigned char letter : request.path)
-    require(letter >= 0x20 && letter != 0x7F && letter != '\\');
+  for (const char letter : request.path)
+    require(static_cast<unsigned char>(letter) >= 0x20 && letter != 0x7F && letter != '\\');
   char separator = '?';
   for (const auto& [name, value] : request.query) {
     require(!name.empty());

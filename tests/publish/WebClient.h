@@ -90,7 +90,7 @@ class WebClient {
 
  private:
   bool receive() {
-    std::array<char, 16 * 1024> bytes = {};
+    std::array<char, 16'384> bytes = {};
     const auto count = ::recv(m_socket, bytes.data(), bytes.size(), 0);
     m_isClosed = count == 0 || (count < 0 && errno == ECONNRESET);
     if (count <= 0)
