@@ -107,6 +107,7 @@ void WebConnection::awaitRequest() {
 }
 
 void WebConnection::readHeader() {
+  m_keepsOpen = false;
   m_parser.emplace();
   m_parser->header_limit(static_cast<std::uint32_t>(m_hall.limits.headerBytes));
   http::async_read_header(
@@ -141,8 +142,8 @@ WebAsked WebConnection::asked() const {
   asked.authorization = field(http::field::authorization);
   asked.ifNoneMatch = field(http::field::if_none_match);
   asked.lastEventId = field("Last-Event-ID");
-  asked.hasBody = m_parser->content_length().value_or(0) > 0 || m_parser->chunked() ||
-                  request.count(http::field::transfer_encoding) > 0;
+  asked.hasBody =
+      m_parser->content_length().value_or(0) > 0 || request.count(http::field::transfer_encoding) > 0;
   for (const char* name : {"Forwarded", "X-Forwarded-For", "X-Forwarded-Host", "X-Real-IP", "Via"})
     asked.isForwarded = asked.isForwarded || request.count(name) > 0;
   asked.keepsOpen = m_parser->keep_alive();

@@ -6,6 +6,7 @@ namespace hooptab {
 
 namespace {
 
+// The words are for whoever meets them in a browser, whose language is not known here.
 WebReply refused(int status, std::string_view words, std::string extra = {}) {
   return {wordsOfWeb(status, words), true, false, std::move(extra)};
 }
@@ -49,7 +50,8 @@ std::optional<WebReply> WebDesk::refusal(const WebAsked& asked) const {
   if (asked.host.empty())
     return refused(400, "The request names no host.");
   if (!m_hosts.areOurs(asked.host, asked.arrivedAt))
-    return refused(421, "This machine is not known by that name.");
+    return refused(421, "This machine is not known by that name.\n"
+                        "Cet ordinateur n'est pas connu sous ce nom.");
   return std::nullopt;
 }
 
@@ -58,17 +60,19 @@ std::optional<WebReply> WebDesk::privateRefusal(const WebAsked& asked, WebPass::
   if (!m_pass.isSet()) {
     if (asked.isPeerLoopback && !asked.isForwarded && WebHosts::isLoopback(asked.host))
       return std::nullopt;
-    return refused(403, "Without a pass phrase this is only for the machine that records the game.");
+    return refused(403, "Without a pass phrase this is only for the machine that records the game.\n"
+                        "Sans phrase de passe, ceci est réservé à l'ordinateur qui enregistre la partie.");
   }
   switch (m_pass.judge(asked.authorization, asked.peer, now)) {
   case WebPass::Verdict::Right: return std::nullopt;
   case WebPass::Verdict::Missing:
   case WebPass::Verdict::Wrong: break;
   case WebPass::Verdict::TooOften:
-    return refused(429, "Too many wrong pass phrases: wait.",
+    return refused(429,
+                   "Too many wrong pass phrases: wait.\nTrop de phrases de passe erronées\u00a0: patientez.",
                    "Retry-After: " + std::to_string(m_pass.pauseOf(asked.peer, now).count()) + "\r\n");
   }
-  return refused(401, "This needs the pass phrase.",
+  return refused(401, "This needs the pass phrase.\nLa phrase de passe est requise.",
                  "WWW-Authenticate: Basic realm=\"HOOPTAB\", charset=\"UTF-8\"\r\n");
 }
 

@@ -151,7 +151,8 @@ void WebServer::Loop::take(tcp::socket socket) {
     connection->start();
     return;
   }
-  const WebReply full{wordsOfWeb(503, "There are too many connections."), true, false, {}};
+  const WebReply full{
+      wordsOfWeb(503, "There are too many connections.\nIl y a trop de connexions."), true, false, {}};
   const std::string text = headerOf(full, webNow()) + *full.answer.body;
   socket.non_blocking(true, error);
   socket.write_some(asio::buffer(text), error);
@@ -178,7 +179,7 @@ void WebServer::Loop::tick() {
 }
 
 void WebServer::Loop::post(std::function<void(WebSource&)> work) {
-  asio::post(m_context, [this, work = std::move(work)] { guarded([&] { work(*m_source); }); });
+  asio::post(m_context, [this, work = std::move(work)] { work(*m_source); });
 }
 
 WebServer::WebServer(WebOptions options, std::unique_ptr<WebSource> source)
