@@ -3,6 +3,7 @@
 
 #include "printing/PageFormat.h"
 #include "report/ReportText.h"
+#include "settings/Text.h"
 #include "storage/FileSystem.h"
 #include "storage/TaskWatch.h"
 
@@ -42,6 +43,8 @@ enum class ReportForm { Pdf, Xlsx, Csv, CsvFrench, Html, Png };
 // Why a file of so many bytes could not be written there, as far as looking at the place tells.
 enum class WriteProblem { IsFolder, NoFolder, NoRight, NoRoom, Unknown };
 [[nodiscard]] WriteProblem writeProblem(const std::string& path, std::size_t bytes);
+// What the user is told of it; "XXX" is the path.
+[[nodiscard]] Text textOfProblem(WriteProblem problem);
 
 // Vector graphics with text that can be searched. Empty when cancelled.
 [[nodiscard]] std::string reportPdf(const Report& report, const PageFormat& format,
