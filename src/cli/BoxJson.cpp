@@ -83,11 +83,9 @@ void writeTeam(JsonWriter& json, const Scorecard& card, const GameInsight& insig
       if (row.kind == BoxRowKind::Total)
         continue;
       const auto entry = static_cast<std::size_t>(row.entry);
-      const bool isPlayer = view == BoxView::Players;
-      const CourtShare share = isPlayer ? insight.players[team][entry] : insight.ofLine(team, row.entry);
-      const bool isKnown = insight.isFromEvents && state.wereOnCourt[team] != 0 && (!isPlayer || entry > 0);
-      writeRow(json, row, state.lines[team][entry].list, isPlayer ? &state.extras[team][entry] : nullptr,
-               isKnown ? std::optional(share.plusMinus(team)) : std::nullopt);
+      writeRow(json, row, state.lines[team][entry].list,
+               view == BoxView::Players ? &state.extras[team][entry] : nullptr,
+               plusMinusOf(insight, state, team, row));
     }
     json.endArray();
   }
