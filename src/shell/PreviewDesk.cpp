@@ -5,13 +5,13 @@
 #include "printing/ReportOutput.h"
 #include "printing/frmWEEKEND.h"
 #include "review/frmVIEW.h"
-#include "settings/Settings.h"
 #include "shell/CommandBar.h"
 #include "shell/PrintOffers.h"
 #include "shell/WindowArea.h"
 #include "shell/WindowMemory.h"
 #include "studies/frmSTATS.h"
 
+#include <QFileInfo>
 #include <QMdiSubWindow>
 #include <utility>
 
@@ -100,8 +100,10 @@ void PreviewDesk::saveGames(const frmSTATS& window) {
     paths.push_back(game->path);
     dates.push_back(game->date);
   }
-  const std::string folder = m_workshop.memory.exportFolder();
-  frmWEEKEND dialog(std::move(paths), toQt(folder.empty() ? m_workshop.settings.lastGameFolder : folder),
+  QString folder = toQt(m_workshop.memory.exportFolder());
+  if (!QFileInfo(folder).isDir()) // none yet, or it is gone
+    folder = QFileInfo(toQt(paths.front())).absolutePath();
+  frmWEEKEND dialog(std::move(paths), folder,
                     toQt(nameOfGames(std::move(dates), std::string(texts.text(Text::WeekendSummary)))),
                     m_workshop.store.files(), texts, m_workshop.dialogs, &m_window);
   if (dialog.exec() != QDialog::Accepted)
