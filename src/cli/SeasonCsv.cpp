@@ -1,7 +1,9 @@
 #include "cli/SeasonReports.h"
 #include "season/SeasonColumns.h"
+#include "storage/Module1.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace hooptab {
 
@@ -24,6 +26,7 @@ class SeasonCsv {
       header.push_back(column.headerText == Text::None ? std::string(column.name)
                                                        : word(column.name, column.headerText));
     header.push_back(word("underMinimum", Text::UnderMinimum));
+    header.emplace_back("plusMinus");
     m_csv += csvRow(header, m_reader);
     addRows(SeasonTable::Players);
     addRows(SeasonTable::Lines);
@@ -49,9 +52,21 @@ class SeasonCsv {
                               ? std::string()
                               : seasonCell(row, column.index, view, m_texts));
         cells.emplace_back(m_minimum.isUnder(row, table, view) ? "1" : "0");
+        cells.push_back(plusMinus(row, view));
         m_csv += csvRow(cells, m_reader);
       }
     }
+  }
+
+  // With the minus of a number; empty where it cannot be known.
+  static std::string plusMinus(const SeasonRow& row, SeasonView view) {
+    const std::optional<double> value = plusMinusOf(row, view);
+    if (!value)
+      return {};
+    int scale = 1;
+    for (int decimal = 0; decimal < plusMinusDecimals(view); ++decimal)
+      scale *= 10;
+    return Module1::quotientText(std::lround(*value * scale), scale, plusMinusDecimals(view));
   }
 
   const SeasonStatistics& m_statistics;

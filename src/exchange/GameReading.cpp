@@ -4,6 +4,7 @@
 #include "game/EventDetails.h"
 #include "game/PlayerIds.h"
 #include "game/WallClock.h"
+#include "insight/ShotOrigins.h"
 #include "storage/Module1.h"
 
 #include <algorithm>
@@ -19,13 +20,16 @@ constexpr int kHundred = 100;
 class Reading {
  public:
   Reading(const CountedGame& counted, const ProfileText& text)
-      : m_own(counted.game), m_count(counted.game), m_times(readWallClock(text, counted.game.details.id)) {
+      : m_own(counted.game), m_count(counted.game), m_times(readWallClock(text, counted.game.details.id)),
+        m_origins(shotOriginsOf(counted.game)) {
     readDetails();
     for (const Side team : kSides)
       readTeam(team, readPlayerIds(text, team));
+    std::size_t place = 0;
     for (const GameEvent& event : m_own.events) {
       if (!event.isDeleted && event.isUnderstood)
-        take(event);
+        take(event, place);
+      ++place;
     }
     endPeriod(m_own.details.isFinished);
   }
@@ -110,7 +114,7 @@ class Reading {
     return static_cast<int>(place);
   }
 
-  void take(const GameEvent& event) {
+  void take(const GameEvent& event, std::size_t place) {
     if (event.period != m_period) {
       endPeriod(true);
       m_period = event.period;
@@ -122,7 +126,7 @@ class Reading {
     else if (event.code == EventCode::DEPART)
       m_hasStarted = true;
     else
-      record(event);
+      record(event, place);
   }
   void endPeriod(bool isPlayedOut) {
     if (m_period > 0 && (isPlayedOut || m_clockSeconds == 0))
@@ -167,7 +171,7 @@ class Reading {
     addAll(ForeignKind::In, now, before);
   }
 
-  void record(const GameEvent& own) {
+  void record(const GameEvent& own, std::size_t place) {
     m_hasStarted = true;
     ForeignEvent event;
     event.code = own.code;
@@ -179,6 +183,10 @@ class Reading {
       event.other = doerOf(own.jumper(Side::Home));
     readDetailsOf(own, event);
     event.belongsTo = partnerOf(event);
+    if (own.isShot()) {
+      const OriginOfShot& origin = m_origins[place];
+      event.origin = {origin.isInPaint, origin.isSecondChance, origin.isFromTurnover};
+    }
     if (const auto time = m_times.find(own.number); time != m_times.end())
       event.wallClock = time->second;
     m_game.events.push_back(std::move(event));
@@ -241,6 +249,7 @@ class Reading {
   const Game& m_own;
   OwnCount m_count;
   std::map<int, std::int64_t> m_times;
+  std::vector<OriginOfShot> m_origins; // by place in our own list
   ForeignGame m_game;
   PerSide<std::set<int>> m_onCourt = {};
   int m_period = 0;

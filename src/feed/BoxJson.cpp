@@ -111,9 +111,8 @@ class BoxJson {
       m_json.member("BA", state.extras[team][entry].blocksAgainst);
     }
     m_json.name("plusMinus");
-    if (m_insight.isFromEvents && state.wereOnCourt[team] != 0 && (!isPlayer || entry > 0))
-      m_json.value(
-          (isPlayer ? m_insight.players[team][entry] : m_insight.ofLine(team, row.entry)).plusMinus(team));
+    if (const std::optional<int> plusMinus = plusMinusOf(m_insight, state, team, row))
+      m_json.value(*plusMinus);
     else
       m_json.null();
     if (isPlayer && m_parts.ofPlayer)

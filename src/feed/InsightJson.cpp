@@ -31,6 +31,16 @@ void writeNumber(JsonWriter& json, std::string_view name, const std::optional<in
 
 } // namespace
 
+std::optional<int> plusMinusOf(const GameInsight& insight, const GameState& state, Side team,
+                               const BoxRow& row) {
+  const bool isPlayer = row.kind == BoxRowKind::Player;
+  const bool isLine = row.kind == BoxRowKind::Line || row.kind == BoxRowKind::OtherLines;
+  if (!insight.isFromEvents || state.wereOnCourt[team] == 0 || (!isPlayer && !isLine))
+    return std::nullopt;
+  return isPlayer ? insight.players[team][static_cast<std::size_t>(row.entry)].plusMinus(team)
+                  : insight.ofLine(team, row.entry).plusMinus(team);
+}
+
 void writeTeamInsight(JsonWriter& json, const GameInsight& insight, const MarginFlow& flow,
                       const CountedGame& counted, Side team) {
   const auto fromEvents = [&insight](int number) {

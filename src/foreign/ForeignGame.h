@@ -72,6 +72,13 @@ enum class ForeignKind : std::uint8_t {
   PeriodEnd, // that was played to its end
 };
 
+// Of a field goal or free throw, made or missed.
+struct ShotOrigin {
+  bool isInPaint = false; // a two-pointer from inside the box; without a place one at the basket by its kind
+  bool isSecondChance = false; // after an offensive rebound of the same possession, the team's own included
+  bool isFromTurnover = false; // in the possession that follows the other team's turnover
+};
+
 struct ForeignEvent {
   ForeignKind kind = ForeignKind::Event;
   EventCode code = EventCode::Unknown; // never DEPART and ARRET: they follow from all the others
@@ -91,6 +98,7 @@ struct ForeignEvent {
   int belongsTo =
       -1; // place in the list of what it goes with: of an assist or a block its shot, of a rebound the
           // shot or throw, of a steal the turnover, of a free throw the foul; -1: not said
+  std::optional<ShotOrigin> origin = {}; // of a shot, where its source tells it
 };
 
 struct ForeignGame {

@@ -155,7 +155,7 @@ std::vector<ShotOrigin> shotOrigins(const ForeignGame& game) {
     if (event.kind == ForeignKind::PeriodEnd)
       possession.end();
     else if (isShot(event))
-      origins[i] = possession.shoot(event);
+      origins[i] = event.origin.value_or(possession.shoot(event));
     else if (event.kind == ForeignKind::Event)
       possession.take(event);
   }

@@ -9,13 +9,7 @@
 
 namespace hooptab {
 
-// Of a field goal or free throw, made or missed.
-struct ShotOrigin {
-  bool isInPaint = false; // a two-pointer from inside the box; without a place one at the basket by its kind
-  bool isSecondChance = false; // after an offensive rebound of the same possession, the team's own included
-  bool isFromTurnover = false; // in the possession that follows the other team's turnover
-};
-// By place in the list of events.
+// By place in the list of events: as each shot tells it; of those that do not, by the order of the events.
 [[nodiscard]] std::vector<ShotOrigin> shotOrigins(const ForeignGame& game);
 
 struct ScoreFlow {

@@ -1,8 +1,8 @@
 #include "insight/GameInsight.h"
 
-#include "game/EventDetails.h"
 #include "game/Tally.h"
 #include "insight/Possessions.h"
+#include "insight/ShotOrigins.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -10,104 +10,6 @@
 namespace hooptab {
 
 namespace {
-
-// The box with its lines, in the whole units in which places are written: 5.8 by 4.9 m.
-constexpr float kPaintLength = 77;
-constexpr float kPaintTop = 67;
-constexpr float kPaintBottom = 133;
-
-bool isInPaint(const GameEvent& shot) {
-  if (shot.code == EventCode::GF3 || shot.code == EventCode::GFT)
-    return false;
-  if (!shot.hasPlace)
-    return shot.code != EventCode::GFG;
-  return shot.x <= kPaintLength && shot.y >= kPaintTop && shot.y <= kPaintBottom;
-}
-
-// Where points come from, as far as the order of the events tells.
-class Origins {
- public:
-  Origins(const Game& game, PerSide<PointOrigins>& origins)
-      : m_hasTime(game.details.minutesPerPeriod > 0), m_origins(origins) {}
-
-  // An event, and whose possession it belongs to.
-  void take(const GameEvent& event, const Possessions::Stand& stand) {
-    if (event.period != m_period) {
-      m_period = event.period;
-      m_gained.reset();
-      m_lastClock.reset();
-      m_fromTurnover = m_secondChance = 0;
-    }
-    if (stand.number != m_possession) {
-      m_possession = stand.number;
-      m_gained = m_lastClock;
-    }
-    // A whistle after the ball has changed hands gives it to nobody anew.
-    if (stand.number > 0 && !event.isClock() && event.code != EventCode::XTO && event.code != EventCode::XAR)
-      m_lastClock = event.clockSeconds;
-    if (event.code == EventCode::STO || event.code == EventCode::XTV)
-      m_fromTurnover = stand.number + 1;
-    else if (event.code == EventCode::SOR || event.code == EventCode::XOR)
-      takeRebound(event, stand);
-    else if (event.isShot())
-      takeShot(event, stand);
-  }
-
- private:
-  void takeRebound(const GameEvent& rebound, const Possessions::Stand& stand) {
-    m_before = m_secondChance;
-    m_secondChance = stand.number;
-    m_reboundOfThrow = m_isThrow ? std::optional(rebound.clockSeconds) : std::nullopt;
-  }
-  void takeShot(const GameEvent& shot, const Possessions::Stand& stand) {
-    const Side team = *shot.player.team;
-    // Where the ball stays with who has scored by throws, as behind an unsportsmanlike foul, what follows
-    // is a chance of its own.
-    if (m_scoredAt && m_scoredAt != shot.clockSeconds && m_scoredBy == stand.number)
-      m_fromTurnover = m_secondChance = 0;
-    m_isThrow = shot.code == EventCode::GFT;
-    m_scoredAt =
-        m_isThrow && shot.isMade && !stand.isTechnicalThrow ? std::optional(shot.clockSeconds) : std::nullopt;
-    m_scoredBy = stand.number;
-    // Between two throws the ball is dead: such a rebound, which some write down, is no second chance.
-    if (m_isThrow && m_reboundOfThrow == shot.clockSeconds)
-      m_secondChance = m_before;
-    m_reboundOfThrow.reset();
-    PointOrigins& origins = m_origins[team];
-    const bool isFast = shot.detail(detail_key::kFastBreak).has_value();
-    if (isFast) {
-      for (PointOrigins& each : m_origins)
-        each.fastBreak = each.fastBreak.value_or(0);
-    }
-    if (!shot.isMade)
-      return;
-    const int points = shot.kind()->points;
-    origins.paint += isInPaint(shot) ? points : 0;
-    if (isFast)
-      *origins.fastBreak += points;
-    if (stand.team != team || stand.isTechnicalThrow)
-      return; // a throw that only interrupts the possession
-    origins.fromTurnovers += stand.number == m_fromTurnover ? points : 0;
-    origins.secondChance += stand.number == m_secondChance ? points : 0;
-    const int held = m_gained ? *m_gained - shot.clockSeconds : -1; // below 0: the clock was set back
-    if (m_hasTime && held >= 0 && held <= GameInsight::kQuickSeconds)
-      origins.quick += points;
-  }
-
-  bool m_hasTime;
-  PerSide<PointOrigins>& m_origins;
-  int m_period = 0;
-  int m_possession = 0;
-  int m_fromTurnover = 0;              // the number of the possession that follows the last turnover
-  int m_secondChance = 0;              // of the one with the last offensive rebound
-  int m_before = 0;                    // the same before that rebound
-  bool m_isThrow = false;              // the last shot was a free throw
-  std::optional<int> m_scoredAt;       // its clock, where it was made
-  int m_scoredBy = 0;                  // the number of its possession
-  std::optional<int> m_reboundOfThrow; // its clock, where the last rebound was of one
-  std::optional<int> m_lastClock;
-  std::optional<int> m_gained; // the clock at which the ball was gained
-};
 
 // What one event adds to every share that it falls into: a few numbers of the many that a share has.
 class Happening {
@@ -141,7 +43,8 @@ class Builder {
  public:
   Builder(const Game& game, const std::optional<Starters>& starters)
       : m_game(game), m_tally(m_state, game.roster[Side::Visitor], game.roster[Side::Home]),
-        m_possessions(game.events, game.details.minutesPerPeriod > 0), m_origins(game, m_insight.origins) {
+        m_possessions(game.events, game.details.minutesPerPeriod > 0),
+        m_origins(game.details.minutesPerPeriod > 0) {
     constexpr std::size_t kUsualMatchups = 64;
     m_insight.isFromEvents = game.details.inputType == 0;
     m_insight.matchups.reserve(kUsualMatchups);
@@ -171,7 +74,8 @@ class Builder {
     if (!event.isOfTeam())
       followClock(event);
     const Possessions::Stand stand = m_possessions.take(event, place);
-    m_origins.take(event, stand);
+    if (const OriginOfShot origin = m_origins.take(event, stand); event.isShot())
+      addPoints(event, origin);
     Happening happened;
     happened.begin(stand.begun);
     if (event.isOfPlayer())
@@ -180,6 +84,23 @@ class Builder {
       add(event, happened);
     if (event.isShot() && event.isMade)
       m_score[*event.player.team] += event.kind()->points;
+  }
+
+  void addPoints(const GameEvent& shot, const OriginOfShot& origin) {
+    if (origin.isFastBreak) {
+      for (PointOrigins& each : m_insight.origins)
+        each.fastBreak = each.fastBreak.value_or(0);
+    }
+    if (!shot.isMade)
+      return;
+    const int points = shot.kind()->points;
+    PointOrigins& origins = m_insight.origins[*shot.player.team];
+    origins.paint += origin.isInPaint ? points : 0;
+    origins.fromTurnovers += origin.isFromTurnover ? points : 0;
+    origins.secondChance += origin.isSecondChance ? points : 0;
+    origins.quick += origin.isQuick ? points : 0;
+    if (origin.isFastBreak)
+      *origins.fastBreak += points;
   }
 
   void followClock(const GameEvent& event) {
@@ -298,7 +219,7 @@ class Builder {
   Tally m_tally;
   Possessions m_possessions;
   GameInsight m_insight;
-  Origins m_origins;
+  ShotOrigins m_origins;
   PerSide<int> m_score = {};
   std::size_t m_matchup = 0;
   std::vector<std::uint16_t> m_places;

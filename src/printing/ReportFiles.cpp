@@ -145,4 +145,15 @@ WriteProblem writeProblem(const std::string& path, std::size_t bytes) {
   return WriteProblem::Unknown;
 }
 
+Text textOfProblem(WriteProblem problem) {
+  switch (problem) {
+  case WriteProblem::IsFolder: return Text::PathIsFolder;
+  case WriteProblem::NoFolder: return Text::FolderIsMissing;
+  case WriteProblem::NoRight: return Text::NoRightToWrite;
+  case WriteProblem::NoRoom: return Text::NoRoomOnDisk;
+  case WriteProblem::Unknown: break;
+  }
+  return Text::ReportNotWritten;
+}
+
 } // namespace hooptab

@@ -3,11 +3,13 @@
 
 #include "printing/PageFormat.h"
 #include "report/ReportText.h"
+#include "settings/Text.h"
 #include "storage/FileSystem.h"
 #include "storage/TaskWatch.h"
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,13 +43,23 @@ enum class ReportForm { Pdf, Xlsx, Csv, CsvFrench, Html, Png };
 // Why a file of so many bytes could not be written there, as far as looking at the place tells.
 enum class WriteProblem { IsFolder, NoFolder, NoRight, NoRoom, Unknown };
 [[nodiscard]] WriteProblem writeProblem(const std::string& path, std::size_t bytes);
+// What the user is told of it; "XXX" is the path.
+[[nodiscard]] Text textOfProblem(WriteProblem problem);
 
 // Vector graphics with text that can be searched. Empty when cancelled.
 [[nodiscard]] std::string reportPdf(const Report& report, const PageFormat& format,
                                     const TaskWatch& watch = {});
+// Reports of one page each in one file, their pages counted through. Each is told to the watch.
+[[nodiscard]] std::string pagesPdf(std::span<const Report> pages, const std::string& title,
+                                   const PageFormat& format, const TaskWatch& watch = {});
 // A sheet for each table, its head frozen; numbers, percentages and times as such; and one for the flow of a
-// game, with a chart of it. Nothing when cancelled, or when temporary files could not be written.
+// game, with a chart of it; and the charts that tables ask for. Nothing when cancelled, or when temporary
+// files could not be written.
 [[nodiscard]] std::optional<std::string> reportXlsx(const Report& report, const TaskWatch& watch = {});
+// The summary on a sheet of its own, then each report of one page on a sheet of that name.
+[[nodiscard]] std::optional<std::string> pagesXlsx(const ReportTable& summary, std::span<const Report> pages,
+                                                   std::span<const std::string> names,
+                                                   const TaskWatch& watch = {});
 [[nodiscard]] std::string picturePng(const ReportPicture& picture);
 
 } // namespace hooptab

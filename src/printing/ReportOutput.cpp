@@ -48,17 +48,6 @@ const Form& formOf(ReportForm form) {
   return *std::ranges::find(kForms, form, &Form::form);
 }
 
-Text textOfProblem(WriteProblem problem) {
-  switch (problem) {
-  case WriteProblem::IsFolder: return Text::PathIsFolder;
-  case WriteProblem::NoFolder: return Text::FolderIsMissing;
-  case WriteProblem::NoRight: return Text::NoRightToWrite;
-  case WriteProblem::NoRoom: return Text::NoRoomOnDisk;
-  case WriteProblem::Unknown: break;
-  }
-  return Text::ReportNotWritten;
-}
-
 } // namespace
 
 ReportOutput::ReportOutput(const Texts& texts, Dialogs& dialogs, FileSystem& files, QWidget* parent)

@@ -169,7 +169,8 @@ void paintTag(QPainter& painter, const PageTag& tag, const PageFonts& fonts) {
   painter.restore();
 }
 
-void paintHeadAndFoot(QPainter& painter, const ReportLayout& layout, std::size_t page) {
+void paintHeadAndFoot(QPainter& painter, const ReportLayout& layout, std::size_t page,
+                      const PagesAround& around) {
   const PageFonts& fonts = layout.fonts();
   const QRectF body = layout.body();
   const Report& report = layout.report();
@@ -190,10 +191,11 @@ void paintHeadAndFoot(QPainter& painter, const ReportLayout& layout, std::size_t
   drawAtRight(PageFont::Cell, title, headTop);
   const double footTop = body.bottom() + kFootGap;
   draw(PageFont::Cell, QStringLiteral("HOOPTAB Basketball"), body.left(), footTop);
-  const std::string pages =
-      layout.isDone() ? std::to_string(layout.pages().size()) : std::string("…"); // more are to come
-  drawAtRight(PageFont::Cell, toQt(withPlaceholders(report.pageWords, std::to_string(page + 1), pages)),
-              footTop);
+  const std::string pages = layout.isDone()
+                                ? std::to_string(around.before + layout.pages().size() + around.behind)
+                                : std::string("…"); // more are to come
+  const std::string number = std::to_string(around.before + page + 1);
+  drawAtRight(PageFont::Cell, toQt(withPlaceholders(report.pageWords, number, pages)), footTop);
   painter.setPen(QPen(Qt::black, kThinLine));
   painter.drawLine(QPointF(body.left(), headTop + line + kHeadGap / 5),
                    QPointF(body.right(), headTop + line + kHeadGap / 5));
@@ -214,7 +216,7 @@ void paintDrawing(QPainter& painter, const ReportPicture& picture, const QRectF&
   painter.restore();
 }
 
-void paintPage(QPainter& painter, const ReportLayout& layout, std::size_t page) {
+void paintPage(QPainter& painter, const ReportLayout& layout, std::size_t page, const PagesAround& around) {
   const ReportPage& content = layout.pages()[page];
   const PageFonts& fonts = layout.fonts();
   painter.save();
@@ -223,7 +225,7 @@ void paintPage(QPainter& painter, const ReportLayout& layout, std::size_t page) 
     painter.restore();
     return;
   }
-  paintHeadAndFoot(painter, layout, page);
+  paintHeadAndFoot(painter, layout, page, around);
   for (const PageFill& fill : content.fills)
     painter.fillRect(fill.box, grey(fill.grey));
   for (const PageLine& line : content.lines) {

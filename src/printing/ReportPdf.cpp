@@ -10,29 +10,62 @@
 
 namespace hooptab {
 
+namespace {
+
+// A PDF file while it is being made, page by page.
+class PdfFile {
+ public:
+  explicit PdfFile(const QString& title) : m_writer(&m_buffer) {
+    m_buffer.open(QIODevice::WriteOnly);
+    m_writer.setResolution(static_cast<int>(kUnitsPerInch)); // units of the layout as they are
+    m_writer.setTitle(title);
+    m_writer.setCreator(QStringLiteral("HOOPTAB Basketball"));
+  }
+  void add(const ReportLayout& layout, std::size_t page, const PagesAround& around = {}) {
+    if (m_painter.isActive()) {
+      m_writer.newPage();
+    } else {
+      m_writer.setPageLayout(layout.pageLayout());
+      m_painter.begin(&m_writer);
+    }
+    paintPage(m_painter, layout, page, around);
+  }
+  [[nodiscard]] std::string close() {
+    m_painter.end();
+    return m_buffer.data().toStdString();
+  }
+
+ private:
+  QBuffer m_buffer;
+  QPdfWriter m_writer;
+  QPainter m_painter; // ends before what it paints on
+};
+
+} // namespace
+
 std::string reportPdf(const Report& report, const PageFormat& format, const TaskWatch& watch) {
   ReportLayout layout(report, format);
   while (!layout.isDone() && !watch.isCancelled()) // the foot of every page names their number
     layout.step();
   watch.progress(0, layout.pages().size());
-  QBuffer buffer;
-  QPdfWriter writer(&buffer);
-  buffer.open(QIODevice::WriteOnly);
-  writer.setResolution(static_cast<int>(kUnitsPerInch)); // units of the layout as they are
-  writer.setPageLayout(layout.pageLayout());
-  writer.setTitle(toQt(report.subject.empty() ? report.title : report.subject + " – " + report.title));
-  writer.setCreator(QStringLiteral("HOOPTAB Basketball"));
-  QPainter painter(&writer);
+  PdfFile file(toQt(report.subject.empty() ? report.title : report.subject + " – " + report.title));
   for (std::size_t page = 0; page < layout.pages().size() && !watch.isCancelled(); ++page) {
-    if (page > 0)
-      writer.newPage();
-    paintPage(painter, layout, page);
+    file.add(layout, page);
     watch.advance();
   }
-  painter.end();
-  if (watch.isCancelled())
-    return {};
-  return buffer.data().toStdString();
+  return watch.isCancelled() ? std::string() : file.close();
+}
+
+std::string pagesPdf(std::span<const Report> pages, const std::string& title, const PageFormat& format,
+                     const TaskWatch& watch) {
+  PdfFile file(toQt(title));
+  for (std::size_t i = 0; i < pages.size() && !watch.isCancelled(); ++i) {
+    ReportLayout layout(pages[i], format);
+    layout.finish();
+    file.add(layout, 0, {i, pages.size() - i - 1});
+    watch.advance();
+  }
+  return watch.isCancelled() ? std::string() : file.close();
 }
 
 std::string picturePng(const ReportPicture& picture) {

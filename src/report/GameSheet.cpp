@@ -102,6 +102,7 @@ class GameSheet {
         row.cells.push_back(period.isPlayed ? numberCell(period.points[team]) : textCell({}));
       row.cells.push_back(strong(numberCell(m_board.teams[team].points)));
     }
+    table.chart = {table.title, 1, m_board.periods.size(), true};
     return table;
   }
 

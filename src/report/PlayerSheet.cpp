@@ -6,6 +6,7 @@
 #include "report/ReportWords.h"
 #include "season/GameColumns.h"
 #include "season/SeasonShots.h"
+#include "season/TeamStudy.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 
@@ -41,6 +42,10 @@ constexpr Count kCounts[] = {
     counted<Counter::Ast>("Ast"), counted<Counter::TO>("TO"), counted<Counter::ST>("ST"),
     counted<Counter::BS>("BS")};
 constexpr Count kFouls = counted<Counter::PF>("PF");
+constexpr std::pair<std::string_view, Text> kOnOffRates[] = {{"offRating", Text::PointsForHundred},
+                                                             {"defRating", Text::PointsAgainstHundred},
+                                                             {"netRating", Text::RatingNet}};
+constexpr std::size_t kPointsColumn = 4; // of the table of games
 constexpr std::pair<std::string_view, const char*> kShares[] = {
     {"eFG", "eFG%"}, {"TS", "TS%"}, {"FTpct", "FT%"}};
 
@@ -64,6 +69,7 @@ class PlayerSheet {
     ReportTable splits = this->splits();
     splits.standsBeside = hasKinds;
     report.blocks.push_back(std::move(splits));
+    addOnOff(report);
   }
 
  private:
@@ -95,6 +101,17 @@ class PlayerSheet {
     const Rate& rate = rateNamed(name);
     const auto value = rate.value({Side::Visitor, numbers, {}});
     return value ? ReportCell{rateText(rate, value) + "%", ReportCell::Kind::Percent, *value} : textCell("–");
+  }
+  [[nodiscard]] bool hasLineUps() const { return m_row.plusMinus().has_value(); }
+  [[nodiscard]] ReportColumn plusMinusColumn() const {
+    return {"+/−", "plusMinus", text(Text::PlusMinusTip)};
+  }
+  // Nothing of games that do not tell who was on court.
+  static ReportCell plusMinusCell(const CourtShare& share) {
+    if (share.isEmpty())
+      return textCell({});
+    const int points = share.plusMinus(kOwnSide);
+    return {signedText(points), ReportCell::Kind::Number, static_cast<double>(points)};
   }
   [[nodiscard]] std::string timeHead() const { return capitalised(text(Text::MinutesShort)); }
 
@@ -131,7 +148,10 @@ class PlayerSheet {
     for (const Count& count : kCounts)
       table.columns.push_back({count.head, count.head});
     table.columns.push_back({kFouls.head, kFouls.head});
+    if (hasLineUps())
+      table.columns.push_back(plusMinusColumn());
     table.columns.push_back({text(Text::Rating), "rating"});
+    table.chart = {text(Text::ResultsByGame) + " – " + text(Text::Points), kPointsColumn, 1, false};
     const Results shown = Results(m_results).last(std::min(kMostGames, m_results.size()));
     if (shown.size() < m_results.size())
       table.note = std::to_string(shown.size()) + "/" + std::to_string(m_results.size());
@@ -164,6 +184,8 @@ class PlayerSheet {
     for (const Count& count : kCounts)
       add(count.of, std::string_view(count.head) != "TO");
     add(kFouls.of, false);
+    if (hasLineUps())
+      row.cells.push_back(plusMinusCell(result.onCourt));
     add([](const BoxNumbers& of) { return of.rating(); }, true);
     return row;
   }
@@ -228,8 +250,11 @@ class PlayerSheet {
                      {"TR", "TR"},
                      {"eFG%", "eFG%"},
                      {text(Text::Rating), "rating"}};
+    if (hasLineUps())
+      table.columns.push_back(plusMinusColumn());
     const auto add = [&](Text words, const auto& isOfIt) {
       BoxNumbers sum;
+      CourtShare onCourt;
       std::size_t games = 0;
       for (std::size_t i = 0; i < m_results.size(); ++i) {
         if (!isOfIt(i))
@@ -237,11 +262,15 @@ class PlayerSheet {
         ++games;
         for (std::size_t counter = 0; counter < kCounterCount; ++counter)
           sum.counters.counts[counter] += m_results[i].numbers.counters.counts[counter];
+        onCourt += m_results[i].onCourt;
       }
-      if (games > 0)
-        table.rows.push_back(
-            {{textCell(text(words)), numberCell(static_cast<int>(games)), average(sum.points(), games),
-              average(sum.rebounds(), games), share("eFG", sum), average(sum.rating(), games)}});
+      if (games == 0)
+        return;
+      table.rows.push_back(
+          {{textCell(text(words)), numberCell(static_cast<int>(games)), average(sum.points(), games),
+            average(sum.rebounds(), games), share("eFG", sum), average(sum.rating(), games)}});
+      if (hasLineUps())
+        table.rows.back().cells.push_back(plusMinusCell(onCourt));
     };
     const auto isOn = [&](Side side) {
       return [this, side](std::size_t i) { return m_results[i].side == side; };
@@ -259,6 +288,42 @@ class PlayerSheet {
     if (m_results.size() > kLately)
       add(Text::LastFiveGames, [&](std::size_t i) { return i + kLately >= m_results.size(); });
     return table;
+  }
+
+  // How his team fared while he was on court and while he was not, of the games that tell it.
+  void addOnOff(Report& report) const {
+    if (!hasLineUps())
+      return;
+    ReportTable table;
+    table.title = text(Text::WithAndWithout);
+    table.note = text(Text::RatingPerHundredTip);
+    table.isSummary = true;
+    table.columns = {{"", "OnOff", {}, true, true}, {timeHead(), "Time"}};
+    for (const auto& [rate, words] : kOnOffRates)
+      table.columns.push_back({text(words), std::string(rate)});
+    table.columns.push_back(plusMinusColumn());
+    const SeasonOnOff both = onOffOf(m_catalogue, m_results);
+    const auto add = [&](Text words, const CourtShare& share) {
+      ReportRow& row = table.rows.emplace_back();
+      row.cells = {textCell(text(words)), timeCell(share.seconds)};
+      for (const auto& [name, head] : kOnOffRates)
+        row.cells.push_back(rateCell(name, share));
+      row.cells.push_back(plusMinusCell(share));
+    };
+    add(Text::SheetOnCourt, both.on);
+    add(Text::SheetOffCourt, both.off);
+    report.blocks.push_back(std::move(table));
+  }
+
+  static ReportCell rateCell(std::string_view name, const CourtShare& share) {
+    const Rate& rate = rateNamed(name);
+    const auto value = rate.value(RateBasis::ofAll(kOwnSide, share));
+    if (!value)
+      return textCell("–");
+    const bool isNet = name == "netRating";
+    ReportCell cell{isNet ? signedText(*value, 1) : rateText(rate, value), ReportCell::Kind::Number, *value};
+    cell.isStrong = isNet;
+    return cell;
   }
 
   const GameCatalogue& m_catalogue;

@@ -1,5 +1,6 @@
-// A player's season on one page: averages, his games, where he shot from and how, and how he played at home,
-// away, in wins, in losses and lately. Sums are those of the season's statistics.
+// A player's season on one page: averages, his games, where he shot from and how, how he played at home,
+// away, in wins, in losses and lately, and how his team fared with and without him. Sums are those of the
+// season's statistics.
 #pragma once
 
 #include "report/Report.h"

@@ -54,6 +54,15 @@ struct ReportRow {
   bool isNote = false;        // the text of its second cell runs on over all others
 };
 
+// The columns of numbers that a workbook draws beside a table, over what stands in its first column.
+struct ReportChart {
+  std::string title;
+  std::size_t firstColumn = 0;
+  std::size_t columns = 1;
+  bool rowsAreSeries =
+      false; // each row named by its first column, over the heads; else each column by its head
+};
+
 // A team's abbreviation on its colour.
 struct ReportTag {
   std::string words;
@@ -71,6 +80,7 @@ struct ReportTable {
   bool isRanked = false;             // the best rows stand first, so that the others can be left out
   std::optional<ReportTag> tag = {}; // before the title
   std::string note = {};             // behind the title
+  std::optional<ReportChart> chart = {};
 };
 
 struct ReportParagraph {

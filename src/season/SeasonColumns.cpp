@@ -180,4 +180,22 @@ bool seasonColumnIsText(int column) {
   return column == kNameColumn || column == kPositionColumn || column == kPositionHistoryColumn;
 }
 
+std::optional<double> plusMinusOf(const SeasonRow& row, SeasonView view) {
+  const std::optional<int> sum = row.plusMinus();
+  const auto divided = [&](double count) {
+    return sum && count > 0 ? std::optional(*sum / count) : std::nullopt;
+  };
+  switch (view) {
+  case SeasonView::Totals: break;
+  case SeasonView::PerGame: return divided(row.games);
+  case SeasonView::PerMinute: return divided(row.numbers.seconds / 60.0);
+  case SeasonView::PerForty: return divided(row.numbers.seconds / 2400.0);
+  }
+  return sum;
+}
+
+int plusMinusDecimals(SeasonView view) {
+  return view == SeasonView::Totals ? 0 : view == SeasonView::PerMinute ? 2 : 1;
+}
+
 } // namespace hooptab

@@ -55,5 +55,9 @@ enum class SeasonTable : std::uint8_t { Players, Lines };
 // The number by which a column sorts; columns of texts sort by their text.
 [[nodiscard]] double seasonSortValue(const SeasonRow& row, int column, SeasonView view);
 [[nodiscard]] bool seasonColumnIsText(int column);
+// Points while on court less those against, in that view. Nothing where no game tells who was on court, or
+// where there is nothing to divide by.
+[[nodiscard]] std::optional<double> plusMinusOf(const SeasonRow& row, SeasonView view);
+[[nodiscard]] int plusMinusDecimals(SeasonView view);
 
 } // namespace hooptab

@@ -43,6 +43,20 @@ int SeasonTableView::currentRow() const {
   return currentIndex().isValid() ? m_model.sourceRow(currentIndex().row()) : -1;
 }
 
+std::vector<int> SeasonTableView::chosenRows() const {
+  std::vector<int> rows;
+  const QModelIndexList selected = selectionModel()->selectedRows();
+  if (selected.size() >= 2) {
+    for (const QModelIndex& index : selected)
+      rows.push_back(m_model.sourceRow(index.row()));
+  } else {
+    for (int row = 0; row < m_model.rowCount(); ++row)
+      rows.push_back(m_model.sourceRow(row));
+  }
+  std::ranges::sort(rows);
+  return rows;
+}
+
 void SeasonTableView::showColumns(std::vector<TableColumn> columns) {
   m_model.showColumns(std::move(columns));
   fitColumns();

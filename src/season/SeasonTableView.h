@@ -22,6 +22,9 @@ class SeasonTableView : public FrozenTableView {
   void fillWidth();
   // The place of the current row in the rows given; -1 for none.
   int currentRow() const;
+  // The selected rows where there are two or more, else all that are shown; their places in the rows given,
+  // ascending.
+  [[nodiscard]] std::vector<int> chosenRows() const;
 
   // Column widths that the user has chosen, as text for the next time.
   QByteArray widths() const;

@@ -88,21 +88,6 @@ bool isPlusMinus(SeasonTable table, int place) {
 }
 constexpr double kLeast = std::numeric_limits<double>::lowest();
 
-// Nothing where no game tells who was on court, or where there is nothing to divide by.
-std::optional<double> plusMinusOf(const SeasonRow& row, SeasonView view) {
-  const std::optional<int> sum = row.plusMinus();
-  const auto divided = [&](double count) {
-    return sum && count > 0 ? std::optional(*sum / count) : std::nullopt;
-  };
-  switch (view) {
-  case SeasonView::Totals: break;
-  case SeasonView::PerGame: return divided(row.games);
-  case SeasonView::PerMinute: return divided(row.numbers.seconds / 60.0);
-  case SeasonView::PerForty: return divided(row.numbers.seconds / 2400.0);
-  }
-  return sum;
-}
-
 TableKind kindOf(int column) {
   return tableKind(seasonColumn(column).statistic->kind);
 }
@@ -182,8 +167,7 @@ TableRows skippedRows(std::shared_ptr<const GameCatalogue> catalogue, const Text
 
 QString plusMinusText(const SeasonRow& row, SeasonView view) {
   const std::optional<double> value = plusMinusOf(row, view);
-  const int decimals = view == SeasonView::Totals ? 0 : view == SeasonView::PerMinute ? 2 : 1;
-  return value ? toQt(signedText(*value, decimals)) : QStringLiteral("–");
+  return value ? toQt(signedText(*value, plusMinusDecimals(view))) : QStringLiteral("–");
 }
 
 TableColumn plusMinusColumn(const Texts& texts) {

@@ -138,6 +138,8 @@ void completeReport(Arguments& arguments) {
     arguments.wrong = {Text::IsMissing, "--report"};
   else if (report.output.empty())
     arguments.wrong = {Text::OptionNeeds, "--report", "-o"};
+  else if (arguments.games.size() > 1 && report.kind == "sheet")
+    report.games = arguments.games;
   else if (arguments.games.size() > 1)
     arguments.wrong = {Text::OneGame};
   else if (!arguments.games.empty())

@@ -16,11 +16,12 @@ struct ReportRequest {
   std::string kind;   // "sheet", "scorecard", "scorecard-lines", "play-by-play", "roster", "forms",
                       // "blank-forms", or one of the season's
   std::string format; // "pdf", "xlsx", "csv", "html", "png"; where none is given, the ending of the output
-  std::string output; // absolute; a folder, for the reports of each game of a folder
+  std::string output; // absolute; a folder, for a file for each of several games
   std::string source; // absolute; the game or a folder of games, empty for a team's report
-  std::string team;   // "ABBREVIATION-LEVEL"
-  std::string player; // jersey of a player, or the jerseys of a line, "4-5-10-12-15"
-  std::string title;  // in place of the report's own, where not empty
+  std::vector<std::string> games; // absolute; several games and folders of games for "sheet", else empty
+  std::string team;               // "ABBREVIATION-LEVEL"
+  std::string player;             // jersey of a player, or the jerseys of a line, "4-5-10-12-15"
+  std::string title;              // in place of the report's own, where not empty
   std::optional<Language> language;
   bool isLetter = false;
   bool isForFrenchSpreadsheets = false; // of a table as text

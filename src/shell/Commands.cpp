@@ -40,6 +40,7 @@ constexpr Command kCommands[] = {
       {LeadersPerMinute, "stMENEURSMIN", OpenSeason, Text::LeadersPerMinute, "stmeneursmin", Season, Action},
       {PlayerReport, "stRAPJOUEUR", OpenSeason, Text::PlayerReport, "strapjoueur", Season, Action, "", kSeparator},
       {LineReport, "stRAPLIGNE", OpenSeason, Text::LineReport, "strapligne", Season, Action},
+      {GamesToFile, "stGAMES", OpenSeason, Text::WeekendCommand, "stgames", Season, Action, "", kSeparator},
     {PrintSeason, "stPRINT", None, Text::PrintSeason, "stprint", Season, Action, "Ctrl+Shift+P"},
     {CloseSeason, "stCLOSE", None, Text::CloseSeason, "stclose", Season, Action, "Ctrl+Shift+T"},
 

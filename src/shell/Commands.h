@@ -39,6 +39,7 @@ enum class CommandId : std::uint8_t {
   LeadersPerMinute,
   PlayerReport,
   LineReport,
+  GamesToFile,
   PrintSeason,
   CloseSeason,
   InputMenu,

@@ -161,6 +161,7 @@ MDI::MDI(const Workshop& workshop)
   connect(m_exchange, &ExchangeDesk::teamsChanged, this, &MDI::openTeams);
   connect(m_exchange, &ExchangeDesk::reported, this, &MDI::showMessage);
   connect(m_share, &ShareDesk::changed, this, &MDI::showStatusBar);
+  connect(m_previews, &PreviewDesk::reported, this, &MDI::showMessage);
   connect(m_unsaved, &UnsavedSettings::refreshed, this, &MDI::showStatusBar);
   connect(m_unsaved, &UnsavedSettings::restored, this, [this](const QString& words) {
     if (groupInFront() == CommandGroup::Live)
@@ -394,6 +395,7 @@ void MDI::openSeason() {
   auto* window =
       new frmSTATS(m_workshop.store.files(), m_workshop.settings, m_workshop.texts, m_workshop.dialogs);
   connect(window, &frmSTATS::gameAsked, this, &MDI::openGame);
+  connect(window, &frmSTATS::gamesToFileAsked, this, [this, window] { m_previews->saveGames(*window); });
   window->keepSummariesIn(m_workshop.cacheFolder);
   m_area->add(*window);
   window->readFolder();

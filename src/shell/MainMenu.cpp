@@ -57,11 +57,26 @@ MainMenu::MainMenu(QMainWindow& window, QMenuBar& bar, WindowArea& area, const C
            CommandId::GameOver, kSeparator, CommandId::OpenForms, CommandId::SaveTotals, CommandId::PrintGame,
            CommandId::FormsMenu, CommandId::CloseInput});
   addMenu(Text::Teams, {CommandId::OpenTeams});
-  addMenu(Text::Season, {CommandId::OpenSeason, kSeparator, CommandId::TeamSummary, CommandId::TeamDetail,
-                         kSeparator, CommandId::PlayerShots, CommandId::LineShots, CommandId::PlayerOther,
-                         CommandId::LineOther, kSeparator, CommandId::LeadersTotal, CommandId::LeadersPerGame,
-                         CommandId::LeadersPerMinute, kSeparator, CommandId::PlayerReport,
-                         CommandId::LineReport, kSeparator, CommandId::PrintSeason, CommandId::CloseSeason});
+  addMenu(Text::Season, {CommandId::OpenSeason,
+                         kSeparator,
+                         CommandId::TeamSummary,
+                         CommandId::TeamDetail,
+                         kSeparator,
+                         CommandId::PlayerShots,
+                         CommandId::LineShots,
+                         CommandId::PlayerOther,
+                         CommandId::LineOther,
+                         kSeparator,
+                         CommandId::LeadersTotal,
+                         CommandId::LeadersPerGame,
+                         CommandId::LeadersPerMinute,
+                         kSeparator,
+                         CommandId::PlayerReport,
+                         CommandId::LineReport,
+                         kSeparator,
+                         CommandId::GamesToFile,
+                         CommandId::PrintSeason,
+                         CommandId::CloseSeason});
   QMenu& settings = addMenu(Text::Settings, {CommandId::CourtColours, CommandId::OpenKeys,
                                              CommandId::OpenRating, kSeparator, CommandId::Language});
   QMenu& colours = coloursMenu();

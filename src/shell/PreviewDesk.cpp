@@ -3,12 +3,15 @@
 #include "appearance/Dialogs.h"
 #include "appearance/relabel.h"
 #include "printing/ReportOutput.h"
+#include "printing/frmWEEKEND.h"
 #include "review/frmVIEW.h"
 #include "shell/CommandBar.h"
 #include "shell/PrintOffers.h"
 #include "shell/WindowArea.h"
+#include "shell/WindowMemory.h"
 #include "studies/frmSTATS.h"
 
+#include <QFileInfo>
 #include <QMdiSubWindow>
 #include <utility>
 
@@ -48,6 +51,10 @@ void PreviewDesk::serve(CommandBar& commands) {
         printSeason(*window, report);
     });
   }
+  commands.serve(CommandId::GamesToFile, this, [this] {
+    if (const auto* window = m_area.first<frmSTATS>())
+      saveGames(*window);
+  });
   commands.serve(CommandId::PrintSeason, this, [this] {
     if (auto* window = m_area.first<frmSTATS>())
       printSeason(*window,
@@ -79,6 +86,30 @@ void PreviewDesk::show(std::vector<ReportOffer> offers) {
           m_area.setActiveSubWindow(m_askedFrom);
       },
       Qt::QueuedConnection);
+}
+
+void PreviewDesk::saveGames(const frmSTATS& window) {
+  const Texts& texts = m_workshop.texts;
+  const std::vector<const ListedGame*> games = window.chosenGames();
+  if (games.empty())
+    return m_workshop.dialogs.inform(&m_window, toQt(texts.text(Text::WeekendTitle)),
+                                     toQt(texts.text(Text::WeekendNoGame)));
+  std::vector<std::string> paths;
+  std::vector<std::string> dates;
+  for (const ListedGame* game : games) {
+    paths.push_back(game->path);
+    dates.push_back(game->date);
+  }
+  QString folder = toQt(m_workshop.memory.exportFolder());
+  if (!QFileInfo(folder).isDir()) // none yet, or it is gone
+    folder = QFileInfo(toQt(paths.front())).absolutePath();
+  frmWEEKEND dialog(std::move(paths), folder,
+                    toQt(nameOfGames(std::move(dates), std::string(texts.text(Text::WeekendSummary)))),
+                    m_workshop.store.files(), texts, m_workshop.dialogs, &m_window);
+  if (dialog.exec() != QDialog::Accepted)
+    return;
+  m_workshop.memory.rememberExportFolder(fromQt(dialog.folder()));
+  emit reported(dialog.message());
 }
 
 void PreviewDesk::printSeason(frmSTATS& window, SeasonReport first) {

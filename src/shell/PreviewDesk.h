@@ -1,5 +1,5 @@
 // The one print preview: which reports it offers for what asked for it, and where the user comes back to when
-// it closes.
+// it closes; and what goes to a file without a preview, many games at once.
 #pragma once
 
 #include "printing/frmprint.h"
@@ -32,6 +32,11 @@ class PreviewDesk : public QObject {
 
   // In the preview that is open, or a new one.
   void show(std::vector<ReportOffer> offers);
+  // The games chosen in that window, to one file.
+  void saveGames(const frmSTATS& window);
+
+ signals:
+  void reported(const QString& message);
 
  private:
   void printSeason(frmSTATS& window, SeasonReport first);

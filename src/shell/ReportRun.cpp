@@ -1,7 +1,7 @@
 #include "shell/ReportRun.h"
 
 #include "catalogue/GameFinder.h"
-#include "printing/ReportFiles.h"
+#include "printing/GamesFiles.h"
 #include "report/GameReports.h"
 #include "report/ReportWords.h"
 #include "report/SeasonReports.h"
@@ -27,15 +27,6 @@ int complain(ExitStatus status, const std::string& text) {
   return status;
 }
 
-Text reasonOf(GameFileProblem problem) {
-  switch (problem) {
-  case GameFileProblem::Absent: return Text::NoSuchFile;
-  case GameFileProblem::TooLarge: return Text::TooLargeToBeAGame;
-  case GameFileProblem::InvalidFormat: return Text::NotAGame;
-  default: return Text::CannotBeReadGiveAFile;
-  }
-}
-
 class ReportRun {
  public:
   ReportRun(const ReportRequest& request, const std::string& folder)
@@ -51,8 +42,10 @@ class ReportRun {
       form = ReportForm::CsvFrench;
     if (!form)
       return complain(kWrongUse, words(Text::UnknownFormat, m_request.format));
+    if (!m_request.games.empty())
+      return writeGames(m_request.games, *form);
     if (ofGame() != nullptr && std::filesystem::is_directory(m_request.source, m_ignored))
-      return writeEachGame(*form);
+      return writeGames({m_request.source}, *form);
     Report report;
     if (const int status = make(report); status != kGood)
       return status;
@@ -79,16 +72,33 @@ class ReportRun {
     return found == gameReports().end() ? nullptr : &*found;
   }
 
-  // A file for each game of the folder, finished or not, under the name that the preview would propose. One
-  // game that cannot be reported does not keep the others from it.
-  int writeEachGame(ReportForm form) {
-    if (!std::filesystem::is_directory(m_request.output, m_ignored))
-      return complainOf(kWrongUse, m_request.output, Text::OutputMustBeFolder);
-    const FoundGames games = findGames(m_files, {m_request.source});
-    if (games.outcome != ScanOutcome::Done || games.paths.empty())
-      return complainOf(kFailed, m_request.source, Text::NoGameInFolder);
+  // A file for each in a folder that is there, or one file of all. `sources` are games and folders of games.
+  int writeGames(const std::vector<std::string>& sources, ReportForm form) {
+    std::vector<std::string> paths;
+    for (const std::string& source : sources) {
+      if (!std::filesystem::is_directory(source, m_ignored)) {
+        paths.push_back(source);
+        continue;
+      }
+      const FoundGames found = findGames(m_files, {source});
+      if (found.outcome != ScanOutcome::Done || found.paths.empty())
+        return complainOf(kFailed, source, Text::NoGameInFolder);
+      paths.insert(paths.end(), found.paths.begin(), found.paths.end());
+    }
+    if (std::filesystem::is_directory(m_request.output, m_ignored))
+      return writeEachGame(paths, form);
+    // A folder that is missing is no file without an ending.
+    const bool isFile = m_request.output.ends_with('.' + std::string(endingOf(form)));
+    if (m_request.kind == "sheet" && isFile)
+      return writeOneFile(std::move(paths), form);
+    return complainOf(kWrongUse, m_request.output, Text::OutputMustBeFolder);
+  }
+
+  // Finished or not, each under the name that the preview would propose. One game that cannot be reported
+  // does not keep the others from it.
+  int writeEachGame(const std::vector<std::string>& paths, ReportForm form) {
     ExitStatus status = kGood;
-    for (const std::string& game : games.paths) {
+    for (const std::string& game : paths) {
       Report report;
       if (makeOfGame(game, report) != kGood ||
           write(report, form, m_request.output + '/' + report.fileName + '.' + std::string(endingOf(form))) !=
@@ -96,6 +106,29 @@ class ReportRun {
         status = kFailed;
     }
     return status;
+  }
+
+  int writeOneFile(std::vector<std::string> paths, ReportForm form) {
+    GamesOrder order;
+    order.games = std::move(paths);
+    if (form == ReportForm::Pdf)
+      order.pdf = m_request.output;
+    else if (form == ReportForm::Xlsx)
+      order.workbook = m_request.output;
+    else
+      return complain(kWrongUse, words(Text::NoSuchFormat, m_request.format));
+    order.title = m_request.title;
+    order.paper = m_request.isLetter ? Paper::Letter : Paper::A4;
+    const GamesOutcome outcome = hooptab::writeGames(m_files, order, m_texts);
+    for (const GamePages::PassedOver& game : outcome.passedOver)
+      (void)complain(kFailed, words(Text::WeekendPassedOver, game.path, words(game.why)));
+    if (!outcome.hasGames)
+      return complain(kFailed, words(Text::WeekendNothing));
+    if (!outcome.isMade)
+      return complain(kFailed, words(Text::ReportNotMade));
+    if (!outcome.failed.empty())
+      return complainOf(kFailed, outcome.failed, Text::CannotBeWritten);
+    return outcome.passedOver.empty() ? kGood : kFailed;
   }
 
   int write(Report& report, ReportForm form, const std::string& output) {
@@ -179,7 +212,7 @@ class ReportRun {
       return complainOfMissing(words(Text::AGameOrAFolder));
     Scorecard card(m_store, path);
     if (const GameFileProblem problem = card.load(); problem != GameFileProblem::None)
-      return complainOf(kFailed, path, reasonOf(problem));
+      return complainOf(kFailed, path, whyNotRead(problem));
     report = ofGame()->make(card.counted(), ScorecardView(m_texts), m_settings, m_texts);
     return kGood;
   }

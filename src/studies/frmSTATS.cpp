@@ -144,6 +144,8 @@ QWidget* frmSTATS::makeTools() {
   m_filters->setCheckable(true);
   m_views = new SavedViews(m_texts, tools);
   add(m_views, "cmdVIEWS", "sheet", Text::SavedViews);
+  const QToolButton* toFile = add(new QToolButton(tools), "cmdGAMESTOFILE", "stgames", Text::WeekendCommand);
+  connect(toFile, &QToolButton::clicked, this, &frmSTATS::gamesToFileAsked);
   const QToolButton* copy = add(new QToolButton(tools), "cmdCOPY", "copy", Text::CopyTable);
   connect(m_filters, &QToolButton::toggled, this, &frmSTATS::showFilters);
   connect(m_views, &SavedViews::keepAsked, this,
@@ -333,6 +335,15 @@ SeasonView frmSTATS::shownLeaders() const {
   return m_leaders->view();
 }
 
+std::vector<const ListedGame*> frmSTATS::chosenGames() const {
+  std::vector<const ListedGame*> games;
+  if (m_desk.hasCatalogue()) {
+    for (const int row : m_games->chosenRows())
+      games.push_back(&m_desk.catalogue()->games()[m_desk.listed()[static_cast<std::size_t>(row)]]);
+  }
+  return games;
+}
+
 void frmSTATS::openGame(std::size_t game) {
   emit gameAsked(toQt(m_desk.catalogue()->games()[game].path));
 }
@@ -493,8 +504,10 @@ void frmSTATS::relabelWindow() {
 }
 
 void frmSTATS::applyColours() {
-  for (const auto& [name, iconName] :
-       {std::pair("cmdCOPY", "copy"), {"cmdFILTERS", "filter"}, {"cmdVIEWS", "sheet"}})
+  for (const auto& [name, iconName] : {std::pair("cmdCOPY", "copy"),
+                                       {"cmdFILTERS", "filter"},
+                                       {"cmdVIEWS", "sheet"},
+                                       {"cmdGAMESTOFILE", "stgames"}})
     findChild<QToolButton*>(QLatin1String(name))->setIcon(icon(QLatin1String(iconName)));
   m_person->applyColours();
   m_team->applyColours();

@@ -50,6 +50,8 @@ class frmSTATS : public ChildWindow {
   }
   std::optional<SeasonId> chosenTeam() const { return m_desk.chosenTeam(); }
   std::shared_ptr<const SeasonPerson> chosenPerson() const; // player or line; null: nobody
+  // The games that are shown in the list; those selected there, where there are two or more.
+  [[nodiscard]] std::vector<const ListedGame*> chosenGames() const;
   // What is in front, for whoever prints it.
   enum class Page { Standings, Games, Players, Lines, Leaders, Person, Team, Search, LeftOut };
   Page shownPage() const;
@@ -62,6 +64,7 @@ class frmSTATS : public ChildWindow {
 
  signals:
   void gameAsked(const QString& path); // to be opened as a scorecard
+  void gamesToFileAsked();             // the chosen ones
 
  private:
   QWidget* makeGames();

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <gtest/gtest.h>
+#include <regex>
 #include <sys/wait.h>
 
 using namespace hooptab;
@@ -260,11 +261,20 @@ TEST_F(Cli, CsvHasARowForEachPlayerAndTotalWithQuotedFields) {
   EXPECT_EQ(lines[0],
             "team,No,Name,Pos,Time,PF,TF,rating,M,A,%,PTS,FGM,FGA,FG%,FGPTS,F3M,F3A,F3%,F3PTS,FTM,FTA,FT%,"
             "FTPTS,LLM,LLA,LL%,LLPTS,LRM,LRA,LR%,LRPTS,PBM,PBA,PB%,PBPTS,DKM,DKA,DK%,DKPTS,Ast,BS,ST,TO,OR,"
-            "DR,S1,S2,seconds");
+            "DR,S1,S2,seconds,plusMinus,possessionsCounted,possessionsEstimated,paint,fromTurnovers,"
+            "secondChance,bench,fastBreak");
   EXPECT_TRUE(lines[1].starts_with("\"P,N\",4,Zoé Cœur,Center,25:00,0,0,4,2,2,100.0%,4,2,2,100.0%,4,"));
   EXPECT_TRUE(lines[2].starts_with("\"P,N\",5,\"Bea \"\"B\"\" Baker\",Forward,")) << lines[2];
   EXPECT_TRUE(lines[3].starts_with("\"P,N\",,TOTAL,na,50:00,")) << lines[3];
   EXPECT_TRUE(lines[5].starts_with("OLY,,TOTAL,")) << lines[5];
+  EXPECT_TRUE(lines[1].ends_with(",0,,,,,,,")) << "4-4 while on court; " << lines[1];
+  const Json teams = Json::parse(run("box --json " + game(text)).output)["teams"];
+  for (const auto& [line, team] : {std::pair(3U, 0U), {5U, 1U}}) {
+    const Json& possessions = teams[team]["possessions"];
+    EXPECT_TRUE(lines[line].ends_with(",," + std::to_string(possessions["counted"].integer()) + ',' +
+                                      (team == 0 ? "2.44,4" : "1.44,0") + ",0,0,0,"))
+        << lines[line];
+  }
   for (const std::size_t line : {std::size_t{4}, std::size_t{5}})
     EXPECT_EQ(std::ranges::count(lines[line], ','), std::ranges::count(lines[0], ',')) << lines[line];
 }
@@ -410,10 +420,11 @@ TEST_F(Cli, SeasonTellsTheSameNumbersAsTextJsonAndCsv) {
   EXPECT_TRUE(csv.starts_with(
       "table,view,team,No,Name,Time,G,PF,TF,rating,TGM,TGA,%,PTS,F2M,F2A,F2%,F2PTS,F3M,F3A,F3%,F3PTS,FTM,FTA,"
       "FT%,FTPTS,FGM,FGA,FG%,FGPTS,LLM,LLA,LL%,LLPTS,LRM,LRA,LR%,LRPTS,PBM,PBA,PB%,PBPTS,DKM,DKA,DK%,DKPTS,"
-      "Ast,BS,ST,TO,OR,DR,TR,U1,U2,#,Pos,PosHist,underMinimum\r\n"))
+      "Ast,BS,ST,TO,OR,DR,TR,U1,U2,#,Pos,PosHist,underMinimum,plusMinus\r\n"))
       << csv;
   EXPECT_EQ(linesOf(csv), 1 + 4 * (10 + 2)) << "totals, per game, per minute, per 40 minutes";
   EXPECT_TRUE(holds(csv, "\r\nplayers,perGame,PAN-A,4,Ann Able,05:00,2,0.0,0.0,2.5,1.0,1.0,100.0%,2.5,"));
+  EXPECT_TRUE(holds(csv, ",0,1.0\r\n")) << "plus and minus a game";
   const std::string french = run("season --csv-for fr " + folder).output;
   EXPECT_TRUE(french.starts_with("\xEF\xBB\xBFTableau;Vue;Équipe;No;Nom du joueur;Temps;"));
   EXPECT_TRUE(
@@ -423,7 +434,8 @@ TEST_F(Cli, SeasonTellsTheSameNumbersAsTextJsonAndCsv) {
   // The minimum: nobody plays six minutes a game here.
   const std::string six = "season --min-minutes 6 ";
   EXPECT_TRUE(holds(run(six + folder).output, "Ann Able *")) << "marked in the text";
-  EXPECT_TRUE(holds(run(six + "--csv " + folder).output, ",0\r\nplayers,perMinute,"));
+  EXPECT_TRUE(std::regex_search(run(six + "--csv " + folder).output,
+                                std::regex(",0,-?[0-9.]*\r\nplayers,perMinute,")));
   const Json marked = Json::parse(run(six + "--json " + folder).output);
   EXPECT_EQ(marked["minimum"]["minutesPerTeamGame"].integer(), 6);
   EXPECT_TRUE(marked["leaders"]["per40"]["PTS"].array().empty());

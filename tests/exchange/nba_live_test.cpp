@@ -2,6 +2,8 @@
 #include "exchange/GameReading.h"
 #include "exchange/Reconciliation.h"
 #include "foreign/ScoreFlow.h"
+#include "insight/GameInsight.h"
+#include "insight/MarginFlow.h"
 #include "livedata/NbaLiveForms.h"
 #include "livedata/NbaLiveReader.h"
 #include "livedata/NbaLiveWriter.h"
@@ -118,6 +120,25 @@ std::optional<ExchangeNote> refusalOf(const Json& plays, const Json* box) {
   return std::nullopt;
 }
 
+// What goes out of the flow of a game is what its own pages say of it.
+void expectTold(const Game& own, const Json& box) {
+  const GameInsight insight = insightOf(own);
+  const MarginFlow flow = marginFlowOf(own);
+  for (const Side team : kSides) {
+    const Json& statistics =
+        member(member(member(box, "game"), team == Side::Visitor ? "awayTeam" : "homeTeam"), "statistics");
+    const PointOrigins& origins = insight.origins[team];
+    EXPECT_EQ(numberOf(statistics, "pointsInThePaint", -1), origins.paint);
+    EXPECT_EQ(numberOf(statistics, "pointsFromTurnovers", -1), origins.fromTurnovers);
+    EXPECT_EQ(numberOf(statistics, "pointsSecondChance", -1), origins.secondChance);
+    EXPECT_EQ(numberOf(statistics, "benchPoints", -1), origins.bench.value_or(0));
+    EXPECT_EQ(numberOf(statistics, "biggestLead", -1),
+              flow.biggestLead[team] ? flow.biggestLead[team]->points : 0);
+    EXPECT_EQ(numberOf(statistics, "leadChanges", -1), std::ssize(flow.leadChanges));
+    EXPECT_EQ(numberOf(statistics, "timesTied", -1), flow.timesTied);
+  }
+}
+
 class NbaLiveTruthTest : public testing::TestWithParam<std::string> {};
 
 std::vector<std::string> realIds() {
@@ -196,6 +217,7 @@ TEST(NbaLiveTest, TakesOurOwnGamesThereAndBack) {
     if (own.details.inputType != 0)
       continue;
     ForeignGame game = foreignGameOf({own, tallied(own)}, text);
+    expectTold(own, parseJson(writeNbaLiveBox(game)));
     for (ForeignTeam& team : game.teams) {
       for (ForeignPlayer& player : team.players)
         player.official.erase("plusMinus");

@@ -247,7 +247,9 @@ TEST(TableReportTest, AWorkbookTellsNumbersPercentagesTimesAndTextsApart) {
                          {"6.3%", Kind::Percent, 0.0625},
                          {"90:00", Kind::Time, 5400},
                          {"2.33", Kind::Number, 7.0 / 3}}});
+  table.chart = {"bars", 1, 2, true};
   report.blocks.emplace_back(table);
+  table.chart.reset();
   table.title = "a sheet of its own";
   report.blocks.emplace_back(table);
   FlowDrawing flow;
@@ -264,7 +266,9 @@ TEST(TableReportTest, AWorkbookTellsNumbersPercentagesTimesAndTextsApart) {
   const std::string sheet = part("xl/worksheets/sheet1.xml");
   EXPECT_NE(part("xl/worksheets/sheet2.xml"), "");
   EXPECT_TRUE(std::regex_search(part("xl/worksheets/sheet3.xml"), std::regex("<c r=\"D3\"[^>]*><v>2</v>")));
-  EXPECT_NE(part("xl/charts/chart1.xml").find("flow!$D$2:$D$3"), std::string::npos);
+  EXPECT_NE(part("xl/charts/chart1.xml").find("<c:cat><c:strRef><c:f>T!$B$1:$C$1"), std::string::npos);
+  EXPECT_NE(part("xl/charts/chart1.xml").find("T!$B$2:$C$2"), std::string::npos);
+  EXPECT_NE(part("xl/charts/chart2.xml").find("flow!$D$2:$D$3"), std::string::npos);
   EXPECT_NE(part("xl/sharedStrings.xml").find("=1+1 &lt;b&gt;"), std::string::npos);
   const std::string styles = part("xl/styles.xml");
   EXPECT_EQ(sheet.find("<f>"), std::string::npos);

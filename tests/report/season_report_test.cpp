@@ -146,7 +146,7 @@ TEST_F(SeasonReportTest, APlayersPageSplitsHisGamesAndMarksTheBestOfEach) {
   const Report report = seasonReport(SeasonReport::PlayerSheet, season, ann, settings, texts);
   EXPECT_TRUE(report.isOnePage);
   const auto all = tables(report);
-  ASSERT_EQ(all.size(), 4U);
+  ASSERT_EQ(all.size(), 5U);
   EXPECT_EQ(cell(*all[0], all[0]->rows[0], "PTS").text, "2.0");
   EXPECT_EQ(cell(*all[0], all[0]->rows[0], "eFG%").text, "66.7%");
   EXPECT_EQ(cell(*all[1], all[1]->rows[1], "2P").text, "1/2");
@@ -157,6 +157,12 @@ TEST_F(SeasonReportTest, APlayersPageSplitsHisGamesAndMarksTheBestOfEach) {
   for (const ReportRow& row : all[3]->rows)
     splits += row.cells[0].text + ' ' + row.cells[1].text + ';';
   EXPECT_EQ(splits, "Away 2;In wins 2;");
+  EXPECT_EQ(cell(*all[1], all[1]->rows[0], "plusMinus").text, "+5");
+  EXPECT_EQ(all[1]->columns.at(all[1]->chart->firstColumn).name, "PTS");
+  const ReportTable& onOff = *all[4];
+  EXPECT_EQ(cell(onOff, onOff.rows[0], "plusMinus").text, cell(*all[3], all[3]->rows[0], "plusMinus").text);
+  EXPECT_EQ(cell(onOff, onOff.rows[0], "netRating").text.front(), '+');
+  EXPECT_EQ(cell(onOff, onOff.rows[1], "netRating").text, "–") << "they never sat";
 }
 
 TEST_F(SeasonReportTest, FilesNameTheirColumnsAndHoldNoTimeWhereNoneIsShown) {

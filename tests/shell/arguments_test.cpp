@@ -48,6 +48,8 @@ TEST(Arguments, AReportIsTakenWithItsOptionsAndNothingByHalves) {
   EXPECT_TRUE(all.report->isLetter);
   EXPECT_EQ(parse({"--report=roster", "--team=LYNX-AAA", "-o", "a", "--format", "csv"}).report->format,
             "csv");
+  EXPECT_EQ(parse({"--report", "sheet", "-o", "b.pdf", "1.GAM", "/2.GAM"}).report->games,
+            (std::vector<std::string>{"/home/coach/games/1.GAM", "/2.GAM"}));
   EXPECT_FALSE(parse({"A.GAM"}).report);
   using Words = std::vector<std::string>;
   for (const Words& wrong : std::vector<Words>{{"--report", "scorecard"},

@@ -68,6 +68,23 @@ TEST_F(ReportRunTest, EachGameOfAFolderGetsItsReport) {
   EXPECT_EQ(made("scorecard", "pdf"), 2);
 }
 
+TEST_F(ReportRunTest, SeveralGamesGoToOneFile) {
+  request.games = {games.folder().path("first.GAM"), games.folder().path("second.GAM")};
+  EXPECT_EQ(made("sheet", "pdf"), 0);
+  request.games.clear();
+  games.add("broken.GAM", "no game at all");
+  request.output = reports.path("folder.xlsx");
+  EXPECT_EQ(made("sheet", "xlsx"), 1) << "one of them is no game";
+  EXPECT_EQ(written(), 2U) << "the others are written all the same";
+  request.output = reports.path("missing");
+  EXPECT_EQ(made("sheet", "pdf"), 2) << "a folder that is missing is no file";
+  request.games = {games.folder().path("broken.GAM"), games.folder().path("gone.GAM")};
+  request.output = reports.path("none.pdf");
+  EXPECT_EQ(made("sheet", "pdf"), 1);
+  EXPECT_EQ(made("sheet", "html"), 2);
+  EXPECT_EQ(written(), 2U);
+}
+
 TEST_F(ReportRunTest, WhatCannotBeMadeIsRefusedAndNothingIsWritten) {
   EXPECT_EQ(made("player", "pdf"), 2) << "whose performance?";
   request.player = "99";

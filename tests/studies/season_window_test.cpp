@@ -328,6 +328,20 @@ TEST_F(SeasonWindowTest, FiltersTypedAboveTheColumnsHoldRowsBack) {
   EXPECT_EQ(cell("lvwSTATjoueurs(1)", table("lvwSTATjoueurs(1)").content().shownRow(source), 1), first);
 }
 
+TEST_F(SeasonWindowTest, TheGamesForOneFileAreThoseShownOrSelected) {
+  EXPECT_TRUE(window->chosenGames().empty());
+  read();
+  const int all = rows("lvwGAMES");
+  ASSERT_GE(all, 3);
+  table("lvwGAMES").selectRow(1);
+  EXPECT_EQ(std::ssize(window->chosenGames()), all) << "a row that is only the current one";
+  table("lvwGAMES").setSelectionMode(QAbstractItemView::MultiSelection);
+  table("lvwGAMES").selectRow(2);
+  const auto chosen = window->chosenGames();
+  ASSERT_EQ(chosen.size(), 2U);
+  EXPECT_EQ(toQt(chosen[0]->date), cell("lvwGAMES", 1, 0));
+}
+
 TEST_F(SeasonWindowTest, AViewIsKeptUnderItsName) {
   readAndGenerate();
   const QString team = find<QComboBox>("lstequipes").itemText(2);
