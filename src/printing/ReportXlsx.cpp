@@ -95,13 +95,12 @@ class Workbook {
     m_book = workbook_new_opt(path.c_str(), &options);
     if (m_book == nullptr)
       return;
-    for (const bool isStrong : {false, true}) {
-      Formats& formats = m_formats[isStrong ? 1 : 0];
-      formats.plain = format(isStrong, nullptr);
-      formats.oneDecimal = format(isStrong, "0.0");
-      formats.twoDecimals = format(isStrong, "0.00");
-      formats.percent = format(isStrong, "0.0%");
-      formats.time = format(isStrong, "[mm]:ss");
+    for (const bool isPale : {false, true}) {
+      for (const bool isStrong : {false, true})
+        m_formats[isPale ? 1 : 0][isStrong ? 1 : 0] = {
+            format(isStrong, nullptr, isPale), format(isStrong, "0.0", isPale),
+            format(isStrong, "0.00", isPale), format(isStrong, "0.0%", isPale),
+            format(isStrong, "[mm]:ss", isPale)};
     }
     m_head = format(true, nullptr);
     format_set_bottom(m_head, LXW_BORDER_THIN);
@@ -124,7 +123,7 @@ class Workbook {
     }
     lxw_row_t head = 0;
     if (!about.empty())
-      addText(head++, 0, about, m_formats[1].plain);
+      addText(head++, 0, about, m_formats[0][1].plain);
     if (!table.groups.empty())
       addGroups(head++, table);
     for (std::size_t i = 0; i < table.columns.size(); ++i)
@@ -158,7 +157,7 @@ class Workbook {
     lxw_row_t row = 1;
     const bool hasTime = drawing.flow.hasTime;
     const auto add = [&](int at, const PerSide<int>& score) {
-      const auto& formats = m_formats[0];
+      const auto& formats = m_formats[0][0];
       addNumber(row, 0, hasTime ? at / kSecondsPerDay : at, hasTime ? formats.time : formats.plain);
       addNumber(row, 1, score[Side::Visitor], formats.plain);
       addNumber(row, 2, score[Side::Home], formats.plain);
@@ -196,8 +195,11 @@ class Workbook {
     constexpr lxw_col_t kBeside = 5;
     m_isGood = worksheet_insert_chart(m_sheet, 1, kBeside, chart) == LXW_NO_ERROR && m_isGood;
   }
-  lxw_format* format(bool isBold, const char* number) {
+  lxw_format* format(bool isBold, const char* number, bool isPale = false) {
+    constexpr lxw_color_t kGrey = 0x6B6B6B;
     lxw_format* result = workbook_add_format(m_book);
+    if (isPale)
+      format_set_font_color(result, kGrey);
     if (isBold)
       format_set_bold(result);
     if (number != nullptr)
@@ -237,7 +239,7 @@ class Workbook {
     for (std::size_t i = 0; i < cells.cells.size(); ++i) {
       const ReportCell& cell = cells.cells[i];
       const bool isStrong = cells.emphasis != ReportRow::Emphasis::None || cell.isStrong;
-      const Formats& formats = m_formats[isStrong ? 1 : 0];
+      const Formats& formats = m_formats[cells.isPale ? 1 : 0][isStrong ? 1 : 0];
       switch (cell.kind) {
       case ReportCell::Kind::Text: addText(row, i, cell.text, formats.plain); break;
       case ReportCell::Kind::Number: addNumber(row, i, cell.value, numberFormat(formats, cell.text)); break;
@@ -262,7 +264,7 @@ class Workbook {
   std::string m_temporary;
   lxw_workbook* m_book = nullptr;
   lxw_worksheet* m_sheet = nullptr;
-  Formats m_formats[2]; // plain and strong
+  Formats m_formats[2][2]; // of usual and of pale rows, plain and strong
   lxw_format* m_head = nullptr;
   lxw_format* m_group = nullptr;
   SheetNames m_names;
