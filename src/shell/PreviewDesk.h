@@ -32,10 +32,10 @@ class PreviewDesk : public QObject {
 
   // In the preview that is open, or a new one.
   void show(std::vector<ReportOffer> offers);
-
- private:
+  // The reports of a season's window, that one first.
   void printSeason(frmSTATS& window, SeasonReport first);
 
+ private:
   Workshop m_workshop;
   TeamStore& m_teams;
   WindowArea& m_area;

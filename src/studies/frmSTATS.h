@@ -46,6 +46,9 @@ class frmSTATS : public ChildWindow {
   const std::shared_ptr<const Season>& statistics() const { return m_desk.season(); }
   std::optional<SeasonId> chosenTeam() const { return m_desk.chosenTeam(); }
   std::shared_ptr<const SeasonPerson> chosenPerson() const; // player or line; null: nobody
+  // Of the page of a team: the team, and the one for whose coach its scouting sheet is.
+  std::optional<SeasonId> shownTeam() const;
+  std::optional<SeasonId> readingTeam() const;
   // What is in front, for whoever prints it.
   enum class Page { Standings, Games, Players, Lines, Leaders, Person, Team, Search, LeftOut };
   Page shownPage() const;
@@ -58,6 +61,7 @@ class frmSTATS : public ChildWindow {
 
  signals:
   void gameAsked(const QString& path); // to be opened as a scorecard
+  void scoutAsked();                   // the scouting sheet of the shown team
 
  private:
   QWidget* makeGames();
