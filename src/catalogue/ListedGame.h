@@ -69,7 +69,7 @@ struct ListedGame {
   int overtimes = 0; // periods behind those of the rules
   PerSide<TeamRow> teamRows = {};
   PerSide<int> possessions = {}; // that began; none in a game of totals
-  // Of each period of the rules; none in a game of totals, nor of its overtimes.
+  // Of each period of the rules that was played; none in a game of totals, nor of its overtimes.
   std::vector<PerSide<std::int16_t>> periodPoints;
   PerSide<PointOrigins> origins = {};           // nothing of a game of totals
   int seconds = 0;                              // with players on court

@@ -169,7 +169,8 @@ std::optional<CountOutOfRange> SummaryReader::summarise(const Game& source, List
 
 void SummaryReader::addPeriods(int periods, ListedGame& game) const {
   constexpr int kMost = GameState::kPeriodRows - 2; // the last row is of all behind
-  for (int period = 1; game.isFromEvents() && period <= std::min(periods, kMost); ++period) {
+  const int last = std::min({periods, kMost, m_state.period});
+  for (int period = 1; game.isFromEvents() && period <= last; ++period) {
     const std::size_t row = GameState::periodRow(period);
     game.periodPoints.push_back(
         {m_state.periods[Side::Visitor][row].points, m_state.periods[Side::Home][row].points});

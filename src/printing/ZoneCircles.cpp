@@ -20,11 +20,10 @@ constexpr QColor kLines(0x59, 0x59, 0x59);
 // In units of the court; two of the largest do not meet.
 constexpr double kLeastRadius = 7.5;
 constexpr double kMostRadius = 11.5;
-// In units of the page.
-constexpr double kPercentSize = 52;
-constexpr double kFractionSize = 42;
-constexpr double kEdge = 6;
-constexpr double kAir = 8;
+constexpr double kPercentSize = 6;
+constexpr double kFractionSize = 4.9;
+constexpr double kAir = 1;
+constexpr double kEdge = 6; // in units of the page
 
 QPen edgeOf(double difference) {
   QPen pen(Qt::black, kEdge);
@@ -35,7 +34,7 @@ QPen edgeOf(double difference) {
 
 QFont sized(const QFont& font, double size, bool isBold) {
   QFont result = font;
-  result.setPixelSize(static_cast<int>(size));
+  result.setPixelSize(static_cast<int>(std::lround(size)));
   result.setBold(isBold);
   return result;
 }
@@ -48,8 +47,8 @@ void paintZoneCircles(QPainter& painter, const ShotDrawing& drawing, const QRect
   CourtPicture({Qt::white, kBox, Qt::white, kLines}, kUnitsPerInch / 96).paintCourt(painter, fitted, kTurn);
   const QTransform transform = CourtPicture::fromCourt(fitted, kTurn);
   const double scale = fitted.width() / court::kWidth;
-  const QFont upper = sized(painter.font(), kPercentSize, true);
-  const QFont lower = sized(painter.font(), kFractionSize, false);
+  const QFont upper = sized(painter.font(), kPercentSize * scale, true);
+  const QFont lower = sized(painter.font(), kFractionSize * scale, false);
   const QFontMetricsF upperMetrics(upper, painter.device());
   const QFontMetricsF lowerMetrics(lower, painter.device());
   for (std::size_t i = 0; i < drawing.zones.size(); ++i) {
@@ -58,7 +57,7 @@ void paintZoneCircles(QPainter& painter, const ShotDrawing& drawing, const QRect
     const double needed = std::max(upperMetrics.horizontalAdvance(toQt(zone.percent)),
                                    lowerMetrics.horizontalAdvance(toQt(zone.fraction))) /
                               2 +
-                          kAir;
+                          kAir * scale;
     const double wanted = kLeastRadius + (kMostRadius - kLeastRadius) * std::sqrt(zone.strength);
     const double radius = std::max(wanted * scale, needed);
     const court::Place label = court::chartZoneLabel(zone.zone);

@@ -23,6 +23,7 @@ namespace hooptab {
 namespace {
 
 constexpr int kTeamWidth = 200;
+constexpr int kReaderLetters = 12;
 
 QString balanceText(const SeasonTeamRow& team, const Texts& texts) {
   const auto count = [&](int number, Text one, Text many) {
@@ -79,6 +80,8 @@ QWidget* TeamPanel::makeScouting() {
   auto* part = new QWidget(this);
   m_reader = new QComboBox(part);
   m_reader->setObjectName(QStringLiteral("lstSCOUTFOR"));
+  m_reader->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  m_reader->setMinimumContentsLength(kReaderLetters);
   setAccessibleNumber(*m_reader, Text::ScoutForTeam);
   setToolTipNumber(*m_reader, Text::ScoutForTeam);
   m_scout = iconButton("cmdSCOUT", Text::ScoutReport, Text::ScoutReport, "stprint", part);

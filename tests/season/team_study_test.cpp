@@ -72,7 +72,7 @@ TEST(TeamStudy, ACourseIsOfTheGamesFromEventsAndOfTheirPeriods) {
   const SeasonStatistics statistics = season.statistics();
   const TeamCourse pan = courseOf(statistics, *season.catalogue().teamOf("PAN-A"));
   EXPECT_EQ(pan.games, 1);
-  ASSERT_EQ(pan.periods.size(), 4U);
+  ASSERT_EQ(pan.periods.size(), 2U) << "the others were not played";
   EXPECT_EQ(pan.periods[0].pointsFor, 7);
   EXPECT_EQ(pan.periods[0].pointsAgainst, 3);
   EXPECT_EQ(pan.periods[1].pointsFor, 2);
