@@ -17,10 +17,11 @@ constexpr ShotKinds kRightKind = shotKinds({EventCode::GLD});
 constexpr int kForty = 40 * 60;
 constexpr int kRegularSeconds = 10 * 60; // in a game
 
-// What is worth telling: a good shooter from afar, a poor one, and a poor one from the line.
+// What is worth telling: a good shooter from afar, a poor one, a poor one from the line, and who has a side.
 constexpr double kGoodThrees = 1.0 / 3;
 constexpr double kPoorThrees = 0.28;
 constexpr double kPoorThrows = 0.7;
+constexpr double kClearSide = 0.6; // of lay-ups
 
 using Weighed = std::optional<std::pair<double, double>>;
 
@@ -131,9 +132,9 @@ ScoutKeys::Sentence ScoutKeys::scorer() const {
   std::string& words = sentence.back().text;
   words += " (" + fractionOf(*player, kFieldKinds) + ", eFG " +
            wholePercent(rateNamed("eFG").value({Side::Visitor, numbers, {}})) + ')';
-  constexpr double kHalf = 0.5;
-  if (const auto right = driveShare(numbers); right && *right != kHalf) {
-    const bool isRight = *right > kHalf;
+  const auto right = driveShare(numbers);
+  if (right && std::max(*right, 1 - *right) >= kClearSide) {
+    const bool isRight = *right >= kClearSide;
     const int drives = numbers.attempted(isRight ? kRightKind : kLeftKind);
     words += "; " + m_texts.withPlaceholder(
                         isRight ? Text::ScoutKeyLayups : Text::ScoutKeyLayupsLeft,
@@ -143,36 +144,32 @@ ScoutKeys::Sentence ScoutKeys::scorer() const {
   return sentence;
 }
 
+ScoutKeys::Sentence ScoutKeys::ofShots(Text text, const ScoutedPlayer* player, ShotKinds kinds) const {
+  if (player == nullptr)
+    return {};
+  Sentence sentence = named(text, player->name, fractionOf(*player, kinds));
+  sentence.back().text += percentOf(*player, kinds);
+  return sentence;
+}
+
 ScoutKeys::Sentence ScoutKeys::threes() const {
-  const ScoutedPlayer* player = highest([](const ScoutedPlayer& each) -> Weighed {
+  const auto* player = highest([](const ScoutedPlayer& each) -> Weighed {
     const Weighed share = shareOf(each, kThreeKinds, kLeastThrees);
     return share && share->first >= kGoodThrees ? share : std::nullopt;
   });
-  if (player == nullptr)
-    return {};
-  Sentence sentence = named(Text::ScoutKeyThrees, player->name, fractionOf(*player, kThreeKinds));
-  sentence.back().text += percentOf(*player, kThreeKinds);
-  return sentence;
+  return ofShots(Text::ScoutKeyThrees, player, kThreeKinds);
 }
 
 ScoutKeys::Sentence ScoutKeys::leave() const {
-  const ScoutedPlayer* player = highest(
+  const auto* player = highest(
       [](const ScoutedPlayer& each) { return poorShareOf(each, kThreeKinds, kLeastThrees, kPoorThrees); });
-  if (player == nullptr)
-    return {};
-  Sentence sentence = named(Text::ScoutKeyLeave, player->name, fractionOf(*player, kThreeKinds));
-  sentence.back().text += percentOf(*player, kThreeKinds);
-  return sentence;
+  return ofShots(Text::ScoutKeyLeave, player, kThreeKinds);
 }
 
 ScoutKeys::Sentence ScoutKeys::foul() const {
-  const ScoutedPlayer* player = highest(
+  const auto* player = highest(
       [](const ScoutedPlayer& each) { return poorShareOf(each, kThrowKinds, kLeastThrows, kPoorThrows); });
-  if (player == nullptr)
-    return {};
-  Sentence sentence = named(Text::ScoutKeyFoul, player->name, fractionOf(*player, kThrowKinds));
-  sentence.back().text += percentOf(*player, kThrowKinds);
-  return sentence;
+  return ofShots(Text::ScoutKeyFoul, player, kThrowKinds);
 }
 
 ScoutKeys::Sentence ScoutKeys::boards() const {

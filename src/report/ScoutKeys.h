@@ -49,6 +49,8 @@ class ScoutKeys {
   using Value = std::optional<std::pair<double, double>> (*)(const ScoutedPlayer& player);
   [[nodiscard]] const ScoutedPlayer* highest(Value value) const;
 
+  // Nothing of nobody.
+  [[nodiscard]] Sentence ofShots(Text text, const ScoutedPlayer* player, ShotKinds kinds) const;
   [[nodiscard]] Sentence scorer() const;
   [[nodiscard]] Sentence threes() const;
   [[nodiscard]] Sentence foul() const;
