@@ -5,6 +5,7 @@
 #include "checks/Finding.h"
 #include "game/GameState.h"
 #include "game/Side.h"
+#include "insight/GameInsight.h"
 
 #include <array>
 #include <cstdint>
@@ -67,7 +68,10 @@ struct ListedGame {
   PerSide<int> points = {};
   int overtimes = 0; // periods behind those of the rules
   PerSide<TeamRow> teamRows = {};
-  PerSide<int> possessions = {};                // that began; none in a game of totals
+  PerSide<int> possessions = {}; // that began; none in a game of totals
+  // Of each period of the rules that was played; none in a game of totals, nor of its overtimes.
+  std::vector<PerSide<std::int16_t>> periodPoints;
+  PerSide<PointOrigins> origins = {};           // nothing of a game of totals
   int seconds = 0;                              // with players on court
   std::array<std::int32_t, 3> leadSeconds = {}; // team 0 ahead, team 1 ahead, tied; not below 0
   std::array<std::string, 2> label;             // of the user's own statistics; empty for none
@@ -83,9 +87,11 @@ struct ListedGame {
   std::vector<Finding> wrong;
   std::size_t wrongCount = 0;
   std::vector<GameRow> players; // those who were on court or have any count
+  std::uint32_t starters = 0;   // bit n: the row at place n of them was on court when the clock ran first
   std::vector<LineRow> lines;   // those that played a second or have any count
   std::vector<SeasonShot> shots;
 
+  [[nodiscard]] bool isStarter(std::size_t player) const { return (starters >> player & 1U) != 0; }
   // Entered as totals it has no lines.
   [[nodiscard]] bool isFromEvents() const {
     return input == InputKind::Live || input == InputKind::LiveWithoutTime;

@@ -77,6 +77,16 @@ void visitTeamRow(Archive& archive, Row& row) {
   archive.number(row.timeOuts);
 }
 
+template <class Archive, class Origins>
+void visitOrigins(Archive& archive, Origins& origins) {
+  archive.number(origins.paint);
+  archive.number(origins.fromTurnovers);
+  archive.number(origins.secondChance);
+  archive.optional(origins.bench, [&](auto& bench) { archive.number(bench); });
+  archive.number(origins.quick);
+  archive.optional(origins.fastBreak, [&](auto& fastBreak) { archive.number(fastBreak); });
+}
+
 template <class Archive, class Game>
 void visitGame(Archive& archive, Game& game) {
   archive.text(game.date);
@@ -91,7 +101,13 @@ void visitGame(Archive& archive, Game& game) {
     archive.number(game.teamColour[side]);
     archive.number(game.possessions[side]);
     visitTeamRow(archive, game.teamRows[side]);
+    visitOrigins(archive, game.origins[side]);
   }
+  archive.list(game.periodPoints, [&](auto& period) {
+    for (auto& points : period)
+      archive.number(points);
+  });
+  archive.number(game.starters);
   archive.number(game.overtimes);
   archive.number(game.seconds);
   for (auto& seconds : game.leadSeconds)

@@ -157,10 +157,24 @@ std::optional<CountOutOfRange> SummaryReader::summarise(const Game& source, List
   game.teamRows = m_state.teamRows;
   game.possessions = insight.whole.possessions;
   game.seconds = std::max(insight.whole.seconds, 0);
-  for (const Side side : kSides)
+  game.origins = insight.origins;
+  for (const Side side : kSides) {
+    game.starters |= rowsOf(side, unsigned{insight.starters[side]} & unsigned{m_state.wereOnCourt[side]});
     addLines(source.roster[side], side, insight, game);
+  }
+  addPeriods(details.periods, game);
   addShots(game);
   return outOfRange;
+}
+
+void SummaryReader::addPeriods(int periods, ListedGame& game) const {
+  constexpr int kMost = GameState::kPeriodRows - 2; // the last row is of all behind
+  const int last = std::min({periods, kMost, m_state.period});
+  for (int period = 1; game.isFromEvents() && period <= last; ++period) {
+    const std::size_t row = GameState::periodRow(period);
+    game.periodPoints.push_back(
+        {m_state.periods[Side::Visitor][row].points, m_state.periods[Side::Home][row].points});
+  }
 }
 
 void SummaryReader::addPlayers(const Roster& roster, Side side, ListedGame& game) {

@@ -32,6 +32,7 @@ class SummaryReader {
   void addPlayers(const Roster& roster, Side side, ListedGame& game);
   void addLines(const Roster& roster, Side side, const GameInsight& insight, ListedGame& game);
   void addUntoldLines(Side side, const GameInsight& insight, ListedGame& game) const;
+  void addPeriods(int periods, ListedGame& game) const;
   void addShots(ListedGame& game) const;
   // Which rows of the game's players stand for a line's.
   [[nodiscard]] std::uint32_t rowsOf(Side side, unsigned members) const;

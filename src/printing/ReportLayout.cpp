@@ -27,7 +27,7 @@ double pictureHeight(const ReportPicture& picture, double width) {
   const auto* shots = std::get_if<ShotDrawing>(&picture.drawing);
   if (shots == nullptr)
     return kDiagramHeight;
-  return width * court::kLength / court::kWidth + (shots->differences.empty() ? 0 : legendHeight(width));
+  return width * court::kLength / court::kWidth + (shots->hasLegend() ? legendHeight(width) : 0);
 }
 
 double widthInGrid(double room, double across) {
@@ -236,6 +236,21 @@ void ReportLayout::place(const ReportPicture& picture) {
   addLines(caption, PageFont::Cell);
   took(QRectF(at, QSizeF(width, height)));
 }
+
+void ReportLayout::place(const ReportSentences& block) {
+  QStringList lines;
+  for (const auto& sentence : block.sentences) {
+    QString words;
+    for (const ReportSentences::Part& part : sentence)
+      words += toQt(part.text);
+    lines += m_fonts.wrapped(PageFont::Body, words, m_body.width());
+  }
+  placeLines(m_fonts.wrapped(PageFont::Heading, toQt(block.title), m_body.width()), PageFont::Heading);
+  placeLines(lines, PageFont::Body);
+}
+
+// A report of many pages has no rest of its page to fill.
+void ReportLayout::place(const ReportRuledLines& /*block*/) {}
 
 void ReportLayout::place(const ReportTable& table) {
   m_table = &m_tables.at(&table);

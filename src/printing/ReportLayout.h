@@ -51,6 +51,8 @@ class ReportLayout {
   void place(const ReportParagraph& paragraph);
   void place(const ReportTable& table);
   void place(const ReportPicture& picture);
+  void place(const ReportSentences& block);
+  void place(const ReportRuledLines& block);
   void place(const ReportPageBreak& pageBreak);
   void place(const FormSheet& form);
   void placeTablePart();

@@ -25,6 +25,30 @@ QFont pageFont(int size, bool isBold) {
   return font;
 }
 
+// A sign that French puts behind a blank does not begin a line.
+QString unbroken(QString text) {
+  for (const char16_t sign : {u':', u';', u'?', u'!', u'%', u'»'})
+    text.replace(QString(u' ') + QChar(sign), QString(QChar::Nbsp) + QChar(sign));
+  return text;
+}
+
+// What stands between two blanks, of as many fonts as it has, with the blank behind it.
+std::vector<PageFonts::Pieces> wordsOf(const PageFonts::Pieces& text) {
+  std::vector<PageFonts::Pieces> words(1);
+  for (const PageFonts::Piece& piece : text) {
+    const QString shown = unbroken(piece.text);
+    for (qsizetype from = 0; from < shown.size();) {
+      const qsizetype blank = shown.indexOf(u' ', from);
+      const qsizetype end = blank < 0 ? shown.size() : blank + 1;
+      words.back().push_back({shown.mid(from, end - from), piece.font});
+      if (blank >= 0)
+        words.emplace_back();
+      from = end;
+    }
+  }
+  return words;
+}
+
 } // namespace
 
 PageFonts::PageFonts() {
@@ -46,11 +70,7 @@ double PageFonts::width(PageFont which, const QString& text) const {
 
 QStringList PageFonts::wrapped(PageFont which, const QString& text, double width) const {
   QStringList lines;
-  // A sign that French puts behind a blank does not begin a line.
-  QString unbroken = text;
-  for (const char16_t sign : {u':', u';', u'?', u'!', u'%', u'»'})
-    unbroken.replace(QString(u' ') + QChar(sign), QString(QChar::Nbsp) + QChar(sign));
-  for (const QString& paragraph : unbroken.split(u'\n')) {
+  for (const QString& paragraph : unbroken(text).split(u'\n')) {
     if (this->width(which, paragraph) <= width) {
       lines << paragraph;
       continue;
@@ -65,6 +85,26 @@ QStringList PageFonts::wrapped(PageFont which, const QString& text, double width
       lines << paragraph.mid(line.textStart(), line.textLength()).trimmed();
     }
     layout.endLayout();
+  }
+  return lines;
+}
+
+std::vector<PageFonts::Pieces> PageFonts::wrapped(const Pieces& text, double width) const {
+  std::vector<Pieces> lines(1);
+  double taken = 0;
+  for (const Pieces& word : wordsOf(text)) {
+    double whole = 0;
+    for (const Piece& piece : word)
+      whole += this->width(piece.font, piece.text);
+    const double shown = word.empty() ? 0
+                                      : whole - this->width(word.back().font, word.back().text) +
+                                            this->width(word.back().font, word.back().text.trimmed());
+    if (taken > 0 && taken + shown > width) {
+      lines.emplace_back();
+      taken = 0;
+    }
+    taken += whole;
+    lines.back().insert(lines.back().end(), word.begin(), word.end());
   }
   return lines;
 }

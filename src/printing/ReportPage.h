@@ -30,6 +30,13 @@ class PageFonts {
   double width(PageFont which, const QString& text) const;
   // The text in lines of at most that width; words that are longer are broken.
   QStringList wrapped(PageFont which, const QString& text, double width) const;
+  // The same of a text of several fonts.
+  struct Piece {
+    QString text;
+    PageFont font;
+  };
+  using Pieces = std::vector<Piece>;
+  std::vector<Pieces> wrapped(const Pieces& text, double width) const;
   // Cut, with an ellipsis, where it is longer.
   QString elided(PageFont which, const QString& text, double width) const;
 
@@ -48,6 +55,7 @@ struct PageText {
   QRectF box; // as wide as the text
   QString text;
   PageFont font = PageFont::Cell;
+  bool isPale = false;
 };
 struct PageTag { // a team's abbreviation on its colour
   QRectF box;
@@ -56,7 +64,11 @@ struct PageTag { // a team's abbreviation on its colour
 };
 struct PageFill {
   QRectF box;
-  double grey = 1; // 0 black, 1 white
+  double grey = 1;    // 0 black, 1 white
+  QColor colour = {}; // valid: in place of the grey
+};
+struct PageFrame { // with round corners, around what stands in it
+  QRectF box;
 };
 struct PageLine {
   QPointF from, to;
@@ -69,6 +81,7 @@ struct PagePicture {
 
 struct ReportPage {
   std::vector<PageFill> fills;
+  std::vector<PageFrame> frames;
   std::vector<PageLine> lines;
   std::vector<PageText> texts;
   std::vector<PageTag> tags;

@@ -6,6 +6,7 @@
 #include "court/CourtPicture.h"
 #include "insight/MarginPainter.h"
 #include "printing/FormPainter.h"
+#include "printing/ZoneCircles.h"
 #include "season/ZoneChart.h"
 #include "storage/Module1.h"
 #include "storage/Placeholders.h"
@@ -41,7 +42,9 @@ CourtZoneText comparedText(const ZoneWords& zone, double points) {
 
 void paintShots(QPainter& painter, const ShotDrawing& drawing, const QRectF& area, const PageFonts& fonts) {
   constexpr auto kTurn = CourtPicture::Turn::BaselineTop;
-  const bool isCompared = !drawing.differences.empty();
+  if (drawing.areCircles)
+    return paintZoneCircles(painter, drawing, area);
+  const bool isCompared = drawing.hasLegend();
   const double legend = isCompared ? legendHeight(area.width()) : 0;
   const QRectF box = area.adjusted(0, 0, 0, -legend);
   const CourtPicture court =
@@ -169,6 +172,15 @@ void paintTag(QPainter& painter, const PageTag& tag, const PageFonts& fonts) {
   painter.restore();
 }
 
+void paintFrame(QPainter& painter, const PageFrame& frame) {
+  constexpr double kRadius = 25;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(grey(0.35), kThinLine));
+  painter.drawRoundedRect(frame.box, kRadius, kRadius);
+  painter.restore();
+}
+
 void paintHeadAndFoot(QPainter& painter, const ReportLayout& layout, std::size_t page,
                       const PagesAround& around) {
   const PageFonts& fonts = layout.fonts();
@@ -227,7 +239,9 @@ void paintPage(QPainter& painter, const ReportLayout& layout, std::size_t page, 
   }
   paintHeadAndFoot(painter, layout, page, around);
   for (const PageFill& fill : content.fills)
-    painter.fillRect(fill.box, grey(fill.grey));
+    painter.fillRect(fill.box, fill.colour.isValid() ? fill.colour : grey(fill.grey));
+  for (const PageFrame& frame : content.frames)
+    paintFrame(painter, frame);
   for (const PageLine& line : content.lines) {
     painter.setPen(QPen(Qt::black, line.width, Qt::SolidLine, Qt::FlatCap));
     painter.drawLine(line.from, line.to);
@@ -236,13 +250,15 @@ void paintPage(QPainter& painter, const ReportLayout& layout, std::size_t page, 
     paintTag(painter, tag, fonts);
   for (const PagePicture& picture : content.pictures)
     paintDrawing(painter, *picture.picture, picture.box, fonts);
-  painter.setPen(Qt::black);
+  constexpr double kPale = 0.42; // seen on a grey row as well
   for (const PageFont font : {PageFont::Title, PageFont::Heading, PageFont::Body, PageFont::BoldBody,
                               PageFont::Cell, PageFont::BoldCell}) {
     painter.setFont(fonts.font(font)); // once each: changing it is dear
     for (const PageText& text : content.texts) {
-      if (text.font == font)
-        painter.drawText(QPointF(text.box.left(), text.box.top() + fonts.ascent(font)), text.text);
+      if (text.font != font)
+        continue;
+      painter.setPen(text.isPale ? grey(kPale) : QColor(Qt::black));
+      painter.drawText(QPointF(text.box.left(), text.box.top() + fonts.ascent(font)), text.text);
     }
   }
   painter.restore();

@@ -43,9 +43,20 @@ bool isNote(const ReportBlock& block) {
 ReportPage SheetLayout::page() {
   constexpr int kSteps = 12;
   for (int step = kSteps;; --step) {
+    const double ease = static_cast<double>(step) / kSteps;
     ReportPage page;
-    if (lay(page, static_cast<double>(step) / kSteps) <= m_body.bottom() || step == 0)
+    const double bottom = lay(page, ease);
+    if (bottom > m_body.bottom() && step > 0)
+      continue;
+    const auto isRuled = [](const ReportBlock& block) {
+      return std::holds_alternative<ReportRuledLines>(block);
+    };
+    if (std::ranges::none_of(m_report.blocks, isRuled))
       return page;
+    m_ruledHeight = std::max(0.0, m_ruledHeight + m_body.bottom() - bottom);
+    ReportPage filled;
+    lay(filled, ease);
+    return filled;
   }
 }
 
@@ -112,17 +123,40 @@ double SheetLayout::layHead(ReportPage& page, const Band& blocks) {
     if (paragraph == nullptr)
       continue;
     const bool isHeading = paragraph->style == ReportParagraph::Style::Heading;
+    QRectF room = left;
+    if (!paragraph->beside.empty()) // which is never cut, beside text that can be wrapped
+      room.setRight(placeBeside(page, *paragraph, left));
     left.setTop(left.top() +
-                placeLines(page, isHeading ? PageFont::Title : PageFont::Body, paragraph->text, left, false));
+                placeLines(page, isHeading ? PageFont::Title : PageFont::Body, paragraph->text, room, false));
   }
   bottom = std::max(bottom, left.top()) + kGap.least / 2;
   page.lines.push_back({{m_body.left(), bottom}, {m_body.right(), bottom}, kRule});
   return bottom - m_body.top();
 }
 
+// On the base line of the paragraph's first line; gives where the room for that ends.
+double SheetLayout::placeBeside(ReportPage& page, const ReportParagraph& paragraph,
+                                const QRectF& column) const {
+  const bool isHeading = paragraph.style == ReportParagraph::Style::Heading;
+  const PageFont font = isHeading ? PageFont::Heading : PageFont::Body;
+  const PageFont first = isHeading ? PageFont::Title : PageFont::Body;
+  const double taken = isHeading ? m_fonts.width(first, toQt(paragraph.text)) + kTagAir : 0;
+  const QString words = m_fonts.elided(font, toQt(paragraph.beside), column.width() - taken);
+  const double width = m_fonts.width(font, words);
+  const double x = isHeading ? column.left() + taken : column.right() - width;
+  page.texts.push_back({QRectF(x, column.top() + m_fonts.ascent(first) - m_fonts.ascent(font), width,
+                               m_fonts.lineHeight(font)),
+                        words, font});
+  return isHeading ? column.right() : x - kSideGap;
+}
+
 double SheetLayout::place(ReportPage& page, const ReportBlock& block, const QRectF& column) {
   if (const auto* table = std::get_if<ReportTable>(&block))
-    return placeTable(page, *table, column);
+    return table->areTiles ? placeTiles(page, *table, column) : placeTable(page, *table, column);
+  if (const auto* sentences = std::get_if<ReportSentences>(&block))
+    return placeSentences(page, *sentences, column);
+  if (const auto* ruled = std::get_if<ReportRuledLines>(&block))
+    return placeRuledLines(page, *ruled, column);
   if (const auto* picture = std::get_if<ReportPicture>(&block))
     return placePicture(page, *picture, column);
   if (const auto* paragraph = std::get_if<ReportParagraph>(&block))
@@ -147,6 +181,73 @@ double SheetLayout::placeTable(ReportPage& page, const ReportTable& table, const
   return at.y() - column.top();
 }
 
+// Its values large in frames of equal widths, their heads below them; no title.
+double SheetLayout::placeTiles(ReportPage& page, const ReportTable& table, const QRectF& column) const {
+  constexpr double kTileGap = 2 * kUnitsPerMillimetre;
+  constexpr double kTileAir = 1 * kUnitsPerMillimetre;
+  const auto count = static_cast<double>(table.columns.size());
+  const double width = (column.width() - (count - 1) * kTileGap) / count;
+  const double value = m_fonts.lineHeight(PageFont::Title);
+  double height = 0;
+  QRectF tile(column.left(), column.top(), width, 0);
+  for (std::size_t i = 0; i < table.columns.size(); ++i, tile.translate(width + kTileGap, 0)) {
+    const QRectF inside = tile.adjusted(kTileAir, kTileAir / 2, -kTileAir, 0);
+    placeLines(page, PageFont::Title, table.rows.front().cells[i].text, inside, true);
+    height = std::max(height, value + kTileAir +
+                                  placeLines(page, PageFont::Cell, table.columns[i].header,
+                                             inside.adjusted(0, value, 0, 0), true));
+    page.frames.push_back({tile});
+  }
+  for (PageFrame& frame : page.frames)
+    frame.box.setHeight(height);
+  return height;
+}
+
+// Each on a ground, behind a bar.
+double SheetLayout::placeSentences(ReportPage& page, const ReportSentences& block,
+                                   const QRectF& column) const {
+  constexpr double kBar = 1 * kUnitsPerMillimetre;
+  constexpr double kSentenceAir = 12;
+  constexpr double kGround = 0.95;
+  const QColor bar = lookOf(ColourScheme::Light).accent;
+  const double line = m_fonts.lineHeight(PageFont::Body);
+  double y = column.top() + placeTitle(page, {}, block.title, block.note, column);
+  for (const auto& sentence : block.sentences) {
+    PageFonts::Pieces pieces;
+    for (const ReportSentences::Part& part : sentence)
+      pieces.push_back({toQt(part.text), part.isStrong ? PageFont::BoldBody : PageFont::Body});
+    const double top = y;
+    y += kSentenceAir;
+    for (const PageFonts::Pieces& words : m_fonts.wrapped(pieces, column.width() - 4 * kBar)) {
+      double x = column.left() + 2 * kBar;
+      for (const PageFonts::Piece& piece : words) {
+        const double width = m_fonts.width(piece.font, piece.text);
+        page.texts.push_back({QRectF(x, y, width, line), piece.text, piece.font});
+        x += width;
+      }
+      y += line;
+    }
+    y += kSentenceAir;
+    page.fills.push_back({QRectF(column.left(), top, column.width(), y - top), kGround});
+    page.fills.push_back({QRectF(column.left(), top, kBar, y - top), 0, bar});
+    y += kSentenceAir;
+  }
+  return y - kSentenceAir - column.top();
+}
+
+// As many as the page leaves room for; without room for one, no title either.
+double SheetLayout::placeRuledLines(ReportPage& page, const ReportRuledLines& block,
+                                    const QRectF& column) const {
+  constexpr double kLineGap = 7 * kUnitsPerMillimetre;
+  constexpr double kThinRule = 3;
+  const double title = m_fonts.lineHeight(PageFont::BoldBody) + kTitleGap;
+  if (m_ruledHeight >= title + kLineGap)
+    placeTitle(page, {}, block.title, {}, column);
+  for (double y = title + kLineGap; y <= m_ruledHeight; y += kLineGap)
+    page.lines.push_back({column.topLeft() + QPointF(0, y), column.topRight() + QPointF(0, y), kThinRule});
+  return m_ruledHeight;
+}
+
 double SheetLayout::placePicture(ReportPage& page, const ReportPicture& picture, const QRectF& column) {
   const double title =
       placeTitle(page, picture.tag, picture.tag ? std::string() : picture.title, picture.note, column);
@@ -154,7 +255,7 @@ double SheetLayout::placePicture(ReportPage& page, const ReportPicture& picture,
   double height = kFlow.at(m_ease);
   if (shots != nullptr)
     height = column.width() * court::kLength / court::kWidth +
-             (shots->differences.empty() ? 0 : legendHeight(column.width()));
+             (shots->hasLegend() ? legendHeight(column.width()) : 0);
   page.pictures.push_back({QRectF(column.left(), column.top() + title, column.width(), height), &picture});
   const double above = title + height + kTitleGap;
   return picture.caption.empty() ? above - kTitleGap

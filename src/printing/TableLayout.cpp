@@ -386,6 +386,7 @@ void TableLayout::placeRow(ReportPage& page, const Part& part, std::size_t row, 
     page.fills.push_back({box, kStripe});
   if (isTotal || cells.beginsSection)
     page.lines.push_back({box.topLeft(), box.topRight(), isTotal ? kThickLine : kThinLine * 2});
+  const std::size_t firstText = page.texts.size();
   double x = at.x();
   for (const std::size_t column : part.columns) {
     if (m_beginsGroup[column])
@@ -397,6 +398,8 @@ void TableLayout::placeRow(ReportPage& page, const Part& part, std::size_t row, 
   }
   if (cells.isNote)
     placeNote(page, part, row, at);
+  for (std::size_t text = firstText; text < page.texts.size(); ++text)
+    page.texts[text].isPale = cells.isPale;
 }
 
 void TableLayout::placeNote(ReportPage& page, const Part& part, std::size_t row, QPointF at) const {

@@ -64,13 +64,12 @@ Workbook::Workbook() : m_temporary(m_scratch.path()) {
   m_book = workbook_new_opt((m_scratch.path() + "/report.xlsx").c_str(), &options);
   if (m_book == nullptr)
     return;
-  for (const bool isStrong : {false, true}) {
-    Formats& formats = m_formats[isStrong ? 1 : 0];
-    formats.plain = format(isStrong, nullptr);
-    formats.oneDecimal = format(isStrong, "0.0");
-    formats.twoDecimals = format(isStrong, "0.00");
-    formats.percent = format(isStrong, "0.0%");
-    formats.time = format(isStrong, "[mm]:ss");
+  for (const bool isPale : {false, true}) {
+    for (const bool isStrong : {false, true})
+      m_formats.at(isPale ? 1 : 0).at(isStrong ? 1 : 0) = {
+          format(isStrong, nullptr, isPale), format(isStrong, "0.0", isPale),
+          format(isStrong, "0.00", isPale), format(isStrong, "0.0%", isPale),
+          format(isStrong, "[mm]:ss", isPale)};
   }
   m_head = format(true, nullptr);
   format_set_bottom(m_head, LXW_BORDER_THIN);
@@ -125,7 +124,7 @@ void Workbook::add(const ReportTable& table, const std::string& about, const Tas
     return;
   lxw_row_t row = 0;
   if (!about.empty())
-    addText(row++, 0, about, m_formats[1].plain);
+    addText(row++, 0, about, m_formats[0][1].plain);
   const lxw_row_t head = row + (table.groups.empty() ? 0 : 1);
   addTable(table, row, watch);
   if (watch.isCancelled())
@@ -148,7 +147,7 @@ void Workbook::add(const FlowDrawing& drawing, const std::string& title) {
   lxw_row_t row = 1;
   const bool hasTime = drawing.flow.hasTime;
   const auto add = [&](int at, const PerSide<int>& score) {
-    const Formats& formats = m_formats[0];
+    const Formats& formats = m_formats[0][0];
     addNumber(row, 0, hasTime ? at / kSecondsPerDay : at, hasTime ? formats.time : formats.plain);
     addNumber(row, 1, score[Side::Visitor], formats.plain);
     addNumber(row, 2, score[Side::Home], formats.plain);
@@ -168,9 +167,9 @@ void Workbook::addPage(const Report& report, const std::string& name) {
   for (const ReportBlock& block : report.blocks) {
     if (const auto* paragraph = std::get_if<ReportParagraph>(&block)) {
       const bool isHeading = paragraph->style == ReportParagraph::Style::Heading;
-      addText(row++, 0, paragraph->text, m_formats[isHeading ? 1 : 0].plain);
+      addText(row++, 0, paragraph->text, m_formats[0][isHeading ? 1 : 0].plain);
     } else if (const auto* table = std::get_if<ReportTable>(&block)) {
-      addText(++row, 0, table->title, m_formats[1].plain);
+      addText(++row, 0, table->title, m_formats[0][1].plain);
       row = addTable(*table, row + 1, {}) + 1;
     }
   }
@@ -245,8 +244,11 @@ void Workbook::addFlowChart(const std::string& title, lxw_row_t last, bool hasTi
   m_isGood = worksheet_insert_chart(m_sheet, 1, kBeside, chart) == LXW_NO_ERROR && m_isGood;
 }
 
-lxw_format* Workbook::format(bool isBold, const char* number) {
+lxw_format* Workbook::format(bool isBold, const char* number, bool isPale) {
+  constexpr lxw_color_t kGrey = 0x6B6B6B;
   lxw_format* result = workbook_add_format(m_book);
+  if (isPale)
+    format_set_font_color(result, kGrey);
   if (isBold)
     format_set_bold(result);
   if (number != nullptr)
@@ -290,7 +292,7 @@ void Workbook::addRow(lxw_row_t row, const ReportRow& cells) {
   for (std::size_t i = 0; i < cells.cells.size(); ++i) {
     const ReportCell& cell = cells.cells[i];
     const bool isStrong = cells.emphasis != ReportRow::Emphasis::None || cell.isStrong;
-    const Formats& formats = m_formats[isStrong ? 1 : 0];
+    const Formats& formats = m_formats.at(cells.isPale ? 1 : 0).at(isStrong ? 1 : 0);
     switch (cell.kind) {
     case ReportCell::Kind::Text: addText(row, i, cell.text, formats.plain); break;
     case ReportCell::Kind::Number: addNumber(row, i, cell.value, numberFormat(formats, cell.text)); break;

@@ -71,15 +71,15 @@ class Workbook {
   void measure(const ReportTable& table);
   void addChart(const ReportTable& table, lxw_row_t head);
   void addFlowChart(const std::string& title, lxw_row_t last, bool hasTime);
-  lxw_format* format(bool isBold, const char* number);
+  lxw_format* format(bool isBold, const char* number, bool isPale = false);
 
   ScratchFolder m_scratch;
   std::string m_temporary; // of the library, which keeps a pointer to it
   lxw_workbook* m_book = nullptr;
   lxw_worksheet* m_sheet = nullptr;
-  std::vector<std::size_t> m_widths;     // letters of the sheet's columns
-  std::vector<Chart> m_charts;           // of the sheet, placed once its columns are known
-  std::array<Formats, 2> m_formats = {}; // plain and strong
+  std::vector<std::size_t> m_widths;                    // letters of the sheet's columns
+  std::vector<Chart> m_charts;                          // of the sheet, placed once its columns are known
+  std::array<std::array<Formats, 2>, 2> m_formats = {}; // of usual and of pale rows, plain and strong
   lxw_format* m_head = nullptr;
   lxw_format* m_group = nullptr;
   std::set<std::string> m_taken; // names of sheets, in small letters

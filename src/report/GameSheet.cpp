@@ -4,6 +4,7 @@
 #include "insight/GameInsight.h"
 #include "insight/Rates.h"
 #include "insight/SignedText.h"
+#include "report/FourFactors.h"
 #include "report/GameReports.h"
 #include "report/ReportWords.h"
 #include "scorecard/LeagueSheet.h"
@@ -29,8 +30,6 @@ constexpr struct {
   Counter counter;
   EventCode event;
 } kFouls[] = {{"PF", Counter::PF, EventCode::SPF}, {"TF", Counter::TF, EventCode::STF}};
-// What the teams are compared by, before where their points came from.
-constexpr std::string_view kRates[] = {"eFG", "TOrate", "ORpct", "FTrate"};
 
 class GameSheet {
  public:
@@ -287,27 +286,13 @@ class GameSheet {
     table.columns = {{abbreviation(Side::Visitor), "Visitor", {}, true},
                      {text(Text::Statistic), "Statistic", {}, true, false, true},
                      {abbreviation(Side::Home), "Home"}};
-    for (const std::string_view name : kRates) {
-      const Rate& rate = rateNamed(name);
-      PerSide<std::optional<double>> values;
-      PerSide<ReportCell> cells;
-      for (const Side team : kSides) {
-        values[team] = rate.value(RateBasis::ofAll(team, m_insight.whole));
-        cells[team] = {rateText(rate, values[team]), ReportCell::Kind::Number,
-                       values[team].value_or(0) * (rate.kind == RateKind::Share ? 100 : 1)};
-        if (!values[team])
-          cells[team] = textCell("–");
-      }
-      const double difference =
-          values[Side::Visitor] && values[Side::Home] ? *values[Side::Visitor] - *values[Side::Home] : 0;
-      addCompared(table, rate.words, std::move(cells), rate.isBetterLow ? -difference : difference);
-    }
+    addFourFactors(table, m_insight.whole, m_texts);
     if (!m_insight.isFromEvents)
       return table;
     const PerSide<PointOrigins>& origins = m_insight.origins;
     const auto addCount = [&](Text words, PerSide<int> counts) {
-      addCompared(table, words, {numberCell(counts[Side::Visitor]), numberCell(counts[Side::Home])},
-                  counts[Side::Visitor] - counts[Side::Home]);
+      table.rows.push_back(comparedRow({numberCell(counts[Side::Visitor]), numberCell(counts[Side::Home])},
+                                       text(words), counts[Side::Visitor] - counts[Side::Home]));
     };
     const auto& [visitor, home] = origins.values;
     addCount(Text::InThePaint, {visitor.paint, home.paint});
@@ -325,13 +310,6 @@ class GameSheet {
   static PerSide<int> peaksOf(const PerSide<std::optional<MarginFlow::Peak>>& peaks) {
     const auto points = [&](Side team) { return peaks[team] ? peaks[team]->points : 0; };
     return {points(Side::Visitor), points(Side::Home)};
-  }
-
-  // `better` is above 0 where the visitors are, below where the home team is.
-  void addCompared(ReportTable& table, Text words, PerSide<ReportCell> cells, double better) const {
-    cells[Side::Visitor].isStrong = better > 0;
-    cells[Side::Home].isStrong = better < 0;
-    table.rows.push_back({{cells[Side::Visitor], textCell(text(words)), cells[Side::Home]}});
   }
 
   [[nodiscard]] std::string legend() const {

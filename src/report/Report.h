@@ -1,6 +1,6 @@
-// A report as it is meant: a title and a sequence of paragraphs, tables, pictures and page breaks. The
-// screen, the printer, PDF files and the exports are all made from it. Knows no page, no font and no file
-// format.
+// A report as it is meant: a title and a sequence of paragraphs, sentences, tables, pictures, lines to write
+// on and page breaks. The screen, the printer, PDF files and the exports are all made from it. Knows no page,
+// no font and no file format.
 #pragma once
 
 #include "court/CourtGeometry.h"
@@ -52,6 +52,7 @@ struct ReportRow {
   Emphasis emphasis = Emphasis::None;
   bool beginsSection = false; // a line above it
   bool isNote = false;        // the text of its second cell runs on over all others
+  bool isPale = false;        // says little: in grey
 };
 
 // The columns of numbers that a workbook draws beside a table, over what stands in its first column.
@@ -78,6 +79,7 @@ struct ReportTable {
   bool isInGrid = false;             // one of many of a kind, that stand beside each other in equal widths
   bool isSummary = false;            // one of the small tables beside what the report is about
   bool isRanked = false;             // the best rows stand first, so that the others can be left out
+  bool areTiles = false;             // each cell of its one row large, the head below it
   std::optional<ReportTag> tag = {}; // before the title
   std::string note = {};             // behind the title
   std::optional<ReportChart> chart = {};
@@ -87,6 +89,24 @@ struct ReportParagraph {
   enum class Style : std::uint8_t { Heading, Body, Note };
   Style style = Style::Body;
   std::string text;
+  std::string beside = {}; // smaller behind a heading, at the right edge of other paragraphs
+};
+
+// Sentences that stand out, each by itself.
+struct ReportSentences {
+  struct Part {
+    std::string text;
+    bool isStrong = false;
+    friend bool operator==(const Part&, const Part&) = default;
+  };
+  std::string title;
+  std::string note = {}; // behind it
+  std::vector<std::vector<Part>> sentences;
+};
+
+// Lines to write on, as many as a report of one page has room for.
+struct ReportRuledLines {
+  std::string title;
 };
 
 // The half court with shots, or with sums by zone; one of the two lists is empty.
@@ -100,6 +120,12 @@ struct ShotDrawing {
   // Of each zone, how far its percentage is from the one that it is compared with, in percentage points: they
   // are tinted by it, with a legend. Empty: tinted by their attempts.
   std::vector<double> differences = {};
+  // Each zone is a circle instead, the larger the more attempts, and its difference one of points per shot:
+  // blue above 0, orange with a broken edge below, white at 0.
+  bool areCircles = false;
+
+  // Of the tints of its zones.
+  [[nodiscard]] bool hasLegend() const { return !differences.empty() && !areCircles; }
 };
 
 // Values over an axis, each line from left to right.
@@ -140,7 +166,8 @@ struct FormSheet {
   std::array<std::string, FormLayout::kPlayers> jerseys; // whose digits are filled in
 };
 
-using ReportBlock = std::variant<ReportParagraph, ReportTable, ReportPicture, ReportPageBreak, FormSheet>;
+using ReportBlock = std::variant<ReportParagraph, ReportSentences, ReportTable, ReportPicture,
+                                 ReportRuledLines, ReportPageBreak, FormSheet>;
 
 struct Report {
   std::string title;

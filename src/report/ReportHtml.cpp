@@ -15,7 +15,11 @@ constexpr std::string_view kStyle =
     "th{border-bottom:2px solid #444}th.group{text-align:center;border-bottom:1px solid #999}"
     ".left{text-align:left}tr:nth-child(even) td{background:#f5f5f5}"
     "tr.total td{font-weight:bold;border-top:2px solid #444}tr.section td{border-top:2px solid #444}"
-    "tr.highlighted td{font-weight:bold;background:#e4e4e4}"
+    "tr.highlighted td{font-weight:bold;background:#e4e4e4}tr.pale td{color:#666}"
+    "table.tiles{font-size:1em}table.tiles td{font-size:1.6em;font-weight:bold}"
+    "table.tiles th,table.tiles td{text-align:center}"
+    "h2 small{font-weight:normal}p.sentence{background:#f5f5f5;border-left:.3em solid #444;padding:.3em .6em}"
+    "div.ruled{height:2em;border-bottom:1px solid #999}"
     "div.table{overflow-x:auto}figure{display:inline-block;margin:1em 2em 0 0;vertical-align:top}"
     "figcaption{white-space:pre-line;font-size:.85em}img{max-width:100%}";
 
@@ -55,13 +59,32 @@ class Page {
   Page(std::string& html, const DrawPng& png) : m_html(html), m_png(png) {}
 
   void operator()(const ReportParagraph& paragraph) {
-    const bool isHeading = paragraph.style == ReportParagraph::Style::Heading;
-    element(isHeading ? "h2" : "p", paragraph.text);
+    const std::string name = paragraph.style == ReportParagraph::Style::Heading ? "h2" : "p";
+    m_html += '<' + name + '>' + escaped(paragraph.text);
+    if (!paragraph.beside.empty())
+      m_html += " <small>" + escaped(paragraph.beside) + "</small>";
+    m_html += "</" + name + ">\n";
+  }
+  void operator()(const ReportSentences& block) {
+    heading({}, block.title, block.note);
+    for (const auto& sentence : block.sentences) {
+      m_html += "<p class=\"sentence\">";
+      for (const ReportSentences::Part& part : sentence)
+        m_html += part.isStrong ? "<b>" + escaped(part.text) + "</b>" : escaped(part.text);
+      m_html += "</p>\n";
+    }
+  }
+  void operator()(const ReportRuledLines& block) {
+    constexpr int kLines = 6;
+    element("h2", block.title);
+    for (int line = 0; line < kLines; ++line)
+      m_html += "<div class=\"ruled\"></div>\n";
   }
   void operator()(const ReportTable& table) {
     if (!table.title.empty())
       heading(table.tag, table.title, table.note);
-    m_html += "<div class=\"table\"><table>\n<thead>\n";
+    m_html += table.areTiles ? "<div class=\"table\"><table class=\"tiles\">\n<thead>\n"
+                             : "<div class=\"table\"><table>\n<thead>\n";
     groups(table);
     m_html += "<tr>";
     for (const ReportColumn& column : table.columns) {
@@ -111,6 +134,8 @@ class Page {
       classes = row.emphasis == ReportRow::Emphasis::Total ? "total" : "highlighted";
     if (row.beginsSection)
       classes += classes.empty() ? "section" : " section";
+    if (row.isPale)
+      classes += classes.empty() ? "pale" : " pale";
     m_html += classes.empty() ? "<tr>" : "<tr class=\"" + classes + "\">";
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
       const std::string text = escaped(row.cells[i].text);

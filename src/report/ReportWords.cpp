@@ -3,6 +3,7 @@
 #include "storage/Placeholders.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace hooptab {
@@ -46,6 +47,11 @@ ReportCell::Kind kindOfCell(ValueKind kind) {
   case ValueKind::Percent: return ReportCell::Kind::Percent;
   }
   return ReportCell::Kind::Number;
+}
+
+std::string wholePercent(const std::optional<double>& share) {
+  constexpr double kPercent = 100;
+  return share ? std::to_string(std::lround(kPercent * *share)) + "%" : "–";
 }
 
 std::string proposedFileName(std::string words) {

@@ -5,6 +5,7 @@
 #include "report/Report.h"
 #include "settings/Texts.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,8 @@ inline constexpr ShotKinds kThreeKinds = shotKinds({EventCode::GF3});
 inline constexpr ShotKinds kThrowKinds = shotKinds({EventCode::GFT});
 inline constexpr ShotKinds kFieldKinds = kAllShotKinds & ~kThrowKinds;
 inline constexpr ShotKinds kTwoKinds = kFieldKinds & ~kThreeKinds;
+// "58%", for where there is no room for a decimal; "–" without a value. 0.5 is 50 %.
+[[nodiscard]] std::string wholePercent(const std::optional<double>& share);
 // As the name of a file, without blanks that follow each other.
 [[nodiscard]] std::string proposedFileName(std::string words);
 // Of a list with more rows than this its first ones are proposed for paper.

@@ -2,6 +2,7 @@
 
 #include "report/PlayerSheet.h"
 #include "report/ReportWords.h"
+#include "report/ScoutSheet.h"
 #include "scorecard/ColumnWords.h"
 #include "season/GameColumns.h"
 #include "season/GameSeries.h"
@@ -10,6 +11,7 @@
 #include "season/SeasonColumns.h"
 #include "season/SeasonShots.h"
 #include "season/SeasonWords.h"
+#include "season/TeamStudy.h"
 #include "settings/CountWords.h"
 #include "storage/Module1.h"
 
@@ -37,6 +39,7 @@ constexpr SeasonReportName kReports[] = {
     {SeasonReport::Player, Text::PlayerReport, "player"},
     {SeasonReport::PlayerSheet, Text::PlayerSheetReport, "player-sheet"},
     {SeasonReport::Line, Text::LineReport, "line"},
+    {SeasonReport::Scout, Text::ScoutReport, "scout"},
 };
 
 std::string text(const Texts& texts, Text which) {
@@ -93,6 +96,7 @@ class SeasonReportMaker {
     case SeasonReport::Player: addPerformance(SeasonTable::Players); break;
     case SeasonReport::PlayerSheet: addSheet(); break;
     case SeasonReport::Line: addPerformance(SeasonTable::Lines); break;
+    case SeasonReport::Scout: addScout(); break;
     }
     m_report.fileName = proposedFileName(m_whose + ' ' + m_report.title);
     return std::move(m_report);
@@ -104,11 +108,12 @@ class SeasonReportMaker {
     m_whose = m_choice.team ? m_catalogue.teams()[*m_choice.team].key : text(m_texts, Text::SeasonTitle);
     return m_whose + ", " + selection();
   }
-  std::string selection() const {
-    std::string words = labelled(Text::GamesWord, std::to_string(m_statistics.games().size()), m_texts);
+  std::string selection() const { return selection(m_statistics.games()); }
+  std::string selection(std::span<const std::size_t> games) const {
+    std::string words = labelled(Text::GamesWord, std::to_string(games.size()), m_texts);
     std::string first;
     std::string last;
-    for (const std::size_t place : m_statistics.games()) {
+    for (const std::size_t place : games) {
       const ListedGame& game = m_catalogue.games()[place];
       if (!game.day)
         continue;
@@ -346,12 +351,24 @@ class SeasonReportMaker {
         std::ranges::find_if(players, [&](const SeasonRow& each) { return m_choice.chosen == each.id; });
     if (row == players.end())
       return;
-    Report sheet = playerSheet(m_statistics, row->id, m_texts);
-    m_report.isOnePage = sheet.isOnePage;
-    m_report.blocks = std::move(sheet.blocks);
+    takePage(playerSheet(m_statistics, row->id, m_texts));
     addPoints(m_statistics.resultsOfPlayer(row->id));
     m_whose = m_catalogue.teams()[row->team].key + ' ' + row->number + ' ' + row->name;
     m_report.subject = m_whose + ", " + selection();
+  }
+
+  void addScout() {
+    takePage(scoutSheet(m_statistics, m_choice.team, m_choice.reader, m_texts));
+    if (!m_choice.team)
+      return;
+    std::vector<std::size_t> games = gamesOfTeam(m_statistics, *m_choice.team);
+    std::ranges::reverse(games);
+    m_report.subject = m_whose + ", " + selection(games);
+  }
+
+  void takePage(Report sheet) {
+    m_report.isOnePage = sheet.isOnePage;
+    m_report.blocks = std::move(sheet.blocks);
   }
 
   void addSums(const SeasonRow& row, bool isPlayer) {

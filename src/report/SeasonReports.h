@@ -1,5 +1,6 @@
 // The reports of a season: games, tables of players and lines, leaders, the performance of one player or
-// line, and a player's page. All cells are those of the season's own tables; nothing is summed here.
+// line, a player's page, and the scouting sheet of a team. All cells are those of the season's own tables;
+// nothing is summed here.
 #pragma once
 
 #include "report/Report.h"
@@ -27,6 +28,7 @@ enum class SeasonReport : std::uint8_t {
   Player,
   PlayerSheet,
   Line,
+  Scout,
 };
 
 // How a report is asked for.
@@ -44,14 +46,21 @@ struct SeasonReportName {
   return isOfPlayer(report) || report == SeasonReport::Line;
 }
 
+// About one team, for whoever is to play against it.
+[[nodiscard]] constexpr bool isOfTeam(SeasonReport report) {
+  return report == SeasonReport::Scout;
+}
+
 struct SeasonReportChoice {
   std::optional<SeasonId> team; // whose results are shown
   std::optional<SeasonId>
       chosen; // the player or line of a performance report; one that is highlighted in the others
-  Qualification minimum = {}; // who leads, and which averages are marked
+  Qualification minimum = {};          // who leads, and which averages are marked
+  std::optional<SeasonId> reader = {}; // for whose coach a scouting sheet is
 };
 
-// A performance report without a chosen row that played is one of nobody: it holds no tables.
+// A performance report without a chosen row that played is one of nobody: it holds no tables. Nor does a
+// scouting sheet without a team.
 [[nodiscard]] Report seasonReport(SeasonReport which, const SeasonStatistics& statistics,
                                   const SeasonReportChoice& choice, const Settings& settings,
                                   const Texts& texts);

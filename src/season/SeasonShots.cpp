@@ -59,6 +59,15 @@ ShotSums shotsOfTeam(const GameCatalogue& catalogue, std::span<const std::size_t
   return sums;
 }
 
+ShotSums shotsAgainst(const GameCatalogue& catalogue, std::span<const std::size_t> games, SeasonId team) {
+  ShotSums sums;
+  for (const std::size_t index : games) {
+    const ListedGame& game = catalogue.games()[index];
+    addShots(sums, game, [&](const GameRow& row) { return game.team[otherSide(row.side)] == team; });
+  }
+  return sums;
+}
+
 ShotSums shotsOfPlayer(const GameCatalogue& catalogue, std::span<const GameResult> results, SeasonId player) {
   ShotSums sums;
   for (const GameResult& result : results)

@@ -14,6 +14,9 @@ namespace hooptab {
 [[nodiscard]] ShotSums shotsOfGames(const GameCatalogue& catalogue, std::span<const std::size_t> games);
 [[nodiscard]] ShotSums shotsOfTeam(const GameCatalogue& catalogue, std::span<const std::size_t> games,
                                    SeasonId team);
+// Those of whoever played against it.
+[[nodiscard]] ShotSums shotsAgainst(const GameCatalogue& catalogue, std::span<const std::size_t> games,
+                                    SeasonId team);
 [[nodiscard]] ShotSums shotsOfPlayer(const GameCatalogue& catalogue, std::span<const GameResult> results,
                                      SeasonId player);
 

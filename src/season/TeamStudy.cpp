@@ -136,4 +136,38 @@ SeasonOnOff onOffOf(const GameCatalogue& catalogue, std::span<const GameResult> 
   return both;
 }
 
+TeamCourse courseOf(const SeasonStatistics& statistics, SeasonId team) {
+  TeamCourse course;
+  for (const std::size_t index : gamesOfTeam(statistics, team)) {
+    const ListedGame& game = statistics.catalogue().games()[index];
+    if (!game.isFromEvents())
+      continue;
+    const Side side = game.team[Side::Visitor] == team ? Side::Visitor : Side::Home;
+    ++course.games;
+    course.periods.resize(std::max(course.periods.size(), game.periodPoints.size()));
+    for (std::size_t i = 0; i < game.periodPoints.size(); ++i) {
+      TeamCourse::Period& period = course.periods[i];
+      ++period.games;
+      period.pointsFor += game.periodPoints[i][side];
+      period.pointsAgainst += game.periodPoints[i][otherSide(side)];
+    }
+    course.paint += game.origins[side].paint;
+    course.fromTurnovers += game.origins[side].fromTurnovers;
+    course.secondChance += game.origins[side].secondChance;
+  }
+  return course;
+}
+
+int startsOf(const SeasonStatistics& statistics, SeasonId player) {
+  const auto hasStarted = [&](std::size_t index) {
+    const ListedGame& game = statistics.catalogue().games()[index];
+    for (std::size_t row = 0; row < game.players.size(); ++row) {
+      if (game.players[row].id == player && game.isStarter(row))
+        return true;
+    }
+    return false;
+  };
+  return static_cast<int>(std::ranges::count_if(statistics.games(), hasStarted));
+}
+
 } // namespace hooptab

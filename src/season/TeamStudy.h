@@ -44,4 +44,19 @@ struct SeasonOnOff {
 };
 [[nodiscard]] SeasonOnOff onOffOf(const GameCatalogue& catalogue, std::span<const GameResult> results);
 
+// A team's games from events as they went: its points and those against it period by period, and where its
+// own came from.
+struct TeamCourse {
+  struct Period {
+    int games = 0; // that had it
+    int pointsFor = 0, pointsAgainst = 0;
+  };
+  int games = 0;
+  std::vector<Period> periods; // those of the rules, the first one first
+  int paint = 0, fromTurnovers = 0, secondChance = 0;
+};
+[[nodiscard]] TeamCourse courseOf(const SeasonStatistics& statistics, SeasonId team);
+// In how many of them he was on court when the clock ran first.
+[[nodiscard]] int startsOf(const SeasonStatistics& statistics, SeasonId player);
+
 } // namespace hooptab

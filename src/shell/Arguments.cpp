@@ -18,7 +18,7 @@ std::string absolutePath(const std::string& path, const std::string& currentFold
 // What belongs to a report and takes a value.
 constexpr std::string_view kReportOptions[] = {
     "--report", "--format",  "--output",    "--team",        "--player",       "--line", "--title",
-    "--paper",  "--csv-for", "--min-games", "--min-minutes", "--min-attempts", "--top"};
+    "--paper",  "--csv-for", "--min-games", "--min-minutes", "--min-attempts", "--top",  "--for"};
 
 class Parser {
  public:
@@ -104,6 +104,8 @@ class Parser {
       report.output = absolutePath(value, m_currentFolder);
     else if (option == "--team")
       report.team = value;
+    else if (option == "--for")
+      report.reader = value;
     else if (option == "--player" || option == "--line")
       report.player = value;
     else if (option == "--title")

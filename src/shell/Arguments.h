@@ -20,6 +20,7 @@ struct ReportRequest {
   std::string source; // absolute; the game or a folder of games, empty for a team's report
   std::vector<std::string> games; // absolute; several games and folders of games for "sheet", else empty
   std::string team;               // "ABBREVIATION-LEVEL"
+  std::string reader;             // the team of the coach that a scouting sheet is for
   std::string player;             // jersey of a player, or the jerseys of a line, "4-5-10-12-15"
   std::string title;              // in place of the report's own, where not empty
   std::optional<Language> language;

@@ -396,6 +396,8 @@ void MDI::openSeason() {
       new frmSTATS(m_workshop.store.files(), m_workshop.settings, m_workshop.texts, m_workshop.dialogs);
   connect(window, &frmSTATS::gameAsked, this, &MDI::openGame);
   connect(window, &frmSTATS::gamesToFileAsked, this, [this, window] { m_previews->saveGames(*window); });
+  connect(window, &frmSTATS::scoutAsked, this,
+          [this, window] { m_previews->printSeason(*window, SeasonReport::Scout); });
   window->keepSummariesIn(m_workshop.cacheFolder);
   m_area->add(*window);
   window->readFolder();

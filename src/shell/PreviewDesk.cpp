@@ -113,12 +113,18 @@ void PreviewDesk::saveGames(const frmSTATS& window) {
 }
 
 void PreviewDesk::printSeason(frmSTATS& window, SeasonReport first) {
-  SeasonOffer offer{window.statistics(), window.chosenTeam(), window.chosenPerson()};
+  SeasonOffer offer;
+  offer.season = window.statistics();
+  offer.team = window.chosenTeam();
+  offer.person = window.chosenPerson();
+  offer.scouted = window.shownTeam();
+  offer.reader = window.readingTeam();
   const auto question = [this](Text text) { return toQt(m_workshop.texts.text(text)); };
   if (const MissingForReport missing = missingFor(first, offer); missing != MissingForReport::Nothing) {
-    const bool isPerson = missing == MissingForReport::Person;
-    return m_workshop.dialogs.inform(&m_window, question(Text::ReportOption),
-                                     question(isPerson ? Text::ChooseSomebody : Text::GenerateFirst));
+    const Text why = missing == MissingForReport::Person ? Text::ChooseSomebody
+                     : missing == MissingForReport::Team ? Text::SelectTeamFirst
+                                                         : Text::GenerateFirst;
+    return m_workshop.dialogs.inform(&m_window, question(Text::ReportOption), question(why));
   }
   if (offer.person && canHighlight(first, *offer.person))
     offer.highlightsPerson =

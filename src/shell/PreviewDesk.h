@@ -34,13 +34,13 @@ class PreviewDesk : public QObject {
   void show(std::vector<ReportOffer> offers);
   // The games chosen in that window, to one file.
   void saveGames(const frmSTATS& window);
+  // The reports of a season's window, that one first.
+  void printSeason(frmSTATS& window, SeasonReport first);
 
  signals:
   void reported(const QString& message);
 
  private:
-  void printSeason(frmSTATS& window, SeasonReport first);
-
   Workshop m_workshop;
   TeamStore& m_teams;
   WindowArea& m_area;

@@ -78,7 +78,8 @@ bool canHighlight(SeasonReport report, const SeasonPerson& person) {
   case SeasonReport::TeamDetail:
   case SeasonReport::Player:
   case SeasonReport::PlayerSheet:
-  case SeasonReport::Line: break;
+  case SeasonReport::Line:
+  case SeasonReport::Scout: break;
   }
   return false;
 }
@@ -107,6 +108,8 @@ SeasonReport reportOfPage(frmSTATS::Page page, SeasonView leaders, const SeasonP
 MissingForReport missingFor(SeasonReport report, const SeasonOffer& offer) {
   if (!offer.season)
     return MissingForReport::Statistics;
+  if (isOfTeam(report) && !offer.scouted)
+    return MissingForReport::Team;
   const bool isOfLine = report == SeasonReport::Line;
   return isOfPerson(report) && (!offer.person || offer.person->isLine != isOfLine)
              ? MissingForReport::Person
@@ -120,7 +123,8 @@ std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport fir
     if (missingFor(name.report, offer) != MissingForReport::Nothing)
       continue;
     SeasonReportChoice choice;
-    choice.team = offer.team;
+    choice.team = isOfTeam(name.report) ? offer.scouted : offer.team;
+    choice.reader = offer.reader;
     choice.minimum = offer.season->minimum();
     if (isOfPerson(name.report) ||
         (offer.highlightsPerson && offer.person && canHighlight(name.report, *offer.person)))

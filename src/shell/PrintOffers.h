@@ -30,15 +30,16 @@ teamReports(const TeamRecord& team, const std::vector<TeamPlayer>& players, cons
 [[nodiscard]] std::vector<ReportOffer> scanReports(const ScannedTotals& scanned, const GameDetails& game,
                                                    const std::string& source, const Settings& settings,
                                                    const Texts& texts);
-// The reports of a season, that one first; those of one player or line only for the chosen one.
+// The reports of a season, that one first; those of one player, line or team only for the chosen one.
 struct SeasonOffer {
   std::shared_ptr<const Season> season; // null: not generated yet
   std::optional<SeasonId> team;
+  std::optional<SeasonId> scouted, reader;    // whose scouting sheet, and for whose coach
   std::shared_ptr<const SeasonPerson> person; // null: nobody is chosen
   bool highlightsPerson = false;
 };
 // What that report cannot be made without.
-enum class MissingForReport { Nothing, Statistics, Person };
+enum class MissingForReport { Nothing, Statistics, Person, Team };
 [[nodiscard]] MissingForReport missingFor(SeasonReport report, const SeasonOffer& offer);
 [[nodiscard]] std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport first,
                                                     const Settings& settings, const Texts& texts);

@@ -179,6 +179,11 @@ class ReportRun {
     choice.team = catalogue.teamOf(m_request.team);
     if (!m_request.team.empty() && !choice.team)
       return complain(kWrongUse, words(Text::NoTeamIn, m_request.team, m_request.source));
+    if (isOfTeam(which) && !choice.team)
+      return complainOfMissing("--team");
+    choice.reader = catalogue.teamOf(m_request.reader);
+    if (!m_request.reader.empty() && !choice.reader)
+      return complain(kWrongUse, words(Text::NoTeamIn, m_request.reader, m_request.source));
     const std::vector<std::size_t> games = catalogue.select(criteria);
     for (const std::size_t game : games) {
       const ListedGame& told = catalogue.games()[game];

@@ -1,5 +1,6 @@
 #include "studies/TeamPanel.h"
 
+#include "appearance/Fields.h"
 #include "appearance/PlainLabel.h"
 #include "appearance/TableContent.h"
 #include "appearance/relabel.h"
@@ -14,6 +15,7 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTabWidget>
@@ -24,6 +26,7 @@ namespace hooptab {
 namespace {
 
 constexpr int kTeamWidth = 200;
+constexpr int kReaderLetters = 12;
 
 QString balanceText(const SeasonTeamRow& team, const Texts& texts) {
   const auto count = [&](int number, Text one, Text many) {
@@ -61,6 +64,7 @@ TeamPanel::TeamPanel(const Texts& texts, QWidget* parent)
   head->addWidget(m_team);
   head->addWidget(m_balance);
   head->addStretch();
+  head->addWidget(makeScouting());
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(4, 4, 4, 4);
   layout->setSpacing(4);
@@ -85,6 +89,24 @@ QWidget* TeamPanel::makeShots() {
     setTabTextNumber(*page, text);
   }
   return tabs;
+}
+
+QWidget* TeamPanel::makeScouting() {
+  auto* part = new QWidget(this);
+  m_reader = new QComboBox(part);
+  m_reader->setObjectName(QStringLiteral("lstSCOUTFOR"));
+  m_reader->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  m_reader->setMinimumContentsLength(kReaderLetters);
+  setAccessibleNumber(*m_reader, Text::ScoutForTeam);
+  setToolTipNumber(*m_reader, Text::ScoutForTeam);
+  m_scout = iconButton("cmdSCOUT", Text::ScoutReport, Text::ScoutReport, "stprint", part);
+  auto* layout = new QHBoxLayout(part);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(captionFor(*m_reader, Text::ScoutForTeam));
+  layout->addWidget(m_reader);
+  layout->addWidget(m_scout);
+  connect(m_scout, &QPushButton::clicked, this, &TeamPanel::scoutAsked);
+  return part;
 }
 
 QWidget* TeamPanel::makeTables() {
@@ -166,33 +188,57 @@ void TeamPanel::applyColours() {
   m_picture->update();
 }
 
-SeasonId TeamPanel::team() const {
-  return m_season == nullptr || m_team->currentIndex() < 0
-             ? kNobody
-             : m_season->statistics().teams()[static_cast<std::size_t>(m_team->currentIndex())].team;
+std::optional<SeasonId> TeamPanel::team() const {
+  if (m_season == nullptr || m_team->currentIndex() < 0)
+    return std::nullopt;
+  return m_season->statistics().teams()[static_cast<std::size_t>(m_team->currentIndex())].team;
+}
+
+std::optional<SeasonId> TeamPanel::reader() const {
+  const QVariant team = m_reader->currentData();
+  return team.isValid() ? std::optional(team.value<SeasonId>()) : std::nullopt;
+}
+
+// Every team of the folder but the one that is shown; the chosen one stays.
+void TeamPanel::showReaders() {
+  const QString chosen = m_reader->currentText();
+  m_reader->clear();
+  m_reader->addItem(QStringLiteral("–"));
+  if (m_season != nullptr) {
+    const auto teams = m_season->catalogue().teams();
+    for (SeasonId other = 0; other < teams.size(); ++other) {
+      if (other != team())
+        m_reader->addItem(toQt(teams[other].key), other);
+    }
+  }
+  m_reader->setCurrentIndex(std::max(m_reader->findText(chosen), 0));
+  m_reader->setEnabled(team().has_value());
+  m_scout->setEnabled(team().has_value());
 }
 
 void TeamPanel::showTables() {
-  const SeasonStatistics* statistics = team() == kNobody ? nullptr : &m_season->statistics();
+  const SeasonStatistics* statistics = team() ? &m_season->statistics() : nullptr;
   const auto show = [](SeasonTableView& view, StudyTable table) {
     view.showColumns(std::move(table.columns));
     view.showRows(std::move(table.rows));
   };
-  m_games = statistics == nullptr ? std::vector<std::size_t>() : gamesOfTeam(*statistics, team());
-  show(*m_lastGames, teamGamesTable(statistics, team(), m_texts));
-  show(*m_splits, splitsTable(statistics, team(), m_texts));
+  m_games = statistics == nullptr ? std::vector<std::size_t>() : gamesOfTeam(*statistics, *team());
+  show(*m_lastGames, teamGamesTable(statistics, team().value_or(kNobody), m_texts));
+  show(*m_splits, splitsTable(statistics, team().value_or(kNobody), m_texts));
   showTogether();
 }
 
 void TeamPanel::showTogether() {
-  const SeasonStatistics* statistics = team() == kNobody ? nullptr : &m_season->statistics();
-  StudyTable table = combinationsTable(statistics, team(), m_together->currentData().toInt(), m_texts);
+  const SeasonStatistics* statistics = team() ? &m_season->statistics() : nullptr;
+  StudyTable table =
+      combinationsTable(statistics, team().value_or(kNobody), m_together->currentData().toInt(), m_texts);
   m_combinations->showColumns(std::move(table.columns));
   m_combinations->showRows(std::move(table.rows));
 }
 
 void TeamPanel::showTeam() {
   showTables();
+  showReaders();
   if (m_season == nullptr || m_team->currentIndex() < 0) {
     m_balance->setText(caption(m_texts, Text::NotGenerated));
     m_picture->show({}, {});

@@ -1,5 +1,6 @@
-// A team over the selected games: its balance, the margins of its games in order, its shots of the
-// season, the last games, how won and lost games differ, and which players do well together.
+// A team over the selected games: its balance, the margins of its games in order, its shots of the season,
+// the last games, how won and lost games differ, and which players do well together. Asks for its scouting
+// sheet.
 #pragma once
 
 #include "season/GameSeries.h"
@@ -9,9 +10,12 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 class QComboBox;
 class QLabel;
+class QPushButton;
 
 namespace hooptab {
 
@@ -27,26 +31,32 @@ class TeamPanel : public QWidget {
 
   void showSeason(std::shared_ptr<const Season> season); // null: none yet
   void chooseTeam(SeasonId team);
+  [[nodiscard]] std::optional<SeasonId> team() const;   // nothing before statistics were generated
+  [[nodiscard]] std::optional<SeasonId> reader() const; // for whose coach the scouting sheet is
   void relabelPanel();
   void applyColours();
 
  signals:
   void gameAsked(std::size_t game); // its place in the catalogue
+  void scoutAsked();
 
  private:
   QWidget* makeShots();
+  QWidget* makeScouting();
   QWidget* makeTables();
   QWidget* makeTogether();
   void showTeam();
   void showTables();
   void showTogether();
-  [[nodiscard]] SeasonId team() const;
+  void showReaders();
 
   const Texts& m_texts;
   std::shared_ptr<const Season> m_season;
   GameSeries m_margins;
   QComboBox* m_team;
   QLabel* m_balance;
+  QComboBox* m_reader = nullptr; // nobody first
+  QPushButton* m_scout = nullptr;
   SeriesView* m_picture;
   HexagonChart* m_hexagons = nullptr;
   ZoneChart* m_shots = nullptr;

@@ -118,6 +118,7 @@ frmSTATS::frmSTATS(FileSystem& files, const Settings& settings, const Texts& tex
   connect(m_leaders, &LeadersPanel::minimumChosen, this, &frmSTATS::chooseMinimum);
   connect(m_person, &PersonPanel::gameAsked, this, &frmSTATS::openGame);
   connect(m_team, &TeamPanel::gameAsked, this, &frmSTATS::openGame);
+  connect(m_team, &TeamPanel::scoutAsked, this, &frmSTATS::scoutAsked);
   for (SeasonTableView* table : findChildren<SeasonTableView*>()) {
     connect(table, &SeasonTableView::copied, this,
             [this] { emit reported(caption(m_texts, Text::TableCopied)); });
@@ -325,6 +326,14 @@ void frmSTATS::chooseMinimum(const Qualification& minimum) {
 
 std::shared_ptr<const SeasonPerson> frmSTATS::chosenPerson() const {
   return m_person->person();
+}
+
+std::optional<SeasonId> frmSTATS::shownTeam() const {
+  return m_team->team();
+}
+
+std::optional<SeasonId> frmSTATS::readingTeam() const {
+  return m_team->reader();
 }
 
 frmSTATS::Page frmSTATS::shownPage() const {

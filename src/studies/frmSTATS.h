@@ -52,6 +52,9 @@ class frmSTATS : public ChildWindow {
   std::shared_ptr<const SeasonPerson> chosenPerson() const; // player or line; null: nobody
   // The games that are shown in the list; those selected there, where there are two or more.
   [[nodiscard]] std::vector<const ListedGame*> chosenGames() const;
+  // Of the page of a team: the team, and the one for whose coach its scouting sheet is.
+  std::optional<SeasonId> shownTeam() const;
+  std::optional<SeasonId> readingTeam() const;
   // What is in front, for whoever prints it.
   enum class Page { Standings, Games, Players, Lines, Leaders, Person, Team, Search, LeftOut };
   Page shownPage() const;
@@ -65,6 +68,7 @@ class frmSTATS : public ChildWindow {
  signals:
   void gameAsked(const QString& path); // to be opened as a scorecard
   void gamesToFileAsked();             // the chosen ones
+  void scoutAsked();                   // the scouting sheet of the shown team
 
  private:
   QWidget* makeGames();

@@ -86,13 +86,14 @@ class ReportPagesTest : public WindowRoom<> {
     games.add("a.GAM", crowdedText(1));
     const SeasonStatistics season = games.statistics();
     const auto ofSeason = [&](SeasonReport which, SeasonId chosen) {
-      return seasonReport(which, season, {std::nullopt, chosen, {}}, settings, texts);
+      return seasonReport(which, season, {season.teams().front().team, chosen, {}}, settings, texts);
     };
     const SeasonId player = season.players().front().id;
     return {ofSeason(SeasonReport::TeamDetail, player),
             ofSeason(SeasonReport::LeadersPerMinute, player),
             ofSeason(SeasonReport::Player, player),
             ofSeason(SeasonReport::PlayerSheet, player),
+            ofSeason(SeasonReport::Scout, player),
             ofSeason(SeasonReport::LineOther, season.lines().front().id),
             scorecard(game),
             gameSheet({game, tallied(game)}, texts),
@@ -290,6 +291,46 @@ TEST_F(ReportPagesTest, APlayersPageOfALongSeasonIsStillOne) {
   ASSERT_EQ(layout.pages().size(), 1U);
   for (const PageText& each : layout.pages().front().texts)
     EXPECT_TRUE(layout.body().adjusted(-1, -1, 1, 1).contains(each.box)) << each.text.toStdString();
+}
+
+// Sixteen players with long names, sentences and line-ups: the last player is left out and that is said, and
+// what room is left is ruled.
+TEST_F(ReportPagesTest, AScoutingSheetIsOnePageAndSaysWhatItLeavesOut) {
+  SeasonFolder games;
+  for (int game = 0; game < 4; ++game) {
+    std::string text = "[DETAILS]\nVERSION=2.0\nEQUIPE0ABB=PAN\nEQUIPE1ABB=OLY\nNBREPERIODE=4\nDUREE=10\n"
+                       "TERMINE=1\nDATE=2026-10-0" +
+                       std::to_string(game + 1) + "\n[0]\n";
+    std::string events = "[PERIODE1]\n0=10:00,ARRET,IN-100-101-102-103-104,IN-\n";
+    for (int player = game; player < game + 14; ++player) {
+      const std::string jersey = std::to_string(100 + player);
+      text += jersey + "=1,Somebody With A Name " + jersey + "\n";
+      for (int each = 0; each < 5; ++each)
+        events += std::to_string(player * 5 + each + 1) + "=05:00,GF3,0-" + jersey + ",100,90\n";
+    }
+    games.add(std::to_string(game) + ".GAM", text + events + "99=00:00,ARRET,IN-,IN-\n");
+  }
+  const SeasonStatistics season = games.statistics();
+  const Report report =
+      seasonReport(SeasonReport::Scout, season, {season.teams().front().team, {}, {}}, settings, texts);
+  std::size_t ruled[2] = {};
+  for (const Paper paper : {Paper::A4, Paper::Letter}) {
+    ReportLayout layout(report, {paper, PageTurn::AsItFits});
+    layout.finish();
+    ASSERT_EQ(layout.pages().size(), 1U);
+    const ReportPage& page = layout.pages().front();
+    const auto count = [&](const char* words) {
+      return std::ranges::count_if(page.texts,
+                                   [&](const PageText& text) { return text.text.contains(toQt(words)); });
+    };
+    EXPECT_EQ(count("Somebody With A Name"), 15);
+    EXPECT_EQ(count("first 15 of 17"), 1);
+    for (const PageText& each : page.texts)
+      EXPECT_TRUE(layout.body().adjusted(-1, -1, 1, 1).contains(each.box)) << each.text.toStdString();
+    for (std::size_t i = 1; i < page.lines.size(); ++i)
+      ruled[paper == Paper::Letter ? 1 : 0] += page.lines[i].from.x() == layout.body().left() ? 1U : 0U;
+  }
+  EXPECT_GT(ruled[0], ruled[1]) << "the longer paper has more lines to write on";
 }
 
 // What nobody tried takes no room, but stands in files; leaders stand below each other.

@@ -97,7 +97,7 @@ TEST_F(SeasonReportTest, EveryReportHasItsRowsInBothLanguages) {
     texts.setLanguage(language);
     for (const SeasonReportName& name : seasonReports()) {
       const bool isOfLine = name.report == SeasonReport::Line;
-      const bool isPerformance = isOfPerson(name.report);
+      const bool isOfOne = isOfPerson(name.report) || isOfTeam(name.report);
       choice.chosen = isOfLine ? season.lines().front().id : season.players().front().id;
       const Report report = seasonReport(name.report, season, choice, settings, texts);
       EXPECT_FALSE(tables(report).empty()) << name.word;
@@ -107,7 +107,7 @@ TEST_F(SeasonReportTest, EveryReportHasItsRowsInBothLanguages) {
         for (const ReportRow& row : table->rows)
           ASSERT_EQ(row.cells.size(), table->columns.size()) << table->title;
       }
-      EXPECT_EQ(tables(seasonReport(name.report, season, nobody, settings, texts)).empty(), isPerformance);
+      EXPECT_EQ(tables(seasonReport(name.report, season, nobody, settings, texts)).empty(), isOfOne);
       for (const ReportFile& file : reportCsv(report))
         EXPECT_GE(parseDelimited(file.bytes).size(), 2U);
     }
@@ -163,6 +163,44 @@ TEST_F(SeasonReportTest, APlayersPageSplitsHisGamesAndMarksTheBestOfEach) {
   EXPECT_EQ(cell(onOff, onOff.rows[0], "plusMinus").text, cell(*all[3], all[3]->rows[0], "plusMinus").text);
   EXPECT_EQ(cell(onOff, onOff.rows[0], "netRating").text.front(), '+');
   EXPECT_EQ(cell(onOff, onOff.rows[1], "netRating").text, "–") << "they never sat";
+}
+
+TEST_F(SeasonReportTest, AScoutingSheetTellsATeamFromItsGamesAndDashesWhatTotalsDoNot) {
+  folder.addGame("c.GAM", "2026-10-16", "1=00:00,GFG,0-4\n2=00:00,GFG,0-4\n3=00:00,GFG,1-7\n",
+                 "INPUTTYPE=1\n");
+  const SeasonStatistics season = folder.statistics();
+  const SeasonReportChoice pan = {
+      folder.catalogue().teamOf("PAN-A"), std::nullopt, {}, folder.catalogue().teamOf("OLY-A")};
+  const Report report = seasonReport(SeasonReport::Scout, season, pan, settings, texts);
+  EXPECT_TRUE(report.isOnePage);
+  const auto& head = std::get<ReportParagraph>(report.blocks.at(1));
+  EXPECT_EQ(head.text, "Scouting Sheet · 3 games · 3 won, 0 lost · last: W 5–0 OLY, W 2–1 OLY, W 4–2 OLY");
+  EXPECT_EQ(head.beside, "for: OLY");
+  const auto all = tables(report);
+  ASSERT_EQ(all.size(), 4U);
+  const auto tile = [&](const char* name) { return cell(*all[0], all[0]->rows[0], name).text; };
+  EXPECT_EQ(tile("Points"), "3.7");
+  EXPECT_EQ(tile("Against"), "1.0");
+  EXPECT_EQ(tile("secondChance"), "0.0") << "of the two games whose events are known";
+  const ReportRow& ann = all[1]->rows.at(0);
+  EXPECT_EQ(cell(*all[1], ann, "Name").text, "Ann Able") << "by minutes, then by points";
+  EXPECT_EQ(cell(*all[1], ann, "GP").text + cell(*all[1], ann, "GS").text, "32");
+  EXPECT_EQ(cell(*all[1], ann, "2P%").text, "80%");
+  EXPECT_TRUE(ann.isPale) << "ten minutes in two games of three";
+  EXPECT_EQ(all[2]->rows.at(4).cells[0].text, "3.5") << "points in the first period";
+  EXPECT_EQ(all[3]->rows.at(0).cells[0].text, "4 · 5 · 10 · 12 · 15");
+  EXPECT_EQ(all[3]->rows.at(0).cells[4].text, "–") << "a rating of few possessions";
+
+  SeasonFolder entered;
+  entered.addGame("c.GAM", "2026-10-16", "1=00:00,GFG,0-4\n2=00:00,GFGA,1-7\n", "INPUTTYPE=1\n");
+  const SeasonStatistics totals = entered.statistics();
+  const Report ofTotals = seasonReport(SeasonReport::Scout, totals, pan, settings, texts);
+  std::string dashes;
+  for (const ReportCell& each : tables(ofTotals).at(0)->rows[0].cells)
+    dashes += each.text + ' ';
+  EXPECT_EQ(dashes, "2.0 0.0 – – – – – – ");
+  EXPECT_EQ(cell(*tables(ofTotals)[1], tables(ofTotals)[1]->rows.at(0), "GS").text, "–");
+  EXPECT_FALSE(tables(ofTotals)[1]->rows[0].isPale) << "nobody's time is known";
 }
 
 TEST_F(SeasonReportTest, FilesNameTheirColumnsAndHoldNoTimeWhereNoneIsShown) {

@@ -65,6 +65,32 @@ TEST(TeamStudy, SplitsAreThoseOfTheTeam) {
   EXPECT_EQ(gamesOfTeam(statistics, *season.catalogue().teamOf("OLY-A")), (std::vector<std::size_t>{1, 0}));
 }
 
+TEST(TeamStudy, ACourseIsOfTheGamesFromEventsAndOfTheirPeriods) {
+  SeasonFolder season;
+  season.addGame("1.GAM", "2026-01-01", kGame + "[PERIODE2]\n20=09:00,STO,1-7\n21=08:00,GFG,0-4,20,100\n");
+  season.addGame("2.GAM", "2026-01-02", kGame, "INPUTTYPE=1\n");
+  const SeasonStatistics statistics = season.statistics();
+  const TeamCourse pan = courseOf(statistics, *season.catalogue().teamOf("PAN-A"));
+  EXPECT_EQ(pan.games, 1);
+  ASSERT_EQ(pan.periods.size(), 2U) << "the others were not played";
+  EXPECT_EQ(pan.periods[0].pointsFor, 7);
+  EXPECT_EQ(pan.periods[0].pointsAgainst, 3);
+  EXPECT_EQ(pan.periods[1].pointsFor, 2);
+  EXPECT_EQ(pan.paint, 6);
+  EXPECT_EQ(pan.fromTurnovers, 2);
+  const auto starts = [&](const char* name) {
+    return startsOf(statistics, rowOf(statistics.players(), name)->id);
+  };
+  EXPECT_EQ(starts("Dana Dunn"), 1) << "not in the game of totals";
+  EXPECT_EQ(starts("Fay Ford"), 0) << "who came in for her";
+  const ShotSums against =
+      shotsAgainst(season.catalogue(), statistics.games(), *season.catalogue().teamOf("PAN-A"));
+  int made = 0;
+  for (const ZoneSum& zone : against.zones)
+    made += zone.made;
+  EXPECT_EQ(made, 2) << "of Ida alone, in both games";
+}
+
 TEST(ShotHexagons, CompareEachPlaceWithWhatAllGetFromThere) {
   SeasonFolder season;
   season.addGame("1.GAM", "2026-01-01",

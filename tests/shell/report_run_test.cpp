@@ -87,6 +87,7 @@ TEST_F(ReportRunTest, SeveralGamesGoToOneFile) {
 
 TEST_F(ReportRunTest, WhatCannotBeMadeIsRefusedAndNothingIsWritten) {
   EXPECT_EQ(made("player", "pdf"), 2) << "whose performance?";
+  EXPECT_EQ(made("scout", "pdf"), 2) << "of which team?";
   request.player = "99";
   EXPECT_EQ(made("player", "pdf"), 2) << "nobody wears it";
   games.addGame("third.GAM", "2026-10-16", "1=09:00,SPF,0-4\n", "EQUIPE0ABB=FOX\n");
@@ -97,6 +98,8 @@ TEST_F(ReportRunTest, WhatCannotBeMadeIsRefusedAndNothingIsWritten) {
   std::filesystem::remove(request.output);
   EXPECT_EQ(made("of-nothing", "pdf"), 2);
   EXPECT_EQ(made("leaders", "doc"), 2);
+  request.reader = "FOX-B";
+  EXPECT_EQ(made("scout", "pdf"), 2) << "for whose coach?";
   request.team = "FOX-B";
   EXPECT_EQ(made("leaders", "pdf"), 2);
   request.team.clear();

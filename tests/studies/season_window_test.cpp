@@ -390,8 +390,17 @@ TEST_F(SeasonWindowTest, ShowsLeadersAndATeam) {
   find<QComboBox>("lstTOGETHER").setCurrentIndex(2);
   EXPECT_EQ(cell("lvwTOGETHER", 0, 0).count(u','), 1) << "pairs";
   EXPECT_NE(rows("lvwTOGETHER"), fives);
+  auto& readers = find<QComboBox>("lstSCOUTFOR");
+  EXPECT_EQ(readers.count(), 4) << "nobody, and the three others";
+  EXPECT_EQ(window->readingTeam(), std::nullopt);
+  readers.setCurrentIndex(readers.findText(teams.itemText(2)));
+  QSignalSpy scouting(window.get(), &frmSTATS::scoutAsked);
+  click("cmdSCOUT");
+  EXPECT_EQ(scouting.size(), 1);
   const QString title = margins.title;
   teams.setCurrentIndex(1);
+  EXPECT_EQ(readers.currentText(), teams.itemText(2)) << "for whom it was chosen";
+  EXPECT_NE(window->readingTeam(), window->shownTeam());
   EXPECT_NE(find<SeriesView>("picMARGINS").drawing().title, title);
 }
 
