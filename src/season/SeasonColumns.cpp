@@ -1,5 +1,6 @@
 #include "season/SeasonColumns.h"
 
+#include "insight/SignedText.h"
 #include "settings/ChoiceTexts.h"
 #include "storage/Module1.h"
 
@@ -141,6 +142,25 @@ StatisticValue seasonValue(const SeasonRow& row, int column, SeasonView view) {
              ? StatisticValue{value.numerator * (view == SeasonView::PerForty ? kForty : kMinute),
                               row.numbers.seconds}
              : StatisticValue{value.numerator, kDivisorWithoutTime};
+}
+
+std::optional<double> seasonPlusMinus(const SeasonRow& row, SeasonView view) {
+  const std::optional<int> sum = row.plusMinus();
+  const auto divided = [&](double count) {
+    return sum && count > 0 ? std::optional(*sum / count) : std::nullopt;
+  };
+  switch (view) {
+  case SeasonView::Totals: break;
+  case SeasonView::PerGame: return divided(row.games);
+  case SeasonView::PerMinute: return divided(row.numbers.seconds / 60.0);
+  case SeasonView::PerForty: return divided(row.numbers.seconds / 2400.0);
+  }
+  return sum;
+}
+
+std::string seasonPlusMinusText(const SeasonRow& row, SeasonView view) {
+  const std::optional<double> value = seasonPlusMinus(row, view);
+  return value ? signedText(*value, decimalsOf(view)) : "–";
 }
 
 std::string seasonCell(const SeasonRow& row, int column, SeasonView view, const Texts& texts) {
