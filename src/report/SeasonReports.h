@@ -4,6 +4,7 @@
 
 #include "report/Report.h"
 #include "season/Qualification.h"
+#include "season/SeasonRating.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"
 
@@ -48,7 +49,8 @@ struct SeasonReportChoice {
   std::optional<SeasonId> team; // whose results are shown
   std::optional<SeasonId>
       chosen; // the player or line of a performance report; one that is highlighted in the others
-  Qualification minimum = {}; // who leads, and which averages are marked
+  Qualification minimum = {};  // who leads, and which averages are marked
+  SeasonRating ownRating = {}; // of the user's own, shown beside the built-in one
 };
 
 // A performance report without a chosen row that played is one of nobody: it holds no tables.

@@ -122,6 +122,7 @@ std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport fir
     SeasonReportChoice choice;
     choice.team = offer.team;
     choice.minimum = offer.season->minimum();
+    choice.ownRating = offer.season->ownRating();
     if (isOfPerson(name.report) ||
         (offer.highlightsPerson && offer.person && canHighlight(name.report, *offer.person)))
       choice.chosen = offer.person->row.id;
