@@ -179,7 +179,7 @@ TEST_F(SeasonReportTest, ARatingOfTheUsersOwnStandsBesideTheBuiltInOne) {
     EXPECT_GT(tablesWithIt, 1) << static_cast<int>(which);
   }
   const Report others = seasonReport(SeasonReport::PlayerOther, season, choice, settings, texts);
-  EXPECT_EQ(cell(*tables(others)[1], tables(others)[1]->rows[0], "own").text, "9.0") << "three points a game";
+  EXPECT_EQ(cell(*tables(others)[1], tables(others)[1]->rows[0], "own").text, "6.0") << "twelve in two games";
   const Report leaders = seasonReport(SeasonReport::LeadersTotal, season, choice, settings, texts);
   EXPECT_EQ(tables(leaders).back()->title, "Your own rating (HEART)");
   EXPECT_EQ(tables(leaders).back()->rows[0].cells.back().value, 12);
