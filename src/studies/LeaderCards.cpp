@@ -58,13 +58,14 @@ LeaderCards::LeaderCards(const Settings& settings, const Texts& texts, QWidget* 
   m_grid = new QGridLayout;
   m_grid->setSpacing(Theme::measure()(8, 12));
   layout->addLayout(m_grid);
-  layout->addStretch();
+  layout->addStretch(1);
   setWidget(desk);
 }
 
 void LeaderCards::addCard() {
   Shown shown;
   shown.card = new Card(widget());
+  shown.card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   shown.title = new ElidedLabel(shown.card);
   Theme::setType(*shown.title, Type::Body, QFont::DemiBold);
   shown.unit = new ElidedLabel(shown.card);
@@ -75,11 +76,11 @@ void LeaderCards::addCard() {
   shown.list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   auto* head = new QHBoxLayout;
   head->addWidget(shown.title, 1);
-  head->addWidget(shown.unit, 1);
+  head->addWidget(shown.unit);
   auto* layout = new QVBoxLayout(shown.card);
   const int margin = Theme::measure()(kMargin);
-  layout->setContentsMargins(margin, Theme::measure()(6), margin, Theme::measure()(8));
-  layout->setSpacing(Theme::measure()(2));
+  layout->setContentsMargins(margin, Theme::measure()(4, 8), margin, Theme::measure()(6, 10));
+  layout->setSpacing(Theme::measure()(0, 2));
   layout->addLayout(head);
   layout->addWidget(shown.list);
   const std::size_t place = m_cards.size();
@@ -133,7 +134,7 @@ void LeaderCards::showBoard(std::size_t place) {
     const Leader& leader = leaders[static_cast<std::size_t>(row)];
     const SeasonTeam& team = m_season->catalogue().teams()[leader.row->team];
     const LeaderWeight weight = row == 0 ? LeaderWeight::Foremost : LeaderWeight::Plain;
-    drawLeader(painter, area.adjusted(0, 0, 0, -kBarHeight), leader, team, room, weight, ground);
+    drawLeader(painter, area.adjusted(0, 0, 0, -kBarHeight - 2), leader, team, room, weight, ground);
     drawBar(painter, area, leader.number / leaders.front().number, seasonTeamColour(team), ground);
   });
 }

@@ -1,6 +1,6 @@
 #include "studies/LeadersPanel.h"
 
-#include "appearance/PlainLabel.h"
+#include "appearance/ElidedLabel.h"
 #include "appearance/relabel.h"
 #include "season/FilterRow.h"
 #include "season/SeasonTables.h"
@@ -31,8 +31,8 @@ int pointsColumn() {
 
 LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_settings(settings), m_texts(texts), m_form(new ChoiceSwitch(kForms, this)),
-      m_switch(new ViewSwitch(this)), m_minimum(new MinimumBox(this)), m_rule(new PlainLabel(this)),
-      m_title(new PlainLabel(this)), m_cards(new LeaderCards(settings, texts, this)),
+      m_switch(new ViewSwitch(this)), m_minimum(new MinimumBox(this)), m_rule(new ElidedLabel(this)),
+      m_title(new ElidedLabel(this)), m_cards(new LeaderCards(settings, texts, this)),
       m_tables(new QSplitter(Qt::Horizontal, this)),
       m_first(new SeasonTableView(QStringLiteral("lvwFIRST"), 0, this)),
       m_leaders(new SeasonTableView(QStringLiteral("lvwLEADERS"), 0, this)), m_column(pointsColumn()) {
@@ -45,13 +45,16 @@ LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget
   auto* head = new QHBoxLayout;
   head->addWidget(m_form);
   head->addSpacing(kGap);
-  head->addWidget(m_title);
+  head->addWidget(m_title, 1);
+  head->addStretch(); // where cards have titles of their own
+  head->addWidget(m_switch);
   m_rule->setObjectName(QStringLiteral("lblMINIMUM"));
   m_rule->setForegroundRole(QPalette::PlaceholderText);
-  head->addStretch();
-  head->addWidget(m_minimum);
-  head->addSpacing(kGap);
-  head->addWidget(m_switch);
+  m_rule->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  auto* counted = new QHBoxLayout;
+  counted->addWidget(m_minimum);
+  counted->addSpacing(kGap);
+  counted->addWidget(m_rule, 1);
   m_tables->setObjectName(QStringLiteral("leaderParts"));
   m_tables->addWidget(withFilters(*m_first, 0, m_texts, m_tables));
   m_tables->addWidget(withFilters(*m_leaders, 0, m_texts, m_tables));
@@ -61,9 +64,9 @@ LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget
   layout->setContentsMargins(4, 4, 4, 4);
   layout->setSpacing(4);
   layout->addLayout(head);
+  layout->addLayout(counted);
   layout->addWidget(m_cards, 1);
   layout->addWidget(m_tables, 1);
-  layout->addWidget(m_rule);
   showForm();
 
   connect(m_form, &ChoiceSwitch::chosen, this, &LeadersPanel::showForm);
