@@ -44,14 +44,14 @@ std::string text(const Texts& texts, Text which) {
 }
 
 const ShotGroup* groupOf(int column) {
-  if (column == kOwnRatingColumn)
+  if (column == kSeasonOwnColumn)
     return nullptr;
   const Statistic* statistic = seasonColumn(column).statistic;
   return statistic == nullptr ? nullptr : statistic->group;
 }
 
 bool isPercent(int column) {
-  return column != kOwnRatingColumn && seasonColumn(column).statistic->kind == ValueKind::Percent;
+  return column != kSeasonOwnColumn && seasonColumn(column).statistic->kind == ValueKind::Percent;
 }
 
 // A cell that is shown as the season's table shows it, with the exact number behind it.
@@ -155,11 +155,11 @@ class SeasonReportMaker {
 
   // Of a column of the season tables, or of the user's own rating.
   ReportCell cellAt(const SeasonRow& row, int column, SeasonView view) const {
-    return column == kOwnRatingColumn ? ownRatingCell(m_choice.ownRating, row, view)
+    return column == kSeasonOwnColumn ? ownRatingCell(m_choice.ownRating, row, view)
                                       : cellOf(row, column, view, m_texts);
   }
   ReportColumn columnOf(int index) const {
-    if (index == kOwnRatingColumn)
+    if (index == kSeasonOwnColumn)
       return {m_choice.ownRating.head, "own", m_choice.ownRating.words(m_texts)};
     const SeasonColumn& column = seasonColumn(index);
     return {seasonHeader(index, SeasonTable::Players, m_texts), std::string(column.name),
@@ -169,7 +169,7 @@ class SeasonReportMaker {
   std::vector<int> withOwnRating(std::vector<int> columns) const {
     const auto rating = std::ranges::find(columns, seasonColumn("rating").index);
     if (m_choice.ownRating.isThere() && rating != columns.end())
-      columns.insert(rating + 1, kOwnRatingColumn);
+      columns.insert(rating + 1, kSeasonOwnColumn);
     return columns;
   }
 
@@ -417,7 +417,7 @@ class SeasonReportMaker {
   }
   // A column in words, short enough for a title.
   std::string wordsOf(int column) const {
-    if (column == kOwnRatingColumn)
+    if (column == kSeasonOwnColumn)
       return m_texts.withPlaceholder(Text::OwnRatingBoth, m_choice.ownRating.head);
     const Statistic& statistic = *seasonColumn(column).statistic;
     if (statistic.group == nullptr || statistic.part == ShotPart::Points)

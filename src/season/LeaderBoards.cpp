@@ -43,7 +43,7 @@ class BoardMaker {
       else if (name == kPlusMinus)
         boards.push_back(plusMinus());
       else
-        addListed(name == kOwn ? kOwnRatingColumn : seasonColumn(name).index, boards);
+        addListed(name == kOwn ? kSeasonOwnColumn : seasonColumn(name).index, boards);
     }
     for (LeaderBoard& board : boards)
       board.leaders.resize(std::min(board.leaders.size(), LeaderBoard::kShown));
@@ -60,7 +60,7 @@ class BoardMaker {
     const auto found = std::ranges::find(all, column, &StatisticLeaders::column);
     if (found == all.end())
       return;
-    std::string title = column == kOwnRatingColumn
+    std::string title = column == kSeasonOwnColumn
                             ? m_texts.withPlaceholder(Text::OwnRatingBoth, m_season.ownRating().head)
                             : statisticTitle(*seasonColumn(column).statistic, m_season.statistics().labels(),
                                              m_settings, m_texts);

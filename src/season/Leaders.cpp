@@ -94,7 +94,7 @@ Leaders::Leaders(std::span<const SeasonRow> rows, SeasonView view, const Texts& 
     return minimum.isUnder(row, SeasonTable::Players, view) ? std::nullopt : ownRating.value(row, view);
   };
   const auto text = [&](const SeasonRow& row, double) { return ownRating.text(row, view); };
-  m_statistics.push_back({kOwnRatingColumn, leadersBy(rows, value, text)});
+  m_statistics.push_back({kSeasonOwnColumn, leadersBy(rows, value, text)});
 }
 
 std::vector<Leader> leadersBy(std::span<const SeasonRow> rows,

@@ -19,7 +19,7 @@ struct Leader {
   std::string value; // as the table shows it
   double number = 0; // by which it sorts
 };
-inline constexpr int kOwnRatingColumn = 0; // of the user's own rating, which is none of the statistics
+inline constexpr int kSeasonOwnColumn = 0; // of the user's own rating, which is none of the statistics
 struct StatisticLeaders {
   int column = 0; // of the season tables
   std::vector<Leader> leaders;

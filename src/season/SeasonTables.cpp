@@ -88,7 +88,7 @@ int seasonColumnAt(SeasonTable table, int place) {
 constexpr double kLeast = std::numeric_limits<double>::lowest();
 
 TableKind kindOf(int column) {
-  if (column == kOwnRatingColumn)
+  if (column == kSeasonOwnColumn)
     return TableKind::Number;
   return tableKind(seasonColumn(column).statistic->kind);
 }
@@ -106,7 +106,7 @@ QString capitalisedText(QString words) {
 }
 
 QString statisticName(int column, const Settings& settings, const Texts& texts, const OwnLabels& labels) {
-  if (column == kOwnRatingColumn)
+  if (column == kSeasonOwnColumn)
     return toQt(texts.withPlaceholder(Text::OwnRatingBoth, ownRatingHead(settings.ownRating)));
   return capitalisedText(toQt(statisticTitle(*seasonColumn(column).statistic, labels, settings, texts)));
 }

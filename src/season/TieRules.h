@@ -13,7 +13,6 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
 #include <string_view>
 
 namespace hooptab {
@@ -34,6 +33,7 @@ struct TieRules {
   std::array<TieCriterion, 6> criteria;
 };
 
+// Where no game names one, the first.
 inline constexpr std::array kTieRules = [] {
   using enum TieCriterion;
   return std::to_array<TieRules>(
@@ -46,14 +46,5 @@ inline constexpr std::array kTieRules = [] {
         Text::TiesBetween,
         {ShareBetween, DifferenceBetween, PointsBetween, Difference, Points, None}}});
 }();
-
-// FIBA's for a key that is none of them.
-[[nodiscard]] constexpr const TieRules& tieRulesOf(std::string_view key) {
-  for (const TieRules& rules : kTieRules) {
-    if (rules.key == key)
-      return rules;
-  }
-  return kTieRules.front();
-}
 
 } // namespace hooptab

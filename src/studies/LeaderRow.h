@@ -1,7 +1,6 @@
 // Draws a leader as a row: place, name, team and value.
 #pragma once
 
-#include "catalogue/GameCatalogue.h"
 #include "season/Leaders.h"
 
 #include <QColor>

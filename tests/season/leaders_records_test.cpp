@@ -121,7 +121,7 @@ TEST(Leaders, ARatingOfTheUsersOwnIsAskedOfTheSumsAndAveraged) {
   EXPECT_EQ(own.text(rows[1], SeasonView::Totals), "–") << "nobody counted her fouls drawn";
   const Leaders leaders(rows, SeasonView::PerGame, Texts(), {}, own);
   const StatisticLeaders& last = leaders.statistics().back();
-  ASSERT_EQ(last.column, kOwnRatingColumn);
+  ASSERT_EQ(last.column, kSeasonOwnColumn);
   ASSERT_EQ(last.leaders.size(), 1U) << "0 leads nothing";
   EXPECT_EQ(last.leaders[0].row->name + last.leaders[0].value, "Ann5.5");
 }
