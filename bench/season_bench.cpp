@@ -1,6 +1,8 @@
-// A season from its files, cold: scan, statistics, leaders, then criteria. Prints the milliseconds of each
-// and the most memory that was in use. With --gkeyfile, GLib's parser reads the same files instead.
+// A season from its files, cold: scan, statistics, leaders, criteria, then the pairs and trios of a team.
+// Prints the milliseconds of each and the most memory that was in use. With --gkeyfile, GLib's parser reads
+// the same files instead.
 #include "season/Leaders.h"
+#include "season/TeamStudy.h"
 
 #include <chrono>
 #include <cstdio>
@@ -60,11 +62,19 @@ int readSeason(const char* folder, unsigned threads, const char* cacheFolder) {
   const std::size_t selected = catalogue.select(criteria).size();
   const double selecting = milliseconds(criteriaBegin);
 
-  std::printf(
-      "games %zu skipped %zu players %zu lines %zu leaders %zu selected %zu scan_ms %.1f statistics_ms "
-      "%.1f criteria_ms %.3f peak_mb %.1f\n",
-      catalogue.games().size(), catalogue.skipped().size(), statistics.players().size(),
-      statistics.lines().size(), leaders, selected, scan, summing, selecting, peakMegabytes());
+  const auto togetherBegin = Clock::now();
+  std::size_t combinations = 0;
+  for (const int size : {2, 3}) {
+    if (!statistics.teams().empty())
+      combinations += combinationsOf(statistics, statistics.teams()[0].team, size).size();
+  }
+  const double together = milliseconds(togetherBegin);
+
+  std::printf("games %zu skipped %zu players %zu lines %zu leaders %zu selected %zu combinations %zu ",
+              catalogue.games().size(), catalogue.skipped().size(), statistics.players().size(),
+              statistics.lines().size(), leaders, selected, combinations);
+  std::printf("scan_ms %.1f statistics_ms %.1f criteria_ms %.3f together_ms %.1f peak_mb %.1f\n", scan,
+              summing, selecting, together, peakMegabytes());
   return 0;
 }
 

@@ -28,6 +28,7 @@ struct GameRow {
   Counters counters;
   Side side = Side::Visitor;
   std::uint8_t position = 9; // players: index of the position; 10 for one out of range
+  PlayerExtras extras;       // of players
   friend bool operator==(const GameRow&, const GameRow&) = default;
 };
 
@@ -60,7 +61,9 @@ struct ListedGame {
   std::string date;       // as the file has it
   std::optional<int> day; // of a valid date, see calendarDay()
   std::string place;
-  int type = 0; // index of the game type, one that has a name
+  int type = 0;            // index of the game type, one that has a name
+  bool isPractice = false; // it says so itself: a game without a type is none
+  std::string ruleSet;     // the key of one of kRuleSets, else empty
   InputKind input = InputKind::Live;
   PerSide<SeasonId> team = {kNobody, kNobody};
   PerSide<int> teamNumber = {}; // the teams' identifiers in the settings of whoever recorded the game

@@ -93,6 +93,8 @@ void visitGame(Archive& archive, Game& game) {
   archive.optional(game.day, [&](auto& day) { archive.number(day); });
   archive.text(game.place);
   archive.number(game.type);
+  archive.number(game.isPractice);
+  archive.text(game.ruleSet);
   archive.number(game.input);
   for (const Side side : kSides) {
     archive.team(game.team[side]);
@@ -123,6 +125,8 @@ void visitGame(Archive& archive, Game& game) {
   archive.list(game.players, [&](auto& row) {
     archive.player(row.id);
     visitRow(archive, row);
+    archive.number(row.extras.foulsDrawn);
+    archive.number(row.extras.blocksAgainst);
   });
   archive.list(game.lines, [&](auto& row) {
     archive.line(row.id);

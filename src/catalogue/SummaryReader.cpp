@@ -2,6 +2,7 @@
 
 #include "checks/GameCheck.h"
 #include "court/CourtGeometry.h"
+#include "game/RuleSets.h"
 #include "game/Tally.h"
 #include "settings/ChoiceTexts.h"
 #include "settings/Settings.h"
@@ -15,6 +16,8 @@
 namespace hooptab {
 
 namespace {
+
+constexpr int kPracticeType = 0; // the first that has a name
 
 std::uint8_t wholePlace(float place, double limit) {
   return static_cast<std::uint8_t>(std::clamp(static_cast<double>(place), 0.0, limit));
@@ -105,6 +108,7 @@ std::optional<SkipReason> SummaryReader::read(const std::string& path, ListedGam
   readGame(text, source);
   game.path = path;
   const auto outOfRange = summarise(source, game);
+  game.isPractice = game.type == kPracticeType && !text.value(kDetailsSection, "TYPE").value_or("").empty();
   check(source, text, outOfRange, game);
   return std::nullopt;
 }
@@ -130,6 +134,7 @@ std::optional<CountOutOfRange> SummaryReader::summarise(const Game& source, List
   game.day = calendarDay(details.date);
   game.place = details.place;
   game.type = gameTypeOf(details.type);
+  game.ruleSet = ruleSetOf(details.ruleSet) != nullptr ? details.ruleSet : std::string();
   game.input = inputOf(details);
   for (std::size_t which = 0; which < game.label.size(); ++which)
     game.label[which] = labelOf(details.statisticLabel[which]);
@@ -190,6 +195,7 @@ void SummaryReader::addPlayers(const Roster& roster, Side side, ListedGame& game
     row.seconds = std::max(counted.seconds, 0);
     row.counters = counted.counters;
     row.side = side;
+    row.extras = m_state.extras[side][entry];
     if (player != nullptr) {
       row.id = m_names.player(game.team[side], player->jersey, player->name);
       const bool isKnown = player->position >= 0 && player->position < kChoiceCount;

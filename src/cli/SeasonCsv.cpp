@@ -60,13 +60,13 @@ class SeasonCsv {
 
   // With the minus of a number; empty where it cannot be known.
   static std::string plusMinus(const SeasonRow& row, SeasonView view) {
-    const std::optional<double> value = plusMinusOf(row, view);
+    const std::optional<double> value = seasonPlusMinus(row, view);
     if (!value)
       return {};
     int scale = 1;
-    for (int decimal = 0; decimal < plusMinusDecimals(view); ++decimal)
+    for (int decimal = 0; decimal < seasonDecimals(view); ++decimal)
       scale *= 10;
-    return Module1::quotientText(std::lround(*value * scale), scale, plusMinusDecimals(view));
+    return Module1::quotientText(std::lround(*value * scale), scale, seasonDecimals(view));
   }
 
   const SeasonStatistics& m_statistics;

@@ -51,9 +51,10 @@ constexpr std::pair<std::string_view, const char*> kShares[] = {
 
 class PlayerSheet {
  public:
-  PlayerSheet(const SeasonStatistics& statistics, const SeasonRow& row, const Texts& texts)
-      : m_catalogue(statistics.catalogue()), m_statistics(statistics), m_row(row), m_texts(texts),
-        m_results(statistics.resultsOfPlayer(row.id)) {}
+  PlayerSheet(const SeasonStatistics& statistics, const SeasonRow& row, const SeasonRating& ownRating,
+              const Texts& texts)
+      : m_catalogue(statistics.catalogue()), m_statistics(statistics), m_row(row), m_ownRating(ownRating),
+        m_texts(texts), m_results(statistics.resultsOfPlayer(row.id)) {}
 
   void addTo(Report& report) const {
     report.blocks.push_back(
@@ -132,6 +133,8 @@ class PlayerSheet {
     for (const auto& [rate, head] : kShares)
       add(head, share(rate, m_row.numbers));
     add(text(Text::Rating), average(m_row.numbers.rating(), games));
+    if (m_ownRating.isThere())
+      add(m_ownRating.head, own(m_row, SeasonView::PerGame));
     return table;
   }
 
@@ -152,6 +155,7 @@ class PlayerSheet {
       table.columns.push_back(plusMinusColumn());
     table.columns.push_back({text(Text::Rating), "rating"});
     table.chart = {text(Text::ResultsByGame) + " – " + text(Text::Points), kPointsColumn, 1, false};
+    addOwnColumn(table);
     const Results shown = Results(m_results).last(std::min(kMostGames, m_results.size()));
     if (shown.size() < m_results.size())
       table.note = std::to_string(shown.size()) + "/" + std::to_string(m_results.size());
@@ -187,7 +191,17 @@ class PlayerSheet {
     if (hasLineUps())
       row.cells.push_back(plusMinusCell(result.onCourt));
     add([](const BoxNumbers& of) { return of.rating(); }, true);
+    if (m_ownRating.isThere())
+      row.cells.push_back(own(rowOfResult(result), SeasonView::Totals));
     return row;
+  }
+
+  void addOwnColumn(ReportTable& table) const {
+    if (m_ownRating.isThere())
+      table.columns.push_back({m_ownRating.head, "own", m_ownRating.words(m_texts)});
+  }
+  [[nodiscard]] ReportCell own(const SeasonRow& row, SeasonView view) const {
+    return ownRatingCell(m_ownRating, row, view);
   }
 
   void addShots(Report& report) const {
@@ -252,25 +266,30 @@ class PlayerSheet {
                      {text(Text::Rating), "rating"}};
     if (hasLineUps())
       table.columns.push_back(plusMinusColumn());
+    addOwnColumn(table);
     const auto add = [&](Text words, const auto& isOfIt) {
-      BoxNumbers sum;
+      std::vector<GameResult> some;
       CourtShare onCourt;
-      std::size_t games = 0;
       for (std::size_t i = 0; i < m_results.size(); ++i) {
         if (!isOfIt(i))
           continue;
-        ++games;
-        for (std::size_t counter = 0; counter < kCounterCount; ++counter)
-          sum.counters.counts[counter] += m_results[i].numbers.counters.counts[counter];
+        some.push_back(m_results[i]);
         onCourt += m_results[i].onCourt;
       }
-      if (games == 0)
+      if (some.empty())
         return;
-      table.rows.push_back(
-          {{textCell(text(words)), numberCell(static_cast<int>(games)), average(sum.points(), games),
-            average(sum.rebounds(), games), share("eFG", sum), average(sum.rating(), games)}});
+      const SeasonRow sum = sumOfResults(some);
+      ReportRow& row = table.rows.emplace_back();
+      row.cells = {textCell(text(words)),
+                   numberCell(sum.games),
+                   average(sum.numbers.points(), some.size()),
+                   average(sum.numbers.rebounds(), some.size()),
+                   share("eFG", sum.numbers),
+                   average(sum.numbers.rating(), some.size())};
       if (hasLineUps())
-        table.rows.back().cells.push_back(plusMinusCell(onCourt));
+        row.cells.push_back(plusMinusCell(onCourt));
+      if (m_ownRating.isThere())
+        row.cells.push_back(own(sum, SeasonView::PerGame));
     };
     const auto isOn = [&](Side side) {
       return [this, side](std::size_t i) { return m_results[i].side == side; };
@@ -329,18 +348,29 @@ class PlayerSheet {
   const GameCatalogue& m_catalogue;
   const SeasonStatistics& m_statistics;
   const SeasonRow& m_row;
+  const SeasonRating& m_ownRating;
   const Texts& m_texts;
   std::vector<GameResult> m_results;
 };
 
 } // namespace
 
-Report playerSheet(const SeasonStatistics& statistics, SeasonId player, const Texts& texts) {
+ReportCell ownRatingCell(const SeasonRating& ownRating, const SeasonRow& row, SeasonView view) {
+  ReportCell cell = textCell(ownRating.text(row, view));
+  if (const std::optional<double> value = ownRating.value(row, view)) {
+    cell.kind = ReportCell::Kind::Number;
+    cell.value = *value;
+  }
+  return cell;
+}
+
+Report playerSheet(const SeasonStatistics& statistics, SeasonId player, const SeasonRating& ownRating,
+                   const Texts& texts) {
   Report report;
   report.isOnePage = true;
   const auto row = std::ranges::find(statistics.players(), player, &SeasonRow::id);
   if (row != statistics.players().end())
-    PlayerSheet(statistics, *row, texts).addTo(report);
+    PlayerSheet(statistics, *row, ownRating, texts).addTo(report);
   return report;
 }
 

@@ -4,12 +4,16 @@
 #pragma once
 
 #include "report/Report.h"
-#include "season/SeasonStatistics.h"
+#include "season/SeasonRating.h"
 #include "settings/Texts.h"
 
 namespace hooptab {
 
 // Without that player it holds no tables.
-[[nodiscard]] Report playerSheet(const SeasonStatistics& statistics, SeasonId player, const Texts& texts);
+[[nodiscard]] Report playerSheet(const SeasonStatistics& statistics, SeasonId player,
+                                 const SeasonRating& ownRating, const Texts& texts);
+
+// What a report has of a rating of the user's own; a text where it gives no number.
+[[nodiscard]] ReportCell ownRatingCell(const SeasonRating& ownRating, const SeasonRow& row, SeasonView view);
 
 } // namespace hooptab

@@ -47,8 +47,14 @@ std::string text(const Texts& texts, Text which) {
 }
 
 const ShotGroup* groupOf(int column) {
+  if (column == kSeasonOwnColumn)
+    return nullptr;
   const Statistic* statistic = seasonColumn(column).statistic;
   return statistic == nullptr ? nullptr : statistic->group;
+}
+
+bool isPercent(int column) {
+  return column != kSeasonOwnColumn && seasonColumn(column).statistic->kind == ValueKind::Percent;
 }
 
 // A cell that is shown as the season's table shows it, with the exact number behind it.
@@ -152,6 +158,26 @@ class SeasonReportMaker {
     m_report.blocks.push_back(std::move(table));
   }
 
+  // Of a column of the season tables, or of the user's own rating.
+  ReportCell cellAt(const SeasonRow& row, int column, SeasonView view) const {
+    return column == kSeasonOwnColumn ? ownRatingCell(m_choice.ownRating, row, view)
+                                      : cellOf(row, column, view, m_texts);
+  }
+  ReportColumn columnOf(int index) const {
+    if (index == kSeasonOwnColumn)
+      return {m_choice.ownRating.head, "own", m_choice.ownRating.words(m_texts)};
+    const SeasonColumn& column = seasonColumn(index);
+    return {seasonHeader(index, SeasonTable::Players, m_texts), std::string(column.name),
+            seasonColumnWords(index, m_settings, m_texts, m_statistics.labels()), seasonColumnIsText(index)};
+  }
+  // With the user's own rating, if there is one, beside the built-in one.
+  std::vector<int> withOwnRating(std::vector<int> columns) const {
+    const auto rating = std::ranges::find(columns, seasonColumn("rating").index);
+    if (m_choice.ownRating.isThere() && rating != columns.end())
+      columns.insert(rating + 1, kSeasonOwnColumn);
+    return columns;
+  }
+
   // The columns of the season tables; `begin` are those that a table has before them.
   ReportTable tableOf(std::vector<ReportColumn> begin, const std::vector<int>& columns) const {
     ReportTable table;
@@ -159,10 +185,7 @@ class SeasonReportMaker {
     table.groups.push_back({"", table.columns.size()});
     const ShotGroup* open = nullptr;
     for (const int index : columns) {
-      const SeasonColumn& column = seasonColumn(index);
-      table.columns.push_back({seasonHeader(index, SeasonTable::Players, m_texts), std::string(column.name),
-                               seasonColumnWords(index, m_settings, m_texts, m_statistics.labels()),
-                               seasonColumnIsText(index)});
+      table.columns.push_back(columnOf(index));
       const ShotGroup* group = groupOf(index);
       if (group != open || table.groups.size() == 1)
         table.groups.push_back(
@@ -178,13 +201,13 @@ class SeasonReportMaker {
              return team.numbers.attempted(group->kinds) > 0;
            });
   }
-  static std::vector<int> columnsOf(bool ofShots) {
+  std::vector<int> columnsOf(bool ofShots) const {
     std::vector<int> columns = {kTimeColumn, kGamesColumn};
     for (const int column : countColumns()) {
       if ((groupOf(column) != nullptr) == ofShots)
         columns.push_back(column);
     }
-    return columns;
+    return withOwnRating(std::move(columns));
   }
   ReportColumn repeated(const std::string& header, const char* name) const {
     return {header, name, {}, true, true};
@@ -198,6 +221,7 @@ class SeasonReportMaker {
     begin.push_back({"-", "PointsAgainst", text(m_texts, Text::PointsAgainst)});
     std::vector<int> columns = {kGamesColumn};
     columns.insert(columns.end(), countColumns().begin(), countColumns().end());
+    columns = withOwnRating(std::move(columns));
     const ReportTable empty = tableOf(begin, columns);
     for (const SeasonView view : {SeasonView::Totals, SeasonView::PerGame}) {
       ReportTable table = empty;
@@ -214,7 +238,7 @@ class SeasonReportMaker {
                      numberCell(team.pointsFor),
                      numberCell(team.pointsAgainst)};
         for (const int column : columns)
-          row.cells.push_back(cellOf(sums, column, view, m_texts));
+          row.cells.push_back(cellAt(sums, column, view));
       }
       m_report.blocks.push_back(std::move(table));
     }
@@ -281,25 +305,25 @@ class SeasonReportMaker {
     line.cells.push_back(textCell(row.number));
     line.cells.push_back(textCell(seasonCell(row, kNameColumn, view, m_texts) + (isMarked ? " *" : "")));
     for (const int column : columnsOf(ofShots))
-      line.cells.push_back(cellOf(row, column, view, m_texts));
+      line.cells.push_back(cellAt(row, column, view));
     return line;
   }
 
   // A small table for each statistic, side by side.
   void addLeaders(SeasonView view) {
-    const Leaders leaders(m_statistics.players(), view, m_texts, m_choice.minimum);
+    const Leaders leaders(m_statistics.players(), view, m_texts, m_choice.minimum, m_choice.ownRating);
     for (const StatisticLeaders& statistic : leaders.statistics()) {
       // Points stay where nobody leads at all, so that every file has its table.
       if (statistic.leaders.empty() && statistic.column != seasonColumn("PTS").index)
         continue;
       ReportTable table;
-      const std::string header = seasonHeader(statistic.column, SeasonTable::Players, m_texts);
+      const std::string header = columnOf(statistic.column).header;
       table.title = wordsOf(statistic.column);
       table.standsBeside = !m_report.blocks.empty();
       table.isInGrid = true;
       table.columns = {{"#", "Rank"}, repeated(text(m_texts, Text::PlayerName), "Name"), {header, "Value"}};
-      const bool hasForty = view == SeasonView::PerMinute && seasonColumn(statistic.column).statistic->kind !=
-                                                                 ValueKind::Percent; // beside per minute
+      const bool hasForty =
+          view == SeasonView::PerMinute && !isPercent(statistic.column); // beside per minute
       if (hasForty)
         table.columns.push_back({text(m_texts, Text::PerForty), "Per40"});
       if (!m_choice.team)
@@ -311,9 +335,9 @@ class SeasonReportMaker {
         row.cells = {numberCell(leader.rank), textCell(leader.row->number + ' ' + leader.row->name)};
         if (!m_choice.team)
           row.cells.push_back(textCell(m_catalogue.teams()[leader.row->team].key));
-        row.cells.push_back(cellOf(*leader.row, statistic.column, view, m_texts));
+        row.cells.push_back(cellAt(*leader.row, statistic.column, view));
         if (hasForty)
-          row.cells.push_back(cellOf(*leader.row, statistic.column, SeasonView::PerForty, m_texts));
+          row.cells.push_back(cellAt(*leader.row, statistic.column, SeasonView::PerForty));
       }
       m_report.blocks.push_back(std::move(table));
     }
@@ -351,7 +375,7 @@ class SeasonReportMaker {
         std::ranges::find_if(players, [&](const SeasonRow& each) { return m_choice.chosen == each.id; });
     if (row == players.end())
       return;
-    takePage(playerSheet(m_statistics, row->id, m_texts));
+    takePage(playerSheet(m_statistics, row->id, m_choice.ownRating, m_texts));
     addPoints(m_statistics.resultsOfPlayer(row->id));
     m_whose = m_catalogue.teams()[row->team].key + ' ' + row->number + ' ' + row->name;
     m_report.subject = m_whose + ", " + selection();
@@ -381,7 +405,7 @@ class SeasonReportMaker {
         ReportRow& line = table.rows.emplace_back();
         line.cells.push_back(textCell(titleOf(view)));
         for (const int column : columnsOf(ofShots))
-          line.cells.push_back(cellOf(row, column, view, m_texts));
+          line.cells.push_back(cellAt(row, column, view));
       }
       m_report.blocks.push_back(std::move(table));
     }
@@ -410,6 +434,8 @@ class SeasonReportMaker {
   }
   // A column in words, short enough for a title.
   std::string wordsOf(int column) const {
+    if (column == kSeasonOwnColumn)
+      return m_texts.withPlaceholder(Text::OwnRatingBoth, m_choice.ownRating.head);
     const Statistic& statistic = *seasonColumn(column).statistic;
     if (statistic.group == nullptr || statistic.part == ShotPart::Points)
       return capitalised(statisticTitle(statistic, m_statistics.labels(), m_settings, m_texts));
@@ -471,6 +497,7 @@ class SeasonReportMaker {
       begin[i].name = kNames[i];
     for (int column = kResultOpponentColumn + 1; column <= resultColumnCount(); ++column)
       columns.push_back(seasonColumnOfResult(column));
+    columns = withOwnRating(std::move(columns));
     ReportTable table = tableOf(std::move(begin), columns);
     table.title = text(m_texts, Text::ResultsByGame);
     for (const GameResult& result : results) {
@@ -479,7 +506,7 @@ class SeasonReportMaker {
       for (int column = 1; column <= kResultOpponentColumn; ++column)
         line.cells.push_back(textCell(resultCell(m_catalogue, result, column, m_texts)));
       for (const int column : columns)
-        line.cells.push_back(cellOf(row, column, SeasonView::Totals, m_texts));
+        line.cells.push_back(cellAt(row, column, SeasonView::Totals));
     }
     const ReportTable& placed = std::get<ReportTable>(m_report.blocks.emplace_back(std::move(table)));
     addNotes(m_report, ReportTable(placed), m_texts);

@@ -5,6 +5,7 @@
 
 #include "report/Report.h"
 #include "season/Qualification.h"
+#include "season/SeasonRating.h"
 #include "settings/Settings.h"
 #include "settings/Texts.h"
 
@@ -57,6 +58,7 @@ struct SeasonReportChoice {
       chosen; // the player or line of a performance report; one that is highlighted in the others
   Qualification minimum = {};          // who leads, and which averages are marked
   std::optional<SeasonId> reader = {}; // for whose coach a scouting sheet is
+  SeasonRating ownRating = {};         // of the user's own, shown beside the built-in one
 };
 
 // A performance report without a chosen row that played is one of nobody: it holds no tables. Nor does a

@@ -143,7 +143,21 @@ SeasonRow rowOfResult(const GameResult& result) {
   SeasonRow row;
   row.games = 1;
   row.numbers = result.numbers;
+  row.extras = result.extras;
   row.onCourt = result.onCourt;
+  return row;
+}
+
+SeasonRow sumOfResults(std::span<const GameResult> results) {
+  SeasonRow row;
+  row.games = static_cast<int>(results.size());
+  for (const GameResult& result : results) {
+    row.numbers.seconds += result.numbers.seconds;
+    for (std::size_t i = 0; i < kCounterCount; ++i)
+      row.numbers.counters.counts[i] += result.numbers.counters.counts[i];
+    addExtras(row.extras, result.extras);
+    row.onCourt += result.onCourt;
+  }
   return row;
 }
 

@@ -43,6 +43,7 @@ inline constexpr int kResultOpponentColumn = 4;
 }
 // The game as a row of the season tables, without names: what fills the columns they share.
 [[nodiscard]] SeasonRow rowOfResult(const GameResult& result);
+[[nodiscard]] SeasonRow sumOfResults(std::span<const GameResult> results); // several games
 // The season column of a result column; 0 for the first four.
 [[nodiscard]] int seasonColumnOfResult(int column);
 [[nodiscard]] std::string resultHeader(int column, const Texts& texts);

@@ -9,11 +9,13 @@ constexpr std::int64_t kSecondsPerMinute = 60;
 } // namespace
 
 bool Qualification::isMet(const SeasonRow& row, int column, SeasonView view) const {
-  if (const Statistic& led = *seasonColumn(column).statistic; led.tries != 0) {
-    const std::int64_t tried = row.numbers.attempted(led.tries);
-    return tried >= std::int64_t{attempts} * row.teamGames;
-  }
-  return !isUnder(row, SeasonTable::Players, view);
+  const Statistic& led = *seasonColumn(column).statistic;
+  return led.tries != 0 ? hasTried(row, led.tries) : !isUnder(row, SeasonTable::Players, view);
+}
+
+bool Qualification::hasTried(const SeasonRow& row, ShotKinds kinds) const {
+  const std::int64_t tried = row.numbers.attempted(kinds);
+  return tried >= std::int64_t{attempts} * row.teamGames;
 }
 
 bool Qualification::isUnder(const SeasonRow& row, SeasonTable table, SeasonView view) const {

@@ -18,6 +18,8 @@ struct Qualification {
 
   // Whether a player may lead in that column. Totals have no minimum.
   [[nodiscard]] bool isMet(const SeasonRow& row, int column, SeasonView view) const;
+  // Of those shots, enough for a percentage to count.
+  [[nodiscard]] bool hasTried(const SeasonRow& row, ShotKinds kinds) const;
   // Whether the averages of a row say little. Lines, which seldom play long, have a minimum of their own:
   // ten minutes in all.
   [[nodiscard]] bool isUnder(const SeasonRow& row, SeasonTable table, SeasonView view) const;

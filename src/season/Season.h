@@ -19,15 +19,16 @@ class Season {
   // Cancelled, it holds some of the games only, and is worth nothing.
   Season(std::shared_ptr<const GameCatalogue> catalogue, std::vector<std::size_t> games,
          const SeasonStatistics::Shown& shown, const Texts& texts, const Qualification& minimum = {},
-         const TaskWatch& watch = {});
-  // The same season with the leaders that another minimum leaves.
-  Season(const Season& other, const Qualification& minimum, const Texts& texts);
+         SeasonRating ownRating = {}, const TaskWatch& watch = {});
+  // The same season with the leaders that another minimum leaves, or another rating gives.
+  Season(const Season& other, const Qualification& minimum, SeasonRating ownRating, const Texts& texts);
   Season(const Season&) = delete; // leaders refer to its statistics
   Season& operator=(const Season&) = delete;
 
   const GameCatalogue& catalogue() const { return *m_catalogue; }
   const SeasonStatistics& statistics() const { return *m_statistics; }
   const Qualification& minimum() const { return m_minimum; }
+  const SeasonRating& ownRating() const { return m_ownRating; }
   const Leaders& leaders(SeasonView view) const { return m_leaders[static_cast<std::size_t>(view)]; }
   const ShotSums& shots() const { return m_shots; } // of all selected games
 
@@ -37,6 +38,7 @@ class Season {
   std::shared_ptr<const GameCatalogue> m_catalogue;
   std::shared_ptr<const SeasonStatistics> m_statistics;
   Qualification m_minimum;
+  SeasonRating m_ownRating;
   std::vector<Leaders> m_leaders; // by view
   ShotSums m_shots;
 };

@@ -51,13 +51,14 @@ enum class SeasonTable : std::uint8_t { Players, Lines };
 // What a cell of a statistic, or of the games, holds: seconds for the time.
 [[nodiscard]] StatisticValue seasonValue(const SeasonRow& row, int column, SeasonView view);
 
+[[nodiscard]] int seasonDecimals(SeasonView view); // of a count in that view
+// Points ahead while on court; nothing where no game tells who was, or where there is nothing to divide by.
+[[nodiscard]] std::optional<double> seasonPlusMinus(const SeasonRow& row, SeasonView view);
+[[nodiscard]] std::string seasonPlusMinusText(const SeasonRow& row, SeasonView view); // "+6.2"; "–"
+
 [[nodiscard]] std::string seasonCell(const SeasonRow& row, int column, SeasonView view, const Texts& texts);
 // The number by which a column sorts; columns of texts sort by their text.
 [[nodiscard]] double seasonSortValue(const SeasonRow& row, int column, SeasonView view);
 [[nodiscard]] bool seasonColumnIsText(int column);
-// Points while on court less those against, in that view. Nothing where no game tells who was on court, or
-// where there is nothing to divide by.
-[[nodiscard]] std::optional<double> plusMinusOf(const SeasonRow& row, SeasonView view);
-[[nodiscard]] int plusMinusDecimals(SeasonView view);
 
 } // namespace hooptab

@@ -42,22 +42,31 @@ bool SeasonDesk::isOutdated() const {
 }
 
 std::shared_ptr<const Season> SeasonDesk::Order::carryOut(const Texts& texts, const TaskWatch& watch) const {
-  auto season = std::make_shared<const Season>(catalogue, games, shown, texts, minimum, watch);
+  auto season = std::make_shared<const Season>(catalogue, games, shown, texts, minimum, ownRating, watch);
   return watch.isCancelled() ? nullptr : season;
 }
 
 void SeasonDesk::setMinimum(const Qualification& minimum, const Texts& texts) {
   m_minimum = minimum;
-  if (m_season != nullptr)
-    m_season = std::make_shared<const Season>(*m_season, minimum, texts);
+  makeAgain(texts);
 }
 
-// The minimum may have been changed since it was ordered.
+void SeasonDesk::setOwnRating(SeasonRating rating, const Texts& texts) {
+  m_ownRating = std::move(rating);
+  makeAgain(texts);
+}
+
+void SeasonDesk::makeAgain(const Texts& texts) {
+  if (m_season != nullptr)
+    m_season = std::make_shared<const Season>(*m_season, m_minimum, m_ownRating, texts);
+}
+
+// Minimum and rating may have been changed since it was ordered.
 void SeasonDesk::takeSeason(std::shared_ptr<const Season> season, const Order& order, const Texts& texts) {
   m_season = std::move(season);
   m_shown = order.shown;
-  if (order.minimum != m_minimum)
-    setMinimum(m_minimum, texts);
+  if (order.minimum != m_minimum || !order.ownRating.isSameAs(m_ownRating))
+    makeAgain(texts);
 }
 
 } // namespace hooptab

@@ -47,25 +47,33 @@ class SeasonDesk {
     std::vector<std::size_t> games;
     SeasonStatistics::Shown shown;
     Qualification minimum;
+    SeasonRating ownRating;
 
     // Null when it was cancelled.
     [[nodiscard]] std::shared_ptr<const Season> carryOut(const Texts& texts,
                                                          const TaskWatch& watch = {}) const;
   };
-  Order order() const { return {m_catalogue, m_listed, {m_choice.games.team, m_choice.position}, m_minimum}; }
+  Order order() const {
+    return {m_catalogue, m_listed, {m_choice.games.team, m_choice.position}, m_minimum, m_ownRating};
+  }
   const Qualification& minimum() const { return m_minimum; }
   // Also of the statistics that were made.
   void setMinimum(const Qualification& minimum, const Texts& texts);
+  const SeasonRating& ownRating() const { return m_ownRating; }
+  void setOwnRating(SeasonRating rating, const Texts& texts); // likewise
   // What was ordered is what the statistics are of.
   void takeSeason(std::shared_ptr<const Season> season, const Order& order, const Texts& texts);
 
  private:
+  void makeAgain(const Texts& texts); // the statistics' leaders
+
   std::shared_ptr<const GameCatalogue> m_catalogue;
   SeasonChoice m_choice;
   std::vector<std::size_t> m_listed;
   std::shared_ptr<const Season> m_season;
   SeasonStatistics::Shown m_shown;
   Qualification m_minimum;
+  SeasonRating m_ownRating;
 };
 
 } // namespace hooptab

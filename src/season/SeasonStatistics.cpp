@@ -16,6 +16,18 @@ void addTo(BoxNumbers& sum, const GameRow& row) {
   sum.seconds += row.seconds;
 }
 
+std::int16_t sumOf(int one, int other) {
+  return static_cast<std::int16_t>(std::min<int>(one + other, std::numeric_limits<std::int16_t>::max()));
+}
+
+// A line has none.
+std::optional<PlayerExtras> extrasOf(const GameRow& player) {
+  return player.extras;
+}
+std::optional<PlayerExtras> extrasOf(const LineRow&) {
+  return std::nullopt;
+}
+
 // What a line saw of a game, as part of the sums of whoever was in it.
 void addTo(CourtShare& sum, const LineRow& line) {
   sum.seconds += line.seconds;
@@ -45,6 +57,14 @@ auto rankKey(const SeasonRow& row) {
 }
 
 } // namespace
+
+void addExtras(std::optional<PlayerExtras>& sum, const std::optional<PlayerExtras>& added) {
+  if (!added)
+    return;
+  const PlayerExtras before = sum.value_or(PlayerExtras());
+  sum = PlayerExtras{sumOf(before.foulsDrawn, added->foulsDrawn),
+                     sumOf(before.blocksAgainst, added->blocksAgainst)};
+}
 
 CourtShare wholeOfGame(const ListedGame& game, Side side) {
   CourtShare whole;
@@ -171,6 +191,7 @@ std::vector<SeasonRow> SeasonStatistics::sumRows(std::vector<Row> ListedGame::*r
       const std::size_t at = place[row.id];
       SeasonRow& sum = sums[at];
       addTo(sum.numbers, row);
+      addExtras(sum.extras, extrasOf(row));
       forLinesOf(game, game.*rows, i, [&sum](const LineRow& line) { addTo(sum.onCourt, line); });
       if (lastGame[at] != index) // 5 and 05 of one name are one player, also in one game
         ++sum.games;
@@ -203,9 +224,10 @@ std::vector<GameResult> SeasonStatistics::resultsOf(std::vector<Row> ListedGame:
       if (row.id != id)
         continue;
       if (results.empty() || results.back().game != index)
-        results.push_back({index, row.side, {}, {}});
+        results.push_back({index, row.side, {}, {}, {}});
       GameResult& result = results.back();
       addTo(result.numbers, row);
+      addExtras(result.extras, extrasOf(row));
       forLinesOf(game, game.*rows, i, [&result](const LineRow& line) { addTo(result.onCourt, line); });
     }
   }

@@ -31,8 +31,9 @@ struct SeasonRow {
   int games = 0;       // at least 1
   int teamGames = 0;   // selected games of the team
   BoxNumbers numbers;
-  CourtShare onCourt;         // what both teams did meanwhile; nothing from games of totals
-  int rank = 0;               // by points, then rating, then name; from 1
+  std::optional<PlayerExtras> extras; // of players
+  CourtShare onCourt;                 // what both teams did meanwhile; nothing from games of totals
+  int rank = 0;                       // by points, then rating, then name; from 1
   std::vector<int> positions; // players: one after another by date, each change once; the last is today's
 
   // Averages of a line over so short a time say little; they are marked where they are shown.
@@ -63,8 +64,12 @@ struct GameResult {
   std::size_t game = 0; // in the catalogue
   Side side = Side::Visitor;
   BoxNumbers numbers;
-  CourtShare onCourt; // as in SeasonRow
+  std::optional<PlayerExtras> extras; // both as in SeasonRow
+  CourtShare onCourt;
 };
+
+// Counts that few have: nothing added to nothing stays nothing.
+void addExtras(std::optional<PlayerExtras>& sum, const std::optional<PlayerExtras>& added);
 
 // Both teams in a game from events, seen by one of them; nothing of a game of totals.
 [[nodiscard]] CourtShare wholeOfGame(const ListedGame& game, Side side);

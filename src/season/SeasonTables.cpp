@@ -76,19 +76,20 @@ TableColumn numberColumn(const QString& header, const QString& longest = QString
   return column;
 }
 
-// The season column at a place of the window's table; 0 for points while on court and the team, which stand
-// last.
-int seasonColumnAt(SeasonTable table, int place) {
-  const std::vector<int>& columns = columnsOfTable(table);
-  return place < static_cast<int>(columns.size()) ? columns[static_cast<std::size_t>(place)] : 0;
+// Behind the season columns stand the user's own rating, points while on court, and the team.
+enum class Behind { Nothing, OwnRating, PlusMinus, Team };
+Behind behindColumns(SeasonTable table, int place) {
+  return static_cast<Behind>(std::clamp(place - static_cast<int>(columnsOfTable(table).size()) + 1, 0, 3));
 }
-
-bool isPlusMinus(SeasonTable table, int place) {
-  return place == static_cast<int>(columnsOfTable(table).size());
+// At a place of the window's table that holds one of them.
+int seasonColumnAt(SeasonTable table, int place) {
+  return columnsOfTable(table)[static_cast<std::size_t>(place)];
 }
 constexpr double kLeast = std::numeric_limits<double>::lowest();
 
 TableKind kindOf(int column) {
+  if (column == kSeasonOwnColumn)
+    return TableKind::Number;
   return tableKind(seasonColumn(column).statistic->kind);
 }
 
@@ -98,10 +99,16 @@ const StatisticLeaders& leadersAt(const Season& season, SeasonView view, std::si
 
 } // namespace
 
-QString statisticName(int column, const Settings& settings, const Texts& texts, const OwnLabels& labels) {
-  QString words = toQt(statisticTitle(*seasonColumn(column).statistic, labels, settings, texts));
-  words.front() = words.front().toUpper();
+QString capitalisedText(QString words) {
+  if (!words.isEmpty())
+    words.front() = words.front().toUpper();
   return words;
+}
+
+QString statisticName(int column, const Settings& settings, const Texts& texts, const OwnLabels& labels) {
+  if (column == kSeasonOwnColumn)
+    return toQt(texts.withPlaceholder(Text::OwnRatingBoth, ownRatingHead(settings.ownRating)));
+  return capitalisedText(toQt(statisticTitle(*seasonColumn(column).statistic, labels, settings, texts)));
 }
 
 std::vector<TableColumn> gameListColumns(const Texts& texts) {
@@ -166,8 +173,15 @@ TableRows skippedRows(std::shared_ptr<const GameCatalogue> catalogue, const Text
 }
 
 QString plusMinusText(const SeasonRow& row, SeasonView view) {
-  const std::optional<double> value = plusMinusOf(row, view);
-  return value ? toQt(signedText(*value, plusMinusDecimals(view))) : QStringLiteral("–");
+  return toQt(seasonPlusMinusText(row, view));
+}
+
+TableColumn ownRatingColumn(const SeasonRating& rating, const Texts& texts) {
+  TableColumn column = numberColumn(toQt(rating.head), QStringLiteral("−000.0"));
+  column.toolTip = toQt(rating.words(texts));
+  column.name = QStringLiteral("Own");
+  column.isHidden = !rating.isThere();
+  return column;
 }
 
 TableColumn plusMinusColumn(const Texts& texts) {
@@ -183,6 +197,7 @@ std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view, c
   std::vector<TableColumn> columns;
   for (const int index : columnsOfTable(kind))
     columns.push_back(columnOf(index, kind, view, settings, texts, labels));
+  columns.push_back(ownRatingColumn(season == nullptr ? SeasonRating() : season->ownRating(), texts));
   columns.push_back(plusMinusColumn(texts));
   TableColumn& team = columns.emplace_back(textColumn(caption(texts, Text::Team)));
   team.name = QStringLiteral("Team");
@@ -201,11 +216,13 @@ TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind
   };
   rows.text = [season, kind, view, isMarked = rows.isMuted, &texts](int row, int column) -> QString {
     const SeasonRow& shown = rowOf(*season, kind, row);
+    switch (behindColumns(kind, column)) {
+    case Behind::OwnRating: return toQt(season->ownRating().text(shown, view));
+    case Behind::PlusMinus: return plusMinusText(shown, view);
+    case Behind::Team: return toQt(season->catalogue().teams()[shown.team].key);
+    case Behind::Nothing: break;
+    }
     const int shownColumn = seasonColumnAt(kind, column);
-    if (isPlusMinus(kind, column))
-      return plusMinusText(shown, view);
-    if (shownColumn == 0)
-      return toQt(season->catalogue().teams()[shown.team].key);
     QString text = toQt(seasonCell(shown, shownColumn, view, texts));
     return shownColumn == kNameColumn && isMarked(row) ? text + QStringLiteral(" *") : text;
   };
@@ -214,10 +231,14 @@ TableRows seasonTableRows(std::shared_ptr<const Season> season, SeasonTable kind
     return column + 1 == kNameColumn ? toQt(rowOf(*season, kind, row).name) : text(row, column);
   };
   rows.sortValue = [season, kind, view](int row, int column) {
-    const int shown = seasonColumnAt(kind, column);
-    if (isPlusMinus(kind, column))
-      return plusMinusOf(rowOf(*season, kind, row), view).value_or(kLeast);
-    return shown == 0 ? 0.0 : seasonSortValue(rowOf(*season, kind, row), shown, view);
+    const SeasonRow& shown = rowOf(*season, kind, row);
+    switch (behindColumns(kind, column)) {
+    case Behind::OwnRating: return season->ownRating().value(shown, view).value_or(kLeast);
+    case Behind::PlusMinus: return seasonPlusMinus(shown, view).value_or(kLeast);
+    case Behind::Team: return 0.0;
+    case Behind::Nothing: break;
+    }
+    return seasonSortValue(shown, seasonColumnAt(kind, column), view);
   };
   rows.toolTip = [season, kind, &texts](int row) -> QString {
     const SeasonRow& shown = rowOf(*season, kind, row);
@@ -250,12 +271,9 @@ TableRows firstLeaderRows(std::shared_ptr<const Season> season, SeasonView view,
       return QString();
     return toQt(column == 1 ? leader->row->name : leader->value);
   };
-  rows.sortValue = [season, view, first](int row, int) {
+  rows.sortValue = [first](int row, int) {
     const Leader* leader = first(row);
-    return leader == nullptr
-               ? -1.0
-               : seasonSortValue(*leader->row, leadersAt(*season, view, static_cast<std::size_t>(row)).column,
-                                 view);
+    return leader == nullptr ? -1.0 : leader->number;
   };
   rows.kind = [season, view](int row, int column) {
     return column == 2 ? kindOf(leadersAt(*season, view, static_cast<std::size_t>(row)).column)
@@ -296,13 +314,13 @@ TableRows leaderRows(std::shared_ptr<const Season> season, SeasonView view, std:
     default: return toQt(shown.value);
     }
   };
-  rows.sortValue = [season, view, statistic, leader](int row, int column) -> double {
+  rows.sortValue = [view, leader](int row, int column) -> double {
     const Leader& shown = leader(row);
     switch (column) {
     case 0: return shown.rank;
     case 2: return seasonSortValue(*shown.row, kNumberColumn, view);
     case 4: return shown.row->games;
-    default: return seasonSortValue(*shown.row, leadersAt(*season, view, statistic).column, view);
+    default: return shown.number;
     }
   };
   const TableKind valueKind = kindOf(leadersAt(*season, view, statistic).column);
@@ -340,8 +358,8 @@ TableRows recordRows(std::shared_ptr<const SeasonPerson> person) {
   return rows;
 }
 
-std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& texts,
-                                       const OwnLabels& labels) {
+std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& texts, const OwnLabels& labels,
+                                       const SeasonRating& ownRating) {
   std::vector<TableColumn> columns;
   for (int index = 1; index <= resultColumnCount(); ++index) {
     const int shared = seasonColumnOfResult(index);
@@ -352,6 +370,7 @@ std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& te
     TableColumn& own = columns.emplace_back(textColumn(toQt(resultHeader(index, texts))));
     own.isText = index != 1; // the date sorts by its day
   }
+  columns.push_back(ownRatingColumn(ownRating, texts));
   columns.push_back(plusMinusColumn(texts));
   return columns;
 }
@@ -363,14 +382,19 @@ TableRows resultRows(std::shared_ptr<const SeasonPerson> person, const Texts& te
     return person->results[static_cast<std::size_t>(row)];
   };
   rows.text = [person, result, &texts](int row, int column) {
-    return column == resultColumnCount()
-               ? plusMinusText(rowOfResult(result(row)), SeasonView::Totals)
-               : toQt(resultCell(person->season->catalogue(), result(row), column + 1, texts));
+    const SeasonRow shown = rowOfResult(result(row));
+    return column < resultColumnCount()
+               ? toQt(resultCell(person->season->catalogue(), result(row), column + 1, texts))
+           : column == resultColumnCount() ? toQt(person->season->ownRating().text(shown, SeasonView::Totals))
+                                           : plusMinusText(shown, SeasonView::Totals);
   };
   rows.sortValue = [person, result](int row, int column) {
-    return column == resultColumnCount()
-               ? plusMinusOf(rowOfResult(result(row)), SeasonView::Totals).value_or(kLeast)
-               : resultSortValue(person->season->catalogue(), result(row), column + 1);
+    if (column < resultColumnCount())
+      return resultSortValue(person->season->catalogue(), result(row), column + 1);
+    const SeasonRow shown = rowOfResult(result(row));
+    return (column == resultColumnCount() ? person->season->ownRating().value(shown, SeasonView::Totals)
+                                          : seasonPlusMinus(shown, SeasonView::Totals))
+        .value_or(kLeast);
   };
   // The best of a season, of what there are records of; of one game there is no best.
   rows.isHigh = [person, value = rows.sortValue](int row, int column) {

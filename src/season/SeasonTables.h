@@ -25,7 +25,8 @@ namespace hooptab {
 [[nodiscard]] TableRows skippedRows(std::shared_ptr<const GameCatalogue> catalogue, const Texts& texts);
 
 // The season tables. Rows of averages under the minimum are marked with a star. Behind the columns of the
-// core stands the team, which is shown where there are several; null: no season yet.
+// core stand the user's own rating, if there is one, points while on court, and the team, which is shown
+// where there are several; null: no season yet.
 [[nodiscard]] std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view,
                                                           const Season* season, const Settings& settings,
                                                           const Texts& texts);
@@ -36,6 +37,9 @@ namespace hooptab {
 [[nodiscard]] QString plusMinusText(const SeasonRow& row, SeasonView view);
 [[nodiscard]] TableColumn plusMinusColumn(const Texts& texts);
 
+[[nodiscard]] TableColumn ownRatingColumn(const SeasonRating& rating, const Texts& texts);
+
+[[nodiscard]] QString capitalisedText(QString words);
 // A column as the name of a statistic, to choose it by.
 [[nodiscard]] QString statisticName(int column, const Settings& settings, const Texts& texts,
                                     const OwnLabels& labels = {});
@@ -51,7 +55,8 @@ namespace hooptab {
 [[nodiscard]] std::vector<TableColumn> recordColumns();
 [[nodiscard]] TableRows recordRows(std::shared_ptr<const SeasonPerson> person);
 [[nodiscard]] std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& texts,
-                                                     const OwnLabels& labels = {});
+                                                     const OwnLabels& labels = {},
+                                                     const SeasonRating& ownRating = {});
 [[nodiscard]] TableRows resultRows(std::shared_ptr<const SeasonPerson> person, const Texts& texts);
 
 } // namespace hooptab

@@ -1,12 +1,14 @@
 #include "season/Standings.h"
 
+#include "game/RuleSets.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
 #include <functional>
 #include <map>
-#include <tuple>
+#include <set>
 
 namespace hooptab {
 
@@ -27,6 +29,20 @@ std::string fixed(double value, int decimals) {
   return text.data();
 }
 
+// The set that most games name; of equally many the one that stands first in the table.
+const TieRules& rulesOfMost(const std::map<std::string, int>& named) {
+  const TieRules* most = &kTieRules.front();
+  int count = 0;
+  for (const TieRules& rules : kTieRules) {
+    const auto found = named.find(std::string(rules.key));
+    if (found != named.end() && found->second > count) {
+      most = &rules;
+      count = found->second;
+    }
+  }
+  return *most;
+}
+
 } // namespace
 
 void Balance::add(GameOutcome outcome) {
@@ -41,23 +57,38 @@ double Standing::average(int points) const {
   return all.games() == 0 ? 0 : static_cast<double>(points) / all.games();
 }
 
-Standings::Standings(const GameCatalogue& catalogue, std::span<const std::size_t> games) {
+Standings::Standings(const GameCatalogue& catalogue, std::span<const std::size_t> games,
+                     PracticeGames practice) {
+  std::map<std::string, int> rules;
   m_rows.resize(catalogue.teams().size());
   for (std::size_t i = 0; i < m_rows.size(); ++i)
     m_rows[i].team = static_cast<SeasonId>(i);
   for (const std::size_t index : games) {
     const ListedGame& game = catalogue.games()[index];
-    if (game.team[Side::Visitor] == game.team[Side::Home])
+    if (game.team[Side::Visitor] == game.team[Side::Home] ||
+        (game.isPractice && practice == PracticeGames::LeftOut))
       continue;
+    ++rules[game.ruleSet];
     for (const Side side : kSides)
       add(game, side);
   }
   std::erase_if(m_rows, [](const Standing& row) { return row.all.games() == 0; });
+  m_ties = &rulesOfMost(rules);
+  for (const Standing& row : m_rows)
+    m_shares[row.team] = row.share();
   order(m_rows);
   for (Standing& row : m_rows) {
     const Balance& first = m_rows.front().all;
     row.halfGamesBehind = first.wins - row.all.wins + row.all.losses - first.losses;
   }
+}
+
+void Standings::Part::add(const Duel& duel) {
+  balance.add(duel.points > duel.pointsAgainst   ? GameOutcome::Win
+              : duel.points < duel.pointsAgainst ? GameOutcome::Loss
+                                                 : GameOutcome::Tie);
+  points += duel.points;
+  pointsAgainst += duel.pointsAgainst;
 }
 
 void Standings::add(const ListedGame& game, Side side) {
@@ -97,35 +128,59 @@ bool Standings::part(std::span<Standing> rows, const Key& key) const {
 }
 
 void Standings::order(std::span<Standing> rows) const {
-  if (rows.size() < 2 || part(rows, [](const Standing& row) { return row.share(); }) || partByDuels(rows))
+  if (rows.size() < 2 || part(rows, [](const Standing& row) { return row.share(); }))
     return;
-  std::ranges::stable_sort(rows, std::greater(), [](const Standing& row) {
-    return std::tuple(row.difference(), row.average(row.pointsFor));
-  });
+  for (const TieCriterion criterion : m_ties->criteria) {
+    if (criterion == TieCriterion::None || partBy(criterion, rows))
+      return;
+  }
 }
 
-bool Standings::partByDuels(std::span<Standing> rows) const {
-  struct Among {
-    Balance balance;
-    int difference = 0;
-  };
-  std::map<SeasonId, Among> among;
-  for (const Standing& row : rows)
-    among[row.team];
-  for (const Duel& duel : m_duels) {
-    const auto team = among.find(duel.team);
-    if (team == among.end() || !among.contains(duel.other))
-      continue;
-    const int difference = duel.points - duel.pointsAgainst;
-    team->second.balance.add(difference > 0   ? GameOutcome::Win
-                             : difference < 0 ? GameOutcome::Loss
-                                              : GameOutcome::Tie);
-    team->second.difference += difference;
+bool Standings::partBy(TieCriterion criterion, std::span<Standing> rows) const {
+  switch (criterion) {
+  case TieCriterion::None: break;
+  case TieCriterion::ShareBetween:
+    return partBetween(rows, [](const Part& part) { return shareOf(part.balance); });
+  case TieCriterion::DifferenceBetween:
+    return partBetween(rows, [](const Part& part) { return part.points - part.pointsAgainst; });
+  case TieCriterion::PointsBetween: return partBetween(rows, [](const Part& part) { return part.points; });
+  case TieCriterion::AgainstTheBest: return partAgainstTheBest(rows);
+  case TieCriterion::Difference: return part(rows, [](const Standing& row) { return row.difference(); });
+  case TieCriterion::Points:
+    return part(rows, [](const Standing& row) { return row.average(row.pointsFor); });
   }
-  if (std::ranges::any_of(among, [](const auto& each) { return each.second.balance.games() == 0; }))
-    return false;
-  return part(rows, [&](const Standing& row) { return shareOf(among[row.team].balance); }) ||
-         part(rows, [&](const Standing& row) { return among[row.team].difference; });
+  return false;
+}
+
+template <class Key>
+bool Standings::partBetween(std::span<Standing> rows, const Key& key) const {
+  Parts between;
+  for (const Standing& row : rows)
+    between[row.team];
+  for (const Duel& duel : m_duels) {
+    const auto team = between.find(duel.team);
+    if (team != between.end() && between.contains(duel.other))
+      team->second.add(duel);
+  }
+  return std::ranges::none_of(between, [](const auto& each) { return each.second.balance.games() == 0; }) &&
+         part(rows, [&](const Standing& row) { return key(between.at(row.team)); });
+}
+
+// Those with equal shares of wins are one opponent. Who has not played it is not compared by it.
+bool Standings::partAgainstTheBest(std::span<Standing> rows) const {
+  std::map<double, Parts, std::greater<>> against; // by the opponents' share of wins
+  std::set<SeasonId> equal;
+  for (const Standing& row : rows)
+    equal.insert(row.team);
+  for (const Duel& duel : m_duels) {
+    if (equal.contains(duel.team) && !equal.contains(duel.other))
+      against[m_shares.at(duel.other)][duel.team].add(duel);
+  }
+  return std::ranges::any_of(against, [&](const auto& opponent) {
+    const Parts& parts = opponent.second;
+    return parts.size() == rows.size() &&
+           part(rows, [&](const Standing& row) { return shareOf(parts.at(row.team).balance); });
+  });
 }
 
 std::string balanceText(const Balance& balance) {
@@ -140,6 +195,11 @@ std::string shareText(const Standing& standing) {
 
 std::string behindText(const Standing& standing) {
   return standing.halfGamesBehind == 0 ? "–" : fixed(standing.halfGamesBehind / 2.0, 1);
+}
+
+std::string tiesText(const TieRules& rules, const Texts& texts) {
+  return texts.withPlaceholder(Text::StandingsTiesBy, std::string(texts.text(ruleSetOf(rules.key)->name)) +
+                                                          " – " + std::string(texts.text(rules.words)));
 }
 
 std::string_view outcomeText(GameOutcome outcome, const Texts& texts) {

@@ -1,11 +1,13 @@
 // The table of a league from the selected games: who won and lost, at home and away and of late, how far
-// behind the first, and what was scored. Teams with equal shares of wins are ordered by the games between
-// them. Shows nothing.
+// behind the first, and what was scored. Teams with equal shares of wins are parted by the rules that most of
+// the games name. Shows nothing.
 #pragma once
 
 #include "season/SeasonStatistics.h"
+#include "season/TieRules.h"
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <span>
 #include <vector>
@@ -40,30 +42,47 @@ struct Standing {
   [[nodiscard]] double difference() const { return average(pointsFor - pointsAgainst); }
 };
 
+enum class PracticeGames : std::uint8_t { LeftOut, Counted };
+
 class Standings {
  public:
   // `games` are places in the catalogue's games, by date. A team that plays itself plays no game of a league.
-  Standings(const GameCatalogue& catalogue, std::span<const std::size_t> games);
+  Standings(const GameCatalogue& catalogue, std::span<const std::size_t> games,
+            PracticeGames practice = PracticeGames::Counted);
 
-  // The first one first. Equal shares of wins are parted by the table of the games between the teams that
-  // share them, once each of them has played another of them: by its shares of wins, then by its difference
-  // of points. As soon as it parts some of them, those who are still equal have a table of their own. Then
-  // decide the difference of all games, and the points scored.
+  // The first one first. Equal shares of wins are parted by the criteria of the rules, one after another; as
+  // soon as one parts some of the teams, those who are still equal are asked anew. Games between teams count
+  // once each of them has played another of them.
   [[nodiscard]] std::span<const Standing> rows() const { return m_rows; }
+  [[nodiscard]] const TieRules& ties() const { return *m_ties; }
 
  private:
   struct Duel {
     SeasonId team = kNobody, other = kNobody;
     int points = 0, pointsAgainst = 0;
   };
+  // What some of the games come to.
+  struct Part {
+    Balance balance;
+    int points = 0, pointsAgainst = 0;
+
+    void add(const Duel& duel);
+  };
+  using Parts = std::map<SeasonId, Part>; // by team; of those that are to be parted
+
   void add(const ListedGame& game, Side side);
   void order(std::span<Standing> rows) const;
-  [[nodiscard]] bool partByDuels(std::span<Standing> rows) const;
+  [[nodiscard]] bool partBy(TieCriterion criterion, std::span<Standing> rows) const;
+  [[nodiscard]] bool partAgainstTheBest(std::span<Standing> rows) const;
+  template <class Key>
+  [[nodiscard]] bool partBetween(std::span<Standing> rows, const Key& key) const;
   template <class Key>
   [[nodiscard]] bool part(std::span<Standing> rows, const Key& key) const;
 
   std::vector<Standing> m_rows;
-  std::vector<Duel> m_duels; // each game once for each team
+  std::vector<Duel> m_duels;           // each game once for each team
+  std::map<SeasonId, double> m_shares; // of wins, by team
+  const TieRules* m_ties;
 };
 
 // "6–1", with ties "6–1–2".
@@ -74,6 +93,8 @@ class Standings {
 [[nodiscard]] std::string behindText(const Standing& standing);
 // "W4".
 [[nodiscard]] std::string streakText(const Standing& standing, const Texts& texts);
+// "Ties: FIBA – wins, difference and points between them, then in all games".
+[[nodiscard]] std::string tiesText(const TieRules& rules, const Texts& texts);
 // "W", "L" or "T".
 [[nodiscard]] std::string_view outcomeText(GameOutcome outcome, const Texts& texts);
 

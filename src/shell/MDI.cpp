@@ -394,6 +394,7 @@ void MDI::openSeason() {
     return m_area->bringToFront(*open);
   auto* window =
       new frmSTATS(m_workshop.store.files(), m_workshop.settings, m_workshop.texts, m_workshop.dialogs);
+  window->setFormulaReader(m_workshop.readFormula);
   connect(window, &frmSTATS::gameAsked, this, &MDI::openGame);
   connect(window, &frmSTATS::gamesToFileAsked, this, [this, window] { m_previews->saveGames(*window); });
   connect(window, &frmSTATS::scoutAsked, this,

@@ -126,6 +126,7 @@ std::vector<ReportOffer> seasonOffers(const SeasonOffer& offer, SeasonReport fir
     choice.team = isOfTeam(name.report) ? offer.scouted : offer.team;
     choice.reader = offer.reader;
     choice.minimum = offer.season->minimum();
+    choice.ownRating = offer.season->ownRating();
     if (isOfPerson(name.report) ||
         (offer.highlightsPerson && offer.person && canHighlight(name.report, *offer.person)))
       choice.chosen = offer.person->row.id;

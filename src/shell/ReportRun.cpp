@@ -1,6 +1,7 @@
 #include "shell/ReportRun.h"
 
 #include "catalogue/GameFinder.h"
+#include "formula/FormulaRating.h"
 #include "printing/GamesFiles.h"
 #include "report/GameReports.h"
 #include "report/ReportWords.h"
@@ -176,6 +177,8 @@ class ReportRun {
     criteria.team = m_request.team;
     SeasonReportChoice choice;
     choice.minimum = m_request.minimum;
+    if (reportFormOf(m_request.format) != ReportForm::Csv) // whose columns are the same for everybody
+      choice.ownRating = SeasonRating::of(m_settings.ownRating, readFormula);
     choice.team = catalogue.teamOf(m_request.team);
     if (!m_request.team.empty() && !choice.team)
       return complain(kWrongUse, words(Text::NoTeamIn, m_request.team, m_request.source));

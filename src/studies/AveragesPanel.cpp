@@ -10,6 +10,7 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QStackedWidget>
+#include <algorithm>
 
 namespace hooptab {
 
@@ -76,6 +77,10 @@ void AveragesPanel::showColumns() {
     if (header.visualIndex(team) == team) {
       header.moveSection(team, kTeamPlace);
       header.moveSection(header.visualIndex(team - 1), kPlusMinusPlace);
+      const auto& columns = columnsOfTable(m_kind);
+      const auto rating = std::ranges::find(columns, seasonColumn("rating").index);
+      header.moveSection(header.visualIndex(team - 2),
+                         header.visualIndex(static_cast<int>(rating - columns.begin())) + 1);
     }
   }
 }

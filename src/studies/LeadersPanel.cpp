@@ -1,8 +1,10 @@
 #include "studies/LeadersPanel.h"
 
-#include "appearance/PlainLabel.h"
+#include "appearance/ElidedLabel.h"
 #include "appearance/relabel.h"
+#include "season/FilterRow.h"
 #include "season/SeasonTables.h"
+#include "studies/LeaderCards.h"
 #include "studies/MinimumBox.h"
 #include "studies/ViewSwitch.h"
 
@@ -17,6 +19,9 @@ namespace {
 
 constexpr int kGap = 12;
 
+constexpr ChoiceSwitch::Button kForms[] = {{"cmdASCARDS", Text::LeadersAsCards},
+                                           {"cmdASTABLE", Text::LeadersAsTable}};
+
 // What most look for first.
 int pointsColumn() {
   return seasonColumn("PTS").index;
@@ -25,8 +30,10 @@ int pointsColumn() {
 } // namespace
 
 LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget* parent)
-    : QWidget(parent), m_settings(settings), m_texts(texts), m_switch(new ViewSwitch(this)),
-      m_minimum(new MinimumBox(this)), m_rule(new PlainLabel(this)), m_title(new PlainLabel(this)),
+    : QWidget(parent), m_settings(settings), m_texts(texts), m_form(new ChoiceSwitch(kForms, this)),
+      m_switch(new ViewSwitch(this)), m_minimum(new MinimumBox(this)), m_rule(new ElidedLabel(this)),
+      m_title(new ElidedLabel(this)), m_cards(new LeaderCards(settings, texts, this)),
+      m_tables(new QSplitter(Qt::Horizontal, this)),
       m_first(new SeasonTableView(QStringLiteral("lvwFIRST"), 0, this)),
       m_leaders(new SeasonTableView(QStringLiteral("lvwLEADERS"), 0, this)), m_column(pointsColumn()) {
   m_title->setObjectName(QStringLiteral("lblSTATISTIC"));
@@ -36,30 +43,35 @@ LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget
   setAccessibleNumber(*m_first, Text::LeadersTab);
   setAccessibleNumber(*m_leaders, Text::LeadersTab);
   auto* head = new QHBoxLayout;
-  head->addWidget(m_title);
+  head->addWidget(m_form);
+  head->addSpacing(kGap);
+  head->addWidget(m_title, 1);
+  head->addStretch(); // where cards have titles of their own
+  head->addWidget(m_switch);
   m_rule->setObjectName(QStringLiteral("lblMINIMUM"));
   m_rule->setForegroundRole(QPalette::PlaceholderText);
-  head->addStretch();
-  head->addWidget(m_minimum);
-  head->addSpacing(kGap);
-  head->addWidget(m_switch);
-  auto* parts = new QSplitter(Qt::Horizontal, this);
-  parts->setObjectName(QStringLiteral("leaderParts"));
-  parts->addWidget(m_first);
-  parts->addWidget(m_leaders);
-  parts->setChildrenCollapsible(false);
-  parts->setSizes({560, 640});
+  m_rule->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  auto* counted = new QHBoxLayout;
+  counted->addWidget(m_minimum);
+  counted->addSpacing(kGap);
+  counted->addWidget(m_rule, 1);
+  m_tables->setObjectName(QStringLiteral("leaderParts"));
+  m_tables->addWidget(withFilters(*m_first, 0, m_texts, m_tables));
+  m_tables->addWidget(withFilters(*m_leaders, 0, m_texts, m_tables));
+  m_tables->setChildrenCollapsible(false);
+  m_tables->setSizes({560, 640});
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(4, 4, 4, 4);
   layout->setSpacing(4);
   layout->addLayout(head);
-  layout->addWidget(parts, 1);
-  layout->addWidget(m_rule);
+  layout->addLayout(counted);
+  layout->addWidget(m_cards, 1);
+  layout->addWidget(m_tables, 1);
+  showForm();
 
-  connect(m_switch, &ViewSwitch::viewChosen, this, [this] {
-    showFirst();
-    showLeaders();
-  });
+  connect(m_form, &ChoiceSwitch::chosen, this, &LeadersPanel::showForm);
+  connect(m_switch, &ViewSwitch::viewChosen, this, &LeadersPanel::showAll);
+  connect(m_cards, &LeaderCards::personAsked, this, &LeadersPanel::personAsked);
   connect(m_minimum, &MinimumBox::minimumChanged, this, &LeadersPanel::minimumChosen);
   connect(m_first, &SeasonTableView::currentRowChanged, this, [this](int row) {
     if (row < 0)
@@ -76,15 +88,33 @@ LeadersPanel::LeadersPanel(const Settings& settings, const Texts& texts, QWidget
 void LeadersPanel::showSeason(std::shared_ptr<const Season> season) {
   m_season = std::move(season);
   m_column = pointsColumn();
-  showFirst();
-  showLeaders();
+  showAll();
 }
 
 void LeadersPanel::showMinimum(const Qualification& minimum, std::shared_ptr<const Season> season) {
   m_minimum->showMinimum(minimum);
   m_season = std::move(season);
+  showAll();
+}
+
+void LeadersPanel::showAll() {
+  m_cards->showLeaders(m_season, m_switch->view());
   showFirst();
   showLeaders();
+}
+
+bool LeadersPanel::areCards() const {
+  return m_form->choice() == 0;
+}
+
+void LeadersPanel::showAsCards(bool areCards) {
+  m_form->choose(areCards ? 0 : 1);
+}
+
+void LeadersPanel::showForm() {
+  m_cards->setVisible(areCards());
+  m_tables->setVisible(!areCards());
+  showTitle();
 }
 
 SeasonView LeadersPanel::view() const {
@@ -105,6 +135,7 @@ void LeadersPanel::relabelPanel() {
   m_first->showColumns(firstLeaderColumns(m_texts));
   m_leaders->showColumns(leaderColumns(m_texts));
   m_minimum->relabelBox(m_texts);
+  m_cards->showLeaders(m_season, m_switch->view());
   showTitle();
 }
 
@@ -125,6 +156,7 @@ void LeadersPanel::showLeaders() {
 }
 
 void LeadersPanel::showTitle() {
+  m_title->setVisible(m_season == nullptr || !areCards());
   m_rule->setText(toQt(minimumWords(m_minimum->minimum(), m_switch->view(), m_texts)));
   if (m_season == nullptr)
     return m_title->setText(caption(m_texts, Text::NotGenerated));

@@ -1,6 +1,7 @@
 #include "studies/StandingsPanel.h"
 
 #include "appearance/Card.h"
+#include "appearance/ElidedLabel.h"
 #include "appearance/Icons.h"
 #include "appearance/LanguageLocale.h"
 #include "appearance/PlainLabel.h"
@@ -9,11 +10,14 @@
 #include "appearance/relabel.h"
 #include "insight/Rates.h"
 #include "insight/SignedText.h"
+#include "season/FilterRow.h"
 #include "season/SeasonTables.h"
+#include "studies/LeaderRow.h"
 #include "studies/RowList.h"
 #include "studies/StandingsDelegate.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QDate>
 #include <QHeaderView>
 #include <algorithm>
@@ -137,12 +141,12 @@ double standingValue(const Standing& row, int rank, Column column) {
   case Column::Rank:
   case Column::Tag:
   case Column::Name:
-  case Column::Latest: return -rank;
+  case Column::Latest: return rank;
   case Column::Played: return row.all.games();
   case Column::Won: return row.all.wins;
   case Column::Lost: return row.all.losses;
   case Column::Share: return row.share();
-  case Column::Behind: return row.halfGamesBehind;
+  case Column::Behind: return row.halfGamesBehind / 2.0;
   case Column::Home: return share(row.home);
   case Column::Away: return share(row.away);
   case Column::Streak: return row.streak;
@@ -172,25 +176,19 @@ QVBoxLayout* cardLayout(Card& card) {
   return layout;
 }
 
-void drawTag(QPainter& painter, QRect& area, const SeasonTeam& team, const QColor& ground) {
-  const QRect tag(area.left(), area.center().y() - teamTagHeight() / 2, teamTagWidth(), teamTagHeight());
-  drawTeamTag(painter, tag, toQt(team.abbreviation), seasonTeamColour(team), ground);
-  area.setLeft(tag.right() + Theme::measure()(12));
-}
-
 } // namespace
 
 StandingsPanel::StandingsPanel(const Settings& settings, const Texts& texts, QWidget* parent)
     : QWidget(parent), m_settings(settings), m_texts(texts),
-      m_table(new SeasonTableView(QStringLiteral("lvwSTANDINGS"), 0, this)), m_reason(new PlainLabel(this)) {
+      m_table(new SeasonTableView(QStringLiteral("lvwSTANDINGS"), 0, this)), m_practice(new QCheckBox(this)),
+      m_reason(new ElidedLabel(this)) {
   m_table->setRowHeights(34, 42);
   m_table->fillWidth();
   m_table->setShowGrid(false);
   m_table->setItemDelegate(new StandingsDelegate(*m_table, m_texts));
   setAccessibleNumber(*m_table, Text::StandingsTab);
-  m_reason->setObjectName(QStringLiteral("lblTIES"));
-  m_reason->setForegroundRole(QPalette::PlaceholderText);
-  m_reason->setAlignment(Qt::AlignRight);
+  QWidget* filtered = withFilters(*m_table, 0, m_texts, this);
+  filtered->layout()->setSizeConstraint(QLayout::SetMinAndMaxSize); // as high as the table
 
   auto* lastCard = new Card(this);
   auto* lastLayout = cardLayout(*lastCard);
@@ -206,8 +204,8 @@ StandingsPanel::StandingsPanel(const Settings& settings, const Texts& texts, QWi
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(Theme::measure()(4, 8));
-  layout->addWidget(m_reason);
-  layout->addWidget(m_table, 4);
+  layout->addLayout(makeHead());
+  layout->addWidget(filtered, 4);
   layout->addLayout(below, 3);
 
   connect(m_table, &SeasonTableView::rowAsked, this,
@@ -216,6 +214,36 @@ StandingsPanel::StandingsPanel(const Settings& settings, const Texts& texts, QWi
           [this](int row) { emit gameAsked(m_last[static_cast<std::size_t>(row)]); });
   connect(m_toCheck, &RowList::rowAsked, this,
           [this](int row) { emit gameAsked(m_wrong[static_cast<std::size_t>(row)]); });
+}
+
+QLayout* StandingsPanel::makeHead() {
+  m_practice->setObjectName(QStringLiteral("chkPRACTICE"));
+  setTextNumber(*m_practice, Text::StandingsPractice);
+  m_reason->setObjectName(QStringLiteral("lblTIES"));
+  m_reason->setForegroundRole(QPalette::PlaceholderText);
+  m_reason->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  setToolTipNumber(*m_reason, Text::StandingsTiesTip);
+  connect(m_practice, &QCheckBox::toggled, this, &StandingsPanel::count);
+  auto* head = new QHBoxLayout;
+  head->addWidget(m_practice);
+  head->addWidget(m_reason, 1);
+  return head;
+}
+
+bool StandingsPanel::countsPractice() const {
+  return m_practice->isChecked();
+}
+
+void StandingsPanel::countPractice(bool counts) {
+  m_practice->setChecked(counts);
+}
+
+void StandingsPanel::count() {
+  if (m_catalogue == nullptr)
+    return;
+  m_standings = std::make_shared<const Standings>(
+      *m_catalogue, m_games, countsPractice() ? PracticeGames::Counted : PracticeGames::LeftOut);
+  showTable();
 }
 
 QWidget* StandingsPanel::makeSide() {
@@ -263,13 +291,12 @@ void StandingsPanel::showGames(std::shared_ptr<const GameCatalogue> catalogue,
                                std::vector<std::size_t> games) {
   m_catalogue = std::move(catalogue);
   m_games = std::move(games);
-  m_standings = std::make_shared<const Standings>(*m_catalogue, m_games);
   m_last.assign(m_games.rbegin(),
                 m_games.rbegin() + static_cast<std::ptrdiff_t>(std::min(kLastGames, m_games.size())));
   m_wrong.clear();
   std::ranges::copy_if(m_games, std::back_inserter(m_wrong),
                        [this](std::size_t game) { return m_catalogue->games()[game].wrongCount > 0; });
-  showTable();
+  count();
   showLastGames();
   showToCheck();
 }
@@ -303,8 +330,8 @@ void StandingsPanel::showTable() {
   static_cast<StandingsDelegate*>(m_table->itemDelegate())->show(m_catalogue, m_standings);
   m_table->showRows(std::move(rows));
   fitTable();
-  m_reason->setText(
-      caption(m_texts, m_standings->rows().empty() ? Text::StandingsEmpty : Text::StandingsTies));
+  m_reason->setText(m_standings->rows().empty() ? caption(m_texts, Text::StandingsEmpty)
+                                                : toQt(tiesText(m_standings->ties(), m_texts)));
 }
 
 // As high as its rows; what is left belongs to the cards.
@@ -349,7 +376,7 @@ void StandingsPanel::showLastGames() {
         };
         const int figures = room("1990");
         writeLeft(painter, area, room("30 sept. "), dayOf(game), look.muted);
-        drawTag(painter, area, teamOf(static_cast<std::size_t>(row), Side::Visitor), ground);
+        drawTagLeft(painter, area, teamOf(static_cast<std::size_t>(row), Side::Visitor), ground);
         QRect left(area.left(), area.top(), figures, area.height());
         const QString visitors = points(Side::Visitor);
         writeRight(painter, left, figures, visitors, look.ink);
@@ -359,7 +386,7 @@ void StandingsPanel::showLastGames() {
         const QString home = points(Side::Home);
         writeLeft(painter, area, figures, home, look.ink);
         painter.setFont(Theme::font(Type::Body));
-        drawTag(painter, area, teamOf(static_cast<std::size_t>(row), Side::Home), ground);
+        drawTagLeft(painter, area, teamOf(static_cast<std::size_t>(row), Side::Home), ground);
         if (game.overtimes > 0)
           writeLeft(painter, area, area.width(), caption(m_texts, Text::Overtime), look.muted);
       });
@@ -419,19 +446,11 @@ void StandingsPanel::showLeaders() {
       words << QStringLiteral("%1  %2  %3").arg(leader.rank).arg(toQt(leader.row->name), toQt(leader.value));
     m_boards[i].list->showRows(words, [season = m_season, leaders](QPainter& painter, const QRect& whole,
                                                                    int row, const QColor& ground) {
-      const Look& look = Theme::look();
       const Leader& leader = leaders[static_cast<std::size_t>(row)];
-      QRect area = whole;
-      writeLeft(painter, area, Theme::measure()(20, 24), QString::number(leader.rank), look.muted);
       painter.setFont(Theme::font(Type::Body, QFont::Bold));
-      writeRight(painter, area, painter.fontMetrics().horizontalAdvance(QStringLiteral("100.0")),
-                 toQt(leader.value), look.ink);
-      painter.setFont(Theme::font(Type::Body));
-      QRect tag(area.right() - teamTagWidth() - Theme::measure()(8), area.top(), teamTagWidth(),
-                area.height());
-      area.setRight(tag.left() - Theme::measure()(6));
-      drawTag(painter, tag, season->catalogue().teams()[leader.row->team], ground);
-      writeLeft(painter, area, area.width(), toQt(leader.row->name), look.ink);
+      drawLeader(painter, whole, leader, season->catalogue().teams()[leader.row->team],
+                 painter.fontMetrics().horizontalAdvance(QStringLiteral("100.0")), LeaderWeight::Plain,
+                 ground);
     });
   }
 }

@@ -13,6 +13,7 @@
 #include <memory>
 #include <vector>
 
+class QCheckBox;
 class QLabel;
 
 namespace hooptab {
@@ -30,6 +31,8 @@ class StandingsPanel : public QWidget {
   void showSeason(std::shared_ptr<const Season> season); // null: none yet
   void relabelPanel();
   SeasonTableView& table() const { return *m_table; }
+  bool countsPractice() const;
+  void countPractice(bool counts);
 
  signals:
   void gameAsked(std::size_t game); // its place in the catalogue
@@ -42,7 +45,9 @@ class StandingsPanel : public QWidget {
     QLabel* title = nullptr;
     RowList* list = nullptr;
   };
+  QLayout* makeHead();
   QWidget* makeSide();
+  void count();
   void showTable();
   void fitTable();
   void showLastGames();
@@ -58,6 +63,7 @@ class StandingsPanel : public QWidget {
   std::shared_ptr<const Season> m_season;
   std::vector<std::size_t> m_last, m_wrong; // places in the catalogue, as listed
   SeasonTableView* m_table;
+  QCheckBox* m_practice;
   QLabel* m_reason; // why there is no table, or how ties are parted
   RowList* m_lastGames;
   QLabel* m_checkTitle;

@@ -75,34 +75,27 @@ Cell rate(std::string_view name, const CourtShare& share) {
           value.value_or(std::numeric_limits<double>::lowest())};
 }
 
-// The sum of some games as a row of the season.
-SeasonRow rowOf(std::span<const GameResult> results) {
-  SeasonRow row;
-  row.games = static_cast<int>(results.size());
-  for (const GameResult& result : results) {
-    row.numbers.seconds += result.numbers.seconds;
-    for (std::size_t i = 0; i < kCounterCount; ++i)
-      row.numbers.counters.counts[i] += result.numbers.counters.counts[i];
-    row.onCourt += result.onCourt;
-  }
-  return row;
-}
-
 } // namespace
 
 StudyTable averagesOf(const SeasonPerson* person, const Settings& settings, const Texts& texts) {
   StudyTable table;
   const OwnLabels labels = person == nullptr ? OwnLabels() : person->season->statistics().labels();
+  const SeasonRating ownRating = person == nullptr ? SeasonRating() : person->season->ownRating();
   std::vector<TableColumn> all = resultColumns(settings, texts, labels);
   table.columns.push_back(words({}, "Average"));
-  for (int index = kResultOpponentColumn; index < static_cast<int>(all.size()); ++index) {
-    TableColumn& column = table.columns.emplace_back(std::move(all[static_cast<std::size_t>(index)]));
-    column.longest = QStringLiteral("100.0%");
+  const int rating = seasonColumn("rating").index;
+  for (int index = kResultOpponentColumn + 1; index <= resultColumnCount(); ++index) {
+    table.columns.push_back(std::move(all[static_cast<std::size_t>(index) - 1]));
+    if (seasonColumnOfResult(index) == rating)
+      table.columns.push_back(ownRatingColumn(ownRating, texts));
   }
+  table.columns.push_back(plusMinusColumn(texts));
+  for (std::size_t i = 1; i < table.columns.size(); ++i)
+    table.columns[i].longest = QStringLiteral("100.0%");
   if (person == nullptr)
     return table;
   const std::span results(person->results);
-  const SeasonRow last = rowOf(results.last(std::min(kLastGames, results.size())));
+  const SeasonRow last = sumOfResults(results.last(std::min(kLastGames, results.size())));
   Cells cells;
   const auto add = [&](Text name, const SeasonRow& row, SeasonView view) {
     std::vector<Cell>& shown = cells.emplace_back();
@@ -110,6 +103,8 @@ StudyTable averagesOf(const SeasonPerson* person, const Settings& settings, cons
     for (int index = kResultOpponentColumn + 1; index <= resultColumnCount(); ++index) {
       const int column = seasonColumnOfResult(index);
       shown.push_back({toQt(seasonCell(row, column, view, texts)), seasonSortValue(row, column, view)});
+      if (column == rating)
+        shown.push_back({toQt(ownRating.text(row, view)), ownRating.value(row, view).value_or(0)});
     }
     shown.push_back(text(plusMinusText(row, view)));
   };

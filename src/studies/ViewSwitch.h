@@ -2,25 +2,19 @@
 #pragma once
 
 #include "season/SeasonColumns.h"
-
-#include <QWidget>
-
-class QButtonGroup;
+#include "studies/ChoiceSwitch.h"
 
 namespace hooptab {
 
-class ViewSwitch : public QWidget {
+class ViewSwitch : public ChoiceSwitch {
   Q_OBJECT
 
  public:
   explicit ViewSwitch(QWidget* parent = nullptr);
-  SeasonView view() const;
+  SeasonView view() const { return static_cast<SeasonView>(choice()); }
 
  signals:
   void viewChosen(SeasonView view);
-
- private:
-  QButtonGroup* m_buttons;
 };
 
 } // namespace hooptab

@@ -319,8 +319,32 @@ void frmSTATS::showTeam(SeasonId team) {
 
 void frmSTATS::chooseMinimum(const Qualification& minimum) {
   m_desk.setMinimum(minimum, m_texts);
-  m_players->showSeason(m_desk.season()); // whose marks it decides
-  m_leaders->showMinimum(minimum, m_desk.season());
+  showRanking();
+}
+
+void frmSTATS::setFormulaReader(FormulaReader reader) {
+  m_readFormula = std::move(reader);
+  takeOwnRating();
+}
+
+void frmSTATS::takeOwnRating() {
+  SeasonRating rating = SeasonRating::of(m_settings.ownRating, m_readFormula);
+  if (rating.isSameAs(m_desk.ownRating()))
+    return;
+  m_desk.setOwnRating(std::move(rating), m_texts);
+  showRanking();
+  m_lines->showSeason(m_desk.season());
+  if (m_person->person() == nullptr)
+    return;
+  auto person = std::make_shared<SeasonPerson>(*m_person->person());
+  person->season = m_desk.season();
+  m_person->showPerson(person);
+}
+
+// What minimum and rating decide: marks, columns and leaders.
+void frmSTATS::showRanking() {
+  m_players->showSeason(m_desk.season());
+  m_leaders->showMinimum(m_desk.minimum(), m_desk.season());
   m_standings->showSeason(m_desk.season());
 }
 
@@ -493,6 +517,7 @@ void frmSTATS::showView(const QByteArray& view) {
 void frmSTATS::relabelWindow() {
   relabel(*this, m_texts);
   setWindowTitle(caption(m_texts, Text::SeasonTitle));
+  takeOwnRating();
   m_criteria->relabelPanel();
   m_games->showColumns(gameListColumns(m_texts));
   m_notRead->showColumns(skippedColumns(m_texts));
@@ -534,7 +559,8 @@ QByteArray frmSTATS::arrangement() const {
   QDataStream stream(&state, QIODevice::WriteOnly);
   const Qualification& minimum = m_desk.minimum();
   stream << m_folder->folder() << m_folder->withSubfolders() << parts << qint32(minimum.gamesPercent)
-         << qint32(minimum.minutes) << qint32(minimum.attempts) << m_views->views();
+         << qint32(minimum.minutes) << qint32(minimum.attempts) << m_views->views()
+         << m_standings->countsPractice() << m_leaders->areCards();
   return state;
 }
 
@@ -563,6 +589,13 @@ void frmSTATS::restoreArrangement(const QByteArray& state) {
   stream >> views;
   if (stream.status() == QDataStream::Ok)
     m_views->setViews(std::move(views));
+  bool countsPractice = false;
+  bool areCards = true;
+  stream >> countsPractice >> areCards;
+  if (stream.status() != QDataStream::Ok)
+    return;
+  m_standings->countPractice(countsPractice);
+  m_leaders->showAsCards(areCards);
 }
 
 } // namespace hooptab

@@ -41,6 +41,8 @@ class frmSTATS : public ChildWindow {
   void readFolder(const QString& folder, bool withSubfolders);
   // Where the summaries of what was read are kept; empty, as at first: nowhere.
   void keepSummariesIn(const std::string& folder) { m_cacheFolder = folder; }
+  // Who reads the user's own rating; nobody, as at first: it is not shown.
+  void setFormulaReader(FormulaReader reader);
   bool isBusy() const { return m_task.isRunning(); }
   // What reports are made of; null before statistics were generated.
   const std::shared_ptr<const Season>& statistics() const { return m_desk.season(); }
@@ -80,6 +82,8 @@ class frmSTATS : public ChildWindow {
   void showPerson(const SeasonRow& row, bool isLine);
   void showTeam(SeasonId team);
   void chooseMinimum(const Qualification& minimum);
+  void takeOwnRating(); // a formula, or another one
+  void showRanking();
   void openGame(std::size_t game);
   void takeScan(ScanOutcome outcome, std::shared_ptr<const GameCatalogue> catalogue);
 
@@ -103,6 +107,7 @@ class frmSTATS : public ChildWindow {
   const Texts& m_texts;
   Dialogs& m_dialogs;
   std::string m_cacheFolder;
+  FormulaReader m_readFormula;
   SeasonDesk m_desk;
   Text m_progressText = Text::None;        // of the work under way
   Text m_progressOne = Text::None;         // the same for one game

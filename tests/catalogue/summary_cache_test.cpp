@@ -50,7 +50,7 @@ class SummaryCacheTest : public testing::Test {
     case 2:
       return textOfGame("[PERIODE1]\n1=10:00,ARRET,IN-04-05-10-12-99,IN-03-07-08-11\n2=09:00,GFG,0-4,30,100\n"
                         "3=08:00,GF3,0-00,500,3\n4=07:0x,SPF,1-8\n4=06:00,GFT,1-77\n",
-                        "TERMINE=1\nEQUIPE0NOM=Panthers\nSUPP1=U2-Dives\nDATE=2026-02-0" +
+                        "TERMINE=1\nTYPE=0\nREGLES=NBA\nEQUIPE0NOM=Panthers\nSUPP1=U2-Dives\nDATE=2026-02-0" +
                             std::to_string(1 + pick(9)) + "\n");
     default: {
       const std::string path = m_scratch.path("one.GAM");

@@ -203,6 +203,32 @@ TEST_F(SeasonReportTest, AScoutingSheetTellsATeamFromItsGamesAndDashesWhatTotals
   EXPECT_FALSE(tables(ofTotals)[1]->rows[0].isPale) << "nobody's time is known";
 }
 
+TEST_F(SeasonReportTest, ARatingOfTheUsersOwnStandsBesideTheBuiltInOne) {
+  const SeasonStatistics season = folder.statistics();
+  SeasonReportChoice choice = {std::nullopt, rowOf(season.players(), "Ann Able")->id, {0, 0, 0}};
+  choice.ownRating = {"HEART", "3*PTS", [](const RatedNumbers& of) { return 3.0 * of.box.points(); }};
+  for (const SeasonReport which : {SeasonReport::TeamDetail, SeasonReport::PlayerOther, SeasonReport::Player,
+                                   SeasonReport::PlayerSheet}) {
+    const Report report = seasonReport(which, season, choice, settings, texts);
+    int tablesWithIt = 0;
+    for (const ReportTable* table : tables(report)) {
+      const auto own = std::ranges::find(table->columns, "HEART", &ReportColumn::header);
+      if (own == table->columns.end())
+        continue;
+      ++tablesWithIt;
+      EXPECT_EQ((own - 1)->header, texts.text(Text::Rating));
+      for (const ReportRow& row : table->rows)
+        EXPECT_EQ(row.cells.size(), table->columns.size());
+    }
+    EXPECT_GT(tablesWithIt, 1) << static_cast<int>(which);
+  }
+  const Report others = seasonReport(SeasonReport::PlayerOther, season, choice, settings, texts);
+  EXPECT_EQ(cell(*tables(others)[1], tables(others)[1]->rows[0], "own").text, "6.0") << "twelve in two games";
+  const Report leaders = seasonReport(SeasonReport::LeadersTotal, season, choice, settings, texts);
+  EXPECT_EQ(tables(leaders).back()->title, "Your own rating (HEART)");
+  EXPECT_EQ(tables(leaders).back()->rows[0].cells.back().value, 12);
+}
+
 TEST_F(SeasonReportTest, FilesNameTheirColumnsAndHoldNoTimeWhereNoneIsShown) {
   const SeasonStatistics season = folder.statistics();
   const Report games = seasonReport(SeasonReport::TeamSummary, season, {}, settings, texts);

@@ -105,6 +105,27 @@ TEST(Leaders, NeedWhatTheirLeagueAsksFor) {
   EXPECT_TRUE(none.isUnder(rows[1], SeasonTable::Lines, SeasonView::PerForty)) << "lines have their own";
 }
 
+TEST(Leaders, ARatingOfTheUsersOwnIsAskedOfTheSumsAndAveraged) {
+  SeasonRating own{"HEART", "AST + 2*FD", [](const RatedNumbers& of) -> std::optional<double> {
+                     return of.extras
+                                ? std::optional(of.box.counters[Counter::Ast] + 2.0 * of.extras->foulsDrawn)
+                                : std::nullopt;
+                   }};
+  std::vector<SeasonRow> rows = {player("Ann", 10, 4, 1200), player("Bea", 20, 4), player("Cyd", 0, 4)};
+  rows[0].extras = PlayerExtras{6, 0};
+  rows[2].extras = PlayerExtras{0, 3};
+  EXPECT_EQ(own.text(rows[0], SeasonView::Totals), "22.0");
+  EXPECT_EQ(own.text(rows[0], SeasonView::PerGame), "5.5");
+  EXPECT_EQ(own.text(rows[0], SeasonView::PerMinute), "1.10");
+  EXPECT_EQ(own.text(rows[0], SeasonView::PerForty), "44.0");
+  EXPECT_EQ(own.text(rows[1], SeasonView::Totals), "–") << "nobody counted her fouls drawn";
+  const Leaders leaders(rows, SeasonView::PerGame, Texts(), {}, own);
+  const StatisticLeaders& last = leaders.statistics().back();
+  ASSERT_EQ(last.column, kSeasonOwnColumn);
+  ASSERT_EQ(last.leaders.size(), 1U) << "0 leads nothing";
+  EXPECT_EQ(last.leaders[0].row->name + last.leaders[0].value, "Ann5.5");
+}
+
 TEST(Records, KeepTheBestAndSayWhereItWasReachedLast) {
   const std::string start = "1=10:00,ARRET,IN-04-05-10-12-15,IN-03-07-08-11-22\n2=10:00,DEPART\n";
   const auto stop = [](const std::string& clock) {

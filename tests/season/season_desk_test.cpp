@@ -1,6 +1,7 @@
 #include "season/SeasonDesk.h"
 
 #include "season/GameSeries.h"
+#include "season/LeaderBoards.h"
 #include "season/SeasonWords.h"
 #include "storage/CalendarDay.h"
 #include "storage/FileSystem.h"
@@ -133,6 +134,28 @@ TEST_F(SeasonDeskTest, SumsShotsByZone) {
   EXPECT_DOUBLE_EQ(differenceInPoints({3, 4}, {1, 2}), 25);
   EXPECT_DOUBLE_EQ(differenceInPoints({0, 4}, {1, 2}), -50);
   EXPECT_DOUBLE_EQ(differenceInPoints({0, 0}, {1, 2}), 0) << "no attempts say nothing";
+}
+
+TEST_F(SeasonDeskTest, CardsHaveTheFirstOfEachStatistic) {
+  FileSystem disk;
+  ProfileStore store{disk};
+  const Settings settings(store, "/nowhere");
+  desk.setMinimum({0, 0, 1}, texts);
+  readAndGenerate();
+  const auto first = [&](const std::string& title) -> std::string {
+    for (const LeaderBoard& board : leaderBoards(*desk.season(), SeasonView::PerGame, settings, texts)) {
+      if (board.title == title)
+        return board.leaders.empty() ? "nobody" : board.leaders[0].row->name + " " + board.leaders[0].value;
+    }
+    return "no card";
+  };
+  EXPECT_EQ(first("2-point %"), "nobody") << "two attempts in three games";
+  desk.setMinimum({0, 0, 0}, texts);
+  EXPECT_EQ(first("2-point %"), "Ann Able 50.0");
+  EXPECT_EQ(first("Your own rating (HEART)"), "no card");
+  desk.setOwnRating({"HEART", "FT", [](const RatedNumbers& of) { return of.box.counters[Counter::FTM]; }},
+                    texts);
+  EXPECT_EQ(first("Your own rating (HEART)"), "Ann Able 0.7");
 }
 
 TEST_F(SeasonDeskTest, FollowsAStatisticGameByGame) {

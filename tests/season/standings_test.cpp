@@ -26,15 +26,18 @@ class League {
         events += std::to_string(++key) + "=09:00,GFT," + side + "\n";
     }
     const std::string day = std::to_string(10 + ++m_games);
-    m_folder.add(day + ".GAM", "[DETAILS]\nVERSION=2.0\nTERMINE=1\nDUREE=10\nDATE=2026-01-" + day +
-                                   "\nEQUIPE0ABB=" + game[0] + "\nEQUIPE0CAT=A\nEQUIPE1ABB=" + game[second] +
+    m_folder.add(day + ".GAM", "[DETAILS]\nVERSION=2.0\nTERMINE=1\nDUREE=10\nDATE=2026-01-" + day + "\n" +
+                                   m_details + "EQUIPE0ABB=" + game[0] +
+                                   "\nEQUIPE0CAT=A\nEQUIPE1ABB=" + game[second] +
                                    "\nEQUIPE1CAT=A\n[0]\n4=0,Ann\n[1]\n7=0,Ida\n[PERIODE1]\n" + events);
   }
-  explicit League(std::initializer_list<const char*> games) {
+  explicit League(std::initializer_list<const char*> games, std::string details = {},
+                  PracticeGames practice = PracticeGames::LeftOut)
+      : m_details(std::move(details)) {
     for (const char* game : games)
       add(game);
     const GameCatalogue& catalogue = m_folder.scan();
-    standings = std::make_unique<Standings>(catalogue, catalogue.select({}));
+    standings = std::make_unique<Standings>(catalogue, catalogue.select({}), practice);
     for (const Standing& row : standings->rows())
       order += catalogue.teams()[row.team].abbreviation;
   }
@@ -43,6 +46,7 @@ class League {
   std::string order;
 
  private:
+  std::string m_details;
   SeasonFolder m_folder;
   int m_games = 0;
 };
@@ -79,6 +83,30 @@ TEST(StandingsTable, ATableOfThreeTeamsPartsThemAndTheRestHasItsOwn) {
   EXPECT_EQ(League({"A20B10", "B13C12", "C15A14", "D8A9", "D8B9", "D8C9"}).order, "ACBD");
   // With +6, -3 and -3 it parts A alone: of the others B won their game, though C has the better difference.
   EXPECT_EQ(League({"A20B12", "B13C8", "C15A13", "A9D8", "B9D8", "C40D1"}).order, "ABCD");
+}
+
+// A and B won one of two against each other, A by more; B has the better difference of all, and won against
+// D, which leads them; A won against C, which is behind them.
+TEST(StandingsTable, TheRulesThatGamesNamePartEqualTeams) {
+  const auto games = {"A20B10", "B12A11", "D9A8", "B9D8", "A9C8", "C9B8", "D9C8", "D9C7", "B30E1", "A9E8"};
+  EXPECT_EQ(League(games).order, "DABCE") << "FIBA's: the difference between them";
+  EXPECT_EQ(League(games, "REGLES=FIBAJEUNES\n").order, "DABCE");
+  const League nba(games, "REGLES=NBA\n");
+  EXPECT_EQ(nba.order, "DBACE") << "the difference of all games";
+  EXPECT_TRUE(tiesText(nba.standings->ties(), Texts()).starts_with("Ties: NBA – "));
+  // With more points against C instead: who won against the best is first.
+  const auto others = {"A20B10", "B12A11", "D9A8", "B9D8", "A90C8", "C9B8", "D9C8", "D9C7"};
+  EXPECT_EQ(League(others, "REGLES=NBA\n").order, "DABC");
+  EXPECT_EQ(League(others, "REGLES=NCAA\n").order, "DBAC");
+  // Between three in a ring all have the same difference: the points of these games part them.
+  EXPECT_EQ(League({"A9B7", "B6C4", "C5A3"}).order, "BAC");
+}
+
+TEST(StandingsTable, PracticeCountsOnlyWhereItIsAskedFor) {
+  const auto games = {"A9B5", "B7A6"};
+  EXPECT_EQ(League(games, "TYPE=0\n").order, "");
+  EXPECT_EQ(League(games, "TYPE=0\n", PracticeGames::Counted).order.size(), 2U);
+  EXPECT_EQ(League(games, "TYPE=2\n").order.size(), 2U);
 }
 
 // What the season sums against the insight of each game, which nothing of the season is asked for.

@@ -151,15 +151,15 @@ TEST_F(SeasonWindowTest, GeneratesTheTablesInTheirInstances) {
   const int columns = static_cast<int>(seasonColumns().size());
   for (const char* name :
        {"lvwSTATjoueurs(0)", "lvwSTATjoueurs(1)", "lvwSTATjoueurs(2)", "lvwSTATjoueurs(3)"}) {
-    EXPECT_EQ(table(name).model()->columnCount(), columns + 2) << name;
-    EXPECT_EQ(table(name).horizontalHeader()->visualIndex(columns + 1), 2) << "the team, beside the name";
+    EXPECT_EQ(table(name).model()->columnCount(), columns + 3) << name;
+    EXPECT_EQ(table(name).horizontalHeader()->visualIndex(columns + 2), 2) << "the team, beside the name";
     EXPECT_TRUE(table(name).isColumnHidden(54)) << name;
     EXPECT_EQ(rows(name), rows("lvwSTATjoueurs(0)")) << name;
   }
   EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, 1).contains(u',')) << "its players by name";
   const int ofLines = columns - 2; // lines have no positions
-  EXPECT_EQ(table("lvwSTATlignes(0)").model()->columnCount(), ofLines + 2);
-  EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, ofLines + 1).contains(u'-')) << "its team";
+  EXPECT_EQ(table("lvwSTATlignes(0)").model()->columnCount(), ofLines + 3);
+  EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, ofLines + 2).contains(u'-')) << "its team";
   EXPECT_GT(rows("lvwSTATlignes(2)"), rows("lvwSTATjoueurs(0)"));
   // By rank: the most points first; and each instance the same row divided.
   const double total = cell("lvwSTATjoueurs(0)", 0, kPoints).toDouble();
@@ -228,7 +228,7 @@ TEST_F(SeasonWindowTest, ShowsAPlayerGameByGame) {
   for (int row = 0; row < games; ++row)
     EXPECT_EQ(high(row), cell("lvwRESULTS", row, 11).toInt() == most) << row;
   ASSERT_EQ(rows("lvwAVERAGES"), 3);
-  EXPECT_EQ(cell("lvwAVERAGES", 0, 8), cell("lvwSTATjoueurs(1)", 0, kPoints));
+  EXPECT_EQ(cell("lvwAVERAGES", 0, 9), cell("lvwSTATjoueurs(1)", 0, kPoints));
   ASSERT_EQ(rows("lvwONOFF"), 6);
   EXPECT_NEAR(cell("lvwONOFF", 0, 1).toDouble() - cell("lvwONOFF", 0, 2).toDouble(),
               cell("lvwONOFF", 0, 3).replace(QChar(0x2212), u'-').toDouble(), 0.11);
@@ -267,10 +267,19 @@ TEST_F(SeasonWindowTest, ShowsTheStandingsOfTheGamesAsSoonAsTheyAreRead) {
   read();
   EXPECT_EQ(currentPage(), QStringLiteral("Standings"));
   ASSERT_EQ(rows("lvwSTANDINGS"), 4);
-  int games = 0;
-  for (int row = 0; row < 4; ++row)
-    games += cell("lvwSTANDINGS", row, 3).toInt();
-  EXPECT_EQ(games, 2 * (kGames + 1));
+  const auto games = [this] {
+    int sum = 0;
+    for (int row = 0; row < rows("lvwSTANDINGS"); ++row)
+      sum += cell("lvwSTANDINGS", row, 3).toInt();
+    return sum;
+  };
+  EXPECT_LT(games(), 2 * (kGames + 1)) << "without practice";
+  find<QCheckBox>("chkPRACTICE").click();
+  EXPECT_EQ(games(), 2 * (kGames + 1));
+  find<QToolButton>("cmdFILTERS").click();
+  find<QLineEdit>("lvwSTANDINGSfilters(0)").setText(QStringLiteral("<3"));
+  EXPECT_EQ(rows("lvwSTANDINGS"), 2);
+  find<QToolButton>("cmdFILTERS").click();
   EXPECT_GE(cell("lvwSTANDINGS", 0, 6).toDouble(), cell("lvwSTANDINGS", 3, 6).toDouble());
   auto& last = find<QListWidget>("lvwLASTGAMES");
   QSignalSpy opened(window.get(), &frmSTATS::gameAsked);
@@ -404,6 +413,35 @@ TEST_F(SeasonWindowTest, ShowsLeadersAndATeam) {
   EXPECT_NE(find<SeriesView>("picMARGINS").drawing().title, title);
 }
 
+TEST_F(SeasonWindowTest, LeadersAreCardsWhoseNamesOpenAPlayer) {
+  settings.ownRating = {"twice", "HEART"};
+  window->setFormulaReader([](std::string_view) {
+    return FormulaReading{[](const RatedNumbers& of) { return std::optional(2.0 * of.box.points()); }};
+  });
+  readAndGenerate();
+  find<QTabWidget>("tabs").setCurrentIndex(4);
+  auto& points = find<QListWidget>("lvwCARD(0)");
+  ASSERT_EQ(points.count(), 5);
+  EXPECT_TRUE(points.isVisible());
+  EXPECT_FALSE(table("lvwLEADERS").isVisible());
+  const QString best = cell("lvwSTATjoueurs(0)", 0, 1);
+  EXPECT_TRUE(points.item(0)->text().contains(best));
+  QTest::mouseClick(points.viewport(), Qt::LeftButton, {}, points.visualItemRect(points.item(0)).center());
+  wait();
+  EXPECT_EQ(currentPage(), QStringLiteral("Player or Line"));
+  EXPECT_EQ(find<QLabel>("lblNom").text(), best);
+
+  const SeasonTableView& players = table("lvwSTATjoueurs(0)");
+  const int own = players.model()->columnCount() - 3; // before points while on court and the team
+  EXPECT_EQ(players.model()->headerData(own, Qt::Horizontal).toString(), QStringLiteral("HEART"));
+  EXPECT_FALSE(players.isColumnHidden(own));
+  EXPECT_EQ(cell("lvwSTATjoueurs(0)", 0, own),
+            QStringLiteral("%1.0").arg(2 * cell("lvwSTATjoueurs(0)", 0, kPoints).toInt()));
+  settings.ownRating = {};
+  window->setFormulaReader({});
+  EXPECT_TRUE(players.isColumnHidden(own));
+}
+
 TEST_F(SeasonWindowTest, TheMinimumDecidesWhoLeadsAndIsKept) {
   readAndGenerate();
   find<QTabWidget>("tabs").setCurrentIndex(4);
@@ -420,9 +458,14 @@ TEST_F(SeasonWindowTest, TheMinimumDecidesWhoLeadsAndIsKept) {
   page.findChild<QToolButton*>(QStringLiteral("cmdPERFORTY"))->click();
   EXPECT_EQ(rows("lvwLEADERS"), 0) << "nobody plays whole games";
   EXPECT_TRUE(cell("lvwSTATjoueurs(3)", 0, 1).endsWith(u'*'));
+  EXPECT_FALSE(table("lvwLEADERS").isVisible());
+  page.findChild<QToolButton*>(QStringLiteral("cmdASTABLE"))->click();
+  EXPECT_TRUE(table("lvwLEADERS").isVisible());
   const QByteArray kept = window->arrangement();
   makeWindow();
   window->restoreArrangement(kept);
+  EXPECT_TRUE(find<QToolButton>("cmdASTABLE").isChecked());
+  EXPECT_FALSE(find<QCheckBox>("chkPRACTICE").isChecked());
   EXPECT_EQ(find<QSpinBox>("txtMINMINUTES").value(), 48);
   EXPECT_EQ(find<QSpinBox>("txtMINATTEMPTS").value(), 2);
 }
