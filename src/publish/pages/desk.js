@@ -1,17 +1,20 @@
 // The head of the pages for those who work at the game: score, clock, state in words, and a few facts.
-import { h } from './dom.js';
+import {h} from './dom.js';
 import { clockText, secondsLeft } from './clock.js';
 import { breakText, dots } from './parts.js';
 import { periodName, t } from './words.js';
 
 function stateWords(feed, of) {
   if (feed.isLost)
-    return [h('span', { 'aria-hidden': 'true' }, '⚠ '), t('noConnection'), ' ', h('span', { id: 'age' }, clockText(feed.age / 1000))];
+    return [
+      h('span', { 'aria-hidden': 'true' }, '⚠ '), t('noConnection'), ' ',
+      h('span', { id: 'age' }, clockText(feed.age / 1000))
+    ];
   const words = { none: 'noGame', before: 'notBegun', running: 'deskRunning' };
   return breakText(of) || t(words[of.state] ?? 'deskStopped');
 }
 
-export function deskClock(feed, { clock, state }) {
+export function deskClock(feed, {clock, state}) {
   const left = secondsLeft(clock, feed.now);
   return left === null || state === 'final' ? '' : clockText(left);
 }
@@ -27,12 +30,14 @@ export function timeOutsOf(teams) {
   return [t(isLeft ? 'deskTimeOutsLeft' : 'timeOutsTaken'), [told(teams[0]), ' – ', told(teams[1])]];
 }
 
-// `sides`: tag and points of the two; `of`: state, clock and rules, and what the period is called where the server says it; `facts`: [label, value] each.
-export function deskHead(feed, { sides, of, late = '', facts }) {
+// `sides`: tag and points of the two; `of`: state, clock and rules, and what the period is called where the
+// server says it; `facts`: [label, value] each.
+export function deskHead(feed, {sides, of, late = '', facts}) {
   return h('header', { class: 'deskHead' },
     h('h1', null, sides[0].tag, h('span', null, `${sides[0].points} – ${sides[1].points}`), sides[1].tag),
     h('p', { id: 'clock', class: 'clock' }, deskClock(feed, of)),
-    h('p', { class: 'state' }, `${of.periodWords ?? periodName(of.clock.period, of.rules)} · `, stateWords(feed, of), late && ` · ${late}`),
+    h('p', { class: 'state' }, `${of.periodWords ?? periodName(of.clock.period, of.rules)} · `,
+      stateWords(feed, of), late && ` · ${late}`),
     h('dl', null, facts.map(([label, value]) => h('div', null, h('dt', null, label), h('dd', null, value)))));
 }
 
