@@ -64,7 +64,7 @@ function detailsOf(game, { play }) {
     details.push(h('b', null, pointsInAll(play)));
   if (play.with?.kind === 'assist')
     details.push(t('withAssist', personText(play.with.number, play.with.name)) + assistsNow(game, play));
-  if (play.fouls)
+  if (play.kind === 'foul' && play.fouls)
     details.push(h('b', null, t('announcerFoul', ordinal(play.fouls)), play.out && ` – ${t('out')}`));
   else if (play.out)
     details.push(h('b', null, t('out')));
@@ -118,8 +118,10 @@ function rowText(game, { play, times }) {
   const parts = [(times > 1 ? `${times} × ` : '') + wordsOf(play)];
   if (play.made && play.total > 0)
     parts.push(t('inAll', play.total));
-  if (play.fouls)
-    parts[0] = t('announcerFoul', ordinal(play.fouls)) + (play.out ? ` – ${t('out')}` : '');
+  if (play.kind === 'foul' && play.fouls)
+    parts[0] = t('announcerFoul', ordinal(play.fouls));
+  if (play.out)
+    parts[0] += ` – ${t('out')}`;
   return parts.join(' · ');
 }
 

@@ -52,7 +52,7 @@ function head(board) {
       [t('deskTeamFouls'), `${us.fouls} – ${them.fouls}`],
       us.foulWords && [t('benchNextFoul'), h('span', { class: us.bonus ? 'bad' : null }, us.foulWords)],
       timeOutsOf([us, them])
-    ].filter(Boolean),
+    ],
   });
 }
 

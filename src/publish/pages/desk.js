@@ -1,5 +1,5 @@
 // The head of the pages for those who work at the game: score, clock, state in words, and a few facts.
-import {h} from './dom.js';
+import { h } from './dom.js';
 import { clockText, secondsLeft } from './clock.js';
 import { breakText, dots } from './parts.js';
 import { periodName, t } from './words.js';
@@ -19,8 +19,11 @@ export function deskClock(feed, {clock, state}) {
   return left === null || state === 'final' ? '' : clockText(left);
 }
 
-// As dots where the rules of the game give a number of them, else how many were taken.
+// As dots where the rules of the game give a number of them, else how many were taken; null where the server
+// says neither.
 export function timeOutsOf(teams) {
+  if (teams.every(({ timeOuts: of }) => !Number.isInteger(of?.left) && !Number.isInteger(of?.taken)))
+    return null;
   const isLeft = Number.isInteger(teams[0].timeOuts?.left);
   const told = ({ timeOuts: of }) => {
     if (!Number.isInteger(of?.left))
@@ -38,7 +41,7 @@ export function deskHead(feed, {sides, of, late = '', facts}) {
     h('p', { id: 'clock', class: 'clock' }, deskClock(feed, of)),
     h('p', { class: 'state' }, `${of.periodWords ?? periodName(of.clock.period, of.rules)} · `,
       stateWords(feed, of), late && ` · ${late}`),
-    h('dl', null, facts.map(([label, value]) => h('div', null, h('dt', null, label), h('dd', null, value)))));
+    h('dl', null, facts.filter(Boolean).map(([label, value]) => h('div', null, h('dt', null, label), h('dd', null, value)))));
 }
 
 // The clock and the age of what is shown go on without drawing all of it.

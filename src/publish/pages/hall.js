@@ -4,7 +4,7 @@ import { h, paint } from './dom.js';
 import { teamLooks } from './colour.js';
 import { dayName, loadWords, periodName, t } from './words.js';
 import { abbOf, personText, sidesOf, tag, wordsOf } from './parts.js';
-import {
+import { 
   clockPlace,
   headWord,
   keepDrawing,
@@ -12,7 +12,7 @@ import {
   pointsInAll,
   shortPerson,
   timeOutsLeft
-} from './screens.js';
+ } from './screens.js';
 
 const kGround = '#000000';
 const kText = '#ffffff';

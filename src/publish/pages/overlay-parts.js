@@ -1,5 +1,5 @@
 // The parts of the overlay: score bug, last basket, lower third, board.
-import {h} from './dom.js';
+import { h } from './dom.js';
 import { clockText } from './clock.js';
 import { abbOf, breakText, pips, sidesOf } from './parts.js';
 import { percent, periodName, t } from './words.js';

@@ -1,6 +1,6 @@
 // What the screens have in common that are not held in a hand: family names, dots with their words, what
 // stands in the place of the clock, and drawing anew when the connection is lost or found.
-import {h} from './dom.js';
+import { h } from './dom.js';
 import { clockText, secondsLeft } from './clock.js';
 import { breakText, dots, personText } from './parts.js';
 import { periodName, t } from './words.js';

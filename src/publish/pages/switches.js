@@ -1,5 +1,5 @@
 // Language and look, as two buttons for pages without the spectators' head.
-import {h} from './dom.js';
+import { h } from './dom.js';
 import { dark, wearLook } from './look.js';
 import { changeLanguage, lang, remember, t } from './words.js';
 
