@@ -6,7 +6,7 @@ import { apply, epochOf, numberOf } from './apply.js';
 
 const kSilence = 6000;    // without a beat: the connection is lost
 const kPollEvery = 1500;  // while there is no stream
-const kReopenEvery = 10000;
+const kReopenEvery = 8000;
 const kMarkFor = 30000;   // how long a correction is shown
 const kBeatsKept = 8;
 
@@ -236,7 +236,7 @@ export class Feed {
     }
     if (now - this.#opened > kReopenEvery)
       this.#open();
-    const pause = kPollEvery * Math.min(1 + this.#failures / 2, 4);
+    const pause = kPollEvery * Math.min(1 + this.#failures / 4, 2);
     if (now - Math.max(this.#opened, this.#beat) > kSilence / 2 && !this.#loading && now - this.#asked > pause)
       this.load();
   }
