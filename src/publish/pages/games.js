@@ -2,7 +2,7 @@
 import { h, paint } from './dom.js';
 import { changeLanguage, dayName, lang, loadWords, periodName, t } from './words.js';
 import { clockText } from './clock.js';
-import { wearLook } from './frame.js';
+import { wearLook } from './look.js';
 import { breakText, sidesOf } from './parts.js';
 
 const kEvery = 5000;
