@@ -1,12 +1,11 @@
-// The score and what just happened; below it the periods and who scores most. It asks for the small part of
-// the game, and for all of it when somebody gets as far as the scorers.
+// The score and what just happened; below it the periods and who scores most. The small part of the game is
+// enough for it.
 import { base, h } from './dom.js';
 import { dayName, periodName, t } from './words.js';
 import { begin } from './frame.js';
 import { isTold, personText, playRow, playsWithGone, scoreHead, sidesOf, tag } from './parts.js';
 
 const kPlays = 4;
-const kScorers = 2;
 
 function details(game) {
   const { date = '', time = '', place = '', competition = '', round = '' } = game.details ?? {};
@@ -45,12 +44,13 @@ function byPeriod(game) {
 }
 
 function scorers(game) {
-  const rows = sidesOf(game).flatMap((side) => (game.teams[side].players ?? [])
-    .filter((player) => player.PTS > 0).sort((one, other) => other.PTS - one.PTS).slice(0, kScorers)
-    .map((player) => h('tr', null, h('td', null, tag(game, side)),
-      h('th', { scope: 'row' }, personText(player.number, player.name)), h('td', { class: 'key' }, player.PTS))));
-  return h('section', { id: 'scorers' }, h('h2', null, t('topScorers')),
-    rows.length > 0 && h('table', { class: 'scorers' }, h('caption', { class: 'hidden' }, t('topScorers')),
+  const rows = sidesOf(game).flatMap((side) => (game.teams[side].scorers ?? []).map((scorer) => h('tr', null,
+    h('td', null, tag(game, side)), h('th', { scope: 'row' }, personText(scorer.number, scorer.name)),
+    h('td', { class: 'key' }, scorer.points))));
+  if (!rows.length)
+    return null;
+  return h('section', { 'data-key': 'scorers' }, h('h2', null, t('topScorers')),
+    h('table', { class: 'scorers' }, h('caption', { class: 'hidden' }, t('topScorers')),
       h('thead', { class: 'hidden' }, h('tr', null, ['team', 'player', 'points'].map((name) =>
         h('th', { scope: 'col' }, t(name))))),
       h('tbody', null, rows)));
@@ -62,17 +62,4 @@ function draw(feed) {
           game.state !== 'before' && byPeriod(game), game.state !== 'before' && scorers(game)];
 }
 
-const { feed } = await begin({ page: 'score', isWhole: false, draw });
-const watch = new IntersectionObserver((seen) => {
-  if (seen.some((entry) => entry.isIntersecting)) {
-    watch.disconnect();
-    feed.widen();
-  }
-});
-const found = setInterval(() => {
-  const section = document.getElementById('scorers');
-  if (!section)
-    return;
-  clearInterval(found);
-  watch.observe(section);
-}, 300);
+await begin({ page: 'score', isWhole: false, draw });
