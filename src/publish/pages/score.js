@@ -3,7 +3,7 @@
 import { base, h } from './dom.js';
 import { dayName, periodName, t } from './words.js';
 import { begin } from './frame.js';
-import { isTold, personText, playRow, playsWithGone, scoreHead, sidesOf, tag } from './parts.js';
+import { abbOf, isTold, personText, playRow, playsWithGone, scoreHead, sidesOf, tag } from './parts.js';
 
 const kPlays = 4;
 
@@ -26,21 +26,28 @@ function lastPlays(feed) {
     h('p', { class: 'all' }, h('a', { href: `${base}/plays` }, t('allPlays'))));
 }
 
+// What is left stands in the head while there is a game to play.
+function timeOutsTaken(game) {
+  const isLeftTold = game.teams.every((team) => typeof team.timeOuts?.left === 'number');
+  if (game.state !== 'final' && isLeftTold)
+    return null;
+  const taken = sidesOf(game).map((side) => `${abbOf(game, side)} ${game.teams[side].timeOuts?.taken ?? 0}`);
+  return h('p', { class: 'legend' }, `${t('timeOutsTaken')}: ${taken.join(' · ')}`);
+}
+
 function byPeriod(game) {
   const played = Math.max(...game.teams.map((team) => team.periods.length));
   const periods = Array.from({ length: Math.max(played, game.rules?.periods ?? 0) }, (_, at) => at + 1);
-  // What is left stands in the head while there is a game to play.
-  const hasLeft = game.state !== 'final' && game.teams.every((team) => typeof team.timeOuts?.left === 'number');
   return h('section', { 'data-key': 'periods' }, h('h2', null, t('byPeriod')),
     h('div', { class: 'scroll', tabindex: '0', role: 'region', 'aria-label': t('byPeriod') },
       h('table', null, h('caption', { class: 'hidden' }, t('byPeriod')),
         h('thead', null, h('tr', null, h('th', { scope: 'col' }, t('team')),
           periods.map((period) => h('th', { scope: 'col' }, periodName(period, game.rules))),
-          h('th', { scope: 'col' }, t('total')),
-          !hasLeft && h('th', { scope: 'col' }, t('timeOutsTaken')))),
+          h('th', { scope: 'col' }, t('total')))),
         h('tbody', null, sidesOf(game).map((side) => h('tr', null, h('th', { scope: 'row' }, tag(game, side)),
           periods.map((period) => h('td', null, game.teams[side].periods[period - 1] ?? '')),
-          h('td', { class: 'key' }, game.teams[side].points), !hasLeft && h('td', null, game.teams[side].timeOuts?.taken ?? '–')))))));
+          h('td', { class: 'key' }, game.teams[side].points)))))),
+    timeOutsTaken(game));
 }
 
 function scorers(game) {
