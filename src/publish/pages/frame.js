@@ -64,7 +64,7 @@ class Frame {
   async #askForGames() {
     try {
       const games = await (await fetch('/api/games')).json();
-      this.#hasGames = (Array.isArray(games) ? games : games.games ?? []).length > 1;
+      this.#hasGames = games.length > 1;
       this.#drawTop();
     } catch {
       // Without the list there is no way to it; the page is whole without.

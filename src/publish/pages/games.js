@@ -18,7 +18,7 @@ function stateText(game) {
   if (game.state === 'none')
     return t('noGame');
   if (game.state === 'before')
-    return [t('notBegun'), game.details?.date && dayName(game.details.date), game.details?.place].filter(Boolean).join(' · ');
+    return [t('notBegun'), game.date && dayName(game.date)].filter(Boolean).join(' · ');
   const words = breakText(game);
   if (words)
     return words;
@@ -26,9 +26,13 @@ function stateText(game) {
   return game.state === 'running' ? `● ${clock}` : clock;
 }
 
+function addressOf(name) {
+  return name ? `/g/${encodeURIComponent(name)}/` : '/';
+}
+
 function entry({ name, game }) {
   const hasTeams = game?.teams?.length === 2;
-  return h('li', { 'data-key': name }, h('a', { id: `game-${name}`, href: `/g/${encodeURIComponent(name)}/` },
+  return h('li', { 'data-key': name }, h('a', { id: `game-${name}`, href: addressOf(name) },
     hasTeams ? sidesOf(game).map((side) => h('span', { class: 'pair' },
       h('b', null, game.teams[side].abb || game.teams[side].name), h('span', { class: 'points' }, game.teams[side].points)))
       : h('b', null, name),
@@ -49,12 +53,20 @@ function draw() {
       entries && (entries.length ? h('ul', { class: 'games' }, entries.map(entry)) : h('p', { class: 'empty' }, t('noGame')))));
 }
 
+// A game that is played, with its clock; of others the list says enough.
+async function whole(one) {
+  const isPlayed = !['before', 'final'].includes(one.state);
+  try {
+    return { name: one.name, game: isPlayed ? await asked(`${addressOf(one.name)}api/game?parts=score`) : one };
+  } catch {
+    return { name: one.name, game: null };
+  }
+}
+
 async function refresh() {
   try {
     const list = await asked('/api/games');
-    const names = (Array.isArray(list) ? list : list.games).map((one) => (typeof one === 'string' ? one : one.name));
-    entries = await Promise.all(names.map((name) => asked(`/g/${encodeURIComponent(name)}/api/game?parts=score`)
-      .then((game) => ({ name, game }), () => ({ name, game: null }))));
+    entries = await Promise.all(list.map(whole));
     isLost = false;
   } catch {
     isLost = true;
