@@ -29,8 +29,9 @@ function joined(plays) {
   const calls = [];
   for (const play of plays) {
     const before = calls.at(-1);
-    const isMore = before && play.kind === 'freeThrow' && before.play.kind === 'freeThrow' && isSameReading(play, before.play) &&
-      play.team === before.play.team && play.number === before.play.number;
+    const isMore = before && play.kind === 'freeThrow' && before.play.kind === 'freeThrow' &&
+      isSameReading(play, before.play) && play.team === before.play.team &&
+      play.number === before.play.number;
     if (isMore)
       calls[calls.length - 1] = { play, times: before.times + 1, ids: [...before.ids, play.id] };
     else
@@ -51,7 +52,8 @@ function whoOf(game, play) {
 function assistsNow(game, play) {
   const { number, team } = play.with;
   const isLast = !game.plays.slice(game.plays.findIndex(({ id }) => id === play.id) + 1)
-    .some((later) => later.with?.kind === 'assist' && later.with.team === team && later.with.number === number);
+                    .some((later) => later.with?.kind === 'assist' && later.with.team === team &&
+                        later.with.number === number);
   const player = isLast && game.teams[team]?.players?.find((one) => one.number === number);
   return player ? ` (${player.Ast})` : '';
 }
@@ -62,7 +64,7 @@ function detailsOf(game, { play }) {
     details.push(h('b', null, pointsInAll(play)));
   if (play.with?.kind === 'assist')
     details.push(t('withAssist', personText(play.with.number, play.with.name)) + assistsNow(game, play));
-  if (play.fouls)
+  if (play.kind === 'foul' && play.fouls)
     details.push(h('b', null, t('announcerFoul', ordinal(play.fouls)), play.out && ` – ${t('out')}`));
   else if (play.out)
     details.push(h('b', null, t('out')));
@@ -77,69 +79,91 @@ function withDots(parts) {
 
 function correction(ids) {
   const mark = ids.map((id) => feed.marks.get(id)).find(Boolean);
-  return mark && h('p', { class: 'corrected' }, h('span', { 'aria-hidden': 'true' }, '✎ '), t('announcerCorrected'));
+  return mark &&
+    h('p', { class: 'corrected' }, h('span', { 'aria-hidden': 'true' }, '✎ '), t('announcerCorrected'));
 }
 
 function card(game, call) {
   const { play } = call;
   return h('li', { class: play.out ? 'card alarm' : 'card', 'data-key': play.id },
-    h('p', { class: 'what' }, play.team === null ? null : tag(game, play.team), ' ', call.times > 1 && `${call.times} × `, wordsOf(play)),
-    h('p', { class: 'who' }, whoOf(game, play)),
-    h('p', { class: 'more' }, withDots(detailsOf(game, call))), correction(call.ids));
+    h('p', { class: 'what' }, play.team === null ? null : tag(game, play.team), ' ',
+      call.times > 1 && `${call.times} × `, wordsOf(play)),
+    h('p', { class: 'who' }, whoOf(game, play)), h('p', { class: 'more' }, withDots(detailsOf(game, call))),
+    correction(call.ids));
 }
 
 function named(game, side, number) {
   return game.teams[side].players?.find((one) => one.number === number) ?? { number, name: '' };
 }
 
+const hasExchange = (play, side) => play.in[side].length + play.outs[side].length > 0;
+
 // One card for each team that changes, those who come in large.
 function exchangeCards(game, { play, ids }) {
-  return sidesOf(game).filter((side) => play.in?.[side]?.length || play.outs?.[side]?.length).map((side) =>
-    h('li', { class: 'card exchange', 'data-key': `${play.id}-${side}` },
-      h('p', { class: 'what' }, tag(game, side), ' ', wordsOf(play)),
-      h('p', { class: 'who' }, play.in[side].map((number) => h('span', { class: 'in' }, personText(number, named(game, side, number).name)))),
-      play.outs[side].length > 0 && h('p', { class: 'more' }, t('goOut', play.outs[side].map((number) => shortPerson(named(game, side, number))).join(', '))),
-      correction(ids)));
+  return sidesOf(game)
+    .filter((side) => hasExchange(play, side))
+    .map(
+      (side) => h('li', { class: 'card exchange', 'data-key': `${play.id}-${side}` },
+        h('p', { class: 'what' }, tag(game, side), ' ', wordsOf(play)),
+        h('p', { class: 'who' },
+          play.in[side].map(
+            (number) => h('span', { class: 'in' }, personText(number, named(game, side, number).name)))),
+        play.outs[side].length > 0 &&
+          h('p', { class: 'more' },
+            t('goOut', play.outs[side].map((number) => shortPerson(named(game, side, number))).join(', '))),
+        correction(ids)));
 }
 
 function rowText(game, { play, times }) {
   const parts = [(times > 1 ? `${times} × ` : '') + wordsOf(play)];
   if (play.made && play.total > 0)
     parts.push(t('inAll', play.total));
-  if (play.fouls)
-    parts[0] = t('announcerFoul', ordinal(play.fouls)) + (play.out ? ` – ${t('out')}` : '');
+  if (play.kind === 'foul' && play.fouls)
+    parts[0] = t('announcerFoul', ordinal(play.fouls));
+  if (play.out)
+    parts[0] += ` – ${t('out')}`;
   return parts.join(' · ');
 }
 
 function exchangeText(game, play) {
-  return sidesOf(game).filter((side) => play.in?.[side]?.length || play.outs?.[side]?.length).map((side) =>
-    [`${abbOf(game, side)}:`, play.in[side].length && t('comeIn', play.in[side].join(', ')),
-     play.in[side].length && play.outs[side].length && '·', play.outs[side].length && t('goOut', play.outs[side].join(', '))]
-      .filter(Boolean).join(' ')).join(' — ');
+  return sidesOf(game)
+    .filter((side) => hasExchange(play, side))
+    .map((side) => h('span', { class: 'line' }, tag(game, side), ' ', [
+      play.in[side].length && t('comeIn', play.in[side].join(', ')),
+      play.outs[side].length && t('goOut', play.outs[side].join(', '))
+    ].filter(Boolean).join(' · ')));
 }
 
 function beforeRow(game, call) {
   const { play } = call;
   const isExchange = play.kind === 'substitution';
   return h('li', { 'data-key': play.id }, h('span', { class: 'when' }, clockText(play.clock)),
-    isExchange ? h('span', null, exchangeText(game, play))
-      : h('span', null, play.team === null ? null : tag(game, play.team), ' ', h('b', null, whoOf(game, play)), ' ', rowText(game, call)));
+    isExchange ? h('span', null, exchangeText(game, play)) :
+                 h('span', null, play.team === null ? null : tag(game, play.team), ' ',
+                   h('b', null, whoOf(game, play)), ' ', rowText(game, call)));
 }
 
 function content(game) {
   const calls = joined((game.plays ?? []).filter(isSpoken));
   const last = calls.at(-1);
   if (!last)
-    return h('main', null, h('p', { class: 'empty' }, game.state === 'before' ? t('notBegun') : t('announcerNothing')));
+    return h('main', null,
+      h('p', { class: 'empty' }, game.state === 'before' ? t('notBegun') : t('announcerNothing')));
   const first = calls.findIndex(({ play }) => isSameReading(play, last.play));
   const now = calls.slice(first);
   const before = calls.slice(Math.max(0, first - kBefore), first).reverse();
-  const cards = now.flatMap((call) => (call.play.kind === 'substitution' ? exchangeCards(game, call) : [card(game, call)]));
+  const cards = now.flatMap(
+    (call) => (call.play.kind === 'substitution' ? exchangeCards(game, call) : [card(game, call)]));
   return h('main', null,
-    h('section', { 'aria-labelledby': 'nowTitle' }, h('h2', { id: 'nowTitle', class: 'hidden' }, t('announcerNow')),
-      h('ol', { class: cards.length > kFewCards ? 'cards many' : cards.length === 1 ? 'cards one' : 'cards' }, cards)),
-    before.length > 0 && h('section', { 'aria-labelledby': 'beforeTitle' }, h('h2', { id: 'beforeTitle' }, t('announcerBefore')),
-      h('ol', { class: 'before' }, before.map((call) => beforeRow(game, call)))));
+    h('section', { 'aria-labelledby': 'nowTitle' },
+      h('h2', { id: 'nowTitle', class: 'hidden' }, t('announcerNow')),
+      h('ol', { class: cards.length > kFewCards ? 'cards many' :
+          cards.length === 1                    ? 'cards one' :
+                                                  'cards' },
+        cards)),
+    before.length > 0 &&
+      h('section', { 'aria-labelledby': 'beforeTitle' }, h('h2', { id: 'beforeTitle' }, t('announcerBefore')),
+        h('ol', { class: 'before' }, before.map((call) => beforeRow(game, call)))));
 }
 
 function head(game) {
@@ -149,7 +173,10 @@ function head(game) {
     sides: [left, right].map((side) => ({ tag: tag(game, side), points: teams[side].points })),
     of: game,
     late: game.delay > 0 ? t('late', game.delay) : '',
-    facts: [[t('deskTeamFouls'), `${teams[left].foulsNow} – ${teams[right].foulsNow}`], timeOutsOf([teams[left], teams[right]])],
+    facts: [
+      [t('deskTeamFouls'), `${teams[left].foulsNow} – ${teams[right].foulsNow}`],
+      timeOutsOf([teams[left], teams[right]])
+    ],
   });
 }
 
@@ -161,8 +188,12 @@ function draw() {
   if (hasGame)
     wearTeamColours(game.teams);
   paint(page, h('p', { class: 'hidden', role: 'alert' }, feed.isLost ? t('noConnection') : ''),
-    hasGame ? [head(game), content(game)]
-      : h('main', null, h('p', { class: 'empty' }, game ? t('noGame') : feed.isLost ? t('noConnection') : '')),
+    hasGame ? [head(game), content(game)] :
+              h('main', null,
+                h('p', { class: 'empty' },
+                  game          ? t('noGame') :
+                    feed.isLost ? t('noConnection') :
+                                  '')),
     h('footer', { class: 'deskFoot' }, switches(draw)));
 }
 

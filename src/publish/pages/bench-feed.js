@@ -6,6 +6,8 @@ const kSilence = 6000;
 const kAskEvery = 1500;
 const kReopenEvery = 10000;
 const kBeatsKept = 8;
+const kPatience = 8000;
+const kTypingPatience = 120000; // while somebody types the pass phrase
 
 export class BenchFeed {
   board = null;
@@ -76,10 +78,10 @@ export class BenchFeed {
     this.#isAsking = true;
     try {
       const stop = new AbortController();
-      const timer = setTimeout(() => stop.abort(), 60000); // while somebody types the pass phrase
+      const timer = setTimeout(() => stop.abort(), this.board ? kPatience : kTypingPatience);
       const answer = await fetch(`${base}/api/bench?${query}`, { signal: stop.signal });
       clearTimeout(timer);
-      this.refusal = [401, 403, 404].includes(answer.status) ? answer.status : 0;
+      this.refusal = [401, 403, 404, 429].includes(answer.status) ? answer.status : 0;
       if (answer.ok && query === this.#query) {
         const date = Date.parse(answer.headers.get('Date') ?? '');
         this.#guess = date ? date + 500 - Date.now() : this.#guess;
@@ -133,7 +135,8 @@ export class BenchFeed {
       return;
     if (this.board && now - this.#opened > kReopenEvery)
       this.#open();
-    if (!this.#isAsking && now - this.#asked > kAskEvery && now - Math.max(this.#opened, this.#streamed) > kSilence / 2)
+    if (!this.#isAsking && now - this.#asked > kAskEvery &&
+      now - Math.max(this.#opened, this.#streamed) > kSilence / 2)
       this.ask();
   }
 }

@@ -47,10 +47,12 @@ function head(board) {
   const { us, them } = board;
   return deskHead(feed, {
     sides: [{ tag: tag(us, 0), points: us.points }, { tag: tag(them, 1), points: them.points }],
-    of: { ...board, rules },
-    facts: [[t('deskTeamFouls'), `${us.fouls} – ${them.fouls}`],
-            us.foulWords && [t('benchNextFoul'), h('span', { class: us.bonus ? 'bad' : null }, us.foulWords)],
-            timeOutsOf([us, them])].filter(Boolean),
+    of: {...board, rules },
+    facts: [
+      [t('deskTeamFouls'), `${us.fouls} – ${them.fouls}`],
+      us.foulWords && [t('benchNextFoul'), h('span', { class: us.bonus ? 'bad' : null }, us.foulWords)],
+      timeOutsOf([us, them])
+    ],
   });
 }
 
@@ -61,21 +63,23 @@ function wearColours(board) {
 
 function choice() {
   return h('main', { class: 'choice' }, h('h1', null, t('benchWhich')),
-    h('div', { class: 'buttons' }, names.map((name, side) =>
-      h('button', { id: `bench${side}`, type: 'button', onclick: () => choose(String(side)) }, name))));
+    h('div', { class: 'buttons' },
+      names.map((name, side) => h('button',
+                  { id: `bench${side}`, type: 'button', onclick: () => choose(String(side)) }, name))));
 }
 
 function notice(text, canTry) {
   return h('main', { class: 'choice' }, h('h1', null, t('benchTitle')), h('p', { role: 'alert' }, text),
-    canTry && h('div', { class: 'buttons' },
-      h('button', { id: 'again', type: 'button', onclick: () => feed.ask() }, t('benchAgain'))));
+    canTry &&
+      h('div', { class: 'buttons' },
+        h('button', { id: 'again', type: 'button', onclick: () => feed.ask() }, t('benchAgain'))));
 }
 
 function content() {
   if (team === '')
     return choice();
   if (feed.refusal)
-    return notice(t({ 401: 'benchLocked', 403: 'benchClosed', 404: 'noGame' }[feed.refusal]), true);
+    return notice(t({ 401: 'benchLocked', 403: 'benchClosed', 429: 'benchWait', 404: 'noGame' }[feed.refusal]), true);
   const { board } = feed;
   if (!board)
     return notice(feed.isLost ? t('noConnection') : '', false);
@@ -89,8 +93,10 @@ function draw() {
   const isLost = Boolean(feed?.isLost && feed.board);
   document.title = feed?.board?.us ? `${feed.board.us.name} · ${t('benchTitle')}` : t('benchTitle');
   page.className = isLost ? 'bench lost' : 'bench';
-  const others = team === '' ? null : h('button', { id: 'other', type: 'button', onclick: () => choose(team === '0' ? '1' : '0') },
-    t('benchOther', names[team === '0' ? 1 : 0]));
+  const others = team === '' ?
+    null :
+    h('button', { id: 'other', type: 'button', onclick: () => choose(team === '0' ? '1' : '0') },
+      t('benchOther', names[team === '0' ? 1 : 0]));
   paint(page, h('p', { class: 'hidden', role: 'alert' }, isLost ? t('noConnection') : ''), content(),
     h('footer', { class: 'deskFoot' }, others, switches(changed)));
 }

@@ -4,7 +4,15 @@ import { h, paint } from './dom.js';
 import { teamLooks } from './colour.js';
 import { dayName, loadWords, periodName, t } from './words.js';
 import { abbOf, personText, sidesOf, tag, wordsOf } from './parts.js';
-import { clockPlace, headWord, keepDrawing, kRunTold, pointsInAll, shortPerson, timeOutsLeft } from './screens.js';
+import { 
+  clockPlace,
+  headWord,
+  keepDrawing,
+  kRunTold,
+  pointsInAll,
+  shortPerson,
+  timeOutsLeft
+ } from './screens.js';
 
 const kGround = '#000000';
 const kText = '#ffffff';
@@ -27,7 +35,8 @@ function notice(title, ...lines) {
 function beforeTheGame(game) {
   const { date, place, competition, round } = game.details ?? {};
   const [left, right] = sidesOf(game);
-  const teams = [left, right].map((side) => h('span', { class: `tag side${side}` }, game.teams[side].name || abbOf(game, side)));
+  const teams = [left, right].map(
+    (side) => h('span', { class: `tag side${side}` }, game.teams[side].name || abbOf(game, side)));
   return notice(h('div', { class: 'teams' }, teams), [competition, round].filter(Boolean).join(' · '),
     [date && dayName(date), place].filter(Boolean).join(' · '));
 }
@@ -36,14 +45,14 @@ function fiveTable(game, side) {
   const team = game.teams[side];
   const five = (team.players ?? []).filter((player) => player.onCourt);
   const limit = game.rules.foulLimit;
-  return h('table', null,
-    h('caption', { class: 'hidden' }, t('onCourt')),
-    h('thead', null, h('tr', null, h('th', { scope: 'col' }, h('span', { class: 'hidden' }, t('player'))),
-      h('th', { scope: 'col' }, headWord('pts')), h('th', { scope: 'col' }, t('fouls')))),
-    h('tbody', null, five.map((player) => h('tr', null,
-      h('th', { scope: 'row' }, shortPerson(player)),
-      h('td', { class: 'points' }, player.PTS),
-      h('td', { class: limit > 0 && player.PF >= limit - 1 ? 'stands' : '' }, player.PF)))));
+  return h('table', null, h('caption', { class: 'hidden' }, t('onCourt')),
+    h('thead', null,
+      h('tr', null, h('th', { scope: 'col' }, h('span', { class: 'hidden' }, t('player'))),
+        h('th', { scope: 'col' }, headWord('pts')), h('th', { scope: 'col' }, t('fouls')))),
+    h('tbody', null,
+      five.map((player) => h('tr', null, h('th', { scope: 'row' }, shortPerson(player)),
+                 h('td', { class: 'points' }, player.PTS),
+                 h('td', { class: limit > 0 && player.PF >= limit - 1 ? 'stands' : '' }, player.PF)))));
 }
 
 function sideOf(game, side) {
@@ -53,11 +62,13 @@ function sideOf(game, side) {
 }
 
 function counts(game, left, right) {
-  const fouls = (side, where) => h('span', { class: where }, game.teams[side].shootsBonus && h('span', { class: 'bonus' }, t('bonus')),
-    h('b', null, game.teams[side].foulsNow));
+  const fouls = (side, where) =>
+    h('span', { class: where }, game.teams[side].shootsBonus && h('span', { class: 'bonus' }, t('bonus')),
+      h('b', null, game.teams[side].foulsNow));
   const rests = (side, where) => h('span', { class: where }, timeOutsLeft(game.teams[side].timeOuts));
   const hasRests = [left, right].some((side) => Number.isInteger(game.teams[side].timeOuts?.left));
-  const row = (of, word) => h('div', { class: 'counts' }, of(left, 'left'), h('span', { class: 'what' }, word), of(right, 'right'));
+  const row = (of, word) =>
+    h('div', { class: 'counts' }, of(left, 'left'), h('span', { class: 'what' }, word), of(right, 'right'));
   return [row(fouls, t('fouls')), hasRests && row(rests, t('timeOuts'))];
 }
 
@@ -67,19 +78,21 @@ function fit() {
     const least = Math.min(1, ...nodes.map((node) => node.clientWidth / node.scrollWidth));
     for (const node of nodes)
       if (least < 1)
-        node.style.fontSize = `${Math.floor(kSpare * least * Number.parseFloat(getComputedStyle(node).fontSize))}px`;
+        node.style.fontSize =
+          `${Math.floor(kSpare * least * Number.parseFloat(getComputedStyle(node).fontSize))}px`;
   };
   const all = (selector) => [...document.querySelectorAll(selector)];
   fitted(all('.score'));
   fitted(all('.side h2'));
   fitted(all('.periods tbody th'));
-  for (const node of all('.clock, .period, .side tbody th'))
+  for (const node of all('.clock, .period, .side tbody th, .last'))
     fitted([node]);
 }
 
 function runOf(game) {
   const isTold = game.run && game.run.points >= kRunTold;
-  return h('div', { class: 'run' }, isTold && [tag(game, game.run.team), h('b', null, `${game.run.points}–0`)]);
+  return h(
+    'div', { class: 'run' }, isTold && [tag(game, game.run.team), h('b', null, `${game.run.points}–0`)]);
 }
 
 function periodTable(game, left, right) {
@@ -88,9 +101,11 @@ function periodTable(game, left, right) {
   const first = Math.max(0, count - 5);
   const told = Array.from({ length: count - first }, (none, at) => first + at);
   return h('table', { class: 'periods' }, h('caption', { class: 'hidden' }, t('byPeriod')),
-    h('thead', null, h('tr', null, h('td'), told.map((at) => h('th', { scope: 'col' }, periodName(at + 1, game.rules))))),
-    h('tbody', null, [left, right].map((side) => h('tr', null, h('th', { scope: 'row' }, abbOf(game, side)),
-      told.map((at) => h('td', null, game.teams[side].periods[at] ?? '–'))))));
+    h('thead', null,
+      h('tr', null, h('td'), told.map((at) => h('th', { scope: 'col' }, periodName(at + 1, game.rules))))),
+    h('tbody', null,
+      [left, right].map((side) => h('tr', null, h('th', { scope: 'row' }, abbOf(game, side)),
+                          told.map((at) => h('td', null, game.teams[side].periods[at] ?? '–'))))));
 }
 
 function stateWords(game) {
@@ -114,7 +129,8 @@ function lastBasket(game) {
   if (!play)
     return h('footer', { class: 'last' });
   const words = [personText(play.number, play.name), wordsOf(play), pointsInAll(play)].filter(Boolean);
-  return h('footer', { class: 'last' }, play.team === null ? null : tag(game, play.team), h('b', null, `+${play.points}`), h('span', null, words.join(' · ')));
+  return h('footer', { class: 'last' }, play.team === null ? null : tag(game, play.team),
+    h('b', null, `+${play.points}`), h('span', null, words.join(' · ')));
 }
 
 function draw() {
@@ -132,7 +148,8 @@ function draw() {
     return paint(hall, beforeTheGame(game));
   const [left, right] = sidesOf(game);
   hall.classList.toggle('three', game.teams.some(({ points }) => points > 99));
-  paint(hall, sideOf(game, left), middle(game, left, right), sideOf(game, right), lastBasket(game));
+  paint(hall, h('h1', { class: 'hidden' }, t('hallTitle')), sideOf(game, left), middle(game, left, right),
+    sideOf(game, right), lastBasket(game));
   return fit();
 }
 

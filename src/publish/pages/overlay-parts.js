@@ -15,8 +15,11 @@ function underName(game, side) {
   const team = game.teams[side];
   const limit = game.rules.bonusFouls;
   return h('div', { class: 'under' },
-    h('span', { class: 'fouls' }, t('fouls'), ' ', limit > 0 ? [pips(team.foulsNow, limit), h('span', { class: 'hidden' }, team.foulsNow)] : team.foulsNow),
-    team.shootsBonus ? h('span', { class: 'bonus' }, t('bonus')) : h('span', null, timeOutsLeft(team.timeOuts)));
+    h('span', { class: 'fouls' }, t('fouls'), ' ',
+      limit > 0 ? [pips(team.foulsNow, limit), h('span', { class: 'hidden' }, team.foulsNow)] :
+                  team.foulsNow),
+    team.shootsBonus ? h('span', { class: 'bonus' }, t('bonus')) :
+                       h('span', null, timeOutsLeft(team.timeOuts)));
 }
 
 // `isScoreAlone`: what else it has is too old to be shown.
@@ -26,19 +29,26 @@ export function bug(shown, isScoreAlone) {
   const { text, isWords } = clockPlace(shown);
   const period = periodName(game.clock.period, game.rules);
   const stands = game.state === 'running' && !shown.isLost ? '' : ' stands';
-  return h('div', { class: 'panel bug', 'data-key': 'bug' }, sidesOf(game).map((side) =>
-    h('div', { class: 'team' }, h('span', { class: `name side${side}` }, abbOf(game, side)),
-      h('span', { class: isWide(game) ? 'score three' : 'score' }, game.teams[side].points),
-      !isBare && underName(game, side))),
-  !isScoreAlone && h('div', { class: 'time' }, h('span', { id: 'clock', class: `clock${isWords ? ' words' : ''}${stands}` }, text),
-    text !== period && h('span', { class: 'period' }, period)));
+  return h('div', { class: 'panel bug', 'data-key': 'bug' },
+    sidesOf(game).map(
+      (side) => h('div', { class: 'team' }, h('span', { class: `name side${side}` }, abbOf(game, side)),
+        h('span', { class: isWide(game) ? 'score three' : 'score' }, game.teams[side].points),
+        !isBare && underName(game, side))),
+    !isScoreAlone &&
+      h('div', { class: 'time' },
+        h('span', { id: 'clock', class: `clock${isWords ? ' words' : ''}${stands}` }, text),
+        text !== period && h('span', { class: 'period' }, period)));
 }
 
 export function tab(game, play) {
-  const more = [play.total > 0 && t('screenPoints', play.total), play.with?.kind === 'assist' && t('withAssist', shortPerson(play.with))];
+  const more = [
+    play.total > 0 && t('screenPoints', play.total),
+    play.with?.kind === 'assist' && t('withAssist', shortPerson(play.with))
+  ];
   return h('div', { class: 'panel tab', 'data-key': `tab-${play.id}` },
     h('span', { class: `plus side${play.team}` }, `+${play.points}`),
-    h('p', null, shortPerson(play) || abbOf(game, play.team), h('small', null, more.filter(Boolean).join(' · '))));
+    h('p', null, shortPerson(play) || abbOf(game, play.team),
+      h('small', null, more.filter(Boolean).join(' · '))));
 }
 
 // "0-12": the player of that team with this number, as it is written or else as a number.
@@ -46,7 +56,8 @@ function playerOf(game, asked) {
   const side = Number(asked[0]);
   const number = asked.slice(2);
   const players = game.teams[side].players ?? [];
-  const player = players.find((one) => one.number === number) ?? players.find((one) => one.number !== '' && Number(one.number) === Number(number));
+  const player = players.find((one) => one.number === number) ??
+    players.find((one) => one.number !== '' && Number(one.number) === Number(number));
   return { side, player };
 }
 
@@ -61,18 +72,23 @@ export function lowerThird(game, asked) {
     h('span', { class: `jersey side${side}` }, player.number),
     h('div', { class: 'who' }, h('p', { class: 'name' }, player.name || team.name),
       h('p', { class: 'of' }, team.name || abbOf(game, side), player.out && [' · ', h('b', null, t('out'))]),
-      h('dl', null, told(headWord('pts'), player.PTS), told(headWord('fg'), `${player.M - player.FTM}/${player.A - player.FTA}`),
+      h('dl', null, told(headWord('pts'), player.PTS),
+        told(headWord('fg'), `${player.M - player.FTM}/${player.A - player.FTA}`),
         told(headWord('reb'), player.OR + player.DR), told(headWord('ast'), player.Ast),
         told(t('fouls'), player.PF, limit > 0 && player.PF >= limit ? 'limit' : null),
         game.rules.periodSeconds > 0 && told(headWord('min'), clockText(player.seconds)))));
 }
 
 function sumOf(team, ...keys) {
-  return (team.players ?? []).reduce((sum, player) => keys.reduce((all, key) => all + (player[key] ?? 0), sum), 0);
+  return (team.players ?? [])
+    .reduce((sum, player) => keys.reduce((all, key) => all + (player[key] ?? 0), sum), 0);
 }
 
 function shotsOf(team, made, of, lessMade, lessOf) {
-  return { made: sumOf(team, made) - (lessMade ? sumOf(team, lessMade) : 0), of: sumOf(team, of) - (lessOf ? sumOf(team, lessOf) : 0) };
+  return {
+    made: sumOf(team, made) - (lessMade ? sumOf(team, lessMade) : 0),
+    of: sumOf(team, of) - (lessOf ? sumOf(team, lessOf) : 0)
+  };
 }
 
 // [words, of both teams what is compared and what is told, whether less is better]
@@ -106,30 +122,44 @@ function versusTable(game) {
     return h('td', { class: isBetter ? 'better' : null }, texts[side]);
   };
   return h('table', { class: 'versus' }, h('caption', { class: 'hidden' }, t('teamsCompared')),
-    h('tbody', null, comparisons(game).map((row) => h('tr', null, cell(row, sides[0]), h('th', { scope: 'row' }, t(row.word)), cell(row, sides[1])))));
+    h('tbody', null,
+      comparisons(game).map((row) => h('tr', null, cell(row, sides[0]),
+                              h('th', { scope: 'row' }, t(row.word)), cell(row, sides[1])))));
 }
 
 function periodTable(game) {
-  const periods = Array.from({ length: Math.max(...game.teams.map((team) => team.periods.length), 1) }, (_, at) => at);
+  const periods =
+    Array.from({ length: Math.max(...game.teams.map((team) => team.periods.length), 1) }, (_, at) => at);
   return h('table', null, h('caption', { class: 'hidden' }, t('byPeriod')),
-    h('thead', null, h('tr', null, h('td'), periods.map((at) => h('th', { scope: 'col' }, periodName(at + 1, game.rules))), h('th', { scope: 'col' }, t('total')))),
-    h('tbody', null, sidesOf(game).map((side) => h('tr', null, h('th', { scope: 'row' }, abbOf(game, side)),
-      periods.map((at) => h('td', null, game.teams[side].periods[at] ?? '–')), h('td', null, h('b', null, game.teams[side].points))))));
+    h('thead', null,
+      h('tr', null, h('td'), periods.map((at) => h('th', { scope: 'col' }, periodName(at + 1, game.rules))),
+        h('th', { scope: 'col' }, t('total')))),
+    h('tbody', null,
+      sidesOf(game).map((side) => h('tr', null, h('th', { scope: 'row' }, abbOf(game, side)),
+                          periods.map((at) => h('td', null, game.teams[side].periods[at] ?? '–')),
+                          h('td', null, h('b', null, game.teams[side].points))))));
 }
 
 function scorerTable(game) {
-  const best = sidesOf(game).flatMap((side) => [...(game.teams[side].players ?? [])].filter((player) => player.PTS > 0)
-    .sort((one, other) => other.PTS - one.PTS).slice(0, kScorers).map((player) => ({ player, side })));
+  const best = sidesOf(game).flatMap((side) => [...(game.teams[side].players ?? [])]
+                                                 .filter((player) => player.PTS > 0)
+                                                 .sort((one, other) => other.PTS - one.PTS)
+                                                 .slice(0, kScorers)
+                                                 .map((player) => ({ player, side })));
   return h('table', { class: 'scorers' }, h('caption', null, t('topScorers')),
-    h('tbody', null, best.map(({ player, side }) => h('tr', null, h('th', { scope: 'row' }, shortPerson(player)),
-      h('td', null, abbOf(game, side)), h('td', null, h('b', null, player.PTS))))));
+    h('tbody', null,
+      best.map(({ player, side }) => h('tr', null, h('th', { scope: 'row' }, shortPerson(player)),
+                 h('td', null, abbOf(game, side)), h('td', null, h('b', null, player.PTS))))));
 }
 
-export function board({ game }) {
+export function board({game}) {
   const [left, right] = sidesOf(game);
   const name = (side) => h('h2', { class: `team side${side}` }, game.teams[side].name || abbOf(game, side));
   return h('div', { class: 'panel board', 'data-key': 'board' },
     h('h1', null, breakText(game) || periodName(game.clock.period, game.rules)),
-    h('header', null, name(left), h('p', { class: 'scores' }, h('span', null, game.teams[left].points), h('span', null, game.teams[right].points)), name(right)),
+    h('header', null, name(left),
+      h('p', { class: 'scores' }, h('span', null, game.teams[left].points),
+        h('span', null, game.teams[right].points)),
+      name(right)),
     h('div', { class: 'halves' }, h('div', null, periodTable(game), scorerTable(game)), versusTable(game)));
 }

@@ -22,7 +22,8 @@ const ranged = (name, pattern, least, most, usual) => {
   const value = asked(name, pattern);
   return value !== '' && Number(value) >= least && Number(value) <= most ? Number(value) : usual;
 };
-const named = (query.get('show') ?? '').split(',').filter((part, at, all) => kParts.includes(part) && all.indexOf(part) === at);
+const named = (query.get('show') ??
+  '').split(',').filter((part, at, all) => kParts.includes(part) && all.indexOf(part) === at);
 const parts = named.length ? named : kParts;
 const isAlone = parts.length === 1;
 const place = kPlaces.includes(query.get('at')) ? query.get('at') : 'bl';
@@ -36,7 +37,7 @@ const feed = new Feed(true);
 const known = new Set(); // plays that were there before, or have had their time on the picture
 let gameShown = ''; // which one
 let waiting = []; // games whose time has not come, with a delay
-let last = null;  // the play whose tab is shown
+let last = null; // the play whose tab is shown
 let lower = null; // who is told of, "0-12"
 const timers = {};
 
@@ -59,8 +60,8 @@ function forAWhile(name, time, forget) {
   }, time);
 }
 
-// A basket or a disqualification that was not there before. What stood in the game at first is no news, nor is
-// what came while there was no connection.
+// A basket or a disqualification that was not there before. What stood in the game at first is no news, nor
+// is what came while there was no connection.
 function takeNews(game) {
   const plays = game.plays ?? [];
   const basket = plays.findLast((play) => play.made);
@@ -68,7 +69,8 @@ function takeNews(game) {
   const name = [epochOf(game.id), game.details?.date, ...(game.teams ?? []).map((team) => team.abb)].join();
   if (name !== gameShown)
     known.clear();
-  const isNews = name === gameShown && plays.filter((play) => play.made && !known.has(play.id)).length <= kMostNews;
+  const isNews =
+    name === gameShown && plays.filter((play) => play.made && !known.has(play.id)).length <= kMostNews;
   gameShown = name;
   if (isNews && basket && !known.has(basket.id)) {
     last = basket.id;
@@ -100,9 +102,13 @@ const isBoardTime = (game) => has('board') && (isAlone || ['break', 'final'].inc
 function partsNow(game) {
   if (isBoardTime(game))
     return [board(shown)];
-  const basket = has('last') && (game.plays ?? []).findLast((play) => play.made && (isAlone || play.id === last));
+  const basket =
+    has('last') && (game.plays ?? []).findLast((play) => play.made && (isAlone || play.id === last));
   const who = has('lower') && (player || lower);
-  return [basket && tab(game, basket), who && lowerThird(game, who), has('bug') && bug(shown, feed.age > kScoreAloneAfter)];
+  return [
+    basket && tab(game, basket), who && lowerThird(game, who),
+    has('bug') && bug(shown, feed.age > kScoreAloneAfter)
+  ];
 }
 
 function draw() {

@@ -22,12 +22,12 @@ export function familyName(name = '') {
   return blank > 0 ? name.slice(blank + 1) : name;
 }
 
-export function shortPerson({ number, name }) {
+export function shortPerson({number, name}) {
   return personText(number, familyName(name));
 }
 
 // "9 points in all"; empty for who is in no roster.
-export function pointsInAll({ total }) {
+export function pointsInAll({total}) {
   return total > 0 ? t(total === 1 ? 'screenPointInAll' : 'screenPointsInAll', total) : '';
 }
 
@@ -35,14 +35,17 @@ export function pointsInAll({ total }) {
 export function timeOutsLeft(timeOuts) {
   if (timeOuts?.left === null || timeOuts?.left === undefined)
     return null;
-  return [dots(timeOuts.left, timeOuts.of ?? timeOuts.left),
-          h('span', { class: 'hidden' }, `${t('timeOuts')} ${timeOuts.left}`)];
+  return [
+    dots(timeOuts.left, timeOuts.of ?? timeOuts.left),
+    h('span', { class: 'hidden' }, `${t('timeOuts')} ${timeOuts.left}`)
+  ];
 }
 
 // What stands in the place of the clock, and whether it is words.
 export function clockPlace(feed) {
   const { clock, rules } = feed.game;
-  const words = breakText(feed.game) || (secondsLeft(clock, feed.now) === null && periodName(clock.period, rules));
+  const words =
+    breakText(feed.game) || (secondsLeft(clock, feed.now) === null && periodName(clock.period, rules));
   if (words)
     return { text: words, isWords: true };
   return { text: feed.isLost ? '–:––' : clockText(secondsLeft(clock, feed.now)), isWords: false };

@@ -16,20 +16,20 @@ const kShots = {
 
 // `long` is a word, `head` one of a box score's heads where the column has no `word` of its own.
 export const kColumns = [
-  { key: 'games', word: 'seasonPlayed', long: 'seasonPlayedLong', show: whole },
-  { key: 'seconds', head: 'min', long: 'seasonMinutes', show: clockText },
-  { key: 'PTS', head: 'pts', long: 'points', show: count },
-  { key: 'TR', head: 'reb', long: 'rebounds', show: count },
-  { key: 'Ast', head: 'ast', long: 'assists', show: count },
-  { key: 'ST', head: 'st', long: 'steals', show: count },
-  { key: 'BS', head: 'bs', long: 'blocks', show: count },
-  { key: 'TO', head: 'to', long: 'turnovers', show: count },
-  { key: 'PF', head: 'pf', long: 'personalFouls', show: count },
-  { key: 'FG', head: 'fg', long: 'fieldGoals', sign: '%', show: share },
-  { key: '3P', head: 'three', long: 'threePoints', sign: '%', show: share },
-  { key: 'FT', head: 'ft', long: 'freeThrows', sign: '%', show: share },
-  { key: 'rating', head: 'eff', long: 'efficiency', show: count },
-  { key: 'plusMinus', sign: '+/−', long: 'plusMinusLong', show: difference },
+  {key: 'games', word: 'seasonPlayed', long: 'seasonPlayedLong', show: whole},
+  {key: 'seconds', head: 'min', long: 'seasonMinutes', show: clockText},
+  {key: 'PTS', head: 'pts', long: 'points', show: count},
+  {key: 'TR', head: 'reb', long: 'rebounds', show: count},
+  {key: 'Ast', head: 'ast', long: 'assists', show: count},
+  {key: 'ST', head: 'st', long: 'steals', show: count},
+  {key: 'BS', head: 'bs', long: 'blocks', show: count},
+  {key: 'TO', head: 'to', long: 'turnovers', show: count},
+  {key: 'PF', head: 'pf', long: 'personalFouls', show: count},
+  {key: 'FG', head: 'fg', long: 'fieldGoals', sign: '%', show: share},
+  {key: '3P', head: 'three', long: 'threePoints', sign: '%', show: share},
+  {key: 'FT', head: 'ft', long: 'freeThrows', sign: '%', show: share},
+  {key: 'rating', head: 'eff', long: 'efficiency', show: count},
+  {key: 'plusMinus', sign: '+/−', long: 'plusMinusLong', show: difference},
 ];
 
 // Null where it cannot be told.

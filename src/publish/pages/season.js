@@ -10,36 +10,46 @@ const kGamesShown = 8;
 const page = document.getElementById('season');
 let season = null;
 let trouble = '';
-const shown = { team: '', sort: 'PTS', isDown: true, isTotal: remembered('seasonTotals') === '1', allGames: false };
+const shown = {
+  team: '',
+  sort: 'PTS',
+  isDown: true,
+  isTotal: remembered('seasonTotals') === '1',
+  allGames: false
+};
 
 const percentOf = (wins, games) => (games ? t('percent', Math.round((100 * wins) / games)) : '–');
-const decimal = (text) => (Number.isFinite(Number.parseFloat(text)) ? number(Number.parseFloat(text), 1) : '–');
-const balance = (team, hasTies) => (hasTies ? [team.wins, team.losses, team.ties] : [team.wins, team.losses]).join('–');
+const decimal = (text) =>
+  (Number.isFinite(Number.parseFloat(text)) ? number(Number.parseFloat(text), 1) : '–');
+const balance = (team, hasTies) =>
+  (hasTies ? [team.wins, team.losses, team.ties] : [team.wins, team.losses]).join('–');
 
 function region(id, label, table) {
   return h('div', { id, class: 'scroll', role: 'region', tabindex: '0', 'aria-label': label }, table);
 }
 
 function teamTable() {
-  const teams = [...season.teams].sort((one, other) =>
-    (other.wins + other.ties / 2) / (other.games || 1) - (one.wins + one.ties / 2) / (one.games || 1) ||
-    (other.points - other.pointsAgainst) - (one.points - one.pointsAgainst));
+  const teams = [...season.teams].sort((one, other) => (other.wins + other.ties / 2) / (other.games || 1) -
+        (one.wins + one.ties / 2) / (one.games || 1) ||
+      (other.points - other.pointsAgainst) - (one.points - one.pointsAgainst));
   const hasTies = season.teams.some(({ ties }) => ties > 0);
-  const heads = [hasTies ? 'seasonBalanceTies' : 'seasonBalance', 'seasonWinShare', 'seasonFor', 'seasonAgainst', 'seasonNet', 'seasonPace'];
-  return h('section', { 'aria-labelledby': 'teamsTitle' },
-    h('h2', { id: 'teamsTitle' }, t('seasonTeams')),
-    region('teamsScroll', t('seasonTeams'), h('table', null,
-      h('caption', { class: 'hidden' }, t('seasonTeams')),
-      h('thead', null, h('tr', null, h('th', { scope: 'col' }, t('team')),
-        heads.map((name) => h('th', { scope: 'col' }, t(name))))),
-      h('tbody', null, teams.map((team) => h('tr', null,
-        h('th', { scope: 'row' }, team.team),
-        h('td', { class: 'key' }, balance(team, hasTies)),
-        h('td', null, percentOf(team.wins + team.ties / 2, team.games)),
-        h('td', null, team.games ? number(team.points / team.games, 1) : '–'),
-        h('td', null, team.games ? number(team.pointsAgainst / team.games, 1) : '–'),
-        h('td', null, signedDecimal(team.netRating)),
-        h('td', null, decimal(team.pace))))))));
+  const heads = [
+    hasTies ? 'seasonBalanceTies' : 'seasonBalance', 'seasonWinShare', 'seasonFor', 'seasonAgainst',
+    'seasonNet', 'seasonPace'
+  ];
+  return h('section', { 'aria-labelledby': 'teamsTitle' }, h('h2', { id: 'teamsTitle' }, t('seasonTeams')),
+    region('teamsScroll', t('seasonTeams'),
+      h('table', null, h('caption', { class: 'hidden' }, t('seasonTeams')),
+        h('thead', null,
+          h('tr', null, h('th', { scope: 'col' }, t('team')),
+            heads.map((name) => h('th', { scope: 'col' }, t(name))))),
+        h('tbody', null,
+          teams.map((team) => h('tr', null, h('th', { scope: 'row' }, team.team),
+                      h('td', { class: 'key' }, balance(team, hasTies)),
+                      h('td', null, percentOf(team.wins + team.ties / 2, team.games)),
+                      h('td', null, team.games ? number(team.points / team.games, 1) : '–'),
+                      h('td', null, team.games ? number(team.pointsAgainst / team.games, 1) : '–'),
+                      h('td', null, signedDecimal(team.netRating)), h('td', null, decimal(team.pace))))))));
 }
 
 function signedDecimal(text) {
@@ -49,32 +59,38 @@ function signedDecimal(text) {
 
 function gameTable() {
   const games = season.games.filter((game) => !shown.team || [game.visitor, game.home].includes(shown.team))
-    .sort((one, other) => other.date.localeCompare(one.date));
+                  .sort((one, other) => other.date.localeCompare(one.date));
   const listed = shown.allGames ? games : games.slice(0, kGamesShown);
   const side = (name, points, isWinner) => [h('td', { class: isWinner ? 'team key' : 'team' }, name),
     h('td', { class: isWinner ? 'key' : '' }, points)];
-  return h('section', { 'aria-labelledby': 'gamesTitle' },
-    h('h2', { id: 'gamesTitle' }, t('seasonGames')),
-    h('table', { class: 'games' },
-      h('caption', { class: 'hidden' }, t('seasonGames')),
-      h('thead', null, h('tr', null, h('th', { scope: 'col' }, t('seasonDate')),
-        h('th', { scope: 'colgroup', colspan: '2' }, t('screenVisitors')),
-        h('th', { scope: 'colgroup', colspan: '2' }, t('screenHome')))),
-      h('tbody', null, listed.map((game) => h('tr', null, h('th', { scope: 'row' }, game.date),
-        side(game.visitor, game.visitorPoints, game.visitorPoints > game.homePoints),
-        side(game.home, game.homePoints, game.homePoints > game.visitorPoints))))),
-    games.length > kGamesShown && h('button', { id: 'allGames', type: 'button', 'aria-expanded': shown.allGames,
-      onclick: () => show({ allGames: !shown.allGames }) },
-    shown.allGames ? t('seasonFewerGames') : t('seasonAllGames', games.length)));
+  return h('section', { 'aria-labelledby': 'gamesTitle' }, h('h2', { id: 'gamesTitle' }, t('seasonGames')),
+    region('gamesScroll', t('seasonGames'),
+      h('table', { class: 'games' }, h('caption', { class: 'hidden' }, t('seasonGames')),
+        h('thead', null,
+          h('tr', null, h('th', { scope: 'col' }, t('seasonDate')),
+            h('th', { scope: 'colgroup', colspan: '2' }, t('screenVisitors')),
+            h('th', { scope: 'colgroup', colspan: '2' }, t('screenHome')))),
+        h('tbody', null,
+          listed.map((game) => h('tr', null, h('th', { scope: 'row' }, game.date),
+                       side(game.visitor, game.visitorPoints, game.visitorPoints > game.homePoints),
+                       side(game.home, game.homePoints, game.homePoints > game.visitorPoints)))))),
+    games.length > kGamesShown &&
+      h('button', {
+        id: 'allGames',
+        type: 'button',
+        'aria-expanded': String(shown.allGames),
+        onclick: () => show({ allGames: !shown.allGames })
+      },
+        shown.allGames ? t('seasonFewerGames') : t('seasonAllGames', games.length)));
 }
 
 function playersShown() {
   const rated = season.players.filter((player) => !shown.team || player.team === shown.team)
-    .map((player) => ({ player, value: valueOf(player, shown.sort, shown.isTotal) }));
+                  .map((player) => ({ player, value: valueOf(player, shown.sort, shown.isTotal) }));
   // Who has no such figure comes last, whichever way it is sorted.
   const way = shown.isDown ? 1 : -1;
-  rated.sort(({ value: one }, { value: other }) => (one === null || other === null
-    ? (one === null) - (other === null) : way * (other - one)));
+  rated.sort(({ value: one }, { value: other }) =>
+               (one === null || other === null ? (one === null) - (other === null) : way * (other - one)));
   return rated.map(({ player }) => player);
 }
 
@@ -92,9 +108,13 @@ function head(column) {
   const isSorted = column.key === shown.sort;
   const mark = isSorted ? h('span', { 'aria-hidden': 'true' }, shown.isDown ? ' ▾' : ' ▴') : null;
   return h('th', { scope: 'col', 'aria-sort': isSorted ? (shown.isDown ? 'descending' : 'ascending') : null },
-    h('button', { id: `sort-${column.key}`, type: 'button', title: t(column.long),
-      onclick: () => show({ sort: column.key, isDown: isSorted ? !shown.isDown : true }) },
-    headOf(column), mark));
+    h('button', {
+      id: `sort-${column.key}`,
+      type: 'button',
+      title: t(column.long),
+      onclick: () => show({ sort: column.key, isDown: isSorted ? !shown.isDown : true })
+    },
+      headOf(column), mark));
 }
 
 function playerTable() {
@@ -103,32 +123,43 @@ function playerTable() {
   return h('section', { 'aria-labelledby': 'playersTitle' },
     h('h2', { id: 'playersTitle' }, t('seasonPlayers')),
     h('div', { class: 'picks' },
-      h('select', { id: 'team', 'aria-label': t('team'), onchange: (event) => show({ team: event.target.value }) },
+      h('select',
+        { id: 'team', 'aria-label': t('team'), onchange: (event) => show({ team: event.target.value }) },
         h('option', { value: '', selected: shown.team === '' }, t('seasonEveryTeam')),
         season.teams.map(({ team }) => h('option', { value: team, selected: shown.team === team }, team))),
-      ['', '1'].map((total) => h('button', { id: `total${total}`, type: 'button',
+      ['', '1'].map((total) => h('button', {
+        id: `total${total}`,
+        type: 'button',
         'aria-pressed': String(shown.isTotal === (total === '1')),
         onclick: () => {
           remember('seasonTotals', total);
           show({ isTotal: total === '1' });
-        } }, t(total ? 'seasonTotals' : 'seasonPerGame')))),
-    region('playersScroll', t('seasonPlayers'), h('table', { class: 'players' },
-      h('caption', { class: 'hidden' }, t(shown.isTotal ? 'seasonTotals' : 'seasonPerGame'), ' · ',
-        t('seasonSorted', t(kColumns.find(({ key }) => key === shown.sort).long))),
-      h('thead', null, h('tr', null, h('th', { scope: 'col' }, t('player')), kColumns.map(head))),
-      h('tbody', null, players.map((player) => h('tr', null,
-        h('th', { scope: 'row' }, h('span', { class: 'name' }, `${player.number} ${player.name}`),
-          h('small', null, player.team, !shown.isTotal && player.perGame.underMinimum ? ' *' : '')),
-        kColumns.map((column) => cell(player, column))))))),
+        }
+      },
+                      t(total ? 'seasonTotals' : 'seasonPerGame')))),
+    region('playersScroll', t('seasonPlayers'),
+      h('table', { class: 'players' },
+        h('caption', { class: 'hidden' }, t(shown.isTotal ? 'seasonTotals' : 'seasonPerGame'), ' · ',
+          t('seasonSorted', t(kColumns.find(({ key }) => key === shown.sort).long))),
+        h('thead', null, h('tr', null, h('th', { scope: 'col' }, t('player')), kColumns.map(head))),
+        h('tbody', null,
+          players.map(
+            (player) => h('tr', null,
+              h('th', { scope: 'row' }, h('span', { class: 'name' }, `${player.number} ${player.name}`),
+                h('small', null, player.team, !shown.isTotal && player.perGame.underMinimum ? ' *' : '')),
+              kColumns.map((column) => cell(player, column))))))),
     isMarked && h('p', { class: 'legend' }, t('seasonUnderMinimum')),
     !players.length && h('p', null, t('seasonNobody')));
 }
 
 function draw() {
-  const parts = trouble ? [h('p', { role: 'alert' }, trouble)] : !season ? [h('p', null, t('seasonLoading'))]
-    : !season.teams.length ? [h('p', null, t('seasonEmpty'))] : [teamTable(), playerTable(), gameTable()];
+  const parts = trouble  ? [h('p', { role: 'alert' }, trouble)] :
+    !season              ? [h('p', null, t('seasonLoading'))] :
+    !season.teams.length ? [h('p', null, t('seasonEmpty'))] :
+                           [teamTable(), playerTable(), gameTable()];
   document.title = t('seasonTitle');
-  paint(page, h('header', { class: 'top' }, h('h1', null, t('seasonTitle')), switches(draw)), h('main', null, parts));
+  paint(page, h('header', { class: 'top' }, h('h1', null, t('seasonTitle')), switches(draw)),
+    h('main', null, parts));
 }
 
 function show(change) {
