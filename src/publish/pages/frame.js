@@ -45,7 +45,6 @@ class Frame {
   #saying = null;
   #points = null;
   #wearing = '';
-  #hasGames = false;
 
   constructor(page, feed, draw) {
     this.#page = page;
@@ -58,17 +57,6 @@ class Frame {
       part('main', h('main', { id: 'main', tabindex: '-1' })), part('nav', h('nav', { class: 'pages' })),
       part('said', h('p', { class: 'hidden', 'aria-live': 'polite' })));
     dark.addEventListener('change', () => this.#changeLook(look()));
-    this.#askForGames();
-  }
-
-  async #askForGames() {
-    try {
-      const games = await (await fetch('/api/games')).json();
-      this.#hasGames = games.length > 1;
-      this.#drawTop();
-    } catch {
-      // Without the list there is no way to it; the page is whole without.
-    }
   }
 
   #changeLook(to) {
@@ -94,7 +82,7 @@ class Frame {
     const { feed } = this;
     top.classList.toggle('lost', feed.isLost);
     paint(top, stateLine(feed),
-      this.#hasGames && h('a', { id: 'games', href: '/games' }, t('games')),
+      base && h('a', { id: 'games', href: '/games' }, t('games')),
       h('button', { id: 'language', class: 'link', type: 'button', lang: lang === 'fr' ? 'en' : 'fr',
                     onclick: () => this.#switchLanguage() }, t('otherLanguage')),
       h('button', { id: 'look', class: 'sign', type: 'button', 'aria-label': t('darkLook'),

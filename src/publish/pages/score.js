@@ -32,7 +32,7 @@ function timeOutsTaken(game) {
   if (game.state !== 'final' && isLeftTold)
     return null;
   const taken = sidesOf(game).map((side) => `${abbOf(game, side)} ${game.teams[side].timeOuts?.taken ?? 0}`);
-  return h('p', { class: 'legend' }, `${t('timeOutsTaken')}: ${taken.join(' · ')}`);
+  return h('p', { class: 'legend' }, `${t('timeOutsTaken')} – ${taken.join(' · ')}`);
 }
 
 function byPeriod(game) {
