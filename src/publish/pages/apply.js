@@ -38,11 +38,10 @@ function append(game, path, values) {
     list.push(...values);
 }
 
-// The assist behind a basket, or one more substitute, completes a play that was right.
-function isCompletion(was, play) {
-  if (play.kind === 'substitution' && was.kind === 'substitution')
-    return true;
-  return !was.with && JSON.stringify({ ...was, with: null }) === JSON.stringify({ ...play, with: null });
+// One more substitute while the clock stands completes what was right, and a line-up is set at the stop
+// before what has been recorded since.
+function isExchange(play) {
+  return play.kind === 'substitution';
 }
 
 // What a change of the plays corrects, for the pages to show; null: it was no correction.
@@ -57,17 +56,19 @@ function applyPlay(plays, change) {
     const before = plays.findIndex((play) => play.id === change.before);
     if (before >= 0)
       plays.splice(before, 0, change.play);
-    return { id, kind: 'added' };
+    return isExchange(change.play) ? null : { id, kind: 'added' };
   }
   if (change.op === 'delete') {
     if (at >= 0)
       plays.splice(at, 1);
+    if (change.follows || isExchange(change.play))
+      return null;
     return { id, kind: 'deleted', play: change.play, before: plays[at]?.id ?? null, isKnown: at >= 0 };
   }
   const was = change.was ?? plays[at];
   if (at >= 0)
     plays[at] = change.play;
-  return change.follows || !was || isCompletion(was, change.play) ? null : { id, kind: 'changed', was };
+  return change.follows || !was || isExchange(change.play) ? null : { id, kind: 'changed', was };
 }
 
 // The corrections in it. Who has only a part of the game passes over what is not there.

@@ -6,6 +6,8 @@ import { clockText } from './clock.js';
 import { abbOf, sidesOf, smallHead, versus } from './parts.js';
 
 const kShotKinds = ['FG', 'F3', 'LL', 'LR', 'PB', 'DK'];
+// With the sign of minus, not a hyphen; nothing before what is above zero.
+const signedDown = (value) => (value < 0 ? `−${-value}` : value);
 const sum = (row, suffix, kinds = kShotKinds) => kinds.reduce((total, kind) => total + row[kind + suffix], 0);
 const made = (row, kinds) => `${sum(row, 'M', kinds)}/${sum(row, 'A', kinds)}`;
 
@@ -26,7 +28,7 @@ const kColumns = [
   ['to', 'turnovers', (row) => row.TO, true],
   ['st', 'steals', (row) => row.ST, true],
   ['bs', 'blocks', (row) => row.BS, true],
-  ['eff', 'efficiency', (row) => row.rating, true],
+  ['eff', 'efficiency', (row) => signedDown(row.rating), true],
 ];
 const kCounts = [...kShotKinds, 'FT'].flatMap((kind) => [`${kind}M`, `${kind}A`])
   .concat(['PTS', 'Ast', 'BS', 'ST', 'TO', 'OR', 'DR', 'PF', 'TF', 'rating']);

@@ -3,9 +3,10 @@
 import { svg } from './dom.js';
 
 const kLeft = 34;
-const kTop = 56;   // room for the team's name, its time-outs and its runs
-const kBottom = 62;
+const kTop = 62;   // room for the team's name, its time-outs and its runs
+const kBottom = 70;
 const kMostTicks = 6;
+const kLabel = 34; // what the words of a run take
 
 // Margins by time, from the left team's side; a point for each score.
 export function marginsOf(flow, left) {
@@ -59,19 +60,23 @@ export function curve(flow, { width, height, order, names, periodNames, label })
   const isUp = (side) => side === order[0];
   const timeOuts = flow.timeOuts.filter(([, side]) => side === 0 || side === 1).map(([at, side]) => [
     svg('path', { class: 'break', d: `M${x(at)} ${kTop}V${bottom}` }),
-    text(`mid side${side}`, x(at), isUp(side) ? kTop - 10 : bottom + 20, 'T')]);
+    text(`mid side${side}`, x(at), isUp(side) ? kTop - 26 : bottom + 34, 'T')]);
+  const written = [-kLabel, -kLabel]; // where the last label of each side stands: none lies on another
   const runs = flow.runs.map((run) => {
     const [from, until] = [x(flow.steps[run.from]?.[0] ?? 0), x(flow.steps[run.to]?.[0] ?? 0)];
     const isAbove = isUp(run.team);
+    const middle = Math.min(Math.max((from + until) / 2, kLeft + 12), right - 12);
+    const hasRoom = middle - written[run.team] >= kLabel;
+    if (hasRoom)
+      written[run.team] = middle;
     return [svg('rect', { class: `bar side${run.team}`, x: from, y: isAbove ? kTop - 6 : bottom + 3,
                           width: Math.max(3, until - from), height: 4 }),
-            text(`mid side${run.team}`, Math.min(Math.max((from + until) / 2, kLeft + 12), right - 12),
-                 isAbove ? kTop - 10 : bottom + 20, `${run.points}–0`)];
+            hasRoom && text(`mid side${run.team}`, middle, isAbove ? kTop - 10 : bottom + 20, `${run.points}–0`)];
   });
   const periods = flow.periods.map((period, at) => {
     const until = flow.periods[at + 1]?.begin ?? end;
     return [at > 0 && svg('path', { class: 'grid', d: `M${x(period.begin)} ${kTop}V${bottom}` }),
-            text('mid', (x(period.begin) + x(until)) / 2, bottom + 38, periodNames[at])];
+            text('mid', (x(period.begin) + x(until)) / 2, bottom + 50, periodNames[at])];
   });
   return svg('svg', { class: 'curve', viewBox: `0 0 ${width} ${height}`, width, height, role: 'img', 'aria-label': label },
     ticks, periods, half(0, 0, y(0), order[0]), half(1, y(0), height, order[1]),

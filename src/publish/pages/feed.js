@@ -6,7 +6,7 @@ import { apply, epochOf, numberOf } from './apply.js';
 
 const kSilence = 6000;    // without a beat: the connection is lost
 const kPollEvery = 1500;  // while there is no stream
-const kReopenEvery = 10000;
+const kReopenEvery = 8000;
 const kMarkFor = 30000;   // how long a correction is shown
 const kBeatsKept = 8;
 
@@ -38,25 +38,12 @@ export class Feed {
   }
 
   start() {
-    this.#open();
     this.load();
     setInterval(() => this.#watch(), 500);
     const awake = () => document.visibilityState === 'visible' && this.#wake();
     document.addEventListener('visibilitychange', awake);
     addEventListener('online', awake);
     addEventListener('pageshow', awake);
-  }
-
-  get isWhole() {
-    return this.#isWhole;
-  }
-
-  // From now on with players, flow and all plays.
-  widen() {
-    if (this.#isWhole)
-      return;
-    this.#isWhole = true;
-    this.#reload();
   }
 
   get isLost() {
@@ -68,11 +55,12 @@ export class Feed {
     return Date.now() - this.#heard;
   }
 
-  // The server's clock. A beat is never early: the largest difference is the nearest to the truth. It stands
-  // while the connection is lost, and the game's clock with it.
+  // The server's clock when what the game tells was true, as late as the game is. A beat is never early: the
+  // largest difference is the nearest to the truth. It stands while the connection is lost, and the game's
+  // clock with it.
   get now() {
     const offset = this.#offsets.length ? Math.max(...this.#offsets) : this.#guess;
-    return Math.min(Date.now(), this.#heard + kSilence) + offset;
+    return Math.min(Date.now(), this.#heard + kSilence) + offset - 1000 * (this.game?.delay ?? 0);
   }
 
   load() {
@@ -96,11 +84,10 @@ export class Feed {
 
   async #ask() {
     this.#asked = Date.now();
-    const isWhole = this.#isWhole;
     try {
       const stop = new AbortController();
       const timer = setTimeout(() => stop.abort(), 8000);
-      const answer = await fetch(`${base}/api/game${isWhole ? '' : '?parts=score'}`, { signal: stop.signal });
+      const answer = await fetch(`${base}/api/game${this.#isWhole ? '' : '?parts=score'}`, { signal: stop.signal });
       if (!answer.ok)
         throw new Error(String(answer.status));
       const game = await answer.json();
@@ -109,8 +96,7 @@ export class Feed {
       const date = Date.parse(answer.headers.get('Date') ?? '');
       if (date)
         this.#guess = date + 500 - Date.now();
-      if (isWhole === this.#isWhole)
-        this.#accept(game);
+      this.#accept(game);
     } catch {
       this.#failures += 1;
     }
@@ -121,8 +107,7 @@ export class Feed {
       numberOf(game.id) < numberOf(this.game.id);
     if (isOlder && this.#newest && numberOf(this.#newest) > numberOf(game.id))
       return; // an answer from a store on the way, behind what the stream has told
-    const isSame = this.game?.id === game.id && ('players' in (game.teams?.[0] ?? {})) ===
-      ('players' in (this.game.teams?.[0] ?? {}));
+    const isSame = this.game?.id === game.id && !this.#isReset;
     if (this.#isReset || (this.game && epochOf(game.id) !== epochOf(this.game.id)))
       this.marks.clear();
     this.#isReset = false;
@@ -133,6 +118,8 @@ export class Feed {
     if (epochOf(this.#newest) !== epochOf(game.id))
       this.#newest = game.id;
     this.#hear(Date.now());
+    if (!this.#source)
+      this.#open();
     if (!isSame)
       this.#tell([]);
   }
@@ -147,10 +134,11 @@ export class Feed {
       this.#heard = Math.max(this.#heard, then);
   }
 
+  // From the game that is held on, so that nothing between the two is missed.
   #open() {
     this.#source?.close();
     this.#opened = Date.now();
-    const source = new EventSource(`${base}/events`);
+    const source = new EventSource(`${base}/events?lastEventId=${encodeURIComponent(this.game.id)}`);
     this.#source = source;
     source.onmessage = (event) => this.#message(JSON.parse(event.data));
     source.addEventListener('reset', () => {
@@ -222,7 +210,8 @@ export class Feed {
   #wake() {
     if (this.#isStreaming)
       return;
-    this.#open();
+    if (this.game)
+      this.#open();
     this.load();
   }
 
@@ -234,9 +223,9 @@ export class Feed {
       this.#catchUp();
       return;
     }
-    if (now - this.#opened > kReopenEvery)
+    if (this.game && now - this.#opened > kReopenEvery)
       this.#open();
-    const pause = kPollEvery * Math.min(1 + this.#failures / 2, 4);
+    const pause = kPollEvery * Math.min(1 + this.#failures / 4, 2);
     if (now - Math.max(this.#opened, this.#beat) > kSilence / 2 && !this.#loading && now - this.#asked > pause)
       this.load();
   }

@@ -34,7 +34,7 @@ function chart(game) {
   const names = order.map((side) => abbOf(game, side));
   const periodNames = game.flow.periods.map((period) => periodName(period.number, game.rules));
   const score = scoreText(game, game.teams.map((team) => team.points));
-  const label = `${t('flowPage')}: ${names[0]} ${score} ${names[1]}`;
+  const label = `${t('flowPage')} – ${names[0]} ${score} ${names[1]}`;
   return h('section', { 'data-key': 'chart' }, h('h2', null, t('flowPage')),
     curve(game.flow, { width, height, order, names, periodNames, label }),
     h('p', { class: 'legend' }, h('span', null, h('b', null, 'T'), ` ${t('timeOuts')}`),

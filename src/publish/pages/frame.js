@@ -1,7 +1,8 @@
 // What stands around every page for spectators: the state in words, language, look, the banner while the
 // connection is lost, the pages' bar, and the one live region. A page gives what it draws.
 import { base, h, paint, svg } from './dom.js';
-import { changeLanguage, lang, loadWords, remember, remembered, t } from './words.js';
+import { changeLanguage, lang, loadWords, remember, t } from './words.js';
+import { dark, look, wearLook } from './look.js';
 import { clockText, tick } from './clock.js';
 import { wearTeamColours } from './colour.js';
 import { Feed } from './feed.js';
@@ -20,20 +21,6 @@ const kSun = 'M12 8a4 4 0 1 0 0 8 4 4 0 0 0 0-8zM12 2v3M12 19v3M2 12h3M19 12h3M5
 
 function icon(path) {
   return svg('svg', { viewBox: '0 0 24 24', class: 'icon', 'aria-hidden': 'true' }, svg('path', { d: path }));
-}
-
-const dark = matchMedia('(prefers-color-scheme: dark)');
-const askedLook = new URLSearchParams(location.search).get('look');
-if (['light', 'dark'].includes(askedLook))
-  remember('look', askedLook);
-
-function look() {
-  const kept = ['light', 'dark'].includes(askedLook) ? askedLook : remembered('look');
-  return ['light', 'dark'].includes(kept) ? kept : dark.matches ? 'dark' : 'light';
-}
-
-export function wearLook() {
-  document.documentElement.dataset.look = look();
 }
 
 function stateLine(feed) {
@@ -58,7 +45,6 @@ class Frame {
   #saying = null;
   #points = null;
   #wearing = '';
-  #hasGames = false;
 
   constructor(page, feed, draw) {
     this.#page = page;
@@ -71,17 +57,6 @@ class Frame {
       part('main', h('main', { id: 'main', tabindex: '-1' })), part('nav', h('nav', { class: 'pages' })),
       part('said', h('p', { class: 'hidden', 'aria-live': 'polite' })));
     dark.addEventListener('change', () => this.#changeLook(look()));
-    this.#askForGames();
-  }
-
-  async #askForGames() {
-    try {
-      const games = await (await fetch('/api/games')).json();
-      this.#hasGames = (Array.isArray(games) ? games : games.games ?? []).length > 1;
-      this.#drawTop();
-    } catch {
-      // Without the list there is no way to it; the page is whole without.
-    }
   }
 
   #changeLook(to) {
@@ -107,7 +82,7 @@ class Frame {
     const { feed } = this;
     top.classList.toggle('lost', feed.isLost);
     paint(top, stateLine(feed),
-      this.#hasGames && h('a', { id: 'games', href: '/games' }, t('games')),
+      base && h('a', { id: 'games', href: '/games' }, t('games')),
       h('button', { id: 'language', class: 'link', type: 'button', lang: lang === 'fr' ? 'en' : 'fr',
                     onclick: () => this.#switchLanguage() }, t('otherLanguage')),
       h('button', { id: 'look', class: 'sign', type: 'button', 'aria-label': t('darkLook'),

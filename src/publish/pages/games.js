@@ -1,9 +1,7 @@
 // The games that are served, with their scores; each leads to its own pages.
 import { h, paint } from './dom.js';
 import { changeLanguage, dayName, lang, loadWords, periodName, t } from './words.js';
-import { clockText } from './clock.js';
-import { wearLook } from './frame.js';
-import { breakText, sidesOf } from './parts.js';
+import { wearLook } from './look.js';
 
 const kEvery = 5000;
 
@@ -14,25 +12,28 @@ async function asked(address) {
   return answer.json();
 }
 
-function stateText(game) {
-  if (game.state === 'none')
-    return t('noGame');
-  if (game.state === 'before')
-    return [t('notBegun'), game.details?.date && dayName(game.details.date), game.details?.place].filter(Boolean).join(' · ');
-  const words = breakText(game);
-  if (words)
-    return words;
-  const clock = [periodName(game.clock.period, game.rules), clockText(game.clock.seconds)].filter(Boolean).join(' ');
-  return game.state === 'running' ? `● ${clock}` : clock;
+function stateText({ state, date, period }) {
+  const day = date && dayName(date);
+  const words = { none: t('noGame'), before: t('notBegun'), final: t('final'), running: `● ${periodName(period)}` }[state];
+  return [words ?? periodName(period), state !== 'running' && day].filter(Boolean).join(' · ');
 }
 
-function entry({ name, game }) {
-  const hasTeams = game?.teams?.length === 2;
-  return h('li', { 'data-key': name }, h('a', { id: `game-${name}`, href: `/g/${encodeURIComponent(name)}/` },
-    hasTeams ? sidesOf(game).map((side) => h('span', { class: 'pair' },
-      h('b', null, game.teams[side].abb || game.teams[side].name), h('span', { class: 'points' }, game.teams[side].points)))
-      : h('b', null, name),
-    h('span', { class: 'state' }, game ? stateText(game) : t('noConnection'))));
+// What is played stands first, then what is to come, then the latest of what has been.
+function inOrder(games) {
+  const rankOf = ({ state }) => (state === 'final' ? 2 : state === 'before' ? 1 : 0);
+  return [...games].sort((one, other) => rankOf(one) - rankOf(other) ||
+    (rankOf(one) === 2 ? other.date.localeCompare(one.date) : one.date.localeCompare(other.date)));
+}
+
+function addressOf(name) {
+  return name ? `/g/${encodeURIComponent(name)}/` : '/';
+}
+
+function entry(game) {
+  return h('li', { 'data-key': game.name }, h('a', { id: `game-${game.name}`, href: addressOf(game.name) },
+    game.teams.map((team) => h('span', { class: 'pair' }, h('b', null, team.abb || team.name),
+      game.state !== 'before' && h('span', { class: 'points' }, team.points))),
+    h('span', { class: 'state' }, stateText(game))));
 }
 
 let entries = null;
@@ -51,10 +52,7 @@ function draw() {
 
 async function refresh() {
   try {
-    const list = await asked('/api/games');
-    const names = (Array.isArray(list) ? list : list.games).map((one) => (typeof one === 'string' ? one : one.name));
-    entries = await Promise.all(names.map((name) => asked(`/g/${encodeURIComponent(name)}/api/game?parts=score`)
-      .then((game) => ({ name, game }), () => ({ name, game: null }))));
+    entries = inOrder(await asked('/api/games'));
     isLost = false;
   } catch {
     isLost = true;

@@ -1,12 +1,11 @@
-// The score and what just happened; below it the periods and who scores most. It asks for the small part of
-// the game, and for all of it when somebody gets as far as the scorers.
+// The score and what just happened; below it the periods and who scores most. The small part of the game is
+// enough for it.
 import { base, h } from './dom.js';
 import { dayName, periodName, t } from './words.js';
 import { begin } from './frame.js';
-import { isTold, personText, playRow, playsWithGone, scoreHead, sidesOf, tag } from './parts.js';
+import { abbOf, isTold, personText, playRow, playsWithGone, scoreHead, sidesOf, tag } from './parts.js';
 
 const kPlays = 4;
-const kScorers = 2;
 
 function details(game) {
   const { date = '', time = '', place = '', competition = '', round = '' } = game.details ?? {};
@@ -27,30 +26,38 @@ function lastPlays(feed) {
     h('p', { class: 'all' }, h('a', { href: `${base}/plays` }, t('allPlays'))));
 }
 
+// What is left stands in the head while there is a game to play.
+function timeOutsTaken(game) {
+  const isLeftTold = game.teams.every((team) => typeof team.timeOuts?.left === 'number');
+  if (game.state !== 'final' && isLeftTold)
+    return null;
+  const taken = sidesOf(game).map((side) => `${abbOf(game, side)} ${game.teams[side].timeOuts?.taken ?? 0}`);
+  return h('p', { class: 'legend' }, `${t('timeOutsTaken')} – ${taken.join(' · ')}`);
+}
+
 function byPeriod(game) {
   const played = Math.max(...game.teams.map((team) => team.periods.length));
   const periods = Array.from({ length: Math.max(played, game.rules?.periods ?? 0) }, (_, at) => at + 1);
-  // What is left stands in the head while there is a game to play.
-  const hasLeft = game.state !== 'final' && game.teams.every((team) => typeof team.timeOuts?.left === 'number');
   return h('section', { 'data-key': 'periods' }, h('h2', null, t('byPeriod')),
     h('div', { class: 'scroll', tabindex: '0', role: 'region', 'aria-label': t('byPeriod') },
       h('table', null, h('caption', { class: 'hidden' }, t('byPeriod')),
         h('thead', null, h('tr', null, h('th', { scope: 'col' }, t('team')),
           periods.map((period) => h('th', { scope: 'col' }, periodName(period, game.rules))),
-          h('th', { scope: 'col' }, t('total')),
-          !hasLeft && h('th', { scope: 'col' }, t('timeOutsTaken')))),
+          h('th', { scope: 'col' }, t('total')))),
         h('tbody', null, sidesOf(game).map((side) => h('tr', null, h('th', { scope: 'row' }, tag(game, side)),
           periods.map((period) => h('td', null, game.teams[side].periods[period - 1] ?? '')),
-          h('td', { class: 'key' }, game.teams[side].points), !hasLeft && h('td', null, game.teams[side].timeOuts?.taken ?? '–')))))));
+          h('td', { class: 'key' }, game.teams[side].points)))))),
+    timeOutsTaken(game));
 }
 
 function scorers(game) {
-  const rows = sidesOf(game).flatMap((side) => (game.teams[side].players ?? [])
-    .filter((player) => player.PTS > 0).sort((one, other) => other.PTS - one.PTS).slice(0, kScorers)
-    .map((player) => h('tr', null, h('td', null, tag(game, side)),
-      h('th', { scope: 'row' }, personText(player.number, player.name)), h('td', { class: 'key' }, player.PTS))));
-  return h('section', { id: 'scorers' }, h('h2', null, t('topScorers')),
-    rows.length > 0 && h('table', { class: 'scorers' }, h('caption', { class: 'hidden' }, t('topScorers')),
+  const rows = sidesOf(game).flatMap((side) => (game.teams[side].scorers ?? []).map((scorer) => h('tr', null,
+    h('td', null, tag(game, side)), h('th', { scope: 'row' }, personText(scorer.number, scorer.name)),
+    h('td', { class: 'key' }, scorer.points))));
+  if (!rows.length)
+    return null;
+  return h('section', { 'data-key': 'scorers' }, h('h2', null, t('topScorers')),
+    h('table', { class: 'scorers' }, h('caption', { class: 'hidden' }, t('topScorers')),
       h('thead', { class: 'hidden' }, h('tr', null, ['team', 'player', 'points'].map((name) =>
         h('th', { scope: 'col' }, t(name))))),
       h('tbody', null, rows)));
@@ -62,17 +69,4 @@ function draw(feed) {
           game.state !== 'before' && byPeriod(game), game.state !== 'before' && scorers(game)];
 }
 
-const { feed } = await begin({ page: 'score', isWhole: false, draw });
-const watch = new IntersectionObserver((seen) => {
-  if (seen.some((entry) => entry.isIntersecting)) {
-    watch.disconnect();
-    feed.widen();
-  }
-});
-const found = setInterval(() => {
-  const section = document.getElementById('scorers');
-  if (!section)
-    return;
-  clearInterval(found);
-  watch.observe(section);
-}, 300);
+await begin({ page: 'score', isWhole: false, draw });

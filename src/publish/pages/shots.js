@@ -79,10 +79,10 @@ function draw(feed) {
     return [...head, h('p', { class: 'empty' }, t('nothing'))];
   return [...head,
     h('section', { 'data-key': 'chart' }, h('h2', { class: 'hidden' }, t('shotsPage')),
-      courtPicture(shots.filter((play) => play.place), `${abbOf(game, chosen.side)}: ${legend.join(', ')}`),
+      courtPicture(shots.filter((play) => play.place), `${abbOf(game, chosen.side)} – ${legend.join(', ')}`),
       h('p', { class: 'legend' }, h('b', { class: 'good' }, `● ${legend[0]}`), h('b', { class: 'bad' }, `✕ ${legend[1]}`),
         h('span', null, legend[2]))),
-    h('section', { 'data-key': 'zones' }, h('h2', null, t('zone')), table(shots))];
+    h('section', { 'data-key': 'zones' }, h('h2', { class: 'hidden' }, t('zone')), table(shots))];
 }
 
 ({ redraw } = await begin({ page: 'shots', draw }));
