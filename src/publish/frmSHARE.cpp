@@ -2,6 +2,7 @@
 
 #include "appearance/Fields.h"
 #include "appearance/Mnemonics.h"
+#include "appearance/PlainLabel.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
 #include "publish/QrPicture.h"
@@ -13,7 +14,6 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -58,6 +58,7 @@ frmSHARE::frmSHARE(const ShareChoice& choice, std::vector<WebNetwork> networks, 
   m_names->setCurrentIndex(static_cast<int>(choice.feed.names));
   m_first->setCurrentIndex(numberOf(choice.feed.first));
   m_pass->setText(toQt(choice.passPhrase));
+  connect(m_network, &QComboBox::activated, this, &frmSHARE::warn);
   connect(m_switch, &QCheckBox::clicked, this, &frmSHARE::switched);
   connect(m_delay, &QSpinBox::valueChanged, this, &frmSHARE::feedChosen);
   connect(m_names, &QComboBox::activated, this, &frmSHARE::feedChosen);
@@ -87,7 +88,7 @@ void frmSHARE::addFields() {
     return field;
   };
   const auto note = [&](const char* name) {
-    auto* label = named(new QLabel(this), name);
+    auto* label = named(new PlainLabel(this), name);
     label->setWordWrap(true);
     label->setForegroundRole(QPalette::PlaceholderText);
     m_grid->addWidget(label, m_grid->rowCount(), 1);
@@ -150,12 +151,12 @@ void frmSHARE::addAddress() {
     m_copy->setText(caption(m_texts, Text::ShareCopied));
   });
   m_picture = new QrPicture(this);
-  auto* hint = new QLabel(this);
+  auto* hint = new PlainLabel(this);
   hint->setForegroundRole(QPalette::PlaceholderText);
   hint->setWordWrap(true);
   hint->setAlignment(Qt::AlignHCenter);
   setTextNumber(*hint, Text::ShareScan);
-  m_viewers = new QLabel(this);
+  m_viewers = new PlainLabel(this);
   m_viewers->setObjectName(QStringLiteral("lblVIEWERS"));
   m_viewers->setAlignment(Qt::AlignHCenter);
   auto* page = new QHBoxLayout;
@@ -185,6 +186,19 @@ void frmSHARE::fillNetworks(const std::string& chosen) {
       current = m_network->count() - 1;
   }
   m_network->setCurrentIndex(current);
+  warn();
+}
+
+// A machine without a network, or with an address of the internet, is no place to share a game from unawares.
+void frmSHARE::warn() {
+  const bool isAlone = std::ranges::all_of(m_networks, &WebNetwork::isLoopback);
+  const int chosen = m_network->currentIndex();
+  const bool isOpen = chosen >= 0 && !m_networks[static_cast<std::size_t>(chosen)].isPrivate &&
+                      !m_networks[static_cast<std::size_t>(chosen)].isLoopback;
+  if (isAlone)
+    showProblem(caption(m_texts, Text::ShareNoNetwork));
+  else
+    showProblem(isOpen ? toQt(m_texts.withPlaceholder(Text::ShareOpenNetwork, choice().address)) : QString());
 }
 
 void frmSHARE::showNames(const Players& players) {

@@ -52,6 +52,7 @@ class frmSHARE : public QDialog {
   void addRow(QWidget& field, Text words);
   void fillNetworks(const std::string& chosen);
   void showAddress();
+  void warn();
   void showNames(const Players& players);
 
   const Texts& m_texts;

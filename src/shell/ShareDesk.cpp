@@ -61,7 +61,10 @@ std::string ShareDesk::categories() const {
 
 // Names by the teams that play: what was chosen for them, else numbers alone where they are under age.
 ShareChoice ShareDesk::remembered() const {
-  ShareChoice choice = m_choice != nullptr ? *m_choice : readShareChoice(m_workshop.memory.layout(kLayout));
+  const std::string kept = m_workshop.memory.layout(kLayout);
+  ShareChoice choice = m_choice != nullptr ? *m_choice : readShareChoice(kept);
+  if (m_choice == nullptr && kept.empty())
+    choice.address.clear(); // the first network that is there;
   const std::string chosen = m_workshop.memory.layout(std::string(kNames) + categories());
   if (!chosen.empty())
     choice.feed.names = readNameForm(chosen);
@@ -95,12 +98,12 @@ void ShareDesk::openWindow() {
 
 void ShareDesk::switchTo(bool on) {
   const ShareChoice choice = m_dialog->choice();
-  m_dialog->showProblem({});
   m_share.reset();
   m_live.clear();
   if (on) {
     try {
       m_share = std::make_unique<GameShare>(choice);
+      m_dialog->showProblem({});
       remember(choice);
       followGame();
     } catch (const WebServerError& error) {
