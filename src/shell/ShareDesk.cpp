@@ -64,7 +64,7 @@ ShareChoice ShareDesk::remembered() const {
   const std::string kept = m_workshop.memory.layout(kLayout);
   ShareChoice choice = m_choice != nullptr ? *m_choice : readShareChoice(kept);
   if (m_choice == nullptr && kept.empty())
-    choice.address.clear(); // the first network that is there;
+    choice.address.clear(); // the first network that is there
   const std::string chosen = m_workshop.memory.layout(std::string(kNames) + categories());
   if (!chosen.empty())
     choice.feed.names = readNameForm(chosen);
