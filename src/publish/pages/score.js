@@ -6,6 +6,7 @@ import { begin } from './frame.js';
 import { abbOf, isTold, personText, playRow, playsWithGone, scoreHead, sidesOf, tag } from './parts.js';
 
 const kPlays = 4;
+const kLeftOut = ['substitution', 'other']; // what tells little by itself
 
 function details(game) {
   const { date = '', time = '', place = '', competition = '', round = '' } = game.details ?? {};
@@ -18,7 +19,7 @@ function details(game) {
 }
 
 function lastPlays(feed) {
-  const told = playsWithGone(feed).filter((play) => isTold(play) && play.kind !== 'substitution');
+  const told = playsWithGone(feed).filter((play) => isTold(play) && !kLeftOut.includes(play.kind));
   if (!told.length)
     return null;
   return h('section', { class: 'rows', 'data-key': 'plays' }, h('h2', null, t('lastPlays')),

@@ -60,10 +60,11 @@ function table(shots) {
   const isClose = (play) => kClose.includes(play.kind);
   rows.push(row(t('closeShots'), without.filter(isClose)),
             row(t('noPlace'), without.filter((play) => !isClose(play))));
-  return h('table', { class: 'zones' }, h('caption', { class: 'hidden' }, t('zone')),
-    h('thead', null, h('tr', null, [t('zone'), t('madeTried'), '%', t('pointsPerShot')].map((head) =>
+  return h('div', { class: 'scroll', tabindex: '0', role: 'region', 'aria-label': t('zone') },
+    h('table', { class: 'zones' }, h('caption', { class: 'hidden' }, t('zone')),
+    h('thead', null, h('tr', null, [t('zone'), t('madeTried').replace('/', '/\u200b'), '%', t('pointsPerShot')].map((head) =>
       h('th', { scope: 'col' }, head)))),
-    h('tbody', null, rows));
+    h('tbody', null, rows)));
 }
 
 function draw(feed) {
