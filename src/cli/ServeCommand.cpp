@@ -108,7 +108,8 @@ class Serving {
     if (catalogue.scan({m_options.files.front(), false}) != ScanOutcome::Done)
       return nullptr;
     const SeasonStatistics statistics(catalogue, catalogue.select({}), {{}, std::nullopt});
-    return std::make_shared<const std::string>(seasonJson(statistics, std::nullopt, {}));
+    return std::make_shared<const std::string>(
+        seasonJson(statistics, std::nullopt, {}, PublicSeason{m_options.serve.names}));
   }
 
   const Options& m_options;

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <initializer_list>
 #include <string_view>
 
@@ -19,8 +20,11 @@ std::string step(std::string_view command, std::initializer_list<double> numbers
   std::string text(command);
   for (const double number : numbers) {
     std::array<char, 32> digits = {};
-    const auto end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed, 2).ptr;
+    // An arc's flags are 0 or 1, and no browser takes 1.00 for one.
+    const int decimals = std::trunc(number) == number ? 0 : 2;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number,
+                                   std::chars_format::fixed, decimals)
+                         .ptr;
     text.append(text.size() > command.size() ? " " : "").append(digits.data(), end);
   }
   return text;

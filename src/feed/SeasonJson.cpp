@@ -17,8 +17,10 @@ constexpr int kResultColumn = 3;
 
 class SeasonJson {
  public:
-  SeasonJson(const SeasonStatistics& statistics, std::optional<SeasonId> team, const Qualification& minimum)
-      : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_team(team), m_minimum(minimum) {}
+  SeasonJson(const SeasonStatistics& statistics, std::optional<SeasonId> team, const Qualification& minimum,
+             const std::optional<PublicSeason>& isPublic)
+      : m_statistics(statistics), m_catalogue(statistics.catalogue()), m_team(team), m_minimum(minimum),
+        m_public(isPublic) {}
 
   std::string text() && {
     m_json.beginObject();
@@ -30,11 +32,13 @@ class SeasonJson {
     for (const SeasonRow& row : m_statistics.players())
       writePlayer(row);
     m_json.endArray();
-    m_json.name("lines");
-    m_json.beginArray();
-    for (const SeasonRow& row : m_statistics.lines())
-      writeLine(row);
-    m_json.endArray();
+    if (!m_public) {
+      m_json.name("lines");
+      m_json.beginArray();
+      for (const SeasonRow& row : m_statistics.lines())
+        writeLine(row);
+      m_json.endArray();
+    }
     writeLeaders();
     writeTeams();
     m_json.endObject();
@@ -59,7 +63,7 @@ class SeasonJson {
       const ListedGame& game = m_catalogue.games()[index];
       m_json.beginObject();
       m_json.beginLine();
-      m_json.member("file", game.path);
+      m_json.member("file", fileOf(game.path));
       m_json.member("date", game.date);
       m_json.member("type", game.type);
       m_json.member("visitor", m_catalogue.teams()[game.team[Side::Visitor]].key);
@@ -71,6 +75,12 @@ class SeasonJson {
       m_json.endLine();
     }
     m_json.endArray();
+  }
+  [[nodiscard]] std::string fileOf(const std::string& path) const {
+    return m_public ? path.substr(path.rfind('/') + 1) : path;
+  }
+  [[nodiscard]] std::string nameOf(const SeasonRow& row) const {
+    return m_public ? toldName(row.name, m_public->names) : row.name;
   }
   // Without a team, the winner's abbreviation.
   std::string resultOf(const ListedGame& game) const {
@@ -84,7 +94,7 @@ class SeasonJson {
     for (const SkippedFile& skipped : m_catalogue.skipped()) {
       m_json.beginObject();
       m_json.beginLine();
-      m_json.member("file", skipped.path);
+      m_json.member("file", fileOf(skipped.path));
       m_json.member("reason", skipReasonInEnglish(skipped.reason));
       m_json.endObject();
       m_json.endLine();
@@ -96,7 +106,7 @@ class SeasonJson {
     m_json.beginLine();
     m_json.member("team", m_catalogue.teams()[row.team].key);
     m_json.member("number", row.number);
-    m_json.member("name", row.name);
+    m_json.member("name", nameOf(row));
     m_json.member("position", positionText(row.positions.back(), m_english));
     writeSums(row, SeasonTable::Players);
     m_json.endObject();
@@ -189,7 +199,7 @@ class SeasonJson {
     m_json.member("rank", leader.rank);
     m_json.member("team", m_catalogue.teams()[leader.row->team].key);
     m_json.member("number", leader.row->number);
-    m_json.member("name", leader.row->name);
+    m_json.member("name", nameOf(*leader.row));
     m_json.member("value", leader.value);
     m_json.endObject();
     m_json.endLine();
@@ -199,6 +209,7 @@ class SeasonJson {
   const GameCatalogue& m_catalogue;
   std::optional<SeasonId> m_team;
   Qualification m_minimum;
+  std::optional<PublicSeason> m_public;
   Texts m_english;
   JsonWriter m_json;
 };
@@ -206,8 +217,8 @@ class SeasonJson {
 } // namespace
 
 std::string seasonJson(const SeasonStatistics& statistics, std::optional<SeasonId> team,
-                       const Qualification& minimum) {
-  return SeasonJson(statistics, team, minimum).text();
+                       const Qualification& minimum, const std::optional<PublicSeason>& isPublic) {
+  return SeasonJson(statistics, team, minimum, isPublic).text();
 }
 
 std::string skipReasonInEnglish(SkipReason reason) {

@@ -30,9 +30,11 @@ WebGame::WebGame(const Texts& texts, const FeedOptions& options) : m_texts(texts
 }
 
 void WebGame::show(const Moment& moment) {
+  const bool isAnother = !areOneGame(m_now.game, moment.game);
   m_now = moment;
   m_record.reset();
   showBenches(moment.at);
+  showDirect(isAnother);
   if (m_options.delaySeconds == 0)
     publish(m_now);
   else
@@ -63,22 +65,39 @@ void WebGame::tick(std::int64_t now) {
     return;
   m_beaten = now;
   m_feed->beat(now);
+  if (m_direct)
+    m_direct->beat(now);
   for (const Desk& desk : m_desks)
     desk.stream->beat(now);
 }
 
 bool WebGame::isHeard() const {
-  return m_feed->isHeard() ||
+  return m_feed->isHeard() || (m_direct && m_direct->isHeard()) ||
          std::ranges::any_of(m_desks, [](const Desk& desk) { return desk.stream->isHeard(); });
+}
+
+const std::shared_ptr<FeedChannel>& WebGame::direct() {
+  if (!m_direct) {
+    m_direct = std::make_shared<FeedChannel>();
+    showDirect(true);
+  }
+  return m_direct;
+}
+
+void WebGame::showDirect(bool isAnother) {
+  if (m_direct)
+    m_direct->show(textOf(m_now, {.first = m_options.first}), isAnother);
+}
+
+std::string WebGame::textOf(const Moment& moment, const FeedOptions& options) const {
+  const FeedMoment told{.id = {}, .at = moment.isClockKnown ? std::optional(moment.at) : std::nullopt};
+  return moment.game ? feedGame(*moment.game, told, options, m_texts) : feedWithoutGame(told, options);
 }
 
 void WebGame::publish(const Moment& moment) {
   const bool isAnother = !areOneGame(m_public.game, moment.game);
   m_public = moment;
-  const FeedMoment told{.id = {}, .at = moment.isClockKnown ? std::optional(moment.at) : std::nullopt};
-  m_feed->show(moment.game ? feedGame(*moment.game, told, m_options, m_texts)
-                           : feedWithoutGame(told, m_options),
-               isAnother);
+  m_feed->show(textOf(moment, m_options), isAnother);
 }
 
 void WebGame::showBenches(std::int64_t now) {

@@ -32,6 +32,8 @@ class WebGame {
 
   // As the public sees it.
   [[nodiscard]] const std::shared_ptr<FeedChannel>& feed() const { return m_feed; }
+  // At once and with whole names, for those of the game's own people who know the pass phrase.
+  [[nodiscard]] const std::shared_ptr<FeedChannel>& direct();
   [[nodiscard]] const Shown& publicGame() const { return m_public.game; }
   // Whether anybody follows it now.
   [[nodiscard]] bool isHeard() const;
@@ -41,6 +43,8 @@ class WebGame {
 
  private:
   void publish(const Moment& moment);
+  void showDirect(bool isAnother);
+  [[nodiscard]] std::string textOf(const Moment& moment, const FeedOptions& options) const;
   void showBenches(std::int64_t now);
   [[nodiscard]] std::string benchText(Side us, Language language, std::int64_t now);
   struct Desk {
@@ -52,7 +56,8 @@ class WebGame {
   Texts m_texts; // whose language is switched
   FeedOptions m_options;
   std::shared_ptr<FeedChannel> m_feed = std::make_shared<FeedChannel>();
-  std::deque<Moment> m_waiting; // for their time to come
+  std::shared_ptr<FeedChannel> m_direct; // null until somebody asks for it
+  std::deque<Moment> m_waiting;          // for their time to come
   Moment m_public;
   Moment m_now;
   std::optional<BenchRecord> m_record; // of m_now

@@ -17,6 +17,7 @@ constexpr std::string_view kGames = "/g/";
 constexpr std::string_view kJson = "application/json; charset=utf-8";
 constexpr std::string_view kHtml = "text/html; charset=utf-8";
 constexpr int kNotFound = 404;
+constexpr int kFound = 302; // elsewhere, for now
 constexpr int kMoved = 308;
 
 // The pages that can be asked for, and their files.
@@ -64,6 +65,13 @@ WebAnswer constant(std::string body, std::string_view type) {
 WebAnswer notFound() {
   WebAnswer answer = answerOf("404: there is nothing at this address.\n", "text/plain; charset=utf-8");
   answer.status = kNotFound;
+  return answer;
+}
+
+WebAnswer moved(int status, std::string location) {
+  WebAnswer answer = answerOf({}, "text/plain; charset=utf-8");
+  answer.status = status;
+  answer.location = std::move(location);
   return answer;
 }
 
@@ -197,23 +205,20 @@ WebAnswer WebSite::answer(const WebRequest& request) {
   const Place place = placeOf(request.path);
   if (place.game == nullptr && request.path == "/")
     return m_files.at("/games");
-  if (place.game == nullptr)
-    return notFound();
-  if (place.rest.empty()) {
-    WebAnswer moved = answerOf({}, "text/plain; charset=utf-8");
-    moved.status = kMoved;
-    moved.location = request.path + '/';
-    return moved;
-  }
+  if (place.game == nullptr) // of several games none stands at the root
+    return m_pages.contains(request.path) ? moved(kFound, "/") : notFound();
+  if (place.rest.empty())
+    return moved(kMoved, request.path + '/');
   return answerOfGame(*place.game, place.rest, request);
 }
 
 WebAnswer WebSite::answerOfGame(WebGame& game, std::string_view what, const WebRequest& request) {
-  if (what == "/api/game") {
+  if (what == "/api/game" || what == "/api/bench/game") {
+    const FeedChannel& feed = what == "/api/game" ? *game.feed() : *game.direct();
     const bool isScore = request.parameter("parts") == "score";
     WebAnswer answer = answerOf({}, kJson);
-    answer.body = isScore ? game.feed()->score() : game.feed()->game();
-    answer.tag = game.feed()->id() + (isScore ? "-score" : "");
+    answer.body = isScore ? feed.score() : feed.game();
+    answer.tag = feed.id() + (isScore ? "-score" : "");
     answer.maxAge = 1;
     return answer;
   }
@@ -238,6 +243,8 @@ std::shared_ptr<WebStream> WebSite::stream(const WebRequest& request) {
     return nullptr;
   if (place.rest == "/events")
     return place.game->feed();
+  if (place.rest == "/api/bench/changes")
+    return place.game->direct();
   if (place.rest == "/api/bench/events")
     return place.game->benchStream(sideOf(request), languageOf(request), m_clock());
   return nullptr;

@@ -158,6 +158,7 @@ TEST(WebGame, TheDelayHoldsForThePublicAlone) {
   game.show({shown, 1'000'000, true});
   const auto isPublic = [&game] { return game.feed()->game()->find("\"points\":2") != std::string::npos; };
   EXPECT_FALSE(isPublic());
+  EXPECT_NE(game.direct()->game()->find("\"points\":2"), std::string::npos);
   EXPECT_NE(game.bench(Side::Visitor, Language::English, 1'000'000)->find("\"points\":2"), std::string::npos);
   game.tick(1'019'000);
   EXPECT_FALSE(isPublic());

@@ -95,6 +95,7 @@ TEST_F(WebSiteTest, GamesOfAFolderAreReadWhenTheyAreAskedForAndFollowTheirFiles)
   EXPECT_EQ(games[0]["state"], "running");
   EXPECT_EQ(games[1]["state"], "final");
   EXPECT_EQ(site.answer(request("/api/game")).status, 404) << "none of several stands at the root";
+  EXPECT_EQ(site.answer(request("/box")).location, "/");
   const FeedJson game = FeedJson::parse(body(site, "/g/b/api/game"));
   EXPECT_EQ(game["clock"]["running"], false) << "nobody knows when its last event was";
 

@@ -1,6 +1,6 @@
 // The announcer's page: all that the last reading of the clock brought, in the order in which it is spoken,
 // and below it what came before. Misses and rebounds are left out: nobody calls them.
-import { Feed } from './feed.js';
+import { asksDirect, Feed } from './feed.js';
 import { h, paint } from './dom.js';
 import { wearTeamColours } from './colour.js';
 import { clockText } from './clock.js';
@@ -15,7 +15,7 @@ const kSpoken = ['foul', 'technical', 'benchTechnical', 'timeOut', 'substitution
 const kBefore = 8;
 const kFewCards = 3; // that have room in large type
 
-const feed = new Feed(true);
+const feed = new Feed(true, asksDirect());
 const page = document.getElementById('announcer');
 
 function isSpoken(play) {

@@ -10,10 +10,17 @@ const kReopenEvery = 8000;
 const kMarkFor = 30000;   // how long a correction is shown
 const kBeatsKept = 8;
 
+const kPublic = { game: '/api/game', stream: '/events' };
+const kDirect = { game: '/api/bench/game', stream: '/api/bench/changes' };
+
+// Whether the address of the page asks for the game at once: `?direct`.
+export const asksDirect = () => new URLSearchParams(location.search).has('direct');
+
 export class Feed {
   game = null;
   marks = new Map(); // corrections of the last half minute, by the play's id
   #isWhole;
+  #paths;
   #listeners = [];
   #source = null;
   #waiting = [];   // changes that came while the game was loaded
@@ -28,9 +35,11 @@ export class Feed {
   #offsets = [];   // the server's clock less ours, of the last beats
   #guess = 0;
 
-  // `isWhole`: with players, flow and all plays.
-  constructor(isWhole) {
+  // `isWhole`: with players, flow and all plays. `isDirect`: at once and with whole names, for who knows the
+  // pass phrase; the browser asks for it.
+  constructor(isWhole, isDirect = false) {
     this.#isWhole = isWhole;
+    this.#paths = isDirect ? kDirect : kPublic;
   }
 
   listen(listener) {
@@ -87,7 +96,7 @@ export class Feed {
     try {
       const stop = new AbortController();
       const timer = setTimeout(() => stop.abort(), 8000);
-      const answer = await fetch(`${base}/api/game${this.#isWhole ? '' : '?parts=score'}`, { signal: stop.signal });
+      const answer = await fetch(`${base}${this.#paths.game}${this.#isWhole ? '' : '?parts=score'}`, { signal: stop.signal });
       if (!answer.ok)
         throw new Error(String(answer.status));
       const game = await answer.json();
@@ -138,7 +147,7 @@ export class Feed {
   #open() {
     this.#source?.close();
     this.#opened = Date.now();
-    const source = new EventSource(`${base}/events?lastEventId=${encodeURIComponent(this.game.id)}`);
+    const source = new EventSource(`${base}${this.#paths.stream}?lastEventId=${encodeURIComponent(this.game.id)}`);
     this.#source = source;
     source.onmessage = (event) => this.#message(JSON.parse(event.data));
     source.addEventListener('reset', () => {

@@ -1,5 +1,5 @@
 // The screen of a hall. Nobody touches it: it draws itself anew after each change, and finds back by itself.
-import { Feed } from './feed.js';
+import { asksDirect, Feed } from './feed.js';
 import { h, paint } from './dom.js';
 import { teamLooks } from './colour.js';
 import { dayName, loadWords, periodName, t } from './words.js';
@@ -17,7 +17,7 @@ import {
 const kGround = '#000000';
 const kText = '#ffffff';
 const kSpare = 0.96; // of the room a text takes that was too long
-const feed = new Feed(true);
+const feed = new Feed(true, asksDirect());
 const hall = document.getElementById('hall');
 const order = new URLSearchParams(location.search).get('order') === 'home' ? 'home' : '';
 

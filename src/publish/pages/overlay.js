@@ -1,6 +1,6 @@
 // What a stream lays over its picture. The address says which parts, where, how large; what it says wrongly
 // counts as not said. A part comes and goes by itself; nobody touches the page.
-import { Feed } from './feed.js';
+import { asksDirect, Feed } from './feed.js';
 import { epochOf } from './apply.js';
 import { paint } from './dom.js';
 import { teamLooks } from './colour.js';
@@ -33,7 +33,7 @@ const player = asked('player', /^[01]-\d{1,3}$/);
 const order = query.get('order') === 'home' ? 'home' : '';
 
 const overlay = document.getElementById('overlay');
-const feed = new Feed(true);
+const feed = new Feed(true, asksDirect());
 const known = new Set(); // plays that were there before, or have had their time on the picture
 let gameShown = ''; // which one
 let waiting = []; // games whose time has not come, with a delay
