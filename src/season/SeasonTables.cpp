@@ -76,8 +76,8 @@ TableColumn numberColumn(const QString& header, const QString& longest = QString
   return column;
 }
 
-// Behind the season columns stand the user's own rating, points while on court, and the team.
-enum class Behind { Nothing, OwnRating, PlusMinus, Team };
+// Behind the season columns stand points while on court, the team, and the user's own rating.
+enum class Behind { Nothing, PlusMinus, Team, OwnRating };
 Behind behindColumns(SeasonTable table, int place) {
   return static_cast<Behind>(std::clamp(place - static_cast<int>(columnsOfTable(table).size()) + 1, 0, 3));
 }
@@ -197,11 +197,11 @@ std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view, c
   std::vector<TableColumn> columns;
   for (const int index : columnsOfTable(kind))
     columns.push_back(columnOf(index, kind, view, settings, texts, labels));
-  columns.push_back(ownRatingColumn(season == nullptr ? SeasonRating() : season->ownRating(), texts));
   columns.push_back(plusMinusColumn(texts));
   TableColumn& team = columns.emplace_back(textColumn(caption(texts, Text::Team)));
   team.name = QStringLiteral("Team");
   team.isHidden = season == nullptr || season->statistics().teams().size() < 2;
+  columns.push_back(ownRatingColumn(season == nullptr ? SeasonRating() : season->ownRating(), texts));
   return columns;
 }
 
@@ -370,8 +370,8 @@ std::vector<TableColumn> resultColumns(const Settings& settings, const Texts& te
     TableColumn& own = columns.emplace_back(textColumn(toQt(resultHeader(index, texts))));
     own.isText = index != 1; // the date sorts by its day
   }
-  columns.push_back(ownRatingColumn(ownRating, texts));
   columns.push_back(plusMinusColumn(texts));
+  columns.push_back(ownRatingColumn(ownRating, texts));
   return columns;
 }
 
@@ -385,15 +385,16 @@ TableRows resultRows(std::shared_ptr<const SeasonPerson> person, const Texts& te
     const SeasonRow shown = rowOfResult(result(row));
     return column < resultColumnCount()
                ? toQt(resultCell(person->season->catalogue(), result(row), column + 1, texts))
-           : column == resultColumnCount() ? toQt(person->season->ownRating().text(shown, SeasonView::Totals))
-                                           : plusMinusText(shown, SeasonView::Totals);
+           : column == resultColumnCount()
+               ? plusMinusText(shown, SeasonView::Totals)
+               : toQt(person->season->ownRating().text(shown, SeasonView::Totals));
   };
   rows.sortValue = [person, result](int row, int column) {
     if (column < resultColumnCount())
       return resultSortValue(person->season->catalogue(), result(row), column + 1);
     const SeasonRow shown = rowOfResult(result(row));
-    return (column == resultColumnCount() ? person->season->ownRating().value(shown, SeasonView::Totals)
-                                          : seasonPlusMinus(shown, SeasonView::Totals))
+    return (column == resultColumnCount() ? seasonPlusMinus(shown, SeasonView::Totals)
+                                          : person->season->ownRating().value(shown, SeasonView::Totals))
         .value_or(kLeast);
   };
   // The best of a season, of what there are records of; of one game there is no best.

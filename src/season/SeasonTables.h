@@ -25,8 +25,8 @@ namespace hooptab {
 [[nodiscard]] TableRows skippedRows(std::shared_ptr<const GameCatalogue> catalogue, const Texts& texts);
 
 // The season tables. Rows of averages under the minimum are marked with a star. Behind the columns of the
-// core stand the user's own rating, if there is one, points while on court, and the team, which is shown
-// where there are several; null: no season yet.
+// core stand points while on court, the team, which is shown where there are several, and the user's own
+// rating, if there is one; null: no season yet.
 [[nodiscard]] std::vector<TableColumn> seasonTableColumns(SeasonTable kind, SeasonView view,
                                                           const Season* season, const Settings& settings,
                                                           const Texts& texts);

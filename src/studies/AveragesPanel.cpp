@@ -73,13 +73,13 @@ void AveragesPanel::showColumns() {
     SeasonTableView& table = *m_tables[static_cast<std::size_t>(view)];
     table.showColumns(seasonTableColumns(m_kind, view, m_season.get(), m_settings, m_texts));
     QHeaderView& header = *table.horizontalHeader();
-    const int team = table.content().columnCount() - 1;
+    const auto& columns = columnsOfTable(m_kind);
+    const int team = static_cast<int>(columns.size()) + 1;
     if (header.visualIndex(team) == team) {
       header.moveSection(team, kTeamPlace);
       header.moveSection(header.visualIndex(team - 1), kPlusMinusPlace);
-      const auto& columns = columnsOfTable(m_kind);
       const auto rating = std::ranges::find(columns, seasonColumn("rating").index);
-      header.moveSection(header.visualIndex(team - 2),
+      header.moveSection(header.visualIndex(team + 1),
                          header.visualIndex(static_cast<int>(rating - columns.begin())) + 1);
     }
   }

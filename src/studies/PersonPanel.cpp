@@ -166,13 +166,13 @@ void PersonPanel::showStatistics() {
   m_results->showColumns(resultColumns(m_settings, m_texts, labels,
                                        m_person == nullptr ? SeasonRating() : m_person->season->ownRating()));
   QHeaderView& header = *m_results->horizontalHeader();
-  const int plusMinus = m_results->content().columnCount() - 1;
+  const int plusMinus = resultColumnCount();
   if (header.visualIndex(plusMinus) == plusMinus) {
     header.moveSection(plusMinus, kPlusMinusPlace);
     int rating = kResultOpponentColumn;
     while (seasonColumnOfResult(rating + 1) != seasonColumn("rating").index)
       ++rating;
-    header.moveSection(header.visualIndex(plusMinus - 1), header.visualIndex(rating) + 1);
+    header.moveSection(header.visualIndex(plusMinus + 1), header.visualIndex(rating) + 1);
   }
   const QSignalBlocker quiet(m_statistic);
   const QVariant chosen = m_statistic->count() == 0 ? seasonColumn("PTS").index : m_statistic->currentData();

@@ -152,14 +152,14 @@ TEST_F(SeasonWindowTest, GeneratesTheTablesInTheirInstances) {
   for (const char* name :
        {"lvwSTATjoueurs(0)", "lvwSTATjoueurs(1)", "lvwSTATjoueurs(2)", "lvwSTATjoueurs(3)"}) {
     EXPECT_EQ(table(name).model()->columnCount(), columns + 3) << name;
-    EXPECT_EQ(table(name).horizontalHeader()->visualIndex(columns + 2), 2) << "the team, beside the name";
+    EXPECT_EQ(table(name).horizontalHeader()->visualIndex(columns + 1), 2) << "the team, beside the name";
     EXPECT_TRUE(table(name).isColumnHidden(54)) << name;
     EXPECT_EQ(rows(name), rows("lvwSTATjoueurs(0)")) << name;
   }
   EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, 1).contains(u',')) << "its players by name";
   const int ofLines = columns - 2; // lines have no positions
   EXPECT_EQ(table("lvwSTATlignes(0)").model()->columnCount(), ofLines + 3);
-  EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, ofLines + 2).contains(u'-')) << "its team";
+  EXPECT_TRUE(cell("lvwSTATlignes(0)", 0, ofLines + 1).contains(u'-')) << "its team";
   EXPECT_GT(rows("lvwSTATlignes(2)"), rows("lvwSTATjoueurs(0)"));
   // By rank: the most points first; and each instance the same row divided.
   const double total = cell("lvwSTATjoueurs(0)", 0, kPoints).toDouble();
@@ -432,7 +432,7 @@ TEST_F(SeasonWindowTest, LeadersAreCardsWhoseNamesOpenAPlayer) {
   EXPECT_EQ(find<QLabel>("lblNom").text(), best);
 
   const SeasonTableView& players = table("lvwSTATjoueurs(0)");
-  const int own = players.model()->columnCount() - 3; // before points while on court and the team
+  const int own = players.model()->columnCount() - 1;
   EXPECT_EQ(players.model()->headerData(own, Qt::Horizontal).toString(), QStringLiteral("HEART"));
   EXPECT_FALSE(players.isColumnHidden(own));
   EXPECT_EQ(cell("lvwSTATjoueurs(0)", 0, own),
