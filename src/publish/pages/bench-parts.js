@@ -123,7 +123,7 @@ function theirFive(board) {
         board.theirFive.map(
           (player) => h('tr', null,
             h('th', { scope: 'row', class: 'name' }, h('b', null, player.number), ' ', player.name),
-            h('td', null, t('benchPoints', player.points)), foulCell(player, limit))))));
+            h('td', null, t('benchPointsShort', player.points)), foulCell(player, limit))))));
 }
 
 export function benchTables(board) {

@@ -93,8 +93,7 @@ function draw() {
   const isLost = Boolean(feed?.isLost && feed.board);
   document.title = feed?.board?.us ? `${feed.board.us.name} · ${t('benchTitle')}` : t('benchTitle');
   page.className = isLost ? 'bench lost' : 'bench';
-  const others = team === '' ?
-    null :
+  const others = feed?.board?.us &&
     h('button', { id: 'other', type: 'button', onclick: () => choose(team === '0' ? '1' : '0') },
       t('benchOther', names[team === '0' ? 1 : 0]));
   paint(page, h('p', { class: 'hidden', role: 'alert' }, isLost ? t('noConnection') : ''), content(),

@@ -65,13 +65,14 @@ export function lowerThird(game, asked) {
   const { side, player } = playerOf(game, asked);
   if (!player)
     return null;
-  const team = game.teams[side];
+  const of = game.teams[side].name || abbOf(game, side);
   const limit = game.rules.foulLimit;
   const told = (label, value, kind) => h('div', null, h('dt', null, label), h('dd', { class: kind }, value));
   return h('div', { class: 'panel lower', 'data-key': `lower-${asked}` },
     h('span', { class: `jersey side${side}` }, player.number),
-    h('div', { class: 'who' }, h('p', { class: 'name' }, player.name || team.name),
-      h('p', { class: 'of' }, team.name || abbOf(game, side), player.out && [' · ', h('b', null, t('out'))]),
+    h('div', { class: 'who' }, h('p', { class: 'name' }, player.name || of),
+      h('p', { class: 'of' }, player.name ? of : '', player.name && player.out && ' · ',
+        player.out && h('b', null, t('out'))),
       h('dl', null, told(headWord('pts'), player.PTS),
         told(headWord('fg'), `${player.M - player.FTM}/${player.A - player.FTA}`),
         told(headWord('reb'), player.OR + player.DR), told(headWord('ast'), player.Ast),

@@ -45,3 +45,11 @@ export function valueOf(player, key, isTotal) {
     return value;
   return player.games ? value / player.games : null;
 }
+
+// Whether a share stands on fewer attempts than leaders need, so that one lucky shot leads nobody.
+export function isFew(player, key, { minimum, teams }) {
+  if (!kShots[key])
+    return false;
+  const games = teams.find(({ team }) => team === player.team)?.games ?? 0;
+  return kShots[key](player)[1] < (minimum?.attemptsPerTeamGame ?? 0) * games;
+}

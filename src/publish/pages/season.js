@@ -1,7 +1,7 @@
 // A season's teams, games and players. The figures are the server's; sorting and choosing happens here.
 import { base, h, paint } from './dom.js';
 import { loadWords, number, remember, remembered, t } from './words.js';
-import { kColumns, valueOf } from './season-columns.js';
+import { isFew, kColumns, valueOf } from './season-columns.js';
 import { wearLook } from './look.js';
 import { headWord } from './screens.js';
 import { switches } from './switches.js';
@@ -84,20 +84,25 @@ function gameTable() {
         shown.allGames ? t('seasonFewerGames') : t('seasonAllGames', games.length)));
 }
 
+// Behind all others come those with too few attempts for a share, and last who has no such figure at all,
+// whichever way it is sorted.
+function rankOf({ player, value }) {
+  return value === null ? 2 : isFew(player, shown.sort, season) ? 1 : 0;
+}
+
 function playersShown() {
-  const rated = season.players.filter((player) => !shown.team || player.team === shown.team)
-                  .map((player) => ({ player, value: valueOf(player, shown.sort, shown.isTotal) }));
-  // Who has no such figure comes last, whichever way it is sorted.
   const way = shown.isDown ? 1 : -1;
-  rated.sort(({ value: one }, { value: other }) =>
-               (one === null || other === null ? (one === null) - (other === null) : way * (other - one)));
-  return rated.map(({ player }) => player);
+  return season.players.filter((player) => !shown.team || player.team === shown.team)
+    .map((player) => ({ player, value: valueOf(player, shown.sort, shown.isTotal) }))
+    .sort((one, other) => rankOf(one) - rankOf(other) || way * (other.value - one.value))
+    .map(({ player }) => player);
 }
 
 function cell(player, column) {
   const value = valueOf(player, column.key, shown.isTotal);
   const text = value === null ? '–' : column.show(value, shown.isTotal);
-  return h('td', { class: column.key === shown.sort ? 'key' : '' }, text);
+  const isPale = value !== null && isFew(player, column.key, season);
+  return h('td', { class: column.key === shown.sort ? (isPale ? 'key few' : 'key') : isPale ? 'few' : null }, text);
 }
 
 function headOf({ word, head: name, sign = '' }) {
@@ -148,6 +153,7 @@ function playerTable() {
               h('th', { scope: 'row' }, h('span', { class: 'name' }, `${player.number} ${player.name}`),
                 h('small', null, player.team, !shown.isTotal && player.perGame.underMinimum ? ' *' : '')),
               kColumns.map((column) => cell(player, column))))))),
+    h('p', { class: 'legend' }, t('seasonFew')),
     isMarked && h('p', { class: 'legend' }, t('seasonUnderMinimum')),
     !players.length && h('p', null, t('seasonNobody')));
 }
