@@ -8,6 +8,7 @@
 #include "insight/ShotPartners.h"
 #include "recording/LiveWords.h"
 #include "recording/OnCourt.h"
+#include "settings/Settings.h"
 
 #include <map>
 #include <set>
@@ -131,7 +132,7 @@ class Teller {
     for (const LanguageFacts& facts : kLanguages) {
       const Language language = facts.language;
       std::string& words = play.words[indexOf(language)];
-      words = m_texts.text(kind.wordsText, language);
+      words = nameOf(event.code, m_texts.text(kind.wordsText, language));
       const auto detail = event.detail(detail_key::kKind);
       if (!detail)
         continue;
@@ -140,6 +141,14 @@ class Teller {
           words += ", " + std::string(m_texts.text(known.text, language));
       }
     }
+  }
+
+  // A statistic of the user's own has the name that he gave it.
+  std::string nameOf(EventCode code, std::string_view words) const {
+    const std::string own = code == EventCode::SU1   ? Settings::shownLabel(m_game.details.statisticLabel[0])
+                            : code == EventCode::SU2 ? Settings::shownLabel(m_game.details.statisticLabel[1])
+                                                     : std::string();
+    return own.empty() ? std::string(words) : own;
   }
 
   void addPlay(std::size_t place) {

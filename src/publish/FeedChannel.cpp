@@ -27,9 +27,14 @@ FeedJson scoreOf(FeedJson game) {
     for (FeedJson& team : *teams)
       team.erase("players");
   }
-  if (const auto plays = game.find("plays");
-      plays != game.end() && plays->size() > FeedChannel::kPlaysOfScore)
-    *plays = FeedJson(plays->end() - FeedChannel::kPlaysOfScore, plays->end());
+  const auto plays = game.find("plays");
+  if (plays == game.end())
+    return game;
+  FeedJson last = FeedJson::array();
+  for (auto play = plays->rbegin(); play != plays->rend() && last.size() < FeedChannel::kPlaysOfScore; ++play)
+    if (play->value("kind", "") != "substitution")
+      last.insert(last.begin(), *play);
+  *plays = std::move(last);
   return game;
 }
 

@@ -32,7 +32,7 @@ class FeedChannel : public WebStream {
   [[nodiscard]] std::string id() const;
   using Body = std::shared_ptr<const std::string>;
   [[nodiscard]] Body game() const { return m_game; }   // with its id
-  [[nodiscard]] Body score() const { return m_score; } // without players, flow and most plays
+  [[nodiscard]] Body score() const { return m_score; } // without players, flow, substitutions and earlier plays
   // The changes behind an id, as an answer of its own.
   [[nodiscard]] std::string changesSince(std::string_view lastId) const;
 
