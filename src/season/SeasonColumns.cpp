@@ -26,8 +26,6 @@ int widthOf(const Statistic& statistic) {
     return statistic.kind == ValueKind::Time ? 1411 : 1235;
   return statistic.kind == ValueKind::Percent ? 1499 : 1058;
 }
-return 2;
-} // namespace
 
 std::string positionsText(const std::vector<int>& positions, const Texts& texts) {
   std::string text;
@@ -36,7 +34,7 @@ std::string positionsText(const std::vector<int>& positions, const Texts& texts)
   return text;
 }
 
-} // namespace hooptab
+} // namespace
 
 std::string_view seasonViewName(SeasonView view) {
   constexpr std::string_view kNames[] = {"total", "perGame", "perMinute", "per40"};
@@ -143,61 +141,63 @@ int seasonDecimals(SeasonView view) {
   case SeasonView::PerForty: return 1;
   case SeasonView::PerMinute: break;
   }
+  return 2;
+}
 
-  std::optional<double> seasonPlusMinus(const SeasonRow& row, SeasonView view) {
-    const std::optional<int> sum = row.plusMinus();
-    const auto divided = [&](double count) {
-      return sum && count > 0 ? std::optional(*sum / count) : std::nullopt;
-    };
-    switch (view) {
-    case SeasonView::Totals: break;
-    case SeasonView::PerGame: return divided(row.games);
-    case SeasonView::PerMinute: return divided(row.numbers.seconds / 60.0);
-    case SeasonView::PerForty: return divided(row.numbers.seconds / 2400.0);
-    }
-    return sum;
+std::optional<double> seasonPlusMinus(const SeasonRow& row, SeasonView view) {
+  const std::optional<int> sum = row.plusMinus();
+  const auto divided = [&](double count) {
+    return sum && count > 0 ? std::optional(*sum / count) : std::nullopt;
+  };
+  switch (view) {
+  case SeasonView::Totals: break;
+  case SeasonView::PerGame: return divided(row.games);
+  case SeasonView::PerMinute: return divided(row.numbers.seconds / 60.0);
+  case SeasonView::PerForty: return divided(row.numbers.seconds / 2400.0);
   }
+  return sum;
+}
 
-  std::string seasonPlusMinusText(const SeasonRow& row, SeasonView view) {
-    const std::optional<double> value = seasonPlusMinus(row, view);
-    return value ? signedText(*value, seasonDecimals(view)) : "–";
-  }
+std::string seasonPlusMinusText(const SeasonRow& row, SeasonView view) {
+  const std::optional<double> value = seasonPlusMinus(row, view);
+  return value ? signedText(*value, seasonDecimals(view)) : "–";
+}
 
-  std::string seasonCell(const SeasonRow& row, int column, SeasonView view, const Texts& texts) {
-    switch (column) {
-    case kNumberColumn: return row.number;
-    case kNameColumn: return row.players.empty() ? row.name : row.players;
-    case kGamesColumn: return std::to_string(row.games);
-    case kRankColumn: return std::to_string(row.rank);
-    case kPositionColumn: return positionText(row.positions.empty() ? -1 : row.positions.back(), texts);
-    case kPositionHistoryColumn: return positionsText(row.positions, texts);
-    default: break;
-    }
-    const StatisticValue value = seasonValue(row, column, view);
-    switch (seasonColumn(column).statistic->kind) {
-    case ValueKind::Percent: return valueText(value, ValueKind::Percent);
-    case ValueKind::Time:
-      return view == SeasonView::PerMinute || view == SeasonView::PerForty
-                 ? "--"
-                 : valueText({Module1::roundedQuotient(value.numerator, value.denominator)}, ValueKind::Time);
-    case ValueKind::Count: break;
-    }
-    return Module1::quotientText(value.numerator, value.denominator, seasonDecimals(view));
+std::string seasonCell(const SeasonRow& row, int column, SeasonView view, const Texts& texts) {
+  switch (column) {
+  case kNumberColumn: return row.number;
+  case kNameColumn: return row.players.empty() ? row.name : row.players;
+  case kGamesColumn: return std::to_string(row.games);
+  case kRankColumn: return std::to_string(row.rank);
+  case kPositionColumn: return positionText(row.positions.empty() ? -1 : row.positions.back(), texts);
+  case kPositionHistoryColumn: return positionsText(row.positions, texts);
+  default: break;
   }
+  const StatisticValue value = seasonValue(row, column, view);
+  switch (seasonColumn(column).statistic->kind) {
+  case ValueKind::Percent: return valueText(value, ValueKind::Percent);
+  case ValueKind::Time:
+    return view == SeasonView::PerMinute || view == SeasonView::PerForty
+               ? "--"
+               : valueText({Module1::roundedQuotient(value.numerator, value.denominator)}, ValueKind::Time);
+  case ValueKind::Count: break;
+  }
+  return Module1::quotientText(value.numerator, value.denominator, seasonDecimals(view));
+}
 
-  double seasonSortValue(const SeasonRow& row, int column, SeasonView view) {
-    switch (column) {
-    case kNumberColumn: return jerseySortValue(row.number);
-    case kRankColumn: return row.rank;
-    case kNameColumn:
-    case kPositionColumn:
-    case kPositionHistoryColumn: return 0;
-    default: return sortValue(seasonValue(row, column, view));
-    }
+double seasonSortValue(const SeasonRow& row, int column, SeasonView view) {
+  switch (column) {
+  case kNumberColumn: return jerseySortValue(row.number);
+  case kRankColumn: return row.rank;
+  case kNameColumn:
+  case kPositionColumn:
+  case kPositionHistoryColumn: return 0;
+  default: return sortValue(seasonValue(row, column, view));
   }
+}
 
-  bool seasonColumnIsText(int column) {
-    return column == kNameColumn || column == kPositionColumn || column == kPositionHistoryColumn;
-  }
+bool seasonColumnIsText(int column) {
+  return column == kNameColumn || column == kPositionColumn || column == kPositionHistoryColumn;
+}
 
 } // namespace hooptab
