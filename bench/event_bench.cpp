@@ -42,7 +42,7 @@ void measureCore(int events, const std::filesystem::path& folder) {
     const BenchClock::time_point shared = BenchClock::now();
     const auto value = std::make_shared<const RunningGame>(RunningGame::of(live));
     handed.push_back(milliseconds(BenchClock::now() - shared));
-    if (!hasFive || !isTold || value->counted.game.events.empty())
+    if (!hasFive || !isTold || value->counted.game.events.isEmpty())
       std::exit(EXIT_FAILURE);
   }
   printFigures(("core, behind event " + std::to_string(events)).c_str(), std::move(whole));

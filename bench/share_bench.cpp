@@ -27,7 +27,8 @@ constexpr std::chrono::milliseconds kPace{60}; // faster than anybody talks
 
 // Holds so many streams and reads them until it is killed.
 [[noreturn]] void watch(std::uint16_t port, int viewers) {
-  raiseFileLimit(static_cast<std::size_t>(viewers) + 64);
+  if (raiseFileLimit(static_cast<std::size_t>(viewers) + 64) < static_cast<std::size_t>(viewers))
+    std::_Exit(EXIT_FAILURE);
   const int events = ::epoll_create1(0);
   constexpr std::string_view kRequest = "GET /events HTTP/1.1\r\nHost: 127.0.0.1\r\n\r\n";
   sockaddr_in address = {};
