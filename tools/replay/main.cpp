@@ -1,6 +1,7 @@
-// replay PROGRAM GAME.GAM [--keys] [--french] [--pictures FOLDER]: records a game once more in the program's
-// own window, by mouse or by keys alone, on the display of the environment, and reports what it took and
-// whether the same came out. Exit status 0 when it did, 1 when not, 77 when the game is missing.
+// replay PROGRAM GAME.GAM [--keys] [--french] [--pictures FOLDER] [--share PORT [--halts N]]: records a game
+// once more in the program's own window, by mouse or by keys alone, on the display of the environment, and
+// reports what it took and whether the same came out. Exit status 0 when it did, 1 when not, 77 when the game
+// is missing.
 #include "support/OfficialBox.h"
 #include "support/TemporaryFolder.h"
 #include "tools/replay/Comparison.h"
@@ -8,6 +9,7 @@
 #include "tools/replay/LeagueHand.h"
 #include "tools/replay/MouseHand.h"
 #include "tools/replay/Replay.h"
+#include "tools/replay/Sharing.h"
 
 #include <algorithm>
 #include <chrono>
@@ -28,6 +30,7 @@ struct Options {
   std::string pictures;
   bool isFrench = false;
   bool isByKeys = false;
+  SharingChoice sharing;
 };
 
 Options parse(const std::vector<std::string>& words) {
@@ -40,11 +43,17 @@ Options parse(const std::vector<std::string>& words) {
       options.isByKeys = true;
     else if (*word == "--pictures" && std::next(word) != words.end())
       options.pictures = *++word;
+    else if (*word == "--share" && std::next(word) != words.end())
+      options.sharing.port = *++word;
+    else if (*word == "--halts" && std::next(word) != words.end())
+      options.sharing.halts = std::stoi(*++word);
     else
       names.push_back(*word);
   }
   if (names.size() != 2)
-    throw ReplayFailure("usage: replay PROGRAM GAME.GAM [--keys] [--french] [--pictures FOLDER]");
+    throw ReplayFailure(
+        "usage: replay PROGRAM GAME.GAM [--keys] [--french] [--pictures FOLDER] [--share PORT "
+        "[--halts N]]");
   options.program = names[0];
   options.game = names[1];
   return options;
@@ -116,6 +125,23 @@ void openForInput(const Table& table) {
   table.program.waitUntilActive("frmLIVE");
 }
 
+// The report of it; shared meanwhile, where that was asked for.
+ReplayReport play(const Game& original, const Table& table, Hand& hand, const SharingChoice& choice) {
+  if (choice.port.empty()) {
+    Replay replay(original, table, hand);
+    replay.play();
+    replay.declareOver();
+    return replay.report();
+  }
+  Sharing sharing(table, choice);
+  SharedReplay replay(original, table, hand, sharing);
+  sharing.begin();
+  replay.play();
+  sharing.end();
+  replay.declareOver();
+  return replay.report();
+}
+
 int run(const Options& options) {
   FileSystem files;
   ProfileStore store(files);
@@ -149,9 +175,7 @@ int run(const Options& options) {
     hand = std::make_unique<LeagueHand>(table);
   else
     hand = std::make_unique<MouseHand>(table);
-  Replay replay(original, table, *hand);
-  replay.play();
-  replay.declareOver();
+  const ReplayReport report = play(original, table, *hand, options.sharing);
   person.press("ctrl+q");
   const int status = program.waitForEnd();
   const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
@@ -174,7 +198,7 @@ int run(const Options& options) {
   std::cout << options.game.stem().string() << (options.isFrench ? ", in French" : "") << ": "
             << original.events.size() << " events in " << std::fixed << std::setprecision(1) << took.count()
             << " s\n";
-  print(replay.report(), *hand, original.events.size());
+  print(report, *hand, original.events.size());
   for (const std::string& line : wrong)
     std::cout << line << '\n';
   std::cout << (!wrong.empty() ? "NOT the same game.\n"
