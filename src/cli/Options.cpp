@@ -107,6 +107,8 @@ class Parser {
       serve.address = *address;
     } else if (const auto pass = valueOf(word, "--pass")) {
       serve.passPhrase = *pass;
+    } else if (const auto host = valueOf(word, "--host")) {
+      serve.hosts.push_back(*host);
     } else if (const auto names = valueOf(word, "--names")) {
       serve.names = *names == "number"    ? NameForm::Number
                     : *names == "initial" ? NameForm::Initial

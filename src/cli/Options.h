@@ -46,6 +46,7 @@ struct ServeOptions {
   std::string address = "127.0.0.1";
   int port = 0; // any that is free
   std::string passPhrase;
+  std::vector<std::string> hosts; // under which it may be asked, too: those of a proxy before it
   NameForm names = NameForm::Full;
 };
 

@@ -55,6 +55,7 @@ class Serving {
     web.address = m_options.serve.address;
     web.port = static_cast<std::uint16_t>(m_options.serve.port);
     web.passPhrase = m_options.serve.passPhrase;
+    web.names = m_options.serve.hosts;
     try {
       WebServer server(web, std::move(site));
       tell(output, games, webAddress(web.address, server.port()));

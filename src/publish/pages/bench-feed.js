@@ -37,6 +37,12 @@ export class BenchFeed {
     document.addEventListener('visibilitychange', awake);
     addEventListener('online', awake);
     addEventListener('pageshow', awake);
+    // A browser keeps a page that was left for "back", with its stream, and has six connections in all.
+    addEventListener('pagehide', () => {
+      this.#source?.close();
+      this.#source = null;
+      this.#streamed = 0;
+    });
   }
 
   // Of another bench or in another language from now on; what is shown of the other team goes at once.

@@ -47,12 +47,15 @@ function heads(stayWord) {
       head('+/−'), head(headWord('pts')), head(stayWord)));
 }
 
+// 9:28 as on all other pages.
+const timeText = (time) => time.replace(/^0(?=\d:)/, '');
+
 function stayCell(player) {
   if (player.out)
     return h('td', { class: 'gone' }, t('out'));
   const isLong = player.long;
   return h('td', { class: isLong ? 'long' : 'stay' },
-    isLong && h('span', { role: 'img', 'aria-label': t('benchLong') }, '▲ '), player.stay);
+    isLong && h('span', { role: 'img', 'aria-label': t('benchLong') }, '▲ '), timeText(player.stay));
 }
 
 function playerRow(player, limit, isOnCourt) {
@@ -61,7 +64,7 @@ function playerRow(player, limit, isOnCourt) {
   return h('tr', { class: kind, 'data-key': player.number },
     h('td', { class: 'number' }, h('span', null, player.number)),
     h('th', { scope: 'row', class: 'name' }, player.name || player.number), foulCell(player, limit),
-    h('td', null, isUnused ? '–' : player.minutes), difference(player, !isUnused),
+    h('td', null, isUnused ? '–' : timeText(player.minutes)), difference(player, !isUnused),
     h('td', null, isUnused ? '–' : player.points), stayCell(player));
 }
 
@@ -99,7 +102,7 @@ function fiveRow(five) {
   return h('tr', { class: five.now ? 'now' : null },
     h('th', { scope: 'row', class: 'lineUp' }, five.numbers,
       five.now && [h('span', { 'aria-hidden': 'true' }, ' ●'), ` ${t('benchNow')}`]),
-    h('td', null, five.minutes), difference(five),
+    h('td', null, timeText(five.minutes)), difference(five),
     h('td', { class: five.hasNet ? null : 'few' }, five.net.replace('-', '−')));
 }
 

@@ -53,6 +53,7 @@ export class Feed {
     document.addEventListener('visibilitychange', awake);
     addEventListener('online', awake);
     addEventListener('pageshow', awake);
+    addEventListener('pagehide', () => this.#sleep());
   }
 
   get isLost() {
@@ -214,6 +215,13 @@ export class Feed {
       if (mark.until <= Date.now())
         this.marks.delete(id);
     this.#tell([]);
+  }
+
+  // A browser keeps a page that was left for "back", with its stream, and has six connections in all.
+  #sleep() {
+    this.#source?.close();
+    this.#source = null;
+    this.#beat = 0;
   }
 
   #wake() {
