@@ -264,9 +264,9 @@ class PlayerSheet {
                      {"TR", "TR"},
                      {"eFG%", "eFG%"},
                      {text(Text::Rating), "rating"}};
+    addOwnColumn(table);
     if (hasLineUps())
       table.columns.push_back(plusMinusColumn());
-    addOwnColumn(table);
     const auto add = [&](Text words, const auto& isOfIt) {
       std::vector<GameResult> some;
       CourtShare onCourt;
@@ -286,10 +286,10 @@ class PlayerSheet {
                    average(sum.numbers.rebounds(), some.size()),
                    share("eFG", sum.numbers),
                    average(sum.numbers.rating(), some.size())};
-      if (hasLineUps())
-        row.cells.push_back(plusMinusCell(onCourt));
       if (m_ownRating.isThere())
         row.cells.push_back(own(sum, SeasonView::PerGame));
+      if (hasLineUps())
+        row.cells.push_back(plusMinusCell(onCourt));
     };
     const auto isOn = [&](Side side) {
       return [this, side](std::size_t i) { return m_results[i].side == side; };

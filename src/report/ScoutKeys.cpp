@@ -21,7 +21,7 @@ constexpr int kRegularSeconds = 10 * 60; // in a game
 constexpr double kGoodThrees = 1.0 / 3;
 constexpr double kPoorThrees = 0.28;
 constexpr double kPoorThrows = 0.7;
-constexpr double kClearSide = 0.6; // of lay-ups
+constexpr double kClearSide = 0.6; // of layups
 
 using Weighed = std::optional<std::pair<double, double>>;
 

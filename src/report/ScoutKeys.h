@@ -41,7 +41,7 @@ class ScoutKeys {
   // Three at most; one that says so where nothing can be said.
   [[nodiscard]] std::vector<Sentence> sentences() const;
 
-  // Which side he drives to, of his lay-ups: the share of those at the right, 0.5 for half. Nothing of few.
+  // Which side he drives to, of his layups: the share of those at the right, 0.5 for half. Nothing of few.
   [[nodiscard]] static std::optional<double> driveShare(const BoxNumbers& numbers);
 
  private:

@@ -41,7 +41,7 @@ TEST_F(ScoutKeysTest, EachSentenceNamesWhomItIsAboutAndTellsItsCounts) {
       player("14 Peace", {{Counter::F3M, 7}, {Counter::F3A, 15}}),
       player("4 Ibar", {{Counter::FTM, 5}, {Counter::FTA, 8}, {Counter::TO, 10}})};
   EXPECT_EQ(said(players, {{5, 90, 80}, {5, 70, 95}}),
-            "[2 Sark] scores 7.2 a game on 9.0 shots (18/45, eFG 40%); lay-ups 67% (10/15) right.\n"
+            "[2 Sark] scores 7.2 a game on 9.0 shots (18/45, eFG 40%); layups 67% (10/15) right.\n"
             "[Do not leave 14 Peace] at the line: 7/15 threes (47%). "
             "[Foul 4 Ibar] if you must: 5/8 free throws (63%).\n"
             "[Period 2] is their worst (−25 over 5 games), period 1 their best (+10). "
@@ -85,9 +85,9 @@ TEST_F(ScoutKeysTest, ASideIsToldOfDrivesThatHaveOne) {
   const auto driver = [](int left, int right) {
     return player("4 A", {{Counter::FGA, 20}, {Counter::LLA, left}, {Counter::LRA, right}});
   };
-  EXPECT_NE(said({driver(6, 2)}).find("lay-ups 75% (6/8) left"), std::string::npos);
-  EXPECT_EQ(said({driver(6, 5)}).find("lay-ups"), std::string::npos) << "hardly a side";
-  EXPECT_EQ(said({driver(7, 0)}).find("lay-ups"), std::string::npos);
+  EXPECT_NE(said({driver(6, 2)}).find("layups 75% (6/8) left"), std::string::npos);
+  EXPECT_EQ(said({driver(6, 5)}).find("layups"), std::string::npos) << "hardly a side";
+  EXPECT_EQ(said({driver(7, 0)}).find("layups"), std::string::npos);
   EXPECT_EQ(ScoutKeys::driveShare(driver(6, 2).numbers), 0.25);
 }
 

@@ -88,7 +88,9 @@ export function periodName(period, rules) {
   const regular = rules?.periods ?? 4;
   if (period > regular)
     return t('overtime', period - regular);
-  return t(regular === 2 ? 'half' : 'period', period, ordinal(period));
+  if (regular === 2)
+    return t('half', period, ordinal(period));
+  return t('period', lang === 'fr' ? period : ordinal(period)); // French numbers its periods
 }
 
 // A day as the language writes it; what is no day stays as it stands.
