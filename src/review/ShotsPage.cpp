@@ -2,6 +2,7 @@
 
 #include "appearance/Card.h"
 #include "appearance/ElidedLabel.h"
+#include "appearance/Fields.h"
 #include "appearance/Icons.h"
 #include "appearance/Theme.h"
 #include "appearance/relabel.h"
@@ -13,6 +14,7 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QLabel>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <algorithm>
@@ -42,8 +44,6 @@ ShotsPage::ShotsPage(const Settings& settings, const Texts& texts, QWidget* pare
   m_average->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   for (std::size_t i = 0; i < std::size(kAverages); ++i)
     m_average->addItem(QString());
-  setAccessibleNumber(*m_average, Text::HexagonLegend);
-  setToolTipNumber(*m_average, Text::HexagonLegend);
   m_noSeason->setObjectName(QStringLiteral("lblNOSEASON"));
   m_noSeason->setForegroundRole(QPalette::PlaceholderText);
   setTextNumber(*m_noSeason, Text::AgainstNeedsSeason);
@@ -55,6 +55,8 @@ ShotsPage::ShotsPage(const Settings& settings, const Texts& texts, QWidget* pare
   head->setSpacing(kGap);
   head->addWidget(m_byShot);
   head->addWidget(m_byZone);
+  m_against = captionFor(*m_average, Text::CompareFirst);
+  head->addWidget(m_against);
   head->addWidget(m_average);
   head->addWidget(m_noSeason, 1);
   head->addStretch();
@@ -133,6 +135,7 @@ void ShotsPage::showShots() {
     return;
   const bool byZone = m_byZone->isChecked();
   m_average->setVisible(byZone);
+  m_against->setVisible(byZone);
   m_noSeason->hide();
   for (const Side team : kSides) {
     m_courts[team]->showShots(toQt(m_game->game.details.name[team]), shotsOf(team, false), *m_game);

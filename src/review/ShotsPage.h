@@ -51,7 +51,8 @@ class ShotsPage : public QWidget {
   QToolButton* m_byShot;
   QToolButton* m_byZone;
   QComboBox* m_average;
-  QLabel* m_noSeason; // says how to get one
+  QLabel* m_against = nullptr; // its caption
+  QLabel* m_noSeason;          // says how to get one
   SignLegend* m_legend;
   PerSide<QComboBox*> m_players = {};
   PerSide<TeamCourt*> m_courts = {};

@@ -92,7 +92,8 @@ function fit() {
 function runOf(game) {
   const isTold = game.run && game.run.points >= kRunTold;
   return h(
-    'div', { class: 'run' }, isTold && [tag(game, game.run.team), h('b', null, `${game.run.points}–0`)]);
+    'div', { class: 'run' }, isTold && [tag(game, game.run.team), h('b', null, `${game.run.points}–0`),
+      h('span', null, t('runPoints', game.run.points))]);
 }
 
 function periodTable(game, left, right) {
