@@ -76,15 +76,23 @@ class Window(BrowserCase):
         self.browser.switch(self.windows[""])
         wait_until_same(self, wanted, score)
         self.browser.switch(self.windows["box"])
-        wait_until_same(self, {number: (name, self.still(cells)) for number, (name, cells)
-                               in shown.box_wanted(game["teams"][0]).items()},
-                        lambda: {number: (name, self.still(cells)) for number, (name, cells)
-                                 in (shown.box_shown(self.browser) or {}).items()})
+        rows = {number: (name, self.still(cells)) for number, (name, cells)
+                in shown.box_wanted(game["teams"][0]).items()}
+        wait_until_same(self, rows, lambda: self.without_newcomers(rows, {
+            number: (name, self.still(cells)) for number, (name, cells)
+            in (shown.box_shown(self.browser) or {}).items()}, lambda row: row[1]))
         self.browser.switch(self.windows["bench"])
-        wait_until_same(self, {number: [cells[0], *cells[2:]] for number, cells
-                               in shown.bench_wanted(game["teams"][1]).items()},
-                        lambda: {number: [cells[0], *cells[2:]] for number, cells
-                                 in (shown.bench_shown(self.browser) or {}).items()})
+        benches = {number: [cells[0], *cells[2:]] for number, cells
+                   in shown.bench_wanted(game["teams"][1]).items()}
+        wait_until_same(self, benches, lambda: self.without_newcomers(benches, {
+            number: [cells[0], *cells[2:]] for number, cells
+            in (shown.bench_shown(self.browser) or {}).items()}, lambda row: row))
+
+    @staticmethod
+    def without_newcomers(wanted, found, cells_of):
+        """Who has just come in has a line of nothing, and no second yet by which the file tells that he played."""
+        return {number: row for number, row in found.items()
+                if number in wanted or set(cells_of(row)) - {"0", "0/0", "–", ""}}
 
     @staticmethod
     def still(cells):
