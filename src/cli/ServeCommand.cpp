@@ -84,20 +84,32 @@ class Serving {
       m_complain(std::string(m_texts.text(Text::ServeCannotWatch)));
     std::signal(SIGTERM, end);
     std::signal(SIGINT, end);
+    // A season of thousands of games is not read for each basket of one of them.
+    constexpr std::chrono::seconds kSeasonAnew{10};
+    auto seasonAt = std::chrono::steady_clock::now();
+    bool isSeasonOld = false;
     while (isEnding == 0) {
       constexpr std::chrono::milliseconds kLongest{500}; // a signal between two waits is not missed for long
       const std::vector<std::string> changed = watch.wait(kLongest);
-      if (changed.empty())
+      if (!changed.empty()) {
+        isSeasonOld = true;
+        tellChanged(server, changed);
+      }
+      if (!isSeasonOld || std::chrono::steady_clock::now() - seasonAt < kSeasonAnew)
         continue;
-      server.post([changed](WebSource& source) {
-        auto& site = static_cast<WebSite&>(source); // which is what this server was given
-        auto& shelf = static_cast<GameFiles&>(*site.shelf());
-        for (const std::string& name : shelf.look(changed))
-          site.refresh(name);
-      });
+      isSeasonOld = false;
+      seasonAt = std::chrono::steady_clock::now();
       if (const auto json = season())
         server.post([json](WebSource& source) { static_cast<WebSite&>(source).setSeason(json); });
     }
+  }
+  static void tellChanged(WebServer& server, const std::vector<std::string>& changed) {
+    server.post([changed](WebSource& source) {
+      auto& site = static_cast<WebSite&>(source); // which is what this server was given
+      auto& shelf = static_cast<GameFiles&>(*site.shelf());
+      for (const std::string& name : shelf.look(changed))
+        site.refresh(name);
+    });
   }
 
   // Of the folder that is served; null where files are.

@@ -45,29 +45,56 @@ void followClock(WebGame::Moment& moment, RunningGame& game, const ProfileText& 
 
 GameFiles::GameFiles(std::vector<std::string> paths, std::function<std::int64_t()> now)
     : m_paths(std::move(paths)), m_now(std::move(now)) {
-  list();
-}
-
-void GameFiles::list() {
-  m_files.clear();
-  m_listings.clear();
-  m_faults.clear();
   for (const std::string& path : m_paths) {
     std::error_code error;
-    std::vector<std::string> found = {path};
-    if (std::filesystem::is_directory(path, error))
-      found = findGames(m_system, {path, false}).paths;
-    for (const std::string& file : found) {
-      GameFileProblem problem = GameFileProblem::None;
-      const std::optional<WebGame::Moment> moment = read(file, problem);
-      if (!moment) {
-        m_faults.push_back({file, problem});
-        continue;
-      }
-      m_files.push_back({file, freeName(file)});
-      m_listings.push_back(webListing(m_files.back().name, *moment->game));
+    if (!std::filesystem::is_directory(path, error)) {
+      take(path);
+      continue;
     }
+    for (const std::string& file : findGames(m_system, {path, false}).paths)
+      take(file);
   }
+  sortListings();
+}
+
+// A file that is known keeps its name.
+void GameFiles::take(const std::string& path) {
+  GameFileProblem problem = GameFileProblem::None;
+  const std::optional<WebGame::Moment> moment = read(path, problem);
+  std::erase_if(m_faults, [&path](const Fault& fault) { return fault.path == path; });
+  if (!moment) {
+    m_faults.push_back({path, problem});
+    return;
+  }
+  const auto known = std::ranges::find(m_files, path, &File::path);
+  const std::string name = known == m_files.end() ? freeName(path) : known->name;
+  if (known == m_files.end())
+    m_files.push_back({path, name});
+  std::erase_if(m_listings, [&name](const WebListing& listing) { return listing.name == name; });
+  m_listings.push_back(webListing(name, *moment->game));
+}
+
+void GameFiles::drop(const std::string& path) {
+  const auto known = std::ranges::find(m_files, path, &File::path);
+  if (known == m_files.end())
+    return;
+  std::erase_if(m_listings, [&known](const WebListing& listing) { return listing.name == known->name; });
+  m_files.erase(known);
+}
+
+bool GameFiles::isServed(const std::string& path) const {
+  const std::string folder = path.substr(0, path.find_last_of('/') + 1);
+  const std::string ending = path.substr(std::min(path.rfind('.'), path.size()));
+  const bool isGame =
+      ending.size() == 4 && std::ranges::equal(ending, std::string_view(".gam"), [](char one, char other) {
+        return (one | 0x20) == other || one == other;
+      });
+  return std::ranges::any_of(m_paths, [&](const std::string& served) {
+    return served == path || (isGame && (served == folder || served + '/' == folder));
+  });
+}
+
+void GameFiles::sortListings() {
   std::ranges::stable_sort(m_listings, std::ranges::greater(), &WebListing::date);
 }
 
@@ -83,16 +110,23 @@ std::string GameFiles::freeName(const std::string& path) const {
 
 std::vector<std::string> GameFiles::look(const std::vector<std::string>& changed) {
   std::vector<std::string> names;
-  const auto take = [&] {
-    for (const File& file : m_files) {
-      if (std::ranges::find(changed, file.path) != changed.end() &&
-          std::ranges::find(names, file.name) == names.end())
-        names.push_back(file.name);
-    }
+  const auto note = [&](const std::string& path) {
+    const auto known = std::ranges::find(m_files, path, &File::path);
+    if (known != m_files.end() && std::ranges::find(names, known->name) == names.end())
+      names.push_back(known->name);
   };
-  take(); // those that go
-  list();
-  take();
+  for (const std::string& path : changed) {
+    if (!isServed(path))
+      continue;
+    note(path);
+    std::error_code error;
+    if (std::filesystem::exists(path, error))
+      take(path);
+    else
+      drop(path);
+    note(path);
+  }
+  sortListings();
   return names;
 }
 

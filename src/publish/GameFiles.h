@@ -20,8 +20,8 @@ class GameFiles : public WebShelf {
   // Files, and folders without their sub-folders. `now`: the wall clock, in milliseconds since 1970.
   GameFiles(std::vector<std::string> paths, std::function<std::int64_t()> now);
 
-  // What has become of the files: reads the list anew, and names the games whose file at one of these paths
-  // has changed, came or went.
+  // Reads the games at these paths that are served or stand in a folder that is, and no others: the names of
+  // those that have changed, came or went.
   std::vector<std::string> look(const std::vector<std::string>& changed);
   // Those that could not be read, with their reason; the others are given all the same.
   struct Fault {
@@ -39,7 +39,10 @@ class GameFiles : public WebShelf {
     std::string path;
     std::string name;
   };
-  void list();
+  void take(const std::string& path);
+  void drop(const std::string& path);
+  [[nodiscard]] bool isServed(const std::string& path) const;
+  void sortListings();
   [[nodiscard]] std::optional<WebGame::Moment> read(const std::string& path, GameFileProblem& problem);
   [[nodiscard]] std::string freeName(const std::string& path) const;
 

@@ -131,9 +131,10 @@ void WebSite::refresh(const std::string& name) {
   WebGame* game = known(name);
   if (game == nullptr || m_shelf == nullptr)
     return;
+  // One that cannot be read for a moment, while another program writes it, stays as it was.
   if (const std::optional<WebGame::Moment> moment = m_shelf->load(name))
     game->show(*moment);
-  else
+  else if (std::ranges::find(m_shelf->games(), name, &WebListing::name) == m_shelf->games().end())
     std::erase_if(m_games, [&name](const Named& named) { return named.name == name; });
 }
 

@@ -104,6 +104,10 @@ TEST_F(WebSiteTest, GamesOfAFolderAreReadWhenTheyAreAskedForAndFollowTheirFiles)
   for (const std::string& name : files.look({folder.path("b é.GAM")}))
     site.refresh(name);
   EXPECT_EQ(FeedJson::parse(body(site, "/g/b/api/game"))["teams"][1]["points"], 3);
+  folder.write("b é.GAM", "half a");
+  for (const std::string& name : files.look({folder.path("b é.GAM")}))
+    site.refresh(name);
+  EXPECT_EQ(FeedJson::parse(body(site, "/g/b/api/game"))["teams"][1]["points"], 3) << "it is being written";
   std::filesystem::remove(folder.path("b é.GAM"));
   for (const std::string& name : files.look({folder.path("b é.GAM")}))
     site.refresh(name);
