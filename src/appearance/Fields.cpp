@@ -6,6 +6,7 @@
 #include "storage/codepage.h"
 
 #include <QAbstractItemView>
+#include <QBoxLayout>
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QItemSelectionModel>
@@ -84,6 +85,15 @@ QPushButton* iconButton(const char* name, Text text, Text toolTip, const char* i
     press->setContext(Qt::WidgetShortcut);
     QObject::connect(press, &QShortcut::activated, button, &QPushButton::click);
   }
+  return button;
+}
+
+QPushButton* addAnswer(QBoxLayout& answers, const char* name, Text text, QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  button->setObjectName(QLatin1String(name));
+  setTextNumber(*button, text);
+  setToolTipNumber(*button, text);
+  answers.addWidget(button);
   return button;
 }
 

@@ -10,6 +10,7 @@
 #include <string>
 
 class QAbstractItemView;
+class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -22,6 +23,8 @@ namespace hooptab {
 // A push button with icon; Enter presses it where it has the focus, outside dialogs too.
 [[nodiscard]] QPushButton* iconButton(const char* name, Text text, Text toolTip, const char* iconName,
                                       QWidget* parent);
+// One of the answers in the last row of a dialog, at its right end.
+QPushButton* addAnswer(QBoxLayout& answers, const char* name, Text text, QWidget* parent);
 // A line above a window's content that stands out, hidden at first.
 [[nodiscard]] QLabel* noticeLabel(QWidget* parent);
 

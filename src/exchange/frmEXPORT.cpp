@@ -114,18 +114,12 @@ void frmEXPORT::addFields() {
 void frmEXPORT::addAnswers() {
   auto* answers = new QHBoxLayout;
   answers->addStretch();
-  const auto addButton = [&](const char* name, Text text, auto act) {
-    auto* button = new QPushButton(this);
-    button->setObjectName(QLatin1String(name));
-    setTextNumber(*button, text);
-    setToolTipNumber(*button, text);
-    connect(button, &QPushButton::clicked, this, act);
-    answers->addWidget(button);
-    return button;
-  };
-  m_export = addButton("cmdEXPORT", Text::Export, &frmEXPORT::write);
+  m_export = addAnswer(*answers, "cmdEXPORT", Text::Export, this);
   m_export->setDefault(true);
-  addButton("cmdCANCEL", Text::Cancel, &QDialog::reject)->setAutoDefault(false);
+  connect(m_export, &QPushButton::clicked, this, &frmEXPORT::write);
+  QPushButton* cancel = addAnswer(*answers, "cmdCANCEL", Text::Cancel, this);
+  cancel->setAutoDefault(false);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   static_cast<QVBoxLayout*>(layout())->addLayout(answers);
 }
 

@@ -121,18 +121,12 @@ void frmWEEKEND::addProgress(QVBoxLayout& layout) {
 void frmWEEKEND::addAnswers(QVBoxLayout& layout) {
   auto* answers = new QHBoxLayout;
   answers->addStretch();
-  const auto addButton = [&](const char* name, Text text, auto act) {
-    auto* button = new QPushButton(this);
-    button->setObjectName(QLatin1String(name));
-    setTextNumber(*button, text);
-    setToolTipNumber(*button, text);
-    connect(button, &QPushButton::clicked, this, act);
-    answers->addWidget(button);
-    return button;
-  };
-  m_write = addButton("cmdWRITE", Text::WeekendWrite, &frmWEEKEND::write);
+  m_write = addAnswer(*answers, "cmdWRITE", Text::WeekendWrite, this);
   m_write->setDefault(true);
-  addButton("cmdCANCEL", Text::Cancel, &frmWEEKEND::reject)->setAutoDefault(false);
+  connect(m_write, &QPushButton::clicked, this, &frmWEEKEND::write);
+  QPushButton* cancel = addAnswer(*answers, "cmdCANCEL", Text::Cancel, this);
+  cancel->setAutoDefault(false);
+  connect(cancel, &QPushButton::clicked, this, &frmWEEKEND::reject);
   layout.addLayout(answers);
 }
 

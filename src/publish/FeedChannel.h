@@ -31,8 +31,10 @@ class FeedChannel : public WebStream {
   // The id of the last change: EPOCH-NUMBER. The epoch is this channel's own.
   [[nodiscard]] std::string id() const;
   using Body = std::shared_ptr<const std::string>;
-  [[nodiscard]] Body game() const { return m_game; }   // with its id
-  [[nodiscard]] Body score() const { return m_score; } // without players, flow, substitutions and earlier plays
+  [[nodiscard]] Body game() const { return m_game; } // with its id
+  [[nodiscard]] Body score() const {
+    return m_score;
+  } // without players, flow, substitutions and earlier plays
   // The changes behind an id, as an answer of its own.
   [[nodiscard]] std::string changesSince(std::string_view lastId) const;
 

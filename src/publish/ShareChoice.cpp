@@ -103,6 +103,12 @@ bool areMinors(const GameDetails& details) {
          std::ranges::any_of(kSides, [&details](Side team) { return isYoung(details.category[team]); });
 }
 
+NameForm offeredNames(std::string_view chosen, const GameDetails& details) {
+  if (!chosen.empty())
+    return readNameForm(chosen);
+  return areMinors(details) ? NameForm::Number : NameForm::Full;
+}
+
 std::string categoriesOf(const GameDetails& details) {
   const std::string& visitors = details.category[Side::Visitor];
   const std::string& home = details.category[Side::Home];

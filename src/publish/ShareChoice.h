@@ -32,6 +32,9 @@ struct ShareChoice {
 // Whether a game's rules or a team's category say that its players are under age: rules for young people, an
 // age below 18 in a category ("U16", "M14", "16U"), or the name of such an age group in French.
 [[nodiscard]] bool areMinors(const GameDetails& details);
+// What is offered: what was chosen for these categories before (empty: nothing), else numbers alone for
+// minors.
+[[nodiscard]] NameForm offeredNames(std::string_view chosen, const GameDetails& details);
 // Both teams' categories, which names are remembered by; empty where there are none.
 [[nodiscard]] std::string categoriesOf(const GameDetails& details);
 

@@ -18,7 +18,9 @@ bool areOneGame(const WebGame::Shown& before, const WebGame::Shown& after) {
     return !before && !after;
   const GameDetails& one = before->counted.game.details;
   const GameDetails& other = after->counted.game.details;
-  return one.id == other.id && one.date == other.date && std::ranges::all_of(kSides, [&](Side team) {
+  // A game of an older program gets its id when somebody records it again.
+  const bool haveOneId = one.id == other.id || one.id.empty() || other.id.empty();
+  return haveOneId && one.date == other.date && std::ranges::all_of(kSides, [&](Side team) {
            return one.abbreviation[team] == other.abbreviation[team];
          });
 }

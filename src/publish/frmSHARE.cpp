@@ -94,6 +94,7 @@ void frmSHARE::addFields() {
     m_grid->addWidget(label, m_grid->rowCount(), 1);
     return label;
   };
+  // In the order in which they stand, for that is the order of the Tab key.
   m_switch = named(new QCheckBox(this), "chkSHARE");
   setTextNumber(*m_switch, Text::ShareSwitch);
   Theme::setType(*m_switch, Type::Name);
@@ -102,16 +103,16 @@ void frmSHARE::addFields() {
   m_portField = named(new QSpinBox(this), "spnPORT");
   m_portField->setRange(kLeastPort, kMostPort);
   m_portField->setGroupSeparatorShown(false);
-  m_delay = named(new QSpinBox(this), "spnDELAY");
-  m_delay->setRange(0, ShareChoice::kMostDelay);
-  m_delay->setSuffix(QStringLiteral(" s"));
+  m_pass = named(new QLineEdit(this), "txtPASS");
   m_names = named(new QComboBox(this), "cmbNAMES");
   for (const Text words : {Text::ShareNamesFull, Text::ShareNamesInitial, Text::ShareNamesNumber})
     m_names->addItem(caption(m_texts, words));
+  m_delay = named(new QSpinBox(this), "spnDELAY");
+  m_delay->setRange(0, ShareChoice::kMostDelay);
+  m_delay->setSuffix(QStringLiteral(" s"));
   m_first = named(new QComboBox(this), "cmbFIRST");
   for (const Text words : {Text::Visitor, Text::Home})
     m_first->addItem(caption(m_texts, words));
-  m_pass = named(new QLineEdit(this), "txtPASS");
   addRow(*m_network, Text::ShareNetwork);
   addRow(*m_portField, Text::SharePort);
   addRow(*m_pass, Text::SharePass);

@@ -59,17 +59,16 @@ std::string ShareDesk::categories() const {
   return details() == nullptr ? std::string() : categoriesOf(*details());
 }
 
-// Names by the teams that play: what was chosen for them, else numbers alone where they are under age.
 ShareChoice ShareDesk::remembered() const {
   const std::string kept = m_workshop.memory.layout(kLayout);
   ShareChoice choice = m_choice != nullptr ? *m_choice : readShareChoice(kept);
   if (m_choice == nullptr && kept.empty())
     choice.address.clear(); // the first network that is there
   const std::string chosen = m_workshop.memory.layout(std::string(kNames) + categories());
-  if (!chosen.empty())
+  if (details() != nullptr)
+    choice.feed.names = offeredNames(chosen, *details());
+  else if (!chosen.empty())
     choice.feed.names = readNameForm(chosen);
-  else if (details() != nullptr)
-    choice.feed.names = areMinors(*details()) ? NameForm::Number : NameForm::Full;
   return choice;
 }
 

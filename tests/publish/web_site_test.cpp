@@ -127,6 +127,11 @@ TEST(ShareChoice, MinorsAreKnownByRulesAndCategories) {
   for (const char* category : {"AAA", "U18", "U20", "SENIOR", "M1 2014", "Division 3", ""})
     EXPECT_FALSE(play(category, "AAA")) << category;
   EXPECT_TRUE(play("", "", "FIBAJEUNES"));
+  GameDetails young;
+  young.category = {"U16", "U16"};
+  EXPECT_EQ(offeredNames("", young), NameForm::Number);
+  EXPECT_EQ(offeredNames("full", young), NameForm::Full) << "somebody chose it for them";
+  EXPECT_EQ(offeredNames("", {}), NameForm::Full);
 }
 
 TEST(ShareChoice, IsRememberedWithoutItsPassPhrase) {
